@@ -1,0 +1,40 @@
+# Small functions that every room uses, so that a room's own CMakeLists.txt is a list of its files.
+
+add_library(veldmark_options INTERFACE)
+target_compile_options(veldmark_options INTERFACE -Wall -Wextra -Wconversion -Wshadow)
+target_compile_definitions(veldmark_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS
+    VELDMARK_VERSION="${PROJECT_VERSION}")
+if(VELDMARK_STRICT)
+    target_compile_options(veldmark_options INTERFACE -Werror)
+endif()
+if(VELDMARK_SANITIZE)
+    target_compile_options(veldmark_options INTERFACE
+        -fsanitize=${VELDMARK_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    target_link_options(veldmark_options INTERFACE -fsanitize=${VELDMARK_SANITIZE})
+endif()
+
+# veldmark_library(ROOM SOURCES a.cpp… ROOMS lower-room… LINK other-library…)
+# One room: a static library whose headers are included as "room/Header.h".
+function(veldmark_library room)
+    cmake_parse_arguments(arg "" "" "SOURCES;ROOMS;LINK" ${ARGN})
+    add_library(veldmark_${room} STATIC ${arg_SOURCES})
+    target_include_directories(veldmark_${room} PUBLIC "${CMAKE_SOURCE_DIR}/src")
+    list(TRANSFORM arg_ROOMS PREPEND veldmark_)
+    target_link_libraries(veldmark_${room}
+        PUBLIC veldmark_options ${arg_ROOMS} ${arg_LINK} Qt6::Core)
+endfunction()
+
+# veldmark_test(room/NameTest ROOMS room… LINK library… SOURCES extra.cpp…)
+# One Qt Test program from tests/unit/room/NameTest.cpp, known to CTest as unit/room/NameTest.
+function(veldmark_test path)
+    cmake_parse_arguments(arg "" "" "ROOMS;LINK;SOURCES" ${ARGN})
+    get_filename_component(name ${path} NAME)
+    add_executable(${name} "${CMAKE_SOURCE_DIR}/tests/unit/${path}.cpp" ${arg_SOURCES})
+    list(TRANSFORM arg_ROOMS PREPEND veldmark_)
+    target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/tests")
+    target_link_libraries(${name} PRIVATE veldmark_support ${arg_ROOMS} ${arg_LINK} Qt6::Test)
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+    add_test(NAME unit/${path} COMMAND ${name})
+    set_tests_properties(unit/${path} PROPERTIES TIMEOUT 120 LABELS unit)
+endfunction()
