@@ -1,0 +1,129 @@
+#include "platform/PlatformProfile.h"
+
+#include <QFile>
+#include <QRegularExpression>
+
+namespace veldmark {
+
+namespace {
+
+QString osReleaseValue(const QString &osRelease, const QString &key)
+{
+    for (const QString &line : osRelease.split(u'\n')) {
+        if (!line.startsWith(key + u'='))
+            continue;
+        QString value = line.mid(key.size() + 1).trimmed();
+        if (value.size() >= 2 && (value.startsWith(u'"') || value.startsWith(u'\''))
+            && value.endsWith(value.front()))
+            value = value.mid(1, value.size() - 2);
+        return value;
+    }
+    return {};
+}
+
+QString readText(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.read(65536)) : QString();
+}
+
+const QString unknownSystem = QStringLiteral("your package manager");
+
+} // namespace
+
+QString linuxInstallHint(const QString &osRelease)
+{
+    const QStringList names =
+        (osReleaseValue(osRelease, QStringLiteral("ID")) + u' '
+         + osReleaseValue(osRelease, QStringLiteral("ID_LIKE")))
+            .toLower().split(u' ', Qt::SkipEmptyParts);
+    for (const QString &name : names) {
+        if (name == QLatin1String("debian") || name == QLatin1String("ubuntu"))
+            return QStringLiteral("sudo apt install tor tor-geoipdb");
+        if (name == QLatin1String("fedora") || name == QLatin1String("rhel")
+            || name == QLatin1String("centos"))
+            return QStringLiteral("sudo dnf install tor");
+        if (name == QLatin1String("arch"))
+            return QStringLiteral("sudo pacman -S tor");
+        if (name == QLatin1String("suse") || name == QLatin1String("opensuse")
+            || name.startsWith(QLatin1String("opensuse-")))
+            return QStringLiteral("sudo zypper install tor");
+    }
+    return unknownSystem;
+}
+
+PlatformProfile PlatformProfile::linux(const Places &places)
+{
+    const auto at = [&places](const char *path) { return places.root + QLatin1String(path); };
+
+    PlatformProfile profile;
+    profile.name = QStringLiteral("linux");
+    profile.places = places;
+
+    QString osRelease = readText(at("/etc/os-release"));
+    if (osRelease.isEmpty())
+        osRelease = readText(at("/usr/lib/os-release"));
+    profile.computer = QStringLiteral("This computer");
+    profile.onComputer = QStringLiteral("on this computer");
+    profile.fileManager = QStringLiteral("the file manager");
+    profile.torInstallHint = linuxInstallHint(osRelease);
+    profile.torMissingText = profile.torInstallHint == unknownSystem
+        ? QStringLiteral("Tor isn't installed. Install it with your package manager or set its "
+                         "location in Settings.")
+        : QStringLiteral("Tor isn't installed. Install it with your package manager (%1) or set "
+                         "its location in Settings.").arg(profile.torInstallHint);
+
+    profile.sessionMarker = at("/var/lib/veldmark/state/active");
+    profile.installedHelper = at("/usr/local/libexec/veldmark/veldmark-helper.sh");
+    profile.sudoersRule = at("/etc/sudoers.d/veldmark");
+    profile.runDirectory = at("/var/lib/veldmark/run");
+    profile.launcherOutput = QStringLiteral("launcher.out");
+    profile.launcherPrefix = QStringLiteral("launcher: ");
+    profile.torAccount = QStringLiteral("_veldmark");
+    profile.helperCandidates = {places.applicationDirectory + QStringLiteral("/veldmark-helper.sh"),
+                                at("/usr/share/veldmark/veldmark-helper.sh")};
+    const QString helper = profile.bundledHelper();
+    profile.manualRestoreCommand = QStringLiteral("sudo bash %1 disconnect")
+        .arg(helper.isEmpty() ? profile.helperCandidates.constLast() : helper);
+
+    profile.torCandidates = {at("/usr/bin/tor"), at("/usr/local/bin/tor"), at("/usr/sbin/tor"),
+                             at("/home/linuxbrew/.linuxbrew/bin/tor")};
+    profile.transportDirectories = {at("/usr/bin"), at("/usr/local/bin")};
+    profile.gnupgCandidates = {at("/usr/bin"), at("/usr/local/bin")};
+    profile.sudo = at("/usr/bin/sudo");
+    profile.unzip = at("/usr/bin/unzip");
+    profile.promptKind = PromptKind::PolicyKit;
+    profile.promptProgram = at("/usr/bin/pkexec");
+    profile.promptText =
+        QStringLiteral("Veldmark needs administrator access to manage Tor routing on this computer.");
+
+    profile.torBrowserRoots = {
+        {places.home + QStringLiteral("/.local/share/torbrowser/tbb/x86_64/tor-browser"),
+         QStringLiteral("Tor Browser")},
+        {places.home + QStringLiteral("/tor-browser"), QStringLiteral("Tor Browser")},
+        {at("/opt/tor-browser"), QStringLiteral("Tor Browser")},
+    };
+    profile.bundleDirectory = places.dataHome + QStringLiteral("/veldmark/TorExpertBundle");
+    profile.bundleArchivePrefix = QStringLiteral("tor-expert-bundle-linux-%1-").arg(places.machine);
+
+    profile.settingsFile = places.configHome + QStringLiteral("/veldmark/veldmark.conf");
+    profile.autostartFile = places.configHome + QStringLiteral("/autostart/veldmark.desktop");
+    const QString zshrc = places.home + QStringLiteral("/.zshrc");
+    const bool zshInstalled = QFile::exists(at("/usr/bin/zsh")) || QFile::exists(at("/bin/zsh"));
+    profile.shellFilesAlways = {places.home + QStringLiteral("/.bashrc")};
+    if (zshInstalled)
+        profile.shellFilesAlways.prepend(zshrc);
+    else
+        profile.shellFilesIfPresent = {zshrc};
+    profile.terminalDirectory = places.home + QStringLiteral("/.veldmark");
+    profile.sshDirectory = places.home + QStringLiteral("/.ssh");
+    profile.resolverFile = at("/etc/resolv.conf");
+    // Without a runtime folder (a root shell, an SSH session without logind) the socket goes into
+    // a folder below the home that only the user can enter.
+    profile.controlSocket = places.runtimeDirectory.isEmpty()
+        ? places.dataHome + QStringLiteral("/veldmark/run/control")
+        : places.runtimeDirectory + QStringLiteral("/veldmark/control");
+    return profile;
+}
+
+} // namespace veldmark
