@@ -1,0 +1,40 @@
+#pragma once
+
+#include "base/Result.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace veldmark {
+
+// What one call of veldmarkctl asks for.
+struct Invocation {
+    enum class Verb {
+        run, status, connect, disconnect, restore, check, circuits, newIdentity, log, get, set,
+        help, version,
+    };
+    Verb verb = Verb::help;
+    bool connectNow = false; // run --connect
+    bool json = false;       // status, circuits
+    bool watch = false;      // status
+    bool follow = false;     // log
+    bool problems = false;   // log
+    QString key;             // get, set
+    QString value;           // set
+};
+
+// What the process ends with.
+enum class ExitStatus {
+    done = 0,
+    failed = 1,         // the reason is on standard error, in one line
+    usage = 2,          // unknown verb, option, key or value
+    notRunning = 3,     // the command needs a running instance
+    alreadyRunning = 4, // run: another instance of this user's is there, or its place is taken
+};
+
+// Reads the arguments after the program's name. The error is one line.
+Result<Invocation, QString> parseArguments(const QStringList &arguments);
+
+QString usageText();
+
+} // namespace veldmark

@@ -1,0 +1,177 @@
+#include "cli/Commands.h"
+
+#include "cli/Console.h"
+#include "cli/LogCommand.h"
+#include "cli/ProgressLine.h"
+#include "cli/Report.h"
+#include "controller/Production.h"
+#include "controller/PublishedState.h"
+#include "instance/InstanceClient.h"
+#include "instance/InstancePlace.h"
+
+#include <QJsonDocument>
+
+namespace veldmark {
+
+namespace {
+
+using Verb = Invocation::Verb;
+
+const QString notRunning = QStringLiteral(
+    "Veldmark isn't running. Start it with: veldmarkctl run --connect");
+
+QString compact(const QJsonValue &value)
+{
+    return QString::fromUtf8(value.isArray()
+                                 ? QJsonDocument(value.toArray()).toJson(QJsonDocument::Compact)
+                                 : QJsonDocument(value.toObject()).toJson(QJsonDocument::Compact));
+}
+
+QJsonObject request(const Invocation &invocation)
+{
+    const auto command = [](const char *name) {
+        return QJsonObject{{QStringLiteral("command"), QLatin1String(name)}};
+    };
+    switch (invocation.verb) {
+    case Verb::connect:
+        return command("connect");
+    case Verb::disconnect:
+    case Verb::restore:
+        return command("disconnect");
+    case Verb::check:
+        return command("check");
+    case Verb::circuits:
+        return command("circuits");
+    case Verb::newIdentity:
+        return command("new-identity");
+    case Verb::set: {
+        QJsonObject set = command("set");
+        set.insert(QStringLiteral("key"), invocation.key);
+        set.insert(QStringLiteral("value"), invocation.value);
+        return set;
+    }
+    default:
+        return command(invocation.watch ? "watch" : "status");
+    }
+}
+
+// Prints one state the way the command wants it. False when it cannot: an unknown key.
+bool show(const Invocation &invocation, const QJsonObject &state)
+{
+    switch (invocation.verb) {
+    case Verb::circuits:
+        Console::print(invocation.json ? compact(state.value(QStringLiteral("circuits")))
+                                       : Report::circuits(state));
+        return true;
+    case Verb::get: {
+        const QJsonValue value = state.value(invocation.key);
+        if (value.isUndefined()) {
+            Console::printError(QStringLiteral("There is no field \"%1\". Fields: %2.")
+                                    .arg(invocation.key, state.keys().join(QStringLiteral(", "))));
+            return false;
+        }
+        Console::print(Report::value(value));
+        return true;
+    }
+    default:
+        Console::print(invocation.json ? compact(state) : Report::status(state));
+        return true;
+    }
+}
+
+bool showsEveryState(const Invocation &invocation)
+{
+    return invocation.verb == Verb::status && invocation.watch;
+}
+
+bool showsLastState(const Invocation &invocation)
+{
+    return invocation.verb != Verb::set && invocation.verb != Verb::newIdentity;
+}
+
+QCoro::Task<ExitStatus> askInstance(Invocation invocation, std::shared_ptr<InstanceClient> instance)
+{
+    const auto last = std::make_shared<QJsonObject>();
+    const auto progress = std::make_shared<ProgressLine>(Console::isTerminal(), Console::width());
+    const auto onState = [invocation, last, progress](const QJsonObject &state) {
+        *last = state;
+        if (showsEveryState(invocation))
+            show(invocation, state);
+        else if (invocation.verb == Verb::connect
+                 && state.value(QStringLiteral("phase")) == QLatin1String("connecting"))
+            Console::draw(progress->update(
+                state.value(QStringLiteral("bootstrapProgress")).toDouble(),
+                state.value(QStringLiteral("statusDetail")).toString()));
+    };
+    const auto answer = co_await instance->run(request(invocation), onState);
+    Console::draw(progress->finish());
+    if (!answer) {
+        Console::printError(answer.error());
+        co_return invocation.verb == Verb::set ? ExitStatus::usage : ExitStatus::failed;
+    }
+    if (showsEveryState(invocation) || !showsLastState(invocation))
+        co_return ExitStatus::done;
+    co_return show(invocation, *last) ? ExitStatus::done : ExitStatus::usage;
+}
+
+// What can be done without a running instance, by a controller that lives for this one command.
+QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production> production)
+{
+    TorController &controller = production->controller();
+    if (const auto problem = production->settings().problem())
+        Console::printError(*problem);
+    if (invocation.verb == Verb::set) {
+        const auto set = setSetting(controller, invocation.key, invocation.value);
+        if (!set) {
+            Console::printError(set.error());
+            co_return ExitStatus::usage;
+        }
+        if (const auto problem = production->settings().problem()) {
+            Console::printError(*problem);
+            co_return ExitStatus::failed;
+        }
+        co_return ExitStatus::done;
+    }
+
+    controller.detectStaleState();
+    if (invocation.verb == Verb::disconnect || invocation.verb == Verb::restore) {
+        const auto lock = lockInstance(controller.profile()); // nobody starts meanwhile
+        if (!lock) {
+            Console::printError(lock.error());
+            co_return ExitStatus::alreadyRunning;
+        }
+        co_await controller.disconnect();
+        if (controller.isSessionMarkerPresent()) {
+            Console::printError(controller.errorMessage().value_or(QStringLiteral("Cancelled.")));
+            co_return ExitStatus::failed;
+        }
+    } else if (invocation.verb == Verb::status || invocation.verb == Verb::get) {
+        co_await controller.locateTransports();
+    }
+    co_return show(invocation, publishedState(controller)) ? ExitStatus::done : ExitStatus::usage;
+}
+
+} // namespace
+
+QCoro::Task<ExitStatus> execute(Invocation invocation, PlatformProfile profile)
+{
+    if (invocation.verb == Verb::log)
+        co_return co_await showLog(invocation, profile);
+    if (const auto instance = InstanceClient::connectTo(profile))
+        co_return co_await askInstance(invocation, instance);
+    switch (invocation.verb) {
+    case Verb::status:
+    case Verb::get:
+    case Verb::set:
+    case Verb::disconnect:
+    case Verb::restore:
+        if (!invocation.watch)
+            co_return co_await doHere(invocation, std::make_shared<Production>(profile));
+        [[fallthrough]];
+    default:
+        Console::printError(notRunning);
+        co_return ExitStatus::notRunning;
+    }
+}
+
+} // namespace veldmark

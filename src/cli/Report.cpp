@@ -1,0 +1,169 @@
+#include "cli/Report.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <array>
+
+namespace veldmark::Report {
+
+namespace {
+
+QString row(const char *name, const QString &text)
+{
+    return QStringLiteral("\n  %1%2").arg(QLatin1String(name), -12).arg(text);
+}
+
+QString text(const QJsonObject &state, const char *key)
+{
+    return state.value(QLatin1String(key)).toString();
+}
+
+QString modeText(const QJsonObject &state)
+{
+    if (text(state, "activeMode") != QLatin1String("strict"))
+        return QStringLiteral("proxy: apps that ignore the system proxy are not covered");
+    return QStringLiteral("strict: only Tor's traffic leaves");
+}
+
+QString exitText(const QJsonObject &state)
+{
+    const QString address = text(state, "exitIP");
+    const QJsonValue verified = state.value(QStringLiteral("torVerified"));
+    if (verified.isNull())
+        return QStringLiteral("not checked yet");
+    if (address.isEmpty())
+        return QStringLiteral("the check service didn't answer through Tor");
+    return verified.toBool() ? QStringLiteral("%1, a Tor exit").arg(address)
+                             : QStringLiteral("%1, NOT a Tor exit").arg(address);
+}
+
+QString directText(const QJsonObject &state)
+{
+    const QJsonValue leak = state.value(QStringLiteral("leakStatus"));
+    if (leak.isObject())
+        return QStringLiteral("open; it shows the address %1")
+            .arg(leak.toObject().value(QStringLiteral("exposed")).toString());
+    const QString word = leak.toString();
+    if (word == QLatin1String("blocked"))
+        return QStringLiteral("blocked");
+    if (word == QLatin1String("checking"))
+        return QStringLiteral("checking…");
+    if (word == QLatin1String("inconclusive"))
+        return QStringLiteral("couldn't be told");
+    return QStringLiteral("not checked yet");
+}
+
+QString dnsText(const QJsonObject &state)
+{
+    const QJsonValue dns = state.value(QStringLiteral("dnsStatus"));
+    if (dns.isObject()) {
+        QStringList leaks;
+        for (const QJsonValue &leak : dns.toObject().value(QStringLiteral("leak")).toArray())
+            leaks << leak.toString();
+        return QStringLiteral("can go around Tor via: ") + leaks.join(QStringLiteral("; "));
+    }
+    const QString word = dns.toString();
+    if (word == QLatin1String("throughTor"))
+        return QStringLiteral("a test lookup went through Tor");
+    if (word == QLatin1String("checking"))
+        return QStringLiteral("testing…");
+    if (word == QLatin1String("unverified"))
+        return QStringLiteral("settings point at Tor, but a test lookup couldn't be confirmed");
+    return QStringLiteral("not tested yet");
+}
+
+QString hopText(const QJsonObject &hop)
+{
+    QStringList details;
+    const QString country = text(hop, "country").toUpper();
+    if (!country.isEmpty())
+        details << country;
+    if (const QString ip = text(hop, "ip"); !ip.isEmpty())
+        details << ip;
+    const QString name = text(hop, "nickname");
+    return details.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, details.join(u' '));
+}
+
+} // namespace
+
+QString bytes(double count)
+{
+    constexpr std::array units = {"B", "kB", "MB", "GB", "TB"};
+    std::size_t unit = 0;
+    while (count >= 1000 && unit + 1 < units.size()) {
+        count /= 1000;
+        ++unit;
+    }
+    return QStringLiteral("%1 %2").arg(count, 0, 'f', unit == 0 ? 0 : 1).arg(QLatin1String(units[unit]));
+}
+
+QString status(const QJsonObject &state)
+{
+    QString report = text(state, "title");
+    report += QStringLiteral("\n  ") + text(state, "statusDetail");
+    const QString phase = text(state, "phase");
+    if (phase == QLatin1String("connected")) {
+        report += row("Mode", modeText(state));
+        report += row("Exit", exitText(state));
+        if (const QJsonValue latency = state.value(QStringLiteral("latencyMs")); !latency.isNull())
+            report += row("Latency", QStringLiteral("%1 ms through Tor").arg(latency.toInt()));
+        report += row("Direct path", directText(state));
+        report += row("DNS", dnsText(state));
+        report += row("Traffic", QStringLiteral("%1 received, %2 sent")
+                                     .arg(bytes(state.value(QStringLiteral("bytesRead")).toDouble()),
+                                          bytes(state.value(QStringLiteral("bytesWritten")).toDouble())));
+        if (const QString bridge = text(state, "activeBridge"); !bridge.isEmpty())
+            report += row("Bridges", bridge);
+    } else if (phase == QLatin1String("connecting")) {
+        report += row("Progress", QStringLiteral("%1%").arg(
+                          qRound(state.value(QStringLiteral("bootstrapProgress")).toDouble() * 100)));
+    } else if (phase == QLatin1String("stale")) {
+        report += row("What to do", QStringLiteral("veldmarkctl restore"));
+    }
+    if (const QString error = text(state, "errorMessage"); !error.isEmpty())
+        report += row("Problem", error);
+    return report;
+}
+
+QString circuits(const QJsonObject &state)
+{
+    const QJsonArray list = state.value(QStringLiteral("circuits")).toArray();
+    if (list.isEmpty())
+        return QStringLiteral("No circuits yet.");
+    QStringList lines;
+    for (const QJsonValue &entry : list) {
+        const QJsonObject circuit = entry.toObject();
+        QStringList path;
+        for (const QJsonValue &hop : circuit.value(QStringLiteral("hops")).toArray())
+            path << hopText(hop.toObject());
+        lines << QStringLiteral("%1  %2  %3").arg(text(circuit, "id"), 4)
+                     .arg(text(circuit, "purpose"), -8).arg(path.join(QStringLiteral(" → ")));
+        QStringList sites;
+        for (const QJsonValue &site : circuit.value(QStringLiteral("sites")).toArray())
+            sites << site.toString();
+        if (!sites.isEmpty())
+            lines << QStringLiteral("                → ") + sites.join(QStringLiteral(", "));
+    }
+    return lines.join(u'\n');
+}
+
+QString value(const QJsonValue &value)
+{
+    switch (value.type()) {
+    case QJsonValue::String:
+        return value.toString();
+    case QJsonValue::Bool:
+        return value.toBool() ? QStringLiteral("true") : QStringLiteral("false");
+    case QJsonValue::Double:
+        return value.toVariant().toString();
+    case QJsonValue::Array:
+        return QString::fromUtf8(QJsonDocument(value.toArray()).toJson(QJsonDocument::Compact));
+    case QJsonValue::Object:
+        return QString::fromUtf8(QJsonDocument(value.toObject()).toJson(QJsonDocument::Compact));
+    default:
+        return {};
+    }
+}
+
+} // namespace veldmark::Report

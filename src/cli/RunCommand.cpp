@@ -1,0 +1,161 @@
+#include "cli/RunCommand.h"
+
+#include "cli/Console.h"
+#include "cli/Report.h"
+#include "controller/PublishedState.h"
+
+#include <QPointer>
+
+#include <csignal>
+
+namespace veldmark {
+
+RunCommand::RunCommand(const PlatformProfile &profile, bool connectNow)
+    : m_production(profile)
+    , m_controller(m_production.controller())
+    , m_connectNow(connectNow)
+    , m_progress(Console::isTerminal(), Console::width())
+{
+    QObject::connect(&m_signals, &SignalWatcher::received, this, &RunCommand::onSignal);
+    for (const auto changed : {&TorController::bootstrapProgressChanged, &TorController::statusDetailChanged})
+        QObject::connect(&m_controller, changed, this, &RunCommand::showProgress);
+    // Queued: a phase is shown when all that goes with it has been set.
+    QObject::connect(&m_controller, &TorController::phaseChanged, this, &RunCommand::showPhase,
+                     Qt::QueuedConnection);
+    QObject::connect(&m_controller, &TorController::isCheckingChanged, this, &RunCommand::showPhase,
+                     Qt::QueuedConnection);
+    for (const auto changed : {&TorController::phaseChanged, &TorController::canCancelChanged})
+        QObject::connect(&m_controller, changed, this, &RunCommand::stopWhenPossible, Qt::QueuedConnection);
+}
+
+void RunCommand::start()
+{
+    auto server = InstanceServer::start(m_controller);
+    if (!server) {
+        complain(server.error());
+        finish(ExitStatus::alreadyRunning);
+        return;
+    }
+    m_server = std::move(*server);
+    begin();
+}
+
+QCoro::Task<void> RunCommand::begin()
+{
+    const QPointer<RunCommand> self(this);
+    if (const auto problem = m_production.settings().problem())
+        complain(*problem);
+    m_controller.detectStaleState();
+    if (m_connectNow)
+        co_await m_controller.connect();
+    else
+        co_await m_controller.autoConnectIfEnabled();
+    if (!self || m_stopWanted)
+        co_return;
+    if (m_connectNow && m_controller.phase() == ConnectionPhase::disconnected) {
+        complain(m_controller.errorMessage().value_or(QStringLiteral("Cancelled.")));
+        finish(ExitStatus::failed);
+    } else if (m_controller.phase() == ConnectionPhase::disconnected) {
+        say(QStringLiteral("Ready. Connect with: veldmarkctl connect"));
+    } else if (m_controller.phase() == ConnectionPhase::stale && !m_connectNow) {
+        showPhase();
+    }
+}
+
+void RunCommand::onSignal(int number)
+{
+    m_mustEnd |= number != SIGINT;
+    if (m_stopWanted) {
+        say(QStringLiteral("Still restoring your network, one moment…"));
+        return;
+    }
+    m_stopWanted = true;
+    if (m_controller.phase() == ConnectionPhase::connecting && !m_controller.canCancel())
+        say(QStringLiteral("Stopping as soon as Tor has been started…"));
+    stopWhenPossible();
+}
+
+void RunCommand::stopWhenPossible()
+{
+    if (!m_stopWanted || m_stopping)
+        return;
+    const ConnectionPhase phase = m_controller.phase();
+    const bool busy = phase == ConnectionPhase::disconnecting
+        || (phase == ConnectionPhase::connecting && !m_controller.canCancel());
+    if (busy)
+        return; // the next change of phase comes back here
+    if (phase == ConnectionPhase::disconnected)
+        finish(ExitStatus::done);
+    else
+        stop();
+}
+
+QCoro::Task<void> RunCommand::stop()
+{
+    const QPointer<RunCommand> self(this);
+    m_stopping = true;
+    Console::draw(m_progress.finish());
+    m_controller.dismissError();
+    co_await m_controller.disconnect();
+    if (!self)
+        co_return;
+    m_stopping = false;
+    if (m_controller.phase() == ConnectionPhase::disconnected) {
+        finish(ExitStatus::done);
+        co_return;
+    }
+    complain(m_controller.errorMessage().value_or(QStringLiteral("Cancelled.")));
+    if (m_mustEnd) {
+        complain(QStringLiteral("The network is still set up for Tor. Restore it with: ")
+                 + m_controller.profile().manualRestoreCommand);
+        finish(ExitStatus::failed);
+        co_return;
+    }
+    m_stopWanted = false;
+    say(QStringLiteral("The network is still set up for Tor. Press Ctrl-C to try again."));
+}
+
+void RunCommand::finish(ExitStatus status)
+{
+    Console::draw(m_progress.finish());
+    Q_EMIT finished(status);
+}
+
+void RunCommand::showProgress()
+{
+    if (m_controller.phase() == ConnectionPhase::connecting)
+        Console::draw(m_progress.update(m_controller.bootstrapProgress(), m_controller.statusDetail()));
+}
+
+void RunCommand::showPhase()
+{
+    const ConnectionPhase phase = m_controller.phase();
+    if (phase == ConnectionPhase::connecting || m_controller.isChecking())
+        return; // the progress line speaks, or the answers are on their way
+    if (phase == ConnectionPhase::disconnecting) {
+        say(m_controller.statusDetail());
+        return;
+    }
+    QString report = phase == ConnectionPhase::connected || phase == ConnectionPhase::stale
+        ? Report::status(publishedState(m_controller))
+        : QStringLiteral("%1: %2").arg(m_controller.title(), m_controller.statusDetail());
+    if (report == std::exchange(m_lastReport, report))
+        return;
+    say(report);
+    if (phase == ConnectionPhase::connected)
+        say(QStringLiteral("Press Ctrl-C to disconnect."));
+}
+
+void RunCommand::say(const QString &text)
+{
+    Console::draw(m_progress.finish());
+    Console::print(text);
+}
+
+void RunCommand::complain(const QString &text)
+{
+    Console::draw(m_progress.finish());
+    Console::printError(text);
+}
+
+} // namespace veldmark

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "cli/Arguments.h"
+#include "cli/ProgressLine.h"
+#include "cli/SignalWatcher.h"
+#include "controller/Production.h"
+#include "instance/InstanceServer.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace veldmark {
+
+// `veldmarkctl run`: the program without a window, in the foreground, until a signal asks it to
+// restore the network and end. Prints what a person wants to follow. Ending is never half-way: a
+// signal that comes while the helper works is heeded when it has finished.
+class RunCommand : public QObject {
+    Q_OBJECT
+
+public:
+    RunCommand(const PlatformProfile &profile, bool connectNow);
+
+    // Starts; `finished` follows, perhaps at once.
+    void start();
+
+Q_SIGNALS:
+    void finished(ExitStatus status);
+
+private:
+    QCoro::Task<void> begin();
+    void onSignal(int number);
+    void stopWhenPossible();
+    QCoro::Task<void> stop();
+    void finish(ExitStatus status);
+    void showProgress();
+    void showPhase();
+    void say(const QString &text);
+    void complain(const QString &text);
+
+    Production m_production;
+    TorController &m_controller;
+    const bool m_connectNow;
+    std::unique_ptr<InstanceServer> m_server;
+    SignalWatcher m_signals;
+    ProgressLine m_progress;
+    QString m_lastReport;
+    bool m_stopWanted = false;
+    bool m_stopping = false;
+    bool m_mustEnd = false; // asked by somebody who won't ask again: SIGTERM, SIGHUP
+};
+
+} // namespace veldmark

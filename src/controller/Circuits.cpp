@@ -1,0 +1,170 @@
+#include "controller/TorController.h"
+
+#include "base/Clock.h"
+#include "checks/IPCheck.h"
+#include "circuits/CircuitParser.h"
+#include "control/ControlPort.h"
+
+#include <QPointer>
+
+#include <algorithm>
+
+using namespace std::chrono_literals;
+
+namespace veldmark {
+
+namespace {
+
+constexpr int optimizeAttempts = 4;
+constexpr int slowPathMs = 1501; // up to and including 1500 ms counts as fast
+constexpr auto newCircuitsSettle = 10s;
+
+const QString circuitKey = QStringLiteral("circuit-status");
+const QString streamKey = QStringLiteral("stream-status");
+
+QString getInfoCommand(const QString &key)
+{
+    return QStringLiteral("GETINFO ") + key;
+}
+
+// A circuit id of Tor's: digits only, so that nothing else can reach the control port.
+bool isCircuitID(const QString &id)
+{
+    return !id.isEmpty()
+        && std::all_of(id.cbegin(), id.cend(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+}
+
+} // namespace
+
+QCoro::Task<void> TorController::refreshCircuits()
+{
+    if (phase() != ConnectionPhase::connected || !m_controlPassword)
+        co_return;
+    const QPointer<TorController> self(this);
+    const Attempt attempt = m_attempt;
+    const QString password = *m_controlPassword;
+    const auto replies = co_await m_services.controlPort.batch(
+        {getInfoCommand(circuitKey), getInfoCommand(streamKey)}, password);
+    if (!self || !isCurrent(attempt))
+        co_return;
+    if (!replies) {
+        circuitError = QStringLiteral("Couldn't read circuits: ") + replies.error().description();
+        co_return;
+    }
+    const auto block = [&replies](std::size_t index, const QString &key) {
+        const auto &lines = replies->at(index);
+        return lines ? ControlPort::dataBlock(key, *lines) : QStringList();
+    };
+    CircuitTable table = CircuitTable::assemble(block(0, circuitKey), block(1, streamKey),
+                                                m_siteHistory, m_relayCache);
+    if (!table.unresolved.empty()) {
+        const auto relays = co_await resolveRelays(table.unresolved, password);
+        if (!self || !isCurrent(attempt))
+            co_return;
+        for (const RelayInfo &relay : relays)
+            m_relayCache.insert(relay.fingerprint, relay);
+        CircuitTable::fillRelays(table.circuits, m_relayCache);
+    }
+    circuitError = std::nullopt;
+    circuits = table.circuits;
+}
+
+QCoro::Task<std::vector<RelayInfo>> TorController::resolveRelays(std::vector<RelayInfo> relays,
+                                                                 QString password)
+{
+    ControlPort &controlPort = m_services.controlPort;
+    const QStringList bridgeLines = m_activeBridgeLines;
+
+    QStringList commands;
+    for (const RelayInfo &relay : relays)
+        commands << getInfoCommand(QStringLiteral("ns/id/") + relay.fingerprint);
+    const auto statuses = co_await controlPort.batch(commands, password);
+    if (!statuses)
+        co_return {}; // asked again at the next refresh
+    QStringList addresses;
+    for (std::size_t i = 0; i < relays.size(); ++i) {
+        RelayInfo &relay = relays[i];
+        if (const auto &lines = statuses->at(i))
+            relay.ip = CircuitParser::ipFromNetworkStatus(
+                ControlPort::dataBlock(QStringLiteral("ns/id/") + relay.fingerprint, *lines));
+        if (!relay.ip) // a bridge has no network status
+            relay.ip = CircuitParser::ipOfBridge(relay.fingerprint, bridgeLines);
+        if (relay.ip && !addresses.contains(*relay.ip))
+            addresses << *relay.ip;
+    }
+
+    commands.clear();
+    for (const QString &address : addresses)
+        commands << getInfoCommand(QStringLiteral("ip-to-country/") + address);
+    const auto countries = co_await controlPort.batch(commands, password);
+    if (!countries)
+        co_return relays;
+    for (RelayInfo &relay : relays) {
+        if (!relay.ip)
+            continue;
+        const auto &lines = countries->at(static_cast<std::size_t>(addresses.indexOf(*relay.ip)));
+        if (lines)
+            relay.country = CircuitParser::country(ControlPort::dataBlock(
+                QStringLiteral("ip-to-country/") + *relay.ip, *lines));
+    }
+    co_return relays;
+}
+
+QCoro::Task<void> TorController::newIdentity()
+{
+    if (!m_controlPassword)
+        co_return;
+    const QPointer<TorController> self(this);
+    const auto done =
+        co_await m_services.controlPort.signal(QStringLiteral("NEWNYM"), *m_controlPassword);
+    if (self && !done)
+        errorMessage =
+            QStringLiteral("Couldn't request a new identity: ") + done.error().description();
+}
+
+QCoro::Task<void> TorController::newCircuit(QString id)
+{
+    if (!m_controlPassword || !isCircuitID(id))
+        co_return;
+    const QPointer<TorController> self(this);
+    const QString password = *m_controlPassword;
+    co_await m_services.controlPort.batch({QStringLiteral("CLOSECIRCUIT ") + id}, password);
+    if (self)
+        co_await refreshCircuits();
+}
+
+QCoro::Task<void> TorController::optimizeCircuits()
+{
+    if (phase() != ConnectionPhase::connected || !m_controlPassword || isOptimizing())
+        co_return;
+    const QPointer<TorController> self(this);
+    const Attempt attempt = m_attempt;
+    isOptimizing = true;
+    for (int round = 1; round <= optimizeAttempts; ++round) {
+        optimizeStatus =
+            QStringLiteral("Testing speed (%1 of %2)…").arg(round).arg(optimizeAttempts);
+        const auto timed = co_await timedViaTor();
+        if (!self || !isCurrent(attempt))
+            co_return; // the next attempt has cleared what this one showed
+        const int elapsedMs = timed.second;
+        if (timed.first && elapsedMs < slowPathMs) {
+            latencyMs = elapsedMs;
+            break;
+        }
+        optimizeStatus = timed.first
+            ? QStringLiteral("Slow path (%1 ms), finding a faster one…").arg(elapsedMs)
+            : QStringLiteral("Path not responding, finding another…");
+        if (round == optimizeAttempts)
+            break;
+        co_await m_services.controlPort.signal(QStringLiteral("NEWNYM"), *m_controlPassword);
+        if (!self || !isCurrent(attempt))
+            co_return;
+        co_await m_services.clock.sleep(newCircuitsSettle);
+        if (!self || !isCurrent(attempt))
+            co_return;
+    }
+    optimizeStatus = std::nullopt;
+    isOptimizing = false;
+}
+
+} // namespace veldmark

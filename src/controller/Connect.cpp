@@ -1,0 +1,265 @@
+#include "controller/TorController.h"
+
+#include "base/Clock.h"
+#include "bridges/BridgePlan.h"
+#include "control/ControlPort.h"
+#include "platform/PlatformProfile.h"
+#include "system/PrivilegedRunner.h"
+#include "system/ProcessRunner.h"
+
+#include <QFileInfo>
+#include <QPointer>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+
+using namespace std::chrono_literals;
+
+namespace veldmark {
+
+namespace {
+
+constexpr auto bootstrapLimit = 300s;
+constexpr auto bootstrapPoll = 1s;
+constexpr int slowPathMs = 1501; // up to and including 1500 ms counts as fast
+constexpr int passwordBytes = 32;
+
+const QString bootstrapKey = QStringLiteral("status/bootstrap-phase");
+
+bool isExecutableFile(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.isFile() && file.isExecutable();
+}
+
+QString flag(bool on)
+{
+    return on ? QStringLiteral("1") : QStringLiteral("0");
+}
+
+} // namespace
+
+std::optional<QString> TorController::torPath() const
+{
+    const QString custom = customTorPath().trimmed();
+    if (!custom.isEmpty() && isExecutableFile(custom))
+        return custom;
+    for (const QString &candidate : m_services.profile.torCandidates) {
+        if (isExecutableFile(candidate))
+            return candidate;
+    }
+    return std::nullopt;
+}
+
+QString TorController::randomHex(int bytes)
+{
+    QByteArray random(bytes, Qt::Uninitialized);
+    for (char &byte : random)
+        byte = static_cast<char>(QRandomGenerator::system()->bounded(256));
+    return QString::fromLatin1(random.toHex());
+}
+
+BootstrapStatus TorController::parseBootstrap(const QString &reply)
+{
+    static const QRegularExpression progressField(QStringLiteral("PROGRESS=(\\d+)"));
+    static const QRegularExpression summaryField(QStringLiteral("SUMMARY=\"([^\"]*)\""));
+    return {progressField.match(reply).captured(1).toInt(), // 0 when absent or out of range
+            summaryField.match(reply).captured(1)};
+}
+
+QString TorController::connectedDetail() const
+{
+    return activeMode() == RoutingMode::strict
+        ? QStringLiteral("All traffic is locked to Tor")
+        : QStringLiteral("Apps that use system proxy settings go through Tor");
+}
+
+void TorController::resetSessionInfo()
+{
+    exitIP = std::nullopt;
+    torVerified = std::nullopt;
+    leakStatus = LeakStatus::notTested();
+    latencyMs = std::nullopt;
+    bytesRead = 0;
+    bytesWritten = 0;
+    dnsStatus = DNSStatus::unknown();
+    m_dnsLiveVerified = false;
+}
+
+void TorController::settleAfterFailure()
+{
+    canCancel = false;
+    if (isSessionMarkerPresent()) {
+        statusDetail = QStringLiteral("Your network is still set up for Tor");
+        phase = ConnectionPhase::stale;
+        return;
+    }
+    activeMode = std::nullopt;
+    activeBridge = std::nullopt;
+    statusDetail = QStringLiteral("Your traffic is not going through Tor");
+    phase = ConnectionPhase::disconnected;
+}
+
+void TorController::failAttempt(const QString &message)
+{
+    errorMessage = message;
+    settleAfterFailure();
+}
+
+QCoro::Task<Result<QStringList, QString>> TorController::bridgeArguments(Attempt attempt)
+{
+    const QPointer<TorController> self(this);
+    const BridgeTools tools{
+        m_services.locateTransports, m_services.bridgeProbe, [self, attempt](const QString &text) {
+            if (self && self->isCurrent(attempt))
+                self->statusDetail = text;
+        }};
+    const BridgePlan plan = co_await planBridges(
+        BridgeRequest{bridgeChoice(), customBridges(), optimizeSpeed()}, tools);
+    if (!self || !isCurrent(attempt))
+        co_return Failure(QString()); // nobody reads this
+    if (plan.transports)
+        transports = *plan.transports;
+    if (bridgeChoice() == BridgeChoice::off)
+        m_pendingBridgeLines.clear();
+    else if (plan.lines)
+        m_pendingBridgeLines = *plan.lines;
+    co_return plan.arguments.map_error([](const BridgeError &error) { return error.description(); });
+}
+
+QCoro::Task<Result<QString, QString>> TorController::hashPassword(QString password, QString tor)
+{
+    const auto run = co_await m_services.processes.run(
+        tor, {QStringLiteral("--quiet"), QStringLiteral("--hash-password"), password});
+    if (!run)
+        co_return Failure(run.error().description());
+    const QStringList lines = run->output.split(u'\n', Qt::SkipEmptyParts);
+    for (auto line = lines.crbegin(); line != lines.crend(); ++line) {
+        const QString hash = line->trimmed();
+        if (hash.startsWith(QLatin1String("16:")))
+            co_return hash;
+    }
+    co_return Failure(TorError::hashFailed(run->errors.trimmed()).description());
+}
+
+QCoro::Task<Result<void, QString>> TorController::waitForBootstrap(Attempt attempt)
+{
+    if (!m_controlPassword)
+        co_return Failure(ControlPortError::notConnected().description());
+    const QPointer<TorController> self(this);
+    const QString password = *m_controlPassword;
+    Clock &clock = m_services.clock;
+    const auto deadline = clock.now() + bootstrapLimit;
+    std::optional<QString> lastError;
+    while (clock.now() < deadline) {
+        const auto reply = co_await m_services.controlPort.getInfo({bootstrapKey}, password);
+        if (!self || !isCurrent(attempt))
+            co_return Failure(QString()); // the user disconnected; nobody reads this
+        if (reply) {
+            const BootstrapStatus status = parseBootstrap(reply->value(bootstrapKey));
+            bootstrapProgress = status.progress / 100.0;
+            if (!status.summary.isEmpty())
+                statusDetail = status.summary;
+            lastError = std::nullopt;
+            if (status.progress >= 100)
+                co_return {};
+        } else {
+            lastError = reply.error().description();
+        }
+        co_await clock.sleep(bootstrapPoll);
+        if (!self || !isCurrent(attempt))
+            co_return Failure(QString());
+    }
+    co_return Failure(TorError::bootstrapTimeout(lastError).description());
+}
+
+QCoro::Task<void> TorController::connect()
+{
+    if (phase() != ConnectionPhase::disconnected && phase() != ConnectionPhase::stale)
+        co_return;
+    errorMessage = std::nullopt;
+    const auto tor = torPath();
+    if (!tor) {
+        errorMessage = m_services.profile.torMissingText;
+        co_return;
+    }
+    if (!ExitCountry::isValid(exitCountry())) {
+        errorMessage = QStringLiteral("Invalid exit country.");
+        co_return;
+    }
+
+    const QPointer<TorController> self(this);
+    const Attempt attempt = startAttempt();
+    stopMonitoring();
+    bootstrapProgress = 0.0;
+    resetSessionInfo();
+    statusDetail = QStringLiteral("Preparing Tor…");
+    phase = ConnectionPhase::connecting;
+
+    const auto bridges = co_await bridgeArguments(attempt);
+    if (!self || !isCurrent(attempt))
+        co_return;
+    if (!bridges) {
+        failAttempt(bridges.error());
+        co_return;
+    }
+
+    const QString password = randomHex(passwordBytes);
+    const auto hash = co_await hashPassword(password, *tor);
+    if (!self || !isCurrent(attempt))
+        co_return;
+    if (!hash) {
+        failAttempt(hash.error());
+        co_return;
+    }
+    m_controlPassword = password;
+
+    const bool strict = strictMode();
+    const BridgeChoice bridge = bridgeChoice();
+    QStringList arguments = {QStringLiteral("connect"), QStringLiteral("--tor"), *tor,
+                             QStringLiteral("--hash"), *hash,
+                             QStringLiteral("--strict"), flag(strict),
+                             QStringLiteral("--lan"), flag(allowLocalNetwork())};
+    if (!exitCountry().isEmpty())
+        arguments << QStringLiteral("--exit") << exitCountry();
+    arguments += *bridges;
+    statusDetail = QStringLiteral("Waiting for administrator approval…");
+    const auto helper = co_await m_services.privileged.runHelper(arguments);
+    if (!self || !isCurrent(attempt))
+        co_return;
+    if (!helper) {
+        if (helper.error().kind() == HelperError::Kind::Cancelled)
+            settleAfterFailure();
+        else
+            failAttempt(helper.error().description());
+        co_return;
+    }
+
+    activeMode = strict ? RoutingMode::strict : RoutingMode::proxy;
+    activeBridge = bridge == BridgeChoice::off ? std::nullopt : std::optional(bridge);
+    m_activeBridgeLines = m_pendingBridgeLines;
+    statusDetail = QStringLiteral("Starting Tor…");
+    canCancel = true;
+    const auto bootstrap = co_await waitForBootstrap(attempt);
+    if (!self || !isCurrent(attempt))
+        co_return;
+    canCancel = false;
+    if (!bootstrap) {
+        errorMessage = bootstrap.error()
+            + QStringLiteral(" Your network is still pointed at Tor. Click Restore Network to undo.");
+        statusDetail = QStringLiteral("Tor didn't finish connecting");
+        phase = ConnectionPhase::stale;
+        co_return;
+    }
+
+    statusDetail = connectedDetail();
+    phase = ConnectionPhase::connected;
+    applyTerminalMode();
+    startMonitoring();
+    co_await runChecks();
+    if (!self || !isCurrent(attempt) || phase() != ConnectionPhase::connected)
+        co_return;
+    if (optimizeSpeed() && (!latencyMs() || *latencyMs() >= slowPathMs))
+        co_await optimizeCircuits();
+}
+
+} // namespace veldmark

@@ -1,0 +1,96 @@
+#include "controller/TorController.h"
+
+#include "platform/PlatformProfile.h"
+#include "system/PrivilegedRunner.h"
+#include "terminal/TerminalIntegration.h"
+
+#include <QFile>
+#include <QPointer>
+
+namespace veldmark {
+
+namespace {
+constexpr qint64 markerLimitBytes = 256; // it holds one word
+} // namespace
+
+bool TorController::isSessionMarkerPresent() const
+{
+    return QFile::exists(m_services.profile.sessionMarker);
+}
+
+QCoro::Task<void> TorController::disconnect()
+{
+    const bool mayDisconnect = phase() == ConnectionPhase::connected
+        || phase() == ConnectionPhase::stale
+        || (phase() == ConnectionPhase::connecting && canCancel());
+    if (!mayDisconnect)
+        co_return;
+
+    const QPointer<TorController> self(this);
+    const Attempt attempt = startAttempt(); // a connect that still waits for Tor ends silently
+    // What a failure goes back to: only a session that was up is still up when the helper was
+    // refused. A half-made connection and a left-over one are judged by the marker.
+    const bool sessionWasUp = phase() == ConnectionPhase::connected;
+    canCancel = false;
+    statusDetail = QStringLiteral("Restoring your network settings…");
+    phase = ConnectionPhase::disconnecting;
+    stopMonitoring();
+    m_services.terminal.setActive(false);
+
+    const auto helper = co_await m_services.privileged.runHelper({QStringLiteral("disconnect")});
+    if (!self || !isCurrent(attempt))
+        co_return;
+    if (helper) {
+        m_controlPassword = std::nullopt;
+        activeMode = std::nullopt;
+        activeBridge = std::nullopt;
+        m_activeBridgeLines.clear();
+        circuits = {};
+        circuitError = std::nullopt;
+        m_siteHistory.clear();
+        m_relayCache.clear();
+        resetSessionInfo();
+        bootstrapProgress = 0.0;
+        statusDetail = QStringLiteral("Your traffic is not going through Tor");
+        phase = ConnectionPhase::disconnected;
+        co_return;
+    }
+
+    if (helper.error().kind() != HelperError::Kind::Cancelled)
+        errorMessage = helper.error().description();
+    if (!sessionWasUp) {
+        settleAfterFailure();
+        co_return;
+    }
+    statusDetail = connectedDetail();
+    phase = ConnectionPhase::connected;
+    applyTerminalMode();
+    startMonitoring();
+}
+
+void TorController::detectStaleState()
+{
+    if (!isSessionMarkerPresent()) {
+        m_services.terminal.setActive(false);
+        return;
+    }
+    if (phase() != ConnectionPhase::disconnected)
+        return;
+    QFile marker(m_services.profile.sessionMarker);
+    QString word;
+    if (marker.open(QIODevice::ReadOnly))
+        word = QString::fromUtf8(marker.read(markerLimitBytes)).trimmed();
+    activeMode = routingModeFromRawValue(word);
+    statusDetail = QStringLiteral("Your network is still set up for Tor from an earlier session");
+    phase = ConnectionPhase::stale;
+}
+
+QCoro::Task<void> TorController::autoConnectIfEnabled()
+{
+    if (!autoConnect() || phase() != ConnectionPhase::disconnected || isSessionMarkerPresent()
+        || !torPath())
+        co_return;
+    co_await connect();
+}
+
+} // namespace veldmark

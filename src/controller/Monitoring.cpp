@@ -1,0 +1,124 @@
+#include "controller/TorController.h"
+
+#include "base/Clock.h"
+#include "checks/NetworkProbe.h"
+#include "control/ControlPort.h"
+
+#include <QPointer>
+
+using namespace std::chrono_literals;
+
+namespace veldmark {
+
+namespace {
+
+constexpr auto monitorInterval = 2s;
+constexpr auto counterReadLimit = 3s; // a tor that is stopped, not dead, must not stop the loop
+constexpr int ticksPerDNSCheck = 15;  // every 30 seconds
+constexpr int failuresUntilDead = 3;
+
+const QString readKey = QStringLiteral("traffic/read");
+const QString writtenKey = QStringLiteral("traffic/written");
+
+} // namespace
+
+TorController::Attempt TorController::startAttempt()
+{
+    isChecking = false;
+    isOptimizing = false;
+    optimizeStatus = std::nullopt;
+    if (leakStatus().isChecking())
+        leakStatus = LeakStatus::notTested();
+    if (dnsStatus().isChecking())
+        dnsStatus = DNSStatus::unknown();
+    return ++m_attempt;
+}
+
+void TorController::startMonitoring()
+{
+    monitor(++m_monitor);
+}
+
+QCoro::Task<void> TorController::monitor(quint64 run)
+{
+    const QPointer<TorController> self(this);
+    quint64 tick = 0;
+    int failures = 0;
+    for (;;) {
+        co_await m_services.clock.sleep(monitorInterval);
+        if (!self || run != m_monitor)
+            co_return;
+        if (phase() != ConnectionPhase::connected || !m_controlPassword)
+            continue;
+        if (++tick % ticksPerDNSCheck == 0) {
+            co_await checkDNS(false);
+            if (!self || run != m_monitor)
+                co_return;
+        }
+        const auto counters = co_await m_services.controlPort.getInfo(
+            {readKey, writtenKey}, *m_controlPassword, counterReadLimit);
+        if (!self || run != m_monitor)
+            co_return;
+        if (counters) {
+            failures = 0;
+            bool valid = false;
+            if (const quint64 read = counters->value(readKey).toULongLong(&valid); valid)
+                bytesRead = read;
+            if (const quint64 written = counters->value(writtenKey).toULongLong(&valid); valid)
+                bytesWritten = written;
+        } else if (++failures >= failuresUntilDead && phase() == ConnectionPhase::connected) {
+            torDied();
+            co_return;
+        }
+    }
+}
+
+void TorController::torDied()
+{
+    startAttempt(); // checks that are still running belong to a session that is over
+    stopMonitoring();
+    statusDetail = QStringLiteral("Tor stopped running");
+    errorMessage = activeMode() == RoutingMode::strict
+        ? QStringLiteral("Tor stopped running. The kill switch is still blocking traffic, so nothing "
+                         "leaked. Reconnect, or Restore Network to go back online.")
+        : QStringLiteral("Tor stopped running. Apps using the proxy can't connect until you reconnect "
+                         "or Restore Network.");
+    phase = ConnectionPhase::stale;
+}
+
+QCoro::Task<std::pair<std::optional<IPCheck>, int>> TorController::timedViaTor()
+{
+    Clock &clock = m_services.clock;
+    const auto start = clock.now();
+    const auto answer = co_await m_services.probe.viaTor();
+    const auto elapsed =
+        std::chrono::duration_cast<std::chrono::milliseconds>(clock.now() - start).count();
+    co_return std::pair(answer ? std::optional<IPCheck>(*answer) : std::nullopt, static_cast<int>(elapsed));
+}
+
+QCoro::Task<void> TorController::runChecks()
+{
+    if (phase() != ConnectionPhase::connected || isChecking())
+        co_return;
+    const QPointer<TorController> self(this);
+    const Attempt attempt = m_attempt;
+    isChecking = true;
+    leakStatus = LeakStatus::checking();
+    auto throughTor = timedViaTor(); // both start now and run side by side
+    auto aroundTor = m_services.probe.direct();
+    const auto [tor, elapsedMs] = co_await throughTor;
+    const auto direct = co_await aroundTor;
+    if (!self || !isCurrent(attempt))
+        co_return; // the session ended meanwhile: what it had is no longer true
+    const CheckVerdict verdict = checkVerdict(
+        tor, direct ? std::optional<IPCheck>(*direct) : std::nullopt, activeMode());
+    latencyMs = tor ? std::optional(elapsedMs) : std::nullopt;
+    exitIP = verdict.exitIP;
+    torVerified = verdict.torVerified;
+    leakStatus = verdict.leakStatus;
+    co_await checkDNS(true);
+    if (self && isCurrent(attempt))
+        isChecking = false;
+}
+
+} // namespace veldmark

@@ -1,0 +1,62 @@
+#include "controller/TorController.h"
+
+#include "platform/PlatformProfile.h"
+#include "system/PrivilegedRunner.h"
+
+#include <QPointer>
+
+#include <pwd.h>
+#include <unistd.h>
+
+namespace veldmark {
+
+namespace {
+QString loginName()
+{
+    const passwd *entry = getpwuid(geteuid());
+    return entry ? QString::fromLocal8Bit(entry->pw_name) : QString::number(geteuid());
+}
+} // namespace
+
+QCoro::Task<void> TorController::installPasswordless()
+{
+    const QPointer<TorController> self(this);
+    startupError = std::nullopt;
+    QStringList arguments = {QStringLiteral("install-privileged"), QStringLiteral("--user"), loginName()};
+    const QString &folder = m_services.profile.places.applicationDirectory;
+    if (!folder.isEmpty())
+        arguments << QStringLiteral("--launch") << folder + QStringLiteral("/veldmark-launch");
+    const auto helper = co_await m_services.privileged.runWithPrompt(arguments);
+    if (!self)
+        co_return;
+    passwordlessInstalled = m_services.privileged.passwordlessInstalled();
+    if (!helper) {
+        if (helper.error().kind() != HelperError::Kind::Cancelled) // the user's own choice is no error
+            startupError = QStringLiteral("Couldn't set up passwordless mode: ")
+                + helper.error().description();
+    } else if (!passwordlessInstalled()) {
+        startupError = QStringLiteral("Setup ran but the helper wasn't installed. Try again.");
+    }
+}
+
+QCoro::Task<void> TorController::removePasswordless()
+{
+    const QPointer<TorController> self(this);
+    startupError = std::nullopt;
+    const auto helper =
+        co_await m_services.privileged.runHelper({QStringLiteral("uninstall-privileged")});
+    if (!self)
+        co_return;
+    passwordlessInstalled = m_services.privileged.passwordlessInstalled();
+    if (!helper && helper.error().kind() != HelperError::Kind::Cancelled)
+        startupError = QStringLiteral("Couldn't remove passwordless mode: ")
+            + helper.error().description();
+}
+
+QCoro::Task<void> TorController::updatePrivilegedHelper()
+{
+    if (m_services.privileged.privilegedHelperOutdated())
+        co_await installPasswordless();
+}
+
+} // namespace veldmark

@@ -1,0 +1,177 @@
+#include "controller/PublishedState.h"
+
+#include "controller/TorController.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QMetaEnum>
+
+namespace veldmark {
+
+namespace {
+
+QJsonValue json(const QString &value) { return value; }
+QJsonValue json(bool value) { return value; }
+QJsonValue json(int value) { return value; }
+QJsonValue json(double value) { return value; }
+QJsonValue json(quint64 value) { return static_cast<qint64>(value); }
+QJsonValue json(const QStringList &value) { return QJsonArray::fromStringList(value); }
+QJsonValue json(BridgeChoice value) { return rawValue(value); }
+QJsonValue json(RoutingMode value) { return rawValue(value); }
+QJsonValue json(const LeakStatus &value) { return value.toJson(); }
+QJsonValue json(const DNSStatus &value) { return value.toJson(); }
+
+QJsonValue json(ConnectionPhase value)
+{
+    return QString::fromLatin1(
+        QMetaEnum::fromType<ConnectionPhase>().valueToKey(static_cast<int>(value)));
+}
+
+QJsonValue json(const std::vector<CircuitInfo> &value)
+{
+    QJsonArray array;
+    for (const CircuitInfo &circuit : value)
+        array.append(circuit.toJson());
+    return array;
+}
+
+template <typename T>
+QJsonValue json(const std::optional<T> &value)
+{
+    return value ? json(*value) : QJsonValue(QJsonValue::Null);
+}
+
+QJsonValue json(const PluggableTransports &value)
+{
+    QJsonObject builtin;
+    for (auto it = value.builtin.cbegin(); it != value.builtin.cend(); ++it)
+        builtin.insert(it.key(), json(it.value()));
+    return QJsonObject{{QStringLiteral("lyrebird"), json(value.lyrebird)},
+                       {QStringLiteral("snowflake"), json(value.snowflake)},
+                       {QStringLiteral("webtunnel"), json(value.webtunnel)},
+                       {QStringLiteral("builtin"), builtin},
+                       {QStringLiteral("source"), value.source}};
+}
+
+Result<bool, QString> parseSwitch(const QString &text)
+{
+    const QString word = text.trimmed().toLower();
+    static const QStringList on = {QStringLiteral("true"), QStringLiteral("on"),
+                                   QStringLiteral("yes"), QStringLiteral("1")};
+    static const QStringList off = {QStringLiteral("false"), QStringLiteral("off"),
+                                    QStringLiteral("no"), QStringLiteral("0")};
+    if (on.contains(word))
+        return true;
+    if (off.contains(word))
+        return false;
+    return Failure(QStringLiteral("\"%1\" is neither true nor false.").arg(text));
+}
+
+Result<QStringList, QString> parseList(const QString &text)
+{
+    const auto failure =
+        Failure(QStringLiteral("\"%1\" is no JSON array of strings.").arg(text));
+    const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8());
+    if (!document.isArray())
+        return failure;
+    QStringList list;
+    for (const QJsonValue &entry : document.array()) {
+        if (!entry.isString())
+            return failure;
+        list << entry.toString();
+    }
+    return list;
+}
+
+} // namespace
+
+QJsonObject publishedState(const TorController &c)
+{
+    return {
+        {QStringLiteral("strictMode"), json(c.strictMode())},
+        {QStringLiteral("allowLocalNetwork"), json(c.allowLocalNetwork())},
+        {QStringLiteral("exitCountry"), json(c.exitCountry())},
+        {QStringLiteral("customTorPath"), json(c.customTorPath())},
+        {QStringLiteral("bridgeChoice"), json(c.bridgeChoice())},
+        {QStringLiteral("customBridges"), json(c.customBridges())},
+        {QStringLiteral("bypassApps"), json(c.bypassApps())},
+        {QStringLiteral("autoConnect"), json(c.autoConnect())},
+        {QStringLiteral("optimizeSpeed"), json(c.optimizeSpeed())},
+        {QStringLiteral("latencyMs"), json(c.latencyMs())},
+        {QStringLiteral("optimizeStatus"), json(c.optimizeStatus())},
+        {QStringLiteral("isOptimizing"), json(c.isOptimizing())},
+        {QStringLiteral("transports"), json(c.transports())},
+        {QStringLiteral("activeBridge"), json(c.activeBridge())},
+        {QStringLiteral("terminalMode"), json(c.terminalMode())},
+        {QStringLiteral("phase"), json(c.phase())},
+        {QStringLiteral("activeMode"), json(c.activeMode())},
+        {QStringLiteral("bootstrapProgress"), json(c.bootstrapProgress())},
+        {QStringLiteral("statusDetail"), json(c.statusDetail())},
+        {QStringLiteral("exitIP"), json(c.exitIP())},
+        {QStringLiteral("torVerified"), json(c.torVerified())},
+        {QStringLiteral("leakStatus"), json(c.leakStatus())},
+        {QStringLiteral("bytesRead"), json(c.bytesRead())},
+        {QStringLiteral("bytesWritten"), json(c.bytesWritten())},
+        {QStringLiteral("isChecking"), json(c.isChecking())},
+        {QStringLiteral("canCancel"), json(c.canCancel())},
+        {QStringLiteral("errorMessage"), json(c.errorMessage())},
+        {QStringLiteral("dnsStatus"), json(c.dnsStatus())},
+        {QStringLiteral("passwordlessInstalled"), json(c.passwordlessInstalled())},
+        {QStringLiteral("startupError"), json(c.startupError())},
+        {QStringLiteral("circuits"), json(c.circuits())},
+        {QStringLiteral("circuitError"), json(c.circuitError())},
+        {QStringLiteral("transportDownload"), json(c.transportDownload())},
+        {QStringLiteral("terminalError"), json(c.terminalError())},
+        {QStringLiteral("title"), c.title()},
+    };
+}
+
+QStringList settingNames()
+{
+    return {QStringLiteral("strictMode"), QStringLiteral("allowLocalNetwork"),
+            QStringLiteral("exitCountry"), QStringLiteral("customTorPath"),
+            QStringLiteral("bridgeChoice"), QStringLiteral("customBridges"),
+            QStringLiteral("bypassApps"), QStringLiteral("autoConnect"),
+            QStringLiteral("optimizeSpeed"), QStringLiteral("terminalMode")};
+}
+
+Result<void, QString> setSetting(TorController &c, const QString &name, const QString &text)
+{
+    Setting<bool> *const switches[] = {&c.strictMode, &c.allowLocalNetwork, &c.autoConnect,
+                                       &c.optimizeSpeed};
+    for (Setting<bool> *setting : switches) {
+        if (setting->key() == name)
+            return parseSwitch(text).map([setting](bool on) { setting->set(on); });
+    }
+    if (name == c.terminalMode.key())
+        return parseSwitch(text).map([&c](bool on) { c.setTerminalMode(on); });
+    if (name == c.exitCountry.key()) {
+        if (!ExitCountry::isValid(text))
+            return Failure(QStringLiteral("\"%1\" is no exit country: two lower-case letters such "
+                                          "as \"de\", or nothing for any.").arg(text));
+        c.exitCountry.set(text);
+        return {};
+    }
+    if (name == c.bridgeChoice.key()) {
+        const auto choice = bridgeChoiceFromRawValue(text);
+        if (!choice)
+            return Failure(QStringLiteral("\"%1\" is no bridge choice: off, obfs4, snowflake, meek "
+                                          "or custom.").arg(text));
+        c.bridgeChoice.set(*choice);
+        return {};
+    }
+    if (name == c.customTorPath.key()) {
+        c.customTorPath.set(text);
+        return {};
+    }
+    if (name == c.customBridges.key()) {
+        c.customBridges.set(text);
+        return {};
+    }
+    if (name == c.bypassApps.key())
+        return parseList(text).map([&c](const QStringList &apps) { c.bypassApps.set(apps); });
+    return Failure(QStringLiteral("There is no setting \"%1\". Settings: %2.")
+                       .arg(name, settingNames().join(QStringLiteral(", "))));
+}
+
+} // namespace veldmark

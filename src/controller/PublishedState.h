@@ -1,0 +1,28 @@
+#pragma once
+
+#include "base/Result.h"
+
+#include <QJsonObject>
+#include <QString>
+#include <QStringList>
+
+namespace veldmark {
+
+class TorController;
+
+// The controller's fields as other programs see them: `veldmarkctl status --json`, the local
+// socket, scripts.
+
+// Every published field under its field name, in the order of the header. An enumeration is its
+// case name as a string; a case with a payload an object with that one key ({"exposed":
+// "203.0.113.7"}, {"leak": ["…"]}); an absent optional is null. And "title", the headline.
+QJsonObject publishedState(const TorController &controller);
+
+// The fields that a user may set, by name.
+QStringList settingNames();
+
+// Sets the setting `name` from its text: "true"/"false" (also on/off, yes/no, 1/0) for switches,
+// a JSON array of strings for lists, the raw value for choices. The error is one line.
+Result<void, QString> setSetting(TorController &controller, const QString &name, const QString &text);
+
+} // namespace veldmark

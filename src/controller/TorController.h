@@ -1,0 +1,237 @@
+#pragma once
+
+#include "bridges/BridgeChoice.h"
+#include "bridges/PluggableTransports.h"
+#include "bridges/SpeedTest.h"
+#include "checks/DNSStatus.h"
+#include "checks/LeakStatus.h"
+#include "circuits/CircuitTable.h"
+#include "controller/Published.h"
+#include "controller/SessionTypes.h"
+
+#include "base/Result.h"
+#include "base/RoutingMode.h"
+
+#include <QObject>
+#include <QStringList>
+
+#include <qcorotask.h>
+
+#include <functional>
+#include <optional>
+
+namespace veldmark {
+
+class Clock;
+class ControlPort;
+class ControlPortError;
+class NetworkProbe;
+class PrivilegedRunner;
+class ProcessRunner;
+class ResolverSource;
+class TerminalIntegration;
+struct IPCheck;
+struct PlatformProfile;
+
+// A bootstrap report of Tor's, as much of it as is shown.
+struct BootstrapStatus {
+    int progress = 0; // per cent
+    QString summary;  // Tor's own words; empty when the report has none
+};
+
+// The one object that holds what the program knows: the user's settings, the session with Tor, and
+// the results of the checks. Views read its fields and call its operations; only the operations
+// write state. It lives, and is used, on the main thread alone.
+//
+// The operations are coroutines that suspend while they wait; each has its own source file
+// (Connect.cpp, Disconnect.cpp, Monitoring.cpp, …). They report through the fields, never by a
+// result. Whether the network is set up for Tor is not this object's memory to tell but the
+// helper's session marker: `isSessionMarkerPresent()`.
+class TorController : public QObject {
+    Q_OBJECT
+
+public:
+    // What the controller needs from outside. Everything must outlive the controller.
+    struct Services {
+        const PlatformProfile &profile;
+        SettingsStore &settings;
+        Clock &clock;
+        ProcessRunner &processes;
+        PrivilegedRunner &privileged;
+        ControlPort &controlPort;
+        NetworkProbe &probe;
+        ResolverSource &resolvers;
+        TerminalIntegration &terminal;
+        std::function<QCoro::Task<PluggableTransports>()> locateTransports;
+        BridgeProbe bridgeProbe;
+    };
+
+    // Registers the settings' defaults, reads the settings, and starts looking for transports
+    // (off the main thread; `transports` is set when they are found).
+    explicit TorController(const Services &services, QObject *parent = nullptr);
+    ~TorController() override;
+
+    // --- The user's settings; each `set` is stored at once. ---
+    Setting<bool> strictMode;        // the next connection's mode: kill switch, else proxy
+    Setting<bool> allowLocalNetwork; // strict mode lets the local network through
+    Setting<QString> exitCountry;    // two lower-case letters; empty = any
+    Setting<QString> customTorPath;  // empty = search the standard places
+    Setting<BridgeChoice> bridgeChoice; // for the next connection
+    Setting<QString> customBridges;  // the user's lines as typed
+    Setting<QStringList> bypassApps; // paths of applications that are launched outside Tor
+    Setting<bool> autoConnect;
+    Setting<bool> optimizeSpeed;     // test bridges before, re-time the path after connecting
+    Setting<bool> terminalMode;      // command-line tools go through Tor while connected
+
+    // --- The session. ---
+    Published<ConnectionPhase> phase;
+    Published<std::optional<RoutingMode>> activeMode; // absent when no session
+    Published<std::optional<BridgeChoice>> activeBridge;
+    Published<double> bootstrapProgress; // 0…1
+    Published<QString> statusDetail;     // the line under the title
+    Published<bool> canCancel;           // a connect attempt may be ended by disconnect()
+    Published<std::optional<QString>> errorMessage; // the banner; absent = none
+    Published<quint64> bytesRead;        // since Tor started
+    Published<quint64> bytesWritten;
+
+    // --- The checks. ---
+    Published<std::optional<QString>> exitIP;
+    Published<std::optional<bool>> torVerified; // absent = not checked yet
+    Published<LeakStatus> leakStatus;
+    Published<DNSStatus> dnsStatus;
+    Published<bool> isChecking;
+    Published<std::optional<int>> latencyMs; // of a request through Tor, milliseconds
+    Published<std::optional<QString>> optimizeStatus;
+    Published<bool> isOptimizing;
+
+    // --- Circuits, transports, and the settings' own messages. ---
+    Published<std::vector<CircuitInfo>> circuits;
+    Published<std::optional<QString>> circuitError;
+    Published<PluggableTransports> transports;
+    Published<std::optional<QString>> transportDownload;
+    Published<bool> passwordlessInstalled;
+    Published<std::optional<QString>> startupError;
+    Published<std::optional<QString>> terminalError;
+
+    // --- Derived from the fields. ---
+    QString title() const;
+    QString menuBarSymbol() const;
+    bool optionsLocked() const;
+    bool canDownloadTransports() const;
+    bool canLaunchBypassed() const;
+    bool isSessionMarkerPresent() const;
+    // The executable to use: the custom path, then the standard places; absent when none is
+    // executable. Asks the file system.
+    std::optional<QString> torPath() const;
+    const PlatformProfile &profile() const { return m_services.profile; }
+
+    // --- Operations: session. ---
+    // From `disconnected` or `stale` to `connected`; in any other phase does nothing.
+    QCoro::Task<void> connect();
+    // Restores the network. Accepted when connected, stale, or connecting with `canCancel`.
+    QCoro::Task<void> disconnect();
+    // At start-up, before anything shows state: finds a session left from an earlier run.
+    void detectStaleState();
+    // At start-up: connects when the user wants it, nothing is left over and tor is there.
+    QCoro::Task<void> autoConnectIfEnabled();
+
+    // --- Operations: checks and circuits; each does nothing unless connected. ---
+    QCoro::Task<void> runChecks();
+    QCoro::Task<void> checkDNS(bool live);
+    QCoro::Task<void> fixDNS();
+    QCoro::Task<void> refreshCircuits();
+    QCoro::Task<void> newIdentity();
+    QCoro::Task<void> newCircuit(QString id);
+    QCoro::Task<void> optimizeCircuits();
+
+    // The user has read the banner.
+    void dismissError() { errorMessage = std::nullopt; }
+
+    // --- Operations: helper without a password, terminal. ---
+    // Reinstalls the root-owned helper when the program brought a newer one.
+    QCoro::Task<void> updatePrivilegedHelper();
+    QCoro::Task<void> installPasswordless();
+    QCoro::Task<void> removePasswordless();
+    void setTerminalMode(bool on);
+    void removeTerminalIntegration();
+
+    // Reads the value of Tor's "status/bootstrap-phase".
+    static BootstrapStatus parseBootstrap(const QString &reply);
+    // `bytes` bytes of the system's secure random source as lower-case hexadecimal digits.
+    static QString randomHex(int bytes);
+
+Q_SIGNALS:
+    void strictModeChanged();
+    void allowLocalNetworkChanged();
+    void exitCountryChanged();
+    void customTorPathChanged();
+    void bridgeChoiceChanged();
+    void customBridgesChanged();
+    void bypassAppsChanged();
+    void autoConnectChanged();
+    void optimizeSpeedChanged();
+    void terminalModeChanged();
+    void phaseChanged();
+    void activeModeChanged();
+    void activeBridgeChanged();
+    void bootstrapProgressChanged();
+    void statusDetailChanged();
+    void canCancelChanged();
+    void errorMessageChanged();
+    void bytesReadChanged();
+    void bytesWrittenChanged();
+    void exitIPChanged();
+    void torVerifiedChanged();
+    void leakStatusChanged();
+    void dnsStatusChanged();
+    void isCheckingChanged();
+    void latencyMsChanged();
+    void optimizeStatusChanged();
+    void isOptimizingChanged();
+    void circuitsChanged();
+    void circuitErrorChanged();
+    void transportsChanged();
+    void transportDownloadChanged();
+    void passwordlessInstalledChanged();
+    void startupErrorChanged();
+    void terminalErrorChanged();
+
+private:
+    using Attempt = quint64;
+
+    // Connect.cpp
+    QCoro::Task<Result<QString, QString>> hashPassword(QString password, QString tor);
+    QCoro::Task<Result<void, QString>> waitForBootstrap(Attempt attempt);
+    QCoro::Task<Result<QStringList, QString>> bridgeArguments(Attempt attempt);
+    // Makes every operation that is still under way an old one and clears what it left shown.
+    Attempt startAttempt();
+    bool isCurrent(Attempt attempt) const { return attempt == m_attempt; }
+    void resetSessionInfo();
+    void settleAfterFailure();
+    QString connectedDetail() const;
+    void failAttempt(const QString &message);
+    // Monitoring.cpp
+    void startMonitoring();
+    void stopMonitoring() { ++m_monitor; }
+    QCoro::Task<void> monitor(quint64 run);
+    void torDied();
+    QCoro::Task<std::pair<std::optional<IPCheck>, int>> timedViaTor();
+    // Circuits.cpp
+    QCoro::Task<std::vector<RelayInfo>> resolveRelays(std::vector<RelayInfo> relays, QString password);
+    // State.cpp
+    QCoro::Task<void> locateTransports();
+    void applyTerminalMode();
+    void loadSettings();
+
+    Services m_services;
+    Attempt m_attempt = 0;  // the running connect or disconnect; older ones end silently
+    quint64 m_monitor = 0;  // the running monitor loop
+    std::optional<QString> m_controlPassword; // of the running session; in memory only
+    bool m_dnsLiveVerified = false;           // a live DNS check passed in this session
+    QStringList m_pendingBridgeLines;         // of the connection being set up
+    QStringList m_activeBridgeLines;          // of the running session
+    RelayCache m_relayCache;
+    SiteHistory m_siteHistory;
+};
+
+} // namespace veldmark

@@ -1,0 +1,40 @@
+#include "instance/InstanceClient.h"
+
+#include "instance/JsonLines.h"
+#include "platform/PlatformProfile.h"
+
+namespace veldmark {
+
+namespace {
+constexpr int connectLimitMs = 2000; // a local socket answers at once or not at all
+} // namespace
+
+std::shared_ptr<InstanceClient> InstanceClient::connectTo(const PlatformProfile &profile)
+{
+    auto socket = std::make_unique<QLocalSocket>();
+    socket->connectToServer(profile.controlSocket);
+    if (!socket->waitForConnected(connectLimitMs))
+        return nullptr;
+    return std::shared_ptr<InstanceClient>(new InstanceClient(JsonLines::over(socket.release())));
+}
+
+QCoro::Task<Result<void, QString>>
+InstanceClient::run(QJsonObject request, std::function<void(const QJsonObject &)> onState)
+{
+    const auto lines = m_lines;
+    lines->write(request);
+    for (;;) {
+        const auto answer = co_await lines->next();
+        if (!answer)
+            co_return Failure(QStringLiteral("Veldmark stopped before it had answered."));
+        if (const QJsonValue state = answer->value(QStringLiteral("state")); state.isObject()) {
+            onState(state.toObject());
+            continue;
+        }
+        if (answer->value(QStringLiteral("ok")).toBool())
+            co_return {};
+        co_return Failure(answer->value(QStringLiteral("error")).toString());
+    }
+}
+
+} // namespace veldmark

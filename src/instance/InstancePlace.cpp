@@ -1,0 +1,48 @@
+#include "instance/InstancePlace.h"
+
+#include "platform/PlatformProfile.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace veldmark {
+
+namespace {
+
+// A folder that only its owner can enter, and whose owner is this user.
+bool isPrivateFolder(const QString &folder)
+{
+    struct stat info {};
+    return lstat(QFile::encodeName(folder).constData(), &info) == 0 && S_ISDIR(info.st_mode)
+        && info.st_uid == geteuid() && (info.st_mode & 0077) == 0;
+}
+
+} // namespace
+
+Result<std::shared_ptr<QLockFile>, QString> lockInstance(const PlatformProfile &profile)
+{
+    const QString folder = QFileInfo(profile.controlSocket).path();
+    if (!QFileInfo::exists(folder)) {
+        QDir().mkpath(QFileInfo(folder).path());
+        ::mkdir(QFile::encodeName(folder).constData(), 0700);
+    }
+    if (!isPrivateFolder(folder))
+        return Failure(QStringLiteral("%1 must be a folder of your own with mode 0700: the control "
+                                      "socket goes there.").arg(folder));
+    auto lock = std::make_shared<QLockFile>(folder + QStringLiteral("/lock"));
+    lock->setStaleLockTime(0); // held for as long as the process lives, never stale by age
+    if (lock->tryLock(0))
+        return lock;
+    if (lock->error() != QLockFile::LockFailedError)
+        return Failure(QStringLiteral("Couldn't write %1/lock.").arg(folder));
+    qint64 pid = 0;
+    QString host;
+    QString program;
+    lock->getLockInfo(&pid, &host, &program);
+    return Failure(QStringLiteral("Veldmark is already running (process %1).").arg(pid));
+}
+
+} // namespace veldmark

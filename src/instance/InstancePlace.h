@@ -1,0 +1,19 @@
+#pragma once
+
+#include "base/Result.h"
+
+#include <QLockFile>
+
+#include <memory>
+
+namespace veldmark {
+
+struct PlatformProfile;
+
+// Takes the lock that makes this process the user's one instance, creating the folder of the
+// profile's control socket (0700) when it is missing. The error is one line: another instance
+// runs, or the folder is not the user's own. The lock is free again when the process ends,
+// however it ends.
+Result<std::shared_ptr<QLockFile>, QString> lockInstance(const PlatformProfile &profile);
+
+} // namespace veldmark

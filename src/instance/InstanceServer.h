@@ -1,0 +1,53 @@
+#pragma once
+
+#include "base/Result.h"
+
+#include <QJsonObject>
+#include <QLocalServer>
+#include <QLockFile>
+#include <QObject>
+
+#include <qcorotask.h>
+
+#include <memory>
+
+// The room of the one running program: InstanceServer is how it takes commands, InstanceClient how
+// another process gives them. They speak JSON, one object a line, over a local socket in a folder
+// that only the user can enter.
+//
+//     → {"command": "connect"}                      also "set" with "key" and "value", …
+//     ← {"state": {…every published field…}}        any number of these, as they change
+//     ← {"ok": true}   or   {"ok": false, "error": "one line"}     the last line of the answer
+//
+// A connection carries one command.
+namespace veldmark {
+
+class JsonLines;
+class TorController;
+
+// Lives on the controller's thread, which it must not outlive.
+class InstanceServer : public QObject {
+    Q_OBJECT
+
+public:
+    // Becomes the user's one instance: takes the lock beside the socket, then listens. The error
+    // is one line: another instance runs, or the folder cannot be used.
+    static Result<std::unique_ptr<InstanceServer>, QString> start(TorController &controller);
+    ~InstanceServer() override;
+
+Q_SIGNALS:
+    // Somebody started the program a second time and wants to see it.
+    void raiseRequested();
+
+private:
+    explicit InstanceServer(TorController &controller);
+    void accept();
+    QCoro::Task<void> serve(std::shared_ptr<JsonLines> lines);
+    QCoro::Task<Result<void, QString>> execute(QJsonObject request, std::shared_ptr<JsonLines> lines);
+
+    TorController &m_controller;
+    std::shared_ptr<QLockFile> m_lock;
+    QLocalServer m_server;
+};
+
+} // namespace veldmark
