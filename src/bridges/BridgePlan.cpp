@@ -1,0 +1,105 @@
+#include "bridges/BridgePlan.h"
+
+#include "bridges/BridgeLines.h"
+#include "bridges/TCPProbe.h"
+
+#include <algorithm>
+
+namespace veldmark {
+
+namespace {
+const QString snowflake = QStringLiteral("snowflake");
+const QString webtunnel = QStringLiteral("webtunnel");
+} // namespace
+
+Result<QStringList, BridgeError> selectedBridgeLines(const BridgeRequest &request,
+                                                     const PluggableTransports &transports)
+{
+    return request.choice == BridgeChoice::custom ? BridgeLines::custom(request.customBridges)
+                                                  : transports.builtinLines(request.choice);
+}
+
+Result<QStringList, BridgeError> bridgeArguments(const QStringList &lines,
+                                                 const PluggableTransports &transports)
+{
+    QStringList arguments;
+    QSet<QString> used;
+    for (const QString &line : lines) {
+        arguments << QStringLiteral("--bridge") << line;
+        if (const std::optional<QString> transport = BridgeLines::transport(line))
+            used.insert(*transport);
+    }
+
+    QSet<QString> byLyrebird = used;
+    byLyrebird.intersect(PluggableTransports::lyrebirdTransports());
+    QSet<QString> unsupported = used;
+    unsupported.subtract(byLyrebird).remove(snowflake);
+    if (!unsupported.isEmpty()) {
+        const QString first = *std::min_element(unsupported.cbegin(), unsupported.cend());
+        return Failure(BridgeError::unavailable(
+            QStringLiteral("The %1 bridge type isn't supported yet.").arg(first)));
+    }
+
+    if (used.contains(webtunnel) && transports.webtunnel) {
+        byLyrebird.remove(webtunnel);
+        arguments << QStringLiteral("--pt-webtunnel") << *transports.webtunnel;
+    }
+    if (!byLyrebird.isEmpty()) {
+        if (!transports.lyrebird)
+            return Failure(BridgeError::unavailable(
+                QStringLiteral("These bridges need lyrebird, which comes with Tor Browser. Click "
+                               "Download next to Bridges to get it.")));
+        arguments << QStringLiteral("--pt-lyrebird") << *transports.lyrebird;
+    }
+    if (used.contains(snowflake)) {
+        if (!transports.snowflake)
+            return Failure(BridgeError::unavailable(
+                QStringLiteral("Snowflake needs snowflake-client, which comes with Tor Browser. "
+                               "Click Download next to Bridges to get it.")));
+        arguments << QStringLiteral("--pt-snowflake") << *transports.snowflake;
+    }
+    return arguments;
+}
+
+QCoro::Task<BridgePlan> planBridges(BridgeRequest request, BridgeTools tools)
+{
+    BridgePlan plan{std::nullopt, std::nullopt, QStringList()};
+    if (request.choice == BridgeChoice::off)
+        co_return plan;
+
+    auto search = tools.locate();
+    const PluggableTransports found = co_await search;
+    plan.transports = found;
+
+    const Result<QStringList, BridgeError> selected = selectedBridgeLines(request, found);
+    if (!selected) {
+        plan.arguments = Failure(selected.error());
+        co_return plan;
+    }
+    QStringList lines = *selected;
+    if (request.optimizeSpeed) {
+        auto test = fastestBridges(lines, tools.probe, tools.status);
+        const QStringList fastest = co_await test;
+        lines = fastest;
+    }
+    plan.lines = lines;
+    plan.arguments = bridgeArguments(lines, found);
+    co_return plan;
+}
+
+BridgeTools BridgeTools::real(PlatformProfile profile,
+                              std::function<std::optional<QString>()> bundleVersion, Clock *clock,
+                              std::function<void(QString)> status)
+{
+    return {
+        [profile, bundleVersion] {
+            return PluggableTransports::locateAsync(profile, bundleVersion());
+        },
+        [clock](QString host, quint16 port, std::chrono::milliseconds limit) {
+            return TCPProbe::connectTime(std::move(host), port, limit, clock);
+        },
+        std::move(status),
+    };
+}
+
+} // namespace veldmark

@@ -1,0 +1,62 @@
+#include "bridges/ChildOutput.h"
+
+#include <QDeadlineTimer>
+#include <QProcess>
+
+#include <signal.h>
+#include <unistd.h>
+
+namespace veldmark {
+
+namespace {
+
+// Only while the child has not been waited for: until then its number cannot belong to another.
+void end(QProcess &process)
+{
+    if (process.state() == QProcess::NotRunning)
+        return;
+    ::kill(-static_cast<pid_t>(process.processId()), SIGKILL);
+    process.kill();
+    process.waitForFinished();
+}
+
+} // namespace
+
+std::optional<QByteArray> childOutput(const QString &program, const QStringList &arguments,
+                                      const QProcessEnvironment &environment, ChildLimits limits,
+                                      const std::function<bool(const QByteArray &)> &isEnough)
+{
+    const QDeadlineTimer deadline(limits.time);
+    QProcess process;
+    process.setProgram(program);
+    process.setArguments(arguments);
+    process.setProcessEnvironment(environment);
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.setChildProcessModifier([] { ::setsid(); });
+    process.start();
+    if (!process.waitForStarted(static_cast<int>(deadline.remainingTime()))) {
+        end(process);
+        return std::nullopt;
+    }
+
+    QByteArray output;
+    for (;;) {
+        const bool isOver = process.state() == QProcess::NotRunning;
+        output += process.readAllStandardOutput();
+        if (output.size() > limits.outputBytes)
+            break;
+        if (isOver || (isEnough && isEnough(output))) {
+            end(process);
+            return output;
+        }
+        if (deadline.hasExpired())
+            break;
+        // A child that has closed its output and runs on is waited for, not polled.
+        if (!process.waitForReadyRead(static_cast<int>(deadline.remainingTime())))
+            process.waitForFinished(static_cast<int>(deadline.remainingTime()));
+    }
+    end(process);
+    return std::nullopt;
+}
+
+} // namespace veldmark

@@ -1,0 +1,105 @@
+#include "bridges/ManagedProxy.h"
+
+#include "bridges/ChildOutput.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace veldmark {
+
+namespace {
+
+constexpr qsizetype outputLimitBytes = 64 * 1024;
+
+// Whether nobody but root can put another program in place of this one: it and every folder above
+// it belong to root and to nobody else's pen. A folder whose entries only their owners may replace
+// (the sticky bit, as on /tmp) will do.
+bool isRootsOwn(const QString &program)
+{
+    QString path = QFileInfo(program).canonicalFilePath();
+    bool isFolder = false;
+    while (!path.isEmpty()) {
+        struct stat status = {};
+        if (::lstat(QFile::encodeName(path).constData(), &status) != 0 || status.st_uid != 0)
+            return false;
+        const bool isOpen = (status.st_mode & (S_IWGRP | S_IWOTH)) != 0;
+        if (isOpen && !(isFolder && (status.st_mode & S_ISVTX) != 0))
+            return false;
+        if (path == u"/")
+            return true;
+        path = path.left(qMax(qsizetype(1), path.lastIndexOf(u'/')));
+        isFolder = true;
+    }
+    return false;
+}
+
+template <typename Use>
+void forEachLine(QByteArrayView output, Use use)
+{
+    while (!output.isEmpty()) {
+        const qsizetype end = output.indexOf('\n');
+        if (end < 0)
+            return; // not whole yet
+        use(output.first(end).trimmed());
+        output = output.sliced(end + 1);
+    }
+}
+
+} // namespace
+
+QStringList announcedTransports(QByteArrayView output)
+{
+    QStringList transports;
+    forEachLine(output, [&transports](QByteArrayView line) {
+        const QByteArrayList words = line.toByteArray().simplified().split(' ');
+        if (words.size() == 4 && words[0] == "CMETHOD")
+            transports.append(QString::fromUtf8(words[1]));
+    });
+    return transports;
+}
+
+bool isAnnouncementComplete(QByteArrayView output)
+{
+    bool isComplete = false;
+    forEachLine(output, [&isComplete](QByteArrayView line) {
+        isComplete = isComplete || line == "CMETHODS DONE" || line.startsWith("VERSION-ERROR")
+            || line.startsWith("ENV-ERROR") || line.startsWith("PROXY-ERROR");
+    });
+    return isComplete;
+}
+
+QStringList servedTransports(const QString &program, const QStringList &asked,
+                             std::chrono::milliseconds limit)
+{
+    if (::geteuid() == 0 && !isRootsOwn(program))
+        return {};
+    const QTemporaryDir state;
+    if (!state.isValid())
+        return {};
+
+    QProcessEnvironment environment;
+    const auto set = [&environment](const char *name, const QString &value) {
+        environment.insert(QLatin1String(name), value);
+    };
+    set("PATH", QStringLiteral("/usr/bin:/bin"));
+    set("HOME", state.path());
+    set("TOR_PT_MANAGED_TRANSPORT_VER", QStringLiteral("1"));
+    set("TOR_PT_STATE_LOCATION", state.path());
+    set("TOR_PT_EXIT_ON_STDIN_CLOSE", QStringLiteral("1"));
+    set("TOR_PT_CLIENT_TRANSPORTS", asked.join(u','));
+
+    const std::optional<QByteArray> output =
+        childOutput(program, {}, environment, {limit, outputLimitBytes},
+                    [](const QByteArray &soFar) { return isAnnouncementComplete(soFar); });
+    if (!output || !isAnnouncementComplete(*output))
+        return {};
+    QStringList served = announcedTransports(*output);
+    served.removeIf([&asked](const QString &name) { return !asked.contains(name); });
+    return served;
+}
+
+} // namespace veldmark

@@ -1,0 +1,195 @@
+#include "bridges/PluggableTransports.h"
+
+#include "base/ResumeOnce.h"
+#include "bridges/BridgeLines.h"
+#include "bridges/ChildOutput.h"
+#include "bridges/FileSearch.h"
+#include "bridges/ManagedProxy.h"
+#include "bridges/TransportFiles.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QThreadPool>
+
+#include <algorithm>
+
+using namespace std::chrono_literals;
+
+namespace veldmark {
+
+namespace {
+
+constexpr qint64 configurationLimitBytes = 16 * 1024 * 1024;
+constexpr ChildLimits unzipLimits{20s, 16 * 1024 * 1024};
+const QString snowflakeTransport = QStringLiteral("snowflake");
+
+bool isProgram(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.isFile() && file.isExecutable();
+}
+
+// Empty when there is no such file, or none of a sensible size. Never opens a pipe or a device.
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray content = file.read(configurationLimitBytes + 1);
+    return content.size() > configurationLimitBytes ? QByteArray() : content;
+}
+
+QMap<QString, QStringList> bridgesOfArchive(const QString &unzip, const QString &archive)
+{
+    // Options of unzip that the user has set for himself would change what it prints.
+    QProcessEnvironment environment;
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    const std::optional<QByteArray> preferences = childOutput(
+        unzip,
+        {QStringLiteral("-p"), archive, QStringLiteral("defaults/preferences/000-tor-browser.js")},
+        environment, unzipLimits);
+    if (!preferences)
+        return {};
+    return bridgesOfPreferences(QString::fromUtf8(*preferences));
+}
+
+// One search over all places. Knows besides what it has found whether the place of the lyrebird
+// that counts says that it serves snowflake.
+class Search {
+public:
+    explicit Search(QString unzip) : m_unzip(std::move(unzip)) {}
+
+    void scan(const QString &root, const QString &label)
+    {
+        const bool wasEmpty = m_found.builtin.isEmpty();
+        QStringList archives;
+        QStringList configurations;
+        bool hasLyrebird = false;
+        const QStringList files =
+            filesNamed(root, {"lyrebird", "snowflake-client", "webtunnel-client", "pt_config.json", "omni.ja"});
+        for (const QString &path : files) {
+            const QStringView name = QStringView(path).sliced(path.lastIndexOf(u'/') + 1);
+            if (name == u"lyrebird" && isProgram(path)) {
+                m_found.lyrebird = path;
+                hasLyrebird = true;
+            } else if (name == u"snowflake-client" && !m_found.snowflake && isProgram(path)) {
+                m_found.snowflake = path;
+            } else if (name == u"webtunnel-client" && !m_found.webtunnel && isProgram(path)) {
+                m_found.webtunnel = path;
+            } else if (name == u"pt_config.json") {
+                configurations.append(path);
+            } else if (name == u"omni.ja") {
+                archives.append(path);
+            }
+        }
+
+        QStringList served;
+        for (const QString &path : configurations) {
+            const QByteArray configuration = readFile(path);
+            if (m_found.builtin.isEmpty())
+                m_found.builtin = bridgesOfTransportConfiguration(configuration);
+            if (hasLyrebird)
+                served += transportsOfPluginLines(configuration, QStringLiteral("lyrebird"));
+        }
+        if (hasLyrebird)
+            m_lyrebirdSaysSnowflake = served.contains(snowflakeTransport);
+
+        for (const QString &archive : archives) {
+            if (m_found.builtin.isEmpty())
+                m_found.builtin = bridgesOfArchive(m_unzip, archive);
+        }
+        if (wasEmpty && !m_found.builtin.isEmpty())
+            m_found.source = label;
+    }
+
+    // Programs that belong to no bundle.
+    void searchFolders(const QStringList &folders)
+    {
+        if (!m_found.lyrebird)
+            m_found.lyrebird = firstProgram(
+                folders, {QStringLiteral("lyrebird"), QStringLiteral("obfs4proxy")});
+        if (!m_found.snowflake)
+            m_found.snowflake = firstProgram(folders, {QStringLiteral("snowflake-client")});
+    }
+
+    PluggableTransports result()
+    {
+        if (!m_found.snowflake && m_found.lyrebird
+            && (m_lyrebirdSaysSnowflake
+                || servedTransports(*m_found.lyrebird, {snowflakeTransport})
+                       .contains(snowflakeTransport)))
+            m_found.snowflake = m_found.lyrebird;
+        return m_found;
+    }
+
+private:
+    static std::optional<QString> firstProgram(const QStringList &folders, const QStringList &names)
+    {
+        for (const QString &folder : folders) {
+            for (const QString &name : names) {
+                const QString path = folder + u'/' + name;
+                if (isProgram(path))
+                    return path;
+            }
+        }
+        return std::nullopt;
+    }
+
+    QString m_unzip;
+    PluggableTransports m_found;
+    bool m_lyrebirdSaysSnowflake = false;
+};
+
+} // namespace
+
+const QSet<QString> &PluggableTransports::lyrebirdTransports()
+{
+    static const QSet<QString> transports = {
+        QStringLiteral("obfs4"), QStringLiteral("meek_lite"), QStringLiteral("webtunnel"),
+        QStringLiteral("obfs3"), QStringLiteral("scramblesuit")};
+    return transports;
+}
+
+Result<QStringList, BridgeError> PluggableTransports::builtinLines(BridgeChoice choice) const
+{
+    const QStringList keys = builtinKeys(choice);
+    for (const QString &key : keys) {
+        QStringList lines = builtin.value(key);
+        if (key != keys.constFirst()) {
+            lines.removeIf([&keys](const QString &line) {
+                return BridgeLines::transport(line) != keys.constFirst();
+            });
+        }
+        if (!lines.isEmpty())
+            return lines;
+    }
+    return Failure(BridgeError::unavailable(
+        QStringLiteral("Built-in %1 bridges come from Tor Browser. Click Download next to Bridges, "
+                       "install Tor Browser, or paste your own under Bridges → Custom….")
+            .arg(displayName(choice))));
+}
+
+PluggableTransports PluggableTransports::locate(const PlatformProfile &profile,
+                                                std::optional<QString> bundleVersion)
+{
+    Search search(profile.unzip);
+    for (const ProgramRoot &root : profile.transportRoots()) {
+        const bool hasVersion =
+            root.path == profile.bundleDirectory && bundleVersion && !bundleVersion->isEmpty();
+        search.scan(root.path, hasVersion ? root.label + u' ' + *bundleVersion : root.label);
+    }
+    search.searchFolders(profile.transportDirectories);
+    return search.result();
+}
+
+QCoro::Task<PluggableTransports>
+PluggableTransports::locateAsync(PlatformProfile profile, std::optional<QString> bundleVersion)
+{
+    const ResumeOnce<PluggableTransports> found;
+    QThreadPool::globalInstance()->start(
+        [found, profile, bundleVersion] { found.complete(locate(profile, bundleVersion)); });
+    PluggableTransports transports = co_await found;
+    co_return transports;
+}
+
+} // namespace veldmark
