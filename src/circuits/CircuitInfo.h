@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QDateTime>
+#include <QHash>
+#include <QJsonObject>
+#include <QString>
+#include <QStringList>
+
+#include <chrono>
+#include <optional>
+#include <vector>
+
+// The room of Tor's circuits: these records, CircuitParser that makes them from Tor's replies,
+// CircuitTable that joins one refresh into a list, and CircuitGraph with GraphLayout that turn the
+// list into a picture. Everything here is a value or a pure function; nothing talks to Tor.
+namespace veldmark {
+
+// One relay on a circuit's path.
+struct RelayInfo {
+    QString fingerprint; // upper-case hexadecimal without "$"
+    QString nickname;    // the first eight characters of the fingerprint where Tor gives none
+    std::optional<QString> ip;      // absent until resolved, and where Tor knows none
+    std::optional<QString> country; // two letters as Tor writes them, lower case
+
+    friend bool operator==(const RelayInfo &, const RelayInfo &) = default;
+
+    // Keys are the field names; an absent field is null.
+    QJsonObject toJson() const;
+};
+
+size_t qHash(const RelayInfo &relay, size_t seed = 0);
+
+// One built circuit.
+struct CircuitInfo {
+    QString id;                  // Tor's circuit number, as text
+    std::vector<RelayInfo> hops; // the guard or bridge first, the exit last; never empty when parsed
+    QString purpose; // "GENERAL", "CONFLUX" for a linked leg of a conflux set, or Tor's own word
+    std::optional<QDateTime> created; // UTC, milliseconds
+    QStringList sites; // host names and addresses seen on this circuit, each once
+
+    // What Tor says beyond the above.
+    QString confluxID; // the legs of one conflux set have the same; empty on other circuits
+    std::optional<std::chrono::microseconds> roundTrip; // measured by Tor on conflux legs
+    bool isOneHopTunnel = false; // a directory fetch, no path for the user's traffic
+    bool isInternal = false;     // for Tor's own ends; does not leave through an exit
+
+    friend bool operator==(const CircuitInfo &, const CircuitInfo &) = default;
+
+    // Keys id, hops, purpose, created (ISO 8601 in UTC with milliseconds, or null), sites; and
+    // "rtt" in microseconds only where Tor has measured one.
+    QJsonObject toJson() const;
+};
+
+size_t qHash(const CircuitInfo &circuit, size_t seed = 0);
+
+} // namespace veldmark

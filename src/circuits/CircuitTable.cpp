@@ -1,0 +1,142 @@
+#include "circuits/CircuitTable.h"
+
+#include "circuits/CircuitParser.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace veldmark {
+
+namespace {
+
+bool carriesUserTraffic(const CircuitInfo &circuit)
+{
+    return !circuit.isOneHopTunnel
+        && (circuit.purpose == u"GENERAL" || circuit.purpose == u"CONFLUX");
+}
+
+std::vector<CircuitInfo> keptCircuits(const QStringList &lines)
+{
+    std::vector<CircuitInfo> kept;
+    QSet<QString> ids;
+    for (const QString &line : lines) {
+        std::optional<CircuitInfo> circuit = CircuitParser::circuit(line);
+        if (!circuit || !carriesUserTraffic(*circuit) || ids.contains(circuit->id))
+            continue;
+        ids.insert(circuit->id);
+        kept.push_back(std::move(*circuit));
+    }
+    return kept;
+}
+
+// What shares one list of sites: a whole conflux set, or a single circuit. Circuit numbers are
+// digits and hold no blank, so the two kinds cannot meet.
+QString sharingKey(const CircuitInfo &circuit)
+{
+    return circuit.confluxID.isEmpty() ? circuit.id : QStringLiteral("set ") + circuit.confluxID;
+}
+
+// An ordered list of sites without duplicates; a busy circuit may have thousands.
+struct Sites {
+    QStringList names;
+    QSet<QString> known;
+
+    void add(const QString &site)
+    {
+        if (site.isEmpty() || known.contains(site))
+            return;
+        known.insert(site);
+        names.append(site);
+    }
+};
+
+void joinSites(std::vector<CircuitInfo> &circuits, const QStringList &streamLines,
+               SiteHistory &history)
+{
+    QHash<QString, QString> keys; // circuit id → sharing key
+    QHash<QString, Sites> sites;  // sharing key → sites
+    for (const CircuitInfo &circuit : circuits) {
+        const QString key = sharingKey(circuit);
+        keys.insert(circuit.id, key);
+        Sites &shared = sites[key];
+        for (const QString &site : history.value(circuit.id))
+            shared.add(site);
+    }
+    for (const QString &line : streamLines) {
+        const auto stream = CircuitParser::stream(line);
+        if (!stream)
+            continue;
+        const auto key = keys.constFind(stream->circuitID);
+        if (key != keys.constEnd())
+            sites[*key].add(stream->host);
+    }
+    history.clear();
+    for (CircuitInfo &circuit : circuits) {
+        circuit.sites = sites.value(keys.value(circuit.id)).names;
+        if (!circuit.sites.isEmpty())
+            history.insert(circuit.id, circuit.sites);
+    }
+}
+
+bool isHexadecimal(const QString &text)
+{
+    return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar c) {
+        return (c >= u'0' && c <= u'9') || (c >= u'A' && c <= u'F');
+    });
+}
+
+std::vector<RelayInfo> missingRelays(const std::vector<CircuitInfo> &circuits,
+                                     const RelayCache &cache)
+{
+    std::vector<RelayInfo> missing;
+    QSet<QString> seen;
+    for (const CircuitInfo &circuit : circuits) {
+        for (const RelayInfo &hop : circuit.hops) {
+            if (cache.contains(hop.fingerprint) || seen.contains(hop.fingerprint)
+                || !isHexadecimal(hop.fingerprint))
+                continue;
+            seen.insert(hop.fingerprint);
+            missing.push_back(hop);
+        }
+    }
+    return missing;
+}
+
+bool comesBefore(const CircuitInfo &left, const CircuitInfo &right)
+{
+    if (left.sites.isEmpty() != right.sites.isEmpty())
+        return right.sites.isEmpty();
+    if (!left.created || !right.created)
+        return left.created && !right.created;
+    return *left.created > *right.created;
+}
+
+} // namespace
+
+CircuitTable CircuitTable::assemble(const QStringList &circuitLines, const QStringList &streamLines,
+                                    SiteHistory &history, const RelayCache &cache)
+{
+    CircuitTable table;
+    table.circuits = keptCircuits(circuitLines);
+    joinSites(table.circuits, streamLines, history);
+    fillRelays(table.circuits, cache);
+    table.unresolved = missingRelays(table.circuits, cache);
+    std::stable_sort(table.circuits.begin(), table.circuits.end(), comesBefore);
+    return table;
+}
+
+void CircuitTable::fillRelays(std::vector<CircuitInfo> &circuits, const RelayCache &cache)
+{
+    for (CircuitInfo &circuit : circuits) {
+        for (RelayInfo &hop : circuit.hops) {
+            const auto known = cache.constFind(hop.fingerprint);
+            if (known == cache.constEnd())
+                continue;
+            hop.ip = known->ip;
+            hop.country = known->country;
+        }
+    }
+}
+
+} // namespace veldmark

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "circuits/CircuitGraph.h"
+
+#include <QHash>
+#include <QPointF>
+#include <QSizeF>
+
+namespace veldmark {
+
+// Where the nodes of a graph are drawn in an area of `size` (points; the origin is the top left).
+// Columns stand at fixed fractions of the width; the nodes of a column share the height between
+// 46 points from the top and 18 from the bottom, in rows of at most 64, centred.
+struct GraphLayout {
+    QHash<QString, QPointF> positions; // node id → its centre
+
+    GraphLayout(const CircuitGraph &graph, QSizeF size);
+};
+
+} // namespace veldmark
