@@ -1,0 +1,127 @@
+"""`Lab`: the whole private Tor network as one object.
+
+    with Lab() as lab:
+        lab.host.run(["curl", "-s", "https://check.torproject.org/api/ip"], user="alice")
+
+The constructor does nothing; entering the context (or `up`) starts the lab and returns when a client could bootstrap. Leaving it
+(or `down`) returns when every process, mount, namespace, control group and file of the lab is gone.
+"""
+
+import json
+import os
+import subprocess
+import time
+from concurrent.futures import ThreadPoolExecutor
+from pathlib import Path
+
+from veldlab import capture, registry, requirements, shaping
+from veldlab import topology as at
+from veldlab.host import Host
+from veldlab.registry import LabUnavailable
+from veldlab.space import Space
+from veldlab.tor_network import TorNetwork
+from veldlab.world_services import World
+
+PROJECT = Path(__file__).resolve().parents[3]
+_SUPERVISOR = Path(__file__).resolve().with_name("supervisor.py")
+
+
+class Lab:
+    """`share`: further folders that the host is to see as they are, besides the project's tree.
+
+    `timings` holds the seconds of each step of `up`.
+    """
+
+    def __init__(self, share: list[str] = ()):
+        self.share = [str(PROJECT), *map(str, share)]
+        self.timings: dict[str, float] = {}
+        self.record: dict = {}
+        self._supervisor: subprocess.Popen | None = None
+
+    @classmethod
+    def attach(cls, record: dict) -> "Lab":
+        """A lab that another process started; `registry.find` gives the record. `down` is then the other's business."""
+        lab = cls()
+        lab._use(record)
+        return lab
+
+    def __enter__(self) -> "Lab":
+        self.up()
+        return self
+
+    def __exit__(self, *_) -> None:
+        self.down()
+
+    @property
+    def id(self) -> str:
+        return self.record["id"]
+
+    def up(self, wait: bool = True) -> None:
+        """Raises LabUnavailable when this machine or user cannot run one. Without `wait`, a consensus may still be missing."""
+        reason = requirements.missing()
+        if reason:
+            raise LabUnavailable(reason)
+        started = time.monotonic()
+        try:
+            self._step("namespaces", self._start_supervisor)
+            with ThreadPoolExecutor(2) as pool:
+                services = pool.submit(self._step, "services", self.world.start)
+                identities = self._step("keys", self.tor.make_keys)
+                self.tor.write_configuration(identities)
+                services.result()
+            self._step("nodes", self.tor.start)
+            self.host.trust(self.world.certificate_authority())
+            self.host.join_tor_network(identities)
+            if wait:
+                self.wait_consensus()
+        except BaseException:
+            self.down()
+            raise
+        self.timings["total"] = time.monotonic() - started
+
+    def wait_consensus(self, timeout: float = 60) -> None:
+        """Returns when a usable consensus with all exits stands."""
+        self._step("consensus", lambda: self.tor.wait_consensus(timeout))
+
+    def down(self) -> None:
+        """Ends the lab and returns when nothing of it is left. Safe to repeat."""
+        supervisor, self._supervisor = self._supervisor, None
+        if supervisor is None:
+            return
+        supervisor.terminate()
+        supervisor.wait()
+        supervisor.stdout.close()
+
+    def _step(self, name: str, action):
+        started = time.monotonic()
+        result = action()
+        self.timings[name] = time.monotonic() - started
+        return result
+
+    def _start_supervisor(self) -> None:
+        arguments = [registry.new_id(), str(os.getpid()), json.dumps({"share": self.share})]
+        self._supervisor = subprocess.Popen(
+            [at.PYTHON, "-B", str(_SUPERVISOR), *arguments], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True
+        )
+        line = self._supervisor.stdout.readline()
+        answer = json.loads(line) if line else {"error": "its first process ended early"}
+        if "error" in answer:
+            raise RuntimeError(f"The lab did not start: {answer['error']}")
+        self._use(answer)
+
+    def _use(self, record: dict) -> None:
+        self.record = record
+        self.host = Host(record)
+        self.spaces = {name: Space(name, record) for name in at.SPACES} | {"host": self.host}
+        self.router, self.lan = self.spaces["router"], self.spaces["lan"]
+        self.world = World(self.spaces["world"])
+        self.tor = TorNetwork(self.spaces["world"])
+
+    def capture(self, link: str = "world") -> capture.Capture:
+        """Records every packet on the router's link to the world (or to "host" or "lan"); a context manager."""
+        return capture.Capture(self.router, link)
+
+    def netem(self, source: str = "host", to: str = "", delay_ms: float = 0, loss: float = 0) -> shaping.Shaping:
+        """Delays and loses packets between `source` (host or lan) and `to` (an address, network or node name; all when ""),
+        both ways, until the returned object is closed (it is a context manager). `loss` is a share from 0 to 1."""
+        return shaping.Shaping(self.router, source, to, delay_ms, loss)

@@ -1,0 +1,152 @@
+"""The tor processes of the world: made, started, watched, stopped.
+
+State is in files (keys, torrc, pid and log of each node in its folder), so a second process that found the lab in the
+registry controls it as well as the one that started it.
+"""
+
+import time
+from datetime import datetime, timezone
+
+from veldlab import tor_config
+from veldlab import topology as at
+from veldlab.topology import Node
+
+# Arguments: a folder, then names of authorities. Makes each one's keys and prints "NAME V3-IDENTITY FINGERPRINT".
+_AUTHORITY_KEYS = r"""
+set -eu; cd "$1"; shift
+make_keys() (
+    cd "$1"; mkdir -m 700 keys
+    tor -f fingerprint.torrc --defaults-torrc ../empty --list-fingerprint --quiet > fingerprint.out &
+    head -c 16 /dev/urandom | od -An -tx1 | tr -d ' \n' > passphrase; echo >> passphrase
+    (cd keys; tor-gencert --create-identity-key -m 2 --passphrase-fd 3 3< ../passphrase > ../gencert.log 2>&1)
+    rm passphrase
+    wait $!
+    echo "$1 $(sed -n 's/^fingerprint //p' keys/authority_certificate) $(sed 's/^[^ ]* //; s/ //g' fingerprint.out)"
+)
+pids=
+for node; do make_keys "$node" & pids="$pids $!"; done
+for pid in $pids; do wait "$pid"; done
+"""
+
+# Arguments: a folder, then names of nodes. Each tor goes to the background once it has its keys and its ports.
+_START = r"""
+set -u; cd "$1"; shift
+for node; do tor -f "$node/torrc" --defaults-torrc empty --quiet </dev/null >"$node/start" 2>&1 & eval "pid_$node=$!"; done
+failed=
+for node; do eval "wait \$pid_$node" || failed="$failed $node"; done
+[ -z "$failed" ] || { for node in $failed; do echo "$node:"; cat "$node/start"; tail -n 20 "$node/log"; done; exit 1; }
+"""
+
+# Arguments: a pid file, and "kill" or "term". Returns when that process is gone.
+_STOP = """
+import os, select, signal, sys
+try:
+    fd = os.pidfd_open(int(open(sys.argv[1]).read()))
+    signal.pidfd_send_signal(fd, signal.SIGKILL if sys.argv[2] == "kill" else signal.SIGTERM)
+except (FileNotFoundError, ProcessLookupError):
+    sys.exit(0)
+sys.exit(0 if select.select([fd], [], [], 20)[0] else "it did not end")
+"""
+
+
+class TorNetwork:
+    """`space` is the lab's world. Methods raise CommandFailed when tor refuses, TimeoutError when it takes too long."""
+
+    def __init__(self, space):
+        self.space = space
+        self.folder = space.path(at.TOR_FOLDER)
+
+    @property
+    def exits(self) -> dict[str, str]:
+        """Address of each exit to its country, in lower case."""
+        return {node.address: node.country for node in at.EXITS}
+
+    def make_keys(self) -> dict[str, tuple[str, str]]:
+        """Makes the authorities' keys; returns name to (v3 identity, fingerprint)."""
+        (self.folder / "empty").touch()
+        (self.folder / "resolv.conf").write_text(f"nameserver {at.DNS_ADDRESS}\n")
+        for node in at.NODES:
+            (self.folder / node.name).mkdir(mode=0o700)
+        names = [node.name for node in at.AUTHORITIES]
+        for node in at.AUTHORITIES:
+            (self.folder / node.name / "fingerprint.torrc").write_text(tor_config.fingerprint_torrc(node))
+        made = self.space.run(["/bin/sh", "-c", _AUTHORITY_KEYS, "sh", at.TOR_FOLDER, *names], check=True)
+        identities = {}
+        for line in made.stdout.splitlines():
+            name, v3_identity, fingerprint = line.split()
+            identities[name] = (v3_identity, fingerprint)
+        return identities
+
+    def write_configuration(self, identities: dict[str, tuple[str, str]]) -> None:
+        for node in at.NODES:
+            (self.folder / node.name / "torrc").write_text(tor_config.node_torrc(node, identities))
+
+    def start(self, *names: str) -> None:
+        """Starts the named nodes, or all; returns when each has read its configuration and opened its ports."""
+        wanted = [at.node_named(name).name for name in names] or [node.name for node in at.NODES]
+        self.space.run(["/bin/sh", "-c", _START, "sh", at.TOR_FOLDER, *wanted], check=True)
+
+    def stop(self, *names: str, kill: bool = False) -> None:
+        """Ends the named nodes, at once with `kill`; returns when they are gone. A node that is stopped already is fine."""
+        for node in map(at.node_named, names):
+            how = "kill" if kill else "term"
+            self.space.run(
+                [at.PYTHON, "-I", "-S", "-c", _STOP, f"{tor_config.folder(node)}/pid", how], check=True)
+
+    def log(self, name: str) -> str:
+        path = self.folder / at.node_named(name).name / "log"
+        return path.read_text(errors="replace") if path.exists() else ""
+
+    def wait_consensus(self, timeout: float = 60) -> None:
+        """Returns when every authority holds a consensus that is valid now and lists every exit and middle as usable."""
+        wanted = {node.name for node in at.EXITS + at.MIDDLES}
+        self._wait(lambda: all(
+            wanted <= self._usable(self._consensus(node)) for node in at.AUTHORITIES
+        ), timeout, "no usable consensus")
+
+    def wait_bridges(self, timeout: float = 60) -> None:
+        """Returns when the bridges hold a consensus, so that a client can get everything through them."""
+        self._wait(lambda: all(
+            self._usable(self._consensus(node)) for node in at.BRIDGES
+        ) and bool(self.bridge_line("obfs4")), timeout, "the bridges have no consensus")
+
+    def bridge_line(self, transport: str = "obfs4") -> str:
+        """What a user would enter, without "Bridge": for "obfs4", or "" for the plain bridge."""
+        node = next(n for n in at.BRIDGES if n.transport == transport)
+        fingerprint = (self.folder / node.name / "fingerprint").read_text().split()[1]
+        if not transport:
+            return f"{node.address}:{at.OR_PORT} {fingerprint}"
+        text = (self.folder / node.name / "pt_state/obfs4_bridgeline.txt").read_text()
+        arguments = text[text.index("cert="):].splitlines()[0]
+        return f"obfs4 {node.address}:{at.OBFS4_PORT} {fingerprint} {arguments}"
+
+    def _consensus(self, node: Node) -> str:
+        try:
+            return (self.folder / node.name / "cached-microdesc-consensus").read_text()
+        except FileNotFoundError:
+            return ""
+
+    @staticmethod
+    def _usable(consensus: str) -> set[str]:
+        """Names of the nodes that a client would use; none when the consensus is not valid now."""
+        names, current = set(), ""
+        now = datetime.now(timezone.utc).replace(tzinfo=None)
+        for line in consensus.splitlines():
+            if line.startswith("valid-until ") and datetime.fromisoformat(line[12:]) < now:
+                return set()
+            if line.startswith("r "):
+                current = line.split()[1]
+            elif line.startswith("s "):
+                flags = line.split()[1:]
+                role_flag = "Exit" if current.startswith("exit") else "Guard"
+                if {"Running", "Valid", role_flag} <= set(flags):
+                    names.add(current)
+        return names
+
+    def _wait(self, condition, timeout: float, failure: str) -> None:
+        deadline = time.monotonic() + timeout
+        while not condition():
+            if time.monotonic() > deadline:
+                logs = "\n".join(f"{n.name}: {self.log(n.name)[-400:]}" for n in at.NODES)
+                raise TimeoutError(f"{failure} after {timeout:.0f} s\n{logs}")
+            time.sleep(0.05)
