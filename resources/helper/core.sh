@@ -1,0 +1,96 @@
+#!/bin/bash -p
+# Veldmark's root helper: starts and stops Tor and switches the network over and back.
+#
+#   veldmark-helper.sh connect --tor PATH --hash HASH --strict 0|1 --lan 0|1 [--exit CC]
+#                      [--bridge LINE]... [--pt-lyrebird PATH] [--pt-snowflake PATH] [--pt-webtunnel PATH]
+#   veldmark-helper.sh disconnect
+#   veldmark-helper.sh fix-dns
+#   veldmark-helper.sh launch --uid UID --app PATH
+#   veldmark-helper.sh install-privileged --user NAME [--launch PATH]
+#   veldmark-helper.sh uninstall-privileged
+#
+# Runs as root, through the administrator prompt or a sudo rule. Exit status 0 means done. Any other status
+# comes with one line on standard error, "ERROR: " and a sentence for the user.
+#
+# This file is joined from parts; each part's head says what it holds. Functions named print_... are pure:
+# they write generated text to standard output and touch nothing.
+
+# Started as "bash FILE", without -p, bash has taken functions and BASH_ENV from the caller's environment. In
+# POSIX mode `exec` cannot be replaced by such a function, so begin again with nothing but the caller's uid.
+case $- in
+*p*) ;;
+*)
+  POSIXLY_CORRECT=1
+  case $0 in */*) ;; *) exec /usr/bin/env -i ${SUDO_UID+SUDO_UID="$SUDO_UID"} \
+    ${PKEXEC_UID+PKEXEC_UID="$PKEXEC_UID"} /bin/bash -p -- "./$0" "$@" ;; esac
+  exec /usr/bin/env -i ${SUDO_UID+SUDO_UID="$SUDO_UID"} ${PKEXEC_UID+PKEXEC_UID="$PKEXEC_UID"} \
+    /bin/bash -p -- "$0" "$@"
+  ;;
+esac
+
+set -euo pipefail
+umask 077
+PATH=/usr/sbin:/usr/bin:/sbin:/bin
+LC_ALL=C
+export PATH LC_ALL
+
+SAID=''         # set once a message has gone to standard error
+CALLER_UID=''   # whose session this is: the uid that sudo or pkexec reports, else 0
+PROMPTED=''     # 1 when an administrator approved this very run, empty under the password-free rule
+STAYS_CLOSED='' # added to the message when a failure leaves the kill switch on
+
+# open_messages: from here on only say() reaches the caller's standard error, on descriptor 8, so that no
+# program's own complaint comes before our sentence.
+open_messages() {
+  exec 8>&2 || exec 8>/dev/null
+  exec 2>/dev/null
+}
+
+# say TEXT: one line for the user. Never fails, also when nobody reads it any more.
+say() {
+  SAID=1
+  printf 'ERROR: %s\n' "$1" >&8 || true
+}
+
+die() {
+  say "$1$STAYS_CLOSED"
+  exit 1
+}
+
+# The number patterns come before any arithmetic: bash would run a command hidden in an index.
+is_uid() {
+  [[ $1 =~ ^(0|[1-9][0-9]{0,9})$ ]] && (($1 < 4294967295))
+}
+
+# C0 controls, DEL, and the C1 controls in their UTF-8 form.
+has_controls() {
+  [[ $1 == *[[:cntrl:]]* || $1 == *$'\xc2'[$'\x80'-$'\x9f']* ]]
+}
+
+# Everything in the environment but the caller's uid goes, so that no child is steered by it.
+clean_environment() {
+  local name
+  for name in $(compgen -e); do
+    case $name in
+    PATH | LC_ALL | PWD | OLDPWD | SHLVL | _ | SUDO_UID | PKEXEC_UID) ;;
+    *)
+      exec /usr/bin/env -i ${SUDO_UID+SUDO_UID="$SUDO_UID"} ${PKEXEC_UID+PKEXEC_UID="$PKEXEC_UID"} \
+        /bin/bash -p -- "$0" "$@"
+      ;;
+    esac
+  done
+}
+
+identify_caller() {
+  local id
+  for id in ${SUDO_UID+"$SUDO_UID"} ${PKEXEC_UID+"$PKEXEC_UID"}; do
+    is_uid "$id" || die "The caller's user id is not a number."
+    [[ -z $CALLER_UID || $CALLER_UID == "$id" ]] || die "Two different callers were reported, so nothing was done."
+    CALLER_UID=$id
+  done
+  # Only pkexec and root itself stand for a fresh approval; sudo may have let the caller in by rule.
+  [[ -n ${SUDO_UID+x} ]] || PROMPTED=1
+  CALLER_UID=${CALLER_UID:-0}
+  unset SUDO_UID PKEXEC_UID
+  ((EUID == 0)) || die "The helper must run as root."
+}

@@ -1,0 +1,173 @@
+
+# ---- Linux: firewall ---------------------------------------------------------------------------------------
+# One table of our own, replaced as a whole in one transaction, so that there is no moment without rules.
+
+readonly TABLE=veldmark
+readonly RULES=$RUN/firewall.nft   # 0600; the rules in force, for putting them back when somebody flushed them
+
+# The local network is these ranges and never what a route says: a hostile network that announces public
+# addresses as its own gains nothing.
+readonly LAN4="10.0.0.0/8, 172.16.0.0/12, 192.168.0.0/16, 169.254.0.0/16"
+readonly LAN6="fe80::/10, fc00::/7"
+
+# print_table_head: replaces whatever table of ours there is. The first line is there so that the second succeeds.
+print_table_head() {
+  printf 'table inet %s\ndelete table inet %s\ntable inet %s {\n' "$TABLE" "$TABLE" "$TABLE"
+}
+
+# print_redirect TOR_UID: every look-up over UDP goes to Tor, whichever server it was meant for. A redirected
+# packet of a socket that is bound to a network device would leave by that device, so the last chain, which sees
+# the true device, keeps what is meant for this computer on this computer.
+print_redirect() {
+  cat <<END
+	chain redirect_dns {
+		type nat hook output priority -100; policy accept;
+		meta skuid $1 accept
+		udp dport 53 redirect to :$DNS_PORT
+	}
+	chain stay_on_loopback {
+		type filter hook postrouting priority 200; policy accept;
+		oifname != "lo" ip daddr 127.0.0.0/8 drop
+		oifname != "lo" ip6 daddr ::1 drop
+	}
+END
+}
+
+# print_control_guard TOR_UID USER_UID: only root, the session's user and Tor may open Tor's control port. Only
+# opening packets are looked at: later ones may belong to a socket that its program has closed already.
+print_control_guard() {
+  local users="0, $1"
+  [[ $2 == 0 ]] || users="$users, $2"
+  cat <<END
+		ip daddr 127.0.0.0/8 tcp dport $CONTROL_PORT tcp flags & (fin | syn | rst | ack) == syn meta skuid { $users } accept
+		ip daddr 127.0.0.0/8 tcp dport $CONTROL_PORT tcp flags & (fin | syn | rst | ack) == syn reject with tcp reset
+END
+}
+
+# print_proxy_rules TOR_UID USER_UID: everything may leave, but names are looked up through Tor. What could not be
+# redirected (connections older than the rules, DNS over TCP) is refused.
+print_proxy_rules() {
+  print_table_head
+  print_redirect "$1"
+  cat <<END
+	chain output {
+		type filter hook output priority 0; policy accept;
+END
+  print_control_guard "$1" "$2"
+  cat <<END
+		oifname "lo" accept
+		meta skuid $1 accept
+		udp dport 53 reject
+		tcp dport 53 reject with tcp reset
+	}
+}
+END
+}
+
+# print_strict_rules TOR_UID USER_UID LAN UDP SERVERS4 SERVERS6: nothing leaves but Tor's own traffic.
+# LAN 1 opens the local network; UDP 1 lets Tor's account send UDP (snowflake); SERVERS4 and SERVERS6 are the
+# resolvers, joined by commas, that Tor's transports may ask, usually none.
+# Only positive matches on the account: a packet without a socket matches neither "skuid X" nor "skuid != X".
+# No "established" on output: connections from before the kill switch must not go on.
+print_strict_rules() {
+  print_table_head
+  print_redirect "$1"
+  cat <<END
+	chain output {
+		type filter hook output priority 0; policy drop;
+END
+  print_control_guard "$1" "$2"
+  cat <<END
+		oifname "lo" accept
+		ct status dnat ip daddr 127.0.0.0/8 udp dport $DNS_PORT accept
+		ct status dnat ip6 daddr ::1 udp dport $DNS_PORT accept
+		meta skuid $1 meta l4proto tcp accept
+END
+  [[ $4 != 1 ]] || printf '\t\tmeta skuid %s meta l4proto udp accept\n' "$1"
+  [[ -z $5 ]] || printf '\t\tmeta skuid %s ip daddr { %s } udp dport 53 accept\n' "$1" "$5"
+  [[ -z $6 ]] || printf '\t\tmeta skuid %s ip6 daddr { %s } udp dport 53 accept\n' "$1" "$6"
+  # Applications that are started without Tor belong here: their accept rule, and one before the redirect.
+  cat <<END
+		udp sport 68 udp dport 67 ip daddr { 255.255.255.255, $LAN4 } accept
+		udp sport 546 udp dport 547 ip6 daddr { ff02::1:2, fe80::/10 } accept
+		icmpv6 type { nd-router-solicit, nd-neighbor-solicit, nd-neighbor-advert } ip6 hoplimit 255 accept
+END
+  if [[ $3 == 1 ]]; then
+    cat <<END
+		udp dport { 53, 137, 138, 853, 5353, 5355 } reject
+		udp sport { 137, 138, 5353, 5355 } reject
+		tcp dport { 53, 137, 138, 139, 853, 5355 } reject with tcp reset
+		ip daddr { $LAN4 } accept
+		ip6 daddr { $LAN6 } accept
+END
+  fi
+  cat <<END
+		meta l4proto tcp reject with tcp reset
+		reject with icmpx type admin-prohibited
+	}
+	chain forward {
+		type filter hook forward priority 0; policy drop;
+END
+  if [[ $3 == 1 ]]; then
+    cat <<END
+		udp dport { 53, 137, 138, 853, 5353, 5355 } drop
+		tcp dport { 53, 137, 138, 139, 853, 5355 } drop
+		ip saddr { $LAN4 } ip daddr { $LAN4 } accept
+		ip6 saddr { $LAN6 } ip6 daddr { $LAN6 } accept
+END
+  fi
+  cat <<END
+	}
+	chain input {
+		type filter hook input priority 0; policy drop;
+		iifname "lo" accept
+		ct state established ct direction reply accept
+		ct state related icmp type { destination-unreachable, time-exceeded, parameter-problem } accept
+		ct state related icmpv6 type { destination-unreachable, packet-too-big, time-exceeded, parameter-problem } accept
+		udp sport 67 udp dport 68 accept
+		ip6 saddr fe80::/10 udp sport 547 udp dport 546 accept
+		icmpv6 type { nd-router-advert, nd-neighbor-solicit, nd-neighbor-advert } ip6 hoplimit 255 accept
+END
+  if [[ $3 == 1 ]]; then
+    cat <<END
+		ip saddr { $LAN4 } accept
+		ip6 saddr { $LAN6 } accept
+END
+  fi
+  printf '\t}\n}\n'
+}
+
+# load_rules TEXT: all of it or nothing; the former rules stay when it fails.
+load_rules() {
+  local output
+  if ! output=$(nft -f - 2>&1 <<<"$1"); then
+    output=${output%%$'\n'*}
+    die "The firewall rules were not accepted: ${output//[[:cntrl:]]/ }"
+  fi
+}
+
+# put_firewall MODE: keeps the text first, so that the rules can be put back by fix-dns.
+put_firewall() {
+  local text udp=0 servers4='' servers6=''
+  if [[ $1 == strict ]]; then
+    [[ -z $USED_SNOWFLAKE ]] || udp=1
+    if transports_need_names; then
+      servers4=$(list_servers 4 "$FORMER_RESOLVER")
+      servers6=$(list_servers 6 "$FORMER_RESOLVER")
+    fi
+    text=$(print_strict_rules "$TOR_UID" "$CALLER_UID" "$OPT_LAN" "$udp" "$servers4" "$servers6")
+  else
+    text=$(print_proxy_rules "$TOR_UID" "$CALLER_UID")
+  fi
+  write_file "$RULES" 0600 root "$text"$'\n' || die "The file $RULES cannot be written."
+  load_rules "$text"
+}
+
+undo_firewall() {
+  local output
+  output=$(nft delete table inet "$TABLE" 2>&1) && return 0
+  # Not being there is what was wanted.
+  [[ $output == *"No such file or directory"* ]] && return 0
+  UNDONE="The firewall could not be opened: ${output%%$'\n'*}"
+  return 1
+}

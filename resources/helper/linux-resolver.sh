@@ -1,0 +1,135 @@
+
+# ---- Linux: DNS --------------------------------------------------------------------------------------------
+# A file of ours is mounted over the system's resolver file, so that a restart of the computer always brings back
+# the user's own. The firewall redirects the look-ups to Tor's port.
+
+readonly RESOLVER=/etc/resolv.conf
+readonly OUR_RESOLVER=$RUN/veldmark-resolv.conf   # 0644; its name tells our mount from anybody else's
+readonly TOR_RESOLVER=$RUN/tor-resolv.conf        # 0644; what Tor and its transports see: the resolvers as before
+readonly RESOLVER_ENTRY=30-resolver
+
+FORMER_RESOLVER=''   # text of the resolver file without our mount
+RESOLVER_TARGET=''   # the file behind $RESOLVER; empty when there is none and none can be made
+
+# Tor answers one question after the other over circuits; give it time before asking again.
+print_resolver() {
+  printf '# Veldmark: names are looked up through Tor.\nnameserver 127.0.0.1\n'
+  [[ $1 != 1 ]] || printf 'nameserver ::1\n'
+  printf 'options timeout:10 attempts:2\n'
+}
+
+# our_mounts: prints the mount points of our resolver file, one per line, the latest last.
+our_mounts() {
+  local root point rest
+  while read -r rest rest rest root point rest; do
+    case $root in
+    */veldmark-resolv.conf | */veldmark-resolv.conf//deleted) printf '%b\n' "$point" ;;
+    esac
+  done </proc/self/mountinfo
+}
+
+is_address4() {
+  local part
+  [[ $1 =~ ^[0-9]{1,3}(\.[0-9]{1,3}){3}$ ]] || return 1
+  for part in ${1//./ }; do
+    ((10#$part <= 255)) || return 1
+  done
+}
+
+is_address6() {
+  local part parts=0 text=$1
+  [[ $text =~ ^[0-9A-Fa-f:]{2,39}$ && $text == *:*:* && $text != *:::* && $text != *::*::* ]] || return 1
+  [[ $text != :* || $text == ::* ]] && [[ $text != *: || $text == *:: ]] || return 1
+  for part in ${text//:/ }; do
+    ((${#part} <= 4)) || return 1
+    parts=$((parts + 1))
+  done
+  if [[ $text == *::* ]]; then ((parts <= 7)); else ((parts == 8)); fi
+}
+
+# list_servers 4|6 TEXT: the name servers of a resolver file that are not this computer, joined by ", ".
+list_servers() {
+  local word server rest list=''
+  while read -r word server rest; do
+    [[ $word == nameserver ]] || continue
+    server=${server%%%*}
+    case $server in
+    127.* | ::1 | 0.0.0.0 | ::) continue ;;
+    esac
+    "is_address$1" "$server" || continue
+    [[ ", $list, " == *", $server, "* ]] || list="${list:+$list, }$server"
+  done <<<"$2"
+  printf '%s' "$list"
+}
+
+# read_resolver: sets RESOLVER_TARGET and FORMER_RESOLVER. When the resolver on this computer itself is the only
+# one (it would ask by way of Tor), the servers that it asks take its place.
+read_resolver() {
+  local file servers
+  FORMER_RESOLVER='' RESOLVER_TARGET=''
+  file=$(readlink -f -- "$RESOLVER" && printf x) || return 0
+  file=${file%$'\n'x}
+  [[ ! -e $file || -f $file ]] && [[ -d ${file%/*}/ ]] || return 0
+  RESOLVER_TARGET=$file
+  if [[ -n $(our_mounts) ]]; then
+    # shellcheck disable=SC2016
+    FORMER_RESOLVER=$(unshare --mount --propagation private /bin/bash -p -c \
+      'umount -l -- "$1" && head -c 65536 -- "$1"' umount "$file" | tr -d '\0') || true
+  elif [[ -f $file ]]; then
+    FORMER_RESOLVER=$(head -c 65536 -- "$file" | tr -d '\0')
+  fi
+  for file in /run/systemd/resolve/resolv.conf /run/NetworkManager/no-stub-resolv.conf; do
+    servers=$(list_servers 4 "$FORMER_RESOLVER")$(list_servers 6 "$FORMER_RESOLVER")
+    [[ -z $servers && -f $file ]] || break
+    FORMER_RESOLVER=$(head -c 65536 -- "$file" | tr -d '\0')
+  done
+}
+
+# put_resolver: mounts our file, unless it is in place.
+put_resolver() {
+  local text ipv6=0 mounted
+  [[ -n $RESOLVER_TARGET ]] || return 0
+  ! has_ipv6_loopback || ipv6=1
+  text=$(print_resolver "$ipv6")
+  mounted=$(our_mounts)
+  if [[ $RESOLVER_TARGET -ef $OUR_RESOLVER && $mounted == "$RESOLVER_TARGET" ]] &&
+    [[ $(<"$OUR_RESOLVER") == "$text" ]]; then
+    return
+  fi
+  unmount_resolver || die "$UNDONE"
+  if ! journal_has "$RESOLVER_ENTRY"; then
+    if [[ -e $RESOLVER_TARGET ]]; then
+      journal_put "$RESOLVER_ENTRY" "target $RESOLVER_TARGET" || die "The journal cannot be written."
+    else
+      journal_put "$RESOLVER_ENTRY" "target $RESOLVER_TARGET" "created 1" || die "The journal cannot be written."
+    fi
+  fi
+  write_file "$OUR_RESOLVER" 0644 root "$text"$'\n' || die "The file $OUR_RESOLVER cannot be written."
+  if [[ ! -e $RESOLVER_TARGET ]]; then
+    : >"$RESOLVER_TARGET" || die "The file $RESOLVER_TARGET cannot be made."
+    chmod 0644 -- "$RESOLVER_TARGET"
+  fi
+  mount --bind -- "$OUR_RESOLVER" "$RESOLVER_TARGET" 2>/dev/null || die "The DNS settings cannot be changed."
+}
+
+# unmount_resolver: takes away every mount of our file, wherever it is.
+unmount_resolver() {
+  local point
+  for _ in 1 2 3; do
+    while IFS= read -r point; do
+      [[ -z $point ]] || umount -l -- "$point" 2>/dev/null || true
+    done <<<"$(our_mounts)"
+    [[ -n $(our_mounts) ]] || return 0
+  done
+  UNDONE="The DNS settings could not be put back."
+  return 1
+}
+
+undo_resolver() {
+  local created target
+  unmount_resolver || return 1
+  if created=$(journal_value created) && target=$(journal_value target) &&
+    [[ $created == 1 && ! -s $target && -f $target && $target == "$(readlink -f -- "$RESOLVER")" ]]; then
+    rm -f -- "$target"
+  fi
+}

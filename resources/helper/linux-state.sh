@@ -1,0 +1,170 @@
+
+# ---- Linux: folders, lock, files, journal ------------------------------------------------------------------
+
+readonly BASE=/var/lib/veldmark
+readonly STATE=$BASE/state        # 0755; holds the session marker
+readonly MARKER=$STATE/active     # 0644; "strict" or "proxy": the network is set up for Tor
+readonly JOURNAL=$BASE/journal    # 0700; what was there before each change, one file per change
+readonly RUN=$BASE/run            # 0755; Tor's configuration, data and logs
+readonly DATA=$RUN/data           # 0700, Tor's account; kept between sessions so that entry guards are
+readonly PROGRAMS=$BASE/programs  # 0755; approved copies, SHA-256/NAME
+readonly LOCK=/run/veldmark.lock
+readonly LOCK_SECONDS=20
+
+readonly TOR_ACCOUNT=_veldmark
+TOR_UID='' TOR_GID=''
+CALLER_NAME='' CALLER_GID='' CALLER_HOME=''
+
+# take_lock: one helper at a time. Descriptor 9 stays open for the whole run, and in those children of root that
+# a kill of this shell may leave behind, so that the next run waits for them. Nothing that runs as another user
+# gets it: whoever holds the descriptor can unlock it.
+# Ctrl-C and a closed terminal must not leave the network half-way.
+take_lock() {
+  trap '' INT TERM HUP QUIT PIPE TSTP
+  cd /
+  [[ ! -L $LOCK ]] || die "The lock file $LOCK is a link, so nothing was done."
+  { exec 9>>"$LOCK"; } || die "The lock file $LOCK cannot be opened."
+  flock -w "$LOCK_SECONDS" 9 || die "Another run of the helper is still working. Try again in a moment."
+}
+
+# folder_is_safe "MODE UID TYPE": a real folder of root's that nobody else can write.
+folder_is_safe() {
+  [[ $1 =~ ^[0-7]*[0145][0145]\ 0\ directory$ ]]
+}
+
+# folders_are_safe: true when nobody but root could have put anything into our folders. Changes nothing.
+folders_are_safe() {
+  local path line
+  for path in "$BASE" "$STATE" "$JOURNAL" "$RUN"; do
+    [[ -d $path ]] || return 1
+  done
+  while IFS= read -r line; do
+    folder_is_safe "$line" || return 1
+  done < <(stat -c '%a %u %F' -- / /var /var/lib "$BASE" "$STATE" "$JOURNAL" "$RUN")
+}
+
+ready_folders() {
+  local path mode line want
+  for path in "$BASE" "$STATE" "$RUN" "$PROGRAMS" "$JOURNAL"; do
+    mode=0755
+    [[ $path != "$JOURNAL" ]] || mode=0700
+    [[ -e $path || -L $path ]] || mkdir -m "$mode" -- "$path" 2>/dev/null || die "The folder $path cannot be created."
+  done
+  while IFS=: read -r path line; do
+    folder_is_safe "$line" || die "The folder $path is not safe: only root may own or write it."
+    case $path in
+    "$JOURNAL") want=700 ;;
+    "$BASE"*) want=755 ;;
+    *) continue ;;
+    esac
+    [[ ${line%% *} == "$want" ]] || chmod "$want" -- "$path" || die "The folder $path cannot be changed."
+  done < <(stat -c '%n:%a %u %F' -- / /var /var/lib "$BASE" "$STATE" "$JOURNAL" "$RUN" "$PROGRAMS")
+  ready_data_folder
+}
+
+# Tor refuses a data folder of somebody else's; one left by a former account cannot be used any more.
+ready_data_folder() {
+  if [[ -e $DATA || -L $DATA ]] &&
+    [[ $(stat -c '%u %F' -- "$DATA") != "$TOR_UID directory" ]]; then
+    rm -rf -- "$DATA"
+  fi
+  [[ -d $DATA ]] || { mkdir -m 0700 -- "$DATA" && chown -- "$TOR_UID:$TOR_GID" "$DATA"; } ||
+    die "The folder $DATA cannot be created."
+}
+
+# ---- Accounts ----
+
+read_accounts() {
+  local name uid gid home rest
+  while IFS=: read -r name rest uid gid rest home rest; do
+    if [[ $name == "$TOR_ACCOUNT" ]]; then TOR_UID=$uid TOR_GID=$gid; fi
+    if [[ $uid == "$CALLER_UID" ]]; then CALLER_NAME=$name CALLER_GID=$gid CALLER_HOME=$home; fi
+  done < <(getent passwd "$TOR_ACCOUNT" "$CALLER_UID" || true)
+}
+
+ready_account() {
+  read_accounts
+  [[ -n $CALLER_NAME ]] || die "The user with the id $CALLER_UID is not known on this system."
+  if [[ -z $TOR_UID ]]; then
+    useradd --system --user-group --home-dir /nonexistent --no-create-home --shell /usr/sbin/nologin \
+      --comment "Tor for Veldmark" "$TOR_ACCOUNT" >/dev/null 2>&1 9>&- ||
+      die "The account $TOR_ACCOUNT cannot be created."
+    read_accounts
+  fi
+  { is_uid "$TOR_UID" && is_uid "$TOR_GID"; } || die "The account $TOR_ACCOUNT has no valid user id."
+  [[ $TOR_UID != 0 && $TOR_UID != "$CALLER_UID" ]] || die "The account $TOR_ACCOUNT must be one of its own."
+}
+
+# as_tor / as_caller COMMAND...: with that account's rights only, no way to gain more, a clean environment,
+# default signal handling and no descriptor of ours.
+as_account() {
+  local uid=$1 gid=$2 groups=$3 home=$4
+  shift 4
+  env -i --default-signal PATH="$PATH" LC_ALL=C HOME="$home" \
+    setpriv --reuid "$uid" --regid "$gid" "$groups" --no-new-privs --bounding-set=-all --inh-caps=-all \
+    --ambient-caps=-all "$@" 8>&- 9>&-
+}
+as_tor() { as_account "$TOR_UID" "$TOR_GID" --clear-groups "$DATA" "$@"; }
+as_caller() { as_account "$CALLER_UID" "$CALLER_GID" --init-groups "$CALLER_HOME" "$@"; }
+
+# ---- Files ----
+
+# write_file TARGET MODE OWNER TEXT: all or nothing, on disk when it returns 0. OWNER is "root" or UID:GID.
+# TARGET's folder must be root's.
+write_file() {
+  local new=$1.new status=0
+  [[ ! -e $new && ! -L $new ]] || rm -f -- "$new" || return 1
+  set -o noclobber
+  { printf '%s' "$4" >"$new"; } || status=1
+  set +o noclobber
+  if ((status == 0)); then
+    { [[ $3 == root ]] || chown -- "$3" "$new"; } && { [[ $2 == 0600 ]] || chmod -- "$2" "$new"; } &&
+      sync -- "$new" && mv -fT -- "$new" "$1" && sync -- "${1%/*}" && return 0
+  fi
+  rm -f -- "$new"
+  return 1
+}
+
+# ---- Journal ----
+# One file per change, named NN-KIND in the order of the changes; undoing goes backwards. Lines of "KEY VALUE",
+# the last one "end", so that a torn file is known.
+
+JOURNAL_LINES=()
+
+# journal_put NAME LINE...
+journal_put() {
+  local name=$1 text=''
+  shift
+  text=$(printf '%s\n' "$@" end; printf x)
+  write_file "$JOURNAL/$name" 0600 root "${text%x}"
+}
+
+journal_has() { [[ -f $JOURNAL/$1 && ! -L $JOURNAL/$1 ]]; }
+
+# journal_read NAME: fills JOURNAL_LINES; status 1 when there is no such entry, 2 when it is torn.
+journal_read() {
+  local line last=''
+  JOURNAL_LINES=()
+  journal_has "$1" || return 1
+  while IFS= read -r line; do
+    [[ -z $last ]] || JOURNAL_LINES[${#JOURNAL_LINES[@]}]=$last
+    last=$line
+  done <"$JOURNAL/$1"
+  [[ $last == end ]] || return 2
+}
+
+# journal_value KEY: prints the value of the first such line of the entry that was read.
+journal_value() {
+  local line
+  for line in ${JOURNAL_LINES[@]+"${JOURNAL_LINES[@]}"}; do
+    if [[ $line == "$1 "* ]]; then
+      printf '%s' "${line#* }"
+      return 0
+    fi
+  done
+  return 1
+}
+
+journal_drop() {
+  [[ ! -e $JOURNAL/$1 && ! -L $JOURNAL/$1 ]] || rm -f -- "$JOURNAL/$1"
+}

@@ -1,0 +1,157 @@
+
+# ---- Linux: running Tor ------------------------------------------------------------------------------------
+# Tor runs as its own account, without any capability, in mount and process namespaces of its own: it keeps the
+# resolvers as they were before the switch, cannot load code from places that users write, and its transports die
+# with it. It is known by process id and start time, never by name.
+
+readonly TOR_ENTRY=20-tor
+readonly START_POLLS=500   # of about 20 ms: Tor opens its control port within 10 s or it failed
+readonly STOP_POLLS=200    # of about 20 ms: Tor has about 4 s to end by itself
+
+# Runs as root in the new namespaces: PLACES... "--" COMMAND... What follows "--" gives up root.
+# shellcheck disable=SC2016
+readonly INSIDE='
+set -eu
+if [ -n "$2" ]; then mount --bind -- "$1" "$2"; fi
+shift 2
+for socket in /run/systemd/resolve/io.systemd.Resolve /run/nscd/socket; do
+  if [ -S "$socket" ]; then mount --bind /dev/null "$socket"; fi
+done
+for place in /home /tmp /var/tmp /dev/shm /run/user /media /mnt; do
+  if [ -d "$place" ] && [ ! -L "$place" ]; then mount -o bind,nosuid,nodev,noexec "$place" "$place"; fi
+done
+exec "$@"
+'
+
+# start_time PID: sets START_TIME to the process's start in clock ticks since boot; 1 when it is gone or dead.
+START_TIME=''
+start_time() {
+  local line
+  START_TIME=
+  { IFS= read -r line <"/proc/$1/stat"; } 2>/dev/null || return 1
+  # The name, in round brackets, may hold anything.
+  line=${line##*) }
+  # shellcheck disable=SC2086
+  set -- $line
+  [[ $1 != [ZX] ]] || return 1
+  START_TIME=${20}
+}
+
+boot_id() {
+  local id=unknown
+  read -r id </proc/sys/kernel/random/boot_id || true
+  printf '%s' "$id"
+}
+
+# launch_tor: the background half of start_tor. It writes its own journal entry before it becomes Tor and holds the
+# lock until then, so that there is never a Tor that no later run knows of.
+launch_tor() {
+  local pid line fd
+  IFS= read -r line </proc/self/stat
+  pid=${line%% *}
+  start_time "$pid" &&
+    journal_put "$TOR_ENTRY" "pid $pid" "start $START_TIME" "boot $(boot_id)" || exit 1
+  for fd in /proc/self/fd/*; do
+    fd=${fd##*/}
+    # Bash's own, of the script, closes by itself.
+    if ((fd > 2 && fd != 255)); then exec {fd}>&-; fi
+  done
+  exec env -i --default-signal PATH="$PATH" LC_ALL=C HOME="$DATA" \
+    setsid unshare --mount --propagation private --pid --fork --kill-child \
+    /bin/bash -p -c "$INSIDE" inside "$TOR_RESOLVER" "$RESOLVER_TARGET" \
+    setpriv --reuid "$TOR_UID" --regid "$TOR_GID" --clear-groups --no-new-privs --bounding-set=-all \
+    --inh-caps=-all --ambient-caps=-all --pdeathsig KILL \
+    "$OPT_TOR" -f "$TORRC"
+}
+
+# tor_listens: whether Tor's account has opened the control port.
+tor_listens() {
+  local rest address state uid port
+  printf -v port '%04X' "$CONTROL_PORT"
+  while read -r rest address rest state rest rest rest uid rest; do
+    [[ $address != *":$port" || $state != 0A || $uid != "$TOR_UID" ]] || return 0
+  done </proc/net/tcp
+  return 1
+}
+
+# ready_logs: empties the log files; the session's user may read them.
+ready_logs() {
+  rm -f -- "$NOTICES" "$START_OUT" "$LAUNCHER_OUT" &&
+    : >"$NOTICES" && : >"$START_OUT" && : >"$LAUNCHER_OUT" &&
+    chown -- "$TOR_UID:$CALLER_GID" "$NOTICES" "$START_OUT" "$LAUNCHER_OUT" &&
+    chmod 0640 -- "$NOTICES" "$START_OUT" "$LAUNCHER_OUT"
+}
+
+tor_failure() {
+  local reason
+  reason=$(tor_reason "$(cat -- "$LAUNCHER_OUT" "$START_OUT" "$NOTICES" 2>/dev/null | tail -c 16384 | tr -d '\0')")
+  printf '%s' "${reason:-it ended without a message.}"
+}
+
+# start_tor: returns once Tor listens on its control port.
+start_tor() {
+  local launcher poll
+  write_file "$TOR_RESOLVER" 0644 root "$FORMER_RESOLVER"$'\n' || die "The file $TOR_RESOLVER cannot be written."
+  mv -fT -- "$TORRC.checked" "$TORRC" || die "The file $TORRC cannot be written."
+  ready_logs || die "Tor's log files cannot be made."
+  launch_tor </dev/null >>"$START_OUT" 2>>"$LAUNCHER_OUT" &
+  launcher=$!
+  for ((poll = 0; poll < START_POLLS; poll++)); do
+    # It opens all its ports before it fails for one of them.
+    if tor_listens && [[ $(<"$START_OUT")$(<"$NOTICES") != *"Could not bind to"* ]]; then
+      return
+    fi
+    start_time "$launcher" || die "Tor did not start: $(tor_failure)"
+    sleep 0.02
+  done
+  die "Tor did not open its control port in time."
+}
+
+# read_children PID: sets CHILDREN to the process ids of its children.
+CHILDREN=''
+read_children() {
+  CHILDREN=''
+  { IFS= read -r CHILDREN <"/proc/$1/task/$1/children"; } || true
+}
+
+# kill_stray_tor: without a record, whatever runs as Tor's account in this network is ours.
+kill_stray_tor() {
+  local folder owner
+  read_accounts
+  [[ -n $TOR_UID ]] || return 0
+  for folder in /proc/[1-9]*; do
+    owner=$(stat -c %u -- "$folder") || continue
+    if [[ $owner == "$TOR_UID" && $folder/ns/net -ef /proc/self/ns/net ]]; then
+      kill -KILL "${folder#/proc/}" || true
+    fi
+  done
+}
+
+# undo_tor: ends the Tor of the entry that was read, if it is that very process and still runs.
+undo_tor() {
+  local pid start child poll
+  pid=$(journal_value pid) && start=$(journal_value start) || return 0
+  [[ $pid =~ ^[1-9][0-9]{0,9}$ && $start =~ ^[0-9]{1,20}$ ]] || return 0
+  [[ $(journal_value boot) == "$(boot_id)" ]] || return 0
+  for ((poll = 0; poll < STOP_POLLS; poll++)); do
+    start_time "$pid" && [[ $START_TIME == "$start" ]] || return 0
+    # Tor is the launcher's child. While it sets up it hears nothing, so ask again.
+    if ((poll % 5 == 0)); then
+      read_children "$pid"
+      for child in $CHILDREN; do
+        kill -TERM "$child" || true
+      done
+    fi
+    sleep 0.02
+  done
+  read_children "$pid"
+  for child in $CHILDREN "$pid"; do
+    kill -KILL "$child" || true
+  done
+  for ((poll = 0; poll < STOP_POLLS; poll++)); do
+    start_time "$pid" && [[ $START_TIME == "$start" ]] || return 0
+    sleep 0.02
+  done
+  UNDONE="Tor could not be stopped."
+  return 1
+}

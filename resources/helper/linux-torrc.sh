@@ -1,0 +1,73 @@
+
+# ---- Linux: Tor's configuration ----------------------------------------------------------------------------
+
+readonly SOCKS_PORT=9050 CONTROL_PORT=9051 DNS_PORT=9053
+readonly TORRC=$RUN/torrc          # root:_veldmark 0640; /etc/tor/torrc-defaults is read beneath it
+readonly NOTICES=$RUN/notices.log  # Tor's log
+readonly START_OUT=$RUN/start.out  # what Tor prints before its log stands
+readonly LAUNCHER_OUT=$RUN/launcher.out   # what the programs that lead up to Tor print
+
+# print_torrc IPV6_LOOPBACK: from the checked options.
+print_torrc() {
+  local bridge
+  cat <<END
+# Written by Veldmark at each connect; changes here are lost.
+DataDirectory $DATA
+Log notice file $NOTICES
+SocksPort 127.0.0.1:$SOCKS_PORT
+ControlPort 127.0.0.1:$CONTROL_PORT
+HashedControlPassword $OPT_HASH
+CookieAuthentication 0
+DNSPort 127.0.0.1:$DNS_PORT
+END
+  [[ $1 != 1 ]] || printf 'DNSPort [::1]:%s\n' "$DNS_PORT"
+  printf '%s\n' "ClientOnly 1" "AvoidDiskWrites 1"
+  [[ -z $OPT_EXIT ]] || printf 'ExitNodes {%s}\nStrictNodes 1\n' "$OPT_EXIT"
+  if ((${#OPT_BRIDGES[@]})); then
+    printf 'UseBridges 1\n'
+    for bridge in "${OPT_BRIDGES[@]}"; do
+      printf 'Bridge %s\n' "$bridge"
+    done
+  fi
+  [[ -z $USED_LYREBIRD ]] || printf 'ClientTransportPlugin %s exec %s\n' "$USED_LYREBIRD" "$OPT_LYREBIRD"
+  [[ -z $USED_SNOWFLAKE ]] || printf 'ClientTransportPlugin %s exec %s\n' "$USED_SNOWFLAKE" "$OPT_SNOWFLAKE"
+  [[ -z $USED_WEBTUNNEL ]] || printf 'ClientTransportPlugin %s exec %s\n' "$USED_WEBTUNNEL" "$OPT_WEBTUNNEL"
+  [[ -n $USED_LYREBIRD$USED_SNOWFLAKE$USED_WEBTUNNEL ]] || printf 'NoExec 1\n'
+}
+
+has_ipv6_loopback() {
+  local address rest
+  while read -r address rest; do
+    [[ $address != 00000000000000000000000000000001 ]] || return 0
+  done 2>/dev/null </proc/net/if_inet6
+  return 1
+}
+
+# tor_reason TEXT: prints Tor's own reason, the last problem in its output; else the last line; nothing if empty.
+tor_reason() {
+  local line reason='' last=''
+  while IFS= read -r line; do
+    line=${line//[[:cntrl:]]/}
+    [[ -z $line ]] || last=$line
+    case $line in
+    *"Reading config failed"*) ;;
+    *"[warn] "*) reason=${line#*"[warn] "} ;;
+    *"[err] "*) reason=${line#*"[err] "} ;;
+    esac
+  done <<<"$1"
+  reason=${reason:-$last}
+  printf '%s' "${reason:0:300}"
+}
+
+# ready_torrc: writes the configuration beside the one in use and has Tor itself check it.
+ready_torrc() {
+  local text output ipv6=0
+  ! has_ipv6_loopback || ipv6=1
+  text=$(print_torrc "$ipv6" && printf x)
+  write_file "$TORRC.checked" 0640 "0:$TOR_GID" "${text%x}" || die "The file $TORRC cannot be written."
+  if ! output=$(as_tor timeout 10 "$OPT_TOR" --verify-config -f "$TORRC.checked" 2>&1 </dev/null | head -c 65536); then
+    rm -f -- "$TORRC.checked"
+    output=$(tor_reason "$output")
+    die "Tor does not accept its configuration: ${output:-it ended without a message.}"
+  fi
+}

@@ -1,0 +1,119 @@
+
+# ---- Options -----------------------------------------------------------------------------------------------
+# Every value is checked against one strict pattern before anything is touched.
+
+OPT_TOR='' OPT_HASH='' OPT_STRICT='' OPT_LAN='' OPT_EXIT=''
+OPT_BRIDGES=()
+OPT_LYREBIRD='' OPT_SNOWFLAKE='' OPT_WEBTUNNEL=''
+OPT_UID='' OPT_APP='' OPT_USER='' OPT_LAUNCH=''
+
+readonly MAX_BRIDGES=100
+readonly MAX_VALUE=4096   # bytes
+readonly BRIDGE_PATTERN='^([a-z][a-z0-9_]* )?\[?[0-9A-Fa-f.:]+\]?:[0-9]+( [!-~]+)*$'
+
+# take NAME OPTION VALUE: stores a single option, once.
+take() {
+  [[ -z ${!1} ]] || die "The option $2 was given twice."
+  printf -v "$1" '%s' "$3"
+}
+
+# parse_options ALLOWED WORD...: ALLOWED is a blank-separated list of option names with blanks at both ends.
+parse_options() {
+  local allowed=$1 option value
+  shift
+  while (($#)); do
+    option=$1
+    if has_controls "$option" || [[ $allowed != *" $option "* || $option == *" "* || -z $option ]]; then
+      die "The helper was given an option that it does not know."
+    fi
+    (($# > 1)) || die "The option $option needs a value."
+    value=$2
+    shift 2
+    [[ -n $value ]] || die "The option $option needs a value."
+    ((${#value} <= MAX_VALUE)) || die "The value of $option is too long."
+    ! has_controls "$value" || die "The value of $option contains control characters."
+    case $option in
+    --tor) take OPT_TOR "$option" "$value" ;;
+    --hash) take OPT_HASH "$option" "$value" ;;
+    --strict) take OPT_STRICT "$option" "$value" ;;
+    --lan) take OPT_LAN "$option" "$value" ;;
+    --exit) take OPT_EXIT "$option" "$value" ;;
+    --pt-lyrebird) take OPT_LYREBIRD "$option" "$value" ;;
+    --pt-snowflake) take OPT_SNOWFLAKE "$option" "$value" ;;
+    --pt-webtunnel) take OPT_WEBTUNNEL "$option" "$value" ;;
+    --uid) take OPT_UID "$option" "$value" ;;
+    --app) take OPT_APP "$option" "$value" ;;
+    --user) take OPT_USER "$option" "$value" ;;
+    --launch) take OPT_LAUNCH "$option" "$value" ;;
+    --bridge)
+      ((${#OPT_BRIDGES[@]} < MAX_BRIDGES)) || die "More than $MAX_BRIDGES bridges were given."
+      OPT_BRIDGES[${#OPT_BRIDGES[@]}]=$value
+      ;;
+    esac
+  done
+}
+
+# check_program OPTION PATH
+check_program() {
+  [[ $2 == /* ]] || die "The path given with $1 is not absolute."
+  [[ -f $2 && -x $2 ]] || die "The program given with $1 is not an executable file."
+}
+
+# The characters refused here have a meaning of their own in Tor's configuration file: # starts a comment,
+# " a quoted value, and \ at the end continues the line.
+check_bridge() {
+  [[ $1 =~ $BRIDGE_PATTERN && $1 != *[\#\"\\]* ]] || die "A bridge line is not valid."
+}
+
+parse_connect() {
+  local bridge
+  parse_options " --tor --hash --strict --lan --exit --bridge --pt-lyrebird --pt-snowflake --pt-webtunnel " "$@"
+  [[ -n $OPT_TOR ]] || die "The option --tor is missing."
+  [[ -n $OPT_HASH ]] || die "The option --hash is missing."
+  [[ -n $OPT_STRICT ]] || die "The option --strict is missing."
+  [[ -n $OPT_LAN ]] || die "The option --lan is missing."
+  [[ $OPT_HASH =~ ^16:[0-9A-F]{58}$ ]] || die "The hashed control password is not valid."
+  [[ $OPT_STRICT == [01] ]] || die "The value of --strict must be 0 or 1."
+  [[ $OPT_LAN == [01] ]] || die "The value of --lan must be 0 or 1."
+  [[ -z $OPT_EXIT || $OPT_EXIT =~ ^[a-z]{2}$ ]] || die "The exit country is not a two-letter code."
+  for bridge in ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"}; do
+    check_bridge "$bridge"
+  done
+  check_program --tor "$OPT_TOR"
+  [[ -z $OPT_LYREBIRD ]] || check_program --pt-lyrebird "$OPT_LYREBIRD"
+  [[ -z $OPT_SNOWFLAKE ]] || check_program --pt-snowflake "$OPT_SNOWFLAKE"
+  [[ -z $OPT_WEBTUNNEL ]] || check_program --pt-webtunnel "$OPT_WEBTUNNEL"
+  choose_transports
+}
+
+# Which transports the bridge lines use, and which program serves each: lists joined by commas.
+USED_LYREBIRD='' USED_SNOWFLAKE='' USED_WEBTUNNEL=''
+
+choose_transports() {
+  local bridge transport seen=" "
+  for bridge in ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"}; do
+    transport=${bridge%% *}
+    [[ $transport =~ ^[a-z][a-z0-9_]*$ && $seen != *" $transport "* ]] || continue
+    seen="$seen$transport "
+    case $transport in
+    webtunnel)
+      if [[ -n $OPT_WEBTUNNEL ]]; then
+        USED_WEBTUNNEL=webtunnel
+      else
+        USED_LYREBIRD=${USED_LYREBIRD:+$USED_LYREBIRD,}webtunnel
+      fi
+      ;;
+    obfs4 | meek_lite | obfs3 | scramblesuit) USED_LYREBIRD=${USED_LYREBIRD:+$USED_LYREBIRD,}$transport ;;
+    snowflake) USED_SNOWFLAKE=snowflake ;;
+    *) die "The $transport bridge type isn't supported yet." ;;
+    esac
+  done
+  [[ -z $USED_LYREBIRD || -n $OPT_LYREBIRD ]] || die "These bridges need lyrebird, which was not given."
+  [[ -z $USED_SNOWFLAKE || -n $OPT_SNOWFLAKE ]] || die "These bridges need snowflake-client, which was not given."
+}
+
+# transports_need_names: whether a used transport looks up host names before Tor has a circuit.
+transports_need_names() {
+  [[ ",$USED_LYREBIRD," == *,meek_lite,* || ",$USED_LYREBIRD," == *,webtunnel,* ||
+    -n $USED_SNOWFLAKE || -n $USED_WEBTUNNEL ]]
+}
