@@ -1,7 +1,6 @@
 #include "controller/TorController.h"
 
 #include "base/Clock.h"
-#include "checks/IPCheck.h"
 #include "circuits/CircuitParser.h"
 #include "control/ControlPort.h"
 
@@ -16,7 +15,6 @@ namespace veldmark {
 namespace {
 
 constexpr int optimizeAttempts = 4;
-constexpr int slowPathMs = 1501; // up to and including 1500 ms counts as fast
 constexpr auto newCircuitsSettle = 10s;
 
 const QString circuitKey = QStringLiteral("circuit-status");
@@ -143,15 +141,15 @@ QCoro::Task<void> TorController::optimizeCircuits()
     for (int round = 1; round <= optimizeAttempts; ++round) {
         optimizeStatus =
             QStringLiteral("Testing speed (%1 of %2)…").arg(round).arg(optimizeAttempts);
-        const auto timed = co_await timedViaTor();
+        const TimedProbe timed = co_await timedViaTor();
         if (!self || !isCurrent(attempt))
             co_return; // the next attempt has cleared what this one showed
-        const int elapsedMs = timed.second;
-        if (timed.first && elapsedMs < slowPathMs) {
+        const qint64 elapsedMs = timed.elapsed.count();
+        if (timed.answer && elapsedMs < slowPathMs) {
             latencyMs = elapsedMs;
             break;
         }
-        optimizeStatus = timed.first
+        optimizeStatus = timed.answer
             ? QStringLiteral("Slow path (%1 ms), finding a faster one…").arg(elapsedMs)
             : QStringLiteral("Path not responding, finding another…");
         if (round == optimizeAttempts)

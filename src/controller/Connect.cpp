@@ -20,7 +20,6 @@ namespace {
 
 constexpr auto bootstrapLimit = 300s;
 constexpr auto bootstrapPoll = 1s;
-constexpr int slowPathMs = 1501; // up to and including 1500 ms counts as fast
 constexpr int passwordBytes = 32;
 
 const QString bootstrapKey = QStringLiteral("status/bootstrap-phase");

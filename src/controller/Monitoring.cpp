@@ -27,9 +27,9 @@ TorController::Attempt TorController::startAttempt()
     isChecking = false;
     isOptimizing = false;
     optimizeStatus = std::nullopt;
-    if (leakStatus().isChecking())
+    if (leakStatus().kind() == LeakStatus::Kind::checking)
         leakStatus = LeakStatus::notTested();
-    if (dnsStatus().isChecking())
+    if (dnsStatus().kind() == DNSStatus::Kind::checking)
         dnsStatus = DNSStatus::unknown();
     return ++m_attempt;
 }
@@ -86,14 +86,12 @@ void TorController::torDied()
     phase = ConnectionPhase::stale;
 }
 
-QCoro::Task<std::pair<std::optional<IPCheck>, int>> TorController::timedViaTor()
+QCoro::Task<TorController::TimedProbe> TorController::timedViaTor()
 {
     Clock &clock = m_services.clock;
     const auto start = clock.now();
     const auto answer = co_await m_services.probe.viaTor();
-    const auto elapsed =
-        std::chrono::duration_cast<std::chrono::milliseconds>(clock.now() - start).count();
-    co_return std::pair(answer ? std::optional<IPCheck>(*answer) : std::nullopt, static_cast<int>(elapsed));
+    co_return {answer, std::chrono::duration_cast<std::chrono::milliseconds>(clock.now() - start)};
 }
 
 QCoro::Task<void> TorController::runChecks()
@@ -106,13 +104,12 @@ QCoro::Task<void> TorController::runChecks()
     leakStatus = LeakStatus::checking();
     auto throughTor = timedViaTor(); // both start now and run side by side
     auto aroundTor = m_services.probe.direct();
-    const auto [tor, elapsedMs] = co_await throughTor;
-    const auto direct = co_await aroundTor;
+    const TimedProbe tor = co_await throughTor;
+    const ProbeResult direct = co_await aroundTor;
     if (!self || !isCurrent(attempt))
         co_return; // the session ended meanwhile: what it had is no longer true
-    const CheckVerdict verdict = checkVerdict(
-        tor, direct ? std::optional<IPCheck>(*direct) : std::nullopt, activeMode());
-    latencyMs = tor ? std::optional(elapsedMs) : std::nullopt;
+    const auto verdict = NetworkVerdict::of(tor.answer, tor.elapsed, direct, activeMode());
+    latencyMs = verdict.latencyMs;
     exitIP = verdict.exitIP;
     torVerified = verdict.torVerified;
     leakStatus = verdict.leakStatus;

@@ -12,14 +12,26 @@ namespace {
 
 QJsonValue json(const QString &value) { return value; }
 QJsonValue json(bool value) { return value; }
-QJsonValue json(int value) { return value; }
+QJsonValue json(qint64 value) { return value; }
 QJsonValue json(double value) { return value; }
 QJsonValue json(quint64 value) { return static_cast<qint64>(value); }
 QJsonValue json(const QStringList &value) { return QJsonArray::fromStringList(value); }
 QJsonValue json(BridgeChoice value) { return rawValue(value); }
 QJsonValue json(RoutingMode value) { return rawValue(value); }
-QJsonValue json(const LeakStatus &value) { return value.toJson(); }
-QJsonValue json(const DNSStatus &value) { return value.toJson(); }
+
+QJsonValue json(const LeakStatus &value)
+{
+    if (value.kind() == LeakStatus::Kind::exposed)
+        return QJsonObject{{value.name(), value.address()}};
+    return value.name();
+}
+
+QJsonValue json(const DNSStatus &value)
+{
+    if (value.isLeak())
+        return QJsonObject{{value.name(), json(value.leaks())}};
+    return value.name();
+}
 
 QJsonValue json(ConnectionPhase value)
 {

@@ -17,6 +17,7 @@
 
 #include <qcorotask.h>
 
+#include <chrono>
 #include <functional>
 #include <optional>
 
@@ -30,7 +31,6 @@ class PrivilegedRunner;
 class ProcessRunner;
 class ResolverSource;
 class TerminalIntegration;
-struct IPCheck;
 struct PlatformProfile;
 
 // A bootstrap report of Tor's, as much of it as is shown.
@@ -100,7 +100,7 @@ public:
     Published<LeakStatus> leakStatus;
     Published<DNSStatus> dnsStatus;
     Published<bool> isChecking;
-    Published<std::optional<int>> latencyMs; // of a request through Tor, milliseconds
+    Published<std::optional<qint64>> latencyMs; // of a request through Tor, milliseconds
     Published<std::optional<QString>> optimizeStatus;
     Published<bool> isOptimizing;
 
@@ -146,6 +146,10 @@ public:
 
     // The user has read the banner.
     void dismissError() { errorMessage = std::nullopt; }
+
+    // --- Operations: transports. ---
+    // Searches the computer afresh and sets `transports`.
+    QCoro::Task<void> locateTransports();
 
     // --- Operations: helper without a password, terminal. ---
     // Reinstalls the root-owned helper when the program brought a newer one.
@@ -198,6 +202,8 @@ Q_SIGNALS:
 
 private:
     using Attempt = quint64;
+    // A request through Tor that took this long or longer is slow; 1500 ms still counts as fast.
+    static constexpr qint64 slowPathMs = 1501;
 
     // Connect.cpp
     QCoro::Task<Result<QString, QString>> hashPassword(QString password, QString tor);
@@ -215,11 +221,14 @@ private:
     void stopMonitoring() { ++m_monitor; }
     QCoro::Task<void> monitor(quint64 run);
     void torDied();
-    QCoro::Task<std::pair<std::optional<IPCheck>, int>> timedViaTor();
+    struct TimedProbe {
+        ProbeResult answer;
+        std::chrono::milliseconds elapsed; // in both outcomes
+    };
+    QCoro::Task<TimedProbe> timedViaTor();
     // Circuits.cpp
     QCoro::Task<std::vector<RelayInfo>> resolveRelays(std::vector<RelayInfo> relays, QString password);
     // State.cpp
-    QCoro::Task<void> locateTransports();
     void applyTerminalMode();
     void loadSettings();
 

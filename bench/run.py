@@ -1,0 +1,157 @@
+#!/usr/bin/python3
+"""Prints the benchmarks as a table, or with --json as one JSON object. `--only WORD` runs the groups whose name holds WORD.
+
+    parsing   framing and reading circuit-status lines; the yardstick is python3-stem on the same lines
+    helper    the helper's connect and disconnect in strict mode, in the private Tor network
+    connect   from the call of connect() to connected, against a bare tor with the same torrc, interleaved
+
+Everything runs on this machine and in its own network namespaces. Exit status 77 where namespaces are not permitted.
+"""
+
+import argparse
+import json
+import statistics
+import subprocess
+import sys
+import threading
+import time
+from pathlib import Path
+
+sys.dont_write_bytecode = True
+PROJECT = Path(__file__).resolve().parents[1]
+sys.path.insert(0, str(PROJECT / "tests" / "lab"))
+
+from veldlab.lab import Lab, LabUnavailable  # noqa: E402
+from veldlab.product import Product  # noqa: E402
+
+PROGRAMS = PROJECT / "build" / "bin"
+BENCHES = PROJECT / "build" / "dev" / "bench"
+RUN_FOLDER = "/var/lib/veldmark/run"
+
+rows: list[dict] = []
+
+
+def report(name: str, value: float, unit: str, goal: str, yardstick: str = "") -> None:
+    rows.append({"name": name, "value": round(value, 3), "unit": unit, "goal": goal, "yardstick": yardstick})
+    print(f"  {name:<54}{value:>9.2f} {unit:<4} goal {goal:<28}{yardstick}", flush=True)
+
+
+def middle(values: list[float]) -> float:
+    return statistics.median(values)
+
+
+def spread(values: list[float]) -> str:
+    return f"of {len(values)} runs, {min(values):.2f} to {max(values):.2f}"
+
+
+def parsing() -> None:
+    from stem_yardstick import read_with_stem  # noqa: PLC0415
+
+    figures = {}
+    for program in sorted(BENCHES.glob("*Bench")):
+        for line in subprocess.run([program], capture_output=True, text=True, check=True).stdout.splitlines():
+            figures |= {key: value for key, value in json.loads(line).items() if isinstance(value, (int, float))}
+    for name in sorted(figures):
+        report(name, figures[name], "ms", "")
+    report("python3-stem, 10,000 circuit-status lines", middle([read_with_stem() * 1000 for _ in range(3)]), "ms", "yardstick")
+
+
+def clean_start(lab: Lab) -> None:
+    """Both sides begin without a cached consensus or guards."""
+    lab.host.run(["rm", "-rf", f"{RUN_FOLDER}/data"], check=True)
+
+
+def helper(lab: Lab, product: Product) -> None:
+    hashed = lab.host.run(["tor", "--quiet", "--hash-password", "bench"], check=True).stdout.split()[-1]
+    arguments = ["connect", "--tor", "/usr/bin/tor", "--hash", hashed, "--strict", "1", "--lan", "1"]
+    # One process of the host runs them all, so that no start of a process is measured that is not theirs.
+    script = 'for i in 1 2 3 4 5 6 7 8 9 10; do for verb in connect disconnect; do\n' \
+             'start=${EPOCHREALTIME/./}; if [ $verb = connect ]; then /bin/bash "$@" || exit 1; else /bin/bash "$1" disconnect || exit 1; fi\n' \
+             'echo "$verb $((${EPOCHREALTIME/./} - start))"; done; done'
+    output = lab.host.run(["bash", "-c", script, "bench", product.helper, *arguments], check=True, timeout=120).stdout
+    times: dict[str, list[float]] = {"connect": [], "disconnect": []}
+    for line in output.splitlines():
+        verb, microseconds = line.split()
+        times[verb].append(int(microseconds) / 1e6)
+    for verb, values in times.items():
+        report(f"helper {verb}, strict mode", middle(values), "s", "at most 0.5", spread(values))
+
+
+def time_connect(lab: Lab, product: Product) -> float:
+    clean_start(lab)
+    moments: dict[str, float] = {}  # when each phase was first seen by somebody who watches the instance
+    with product.session(connect=False) as session:
+        session.wait_phase("disconnected")
+        watch = lab.host.popen([product.ctl, "status", "--watch", "--json"], stdout=subprocess.PIPE, text=True)
+        reader = threading.Thread(target=lambda: note_phases(watch.stdout, moments))
+        reader.start()
+        product.run_verb("connect", check=True)
+        session.interrupt()
+        reader.join()
+        watch.wait()
+    return moments["connected"] - moments["connecting"]
+
+
+def note_phases(lines, moments: dict[str, float]) -> None:
+    for line in lines:
+        moments.setdefault(json.loads(line)["phase"], time.monotonic())
+
+
+def time_bare_tor(lab: Lab, torrc: str) -> float:
+    clean_start(lab)
+    script = f"install -d -m 700 -o _veldmark {RUN_FOLDER}/data && exec setpriv --reuid _veldmark --clear-groups tor -f {torrc}"
+    started = time.monotonic()
+    process = lab.host.popen(["bash", "-c", script], stdout=subprocess.PIPE, text=True)
+    try:
+        for line in process.stdout:
+            if "Bootstrapped 100%" in line:
+                return time.monotonic() - started
+    finally:
+        process.terminate()
+        process.wait()
+    raise RuntimeError("bare tor did not bootstrap")
+
+
+def connect(lab: Lab, product: Product, pairs: int = 8) -> None:
+    with product.session() as session:
+        session.wait_phase("connected")
+        torrc = lab.host.read(f"{RUN_FOLDER}/torrc")
+    bare = "\n".join(line for line in torrc.splitlines() if not line.startswith("Log ")) + "\nLog notice stdout\n"
+    lab.host.write("/root/bare-torrc", bare, mode=0o644)
+    lab.host.run(["chmod", "755", "/root"], check=True)
+    ours, theirs = [], []
+    for _ in range(pairs):
+        theirs.append(time_bare_tor(lab, "/root/bare-torrc"))
+        ours.append(time_connect(lab, product))
+    report("connect() to connected, strict mode", middle(ours), "s", "bare tor + 1.3", spread(ours))
+    report("bare tor with the same torrc, to 100%", middle(theirs), "s", "yardstick", spread(theirs))
+    report("difference", middle(ours) - middle(theirs), "s", "at most 1.3")
+
+
+def main() -> int:
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--json", metavar="FILE", help="also write the figures there")
+    parser.add_argument("--only", default="", metavar="WORD")
+    arguments = parser.parse_args()
+    groups = [name for name in ("parsing", "helper", "connect") if arguments.only in name]
+    try:
+        if "parsing" in groups:
+            print("parsing")
+            parsing()
+        if {"helper", "connect"} & set(groups):
+            with Lab() as lab:
+                product = Product(lab, PROGRAMS)
+                for name, group in (("helper", helper), ("connect", connect)):
+                    if name in groups:
+                        print(name)
+                        group(lab, product)
+    except LabUnavailable as error:
+        print(error, file=sys.stderr)
+        return 77
+    if arguments.json:
+        Path(arguments.json).write_text(json.dumps(rows, indent=2) + "\n")
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

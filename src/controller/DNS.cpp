@@ -1,0 +1,76 @@
+#include "controller/TorController.h"
+
+#include "checks/DNSCheck.h"
+#include "checks/ResolverSource.h"
+#include "control/ControlPort.h"
+#include "system/PrivilegedRunner.h"
+
+#include <QPointer>
+
+namespace veldmark {
+
+namespace {
+
+// The live test's ears, over the session's control port.
+QCoro::Task<std::optional<QStringList>> captureResolves(ControlPort *controlPort, QString password,
+                                                        std::chrono::milliseconds duration,
+                                                        std::function<QCoro::Task<void>()> work)
+{
+    const auto hosts = co_await controlPort->captureResolves(password, duration, work);
+    co_return hosts ? std::optional(*hosts) : std::nullopt;
+}
+
+} // namespace
+
+QCoro::Task<void> TorController::checkDNS(bool live)
+{
+    if (phase() != ConnectionPhase::connected)
+        co_return;
+    const QPointer<TorController> self(this);
+    const Attempt attempt = m_attempt;
+    std::optional<DNSStatus> liveResult;
+    if (live) {
+        if (!dnsStatus().isLeak()) // a leak stays on screen while it is tested again
+            dnsStatus = DNSStatus::checking();
+        if (m_controlPassword) {
+            ControlPort *const controlPort = &m_services.controlPort;
+            const QString password = *m_controlPassword;
+            liveResult = co_await DNSCheck::liveTest(
+                m_services.clock,
+                [controlPort, password](std::chrono::milliseconds duration,
+                                        std::function<QCoro::Task<void>()> work) {
+                    return captureResolves(controlPort, password, duration, std::move(work));
+                });
+            if (!self || !isCurrent(attempt) || phase() != ConnectionPhase::connected)
+                co_return;
+            if (liveResult == DNSStatus::throughTor())
+                m_dnsLiveVerified = true;
+        }
+    }
+    const auto resolvers = co_await m_services.resolvers.resolvers();
+    if (!self || !isCurrent(attempt) || phase() != ConnectionPhase::connected)
+        co_return;
+    dnsStatus = DNSCheck::statusAfter(DNSCheck::leaks(resolvers), liveResult, m_dnsLiveVerified, dnsStatus());
+}
+
+QCoro::Task<void> TorController::fixDNS()
+{
+    if (phase() != ConnectionPhase::connected)
+        co_return;
+    const QPointer<TorController> self(this);
+    const Attempt attempt = m_attempt;
+    const auto helper = co_await m_services.privileged.runHelper({QStringLiteral("fix-dns")});
+    if (!self || !isCurrent(attempt))
+        co_return;
+    if (!helper) {
+        if (helper.error().kind() != HelperError::Kind::Cancelled)
+            errorMessage = QStringLiteral("Couldn't fix DNS: ") + helper.error().description();
+        co_return;
+    }
+    co_await checkDNS(true);
+    if (!self || !isCurrent(attempt) || !dnsStatus().isLeak())
+        co_return;
+    errorMessage = DNSCheck::stillLeakingText(dnsStatus().leaks());
+}
+
+} // namespace veldmark

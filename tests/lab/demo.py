@@ -1,0 +1,116 @@
+#!/usr/bin/python3
+"""Shows the main job on a private Tor network: from unprotected to routed through Tor and back, in both modes.
+
+Needs no internet and changes nothing outside its own network namespaces. Exit status 0 when everything went as it should,
+1 when something did not, 77 when this machine does not permit namespaces.
+"""
+
+import json
+import signal
+import sys
+import time
+from pathlib import Path
+
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(Path(__file__).resolve().parent))
+
+from veldlab import snapshot  # noqa: E402
+from veldlab import topology as at  # noqa: E402
+from veldlab.lab import PROJECT, Lab, LabUnavailable  # noqa: E402
+from veldlab.product import Product  # noqa: E402
+
+SKIPPED = 77
+BOLD, DIM, GREEN, RED, PLAIN = ("\033[1m", "\033[2m", "\033[32m", "\033[31m", "\033[0m") if sys.stdout.isatty() else ("",) * 5
+
+failures: list[str] = []
+
+
+def heading(text: str) -> None:
+    print(f"\n{BOLD}{text}{PLAIN}", flush=True)
+
+
+def say(name: str, text: str) -> None:
+    print(f"  {name:<26}{text}", flush=True)
+
+
+def judge(name: str, text: str, good: bool) -> None:
+    """One observation and whether it is what it should be."""
+    say(name, f"{GREEN}✓{PLAIN} {text}" if good else f"{RED}✗ {text}{PLAIN}")
+    if not good:
+        failures.append(f"{name}: {text}")
+
+
+def ask_check_service(lab: Lab, *options: str) -> str:
+    """What the exit-check service answers to a plain curl on the host, or why there was no answer."""
+    result = lab.host.run(["curl", "-sS", "--max-time", "8", *options, at.CHECK_URL], user=lab.host.user)
+    return result.stdout.strip() if result.returncode == 0 else f"refused: {result.stderr.strip().splitlines()[-1]}"
+
+
+def show_mode(lab: Lab, product: Product, mode: str, before: dict[str, str]) -> None:
+    heading(f"{mode.capitalize()} mode: connecting")
+    product.run_verb("set", "strictMode", "true" if mode == "strict" else "false", check=True)
+    started = time.monotonic()
+    with product.session(echo=lambda line: print(f"  {DIM}{line}{PLAIN}", flush=True)) as session:
+        state = session.wait_phase("connected")
+        say("connected after", f"{time.monotonic() - started:.1f} s")
+        state = session.wait(lambda s: not s["isChecking"] and s["torVerified"] is not None)
+
+        heading(f"{mode.capitalize()} mode: what the world sees")
+        exits = lab.tor.exits
+        exit_ip = state["exitIP"] or "no answer"
+        judge("exit through Tor", f"{exit_ip} ({exits.get(exit_ip, '?').upper()}), verified by the check service: {state['torVerified']}",
+              state["torVerified"] is True and exit_ip in exits)
+        direct = ask_check_service(lab, "--noproxy", "*", "-4")
+        if mode == "strict":
+            judge("a direct connection", direct, direct.startswith("refused"))
+            judge("leak test", json.dumps(state["leakStatus"]), state["leakStatus"] == "blocked")
+        else:
+            judge("a direct connection", f"{direct} (proxy mode does not cover it, and says so)", at.HOST_ADDRESS in direct)
+            judge("leak test", json.dumps(state["leakStatus"]), isinstance(state["leakStatus"], dict) and "exposed" in state["leakStatus"])
+        through = ask_check_service(lab, "--proxy", "socks5h://127.0.0.1:9050")
+        judge("a proxied connection", through, '"IsTor": true' in through)
+        judge("names are looked up", json.dumps(state["dnsStatus"]), state["dnsStatus"] == "throughTor")
+
+        heading(f"{mode.capitalize()} mode: Tor's circuits")
+        print(product.run_verb("circuits", check=True).stdout.rstrip())
+
+        heading(f"{mode.capitalize()} mode: restoring")
+        started = time.monotonic()
+        status = session.interrupt()
+        judge("Ctrl-C restored after", f"{time.monotonic() - started:.1f} s, exit status {status}", status == 0)
+    difference = snapshot.diff(before, lab.host.snapshot())
+    judge("before and after", "equal: firewall, DNS, routes, mounts, ports, processes, files" if not difference else "they differ:",
+          not difference)
+    if difference:
+        print(difference)
+
+
+def main() -> int:
+    try:
+        heading("A private Tor network of real tor processes")
+        with Lab() as lab:
+            say("up after", f"{lab.timings['total']:.1f} s: {len(at.AUTHORITIES)} authorities, {len(at.EXITS)} exits, "
+                            f"{len(at.MIDDLES)} middle nodes, {len(at.BRIDGES)} bridges")
+            product = Product(lab, PROJECT / "build" / "bin")
+            before = lab.host.snapshot()
+            direct = ask_check_service(lab, "-4")
+            judge("without Veldmark", direct, at.HOST_ADDRESS in direct)
+            for mode in ("strict", "proxy"):
+                show_mode(lab, product, mode, before)
+    except LabUnavailable as error:
+        print(error, file=sys.stderr)
+        return SKIPPED
+    heading("Everything went as it should." if not failures else f"{len(failures)} things did not go as they should:")
+    for failure in failures:
+        print(f"  {failure}")
+    return 1 if failures else 0
+
+
+def end_on_signal(number: int, _) -> None:
+    raise SystemExit(128 + number)
+
+
+if __name__ == "__main__":
+    for number in (signal.SIGTERM, signal.SIGHUP):
+        signal.signal(number, end_on_signal)
+    sys.exit(main())

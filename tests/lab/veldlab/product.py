@@ -1,0 +1,99 @@
+"""The program under test on the lab's host: the very files that ship, run as a user would.
+
+    product = Product(lab, programs)
+    with product.session() as session:          # veldmarkctl run --connect
+        session.wait_phase("connected")
+        session.interrupt()                      # Ctrl-C; gives the exit status
+"""
+
+import contextlib
+import json
+import signal
+import subprocess
+import threading
+import time
+from pathlib import Path
+
+
+class Product:
+    """`programs`: the folder with veldmarkctl and the helper. `user`: who runs it; root needs no prompt."""
+
+    def __init__(self, lab, programs: Path, user: str = "root", env: dict | None = None):
+        self.lab, self.user, self.env = lab, user, env or {}
+        self.ctl = str(Path(programs) / "veldmarkctl")
+        self.helper = str(Path(programs) / "veldmark-helper.sh")
+
+    def run_verb(self, *verb: str, **options) -> subprocess.CompletedProcess:
+        """One call of veldmarkctl, with its output as text."""
+        return self.lab.host.run([self.ctl, *verb], user=self.user, env=self.env, **options)
+
+    def status(self) -> dict:
+        return json.loads(self.run_verb("status", "--json", check=True).stdout)
+
+    def run_helper(self, *arguments: str, **options) -> subprocess.CompletedProcess:
+        return self.lab.host.run(["/bin/bash", self.helper, *arguments], **options)
+
+    def session(self, connect: bool = True, echo=None) -> "Session":
+        """`veldmarkctl run`, with --connect or without. `echo` is called with each line it prints."""
+        return Session(self, ["--connect"] if connect else [], echo)
+
+
+class Session(contextlib.AbstractContextManager):
+    """A running `veldmarkctl run`. Leaving the context ends it (by SIGTERM) if nothing else has."""
+
+    def __init__(self, product: Product, arguments: list[str], echo):
+        self.product, self.lines = product, []
+        self._echo = echo
+        self.process = product.lab.host.popen(
+            [product.ctl, "run", *arguments], user=product.user, env=product.env,
+            stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+        self._reader = threading.Thread(target=self._read, daemon=True)
+        self._reader.start()
+
+    def _read(self) -> None:
+        for line in self.process.stdout:
+            self.lines.append(line.rstrip("\n"))
+            if self._echo:
+                self._echo(line.rstrip("\n"))
+
+    @property
+    def output(self) -> str:
+        return "\n".join(self.lines)
+
+    def wait(self, condition, timeout: float = 60) -> dict:
+        """The first published state for which `condition` holds, as the running instance tells it."""
+        deadline = time.monotonic() + timeout
+        state = None
+        while time.monotonic() < deadline:
+            if self.process.poll() is not None:
+                raise RuntimeError(f"veldmarkctl run ended with {self.process.returncode}\n{self.output}")
+            result = self.product.run_verb("status", "--json")
+            if result.returncode == 0 and result.stdout.strip():
+                state = json.loads(result.stdout)
+                if condition(state):
+                    return state
+            time.sleep(0.1)
+        raise TimeoutError(f"not within {timeout:.0f} s; last state {json.dumps(state)[:2000]}\n{self.output}")
+
+    def wait_phase(self, phase: str, timeout: float = 60) -> dict:
+        return self.wait(lambda state: state["phase"] == phase, timeout)
+
+    def signal(self, number: int) -> None:
+        self.process.send_signal(number)
+
+    def interrupt(self, number: int = signal.SIGINT, timeout: float = 40) -> int:
+        """Ends it by a signal; gives its exit status."""
+        self.signal(number)
+        status = self.process.wait(timeout)
+        self._reader.join()
+        return status
+
+    def __exit__(self, *_) -> None:
+        if self.process.poll() is None:
+            try:
+                self.interrupt(signal.SIGTERM)
+            except subprocess.TimeoutExpired:
+                self.process.kill()
+                self.process.wait()
+        self._reader.join()
+        self.process.stdout.close()

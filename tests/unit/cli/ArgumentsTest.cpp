@@ -1,0 +1,71 @@
+#include "cli/Arguments.h"
+
+#include <QTest>
+
+using namespace veldmark;
+using Verb = Invocation::Verb;
+
+class ArgumentsTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void refusesInOneLine_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("part");
+        const auto words = [](const char *text) {
+            return QString::fromUtf8(text).split(u'|', Qt::SkipEmptyParts);
+        };
+        QTest::newRow("nothing") << QStringList() << "What should I do";
+        QTest::newRow("unknown verb") << words("frobnicate") << "Unknown command \"frobnicate\"";
+        QTest::newRow("unknown option") << words("status|--xml") << "status has no option \"--xml\"";
+        QTest::newRow("option of another verb") << words("status|--follow") << "no option";
+        QTest::newRow("get without key") << words("get") << "get needs a key";
+        QTest::newRow("set without value") << words("set|exitCountry") << "needs a key and a value";
+        QTest::newRow("too much") << words("connect|now") << "connect doesn't take \"now\"";
+        QTest::newRow("get with two keys") << words("get|phase|title") << "doesn't take";
+        QTest::newRow("line break in a verb") << words("a\nb") << "Unknown command \"a b\"";
+        QTest::newRow("escape in a verb") << words("\x1b[31m") << "Unknown command \"?[31m\"";
+        QTest::newRow("endless verb") << QStringList(QString(100000, u'x')) << "Unknown command";
+    }
+
+    void refusesInOneLine()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, part);
+        const auto parsed = parseArguments(arguments);
+        QVERIFY(!parsed);
+        QVERIFY2(parsed.error().contains(part), qPrintable(parsed.error()));
+        QVERIFY(!parsed.error().contains(u'\n'));
+        QVERIFY(parsed.error().size() < 200);
+    }
+
+    void readsOptionsInAnyOrder()
+    {
+        const auto parsed = parseArguments({QStringLiteral("status"), QStringLiteral("--watch"), QStringLiteral("--json")});
+        QVERIFY(parsed);
+        QCOMPARE(parsed->verb, Verb::status);
+        QVERIFY(parsed->watch && parsed->json && !parsed->follow);
+        QVERIFY(parseArguments({QStringLiteral("run"), QStringLiteral("--connect")})->connectNow);
+    }
+
+    void aValueMayLookLikeAnOption()
+    {
+        const auto parsed = parseArguments({QStringLiteral("set"), QStringLiteral("customTorPath"), QStringLiteral("--odd")});
+        QVERIFY(parsed);
+        QCOMPARE(parsed->key, QStringLiteral("customTorPath"));
+        QCOMPARE(parsed->value, QStringLiteral("--odd"));
+        const auto empty = parseArguments({QStringLiteral("set"), QStringLiteral("exitCountry"), QString()});
+        QVERIFY(empty);
+        QCOMPARE(empty->value, QString());
+    }
+
+    void theUsageNamesEveryCommand()
+    {
+        for (const char *verb : {"run", "status", "connect", "disconnect", "restore", "check", "circuits",
+                                 "new-identity", "log", "get", "set"})
+            QVERIFY2(usageText().contains(QStringLiteral("\n  ") + QLatin1String(verb)), verb);
+    }
+};
+
+QTEST_GUILESS_MAIN(ArgumentsTest)
+#include "ArgumentsTest.moc"

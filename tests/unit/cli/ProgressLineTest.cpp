@@ -1,0 +1,42 @@
+#include "cli/ProgressLine.h"
+
+#include <QTest>
+
+using veldmark::ProgressLine;
+
+class ProgressLineTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void writesAPlainLineForEachChange()
+    {
+        ProgressLine line(false, 80);
+        QCOMPARE(line.update(0.05, QStringLiteral("Connecting to a relay")), QStringLiteral("  5%  Connecting to a relay\n"));
+        QCOMPARE(line.update(0.05, QStringLiteral("Connecting to a relay")), QString());
+        QCOMPARE(line.update(1.0, QStringLiteral("Done")), QStringLiteral("100%  Done\n"));
+        QCOMPARE(line.finish(), QString());
+    }
+
+    void redrawsOneLineOnATerminal()
+    {
+        ProgressLine line(true, 80);
+        const QString first = line.update(0.5, QStringLiteral("Loading"));
+        QVERIFY(first.startsWith(QStringLiteral("\r\x1b[K")));
+        QVERIFY(!first.contains(u'\n'));
+        QCOMPARE(first.count(QChar(0x2588)), 12);
+        QCOMPARE(first.count(QChar(0x2591)), 12);
+        QCOMPARE(line.finish(), QStringLiteral("\n"));
+        QCOMPARE(line.finish(), QString());
+    }
+
+    void neverDrawsWiderThanTheTerminal()
+    {
+        for (const int columns : {1, 20, 34, 40, 80}) {
+            ProgressLine line(true, columns);
+            const QString text = line.update(7.5, QString(500, u'x')).mid(4);
+            QVERIFY(text.size() <= std::max(columns, 34));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(ProgressLineTest)
+#include "ProgressLineTest.moc"

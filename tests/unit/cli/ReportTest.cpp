@@ -1,0 +1,83 @@
+#include "cli/Report.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTest>
+
+using namespace veldmark;
+
+namespace {
+QJsonObject object(const char *json)
+{
+    return QJsonDocument::fromJson(json).object();
+}
+} // namespace
+
+class ReportTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void countsBytesForAPerson_data()
+    {
+        QTest::addColumn<double>("count");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("zero") << 0.0 << "0 B";
+        QTest::newRow("bytes") << 999.0 << "999 B";
+        QTest::newRow("kB") << 1000.0 << "1.0 kB";
+        QTest::newRow("MB") << 12345678.0 << "12.3 MB";
+        QTest::newRow("huge") << 1.5e18 << "1500000.0 TB";
+    }
+
+    void countsBytesForAPerson()
+    {
+        QFETCH(double, count);
+        QFETCH(QString, text);
+        QCOMPARE(Report::bytes(count), text);
+    }
+
+    void neverCallsAnUnverifiedExitATorExit()
+    {
+        const QString failed = Report::status(object(
+            R"({"title":"Protected","phase":"connected","activeMode":"strict","exitIP":null,"torVerified":false})"));
+        QVERIFY2(failed.contains(QStringLiteral("didn't answer")), qPrintable(failed));
+        const QString other = Report::status(object(
+            R"({"title":"Protected","phase":"connected","exitIP":"203.0.113.9","torVerified":false})"));
+        QVERIFY(other.contains(QStringLiteral("203.0.113.9, NOT a Tor exit")));
+        const QString none = Report::status(object(R"({"phase":"connected","torVerified":null})"));
+        QVERIFY(none.contains(QStringLiteral("not checked yet")));
+        QVERIFY(!none.contains(QStringLiteral("a Tor exit")));
+    }
+
+    void showsWhatLeaks()
+    {
+        const QString report = Report::status(object(
+            R"({"phase":"connected","leakStatus":{"exposed":"192.0.2.7"},"dnsStatus":{"leak":["192.0.2.1 on eth0"]}})"));
+        QVERIFY(report.contains(QStringLiteral("open; it shows the address 192.0.2.7")));
+        QVERIFY(report.contains(QStringLiteral("can go around Tor via: 192.0.2.1 on eth0")));
+    }
+
+    void saysHowToRestoreAStaleNetwork()
+    {
+        QVERIFY(Report::status(object(R"({"phase":"stale"})")).contains(QStringLiteral("veldmarkctl restore")));
+    }
+
+    void drawsACircuitAsAPath()
+    {
+        const QString report = Report::circuits(object(
+            R"({"circuits":[{"id":"7","purpose":"GENERAL","sites":["example.org"],"hops":[
+                {"nickname":"alpha","country":"de","ip":"192.0.2.1"},{"nickname":"beta","country":null,"ip":null}]}]})"));
+        QCOMPARE(report, QStringLiteral("   7  GENERAL   alpha (DE 192.0.2.1) → beta\n                → example.org"));
+        QCOMPARE(Report::circuits({}), QStringLiteral("No circuits yet."));
+    }
+
+    void printsValuesPlainly()
+    {
+        QCOMPARE(Report::value(QJsonValue(true)), QStringLiteral("true"));
+        QCOMPARE(Report::value(QJsonValue(QJsonValue::Null)), QString());
+        QCOMPARE(Report::value(QJsonValue(0.85)), QStringLiteral("0.85"));
+        QCOMPARE(Report::value(QJsonValue(1234567890123.0)), QStringLiteral("1234567890123"));
+        QCOMPARE(Report::value(QJsonArray{QStringLiteral("a")}), QStringLiteral("[\"a\"]"));
+    }
+};
+
+QTEST_GUILESS_MAIN(ReportTest)
+#include "ReportTest.moc"
