@@ -1,0 +1,73 @@
+#include "system/ChildProcessRunner.h"
+
+#include "base/ResumeOnce.h"
+
+#include <QProcess>
+
+#include <algorithm>
+#include <cerrno>
+
+namespace veldmark {
+
+namespace {
+
+using Outcome = Result<ProcessResult, StartError>;
+
+// QProcess puts the name of the failed system call before the system's own text.
+QString systemText(const QString &errorString)
+{
+    static const QString call = QStringLiteral("execvp: ");
+    return errorString.startsWith(call) ? errorString.mid(call.size()) : errorString;
+}
+
+// What the system would refuse or cut short is refused before anything is started. A bare name
+// would be looked up in PATH, which is not ours to trust.
+std::optional<StartError> refusal(const QString &executable, const QStringList &arguments)
+{
+    if (!executable.startsWith(u'/'))
+        return StartError(qt_error_string(ENOENT));
+    const auto hasNul = [](const QString &word) { return word.contains(QChar(u'\0')); };
+    if (hasNul(executable) || std::any_of(arguments.begin(), arguments.end(), hasNul))
+        return StartError(qt_error_string(EINVAL));
+    return std::nullopt;
+}
+
+Outcome outcomeOf(QProcess &process)
+{
+    // For a child that was ended by a signal QProcess keeps the signal's number as exit code.
+    return ProcessResult{process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+                         QString::fromUtf8(process.readAllStandardError())};
+}
+
+} // namespace
+
+QCoro::Task<Outcome> ChildProcessRunner::run(QString executable, QStringList arguments)
+{
+    if (const auto refused = refusal(executable, arguments))
+        co_return Failure(*refused);
+
+    // Nobody owns the process object but itself: QProcess kills its child when it is destroyed.
+    auto *process = new QProcess;
+    const ResumeOnce<Outcome> ended;
+    QObject::connect(process, &QProcess::finished, process, [process, ended] {
+        ended.complete(outcomeOf(*process));
+        process->deleteLater();
+    });
+    QObject::connect(process, &QProcess::errorOccurred, process,
+                     [process, ended](QProcess::ProcessError error) {
+        if (error != QProcess::FailedToStart)
+            return; // finished() follows
+        ended.complete(Failure(StartError(systemText(process->errorString()))));
+        process->deleteLater();
+    });
+    QObject::connect(&m_lifetime, &QObject::destroyed, process, [ended] {
+        ended.complete(Failure(StartError(QStringLiteral("The program is quitting."))));
+    });
+    process->setInputChannelMode(QProcess::ForwardedInputChannel);
+    process->start(executable, arguments, QIODevice::ReadOnly);
+
+    const Outcome outcome = co_await ended;
+    co_return outcome;
+}
+
+} // namespace veldmark

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "system/ProcessRunner.h"
+
+#include <QString>
+
+namespace veldmark {
+
+// Why the helper did not do what it was asked.
+class HelperError {
+public:
+    enum class Kind {
+        Failed,        // it ran, or was refused the right to; the description says why
+        MissingHelper, // there is no script to run
+        Cancelled,     // the user dismissed the authorisation dialog
+        NotStarted,    // the program that gives it its rights could not be started
+    };
+
+    static HelperError failed(QString message); // message: already cleaned
+    static HelperError missingHelper();
+    static HelperError cancelled();
+    static HelperError notStarted(const StartError &error);
+
+    Kind kind() const { return m_kind; }
+    // The sentence that the user reads.
+    QString description() const { return m_description; }
+
+private:
+    HelperError(Kind kind, QString description);
+
+    Kind m_kind;
+    QString m_description;
+};
+
+} // namespace veldmark

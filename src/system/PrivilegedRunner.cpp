@@ -1,0 +1,226 @@
+#include "system/PrivilegedRunner.h"
+
+#include <QFile>
+#include <QRegularExpression>
+
+namespace veldmark {
+
+namespace {
+
+const QString shell = QStringLiteral("/bin/bash");
+
+std::optional<QByteArray> contentOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    QByteArray content = file.readAll();
+    if (file.error() != QFile::NoError)
+        return std::nullopt;
+    return content;
+}
+
+HelperError failure(const QString &text)
+{
+    return HelperError::failed(PrivilegedRunner::cleanError(text));
+}
+
+// With -n sudo never asks: it complains of a password or a terminal that it would need.
+bool sudoRefused(const ProcessResult &result)
+{
+    return result.stderr.toLower().contains(QLatin1String("password"))
+        || result.stderr.contains(QLatin1String("a terminal"));
+}
+
+// Whether the helper itself, or the shell on its behalf ("SCRIPT: line 7: …"), wrote an error.
+bool helperSpoke(const QString &errors, const QString &script)
+{
+    for (const QString &line : errors.split(u'\n')) {
+        if (line.startsWith(QLatin1String("ERROR: ")) || line.startsWith(script + u':'))
+            return true;
+    }
+    return false;
+}
+
+// pkexec passes the helper's own status on and has 126 and 127 for itself, but so has a shell
+// for a program that it cannot run. pkexec's texts (they are never translated) tell who spoke.
+HelperError policyKitError(const ProcessResult &result, const QString &script)
+{
+    if (helperSpoke(result.stderr, script))
+        return failure(result.stderr);
+    if (result.status == 126)
+        return HelperError::cancelled();
+    if (result.status == 127) {
+        const auto says = [&result](const char *text) {
+            return result.stderr.contains(QLatin1String(text));
+        };
+        if (says("Error executing command as another user: No authentication agent found")
+            || says("Error creating textual authentication agent:")
+            || says("Error registering local authentication agent:")) {
+            return HelperError::failed(QStringLiteral(
+                "Administrator access can't be asked for: no PolicyKit authentication agent is "
+                "running in this session."));
+        }
+        if (says("Error executing command as another user: Not authorized")
+            || says("Error checking for authorization ")) {
+            return HelperError::failed(QStringLiteral("Administrator access was refused."));
+        }
+    }
+    return failure(result.stderr);
+}
+
+} // namespace
+
+QString shellQuoted(const QString &word)
+{
+    QString quoted = word;
+    quoted.replace(u'\'', QLatin1String("'\\''"));
+    return u'\'' + quoted + u'\'';
+}
+
+QString appleScriptSource(const QStringList &words, const QString &promptText)
+{
+    QStringList quoted;
+    for (const QString &word : words)
+        quoted += shellQuoted(word);
+    QString command = quoted.join(u' ');
+    // Backslashes first, so that those added for the quotes are not doubled.
+    command.replace(u'\\', QLatin1String("\\\\")).replace(u'"', QLatin1String("\\\""));
+    return QLatin1String("do shell script \"") + command + QLatin1String("\" with prompt \"")
+        + promptText + QLatin1String("\" with administrator privileges");
+}
+
+PrivilegedRunner::PrivilegedRunner(PlatformProfile profile, ProcessRunner &runner,
+                                   uid_t effectiveUser)
+    : m_means(std::make_shared<Means>(Means{std::move(profile), &runner, effectiveUser == 0}))
+{
+}
+
+PrivilegedRunner::~PrivilegedRunner()
+{
+    m_means->runner = nullptr;
+}
+
+bool PrivilegedRunner::Means::passwordlessInstalled() const
+{
+    return QFile::exists(profile.installedHelper) && QFile::exists(profile.sudoersRule);
+}
+
+PrivilegedRunner::Outcome PrivilegedRunner::Means::bundledHelper() const
+{
+    const QString path = profile.bundledHelper();
+    if (path.isEmpty())
+        return Failure(HelperError::missingHelper());
+    return path;
+}
+
+bool PrivilegedRunner::passwordlessInstalled() const
+{
+    return m_means->passwordlessInstalled();
+}
+
+PrivilegedRunner::Outcome PrivilegedRunner::bundledHelper() const
+{
+    return m_means->bundledHelper();
+}
+
+bool PrivilegedRunner::privilegedHelperOutdated() const
+{
+    const Outcome shipped = bundledHelper();
+    if (!passwordlessInstalled() || !shipped)
+        return false;
+    // Two files that cannot be read count as equal, one that can and one that cannot as different.
+    return contentOf(*shipped) != contentOf(m_means->profile.installedHelper);
+}
+
+QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::runHelper(QStringList arguments)
+{
+    return run(m_means, arguments);
+}
+
+QCoro::Task<PrivilegedRunner::Outcome>
+PrivilegedRunner::runWithPrompt(QStringList arguments, std::optional<QString> script)
+{
+    return prompt(m_means, arguments, script);
+}
+
+QCoro::Task<PrivilegedRunner::Outcome>
+PrivilegedRunner::run(std::shared_ptr<const Means> means, QStringList arguments)
+{
+    const bool needsNobody =
+        means->isRoot && means->profile.promptKind == PromptKind::PolicyKit;
+    if (!needsNobody && means->passwordlessInstalled()) {
+        const QStringList words =
+            QStringList{QStringLiteral("-n"), means->profile.installedHelper} + arguments;
+        const auto run = co_await means->runner->run(means->profile.sudo, words);
+        if (!run)
+            co_return Failure(HelperError::notStarted(run.error()));
+        if (run->status == 0)
+            co_return run->stdout;
+        if (!sudoRefused(*run))
+            co_return Failure(failure(run->stderr.isEmpty() ? run->stdout : run->stderr));
+        if (!means->runner)
+            co_return Failure(HelperError::cancelled());
+    }
+    const Outcome outcome = co_await prompt(means, arguments, std::nullopt);
+    co_return outcome;
+}
+
+QCoro::Task<PrivilegedRunner::Outcome>
+PrivilegedRunner::prompt(std::shared_ptr<const Means> means, QStringList arguments,
+                         std::optional<QString> script)
+{
+    if (!script) {
+        const Outcome shipped = means->bundledHelper();
+        if (!shipped)
+            co_return shipped;
+        script = *shipped;
+    }
+    const QStringList words = QStringList{shell, *script} + arguments;
+    if (means->profile.promptKind == PromptKind::AppleScript) {
+        const QStringList source = {QStringLiteral("-e"),
+                                    appleScriptSource(words, means->profile.promptText)};
+        const auto run = co_await means->runner->run(means->profile.promptProgram, source);
+        if (!run)
+            co_return Failure(HelperError::notStarted(run.error()));
+        if (run->status == 0)
+            co_return run->stdout;
+        // The number of the error that osascript reports for a dismissed dialog.
+        if (run->stderr.contains(QLatin1String("(-128)")))
+            co_return Failure(HelperError::cancelled());
+        co_return Failure(failure(run->stderr));
+    }
+    const Outcome outcome = co_await runAsRoot(means, words);
+    co_return outcome;
+}
+
+QCoro::Task<PrivilegedRunner::Outcome>
+PrivilegedRunner::runAsRoot(std::shared_ptr<const Means> means, QStringList words)
+{
+    const QString script = words.at(1);
+    const QString program = means->isRoot ? words.takeFirst() : means->profile.promptProgram;
+    const auto run = co_await means->runner->run(program, words);
+    if (!run)
+        co_return Failure(HelperError::notStarted(run.error()));
+    if (run->status == 0)
+        co_return run->stdout;
+    co_return Failure(means->isRoot ? failure(run->stderr) : policyKitError(*run, script));
+}
+
+QString PrivilegedRunner::cleanError(const QString &text)
+{
+    QString message = text.trimmed();
+    static const QString heading = QStringLiteral("execution error: ");
+    if (const qsizetype at = message.indexOf(heading); at >= 0)
+        message.remove(0, at + heading.size());
+    static const QRegularExpression number(QStringLiteral(" \\(-?\\d+\\)$"));
+    if (const auto match = number.match(message); match.hasMatch())
+        message.remove(match.capturedStart(), match.capturedLength());
+    static const QString mark = QStringLiteral("ERROR: ");
+    if (message.startsWith(mark))
+        message.remove(0, mark.size());
+    return message.isEmpty() ? QStringLiteral("The helper failed without an error message.")
+                             : message;
+}
+
+} // namespace veldmark

@@ -1,0 +1,223 @@
+#include "system/SettingsFile.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace veldmark {
+
+namespace {
+
+constexpr qint64 largestFileBytes = 4 * 1024 * 1024;
+
+bool isComment(QByteArrayView line)
+{
+    return line.startsWith(';') || line.startsWith('#');
+}
+
+// A quote that is left open swallows the following lines as part of the value.
+bool closesItsQuotes(QByteArrayView line)
+{
+    bool quoted = false;
+    for (qsizetype i = 0; i < line.size(); ++i) {
+        if (line[i] == '\\')
+            ++i;
+        else if (line[i] == '"')
+            quoted = !quoted;
+        else if (line[i] == ';' && !quoted)
+            return true; // a comment up to the end of the line
+    }
+    return !quoted;
+}
+
+bool isIntactLine(QByteArrayView line)
+{
+    if (line.isEmpty() || isComment(line))
+        return true;
+    if (line.startsWith('['))
+        return line.endsWith(']');
+    return line.indexOf('=') > 0 && closesItsQuotes(line);
+}
+
+bool isWritable(const QString &path)
+{
+    return QFile(path).open(QIODevice::ReadWrite | QIODevice::ExistingOnly);
+}
+
+// Folders of the user's own are nobody else's to read.
+bool makeFolder(const QString &path)
+{
+    if (QFileInfo(path).isDir())
+        return true;
+    const QString parent = QFileInfo(path).path();
+    if (parent != path && !makeFolder(parent))
+        return false;
+    return ::mkdir(QFile::encodeName(path).constData(), 0700) == 0 || errno == EEXIST;
+}
+
+// A copy of `original` (empty where that is missing) under a new name in the same folder.
+std::optional<QString> copyBeside(const QFileInfo &original)
+{
+    QByteArray content;
+    if (original.exists()) {
+        QFile file(original.filePath());
+        if (!file.open(QIODevice::ReadOnly))
+            return std::nullopt;
+        content = file.readAll();
+    }
+    QByteArray name = QFile::encodeName(original.filePath()) + ".XXXXXX";
+    QFile copy;
+    const int descriptor = ::mkstemp(name.data()); // mode 0600
+    if (descriptor < 0)
+        return std::nullopt;
+    const bool opened =
+        copy.open(descriptor, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle);
+    const bool copied = opened && copy.write(content) == content.size() && copy.flush()
+        && (!original.exists() || copy.setPermissions(original.permissions()));
+    copy.close();
+    const QString path = QFile::decodeName(name);
+    if (copied)
+        return path;
+    QFile::remove(path);
+    return std::nullopt;
+}
+
+bool writeKeys(const QString &path, const QSet<QString> &keys, const QVariantMap &values)
+{
+    QSettings settings(path, QSettings::IniFormat);
+    for (const QString &key : keys) {
+        if (values.contains(key))
+            settings.setValue(key, values.value(key));
+        else
+            settings.remove(key);
+    }
+    settings.sync();
+    return settings.status() == QSettings::NoError;
+}
+
+// QSettings tells a changed file by its size and its time of change in milliseconds, which is
+// coarser than two quick writes.
+void keepDistinctTime(const QString &changed, const QFileInfo &original)
+{
+    const QDateTime before = original.lastModified();
+    QFile file(changed);
+    if (original.exists() && QFileInfo(changed).lastModified() <= before
+        && file.open(QIODevice::ReadWrite)) {
+        file.setFileTime(before.addMSecs(1), QFileDevice::FileModificationTime);
+    }
+}
+
+// The renaming itself is on disk only when the folder is.
+void syncFolder(const QString &path)
+{
+    const int descriptor =
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor >= 0) {
+        ::fsync(descriptor);
+        ::close(descriptor);
+    }
+}
+
+} // namespace
+
+SettingsFileState settingsFileState(const QString &path)
+{
+    const QFileInfo info(path);
+    // In a folder that may not be entered every file looks missing; errno tells the difference.
+    struct stat found {};
+    if (::stat(QFile::encodeName(path).constData(), &found) != 0) {
+        return errno == ENOENT || errno == ENOTDIR ? SettingsFileState::Missing
+                                                   : SettingsFileState::Unreadable;
+    }
+    if (!info.isFile() || info.size() > largestFileBytes)
+        return SettingsFileState::Unreadable;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return SettingsFileState::Unreadable;
+    const QByteArray content = file.read(largestFileBytes + 1);
+    if (file.error() != QFile::NoError)
+        return SettingsFileState::Unreadable;
+    return isIntactSettingsText(content) ? SettingsFileState::Intact : SettingsFileState::Damaged;
+}
+
+bool isIntactSettingsText(const QByteArray &content)
+{
+    for (const char c : content) {
+        const auto byte = static_cast<unsigned char>(c);
+        if ((byte < 0x20 && c != '\n' && c != '\r' && c != '\t') || byte == 0x7f)
+            return false;
+    }
+    QByteArray text = content;
+    if (text.startsWith("\xef\xbb\xbf"))
+        text.remove(0, 3);
+    if (QString::fromUtf8(text).toUtf8() != text)
+        return false;
+    text.replace('\r', '\n');
+    for (const QByteArray &line : text.split('\n')) {
+        if (!isIntactLine(line.trimmed()))
+            return false;
+    }
+    return true;
+}
+
+std::optional<QString> setSettingsFileAside(const QString &path)
+{
+    for (int number = 0; number < 1000; ++number) {
+        const QString name = path + QStringLiteral(".broken")
+            + (number > 0 ? QStringLiteral("-%1").arg(number) : QString());
+        const QFileInfo taken(name);
+        if (taken.exists() || taken.isSymLink())
+            continue;
+        // Not QFile::rename: that copies what it cannot rename, and takes no directories.
+        std::error_code error;
+        std::filesystem::rename(QFile::encodeName(path).toStdString(),
+                                QFile::encodeName(name).toStdString(), error);
+        return error ? std::nullopt : std::make_optional(name);
+    }
+    return std::nullopt;
+}
+
+QVariantMap readSettingsFile(const QString &path)
+{
+    const QSettings settings(path, QSettings::IniFormat);
+    QVariantMap values;
+    for (const QString &key : settings.allKeys())
+        values.insert(key, settings.value(key));
+    return values;
+}
+
+// The work is done on a copy beside the file that is then renamed over it. Given the file itself,
+// QSettings would keep what it failed to write and write it at some later time, over whatever the
+// file is by then; and it would make new files readable for everybody.
+bool rewriteSettingsFile(const QString &path, const QSet<QString> &keys, const QVariantMap &values)
+{
+    const QFileInfo link(path);
+    const QFileInfo target(link.isSymLink() ? link.symLinkTarget() : path);
+    if (!makeFolder(target.path()) || (target.exists() && !isWritable(target.filePath())))
+        return false;
+    const std::optional<QString> copy = copyBeside(target);
+    if (!copy)
+        return false;
+    if (writeKeys(*copy, keys, values)) {
+        keepDistinctTime(*copy, target);
+        if (::rename(QFile::encodeName(*copy).constData(),
+                     QFile::encodeName(target.filePath()).constData()) == 0) {
+            syncFolder(target.path());
+            return true;
+        }
+    }
+    QFile::remove(*copy);
+    return false;
+}
+
+} // namespace veldmark

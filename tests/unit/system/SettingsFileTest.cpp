@@ -1,0 +1,71 @@
+#include "system/SettingsFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace veldmark;
+
+class SettingsFileTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void tellsSettingsFromDamage_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<bool>("intact");
+        const auto row = [](const char *name, const QByteArray &content, bool intact) {
+            QTest::newRow(name) << content << intact;
+        };
+        row("empty", "", true);
+        row("ordinary", "[General]\nstrictMode=true\nexit=de\n", true);
+        row("general as a section of its own", "[%General]\na=1\n[Other]\nb=2\n", true);
+        row("no section", "strictMode=true", true);
+        row("comments and blank lines", "; one\n# two\n\n  \na=1\n", true);
+        row("windows line ends", "[General]\r\na=1\r\n", true);
+        row("byte order mark", "\xef\xbb\xbf[General]\na=1\n", true);
+        row("spaces around the key", "  a = 1\n", true);
+        row("quoted list", "a=\"x, y\", z\n", true);
+        row("escaped quote", "a=\"x\\\"y\"\n", true);
+        row("quote within a comment", "a=1 ; it's \" open\n", true);
+        row("empty value", "a=\n", true);
+        row("umlauts", "a=Gr\xc3\xbc\xc3\x9f" "e\n", true);
+        row("control character", "a=x\x01\n", false);
+        row("nul", QByteArray("a=1\n\0b=2\n", 9), false);
+        row("all nuls", QByteArray(4096, '\0'), false);
+        row("latin-1", "a=Gr\xfc\xdf" "e\n", false);
+        row("binary", "\x7f" "ELF\x02\x01", false);
+        row("no equals sign", "[General]\nstrictM", false);
+        row("no key", "=true\n", false);
+        row("open section", "[General\na=1\n", false);
+        row("open quote", "a=\"x\nb=2\n", false);
+        row("a page", "<html>\n<body></body>\n", false);
+    }
+    void tellsSettingsFromDamage()
+    {
+        QFETCH(QByteArray, content);
+        QTEST(isIntactSettingsText(content), "intact");
+    }
+
+    void movesAsideUnderAFreeName()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("veldmark.conf"));
+        for (const QString &suffix : {QStringLiteral(".broken"), QStringLiteral(".broken-1"),
+                                      QStringLiteral(".broken-2")}) {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(suffix.toUtf8());
+            file.close();
+            QCOMPARE(setSettingsFileAside(path).value(), path + suffix);
+            QVERIFY(!QFile::exists(path));
+        }
+        QFile first(path + QStringLiteral(".broken"));
+        QVERIFY(first.open(QIODevice::ReadOnly));
+        QCOMPARE(first.readAll(), QByteArray(".broken")); // later ones did not replace it
+        QVERIFY(!setSettingsFileAside(path)); // nothing there
+    }
+};
+
+QTEST_GUILESS_MAIN(SettingsFileTest)
+#include "SettingsFileTest.moc"
