@@ -131,13 +131,13 @@ QCoro::Task<Result<QString, QString>> TorController::hashPassword(QString passwo
         tor, {QStringLiteral("--quiet"), QStringLiteral("--hash-password"), password});
     if (!run)
         co_return Failure(run.error().description());
-    const QStringList lines = run->output.split(u'\n', Qt::SkipEmptyParts);
+    const QStringList lines = run->stdout.split(u'\n', Qt::SkipEmptyParts);
     for (auto line = lines.crbegin(); line != lines.crend(); ++line) {
         const QString hash = line->trimmed();
         if (hash.startsWith(QLatin1String("16:")))
             co_return hash;
     }
-    co_return Failure(TorError::hashFailed(run->errors.trimmed()).description());
+    co_return Failure(TorError::hashFailed(run->stderr.trimmed()).description());
 }
 
 QCoro::Task<Result<void, QString>> TorController::waitForBootstrap(Attempt attempt)

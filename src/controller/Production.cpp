@@ -1,0 +1,54 @@
+#include "controller/Production.h"
+
+#include "bridges/TCPProbe.h"
+
+namespace veldmark {
+
+namespace {
+
+QCoro::Task<QString> readScutil(ProcessRunner *processes, QString scutil)
+{
+    const auto run = co_await processes->run(scutil, {QStringLiteral("--dns")});
+    co_return run ? run->stdout : QString();
+}
+
+std::unique_ptr<ResolverSource> resolverSource(const PlatformProfile &profile, Clock &clock,
+                                               ProcessRunner &processes)
+{
+    if (profile.scutil.isEmpty())
+        return std::make_unique<LinuxResolverSource>(clock, profile.resolverFile);
+    ProcessRunner *const runner = &processes;
+    const QString scutil = profile.scutil;
+    return std::make_unique<ScutilResolverSource>([runner, scutil] { return readScutil(runner, scutil); });
+}
+
+} // namespace
+
+Production::Production(const PlatformProfile &profile)
+    : m_profile(profile)
+    , m_settings(m_profile)
+    , m_privileged(m_profile, m_processes)
+    , m_controlPort(m_clock)
+    , m_probe(m_clock)
+    , m_resolvers(resolverSource(m_profile, m_clock, m_processes))
+    , m_terminal(m_profile)
+    , m_controller(TorController::Services{
+          .profile = m_profile,
+          .settings = m_settings,
+          .clock = m_clock,
+          .processes = m_processes,
+          .privileged = m_privileged,
+          .controlPort = m_controlPort,
+          .probe = m_probe,
+          .resolvers = *m_resolvers,
+          .terminal = m_terminal,
+          .locateTransports = [profile = m_profile] { return PluggableTransports::locateAsync(profile); },
+          .bridgeProbe =
+              [clock = &m_clock](const QString &host, quint16 port, std::chrono::milliseconds limit) {
+                  return TCPProbe::connectTime(host, port, limit, clock);
+              },
+      })
+{
+}
+
+} // namespace veldmark

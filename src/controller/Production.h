@@ -1,0 +1,41 @@
+#pragma once
+
+#include "base/Clock.h"
+#include "checks/ExitCheckProbe.h"
+#include "checks/ResolverSource.h"
+#include "control/ControlPort.h"
+#include "controller/TorController.h"
+#include "platform/PlatformProfile.h"
+#include "system/ChildProcessRunner.h"
+#include "system/PrivilegedRunner.h"
+#include "system/SettingsStore.h"
+#include "terminal/TerminalIntegration.h"
+
+#include <memory>
+
+namespace veldmark {
+
+// The one place that builds the real thing: a controller with everything that it needs, for the
+// system that `profile` describes. Main thread.
+class Production {
+public:
+    explicit Production(const PlatformProfile &profile);
+
+    TorController &controller() { return m_controller; }
+    SettingsStore &settings() { return m_settings; }
+
+private:
+    // In the order of construction; the controller goes first.
+    const PlatformProfile m_profile;
+    SystemClock m_clock;
+    SettingsStore m_settings;
+    ChildProcessRunner m_processes;
+    PrivilegedRunner m_privileged;
+    ControlPort m_controlPort;
+    ExitCheckProbe m_probe;
+    std::unique_ptr<ResolverSource> m_resolvers;
+    TerminalIntegration m_terminal;
+    TorController m_controller;
+};
+
+} // namespace veldmark

@@ -1,0 +1,31 @@
+#include "controller/TorController.h"
+
+#include "terminal/TerminalIntegration.h"
+
+namespace veldmark {
+
+void TorController::setTerminalMode(bool on)
+{
+    terminalMode.set(on);
+    applyTerminalMode();
+}
+
+void TorController::applyTerminalMode()
+{
+    terminalError = std::nullopt;
+    if (terminalMode()) {
+        if (const auto installed = m_services.terminal.install(); !installed)
+            terminalError = QStringLiteral("Couldn't set up terminal mode: ") + installed.error().description();
+    }
+    m_services.terminal.setActive(terminalMode() && phase() == ConnectionPhase::connected);
+}
+
+void TorController::removeTerminalIntegration()
+{
+    setTerminalMode(false);
+    if (const auto removed = m_services.terminal.uninstall(); !removed)
+        terminalError =
+            QStringLiteral("Couldn't remove terminal integration: ") + removed.error().description();
+}
+
+} // namespace veldmark

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "base/ResumeOnce.h"
+#include "checks/NetworkProbe.h"
+#include "checks/ResolverSource.h"
+#include "system/ProcessRunner.h"
+
+#include <QStringList>
+
+#include <deque>
+#include <functional>
+#include <optional>
+#include <vector>
+
+// Small implementations of the program's own interfaces that answer as a test tells them.
+namespace veldmark {
+
+// Runs nothing: `answer` decides what each call gives. A call for which `hold` is set waits until
+// `release()`.
+class ScriptedRunner final : public ProcessRunner {
+public:
+    struct Call {
+        QString executable;
+        QStringList arguments;
+    };
+    using Answer = std::function<Result<ProcessResult, StartError>(const Call &call)>;
+
+    ~ScriptedRunner() override { release(); }
+
+    QCoro::Task<Result<ProcessResult, StartError>> run(QString executable, QStringList arguments) override
+    {
+        const Call call{executable, arguments};
+        calls.push_back(call);
+        if (hold && hold(call)) {
+            const ResumeOnce<bool> gate;
+            m_held.push_back(gate);
+            co_await gate;
+        }
+        const Answer now = answer;
+        co_return now(call);
+    }
+
+    void release()
+    {
+        while (!m_held.empty()) {
+            m_held.front().complete(true);
+            m_held.pop_front();
+        }
+    }
+    std::size_t held() const { return m_held.size(); }
+
+    Answer answer = [](const Call &) { return ProcessResult{}; };
+    std::function<bool(const Call &call)> hold;
+    std::vector<Call> calls;
+
+private:
+    std::deque<ResumeOnce<bool>> m_held;
+};
+
+class ScriptedProbe final : public NetworkProbe {
+public:
+    QCoro::Task<ProbeResult> viaTor() override
+    {
+        ++torProbes;
+        if (beforeTorAnswer)
+            co_await beforeTorAnswer();
+        co_return torAnswer;
+    }
+    QCoro::Task<ProbeResult> direct() override { co_return directAnswer; }
+
+    static ProbeResult nothing() { return Failure(ProbeError{ProbeError::Kind::transport, {}}); }
+
+    ProbeResult torAnswer = IPCheck{true, QStringLiteral("203.0.113.10")};
+    ProbeResult directAnswer = nothing();
+    std::function<QCoro::Task<void>()> beforeTorAnswer;
+    int torProbes = 0;
+};
+
+class ScriptedResolvers final : public ResolverSource {
+public:
+    QCoro::Task<std::vector<DNSResolver>> resolvers() override { co_return answer; }
+
+    std::vector<DNSResolver> answer;
+};
+
+} // namespace veldmark
