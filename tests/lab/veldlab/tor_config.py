@@ -8,6 +8,7 @@ from veldlab import topology as at
 from veldlab.topology import Node
 
 GEOIP_FILE = "/etc/tor/veldlab-geoip"
+NODE_GEOIP_FILE = f"{at.TOR_FOLDER}/geoip"
 DNS_FILE = f"{at.TOR_FOLDER}/resolv.conf"
 BRIDGE_LINES = {"obfs4": "pt_state/obfs4_bridgeline.txt"}
 
@@ -31,7 +32,7 @@ def _common_lines(identities: dict[str, tuple[str, str]]) -> list[str]:
     return [
         "TestingTorNetwork 1",
         "PathsNeededToBuildCircuits 0.67",
-        "TestingDirAuthVoteExit *",
+        "TestingDirAuthVoteExit " + ",".join(node.address for node in at.EXITS),
         "TestingDirAuthVoteHSDir *",
         "TestingDirAuthVoteGuard *",
         "V3AuthNIntervalsValid 2",
@@ -62,6 +63,8 @@ def node_torrc(node: Node, identities: dict[str, tuple[str, str]]) -> str:
         f"DataDirectory {home}",
         f"PidFile {home}/pid",
         f"Log notice file {home}/log",
+        "GeoIPFile " + NODE_GEOIP_FILE,
+        f"GeoIPv6File {at.TOR_FOLDER}/empty",
         "RunAsDaemon 1",
         "NumCPUs 1",
         "AvoidDiskWrites 1",
@@ -70,6 +73,7 @@ def node_torrc(node: Node, identities: dict[str, tuple[str, str]]) -> str:
         f"OutboundBindAddress {node.address}",
         f"ORPort {node.address}:{at.OR_PORT} IPv4Only",
         "AddressDisableIPv6 1",
+        "AssumeReachable 1",
         "ContactInfo nobody@example.test",
     ]
     lines += {"authority": _authority, "exit": _exit, "middle": _middle, "bridge": _bridge}[node.role](node)

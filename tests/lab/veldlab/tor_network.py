@@ -64,6 +64,7 @@ class TorNetwork:
     def make_keys(self) -> dict[str, tuple[str, str]]:
         """Makes the authorities' keys; returns name to (v3 identity, fingerprint)."""
         (self.folder / "empty").touch()
+        (self.folder / "geoip").write_text(tor_config.geoip_text())
         (self.folder / "resolv.conf").write_text(f"nameserver {at.DNS_ADDRESS}\n")
         for node in at.NODES:
             (self.folder / node.name).mkdir(mode=0o700)
