@@ -1,0 +1,335 @@
+"""The main job on real Tor, with the very programs that ship: into both modes and back, and what can go wrong on the way.
+
+    test_connect.py [--programs FOLDER] [unittest arguments]
+"""
+
+import json
+import os
+import signal
+import sys
+import time
+import unittest
+from pathlib import Path
+
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(Path(__file__).resolve().parent))
+
+from veldlab import snapshot  # noqa: E402
+from veldlab import topology as at  # noqa: E402
+from veldlab.lab import PROJECT, Lab  # noqa: E402
+from veldlab.product import Product  # noqa: E402
+
+PROGRAMS = Path(os.environ.get("VELDMARK_PROGRAMS", PROJECT / "build" / "bin"))
+MARKER = "/var/lib/veldmark/state/active"
+SETTINGS = "/root/.config/veldmark/veldmark.conf"
+SKIPPED = 77
+
+STRICT_DEATH = ("Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. "
+                "Reconnect, or Restore Network to go back online.")
+PROXY_DEATH = ("Tor stopped running. Apps using the proxy can't connect until you reconnect or Restore Network.")
+
+
+class LabCase(unittest.TestCase):
+    """One lab for all tests of a class; every test begins with default settings and must leave the host as it was."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.lab = Lab()
+        cls.lab.up()
+        cls.addClassCleanup(cls.lab.down)
+        cls.product = Product(cls.lab, PROGRAMS)
+        # The account and its folders stay after the first session; they are no change of the network.
+        cls.product.run_helper("disconnect", check=True)
+
+    def setUp(self):
+        self.lab.host.run(["rm", "-rf", "/root/.config/veldmark"], check=True)
+        self.prepare_account()
+        self.before = self.lab.host.snapshot()
+
+    def prepare_account(self):
+        """The helper makes its account at the first connect and keeps it, so a comparison starts after that."""
+        if "_veldmark" not in self.lab.host.read("/etc/passwd"):
+            with self.product.session() as session:
+                session.wait_phase("connected")
+                session.interrupt()
+
+    def assert_restored(self):
+        self.assertFalse(self.lab.host.path(MARKER).exists(), "the session marker is still there")
+        self.assertEqual(snapshot.diff(self.before, self.lab.host.snapshot()), "")
+
+    def direct(self, *options):
+        """A plain request past every proxy: its answer, or None when it was refused."""
+        result = self.lab.host.run(["curl", "-sS", "--max-time", "5", "--noproxy", "*", *options, at.CHECK_URL])
+        return json.loads(result.stdout) if result.returncode == 0 else None
+
+    def through_tor(self):
+        result = self.lab.host.run(
+            ["curl", "-sS", "--max-time", "30", "--proxy", "socks5h://127.0.0.1:9050", at.CHECK_URL], check=True)
+        return json.loads(result.stdout)
+
+    def set(self, key, value):
+        self.product.run_verb("set", key, value, check=True)
+
+    def kill_tor(self, number="KILL"):
+        """Signals every process of Tor's account; the host's processes are its own, so nobody else's tor is met."""
+        self.lab.host.run(["pkill", f"-{number}", "-u", "_veldmark"], check=True)
+
+
+class BothModes(LabCase):
+    def test_strict_mode_goes_out_through_tor_alone(self):
+        self.assertEqual(self.direct("-4")["IP"], at.HOST_ADDRESS)  # the probe does get out when nothing blocks it
+        self.assertEqual(self.direct("-6")["IP"], at.HOST_ADDRESS6)
+        with self.lab.capture() as capture, self.product.session() as session:
+            state = session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"] and s["exitIP"])
+            self.assertEqual(state["title"], "Protected")
+            self.assertEqual(state["statusDetail"], "All traffic is locked to Tor")
+            self.assertEqual(state["activeMode"], "strict")
+            self.assertIn(state["exitIP"], self.lab.tor.exits)
+            self.assertIs(state["torVerified"], True)
+            self.assertEqual(state["leakStatus"], "blocked")
+            self.assertEqual(state["dnsStatus"], "throughTor")
+            self.assertEqual(self.lab.host.read(MARKER), "strict\n")
+            self.assertIsNone(self.direct("-4"))
+            self.assertIsNone(self.direct("-6"))
+            answer = self.through_tor()
+            self.assertTrue(answer["IsTor"])
+            seen = len(capture.packets)
+            self.assertEqual(session.interrupt(), 0, session.output)
+        strangers = {p.dst for p in capture.packets[:seen] if p.out and p.family != "arp"} - at.RELAY_ADDRESSES
+        self.assertEqual(strangers, set(), "packets that were not for a relay")
+        self.assertTrue(any(p.out and p.dst in at.RELAY_ADDRESSES for p in capture.packets))
+        self.assert_restored()
+        self.assertEqual(self.direct("-4")["IP"], at.HOST_ADDRESS)
+
+    def test_proxy_mode_leaves_the_direct_path_open_and_says_so(self):
+        self.set("strictMode", "false")
+        with self.product.session() as session:
+            state = session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"] and s["exitIP"])
+            self.assertEqual(state["title"], "Proxy Active")
+            self.assertEqual(state["statusDetail"], "Apps that use system proxy settings go through Tor")
+            self.assertEqual(state["activeMode"], "proxy")
+            self.assertEqual(self.lab.host.read(MARKER), "proxy\n")
+            self.assertIn(state["leakStatus"], ({"exposed": at.HOST_ADDRESS}, {"exposed": at.HOST_ADDRESS6}))
+            self.assertEqual(self.direct("-4")["IP"], at.HOST_ADDRESS)
+            self.assertTrue(self.through_tor()["IsTor"])
+            self.assertEqual(session.interrupt(), 0, session.output)
+        self.assert_restored()
+
+    def test_tor_keeps_its_guards_between_sessions(self):
+        guards = []
+        for _ in range(2):
+            with self.product.session() as session:
+                session.wait_phase("connected")
+                session.interrupt()
+            state = self.lab.host.read("/var/lib/veldmark/run/data/state")
+            guards.append([line.split("rsa_id=")[1].split()[0] for line in state.splitlines()
+                           if line.startswith("Guard ") and "confirmed_on=" in line])
+        self.assertTrue(guards[0])
+        self.assertEqual(guards[0][0], guards[1][0])
+
+    def test_an_exit_country_is_kept_to(self):
+        self.set("exitCountry", "de")
+        german = {address for address, country in self.lab.tor.exits.items() if country == "de"}
+        with self.product.session() as session:
+            session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"])
+            self.assertIn(session.product.status()["exitIP"], german)
+            for _ in range(3):
+                self.product.run_verb("new-identity", check=True)
+                self.assertIn(self.through_tor()["IP"], german)
+            circuits = json.loads(self.product.run_verb("circuits", "--json", check=True).stdout)
+            carrying = [c for c in circuits if at.CHECK_HOST in c["sites"] or c["sites"]]
+            self.assertTrue(carrying)
+            for circuit in carrying:
+                self.assertEqual(circuit["hops"][-1]["country"], "de")
+        self.assert_restored()
+
+    def test_connecting_again_switches_the_mode_without_a_gap(self):
+        with self.product.session() as session:
+            session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"])
+            self.kill_tor()
+            session.wait_phase("stale")
+            self.set("strictMode", "false")
+            self.product.run_verb("connect", check=True)
+            self.assertEqual(self.product.status()["activeMode"], "proxy")
+            self.assertEqual(self.direct("-4")["IP"], at.HOST_ADDRESS)
+        self.assert_restored()
+
+
+class WhenThingsGoWrong(LabCase):
+    def test_the_death_of_tor_is_noticed_and_strict_mode_stays_closed(self):
+        with self.product.session() as session:
+            session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"])
+            self.kill_tor()
+            state = session.wait_phase("stale")
+            self.assertEqual(state["statusDetail"], "Tor stopped running")
+            self.assertEqual(state["errorMessage"], STRICT_DEATH)
+            self.assertEqual(state["title"], "Needs Attention")
+            self.assertIsNone(self.direct("-4"))
+            self.product.run_verb("restore", check=True)
+            self.assertEqual(self.product.status()["phase"], "disconnected")
+            self.assertEqual(self.direct("-4")["IP"], at.HOST_ADDRESS)
+        self.assert_restored()
+
+    def test_the_death_of_tor_in_proxy_mode_names_the_proxy(self):
+        self.set("strictMode", "false")
+        with self.product.session() as session:
+            session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"])
+            self.kill_tor()
+            self.assertEqual(session.wait_phase("stale")["errorMessage"], PROXY_DEATH)
+        self.assert_restored()
+
+    def test_a_tor_that_hangs_is_noticed_too(self):
+        with self.product.session() as session:
+            session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"])
+            self.kill_tor("STOP")
+            self.assertEqual(session.wait_phase("stale")["errorMessage"], STRICT_DEATH)
+        self.assert_restored()
+
+    def test_disconnecting_during_the_bootstrap(self):
+        self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/data"], check=True)
+        with self.lab.netem(loss=1.0), self.product.session() as session:
+            state = session.wait(lambda s: s["canCancel"] and s["bootstrapProgress"] > 0)
+            self.assertEqual(state["phase"], "connecting")
+            self.product.run_verb("disconnect", check=True)
+            self.assertEqual(self.product.status()["phase"], "disconnected")
+            self.assertIsNone(self.product.status()["errorMessage"])
+            self.assertEqual(session.interrupt(), 0, session.output)
+        self.assert_restored()
+
+    def test_ctrl_c_during_the_bootstrap(self):
+        self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/data"], check=True)
+        with self.lab.netem(loss=1.0), self.product.session() as session:
+            session.wait(lambda s: s["phase"] == "connecting")
+            self.assertEqual(session.interrupt(), 0, session.output)
+        self.assert_restored()
+
+    def test_a_second_ctrl_c_does_not_leave_the_network_half_way(self):
+        for delay in (0.0, 0.02, 0.1, 0.2):
+            with self.subTest(delay=delay), self.product.session() as session:
+                session.wait_phase("connected")
+                session.signal(signal.SIGINT)
+                time.sleep(delay)  # any moment must do; these are four of them
+                self.assertEqual(session.interrupt(), 0, session.output)
+                self.assert_restored()
+
+    def test_sigterm_disconnects(self):
+        with self.product.session() as session:
+            session.wait_phase("connected")
+            self.assertEqual(session.interrupt(signal.SIGTERM), 0, session.output)
+        self.assert_restored()
+
+    def test_a_killed_program_leaves_a_stale_session_that_can_be_restored(self):
+        with self.product.session() as session:
+            session.wait_phase("connected")
+            self.lab.host.run(["pkill", "-KILL", "veldmarkctl"], check=True)
+            session.process.wait()
+        self.assertIsNone(self.direct("-4"))  # the kill switch outlives the program
+        state = self.product.status()
+        self.assertEqual((state["phase"], state["activeMode"]), ("stale", "strict"))
+        self.assertEqual(state["statusDetail"], "Your network is still set up for Tor from an earlier session")
+        self.set("autoConnect", "true")
+        with self.product.session(connect=False) as session:  # nothing connects by itself over what is left
+            self.assertEqual(session.wait_phase("stale")["activeMode"], "strict")
+            self.product.run_verb("restore", check=True)
+        self.assert_restored()
+
+    def test_a_marker_with_another_word_has_no_mode(self):
+        self.lab.host.write(MARKER, "perhaps\n")
+        state = self.product.status()
+        self.assertEqual((state["phase"], state["activeMode"]), ("stale", None))
+        self.product.run_verb("restore", check=True)
+        self.assert_restored()
+
+    def test_restoring_without_anything_to_restore_is_fine(self):
+        self.assertEqual(self.product.run_verb("restore").returncode, 0)
+        self.assert_restored()
+
+    def test_a_connection_that_is_wanted_at_the_start(self):
+        self.set("autoConnect", "true")
+        with self.product.session(connect=False) as session:
+            session.wait_phase("connected")
+        self.assert_restored()
+
+    def test_a_tor_that_cannot_start_says_why(self):
+        self.lab.host.write("/usr/local/bin/broken-tor",
+                            "#!/bin/sh\ncase \" $* \" in *hash-password*) exec /usr/bin/tor \"$@\";; esac\n"
+                            "echo '[err] The clock says it is yesterday.'; exit 1\n", mode=0o755)
+        self.addCleanup(self.lab.host.run, ["rm", "-f", "/usr/local/bin/broken-tor"])
+        self.set("customTorPath", "/usr/local/bin/broken-tor")
+        with self.product.session() as session:
+            self.assertEqual(session.process.wait(30), 1)
+        self.assertIn("The clock says it is yesterday.", session.output)
+        self.lab.host.run(["rm", "-f", "/usr/local/bin/broken-tor"])
+        self.assert_restored()
+
+
+class OneInstanceAndBadInput(LabCase):
+    def test_a_second_instance_says_that_one_is_running(self):
+        with self.product.session(connect=False) as session:
+            session.wait_phase("disconnected")
+            second = self.product.run_verb("run")
+            self.assertEqual(second.returncode, 4)
+            self.assertRegex(second.stderr, r"^veldmarkctl: Veldmark is already running \(process \d+\)\.\n$")
+
+    def test_the_socket_is_the_users_alone(self):
+        with self.product.session(connect=False) as session:
+            session.wait_phase("disconnected")
+            socket = next(line.split()[-1] for line in self.lab.host.run(["cat", "/proc/net/unix"]).stdout.splitlines()
+                          if line.endswith("veldmark/run/control") or line.endswith("veldmark/control"))
+            folder = self.lab.host.run(["stat", "-c", "%a %u", str(Path(socket).parent)], check=True).stdout.split()
+            self.assertEqual(folder, ["700", "0"])
+            as_alice = self.lab.host.run(["nc", "-U", "-N", socket], user=self.lab.host.user, input="{}\n")
+            self.assertNotEqual(as_alice.returncode, 0)
+            as_root = self.lab.host.run(["nc", "-U", "-N", socket], input='{"command": "status"}\n')
+            self.assertIn('"phase":"disconnected"', as_root.stdout)
+
+    def test_commands_without_an_instance(self):
+        for verb in ("connect", "check", "circuits", "new-identity"):
+            result = self.product.run_verb(verb)
+            self.assertEqual((verb, result.returncode), (verb, 3))
+            self.assertEqual(result.stderr.count("\n"), 1)
+
+    def test_bad_words_get_one_line_and_status_2(self):
+        for words in (["frobnicate"], ["get", "nothing"], ["set", "exitCountry", "DE"], ["set", "exitCountry", "deu"],
+                      ["set", "nothing", "1"], ["set", "strictMode", "perhaps"], ["set", "bridgeChoice", "ftp"],
+                      ["status", "--xml"], ["get"], ["set", "strictMode"], []):
+            result = self.product.run_verb(*words)
+            self.assertEqual((words, result.returncode), (words, 2))
+            self.assertEqual(result.stderr.count("\n"), 1, result.stderr)
+            self.assertEqual(result.stdout, "")
+
+    def test_settings_are_kept_and_read_back(self):
+        self.set("exitCountry", "de")
+        self.assertEqual(self.product.run_verb("get", "exitCountry", check=True).stdout, "de\n")
+        self.assertEqual(self.product.status()["exitCountry"], "de")
+        self.assertEqual(self.lab.host.run(["stat", "-c", "%a", SETTINGS], check=True).stdout, "600\n")
+
+    def test_a_corrupt_settings_file_is_put_aside_and_said_once(self):
+        self.lab.host.write(SETTINGS, os.urandom(300) + b"\0\xff=")
+        first = self.product.run_verb("get", "strictMode")
+        self.assertEqual((first.returncode, first.stdout), (0, "true\n"))
+        self.assertEqual(first.stderr.count("\n"), 1, first.stderr)
+        self.assertEqual(self.product.run_verb("get", "strictMode").stderr, "")
+        names = sorted(p.name for p in self.lab.host.path("/root/.config/veldmark").iterdir())
+        self.assertIn("veldmark.conf.broken", names)
+
+    def test_status_prints_every_published_field(self):
+        state = self.product.status()
+        for field in ("strictMode allowLocalNetwork exitCountry customTorPath bridgeChoice customBridges bypassApps autoConnect "
+                      "optimizeSpeed latencyMs optimizeStatus isOptimizing transports activeBridge terminalMode phase activeMode "
+                      "bootstrapProgress statusDetail exitIP torVerified leakStatus bytesRead bytesWritten isChecking canCancel "
+                      "errorMessage dnsStatus passwordlessInstalled startupError circuits circuitError transportDownload "
+                      "terminalError").split():
+            self.assertIn(field, state)
+        self.assertEqual(state["leakStatus"], "notTested")
+        self.assertIsNone(state["exitIP"])
+        self.assertEqual(set(state["transports"]), {"lyrebird", "snowflake", "webtunnel", "builtin", "source"})
+
+
+if __name__ == "__main__":
+    from veldlab import requirements
+    reason = requirements.missing()
+    if reason:
+        print(f"skipped: {reason}")
+        sys.exit(SKIPPED)
+    unittest.main(verbosity=2)
