@@ -9,6 +9,7 @@
 #include "instance/InstanceClient.h"
 #include "instance/InstancePlace.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 
 namespace veldmark {

@@ -41,8 +41,8 @@ QCoro::Task<void> TorController::refreshCircuits()
     const QPointer<TorController> self(this);
     const Attempt attempt = m_attempt;
     const QString password = *m_controlPassword;
-    const auto replies = co_await m_services.controlPort.batch(
-        {getInfoCommand(circuitKey), getInfoCommand(streamKey)}, password);
+    const QStringList commands = {getInfoCommand(circuitKey), getInfoCommand(streamKey)};
+    const auto replies = co_await m_services.controlPort.batch(commands, password);
     if (!self || !isCurrent(attempt))
         co_return;
     if (!replies) {
@@ -126,7 +126,8 @@ QCoro::Task<void> TorController::newCircuit(QString id)
         co_return;
     const QPointer<TorController> self(this);
     const QString password = *m_controlPassword;
-    co_await m_services.controlPort.batch({QStringLiteral("CLOSECIRCUIT ") + id}, password);
+    const QStringList commands = {QStringLiteral("CLOSECIRCUIT ") + id};
+    co_await m_services.controlPort.batch(commands, password);
     if (self)
         co_await refreshCircuits();
 }

@@ -112,8 +112,8 @@ QCoro::Task<Result<QStringList, QString>> TorController::bridgeArguments(Attempt
             if (self && self->isCurrent(attempt))
                 self->statusDetail = text;
         }};
-    const BridgePlan plan = co_await planBridges(
-        BridgeRequest{bridgeChoice(), customBridges(), optimizeSpeed()}, tools);
+    const BridgeRequest request{bridgeChoice(), customBridges(), optimizeSpeed()};
+    const BridgePlan plan = co_await planBridges(request, tools);
     if (!self || !isCurrent(attempt))
         co_return Failure(QString()); // nobody reads this
     if (plan.transports)
@@ -127,8 +127,8 @@ QCoro::Task<Result<QStringList, QString>> TorController::bridgeArguments(Attempt
 
 QCoro::Task<Result<QString, QString>> TorController::hashPassword(QString password, QString tor)
 {
-    const auto run = co_await m_services.processes.run(
-        tor, {QStringLiteral("--quiet"), QStringLiteral("--hash-password"), password});
+    const QStringList arguments = {QStringLiteral("--quiet"), QStringLiteral("--hash-password"), password};
+    const auto run = co_await m_services.processes.run(tor, arguments);
     if (!run)
         co_return Failure(run.error().description());
     const QStringList lines = run->stdout.split(u'\n', Qt::SkipEmptyParts);
@@ -146,11 +146,12 @@ QCoro::Task<Result<void, QString>> TorController::waitForBootstrap(Attempt attem
         co_return Failure(ControlPortError::notConnected().description());
     const QPointer<TorController> self(this);
     const QString password = *m_controlPassword;
+    const QStringList keys = {bootstrapKey};
     Clock &clock = m_services.clock;
     const auto deadline = clock.now() + bootstrapLimit;
     std::optional<QString> lastError;
     while (clock.now() < deadline) {
-        const auto reply = co_await m_services.controlPort.getInfo({bootstrapKey}, password);
+        const auto reply = co_await m_services.controlPort.getInfo(keys, password);
         if (!self || !isCurrent(attempt))
             co_return Failure(QString()); // the user disconnected; nobody reads this
         if (reply) {

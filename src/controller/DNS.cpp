@@ -16,7 +16,8 @@ QCoro::Task<std::optional<QStringList>> captureResolves(ControlPort *controlPort
                                                         std::chrono::milliseconds duration,
                                                         std::function<QCoro::Task<void>()> work)
 {
-    const auto hosts = co_await controlPort->captureResolves(password, duration, work);
+    const auto hosts = co_await controlPort->captureResolves(
+        password, duration, [work](std::stop_token) { return work(); });
     co_return hosts ? std::optional(*hosts) : std::nullopt;
 }
 
@@ -35,12 +36,12 @@ QCoro::Task<void> TorController::checkDNS(bool live)
         if (m_controlPassword) {
             ControlPort *const controlPort = &m_services.controlPort;
             const QString password = *m_controlPassword;
-            liveResult = co_await DNSCheck::liveTest(
-                m_services.clock,
+            const DNSCheck::CaptureResolves capture =
                 [controlPort, password](std::chrono::milliseconds duration,
                                         std::function<QCoro::Task<void>()> work) {
                     return captureResolves(controlPort, password, duration, std::move(work));
-                });
+                };
+            liveResult = co_await DNSCheck::liveTest(m_services.clock, capture);
             if (!self || !isCurrent(attempt) || phase() != ConnectionPhase::connected)
                 co_return;
             if (liveResult == DNSStatus::throughTor())
@@ -59,7 +60,8 @@ QCoro::Task<void> TorController::fixDNS()
         co_return;
     const QPointer<TorController> self(this);
     const Attempt attempt = m_attempt;
-    const auto helper = co_await m_services.privileged.runHelper({QStringLiteral("fix-dns")});
+    const QStringList arguments = {QStringLiteral("fix-dns")};
+    const auto helper = co_await m_services.privileged.runHelper(arguments);
     if (!self || !isCurrent(attempt))
         co_return;
     if (!helper) {

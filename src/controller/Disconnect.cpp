@@ -37,7 +37,8 @@ QCoro::Task<void> TorController::disconnect()
     stopMonitoring();
     m_services.terminal.setActive(false);
 
-    const auto helper = co_await m_services.privileged.runHelper({QStringLiteral("disconnect")});
+    const QStringList arguments = {QStringLiteral("disconnect")};
+    const auto helper = co_await m_services.privileged.runHelper(arguments);
     if (!self || !isCurrent(attempt))
         co_return;
     if (helper) {

@@ -42,6 +42,7 @@ void TorController::startMonitoring()
 QCoro::Task<void> TorController::monitor(quint64 run)
 {
     const QPointer<TorController> self(this);
+    const QStringList keys = {readKey, writtenKey};
     quint64 tick = 0;
     int failures = 0;
     for (;;) {
@@ -55,8 +56,8 @@ QCoro::Task<void> TorController::monitor(quint64 run)
             if (!self || run != m_monitor)
                 co_return;
         }
-        const auto counters = co_await m_services.controlPort.getInfo(
-            {readKey, writtenKey}, *m_controlPassword, counterReadLimit);
+        const auto counters =
+            co_await m_services.controlPort.getInfo(keys, *m_controlPassword, counterReadLimit);
         if (!self || run != m_monitor)
             co_return;
         if (counters) {

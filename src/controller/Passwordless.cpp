@@ -43,8 +43,8 @@ QCoro::Task<void> TorController::removePasswordless()
 {
     const QPointer<TorController> self(this);
     startupError = std::nullopt;
-    const auto helper =
-        co_await m_services.privileged.runHelper({QStringLiteral("uninstall-privileged")});
+    const QStringList arguments = {QStringLiteral("uninstall-privileged")};
+    const auto helper = co_await m_services.privileged.runHelper(arguments);
     if (!self)
         co_return;
     passwordlessInstalled = m_services.privileged.passwordlessInstalled();

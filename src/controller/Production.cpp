@@ -8,7 +8,8 @@ namespace {
 
 QCoro::Task<QString> readScutil(ProcessRunner *processes, QString scutil)
 {
-    const auto run = co_await processes->run(scutil, {QStringLiteral("--dns")});
+    const QStringList arguments = {QStringLiteral("--dns")};
+    const auto run = co_await processes->run(scutil, arguments);
     co_return run ? run->stdout : QString();
 }
 

@@ -7,6 +7,7 @@
 #include "platform/PlatformProfile.h"
 
 #include <QLocalSocket>
+#include <QMetaMethod>
 #include <QPointer>
 
 #include <sys/socket.h>
