@@ -1,0 +1,231 @@
+#include "terminal/TerminalIntegration.h"
+
+#include "terminal/SocksCommand.h"
+#include "terminal/TerminalFiles.h"
+#include "terminal/UserFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <filesystem>
+
+#include <sys/stat.h>
+
+namespace veldmark {
+
+namespace {
+
+using MarkedBlock::Position;
+using MarkedBlock::Separation;
+
+// Never more, whatever the umask: ssh refuses a configuration that the group can write.
+constexpr mode_t plainMode = 0644;
+constexpr mode_t programMode = 0755;
+constexpr mode_t privateMode = 0600;
+
+const QByteArray shellBody = "[ -f \"$HOME/.veldmark/shell.sh\" ] && . \"$HOME/.veldmark/shell.sh\"";
+const QByteArray sshBody = "Include ~/.veldmark/ssh_config";
+
+std::filesystem::path asPath(const QString &path)
+{
+    return std::filesystem::path(QFile::encodeName(path).toStdString());
+}
+
+Result<void, TerminalError> makeFolder(const QString &path)
+{
+    std::error_code error;
+    std::filesystem::create_directories(asPath(path), error);
+    if (error)
+        return Failure(TerminalError{QStringLiteral("%1 can't be created: %2.")
+                                         .arg(path, qt_error_string(error.value()))});
+    return {};
+}
+
+TerminalNames namesFor(const PlatformProfile &profile, const QString &exitCheckAddress)
+{
+    const bool isMac = profile.name == u"macos";
+    return {isMac ? QStringLiteral("Veldmark.app") : QStringLiteral("Veldmark"),
+            profile.sessionMarker, exitCheckAddress, !isMac};
+}
+
+} // namespace
+
+TerminalIntegration::TerminalIntegration(PlatformProfile profile, QString exitCheckAddress)
+    : m_profile(std::move(profile)), m_exitCheckAddress(std::move(exitCheckAddress))
+{
+}
+
+QString TerminalIntegration::own(const char *name) const
+{
+    return m_profile.terminalDirectory + u'/' + QLatin1String(name);
+}
+
+QString TerminalIntegration::sshConfiguration() const
+{
+    return m_profile.sshDirectory + QStringLiteral("/config");
+}
+
+Result<void, TerminalError> TerminalIntegration::install() const
+{
+    const std::optional<QString> command = socksCommand(m_profile);
+    if (const auto written = writeOwnFiles(command); !written)
+        return written;
+    if (const auto added = addShellBlocks(); !added)
+        return added;
+    return command ? addSshBlock() : leaveOutSsh();
+}
+
+Result<void, TerminalError>
+TerminalIntegration::writeOwnFiles(const std::optional<QString> &command) const
+{
+    const TerminalNames names = namesFor(m_profile, m_exitCheckAddress);
+    if (const auto made = makeFolder(own("bin")); !made)
+        return made;
+    if (const auto written = writeOwnFile(own("shell.sh"), shellFile(names), plainMode); !written)
+        return written;
+    if (!command)
+        return {};
+    if (const auto written = writeOwnFile(own("ssh_config"), sshFile(names, *command), plainMode);
+        !written)
+        return written;
+    return writeOwnFile(own("bin/veldmark-active"), activeProgram(names), programMode,
+                        OwnMode::exact);
+}
+
+Result<void, TerminalError> TerminalIntegration::addShellBlocks() const
+{
+    QStringList files = m_profile.shellFilesAlways;
+    for (const QString &path : m_profile.shellFilesIfPresent) {
+        if (QFile::exists(path))
+            files.append(path);
+    }
+    for (const QString &path : files) {
+        if (const auto added = addBlock(shellBody, path, Position::atEnd, plainMode); !added)
+            return added;
+    }
+    return {};
+}
+
+Result<void, TerminalError> TerminalIntegration::addSshBlock() const
+{
+    if (!QFile::exists(m_profile.sshDirectory)) {
+        if (const auto made = makeFolder(m_profile.sshDirectory); !made)
+            return made;
+        ::chmod(QFile::encodeName(m_profile.sshDirectory).constData(), 0700);
+    }
+    // At the top: ssh takes the first value it finds, and an Include below a host section would
+    // count for that host only.
+    return addBlock(sshBody, sshConfiguration(), Position::atStart, privateMode);
+}
+
+Result<void, TerminalError> TerminalIntegration::leaveOutSsh() const
+{
+    if (const auto removed = removeBlock(sshConfiguration(), Position::atStart); !removed)
+        return removed;
+    QFile::remove(own("ssh_config"));
+    QFile::remove(own("bin/veldmark-active"));
+    return {};
+}
+
+Result<void, TerminalError> TerminalIntegration::uninstall() const
+{
+    setActive(false);
+    for (const QString &path : m_profile.shellFilesAlways + m_profile.shellFilesIfPresent) {
+        if (const auto removed = removeBlock(path, Position::atEnd); !removed)
+            return removed;
+    }
+    if (const auto removed = removeBlock(sshConfiguration(), Position::atStart); !removed)
+        return removed;
+    std::error_code error;
+    std::filesystem::remove_all(asPath(m_profile.terminalDirectory), error); // a link: only itself
+    if (error)
+        return Failure(TerminalError{QStringLiteral("%1 can't be removed: %2.")
+                                         .arg(m_profile.terminalDirectory, qt_error_string(error.value()))});
+    return {};
+}
+
+bool TerminalIntegration::isInstalled() const
+{
+    if (!QFile::exists(own("shell.sh")))
+        return false;
+    const QStringList &files = m_profile.shellFilesAlways;
+    return std::any_of(files.begin(), files.end(), [](const QString &path) {
+        const Result<UserFile, TerminalError> file = UserFile::read(path);
+        return file && MarkedBlock::hasStart(file->content());
+    });
+}
+
+void TerminalIntegration::setActive(bool on) const
+{
+    if (!on) {
+        QFile::remove(own("active"));
+        return;
+    }
+    if (makeFolder(m_profile.terminalDirectory))
+        writeOwnFile(own("active"), QByteArray(), plainMode);
+}
+
+QString TerminalIntegration::sshHint() const
+{
+    return socksCommand(m_profile) ? QString() : socksCommandHint(m_profile);
+}
+
+Result<void, TerminalError> TerminalIntegration::addBlock(const QByteArray &body,
+                                                          const QString &path, Position position,
+                                                          mode_t newMode) const
+{
+    const Result<UserFile, TerminalError> file = UserFile::read(path);
+    if (!file)
+        return Failure(file.error());
+    const MarkedBlock::Addition addition = MarkedBlock::added(file->content(), body, position);
+    if (addition.text == file->content())
+        return {};
+    Separations kept = separations();
+    kept[path] = addition.separation;
+    if (const auto written = keep(kept); !written)
+        return written;
+    return file->replace(addition.text, newMode);
+}
+
+Result<void, TerminalError> TerminalIntegration::removeBlock(const QString &path,
+                                                             Position position) const
+{
+    // A block that cannot be read away does no harm: without ~/.veldmark it does nothing.
+    const Result<UserFile, TerminalError> file = UserFile::read(path);
+    if (!file || !file->exists())
+        return {};
+    const Separations kept = separations();
+    const auto ours = kept.find(path);
+    return file->replace(MarkedBlock::removed(file->content(), position,
+                                              ours == kept.end() ? Separation{} : ours->second),
+                         plainMode);
+}
+
+TerminalIntegration::Separations TerminalIntegration::separations() const
+{
+    Separations result;
+    QFile file(own("separators.json"));
+    if (!file.open(QIODevice::ReadOnly))
+        return result;
+    const QJsonObject files = QJsonDocument::fromJson(file.read(65536)).object();
+    for (auto entry = files.begin(); entry != files.end(); ++entry) {
+        const QJsonObject separation = entry.value().toObject();
+        result[entry.key()] = {separation.value(u"lineBreak").toBool(),
+                               separation.value(u"emptyLine").toBool()};
+    }
+    return result;
+}
+
+Result<void, TerminalError> TerminalIntegration::keep(const Separations &separations) const
+{
+    QJsonObject files;
+    for (const auto &[path, separation] : separations)
+        files.insert(path, QJsonObject{{QStringLiteral("lineBreak"), separation.lineBreak},
+                                       {QStringLiteral("emptyLine"), separation.emptyLine}});
+    return writeOwnFile(own("separators.json"), QJsonDocument(files).toJson(), plainMode);
+}
+
+} // namespace veldmark

@@ -1,0 +1,215 @@
+#include "terminal/UserFile.h"
+
+#include <QFile>
+#include <QRandomGenerator>
+
+#include <cerrno>
+#include <filesystem>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace veldmark {
+
+namespace {
+
+tl::unexpected<TerminalError> failure(const QString &sentence, const QString &path)
+{
+    return Failure(TerminalError{sentence.arg(path)});
+}
+
+tl::unexpected<TerminalError> systemFailure(const QString &sentence, const QString &path, int error)
+{
+    return Failure(TerminalError{sentence.arg(path, qt_error_string(error))});
+}
+
+const QString cannotRead = QStringLiteral("%1 can't be read: %2.");
+const QString cannotWrite = QStringLiteral("%1 can't be written: %2.");
+
+// Where a chain of links leads, whether or not there is something. Nothing is tidied out of the
+// path: ".." behind a link to a folder is for the kernel to resolve.
+std::optional<QString> linkTarget(const QString &path)
+{
+    std::filesystem::path place(QFile::encodeName(path).toStdString());
+    for (int links = 0; links < 40; ++links) { // as many as the kernel follows
+        std::error_code error;
+        const std::filesystem::path next = std::filesystem::read_symlink(place, error);
+        if (error) // no link
+            return QFile::decodeName(QByteArray::fromStdString(place.string()));
+        place = place.parent_path() / next;
+    }
+    return std::nullopt;
+}
+
+class Descriptor {
+public:
+    explicit Descriptor(int number) : m_number(number) {}
+    ~Descriptor() { close(); }
+    Descriptor(const Descriptor &) = delete;
+    Descriptor &operator=(const Descriptor &) = delete;
+    int number() const { return m_number; }
+    bool close() { return m_number < 0 || ::close(std::exchange(m_number, -1)) == 0; }
+
+private:
+    int m_number;
+};
+
+bool writeAll(int descriptor, QByteArrayView content)
+{
+    while (!content.isEmpty()) {
+        const ssize_t written = ::write(descriptor, content.data(), std::size_t(content.size()));
+        if (written < 0 && errno != EINTR)
+            return false;
+        content = content.sliced(qMax(ssize_t(0), written));
+    }
+    return true;
+}
+
+struct Owner {
+    uid_t user;
+    gid_t group;
+};
+
+struct Access {
+    mode_t mode;
+    bool isExact; // otherwise the user's umask takes from it
+    std::optional<Owner> owner;
+};
+
+// A new, empty file beside `place`, which begins to carry its name; its path is put into `fresh`.
+int createBeside(const QByteArray &place, mode_t mode, QByteArray &fresh)
+{
+    const qsizetype slash = place.lastIndexOf('/');
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        const quint32 number = QRandomGenerator::global()->generate();
+        fresh = place.first(slash + 1) + '.' + place.sliced(slash + 1) + ".veldmark-"
+            + QByteArray::number(number, 36);
+        const int file = ::open(fresh.constData(),
+                                O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode);
+        if (file >= 0 || errno != EEXIST)
+            return file;
+    }
+    return -1;
+}
+
+enum class Step { done, notOurs, failed };
+
+// Puts a new file in the place of `target`. `isStillWanted` is asked last of all; errno tells why a
+// step failed.
+template <typename IsStillWanted>
+Step putInPlace(const QString &target, const QByteArray &content, const Access &access,
+                IsStillWanted isStillWanted)
+{
+    const QByteArray place = QFile::encodeName(target);
+    QByteArray fresh;
+    Descriptor file(createBeside(place, access.isExact ? 0600 : access.mode, fresh));
+    if (file.number() < 0)
+        return Step::failed;
+    const auto giveUp = [&fresh](Step step) {
+        const int error = errno;
+        ::unlink(fresh.constData());
+        errno = error;
+        return step;
+    };
+    if (access.owner && ::fchown(file.number(), access.owner->user, access.owner->group) != 0)
+        return giveUp(errno == EPERM ? Step::notOurs : Step::failed);
+    if (!writeAll(file.number(), content)
+        || (access.isExact && ::fchmod(file.number(), access.mode) != 0)
+        || ::fsync(file.number()) != 0 || !file.close())
+        return giveUp(Step::failed);
+    if (!isStillWanted())
+        return giveUp(Step::notOurs);
+    if (::rename(fresh.constData(), place.constData()) != 0)
+        return giveUp(Step::failed);
+    // The new name outlives a power cut only once the folder is written; the content is safe
+    // either way.
+    const QByteArray folder = place.first(place.lastIndexOf('/') + 1);
+    const Descriptor directory(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (directory.number() >= 0)
+        ::fsync(directory.number());
+    return Step::done;
+}
+
+} // namespace
+
+std::optional<UserFile::Identity> UserFile::look(const QString &target)
+{
+    struct stat status = {};
+    if (::stat(QFile::encodeName(target).constData(), &status) != 0)
+        return std::nullopt;
+#ifdef Q_OS_MACOS
+    const timespec changed = status.st_mtimespec;
+#else
+    const timespec changed = status.st_mtim;
+#endif
+    return Identity{status.st_dev,  status.st_ino,
+                    status.st_size, qint64(changed.tv_sec) * 1'000'000'000 + changed.tv_nsec,
+                    status.st_mode, status.st_uid,
+                    status.st_gid};
+}
+
+Result<UserFile, TerminalError> UserFile::read(const QString &path)
+{
+    UserFile result;
+    result.m_path = path;
+    const std::optional<QString> target = linkTarget(path);
+    if (!target)
+        return systemFailure(cannotRead, path, ELOOP);
+    result.m_target = *target;
+    errno = 0;
+    result.m_found = look(*target);
+    if (!result.m_found) {
+        if (errno == ENOENT)
+            return result;
+        return systemFailure(cannotRead, path, errno);
+    }
+    if (!S_ISREG(result.m_found->mode))
+        return failure(QStringLiteral("%1 is not a file."), path);
+
+    QFile file(*target);
+    if (!file.open(QIODevice::ReadOnly))
+        return systemFailure(cannotRead, path, errno);
+    result.m_content = file.readAll();
+    if (file.error() != QFile::NoError)
+        return systemFailure(cannotRead, path, errno);
+    return result;
+}
+
+Result<void, TerminalError> UserFile::replace(const QByteArray &content, mode_t newMode) const
+{
+    if (exists() && content == m_content)
+        return {};
+    Access access{newMode, false, std::nullopt};
+    if (m_found) {
+        // A new file could take the place of one that may not be written; the user has said no.
+        if ((m_found->mode & S_IWUSR) == 0
+            || ::access(QFile::encodeName(m_target).constData(), W_OK) != 0)
+            return failure(QStringLiteral("%1 is read-only."), m_path);
+        access = {m_found->mode & 07777, true, Owner{m_found->owner, m_found->group}};
+    }
+    bool hasChanged = false;
+    const Step step = putInPlace(m_target, content, access, [this, &hasChanged] {
+        hasChanged = look(m_target) != m_found;
+        return !hasChanged;
+    });
+    if (hasChanged)
+        return failure(QStringLiteral("%1 was changed by another program just now."), m_path);
+    if (step == Step::notOurs)
+        return failure(QStringLiteral("%1 belongs to another user or group."), m_path);
+    if (step == Step::failed)
+        return systemFailure(cannotWrite, m_path, errno);
+    return {};
+}
+
+Result<void, TerminalError> writeOwnFile(const QString &path, const QByteArray &content,
+                                         mode_t mode, OwnMode kind)
+{
+    const Access access{mode, kind == OwnMode::exact, std::nullopt};
+    if (putInPlace(path, content, access, [] { return true; }) != Step::done)
+        return systemFailure(cannotWrite, path, errno);
+    return {};
+}
+
+} // namespace veldmark
