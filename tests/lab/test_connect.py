@@ -207,7 +207,7 @@ class WhenThingsGoWrong(LabCase):
         for delay in (0.0, 0.02, 0.1, 0.2):
             with self.subTest(delay=delay), self.product.session() as session:
                 session.wait_phase("connected")
-                session.signal(signal.SIGINT)
+                session.send(signal.SIGINT)
                 time.sleep(delay)  # any moment must do; these are four of them
                 self.assertEqual(session.interrupt(), 0, session.output)
                 self.assert_restored()

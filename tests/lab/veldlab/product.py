@@ -78,12 +78,12 @@ class Session(contextlib.AbstractContextManager):
     def wait_phase(self, phase: str, timeout: float = 60) -> dict:
         return self.wait(lambda state: state["phase"] == phase, timeout)
 
-    def signal(self, number: int) -> None:
+    def send(self, number: int) -> None:
         self.process.send_signal(number)
 
     def interrupt(self, number: int = signal.SIGINT, timeout: float = 40) -> int:
         """Ends it by a signal; gives its exit status."""
-        self.signal(number)
+        self.send(number)
         status = self.process.wait(timeout)
         self._reader.join()
         return status
