@@ -94,7 +94,7 @@ QCoro::Task<ExitStatus> askInstance(Invocation invocation, std::shared_ptr<Insta
 {
     const auto last = std::make_shared<QJsonObject>();
     const auto progress = std::make_shared<ProgressLine>(Console::isTerminal(), Console::width());
-    const auto onState = [invocation, last, progress](const QJsonObject &state) {
+    const std::function<void(const QJsonObject &)> onState = [invocation, last, progress](const QJsonObject &state) {
         *last = state;
         if (showsEveryState(invocation))
             show(invocation, state);
@@ -104,7 +104,8 @@ QCoro::Task<ExitStatus> askInstance(Invocation invocation, std::shared_ptr<Insta
                 state.value(QStringLiteral("bootstrapProgress")).toDouble(),
                 state.value(QStringLiteral("statusDetail")).toString()));
     };
-    const auto answer = co_await instance->run(request(invocation), onState);
+    auto running = instance->run(request(invocation), onState);
+    const auto answer = co_await running;
     Console::draw(progress->finish());
     if (!answer) {
         Console::printError(answer.error());
@@ -152,14 +153,20 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
     co_return show(invocation, publishedState(controller)) ? ExitStatus::done : ExitStatus::usage;
 }
 
+QCoro::Task<ExitStatus> refuse()
+{
+    Console::printError(notRunning);
+    co_return ExitStatus::notRunning;
+}
+
 } // namespace
 
 QCoro::Task<ExitStatus> execute(Invocation invocation, PlatformProfile profile)
 {
     if (invocation.verb == Verb::log)
-        co_return co_await showLog(invocation, profile);
+        return showLog(invocation, profile);
     if (const auto instance = InstanceClient::connectTo(profile))
-        co_return co_await askInstance(invocation, instance);
+        return askInstance(invocation, instance);
     switch (invocation.verb) {
     case Verb::status:
     case Verb::get:
@@ -167,11 +174,10 @@ QCoro::Task<ExitStatus> execute(Invocation invocation, PlatformProfile profile)
     case Verb::disconnect:
     case Verb::restore:
         if (!invocation.watch)
-            co_return co_await doHere(invocation, std::make_shared<Production>(profile));
+            return doHere(invocation, std::make_shared<Production>(profile));
         [[fallthrough]];
     default:
-        Console::printError(notRunning);
-        co_return ExitStatus::notRunning;
+        return refuse();
     }
 }
 

@@ -17,6 +17,7 @@ namespace {
 constexpr int optimizeAttempts = 4;
 constexpr auto newCircuitsSettle = 10s;
 
+const QString newCircuitsSignal = QStringLiteral("NEWNYM");
 const QString circuitKey = QStringLiteral("circuit-status");
 const QString streamKey = QStringLiteral("stream-status");
 
@@ -113,8 +114,8 @@ QCoro::Task<void> TorController::newIdentity()
     if (!m_controlPassword)
         co_return;
     const QPointer<TorController> self(this);
-    const auto done =
-        co_await m_services.controlPort.signal(QStringLiteral("NEWNYM"), *m_controlPassword);
+    auto asking = m_services.controlPort.signal(newCircuitsSignal, *m_controlPassword);
+    const auto done = co_await asking;
     if (self && !done)
         errorMessage =
             QStringLiteral("Couldn't request a new identity: ") + done.error().description();
@@ -155,7 +156,8 @@ QCoro::Task<void> TorController::optimizeCircuits()
             : QStringLiteral("Path not responding, finding another…");
         if (round == optimizeAttempts)
             break;
-        co_await m_services.controlPort.signal(QStringLiteral("NEWNYM"), *m_controlPassword);
+        auto asking = m_services.controlPort.signal(newCircuitsSignal, *m_controlPassword);
+        co_await asking;
         if (!self || !isCurrent(attempt))
             co_return;
         co_await m_services.clock.sleep(newCircuitsSettle);

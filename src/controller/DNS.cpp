@@ -16,8 +16,9 @@ QCoro::Task<std::optional<QStringList>> captureResolves(ControlPort *controlPort
                                                         std::chrono::milliseconds duration,
                                                         std::function<QCoro::Task<void>()> work)
 {
-    const auto hosts = co_await controlPort->captureResolves(
-        password, duration, [work](std::stop_token) { return work(); });
+    const ControlPort::Work task = [work](std::stop_token) { return work(); };
+    auto capturing = controlPort->captureResolves(password, duration, task);
+    const auto hosts = co_await capturing;
     co_return hosts ? std::optional(*hosts) : std::nullopt;
 }
 
@@ -41,7 +42,8 @@ QCoro::Task<void> TorController::checkDNS(bool live)
                                         std::function<QCoro::Task<void>()> work) {
                     return captureResolves(controlPort, password, duration, std::move(work));
                 };
-            liveResult = co_await DNSCheck::liveTest(m_services.clock, capture);
+            auto testing = DNSCheck::liveTest(m_services.clock, capture);
+            liveResult = co_await testing;
             if (!self || !isCurrent(attempt) || phase() != ConnectionPhase::connected)
                 co_return;
             if (liveResult == DNSStatus::throughTor())

@@ -32,7 +32,7 @@ Production::Production(const PlatformProfile &profile)
     , m_controlPort(m_clock)
     , m_probe(m_clock)
     , m_resolvers(resolverSource(m_profile, m_clock, m_processes))
-    , m_terminal(m_profile)
+    , m_terminal(m_profile, NetworkProbe::checkURL().toString())
     , m_controller(TorController::Services{
           .profile = m_profile,
           .settings = m_settings,
