@@ -69,15 +69,15 @@ public:
     const PlatformProfile profile;
 };
 
-// While it lives, this process can write no file beyond a few bytes, as on a full disk.
+// While it lives, this process can write no file beyond so many bytes, as on a full disk.
 class FullDisk {
 public:
-    FullDisk()
+    explicit FullDisk(rlim_t bytes)
     {
         m_handler = std::signal(SIGXFSZ, SIG_IGN);
         ::getrlimit(RLIMIT_FSIZE, &m_limit);
         rlimit none = m_limit;
-        none.rlim_cur = 4;
+        none.rlim_cur = bytes;
         ::setrlimit(RLIMIT_FSIZE, &none);
     }
     ~FullDisk()
@@ -398,22 +398,31 @@ private Q_SLOTS:
         QVERIFY(!store.problem());
     }
 
+    void aFullDiskLeavesTheOldFile_data()
+    {
+        QTest::addColumn<int>("bytes");
+        QTest::newRow("no room for a copy") << 4;
+        QTest::newRow("no room for the change") << 30;
+    }
     void aFullDiskLeavesTheOldFile()
     {
+        QFETCH(int, bytes);
+        const QString after(100, u'x');
         Home home;
         SettingsStore store(home.profile);
         store.setString(key, QStringLiteral("before"));
         const QByteArray before = home.content();
+        QVERIFY(before.size() <= 30);
         {
-            const FullDisk full;
-            store.setString(key, QStringLiteral("after"));
+            const FullDisk full(static_cast<rlim_t>(bytes));
+            store.setString(key, after);
         }
         QVERIFY(store.problem());
         QCOMPARE(home.content(), before);
         QCOMPARE(home.files(), QStringList(QStringLiteral("veldmark.conf")));
-        QCOMPARE(store.string(key), QStringLiteral("after"));
+        QCOMPARE(store.string(key), after);
         store.setBoolean(strict, true);
-        QCOMPARE(home.content(), QByteArray("[General]\naKey=after\nstrictMode=true\n"));
+        QCOMPARE(home.content(), "[General]\naKey=" + after.toUtf8() + "\nstrictMode=true\n");
     }
 
     void aFileItsOwnerMadeReadOnlyIsLeftAlone()
