@@ -54,7 +54,9 @@ bool isSocksNcat(const QByteArray &usage)
 
 std::optional<QString> socksCommand(const PlatformProfile &profile)
 {
-    const auto at = [&profile](const char *path) { return profile.places.root + QLatin1String(path); };
+    const auto at = [&profile](const char *path) {
+        return profile.places.root + QLatin1String(path);
+    };
     if (profile.name == u"macos")
         return netcatCommand(at("/usr/bin/nc"));
     for (const char *path : {"/usr/bin/nc", "/bin/nc", "/usr/bin/nc.openbsd", "/bin/nc.openbsd"}) {

@@ -10,7 +10,7 @@ namespace veldmark {
 struct TerminalNames {
     QString maker;         // who looks after them, as in "Managed by Veldmark.app"
     QString sessionMarker; // exists while the network is set up for Tor
-    QString exitCheck;     // https address that tells the caller's own; no character that a shell reads
+    QString exitCheck;     // https address; no character in it that means something to a shell
     // Whether the user's own proxy variables are put back after a session, and not only cleared.
     // On the Mac the file stays as it has always been.
     bool givesBackProxies = true;
