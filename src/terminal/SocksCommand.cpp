@@ -66,7 +66,8 @@ std::optional<QString> socksCommand(const PlatformProfile &profile)
     const QString ncat = at("/usr/bin/ncat");
     if (isSocksNcat(usage(ncat, QStringLiteral("--help"))))
         return ncat
-            + QStringLiteral(" --proxy 127.0.0.1:9050 --proxy-type socks5 --proxy-dns remote %h %p");
+            + QStringLiteral(" --proxy 127.0.0.1:9050 --proxy-type socks5 --proxy-dns remote"
+                             " %h %p");
     return std::nullopt;
 }
 

@@ -11,8 +11,8 @@ struct TerminalNames {
     QString maker;         // who looks after them, as in "Managed by Veldmark.app"
     QString sessionMarker; // exists while the network is set up for Tor
     QString exitCheck;     // https address; no character in it that means something to a shell
-    // Whether the user's own proxy variables are put back after a session, and not only cleared.
-    // On the Mac the file stays as it has always been.
+    // Whether the user's own proxy variables are put back after a session; the Mac's file clears
+    // them.
     bool givesBackProxies = true;
 };
 
