@@ -53,7 +53,8 @@ private:
 
 enum class OwnMode { exact, belowUmask };
 
-// Writes a file of the program's own, in place of whatever is there.
+// Writes a file of the program's own, in place of whatever is there; nothing when that is the same
+// file already. Does not wait for the disk: the next call repairs what a power cut has taken.
 Result<void, TerminalError> writeOwnFile(const QString &path, const QByteArray &content,
                                          mode_t mode, OwnMode kind = OwnMode::belowUmask);
 

@@ -127,7 +127,8 @@ private Q_SLOTS:
         home.file(sshConfig, text, 0640);
         for (int i = 0; i < cycles; ++i) {
             QVERIFY(terminal(home).install());
-            QVERIFY(terminal(home).install());
+            if (i == 0)
+                QVERIFY(terminal(home).install()); // once more adds no second block
             QCOMPARE(home.content(zshrc).count("\n# <<< veldmark <<<\n"), 1);
             QCOMPARE(home.content(sshConfig).count("\n# <<< veldmark <<<\n"), 1);
             QVERIFY(home.content(zshrc).endsWith(shellBlock));

@@ -215,6 +215,35 @@ private Q_SLOTS:
         QVERIFY(last == one || last == two);
     }
 
+    void ownFilesAreWrittenOnlyWhenTheyDiffer_data()
+    {
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<bool>("isWritten");
+        QTest::newRow("the same") << QByteArray("mine") << 0755 << false;
+        QTest::newRow("other content") << QByteArray("mins") << 0755 << true;
+        QTest::newRow("other mode") << QByteArray("mine") << 0700 << true;
+    }
+
+    void ownFilesAreWrittenOnlyWhenTheyDiffer()
+    {
+        QFETCH(QByteArray, before);
+        QFETCH(int, mode);
+        QFETCH(bool, isWritten);
+        const Home home;
+        home.file(QStringLiteral("own"), before, mode_t(mode));
+        // A second name for the old file shows whether it is still the one in place.
+        const QString own = home.path(QStringLiteral("own"));
+        const QString second = home.path(QStringLiteral("second"));
+        QCOMPARE(::link(QFile::encodeName(own).constData(), QFile::encodeName(second).constData()), 0);
+        QVERIFY(writeOwnFile(own, "mine", 0755, OwnMode::exact));
+        QCOMPARE(home.content(QStringLiteral("own")), QByteArray("mine"));
+        QCOMPARE(home.mode(QStringLiteral("own")), mode_t(0755));
+        struct stat status = {};
+        QCOMPARE(::stat(QFile::encodeName(second).constData(), &status), 0);
+        QCOMPARE(status.st_nlink, nlink_t(isWritten ? 1 : 2));
+    }
+
     void ownFilesTakeThePlaceOfLinks()
     {
         const Home home;
