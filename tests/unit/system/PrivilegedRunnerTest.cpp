@@ -143,6 +143,8 @@ private Q_SLOTS:
         for (const bool linux : {true, false}) {
             const QByteArray name = linux ? "linux " : "macos ";
             QTest::newRow(name + "password") << linux << QByteArray("sudo: a password is required");
+            QTest::newRow(name + "password, in German")
+                << linux << QByteArray("sudo: Ein Passwort ist notwendig");
             QTest::newRow(name + "capitals") << linux << QByteArray("PASSWORD needed");
             QTest::newRow(name + "terminal")
                 << linux << QByteArray("sudo: a terminal is required to read it");
