@@ -51,7 +51,7 @@ linux_install-privileged() {
   take_lock
   trap finish EXIT
   { uid=$(id -u -- "$OPT_USER") && is_uid "$uid"; } || die "The user $OPT_USER is not known on this system."
-  [[ $uid != 0 ]] || die "root needs no password for the helper."
+  [[ $uid != 0 ]] || die "The user root needs no password for the helper."
   [[ $CALLER_UID == 0 || $CALLER_UID == "$uid" ]] || die "Only the user who asks can be let in."
   read_accounts
   root_owned /etc/sudoers.d || die "The folder /etc/sudoers.d is missing or not safe."
