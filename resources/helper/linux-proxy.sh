@@ -243,8 +243,9 @@ undo_kde() {
   be_session_user "$(journal_value uid)" || return 0
   UNDONE="The network is open again, but the desktop's proxy settings could not be put back."
   read_kde || KDE_FILE=absent
+  [[ $KDE_FILE != "$former" ]] || return 0
   now=$(kde_text "$KDE_FILE")
-  if [[ $now == "$(kde_ours "$former")" || $KDE_FILE == "$former" || $KDE_FILE == absent ]]; then
+  if [[ $now == "$(kde_ours "$former")" || $KDE_FILE == absent ]]; then
     if [[ $former == absent ]]; then
       as_session "$KDE_WRITE" absent </dev/null
     else

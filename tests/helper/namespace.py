@@ -43,6 +43,7 @@ echo 'DisableNetwork 1' >/etc/tor/torrc-defaults
 echo 'nameserver 192.0.2.53' >/etc/resolv.conf
 echo 'alice:x:%(uid)s:%(uid)s::/home/alice:/bin/bash' >>/etc/passwd
 echo 'alice:x:%(uid)s:' >>/etc/group
+echo 'alice:*:19000:0:99999:7:::' >>/etc/shadow
 install -d -o %(uid)s -g %(uid)s -m 0700 /home/alice /run/user/%(uid)s
 mkdir -p /run/sudo
 """ % {"uid": USER_UID}
