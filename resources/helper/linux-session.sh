@@ -10,7 +10,7 @@ UNDONE=''       # why an undo_... function failed
 
 need_programs() {
   local program
-  for program in nft flock setpriv unshare setsid getent stat sync mount umount sha256sum timeout readlink; do
+  for program in "$@"; do
     command -v "$program" >/dev/null || die "The program $program is missing on this system."
   done
 }
@@ -52,7 +52,7 @@ linux_connect() {
   local mode=proxy former
   parse_connect "$@"
   [[ $OPT_STRICT == 0 ]] || mode=strict
-  need_programs
+  need_programs flock nft setpriv unshare setsid getent stat sync mount umount sha256sum timeout readlink
   take_lock
   trap finish EXIT
   ready_account
@@ -63,6 +63,9 @@ linux_connect() {
 
   # From here on the network changes. A strict session in force stays so until its successor stands.
   former=$(read_marker)
+  if [[ $former == strict ]] && ! kill_switch_stands; then
+    former=''
+  fi
   if [[ $former == strict ]]; then
     STAYS_CLOSED=" The network stays blocked until you disconnect."
   else
@@ -87,7 +90,8 @@ linux_connect() {
 }
 
 # undo_entry NAME: puts back what the entry tells of and removes it. A torn entry tells nothing, and what can be
-# put back without it is put back. Status 1 with UNDONE set when something could not be.
+# put back without it is put back. Status 1 with UNDONE set when something could not be put back and the entry stays;
+# 2, likewise, when the entry was torn and is gone.
 undo_entry() {
   local name=$1 status=0
   JOURNAL_LINES=()
@@ -108,7 +112,7 @@ undo_entry() {
   journal_drop "$name"
   if ((status == 2)); then
     UNDONE="A note of what to restore was damaged (${name#*-}). The network is open again; check your proxy settings."
-    return 1
+    return 2
   fi
 }
 
@@ -116,12 +120,16 @@ JOURNAL_TRUSTED=1
 
 # undo_session: everything, backwards, the firewall last; goes on when a step fails. Keeps the first reason.
 undo_session() {
-  local name reason=''
+  local name status reason='' open=1
   for name in $ENTRIES; do
-    UNDONE=
-    undo_entry "$name" || reason=${reason:-${UNDONE:-The former network settings could not all be restored.}}
+    UNDONE='' status=0
+    undo_entry "$name" || status=$?
+    ((status == 0)) || reason=${reason:-${UNDONE:-The former network settings could not all be restored.}}
+    # The desktop's settings are not the network: they are tried again by the next run, without a session.
+    [[ $status != 1 || $name == "$GNOME_ENTRY" || $name == "$KDE_ENTRY" ]] || open=''
   done
-  rm -f -- "$MARKER" "$RULES" "$MARKER.new" "$RULES.new" "$TORRC.checked" "$JOURNAL"/*.new
+  [[ -z $open ]] || rm -f -- "$MARKER" "$RULES"
+  rm -f -- "$MARKER.new" "$RULES.new" "$TORRC.checked" "$JOURNAL"/*.new
   UNDONE=$reason
   [[ -z $reason ]]
 }
@@ -130,7 +138,7 @@ undo_session() {
 # transaction, so that also a flushed kill switch stands again.
 linux_fix-dns() {
   (($# == 0)) || die "The verb fix-dns takes no options."
-  need_programs
+  need_programs flock nft mount umount readlink stat sync
   take_lock
   trap finish EXIT
   { [[ -f $MARKER ]] && folders_are_safe; } || die "Veldmark is not connected, so the DNS settings were left alone."
@@ -143,7 +151,7 @@ linux_fix-dns() {
 
 linux_disconnect() {
   (($# == 0)) || die "The verb disconnect takes no options."
-  need_programs
+  need_programs flock nft umount stat
   take_lock
   trap finish EXIT
   if [[ -e $BASE || -L $BASE ]]; then

@@ -54,7 +54,8 @@ class Gnome(Desktop):
         self.connect()
         self.assertNotIn("proxy.corp", self.settings()[0])
         self.assertNotIn("corp", self.as_user("gsettings get org.gnome.system.proxy ignore-hosts"))
-        self.connect(strict=1)   # a second connect does not take our own values for the user's
+        self.connect(strict=1, lan=1)   # a second connect does not take our own values for the user's
+        self.assertIn("'192.168.0.0/16'", self.as_user("gsettings get org.gnome.system.proxy ignore-hosts"))
         self.disconnect()
         self.assertEqual(self.settings(), before)
 
@@ -122,7 +123,8 @@ class Kde(Desktop):
                 self.assertIn("socksProxy=socks://127.0.0.1 9050\n", now)
                 self.assertNotIn("proxy.corp", now)
                 self.assertEqual("other=kept" in now, "other=kept" in text)
-                self.connect(strict=1)
+                self.connect(strict=1, lan=1)
+                self.assertIn("192.168.0.0/16", self.machine.shell(f"cat {KIOSLAVE}"))
                 self.disconnect()
                 self.assertEqual(self.machine.snapshot(), before)
 

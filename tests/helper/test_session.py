@@ -159,6 +159,32 @@ class Session(HelperTest):
         self.machine.shell("kill -9 $(pgrep -u _veldmark)")
         self.assertIn("policy drop", self.machine.run("nft", "list", "ruleset").stdout)
 
+    def test_tor_dies_with_its_launcher(self):
+        self.machine.connect(strict=1)
+        [pid] = self.machine.tor_pids()
+        self.machine.shell("kill -9 $(ps -o ppid= -p $1); while [ -e /proc/$1 ] && pgrep -u _veldmark >/dev/null; do :; done", pid)
+        self.assertEqual(self.machine.tor_pids(), [])
+
+    def test_marker_from_before_a_restart_promises_nothing(self):
+        """The kill switch is gone: a connect that fails must not say that the network is blocked."""
+        self.machine.connect(strict=1)
+        self.machine.shell("kill -9 $(pgrep -u _veldmark); umount /etc/resolv.conf; nft delete table inet veldmark")
+        holder = self.take_port(9051)
+        done = self.machine.connect(strict=0, check=False)
+        self.assertOneLine(done, "Tor did not start")
+        self.assertNotIn("blocked", done.stderr)
+        holder.communicate()
+        self.assertEqual(self.machine.snapshot(), self.before)
+
+    def test_firewall_that_cannot_be_opened_keeps_the_marker(self):
+        self.machine.connect(strict=1)
+        self.machine.shell("printf '#!/bin/sh\necho no >&2; exit 1\n' >/mnt/nft; chmod +x /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft")
+        try:
+            self.assertOneLine(self.machine.help("disconnect", check=False), "firewall")
+            self.assertEqual(self.marker(), "strict\n")
+        finally:
+            self.machine.shell("umount /usr/sbin/nft; rm /mnt/nft")
+
     def test_tor_that_does_not_hear_is_killed(self):
         self.machine.connect()
         self.machine.shell("kill -STOP $(pgrep -u _veldmark)")
