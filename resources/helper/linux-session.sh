@@ -2,7 +2,7 @@
 # ---- Linux: connect and disconnect -------------------------------------------------------------------------
 
 readonly FIREWALL_ENTRY=10-firewall
-readonly ENTRIES="$KDE_ENTRY $GNOME_ENTRY $RESOLVER_ENTRY $TOR_ENTRY $FIREWALL_ENTRY"   # in the order of undoing
+readonly ENTRIES="$KDE_ENTRY $GNOME_ENTRY $RESOLVED_ENTRY $RESOLVER_ENTRY $TOR_ENTRY $FIREWALL_ENTRY"   # in the order of undoing
 
 ON_FAILURE=''   # "undo" while a failure must put everything back; empty before the first change and where the
                 # kill switch stays closed
@@ -82,6 +82,7 @@ linux_connect() {
   undo_entry "$TOR_ENTRY" || ! journal_has "$TOR_ENTRY" || die "$UNDONE"
   start_tor
   put_resolver
+  put_resolved || true   # the firewall redirects what its links ask
   put_proxy
   if [[ $former == strict && $mode == proxy ]]; then
     switch_firewall proxy
@@ -105,6 +106,7 @@ undo_entry() {
   case $name in
   "$KDE_ENTRY") undo_kde ;;
   "$GNOME_ENTRY") undo_gnome ;;
+  "$RESOLVED_ENTRY") undo_resolved ;;
   "$RESOLVER_ENTRY") undo_resolver ;;
   "$TOR_ENTRY") undo_tor ;;
   "$FIREWALL_ENTRY") undo_firewall ;;
@@ -147,6 +149,7 @@ linux_fix-dns() {
   fi
   read_resolver
   put_resolver
+  put_resolved || die "The DNS servers of systemd-resolved cannot be changed."
 }
 
 linux_disconnect() {
