@@ -171,9 +171,9 @@ class Machine:
 
 
 class Peer:
-    """A second network namespace at the other end of the machine's only link. See probes.py for its addresses."""
+    """Another network namespace, at the other end of a link of the machine's: device `near` there, `far` here."""
 
-    def __init__(self, machine):
+    def __init__(self, machine, near="veth0", far="veth1"):
         self.init = subprocess.Popen(
             ["unshare", "--net", "/usr/bin/python3", "-c", INIT], stdout=subprocess.PIPE
         )
@@ -181,8 +181,8 @@ class Peer:
             raise RuntimeError("the peer could not be set up")
         self.init.stdout.close()
         subprocess.run(
-            ["nsenter", "--target", str(machine.pid), "--net", "ip", "link", "add", "veth0", "type", "veth",
-             "peer", "name", "veth1", "netns", str(self.init.pid)], check=True)
+            ["nsenter", "--target", str(machine.pid), "--net", "ip", "link", "add", near, "type", "veth",
+             "peer", "name", far, "netns", str(self.init.pid)], check=True)
 
     def command(self, words):
         return ["nsenter", "--target", str(self.init.pid), "--net", *words]

@@ -186,9 +186,28 @@ class Firewall(HelperTest):
         self.assertEqual(self.machine.snapshot(), before)
         self.machine.shell("nft delete table inet other")
 
-    def test_nobody_gets_in_or_through(self):
-        """A probe from outside gets no answer in strict mode, and one in the control run; nothing is forwarded."""
-        self.machine.shell("sysctl -qw net.ipv4.ip_forward=1")
+    def test_forwarded_traffic_obeys_the_same_policy(self):
+        """As of a container, which has a link of its own and is routed through the machine."""
+        container = Peer(self.machine, "veth2", "veth3")
+        self.addCleanup(container.close)
+        container.run("/bin/bash", "-c", "ip link set veth3 up; ip addr add 10.9.0.2/24 dev veth3; ip route add default via 10.9.0.1")
+        self.machine.shell("ip link set veth2 up; ip addr add 10.9.0.1/24 dev veth2; sysctl -qw net.ipv4.ip_forward=1")
+
+        def forwarded():
+            self.wire.mark()
+            container.run("/usr/bin/python3", "-c", "import sys; sys.path.insert(0, sys.argv[1]); import probes\n"
+                          "for n in 'tcp', 'udp', 'dns', 'ping', 'lan-tcp', 'lan-udp', 'lan-dns', 'lan-dns-tcp', 'lan-mdns':\n"
+                          " probes.send_probe(*probes.PROBES[n])", namespace.HERE)
+
+            return set(self.wire.mark()) & ALL
+        self.assertEqual(forwarded(), {"tcp", "udp", "dns", "ping", "lan-tcp", "lan-udp", "lan-dns", "lan-dns-tcp", "lan-mdns"})
+        self.machine.connect(strict=1)
+        self.assertEqual(forwarded(), set())
+        self.machine.connect(strict=1, lan=1)
+        self.assertEqual(forwarded(), {"lan-tcp", "lan-udp"})
+
+    def test_nobody_gets_in(self):
+        """A probe from outside gets no answer in strict mode, and one in the control run."""
         knock = ["/usr/bin/python3", "-c", "import socket; s = socket.socket(); s.settimeout(float(__import__('sys').argv[1]));"
                  "print(s.connect_ex(('192.168.77.2', 1)))"]
         self.assertEqual(self.wire.peer.run(*knock, "10").strip(), "111")
