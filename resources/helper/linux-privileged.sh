@@ -18,15 +18,6 @@ Defaults!$INSTALLED_HELPER env_reset
 END
 }
 
-# print_file PATH: its content, opened as the caller, so that nobody reads through us what is not theirs.
-print_file() {
-  if [[ $CALLER_UID == 0 ]]; then
-    head -c "$MAX_PROGRAM_BYTES" -- "$1"
-  else
-    as_caller 10 head -c "$MAX_PROGRAM_BYTES" -- "$1"
-  fi
-}
-
 # install_file FROM TO
 install_file() {
   local new=$2.new

@@ -1,10 +1,7 @@
 """Connecting and disconnecting: what changes, what comes back, what happens when Tor dies."""
 
 import os
-import re
 import subprocess
-import time
-import unittest
 
 import namespace
 from namespace import HASH, TOR, HelperTest
@@ -343,19 +340,6 @@ class ResolverFile(HelperTest):
         self.assertRegex(self.machine.run("nft", "list", "ruleset").stdout, r"ip daddr 192\.0\.2\.9 udp dport 53 accept")
         self.machine.help("disconnect")
         self.machine.shell("rm -r /run/systemd")
-
-
-class Speed(HelperTest):
-    def test_connect_and_disconnect_take_half_a_second(self):
-        took = {"connect": [], "disconnect": []}
-        for _ in range(10):
-            for verb, run in ("connect", self.machine.connect), ("disconnect", lambda: self.machine.help("disconnect")):
-                start = time.monotonic()
-                run()
-                took[verb].append(time.monotonic() - start)
-        for verb, times in took.items():
-            times.sort()
-            print(f"{verb}: median {times[5] * 1000:.0f} ms, longest {times[-1] * 1000:.0f} ms of {len(times)}")
 
 
 if __name__ == "__main__":
