@@ -80,7 +80,8 @@ class Machine:
     def __init__(self):
         self.helper = helper_path()
         self.init = subprocess.Popen(
-            ["unshare", "--net", "--mount", "--propagation", "private", "--pid", "--fork", "--kill-child",
+            ["setpriv", "--pdeathsig", "KILL",   # ends with the test, however that ends
+             "unshare", "--net", "--mount", "--propagation", "private", "--pid", "--fork", "--kill-child",
              "/bin/bash", "-c", SETUP + 'exec /usr/bin/python3 -c "$1"', "setup", INIT],
             stdout=subprocess.PIPE,
         )
