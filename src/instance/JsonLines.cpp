@@ -42,13 +42,19 @@ void JsonLines::read()
             continue;
         }
         m_searchedBytes = m_buffer.size();
-        const QByteArray chunk = m_gone ? QByteArray() : m_socket->read(chunkBytes);
+        const QByteArray chunk = m_gone || !hasBytes() ? QByteArray() : m_socket->read(chunkBytes);
         if (m_searchedBytes > lineLimitBytes || (chunk.isEmpty() && m_gone))
             end();
         else if (chunk.isEmpty())
             return;
         m_buffer += chunk;
     }
+}
+
+// The socket calls itself open for a while after its end has gone, and complains when it is read then.
+bool JsonLines::hasBytes() const
+{
+    return m_socket->isOpen() && m_socket->bytesAvailable() > 0;
 }
 
 void JsonLines::end()
@@ -60,7 +66,7 @@ void JsonLines::end()
 
 void JsonLines::onDisconnected()
 {
-    if (!m_gone && m_socket->isOpen())
+    if (!m_gone && hasBytes())
         m_buffer += m_socket->readAll(); // no more than the socket's own buffer holds
     m_gone = true;
     read();

@@ -46,6 +46,7 @@ Q_SIGNALS:
 private:
     explicit JsonLines(QLocalSocket *socket);
     void read();
+    bool hasBytes() const;
     void end();
     void give(const std::optional<QJsonObject> &object);
     void onDisconnected();
