@@ -10,7 +10,8 @@ namespace veldmark {
 // What one call of veldmarkctl asks for.
 struct Invocation {
     enum class Verb {
-        run, status, connect, disconnect, restore, check, circuits, newIdentity, log, get, set,
+        run, status, connect, disconnect, restore, check, fixDNS, circuits, closeCircuit, newIdentity,
+        log, get, set,
         help, version,
     };
     Verb verb = Verb::help;
@@ -19,7 +20,7 @@ struct Invocation {
     bool watch = false;      // status
     bool follow = false;     // log
     bool problems = false;   // log
-    QString key;             // get, set
+    QString key;             // get, set; close-circuit's id
     QString value;           // set
 };
 

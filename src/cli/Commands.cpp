@@ -41,8 +41,15 @@ QJsonObject request(const Invocation &invocation)
         return command("disconnect");
     case Verb::check:
         return command("check");
+    case Verb::fixDNS:
+        return command("fix-dns");
     case Verb::circuits:
         return command("circuits");
+    case Verb::closeCircuit: {
+        QJsonObject close = command("close-circuit");
+        close.insert(QStringLiteral("id"), invocation.key);
+        return close;
+    }
     case Verb::newIdentity:
         return command("new-identity");
     case Verb::set: {
@@ -87,7 +94,8 @@ bool showsEveryState(const Invocation &invocation)
 
 bool showsLastState(const Invocation &invocation)
 {
-    return invocation.verb != Verb::set && invocation.verb != Verb::newIdentity;
+    return invocation.verb != Verb::set && invocation.verb != Verb::newIdentity
+        && invocation.verb != Verb::closeCircuit;
 }
 
 QCoro::Task<ExitStatus> askInstance(Invocation invocation, std::shared_ptr<InstanceClient> instance)

@@ -10,6 +10,8 @@
 #include <QMetaMethod>
 #include <QPointer>
 
+#include <algorithm>
+
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -24,7 +26,15 @@ const QString stateKey = QStringLiteral("state");
 // Commands during which the client hears of every change.
 const QStringList longCommands = {
     QStringLiteral("watch"), QStringLiteral("connect"), QStringLiteral("disconnect"),
-    QStringLiteral("check"), QStringLiteral("circuits"), QStringLiteral("new-identity")};
+    QStringLiteral("check"), QStringLiteral("fix-dns"), QStringLiteral("circuits"),
+    QStringLiteral("close-circuit"), QStringLiteral("new-identity")};
+
+bool hasCircuit(const TorController &controller, const QString &id)
+{
+    const auto &circuits = controller.circuits();
+    return std::any_of(circuits.begin(), circuits.end(),
+                       [&id](const CircuitInfo &circuit) { return circuit.id == id; });
+}
 
 // The folder keeps other users out; this keeps them out also where its mode was changed.
 bool isOwnUserOrRoot(const QLocalSocket &socket)
@@ -216,6 +226,22 @@ QCoro::Task<Result<void, QString>> InstanceServer::execute(QJsonObject request,
         if (controller->isChecking())
             co_return Failure(QStringLiteral("A check is already running."));
         co_await m_controller.runChecks();
+    } else if (command == QLatin1String("fix-dns")) {
+        co_await m_controller.fixDNS();
+        if (controller && controller->errorMessage())
+            co_return Failure(*controller->errorMessage());
+        if (controller && controller->dnsStatus().isLeak())
+            co_return Failure(QStringLiteral("Cancelled."));
+    } else if (command == QLatin1String("close-circuit")) {
+        const QString id = request.value(QStringLiteral("id")).toString();
+        co_await m_controller.refreshCircuits();
+        if (controller && controller->circuitError())
+            co_return Failure(*controller->circuitError());
+        if (controller && !hasCircuit(*controller, id))
+            co_return Failure(QStringLiteral("There is no circuit \"%1\".").arg(id.left(40).simplified()));
+        co_await m_controller.newCircuit(id);
+        if (controller && hasCircuit(*controller, id))
+            co_return Failure(QStringLiteral("Tor didn't close circuit %1.").arg(id));
     } else if (command == QLatin1String("circuits")) {
         co_await m_controller.refreshCircuits();
         if (controller && controller->circuitError())
