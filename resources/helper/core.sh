@@ -37,6 +37,7 @@ export PATH LC_ALL
 SAID=''         # set once a message has gone to standard error
 CALLER_UID=''   # whose session this is: the uid that sudo or pkexec reports, else 0
 PROMPTED=''     # 1 when an administrator approved this very run, empty under the password-free rule
+SELF=''         # absolute path of this file
 STAYS_CLOSED='' # added to the message when a failure leaves the kill switch on
 
 # open_messages: from here on only say() reaches the caller's standard error, on descriptor 8, so that no

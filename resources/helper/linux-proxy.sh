@@ -1,3 +1,261 @@
-put_proxy() { :; }
-undo_gnome() { :; }
-undo_kde() { :; }
+
+# ---- Linux: system proxy -----------------------------------------------------------------------------------
+# GNOME's settings and KDE's kioslaverc, whichever the session's user has. Everything is done as that user, in
+# bounded time; what those programs print is data that goes back to them and nowhere else.
+
+readonly GNOME_ENTRY=40-gnome
+readonly KDE_ENTRY=50-kde
+readonly ANSWER=$RUN/answer   # 0600; what a program of the user's printed
+readonly ANSWER_BYTES=262144
+
+# The user's own exceptions would go past Tor, so only this computer itself is excepted.
+readonly GNOME_VALUES="org.gnome.system.proxy mode 'manual'
+org.gnome.system.proxy ignore-hosts ['localhost', '127.0.0.0/8', '::1']
+org.gnome.system.proxy.http host ''
+org.gnome.system.proxy.https host ''
+org.gnome.system.proxy.ftp host ''
+org.gnome.system.proxy.socks host '127.0.0.1'
+org.gnome.system.proxy.socks port $SOCKS_PORT"
+readonly KDE_VALUES="ProxyType=1
+socksProxy=socks://127.0.0.1 $SOCKS_PORT
+httpProxy=
+httpsProxy=
+ftpProxy=
+NoProxyFor=localhost,127.0.0.0/8,::1
+ReversedException=false"
+
+# Scripts for sh that run as the user. Status 3: this user has no such desktop.
+# shellcheck disable=SC2016
+readonly GNOME_READ='
+[ -S "$XDG_RUNTIME_DIR/bus" ] && command -v gsettings >/dev/null || exit 3
+[ "$(gsettings writable org.gnome.system.proxy mode)" = true ] || exit 3
+exec gsettings list-recursively org.gnome.system.proxy'
+
+# Arguments: "SCHEMA KEY VALUE" each. The mode comes last, when the rest is in place.
+# shellcheck disable=SC2016
+readonly GNOME_SET='
+for line; do
+  schema=${line%% *}; line=${line#* }
+  gsettings set "$schema" "${line%% *}" "${line#* }" || exit 1
+done'
+
+# Back to not being set, unless that is another value than before. Works without a session of the user as well.
+# shellcheck disable=SC2016
+readonly GNOME_RESTORE='
+if [ ! -S "$XDG_RUNTIME_DIR/bus" ] && [ -z "$INNER" ]; then
+  INNER=1 exec dbus-run-session -- sh -c "$0" "$0" "$@"
+fi
+for line; do
+  schema=${line%% *}; line=${line#* }; key=${line%% *}; value=${line#* }
+  gsettings reset "$schema" "$key" || exit 1
+  [ "$(gsettings get "$schema" "$key")" = "$value" ] || gsettings set "$schema" "$key" "$value" || exit 1
+done'
+
+# shellcheck disable=SC2016
+readonly KDE_READ='
+file=$HOME/.config/kioslaverc
+if [ -e "$file" ]; then
+  [ -f "$file" ] && [ "$(stat -L -c %s -- "$file")" -le 131072 ] || exit 3
+  printf "file "
+  base64 -w0 -- "$file"
+  echo
+elif [ -e "$HOME/.config/kdeglobals" ]; then
+  echo absent
+else
+  exit 3
+fi'
+
+# From standard input into the file, or with "absent" as the argument, the file away.
+# shellcheck disable=SC2016
+readonly KDE_WRITE='
+file=$HOME/.config/kioslaverc
+if [ "$1" = absent ]; then
+  rm -f -- "$file"
+else
+  file=$(readlink -f -- "$file") && new=$(mktemp -- "$file.XXXXXX") || exit 1
+  if [ -e "$file" ]; then chmod --reference="$file" -- "$new"; fi
+  cat >"$new" && mv -f -- "$new" "$file" || exit 1
+fi
+if [ -S "$XDG_RUNTIME_DIR/bus" ] && command -v dbus-send >/dev/null; then
+  dbus-send --session --type=signal /KIO/Scheduler org.kde.KIO.Scheduler.reparseSlaveConfiguration string: || true
+fi'
+
+# as_session SCRIPT [ARGUMENT...]: runs it as the user of the session; what it prints goes to $ANSWER.
+as_session() {
+  local script=$1
+  shift
+  rm -f -- "$ANSWER"
+  as_caller 5 env XDG_RUNTIME_DIR="/run/user/$CALLER_UID" INNER= \
+    DBUS_SESSION_BUS_ADDRESS="unix:path=/run/user/$CALLER_UID/bus" sh -c "$script" "$script" "$@" >"$ANSWER"
+}
+
+# be_session_user UID: makes UID, of a journal entry, the one that as_session acts for.
+be_session_user() {
+  is_uid "$1" && [[ $1 != 0 ]] || return 1
+  CALLER_UID=$1 CALLER_NAME=''
+  read_accounts
+  [[ -n $CALLER_NAME ]]
+}
+
+# put_proxy: in proxy mode a desktop whose proxy cannot be set is a failure, since nothing else protects there.
+put_proxy() {
+  local entry user=$CALLER_UID
+  # Settings of another user, from a session that is being replaced, go back first.
+  for entry in "$GNOME_ENTRY" "$KDE_ENTRY"; do
+    if journal_read "$entry" && [[ $(journal_value uid) != "$user" ]]; then
+      undo_entry "$entry" || true
+    fi
+  done
+  CALLER_UID=$user CALLER_NAME=''
+  read_accounts
+  [[ $CALLER_UID != 0 ]] || return 0
+  put_gnome && put_kde || [[ $OPT_STRICT == 1 ]] || die "The desktop's proxy settings cannot be changed."
+}
+
+put_gnome() {
+  local line status=0 was=() values=() wanted=$'\n'$GNOME_VALUES$'\n'
+  as_session "$GNOME_READ" </dev/null || status=$?
+  ((status != 3)) || return 0
+  ((status == 0)) || return 1
+  while IFS= read -r line; do
+    if [[ $line =~ ^(org\.gnome\.system\.proxy[.a-z]*\ [a-z-]+)\ . ]] && ! has_controls "$line" &&
+      [[ $wanted == *$'\n'"${BASH_REMATCH[1]} "* ]]; then
+      was[${#was[@]}]="was $line"
+    fi
+  done < <(head -c "$ANSWER_BYTES" -- "$ANSWER")
+  ((${#was[@]})) || return 1
+  journal_has "$GNOME_ENTRY" || journal_put "$GNOME_ENTRY" "uid $CALLER_UID" "${was[@]}" ||
+    die "The journal cannot be written."
+  while IFS= read -r line; do
+    values[${#values[@]}]=$line
+  done <<<"${GNOME_VALUES#*$'\n'}"
+  as_session "$GNOME_SET" "${values[@]}" "${GNOME_VALUES%%$'\n'*}" </dev/null
+}
+
+undo_gnome() {
+  local line was=()
+  for line in ${JOURNAL_LINES[@]+"${JOURNAL_LINES[@]}"}; do
+    [[ $line != "was "* ]] || was[${#was[@]}]=${line#was }
+  done
+  ((${#was[@]})) || return 0
+  # A user who is gone needs nothing back.
+  be_session_user "$(journal_value uid)" || return 0
+  as_session "$GNOME_RESTORE" "${was[@]}" </dev/null && return 0
+  UNDONE="The network is open again, but the desktop's proxy settings could not be put back."
+  return 1
+}
+
+# print_kde_group TEXT [LINE...]: TEXT with the keys of KDE_VALUES in [Proxy Settings] replaced by LINE...
+print_kde_group() {
+  local line inside='' found='' keys=''
+  while IFS= read -r line; do
+    keys="$keys ${line%%=*} "
+  done <<<"$KDE_VALUES"
+  while IFS= read -r line; do
+    case $line in
+    "[Proxy Settings]")
+      inside=1
+      printf '%s\n' "$line"
+      if [[ -z $found && $# -gt 1 ]]; then printf '%s\n' "${@:2}"; fi
+      found=1
+      continue
+      ;;
+    "["*) inside='' ;;
+    esac
+    # A key may carry a flag, as in ProxyType[$e].
+    if [[ -n $inside && $line == *=* ]]; then
+      local key=${line%%=*}
+      [[ $keys != *" ${key%%\[*} "* ]] || continue
+    fi
+    printf '%s\n' "$line"
+  done < <(printf '%s' "$1"; [[ -z $1 || $1 == *$'\n' ]] || printf '\n')
+  if [[ -z $found && $# -gt 1 ]]; then
+    [[ -z $1 ]] || printf '\n'
+    printf '%s\n' "[Proxy Settings]" "${@:2}"
+  fi
+}
+
+# print_kde_keys TEXT: the lines of TEXT that print_kde_group replaces.
+print_kde_keys() {
+  local line inside='' key keys=''
+  while IFS= read -r line; do
+    keys="$keys ${line%%=*} "
+  done <<<"$KDE_VALUES"
+  while IFS= read -r line; do
+    case $line in
+    "[Proxy Settings]") inside=1 ;;
+    "["*) inside='' ;;
+    *=*)
+      key=${line%%=*}
+      [[ -z $inside || $keys != *" ${key%%\[*} "* ]] || printf '%s\n' "$line"
+      ;;
+    esac
+  done <<<"$1"
+}
+
+# read_kde: sets KDE_FILE to the file's content in base64, or "absent"; 3 when this user has no KDE.
+KDE_FILE=''
+read_kde() {
+  local status=0 word
+  as_session "$KDE_READ" </dev/null || status=$?
+  ((status == 0)) || return "$status"
+  read -r word KDE_FILE < <(head -c "$ANSWER_BYTES" -- "$ANSWER") || return 1
+  case $word in
+  absent) KDE_FILE=absent ;;
+  file) [[ $KDE_FILE =~ ^[A-Za-z0-9+/]*=?=?$ ]] ;;
+  *) return 1 ;;
+  esac
+}
+
+# kde_text CODED: prints the content, with an x after it that keeps the last line end.
+kde_text() {
+  [[ $1 == absent ]] || base64 -d <<<"$1" | tr -d '\0'
+  printf x
+}
+
+# kde_ours CODED: prints what we make of that content, with an x after it.
+kde_ours() {
+  local line lines=() text
+  while IFS= read -r line; do
+    lines[${#lines[@]}]=$line
+  done <<<"$KDE_VALUES"
+  text=$(kde_text "$1")
+  print_kde_group "${text%x}" "${lines[@]}"
+  printf x
+}
+
+put_kde() {
+  local status=0 text
+  read_kde || status=$?
+  ((status != 3)) || return 0
+  ((status == 0)) || return 1
+  journal_has "$KDE_ENTRY" || journal_put "$KDE_ENTRY" "uid $CALLER_UID" "file $KDE_FILE" ||
+    die "The journal cannot be written."
+  text=$(kde_ours "$KDE_FILE")
+  printf '%s' "${text%x}" | as_session "$KDE_WRITE" file
+}
+
+# undo_kde: the former file, byte for byte, unless the user has changed other settings in it meanwhile; then only
+# our keys go back.
+undo_kde() {
+  local former now text line lines=()
+  former=$(journal_value file) || return 0
+  be_session_user "$(journal_value uid)" || return 0
+  UNDONE="The network is open again, but the desktop's proxy settings could not be put back."
+  read_kde || KDE_FILE=absent
+  now=$(kde_text "$KDE_FILE")
+  if [[ $now == "$(kde_ours "$former")" || $KDE_FILE == "$former" || $KDE_FILE == absent ]]; then
+    if [[ $former == absent ]]; then
+      as_session "$KDE_WRITE" absent </dev/null
+    else
+      base64 -d <<<"$former" | as_session "$KDE_WRITE" file
+    fi
+  else
+    text=$(kde_text "$former")
+    while IFS= read -r line; do
+      [[ -z $line ]] || lines[${#lines[@]}]=$line
+    done <<<"$(print_kde_keys "${text%x}")"
+    text=$(print_kde_group "${now%x}" ${lines[@]+"${lines[@]}"}; printf x)
+    printf '%s' "${text%x}" | as_session "$KDE_WRITE" file
+  fi
+}

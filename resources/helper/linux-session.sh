@@ -2,7 +2,7 @@
 # ---- Linux: connect and disconnect -------------------------------------------------------------------------
 
 readonly FIREWALL_ENTRY=10-firewall
-readonly ENTRIES="50-kde 40-gnome $RESOLVER_ENTRY $TOR_ENTRY $FIREWALL_ENTRY"   # in the order of undoing
+readonly ENTRIES="$KDE_ENTRY $GNOME_ENTRY $RESOLVER_ENTRY $TOR_ENTRY $FIREWALL_ENTRY"   # in the order of undoing
 
 ON_FAILURE=''   # "undo" while a failure must put everything back; empty before the first change and where the
                 # kill switch stays closed
@@ -99,11 +99,11 @@ undo_entry() {
     kill_stray_tor
   fi
   case $name in
-  *-kde) undo_kde ;;
-  *-gnome) undo_gnome ;;
-  *-resolver) undo_resolver ;;
-  *-tor) undo_tor ;;
-  *-firewall) undo_firewall ;;
+  "$KDE_ENTRY") undo_kde ;;
+  "$GNOME_ENTRY") undo_gnome ;;
+  "$RESOLVER_ENTRY") undo_resolver ;;
+  "$TOR_ENTRY") undo_tor ;;
+  "$FIREWALL_ENTRY") undo_firewall ;;
   esac || return 1
   journal_drop "$name"
   if ((status == 2)); then
@@ -121,9 +121,24 @@ undo_session() {
     UNDONE=
     undo_entry "$name" || reason=${reason:-${UNDONE:-The former network settings could not all be restored.}}
   done
-  rm -f -- "$MARKER" "$RULES"
+  rm -f -- "$MARKER" "$RULES" "$MARKER.new" "$RULES.new" "$TORRC.checked" "$JOURNAL"/*.new
   UNDONE=$reason
   [[ -z $reason ]]
+}
+
+# linux_fix-dns: puts back what somebody changed under a running session: the mount, and the rules, in one
+# transaction, so that also a flushed kill switch stands again.
+linux_fix-dns() {
+  (($# == 0)) || die "The verb fix-dns takes no options."
+  need_programs
+  take_lock
+  trap finish EXIT
+  { [[ -f $MARKER ]] && folders_are_safe; } || die "Veldmark is not connected, so the DNS settings were left alone."
+  if [[ -f $RULES ]]; then
+    load_rules "$(<"$RULES")"
+  fi
+  read_resolver
+  put_resolver
 }
 
 linux_disconnect() {

@@ -95,12 +95,12 @@ ready_account() {
   [[ $TOR_UID != 0 && $TOR_UID != "$CALLER_UID" ]] || die "The account $TOR_ACCOUNT must be one of its own."
 }
 
-# as_tor / as_caller COMMAND...: with that account's rights only, no way to gain more, a clean environment,
-# default signal handling and no descriptor of ours.
+# as_tor / as_caller SECONDS COMMAND...: with that account's rights only, no way to gain more, a clean environment,
+# default signal handling, no descriptor of ours, and killed when it takes longer.
 as_account() {
-  local uid=$1 gid=$2 groups=$3 home=$4
-  shift 4
-  env -i --default-signal PATH="$PATH" LC_ALL=C HOME="$home" \
+  local uid=$1 gid=$2 groups=$3 home=$4 seconds=$5
+  shift 5
+  timeout -k 1 "$seconds" env -i --default-signal PATH="$PATH" LC_ALL=C HOME="$home" \
     setpriv --reuid "$uid" --regid "$gid" "$groups" --no-new-privs --bounding-set=-all --inh-caps=-all \
     --ambient-caps=-all "$@" 8>&- 9>&-
 }

@@ -8,11 +8,11 @@ readonly TOR_ENTRY=20-tor
 readonly START_POLLS=500   # of about 20 ms: Tor opens its control port within 10 s or it failed
 readonly STOP_POLLS=200    # of about 20 ms: Tor has about 4 s to end by itself
 
-# Runs as root in the new namespaces: PLACES... "--" COMMAND... What follows "--" gives up root.
+# Runs as root in the new namespaces: RESOLVERS TARGET COMMAND... COMMAND gives up root.
 # shellcheck disable=SC2016
 readonly INSIDE='
 set -eu
-if [ -n "$2" ]; then mount --bind -- "$1" "$2"; fi
+if [ -n "$2" ] && [ -e "$2" ]; then mount --bind -- "$1" "$2"; fi
 shift 2
 for socket in /run/systemd/resolve/io.systemd.Resolve /run/nscd/socket; do
   if [ -S "$socket" ]; then mount --bind /dev/null "$socket"; fi

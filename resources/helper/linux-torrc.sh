@@ -65,7 +65,7 @@ ready_torrc() {
   ! has_ipv6_loopback || ipv6=1
   text=$(print_torrc "$ipv6" && printf x)
   write_file "$TORRC.checked" 0640 "0:$TOR_GID" "${text%x}" || die "The file $TORRC cannot be written."
-  if ! output=$(as_tor timeout 10 "$OPT_TOR" --verify-config -f "$TORRC.checked" 2>&1 </dev/null | head -c 65536); then
+  if ! output=$(as_tor 10 "$OPT_TOR" --verify-config -f "$TORRC.checked" 2>&1 </dev/null | head -c 65536); then
     rm -f -- "$TORRC.checked"
     output=$(tor_reason "$output")
     die "Tor does not accept its configuration: ${output:-it ended without a message.}"

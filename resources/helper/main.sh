@@ -6,6 +6,8 @@ main() {
   clean_environment "$@"
   open_messages
   identify_caller
+  SELF=$0
+  [[ $SELF == /* ]] || SELF=$PWD/$SELF
   case $verb in
   connect | disconnect | fix-dns | launch | install-privileged | uninstall-privileged) shift ;;
   *) die "The helper was not given a verb that it knows." ;;

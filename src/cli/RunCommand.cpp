@@ -18,8 +18,8 @@ RunCommand::RunCommand(const PlatformProfile &profile, bool connectNow)
 {
     QObject::connect(&m_signals, &SignalWatcher::received, this, &RunCommand::onSignal);
     for (const auto changed : {&TorController::bootstrapProgressChanged, &TorController::statusDetailChanged})
-        QObject::connect(&m_controller, changed, this, &RunCommand::showProgress);
-    // Queued: a phase is shown when all that goes with it has been set.
+        QObject::connect(&m_controller, changed, this, &RunCommand::showProgress, Qt::QueuedConnection);
+    // Queued, like all of these: what is shown has been set as a whole.
     QObject::connect(&m_controller, &TorController::phaseChanged, this, &RunCommand::showPhase,
                      Qt::QueuedConnection);
     QObject::connect(&m_controller, &TorController::isCheckingChanged, this, &RunCommand::showPhase,

@@ -1,0 +1,81 @@
+
+# ---- Linux: running without a password prompt --------------------------------------------------------------
+# A root-owned copy of this helper, and a sudo rule that lets one user run exactly that copy. The copy runs no
+# program of the user's without an approval, so the rule gives no other power than the helper's verbs.
+
+readonly INSTALLED=/usr/local/libexec/veldmark
+readonly INSTALLED_HELPER=$INSTALLED/veldmark-helper.sh
+readonly INSTALLED_LAUNCHER=$INSTALLED/veldmark-launch
+readonly SUDO_RULE=/etc/sudoers.d/veldmark   # 0440
+readonly SUDO_DRAFT=/run/veldmark.sudoers    # 0440; checked here first
+
+# print_sudo_rule UID: by number, so that no name has a meaning of its own in the rule.
+print_sudo_rule() {
+  cat <<END
+# Written by Veldmark: this user may run its helper, and nothing else, without a password.
+Defaults!$INSTALLED_HELPER env_reset
+#$1 ALL=(root) NOPASSWD:NOSETENV: $INSTALLED_HELPER
+END
+}
+
+# print_file PATH: its content, opened as the caller, so that nobody reads through us what is not theirs.
+print_file() {
+  if [[ $CALLER_UID == 0 ]]; then
+    head -c "$MAX_PROGRAM_BYTES" -- "$1"
+  else
+    as_caller 10 head -c "$MAX_PROGRAM_BYTES" -- "$1"
+  fi
+}
+
+# install_file FROM TO
+install_file() {
+  local new=$2.new
+  rm -f -- "$new"
+  set -o noclobber
+  : >"$new" || return 1
+  set +o noclobber
+  print_file "$1" >"$new" && [[ -s $new ]] && chmod 0755 -- "$new" && sync -- "$new" && mv -fT -- "$new" "$2" &&
+    sync -- "${2%/*}" && return 0
+  rm -f -- "$new"
+  return 1
+}
+
+linux_install-privileged() {
+  local folder uid
+  parse_options " --user --launch " "$@"
+  [[ $OPT_USER =~ ^[A-Za-z0-9_][A-Za-z0-9_.@-]{0,63}\$?$ ]] || die "The user name is not valid."
+  [[ -z $OPT_LAUNCH ]] || check_program --launch "$OPT_LAUNCH"
+  # The rule itself must not be able to change what the rule lets in.
+  [[ -n $PROMPTED ]] || die "An administrator password is needed to set this up."
+  command -v visudo >/dev/null || die "sudo is not installed on this system."
+  take_lock
+  trap finish EXIT
+  { uid=$(id -u -- "$OPT_USER") && is_uid "$uid"; } || die "The user $OPT_USER is not known on this system."
+  [[ $uid != 0 ]] || die "root needs no password for the helper."
+  [[ $CALLER_UID == 0 || $CALLER_UID == "$uid" ]] || die "Only the user who asks can be let in."
+  read_accounts
+  root_owned /etc/sudoers.d || die "The folder /etc/sudoers.d is missing or not safe."
+  for folder in /usr/local /usr/local/libexec "$INSTALLED"; do
+    [[ -d $folder ]] || mkdir -m 0755 -- "$folder" || die "The folder $folder cannot be created."
+  done
+  root_owned "$INSTALLED" || die "The folder $INSTALLED is not safe: only root may own or write it and those above it."
+  chmod 0755 -- "$INSTALLED" || die "The folder $INSTALLED cannot be changed."
+
+  install_file "$SELF" "$INSTALLED_HELPER" || die "The helper could not be copied to $INSTALLED."
+  if [[ -n $OPT_LAUNCH ]]; then
+    install_file "$OPT_LAUNCH" "$INSTALLED_LAUNCHER" || die "The launcher could not be copied to $INSTALLED."
+  fi
+  { write_file "$SUDO_DRAFT" 0440 root "$(print_sudo_rule "$uid")"$'\n' &&
+    visudo -c -q -f "$SUDO_DRAFT" >/dev/null; } || die "sudo does not accept the rule."
+  rm -f -- "$SUDO_DRAFT"
+  write_file "$SUDO_RULE" 0440 root "$(print_sudo_rule "$uid")"$'\n' || die "The file $SUDO_RULE cannot be written."
+}
+
+linux_uninstall-privileged() {
+  (($# == 0)) || die "The verb uninstall-privileged takes no options."
+  take_lock
+  trap finish EXIT
+  rm -f -- "$SUDO_RULE" || die "The file $SUDO_RULE cannot be removed."
+  rm -f -- "$INSTALLED_HELPER" "$INSTALLED_LAUNCHER" || die "The files in $INSTALLED cannot be removed."
+  [[ ! -d $INSTALLED ]] || rmdir -- "$INSTALLED" || true
+}

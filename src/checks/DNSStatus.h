@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace veldmark {
+
+// What is known about where look-ups go.
+class DNSStatus {
+public:
+    enum class Kind {
+        leak,       // resolvers can be reached around Tor
+        unknown,    // not tested yet
+        checking,   // a live test is running
+        throughTor, // Tor saw a test look-up
+        unverified, // no leak in the settings, but Tor was not seen to get the test look-up
+    };
+
+    DNSStatus() = default; // unknown
+    // `summaries` are the leaking resolvers, in the configuration's order.
+    static DNSStatus leak(QStringList summaries) { return {Kind::leak, std::move(summaries)}; }
+    static DNSStatus unknown() { return {Kind::unknown, {}}; }
+    static DNSStatus checking() { return {Kind::checking, {}}; }
+    static DNSStatus throughTor() { return {Kind::throughTor, {}}; }
+    static DNSStatus unverified() { return {Kind::unverified, {}}; }
+
+    Kind kind() const { return m_kind; }
+    bool isLeak() const { return m_kind == Kind::leak; }
+    const QStringList &leaks() const { return m_leaks; } // empty unless `leak`
+    // The case's name: "leak", "throughTor" …
+    QString name() const;
+    // The sentence that the user reads.
+    QString text() const;
+
+    friend bool operator==(const DNSStatus &, const DNSStatus &) = default;
+
+private:
+    DNSStatus(Kind kind, QStringList leaks) : m_kind(kind), m_leaks(std::move(leaks)) {}
+
+    Kind m_kind = Kind::unknown;
+    QStringList m_leaks;
+};
+
+} // namespace veldmark

@@ -1,0 +1,79 @@
+#include "checks/ResolverSource.h"
+
+#include "checks/DNSCheck.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace veldmark {
+
+namespace {
+
+const QStringList resolvedAddresses{QStringLiteral("127.0.0.53"), QStringLiteral("127.0.0.54")};
+
+// Follows links also when what they point to is gone.
+QString whereItIs(const QString &path)
+{
+    const QFileInfo info(path);
+    const QString canonical = info.canonicalFilePath();
+    if (!canonical.isEmpty())
+        return canonical;
+    return info.isSymLink() ? QDir::cleanPath(info.symLinkTarget()) : path;
+}
+
+} // namespace
+
+bool resolvedServes(const QString &target, const ResolverFile &file)
+{
+    if (target.contains(QStringLiteral("/run/systemd/resolve/")))
+        return true;
+    for (const QString &address : resolvedAddresses) {
+        if (file.nameservers.contains(address))
+            return true;
+    }
+    return false;
+}
+
+std::vector<DNSResolver> joinResolvers(const ResolverFile &file,
+                                       const std::optional<ResolvedState> &resolved)
+{
+    std::vector<DNSResolver> joined;
+    QStringList named = resolvedAddresses;
+    if (resolved) {
+        joined = resolved->resolvers();
+        for (const DNSResolver &resolver : joined)
+            named += resolver.nameservers;
+    }
+    for (DNSResolver resolver : file.resolvers()) {
+        resolver.nameservers.removeIf([&named](const QString &server) { return named.contains(server); });
+        if (!resolver.nameservers.isEmpty())
+            joined.push_back(resolver);
+    }
+    return joined;
+}
+
+LinuxResolverSource::LinuxResolverSource(Clock &clock, QString resolverFile, QString busAddress)
+    : m_resolverFile(std::move(resolverFile)), m_bus(clock, std::move(busAddress))
+{
+}
+
+QCoro::Task<std::vector<DNSResolver>> LinuxResolverSource::resolvers()
+{
+    const ResolverFile file = ResolverFile::parse(ResolverFile::read(m_resolverFile));
+    if (!resolvedServes(whereItIs(m_resolverFile), file))
+        co_return joinResolvers(file, std::nullopt);
+    auto reading = m_bus.read();
+    const std::optional<ResolvedState> resolved = co_await reading;
+    co_return joinResolvers(file, resolved);
+}
+
+ScutilResolverSource::ScutilResolverSource(Run run) : m_run(std::move(run)) {}
+
+QCoro::Task<std::vector<DNSResolver>> ScutilResolverSource::resolvers()
+{
+    auto running = m_run();
+    const QString text = co_await running;
+    co_return DNSCheck::parse(text);
+}
+
+} // namespace veldmark

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "checks/ResolvedBus.h"
+#include "checks/ResolverFile.h"
+
+#include <functional>
+
+namespace veldmark {
+
+// Where the system's name servers are read from. Never fails: settings that can't be read are empty.
+class ResolverSource {
+public:
+    ResolverSource() = default;
+    virtual ~ResolverSource() = default;
+    ResolverSource(const ResolverSource &) = delete;
+    ResolverSource &operator=(const ResolverSource &) = delete;
+
+    virtual QCoro::Task<std::vector<DNSResolver>> resolvers() = 0;
+};
+
+// True when look-ups that follow the resolver file end at systemd-resolved: the file lies in its
+// run folder, or names one of its addresses. `target` is where the file really is.
+bool resolvedServes(const QString &target, const ResolverFile &file);
+
+// Joins what the file says with what systemd-resolved says (nothing when it does not serve the file
+// or does not answer). Resolved's own addresses in the file are no resolvers: who they pass the
+// question on to is what counts. Servers that only the file names come last.
+std::vector<DNSResolver> joinResolvers(const ResolverFile &file,
+                                       const std::optional<ResolvedState> &resolved);
+
+// Linux: systemd-resolved when it serves the resolver file, else the file.
+class LinuxResolverSource final : public ResolverSource {
+public:
+    // `clock` must outlive the object and its readings. An empty `busAddress` is the system bus.
+    LinuxResolverSource(Clock &clock, QString resolverFile, QString busAddress = {});
+
+    QCoro::Task<std::vector<DNSResolver>> resolvers() override;
+
+private:
+    const QString m_resolverFile;
+    ResolvedBus m_bus;
+};
+
+// macOS: what `scutil --dns` prints.
+class ScutilResolverSource final : public ResolverSource {
+public:
+    // Runs the program and gives back its standard output; empty when it can't be run.
+    using Run = std::function<QCoro::Task<QString>()>;
+    explicit ScutilResolverSource(Run run);
+
+    QCoro::Task<std::vector<DNSResolver>> resolvers() override;
+
+private:
+    const Run m_run;
+};
+
+} // namespace veldmark

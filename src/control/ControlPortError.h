@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+
+namespace veldmark {
+
+// Why Tor could not be asked, or did not do what it was asked, over its control port.
+class ControlPortError {
+public:
+    enum class Kind {
+        NotConnected, // the connection was never opened, or has been closed on this side
+        Closed,       // Tor, or whoever owns this end, closed the connection during the call
+        Tor,          // Tor refused; line() is its answer
+        Network,      // the socket failed; the description is the system's text
+        Malformed,    // something that must not be sent, or that Tor would never send
+        TimedOut,     // the call's time limit passed
+    };
+
+    static ControlPortError notConnected();
+    static ControlPortError closed();
+    static ControlPortError tor(const QString &line);
+    static ControlPortError network(const QString &systemText);
+    static ControlPortError malformed(const QString &sentence);
+    static ControlPortError timedOut();
+
+    Kind kind() const { return m_kind; }
+    // For Kind::Tor: the final reply line, status code included, e.g. "552 Unrecognized key".
+    QString line() const { return m_kind == Kind::Tor ? m_text : QString(); }
+    // The sentence that the user reads, usually after the caller's own "Couldn't …: ".
+    QString description() const;
+
+    friend bool operator==(const ControlPortError &, const ControlPortError &) = default;
+
+private:
+    ControlPortError(Kind kind, const QString &text) : m_kind(kind), m_text(text) {}
+
+    Kind m_kind;
+    QString m_text;
+};
+
+} // namespace veldmark

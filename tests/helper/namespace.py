@@ -1,0 +1,221 @@
+"""A private machine for tests of the root helper.
+
+Machine is a set of namespaces (network, mounts, processes) in which the helper may do whatever it does: /etc and
+/usr/local are overlays, /run, /var/lib and /home are empty and in memory, and Tor has `DisableNetwork 1` from
+/etc/tor/torrc-defaults. There is no network device but the loopback one, unless a Peer is attached. Nothing of it
+is visible outside, and everything goes when the process that made it ends.
+
+Exit status 77 (skipped) with one line when the system does not permit namespaces.
+"""
+
+import atexit
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+PARTS = os.path.join(HERE, "..", "..", "resources", "helper")
+HASH = "16:" + "0123456789ABCDEF" * 3 + "0123456789"
+TOR = "/usr/bin/tor"
+USER_UID = 4242
+
+# Reaps what is orphaned in the process namespace, and ends with the test.
+INIT = (
+    "import ctypes, os, signal; ctypes.CDLL(None).prctl(1, 9); signal.signal(signal.SIGCHLD, signal.SIG_IGN);"
+    "os.write(1, b'ready')\nwhile True: signal.pause()"
+)
+
+SETUP = """
+set -eu
+mount -t proc proc /proc
+ip link set lo up
+mount -t tmpfs -o mode=755 private /mnt
+for place in etc usr/local; do
+  name=$(echo "$place" | tr / -)
+  mkdir -p "/mnt/$name/upper" "/mnt/$name/work"
+  mount -t overlay -o "lowerdir=/$place,upperdir=/mnt/$name/upper,workdir=/mnt/$name/work" private "/$place"
+done
+for place in /run /var/lib /home; do mount -t tmpfs -o mode=755 private "$place"; done
+mkdir -p /etc/tor /etc/sudoers.d
+echo 'DisableNetwork 1' >/etc/tor/torrc-defaults
+echo 'nameserver 192.0.2.53' >/etc/resolv.conf
+echo 'alice:x:%(uid)s:%(uid)s::/home/alice:/bin/bash' >>/etc/passwd
+echo 'alice:x:%(uid)s:' >>/etc/group
+install -d -o %(uid)s -g %(uid)s -m 0700 /home/alice /run/user/%(uid)s
+mkdir -p /run/sudo
+""" % {"uid": USER_UID}
+
+
+def require_namespaces():
+    """Ends the test program with status 77 where it cannot run."""
+    if os.geteuid() == 0:
+        probe = subprocess.run(
+            ["unshare", "--net", "--mount", "--pid", "--fork", "true"], capture_output=True, check=False
+        )
+        if probe.returncode == 0:
+            return
+    print("Network namespaces need root and a system that permits them: run this test with sudo.")
+    sys.exit(77)
+
+
+def helper_path():
+    """The helper under test: VELDMARK_HELPER, or joined from its parts into a folder of this run."""
+    given = os.environ.get("VELDMARK_HELPER")
+    if given:
+        return os.path.abspath(given)
+    folder = tempfile.TemporaryDirectory(prefix="veldmark-helper-")
+    atexit.register(folder.cleanup)
+    os.chmod(folder.name, 0o755)
+    path = os.path.join(folder.name, "veldmark-helper.sh")
+    subprocess.run([os.path.join(PARTS, "join.sh"), path], check=True)
+    return path
+
+
+class Machine:
+    """Use with `with`. run() and start() execute in it as root, or as another user by their `uid`."""
+
+    def __init__(self):
+        self.helper = helper_path()
+        self.init = subprocess.Popen(
+            ["unshare", "--net", "--mount", "--propagation", "private", "--pid", "--fork", "--kill-child",
+             "/bin/bash", "-c", SETUP + 'exec /usr/bin/python3 -c "$1"', "setup", INIT],
+            stdout=subprocess.PIPE,
+        )
+        if self.init.stdout.read(5) != b"ready":
+            raise RuntimeError("the private machine could not be set up")
+        self.init.stdout.close()
+        with open(f"/proc/{self.init.pid}/task/{self.init.pid}/children", encoding="ascii") as children:
+            self.pid = int(children.read().split()[0])
+        self.accounts_made = False
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.close()
+
+    def close(self):
+        self.init.kill()   # its child, the first process of the machine, dies with it
+        self.init.wait()
+
+    def command(self, words, uid=0):
+        inside = ["nsenter", "--target", str(self.pid), "--net", "--mount", "--pid", "--wd=/"]
+        if uid:
+            inside += ["setpriv", f"--reuid={uid}", f"--regid={uid}", "--clear-groups"]
+        return inside + list(words)
+
+    def run(self, *words, uid=0, check=True, stdin=None, env=None, timeout=60):
+        done = subprocess.run(
+            self.command(words, uid), capture_output=True, text=True, input=stdin, check=False, timeout=timeout,
+            env=env if env is not None else {"PATH": os.environ["PATH"]}, errors="surrogateescape",
+            **({"stdin": subprocess.DEVNULL} if stdin is None else {}),
+        )
+        if check and done.returncode != 0:
+            raise AssertionError(f"{words}: status {done.returncode}: {done.stdout}{done.stderr}")
+        return done
+
+    def start(self, *words, uid=0, **options):
+        return subprocess.Popen(self.command(words, uid), **options)
+
+    def shell(self, script, *arguments, **options):
+        return self.run("/bin/bash", "-c", script, "shell", *arguments, **options).stdout
+
+    def help(self, *arguments, **options):
+        """Runs the helper as the administrator prompt does."""
+        return self.run("/bin/bash", self.helper, *arguments, **options)
+
+    def connect(self, strict=1, lan=0, more=(), **options):
+        return self.help("connect", "--tor", TOR, "--hash", HASH, "--strict", str(strict), "--lan", str(lan), *more,
+                         **options)
+
+    def ready_account(self):
+        """Makes Tor's account, so that a snapshot before a first connect holds it."""
+        if not self.accounts_made:
+            self.connect()
+            self.help("disconnect")
+            self.accounts_made = True
+
+    def tor_pids(self):
+        return self.shell("pgrep -u _veldmark || true").split()
+
+    def processes(self):
+        """The command lines of what runs in the machine, sorted; the dead that nobody has waited for not counted."""
+        own = os.readlink(f"/proc/{self.pid}/ns/net")
+        lines = []
+        for pid in filter(str.isdigit, os.listdir("/proc")):
+            try:
+                if os.readlink(f"/proc/{pid}/ns/net") != own:
+                    continue
+                with open(f"/proc/{pid}/cmdline", "rb") as file:
+                    line = file.read().replace(b"\0", b" ").decode(errors="replace")
+                if line:
+                    lines.append(line.replace("\n", " ") + "\n")
+            except OSError:
+                pass
+        return sorted(lines)
+
+    def snapshot(self):
+        """What a session may change, as text: rules, resolver, mounts, processes, ports and the user's files."""
+        return "# processes\n" + "".join(self.processes()) + self.shell(r"""
+            echo "# rules";     nft list ruleset
+            echo "# resolver";  stat -L -c '%F %a %u %g %s' /etc/resolv.conf; cat /etc/resolv.conf; readlink /etc/resolv.conf
+            echo "# mounts";    cut -d' ' -f 4- /proc/self/mountinfo | sort
+            echo "# ports";     ss -Hltun | awk '{print $1, $5}' | sort
+            echo "# etc";       find /etc /usr/local -newer /run/user -type f ! -path /etc/resolv.conf -exec md5sum {} + 2>/dev/null | sort -k2
+            echo "# home";      find /home -printf '%p %y %m %U %l\n' | sort; find /home -type f -exec md5sum {} + | sort -k2
+            echo "# session";   ls -A /var/lib/veldmark/state /var/lib/veldmark/journal 2>/dev/null || true
+        """)
+
+
+class Peer:
+    """A second network namespace at the other end of the machine's only link. See probes.py for its addresses."""
+
+    def __init__(self, machine):
+        self.init = subprocess.Popen(
+            ["unshare", "--net", "/usr/bin/python3", "-c", INIT], stdout=subprocess.PIPE
+        )
+        if self.init.stdout.read(5) != b"ready":
+            raise RuntimeError("the peer could not be set up")
+        self.init.stdout.close()
+        subprocess.run(
+            ["nsenter", "--target", str(machine.pid), "--net", "ip", "link", "add", "veth0", "type", "veth",
+             "peer", "name", "veth1", "netns", str(self.init.pid)], check=True)
+
+    def command(self, words):
+        return ["nsenter", "--target", str(self.init.pid), "--net", *words]
+
+    def run(self, *words):
+        return subprocess.run(self.command(words), capture_output=True, text=True, check=True).stdout
+
+    def close(self):
+        self.init.kill()
+        self.init.wait()
+
+
+class HelperTest(unittest.TestCase):
+    """Tests on one fresh machine per class."""
+
+    maxDiff = None
+
+    @classmethod
+    def setUpClass(cls):
+        cls.machine = Machine()
+        cls.machine.ready_account()
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.machine.close()
+
+    def assertOneLine(self, done, words=""):
+        """A failed run says one sentence and nothing else."""
+        self.assertNotEqual(done.returncode, 0)
+        self.assertRegex(done.stderr, r"\AERROR: [A-Z][^\n]*\.\n\Z")
+        self.assertIn(words, done.stderr)
+        self.assertEqual(done.stdout, "")
+
+
+def main():
+    require_namespaces()
+    unittest.main()

@@ -1,0 +1,336 @@
+"""Connecting and disconnecting: what changes, what comes back, what happens when Tor dies."""
+
+import os
+import re
+import subprocess
+import time
+import unittest
+
+import namespace
+from namespace import HASH, TOR, HelperTest
+
+MARKER = "/var/lib/veldmark/state/active"
+
+
+class Session(HelperTest):
+    def setUp(self):
+        self.before = self.machine.snapshot()
+
+    def tearDown(self):
+        self.machine.help("disconnect")
+        self.assertEqual(self.machine.snapshot(), self.before)
+
+    def marker(self):
+        return self.machine.shell(f"cat {MARKER} 2>/dev/null || true")
+
+    def test_strict_session_stands_and_goes(self):
+        self.machine.connect(strict=1)
+        self.assertEqual(self.marker(), "strict\n")
+        rules = self.machine.run("nft", "list", "ruleset").stdout
+        self.assertIn("policy drop", rules)
+        self.assertEqual(len(self.machine.tor_pids()), 1)
+        self.assertIn("nameserver 127.0.0.1\n", self.machine.shell("cat /etc/resolv.conf"))
+        self.assertIn("127.0.0.1:9051", self.machine.shell("ss -Hltn"))
+        self.assertNotEqual(self.machine.snapshot(), self.before)
+
+    def test_proxy_session_stands_and_goes(self):
+        self.machine.connect(strict=0)
+        self.assertEqual(self.marker(), "proxy\n")
+        rules = self.machine.run("nft", "list", "ruleset").stdout
+        self.assertIn("redirect to :9053", rules)
+        self.assertNotIn("policy drop", rules)
+
+    def test_marker_is_readable_by_everybody(self):
+        self.machine.connect()
+        self.assertEqual(self.machine.run("cat", MARKER, uid=namespace.USER_UID).stdout, "strict\n")
+
+    def test_logs_are_readable_by_the_sessions_user_alone(self):
+        self.machine.connect(env={"PATH": os.environ["PATH"], "PKEXEC_UID": str(namespace.USER_UID)})
+        for name in "notices.log", "start.out", "launcher.out":
+            path = "/var/lib/veldmark/run/" + name
+            self.machine.run("cat", path, uid=namespace.USER_UID)
+            self.assertNotEqual(self.machine.run("cat", path, uid=4243, check=False).returncode, 0)
+        self.assertIn("opening new log file", self.machine.shell("cat /var/lib/veldmark/run/notices.log"))
+
+    def test_tor_has_no_rights_and_no_descriptor_of_ours(self):
+        self.machine.connect()
+        [pid] = self.machine.tor_pids()
+        status = self.machine.shell(f"cat /proc/{pid}/status")
+        for field in "CapInh", "CapPrm", "CapEff", "CapBnd", "CapAmb":
+            self.assertRegex(status, rf"{field}:\s+0+\n")
+        self.assertRegex(status, r"NoNewPrivs:\s+1\n")
+        self.assertRegex(status, r"Groups:\s*\n")
+        self.assertNotIn("veldmark.lock", self.machine.shell(f"ls -l /proc/{pid}/fd"))
+        launcher = self.machine.shell(f"ps -o ppid= -p {pid}").strip()
+        self.assertNotIn("veldmark.lock", self.machine.shell(f"ls -l /proc/{launcher}/fd"))
+        self.assertNotEqual(self.machine.shell(f"ps -o sid= -p {pid}"), self.machine.shell("ps -o sid= -p $$"))
+        self.assertIn("flock ok", self.machine.shell("flock -n /run/veldmark.lock echo flock ok"))
+
+    def test_tor_keeps_the_former_resolvers(self):
+        for _ in range(2):   # a second connect, over a switched resolver, too
+            self.machine.connect()
+            [pid] = self.machine.tor_pids()
+            self.assertEqual(self.machine.shell(f"cat /proc/{pid}/root/etc/resolv.conf"), "nameserver 192.0.2.53\n")
+
+    def test_tor_cannot_load_code_from_users_folders(self):
+        self.machine.connect()
+        [pid] = self.machine.tor_pids()
+        options = {line.split()[4]: line.split()[5] for line in
+                   self.machine.shell(f"cat /proc/{pid}/mountinfo").splitlines()}
+        for place in "/home", "/tmp", "/var/tmp", "/dev/shm":
+            self.assertIn("noexec", options[place])
+
+    def test_inherited_descriptors_do_not_reach_tor(self):
+        self.machine.shell("exec 3</etc/passwd 12</etc/group 37</etc/hosts; exec /bin/bash \"$@\"", self.machine.helper,
+                           "connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0")
+        [pid] = self.machine.tor_pids()
+        listing = self.machine.shell(f"ls -l /proc/{pid}/fd")
+        for name in "/etc/passwd", "/etc/group", "/etc/hosts":
+            self.assertNotIn(name, listing)
+
+    def test_connecting_twice_keeps_what_was_before(self):
+        self.machine.connect()
+        [first] = self.machine.tor_pids()
+        self.machine.connect(lan=1)
+        [second] = self.machine.tor_pids()
+        self.assertNotEqual(first, second)
+        self.assertEqual(len(self.machine.shell("grep veldmark-resolv /proc/self/mountinfo").splitlines()), 1)
+
+    def test_strict_then_proxy_then_strict(self):
+        self.machine.connect(strict=1)
+        self.machine.connect(strict=0)
+        self.assertEqual(self.marker(), "proxy\n")
+        self.assertNotIn("policy drop", self.machine.run("nft", "list", "ruleset").stdout)
+        self.machine.connect(strict=1)
+        self.assertEqual(self.marker(), "strict\n")
+        self.assertIn("policy drop", self.machine.run("nft", "list", "ruleset").stdout)
+
+    def test_configuration_that_tor_refuses_changes_nothing(self):
+        done = self.machine.connect(more=["--bridge", "1.2.3.4:443 nonsense"], check=False)
+        self.assertOneLine(done, "Tor does not accept its configuration: ")
+        self.assertIn("Bridge", done.stderr)
+        self.assertEqual(self.machine.snapshot(), self.before)
+
+    def test_refused_configuration_leaves_the_session_in_force(self):
+        self.machine.connect()
+        during = self.machine.snapshot()
+        self.assertOneLine(self.machine.connect(more=["--bridge", "1.2.3.4:443 nonsense"], check=False))
+        self.assertEqual(self.machine.snapshot(), during)
+
+    def take_port(self, port):
+        holder = self.machine.start(
+            "/usr/bin/python3", "-c",
+            f"import socket, sys; s = socket.create_server(('127.0.0.1', {port})); print('up', flush=True); sys.stdin.read()",
+            stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        self.assertEqual(holder.stdout.readline(), b"up\n")
+        self.addCleanup(holder.wait)
+        self.addCleanup(holder.communicate)
+        return holder
+
+    def test_tor_that_dies_at_start_leaves_strict_closed(self):
+        holder = self.take_port(9051)
+        done = self.machine.connect(strict=1, check=False)
+        self.assertOneLine(done, "Tor did not start: ")
+        self.assertIn("The network stays blocked until you disconnect.", done.stderr)
+        self.assertIn("policy drop", self.machine.run("nft", "list", "ruleset").stdout)
+        self.assertEqual(self.marker(), "strict\n")
+        self.assertEqual(self.machine.tor_pids(), [])
+        holder.communicate()
+
+    def test_tor_that_dies_at_start_undoes_proxy_mode(self):
+        holder = self.take_port(9051)
+        done = self.machine.connect(strict=0, check=False)
+        self.assertOneLine(done, "Tor did not start: ")
+        self.assertNotIn("stays blocked", done.stderr)
+        holder.communicate()
+        self.assertEqual(self.machine.snapshot(), self.before)
+
+    def test_failed_change_to_proxy_leaves_strict_closed(self):
+        self.machine.connect(strict=1)
+        self.machine.shell("kill -9 $(pgrep -u _veldmark); while pgrep -u _veldmark; do sleep 0.01; done")
+        holder = self.take_port(9051)
+        self.assertOneLine(self.machine.connect(strict=0, check=False), "stays blocked")
+        self.assertIn("policy drop", self.machine.run("nft", "list", "ruleset").stdout)
+        self.assertEqual(self.marker(), "strict\n")
+        holder.communicate()
+
+    def test_killed_tor_leaves_strict_closed(self):
+        self.machine.connect(strict=1)
+        self.machine.shell("kill -9 $(pgrep -u _veldmark)")
+        self.assertIn("policy drop", self.machine.run("nft", "list", "ruleset").stdout)
+
+    def test_tor_that_does_not_hear_is_killed(self):
+        self.machine.connect()
+        self.machine.shell("kill -STOP $(pgrep -u _veldmark)")
+        self.machine.help("disconnect")
+        self.assertEqual(self.machine.tor_pids(), [])
+
+    def test_reused_process_id_is_left_alone(self):
+        self.machine.connect()
+        bystander = self.machine.start("sleep", "1000")
+        self.addCleanup(bystander.wait)
+        pid = self.machine.shell("until pgrep -x sleep; do :; done").strip()
+        self.machine.shell("kill -9 $(pgrep -u _veldmark); sed -i \"s/^pid .*/pid $1/\" /var/lib/veldmark/journal/20-tor", pid)
+        self.machine.help("disconnect")
+        self.assertEqual(self.machine.shell("pgrep -x sleep").strip(), pid)
+        self.machine.run("kill", pid)
+        bystander.wait()
+
+    def test_disconnect_after_a_restart_of_the_computer(self):
+        self.machine.connect()
+        self.machine.shell("kill -9 $(pgrep -u _veldmark); umount /etc/resolv.conf; nft delete table inet veldmark;"
+                           "sed -i 's/^boot .*/boot other/' /var/lib/veldmark/journal/20-tor; rm /run/veldmark.lock")
+        self.machine.help("disconnect")
+        self.assertEqual(self.marker(), "")
+
+    def test_disconnect_without_a_session(self):
+        done = self.machine.help("disconnect")
+        self.assertEqual((done.stdout, done.stderr), ("", ""))
+
+    def test_torn_journal_still_opens_the_network(self):
+        for entry in "10-firewall", "20-tor", "30-resolver":
+            with self.subTest(entry):
+                self.machine.connect()
+                self.machine.shell(f"printf 'pid 1' >/var/lib/veldmark/journal/{entry}")
+                self.assertOneLine(self.machine.help("disconnect", check=False), "was damaged")
+                self.assertEqual(self.machine.snapshot(), self.before)
+                self.machine.help("disconnect")
+
+    def test_journal_that_others_could_write_is_not_believed(self):
+        self.machine.connect()
+        self.machine.shell("chmod 0777 /var/lib/veldmark/journal; printf 'target /etc/hosts\ncreated 1\nend\n'"
+                           ">/var/lib/veldmark/journal/30-resolver")
+        self.machine.help("disconnect")
+        self.machine.shell("test -e /etc/hosts; chmod 0700 /var/lib/veldmark/journal")
+        self.machine.help("disconnect")
+
+    def test_folder_that_others_can_write_is_refused(self):
+        for folder in "/var/lib/veldmark", "/var/lib/veldmark/state", "/var/lib/veldmark/run":
+            self.machine.shell(f"chmod 0777 {folder}")
+            self.assertOneLine(self.machine.connect(check=False), "is not safe")
+            self.machine.shell(f"chmod 0755 {folder}")
+
+    def test_full_disk_changes_nothing(self):
+        self.machine.shell("mount -t tmpfs -o size=64k,mode=755 small /var/lib/veldmark;"
+                           "head -c 65536 /dev/zero >/var/lib/veldmark/filler || true")
+        done = self.machine.connect(check=False)
+        rules = self.machine.run("nft", "list", "ruleset").stdout
+        self.machine.shell("umount /var/lib/veldmark")
+        self.assertOneLine(done, "cannot be")
+        self.assertEqual(rules, "")
+
+    def test_journal_that_cannot_be_written_changes_nothing(self):
+        self.machine.shell("rm -rf /var/lib/veldmark/journal; mkdir /mnt/j; mkdir -m 0700 /var/lib/veldmark/journal;"
+                           "mount -t tmpfs -o ro,mode=700 j /var/lib/veldmark/journal")
+        done = self.machine.connect(check=False)
+        self.machine.shell("umount /var/lib/veldmark/journal; rmdir /mnt/j")
+        self.assertOneLine(done, "journal")
+        self.assertEqual(self.machine.snapshot(), self.before)
+
+    def test_fix_dns_puts_back_the_mount_and_flushed_rules(self):
+        self.machine.connect()
+        during = self.machine.snapshot()
+        self.machine.shell("umount /etc/resolv.conf; nft flush ruleset")
+        self.assertNotEqual(self.machine.snapshot(), during)
+        self.machine.help("fix-dns")
+        self.assertEqual(self.machine.snapshot(), during)
+
+    def test_fix_dns_without_a_session_is_refused(self):
+        self.assertOneLine(self.machine.help("fix-dns", check=False), "not connected")
+
+    def test_entry_guards_survive(self):
+        self.machine.connect()
+        self.machine.help("disconnect")
+        first = self.machine.shell("stat -c %i /var/lib/veldmark/run/data")
+        self.machine.connect()
+        self.assertEqual(self.machine.shell("stat -c %i /var/lib/veldmark/run/data"), first)
+
+    def test_twenty_at_once(self):
+        runs = [self.machine.start("/bin/bash", self.machine.helper, *words, stderr=subprocess.PIPE, stdin=subprocess.DEVNULL)
+                for _ in range(5) for words in (
+                    ["connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0"], ["disconnect"],
+                    ["connect", "--tor", TOR, "--hash", HASH, "--strict", "0", "--lan", "1"], ["disconnect"])]
+        for run in runs:
+            _, message = run.communicate()
+            self.assertEqual((run.returncode, message), (0, b""))
+        self.assertLessEqual(len(self.machine.tor_pids()), 1)
+
+    def test_ctrl_c_does_not_stop_it_half_way(self):
+        run = self.machine.start("setsid", "/bin/bash", self.machine.helper, "connect", "--tor", TOR, "--hash", HASH,
+                                 "--strict", "1", "--lan", "0", stdin=subprocess.DEVNULL)
+        marker = f"/proc/{self.machine.pid}/root{MARKER}"
+        while run.poll() is None and not os.path.exists(marker):
+            pass
+        with open(f"/proc/{run.pid}/task/{run.pid}/children", encoding="ascii") as children:
+            helper = int(children.read())
+        signals = 0
+        while run.poll() is None:
+            try:
+                os.kill(helper, (2, 15, 1, 3, 13)[signals % 5])
+            except ProcessLookupError:
+                break
+            signals += 1
+        run.wait()
+        self.assertGreater(signals, 5)
+        self.assertEqual(run.returncode, 0)
+        self.assertEqual(len(self.machine.tor_pids()), 1)
+
+
+class ResolverFile(HelperTest):
+    def tearDown(self):
+        self.machine.help("disconnect")
+
+    def cycle(self, setup):
+        self.machine.shell(setup)
+        before = self.machine.snapshot()
+        self.machine.connect()
+        self.assertIn("127.0.0.1", self.machine.shell("cat /etc/resolv.conf"))
+        self.machine.help("disconnect")
+        self.assertEqual(self.machine.snapshot(), before)
+
+    def test_link(self):
+        self.cycle("mkdir -p /run/resolver; echo 'nameserver 192.0.2.7' >'/run/resolver/a b'; ln -sf '/run/resolver/a b' /etc/resolv.conf")
+
+    def test_dangling_link(self):
+        self.cycle("mkdir -p /run/none; ln -sf /run/none/file /etc/resolv.conf")
+
+    def test_missing(self):
+        self.cycle("rm -f /etc/resolv.conf")
+
+    def test_missing_folder_is_left_alone(self):
+        self.machine.shell("ln -sf /run/nowhere/at/all /etc/resolv.conf")
+        self.machine.connect()
+        self.machine.help("disconnect")
+        self.assertEqual(self.machine.shell("ls -d /run/nowhere || true"), "")
+
+    def test_somebody_elses_mount_below_ours_stays(self):
+        self.cycle("rm -f /etc/resolv.conf; echo >/etc/resolv.conf; echo 'nameserver 192.0.2.8' >/run/theirs;"
+                   "mount --bind /run/theirs /etc/resolv.conf")
+        self.machine.shell("umount /etc/resolv.conf")
+
+    def test_local_resolver_is_passed_over_for_the_servers_that_it_asks(self):
+        self.machine.shell("rm -f /etc/resolv.conf; echo 'nameserver 127.0.0.53' >/etc/resolv.conf;"
+                           "mkdir -p /run/systemd/resolve; echo 'nameserver 192.0.2.9' >/run/systemd/resolve/resolv.conf")
+        self.machine.connect(more=["--bridge", "meek_lite 192.0.2.1:80 url=https://a.example/", "--pt-lyrebird", "/usr/bin/obfs4proxy"])
+        [tor] = [pid for pid in self.machine.tor_pids() if "tor" in self.machine.shell(f"cat /proc/{pid}/comm")][:1]
+        self.assertEqual(self.machine.shell(f"cat /proc/{tor}/root/etc/resolv.conf"), "nameserver 192.0.2.9\n")
+        self.assertRegex(self.machine.run("nft", "list", "ruleset").stdout, r"ip daddr 192\.0\.2\.9 udp dport 53 accept")
+        self.machine.help("disconnect")
+        self.machine.shell("rm -r /run/systemd")
+
+
+class Speed(HelperTest):
+    def test_connect_and_disconnect_take_half_a_second(self):
+        took = {"connect": [], "disconnect": []}
+        for _ in range(10):
+            for verb, run in ("connect", self.machine.connect), ("disconnect", lambda: self.machine.help("disconnect")):
+                start = time.monotonic()
+                run()
+                took[verb].append(time.monotonic() - start)
+        for verb, times in took.items():
+            times.sort()
+            print(f"{verb}: median {times[5] * 1000:.0f} ms, longest {times[-1] * 1000:.0f} ms of {len(times)}")
+
+
+if __name__ == "__main__":
+    namespace.main()

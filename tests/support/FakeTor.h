@@ -1,0 +1,90 @@
+#pragma once
+
+#include <QHash>
+#include <QObject>
+#include <QStringList>
+#include <QTcpServer>
+
+#include <list>
+
+class QTcpSocket;
+
+namespace veldmark {
+
+// A control port on a free port of 127.0.0.1 that speaks just enough of Tor's protocol for the
+// program's own client, and misbehaves on request. It runs on the event loop of the test.
+//
+//     FakeTor tor;
+//     tor.reply("GETINFO version", "250-version=0.4.8\r\n250 OK\r\n");
+//     ControlPort port(clock, tor.port());
+//
+// Without a script, AUTHENTICATE is judged by the password, SETEVENTS and SIGNAL are accepted and
+// anything else is answered "510 Unrecognized command".
+class FakeTor : public QObject {
+public:
+    FakeTor();
+    ~FakeTor() override;
+
+    quint16 port() const { return m_port; }
+    QString password() const { return m_password; }
+    void setPassword(const QString &password) { m_password = password; }
+
+    // The bytes that answer `command` (the whole line) from now on.
+    void reply(const QByteArray &command, const QByteArray &bytes);
+    // The bytes that answer it the next time it has no earlier such answer left.
+    void replyOnce(const QByteArray &command, const QByteArray &bytes);
+    // The connection is closed when the answer, if there is one, has been sent.
+    void closeAfter(const QByteArray &command) { m_closing += command; }
+    // The command is taken and never answered.
+    void ignore(const QByteArray &command) { m_ignored += command; }
+    // As ignore(), for all commands.
+    void setSilent(bool silent) { m_silent = silent; }
+    // Every byte in a packet of its own, each in its own turn of the event loop.
+    void setDribbling(bool dribbling) { m_dribbling = dribbling; }
+
+    // Sends the bytes on every open connection that has sent a SETEVENTS.
+    void sendEvent(const QByteArray &bytes);
+    // Ends all the connections, after what has been sent.
+    void hangUp();
+    // Ends all the connections at once.
+    void disconnectAll();
+    // Ends them and refuses new ones; listen() takes the same port again.
+    void stopListening();
+    void listen();
+
+    int connectionCount() const { return m_connectionCount; } // ever accepted
+    int openConnections() const { return static_cast<int>(m_clients.size()); }
+    // Every command received, in order, AUTHENTICATE included.
+    QStringList commands() const { return m_commands; }
+
+private:
+    struct Client {
+        QTcpSocket *socket;
+        QByteArray received;
+        QByteArray pending; // not yet sent while dribbling
+        bool subscribed = false;
+        bool closing = false;
+    };
+
+    void accept();
+    void read(Client &client);
+    void answer(Client &client, const QByteArray &command);
+    QByteArray answerTo(const QByteArray &command);
+    void send(Client &client, const QByteArray &bytes);
+    void dribble();
+
+    QTcpServer m_server;
+    quint16 m_port = 0;
+    QString m_password = QStringLiteral("secret");
+    std::list<Client> m_clients;
+    QHash<QByteArray, QByteArray> m_replies;
+    QHash<QByteArray, QByteArrayList> m_repliesOnce;
+    QByteArrayList m_closing;
+    QByteArrayList m_ignored;
+    bool m_silent = false;
+    bool m_dribbling = false;
+    int m_connectionCount = 0;
+    QStringList m_commands;
+};
+
+} // namespace veldmark
