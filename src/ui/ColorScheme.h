@@ -2,9 +2,8 @@
 
 #include <QObject>
 #include <QQmlEngine>
+#include <QDBusVariant>
 #include <QVariant>
-
-class QDBusVariant;
 
 namespace veldmark {
 

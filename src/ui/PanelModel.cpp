@@ -333,8 +333,7 @@ QString PanelModel::moreResolvers() const
 
 QString PanelModel::error() const
 {
-    // Without Tor the missing-Tor card says it, with the command.
-    return m_session.now().errorMessage.value_or(QString());
+    return SessionTexts::translated(m_session.now().errorMessage.value_or(QString()));
 }
 
 bool PanelModel::torMissing() const

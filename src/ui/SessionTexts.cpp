@@ -11,7 +11,31 @@ namespace {
     QT_TRANSLATE_NOOP("Session", "Your traffic is not going through Tor"),
     QT_TRANSLATE_NOOP("Session", "Restoring your network settings…"),
     QT_TRANSLATE_NOOP("Session", "Your network is still set up for Tor from an earlier session"),
-    QT_TRANSLATE_NOOP("Session", "Cancelled."),
+    QT_TRANSLATE_NOOP("Session", "Your network is still set up for Tor"),
+    QT_TRANSLATE_NOOP("Session", "Preparing Tor…"),
+    QT_TRANSLATE_NOOP("Session", "Waiting for administrator approval…"),
+    QT_TRANSLATE_NOOP("Session", "Starting Tor…"),
+    QT_TRANSLATE_NOOP("Session", "Tor didn't finish connecting"),
+    QT_TRANSLATE_NOOP("Session", "Tor stopped running"),
+    QT_TRANSLATE_NOOP("Session", "All traffic is locked to Tor"),
+    QT_TRANSLATE_NOOP("Session", "Apps that use system proxy settings go through Tor"),
+    QT_TRANSLATE_NOOP("Session", "Tor stopped running. The kill switch is still blocking traffic, so nothing "
+                                 "leaked. Reconnect, or Restore Network to go back online."),
+    QT_TRANSLATE_NOOP("Session", "Tor stopped running. Apps using the proxy can't connect until you reconnect "
+                                 "or Restore Network."),
+    QT_TRANSLATE_NOOP("Session", "Any (recommended)"),
+    QT_TRANSLATE_NOOP("Session", "United States"),
+    QT_TRANSLATE_NOOP("Session", "Canada"),
+    QT_TRANSLATE_NOOP("Session", "United Kingdom"),
+    QT_TRANSLATE_NOOP("Session", "Germany"),
+    QT_TRANSLATE_NOOP("Session", "Netherlands"),
+    QT_TRANSLATE_NOOP("Session", "France"),
+    QT_TRANSLATE_NOOP("Session", "Sweden"),
+    QT_TRANSLATE_NOOP("Session", "Switzerland"),
+    QT_TRANSLATE_NOOP("Session", "Finland"),
+    QT_TRANSLATE_NOOP("Session", "Romania"),
+    QT_TRANSLATE_NOOP("Session", "Japan"),
+    QT_TRANSLATE_NOOP("Session", "Singapore"),
 };
 
 } // namespace

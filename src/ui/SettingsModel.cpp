@@ -72,7 +72,12 @@ QString SettingsModel::bundleVersion() const
 
 QString SettingsModel::bundleStatus() const
 {
-    return bundleLoaded() ? tr("Version %1 loaded").arg(bundleVersion()) : tr("Not downloaded");
+    if (!bundleLoaded())
+        return tr("Not downloaded");
+    QFile how(m_session.profile().bundleDirectory + QStringLiteral("/VERIFIED"));
+    const bool verified = how.open(QIODevice::ReadOnly) && how.read(64).trimmed() == "signature";
+    const QString loaded = tr("Version %1 loaded").arg(bundleVersion());
+    return verified ? loaded + QStringLiteral(" · ") + tr("signature verified") : loaded;
 }
 
 QString SettingsModel::downloadText() const
