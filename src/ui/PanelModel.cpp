@@ -118,6 +118,10 @@ QString PanelModel::title() const
 
 QString PanelModel::detail() const
 {
+    if (connected() && lookupsLeak())
+        return tr("Lookups can go around Tor");
+    if (connected() && tone() == Tone::Warning)
+        return tr("All traffic is locked to Tor, but the exit could not be confirmed");
     if (exposedInStrict())
         return tr("Your real address can be seen. Disconnect, or run the leak test again.");
     return SessionTexts::translated(m_session.now().statusDetail);

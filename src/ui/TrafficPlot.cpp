@@ -4,6 +4,7 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <utility>
 
 namespace veldmark {
 
@@ -44,10 +45,11 @@ void TrafficPlot::paint(QPainter *painter)
     const auto last = samples.back().at;
     const auto curve = [&](double TrafficHistory::Sample::*rate) {
         QPainterPath path;
+        bool started = false; // a path with one point counts as empty
         for (const auto &sample : samples) {
             const double age = Seconds(last - sample.at) / Seconds(TrafficHistory::span);
             const QPointF point(w * (1 - age), bottom - (bottom - lineWidth) * (sample.*rate / peak));
-            path.isEmpty() ? path.moveTo(point) : path.lineTo(point);
+            std::exchange(started, true) ? path.lineTo(point) : path.moveTo(point);
         }
         return path;
     };

@@ -16,6 +16,10 @@ bool failed = false;
 
 void save(Stage &stage, const QDir &folder, const QString &name)
 {
+    if (!stage.window()) {
+        failed = true;
+        return;
+    }
     if (!stage.picture().save(folder.filePath(name + QStringLiteral(".png"))))
         failed = true;
 }
@@ -60,6 +64,8 @@ void drawWindows(Stage &stage, const QDir &folder, const QString &suffix)
     save(stage, folder, QStringLiteral("circuits") + suffix);
     stage.circuits.follow(QStringLiteral("13"));
     save(stage, folder, QStringLiteral("circuits-followed") + suffix);
+    if (!stage.window())
+        return;
     stage.window()->resize(640, 420);
     save(stage, folder, QStringLiteral("circuits-smallest") + suffix);
     stage.circuits.follow({});

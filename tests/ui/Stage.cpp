@@ -49,7 +49,7 @@ QQuickWindow *Stage::open(const QString &file, QVariantMap properties)
 {
     m_window.reset();
     QQmlComponent component(&engine, moduleFile(file));
-    QObject *made = component.createWithInitialProperties(properties);
+    QObject *made = component.isReady() ? component.createWithInitialProperties(properties) : nullptr;
     for (const QQmlError &error : component.errors())
         m_warnings << error.toString();
     m_window.reset(qobject_cast<QQuickWindow *>(made));

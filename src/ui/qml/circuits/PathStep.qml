@@ -44,7 +44,7 @@ RowLayout {
     }
     ColumnLayout {
         Layout.fillWidth: true
-        Layout.bottomMargin: 12
+        Layout.bottomMargin: 8
         spacing: 0
         Words {
             Layout.fillWidth: true

@@ -27,7 +27,8 @@ Flickable {
         let inside = focused
         while (inside && inside !== contentItem)
             inside = inside.parent
-        if (!inside || !focused)
+        const reason = (focused as T.Control)?.focusReason ?? Qt.OtherFocusReason
+        if (!inside || (reason !== Qt.TabFocusReason && reason !== Qt.BacktabFocusReason))
             return
         const top = focused.mapToItem(contentItem, 0, 0).y
         if (top - margin < contentY)

@@ -37,9 +37,5 @@ RowLayout {
             color: row.subtitleColor
         }
     }
-    RowLayout {
-        id: side
-        spacing: 8
-        Layout.maximumWidth: row.width * 0.6
-    }
+    Side { id: side }
 }

@@ -17,8 +17,12 @@ Card {
         title: qsTr("Exit IP")
         help: card.model.exitHelp
         FlagBadge { visible: card.model.exitCountry !== ""; country: card.model.exitCountry }
+        TextMetrics { id: measure; font: address.font; text: address.text }
         TextEdit {
-            Layout.maximumWidth: card.width * 0.52
+            id: address
+            // Not its implicit width: that follows the wrapping, which follows the width.
+            width: Math.min(Math.ceil(measure.advanceWidth) + 4, card.width * 0.5)
+            horizontalAlignment: TextEdit.AlignRight
             text: card.model.exitAddress
             readOnly: true
             selectByMouse: true
@@ -26,7 +30,6 @@ Card {
             wrapMode: Text.WrapAnywhere
             font.pixelSize: Theme.bodySize
             font.weight: Font.DemiBold
-            font.features: ({ "tnum": 1 })
             color: card.model.exitKnown ? Theme.text : Theme.quiet
             selectionColor: Theme.accent
             selectedTextColor: Theme.onTone
@@ -34,7 +37,8 @@ Card {
             Accessible.name: qsTr("Exit IP") + ": " + text
         }
         IconButton {
-            Layout.margins: -6
+            width: 26
+            height: 26
             visible: card.model.exitKnown
             symbol: "doc.on.doc"
             text: qsTr("Copy")
@@ -72,7 +76,6 @@ Card {
         title: qsTr("Traffic")
         Words {
             text: "↓ " + card.model.downloaded + "   ↑ " + card.model.uploaded
-            font.features: ({ "tnum": 1 })
             Accessible.name: qsTr("%1 received, %2 sent").arg(card.model.downloaded).arg(card.model.uploaded)
         }
     }

@@ -25,7 +25,7 @@ T.Control {
         Symbol { name: fact.symbol; color: fact.symbolColor }
         Words { text: fact.title; color: Theme.quiet }
         Item { Layout.fillWidth: true }
-        RowLayout { id: side; spacing: 8 }
+        Side { id: side }
     }
     background: Item { FocusRing { shown: fact.visualFocus } }
     Hint { control: fact; text: fact.help }

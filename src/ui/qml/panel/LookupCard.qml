@@ -9,8 +9,9 @@ Card {
     fill: Theme.dangerGround
 
     RowLayout {
+        Layout.fillWidth: true
         spacing: 10
-        Symbol { name: "exclamationmark.triangle.fill"; size: 18; color: Theme.danger }
+        Symbol { Layout.alignment: Qt.AlignTop; name: "exclamationmark.triangle.fill"; size: 18; color: Theme.danger }
         Words {
             Layout.fillWidth: true
             text: qsTr("Lookups can go around Tor")

@@ -39,31 +39,25 @@ Card {
         enabled: !card.model.locked
         onWanted: on => card.model.allowLocalNetwork = on
     }
-    SettingRow {
+    ChoiceRow {
         symbol: "mappin"
         title: qsTr("Exit country")
-        subtitle: card.model.exitWarning !== "" ? card.model.exitWarning : qsTr("Where your traffic appears to come from")
-        subtitleColor: card.model.exitWarning !== "" ? Theme.warning : Theme.quiet
+        note: card.model.exitWarning !== "" ? card.model.exitWarning : qsTr("Where your traffic appears to come from")
+        noteColor: card.model.exitWarning !== "" ? Theme.warning : Theme.quiet
         enabled: !card.model.locked
-        Choice {
-            name: qsTr("Exit country")
-            model: card.model.exitNames
-            currentIndex: card.model.exitIndex
-            onActivated: index => card.model.exitIndex = index
-        }
+        names: card.model.exitNames
+        current: card.model.exitIndex
+        onChosen: index => card.model.exitIndex = index
     }
-    SettingRow {
+    ChoiceRow {
         symbol: "point.3.connected.trianglepath.dotted"
         title: qsTr("Bridges")
-        subtitle: card.model.bridgeNote
-        subtitleColor: card.model.bridgeNoteIsWarning ? Theme.warning : Theme.quiet
+        note: card.model.bridgeNote
+        noteColor: card.model.bridgeNoteIsWarning ? Theme.warning : Theme.quiet
         enabled: !card.model.locked
-        Choice {
-            name: qsTr("Bridges")
-            model: card.model.bridgeNames
-            currentIndex: card.model.bridgeIndex
-            onActivated: index => card.model.bridgeIndex = index
-        }
+        names: card.model.bridgeNames
+        current: card.model.bridgeIndex
+        onChosen: index => card.model.bridgeIndex = index
     }
     RowLayout {
         Layout.leftMargin: 30
