@@ -44,16 +44,20 @@ def spread(values: list[float]) -> str:
     return f"of {len(values)} runs, {min(values):.2f} to {max(values):.2f}"
 
 
+def measured(program: str) -> dict:
+    return json.loads(subprocess.run([BENCHES / program], capture_output=True, text=True, check=True).stdout)
+
+
 def parsing() -> None:
     from stem_yardstick import read_with_stem  # noqa: PLC0415
 
-    figures = {}
-    for program in sorted(BENCHES.glob("*Bench")):
-        for line in subprocess.run([program], capture_output=True, text=True, check=True).stdout.splitlines():
-            figures |= {key: value for key, value in json.loads(line).items() if isinstance(value, (int, float))}
-    for name in sorted(figures):
-        report(name, figures[name], "ms", "")
-    report("python3-stem, 10,000 circuit-status lines", middle([read_with_stem() * 1000 for _ in range(3)]), "ms", "yardstick")
+    framing, circuits = measured("FramingBench"), measured("CircuitBench")
+    framed, parsed = framing["median_ms"], circuits["parseMedianMs"]
+    report("10,000 circuit-status lines: framed", framed, "ms", "", f"of {framing['repetitions']} runs")
+    report("10,000 circuit-status lines: parsed", parsed, "ms", "", f"of {circuits['repetitions']} runs")
+    report("10,000 circuit-status lines: framed and read", framed + parsed, "ms", "at most 20")
+    report("the same with python3-stem", middle([read_with_stem() * 1000 for _ in range(5)]), "ms", "yardstick", "of 5 runs")
+    report("graph of 1,000 circuits: build and layout", circuits["graphMedianMs"], "ms", "at most 5")
 
 
 def clean_start(lab: Lab) -> None:
@@ -86,9 +90,10 @@ def time_connect(lab: Lab, product: Product) -> float:
         reader = threading.Thread(target=lambda: note_phases(watch.stdout, moments))
         reader.start()
         product.run_verb("connect", check=True)
-        session.interrupt()
-        reader.join()
+        watch.terminate()
         watch.wait()
+        reader.join()
+        session.interrupt()
     return moments["connected"] - moments["connecting"]
 
 

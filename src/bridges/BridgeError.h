@@ -12,7 +12,7 @@ public:
 
     QString description() const { return m_text; }
 
-    friend bool operator==(const BridgeError &a, const BridgeError &b) { return a.m_text == b.m_text; }
+    friend bool operator==(const BridgeError &, const BridgeError &) = default;
 
 private:
     explicit BridgeError(QString text) : m_text(std::move(text)) {}

@@ -93,7 +93,8 @@ BridgeTools BridgeTools::real(PlatformProfile profile,
 {
     return {
         [profile, bundleVersion] {
-            return PluggableTransports::locateAsync(profile, bundleVersion());
+            return PluggableTransports::locateAsync(
+                profile, bundleVersion ? bundleVersion() : std::nullopt);
         },
         [clock](QString host, quint16 port, std::chrono::milliseconds limit) {
             return TCPProbe::connectTime(std::move(host), port, limit, clock);

@@ -46,7 +46,7 @@ struct BridgeTools {
     // whether this attempt is still the current one.
     std::function<void(QString)> status;
 
-    // The real ones. `clock` must outlive every probe.
+    // The real ones. `bundleVersion` may be empty; `clock` must outlive every probe.
     static BridgeTools real(PlatformProfile profile,
                             std::function<std::optional<QString>()> bundleVersion, Clock *clock,
                             std::function<void(QString)> status);

@@ -66,7 +66,8 @@ public:
         QStringList configurations;
         bool hasLyrebird = false;
         const QStringList files =
-            filesNamed(root, {"lyrebird", "snowflake-client", "webtunnel-client", "pt_config.json", "omni.ja"});
+            filesNamed(root, {"lyrebird", "snowflake-client", "webtunnel-client", "pt_config.json",
+                              "omni.ja"});
         for (const QString &path : files) {
             const QStringView name = QStringView(path).sliced(path.lastIndexOf(u'/') + 1);
             if (name == u"lyrebird" && isProgram(path)) {

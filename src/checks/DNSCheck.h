@@ -34,17 +34,23 @@ QString stillLeakingText(const QStringList &summaries);
 // A name that nobody has looked up before, under a domain that exists.
 QString probeName();
 
-// One look-up by the system's resolver. True when it succeeded within `timeout`. The look-up runs on
-// a thread of its own that nobody waits for, neither after the time-out nor at the program's end.
-QCoro::Task<bool> lookup(Clock &clock, QString host, std::chrono::milliseconds timeout);
+// Asks the system's resolver for a name and waits for its answer. True when it found an address.
+bool resolveBySystem(const QByteArray &host);
 
+// One look-up with a hard time limit: true when `resolve` succeeded within `timeout`. It runs on a
+// thread of its own that nobody waits for, neither after the time-out nor at the program's end.
+QCoro::Task<bool> lookup(Clock &clock, QString host, std::chrono::milliseconds timeout,
+                         std::function<bool(const QByteArray &host)> resolve = resolveBySystem);
+
+// What the live test needs: `lookup` with a clock, and Tor's control port.
+using Lookup = std::function<QCoro::Task<bool>(QString host, std::chrono::milliseconds timeout)>;
 // Runs `work` while Tor reports the names that it is asked to resolve, for at most `duration`; gives
-// back these names, or nothing when Tor could not be listened to. The control port provides it.
+// back these names, or nothing when Tor could not be listened to.
 using CaptureResolves = std::function<QCoro::Task<std::optional<QStringList>>(
     std::chrono::milliseconds duration, std::function<QCoro::Task<void>()> work)>;
 
-// Looks up a fresh name and asks whether Tor saw exactly that. `throughTor` or `unverified`. What
-// `capture` refers to must live until the task ends.
-QCoro::Task<DNSStatus> liveTest(Clock &clock, CaptureResolves capture);
+// Looks up a fresh name and asks whether Tor saw exactly that: `throughTor` or `unverified`. What the
+// look-up itself says does not matter. What the two refer to must live until the task ends.
+QCoro::Task<DNSStatus> liveTest(CaptureResolves capture, Lookup lookup);
 
 } // namespace veldmark::DNSCheck

@@ -106,10 +106,9 @@ private:
 
     void finish(ProbeResult result)
     {
-        if (!m_answer.complete(std::move(result)) || !m_reply)
-            return;
-        m_reply->disconnect(this);
-        m_reply->abort();
+        // Its deletion, soon, aborts what is still under way.
+        if (m_answer.complete(std::move(result)) && m_reply)
+            m_reply->disconnect(this);
     }
 
     Clock &m_clock;

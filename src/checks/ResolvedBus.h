@@ -3,8 +3,6 @@
 #include "base/Clock.h"
 #include "checks/ResolvedState.h"
 
-#include <QDBusConnection>
-
 namespace veldmark {
 
 // Asks systemd-resolved for its settings over the system bus. Starts no service: a daemon that is not
@@ -14,15 +12,14 @@ public:
     // One reading takes no longer than this.
     static constexpr std::chrono::milliseconds limit{3000};
 
-    // `clock` must outlive the object and its readings. An empty `busAddress` is the system bus.
-    explicit ResolvedBus(Clock &clock, QString busAddress = {});
+    // `clock` must outlive the object and its readings.
+    explicit ResolvedBus(Clock &clock) : m_clock(clock) {}
 
     // Nothing when there is no bus, no such service, or no complete answer in time.
     QCoro::Task<std::optional<ResolvedState>> read();
 
 private:
     Clock &m_clock;
-    const QString m_busAddress;
 };
 
 } // namespace veldmark

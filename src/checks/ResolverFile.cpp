@@ -19,7 +19,8 @@ QString canonicalAddress(const QByteArray &word)
         return QHostAddress(ntohl(ipv4.s_addr)).toString();
     const qsizetype percent = word.indexOf('%');
     in6_addr ipv6;
-    if (::inet_pton(AF_INET6, word.left(percent).constData(), &ipv6) != 1)
+    const QByteArray address6 = percent < 0 ? word : word.left(percent);
+    if (::inet_pton(AF_INET6, address6.constData(), &ipv6) != 1)
         return {};
     QHostAddress address(reinterpret_cast<const quint8 *>(&ipv6));
     if (percent >= 0)

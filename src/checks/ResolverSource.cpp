@@ -52,8 +52,8 @@ std::vector<DNSResolver> joinResolvers(const ResolverFile &file,
     return joined;
 }
 
-LinuxResolverSource::LinuxResolverSource(Clock &clock, QString resolverFile, QString busAddress)
-    : m_resolverFile(std::move(resolverFile)), m_bus(clock, std::move(busAddress))
+LinuxResolverSource::LinuxResolverSource(Clock &clock, QString resolverFile)
+    : m_resolverFile(std::move(resolverFile)), m_bus(clock)
 {
 }
 

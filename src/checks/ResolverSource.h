@@ -31,8 +31,8 @@ std::vector<DNSResolver> joinResolvers(const ResolverFile &file,
 // Linux: systemd-resolved when it serves the resolver file, else the file.
 class LinuxResolverSource final : public ResolverSource {
 public:
-    // `clock` must outlive the object and its readings. An empty `busAddress` is the system bus.
-    LinuxResolverSource(Clock &clock, QString resolverFile, QString busAddress = {});
+    // `clock` must outlive the object and its readings.
+    LinuxResolverSource(Clock &clock, QString resolverFile);
 
     QCoro::Task<std::vector<DNSResolver>> resolvers() override;
 

@@ -130,12 +130,18 @@ void RunCommand::showProgress()
 void RunCommand::showPhase()
 {
     const ConnectionPhase phase = m_controller.phase();
-    if (phase == ConnectionPhase::connecting || m_controller.isChecking())
+    if (phase == ConnectionPhase::connecting || m_controller.isChecking()) {
+        if (phase == ConnectionPhase::connecting)
+            m_lastPhase = phase;
         return; // the progress line speaks, or the answers are on their way
+    }
     if (phase == ConnectionPhase::disconnecting) {
         say(m_controller.statusDetail());
         return;
     }
+    if (phase == ConnectionPhase::connected && m_lastPhase == ConnectionPhase::connecting)
+        Console::draw(m_progress.update(1.0, QStringLiteral("Done")));
+    m_lastPhase = phase;
     QString report = phase == ConnectionPhase::connected || phase == ConnectionPhase::stale
         ? Report::status(publishedState(m_controller))
         : QStringLiteral("%1: %2").arg(m_controller.title(), m_controller.statusDetail());

@@ -45,6 +45,7 @@ private:
     SignalWatcher m_signals;
     ProgressLine m_progress;
     QString m_lastReport;
+    ConnectionPhase m_lastPhase = ConnectionPhase::disconnected;
     bool m_stopWanted = false;
     bool m_stopping = false;
     bool m_mustEnd = false; // asked by somebody who won't ask again: SIGTERM, SIGHUP

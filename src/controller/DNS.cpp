@@ -37,12 +37,16 @@ QCoro::Task<void> TorController::checkDNS(bool live)
         if (m_controlPassword) {
             ControlPort *const controlPort = &m_services.controlPort;
             const QString password = *m_controlPassword;
+            Clock *const clock = &m_services.clock;
             const DNSCheck::CaptureResolves capture =
                 [controlPort, password](std::chrono::milliseconds duration,
                                         std::function<QCoro::Task<void>()> work) {
                     return captureResolves(controlPort, password, duration, std::move(work));
                 };
-            auto testing = DNSCheck::liveTest(m_services.clock, capture);
+            const DNSCheck::Lookup lookup = [clock](const QString &host, std::chrono::milliseconds timeout) {
+                return DNSCheck::lookup(*clock, host, timeout);
+            };
+            auto testing = DNSCheck::liveTest(capture, lookup);
             liveResult = co_await testing;
             if (!self || !isCurrent(attempt) || phase() != ConnectionPhase::connected)
                 co_return;

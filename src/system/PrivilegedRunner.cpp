@@ -3,6 +3,8 @@
 #include <QFile>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace veldmark {
 
 namespace {
@@ -25,11 +27,20 @@ HelperError failure(const QString &text)
     return HelperError::failed(PrivilegedRunner::cleanError(text));
 }
 
+// Whether every line is sudo's own. It translates its complaints, but not its name before them.
+bool onlySudoSpoke(const QString &errors)
+{
+    const QStringList lines = errors.split(u'\n', Qt::SkipEmptyParts);
+    return !lines.isEmpty() && std::all_of(lines.cbegin(), lines.cend(), [](const QString &line) {
+        return line.startsWith(QLatin1String("sudo: "));
+    });
+}
+
 // With -n sudo never asks: it complains of a password or a terminal that it would need.
 bool sudoRefused(const ProcessResult &result)
 {
     return result.stderr.toLower().contains(QLatin1String("password"))
-        || result.stderr.contains(QLatin1String("a terminal"));
+        || result.stderr.contains(QLatin1String("a terminal")) || onlySudoSpoke(result.stderr);
 }
 
 // Whether the helper itself, or the shell on its behalf ("SCRIPT: line 7: …"), wrote an error.

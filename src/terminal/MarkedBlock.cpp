@@ -72,11 +72,13 @@ QByteArray removed(const QByteArray &text, Position position, Separation separat
     QByteArray before = text.first(start);
     const QByteArray after = text.sliced(end);
     if (separation.emptyLine && position == Position::atEnd) {
-        const auto chopLineBreak = [&before] { before.chop(before.endsWith("\r\n") ? 2 : 1); };
-        if (before.endsWith("\n\n") || before.endsWith("\n\r\n")) {
-            chopLineBreak();
+        // Ours are LF, unless the whole file has been turned into CR LF since.
+        const bool isCrLf = before.endsWith("\n\r\n");
+        const qsizetype ours = isCrLf ? 2 : 1;
+        if (isCrLf || before.endsWith("\n\n")) {
+            before.chop(ours);
             if (separation.lineBreak && after.isEmpty())
-                chopLineBreak();
+                before.chop(ours);
         }
     }
     return before + after;

@@ -54,7 +54,9 @@ bool isSocksNcat(const QByteArray &usage)
 
 std::optional<QString> socksCommand(const PlatformProfile &profile)
 {
-    const auto at = [&profile](const char *path) { return profile.places.root + QLatin1String(path); };
+    const auto at = [&profile](const char *path) {
+        return profile.places.root + QLatin1String(path);
+    };
     if (profile.name == u"macos")
         return netcatCommand(at("/usr/bin/nc"));
     for (const char *path : {"/usr/bin/nc", "/bin/nc", "/usr/bin/nc.openbsd", "/bin/nc.openbsd"}) {
@@ -64,7 +66,8 @@ std::optional<QString> socksCommand(const PlatformProfile &profile)
     const QString ncat = at("/usr/bin/ncat");
     if (isSocksNcat(usage(ncat, QStringLiteral("--help"))))
         return ncat
-            + QStringLiteral(" --proxy 127.0.0.1:9050 --proxy-type socks5 --proxy-dns remote %h %p");
+            + QStringLiteral(" --proxy 127.0.0.1:9050 --proxy-type socks5 --proxy-dns remote"
+                             " %h %p");
     return std::nullopt;
 }
 

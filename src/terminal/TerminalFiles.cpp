@@ -138,7 +138,8 @@ QByteArray sshFile(const TerminalNames &names, const QString &socksCommand)
 {
     return joined({
         firstLine(names),
-        QStringLiteral("# While Veldmark is connected with Terminal mode on, ssh goes through Tor."),
+        QStringLiteral(
+            "# While Veldmark is connected with Terminal mode on, ssh goes through Tor."),
         QStringLiteral("Match exec \"$HOME/.veldmark/bin/veldmark-active %h\""),
         QStringLiteral("    ProxyCommand ") + socksCommand,
     });

@@ -10,9 +10,9 @@ namespace veldmark {
 struct TerminalNames {
     QString maker;         // who looks after them, as in "Managed by Veldmark.app"
     QString sessionMarker; // exists while the network is set up for Tor
-    QString exitCheck;     // https address that tells the caller's own; no character that a shell reads
-    // Whether the user's own proxy variables are put back after a session, and not only cleared.
-    // On the Mac the file stays as it has always been.
+    QString exitCheck;     // https address; no character in it that means something to a shell
+    // Whether the user's own proxy variables are put back after a session; the Mac's file clears
+    // them.
     bool givesBackProxies = true;
 };
 

@@ -26,7 +26,8 @@ constexpr mode_t plainMode = 0644;
 constexpr mode_t programMode = 0755;
 constexpr mode_t privateMode = 0600;
 
-const QByteArray shellBody = "[ -f \"$HOME/.veldmark/shell.sh\" ] && . \"$HOME/.veldmark/shell.sh\"";
+const QByteArray shellBody =
+    "[ -f \"$HOME/.veldmark/shell.sh\" ] && . \"$HOME/.veldmark/shell.sh\"";
 const QByteArray sshBody = "Include ~/.veldmark/ssh_config";
 
 std::filesystem::path asPath(const QString &path)
@@ -142,8 +143,9 @@ Result<void, TerminalError> TerminalIntegration::uninstall() const
     std::error_code error;
     std::filesystem::remove_all(asPath(m_profile.terminalDirectory), error); // a link: only itself
     if (error)
-        return Failure(TerminalError{QStringLiteral("%1 can't be removed: %2.")
-                                         .arg(m_profile.terminalDirectory, qt_error_string(error.value()))});
+        return Failure(
+            TerminalError{QStringLiteral("%1 can't be removed: %2.")
+                              .arg(m_profile.terminalDirectory, qt_error_string(error.value()))});
     return {};
 }
 

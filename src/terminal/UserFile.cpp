@@ -76,6 +76,7 @@ struct Access {
     mode_t mode;
     bool isExact; // otherwise the user's umask takes from it
     std::optional<Owner> owner;
+    bool isDurable; // outlives a power cut
 };
 
 // A new, empty file beside `place`, which begins to carry its name; its path is put into `fresh`.
@@ -117,12 +118,14 @@ Step putInPlace(const QString &target, const QByteArray &content, const Access &
         return giveUp(errno == EPERM ? Step::notOurs : Step::failed);
     if (!writeAll(file.number(), content)
         || (access.isExact && ::fchmod(file.number(), access.mode) != 0)
-        || ::fsync(file.number()) != 0 || !file.close())
+        || (access.isDurable && ::fsync(file.number()) != 0) || !file.close())
         return giveUp(Step::failed);
     if (!isStillWanted())
         return giveUp(Step::notOurs);
     if (::rename(fresh.constData(), place.constData()) != 0)
         return giveUp(Step::failed);
+    if (!access.isDurable)
+        return Step::done;
     // The new name outlives a power cut only once the folder is written; the content is safe
     // either way.
     const QByteArray folder = place.first(place.lastIndexOf('/') + 1);
@@ -181,13 +184,13 @@ Result<void, TerminalError> UserFile::replace(const QByteArray &content, mode_t 
 {
     if (exists() && content == m_content)
         return {};
-    Access access{newMode, false, std::nullopt};
+    Access access{newMode, false, std::nullopt, true};
     if (m_found) {
         // A new file could take the place of one that may not be written; the user has said no.
         if ((m_found->mode & S_IWUSR) == 0
             || ::access(QFile::encodeName(m_target).constData(), W_OK) != 0)
             return failure(QStringLiteral("%1 is read-only."), m_path);
-        access = {m_found->mode & 07777, true, Owner{m_found->owner, m_found->group}};
+        access = {m_found->mode & 07777, true, Owner{m_found->owner, m_found->group}, true};
     }
     bool hasChanged = false;
     const Step step = putInPlace(m_target, content, access, [this, &hasChanged] {
@@ -206,7 +209,17 @@ Result<void, TerminalError> UserFile::replace(const QByteArray &content, mode_t 
 Result<void, TerminalError> writeOwnFile(const QString &path, const QByteArray &content,
                                          mode_t mode, OwnMode kind)
 {
-    const Access access{mode, kind == OwnMode::exact, std::nullopt};
+    const QByteArray place = QFile::encodeName(path);
+    struct stat status = {};
+    if (::lstat(place.constData(), &status) == 0 && S_ISREG(status.st_mode)) {
+        const mode_t found = status.st_mode & 07777;
+        const bool isModeRight = kind == OwnMode::exact ? found == mode : (found & ~mode) == 0;
+        QFile file(path);
+        if (isModeRight && status.st_size == content.size() && file.open(QIODevice::ReadOnly)
+            && file.readAll() == content)
+            return {};
+    }
+    const Access access{mode, kind == OwnMode::exact, std::nullopt, false};
     if (putInPlace(path, content, access, [] { return true; }) != Step::done)
         return systemFailure(cannotWrite, path, errno);
     return {};

@@ -26,8 +26,10 @@ public:
 
     // Writes a new file beside the old one, with its mode and owner, and puts it in its place; a
     // link stays a link. `newMode`, below the umask, is for a file that did not exist. Does nothing
-    // when the content is the same. Fails, with the file as it was, when it is read-only, belongs to another user,
-    // or has changed since it was read. Other hard links to the file keep the old content.
+    // when the content is the same. Fails, with the file as it was, when it is read-only, belongs
+    // to another user, or has changed since it was read. Other hard links to the file keep the old
+    // content, and access lists are not carried over. A process that is killed in between leaves
+    // the new file beside the old one, as .NAME.veldmark-something.
     Result<void, TerminalError> replace(const QByteArray &content, mode_t newMode) const;
 
 private:
@@ -51,7 +53,8 @@ private:
 
 enum class OwnMode { exact, belowUmask };
 
-// Writes a file of the program's own, in place of whatever is there.
+// Writes a file of the program's own, in place of whatever is there; nothing when that is the same
+// file already. Does not wait for the disk: the next call repairs what a power cut has taken.
 Result<void, TerminalError> writeOwnFile(const QString &path, const QByteArray &content,
                                          mode_t mode, OwnMode kind = OwnMode::belowUmask);
 

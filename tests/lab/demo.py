@@ -14,10 +14,9 @@ from pathlib import Path
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
-from veldlab import snapshot  # noqa: E402
 from veldlab import topology as at  # noqa: E402
 from veldlab.lab import PROJECT, Lab, LabUnavailable  # noqa: E402
-from veldlab.product import Product  # noqa: E402
+from veldlab.product import Product, difference  # noqa: E402
 
 SKIPPED = 77
 BOLD, DIM, GREEN, RED, PLAIN = ("\033[1m", "\033[2m", "\033[32m", "\033[31m", "\033[0m") if sys.stdout.isatty() else ("",) * 5
@@ -78,11 +77,11 @@ def show_mode(lab: Lab, product: Product, mode: str, before: dict[str, str]) -> 
         started = time.monotonic()
         status = session.interrupt()
         judge("Ctrl-C restored after", f"{time.monotonic() - started:.1f} s, exit status {status}", status == 0)
-    difference = snapshot.diff(before, lab.host.snapshot())
-    judge("before and after", "equal: firewall, DNS, routes, mounts, ports, processes, files" if not difference else "they differ:",
-          not difference)
-    if difference:
-        print(difference)
+    changed = difference(before, lab.host.snapshot())
+    judge("before and after", "they differ:" if changed else "equal: firewall, DNS, routes, mounts, listening ports, processes, files",
+          not changed)
+    if changed:
+        print(changed)
 
 
 def main() -> int:

@@ -46,6 +46,11 @@ class Packet:
     length: int
     tcp_flags: int = 0
 
+    @property
+    def is_opening(self) -> bool:
+        """False for a TCP packet of a connection that exists already, such as the last words of an earlier program."""
+        return self.proto != "tcp" or self.tcp_flags & 0x12 == 0x02
+
     def __str__(self) -> str:
         arrow = "->" if self.out else "<-"
         return f"{arrow} {self.proto} {self.src}:{self.sport} {self.dst}:{self.dport} {self.length} bytes"

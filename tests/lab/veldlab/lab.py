@@ -69,7 +69,7 @@ class Lab:
                 identities = self._step("keys", self.tor.make_keys)
                 self.tor.write_configuration(identities)
                 services.result()
-            self._step("nodes", self.tor.start)
+            self._step("nodes", self.tor.start_all)
             self.host.trust(self.world.certificate_authority())
             self.host.join_tor_network(identities)
             if wait:

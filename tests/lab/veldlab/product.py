@@ -14,6 +14,18 @@ import threading
 import time
 from pathlib import Path
 
+from veldlab import snapshot
+
+_ACCOUNTS = ("/etc/passwd", "/etc/group", "/etc/shadow", "/etc/gshadow")
+
+
+def difference(before: dict[str, str], after: dict[str, str]) -> str:
+    """What a session left changed, as a diff; "" when nothing. The account that Tor runs under is made once and stays."""
+    def without_accounts(state: dict[str, str]) -> dict[str, str]:
+        lines = state["files"].splitlines()
+        return state | {"files": "\n".join(line for line in lines if not line.startswith(_ACCOUNTS))}
+    return snapshot.diff(without_accounts(before), without_accounts(after))
+
 
 class Product:
     """`programs`: the folder with veldmarkctl and the helper. `user`: who runs it; root needs no prompt."""

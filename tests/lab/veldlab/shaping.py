@@ -1,6 +1,6 @@
 """Delay and loss on chosen paths, in user space: the kernel's own netem is missing from many small kernels.
 
-Policy rules at the router lead the chosen packets into a tun device. A process reads them there, loses some, holds the others
+Policy rules at the router lead the chosen packets into a tun device. A process (shaper.py) reads them there, loses some, holds the others
 back, and writes them to the device again, from where the router forwards them as before. Paths within the world (relay to
 relay) do not pass the router and cannot be shaped. Each instance has its own device, table and rules, and removes them.
 """
@@ -8,8 +8,6 @@ relay) do not pass the router and cannot be shaped. Each instance has its own de
 import ipaddress
 import itertools
 import os
-import struct
-import sys
 from pathlib import Path
 
 from veldlab import topology as at
@@ -18,6 +16,7 @@ _SOURCES = {
     "host": (at.HOST_ADDRESS, at.HOST_ADDRESS6),
     "lan": (at.LAN_ADDRESS, at.LAN_ADDRESS6),
 }
+_SHAPER = str(Path(__file__).resolve().with_name("shaper.py"))
 _numbers = itertools.count()
 
 
@@ -49,7 +48,7 @@ class Shaping:
                 [family, "from", network, "to", own, "iif", "world0"],
             ]
         self._process = router.popen(
-            [at.PYTHON, "-B", os.path.realpath(__file__), self._device, str(delay_ms), str(loss)],
+            [at.PYTHON, "-B", _SHAPER, self._device, str(delay_ms), str(loss)],
             stdin=-1, stdout=-1, text=True,
         )
         try:
@@ -78,41 +77,3 @@ class Shaping:
 
     def __exit__(self, *_) -> None:
         self.close()
-
-
-def shape(device: str, delay: float, loss: float) -> None:
-    """The process: ends when its standard input does. `delay` in seconds."""
-    import collections
-    import fcntl
-    import random
-    import select
-    import subprocess
-    import time
-
-    set_interface, no_packet_information, tun = 0x400454CA, 0x1000, 1
-    fd = os.open("/dev/net/tun", os.O_RDWR | os.O_NONBLOCK)
-    fcntl.ioctl(fd, set_interface, struct.pack("16sH22x", device.encode(), tun | no_packet_information))
-    subprocess.run(["ip", "link", "set", device, "up", "txqueuelen", "5000"], check=True)
-    Path(f"/proc/sys/net/ipv4/conf/{device}/rp_filter").write_text("0")
-    print("ready", flush=True)
-    held: collections.deque[tuple[float, bytes]] = collections.deque()
-    poller = select.poll()
-    poller.register(fd, select.POLLIN)
-    poller.register(0, select.POLLIN | select.POLLHUP)
-    while True:
-        wait_ms = max(0.0, held[0][0] - time.monotonic()) * 1000 if held else None
-        for ready, _ in poller.poll(wait_ms):
-            if ready == 0:
-                return
-            packet = os.read(fd, 65536)
-            if random.random() >= loss:
-                held.append((time.monotonic() + delay, packet))
-        while held and held[0][0] <= time.monotonic():
-            try:
-                os.write(fd, held.popleft()[1])
-            except OSError:
-                pass  # a packet that the kernel does not take is a lost packet
-
-
-if __name__ == "__main__":
-    shape(sys.argv[1], float(sys.argv[2]) / 1000, float(sys.argv[3]))

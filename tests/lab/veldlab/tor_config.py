@@ -10,7 +10,10 @@ from veldlab.topology import Node
 GEOIP_FILE = "/etc/tor/veldlab-geoip"
 NODE_GEOIP_FILE = f"{at.TOR_FOLDER}/geoip"
 DNS_FILE = f"{at.TOR_FOLDER}/resolv.conf"
-BRIDGE_LINES = {"obfs4": "pt_state/obfs4_bridgeline.txt"}
+# Seconds between attempts at a first consensus: the least that tor allows with the delays below.
+FIRST_INTERVAL = 5
+# An authority that is up takes part in a vote from 4 s to 3 s before the attempt's end.
+VOTE_OPENS, VOTE_CLOSES = 4, 3
 
 
 def geoip_text() -> str:
@@ -84,7 +87,7 @@ def _authority(node: Node) -> list[str]:
     return [
         "AuthoritativeDirectory 1",
         "V3AuthoritativeDirectory 1",
-        "TestingV3AuthInitialVotingInterval 10",
+        f"TestingV3AuthInitialVotingInterval {FIRST_INTERVAL}",
         "TestingV3AuthInitialVoteDelay 2",
         "TestingV3AuthInitialDistDelay 2",
         "V3AuthVotingInterval 10",

@@ -1,7 +1,9 @@
 #include "system/SettingsFile.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -45,6 +47,23 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, content);
         QTEST(isIntactSettingsText(content), "intact");
+    }
+
+    // Two files of one size and time would be one to QSettings.
+    void aRewriteAlwaysMovesTheTimeOfChangeForward()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("veldmark.conf"));
+        const QString key = QStringLiteral("a");
+        QVERIFY(rewriteSettingsFile(path, {key}, {{key, 1}}));
+        const QDateTime later = QDateTime::currentDateTime().addSecs(3600);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(later, QFileDevice::FileModificationTime));
+        file.close();
+        QVERIFY(rewriteSettingsFile(path, {key}, {{key, 2}}));
+        QVERIFY(QFileInfo(path).lastModified() > later);
+        QCOMPARE(readSettingsFile(path).value(key).toString(), QStringLiteral("2"));
     }
 
     void movesAsideUnderAFreeName()

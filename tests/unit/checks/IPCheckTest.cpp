@@ -1,0 +1,93 @@
+#include "checks/IPCheck.h"
+
+#include <QRandomGenerator>
+#include <QTest>
+
+using namespace veldmark;
+
+namespace {
+// With single quotes for double ones, so that it can be read here.
+QByteArray json(const char *text)
+{
+    return QByteArray(text).replace('\'', '"');
+}
+} // namespace
+
+class IPCheckTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void readsTheServicesAnswer_data()
+    {
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<bool>("isTor");
+        QTest::addColumn<QString>("ip");
+        QTest::newRow("a Tor exit") << json("{'IsTor': true, 'IP': '203.0.113.7'}") << true
+                                    << QStringLiteral("203.0.113.7");
+        QTest::newRow("not Tor, IPv6") << json("{'IP':'2001:db8::1','IsTor':false}") << false
+                                       << QStringLiteral("2001:db8::1");
+        QTest::newRow("other keys") << json("{'IsTor':true,'x':[1,{'IP':2}],'IP':'203.0.113.7','isTor':1}")
+                                    << true << QStringLiteral("203.0.113.7");
+        QTest::newRow("white space round it") << QByteArray("\r\n {\"IsTor\":true,\"IP\":\"203.0.113.7\"}\n") << true
+                                              << QStringLiteral("203.0.113.7");
+        QTest::newRow("as long as allowed")
+            << json("{'IsTor':true,'IP':'203.0.113.7'}").leftJustified(IPCheck::sizeLimitBytes)
+            << true << QStringLiteral("203.0.113.7");
+    }
+    void readsTheServicesAnswer()
+    {
+        QFETCH(QByteArray, body);
+        QFETCH(bool, isTor);
+        QFETCH(QString, ip);
+        const auto check = IPCheck::fromJson(body);
+        QVERIFY(check);
+        QCOMPARE(*check, (IPCheck{isTor, ip}));
+    }
+
+    void refusesEverythingElse_data()
+    {
+        QTest::addColumn<QByteArray>("body");
+        const auto row = [](const char *name, const char *body) { QTest::newRow(name) << json(body); };
+        row("empty", "");
+        row("not JSON", "<html>503</html>");
+        row("wrong case", "{'isTor':true,'IP':'203.0.113.7'}");
+        row("wrong case of IP", "{'IsTor':true,'ip':'203.0.113.7'}");
+        row("no IP", "{'IsTor':true}");
+        row("no IsTor", "{'IP':'203.0.113.7'}");
+        row("text for a truth value", "{'IsTor':'true','IP':'203.0.113.7'}");
+        row("number for a truth value", "{'IsTor':1,'IP':'203.0.113.7'}");
+        row("null for a truth value", "{'IsTor':null,'IP':'203.0.113.7'}");
+        row("number for an address", "{'IsTor':true,'IP':203}");
+        row("null for an address", "{'IsTor':true,'IP':null}");
+        row("an address that is none", "{'IsTor':true,'IP':'<img src=x>'}");
+        row("an empty address", "{'IsTor':true,'IP':''}");
+        row("an array", "[{'IsTor':true,'IP':'203.0.113.7'}]");
+        row("half", "{'IsTor':true,'IP':'203.0");
+        row("two objects", "{'IsTor':true,'IP':'203.0.113.7'}{}");
+        QTest::newRow("too long")
+            << json("{'IsTor':true,'IP':'203.0.113.7'}").leftJustified(IPCheck::sizeLimitBytes + 1);
+        QTest::newRow("deeply nested") << QByteArray(30000, '[') + QByteArray(30000, ']');
+    }
+    void refusesEverythingElse()
+    {
+        QFETCH(QByteArray, body);
+        const auto check = IPCheck::fromJson(body);
+        QVERIFY(!check);
+        QCOMPARE(check.error().kind, ProbeError::Kind::badResponse);
+        QVERIFY(check.error().reachedNetwork);
+        QVERIFY(!check.error().description().isEmpty());
+    }
+
+    void randomBytesAreNoAnswer()
+    {
+        QRandomGenerator random(7);
+        for (int round = 0; round < 2000; ++round) {
+            QByteArray bytes(random.bounded(200), Qt::Uninitialized);
+            for (char &byte : bytes)
+                byte = static_cast<char>(random.bounded(256));
+            QVERIFY(!IPCheck::fromJson(bytes));
+        }
+    }
+};
+
+QTEST_APPLESS_MAIN(IPCheckTest)
+#include "IPCheckTest.moc"
