@@ -137,12 +137,18 @@ END
   printf '\t}\n}\n'
 }
 
+# kill_switch_stands: asks the kernel; the marker alone may be from before a restart of the computer.
+kill_switch_stands() {
+  local output
+  output=$(nft list chain inet "$TABLE" output) && [[ $output == *"policy drop;"* ]]
+}
+
 # load_rules TEXT: all of it or nothing; the former rules stay when it fails.
 load_rules() {
   local output
   if ! output=$(nft -f - 2>&1 <<<"$1"); then
     output=${output%%$'\n'*}
-    die "The firewall rules were not accepted: ${output//[[:cntrl:]]/ }"
+    die "The firewall rules were not accepted (${output//[[:cntrl:]]/ })."
   fi
 }
 
@@ -168,6 +174,7 @@ undo_firewall() {
   output=$(nft delete table inet "$TABLE" 2>&1) && return 0
   # Not being there is what was wanted.
   [[ $output == *"No such file or directory"* ]] && return 0
-  UNDONE="The firewall could not be opened: ${output%%$'\n'*}"
+  output=${output%%$'\n'*}
+  UNDONE="The firewall could not be opened (${output//[[:cntrl:]]/ })."
   return 1
 }

@@ -18,15 +18,6 @@ Defaults!$INSTALLED_HELPER env_reset
 END
 }
 
-# print_file PATH: its content, opened as the caller, so that nobody reads through us what is not theirs.
-print_file() {
-  if [[ $CALLER_UID == 0 ]]; then
-    head -c "$MAX_PROGRAM_BYTES" -- "$1"
-  else
-    as_caller 10 head -c "$MAX_PROGRAM_BYTES" -- "$1"
-  fi
-}
-
 # install_file FROM TO
 install_file() {
   local new=$2.new
@@ -51,7 +42,7 @@ linux_install-privileged() {
   take_lock
   trap finish EXIT
   { uid=$(id -u -- "$OPT_USER") && is_uid "$uid"; } || die "The user $OPT_USER is not known on this system."
-  [[ $uid != 0 ]] || die "root needs no password for the helper."
+  [[ $uid != 0 ]] || die "The user root needs no password for the helper."
   [[ $CALLER_UID == 0 || $CALLER_UID == "$uid" ]] || die "Only the user who asks can be let in."
   read_accounts
   root_owned /etc/sudoers.d || die "The folder /etc/sudoers.d is missing or not safe."

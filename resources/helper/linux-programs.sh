@@ -7,28 +7,31 @@ PROGRAM=''   # the result of ready_program
 
 readonly MAX_PROGRAM_BYTES=200000000
 
-# root_owned PATH: PATH is free of links, and it and every folder above it are root's to change alone.
-root_owned() {
-  local path=$1 line paths=()
+# every_part PATH FORMAT PATTERN: whether stat's FORMAT matches PATTERN for PATH and every folder above it.
+every_part() {
+  local path=$1 line paths=(/)
   while [[ -n $path ]]; do
     paths[${#paths[@]}]=$path
     path=${path%/*}
   done
   while IFS= read -r line; do
-    [[ $line =~ ^[0-7]*[0145][0145]\ 0$ ]] || return 1
-  done < <(stat -c '%a %u' -- / "${paths[@]}" || printf 'missing\n')
+    [[ $line =~ $3 ]] || return 1
+  done < <(stat -c "$2" -- "${paths[@]}" || printf 'missing\n')
 }
 
+# root_owned PATH: PATH, free of links, and every folder above it are root's to change alone.
+root_owned() { every_part "$1" '%a %u' '^[0-7]*[0145][0145] 0$'; }
+
 # open_to_all PATH: any account can reach and run it.
-open_to_all() {
-  local path=$1 line paths=()
-  while [[ -n $path ]]; do
-    paths[${#paths[@]}]=$path
-    path=${path%/*}
-  done
-  while IFS= read -r line; do
-    [[ $line =~ [1357]$ ]] || return 1
-  done < <(stat -c '%a' -- "${paths[@]}" || printf '0\n')
+open_to_all() { every_part "$1" '%a' '[1357]$'; }
+
+# print_file PATH: its content, opened as the caller, so that nobody reads through us what is not theirs.
+print_file() {
+  if [[ $CALLER_UID == 0 ]]; then
+    head -c "$MAX_PROGRAM_BYTES" -- "$1"
+  else
+    as_caller 10 head -c "$MAX_PROGRAM_BYTES" -- "$1"
+  fi
 }
 
 # ready_program PATH NAME: sets PROGRAM to what may be run for PATH, a path of safe characters only, which Tor's
@@ -45,17 +48,11 @@ ready_program() {
       return
     fi
   fi
-  # Opened as the caller, so that nobody reads through us what is not theirs.
   rm -f -- "$new"
   set -o noclobber
   : >"$new" || die "The folder $PROGRAMS cannot be written."
   set +o noclobber
-  if [[ -n $owned || $CALLER_UID == 0 ]]; then
-    cat -- "$path" >"$new" || die "The program $path cannot be copied."
-  else
-    as_caller 10 head -c "$MAX_PROGRAM_BYTES" -- "$path" >"$new" ||
-      { rm -f -- "$new"; die "The program $path cannot be copied."; }
-  fi
+  print_file "$path" >"$new" || { rm -f -- "$new"; die "The program $path cannot be copied."; }
   sum=$(sha256sum <"$new") && sum=${sum%% *}
   [[ $sum =~ ^[0-9a-f]{64}$ ]] || die "The program $path cannot be copied."
   copy=$PROGRAMS/$sum/$2

@@ -8,21 +8,37 @@ readonly KDE_ENTRY=50-kde
 readonly ANSWER=$RUN/answer   # 0600; what a program of the user's printed
 readonly ANSWER_BYTES=262144
 
-# The user's own exceptions would go past Tor, so only this computer itself is excepted.
-readonly GNOME_VALUES="org.gnome.system.proxy mode 'manual'
-org.gnome.system.proxy ignore-hosts ['localhost', '127.0.0.0/8', '::1']
+# The user's own exceptions would go past Tor, so only this computer itself is excepted, and with LAN 1 the local
+# network. The first line is the one that switches the rest on.
+# print_gnome_values LAN: "SCHEMA KEY VALUE" lines.
+print_gnome_values() {
+  local lan=''
+  [[ $1 != 1 ]] || lan=", '10.0.0.0/8', '172.16.0.0/12', '192.168.0.0/16', '169.254.0.0/16', 'fe80::/10', 'fc00::/7'"
+  cat <<END
+org.gnome.system.proxy mode 'manual'
+org.gnome.system.proxy ignore-hosts ['localhost', '127.0.0.0/8', '::1'$lan]
 org.gnome.system.proxy.http host ''
 org.gnome.system.proxy.https host ''
 org.gnome.system.proxy.ftp host ''
 org.gnome.system.proxy.socks host '127.0.0.1'
-org.gnome.system.proxy.socks port $SOCKS_PORT"
-readonly KDE_VALUES="ProxyType=1
+org.gnome.system.proxy.socks port $SOCKS_PORT
+END
+}
+
+# print_kde_values LAN: "KEY=VALUE" lines of the group [Proxy Settings].
+print_kde_values() {
+  local lan=''
+  [[ $1 != 1 ]] || lan=",10.0.0.0/8,172.16.0.0/12,192.168.0.0/16,169.254.0.0/16,fe80::/10,fc00::/7"
+  cat <<END
+ProxyType=1
 socksProxy=socks://127.0.0.1 $SOCKS_PORT
 httpProxy=
 httpsProxy=
 ftpProxy=
-NoProxyFor=localhost,127.0.0.0/8,::1
-ReversedException=false"
+NoProxyFor=localhost,127.0.0.0/8,::1$lan
+ReversedException=false
+END
+}
 
 # Scripts for sh that run as the user. Status 3: this user has no such desktop.
 # shellcheck disable=SC2016
@@ -113,7 +129,9 @@ put_proxy() {
 }
 
 put_gnome() {
-  local line status=0 was=() values=() wanted=$'\n'$GNOME_VALUES$'\n'
+  local line status=0 was=() values=() texts wanted
+  texts=$(print_gnome_values "$OPT_LAN")
+  wanted=$'\n'$texts$'\n'
   as_session "$GNOME_READ" </dev/null || status=$?
   ((status != 3)) || return 0
   ((status == 0)) || return 1
@@ -128,8 +146,8 @@ put_gnome() {
     die "The journal cannot be written."
   while IFS= read -r line; do
     values[${#values[@]}]=$line
-  done <<<"${GNOME_VALUES#*$'\n'}"
-  as_session "$GNOME_SET" "${values[@]}" "${GNOME_VALUES%%$'\n'*}" </dev/null
+  done <<<"${texts#*$'\n'}"
+  as_session "$GNOME_SET" "${values[@]}" "${texts%%$'\n'*}" </dev/null
 }
 
 undo_gnome() {
@@ -145,12 +163,12 @@ undo_gnome() {
   return 1
 }
 
-# print_kde_group TEXT [LINE...]: TEXT with the keys of KDE_VALUES in [Proxy Settings] replaced by LINE...
+# print_kde_group TEXT [LINE...]: TEXT with the keys of print_kde_values in [Proxy Settings] replaced by LINE...
 print_kde_group() {
   local line inside='' found='' keys=''
   while IFS= read -r line; do
     keys="$keys ${line%%=*} "
-  done <<<"$KDE_VALUES"
+  done <<<"$(print_kde_values 0)"
   while IFS= read -r line; do
     case $line in
     "[Proxy Settings]")
@@ -180,7 +198,7 @@ print_kde_keys() {
   local line inside='' key keys=''
   while IFS= read -r line; do
     keys="$keys ${line%%=*} "
-  done <<<"$KDE_VALUES"
+  done <<<"$(print_kde_values 0)"
   while IFS= read -r line; do
     case $line in
     "[Proxy Settings]") inside=1 ;;
@@ -213,12 +231,12 @@ kde_text() {
   printf x
 }
 
-# kde_ours CODED: prints what we make of that content, with an x after it.
+# kde_ours CODED LAN: prints what we make of that content, with an x after it.
 kde_ours() {
   local line lines=() text
   while IFS= read -r line; do
     lines[${#lines[@]}]=$line
-  done <<<"$KDE_VALUES"
+  done <<<"$(print_kde_values "$2")"
   text=$(kde_text "$1")
   print_kde_group "${text%x}" "${lines[@]}"
   printf x
@@ -231,7 +249,7 @@ put_kde() {
   ((status == 0)) || return 1
   journal_has "$KDE_ENTRY" || journal_put "$KDE_ENTRY" "uid $CALLER_UID" "file $KDE_FILE" ||
     die "The journal cannot be written."
-  text=$(kde_ours "$KDE_FILE")
+  text=$(kde_ours "$KDE_FILE" "$OPT_LAN")
   printf '%s' "${text%x}" | as_session "$KDE_WRITE" file
 }
 
@@ -243,8 +261,9 @@ undo_kde() {
   be_session_user "$(journal_value uid)" || return 0
   UNDONE="The network is open again, but the desktop's proxy settings could not be put back."
   read_kde || KDE_FILE=absent
+  [[ $KDE_FILE != "$former" ]] || return 0
   now=$(kde_text "$KDE_FILE")
-  if [[ $now == "$(kde_ours "$former")" || $KDE_FILE == "$former" || $KDE_FILE == absent ]]; then
+  if [[ $now == "$(kde_ours "$former" 0)" || $now == "$(kde_ours "$former" 1)" || $KDE_FILE == absent ]]; then
     if [[ $former == absent ]]; then
       as_session "$KDE_WRITE" absent </dev/null
     else

@@ -2,7 +2,7 @@
 # ---- Linux: connect and disconnect -------------------------------------------------------------------------
 
 readonly FIREWALL_ENTRY=10-firewall
-readonly ENTRIES="$KDE_ENTRY $GNOME_ENTRY $RESOLVER_ENTRY $TOR_ENTRY $FIREWALL_ENTRY"   # in the order of undoing
+readonly ENTRIES="$KDE_ENTRY $GNOME_ENTRY $RESOLVED_ENTRY $RESOLVER_ENTRY $TOR_ENTRY $FIREWALL_ENTRY"   # in the order of undoing
 
 ON_FAILURE=''   # "undo" while a failure must put everything back; empty before the first change and where the
                 # kill switch stays closed
@@ -10,7 +10,7 @@ UNDONE=''       # why an undo_... function failed
 
 need_programs() {
   local program
-  for program in nft flock setpriv unshare setsid getent stat sync mount umount sha256sum timeout readlink; do
+  for program in "$@"; do
     command -v "$program" >/dev/null || die "The program $program is missing on this system."
   done
 }
@@ -52,7 +52,7 @@ linux_connect() {
   local mode=proxy former
   parse_connect "$@"
   [[ $OPT_STRICT == 0 ]] || mode=strict
-  need_programs
+  need_programs flock nft setpriv unshare setsid getent stat sync mount umount sha256sum timeout readlink
   take_lock
   trap finish EXIT
   ready_account
@@ -63,6 +63,9 @@ linux_connect() {
 
   # From here on the network changes. A strict session in force stays so until its successor stands.
   former=$(read_marker)
+  if [[ $former == strict ]] && ! kill_switch_stands; then
+    former=''
+  fi
   if [[ $former == strict ]]; then
     STAYS_CLOSED=" The network stays blocked until you disconnect."
   else
@@ -79,6 +82,7 @@ linux_connect() {
   undo_entry "$TOR_ENTRY" || ! journal_has "$TOR_ENTRY" || die "$UNDONE"
   start_tor
   put_resolver
+  put_resolved || true   # the firewall redirects what its links ask
   put_proxy
   if [[ $former == strict && $mode == proxy ]]; then
     switch_firewall proxy
@@ -87,7 +91,8 @@ linux_connect() {
 }
 
 # undo_entry NAME: puts back what the entry tells of and removes it. A torn entry tells nothing, and what can be
-# put back without it is put back. Status 1 with UNDONE set when something could not be.
+# put back without it is put back. Status 1 with UNDONE set when something could not be put back and the entry stays;
+# 2, likewise, when the entry was torn and is gone.
 undo_entry() {
   local name=$1 status=0
   JOURNAL_LINES=()
@@ -101,6 +106,7 @@ undo_entry() {
   case $name in
   "$KDE_ENTRY") undo_kde ;;
   "$GNOME_ENTRY") undo_gnome ;;
+  "$RESOLVED_ENTRY") undo_resolved ;;
   "$RESOLVER_ENTRY") undo_resolver ;;
   "$TOR_ENTRY") undo_tor ;;
   "$FIREWALL_ENTRY") undo_firewall ;;
@@ -108,7 +114,7 @@ undo_entry() {
   journal_drop "$name"
   if ((status == 2)); then
     UNDONE="A note of what to restore was damaged (${name#*-}). The network is open again; check your proxy settings."
-    return 1
+    return 2
   fi
 }
 
@@ -116,12 +122,16 @@ JOURNAL_TRUSTED=1
 
 # undo_session: everything, backwards, the firewall last; goes on when a step fails. Keeps the first reason.
 undo_session() {
-  local name reason=''
+  local name status reason='' open=1
   for name in $ENTRIES; do
-    UNDONE=
-    undo_entry "$name" || reason=${reason:-${UNDONE:-The former network settings could not all be restored.}}
+    UNDONE='' status=0
+    undo_entry "$name" || status=$?
+    ((status == 0)) || reason=${reason:-${UNDONE:-The former network settings could not all be restored.}}
+    # The desktop's settings are not the network: they are tried again by the next run, without a session.
+    [[ $status != 1 || $name == "$GNOME_ENTRY" || $name == "$KDE_ENTRY" ]] || open=''
   done
-  rm -f -- "$MARKER" "$RULES" "$MARKER.new" "$RULES.new" "$TORRC.checked" "$JOURNAL"/*.new
+  [[ -z $open ]] || rm -f -- "$MARKER" "$RULES"
+  rm -f -- "$MARKER.new" "$RULES.new" "$TORRC.checked" "$JOURNAL"/*.new
   UNDONE=$reason
   [[ -z $reason ]]
 }
@@ -130,7 +140,7 @@ undo_session() {
 # transaction, so that also a flushed kill switch stands again.
 linux_fix-dns() {
   (($# == 0)) || die "The verb fix-dns takes no options."
-  need_programs
+  need_programs flock nft mount umount readlink stat sync
   take_lock
   trap finish EXIT
   { [[ -f $MARKER ]] && folders_are_safe; } || die "Veldmark is not connected, so the DNS settings were left alone."
@@ -139,11 +149,12 @@ linux_fix-dns() {
   fi
   read_resolver
   put_resolver
+  put_resolved || die "The DNS servers of systemd-resolved cannot be changed."
 }
 
 linux_disconnect() {
   (($# == 0)) || die "The verb disconnect takes no options."
-  need_programs
+  need_programs flock nft umount stat
   take_lock
   trap finish EXIT
   if [[ -e $BASE || -L $BASE ]]; then

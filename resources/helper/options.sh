@@ -5,7 +5,7 @@
 OPT_TOR='' OPT_HASH='' OPT_STRICT='' OPT_LAN='' OPT_EXIT=''
 OPT_BRIDGES=()
 OPT_LYREBIRD='' OPT_SNOWFLAKE='' OPT_WEBTUNNEL=''
-OPT_UID='' OPT_APP='' OPT_USER='' OPT_LAUNCH=''
+OPT_USER='' OPT_LAUNCH=''
 
 readonly MAX_BRIDGES=100
 readonly MAX_VALUE=4096   # bytes
@@ -41,8 +41,6 @@ parse_options() {
     --pt-lyrebird) take OPT_LYREBIRD "$option" "$value" ;;
     --pt-snowflake) take OPT_SNOWFLAKE "$option" "$value" ;;
     --pt-webtunnel) take OPT_WEBTUNNEL "$option" "$value" ;;
-    --uid) take OPT_UID "$option" "$value" ;;
-    --app) take OPT_APP "$option" "$value" ;;
     --user) take OPT_USER "$option" "$value" ;;
     --launch) take OPT_LAUNCH "$option" "$value" ;;
     --bridge)

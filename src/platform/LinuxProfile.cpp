@@ -116,6 +116,11 @@ PlatformProfile PlatformProfile::linux(const Places &places)
     else
         profile.shellFilesIfPresent = {zshrc};
     profile.terminalDirectory = places.home + QStringLiteral("/.veldmark");
+    profile.terminalMaker = QStringLiteral("Veldmark");
+    profile.givesBackProxies = true;
+    profile.netcatCandidates = {at("/usr/bin/nc"), at("/bin/nc"), at("/usr/bin/nc.openbsd"),
+                                at("/bin/nc.openbsd")};
+    profile.ncat = at("/usr/bin/ncat");
     profile.sshDirectory = places.home + QStringLiteral("/.ssh");
     profile.resolverFile = at("/etc/resolv.conf");
     // Without a runtime folder (a root shell, an SSH session without logind) the socket goes into

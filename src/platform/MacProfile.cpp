@@ -51,6 +51,9 @@ PlatformProfile PlatformProfile::macos(const Places &places)
     profile.shellFilesAlways = {places.home + QStringLiteral("/.zshrc")};
     profile.shellFilesIfPresent = {places.home + QStringLiteral("/.bash_profile")};
     profile.terminalDirectory = places.home + QStringLiteral("/.veldmark");
+    profile.terminalMaker = QStringLiteral("Veldmark.app");
+    profile.givesBackProxies = false; // the file has always been without
+    profile.netcat = at("/usr/bin/nc");
     profile.sshDirectory = places.home + QStringLiteral("/.ssh");
     profile.resolverFile = at("/etc/resolv.conf");
     profile.scutil = at("/usr/sbin/scutil");

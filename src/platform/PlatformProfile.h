@@ -82,6 +82,11 @@ struct PlatformProfile {
     QStringList shellFilesIfPresent;  // … only where the file exists
     QString terminalDirectory;        // ~/.veldmark
     QString sshDirectory;             // ~/.ssh
+    QString terminalMaker;            // named in those files as who looks after them
+    bool givesBackProxies;            // the shell file saves and restores the user's own proxies
+    QString netcat;                   // known to speak SOCKS; empty: the candidates are asked
+    QStringList netcatCandidates;
+    QString ncat;                     // asked when no netcat will do; empty: not asked
     QString resolverFile; // /etc/resolv.conf
     QString scutil;       // empty where resolvers are not read from it
     QString controlSocket; // local socket on which a running instance takes commands

@@ -54,18 +54,14 @@ bool isSocksNcat(const QByteArray &usage)
 
 std::optional<QString> socksCommand(const PlatformProfile &profile)
 {
-    const auto at = [&profile](const char *path) {
-        return profile.places.root + QLatin1String(path);
-    };
-    if (profile.name == u"macos")
-        return netcatCommand(at("/usr/bin/nc"));
-    for (const char *path : {"/usr/bin/nc", "/bin/nc", "/usr/bin/nc.openbsd", "/bin/nc.openbsd"}) {
-        if (isSocksNetcat(usage(at(path), QStringLiteral("-h"))))
-            return netcatCommand(at(path));
+    if (!profile.netcat.isEmpty())
+        return netcatCommand(profile.netcat);
+    for (const QString &netcat : profile.netcatCandidates) {
+        if (isSocksNetcat(usage(netcat, QStringLiteral("-h"))))
+            return netcatCommand(netcat);
     }
-    const QString ncat = at("/usr/bin/ncat");
-    if (isSocksNcat(usage(ncat, QStringLiteral("--help"))))
-        return ncat
+    if (isSocksNcat(usage(profile.ncat, QStringLiteral("--help"))))
+        return profile.ncat
             + QStringLiteral(" --proxy 127.0.0.1:9050 --proxy-type socks5 --proxy-dns remote"
                              " %h %p");
     return std::nullopt;

@@ -47,9 +47,7 @@ Result<void, TerminalError> makeFolder(const QString &path)
 
 TerminalNames namesFor(const PlatformProfile &profile, const QString &exitCheckAddress)
 {
-    const bool isMac = profile.name == u"macos";
-    return {isMac ? QStringLiteral("Veldmark.app") : QStringLiteral("Veldmark"),
-            profile.sessionMarker, exitCheckAddress, !isMac};
+    return {profile.terminalMaker, profile.sessionMarker, exitCheckAddress, profile.givesBackProxies};
 }
 
 } // namespace

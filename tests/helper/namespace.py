@@ -43,6 +43,7 @@ echo 'DisableNetwork 1' >/etc/tor/torrc-defaults
 echo 'nameserver 192.0.2.53' >/etc/resolv.conf
 echo 'alice:x:%(uid)s:%(uid)s::/home/alice:/bin/bash' >>/etc/passwd
 echo 'alice:x:%(uid)s:' >>/etc/group
+echo 'alice:*:19000:0:99999:7:::' >>/etc/shadow
 install -d -o %(uid)s -g %(uid)s -m 0700 /home/alice /run/user/%(uid)s
 mkdir -p /run/sudo
 """ % {"uid": USER_UID}
@@ -79,7 +80,8 @@ class Machine:
     def __init__(self):
         self.helper = helper_path()
         self.init = subprocess.Popen(
-            ["unshare", "--net", "--mount", "--propagation", "private", "--pid", "--fork", "--kill-child",
+            ["setpriv", "--pdeathsig", "KILL",   # ends with the test, however that ends
+             "unshare", "--net", "--mount", "--propagation", "private", "--pid", "--fork", "--kill-child",
              "/bin/bash", "-c", SETUP + 'exec /usr/bin/python3 -c "$1"', "setup", INIT],
             stdout=subprocess.PIPE,
         )
@@ -170,9 +172,9 @@ class Machine:
 
 
 class Peer:
-    """A second network namespace at the other end of the machine's only link. See probes.py for its addresses."""
+    """Another network namespace, at the other end of a link of the machine's: device `near` there, `far` here."""
 
-    def __init__(self, machine):
+    def __init__(self, machine, near="veth0", far="veth1"):
         self.init = subprocess.Popen(
             ["unshare", "--net", "/usr/bin/python3", "-c", INIT], stdout=subprocess.PIPE
         )
@@ -180,8 +182,8 @@ class Peer:
             raise RuntimeError("the peer could not be set up")
         self.init.stdout.close()
         subprocess.run(
-            ["nsenter", "--target", str(machine.pid), "--net", "ip", "link", "add", "veth0", "type", "veth",
-             "peer", "name", "veth1", "netns", str(self.init.pid)], check=True)
+            ["nsenter", "--target", str(machine.pid), "--net", "ip", "link", "add", near, "type", "veth",
+             "peer", "name", far, "netns", str(self.init.pid)], check=True)
 
     def command(self, words):
         return ["nsenter", "--target", str(self.init.pid), "--net", *words]

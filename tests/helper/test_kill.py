@@ -15,8 +15,16 @@ def connect_words(strict):
 
 
 class Kill(HelperTest):
+    """For a user with KDE, so that the way through the desktop's settings is there as well."""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.machine.run("/bin/bash", "-c", "mkdir /home/alice/.config; printf '[Proxy Settings]\nProxyType=4\n' >/home/alice/.config/kioslaverc",
+                        uid=namespace.USER_UID)
+
     def stepped(self, kill_at, words):
-        return self.machine.run("env", "-i", "/bin/bash", "-p", STEPPED, self.machine.helper, "/run/steps", str(kill_at),
+        return self.machine.run("env", "-i", f"PKEXEC_UID={namespace.USER_UID}", "/bin/bash", "-p", STEPPED, self.machine.helper, "/run/steps", str(kill_at),
                                 *words, check=False)
 
     def steps_of(self, words):

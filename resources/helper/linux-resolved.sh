@@ -1,0 +1,73 @@
+
+# ---- Linux: systemd-resolved -------------------------------------------------------------------------------
+# Where it serves the look-ups, each network link has servers of its own. The firewall redirects what is sent to them
+# all the same; here they are named as what they are, so that the settings that everybody reads are true.
+
+readonly RESOLVED_ENTRY=31-resolved
+readonly RESOLVED_SERVER=127.0.0.1
+readonly LINK_PATTERN='^Link [0-9]+ \(([A-Za-z0-9_.:@-]+)\): ([][A-Za-z0-9_.:%# -]+)$'
+
+has_resolved() {
+  [[ -d /run/systemd/resolve ]] && command -v resolvectl >/dev/null
+}
+
+ask_resolved() { timeout -k 1 5 resolvectl --no-pager "$@" </dev/null; }
+
+# print_links KIND: "KIND LINK VALUE..." for each link that has one; KIND is dns, dnsovertls or dnssec.
+print_links() {
+  local line
+  while IFS= read -r line; do
+    [[ ! $line =~ $LINK_PATTERN ]] || printf '%s %s %s\n' "$1" "${BASH_REMATCH[1]}" "${BASH_REMATCH[2]}"
+  done < <(ask_resolved "$1")
+}
+
+# put_resolved: status 1 when a link could not be switched.
+put_resolved() {
+  local line link kind links='' kept=() status=0
+  has_resolved || return 0
+  while read -r kind link line; do
+    [[ $line == "$RESOLVED_SERVER" ]] || links="$links $link "
+  done < <(print_links dns)
+  [[ -n $links ]] || return 0
+
+  # What an earlier connect noted stays, but for links that somebody has given other servers since.
+  journal_read "$RESOLVED_ENTRY" || JOURNAL_LINES=()
+  for line in ${JOURNAL_LINES[@]+"${JOURNAL_LINES[@]}"}; do
+    read -r kind link _ <<<"$line"
+    [[ $links == *" $link "* ]] || kept[${#kept[@]}]=$line
+  done
+  while IFS= read -r line; do
+    read -r kind link _ <<<"$line"
+    [[ $links != *" $link "* ]] || kept[${#kept[@]}]=$line
+  done < <(print_links dns; print_links dnsovertls; print_links dnssec)
+  journal_put "$RESOLVED_ENTRY" "${kept[@]}" || die "The journal cannot be written."
+
+  # Tor's port speaks neither TLS nor DNSSEC.
+  for link in $links; do
+    { ask_resolved dns "$link" "$RESOLVED_SERVER" && ask_resolved dnsovertls "$link" no &&
+      ask_resolved dnssec "$link" no; } >/dev/null || status=1
+  done
+  return "$status"
+}
+
+# undo_resolved: only links that still have our server; whatever else they have is newer than we are. The server goes
+# last, so that a run that was cut short finds it still.
+undo_resolved() {
+  local line kind link values ours=' ' status=0 pass
+  ((${#JOURNAL_LINES[@]})) && has_resolved || return 0
+  while read -r kind link line; do
+    [[ $line != "$RESOLVED_SERVER" ]] || ours="$ours$link "
+  done < <(print_links dns)
+  for pass in settings dns; do
+    for line in "${JOURNAL_LINES[@]}"; do
+      read -r kind link values <<<"$line"
+      [[ $ours == *" $link "* && " dns dnsovertls dnssec " == *" $kind "* ]] || continue
+      if [[ $kind == dns ]]; then [[ $pass == dns ]] || continue; else [[ $pass != dns ]] || continue; fi
+      # shellcheck disable=SC2086
+      ask_resolved "$kind" "$link" $values >/dev/null || status=1
+    done
+  done
+  ((status == 0)) && return 0
+  UNDONE="The network is open again, but the DNS servers of systemd-resolved could not be put back."
+  return 1
+}

@@ -1,0 +1,219 @@
+"""The rules as text, and real packets against real rules: what may reach the wire in each state, and that each probe is
+seen there when nothing blocks it."""
+
+import subprocess
+
+import namespace
+import probes
+from namespace import HelperTest, Peer, USER_UID
+
+PROBES_PY = namespace.os.path.join(namespace.HERE, "probes.py")
+ALL = set(probes.PROBES)
+
+# Seen when nothing blocks it, whatever the state.
+LINK = {"neighbour"}
+# Never seen with rules: a packet to the loopback address on the wire.
+NEVER = {"bound-loopback"}
+
+
+class Wire:
+    """The machine with a peer at the other end of its only link, and the listener there."""
+
+    def __init__(self, machine):
+        self.machine = machine
+        self.peer = Peer(machine)
+        self.marks = 2000
+        self.peer.run("/bin/bash", "-c", f"""
+            ip link set lo up; ip link set veth1 up
+            ip addr add {probes.LAN}/24 dev veth1; ip addr add {probes.LAN6}/64 dev veth1 nodad
+            for a in {probes.PUBLIC} {probes.SENTINEL} 203.0.113.53; do ip addr add $a/32 dev lo; done
+            ip addr add {probes.PUBLIC6}/128 dev lo
+        """)
+        machine.shell(f"""
+            ip link set veth0 up; ip addr add 192.168.77.2/24 dev veth0; ip addr add fd00:77::2/64 dev veth0 nodad
+            ip route add default via {probes.LAN}; ip -6 route add default via {probes.LAN6}
+        """)
+        self.listener = subprocess.Popen(
+            self.peer.command(["/usr/bin/python3", PROBES_PY, "listen"]), stdout=subprocess.PIPE, text=True)
+        assert self.listener.stdout.readline() == "ready\n"
+        self.server = subprocess.Popen(
+            self.peer.command(["/usr/bin/python3", "-c",
+                               "import socket; s = socket.create_server(('0.0.0.0', 1001), backlog=64); print('up', flush=True);\n"
+                               "kept = []\nwhile True: kept.append(s.accept())"]), stdout=subprocess.PIPE, text=True)
+        assert self.server.stdout.readline() == "up\n"
+
+    def close(self):
+        for process in self.listener, self.server:
+            process.kill()
+            process.wait()
+            process.stdout.close()
+        self.peer.close()
+
+    def mark(self):
+        """Sends what is let through in every state, a connection attempt of Tor's account, and returns the lines of
+        the listener up to its arrival: packets of one link keep their order."""
+        self.marks += 1
+        uid = self.machine.tor_uid
+        self.machine.run("/usr/bin/python3", "-c",
+                         f"import socket; s = socket.socket(); s.setblocking(False); s.connect_ex(('{probes.SENTINEL}', {self.marks}))",
+                         uid=int(uid))
+        lines = []
+        while True:
+            line = self.listener.stdout.readline().strip()
+            if line == f"sentinel {self.marks}":
+                return lines
+            lines.append(line)
+
+    def arrivals(self, uid=0):
+        self.mark()
+        self.machine.run("/usr/bin/python3", PROBES_PY, "send", uid=uid)
+        return set(self.mark()) - LINK
+
+
+class Firewall(HelperTest):
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.machine.tor_uid = cls.machine.shell("id -u _veldmark").strip()
+        cls.wire = Wire(cls.machine)
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.wire.close()
+        super().tearDownClass()
+
+    def tearDown(self):
+        self.machine.help("disconnect")
+
+    def test_control_every_probe_is_seen_when_nothing_blocks_it(self):
+        self.assertEqual(ALL - self.wire.arrivals(), set())
+
+    def test_strict_lets_nothing_out(self):
+        self.machine.connect(strict=1)
+        for uid in 0, USER_UID:
+            self.assertEqual(self.wire.arrivals(uid), set(), f"as {uid}")
+
+    def test_strict_with_the_local_network_lets_out_nothing_but_that(self):
+        self.machine.connect(strict=1, lan=1)
+        for uid in 0, USER_UID:
+            self.assertEqual(self.wire.arrivals(uid), {"lan-tcp", "lan-udp", "lan-udp6"}, f"as {uid}")
+
+    def test_strict_lets_tor_use_tcp_alone(self):
+        self.machine.connect(strict=1)
+        tcp = {name for name, (kind, _, _) in probes.PROBES.items() if kind == "tcp"}
+        self.assertEqual(self.wire.arrivals(int(self.machine.tor_uid)), tcp)
+
+    def test_strict_lets_tor_use_udp_for_snowflake(self):
+        self.machine.connect(strict=1, more=["--bridge", "snowflake 192.0.2.3:80", "--pt-snowflake", "/usr/bin/snowflake-client"])
+        self.assertLessEqual({"udp", "udp6", "tcp"}, self.wire.arrivals(int(self.machine.tor_uid)))
+        self.assertEqual(self.wire.arrivals(USER_UID), set())
+
+    def test_transports_may_ask_the_former_resolvers_and_no_others(self):
+        self.machine.shell(f"echo 'nameserver {probes.LAN}' >/etc/resolv.conf")
+        self.machine.connect(strict=1, more=["--bridge", "meek_lite 192.0.2.1:80 url=https://a.example/", "--pt-lyrebird", "/usr/bin/obfs4proxy"])
+        seen = self.wire.arrivals(int(self.machine.tor_uid))
+        self.assertIn("lan-dns", seen)
+        self.assertNotIn("dns", seen)
+        self.assertNotIn("udp", seen)
+
+    def test_proxy_mode_keeps_names_in(self):
+        self.machine.connect(strict=0)
+        names = {"dns", "dns6", "dns-tcp", "lan-dns", "lan-dns-tcp", "bound-dns"}
+        for uid in 0, USER_UID:
+            seen = self.wire.arrivals(uid)
+            self.assertEqual(seen & names, set())
+            self.assertLessEqual({"tcp", "udp", "lan-tcp"}, seen)
+            self.assertEqual(seen & NEVER, set())
+
+    def test_nothing_to_the_loopback_address_reaches_the_wire(self):
+        for strict in 0, 1:
+            self.machine.connect(strict=strict)
+            self.assertEqual([line for line in self.wire.arrivals() if "127.0.0" in line or line in NEVER], [])
+
+    def test_connections_from_before_do_not_go_on(self):
+        """Strict cuts both; proxy mode cuts the look-ups."""
+        for strict in 1, 0:
+            holder = self.machine.start("/usr/bin/python3", PROBES_PY, "hold", stdin=subprocess.PIPE,
+                                        stdout=subprocess.PIPE, text=True)
+            self.assertEqual(holder.stdout.readline(), "ready\n")
+            self.wire.mark()
+
+            def use():
+                holder.stdin.write("x\n")
+                holder.stdin.flush()
+                self.assertEqual(holder.stdout.readline(), "sent\n")
+                return set(self.wire.mark()) - LINK
+            self.assertEqual(use() & ALL, {"tcp", "dns"})   # and what the kernel sends by itself
+            self.machine.connect(strict=strict)
+            self.wire.mark()
+            self.assertEqual(use() & ALL if not strict else use(), set() if strict else {"tcp"})
+            holder.communicate()
+            self.machine.help("disconnect")
+
+    def test_look_ups_arrive_at_tors_port(self):
+        """Whatever server they are meant for; with a stand-in at the port, since this Tor keeps it closed."""
+        self.machine.connect(strict=1)
+        self.wire.mark()
+        stand_in = self.machine.start(
+            "/usr/bin/python3", "-c",
+            "import socket\ns = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.bind(('127.0.0.1', 9053)); print('up', flush=True)\n"
+            "while True:\n d, a = s.recvfrom(99); s.sendto(b'answer to ' + d, a)\n if d == b'end': break", stdout=subprocess.PIPE, text=True)
+        self.assertEqual(stand_in.stdout.readline(), "up\n")
+        ask = ("import socket, sys\nfor a in sys.argv[1:]:\n s = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.settimeout(10)\n"
+               " s.sendto(b'end' if a == 'end' else b'q', ('127.0.0.1' if a == 'end' else a, 53)); print(s.recvfrom(99)[0].decode())")
+        said = self.machine.run("/usr/bin/python3", "-c", ask, "127.0.0.1", "127.0.0.53", probes.PUBLIC, probes.LAN, "end", uid=USER_UID).stdout
+        self.assertEqual(said, "answer to q\n" * 4 + "answer to end\n")
+        stand_in.communicate()
+        self.assertEqual(set(self.wire.mark()) - LINK, set())
+
+    def control_port(self, uid):
+        return self.machine.run("/usr/bin/python3", "-c", "import socket; socket.create_connection(('127.0.0.1', 9051), 10)",
+                                uid=uid, check=False).returncode == 0
+
+    def test_control_port_is_the_sessions_users_alone(self):
+        for strict in 0, 1:
+            self.machine.connect(strict=strict, env={"PATH": "/usr/bin:/bin", "PKEXEC_UID": str(USER_UID)})
+            self.assertTrue(self.control_port(USER_UID))
+            self.assertTrue(self.control_port(0))
+            self.assertFalse(self.control_port(4243))
+
+    def test_other_tables_stay(self):
+        self.machine.shell("nft add table inet other; nft add chain inet other c")
+        before = self.machine.snapshot()
+        self.machine.connect()
+        self.assertIn("table inet other", self.machine.run("nft", "list", "ruleset").stdout)
+        self.machine.help("disconnect")
+        self.assertEqual(self.machine.snapshot(), before)
+        self.machine.shell("nft delete table inet other")
+
+    def test_forwarded_traffic_obeys_the_same_policy(self):
+        """As of a container, which has a link of its own and is routed through the machine."""
+        container = Peer(self.machine, "veth2", "veth3")
+        self.addCleanup(container.close)
+        container.run("/bin/bash", "-c", "ip link set veth3 up; ip addr add 10.9.0.2/24 dev veth3; ip route add default via 10.9.0.1")
+        self.machine.shell("ip link set veth2 up; ip addr add 10.9.0.1/24 dev veth2; sysctl -qw net.ipv4.ip_forward=1")
+
+        def forwarded():
+            self.wire.mark()
+            container.run("/usr/bin/python3", "-c", "import sys; sys.path.insert(0, sys.argv[1]); import probes\n"
+                          "for n in 'tcp', 'udp', 'dns', 'ping', 'lan-tcp', 'lan-udp', 'lan-dns', 'lan-dns-tcp', 'lan-mdns':\n"
+                          " probes.send_probe(*probes.PROBES[n])", namespace.HERE)
+
+            return set(self.wire.mark()) & ALL
+        self.assertEqual(forwarded(), {"tcp", "udp", "dns", "ping", "lan-tcp", "lan-udp", "lan-dns", "lan-dns-tcp", "lan-mdns"})
+        self.machine.connect(strict=1)
+        self.assertEqual(forwarded(), set())
+        self.machine.connect(strict=1, lan=1)
+        self.assertEqual(forwarded(), {"lan-tcp", "lan-udp"})
+
+    def test_nobody_gets_in(self):
+        """A probe from outside gets no answer in strict mode, and one in the control run."""
+        knock = ["/usr/bin/python3", "-c", "import socket; s = socket.socket(); s.settimeout(float(__import__('sys').argv[1]));"
+                 "print(s.connect_ex(('192.168.77.2', 1)))"]
+        self.assertEqual(self.wire.peer.run(*knock, "10").strip(), "111")
+        self.machine.connect(strict=1)
+        self.assertEqual(self.wire.peer.run(*knock, "0.5").strip(), "11")
+
+
+if __name__ == "__main__":
+    namespace.main()

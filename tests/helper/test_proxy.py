@@ -1,0 +1,163 @@
+"""The desktop's proxy settings: real GNOME settings on a real session bus, and KDE's file, as an unprivileged user."""
+
+import os
+
+import namespace
+from namespace import HelperTest, USER_UID
+
+SESSION = {"PATH": os.environ["PATH"], "PKEXEC_UID": str(USER_UID)}
+DESKTOP = {"PATH": os.environ["PATH"], "HOME": "/home/alice", "XDG_RUNTIME_DIR": f"/run/user/{USER_UID}",
+           "DBUS_SESSION_BUS_ADDRESS": f"unix:path=/run/user/{USER_UID}/bus"}
+KIOSLAVE = "/home/alice/.config/kioslaverc"
+
+
+class Desktop(HelperTest):
+    def as_user(self, script, **options):
+        return self.machine.run("/bin/bash", "-c", script, uid=USER_UID, env=DESKTOP, **options).stdout
+
+    def connect(self, strict=0, **options):
+        return self.machine.connect(strict=strict, env=SESSION, **options)
+
+    def disconnect(self, env=None):
+        return self.machine.help("disconnect", env=env)
+
+
+class Gnome(Desktop):
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.machine.run("dbus-daemon", "--session", f"--address=unix:path=/run/user/{USER_UID}/bus", "--fork",
+                        uid=USER_UID, env=DESKTOP)
+
+    def setUp(self):
+        self.as_user("dconf reset -f /system/proxy/")
+
+    def settings(self):
+        return self.as_user("gsettings list-recursively org.gnome.system.proxy | sort"), self.as_user("dconf dump /system/proxy/")
+
+    def test_is_set_and_goes_back_to_not_set(self):
+        before = self.settings()
+        self.assertEqual(before[1], "")
+        for strict in 0, 1:
+            self.connect(strict)
+            listed = self.settings()[0]
+            for line in ("proxy mode 'manual'", "socks host '127.0.0.1'", "socks port 9050", "http host ''"):
+                self.assertIn(line, listed)
+            self.disconnect()
+            self.assertEqual(self.settings(), before)
+
+    def test_former_values_come_back(self):
+        self.as_user("""gsettings set org.gnome.system.proxy mode auto; gsettings set org.gnome.system.proxy autoconfig-url "http://a/'b' c"
+            gsettings set org.gnome.system.proxy ignore-hosts "['a b', 'it\\'s', '*.corp']"
+            gsettings set org.gnome.system.proxy.http host 'proxy.corp'; gsettings set org.gnome.system.proxy.socks port 1""")
+        before = self.settings()
+        self.connect()
+        self.assertNotIn("proxy.corp", self.settings()[0])
+        self.assertNotIn("corp", self.as_user("gsettings get org.gnome.system.proxy ignore-hosts"))
+        self.connect(strict=1, lan=1)   # a second connect does not take our own values for the user's
+        self.assertIn("'192.168.0.0/16'", self.as_user("gsettings get org.gnome.system.proxy ignore-hosts"))
+        self.disconnect()
+        self.assertEqual(self.settings(), before)
+
+    def test_another_user_can_restore(self):
+        self.as_user("gsettings set org.gnome.system.proxy.socks host before")
+        before = self.settings()
+        self.connect()
+        self.disconnect(env={"PATH": os.environ["PATH"]})
+        self.assertEqual(self.settings(), before)
+
+    def test_root_has_no_desktop(self):
+        before = self.settings()
+        self.machine.connect(strict=0)
+        self.assertEqual(self.settings(), before)
+        self.disconnect()
+
+    def test_program_that_hangs_is_given_up(self):
+        """In proxy mode a proxy that cannot be set is a failure, and everything goes back."""
+        before = self.machine.snapshot()
+        self.machine.shell("mkdir /mnt/slow; printf '#!/bin/sh\\nexec sleep 1000\\n' >/mnt/slow/gsettings; chmod +x /mnt/slow/gsettings;"
+                           "mount --bind /mnt/slow/gsettings /usr/bin/gsettings")
+        try:
+            self.assertOneLine(self.connect(check=False), "proxy settings")
+        finally:
+            self.machine.shell("umount /usr/bin/gsettings; rm -r /mnt/slow")
+        self.assertEqual(self.machine.snapshot(), before)
+
+
+class GnomeWithoutSession(Desktop):
+    def test_restores_after_the_user_has_logged_out(self):
+        self.machine.run("dbus-daemon", "--session", f"--address=unix:path=/run/user/{USER_UID}/bus", "--fork",
+                         uid=USER_UID, env=DESKTOP)
+        self.as_user("gsettings set org.gnome.system.proxy.socks host before")
+        before = self.as_user("dconf dump /system/proxy/")
+        self.connect()
+        self.assertNotEqual(self.as_user("dconf dump /system/proxy/"), before)
+        self.machine.shell("pkill -u alice; while pgrep -u alice >/dev/null; do :; done; rm -rf /run/user/4242")
+        self.disconnect()
+        self.assertEqual(self.as_user("dconf dump /system/proxy/"), before)
+
+
+class Kde(Desktop):
+    FILES = {
+        "proxies of the user's": "[Proxy Settings]\nNoProxyFor=corp\nProxyType=2\nProxyType[$e]=2\nhttpProxy=http://proxy.corp 80\nother=kept\n\n[Other]\nProxyType=7\n",
+        "no such group": "[Other]\na=b",
+        "empty": "",
+        "no line end": "[Proxy Settings]\nProxyType=0",
+    }
+
+    def setUp(self):
+        self.as_user("rm -rf ~/.config; mkdir -p ~/.config")
+
+    def write(self, text):
+        self.machine.run("tee", KIOSLAVE, uid=USER_UID, stdin=text)
+
+    def test_set_and_restored_to_the_byte(self):
+        for name, text in self.FILES.items():
+            with self.subTest(name):
+                self.write(text)
+                self.as_user("chmod 0640 ~/.config/kioslaverc")
+                before = self.machine.snapshot()
+                self.connect()
+                now = self.machine.shell(f"cat {KIOSLAVE}")
+                self.assertIn("ProxyType=1\n", now)
+                self.assertIn("socksProxy=socks://127.0.0.1 9050\n", now)
+                self.assertNotIn("proxy.corp", now)
+                self.assertEqual("other=kept" in now, "other=kept" in text)
+                self.connect(strict=1, lan=1)
+                self.assertIn("192.168.0.0/16", self.machine.shell(f"cat {KIOSLAVE}"))
+                self.disconnect()
+                self.assertEqual(self.machine.snapshot(), before)
+
+    def test_file_that_did_not_exist_goes(self):
+        self.as_user("touch ~/.config/kdeglobals")
+        before = self.machine.snapshot()
+        self.connect()
+        self.assertIn("ProxyType=1\n", self.machine.shell(f"cat {KIOSLAVE}"))
+        self.disconnect()
+        self.assertEqual(self.machine.snapshot(), before)
+
+    def test_user_without_kde_gets_no_file(self):
+        self.connect()
+        self.assertEqual(self.machine.shell("ls -A /home/alice/.config"), "")
+        self.disconnect()
+
+    def test_what_the_user_changed_meanwhile_stays(self):
+        self.write(self.FILES["proxies of the user's"])
+        self.connect()
+        self.machine.shell(f"printf '[New]\\nc=d\\n' >>{KIOSLAVE}")
+        self.disconnect()
+        now = self.machine.shell(f"cat {KIOSLAVE}")
+        self.assertIn("[New]\nc=d\n", now)
+        for line in "NoProxyFor=corp", "ProxyType=2", "ProxyType[$e]=2", "httpProxy=http://proxy.corp 80", "other=kept":
+            self.assertIn(line + "\n", now)
+        self.assertNotIn("9050", now)
+
+    def test_link_of_the_users_is_not_followed_as_root(self):
+        self.machine.shell("mkdir -p /run/rootonly; echo '[Proxy Settings]' >/run/rootonly/file; chmod -R 0755 /run/rootonly")
+        self.as_user("ln -s /run/rootonly/file ~/.config/kioslaverc")
+        self.assertOneLine(self.connect(check=False), "proxy settings")
+        self.assertEqual(self.machine.shell("cat /run/rootonly/file; ls /run/rootonly"), "[Proxy Settings]\nfile\n")
+
+
+if __name__ == "__main__":
+    namespace.main()

@@ -1,0 +1,92 @@
+"""The real systemd-resolved, on a bus of the private machine. It is used from the system, or from an unpacked package:
+VELDMARK_RESOLVED names the folder (dpkg -x of Debian's systemd-resolved; never install it for this, it takes over the
+system's resolver)."""
+
+import os
+import subprocess
+import sys
+
+import namespace
+from namespace import HelperTest
+
+ROOT = os.environ.get("VELDMARK_RESOLVED", "/")
+DAEMON = os.path.join(ROOT, "lib/systemd/systemd-resolved")
+POLICY = os.path.join(ROOT, "usr/share/dbus-1/system.d/org.freedesktop.resolve1.conf")
+
+
+class Resolved(HelperTest):
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.machine.shell("""
+            mount -t overlay -o "lowerdir=$1/usr/bin:/usr/bin" private /usr/bin
+            grep -q ^systemd-resolve: /etc/passwd || { echo 'systemd-resolve:x:990:990::/:/usr/sbin/nologin' >>/etc/passwd; echo 'systemd-resolve:x:990:' >>/etc/group; }
+            mkdir -p /run/dbus /run/systemd/resolve /etc/dbus-1/system.d; chown systemd-resolve:systemd-resolve /run/systemd/resolve
+            cp "$2" /etc/dbus-1/system.d/; dbus-daemon --system --fork
+            for n in 0 1; do ip link add w$n type veth peer name p$n; ip link set w$n up; ip link set p$n up; ip addr add 192.0.2.1$n/24 dev w$n; done
+        """, ROOT.rstrip("/") or "", POLICY)
+        cls.daemon = cls.machine.start(DAEMON, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        cls.machine.shell("until resolvectl dns >/dev/null 2>&1; do :; done; ln -sf /run/systemd/resolve/stub-resolv.conf /etc/resolv.conf;"
+                          "until [ -s /etc/resolv.conf ]; do :; done")
+
+    @classmethod
+    def tearDownClass(cls):
+        super().tearDownClass()
+        cls.daemon.wait()
+
+    def setUp(self):
+        self.machine.shell("resolvectl dns w0 192.0.2.53 2001:db8::53 192.0.2.54:5353#dns.example; resolvectl domain w0 corp.example '~lan.example';"
+                           "resolvectl dnsovertls w0 opportunistic; resolvectl dns w1 ''")
+
+    def settings(self):
+        return self.machine.shell("for k in dns domain default-route dnsovertls dnssec; do echo $k; resolvectl $k; done")
+
+    def test_links_are_switched_and_come_back(self):
+        before = self.settings(), self.machine.snapshot()
+        for strict in 0, 1:
+            self.machine.connect(strict=strict)
+            self.assertRegex(self.machine.shell("resolvectl dns w0"), r": 127\.0\.0\.1\n")
+            self.assertRegex(self.machine.shell("resolvectl dnsovertls w0"), r": no\n")
+            self.assertIn("nameserver 127.0.0.1\n", self.machine.shell("cat /etc/resolv.conf"))
+            self.machine.connect(strict=strict)
+            self.machine.help("disconnect")
+            self.assertEqual((self.settings(), self.machine.snapshot()), before)
+
+    def test_servers_that_a_link_got_meanwhile_stay_and_are_switched_by_fix_dns(self):
+        self.machine.connect()
+        self.machine.shell("resolvectl dns w0 192.0.2.99; resolvectl dns w1 192.0.2.98")
+        self.machine.help("fix-dns")
+        for link in "w0", "w1":
+            self.assertRegex(self.machine.shell(f"resolvectl dns {link}"), r": 127\.0\.0\.1\n")
+        self.machine.help("disconnect")
+        self.assertIn(": 192.0.2.99\n", self.machine.shell("resolvectl dns w0"))
+        self.assertIn(": 192.0.2.98\n", self.machine.shell("resolvectl dns w1"))
+
+    def test_link_that_is_gone_does_not_matter(self):
+        self.machine.shell("ip link add gone type veth peer name gone2; ip link set gone up; resolvectl dns gone 192.0.2.97")
+        before = self.settings().replace("gone", "")
+        self.machine.connect()
+        self.machine.shell("ip link del gone")
+        self.machine.help("disconnect")
+        self.assertIn("192.0.2.53", self.settings())
+        self.assertIn("192.0.2.97", before)
+
+    def test_look_ups_of_links_come_to_tors_port(self):
+        self.machine.connect()
+        stand_in = self.machine.start("/usr/bin/python3", "-c",
+            "import socket\ns = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.bind(('127.0.0.1', 9053)); print('up', flush=True)\n"
+            "print(s.recvfrom(999)[0])", stdout=subprocess.PIPE, text=True)
+        self.assertEqual(stand_in.stdout.readline(), "up\n")
+        query = self.machine.start("resolvectl", "query", "probe.example.org", stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.assertIn("probe", stand_in.communicate()[0])
+        self.machine.shell("pkill -x resolvectl || true")
+        query.wait()
+        self.machine.help("disconnect")
+
+
+if __name__ == "__main__":
+    namespace.require_namespaces()
+    if not (os.path.exists(DAEMON) and os.path.exists(POLICY)):
+        print("systemd-resolved is not here: unpack its package and name the folder in VELDMARK_RESOLVED.")
+        sys.exit(77)
+    namespace.main()

@@ -1,0 +1,140 @@
+"""The generated texts: functions of the helper that print and touch nothing."""
+
+import subprocess
+import unittest
+
+import namespace
+from namespace import HASH
+
+HELPER = namespace.helper_path()
+
+
+def call(script):
+    """Runs shell code with the helper's functions; needs no rights."""
+    done = subprocess.run(["/bin/bash", "-p", "-c", f". {HELPER}; {script}"], capture_output=True, text=True, check=True)
+    return done.stdout
+
+
+class Torrc(unittest.TestCase):
+    maxDiff = None
+    HEAD = f"""# Written by Veldmark at each connect; changes here are lost.
+DataDirectory /var/lib/veldmark/run/data
+Log notice file /var/lib/veldmark/run/notices.log
+SocksPort 127.0.0.1:9050
+ControlPort 127.0.0.1:9051
+HashedControlPassword {HASH}
+CookieAuthentication 0
+DNSPort 127.0.0.1:9053
+"""
+
+    def test_plain(self):
+        self.assertEqual(call(f"OPT_HASH={HASH}; print_torrc 0"),
+                         self.HEAD + "ClientOnly 1\nAvoidDiskWrites 1\nNoExec 1\n")
+
+    def test_everything(self):
+        self.assertEqual(
+            call(f"OPT_HASH={HASH} OPT_EXIT=de OPT_LYREBIRD=/usr/bin/lyrebird OPT_SNOWFLAKE=/usr/bin/snowflake-client;"
+                 "OPT_BRIDGES=('192.0.2.1:1' 'obfs4 192.0.2.2:2 cert=a' 'webtunnel 192.0.2.3:3' 'snowflake [2001:db8::4]:4'"
+                 " 'obfs4 192.0.2.5:5'); choose_transports; print_torrc 1"),
+            self.HEAD + """DNSPort [::1]:9053
+ClientOnly 1
+AvoidDiskWrites 1
+ExitNodes {de}
+StrictNodes 1
+UseBridges 1
+Bridge 192.0.2.1:1
+Bridge obfs4 192.0.2.2:2 cert=a
+Bridge webtunnel 192.0.2.3:3
+Bridge snowflake [2001:db8::4]:4
+Bridge obfs4 192.0.2.5:5
+ClientTransportPlugin obfs4,webtunnel exec /usr/bin/lyrebird
+ClientTransportPlugin snowflake exec /usr/bin/snowflake-client
+""")
+
+    def test_webtunnel_client_serves_webtunnel_when_given(self):
+        text = call("OPT_LYREBIRD=/l OPT_WEBTUNNEL=/w; OPT_BRIDGES=('webtunnel 192.0.2.3:3'); choose_transports; print_torrc 0")
+        self.assertIn("\nClientTransportPlugin webtunnel exec /w\n", text)
+        self.assertNotIn("/l\n", text)
+
+
+class Rules(unittest.TestCase):
+    def test_strict_options_add_exactly_their_lines(self):
+        def lines(arguments):
+            return set(call(f"print_strict_rules 99 1000 {arguments}").splitlines())
+        plain = lines("0 0 '' ''")
+        self.assertEqual(lines("0 1 '' ''") - plain, {"\t\tmeta skuid 99 meta l4proto udp accept"})
+        self.assertEqual(lines("0 0 192.0.2.1 2001:db8::1") - plain,
+                         {"\t\tmeta skuid 99 ip daddr { 192.0.2.1 } udp dport 53 accept",
+                          "\t\tmeta skuid 99 ip6 daddr { 2001:db8::1 } udp dport 53 accept"})
+        opened = lines("1 0 '' ''") - plain
+        self.assertIn("\t\tip daddr { 10.0.0.0/8, 172.16.0.0/12, 192.168.0.0/16, 169.254.0.0/16 } accept", opened)
+
+    def test_refusals_come_before_the_local_network(self):
+        text = call("print_strict_rules 99 1000 1 0 '' ''")
+        self.assertLess(text.index("udp dport { 53,"), text.index("ip daddr { 10.0.0.0/8"))
+        self.assertLess(text.index("tcp dport { 53,"), text.index("ip daddr { 10.0.0.0/8"))
+
+    def test_one_transaction_replaces_the_table(self):
+        for rules in call("print_strict_rules 99 0 0 0 '' ''"), call("print_proxy_rules 99 0"):
+            self.assertTrue(rules.startswith("table inet veldmark\ndelete table inet veldmark\ntable inet veldmark {\n"))
+            self.assertNotIn("flush", rules)
+            self.assertNotIn("skuid !=", rules)
+            self.assertNotIn("{ 0, 99, 0 }", rules)
+
+
+class Resolver(unittest.TestCase):
+    SERVERS4 = {"192.0.2.1": "192.0.2.1", "127.0.0.53": "", "256.0.0.1": "", "1.2.3": "", "1.2.3.4.5": "", "a.b.c.d": "",
+                "010.2.3.4": "010.2.3.4", "1.2.3.4}": "", "0.0.0.0": ""}
+    SERVERS6 = {"2001:db8::1": "2001:db8::1", "::1": "", "fe80::1%eth0": "fe80::1", "1:2:3:4:5:6:7:8": "1:2:3:4:5:6:7:8",
+                "1:2:3:4:5:6:7": "", "1::2::3": "", ":::1": "", "12345::1": "", "g::1": "", "1:2:3:4:5:6:7:8:9": "", ":1::2": "",
+                "::": "", "::ffff:1.2.3.4": "", "1::": "1::"}
+
+    def test_servers_that_the_rules_can_hold(self):
+        for family, table in ("4", self.SERVERS4), ("6", self.SERVERS6):
+            for server, wanted in table.items():
+                with self.subTest(server):
+                    self.assertEqual(call(f"list_servers {family} 'nameserver {server}'"), wanted)
+
+    def test_other_lines_are_passed_over(self):
+        text = "# nameserver 192.0.2.1\nsearch x\nnameserver 192.0.2.2 more\n\tnameserver 192.0.2.3\nnameserver 192.0.2.2\nnameserver"
+        self.assertEqual(call(f"list_servers 4 '{text}'"), "192.0.2.2, 192.0.2.3")
+
+    def test_ipv6_only_where_tor_listens(self):
+        self.assertNotIn("::1", call("print_resolver 0"))
+        self.assertIn("nameserver ::1\n", call("print_resolver 1"))
+
+
+class Reasons(unittest.TestCase):
+    CASES = {
+        "Nov 20 00:00:00.000 [warn] Failed to parse/validate config: Bad port\nNov 20 00:00:00.000 [err] Reading config failed--see warnings above.":
+            "Failed to parse/validate config: Bad port",
+        "Nov 20 00:00:00.000 [warn] first\nNov 20 00:00:00.000 [err] second\nNov 20 00:00:00.000 [notice] third": "second",
+        "cannot execute binary file": "cannot execute binary file",
+        "": "",
+    }
+
+    def test_tors_own_reason(self):
+        for text, wanted in self.CASES.items():
+            self.assertEqual(call(f"tor_reason '{text}'"), wanted)
+
+    def test_is_short_and_without_controls(self):
+        self.assertEqual(call("tor_reason \"[warn] $(printf 'a%.0s' {1..999})\""), "a" * 300)
+        self.assertEqual(call("tor_reason $'[warn] a\\x1b[2Jb'"), "a[2Jb")
+
+
+class Joined(unittest.TestCase):
+    def test_same_parts_same_bytes(self):
+        self.assertEqual(open(HELPER, "rb").read(), open(namespace.helper_path(), "rb").read())
+
+    def test_starts_privileged_and_is_executable(self):
+        with open(HELPER, encoding="utf-8") as file:
+            self.assertEqual(file.readline(), "#!/bin/bash -p\n")
+        self.assertEqual(namespace.os.stat(HELPER).st_mode & 0o777, 0o755)
+
+    def test_shellcheck(self):
+        done = subprocess.run(["shellcheck", "-s", "bash", HELPER], capture_output=True, text=True, check=False)
+        self.assertEqual(done.stdout, "")
+
+
+if __name__ == "__main__":
+    unittest.main()
