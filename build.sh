@@ -26,7 +26,8 @@ packages=(
     g++ cmake ninja-build ccache pkg-config git
     qt6-base-dev qt6-declarative-dev libgl-dev qcoro-qt6-dev libexpected-dev
     tor tor-geoipdb obfs4proxy nftables iproute2 util-linux sudo pkexec polkitd procps
-    python3 openssl ca-certificates curl tcpdump shellcheck unzip netcat-openbsd zsh dash
+    snowflake-client gnupg passwd
+    python3 openssl ca-certificates curl tcpdump shellcheck unzip netcat-openbsd openssh-client iputils-ping zsh dash
     libglib2.0-bin dconf-cli dconf-gsettings-backend gsettings-desktop-schemas dbus
     python3-stem
 )
@@ -78,6 +79,23 @@ deps() {
     install_packages "${missing[@]}"
 }
 
+# The tests run the real systemd-resolved in a namespace. Installing its package would take over
+# this machine's resolver, so it is only unpacked.
+unpack_resolved() {
+    local target=build/resolved folder
+    [[ ! -x $target/lib/systemd/systemd-resolved ]] || return 0
+    folder=$(mktemp -d)
+    if (cd "$folder" && { apt-get download systemd-resolved || { apt-get update && apt-get download systemd-resolved; }; } &&
+        dpkg -x systemd-resolved_*.deb unpacked) >"$folder/log" 2>&1; then
+        rm -rf "$target"
+        mkdir -p build
+        mv "$folder/unpacked" "$target"
+    else
+        printf 'build.sh: systemd-resolved could not be fetched; its tests will be skipped.\n' >&2
+    fi
+    rm -rf "$folder"
+}
+
 # Compiles one preset; a failure shows the first error lines, not the whole log.
 compile() {
     local preset=$1 log
@@ -115,6 +133,7 @@ demo)
     ;;
 test)
     build
+    unpack_resolved
     mkdir -p build/test
     ctest --preset dev --parallel 2 --output-junit ../test/junit.xml "$@"
     ;;

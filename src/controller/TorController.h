@@ -1,8 +1,8 @@
 #pragma once
 
 #include "bridges/BridgeChoice.h"
+#include "bridges/BridgePlan.h"
 #include "bridges/PluggableTransports.h"
-#include "bridges/SpeedTest.h"
 #include "checks/DNSStatus.h"
 #include "checks/LeakStatus.h"
 #include "circuits/CircuitTable.h"
@@ -90,7 +90,9 @@ public:
     Published<double> bootstrapProgress; // 0…1
     Published<QString> statusDetail;     // the line under the title
     Published<bool> canCancel;           // a connect attempt may be ended by disconnect()
-    Published<std::optional<QString>> errorMessage; // the banner; absent = none
+    // The banner; absent = none. An operation that may set it takes back what stood there before,
+    // except a restore that did not happen: then the reason for restoring is still true.
+    Published<std::optional<QString>> errorMessage;
     Published<quint64> bytesRead;        // since Tor started
     Published<quint64> bytesWritten;
 
@@ -128,7 +130,8 @@ public:
     // --- Operations: session. ---
     // From `disconnected` or `stale` to `connected`; in any other phase does nothing.
     QCoro::Task<void> connect();
-    // Restores the network. Accepted when connected, stale, or connecting with `canCancel`.
+    // Restores the network. Accepted when connected, stale, or connecting with `canCancel`. When
+    // the helper fails, a session that was up is so again as long as the marker says so too.
     QCoro::Task<void> disconnect();
     // At start-up, before anything shows state: finds a session left from an earlier run.
     void detectStaleState();
@@ -156,7 +159,7 @@ public:
     QCoro::Task<void> updatePrivilegedHelper();
     QCoro::Task<void> installPasswordless();
     QCoro::Task<void> removePasswordless();
-    void setTerminalMode(bool on);
+    std::optional<QString> setTerminalMode(bool on); // as Setting::set()
     void removeTerminalIntegration();
 
     // Reads the value of Tor's "status/bootstrap-phase".
@@ -208,12 +211,18 @@ private:
     // Connect.cpp
     QCoro::Task<Result<QString, QString>> hashPassword(QString password, QString tor);
     QCoro::Task<Result<void, QString>> waitForBootstrap(Attempt attempt);
-    QCoro::Task<Result<QStringList, QString>> bridgeArguments(Attempt attempt);
+    QCoro::Task<Result<QStringList, QString>> bridgeArguments(Attempt attempt, BridgeRequest request);
     // Makes every operation that is still under way an old one and clears what it left shown.
     Attempt startAttempt();
     bool isCurrent(Attempt attempt) const { return attempt == m_attempt; }
     void resetSessionInfo();
+    // Empties what is known about circuits: the next Tor counts its circuits from 1 again.
+    void forgetCircuits();
+    // Everything of the session goes, and the phase becomes `disconnected`.
+    void endSession();
     void settleAfterFailure();
+    // The mode that the session marker names; absent when it names none, or is not there.
+    std::optional<RoutingMode> markedMode() const;
     QString connectedDetail() const;
     void failAttempt(const QString &message);
     // Monitoring.cpp
@@ -227,10 +236,15 @@ private:
     };
     QCoro::Task<TimedProbe> timedViaTor();
     // Circuits.cpp
-    QCoro::Task<std::vector<RelayInfo>> resolveRelays(std::vector<RelayInfo> relays, QString password);
-    // State.cpp
+    QCoro::Task<std::vector<RelayInfo>> resolveRelays(std::vector<RelayInfo> relays, Attempt attempt);
+    // Terminal.cpp
     void applyTerminalMode();
+    // TorController.cpp
     void loadSettings();
+    template <typename T>
+    friend class Setting;
+    // Shows a problem with saving as the banner.
+    void showProblem(const QString &problem) { errorMessage = problem; }
 
     Services m_services;
     Attempt m_attempt = 0;  // the running connect or disconnect; older ones end silently
