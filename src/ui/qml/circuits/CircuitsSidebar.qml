@@ -43,6 +43,7 @@ Rectangle {
                 text: title
                 hoverEnabled: true
                 focusPolicy: Qt.StrongFocus
+                Accessible.name: title
                 Accessible.description: detail
                 onClicked: sidebar.model.follow(isFollowed ? "" : circuitId)
                 contentItem: Item {

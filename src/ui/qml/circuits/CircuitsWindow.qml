@@ -68,6 +68,7 @@ Window {
                 Layout.fillHeight: true
                 CircuitGraphView {
                     id: graph
+                    objectName: "graph"
                     anchors.fill: parent
                     visible: window.model.connected && !window.model.empty
                     model: window.model
@@ -84,16 +85,16 @@ Window {
                         visible: words.text !== ""
                         x: Math.max(8, Math.min(graph.width - width - 8, graph.hoveredAt.x - width / 2))
                         y: graph.hoveredAt.y > height + 40 ? graph.hoveredAt.y - height - 26 : graph.hoveredAt.y + 44
-                        width: Math.min(words.implicitWidth, 260) + 20
+                        width: words.width + 20
                         height: words.height + 14
                         radius: Theme.smallRadius
                         color: Theme.raised
                         border.color: Theme.edge
-                        Words {
+                        FittedText {
                             id: words
                             x: 10
                             y: 7
-                            width: Math.min(implicitWidth, 260)
+                            maximumWidth: 260
                             text: graph.hoveredHelp
                             font.pixelSize: Theme.smallSize
                         }

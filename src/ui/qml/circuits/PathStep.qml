@@ -14,7 +14,7 @@ RowLayout {
 
     spacing: 12
     Accessible.role: Accessible.ListItem
-    Accessible.name: [role, title, detail].filter(s => s !== "").join(", ")
+    Accessible.name: (role !== "" ? role + ", " : "") + title + ", " + detail
 
     Item {
         Layout.fillHeight: true

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Layouts
 import Veldmark
 
 // What must be read first: a sentence and the one next step.
@@ -12,55 +11,50 @@ Rectangle {
     default property alias actions: actions.data
     signal closed()
 
-    implicitHeight: row.implicitHeight + 24
+    implicitHeight: column.height + 24
     radius: Theme.radius
     color: Theme.toneGround(tone)
     Accessible.role: Accessible.AlertMessage
     Accessible.name: text
 
-    RowLayout {
-        id: row
-        anchors { fill: parent; margins: 12 }
-        spacing: 10
-        Symbol {
-            Layout.alignment: Qt.AlignTop
-            Layout.topMargin: 2
-            name: banner.symbol
-            size: 18
-            color: Theme.tone(banner.tone)
-        }
-        ColumnLayout {
-            Layout.fillWidth: true
-            spacing: 8
-            TextEdit {
-                Layout.fillWidth: true
-                text: banner.text
-                readOnly: true
-                selectByMouse: true
-                activeFocusOnTab: false
-                wrapMode: Text.Wrap
-                font.pixelSize: Theme.bodySize
-                color: Theme.text
-                selectionColor: Theme.accent
-                selectedTextColor: Theme.onTone
-                Accessible.ignored: true
-            }
-            Flow {
-                id: actions
-                Layout.fillWidth: true
-                spacing: 8
-                visible: children.length > 0
-            }
-        }
-        IconButton {
-            Layout.alignment: Qt.AlignTop
-            Layout.topMargin: -6
-            Layout.rightMargin: -6
-            visible: banner.closable
-            symbol: "xmark"
-            text: qsTr("Close")
+    Symbol {
+        x: 12
+        y: 14
+        name: banner.symbol
+        size: 18
+        color: Theme.tone(banner.tone)
+    }
+    Column {
+        id: column
+        x: 40
+        y: 12
+        width: banner.width - x - (banner.closable ? 46 : 12)
+        spacing: 8
+        TextEdit {
+            width: parent.width
+            text: banner.text
+            readOnly: true
+            selectByMouse: true
+            activeFocusOnTab: false
+            wrapMode: Text.Wrap
+            font.pixelSize: Theme.bodySize
             color: Theme.text
-            onClicked: banner.closed()
+            selectionColor: Theme.accent
+            selectedTextColor: Theme.onTone
+            Accessible.ignored: true
         }
+        Flow {
+            id: actions
+            width: parent.width
+            spacing: 8
+        }
+    }
+    IconButton {
+        anchors { right: parent.right; top: parent.top; margins: 6 }
+        visible: banner.closable
+        symbol: "xmark"
+        text: qsTr("Close")
+        color: Theme.text
+        onClicked: banner.closed()
     }
 }

@@ -28,13 +28,12 @@ Rectangle {
             size: 13
             color: chip.color_
         }
-        Text {
+        FittedText {
             id: label
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, chip.maximumWidth - 40)
+            maximumWidth: chip.maximumWidth - 40
             text: chip.text
             font.pixelSize: Theme.smallSize
-            wrapMode: Text.Wrap
             color: chip.color_
         }
     }

@@ -3,12 +3,12 @@ import QtQuick.Layouts
 import Veldmark
 
 // A title with a choice beside it, and a note below both.
-ColumnLayout {
+Column {
     id: row
     required property string title
     required property string symbol
     required property string note
-    required property var names
+    required property var names // list of strings
     required property int current
     property color noteColor: Theme.quiet
     signal chosen(int index)
@@ -17,6 +17,7 @@ ColumnLayout {
     spacing: 2
 
     SettingRow {
+        width: row.width
         title: row.title
         symbol: row.symbol
         Choice {
@@ -27,8 +28,8 @@ ColumnLayout {
         }
     }
     Words {
-        Layout.fillWidth: true
-        Layout.leftMargin: 30
+        x: 30
+        width: row.width - 30
         text: row.note
         font.pixelSize: Theme.smallSize
         color: row.noteColor

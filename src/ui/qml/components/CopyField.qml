@@ -21,7 +21,7 @@ Rectangle {
             text: field.text
             readOnly: true
             selectByMouse: true
-            wrapMode: Text.WrapAnywhere
+            wrapMode: Text.WrapAtWordBoundaryOrAnywhere
             font.pixelSize: 13
             font.family: Theme.monospaced
             color: Theme.text

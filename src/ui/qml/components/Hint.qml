@@ -19,13 +19,16 @@ Item {
             delay: 500
             visible: true
             closePolicy: T.Popup.NoAutoClose
-            contentItem: Words {
-                text: hint.text
-                font.pixelSize: Theme.smallSize
-                width: Math.min(implicitWidth, 280)
+            contentItem: Item {
+                FittedText {
+                    id: words
+                    text: hint.text
+                    font.pixelSize: Theme.smallSize
+                    maximumWidth: 280
+                }
             }
-            implicitWidth: Math.min(contentItem.implicitWidth, 280) + 16
-            implicitHeight: contentItem.implicitHeight + 16
+            implicitWidth: words.width + 16
+            implicitHeight: words.height + 16
             background: Rectangle {
                 color: Theme.raised
                 radius: Theme.smallRadius

@@ -12,6 +12,7 @@ T.Button {
     implicitHeight: 28
     implicitWidth: row.implicitWidth + 12
     hoverEnabled: true
+    Accessible.name: text
     Accessible.description: help
 
     contentItem: Item {

@@ -16,7 +16,8 @@ T.Button {
     Layout.fillWidth: true
     implicitHeight: Math.max(36, row.implicitHeight + 8)
     hoverEnabled: true
-    Accessible.description: [subtitle, value].filter(s => s !== "").join(". ")
+    Accessible.name: text
+    Accessible.description: subtitle + (subtitle !== "" && value !== "" ? ". " : "") + value
 
     contentItem: Item {
         implicitHeight: row.implicitHeight

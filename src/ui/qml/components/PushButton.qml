@@ -11,16 +11,19 @@ T.Button {
     property color tone: Theme.accent
     property int symbolSize: 16
 
-    implicitHeight: Math.max(Theme.control, label.implicitHeight + 12)
-    implicitWidth: label.implicitWidth + leftPadding + rightPadding + (symbol === "" ? 0 : symbolSize + 6)
+    property int maximumWidth: 300
+
+    implicitHeight: Math.max(Theme.control, label.height + 12)
+    implicitWidth: row.width + leftPadding + rightPadding
     leftPadding: 12
     rightPadding: 12
     hoverEnabled: true
+    Accessible.name: text
     Accessible.description: help
 
     contentItem: Item {
-        implicitWidth: button.implicitWidth
         Row {
+            id: row
             anchors.centerIn: parent
             spacing: 6
             opacity: button.enabled ? 1 : 0.5
@@ -31,15 +34,14 @@ T.Button {
                 size: button.symbolSize
                 color: label.color
             }
-            Text {
+            FittedText {
                 id: label
                 anchors.verticalCenter: parent.verticalCenter
-                width: Math.min(implicitWidth, button.availableWidth - (button.symbol === "" ? 0 : button.symbolSize + 6))
+                maximumWidth: button.maximumWidth - 24 - (button.symbol === "" ? 0 : button.symbolSize + 6)
                 text: button.text
                 font.pixelSize: Theme.bodySize
                 font.weight: button.primary ? Font.DemiBold : Font.Normal
                 color: button.primary ? Theme.onTone : Theme.text
-                wrapMode: Text.Wrap
                 horizontalAlignment: Text.AlignHCenter
             }
         }

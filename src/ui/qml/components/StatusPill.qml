@@ -26,10 +26,10 @@ Rectangle {
             size: 13
             color: label.color
         }
-        Text {
+        FittedText {
             id: label
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, 190)
+            maximumWidth: 180
             text: pill.text
             font.pixelSize: Theme.smallSize
             font.weight: Font.DemiBold

@@ -13,6 +13,7 @@ T.Switch {
     implicitHeight: 24
     hoverEnabled: true
     checked: on
+    Accessible.name: text
     Accessible.description: help
     onToggled: {
         const want = checked

@@ -10,7 +10,8 @@ Image {
 
     width: size
     height: size
-    sourceSize: Qt.size(size * Screen.devicePixelRatio, size * Screen.devicePixelRatio)
+    sourceSize.width: Math.round(size * Screen.devicePixelRatio)
+    sourceSize.height: Math.round(size * Screen.devicePixelRatio)
     source: name === "" ? "" : "image://symbol/" + name + "/" + color
     Accessible.ignored: true
 }

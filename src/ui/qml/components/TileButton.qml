@@ -11,6 +11,7 @@ T.Button {
     implicitWidth: 104
     implicitHeight: Math.max(60, label.implicitHeight + 42)
     hoverEnabled: true
+    Accessible.name: text
     Accessible.description: help
 
     contentItem: Item {

@@ -15,6 +15,7 @@ T.Button {
     hoverEnabled: true
     checkable: true
     checked: on
+    Accessible.name: text
     Accessible.description: help
     onToggled: {
         const want = checked

@@ -24,9 +24,9 @@ ListView {
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Tor Log")
 
-    onCountChanged: if (follow) Qt.callLater(positionViewAtEnd)
+    onCountChanged: if (follow) positionViewAtEnd()
     onFollowChanged: if (follow) positionViewAtEnd()
-    onHeightChanged: if (follow) Qt.callLater(positionViewAtEnd)
+    onHeightChanged: if (follow) positionViewAtEnd()
 
     function scrollBy(distance: double) {
         contentY = Math.max(originY, Math.min(originY + contentHeight - height, contentY + distance))

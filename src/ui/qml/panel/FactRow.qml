@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Layouts
 import QtQuick.Templates as T
 import Veldmark
 
@@ -12,20 +11,30 @@ T.Control {
     property string help
     default property alias value: side.data
 
-    implicitHeight: Math.max(26, row.implicitHeight)
+    implicitHeight: Math.max(26, side.height)
     hoverEnabled: help !== ""
     focusPolicy: help !== "" ? Qt.TabFocus : Qt.NoFocus
     Accessible.role: Accessible.Grouping
     Accessible.name: title
     Accessible.description: help
 
-    contentItem: RowLayout {
-        id: row
-        spacing: 10
-        Symbol { name: fact.symbol; color: fact.symbolColor }
-        Words { text: fact.title; color: Theme.quiet }
-        Item { Layout.fillWidth: true }
-        Side { id: side }
+    contentItem: Item {
+        Symbol {
+            anchors.verticalCenter: parent.verticalCenter
+            name: fact.symbol
+            color: fact.symbolColor
+        }
+        Words {
+            x: 26
+            width: Math.max(40, parent.width - side.width - 34)
+            anchors.verticalCenter: parent.verticalCenter
+            text: fact.title
+            color: Theme.quiet
+        }
+        Side {
+            id: side
+            anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+        }
     }
     background: Item { FocusRing { shown: fact.visualFocus } }
     Hint { control: fact; text: fact.help }

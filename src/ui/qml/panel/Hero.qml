@@ -44,14 +44,15 @@ Rectangle {
                     size: 24
                     color: headline.color
                 }
-                Words {
+                FittedText {
                     id: headline
-                    width: Math.min(implicitWidth, hero.width - 80)
+                    maximumWidth: hero.width - 80
                     text: hero.model.title
                     font.pixelSize: Theme.titleSize
                     font.weight: Font.DemiBold
                     color: hero.model.tone === PanelModel.Neutral ? Theme.text : Theme.tone(hero.model.tone)
                     Accessible.role: Accessible.Heading
+                    Accessible.name: text
                 }
             }
         }

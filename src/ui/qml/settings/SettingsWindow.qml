@@ -56,6 +56,7 @@ Window {
                         checked: window.pane === index
                         hoverEnabled: true
                         Accessible.role: Accessible.PageTab
+                        Accessible.name: text
                         onClicked: window.pane = index
                         Keys.onUpPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
                         Keys.onDownPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
