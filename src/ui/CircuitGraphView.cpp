@@ -213,7 +213,7 @@ void CircuitGraphView::drawEdges(QPainter &painter, bool followed) const
     }
 }
 
-void CircuitGraphView::drawNode(QPainter &painter, const CircuitGraph::Node &node) const
+void CircuitGraphView::drawNode(QPainter &painter, const CircuitGraph::Node &node)
 {
     using Kind = CircuitGraph::Kind;
     const QPointF center = m_positions.value(node.id);
@@ -226,8 +226,11 @@ void CircuitGraphView::drawNode(QPainter &painter, const CircuitGraph::Node &nod
 
     const auto symbol = [&](const QString &name, double size) {
         const double ratio = window() ? window()->effectiveDevicePixelRatio() : 1.0;
-        painter.drawImage(QRectF(center.x() - size / 2, center.y() - size / 2, size, size),
-                          Symbols::image(name, static_cast<int>(size * ratio), m_ink));
+        const int pixels = static_cast<int>(size * ratio);
+        const QString key = name + QString::number(pixels) + m_ink.name();
+        if (!m_symbols.contains(key))
+            m_symbols.insert(key, Symbols::image(name, pixels, m_ink));
+        painter.drawImage(QRectF(center.x() - size / 2, center.y() - size / 2, size, size), m_symbols[key]);
     };
     if (node.kind == Kind::mac) {
         symbol(QStringLiteral("laptopcomputer"), 20);

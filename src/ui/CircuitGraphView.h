@@ -6,6 +6,7 @@
 
 #include <QColor>
 #include <QHash>
+#include <QImage>
 #include <QPointer>
 #include <QQuickPaintedItem>
 
@@ -55,7 +56,7 @@ private:
     void setHovered(const QString &id);
     void drawGuides(QPainter &painter) const;
     void drawEdges(QPainter &painter, bool followed) const;
-    void drawNode(QPainter &painter, const CircuitGraph::Node &node) const;
+    void drawNode(QPainter &painter, const CircuitGraph::Node &node);
     void drawLabel(QPainter &painter, const CircuitGraph::Node &node, QPointF center) const;
     bool isFollowed(const CircuitGraph::Node &node) const;
     QColor nodeColor(const CircuitGraph::Node &node) const;
@@ -67,6 +68,7 @@ private:
     QHash<QString, QColor> m_colors;     // circuit id → palette colour
     QHash<QString, double> m_strands;    // circuit id → sideways shift of its edges
     std::array<double, 5> m_rows{};      // the distance of a column's nodes
+    QHash<QString, QImage> m_symbols;    // drawn once for each size and colour
     QString m_hovered;                   // node id
     QColor m_background, m_ink, m_faintInk, m_guide, m_outline;
     bool m_drawFlags = false;

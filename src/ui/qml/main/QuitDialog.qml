@@ -22,14 +22,13 @@ Window {
     color: Theme.surface
     onClosing: window.cancelled()
 
+    Shortcut { sequence: "Escape"; onActivated: window.cancelled() }
     ColumnLayout {
         id: column
         x: 20
         y: 20
         width: parent.width - 40
         spacing: 12
-        focus: true
-        Keys.onEscapePressed: window.cancelled()
         RowLayout {
             spacing: 12
             Symbol {
