@@ -122,7 +122,7 @@ private:
 
     void endTooLong()
     {
-        end(DownloadError::other(QStringLiteral("The server sent more than the %1 can be.").arg(m_what.item)));
+        end(DownloadError::other(QStringLiteral("The server sent more than %1 can be.").arg(m_what.item)));
     }
 
     void endUnwritten()

@@ -225,6 +225,8 @@ TransportDownloader::run(std::shared_ptr<Means> means, bool throughTor, Progress
         auto filling = fill(job);
         outcome = co_await filling;
         job->session.reset();
+        if (!outcome && means->isCancelled) // whatever it was that noticed first
+            outcome = Failure(DownloadError::other(cancelledText));
     }
     auto clearing = clearUp(job, job->temporary);
     co_await clearing;

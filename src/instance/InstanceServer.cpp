@@ -163,6 +163,14 @@ QCoro::Task<Result<void, QString>> InstanceServer::execute(QJsonObject request,
         if (controller && !nothingToDo && controller->phase() != ConnectionPhase::disconnected)
             co_return Failure(controller->errorMessage().value_or(
                 QStringLiteral("Not now: %1").arg(controller->statusDetail())));
+    } else if (command == QLatin1String("download-transports")) {
+        if (!controller->canDownloadTransports())
+            co_return Failure(QStringLiteral("Not now: %1").arg(
+                controller->transportDownload().value_or(controller->statusDetail())));
+        auto downloading = m_controller.downloadTransports();
+        const bool isInstalled = co_await downloading;
+        if (controller && !isInstalled)
+            co_return Failure(controller->transportDownload().value_or(QStringLiteral("Cancelled.")));
     } else if (controller->phase() != ConnectionPhase::connected) {
         co_return Failure(QStringLiteral("Not connected."));
     } else if (command == QLatin1String("check")) {
