@@ -29,6 +29,8 @@ const QHash<QString, VerbRule> &rules()
         {QStringLiteral("circuits"), {Verb::circuits, 0, {json}}},
         {QStringLiteral("new-identity"), {Verb::newIdentity}},
         {QStringLiteral("log"), {Verb::log, 0, {QStringLiteral("--follow"), QStringLiteral("--problems")}}},
+        {QStringLiteral("bridges"), {Verb::bridges, 0, {json}}},
+        {QStringLiteral("download-transports"), {Verb::downloadTransports}},
         {QStringLiteral("get"), {Verb::get, 1}},
         {QStringLiteral("set"), {Verb::set, 2}},
         {QStringLiteral("help"), {Verb::help}},
@@ -117,6 +119,9 @@ QString usageText()
         "  new-identity              new circuits for everything\n"
         "  log [--follow] [--problems]\n"
         "                            Tor's log; --problems shows warnings and errors only\n"
+        "  bridges [--json]          the transport programs and built-in bridges that were found, and\n"
+        "                            which of your own bridge lines are not valid\n"
+        "  download-transports       fetch the Tor Project's transport programs and built-in bridges\n"
         "  get KEY                   print a field of \"status --json\"\n"
         "  set KEY VALUE             change a setting; it applies at the next connect\n"
         "\n"

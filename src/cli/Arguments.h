@@ -11,12 +11,12 @@ namespace veldmark {
 struct Invocation {
     enum class Verb {
         run, status, connect, disconnect, restore, check, fixDNS, circuits, closeCircuit, newIdentity,
-        log, get, set,
+        log, get, set, bridges, downloadTransports,
         help, version,
     };
     Verb verb = Verb::help;
     bool connectNow = false; // run --connect
-    bool json = false;       // status, circuits
+    bool json = false;       // status, circuits, bridges
     bool watch = false;      // status
     bool follow = false;     // log
     bool problems = false;   // log

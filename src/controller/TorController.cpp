@@ -140,7 +140,7 @@ bool TorController::optionsLocked() const
 
 bool TorController::canDownloadTransports() const
 {
-    return !transportDownload() && phase() != ConnectionPhase::connecting
+    return !m_isDownloading && phase() != ConnectionPhase::connecting
         && phase() != ConnectionPhase::disconnecting;
 }
 

@@ -3,6 +3,7 @@
 #include "bridges/BridgeChoice.h"
 #include "bridges/BridgePlan.h"
 #include "bridges/PluggableTransports.h"
+#include "bridges/TransportDownloader.h"
 #include "checks/DNSStatus.h"
 #include "checks/LeakStatus.h"
 #include "circuits/CircuitTable.h"
@@ -64,6 +65,10 @@ public:
         TerminalIntegration &terminal;
         std::function<QCoro::Task<PluggableTransports>()> locateTransports;
         BridgeProbe bridgeProbe;
+        // TransportDownloader::install(); without it downloadTransports() does nothing.
+        std::function<QCoro::Task<TransportDownloader::Outcome>(
+            bool throughTor, TransportDownloader::Progress progress)>
+            installTransports = {};
     };
 
     // Registers the settings' defaults, reads the settings, and starts looking for transports
@@ -153,6 +158,11 @@ public:
     // --- Operations: transports. ---
     // Searches the computer afresh and sets `transports`.
     QCoro::Task<void> locateTransports();
+    // Fetches and installs the Tor Project's bundle of transport programs, through Tor while
+    // connected. Does nothing unless canDownloadTransports(). `transportDownload` tells how it goes
+    // and keeps the last word until the next download; it is absent when all went well. True when a
+    // bundle was installed, whatever else there is to say about it.
+    QCoro::Task<bool> downloadTransports();
 
     // --- Operations: helper without a password, terminal. ---
     // Reinstalls the root-owned helper when the program brought a newer one.
@@ -250,6 +260,7 @@ private:
     Attempt m_attempt = 0;  // the running connect or disconnect; older ones end silently
     quint64 m_monitor = 0;  // the running monitor loop
     std::optional<QString> m_controlPassword; // of the running session; in memory only
+    bool m_isDownloading = false;             // transports
     bool m_dnsLiveVerified = false;           // a live DNS check passed in this session
     QStringList m_pendingBridgeLines;         // of the connection being set up
     QStringList m_activeBridgeLines;          // of the running session

@@ -220,6 +220,14 @@ QCoro::Task<Result<void, QString>> InstanceServer::execute(QJsonObject request,
         const bool isNews = error && !(wasStale && error == earlierError);
         if (controller->phase() != ConnectionPhase::disconnected || isNews)
             co_return Failure(isNews ? *error : QStringLiteral("Cancelled."));
+    } else if (command == QLatin1String("download-transports")) {
+        if (!controller->canDownloadTransports())
+            co_return Failure(QStringLiteral("Not now: %1").arg(
+                controller->transportDownload().value_or(controller->statusDetail())));
+        auto downloading = m_controller.downloadTransports();
+        const bool isInstalled = co_await downloading;
+        if (controller && !isInstalled)
+            co_return Failure(controller->transportDownload().value_or(QStringLiteral("Cancelled.")));
     } else if (controller->phase() != ConnectionPhase::connected) {
         co_return Failure(QStringLiteral("Not connected."));
     } else if (command == QLatin1String("check")) {
