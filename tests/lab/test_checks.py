@@ -28,7 +28,7 @@ class CheckCase(LabCase):
         """A session that has made its first checks."""
         self.set("strictMode", "true" if mode == "strict" else "false")
         session = self.enterContext(self.product.session())
-        session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"] and s["exitIP"])
+        session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"] and s["torVerified"] is not None)
         return session
 
     def check(self):

@@ -1,5 +1,6 @@
 """Circuits of real tor as the program shows them, and what a user can do about them."""
 
+import contextlib
 import json
 import re
 import sys
@@ -60,18 +61,30 @@ class Circuits(LabCase):
         after = {circuit["id"] for circuit in self.circuits() if at.WEB_ADDRESS in circuit["sites"]}
         self.assertTrue(before & after)
 
+    @contextlib.contextmanager
+    def arrived_download(self):
+        """A download that the web server has begun to answer."""
+        seen = len(self.lab.world.web_log(service="web"))
+        with self.download(at.WEB_HOSTS[0]):
+            deadline = time.monotonic() + 30
+            while len(self.lab.world.web_log(service="web")) == seen:
+                self.assertLess(time.monotonic(), deadline, "the download did not begin")
+                time.sleep(0.05)
+            yield
+
+    def circuits_with_site(self):
+        return {circuit["id"] for circuit in self.circuits() if at.WEB_ADDRESS in circuit["sites"]}
+
     def test_a_new_identity_takes_new_circuits(self):
         self.connected()
-        with self.download(at.WEB_HOSTS[0]):
-            before = {circuit["id"] for circuit in self.circuits_to(at.WEB_ADDRESS)}
-            self.through_tor()
-            # Without a new identity the next request goes the same way.
-            self.assertTrue(before & {circuit["id"] for circuit in self.circuits_to(at.CHECK_ADDRESS)})
-            self.product.run_verb("new-identity", check=True)
-            with self.download(at.WEB_HOSTS[0]):
-                deadline = time.monotonic() + 30
-                while not {c["id"] for c in self.circuits() if at.WEB_ADDRESS in c["sites"]} - before:
-                    self.assertLess(time.monotonic(), deadline, "the new stream has no circuit of its own")
+        with self.arrived_download():
+            first = self.circuits_with_site()
+            self.assertTrue(first)
+            with self.arrived_download():  # without a new identity the next request goes the same way
+                self.assertEqual(self.circuits_with_site(), first)
+                self.product.run_verb("new-identity", check=True)
+                with self.arrived_download():
+                    self.assertTrue(self.circuits_with_site() - first, "the new stream has no circuit of its own")
 
     def test_a_circuit_can_be_closed(self):
         self.connected()
