@@ -23,11 +23,14 @@ const QString okKey = QStringLiteral("ok");
 const QString errorKey = QStringLiteral("error");
 const QString stateKey = QStringLiteral("state");
 
+// What can only be asked of a connected Tor.
+const QStringList sessionCommands = {QStringLiteral("check"), QStringLiteral("fix-dns"), QStringLiteral("circuits"),
+                                     QStringLiteral("close-circuit"), QStringLiteral("new-identity")};
 // Commands during which the client hears of every change.
-const QStringList longCommands = {
-    QStringLiteral("watch"), QStringLiteral("connect"), QStringLiteral("disconnect"),
-    QStringLiteral("check"), QStringLiteral("fix-dns"), QStringLiteral("circuits"),
-    QStringLiteral("close-circuit"), QStringLiteral("new-identity")};
+const QStringList longCommands =
+    QStringList{QStringLiteral("watch"), QStringLiteral("connect"), QStringLiteral("disconnect"),
+                QStringLiteral("download-transports")}
+    + sessionCommands;
 
 bool hasCircuit(const TorController &controller, const QString &id)
 {
@@ -243,9 +246,11 @@ QCoro::Task<Result<void, QString>> InstanceServer::execute(QJsonObject request,
     } else if (command == QLatin1String("close-circuit")) {
         const QString id = request.value(QStringLiteral("id")).toString();
         co_await m_controller.refreshCircuits();
-        if (controller && controller->circuitError())
+        if (!controller)
+            co_return {};
+        if (controller->circuitError())
             co_return Failure(*controller->circuitError());
-        if (controller && !hasCircuit(*controller, id))
+        if (!hasCircuit(*controller, id))
             co_return Failure(QStringLiteral("There is no circuit \"%1\".").arg(id.left(40).simplified()));
         co_await m_controller.newCircuit(id);
         if (controller && hasCircuit(*controller, id))
@@ -259,6 +264,9 @@ QCoro::Task<Result<void, QString>> InstanceServer::execute(QJsonObject request,
         if (controller && controller->errorMessage())
             co_return Failure(*controller->errorMessage());
     }
+    // What was asked of a session that ended meanwhile has no answer; the fields hold an earlier one.
+    if (controller && sessionCommands.contains(command) && controller->phase() != ConnectionPhase::connected)
+        co_return Failure(QStringLiteral("The session has ended: %1").arg(controller->statusDetail()));
     if (controller)
         stream.sendNow(); // the last word, with everything that the command changed
     co_return {};

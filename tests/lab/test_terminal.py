@@ -159,6 +159,11 @@ class Shells(TerminalCase):
 class ShellsOfAnOrdinaryUser(Shells):
     user = "alice"
 
+    def test_the_log_of_the_users_own_session_is_open(self):
+        self.start()
+        self.connect()
+        self.assertIn("Bootstrapped 100%", self.product.run_verb("log", check=True).stdout)
+
 
 class WhenItEnds(TerminalCase):
     """In proxy mode, where nothing but the variables keeps a tool from the direct path."""
