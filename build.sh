@@ -24,7 +24,7 @@ die() {
 # What compiles the programs, what they call, and what the tests and the private Tor network need.
 packages=(
     g++ cmake ninja-build ccache pkg-config git
-    qt6-base-dev qt6-declarative-dev libgl-dev qcoro-qt6-dev libexpected-dev
+    libglib2.0-dev qt6-base-dev qt6-declarative-dev libgl-dev qcoro-qt6-dev libexpected-dev
     tor tor-geoipdb obfs4proxy nftables iproute2 util-linux sudo pkexec polkitd procps
     snowflake-client gnupg passwd
     python3 openssl ca-certificates curl tcpdump shellcheck unzip netcat-openbsd openssh-client iputils-ping zsh dash
