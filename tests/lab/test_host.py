@@ -31,7 +31,7 @@ class HostTest(unittest.TestCase):
         return self.host.run(["/bin/bash", "-c", script], **options)
 
     def test_changes_stay_inside(self):
-        for path in ("/etc/passwd", "/etc/resolv.conf", "/usr/local/bin/veldlab-x", "/root/veldlab-x", "/tmp/veldlab-x",
+        for path in ("/etc/passwd", "/etc/resolv.conf", "/usr/local/bin/veldlab-x", "/usr/share/veldlab-x", "/opt/veldlab-x", "/root/veldlab-x", "/tmp/veldlab-x",
                      "/var/lib/veldmark/veldlab-x", "/run/veldlab-x", "/home/veldlab-x", "/var/tmp/veldlab-x"):
             with self.subTest(path):
                 before = Path(path).read_bytes() if os.path.exists(path) else None
@@ -39,6 +39,10 @@ class HostTest(unittest.TestCase):
                 self.assertEqual(self.sh(f"cat {path}.last; rm {path}.last").stdout, "changed\n")
                 self.assertFalse(os.path.lexists(f"{path}.last"))
                 self.assertEqual(Path(path).read_bytes() if os.path.exists(path) else None, before)
+
+    def test_the_rest_of_the_machine_is_read_only(self):
+        for folder in ("/", "/boot", "/media", "/mnt"):
+            self.assertIn("Read-only file system", self.sh(f"touch {folder}/veldlab-x").stderr, folder)
 
     def test_commands_share_one_mount_namespace(self):
         self.sh("mkdir -p /run/x; echo bound > /run/x/file; touch /run/target; mount --bind /run/x/file /run/target", check=True)

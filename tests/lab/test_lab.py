@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Self test of the lab: real tor, real packets. Run by `lab.py selftest`, or directly; takes root.
 
-This file holds what concerns the network; test_host.py, test_lifecycle.py and test_packets.py hold the rest and run along.
+This file holds what concerns the network; the other test files here hold the rest and run along.
 """
 
 import json
@@ -190,7 +190,7 @@ class NetworkTest(unittest.TestCase):
 
 
 def everything() -> unittest.TestSuite:
-    names = ("test_packets", "test_host", "test_lifecycle", "test_lab")
+    names = ("test_packets", "test_host", "test_command_line", "test_lifecycle", "test_lab")
     return unittest.TestSuite(unittest.defaultTestLoader.loadTestsFromName(name) for name in names)
 
 

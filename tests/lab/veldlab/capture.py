@@ -9,6 +9,7 @@ packet before it is in. A capture that lost packets raises at its end instead of
 """
 
 import os
+import select
 import socket
 import struct
 import threading
@@ -114,15 +115,11 @@ class Capture:
             self._mark()
             _, lost = struct.unpack("II", self._socket.getsockopt(_SOL_PACKET, _PACKET_STATISTICS, 8))
         finally:
-            with self._changed:
-                self._closing = True
             self._wake.close()
             self._thread.join()
             self._socket.close()
         if lost and kind is None:
             raise RuntimeError(f"the capture lost {lost} packets and proves nothing")
-
-    _closing = False
 
     def wait_for(self, predicate, timeout: float = 10) -> Packet:
         """The first packet, recorded already or to come, that the predicate accepts. Raises TimeoutError."""
@@ -163,7 +160,6 @@ class Capture:
             made.bind((self.interface, _ETH_P_ALL))
             return made
 
-        self._marker_socket = None
         self._wake, self._woken = socket.socketpair()
         return self._in_router(make)
 
@@ -182,8 +178,6 @@ class Capture:
                 raise RuntimeError("the capture does not see its own marker")
 
     def _record(self) -> None:
-        import select
-
         poller = select.poll()
         poller.register(self._socket, select.POLLIN)
         poller.register(self._woken, select.POLLIN)

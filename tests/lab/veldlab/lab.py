@@ -9,8 +9,10 @@ The constructor does nothing; entering the context (or `up`) starts the lab and 
 
 import json
 import os
+import shutil
 import subprocess
 import time
+from collections.abc import Iterable
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
@@ -29,11 +31,12 @@ _SUPERVISOR = Path(__file__).resolve().with_name("supervisor.py")
 class Lab:
     """`share`: further folders that the host is to see as they are, besides the project's tree.
 
-    `timings` holds the seconds of each step of `up`.
+    `logs`: a folder that `down` copies the nodes' and services' logs to. `timings` holds the seconds of each step of `up`.
     """
 
-    def __init__(self, share: list[str] = ()):
+    def __init__(self, share: Iterable[str | Path] = (), logs: str | Path = ""):
         self.share = [str(PROJECT), *map(str, share)]
+        self.logs = logs
         self.timings: dict[str, float] = {}
         self.record: dict = {}
         self._supervisor: subprocess.Popen | None = None
@@ -67,9 +70,8 @@ class Lab:
             with ThreadPoolExecutor(2) as pool:
                 services = pool.submit(self._step, "services", self.world.start)
                 identities = self._step("keys", self.tor.make_keys)
-                self.tor.write_configuration(identities)
                 services.result()
-            self._step("nodes", self.tor.start_all)
+            self._step("nodes", lambda: self.tor.start_all(identities))
             self.host.trust(self.world.certificate_authority())
             self.host.join_tor_network(identities)
             if wait:
@@ -88,9 +90,21 @@ class Lab:
         supervisor, self._supervisor = self._supervisor, None
         if supervisor is None:
             return
-        supervisor.terminate()
-        supervisor.wait()
-        supervisor.stdout.close()
+        try:
+            if self.logs and self.record:
+                self.save_logs(Path(self.logs))
+        finally:
+            supervisor.terminate()
+            supervisor.wait()
+            supervisor.stdout.close()
+
+    def save_logs(self, folder: Path) -> None:
+        """Copies the log of every node and service to the folder, which is made if need be."""
+        folder.mkdir(parents=True, exist_ok=True)
+        for node in at.NODES:
+            (folder / f"{node.name}.log").write_text(self.tor.log(node.name))
+        for path in self.world.folder.glob("*.log"):
+            shutil.copy(path, folder)
 
     def _step(self, name: str, action):
         started = time.monotonic()

@@ -10,10 +10,6 @@ from veldlab.topology import Node
 GEOIP_FILE = "/etc/tor/veldlab-geoip"
 NODE_GEOIP_FILE = f"{at.TOR_FOLDER}/geoip"
 DNS_FILE = f"{at.TOR_FOLDER}/resolv.conf"
-# Seconds between attempts at a first consensus: the least that tor allows with the delays below.
-FIRST_INTERVAL = 5
-# An authority that is up takes part in a vote from 4 s to 3 s before the attempt's end.
-VOTE_OPENS, VOTE_CLOSES = 4, 3
 
 
 def geoip_text() -> str:
@@ -58,7 +54,8 @@ def folder(node: Node) -> str:
     return f"{at.TOR_FOLDER}/{node.name}"
 
 
-def node_torrc(node: Node, identities: dict[str, tuple[str, str]]) -> str:
+def node_torrc(node: Node, identities: dict[str, tuple[str, str]], voting: bool = True) -> str:
+    """With `voting` off an authority takes descriptors but does not vote within the next minutes."""
     home = folder(node)
     lines = [
         *_common_lines(identities),
@@ -80,6 +77,9 @@ def node_torrc(node: Node, identities: dict[str, tuple[str, str]]) -> str:
         "ContactInfo nobody@example.test",
     ]
     lines += {"authority": _authority, "exit": _exit, "middle": _middle, "bridge": _bridge}[node.role](node)
+    if node.role == "authority":
+        # The least that tor allows with the delays above, or the most.
+        lines.append(f"TestingV3AuthInitialVotingInterval {5 if voting else 1800}")
     return "\n".join(lines) + "\n"
 
 
@@ -87,7 +87,6 @@ def _authority(node: Node) -> list[str]:
     return [
         "AuthoritativeDirectory 1",
         "V3AuthoritativeDirectory 1",
-        f"TestingV3AuthInitialVotingInterval {FIRST_INTERVAL}",
         "TestingV3AuthInitialVoteDelay 2",
         "TestingV3AuthInitialDistDelay 2",
         "V3AuthVotingInterval 10",

@@ -78,25 +78,32 @@ class TorNetwork:
             identities[name] = (v3_identity, fingerprint)
         return identities
 
-    def write_configuration(self, identities: dict[str, tuple[str, str]]) -> None:
-        for node in at.NODES:
-            (self.folder / node.name / "torrc").write_text(tor_config.node_torrc(node, identities))
+    def start_all(self, identities: dict[str, tuple[str, str]]) -> None:
+        """Starts every node; `identities` as `make_keys` gives them.
 
-    def start_all(self) -> None:
-        """Starts every node, at a moment from which the first consensus can hold them all.
-
-        Authorities that vote before all relays have published agree on a network without them, and the next vote is
-        10 s away. Votes are fixed by the clock, so the start waits (at most 3.4 s) until the relays have the time between
-        two votes to publish in. Should a busy machine miss the vote nevertheless, the lab is up later but no different:
-        `wait_consensus` goes by what the consensus holds.
+        Authorities that vote before the relays have published agree on a network without relays, and vote again only 10 s later.
+        So they begin to vote when each of them knows every relay.
         """
-        votes_at_the_earliest, publishes_at_the_latest = 0.4, 2.8  # seconds after the start
-        since_close = (time.time() + tor_config.VOTE_CLOSES) % tor_config.FIRST_INTERVAL
-        between_votes = tor_config.FIRST_INTERVAL - (tor_config.VOTE_OPENS - tor_config.VOTE_CLOSES)
-        latest, earliest = between_votes - publishes_at_the_latest, tor_config.FIRST_INTERVAL - votes_at_the_earliest
-        if latest < since_close < earliest:
-            time.sleep(earliest - since_close)
+        for node in at.NODES:
+            torrc = tor_config.node_torrc(node, identities, voting=False)
+            (self.folder / node.name / "torrc").write_text(torrc)
         self.start()
+        self._wait(lambda: all(
+            self._published(authority) >= {node.name for node in at.AUTHORITIES + at.EXITS + at.MIDDLES}
+            for authority in at.AUTHORITIES
+        ), 60, "the relays have not published")
+        for node in at.AUTHORITIES:
+            (self.folder / node.name / "torrc").write_text(tor_config.node_torrc(node, identities))
+        pids = [(self.folder / node.name / "pid").read_text().strip() for node in at.AUTHORITIES]
+        self.space.run(["kill", "-HUP", *pids], check=True)
+
+    def _published(self, authority: Node) -> set[str]:
+        """Names of the relays whose descriptors the authority holds."""
+        try:
+            text = (self.folder / authority.name / "cached-descriptors.new").read_text()
+        except FileNotFoundError:
+            return set()
+        return {line.split()[1] for line in text.splitlines() if line.startswith("router ")}
 
     def start(self, *names: str) -> None:
         """Starts the named nodes, or all; returns when each has read its configuration and opened its ports."""
