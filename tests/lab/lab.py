@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """The private Tor network from the command line; see veldlab/topology.py for a picture of it.
 
-    lab.py check                                      can a lab run here? status 0, or 77 with one line that says what to do
+    lab.py check                                      can a lab run here? status 0, or 77 and one line what to do
     lab.py up                                         start one and keep it until Ctrl-C
     lab.py run [--user alice] -- CMD...               start one, run CMD on its host, end it; gives CMD's status
     lab.py exec [--in SPACE] [--user alice] -- CMD    run CMD in a lab that is up

@@ -28,8 +28,9 @@ class CommandLineTest(unittest.TestCase):
         return subprocess.run([at.PYTHON, SCRIPT, verb, "--lab", self.id, *arguments], capture_output=True, text=True)
 
     def test_exec_reaches_every_space(self):
-        addresses = {"host": at.HOST_ADDRESS, "world": at.DNS_ADDRESS, "router": at.ROUTER_LAN_ADDRESS, "lan": at.LAN_ADDRESS}
-        for space, address in addresses.items():
+        addresses = (("host", at.HOST_ADDRESS), ("world", at.DNS_ADDRESS), ("router", at.ROUTER_LAN_ADDRESS),
+                     ("lan", at.LAN_ADDRESS))
+        for space, address in addresses:
             with self.subTest(space):
                 self.assertIn(address, self.lab("exec", "--in", space, "--", "ip", "address").stdout)
         done = self.lab("exec", "--user", "alice", "--env", "A=1", "--", "sh", "-c", 'id -un; echo "$A"; exit 5')
@@ -73,7 +74,8 @@ class CommandLineTest(unittest.TestCase):
         self.assertEqual((wrong.returncode, wrong.stderr.count("\n")), (1, 1))
 
     def test_an_unknown_lab_is_one_line(self):
-        done = subprocess.run([at.PYTHON, SCRIPT, "exec", "--lab", "0000", "--", "true"], capture_output=True, text=True)
+        command = [at.PYTHON, SCRIPT, "exec", "--lab", "0000", "--", "true"]
+        done = subprocess.run(command, capture_output=True, text=True)
         self.assertEqual((done.returncode, done.stderr), (1, "No lab 0000 is running.\n"))
 
     def test_ctrl_c_ends_it_and_leaves_the_logs(self):

@@ -3,8 +3,8 @@
     with Lab() as lab:
         lab.host.run(["curl", "-s", "https://check.torproject.org/api/ip"], user="alice")
 
-The constructor does nothing; entering the context (or `up`) starts the lab and returns when a client could bootstrap. Leaving it
-(or `down`) returns when every process, mount, namespace, control group and file of the lab is gone.
+The constructor does nothing; entering the context (or `up`) starts the lab and returns when a client could bootstrap.
+Leaving it (or `down`) returns when every process, mount, namespace, control group and file of the lab is gone.
 """
 
 import json
@@ -31,7 +31,7 @@ _SUPERVISOR = Path(__file__).resolve().with_name("supervisor.py")
 class Lab:
     """`share`: further folders that the host is to see as they are, besides the project's tree.
 
-    `logs`: a folder that `down` copies the nodes' and services' logs to. `timings` holds the seconds of each step of `up`.
+    `logs`: a folder that `down` copies the nodes' and services' logs to. `timings`: seconds of each step of `up`.
     """
 
     def __init__(self, share: Iterable[str | Path] = (), logs: str | Path = ""):
@@ -60,7 +60,7 @@ class Lab:
         return self.record["id"]
 
     def up(self, wait: bool = True) -> None:
-        """Raises LabUnavailable when this machine or user cannot run one. Without `wait`, a consensus may still be missing."""
+        """Raises LabUnavailable when this machine or user cannot run a lab. With `wait` off, there is no consensus yet."""
         reason = requirements.missing()
         if reason:
             raise LabUnavailable(reason)
@@ -115,7 +115,8 @@ class Lab:
     def _start_supervisor(self) -> None:
         arguments = [registry.new_id(), str(os.getpid()), json.dumps({"share": self.share})]
         self._supervisor = subprocess.Popen(
-            [at.PYTHON, "-B", str(_SUPERVISOR), *arguments], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True
+            [at.PYTHON, "-B", str(_SUPERVISOR), *arguments],
+            stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True,
         )
         line = self._supervisor.stdout.readline()
         answer = json.loads(line) if line else {"error": "its first process ended early"}
@@ -136,6 +137,8 @@ class Lab:
         return capture.Capture(self.router, link)
 
     def netem(self, source: str = "host", to: str = "", delay_ms: float = 0, loss: float = 0) -> shaping.Shaping:
-        """Delays and loses packets between `source` (host or lan) and `to` (an address, network or node name; all when ""),
-        both ways, until the returned object is closed (it is a context manager). `loss` is a share from 0 to 1."""
+        """Delays and loses packets between `source` (host or lan) and `to` (an address, network or node; all when "").
+
+        Holds for each way, until the returned object (a context manager) is closed. `loss` is a share from 0 to 1.
+        """
         return shaping.Shaping(self.router, source, to, delay_ms, loss)

@@ -5,7 +5,7 @@ A snapshot is a dict of section to text. Counters, process ids and the like, whi
     nft         ruleset without counters                listening   TCP and UDP ports with the owner's uid
     resolv      /etc/resolv.conf: kind, owner, mode,    processes   uid and command line of each process
                 inode, time of change, content          cgroups     groups below the host's own
-    links       interfaces and addresses                files       what differs from the machine below /etc and /usr   
+    links       interfaces and addresses                files       what differs from the machine below /etc and /usr
     routes      IPv4, IPv6 and rules                    proxy       GNOME's and KDE's proxy settings of alice
     mounts      of the host's mount namespace
 """

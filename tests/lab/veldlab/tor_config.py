@@ -1,13 +1,14 @@
 """The torrc files of the private network, as pure text. Facts about tor 0.4.9; nothing here starts a process.
 
-Every line that a client needs to take part is in `client_lines`, which the host gets as /etc/tor/torrc-defaults: tor reads
-that file beneath any other configuration, so an unmodified program's tor becomes a client of this network.
+Every line that a client needs to take part is in `client_lines`, which the host gets as /etc/tor/torrc-defaults: tor
+reads that file beneath any other configuration, so an unmodified program's tor becomes a client of this network.
 """
 
 from veldlab import topology as at
 from veldlab.topology import Node
 
 GEOIP_FILE = "/etc/tor/veldlab-geoip"
+BANDWIDTH_FILE = f"{at.TOR_FOLDER}/bandwidths"
 NODE_GEOIP_FILE = f"{at.TOR_FOLDER}/geoip"
 DNS_FILE = f"{at.TOR_FOLDER}/resolv.conf"
 
@@ -16,6 +17,11 @@ def geoip_text() -> str:
     """One line FIRST,LAST,CC per node, addresses as numbers, in ascending order."""
     nodes = sorted(at.NODES, key=lambda node: node.address_number)
     return "".join(f"{n.address_number},{n.address_number},{n.country.upper()}\n" for n in nodes)
+
+
+def bandwidth_text(now: int, fingerprints: list[str]) -> str:
+    """What authorities take as measured, the same for all: else the first relay that carries traffic gets all of it."""
+    return f"{now}\n" + "".join(f"node_id=${fingerprint} bw=1000\n" for fingerprint in fingerprints)
 
 
 def authority_lines(identities: dict[str, tuple[str, str]]) -> list[str]:
@@ -46,7 +52,12 @@ def client_lines(identities: dict[str, tuple[str, str]]) -> str:
 def fingerprint_torrc(node: Node) -> str:
     """Enough for `tor --list-fingerprint` to make the node's keys."""
     return "\n".join([
-        f"DataDirectory {folder(node)}", "ORPort 5000", "Nickname " + node.name, "DisableNetwork 1", "Log err stderr", "",
+        f"DataDirectory {folder(node)}",
+        f"ORPort {at.OR_PORT}",
+        f"Nickname {node.name}",
+        "DisableNetwork 1",
+        "Log err stderr",
+        "",
     ])
 
 
@@ -93,6 +104,7 @@ def _authority(node: Node) -> list[str]:
         "V3AuthVoteDelay 2",
         "V3AuthDistDelay 2",
         "TestingMinExitFlagThreshold 0",
+        f"V3BandwidthsFile {BANDWIDTH_FILE}",
         f"DirPort {node.address}:{at.DIR_PORT}",
         "ExitPolicy reject *:*",
     ]

@@ -31,7 +31,10 @@ for pid in $pids; do wait "$pid"; done
 # Arguments: a folder, then names of nodes. Each tor goes to the background once it has its keys and its ports.
 _START = r"""
 set -u; cd "$1"; shift
-for node; do tor -f "$node/torrc" --defaults-torrc empty --quiet </dev/null >"$node/start" 2>&1 & eval "pid_$node=$!"; done
+for node; do
+    tor -f "$node/torrc" --defaults-torrc empty --quiet </dev/null >"$node/start" 2>&1 &
+    eval "pid_$node=$!"
+done
 failed=
 for node; do eval "wait \$pid_$node" || failed="$failed $node"; done
 [ -z "$failed" ] || { for node in $failed; do echo "$node:"; cat "$node/start"; tail -n 20 "$node/log"; done; exit 1; }
@@ -81,8 +84,8 @@ class TorNetwork:
     def start_all(self, identities: dict[str, tuple[str, str]]) -> None:
         """Starts every node; `identities` as `make_keys` gives them.
 
-        Authorities that vote before the relays have published agree on a network without relays, and vote again only 10 s later.
-        So they begin to vote when each of them knows every relay.
+        Authorities that vote before the relays have published agree on a network without relays, and vote again only
+        10 s later. So they begin to vote when each of them knows every relay.
         """
         for node in at.NODES:
             torrc = tor_config.node_torrc(node, identities, voting=False)
@@ -92,10 +95,15 @@ class TorNetwork:
             self._published(authority) >= {node.name for node in at.AUTHORITIES + at.EXITS + at.MIDDLES}
             for authority in at.AUTHORITIES
         ), 60, "the relays have not published")
+        relays = [self._fingerprint(node) for node in at.AUTHORITIES + at.EXITS + at.MIDDLES]
+        (self.folder / "bandwidths").write_text(tor_config.bandwidth_text(int(time.time()), relays))
         for node in at.AUTHORITIES:
             (self.folder / node.name / "torrc").write_text(tor_config.node_torrc(node, identities))
         pids = [(self.folder / node.name / "pid").read_text().strip() for node in at.AUTHORITIES]
         self.space.run(["kill", "-HUP", *pids], check=True)
+
+    def _fingerprint(self, node: Node) -> str:
+        return (self.folder / node.name / "fingerprint").read_text().split()[1]
 
     def _published(self, authority: Node) -> set[str]:
         """Names of the relays whose descriptors the authority holds."""
@@ -111,7 +119,7 @@ class TorNetwork:
         self.space.run(["/bin/sh", "-c", _START, "sh", at.TOR_FOLDER, *wanted], check=True)
 
     def stop(self, *names: str, kill: bool = False) -> None:
-        """Ends the named nodes, at once with `kill`; returns when they are gone. A node that is stopped already is fine."""
+        """Ends the named nodes, at once with `kill`; returns when they are gone. A stopped one is fine."""
         for node in map(at.node_named, names):
             how = "kill" if kill else "term"
             self.space.run(
@@ -122,7 +130,10 @@ class TorNetwork:
         return path.read_text(errors="replace") if path.exists() else ""
 
     def wait_consensus(self, timeout: float = 60) -> None:
-        """Returns when every authority holds a consensus that is valid now and lists every exit and middle as usable."""
+        """Returns when every authority holds a consensus that is valid now and lists every exit and middle as usable.
+
+        The nodes must all be running.
+        """
         wanted = {node.name for node in at.EXITS + at.MIDDLES}
         self._wait(lambda: all(
             wanted <= self._usable(self._consensus(node)) for node in at.AUTHORITIES
@@ -137,7 +148,7 @@ class TorNetwork:
     def bridge_line(self, transport: str = "obfs4") -> str:
         """What a user would enter, without "Bridge": for "obfs4", or "" for the plain bridge."""
         node = next(n for n in at.BRIDGES if n.transport == transport)
-        fingerprint = (self.folder / node.name / "fingerprint").read_text().split()[1]
+        fingerprint = self._fingerprint(node)
         if not transport:
             return f"{node.address}:{at.OR_PORT} {fingerprint}"
         text = (self.folder / node.name / "pt_state/obfs4_bridgeline.txt").read_text()
