@@ -67,9 +67,13 @@ class CommandLineTest(unittest.TestCase):
         self.assertEqual((wrong.returncode, wrong.stderr.count("\n")), (1, 1))
 
     def test_nodes_stop_and_start(self):
+        connect = ("exec", "--", "nc", "-z", "203.0.113.11", str(at.OR_PORT))
+        self.assertEqual(self.lab(*connect).returncode, 0)
         self.assertEqual(self.lab("node", "stop", "exitus").returncode, 0)
-        self.assertIn("Catching signal TERM", self.lab("log", "exitus").stdout)
+        self.assertEqual(self.lab(*connect).returncode, 1)
         self.assertEqual(self.lab("node", "start", "exitus").returncode, 0)
+        self.assertEqual(self.lab(*connect).returncode, 0)
+        self.assertIn("Bootstrapped", self.lab("log", "exitus").stdout)
         wrong = self.lab("node", "stop", "nobody")
         self.assertEqual((wrong.returncode, wrong.stderr.count("\n")), (1, 1))
 

@@ -164,11 +164,24 @@ class NetworkTest(unittest.TestCase):
         script = f"import socket; socket.create_connection(('203.0.113.22', {at.OR_PORT}), 5)"
         connect = [at.PYTHON, "-c", script]
         self.assertEqual(self.lab.host.run(connect).returncode, 0)
-        for kill in (False, True):
-            self.lab.tor.stop("middleat", kill=kill)
+        for _ in range(2):
+            self.lab.tor.stop("middleat")
+            self.lab.tor.stop("middleat")
             self.assertIn("refused", self.lab.host.run(connect).stderr)
             self.lab.tor.start("middleat")
             self.assertEqual(self.lab.host.run(connect).returncode, 0)
+
+    def test_a_bridge_can_be_started_again(self):
+        self.lab.tor.wait_bridges()
+        line = self.lab.tor.bridge_line("obfs4")
+        self.lab.tor.stop("bridgeobfs4")
+        self.assertNotIn("obfs4proxy", self.lab.spaces["world"].run(["ps", "-e"]).stdout)
+        self.lab.tor.start("bridgeobfs4")
+        self.lab.tor.wait_bridges()
+        self.assertEqual(self.lab.tor.bridge_line("obfs4"), line)
+        plugin = "ClientTransportPlugin obfs4 exec /usr/bin/obfs4proxy\n"
+        with TorClient(self.lab, f"{plugin}UseBridges 1\nBridge {line}") as client:
+            self.assertIs(client.check()["IsTor"], True)
 
     def test_no_namespace_has_a_way_out(self):
         for name, space in self.lab.spaces.items():
