@@ -60,7 +60,7 @@ class Lab:
         return self.record["id"]
 
     def up(self, wait: bool = True) -> None:
-        """Raises LabUnavailable when this machine or user cannot run a lab. Without `wait`, there is no consensus yet."""
+        """Raises LabUnavailable when this machine or user cannot run one. Without `wait`, there is no consensus yet."""
         reason = requirements.missing()
         if reason:
             raise LabUnavailable(reason)

@@ -7,9 +7,9 @@
                 '- host init   process 1 of the host's own pid namespace, private /etc, /run ...: host_init.py
 
 Nothing of a lab is on the machine except its processes, one control group and one registry record. The supervisor
-removes these three when the owner asks (SIGTERM), when the owner ends in any way, and when the lab init ends. Should the
-supervisor itself be killed, the kernel kills the lab init (parent death signal) and with it every process, mount and
-network namespace; the next start then sweeps the empty control group and the record.
+removes these three when the owner asks (SIGTERM), when the owner ends in any way, and when the lab init ends. Should
+the supervisor itself be killed, the kernel kills the lab init (parent death signal) and with it every process, mount
+and network namespace; the next start then sweeps the empty control group and the record.
 
 Started as `supervisor.py ID OWNER_PID OPTIONS_JSON`. Answers one JSON line on standard output: {"ready": true, ...} or
 {"error": TEXT}.
