@@ -120,7 +120,7 @@ void ControllerSession::read()
     next.circuitError = c.circuitError();
     next.transports = c.transports();
     next.transportDownload = c.transportDownload();
-    next.canDownloadTransports = false; // see downloadTransports()
+    next.canDownloadTransports = c.canDownloadTransports();
     next.passwordlessInstalled = c.passwordlessInstalled();
     next.startupError = c.startupError();
     next.terminalError = c.terminalError();
@@ -221,7 +221,7 @@ void ControllerSession::lookForTor()
 
 void ControllerSession::downloadTransports()
 {
-    // The controller has no such operation yet; the views know by canDownloadTransports.
+    m_controller.downloadTransports();
 }
 
 void ControllerSession::installPasswordless()
