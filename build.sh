@@ -26,7 +26,7 @@ packages=(
     g++ cmake ninja-build ccache pkg-config git
     qt6-base-dev qt6-declarative-dev libgl-dev qcoro-qt6-dev libexpected-dev
     tor tor-geoipdb obfs4proxy nftables iproute2 util-linux sudo pkexec polkitd procps
-    python3 openssl ca-certificates curl tcpdump shellcheck unzip netcat-openbsd zsh dash
+    python3 openssl ca-certificates curl gnupg tcpdump shellcheck unzip netcat-openbsd zsh dash
     libglib2.0-bin dconf-cli dconf-gsettings-backend gsettings-desktop-schemas dbus
     python3-stem
 )
