@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -156,23 +157,33 @@ void BundleFolder::recover() const
     if (isThere(beside(".old")) && !isThere(m_folder))
         moved(beside(".old"), m_folder);
     removeTree(beside(".old"));
-    removeTree(beside(".new"));
+    removeUnfinished();
 }
 
-Result<QString, QString> BundleFolder::fresh() const
+void BundleFolder::removeUnfinished() const
 {
-    const QString folder = beside(".new");
-    removeTree(folder);
-    const QByteArray name = QFile::encodeName(folder);
+    const QFileInfo pattern(beside(".new-"));
+    const QStringList names = QDir(pattern.path()).entryList(
+        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    for (const QString &name : names) {
+        if (name.startsWith(pattern.fileName()))
+            removeTree(pattern.path() + u'/' + name);
+    }
+}
+
+Result<QString, QString> BundleFolder::fresh()
+{
+    QByteArray name = QFile::encodeName(beside(".new-XXXXXX"));
     // Tor's own account runs programs from here, whatever this user's umask is.
-    if (::mkdir(name.constData(), 0755) != 0 || ::chmod(name.constData(), 0755) != 0)
-        return Failure(QStringLiteral("Couldn't make the folder %1: %2.").arg(folder, lastSystemError()));
-    return folder;
+    if (::mkdtemp(name.data()) == nullptr || ::chmod(name.constData(), 0755) != 0)
+        return Failure(QStringLiteral("Couldn't make a folder beside %1: %2.").arg(m_folder, lastSystemError()));
+    m_fresh = QFile::decodeName(name);
+    return m_fresh;
 }
 
 Result<void, QString> BundleFolder::publish(const QString &version, bool isVerified) const
 {
-    const QString folder = beside(".new");
+    const QString folder = m_fresh;
     const QString former = beside(".old");
     const auto failed = [this] {
         return Failure(QStringLiteral("Couldn't write %1: %2.").arg(m_folder, lastSystemError()));
@@ -204,7 +215,7 @@ Result<void, QString> BundleFolder::publish(const QString &version, bool isVerif
 
 void BundleFolder::discard() const
 {
-    removeTree(beside(".new"));
+    removeUnfinished();
 }
 
 } // namespace veldmark

@@ -22,7 +22,8 @@ struct BundleRecord {
 
 // The right to change a bundle's folder; one at a time on this computer. Lets go when destroyed, or
 // when the process ends in whatever way. Beside `folder` it uses hidden names that begin like it:
-// .NAME.lock, .NAME.new and .NAME.old.
+// .NAME.lock, .NAME.old and .NAME.new-ABCDEF; the last is another one each time, so that an unpacking
+// program that has outlived its killed parent cannot write into it.
 class BundleFolder {
 public:
     // Lets two folders change places in one step. False where the file system cannot.
@@ -44,8 +45,8 @@ public:
     // an empty text takes it back.
     void note(const QString &temporary) const;
 
-    // Makes an empty folder for a new bundle, on the same file system.
-    Result<QString, QString> fresh() const;
+    // Makes an empty folder for a new bundle, on the same file system. Once.
+    Result<QString, QString> fresh();
     // Writes the new bundle's record, puts the new bundle where the old one was and removes the old
     // one.
     Result<void, QString> publish(const QString &version, bool isVerified) const;
@@ -55,12 +56,14 @@ public:
 private:
     BundleFolder(QString folder, Exchange exchange, int lock);
     QString beside(const char *suffix) const;
+    void removeUnfinished() const;
     void recover() const;
 
     QString m_folder;
     Exchange m_exchange;
     int m_lock;
     QString m_forgotten;
+    QString m_fresh; // empty before there is one
 };
 
 // Removes a folder with everything in it, also where permissions are odd; a link is removed, not

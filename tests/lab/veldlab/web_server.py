@@ -16,6 +16,7 @@ import socket
 import socketserver
 import ssl
 
+from veldlab import odd_answers
 from veldlab import topology as at
 
 CHECK_BEHAVIOURS = {
@@ -194,6 +195,9 @@ class PageHandler(_Handler):
         site = self.headers.get("Host", "").partition(":")[0].lower()
         base = os.path.realpath(f"{self.sites_folder}/{site}")
         full = os.path.realpath(f"{base}/{path}")
+        if site and full.startswith(base + "/") and (odd := odd_answers.find(full)):
+            odd_answers.give(self, full, odd)
+            return
         if not site or not full.startswith(base + "/") or not os.path.isfile(full):
             self.send(b"not found\n", 404)
             return

@@ -88,7 +88,7 @@ private Q_SLOTS:
     {
         const ProgramTree tree;
         tree.file(QStringLiteral("data/.Bundle.old/VERSION"), "1.0");
-        tree.file(QStringLiteral("data/.Bundle.new/VERSION"), "2.0");
+        tree.file(QStringLiteral("data/.Bundle.new-abcdef/VERSION"), "2.0");
         QVERIFY(claim(tree));
         QCOMPARE(tree.content(QStringLiteral("data/Bundle/VERSION")), QByteArray("1.0"));
         QCOMPARE(everything(tree), QStringList({QStringLiteral(".Bundle.lock"), QStringLiteral("Bundle")}));
@@ -99,7 +99,7 @@ private Q_SLOTS:
         const ProgramTree tree;
         tree.file(QStringLiteral("data/Bundle/VERSION"), "2.0");
         tree.file(QStringLiteral("data/.Bundle.old/VERSION"), "1.0");
-        tree.file(QStringLiteral("data/.Bundle.new/x"), "half");
+        tree.file(QStringLiteral("data/.Bundle.new-abcdef/x"), "half");
         QVERIFY(claim(tree));
         QCOMPARE(tree.content(QStringLiteral("data/Bundle/VERSION")), QByteArray("2.0"));
         QCOMPARE(everything(tree), QStringList({QStringLiteral(".Bundle.lock"), QStringLiteral("Bundle")}));
