@@ -24,12 +24,16 @@ die() {
 # What compiles the programs, what they call, and what the tests and the private Tor network need.
 packages=(
     g++ cmake ninja-build ccache pkg-config git
-    qt6-base-dev qt6-declarative-dev libgl-dev qcoro-qt6-dev libexpected-dev
+    libglib2.0-dev qt6-base-dev qt6-declarative-dev libgl-dev qcoro-qt6-dev libexpected-dev
     tor tor-geoipdb obfs4proxy nftables iproute2 util-linux sudo pkexec polkitd procps
     snowflake-client gnupg passwd
     python3 openssl ca-certificates curl tcpdump shellcheck unzip netcat-openbsd openssh-client iputils-ping zsh dash
     libglib2.0-bin dconf-cli dconf-gsettings-backend gsettings-desktop-schemas dbus
     python3-stem
+    libqt6svg6-dev qt6-l10n-tools qt6-declarative-dev-tools qml6-module-qtquick
+    qml6-module-qtquick-templates qml6-module-qtquick-window qml6-module-qtquick-layouts
+    qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
+    fonts-noto-core fonts-noto-mono fonts-noto-color-emoji xvfb
 )
 
 missing_packages() {

@@ -5,7 +5,7 @@ export LC_ALL=C
 here=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")" && pwd)
 output=${1:?usage: join.sh OUTPUT}
 parts=(core options
-  linux-state linux-programs linux-torrc linux-firewall linux-resolver linux-resolved linux-tor linux-proxy linux-session linux-privileged
+  linux-state linux-programs linux-torrc linux-firewall linux-resolver linux-resolved linux-tor linux-proxy linux-exempt linux-watcher linux-session linux-privileged
   main)
 new=$output.new.$$
 trap 'rm -f -- "$new"' EXIT

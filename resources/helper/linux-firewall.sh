@@ -4,6 +4,8 @@
 
 readonly TABLE=veldmark
 readonly RULES=$RUN/firewall.nft   # 0600; the rules in force, for putting them back when somebody flushed them
+readonly LISTED=$RUN/firewall.listed       # 0600; the same as the kernel lists them
+readonly RULES_LOCK=/run/veldmark.rules    # whoever changes the rules holds it; the watcher has no other lock
 
 # The local network is these ranges and never what a route says: a hostile network that announces public
 # addresses as its own gains nothing.
@@ -15,7 +17,12 @@ print_table_head() {
   printf 'table inet %s\ndelete table inet %s\ntable inet %s {\n' "$TABLE" "$TABLE" "$TABLE"
 }
 
-# print_redirect TOR_UID: every look-up over UDP goes to Tor, whichever server it was meant for. A redirected
+# print_exempt GROUP: lets out what is sent by applications that are started without Tor. Nothing when GROUP is empty.
+print_exempt() {
+  [[ -z $1 ]] || printf '\t\tsocket cgroupv2 level 1 "%s" accept\n' "$1"
+}
+
+# print_redirect TOR_UID GROUP: every look-up over UDP goes to Tor, whichever server it was meant for. A redirected
 # packet of a socket that is bound to a network device would leave by that device, so the last chain, which sees
 # the true device, keeps what is meant for this computer on this computer.
 print_redirect() {
@@ -23,6 +30,9 @@ print_redirect() {
 	chain redirect_dns {
 		type nat hook output priority -100; policy accept;
 		meta skuid $1 accept
+END
+  print_exempt "$2"
+  cat <<END
 		udp dport 53 redirect to :$DNS_PORT
 	}
 	chain stay_on_loopback {
@@ -48,7 +58,7 @@ END
 # redirected (connections older than the rules, DNS over TCP) is refused.
 print_proxy_rules() {
   print_table_head
-  print_redirect "$1"
+  print_redirect "$1" ''
   cat <<END
 	chain output {
 		type filter hook output priority 0; policy accept;
@@ -64,14 +74,15 @@ END
 END
 }
 
-# print_strict_rules TOR_UID USER_UID LAN UDP SERVERS4 SERVERS6: nothing leaves but Tor's own traffic.
+# print_strict_rules TOR_UID USER_UID LAN UDP SERVERS4 SERVERS6 GROUP: nothing leaves but Tor's own traffic.
 # LAN 1 opens the local network; UDP 1 lets Tor's account send UDP (snowflake); SERVERS4 and SERVERS6 are the
-# resolvers, joined by commas, that Tor's transports may ask, usually none.
+# resolvers, joined by commas, that Tor's transports may ask, usually none; GROUP is the control group of the
+# applications without Tor, empty for none.
 # Only positive matches on the account: a packet without a socket matches neither "skuid X" nor "skuid != X".
 # No "established" on output: connections from before the kill switch must not go on.
 print_strict_rules() {
   print_table_head
-  print_redirect "$1"
+  print_redirect "$1" "${7-}"
   cat <<END
 	chain output {
 		type filter hook output priority 0; policy drop;
@@ -86,7 +97,7 @@ END
   [[ $4 != 1 ]] || printf '\t\tmeta skuid %s meta l4proto udp accept\n' "$1"
   [[ -z $5 ]] || printf '\t\tmeta skuid %s ip daddr { %s } udp dport 53 accept\n' "$1" "$5"
   [[ -z $6 ]] || printf '\t\tmeta skuid %s ip6 daddr { %s } udp dport 53 accept\n' "$1" "$6"
-  # Applications that are started without Tor belong here: their accept rule, and one before the redirect.
+  print_exempt "${7-}"
   cat <<END
 		udp sport 68 udp dport 67 ip daddr { 255.255.255.255, $LAN4 } accept
 		udp sport 546 udp dport 547 ip6 daddr { ff02::1:2, fe80::/10 } accept
@@ -161,16 +172,29 @@ put_firewall() {
       servers4=$(list_servers 4 "$FORMER_RESOLVER")
       servers6=$(list_servers 6 "$FORMER_RESOLVER")
     fi
-    text=$(print_strict_rules "$TOR_UID" "$CALLER_UID" "$OPT_LAN" "$udp" "$servers4" "$servers6")
+    text=$(print_strict_rules "$TOR_UID" "$CALLER_UID" "$OPT_LAN" "$udp" "$servers4" "$servers6" "$EXEMPT_PATH")
   else
     text=$(print_proxy_rules "$TOR_UID" "$CALLER_UID")
   fi
   write_file "$RULES" 0600 root "$text"$'\n' || die "The file $RULES cannot be written."
   load_rules "$text"
+  note_listing || die "The file $LISTED cannot be written."
+}
+
+# hold_rules / release_rules: descriptor 7. The programs started meanwhile keep the lock also when this shell is killed.
+hold_rules() { { exec 7>>"$RULES_LOCK"; } && flock -w 10 7; }
+release_rules() { exec 7>&-; }
+
+# note_listing: what the watcher compares with.
+note_listing() {
+  local text
+  text=$(nft -s list table inet "$TABLE") && write_file "$LISTED" 0600 root "$text"$'\n'
 }
 
 undo_firewall() {
   local output
+  # Held to the end of the run, when the marker has gone as well.
+  hold_rules || { UNDONE="The firewall could not be opened, because somebody is changing it."; return 1; }
   output=$(nft delete table inet "$TABLE" 2>&1) && return 0
   # Not being there is what was wanted.
   [[ $output == *"No such file or directory"* ]] && return 0

@@ -2,7 +2,7 @@
 # ---- Linux: connect and disconnect -------------------------------------------------------------------------
 
 readonly FIREWALL_ENTRY=10-firewall
-readonly ENTRIES="$KDE_ENTRY $GNOME_ENTRY $RESOLVED_ENTRY $RESOLVER_ENTRY $TOR_ENTRY $FIREWALL_ENTRY"   # in the order of undoing
+readonly ENTRIES="$KDE_ENTRY $GNOME_ENTRY $RESOLVED_ENTRY $RESOLVER_ENTRY $TOR_ENTRY $WATCHER_ENTRY $EXEMPT_ENTRY $FIREWALL_ENTRY"   # in the order of undoing
 
 ON_FAILURE=''   # "undo" while a failure must put everything back; empty before the first change and where the
                 # kill switch stays closed
@@ -44,8 +44,10 @@ put_marker() {
 
 # switch_firewall MODE: marker and rules belong together, the marker first.
 switch_firewall() {
+  hold_rules || die "Somebody else is changing the firewall. Try again in a moment."
   put_marker "$1"
   put_firewall "$1"
+  release_rules
 }
 
 linux_connect() {
@@ -72,10 +74,12 @@ linux_connect() {
     ON_FAILURE=undo
   fi
   journal_has "$FIREWALL_ENTRY" || journal_put "$FIREWALL_ENTRY" "table $TABLE" || die "The journal cannot be written."
+  [[ $mode != strict ]] || ready_exempt
   if [[ $former != strict || $mode == strict ]]; then
     switch_firewall "$mode"
   fi
   if [[ $mode == strict ]]; then
+    start_watcher
     ON_FAILURE=
     STAYS_CLOSED=" The network stays blocked until you disconnect."
   fi
@@ -85,7 +89,9 @@ linux_connect() {
   put_resolved || true   # the firewall redirects what its links ask
   put_proxy
   if [[ $former == strict && $mode == proxy ]]; then
+    undo_entry "$WATCHER_ENTRY" || true
     switch_firewall proxy
+    undo_entry "$EXEMPT_ENTRY" || true
   fi
   ON_FAILURE=
 }
@@ -109,6 +115,8 @@ undo_entry() {
   "$RESOLVED_ENTRY") undo_resolved ;;
   "$RESOLVER_ENTRY") undo_resolver ;;
   "$TOR_ENTRY") undo_tor ;;
+  "$WATCHER_ENTRY") undo_watcher ;;
+  "$EXEMPT_ENTRY") undo_exempt ;;
   "$FIREWALL_ENTRY") undo_firewall ;;
   esac || return 1
   journal_drop "$name"
@@ -127,11 +135,11 @@ undo_session() {
     UNDONE='' status=0
     undo_entry "$name" || status=$?
     ((status == 0)) || reason=${reason:-${UNDONE:-The former network settings could not all be restored.}}
-    # The desktop's settings are not the network: they are tried again by the next run, without a session.
-    [[ $status != 1 || $name == "$GNOME_ENTRY" || $name == "$KDE_ENTRY" ]] || open=''
+    # The desktop's settings and the group are not the network: they are tried again by the next run.
+    [[ $status != 1 || $name == "$GNOME_ENTRY" || $name == "$KDE_ENTRY" || $name == "$EXEMPT_ENTRY" ]] || open=''
   done
-  [[ -z $open ]] || rm -f -- "$MARKER" "$RULES"
-  rm -f -- "$MARKER.new" "$RULES.new" "$TORRC.checked" "$JOURNAL"/*.new
+  [[ -z $open ]] || rm -f -- "$MARKER" "$RULES" "$LISTED"
+  rm -f -- "$MARKER.new" "$RULES.new" "$LISTED.new" "$WATCHER" "$WATCHER.new" "$RELOCKED" "$RELOCKED.new" "$TORRC.checked" "$JOURNAL"/*.new
   UNDONE=$reason
   [[ -z $reason ]]
 }
@@ -145,8 +153,13 @@ linux_fix-dns() {
   trap finish EXIT
   { [[ -f $MARKER ]] && folders_are_safe; } || die "Veldmark is not connected, so the DNS settings were left alone."
   if [[ -f $RULES ]]; then
+    hold_rules || die "Somebody else is changing the firewall. Try again in a moment."
+    make_group || true
     load_rules "$(<"$RULES")"
+    note_listing || die "The file $LISTED cannot be written."
+    release_rules
   fi
+  [[ $(read_marker) != strict ]] || watcher_runs || start_watcher
   read_resolver
   put_resolver
   put_resolved || die "The DNS servers of systemd-resolved cannot be changed."

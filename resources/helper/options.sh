@@ -6,6 +6,7 @@ OPT_TOR='' OPT_HASH='' OPT_STRICT='' OPT_LAN='' OPT_EXIT=''
 OPT_BRIDGES=()
 OPT_LYREBIRD='' OPT_SNOWFLAKE='' OPT_WEBTUNNEL=''
 OPT_USER='' OPT_LAUNCH=''
+OPT_UID='' OPT_APP=''
 
 readonly MAX_BRIDGES=100
 readonly MAX_VALUE=4096   # bytes
@@ -43,6 +44,8 @@ parse_options() {
     --pt-webtunnel) take OPT_WEBTUNNEL "$option" "$value" ;;
     --user) take OPT_USER "$option" "$value" ;;
     --launch) take OPT_LAUNCH "$option" "$value" ;;
+    --uid) take OPT_UID "$option" "$value" ;;
+    --app) take OPT_APP "$option" "$value" ;;
     --bridge)
       ((${#OPT_BRIDGES[@]} < MAX_BRIDGES)) || die "More than $MAX_BRIDGES bridges were given."
       OPT_BRIDGES[${#OPT_BRIDGES[@]}]=$value

@@ -1,7 +1,7 @@
 """A private machine for tests of the root helper.
 
 Machine is a set of namespaces (network, mounts, processes) in which the helper may do whatever it does: /etc and
-/usr/local are overlays, /run, /var/lib and /home are empty and in memory, and Tor has `DisableNetwork 1` from
+/usr/local are overlays, /run, /var/lib and /home are empty and in memory, its control groups are its own, and Tor has `DisableNetwork 1` from
 /etc/tor/torrc-defaults. There is no network device but the loopback one, unless a Peer is attached. Nothing of it
 is visible outside, and everything goes when the process that made it ends.
 
@@ -13,6 +13,7 @@ import os
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 
 HERE = os.path.dirname(os.path.abspath(__file__))
@@ -37,6 +38,9 @@ for place in etc usr/local; do
   mkdir -p "/mnt/$name/upper" "/mnt/$name/work"
   mount -t overlay -o "lowerdir=/$place,upperdir=/mnt/$name/upper,workdir=/mnt/$name/work" private "/$place"
 done
+umount --lazy --recursive /sys/fs/cgroup
+mkdir -p /sys/fs/cgroup 2>/dev/null || true
+mount -t cgroup2 private /sys/fs/cgroup
 for place in /run /var/lib /home; do mount -t tmpfs -o mode=755 private "$place"; done
 mkdir -p /etc/tor /etc/sudoers.d
 echo 'DisableNetwork 1' >/etc/tor/torrc-defaults
@@ -74,14 +78,25 @@ def helper_path():
     return path
 
 
+def make_control_group():
+    """A group of this run's own in the machine's cgroup v2 tree; its folder."""
+    with open("/proc/self/mountinfo", encoding="ascii") as mounts:
+        trees = [line.split()[4] for line in mounts if line.split(" - ")[1].startswith("cgroup2 ") and line.split()[3] == "/"]
+    if not trees:
+        print("The helper's tests need control groups of version 2.")
+        sys.exit(77)
+    return tempfile.mkdtemp(prefix=f"veldmark-test-{os.getpid()}-", dir=trees[0])
+
+
 class Machine:
     """Use with `with`. run() and start() execute in it as root, or as another user by their `uid`."""
 
     def __init__(self):
         self.helper = helper_path()
+        self.group = make_control_group()
         self.init = subprocess.Popen(
-            ["setpriv", "--pdeathsig", "KILL",   # ends with the test, however that ends
-             "unshare", "--net", "--mount", "--propagation", "private", "--pid", "--fork", "--kill-child",
+            [*self.in_group(), "setpriv", "--pdeathsig", "KILL",   # ends with the test, however that ends
+             "unshare", "--cgroup", "--net", "--mount", "--propagation", "private", "--pid", "--fork", "--kill-child",
              "/bin/bash", "-c", SETUP + 'exec /usr/bin/python3 -c "$1"', "setup", INIT],
             stdout=subprocess.PIPE,
         )
@@ -101,9 +116,27 @@ class Machine:
     def close(self):
         self.init.kill()   # its child, the first process of the machine, dies with it
         self.init.wait()
+        self.remove_group()
+
+    def remove_group(self):
+        """Once the last process of the machine has gone, which takes the kernel a moment."""
+        deadline = time.monotonic() + 10
+        while True:
+            try:
+                for folder, _, _ in os.walk(self.group, topdown=False):
+                    os.rmdir(folder)
+                return
+            except OSError:
+                if time.monotonic() > deadline:
+                    raise
+                time.sleep(0.01)
+
+    def in_group(self):
+        """What a command begins with to run in the machine's control group."""
+        return ["/bin/sh", "-c", 'echo 0 >"$0/cgroup.procs" && exec "$@"', self.group]
 
     def command(self, words, uid=0):
-        inside = ["nsenter", "--target", str(self.pid), "--net", "--mount", "--pid", "--wd=/"]
+        inside = [*self.in_group(), "nsenter", "--target", str(self.pid), "--cgroup", "--net", "--mount", "--pid", "--wd=/"]
         if uid:
             inside += ["setpriv", f"--reuid={uid}", f"--regid={uid}", "--clear-groups"]
         return inside + list(words)
@@ -142,8 +175,13 @@ class Machine:
     def tor_pids(self):
         return self.shell("pgrep -u _veldmark || true").split()
 
+    def end_watcher(self):
+        """As a restart of the computer ends it."""
+        self.shell("pid=$(pgrep -f /watcher[.]sh); kill -9 $pid; while [ -e /proc/$pid ] || pgrep -x nft; do :; done")
+
     def processes(self):
-        """The command lines of what runs in the machine, sorted; the dead that nobody has waited for not counted."""
+        """The command lines of what runs in the machine, sorted; not the dead that nobody has waited for, nor the
+        watcher's looks at the rules, which come and go."""
         own = os.readlink(f"/proc/{self.pid}/ns/net")
         lines = []
         for pid in filter(str.isdigit, os.listdir("/proc")):
@@ -152,7 +190,7 @@ class Machine:
                     continue
                 with open(f"/proc/{pid}/cmdline", "rb") as file:
                     line = file.read().replace(b"\0", b" ").decode(errors="replace")
-                if line:
+                if line and not line.startswith(("nft -s list table ", "setpriv --pdeathsig KILL nft ")):
                     lines.append(line.replace("\n", " ") + "\n")
             except OSError:
                 pass
@@ -164,6 +202,7 @@ class Machine:
             echo "# rules";     nft list ruleset
             echo "# resolver";  stat -L -c '%F %a %u %g %s' /etc/resolv.conf; cat /etc/resolv.conf; readlink /etc/resolv.conf
             echo "# mounts";    cut -d' ' -f 4- /proc/self/mountinfo | sort
+            echo "# groups";    find /sys/fs/cgroup -type d | sort
             echo "# ports";     ss -Hltun | awk '{print $1, $5}' | sort
             echo "# etc";       find /etc /usr/local -newer /run/user -type f ! -path /etc/resolv.conf -exec md5sum {} + 2>/dev/null | sort -k2
             echo "# home";      find /home -printf '%p %y %m %U %l\n' | sort; find /home -type f -exec md5sum {} + | sort -k2

@@ -165,6 +165,7 @@ class Session(HelperTest):
     def test_marker_from_before_a_restart_promises_nothing(self):
         """The kill switch is gone: a connect that fails must not say that the network is blocked."""
         self.machine.connect(strict=1)
+        self.machine.end_watcher()
         self.machine.shell("kill -9 $(pgrep -u _veldmark); umount /etc/resolv.conf; nft delete table inet veldmark")
         holder = self.take_port(9051)
         done = self.machine.connect(strict=0, check=False)
@@ -201,6 +202,7 @@ class Session(HelperTest):
 
     def test_disconnect_after_a_restart_of_the_computer(self):
         self.machine.connect()
+        self.machine.end_watcher()
         self.machine.shell("kill -9 $(pgrep -u _veldmark); umount /etc/resolv.conf; nft delete table inet veldmark;"
                            "sed -i 's/^boot .*/boot other/' /var/lib/veldmark/journal/20-tor; rm /run/veldmark.lock")
         self.machine.help("disconnect")
@@ -253,6 +255,7 @@ class Session(HelperTest):
     def test_fix_dns_puts_back_the_mount_and_flushed_rules(self):
         self.machine.connect()
         during = self.machine.snapshot()
+        self.machine.end_watcher()
         self.machine.shell("umount /etc/resolv.conf; nft flush ruleset")
         self.assertNotEqual(self.machine.snapshot(), during)
         self.machine.help("fix-dns")

@@ -251,6 +251,5 @@ private Q_SLOTS:
     }
 };
 
-Q_DECLARE_METATYPE(veldmark::Snapshot)
 QTEST_MAIN(PanelModelTest)
 #include "PanelModelTest.moc"

@@ -1,0 +1,142 @@
+
+# ---- Linux: applications that go past Tor ------------------------------------------------------------------
+# They run in a control group of their own, directly below the root of the cgroup v2 tree, which only root can put
+# processes into. The firewall lets out what a socket made there sends. Children stay in it. It exists before the
+# rules that name it and goes at disconnect.
+
+readonly EXEMPT_ENTRY=12-exempt
+readonly EXEMPT_NAME=veldmark-exempt
+readonly CGROUPS=/sys/fs/cgroup   # below it nft looks for a group by name
+readonly LAUNCHER_SECONDS=20
+readonly MOVE_ROUNDS=50           # processes may fork while they are moved out
+
+EXEMPT_FOLDER=''   # the group's folder; empty where the system has no such groups
+EXEMPT_PATH=''     # the same below $CGROUPS; empty when the rules must not name it
+
+# find_exempt: sets EXEMPT_FOLDER. The tree's own root must be mounted, so that the group is of the first level.
+find_exempt() {
+  local root point kind rest
+  EXEMPT_FOLDER=''
+  while read -r rest rest rest root point rest; do
+    kind=${rest#*" - "}
+    [[ ${kind%% *} == cgroup2 && $root == / && $point =~ ^$CGROUPS(/[a-z]+)?$ ]] || continue
+    EXEMPT_FOLDER=$point/$EXEMPT_NAME
+  done </proc/self/mountinfo
+  [[ -n $EXEMPT_FOLDER ]]
+}
+
+make_group() {
+  find_exempt || return 1
+  [[ -d $EXEMPT_FOLDER ]] || mkdir -m 0755 -- "$EXEMPT_FOLDER"
+}
+
+# make_exempt: makes the group unless it is there, and sets EXEMPT_PATH; empty where there can be none, and then
+# nothing is exempt.
+make_exempt() {
+  EXEMPT_PATH=''
+  make_group || return 0
+  [[ $(stat -c '%u %a' -- "$EXEMPT_FOLDER") == "0 755" ]] || return 0
+  EXEMPT_PATH=${EXEMPT_FOLDER#"$CGROUPS"/}
+  # Kernels before 5.13 do not know the match.
+  nft -c -f - <<<"table inet $TABLE-check { chain output { socket cgroupv2 level 1 \"$EXEMPT_PATH\" accept; }; }" || EXEMPT_PATH=''
+}
+
+ready_exempt() {
+  find_exempt || return 0
+  journal_has "$EXEMPT_ENTRY" || journal_put "$EXEMPT_ENTRY" "group $EXEMPT_NAME" || die "The journal cannot be written."
+  make_exempt
+}
+
+# own_group: prints the folder of the group that this run is in, which is the caller's session; the tree's root when
+# that is the exempt group itself.
+own_group() {
+  local line path=/
+  while IFS= read -r line; do
+    [[ $line != 0::/* ]] || path=${line#0::}
+  done </proc/self/cgroup
+  [[ $path != "/$EXEMPT_NAME" && $path != *..* && -d ${EXEMPT_FOLDER%/*}$path ]] || path=/
+  printf '%s' "${EXEMPT_FOLDER%/*}$path"
+}
+
+# undo_exempt: what still runs there goes on in the caller's group. The network is the user's business by then.
+undo_exempt() {
+  local round pid home
+  find_exempt && [[ -d $EXEMPT_FOLDER ]] || return 0
+  home=$(own_group)
+  for ((round = 0; round < MOVE_ROUNDS; round++)); do
+    while read -r pid; do
+      printf '%s\n' "$pid" >"$home/cgroup.procs" || printf '%s\n' "$pid" >"${EXEMPT_FOLDER%/*}/cgroup.procs" || true
+    done <"$EXEMPT_FOLDER/cgroup.procs"
+    rmdir -- "$EXEMPT_FOLDER" && return 0
+    sleep 0.02
+  done
+  UNDONE="The control group of the applications without Tor could not be removed."
+  return 1
+}
+
+# find_launcher: sets LAUNCHER to the program that reads the application's entry. It runs with the caller's rights
+# only, so it does not matter who may change it.
+LAUNCHER=''
+find_launcher() {
+  local path
+  for path in "${SELF%/*}/veldmark-launch" /usr/bin/veldmark-launch; do
+    LAUNCHER=$path
+    [[ ! -f $path || ! -x $path ]] || return 0
+  done
+  return 1
+}
+
+# Runs as root in the new mount namespace: RESOLVERS TARGET COMMAND... COMMAND gives up root. Names are looked up by
+# the resolvers as they were before the switch.
+# shellcheck disable=SC2016
+readonly BESIDE='
+set -eu
+if [ -n "$2" ] && [ -e "$2" ] && [ -e "$1" ]; then mount --bind -- "$1" "$2"; fi
+shift 2
+for socket in /run/systemd/resolve/io.systemd.Resolve /run/nscd/socket; do
+  if [ -S "$socket" ]; then mount --bind /dev/null "$socket"; fi
+done
+exec "$@"
+'
+
+# run_launcher PATH: runs in a subshell that becomes the launcher: into the group, then groups, group, user.
+run_launcher() {
+  local groups
+  groups=$(id -G -- "$CALLER_NAME") && [[ $groups =~ ^[0-9\ ]+$ ]] || return 1
+  printf '0\n' >"$EXEMPT_FOLDER/cgroup.procs" || return 1
+  exec 8>&- 9>&-
+  exec timeout -k 1 "$LAUNCHER_SECONDS" env -i --default-signal PATH="$PATH" LC_ALL=C \
+    unshare --mount --propagation slave /bin/bash -p -c "$BESIDE" beside "$TOR_RESOLVER" "$RESOLVER_TARGET" \
+    setpriv --regid "$CALLER_GID" --groups "${groups// /,}" \
+    setpriv --reuid "$CALLER_UID" --inh-caps=-all --ambient-caps=-all \
+    env -i "$LAUNCHER" --app "$1"
+}
+
+# linux_launch: the application as the caller and nobody else. A prompt is needed each time, also under the
+# password-free rule: else any program of the user's could leave unseen while the kill switch is said to stand.
+linux_launch() {
+  local words
+  parse_options " --uid --app " "$@"
+  [[ -n $OPT_UID ]] || die "The option --uid is missing."
+  [[ -n $OPT_APP ]] || die "The option --app is missing."
+  is_uid "$OPT_UID" || die "The user id is not a number."
+  [[ $OPT_UID == "$CALLER_UID" ]] || die "Applications can be opened for the user who asks only."
+  [[ $OPT_UID != 0 ]] || die "Applications are not opened as root."
+  [[ $OPT_APP == /* ]] || die "The path given with --app is not absolute."
+  [[ -n $PROMPTED ]] || die "An administrator password is needed to open an application without Tor."
+  need_programs flock nft setpriv unshare mount stat timeout
+  find_launcher || die "The program veldmark-launch is missing."
+  take_lock
+  trap finish EXIT
+  read_accounts
+  [[ -n $CALLER_NAME && $CALLER_GID =~ ^[0-9]+$ ]] || die "The user with the id $CALLER_UID is not known on this system."
+  { folders_are_safe && [[ $(read_marker) == strict ]] && kill_switch_stands; } ||
+    die "The kill switch is not on, so there is nothing to open the application past."
+  { find_exempt && [[ -d $EXEMPT_FOLDER && $(<"$RULES") == *"\"${EXEMPT_FOLDER#"$CGROUPS"/}\""* ]]; } ||
+    die "Applications cannot be opened without Tor on this system."
+  read_resolver
+  words=$(run_launcher "$OPT_APP" 2>&1 </dev/null | head -c 2000) && return 0
+  words=${words%%$'\n'*}
+  words=${words//[[:cntrl:]]/ }
+  die "${words:-The application could not be started.}"
+}

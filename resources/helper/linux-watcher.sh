@@ -1,0 +1,120 @@
+
+# ---- Linux: the watcher over the firewall ------------------------------------------------------------------
+# While a strict session lasts, a process of root's waits for the kernel's word that rules have changed. When ours are
+# not as they were loaded, it loads them again and leaves a note for the application. It outlives the application and
+# the helper's run, and ends at disconnect. What it runs is written into our own folder, so that it depends on no file
+# that anybody else could have changed since.
+
+readonly WATCHER_ENTRY=15-watcher
+readonly WATCHER=$RUN/watcher.sh          # 0600
+readonly RELOCKED=$STATE/relocked         # 0644; "restored COUNT" or "open COUNT": how often rules were missed
+readonly WATCH_SECONDS=3                  # a look without any word from the kernel
+
+# rules_stand: whether the kernel holds our table as it was loaded.
+rules_stand() {
+  local now
+  now=$(nft -s list table inet "$TABLE") && [[ $now == "$(<"$LISTED")" ]]
+}
+
+# relock: the rules again, unless a run of the helper has changed or opened them meanwhile.
+RELOCKS=0
+relock() {
+  local word=restored text
+  hold_rules || return 0
+  if [[ $(read_marker) == strict ]] && ! rules_stand; then
+    text=$(<"$RULES")
+    make_group || true   # the rules name it, and it may be gone
+    if ! nft -f - <<<"$text"; then
+      # Without its group the exemption cannot be loaded; the lock can.
+      nft -f - <<<"$(print_unexempt "$text")" || word=open
+    fi
+    [[ $word == open ]] || note_listing || true
+    RELOCKS=$((RELOCKS + 1))
+    write_file "$RELOCKED" 0644 root "$word $RELOCKS"$'\n' || true
+  fi
+  release_rules
+}
+
+# print_unexempt TEXT: the rules without those that name the exempt group.
+print_unexempt() {
+  local line
+  while IFS= read -r line; do
+    [[ $line == *"socket cgroupv2"* ]] || printf '%s\n' "$line"
+  done <<<"$1"
+}
+
+watch_rules() {
+  local status many
+  exec 4< <(exec setpriv --pdeathsig KILL nft monitor)
+  while [[ $(read_marker) == strict ]]; do
+    rules_stand || relock
+    status=0
+    IFS= read -r -t "$WATCH_SECONDS" -u 4 _ || status=$?
+    if ((status == 0)); then
+      # One look for all that came at once.
+      for ((many = 0; many < 1000; many++)); do
+        IFS= read -r -t 0.001 -u 4 _ || break
+      done
+    elif ((status <= 128)); then
+      sleep "$WATCH_SECONDS"   # the kernel tells nothing (any more): look on, and ask again
+      exec 4< <(exec setpriv --pdeathsig KILL nft monitor)
+    fi
+  done
+}
+
+print_watcher() {
+  printf 'set -uo pipefail\numask 077\nPATH=%s\nLC_ALL=C\nexport PATH LC_ALL\ncd /\n' "$PATH"
+  declare -p TABLE RULES LISTED RULES_LOCK MARKER RELOCKED WATCH_SECONDS EXEMPT_NAME CGROUPS
+  printf 'RELOCKS=0 EXEMPT_FOLDER=\n'
+  declare -f read_marker write_file hold_rules release_rules note_listing rules_stand find_exempt make_group \
+    print_unexempt relock watch_rules
+  printf 'watch_rules\n'
+}
+
+# launch_watcher: the background half; like Tor it writes its own journal entry and holds the lock until then.
+launch_watcher() {
+  local pid line fd
+  IFS= read -r line </proc/self/stat
+  pid=${line%% *}
+  start_time "$pid" &&
+    journal_put "$WATCHER_ENTRY" "pid $pid" "start $START_TIME" "boot $(boot_id)" || exit 1
+  for fd in /proc/self/fd/*; do
+    fd=${fd##*/}
+    if ((fd > 2 && fd != 255)); then exec {fd}>&-; fi
+  done
+  exec env -i --default-signal PATH="$PATH" LC_ALL=C setsid /bin/bash -p -- "$WATCHER"
+}
+
+start_watcher() {
+  undo_entry "$WATCHER_ENTRY" || true
+  write_file "$WATCHER" 0600 root "$(print_watcher)"$'\n' || die "The file $WATCHER cannot be written."
+  launch_watcher </dev/null >/dev/null 2>&1 &
+}
+
+# undo_watcher: it never waits for us, so it is killed at once. A change of rules that it was in the middle of keeps
+# the rules' lock, so that the firewall opens after that.
+undo_watcher() {
+  local pid start child poll
+  rm -f -- "$RELOCKED" "$WATCHER"
+  pid=$(journal_value pid) && start=$(journal_value start) || return 0
+  [[ $pid =~ ^[1-9][0-9]{0,9}$ && $start =~ ^[0-9]{1,20}$ && $(journal_value boot) == "$(boot_id)" ]] || return 0
+  start_time "$pid" && [[ $START_TIME == "$start" ]] || return 0
+  read_children "$pid"
+  kill -KILL "$pid" || true
+  for child in $CHILDREN; do
+    kill -KILL "$child" || true
+  done
+  for ((poll = 0; poll < STOP_POLLS; poll++)); do
+    start_time "$pid" && [[ $START_TIME == "$start" ]] || return 0
+    sleep 0.02
+  done
+  return 0
+}
+
+# watcher_runs: whether the watcher of the journal is alive.
+watcher_runs() {
+  local pid start
+  journal_read "$WATCHER_ENTRY" || return 1
+  pid=$(journal_value pid) && start=$(journal_value start) || return 1
+  [[ $pid =~ ^[1-9][0-9]{0,9}$ ]] && start_time "$pid" && [[ $START_TIME == "$start" ]]
+}

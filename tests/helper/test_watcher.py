@@ -1,0 +1,125 @@
+"""The watcher over the firewall: whatever somebody does to our rules while a strict session lasts is undone at once."""
+
+import os
+import subprocess
+import time
+
+import namespace
+from namespace import HelperTest
+
+LIMIT = 5.0   # seconds from the change to the rules in force again
+RELOCKED = "/var/lib/veldmark/state/relocked"
+
+
+class Watcher(HelperTest):
+    def setUp(self):
+        self.before = self.machine.snapshot()
+        self.machine.connect()
+        # It has looked once: then its ear is open.
+        self.machine.shell("until pgrep -x nft >/dev/null; do :; done")
+        self.rules = self.listing()
+
+    def tearDown(self):
+        self.machine.help("disconnect")
+        self.assertEqual(self.machine.snapshot(), self.before)
+
+    def listing(self):
+        return self.machine.run("nft", "-s", "list", "table", "inet", "veldmark", check=False).stdout
+
+    def seconds_until_locked(self, change):
+        self.machine.shell(change)
+        started = time.monotonic()
+        while self.listing() != self.rules:
+            self.assertLess(time.monotonic() - started, LIMIT, change)
+        return time.monotonic() - started
+
+    def note(self):
+        path = f"/proc/{self.machine.pid}/root{RELOCKED}"
+        deadline = time.monotonic() + LIMIT
+        while not os.path.exists(path):
+            self.assertLess(time.monotonic(), deadline)
+        with open(path, encoding="ascii") as file:
+            return file.read()
+
+    def test_every_change_is_undone(self):
+        changes = {
+            "flushed": "nft flush ruleset",
+            "deleted": "nft delete table inet veldmark",
+            "emptied": "nft flush chain inet veldmark output",
+            "opened by policy": "nft chain inet veldmark output '{ policy accept; }'",
+            "opened by a rule": "nft insert rule inet veldmark output accept",
+            "opened for forwarding": "nft add rule inet veldmark forward accept",
+            "without the redirect": "nft flush chain inet veldmark redirect_dns",
+            "replaced": "printf 'table inet veldmark\\ndelete table inet veldmark\\ntable inet veldmark { chain output { }; }\\n' | nft -f -",
+            "dormant": "nft add table inet veldmark '{ flags dormant; }'",
+        }
+        for name, change in changes.items():
+            with self.subTest(name):
+                before = self.listing()
+                self.assertEqual(before, self.rules)
+                print(f"{name}: {self.seconds_until_locked(change) * 1000:.0f} ms", flush=True)
+
+    def test_it_looks_also_when_the_kernel_tells_nothing(self):
+        self.machine.shell("pkill -STOP -x nft")
+        self.seconds_until_locked("nft flush ruleset")
+        self.machine.shell("pkill -CONT -x nft")
+
+    def test_the_change_is_told(self):
+        self.assertEqual(self.machine.shell(f"cat {RELOCKED} 2>/dev/null || true"), "")
+        self.seconds_until_locked("nft flush ruleset")
+        self.assertEqual(self.note(), "restored 1\n")
+
+    def test_a_change_that_cannot_be_undone_is_told(self):
+        """Somebody replaces nft itself: the worst, and said so."""
+        self.machine.shell("printf '#!/bin/sh\\nexit 1\\n' >/mnt/nft; chmod +x /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft")
+        try:
+            self.assertEqual(self.note(), "open 1\n")
+        finally:
+            self.machine.shell("umount /usr/sbin/nft; rm /mnt/nft")
+
+    def test_other_peoples_tables_are_left_alone(self):
+        self.machine.shell("nft add table inet other; nft add chain inet other c")
+        self.seconds_until_locked("nft delete table inet veldmark")
+        self.machine.shell("nft list table inet other; nft delete table inet other")
+
+    def test_a_removed_group_does_not_keep_the_lock_open(self):
+        self.seconds_until_locked("rmdir /sys/fs/cgroup/veldmark-exempt; nft flush ruleset")
+
+    def test_proxy_mode_has_none(self):
+        self.machine.connect(strict=0)
+        self.assertEqual(self.machine.shell("pgrep -f /watcher[.]sh || true"), "")
+        self.assertFalse(self.machine.shell("ls /sys/fs/cgroup | grep veldmark || true"))
+
+    def test_a_second_connect_leaves_one(self):
+        self.machine.connect(lan=1)
+        self.machine.shell("flock /run/veldmark.lock true")
+        self.assertEqual(len(self.machine.shell("pgrep -f /watcher[.]sh").split()), 1)
+        self.rules = self.listing()
+        self.machine.shell("until pgrep -x nft >/dev/null; do :; done")
+        self.seconds_until_locked("nft flush ruleset")
+
+    def test_a_killed_one_is_started_again_by_fix_dns(self):
+        self.machine.end_watcher()
+        self.machine.help("fix-dns")
+        self.machine.shell("until pgrep -f /watcher[.]sh && pgrep -x nft; do :; done >/dev/null")
+        self.seconds_until_locked("nft flush ruleset")
+
+    def test_disconnecting_against_a_flusher_leaves_nothing(self):
+        """The lock must not come back after the network was opened."""
+        for _ in range(5):
+            flusher = self.machine.start("/bin/sh", "-c", "while nft flush ruleset; do :; done", stderr=subprocess.DEVNULL)
+            self.machine.help("disconnect")
+            flusher.kill()
+            flusher.wait()
+            self.machine.shell("pkill -f 'while nft flush' || true; while pgrep -x nft; do :; done")
+            self.assertEqual(self.machine.snapshot(), self.before)
+            self.machine.connect()
+
+    def test_nothing_of_the_session_shows_in_its_command_line(self):
+        pid = self.machine.shell("pgrep -f /watcher[.]sh").strip()
+        self.assertEqual(self.machine.shell(f"tr '\\0' ' ' </proc/{pid}/cmdline"), "/bin/bash -p -- /var/lib/veldmark/run/watcher.sh ")
+        self.assertNotIn("veldmark.lock", self.machine.shell(f"ls -l /proc/{pid}/fd"))
+
+
+if __name__ == "__main__":
+    namespace.main()
