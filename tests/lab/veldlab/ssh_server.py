@@ -3,8 +3,8 @@
 Debian's package need not be installed, only unpacked (dpkg -x): VELDMARK_SSHD names the folder. The server has accounts of its own in
 a mount namespace of its own, so nothing of the machine's is used or changed.
 
-    with SshServer(lab.world.space, "203.0.113.37") as server:
-        server.folder            # as the caller reaches it; the account's home is server.home in there
+    with SshServer(lab.world.space, "203.0.113.37", public_key) as server:
+        server.folder            # as the caller reaches it; the account's home is "home" in there
 """
 
 import contextlib
@@ -48,7 +48,7 @@ class SshServer(contextlib.AbstractContextManager):
         script = ('set -e; mkdir -p /run/sshd; chmod 755 /run/sshd; '
                   f'for name in {" ".join(_NAME_FILES)}; do mount --bind "$1/$name" "/etc/$name"; done; '
                   'exec env LD_LIBRARY_PATH="$3" "$2" -D -e -f "$1/config"')
-        libraries = f"{ROOT}/lib/x86_64-linux-gnu:{ROOT}/usr/lib/x86_64-linux-gnu"
+        libraries = ":".join(str(folder) for folder in ROOT.glob("usr/lib/*-linux-gnu*"))
         self._process = space.popen(
             ["unshare", "--mount", "--propagation", "private", "/bin/sh", "-c", script, "sshd", inside, str(daemon()), libraries],
             stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True)
