@@ -732,6 +732,22 @@
         <source>DNS: settings point at Tor, but a test lookup couldn't be confirmed.</source>
         <translation>DNS: Die Einstellungen zeigen auf Tor, aber eine Testabfrage ließ sich nicht bestätigen.</translation>
     </message>
+    <message>
+        <source>This computer</source>
+        <translation>Dieser Computer</translation>
+    </message>
+    <message>
+        <source>This Mac</source>
+        <translation>Dieser Mac</translation>
+    </message>
+    <message>
+        <source>on this computer</source>
+        <translation>auf diesem Computer</translation>
+    </message>
+    <message>
+        <source>on this Mac</source>
+        <translation>auf diesem Mac</translation>
+    </message>
 </context>
 <context>
     <name>SettingsWindow</name>

@@ -33,7 +33,6 @@ int main(int argc, char **argv)
         qputenv("QT_QUICK_BACKEND", "software");
     QApplication application(argc, argv);
     application.setApplicationName(QStringLiteral("veldmark"));
-    application.setApplicationDisplayName(QStringLiteral("Veldmark"));
     application.setApplicationVersion(QStringLiteral(VELDMARK_VERSION));
     application.setDesktopFileName(QStringLiteral("veldmark"));
     application.setQuitOnLastWindowClosed(false);

@@ -26,6 +26,12 @@ JsonLines::JsonLines(QLocalSocket *socket) : m_socket(socket)
     QObject::connect(socket, &QLocalSocket::disconnected, this, &JsonLines::onDisconnected);
 }
 
+// The socket says that it has been disconnected when it is destroyed, and by then nobody may listen.
+JsonLines::~JsonLines()
+{
+    m_socket->disconnect(this);
+}
+
 // Takes as many lines as there is room for; next() comes back for the others.
 void JsonLines::read()
 {

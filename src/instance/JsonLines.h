@@ -22,6 +22,7 @@ class JsonLines : public QObject, public std::enable_shared_from_this<JsonLines>
 public:
     static constexpr qsizetype lineLimitBytes = 4 * 1024 * 1024;
 
+    ~JsonLines() override;
     // Takes the socket over.
     static std::shared_ptr<JsonLines> over(QLocalSocket *socket);
 

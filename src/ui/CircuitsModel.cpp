@@ -41,6 +41,11 @@ CircuitsModel::CircuitsModel(Session &session, QObject *parent)
     QObject::connect(&session, &Session::changed, this, &CircuitsModel::update);
 }
 
+QString CircuitsModel::computer() const
+{
+    return SessionTexts::translated(m_session.profile().computer);
+}
+
 void CircuitsModel::update()
 {
     if (m_shown != circuits()) {

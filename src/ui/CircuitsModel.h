@@ -58,7 +58,7 @@ public:
     QVariantList steps() const;
 
     const std::vector<CircuitInfo> &circuits() const { return m_session.now().circuits; }
-    QString computer() const { return m_session.profile().computer; }
+    QString computer() const;
 
     Q_INVOKABLE void newIdentity() { m_session.newIdentity(); }
     Q_INVOKABLE void findFaster() { m_session.findFasterCircuits(); }

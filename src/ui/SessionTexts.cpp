@@ -23,6 +23,10 @@ namespace {
                                  "leaked. Reconnect, or Restore Network to go back online."),
     QT_TRANSLATE_NOOP("Session", "Tor stopped running. Apps using the proxy can't connect until you reconnect "
                                  "or Restore Network."),
+    QT_TRANSLATE_NOOP("Session", "This computer"),
+    QT_TRANSLATE_NOOP("Session", "This Mac"),
+    QT_TRANSLATE_NOOP("Session", "on this computer"),
+    QT_TRANSLATE_NOOP("Session", "on this Mac"),
     QT_TRANSLATE_NOOP("Session", "Any (recommended)"),
     QT_TRANSLATE_NOOP("Session", "United States"),
     QT_TRANSLATE_NOOP("Session", "Canada"),

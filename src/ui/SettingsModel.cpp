@@ -96,6 +96,11 @@ QString SettingsModel::terminalExplanation() const
               "connected with Terminal mode on.");
 }
 
+QString SettingsModel::onComputer() const
+{
+    return SessionTexts::translated(m_session.profile().onComputer);
+}
+
 bool SettingsModel::canRestore() const
 {
     const Phase phase = now().phase;

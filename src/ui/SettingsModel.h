@@ -58,7 +58,7 @@ public:
     QString torPlace() const;
     bool torCustom() const { return !now().choices.customTorPath.isEmpty(); }
     QUrl torFolder() const; // where a chooser starts
-    QString onComputer() const { return m_session.profile().onComputer; }
+    QString onComputer() const;
 
     bool lyrebird() const { return now().transports.lyrebird.has_value(); }
     bool snowflake() const { return now().transports.snowflake.has_value(); }

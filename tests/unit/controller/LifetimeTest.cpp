@@ -1,6 +1,7 @@
 #include "support/NameLookups.h"
 #include "support/Workbench.h"
 
+#include <QCoreApplication>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -305,19 +306,49 @@ private Q_SLOTS:
         QCOMPARE(bench.clock.sleepers(), std::size_t(0));
     }
 
-    void anAnswerThatIsAlreadyHereFindsNoControlPort()
+    // An answer may be here already, and only wait for its turn, when everything goes.
+    void orAtAnyTurnOfTheLoop_data()
     {
-        Workbench bench;
-        QVERIFY(bench.connect());
-        showCircuit(bench);
-        const QByteArray question = "GETINFO ns/id/" + relay;
-        bench.controller().refreshCircuits();
-        // In the very turn in which the reply has been sent, the program ends.
-        QVERIFY(bench.hears(question.constData()));
-        bench.end();
-        bench.controlPort.reset();
-        settle();
-        QVERIFY(!bench.tor.commands().contains(u"GETINFO ip-to-country/192.0.2.2"_s));
+        QTest::addColumn<QString>("operation");
+        for (const char *name : {"connect", "refreshCircuits", "runChecks", "optimizeCircuits", "newCircuit"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+
+    void orAtAnyTurnOfTheLoop()
+    {
+        QFETCH(QString, operation);
+        for (int turns = 0; turns < 16; ++turns) {
+            Workbench bench;
+            TorController &c = bench.controller();
+            showCircuit(bench);
+            bench.tor.reply("GETINFO ip-to-country/192.0.2.2", "250-ip-to-country/192.0.2.2=de\r\n250 OK\r\n");
+            if (operation != u"connect"_s)
+                QVERIFY(bench.connect());
+            if (operation == u"connect"_s)
+                c.connect();
+            else if (operation == u"refreshCircuits"_s)
+                c.refreshCircuits();
+            else if (operation == u"runChecks"_s)
+                c.runChecks();
+            else if (operation == u"optimizeCircuits"_s)
+                c.optimizeCircuits();
+            else
+                c.newCircuit(u"1"_s);
+            for (int turn = 0; turn < turns; ++turn)
+                QCoreApplication::processEvents();
+            bench.end();
+            bench.controlPort.reset();
+            bench.privileged.reset();
+            bench.settings.reset();
+            settle(); // what had been sent before arrives
+            const auto calls = bench.processes.calls.size();
+            const QStringList commands = bench.tor.commands();
+            bench.clock.advance(1h);
+            bench.socketClock.advance(1h);
+            settle();
+            QCOMPARE(bench.processes.calls.size(), calls);
+            QCOMPARE(bench.tor.commands(), commands);
+        }
     }
 
     void theProbesClockMayGoFirst()

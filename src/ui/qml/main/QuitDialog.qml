@@ -15,7 +15,7 @@ Window {
     title: qsTr("Quit Veldmark")
     flags: Qt.Dialog
     modality: Qt.ApplicationModal
-    width: 440
+    width: 480
     height: column.implicitHeight + 40
     minimumWidth: width
     minimumHeight: height
