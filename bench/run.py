@@ -135,10 +135,13 @@ def connect(lab: Lab, product: Product, pairs: int = 8) -> None:
 
 
 PROMPTS = 1000
-# Read by an interactive shell line by line, so with a prompt and its hooks before each; prints seconds and the prompts counted.
+PLAIN_HOME = "/root/plain"
+# Read by an interactive shell line by line, so with a prompt and its hooks before each; prints when it began and
+# ended, the prompts counted, and whether the hook is there.
 PROMPT_SCRIPT = ('[ -z "${ZSH_VERSION:-}" ] || zmodload zsh/datetime\n'
                  'count=0; start=$EPOCHREALTIME\n' + ":\n" * PROMPTS +
-                 'end=$EPOCHREALTIME; counted=$count; echo "=$start $end $counted"\n')
+                 'end=$EPOCHREALTIME; counted=$count\n'
+                 'type _veldmark_sync >/dev/null 2>&1 && hook=hook || hook=none\necho "=$start $end $counted $hook"\n')
 PROMPT_FILES = {"bash": (".bashrc", "PROMPT_COMMAND='count=$((count + 1))'\n"), "zsh": (".zshrc", "precmd() { count=$((count + 1)) }\n")}
 
 
@@ -147,15 +150,15 @@ def time_prompts(lab: Lab, shell: str, home: str) -> float:
     words = {"bash": ["bash", "-i"], "zsh": ["zsh", "-d", "-i"]}[shell]
     output = lab.host.run(words, env={"HOME": home, "TERM": "dumb"}, input=PROMPT_SCRIPT, check=True).stdout
     (line,) = [line for line in output.splitlines() if line.startswith("=")]
-    start, end, counted = line[1:].split()
-    if int(counted) < PROMPTS:
-        raise RuntimeError(f"{shell} showed {counted} prompts, not {PROMPTS}")
+    start, end, counted, hook = line[1:].split()
+    if int(counted) < PROMPTS or hook != ("none" if home == PLAIN_HOME else "hook"):
+        raise RuntimeError(f"{shell} showed {counted} prompts of {PROMPTS}, hook: {hook}")
     return (float(end) - float(start)) * 1000 / PROMPTS
 
 
 def prompt(lab: Lab, product: Product, pairs: int = 7) -> None:
     for name, text in PROMPT_FILES.values():
-        for home in ("/root", "/root/plain"):
+        for home in ("/root", PLAIN_HOME):
             lab.host.write(f"{home}/{name}", text)
     with product.session(connect=False) as session:
         session.wait_phase("disconnected")
@@ -166,7 +169,7 @@ def prompt(lab: Lab, product: Product, pairs: int = 7) -> None:
             for shell in PROMPT_FILES:
                 with_hook, without = [], []
                 for _ in range(pairs):
-                    without.append(time_prompts(lab, shell, "/root/plain"))
+                    without.append(time_prompts(lab, shell, PLAIN_HOME))
                     with_hook.append(time_prompts(lab, shell, "/root"))
                 report(f"{shell} prompt without the hook, {state}", middle(without), "ms", "yardstick", spread(without))
                 report(f"{shell} prompt with the hook, {state}", middle(with_hook), "ms", "", spread(with_hook))

@@ -80,6 +80,13 @@ public:
         sendNow();
     }
 
+    // The other end never misses the last state, also when a command fails.
+    ~StateStream() override
+    {
+        if (m_scheduled || m_behind)
+            sendNow();
+    }
+
     void sendNow()
     {
         m_behind = false;

@@ -176,11 +176,15 @@ class RealResolved(CheckCase):
         run(["mount", "-t", "overlay", "-o", f"lowerdir={RESOLVED}/usr/bin:/usr/bin", "private", "/usr/bin"], check=True)
         policy = RESOLVED / "usr/share/dbus-1/system.d/org.freedesktop.resolve1.conf"
         run(["bash", "-ec", """
-            grep -q ^systemd-resolve: /etc/passwd || { echo 'systemd-resolve:x:990:990::/:/usr/sbin/nologin' >>/etc/passwd; echo 'systemd-resolve:x:990:' >>/etc/group; }
+            if ! grep -q ^systemd-resolve: /etc/passwd; then
+                echo 'systemd-resolve:x:990:990::/:/usr/sbin/nologin' >>/etc/passwd
+                echo 'systemd-resolve:x:990:' >>/etc/group
+            fi
             mkdir -p /run/dbus /run/systemd/resolve /etc/dbus-1/system.d
             chown systemd-resolve:systemd-resolve /run/systemd/resolve
             cp "$1" /etc/dbus-1/system.d/
-            ln -sf /run/systemd/resolve/stub-resolv.conf /etc/resolv.conf  # first: it would take over another file's servers
+            # First: the daemon would take over another file's servers.
+            ln -sf /run/systemd/resolve/stub-resolv.conf /etc/resolv.conf
             dbus-daemon --system --fork
         """, "setup", str(policy)], check=True)
         cls.daemon = cls.lab.host.popen([str(RESOLVED / "lib/systemd/systemd-resolved")],

@@ -11,7 +11,8 @@ from pathlib import Path
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
-from test_connect import SKIPPED, LabCase  # noqa: E402
+from test_connect import PROGRAMS, SKIPPED, LabCase  # noqa: E402
+from test_deadline import FAST_FORWARD  # noqa: E402
 from veldlab import topology as at  # noqa: E402
 
 COUNTRIES = {node.address: node.country for node in at.NODES}
@@ -117,6 +118,21 @@ class Speed(LabCase):
             self.assertIsNone(state["optimizeStatus"])
             self.assertEqual(connecting.wait(), 0)
             self.assertEqual(session.interrupt(), 0, session.output)
+        self.assert_restored()
+
+    def test_a_path_that_stays_slow_is_given_up_after_four_tries(self):
+        self.set("optimizeSpeed", "true")
+        with self.product.session() as session:  # leaves tor a network to start with
+            session.wait_phase("connected")
+        with self.lab.netem(delay_ms=100):  # 20 times as long on the fast clock
+            ended = self.lab.host.run([FAST_FORWARD, "connect"], check=True, timeout=120,
+                                      env={"VELDMARK_PROGRAMS": PROGRAMS, "VELDMARK_SPEED": 20})
+        state = json.loads(ended.stdout)
+        self.assertEqual(state["phase"], "connected")
+        self.assertGreaterEqual(state["latencyMs"], SLOW_MS)
+        self.assertEqual((state["isOptimizing"], state["optimizeStatus"]), (False, None))
+        # Three new identities in so short a time are more than tor grants at once, which it says.
+        self.assertIn("Rate limiting NEWNYM request", self.lab.host.read("/var/lib/veldmark/run/notices.log"))
         self.assert_restored()
 
     def test_a_fast_path_is_kept(self):

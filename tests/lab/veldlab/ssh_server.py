@@ -1,10 +1,10 @@
 """A real OpenSSH server in the world or on a neighbour, with one account that only a key opens.
 
-Debian's package need not be installed, only unpacked (dpkg -x): VELDMARK_SSHD names the folder. The server has accounts of its own in
-a mount namespace of its own, so nothing of the machine's is used or changed.
+Debian's package need not be installed, only unpacked (dpkg -x): VELDMARK_SSHD names the folder. The server has accounts of
+its own in a mount namespace of its own, so nothing of the machine's is used or changed.
 
-    with SshServer(lab.world.space, "203.0.113.37") as server:
-        server.folder            # as the caller reaches it; the account's home is server.home in there
+    with SshServer(lab.world.space, "203.0.113.37", public_key) as server:
+        server.folder            # as the caller reaches it; the account's home is "home" in there
 """
 
 import contextlib
@@ -17,8 +17,12 @@ from veldlab import topology as at
 PROJECT = Path(__file__).resolve().parents[3]
 ROOT = Path(os.environ.get("VELDMARK_SSHD", PROJECT / "build" / "sshd"))
 USER, UID = "keeper", 4321
-_NAME_FILES = {"passwd": f"{USER}:x:{UID}:{UID}::{{home}}:/bin/bash\nsshd:x:4322:4322::/run/sshd:/usr/sbin/nologin\nroot:x:0:0::/root:/bin/sh\n",
-               "group": f"root:x:0:\n{USER}:x:{UID}:\nsshd:x:4322:\n", "shadow": f"root:*:19000:0:99999:7:::\n{USER}:*:19000:0:99999:7:::\n"}
+_NAME_FILES = {
+    "passwd": f"root:x:0:0::/root:/bin/sh\n{USER}:x:{UID}:{UID}::{{home}}:/bin/bash\n"
+              "sshd:x:4322:4322::/run/sshd:/usr/sbin/nologin\n",
+    "group": f"root:x:0:\n{USER}:x:{UID}:\nsshd:x:4322:\n",
+    "shadow": f"root:*:19000:0:99999:7:::\n{USER}:*:19000:0:99999:7:::\n",
+}
 
 
 def daemon() -> Path | None:
@@ -48,7 +52,7 @@ class SshServer(contextlib.AbstractContextManager):
         script = ('set -e; mkdir -p /run/sshd; chmod 755 /run/sshd; '
                   f'for name in {" ".join(_NAME_FILES)}; do mount --bind "$1/$name" "/etc/$name"; done; '
                   'exec env LD_LIBRARY_PATH="$3" "$2" -D -e -f "$1/config"')
-        libraries = f"{ROOT}/lib/x86_64-linux-gnu:{ROOT}/usr/lib/x86_64-linux-gnu"
+        libraries = ":".join(str(folder) for folder in ROOT.glob("usr/lib/*-linux-gnu*"))
         self._process = space.popen(
             ["unshare", "--mount", "--propagation", "private", "/bin/sh", "-c", script, "sshd", inside, str(daemon()), libraries],
             stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True)
