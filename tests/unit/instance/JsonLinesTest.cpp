@@ -132,6 +132,16 @@ private Q_SLOTS:
         QVERIFY(Workbench::finished(finishing));
     }
 
+    void mayGoInTheMiddleOfALine()
+    {
+        Pair pair;
+        pair.other.write("{\"n\":1}\n{\"n\":2}\n{\"text\":\"" + QByteArray(1000, 'x'));
+        QVERIFY(pair.next());
+        settle();
+        pair.lines.reset(); // its socket says goodbye; nobody may hear it
+        QVERIFY(until([&] { return pair.other.state() == QLocalSocket::UnconnectedState; }));
+    }
+
     void abortEndsEveryWait()
     {
         Pair pair;
