@@ -111,7 +111,7 @@ class Watcher(HelperTest):
             self.machine.help("disconnect")
             flusher.kill()
             flusher.wait()
-            self.machine.shell("pkill -f 'while nft flush' || true; while pgrep -x nft; do :; done")
+            self.machine.shell("pkill -f '[w]hile nft flush' || true; while pgrep -x nft; do :; done")
             self.assertEqual(self.machine.snapshot(), self.before)
             self.machine.connect()
 
