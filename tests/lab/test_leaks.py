@@ -51,6 +51,9 @@ class Leaks(unittest.TestCase):
         cls.disconnect()   # the account that Tor runs under exists from here on
         cls.sentinels = 0
 
+    def setUp(self):
+        self.known = set(self.matrix.rows)
+
     # ---- The host ----
 
     @classmethod
@@ -142,7 +145,8 @@ class Leaks(unittest.TestCase):
         self.assert_kept()
 
     def assert_kept(self):
-        self.assertEqual(self.matrix.broken(), [])
+        """The rows of this test."""
+        self.assertEqual(self.matrix.broken(set(self.matrix.rows) - self.known), [])
 
     def core(self, scenario, names=probes.CORE, phase="session", identities=EVERYBODY):
         """One row: the sum over ordinary probes for each identity. Tor's TCP goes out by right, so its row is for the rest."""
@@ -194,23 +198,18 @@ class Leaks(unittest.TestCase):
 
     def test_3_a_second_way_out(self):
         """A device that is plugged in later, with a way to the world of its own."""
-        make = ("ip link add two0 type veth peer name two1; ip link set two1 netns {pid}; ip link set two0 up;"
-                "ip addr add 192.168.77.70/24 dev two0; ip route add 203.0.113.0/24 via 192.168.77.1 dev two0")
-        pid = self.router_process()
+        four = [n for n in probes.CORE if "IPv6" not in n]
         for phase in ("control", "session"):
             with self.session() if phase == "session" else contextlib.nullcontext():
-                subprocess_pid = pid
-                self.sh(make.format(pid=subprocess_pid))
-                self.lab.router.run(["sh", "-c", "ip link set two1 master br0; ip link set two1 up"], check=True)
+                self.lab.router.run(["sh", "-c", "ip link add two1 type veth peer name two0 netns host; ip link set two1 master br0; "
+                                     "ip link set two1 up"], check=True)
+                self.sh("ip link set two0 up; ip addr add 192.168.78.70/24 dev two0; ip route add 192.168.77.1/32 dev two0 metric 1;"
+                        "ip route add 203.0.113.96/27 via 192.168.77.1 dev two0; ip route add 203.0.113.128/25 via 192.168.77.1 dev two0")
                 try:
-                    self.core("a second device with a way out", [n for n in probes.CORE if "IPv6" not in n], phase)
+                    self.core("a second device with a way out", four, phase)
                 finally:
                     self.sh("ip link del two0")
         self.assert_kept()
-
-    def router_process(self):
-        """A process in the router's network, as the host's ip can name it: the host sees its own processes only, so by a file."""
-        self.skipTest("the host cannot name the router's namespace")
 
     def test_4_moments_of_a_session(self):
         moments = [
@@ -245,7 +244,7 @@ class Leaks(unittest.TestCase):
             self.core("Tor could not start again")
             holder.communicate()
             self.under_flood("the rules were loaded twenty times", lambda: self.sh(
-                f"for i in $(seq 20); do nft -f /var/lib/veldmark/run/firewall.nft; done"))
+                "for i in $(seq 20); do nft -f /var/lib/veldmark/run/firewall.nft; done"))
             stepped = str(PROJECT / "tests" / "helper" / "stepped.sh")
             words = ["connect", "--tor", "/usr/bin/tor", "--hash", HASH, "--strict", "1", "--lan", "0"]
 

@@ -76,8 +76,8 @@ class Matrix:
             for identity, cell in enumerate(cells):
                 setattr(cell, phase, counts.get((name, identity), 0))
 
-    def broken(self) -> list[str]:
-        return [f"{name}, {identity}: {cell}" for name, cells in self.rows.items()
+    def broken(self, names) -> list[str]:
+        return [f"{name}, {identity}: {cell}" for name, cells in self.rows.items() if name in names
                 for identity, cell in zip(IDENTITIES, cells) if not cell.kept]
 
     def __str__(self) -> str:
