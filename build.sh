@@ -30,6 +30,10 @@ packages=(
     python3 openssl ca-certificates curl tcpdump shellcheck unzip netcat-openbsd openssh-client iputils-ping zsh dash
     libglib2.0-bin dconf-cli dconf-gsettings-backend gsettings-desktop-schemas dbus
     python3-stem
+    libqt6svg6-dev qt6-l10n-tools qt6-declarative-dev-tools qml6-module-qtquick
+    qml6-module-qtquick-templates qml6-module-qtquick-window qml6-module-qtquick-layouts
+    qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
+    fonts-noto-core fonts-noto-mono fonts-noto-color-emoji xvfb
 )
 
 missing_packages() {
@@ -79,21 +83,28 @@ deps() {
     install_packages "${missing[@]}"
 }
 
-# The tests run the real systemd-resolved in a namespace. Installing its package would take over
-# this machine's resolver, so it is only unpacked.
-unpack_resolved() {
-    local target=build/resolved folder
-    [[ ! -x $target/lib/systemd/systemd-resolved ]] || return 0
+# unpack FOLDER PROGRAM PACKAGE...: fetches packages whose programs the tests run in namespaces. Installing
+# them would change this machine (systemd-resolved takes over its resolver, the SSH server would start), so they
+# are only unpacked, into build/FOLDER.
+unpack() {
+    local target=build/$1 program=$2 folder package
+    [[ ! -x $target/$program ]] || return 0
+    shift 2
     folder=$(mktemp -d)
-    if (cd "$folder" && { apt-get download systemd-resolved || { apt-get update && apt-get download systemd-resolved; }; } &&
-        dpkg -x systemd-resolved_*.deb unpacked) >"$folder/log" 2>&1; then
+    if (cd "$folder" && { apt-get download "$@" || { apt-get update && apt-get download "$@"; }; } &&
+        for package in *.deb; do dpkg -x "$package" unpacked; done) >"$folder/log" 2>&1; then
         rm -rf "$target"
         mkdir -p build
         mv "$folder/unpacked" "$target"
     else
-        printf 'build.sh: systemd-resolved could not be fetched; its tests will be skipped.\n' >&2
+        printf 'build.sh: %s could not be fetched; its tests will be skipped.\n' "$1" >&2
     fi
     rm -rf "$folder"
+}
+
+unpack_services() {
+    unpack resolved lib/systemd/systemd-resolved systemd-resolved
+    unpack sshd usr/sbin/sshd openssh-server libwrap0
 }
 
 # Compiles one preset; a failure shows the first error lines, not the whole log.
@@ -133,9 +144,12 @@ demo)
     ;;
 test)
     build
-    unpack_resolved
+    unpack_services
     mkdir -p build/test
-    ctest --preset dev --parallel 2 --output-junit ../test/junit.xml "$@"
+    status=0
+    ctest --preset dev --parallel 2 --output-junit ../test/junit.xml "$@" || status=$?
+    /usr/bin/python3 tests/skipped.py build/test/junit.xml
+    exit "$status"
     ;;
 asan)
     deps

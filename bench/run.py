@@ -3,6 +3,7 @@
 
     parsing   framing and reading circuit-status lines; the yardstick is python3-stem on the same lines
     helper    the helper's connect and disconnect in strict mode, in the private Tor network
+    prompt    what terminal mode's hook adds to a shell's prompt, in the private Tor network
     connect   from the call of connect() to connected, against a bare tor with the same torrc, interleaved
 
 Everything runs on this machine and in its own network namespaces. Exit status 77 where namespaces are not permitted.
@@ -133,20 +134,60 @@ def connect(lab: Lab, product: Product, pairs: int = 8) -> None:
     report("difference", middle(ours) - middle(theirs), "s", "at most 1.3")
 
 
+PROMPTS = 1000
+# Read by an interactive shell line by line, so with a prompt and its hooks before each; prints seconds and the prompts counted.
+PROMPT_SCRIPT = ('[ -z "${ZSH_VERSION:-}" ] || zmodload zsh/datetime\n'
+                 'count=0; start=$EPOCHREALTIME\n' + ":\n" * PROMPTS +
+                 'end=$EPOCHREALTIME; counted=$count; echo "=$start $end $counted"\n')
+PROMPT_FILES = {"bash": (".bashrc", "PROMPT_COMMAND='count=$((count + 1))'\n"), "zsh": (".zshrc", "precmd() { count=$((count + 1)) }\n")}
+
+
+def time_prompts(lab: Lab, shell: str, home: str) -> float:
+    """Milliseconds for one prompt of a shell with this home's start-up files."""
+    words = {"bash": ["bash", "-i"], "zsh": ["zsh", "-d", "-i"]}[shell]
+    output = lab.host.run(words, env={"HOME": home, "TERM": "dumb"}, input=PROMPT_SCRIPT, check=True).stdout
+    (line,) = [line for line in output.splitlines() if line.startswith("=")]
+    start, end, counted = line[1:].split()
+    if int(counted) < PROMPTS:
+        raise RuntimeError(f"{shell} showed {counted} prompts, not {PROMPTS}")
+    return (float(end) - float(start)) * 1000 / PROMPTS
+
+
+def prompt(lab: Lab, product: Product, pairs: int = 7) -> None:
+    for name, text in PROMPT_FILES.values():
+        for home in ("/root", "/root/plain"):
+            lab.host.write(f"{home}/{name}", text)
+    with product.session(connect=False) as session:
+        session.wait_phase("disconnected")
+        product.run_verb("set", "terminalMode", "true", check=True)
+        for state in ("disconnected", "connected"):
+            if state == "connected":
+                product.run_verb("connect", check=True)
+            for shell in PROMPT_FILES:
+                with_hook, without = [], []
+                for _ in range(pairs):
+                    without.append(time_prompts(lab, shell, "/root/plain"))
+                    with_hook.append(time_prompts(lab, shell, "/root"))
+                report(f"{shell} prompt without the hook, {state}", middle(without), "ms", "yardstick", spread(without))
+                report(f"{shell} prompt with the hook, {state}", middle(with_hook), "ms", "", spread(with_hook))
+                report("  the hook adds", middle(with_hook) - middle(without), "ms", "at most 1")
+        session.interrupt()
+
+
 def main() -> int:
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--json", metavar="FILE", help="also write the figures there")
     parser.add_argument("--only", default="", metavar="WORD")
     arguments = parser.parse_args()
-    groups = [name for name in ("parsing", "helper", "connect") if arguments.only in name]
+    groups = [name for name in ("parsing", "helper", "prompt", "connect") if arguments.only in name]
     try:
         if "parsing" in groups:
             print("parsing")
             parsing()
-        if {"helper", "connect"} & set(groups):
+        if {"helper", "prompt", "connect"} & set(groups):
             with Lab() as lab:
                 product = Product(lab, PROGRAMS)
-                for name, group in (("helper", helper), ("connect", connect)):
+                for name, group in (("helper", helper), ("prompt", prompt), ("connect", connect)):
                     if name in groups:
                         print(name)
                         group(lab, product)

@@ -10,7 +10,7 @@ using Verb = Invocation::Verb;
 
 struct VerbRule {
     Verb verb;
-    int operands = 0; // KEY, VALUE
+    int operands = 0; // KEY, VALUE, or ID
     QStringList options = {};
 };
 
@@ -24,9 +24,13 @@ const QHash<QString, VerbRule> &rules()
         {QStringLiteral("disconnect"), {Verb::disconnect}},
         {QStringLiteral("restore"), {Verb::restore}},
         {QStringLiteral("check"), {Verb::check}},
+        {QStringLiteral("fix-dns"), {Verb::fixDNS}},
+        {QStringLiteral("close-circuit"), {Verb::closeCircuit, 1}},
         {QStringLiteral("circuits"), {Verb::circuits, 0, {json}}},
         {QStringLiteral("new-identity"), {Verb::newIdentity}},
         {QStringLiteral("log"), {Verb::log, 0, {QStringLiteral("--follow"), QStringLiteral("--problems")}}},
+        {QStringLiteral("bridges"), {Verb::bridges, 0, {json}}},
+        {QStringLiteral("download-transports"), {Verb::downloadTransports}},
         {QStringLiteral("get"), {Verb::get, 1}},
         {QStringLiteral("set"), {Verb::set, 2}},
         {QStringLiteral("help"), {Verb::help}},
@@ -83,6 +87,8 @@ Result<Invocation, QString> parseArguments(const QStringList &arguments)
         invocation.follow |= argument == QLatin1String("--follow");
         invocation.problems |= argument == QLatin1String("--problems");
     }
+    if (operands.size() < rule->operands && rule->verb == Verb::closeCircuit)
+        return Failure(QStringLiteral("close-circuit needs a circuit's number; \"veldmarkctl circuits\" shows them."));
     if (operands.size() < rule->operands)
         return Failure(rule->operands == 1
                            ? QStringLiteral("%1 needs a key: veldmarkctl %1 KEY.").arg(arguments.first())
@@ -107,10 +113,15 @@ QString usageText()
         "  disconnect                restore the network and stop Tor\n"
         "  restore                   the same, also for what a crash left behind\n"
         "  check                     check the exit address, the direct path and DNS now\n"
+        "  fix-dns                   point the system's DNS settings at Tor again\n"
         "  circuits [--json]         Tor's circuits and the sites on them\n"
+        "  close-circuit ID          close one; its sites get a fresh path on their next request\n"
         "  new-identity              new circuits for everything\n"
         "  log [--follow] [--problems]\n"
         "                            Tor's log; --problems shows warnings and errors only\n"
+        "  bridges [--json]          the transport programs and built-in bridges that were found, and\n"
+        "                            which of your own bridge lines are not valid\n"
+        "  download-transports       fetch the Tor Project's transport programs and built-in bridges\n"
         "  get KEY                   print a field of \"status --json\"\n"
         "  set KEY VALUE             change a setting; it applies at the next connect\n"
         "\n"

@@ -10,16 +10,17 @@ namespace veldmark {
 // What one call of veldmarkctl asks for.
 struct Invocation {
     enum class Verb {
-        run, status, connect, disconnect, restore, check, circuits, newIdentity, log, get, set,
+        run, status, connect, disconnect, restore, check, fixDNS, circuits, closeCircuit, newIdentity,
+        log, get, set, bridges, downloadTransports,
         help, version,
     };
     Verb verb = Verb::help;
     bool connectNow = false; // run --connect
-    bool json = false;       // status, circuits
+    bool json = false;       // status, circuits, bridges
     bool watch = false;      // status
     bool follow = false;     // log
     bool problems = false;   // log
-    QString key;             // get, set
+    QString key;             // get, set; close-circuit's id
     QString value;           // set
 };
 

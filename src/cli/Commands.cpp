@@ -1,5 +1,6 @@
 #include "cli/Commands.h"
 
+#include "cli/BridgesCommand.h"
 #include "cli/Console.h"
 #include "cli/LogCommand.h"
 #include "cli/ProgressLine.h"
@@ -41,10 +42,19 @@ QJsonObject request(const Invocation &invocation)
         return command("disconnect");
     case Verb::check:
         return command("check");
+    case Verb::fixDNS:
+        return command("fix-dns");
     case Verb::circuits:
         return command("circuits");
+    case Verb::closeCircuit: {
+        QJsonObject close = command("close-circuit");
+        close.insert(QStringLiteral("id"), invocation.key);
+        return close;
+    }
     case Verb::newIdentity:
         return command("new-identity");
+    case Verb::downloadTransports:
+        return command("download-transports");
     case Verb::set: {
         QJsonObject set = command("set");
         set.insert(QStringLiteral("key"), invocation.key);
@@ -87,7 +97,8 @@ bool showsEveryState(const Invocation &invocation)
 
 bool showsLastState(const Invocation &invocation)
 {
-    return invocation.verb != Verb::set && invocation.verb != Verb::newIdentity;
+    return invocation.verb != Verb::set && invocation.verb != Verb::newIdentity
+        && invocation.verb != Verb::closeCircuit && invocation.verb != Verb::downloadTransports;
 }
 
 QCoro::Task<ExitStatus> askInstance(Invocation invocation, std::shared_ptr<InstanceClient> instance)
@@ -103,6 +114,8 @@ QCoro::Task<ExitStatus> askInstance(Invocation invocation, std::shared_ptr<Insta
             Console::draw(progress->update(
                 state.value(QStringLiteral("bootstrapProgress")).toDouble(),
                 state.value(QStringLiteral("statusDetail")).toString()));
+        else if (invocation.verb == Verb::downloadTransports)
+            Console::draw(progress->update(state.value(QStringLiteral("transportDownload")).toString()));
     };
     auto running = instance->run(request(invocation), onState);
     const auto answer = co_await running;
@@ -165,6 +178,8 @@ QCoro::Task<ExitStatus> execute(Invocation invocation, PlatformProfile profile)
 {
     if (invocation.verb == Verb::log)
         return showLog(invocation, profile);
+    if (invocation.verb == Verb::bridges)
+        return showBridges(invocation, profile);
     if (const auto instance = InstanceClient::connectTo(profile))
         return askInstance(invocation, instance);
     switch (invocation.verb) {
@@ -175,7 +190,9 @@ QCoro::Task<ExitStatus> execute(Invocation invocation, PlatformProfile profile)
     case Verb::restore:
         if (!invocation.watch)
             return doHere(invocation, std::make_shared<Production>(profile));
-        [[fallthrough]];
+        return refuse();
+    case Verb::downloadTransports:
+        return downloadTransportsHere(profile);
     default:
         return refuse();
     }

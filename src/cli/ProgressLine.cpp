@@ -27,6 +27,17 @@ QString ProgressLine::update(double progress, const QString &detail)
         .arg(bar).arg(percent, 3).arg(detail.left(std::max(0, m_columns - besideDetail)));
 }
 
+QString ProgressLine::update(const QString &text)
+{
+    if (text == m_last || text.isEmpty())
+        return {};
+    m_last = text;
+    if (!m_terminal)
+        return text + u'\n';
+    m_open = true;
+    return QStringLiteral("\r\x1b[K") + text.left(std::max(0, m_columns - 1));
+}
+
 QString ProgressLine::finish()
 {
     m_last.clear();

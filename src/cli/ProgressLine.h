@@ -12,6 +12,8 @@ public:
 
     // `progress` 0…1. Gives what is to be written now, empty when nothing has changed.
     QString update(double progress, const QString &detail);
+    // The same for progress that tells itself how far it is.
+    QString update(const QString &text);
     // Ends a redrawn line, so that what follows starts on a line of its own.
     QString finish();
 

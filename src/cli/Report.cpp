@@ -45,8 +45,11 @@ QString directText(const QJsonObject &state)
         return QStringLiteral("open; it shows the address %1")
             .arg(leak.toObject().value(QStringLiteral("exposed")).toString());
     const QString word = leak.toString();
+    // Only the kill switch blocks: in proxy mode, silence is no protection.
     if (word == QLatin1String("blocked"))
-        return QStringLiteral("blocked");
+        return text(state, "activeMode") == QLatin1String("strict")
+            ? QStringLiteral("blocked")
+            : QStringLiteral("no answer, but proxy mode doesn't close it");
     if (word == QLatin1String("checking"))
         return QStringLiteral("checking…");
     if (word == QLatin1String("inconclusive"))

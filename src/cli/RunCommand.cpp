@@ -24,6 +24,9 @@ RunCommand::RunCommand(const PlatformProfile &profile, bool connectNow)
                      Qt::QueuedConnection);
     QObject::connect(&m_controller, &TorController::isCheckingChanged, this, &RunCommand::showPhase,
                      Qt::QueuedConnection);
+    QObject::connect(&m_controller, &TorController::phaseChanged, this, [this] {
+        m_restored |= m_controller.phase() == ConnectionPhase::disconnecting;
+    });
     for (const auto changed : {&TorController::phaseChanged, &TorController::canCancelChanged})
         QObject::connect(&m_controller, changed, this, &RunCommand::stopWhenPossible, Qt::QueuedConnection);
 }
@@ -50,7 +53,7 @@ QCoro::Task<void> RunCommand::begin()
         co_await m_controller.connect();
     else
         co_await m_controller.autoConnectIfEnabled();
-    if (!self || m_stopWanted)
+    if (!self || m_stopWanted || m_restored) // somebody else has ended the attempt by a disconnect
         co_return;
     if (m_connectNow && m_controller.phase() == ConnectionPhase::disconnected) {
         complain(m_controller.errorMessage().value_or(QStringLiteral("Cancelled.")));

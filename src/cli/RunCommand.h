@@ -46,6 +46,7 @@ private:
     ProgressLine m_progress;
     QString m_lastReport;
     ConnectionPhase m_lastPhase = ConnectionPhase::disconnected;
+    bool m_restored = false; // a disconnect has begun since the start
     bool m_stopWanted = false;
     bool m_stopping = false;
     bool m_mustEnd = false; // asked by somebody who won't ask again: SIGTERM, SIGHUP

@@ -57,7 +57,7 @@ QCoro::Task<void> TorController::refreshCircuits()
     CircuitTable table = CircuitTable::assemble(block(0, circuitKey), block(1, streamKey),
                                                 m_siteHistory, m_relayCache);
     if (!table.unresolved.empty()) {
-        const auto relays = co_await resolveRelays(table.unresolved, password);
+        const auto relays = co_await resolveRelays(table.unresolved, attempt);
         if (!self || !isCurrent(attempt))
             co_return;
         for (const RelayInfo &relay : relays)
@@ -69,16 +69,17 @@ QCoro::Task<void> TorController::refreshCircuits()
 }
 
 QCoro::Task<std::vector<RelayInfo>> TorController::resolveRelays(std::vector<RelayInfo> relays,
-                                                                 QString password)
+                                                                 Attempt attempt)
 {
-    ControlPort &controlPort = m_services.controlPort;
+    const QPointer<TorController> self(this);
+    const QString password = *m_controlPassword;
     const QStringList bridgeLines = m_activeBridgeLines;
 
     QStringList commands;
     for (const RelayInfo &relay : relays)
         commands << getInfoCommand(QStringLiteral("ns/id/") + relay.fingerprint);
-    const auto statuses = co_await controlPort.batch(commands, password);
-    if (!statuses)
+    const auto statuses = co_await m_services.controlPort.batch(commands, password);
+    if (!self || !isCurrent(attempt) || !statuses)
         co_return {}; // asked again at the next refresh
     QStringList addresses;
     for (std::size_t i = 0; i < relays.size(); ++i) {
@@ -95,7 +96,7 @@ QCoro::Task<std::vector<RelayInfo>> TorController::resolveRelays(std::vector<Rel
     commands.clear();
     for (const QString &address : addresses)
         commands << getInfoCommand(QStringLiteral("ip-to-country/") + address);
-    const auto countries = co_await controlPort.batch(commands, password);
+    const auto countries = co_await m_services.controlPort.batch(commands, password);
     if (!countries)
         co_return relays;
     for (RelayInfo &relay : relays) {
@@ -111,25 +112,28 @@ QCoro::Task<std::vector<RelayInfo>> TorController::resolveRelays(std::vector<Rel
 
 QCoro::Task<void> TorController::newIdentity()
 {
-    if (!m_controlPassword)
+    if (phase() != ConnectionPhase::connected || !m_controlPassword)
         co_return;
     const QPointer<TorController> self(this);
+    const Attempt attempt = m_attempt;
+    errorMessage = std::nullopt;
     auto asking = m_services.controlPort.signal(newCircuitsSignal, *m_controlPassword);
     const auto done = co_await asking;
-    if (self && !done)
+    if (self && isCurrent(attempt) && !done)
         errorMessage =
             QStringLiteral("Couldn't request a new identity: ") + done.error().description();
 }
 
 QCoro::Task<void> TorController::newCircuit(QString id)
 {
-    if (!m_controlPassword || !isCircuitID(id))
+    if (phase() != ConnectionPhase::connected || !m_controlPassword || !isCircuitID(id))
         co_return;
     const QPointer<TorController> self(this);
+    const Attempt attempt = m_attempt;
     const QString password = *m_controlPassword;
     const QStringList commands = {QStringLiteral("CLOSECIRCUIT ") + id};
     co_await m_services.controlPort.batch(commands, password);
-    if (self)
+    if (self && isCurrent(attempt))
         co_await refreshCircuits();
 }
 

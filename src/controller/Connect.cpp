@@ -12,6 +12,8 @@
 #include <QRandomGenerator>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 using namespace std::chrono_literals;
 
 namespace veldmark {
@@ -33,6 +35,11 @@ bool isExecutableFile(const QString &path)
 QString flag(bool on)
 {
     return on ? QStringLiteral("1") : QStringLiteral("0");
+}
+
+QCoro::Task<std::optional<ConnectTime>> noAnswer()
+{
+    co_return std::nullopt;
 }
 
 } // namespace
@@ -86,16 +93,14 @@ void TorController::resetSessionInfo()
 
 void TorController::settleAfterFailure()
 {
-    canCancel = false;
-    if (isSessionMarkerPresent()) {
-        statusDetail = QStringLiteral("Your network is still set up for Tor");
-        phase = ConnectionPhase::stale;
+    if (!isSessionMarkerPresent()) {
+        endSession();
         return;
     }
-    activeMode = std::nullopt;
-    activeBridge = std::nullopt;
-    statusDetail = QStringLiteral("Your traffic is not going through Tor");
-    phase = ConnectionPhase::disconnected;
+    canCancel = false;
+    activeMode = markedMode(); // the helper may have changed it before it failed
+    statusDetail = QStringLiteral("Your network is still set up for Tor");
+    phase = ConnectionPhase::stale;
 }
 
 void TorController::failAttempt(const QString &message)
@@ -104,21 +109,27 @@ void TorController::failAttempt(const QString &message)
     settleAfterFailure();
 }
 
-QCoro::Task<Result<QStringList, QString>> TorController::bridgeArguments(Attempt attempt)
+QCoro::Task<Result<QStringList, QString>> TorController::bridgeArguments(Attempt attempt,
+                                                                         BridgeRequest request)
 {
     const QPointer<TorController> self(this);
+    const BridgeProbe probe = m_services.bridgeProbe;
     const BridgeTools tools{
-        m_services.locateTransports, m_services.bridgeProbe, [self, attempt](const QString &text) {
+        m_services.locateTransports,
+        [self, attempt, probe](QString host, quint16 port, std::chrono::milliseconds limit) {
+            // Without the controller, what the probe needs may be gone as well.
+            return self && self->isCurrent(attempt) ? probe(std::move(host), port, limit) : noAnswer();
+        },
+        [self, attempt](const QString &text) {
             if (self && self->isCurrent(attempt))
                 self->statusDetail = text;
         }};
-    const BridgeRequest request{bridgeChoice(), customBridges(), optimizeSpeed()};
     const BridgePlan plan = co_await planBridges(request, tools);
     if (!self || !isCurrent(attempt))
         co_return Failure(QString()); // nobody reads this
     if (plan.transports)
         transports = *plan.transports;
-    if (bridgeChoice() == BridgeChoice::off)
+    if (request.choice == BridgeChoice::off)
         m_pendingBridgeLines.clear();
     else if (plan.lines)
         m_pendingBridgeLines = *plan.lines;
@@ -156,7 +167,7 @@ QCoro::Task<Result<void, QString>> TorController::waitForBootstrap(Attempt attem
             co_return Failure(QString()); // the user disconnected; nobody reads this
         if (reply) {
             const BootstrapStatus status = parseBootstrap(reply->value(bootstrapKey));
-            bootstrapProgress = status.progress / 100.0;
+            bootstrapProgress = std::min(status.progress, 100) / 100.0;
             if (!status.summary.isEmpty())
                 statusDetail = status.summary;
             lastError = std::nullopt;
@@ -189,13 +200,19 @@ QCoro::Task<void> TorController::connect()
 
     const QPointer<TorController> self(this);
     const Attempt attempt = startAttempt();
+    // What is asked for here is what the helper gets, though the settings may change meanwhile.
+    const bool strict = strictMode();
+    const bool localNetwork = allowLocalNetwork();
+    const QString exit = exitCountry();
+    const BridgeRequest request{bridgeChoice(), customBridges(), optimizeSpeed()};
     stopMonitoring();
+    forgetCircuits();
     bootstrapProgress = 0.0;
     resetSessionInfo();
     statusDetail = QStringLiteral("Preparing Tor…");
     phase = ConnectionPhase::connecting;
 
-    const auto bridges = co_await bridgeArguments(attempt);
+    const auto bridges = co_await bridgeArguments(attempt, request);
     if (!self || !isCurrent(attempt))
         co_return;
     if (!bridges) {
@@ -213,14 +230,12 @@ QCoro::Task<void> TorController::connect()
     }
     m_controlPassword = password;
 
-    const bool strict = strictMode();
-    const BridgeChoice bridge = bridgeChoice();
     QStringList arguments = {QStringLiteral("connect"), QStringLiteral("--tor"), *tor,
                              QStringLiteral("--hash"), *hash,
                              QStringLiteral("--strict"), flag(strict),
-                             QStringLiteral("--lan"), flag(allowLocalNetwork())};
-    if (!exitCountry().isEmpty())
-        arguments << QStringLiteral("--exit") << exitCountry();
+                             QStringLiteral("--lan"), flag(localNetwork)};
+    if (!exit.isEmpty())
+        arguments << QStringLiteral("--exit") << exit;
     arguments += *bridges;
     statusDetail = QStringLiteral("Waiting for administrator approval…");
     const auto helper = co_await m_services.privileged.runHelper(arguments);
@@ -235,7 +250,8 @@ QCoro::Task<void> TorController::connect()
     }
 
     activeMode = strict ? RoutingMode::strict : RoutingMode::proxy;
-    activeBridge = bridge == BridgeChoice::off ? std::nullopt : std::optional(bridge);
+    activeBridge =
+        request.choice == BridgeChoice::off ? std::nullopt : std::optional(request.choice);
     m_activeBridgeLines = m_pendingBridgeLines;
     statusDetail = QStringLiteral("Starting Tor…");
     canCancel = true;
@@ -253,6 +269,8 @@ QCoro::Task<void> TorController::connect()
 
     statusDetail = connectedDetail();
     phase = ConnectionPhase::connected;
+    if (!self || !isCurrent(attempt))
+        co_return; // whoever heard of it has disconnected at once
     applyTerminalMode();
     startMonitoring();
     co_await runChecks();

@@ -66,6 +66,7 @@ QCoro::Task<void> TorController::fixDNS()
         co_return;
     const QPointer<TorController> self(this);
     const Attempt attempt = m_attempt;
+    errorMessage = std::nullopt;
     const QStringList arguments = {QStringLiteral("fix-dns")};
     const auto helper = co_await m_services.privileged.runHelper(arguments);
     if (!self || !isCurrent(attempt))

@@ -31,6 +31,8 @@ QCoro::Task<void> TorController::disconnect()
     // What a failure goes back to: only a session that was up is still up when the helper was
     // refused. A half-made connection and a left-over one are judged by the marker.
     const bool sessionWasUp = phase() == ConnectionPhase::connected;
+    if (sessionWasUp)
+        errorMessage = std::nullopt;
     canCancel = false;
     statusDetail = QStringLiteral("Restoring your network settings…");
     phase = ConnectionPhase::disconnecting;
@@ -42,24 +44,16 @@ QCoro::Task<void> TorController::disconnect()
     if (!self || !isCurrent(attempt))
         co_return;
     if (helper) {
-        m_controlPassword = std::nullopt;
-        activeMode = std::nullopt;
-        activeBridge = std::nullopt;
-        m_activeBridgeLines.clear();
-        circuits = {};
-        circuitError = std::nullopt;
-        m_siteHistory.clear();
-        m_relayCache.clear();
-        resetSessionInfo();
-        bootstrapProgress = 0.0;
-        statusDetail = QStringLiteral("Your traffic is not going through Tor");
-        phase = ConnectionPhase::disconnected;
+        errorMessage = std::nullopt; // whatever it was, "the network is set up for Tor" is over
+        endSession();
         co_return;
     }
 
     if (helper.error().kind() != HelperError::Kind::Cancelled)
         errorMessage = helper.error().description();
-    if (!sessionWasUp) {
+    // Without the marker the helper has opened the network before it failed: nothing is locked to
+    // Tor any more, whatever this session was.
+    if (!sessionWasUp || !isSessionMarkerPresent()) {
         settleAfterFailure();
         co_return;
     }
@@ -67,6 +61,37 @@ QCoro::Task<void> TorController::disconnect()
     phase = ConnectionPhase::connected;
     applyTerminalMode();
     startMonitoring();
+}
+
+void TorController::forgetCircuits()
+{
+    circuits = {};
+    circuitError = std::nullopt;
+    m_siteHistory.clear();
+    m_relayCache.clear();
+}
+
+void TorController::endSession()
+{
+    m_controlPassword = std::nullopt;
+    m_activeBridgeLines.clear();
+    m_services.terminal.setActive(false);
+    canCancel = false;
+    activeMode = std::nullopt;
+    activeBridge = std::nullopt;
+    forgetCircuits();
+    resetSessionInfo();
+    bootstrapProgress = 0.0;
+    statusDetail = QStringLiteral("Your traffic is not going through Tor");
+    phase = ConnectionPhase::disconnected;
+}
+
+std::optional<RoutingMode> TorController::markedMode() const
+{
+    QFile marker(m_services.profile.sessionMarker);
+    if (!marker.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    return routingModeFromRawValue(QString::fromUtf8(marker.read(markerLimitBytes)).trimmed());
 }
 
 void TorController::detectStaleState()
@@ -77,11 +102,7 @@ void TorController::detectStaleState()
     }
     if (phase() != ConnectionPhase::disconnected)
         return;
-    QFile marker(m_services.profile.sessionMarker);
-    QString word;
-    if (marker.open(QIODevice::ReadOnly))
-        word = QString::fromUtf8(marker.read(markerLimitBytes)).trimmed();
-    activeMode = routingModeFromRawValue(word);
+    activeMode = markedMode();
     statusDetail = QStringLiteral("Your network is still set up for Tor from an earlier session");
     phase = ConnectionPhase::stale;
 }

@@ -78,6 +78,11 @@ void TorController::torDied()
 {
     startAttempt(); // checks that are still running belong to a session that is over
     stopMonitoring();
+    if (!isSessionMarkerPresent()) { // somebody has restored the network by hand
+        errorMessage = QStringLiteral("Tor stopped running, and your network is no longer set up for it.");
+        endSession();
+        return;
+    }
     statusDetail = QStringLiteral("Tor stopped running");
     errorMessage = activeMode() == RoutingMode::strict
         ? QStringLiteral("Tor stopped running. The kill switch is still blocking traffic, so nothing "
@@ -89,10 +94,13 @@ void TorController::torDied()
 
 QCoro::Task<TorController::TimedProbe> TorController::timedViaTor()
 {
-    Clock &clock = m_services.clock;
-    const auto start = clock.now();
+    const QPointer<TorController> self(this);
+    const auto start = m_services.clock.now();
     const auto answer = co_await m_services.probe.viaTor();
-    co_return {answer, std::chrono::duration_cast<std::chrono::milliseconds>(clock.now() - start)};
+    if (!self) // and perhaps no clock either; nobody reads this
+        co_return TimedProbe{answer, 0ms};
+    const auto elapsed = m_services.clock.now() - start;
+    co_return TimedProbe{answer, std::chrono::duration_cast<std::chrono::milliseconds>(elapsed)};
 }
 
 QCoro::Task<void> TorController::runChecks()

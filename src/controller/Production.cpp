@@ -1,6 +1,7 @@
 #include "controller/Production.h"
 
 #include "bridges/TCPProbe.h"
+#include "bridges/TransportDownloader.h"
 
 namespace veldmark {
 
@@ -33,6 +34,7 @@ Production::Production(const PlatformProfile &profile)
     , m_probe(m_clock)
     , m_resolvers(resolverSource(m_profile, m_clock, m_processes))
     , m_terminal(m_profile, NetworkProbe::checkURL().toString())
+    , m_downloader(m_profile, m_processes, m_clock)
     , m_controller(TorController::Services{
           .profile = m_profile,
           .settings = m_settings,
@@ -43,10 +45,17 @@ Production::Production(const PlatformProfile &profile)
           .probe = m_probe,
           .resolvers = *m_resolvers,
           .terminal = m_terminal,
-          .locateTransports = [profile = m_profile] { return PluggableTransports::locateAsync(profile); },
+          .locateTransports =
+              [profile = m_profile] {
+                  return PluggableTransports::locateAsync(profile, TransportDownloader::installedVersion(profile));
+              },
           .bridgeProbe =
               [clock = &m_clock](const QString &host, quint16 port, std::chrono::milliseconds limit) {
                   return TCPProbe::connectTime(host, port, limit, clock);
+              },
+          .installTransports =
+              [this](bool throughTor, const TransportDownloader::Progress &progress) {
+                  return m_downloader.install(throughTor, progress);
               },
       })
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Clock.h"
+#include "bridges/TransportDownloader.h"
 #include "checks/ExitCheckProbe.h"
 #include "checks/ResolverSource.h"
 #include "control/ControlPort.h"
@@ -23,6 +24,7 @@ public:
 
     TorController &controller() { return m_controller; }
     SettingsStore &settings() { return m_settings; }
+    TransportDownloader &downloader() { return m_downloader; }
 
 private:
     // In the order of construction; the controller goes first.
@@ -35,6 +37,7 @@ private:
     ExitCheckProbe m_probe;
     std::unique_ptr<ResolverSource> m_resolvers;
     TerminalIntegration m_terminal;
+    TransportDownloader m_downloader;
     TorController m_controller;
 };
 

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <utility>
 
 namespace veldmark {
@@ -54,7 +55,8 @@ void writeSetting(SettingsStore &store, const QString &key, const QStringList &v
 void writeSetting(SettingsStore &store, const QString &key, BridgeChoice value);
 
 // A published field that the user owns: anyone may set it, and each `set` is on disk when it
-// returns, also when the value stays the same.
+// returns, also when the value stays the same. What goes wrong with the file is what `set` returns,
+// one sentence, and becomes the controller's `errorMessage`; the value holds all the same.
 template <typename T>
 class Setting : public Published<T> {
 public:
@@ -64,10 +66,16 @@ public:
     {
     }
 
-    void set(T value)
+    std::optional<QString> set(T value)
     {
         writeSetting(m_store, m_key, value);
+        std::optional<QString> problem;
+        while (const auto next = m_store.problem())
+            problem = next;
         Published<T>::operator=(std::move(value));
+        if (problem)
+            this->m_owner->showProblem(*problem);
+        return problem;
     }
 
     const QString &key() const { return m_key; }

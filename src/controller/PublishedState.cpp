@@ -65,6 +65,14 @@ QJsonValue json(const PluggableTransports &value)
                        {QStringLiteral("source"), value.source}};
 }
 
+// The user's words within a message of one line.
+QString shown(const QString &text)
+{
+    constexpr qsizetype limit = 60;
+    const QString line = text.simplified();
+    return line.size() <= limit ? line : line.left(limit - 1) + u'…';
+}
+
 Result<bool, QString> parseSwitch(const QString &text)
 {
     const QString word = text.trimmed().toLower();
@@ -76,13 +84,13 @@ Result<bool, QString> parseSwitch(const QString &text)
         return true;
     if (off.contains(word))
         return false;
-    return Failure(QStringLiteral("\"%1\" is neither true nor false.").arg(text));
+    return Failure(QStringLiteral("\"%1\" is neither true nor false.").arg(shown(text)));
 }
 
 Result<QStringList, QString> parseList(const QString &text)
 {
     const auto failure =
-        Failure(QStringLiteral("\"%1\" is no JSON array of strings.").arg(text));
+        Failure(QStringLiteral("\"%1\" is no JSON array of strings.").arg(shown(text)));
     const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8());
     if (!document.isArray())
         return failure;
@@ -93,6 +101,14 @@ Result<QStringList, QString> parseList(const QString &text)
         list << entry.toString();
     }
     return list;
+}
+
+// What a setting's `set` returned, as this file's functions give it.
+Result<void, QString> saved(const std::optional<QString> &problem)
+{
+    if (problem)
+        return Failure(*problem);
+    return {};
 }
 
 } // namespace
@@ -153,37 +169,37 @@ Result<void, QString> setSetting(TorController &c, const QString &name, const QS
                                        &c.optimizeSpeed};
     for (Setting<bool> *setting : switches) {
         if (setting->key() == name)
-            return parseSwitch(text).map([setting](bool on) { setting->set(on); });
+            return parseSwitch(text).and_then([setting](bool on) { return saved(setting->set(on)); });
     }
     if (name == c.terminalMode.key())
-        return parseSwitch(text).map([&c](bool on) { c.setTerminalMode(on); });
+        return parseSwitch(text).and_then([&c](bool on) {
+            const auto problem = c.setTerminalMode(on);
+            return saved(problem ? problem : c.terminalError());
+        });
     if (name == c.exitCountry.key()) {
         if (!ExitCountry::isValid(text))
             return Failure(QStringLiteral("\"%1\" is no exit country: two lower-case letters such "
-                                          "as \"de\", or nothing for any.").arg(text));
-        c.exitCountry.set(text);
-        return {};
+                                          "as \"de\", or nothing for any.").arg(shown(text)));
+        return saved(c.exitCountry.set(text));
     }
     if (name == c.bridgeChoice.key()) {
         const auto choice = bridgeChoiceFromRawValue(text);
         if (!choice)
             return Failure(QStringLiteral("\"%1\" is no bridge choice: off, obfs4, snowflake, meek "
-                                          "or custom.").arg(text));
-        c.bridgeChoice.set(*choice);
-        return {};
+                                          "or custom.").arg(shown(text)));
+        return saved(c.bridgeChoice.set(*choice));
     }
     if (name == c.customTorPath.key()) {
-        c.customTorPath.set(text);
-        return {};
+        return saved(c.customTorPath.set(text));
     }
     if (name == c.customBridges.key()) {
-        c.customBridges.set(text);
-        return {};
+        return saved(c.customBridges.set(text));
     }
     if (name == c.bypassApps.key())
-        return parseList(text).map([&c](const QStringList &apps) { c.bypassApps.set(apps); });
+        return parseList(text).and_then(
+            [&c](const QStringList &apps) { return saved(c.bypassApps.set(apps)); });
     return Failure(QStringLiteral("There is no setting \"%1\". Settings: %2.")
-                       .arg(name, settingNames().join(QStringLiteral(", "))));
+                       .arg(shown(name), settingNames().join(QStringLiteral(", "))));
 }
 
 } // namespace veldmark

@@ -22,7 +22,8 @@ QJsonObject publishedState(const TorController &controller);
 QStringList settingNames();
 
 // Sets the setting `name` from its text: "true"/"false" (also on/off, yes/no, 1/0) for switches,
-// a JSON array of strings for lists, the raw value for choices. The error is one line.
+// a JSON array of strings for lists, the raw value for choices. The error is one line:
+// what is wrong with the text, or that the setting holds but could not be saved.
 Result<void, QString> setSetting(TorController &controller, const QString &name, const QString &text);
 
 } // namespace veldmark

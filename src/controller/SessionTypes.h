@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/RoutingMode.h"
+
 #include <QObject>
 #include <QString>
 
@@ -18,6 +20,12 @@ enum class ConnectionPhase {
     stale,         // the network is still set up for Tor but no session of this run owns it
 };
 Q_ENUM_NS(ConnectionPhase)
+
+// The headline of a session in this state. A leak comes first; and proxy mode is never called
+// protected, since applications that ignore the proxy settings are not covered.
+QString sessionTitle(ConnectionPhase phase, std::optional<RoutingMode> mode, bool isDNSLeaking);
+// The name of the symbol for the menu bar.
+QString sessionSymbol(ConnectionPhase phase, bool isDNSLeaking);
 
 // An exit country that the user can choose; its identity is `code`.
 struct ExitCountry {

@@ -4,10 +4,11 @@
 
 namespace veldmark {
 
-void TorController::setTerminalMode(bool on)
+std::optional<QString> TorController::setTerminalMode(bool on)
 {
-    terminalMode.set(on);
+    const auto problem = terminalMode.set(on);
     applyTerminalMode();
+    return problem;
 }
 
 void TorController::applyTerminalMode()

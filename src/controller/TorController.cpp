@@ -124,41 +124,12 @@ void TorController::loadSettings()
 
 QString TorController::title() const
 {
-    switch (phase()) {
-    case ConnectionPhase::disconnected:
-        return QStringLiteral("Not Protected");
-    case ConnectionPhase::connecting:
-        return QStringLiteral("Connecting…");
-    case ConnectionPhase::connected:
-        // A leak comes first; and proxy mode is never called protected, since applications that
-        // ignore the proxy settings are not covered.
-        if (dnsStatus().isLeak())
-            return QStringLiteral("DNS Leak");
-        return activeMode() == RoutingMode::strict ? QStringLiteral("Protected")
-                                                   : QStringLiteral("Proxy Active");
-    case ConnectionPhase::disconnecting:
-        return QStringLiteral("Disconnecting…");
-    case ConnectionPhase::stale:
-        return QStringLiteral("Needs Attention");
-    }
-    return {};
+    return sessionTitle(phase(), activeMode(), dnsStatus().isLeak());
 }
 
 QString TorController::menuBarSymbol() const
 {
-    switch (phase()) {
-    case ConnectionPhase::disconnected:
-        return QStringLiteral("shield.slash");
-    case ConnectionPhase::connecting:
-    case ConnectionPhase::disconnecting:
-        return QStringLiteral("shield.lefthalf.filled");
-    case ConnectionPhase::connected:
-        return dnsStatus().isLeak() ? QStringLiteral("exclamationmark.shield")
-                                    : QStringLiteral("lock.shield.fill");
-    case ConnectionPhase::stale:
-        return QStringLiteral("exclamationmark.shield");
-    }
-    return {};
+    return sessionSymbol(phase(), dnsStatus().isLeak());
 }
 
 bool TorController::optionsLocked() const
@@ -169,7 +140,7 @@ bool TorController::optionsLocked() const
 
 bool TorController::canDownloadTransports() const
 {
-    return !transportDownload() && phase() != ConnectionPhase::connecting
+    return !m_isDownloading && phase() != ConnectionPhase::connecting
         && phase() != ConnectionPhase::disconnecting;
 }
 

@@ -1,8 +1,9 @@
 #pragma once
 
 #include "bridges/BridgeChoice.h"
+#include "bridges/BridgePlan.h"
 #include "bridges/PluggableTransports.h"
-#include "bridges/SpeedTest.h"
+#include "bridges/TransportDownloader.h"
 #include "checks/DNSStatus.h"
 #include "checks/LeakStatus.h"
 #include "circuits/CircuitTable.h"
@@ -64,6 +65,10 @@ public:
         TerminalIntegration &terminal;
         std::function<QCoro::Task<PluggableTransports>()> locateTransports;
         BridgeProbe bridgeProbe;
+        // TransportDownloader::install(); without it downloadTransports() does nothing.
+        std::function<QCoro::Task<TransportDownloader::Outcome>(
+            bool throughTor, TransportDownloader::Progress progress)>
+            installTransports = {};
     };
 
     // Registers the settings' defaults, reads the settings, and starts looking for transports
@@ -90,7 +95,9 @@ public:
     Published<double> bootstrapProgress; // 0…1
     Published<QString> statusDetail;     // the line under the title
     Published<bool> canCancel;           // a connect attempt may be ended by disconnect()
-    Published<std::optional<QString>> errorMessage; // the banner; absent = none
+    // The banner; absent = none. An operation that may set it takes back what stood there before,
+    // except a restore that did not happen: then the reason for restoring is still true.
+    Published<std::optional<QString>> errorMessage;
     Published<quint64> bytesRead;        // since Tor started
     Published<quint64> bytesWritten;
 
@@ -128,7 +135,8 @@ public:
     // --- Operations: session. ---
     // From `disconnected` or `stale` to `connected`; in any other phase does nothing.
     QCoro::Task<void> connect();
-    // Restores the network. Accepted when connected, stale, or connecting with `canCancel`.
+    // Restores the network. Accepted when connected, stale, or connecting with `canCancel`. When
+    // the helper fails, a session that was up is so again as long as the marker says so too.
     QCoro::Task<void> disconnect();
     // At start-up, before anything shows state: finds a session left from an earlier run.
     void detectStaleState();
@@ -150,13 +158,18 @@ public:
     // --- Operations: transports. ---
     // Searches the computer afresh and sets `transports`.
     QCoro::Task<void> locateTransports();
+    // Fetches and installs the Tor Project's bundle of transport programs, through Tor while
+    // connected. Does nothing unless canDownloadTransports(). `transportDownload` tells how it goes
+    // and keeps the last word until the next download; it is absent when all went well. True when a
+    // bundle was installed, whatever else there is to say about it.
+    QCoro::Task<bool> downloadTransports();
 
     // --- Operations: helper without a password, terminal. ---
     // Reinstalls the root-owned helper when the program brought a newer one.
     QCoro::Task<void> updatePrivilegedHelper();
     QCoro::Task<void> installPasswordless();
     QCoro::Task<void> removePasswordless();
-    void setTerminalMode(bool on);
+    std::optional<QString> setTerminalMode(bool on); // as Setting::set()
     void removeTerminalIntegration();
 
     // Reads the value of Tor's "status/bootstrap-phase".
@@ -208,12 +221,18 @@ private:
     // Connect.cpp
     QCoro::Task<Result<QString, QString>> hashPassword(QString password, QString tor);
     QCoro::Task<Result<void, QString>> waitForBootstrap(Attempt attempt);
-    QCoro::Task<Result<QStringList, QString>> bridgeArguments(Attempt attempt);
+    QCoro::Task<Result<QStringList, QString>> bridgeArguments(Attempt attempt, BridgeRequest request);
     // Makes every operation that is still under way an old one and clears what it left shown.
     Attempt startAttempt();
     bool isCurrent(Attempt attempt) const { return attempt == m_attempt; }
     void resetSessionInfo();
+    // Empties what is known about circuits: the next Tor counts its circuits from 1 again.
+    void forgetCircuits();
+    // Everything of the session goes, and the phase becomes `disconnected`.
+    void endSession();
     void settleAfterFailure();
+    // The mode that the session marker names; absent when it names none, or is not there.
+    std::optional<RoutingMode> markedMode() const;
     QString connectedDetail() const;
     void failAttempt(const QString &message);
     // Monitoring.cpp
@@ -227,15 +246,21 @@ private:
     };
     QCoro::Task<TimedProbe> timedViaTor();
     // Circuits.cpp
-    QCoro::Task<std::vector<RelayInfo>> resolveRelays(std::vector<RelayInfo> relays, QString password);
-    // State.cpp
+    QCoro::Task<std::vector<RelayInfo>> resolveRelays(std::vector<RelayInfo> relays, Attempt attempt);
+    // Terminal.cpp
     void applyTerminalMode();
+    // TorController.cpp
     void loadSettings();
+    template <typename T>
+    friend class Setting;
+    // Shows a problem with saving as the banner.
+    void showProblem(const QString &problem) { errorMessage = problem; }
 
     Services m_services;
     Attempt m_attempt = 0;  // the running connect or disconnect; older ones end silently
     quint64 m_monitor = 0;  // the running monitor loop
     std::optional<QString> m_controlPassword; // of the running session; in memory only
+    bool m_isDownloading = false;             // transports
     bool m_dnsLiveVerified = false;           // a live DNS check passed in this session
     QStringList m_pendingBridgeLines;         // of the connection being set up
     QStringList m_activeBridgeLines;          // of the running session

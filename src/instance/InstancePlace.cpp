@@ -36,11 +36,20 @@ Result<std::shared_ptr<QLockFile>, QString> lockInstance(const PlatformProfile &
     lock->setStaleLockTime(0); // held for as long as the process lives, never stale by age
     if (lock->tryLock(0))
         return lock;
-    if (lock->error() != QLockFile::LockFailedError)
-        return Failure(QStringLiteral("Couldn't write %1/lock.").arg(folder));
     qint64 pid = 0;
     QString host;
     QString program;
+    if (lock->error() == QLockFile::LockFailedError && !lock->getLockInfo(&pid, &host, &program)) {
+        // It says nothing: a crash came between its creation and its first byte. Removing it by age
+        // is safe, since whoever holds it has a lock of the system's on it as well.
+        lock->setStaleLockTime(1);
+        const bool locked = lock->tryLock(0);
+        lock->setStaleLockTime(0);
+        if (locked)
+            return lock;
+    }
+    if (lock->error() != QLockFile::LockFailedError)
+        return Failure(QStringLiteral("Couldn't write %1/lock.").arg(folder));
     lock->getLockInfo(&pid, &host, &program);
     return Failure(QStringLiteral("Veldmark is already running (process %1).").arg(pid));
 }

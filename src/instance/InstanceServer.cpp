@@ -10,6 +10,8 @@
 #include <QMetaMethod>
 #include <QPointer>
 
+#include <algorithm>
+
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -20,6 +22,22 @@ namespace {
 const QString okKey = QStringLiteral("ok");
 const QString errorKey = QStringLiteral("error");
 const QString stateKey = QStringLiteral("state");
+
+// What can only be asked of a connected Tor.
+const QStringList sessionCommands = {QStringLiteral("check"), QStringLiteral("fix-dns"), QStringLiteral("circuits"),
+                                     QStringLiteral("close-circuit"), QStringLiteral("new-identity")};
+// Commands during which the client hears of every change.
+const QStringList longCommands =
+    QStringList{QStringLiteral("watch"), QStringLiteral("connect"), QStringLiteral("disconnect"),
+                QStringLiteral("download-transports")}
+    + sessionCommands;
+
+bool hasCircuit(const TorController &controller, const QString &id)
+{
+    const auto &circuits = controller.circuits();
+    return std::any_of(circuits.begin(), circuits.end(),
+                       [&id](const CircuitInfo &circuit) { return circuit.id == id; });
+}
 
 // The folder keeps other users out; this keeps them out also where its mode was changed.
 bool isOwnUserOrRoot(const QLocalSocket &socket)
@@ -42,7 +60,7 @@ bool isOwnUserOrRoot(const QLocalSocket &socket)
 } // namespace
 
 // Sends the state over one connection whenever it has changed, at most once per turn of the event
-// loop, however many fields changed in it.
+// loop, however many fields changed in it, and not before the other end has taken the last one.
 class StateStream : public QObject {
     Q_OBJECT
 
@@ -58,12 +76,13 @@ public:
             if (method.methodType() == QMetaMethod::Signal)
                 QObject::connect(&controller, method, this, slot);
         }
-        send();
+        QObject::connect(m_lines.get(), &JsonLines::sent, this, &StateStream::sendIfBehind);
+        sendNow();
     }
 
-    void send()
+    void sendNow()
     {
-        m_scheduled = false;
+        m_behind = false;
         if (m_controller)
             m_lines->write({{stateKey, publishedState(*m_controller)}});
     }
@@ -76,11 +95,24 @@ private Q_SLOTS:
         m_scheduled = true;
         QMetaObject::invokeMethod(this, &StateStream::send, Qt::QueuedConnection);
     }
+    void send()
+    {
+        m_scheduled = false;
+        m_behind = m_lines->hasUnsent();
+        if (!m_behind)
+            sendNow();
+    }
+    void sendIfBehind()
+    {
+        if (m_behind)
+            send();
+    }
 
 private:
     QPointer<TorController> m_controller;
     std::shared_ptr<JsonLines> m_lines;
     bool m_scheduled = false;
+    bool m_behind = false; // a change waits until the other end has read
 };
 
 Result<std::unique_ptr<InstanceServer>, QString> InstanceServer::start(TorController &controller)
@@ -104,15 +136,25 @@ InstanceServer::InstanceServer(TorController &controller) : m_controller(control
     QObject::connect(&m_server, &QLocalServer::newConnection, this, &InstanceServer::accept);
 }
 
-InstanceServer::~InstanceServer() = default;
+InstanceServer::~InstanceServer()
+{
+    for (const auto &client : m_clients) {
+        if (const auto lines = client.lock())
+            lines->abort();
+    }
+}
 
 void InstanceServer::accept()
 {
     while (QLocalSocket *socket = m_server.nextPendingConnection()) {
-        if (isOwnUserOrRoot(*socket))
-            serve(JsonLines::over(socket));
-        else
+        if (!isOwnUserOrRoot(*socket)) {
             delete socket;
+            continue;
+        }
+        const auto lines = JsonLines::over(socket);
+        std::erase_if(m_clients, [](const auto &client) { return client.expired(); });
+        m_clients.push_back(lines);
+        serve(lines);
     }
 }
 
@@ -120,12 +162,16 @@ QCoro::Task<void> InstanceServer::serve(std::shared_ptr<JsonLines> lines)
 {
     const QPointer<InstanceServer> self(this);
     const auto request = co_await lines->next();
-    if (!self || !request)
+    if (!self)
         co_return;
-    const auto done = co_await execute(*request, lines);
+    Result<void, QString> done = Failure(QStringLiteral("A command is a JSON object on one line."));
+    if (request) {
+        auto executing = execute(*request, lines);
+        done = co_await executing;
+    }
     lines->write(done ? QJsonObject{{okKey, true}}
                       : QJsonObject{{okKey, false}, {errorKey, done.error()}});
-    lines->close();
+    co_await lines->finish();
 }
 
 QCoro::Task<Result<void, QString>> InstanceServer::execute(QJsonObject request,
@@ -141,9 +187,15 @@ QCoro::Task<Result<void, QString>> InstanceServer::execute(QJsonObject request,
         lines->write({{stateKey, publishedState(m_controller)}});
         co_return {};
     }
-    if (command == QLatin1String("set"))
-        co_return setSetting(m_controller, request.value(QStringLiteral("key")).toString(),
-                             request.value(QStringLiteral("value")).toString());
+    if (command == QLatin1String("set")) {
+        const QJsonValue key = request.value(QStringLiteral("key"));
+        const QJsonValue value = request.value(QStringLiteral("value"));
+        if (!key.isString() || !value.isString())
+            co_return Failure(QStringLiteral("\"set\" needs a \"key\" and a \"value\", both strings."));
+        co_return setSetting(m_controller, key.toString(), value.toString());
+    }
+    if (!longCommands.contains(command))
+        co_return Failure(QStringLiteral("Unknown command \"%1\".").arg(command.left(40).simplified()));
 
     StateStream stream(m_controller, lines);
     if (command == QLatin1String("watch")) {
@@ -158,29 +210,65 @@ QCoro::Task<Result<void, QString>> InstanceServer::execute(QJsonObject request,
         if (controller && controller->phase() != ConnectionPhase::connected)
             co_return Failure(controller->errorMessage().value_or(QStringLiteral("Cancelled.")));
     } else if (command == QLatin1String("disconnect")) {
-        const bool nothingToDo = controller->phase() == ConnectionPhase::disconnected;
+        const bool underWay = controller->phase() == ConnectionPhase::disconnecting
+            || (controller->phase() == ConnectionPhase::connecting && !controller->canCancel());
+        if (underWay)
+            co_return Failure(QStringLiteral("Not now: %1").arg(controller->statusDetail()));
+        const bool wasStale = controller->phase() == ConnectionPhase::stale;
+        const auto earlierError = controller->errorMessage();
         co_await m_controller.disconnect();
-        if (controller && !nothingToDo && controller->phase() != ConnectionPhase::disconnected)
-            co_return Failure(controller->errorMessage().value_or(
-                QStringLiteral("Not now: %1").arg(controller->statusDetail())));
+        if (!controller)
+            co_return {};
+        const auto error = controller->errorMessage();
+        const bool isNews = error && !(wasStale && error == earlierError);
+        if (controller->phase() != ConnectionPhase::disconnected || isNews)
+            co_return Failure(isNews ? *error : QStringLiteral("Cancelled."));
+    } else if (command == QLatin1String("download-transports")) {
+        if (!controller->canDownloadTransports())
+            co_return Failure(QStringLiteral("Not now: %1").arg(
+                controller->transportDownload().value_or(controller->statusDetail())));
+        auto downloading = m_controller.downloadTransports();
+        const bool isInstalled = co_await downloading;
+        if (controller && !isInstalled)
+            co_return Failure(controller->transportDownload().value_or(QStringLiteral("Cancelled.")));
     } else if (controller->phase() != ConnectionPhase::connected) {
         co_return Failure(QStringLiteral("Not connected."));
     } else if (command == QLatin1String("check")) {
+        if (controller->isChecking())
+            co_return Failure(QStringLiteral("A check is already running."));
         co_await m_controller.runChecks();
+    } else if (command == QLatin1String("fix-dns")) {
+        co_await m_controller.fixDNS();
+        if (controller && controller->errorMessage())
+            co_return Failure(*controller->errorMessage());
+        if (controller && controller->dnsStatus().isLeak())
+            co_return Failure(QStringLiteral("Cancelled."));
+    } else if (command == QLatin1String("close-circuit")) {
+        const QString id = request.value(QStringLiteral("id")).toString();
+        co_await m_controller.refreshCircuits();
+        if (!controller)
+            co_return {};
+        if (controller->circuitError())
+            co_return Failure(*controller->circuitError());
+        if (!hasCircuit(*controller, id))
+            co_return Failure(QStringLiteral("There is no circuit \"%1\".").arg(id.left(40).simplified()));
+        co_await m_controller.newCircuit(id);
+        if (controller && hasCircuit(*controller, id))
+            co_return Failure(QStringLiteral("Tor didn't close circuit %1.").arg(id));
     } else if (command == QLatin1String("circuits")) {
         co_await m_controller.refreshCircuits();
         if (controller && controller->circuitError())
             co_return Failure(*controller->circuitError());
     } else if (command == QLatin1String("new-identity")) {
-        controller->dismissError();
         co_await m_controller.newIdentity();
         if (controller && controller->errorMessage())
             co_return Failure(*controller->errorMessage());
-    } else {
-        co_return Failure(QStringLiteral("Unknown command \"%1\".").arg(command.left(40)));
     }
+    // What was asked of a session that ended meanwhile has no answer; the fields hold an earlier one.
+    if (controller && sessionCommands.contains(command) && controller->phase() != ConnectionPhase::connected)
+        co_return Failure(QStringLiteral("The session has ended: %1").arg(controller->statusDetail()));
     if (controller)
-        stream.send(); // the last word, with everything that the command changed
+        stream.sendNow(); // the last word, with everything that the command changed
     co_return {};
 }
 

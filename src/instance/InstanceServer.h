@@ -10,6 +10,7 @@
 #include <qcorotask.h>
 
 #include <memory>
+#include <vector>
 
 // The room of the one running program: InstanceServer is how it takes commands, InstanceClient how
 // another process gives them. They speak JSON, one object a line, over a local socket in a folder
@@ -19,13 +20,14 @@
 //     ← {"state": {…every published field…}}        any number of these, as they change
 //     ← {"ok": true}   or   {"ok": false, "error": "one line"}     the last line of the answer
 //
-// A connection carries one command.
+// A connection carries one command. A client that reads slowly misses states, never the last one;
+// one that goes away changes nothing about the command that it has given.
 namespace veldmark {
 
 class JsonLines;
 class TorController;
 
-// Lives on the controller's thread, which it must not outlive.
+// Lives on the controller's thread, and must go before the controller. Its clients are cut off then.
 class InstanceServer : public QObject {
     Q_OBJECT
 
@@ -47,6 +49,7 @@ private:
 
     TorController &m_controller;
     std::shared_ptr<QLockFile> m_lock;
+    std::vector<std::weak_ptr<JsonLines>> m_clients;
     QLocalServer m_server;
 };
 

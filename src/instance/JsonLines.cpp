@@ -4,6 +4,12 @@
 
 namespace veldmark {
 
+namespace {
+// An end that talks faster than it is listened to waits in its own buffers, not in ours.
+constexpr qint64 chunkBytes = 64 * 1024;
+constexpr std::size_t readyLimit = 64;
+} // namespace
+
 std::shared_ptr<JsonLines> JsonLines::over(QLocalSocket *socket)
 {
     std::shared_ptr<JsonLines> lines(new JsonLines(socket));
@@ -14,47 +20,75 @@ std::shared_ptr<JsonLines> JsonLines::over(QLocalSocket *socket)
 JsonLines::JsonLines(QLocalSocket *socket) : m_socket(socket)
 {
     m_socket->setParent(nullptr);
+    m_socket->setReadBufferSize(chunkBytes);
     QObject::connect(socket, &QLocalSocket::readyRead, this, &JsonLines::read);
-    QObject::connect(socket, &QLocalSocket::disconnected, this, [this] {
-        read();
-        give(std::nullopt);
-    });
+    QObject::connect(socket, &QLocalSocket::bytesWritten, this, &JsonLines::sent);
+    QObject::connect(socket, &QLocalSocket::disconnected, this, &JsonLines::onDisconnected);
 }
 
+// The socket says that it has been disconnected when it is destroyed, and by then nobody may listen.
+JsonLines::~JsonLines()
+{
+    m_socket->disconnect(this);
+}
+
+// Takes as many lines as there is room for; next() comes back for the others.
 void JsonLines::read()
 {
-    if (m_ended)
-        return;
-    m_buffer += m_socket->readAll();
-    qsizetype begin = 0;
-    for (qsizetype end; (end = m_buffer.indexOf('\n', begin)) >= 0; begin = end + 1) {
-        const QJsonDocument document = QJsonDocument::fromJson(m_buffer.mid(begin, end - begin));
-        if (!document.isObject()) {
-            give(std::nullopt);
-            return;
+    while (!m_ended && m_ready.size() < readyLimit) {
+        const qsizetype lineEnd = m_buffer.indexOf('\n', m_searchedBytes);
+        if (lineEnd >= 0) {
+            const QJsonDocument document = QJsonDocument::fromJson(m_buffer.left(lineEnd));
+            m_buffer.remove(0, lineEnd + 1);
+            m_searchedBytes = 0;
+            if (document.isObject())
+                give(document.object());
+            else
+                end();
+            continue;
         }
-        give(document.object());
+        m_searchedBytes = m_buffer.size();
+        const QByteArray chunk = m_gone || !hasBytes() ? QByteArray() : m_socket->read(chunkBytes);
+        if (m_searchedBytes > lineLimitBytes || (chunk.isEmpty() && m_gone))
+            end();
+        else if (chunk.isEmpty())
+            return;
+        m_buffer += chunk;
     }
-    m_buffer.remove(0, begin);
-    if (m_buffer.size() > lineLimitBytes)
-        give(std::nullopt);
 }
 
-// Hands an object, or the end, to whoever waits, or keeps it for the next wait.
-void JsonLines::give(std::optional<QJsonObject> object)
+// The socket calls itself open for a while after its end has gone, and complains when it is read then.
+bool JsonLines::hasBytes() const
 {
-    if (m_ended)
-        return;
-    if (!object) {
-        m_ended = true;
-        m_buffer.clear();
-    }
-    if (m_waiter && m_waiter->complete(object)) {
+    return m_socket->isOpen() && m_socket->bytesAvailable() > 0;
+}
+
+void JsonLines::end()
+{
+    m_ended = true;
+    m_buffer.clear();
+    give(std::nullopt);
+}
+
+void JsonLines::onDisconnected()
+{
+    if (!m_gone && hasBytes())
+        m_buffer += m_socket->readAll(); // no more than the socket's own buffer holds
+    m_gone = true;
+    read();
+    if (m_finished)
+        m_finished->complete(true);
+}
+
+// Hands an object, or the end, to whoever waits, or keeps the object for the next wait.
+void JsonLines::give(const std::optional<QJsonObject> &object)
+{
+    if (m_waiter) {
+        m_waiter->complete(object);
         m_waiter.reset();
-        return;
-    }
-    if (object)
+    } else if (object) {
         m_ready.push_back(*object);
+    }
 }
 
 QCoro::Task<std::optional<QJsonObject>> JsonLines::next()
@@ -63,13 +97,15 @@ QCoro::Task<std::optional<QJsonObject>> JsonLines::next()
     if (!m_ready.empty()) {
         const QJsonObject object = m_ready.front();
         m_ready.pop_front();
+        read();
         co_return object;
     }
-    if (m_ended || !isOpen())
+    if (m_ended)
         co_return std::nullopt;
     const ResumeOnce<std::optional<QJsonObject>> arrival;
     m_waiter = arrival;
-    co_return co_await arrival;
+    const std::optional<QJsonObject> object = co_await arrival;
+    co_return object;
 }
 
 void JsonLines::write(const QJsonObject &object)
@@ -78,6 +114,24 @@ void JsonLines::write(const QJsonObject &object)
         return;
     m_socket->write(QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n');
     m_socket->flush();
+}
+
+QCoro::Task<void> JsonLines::finish()
+{
+    const auto self = shared_from_this(); // so do the bytes that wait
+    m_socket->disconnectFromServer();
+    if (m_socket->state() == QLocalSocket::UnconnectedState)
+        co_return;
+    const ResumeOnce<bool> finished;
+    m_finished = finished;
+    co_await finished;
+}
+
+void JsonLines::abort()
+{
+    m_socket->abort();
+    m_ready.clear();
+    onDisconnected();
 }
 
 } // namespace veldmark

@@ -59,6 +59,10 @@ HelperError policyKitError(const ProcessResult &result, const QString &script)
 {
     if (helperSpoke(result.stderr, script))
         return failure(result.stderr);
+    if (result.stderr.startsWith(QLatin1String("Error getting authority:"))) {
+        return HelperError::failed(QStringLiteral(
+            "Administrator access can't be asked for: polkit is not running on this system."));
+    }
     if (result.status == 126)
         return HelperError::cancelled();
     if (result.status == 127) {

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """The private Tor network from the command line; see veldlab/topology.py for a picture of it.
 
-    lab.py check                                      can a lab run here? status 0, or 77 with one line that says what to do
+    lab.py check                                      can a lab run here? status 0, or 77 and one line what to do
     lab.py up                                         start one and keep it until Ctrl-C
     lab.py run [--user alice] -- CMD...               start one, run CMD on its host, end it; gives CMD's status
     lab.py exec [--in SPACE] [--user alice] -- CMD    run CMD in a lab that is up
@@ -41,6 +41,7 @@ def parser() -> argparse.ArgumentParser:
             ("check", "up", "run", "exec", "info", "behave", "node", "log", "selftest")}
     for name in ("up", "run"):
         made[name].add_argument("--share", action="append", default=[], help="a folder that the host sees as it is")
+        made[name].add_argument("--logs", default="", metavar="FOLDER", help="copy all logs there at the end")
     for name in ("exec", "info", "behave", "node", "log"):
         made[name].add_argument("--lab", default="", metavar="ID")
     for name in ("run", "exec"):
@@ -79,7 +80,7 @@ def print_timings(lab: Lab) -> None:
 
 
 def up(arguments) -> int:
-    with Lab(share=arguments.share) as lab:
+    with Lab(share=arguments.share, logs=arguments.logs) as lab:
         print_timings(lab)
         this = f"sudo {sys.executable} {Path(__file__)}"
         print(f"The lab {lab.id} is up. In another terminal:\n"
@@ -122,7 +123,7 @@ def act(arguments) -> int:
     if arguments.verb == "up":
         return up(arguments)
     if arguments.verb == "run":
-        with Lab(share=arguments.share) as lab:
+        with Lab(share=arguments.share, logs=arguments.logs) as lab:
             print_timings(lab)
             return run_in(lab.host, arguments)
     if os.geteuid() != 0:

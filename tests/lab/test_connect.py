@@ -275,6 +275,35 @@ class WhenThingsGoWrong(LabCase):
         self.assert_restored()
 
 
+class AnOrdinaryUser(LabCase):
+    """alice, who is no administrator, with the root-owned helper and its sudo rule, and without."""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.as_root, cls.product = cls.product, Product(cls.lab, PROGRAMS, user=cls.lab.host.user)
+
+    def test_without_the_rule_and_without_polkit_one_line_says_so(self):
+        result = self.product.run_verb("run", "--connect")
+        self.assertEqual(result.returncode, 1)
+        self.assertEqual(result.stderr, "veldmarkctl: Administrator access can't be asked for: "
+                                        "polkit is not running on this system.\n")
+        self.assert_restored()
+
+    def test_with_the_rule_no_password_is_needed(self):
+        self.as_root.run_helper("install-privileged", "--user", self.lab.host.user, check=True)
+        self.addCleanup(self.as_root.run_helper, "uninstall-privileged", check=True)
+        self.before = self.lab.host.snapshot()
+        self.assertIs(self.product.status()["passwordlessInstalled"], True)
+        with self.product.session() as session:
+            state = session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"] and s["exitIP"])
+            self.assertEqual((state["torVerified"], state["leakStatus"]), (True, "blocked"))
+            log = self.product.run_verb("log", check=True).stdout  # the session's user may read Tor's log
+            self.assertIn("Bootstrapped 100%", log)
+            self.assertEqual(session.interrupt(), 0, session.output)
+        self.assert_restored()
+
+
 class OneInstanceAndBadInput(LabCase):
     def test_a_second_instance_says_that_one_is_running(self):
         with self.product.session(connect=False) as session:

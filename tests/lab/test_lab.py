@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Self test of the lab: real tor, real packets. Run by `lab.py selftest`, or directly; takes root.
 
-This file holds what concerns the network; test_host.py, test_lifecycle.py and test_packets.py hold the rest and run along.
+This file holds what concerns the network; the other test files here hold the rest and run along.
 """
 
 import json
@@ -51,7 +51,8 @@ class NetworkTest(unittest.TestCase):
         self.assertIn(answer["IP"], at.EXIT_ADDRESSES)
         self.assertTrue(through_tor)
         for packet in through_tor:
-            self.assertEqual((packet.proto, packet.dst in at.RELAY_ADDRESSES, packet.out), ("tcp", True, True), packet)
+            to_relay = packet.dst in at.RELAY_ADDRESSES
+            self.assertEqual((packet.proto, to_relay, packet.out), ("tcp", True, True), packet)
         self.assertTrue([p for p in direct if p.proto == "udp" and p.dport == 53])
         self.assertTrue([p for p in direct if p.dst in (at.CHECK_ADDRESS, at.CHECK_ADDRESS6) and p.dport == 443])
 
@@ -63,19 +64,23 @@ class NetworkTest(unittest.TestCase):
         for country in ("de", "fr"):
             with self.subTest(country), TorClient(self.lab, f"ExitNodes {{{country}}}\nStrictNodes 1") as client:
                 wanted = next(node.address for node in at.EXITS if node.country == country)
-                answers = {client.check()["IP"] for _ in range(4)}
-                self.assertEqual(answers, {wanted})
+                self.assertEqual({self.isolated(client, number) for number in range(8)}, {wanted})
 
     def test_without_a_wish_more_than_one_exit_serves(self):
-        """What the test above proves nothing without."""
-        with TorClient(self.lab, "SocksPort 9060 IsolateSOCKSAuth") as client:
-            seen = set()
+        # The test above proves nothing without this one.
+        seen = set()
+        with TorClient(self.lab) as client:
             for number in range(40):
-                done = client.curl(at.CHECK_URL, "--proxy-user", f"user{number}:x")
-                seen.add(json.loads(done.stdout)["IP"])
+                seen.add(self.isolated(client, number))
                 if len(seen) > 1:
                     return
         self.fail(f"40 isolated streams all left by {seen}")
+
+    @staticmethod
+    def isolated(client, number: int) -> str:
+        """The exit's address of a stream that shares no circuit with those of other numbers."""
+        done = client.curl(at.CHECK_URL, "--proxy-user", f"user{number}:x")
+        return json.loads(done.stdout)["IP"]
 
     def test_bridges_carry_everything(self):
         self.lab.tor.wait_bridges()
@@ -91,20 +96,21 @@ class NetworkTest(unittest.TestCase):
     def test_names_are_answered_and_logged_with_their_source(self):
         resolve = "import socket,sys; print(sorted({a[4][0] for a in socket.getaddrinfo(sys.argv[1], 80)}))"
         mark = len(self.lab.world.dns_log())
-        done = self.lab.host.run(["/usr/bin/python3", "-c", resolve, "www.example.test"])
+        done = self.lab.host.run([at.PYTHON, "-c", resolve, "www.example.test"])
         self.assertEqual(done.stdout.strip(), str(sorted([at.WEB_ADDRESS, at.WEB_ADDRESS6])), done.stderr)
-        unknown = self.lab.host.run(["/usr/bin/python3", "-c", resolve, "unknown.example.test"])
+        unknown = self.lab.host.run([at.PYTHON, "-c", resolve, "unknown.example.test"])
         self.assertIn("Name or service not known", unknown.stderr)
         logged = {(q["source"], q["transport"], q["name"], q["type"]) for q in self.lab.world.dns_log(mark)}
         self.assertIn((at.HOST_ADDRESS, "udp", "www.example.test", "A"), logged)
         self.assertIn((at.HOST_ADDRESS, "udp", "unknown.example.test", "AAAA"), logged)
 
     def test_names_are_answered_over_tcp(self):
-        ask = ("import socket, struct; q = b'\\1\\2\\1\\0\\0\\1\\0\\0\\0\\0\\0\\0\\3www\\7example\\4test\\0\\0\\1\\0\\1'; "
+        ask = ("import socket, struct; "
+               "q = b'\\1\\2\\1\\0\\0\\1\\0\\0\\0\\0\\0\\0\\3www\\7example\\4test\\0\\0\\1\\0\\1'; "
                f"s = socket.create_connection(('{at.DNS_ADDRESS}', 53), 10); s.sendall(struct.pack('!H', len(q)) + q); "
                "n = struct.unpack('!H', s.recv(2, socket.MSG_WAITALL))[0]; a = s.recv(n, socket.MSG_WAITALL); "
                "print(socket.inet_ntoa(a[-4:]))")
-        done = self.lab.host.run(["/usr/bin/python3", "-c", ask])
+        done = self.lab.host.run([at.PYTHON, "-c", ask])
         self.assertEqual(done.stdout.strip(), at.WEB_ADDRESS, done.stderr)
         self.assertEqual(self.lab.world.dns_log()[-1]["transport"], "tcp")
 
@@ -117,7 +123,8 @@ class NetworkTest(unittest.TestCase):
 
     def test_web_pages_of_any_size(self):
         for scheme in ("http", "https"):
-            done = curl(self.lab, f"{scheme}://www.example.test/bytes/1000000", "-o", "/dev/null", "-w", "%{size_download}")
+            url = f"{scheme}://www.example.test/bytes/1000000"
+            done = curl(self.lab, url, "-o", "/dev/null", "-w", "%{size_download}")
             self.assertEqual((done.returncode, done.stdout), (0, "1000000"), done.stderr)
         entry = self.lab.world.web_log(service="web")[-1]
         self.assertEqual((entry["path"], entry["host"]), ("/bytes/1000000", "www.example.test"))
@@ -147,19 +154,34 @@ class NetworkTest(unittest.TestCase):
             with self.subTest(behaviour):
                 self.lab.world.behave("check", behaviour)
                 limit = "3" if behaviour == "silent" else "30"
-                done = curl(self.lab, at.CHECK_URL, "-4f", "-o", "/dev/null", "-w", "%{size_download}", "--max-time", limit)
+                options = ("-4f", "-o", "/dev/null", "-w", "%{size_download}", "--max-time", limit)
+                done = curl(self.lab, at.CHECK_URL, *options)
                 self.assertEqual(done.returncode, status, done.stderr)
                 self.assertIn(text, done.stdout + done.stderr)
         self.assertRaises(ValueError, self.lab.world.behave, "check", "nonsense")
 
     def test_a_stopped_node_is_gone_until_started(self):
-        connect = ["/usr/bin/python3", "-c", f"import socket; socket.create_connection(('203.0.113.22', {at.OR_PORT}), 5)"]
+        script = f"import socket; socket.create_connection(('203.0.113.22', {at.OR_PORT}), 5)"
+        connect = [at.PYTHON, "-c", script]
         self.assertEqual(self.lab.host.run(connect).returncode, 0)
-        for kill in (False, True):
-            self.lab.tor.stop("middleat", kill=kill)
+        for _ in range(2):
+            self.lab.tor.stop("middleat")
+            self.lab.tor.stop("middleat")
             self.assertIn("refused", self.lab.host.run(connect).stderr)
             self.lab.tor.start("middleat")
             self.assertEqual(self.lab.host.run(connect).returncode, 0)
+
+    def test_a_bridge_can_be_started_again(self):
+        self.lab.tor.wait_bridges()
+        line = self.lab.tor.bridge_line("obfs4")
+        self.lab.tor.stop("bridgeobfs4")
+        self.assertNotIn("obfs4proxy", self.lab.spaces["world"].run(["ps", "-e"]).stdout)
+        self.lab.tor.start("bridgeobfs4")
+        self.lab.tor.wait_bridges()
+        self.assertEqual(self.lab.tor.bridge_line("obfs4"), line)
+        plugin = "ClientTransportPlugin obfs4 exec /usr/bin/obfs4proxy\n"
+        with TorClient(self.lab, f"{plugin}UseBridges 1\nBridge {line}") as client:
+            self.assertIs(client.check()["IsTor"], True)
 
     def test_no_namespace_has_a_way_out(self):
         for name, space in self.lab.spaces.items():
@@ -180,7 +202,8 @@ class NetworkTest(unittest.TestCase):
             self.assertLess(milliseconds(at.DNS_ADDRESS), 700)
         with self.lab.netem("host", to=at.WEB_ADDRESS6, delay_ms=100):
             self.assertGreaterEqual(milliseconds(at.WEB_ADDRESS6), 200)
-            self.assertEqual(curl(self.lab, "http://www.example.test/bytes/300000", "-6", "-o", "/dev/null").returncode, 0)
+            done = curl(self.lab, "http://www.example.test/bytes/300000", "-6", "-o", "/dev/null")
+            self.assertEqual(done.returncode, 0, done.stderr)
         with self.lab.netem("host", to="exitde", loss=1.0):
             self.assertNotEqual(self.lab.host.run(["ping", "-c", "1", "-W", "2", "203.0.113.10"]).returncode, 0)
             self.assertLess(milliseconds("203.0.113.11"), 700)
@@ -190,7 +213,7 @@ class NetworkTest(unittest.TestCase):
 
 
 def everything() -> unittest.TestSuite:
-    names = ("test_packets", "test_host", "test_lifecycle", "test_lab")
+    names = ("test_packets", "test_host", "test_command_line", "test_lifecycle", "test_lab")
     return unittest.TestSuite(unittest.defaultTestLoader.loadTestsFromName(name) for name in names)
 
 

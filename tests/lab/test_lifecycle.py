@@ -1,7 +1,8 @@
 """Self test of a lab's beginning and end: nothing is left, however it ends.
 
-Other labs and programs run on the machine at the same time, so "nothing" means: no process whose control group or command line
-names this lab, no process in any of its namespaces, no mount, no control group, no record, no named network namespace, no file.
+Other labs and programs run on the machine at the same time, so "nothing" means: no process whose control group or
+command line names this lab, no process in any of its namespaces, no mount, no control group, no record, no named
+network namespace, no file.
 """
 
 import os
@@ -94,7 +95,7 @@ def machine_state() -> dict[str, object]:
 class Traces:
     """Everything by which a running lab could be recognised afterwards.
 
-    Its namespaces are held open meanwhile: the kernel would give the number of one that ended to the next one made by anybody.
+    Its namespaces are held open meanwhile: the kernel gives the number of one that ended to the next one made.
     """
 
     def __init__(self, test: unittest.TestCase, lab_id: str):
@@ -146,7 +147,8 @@ class LifecycleTest(unittest.TestCase):
 
     def owner(self, after: str = "pass") -> tuple[subprocess.Popen, Traces]:
         process = subprocess.Popen(
-            [at.PYTHON, "-c", OWNER, after], stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+            [at.PYTHON, "-c", OWNER, after], stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+            text=True)
         self.addCleanup(process.communicate)
         self.addCleanup(process.kill)
         lab_id = process.stdout.readline().strip()

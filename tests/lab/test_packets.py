@@ -15,7 +15,8 @@ def ipv4(proto: int, payload: bytes, fragment: int = 0, options: bytes = b"") ->
     first = 0x40 | (20 + len(options)) // 4
     length = 20 + len(options) + len(payload)
     head = struct.pack("!BBHHHBBH", first, 0, length, 1, fragment, 64, proto, 0)
-    return MACS + b"\x08\0" + head + socket.inet_aton("192.168.77.2") + socket.inet_aton("203.0.113.39") + options + payload
+    addresses = socket.inet_aton("192.168.77.2") + socket.inet_aton("203.0.113.39")
+    return MACS + b"\x08\0" + head + addresses + options + payload
 
 
 def ipv6(proto: int, payload: bytes) -> bytes:

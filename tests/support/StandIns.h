@@ -59,28 +59,48 @@ private:
 
 class ScriptedProbe final : public NetworkProbe {
 public:
+    // What they answer is decided when they are asked.
     QCoro::Task<ProbeResult> viaTor() override
     {
         ++torProbes;
+        const ProbeResult answer = torAnswer;
         if (beforeTorAnswer)
             co_await beforeTorAnswer();
-        co_return torAnswer;
+        co_return answer;
     }
-    QCoro::Task<ProbeResult> direct() override { co_return directAnswer; }
+    QCoro::Task<ProbeResult> direct() override
+    {
+        ++directProbes;
+        const ProbeResult answer = directAnswer;
+        if (beforeDirectAnswer)
+            co_await beforeDirectAnswer();
+        co_return answer;
+    }
 
     static ProbeResult nothing() { return Failure(ProbeError{ProbeError::Kind::transport, {}}); }
 
     ProbeResult torAnswer = IPCheck{true, QStringLiteral("203.0.113.10")};
     ProbeResult directAnswer = nothing();
     std::function<QCoro::Task<void>()> beforeTorAnswer;
+    std::function<QCoro::Task<void>()> beforeDirectAnswer;
     int torProbes = 0;
+    int directProbes = 0;
 };
 
 class ScriptedResolvers final : public ResolverSource {
 public:
-    QCoro::Task<std::vector<DNSResolver>> resolvers() override { co_return answer; }
+    QCoro::Task<std::vector<DNSResolver>> resolvers() override
+    {
+        ++readings;
+        const std::vector<DNSResolver> now = answer;
+        if (beforeAnswer)
+            co_await beforeAnswer();
+        co_return now;
+    }
 
     std::vector<DNSResolver> answer;
+    std::function<QCoro::Task<void>()> beforeAnswer;
+    int readings = 0;
 };
 
 } // namespace veldmark

@@ -4,11 +4,12 @@
         ...
     assert {p.dst for p in c.packets if p.out} <= topology.RELAY_ADDRESSES
 
-Entering returns only after a marker frame sent over the link has been recorded; leaving records a second marker last, so every
-packet before it is in. A capture that lost packets raises at its end instead of pretending to be complete.
+Entering returns only after a marker frame sent over the link has been recorded; leaving records a second marker last,
+so every packet before it is in. A capture that lost packets raises at its end instead of pretending to be complete.
 """
 
 import os
+import select
 import socket
 import struct
 import threading
@@ -29,10 +30,11 @@ _EXTENSIONS = {0, 43, 44, 60, 135}  # IPv6 headers that another header follows
 
 @dataclass(frozen=True)
 class Packet:
-    """One packet. `out`: it leaves the user's network for the link's far side (on "host" and "lan": it comes from there).
+    """One packet. `out`: it goes to the world; on the links "host" and "lan", it comes from there.
 
-    Addresses are text ("" where the protocol has none), ports 0 where there are none; `length` is that of the IP packet, or
-    of the frame's content for other protocols, in bytes. A large TCP segment may be one packet here and several on a wire.
+    Addresses are text ("" where the protocol has none), ports 0 where there are none; `length` is that of the IP
+    packet, or of the frame's content for other protocols, in bytes. A large TCP segment may be one packet here and
+    several on a wire.
     """
 
     time: float
@@ -57,7 +59,7 @@ class Packet:
 
 
 def decode(frame: bytes, length: int, out: bool, when: float) -> Packet:
-    """`frame`: Ethernet frame, perhaps cut short; `length`: its full length. What cannot be read is left empty, never dropped."""
+    """`frame`: Ethernet frame, perhaps cut short; `length`: its full length. What cannot be read is left empty."""
     kind = struct.unpack_from("!H", frame, 12)[0] if len(frame) >= 14 else 0
     data, size = frame[14:], max(length - 14, 0)
     if kind == 0x0800 and len(data) >= 20:
@@ -114,15 +116,11 @@ class Capture:
             self._mark()
             _, lost = struct.unpack("II", self._socket.getsockopt(_SOL_PACKET, _PACKET_STATISTICS, 8))
         finally:
-            with self._changed:
-                self._closing = True
             self._wake.close()
             self._thread.join()
             self._socket.close()
         if lost and kind is None:
             raise RuntimeError(f"the capture lost {lost} packets and proves nothing")
-
-    _closing = False
 
     def wait_for(self, predicate, timeout: float = 10) -> Packet:
         """The first packet, recorded already or to come, that the predicate accepts. Raises TimeoutError."""
@@ -163,7 +161,6 @@ class Capture:
             made.bind((self.interface, _ETH_P_ALL))
             return made
 
-        self._marker_socket = None
         self._wake, self._woken = socket.socketpair()
         return self._in_router(make)
 
@@ -174,7 +171,8 @@ class Capture:
         def send() -> None:
             with socket.socket(socket.AF_PACKET, socket.SOCK_RAW, 0) as sender:
                 sender.bind((self.interface, 0))
-                sender.send(b"\x02\0\0\0\0\1" + b"\x02\0\0\0\0\2" + struct.pack("!H", _MARKER_TYPE) + token.ljust(46, b"\0"))
+                addresses = b"\x02\0\0\0\0\1" b"\x02\0\0\0\0\2"
+                sender.send(addresses + struct.pack("!H", _MARKER_TYPE) + token.ljust(46, b"\0"))
 
         self._in_router(send)
         with self._changed:
@@ -182,8 +180,6 @@ class Capture:
                 raise RuntimeError("the capture does not see its own marker")
 
     def _record(self) -> None:
-        import select
-
         poller = select.poll()
         poller.register(self._socket, select.POLLIN)
         poller.register(self._woken, select.POLLIN)

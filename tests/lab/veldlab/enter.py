@@ -2,15 +2,19 @@
 
     init    process id whose namespaces to join          net     name of a network namespace, "" for the process's own
     user    account to run as                            cwd     working folder, "" for the account's home
+    env     variables on top of the account's own           session  true: a session of the command's own
     cgroup  control group to start in, as the lab's first mount namespace names it, with `cgroup_init` its process 1
 
-The command is a child in the lab's pid namespace; this process stays outside, passes on the signals that other processes
-send it, and ends as the command ends: same exit status, or killed by the same signal. If this process is killed, so is the
-command. 126 and 127 mean, as in a shell, that the command cannot be executed or was not found; 125, that the lab is gone.
+This process stays outside; an attendant inside the lab's pid namespace is the command's parent, since some programs
+(pkexec is one) want a parent that they can see. Both pass on the signals that other processes send them and end as the
+command ends: same exit status, or killed by the same signal. If one of them is killed, so is the command. 126 and 127
+mean, as in a shell, that the command cannot be executed or was not found; 125, that the lab is gone or the account or
+folder missing.
 """
 
 import json
 import os
+import select
 import signal
 import sys
 from pathlib import Path
@@ -77,15 +81,47 @@ def fail(status: int, text: str) -> None:
     os._exit(status)
 
 
-def run_child(spec: dict, command: list[str], procs: int, alive: int) -> None:
-    os.write(procs, b"0")
+def spawn(body) -> int:
+    """Forks a child that dies with this process from when it calls the function that `body` gets; returns its id."""
+    held_read, held_write = os.pipe()
+    child = os.fork()
+    if child:
+        os.close(held_read)
+        return child  # and keep the other end open: it tells the child that this process lives
+
+    def bind() -> None:
+        kernel.die_with_parent(signal.SIGKILL)
+        watch = select.poll()
+        watch.register(held_read, 0)
+        if watch.poll(0):
+            os._exit(125)  # the parent died before the line above took effect
+        os.close(held_read)
+
+    os.close(held_write)
+    body(bind)
+    os._exit(125)
+
+
+def attend(spec: dict, command: list[str], procs: int) -> None:
+    """The attendant, then the command."""
+
+    def attendant(bind) -> None:
+        bind()
+        kernel.set_process_name("veldlab-enter")
+        os.write(procs, b"0")
+        os.close(procs)
+        end_like(spawn(lambda bind_command: execute(spec, command, bind_command)))
+
+    child = spawn(attendant)
     os.close(procs)
+    end_like(child)
+
+
+def execute(spec: dict, command: list[str], bind) -> None:
     if spec["session"]:
         os.setsid()
     become(spec)
-    kernel.die_with_parent(signal.SIGKILL)
-    if os.read(alive, 1) != b"g":
-        os._exit(125)  # the parent died before the line above took effect
+    bind()  # a change of account undoes an earlier one
     signal.pthread_sigmask(signal.SIG_UNBLOCK, _FORWARDED + [signal.SIGCHLD])
     for number in (signal.SIGPIPE, signal.SIGXFSZ):
         signal.signal(number, signal.SIG_DFL)
@@ -97,8 +133,23 @@ def run_child(spec: dict, command: list[str], procs: int, alive: int) -> None:
         fail(126, f"{command[0]}: {error.strerror}")
 
 
+def end_like(child: int) -> None:
+    """Passes signals on until the child ends, then ends in the same way."""
+    # A reader of the command's output must see its end when the command ends, not when this process does.
+    for fd in (0, 1, 2):
+        os.close(fd)
+    status = wait_for(child)
+    if os.WIFSIGNALED(status):
+        number = os.WTERMSIG(status)
+        if number != signal.SIGKILL:
+            signal.signal(number, signal.SIG_DFL)
+            signal.pthread_sigmask(signal.SIG_UNBLOCK, [number])
+        os.kill(os.getpid(), number)
+    os._exit(os.waitstatus_to_exitcode(status))
+
+
 def wait_for(child: int) -> int:
-    """Passes signals on until the child ends; returns its wait status."""
+    """Returns the child's wait status."""
     while True:
         ended, status = os.waitpid(child, os.WNOHANG)
         if ended:
@@ -115,24 +166,7 @@ def main() -> None:
         procs = join(spec)
     except OSError as error:
         fail(125, f"the lab has ended ({error.strerror})")
-    alive_read, alive_write = os.pipe()
-    child = os.fork()
-    if child == 0:
-        os.close(alive_write)
-        run_child(spec, command, procs, alive_read)
-    os.close(procs)
-    os.close(alive_read)
-    os.write(alive_write, b"g")
-    # A reader of the command's output must see its end when the command ends, not when this process does.
-    for fd in (0, 1, 2):
-        os.close(fd)
-    status = wait_for(child)
-    if os.WIFSIGNALED(status):
-        number = os.WTERMSIG(status)
-        signal.signal(number, signal.SIG_DFL) if number not in (signal.SIGKILL, signal.SIGSTOP) else None
-        signal.pthread_sigmask(signal.SIG_UNBLOCK, [number])
-        os.kill(os.getpid(), number)
-    os._exit(os.waitstatus_to_exitcode(status))
+    attend(spec, command, procs)
 
 
 if __name__ == "__main__":

@@ -1,7 +1,7 @@
 """The host: the user's machine, on which the program under test runs.
 
-Its files, processes and mounts are its own (host_init.py says which). This module adds what makes it a client of the lab:
-the lab's lines in /etc/tor/torrc-defaults, the lab's GeoIP data, and trust in the lab's certificate authority.
+Its files, processes and mounts are its own (host_init.py says which). This module adds what makes it a client of the
+lab: the lab's lines in /etc/tor/torrc-defaults, the lab's GeoIP data, and trust in the lab's certificate authority.
 """
 
 import os
@@ -11,6 +11,17 @@ from veldlab import certificates, host_init, snapshot, tor_config
 from veldlab.space import Space
 
 _CA_NAME = "veldmark-lab-ca"
+# polkitd drops to an account that must be able to read its rules, whose folder Debian keeps closed.
+_START_POLKIT = """
+set -eu
+chmod 755 /etc/polkit-1/rules.d
+mkdir -p /run/dbus
+dbus-daemon --system --fork
+for program in /usr/lib/polkit-1/polkitd /usr/libexec/polkitd /usr/libexec/polkit-1/polkitd; do
+    [ -x "$program" ] && setsid "$program" --no-debug >/run/polkitd.log 2>&1 </dev/null & break
+done
+gdbus wait --system --timeout 20 org.freedesktop.PolicyKit1
+"""
 _BUNDLES = ("/etc/ssl/certs/ca-certificates.crt", "/etc/pki/tls/certs/ca-bundle.crt")
 
 
@@ -69,6 +80,14 @@ class Host(Space):
         if self.path("/usr/share/tor/geoip").exists():
             # A torrc that names the system's file itself gets the lab's data as well.
             self.run(["mount", "--bind", tor_config.GEOIP_FILE, "/usr/share/tor/geoip"], check=True)
+
+    def start_polkit(self, rules: str = "") -> None:
+        """Starts a system bus and polkitd, with JavaScript `rules` that decide; returns when polkit answers.
+
+        Without a rule that says yes, pkexec asks on its terminal, or ends with 127 where there is none.
+        """
+        self.write("/etc/polkit-1/rules.d/00-veldlab.rules", rules, mode=0o644)
+        self.run(["/bin/sh", "-c", _START_POLKIT], check=True)
 
     def snapshot(self) -> dict[str, str]:
         """The host's state as text, section by section; see snapshot.py."""

@@ -2,10 +2,11 @@
 
 Afterwards, in the host's mount namespace:
 
-    /etc /usr/local /var /home    overlays: the machine's files, every change kept in memory
+    /etc /usr /var /home /opt     overlays: the machine's files, every change kept in memory; likewise /srv
     /run /tmp /root /dev/shm      empty, in memory; likewise /var/lib/veldmark and /home/alice
     /proc /sys /sys/fs/cgroup     of the host's own pid, network and cgroup namespaces
     shared folders                the project's tree, and what the caller names, at their own paths, as they are
+    everything else               the machine's, read-only
 
 and an ordinary account, alice, who exists nowhere else. Raises OSError or ValueError; the lab then does not start.
 """
@@ -20,7 +21,7 @@ from veldlab import topology as at
 
 USER = "alice"
 HOST_NAME = "veldlab-host"
-OVERLAYS = ("/etc", "/usr/local", "/var", "/home")
+OVERLAYS = ("/etc", "/usr", "/var", "/home", "/opt", "/srv")
 UPPER_FOLDER = f"{at.LAB_FOLDER}/host"  # as the lab's first mount namespace sees it
 _SAFE = kernel.MS_NOSUID | kernel.MS_NODEV
 
@@ -32,7 +33,7 @@ def prepare(options: dict) -> None:
     kernel.make_mounts_private()
     kernel.set_host_name(HOST_NAME)
     shared = _open_shared(options.get("share", []))
-    for folder in OVERLAYS:
+    for folder in filter(os.path.isdir, OVERLAYS):
         _overlay(folder)
     _umount_tree("/run")
     for folder, mode in (("/run", 755), ("/tmp", 1777), ("/root", 700), ("/dev/shm", 1777)):
@@ -44,6 +45,7 @@ def prepare(options: dict) -> None:
     os.chmod("/run/user/0", 0o700)
     _show_shared(shared)
     _system_mounts()
+    kernel.mount("none", "/", flags=kernel.MS_REMOUNT | kernel.MS_BIND | kernel.MS_RDONLY)
     _name_files()
     _make_user(_free_id())
 
@@ -54,7 +56,7 @@ def _open_shared(folders: list[str]) -> list[tuple[int, str]]:
 
 def _show_shared(shared: list[tuple[int, str]]) -> None:
     for fd, folder in shared:
-        os.makedirs(folder, exist_ok=True)
+        os.makedirs(folder, exist_ok=True)  # nothing to make unless a folder in memory covers it
         kernel.bind(f"/proc/self/fd/{fd}", folder)
         os.close(fd)
 

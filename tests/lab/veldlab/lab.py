@@ -3,14 +3,16 @@
     with Lab() as lab:
         lab.host.run(["curl", "-s", "https://check.torproject.org/api/ip"], user="alice")
 
-The constructor does nothing; entering the context (or `up`) starts the lab and returns when a client could bootstrap. Leaving it
-(or `down`) returns when every process, mount, namespace, control group and file of the lab is gone.
+The constructor does nothing; entering the context (or `up`) starts the lab and returns when a client could bootstrap.
+Leaving it (or `down`) returns when every process, mount, namespace, control group and file of the lab is gone.
 """
 
 import json
 import os
+import shutil
 import subprocess
 import time
+from collections.abc import Iterable
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
@@ -29,11 +31,12 @@ _SUPERVISOR = Path(__file__).resolve().with_name("supervisor.py")
 class Lab:
     """`share`: further folders that the host is to see as they are, besides the project's tree.
 
-    `timings` holds the seconds of each step of `up`.
+    `logs`: a folder that `down` copies the nodes' and services' logs to. `timings`: seconds of each step of `up`.
     """
 
-    def __init__(self, share: list[str] = ()):
+    def __init__(self, share: Iterable[str | Path] = (), logs: str | Path = ""):
         self.share = [str(PROJECT), *map(str, share)]
+        self.logs = logs
         self.timings: dict[str, float] = {}
         self.record: dict = {}
         self._supervisor: subprocess.Popen | None = None
@@ -57,7 +60,7 @@ class Lab:
         return self.record["id"]
 
     def up(self, wait: bool = True) -> None:
-        """Raises LabUnavailable when this machine or user cannot run one. Without `wait`, a consensus may still be missing."""
+        """Raises LabUnavailable when this machine or user cannot run one. Without `wait`, there is no consensus yet."""
         reason = requirements.missing()
         if reason:
             raise LabUnavailable(reason)
@@ -67,9 +70,8 @@ class Lab:
             with ThreadPoolExecutor(2) as pool:
                 services = pool.submit(self._step, "services", self.world.start)
                 identities = self._step("keys", self.tor.make_keys)
-                self.tor.write_configuration(identities)
                 services.result()
-            self._step("nodes", self.tor.start_all)
+            self._step("nodes", lambda: self.tor.start_all(identities))
             self.host.trust(self.world.certificate_authority())
             self.host.join_tor_network(identities)
             if wait:
@@ -88,9 +90,21 @@ class Lab:
         supervisor, self._supervisor = self._supervisor, None
         if supervisor is None:
             return
-        supervisor.terminate()
-        supervisor.wait()
-        supervisor.stdout.close()
+        try:
+            if self.logs and self.record:
+                self.save_logs(Path(self.logs))
+        finally:
+            supervisor.terminate()
+            supervisor.wait()
+            supervisor.stdout.close()
+
+    def save_logs(self, folder: Path) -> None:
+        """Copies the log of every node and service to the folder, which is made if need be."""
+        folder.mkdir(parents=True, exist_ok=True)
+        for node in at.NODES:
+            (folder / f"{node.name}.log").write_text(self.tor.log(node.name))
+        for path in self.world.folder.glob("*.log"):
+            shutil.copy(path, folder)
 
     def _step(self, name: str, action):
         started = time.monotonic()
@@ -101,7 +115,8 @@ class Lab:
     def _start_supervisor(self) -> None:
         arguments = [registry.new_id(), str(os.getpid()), json.dumps({"share": self.share})]
         self._supervisor = subprocess.Popen(
-            [at.PYTHON, "-B", str(_SUPERVISOR), *arguments], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True
+            [at.PYTHON, "-B", str(_SUPERVISOR), *arguments],
+            stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True,
         )
         line = self._supervisor.stdout.readline()
         answer = json.loads(line) if line else {"error": "its first process ended early"}
@@ -122,6 +137,8 @@ class Lab:
         return capture.Capture(self.router, link)
 
     def netem(self, source: str = "host", to: str = "", delay_ms: float = 0, loss: float = 0) -> shaping.Shaping:
-        """Delays and loses packets between `source` (host or lan) and `to` (an address, network or node name; all when ""),
-        both ways, until the returned object is closed (it is a context manager). `loss` is a share from 0 to 1."""
+        """Delays and loses packets between `source` (host or lan) and `to` (an address, network or node; all when "").
+
+        Holds for each way, until the returned object (a context manager) is closed. `loss` is a share from 0 to 1.
+        """
         return shaping.Shaping(self.router, source, to, delay_ms, loss)

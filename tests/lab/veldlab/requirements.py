@@ -34,7 +34,7 @@ def missing() -> str:
     if packages:
         return f"Programs are missing: run sudo apt install {' '.join(packages)}"
     trial = subprocess.run(
-        ["unshare", "--net", "--mount", "--pid", "--fork", "--ipc", "--uts", "--cgroup", "/bin/sh", "-s", str(os.getpid())],
+        ["unshare", "--net", "--mount", "--pid", "--fork", "--ipc", "--uts", "--cgroup", "sh", "-s", str(os.getpid())],
         input=_TRIAL, capture_output=True, text=True,
     )
     if trial.returncode != 0:

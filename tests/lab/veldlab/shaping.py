@@ -1,8 +1,9 @@
 """Delay and loss on chosen paths, in user space: the kernel's own netem is missing from many small kernels.
 
-Policy rules at the router lead the chosen packets into a tun device. A process (shaper.py) reads them there, loses some, holds the others
-back, and writes them to the device again, from where the router forwards them as before. Paths within the world (relay to
-relay) do not pass the router and cannot be shaped. Each instance has its own device, table and rules, and removes them.
+Policy rules at the router lead the chosen packets into a tun device. A process (shaper.py) reads them there, loses
+some, holds the others back, and writes them to the device again, from where the router forwards them as before. Paths
+within the world (relay to relay) do not pass the router and cannot be shaped. Each instance has its own device, table
+and rules, and removes them.
 """
 
 import ipaddress

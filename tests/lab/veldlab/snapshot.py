@@ -5,7 +5,7 @@ A snapshot is a dict of section to text. Counters, process ids and the like, whi
     nft         ruleset without counters                listening   TCP and UDP ports with the owner's uid
     resolv      /etc/resolv.conf: kind, owner, mode,    processes   uid and command line of each process
                 inode, time of change, content          cgroups     groups below the host's own
-    links       interfaces and addresses                files       what differs from the machine below /etc, /usr/local
+    links       interfaces and addresses                files       what differs from the machine below /etc and /usr
     routes      IPv4, IPv6 and rules                    proxy       GNOME's and KDE's proxy settings of alice
     mounts      of the host's mount namespace
 """
@@ -25,7 +25,7 @@ _COLLECT = Path(__file__).resolve().with_name("snapshot_collect.py")
 def take(host) -> dict[str, str]:
     """Raises CommandFailed when a section cannot be read: a snapshot with a gap would prove nothing."""
     collected = host.run([at.PYTHON, "-I", "-S", "-", host.user], input=_COLLECT.read_text(), check=True)
-    files = _changed_files(host.upper("/etc"), Path("/etc")) + _changed_files(host.upper("/usr/local"), Path("/usr/local"))
+    files = _changed_files(host.upper("/etc"), Path("/etc")) + _changed_files(host.upper("/usr"), Path("/usr"))
     return json.loads(collected.stdout) | {"files": "\n".join(sorted(files))}
 
 

@@ -1,7 +1,7 @@
 """Runs inside the host as root with the user's name as argument; prints a snapshot's sections as JSON.
 
-Uses /proc and the tools that show network state; see snapshot.py for what the sections mean. A section that cannot be read
-ends the program with an error.
+Uses /proc and the tools that show network state; see snapshot.py for what the sections mean. A section that cannot be
+read ends the program with an error.
 """
 
 import json
@@ -29,7 +29,8 @@ def resolver() -> str:
         status = path.lstat()
     except FileNotFoundError:
         return "absent"
-    facts = f"{stat.filemode(status.st_mode)} {status.st_uid}:{status.st_gid} inode {status.st_ino} changed {status.st_mtime_ns}"
+    facts = f"{stat.filemode(status.st_mode)} {status.st_uid}:{status.st_gid}"
+    facts += f" inode {status.st_ino} changed {status.st_mtime_ns}"
     link = f" -> {os.readlink(path)}" if path.is_symlink() else ""
     return f"{facts}{link}\n{path.read_text() if path.exists() else 'leads nowhere'}"
 
@@ -90,7 +91,8 @@ def processes() -> str:
             uid = folder.stat().st_uid
         except (FileNotFoundError, ProcessLookupError):
             continue
-        if state not in "ZX":
+        is_attendant = any(word.endswith(b"/veldlab/enter.py") for word in words[:5])
+        if state not in "ZX" and not is_attendant:
             text = " ".join(word.decode(errors="replace") for word in words)
             lines.append(f"{uid} {text or f'[{name}]'}")
     return "\n".join(sorted(lines))

@@ -1,8 +1,8 @@
 """A place in a lab where commands run: one of the network namespaces with its mounts, processes and control group.
 
-`run` and `popen` mirror the subprocess module, so pipes, timeouts and exit statuses work as there. The environment is not
-the caller's but a fresh one for the account, plus `env`. A process that the command leaves behind lives on until the lab
-ends. Threads: any.
+`run` and `popen` mirror the subprocess module, so pipes, timeouts and exit statuses work as there. The environment is
+not the caller's but a fresh one for the account, plus `env`. A process that the command leaves behind lives on until
+the lab ends. Threads: any.
 """
 
 import json
@@ -33,7 +33,7 @@ class Space:
         return Path(f"/proc/{self._init}/root")
 
     def path(self, inside: str) -> Path:
-        """Where the caller finds an absolute path of this space. Absolute links within lead to the machine's own files."""
+        """Where the caller finds an absolute path of this space. Absolute links in it lead to the machine's files."""
         return self.root / inside.lstrip("/")
 
     def command(self, argv, *, user="root", env=None, cwd="", session=False) -> list[str]:

@@ -7,9 +7,9 @@
                 '- host init   process 1 of the host's own pid namespace, private /etc, /run ...: host_init.py
 
 Nothing of a lab is on the machine except its processes, one control group and one registry record. The supervisor
-removes these three when the owner asks (SIGTERM), when the owner ends in any way, and when the lab init ends. Should the
-supervisor itself be killed, the kernel kills the lab init (parent death signal) and with it every process, mount and
-network namespace; the next start then sweeps the empty control group and the record.
+removes these three when the owner asks (SIGTERM), when the owner ends in any way, and when the lab init ends. Should
+the supervisor itself be killed, the kernel kills the lab init (parent death signal) and with it every process, mount
+and network namespace; the next start then sweeps the empty control group and the record.
 
 Started as `supervisor.py ID OWNER_PID OPTIONS_JSON`. Answers one JSON line on standard output: {"ready": true, ...} or
 {"error": TEXT}.
@@ -68,8 +68,11 @@ def say_ready(channel: socket.socket, what: str) -> None:
 
 def lab_init(cgroup: str, options: dict, go: int, channel: socket.socket) -> None:
     kernel.die_with_parent(signal.SIGKILL)
-    if os.read(go, 1) != b"g":
-        os._exit(1)  # the supervisor died before the line above took effect
+    go_given = os.read(go, 1) == b"g"
+    watch = select.poll()
+    watch.register(go, 0)
+    if not go_given or watch.poll(0):
+        os._exit(1)  # the supervisor, which keeps the other end open, died before the first line took effect
     os.close(go)
     kernel.set_process_name("veldlab-init")
     kernel.unshare(kernel.CLONE_NEWNS | kernel.CLONE_NEWNET | kernel.CLONE_NEWIPC | kernel.CLONE_NEWUTS)
@@ -155,7 +158,6 @@ class Supervisor:
         os.close(go_read)
         Path(CGROUPS, cgroup, "world", "cgroup.procs").write_text(str(self.init))
         os.write(go_write, b"g")
-        os.close(go_write)
         pids = dict(self.next_ready(ours) for _ in range(2))
         self.record |= {"init": pids["lab"], "host_init": pids["host"], "ready": True}
         registry.write(self.record)

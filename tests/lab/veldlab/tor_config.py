@@ -1,25 +1,27 @@
 """The torrc files of the private network, as pure text. Facts about tor 0.4.9; nothing here starts a process.
 
-Every line that a client needs to take part is in `client_lines`, which the host gets as /etc/tor/torrc-defaults: tor reads
-that file beneath any other configuration, so an unmodified program's tor becomes a client of this network.
+Every line that a client needs to take part is in `client_lines`, which the host gets as /etc/tor/torrc-defaults: tor
+reads that file beneath any other configuration, so an unmodified program's tor becomes a client of this network.
 """
 
 from veldlab import topology as at
 from veldlab.topology import Node
 
 GEOIP_FILE = "/etc/tor/veldlab-geoip"
+BANDWIDTH_FILE = f"{at.TOR_FOLDER}/bandwidths"
 NODE_GEOIP_FILE = f"{at.TOR_FOLDER}/geoip"
 DNS_FILE = f"{at.TOR_FOLDER}/resolv.conf"
-# Seconds between attempts at a first consensus: the least that tor allows with the delays below.
-FIRST_INTERVAL = 5
-# An authority that is up takes part in a vote from 4 s to 3 s before the attempt's end.
-VOTE_OPENS, VOTE_CLOSES = 4, 3
 
 
 def geoip_text() -> str:
     """One line FIRST,LAST,CC per node, addresses as numbers, in ascending order."""
     nodes = sorted(at.NODES, key=lambda node: node.address_number)
     return "".join(f"{n.address_number},{n.address_number},{n.country.upper()}\n" for n in nodes)
+
+
+def bandwidth_text(now: int, fingerprints: list[str]) -> str:
+    """What authorities take as measured, the same for all: else the first relay that carries traffic gets all of it."""
+    return f"{now}\n" + "".join(f"node_id=${fingerprint} bw=1000\n" for fingerprint in fingerprints)
 
 
 def authority_lines(identities: dict[str, tuple[str, str]]) -> list[str]:
@@ -50,7 +52,12 @@ def client_lines(identities: dict[str, tuple[str, str]]) -> str:
 def fingerprint_torrc(node: Node) -> str:
     """Enough for `tor --list-fingerprint` to make the node's keys."""
     return "\n".join([
-        f"DataDirectory {folder(node)}", "ORPort 5000", "Nickname " + node.name, "DisableNetwork 1", "Log err stderr", "",
+        f"DataDirectory {folder(node)}",
+        f"ORPort {at.OR_PORT}",
+        f"Nickname {node.name}",
+        "DisableNetwork 1",
+        "Log err stderr",
+        "",
     ])
 
 
@@ -58,7 +65,8 @@ def folder(node: Node) -> str:
     return f"{at.TOR_FOLDER}/{node.name}"
 
 
-def node_torrc(node: Node, identities: dict[str, tuple[str, str]]) -> str:
+def node_torrc(node: Node, identities: dict[str, tuple[str, str]], voting: bool = True) -> str:
+    """With `voting` off an authority takes descriptors but does not vote within the next minutes."""
     home = folder(node)
     lines = [
         *_common_lines(identities),
@@ -80,6 +88,9 @@ def node_torrc(node: Node, identities: dict[str, tuple[str, str]]) -> str:
         "ContactInfo nobody@example.test",
     ]
     lines += {"authority": _authority, "exit": _exit, "middle": _middle, "bridge": _bridge}[node.role](node)
+    if node.role == "authority":
+        # The least that tor allows with the delays above, or the most.
+        lines.append(f"TestingV3AuthInitialVotingInterval {5 if voting else 1800}")
     return "\n".join(lines) + "\n"
 
 
@@ -87,13 +98,13 @@ def _authority(node: Node) -> list[str]:
     return [
         "AuthoritativeDirectory 1",
         "V3AuthoritativeDirectory 1",
-        f"TestingV3AuthInitialVotingInterval {FIRST_INTERVAL}",
         "TestingV3AuthInitialVoteDelay 2",
         "TestingV3AuthInitialDistDelay 2",
         "V3AuthVotingInterval 10",
         "V3AuthVoteDelay 2",
         "V3AuthDistDelay 2",
         "TestingMinExitFlagThreshold 0",
+        f"V3BandwidthsFile {BANDWIDTH_FILE}",
         f"DirPort {node.address}:{at.DIR_PORT}",
         "ExitPolicy reject *:*",
     ]

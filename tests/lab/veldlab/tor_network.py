@@ -31,21 +31,34 @@ for pid in $pids; do wait "$pid"; done
 # Arguments: a folder, then names of nodes. Each tor goes to the background once it has its keys and its ports.
 _START = r"""
 set -u; cd "$1"; shift
-for node; do tor -f "$node/torrc" --defaults-torrc empty --quiet </dev/null >"$node/start" 2>&1 & eval "pid_$node=$!"; done
+for node; do
+    tor -f "$node/torrc" --defaults-torrc empty --quiet </dev/null >"$node/start" 2>&1 &
+    eval "pid_$node=$!"
+done
 failed=
 for node; do eval "wait \$pid_$node" || failed="$failed $node"; done
 [ -z "$failed" ] || { for node in $failed; do echo "$node:"; cat "$node/start"; tail -n 20 "$node/log"; done; exit 1; }
 """
 
-# Arguments: a pid file, and "kill" or "term". Returns when that process is gone.
+# Argument: a pid file. Returns when that process is gone, and its children (transports), which end when it does.
 _STOP = """
-import os, select, signal, sys
+import glob, os, select, signal, sys
 try:
-    fd = os.pidfd_open(int(open(sys.argv[1]).read()))
-    signal.pidfd_send_signal(fd, signal.SIGKILL if sys.argv[2] == "kill" else signal.SIGTERM)
+    pid = int(open(sys.argv[1]).read())
+    ended = [os.pidfd_open(pid)]
 except (FileNotFoundError, ProcessLookupError):
     sys.exit(0)
-sys.exit(0 if select.select([fd], [], [], 20)[0] else "it did not end")
+for path in glob.glob("/proc/[0-9]*/stat"):
+    try:
+        if int(open(path).read().rpartition(")")[2].split()[1]) == pid:
+            ended.append(os.pidfd_open(int(path.split("/")[2])))
+    except (FileNotFoundError, ProcessLookupError):
+        continue
+signal.pidfd_send_signal(ended[0], signal.SIGKILL)
+for fd in ended:
+    if not select.select([fd], [], [], 20)[0]:
+        sys.exit("it did not end")
+os.unlink(sys.argv[1])
 """
 
 
@@ -78,59 +91,80 @@ class TorNetwork:
             identities[name] = (v3_identity, fingerprint)
         return identities
 
-    def write_configuration(self, identities: dict[str, tuple[str, str]]) -> None:
-        for node in at.NODES:
-            (self.folder / node.name / "torrc").write_text(tor_config.node_torrc(node, identities))
+    def start_all(self, identities: dict[str, tuple[str, str]]) -> None:
+        """Starts every node; `identities` as `make_keys` gives them.
 
-    def start_all(self) -> None:
-        """Starts every node, at a moment from which the first consensus can hold them all.
-
-        Authorities that vote before all relays have published agree on a network without them, and the next vote is
-        10 s away. Votes are fixed by the clock, so the start waits (at most 3.4 s) until the relays have the time between
-        two votes to publish in. Should a busy machine miss the vote nevertheless, the lab is up later but no different:
-        `wait_consensus` goes by what the consensus holds.
+        Authorities that vote before the relays have published agree on a network without relays, and vote again only
+        10 s later. So they begin to vote when each of them knows every relay.
         """
-        votes_at_the_earliest, publishes_at_the_latest = 0.4, 2.8  # seconds after the start
-        since_close = (time.time() + tor_config.VOTE_CLOSES) % tor_config.FIRST_INTERVAL
-        between_votes = tor_config.FIRST_INTERVAL - (tor_config.VOTE_OPENS - tor_config.VOTE_CLOSES)
-        latest, earliest = between_votes - publishes_at_the_latest, tor_config.FIRST_INTERVAL - votes_at_the_earliest
-        if latest < since_close < earliest:
-            time.sleep(earliest - since_close)
+        for node in at.NODES:
+            torrc = tor_config.node_torrc(node, identities, voting=False)
+            (self.folder / node.name / "torrc").write_text(torrc)
         self.start()
+        self._wait(lambda: all(
+            self._published(authority) >= {node.name for node in at.AUTHORITIES + at.EXITS + at.MIDDLES}
+            for authority in at.AUTHORITIES
+        ), 60, "the relays have not published")
+        relays = [self._fingerprint(node) for node in at.AUTHORITIES + at.EXITS + at.MIDDLES]
+        (self.folder / "bandwidths").write_text(tor_config.bandwidth_text(int(time.time()), relays))
+        for node in at.AUTHORITIES:
+            (self.folder / node.name / "torrc").write_text(tor_config.node_torrc(node, identities))
+        pids = [(self.folder / node.name / "pid").read_text().strip() for node in at.AUTHORITIES]
+        self.space.run(["kill", "-HUP", *pids], check=True)
+
+    def _fingerprint(self, node: Node) -> str:
+        return (self.folder / node.name / "fingerprint").read_text().split()[1]
+
+    def _published(self, authority: Node) -> set[str]:
+        """Names of the relays whose descriptors the authority holds."""
+        try:
+            text = (self.folder / authority.name / "cached-descriptors.new").read_text()
+        except FileNotFoundError:
+            return set()
+        return {line.split()[1] for line in text.splitlines() if line.startswith("router ")}
 
     def start(self, *names: str) -> None:
         """Starts the named nodes, or all; returns when each has read its configuration and opened its ports."""
         wanted = [at.node_named(name).name for name in names] or [node.name for node in at.NODES]
         self.space.run(["/bin/sh", "-c", _START, "sh", at.TOR_FOLDER, *wanted], check=True)
 
-    def stop(self, *names: str, kill: bool = False) -> None:
-        """Ends the named nodes, at once with `kill`; returns when they are gone. A node that is stopped already is fine."""
+    def stop(self, *names: str) -> None:
+        """Kills the named nodes; returns when they are gone. A node that is stopped already is fine.
+
+        Not by SIGTERM: tor 0.4.9.11 sometimes says "exiting cleanly" and then waits for its own threads for ever.
+        """
         for node in map(at.node_named, names):
-            how = "kill" if kill else "term"
-            self.space.run(
-                [at.PYTHON, "-I", "-S", "-c", _STOP, f"{tor_config.folder(node)}/pid", how], check=True)
+            self.space.run([at.PYTHON, "-I", "-S", "-c", _STOP, f"{tor_config.folder(node)}/pid"], check=True)
 
     def log(self, name: str) -> str:
         path = self.folder / at.node_named(name).name / "log"
         return path.read_text(errors="replace") if path.exists() else ""
 
     def wait_consensus(self, timeout: float = 60) -> None:
-        """Returns when every authority holds a consensus that is valid now and lists every exit and middle as usable."""
+        """Returns when every authority holds a consensus that is valid now and lists every exit and middle as usable.
+
+        The nodes must all be running.
+        """
         wanted = {node.name for node in at.EXITS + at.MIDDLES}
         self._wait(lambda: all(
             wanted <= self._usable(self._consensus(node)) for node in at.AUTHORITIES
         ), timeout, "no usable consensus")
 
     def wait_bridges(self, timeout: float = 60) -> None:
-        """Returns when the bridges hold a consensus, so that a client can get everything through them."""
+        """Returns when the bridges listen and hold a consensus, so that a client can get everything through them."""
         self._wait(lambda: all(
-            self._usable(self._consensus(node)) for node in at.BRIDGES
-        ) and bool(self.bridge_line("obfs4")), timeout, "the bridges have no consensus")
+            self._usable(self._consensus(node)) and self._has_transport(node) for node in at.BRIDGES
+        ), timeout, "the bridges have no consensus")
+
+    def _has_transport(self, node: Node) -> bool:
+        """Whether the node's transport, if it has one, has listened since tor's last start."""
+        latest = self.log(node.name).rpartition("opening new log file")[2]
+        return not node.transport or f"Registered server transport '{node.transport}'" in latest
 
     def bridge_line(self, transport: str = "obfs4") -> str:
         """What a user would enter, without "Bridge": for "obfs4", or "" for the plain bridge."""
         node = next(n for n in at.BRIDGES if n.transport == transport)
-        fingerprint = (self.folder / node.name / "fingerprint").read_text().split()[1]
+        fingerprint = self._fingerprint(node)
         if not transport:
             return f"{node.address}:{at.OR_PORT} {fingerprint}"
         text = (self.folder / node.name / "pt_state/obfs4_bridgeline.txt").read_text()

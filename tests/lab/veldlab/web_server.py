@@ -5,8 +5,8 @@ Pages of the web server, under any of its names:
     /            a short text            /bytes/N   N zero bytes        /status/NNN   that status
     /ip          the client's address    any other path: a file of the site, from sites/NAME/PATH
 
-The exit check answers /api/ip with {"IsTor": ..., "IP": ...}. How it behaves is asked anew for each connection; see CHECK_BEHAVIOURS.
-Every request is logged before it is answered; a connection that never becomes a request is logged too.
+The exit check answers /api/ip with {"IsTor": ..., "IP": ...}. How it behaves is asked anew for each connection; see
+CHECK_BEHAVIOURS. Every request is logged before it is answered; a connection that never becomes one is logged too.
 """
 
 import http.server

@@ -1,8 +1,8 @@
 """The process that serves DNS, web pages and the exit check in the world, and `World`, by which tests use it.
 
 The two sides talk through files in the world's folder: `behaviour-NAME` says how a service is to behave from now on,
-`dns.log` and `web.log` hold one JSON object per line, `sites/NAME/` are the files of a web site, `certificates/NAME.pem`
-its certificate. So a test, a command line and a second process can all use a running lab.
+`dns.log` and `web.log` hold one JSON object per line, `sites/NAME/` are the files of a web site, and
+`certificates/NAME.pem` is its certificate. So a test, a command line and a second process can all use a running lab.
 """
 
 import json
@@ -45,10 +45,9 @@ class World:
             ("untrusted", "foreign-ca", 20, [at.CHECK_HOST]),
             ("web", "ca", 20, web),
         ])
-        started = self.space.run([
-            "/bin/sh", "-c", 'cd "$1"; (setsid /usr/bin/python3 -B "$2" 3>&1 >services.log 2>&1 </dev/null &) | head -c 1',
-            "sh", at.WORLD_FOLDER, os.path.realpath(__file__),
-        ], timeout=30)
+        script = 'cd "$1"; (setsid "$2" -B "$3" 3>&1 >services.log 2>&1 </dev/null &) | head -c 1'
+        started = self.space.run(
+            ["/bin/sh", "-c", script, "sh", at.WORLD_FOLDER, at.PYTHON, os.path.realpath(__file__)], timeout=30)
         if started.stdout != "y":
             raise RuntimeError("the world's services did not start: " + (self.folder / "services.log").read_text())
 

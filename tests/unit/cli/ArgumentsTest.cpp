@@ -23,6 +23,7 @@ private Q_SLOTS:
         QTest::newRow("set without value") << words("set|exitCountry") << "needs a key and a value";
         QTest::newRow("too much") << words("connect|now") << "connect doesn't take \"now\"";
         QTest::newRow("get with two keys") << words("get|phase|title") << "doesn't take";
+        QTest::newRow("no circuit") << words("close-circuit") << "close-circuit needs a circuit's number";
         QTest::newRow("line break in a verb") << words("a\nb") << "Unknown command \"a b\"";
         QTest::newRow("escape in a verb") << words("\x1b[31m") << "Unknown command \"?[31m\"";
         QTest::newRow("endless verb") << QStringList(QString(100000, u'x')) << "Unknown command";
@@ -61,7 +62,7 @@ private Q_SLOTS:
 
     void theUsageNamesEveryCommand()
     {
-        for (const char *verb : {"run", "status", "connect", "disconnect", "restore", "check", "circuits",
+        for (const char *verb : {"run", "status", "connect", "disconnect", "restore", "check", "fix-dns", "circuits", "close-circuit",
                                  "new-identity", "log", "get", "set"})
             QVERIFY2(usageText().contains(QStringLiteral("\n  ") + QLatin1String(verb)), verb);
     }

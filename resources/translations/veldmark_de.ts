@@ -1,0 +1,1347 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>AboutPane</name>
+    <message>
+        <source>Veldmark</source>
+        <translation>Veldmark</translation>
+    </message>
+    <message>
+        <source>Sends the whole computer's traffic through Tor, and shows honestly whether it does.</source>
+        <translation>Schickt den gesamten Verkehr des Computers durch Tor und zeigt ehrlich, ob das gelingt.</translation>
+    </message>
+    <message>
+        <source>The Tor Project</source>
+        <translation>Das Tor-Projekt</translation>
+    </message>
+    <message>
+        <source>The network and pluggable transports Veldmark builds on</source>
+        <translation>Das Netzwerk und die Transportprogramme, auf denen Veldmark aufbaut</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>Danksagung</translation>
+    </message>
+    <message>
+        <source>Veldmark is free software and independent of the Tor Project. It contains no Tor: it runs the tor that is installed here, and where bridges are used lyrebird, snowflake-client or webtunnel-client. Its interface is made with Qt.</source>
+        <translation>Veldmark ist freie Software und vom Tor-Projekt unabhängig. Es enthält kein Tor: Es startet das hier installierte tor und, wo Brücken benutzt werden, lyrebird, snowflake-client oder webtunnel-client. Die Oberfläche ist mit Qt gemacht.</translation>
+    </message>
+</context>
+<context>
+    <name>ApplicationsSheet</name>
+    <message>
+        <source>App exceptions</source>
+        <translation>Ausnahmen für Apps</translation>
+    </message>
+    <message>
+        <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the Dock) so Veldmark can tag them. A running copy is quit and reopened.</source>
+        <translation>Im strikten Modus dürfen sich diese Apps direkt statt durch Tor verbinden, mit Ihrer echten IP-Adresse. Alles andere bleibt gesperrt. Öffnen Sie sie mit &lt;b&gt;Ohne Tor öffnen&lt;/b&gt; (nicht aus dem Dock), damit Veldmark sie kennzeichnen kann. Eine laufende Kopie wird beendet und neu geöffnet.</translation>
+    </message>
+    <message>
+        <source>No apps yet. Add Zoom, Discord, a game…</source>
+        <translation>Noch keine Apps. Fügen Sie Zoom, Discord oder ein Spiel hinzu…</translation>
+    </message>
+    <message>
+        <source>Connect in strict mode to open apps without Tor</source>
+        <translation>Verbinden Sie sich im strikten Modus, um Apps ohne Tor zu öffnen</translation>
+    </message>
+    <message>
+        <source>Open without Tor</source>
+        <translation>Ohne Tor öffnen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>Hinzufügen…</translation>
+    </message>
+</context>
+<context>
+    <name>Banner</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>BridgesPane</name>
+    <message>
+        <source>Bridges</source>
+        <translation>Brücken</translation>
+    </message>
+    <message>
+        <source>Programs that disguise your Tor connection</source>
+        <translation>Programme, die Ihre Tor-Verbindung verschleiern</translation>
+    </message>
+    <message>
+        <source>Built-in bridges</source>
+        <translation>Eingebaute Brücken</translation>
+    </message>
+    <message>
+        <source>Bridge addresses shipped with Tor</source>
+        <translation>Brückenadressen, die mit Tor kommen</translation>
+    </message>
+    <message>
+        <source>Tor Expert Bundle</source>
+        <translation>Tor Expert Bundle</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Herunterladen</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>Lädt das offizielle Tor Expert Bundle vom Tor-Projekt, mit Brückenprogrammen und eingebauten Brücken</translation>
+    </message>
+    <message>
+        <source>Fetched over HTTPS and checked against the Tor Project's signature.</source>
+        <translation>Über HTTPS geladen und gegen die Signatur des Tor-Projekts geprüft.</translation>
+    </message>
+</context>
+<context>
+    <name>BridgesSheet</name>
+    <message>
+        <source>Custom bridges</source>
+        <translation>Eigene Brücken</translation>
+    </message>
+    <message>
+        <source>One bridge per line. Ask the Tor Project for bridges on its bridges page, by e-mail or through its Telegram bot, or use those of someone you trust. obfs4, webtunnel, Snowflake, meek and plain bridges are supported.</source>
+        <translation>Eine Brücke pro Zeile. Bitten Sie das Tor-Projekt auf seiner Brückenseite, per E-Mail oder über seinen Telegram-Bot um Brücken, oder nehmen Sie die von jemandem, dem Sie vertrauen. Unterstützt werden obfs4, webtunnel, Snowflake, meek und einfache Brücken.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Sichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>CircuitsSidebar</name>
+    <message>
+        <source>ALL CIRCUITS</source>
+        <translation>ALLE KANÄLE</translation>
+    </message>
+    <message>
+        <source>No circuit selected</source>
+        <translation>Kein Kanal gewählt</translation>
+    </message>
+    <message>
+        <source>New Circuit</source>
+        <translation>Neuer Kanal</translation>
+    </message>
+    <message>
+        <source>Close this circuit; its sites get a fresh path on their next request</source>
+        <translation>Diesen Kanal schließen; seine Ziele bekommen bei der nächsten Anfrage einen neuen Weg</translation>
+    </message>
+    <message>
+        <source>Sites on this circuit get a fresh path. Other sites sharing it move too.</source>
+        <translation>Ziele auf diesem Kanal bekommen einen neuen Weg. Andere Ziele, die ihn mitbenutzen, ziehen mit um.</translation>
+    </message>
+</context>
+<context>
+    <name>CircuitsWindow</name>
+    <message>
+        <source>Circuits</source>
+        <translation>Kanäle</translation>
+    </message>
+    <message>
+        <source>New Identity</source>
+        <translation>Neue Identität</translation>
+    </message>
+    <message>
+        <source>Ask Tor for fresh circuits and a new exit IP</source>
+        <translation>Bittet Tor um neue Kanäle und eine neue Ausgangs-IP</translation>
+    </message>
+    <message>
+        <source>Find Faster</source>
+        <translation>Schneller</translation>
+    </message>
+    <message>
+        <source>Time a request through Tor and get fresh circuits if it's slow</source>
+        <translation>Misst eine Anfrage durch Tor und holt neue Kanäle, wenn sie langsam ist</translation>
+    </message>
+    <message>
+        <source>Reading circuits…</source>
+        <translation>Kanäle werden gelesen…</translation>
+    </message>
+    <message>
+        <source>Connect to see your circuits</source>
+        <translation>Verbinden Sie sich, um Ihre Kanäle zu sehen</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionCard</name>
+    <message>
+        <source>Connection</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <source>Exit IP</source>
+        <translation>Ausgangs-IP</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Tor</source>
+        <translation>Tor</translation>
+    </message>
+    <message>
+        <source>Leaks</source>
+        <translation>Lecks</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>Verkehr</translation>
+    </message>
+    <message>
+        <source>%1 received, %2 sent</source>
+        <translation>%1 empfangen, %2 gesendet</translation>
+    </message>
+    <message>
+        <source>Traffic of the last two minutes</source>
+        <translation>Verkehr der letzten zwei Minuten</translation>
+    </message>
+    <message>
+        <source>New Identity</source>
+        <translation>Neue Identität</translation>
+    </message>
+    <message>
+        <source>Ask Tor for fresh circuits and a new exit IP</source>
+        <translation>Bittet Tor um neue Kanäle und eine neue Ausgangs-IP</translation>
+    </message>
+    <message>
+        <source>Leak Test</source>
+        <translation>Lecktest</translation>
+    </message>
+    <message>
+        <source>Check the exit IP and try a direct connection that skips Tor</source>
+        <translation>Prüft die Ausgangs-IP und versucht eine direkte Verbindung an Tor vorbei</translation>
+    </message>
+    <message>
+        <source>Circuits</source>
+        <translation>Kanäle</translation>
+    </message>
+    <message>
+        <source>See the path your traffic takes: entry, middle and exit relays</source>
+        <translation>Zeigt den Weg Ihres Verkehrs: Eingangs-, Mittel- und Ausgangsrelais</translation>
+    </message>
+</context>
+<context>
+    <name>CopyField</name>
+    <message>
+        <source>Copied</source>
+        <translation>Kopiert</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>Footer</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Tor Log</source>
+        <translation>Tor-Protokoll</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPane</name>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Startup and password prompts</source>
+        <translation>Start und Passwortabfragen</translation>
+    </message>
+    <message>
+        <source>Startup</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Open at login</source>
+        <translation>Bei der Anmeldung öffnen</translation>
+    </message>
+    <message>
+        <source>Veldmark starts when you log in</source>
+        <translation>Veldmark startet, wenn Sie sich anmelden</translation>
+    </message>
+    <message>
+        <source>Connect automatically</source>
+        <translation>Automatisch verbinden</translation>
+    </message>
+    <message>
+        <source>Connect as soon as Veldmark opens</source>
+        <translation>Verbinden, sobald Veldmark öffnet</translation>
+    </message>
+    <message>
+        <source>Password prompts</source>
+        <translation>Passwortabfragen</translation>
+    </message>
+    <message>
+        <source>Passwordless mode</source>
+        <translation>Betrieb ohne Passwort</translation>
+    </message>
+    <message>
+        <source>Connect and Disconnect never ask</source>
+        <translation>Verbinden und Trennen fragen nie</translation>
+    </message>
+    <message>
+        <source>Asks for your password each time</source>
+        <translation>Fragt jedes Mal nach Ihrem Passwort</translation>
+    </message>
+    <message>
+        <source>Turn Off</source>
+        <translation>Ausschalten</translation>
+    </message>
+    <message>
+        <source>Set Up…</source>
+        <translation>Einrichten…</translation>
+    </message>
+    <message>
+        <source>Setup asks for your admin password once. It installs a root-owned copy of Veldmark's helper and a rule in /etc/sudoers.d that lets your account run only that helper, so Connect and Disconnect stop asking. Turn it off any time.</source>
+        <translation>Das Einrichten fragt einmal nach Ihrem Administratorpasswort. Es legt eine Kopie von Veldmarks Hilfsprogramm an, die root gehört, und eine Regel in /etc/sudoers.d, die Ihrem Konto nur dieses Hilfsprogramm erlaubt; dann fragen Verbinden und Trennen nicht mehr. Sie können es jederzeit ausschalten.</translation>
+    </message>
+</context>
+<context>
+    <name>Hero</name>
+    <message>
+        <source>Show Tor Log</source>
+        <translation>Tor-Protokoll zeigen</translation>
+    </message>
+    <message>
+        <source>See everything Tor reported</source>
+        <translation>Alles sehen, was Tor gemeldet hat</translation>
+    </message>
+    <message>
+        <source>Restore Network</source>
+        <translation>Netzwerk wiederherstellen</translation>
+    </message>
+</context>
+<context>
+    <name>LogLines</name>
+    <message>
+        <source>Tor Log</source>
+        <translation>Tor-Protokoll</translation>
+    </message>
+</context>
+<context>
+    <name>LogWindow</name>
+    <message>
+        <source>Tor Log</source>
+        <translation>Tor-Protokoll</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtern</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Folgen</translation>
+    </message>
+    <message>
+        <source>Keep the newest lines in view</source>
+        <translation>Die neuesten Zeilen im Blick behalten</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the lines shown</source>
+        <translation>Die gezeigten Zeilen kopieren</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>LoginItem</name>
+    <message>
+        <source>Login items can't be changed here.</source>
+        <translation>Anmeldeobjekte lassen sich hier nicht ändern.</translation>
+    </message>
+    <message>
+        <source>Couldn't remove %1.</source>
+        <translation>%1 ließ sich nicht entfernen.</translation>
+    </message>
+    <message>
+        <source>Couldn't write %1: %2</source>
+        <translation>%1 ließ sich nicht schreiben: %2</translation>
+    </message>
+</context>
+<context>
+    <name>LookupCard</name>
+    <message>
+        <source>Lookups can go around Tor</source>
+        <translation>Namensabfragen können an Tor vorbei</translation>
+    </message>
+    <message>
+        <source>Fix DNS</source>
+        <translation>DNS reparieren</translation>
+    </message>
+    <message>
+        <source>Re-test</source>
+        <translation>Neu testen</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Veldmark</source>
+        <translation>Veldmark</translation>
+    </message>
+</context>
+<context>
+    <name>OptionsCard</name>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Disconnect to change</source>
+        <translation>Zum Ändern trennen</translation>
+    </message>
+    <message>
+        <source>Strict mode</source>
+        <translation>Strikter Modus</translation>
+    </message>
+    <message>
+        <source>Kill switch: block anything not using Tor</source>
+        <translation>Notschalter: alles sperren, was nicht Tor benutzt</translation>
+    </message>
+    <message>
+        <source>Blocks every connection that doesn't go through Tor, including UDP and IPv6. Apps that ignore proxy settings won't connect at all instead of leaking.</source>
+        <translation>Sperrt jede Verbindung, die nicht durch Tor geht, auch UDP und IPv6. Apps, die Proxy-Einstellungen übergehen, verbinden sich gar nicht, statt etwas preiszugeben.</translation>
+    </message>
+    <message>
+        <source>Allow local network</source>
+        <translation>Lokales Netzwerk erlauben</translation>
+    </message>
+    <message>
+        <source>Exit country</source>
+        <translation>Ausgangsland</translation>
+    </message>
+    <message>
+        <source>Where your traffic appears to come from</source>
+        <translation>Woher Ihr Verkehr zu kommen scheint</translation>
+    </message>
+    <message>
+        <source>Bridges</source>
+        <translation>Brücken</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Herunterladen</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>Lädt das offizielle Tor Expert Bundle vom Tor-Projekt, mit Brückenprogrammen und eingebauten Brücken</translation>
+    </message>
+    <message>
+        <source>Edit…</source>
+        <translation>Bearbeiten…</translation>
+    </message>
+    <message>
+        <source>Custom bridges</source>
+        <translation>Eigene Brücken</translation>
+    </message>
+    <message>
+        <source>Optimize for speed</source>
+        <translation>Auf Tempo optimieren</translation>
+    </message>
+    <message>
+        <source>New circuits for everything</source>
+        <translation>Neue Kanäle für alles</translation>
+    </message>
+    <message>
+        <source>Terminal mode</source>
+        <translation>Terminalmodus</translation>
+    </message>
+    <message>
+        <source>App exceptions</source>
+        <translation>Ausnahmen für Apps</translation>
+    </message>
+</context>
+<context>
+    <name>Panel</name>
+    <message>
+        <source>Show Tor Log</source>
+        <translation>Tor-Protokoll zeigen</translation>
+    </message>
+    <message>
+        <source>See everything Tor reported</source>
+        <translation>Alles sehen, was Tor gemeldet hat</translation>
+    </message>
+    <message>
+        <source>Tor isn't installed. Install it with this command, then click Recheck.</source>
+        <translation>Tor ist nicht installiert. Installieren Sie es mit diesem Befehl und klicken Sie dann auf Erneut prüfen.</translation>
+    </message>
+    <message>
+        <source>Tor isn't installed. Install it with %1, then click Recheck.</source>
+        <translation>Tor ist nicht installiert. Installieren Sie es mit %1 und klicken Sie dann auf Erneut prüfen.</translation>
+    </message>
+    <message>
+        <source>Recheck</source>
+        <translation>Erneut prüfen</translation>
+    </message>
+</context>
+<context>
+    <name>PanelPopup</name>
+    <message>
+        <source>Veldmark</source>
+        <translation>Veldmark</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramRow</name>
+    <message>
+        <source>Found %1</source>
+        <translation>Gefunden %1</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+</context>
+<context>
+    <name>QuitDialog</name>
+    <message>
+        <source>Quit Veldmark</source>
+        <translation>Veldmark beenden</translation>
+    </message>
+    <message>
+        <source>Your network is still routed through Tor</source>
+        <translation>Ihr Netzwerk läuft noch durch Tor</translation>
+    </message>
+    <message>
+        <source>If you quit now, Tor keeps running and the kill switch stays on. Open Veldmark again later to restore your normal connection.</source>
+        <translation>Wenn Sie jetzt beenden, läuft Tor weiter und der Notschalter bleibt an. Öffnen Sie Veldmark später wieder, um Ihre normale Verbindung wiederherzustellen.</translation>
+    </message>
+    <message>
+        <source>If you quit now, Tor keeps running and your system proxy stays on. Open Veldmark again later to restore your normal connection.</source>
+        <translation>Wenn Sie jetzt beenden, läuft Tor weiter und der System-Proxy bleibt an. Öffnen Sie Veldmark später wieder, um Ihre normale Verbindung wiederherzustellen.</translation>
+    </message>
+    <message>
+        <source>Disconnecting…</source>
+        <translation>Trennen…</translation>
+    </message>
+    <message>
+        <source>Disconnect &amp; Quit</source>
+        <translation>Trennen und beenden</translation>
+    </message>
+    <message>
+        <source>Quit Anyway</source>
+        <translation>Trotzdem beenden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryPane</name>
+    <message>
+        <source>Recovery</source>
+        <translation>Wiederherstellung</translation>
+    </message>
+    <message>
+        <source>Get your normal connection back</source>
+        <translation>Ihre normale Verbindung zurückholen</translation>
+    </message>
+    <message>
+        <source>Restore network settings</source>
+        <translation>Netzwerkeinstellungen wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Veldmark's changes are active</source>
+        <translation>Veldmarks Änderungen sind aktiv</translation>
+    </message>
+    <message>
+        <source>Nothing to restore</source>
+        <translation>Nichts wiederherzustellen</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Use this if your internet stops working after a crash. It puts your DNS, proxy and firewall settings back the way they were and stops Tor.</source>
+        <translation>Benutzen Sie dies, wenn Ihr Internet nach einem Absturz nicht geht. Es setzt DNS, Proxy und Firewall auf den früheren Stand und beendet Tor.</translation>
+    </message>
+    <message>
+        <source>If the app won't open</source>
+        <translation>Wenn die App nicht öffnet</translation>
+    </message>
+    <message>
+        <source>Run this in Terminal to do the same thing without Veldmark.</source>
+        <translation>Führen Sie dies im Terminal aus, um dasselbe ohne Veldmark zu tun.</translation>
+    </message>
+</context>
+<context>
+    <name>Session</name>
+    <message>
+        <source>Your traffic is not going through Tor</source>
+        <translation>Ihr Verkehr geht nicht durch Tor</translation>
+    </message>
+    <message>
+        <source>Restoring your network settings…</source>
+        <translation>Ihre Netzwerkeinstellungen werden wiederhergestellt…</translation>
+    </message>
+    <message>
+        <source>Your network is still set up for Tor from an earlier session</source>
+        <translation>Ihr Netzwerk ist noch von einer früheren Sitzung auf Tor eingestellt</translation>
+    </message>
+    <message>
+        <source>Your network is still set up for Tor</source>
+        <translation>Ihr Netzwerk ist noch auf Tor eingestellt</translation>
+    </message>
+    <message>
+        <source>Preparing Tor…</source>
+        <translation>Tor wird vorbereitet…</translation>
+    </message>
+    <message>
+        <source>Waiting for administrator approval…</source>
+        <translation>Warten auf die Zustimmung eines Administrators…</translation>
+    </message>
+    <message>
+        <source>Starting Tor…</source>
+        <translation>Tor startet…</translation>
+    </message>
+    <message>
+        <source>Tor didn't finish connecting</source>
+        <translation>Tor konnte sich nicht fertig verbinden</translation>
+    </message>
+    <message>
+        <source>Tor stopped running</source>
+        <translation>Tor läuft nicht mehr</translation>
+    </message>
+    <message>
+        <source>All traffic is locked to Tor</source>
+        <translation>Aller Verkehr ist auf Tor beschränkt</translation>
+    </message>
+    <message>
+        <source>Apps that use system proxy settings go through Tor</source>
+        <translation>Apps, die den System-Proxy benutzen, gehen durch Tor</translation>
+    </message>
+    <message>
+        <source>Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. Reconnect, or Restore Network to go back online.</source>
+        <translation>Tor läuft nicht mehr. Der Notschalter sperrt weiter, also ist nichts nach außen gelangt. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um online zu gehen.</translation>
+    </message>
+    <message>
+        <source>Tor stopped running. Apps using the proxy can't connect until you reconnect or Restore Network.</source>
+        <translation>Tor läuft nicht mehr. Apps, die den Proxy benutzen, verbinden sich erst wieder, wenn Sie neu verbinden oder das Netzwerk wiederherstellen.</translation>
+    </message>
+    <message>
+        <source>Any (recommended)</source>
+        <translation>Beliebig (empfohlen)</translation>
+    </message>
+    <message>
+        <source>United States</source>
+        <translation>USA</translation>
+    </message>
+    <message>
+        <source>Canada</source>
+        <translation>Kanada</translation>
+    </message>
+    <message>
+        <source>United Kingdom</source>
+        <translation>Großbritannien</translation>
+    </message>
+    <message>
+        <source>Germany</source>
+        <translation>Deutschland</translation>
+    </message>
+    <message>
+        <source>Netherlands</source>
+        <translation>Niederlande</translation>
+    </message>
+    <message>
+        <source>France</source>
+        <translation>Frankreich</translation>
+    </message>
+    <message>
+        <source>Sweden</source>
+        <translation>Schweden</translation>
+    </message>
+    <message>
+        <source>Switzerland</source>
+        <translation>Schweiz</translation>
+    </message>
+    <message>
+        <source>Finland</source>
+        <translation>Finnland</translation>
+    </message>
+    <message>
+        <source>Romania</source>
+        <translation>Rumänien</translation>
+    </message>
+    <message>
+        <source>Japan</source>
+        <translation>Japan</translation>
+    </message>
+    <message>
+        <source>Singapore</source>
+        <translation>Singapur</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Eigene</translation>
+    </message>
+    <message>
+        <source>DNS can go around Tor via: </source>
+        <translation>DNS kann an Tor vorbei über: </translation>
+    </message>
+    <message>
+        <source>DNS: not tested yet.</source>
+        <translation>DNS: noch nicht getestet.</translation>
+    </message>
+    <message>
+        <source>DNS: testing…</source>
+        <translation>DNS: Test läuft…</translation>
+    </message>
+    <message>
+        <source>DNS: a test lookup went through Tor.</source>
+        <translation>DNS: Eine Testabfrage ging durch Tor.</translation>
+    </message>
+    <message>
+        <source>DNS: settings point at Tor, but a test lookup couldn't be confirmed.</source>
+        <translation>DNS: Die Einstellungen zeigen auf Tor, aber eine Testabfrage ließ sich nicht bestätigen.</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>Dieser Computer</translation>
+    </message>
+    <message>
+        <source>This Mac</source>
+        <translation>Dieser Mac</translation>
+    </message>
+    <message>
+        <source>on this computer</source>
+        <translation>auf diesem Computer</translation>
+    </message>
+    <message>
+        <source>on this Mac</source>
+        <translation>auf diesem Mac</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Tor</source>
+        <translation>Tor</translation>
+    </message>
+    <message>
+        <source>Bridges</source>
+        <translation>Brücken</translation>
+    </message>
+    <message>
+        <source>Terminal</source>
+        <translation>Terminal</translation>
+    </message>
+    <message>
+        <source>Recovery</source>
+        <translation>Wiederherstellung</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalPane</name>
+    <message>
+        <source>Terminal</source>
+        <translation>Terminal</translation>
+    </message>
+    <message>
+        <source>Route command-line tools through Tor</source>
+        <translation>Befehlszeilenprogramme durch Tor leiten</translation>
+    </message>
+    <message>
+        <source>Terminal mode</source>
+        <translation>Terminalmodus</translation>
+    </message>
+    <message>
+        <source>curl, git, brew, pip, ssh and more use Tor</source>
+        <translation>curl, git, brew, pip, ssh und andere benutzen Tor</translation>
+    </message>
+    <message>
+        <source>Shell integration</source>
+        <translation>Shell-Einbindung</translation>
+    </message>
+    <message>
+        <source>Installed in your shell and SSH config</source>
+        <translation>In Ihrer Shell und SSH-Konfiguration eingerichtet</translation>
+    </message>
+    <message>
+        <source>Not installed</source>
+        <translation>Nicht eingerichtet</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>TorPane</name>
+    <message>
+        <source>Tor</source>
+        <translation>Tor</translation>
+    </message>
+    <message>
+        <source>The Tor program Veldmark runs</source>
+        <translation>Das Tor-Programm, das Veldmark startet</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Custom location</source>
+        <translation>Eigener Ort</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Start without a window, as at login.</source>
+        <translation>Ohne Fenster starten, wie bei der Anmeldung.</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::Alerts</name>
+    <message>
+        <source>Tor stopped running</source>
+        <translation>Tor läuft nicht mehr</translation>
+    </message>
+    <message>
+        <source>Traffic can leave around Tor</source>
+        <translation>Verkehr kann an Tor vorbei</translation>
+    </message>
+    <message>
+        <source>Lookups can go around Tor</source>
+        <translation>Namensabfragen können an Tor vorbei</translation>
+    </message>
+    <message>
+        <source>Your real address can be seen. Open Veldmark to see what to do.</source>
+        <translation>Ihre echte Adresse ist sichtbar. Öffnen Sie Veldmark, um zu sehen, was zu tun ist.</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::Application</name>
+    <message>
+        <source>Veldmark</source>
+        <translation>Veldmark</translation>
+    </message>
+    <message>
+        <source>A window could not be made. Your network is not affected; to restore it without Veldmark, run:
+%1
+
+%2</source>
+        <translation>Ein Fenster ließ sich nicht öffnen. Ihr Netzwerk ist davon nicht betroffen; um es ohne Veldmark wiederherzustellen, führen Sie aus:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>Veldmark is still running</source>
+        <translation>Veldmark läuft weiter</translation>
+    </message>
+    <message>
+        <source>Open Veldmark again to see its window.</source>
+        <translation>Öffnen Sie Veldmark erneut, um das Fenster zu sehen.</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::CircuitGraphView</name>
+    <message>
+        <source>%1: your real IP only ever reaches the entry relay</source>
+        <translation>%1: Ihre echte IP erreicht nur das Eingangsrelais</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>Used by 1 circuit</source>
+        <translation>Von 1 Kanal benutzt</translation>
+    </message>
+    <message>
+        <source>Used by %1 circuits</source>
+        <translation>Von %1 Kanälen benutzt</translation>
+    </message>
+    <message>
+        <source>ENTRY</source>
+        <translation>EINGANG</translation>
+    </message>
+    <message>
+        <source>MIDDLE</source>
+        <translation>MITTE</translation>
+    </message>
+    <message>
+        <source>EXIT</source>
+        <translation>AUSGANG</translation>
+    </message>
+    <message>
+        <source>SITES</source>
+        <translation>ZIELE</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::CircuitsModel</name>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>Circuit %1</source>
+        <translation>Kanal %1</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Nicht verbunden</translation>
+    </message>
+    <message>
+        <source>1 active path</source>
+        <translation>1 aktiver Weg</translation>
+    </message>
+    <message>
+        <source>%1 active paths</source>
+        <translation>%1 aktive Wege</translation>
+    </message>
+    <message>
+        <source> · click a relay or site to follow it</source>
+        <translation> · klicken Sie ein Relais oder Ziel an, um ihm zu folgen</translation>
+    </message>
+    <message>
+        <source>One of several linked legs to the same exit</source>
+        <translation>Einer von mehreren verbundenen Strängen zum selben Ausgang</translation>
+    </message>
+    <message>
+        <source>Only the entry sees your IP</source>
+        <translation>Nur der Eingang sieht Ihre IP</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Bridge</source>
+        <translation>Brücke</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Eingang</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Ausgang</translation>
+    </message>
+    <message>
+        <source>, +%1 more</source>
+        <translation>, +%1 weitere</translation>
+    </message>
+    <message>
+        <source>Sites</source>
+        <translation>Ziele</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::ControllerSession</name>
+    <message>
+        <source>This version cannot open apps without Tor yet.</source>
+        <translation>Diese Version kann Apps noch nicht ohne Tor öffnen.</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::LogModel</name>
+    <message>
+        <source>Tor writes here while it connects and runs</source>
+        <translation>Hier schreibt Tor, während es sich verbindet und läuft</translation>
+    </message>
+    <message>
+        <source>Can't read the log files</source>
+        <translation>Die Protokolldateien sind nicht lesbar</translation>
+    </message>
+    <message>
+        <source>1 line</source>
+        <translation>1 Zeile</translation>
+    </message>
+    <message>
+        <source>%1 lines</source>
+        <translation>%1 Zeilen</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Probleme</translation>
+    </message>
+    <message>
+        <source>Problems (%1)</source>
+        <translation>Probleme (%1)</translation>
+    </message>
+    <message>
+        <source>Can't read Tor's log</source>
+        <translation>Tors Protokoll ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>No log yet</source>
+        <translation>Noch kein Protokoll</translation>
+    </message>
+    <message>
+        <source>No warnings or errors. Tor is happy.</source>
+        <translation>Keine Warnungen oder Fehler. Tor ist zufrieden.</translation>
+    </message>
+    <message>
+        <source>Nothing matches</source>
+        <translation>Nichts passt</translation>
+    </message>
+    <message>
+        <source>The log files in %1 aren't readable by your account. Reconnect once with this version of Veldmark to fix their permissions.</source>
+        <translation>Ihr Konto darf die Protokolldateien in %1 nicht lesen. Verbinden Sie sich mit dieser Version von Veldmark einmal neu, um ihre Rechte zu berichtigen.</translation>
+    </message>
+    <message>
+        <source>Connect, and Tor's messages appear here as it starts. If Tor fails to start, the reason shows up here.</source>
+        <translation>Verbinden Sie sich, dann erscheinen hier Tors Meldungen beim Start. Startet Tor nicht, steht hier der Grund.</translation>
+    </message>
+    <message>
+        <source>No lines contain “%1”</source>
+        <translation>Keine Zeile enthält „%1“</translation>
+    </message>
+    <message>
+        <source>Show the log files in Finder</source>
+        <translation>Zeigt die Protokolldateien im Finder</translation>
+    </message>
+    <message>
+        <source>Show the log files in the file manager</source>
+        <translation>Zeigt die Protokolldateien in der Dateiverwaltung</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::OptionsModel</name>
+    <message>
+        <source>Choosing a country means fewer exit relays, so it's slower and you're easier to single out.</source>
+        <translation>Mit einem Land bleiben weniger Ausgangsrelais: Es wird langsamer, und Sie fallen leichter auf.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>obfs4 (built-in)</source>
+        <translation>obfs4 (eingebaut)</translation>
+    </message>
+    <message>
+        <source>Snowflake (built-in)</source>
+        <translation>Snowflake (eingebaut)</translation>
+    </message>
+    <message>
+        <source>meek (built-in)</source>
+        <translation>meek (eingebaut)</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Eigene</translation>
+    </message>
+    <message>
+        <source>No bridges added yet</source>
+        <translation>Noch keine Brücken eingetragen</translation>
+    </message>
+    <message>
+        <source>Needs bridge programs: click Download</source>
+        <translation>Braucht Brückenprogramme: Klicken Sie auf Herunterladen</translation>
+    </message>
+    <message>
+        <source>For networks that block or watch Tor</source>
+        <translation>Für Netze, die Tor sperren oder beobachten</translation>
+    </message>
+    <message>
+        <source>Built-in bridges from %1</source>
+        <translation>Eingebaute Brücken aus %1</translation>
+    </message>
+    <message>
+        <source>1 line not recognized</source>
+        <translation>1 Zeile nicht erkannt</translation>
+    </message>
+    <message>
+        <source>%1 lines not recognized</source>
+        <translation>%1 Zeilen nicht erkannt</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::PanelModel</name>
+    <message>
+        <source>Not Protected</source>
+        <translation>Nicht geschützt</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Verbinden…</translation>
+    </message>
+    <message>
+        <source>Disconnecting…</source>
+        <translation>Trennen…</translation>
+    </message>
+    <message>
+        <source>Needs Attention</source>
+        <translation>Handlung nötig</translation>
+    </message>
+    <message>
+        <source>DNS Leak</source>
+        <translation>DNS-Leck</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>Geschützt</translation>
+    </message>
+    <message>
+        <source>Proxy Active</source>
+        <translation>Proxy aktiv</translation>
+    </message>
+    <message>
+        <source>Lookups can go around Tor</source>
+        <translation>Namensabfragen können an Tor vorbei</translation>
+    </message>
+    <message>
+        <source>All traffic is locked to Tor, but the exit could not be confirmed</source>
+        <translation>Aller Verkehr ist auf Tor beschränkt, aber der Ausgang ließ sich nicht bestätigen</translation>
+    </message>
+    <message>
+        <source>Your real address can be seen. Disconnect, or run the leak test again.</source>
+        <translation>Ihre echte Adresse ist sichtbar. Trennen Sie, oder wiederholen Sie den Lecktest.</translation>
+    </message>
+    <message>
+        <source>Connect to Tor</source>
+        <translation>Mit Tor verbinden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Trennen</translation>
+    </message>
+    <message>
+        <source>Reconnect</source>
+        <translation>Neu verbinden</translation>
+    </message>
+    <message>
+        <source>Connected through %1 bridges</source>
+        <translation>Über %1-Brücken verbunden</translation>
+    </message>
+    <message>
+        <source>Strict</source>
+        <translation>Strikt</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+    <message>
+        <source>Install Tor to get started</source>
+        <translation>Installieren Sie zuerst Tor</translation>
+    </message>
+    <message>
+        <source>Click to connect</source>
+        <translation>Zum Verbinden klicken</translation>
+    </message>
+    <message>
+        <source>Click to disconnect</source>
+        <translation>Zum Trennen klicken</translation>
+    </message>
+    <message>
+        <source>Tor hasn't reported progress for a while. It is still trying; a slow or blocked network is the usual reason.</source>
+        <translation>Tor meldet seit einer Weile keinen Fortschritt. Es versucht es weiter; meist ist das Netz langsam oder gesperrt.</translation>
+    </message>
+    <message>
+        <source>Still waiting for Tor to start, or for your approval.</source>
+        <translation>Es wird noch auf Tors Start oder auf Ihre Zustimmung gewartet.</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Wird geprüft</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>Checked against %1</source>
+        <translation>Geprüft bei %1</translation>
+    </message>
+    <message>
+        <source>Verified</source>
+        <translation>Bestätigt</translation>
+    </message>
+    <message>
+        <source>Not confirmed</source>
+        <translation>Nicht bestätigt</translation>
+    </message>
+    <message>
+        <source>DNS leak</source>
+        <translation>DNS-Leck</translation>
+    </message>
+    <message>
+        <source>Not tested</source>
+        <translation>Nicht getestet</translation>
+    </message>
+    <message>
+        <source>Testing…</source>
+        <translation>Test läuft…</translation>
+    </message>
+    <message>
+        <source>No leaks</source>
+        <translation>Keine Lecks</translation>
+    </message>
+    <message>
+        <source>Inconclusive</source>
+        <translation>Ohne Ergebnis</translation>
+    </message>
+    <message>
+        <source>Exposed: %1</source>
+        <translation>Sichtbar: %1</translation>
+    </message>
+    <message>
+        <source>Tries a direct connection that skips Tor</source>
+        <translation>Versucht eine direkte Verbindung an Tor vorbei</translation>
+    </message>
+    <message>
+        <source>Direct connections that skip Tor are blocked</source>
+        <translation>Direkte Verbindungen an Tor vorbei sind gesperrt</translation>
+    </message>
+    <message>
+        <source>Apps that ignore proxy settings show your real IP (%1). Turn on Strict mode to block them.</source>
+        <translation>Apps, die Proxy-Einstellungen übergehen, zeigen Ihre echte IP (%1). Schalten Sie den strikten Modus ein, um sie zu sperren.</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 weitere</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::SettingsModel</name>
+    <message>
+        <source>Found</source>
+        <translation>Gefunden</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Fehlt</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Homebrew: %1</source>
+        <translation>Homebrew: %1</translation>
+    </message>
+    <message>
+        <source>Install it with %1</source>
+        <translation>Installieren Sie es mit %1</translation>
+    </message>
+    <message>
+        <source>Not found in Tor Browser or a downloaded bundle</source>
+        <translation>Weder im Tor Browser noch in einem geladenen Bundle gefunden</translation>
+    </message>
+    <message>
+        <source>Loaded from %1</source>
+        <translation>Geladen aus %1</translation>
+    </message>
+    <message>
+        <source>Not downloaded</source>
+        <translation>Nicht geladen</translation>
+    </message>
+    <message>
+        <source>Version %1 loaded</source>
+        <translation>Version %1 geladen</translation>
+    </message>
+    <message>
+        <source>signature verified</source>
+        <translation>Signatur geprüft</translation>
+    </message>
+    <message>
+        <source>Adds one line to ~/.zshrc (and ~/.bash_profile if you have one) and an Include line at the top of ~/.ssh/config. Its files live in ~/.veldmark. Nothing is routed unless Veldmark is connected with Terminal mode on.</source>
+        <translation>Fügt ~/.zshrc (und ~/.bash_profile, falls vorhanden) eine Zeile hinzu und oben in ~/.ssh/config eine Include-Zeile. Die Dateien liegen in ~/.veldmark. Umgeleitet wird nur, wenn Veldmark mit eingeschaltetem Terminalmodus verbunden ist.</translation>
+    </message>
+    <message>
+        <source>Adds one line to ~/.bashrc (and ~/.zshrc if you use zsh) and an Include line at the top of ~/.ssh/config. Its files live in ~/.veldmark. Nothing is routed unless Veldmark is connected with Terminal mode on.</source>
+        <translation>Fügt ~/.bashrc (und ~/.zshrc, wenn Sie zsh benutzen) eine Zeile hinzu und oben in ~/.ssh/config eine Include-Zeile. Die Dateien liegen in ~/.veldmark. Umgeleitet wird nur, wenn Veldmark mit eingeschaltetem Terminalmodus verbunden ist.</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::Tray</name>
+    <message>
+        <source>Open Veldmark</source>
+        <translation>Veldmark öffnen</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::Windows</name>
+    <message>
+        <source>Select the tor executable</source>
+        <translation>Wählen Sie das Programm tor</translation>
+    </message>
+    <message>
+        <source>Choose apps that may skip Tor in strict mode</source>
+        <translation>Wählen Sie Apps, die im strikten Modus Tor umgehen dürfen</translation>
+    </message>
+    <message>
+        <source>Applications (*.desktop)</source>
+        <translation>Anwendungen (*.desktop)</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,77 @@
+#include "app/Application.h"
+
+#include "app/FileLog.h"
+#include "controller/TorController.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPointer>
+
+namespace veldmark {
+
+Application::Application(const PlatformProfile &profile)
+    : m_production(profile)
+    , m_session(m_production.controller(), m_production.settings())
+    , m_log(std::make_unique<FileLog>(m_production.controller().profile()))
+    , m_windows(m_session, *m_log)
+    , m_guard(m_production.controller(), m_windows)
+    , m_alerts(m_session)
+{
+    QObject::connect(&m_windows, &Windows::quitWanted, &m_guard, &QuitGuard::quit);
+    QObject::connect(&m_windows, &Windows::mainClosed, this, &Application::onMainClosed);
+    QObject::connect(&m_guard, &QuitGuard::mayEnd, qApp, [] { QCoreApplication::exit(0); },
+                     Qt::QueuedConnection);
+    QObject::connect(&m_windows, &Windows::failed, this, [this](const QString &reason) {
+        // Not a window of our own: those are what does not work.
+        QMessageBox::critical(nullptr, tr("Veldmark"),
+                              tr("A window could not be made. Your network is not affected; to restore it "
+                                 "without Veldmark, run:\n%1\n\n%2")
+                                  .arg(m_production.controller().profile().manualRestoreCommand, reason));
+    });
+}
+
+Result<void, QString> Application::start(bool hidden)
+{
+    auto server = InstanceServer::start(m_production.controller());
+    if (!server)
+        return Failure(server.error());
+    m_server = std::move(*server);
+    QObject::connect(m_server.get(), &InstanceServer::raiseRequested, this,
+                     [this] { m_windows.open(QStringLiteral("main")); });
+
+    m_production.controller().detectStaleState();
+    if (Tray::isAvailable()) {
+        m_tray = std::make_unique<Tray>(m_session);
+        QObject::connect(m_tray.get(), &Tray::quitWanted, &m_guard, &QuitGuard::quit);
+        QObject::connect(m_tray.get(), &Tray::openWanted, this,
+                         [this] { m_windows.open(QStringLiteral("main")); });
+        QObject::connect(m_tray.get(), &Tray::panelWanted, this, [this] {
+            // A Wayland window cannot say where it wants to be.
+            if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+                m_windows.open(QStringLiteral("main"));
+            else
+                m_windows.togglePanel(m_tray->anchor());
+        });
+    }
+    if (!hidden)
+        m_windows.open(QStringLiteral("main"));
+    begin();
+    return {};
+}
+
+QCoro::Task<void> Application::begin()
+{
+    const QPointer<Application> self(this);
+    co_await m_production.controller().updatePrivilegedHelper();
+    if (!self)
+        co_return;
+    co_await m_production.controller().autoConnectIfEnabled();
+}
+
+void Application::onMainClosed()
+{
+    if (!m_tray)
+        m_alerts.tell(tr("Veldmark is still running"), tr("Open Veldmark again to see its window."));
+}
+
+} // namespace veldmark

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "app/Alerts.h"
+#include "app/ControllerSession.h"
+#include "app/QuitGuard.h"
+#include "app/Tray.h"
+#include "app/Windows.h"
+#include "controller/Production.h"
+#include "instance/InstanceServer.h"
+
+namespace veldmark {
+
+// The running desktop application: builds everything once, starts the session, and joins windows,
+// tray and quit guard. Main thread.
+class Application : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Application(const PlatformProfile &profile);
+
+    // Becomes the user's one instance and shows itself, unless `hidden`. The error is one line.
+    Result<void, QString> start(bool hidden);
+
+private:
+    QCoro::Task<void> begin();
+    void onMainClosed();
+
+    Production m_production;
+    ControllerSession m_session;
+    std::unique_ptr<LogFeed> m_log;
+    Windows m_windows;
+    QuitGuard m_guard;
+    Alerts m_alerts;
+    std::unique_ptr<Tray> m_tray; // where there is a tray
+    std::unique_ptr<InstanceServer> m_server;
+};
+
+} // namespace veldmark

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "system/SettingsStore.h"
+#include "ui/Session.h"
+
+namespace veldmark {
+
+class TorController;
+
+// The session that views see, on top of the controller. Reads the controller's fields once after
+// any number of them have changed, and hands intents on as the controller's operations.
+class ControllerSession final : public Session {
+    Q_OBJECT
+
+public:
+    // Both must outlive the session.
+    ControllerSession(TorController &controller, SettingsStore &settings);
+
+    std::vector<ExitChoice> exitChoices() const override;
+    void store(const Choices &choices) override;
+    void connectToTor() override;
+    void disconnectFromTor() override;
+    void runChecks() override;
+    void checkLookups() override;
+    void fixLookups() override;
+    void newIdentity() override;
+    void newCircuit(const QString &id) override;
+    void findFasterCircuits() override;
+    void refreshCircuits() override;
+    void dismissError() override;
+    void lookForTor() override;
+    void downloadTransports() override;
+    void installPasswordless() override;
+    void removePasswordless() override;
+    void removeTerminalIntegration() override;
+    void setOpenAtLogin(bool on) override;
+    void launchBypassed(const QString &application) override;
+
+private:
+    void schedule();
+    void read();
+
+    TorController &m_controller;
+    SettingsStore &m_settings;
+    bool m_scheduled = false;
+    std::optional<QString> m_notice; // of this program's own, shown until it is dismissed
+};
+
+} // namespace veldmark

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "base/Result.h"
+#include "platform/PlatformProfile.h"
+
+namespace veldmark {
+
+// Whether the program starts when the user logs in: an autostart entry of the desktop. Main thread.
+class LoginItem {
+public:
+    explicit LoginItem(const PlatformProfile &profile) : m_path(profile.autostartFile) {}
+
+    bool isSet() const;
+    // Writes or removes the entry. The error is a sentence for the user.
+    Result<void, QString> set(bool on) const;
+    // The entry for a program at `executable`; its path is quoted as the format asks.
+    static QString entry(const QString &executable);
+
+private:
+    QString m_path; // empty: this system keeps login items elsewhere
+};
+
+} // namespace veldmark

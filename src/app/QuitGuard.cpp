@@ -1,0 +1,72 @@
+#include "app/QuitGuard.h"
+
+#include "controller/TorController.h"
+
+#include <QPointer>
+
+namespace veldmark {
+
+void QuitGuard::quit()
+{
+    if (!m_controller.isSessionMarkerPresent()) {
+        Q_EMIT mayEnd();
+        return;
+    }
+    if (!m_dialog) {
+        m_dialog = m_windows.make(
+            QStringLiteral("main/QuitDialog.qml"),
+            {{QStringLiteral("strict"), m_controller.activeMode() == RoutingMode::strict},
+             {QStringLiteral("busy"), false}});
+        if (!m_dialog)
+            return; // the windows have said why; the network is not left to itself
+        QObject::connect(m_dialog.get(), SIGNAL(disconnectWanted()), this, SLOT(onDisconnectWanted()));
+        QObject::connect(m_dialog.get(), SIGNAL(quitWanted()), this, SLOT(onQuitWanted()));
+        QObject::connect(m_dialog.get(), SIGNAL(cancelled()), this, SLOT(onCancelled()));
+    }
+    m_dialog->show();
+    m_dialog->raise();
+    m_dialog->requestActivate();
+}
+
+void QuitGuard::closeDialog()
+{
+    if (!m_dialog)
+        return;
+    m_dialog->disconnect(this);
+    m_dialog->hide();
+    m_dialog.release()->deleteLater(); // it may be in one of its own signals
+}
+
+void QuitGuard::onQuitWanted()
+{
+    closeDialog();
+    Q_EMIT mayEnd();
+}
+
+void QuitGuard::onCancelled()
+{
+    m_quitAfterwards = false;
+    closeDialog();
+}
+
+QCoro::Task<void> QuitGuard::disconnectAndQuit()
+{
+    if (m_quitAfterwards)
+        co_return;
+    m_quitAfterwards = true;
+    if (m_dialog)
+        m_dialog->setProperty("busy", true);
+    const QPointer<QuitGuard> self(this);
+    m_controller.detectStaleState();
+    co_await m_controller.disconnect();
+    if (!self)
+        co_return;
+    const bool wanted = std::exchange(m_quitAfterwards, false);
+    closeDialog();
+    if (wanted && !m_controller.isSessionMarkerPresent())
+        Q_EMIT mayEnd();
+    else if (wanted)
+        m_windows.open(QStringLiteral("main")); // its banner says why
+}
+
+} // namespace veldmark

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "app/Windows.h"
+
+#include <qcorotask.h>
+
+namespace veldmark {
+
+class TorController;
+
+// Decides whether the program may end: at once while no session marker exists, else only after the
+// user has been asked. Main thread.
+class QuitGuard : public QObject {
+    Q_OBJECT
+
+public:
+    // Both must outlive the guard.
+    QuitGuard(TorController &controller, Windows &windows) : m_controller(controller), m_windows(windows) {}
+
+public Q_SLOTS:
+    void quit();
+
+Q_SIGNALS:
+    void mayEnd();
+
+private Q_SLOTS:
+    void onDisconnectWanted() { disconnectAndQuit(); }
+    void onQuitWanted();
+    void onCancelled();
+
+private:
+    QCoro::Task<void> disconnectAndQuit();
+    void closeDialog();
+
+    TorController &m_controller;
+    Windows &m_windows;
+    std::unique_ptr<QQuickWindow> m_dialog;
+    bool m_quitAfterwards = false; // the disconnect that runs is to be followed by the end
+};
+
+} // namespace veldmark

@@ -1,0 +1,66 @@
+#include "app/Tray.h"
+
+#include "ui/Symbols.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QPalette>
+
+namespace veldmark {
+
+Tray::Tray(Session &session) : m_panel(session)
+{
+    QObject::connect(m_menu.addAction(tr("Open Veldmark")), &QAction::triggered, this, &Tray::openWanted);
+    m_power = m_menu.addAction(QString());
+    QObject::connect(m_power, &QAction::triggered, &m_panel, &PanelModel::pressPower);
+    m_menu.addSeparator();
+    QObject::connect(m_menu.addAction(tr("Quit")), &QAction::triggered, this, &Tray::quitWanted);
+    m_icon.setContextMenu(&m_menu);
+    QObject::connect(&m_icon, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
+        if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
+            Q_EMIT panelWanted();
+    });
+    QObject::connect(&m_panel, &PanelModel::changed, this, &Tray::update);
+    update();
+    m_icon.show();
+}
+
+bool Tray::groundIsDark()
+{
+    // GNOME's panel is dark in both of its appearances; elsewhere the panel follows the palette.
+    if (qEnvironmentVariable("XDG_CURRENT_DESKTOP").contains(QLatin1String("GNOME")))
+        return true;
+    const QPalette palette = QGuiApplication::palette();
+    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+}
+
+QIcon Tray::icon(const QString &symbol, bool onDark)
+{
+    QIcon icon;
+    for (const int pixels : {16, 22, 24, 32, 44, 48, 64})
+        icon.addPixmap(QPixmap::fromImage(
+            Symbols::image(symbol, pixels, onDark ? QColor(0xf2, 0xf2, 0xf7) : QColor(0x1a, 0x1a, 0x22))));
+    return icon;
+}
+
+QRect Tray::anchor() const
+{
+    const QRect place = m_icon.geometry();
+    return place.isValid() ? place : QRect(QCursor::pos(), QSize(1, 1));
+}
+
+void Tray::update()
+{
+    const bool dark = groundIsDark();
+    const QString wanted = m_panel.symbol() + (dark ? u'd' : u'l');
+    if (std::exchange(m_shown, wanted) != wanted)
+        m_icon.setIcon(icon(m_panel.symbol(), dark));
+    const QString tip = QStringLiteral("Veldmark: ") + m_panel.title();
+    if (m_icon.toolTip() != tip)
+        m_icon.setToolTip(tip);
+    m_power->setVisible(!m_panel.powerLabel().isEmpty());
+    m_power->setText(m_panel.powerLabel());
+    m_power->setEnabled(m_panel.powerEnabled());
+}
+
+} // namespace veldmark

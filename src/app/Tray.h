@@ -1,0 +1,42 @@
+#pragma once
+
+#include "ui/PanelModel.h"
+#include "ui/Session.h"
+
+#include <QMenu>
+#include <QSystemTrayIcon>
+
+namespace veldmark {
+
+// The program's icon in the tray: a symbol that differs by shape with the session's state, drawn to
+// stand out from the tray's ground, and a menu for desktops whose tray shows nothing else.
+class Tray : public QObject {
+    Q_OBJECT
+
+public:
+    // `session` must outlive the tray.
+    explicit Tray(Session &session);
+
+    static bool isAvailable() { return QSystemTrayIcon::isSystemTrayAvailable(); }
+    QRect anchor() const; // where the icon is, as far as the desktop tells
+
+    // Every size in which trays ask for it.
+    static QIcon icon(const QString &symbol, bool onDark);
+
+Q_SIGNALS:
+    void panelWanted();
+    void openWanted();
+    void quitWanted();
+
+private:
+    void update();
+    static bool groundIsDark();
+
+    PanelModel m_panel;
+    QMenu m_menu;
+    QSystemTrayIcon m_icon;
+    QAction *m_power = nullptr;
+    QString m_shown; // symbol and ground of the icon in place
+};
+
+} // namespace veldmark

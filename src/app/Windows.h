@@ -1,0 +1,58 @@
+#pragma once
+
+#include "ui/CircuitsModel.h"
+#include "ui/LogModel.h"
+#include "ui/OptionsModel.h"
+#include "ui/PanelModel.h"
+#include "ui/SettingsModel.h"
+
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+
+#include <map>
+#include <memory>
+
+namespace veldmark {
+
+// The program's windows by name: "main", "panel", "circuits", "log", "settings". A window is made
+// when it is first wanted; all but "main" and "panel" go when they are closed, so that a program
+// that only sits in the tray stays small. Main thread.
+class Windows : public QObject {
+    Q_OBJECT
+
+public:
+    // Both must outlive the windows.
+    Windows(Session &session, LogFeed &log);
+
+    // Shows and raises the window. False when it cannot be made; failed() tells why.
+    bool open(const QString &name);
+    // Shows the panel at `anchor` (the tray's icon, screen coordinates), or hides it when shown.
+    void togglePanel(const QRect &anchor);
+    QQuickWindow *find(const QString &name) const;
+    // A window for a question of the program's own; null when it cannot be made.
+    std::unique_ptr<QQuickWindow> make(const QString &file, const QVariantMap &properties);
+
+Q_SIGNALS:
+    void quitWanted();
+    void mainClosed();
+    void failed(const QString &reason);
+
+private Q_SLOTS:
+    void onWindowWanted(const QString &name) { open(name); }
+    void chooseTor();
+    void chooseApplications();
+
+private:
+    bool ensure(const QString &name);
+
+    Session &m_session;
+    PanelModel m_panel;
+    OptionsModel m_options;
+    SettingsModel m_settings;
+    CircuitsModel m_circuits;
+    LogModel m_log;
+    QQmlApplicationEngine m_engine;
+    std::map<QString, std::unique_ptr<QQuickWindow>> m_windows; // before the engine goes
+};
+
+} // namespace veldmark

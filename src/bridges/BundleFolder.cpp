@@ -1,0 +1,210 @@
+#include "bridges/BundleFolder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstdio>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace veldmark {
+
+namespace {
+
+constexpr qint64 recordLimitBytes = 4096;
+
+std::optional<QString> textOf(const QString &path)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    return QString::fromUtf8(file.read(recordLimitBytes)).trimmed();
+}
+
+QString lastSystemError()
+{
+    return qt_error_string(errno);
+}
+
+// Whether something has this name, be it a link to nowhere.
+bool isThere(const QString &path)
+{
+    struct stat status {};
+    return ::lstat(QFile::encodeName(path).constData(), &status) == 0;
+}
+
+bool moved(const QString &from, const QString &to)
+{
+    return ::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+}
+
+// The archive may have a member of that name, of whatever kind.
+bool wrote(const QString &path, const QString &text)
+{
+    removeTree(path);
+    QFile file(path);
+    const QByteArray bytes = text.toUtf8() + '\n';
+    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly) && file.write(bytes) == bytes.size()
+        && file.flush();
+}
+
+// A new bundle is on the disk before the old one goes.
+void writeThrough(const QString &folder)
+{
+#ifdef Q_OS_LINUX
+    const int fd = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd >= 0) {
+        ::syncfs(fd);
+        ::close(fd);
+    }
+#else
+    Q_UNUSED(folder)
+    ::sync();
+#endif
+}
+
+} // namespace
+
+void removeTree(const QString &path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    struct stat status {};
+    if (::lstat(name.constData(), &status) != 0)
+        return;
+    if (!S_ISDIR(status.st_mode)) {
+        ::unlink(name.constData());
+        return;
+    }
+    ::chmod(name.constData(), 0700);
+    const QStringList entries =
+        QDir(path).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    for (const QString &entry : entries)
+        removeTree(path + u'/' + entry);
+    ::rmdir(name.constData());
+}
+
+BundleRecord BundleRecord::read(const QString &folder)
+{
+    return {textOf(folder + QStringLiteral("/VERSION")), textOf(folder + QStringLiteral("/VERIFIED"))};
+}
+
+bool BundleFolder::exchange(const QString &one, const QString &other)
+{
+    const QByteArray first = QFile::encodeName(one);
+    const QByteArray second = QFile::encodeName(other);
+#ifdef Q_OS_LINUX
+    return ::renameat2(AT_FDCWD, first.constData(), AT_FDCWD, second.constData(), RENAME_EXCHANGE) == 0;
+#else
+    return ::renamex_np(first.constData(), second.constData(), RENAME_SWAP) == 0;
+#endif
+}
+
+BundleFolder::BundleFolder(QString folder, Exchange exchange, int lock)
+    : m_folder(std::move(folder)), m_exchange(std::move(exchange)), m_lock(lock)
+{
+}
+
+BundleFolder::~BundleFolder()
+{
+    ::close(m_lock);
+}
+
+Result<std::shared_ptr<BundleFolder>, QString> BundleFolder::claim(const QString &folder, Exchange exchange)
+{
+    const QFileInfo place(folder);
+    const QString parent = place.absolutePath();
+    if (!QDir().mkpath(parent))
+        return Failure(QStringLiteral("Couldn't make the folder %1: %2.").arg(parent, lastSystemError()));
+    const QString lockFile = parent + QStringLiteral("/.") + place.fileName() + QStringLiteral(".lock");
+    const int lock = ::open(QFile::encodeName(lockFile).constData(),
+                            O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+    if (lock < 0)
+        return Failure(QStringLiteral("Couldn't open %1: %2.").arg(lockFile, lastSystemError()));
+    if (::flock(lock, LOCK_EX | LOCK_NB) != 0) {
+        ::close(lock);
+        return Failure(QStringLiteral("Another download is under way."));
+    }
+    std::shared_ptr<BundleFolder> claimed(new BundleFolder(folder, std::move(exchange), lock));
+    char noted[recordLimitBytes] = {};
+    const ssize_t size = ::pread(lock, noted, sizeof noted, 0);
+    claimed->m_forgotten = QFile::decodeName(QByteArray(noted, size > 0 ? size : 0)).trimmed();
+    claimed->recover();
+    return claimed;
+}
+
+void BundleFolder::note(const QString &temporary) const
+{
+    const QByteArray line = temporary.isEmpty() ? QByteArray() : QFile::encodeName(temporary) + '\n';
+    // A note that cannot be written costs at most a folder that is left in /tmp.
+    if (::ftruncate(m_lock, 0) == 0 && ::pwrite(m_lock, line.constData(), static_cast<size_t>(line.size()), 0) < 0)
+        qWarning("The temporary folder could not be noted");
+}
+
+QString BundleFolder::beside(const char *suffix) const
+{
+    const QFileInfo place(m_folder);
+    return place.absolutePath() + QStringLiteral("/.") + place.fileName() + QLatin1String(suffix);
+}
+
+void BundleFolder::recover() const
+{
+    if (isThere(beside(".old")) && !isThere(m_folder))
+        moved(beside(".old"), m_folder);
+    removeTree(beside(".old"));
+    removeTree(beside(".new"));
+}
+
+Result<QString, QString> BundleFolder::fresh() const
+{
+    const QString folder = beside(".new");
+    removeTree(folder);
+    const QByteArray name = QFile::encodeName(folder);
+    // Tor's own account runs programs from here, whatever this user's umask is.
+    if (::mkdir(name.constData(), 0755) != 0 || ::chmod(name.constData(), 0755) != 0)
+        return Failure(QStringLiteral("Couldn't make the folder %1: %2.").arg(folder, lastSystemError()));
+    return folder;
+}
+
+Result<void, QString> BundleFolder::publish(const QString &version, bool isVerified) const
+{
+    const QString folder = beside(".new");
+    const QString former = beside(".old");
+    const auto failed = [this] {
+        return Failure(QStringLiteral("Couldn't write %1: %2.").arg(m_folder, lastSystemError()));
+    };
+    if (!wrote(folder + QStringLiteral("/VERSION"), version)
+        || !wrote(folder + QStringLiteral("/VERIFIED"),
+                  isVerified ? QStringLiteral("signature") : QStringLiteral("https")))
+        return failed();
+    writeThrough(folder);
+
+    if (!isThere(m_folder)) {
+        if (!moved(folder, m_folder))
+            return failed();
+    } else if (m_exchange(folder, m_folder)) {
+        removeTree(folder); // the old one
+    } else {
+        // Two steps; whoever comes next finishes them should this process be killed in between.
+        if (!moved(m_folder, former))
+            return failed();
+        if (!moved(folder, m_folder)) {
+            const auto error = failed();
+            moved(former, m_folder);
+            return error;
+        }
+        removeTree(former);
+    }
+    return {};
+}
+
+void BundleFolder::discard() const
+{
+    removeTree(beside(".new"));
+}
+
+} // namespace veldmark

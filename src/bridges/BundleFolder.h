@@ -1,0 +1,70 @@
+#pragma once
+
+#include "base/Result.h"
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+// The folder of the downloaded bundle, and how another one takes its place so that at every moment
+// one of the two stands there whole. Blocking; any thread, one at a time.
+namespace veldmark {
+
+// What stands in an installed bundle's small text files, trimmed; nothing when there is no such file.
+struct BundleRecord {
+    std::optional<QString> version;
+    std::optional<QString> verification; // "signature" or "https"
+
+    static BundleRecord read(const QString &folder);
+};
+
+// The right to change a bundle's folder; one at a time on this computer. Lets go when destroyed, or
+// when the process ends in whatever way. Beside `folder` it uses hidden names that begin like it:
+// .NAME.lock, .NAME.new and .NAME.old.
+class BundleFolder {
+public:
+    // Lets two folders change places in one step. False where the file system cannot.
+    using Exchange = std::function<bool(const QString &one, const QString &other)>;
+    static bool exchange(const QString &one, const QString &other);
+
+    // Takes the right and clears up what a process that was killed has left: puts back a bundle
+    // that had been taken away, and removes unfinished ones. The error is a sentence.
+    static Result<std::shared_ptr<BundleFolder>, QString> claim(const QString &folder,
+                                                               Exchange exchange = &BundleFolder::exchange);
+    ~BundleFolder();
+    BundleFolder(const BundleFolder &) = delete;
+    BundleFolder &operator=(const BundleFolder &) = delete;
+
+    // The temporary folder that the last holder of the right had noted and not taken back; empty
+    // when there was none.
+    QString forgotten() const { return m_forgotten; }
+    // Notes a temporary folder, so that the next holder finds it should this process be killed;
+    // an empty text takes it back.
+    void note(const QString &temporary) const;
+
+    // Makes an empty folder for a new bundle, on the same file system.
+    Result<QString, QString> fresh() const;
+    // Writes the new bundle's record, puts the new bundle where the old one was and removes the old
+    // one.
+    Result<void, QString> publish(const QString &version, bool isVerified) const;
+    // Removes a new bundle that is not to be published.
+    void discard() const;
+
+private:
+    BundleFolder(QString folder, Exchange exchange, int lock);
+    QString beside(const char *suffix) const;
+    void recover() const;
+
+    QString m_folder;
+    Exchange m_exchange;
+    int m_lock;
+    QString m_forgotten;
+};
+
+// Removes a folder with everything in it, also where permissions are odd; a link is removed, not
+// followed. Nothing happens when there is nothing.
+void removeTree(const QString &path);
+
+} // namespace veldmark

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+
+namespace veldmark {
+
+// Why the transports' programs could not be downloaded and installed. The description is the
+// sentence that the user reads.
+class DownloadError {
+public:
+    enum class Kind {
+        http,          // the server answered with another status than success
+        badVersion,    // the index does not name a version
+        badSignature,  // the archive is not what the Tor Project signed
+        extractFailed, // the archive cannot be unpacked, or must not be
+        other,         // the network, the disk, or the user: in their own words
+    };
+
+    // item: what was asked for, as in "Download of the archive failed".
+    static DownloadError http(int status, const QString &item);
+    static DownloadError badVersion();
+    static DownloadError badSignature(const QString &detail);
+    static DownloadError extractFailed(const QString &detail);
+    static DownloadError other(QString text);
+
+    Kind kind() const { return m_kind; }
+    QString description() const { return m_description; }
+
+private:
+    DownloadError(Kind kind, QString description) : m_kind(kind), m_description(std::move(description)) {}
+
+    Kind m_kind;
+    QString m_description;
+};
+
+} // namespace veldmark

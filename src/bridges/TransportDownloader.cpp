@@ -1,0 +1,407 @@
+#include "bridges/TransportDownloader.h"
+
+#include "base/ResumeOnce.h"
+#include "bridges/BundleArchive.h"
+#include "bridges/BundleFolder.h"
+#include "bridges/HTTPSSession.h"
+#include "bridges/ReleaseIndex.h"
+#include "system/ProcessRunner.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QThreadPool>
+#include <QUuid>
+
+#include <cerrno>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace veldmark {
+
+namespace {
+
+using Done = Result<void, DownloadError>;
+
+// Several times what each of them is today.
+constexpr qint64 indexLimitBytes = 8 * 1024 * 1024;
+constexpr qint64 keyLimitBytes = 4 * 1024 * 1024;
+constexpr qint64 signatureLimitBytes = 256 * 1024;
+constexpr qint64 archiveLimitBytes = 256 * 1024 * 1024;
+
+const QString cancelledText = QStringLiteral("Cancelled.");
+
+// Runs what blocks on a thread of the pool.
+template <typename T>
+QCoro::Task<T> elsewhere(std::function<T()> work)
+{
+    const ResumeOnce<T> done;
+    QThreadPool::globalInstance()->start([done, work] { done.complete(work()); });
+    T result = co_await done;
+    co_return result;
+}
+
+bool isProgram(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.isFile() && file.isExecutable();
+}
+
+// A short path: GnuPG's agent makes sockets in its home, whose names may have about 100 characters.
+QString newTemporaryName()
+{
+    return QStringLiteral("/tmp/vmk-") + QUuid::createUuid().toString(QUuid::WithoutBraces);
+}
+
+bool isTemporaryName(const QString &path)
+{
+    static const QRegularExpression pattern(
+        QRegularExpression::anchoredPattern(QStringLiteral("/tmp/vmk-[0-9a-f-]{36}")));
+    struct stat status {};
+    return pattern.match(path).hasMatch() && ::lstat(QFile::encodeName(path).constData(), &status) == 0
+        && status.st_uid == ::geteuid();
+}
+
+QString gnupgHome(const QString &temporary)
+{
+    return temporary + QStringLiteral("/g");
+}
+
+bool makePrivateFolder(const QString &path)
+{
+    return ::mkdir(QFile::encodeName(path).constData(), 0700) == 0;
+}
+
+// Adds how far the large download is to its line, once for each per cent, or each megabyte where
+// the size is not known.
+class DownloadLine {
+public:
+    DownloadLine(QString line, TransportDownloader::Progress progress)
+        : m_line(std::move(line)), m_progress(std::move(progress))
+    {
+    }
+
+    void operator()(qint64 received, qint64 total)
+    {
+        const qint64 step = total > 0 ? received * 100 / total : received / 1'000'000;
+        if (step == std::exchange(m_step, step))
+            return;
+        m_progress(m_line + u' ' + progressText(received, total));
+    }
+
+private:
+    QString m_line;
+    TransportDownloader::Progress m_progress;
+    qint64 m_step = -1;
+};
+
+} // namespace
+
+// What an installation needs, however long it takes.
+struct TransportDownloader::Means {
+    PlatformProfile profile;
+    ProcessRunner *runner; // null once the downloader is gone
+    Clock *clock;
+    DownloadSource source;
+    std::weak_ptr<HTTPSSession> session; // of the installation that is under way
+    bool isCancelled = false;
+    bool isBusy = false;
+};
+
+// One installation under way.
+struct TransportDownloader::Job {
+    std::shared_ptr<Means> means;
+    std::shared_ptr<BundleFolder> folder;
+    std::shared_ptr<HTTPSSession> session;
+    QString temporary;
+    Progress report;
+
+    QString at(const char *name) const { return temporary + u'/' + QLatin1String(name); }
+};
+
+QString DownloadSource::signingKeyFingerprint()
+{
+    return QStringLiteral("EF6E286DDA85EA2A4BA7DE684E2C6E8793298290");
+}
+
+DownloadSource DownloadSource::torProject(const QString &fingerprint)
+{
+    return {QUrl(QStringLiteral("https://aus1.torproject.org/torbrowser/update_3/release/downloads.json")),
+            QUrl(QStringLiteral("https://dist.torproject.org/torbrowser/")),
+            QUrl(QStringLiteral("https://keys.openpgp.org/vks/v1/by-fingerprint/") + fingerprint),
+            fingerprint};
+}
+
+QUrl DownloadSource::archiveURL(const QString &version, const QString &archiveName) const
+{
+    return QUrl(distributionURL.toString() + version + u'/' + archiveName);
+}
+
+TransportDownloader::TransportDownloader(PlatformProfile profile, ProcessRunner &runner, Clock &clock,
+                                         DownloadSource source)
+    : m_means(std::make_shared<Means>(Means{std::move(profile), &runner, &clock, std::move(source), {}, false, false}))
+{
+    // Puts a bundle back that an installation, killed in between its two steps, had taken away.
+    if (!QFileInfo::exists(m_means->profile.bundleDirectory)
+        && QFileInfo::exists(QFileInfo(m_means->profile.bundleDirectory).absolutePath()))
+        BundleFolder::claim(m_means->profile.bundleDirectory);
+}
+
+TransportDownloader::~TransportDownloader()
+{
+    cancel();
+    m_means->runner = nullptr;
+}
+
+void TransportDownloader::cancel()
+{
+    m_means->isCancelled = true;
+    if (const auto session = m_means->session.lock())
+        session->cancel();
+}
+
+std::optional<QString> TransportDownloader::installedVersion(const PlatformProfile &profile)
+{
+    return BundleRecord::read(profile.bundleDirectory).version;
+}
+
+std::optional<QString> TransportDownloader::installedVerification(const PlatformProfile &profile)
+{
+    return BundleRecord::read(profile.bundleDirectory).verification;
+}
+
+std::optional<QString> TransportDownloader::gpgPath(const PlatformProfile &profile)
+{
+    for (const QString &folder : profile.gnupgCandidates) {
+        if (isProgram(folder + QStringLiteral("/gpg")))
+            return folder + QStringLiteral("/gpg");
+    }
+    return std::nullopt;
+}
+
+QCoro::Task<TransportDownloader::Outcome> TransportDownloader::install(bool throughTor, Progress progress)
+{
+    return run(m_means, throughTor, std::move(progress));
+}
+
+QCoro::Task<TransportDownloader::Outcome>
+TransportDownloader::run(std::shared_ptr<Means> means, bool throughTor, Progress progress)
+{
+    if (means->isBusy)
+        co_return Failure(DownloadError::other(QStringLiteral("Another download is under way.")));
+    means->isBusy = true;
+    means->isCancelled = false;
+    progress(QStringLiteral("Checking latest version…"));
+
+    using Claim = Result<std::shared_ptr<BundleFolder>, QString>;
+    const std::function<Claim()> claim = [folder = means->profile.bundleDirectory] {
+        return BundleFolder::claim(folder);
+    };
+    auto claiming = elsewhere<Claim>(claim);
+    const Claim folder = co_await claiming;
+    if (!folder) {
+        means->isBusy = false;
+        co_return Failure(DownloadError::other(folder.error()));
+    }
+
+    const auto job = std::make_shared<Job>();
+    job->means = means;
+    job->folder = *folder;
+    job->temporary = newTemporaryName();
+    job->report = std::move(progress);
+    if (isTemporaryName(job->folder->forgotten())) {
+        auto clearing = clearUp(job, job->folder->forgotten());
+        co_await clearing;
+    }
+    job->folder->note(job->temporary);
+    const std::optional<quint16> proxy = throughTor ? std::optional(means->source.socksPort) : std::nullopt;
+
+    Outcome outcome = Failure(DownloadError::other(cancelledText));
+    if (means->runner && !means->isCancelled) {
+        job->session = std::make_shared<HTTPSSession>(*means->clock, proxy, means->source.tls);
+        means->session = job->session;
+        auto filling = fill(job);
+        outcome = co_await filling;
+        job->session.reset();
+        if (!outcome && means->isCancelled) // whatever it was that noticed first
+            outcome = Failure(DownloadError::other(cancelledText));
+    }
+    auto clearing = clearUp(job, job->temporary);
+    co_await clearing;
+    job->folder->note(QString());
+    means->isBusy = false;
+    co_return outcome;
+}
+
+QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_ptr<Job> job)
+{
+    const std::shared_ptr<Means> means = job->means;
+    const DownloadSource &source = means->source;
+    const auto isGone = [means] { return means->isCancelled || !means->runner; };
+
+    const Fetch index{source.versionURL, QStringLiteral("the version index"), indexLimitBytes, {}, {}};
+    auto asking = HTTPSSession::fetch(job->session, index);
+    const auto listed = co_await asking;
+    if (!listed)
+        co_return Failure(listed.error());
+    const std::optional<QString> version = latestVersion(*listed);
+    if (!version)
+        co_return Failure(DownloadError::badVersion());
+
+    if (!makePrivateFolder(job->temporary))
+        co_return Failure(DownloadError::other(
+            QStringLiteral("Couldn't make the folder %1: %2.").arg(job->temporary, qt_error_string(errno))));
+    const QString archive = job->at("archive.tar.gz");
+    const QUrl archiveURL =
+        source.archiveURL(*version, means->profile.bundleArchivePrefix + *version + QStringLiteral(".tar.gz"));
+    const QString line = QStringLiteral("Downloading Tor %1 bridge programs…").arg(*version);
+    job->report(line);
+    const Fetch large{archiveURL, QStringLiteral("the bridge programs"), archiveLimitBytes, archive,
+                      DownloadLine(line, job->report)};
+    auto downloading = HTTPSSession::fetch(job->session, large);
+    const auto downloaded = co_await downloading;
+    if (!downloaded)
+        co_return Failure(downloaded.error());
+
+    const std::optional<QString> gpg = gpgPath(means->profile);
+    if (gpg) {
+        auto verifying = verify(job, *gpg, archive, archiveURL);
+        const Done verified = co_await verifying;
+        if (!verified)
+            co_return Failure(verified.error());
+    }
+    if (isGone())
+        co_return Failure(DownloadError::other(cancelledText));
+
+    job->report(QStringLiteral("Installing…"));
+    auto unpacking = unpack(job, archive);
+    const Done unpacked = co_await unpacking;
+    if (!unpacked)
+        co_return Failure(unpacked.error());
+    if (isGone())
+        co_return Failure(DownloadError::other(cancelledText));
+
+    const InstalledBundle bundle{*version, gpg.has_value()};
+    using Published = Result<void, QString>;
+    const std::function<Published()> publish = [folder = job->folder, bundle] {
+        return folder->publish(bundle.version, bundle.isVerified);
+    };
+    auto publishing = elsewhere<Published>(publish);
+    const Published published = co_await publishing;
+    if (!published)
+        co_return Failure(DownloadError::other(published.error()));
+    co_return bundle;
+}
+
+QCoro::Task<Done> TransportDownloader::verify(std::shared_ptr<Job> job, QString gpg, QString archive,
+                                              QUrl archiveURL)
+{
+    const std::shared_ptr<Means> means = job->means;
+    const QString signature = job->at("archive.tar.gz.asc");
+    const QUrl signatureURL(archiveURL.toString() + QStringLiteral(".asc"));
+    const Fetch small{signatureURL, QStringLiteral("signature"), signatureLimitBytes, signature, {}};
+    auto downloading = HTTPSSession::fetch(job->session, small);
+    const auto downloaded = co_await downloading;
+    if (!downloaded)
+        co_return Failure(downloaded.error());
+
+    job->report(QStringLiteral("Verifying signature…"));
+    const QString key = job->at("key.asc");
+    const Fetch asking{means->source.keyURL, QStringLiteral("signing key"), keyLimitBytes, key, {}};
+    auto fetching = HTTPSSession::fetch(job->session, asking);
+    const auto fetched = co_await fetching;
+    if (!fetched)
+        co_return Failure(fetched.error());
+
+    const QString home = gnupgHome(job->temporary);
+    if (!makePrivateFolder(home))
+        co_return Failure(DownloadError::other(
+            QStringLiteral("Couldn't make the folder %1: %2.").arg(home, qt_error_string(errno))));
+    if (!means->runner || means->isCancelled)
+        co_return Failure(DownloadError::other(cancelledText));
+    const QStringList import = {QStringLiteral("--homedir"), home, QStringLiteral("--batch"),
+                                QStringLiteral("--quiet"), QStringLiteral("--import"), key};
+    auto importing = means->runner->run(gpg, import);
+    const auto imported = co_await importing;
+    if (!imported || imported->status != 0)
+        co_return Failure(DownloadError::badSignature(
+            QStringLiteral("Couldn't load the Tor Browser signing key. ")
+            + (imported ? imported->stderr : imported.error().description())));
+
+    if (!means->runner || means->isCancelled)
+        co_return Failure(DownloadError::other(cancelledText));
+    const QStringList check = {QStringLiteral("--homedir"), home, QStringLiteral("--batch"),
+                               QStringLiteral("--status-fd"), QStringLiteral("1"), QStringLiteral("--verify"),
+                               signature, archive};
+    auto checking = means->runner->run(gpg, check);
+    const auto checked = co_await checking;
+    if (!checked || !isSignedBy(checked->stdout, means->source.fingerprint)) {
+        QFile::remove(archive);
+        co_return Failure(DownloadError::badSignature(checked ? checked->stderr
+                                                              : checked.error().description()));
+    }
+    co_return {};
+}
+
+QCoro::Task<Done> TransportDownloader::unpack(std::shared_ptr<Job> job, QString archive)
+{
+    const std::shared_ptr<Means> means = job->means;
+    const QString tar = means->profile.places.root + QStringLiteral("/usr/bin/tar");
+    using Problem = std::optional<QString>;
+    const std::function<Problem()> look = [tar, archive] { return archiveProblem(tar, archive); };
+    auto looking = elsewhere<Problem>(look);
+    const Problem hostile = co_await looking;
+    if (hostile)
+        co_return Failure(DownloadError::extractFailed(*hostile));
+
+    const auto folder = job->folder->fresh();
+    if (!folder)
+        co_return Failure(DownloadError::other(folder.error()));
+    if (!means->runner || means->isCancelled)
+        co_return Failure(DownloadError::other(cancelledText));
+    // A process that is root must not take the archive's owners over: they are somebody else's here.
+    const QStringList extract = {QStringLiteral("-xzf"), archive, QStringLiteral("-C"), *folder,
+                                 QStringLiteral("--no-same-owner"), QStringLiteral("--no-same-permissions")};
+    auto extracting = means->runner->run(tar, extract);
+    const auto extracted = co_await extracting;
+    if (!extracted || extracted->status != 0)
+        co_return Failure(DownloadError::extractFailed(extracted ? extracted->stderr
+                                                                 : extracted.error().description()));
+
+    const std::function<Problem()> settle = [unpacked = *folder] { return settleUnpacked(unpacked); };
+    auto settling = elsewhere<Problem>(settle);
+    const Problem odd = co_await settling;
+    if (odd)
+        co_return Failure(DownloadError::extractFailed(*odd));
+    co_return {};
+}
+
+// Ends the agent that GnuPG may have started in a temporary folder, then removes the folder and an
+// unfinished bundle.
+QCoro::Task<void> TransportDownloader::clearUp(std::shared_ptr<Job> job, QString temporary)
+{
+    const std::shared_ptr<Means> means = job->means;
+    const QString home = gnupgHome(temporary);
+    const std::optional<QString> gpg = gpgPath(means->profile);
+    if (gpg && means->runner && QFileInfo::exists(home)) {
+        const QString gpgconf = QFileInfo(*gpg).absolutePath() + QStringLiteral("/gpgconf");
+        const QStringList kill = {QStringLiteral("--homedir"), home, QStringLiteral("--kill"),
+                                  QStringLiteral("all")};
+        auto killing = means->runner->run(gpgconf, kill);
+        const auto killed = co_await killing;
+        if (!killed)
+            qWarning("gpgconf: %s", qUtf8Printable(killed.error().description()));
+    }
+    const std::function<bool()> remove = [temporary, folder = job->folder] {
+        removeTree(temporary);
+        folder->discard();
+        return true;
+    };
+    auto removing = elsewhere<bool>(remove);
+    const bool removed = co_await removing;
+    Q_UNUSED(removed)
+}
+
+} // namespace veldmark

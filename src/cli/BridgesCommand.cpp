@@ -1,0 +1,189 @@
+#include "cli/BridgesCommand.h"
+
+#include "base/ResumeOnce.h"
+#include "bridges/BridgeLines.h"
+#include "bridges/ManagedProxy.h"
+#include "bridges/PluggableTransports.h"
+#include "bridges/TransportDownloader.h"
+#include "cli/Console.h"
+#include "cli/ProgressLine.h"
+#include "cli/SignalWatcher.h"
+#include "controller/Production.h"
+#include "instance/InstancePlace.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QThreadPool>
+
+namespace veldmark {
+
+namespace {
+
+// Everything that a program of a bundle may serve.
+QStringList knownTransports()
+{
+    return {QStringLiteral("obfs4"), QStringLiteral("meek_lite"), QStringLiteral("webtunnel"),
+            QStringLiteral("snowflake"), QStringLiteral("obfs3"), QStringLiteral("scramblesuit")};
+}
+
+QJsonValue programFindings(const std::optional<QString> &path)
+{
+    if (!path)
+        return QJsonValue::Null;
+    return QJsonObject{{QStringLiteral("path"), *path},
+                       {QStringLiteral("serves"),
+                        QJsonArray::fromStringList(servedTransports(*path, knownTransports()))}};
+}
+
+QJsonObject customFindings(const QString &text)
+{
+    const ParsedBridgeLines parsed = BridgeLines::parse(text);
+    QJsonArray invalid;
+    for (qsizetype i = 0; i < parsed.invalid.size(); ++i)
+        invalid.append(QJsonObject{
+            {QStringLiteral("line"), parsed.invalidLineNumbers[static_cast<std::size_t>(i)]},
+            {QStringLiteral("text"), parsed.invalid[i]}});
+    return {{QStringLiteral("valid"), parsed.lines.size()}, {QStringLiteral("invalid"), invalid}};
+}
+
+// Blocks for some seconds.
+QJsonObject findings(const PlatformProfile &profile, const QString &customBridges)
+{
+    const std::optional<QString> version = TransportDownloader::installedVersion(profile);
+    const PluggableTransports found = PluggableTransports::locate(profile, version);
+    QJsonObject builtin;
+    for (auto lines = found.builtin.cbegin(); lines != found.builtin.cend(); ++lines)
+        builtin.insert(lines.key(), lines.value().size());
+    const QJsonObject bundle = {
+        {QStringLiteral("version"), version.value_or(QString())},
+        {QStringLiteral("verification"),
+         TransportDownloader::installedVerification(profile).value_or(QString())}};
+    return {
+        {QStringLiteral("programs"), QJsonObject{
+            {QStringLiteral("lyrebird"), programFindings(found.lyrebird)},
+            {QStringLiteral("snowflake"), programFindings(found.snowflake)},
+            {QStringLiteral("webtunnel"), programFindings(found.webtunnel)}}},
+        {QStringLiteral("builtin"), builtin},
+        {QStringLiteral("source"), found.source},
+        {QStringLiteral("bundle"), version ? QJsonValue(bundle) : QJsonValue::Null},
+        {QStringLiteral("custom"), customFindings(customBridges)},
+    };
+}
+
+QString row(const QString &name, const QString &text)
+{
+    return QStringLiteral("\n  %1%2").arg(name, -18).arg(text);
+}
+
+// A text from a file or a settings line, fit for a terminal.
+QString shown(const QString &text)
+{
+    QString line = text.left(60);
+    for (QChar &c : line) {
+        if (!c.isPrint())
+            c = u'?';
+    }
+    return text.size() > line.size() ? line + u'…' : line;
+}
+
+} // namespace
+
+QString Report::bridges(const QJsonObject &all)
+{
+    const QJsonObject programs = all.value(QStringLiteral("programs")).toObject();
+    QString report = QStringLiteral("Programs");
+    const std::pair<QString, QString> names[] = {
+        {QStringLiteral("lyrebird"), QStringLiteral("lyrebird")},
+        {QStringLiteral("snowflake"), QStringLiteral("snowflake-client")},
+        {QStringLiteral("webtunnel"), QStringLiteral("webtunnel-client")}};
+    for (const auto &[key, name] : names) {
+        const QJsonObject program = programs.value(key).toObject();
+        if (program.isEmpty()) {
+            report += row(name, QStringLiteral("not found"));
+            continue;
+        }
+        QStringList serves;
+        for (const QJsonValue &transport : program.value(QStringLiteral("serves")).toArray())
+            serves << transport.toString();
+        report += row(name, program.value(QStringLiteral("path")).toString());
+        report += row(QString(), serves.isEmpty() ? QStringLiteral("doesn't say what it serves")
+                                                  : QStringLiteral("serves ") + serves.join(QStringLiteral(", ")));
+    }
+
+    const QString source = all.value(QStringLiteral("source")).toString();
+    report += source.isEmpty() ? QStringLiteral("\nBuilt-in bridges") : QStringLiteral("\nBuilt-in bridges, from %1").arg(source);
+    const QJsonObject builtin = all.value(QStringLiteral("builtin")).toObject();
+    for (auto count = builtin.begin(); count != builtin.end(); ++count)
+        report += row(shown(count.key()), QString::number(count.value().toInt()));
+    if (builtin.isEmpty())
+        report += QStringLiteral("\n  none; get some with: veldmarkctl download-transports");
+
+    const QJsonObject bundle = all.value(QStringLiteral("bundle")).toObject();
+    const bool isSigned = bundle.value(QStringLiteral("verification")).toString() == u"signature";
+    report += QStringLiteral("\nTor Expert Bundle\n  ");
+    report += bundle.isEmpty() ? QStringLiteral("not downloaded")
+                               : QStringLiteral("%1, %2").arg(
+                                     shown(bundle.value(QStringLiteral("version")).toString()),
+                                     isSigned ? QStringLiteral("signature verified")
+                                              : QStringLiteral("signature not verified"));
+
+    const QJsonObject custom = all.value(QStringLiteral("custom")).toObject();
+    const QJsonArray invalid = custom.value(QStringLiteral("invalid")).toArray();
+    report += QStringLiteral("\nYour own bridges\n  %1 valid").arg(custom.value(QStringLiteral("valid")).toInt());
+    for (const QJsonValue &entry : invalid)
+        report += QStringLiteral("\n  line %1 is not a bridge line: %2")
+                      .arg(entry.toObject().value(QStringLiteral("line")).toInt())
+                      .arg(shown(entry.toObject().value(QStringLiteral("text")).toString()));
+    return report;
+}
+
+QCoro::Task<ExitStatus> showBridges(Invocation invocation, PlatformProfile profile)
+{
+    SettingsStore settings(profile);
+    if (const auto problem = settings.problem())
+        Console::printError(*problem);
+    const QString custom = settings.string(QStringLiteral("customBridges"));
+    const ResumeOnce<QJsonObject> gathered;
+    QThreadPool::globalInstance()->start(
+        [gathered, profile, custom] { gathered.complete(findings(profile, custom)); });
+    const QJsonObject all = co_await gathered;
+    Console::print(invocation.json
+                       ? QString::fromUtf8(QJsonDocument(all).toJson(QJsonDocument::Compact))
+                       : Report::bridges(all));
+    const bool allValid =
+        all.value(QStringLiteral("custom")).toObject().value(QStringLiteral("invalid")).toArray().isEmpty();
+    co_return allValid ? ExitStatus::done : ExitStatus::failed;
+}
+
+QCoro::Task<ExitStatus> downloadTransportsHere(PlatformProfile profile)
+{
+    const auto lock = lockInstance(profile); // nobody connects meanwhile: this goes direct
+    if (!lock) {
+        Console::printError(lock.error());
+        co_return ExitStatus::alreadyRunning;
+    }
+    const auto production = std::make_shared<Production>(profile);
+    TorController &controller = production->controller();
+    controller.detectStaleState();
+    const SignalWatcher signalWatcher;
+    QObject::connect(&signalWatcher, &SignalWatcher::received, &controller,
+                     [raw = production.get()] { raw->downloader().cancel(); });
+    const auto line = std::make_shared<ProgressLine>(Console::isTerminal(), Console::width());
+    QObject::connect(&controller, &TorController::transportDownloadChanged, &controller, [&controller, line] {
+        if (!controller.canDownloadTransports()) // the last word is not progress
+            Console::draw(line->update(controller.transportDownload().value_or(QString())));
+    });
+    auto downloading = controller.downloadTransports();
+    const bool isInstalled = co_await downloading;
+    Console::draw(line->finish());
+    if (!isInstalled) {
+        Console::printError(controller.transportDownload().value_or(QStringLiteral("Cancelled.")));
+        co_return ExitStatus::failed;
+    }
+    Console::print(controller.transportDownload().value_or(
+        QStringLiteral("Installed Tor Expert Bundle %1, signature verified.")
+            .arg(TransportDownloader::installedVersion(profile).value_or(QString()))));
+    co_return ExitStatus::done;
+}
+
+} // namespace veldmark

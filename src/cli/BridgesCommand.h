@@ -1,0 +1,35 @@
+#pragma once
+
+#include "cli/Arguments.h"
+
+#include <QJsonObject>
+
+#include <qcorotask.h>
+
+namespace veldmark {
+
+struct PlatformProfile;
+struct PluggableTransports;
+
+// `veldmarkctl bridges`: what was found, where, what each program serves, and whether the stored
+// custom lines are valid. Needs no running instance; it starts each program for a moment to ask it.
+// Fails when a custom line is not valid.
+QCoro::Task<ExitStatus> showBridges(Invocation invocation, PlatformProfile profile);
+
+// `veldmarkctl download-transports` where no instance runs. Ctrl-C ends it and leaves nothing half
+// done.
+QCoro::Task<ExitStatus> downloadTransportsHere(PlatformProfile profile);
+
+namespace Report {
+
+// What the command shows, from what it gathers:
+//
+//     {"programs": {NAME: {"path": …, "serves": [transport…]} or null},
+//      "builtin": {transport: count}, "source": label,
+//      "bundle": {"version": …, "verification": "signature" or "https"} or null,
+//      "custom": {"valid": count, "invalid": [{"line": number, "text": …}]}}
+QString bridges(const QJsonObject &findings);
+
+} // namespace Report
+
+} // namespace veldmark

@@ -1,0 +1,108 @@
+#include "log/TorLogFilter.h"
+
+#include <QLocale>
+
+#include <algorithm>
+
+namespace veldmark {
+
+namespace {
+
+// Compares as the user's language does. Only these three have letters of their own rules; elsewhere
+// the general folding gives the same without making a copy of every line.
+class Search {
+public:
+    explicit Search(const QString &text) : m_text(text)
+    {
+        const QLocale::Language language = m_locale.language();
+        m_ownRules = language == QLocale::Turkish || language == QLocale::Azerbaijani
+            || language == QLocale::Lithuanian;
+        if (m_ownRules)
+            m_text = m_locale.toLower(text);
+    }
+
+    bool matches(const QString &line) const
+    {
+        return m_ownRules ? m_locale.toLower(line).contains(m_text)
+                          : line.contains(m_text, Qt::CaseInsensitive);
+    }
+
+private:
+    QLocale m_locale;
+    bool m_ownRules;
+    QString m_text;
+};
+
+} // namespace
+
+QList<TorLogLine> TorLogFilter::shown(const TorLog::Snapshot &snapshot) const
+{
+    const QString wanted = search.trimmed();
+    if (wanted.isEmpty() && !problemsOnly)
+        return snapshot.lines();
+    const Search matcher(wanted);
+    QList<TorLogLine> lines;
+    for (const TorLogLine &line : snapshot.lines()) {
+        if ((!problemsOnly || line.isProblem()) && (wanted.isEmpty() || matcher.matches(line.raw)))
+            lines.append(line);
+    }
+    return lines;
+}
+
+std::optional<TorLogFilter::Placeholder> TorLogFilter::placeholder(
+    const TorLog::Snapshot &snapshot, const QList<TorLogLine> &shown, const QString &runDirectory) const
+{
+    if (snapshot.kind() == TorLog::Snapshot::Kind::unreadable)
+        return Placeholder{
+            QStringLiteral("Can't read Tor's log"),
+            QStringLiteral("The log files in %1 aren't readable by your account. Reconnect once with "
+                           "this version of Veldmark to fix their permissions.").arg(runDirectory)};
+    if (snapshot.kind() == TorLog::Snapshot::Kind::empty)
+        return Placeholder{
+            QStringLiteral("No log yet"),
+            QStringLiteral("Connect, and Tor's messages appear here as it starts. If Tor fails to "
+                           "start, the reason shows up here.")};
+    if (!shown.isEmpty())
+        return std::nullopt;
+    if (const QString wanted = search.trimmed(); !wanted.isEmpty())
+        return Placeholder{QStringLiteral("Nothing matches"),
+                           QStringLiteral("No lines contain “") + wanted + QStringLiteral("”")};
+    return Placeholder{QStringLiteral("No warnings or errors. Tor is happy."), QString()};
+}
+
+int TorLogFilter::problemCount(const TorLog::Snapshot &snapshot)
+{
+    return static_cast<int>(std::count_if(snapshot.lines().begin(), snapshot.lines().end(),
+                                          [](const TorLogLine &line) { return line.isProblem(); }));
+}
+
+QString TorLogFilter::problemsLabel(int problemCount)
+{
+    return problemCount == 0 ? QStringLiteral("Problems")
+                             : QStringLiteral("Problems (%1)").arg(problemCount);
+}
+
+QString TorLogFilter::subtitle(const TorLog::Snapshot &snapshot, const QString &noticesPath)
+{
+    switch (snapshot.kind()) {
+    case TorLog::Snapshot::Kind::unreadable:
+        return QStringLiteral("Can't read the log files");
+    case TorLog::Snapshot::Kind::empty:
+        return QStringLiteral("Tor writes here while it connects and runs");
+    case TorLog::Snapshot::Kind::lines:
+        break;
+    }
+    const qsizetype count = snapshot.lines().size();
+    return QString::number(count) + (count == 1 ? QStringLiteral(" line · ") : QStringLiteral(" lines · "))
+        + noticesPath;
+}
+
+QString TorLogFilter::copyText(const QList<TorLogLine> &shown)
+{
+    QStringList texts;
+    for (const TorLogLine &line : shown)
+        texts.append(line.raw);
+    return texts.join(u'\n');
+}
+
+} // namespace veldmark

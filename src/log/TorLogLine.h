@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+// The room of Tor's log: TorLog reads the files that Tor and its launcher write, TorLogStore watches
+// them, TorLogFilter picks what a window or a command shows.
+namespace veldmark {
+
+// One line of the merged log.
+struct TorLogLine {
+    // The lower, the more severe; `error` and `warning` are problems.
+    enum class Level { error = 0, warning = 1, notice = 2, info = 3 };
+
+    int id = 0; // position in its snapshot
+    std::optional<QString> time; // as Tor writes it ("Nov 16 00:41:07.123"); absent in other formats
+    Level level = Level::info;
+    QString message; // what follows the level; the whole line in other formats
+    QString raw;     // the whole line
+
+    bool isProblem() const { return level < Level::notice; }
+
+    friend bool operator==(const TorLogLine &, const TorLogLine &) = default;
+
+    // Reads "Nov 16 00:41:07.123 [warn] text", exactly as this pattern would:
+    //     ^([A-Z][a-z]{2} +\d{1,2} [0-9:.]+) \[(\w+)\] (.*)$
+    // Any other line has its level guessed from words in it, and is never `notice`. `line` has no
+    // line breaks.
+    static TorLogLine parse(const QString &line, int id);
+
+    // `info` for a number that is no level.
+    static Level levelFromRawValue(int rawValue);
+};
+
+} // namespace veldmark

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "circuits/CircuitGraph.h"
+#include "ui/Session.h"
+
+#include <QAbstractListModel>
+#include <QColor>
+#include <QQmlEngine>
+
+namespace veldmark {
+
+// The list of circuits, the one that is followed, and its path as steps. One row a circuit, in the
+// session's order, which is also the order of the palette.
+class CircuitsModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the program")
+
+    Q_PROPERTY(QString subtitle READ subtitle NOTIFY changed)
+    Q_PROPERTY(bool connected READ connected NOTIFY changed)
+    Q_PROPERTY(bool optimizing READ optimizing NOTIFY changed)
+    Q_PROPERTY(QString optimizeText READ optimizeText NOTIFY changed)
+    Q_PROPERTY(QString error READ error NOTIFY changed)
+    Q_PROPERTY(bool empty READ empty NOTIFY changed)
+    Q_PROPERTY(QString followed READ followed WRITE follow NOTIFY changed)
+    Q_PROPERTY(QVariantList steps READ steps NOTIFY changed)
+    Q_PROPERTY(QString purpose READ purpose NOTIFY changed)
+
+public:
+    enum Role {
+        IdRole = Qt::UserRole + 1, // Tor's number of the circuit, text
+        TitleRole,   // "Circuit 12"
+        DetailRole,  // the countries or nicknames of its relays, and the round-trip time
+        ColorRole,   // QColor
+        FollowedRole // bool
+    };
+
+    // `session` must outlive the model.
+    explicit CircuitsModel(Session &session, QObject *parent = nullptr);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+    QString subtitle() const;
+    bool connected() const { return m_session.now().phase == Phase::connected; }
+    bool optimizing() const { return m_session.now().isOptimizing; }
+    QString optimizeText() const;
+    QString error() const { return m_session.now().circuitError.value_or(QString()); }
+    bool empty() const { return circuits().empty(); }
+    QString purpose() const;
+
+    // The followed circuit's number; empty when none is, or when it is gone.
+    QString followed() const;
+    Q_INVOKABLE void follow(const QString &id);
+    // The path of the followed circuit, each step a map: symbol, country, role, title, detail,
+    // last. Empty when none is followed.
+    QVariantList steps() const;
+
+    const std::vector<CircuitInfo> &circuits() const { return m_session.now().circuits; }
+    QString computer() const;
+
+    Q_INVOKABLE void newIdentity() { m_session.newIdentity(); }
+    Q_INVOKABLE void findFaster() { m_session.findFasterCircuits(); }
+    Q_INVOKABLE void newCircuit() { m_session.newCircuit(followed()); }
+    Q_INVOKABLE void refresh() { m_session.refreshCircuits(); }
+
+    static QColor paletteColor(std::size_t index);
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void update();
+    const CircuitInfo *followedCircuit() const;
+
+    Session &m_session;
+    std::vector<CircuitInfo> m_shown; // what the rows were last made from
+    QString m_followed;
+};
+
+} // namespace veldmark

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QDBusVariant>
+#include <QVariant>
+
+namespace veldmark {
+
+// What the system prefers: dark or light, motion or less of it. Comes from the desktop portal where
+// one answers, else from the palette; follows changes of both. One per QML engine.
+class ColorScheme : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(bool dark READ dark NOTIFY changed)
+    Q_PROPERTY(bool reducedMotion READ reducedMotion NOTIFY changed)
+    Q_PROPERTY(bool flagsDrawn READ flagsDrawn CONSTANT)
+
+public:
+    explicit ColorScheme(QObject *parent = nullptr);
+
+    bool dark() const { return m_dark; }
+    bool reducedMotion() const { return m_reducedMotion; }
+    // Whether the fonts here have pictures for the flags of countries.
+    bool flagsDrawn() const { return m_flagsDrawn; }
+    // Overrides what the system says, from now on.
+    void force(bool dark, bool reducedMotion);
+    void setFlagsDrawn(bool drawn) { m_flagsDrawn = drawn; }
+
+    // The flag of a country of two letters, as text.
+    Q_INVOKABLE static QString flag(const QString &country);
+
+Q_SIGNALS:
+    void changed();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void askPortal(const QString &group, const QString &key);
+    void take(const QString &key, const QVariant &value);
+    void readPalette();
+
+private Q_SLOTS:
+    void onSettingChanged(const QString &group, const QString &key, const QDBusVariant &value);
+
+private:
+    bool m_dark = false;
+    bool m_reducedMotion = false;
+    bool m_flagsDrawn = false;
+    bool m_forced = false;
+    bool m_portalDecides = false;
+};
+
+} // namespace veldmark

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "platform/PlatformProfile.h"
+#include "ui/LogFeed.h"
+
+#include <QAbstractListModel>
+#include <QQmlEngine>
+
+namespace veldmark {
+
+// The log window: the lines that its filter lets through, one a row, and what is said in their
+// place when there are none. Rows that grow at the end or fall off the beginning move as such, so
+// that a reader keeps his place.
+class LogModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the program")
+
+    Q_PROPERTY(QString subtitle READ subtitle NOTIFY changed)
+    Q_PROPERTY(QString search READ search WRITE setSearch NOTIFY changed)
+    Q_PROPERTY(bool problemsOnly READ problemsOnly WRITE setProblemsOnly NOTIFY changed)
+    Q_PROPERTY(QString problemsLabel READ problemsLabel NOTIFY changed)
+    Q_PROPERTY(bool hasRows READ hasRows NOTIFY changed)
+    Q_PROPERTY(QString emptySymbol READ emptySymbol NOTIFY changed)
+    Q_PROPERTY(QString emptyTitle READ emptyTitle NOTIFY changed)
+    Q_PROPERTY(QString emptyText READ emptyText NOTIFY changed)
+    Q_PROPERTY(QString showHelp READ showHelp CONSTANT)
+
+public:
+    enum Role { TimeRole = Qt::UserRole + 1, MessageRole, LevelRole };
+    enum class Level { Error, Warning, Notice, Info };
+    Q_ENUM(Level)
+
+    // Both must outlive the model.
+    LogModel(LogFeed &feed, const PlatformProfile &profile, QObject *parent = nullptr);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+    QString subtitle() const;
+    QString search() const { return m_search; }
+    void setSearch(const QString &text);
+    bool problemsOnly() const { return m_problemsOnly; }
+    void setProblemsOnly(bool on);
+    QString problemsLabel() const;
+    bool hasRows() const { return !m_shown.empty(); }
+    QString emptySymbol() const;
+    QString emptyTitle() const;
+    QString emptyText() const;
+    QString showHelp() const;
+
+    Q_INVOKABLE void open() { m_feed.start(); }
+    Q_INVOKABLE void close() { m_feed.stop(); }
+    // Puts the raw lines from `first` to `last` (rows) on the clipboard; all of them by default.
+    Q_INVOKABLE void copy(int first = 0, int last = -1) const;
+    // Shows the log files in the file manager.
+    Q_INVOKABLE void reveal() const;
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void update();
+    bool lets(const LogLine &line) const;
+    QString noticesPath() const { return m_profile.runDirectory + QStringLiteral("/notices.log"); }
+
+    LogFeed &m_feed;
+    const PlatformProfile &m_profile;
+    QString m_search;
+    bool m_problemsOnly = false;
+    int m_problems = 0;
+    std::vector<LogLine> m_shown;
+};
+
+} // namespace veldmark

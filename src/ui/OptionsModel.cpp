@@ -1,0 +1,214 @@
+#include "ui/OptionsModel.h"
+
+#include "bridges/BridgeLines.h"
+#include "ui/SessionTexts.h"
+
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace veldmark {
+
+OptionsModel::OptionsModel(Session &session, QObject *parent)
+    : QObject(parent), m_session(session), m_exits(session.exitChoices())
+{
+    QObject::connect(&session, &Session::changed, this, &OptionsModel::changed);
+}
+
+bool OptionsModel::locked() const
+{
+    const Phase phase = m_session.now().phase;
+    return phase == Phase::connecting || phase == Phase::connected || phase == Phase::disconnecting;
+}
+
+void OptionsModel::setStrictMode(bool on)
+{
+    Choices next = choices();
+    next.strictMode = on;
+    m_session.store(next);
+}
+
+void OptionsModel::setAllowLocalNetwork(bool on)
+{
+    Choices next = choices();
+    next.allowLocalNetwork = on;
+    m_session.store(next);
+}
+
+void OptionsModel::setOptimizeSpeed(bool on)
+{
+    Choices next = choices();
+    next.optimizeSpeed = on;
+    m_session.store(next);
+}
+
+void OptionsModel::setTerminalMode(bool on)
+{
+    Choices next = choices();
+    next.terminalMode = on;
+    m_session.store(next);
+}
+
+QStringList OptionsModel::exitNames() const
+{
+    QStringList names;
+    for (const ExitChoice &exit : m_exits)
+        names << SessionTexts::translated(exit.name);
+    return names;
+}
+
+int OptionsModel::exitIndex() const
+{
+    const auto found = std::find_if(m_exits.begin(), m_exits.end(), [this](const ExitChoice &exit) {
+        return exit.code == choices().exitCountry;
+    });
+    return found == m_exits.end() ? -1 : static_cast<int>(found - m_exits.begin());
+}
+
+void OptionsModel::setExitIndex(int index)
+{
+    if (index < 0 || index >= static_cast<int>(m_exits.size()))
+        return;
+    Choices next = choices();
+    next.exitCountry = m_exits[static_cast<size_t>(index)].code;
+    m_session.store(next);
+}
+
+QString OptionsModel::exitWarning() const
+{
+    return choices().exitCountry.isEmpty()
+        ? QString()
+        : tr("Choosing a country means fewer exit relays, so it's slower and you're easier to single out.");
+}
+
+QStringList OptionsModel::bridgeNames() const
+{
+    return {tr("Off"), tr("obfs4 (built-in)"), tr("Snowflake (built-in)"), tr("meek (built-in)"),
+            tr("Custom")};
+}
+
+int OptionsModel::bridgeIndex() const
+{
+    const auto found =
+        std::find(allBridgeChoices.begin(), allBridgeChoices.end(), choices().bridgeChoice);
+    return static_cast<int>(found - allBridgeChoices.begin());
+}
+
+void OptionsModel::setBridgeIndex(int index)
+{
+    if (index < 0 || index >= static_cast<int>(allBridgeChoices.size()))
+        return;
+    Choices next = choices();
+    next.bridgeChoice = allBridgeChoices[static_cast<size_t>(index)];
+    m_session.store(next);
+}
+
+bool OptionsModel::transportMissing() const
+{
+    const PluggableTransports &found = m_session.now().transports;
+    switch (choices().bridgeChoice) {
+    case BridgeChoice::off:
+        return false;
+    case BridgeChoice::obfs4:
+    case BridgeChoice::meek:
+        return !found.lyrebird || !found.builtinLines(choices().bridgeChoice);
+    case BridgeChoice::snowflake:
+        return !found.snowflake || !found.builtinLines(choices().bridgeChoice);
+    case BridgeChoice::custom:
+        break;
+    }
+    for (const QString &line : BridgeLines::parse(choices().customBridges).lines) {
+        const auto transport = BridgeLines::transport(line);
+        if (!transport)
+            continue;
+        if (*transport == u"snowflake" ? !found.snowflake
+            : *transport == u"webtunnel" ? !found.webtunnel && !found.lyrebird : !found.lyrebird)
+            return true;
+    }
+    return false;
+}
+
+bool OptionsModel::needsDownload() const
+{
+    return transportMissing();
+}
+
+QString OptionsModel::bridgeNote() const
+{
+    if (customChosen() && BridgeLines::parse(choices().customBridges).lines.isEmpty())
+        return tr("No bridges added yet");
+    if (transportMissing())
+        return tr("Needs bridge programs: click Download");
+    if (choices().bridgeChoice == BridgeChoice::off || customChosen())
+        return tr("For networks that block or watch Tor");
+    return tr("Built-in bridges from %1").arg(m_session.now().transports.source);
+}
+
+bool OptionsModel::bridgeNoteIsWarning() const
+{
+    return transportMissing()
+        || (customChosen() && BridgeLines::parse(choices().customBridges).lines.isEmpty());
+}
+
+QString OptionsModel::downloadText() const
+{
+    return SessionTexts::translated(m_session.now().transportDownload.value_or(QString()));
+}
+
+QString OptionsModel::bridgeWarning(const QString &text) const
+{
+    const auto invalid = static_cast<int>(BridgeLines::parse(text).invalid.size());
+    if (invalid == 0)
+        return {};
+    return invalid == 1 ? tr("1 line not recognized") : tr("%1 lines not recognized").arg(invalid);
+}
+
+void OptionsModel::saveCustomBridges(const QString &text)
+{
+    Choices next = choices();
+    next.customBridges = text;
+    m_session.store(next);
+}
+
+QString OptionsModel::applicationCount() const
+{
+    const qsizetype count = choices().bypassApps.size();
+    return count == 0 ? tr("None") : QString::number(count);
+}
+
+bool OptionsModel::canLaunchBypassed() const
+{
+    return m_session.now().phase == Phase::connected && m_session.now().activeMode == RoutingMode::strict;
+}
+
+QString OptionsModel::applicationName(const QString &path) const
+{
+    // A desktop entry knows its own name; a bundle is named by its folder.
+    static const QRegularExpression name(QStringLiteral("(?m)^Name=(.+)$"));
+    QFile entry(path);
+    if (path.endsWith(QLatin1String(".desktop")) && entry.open(QIODevice::ReadOnly)) {
+        const auto match = name.match(QString::fromUtf8(entry.read(65536)));
+        if (match.hasMatch())
+            return match.captured(1).trimmed();
+    }
+    return QFileInfo(path).completeBaseName();
+}
+
+void OptionsModel::addApplication(const QString &path)
+{
+    if (path.isEmpty() || choices().bypassApps.contains(path))
+        return;
+    Choices next = choices();
+    next.bypassApps << path;
+    m_session.store(next);
+}
+
+void OptionsModel::removeApplication(const QString &path)
+{
+    Choices next = choices();
+    next.bypassApps.removeAll(path);
+    m_session.store(next);
+}
+
+} // namespace veldmark

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "ui/Session.h"
+
+#include <QQmlEngine>
+
+namespace veldmark {
+
+// The panel's lower half: the options and the two sheets that open from it.
+class OptionsModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the program")
+
+    Q_PROPERTY(bool locked READ locked NOTIFY changed)
+    Q_PROPERTY(bool strictMode READ strictMode WRITE setStrictMode NOTIFY changed)
+    Q_PROPERTY(bool allowLocalNetwork READ allowLocalNetwork WRITE setAllowLocalNetwork NOTIFY changed)
+    Q_PROPERTY(bool optimizeSpeed READ optimizeSpeed WRITE setOptimizeSpeed NOTIFY changed)
+    Q_PROPERTY(bool terminalMode READ terminalMode WRITE setTerminalMode NOTIFY changed)
+    Q_PROPERTY(QStringList exitNames READ exitNames CONSTANT)
+    Q_PROPERTY(int exitIndex READ exitIndex WRITE setExitIndex NOTIFY changed)
+    Q_PROPERTY(QString exitWarning READ exitWarning NOTIFY changed)
+    Q_PROPERTY(QStringList bridgeNames READ bridgeNames CONSTANT)
+    Q_PROPERTY(int bridgeIndex READ bridgeIndex WRITE setBridgeIndex NOTIFY changed)
+    Q_PROPERTY(QString bridgeNote READ bridgeNote NOTIFY changed)
+    Q_PROPERTY(bool bridgeNoteIsWarning READ bridgeNoteIsWarning NOTIFY changed)
+    Q_PROPERTY(bool needsDownload READ needsDownload NOTIFY changed)
+    Q_PROPERTY(bool canDownload READ canDownload NOTIFY changed)
+    Q_PROPERTY(QString downloadText READ downloadText NOTIFY changed)
+    Q_PROPERTY(bool customChosen READ customChosen NOTIFY changed)
+    Q_PROPERTY(QString customBridges READ customBridges NOTIFY changed)
+    Q_PROPERTY(QStringList applications READ applications NOTIFY changed)
+    Q_PROPERTY(QString applicationCount READ applicationCount NOTIFY changed)
+    Q_PROPERTY(bool canLaunchBypassed READ canLaunchBypassed NOTIFY changed)
+
+public:
+    // `session` must outlive the model.
+    explicit OptionsModel(Session &session, QObject *parent = nullptr);
+
+    bool locked() const; // the connection's options hold until it ends
+    bool strictMode() const { return choices().strictMode; }
+    bool allowLocalNetwork() const { return choices().allowLocalNetwork; }
+    bool optimizeSpeed() const { return choices().optimizeSpeed; }
+    bool terminalMode() const { return choices().terminalMode; }
+    void setStrictMode(bool on);
+    void setAllowLocalNetwork(bool on);
+    void setOptimizeSpeed(bool on);
+    void setTerminalMode(bool on);
+
+    QStringList exitNames() const;
+    int exitIndex() const;
+    void setExitIndex(int index);
+    QString exitWarning() const; // empty: no country is chosen
+
+    QStringList bridgeNames() const;
+    int bridgeIndex() const;
+    void setBridgeIndex(int index);
+    QString bridgeNote() const;
+    bool bridgeNoteIsWarning() const;
+    bool needsDownload() const;
+    bool canDownload() const { return m_session.now().canDownloadTransports; }
+    QString downloadText() const;
+    bool customChosen() const { return choices().bridgeChoice == BridgeChoice::custom; }
+    QString customBridges() const { return choices().customBridges; }
+    // "2 lines not recognized", or empty.
+    Q_INVOKABLE QString bridgeWarning(const QString &text) const;
+    Q_INVOKABLE void saveCustomBridges(const QString &text);
+    Q_INVOKABLE void download() { m_session.downloadTransports(); }
+
+    QStringList applications() const { return choices().bypassApps; }
+    QString applicationCount() const;
+    bool canLaunchBypassed() const;
+    Q_INVOKABLE QString applicationName(const QString &path) const;
+    Q_INVOKABLE void addApplication(const QString &path);
+    Q_INVOKABLE void removeApplication(const QString &path);
+    Q_INVOKABLE void launchBypassed(const QString &path) { m_session.launchBypassed(path); }
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    const Choices &choices() const { return m_session.now().choices; }
+    bool transportMissing() const;
+
+    Session &m_session;
+    const std::vector<ExitChoice> m_exits;
+};
+
+} // namespace veldmark

@@ -1,0 +1,359 @@
+#include "ui/PanelModel.h"
+
+#include "ui/Amount.h"
+#include "ui/SessionTexts.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include <utility>
+
+namespace veldmark {
+
+using namespace std::chrono_literals;
+
+PanelModel::PanelModel(Session &session, QObject *parent) : QObject(parent), m_session(session)
+{
+    m_stillness.setSingleShot(true);
+    m_stillness.setInterval(10s);
+    QObject::connect(&m_stillness, &QTimer::timeout, this, [this] {
+        m_still = true;
+        Q_EMIT changed();
+    });
+    QObject::connect(&session, &Session::changed, this, &PanelModel::update);
+    update();
+}
+
+void PanelModel::update()
+{
+    const Snapshot &now = m_session.now();
+    const bool moved = std::exchange(m_lastProgress, now.bootstrapProgress) != now.bootstrapProgress
+        || std::exchange(m_lastDetail, now.statusDetail) != now.statusDetail;
+    if (now.phase != Phase::connecting) {
+        m_stillness.stop();
+        m_still = false;
+    } else if (moved || !(m_stillness.isActive() || m_still)) {
+        m_still = false;
+        m_stillness.start();
+    }
+    if (now.phase == Phase::connected)
+        m_traffic.add(now.bytesRead, now.bytesWritten);
+    else
+        m_traffic.clear();
+    Q_EMIT changed();
+}
+
+bool PanelModel::connected() const
+{
+    return m_session.now().phase == Phase::connected;
+}
+
+bool PanelModel::exposedInStrict() const
+{
+    const Snapshot &now = m_session.now();
+    return now.phase == Phase::connected && now.activeMode == RoutingMode::strict
+        && now.leak.kind == Leak::Kind::exposed;
+}
+
+PanelModel::Tone PanelModel::tone() const
+{
+    const Snapshot &now = m_session.now();
+    switch (now.phase) {
+    case Phase::disconnected:
+        return Tone::Neutral;
+    case Phase::connecting:
+    case Phase::disconnecting:
+        return Tone::Accent;
+    case Phase::stale:
+        return Tone::Warning;
+    case Phase::connected:
+        break;
+    }
+    if (lookupsLeak() || exposedInStrict())
+        return Tone::Danger;
+    if (now.activeMode != RoutingMode::strict)
+        return Tone::Info;
+    if (now.torVerified == true)
+        return Tone::Good;
+    return now.isChecking || !now.torVerified ? Tone::Accent : Tone::Warning;
+}
+
+QString PanelModel::symbol() const
+{
+    switch (m_session.now().phase) {
+    case Phase::disconnected:
+        return QStringLiteral("shield.slash");
+    case Phase::connecting:
+    case Phase::disconnecting:
+        return QStringLiteral("shield.lefthalf.filled");
+    case Phase::stale:
+        return QStringLiteral("exclamationmark.shield");
+    case Phase::connected:
+        break;
+    }
+    return tone() == Tone::Danger || tone() == Tone::Warning ? QStringLiteral("exclamationmark.shield")
+                                                             : QStringLiteral("lock.shield.fill");
+}
+
+QString PanelModel::title() const
+{
+    switch (m_session.now().phase) {
+    case Phase::disconnected:
+        return tr("Not Protected");
+    case Phase::connecting:
+        return tr("Connecting…");
+    case Phase::disconnecting:
+        return tr("Disconnecting…");
+    case Phase::stale:
+        return tr("Needs Attention");
+    case Phase::connected:
+        break;
+    }
+    if (lookupsLeak())
+        return tr("DNS Leak");
+    if (exposedInStrict())
+        return tr("Needs Attention"); // the firewall is said to be up, and yet something got out
+    return m_session.now().activeMode == RoutingMode::strict ? tr("Protected") : tr("Proxy Active");
+}
+
+QString PanelModel::detail() const
+{
+    if (connected() && lookupsLeak())
+        return tr("Lookups can go around Tor");
+    if (connected() && tone() == Tone::Warning)
+        return tr("All traffic is locked to Tor, but the exit could not be confirmed");
+    if (exposedInStrict())
+        return tr("Your real address can be seen. Disconnect, or run the leak test again.");
+    return SessionTexts::translated(m_session.now().statusDetail);
+}
+
+QString PanelModel::powerLabel() const
+{
+    switch (m_session.now().phase) {
+    case Phase::disconnected:
+        return tr("Connect to Tor");
+    case Phase::connecting:
+        return tr("Cancel");
+    case Phase::connected:
+        return tr("Disconnect");
+    case Phase::disconnecting:
+        return {};
+    case Phase::stale:
+        return tr("Reconnect");
+    }
+    return {};
+}
+
+bool PanelModel::powerEnabled() const
+{
+    const Snapshot &now = m_session.now();
+    switch (now.phase) {
+    case Phase::disconnected:
+    case Phase::stale:
+        return now.torPath.has_value();
+    case Phase::connecting:
+        return now.canCancel;
+    case Phase::connected:
+        return true;
+    case Phase::disconnecting:
+        return false;
+    }
+    return false;
+}
+
+bool PanelModel::busy() const
+{
+    const Phase phase = m_session.now().phase;
+    return phase == Phase::connecting || phase == Phase::disconnecting;
+}
+
+void PanelModel::pressPower()
+{
+    if (!powerEnabled())
+        return;
+    const Phase phase = m_session.now().phase;
+    if (phase == Phase::disconnected || phase == Phase::stale)
+        m_session.connectToTor();
+    else
+        m_session.disconnectFromTor();
+}
+
+QString PanelModel::pillText() const
+{
+    const Snapshot &now = m_session.now();
+    if (now.activeBridge && *now.activeBridge != BridgeChoice::off)
+        return tr("Connected through %1 bridges").arg(SessionTexts::bridgeName(*now.activeBridge));
+    if (now.activeMode)
+        return *now.activeMode == RoutingMode::strict ? tr("Strict") : tr("Proxy");
+    if (now.phase == Phase::stale)
+        return {};
+    return now.choices.strictMode ? tr("Strict") : tr("Proxy");
+}
+
+QString PanelModel::pillSymbol() const
+{
+    const Snapshot &now = m_session.now();
+    if (now.activeBridge && *now.activeBridge != BridgeChoice::off)
+        return QStringLiteral("point.3.connected.trianglepath.dotted");
+    const bool strict = now.activeMode ? *now.activeMode == RoutingMode::strict : now.choices.strictMode;
+    return strict ? QStringLiteral("lock.fill") : QStringLiteral("arrow.triangle.branch");
+}
+
+QString PanelModel::footnote() const
+{
+    const Snapshot &now = m_session.now();
+    if (!now.torPath && now.phase == Phase::disconnected)
+        return tr("Install Tor to get started");
+    if (now.phase == Phase::disconnected)
+        return tr("Click to connect");
+    if (now.phase == Phase::connected)
+        return tr("Click to disconnect");
+    return {};
+}
+
+bool PanelModel::canRestore() const
+{
+    const Snapshot &now = m_session.now();
+    return now.phase == Phase::stale || (now.phase == Phase::disconnected && now.markerPresent);
+}
+
+QString PanelModel::waitingFor() const
+{
+    if (!m_still)
+        return {};
+    return m_session.now().bootstrapProgress > 0
+        ? tr("Tor hasn't reported progress for a while. It is still trying; a slow or blocked network "
+             "is the usual reason.")
+        : tr("Still waiting for Tor to start, or for your approval.");
+}
+
+QString PanelModel::exitAddress() const
+{
+    const Snapshot &now = m_session.now();
+    if (now.exitIP)
+        return *now.exitIP;
+    return now.isChecking ? tr("Checking") : tr("Unknown");
+}
+
+QString PanelModel::exitCountry() const
+{
+    const Snapshot &now = m_session.now();
+    for (const CircuitInfo &circuit : now.circuits)
+        if (!circuit.hops.empty() && now.exitIP && circuit.hops.back().ip == now.exitIP)
+            return circuit.hops.back().country.value_or(QString());
+    return {};
+}
+
+QString PanelModel::exitHelp() const
+{
+    return tr("Checked against %1").arg(QStringLiteral("check.torproject.org"));
+}
+
+QString PanelModel::verification() const
+{
+    const Snapshot &now = m_session.now();
+    if (now.isChecking)
+        return tr("Checking");
+    return now.torVerified == true ? tr("Verified") : tr("Not confirmed");
+}
+
+QString PanelModel::leakText() const
+{
+    if (lookupsLeak())
+        return tr("DNS leak");
+    const Leak &leak = m_session.now().leak;
+    switch (leak.kind) {
+    case Leak::Kind::notTested:
+        return tr("Not tested");
+    case Leak::Kind::checking:
+        return tr("Testing…");
+    case Leak::Kind::blocked:
+        return tr("No leaks");
+    case Leak::Kind::inconclusive:
+        return tr("Inconclusive");
+    case Leak::Kind::exposed:
+        return tr("Exposed: %1").arg(leak.address);
+    }
+    return {};
+}
+
+QString PanelModel::leakHelp() const
+{
+    const Leak &leak = m_session.now().leak;
+    QString traffic = tr("Tries a direct connection that skips Tor");
+    if (leak.kind == Leak::Kind::blocked)
+        traffic = tr("Direct connections that skip Tor are blocked");
+    else if (leak.kind == Leak::Kind::exposed)
+        traffic = tr("Apps that ignore proxy settings show your real IP (%1). Turn on Strict mode to "
+                     "block them.").arg(leak.address);
+    return traffic + u'\n' + SessionTexts::lookups(m_session.now().lookups);
+}
+
+PanelModel::Tone PanelModel::leakTone() const
+{
+    if (lookupsLeak())
+        return Tone::Danger;
+    switch (m_session.now().leak.kind) {
+    case Leak::Kind::exposed:
+        return m_session.now().activeMode == RoutingMode::strict ? Tone::Danger : Tone::Warning;
+    case Leak::Kind::blocked:
+        return Tone::Good;
+    case Leak::Kind::inconclusive:
+        return Tone::Warning;
+    case Leak::Kind::notTested:
+    case Leak::Kind::checking:
+        break;
+    }
+    return Tone::Neutral;
+}
+
+QString PanelModel::downloaded() const
+{
+    const Snapshot &now = m_session.now();
+    return Amount::text(now.bytesRead, Amount::unitFor(std::max(now.bytesRead, now.bytesWritten)));
+}
+
+QString PanelModel::uploaded() const
+{
+    const Snapshot &now = m_session.now();
+    return Amount::text(now.bytesWritten, Amount::unitFor(std::max(now.bytesRead, now.bytesWritten)));
+}
+
+QString PanelModel::optimizeText() const
+{
+    return SessionTexts::translated(m_session.now().optimizeStatus.value_or(QString()));
+}
+
+QStringList PanelModel::leakingResolvers() const
+{
+    return m_session.now().lookups.leaks.mid(0, shownResolvers);
+}
+
+QString PanelModel::moreResolvers() const
+{
+    const qsizetype more = m_session.now().lookups.leaks.size() - shownResolvers;
+    return more > 0 ? tr("%1 more").arg(more) : QString();
+}
+
+QString PanelModel::error() const
+{
+    return SessionTexts::translated(m_session.now().errorMessage.value_or(QString()));
+}
+
+bool PanelModel::torMissing() const
+{
+    const Snapshot &now = m_session.now();
+    return !now.torPath && (now.phase == Phase::disconnected || now.phase == Phase::stale);
+}
+
+bool PanelModel::installHintIsCommand() const
+{
+    return installHint().contains(QLatin1String("install ")) || installHint().contains(QLatin1String("pacman "));
+}
+
+void PanelModel::copy(const QString &text) const
+{
+    QGuiApplication::clipboard()->setText(text);
+}
+
+} // namespace veldmark

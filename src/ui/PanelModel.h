@@ -1,0 +1,134 @@
+#pragma once
+
+#include "ui/Session.h"
+#include "ui/TrafficHistory.h"
+
+#include <QQmlEngine>
+#include <QTimer>
+
+namespace veldmark {
+
+// The panel's upper half: what stands in the hero, the connection card, the banners. Texts and
+// colours by meaning, all derived from the session's snapshot. It never promises more than was
+// verified: `good` is only a strict session whose exit was confirmed and in which no leak is known.
+class PanelModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the program")
+
+    Q_PROPERTY(veldmark::PanelModel::Tone tone READ tone NOTIFY changed)
+    Q_PROPERTY(QString symbol READ symbol NOTIFY changed)
+    Q_PROPERTY(QString title READ title NOTIFY changed)
+    Q_PROPERTY(QString detail READ detail NOTIFY changed)
+    Q_PROPERTY(QString powerLabel READ powerLabel NOTIFY changed)
+    Q_PROPERTY(bool powerEnabled READ powerEnabled NOTIFY changed)
+    Q_PROPERTY(bool busy READ busy NOTIFY changed)
+    Q_PROPERTY(double progress READ progress NOTIFY changed)
+    Q_PROPERTY(QString pillText READ pillText NOTIFY changed)
+    Q_PROPERTY(QString pillSymbol READ pillSymbol NOTIFY changed)
+    Q_PROPERTY(QString endpoint READ endpoint CONSTANT)
+    Q_PROPERTY(QString footnote READ footnote NOTIFY changed)
+    Q_PROPERTY(bool canRestore READ canRestore NOTIFY changed)
+    Q_PROPERTY(QString waitingFor READ waitingFor NOTIFY changed)
+    Q_PROPERTY(bool connected READ connected NOTIFY changed)
+
+    Q_PROPERTY(QString exitAddress READ exitAddress NOTIFY changed)
+    Q_PROPERTY(bool exitKnown READ exitKnown NOTIFY changed)
+    Q_PROPERTY(QString exitCountry READ exitCountry NOTIFY changed)
+    Q_PROPERTY(QString exitHelp READ exitHelp CONSTANT)
+    Q_PROPERTY(bool exitVerified READ exitVerified NOTIFY changed)
+    Q_PROPERTY(QString verification READ verification NOTIFY changed)
+    Q_PROPERTY(QString leakText READ leakText NOTIFY changed)
+    Q_PROPERTY(QString leakHelp READ leakHelp NOTIFY changed)
+    Q_PROPERTY(veldmark::PanelModel::Tone leakTone READ leakTone NOTIFY changed)
+    Q_PROPERTY(QString downloaded READ downloaded NOTIFY changed)
+    Q_PROPERTY(QString uploaded READ uploaded NOTIFY changed)
+    Q_PROPERTY(veldmark::TrafficHistory *traffic READ traffic CONSTANT)
+    Q_PROPERTY(bool checking READ checking NOTIFY changed)
+    Q_PROPERTY(QString optimizeText READ optimizeText NOTIFY changed)
+
+    Q_PROPERTY(bool lookupsLeak READ lookupsLeak NOTIFY changed)
+    Q_PROPERTY(QStringList leakingResolvers READ leakingResolvers NOTIFY changed)
+    Q_PROPERTY(QString moreResolvers READ moreResolvers NOTIFY changed)
+
+    Q_PROPERTY(QString error READ error NOTIFY changed)
+    Q_PROPERTY(bool torMissing READ torMissing NOTIFY changed)
+    Q_PROPERTY(QString installHint READ installHint CONSTANT)
+    Q_PROPERTY(bool installHintIsCommand READ installHintIsCommand CONSTANT)
+
+public:
+    enum class Tone { Neutral, Accent, Good, Info, Warning, Danger };
+    Q_ENUM(Tone)
+
+    // The DNS card names this many resolvers; the rest is counted.
+    static constexpr qsizetype shownResolvers = 3;
+
+    // `session` must outlive the model.
+    explicit PanelModel(Session &session, QObject *parent = nullptr);
+
+    Tone tone() const;
+    QString symbol() const;
+    QString title() const;
+    QString detail() const;
+    QString powerLabel() const;
+    bool powerEnabled() const;
+    bool busy() const;
+    double progress() const { return m_session.now().bootstrapProgress; }
+    QString pillText() const; // empty: no pill
+    QString pillSymbol() const;
+    QString endpoint() const { return QStringLiteral("SOCKS 127.0.0.1:9050"); }
+    QString footnote() const;
+    bool canRestore() const;
+    QString waitingFor() const; // empty unless nothing has moved for ten seconds
+    bool connected() const;
+
+    QString exitAddress() const;
+    bool exitKnown() const { return m_session.now().exitIP.has_value(); }
+    QString exitCountry() const; // two letters, or empty
+    QString exitHelp() const;
+    bool exitVerified() const { return m_session.now().torVerified == true; }
+    QString verification() const;
+    QString leakText() const;
+    QString leakHelp() const;
+    Tone leakTone() const;
+    QString downloaded() const;
+    QString uploaded() const;
+    TrafficHistory *traffic() { return &m_traffic; }
+    bool checking() const { return m_session.now().isChecking; }
+    QString optimizeText() const;
+
+    bool lookupsLeak() const { return m_session.now().lookups.kind == Lookups::Kind::leak; }
+    QStringList leakingResolvers() const;
+    QString moreResolvers() const;
+
+    QString error() const;
+    bool torMissing() const;
+    QString installHint() const { return m_session.profile().torInstallHint; }
+    bool installHintIsCommand() const;
+
+    Q_INVOKABLE void pressPower();
+    Q_INVOKABLE void restore() { m_session.disconnectFromTor(); }
+    Q_INVOKABLE void newIdentity() { m_session.newIdentity(); }
+    Q_INVOKABLE void leakTest() { m_session.runChecks(); }
+    Q_INVOKABLE void fixDNS() { m_session.fixLookups(); }
+    Q_INVOKABLE void retestDNS() { m_session.checkLookups(); }
+    Q_INVOKABLE void dismissError() { m_session.dismissError(); }
+    Q_INVOKABLE void recheckTor() { m_session.lookForTor(); }
+    Q_INVOKABLE void copy(const QString &text) const;
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void update();
+    bool exposedInStrict() const;
+
+    Session &m_session;
+    TrafficHistory m_traffic;
+    QTimer m_stillness; // runs out when the connection attempt has not moved
+    bool m_still = false;
+    double m_lastProgress = 0;
+    QString m_lastDetail;
+};
+
+} // namespace veldmark

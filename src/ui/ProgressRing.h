@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QColor>
+#include <QQuickPaintedItem>
+
+namespace veldmark {
+
+// The ring round the power button: a track, and an arc from the top of `value` (0…1) of the circle,
+// turned by `turn` (0…1), which QML moves for waits whose length nobody knows.
+class ProgressRing : public QQuickPaintedItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(double value MEMBER m_value NOTIFY changed)
+    Q_PROPERTY(double turn MEMBER m_turn NOTIFY changed)
+    Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
+    Q_PROPERTY(QColor track MEMBER m_track NOTIFY changed)
+    Q_PROPERTY(double thickness MEMBER m_thickness NOTIFY changed)
+
+public:
+    explicit ProgressRing(QQuickItem *parent = nullptr);
+    void paint(QPainter *painter) override;
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    double m_value = 0;
+    double m_turn = 0;
+    QColor m_color;
+    QColor m_track;
+    double m_thickness = 6;
+};
+
+} // namespace veldmark

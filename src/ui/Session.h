@@ -1,0 +1,62 @@
+#pragma once
+
+#include "platform/PlatformProfile.h"
+#include "ui/Snapshot.h"
+
+#include <QObject>
+
+namespace veldmark {
+
+struct ExitChoice {
+    QString code; // two lower-case letters; empty = any
+    QString name;
+};
+
+// What view models read and call. The program's own implementation stands on TorController; tests
+// and pictures use one that they fill by hand. Main thread. Intents return at once; what comes of
+// them is seen in the next snapshot.
+class Session : public QObject {
+    Q_OBJECT
+
+public:
+    // `profile` must outlive the session.
+    explicit Session(const PlatformProfile &profile, QObject *parent = nullptr)
+        : QObject(parent), m_profile(profile)
+    {
+    }
+
+    const Snapshot &now() const { return m_now; }
+    const PlatformProfile &profile() const { return m_profile; }
+    virtual std::vector<ExitChoice> exitChoices() const = 0;
+
+    virtual void store(const Choices &choices) = 0;
+    virtual void connectToTor() = 0;
+    virtual void disconnectFromTor() = 0; // also ends an attempt, and restores a left-over network
+    virtual void runChecks() = 0;
+    virtual void checkLookups() = 0; // with a live test
+    virtual void fixLookups() = 0;
+    virtual void newIdentity() = 0;
+    virtual void newCircuit(const QString &id) = 0;
+    virtual void findFasterCircuits() = 0;
+    virtual void refreshCircuits() = 0;
+    virtual void dismissError() = 0;
+    virtual void lookForTor() = 0;
+    virtual void downloadTransports() = 0;
+    virtual void installPasswordless() = 0;
+    virtual void removePasswordless() = 0;
+    virtual void removeTerminalIntegration() = 0;
+    virtual void setOpenAtLogin(bool on) = 0;
+    virtual void launchBypassed(const QString &application) = 0;
+
+Q_SIGNALS:
+    // Once for any number of fields that changed together.
+    void changed();
+
+protected:
+    Snapshot m_now;
+
+private:
+    const PlatformProfile &m_profile;
+};
+
+} // namespace veldmark

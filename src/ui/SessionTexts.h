@@ -1,0 +1,16 @@
+#pragma once
+
+#include "ui/Snapshot.h"
+
+// What the session itself says, in the user's language.
+namespace veldmark::SessionTexts {
+
+// The session speaks English. A sentence that is known is translated, every other one (Tor's own
+// words, for example) stands as it is.
+QString translated(const QString &sentence);
+// The name of a bridge kind as the panel writes it: "obfs4", "Snowflake", "meek", "Custom".
+QString bridgeName(BridgeChoice choice);
+// The sentence about look-ups in the leak row's help.
+QString lookups(const Lookups &lookups);
+
+} // namespace veldmark::SessionTexts

@@ -1,0 +1,115 @@
+#include "ui/SettingsModel.h"
+
+#include "ui/SessionTexts.h"
+
+#include <QClipboard>
+#include <QFileInfo>
+#include <QGuiApplication>
+
+namespace veldmark {
+
+SettingsModel::SettingsModel(Session &session, QObject *parent) : QObject(parent), m_session(session)
+{
+    QObject::connect(&session, &Session::changed, this, &SettingsModel::changed);
+}
+
+void SettingsModel::setAutoConnect(bool on)
+{
+    Choices next = now().choices;
+    next.autoConnect = on;
+    m_session.store(next);
+}
+
+void SettingsModel::setTerminalMode(bool on)
+{
+    Choices next = now().choices;
+    next.terminalMode = on;
+    m_session.store(next);
+}
+
+QString SettingsModel::torStatus() const
+{
+    if (torFound())
+        return tr("Found");
+    return torCustom() ? tr("Missing") : tr("Not found");
+}
+
+QString SettingsModel::torPlace() const
+{
+    if (torFound())
+        return *now().torPath;
+    if (torCustom())
+        return now().choices.customTorPath;
+    return m_session.profile().name == QLatin1String("macos")
+        ? tr("Homebrew: %1").arg(m_session.profile().torInstallHint)
+        : tr("Install it with %1").arg(m_session.profile().torInstallHint);
+}
+
+QUrl SettingsModel::torFolder() const
+{
+    return QUrl::fromLocalFile(QFileInfo(m_session.profile().torCandidates.constFirst()).absolutePath());
+}
+
+void SettingsModel::chooseTor(const QUrl &file)
+{
+    Choices next = now().choices;
+    next.customTorPath = file.toLocalFile();
+    m_session.store(next);
+}
+
+QString SettingsModel::bridgeSource() const
+{
+    const QString &source = now().transports.source;
+    return source.isEmpty() ? tr("Not found in Tor Browser or a downloaded bundle")
+                            : tr("Loaded from %1").arg(source);
+}
+
+QString SettingsModel::bundleVersion() const
+{
+    QFile file(m_session.profile().bundleDirectory + QStringLiteral("/VERSION"));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.read(64)).trimmed() : QString();
+}
+
+QString SettingsModel::bundleStatus() const
+{
+    if (!bundleLoaded())
+        return tr("Not downloaded");
+    QFile how(m_session.profile().bundleDirectory + QStringLiteral("/VERIFIED"));
+    const bool verified = how.open(QIODevice::ReadOnly) && how.read(64).trimmed() == "signature";
+    const QString loaded = tr("Version %1 loaded").arg(bundleVersion());
+    return verified ? loaded + QStringLiteral(" · ") + tr("signature verified") : loaded;
+}
+
+QString SettingsModel::downloadText() const
+{
+    return SessionTexts::translated(now().transportDownload.value_or(QString()));
+}
+
+QString SettingsModel::terminalExplanation() const
+{
+    if (m_session.profile().name == QLatin1String("macos"))
+        return tr("Adds one line to ~/.zshrc (and ~/.bash_profile if you have one) and an Include line at "
+                  "the top of ~/.ssh/config. Its files live in ~/.veldmark. Nothing is routed unless "
+                  "Veldmark is connected with Terminal mode on.");
+    return tr("Adds one line to ~/.bashrc (and ~/.zshrc if you use zsh) and an Include line at the top of "
+              "~/.ssh/config. Its files live in ~/.veldmark. Nothing is routed unless Veldmark is "
+              "connected with Terminal mode on.");
+}
+
+QString SettingsModel::onComputer() const
+{
+    return SessionTexts::translated(m_session.profile().onComputer);
+}
+
+bool SettingsModel::canRestore() const
+{
+    const Phase phase = now().phase;
+    return now().markerPresent && phase != Phase::connecting && phase != Phase::disconnecting;
+}
+
+void SettingsModel::copy(const QString &text) const
+{
+    QGuiApplication::clipboard()->setText(text);
+}
+
+} // namespace veldmark

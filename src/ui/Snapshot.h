@@ -1,0 +1,87 @@
+#pragma once
+
+#include "base/RoutingMode.h"
+#include "bridges/BridgeChoice.h"
+#include "bridges/PluggableTransports.h"
+#include "circuits/CircuitInfo.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+// The room of what is seen: view models turn a Snapshot of the session into texts, colours by
+// meaning and enabled states; QML below qml/ lays them out and calls intents. Start here, then
+// Session, PanelModel and qml/panel/Panel.qml.
+namespace veldmark {
+
+enum class Phase { disconnected, connecting, connected, disconnecting, stale };
+
+// What the user has chosen; a view changes a copy and hands it to Session::store().
+struct Choices {
+    bool strictMode = true;
+    bool allowLocalNetwork = true;
+    QString exitCountry;   // two lower-case letters; empty = any
+    QString customTorPath; // empty = search the standard places
+    BridgeChoice bridgeChoice = BridgeChoice::off;
+    QString customBridges; // as typed
+    QStringList bypassApps;
+    bool autoConnect = false;
+    bool optimizeSpeed = false;
+    bool terminalMode = false;
+
+    friend bool operator==(const Choices &, const Choices &) = default;
+};
+
+struct Leak {
+    enum class Kind { exposed, notTested, checking, blocked, inconclusive };
+    Kind kind = Kind::notTested;
+    QString address; // of `exposed`: the user's own, as the world saw it
+};
+
+struct Lookups {
+    enum class Kind { leak, unknown, checking, throughTor, unverified };
+    Kind kind = Kind::unknown;
+    QStringList leaks; // of `leak`: the resolvers' summaries
+};
+
+// Everything that views show, at one moment. A plain value; absent means not known.
+struct Snapshot {
+    Choices choices;
+
+    Phase phase = Phase::disconnected;
+    std::optional<RoutingMode> activeMode;
+    std::optional<BridgeChoice> activeBridge;
+    double bootstrapProgress = 0; // 0…1
+    QString statusDetail = QStringLiteral("Your traffic is not going through Tor");
+    bool canCancel = false;
+    std::optional<QString> errorMessage;
+    quint64 bytesRead = 0; // since Tor started
+    quint64 bytesWritten = 0;
+
+    std::optional<QString> exitIP;
+    std::optional<bool> torVerified;
+    Leak leak;
+    Lookups lookups;
+    bool isChecking = false;
+    std::optional<qint64> latencyMs;
+    std::optional<QString> optimizeStatus;
+    bool isOptimizing = false;
+
+    std::vector<CircuitInfo> circuits;
+    std::optional<QString> circuitError;
+    PluggableTransports transports;
+    std::optional<QString> transportDownload; // progress or result
+    bool canDownloadTransports = true;
+    bool passwordlessInstalled = false;
+    std::optional<QString> startupError;
+    std::optional<QString> terminalError;
+    bool terminalInstalled = false; // the shell integration's files are there
+
+    std::optional<QString> torPath; // absent: there is no tor to run
+    bool markerPresent = false;     // the network is set up for Tor
+    std::optional<bool> openAtLogin; // absent: this build cannot change it
+};
+
+} // namespace veldmark

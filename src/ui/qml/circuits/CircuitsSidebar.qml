@@ -1,0 +1,147 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import Veldmark
+
+// All the circuits, and the path of the one that is followed.
+Rectangle {
+    id: sidebar
+    required property CircuitsModel model
+    color: Theme.surface
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 0
+        Words {
+            Layout.margins: 16
+            Layout.bottomMargin: 8
+            text: qsTr("ALL CIRCUITS")
+            font.pixelSize: Theme.smallSize
+            font.weight: Font.DemiBold
+            color: Theme.quiet
+            Accessible.role: Accessible.Heading
+        }
+        ListView {
+            id: list
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            Layout.minimumHeight: 72
+            Layout.preferredHeight: 120
+            clip: true
+            boundsBehavior: Flickable.StopAtBounds
+            T.ScrollBar.vertical: ScrollBar {}
+            model: sidebar.model
+            delegate: T.ItemDelegate {
+                id: row
+                required property string circuitId
+                required property string title
+                required property string detail
+                required property color tint
+                required property bool isFollowed
+                width: ListView.view.width
+                implicitHeight: texts.implicitHeight + 12
+                text: title
+                hoverEnabled: true
+                focusPolicy: Qt.StrongFocus
+                Accessible.name: title
+                Accessible.description: detail
+                onClicked: sidebar.model.follow(isFollowed ? "" : circuitId)
+                contentItem: Item {
+                    Rectangle {
+                        x: 16
+                        anchors.verticalCenter: parent.verticalCenter
+                        width: 12
+                        height: 12
+                        radius: 6
+                        color: row.tint
+                        border.width: Theme.dark ? 0 : 1
+                        border.color: "#6a6a78"
+                    }
+                    Column {
+                        id: texts
+                        x: 38
+                        width: parent.width - 50
+                        anchors.verticalCenter: parent.verticalCenter
+                        Words {
+                            width: parent.width
+                            text: row.title
+                            font.weight: row.isFollowed ? Font.DemiBold : Font.Normal
+                        }
+                        Words {
+                            width: parent.width
+                            text: row.detail
+                            font.pixelSize: Theme.smallSize
+                            color: Theme.quiet
+                        }
+                    }
+                }
+                background: Rectangle {
+                    color: row.isFollowed ? Theme.accentGround : row.hovered ? Theme.raised : "transparent"
+                    FocusRing { shown: row.visualFocus; anchors.margins: 2 }
+                }
+            }
+        }
+        Divider {}
+        Words {
+            Layout.margins: 16
+            Layout.fillWidth: true
+            visible: sidebar.model.followed === ""
+            text: qsTr("No circuit selected")
+            color: Theme.quiet
+        }
+        Flickable {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            Layout.preferredHeight: Math.min(contentHeight, 330)
+            Layout.minimumHeight: Math.min(contentHeight, 150)
+            Layout.maximumHeight: contentHeight
+            visible: sidebar.model.followed !== ""
+            clip: true
+            boundsBehavior: Flickable.StopAtBounds
+            contentHeight: path.implicitHeight + 32
+            T.ScrollBar.vertical: ScrollBar {}
+            ColumnLayout {
+                id: path
+                x: 16
+                y: 16
+                width: parent.width - 32
+                spacing: 0
+                Repeater {
+                    model: sidebar.model.steps
+                    PathStep {
+                        required property var modelData
+                        Layout.fillWidth: true
+                        symbol: modelData.symbol
+                        country: modelData.country
+                        role: modelData.role
+                        title: modelData.title
+                        detail: modelData.detail
+                        last: modelData.last
+                    }
+                }
+                Words {
+                    Layout.fillWidth: true
+                    Layout.topMargin: 4
+                    visible: text !== ""
+                    text: sidebar.model.purpose
+                    font.pixelSize: Theme.smallSize
+                    color: Theme.quiet
+                }
+                PushButton {
+                    Layout.topMargin: 12
+                    text: qsTr("New Circuit")
+                    symbol: "arrow.triangle.2.circlepath"
+                    help: qsTr("Close this circuit; its sites get a fresh path on their next request")
+                    onClicked: sidebar.model.newCircuit()
+                }
+                Words {
+                    Layout.fillWidth: true
+                    Layout.topMargin: 8
+                    text: qsTr("Sites on this circuit get a fresh path. Other sites sharing it move too.")
+                    font.pixelSize: Theme.smallSize
+                    color: Theme.quiet
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,70 @@
+import QtQuick
+import QtQuick.Layouts
+import Veldmark
+
+// One stop on the followed circuit's path, joined with the next by a line.
+RowLayout {
+    id: step
+    required property string symbol  // of the computer and the sites
+    required property string country // of a relay
+    required property string role
+    required property string title
+    required property string detail
+    required property bool last
+
+    spacing: 12
+    Accessible.role: Accessible.ListItem
+    Accessible.name: (role !== "" ? role + ", " : "") + title + ", " + detail
+
+    Item {
+        Layout.fillHeight: true
+        implicitWidth: 28
+        Rectangle {
+            visible: !step.last
+            x: 13
+            y: 26
+            width: 2
+            height: parent.height - 26
+            color: Theme.line
+        }
+        Symbol {
+            visible: step.symbol !== ""
+            x: 5
+            y: 3
+            name: step.symbol
+            size: 18
+            color: Theme.text
+        }
+        FlagBadge {
+            visible: step.symbol === ""
+            x: 1
+            y: 3
+            country: step.country
+        }
+    }
+    ColumnLayout {
+        Layout.fillWidth: true
+        Layout.bottomMargin: 8
+        spacing: 0
+        Words {
+            Layout.fillWidth: true
+            visible: step.role !== ""
+            text: step.role
+            font.pixelSize: Theme.smallSize
+            color: Theme.quiet
+        }
+        Words {
+            Layout.fillWidth: true
+            text: step.title
+            font.weight: Font.DemiBold
+            wrapMode: Text.WrapAnywhere
+        }
+        Words {
+            Layout.fillWidth: true
+            text: step.detail
+            font.pixelSize: Theme.smallSize
+            color: Theme.quiet
+            wrapMode: Text.WrapAtWordBoundaryOrAnywhere
+        }
+    }
+}

@@ -1,0 +1,60 @@
+import QtQuick
+import Veldmark
+
+// What must be read first: a sentence and the one next step.
+Rectangle {
+    id: banner
+    required property string text
+    property int tone: PanelModel.Danger
+    property string symbol: "exclamationmark.triangle.fill"
+    property bool closable: false
+    default property alias actions: actions.data
+    signal closed()
+
+    implicitHeight: column.height + 24
+    radius: Theme.radius
+    color: Theme.toneGround(tone)
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: text
+
+    Symbol {
+        x: 12
+        y: 14
+        name: banner.symbol
+        size: 18
+        color: Theme.tone(banner.tone)
+    }
+    Column {
+        id: column
+        x: 40
+        y: 12
+        width: banner.width - x - (banner.closable ? 46 : 12)
+        spacing: 8
+        TextEdit {
+            width: parent.width
+            text: banner.text
+            readOnly: true
+            selectByMouse: true
+            activeFocusOnTab: false
+            wrapMode: Text.Wrap
+            font.pixelSize: Theme.bodySize
+            color: Theme.text
+            selectionColor: Theme.accent
+            selectedTextColor: Theme.onTone
+            Accessible.ignored: true
+        }
+        Flow {
+            id: actions
+            width: parent.width
+            spacing: 8
+        }
+    }
+    IconButton {
+        anchors { right: parent.right; top: parent.top; margins: 6 }
+        visible: banner.closable
+        symbol: "xmark"
+        text: qsTr("Close")
+        color: Theme.text
+        onClicked: banner.closed()
+    }
+}

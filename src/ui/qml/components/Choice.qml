@@ -1,0 +1,92 @@
+import QtQuick
+import QtQuick.Templates as T
+import Veldmark
+
+// One of several, from a list that drops down.
+T.ComboBox {
+    id: box
+    required property string name // for screen readers
+
+    implicitWidth: Math.min(190, label.implicitWidth + 44)
+    implicitHeight: Theme.control
+    hoverEnabled: true
+    leftPadding: 12
+    rightPadding: 32
+    Accessible.name: name
+
+    contentItem: Text {
+        id: label
+        text: box.displayText
+        font.pixelSize: Theme.bodySize
+        color: Theme.text
+        opacity: box.enabled ? 1 : 0.55
+        verticalAlignment: Text.AlignVCenter
+        elide: Text.ElideRight
+    }
+    indicator: Symbol {
+        x: box.width - width - 10
+        y: (box.height - height) / 2
+        name: "chevron.down"
+        size: 12
+        opacity: box.enabled ? 1 : 0.5
+    }
+    background: Rectangle {
+        radius: Theme.smallRadius
+        color: box.down ? Theme.pressed : Theme.raised
+        border.width: box.hovered && box.enabled ? 1 : 0
+        border.color: Theme.edge
+        FocusRing { shown: box.visualFocus }
+    }
+    delegate: T.ItemDelegate {
+        id: item
+        required property int index
+        required property var modelData
+        width: ListView.view.width
+        height: 34
+        text: modelData
+        highlighted: box.highlightedIndex === index
+        hoverEnabled: true
+        contentItem: Item {
+            Symbol {
+                x: 10
+                anchors.verticalCenter: parent.verticalCenter
+                name: "checkmark"
+                size: 12
+                color: Theme.accent
+                visible: box.currentIndex === item.index
+            }
+            Text {
+                x: 30
+                width: parent.width - 36
+                anchors.verticalCenter: parent.verticalCenter
+                text: item.text
+                elide: Text.ElideRight
+                font.pixelSize: Theme.bodySize
+                color: Theme.text
+            }
+        }
+        background: Rectangle {
+            radius: Theme.smallRadius - 2
+            color: item.highlighted ? Theme.raised : "transparent"
+        }
+    }
+    popup: T.Popup {
+        y: box.height + 4
+        x: box.width - width
+        width: Math.max(box.width, 230)
+        height: Math.min(contentItem.implicitHeight + 8, 300)
+        margins: 8
+        padding: 4
+        contentItem: ListView {
+            clip: true
+            implicitHeight: contentHeight
+            model: box.popup.visible ? box.delegateModel : null
+            currentIndex: box.highlightedIndex
+        }
+        background: Rectangle {
+            radius: Theme.smallRadius
+            color: Theme.surface
+            border.color: Theme.edge
+        }
+    }
+}

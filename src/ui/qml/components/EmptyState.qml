@@ -1,0 +1,36 @@
+import QtQuick
+import QtQuick.Layouts
+import Veldmark
+
+// What is said where there is nothing to show.
+ColumnLayout {
+    id: state
+    required property string symbol
+    required property string title
+    property string text
+
+    spacing: 8
+    Symbol {
+        Layout.alignment: Qt.AlignHCenter
+        name: state.symbol
+        size: 40
+    }
+    Words {
+        Layout.alignment: Qt.AlignHCenter
+        Layout.fillWidth: true
+        Layout.maximumWidth: 420
+        horizontalAlignment: Text.AlignHCenter
+        text: state.title
+        font.pixelSize: Theme.headSize
+        font.weight: Font.DemiBold
+    }
+    Words {
+        Layout.alignment: Qt.AlignHCenter
+        Layout.fillWidth: true
+        Layout.maximumWidth: 420
+        horizontalAlignment: Text.AlignHCenter
+        visible: text !== ""
+        text: state.text
+        color: Theme.quiet
+    }
+}

@@ -1,0 +1,81 @@
+import QtQuick
+import QtQuick.Window
+import QtQuick.Templates as T
+import Veldmark
+
+// The one thing to press: a disc in the colour of the session's state, with Tor's own progress as a
+// ring round it while it connects, and a turning arc where nobody knows how long it takes.
+T.Button {
+    id: button
+    required property int tone
+    required property bool busy
+    required property double progress // 0…1
+    readonly property bool filled: tone !== PanelModel.Accent || !busy
+
+    implicitWidth: 148
+    implicitHeight: 148
+    hoverEnabled: true
+
+    ProgressRing {
+        id: ring
+        anchors.fill: parent
+        visible: button.busy
+        color: Theme.accent
+        track: Theme.pressed
+        value: button.progress > 0 ? button.progress : 0.22
+        Behavior on value { NumberAnimation { duration: Theme.quick; easing.type: Easing.OutCubic } }
+        NumberAnimation on turn {
+            running: button.busy && button.progress <= 0 && button.visible && !ColorScheme.reducedMotion
+                && (button.Window.window?.visible ?? false)
+            from: 0; to: 1
+            duration: 1400
+            loops: Animation.Infinite
+            onStopped: ring.turn = 0
+        }
+    }
+    background: Rectangle {
+        anchors.fill: parent
+        anchors.margins: 12
+        radius: width / 2
+        color: button.busy ? Theme.surface
+             : button.tone === PanelModel.Neutral ? Theme.accent : Theme.tone(button.tone)
+        border.width: button.busy ? 1 : 0
+        border.color: Theme.line
+        opacity: button.enabled || button.busy ? 1 : 0.45
+        scale: button.down && !ColorScheme.reducedMotion ? 0.96 : 1
+        Behavior on color { ColorAnimation { duration: Theme.quick } }
+        Behavior on scale { NumberAnimation { duration: Theme.quick } }
+        Rectangle {
+            anchors.fill: parent
+            anchors.margins: -6
+            radius: width / 2
+            color: "transparent"
+            border.width: button.visualFocus ? 3 : button.hovered && button.enabled ? 2 : 0
+            border.color: button.visualFocus ? Theme.text : Theme.edge
+        }
+    }
+    contentItem: Item {
+        Column {
+            anchors.centerIn: parent
+            spacing: 6
+            Symbol {
+                anchors.horizontalCenter: parent.horizontalCenter
+                name: button.busy && button.enabled ? "xmark" : "power"
+                size: button.busy ? 26 : 40
+                color: caption.color
+            }
+            Text {
+                id: caption
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: 96
+                visible: text !== ""
+                text: button.text
+                font.pixelSize: 13
+                font.weight: Font.DemiBold
+                color: button.busy ? Theme.text : Theme.onTone
+                wrapMode: Text.Wrap
+                horizontalAlignment: Text.AlignHCenter
+            }
+        }
+    }
+}

@@ -1,0 +1,42 @@
+import QtQuick
+import QtQuick.Templates as T
+import Veldmark
+
+T.TextField {
+    id: field
+    implicitWidth: 200
+    implicitHeight: Theme.control
+    leftPadding: 34
+    rightPadding: 10
+    font.pixelSize: Theme.bodySize
+    color: Theme.text
+    selectionColor: Theme.accent
+    selectedTextColor: Theme.onTone
+    verticalAlignment: Text.AlignVCenter
+    selectByMouse: true
+    Accessible.name: placeholderText
+    Keys.onEscapePressed: event => {
+        event.accepted = text !== ""
+        clear()
+    }
+
+    background: Rectangle {
+        radius: Theme.smallRadius
+        color: Theme.raised
+        Symbol {
+            x: 10
+            anchors.verticalCenter: parent.verticalCenter
+            name: "magnifyingglass"
+            size: 14
+        }
+        Text {
+            x: 34
+            anchors.verticalCenter: parent.verticalCenter
+            visible: field.text === "" && field.preeditText === ""
+            text: field.placeholderText
+            font: field.font
+            color: Theme.quiet
+        }
+        FocusRing { shown: field.activeFocus }
+    }
+}

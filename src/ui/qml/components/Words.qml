@@ -1,0 +1,12 @@
+import QtQuick
+import Veldmark
+
+// Text. Wraps rather than being cut.
+Text {
+    font.pixelSize: Theme.bodySize
+    color: Theme.text
+    wrapMode: Text.Wrap
+    textFormat: Text.PlainText
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
+}

@@ -1,0 +1,82 @@
+import QtQuick
+import QtQuick.Templates as T
+import Veldmark
+
+// The lines. Dragging over them, or Shift with the arrow keys, selects whole lines; Ctrl-C copies
+// them. Following ends when the reader scrolls up and begins again at the end.
+ListView {
+    id: list
+    required property LogModel log
+    property bool follow: true
+    property int anchor: -1
+    property int head: -1
+    readonly property int firstSelected: Math.min(anchor, head)
+    readonly property int lastSelected: Math.max(anchor, head)
+
+    clip: true
+    focus: true
+    activeFocusOnTab: true
+    boundsBehavior: Flickable.StopAtBounds
+    interactive: false
+    reuseItems: true
+    model: log
+    T.ScrollBar.vertical: ScrollBar { id: bar; onPressedChanged: if (pressed) list.follow = false }
+    Accessible.role: Accessible.List
+    Accessible.name: qsTr("Tor Log")
+
+    onCountChanged: if (follow) positionViewAtEnd()
+    onFollowChanged: if (follow) positionViewAtEnd()
+    onHeightChanged: if (follow) positionViewAtEnd()
+
+    function scrollBy(distance: double) {
+        contentY = Math.max(originY, Math.min(originY + contentHeight - height, contentY + distance))
+        follow = atYEnd || contentY >= originY + contentHeight - height - 2
+    }
+    function move(row: int, extend: bool) {
+        head = Math.max(0, Math.min(count - 1, row))
+        if (!extend)
+            anchor = head
+        follow = false
+        positionViewAtIndex(head, ListView.Contain)
+    }
+    Keys.onPressed: event => {
+        const extend = event.modifiers & Qt.ShiftModifier
+        event.accepted = true
+        if (event.matches(StandardKey.Copy) && anchor >= 0)
+            log.copy(firstSelected, lastSelected)
+        else if (event.matches(StandardKey.SelectAll)) {
+            anchor = 0
+            head = count - 1
+        } else if (event.key === Qt.Key_Up) move(head < 0 ? count - 1 : head - 1, extend)
+        else if (event.key === Qt.Key_Down) move(head < 0 ? 0 : head + 1, extend)
+        else if (event.key === Qt.Key_PageUp) scrollBy(-height * 0.9)
+        else if (event.key === Qt.Key_PageDown) scrollBy(height * 0.9)
+        else if (event.key === Qt.Key_Home) move(0, extend)
+        else if (event.key === Qt.Key_End) { move(count - 1, extend); follow = true }
+        else event.accepted = false
+    }
+
+    delegate: LogRow {
+        selected: index >= list.firstSelected && index <= list.lastSelected && list.anchor >= 0
+        focused: list.activeFocus && index === list.head
+    }
+    MouseArea {
+        anchors { fill: parent; rightMargin: bar.visible ? bar.width : 0 }
+        cursorShape: Qt.IBeamCursor
+        preventStealing: true
+        function rowAt(y: double): int { return list.indexAt(10, list.contentY + Math.max(0, Math.min(list.height - 1, y))) }
+        onPressed: mouse => {
+            list.forceActiveFocus()
+            const row = rowAt(mouse.y)
+            list.head = row
+            if (!(mouse.modifiers & Qt.ShiftModifier) || list.anchor < 0)
+                list.anchor = row
+        }
+        onPositionChanged: mouse => {
+            const row = rowAt(mouse.y)
+            if (row >= 0)
+                list.head = row
+        }
+        onWheel: wheel => list.scrollBy(-(wheel.pixelDelta.y !== 0 ? wheel.pixelDelta.y : wheel.angleDelta.y * 0.5))
+    }
+}

@@ -1,0 +1,105 @@
+import QtQuick
+import QtQuick.Window
+import QtQuick.Layouts
+import Veldmark
+
+Window {
+    id: window
+    required property LogModel model
+
+    title: qsTr("Tor Log")
+    width: 900
+    height: 540
+    minimumWidth: 640
+    minimumHeight: 420
+    color: Theme.ground
+    Component.onCompleted: model.open()
+    onClosing: model.close()
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 0
+        RowLayout {
+            Layout.fillWidth: true
+            Layout.margins: 16
+            Layout.bottomMargin: 10
+            ColumnLayout {
+                Layout.fillWidth: true
+                spacing: 2
+                Words {
+                    text: qsTr("Tor Log")
+                    font.pixelSize: Theme.titleSize
+                    font.weight: Font.DemiBold
+                    Accessible.role: Accessible.Heading
+                }
+                Words {
+                    Layout.fillWidth: true
+                    text: window.model.subtitle
+                    font.pixelSize: Theme.smallSize
+                    color: Theme.quiet
+                }
+            }
+            SearchField {
+                id: filter
+                placeholderText: qsTr("Filter")
+                onTextChanged: window.model.search = text
+            }
+        }
+        RowLayout {
+            Layout.fillWidth: true
+            Layout.leftMargin: 16
+            Layout.rightMargin: 16
+            Layout.bottomMargin: 12
+            spacing: 8
+            ToggleButton {
+                text: window.model.problemsLabel
+                symbol: "exclamationmark.triangle.fill"
+                on: window.model.problemsOnly
+                onWanted: on => window.model.problemsOnly = on
+            }
+            ToggleButton {
+                text: qsTr("Follow")
+                help: qsTr("Keep the newest lines in view")
+                symbol: "arrow.down.circle.fill"
+                on: lines.follow
+                onWanted: on => lines.follow = on
+            }
+            Item { Layout.fillWidth: true }
+            PushButton {
+                text: qsTr("Copy")
+                symbol: "doc.on.doc"
+                help: qsTr("Copy the lines shown")
+                enabled: window.model.hasRows
+                onClicked: window.model.copy()
+            }
+            PushButton {
+                text: qsTr("Show")
+                symbol: "doc.text.magnifyingglass"
+                help: window.model.showHelp
+                onClicked: window.model.reveal()
+            }
+        }
+        Rectangle {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            color: Theme.surface
+            Divider { anchors { left: parent.left; right: parent.right } }
+            LogLines {
+                id: lines
+                anchors { fill: parent; topMargin: 1 }
+                visible: window.model.hasRows
+                log: window.model
+            }
+            EmptyState {
+                anchors.centerIn: parent
+                width: parent.width - 48
+                visible: !window.model.hasRows
+                symbol: window.model.emptySymbol
+                title: window.model.emptyTitle
+                text: window.model.emptyText
+            }
+        }
+    }
+    Shortcut { sequences: [StandardKey.Find]; onActivated: filter.forceActiveFocus() }
+    Shortcut { sequences: [StandardKey.Close]; onActivated: window.close() }
+}

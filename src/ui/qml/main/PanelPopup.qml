@@ -1,0 +1,33 @@
+import QtQuick
+import QtQuick.Window
+import Veldmark
+
+// The panel below the tray's icon. Goes when another window is used, or with Escape.
+Window {
+    id: window
+    required property PanelModel panelModel
+    required property OptionsModel optionsModel
+    signal windowWanted(string name)
+    signal chooserWanted()
+    signal quitWanted()
+
+    title: qsTr("Veldmark")
+    flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
+    width: 380
+    height: Math.min(panel.wantedHeight, 720, Screen.desktopAvailableHeight - 16)
+    color: Theme.ground
+    onActiveChanged: if (!active) hide()
+
+    Panel {
+        id: panel
+        anchors.fill: parent
+        model: window.panelModel
+        options: window.optionsModel
+        border.color: Theme.edge
+        focus: true
+        Keys.onEscapePressed: window.hide()
+        onWindowWanted: name => window.windowWanted(name)
+        onChooserWanted: window.chooserWanted()
+        onQuitWanted: window.quitWanted()
+    }
+}

@@ -1,0 +1,73 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import Veldmark
+
+Sheet {
+    id: sheet
+    required property OptionsModel model
+    signal chooserWanted()
+
+    title: qsTr("App exceptions")
+
+    Words {
+        Layout.fillWidth: true
+        textFormat: Text.StyledText
+        text: qsTr("In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with <b>Open without Tor</b> (not from the Dock) so Veldmark can tag them. A running copy is quit and reopened.")
+        color: Theme.quiet
+    }
+    Words {
+        Layout.fillWidth: true
+        visible: list.count === 0
+        text: qsTr("No apps yet. Add Zoom, Discord, a game…")
+    }
+    Words {
+        Layout.fillWidth: true
+        visible: !sheet.model.canLaunchBypassed && list.count > 0
+        text: qsTr("Connect in strict mode to open apps without Tor")
+        color: Theme.warning
+    }
+    ListView {
+        id: list
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+        Layout.preferredHeight: Math.min(contentHeight, 280)
+        visible: count > 0
+        clip: true
+        spacing: 6
+        boundsBehavior: Flickable.StopAtBounds
+        T.ScrollBar.vertical: ScrollBar {}
+        model: sheet.model.applications
+        delegate: RowLayout {
+            id: row
+            required property string modelData
+            width: ListView.view.width
+            Words {
+                Layout.fillWidth: true
+                text: sheet.model.applicationName(row.modelData)
+            }
+            PushButton {
+                text: qsTr("Open without Tor")
+                enabled: sheet.model.canLaunchBypassed
+                onClicked: sheet.model.launchBypassed(row.modelData)
+            }
+            IconButton {
+                symbol: "xmark"
+                text: qsTr("Remove")
+                onClicked: sheet.model.removeApplication(row.modelData)
+            }
+        }
+    }
+    buttons: [
+        PushButton {
+            text: qsTr("Done")
+            primary: true
+            onClicked: sheet.close()
+        },
+        PushButton {
+            text: qsTr("Add…")
+            symbol: "plus"
+            onClicked: sheet.chooserWanted()
+        }
+    ]
+}

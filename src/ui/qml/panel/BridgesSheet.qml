@@ -1,0 +1,78 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import Veldmark
+
+Sheet {
+    id: sheet
+    required property OptionsModel model
+
+    title: qsTr("Custom bridges")
+    onAboutToShow: {
+        editor.text = model.customBridges
+        editor.forceActiveFocus()
+    }
+
+    Words {
+        Layout.fillWidth: true
+        text: qsTr("One bridge per line. Ask the Tor Project for bridges on its bridges page, by e-mail or through its Telegram bot, or use those of someone you trust. obfs4, webtunnel, Snowflake, meek and plain bridges are supported.")
+        color: Theme.quiet
+    }
+    Rectangle {
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+        Layout.preferredHeight: 180
+        Layout.minimumHeight: 80
+        radius: Theme.smallRadius
+        color: Theme.ground
+        border.color: editor.activeFocus ? Theme.accent : Theme.edge
+        border.width: editor.activeFocus ? 2 : 1
+        Flickable {
+            anchors { fill: parent; margins: 2 }
+            clip: true
+            contentWidth: width
+            contentHeight: editor.implicitHeight
+            boundsBehavior: Flickable.StopAtBounds
+            T.ScrollBar.vertical: ScrollBar {}
+            T.TextArea.flickable: T.TextArea {
+                id: editor
+                padding: 10
+                wrapMode: Text.WrapAnywhere
+                font.pixelSize: 13
+                font.family: Theme.monospaced
+                color: Theme.text
+                selectionColor: Theme.accent
+                selectedTextColor: Theme.onTone
+                selectByMouse: true
+                Accessible.name: qsTr("Custom bridges")
+                KeyNavigation.priority: KeyNavigation.BeforeItem
+                KeyNavigation.tab: save
+            }
+        }
+    }
+    RowLayout {
+        visible: warning.text !== ""
+        Symbol { name: "exclamationmark.triangle.fill"; color: Theme.warning }
+        Words {
+            id: warning
+            Layout.fillWidth: true
+            text: sheet.model.bridgeWarning(editor.text)
+            color: Theme.warning
+        }
+    }
+    buttons: [
+        PushButton {
+            id: save
+            text: qsTr("Save")
+            primary: true
+            onClicked: {
+                sheet.model.saveCustomBridges(editor.text)
+                sheet.close()
+            }
+        },
+        PushButton {
+            text: qsTr("Cancel")
+            onClicked: sheet.close()
+        }
+    ]
+}

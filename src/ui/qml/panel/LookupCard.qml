@@ -1,0 +1,50 @@
+import QtQuick
+import QtQuick.Layouts
+import Veldmark
+
+// Look-ups that can go around Tor, and what to do about it.
+Card {
+    id: card
+    required property PanelModel model
+    fill: Theme.dangerGround
+
+    RowLayout {
+        Layout.fillWidth: true
+        spacing: 10
+        Symbol { Layout.alignment: Qt.AlignTop; name: "exclamationmark.triangle.fill"; size: 18; color: Theme.danger }
+        Words {
+            Layout.fillWidth: true
+            text: qsTr("Lookups can go around Tor")
+            font.weight: Font.DemiBold
+            Accessible.role: Accessible.Heading
+        }
+    }
+    Repeater {
+        model: card.model.leakingResolvers
+        Words {
+            required property string modelData
+            Layout.fillWidth: true
+            text: modelData
+            font.pixelSize: Theme.smallSize
+            wrapMode: Text.WrapAnywhere
+        }
+    }
+    Words {
+        visible: text !== ""
+        text: card.model.moreResolvers
+        font.pixelSize: Theme.smallSize
+    }
+    RowLayout {
+        spacing: 8
+        PushButton {
+            text: qsTr("Fix DNS")
+            primary: true
+            tone: Theme.danger
+            onClicked: card.model.fixDNS()
+        }
+        PushButton {
+            text: qsTr("Re-test")
+            onClicked: card.model.retestDNS()
+        }
+    }
+}

@@ -1,0 +1,108 @@
+import QtQuick
+import QtQuick.Layouts
+import Veldmark
+
+// The options of the connection. Those that hold for a whole connection are locked while it lasts.
+Card {
+    id: card
+    required property OptionsModel model
+    signal bridgesWanted()
+    signal applicationsWanted()
+
+    title: qsTr("Options")
+    contentSpacing: 12
+
+    RowLayout {
+        visible: card.model.locked
+        spacing: 8
+        Symbol { name: "lock.fill"; size: 13 }
+        Words {
+            Layout.fillWidth: true
+            text: qsTr("Disconnect to change")
+            font.pixelSize: Theme.smallSize
+            color: Theme.quiet
+        }
+    }
+    SwitchRow {
+        symbol: "lock.shield.fill"
+        title: qsTr("Strict mode")
+        subtitle: qsTr("Kill switch: block anything not using Tor")
+        help: qsTr("Blocks every connection that doesn't go through Tor, including UDP and IPv6. Apps that ignore proxy settings won't connect at all instead of leaking.")
+        on: card.model.strictMode
+        enabled: !card.model.locked
+        onWanted: on => card.model.strictMode = on
+    }
+    SwitchRow {
+        symbol: "wifi"
+        title: qsTr("Allow local network")
+        on: card.model.allowLocalNetwork
+        enabled: !card.model.locked
+        onWanted: on => card.model.allowLocalNetwork = on
+    }
+    ChoiceRow {
+        symbol: "mappin"
+        title: qsTr("Exit country")
+        note: card.model.exitWarning !== "" ? card.model.exitWarning : qsTr("Where your traffic appears to come from")
+        noteColor: card.model.exitWarning !== "" ? Theme.warning : Theme.quiet
+        enabled: !card.model.locked
+        names: card.model.exitNames
+        current: card.model.exitIndex
+        onChosen: index => card.model.exitIndex = index
+    }
+    ChoiceRow {
+        symbol: "point.3.connected.trianglepath.dotted"
+        title: qsTr("Bridges")
+        note: card.model.bridgeNote
+        noteColor: card.model.bridgeNoteIsWarning ? Theme.warning : Theme.quiet
+        enabled: !card.model.locked
+        names: card.model.bridgeNames
+        current: card.model.bridgeIndex
+        onChosen: index => card.model.bridgeIndex = index
+    }
+    RowLayout {
+        Layout.leftMargin: 30
+        visible: card.model.needsDownload || card.model.customChosen || card.model.downloadText !== ""
+        spacing: 8
+        PushButton {
+            visible: card.model.needsDownload
+            text: qsTr("Download")
+            symbol: "arrow.down.circle.fill"
+            help: qsTr("Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges")
+            enabled: card.model.canDownload
+            onClicked: card.model.download()
+        }
+        PushButton {
+            visible: card.model.customChosen
+            text: qsTr("Edit…")
+            help: qsTr("Custom bridges")
+            enabled: !card.model.locked
+            onClicked: card.bridgesWanted()
+        }
+        Words {
+            Layout.fillWidth: true
+            text: card.model.downloadText
+            font.pixelSize: Theme.smallSize
+            color: Theme.quiet
+        }
+    }
+    SwitchRow {
+        symbol: "gauge"
+        title: qsTr("Optimize for speed")
+        subtitle: qsTr("New circuits for everything")
+        on: card.model.optimizeSpeed
+        enabled: !card.model.locked
+        onWanted: on => card.model.optimizeSpeed = on
+    }
+    SwitchRow {
+        symbol: "terminal"
+        title: qsTr("Terminal mode")
+        on: card.model.terminalMode
+        onWanted: on => card.model.terminalMode = on
+    }
+    LinkRow {
+        symbol: "square.grid.2x2"
+        title: qsTr("App exceptions")
+        value: card.model.applicationCount
+        onClicked: card.applicationsWanted()
+    }
+}

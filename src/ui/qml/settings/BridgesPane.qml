@@ -1,0 +1,44 @@
+import QtQuick
+import QtQuick.Layouts
+import Veldmark
+
+Pane {
+    id: pane
+    required property SettingsModel model
+    title: qsTr("Bridges")
+    subtitle: qsTr("Programs that disguise your Tor connection")
+
+    Card {
+        Layout.fillWidth: true
+        contentSpacing: 14
+        ProgramRow { title: "lyrebird"; found: pane.model.lyrebird; onComputer: pane.model.onComputer }
+        Divider {}
+        ProgramRow { title: "snowflake-client"; found: pane.model.snowflake; onComputer: pane.model.onComputer }
+        Divider {}
+        ProgramRow { title: "webtunnel-client"; found: pane.model.webtunnel; onComputer: pane.model.onComputer }
+    }
+    Card {
+        Layout.fillWidth: true
+        contentSpacing: 14
+        SettingRow {
+            symbol: "point.3.connected.trianglepath.dotted"
+            title: qsTr("Built-in bridges")
+            subtitle: qsTr("Bridge addresses shipped with Tor")
+        }
+        Note { text: pane.model.bridgeSource }
+        Divider {}
+        SettingRow {
+            symbol: "arrow.down.circle.fill"
+            title: qsTr("Tor Expert Bundle")
+            subtitle: pane.model.bundleStatus
+            PushButton {
+                text: pane.model.bundleLoaded ? qsTr("Update") : qsTr("Download")
+                enabled: pane.model.canDownload
+                help: qsTr("Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges")
+                onClicked: pane.model.download()
+            }
+        }
+        Note { text: pane.model.downloadText }
+        Note { text: qsTr("Fetched over HTTPS and checked against the Tor Project's signature.") }
+    }
+}

@@ -1,0 +1,18 @@
+import QtQuick
+import QtQuick.Layouts
+import Veldmark
+
+// Why something in this group did not work.
+RowLayout {
+    property alias text: words.text
+    Layout.fillWidth: true
+    visible: text !== ""
+    spacing: 8
+    Symbol { name: "exclamationmark.triangle.fill"; color: Theme.danger; Layout.alignment: Qt.AlignTop }
+    Words {
+        id: words
+        Layout.fillWidth: true
+        color: Theme.danger
+        font.pixelSize: Theme.smallSize
+    }
+}

@@ -1,0 +1,11 @@
+import QtQuick
+import QtQuick.Layouts
+import Veldmark
+
+// An explanation below the rows of a group.
+Words {
+    Layout.fillWidth: true
+    font.pixelSize: Theme.smallSize
+    color: Theme.quiet
+    visible: text !== ""
+}

@@ -1,0 +1,38 @@
+import QtQuick
+import QtQuick.Layouts
+import Veldmark
+
+Pane {
+    id: pane
+    required property SettingsModel model
+    signal chooserWanted()
+    title: qsTr("Tor")
+    subtitle: qsTr("The Tor program Veldmark runs")
+
+    Card {
+        Layout.fillWidth: true
+        contentSpacing: 14
+        SettingRow {
+            symbol: "network"
+            title: qsTr("Program")
+            subtitle: pane.model.torPlace
+            StatusPill {
+                text: pane.model.torStatus
+                tone: pane.model.torFound ? PanelModel.Good : PanelModel.Danger
+                symbol: pane.model.torFound ? "checkmark.circle.fill" : "xmark.circle.fill"
+            }
+        }
+        Divider {}
+        GridLayout {
+            Layout.fillWidth: true
+            columns: width < 430 ? 1 : 2
+            Words { Layout.fillWidth: true; text: qsTr("Location") }
+            SegmentedControl {
+                name: qsTr("Location")
+                names: [qsTr("Automatic"), qsTr("Custom location")]
+                current: pane.model.torCustom ? 1 : 0
+                onChosen: index => index === 0 ? pane.model.chooseTor("") : pane.chooserWanted()
+            }
+        }
+    }
+}

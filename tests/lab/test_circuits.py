@@ -1,0 +1,139 @@
+"""Circuits of real tor as the program shows them, and what a user can do about them."""
+
+import contextlib
+import json
+import re
+import sys
+import time
+import unittest
+from pathlib import Path
+
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(Path(__file__).resolve().parent))
+
+from test_connect import SKIPPED, LabCase  # noqa: E402
+from veldlab import topology as at  # noqa: E402
+
+COUNTRIES = {node.address: node.country for node in at.NODES}
+SLOW_MS = 1501
+
+
+class Circuits(LabCase):
+    def connected(self):
+        session = self.enterContext(self.product.session())
+        session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"] and s["exitIP"])
+        return session
+
+    def circuits(self):
+        return json.loads(self.product.run_verb("circuits", "--json", check=True).stdout)
+
+    def test_each_circuit_shows_three_relays_with_address_and_country(self):
+        self.connected()
+        with self.download(at.WEB_HOSTS[0]):
+            self.circuits_to(at.WEB_ADDRESS)
+            circuits = self.circuits()
+        for circuit in circuits:
+            self.assertIn(circuit["purpose"], ("GENERAL", "CONFLUX"))
+            self.assertGreaterEqual(len(circuit["hops"]), 2, "a directory fetch is no path for the user's traffic")
+            self.assertRegex(circuit["created"], r"^\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d\.\d{3}Z$")
+            for hop in circuit["hops"]:
+                self.assertEqual(COUNTRIES.get(hop["ip"], "unknown"), hop["country"], hop)
+                self.assertRegex(hop["fingerprint"], "^[0-9A-F]{40}$")
+                self.assertEqual(at.node_named(hop["nickname"]).address, hop["ip"])
+        # Some were made in a moment that is not a whole second.
+        self.assertTrue(any(not circuit["created"].endswith(".000Z") for circuit in circuits))
+
+    def test_a_site_is_shown_on_both_legs_of_a_conflux_set(self):
+        self.connected()
+        with self.download(at.WEB_HOSTS[0]):
+            carrying = self.circuits_to(at.WEB_ADDRESS)
+        legs = [circuit for circuit in carrying if circuit["purpose"] == "CONFLUX"]
+        self.assertEqual(len(legs), 2, carrying)
+        self.assertEqual(len({leg["hops"][-1]["fingerprint"] for leg in legs}), 1, "the legs have one exit")
+        for leg in legs:
+            self.assertIn(leg["hops"][-1]["ip"], self.lab.tor.exits)
+            self.assertGreater(leg["rtt"], 0)
+
+    def test_a_site_stays_shown_when_its_stream_has_closed(self):
+        self.connected()
+        with self.download(at.WEB_HOSTS[0]):
+            before = {circuit["id"] for circuit in self.circuits_to(at.WEB_ADDRESS)}
+        after = {circuit["id"] for circuit in self.circuits() if at.WEB_ADDRESS in circuit["sites"]}
+        self.assertTrue(before & after)
+
+    @contextlib.contextmanager
+    def arrived_download(self):
+        """A download that the web server has begun to answer."""
+        seen = len(self.lab.world.web_log(service="web"))
+        with self.download(at.WEB_HOSTS[0]):
+            deadline = time.monotonic() + 30
+            while len(self.lab.world.web_log(service="web")) == seen:
+                self.assertLess(time.monotonic(), deadline, "the download did not begin")
+                time.sleep(0.05)
+            yield
+
+    def circuits_with_site(self):
+        return {circuit["id"] for circuit in self.circuits() if at.WEB_ADDRESS in circuit["sites"]}
+
+    def test_a_new_identity_takes_new_circuits(self):
+        self.connected()
+        with self.arrived_download():
+            first = self.circuits_with_site()
+            self.assertTrue(first)
+            with self.arrived_download():  # without a new identity the next request goes the same way
+                self.assertEqual(self.circuits_with_site(), first)
+                self.product.run_verb("new-identity", check=True)
+                with self.arrived_download():
+                    self.assertTrue(self.circuits_with_site() - first, "the new stream has no circuit of its own")
+
+    def test_a_circuit_can_be_closed(self):
+        self.connected()
+        with self.download(at.WEB_HOSTS[0]):
+            target = self.circuits_to(at.WEB_ADDRESS)[0]["id"]
+            self.product.run_verb("close-circuit", target, check=True)
+            self.assertNotIn(target, {circuit["id"] for circuit in self.circuits()})
+        for wrong in (target, "99999", "12; SIGNAL HALT", "1\r\nSIGNAL HALT", ""):
+            with self.subTest(id=wrong):
+                refused = self.product.run_verb("close-circuit", wrong)
+                self.assertEqual(refused.returncode, 1)
+                self.assertRegex(refused.stderr, r"^veldmarkctl: There is no circuit \".*\"\.\n$")
+        self.assertTrue(self.through_tor()["IsTor"])
+
+
+class Speed(LabCase):
+    def test_a_slow_path_is_left_for_a_faster_one(self):
+        self.set("optimizeSpeed", "true")
+        with self.product.session(connect=False) as session:
+            session.wait_phase("disconnected")
+            with self.lab.netem(delay_ms=500):
+                connecting = self.enterContext(
+                    self.lab.host.popen([self.product.ctl, "connect"], stdout=-3, stderr=-3))
+                state = session.wait(lambda s: (s["optimizeStatus"] or "").startswith("Slow path"), 120)
+                self.assertGreaterEqual(int(re.fullmatch(r"Slow path \((\d+) ms\), finding a faster one…",
+                                                         state["optimizeStatus"])[1]), SLOW_MS)
+                self.assertGreaterEqual(state["latencyMs"], SLOW_MS)
+            state = session.wait(lambda s: not s["isOptimizing"], 60)
+            self.assertLess(state["latencyMs"], SLOW_MS)
+            self.assertIsNone(state["optimizeStatus"])
+            self.assertEqual(connecting.wait(), 0)
+            self.assertEqual(session.interrupt(), 0, session.output)
+        self.assert_restored()
+
+    def test_a_fast_path_is_kept(self):
+        self.set("optimizeSpeed", "true")
+        seen = []
+        with self.product.session() as session:
+            state = session.wait(lambda s: seen.append(s["optimizeStatus"]) or
+                                 (s["phase"] == "connected" and not s["isChecking"] and s["exitIP"]))
+            self.assertLess(state["latencyMs"], SLOW_MS)
+            self.assertEqual(set(seen), {None})
+        self.assert_restored()
+
+
+if __name__ == "__main__":
+    from veldlab import requirements
+    reason = requirements.missing()
+    if reason:
+        print(f"skipped: {reason}")
+        sys.exit(SKIPPED)
+    unittest.main(verbosity=2)

@@ -1,0 +1,133 @@
+"""The counters and Tor's log while a session runs, as the shipped program tells them."""
+
+import re
+import subprocess
+import sys
+import time
+import unittest
+from pathlib import Path
+
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(Path(__file__).resolve().parent))
+
+from test_connect import SKIPPED, LabCase  # noqa: E402
+from veldlab import shell  # noqa: E402
+from veldlab import topology as at  # noqa: E402
+
+AMOUNT = 3_000_000
+NOTICES = "/var/lib/veldmark/run/notices.log"
+STARTUP = "/var/lib/veldmark/run/start.out"
+
+
+class Counters(LabCase):
+    def connected(self):
+        session = self.enterContext(self.product.session())
+        session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"] and s["bytesRead"] > 0)
+        return session
+
+    def test_they_move_with_the_traffic(self):
+        session = self.connected()
+        before = self.product.status()
+        self.lab.host.run(["curl", "-sS", "-o", "/dev/null", "--proxy", "socks5h://127.0.0.1:9050",
+                           f"http://{at.WEB_HOSTS[0]}/bytes/{AMOUNT}"], check=True)
+        after = session.wait(lambda s: s["bytesRead"] - before["bytesRead"] >= AMOUNT, 15)
+        self.assertLess(after["bytesRead"] - before["bytesRead"], 3 * AMOUNT)
+        self.assertGreater(after["bytesWritten"], before["bytesWritten"])
+
+    def test_a_dead_tor_is_noticed_after_three_failed_reads(self):
+        session = self.connected()
+        moment = time.monotonic()
+        self.kill_tor()
+        session.wait_phase("stale")
+        elapsed = time.monotonic() - moment
+        self.assertGreater(elapsed, 3.5)  # the third read after the death is 4 to 6 seconds later
+        self.assertLess(elapsed, 12)
+
+    def test_a_tor_that_hangs_keeps_nobody_waiting(self):
+        session = self.connected()
+        self.kill_tor("STOP")
+        self.addCleanup(self.lab.host.run, ["pkill", "-CONT", "-u", "_veldmark"])
+        asked = self.product.run_verb("circuits", timeout=60)  # under way while the monitor gives tor up
+        self.assertEqual((asked.returncode, asked.stdout), (1, ""))
+        self.assertEqual(len(asked.stderr.splitlines()), 1, asked.stderr)
+        session.wait_phase("stale")
+
+
+class Log(LabCase):
+    def test_it_shows_how_tor_started(self):
+        self.enterContext(self.product.session()).wait_phase("connected")
+        shown = self.product.run_verb("log", check=True)
+        self.assertRegex(shown.stdout, r"(?m)^[A-Z][a-z]{2} [ \d]\d [\d:.]+ \[notice\] Bootstrapped 100% \(done\): Done$")
+        self.assertNotIn("\x1b", shown.stdout)
+        lines = shown.stdout.splitlines()
+        for line in self.lab.host.read(NOTICES).splitlines():
+            self.assertEqual(lines.count(line.strip()), 1, line)  # also those that stand in both files
+        for line in self.lab.host.read(STARTUP).splitlines():
+            if line.strip():
+                self.assertIn(line.strip(), lines)
+
+    def test_another_users_log_is_closed(self):
+        self.enterContext(self.product.session()).wait_phase("connected")
+        refused = self.lab.host.run([self.product.ctl, "log"], user="alice")
+        self.assertEqual((refused.returncode, refused.stdout), (1, ""))
+        self.assertTrue(refused.stderr.startswith("veldmarkctl: Can't read Tor's log: "), refused.stderr)
+
+    def test_problems_alone(self):
+        self.enterContext(self.product.session()).wait_phase("connected")
+        every = self.product.run_verb("log", check=True).stdout.splitlines()
+        problems = self.product.run_verb("log", "--problems", check=True).stdout.splitlines()
+        self.assertEqual([line for line in problems if "[notice]" in line], [])
+        self.assertEqual([line for line in every if re.search(r"\[(warn|err)\]", line)],
+                         [line for line in problems if re.search(r"\[(warn|err)\]", line)])
+
+    def test_a_tor_that_cannot_start_shows_its_reason(self):
+        self.lab.host.write("/usr/local/bin/broken-tor",
+                            "#!/bin/sh\ncase \" $* \" in *hash-password*|*verify-config*) exec /usr/bin/tor \"$@\";; esac\n"
+                            "echo 'Nov 16 00:41:07.123 [err] The clock says it is yesterday.'; exit 1\n", mode=0o755)
+        self.addCleanup(self.lab.host.run, ["rm", "-f", "/usr/local/bin/broken-tor"])
+        self.set("customTorPath", "/usr/local/bin/broken-tor")
+        with self.product.session() as session:
+            self.assertEqual(session.process.wait(30), 1)
+        problems = self.product.run_verb("log", "--problems", check=True).stdout
+        self.assertIn("[err] The clock says it is yesterday.", problems)
+
+    def test_colours_are_for_terminals(self):
+        self.enterContext(self.product.session()).wait_phase("connected")
+        self.lab.host.run(["bash", "-c", f"echo 'Nov 16 00:41:07.123 [warn] Guard is down' >>{NOTICES}"], check=True)
+        shell.prepare(self.lab, "root")
+        with shell.Shell(self.lab, "bash", "root") as terminal:
+            self.assertNotIn("\x1b", terminal.run(f"{self.product.ctl} log --problems"))  # TERM=dumb
+            shown = terminal.run(f"TERM=xterm {self.product.ctl} log --problems")
+        self.assertIn("\x1b[33m [warn] Guard is down\x1b[0m", shown)
+        self.assertNotIn("\x1b", self.product.run_verb("log", "--problems", check=True).stdout)
+
+    def test_following_shows_what_comes(self):
+        self.enterContext(self.product.session()).wait_phase("connected")
+        with self.lab.host.popen([self.product.ctl, "log", "--follow"], stdout=subprocess.PIPE, text=True) as follow:
+            try:
+                for line in follow.stdout:
+                    if "Bootstrapped 100%" in line:
+                        break
+                self.lab.host.run(["bash", "-c", f"echo 'Nov 16 00:41:07.123 [warn] Guard is down' >>{NOTICES}"], check=True)
+                rest = next(line for line in follow.stdout if "Guard" in line)
+                self.assertEqual(rest, "Nov 16 00:41:07.123 [warn] Guard is down\n")
+                # Rotated: what is new in the new file is shown.
+                self.lab.host.run(["bash", "-c", f"mv {NOTICES} {NOTICES}.1; echo 'Nov 16 00:41:08.000 [notice] Again' >{NOTICES}"], check=True)
+                self.assertTrue(any("Again" in line for line in follow.stdout))
+            finally:
+                follow.terminate()
+
+    def test_no_log_is_said_in_one_line(self):
+        self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run"], check=True)
+        shown = self.product.run_verb("log")
+        self.assertEqual((shown.returncode, shown.stdout), (0, ""))
+        self.assertTrue(shown.stderr.startswith("veldmarkctl: No log yet"), shown.stderr)
+
+
+if __name__ == "__main__":
+    from veldlab import requirements
+    reason = requirements.missing()
+    if reason:
+        print(f"skipped: {reason}")
+        sys.exit(SKIPPED)
+    unittest.main(verbosity=2)

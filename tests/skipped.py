@@ -1,0 +1,23 @@
+#!/usr/bin/python3
+"""Prints each test that a run has skipped, with its reason: skipped.py JUNIT-FILE. CTest itself hides the reasons."""
+
+import re
+import sys
+import xml.etree.ElementTree as ElementTree
+
+REASON = re.compile(r"^(?:SKIP\s*:\s*(?P<case>\S+?)\(.*?\)\s*(?P<qt>.*)|skipped: (?P<own>.*))$", re.MULTILINE)
+
+
+def skipped(path: str):
+    for case in ElementTree.parse(path).iter("testcase"):
+        output = "".join(case.itertext())
+        found = list(REASON.finditer(output))
+        for match in found:
+            yield case.get("name"), match["case"] or "", (match["qt"] or match["own"]).strip()
+        if not found and case.find("skipped") is not None:
+            last = [line for line in output.splitlines() if line.strip()]
+            yield case.get("name"), "", last[-1].strip() if last else "no reason given"
+
+
+for name, part, reason in skipped(sys.argv[1]):
+    print(f"skipped {name}{' ' + part if part else ''}: {reason}")

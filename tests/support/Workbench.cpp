@@ -1,0 +1,310 @@
+#include "support/Workbench.h"
+
+#include "support/NameLookups.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+
+using namespace std::chrono_literals;
+
+namespace veldmark {
+
+namespace {
+
+constexpr uid_t ordinaryUser = 1000; // never root: the prompt is "shown"
+
+PlatformProfile profileBelow(const QString &folder, Workbench::System system)
+{
+    const Places places = Places::below(folder);
+    if (system == Workbench::System::linux)
+        return PlatformProfile::linux(places);
+    PlatformProfile profile = PlatformProfile::macos(places);
+    profile.settingsFile = places.configHome + QStringLiteral("/settings.conf"); // not this computer's store
+    return profile;
+}
+
+// The words of a command line in which every word is in single quotes.
+QStringList unquoted(QString line)
+{
+    line.replace(QLatin1String("\\\""), QLatin1String("\"")).replace(QLatin1String("\\\\"), QLatin1String("\\"));
+    QStringList words;
+    QString word;
+    bool quoted = false;
+    for (qsizetype i = 0; i < line.size(); ++i) {
+        if (line[i] == u'\'')
+            quoted = !quoted;
+        else if (!quoted && line[i] == u'\\' && i + 1 < line.size())
+            word += line[++i];
+        else if (!quoted && line[i] == u' ')
+            words << std::exchange(word, QString());
+        else
+            word += line[i];
+    }
+    return words << word;
+}
+
+QCoro::Task<std::optional<ConnectTime>> noAnswer()
+{
+    co_return std::nullopt;
+}
+
+QCoro::Task<PluggableTransports> answered(PluggableTransports transports)
+{
+    co_return transports;
+}
+
+} // namespace
+
+bool until(const std::function<bool()> &condition)
+{
+    QDeadlineTimer limit(10s);
+    while (!condition()) {
+        if (limit.hasExpired())
+            return false;
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 2);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    return true;
+}
+
+void settle()
+{
+    for (int round = 0; round < 50; ++round) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+Workbench::Workbench(System system)
+    : profile(profileBelow(folder.path(), system))
+    , terminal(profile, QStringLiteral("https://check.example/api/ip"))
+    , bridgeProbe([](QString, quint16, std::chrono::milliseconds) { return noAnswer(); })
+{
+    NameLookups::clear();
+    writeFile(profile.torCandidates.constFirst(), {}, true);
+    writeFile(profile.helperCandidates.constFirst(), "the helper", true);
+    QDir().mkpath(profile.places.home);
+    processes.answer = [this](const ScriptedRunner::Call &call) { return run(call); };
+    setBootstrap("PROGRESS=100 TAG=done SUMMARY=\"Done\"");
+    setCounters("1000", "200");
+    tor.reply("SETEVENTS STREAM", "552 Unrecognized event \"STREAM\"\r\n");
+    restart();
+}
+
+// The controller goes first, then whatever still waits is let go while all it touches is alive.
+Workbench::~Workbench()
+{
+    end();
+    processes.hold = nullptr;
+    processes.release();
+    controlPort.reset();
+    settle();
+    clock.advance(24h);
+    socketClock.advance(24h);
+    settle();
+}
+
+void Workbench::restart()
+{
+    m_controller.reset();
+    controlPort = std::make_unique<ControlPort>(socketClock, tor.port());
+    privileged = std::make_unique<PrivilegedRunner>(profile, processes, ordinaryUser);
+    settings = std::make_unique<SettingsStore>(profile);
+    m_controller = std::make_unique<TorController>(TorController::Services{
+        .profile = profile,
+        .settings = *settings,
+        .clock = clock,
+        .processes = processes,
+        .privileged = *privileged,
+        .controlPort = *controlPort,
+        .probe = probe,
+        .resolvers = resolvers,
+        .terminal = terminal,
+        .locateTransports = [this] {
+            ++searches;
+            return answered(transports);
+        },
+        .bridgeProbe = [this](QString host, quint16 port, std::chrono::milliseconds limit) {
+            return bridgeProbe(std::move(host), port, limit);
+        },
+    });
+    settle();
+}
+
+bool Workbench::connect()
+{
+    const auto connecting = m_controller->connect();
+    return finished(connecting) && m_controller->phase() == ConnectionPhase::connected;
+}
+
+void Workbench::disconnect()
+{
+    const auto disconnecting = m_controller->disconnect();
+    finished(disconnecting);
+}
+
+bool Workbench::finished(const QCoro::Task<void> &task)
+{
+    return until([&task] { return task.isReady(); });
+}
+
+bool Workbench::tick()
+{
+    const std::size_t sleepers = clock.sleepers();
+    clock.advance(2s);
+    return until([this, sleepers] {
+        return clock.sleepers() >= sleepers || m_controller->phase() != ConnectionPhase::connected;
+    });
+}
+
+QStringList Workbench::helperArguments(const ScriptedRunner::Call &call) const
+{
+    if (call.executable == profile.sudo)
+        return call.arguments.mid(2); // -n, script
+    if (call.executable != profile.promptProgram)
+        return {};
+    if (profile.promptKind == PromptKind::PolicyKit)
+        return call.arguments.mid(2); // shell, script
+    const QString source = call.arguments.value(1);
+    const QString before = QStringLiteral("do shell script \"");
+    const qsizetype end = source.indexOf(QLatin1String("\" with prompt \""));
+    return unquoted(source.mid(before.size(), end - before.size())).mid(2);
+}
+
+std::vector<QStringList> Workbench::helperRuns() const
+{
+    std::vector<QStringList> runs;
+    for (const auto &call : processes.calls) {
+        if (const QStringList arguments = helperArguments(call); !arguments.isEmpty())
+            runs.push_back(arguments);
+    }
+    return runs;
+}
+
+QStringList Workbench::lastHelperRun(const QString &verb) const
+{
+    const auto runs = helperRuns();
+    const auto run = std::find_if(runs.rbegin(), runs.rend(), [&verb](const QStringList &arguments) {
+        return arguments.constFirst() == verb;
+    });
+    return run == runs.rend() ? QStringList() : *run;
+}
+
+int Workbench::helperRunCount(const QString &verb) const
+{
+    const auto runs = helperRuns();
+    return static_cast<int>(std::count_if(runs.begin(), runs.end(), [&verb](const QStringList &arguments) {
+        return arguments.constFirst() == verb;
+    }));
+}
+
+ProcessResult Workbench::refusal(const QString &message) const
+{
+    return profile.promptKind == PromptKind::PolicyKit
+        ? ProcessResult{1, {}, QStringLiteral("ERROR: %1\n").arg(message)}
+        : ProcessResult{1, {}, QStringLiteral("0:99: execution error: ERROR: %1 (1)\n").arg(message)};
+}
+
+void Workbench::failHelper(const QString &verb, const QString &message)
+{
+    m_refusals[verb] = refusal(message);
+}
+
+void Workbench::cancelPrompt(const QString &verb)
+{
+    m_refusals[verb] = profile.promptKind == PromptKind::PolicyKit
+        ? ProcessResult{126, {}, QStringLiteral("Error executing command as another user: Request dismissed\n")}
+        : ProcessResult{1, {}, QStringLiteral("0:99: execution error: User canceled. (-128)\n")};
+}
+
+void Workbench::hold(const QString &verb)
+{
+    processes.hold = [this, verb](const ScriptedRunner::Call &call) {
+        return call.arguments.contains(verb) || helperArguments(call).contains(verb);
+    };
+}
+
+Result<ProcessResult, StartError> Workbench::run(const ScriptedRunner::Call &call)
+{
+    if (call.arguments.contains(QStringLiteral("--hash-password"))) {
+        tor.setPassword(call.arguments.constLast());
+        return ProcessResult{0, QStringLiteral("16:0123456789ABCDEF\n"), {}};
+    }
+    const QStringList arguments = helperArguments(call);
+    const QString verb = arguments.value(0);
+    if (const auto refused = m_refusals.find(verb); refused != m_refusals.end())
+        return refused->second;
+    if (verb == QLatin1String("connect"))
+        writeMarker(arguments.at(arguments.indexOf(QStringLiteral("--strict")) + 1) == QLatin1String("1")
+                        ? "strict\n" : "proxy\n");
+    else if (verb == QLatin1String("disconnect"))
+        removeMarker();
+    return ProcessResult{};
+}
+
+void Workbench::writeMarker(const QByteArray &content)
+{
+    writeFile(profile.sessionMarker, content);
+}
+
+void Workbench::removeMarker()
+{
+    QFile::remove(profile.sessionMarker);
+}
+
+bool Workbench::hasMarker() const
+{
+    return QFile::exists(profile.sessionMarker);
+}
+
+void Workbench::writeFile(const QString &path, const QByteArray &content, bool executable) const
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("Workbench: %s", qPrintable(file.errorString()));
+    if (executable)
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+void Workbench::removeTor() const
+{
+    for (const QString &path : profile.torCandidates)
+        QFile::remove(path);
+}
+
+void Workbench::setBootstrap(const QByteArray &fields)
+{
+    tor.reply(bootstrapCommand, "250-status/bootstrap-phase=NOTICE BOOTSTRAP " + fields + "\r\n250 OK\r\n");
+}
+
+void Workbench::setCounters(const QByteArray &read, const QByteArray &written)
+{
+    tor.reply(countersCommand, "250-traffic/read=" + read + "\r\n250-traffic/written=" + written
+                  + "\r\n250 OK\r\n");
+}
+
+QByteArray Workbench::block(const QByteArray &key, const QByteArrayList &lines)
+{
+    QByteArray bytes = "250+" + key + "=\r\n";
+    for (const QByteArray &line : lines)
+        bytes += line + "\r\n";
+    return bytes + ".\r\n250 OK\r\n";
+}
+
+int Workbench::commandCount(const char *command) const
+{
+    return static_cast<int>(tor.commands().count(QString::fromUtf8(command)));
+}
+
+bool Workbench::hears(const char *command, int times)
+{
+    return until([this, command, times] { return commandCount(command) >= times; });
+}
+
+} // namespace veldmark

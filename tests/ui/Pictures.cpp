@@ -1,0 +1,162 @@
+// Draws every state of every window into a folder: what ./build.sh demo leaves, and docs/screenshots.
+#include "Scenes.h"
+#include "Stage.h"
+
+#include <QDir>
+#include <QFont>
+#include <QGuiApplication>
+#include <QTextStream>
+#include <QTranslator>
+
+using namespace veldmark;
+
+namespace {
+
+bool failed = false;
+
+void save(Stage &stage, const QDir &folder, const QString &name)
+{
+    if (!stage.window()) {
+        failed = true;
+        return;
+    }
+    if (!stage.picture().save(folder.filePath(name + QStringLiteral(".png"))))
+        failed = true;
+}
+
+void drawPanel(Stage &stage, const QDir &folder, const QString &suffix, int width, int height)
+{
+    for (const Scenes::Scene &scene : Scenes::panel()) {
+        stage.panel.traffic()->clear();
+        stage.session.show(scene.snapshot);
+        if (scene.snapshot.phase == Phase::connected) {
+            const auto start = TrafficHistory::TimePoint() + std::chrono::hours(1);
+            stage.panel.traffic()->clear();
+            quint64 read = 0;
+            for (int i = 0; i <= 60; ++i) {
+                read += static_cast<quint64>(40'000 + 900'000 * ((i * 37) % 23) / 23);
+                stage.panel.traffic()->add(read, read / 6, start + std::chrono::seconds(2 * i));
+            }
+        }
+        QQuickWindow *window = stage.open(QStringLiteral("main/MainWindow.qml"),
+                                          {{QStringLiteral("panelModel"), QVariant::fromValue(&stage.panel)},
+                                           {QStringLiteral("optionsModel"), QVariant::fromValue(&stage.options)}});
+        if (!window) {
+            failed = true;
+            return;
+        }
+        window->setWidth(width);
+        if (height > 0)
+            window->setHeight(height);
+        save(stage, folder, QStringLiteral("panel-%1%2").arg(scene.name, suffix));
+    }
+}
+
+void drawWindows(Stage &stage, const QDir &folder, const QString &suffix)
+{
+    const QVariantMap circuits{{QStringLiteral("model"), QVariant::fromValue(&stage.circuits)}};
+    const QVariantMap log{{QStringLiteral("model"), QVariant::fromValue(&stage.lines)}};
+    Snapshot session = Scenes::protectedSession();
+    Snapshot idle;
+
+    stage.session.show(session);
+    stage.open(QStringLiteral("circuits/CircuitsWindow.qml"), circuits);
+    save(stage, folder, QStringLiteral("circuits") + suffix);
+    stage.circuits.follow(QStringLiteral("13"));
+    save(stage, folder, QStringLiteral("circuits-followed") + suffix);
+    if (!stage.window())
+        return;
+    stage.window()->resize(640, 420);
+    save(stage, folder, QStringLiteral("circuits-smallest") + suffix);
+    stage.circuits.follow({});
+    stage.window()->resize(1000, 640);
+    session.circuits = Scenes::circuits(30);
+    stage.session.show(session);
+    save(stage, folder, QStringLiteral("circuits-30") + suffix);
+    stage.circuits.follow(QStringLiteral("15"));
+    save(stage, folder, QStringLiteral("circuits-30-followed") + suffix);
+    stage.circuits.follow({});
+    session.circuits.clear();
+    session.circuitError = QStringLiteral("Tor closed the control connection.");
+    stage.session.show(session);
+    save(stage, folder, QStringLiteral("circuits-reading") + suffix);
+    stage.session.show(idle);
+    save(stage, folder, QStringLiteral("circuits-disconnected") + suffix);
+
+    stage.log.show(LogFeed::State::lines, Scenes::log(40));
+    stage.open(QStringLiteral("log/LogWindow.qml"), log);
+    save(stage, folder, QStringLiteral("log") + suffix);
+    stage.window()->resize(640, 420);
+    save(stage, folder, QStringLiteral("log-smallest") + suffix);
+    stage.window()->resize(900, 540);
+    stage.lines.setSearch(QStringLiteral("nowhere"));
+    save(stage, folder, QStringLiteral("log-nothing-matches") + suffix);
+    stage.lines.setSearch({});
+    stage.log.show(LogFeed::State::empty);
+    save(stage, folder, QStringLiteral("log-empty") + suffix);
+    stage.log.show(LogFeed::State::unreadable);
+    save(stage, folder, QStringLiteral("log-unreadable") + suffix);
+
+    for (const bool rich : {false, true}) {
+        Snapshot s = idle;
+        if (rich) {
+            s = Scenes::protectedSession();
+            s.passwordlessInstalled = true;
+            s.transports.lyrebird = QStringLiteral("/usr/bin/lyrebird");
+            s.transports.source = QStringLiteral("Tor Browser");
+            s.terminalInstalled = s.choices.terminalMode = true;
+        } else {
+            s.startupError = QStringLiteral("The rule for sudo was refused: visudo reported a syntax error.");
+        }
+        stage.session.show(s);
+        for (int pane = 0; pane < 6; ++pane) {
+            QQuickWindow *window = stage.open(
+                QStringLiteral("settings/SettingsWindow.qml"),
+                {{QStringLiteral("model"), QVariant::fromValue(&stage.settings)}, {QStringLiteral("pane"), pane}});
+            if (window)
+                save(stage, folder, QStringLiteral("settings-%1%2%3").arg(pane + 1)
+                     .arg(rich ? QStringLiteral("-installed") : QString(), suffix));
+            else
+                failed = true;
+        }
+    }
+    stage.open(QStringLiteral("main/QuitDialog.qml"),
+               {{QStringLiteral("strict"), true}, {QStringLiteral("busy"), false}});
+    save(stage, folder, QStringLiteral("quit") + suffix);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    QGuiApplication application(argc, argv);
+    QTextStream err(stderr);
+    const QStringList arguments = application.arguments();
+    if (arguments.size() < 2) {
+        err << "usage: veldmark-pictures FOLDER [only: panel | windows] [TRANSLATION.qm]\n";
+        return 2;
+    }
+    application.setFont(QFont(QStringLiteral("Noto Sans")));
+    QLocale::setDefault(QLocale(QLocale::English));
+    const QDir folder(arguments.at(1));
+    folder.mkpath(QStringLiteral("."));
+    const QString only = arguments.value(2);
+    QTranslator translator;
+    if (arguments.size() > 3 && translator.load(arguments.at(3)))
+        application.installTranslator(&translator);
+
+    Stage stage;
+    for (const bool dark : {false, true}) {
+        const QString suffix = dark ? QStringLiteral("-dark") : QStringLiteral("-light");
+        stage.setDark(dark);
+        if (only != QLatin1String("windows"))
+            drawPanel(stage, folder, suffix, 400, 0);
+        if (only != QLatin1String("panel"))
+            drawWindows(stage, folder, suffix);
+    }
+    for (const QString &warning : stage.warnings())
+        err << warning << '\n';
+    return failed || !stage.warnings().isEmpty() ? 1 : 0;
+}

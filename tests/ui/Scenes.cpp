@@ -1,0 +1,192 @@
+#include "Scenes.h"
+
+#include <array>
+
+namespace veldmark::Scenes {
+
+namespace {
+
+RelayInfo relay(int number)
+{
+    static const std::array countries{"de", "nl", "se", "fr", "ch", "us", "fi", "ro"};
+    static const std::array names{"quietharbor", "Kastanie", "northwind7", "relaisparis", "alpenglow",
+                                  "DFRI42", "sammakko", "bucegi", "ForPrivacyNET", "tulip"};
+    const auto index = static_cast<size_t>(number);
+    RelayInfo relay;
+    relay.fingerprint = QStringLiteral("%1").arg(number, 40, 16, QLatin1Char('0')).toUpper();
+    relay.nickname = QLatin1String(names[index % names.size()])
+        + (number < 10 ? QString() : QString::number(number));
+    relay.ip = QStringLiteral("192.0.2.%1").arg(number % 250);
+    relay.country = QLatin1String(countries[index % countries.size()]);
+    return relay;
+}
+
+} // namespace
+
+std::vector<CircuitInfo> circuits(int count)
+{
+    std::vector<CircuitInfo> list;
+    for (int i = 0; i < count; ++i) {
+        CircuitInfo circuit;
+        circuit.id = QString::number(11 + i);
+        circuit.hops = {relay(i % 3), relay(4 + (i * 7) % (8 + count / 2)), relay(3 + (i * 5) % (7 + count / 2))};
+        circuit.purpose = QStringLiteral("GENERAL");
+        if (i < 2 && count > 1) {
+            circuit.purpose = QStringLiteral("CONFLUX");
+            circuit.confluxID = QStringLiteral("A1");
+            circuit.hops[2] = relay(5);
+            circuit.roundTrip = std::chrono::milliseconds(182 + 61 * i);
+        }
+        if (i % 2 == 0)
+            circuit.sites << QStringLiteral("www.example.org");
+        if (i == 2)
+            circuit.sites << QStringLiteral("static.images.example.net") << QStringLiteral("mail.example.com")
+                          << QStringLiteral("forum.example.org") << QStringLiteral("cdn.example.net");
+        list.push_back(circuit);
+    }
+    if (list.size() > 1)
+        list[0].hops[2].ip = QStringLiteral("203.0.113.10");
+    return list;
+}
+
+Snapshot protectedSession()
+{
+    Snapshot s;
+    s.torPath = QStringLiteral("/usr/bin/tor");
+    s.phase = Phase::connected;
+    s.activeMode = RoutingMode::strict;
+    s.statusDetail = QStringLiteral("All traffic is locked to Tor");
+    s.exitIP = QStringLiteral("203.0.113.10");
+    s.torVerified = true;
+    s.leak.kind = Leak::Kind::blocked;
+    s.lookups.kind = Lookups::Kind::throughTor;
+    s.bytesRead = 48'213'004;
+    s.bytesWritten = 3'100'480;
+    s.circuits = circuits(6);
+    s.markerPresent = true;
+    s.openAtLogin = false;
+    return s;
+}
+
+std::vector<Scene> panel()
+{
+    std::vector<Scene> scenes;
+    const auto add = [&scenes](const char *name, const Snapshot &s) {
+        scenes.push_back({QString::fromLatin1(name), s});
+    };
+    Snapshot idle;
+    idle.torPath = QStringLiteral("/usr/bin/tor");
+    add("disconnected-strict", idle);
+    Snapshot s = idle;
+    s.choices.strictMode = false;
+    s.choices.exitCountry = QStringLiteral("de");
+    s.choices.bridgeChoice = BridgeChoice::snowflake;
+    add("disconnected-proxy-country-bridges-missing", s);
+    s = idle;
+    s.torPath.reset();
+    add("disconnected-no-tor", s);
+    s = idle;
+    s.errorMessage = QStringLiteral("Tor didn't finish connecting within 5 minutes. (Connection refused)");
+    add("disconnected-error", s);
+    s = idle;
+    s.choices.bridgeChoice = BridgeChoice::custom;
+    s.choices.bypassApps = {QStringLiteral("/usr/share/applications/org.example.Game.desktop")};
+    add("disconnected-custom-bridges", s);
+
+    s = idle;
+    s.phase = Phase::connecting;
+    s.activeMode = RoutingMode::strict;
+    s.statusDetail = QStringLiteral("Waiting for administrator approval…");
+    add("connecting-approval", s);
+    s.bootstrapProgress = 0.45;
+    s.canCancel = true;
+    s.statusDetail = QStringLiteral("Asking for relay descriptors");
+    add("connecting-strict", s);
+    s.activeMode = RoutingMode::proxy;
+    s.activeBridge = BridgeChoice::obfs4;
+    s.bootstrapProgress = 0.14;
+    s.statusDetail = QStringLiteral("Handshaking with a relay");
+    add("connecting-proxy-bridge", s);
+
+    s = protectedSession();
+    add("connected-strict-verified", s);
+    s.activeBridge = BridgeChoice::snowflake;
+    add("connected-strict-bridge", s);
+    s = protectedSession();
+    s.exitIP.reset();
+    s.torVerified.reset();
+    s.isChecking = true;
+    s.leak.kind = Leak::Kind::checking;
+    s.circuits.clear();
+    add("connected-strict-checking", s);
+    s.isChecking = false;
+    s.torVerified = false;
+    s.leak.kind = Leak::Kind::inconclusive;
+    add("connected-strict-unconfirmed", s);
+    s = protectedSession();
+    s.leak = {Leak::Kind::exposed, QStringLiteral("198.51.100.23")};
+    add("connected-strict-exposed", s);
+    s = protectedSession();
+    s.lookups = {Lookups::Kind::leak,
+                 {QStringLiteral("192.168.1.1 on eth0"), QStringLiteral("10.0.0.53, 10.0.0.54 for *.corp.example on tun0"),
+                  QStringLiteral("9.9.9.9 on wlan0"), QStringLiteral("fd00::1 on eth1"), QStringLiteral("fd00::2 on eth1")}};
+    add("connected-strict-dns-leak", s);
+    s = protectedSession();
+    s.activeMode = RoutingMode::proxy;
+    s.choices.strictMode = false;
+    s.statusDetail = QStringLiteral("Apps that use system proxy settings go through Tor");
+    s.leak.kind = Leak::Kind::inconclusive;
+    add("connected-proxy", s);
+    s.leak = {Leak::Kind::exposed, QStringLiteral("2001:db8:85a3:8d3:1319:8a2e:370:7348")};
+    s.exitIP = QStringLiteral("2001:db8:ffff:ffff:ffff:8a2e:370:1234");
+    add("connected-proxy-exposed-ipv6", s);
+    s.lookups = {Lookups::Kind::leak, {QStringLiteral("192.168.1.1 on eth0")}};
+    add("connected-proxy-dns-leak", s);
+
+    s = protectedSession();
+    s.phase = Phase::disconnecting;
+    s.statusDetail = QStringLiteral("Restoring your network settings…");
+    add("disconnecting-strict", s);
+
+    s = idle;
+    s.phase = Phase::stale;
+    s.activeMode = RoutingMode::strict;
+    s.markerPresent = true;
+    s.statusDetail = QStringLiteral("Tor stopped running");
+    s.errorMessage = QStringLiteral("Tor stopped running. The kill switch is still blocking traffic, so nothing "
+                                    "leaked. Reconnect, or Restore Network to go back online.");
+    add("stale-strict-tor-died", s);
+    s.activeMode = RoutingMode::proxy;
+    s.errorMessage.reset();
+    s.statusDetail = QStringLiteral("Your network is still set up for Tor from an earlier session");
+    add("stale-proxy", s);
+    return scenes;
+}
+
+std::vector<LogLine> log(int count)
+{
+    static const std::array<std::pair<LogLine::Level, const char *>, 7> texts{{
+        {LogLine::Level::notice, "Tor 0.4.7.16 running on Linux with Libevent 2.1.12-stable, OpenSSL 3.0.15"},
+        {LogLine::Level::notice, "Opened Socks listener connection (ready) on 127.0.0.1:9050"},
+        {LogLine::Level::notice, "Bootstrapped 45% (requesting_descriptors): Asking for relay descriptors"},
+        {LogLine::Level::warning, "Guard quietharbor ($0000000000000000000000000000000000000001) is failing more circuits than usual. Most likely this means the Tor network is overloaded. Success counts are 141/203."},
+        {LogLine::Level::info, "launcher: tor started"},
+        {LogLine::Level::error, "Could not bind to 127.0.0.1:9051: Address already in use. Is Tor already running?"},
+        {LogLine::Level::notice, "Bootstrapped 100% (done): Done"},
+    }};
+    std::vector<LogLine> lines;
+    for (int i = 0; i < count; ++i) {
+        const auto &[level, text] = texts[static_cast<size_t>(i) % texts.size()];
+        LogLine line;
+        line.level = level;
+        line.message = QString::fromUtf8(text);
+        if (level != LogLine::Level::info)
+            line.time = QStringLiteral("Nov 16 09:%1:%2.123")
+                            .arg(i / 60 % 60, 2, 10, QLatin1Char('0')).arg(i % 60, 2, 10, QLatin1Char('0'));
+        line.raw = line.time + u' ' + line.message + QString::number(i);
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+} // namespace veldmark::Scenes

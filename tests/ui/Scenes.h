@@ -1,0 +1,23 @@
+#pragma once
+
+#include "ui/LogFeed.h"
+#include "ui/Snapshot.h"
+
+#include <vector>
+
+namespace veldmark::Scenes {
+
+struct Scene {
+    QString name; // also the file name of its picture
+    Snapshot snapshot;
+};
+
+// Every phase of a session, in each mode and with each verdict that changes what the panel shows.
+std::vector<Scene> panel();
+// The verified strict session that the other windows are shown with.
+Snapshot protectedSession();
+// `count` circuits over a few dozen relays, the first two of them linked legs.
+std::vector<CircuitInfo> circuits(int count);
+std::vector<LogLine> log(int count);
+
+} // namespace veldmark::Scenes

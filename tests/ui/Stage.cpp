@@ -1,0 +1,71 @@
+#include "Stage.h"
+
+#include "ui/ColorScheme.h"
+#include "ui/Module.h"
+
+#include <QCoreApplication>
+#include <QQmlComponent>
+
+namespace veldmark {
+
+namespace {
+
+PlatformProfile profileBelow(const QString &folder)
+{
+    PlatformProfile profile = PlatformProfile::linux(Places::below(folder));
+    profile.torInstallHint = QStringLiteral("sudo apt install tor tor-geoipdb");
+    profile.runDirectory = QStringLiteral("/var/lib/veldmark/run");
+    profile.manualRestoreCommand = QStringLiteral("sudo bash /usr/share/veldmark/veldmark-helper.sh disconnect");
+    return profile;
+}
+
+} // namespace
+
+Stage::Stage()
+    : profile(profileBelow(folder.path()))
+    , session(profile)
+    , panel(session)
+    , options(session)
+    , settings(session)
+    , circuits(session)
+    , lines(log, profile)
+{
+    prepareEngine(engine);
+    QObject::connect(&engine, &QQmlEngine::warnings, &engine, [this](const QList<QQmlError> &errors) {
+        for (const QQmlError &error : errors)
+            m_warnings << error.toString();
+    });
+    setDark(false);
+}
+
+void Stage::setDark(bool dark)
+{
+    auto *scheme = engine.singletonInstance<ColorScheme *>(qmlTypeId("Veldmark", 1, 0, "ColorScheme"));
+    scheme->setFlagsDrawn(false);
+    scheme->force(dark, true);
+}
+
+QQuickWindow *Stage::open(const QString &file, QVariantMap properties)
+{
+    m_window.reset();
+    QQmlComponent component(&engine, moduleFile(file));
+    QObject *made = component.isReady() ? component.createWithInitialProperties(properties) : nullptr;
+    for (const QQmlError &error : component.errors())
+        m_warnings << error.toString();
+    m_window.reset(qobject_cast<QQuickWindow *>(made));
+    if (m_window)
+        m_window->show();
+    return m_window.get();
+}
+
+QImage Stage::picture()
+{
+    // Layouts polish more than once; a grab polishes and draws.
+    for (int pass = 0; pass < 3; ++pass) {
+        QCoreApplication::processEvents();
+        m_window->grabWindow();
+    }
+    return m_window->grabWindow();
+}
+
+} // namespace veldmark

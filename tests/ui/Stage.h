@@ -1,0 +1,49 @@
+#pragma once
+
+#include "StandInSession.h"
+#include "ui/CircuitsModel.h"
+#include "ui/LogModel.h"
+#include "ui/OptionsModel.h"
+#include "ui/PanelModel.h"
+#include "ui/SettingsModel.h"
+
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace veldmark {
+
+// The program's windows with a stand-in session behind them, drawn offscreen by the software
+// renderer: same font, no motion, so that a picture is the same each time.
+class Stage {
+public:
+    Stage();
+
+    // Loads the window of "NAME.qml" of the module; it replaces the one before. Null when the file
+    // does not load.
+    QQuickWindow *open(const QString &file, QVariantMap properties = {});
+    QQuickWindow *window() { return m_window.get(); }
+    void setDark(bool dark);
+    // The window's picture after everything has settled.
+    QImage picture();
+    QStringList warnings() const { return m_warnings; }
+
+    QTemporaryDir folder;
+    PlatformProfile profile;
+    StandInSession session;
+    StandInLog log;
+    PanelModel panel;
+    OptionsModel options;
+    SettingsModel settings;
+    CircuitsModel circuits;
+    LogModel lines;
+    QQmlApplicationEngine engine;
+
+private:
+    QStringList m_warnings;
+    std::unique_ptr<QQuickWindow> m_window;
+};
+
+} // namespace veldmark

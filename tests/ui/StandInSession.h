@@ -1,0 +1,86 @@
+#pragma once
+
+#include "ui/LogFeed.h"
+#include "ui/Session.h"
+
+#include <QStringList>
+
+namespace veldmark {
+
+// A session that shows what a test puts into it and writes down what it is asked to do.
+class StandInSession final : public Session {
+public:
+    explicit StandInSession(const PlatformProfile &profile) : Session(profile) {}
+
+    void show(const Snapshot &snapshot)
+    {
+        m_now = snapshot;
+        Q_EMIT changed();
+    }
+
+    std::vector<ExitChoice> exitChoices() const override
+    {
+        return {{{}, QStringLiteral("Any (recommended)")},
+                {QStringLiteral("us"), QStringLiteral("United States")},
+                {QStringLiteral("de"), QStringLiteral("Germany")},
+                {QStringLiteral("se"), QStringLiteral("Sweden")}};
+    }
+    void store(const Choices &choices) override
+    {
+        m_now.choices = choices;
+        Q_EMIT changed();
+    }
+    void connectToTor() override { asked << QStringLiteral("connect"); }
+    void disconnectFromTor() override { asked << QStringLiteral("disconnect"); }
+    void runChecks() override { asked << QStringLiteral("runChecks"); }
+    void checkLookups() override { asked << QStringLiteral("checkDNS"); }
+    void fixLookups() override { asked << QStringLiteral("fixDNS"); }
+    void newIdentity() override { asked << QStringLiteral("newIdentity"); }
+    void newCircuit(const QString &id) override { asked << QStringLiteral("newCircuit ") + id; }
+    void findFasterCircuits() override { asked << QStringLiteral("optimizeCircuits"); }
+    void refreshCircuits() override { asked << QStringLiteral("refreshCircuits"); }
+    void dismissError() override
+    {
+        m_now.errorMessage.reset();
+        Q_EMIT changed();
+    }
+    void lookForTor() override { asked << QStringLiteral("lookForTor"); }
+    void downloadTransports() override { asked << QStringLiteral("downloadTransports"); }
+    void installPasswordless() override { asked << QStringLiteral("installPasswordless"); }
+    void removePasswordless() override { asked << QStringLiteral("removePasswordless"); }
+    void removeTerminalIntegration() override { asked << QStringLiteral("removeTerminal"); }
+    void setOpenAtLogin(bool on) override
+    {
+        m_now.openAtLogin = on;
+        Q_EMIT changed();
+    }
+    void launchBypassed(const QString &application) override
+    {
+        asked << QStringLiteral("launchBypassed ") + application;
+    }
+
+    QStringList asked;
+};
+
+class StandInLog final : public LogFeed {
+public:
+    State state() const override { return m_state; }
+    const std::vector<LogLine> &lines() const override { return m_lines; }
+    void start() override { running = true; }
+    void stop() override { running = false; }
+
+    void show(State state, std::vector<LogLine> lines = {})
+    {
+        m_state = state;
+        m_lines = std::move(lines);
+        Q_EMIT changed();
+    }
+
+    bool running = false;
+
+private:
+    State m_state = State::empty;
+    std::vector<LogLine> m_lines;
+};
+
+} // namespace veldmark

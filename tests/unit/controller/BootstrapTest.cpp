@@ -1,0 +1,226 @@
+#include "support/Workbench.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace veldmark;
+using Phase = ConnectionPhase;
+
+class BootstrapTest : public QObject {
+    Q_OBJECT
+private:
+    // Tor has been asked for the `count`th time and its answer has been taken in.
+    static bool waitsAfterPoll(Workbench &bench, int count)
+    {
+        return bench.hears(Workbench::bootstrapCommand, count)
+            && until([&] { return bench.clock.sleepers() == 1; });
+    }
+
+private Q_SLOTS:
+    void readsTorsReport_data()
+    {
+        QTest::addColumn<QString>("reply");
+        QTest::addColumn<int>("progress");
+        QTest::addColumn<QString>("summary");
+        QTest::newRow("documented form") << u"NOTICE BOOTSTRAP PROGRESS=85 TAG=ap_conn_done SUMMARY=\"Connected to a relay\""_s
+                                         << 85 << u"Connected to a relay"_s;
+        QTest::newRow("empty") << QString() << 0 << QString();
+        QTest::newRow("no progress") << u"NOTICE BOOTSTRAP TAG=x SUMMARY=\"Hello\""_s << 0 << u"Hello"_s;
+        QTest::newRow("no summary") << u"PROGRESS=10 TAG=x"_s << 10 << QString();
+        QTest::newRow("empty summary") << u"PROGRESS=10 SUMMARY=\"\""_s << 10 << QString();
+        QTest::newRow("unclosed summary") << u"PROGRESS=10 SUMMARY=\"abc"_s << 10 << QString();
+        QTest::newRow("too large") << u"PROGRESS=99999999999999999999 SUMMARY=\"a\""_s << 0 << u"a"_s;
+        QTest::newRow("negative") << u"PROGRESS=-5"_s << 0 << QString();
+        QTest::newRow("the first counts") << u"PROGRESS=1 PROGRESS=2 SUMMARY=\"a\" SUMMARY=\"b\""_s << 1 << u"a"_s;
+        QTest::newRow("warning fields") << u"WARN BOOTSTRAP PROGRESS=50 TAG=x SUMMARY=\"a\" WARNING=\"b\" COUNT=3"_s
+                                        << 50 << u"a"_s;
+        QTest::newRow("other digits") << u"PROGRESS=١٢"_s << 0 << QString();
+    }
+
+    void readsTorsReport()
+    {
+        QFETCH(QString, reply);
+        const BootstrapStatus status = TorController::parseBootstrap(reply);
+        QTEST(status.progress, "progress");
+        QTEST(status.summary, "summary");
+    }
+
+    void showsProgressAndSummary()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        bench.setBootstrap("PROGRESS=85 TAG=x SUMMARY=\"Connected to a relay\"");
+        const auto connecting = c.connect();
+        QVERIFY(waitsAfterPoll(bench, 1));
+        QVERIFY(c.phase() == Phase::connecting && c.canCancel());
+        QCOMPARE(c.bootstrapProgress(), 0.85);
+        QCOMPARE(c.statusDetail(), u"Connected to a relay"_s);
+
+        bench.setBootstrap("PROGRESS=90 TAG=y"); // no words: the last ones stay
+        bench.clock.advance(1s);
+        QVERIFY(waitsAfterPoll(bench, 2));
+        QCOMPARE(c.bootstrapProgress(), 0.9);
+        QCOMPARE(c.statusDetail(), u"Connected to a relay"_s);
+
+        bench.setBootstrap("PROGRESS=100 TAG=done SUMMARY=\"Done\"");
+        bench.clock.advance(1s);
+        QVERIFY(Workbench::finished(connecting));
+        QVERIFY(c.phase() == Phase::connected && !c.canCancel());
+    }
+
+    void asksOnceASecond()
+    {
+        Workbench bench;
+        bench.setBootstrap("PROGRESS=5");
+        const auto connecting = bench.controller().connect();
+        QVERIFY(waitsAfterPoll(bench, 1));
+        bench.clock.advance(999ms);
+        settle();
+        QCOMPARE(bench.commandCount(Workbench::bootstrapCommand), 1);
+        bench.clock.advance(1ms);
+        QVERIFY(waitsAfterPoll(bench, 2));
+    }
+
+    void aHundredEndsTheWaitBeforeTheNextSleep()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        QCOMPARE(bench.clock.now(), Clock::TimePoint{});
+        QCOMPARE(bench.clock.totalSlept(), 2000ms); // the monitor's
+    }
+
+    void progressNeverExceedsTheWhole()
+    {
+        Workbench bench;
+        bench.setBootstrap("PROGRESS=250");
+        QVERIFY(bench.connect());
+        QCOMPARE(bench.controller().bootstrapProgress(), 1.0);
+    }
+
+    void aTorThatDoesNotListenYetIsAskedAgain()
+    {
+        Workbench bench;
+        bench.tor.stopListening();
+        const auto connecting = bench.controller().connect();
+        QVERIFY(until([&] { return bench.clock.sleepers() == 1; }));
+        QVERIFY(bench.controller().phase() == Phase::connecting);
+        QCOMPARE(bench.controller().statusDetail(), u"Starting Tor…"_s);
+        bench.tor.listen();
+        bench.clock.advance(1s);
+        QVERIFY(Workbench::finished(connecting));
+        QVERIFY(bench.controller().phase() == Phase::connected);
+        QVERIFY(!bench.controller().errorMessage());
+    }
+
+    void givesUpAfterFiveMinutes_data()
+    {
+        QTest::addColumn<bool>("answers");  // until the end
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("slow") << true << QString();
+        QTest::newRow("refusing") << false << u" (Tor replied: 551 Internal error)"_s;
+    }
+
+    void givesUpAfterFiveMinutes()
+    {
+        QFETCH(bool, answers);
+        QFETCH(QString, reason);
+        Workbench bench;
+        TorController &c = bench.controller();
+        const QByteArray refusal = "551 Internal error\r\n";
+        const QByteArray slow = "250-status/bootstrap-phase=NOTICE BOOTSTRAP PROGRESS=50\r\n250 OK\r\n";
+        bench.tor.reply(Workbench::bootstrapCommand, answers ? refusal : slow); // forgotten by the end
+        const auto connecting = c.connect();
+        QVERIFY(waitsAfterPoll(bench, 1));
+        bench.tor.reply(Workbench::bootstrapCommand, answers ? slow : refusal);
+        for (int second = 1; second < 300; ++second) {
+            bench.clock.advance(1s);
+            QVERIFY(waitsAfterPoll(bench, second + 1));
+        }
+        QVERIFY(c.phase() == Phase::connecting && c.canCancel());
+        bench.clock.advance(1s);
+        QVERIFY(Workbench::finished(connecting));
+        QCOMPARE(bench.commandCount(Workbench::bootstrapCommand), 300);
+        QVERIFY(c.phase() == Phase::stale && !c.canCancel());
+        QCOMPARE(c.statusDetail(), u"Tor didn't finish connecting"_s);
+        QCOMPARE(c.errorMessage().value(),
+                 u"Tor didn't finish connecting within 5 minutes.%1 Your network is still pointed at Tor. "
+                 "Click Restore Network to undo."_s.arg(reason));
+        QVERIFY(c.activeMode() == RoutingMode::strict); // the helper has switched it on
+        QVERIFY(bench.hasMarker());
+        QCOMPARE(bench.probe.torProbes, 0);
+        QCOMPARE(bench.clock.sleepers(), std::size_t(0)); // nothing is monitored
+
+        bench.disconnect(); // Restore Network
+        QVERIFY(c.phase() == Phase::disconnected);
+        QVERIFY(!c.errorMessage() && !c.activeMode());
+    }
+
+    void aTorThatNeverAnswersIsGivenUpToo()
+    {
+        Workbench bench;
+        bench.tor.ignore(Workbench::bootstrapCommand);
+        const auto connecting = bench.controller().connect();
+        QVERIFY(bench.hears(Workbench::bootstrapCommand));
+        bench.clock.advance(301s);
+        bench.socketClock.advance(ControlPort::defaultLimit);
+        QVERIFY(until([&] { return bench.clock.sleepers() == 1; }));
+        bench.clock.advance(1s);
+        QVERIFY(Workbench::finished(connecting));
+        QVERIFY(bench.controller().phase() == Phase::stale);
+        QVERIFY(bench.controller().errorMessage()->contains(u" (Tor didn't answer on its control port in time.) "_s));
+    }
+
+    void aDisconnectEndsTheWaitSilently_data()
+    {
+        QTest::addColumn<bool>("asleep");
+        QTest::newRow("between two questions") << true;
+        QTest::newRow("while Tor is asked") << false;
+    }
+
+    void aDisconnectEndsTheWaitSilently()
+    {
+        QFETCH(bool, asleep);
+        Workbench bench;
+        TorController &c = bench.controller();
+        if (asleep)
+            bench.setBootstrap("PROGRESS=5 SUMMARY=\"Later\"");
+        else
+            bench.tor.ignore(Workbench::bootstrapCommand);
+        const auto connecting = c.connect();
+        QVERIFY(asleep ? waitsAfterPoll(bench, 1) : bench.hears(Workbench::bootstrapCommand));
+        QVERIFY(c.canCancel());
+        bench.disconnect();
+        QVERIFY(c.phase() == Phase::disconnected && !c.canCancel());
+        QCOMPARE(c.statusDetail(), u"Your traffic is not going through Tor"_s);
+        QVERIFY(!bench.hasMarker());
+        bench.tor.hangUp();
+        bench.clock.advance(1s);
+        QVERIFY(Workbench::finished(connecting));
+        QVERIFY(c.phase() == Phase::disconnected && !c.errorMessage() && !c.activeMode());
+        QCOMPARE(c.bootstrapProgress(), 0.0);
+        QCOMPARE(bench.commandCount(Workbench::bootstrapCommand), 1);
+    }
+
+    void anOldWaitLeavesANewConnectionAlone()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        bench.tor.ignore(Workbench::bootstrapCommand);
+        const auto first = c.connect();
+        QVERIFY(bench.hears(Workbench::bootstrapCommand));
+        bench.disconnect();
+        const auto second = c.connect();
+        QVERIFY(bench.hears(Workbench::bootstrapCommand, 2));
+        bench.socketClock.advance(ControlPort::defaultLimit); // both questions end
+        QVERIFY(Workbench::finished(first));
+        QVERIFY(until([&] { return bench.clock.sleepers() == 1; }));
+        QVERIFY(c.phase() == Phase::connecting && c.canCancel());
+        bench.clock.advance(1s);
+        QVERIFY(bench.hears(Workbench::bootstrapCommand, 3));
+        QVERIFY(!second.isReady());
+    }
+};
+
+QTEST_GUILESS_MAIN(BootstrapTest)
+#include "BootstrapTest.moc"

@@ -1,0 +1,323 @@
+#include "support/Workbench.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+#include <set>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace veldmark;
+using System = Workbench::System;
+using Phase = ConnectionPhase;
+
+Q_DECLARE_METATYPE(veldmark::Workbench::System)
+
+// How a connection is begun and what the helper is asked for. What Tor then says is BootstrapTest's,
+// what goes wrong ConnectFailureTest's.
+class ConnectTest : public QObject {
+    Q_OBJECT
+private:
+    static void bothSystems()
+    {
+        QTest::addColumn<System>("system");
+        QTest::newRow("linux") << System::linux;
+        QTest::newRow("macos") << System::macos;
+    }
+
+private Q_SLOTS:
+    void connects_data() { bothSystems(); }
+    void connects()
+    {
+        QFETCH(System, system);
+        Workbench bench(system);
+        TorController &c = bench.controller();
+        QStringList details;
+        std::vector<Phase> phases;
+        QObject::connect(&c, &TorController::statusDetailChanged, [&] { details << c.statusDetail(); });
+        QObject::connect(&c, &TorController::phaseChanged, [&] { phases.push_back(c.phase()); });
+        QVERIFY(bench.connect());
+        QCOMPARE(details, QStringList({u"Preparing Tor…"_s, u"Waiting for administrator approval…"_s,
+                                       u"Starting Tor…"_s, u"Done"_s, u"All traffic is locked to Tor"_s}));
+        QVERIFY((phases == std::vector{Phase::connecting, Phase::connected}));
+        QVERIFY(c.activeMode() == RoutingMode::strict);
+        QVERIFY(!c.activeBridge() && !c.errorMessage() && !c.canCancel());
+        QCOMPARE(c.bootstrapProgress(), 1.0);
+        QVERIFY(bench.hasMarker());
+        QCOMPARE(bench.processes.calls.front().executable, bench.profile.torCandidates.constFirst());
+        QCOMPARE(bench.processes.calls.back().executable, bench.profile.promptProgram);
+        QCOMPARE(bench.lastHelperRun(u"connect"_s),
+                 QStringList({u"connect"_s, u"--tor"_s, bench.profile.torCandidates.constFirst(),
+                              u"--hash"_s, u"16:0123456789ABCDEF"_s, u"--strict"_s, u"1"_s, u"--lan"_s, u"1"_s}));
+    }
+
+    void proxyModeIsNotCalledLocked()
+    {
+        Workbench bench;
+        bench.controller().strictMode.set(false);
+        QVERIFY(bench.connect());
+        QVERIFY(bench.controller().activeMode() == RoutingMode::proxy);
+        QCOMPARE(bench.controller().statusDetail(), u"Apps that use system proxy settings go through Tor"_s);
+    }
+
+    void checksAndMonitorsOnceConnected()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        QCOMPARE(bench.probe.torProbes, 1);
+        QCOMPARE(bench.probe.directProbes, 1);
+        QCOMPARE(bench.controller().exitIP().value(), u"203.0.113.10"_s);
+        QCOMPARE(bench.clock.sleepers(), std::size_t(1)); // the monitor
+        QVERIFY(bench.tick());
+        QCOMPARE(bench.commandCount(Workbench::countersCommand), 1);
+    }
+
+    void withoutAPasswordWhenThatIsSetUp_data() { bothSystems(); }
+    void withoutAPasswordWhenThatIsSetUp()
+    {
+        QFETCH(System, system);
+        Workbench bench(system);
+        bench.writeFile(bench.profile.installedHelper, "the helper");
+        bench.writeFile(bench.profile.sudoersRule);
+        QVERIFY(bench.connect());
+        QCOMPARE(bench.processes.calls.back().executable, bench.profile.sudo);
+        QCOMPARE(bench.processes.calls.back().arguments.mid(0, 3),
+                 QStringList({u"-n"_s, bench.profile.installedHelper, u"connect"_s}));
+    }
+
+    void helperOptionsFollowTheSettings_data()
+    {
+        QTest::addColumn<bool>("strict");
+        QTest::addColumn<bool>("localNetwork");
+        QTest::addColumn<QString>("exit");
+        QTest::addColumn<QString>("options");
+        QTest::newRow("strict, local") << true << true << QString() << u"--strict 1 --lan 1"_s;
+        QTest::newRow("strict, not local") << true << false << QString() << u"--strict 1 --lan 0"_s;
+        QTest::newRow("proxy, local") << false << true << QString() << u"--strict 0 --lan 1"_s;
+        QTest::newRow("exit") << true << false << u"de"_s << u"--strict 1 --lan 0 --exit de"_s;
+    }
+
+    void helperOptionsFollowTheSettings()
+    {
+        QFETCH(bool, strict);
+        QFETCH(bool, localNetwork);
+        QFETCH(QString, exit);
+        Workbench bench;
+        bench.controller().strictMode.set(strict);
+        bench.controller().allowLocalNetwork.set(localNetwork);
+        bench.controller().exitCountry.set(exit);
+        QVERIFY(bench.connect());
+        QTEST(bench.lastHelperRun(u"connect"_s).mid(5).join(u' '), "options");
+    }
+
+    void bridgesComeAfterTheExitCountry()
+    {
+        Workbench bench;
+        const QString line = u"obfs4 192.0.2.1:443 0123456789ABCDEF0123456789ABCDEF01234567 cert=abc iat-mode=0"_s;
+        bench.transports.builtin.insert(u"obfs4"_s, {line});
+        bench.transports.lyrebird = u"/opt/it's \"lyre\\bird\""_s;
+        bench.controller().bridgeChoice.set(BridgeChoice::obfs4);
+        bench.controller().exitCountry.set(u"ch"_s);
+        QVERIFY(bench.connect());
+        QCOMPARE(bench.lastHelperRun(u"connect"_s).mid(9),
+                 QStringList({u"--exit"_s, u"ch"_s, u"--bridge"_s, line, u"--pt-lyrebird"_s,
+                              u"/opt/it's \"lyre\\bird\""_s}));
+        QVERIFY(bench.controller().activeBridge() == BridgeChoice::obfs4);
+        QCOMPARE(bench.controller().transports().lyrebird, bench.transports.lyrebird); // searched afresh
+    }
+
+    void testsTheBridgesFirstWhenAskedTo()
+    {
+        Workbench bench;
+        QStringList details;
+        QObject::connect(&bench.controller(), &TorController::statusDetailChanged,
+                         [&] { details << bench.controller().statusDetail(); });
+        bench.controller().customBridges.set(u"192.0.2.1:443\n192.0.2.2:443"_s);
+        bench.controller().bridgeChoice.set(BridgeChoice::custom);
+        bench.controller().optimizeSpeed.set(true);
+        QVERIFY(bench.connect());
+        QVERIFY(details.contains(u"Testing 2 bridges…"_s));
+        QVERIFY(details.contains(u"No bridge answered a quick test, trying them all"_s));
+        QCOMPARE(bench.lastHelperRun(u"connect"_s).count(u"--bridge"_s), 2);
+    }
+
+    void takesTheSettingsAsTheyWereAtTheBeginning()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        c.exitCountry.set(u"de"_s);
+        bench.hold(u"--hash-password"_s);
+        const auto connecting = c.connect();
+        QVERIFY(until([&] { return bench.processes.held() == 1; }));
+        c.exitCountry.set(u"; reboot"_s); // a view may let anything be typed
+        c.strictMode.set(false);
+        c.allowLocalNetwork.set(false);
+        c.bridgeChoice.set(BridgeChoice::snowflake);
+        bench.processes.hold = nullptr;
+        bench.processes.release();
+        QVERIFY(Workbench::finished(connecting));
+        QCOMPARE(bench.lastHelperRun(u"connect"_s).mid(5).join(u' '), u"--strict 1 --lan 1 --exit de"_s);
+        QVERIFY(c.activeMode() == RoutingMode::strict);
+        QVERIFY(!c.activeBridge());
+    }
+
+    void standardPlacesInTheirOrder_data() { bothSystems(); }
+    void standardPlacesInTheirOrder()
+    {
+        QFETCH(System, system);
+        Workbench bench(system);
+        bench.removeTor();
+        QVERIFY(!bench.controller().torPath());
+        const QStringList places = bench.profile.torCandidates;
+        for (auto place = places.crbegin(); place != places.crend(); ++place) {
+            bench.writeFile(*place); // not executable: no candidate
+            QVERIFY(bench.controller().torPath() != *place);
+            bench.writeFile(*place, {}, true);
+            QCOMPARE(bench.controller().torPath().value(), *place);
+        }
+    }
+
+    void customPath_data()
+    {
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QString>("name"); // below the folder; empty for none
+        QTest::addColumn<QString>("after");
+        QTest::addColumn<bool>("used");
+        QTest::newRow("as it is") << QString() << u"my tor"_s << QString() << true;
+        QTest::newRow("trimmed") << u" \t"_s << u"my tor"_s << u" \r\n"_s << true;
+        QTest::newRow("blanks only") << u"  \n"_s << QString() << QString() << false;
+        QTest::newRow("not executable") << QString() << u"text"_s << QString() << false;
+        QTest::newRow("a folder") << QString() << u"home"_s << QString() << false;
+        QTest::newRow("missing") << QString() << u"nothing"_s << QString() << false;
+    }
+
+    void customPath()
+    {
+        QFETCH(QString, before);
+        QFETCH(QString, name);
+        QFETCH(QString, after);
+        QFETCH(bool, used);
+        Workbench bench;
+        bench.writeFile(bench.folder.filePath(u"my tor"_s), {}, true);
+        bench.writeFile(bench.folder.filePath(u"text"_s));
+        const QString path = name.isEmpty() ? QString() : bench.folder.filePath(name);
+        bench.controller().customTorPath.set(before + path + after);
+        QCOMPARE(bench.controller().torPath().value(), used ? path : bench.profile.torCandidates.constFirst());
+    }
+
+    void everyPasswordIsNewAndStaysHere()
+    {
+        Workbench bench;
+        std::set<QString> passwords;
+        for (int session = 0; session < 3; ++session) {
+            QVERIFY(bench.connect());
+            passwords.insert(bench.password());
+            bench.disconnect();
+        }
+        QCOMPARE(passwords.size(), std::size_t(3));
+        for (const QString &password : passwords) {
+            QVERIFY(QRegularExpression(u"^[0-9a-f]{64}$"_s).match(password).hasMatch());
+            for (const QStringList &run : bench.helperRuns())
+                QVERIFY(!run.join(u' ').contains(password));
+        }
+    }
+
+    void randomHexHasTwoDigitsForEachByte()
+    {
+        QCOMPARE(TorController::randomHex(0), QString());
+        std::set<QString> seen;
+        for (int i = 0; i < 100; ++i) {
+            const QString word = TorController::randomHex(5);
+            QVERIFY(QRegularExpression(u"^[0-9a-f]{10}$"_s).match(word).hasMatch());
+            seen.insert(word);
+        }
+        QVERIFY(seen.size() > 95);
+    }
+
+    void asksTorForTheHashAndTakesTheLastLine()
+    {
+        Workbench bench;
+        const auto helper = bench.processes.answer;
+        bench.processes.answer = [&](const ScriptedRunner::Call &call) -> Result<ProcessResult, StartError> {
+            const auto result = helper(call);
+            if (!call.arguments.contains(u"--hash-password"_s))
+                return result;
+            return ProcessResult{1, u"16:FIRST\nnot 16:this\n  16:LAST \r\n\nwarning\n"_s, u"noise"_s};
+        };
+        QVERIFY(bench.connect());
+        QCOMPARE(bench.processes.calls.front().arguments,
+                 QStringList({u"--quiet"_s, u"--hash-password"_s, bench.password()}));
+        QCOMPARE(bench.lastHelperRun(u"connect"_s).at(4), u"16:LAST"_s);
+    }
+
+    void aSecondConnectIsIgnored()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        bench.hold(u"connect"_s);
+        const auto connecting = c.connect();
+        QVERIFY(until([&] { return bench.processes.held() == 1; }));
+        const auto second = c.connect();
+        QVERIFY(second.isReady());
+        bench.processes.hold = nullptr;
+        bench.processes.release();
+        QVERIFY(Workbench::finished(connecting));
+        QVERIFY(c.phase() == Phase::connected);
+        const auto third = c.connect();
+        QVERIFY(third.isReady());
+        QCOMPARE(bench.helperRunCount(u"connect"_s), 1);
+        bench.hold(u"disconnect"_s);
+        const auto disconnecting = c.disconnect();
+        const auto fourth = c.connect();
+        QVERIFY(fourth.isReady() && c.phase() == Phase::disconnecting);
+        bench.processes.hold = nullptr;
+        bench.processes.release();
+        QVERIFY(Workbench::finished(disconnecting));
+        QCOMPARE(bench.helperRunCount(u"connect"_s), 1);
+    }
+
+    void whoeverHearsOfTheConnectionMayEndItAtOnce()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QObject::connect(&c, &TorController::phaseChanged, [&c] {
+            if (c.phase() == Phase::connected)
+                c.disconnect();
+        });
+        const auto connecting = c.connect();
+        QVERIFY(Workbench::finished(connecting));
+        QVERIFY(until([&] { return c.phase() == Phase::disconnected; }));
+        QVERIFY(!bench.hasMarker());
+        QCOMPARE(bench.probe.torProbes, 0);
+        QCOMPARE(bench.clock.sleepers(), std::size_t(0)); // nothing is monitored
+    }
+
+    void startsWithNothingOfTheSessionBefore()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        QVERIFY(bench.tick());
+        QCOMPARE(c.bytesRead(), quint64(1000));
+        bench.tor.stopListening();
+        for (int failure = 0; failure < 3; ++failure)
+            QVERIFY(bench.tick());
+        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.exitIP() && c.torVerified() && c.latencyMs() && c.errorMessage());
+        bench.tor.listen();
+        bench.hold(u"--hash-password"_s);
+        const auto connecting = c.connect();
+        QVERIFY(c.phase() == Phase::connecting);
+        QVERIFY(!c.exitIP() && !c.torVerified() && !c.latencyMs() && !c.errorMessage());
+        QVERIFY(c.leakStatus() == LeakStatus::notTested() && c.dnsStatus() == DNSStatus::unknown());
+        QVERIFY(c.bytesRead() == 0 && c.bytesWritten() == 0);
+        QCOMPARE(c.bootstrapProgress(), 0.0);
+        bench.processes.hold = nullptr;
+        bench.processes.release();
+        QVERIFY(Workbench::finished(connecting));
+        QVERIFY(c.phase() == Phase::connected);
+    }
+};
+
+QTEST_GUILESS_MAIN(ConnectTest)
+#include "ConnectTest.moc"

@@ -1,0 +1,350 @@
+#include "support/NameLookups.h"
+#include "support/Workbench.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace veldmark;
+using Phase = ConnectionPhase;
+using System = Workbench::System;
+
+Q_DECLARE_METATYPE(veldmark::Workbench::System)
+
+namespace {
+
+DNSResolver resolver(const QStringList &servers, std::optional<QString> domain = {},
+                     std::optional<QString> interface = {})
+{
+    DNSResolver result;
+    result.nameservers = servers;
+    result.domain = std::move(domain);
+    result.interface = std::move(interface);
+    return result;
+}
+
+const std::vector<DNSResolver> throughTor = {resolver({u"127.0.0.1"_s, u"::1"_s})};
+const std::vector<DNSResolver> leaking = {resolver({u"192.168.1.1"_s}, {}, u"en0"_s),
+                                          resolver({u"127.0.0.1"_s, u"10.8.0.1"_s}, u"corp"_s, u"utun2"_s)};
+const DNSStatus leak = DNSStatus::leak({u"192.168.1.1 on en0"_s, u"10.8.0.1 for *.corp on utun2"_s});
+
+} // namespace
+
+class DNSTest : public QObject {
+    Q_OBJECT
+private:
+    // Tor can be listened to.
+    static void allowLiveTests(Workbench &bench)
+    {
+        bench.tor.reply("SETEVENTS STREAM", "250 OK\r\n");
+    }
+
+    // The name that the running live test has looked up.
+    static QString lookedUp(int count)
+    {
+        return until([count] { return NameLookups::hosts().size() >= count; }) ? NameLookups::hosts().constLast()
+                                                                                : QString();
+    }
+
+    static void torSees(Workbench &bench, const QString &host)
+    {
+        bench.tor.sendEvent("650 STREAM 12 NEW 0 " + host.toUtf8() + ":0 PURPOSE=DNS_REQUEST\r\n");
+        settle();
+    }
+
+    // A live test in which Tor is asked for the name.
+    static bool passLiveTest(Workbench &bench)
+    {
+        NameLookups::clear();
+        const auto checking = bench.controller().checkDNS(true);
+        const QString host = lookedUp(1);
+        torSees(bench, host);
+        bench.socketClock.advance(6s);
+        return Workbench::finished(checking);
+    }
+
+private Q_SLOTS:
+    void aLookUpThatTorSeesIsThroughTor()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        QVERIFY(c.dnsStatus() == DNSStatus::unverified()); // Tor could not be listened to
+        allowLiveTests(bench);
+        bench.resolvers.answer = throughTor;
+        const auto checking = c.checkDNS(true);
+        QVERIFY(c.dnsStatus() == DNSStatus::checking());
+        const QString host = lookedUp(1);
+        QVERIFY2(QRegularExpression(u"^veldmark-check-[0-9a-f-]{16}\\.torproject\\.org$"_s).match(host).hasMatch(),
+                 qPrintable(host));
+        torSees(bench, host);
+        QVERIFY(c.dnsStatus() == DNSStatus::checking()); // Tor is listened to until the end
+        bench.socketClock.advance(6s);
+        QVERIFY(Workbench::finished(checking));
+        QVERIFY(c.dnsStatus() == DNSStatus::throughTor());
+        QCOMPARE(c.title(), u"Protected"_s);
+    }
+
+    void aLookUpThatTorDoesNotSeeIsUnverified_data()
+    {
+        QTest::addColumn<QString>("seen");
+        QTest::newRow("nothing") << QString();
+        QTest::newRow("another name") << u"example.org"_s;
+        QTest::newRow("part of the name") << u"veldmark-check-.torproject.org"_s;
+    }
+
+    void aLookUpThatTorDoesNotSeeIsUnverified()
+    {
+        QFETCH(QString, seen);
+        Workbench bench;
+        QVERIFY(bench.connect());
+        allowLiveTests(bench);
+        const auto checking = bench.controller().checkDNS(true);
+        QVERIFY(!lookedUp(1).isEmpty());
+        if (!seen.isEmpty())
+            torSees(bench, seen);
+        bench.socketClock.advance(6s);
+        QVERIFY(Workbench::finished(checking));
+        QVERIFY(bench.controller().dnsStatus() == DNSStatus::unverified());
+    }
+
+    void aTorThatCannotBeListenedToIsUnverified()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        bench.tor.stopListening();
+        const auto checking = bench.controller().checkDNS(true);
+        QVERIFY(Workbench::finished(checking));
+        QVERIFY(bench.controller().dnsStatus() == DNSStatus::unverified());
+        QVERIFY(!bench.controller().errorMessage());
+        QVERIFY(NameLookups::hosts().isEmpty()); // nobody would have seen it
+    }
+
+    void everyTestHasANewName()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        allowLiveTests(bench);
+        QVERIFY(passLiveTest(bench));
+        const QString first = NameLookups::hosts().constLast();
+        QVERIFY(passLiveTest(bench));
+        QVERIFY(NameLookups::hosts().constLast() != first);
+    }
+
+    void leaksInTheSettingsComeFirst()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        allowLiveTests(bench);
+        bench.resolvers.answer = leaking;
+        QVERIFY(passLiveTest(bench));
+        QVERIFY(c.dnsStatus() == leak);
+        QCOMPARE(c.title(), u"DNS Leak"_s);
+        // A leak stays on screen while it is tested again.
+        NameLookups::clear();
+        const auto again = c.checkDNS(true);
+        QVERIFY(!lookedUp(1).isEmpty());
+        QVERIFY(c.dnsStatus() == leak);
+        bench.resolvers.answer = throughTor;
+        torSees(bench, NameLookups::hosts().constLast());
+        bench.socketClock.advance(6s);
+        QVERIFY(Workbench::finished(again));
+        QVERIFY(c.dnsStatus() == DNSStatus::throughTor());
+    }
+
+    void withoutALiveTestOnlyALeakChangesTheStatus_data()
+    {
+        QTest::addColumn<bool>("passed"); // a live test, earlier in the session
+        QTest::addColumn<bool>("leaked");
+        QTest::addColumn<QString>("status");
+        QTest::newRow("nothing known") << false << false << u"unverified"_s;
+        QTest::newRow("a leak is over") << false << true << u"unknown"_s;
+        QTest::newRow("passed") << true << false << u"throughTor"_s;
+        QTest::newRow("passed, a leak is over") << true << true << u"throughTor"_s;
+    }
+
+    void withoutALiveTestOnlyALeakChangesTheStatus()
+    {
+        QFETCH(bool, passed);
+        QFETCH(bool, leaked);
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        if (passed) {
+            allowLiveTests(bench);
+            QVERIFY(passLiveTest(bench));
+        }
+        if (leaked) {
+            bench.resolvers.answer = leaking;
+            const auto leakCheck = c.checkDNS(false);
+            QVERIFY(Workbench::finished(leakCheck));
+            QVERIFY(c.dnsStatus() == leak);
+        }
+        bench.resolvers.answer = throughTor;
+        NameLookups::clear();
+        const auto checking = c.checkDNS(false);
+        QVERIFY(Workbench::finished(checking));
+        QTEST(c.dnsStatus().name(), "status");
+        QVERIFY(NameLookups::hosts().isEmpty());
+    }
+
+    void whatALiveTestProvedEndsWithTheSession()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        allowLiveTests(bench);
+        QVERIFY(passLiveTest(bench));
+        bench.disconnect();
+        QVERIFY(c.dnsStatus() == DNSStatus::unknown());
+        bench.tor.reply("SETEVENTS STREAM", "552 no\r\n");
+        QVERIFY(bench.connect());
+        const auto checking = c.checkDNS(false);
+        QVERIFY(Workbench::finished(checking));
+        QVERIFY(c.dnsStatus() == DNSStatus::unverified());
+    }
+
+    void doesNothingWithoutASession()
+    {
+        Workbench bench;
+        const auto checking = bench.controller().checkDNS(true);
+        const auto fixing = bench.controller().fixDNS();
+        QVERIFY(checking.isReady() && fixing.isReady());
+        QCOMPARE(bench.resolvers.readings, 0);
+        QVERIFY(bench.processes.calls.empty());
+        QVERIFY(bench.controller().dnsStatus() == DNSStatus::unknown());
+    }
+
+    void theResultOfAnEndedSessionIsDropped_data()
+    {
+        QTest::addColumn<bool>("reconnects");
+        QTest::addColumn<bool>("inLiveTest");
+        QTest::newRow("disconnected, live test") << false << true;
+        QTest::newRow("disconnected, settings") << false << false;
+        QTest::newRow("connected again, live test") << true << true;
+        QTest::newRow("connected again, settings") << true << false;
+    }
+
+    void theResultOfAnEndedSessionIsDropped()
+    {
+        QFETCH(bool, reconnects);
+        QFETCH(bool, inLiveTest);
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        bench.resolvers.answer = leaking;
+        allowLiveTests(bench);
+        if (!inLiveTest)
+            bench.resolvers.beforeAnswer = [&bench] { return bench.clock.sleep(1s); };
+        NameLookups::clear();
+        const auto checking = c.checkDNS(inLiveTest);
+        if (inLiveTest)
+            torSees(bench, lookedUp(1));
+        bench.disconnect();
+        QVERIFY(c.dnsStatus() == DNSStatus::unknown());
+        bench.resolvers.answer = throughTor;
+        bench.resolvers.beforeAnswer = nullptr;
+        bench.tor.reply("SETEVENTS STREAM", "552 no\r\n");
+        if (reconnects)
+            QVERIFY(bench.connect());
+        bench.socketClock.advance(6s);
+        bench.clock.advance(1s);
+        QVERIFY(Workbench::finished(checking));
+        QCOMPARE(c.dnsStatus().name(), reconnects ? u"unverified"_s : u"unknown"_s);
+        const auto later = c.checkDNS(false); // nor did the old test prove anything about this session
+        QVERIFY(Workbench::finished(later));
+        QCOMPARE(c.dnsStatus().name(), reconnects ? u"unverified"_s : u"unknown"_s);
+    }
+
+    void fixing_data()
+    {
+        QTest::addColumn<System>("system");
+        QTest::addColumn<bool>("helps");
+        QTest::addColumn<QString>("message");
+        const QString text = u"Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point "
+                             "around Tor: 192.168.1.1 on en0; 10.8.0.1 for *.corp on utun2. Strict mode's firewall "
+                             "blocks them."_s;
+        QTest::newRow("helps") << System::linux << true << QString();
+        QTest::newRow("does not help") << System::linux << false << text;
+        QTest::newRow("helps (macos)") << System::macos << true << QString();
+        QTest::newRow("does not help (macos)") << System::macos << false << text;
+    }
+
+    void fixing()
+    {
+        QFETCH(System, system);
+        QFETCH(bool, helps);
+        QFETCH(QString, message);
+        Workbench bench(system);
+        TorController &c = bench.controller();
+        bench.resolvers.answer = leaking;
+        QVERIFY(bench.connect());
+        QVERIFY(c.dnsStatus() == leak);
+        if (helps)
+            bench.resolvers.answer = throughTor;
+        const int tests = bench.commandCount("SETEVENTS STREAM");
+        const auto fixed = c.fixDNS();
+        QVERIFY(Workbench::finished(fixed));
+        QCOMPARE(bench.lastHelperRun(u"fix-dns"_s), QStringList(u"fix-dns"_s));
+        QCOMPARE(bench.commandCount("SETEVENTS STREAM"), tests + 1); // a live check follows
+        QVERIFY(c.dnsStatus() == (helps ? DNSStatus::unverified() : leak));
+        QCOMPARE(c.errorMessage().value_or(QString()), message);
+    }
+
+    void fixingThatIsRefused_data()
+    {
+        QTest::addColumn<System>("system");
+        QTest::addColumn<bool>("dismissed");
+        QTest::newRow("failed") << System::linux << false;
+        QTest::newRow("dismissed") << System::linux << true;
+        QTest::newRow("failed (macos)") << System::macos << false;
+        QTest::newRow("dismissed (macos)") << System::macos << true;
+    }
+
+    void fixingThatIsRefused()
+    {
+        QFETCH(System, system);
+        QFETCH(bool, dismissed);
+        Workbench bench(system);
+        TorController &c = bench.controller();
+        bench.resolvers.answer = leaking;
+        QVERIFY(bench.connect());
+        const int readings = bench.resolvers.readings;
+        if (dismissed)
+            bench.cancelPrompt(u"fix-dns"_s);
+        else
+            bench.failHelper(u"fix-dns"_s, u"No resolver."_s);
+        const auto fixing = c.fixDNS();
+        QVERIFY(Workbench::finished(fixing));
+        QCOMPARE(c.errorMessage().value_or(QString()), dismissed ? QString() : u"Couldn't fix DNS: No resolver."_s);
+        QVERIFY(c.dnsStatus() == leak);
+        QCOMPARE(bench.resolvers.readings, readings);
+        bench.letHelperWork();
+        bench.resolvers.answer = throughTor;
+        const auto again = c.fixDNS();
+        QVERIFY(Workbench::finished(again));
+        QVERIFY(!c.errorMessage()); // the old reason is over
+    }
+
+    void aFixThatEndsAfterTheSessionSaysNothing()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        bench.failHelper(u"fix-dns"_s, u"No resolver."_s);
+        bench.hold(u"fix-dns"_s);
+        const auto fixing = c.fixDNS();
+        QVERIFY(until([&] { return bench.processes.held() == 1; }));
+        bench.disconnect();
+        QVERIFY(c.phase() == Phase::disconnected);
+        bench.processes.hold = nullptr;
+        bench.processes.release();
+        QVERIFY(Workbench::finished(fixing));
+        QVERIFY(!c.errorMessage());
+    }
+};
+
+QTEST_GUILESS_MAIN(DNSTest)
+#include "DNSTest.moc"

@@ -1,0 +1,251 @@
+#include "support/Workbench.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace veldmark;
+using Phase = ConnectionPhase;
+
+class MonitoringTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void readsTheCountersEveryTwoSeconds()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        QCOMPARE(bench.controller().bytesRead(), quint64(0));
+        bench.clock.advance(1999ms);
+        settle();
+        QCOMPARE(bench.commandCount(Workbench::countersCommand), 0);
+        bench.clock.advance(1ms);
+        QVERIFY(until([&] { return bench.controller().bytesRead() == 1000; }));
+        QCOMPARE(bench.controller().bytesWritten(), quint64(200));
+        bench.setCounters("18446744073709551615", "201");
+        QVERIFY(bench.tick());
+        QCOMPARE(bench.controller().bytesRead(), quint64(18446744073709551615u));
+        QCOMPARE(bench.controller().bytesWritten(), quint64(201));
+        QCOMPARE(bench.commandCount(Workbench::countersCommand), 2);
+    }
+
+    void aValueThatIsNoNumberChangesNothing()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        QVERIFY(bench.tick());
+        for (const char *odd : {"", "-1", "12x", "18446744073709551616", "0x10"}) {
+            bench.setCounters(odd, "300");
+            QVERIFY(bench.tick());
+            QCOMPARE(bench.controller().bytesRead(), quint64(1000));
+            QCOMPARE(bench.controller().bytesWritten(), quint64(300));
+        }
+        QVERIFY(bench.controller().phase() == Phase::connected); // they were answers all the same
+    }
+
+    void threeFailuresInARowMeanThatTorIsDead_data()
+    {
+        QTest::addColumn<bool>("strict");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("strict") << true
+            << u"Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. Reconnect, "
+               "or Restore Network to go back online."_s;
+        QTest::newRow("proxy") << false
+            << u"Tor stopped running. Apps using the proxy can't connect until you reconnect or Restore Network."_s;
+    }
+
+    void threeFailuresInARowMeanThatTorIsDead()
+    {
+        QFETCH(bool, strict);
+        QFETCH(QString, message);
+        Workbench bench;
+        TorController &c = bench.controller();
+        c.strictMode.set(strict);
+        QVERIFY(bench.connect());
+        QVERIFY(bench.tick());
+        bench.tor.stopListening();
+        QVERIFY(bench.tick());
+        QVERIFY(bench.tick());
+        QVERIFY(c.phase() == Phase::connected && !c.errorMessage());
+        QVERIFY(bench.tick());
+        QVERIFY(c.phase() == Phase::stale);
+        QCOMPARE(c.statusDetail(), u"Tor stopped running"_s);
+        QCOMPARE(c.errorMessage().value(), message);
+        QCOMPARE(c.title(), u"Needs Attention"_s);
+        QVERIFY(c.activeMode() == (strict ? RoutingMode::strict : RoutingMode::proxy));
+        QVERIFY(bench.hasMarker()); // nothing is torn down
+        QCOMPARE(bench.helperRunCount(u"disconnect"_s), 0);
+        QCOMPARE(bench.clock.sleepers(), std::size_t(0)); // the loop has ended
+    }
+
+    void oneSuccessStartsTheCountAgain()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        const QByteArray refusal = "551 Internal error\r\n";
+        for (int round = 0; round < 3; ++round) {
+            bench.tor.replyOnce(Workbench::countersCommand, refusal);
+            bench.tor.replyOnce(Workbench::countersCommand, refusal);
+            for (int tick = 0; tick < 3; ++tick)
+                QVERIFY(bench.tick());
+        }
+        QVERIFY(bench.controller().phase() == Phase::connected);
+        QVERIFY(!bench.controller().errorMessage());
+        bench.tor.reply(Workbench::countersCommand, refusal);
+        for (int tick = 0; tick < 3; ++tick)
+            QVERIFY(bench.tick());
+        QVERIFY(bench.controller().phase() == Phase::stale);
+    }
+
+    void aTorThatIsSilentIsDeadToo()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        bench.tor.setSilent(true);
+        for (int failure = 1; failure <= 3; ++failure) {
+            const int connections = bench.tor.connectionCount();
+            bench.clock.advance(2s);
+            QVERIFY(until([&] { return bench.tor.connectionCount() > connections; }));
+            bench.socketClock.advance(3s);
+            QVERIFY(until([&] {
+                return bench.clock.sleepers() == 1 || bench.controller().phase() == Phase::stale;
+            }));
+            QVERIFY((bench.controller().phase() == Phase::stale) == (failure == 3));
+        }
+    }
+
+    void aNetworkThatWasRestoredByHandIsNotCalledBlocked()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        bench.removeMarker();
+        bench.tor.stopListening();
+        for (int tick = 0; tick < 3; ++tick)
+            QVERIFY(bench.tick());
+        QVERIFY(c.phase() == Phase::disconnected);
+        QCOMPARE(c.statusDetail(), u"Your traffic is not going through Tor"_s);
+        QCOMPARE(c.errorMessage().value(), u"Tor stopped running, and your network is no longer set up for it."_s);
+        QVERIFY(!c.activeMode() && !c.exitIP());
+    }
+
+    void restoringAfterTorsDeathTakesTheBannerBack()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        bench.tor.stopListening();
+        for (int tick = 0; tick < 3; ++tick)
+            QVERIFY(bench.tick());
+        const auto reason = c.errorMessage();
+        bench.cancelPrompt(u"disconnect"_s);
+        bench.disconnect();
+        QVERIFY(c.phase() == Phase::stale);
+        QCOMPARE(c.errorMessage(), reason); // still true
+        QVERIFY(c.activeMode() == RoutingMode::strict);
+        bench.letHelperWork();
+        bench.disconnect();
+        QVERIFY(c.phase() == Phase::disconnected);
+        QVERIFY(!c.errorMessage());
+    }
+
+    void checksTheResolversAtEveryFifteenthTurn()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        const int before = bench.resolvers.readings;
+        for (int tick = 1; tick < 15; ++tick)
+            QVERIFY(bench.tick());
+        QCOMPARE(bench.resolvers.readings, before);
+        DNSResolver leaking;
+        leaking.nameservers = {u"192.168.1.1"_s};
+        leaking.interface = u"en0"_s;
+        bench.resolvers.answer = {leaking};
+        const int live = bench.commandCount("SETEVENTS STREAM");
+        QVERIFY(bench.tick());
+        QCOMPARE(bench.resolvers.readings, before + 1);
+        QVERIFY(bench.controller().dnsStatus() == DNSStatus::leak({u"192.168.1.1 on en0"_s}));
+        QCOMPARE(bench.commandCount("SETEVENTS STREAM"), live); // no live test
+        QCOMPARE(bench.commandCount(Workbench::countersCommand), 15); // the counters are read as well
+        for (int tick = 1; tick < 15; ++tick)
+            QVERIFY(bench.tick());
+        QCOMPARE(bench.resolvers.readings, before + 1);
+        QVERIFY(bench.tick());
+        QCOMPARE(bench.resolvers.readings, before + 2);
+    }
+
+    void readsTheCountersOnlyAfterTheResolvers()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        for (int tick = 1; tick < 15; ++tick)
+            QVERIFY(bench.tick());
+        bench.resolvers.beforeAnswer = [&bench] { return bench.clock.sleep(1s); };
+        bench.clock.advance(2s);
+        settle();
+        QCOMPARE(bench.commandCount(Workbench::countersCommand), 14);
+        bench.clock.advance(1s);
+        QVERIFY(bench.hears(Workbench::countersCommand, 15));
+    }
+
+    void countsNoTurnsWithoutASession()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        for (int tick = 1; tick < 14; ++tick)
+            QVERIFY(bench.tick());
+        bench.disconnect();
+        bench.clock.advance(600s);
+        settle();
+        QCOMPARE(bench.commandCount(Workbench::countersCommand), 13);
+        QVERIFY(bench.connect());
+        const int readings = bench.resolvers.readings;
+        for (int tick = 1; tick < 15; ++tick)
+            QVERIFY(bench.tick());
+        QCOMPARE(bench.resolvers.readings, readings); // a new session counts from the beginning
+        QVERIFY(bench.tick());
+        QCOMPARE(bench.resolvers.readings, readings + 1);
+    }
+
+    void anAnswerThatComesAfterTheSessionIsNotShown()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        bench.tor.ignore(Workbench::countersCommand);
+        bench.clock.advance(2s);
+        QVERIFY(bench.hears(Workbench::countersCommand));
+        bench.disconnect();
+        QVERIFY(bench.controller().phase() == Phase::disconnected);
+        bench.tor.hangUp();
+        settle();
+        bench.clock.advance(60s);
+        QVERIFY(bench.controller().phase() == Phase::disconnected);
+        QVERIFY(!bench.controller().errorMessage());
+        QCOMPARE(bench.controller().bytesRead(), quint64(0));
+    }
+
+    void torDyingDuringTheChecksLeavesNothingRunning()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        c.optimizeSpeed.set(true);
+        bench.probe.beforeTorAnswer = [&bench] { return bench.clock.sleep(45s); };
+        const auto connecting = c.connect();
+        QVERIFY(until([&] { return c.isChecking(); }));
+        bench.tor.stopListening();
+        for (int failure = 0; failure < 3; ++failure) {
+            bench.clock.advance(2s);
+            QVERIFY(until([&] { return bench.clock.sleepers() == 2 || c.phase() == Phase::stale; }));
+        }
+        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(!c.isChecking());
+        QVERIFY(c.leakStatus() == LeakStatus::notTested());
+        bench.clock.advance(45s);
+        QVERIFY(Workbench::finished(connecting));
+        QVERIFY(c.phase() == Phase::stale && !c.isChecking() && !c.isOptimizing() && !c.exitIP());
+        QCOMPARE(c.statusDetail(), u"Tor stopped running"_s);
+        QCOMPARE(bench.probe.torProbes, 1); // no optimisation
+    }
+};
+
+QTEST_GUILESS_MAIN(MonitoringTest)
+#include "MonitoringTest.moc"

@@ -1,0 +1,177 @@
+#include "controller/PublishedState.h"
+#include "support/Workbench.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace veldmark;
+
+class PublishedStateTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void everyPublishedFieldIsThereUnderItsName()
+    {
+        Workbench bench;
+        const QStringList fields = u"strictMode allowLocalNetwork exitCountry customTorPath bridgeChoice customBridges "
+            "bypassApps autoConnect optimizeSpeed latencyMs optimizeStatus isOptimizing transports activeBridge "
+            "terminalMode phase activeMode bootstrapProgress statusDetail exitIP torVerified leakStatus bytesRead "
+            "bytesWritten isChecking canCancel errorMessage dnsStatus passwordlessInstalled startupError circuits "
+            "circuitError transportDownload terminalError title"_s.split(u' ');
+        const QJsonObject state = publishedState(bench.controller());
+        for (const QString &field : fields)
+            QVERIFY2(state.contains(field), qPrintable(field));
+        QCOMPARE(state.size(), fields.size());
+        // And each says when it changes.
+        const QMetaObject *type = bench.controller().metaObject();
+        for (const QString &field : fields) {
+            if (field != u"title"_s)
+                QVERIFY2(type->indexOfSignal((field.toLatin1() + "Changed()").constData()) >= 0, qPrintable(field));
+        }
+    }
+
+    void withoutASession()
+    {
+        Workbench bench;
+        const QJsonObject state = publishedState(bench.controller());
+        QCOMPARE(state.value(u"phase"_s), QJsonValue(u"disconnected"_s));
+        QCOMPARE(state.value(u"bridgeChoice"_s), QJsonValue(u"off"_s));
+        QCOMPARE(state.value(u"leakStatus"_s), QJsonValue(u"notTested"_s));
+        QCOMPARE(state.value(u"dnsStatus"_s), QJsonValue(u"unknown"_s));
+        QCOMPARE(state.value(u"strictMode"_s), QJsonValue(true));
+        QCOMPARE(state.value(u"bypassApps"_s), QJsonValue(QJsonArray()));
+        QCOMPARE(state.value(u"bytesRead"_s), QJsonValue(0));
+        for (const char *absent : {"activeMode", "activeBridge", "exitIP", "torVerified", "latencyMs", "errorMessage"})
+            QVERIFY2(state.value(QLatin1String(absent)).isNull(), absent);
+    }
+
+    void withASession()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        DNSResolver leaking;
+        leaking.nameservers = {u"192.168.1.1"_s};
+        bench.resolvers.answer = {leaking};
+        bench.probe.directAnswer = IPCheck{false, u"198.51.100.7"_s};
+        bench.transports.lyrebird = u"/opt/lyrebird"_s;
+        bench.transports.source = u"Tor Browser"_s;
+        c.bridgeChoice.set(BridgeChoice::custom);
+        c.customBridges.set(u"192.0.2.1:443"_s);
+        QVERIFY(bench.connect());
+        bench.setCounters("9007199254740993", "2"); // more than a double can tell exactly
+        QVERIFY(bench.tick());
+        const QJsonObject state = publishedState(c);
+        QCOMPARE(state.value(u"phase"_s), QJsonValue(u"connected"_s));
+        QCOMPARE(state.value(u"title"_s), QJsonValue(u"DNS Leak"_s));
+        QCOMPARE(state.value(u"activeMode"_s), QJsonValue(u"strict"_s));
+        QCOMPARE(state.value(u"activeBridge"_s), QJsonValue(u"custom"_s));
+        QCOMPARE(state.value(u"leakStatus"_s), QJsonValue(QJsonObject{{u"exposed"_s, u"198.51.100.7"_s}}));
+        QCOMPARE(state.value(u"dnsStatus"_s), QJsonValue(QJsonObject{{u"leak"_s, QJsonArray{u"192.168.1.1"_s}}}));
+        QCOMPARE(state.value(u"torVerified"_s), QJsonValue(true));
+        QCOMPARE(state.value(u"bytesRead"_s).toInteger(), qint64(9007199254740993));
+        QCOMPARE(state.value(u"transports"_s).toObject().value(u"lyrebird"_s), QJsonValue(u"/opt/lyrebird"_s));
+        QVERIFY(state.value(u"transports"_s).toObject().value(u"webtunnel"_s).isNull());
+    }
+
+    void neverHoldsThePassword()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        const QByteArray text = QJsonDocument(publishedState(bench.controller())).toJson();
+        QVERIFY(!text.contains(bench.password().toUtf8()));
+    }
+
+    void sets_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QJsonValue>("value"); // undefined: refused
+        const QJsonValue refused(QJsonValue::Undefined);
+        for (const char *name : {"strictMode", "allowLocalNetwork", "autoConnect", "optimizeSpeed", "terminalMode"}) {
+            QTest::addRow("%s on", name) << QString::fromLatin1(name) << u"on"_s << QJsonValue(true);
+            QTest::addRow("%s off", name) << QString::fromLatin1(name) << u" FALSE "_s << QJsonValue(false);
+            QTest::addRow("%s yes", name) << QString::fromLatin1(name) << u"yes"_s << QJsonValue(true);
+            QTest::addRow("%s 0", name) << QString::fromLatin1(name) << u"0"_s << QJsonValue(false);
+            QTest::addRow("%s empty", name) << QString::fromLatin1(name) << QString() << refused;
+            QTest::addRow("%s other", name) << QString::fromLatin1(name) << u"2"_s << refused;
+        }
+        QTest::newRow("exit") << u"exitCountry"_s << u"de"_s << QJsonValue(u"de"_s);
+        QTest::newRow("any exit") << u"exitCountry"_s << QString() << QJsonValue(QString());
+        QTest::newRow("exit in capitals") << u"exitCountry"_s << u"DE"_s << refused;
+        QTest::newRow("exit with line end") << u"exitCountry"_s << u"de\n"_s << refused;
+        QTest::newRow("bridge") << u"bridgeChoice"_s << u"meek"_s << QJsonValue(u"meek"_s);
+        QTest::newRow("no bridge") << u"bridgeChoice"_s << u"Meek"_s << refused;
+        QTest::newRow("path") << u"customTorPath"_s << u"/opt/tor"_s << QJsonValue(u"/opt/tor"_s);
+        QTest::newRow("bridges") << u"customBridges"_s << u"a\nb"_s << QJsonValue(u"a\nb"_s);
+        QTest::newRow("list") << u"bypassApps"_s << u"[\"/a\", \"/b\"]"_s << QJsonValue(QJsonArray{u"/a"_s, u"/b"_s});
+        QTest::newRow("empty list") << u"bypassApps"_s << u"[]"_s << QJsonValue(QJsonArray());
+        QTest::newRow("no list") << u"bypassApps"_s << u"/a"_s << refused;
+        QTest::newRow("list of numbers") << u"bypassApps"_s << u"[1]"_s << refused;
+        QTest::newRow("object") << u"bypassApps"_s << u"{}"_s << refused;
+        QTest::newRow("no setting") << u"phase"_s << u"connected"_s << refused;
+        QTest::newRow("nothing") << QString() << QString() << refused;
+        QTest::newRow("wild") << u"a\nb"_s << u"\r\n\t"_s << refused;
+        QTest::newRow("long") << u"strictMode"_s << QString(100000, u'x') << refused;
+        QTest::newRow("several lines") << u"strictMode"_s << u"a\nb\nc"_s << refused;
+    }
+
+    void sets()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, text);
+        QFETCH(QJsonValue, value);
+        Workbench bench;
+        const QJsonObject before = publishedState(bench.controller());
+        const auto set = setSetting(bench.controller(), name, text);
+        QCOMPARE(set.has_value(), !value.isUndefined());
+        if (set) {
+            QCOMPARE(publishedState(bench.controller()).value(name), value);
+            bench.restart(); // it is stored
+            QCOMPARE(publishedState(bench.controller()).value(name), value);
+            return;
+        }
+        QVERIFY(!set.error().isEmpty() && set.error().size() < 400);
+        QVERIFY2(!set.error().contains(u'\n') && !set.error().contains(u'\r'), qPrintable(set.error()));
+        QCOMPARE(publishedState(bench.controller()), before);
+    }
+
+    void namesEverySetting()
+    {
+        Workbench bench;
+        const QJsonObject state = publishedState(bench.controller());
+        for (const QString &name : settingNames()) {
+            const QJsonValue value = state.value(name);
+            QVERIFY2(!value.isUndefined(), qPrintable(name));
+            const QString text = value.isArray() ? u"[]"_s : value.isBool() ? (value.toBool() ? u"true"_s : u"false"_s)
+                                                                            : value.toString();
+            QVERIFY2(setSetting(bench.controller(), name, text), qPrintable(name));
+        }
+        QCOMPARE(settingNames().size(), 10);
+    }
+
+    void saysWhenTheSettingWasNotSaved()
+    {
+        Workbench bench;
+        bench.writeFile(bench.folder.filePath(u"blocked"_s));
+        bench.profile.settingsFile = bench.folder.filePath(u"blocked/veldmark.conf"_s);
+        bench.restart();
+        const auto set = setSetting(bench.controller(), u"exitCountry"_s, u"de"_s);
+        QVERIFY(!set);
+        QVERIFY2(set.error().contains(u"settings"_s), qPrintable(set.error()));
+        QCOMPARE(bench.controller().exitCountry(), u"de"_s);
+    }
+
+    void saysWhenTerminalModeCannotBeSetUp()
+    {
+        Workbench bench;
+        bench.writeFile(bench.profile.terminalDirectory); // a file where the folder should be
+        const auto set = setSetting(bench.controller(), u"terminalMode"_s, u"on"_s);
+        QVERIFY(!set);
+        QVERIFY2(set.error().startsWith(u"Couldn't set up terminal mode: "_s), qPrintable(set.error()));
+        QVERIFY(bench.controller().terminalMode());
+    }
+};
+
+QTEST_GUILESS_MAIN(PublishedStateTest)
+#include "PublishedStateTest.moc"

@@ -1,0 +1,201 @@
+#include "support/Workbench.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace veldmark;
+using System = Workbench::System;
+using Phase = ConnectionPhase;
+
+Q_DECLARE_METATYPE(veldmark::Workbench::System)
+
+// What an earlier run has left behind, and connecting by itself at start-up.
+class StaleSessionTest : public QObject {
+    Q_OBJECT
+private:
+    static QString activeFile(const Workbench &bench)
+    {
+        return bench.profile.terminalDirectory + u"/active"_s;
+    }
+
+private Q_SLOTS:
+    void readsTheMode_data()
+    {
+        QTest::addColumn<System>("system");
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("mode");
+        const auto add = [](const char *name, const QByteArray &content, const QString &mode) {
+            QTest::newRow(name) << System::linux << content << mode;
+            QTest::newRow(qPrintable(QLatin1String(name) + u" (macos)"_s)) << System::macos << content << mode;
+        };
+        add("strict with a line end", "strict\n", u"strict"_s);
+        add("proxy", "proxy", u"proxy"_s);
+        add("blanks", " \tstrict \r\n\n", u"strict"_s);
+        add("empty", "", QString());
+        add("other word", "stricter\n", QString());
+        add("capitals", "Strict\n", QString());
+        add("two words", "strict proxy\n", QString());
+        add("no text", QByteArray("\xff\xfe\0strict", 9), QString());
+        add("endless", QByteArray(1024 * 1024, 's'), QString());
+    }
+
+    void readsTheMode()
+    {
+        QFETCH(System, system);
+        QFETCH(QByteArray, content);
+        QFETCH(QString, mode);
+        Workbench bench(system);
+        bench.writeMarker(content);
+        bench.controller().detectStaleState();
+        const TorController &c = bench.controller();
+        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.activeMode() == routingModeFromRawValue(mode));
+        QCOMPARE(c.statusDetail(), u"Your network is still set up for Tor from an earlier session"_s);
+        QVERIFY(c.isSessionMarkerPresent());
+        QVERIFY(bench.processes.calls.empty() && bench.tor.commands().isEmpty());
+    }
+
+    void aMarkerThatCannotBeReadCountsAsEmpty()
+    {
+        Workbench bench;
+        QVERIFY(QDir().mkpath(bench.profile.sessionMarker)); // a folder: no user can read it as text
+        bench.controller().detectStaleState();
+        QVERIFY(bench.controller().phase() == Phase::stale);
+        QVERIFY(!bench.controller().activeMode());
+    }
+
+    void withoutAMarkerTerminalsAreTakenOffTor()
+    {
+        Workbench bench;
+        bench.writeFile(activeFile(bench));
+        bench.controller().detectStaleState();
+        QVERIFY(bench.controller().phase() == Phase::disconnected);
+        QVERIFY(!bench.controller().isSessionMarkerPresent());
+        QVERIFY(!QFile::exists(activeFile(bench)));
+    }
+
+    void withAMarkerTerminalsStayAsTheyAre()
+    {
+        Workbench bench;
+        bench.writeFile(activeFile(bench));
+        bench.writeMarker("strict");
+        bench.controller().detectStaleState();
+        QVERIFY(QFile::exists(activeFile(bench)));
+    }
+
+    void aRunningSessionIsNotStale()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        bench.controller().detectStaleState();
+        QVERIFY(bench.controller().phase() == Phase::connected);
+        QCOMPARE(bench.controller().statusDetail(), u"All traffic is locked to Tor"_s);
+    }
+
+    void canBeRestored()
+    {
+        Workbench bench;
+        bench.writeMarker("strict");
+        bench.controller().detectStaleState();
+        bench.disconnect();
+        QVERIFY(bench.controller().phase() == Phase::disconnected);
+        QVERIFY(!bench.controller().activeMode());
+        QVERIFY(!bench.hasMarker());
+    }
+
+    void canBeConnectedAfresh()
+    {
+        Workbench bench;
+        bench.writeMarker("strict");
+        bench.controller().detectStaleState();
+        bench.controller().strictMode.set(false);
+        QVERIFY(bench.connect());
+        QVERIFY(bench.controller().activeMode() == RoutingMode::proxy);
+    }
+
+    void aRestoreThatFailsIsJudgedByTheMarker_data()
+    {
+        QTest::addColumn<QByteArray>("word");
+        QTest::addColumn<bool>("dismissed");
+        QTest::addColumn<bool>("markerStays");
+        for (const char *word : {"strict", "proxy", "?"}) {
+            for (const bool dismissed : {true, false}) {
+                for (const bool stays : {true, false}) {
+                    QTest::addRow("%s, %s, marker %s", word, dismissed ? "dismissed" : "failed",
+                                  stays ? "stays" : "goes")
+                        << QByteArray(word) << dismissed << stays;
+                }
+            }
+        }
+    }
+
+    void aRestoreThatFailsIsJudgedByTheMarker()
+    {
+        QFETCH(QByteArray, word);
+        QFETCH(bool, dismissed);
+        QFETCH(bool, markerStays);
+        Workbench bench;
+        TorController &c = bench.controller();
+        bench.writeMarker(word);
+        c.detectStaleState();
+        if (dismissed)
+            bench.cancelPrompt(u"disconnect"_s);
+        else
+            bench.failHelper(u"disconnect"_s, u"Could not."_s);
+        if (!markerStays)
+            bench.removeMarker();
+        bench.disconnect();
+        QVERIFY(c.phase() == (markerStays ? Phase::stale : Phase::disconnected));
+        QCOMPARE(c.statusDetail(), markerStays ? u"Your network is still set up for Tor"_s
+                                               : u"Your traffic is not going through Tor"_s);
+        QVERIFY(c.activeMode() == (markerStays ? routingModeFromRawValue(QString::fromLatin1(word)) : std::nullopt));
+        QCOMPARE(c.errorMessage(), dismissed ? std::nullopt : std::optional(u"Could not."_s));
+        QCOMPARE(bench.clock.sleepers(), std::size_t(0)); // nothing is monitored
+    }
+
+    void connectsByItselfOnlyWhen_data()
+    {
+        QTest::addColumn<bool>("wanted");
+        QTest::addColumn<bool>("marker");
+        QTest::addColumn<bool>("tor");
+        QTest::addColumn<bool>("connects");
+        QTest::newRow("all holds") << true << false << true << true;
+        QTest::newRow("not wanted") << false << false << true << false;
+        QTest::newRow("something is left over") << true << true << true << false;
+        QTest::newRow("no tor") << true << false << false << false;
+    }
+
+    void connectsByItselfOnlyWhen()
+    {
+        QFETCH(bool, wanted);
+        QFETCH(bool, marker);
+        QFETCH(bool, tor);
+        QFETCH(bool, connects);
+        Workbench bench;
+        TorController &c = bench.controller();
+        c.autoConnect.set(wanted);
+        if (!tor)
+            bench.removeTor();
+        if (marker)
+            bench.writeMarker("strict");
+        c.detectStaleState();
+        const auto starting = c.autoConnectIfEnabled();
+        QVERIFY(Workbench::finished(starting));
+        QVERIFY(c.phase() == (connects ? Phase::connected : marker ? Phase::stale : Phase::disconnected));
+        QVERIFY(!c.errorMessage());
+        QCOMPARE(bench.helperRunCount(u"connect"_s), connects ? 1 : 0);
+    }
+
+    void aMarkerAloneKeepsItFromConnectingByItself()
+    {
+        Workbench bench;
+        bench.controller().autoConnect.set(true);
+        bench.writeMarker("strict"); // came after the look at start-up
+        const auto starting = bench.controller().autoConnectIfEnabled();
+        QVERIFY(Workbench::finished(starting));
+        QVERIFY(bench.processes.calls.empty());
+    }
+};
+
+QTEST_GUILESS_MAIN(StaleSessionTest)
+#include "StaleSessionTest.moc"

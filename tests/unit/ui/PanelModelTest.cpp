@@ -1,0 +1,255 @@
+#include "StandInSession.h"
+#include "ui/PanelModel.h"
+
+#include <QTest>
+
+using namespace veldmark;
+
+namespace {
+
+using Tone = PanelModel::Tone;
+
+Snapshot idle()
+{
+    Snapshot s;
+    s.torPath = QStringLiteral("/usr/bin/tor");
+    return s;
+}
+
+Snapshot connected(RoutingMode mode)
+{
+    Snapshot s = idle();
+    s.phase = Phase::connected;
+    s.activeMode = mode;
+    s.torVerified = true;
+    s.exitIP = QStringLiteral("203.0.113.10");
+    s.leak.kind = Leak::Kind::blocked;
+    return s;
+}
+
+} // namespace
+
+class PanelModelTest : public QObject {
+    Q_OBJECT
+
+    PlatformProfile profile = PlatformProfile::linux(Places::below(QStringLiteral("/nowhere")));
+
+private Q_SLOTS:
+    void showsEachState_data()
+    {
+        QTest::addColumn<Snapshot>("snapshot");
+        QTest::addColumn<Tone>("tone");
+        QTest::addColumn<QString>("symbol");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("label");
+        QTest::addColumn<bool>("enabled");
+        QTest::addColumn<QString>("footnote");
+        const auto row = [](const char *name, const Snapshot &s, Tone tone, const char *symbol,
+                            const char *title, const char *label, bool enabled, const char *footnote) {
+            QTest::newRow(name) << s << tone << QString::fromUtf8(symbol) << QString::fromUtf8(title)
+                                << QString::fromUtf8(label) << enabled << QString::fromUtf8(footnote);
+        };
+        Snapshot s = idle();
+        row("disconnected", s, Tone::Neutral, "shield.slash", "Not Protected", "Connect to Tor", true,
+            "Click to connect");
+        s.torPath.reset();
+        row("no tor", s, Tone::Neutral, "shield.slash", "Not Protected", "Connect to Tor", false,
+            "Install Tor to get started");
+        s = idle();
+        s.phase = Phase::connecting;
+        row("connecting, not to be cancelled", s, Tone::Accent, "shield.lefthalf.filled", "Connecting…",
+            "Cancel", false, "");
+        s.canCancel = true;
+        row("connecting", s, Tone::Accent, "shield.lefthalf.filled", "Connecting…", "Cancel", true, "");
+        s = connected(RoutingMode::strict);
+        row("strict, verified", s, Tone::Good, "lock.shield.fill", "Protected", "Disconnect", true,
+            "Click to disconnect");
+        s.torVerified.reset();
+        row("strict, not checked yet", s, Tone::Accent, "lock.shield.fill", "Protected", "Disconnect",
+            true, "Click to disconnect");
+        s.torVerified = false;
+        row("strict, not confirmed", s, Tone::Warning, "exclamationmark.shield", "Protected",
+            "Disconnect", true, "Click to disconnect");
+        s = connected(RoutingMode::strict);
+        s.leak = {Leak::Kind::exposed, QStringLiteral("198.51.100.1")};
+        row("strict, exposed", s, Tone::Danger, "exclamationmark.shield", "Needs Attention",
+            "Disconnect", true, "Click to disconnect");
+        s = connected(RoutingMode::strict);
+        s.lookups = {Lookups::Kind::leak, {QStringLiteral("192.168.1.1")}};
+        row("strict, look-ups leak", s, Tone::Danger, "exclamationmark.shield", "DNS Leak",
+            "Disconnect", true, "Click to disconnect");
+        s = connected(RoutingMode::proxy);
+        row("proxy", s, Tone::Info, "lock.shield.fill", "Proxy Active", "Disconnect", true,
+            "Click to disconnect");
+        s.activeMode.reset();
+        row("connected in no known mode", s, Tone::Info, "lock.shield.fill", "Proxy Active",
+            "Disconnect", true, "Click to disconnect");
+        s.phase = Phase::disconnecting;
+        row("disconnecting", s, Tone::Accent, "shield.lefthalf.filled", "Disconnecting…", "", false, "");
+        s = idle();
+        s.phase = Phase::stale;
+        row("stale", s, Tone::Warning, "exclamationmark.shield", "Needs Attention", "Reconnect", true, "");
+    }
+    void showsEachState()
+    {
+        QFETCH(Snapshot, snapshot);
+        StandInSession session(profile);
+        PanelModel panel(session);
+        session.show(snapshot);
+        QTEST(panel.tone(), "tone");
+        QTEST(panel.symbol(), "symbol");
+        QTEST(panel.title(), "title");
+        QTEST(panel.powerLabel(), "label");
+        QTEST(panel.powerEnabled(), "enabled");
+        QTEST(panel.footnote(), "footnote");
+    }
+
+    void pressesTheButtonByPhase()
+    {
+        StandInSession session(profile);
+        PanelModel panel(session);
+        Snapshot s = idle();
+        for (const auto &[phase, asked] : {std::pair{Phase::disconnected, "connect"},
+                                           {Phase::connecting, "disconnect"},
+                                           {Phase::connected, "disconnect"},
+                                           {Phase::stale, "connect"}}) {
+            s.phase = phase;
+            s.canCancel = phase == Phase::connecting;
+            session.show(s);
+            session.asked.clear();
+            panel.pressPower();
+            QCOMPARE(session.asked, QStringList{QString::fromLatin1(asked)});
+        }
+        s.phase = Phase::disconnecting;
+        session.show(s);
+        session.asked.clear();
+        panel.pressPower();
+        QVERIFY(session.asked.isEmpty());
+    }
+
+    void namesTheModeOrTheBridge()
+    {
+        StandInSession session(profile);
+        PanelModel panel(session);
+        Snapshot s = connected(RoutingMode::strict);
+        session.show(s);
+        QCOMPARE(panel.pillText(), QStringLiteral("Strict"));
+        QCOMPARE(panel.pillSymbol(), QStringLiteral("lock.fill"));
+        s.activeMode = RoutingMode::proxy;
+        session.show(s);
+        QCOMPARE(panel.pillText(), QStringLiteral("Proxy"));
+        QCOMPARE(panel.pillSymbol(), QStringLiteral("arrow.triangle.branch"));
+        for (const auto &[choice, name] : {std::pair{BridgeChoice::obfs4, "obfs4"},
+                                           {BridgeChoice::snowflake, "Snowflake"},
+                                           {BridgeChoice::meek, "meek"},
+                                           {BridgeChoice::custom, "Custom"}}) {
+            s.activeBridge = choice;
+            session.show(s);
+            QCOMPARE(panel.pillText(), QStringLiteral("Connected through %1 bridges").arg(QLatin1String(name)));
+        }
+    }
+
+    void describesTheExit()
+    {
+        StandInSession session(profile);
+        PanelModel panel(session);
+        Snapshot s = connected(RoutingMode::strict);
+        session.show(s);
+        QCOMPARE(panel.exitAddress(), QStringLiteral("203.0.113.10"));
+        QCOMPARE(panel.verification(), QStringLiteral("Verified"));
+        s.torVerified = false;
+        session.show(s);
+        QCOMPARE(panel.verification(), QStringLiteral("Not confirmed"));
+        s.exitIP.reset();
+        session.show(s);
+        QCOMPARE(panel.exitAddress(), QStringLiteral("Unknown"));
+        s.isChecking = true;
+        session.show(s);
+        QCOMPARE(panel.exitAddress(), QStringLiteral("Checking"));
+        QCOMPARE(panel.verification(), QStringLiteral("Checking"));
+        QCOMPARE(panel.exitHelp(), QStringLiteral("Checked against check.torproject.org"));
+    }
+
+    void describesLeaks_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("help");
+        const QString tries = QStringLiteral("Tries a direct connection that skips Tor");
+        const auto row = [](const char *name, Leak::Kind kind, const QString &text, const QString &help) {
+            QTest::newRow(name) << static_cast<int>(kind) << text << help;
+        };
+        row("not tested", Leak::Kind::notTested, QStringLiteral("Not tested"), tries);
+        row("testing", Leak::Kind::checking, QStringLiteral("Testing…"), tries);
+        row("inconclusive", Leak::Kind::inconclusive, QStringLiteral("Inconclusive"), tries);
+        row("blocked", Leak::Kind::blocked, QStringLiteral("No leaks"),
+            QStringLiteral("Direct connections that skip Tor are blocked"));
+        row("exposed", Leak::Kind::exposed, QStringLiteral("Exposed: 198.51.100.1"),
+            QStringLiteral("Apps that ignore proxy settings show your real IP (198.51.100.1). Turn on "
+                           "Strict mode to block them."));
+    }
+    void describesLeaks()
+    {
+        QFETCH(int, kind);
+        QFETCH(QString, help);
+        StandInSession session(profile);
+        PanelModel panel(session);
+        Snapshot s = connected(RoutingMode::proxy);
+        s.leak = {static_cast<Leak::Kind>(kind), QStringLiteral("198.51.100.1")};
+        session.show(s);
+        QTEST(panel.leakText(), "text");
+        QCOMPARE(panel.leakHelp(), help + QStringLiteral("\nDNS: not tested yet."));
+        s.lookups = {Lookups::Kind::leak, {QStringLiteral("192.168.1.1 on en0")}};
+        session.show(s);
+        QCOMPARE(panel.leakText(), QStringLiteral("DNS leak"));
+        QCOMPARE(panel.leakHelp(), help + QStringLiteral("\nDNS can go around Tor via: 192.168.1.1 on en0"));
+    }
+
+    void countsTheResolversThatItDoesNotName()
+    {
+        StandInSession session(profile);
+        PanelModel panel(session);
+        Snapshot s = connected(RoutingMode::proxy);
+        s.lookups = {Lookups::Kind::leak, {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}};
+        session.show(s);
+        QCOMPARE(panel.leakingResolvers().size(), 3);
+        QCOMPARE(panel.moreResolvers(), QString());
+        s.lookups.leaks << QStringLiteral("d") << QStringLiteral("e");
+        session.show(s);
+        QCOMPARE(panel.leakingResolvers().size(), 3);
+        QCOMPARE(panel.moreResolvers(), QStringLiteral("2 more"));
+    }
+
+    void offersToRestoreWhatIsLeft()
+    {
+        StandInSession session(profile);
+        PanelModel panel(session);
+        Snapshot s = idle();
+        session.show(s);
+        QVERIFY(!panel.canRestore());
+        s.markerPresent = true;
+        session.show(s);
+        QVERIFY(panel.canRestore());
+        s.phase = Phase::connected;
+        session.show(s);
+        QVERIFY(!panel.canRestore());
+        s.phase = Phase::stale;
+        session.show(s);
+        QVERIFY(panel.canRestore());
+        panel.restore();
+        QCOMPARE(session.asked, QStringList{QStringLiteral("disconnect")});
+    }
+
+    void namesTheHintOnlyAsCommandWhenItIsOne()
+    {
+        PlatformProfile unknown = profile;
+        unknown.torInstallHint = QStringLiteral("your package manager");
+        StandInSession plain(unknown);
+        QVERIFY(!PanelModel(plain).installHintIsCommand());
+        unknown.torInstallHint = QStringLiteral("sudo pacman -S tor");
+        QVERIFY(PanelModel(plain).installHintIsCommand());
+    }
+};
+
+QTEST_MAIN(PanelModelTest)
+#include "PanelModelTest.moc"

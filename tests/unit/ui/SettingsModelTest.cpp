@@ -1,0 +1,97 @@
+#include "StandInSession.h"
+#include "ui/SettingsModel.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace veldmark;
+
+class SettingsModelTest : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir folder;
+    PlatformProfile profile = PlatformProfile::linux(Places::below(folder.path()));
+
+    static void write(const QString &path, const QByteArray &text)
+    {
+        QDir().mkpath(QFileInfo(path).absolutePath());
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+
+private Q_SLOTS:
+    void saysWhetherTorIsThere()
+    {
+        StandInSession session(profile);
+        const SettingsModel settings(session);
+        Snapshot s;
+        session.show(s);
+        QCOMPARE(settings.torStatus(), QStringLiteral("Not found"));
+        s.choices.customTorPath = QStringLiteral("/opt/tor");
+        session.show(s);
+        QCOMPARE(settings.torStatus(), QStringLiteral("Missing"));
+        QCOMPARE(settings.torPlace(), QStringLiteral("/opt/tor"));
+        s.torPath = QStringLiteral("/opt/tor");
+        session.show(s);
+        QCOMPARE(settings.torStatus(), QStringLiteral("Found"));
+    }
+
+    void choosesTor()
+    {
+        StandInSession session(profile);
+        SettingsModel settings(session);
+        settings.chooseTor(QUrl::fromLocalFile(QStringLiteral("/opt/a b/tor")));
+        QCOMPARE(session.now().choices.customTorPath, QStringLiteral("/opt/a b/tor"));
+        QVERIFY(settings.torCustom());
+        settings.chooseTor({});
+        QVERIFY(!settings.torCustom());
+    }
+
+    void tellsOfTheBundle()
+    {
+        StandInSession session(profile);
+        const SettingsModel settings(session);
+        QCOMPARE(settings.bundleStatus(), QStringLiteral("Not downloaded"));
+        write(profile.bundleDirectory + QStringLiteral("/VERSION"), "14.0.4\n");
+        QCOMPARE(settings.bundleStatus(), QStringLiteral("Version 14.0.4 loaded"));
+        write(profile.bundleDirectory + QStringLiteral("/VERIFIED"), "https");
+        QCOMPARE(settings.bundleStatus(), QStringLiteral("Version 14.0.4 loaded"));
+        write(profile.bundleDirectory + QStringLiteral("/VERIFIED"), "signature\n");
+        QCOMPARE(settings.bundleStatus(), QStringLiteral("Version 14.0.4 loaded · signature verified"));
+    }
+
+    void restoresOnlyWhatIsChanged()
+    {
+        StandInSession session(profile);
+        SettingsModel settings(session);
+        Snapshot s;
+        session.show(s);
+        QVERIFY(!settings.changesActive());
+        QVERIFY(!settings.canRestore());
+        s.markerPresent = true;
+        session.show(s);
+        QVERIFY(settings.canRestore());
+        s.phase = Phase::disconnecting;
+        session.show(s);
+        QVERIFY(settings.changesActive());
+        QVERIFY(!settings.canRestore());
+    }
+
+    void storesSwitches()
+    {
+        StandInSession session(profile);
+        SettingsModel settings(session);
+        QVERIFY(!settings.canOpenAtLogin()); // unknown in the snapshot
+        settings.setAutoConnect(true);
+        settings.setTerminalMode(true);
+        settings.setOpenAtLogin(true);
+        QVERIFY(session.now().choices.autoConnect);
+        QVERIFY(session.now().choices.terminalMode);
+        QVERIFY(settings.openAtLogin());
+    }
+};
+
+QTEST_MAIN(SettingsModelTest)
+#include "SettingsModelTest.moc"
