@@ -109,6 +109,9 @@ undo_entry() {
   if [[ $name == "$TOR_ENTRY" ]] && [[ $status == 2 || -z $JOURNAL_TRUSTED ]]; then
     kill_stray_tor
   fi
+  if [[ $name == "$WATCHER_ENTRY" ]] && [[ $status == 2 || -z $JOURNAL_TRUSTED ]]; then
+    kill_stray_watcher
+  fi
   case $name in
   "$KDE_ENTRY") undo_kde ;;
   "$GNOME_ENTRY") undo_gnome ;;

@@ -91,6 +91,19 @@ start_watcher() {
   launch_watcher </dev/null >/dev/null 2>&1 &
 }
 
+# kill_stray_watcher: without a record, root's process of that very command in this network is ours.
+kill_stray_watcher() {
+  local folder word words
+  for folder in /proc/[1-9]*; do
+    [[ -O $folder && $folder/ns/net -ef /proc/self/ns/net ]] || continue
+    words=''
+    while IFS= read -r -d '' word; do
+      words="$words $word"
+    done <"$folder/cmdline" || true
+    [[ $words != " /bin/bash -p -- $WATCHER" ]] || kill -KILL "${folder#/proc/}" || true
+  done
+}
+
 # undo_watcher: it never waits for us, so it is killed at once. A change of rules that it was in the middle of keeps
 # the rules' lock, so that the firewall opens after that.
 undo_watcher() {

@@ -190,7 +190,7 @@ class Machine:
                     continue
                 with open(f"/proc/{pid}/cmdline", "rb") as file:
                     line = file.read().replace(b"\0", b" ").decode(errors="replace")
-                if line and not line.startswith(("nft -s list table ", "setpriv --pdeathsig KILL nft ")):
+                if line and not line.startswith(("nft -s list table ", "setpriv --pdeathsig KILL nft ", "flock -w 10 7 ")):
                     lines.append(line.replace("\n", " ") + "\n")
             except OSError:
                 pass

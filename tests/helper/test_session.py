@@ -213,7 +213,7 @@ class Session(HelperTest):
         self.assertEqual((done.stdout, done.stderr), ("", ""))
 
     def test_torn_journal_still_opens_the_network(self):
-        for entry in "10-firewall", "20-tor", "30-resolver":
+        for entry in "10-firewall", "12-exempt", "15-watcher", "20-tor", "30-resolver":
             with self.subTest(entry):
                 self.machine.connect()
                 self.machine.shell(f"printf 'pid 1' >/var/lib/veldmark/journal/{entry}")

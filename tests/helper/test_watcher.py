@@ -107,11 +107,12 @@ class Watcher(HelperTest):
     def test_disconnecting_against_a_flusher_leaves_nothing(self):
         """The lock must not come back after the network was opened."""
         for _ in range(5):
-            flusher = self.machine.start("/bin/sh", "-c", "while nft flush ruleset; do :; done", stderr=subprocess.DEVNULL)
+            flusher = self.machine.start("/bin/sh", "-c", "while [ ! -e /run/enough ]; do nft flush ruleset; done",
+                                         stderr=subprocess.DEVNULL)
             self.machine.help("disconnect")
-            flusher.kill()
+            self.machine.shell("touch /run/enough")
             flusher.wait()
-            self.machine.shell("pkill -f 'while nft flush' || true; while pgrep -x nft; do :; done")
+            self.machine.shell("rm /run/enough")
             self.assertEqual(self.machine.snapshot(), self.before)
             self.machine.connect()
 

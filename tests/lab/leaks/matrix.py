@@ -1,0 +1,86 @@
+"""The table of the leak matrix: what each identity's probes brought to the router, and what was promised.
+
+A cell holds two counts: packets seen in the control run, when nothing blocks them, and in the session. Promises: CLOSED, no packet;
+OPEN, at least one (Tor's own account, or an application that is opened without Tor); ABSENT, this identity cannot send it at all.
+"""
+
+from dataclasses import dataclass
+
+from leaks import probes
+from veldlab import topology as at
+
+IDENTITIES = ("nobody", "root", "Tor's account", "without Tor")
+CLOSED, OPEN, ABSENT = "closed", "open", "absent"
+SENTINEL = "203.0.113.99"   # as Tor's account: what was sent before it has arrived before it
+
+_TCP = {"tcp", "tcp-bound", "tcp-lan", "mapped", "fastopen", "userns"}
+_KERNELS_OWN = {"igmp", "mld"}   # sent by the kernel, for no application
+_HEADER = "scenario"
+
+
+def promise(name: str, identity: int) -> str:
+    """What the strict session says about a probe kind."""
+    how = probes.PROBES[name][0]
+    if name in probes.RAW and identity != 1:
+        return ABSENT
+    if identity == 3 and how not in _KERNELS_OWN:
+        return OPEN
+    if identity == 2 and how in _TCP:
+        return OPEN
+    return CLOSED
+
+
+def is_allowed(packet) -> bool:
+    """The whole allow-list of what the host may send in strict mode besides the probes that are let out."""
+    if packet.family == "arp":
+        return True
+    if packet.proto == "icmp6":   # neighbour discovery
+        return packet.dst.startswith(("ff02::1:ff", "fe80::")) or packet.dst in (
+            "ff02::2", at.ROUTER_LAN_ADDRESS6, at.LAN_ADDRESS6)
+    if packet.proto == "tcp":
+        return packet.dst in at.RELAY_ADDRESSES or packet.dst == SENTINEL
+    return False
+
+
+@dataclass
+class Cell:
+    promise: str
+    control: int = 0
+    session: int = 0
+
+    @property
+    def kept(self) -> bool:
+        if self.promise == ABSENT:
+            return self.control == 0 and self.session == 0
+        return self.control > 0 and (self.session > 0) == (self.promise == OPEN)
+
+    def __str__(self) -> str:
+        if self.promise == ABSENT:
+            return "-"
+        mark = "" if self.kept else "  BROKEN"
+        return f"{self.control} / {self.session}{' open' if self.promise == OPEN else ''}{mark}"
+
+
+class Matrix:
+    def __init__(self):
+        self.rows: dict[str, list[Cell]] = {}
+        self.strangers: dict[str, list] = {}   # packets that are nobody's and not on the allow-list
+
+    def row(self, name: str, promises) -> list[Cell]:
+        return self.rows.setdefault(name, [Cell(p) for p in promises])
+
+    def add_kinds(self, counts: dict, phase: str) -> None:
+        """`counts`: {(probe, identity): packets}; `phase`: control or session."""
+        for name in probes.PROBES:
+            cells = self.row(name, [promise(name, i) for i in range(len(IDENTITIES))])
+            for identity, cell in enumerate(cells):
+                setattr(cell, phase, counts.get((name, identity), 0))
+
+    def broken(self, names) -> list[str]:
+        return [f"{name}, {identity}: {cell}" for name, cells in self.rows.items() if name in names
+                for identity, cell in zip(IDENTITIES, cells) if not cell.kept]
+
+    def __str__(self) -> str:
+        lines = [[_HEADER, *IDENTITIES]] + [[name, *map(str, cells)] for name, cells in self.rows.items()]
+        widths = [max(len(line[i]) for line in lines) for i in range(len(lines[0]))]
+        return "\n".join("  ".join(text.ljust(width) for text, width in zip(line, widths)).rstrip() for line in lines)

@@ -1,0 +1,486 @@
+"""The leak matrix: what leaves the user's machine in strict mode, at every moment and by every way that came to mind.
+
+Every scenario runs as four identities (nobody, root, Tor's account, an application without Tor), with all of the router's packets
+captured and no filter but matrix.is_allowed. It runs first while nothing blocks it, and must then be seen. Prints the table.
+"""
+
+import contextlib
+import os
+import subprocess
+import sys
+import time
+import unittest
+from pathlib import Path
+
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(Path(__file__).resolve().parent))
+
+from leaks import matrix, probes  # noqa: E402
+from leaks.matrix import ABSENT, CLOSED, OPEN, Matrix  # noqa: E402
+from veldlab import topology as at  # noqa: E402
+from veldlab.lab import PROJECT, Lab  # noqa: E402
+from veldlab.product import Product  # noqa: E402
+
+PROGRAMS = Path(os.environ.get("VELDMARK_PROGRAMS", PROJECT / "build" / "bin"))
+PROBES = str(Path(__file__).resolve().with_name("leaks") / "probes.py")
+HASH = "16:" + "0123456789ABCDEF" * 3 + "0123456789"
+MARKER = "/var/lib/veldmark/state/active"
+GROUP = "/sys/fs/cgroup/veldmark-exempt"
+EVERYBODY = range(len(matrix.IDENTITIES))
+CONTAINER, FORWARDER = 4, 5   # indices of senders that are no identity of their own
+LAN_NAMES = ("a neighbour, TCP", "a neighbour, TCP, IPv6", "a neighbour, UDP", "the gateway, TCP")
+NEVER_LAN = ("DNS to the gateway", "DNS to a neighbour", "mDNS", "mDNS, IPv6", "LLMNR", "LLMNR, IPv6", "NetBIOS names",
+             "NetBIOS datagrams")
+
+
+class Leaks(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.lab = Lab()
+        cls.lab.up()
+        cls.addClassCleanup(cls.lab.down)
+        cls.product = Product(cls.lab, PROGRAMS)
+        cls.host = cls.lab.host
+        cls.matrix = Matrix()
+        cls.addClassCleanup(lambda: print(f"\npackets seen when nothing blocks / in strict mode\n{cls.matrix}", flush=True))
+        world = ("ip route add blackhole 203.0.113.0/24; ip route add blackhole 2001:db8:cb::/64")
+        cls.lab.spaces["world"].run(["sh", "-c", world], check=True)
+        cls.sh("echo '0 2147483647' >/proc/sys/net/ipv4/ping_group_range; echo 2 >/proc/sys/net/ipv4/conf/eth0/force_igmp_version;"
+               "echo 1 >/proc/sys/net/ipv6/conf/eth0/force_mld_version; echo 0 >/proc/sys/net/ipv4/icmp_ratelimit")
+        cls.connect()
+        cls.disconnect()   # the account that Tor runs under exists from here on
+        cls.sentinels = 0
+
+    def setUp(self):
+        self.known = set(self.matrix.rows)
+
+    # ---- The host ----
+
+    @classmethod
+    def sh(cls, script, **options):
+        return cls.host.run(["/bin/bash", "-c", script], check=True, **options).stdout
+
+    @classmethod
+    def helper(cls, *words, check=True):
+        return cls.host.run(["env", f"PKEXEC_UID={cls.host.uid}", "/bin/bash", str(PROGRAMS / "veldmark-helper.sh"), *words], check=check)
+
+    @classmethod
+    def connect(cls, lan=0, check=True):
+        return cls.helper("connect", "--tor", "/usr/bin/tor", "--hash", HASH, "--strict", "1", "--lan", str(lan), check=check)
+
+    @classmethod
+    def disconnect(cls):
+        cls.helper("disconnect")
+
+    @contextlib.contextmanager
+    def session(self, **options):
+        self.connect(**options)
+        try:
+            yield
+        finally:
+            self.disconnect()
+
+    def words(self, identity, *arguments):
+        """(command, options) that runs probes.py as the identity."""
+        command = ["/usr/bin/python3", "-B", PROBES, *map(str, arguments)]
+        if identity == 3:   # in the group by the hand of root, as the helper does; without a session there is none
+            uid = str(self.host.uid)
+            enter = f'[ ! -d {GROUP} ] || echo 0 >{GROUP}/cgroup.procs; exec setpriv --reuid {uid} --regid {uid} --clear-groups "$@"'
+            return ["/bin/sh", "-c", enter, "sh", *command], {}
+        user = ("nobody", "root", "_veldmark", "root", "root", "root")[identity]
+        return command, {"user": user, "cwd": "/"}
+
+    def start(self, identity, *arguments, **pipes):
+        command, options = self.words(identity, *arguments)
+        return self.host.popen(command, **options, **({"stdout": subprocess.PIPE, "stderr": subprocess.STDOUT, "text": True} | pipes))
+
+    def send(self, names, identities=EVERYBODY):
+        """All identities at once; returns when everything has been sent."""
+        running = {}
+        for identity in identities:
+            mine = [n for n in names if matrix.promise(n, identity) != ABSENT]
+            running[identity] = self.start(identity, "send", identity, *mine)
+        for identity, process in running.items():
+            output, _ = process.communicate(timeout=60)
+            self.assertEqual(process.returncode, 0, f"{matrix.IDENTITIES[identity]}: {output}")
+
+    # ---- The router ----
+
+    @contextlib.contextmanager
+    def watched(self):
+        """Both of the router's links; the object yielded has the packets from the user's side once the context has ended."""
+        seen = Seen()
+        with self.lab.capture("host") as host, self.lab.capture("world") as world:
+            seen.captures = host, world
+            yield seen
+            self.settle(seen)
+        seen.packets = [[p for p in capture.packets if p.out] for capture in (host, world)]
+
+    def settle(self, seen):
+        """Returns when what the host has sent so far is recorded: a packet that is let out in every state has come after it."""
+        type(self).sentinels += 1
+        port = 1000 + self.sentinels
+        self.host.run(["/usr/bin/python3", "-c", "import socket; s = socket.socket(); s.setblocking(False);"
+                       f"s.connect_ex(('{matrix.SENTINEL}', {port}))"], user="_veldmark", cwd="/", check=True)
+        for capture in seen.captures:
+            capture.wait_for(lambda p: p.dst == matrix.SENTINEL and p.dport == port)
+
+    def run_probes(self, names, identities=EVERYBODY):
+        with self.watched() as seen:
+            self.send(names, identities)
+        return seen
+
+    def assert_no_strangers(self, scenario, seen):
+        strangers = seen.strangers()
+        self.assertEqual(strangers, [], f"{scenario}: packets of nobody's that are not on the allow-list")
+
+    # ---- Scenarios ----
+
+    def test_1_every_kind_of_packet(self):
+        self.matrix.add_kinds(self.run_probes(list(probes.PROBES)).counts(), "control")
+        with self.session():
+            seen = self.run_probes(list(probes.PROBES))
+        self.matrix.add_kinds(seen.counts(), "session")
+        self.assert_no_strangers("every kind", seen)
+        self.assert_kept()
+
+    def assert_kept(self):
+        """The rows of this test."""
+        self.assertEqual(self.matrix.broken(set(self.matrix.rows) - self.known), [])
+
+    def core(self, scenario, names=probes.CORE, phase="session", identities=EVERYBODY):
+        """One row: the sum over ordinary probes for each identity. Tor's TCP goes out by right, so its row is for the rest."""
+        cells = self.matrix.row(scenario, [CLOSED if i < 3 and i in identities else OPEN if i in identities else ABSENT for i in EVERYBODY])
+        seen = self.run_probes(names, identities)
+        counts = seen.counts()
+        for (name, identity), number in counts.items():
+            if identity < len(cells) and not (identity == 2 and probes.PROBES[name][0] == "tcp"):
+                setattr(cells[identity], phase, getattr(cells[identity], phase) + number)
+        if phase == "session":
+            self.assert_no_strangers(scenario, seen)
+        return seen
+
+    def in_both(self, arrangements):
+        """Each arrangement of the network, {name: (make, unmake, probes)}: first without a session, then in one."""
+        for phase in ("control", "session"):
+            with self.session() if phase == "session" else contextlib.nullcontext():
+                for name, (make, unmake, names) in arrangements.items():
+                    with self.subTest(name, phase=phase):
+                        self.sh(make)
+                        try:
+                            self.core(name, names, phase)
+                        finally:
+                            self.sh(unmake)
+
+    def test_2_networks_that_change_during_the_session(self):
+        four = [n for n in probes.CORE if "IPv6" not in n]
+        router = self.lab.router
+        router.run(["sh", "-c", "echo 1 >/proc/sys/net/ipv4/conf/br0/proxy_arp; echo 0 >/proc/sys/net/ipv4/neigh/br0/proxy_delay"], check=True)
+        via = at.ROUTER_LAN_ADDRESS
+        self.in_both({
+            "a new route for half of the world": (
+                f"ip route add 0.0.0.0/1 via {via}; ip route add 128.0.0.0/1 via {via}", "ip route del 0.0.0.0/1; ip route del 128.0.0.0/1", probes.CORE),
+            "a new route for one address": (
+                "".join(f"ip route add {probes.public(i)}/32 via {via};" for i in EVERYBODY),
+                "".join(f"ip route del {probes.public(i)}/32;" for i in EVERYBODY), four),
+            "public addresses announced as on the link": ("ip route add 203.0.113.96/27 dev eth0; ip route add 203.0.113.128/25 dev eth0",
+                                                           "ip route del 203.0.113.96/27; ip route del 203.0.113.128/25", four),
+            "a new address": ("ip addr add 192.168.77.60/24 dev eth0; ip route replace default via 192.168.77.1 src 192.168.77.60",
+                              "ip route replace default via 192.168.77.1; ip addr del 192.168.77.60/24 dev eth0", four),
+            "somebody else's rule that accepts": (
+                "nft -f - <<<'table inet other { chain o { type filter hook output priority -300; policy accept; accept; };"
+                " chain p { type filter hook output priority 300; policy accept; accept; }; }'", "nft delete table inet other", probes.CORE),
+            "an interface that appears": (
+                "ip link add new0 type veth peer name new1; ip link set new0 up; ip link set new1 up; ip addr add 10.9.0.1/24 dev new0",
+                "ip link del new0", probes.CORE),
+        })
+        self.assert_kept()
+
+    def test_3_a_second_way_out(self):
+        """A device that is plugged in later, with a way to the world of its own."""
+        four = [n for n in probes.CORE if "IPv6" not in n]
+        for phase in ("control", "session"):
+            with self.session() if phase == "session" else contextlib.nullcontext():
+                self.lab.router.run(["sh", "-c", "ip link add two1 type veth peer name two0 netns host; ip link set two1 master br0; "
+                                     "ip link set two1 up"], check=True)
+                self.sh("ip link set two0 up; ip addr add 192.168.78.70/24 dev two0; ip route add 192.168.77.1/32 dev two0 metric 1;"
+                        "ip route add 203.0.113.96/27 via 192.168.77.1 dev two0; ip route add 203.0.113.128/25 via 192.168.77.1 dev two0")
+                try:
+                    self.core("a second device with a way out", four, phase)
+                finally:
+                    self.sh("ip link del two0")
+        self.assert_kept()
+
+    def test_4_moments_of_a_session(self):
+        moments = [
+            "Tor has not bootstrapped yet", "connected", "Tor was killed", "Tor hangs", "the rules were loaded twenty times", "fix-dns ran",
+            "somebody flushed the rules, and they are back", "Tor could not start again", "the helper was killed while it connected again",
+        ]
+        control = {}
+        seen = self.run_probes(probes.CORE)
+        for (name, identity), number in seen.counts().items():
+            if not (identity == 2 and probes.PROBES[name][0] == "tcp"):
+                control[identity] = control.get(identity, 0) + number
+        for moment in moments:
+            for identity, cell in enumerate(self.matrix.row(moment, [CLOSED, CLOSED, CLOSED, OPEN])):
+                cell.control = control.get(identity, 0)
+        self.sh("rm -rf /var/lib/veldmark/run/data")
+        with self.session():
+            self.core("Tor has not bootstrapped yet")
+            self.sh("until grep -q 'Bootstrapped 100%' /var/lib/veldmark/run/notices.log; do sleep 0.05; done", timeout=60)
+            self.core("connected")
+            self.sh("pkill -STOP -u _veldmark")
+            self.core("Tor hangs")
+            self.sh("pkill -KILL -u _veldmark; while pgrep -u _veldmark; do sleep 0.01; done")
+            self.core("Tor was killed")
+            self.helper("fix-dns")
+            self.core("fix-dns ran")
+            self.sh("until pgrep -x nft; do sleep 0.01; done; nft flush ruleset; until nft list chain inet veldmark output; do :; done >/dev/null 2>&1")
+            self.core("somebody flushed the rules, and they are back")
+            holder = self.host.popen(["/usr/bin/python3", "-c", "import socket,sys; s = socket.create_server(('127.0.0.1', 9051));"
+                                      "print('up', flush=True); sys.stdin.read()"], stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+            self.assertEqual(holder.stdout.readline(), b"up\n")
+            self.assertNotEqual(self.connect(check=False).returncode, 0)
+            self.core("Tor could not start again")
+            holder.communicate()
+            self.under_flood("the rules were loaded twenty times", lambda: self.sh(
+                "for i in $(seq 20); do nft -f /var/lib/veldmark/run/firewall.nft; done"))
+            stepped = str(PROJECT / "tests" / "helper" / "stepped.sh")
+            words = ["connect", "--tor", "/usr/bin/tor", "--hash", HASH, "--strict", "1", "--lan", "0"]
+
+            def killed():
+                for step in (150, 300, 450, 600, 750, 900):
+                    self.host.run(["env", "-i", f"PKEXEC_UID={self.host.uid}", "/bin/bash", "-p", stepped, str(PROGRAMS / "veldmark-helper.sh"),
+                                   "/run/steps", str(step), *words])
+                    self.sh("flock /run/veldmark.lock true")
+
+            self.under_flood("the helper was killed while it connected again", killed)
+        self.assert_kept()
+
+    def under_flood(self, scenario, action):
+        """The row's count is what came through while `action` ran, with all identities sending without pause."""
+        cells = self.matrix.rows[scenario]
+        with self.watched() as seen:
+            floods = [self.start(i, "flood", i, *probes.CORE, stdin=subprocess.PIPE) for i in EVERYBODY]
+            try:
+                for flood in floods:
+                    self.assertEqual(flood.stdout.readline(), "ready\n")
+                action()
+            finally:
+                for flood in floods:
+                    flood.communicate()
+        for (name, identity), number in seen.counts().items():
+            if not (identity == 2 and probes.PROBES[name][0] == "tcp"):
+                cells[identity].session += number
+        self.assert_no_strangers(scenario, seen)
+
+    def test_5_from_the_first_moment_to_the_last(self):
+        """Probes without pause over a whole connect and disconnect: none between the rules' standing and the disconnect."""
+        cells = self.matrix.row("from the first rule to the disconnect", [CLOSED] * 3 + [ABSENT])
+        with self.lab.capture("host") as capture:
+            floods = [self.start(i, "flood", i, *probes.CORE, stdin=subprocess.PIPE) for i in range(3)]
+            for flood in floods:
+                self.assertEqual(flood.stdout.readline(), "ready\n")
+            for identity in range(3):
+                capture.wait_for(lambda p, i=identity: probes.owner(p) == ("UDP", i))
+            before = self.counted(capture.packets)
+            waiting = self.host.popen(["/bin/bash", "-c", "until nft list chain inet veldmark output; do :; done >/dev/null 2>&1"])
+            helper = self.host.popen(["env", f"PKEXEC_UID={self.host.uid}", "/bin/bash", str(PROGRAMS / "veldmark-helper.sh"), "connect",
+                                      "--tor", "/usr/bin/tor", "--hash", HASH, "--strict", "1", "--lan", "0"])
+            self.assertEqual(waiting.wait(30), 0)
+            seen = Seen()
+            seen.captures = (capture,)
+            self.settle(seen)
+            first = len(capture.packets)
+            self.assertEqual(helper.wait(60), 0)
+            self.settle(seen)
+            during = self.counted(capture.packets[first:])
+            for flood in floods:
+                flood.communicate()
+            self.disconnect()
+        for identity in range(3):
+            cells[identity].control, cells[identity].session = before.get(identity, 0), during.get(identity, 0)
+        self.assert_kept()
+
+    @staticmethod
+    def counted(packets):
+        counts = {}
+        for packet in packets:
+            owner = probes.owner(packet) if packet.out else None
+            if owner and not (owner[1] == 2 and probes.PROBES[owner[0]][0] == "tcp"):
+                counts[owner[1]] = counts.get(owner[1], 0) + 1
+        return counts
+
+    def test_6_what_was_open_before(self):
+        rows = {name: self.matrix.row(name, promises) for name, promises in {
+            "a TCP connection from before": [CLOSED, CLOSED, OPEN, CLOSED], "a UDP flow from before": [CLOSED] * 4,
+            "a DNS flow from before": [CLOSED] * 4}.items()}
+        bases = dict(zip(rows, (probes.HELD_TCP, probes.HELD_UDP, probes.HELD_DNS)))
+        holders = [self.start(i, "hold", i, stdin=subprocess.PIPE) for i in EVERYBODY]
+        for holder in holders:
+            self.assertEqual(holder.stdout.readline(), "ready\n")
+
+        def use(phase):
+            with self.watched() as seen:
+                for holder in holders:
+                    holder.stdin.write("\n")
+                    holder.stdin.flush()
+                    self.assertEqual(holder.stdout.readline(), "sent\n")
+            for name, cells in rows.items():
+                for identity, cell in enumerate(cells):
+                    port = bases[name] + identity
+                    # What is no more than the end of a connection tells nobody anything new; data would.
+                    found = [p for p in seen.packets[0] if p.sport == port]
+                    setattr(cell, phase, len(found))
+
+        use("control")
+        with self.session():
+            use("session")
+            for holder in holders:
+                holder.communicate()
+        self.assert_kept()
+
+    def test_7_a_container_behind_the_machine(self):
+        cells = self.matrix.row("forwarded for a container", [ABSENT, CLOSED, ABSENT, ABSENT])
+        holder = self.host.popen(["unshare", "--net", "sh", "-c", "echo $$; exec sleep 1000"], stdout=subprocess.PIPE, text=True)
+        pid = holder.stdout.readline().strip()
+        # The number is the host's own, since the shell prints it there.
+        self.sh(f"ip link add c0 type veth peer name c1; ip link set c1 netns {pid}; ip link set c0 up; ip addr add 10.88.0.1/24 dev c0;"
+                "ip addr add fd88::1/64 dev c0 nodad; echo 1 >/proc/sys/net/ipv4/ip_forward; echo 1 >/proc/sys/net/ipv6/conf/all/forwarding;"
+                f"nsenter -t {pid} -n sh -c 'ip link set lo up; ip link set c1 up; ip addr add 10.88.0.2/24 dev c1; ip addr add fd88::2/64 dev c1 nodad;"
+                "ip route add default via 10.88.0.1; ip -6 route add default via fd88::1'; ip route replace ::/0 via 2001:db8:77::1")
+        try:
+            for phase in ("control", "session"):
+                with self.session() if phase == "session" else contextlib.nullcontext():
+                    with self.watched() as seen:
+                        self.host.run(["nsenter", "-t", pid, "-n", "/usr/bin/python3", "-B", PROBES, "send", str(CONTAINER), *probes.CORE], check=True)
+                    setattr(cells[1], phase, sum(n for (_, i), n in seen.counts().items() if i == CONTAINER))
+                    if phase == "session":
+                        self.assert_no_strangers("container", seen)
+        finally:
+            self.sh("ip link del c0; echo 0 >/proc/sys/net/ipv4/ip_forward; echo 0 >/proc/sys/net/ipv6/conf/all/forwarding;"
+                    f"kill {pid}; ip route replace ::/0 via 2001:db8:77::1")
+            holder.wait()
+            holder.stdout.close()
+        self.assert_kept()
+
+    def test_8_a_local_proxy_of_roots(self):
+        cells = self.matrix.row("by a local proxy of root's", [CLOSED, ABSENT, ABSENT, ABSENT])
+        forwarder = self.start(FORWARDER, "forward", FORWARDER)
+        self.assertEqual(forwarder.stdout.readline(), "ready\n")
+        try:
+            for phase in ("control", "session"):
+                with self.session() if phase == "session" else contextlib.nullcontext():
+                    with self.watched() as seen:
+                        asked = self.start(0, "ask")
+                        output, _ = asked.communicate(timeout=30)
+                        self.assertEqual(asked.returncode, 0, output)
+                    setattr(cells[0], phase, sum(n for (_, i), n in seen.counts().items() if i == FORWARDER))
+        finally:
+            forwarder.kill()
+            forwarder.communicate()
+        self.assert_kept()
+
+    def test_9_probes_from_outside(self):
+        """Nothing that comes uninvited is answered, neither from the neighbour nor from the world."""
+        cells = self.matrix.row("answers to probes from outside", [ABSENT, CLOSED, ABSENT, ABSENT])
+        server = self.host.popen(["/usr/bin/python3", "-c", "import socket; s = socket.create_server(('', 8081)); print('up', flush=True);"
+                                  "\nwhile True: s.accept()"], stdout=subprocess.PIPE)
+        self.assertEqual(server.stdout.readline(), b"up\n")
+        knock = ("import socket, struct\nfor port in (8081, 81):\n s = socket.socket(); s.setblocking(False); s.connect_ex(('192.168.77.2', port))\n"
+                 "u = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); u.sendto(b'x', ('192.168.77.2', 82))\n"
+                 "p = socket.socket(socket.AF_INET, socket.SOCK_RAW, 1); p.sendto(struct.pack('!BBHHH', 8, 0, 0xF7FF, 0, 0), ('192.168.77.2', 0))")
+        try:
+            for phase in ("control", "session"):
+                with self.session() if phase == "session" else contextlib.nullcontext():
+                    with self.watched() as seen:
+                        for space in ("lan", "world"):
+                            self.lab.spaces[space].run(["/usr/bin/python3", "-c", knock], check=True)
+                    answers = [p for p in seen.packets[0] if not matrix.is_allowed(p) and p.dst in (at.LAN_ADDRESS, at.WORLD_ADDRESS, "203.0.113.1")]
+                    setattr(cells[1], phase, len(answers))
+        finally:
+            server.kill()
+            server.communicate()
+        self.assert_kept()
+
+    def test_a_with_the_local_network_open(self):
+        control = self.run_probes([*LAN_NAMES, *NEVER_LAN, *probes.CORE]).counts()
+        with self.session(lan=1):
+            seen = self.run_probes([*LAN_NAMES, *NEVER_LAN, *probes.CORE])
+            session = seen.counts()
+        groups = {"with --lan 1: the local network": (LAN_NAMES[:1] + LAN_NAMES[2:], [OPEN] * 4),
+                  "with --lan 1: names from the local network": (NEVER_LAN, [CLOSED] * 3 + [OPEN]),
+                  "with --lan 1: the world": (probes.CORE, [CLOSED] * 3 + [OPEN])}
+        for row, (names, promises) in groups.items():
+            for identity, cell in enumerate(self.matrix.row(row, promises)):
+                wanted = [n for n in names if not (identity == 2 and row.endswith("world") and probes.PROBES[n][0] == "tcp")]
+                cell.control = sum(control.get((n, identity), 0) for n in wanted)
+                cell.session = sum(session.get((n, identity), 0) for n in wanted)
+        self.assert_kept()
+
+    def test_b_the_application_was_killed(self):
+        control = self.run_probes(probes.CORE)
+        cells = self.matrix.row("the application was killed", [CLOSED] * 3 + [OPEN])
+        for (name, identity), number in control.counts().items():
+            if not (identity == 2 and probes.PROBES[name][0] == "tcp"):
+                cells[identity].control += number
+        with self.product.session() as session:
+            session.wait_phase("connected")
+            self.host.run(["pkill", "-KILL", "veldmarkctl"], check=True)
+            session.process.wait()
+        self.core("the application was killed")
+        self.disconnect()
+        after = self.run_probes(probes.CORE).counts()
+        open_again = self.matrix.row("after the disconnect everything is open again", [OPEN] * 4)
+        for (_, identity), number in control.counts().items():
+            open_again[identity].control += number
+        for (_, identity), number in after.items():
+            open_again[identity].session += number
+        self.assert_kept()
+
+    def test_c_an_application_that_was_opened_without_tor(self):
+        """By the helper's own verb: it reaches the world directly, and names by the resolver as it was."""
+        script = "/usr/local/bin/opened"
+        self.host.write(script, "#!/bin/sh\ncurl -4 -sS --max-time 10 http://www.example.test/ip >/home/alice/ip.new 2>&1\n"
+                                "mv /home/alice/ip.new /home/alice/ip\n", mode=0o755)
+        with self.session():
+            since = len(self.lab.world.dns_log())
+            self.helper("launch", "--uid", str(self.host.uid), "--app", script)
+            self.sh("until [ -e /home/alice/ip ]; do sleep 0.02; done", timeout=30)
+            self.assertEqual(self.sh("cat /home/alice/ip").strip(), at.HOST_ADDRESS)
+            asked = [entry for entry in self.lab.world.dns_log(since) if entry["name"] == "www.example.test"]
+            self.assertTrue(asked and all(entry["source"] == at.HOST_ADDRESS for entry in asked), asked)
+        self.sh(f"rm {script} /home/alice/ip")
+
+
+class Seen:
+    """What two captures saw of the user's machine."""
+
+    packets: list
+    captures: tuple
+
+    def counts(self):
+        """{(probe, identity): packets}; the larger number of the two links, since most packets pass both."""
+        totals = {}
+        for packets in self.packets:
+            found = {}
+            for packet in packets:
+                owner = probes.owner(packet)
+                if owner:
+                    found[owner] = found.get(owner, 0) + 1
+            for owner, number in found.items():
+                totals[owner] = max(totals.get(owner, 0), number)
+        return totals
+
+    def strangers(self):
+        """On the link to the user's machine; the other one has the router's own packets as well."""
+        return [str(p) for p in self.packets[0] if not probes.owner(p) and not matrix.is_allowed(p)]
+
+
+if __name__ == "__main__":
+    from veldlab import requirements
+    reason = requirements.missing()
+    if reason:
+        print(f"skipped: {reason}")
+        sys.exit(77)
+    unittest.main(verbosity=2)
