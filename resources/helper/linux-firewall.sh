@@ -54,6 +54,14 @@ print_control_guard() {
 END
 }
 
+# print_lookup_guard: a look-up too short for its own header (12 bytes after the 8 of UDP) ends some versions of Tor.
+print_lookup_guard() {
+  cat <<END
+		ip daddr 127.0.0.0/8 udp dport $DNS_PORT udp length < 20 drop
+		ip6 daddr ::1 udp dport $DNS_PORT udp length < 20 drop
+END
+}
+
 # print_proxy_rules TOR_UID USER_UID: everything may leave, but names are looked up through Tor. What could not be
 # redirected (connections older than the rules, DNS over TCP) is refused.
 print_proxy_rules() {
@@ -64,6 +72,7 @@ print_proxy_rules() {
 		type filter hook output priority 0; policy accept;
 END
   print_control_guard "$1" "$2"
+  print_lookup_guard
   cat <<END
 		oifname "lo" accept
 		meta skuid $1 accept
@@ -88,6 +97,7 @@ print_strict_rules() {
 		type filter hook output priority 0; policy drop;
 END
   print_control_guard "$1" "$2"
+  print_lookup_guard
   cat <<END
 		oifname "lo" accept
 		ct status dnat ip daddr 127.0.0.0/8 udp dport $DNS_PORT accept

@@ -247,10 +247,9 @@ void ControllerSession::setOpenAtLogin(bool on)
     schedule();
 }
 
-void ControllerSession::launchBypassed(const QString &)
+void ControllerSession::launchBypassed(const QString &path)
 {
-    m_notice = tr("This version cannot open apps without Tor yet.");
-    schedule();
+    m_controller.launchBypassed(path);
 }
 
 } // namespace veldmark

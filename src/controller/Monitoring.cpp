@@ -3,7 +3,9 @@
 #include "base/Clock.h"
 #include "checks/NetworkProbe.h"
 #include "control/ControlPort.h"
+#include "platform/PlatformProfile.h"
 
+#include <QFile>
 #include <QPointer>
 
 using namespace std::chrono_literals;
@@ -16,6 +18,7 @@ constexpr auto monitorInterval = 2s;
 constexpr auto counterReadLimit = 3s; // a tor that is stopped, not dead, must not stop the loop
 constexpr int ticksPerDNSCheck = 15;  // every 30 seconds
 constexpr int failuresUntilDead = 3;
+constexpr qint64 relockLimitBytes = 64;
 
 const QString readKey = QStringLiteral("traffic/read");
 const QString writtenKey = QStringLiteral("traffic/written");
@@ -36,6 +39,7 @@ TorController::Attempt TorController::startAttempt()
 
 void TorController::startMonitoring()
 {
+    m_relockNotice.clear();
     monitor(++m_monitor);
 }
 
@@ -51,6 +55,7 @@ QCoro::Task<void> TorController::monitor(quint64 run)
             co_return;
         if (phase() != ConnectionPhase::connected || !m_controlPassword)
             continue;
+        showRelock();
         if (++tick % ticksPerDNSCheck == 0) {
             co_await checkDNS(false);
             if (!self || run != m_monitor)
@@ -72,6 +77,19 @@ QCoro::Task<void> TorController::monitor(quint64 run)
             co_return;
         }
     }
+}
+
+void TorController::showRelock()
+{
+    QFile file(m_services.profile.relockNotice);
+    const QByteArray notice = file.open(QIODevice::ReadOnly) ? file.read(relockLimitBytes).trimmed() : QByteArray();
+    if (notice.isEmpty() || notice == m_relockNotice)
+        return;
+    m_relockNotice = notice;
+    errorMessage = notice.startsWith("restored")
+        ? QStringLiteral("Another program removed Veldmark's firewall rules; they are back in place.")
+        : QStringLiteral("Another program removed Veldmark's firewall rules and they could not be put back. Traffic "
+                         "may leave this computer directly. Disconnect and connect again.");
 }
 
 void TorController::torDied()

@@ -34,6 +34,7 @@ Production::Production(const PlatformProfile &profile)
     , m_probe(m_clock)
     , m_resolvers(resolverSource(m_profile, m_clock, m_processes))
     , m_terminal(m_profile, NetworkProbe::checkURL().toString())
+    , m_applications(runningApplications())
     , m_downloader(m_profile, m_processes, m_clock)
     , m_controller(TorController::Services{
           .profile = m_profile,
@@ -45,6 +46,7 @@ Production::Production(const PlatformProfile &profile)
           .probe = m_probe,
           .resolvers = *m_resolvers,
           .terminal = m_terminal,
+          .applications = *m_applications,
           .locateTransports =
               [profile = m_profile] {
                   return PluggableTransports::locateAsync(profile, TransportDownloader::installedVersion(profile));

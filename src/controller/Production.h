@@ -7,6 +7,7 @@
 #include "control/ControlPort.h"
 #include "controller/TorController.h"
 #include "platform/PlatformProfile.h"
+#include "platform/RunningApplications.h"
 #include "system/ChildProcessRunner.h"
 #include "system/PrivilegedRunner.h"
 #include "system/SettingsStore.h"
@@ -37,6 +38,7 @@ private:
     ExitCheckProbe m_probe;
     std::unique_ptr<ResolverSource> m_resolvers;
     TerminalIntegration m_terminal;
+    std::unique_ptr<RunningApplications> m_applications;
     TransportDownloader m_downloader;
     TorController m_controller;
 };

@@ -144,11 +144,6 @@ bool TorController::canDownloadTransports() const
         && phase() != ConnectionPhase::disconnecting;
 }
 
-bool TorController::canLaunchBypassed() const
-{
-    return phase() == ConnectionPhase::connected && activeMode() == RoutingMode::strict;
-}
-
 QCoro::Task<void> TorController::locateTransports()
 {
     const QPointer<TorController> self(this);

@@ -31,6 +31,7 @@ class NetworkProbe;
 class PrivilegedRunner;
 class ProcessRunner;
 class ResolverSource;
+class RunningApplications;
 class TerminalIntegration;
 struct PlatformProfile;
 
@@ -63,6 +64,7 @@ public:
         NetworkProbe &probe;
         ResolverSource &resolvers;
         TerminalIntegration &terminal;
+        RunningApplications &applications;
         std::function<QCoro::Task<PluggableTransports>()> locateTransports;
         BridgeProbe bridgeProbe;
         // TransportDownloader::install(); without it downloadTransports() does nothing.
@@ -164,6 +166,13 @@ public:
     // bundle was installed, whatever else there is to say about it.
     QCoro::Task<bool> downloadTransports();
 
+    // --- Operations: applications without Tor; paths as `bypassApps` holds them. ---
+    // Ignores what is no application of this system, and what is listed already.
+    void addBypassApp(const QString &path);
+    void removeBypassApp(const QString &path);
+    // Does nothing unless `canLaunchBypassed()`. Running copies are asked to quit first.
+    QCoro::Task<void> launchBypassed(QString path);
+
     // --- Operations: helper without a password, terminal. ---
     // Reinstalls the root-owned helper when the program brought a newer one.
     QCoro::Task<void> updatePrivilegedHelper();
@@ -240,6 +249,7 @@ private:
     void stopMonitoring() { ++m_monitor; }
     QCoro::Task<void> monitor(quint64 run);
     void torDied();
+    void showRelock();
     struct TimedProbe {
         ProbeResult answer;
         std::chrono::milliseconds elapsed; // in both outcomes
@@ -261,6 +271,7 @@ private:
     quint64 m_monitor = 0;  // the running monitor loop
     std::optional<QString> m_controlPassword; // of the running session; in memory only
     bool m_isDownloading = false;             // transports
+    QByteArray m_relockNotice;                // as last shown in this session
     bool m_dnsLiveVerified = false;           // a live DNS check passed in this session
     QStringList m_pendingBridgeLines;         // of the connection being set up
     QStringList m_activeBridgeLines;          // of the running session

@@ -74,6 +74,7 @@ PlatformProfile PlatformProfile::linux(const Places &places)
                          "its location in Settings.").arg(profile.torInstallHint);
 
     profile.sessionMarker = at("/var/lib/veldmark/state/active");
+    profile.relockNotice = at("/var/lib/veldmark/state/relocked");
     profile.installedHelper = at("/usr/local/libexec/veldmark/veldmark-helper.sh");
     profile.sudoersRule = at("/etc/sudoers.d/veldmark");
     profile.runDirectory = at("/var/lib/veldmark/run");
@@ -106,6 +107,7 @@ PlatformProfile PlatformProfile::linux(const Places &places)
     profile.bundleDirectory = places.dataHome + QStringLiteral("/veldmark/TorExpertBundle");
     profile.bundleArchivePrefix = QStringLiteral("tor-expert-bundle-linux-%1-").arg(places.machine);
 
+    profile.applicationSuffix = QStringLiteral(".desktop");
     profile.settingsFile = places.configHome + QStringLiteral("/veldmark/veldmark.conf");
     profile.autostartFile = places.configHome + QStringLiteral("/autostart/veldmark.desktop");
     const QString zshrc = places.home + QStringLiteral("/.zshrc");

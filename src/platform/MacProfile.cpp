@@ -21,6 +21,8 @@ PlatformProfile PlatformProfile::macos(const Places &places)
         "sudo bash /Applications/Veldmark.app/Contents/Resources/veldmark-helper.sh disconnect");
 
     profile.sessionMarker = at("/Library/Application Support/Veldmark/state/active");
+    profile.relockNotice = at("/Library/Application Support/Veldmark/state/relocked");
+    profile.applicationSuffix = QStringLiteral(".app");
     profile.installedHelper = at("/Library/Application Support/Veldmark/bin/veldmark-helper.sh");
     profile.sudoersRule = at("/etc/sudoers.d/veldmark");
     profile.runDirectory = at("/var/db/veldmark/run");

@@ -52,6 +52,7 @@ struct PlatformProfile {
 
     // The helper and what it leaves behind.
     QString sessionMarker;    // exists while the network is set up for Tor; holds "proxy" or "strict"
+    QString relockNotice;     // written when somebody changed the firewall's rules; "restored N" or "open N"
     QString installedHelper;  // the root-owned copy for use without a password
     QString sudoersRule;
     QString runDirectory;     // Tor's logs; see launcherOutput
@@ -76,6 +77,7 @@ struct PlatformProfile {
     QString bundleArchivePrefix; // VERSION and ".tar.gz" follow
 
     // The user's own files.
+    QString applicationSuffix; // of the paths that name applications: ".desktop" or ".app"
     QString settingsFile; // empty: the system's own settings store
     QString autostartFile; // empty: the system's login-item service
     QStringList shellFilesAlways;     // terminal mode adds its block, creating the file

@@ -89,6 +89,15 @@ class Kill(HelperTest):
                 self.assertTrue(self.machine.tor_pids(), "the kill switch opened before the new Tor ran")
         self.trials(self.machine.connect, connect_words("0"), check)
 
+    def test_fix_dns(self):
+        def check(state):
+            self.assertEqual(state[:2], ("strict", True))
+
+        def prepare():
+            self.machine.connect()
+            self.machine.shell("umount /etc/resolv.conf")
+        self.trials(prepare, ["fix-dns"], check)
+
     def test_disconnect(self):
         def check(state):
             marker, drop, _, _ = state

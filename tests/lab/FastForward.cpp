@@ -18,6 +18,7 @@
 #include "system/ChildProcessRunner.h"
 #include "system/PrivilegedRunner.h"
 #include "system/SettingsStore.h"
+#include "platform/RunningApplications.h"
 #include "terminal/TerminalIntegration.h"
 
 #include <QCoreApplication>
@@ -95,6 +96,8 @@ int main(int argc, char **argv)
     ExitCheckProbe probe(systemClock);
     LinuxResolverSource resolvers(systemClock, profile.resolverFile);
     TerminalIntegration terminal(profile, NetworkProbe::checkURL().toString());
+    const auto running = runningApplications();
+    RunningApplications &applications = *running;
     TorController controller(TorController::Services{
         .profile = profile,
         .settings = settings,
@@ -105,6 +108,7 @@ int main(int argc, char **argv)
         .probe = probe,
         .resolvers = resolvers,
         .terminal = terminal,
+        .applications = applications,
         .locateTransports = [&profile] { return PluggableTransports::locateAsync(profile); },
         .bridgeProbe =
             [&systemClock](const QString &host, quint16 port, std::chrono::milliseconds limit) {

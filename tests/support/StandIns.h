@@ -3,8 +3,11 @@
 #include "base/ResumeOnce.h"
 #include "checks/NetworkProbe.h"
 #include "checks/ResolverSource.h"
+#include "platform/RunningApplications.h"
 #include "system/ProcessRunner.h"
 
+#include <QHash>
+#include <QSet>
 #include <QStringList>
 
 #include <deque>
@@ -101,6 +104,20 @@ public:
     std::vector<DNSResolver> answer;
     std::function<QCoro::Task<void>()> beforeAnswer;
     int readings = 0;
+};
+
+// Applications that have the names and copies that a test gives them; a copy ends when the test says so.
+class ScriptedApplications final : public RunningApplications {
+public:
+    QString displayName(const QString &path) const override { return names.value(path, path); }
+    std::vector<qint64> copiesOf(const QString &path) const override { return copies.value(path); }
+    void askToQuit(qint64 process) override { asked.push_back(process); }
+    bool hasEnded(qint64 process) const override { return ended.contains(process); }
+
+    QHash<QString, QString> names;
+    QHash<QString, std::vector<qint64>> copies;
+    std::vector<qint64> asked;
+    QSet<qint64> ended;
 };
 
 } // namespace veldmark

@@ -125,6 +125,7 @@ void Workbench::restart()
         .probe = probe,
         .resolvers = resolvers,
         .terminal = terminal,
+        .applications = applications,
         .locateTransports = [this] {
             ++searches;
             return answered(transports);

@@ -96,6 +96,7 @@ public:
     ScriptedProbe probe;
     ScriptedResolvers resolvers;
     TerminalIntegration terminal;
+    ScriptedApplications applications;
     PluggableTransports transports; // what a search finds
     int searches = 0;               // for transports
     // How long a bridge takes to answer; none answer unless this says so.

@@ -11,7 +11,7 @@ from veldlab import topology as at
 
 IDENTITIES = ("nobody", "root", "Tor's account", "without Tor")
 CLOSED, OPEN, ABSENT = "closed", "open", "absent"
-SENTINEL = "203.0.113.99"   # as Tor's account: what was sent before it has arrived before it
+SENTINEL = "203.0.113.90"   # as Tor's account: what was sent before it has arrived before it
 
 _TCP = {"tcp", "tcp-bound", "tcp-lan", "mapped", "fastopen", "userns"}
 _KERNELS_OWN = {"igmp", "mld"}   # sent by the kernel, for no application

@@ -371,6 +371,7 @@ private Q_SLOTS:
             .probe = bench.probe,
             .resolvers = bench.resolvers,
             .terminal = bench.terminal,
+            .applications = bench.applications,
             .locateTransports = [] { return nothingFound(); },
             .bridgeProbe = bench.bridgeProbe,
         });

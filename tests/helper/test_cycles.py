@@ -1,0 +1,31 @@
+"""Many sessions one after the other leave nothing behind: no process, mount, group, rule, file or descriptor."""
+
+import os
+
+import namespace
+from namespace import HelperTest
+
+CYCLES = int(os.environ.get("VELDMARK_CYCLES", "20"))   # 200 take some minutes
+
+
+class Cycles(HelperTest):
+    def everything(self):
+        """The snapshot, and what it does not look at: all our files, and how many descriptors the first process has."""
+        return self.machine.snapshot() + self.machine.shell(
+            "find /var/lib/veldmark /run /tmp/veldmark* -not -path '*/run/data/*' -printf '%p %y %m %U\\n' 2>/dev/null | sort; ls /proc/1/fd | wc -l")
+
+    def test_nothing_is_left(self):
+        self.machine.connect()
+        self.machine.help("disconnect")   # logs and configuration of the last session stay
+        before = self.everything()
+        for cycle in range(CYCLES):
+            self.machine.connect(strict=cycle % 4 != 3, lan=cycle % 2)
+            if cycle % 10 == 0:
+                self.assertNotEqual(self.everything(), before)
+            self.machine.help("disconnect")
+            if cycle % 10 == 9 or cycle == CYCLES - 1:
+                self.assertEqual(self.everything(), before, f"after {cycle + 1} sessions")
+
+
+if __name__ == "__main__":
+    namespace.main()
