@@ -123,7 +123,11 @@ void ControllerSession::read()
     next.canDownloadTransports = c.canDownloadTransports();
     next.passwordlessInstalled = c.passwordlessInstalled();
     next.startupError = c.startupError();
+    if (c.terminalMode() != std::exchange(m_terminalModeWasOn, c.terminalMode()))
+        m_terminalHint = c.terminalMode() ? c.terminalHint() : QString();
     next.terminalError = c.terminalError();
+    if (!next.terminalError && !m_terminalHint.isEmpty())
+        next.terminalError = m_terminalHint;
     next.terminalInstalled = QFile::exists(c.profile().terminalDirectory);
     next.torPath = c.torPath();
     next.markerPresent = c.isSessionMarkerPresent();

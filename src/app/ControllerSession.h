@@ -43,6 +43,8 @@ private:
     TorController &m_controller;
     SettingsStore &m_settings;
     bool m_scheduled = false;
+    QString m_terminalHint;          // asked when terminal mode is switched on
+    bool m_terminalModeWasOn = false;
     std::optional<QString> m_notice; // of this program's own, shown until it is dismissed
 };
 

@@ -129,6 +129,11 @@ QCoro::Task<ExitStatus> askInstance(Invocation invocation, std::shared_ptr<Insta
     co_return show(invocation, *last) ? ExitStatus::done : ExitStatus::usage;
 }
 
+QString noteLine(const QString &text)
+{
+    return text.isEmpty() ? QString() : text + u'\n';
+}
+
 // What can be done without a running instance, by a controller that lives for this one command.
 QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production> production)
 {
@@ -145,6 +150,8 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
             Console::printError(*problem);
             co_return ExitStatus::failed;
         }
+        if (invocation.key == controller.terminalMode.key() && controller.terminalMode())
+            Console::draw(noteLine(controller.terminalError().value_or(controller.terminalHint())));
         co_return ExitStatus::done;
     }
 

@@ -126,6 +126,8 @@ QString status(const QJsonObject &state)
     }
     if (const QString error = text(state, "errorMessage"); !error.isEmpty())
         report += row("Problem", error);
+    if (const QString error = text(state, "terminalError"); !error.isEmpty())
+        report += row("Terminal", error);
     return report;
 }
 

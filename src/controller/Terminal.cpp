@@ -21,6 +21,11 @@ void TorController::applyTerminalMode()
     m_services.terminal.setActive(terminalMode() && phase() == ConnectionPhase::connected);
 }
 
+QString TorController::terminalHint() const
+{
+    return m_services.terminal.sshHint();
+}
+
 void TorController::removeTerminalIntegration()
 {
     setTerminalMode(false);

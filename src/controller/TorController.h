@@ -180,6 +180,9 @@ public:
     QCoro::Task<void> removePasswordless();
     std::optional<QString> setTerminalMode(bool on); // as Setting::set()
     void removeTerminalIntegration();
+    // What to install so that ssh goes through Tor in terminal mode; empty when it does. Starts
+    // programs to ask them, so not for every redraw.
+    QString terminalHint() const;
 
     // Reads the value of Tor's "status/bootstrap-phase".
     static BootstrapStatus parseBootstrap(const QString &reply);
