@@ -3,6 +3,7 @@
 
     parsing   framing and reading circuit-status lines; the yardstick is python3-stem on the same lines
     helper    the helper's connect and disconnect in strict mode, in the private Tor network
+    killswitch  how long the rules take to load, and what they cost, against none, interleaved
     prompt    what terminal mode's hook adds to a shell's prompt, in the private Tor network
     connect   from the call of connect() to connected, against a bare tor with the same torrc, interleaved
 
@@ -134,6 +135,55 @@ def connect(lab: Lab, product: Product, pairs: int = 8) -> None:
     report("difference", middle(ours) - middle(theirs), "s", "at most 1.3")
 
 
+# Sends for a second and prints what the other side took: bytes over one TCP stream, or datagrams of 64 bytes.
+SINK = """
+import socket, sys
+if sys.argv[1] == "tcp":
+    s = socket.create_server(("192.168.77.9", 7070)); print("up", flush=True); c = s.accept()[0]; total = 0
+    while (n := len(c.recv(1 << 20))): total += n
+else:
+    s = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.setsockopt(1, 33, 1 << 26); s.bind(("192.168.77.9", 7070)); print("up", flush=True); total = 0
+    while s.recv(100) != b"end": total += 1
+print(total, flush=True)
+"""
+SOURCE = """
+import socket, sys, time
+if sys.argv[1] == "tcp":
+    s = socket.create_connection(("192.168.77.9", 7070)); block = bytes(1 << 17); end = time.monotonic() + 1
+    while time.monotonic() < end: s.sendall(block)
+else:
+    s = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.connect(("192.168.77.9", 7070)); block = bytes(64); end = time.monotonic() + 1
+    while time.monotonic() < end: s.send(block)
+    try:
+        while True: s.send(b"end"); time.sleep(0.01)
+    except ConnectionRefusedError: pass   # it has heard, and gone
+"""
+
+
+def throughput(lab: Lab, kind: str) -> int:
+    sink = lab.lan.popen(["/usr/bin/python3", "-c", SINK, kind], stdout=subprocess.PIPE, text=True)
+    sink.stdout.readline()
+    lab.host.run(["/usr/bin/python3", "-c", SOURCE, kind], check=True)
+    return int(sink.communicate(timeout=20)[0])
+
+
+def killswitch(lab: Lab, product: Product, pairs: int = 8) -> None:
+    hashed = lab.host.run(["tor", "--quiet", "--hash-password", "bench"], check=True).stdout.split()[-1]
+    ratios: dict[str, list[float]] = {"tcp": [], "udp": []}
+    for pair in range(pairs):
+        without = {kind: throughput(lab, kind) for kind in ratios}
+        product.run_helper("connect", "--tor", "/usr/bin/tor", "--hash", hashed, "--strict", "1", "--lan", "1", check=True)
+        if pair == 0:
+            script = f"for i in $(seq 20); do start=${{EPOCHREALTIME/./}}; nft -f {RUN_FOLDER}/firewall.nft; echo $((${{EPOCHREALTIME/./}} - start)); done"
+            loads = [int(line) / 1000 for line in lab.host.run(["bash", "-c", script], check=True).stdout.split()]
+        for kind, values in ratios.items():
+            values.append(throughput(lab, kind) / without[kind])
+        product.run_helper("disconnect", check=True)
+    report("kill switch: rules loaded", middle(loads), "ms", "at most 50", spread(loads))
+    report("kill switch: one TCP stream, share of that without", middle(ratios["tcp"]), "", "at least 0.97", spread(ratios["tcp"]))
+    report("kill switch: datagrams of 64 bytes, likewise", middle(ratios["udp"]), "", "at least 0.85", spread(ratios["udp"]))
+
+
 PROMPTS = 1000
 PLAIN_HOME = "/root/plain"
 # Read by an interactive shell line by line, so with a prompt and its hooks before each; prints when it began and
@@ -182,15 +232,15 @@ def main() -> int:
     parser.add_argument("--json", metavar="FILE", help="also write the figures there")
     parser.add_argument("--only", default="", metavar="WORD")
     arguments = parser.parse_args()
-    groups = [name for name in ("parsing", "helper", "prompt", "connect") if arguments.only in name]
+    groups = [name for name in ("parsing", "helper", "killswitch", "prompt", "connect") if arguments.only in name]
     try:
         if "parsing" in groups:
             print("parsing")
             parsing()
-        if {"helper", "prompt", "connect"} & set(groups):
+        if {"helper", "killswitch", "prompt", "connect"} & set(groups):
             with Lab() as lab:
                 product = Product(lab, PROGRAMS)
-                for name, group in (("helper", helper), ("prompt", prompt), ("connect", connect)):
+                for name, group in (("helper", helper), ("killswitch", killswitch), ("prompt", prompt), ("connect", connect)):
                     if name in groups:
                         print(name)
                         group(lab, product)

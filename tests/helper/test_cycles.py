@@ -19,7 +19,7 @@ class Cycles(HelperTest):
         self.machine.help("disconnect")   # logs and configuration of the last session stay
         before = self.everything()
         for cycle in range(CYCLES):
-            self.machine.connect(strict=cycle % 4 != 3, lan=cycle % 2)
+            self.machine.connect(strict=int(cycle % 4 != 3), lan=cycle % 2)
             if cycle % 10 == 0:
                 self.assertNotEqual(self.everything(), before)
             self.machine.help("disconnect")

@@ -157,12 +157,12 @@ class Firewall(HelperTest):
         stand_in = self.machine.start(
             "/usr/bin/python3", "-c",
             "import socket\ns = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.bind(('127.0.0.1', 9053)); print('up', flush=True)\n"
-            "while True:\n d, a = s.recvfrom(99); s.sendto(b'answer to ' + d, a)\n if d == b'end': break", stdout=subprocess.PIPE, text=True)
+            "while True:\n d, a = s.recvfrom(99); s.sendto(b'answer to ' + d, a)\n if d == b'end of queries': break", stdout=subprocess.PIPE, text=True)
         self.assertEqual(stand_in.stdout.readline(), "up\n")
         ask = ("import socket, sys\nfor a in sys.argv[1:]:\n s = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.settimeout(10)\n"
-               " s.sendto(b'end' if a == 'end' else b'q', ('127.0.0.1' if a == 'end' else a, 53)); print(s.recvfrom(99)[0].decode())")
+               " s.sendto(b'end of queries' if a == 'end' else b'a whole query', ('127.0.0.1' if a == 'end' else a, 53)); print(s.recvfrom(99)[0].decode())")
         said = self.machine.run("/usr/bin/python3", "-c", ask, "127.0.0.1", "127.0.0.53", probes.PUBLIC, probes.LAN, "end", uid=USER_UID).stdout
-        self.assertEqual(said, "answer to q\n" * 4 + "answer to end\n")
+        self.assertEqual(said, "answer to a whole query\n" * 4 + "answer to end of queries\n")
         stand_in.communicate()
         self.assertEqual(set(self.wire.mark()) - LINK, set())
 

@@ -201,7 +201,8 @@ class Leaks(unittest.TestCase):
         four = [n for n in probes.CORE if "IPv6" not in n]
         for phase in ("control", "session"):
             with self.session() if phase == "session" else contextlib.nullcontext():
-                self.lab.router.run(["sh", "-c", "ip link add two1 type veth peer name two0 netns host; ip link set two1 master br0; "
+                # A bridge takes the lowest address of its ports; a new one must not change the gateway's.
+                self.lab.router.run(["sh", "-c", "ip link add two1 address fe:ff:ff:ff:ff:fe type veth peer name two0 netns host; ip link set two1 master br0; "
                                      "ip link set two1 up"], check=True)
                 self.sh("ip link set two0 up; ip addr add 192.168.77.70/32 dev two0; ip route add 192.168.77.1/32 dev two0 src 192.168.77.70;"
                         "ip route add 203.0.113.96/27 via 192.168.77.1 dev two0; ip route add 203.0.113.128/25 via 192.168.77.1 dev two0")
