@@ -4,6 +4,8 @@
 #include <QTcpSocket>
 #include <QTimer>
 
+#include <utility>
+
 namespace veldmark {
 
 FakeTor::FakeTor()
@@ -66,12 +68,21 @@ void FakeTor::sendEvent(const QByteArray &bytes)
     }
 }
 
+void FakeTor::answerIgnored()
+{
+    m_ignored.clear();
+    for (Client &client : m_clients) {
+        for (const QByteArray &command : std::exchange(client.ignored, {}))
+            send(client, answerTo(command));
+    }
+}
+
 void FakeTor::accept()
 {
     while (QTcpSocket *socket = m_server.nextPendingConnection()) {
         ++m_connectionCount;
         socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
-        const auto client = m_clients.insert(m_clients.end(), Client{socket, {}, {}});
+        const auto client = m_clients.insert(m_clients.end(), Client{socket, {}, {}, {}});
         connect(socket, &QTcpSocket::readyRead, this, [this, client] { read(*client); });
         // Queued: a client may go while its commands are being answered.
         connect(socket, &QTcpSocket::disconnected, this, [this, socket] {
@@ -99,8 +110,10 @@ void FakeTor::answer(Client &client, const QByteArray &command)
     m_commands += QString::fromUtf8(command);
     client.subscribed = client.subscribed || command.startsWith("SETEVENTS ");
     client.closing = m_closing.contains(command);
-    if (m_silent || m_ignored.contains(command))
+    if (m_silent || m_ignored.contains(command)) {
+        client.ignored += command;
         return;
+    }
     if (m_replies.contains(command) || !client.closing)
         send(client, answerTo(command));
     else

@@ -35,8 +35,10 @@ public:
     void replyOnce(const QByteArray &command, const QByteArray &bytes);
     // The connection is closed when the answer, if there is one, has been sent.
     void closeAfter(const QByteArray &command) { m_closing += command; }
-    // The command is taken and never answered.
+    // The command is taken and not answered before answerIgnored().
     void ignore(const QByteArray &command) { m_ignored += command; }
+    // Answers what ignore() has left unanswered on connections that are still open.
+    void answerIgnored();
     // As ignore(), for all commands.
     void setSilent(bool silent) { m_silent = silent; }
     // Every byte in a packet of its own, each in its own turn of the event loop.
@@ -62,6 +64,7 @@ private:
         QTcpSocket *socket;
         QByteArray received;
         QByteArray pending; // not yet sent while dribbling
+        QByteArrayList ignored = {}; // commands, in order
         bool subscribed = false;
         bool closing = false;
     };

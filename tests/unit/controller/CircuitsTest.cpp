@@ -203,6 +203,23 @@ private Q_SLOTS:
         QVERIFY(c.circuits().empty() && !c.circuitError());
     }
 
+    void asksNothingMoreForASessionThatIsOver()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        answer(bench, {circuit("1")});
+        const QByteArray question = "GETINFO ns/id/" + exitRelay;
+        bench.tor.reply(question, Workbench::block("ns/id/" + exitRelay, {"r n A B 2026-03-01 10:00:00 192.0.2.2 9001 0"}));
+        bench.tor.ignore(question);
+        const auto refreshing = bench.controller().refreshCircuits();
+        QVERIFY(bench.hears(question.constData()));
+        bench.disconnect();
+        QVERIFY(bench.controller().phase() == Phase::disconnected);
+        bench.tor.answerIgnored();
+        QVERIFY(Workbench::finished(refreshing));
+        QVERIFY(!bench.tor.commands().contains(u"GETINFO ip-to-country/192.0.2.2"_s));
+    }
+
     void asksForANewIdentity()
     {
         Workbench bench;

@@ -3,6 +3,7 @@
 #include "support/Workbench.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QTest>
 
 #include <sys/stat.h>
@@ -118,8 +119,8 @@ private Q_SLOTS:
         } else {
             QFile file(path);
             QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+            QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-60), QFile::FileModificationTime));
         }
-        QTest::qSleep(5); // the file's time lies before now, by the clock of the file system
         const auto lock = lockInstance(place.profile);
         QVERIFY2(lock, lock ? "" : qPrintable(lock.error()));
         QVERIFY(!lockInstance(place.profile));
