@@ -60,6 +60,10 @@ def parsing() -> None:
     report("10,000 circuit-status lines: framed and read", framed + parsed, "ms", "at most 20")
     report("the same with python3-stem", middle([read_with_stem() * 1000 for _ in range(5)]), "ms", "yardstick", "of 5 runs")
     report("graph of 1,000 circuits: build and layout", circuits["graphMedianMs"], "ms", "at most 5")
+    log = measured("LogBench")
+    slowest = max(value for key, value in log.items() if key.endswith("MedianMs"))
+    report("Tor's log, 3 x 1 MB: read, merged and parsed", slowest, "ms", "at most 25", f"slowest kind of content, of {log['repetitions']} runs")
+    report("Tor's log: one look when nothing has changed", log["pollMedianUs"] / 1000, "ms", "three stat calls")
 
 
 def clean_start(lab: Lab) -> None:

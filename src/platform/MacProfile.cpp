@@ -59,7 +59,7 @@ PlatformProfile PlatformProfile::macos(const Places &places)
     profile.sshDirectory = places.home + QStringLiteral("/.ssh");
     profile.resolverFile = at("/etc/resolv.conf");
     profile.scutil = at("/usr/sbin/scutil");
-    profile.controlSocket = support + QStringLiteral("/control");
+    profile.controlSocket = support + QStringLiteral("/run/control"); // in a folder of its own
     return profile;
 }
 
