@@ -118,7 +118,7 @@ private Q_SLOTS:
             QVERIFY(QFileInfo(path).size() > 0);
         } else {
             QFile file(path);
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush());
             QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-60), QFile::FileModificationTime));
         }
         const auto lock = lockInstance(place.profile);
