@@ -65,37 +65,40 @@ take_back_reference() {
 }
 
 # held_token: prints the token of the entry that was read, if pf still knows it. A run that was killed before it could
-# note its token has noted the process that took it.
+# note its token has noted the process that took it. Status 2: that cannot be told.
 held_token() {
-  local token enabler pid name held rest
-  [[ $(journal_value boot) == "$(boot_id)" ]] || return 0
+  local token enabler pid name held rest boot listing
+  boot=$(boot_id) || return 2
+  [[ $(journal_value boot) == "$boot" ]] || return 0
   token=$(journal_value token) || token=''
   enabler=$(journal_value enabler) || enabler=''
+  [[ -n $token$enabler ]] || return 0
+  listing=$(pfctl -s References) || return 2
   while read -r pid name held rest; do
     [[ $held =~ ^[0-9]+$ ]] || continue
     if [[ $held == "$token" ]] || [[ -z $token && $pid == "$enabler" && $name == pfctl ]]; then
       printf '%s' "$held"
-      return
+      return 0
     fi
-  done < <(pfctl -s References)
+  done <<<"$listing"
 }
 
 # enable_firewall: keeps pf on until the token is given back.
 enable_firewall() {
-  local output token
+  local output token boot
   journal_read "$FIREWALL_ENTRY" || true
-  token=$(held_token)
+  { boot=$(boot_id) && token=$(held_token); } || die "The firewall's state cannot be read."
   if [[ -z $token ]]; then
     # In bash 3.2 a subshell learns its process id from a child only. It is pfctl's too, which it becomes.
     # shellcheck disable=SC2016
     output=$(
       pid=$(exec sh -c 'echo "$PPID"') &&
-        journal_put "$FIREWALL_ENTRY" "boot $(boot_id)" "enabler $pid" && exec pfctl -E 2>&1
+        journal_put "$FIREWALL_ENTRY" "boot $boot" "enabler $pid" && exec pfctl -E 2>&1
     ) || die "The firewall cannot be switched on ($(pf_words "$output"))."
     [[ $output =~ Token\ :\ ([0-9]+) ]] || die "The firewall gave no token."
     token=${BASH_REMATCH[1]}
   fi
-  journal_put "$FIREWALL_ENTRY" "boot $(boot_id)" "token $token" || die "The journal cannot be written."
+  journal_put "$FIREWALL_ENTRY" "boot $boot" "token $token" || die "The journal cannot be written."
 }
 
 # kill_states: connections from before a change must not go on.
@@ -142,8 +145,7 @@ undo_firewall() {
     UNDONE="The network is open, but the firewall's main rules could not be put back."
     return 3
   fi
-  token=$(held_token)
-  if [[ -n $token ]] && ! pfctl -q -X "$token"; then
+  if ! token=$(held_token) || { [[ -n $token ]] && ! pfctl -q -X "$token"; }; then
     UNDONE="The network is open, but the firewall could not be given back."
     return 3
   fi

@@ -2,7 +2,7 @@
 # ---- macOS: connect and disconnect -------------------------------------------------------------------------
 
 darwin_connect() {
-  local mode=proxy former status=0
+  local mode=proxy former boot status=0
   parse_connect "$@"
   [[ $OPT_STRICT == 0 ]] || mode=strict
   need_programs perl pfctl networksetup launchctl dscl dscacheutil lsof sysctl ifconfig stat shasum readlink
@@ -13,6 +13,7 @@ darwin_connect() {
   ready_programs
   read_names
   ready_torrc
+  boot=$(boot_id) || die "The firewall's state cannot be read."
 
   # From here on the network changes. A strict session in force stays so until its successor stands.
   former=$(read_marker)
@@ -25,7 +26,7 @@ darwin_connect() {
   else
     ON_FAILURE=undo
   fi
-  journal_has "$FIREWALL_ENTRY" || journal_put "$FIREWALL_ENTRY" "boot $(boot_id)" || die "The journal cannot be written."
+  journal_has "$FIREWALL_ENTRY" || journal_put "$FIREWALL_ENTRY" "boot $boot" || die "The journal cannot be written."
   [[ $mode != strict ]] || ready_exempt
   if [[ $former != strict || $mode == strict ]]; then
     put_firewall "$mode"

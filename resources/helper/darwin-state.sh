@@ -48,10 +48,11 @@ find_caller() {
   done < <(scutil <<<"show State:/Users/ConsoleUser" || true)
 }
 
+# boot_id: tells one run of the computer from the next.
 boot_id() {
   local id
-  id=$(sysctl -n kern.bootsessionuuid) || id=unknown
-  printf '%s' "${id:-unknown}"
+  id=$(sysctl -n kern.bootsessionuuid) && [[ -n $id ]] || return 1
+  printf '%s' "$id"
 }
 
 # folder_is_safe "MODE UID KIND": a real folder of root's that nobody else can write.

@@ -5,7 +5,7 @@
 #
 # /mac/state: lines "KEY<TAB>VALUE", with \n, \t and \\ in a value escaped. /mac/calls: a line per call.
 # /mac/fail: "NUMBER MODE": that call from now on fails: "status" (nothing happens, status 1), "quiet" (a sentence on
-# standard output, status 0, nothing happens) or "late" (it happens, status 1).
+# standard output, status 0, nothing happens; only networksetup does that) or "late" (it happens, status 1).
 use strict;
 use warnings;
 
@@ -348,6 +348,7 @@ if (open(my $file, '<', '/mac/fail')) {
     print $new "$left $how\n";
     close $new;
 }
+$mode = 'status' if $mode eq 'quiet' && $name ne 'networksetup';
 if ($mode eq 'status') { print STDERR "$name: made to fail\n"; exit 1 }
 if ($mode eq 'quiet') { print "** Error: made to fail quietly.\n"; exit 0 }
 # What becomes another program must not hold the lock.
