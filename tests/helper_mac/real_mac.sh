@@ -2,6 +2,7 @@
 # real_mac.sh --change-this-mac HELPER: runs the root helper on this very Mac and looks whether it does what it should and
 # puts everything back. It switches the network of the machine: only for one that may be thrown away. Needs root, and
 # Homebrew's tor, which is kept off the network (DisableNetwork 1).
+# shellcheck disable=SC2317   # what check() is given to call
 set -u
 [[ ${1-} == --change-this-mac && -f ${2-} && $EUID == 0 && $(uname -s) == Darwin ]] || {
   echo "usage, as root on a Mac that may be thrown away: real_mac.sh --change-this-mac HELPER" >&2
@@ -52,7 +53,7 @@ all_switched() {
   done
 }
 
-tor_as_itself() { [[ $(ps -axo user=,command= | grep "[t]or -f /var/db/veldmark" | awk '{ print $1 }') == _veldmark ]]; }
+tor_as_itself() { pgrep -u _veldmark -x tor >/dev/null; }
 reaches_out() { curl -s -o /dev/null --noproxy '*' --connect-timeout 5 https://1.1.1.1/; }
 cannot_reach_out() { ! reaches_out; }
 same() { diff "$work/before" "$work/after"; }
