@@ -78,6 +78,8 @@ Window {
                     guide: Theme.line
                     outline: Theme.dark ? "transparent" : "#8a8a98"
                     drawFlags: ColorScheme.flagsDrawn
+                    emphasis: standingOut ? 1 : 0
+                    Behavior on emphasis { NumberAnimation { duration: Theme.quick; easing.type: Easing.OutCubic } }
                     Accessible.role: Accessible.Graphic
                     Accessible.name: window.model.subtitle
                     Rectangle {
