@@ -5,6 +5,7 @@
     helper    the helper's connect and disconnect in strict mode, in the private Tor network
     killswitch  how long the rules take to load, and what they cost, against none, interleaved
     prompt    what terminal mode's hook adds to a shell's prompt, in the private Tor network
+    desktop   redrawing the windows; first frame, memory and processor time of the application beside a bare tray program
     connect   from the call of connect() to connected, against a bare tor with the same torrc, interleaved
 
 Everything runs on this machine and in its own network namespaces. Exit status 77 where namespaces are not permitted.
@@ -31,6 +32,7 @@ BENCHES = PROJECT / "build" / "dev" / "bench"
 RUN_FOLDER = "/var/lib/veldmark/run"
 
 rows: list[dict] = []
+idle_seconds = 300.0  # how long the idle application is watched
 
 
 def report(name: str, value: float, unit: str, goal: str, yardstick: str = "") -> None:
@@ -231,22 +233,55 @@ def prompt(lab: Lab, product: Product, pairs: int = 7) -> None:
         session.interrupt()
 
 
+def windows() -> None:
+    graph, log = measured("GraphBench"), measured("LogWindowBench")
+    for count, goal in (("30", "below 8"), ("300", "below 30")):
+        report(f"graph of {count} circuits redrawn (processor time)", graph[f"{count}lightGraphMs"], "ms", goal,
+               f"of {graph['repetitions']} runs; dark {graph[f'{count}darkGraphMs']:.2f}")
+        report("  the whole window, after news from Tor", graph[f"{count}lightWindowMs"], "ms", "", f"dark {graph[f'{count}darkWindowMs']:.2f}")
+    for name, words in (("added", "a line added"), ("replaced", "every line replaced"), ("scrolled", "scrolled")):
+        report(f"log of 3,000 lines drawn, {words}", log[f"{name}Ms"], "ms", "at most 16", f"of {log['repetitions']} runs, at most {log[f'{name}MostMs']:.2f}")
+
+
+def desktop(lab: Lab, product: Product, pairs: int = 8) -> None:
+    probe = str(PROJECT / "bench" / "desktop_probe.py")
+    output = lab.host.run(["/usr/bin/python3", "-B", probe, str(PROGRAMS), str(BENCHES), str(pairs), str(idle_seconds)],
+                          env={"LANG": "C.UTF-8"}, check=True, timeout=idle_seconds + 600).stdout
+    figures = json.loads(output)
+    frames, idle = figures["firstFrameMs"], figures["idle"]
+    report("first frame of the bare tray program", middle(frames["bare"]), "ms", "yardstick", spread(frames["bare"]))
+    report("first frame of veldmark", middle(frames["veldmark"]), "ms", "", spread(frames["veldmark"]))
+    report("  in bare programs", middle(frames["veldmark"]) / middle(frames["bare"]), "", "at most 2.5")
+    for name, goal in (("bare", "yardstick"), ("veldmark", "at most 80")):
+        what, one = {"bare": "bare tray program, hidden", "veldmark": "veldmark, hidden and connected"}[name], idle[name]
+        report(f"{what}: resident memory", one["rssMB"], "MB", goal, f"{one['pssMB']:.1f} proportional, {one['ownMB']:.1f} its own")
+        report("  processor, share of one core", one["cpuPercent"], "%", "at most 0.3" if name == "veldmark" else "yardstick", f"over {idle_seconds:.0f} s")
+        report("  wake-ups each second", one["wakesPerSecond"], "", "")
+
+
 def main() -> int:
+    global idle_seconds
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--json", metavar="FILE", help="also write the figures there")
     parser.add_argument("--only", default="", metavar="WORD")
+    parser.add_argument("--idle", type=float, default=300, metavar="SECONDS", help="how long the idle application is watched")
     arguments = parser.parse_args()
-    groups = [name for name in ("parsing", "helper", "killswitch", "prompt", "connect") if arguments.only in name]
+    idle_seconds = arguments.idle
+    groups = [name for name in ("parsing", "helper", "killswitch", "prompt", "desktop", "connect") if arguments.only in name]
+    in_lab = {"helper", "killswitch", "prompt", "desktop", "connect"}
     try:
         if "parsing" in groups:
             print("parsing")
             parsing()
-        if {"helper", "killswitch", "prompt", "connect"} & set(groups):
+        if "desktop" in groups:
+            print("desktop")
+            windows()
+        if in_lab & set(groups):
             with Lab() as lab:
                 product = Product(lab, PROGRAMS)
-                for name, group in (("helper", helper), ("killswitch", killswitch), ("prompt", prompt), ("connect", connect)):
+                for name, group in (("helper", helper), ("killswitch", killswitch), ("prompt", prompt), ("desktop", desktop), ("connect", connect)):
                     if name in groups:
-                        print(name)
+                        print(f"{name}, in the private Tor network" if name == "desktop" else name)
                         group(lab, product)
     except LabUnavailable as error:
         print(error, file=sys.stderr)

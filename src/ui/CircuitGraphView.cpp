@@ -23,6 +23,8 @@ constexpr double nodeRadius = 13;
 constexpr double denseRadius = 7;
 constexpr double labelRow = 34; // rows closer than this have no room for a label below the node
 constexpr double clickRadius = 20;
+constexpr double wireDistance = 4; // of handles; strands lie at most 3/4 of it apart
+constexpr double ribbonWidth = 28;
 
 // How visible the rest stays beside a followed circuit, and beside those under the pointer.
 constexpr double fadedStrand = 0.14;
@@ -114,10 +116,20 @@ void CircuitGraphView::layOut()
         last[column] = place.at.y();
         m_places.push_back(std::move(place));
     }
+    // Strands between the same two nodes lie side by side, like the wires of a ribbon.
+    QHash<QString, std::pair<int, int>> ribbons; // how many there are, and how many have their place
+    const auto ribbon = [](const CircuitGraph::Edge &edge) { return edge.from + u'|' + edge.to; };
+    for (const CircuitGraph::Edge &edge : m_graph.edges)
+        ++ribbons[ribbon(edge)].first;
     m_links.clear();
     m_links.reserve(m_graph.edges.size());
-    for (const CircuitGraph::Edge &edge : m_graph.edges)
-        m_links.push_back({positions.value(edge.from), positions.value(edge.to), circuitAt.value(edge.circuitID)});
+    for (const CircuitGraph::Edge &edge : m_graph.edges) {
+        auto &[count, placed] = ribbons[ribbon(edge)];
+        const double step = count > 1 ? std::min(wireDistance, ribbonWidth / (count - 1)) : 0;
+        const size_t circuit = circuitAt.value(edge.circuitID);
+        m_links.push_back({positions.value(edge.from), positions.value(edge.to), circuit,
+                           m_circuits[circuit].bulge + step * (placed++ - (count - 1) / 2.0)});
+    }
 }
 
 void CircuitGraphView::light()
@@ -267,7 +279,7 @@ void CircuitGraphView::drawStrands(QPainter &painter, double scale, bool lit)
         const Circuit &circuit = m_circuits[link.circuit];
         if (circuit.lit != lit)
             continue;
-        Strand strand{link.from, link.to, circuit.bulge, 1.6, circuit.color, 0, m_outline};
+        Strand strand{link.from, link.to, link.bulge, 1.6, circuit.color, 0, m_outline};
         const double visible = opacity(lit, m_followedOut ? fadedStrand : dimmedStrand);
         strand.color.setAlphaF(static_cast<float>(visible));
         strand.edgeColor.setAlphaF(m_outline.alphaF() * static_cast<float>(visible));
@@ -326,9 +338,8 @@ void CircuitGraphView::drawLabel(QPainter &painter, double scale, size_t index, 
     const bool wanted = node.id == m_hovered || (m_standingOut && m_followedOut && m_places[index].lit && !isComputer);
     if (!isComputer && m_rows[static_cast<size_t>(node.column)] < labelRow && !wanted)
         return;
-    const double room = width() * (isComputer ? 0.14 : node.column == 4 ? 0.2 : 0.19);
-    // A wanted label may stand on neighbours, so it brings its own ground.
-    const QImage &picture = m_pictures.label(node.label, room, m_ink, wanted ? m_background : QColor(Qt::transparent));
+    const double room = width() * (isComputer ? 0.24 : node.column == 4 ? 0.2 : 0.19);
+    const QImage &picture = m_pictures.label(node.label, room, m_ink, m_background);
     const double half = picture.width() / scale / 2;
     const QPointF center(std::clamp(below.x(), half + 2, std::max(half + 2, width() - half - 2)), below.y() + 11);
     put(painter, picture, center * scale);

@@ -69,6 +69,7 @@ private:
         QPointF from;
         QPointF to;
         size_t circuit = 0; // index into m_circuits
+        double bulge = 0;   // points
     };
     struct Place { // of the node with the same index in the graph
         QPointF at;

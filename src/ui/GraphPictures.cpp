@@ -3,6 +3,7 @@
 #include "ui/Symbols.h"
 
 #include <QFontMetricsF>
+#include <QPainterPath>
 
 #include <cmath>
 
@@ -98,27 +99,28 @@ const QImage &GraphPictures::country(const QString &text, bool emoji, const QCol
     });
 }
 
-const QImage &GraphPictures::label(const QString &text, double room, const QColor &ink, const QColor &backing)
+const QImage &GraphPictures::label(const QString &text, double room, const QColor &ink, const QColor &ground)
 {
-    const QString key = named("label", {text, number(room), number(ink), number(backing)});
+    const QString key = named("label", {text, number(room), number(ink), number(ground)});
     const auto known = m_pictures.constFind(key);
     if (known != m_pictures.constEnd())
         return *known;
-    constexpr double margin = 5;
+    constexpr double rim = 2;
     QFont font = m_font;
     font.setPixelSize(12);
     const QFontMetricsF metrics(font);
-    const QString shortened = metrics.elidedText(text, Qt::ElideMiddle, room - 2 * margin);
-    const QSizeF size(std::ceil(metrics.horizontalAdvance(shortened)) + 2 * margin, labelHeight);
+    const QString shortened = metrics.elidedText(text, Qt::ElideMiddle, room - 2 * rim);
+    const QSizeF size(std::ceil(metrics.horizontalAdvance(shortened)) + 2 * rim, labelHeight);
+    const QPointF start(rim, (labelHeight + metrics.ascent() - metrics.descent()) / 2);
     return kept(key, size, [&](QPainter &painter) {
-        if (backing.alpha() > 0) {
-            painter.setPen(Qt::NoPen);
-            painter.setBrush(backing);
-            painter.drawRoundedRect(QRectF(QPointF(), size), margin, margin);
-        }
+        QPainterPath shape;
+        shape.addText(start, font, shortened);
+        QColor halo = ground;
+        halo.setAlphaF(0.85F);
+        painter.strokePath(shape, QPen(halo, 2 * rim, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         painter.setFont(font);
         painter.setPen(ink);
-        painter.drawText(QRectF(QPointF(), size), Qt::AlignCenter, shortened);
+        painter.drawText(start, shortened);
     });
 }
 

@@ -25,9 +25,9 @@ public:
     const QImage &symbol(const QString &name, double size, const QColor &color);
     // A flag as text, or a country's letters: `emoji` says which.
     const QImage &country(const QString &text, bool emoji, const QColor &ink);
-    // One line of text, shortened in its middle to at most `room`. With `backing` it stands on a
-    // rounded plate of that colour.
-    const QImage &label(const QString &text, double room, const QColor &ink, const QColor &backing = Qt::transparent);
+    // One line of text, shortened in its middle to at most `room`, with a rim in the colour of the ground
+    // so that it can be read above whatever it stands on.
+    const QImage &label(const QString &text, double room, const QColor &ink, const QColor &ground);
 
 private:
     const QImage &kept(const QString &key, QSizeF size, const std::function<void(QPainter &)> &draw);

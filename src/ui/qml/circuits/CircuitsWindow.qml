@@ -108,15 +108,18 @@ Window {
                     visible: !graph.visible
                     symbol: window.model.connected ? "point.3.connected.trianglepath.dotted" : "power"
                     title: window.model.connected ? qsTr("Reading circuits…") : qsTr("Connect to see your circuits")
+                    text: window.model.connected ? window.model.error : ""
                 }
             }
             Rectangle {
                 Layout.fillHeight: true
+                visible: graph.visible
                 implicitWidth: 1
                 color: Theme.line
             }
             CircuitsSidebar {
                 Layout.fillHeight: true
+                visible: graph.visible
                 Layout.preferredWidth: Math.max(230, Math.min(300, window.width * 0.28))
                 model: window.model
             }
