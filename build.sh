@@ -205,9 +205,7 @@ asan)
 package) package ;;
 package-test)
     package
-    build
-    mkdir -p build/test
-    exec ctest --preset dev --build-config Package --label-regex package --output-junit ../test/package.xml "$@"
+    exec /usr/bin/python3 tests/package/test_debian.py build/veldmark_*.deb "$@"
     ;;
 dist) dist ;;
 bench)
