@@ -9,6 +9,7 @@
 #include <QGuiApplication>
 #include <QTextStream>
 #include <QPainter>
+#include <QQuickItem>
 #include <QTranslator>
 
 #include <cmath>
