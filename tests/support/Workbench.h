@@ -101,6 +101,9 @@ public:
     ScriptedApplications applications;
     PluggableTransports transports; // what a search finds
     int searches = 0;               // for transports
+    // What a download comes to; well, unless this says otherwise.
+    std::function<QCoro::Task<TransportDownloader::Outcome>(bool throughTor, TransportDownloader::Progress progress)>
+        installTransports;
     // How long a bridge takes to answer; none answer unless this says so.
     BridgeProbe bridgeProbe;
 
