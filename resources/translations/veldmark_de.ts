@@ -848,6 +848,10 @@
         <source>Start without a window, as at login.</source>
         <translation>Ohne Fenster starten, wie bei der Anmeldung.</translation>
     </message>
+    <message>
+        <source>Connect at once.</source>
+        <translation>Sofort verbinden.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Alerts</name>

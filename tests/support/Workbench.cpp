@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QTest>
 
 #include <algorithm>
 
@@ -83,6 +84,13 @@ void settle()
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
+}
+
+void Workbench::bothSystems()
+{
+    QTest::addColumn<System>("system");
+    QTest::newRow("linux") << System::linux;
+    QTest::newRow("macos") << System::macos;
 }
 
 Workbench::Workbench(System system)

@@ -34,6 +34,8 @@ void settle();
 class Workbench {
 public:
     enum class System { linux, macos };
+    // The data of a test that runs on both systems: one column "system".
+    static void bothSystems();
     static constexpr auto bootstrapCommand = "GETINFO status/bootstrap-phase";
     static constexpr auto countersCommand = "GETINFO traffic/read traffic/written";
 
@@ -116,3 +118,5 @@ private:
 };
 
 } // namespace veldmark
+
+Q_DECLARE_METATYPE(veldmark::Workbench::System)

@@ -31,6 +31,14 @@ Rectangle {
             boundsBehavior: Flickable.StopAtBounds
             T.ScrollBar.vertical: ScrollBar {}
             model: sidebar.model
+            // The followed one stays in view, also when it was chosen in the graph or its path needs room.
+            readonly property int followedRow: sidebar.model.followedRow
+            onFollowedRowChanged: Qt.callLater(show)
+            onHeightChanged: Qt.callLater(show)
+            function show() {
+                if (followedRow >= 0)
+                    positionViewAtIndex(followedRow, ListView.Contain)
+            }
             delegate: T.ItemDelegate {
                 id: row
                 required property string circuitId
