@@ -1,12 +1,14 @@
 #!/usr/bin/python3
 """Prints the benchmarks as a table, or with --json as one JSON object. `--only WORD` runs the groups whose name holds WORD.
 
-    parsing   framing and reading circuit-status lines; the yardstick is python3-stem on the same lines
+    parsing   framing and reading circuit-status lines against python3-stem, the log against a short Python program, interleaved
+    discovery the search for transport programs in a folder of 12,000 files against find, interleaved
+    service   memory, processor time and wake-ups of veldmarkctl run, connected, beside nyx
     helper    the helper's connect and disconnect in strict mode, in the private Tor network
     killswitch  how long the rules take to load, and what they cost, against none, interleaved
     prompt    what terminal mode's hook adds to a shell's prompt, in the private Tor network
     desktop   redrawing the windows; first frame, memory and processor time of the application beside a bare tray program
-    connect   from the call of connect() to connected, against a bare tor with the same torrc, interleaved
+    connect   from the call of connect() to connected, and disconnect, against a bare tor with the same torrc, interleaved
 
 Everything runs on this machine and in its own network namespaces. Exit status 77 where namespaces are not permitted.
 """
@@ -16,6 +18,7 @@ import json
 import statistics
 import subprocess
 import sys
+import tempfile
 import threading
 import time
 from pathlib import Path
@@ -48,24 +51,85 @@ def spread(values: list[float]) -> str:
     return f"of {len(values)} runs, {min(values):.2f} to {max(values):.2f}"
 
 
-def measured(program: str) -> dict:
-    return json.loads(subprocess.run([BENCHES / program], capture_output=True, text=True, check=True).stdout)
+def measured(program: str, *arguments: str) -> dict:
+    return json.loads(subprocess.run([BENCHES / program, *arguments], capture_output=True, text=True, check=True).stdout)
 
 
-def parsing() -> None:
+def parsing(pairs: int = 8) -> None:
+    from log_yardstick import log_file, read_with_python  # noqa: PLC0415
     from stem_yardstick import read_with_stem  # noqa: PLC0415
 
-    framing, circuits = measured("FramingBench"), measured("CircuitBench")
-    framed, parsed = framing["median_ms"], circuits["parseMedianMs"]
-    report("10,000 circuit-status lines: framed", framed, "ms", "", f"of {framing['repetitions']} runs")
-    report("10,000 circuit-status lines: parsed", parsed, "ms", "", f"of {circuits['repetitions']} runs")
-    report("10,000 circuit-status lines: framed and read", framed + parsed, "ms", "at most 20")
-    report("the same with python3-stem", middle([read_with_stem() * 1000 for _ in range(5)]), "ms", "yardstick", "of 5 runs")
+    framed, parsed, stem, ours, slowest, python = [], [], [], [], [], []
+    with tempfile.TemporaryDirectory() as folder:
+        paths = [f"{folder}/{name}" for name in ("start.out", "notices.log", "launcher.out")]
+        for path in paths:
+            Path(path).write_bytes(log_file())
+        for _ in range(pairs):
+            framed.append(measured("FramingBench")["median_ms"])
+            circuits = measured("CircuitBench")
+            parsed.append(circuits["parseMedianMs"])
+            stem.append(read_with_stem() * 1000)
+            log = measured("LogBench", "5")
+            ours.append(log["torLinesMedianMs"])
+            slowest.append(max(value for key, value in log.items() if key.endswith("MedianMs")))
+            python.append(read_with_python(paths))
+    together = [one + other for one, other in zip(framed, parsed)]
+    report("10,000 circuit-status lines: framed", middle(framed), "ms", "", spread(framed))
+    report("10,000 circuit-status lines: parsed", middle(parsed), "ms", "", spread(parsed))
+    report("10,000 circuit-status lines: framed and read", middle(together), "ms", "at most 20", spread(together))
+    report("the same with python3-stem", middle(stem), "ms", "yardstick", spread(stem))
     report("graph of 1,000 circuits: build and layout", circuits["graphMedianMs"], "ms", "at most 5")
-    log = measured("LogBench")
-    slowest = max(value for key, value in log.items() if key.endswith("MedianMs"))
-    report("Tor's log, 3 x 1 MB: read, merged and parsed", slowest, "ms", "at most 25", f"slowest kind of content, of {log['repetitions']} runs")
+    report("Tor's log, 3 x 1 MB: read, merged and parsed", middle(ours), "ms", "at most 25", spread(ours))
+    report("  the slowest kind of content", middle(slowest), "ms", "at most 25", spread(slowest))
+    report("the same log with a short Python program", middle(python), "ms", "yardstick", spread(python))
     report("Tor's log: one look when nothing has changed", log["pollMedianUs"] / 1000, "ms", "three stat calls")
+
+
+def discovery(pairs: int = 8) -> None:
+    """A folder like Tor Browser's: 12,000 files, the transports deep in it, an archive of 60 MB."""
+    files, folders = 12_000, 600
+    with tempfile.TemporaryDirectory() as place:
+        browser = Path(place, "home/user/tor-browser")
+        for number in range(files):
+            folder = browser / f"Browser/{number % 30}/{number % folders}"
+            folder.mkdir(parents=True, exist_ok=True)
+            (folder / f"file{number}").touch()
+        transports = browser / "Browser/TorBrowser/Tor/PluggableTransports"
+        transports.mkdir(parents=True)
+        (transports / "lyrebird").write_text("#!/bin/sh\nexit 1\n")
+        (transports / "lyrebird").chmod(0o755)
+        (transports / "pt_config.json").write_text(json.dumps({
+            "pluggableTransports": {"lyrebird": "ClientTransportPlugin obfs4,snowflake exec ${pt_path}lyrebird"},
+            "bridges": {"obfs4": ["obfs4 192.0.2.1:443 " + "0" * 40 + " cert=a iat-mode=0"]}}))
+        with (browser / "Browser/omni.ja").open("wb") as archive:
+            archive.truncate(60_000_000)
+        names = ["lyrebird", "snowflake-client", "webtunnel-client", "pt_config.json", "omni.ja"]
+        wanted = " -o ".join(f"-name {name}" for name in names).split()
+        ours, theirs = [], []
+        for number in range(pairs + 1):
+            started = time.perf_counter()
+            found = subprocess.run(["find", browser, *wanted], capture_output=True, text=True, check=True).stdout
+            took = (time.perf_counter() - started) * 1000
+            located = measured("DiscoveryBench", place)
+            if len(found.splitlines()) != 3 or located["kinds"] != 1:
+                raise RuntimeError("the two have not found the same")
+            if number:   # the first round warms the cache
+                theirs.append(took)
+                ours.append(located["milliseconds"])
+    report("transports found among 12,000 files", middle(ours), "ms", "1.5 x find", spread(ours))
+    report("find with the same names", middle(theirs), "ms", "yardstick", spread(theirs))
+    report("  in finds", middle(ours) / middle(theirs), "", "at most 1.5")
+
+
+def service(lab: Lab, product: Product) -> None:
+    probe = str(PROJECT / "bench" / "service_probe.py")
+    output = lab.host.run(["/usr/bin/python3", "-B", probe, str(PROGRAMS), str(idle_seconds)], check=True, timeout=idle_seconds + 300).stdout
+    figures = json.loads(output)
+    for name, what, goal in (("nyx", "nyx, on a terminal", "yardstick"), ("run", "veldmarkctl run, connected", "less than nyx")):
+        one = figures[name]
+        report(f"{what}: resident memory", one["rssMB"], "MB", goal, f"{one['pssMB']:.1f} proportional, {one['ownMB']:.1f} its own")
+        report("  processor, share of one core", one["cpuPercent"], "%", goal, f"over {idle_seconds:.0f} s")
+        report("  wake-ups each second", one["wakesPerSecond"], "", goal)
 
 
 def clean_start(lab: Lab) -> None:
@@ -89,7 +153,8 @@ def helper(lab: Lab, product: Product) -> None:
         report(f"helper {verb}, strict mode", middle(values), "s", "at most 0.5", spread(values))
 
 
-def time_connect(lab: Lab, product: Product) -> float:
+def time_session(lab: Lab, product: Product) -> tuple[float, float]:
+    """Seconds from the call of connect() to connected, and those that disconnect takes."""
     clean_start(lab)
     moments: dict[str, float] = {}  # when each phase was first seen by somebody who watches the instance
     with product.session(connect=False) as session:
@@ -101,8 +166,11 @@ def time_connect(lab: Lab, product: Product) -> float:
         watch.terminate()
         watch.wait()
         reader.join()
+        started = time.monotonic()
+        product.run_verb("disconnect", check=True)
+        ended = time.monotonic()
         session.interrupt()
-    return moments["connected"] - moments["connecting"]
+    return moments["connected"] - moments["connecting"], ended - started
 
 
 def note_phases(lines, moments: dict[str, float]) -> None:
@@ -110,7 +178,8 @@ def note_phases(lines, moments: dict[str, float]) -> None:
         moments.setdefault(json.loads(line)["phase"], time.monotonic())
 
 
-def time_bare_tor(lab: Lab, torrc: str) -> float:
+def time_bare_tor(lab: Lab, torrc: str) -> tuple[float, float]:
+    """Seconds from its start to 100 %, and from SIGTERM to its end."""
     clean_start(lab)
     script = f"install -d -m 700 -o _veldmark {RUN_FOLDER}/data && exec setpriv --reuid _veldmark --clear-groups tor -f {torrc}"
     started = time.monotonic()
@@ -118,11 +187,15 @@ def time_bare_tor(lab: Lab, torrc: str) -> float:
     try:
         for line in process.stdout:
             if "Bootstrapped 100%" in line:
-                return time.monotonic() - started
+                up = time.monotonic() - started
+                break
+        else:
+            raise RuntimeError("bare tor did not bootstrap")
     finally:
+        stopped = time.monotonic()
         process.terminate()
         process.wait()
-    raise RuntimeError("bare tor did not bootstrap")
+    return up, time.monotonic() - stopped
 
 
 def connect(lab: Lab, product: Product, pairs: int = 8) -> None:
@@ -132,13 +205,16 @@ def connect(lab: Lab, product: Product, pairs: int = 8) -> None:
     bare = "\n".join(line for line in torrc.splitlines() if not line.startswith("Log ")) + "\nLog notice stdout\n"
     lab.host.write("/root/bare-torrc", bare, mode=0o644)
     lab.host.run(["chmod", "755", "/root"], check=True)
-    ours, theirs = [], []
+    ours, theirs, ours_down, theirs_down = [], [], [], []
     for _ in range(pairs):
-        theirs.append(time_bare_tor(lab, "/root/bare-torrc"))
-        ours.append(time_connect(lab, product))
+        for times, downs, (up, down) in ((theirs, theirs_down, time_bare_tor(lab, "/root/bare-torrc")), (ours, ours_down, time_session(lab, product))):
+            times.append(up)
+            downs.append(down)
     report("connect() to connected, strict mode", middle(ours), "s", "bare tor + 1.3", spread(ours))
     report("bare tor with the same torrc, to 100%", middle(theirs), "s", "yardstick", spread(theirs))
     report("difference", middle(ours) - middle(theirs), "s", "at most 1.3")
+    report("veldmarkctl disconnect, strict mode", middle(ours_down), "s", "bare tor + 0.5", spread(ours_down))
+    report("bare tor, from SIGTERM to its end", middle(theirs_down), "s", "yardstick", spread(theirs_down))
 
 
 # Sends for a second and prints what the other side took: bytes over one TCP stream, or datagrams of 64 bytes.
@@ -233,7 +309,7 @@ def time_prompts(lab: Lab, shell: str, home: str) -> float:
     return (float(end) - float(start)) * 1000 / PROMPTS
 
 
-def prompt(lab: Lab, product: Product, pairs: int = 7) -> None:
+def prompt(lab: Lab, product: Product, pairs: int = 8) -> None:
     for name, text in PROMPT_FILES.values():
         for home in ("/root", PLAIN_HOME):
             lab.host.write(f"{home}/{name}", text)
@@ -288,19 +364,22 @@ def main() -> int:
     parser.add_argument("--idle", type=float, default=300, metavar="SECONDS", help="how long the idle application is watched")
     arguments = parser.parse_args()
     idle_seconds = arguments.idle
-    groups = [name for name in ("parsing", "helper", "killswitch", "prompt", "desktop", "connect") if arguments.only in name]
-    in_lab = {"helper", "killswitch", "prompt", "desktop", "connect"}
+    groups = [name for name in ("parsing", "helper", "killswitch", "prompt", "desktop", "connect", "discovery", "service") if arguments.only in name]
+    in_lab = {"helper", "killswitch", "prompt", "desktop", "connect", "service"}
     try:
         if "parsing" in groups:
             print("parsing")
             parsing()
+        if "discovery" in groups:
+            print("discovery")
+            discovery()
         if "desktop" in groups:
             print("desktop")
             windows()
         if in_lab & set(groups):
             with Lab() as lab:
                 product = Product(lab, PROGRAMS)
-                for name, group in (("helper", helper), ("killswitch", killswitch), ("prompt", prompt), ("desktop", desktop), ("connect", connect)):
+                for name, group in (("helper", helper), ("killswitch", killswitch), ("prompt", prompt), ("desktop", desktop), ("connect", connect), ("service", service)):
                     if name in groups:
                         print(f"{name}, in the private Tor network" if name == "desktop" else name)
                         group(lab, product)

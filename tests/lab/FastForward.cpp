@@ -5,7 +5,7 @@
 //     FastForward connect         connects and prints the published state when the attempt has ended, as JSON
 //     FastForward wrong-password  the same, but tor is given the hash of another control password
 //     FastForward monitor HOURS   connects and stays so for that long by its clock, as somebody would who looks at circuits and
-//                                 the log and connects again whenever Tor has died; prints a line of JSON every ten minutes:
+//                                 the log and connects again whenever Tor has died; prints a line of JSON every few minutes:
 //                                 what the process takes, and what it has seen
 //
 // Restores the network before it ends; exit status 1 when that failed.
@@ -101,7 +101,7 @@ QJsonObject taken()
 QCoro::Task<void> monitor(TorController *controller, FastClock *clock, TorLogStore *log, double hours)
 {
     constexpr std::chrono::seconds turn(10); // of the fast clock
-    constexpr int turnsPerLine = 60;
+    constexpr int turnsPerLine = 12;
     qint64 deaths = 0;
     qint64 failures = 0;
     qint64 refreshes = 0;

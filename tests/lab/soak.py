@@ -161,14 +161,15 @@ def main() -> int:
     problems, report = [], {}
     try:
         with Lab() as lab:
-            product = Product(lab, given.programs)
+            programs = given.programs.resolve()
+            product = Product(lab, programs)
             if given.cycles:
                 print(f"{given.cycles} cycles", flush=True)
                 found, report["cycles"] = cycles(lab, product, given.cycles, chance)
                 problems += found
             if given.hours:
                 print(f"{given.hours} hours of a fast clock", flush=True)
-                found, report["hours"] = hours(lab, given.programs, given.hours, chance)
+                found, report["hours"] = hours(lab, programs, given.hours, chance)
                 problems += found
     except LabUnavailable as error:
         print(error, file=sys.stderr)
