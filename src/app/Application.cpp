@@ -30,7 +30,7 @@ Application::Application(const PlatformProfile &profile)
     });
 }
 
-Result<void, QString> Application::start(bool hidden)
+Result<void, QString> Application::start(bool hidden, bool connectNow)
 {
     auto server = InstanceServer::start(m_production.controller());
     if (!server)
@@ -55,17 +55,20 @@ Result<void, QString> Application::start(bool hidden)
     }
     if (!hidden)
         m_windows.open(QStringLiteral("main"));
-    begin();
+    begin(connectNow);
     return {};
 }
 
-QCoro::Task<void> Application::begin()
+QCoro::Task<void> Application::begin(bool connectNow)
 {
     const QPointer<Application> self(this);
     co_await m_production.controller().updatePrivilegedHelper();
     if (!self)
         co_return;
-    co_await m_production.controller().autoConnectIfEnabled();
+    if (connectNow && !m_production.controller().optionsLocked())
+        co_await m_production.controller().connect();
+    else
+        co_await m_production.controller().autoConnectIfEnabled();
 }
 
 void Application::onMainClosed()

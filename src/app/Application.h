@@ -18,11 +18,12 @@ class Application : public QObject {
 public:
     explicit Application(const PlatformProfile &profile);
 
-    // Becomes the user's one instance and shows itself, unless `hidden`. The error is one line.
-    Result<void, QString> start(bool hidden);
+    // Becomes the user's one instance and shows itself, unless `hidden`; connects when `connectNow` or the user's
+    // settings say so. The error is one line.
+    Result<void, QString> start(bool hidden, bool connectNow);
 
 private:
-    QCoro::Task<void> begin();
+    QCoro::Task<void> begin(bool connectNow);
     void onMainClosed();
 
     Production m_production;
