@@ -4,7 +4,22 @@
 # refers to it. A token keeps pf on for us and is given back; what others hold stays theirs.
 
 readonly FIREWALL_ENTRY=10-firewall
-readonly RULES=$RUN/firewall.pf   # 0600; the rules in force, for putting them back when somebody flushed them
+readonly RULES=$RUN/firewall.pf       # 0600; the rules in force, for putting them back when somebody flushed them
+readonly LISTED=$RUN/firewall.listed  # 0600; the same as pf lists them
+readonly RULES_LOCK=/private/var/db/veldmark.rules   # whoever changes the rules holds it; the watcher has no other lock
+
+# hold_rules / release_rules: descriptor 7.
+hold_rules() { { exec 7>>"$RULES_LOCK"; } && perl -e "$HOLD" 7 10; }
+release_rules() { exec 7>&-; }
+
+# list_rules: what our anchor holds.
+list_rules() { pfctl -a "$ANCHOR" -s nat && pfctl -a "$ANCHOR" -s rules; }
+
+# note_listing: what the watcher compares with.
+note_listing() {
+  local text
+  text=$(list_rules) && write_file "$LISTED" 0600 root "$text"$'\n'
+}
 
 # pf_words: the first line that pfctl had to say, without what it says each time.
 pf_words() {
@@ -121,13 +136,17 @@ put_firewall() {
   else
     text=$(print_proxy_rules "$TOR_UID" "$CALLER_UID")
   fi
+  hold_rules || die "Somebody else is changing the firewall. Try again in a moment."
   put_marker "$1"
   write_file "$RULES" 0600 root "$text"$'\n' || die "The file $RULES cannot be written."
   put_rules "$text"
+  release_rules
 }
 
+# put_rules TEXT: whoever calls it holds the rules.
 put_rules() {
   load_rules "$1"
+  note_listing || die "The file $LISTED cannot be written."
   put_reference
   enable_firewall
   kill_states || die "The firewall cannot end the connections from before."
@@ -136,6 +155,11 @@ put_rules() {
 # undo_firewall: empty rules open the network; the rest is tidying. Status 3: it is open, but the entry must stay.
 undo_firewall() {
   local output token
+  # Held to the end of the run, when the marker has gone as well.
+  if command -v perl >/dev/null && ! hold_rules; then
+    UNDONE="The firewall could not be opened, because somebody is changing it."
+    return 1
+  fi
   if ! output=$(pfctl -q -a "$ANCHOR" -f - 2>&1 </dev/null); then
     UNDONE="The firewall could not be opened ($(pf_words "$output"))."
     return 1
