@@ -38,7 +38,7 @@ packages=(
     qml6-module-qtquick-templates qml6-module-qtquick-window qml6-module-qtquick-layouts
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
     fonts-noto-core fonts-noto-mono fonts-noto-color-emoji xvfb
-    dpkg-dev lintian debootstrap appstream desktop-file-utils mandoc bash-completion
+    dpkg-dev lintian debootstrap appstream desktop-file-utils mandoc python3-gi
 )
 
 missing_packages() {
