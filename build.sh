@@ -10,8 +10,12 @@ usage: ./build.sh VERB
   build    compile; programs in build/bin/
   run      start veldmarkctl in the foreground (arguments are handed on)
   demo     show the whole thing on a private Tor network: no internet, nothing changed outside it
-  test     every test: unit, helper and lab
+  test     every test: unit, helper, lab and a moment of each fuzzer
   asan     the unit tests under the address and undefined-behaviour sanitizers
+  tsan     the tests of what uses threads under the thread sanitizer
+  coverage which lines of src/ the unit tests run
+  fuzz     the fuzzers, an hour over all (--minutes M for another time)
+  soak     500 connects and disconnects, and two hours of a fast clock, in the private Tor network
   bench    print the benchmarks
   package  make the Debian package: build/veldmark_VERSION_ARCHITECTURE.deb
   package-test
@@ -33,7 +37,8 @@ packages=(
     snowflake-client gnupg passwd
     python3 openssl ca-certificates curl tcpdump shellcheck unzip netcat-openbsd openssh-client iputils-ping zsh dash
     libglib2.0-bin dconf-cli dconf-gsettings-backend gsettings-desktop-schemas dbus
-    python3-stem
+    python3-stem nyx
+    clang libclang-rt-14-dev gcovr
     qt6-svg-dev qt6-l10n-tools qt6-declarative-dev-tools qml6-module-qtquick
     qml6-module-qtquick-templates qml6-module-qtquick-window qml6-module-qtquick-layouts
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
@@ -190,6 +195,7 @@ demo)
     ;;
 test)
     build
+    compile fuzz
     unpack_services
     mkdir -p build/test
     status=0
@@ -208,6 +214,25 @@ package-test)
     exec /usr/bin/python3 tests/package/test_debian.py build/veldmark_*.deb "$@"
     ;;
 dist) dist ;;
+tsan)
+    deps
+    compile tsan
+    ctest --preset tsan "$@"
+    ;;
+coverage)
+    deps
+    compile asan
+    exec /usr/bin/python3 tests/coverage.py "$@"
+    ;;
+fuzz)
+    build
+    compile fuzz
+    exec /usr/bin/python3 fuzz/run.py "$@"
+    ;;
+soak)
+    build
+    exec /usr/bin/python3 tests/lab/soak.py "$@"
+    ;;
 bench)
     build
     exec /usr/bin/python3 bench/run.py "$@"
