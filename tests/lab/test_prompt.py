@@ -160,6 +160,29 @@ class Prompt(unittest.TestCase):
             session.interrupt()
         self.assert_untouched()
 
+    def test_pkexecs_own_question_on_a_terminal_ends_with_a_sentence(self):
+        terminal, inner = pty.openpty()
+        run = self.lab.host.popen(["setsid", "--ctty", "--wait", self.product.ctl, "run", "--connect"],
+                                  user=self.lab.host.user, stdin=inner, stdout=inner, stderr=inner)
+        os.close(inner)
+        shown = b""
+        try:
+            while b"Password: " not in shown:
+                shown += os.read(terminal, 4096)
+            self.assertIn(b"Veldmark needs administrator access to manage Tor routing on this computer.", shown)
+            while termios.tcgetattr(terminal)[3] & termios.ECHO:
+                time.sleep(0.01)
+            os.write(terminal, self.lab.host.user.encode() + b"\n")
+            with contextlib.suppress(OSError):   # how Linux tells that nobody has the other end open
+                while some := os.read(terminal, 4096):
+                    shown += some
+            self.assertEqual(run.wait(30), 1)
+        finally:
+            os.close(terminal)
+        self.assertIn("veldmarkctl: The password could not be checked: polkit takes none from this terminal. Run it "
+                      "with sudo.\r\n", shown.decode())
+        self.assert_untouched()
+
     def test_an_approval_is_not_kept_for_the_next_time(self):
         with self.session() as session:
             with self.agent(self.pid("veldmarkctl"), "approve") as asked:
