@@ -78,13 +78,13 @@ def memory(pid: int) -> dict[str, float]:
 
 def spent(pid: int) -> tuple[float, int]:
     """Seconds of processor time, and how often its threads have gone to sleep."""
-    fields = Path(f"/proc/{pid}/stat").read_text().rsplit(")", 1)[1].split()
-    sleeps = 0
+    nanoseconds = sleeps = 0
     for task in Path(f"/proc/{pid}/task").iterdir():
+        nanoseconds += int((task / "schedstat").read_text().split()[0])
         for line in (task / "status").read_text().splitlines():
             if line.startswith("voluntary_ctxt_switches"):
                 sleeps += int(line.split()[1])
-    return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK"), sleeps
+    return nanoseconds / 1e9, sleeps
 
 
 def idle(pids: dict[str, int], seconds: float) -> dict:

@@ -509,6 +509,14 @@
         <source>Recheck</source>
         <translation>Erneut prüfen</translation>
     </message>
+    <message>
+        <source>Download</source>
+        <translation>Herunterladen</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>Lädt das offizielle Tor Expert Bundle vom Tor-Projekt, mit Brückenprogrammen und eingebauten Brücken</translation>
+    </message>
 </context>
 <context>
     <name>PanelPopup</name>
@@ -841,6 +849,10 @@
         <source>Custom location</source>
         <translation>Eigener Ort</translation>
     </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -931,6 +943,10 @@
         <source>SITES</source>
         <translation>ZIELE</translation>
     </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 weitere</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::CircuitsModel</name>
@@ -990,12 +1006,9 @@
         <source>Sites</source>
         <translation>Ziele</translation>
     </message>
-</context>
-<context>
-    <name>veldmark::ControllerSession</name>
     <message>
-        <source>This version cannot open apps without Tor yet.</source>
-        <translation>Diese Version kann Apps noch nicht ohne Tor öffnen.</translation>
+        <source>Round trip: %1</source>
+        <translation>Hin und zurück: %1</translation>
     </message>
 </context>
 <context>

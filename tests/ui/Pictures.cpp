@@ -1,15 +1,15 @@
 // Draws every state of every window into a folder: what ./build.sh demo leaves, and docs/screenshots.
 #include "Scenes.h"
 #include "Stage.h"
-
+#include "ui/ColorScheme.h"
 #include "ui/Symbols.h"
 
 #include <QDir>
 #include <QFont>
 #include <QGuiApplication>
-#include <QTextStream>
 #include <QPainter>
 #include <QQuickItem>
+#include <QTextStream>
 #include <QTranslator>
 
 #include <cmath>
@@ -227,9 +227,10 @@ int main(int argc, char **argv)
         application.installTranslator(&translator);
 
     Stage stage;
+    const bool flags = ColorScheme().flagsDrawn();
     for (const bool dark : {false, true}) {
         const QString suffix = dark ? QStringLiteral("-dark") : QStringLiteral("-light");
-        stage.setDark(dark);
+        stage.setDark(dark, flags);
         if (only != QLatin1String("windows"))
             drawPanel(stage, folder, suffix, 400, 0);
         if (only != QLatin1String("panel")) {

@@ -62,10 +62,10 @@ Stage::Stage()
     setDark(false);
 }
 
-void Stage::setDark(bool dark)
+void Stage::setDark(bool dark, bool flags)
 {
     auto *scheme = engine.singletonInstance<ColorScheme *>(qmlTypeId("Veldmark", 1, 0, "ColorScheme"));
-    scheme->setFlagsDrawn(false);
+    scheme->setFlagsDrawn(flags);
     scheme->force(dark, true);
 }
 

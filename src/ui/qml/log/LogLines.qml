@@ -34,8 +34,9 @@ ListView {
 
     function stay() {
         if (follow)
-            Qt.callLater(positionViewAtEnd)
+            settled.restart()
     }
+    Timer { id: settled; interval: 0; onTriggered: list.positionViewAtEnd() }
 
     // What is selected stays so when older lines fall off the beginning; another list begins without a selection.
     Connections {
