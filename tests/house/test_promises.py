@@ -15,15 +15,17 @@ NAME = re.compile(r"`([\w/]+(?:\.py|Test))(?:: (\w+))?`")
 
 def main() -> int:
     project = Path(sys.argv[1])
-    files = {path.name: path for folder in ("tests", "fuzz") for path in (project / folder).rglob("*.py")}
-    files |= {path.stem: path for path in (project / "tests").rglob("*Test.cpp")}
+    files: dict[str, list[str]] = {}   # of one name there may be several
+    for folder, pattern in (("tests", "*.py"), ("fuzz", "*.py"), ("tests", "*Test.cpp")):
+        for path in (project / folder).rglob(pattern):
+            files.setdefault(path.name.removesuffix(".cpp"), []).append(path.read_text(encoding="utf-8"))
     promises = (project / "docs" / "security.md").read_text(encoding="utf-8")
     missing, found = [], 0
     for file, test in NAME.findall(promises):
-        path = files.get(file.split("/")[-1])
-        if path is None:
+        texts = files.get(file.split("/")[-1], [])
+        if not texts:
             missing.append(f"there is no {file}")
-        elif test and not re.search(rf"\b(def|void) {test}\(", path.read_text(encoding="utf-8")):
+        elif test and not any(re.search(rf"\b(def|void) {test}\(", text) for text in texts):
             missing.append(f"{file} has no test {test}")
         else:
             found += 1
