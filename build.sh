@@ -12,7 +12,6 @@ usage: ./build.sh VERB
   demo     show the whole thing on a private Tor network: no internet, nothing changed outside it
   test     every test: unit, helper, lab and a moment of each fuzzer
   asan     the unit tests under the address and undefined-behaviour sanitizers
-  tsan     the tests of what uses threads under the thread sanitizer
   coverage which lines of src/ the unit tests run
   fuzz     the fuzzers, an hour over all (--minutes M for another time)
   soak     500 connects and disconnects, and two hours of a fast clock, in the private Tor network
@@ -214,11 +213,6 @@ package-test)
     exec /usr/bin/python3 tests/package/test_debian.py build/veldmark_*.deb "$@"
     ;;
 dist) dist ;;
-tsan)
-    deps
-    compile tsan
-    ctest --preset tsan "$@"
-    ;;
 coverage)
     deps
     compile asan
