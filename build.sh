@@ -10,9 +10,17 @@ usage: ./build.sh VERB
   build    compile; programs in build/bin/
   run      start veldmarkctl in the foreground (arguments are handed on)
   demo     show the whole thing on a private Tor network: no internet, nothing changed outside it
-  test     every test: unit, helper and lab
+  test     every test: unit, helper, lab and a moment of each fuzzer
   asan     the unit tests under the address and undefined-behaviour sanitizers
+  tsan     the tests of what uses threads under the thread sanitizer
+  coverage which lines of src/ the unit tests run
+  fuzz     the fuzzers, an hour over all (--minutes M for another time)
+  soak     500 connects and disconnects, and two hours of a fast clock, in the private Tor network
   bench    print the benchmarks
+  package  make the Debian package: build/veldmark_VERSION_ARCHITECTURE.deb
+  package-test
+           install, use, upgrade and remove that package on a clean Debian 12, in the private Tor network
+  dist     make the source archive build/veldmark-VERSION.tar.gz, and build it once without a network
 TEXT
 }
 
@@ -29,12 +37,14 @@ packages=(
     snowflake-client gnupg passwd
     python3 openssl ca-certificates curl tcpdump shellcheck unzip netcat-openbsd openssh-client iputils-ping zsh dash
     libglib2.0-bin dconf-cli dconf-gsettings-backend gsettings-desktop-schemas dbus
-    python3-stem
+    python3-stem nyx
+    clang libclang-rt-14-dev gcovr
     qt6-svg-dev qt6-l10n-tools qt6-declarative-dev-tools qml6-module-qtquick
     qml6-module-qtquick-templates qml6-module-qtquick-window qml6-module-qtquick-layouts
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
     fonts-noto-core fonts-noto-mono fonts-noto-color-emoji
     xvfb xauth xdotool openbox dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi python3-dbus
+    dpkg-dev lintian debootstrap appstream desktop-file-utils mandoc bash-completion
 )
 
 missing_packages() {
@@ -130,6 +140,47 @@ build() {
     compile dev
 }
 
+# The Debian package of the release build, checked by lintian; an error of its fails.
+package() {
+    deps
+    compile release
+    local folder=build/release log=build/package.log made
+    rm -f "$folder"/*.deb build/*.deb
+    (cd "$folder" && cpack -G DEB) >"$log" 2>&1 || die "packing failed; see $log"
+    made=$(cd "$folder" && echo veldmark_*.deb)
+    lintian --allow-root --fail-on error "$folder/$made" >>"$log" 2>&1 || {
+        grep '^E:' "$log" >&2 || true
+        die "lintian refuses $folder/$made; see $log"
+    }
+    mv "$folder/$made" build/
+    printf 'build/%s\n' "$made"
+}
+
+# Sources of the last commit, and a build of exactly these where there is no network.
+dist() {
+    deps
+    local version name folder
+    version=$(sed -nE 's/^project\(Veldmark VERSION ([0-9.]+) .*/\1/p' CMakeLists.txt)
+    name=veldmark-$version
+    git rev-parse --is-inside-work-tree >/dev/null 2>&1 || die "a source archive is made from the git repository"
+    [[ -z $(git status --porcelain) ]] || printf 'build.sh: what is not committed is not in the archive.\n' >&2
+    mkdir -p build
+    git archive --format=tar --prefix="$name/" HEAD | gzip -9n >"build/$name.tar.gz"
+    folder=$(mktemp -d)
+    tar -xzf "build/$name.tar.gz" -C "$folder"
+    local -a alone=(unshare --net)
+    [[ $EUID -eq 0 ]] || alone=(unshare --map-root-user --net)
+    "${alone[@]}" true 2>/dev/null || alone=()
+    [[ ${#alone[@]} -gt 0 ]] || printf 'build.sh: no network namespaces here, so it is built with the network.\n' >&2
+    (
+        cd "$folder/$name"
+        export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+        "${alone[@]}" ./build.sh package
+    ) >build/dist.log 2>&1 || die "the archive does not build; see build/dist.log and $folder/$name/build"
+    rm -rf "$folder"
+    printf 'build/%s\n' "$name.tar.gz"
+}
+
 verb=${1:-}
 [[ $# -eq 0 ]] || shift
 case $verb in
@@ -145,6 +196,7 @@ demo)
     ;;
 test)
     build
+    compile fuzz
     unpack_services
     mkdir -p build/test
     status=0
@@ -156,6 +208,31 @@ asan)
     deps
     compile asan
     ctest --preset asan "$@"
+    ;;
+package) package ;;
+package-test)
+    package
+    exec /usr/bin/python3 tests/package/test_debian.py build/veldmark_*.deb "$@"
+    ;;
+dist) dist ;;
+tsan)
+    deps
+    compile tsan
+    ctest --preset tsan "$@"
+    ;;
+coverage)
+    deps
+    compile asan
+    exec /usr/bin/python3 tests/coverage.py "$@"
+    ;;
+fuzz)
+    build
+    compile fuzz
+    exec /usr/bin/python3 fuzz/run.py "$@"
+    ;;
+soak)
+    build
+    exec /usr/bin/python3 tests/lab/soak.py "$@"
     ;;
 bench)
     build

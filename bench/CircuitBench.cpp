@@ -1,5 +1,6 @@
 // Median times of reading Tor's circuit list and of drawing it, as one line of JSON.
 // Usage: CircuitBench [REPETITIONS] (default 15). Build it with optimisation.
+#include "MedianTime.h"
 #include "circuits/CircuitGraph.h"
 #include "circuits/CircuitParser.h"
 #include "circuits/GraphLayout.h"
@@ -7,27 +8,11 @@
 #include <QJsonDocument>
 #include <QTextStream>
 
-#include <algorithm>
-#include <chrono>
 #include <functional>
 
 using namespace veldmark;
 
 namespace {
-
-double medianMilliseconds(int repetitions, const std::function<void()> &work)
-{
-    std::vector<double> times;
-    for (int i = 0; i < repetitions; ++i) {
-        const auto start = std::chrono::steady_clock::now();
-        work();
-        times.push_back(std::chrono::duration<double, std::milli>(
-                            std::chrono::steady_clock::now() - start).count());
-    }
-    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
-    std::nth_element(times.begin(), middle, times.end());
-    return *middle;
-}
 
 QString fingerprint(int relay)
 {

@@ -1,6 +1,7 @@
 // Median times of reading, merging and parsing three log files of 1,000,000 bytes, for several kinds
 // of content, and of a poll that finds nothing new; as one line of JSON.
 // Usage: LogBench [REPETITIONS] (default 15). Build it with optimisation.
+#include "MedianTime.h"
 #include "log/TorLog.h"
 
 #include <QDir>
@@ -10,28 +11,12 @@
 #include <QTemporaryDir>
 #include <QTextStream>
 
-#include <algorithm>
-#include <chrono>
 #include <functional>
 #include <vector>
 
 using namespace veldmark;
 
 namespace {
-
-double medianMilliseconds(int repetitions, const std::function<void()> &work)
-{
-    std::vector<double> times;
-    for (int i = 0; i < repetitions; ++i) {
-        const auto start = std::chrono::steady_clock::now();
-        work();
-        times.push_back(std::chrono::duration<double, std::milli>(
-                            std::chrono::steady_clock::now() - start).count());
-    }
-    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
-    std::nth_element(times.begin(), middle, times.end());
-    return *middle;
-}
 
 QByteArray repeated(const std::function<QByteArray(int)> &line)
 {

@@ -12,6 +12,15 @@ if(VELDMARK_SANITIZE)
     target_compile_options(veldmark_options INTERFACE
         -fsanitize=${VELDMARK_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     target_link_options(veldmark_options INTERFACE -fsanitize=${VELDMARK_SANITIZE})
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        # What this check puts before each function does not go together with coroutines.
+        target_compile_options(veldmark_options INTERFACE -fno-sanitize=function)
+    endif()
+    target_compile_definitions(veldmark_options INTERFACE _GLIBCXX_ASSERTIONS)
+endif()
+if(VELDMARK_COVERAGE)
+    target_compile_options(veldmark_options INTERFACE --coverage -fprofile-update=atomic)
+    target_link_options(veldmark_options INTERFACE --coverage)
 endif()
 
 # veldmark_library(ROOM SOURCES a.cpp… ROOMS lower-room… LINK other-library…)

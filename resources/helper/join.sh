@@ -1,16 +1,33 @@
 #!/bin/bash
-# join.sh OUTPUT: joins the parts of the root helper into the one file that ships. Same parts, same bytes.
+# join.sh SYSTEM OUTPUT: joins the parts of the root helper for SYSTEM, linux or darwin, into the one file that ships
+# there. Same parts, same bytes. What does not start with a system's name is in both.
 set -euo pipefail
 export LC_ALL=C
 here=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")" && pwd)
-output=${1:?usage: join.sh OUTPUT}
-parts=(core options
-  linux-state linux-programs linux-torrc linux-firewall linux-resolver linux-resolved linux-tor linux-proxy linux-exempt linux-watcher linux-session linux-privileged
-  main)
+usage="usage: join.sh linux|darwin OUTPUT"
+system=${1:?$usage} output=${2:?$usage}
+case $system in
+linux)
+  own=(linux-state programs torrc linux-firewall linux-resolver linux-resolved linux-tor linux-proxy linux-exempt
+    linux-watcher linux-session)
+  ;;
+darwin)
+  own=(darwin-state programs torrc darwin-rules darwin-firewall darwin-tor darwin-names darwin-services darwin-exempt
+    darwin-session)
+  ;;
+*)
+  printf '%s\n' "$usage" >&2
+  exit 2
+  ;;
+esac
 new=$output.new.$$
 trap 'rm -f -- "$new"' EXIT
-for part in "${parts[@]}"; do
-  cat -- "$here/$part.sh"
-done >"$new"
+{
+  cat -- "$here/core.sh"
+  printf '\nreadonly SYSTEM=%s   # what this file was joined for\n' "$system"
+  for part in options files addresses session "${own[@]}" privileged main; do
+    cat -- "$here/$part.sh"
+  done
+} >"$new"
 chmod 0755 -- "$new"
 mv -f -- "$new" "$output"

@@ -10,6 +10,8 @@ readonly DATA=$RUN/data           # 0700, Tor's account; kept between sessions s
 readonly PROGRAMS=$BASE/programs  # 0755; approved copies, SHA-256/NAME
 readonly LOCK=/run/veldmark.lock
 readonly LOCK_SECONDS=20
+readonly INSTALLED=/usr/local/libexec/veldmark
+readonly SUDO_DRAFT=/run/veldmark.sudoers   # 0440; checked here first
 
 readonly TOR_ACCOUNT=_veldmark
 TOR_UID='' TOR_GID=''
@@ -107,64 +109,24 @@ as_account() {
 as_tor() { as_account "$TOR_UID" "$TOR_GID" --clear-groups "$DATA" "$@"; }
 as_caller() { as_account "$CALLER_UID" "$CALLER_GID" --init-groups "$CALLER_HOME" "$@"; }
 
-# ---- Files ----
+# ---- Primitives of the shared parts ----
 
-# write_file TARGET MODE OWNER TEXT: all or nothing, on disk when it returns 0. OWNER is "root" or UID:GID.
-# TARGET's folder must be root's.
-write_file() {
-  local new=$1.new status=0
-  [[ ! -e $new && ! -L $new ]] || rm -f -- "$new" || return 1
-  set -o noclobber
-  { printf '%s' "$4" >"$new"; } || status=1
-  set +o noclobber
-  if ((status == 0)); then
-    { [[ $3 == root ]] || chown -- "$3" "$new"; } && { [[ $2 == 0600 ]] || chmod -- "$2" "$new"; } &&
-      sync -- "$new" && mv -fT -- "$new" "$1" && sync -- "${1%/*}" && return 0
-  fi
-  rm -f -- "$new"
-  return 1
-}
+# put_in_place NEW TARGET: NEW replaces TARGET, in the same folder; on disk when it returns 0.
+put_in_place() { sync -- "$1" && mv -fT -- "$1" "$2" && sync -- "${2%/*}"; }
 
-# ---- Journal ----
-# One file per change, named NN-KIND in the order of the changes; undoing goes backwards. Lines of "KEY VALUE",
-# the last one "end", so that a torn file is known.
+# print_modes PATH...: "MODE UID KIND" for each, a line each; fails when one is missing. Links are not followed.
+print_modes() { stat -c '%a %u %F' -- "$@"; }
 
-JOURNAL_LINES=()
+# real_path PATH: free of links; fails when it does not exist.
+real_path() { readlink -e -- "$1"; }
 
-# journal_put NAME LINE...
-journal_put() {
-  local name=$1 text=''
-  shift
-  text=$(printf '%s\n' "$@" end; printf x)
-  write_file "$JOURNAL/$name" 0600 root "${text%x}"
-}
+# print_sum: the SHA-256 of standard input.
+print_sum() { sha256sum; }
 
-journal_has() { [[ -f $JOURNAL/$1 && ! -L $JOURNAL/$1 ]]; }
-
-# journal_read NAME: fills JOURNAL_LINES; status 1 when there is no such entry, 2 when it is torn.
-journal_read() {
-  local line last=''
-  JOURNAL_LINES=()
-  journal_has "$1" || return 1
-  while IFS= read -r line; do
-    [[ -z $last ]] || JOURNAL_LINES[${#JOURNAL_LINES[@]}]=$last
-    last=$line
-  done <"$JOURNAL/$1"
-  [[ $last == end ]] || return 2
-}
-
-# journal_value KEY: prints the value of the first such line of the entry that was read.
-journal_value() {
-  local line
-  for line in ${JOURNAL_LINES[@]+"${JOURNAL_LINES[@]}"}; do
-    if [[ $line == "$1 "* ]]; then
-      printf '%s' "${line#* }"
-      return 0
-    fi
+# make_installed: the folder of the copy that runs without a password.
+make_installed() {
+  local folder
+  for folder in /usr/local /usr/local/libexec "$INSTALLED"; do
+    [[ -d $folder ]] || mkdir -m 0755 -- "$folder" || die "The folder $folder cannot be created."
   done
-  return 1
-}
-
-journal_drop() {
-  [[ ! -e $JOURNAL/$1 && ! -L $JOURNAL/$1 ]] || rm -f -- "$JOURNAL/$1"
 }

@@ -5,6 +5,8 @@
 # with it. It is known by process id and start time, never by name.
 
 readonly TOR_ENTRY=20-tor
+readonly START_OUT=$RUN/start.out  # what Tor prints before its log stands
+readonly LAUNCHER_OUT=$RUN/launcher.out   # what the programs that lead up to Tor print
 readonly START_POLLS=500   # of about 20 ms: Tor opens its control port within 10 s or it failed
 readonly STOP_POLLS=200    # of about 20 ms: Tor has about 4 s to end by itself
 
@@ -35,6 +37,14 @@ start_time() {
   set -- $line
   [[ $1 != [ZX] ]] || return 1
   START_TIME=${20}
+}
+
+has_ipv6_loopback() {
+  local address rest
+  while read -r address rest; do
+    [[ $address != 00000000000000000000000000000001 ]] || return 0
+  done 2>/dev/null </proc/net/if_inet6
+  return 1
 }
 
 boot_id() {

@@ -66,7 +66,7 @@ print_watcher() {
   printf 'set -uo pipefail\numask 077\nPATH=%s\nLC_ALL=C\nexport PATH LC_ALL\ncd /\n' "$PATH"
   declare -p TABLE RULES LISTED RULES_LOCK MARKER RELOCKED WATCH_SECONDS EXEMPT_NAME CGROUPS
   printf 'RELOCKS=0 EXEMPT_FOLDER=\n'
-  declare -f read_marker write_file hold_rules release_rules note_listing rules_stand find_exempt make_group \
+  declare -f read_marker put_in_place write_file hold_rules release_rules note_listing rules_stand find_exempt make_group \
     print_unexempt relock watch_rules
   printf 'watch_rules\n'
 }

@@ -2,22 +2,24 @@
 # ---- Start -------------------------------------------------------------------------------------------------
 
 main() {
-  local verb=${1-} system=''
+  local verb=${1-}
   clean_environment "$@"
   open_messages
   identify_caller
   SELF=$0
   [[ $SELF == /* ]] || SELF=$PWD/$SELF
+  case $SYSTEM-$(uname -s) in
+  linux-Linux | darwin-Darwin) ;;
+  *) die "This helper is made for another system." ;;
+  esac
+  [[ $SYSTEM != darwin ]] || find_caller
   case $verb in
-  connect | disconnect | fix-dns | launch | install-privileged | uninstall-privileged) shift ;;
+  connect | disconnect | fix-dns | launch) shift ;;
+  install-privileged) shift; install_privileged "$@"; return ;;
+  uninstall-privileged) shift; uninstall_privileged "$@"; return ;;
   *) die "The helper was not given a verb that it knows." ;;
   esac
-  case $OSTYPE in
-  linux*) system=linux ;;
-  darwin*) system=darwin ;;
-  esac
-  declare -F "${system}_$verb" >/dev/null || die "The verb $verb is not available on this system yet."
-  "${system}_$verb" "$@"
+  "${SYSTEM}_$verb" "$@"
 }
 
 # Read whole before anything runs, so that a change of the file meanwhile changes nothing.

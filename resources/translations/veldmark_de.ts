@@ -544,6 +544,14 @@
         <source>Recheck</source>
         <translation>Erneut prüfen</translation>
     </message>
+    <message>
+        <source>Download</source>
+        <translation>Herunterladen</translation>
+    </message>
+    <message>
+        <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
+        <translation>Lädt das offizielle Tor Expert Bundle vom Tor-Projekt, mit Brückenprogrammen und eingebauten Brücken</translation>
+    </message>
 </context>
 <context>
     <name>PanelPopup</name>
@@ -972,12 +980,20 @@
         <source>Custom location</source>
         <translation>Eigener Ort</translation>
     </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Start without a window, as at login.</source>
         <translation>Ohne Fenster starten, wie bei der Anmeldung.</translation>
+    </message>
+    <message>
+        <source>Connect at once.</source>
+        <translation>Sofort verbinden.</translation>
     </message>
     <message>
         <source>Your network is still set up for Tor. To restore it without Veldmark, run:
@@ -1095,6 +1111,10 @@
         <source>SITES</source>
         <translation>ZIELE</translation>
     </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 weitere</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::CircuitsModel</name>
@@ -1153,6 +1173,10 @@
     <message>
         <source>Sites</source>
         <translation>Ziele</translation>
+    </message>
+    <message>
+        <source>Round trip: %1</source>
+        <translation>Hin und zurück: %1</translation>
     </message>
 </context>
 <context>

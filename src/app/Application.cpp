@@ -77,7 +77,7 @@ void Application::leave(bool restored)
     QMetaObject::invokeMethod(qApp, [left] { QCoreApplication::exit(left ? 1 : 0); }, Qt::QueuedConnection);
 }
 
-Result<void, QString> Application::start(bool hidden)
+Result<void, QString> Application::start(bool hidden, bool connectNow)
 {
     auto server = InstanceServer::start(m_production.controller());
     if (!server)
@@ -102,17 +102,20 @@ Result<void, QString> Application::start(bool hidden)
     }
     if (!hidden)
         m_windows.open(QStringLiteral("main"));
-    begin();
+    begin(connectNow);
     return {};
 }
 
-QCoro::Task<void> Application::begin()
+QCoro::Task<void> Application::begin(bool connectNow)
 {
     const QPointer<Application> self(this);
     co_await m_production.controller().updatePrivilegedHelper();
     if (!self)
         co_return;
-    co_await m_production.controller().autoConnectIfEnabled();
+    if (connectNow && !m_production.controller().optionsLocked())
+        co_await m_production.controller().connect();
+    else
+        co_await m_production.controller().autoConnectIfEnabled();
 }
 
 void Application::onMainClosed()

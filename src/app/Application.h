@@ -22,14 +22,15 @@ class Application : public QObject {
 public:
     explicit Application(const PlatformProfile &profile);
 
-    // Becomes the user's one instance and shows itself, unless `hidden`. The error is one line.
-    Result<void, QString> start(bool hidden);
+    // Becomes the user's one instance and shows itself, unless `hidden`; connects when `connectNow` or the user's
+    // settings say so. The error is one line.
+    Result<void, QString> start(bool hidden, bool connectNow);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    QCoro::Task<void> begin();
+    QCoro::Task<void> begin(bool connectNow);
     void onMainClosed();
     void joinDeparture();
     void leave(bool restored);

@@ -17,9 +17,10 @@ using namespace veldmark;
 
 namespace {
 
-QCoro::Task<void> raiseOther(std::shared_ptr<InstanceClient> client)
+// Hands the running instance what this second start was for. `command`: "raise" or "connect".
+QCoro::Task<void> tellOther(std::shared_ptr<InstanceClient> client, QString command)
 {
-    const QJsonObject request{{QStringLiteral("command"), QStringLiteral("raise")}};
+    const QJsonObject request{{QStringLiteral("command"), command}};
     const auto done = co_await client->run(request, [](const QJsonObject &) {});
     if (!done)
         QTextStream(stderr) << "veldmark: " << done.error() << '\n';
@@ -47,22 +48,25 @@ int main(int argc, char **argv)
     QCommandLineParser parser;
     const QCommandLineOption hidden(QStringLiteral("hidden"),
                                     QCoreApplication::translate("main", "Start without a window, as at login."));
-    parser.addOption(hidden);
+    const QCommandLineOption connectNow(QStringLiteral("connect"),
+                                        QCoreApplication::translate("main", "Connect at once."));
+    parser.addOptions({hidden, connectNow});
     parser.addHelpOption();
     parser.addVersionOption();
     parser.process(application);
 
     const PlatformProfile profile = PlatformProfile::current(Places::fromEnvironment());
     if (const auto other = InstanceClient::connectTo(profile)) {
-        if (parser.isSet(hidden))
+        if (parser.isSet(hidden) && !parser.isSet(connectNow))
             return 0; // it is there already
-        QTimer::singleShot(0, &application, [other] { raiseOther(other); });
+        const QString command = parser.isSet(connectNow) ? QStringLiteral("connect") : QStringLiteral("raise");
+        QTimer::singleShot(0, &application, [other, command] { tellOther(other, command); });
         return QApplication::exec();
     }
 
     const LastWords lastWords(profile);
     Application program(profile);
-    if (const auto started = program.start(parser.isSet(hidden)); !started) {
+    if (const auto started = program.start(parser.isSet(hidden), parser.isSet(connectNow)); !started) {
         QTextStream(stderr) << "veldmark: " << started.error() << '\n';
         QString text = started.error();
         if (QFile::exists(profile.sessionMarker)) // what this start was perhaps meant to restore

@@ -1,5 +1,6 @@
 #include "bridges/HTTPSSession.h"
 
+#include "base/PrivateRequest.h"
 #include "base/ResumeOnce.h"
 
 #include <QFile>
@@ -200,18 +201,8 @@ QCoro::Task<Result<QByteArray, DownloadError>> HTTPSSession::fetch(std::shared_p
 {
     if (session->m_isCancelled)
         co_return Failure(DownloadError::other(cancelledText));
-    QNetworkRequest request(what.url);
-    QSslConfiguration tls = session->m_tls;
-    tls.setPeerVerifyMode(QSslSocket::VerifyPeer);
-    request.setSslConfiguration(tls);
+    QNetworkRequest request = privateRequest(what.url, session->m_tls);
     request.setMaximumRedirectsAllowed(redirectLimit);
-    request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
-    // Qt would tell the server the user's language, and unpack what it sends.
-    request.setRawHeader("Accept-Language", "en");
-    request.setRawHeader("Accept-Encoding", "identity");
 
     const auto exchange = std::make_shared<Exchange>(session->m_clock, what);
     QObject::connect(&session->m_cancelling, &QObject::objectNameChanged, exchange.get(), &Exchange::cancel);

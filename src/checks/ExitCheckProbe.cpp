@@ -1,5 +1,6 @@
 #include "checks/ExitCheckProbe.h"
 
+#include "base/PrivateRequest.h"
 #include "base/ResumeOnce.h"
 
 #include <QNetworkAccessManager>
@@ -120,21 +121,6 @@ private:
     bool m_reached = false;
 };
 
-QNetworkRequest checkRequest(const QUrl &url, QSslConfiguration tls)
-{
-    tls.setPeerVerifyMode(QSslSocket::VerifyPeer);
-    QNetworkRequest request(url);
-    request.setSslConfiguration(tls);
-    request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
-    // Qt would tell the service the user's language, and unpack what it sends.
-    request.setRawHeader("Accept-Language", "en");
-    request.setRawHeader("Accept-Encoding", "identity");
-    return request;
-}
-
 // Ends `exchange` when it stays silent or takes too long. Looks at the exchange again before each
 // use: it is gone when the answer came in time, and then the clock may be gone too.
 QCoro::Task<void> watchLimits(std::weak_ptr<Exchange> watched, Clock *clock, Limits limits)
@@ -186,12 +172,12 @@ QCoro::Task<ProbeResult> ExitCheckProbe::viaTor()
     QNetworkProxy proxy(QNetworkProxy::Socks5Proxy, QStringLiteral("127.0.0.1"), m_socksPort);
     proxy.setCapabilities(QNetworkProxy::TunnelingCapability
                           | QNetworkProxy::HostNameLookupCapability);
-    return fetch(&m_clock, &m_lifetime, checkRequest(m_url, m_tls), proxy, torLimits);
+    return fetch(&m_clock, &m_lifetime, privateRequest(m_url, m_tls), proxy, torLimits);
 }
 
 QCoro::Task<ProbeResult> ExitCheckProbe::direct()
 {
-    return fetch(&m_clock, &m_lifetime, checkRequest(m_url, m_tls),
+    return fetch(&m_clock, &m_lifetime, privateRequest(m_url, m_tls),
                  QNetworkProxy(QNetworkProxy::NoProxy), directLimits);
 }
 

@@ -4,12 +4,23 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
+
 namespace veldmark {
 
 namespace {
 auto unusable(const QString &detail)
 {
     return Failure(ProbeError{ProbeError::Kind::badResponse, detail, true});
+}
+
+// QHostAddress alone would also take what stands after a "%" or a NUL.
+bool isAddress(const QString &text)
+{
+    const bool isPlain = std::all_of(text.begin(), text.end(), [](QChar c) {
+        return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f') || (c >= u'A' && c <= u'F') || c == u'.' || c == u':';
+    });
+    return isPlain && !QHostAddress(text).isNull();
 }
 } // namespace
 
@@ -27,7 +38,7 @@ Result<IPCheck, ProbeError> IPCheck::fromJson(const QByteArray &body)
     if (!isTor.isBool() || !ip.isString())
         return unusable(QStringLiteral("The answer has no \"IsTor\" and \"IP\"."));
     // The address is shown to the user; nothing else may come in by this door.
-    if (QHostAddress(ip.toString()).isNull())
+    if (!isAddress(ip.toString()))
         return unusable(QStringLiteral("The answer's \"IP\" is no address."));
     return IPCheck{isTor.toBool(), ip.toString()};
 }

@@ -3,13 +3,23 @@
 #include <QFile>
 #include <QHostAddress>
 
+#include <algorithm>
+
 #include <arpa/inet.h>
 #include <fcntl.h>
+#include <net/if.h>
 #include <sys/stat.h>
 
 namespace veldmark {
 
 namespace {
+
+// What may stand behind the "%" of an address: a network interface's name or number. It is shown to the user.
+bool isScope(const QByteArray &text)
+{
+    return !text.isEmpty() && text.size() < IFNAMSIZ
+        && std::all_of(text.begin(), text.end(), [](char c) { return c > ' ' && c <= '~' && c != '%' && c != '/'; });
+}
 
 // IPv4 in every form that inet_aton takes ("127.1"), IPv6 with an optional scope; else empty.
 QString canonicalAddress(const QByteArray &word)
@@ -23,8 +33,9 @@ QString canonicalAddress(const QByteArray &word)
     if (::inet_pton(AF_INET6, address6.constData(), &ipv6) != 1)
         return {};
     QHostAddress address(reinterpret_cast<const quint8 *>(&ipv6));
-    if (percent >= 0)
-        address.setScopeId(QString::fromUtf8(word.mid(percent + 1)));
+    // The C library asks the server also when it can make nothing of the scope.
+    if (const QByteArray scope = percent < 0 ? QByteArray() : word.mid(percent + 1); isScope(scope))
+        address.setScopeId(QString::fromLatin1(scope));
     return address.toString();
 }
 

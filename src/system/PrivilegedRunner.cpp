@@ -213,7 +213,10 @@ QCoro::Task<PrivilegedRunner::Outcome>
 PrivilegedRunner::runAsRoot(std::shared_ptr<const Means> means, QStringList words)
 {
     const QString script = words.at(1);
-    const QString program = means->isRoot ? words.takeFirst() : means->profile.promptProgram;
+    const QString firstWord = words.takeFirst();
+    // pkexec gets the script itself and no shell: the installed policy's actions, which say in the dialog what is
+    // wanted, belong to that path and the verb after it.
+    const QString program = means->isRoot ? firstWord : means->profile.promptProgram;
     const auto run = co_await means->runner->run(program, words);
     if (!run)
         co_return Failure(HelperError::notStarted(run.error()));

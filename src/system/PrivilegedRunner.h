@@ -18,6 +18,10 @@ namespace veldmark {
 // dialog (osascript or pkexec, as the profile says). On a PolicyKit system a process that is root
 // already needs neither and runs the shipped helper directly.
 //
+// pkexec is given the helper as the program to run, so the file must be executable. Where it is the installed one,
+// polkit's policy (packaging/org.veldmark.helper.policy) has an action for each verb, found by that path and the verb
+// as first argument; elsewhere the dialog is polkit's own.
+//
 // The helper reports a failure as one line on standard error, optionally after "ERROR: ", and a
 // status other than 0; that line, cleaned, is the error's description.
 //

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QSettings>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -25,28 +26,41 @@ bool isComment(QByteArrayView line)
     return line.startsWith(';') || line.startsWith('#');
 }
 
-// A quote that is left open swallows the following lines as part of the value.
-bool closesItsQuotes(QByteArrayView line)
+// The line without a comment at its end. Nothing when it goes on: a quote that is left open, or a backslash at the end,
+// swallows the following line.
+std::optional<QByteArrayView> withoutComment(QByteArrayView line)
 {
     bool quoted = false;
     for (qsizetype i = 0; i < line.size(); ++i) {
-        if (line[i] == '\\')
-            ++i;
-        else if (line[i] == '"')
+        if (line[i] == '"')
             quoted = !quoted;
         else if (line[i] == ';' && !quoted)
-            return true; // a comment up to the end of the line
+            return line.first(i).trimmed();
+        else if (line[i] == '\\' && ++i == line.size())
+            return std::nullopt;
     }
-    return !quoted;
+    return quoted ? std::nullopt : std::optional(line);
 }
 
 bool isIntactLine(QByteArrayView line)
 {
     if (line.isEmpty() || isComment(line))
         return true;
-    if (line.startsWith('['))
-        return line.endsWith(']');
-    return line.indexOf('=') > 0 && closesItsQuotes(line);
+    const std::optional<QByteArrayView> said = withoutComment(line);
+    if (!said)
+        return false;
+    return said->startsWith('[') ? said->endsWith(']') : said->indexOf('=') > 0;
+}
+
+// What only shows when QSettings reads the file: a line that it finds no sense in, after which it refuses to write, or a key
+// with an empty part ("/a", "a//b"), which it would write under another name.
+bool isReadWhole(const QString &path)
+{
+    const QSettings settings(path, QSettings::IniFormat);
+    const QStringList keys = settings.allKeys();
+    return settings.status() == QSettings::NoError && std::all_of(keys.begin(), keys.end(), [](const QString &key) {
+        return key.split(u'/', Qt::SkipEmptyParts).join(u'/') == key;
+    });
 }
 
 bool isWritable(const QString &path)
@@ -147,7 +161,7 @@ SettingsFileState settingsFileState(const QString &path)
     const QByteArray content = file.read(largestFileBytes + 1);
     if (file.error() != QFile::NoError)
         return SettingsFileState::Unreadable;
-    return isIntactSettingsText(content) ? SettingsFileState::Intact : SettingsFileState::Damaged;
+    return isIntactSettingsText(content) && isReadWhole(path) ? SettingsFileState::Intact : SettingsFileState::Damaged;
 }
 
 bool isIntactSettingsText(const QByteArray &content)

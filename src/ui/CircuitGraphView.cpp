@@ -1,37 +1,49 @@
 #include "ui/CircuitGraphView.h"
 
 #include "ui/ColorScheme.h"
-#include "ui/Symbols.h"
+#include "ui/StrandPainter.h"
 
+#include <QCursor>
+#include <QHash>
+#include <QMap>
 #include <QPainter>
 #include <QPainterPath>
-#include <QQuickWindow>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
+#include <optional>
 
 namespace veldmark {
 
 namespace {
 
+constexpr double computerRadius = 18;
 constexpr double nodeRadius = 13;
 constexpr double denseRadius = 7;
 constexpr double labelRow = 34; // rows closer than this have no room for a label below the node
 constexpr double clickRadius = 20;
+constexpr double wireDistance = 4; // of handles; strands lie at most 3/4 of it apart
+constexpr double ribbonWidth = 28;
 
-QPainterPath curve(QPointF from, QPointF to, double shift)
+// How visible the rest stays beside a followed circuit, and beside those under the pointer.
+constexpr double fadedStrand = 0.14;
+constexpr double fadedNode = 0.3;
+constexpr double dimmedStrand = 0.3;
+constexpr double dimmedNode = 0.55;
+
+void put(QPainter &painter, const QImage &picture, QPointF center)
 {
-    const double reach = (to.x() - from.x()) * 0.5;
-    QPainterPath path(from);
-    path.cubicTo(QPointF(from.x() + reach, from.y() + shift), QPointF(to.x() - reach, to.y() + shift), to);
-    return path;
+    painter.drawImage(QPoint(static_cast<int>(std::lround(center.x() - picture.width() / 2.0)),
+                             static_cast<int>(std::lround(center.y() - picture.height() / 2.0))),
+                      picture);
 }
 
 } // namespace
 
 CircuitGraphView::CircuitGraphView(QQuickItem *parent) : QQuickPaintedItem(parent)
 {
-    setAntialiasing(true);
+    setOpaquePainting(true);
     setAcceptHoverEvents(true);
     setAcceptedMouseButtons(Qt::LeftButton);
     QObject::connect(this, &CircuitGraphView::colorsChanged, this, [this] { update(); });
@@ -50,6 +62,15 @@ void CircuitGraphView::setModel(CircuitsModel *model)
     Q_EMIT modelChanged();
 }
 
+void CircuitGraphView::setEmphasis(double emphasis)
+{
+    if (m_emphasis == emphasis)
+        return;
+    m_emphasis = emphasis;
+    Q_EMIT emphasisChanged();
+    update();
+}
+
 void CircuitGraphView::rebuild()
 {
     if (!m_model)
@@ -57,31 +78,80 @@ void CircuitGraphView::rebuild()
     if (m_drawn != m_model->circuits() || m_graph.nodes.empty()) {
         m_drawn = m_model->circuits();
         m_graph = CircuitGraph::build(m_drawn, m_model->computer());
-        m_colors.clear();
-        m_strands.clear();
+        for (CircuitGraph::Node &node : m_graph.nodes)
+            if (node.kind == CircuitGraph::Kind::more)
+                node.label = tr("%1 more").arg(node.label.section(u' ', 0, 0));
+        m_circuits.clear();
         QHash<QString, int> legs;
         for (size_t i = 0; i < m_drawn.size(); ++i) {
-            m_colors.insert(m_drawn[i].id, CircuitsModel::paletteColor(i));
+            m_circuits.push_back({m_drawn[i].id, CircuitsModel::paletteColor(i), 0, false});
             // The legs of one conflux set are strands that part and meet again at the exit.
             if (!m_drawn[i].confluxID.isEmpty())
-                m_strands.insert(m_drawn[i].id, legs[m_drawn[i].confluxID]++ % 2 == 0 ? -7.0 : 7.0);
+                m_circuits.back().bulge = legs[m_drawn[i].confluxID]++ % 2 == 0 ? -7.0 : 7.0;
         }
+        m_pictures.trim();
         layOut();
     }
+    light();
     update();
 }
 
 void CircuitGraphView::layOut()
 {
-    m_positions = GraphLayout(m_graph, size()).positions;
+    const QHash<QString, QPointF> positions = GraphLayout(m_graph, size()).positions;
+    QHash<QString, size_t> circuitAt;
+    for (size_t i = 0; i < m_circuits.size(); ++i)
+        circuitAt.insert(m_circuits[i].id, i);
     std::array<double, 5> last{};
     last.fill(-std::numeric_limits<double>::infinity());
     m_rows.fill(std::numeric_limits<double>::infinity());
+    m_places.clear();
+    m_places.reserve(m_graph.nodes.size());
     for (const CircuitGraph::Node &node : m_graph.nodes) {
+        Place place{positions.value(node.id), {}, false};
+        for (const QString &id : node.circuitIDs)
+            place.circuits.push_back(circuitAt.value(id));
         const auto column = static_cast<size_t>(node.column);
-        const double y = m_positions.value(node.id).y();
-        m_rows[column] = std::min(m_rows[column], y - last[column]);
-        last[column] = y;
+        m_rows[column] = std::min(m_rows[column], place.at.y() - last[column]);
+        last[column] = place.at.y();
+        m_places.push_back(std::move(place));
+    }
+    // Strands between the same two nodes lie side by side, like the wires of a ribbon.
+    QHash<QString, std::pair<int, int>> ribbons; // how many there are, and how many have their place
+    const auto ribbon = [](const CircuitGraph::Edge &edge) { return edge.from + u'|' + edge.to; };
+    for (const CircuitGraph::Edge &edge : m_graph.edges)
+        ++ribbons[ribbon(edge)].first;
+    m_links.clear();
+    m_links.reserve(m_graph.edges.size());
+    for (const CircuitGraph::Edge &edge : m_graph.edges) {
+        auto &[count, placed] = ribbons[ribbon(edge)];
+        const double step = count > 1 ? std::min(wireDistance, ribbonWidth / (count - 1)) : 0;
+        const size_t circuit = circuitAt.value(edge.circuitID);
+        m_links.push_back({positions.value(edge.from), positions.value(edge.to), circuit,
+                           m_circuits[circuit].bulge + step * (placed++ - (count - 1) / 2.0)});
+    }
+}
+
+void CircuitGraphView::light()
+{
+    const QString followed = m_model ? m_model->followed() : QString();
+    const CircuitGraph::Node *hovered = followed.isEmpty() ? hoveredNode() : nullptr;
+    if (hovered && hovered->circuitIDs.isEmpty())
+        hovered = nullptr;
+    const bool standingOut = !followed.isEmpty() || hovered;
+    // When nothing stands out any more, what did so recedes from where it is.
+    if (standingOut) {
+        m_followedOut = !followed.isEmpty();
+        for (Circuit &circuit : m_circuits)
+            circuit.lit = m_followedOut ? circuit.id == followed : hovered->circuitIDs.contains(circuit.id);
+    }
+    for (size_t i = 0; i < m_places.size(); ++i)
+        m_places[i].lit = m_graph.nodes[i].kind == CircuitGraph::Kind::mac
+            || std::any_of(m_places[i].circuits.begin(), m_places[i].circuits.end(),
+                           [this](size_t circuit) { return m_circuits[circuit].lit; });
+    if (m_standingOut != standingOut) {
+        m_standingOut = standingOut;
+        Q_EMIT standingOutChanged();
     }
 }
 
@@ -89,6 +159,7 @@ void CircuitGraphView::geometryChange(const QRectF &now, const QRectF &before)
 {
     QQuickPaintedItem::geometryChange(now, before);
     layOut();
+    light();
     update();
 }
 
@@ -96,14 +167,21 @@ const CircuitGraph::Node *CircuitGraphView::nodeAt(QPointF point) const
 {
     const CircuitGraph::Node *nearest = nullptr;
     double best = clickRadius;
-    for (const CircuitGraph::Node &node : m_graph.nodes) {
-        const double distance = QLineF(point, m_positions.value(node.id)).length();
+    for (size_t i = 0; i < m_places.size(); ++i) {
+        const double distance = QLineF(point, m_places[i].at).length();
         if (distance <= best) {
             best = distance;
-            nearest = &node;
+            nearest = &m_graph.nodes[i];
         }
     }
     return nearest;
+}
+
+const CircuitGraph::Node *CircuitGraphView::hoveredNode() const
+{
+    const auto found = std::find_if(m_graph.nodes.begin(), m_graph.nodes.end(),
+                                    [this](const CircuitGraph::Node &node) { return node.id == m_hovered; });
+    return m_hovered.isEmpty() || found == m_graph.nodes.end() ? nullptr : &*found;
 }
 
 void CircuitGraphView::setHovered(const QString &id)
@@ -112,6 +190,7 @@ void CircuitGraphView::setHovered(const QString &id)
         return;
     m_hovered = id;
     setCursor(id.isEmpty() ? Qt::ArrowCursor : Qt::PointingHandCursor);
+    light();
     Q_EMIT hoveredChanged();
     update();
 }
@@ -140,161 +219,165 @@ void CircuitGraphView::mousePressEvent(QMouseEvent *event)
 
 QString CircuitGraphView::hoveredHelp() const
 {
-    for (const CircuitGraph::Node &node : m_graph.nodes) {
-        if (node.id != m_hovered)
-            continue;
-        if (node.kind == CircuitGraph::Kind::mac)
-            return tr("%1: your real IP only ever reaches the entry relay").arg(node.label);
-        const auto count = static_cast<int>(node.circuitIDs.size());
-        QString help = node.label + u'\n';
-        if (node.relay)
-            help += node.relay->country.value_or(tr("Unknown")).toUpper() + QStringLiteral(" · ")
-                + node.relay->ip.value_or(tr("Unknown")) + u'\n';
-        return help + (count == 1 ? tr("Used by 1 circuit") : tr("Used by %1 circuits").arg(count));
-    }
-    return {};
+    const CircuitGraph::Node *node = hoveredNode();
+    if (!node)
+        return {};
+    if (node->kind == CircuitGraph::Kind::mac)
+        return tr("%1: your real IP only ever reaches the entry relay").arg(node->label);
+    QString help = node->label + u'\n';
+    if (node->relay)
+        help += node->relay->country.value_or(tr("Unknown")).toUpper() + QStringLiteral(" · ")
+            + node->relay->ip.value_or(tr("Unknown")) + u'\n';
+    const auto count = static_cast<int>(node->circuitIDs.size());
+    return help + (count == 1 ? tr("Used by 1 circuit") : tr("Used by %1 circuits").arg(count));
 }
 
 QPointF CircuitGraphView::hoveredAt() const
 {
-    return m_positions.value(m_hovered);
+    const CircuitGraph::Node *node = hoveredNode();
+    return node ? m_places[static_cast<size_t>(node - m_graph.nodes.data())].at : QPointF();
 }
 
-bool CircuitGraphView::isFollowed(const CircuitGraph::Node &node) const
+double CircuitGraphView::opacity(bool lit, double faded) const
 {
-    const QString followed = m_model->followed();
-    return followed.isEmpty() || node.kind == CircuitGraph::Kind::mac || node.circuitIDs.contains(followed);
+    return lit ? 1 : 1 - m_emphasis * (1 - faded);
 }
 
-QColor CircuitGraphView::nodeColor(const CircuitGraph::Node &node) const
+QColor CircuitGraphView::ringColor(const Place &place) const
 {
-    const QString followed = m_model->followed();
-    if (node.kind == CircuitGraph::Kind::mac)
+    if (place.circuits.empty())
         return m_ink;
-    if (!followed.isEmpty() && node.circuitIDs.contains(followed))
-        return m_colors.value(followed);
-    return node.circuitIDs.size() == 1 ? m_colors.value(node.circuitIDs.constFirst()) : m_faintInk;
+    if (m_emphasis > 0 && place.lit)
+        for (const size_t circuit : place.circuits)
+            if (m_circuits[circuit].lit)
+                return m_circuits[circuit].color;
+    return place.circuits.size() == 1 ? m_circuits[place.circuits.front()].color : m_faintInk;
 }
 
 void CircuitGraphView::drawGuides(QPainter &painter) const
 {
     const std::array titles{QString(), tr("ENTRY"), tr("MIDDLE"), tr("EXIT"), tr("SITES")};
-    QHash<int, double> places;
-    for (const CircuitGraph::Node &node : m_graph.nodes)
-        places.insert(node.column, m_positions.value(node.id).x());
+    QMap<int, double> places;
+    for (size_t i = 0; i < m_places.size(); ++i)
+        places.insert(m_graph.nodes[i].column, m_places[i].at.x());
     QFont font = painter.font();
     font.setPixelSize(11);
     font.setLetterSpacing(QFont::AbsoluteSpacing, 1);
     painter.setFont(font);
     for (auto place = places.cbegin(); place != places.cend(); ++place) {
-        const double x = place.value();
-        painter.setPen(QPen(m_guide, 1, Qt::DotLine));
-        painter.drawLine(QPointF(x, 34), QPointF(x, height() - 6));
+        const double x = std::round(place.value());
+        painter.fillRect(QRectF(x, 34, 1, height() - 40), m_guide);
         painter.setPen(m_faintInk);
-        painter.drawText(QRectF(x - 70, 10, 140, 18), Qt::AlignCenter,
-                         titles[static_cast<size_t>(place.key())]);
+        painter.drawText(QRectF(x - 70, 10, 140, 18), Qt::AlignCenter, titles[static_cast<size_t>(place.key())]);
     }
 }
 
-void CircuitGraphView::drawEdges(QPainter &painter, bool followed) const
+void CircuitGraphView::drawStrands(QPainter &painter, double scale, bool lit)
 {
-    const QString id = m_model->followed();
-    for (const CircuitGraph::Edge &edge : m_graph.edges) {
-        if ((edge.circuitID == id) != followed)
+    std::optional<StrandPainter> strands(std::in_place, m_canvas, scale);
+    for (const Link &link : m_links) {
+        const Circuit &circuit = m_circuits[link.circuit];
+        if (circuit.lit != lit)
             continue;
-        const QPainterPath path = curve(m_positions.value(edge.from), m_positions.value(edge.to),
-                                        m_strands.value(edge.circuitID));
-        QColor color = m_colors.value(edge.circuitID);
-        if (!followed && !id.isEmpty())
-            color.setAlphaF(0.16F);
-        else if (m_outline.alpha() > 0) // light ground: the pale colours need an edge
-            painter.strokePath(path, QPen(m_outline, followed ? 4.6 : 2.8));
-        painter.strokePath(path, QPen(color, followed ? 3 : 1.6));
+        Strand strand{link.from, link.to, link.bulge, 1.6, circuit.color, 0, m_outline};
+        const double visible = opacity(lit, m_followedOut ? fadedStrand : dimmedStrand);
+        strand.color.setAlphaF(static_cast<float>(visible));
+        strand.edgeColor.setAlphaF(m_outline.alphaF() * static_cast<float>(visible));
+        if (lit)
+            strand.width += 1.4 * m_emphasis;
+        if (m_outline.alpha() > 0) // light ground: the pale colours need an edge
+            strand.edge = 0.7;
+        if (link.to.x() - link.from.x() > 1) {
+            strands->draw(strand);
+            continue;
+        }
+        // Between two relays of one column: a bow beside it.
+        QPainterPath bow(link.from);
+        bow.quadTo(link.from + QPointF(40, (link.to.y() - link.from.y()) / 2), link.to);
+        painter.setOpacity(visible);
+        painter.strokePath(bow, QPen(circuit.color, strand.width));
+        painter.setOpacity(1);
     }
 }
 
-void CircuitGraphView::drawNode(QPainter &painter, const CircuitGraph::Node &node)
+void CircuitGraphView::drawNode(QPainter &painter, double scale, size_t index)
 {
     using Kind = CircuitGraph::Kind;
-    const QPointF center = m_positions.value(node.id);
+    const CircuitGraph::Node &node = m_graph.nodes[index];
+    const Place &place = m_places[index];
     const bool dense = m_rows[static_cast<size_t>(node.column)] < 2 * nodeRadius + 2;
-    const double radius = node.kind == Kind::mac ? 18 : dense ? denseRadius : nodeRadius;
-    painter.setOpacity(isFollowed(node) ? 1 : 0.3);
-    painter.setPen(QPen(nodeColor(node), node.id == m_hovered ? 3 : 2));
-    painter.setBrush(m_background);
-    painter.drawEllipse(center, radius, radius);
+    const double radius = node.kind == Kind::mac ? computerRadius : dense ? denseRadius : nodeRadius;
+    const QPointF center = place.at * scale;
+    const bool hovered = node.id == m_hovered;
 
-    const auto symbol = [&](const QString &name, double size) {
-        const double ratio = window() ? window()->effectiveDevicePixelRatio() : 1.0;
-        const int pixels = static_cast<int>(size * ratio);
-        const QString key = name + QString::number(pixels) + m_ink.name();
-        if (!m_symbols.contains(key))
-            m_symbols.insert(key, Symbols::image(name, pixels, m_ink));
-        painter.drawImage(QRectF(center.x() - size / 2, center.y() - size / 2, size, size), m_symbols[key]);
-    };
+    put(painter, m_pictures.disc(radius, 2, m_background, m_background), center); // hides the strands' ends
+    painter.setOpacity(opacity(place.lit || hovered, m_followedOut ? fadedNode : dimmedNode));
+    const QColor ring = ringColor(place);
+    if (m_outline.alpha() > 0 && ring != m_faintInk && ring != m_ink) // light ground: a rim round the pale ring
+        put(painter, m_pictures.disc(radius, hovered ? 4.4 : 3.4, m_outline, m_background), center);
+    put(painter, m_pictures.disc(radius, hovered ? 3 : 2, ring, m_background), center);
     if (node.kind == Kind::mac) {
-        symbol(QStringLiteral("laptopcomputer"), 20);
+        put(painter, m_pictures.symbol(QStringLiteral("laptopcomputer"), 20, m_ink), center);
     } else if (!dense && node.kind == Kind::site) {
-        symbol(QStringLiteral("globe"), 14);
+        put(painter, m_pictures.symbol(QStringLiteral("globe"), 14, m_ink), center);
     } else if (!dense && node.kind == Kind::more) {
-        symbol(QStringLiteral("ellipsis"), 14);
+        put(painter, m_pictures.symbol(QStringLiteral("ellipsis"), 14, m_ink), center);
     } else if (!dense && node.relay) {
         const QString country = node.relay->country.value_or(QStringLiteral("?"));
         const QString flag = m_drawFlags ? ColorScheme::flag(country) : QString();
-        QFont font = painter.font();
-        font.setLetterSpacing(QFont::AbsoluteSpacing, 0);
-        font.setPixelSize(flag.isEmpty() ? 11 : 15);
-        font.setBold(flag.isEmpty());
-        painter.setFont(font);
-        painter.setPen(m_ink);
-        painter.drawText(QRectF(center.x() - 14, center.y() - 14, 28, 28), Qt::AlignCenter,
-                         flag.isEmpty() ? country.toUpper() : flag);
+        put(painter, m_pictures.country(flag.isEmpty() ? country.toUpper() : flag, !flag.isEmpty(), m_ink), center);
     }
-    drawLabel(painter, node, center + QPointF(0, radius));
+    drawLabel(painter, scale, index, place.at + QPointF(0, radius));
     painter.setOpacity(1);
 }
 
-void CircuitGraphView::drawLabel(QPainter &painter, const CircuitGraph::Node &node, QPointF below) const
+void CircuitGraphView::drawLabel(QPainter &painter, double scale, size_t index, QPointF below)
 {
-    const QString followed = m_model->followed();
-    const bool wanted = node.id == m_hovered || (!followed.isEmpty() && node.circuitIDs.contains(followed));
-    if (node.kind != CircuitGraph::Kind::mac && m_rows[static_cast<size_t>(node.column)] < labelRow && !wanted)
+    const CircuitGraph::Node &node = m_graph.nodes[index];
+    const bool isComputer = node.kind == CircuitGraph::Kind::mac;
+    const bool wanted = node.id == m_hovered || (m_standingOut && m_followedOut && m_places[index].lit && !isComputer);
+    if (!isComputer && m_rows[static_cast<size_t>(node.column)] < labelRow && !wanted)
         return;
-    QFont font = painter.font();
-    font.setPixelSize(12);
-    font.setBold(false);
-    font.setLetterSpacing(QFont::AbsoluteSpacing, 0);
-    painter.setFont(font);
-    const double room = node.column == 0 ? width() * 0.14 : width() * (node.column == 4 ? 0.2 : 0.19);
-    const QString text = painter.fontMetrics().elidedText(node.label, Qt::ElideMiddle, static_cast<int>(room));
-    const QRectF box(std::min(below.x() - room / 2, width() - room - 2), below.y() + 2, room, 17);
-    if (wanted) { // it may stand on neighbours
-        const double used = painter.fontMetrics().horizontalAdvance(text) + 10.0;
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(m_background);
-        painter.drawRoundedRect(QRectF(box.center().x() - used / 2, box.y(), used, box.height()), 5, 5);
-    }
-    painter.setPen(m_ink);
-    painter.drawText(box, Qt::AlignCenter, text);
+    const double room = width() * (isComputer ? 0.24 : node.column == 4 ? 0.2 : 0.19);
+    const QImage &picture = m_pictures.label(node.label, room, m_ink, m_background);
+    const double half = picture.width() / scale / 2;
+    const QPointF center(std::clamp(below.x(), half + 2, std::max(half + 2, width() - half - 2)), below.y() + 11);
+    put(painter, picture, center * scale);
 }
 
 void CircuitGraphView::paint(QPainter *painter)
 {
-    if (!m_model || m_graph.nodes.empty())
+    if (!m_model)
         return;
-    painter->setRenderHint(QPainter::Antialiasing);
-    drawGuides(*painter);
-    drawEdges(*painter, false);
-    drawEdges(*painter, true);
-    // What is hovered or followed lies on top of the rest.
-    const auto onTop = [this](const CircuitGraph::Node &node) {
-        return node.id == m_hovered
-            || (!m_model->followed().isEmpty() && node.circuitIDs.contains(m_model->followed()));
-    };
-    for (const bool top : {false, true})
-        for (const CircuitGraph::Node &node : m_graph.nodes)
-            if (onTop(node) == top)
-                drawNode(*painter, node);
+    const double scale = painter->deviceTransform().m11();
+    const QSize pixels = (size() * scale).toSize();
+    if (m_canvas.size() != pixels)
+        m_canvas = QImage(pixels, QImage::Format_RGB32);
+    m_canvas.fill(m_background);
+    if (m_canvas.isNull())
+        return;
+    m_pictures.prepare(scale, painter->font());
+    {
+        QPainter inner(&m_canvas);
+        inner.setRenderHint(QPainter::Antialiasing);
+        inner.scale(scale, scale);
+        drawGuides(inner);
+        for (const bool lit : {false, true})
+            drawStrands(inner, scale, lit);
+        inner.resetTransform();
+        // What stands out lies on top of the rest, and the node under the pointer above all.
+        for (const bool lit : {false, true})
+            for (size_t i = 0; i < m_places.size(); ++i)
+                if (m_places[i].lit == lit && m_graph.nodes[i].id != m_hovered)
+                    drawNode(inner, scale, i);
+        if (const CircuitGraph::Node *node = hoveredNode())
+            drawNode(inner, scale, static_cast<size_t>(node - m_graph.nodes.data()));
+    }
+    const QPointF origin = painter->deviceTransform().map(QPointF());
+    painter->save();
+    painter->resetTransform();
+    painter->drawImage(origin.toPoint(), m_canvas);
+    painter->restore();
 }
 
 } // namespace veldmark

@@ -3,19 +3,19 @@
 #include "circuits/CircuitGraph.h"
 #include "circuits/GraphLayout.h"
 #include "ui/CircuitsModel.h"
+#include "ui/GraphPictures.h"
 
 #include <QColor>
-#include <QHash>
 #include <QImage>
 #include <QPointer>
 #include <QQuickPaintedItem>
 
 namespace veldmark {
 
-// Draws the circuits from left to right: this computer, entries, middles, exits, sites. The followed
-// circuit stands out and the rest recedes; a click on a node follows the next circuit through it.
-// Labels never overlap: they are shortened to their column, and left out where a column is too
-// dense, except for the followed and the hovered nodes.
+// Draws the circuits from left to right: this computer, entries, middles, exits, sites. What is followed
+// stands out and the rest recedes; a click on a node follows the next circuit through it. While nothing is
+// followed, the circuits through the node under the pointer stand out. Labels never overlap: they are
+// shortened to their column, and left out where a column is too dense, except on what stands out.
 class CircuitGraphView : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -28,6 +28,8 @@ class CircuitGraphView : public QQuickPaintedItem {
     Q_PROPERTY(bool drawFlags MEMBER m_drawFlags NOTIFY colorsChanged)
     Q_PROPERTY(QString hoveredHelp READ hoveredHelp NOTIFY hoveredChanged)
     Q_PROPERTY(QPointF hoveredAt READ hoveredAt NOTIFY hoveredChanged)
+    Q_PROPERTY(bool standingOut READ standingOut NOTIFY standingOutChanged)
+    Q_PROPERTY(double emphasis READ emphasis WRITE setEmphasis NOTIFY emphasisChanged)
 
 public:
     explicit CircuitGraphView(QQuickItem *parent = nullptr);
@@ -36,12 +38,19 @@ public:
     void setModel(CircuitsModel *model);
     QString hoveredHelp() const; // the help of the node under the pointer, or empty
     QPointF hoveredAt() const;
+    // Whether some circuits stand out from the rest, and how far they do by now: 0…1, moved by whoever
+    // wants it to happen gently.
+    bool standingOut() const { return m_standingOut; }
+    double emphasis() const { return m_emphasis; }
+    void setEmphasis(double emphasis);
     void paint(QPainter *painter) override;
 
 Q_SIGNALS:
     void modelChanged();
     void colorsChanged();
     void hoveredChanged();
+    void standingOutChanged();
+    void emphasisChanged();
 
 protected:
     void geometryChange(const QRectF &now, const QRectF &before) override;
@@ -50,26 +59,50 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
 
 private:
+    struct Circuit {
+        QString id;
+        QColor color;
+        double bulge = 0; // points by which its strands bend away from the straight way
+        bool lit = false; // it stands out
+    };
+    struct Link {
+        QPointF from;
+        QPointF to;
+        size_t circuit = 0; // index into m_circuits
+        double bulge = 0;   // points
+    };
+    struct Place { // of the node with the same index in the graph
+        QPointF at;
+        std::vector<size_t> circuits;
+        bool lit = false;
+    };
+
     void rebuild();
     void layOut();
+    void light(); // decides what stands out
     const CircuitGraph::Node *nodeAt(QPointF point) const;
+    const CircuitGraph::Node *hoveredNode() const;
     void setHovered(const QString &id);
     void drawGuides(QPainter &painter) const;
-    void drawEdges(QPainter &painter, bool followed) const;
-    void drawNode(QPainter &painter, const CircuitGraph::Node &node);
-    void drawLabel(QPainter &painter, const CircuitGraph::Node &node, QPointF center) const;
-    bool isFollowed(const CircuitGraph::Node &node) const;
-    QColor nodeColor(const CircuitGraph::Node &node) const;
+    void drawStrands(QPainter &painter, double scale, bool lit);
+    void drawNode(QPainter &painter, double scale, size_t index);
+    void drawLabel(QPainter &painter, double scale, size_t index, QPointF below);
+    double opacity(bool lit, double faded) const;
+    QColor ringColor(const Place &place) const;
 
     QPointer<CircuitsModel> m_model;
     std::vector<CircuitInfo> m_drawn; // what the graph was built from
     CircuitGraph m_graph;
-    QHash<QString, QPointF> m_positions; // node id → centre
-    QHash<QString, QColor> m_colors;     // circuit id → palette colour
-    QHash<QString, double> m_strands;    // circuit id → sideways shift of its edges
-    std::array<double, 5> m_rows{};      // the distance of a column's nodes
-    QHash<QString, QImage> m_symbols;    // drawn once for each size and colour
-    QString m_hovered;                   // node id
+    std::vector<Circuit> m_circuits;
+    std::vector<Place> m_places;
+    std::vector<Link> m_links;
+    std::array<double, 5> m_rows{}; // the distance of a column's nodes
+    QString m_hovered;              // node id
+    bool m_standingOut = false;
+    bool m_followedOut = false; // what stands out, or did last, does so because it is followed
+    double m_emphasis = 0;
+    QImage m_canvas;
+    GraphPictures m_pictures;
     QColor m_background, m_ink, m_faintInk, m_guide, m_outline;
     bool m_drawFlags = false;
 };

@@ -25,6 +25,11 @@ QString relayDetail(const RelayInfo &relay)
     return parts.join(QStringLiteral(" · "));
 }
 
+QString milliseconds(std::chrono::microseconds time)
+{
+    return QLocale().toString(static_cast<qlonglong>((time.count() + 500) / 1000)) + QStringLiteral("\u00a0ms");
+}
+
 QVariantMap step(const QString &symbol, const QString &country, const QString &role,
                  const QString &title, const QString &detail, bool last)
 {
@@ -78,8 +83,7 @@ QVariant CircuitsModel::data(const QModelIndex &index, int role) const
             names << (hop.country ? countryName(hop) : hop.nickname);
         QString text = names.join(QStringLiteral(" → "));
         if (circuit.roundTrip)
-            text += QStringLiteral("  ·  %1 ms")
-                        .arg(QLocale().toString(static_cast<qlonglong>(circuit.roundTrip->count() / 1000)));
+            text += QStringLiteral("  ·  ") + milliseconds(*circuit.roundTrip);
         return text;
     }
     case ColorRole:
@@ -123,6 +127,12 @@ QString CircuitsModel::followed() const
     return followedCircuit() ? m_followed : QString();
 }
 
+int CircuitsModel::followedRow() const
+{
+    const CircuitInfo *circuit = followedCircuit();
+    return circuit ? static_cast<int>(circuit - circuits().data()) : -1;
+}
+
 void CircuitsModel::follow(const QString &id)
 {
     if (id == m_followed)
@@ -138,8 +148,12 @@ QString CircuitsModel::purpose() const
     const CircuitInfo *circuit = followedCircuit();
     if (!circuit)
         return {};
-    return circuit->purpose == QLatin1String("CONFLUX") ? tr("One of several linked legs to the same exit")
-                                                        : QString();
+    QStringList facts;
+    if (circuit->roundTrip)
+        facts << tr("Round trip: %1").arg(milliseconds(*circuit->roundTrip));
+    if (circuit->purpose == QLatin1String("CONFLUX"))
+        facts << tr("One of several linked legs to the same exit");
+    return facts.join(u'\n');
 }
 
 QVariantList CircuitsModel::steps() const

@@ -23,6 +23,7 @@ class CircuitsModel : public QAbstractListModel {
     Q_PROPERTY(QString error READ error NOTIFY changed)
     Q_PROPERTY(bool empty READ empty NOTIFY changed)
     Q_PROPERTY(QString followed READ followed WRITE follow NOTIFY changed)
+    Q_PROPERTY(int followedRow READ followedRow NOTIFY changed)
     Q_PROPERTY(QVariantList steps READ steps NOTIFY changed)
     Q_PROPERTY(QString purpose READ purpose NOTIFY changed)
 
@@ -53,6 +54,7 @@ public:
     // The followed circuit's number; empty when none is, or when it is gone.
     QString followed() const;
     Q_INVOKABLE void follow(const QString &id);
+    int followedRow() const; // -1: none
     // The path of the followed circuit, each step a map: symbol, country, role, title, detail,
     // last. Empty when none is followed.
     QVariantList steps() const;

@@ -53,6 +53,12 @@ bool PanelModel::lookupsLeak() const
     return connected() && m_session.now().lookups.kind == Lookups::Kind::leak;
 }
 
+bool PanelModel::throughBridge() const
+{
+    const Snapshot &now = m_session.now();
+    return now.phase == Phase::connected && now.activeBridge && *now.activeBridge != BridgeChoice::off;
+}
+
 bool PanelModel::exposedInStrict() const
 {
     const Snapshot &now = m_session.now();
@@ -186,7 +192,7 @@ void PanelModel::pressPower()
 QString PanelModel::pillText() const
 {
     const Snapshot &now = m_session.now();
-    if (now.activeBridge && *now.activeBridge != BridgeChoice::off)
+    if (throughBridge())
         return tr("Connected through %1 bridges").arg(SessionTexts::bridgeName(*now.activeBridge));
     if (now.activeMode)
         return *now.activeMode == RoutingMode::strict ? tr("Strict") : tr("Proxy");
@@ -198,7 +204,7 @@ QString PanelModel::pillText() const
 QString PanelModel::pillSymbol() const
 {
     const Snapshot &now = m_session.now();
-    if (now.activeBridge && *now.activeBridge != BridgeChoice::off)
+    if (throughBridge())
         return QStringLiteral("point.3.connected.trianglepath.dotted");
     const bool strict = now.activeMode ? *now.activeMode == RoutingMode::strict : now.choices.strictMode;
     return strict ? QStringLiteral("lock.fill") : QStringLiteral("arrow.triangle.branch");
@@ -353,7 +359,7 @@ bool PanelModel::torMissing() const
 
 bool PanelModel::installHintIsCommand() const
 {
-    return installHint().contains(QLatin1String("install ")) || installHint().contains(QLatin1String("pacman "));
+    return SessionTexts::isCommand(installHint());
 }
 
 void PanelModel::copy(const QString &text) const

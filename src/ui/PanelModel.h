@@ -122,6 +122,7 @@ Q_SIGNALS:
 private:
     void update();
     bool exposedInStrict() const;
+    bool throughBridge() const;
 
     Session &m_session;
     TrafficHistory m_traffic;

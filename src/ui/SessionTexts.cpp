@@ -122,6 +122,11 @@ QString bridgeName(BridgeChoice choice)
     return displayName(choice);
 }
 
+bool isCommand(const QString &installHint)
+{
+    return installHint.contains(QLatin1String("install ")) || installHint.contains(QLatin1String("pacman "));
+}
+
 QString lookups(const Lookups &lookups)
 {
     switch (lookups.kind) {

@@ -10,6 +10,8 @@ namespace veldmark::SessionTexts {
 QString translated(const QString &sentence);
 // The name of a bridge kind as the panel writes it: "obfs4", "Snowflake", "meek", "Custom".
 QString bridgeName(BridgeChoice choice);
+// Whether a profile's hint of how to install a program is a command, and not a place to look.
+bool isCommand(const QString &installHint);
 // The sentence about look-ups in the leak row's help.
 QString lookups(const Lookups &lookups);
 

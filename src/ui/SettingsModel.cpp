@@ -45,6 +45,12 @@ QString SettingsModel::torPlace() const
         : tr("Install it with %1").arg(m_session.profile().torInstallHint);
 }
 
+QString SettingsModel::installCommand() const
+{
+    const QString &hint = m_session.profile().torInstallHint;
+    return !torFound() && !torCustom() && SessionTexts::isCommand(hint) ? hint : QString();
+}
+
 QUrl SettingsModel::torFolder() const
 {
     return QUrl::fromLocalFile(QFileInfo(m_session.profile().torCandidates.constFirst()).absolutePath());

@@ -21,6 +21,7 @@ class SettingsModel : public QObject {
     Q_PROPERTY(bool torFound READ torFound NOTIFY changed)
     Q_PROPERTY(QString torStatus READ torStatus NOTIFY changed)
     Q_PROPERTY(QString torPlace READ torPlace NOTIFY changed)
+    Q_PROPERTY(QString installCommand READ installCommand NOTIFY changed)
     Q_PROPERTY(bool torCustom READ torCustom NOTIFY changed)
     Q_PROPERTY(QUrl torFolder READ torFolder CONSTANT)
     Q_PROPERTY(QString onComputer READ onComputer CONSTANT)
@@ -57,6 +58,7 @@ public:
     bool torFound() const { return now().torPath.has_value(); }
     QString torStatus() const; // "Found", "Missing" (a custom one), "Not found" (anywhere)
     QString torPlace() const;
+    QString installCommand() const; // what `torPlace` tells to run; empty when it tells something else
     bool torCustom() const { return !now().choices.customTorPath.isEmpty(); }
     QUrl torFolder() const; // where a chooser starts
     QString onComputer() const;

@@ -65,16 +65,16 @@ def require_namespaces():
     sys.exit(77)
 
 
-def helper_path():
+def helper_path(system="linux"):
     """The helper under test: VELDMARK_HELPER, or joined from its parts into a folder of this run."""
     given = os.environ.get("VELDMARK_HELPER")
-    if given:
+    if given and system == "linux":
         return os.path.abspath(given)
     folder = tempfile.TemporaryDirectory(prefix="veldmark-helper-")
     atexit.register(folder.cleanup)
     os.chmod(folder.name, 0o755)
     path = os.path.join(folder.name, "veldmark-helper.sh")
-    subprocess.run([os.path.join(PARTS, "join.sh"), path], check=True)
+    subprocess.run([os.path.join(PARTS, "join.sh"), system, path], check=True)
     return path
 
 
@@ -91,13 +91,16 @@ def make_control_group():
 class Machine:
     """Use with `with`. run() and start() execute in it as root, or as another user by their `uid`."""
 
+    SYSTEM = "linux"
+    SETUP = SETUP   # what makes it, a script that runs in the new namespaces
+
     def __init__(self):
-        self.helper = helper_path()
+        self.helper = helper_path(self.SYSTEM)
         self.group = make_control_group()
         self.init = subprocess.Popen(
             [*self.in_group(), "setpriv", "--pdeathsig", "KILL",   # ends with the test, however that ends
              "unshare", "--cgroup", "--net", "--mount", "--propagation", "private", "--pid", "--fork", "--kill-child",
-             "/bin/bash", "-c", SETUP + 'exec /usr/bin/python3 -c "$1"', "setup", INIT],
+             "/bin/bash", "-c", self.SETUP + 'exec /usr/bin/python3 -c "$1"', "setup", INIT],
             stdout=subprocess.PIPE,
         )
         if self.init.stdout.read(5) != b"ready":

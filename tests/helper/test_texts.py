@@ -1,5 +1,6 @@
 """The generated texts: functions of the helper that print and touch nothing."""
 
+import re
 import subprocess
 import unittest
 
@@ -67,12 +68,19 @@ class Rules(unittest.TestCase):
                          {"\t\tmeta skuid 99 ip daddr { 192.0.2.1 } udp dport 53 accept",
                           "\t\tmeta skuid 99 ip6 daddr { 2001:db8::1 } udp dport 53 accept"})
         opened = lines("1 0 '' ''") - plain
-        self.assertIn("\t\tip daddr { 10.0.0.0/8, 172.16.0.0/12, 192.168.0.0/16, 169.254.0.0/16 } accept", opened)
+        self.assertIn("\t\tip daddr 192.168.0.0/16 goto local_network", opened)
+        self.assertIn("\t\tip6 daddr fc00::/7 goto local_network", opened)
+
+    def test_the_local_network_is_the_private_ranges_alone(self):
+        text = call("print_strict_rules 99 1000 1 0 '' ''")
+        self.assertEqual(re.findall(r"daddr (\S+) goto local_network", text),
+                         ["192.168.0.0/16", "10.0.0.0/8", "172.16.0.0/12", "169.254.0.0/16", "fe80::/10", "fc00::/7"])
 
     def test_refusals_come_before_the_local_network(self):
         text = call("print_strict_rules 99 1000 1 0 '' ''")
-        self.assertLess(text.index("udp dport { 53,"), text.index("ip daddr { 10.0.0.0/8"))
-        self.assertLess(text.index("tcp dport { 53,"), text.index("ip daddr { 10.0.0.0/8"))
+        for chain, refused in ("local_network", "tcp dport { 53,"), ("local_udp", "th dport { 53,"):
+            body = re.search(rf"chain {chain} {{(.*?)\n\t}}", text, re.DOTALL).group(1)
+            self.assertLess(body.index(refused), body.index("\t\taccept"))
 
     def test_one_transaction_replaces_the_table(self):
         for rules in call("print_strict_rules 99 0 0 0 '' ''"), call("print_proxy_rules 99 0"):

@@ -6,7 +6,9 @@ Needs no internet and changes nothing outside its own network namespaces. Exit s
 """
 
 import json
+import shutil
 import signal
+import subprocess
 import sys
 import time
 from pathlib import Path
@@ -20,6 +22,12 @@ from veldlab.product import Product, difference  # noqa: E402
 
 SKIPPED = 77
 BOLD, DIM, GREEN, RED, PLAIN = ("\033[1m", "\033[2m", "\033[32m", "\033[31m", "\033[0m") if sys.stdout.isatty() else ("",) * 5
+
+PAGE = """<!doctype html><meta charset="utf-8"><title>Veldmark's windows</title>
+<style>body {{ background: #888; font: 14px sans-serif }} figure {{ display: inline-block; margin: 8px; vertical-align: top }}
+img {{ max-width: 480px; max-height: 480px; display: block }}</style>
+{figures}
+"""
 
 failures: list[str] = []
 
@@ -84,7 +92,20 @@ def show_mode(lab: Lab, product: Product, mode: str, before: dict[str, str]) -> 
         print(changed)
 
 
+def draw_windows() -> None:
+    """Every state of every window, as pictures and as one page that shows them."""
+    heading("Pictures of every window and state")
+    folder = PROJECT / "build" / "demo"
+    shutil.rmtree(folder, ignore_errors=True)
+    drawn = subprocess.run([PROJECT / "build/dev/tests/ui/veldmark-pictures", folder], capture_output=True, text=True)
+    pictures = sorted(folder.glob("*.png"))
+    judge("drawn", f"{len(pictures)} pictures; open {folder.relative_to(PROJECT)}/index.html", drawn.returncode == 0 and len(pictures) > 0)
+    figures = "\n".join(f'<figure><img src="{one.name}" loading="lazy"><figcaption>{one.stem}</figcaption></figure>' for one in pictures)
+    (folder / "index.html").write_text(PAGE.format(figures=figures))
+
+
 def main() -> int:
+    draw_windows()
     try:
         heading("A private Tor network of real tor processes")
         with Lab() as lab:

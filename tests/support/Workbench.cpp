@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QTest>
 
 #include <algorithm>
 
@@ -53,6 +54,11 @@ QCoro::Task<std::optional<ConnectTime>> noAnswer()
     co_return std::nullopt;
 }
 
+QCoro::Task<TransportDownloader::Outcome> installed()
+{
+    co_return InstalledBundle{QStringLiteral("14.0.4"), true};
+}
+
 QCoro::Task<PluggableTransports> answered(PluggableTransports transports)
 {
     co_return transports;
@@ -80,9 +86,17 @@ void settle()
     }
 }
 
+void Workbench::bothSystems()
+{
+    QTest::addColumn<System>("system");
+    QTest::newRow("linux") << System::linux;
+    QTest::newRow("macos") << System::macos;
+}
+
 Workbench::Workbench(System system)
     : profile(profileBelow(folder.path(), system))
     , terminal(profile, QStringLiteral("https://check.example/api/ip"))
+    , installTransports([](bool, TransportDownloader::Progress) { return installed(); })
     , bridgeProbe([](QString, quint16, std::chrono::milliseconds) { return noAnswer(); })
 {
     NameLookups::clear();
@@ -132,6 +146,9 @@ void Workbench::restart()
         },
         .bridgeProbe = [this](QString host, quint16 port, std::chrono::milliseconds limit) {
             return bridgeProbe(std::move(host), port, limit);
+        },
+        .installTransports = [this](bool throughTor, TransportDownloader::Progress progress) {
+            return installTransports(throughTor, std::move(progress));
         },
     });
     settle();

@@ -34,6 +34,8 @@ void settle();
 class Workbench {
 public:
     enum class System { linux, macos };
+    // The data of a test that runs on both systems: one column "system".
+    static void bothSystems();
     static constexpr auto bootstrapCommand = "GETINFO status/bootstrap-phase";
     static constexpr auto countersCommand = "GETINFO traffic/read traffic/written";
 
@@ -99,6 +101,9 @@ public:
     ScriptedApplications applications;
     PluggableTransports transports; // what a search finds
     int searches = 0;               // for transports
+    // What a download comes to; well, unless this says otherwise.
+    std::function<QCoro::Task<TransportDownloader::Outcome>(bool throughTor, TransportDownloader::Progress progress)>
+        installTransports;
     // How long a bridge takes to answer; none answer unless this says so.
     BridgeProbe bridgeProbe;
 
@@ -113,3 +118,5 @@ private:
 };
 
 } // namespace veldmark
+
+Q_DECLARE_METATYPE(veldmark::Workbench::System)

@@ -1,12 +1,18 @@
 // Draws every state of every window into a folder: what ./build.sh demo leaves, and docs/screenshots.
 #include "Scenes.h"
 #include "Stage.h"
+#include "ui/ColorScheme.h"
+#include "ui/Symbols.h"
 
 #include <QDir>
 #include <QFont>
 #include <QGuiApplication>
+#include <QPainter>
+#include <QQuickItem>
 #include <QTextStream>
 #include <QTranslator>
+
+#include <cmath>
 
 using namespace veldmark;
 
@@ -34,7 +40,10 @@ void drawPanel(Stage &stage, const QDir &folder, const QString &suffix, int widt
             stage.panel.traffic()->clear();
             quint64 read = 0;
             for (int i = 0; i <= 60; ++i) {
-                read += static_cast<quint64>(40'000 + 900'000 * ((i * 37) % 23) / 23);
+                // A page now and then, and something larger towards the end.
+                const double pages = std::pow(std::sin(i * 0.41) * std::sin(i * 0.17 + 1), 4);
+                const double file = i > 38 ? 1 - std::exp((38 - i) / 4.0) : 0;
+                read += static_cast<quint64>(20'000 + 700'000 * pages + 500'000 * file * (0.85 + 0.15 * std::sin(i * 2.3)));
                 stage.panel.traffic()->add(read, read / 6, start + std::chrono::seconds(2 * i));
             }
         }
@@ -50,6 +59,50 @@ void drawPanel(Stage &stage, const QDir &folder, const QString &suffix, int widt
             window->setHeight(height);
         save(stage, folder, QStringLiteral("panel-%1%2").arg(scene.name, suffix));
     }
+}
+
+// The dialogues over the panel.
+void drawSheets(Stage &stage, const QDir &folder, const QString &suffix)
+{
+    Snapshot s = Scenes::protectedSession();
+    s.choices.customBridges = QStringLiteral("obfs4 192.0.2.7:443 0123456789ABCDEF0123456789ABCDEF01234567 cert=abc iat-mode=0\n"
+                                             "a line that is none\n");
+    for (const bool full : {false, true}) {
+        s.choices.bypassApps = full ? QStringList{QStringLiteral("/usr/share/applications/org.example.Game.desktop"),
+                                                  QStringLiteral("/usr/share/applications/org.example.VideoConference.desktop")}
+                                    : QStringList();
+        stage.session.show(s);
+        for (const char *name : {"applications", "bridges"}) {
+            QQuickWindow *window = stage.open(QStringLiteral("main/MainWindow.qml"),
+                                              {{QStringLiteral("panelModel"), QVariant::fromValue(&stage.panel)},
+                                               {QStringLiteral("optionsModel"), QVariant::fromValue(&stage.options)}});
+            QObject *sheet = window ? window->findChild<QObject *>(QLatin1String(name)) : nullptr;
+            failed |= !sheet || !QMetaObject::invokeMethod(sheet, "open");
+            if (sheet && (full || name[0] == 'a'))
+                save(stage, folder, QStringLiteral("sheet-%1%2%3").arg(QLatin1String(name),
+                     full ? QString() : QStringLiteral("-empty"), suffix));
+        }
+    }
+}
+
+// Large windows on large screens, and a circuit that the pointer is on.
+void drawOthers(Stage &stage, const QDir &folder, const QString &suffix)
+{
+    Snapshot session = Scenes::protectedSession();
+    session.circuits = Scenes::circuits(30);
+    stage.session.show(session);
+    QQuickWindow *window = stage.open(QStringLiteral("circuits/CircuitsWindow.qml"),
+                                      {{QStringLiteral("model"), QVariant::fromValue(&stage.circuits)}});
+    if (!window)
+        return;
+    save(stage, folder, QStringLiteral("circuits-30") + suffix);
+    auto *graph = window->findChild<QQuickItem *>(QStringLiteral("graph"));
+    const QPointF at = graph->mapToScene(QPointF(graph->width() * 0.5, graph->height() * 0.58));
+    QHoverEvent hover(QEvent::HoverMove, graph->mapFromScene(at), at, at);
+    QCoreApplication::sendEvent(graph, &hover);
+    save(stage, folder, QStringLiteral("circuits-30-hovered") + suffix);
+    window->resize(3840, 2000);
+    save(stage, folder, QStringLiteral("circuits-largest") + suffix);
 }
 
 void drawWindows(Stage &stage, const QDir &folder, const QString &suffix)
@@ -72,7 +125,6 @@ void drawWindows(Stage &stage, const QDir &folder, const QString &suffix)
     stage.window()->resize(1000, 640);
     session.circuits = Scenes::circuits(30);
     stage.session.show(session);
-    save(stage, folder, QStringLiteral("circuits-30") + suffix);
     stage.circuits.follow(QStringLiteral("15"));
     save(stage, folder, QStringLiteral("circuits-30-followed") + suffix);
     stage.circuits.follow({});
@@ -125,6 +177,33 @@ void drawWindows(Stage &stage, const QDir &folder, const QString &suffix)
     save(stage, folder, QStringLiteral("quit") + suffix);
 }
 
+// The tray's icons on a light and a dark panel, in the sizes that panels ask for, and the smallest eight times
+// enlarged.
+void drawTray(const QDir &folder)
+{
+    const QStringList symbols{QStringLiteral("shield.slash"), QStringLiteral("shield.lefthalf.filled"),
+                              QStringLiteral("lock.shield.fill"), QStringLiteral("exclamationmark.shield")};
+    QImage sheet(640, 420, QImage::Format_RGB32);
+    QPainter painter(&sheet);
+    for (const bool dark : {false, true}) {
+        const QColor ink = dark ? QColor(0xf2, 0xf2, 0xf7) : QColor(0x1a, 0x1a, 0x22);
+        const int top = dark ? 210 : 0;
+        painter.fillRect(0, top, 640, 210, dark ? QColor(0x22, 0x22, 0x26) : QColor(0xee, 0xee, 0xee));
+        for (int i = 0; i < symbols.size(); ++i) {
+            const QString &symbol = symbols[i];
+            int x = 16 + i * 156;
+            for (const int pixels : {16, 22, 24, 32}) {
+                painter.drawImage(x, top + 16, Symbols::image(symbol, pixels, ink));
+                x += pixels + 10;
+            }
+            painter.drawImage(16 + i * 156, top + 66, Symbols::image(symbol, 16, ink).scaled(128, 128));
+        }
+    }
+    painter.end();
+    if (!sheet.save(folder.filePath(QStringLiteral("tray.png"))))
+        failed = true;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -148,14 +227,20 @@ int main(int argc, char **argv)
         application.installTranslator(&translator);
 
     Stage stage;
+    const bool flags = ColorScheme().flagsDrawn();
     for (const bool dark : {false, true}) {
         const QString suffix = dark ? QStringLiteral("-dark") : QStringLiteral("-light");
-        stage.setDark(dark);
+        stage.setDark(dark, flags);
         if (only != QLatin1String("windows"))
             drawPanel(stage, folder, suffix, 400, 0);
-        if (only != QLatin1String("panel"))
+        if (only != QLatin1String("panel")) {
             drawWindows(stage, folder, suffix);
+            drawSheets(stage, folder, suffix);
+            drawOthers(stage, folder, suffix);
+        }
     }
+    if (only.isEmpty())
+        drawTray(folder);
     for (const QString &warning : stage.warnings())
         err << warning << '\n';
     return failed || !stage.warnings().isEmpty() ? 1 : 0;

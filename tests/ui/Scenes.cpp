@@ -94,6 +94,12 @@ std::vector<Scene> panel()
     add("disconnected-custom-bridges", s);
 
     s = idle;
+    s.choices.bridgeChoice = BridgeChoice::obfs4;
+    s.errorMessage = QStringLiteral("obfs4 bridges need lyrebird, and it isn't on this computer. Click Download next to "
+                                    "Bridges to get it.");
+    add("disconnected-error-programs-missing", s);
+
+    s = idle;
     s.phase = Phase::connecting;
     s.activeMode = RoutingMode::strict;
     s.statusDetail = QStringLiteral("Waiting for administrator approval…");
@@ -103,6 +109,10 @@ std::vector<Scene> panel()
     s.statusDetail = QStringLiteral("Asking for relay descriptors");
     add("connecting-strict", s);
     s.activeMode = RoutingMode::proxy;
+    s.choices.strictMode = false;
+    s.bootstrapProgress = 1;
+    s.statusDetail = QStringLiteral("Done");
+    add("connecting-proxy", s);
     s.activeBridge = BridgeChoice::obfs4;
     s.bootstrapProgress = 0.14;
     s.statusDetail = QStringLiteral("Handshaking with a relay");
@@ -120,9 +130,16 @@ std::vector<Scene> panel()
     s.circuits.clear();
     add("connected-strict-checking", s);
     s.isChecking = false;
+    s.leak.kind = Leak::Kind::notTested;
+    s.lookups.kind = Lookups::Kind::unknown;
+    add("connected-strict-not-tested", s);
     s.torVerified = false;
     s.leak.kind = Leak::Kind::inconclusive;
     add("connected-strict-unconfirmed", s);
+    s = protectedSession();
+    s.leak.kind = Leak::Kind::inconclusive;
+    s.lookups.kind = Lookups::Kind::unverified;
+    add("connected-strict-inconclusive", s);
     s = protectedSession();
     s.leak = {Leak::Kind::exposed, QStringLiteral("198.51.100.23")};
     add("connected-strict-exposed", s);
@@ -137,6 +154,17 @@ std::vector<Scene> panel()
     s.statusDetail = QStringLiteral("Apps that use system proxy settings go through Tor");
     s.leak.kind = Leak::Kind::inconclusive;
     add("connected-proxy", s);
+    s.leak.kind = Leak::Kind::checking;
+    s.lookups.kind = Lookups::Kind::checking;
+    s.isChecking = true;
+    s.torVerified.reset();
+    s.exitIP.reset();
+    add("connected-proxy-checking", s);
+    s.isChecking = false;
+    s.torVerified = false;
+    s.leak.kind = Leak::Kind::notTested;
+    add("connected-proxy-unconfirmed", s);
+    s.torVerified = true;
     s.leak = {Leak::Kind::exposed, QStringLiteral("2001:db8:85a3:8d3:1319:8a2e:370:7348")};
     s.exitIP = QStringLiteral("2001:db8:ffff:ffff:ffff:8a2e:370:1234");
     add("connected-proxy-exposed-ipv6", s);
@@ -147,6 +175,9 @@ std::vector<Scene> panel()
     s.phase = Phase::disconnecting;
     s.statusDetail = QStringLiteral("Restoring your network settings…");
     add("disconnecting-strict", s);
+    s.activeMode = RoutingMode::proxy;
+    s.choices.strictMode = false;
+    add("disconnecting-proxy", s);
 
     s = idle;
     s.phase = Phase::stale;
@@ -157,7 +188,16 @@ std::vector<Scene> panel()
                                     "leaked. Reconnect, or Restore Network to go back online.");
     add("stale-strict-tor-died", s);
     s.activeMode = RoutingMode::proxy;
+    s.choices.strictMode = false;
+    s.errorMessage = QStringLiteral("Tor stopped running. Apps using the proxy can't connect until you reconnect or "
+                                    "Restore Network.");
+    add("stale-proxy-tor-died", s);
+    s.activeMode = RoutingMode::strict;
+    s.choices.strictMode = true;
     s.errorMessage.reset();
+    s.statusDetail = QStringLiteral("Your network is still set up for Tor from an earlier session");
+    add("stale-strict", s);
+    s.activeMode.reset();
     s.statusDetail = QStringLiteral("Your network is still set up for Tor from an earlier session");
     add("stale-proxy", s);
     return scenes;

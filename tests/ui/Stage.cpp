@@ -4,6 +4,8 @@
 #include "ui/Module.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QQmlAbstractUrlInterceptor>
 #include <QQmlComponent>
 
 namespace veldmark {
@@ -19,6 +21,24 @@ PlatformProfile profileBelow(const QString &folder)
     return profile;
 }
 
+// Takes the module's files from the source tree instead of the program, so that a change to them can be looked
+// at without a compile: VELDMARK_QML=src/ui veldmark-pictures FOLDER.
+class SourceTree final : public QQmlAbstractUrlInterceptor {
+public:
+    explicit SourceTree(const QString &folder) : m_folder(QDir(folder).absolutePath()) {}
+    QUrl intercept(const QUrl &url, DataType type) override
+    {
+        const QString inside = QStringLiteral("qrc:/qt/qml/Veldmark/qml/");
+        const QString wanted = url.toString();
+        return type == QmlFile && wanted.startsWith(inside)
+            ? QUrl::fromLocalFile(m_folder + QStringLiteral("/qml/") + wanted.mid(inside.size()))
+            : url;
+    }
+
+private:
+    QString m_folder;
+};
+
 } // namespace
 
 Stage::Stage()
@@ -32,6 +52,10 @@ Stage::Stage()
     , choices(session)
 {
     prepareEngine(engine);
+    if (const QString sources = qEnvironmentVariable("VELDMARK_QML"); !sources.isEmpty()) {
+        static SourceTree tree(sources);
+        engine.addUrlInterceptor(&tree);
+    }
     QObject::connect(&engine, &QQmlEngine::warnings, &engine, [this](const QList<QQmlError> &errors) {
         for (const QQmlError &error : errors)
             m_warnings << error.toString();
@@ -39,10 +63,10 @@ Stage::Stage()
     setDark(false);
 }
 
-void Stage::setDark(bool dark)
+void Stage::setDark(bool dark, bool flags)
 {
     auto *scheme = engine.singletonInstance<ColorScheme *>(qmlTypeId("Veldmark", 1, 0, "ColorScheme"));
-    scheme->setFlagsDrawn(false);
+    scheme->setFlagsDrawn(flags);
     scheme->force(dark, true);
 }
 

@@ -56,6 +56,27 @@ void visit(QQuickItem *item, const std::function<void(QQuickItem *)> &look)
         visit(child, look);
 }
 
+// A line about a text or a control, or nothing: texts inside controls are the controls' own.
+QString described(QQuickItem *item)
+{
+    const auto isControl = [](const QQuickItem *one) {
+        return one->inherits("QQuickAbstractButton") || one->inherits("QQuickComboBox");
+    };
+    for (const QQuickItem *above = item->parentItem(); above; above = above->parentItem())
+        if (isControl(above))
+            return {};
+    QString text = item->property("text").toString();
+    if (!isControl(item)) {
+        const bool isText = item->inherits("QQuickText") || item->inherits("QQuickTextEdit");
+        return isText && !text.isEmpty() ? QStringLiteral("  ") + text.replace(u'\n', u'/') + u'\n' : QString();
+    }
+    if (item->inherits("QQuickComboBox"))
+        text = item->property("name").toString() + QStringLiteral(": ") + item->property("displayText").toString();
+    if (item->property("checkable").toBool() || item->inherits("QQuickSwitch"))
+        text += item->property("checked").toBool() ? QStringLiteral(": on") : QStringLiteral(": off");
+    return QStringLiteral("  (%1)%2\n").arg(text, item->isEnabled() ? QString() : QStringLiteral(" disabled"));
+}
+
 bool isClipped(QQuickItem *item)
 {
     for (QQuickItem *at = item; at; at = at->parentItem())
@@ -337,6 +358,38 @@ private Q_SLOTS:
         QCOMPARE(quit.count() + disconnect.count(), 0);
         QTest::keyClick(window, Qt::Key_Return);
         QCOMPARE(disconnect.count(), 1); // the default
+    }
+
+    // Every text of every scene, and what can be pressed, as a file that can be read and compared.
+    void saysAndOffersWhatItDid()
+    {
+        Stage stage;
+        QString now;
+        for (const Scenes::Scene &scene : Scenes::panel()) {
+            stage.panel.traffic()->clear();
+            stage.session.show(scene.snapshot);
+            QVERIFY(stage.open(QStringLiteral("main/MainWindow.qml"), windows(stage).front().properties));
+            stage.picture();
+            now += u'[' + scene.name + QStringLiteral("]\n");
+            visit(stage.window()->contentItem(), [&](QQuickItem *item) { now += described(item); });
+            now += u'\n';
+        }
+        QFile file(QStringLiteral(GOLDEN_DIR "/panel.txt"));
+        if (qEnvironmentVariableIsSet("VELDMARK_WRITE_GOLDEN")) {
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(now.toUtf8());
+            return;
+        }
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QStringList before = QString::fromUtf8(file.readAll()).split(u'\n');
+        const QStringList lines = now.split(u'\n');
+        QString scene;
+        for (qsizetype i = 0; i < std::max(before.size(), lines.size()); ++i) {
+            if (lines.value(i).startsWith(u'['))
+                scene = lines[i];
+            QVERIFY2(before.value(i) == lines.value(i),
+                     qPrintable(scene + QStringLiteral(": was \"%1\", is \"%2\"").arg(before.value(i), lines.value(i))));
+        }
     }
 
     void looksAsItDid_data()

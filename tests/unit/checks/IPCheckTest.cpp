@@ -60,6 +60,8 @@ private Q_SLOTS:
         row("null for an address", "{'IsTor':true,'IP':null}");
         row("an address that is none", "{'IsTor':true,'IP':'<img src=x>'}");
         row("an empty address", "{'IsTor':true,'IP':''}");
+        row("an address with something after it", "{'IsTor':true,'IP':'fe80::1%<b>eth0</b>'}");
+        row("an address with a NUL in it", "{'IsTor':true,'IP':'203.0\\u0000113.7'}");
         row("an array", "[{'IsTor':true,'IP':'203.0.113.7'}]");
         row("half", "{'IsTor':true,'IP':'203.0");
         row("two objects", "{'IsTor':true,'IP':'203.0.113.7'}{}");

@@ -55,6 +55,10 @@ private Q_SLOTS:
         row("the first three that are addresses",
             "nameserver x\nnameserver 1.1.1.1\nnameserver 999.1.1.1\nnameserver 2.2.2.2\nnameserver 3.3.3.3\n",
             "1.1.1.1 2.2.2.2 3.3.3.3");
+        row("scopes that are none",
+            "nameserver fe80::1%\nnameserver fe80::2%a%b\nnameserver fe80::3%0123456789abcdef\n",
+            "fe80::1 fe80::2 fe80::3");
+        row("a scope that is no text", "nameserver fe80::1%\xff\x1b[2J\nnameserver fe80::2%e\xcc\x81\n", "fe80::1 fe80::2");
         row("indented", " nameserver 1.2.3.4\n\tnameserver 1.2.3.4\n", "");
         row("commented", "#nameserver 1.2.3.4\n;nameserver 1.2.3.4\n# nameserver 1.2.3.4\n", "");
         row("other case", "Nameserver 1.2.3.4\nNAMESERVER 1.2.3.4\n", "");

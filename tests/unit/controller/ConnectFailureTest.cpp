@@ -7,18 +7,9 @@ using namespace veldmark;
 using System = Workbench::System;
 using Phase = ConnectionPhase;
 
-Q_DECLARE_METATYPE(veldmark::Workbench::System)
-
 class ConnectFailureTest : public QObject {
     Q_OBJECT
 private:
-    static void bothSystems()
-    {
-        QTest::addColumn<System>("system");
-        QTest::newRow("linux") << System::linux;
-        QTest::newRow("macos") << System::macos;
-    }
-
     static bool isNormal(const TorController &c)
     {
         return c.phase() == Phase::disconnected && !c.activeMode() && !c.activeBridge() && !c.canCancel()
@@ -161,7 +152,7 @@ private Q_SLOTS:
         QVERIFY(bench.controller().activeMode() == RoutingMode::proxy);
     }
 
-    void aDismissedPromptIsNoError_data() { bothSystems(); }
+    void aDismissedPromptIsNoError_data() { Workbench::bothSystems(); }
     void aDismissedPromptIsNoError()
     {
         QFETCH(System, system);
@@ -180,7 +171,7 @@ private Q_SLOTS:
         QVERIFY(!bench.controller().errorMessage());
     }
 
-    void aFailedHelper_data() { bothSystems(); }
+    void aFailedHelper_data() { Workbench::bothSystems(); }
     void aFailedHelper()
     {
         QFETCH(System, system);

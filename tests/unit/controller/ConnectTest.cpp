@@ -11,22 +11,12 @@ using namespace veldmark;
 using System = Workbench::System;
 using Phase = ConnectionPhase;
 
-Q_DECLARE_METATYPE(veldmark::Workbench::System)
-
 // How a connection is begun and what the helper is asked for. What Tor then says is BootstrapTest's,
 // what goes wrong ConnectFailureTest's.
 class ConnectTest : public QObject {
     Q_OBJECT
-private:
-    static void bothSystems()
-    {
-        QTest::addColumn<System>("system");
-        QTest::newRow("linux") << System::linux;
-        QTest::newRow("macos") << System::macos;
-    }
-
 private Q_SLOTS:
-    void connects_data() { bothSystems(); }
+    void connects_data() { Workbench::bothSystems(); }
     void connects()
     {
         QFETCH(System, system);
@@ -72,7 +62,7 @@ private Q_SLOTS:
         QCOMPARE(bench.commandCount(Workbench::countersCommand), 1);
     }
 
-    void withoutAPasswordWhenThatIsSetUp_data() { bothSystems(); }
+    void withoutAPasswordWhenThatIsSetUp_data() { Workbench::bothSystems(); }
     void withoutAPasswordWhenThatIsSetUp()
     {
         QFETCH(System, system);
@@ -161,7 +151,7 @@ private Q_SLOTS:
         QVERIFY(!c.activeBridge());
     }
 
-    void standardPlacesInTheirOrder_data() { bothSystems(); }
+    void standardPlacesInTheirOrder_data() { Workbench::bothSystems(); }
     void standardPlacesInTheirOrder()
     {
         QFETCH(System, system);

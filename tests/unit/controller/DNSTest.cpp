@@ -10,8 +10,6 @@ using namespace veldmark;
 using Phase = ConnectionPhase;
 using System = Workbench::System;
 
-Q_DECLARE_METATYPE(veldmark::Workbench::System)
-
 namespace {
 
 DNSResolver resolver(const QStringList &servers, std::optional<QString> domain = {},

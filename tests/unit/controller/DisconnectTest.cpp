@@ -7,18 +7,9 @@ using namespace veldmark;
 using System = Workbench::System;
 using Phase = ConnectionPhase;
 
-Q_DECLARE_METATYPE(veldmark::Workbench::System)
-
 class DisconnectTest : public QObject {
     Q_OBJECT
 private:
-    static void bothSystems()
-    {
-        QTest::addColumn<System>("system");
-        QTest::newRow("linux") << System::linux;
-        QTest::newRow("macos") << System::macos;
-    }
-
     static void refusals()
     {
         QTest::addColumn<System>("system");
@@ -48,7 +39,7 @@ private:
     }
 
 private Q_SLOTS:
-    void restoresEverything_data() { bothSystems(); }
+    void restoresEverything_data() { Workbench::bothSystems(); }
     void restoresEverything()
     {
         QFETCH(System, system);

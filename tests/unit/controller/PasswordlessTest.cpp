@@ -9,18 +9,9 @@ using namespace Qt::StringLiterals;
 using namespace veldmark;
 using System = Workbench::System;
 
-Q_DECLARE_METATYPE(veldmark::Workbench::System)
-
 class PasswordlessTest : public QObject {
     Q_OBJECT
 private:
-    static void bothSystems()
-    {
-        QTest::addColumn<System>("system");
-        QTest::newRow("linux") << System::linux;
-        QTest::newRow("macos") << System::macos;
-    }
-
     static void install(const Workbench &bench, const QByteArray &helper = "the helper")
     {
         bench.writeFile(bench.profile.installedHelper, helper);
@@ -44,7 +35,7 @@ private:
     }
 
 private Q_SLOTS:
-    void setsItUp_data() { bothSystems(); }
+    void setsItUp_data() { Workbench::bothSystems(); }
     void setsItUp()
     {
         QFETCH(System, system);
@@ -92,7 +83,7 @@ private Q_SLOTS:
         QVERIFY(!bench.controller().startupError());
     }
 
-    void saysWhyItCouldNotBeSetUp_data() { bothSystems(); }
+    void saysWhyItCouldNotBeSetUp_data() { Workbench::bothSystems(); }
     void saysWhyItCouldNotBeSetUp()
     {
         QFETCH(System, system);
@@ -109,7 +100,7 @@ private Q_SLOTS:
         QVERIFY(!bench.controller().startupError()); // the user's own choice
     }
 
-    void takesItAwayWithoutAPrompt_data() { bothSystems(); }
+    void takesItAwayWithoutAPrompt_data() { Workbench::bothSystems(); }
     void takesItAwayWithoutAPrompt()
     {
         QFETCH(System, system);
@@ -138,7 +129,7 @@ private Q_SLOTS:
         QCOMPARE(bench.controller().startupError().value(), u"Couldn't remove passwordless mode: Read-only."_s);
     }
 
-    void aRuleThatDoesNotMatchFallsBackToThePrompt_data() { bothSystems(); }
+    void aRuleThatDoesNotMatchFallsBackToThePrompt_data() { Workbench::bothSystems(); }
     void aRuleThatDoesNotMatchFallsBackToThePrompt()
     {
         QFETCH(System, system);

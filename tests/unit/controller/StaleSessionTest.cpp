@@ -7,8 +7,6 @@ using namespace veldmark;
 using System = Workbench::System;
 using Phase = ConnectionPhase;
 
-Q_DECLARE_METATYPE(veldmark::Workbench::System)
-
 // What an earlier run has left behind, and connecting by itself at start-up.
 class StaleSessionTest : public QObject {
     Q_OBJECT

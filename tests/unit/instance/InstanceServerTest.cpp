@@ -17,8 +17,6 @@ using namespace veldmark;
 using System = Workbench::System;
 using Phase = ConnectionPhase;
 
-Q_DECLARE_METATYPE(veldmark::Workbench::System)
-
 namespace {
 
 using Answer = Result<void, QString>;
@@ -100,12 +98,7 @@ QJsonObject lastLine(const QByteArray &bytes)
 class InstanceServerTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void listensWhereOnlyTheUserCanEnter_data()
-    {
-        QTest::addColumn<System>("system");
-        QTest::newRow("linux") << System::linux;
-        QTest::newRow("macos") << System::macos;
-    }
+    void listensWhereOnlyTheUserCanEnter_data() { Workbench::bothSystems(); }
 
     void listensWhereOnlyTheUserCanEnter()
     {

@@ -242,7 +242,7 @@ private Q_SLOTS:
         QCOMPARE(run(runner, verb).error().description(), QStringLiteral("pf is off"));
     }
 
-    void pkexecRunsTheHelperInAShell()
+    void pkexecRunsTheHelperItself()
     {
         StandIns system(true);
         system.helper("echo \"helper ran\"");
@@ -250,7 +250,7 @@ private Q_SLOTS:
         PrivilegedRunner runner = system.runner();
         QCOMPARE(run(runner, hostileArguments).value(), QStringLiteral("helper ran\n"));
         QCOMPARE(system.argumentsOf(system.profile.promptProgram).value(),
-                 QStringList({QStringLiteral("/bin/bash"), system.helperPath()}) + hostileArguments);
+                 QStringList(system.helperPath()) + hostileArguments);
         QCOMPARE(system.argumentsOf(system.helperPath()).value(), hostileArguments);
     }
 
@@ -287,7 +287,7 @@ private Q_SLOTS:
             << QByteArray("echo 'ERROR: Error executing command as another user: Not authorized' >&2; exit 127")
             << Kind::Failed << QStringLiteral("Error executing command as another user: Not authorized");
         QTest::newRow("the shell's own 126")
-            << QByteArray("echo \"$2: line 3: /x: Permission denied\" >&2; exit 126")
+            << QByteArray("echo \"$1: line 3: /x: Permission denied\" >&2; exit 126")
             << Kind::Failed << QStringLiteral("%1: line 3: /x: Permission denied");
         QTest::newRow("silent 127") << QByteArray("exit 127") << Kind::Failed
                                     << QStringLiteral("The helper failed without an error message.");
@@ -337,7 +337,7 @@ private Q_SLOTS:
         const QString other = QStringLiteral("/somewhere/other.sh");
         QVERIFY(QCoro::waitFor(runner.runWithPrompt(verb, other)));
         QCOMPARE(system.argumentsOf(system.profile.promptProgram).value(),
-                 QStringList({QStringLiteral("/bin/bash"), other}) + verb);
+                 QStringList(other) + verb);
         QVERIFY(!system.argumentsOf(system.profile.sudo));
         QCOMPARE(QCoro::waitFor(runner.runWithPrompt(verb)).error().kind(), Kind::MissingHelper);
     }

@@ -41,12 +41,43 @@ private Q_SLOTS:
         row("no key", "=true\n", false);
         row("open section", "[General\na=1\n", false);
         row("open quote", "a=\"x\nb=2\n", false);
+        row("key cut off by a comment", "exit; y=de\n", false);
+        row("section cut off by a comment", "[G; eral]\na=1\n", false);
+        row("section with a comment", "[General] ; mine\na=1\n", true);
+        row("line that goes on", "a=1\\\nb=2\n", false);
+        row("backslash at the end of a value", "a=1\\\\\nb=2\n", true);
         row("a page", "<html>\n<body></body>\n", false);
     }
     void tellsSettingsFromDamage()
     {
         QFETCH(QByteArray, content);
         QTEST(isIntactSettingsText(content), "intact");
+    }
+
+    // Text that looks right, and of which a rewrite would lose something.
+    void tellsDamageThatShowsWhenItIsRead_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<bool>("intact");
+        const auto row = [](const char *name, const QByteArray &content, bool intact) {
+            QTest::newRow(name) << content << intact;
+        };
+        row("key with a group", "group\\a=1\n[one/two]\nb=2\n", true);
+        row("key that begins with a separator", "\\0ther]=1\n", false);
+        row("key that ends with one", "a/=1\n", false);
+        row("key with an empty part", "a\\/b=1\n", false);
+        row("key with a separator by its code", "%2Fa=1\n", false);
+        row("section with an empty part", "[/]\na=1\n", false);
+    }
+    void tellsDamageThatShowsWhenItIsRead()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(bool, intact);
+        QTemporaryDir folder;
+        QFile file(folder.filePath(QStringLiteral("veldmark.conf")));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+        file.close();
+        QCOMPARE(settingsFileState(file.fileName()), intact ? SettingsFileState::Intact : SettingsFileState::Damaged);
     }
 
     // Two files of one size and time would be one to QSettings.

@@ -104,6 +104,51 @@ private Q_SLOTS:
         QTEST(panel.footnote(), "footnote");
     }
 
+    // Every phase, mode and verdict there is: what looks or sounds safe must have been verified.
+    void neverPromisesMoreThanWasVerified()
+    {
+        using Tone = PanelModel::Tone;
+        StandInSession session(profile);
+        PanelModel panel(session);
+        int combinations = 0;
+        int green = 0;
+        for (const Phase phase : {Phase::disconnected, Phase::connecting, Phase::connected, Phase::disconnecting, Phase::stale})
+            for (const std::optional<RoutingMode> mode : {std::optional<RoutingMode>(), std::optional(RoutingMode::strict), std::optional(RoutingMode::proxy)})
+                for (const Leak::Kind leak : {Leak::Kind::exposed, Leak::Kind::notTested, Leak::Kind::checking, Leak::Kind::blocked, Leak::Kind::inconclusive})
+                    for (const Lookups::Kind lookups : {Lookups::Kind::leak, Lookups::Kind::unknown, Lookups::Kind::checking, Lookups::Kind::throughTor, Lookups::Kind::unverified})
+                        for (const std::optional<bool> verified : {std::optional<bool>(), std::optional(false), std::optional(true)}) {
+                            Snapshot s;
+                            s.torPath = QStringLiteral("/usr/bin/tor");
+                            s.phase = phase;
+                            s.activeMode = mode;
+                            s.leak = {leak, QStringLiteral("198.51.100.23")};
+                            s.lookups.kind = lookups;
+                            s.torVerified = verified;
+                            session.show(s);
+                            ++combinations;
+                            const bool strict = phase == Phase::connected && mode == RoutingMode::strict;
+                            const bool known = lookups == Lookups::Kind::leak || leak == Leak::Kind::exposed;
+                            if (panel.tone() == Tone::Good) {
+                                ++green;
+                                QVERIFY(strict && verified == true && !known);
+                            }
+                            if (panel.title() == QLatin1String("Protected"))
+                                QVERIFY(strict && !known);
+                            if (panel.symbol() == QLatin1String("lock.shield.fill"))
+                                QVERIFY(phase == Phase::connected && lookups != Lookups::Kind::leak);
+                            if (phase == Phase::connected && lookups == Lookups::Kind::leak)
+                                QCOMPARE(panel.tone(), Tone::Danger);
+                            if (phase != Phase::connected && panel.pillText().startsWith(QLatin1String("Connected")))
+                                QFAIL("a bridge is said to be connected through");
+                            if (panel.leakText() == QLatin1String("No leaks"))
+                                QVERIFY(leak == Leak::Kind::blocked && lookups != Lookups::Kind::leak);
+                            if (panel.verification() == QLatin1String("Verified"))
+                                QVERIFY(verified == true);
+                        }
+        QCOMPARE(combinations, 5 * 3 * 5 * 5 * 3);
+        QVERIFY(green > 0);
+    }
+
     void pressesTheButtonByPhase()
     {
         StandInSession session(profile);
@@ -147,6 +192,9 @@ private Q_SLOTS:
             session.show(s);
             QCOMPARE(panel.pillText(), QStringLiteral("Connected through %1 bridges").arg(QLatin1String(name)));
         }
+        s.phase = Phase::connecting; // nobody is connected through anything yet
+        session.show(s);
+        QCOMPARE(panel.pillText(), QStringLiteral("Proxy"));
     }
 
     void describesTheExit()

@@ -31,6 +31,15 @@ Rectangle {
             boundsBehavior: Flickable.StopAtBounds
             T.ScrollBar.vertical: ScrollBar {}
             model: sidebar.model
+            // The followed one stays in view, also when it was chosen in the graph or its path needs room.
+            readonly property int followedRow: sidebar.model.followedRow
+            onFollowedRowChanged: settled.restart()
+            onHeightChanged: settled.restart()
+            Timer {
+                id: settled // the list has its new height
+                interval: 0
+                onTriggered: if (list.followedRow >= 0) list.positionViewAtIndex(list.followedRow, ListView.Contain)
+            }
             delegate: T.ItemDelegate {
                 id: row
                 required property string circuitId

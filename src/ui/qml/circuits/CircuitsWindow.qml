@@ -78,6 +78,8 @@ Window {
                     guide: Theme.line
                     outline: Theme.dark ? "transparent" : "#8a8a98"
                     drawFlags: ColorScheme.flagsDrawn
+                    emphasis: standingOut ? 1 : 0
+                    Behavior on emphasis { NumberAnimation { duration: Theme.quick; easing.type: Easing.OutCubic } }
                     Accessible.role: Accessible.Graphic
                     Accessible.name: window.model.subtitle
                     Rectangle {
@@ -106,15 +108,18 @@ Window {
                     visible: !graph.visible
                     symbol: window.model.connected ? "point.3.connected.trianglepath.dotted" : "power"
                     title: window.model.connected ? qsTr("Reading circuits…") : qsTr("Connect to see your circuits")
+                    text: window.model.connected ? window.model.error : ""
                 }
             }
             Rectangle {
                 Layout.fillHeight: true
+                visible: graph.visible
                 implicitWidth: 1
                 color: Theme.line
             }
             CircuitsSidebar {
                 Layout.fillHeight: true
+                visible: graph.visible
                 Layout.preferredWidth: Math.max(230, Math.min(300, window.width * 0.28))
                 model: window.model
             }

@@ -12,8 +12,8 @@ T.Button {
     required property double progress // 0…1
     readonly property bool filled: tone !== PanelModel.Accent || !busy
 
-    implicitWidth: 148
-    implicitHeight: 148
+    implicitWidth: 140
+    implicitHeight: 140
     hoverEnabled: true
 
     ProgressRing {
@@ -38,10 +38,10 @@ T.Button {
         anchors.margins: 12
         radius: width / 2
         color: button.busy ? Theme.surface
+             : !button.enabled ? Theme.raised
              : button.tone === PanelModel.Neutral ? Theme.accent : Theme.tone(button.tone)
-        border.width: button.busy ? 1 : 0
+        border.width: button.busy || !button.enabled ? 1 : 0
         border.color: Theme.line
-        opacity: button.enabled || button.busy ? 1 : 0.45
         scale: button.down && !ColorScheme.reducedMotion ? 0.96 : 1
         Behavior on color { ColorAnimation { duration: Theme.quick } }
         Behavior on scale { NumberAnimation { duration: Theme.quick } }
@@ -58,10 +58,12 @@ T.Button {
         Column {
             anchors.centerIn: parent
             spacing: 6
+            opacity: button.enabled || !button.busy ? 1 : 0.5
             Symbol {
                 anchors.horizontalCenter: parent.horizontalCenter
-                name: button.busy && button.enabled ? "xmark" : "power"
-                size: button.busy ? 26 : 40
+                visible: !button.busy || button.text !== ""
+                name: button.busy ? "xmark" : "power"
+                size: button.busy ? 26 : 38
                 color: caption.color
             }
             Text {
@@ -70,9 +72,9 @@ T.Button {
                 width: 96
                 visible: text !== ""
                 text: button.text
-                font.pixelSize: 13
+                font.pixelSize: Theme.smallSize
                 font.weight: Font.DemiBold
-                color: button.busy ? Theme.text : Theme.onTone
+                color: button.busy ? Theme.text : button.enabled ? Theme.onTone : Theme.quiet
                 wrapMode: Text.Wrap
                 horizontalAlignment: Text.AlignHCenter
             }

@@ -9,6 +9,7 @@ T.Button {
     property string help
     property bool primary: false // filled with the tone: the one next step
     property color tone: Theme.accent
+    property color fill: Theme.raised // when it is not the primary one; a card with a colour of its own wants another
     property int symbolSize: 16
 
     property int maximumWidth: 300
@@ -49,7 +50,7 @@ T.Button {
     background: Rectangle {
         radius: Theme.smallRadius
         color: button.primary ? (button.down ? Qt.darker(button.tone, 1.15) : button.tone)
-             : button.down ? Theme.pressed : Theme.raised
+             : button.down ? Theme.pressed : button.fill
         opacity: button.enabled ? 1 : 0.6
         border.width: button.hovered && button.enabled ? 1 : 0
         border.color: Theme.edge

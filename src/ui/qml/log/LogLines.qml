@@ -24,9 +24,33 @@ ListView {
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Tor Log")
 
-    onCountChanged: if (follow) positionViewAtEnd()
-    onFollowChanged: if (follow) positionViewAtEnd()
-    onHeightChanged: if (follow) positionViewAtEnd()
+    // Rows are wrapped, so that their heights change with the width and are known only once they are made.
+    onCountChanged: stay()
+    onFollowChanged: stay()
+    onHeightChanged: stay()
+    onWidthChanged: stay()
+    onContentHeightChanged: stay()
+    onVisibleChanged: stay()
+
+    function stay() {
+        if (follow)
+            settled.restart()
+    }
+    Timer { id: settled; interval: 0; onTriggered: list.positionViewAtEnd() }
+
+    // What is selected stays so when older lines fall off the beginning; another list begins without a selection.
+    Connections {
+        target: list.log
+        function onRowsRemoved(parent, first, last) {
+            const gone = last - first + 1
+            list.head = Math.max(list.head - gone, -1)
+            list.anchor = list.head < 0 ? -1 : Math.max(list.anchor - gone, 0)
+        }
+        function onModelReset() {
+            list.head = -1
+            list.anchor = -1
+        }
+    }
 
     function scrollBy(distance: double) {
         contentY = Math.max(originY, Math.min(originY + contentHeight - height, contentY + distance))
@@ -61,6 +85,8 @@ ListView {
         focused: list.activeFocus && index === list.head
     }
     MouseArea {
+        id: area
+        property double dragged: 0 // how far above or below the lines the pointer holds a selection
         anchors { fill: parent; rightMargin: bar.visible ? bar.width : 0 }
         cursorShape: Qt.IBeamCursor
         preventStealing: true
@@ -76,6 +102,23 @@ ListView {
             const row = rowAt(mouse.y)
             if (row >= 0)
                 list.head = row
+            dragged = mouse.y < 0 ? mouse.y : Math.max(0, mouse.y - height)
+            if (list.head !== list.anchor)
+                list.follow = false
+        }
+        onReleased: dragged = 0
+        onCanceled: dragged = 0
+        Timer {
+            interval: 40
+            repeat: true
+            running: area.dragged !== 0
+            onTriggered: {
+                list.scrollBy(area.dragged)
+                list.follow = false
+                const row = area.rowAt(area.dragged < 0 ? 0 : area.height)
+                if (row >= 0)
+                    list.head = row
+            }
         }
         onWheel: wheel => list.scrollBy(-(wheel.pixelDelta.y !== 0 ? wheel.pixelDelta.y : wheel.angleDelta.y * 0.5))
     }

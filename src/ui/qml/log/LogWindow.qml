@@ -86,6 +86,7 @@ Window {
             Divider { anchors { left: parent.left; right: parent.right } }
             LogLines {
                 id: lines
+                objectName: "lines"
                 anchors { fill: parent; topMargin: 1 }
                 visible: window.model.hasRows
                 log: window.model

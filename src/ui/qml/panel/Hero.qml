@@ -8,7 +8,7 @@ Rectangle {
     required property PanelModel model
     signal logWanted()
 
-    implicitHeight: column.implicitHeight + 32
+    implicitHeight: column.implicitHeight + 24
     radius: Theme.radius
     color: Theme.toneGround(model.tone)
     border.color: Theme.line
@@ -16,12 +16,11 @@ Rectangle {
 
     ColumnLayout {
         id: column
-        anchors { fill: parent; margins: 16 }
+        anchors { fill: parent; margins: 16; topMargin: 8 }
         spacing: 6
 
         PowerButton {
             Layout.alignment: Qt.AlignHCenter
-            Layout.bottomMargin: 4
             text: hero.model.powerLabel
             enabled: hero.model.powerEnabled
             tone: hero.model.tone

@@ -44,6 +44,7 @@ Card {
         }
         PushButton {
             text: qsTr("Re-test")
+            fill: Theme.surface
             onClicked: card.model.retestDNS()
         }
     }

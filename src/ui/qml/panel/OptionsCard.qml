@@ -10,7 +10,7 @@ Card {
     signal applicationsWanted()
 
     title: qsTr("Options")
-    contentSpacing: 12
+    contentSpacing: 10
 
     RowLayout {
         visible: card.model.locked

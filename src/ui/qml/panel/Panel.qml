@@ -29,6 +29,17 @@ Rectangle {
                 closable: true
                 onClosed: panel.model.dismissError()
                 PushButton {
+                    visible: panel.options.needsDownload
+                    text: qsTr("Download")
+                    symbol: "arrow.down.circle.fill"
+                    help: qsTr("Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges")
+                    enabled: panel.options.canDownload
+                    primary: true
+                    tone: Theme.danger
+                    onClicked: panel.options.download()
+                }
+                PushButton {
+                    fill: Theme.surface
                     text: qsTr("Show Tor Log")
                     help: qsTr("See everything Tor reported")
                     onClicked: panel.windowWanted("log")
@@ -48,6 +59,7 @@ Rectangle {
                     onCopied: text => panel.model.copy(text)
                 }
                 PushButton {
+                    fill: Theme.surface
                     text: qsTr("Recheck")
                     symbol: "arrow.triangle.2.circlepath"
                     onClicked: panel.model.recheckTor()
@@ -90,9 +102,10 @@ Rectangle {
         onLogWanted: panel.windowWanted("log")
         onQuitWanted: panel.quitWanted()
     }
-    BridgesSheet { id: bridges; model: panel.options }
+    BridgesSheet { id: bridges; objectName: "bridges"; model: panel.options }
     ApplicationsSheet {
         id: applications
+        objectName: "applications"
         model: panel.options
         onChooserWanted: panel.chooserWanted()
     }

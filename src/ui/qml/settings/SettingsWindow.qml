@@ -37,10 +37,13 @@ Window {
         spacing: 0
         Rectangle {
             Layout.fillHeight: true
-            implicitWidth: 188
+            // Wide enough for the longest name in any language, within reason.
+            readonly property double longest: window.panes.reduce((most, pane) => Math.max(most, measure.advanceWidth(pane.title)), 0)
+            implicitWidth: Math.min(250, Math.max(188, Math.ceil(longest) + 70))
             color: Theme.surface
+            FontMetrics { id: measure; font.pixelSize: Theme.bodySize; font.weight: Font.DemiBold }
             Column {
-                anchors { fill: parent; margins: 10 }
+                anchors { fill: parent; margins: 10; topMargin: 24 }
                 spacing: 4
                 Accessible.role: Accessible.PageTabList
                 Accessible.name: qsTr("Settings")

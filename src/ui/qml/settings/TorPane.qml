@@ -16,6 +16,12 @@ Pane {
             symbol: "network"
             title: qsTr("Program")
             subtitle: pane.model.torPlace
+            IconButton {
+                visible: pane.model.installCommand !== ""
+                symbol: "doc.on.doc"
+                text: qsTr("Copy")
+                onClicked: pane.model.copy(pane.model.installCommand)
+            }
             StatusPill {
                 text: pane.model.torStatus
                 tone: pane.model.torFound ? PanelModel.Good : PanelModel.Danger

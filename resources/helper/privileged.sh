@@ -1,20 +1,20 @@
 
-# ---- Linux: running without a password prompt --------------------------------------------------------------
+# ---- Running without a password prompt ---------------------------------------------------------------------
 # A root-owned copy of this helper, and a sudo rule that lets one user run exactly that copy. The copy runs no
 # program of the user's without an approval, so the rule gives no other power than the helper's verbs.
 
-readonly INSTALLED=/usr/local/libexec/veldmark
+# The system's own part sets INSTALLED, the folder, and SUDO_DRAFT, where the rule is checked first.
 readonly INSTALLED_HELPER=$INSTALLED/veldmark-helper.sh
 readonly INSTALLED_LAUNCHER=$INSTALLED/veldmark-launch
 readonly SUDO_RULE=/etc/sudoers.d/veldmark   # 0440
-readonly SUDO_DRAFT=/run/veldmark.sudoers    # 0440; checked here first
 
 # print_sudo_rule UID: by number, so that no name has a meaning of its own in the rule.
 print_sudo_rule() {
+  local helper=${INSTALLED_HELPER// /\\ }
   cat <<END
 # Written by Veldmark: this user may run its helper, and nothing else, without a password.
-Defaults!$INSTALLED_HELPER env_reset
-#$1 ALL=(root) NOPASSWD:NOSETENV: $INSTALLED_HELPER
+Defaults!$helper env_reset
+#$1 ALL=(root) NOPASSWD:NOSETENV: $helper
 END
 }
 
@@ -25,14 +25,13 @@ install_file() {
   set -o noclobber
   : >"$new" || return 1
   set +o noclobber
-  print_file "$1" >"$new" && [[ -s $new ]] && chmod 0755 -- "$new" && sync -- "$new" && mv -fT -- "$new" "$2" &&
-    sync -- "${2%/*}" && return 0
+  print_file "$1" >"$new" && [[ -s $new ]] && chmod 0755 -- "$new" && put_in_place "$new" "$2" && return 0
   rm -f -- "$new"
   return 1
 }
 
-linux_install-privileged() {
-  local folder uid
+install_privileged() {
+  local uid
   parse_options " --user --launch " "$@"
   [[ $OPT_USER =~ ^[A-Za-z0-9_][A-Za-z0-9_.@-]{0,63}\$?$ ]] || die "The user name is not valid."
   [[ -z $OPT_LAUNCH ]] || check_program --launch "$OPT_LAUNCH"
@@ -46,9 +45,7 @@ linux_install-privileged() {
   [[ $CALLER_UID == 0 || $CALLER_UID == "$uid" ]] || die "Only the user who asks can be let in."
   read_accounts
   root_owned /etc/sudoers.d || die "The folder /etc/sudoers.d is missing or not safe."
-  for folder in /usr/local /usr/local/libexec "$INSTALLED"; do
-    [[ -d $folder ]] || mkdir -m 0755 -- "$folder" || die "The folder $folder cannot be created."
-  done
+  make_installed
   root_owned "$INSTALLED" || die "The folder $INSTALLED is not safe: only root may own or write it and those above it."
   chmod 0755 -- "$INSTALLED" || die "The folder $INSTALLED cannot be changed."
 
@@ -62,7 +59,7 @@ linux_install-privileged() {
   write_file "$SUDO_RULE" 0440 root "$(print_sudo_rule "$uid")"$'\n' || die "The file $SUDO_RULE cannot be written."
 }
 
-linux_uninstall-privileged() {
+uninstall_privileged() {
   (($# == 0)) || die "The verb uninstall-privileged takes no options."
   take_lock
   trap finish EXIT

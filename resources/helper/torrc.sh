@@ -1,11 +1,9 @@
 
-# ---- Linux: Tor's configuration ----------------------------------------------------------------------------
+# ---- Tor's configuration -----------------------------------------------------------------------------------
 
 readonly SOCKS_PORT=9050 CONTROL_PORT=9051 DNS_PORT=9053
 readonly TORRC=$RUN/torrc          # root:_veldmark 0640; /etc/tor/torrc-defaults is read beneath it
 readonly NOTICES=$RUN/notices.log  # Tor's log
-readonly START_OUT=$RUN/start.out  # what Tor prints before its log stands
-readonly LAUNCHER_OUT=$RUN/launcher.out   # what the programs that lead up to Tor print
 
 # print_torrc IPV6_LOOPBACK: from the checked options.
 print_torrc() {
@@ -35,14 +33,6 @@ END
   [[ -n $USED_LYREBIRD$USED_SNOWFLAKE$USED_WEBTUNNEL ]] || printf 'NoExec 1\n'
 }
 
-has_ipv6_loopback() {
-  local address rest
-  while read -r address rest; do
-    [[ $address != 00000000000000000000000000000001 ]] || return 0
-  done 2>/dev/null </proc/net/if_inet6
-  return 1
-}
-
 # tor_reason TEXT: prints Tor's own reason, the last problem in its output; else the last line; nothing if empty.
 tor_reason() {
   local line reason='' last=''
@@ -59,7 +49,7 @@ tor_reason() {
   printf '%s' "${reason:0:300}"
 }
 
-# ready_torrc: writes the configuration beside the one in use and has Tor itself check it.
+# ready_torrc: has_ipv6_loopback is the system's own part's. Writes the configuration beside the one in use and has Tor itself check it.
 ready_torrc() {
   local text output ipv6=0
   ! has_ipv6_loopback || ipv6=1

@@ -1,5 +1,5 @@
 
-# ---- Linux: which programs may run as Tor's account --------------------------------------------------------
+# ---- Which programs may run as Tor's account ---------------------------------------------------------------
 # Whatever runs as Tor's account passes the kill switch, so under the password-free rule only two kinds run:
 # programs that root alone can change, and exact copies of what an administrator approved in a prompted run.
 
@@ -7,7 +7,7 @@ PROGRAM=''   # the result of ready_program
 
 readonly MAX_PROGRAM_BYTES=200000000
 
-# every_part PATH FORMAT PATTERN: whether stat's FORMAT matches PATTERN for PATH and every folder above it.
+# every_part PATH PATTERN: whether "MODE UID KIND" matches PATTERN for PATH and every folder above it.
 every_part() {
   local path=$1 line paths=(/)
   while [[ -n $path ]]; do
@@ -15,15 +15,15 @@ every_part() {
     path=${path%/*}
   done
   while IFS= read -r line; do
-    [[ $line =~ $3 ]] || return 1
-  done < <(stat -c "$2" -- "${paths[@]}" || printf 'missing\n')
+    [[ $line =~ $2 ]] || return 1
+  done < <(print_modes "${paths[@]}" || printf 'missing\n')
 }
 
 # root_owned PATH: PATH, free of links, and every folder above it are root's to change alone.
-root_owned() { every_part "$1" '%a %u' '^[0-7]*[0145][0145] 0$'; }
+root_owned() { every_part "$1" '^[0-7]*[0145][0145] 0 '; }
 
 # open_to_all PATH: any account can reach and run it.
-open_to_all() { every_part "$1" '%a' '[1357]$'; }
+open_to_all() { every_part "$1" '^[0-7]*[1357] '; }
 
 # print_file PATH: its content, opened as the caller, so that nobody reads through us what is not theirs.
 print_file() {
@@ -38,7 +38,7 @@ print_file() {
 # configuration can hold unquoted. NAME is the file name that a copy gets.
 ready_program() {
   local path sum copy new=$PROGRAMS/new owned=''
-  path=$(readlink -e -- "$1" && printf x) || die "The program $1 cannot be found."
+  path=$(real_path "$1" && printf x) || die "The program $1 cannot be found."
   path=${path%$'\n'x}
   # An interpreter is root's too, so as Tor only a program of that name goes unasked.
   if [[ $2 != tor || ${path##*/} == tor ]] && root_owned "$path"; then
@@ -53,7 +53,7 @@ ready_program() {
   : >"$new" || die "The folder $PROGRAMS cannot be written."
   set +o noclobber
   print_file "$path" >"$new" || { rm -f -- "$new"; die "The program $path cannot be copied."; }
-  sum=$(sha256sum <"$new") && sum=${sum%% *}
+  sum=$(print_sum <"$new") && sum=${sum%% *}
   [[ $sum =~ ^[0-9a-f]{64}$ ]] || die "The program $path cannot be copied."
   copy=$PROGRAMS/$sum/$2
   if [[ ! -f $copy ]]; then
@@ -62,7 +62,7 @@ ready_program() {
       die "An administrator password is needed to approve $path."
     fi
     [[ -d $PROGRAMS/$sum ]] || mkdir -m 0755 -- "$PROGRAMS/$sum" || die "The folder $PROGRAMS cannot be written."
-    { chmod 0755 -- "$new" && sync -- "$new" && mv -fT -- "$new" "$copy"; } || die "The program $path cannot be copied."
+    { chmod 0755 -- "$new" && put_in_place "$new" "$copy"; } || die "The program $path cannot be copied."
   fi
   rm -f -- "$new"
   PROGRAM=$copy

@@ -1,0 +1,88 @@
+// How long the log window takes to draw with 3,000 lines, as one line of JSON: a line added while following, a
+// list replaced as a whole, and a scroll by a few lines. Processor time of the drawing thread.
+// Usage: LogWindowBench [REPETITIONS] (default 25). Build it with optimisation.
+#include "Scenes.h"
+#include "Stage.h"
+
+#include <QGuiApplication>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QQuickItem>
+#include <QTextStream>
+
+#include <algorithm>
+#include <ctime>
+#include <functional>
+
+using namespace veldmark;
+
+namespace {
+
+double threadMilliseconds()
+{
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
+}
+
+struct Times {
+    double middle;
+    double most;
+};
+
+Times measure(int repetitions, const std::function<void(int)> &work)
+{
+    std::vector<double> times;
+    for (int i = 0; i < repetitions; ++i) {
+        const double start = threadMilliseconds();
+        work(i);
+        times.push_back(threadMilliseconds() - start);
+    }
+    std::sort(times.begin(), times.end());
+    return {times[times.size() / 2], times.back()};
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    QGuiApplication application(argc, argv);
+    const int repetitions = argc > 1 ? std::max(1, QByteArray(argv[1]).toInt()) : 25;
+    constexpr int lines = 3000;
+    Stage stage;
+    const std::vector<LogLine> all = Scenes::log(2 * lines + repetitions);
+    const auto some = [&all](int first) {
+        return std::vector<LogLine>(all.begin() + first, all.begin() + first + lines);
+    };
+    stage.log.show(LogFeed::State::lines, some(0));
+    QQuickWindow *window = stage.open(QStringLiteral("log/LogWindow.qml"),
+                                      {{QStringLiteral("model"), QVariant::fromValue(&stage.lines)}});
+    auto *list = window ? window->findChild<QQuickItem *>(QStringLiteral("lines")) : nullptr;
+    if (!list)
+        return 1;
+    stage.picture();
+
+    const Times added = measure(repetitions, [&](int i) {
+        stage.log.show(LogFeed::State::lines, some(1 + i));
+        window->grabWindow();
+    });
+    const Times replaced = measure(repetitions, [&](int i) {
+        stage.log.show(LogFeed::State::lines, some(i % 2 == 0 ? 0 : lines));
+        window->grabWindow();
+    });
+    const Times scrolled = measure(repetitions, [&](int) {
+        QMetaObject::invokeMethod(list, "scrollBy", Q_ARG(double, -60.0));
+        window->grabWindow();
+    });
+    const QJsonObject result{
+        {QStringLiteral("bench"), QStringLiteral("log window")},
+        {QStringLiteral("repetitions"), repetitions},
+        {QStringLiteral("addedMs"), added.middle},       {QStringLiteral("addedMostMs"), added.most},
+        {QStringLiteral("replacedMs"), replaced.middle}, {QStringLiteral("replacedMostMs"), replaced.most},
+        {QStringLiteral("scrolledMs"), scrolled.middle}, {QStringLiteral("scrolledMostMs"), scrolled.most},
+    };
+    QTextStream(stdout) << QJsonDocument(result).toJson(QJsonDocument::Compact) << Qt::endl;
+    return stage.warnings().isEmpty() ? 0 : 1;
+}

@@ -1,0 +1,49 @@
+# bash completion for veldmarkctl and veldmark
+
+_veldmarkctl()
+{
+    local word=${COMP_WORDS[COMP_CWORD]} choices=
+    local settings="strictMode allowLocalNetwork exitCountry customTorPath bridgeChoice customBridges bypassApps
+        autoConnect optimizeSpeed terminalMode"
+    if ((COMP_CWORD == 1)); then
+        choices="run status connect disconnect restore check fix-dns circuits close-circuit new-identity log bridges
+            download-transports get set help --help --version"
+    else
+        case ${COMP_WORDS[1]} in
+        run) choices="--connect" ;;
+        status) choices="--json --watch" ;;
+        circuits | bridges) choices="--json" ;;
+        log) choices="--follow --problems" ;;
+        get)
+            ((COMP_CWORD != 2)) || choices="$settings activeBridge activeMode bootstrapProgress bytesRead bytesWritten
+                canCancel circuitError circuits dnsStatus errorMessage exitIP isChecking isOptimizing latencyMs
+                leakStatus optimizeStatus passwordlessInstalled phase startupError statusDetail terminalError title
+                torVerified transportDownload transports"
+            ;;
+        set)
+            if ((COMP_CWORD == 2)); then
+                choices=$settings
+            elif ((COMP_CWORD == 3)); then
+                case ${COMP_WORDS[2]} in
+                strictMode | allowLocalNetwork | autoConnect | optimizeSpeed | terminalMode) choices="true false" ;;
+                bridgeChoice) choices="off obfs4 snowflake meek custom" ;;
+                customTorPath)
+                    compopt -o filenames 2>/dev/null
+                    mapfile -t COMPREPLY < <(compgen -f -- "$word")
+                    return
+                    ;;
+                esac
+            fi
+            ;;
+        esac
+    fi
+    mapfile -t COMPREPLY < <(compgen -W "$choices" -- "$word")
+}
+
+_veldmark()
+{
+    mapfile -t COMPREPLY < <(compgen -W "--hidden --connect --help --version" -- "${COMP_WORDS[COMP_CWORD]}")
+}
+
+complete -F _veldmarkctl veldmarkctl
+complete -F _veldmark veldmark

@@ -1,0 +1,150 @@
+
+# ---- macOS: firewall ---------------------------------------------------------------------------------------
+# pf: our rules stand in an anchor of our own, replaced as a whole in one transaction. The main rules get a line that
+# refers to it. A token keeps pf on for us and is given back; what others hold stays theirs.
+
+readonly FIREWALL_ENTRY=10-firewall
+readonly RULES=$RUN/firewall.pf   # 0600; the rules in force, for putting them back when somebody flushed them
+
+# pf_words: the first line that pfctl had to say, without what it says each time.
+pf_words() {
+  local line
+  while IFS= read -r line; do
+    case $line in
+    '' | *ALTQ* | "pfctl: Use of -f option"* | *"present in the main ruleset"* | "See /etc/pf.conf"*) ;;
+    *)
+      line=${line//[[:cntrl:]]/ }
+      printf '%s' "${line:0:300}"
+      return
+      ;;
+    esac
+  done <<<"$1"
+}
+
+# load_rules TEXT: all of it or nothing; the former rules stay when it fails.
+load_rules() {
+  local output
+  output=$(pfctl -q -a "$ANCHOR" -f - 2>&1 <<<"$1") ||
+    die "The firewall rules were not accepted ($(pf_words "$output"))."
+}
+
+# put_reference: has the main rules ask our anchor first. They are read and written by pfctl, each kind for itself.
+put_reference() {
+  local filter nat output
+  { filter=$(pfctl -s rules) && nat=$(pfctl -s nat); } || die "The firewall's main rules cannot be read."
+  if [[ $(print_without "$nat") == "$nat" ]]; then
+    output=$(print_referring nat "$nat" | pfctl -q -N -f - 2>&1) ||
+      die "The firewall's main rules cannot be changed ($(pf_words "$output"))."
+  fi
+  # Somebody may have put theirs before ours since.
+  if [[ $(print_referring filter "$filter") != "$(print_normal "$filter")" ]]; then
+    output=$(print_referring filter "$filter" | pfctl -q -R -f - 2>&1) ||
+      die "The firewall's main rules cannot be changed ($(pf_words "$output"))."
+  fi
+}
+
+# print_normal TEXT: main rules with the line of our anchor as we write it; pfctl prints a word more.
+print_normal() {
+  local line
+  while IFS= read -r line; do
+    [[ $line != "anchor \"$ANCHOR\""* ]] || line="anchor \"$ANCHOR\""
+    [[ -z $line ]] || printf '%s\n' "$line"
+  done <<<"$1"
+}
+
+# take_back_reference: status 1 when the main rules still name us.
+take_back_reference() {
+  local filter nat
+  filter=$(pfctl -s rules) && nat=$(pfctl -s nat) || return 1
+  if [[ $(print_without "$filter") != "$filter" ]]; then
+    print_without "$filter" | pfctl -q -R -f - || return 1
+  fi
+  if [[ $(print_without "$nat") != "$nat" ]]; then
+    print_without "$nat" | pfctl -q -N -f - || return 1
+  fi
+}
+
+# held_token: prints the token of the entry that was read, if pf still knows it. A run that was killed before it could
+# note its token has noted the process that took it.
+held_token() {
+  local token enabler pid name held rest
+  [[ $(journal_value boot) == "$(boot_id)" ]] || return 0
+  token=$(journal_value token) || token=''
+  enabler=$(journal_value enabler) || enabler=''
+  while read -r pid name held rest; do
+    [[ $held =~ ^[0-9]+$ ]] || continue
+    if [[ $held == "$token" ]] || [[ -z $token && $pid == "$enabler" && $name == pfctl ]]; then
+      printf '%s' "$held"
+      return
+    fi
+  done < <(pfctl -s References)
+}
+
+# enable_firewall: keeps pf on until the token is given back.
+enable_firewall() {
+  local output token
+  journal_read "$FIREWALL_ENTRY" || true
+  token=$(held_token)
+  if [[ -z $token ]]; then
+    # In bash 3.2 a subshell learns its process id from a child only. It is pfctl's too, which it becomes.
+    # shellcheck disable=SC2016
+    output=$(
+      pid=$(exec sh -c 'echo "$PPID"') &&
+        journal_put "$FIREWALL_ENTRY" "boot $(boot_id)" "enabler $pid" && exec pfctl -E 2>&1
+    ) || die "The firewall cannot be switched on ($(pf_words "$output"))."
+    [[ $output =~ Token\ :\ ([0-9]+) ]] || die "The firewall gave no token."
+    token=${BASH_REMATCH[1]}
+  fi
+  journal_put "$FIREWALL_ENTRY" "boot $(boot_id)" "token $token" || die "The journal cannot be written."
+}
+
+# kill_states: connections from before a change must not go on.
+kill_states() { pfctl -q -F states; }
+
+# kill_switch_stands: asks the kernel; the marker alone may be from before a restart of the computer. Status 2: it
+# did not tell.
+kill_switch_stands() {
+  local info main rules
+  info=$(pfctl -s info) && main=$(pfctl -s rules) && rules=$(pfctl -a "$ANCHOR" -s rules) || return 2
+  [[ $info == *"Status: Enabled"* && $main == *"anchor \"$ANCHOR\""* && $rules == *"block return out quick all"* ]]
+}
+
+# put_firewall MODE: marker, rules, reference, pf itself, old connections, in this order. The text is kept first.
+put_firewall() {
+  local text udp=0
+  if [[ $1 == strict ]]; then
+    [[ -z $USED_SNOWFLAKE ]] || udp=1
+    text=$(print_strict_rules "$TOR_UID" "$CALLER_UID" "$OPT_LAN" "$udp" "$EXEMPT_GID")
+  else
+    text=$(print_proxy_rules "$TOR_UID" "$CALLER_UID")
+  fi
+  put_marker "$1"
+  write_file "$RULES" 0600 root "$text"$'\n' || die "The file $RULES cannot be written."
+  put_rules "$text"
+}
+
+put_rules() {
+  load_rules "$1"
+  put_reference
+  enable_firewall
+  kill_states || die "The firewall cannot end the connections from before."
+}
+
+# undo_firewall: empty rules open the network; the rest is tidying. Status 3: it is open, but the entry must stay.
+undo_firewall() {
+  local output token
+  if ! output=$(pfctl -q -a "$ANCHOR" -f - 2>&1 </dev/null); then
+    UNDONE="The firewall could not be opened ($(pf_words "$output"))."
+    return 1
+  fi
+  kill_states || true
+  if ! take_back_reference; then
+    UNDONE="The network is open, but the firewall's main rules could not be put back."
+    return 3
+  fi
+  token=$(held_token)
+  if [[ -n $token ]] && ! pfctl -q -X "$token"; then
+    UNDONE="The network is open, but the firewall could not be given back."
+    return 3
+  fi
+}

@@ -1,0 +1,96 @@
+
+# ---- macOS: firewall rules ---------------------------------------------------------------------------------
+# What goes into our anchor. Our anchor is asked before everybody else's and every rule that decides is "quick", so
+# that nobody's later "pass" opens what is closed here.
+
+readonly ANCHOR=veldmark
+
+# The local network is these ranges and never what a route says: a hostile network that announces public
+# addresses as its own gains nothing.
+readonly LAN4="10.0.0.0/8, 172.16.0.0/12, 192.168.0.0/16, 169.254.0.0/16"
+readonly LAN6="fe80::/10, fc00::/7"
+readonly LOOKUP_PORTS="53, 137, 138, 139, 853, 5353, 5355"
+
+# print_rules_head TOR_UID USER_UID: look-ups that the system sends to this computer reach Tor's port. Tor's control
+# port opens for root, the session's user and Tor only.
+print_rules_head() {
+  local users="0, $1"
+  [[ $2 == 0 ]] || users="$users, $2"
+  cat <<END
+rdr pass on lo0 inet proto udp from any to 127.0.0.1 port 53 -> 127.0.0.1 port $DNS_PORT
+pass out quick on lo0 inet proto tcp from any to any port $CONTROL_PORT user { $users } flags S/SA no state
+block return out quick on lo0 proto tcp from any to any port $CONTROL_PORT flags S/SA
+pass quick on lo0 all no state
+END
+}
+
+# print_proxy_rules TOR_UID USER_UID: everything may leave, but look-ups that go past Tor are refused.
+print_proxy_rules() {
+  print_rules_head "$1" "$2"
+  cat <<END
+pass out quick proto { tcp, udp } from any to any port 53 user $1 keep state
+block return out quick proto { tcp, udp } from any to any port 53
+END
+}
+
+# print_strict_rules TOR_UID USER_UID LAN UDP GROUP: nothing leaves but Tor's own traffic. LAN 1 opens the local
+# network; UDP 1 lets Tor's account send UDP (snowflake); GROUP is the group of the applications without Tor.
+print_strict_rules() {
+  print_rules_head "$1" "$2"
+  printf 'pass out quick proto tcp from any to any user %s flags S/SA keep state\n' "$1"
+  [[ $4 != 1 ]] || printf 'pass out quick proto udp from any to any user %s keep state\n' "$1"
+  [[ -z ${5-} ]] || printf 'pass out quick proto { tcp, udp } from any to any group %s keep state\n' "$5"
+  cat <<END
+pass out quick inet proto udp from any port 68 to { 255.255.255.255, $LAN4 } port 67 keep state
+pass out quick inet6 proto udp from any port 546 to { ff02::1:2, fe80::/10 } port 547 keep state
+pass out quick inet6 proto icmp6 from any to { fe80::/10, ff02::/16 } icmp6-type { routersol, neighbrsol, neighbradv } no state
+END
+  if [[ $3 == 1 ]]; then
+    cat <<END
+block return out quick proto { tcp, udp } from any to any port { $LOOKUP_PORTS }
+block return out quick proto udp from any port { 137, 138, 5353, 5355 } to any
+block drop in quick proto { tcp, udp } from any to any port { $LOOKUP_PORTS }
+pass out quick inet from any to { $LAN4 } keep state
+pass out quick inet6 from any to { $LAN6 } keep state
+pass in quick inet from { $LAN4 } to any keep state
+pass in quick inet6 from { $LAN6 } to any keep state
+END
+  fi
+  cat <<END
+block return out quick all
+pass in quick inet proto udp from any port 67 to any port 68 no state
+pass in quick inet6 proto udp from fe80::/10 port 547 to any port 546 no state
+pass in quick inet6 proto icmp6 all icmp6-type { routeradv, neighbrsol, neighbradv } no state
+block drop in quick all
+END
+}
+
+# print_referring KIND TEXT: the main rules of one kind, "filter" or "nat", as pfctl printed them, with our anchor
+# before everybody else's. Normalising comes before filtering.
+print_referring() {
+  local line put=''
+  if [[ $1 == nat ]]; then
+    printf 'rdr-anchor "%s"\n' "$ANCHOR"
+    put=1
+  fi
+  while IFS= read -r line; do
+    [[ -n $line ]] || continue
+    if [[ -z $put && $line != scrub* && $line != "no scrub"* ]]; then
+      printf 'anchor "%s"\n' "$ANCHOR"
+      put=1
+    fi
+    printf '%s\n' "$line"
+  done < <(print_without "$2")
+  [[ -n $put ]] || printf 'anchor "%s"\n' "$ANCHOR"
+}
+
+# print_without TEXT: main rules without our anchor.
+print_without() {
+  local line
+  while IFS= read -r line; do
+    case $line in
+    '' | "anchor \"$ANCHOR\""* | "rdr-anchor \"$ANCHOR\""*) ;;
+    *) printf '%s\n' "$line" ;;
+    esac
+  done <<<"$1"
+}

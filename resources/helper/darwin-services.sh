@@ -1,0 +1,253 @@
+
+# ---- macOS: DNS and proxy of the network services ----------------------------------------------------------
+# Every active service asks this computer for names and sends what it can through Tor's SOCKS port. What each had
+# before is in a journal entry of its own, and goes back as it was. networksetup is slow and says much of what goes
+# wrong on standard output with status 0, so what it was told is read again.
+
+readonly SERVICE_ENTRY=30-service   # a number follows, one file per service
+readonly MAX_SERVICES=64
+readonly OUR_DNS=127.0.0.1 OUR_HOST=127.0.0.1
+
+# read_services all|active: sets SERVICES to the names; all includes those that are switched off. Status 1 when they
+# cannot be told, which is not the same as there being none.
+SERVICES=()
+read_services() {
+  local line text
+  SERVICES=()
+  text=$(networksetup -listallnetworkservices) && [[ $text == "An asterisk "* ]] || return 1
+  while IFS= read -r line; do
+    case $line in
+    '' | "An asterisk "*) continue ;;
+    \**)
+      [[ $1 != active ]] || continue
+      line=${line#\*}
+      ;;
+    esac
+    SERVICES[${#SERVICES[@]}]=$line
+  done <<<"$text"
+}
+
+has_service() {
+  local name
+  for name in ${SERVICES[@]+"${SERVICES[@]}"}; do
+    [[ $name != "$1" ]] || return 0
+  done
+  return 1
+}
+
+current_location() { networksetup -getcurrentlocation; }
+
+# read_list TEXT: sets LIST to the lines of an answer; to none when the answer is a sentence that there are none.
+LIST=()
+read_list() {
+  local line
+  LIST=()
+  while IFS= read -r line; do
+    case $line in
+    '' | "There aren't any "*) ;;
+    *) LIST[${#LIST[@]}]=$line ;;
+    esac
+  done <<<"$1"
+}
+
+# value_of TEXT KEY: prints what follows "KEY: " in an answer.
+value_of() {
+  local line
+  while IFS= read -r line; do
+    if [[ $line == "$2:"* ]]; then
+      line=${line#"$2:"}
+      line=${line# }
+      [[ $line == "(null)" ]] || printf '%s' "$line"
+      return 0
+    fi
+  done <<<"$1"
+  return 1
+}
+
+# read_service NAME: sets what a service has now. Status 1 when that cannot be told.
+HAS_DNS=() HAS_BYPASS=() HAS_SOCKS='' HAS_HOST='' HAS_PORT='' HAS_WEB='' HAS_SECURE='' HAS_AUTO='' HAS_DISCOVERY=''
+read_service() {
+  local text line
+  text=$(networksetup -getdnsservers "$1") && [[ $text != *"** Error"* && $text != *"not a recognized"* ]] || return 1
+  read_list "$text"
+  HAS_DNS=(${LIST[@]+"${LIST[@]}"})
+  for line in ${LIST[@]+"${LIST[@]}"}; do
+    is_address4 "$line" || is_address6 "${line%%%*}" || return 1
+  done
+  text=$(networksetup -getproxybypassdomains "$1") || return 1
+  read_list "$text"
+  HAS_BYPASS=(${LIST[@]+"${LIST[@]}"})
+  text=$(networksetup -getsocksfirewallproxy "$1") && HAS_SOCKS=$(value_of "$text" Enabled) &&
+    HAS_HOST=$(value_of "$text" Server) && HAS_PORT=$(value_of "$text" Port) || return 1
+  text=$(networksetup -getwebproxy "$1") && HAS_WEB=$(value_of "$text" Enabled) || return 1
+  text=$(networksetup -getsecurewebproxy "$1") && HAS_SECURE=$(value_of "$text" Enabled) || return 1
+  text=$(networksetup -getautoproxyurl "$1") && HAS_AUTO=$(value_of "$text" Enabled) || return 1
+  text=$(networksetup -getproxyautodiscovery "$1") && HAS_DISCOVERY=$(value_of "$text" "Auto Proxy Discovery") || return 1
+}
+
+is_ours() {
+  [[ ${#HAS_DNS[@]} == 1 && ${HAS_DNS[0]-} == "$OUR_DNS" && $HAS_SOCKS == Yes && $HAS_HOST == "$OUR_HOST" &&
+    $HAS_PORT == "$SOCKS_PORT" ]]
+}
+
+# note_service NAME LOCATION: the journal entry of what was read, unless the service has one. Without an entry our own
+# settings are what a lost session left; then what a service has when it is new is noted.
+note_service() {
+  local number name line lines
+  for ((number = 0; number < MAX_SERVICES; number++)); do
+    name=$SERVICE_ENTRY-$number
+    journal_has "$name" || break
+    if journal_read "$name" && [[ $(journal_value service) == "$1" && $(journal_value location) == "$2" ]]; then
+      return 0
+    fi
+  done
+  ((number < MAX_SERVICES)) || return 1
+  ! is_ours || HAS_SOCKS=No HAS_HOST='' HAS_PORT=0 HAS_DNS=() HAS_BYPASS=()
+  lines=("service $1" "location $2" "socks $HAS_SOCKS" "host $HAS_HOST" "port $HAS_PORT" "web $HAS_WEB"
+    "secure $HAS_SECURE" "auto $HAS_AUTO" "discovery $HAS_DISCOVERY")
+  for line in ${HAS_DNS[@]+"${HAS_DNS[@]}"}; do lines[${#lines[@]}]="dns $line"; done
+  for line in ${HAS_BYPASS[@]+"${HAS_BYPASS[@]}"}; do lines[${#lines[@]}]="bypass $line"; done
+  journal_put "$name" "${lines[@]}"
+}
+
+# The user's own exceptions would go past Tor, so only this computer itself is excepted, and with LAN 1 the local
+# network as far as the list of exceptions can tell it.
+OUR_BYPASS=()
+choose_bypass() {
+  OUR_BYPASS=(localhost 127.0.0.1 ::1)
+  [[ $1 != 1 ]] || OUR_BYPASS=(localhost 127.0.0.1 ::1 '*.local' 10/8 172.16/12 192.168/16 169.254/16)
+}
+
+# net WORD...: networksetup, quiet; remembers that something was changed.
+CHANGED=''
+net() {
+  CHANGED=1
+  networksetup "$@" >/dev/null
+}
+
+# set_service NAME: from what it has to what we want. Other proxies would come before Tor's, so they are switched off.
+set_service() {
+  CHANGED=''
+  if ! [[ ${#HAS_DNS[@]} == 1 && ${HAS_DNS[0]-} == "$OUR_DNS" ]]; then
+    net -setdnsservers "$1" "$OUR_DNS" || return 1
+  fi
+  if [[ ${HAS_BYPASS[*]-} != "${OUR_BYPASS[*]}" ]]; then
+    net -setproxybypassdomains "$1" "${OUR_BYPASS[@]}" || return 1
+  fi
+  if ! [[ $HAS_SOCKS == Yes && $HAS_HOST == "$OUR_HOST" && $HAS_PORT == "$SOCKS_PORT" ]]; then
+    net -setsocksfirewallproxy "$1" "$OUR_HOST" "$SOCKS_PORT" off && net -setsocksfirewallproxystate "$1" on || return 1
+  fi
+  [[ $HAS_WEB != Yes ]] || net -setwebproxystate "$1" off || return 1
+  [[ $HAS_SECURE != Yes ]] || net -setsecurewebproxystate "$1" off || return 1
+  [[ $HAS_AUTO != Yes ]] || net -setautoproxystate "$1" off || return 1
+  [[ $HAS_DISCOVERY != On ]] || net -setproxyautodiscovery "$1" off || return 1
+  [[ -n $CHANGED ]] || return 0
+  read_service "$1" && is_ours && [[ ${HAS_BYPASS[*]-} == "${OUR_BYPASS[*]}" ]] &&
+    [[ $HAS_WEB$HAS_SECURE$HAS_AUTO != *Yes* && $HAS_DISCOVERY != On ]]
+}
+
+# put_services LAN: journal and switch every active service, also one that came since.
+put_services() {
+  local name location
+  choose_bypass "$1"
+  location=$(current_location) || die "The network settings cannot be read."
+  read_services active || die "The network settings cannot be read."
+  for name in ${SERVICES[@]+"${SERVICES[@]}"}; do
+    read_service "$name" || die "The settings of the network service $name cannot be read."
+    note_service "$name" "$location" || die "The journal cannot be written."
+    set_service "$name" || die "The settings of the network service $name cannot be changed."
+  done
+  flush_names
+}
+
+# flush_names: forgets what was looked up before.
+flush_names() {
+  dscacheutil -flushcache || true
+  killall -HUP mDNSResponder || true
+}
+
+on_off() { if [[ $1 == Yes || $1 == On ]]; then printf on; else printf off; fi; }
+
+# restore_service NAME: what the entry that was read tells of.
+restore_service() {
+  local -a dns bypass
+  local line host port state
+  dns=() bypass=()
+  for line in ${JOURNAL_LINES[@]+"${JOURNAL_LINES[@]}"}; do
+    case $line in
+    "dns "*) dns[${#dns[@]}]=${line#* } ;;
+    "bypass "*) bypass[${#bypass[@]}]=${line#* } ;;
+    esac
+  done
+  ((${#dns[@]} > 0)) || dns=(Empty)
+  ((${#bypass[@]} > 0)) || bypass=(Empty)
+  host=$(journal_value host) && port=$(journal_value port) && state=$(journal_value socks) || return 1
+  [[ $port != 0 ]] || port=''
+  read_service "$1" || return 1
+  net -setproxybypassdomains "$1" "${bypass[@]}" &&
+    net -setsocksfirewallproxy "$1" "$host" "$port" off &&
+    net -setsocksfirewallproxystate "$1" "$(on_off "$state")" || return 1
+  [[ $HAS_WEB == "$(journal_value web)" ]] || net -setwebproxystate "$1" "$(on_off "$(journal_value web)")" || return 1
+  [[ $HAS_SECURE == "$(journal_value secure)" ]] ||
+    net -setsecurewebproxystate "$1" "$(on_off "$(journal_value secure)")" || return 1
+  [[ $HAS_AUTO == "$(journal_value auto)" ]] || net -setautoproxystate "$1" "$(on_off "$(journal_value auto)")" || return 1
+  [[ $HAS_DISCOVERY == "$(journal_value discovery)" ]] ||
+    net -setproxyautodiscovery "$1" "$(on_off "$(journal_value discovery)")" || return 1
+  net -setdnsservers "$1" "${dns[@]}" || return 1
+  read_service "$1" && [[ $HAS_SOCKS == "$state" ]] || return 1
+  if [[ ${dns[0]} == Empty ]]; then ((${#HAS_DNS[@]} == 0)); else [[ ${HAS_DNS[*]-} == "${dns[*]}" ]]; fi
+}
+
+# undo_service: status 1: not all of it could be put back. 3: it cannot be put back now, but the network is open.
+undo_service() {
+  local name location
+  name=$(journal_value service) || return 0
+  location=$(journal_value location) || location=''
+  if [[ $location != "$(current_location)" ]]; then
+    UNDONE="The network location $location still has Veldmark's settings. Choose it and disconnect again."
+    return 3
+  fi
+  if read_services all; then
+    # One that is gone took its settings with it; one with another name is found below.
+    has_service "$name" || return 0
+    restore_service "$name" && return 0
+  fi
+  UNDONE="The settings of the network service $name could not be put back."
+  return 1
+}
+
+# undo_services NOTED: every entry; then whatever still has exactly our settings, which are of no use without Tor: a
+# service that was given another name, or whose entry was lost. Nothing is looked at where nothing of ours was noted:
+# NOTED is empty and there is no entry.
+undo_services() {
+  local path reason='' status worst=0 noted=$1
+  for path in "$JOURNAL/$SERVICE_ENTRY"-[0-9]*; do
+    [[ -e $path && $path != *.new ]] || continue
+    noted=1 status=0 UNDONE=''
+    undo_entry "${path##*/}" || status=$?
+    if ((status != 0)); then
+      reason=${reason:-$UNDONE}
+      ((status == 3 && worst == 1)) || worst=$status
+    fi
+  done
+  if [[ -n $noted ]]; then
+    # While an entry is left, its service is not ours to guess about.
+    ((worst == 1 || worst == 3)) || sweep_services
+    flush_names
+  fi
+  UNDONE=$reason
+  return "$worst"
+}
+
+sweep_services() {
+  local name
+  read_services all || return 0
+  for name in ${SERVICES[@]+"${SERVICES[@]}"}; do
+    if read_service "$name" && is_ours; then
+      net -setsocksfirewallproxy "$name" '' '' off || true
+      net -setsocksfirewallproxystate "$name" off || true
+      net -setproxybypassdomains "$name" Empty || true
+      net -setdnsservers "$name" Empty || true
+    fi
+  done
+}

@@ -1,0 +1,126 @@
+
+# ---- macOS: connect and disconnect -------------------------------------------------------------------------
+
+darwin_connect() {
+  local mode=proxy former status=0
+  parse_connect "$@"
+  [[ $OPT_STRICT == 0 ]] || mode=strict
+  need_programs perl pfctl networksetup launchctl dscl dscacheutil lsof sysctl ifconfig stat shasum readlink
+  take_lock
+  trap finish EXIT
+  ready_account
+  ready_folders
+  ready_programs
+  read_names
+  ready_torrc
+
+  # From here on the network changes. A strict session in force stays so until its successor stands.
+  former=$(read_marker)
+  if [[ $former == strict ]]; then
+    kill_switch_stands || status=$?
+    ((status != 1)) || former=''
+  fi
+  if [[ $former == strict ]]; then
+    STAYS_CLOSED=" The network stays blocked until you disconnect."
+  else
+    ON_FAILURE=undo
+  fi
+  journal_has "$FIREWALL_ENTRY" || journal_put "$FIREWALL_ENTRY" "boot $(boot_id)" || die "The journal cannot be written."
+  [[ $mode != strict ]] || ready_exempt
+  if [[ $former != strict || $mode == strict ]]; then
+    put_firewall "$mode"
+  fi
+  if [[ $mode == strict ]]; then
+    ON_FAILURE=
+    STAYS_CLOSED=" The network stays blocked until you disconnect."
+  fi
+  undo_entry "$TOR_ENTRY" || ! journal_has "$TOR_ENTRY" || die "$UNDONE"
+  put_names
+  start_tor
+  put_services "$OPT_LAN"
+  if [[ $former == strict && $mode == proxy ]]; then
+    put_firewall proxy
+  fi
+  ON_FAILURE=
+}
+
+JOURNAL_TRUSTED=1
+
+# undo_entry NAME: puts back what the entry tells of and removes it. A torn entry tells nothing, and what can be
+# put back without it is put back. Status 1 with UNDONE set when something could not be put back and the entry stays;
+# 3, likewise, when that does not keep the network from being open; 2 when the entry was torn and is gone.
+undo_entry() {
+  local name=$1 status=0 done=0
+  JOURNAL_LINES=()
+  if [[ -n $JOURNAL_TRUSTED ]]; then
+    journal_read "$name" || status=$?
+  fi
+  ((status != 2)) || JOURNAL_LINES=()
+  case $name in
+  "$SERVICE_ENTRY"-*) undo_service ;;
+  "$NAMES_ENTRY") undo_names ;;
+  "$TOR_ENTRY") undo_tor ;;
+  "$FIREWALL_ENTRY") undo_firewall ;;
+  esac || done=$?
+  ((done == 0)) || return "$done"
+  journal_drop "$name"
+  if ((status == 2)); then
+    UNDONE="A note of what to restore was damaged (${name#*-}). The network is open again; check your network settings."
+    return 2
+  fi
+}
+
+# undo_session: everything, backwards, the firewall last; goes on when a step fails. Keeps the first reason.
+undo_session() {
+  local name status=0 reason='' open=1 noted=''
+  [[ ! -e $MARKER ]] || noted=1
+  undo_services "$noted" || status=$?
+  ((status == 0)) || reason=${UNDONE:-The former network settings could not all be restored.}
+  ((status != 1)) || open=''
+  for name in "$NAMES_ENTRY" "$TOR_ENTRY" "$FIREWALL_ENTRY"; do
+    UNDONE='' status=0
+    undo_entry "$name" || status=$?
+    ((status == 0)) || reason=${reason:-${UNDONE:-The former network settings could not all be restored.}}
+    ((status != 1)) || open=''
+  done
+  [[ -z $open ]] || rm -f -- "$MARKER" "$RULES"
+  rm -f -- "$MARKER.new" "$RULES.new" "$TOR_JOB.new" "$TORRC.checked" "$HOSTS.new"
+  [[ ! -d $JOURNAL ]] || rm -f -- "$JOURNAL"/*.new
+  UNDONE=$reason
+  [[ -z $reason ]]
+}
+
+# darwin_fix-dns: puts back what somebody changed under a running session: the services' settings, also of services
+# that came since, and the rules, so that also a flushed kill switch stands again.
+darwin_fix-dns() {
+  (($# == 0)) || die "The verb fix-dns takes no options."
+  need_programs perl pfctl networksetup dscacheutil sysctl stat
+  take_lock
+  trap finish EXIT
+  { [[ -f $MARKER ]] && folders_are_safe; } || die "Veldmark is not connected, so the DNS settings were left alone."
+  if [[ -f $RULES ]]; then
+    put_rules "$(<"$RULES")"
+  fi
+  put_services "$(session_lan)"
+}
+
+# session_lan: whether the session lets the local network through, as its proxy exceptions have it.
+session_lan() {
+  if [[ -f $RULES && $(<"$RULES") == *"pass out quick inet from any to { 10.0.0.0/8"* ]]; then printf 1; else printf 0; fi
+}
+
+darwin_disconnect() {
+  local status=0
+  (($# == 0)) || die "The verb disconnect takes no options."
+  need_programs pfctl networksetup launchctl
+  # A lock less is better than a network that nobody can restore.
+  if command -v perl >/dev/null; then take_lock; fi
+  trap finish EXIT
+  # What others could write is no record of ours.
+  if [[ -e $JOURNAL || -L $JOURNAL ]]; then
+    safe_folders / /Library "/Library/Application Support" "$BASE" "$JOURNAL" || status=$?
+    ((status != 2)) || die "The notes of what to restore cannot be read."
+    ((status == 0)) || JOURNAL_TRUSTED=
+  fi
+  undo_session || die "$UNDONE"
+}

@@ -1,0 +1,245 @@
+
+# ---- macOS: folders, lock, accounts ------------------------------------------------------------------------
+# Everything here and in the other parts keeps to the bash 3.2, the BSD tools and the perl that macOS has.
+
+readonly BASE="/Library/Application Support/Veldmark"
+readonly STATE=$BASE/state        # 0755; holds the session marker
+readonly MARKER=$STATE/active     # 0644; "strict" or "proxy": the network is set up for Tor
+readonly JOURNAL=$BASE/journal    # 0700; what was there before each change, one file per change
+readonly INSTALLED=$BASE/bin      # 0755; the copy that runs without a password
+readonly TOR_BASE=/private/var/db/veldmark   # 0755
+readonly RUN=/var/db/veldmark/run            # 0755; Tor's configuration, data and logs; /var is a link
+readonly DATA=$RUN/data                      # 0700, Tor's account; kept between sessions so that entry guards are
+readonly PROGRAMS=/var/db/veldmark/programs  # 0755; approved copies, SHA-256/NAME
+readonly LOCK=/private/var/db/veldmark.lock
+readonly LOCK_SECONDS=20
+readonly SUDO_DRAFT=/private/var/db/veldmark.sudoers   # 0440; checked here first
+
+readonly TOR_ACCOUNT=_veldmark
+readonly FIRST_ID=350 LAST_ID=499   # below 500 accounts are hidden; the system's own end before 350
+TOR_UID='' TOR_GID=''
+CALLER_NAME='' CALLER_GID='' CALLER_HOME=''
+
+# The lock belongs to the open file, which is this shell's descriptor 9 as well, so it outlives perl.
+# shellcheck disable=SC2016
+readonly HOLD='
+open(my $lock, ">&=", 9) or exit 1;
+my $end = time() + shift;
+until (flock($lock, 6)) { exit 1 if time() > $end; select(undef, undef, undef, 0.02); }'
+
+# take_lock: one helper at a time. Descriptor 9 stays open for the whole run, and in those children of root that
+# a kill of this shell may leave behind, so that the next run waits for them.
+# Ctrl-C and a closed terminal must not leave the network half-way.
+take_lock() {
+  trap '' INT TERM HUP QUIT PIPE TSTP
+  cd /
+  [[ ! -L $LOCK ]] || die "The lock file $LOCK is a link, so nothing was done."
+  { exec 9>>"$LOCK"; } || die "The lock file $LOCK cannot be opened."
+  perl -e "$HOLD" "$LOCK_SECONDS" || die "Another run of the helper is still working. Try again in a moment."
+}
+
+# find_caller: the administrator prompt of macOS runs us as root and does not say for whom. Then it is for the user who
+# sits at the screen; for root itself where nobody does.
+find_caller() {
+  local key value rest
+  [[ -n $PROMPTED && $CALLER_UID == 0 ]] || return 0
+  while read -r key rest value; do
+    [[ $key != UID ]] || ! is_uid "$value" || CALLER_UID=$value
+  done < <(scutil <<<"show State:/Users/ConsoleUser" || true)
+}
+
+boot_id() {
+  local id
+  id=$(sysctl -n kern.bootsessionuuid) || id=unknown
+  printf '%s' "${id:-unknown}"
+}
+
+# folder_is_safe "MODE UID KIND": a real folder of root's that nobody else can write.
+folder_is_safe() {
+  [[ $1 =~ ^[0-7]*[0145][0145]\ 0\ Directory$ ]]
+}
+
+# safe_folders PATH...: 1 when one is not safe, by its mode or by an access list that lets somebody do something;
+# 2 when that cannot be told.
+safe_folders() {
+  local line modes lists
+  modes=$(print_modes "$@") && lists=$(ls -lde -- "$@") || return 2
+  while IFS= read -r line; do
+    folder_is_safe "$line" || return 1
+  done <<<"$modes"
+  while IFS= read -r line; do
+    [[ ! $line =~ ^\ [0-9]+:\ .*\ allow\  ]] || return 1
+  done <<<"$lists"
+}
+
+# folders_are_safe: true when nobody but root could have put anything into our folders. Changes nothing.
+folders_are_safe() {
+  safe_folders / /Library "/Library/Application Support" "$BASE" "$STATE" "$JOURNAL" /private /private/var \
+    /private/var/db "$TOR_BASE" "$TOR_BASE/run"
+}
+
+ready_folders() {
+  local path mode
+  for path in "$BASE" "$STATE" "$TOR_BASE" "$RUN" "$PROGRAMS" "$JOURNAL"; do
+    mode=0755
+    [[ $path != "$JOURNAL" ]] || mode=0700
+    [[ -e $path || -L $path ]] || mkdir -m "$mode" -- "$path" || die "The folder $path cannot be created."
+    safe_folders "$path" || die "The folder $path is not safe: only root may own or write it."
+    chmod "$mode" -- "$path" || die "The folder $path cannot be changed."
+  done
+  folders_are_safe || die "The folders above Veldmark's are not safe: only root may own or write them."
+  ready_data_folder
+}
+
+# Tor refuses a data folder of somebody else's; one left by a former account cannot be used any more.
+ready_data_folder() {
+  if [[ -e $DATA || -L $DATA ]] && [[ $(print_modes "$DATA") != *" $TOR_UID Directory" ]]; then
+    rm -rf -- "$DATA"
+  fi
+  [[ -d $DATA ]] || { mkdir -m 0700 -- "$DATA" && chown -- "$TOR_UID:$TOR_GID" "$DATA"; } ||
+    die "The folder $DATA cannot be created."
+}
+
+# make_installed: the folder of the copy that runs without a password.
+make_installed() {
+  local folder
+  for folder in "$BASE" "$INSTALLED"; do
+    [[ -d $folder ]] || mkdir -m 0755 -- "$folder" || die "The folder $folder cannot be created."
+  done
+}
+
+# ---- Accounts ----
+
+# record_value RECORD KEY: prints the value of a local record, nothing when there is none.
+record_value() {
+  local line
+  while IFS= read -r line; do
+    [[ $line != "$2: "* ]] || printf '%s' "${line#"$2: "}"
+  done < <(dscl . -read "$1" "$2" || true)
+}
+
+# free_id: prints the first number that no local account or group has.
+free_id() {
+  local id line taken=' '
+  while IFS= read -r line; do
+    taken="$taken${line##* } "
+  done < <(dscl . -list /Users UniqueID && dscl . -list /Groups PrimaryGroupID)
+  [[ $taken != ' ' ]] || return 1
+  for ((id = FIRST_ID; id <= LAST_ID; id++)); do
+    if [[ $taken != *" $id "* ]]; then
+      printf '%s' "$id"
+      return 0
+    fi
+  done
+  return 1
+}
+
+# put_record RECORD KEY VALUE: unless it is so.
+put_record() {
+  [[ $(record_value "$1" "$2") == "$3" ]] || dscl . -create "$1" "$2" "$3"
+}
+
+# ready_group NAME TEXT: makes a group without members and prints its number. Each step may be the one that an
+# earlier run was killed at.
+ready_group() {
+  local id
+  id=$(record_value "/Groups/$1" PrimaryGroupID)
+  [[ -n $id ]] || id=$(free_id) || return 1
+  { put_record "/Groups/$1" RealName "$2" && put_record "/Groups/$1" Password '*' &&
+    put_record "/Groups/$1" PrimaryGroupID "$id"; } >/dev/null || return 1
+  printf '%s' "$id"
+}
+
+read_accounts() {
+  local line
+  TOR_UID=$(record_value "/Users/$TOR_ACCOUNT" UniqueID)
+  TOR_GID=$(record_value "/Users/$TOR_ACCOUNT" PrimaryGroupID)
+  while IFS= read -r line; do
+    case $line in
+    "name: "*) CALLER_NAME=${line#*: } ;;
+    "gid: "*) CALLER_GID=${line#*: } ;;
+    "dir: "*) CALLER_HOME=${line#*: } ;;
+    esac
+  done < <(dscacheutil -q user -a uid "$CALLER_UID" || true)
+}
+
+make_account() {
+  local user=/Users/$TOR_ACCOUNT gid uid
+  gid=$(ready_group "$TOR_ACCOUNT" "Tor for Veldmark") || return 1
+  uid=$TOR_UID
+  [[ -n $uid ]] || uid=$(free_id) || return 1
+  # The number comes last: an account that has one is whole.
+  put_record "$user" RealName "Tor for Veldmark" && put_record "$user" Password '*' &&
+    put_record "$user" UserShell /usr/bin/false && put_record "$user" NFSHomeDirectory /var/empty &&
+    put_record "$user" IsHidden 1 && put_record "$user" PrimaryGroupID "$gid" && put_record "$user" UniqueID "$uid"
+}
+
+ready_account() {
+  read_accounts
+  [[ -n $CALLER_NAME ]] || die "The user with the id $CALLER_UID is not known on this system."
+  if [[ -z $TOR_UID || -z $TOR_GID ]]; then
+    make_account >/dev/null || die "The account $TOR_ACCOUNT cannot be created."
+    read_accounts
+  fi
+  { is_uid "$TOR_UID" && is_uid "$TOR_GID"; } || die "The account $TOR_ACCOUNT has no valid user id."
+  [[ $TOR_UID != 0 && $TOR_UID != "$CALLER_UID" ]] || die "The account $TOR_ACCOUNT must be one of its own."
+}
+
+# SECONDS UID GID GROUPS COMMAND...: gives up root for good, and is killed when it takes longer; 0 seconds: never.
+# shellcheck disable=SC2016
+readonly BECOME='
+use POSIX ();
+my ($seconds, $uid, $gid, $groups) = splice(@ARGV, 0, 4);
+$SIG{$_} = "DEFAULT" for qw(INT TERM HUP QUIT PIPE TSTP);
+$) = "$gid $groups";
+POSIX::setgid($gid);
+POSIX::setuid($uid);
+exit 126 unless $uid && $< == $uid && $> == $uid && $( + 0 == $gid && $) + 0 == $gid;
+alarm $seconds;
+exec { $ARGV[0] } @ARGV;
+exit 127;'
+
+# as_tor / as_caller SECONDS COMMAND...: with that account's rights only, a clean environment, no descriptor of ours.
+as_account() {
+  local uid=$1 gid=$2 groups=$3 home=$4 seconds=$5
+  shift 5
+  env -i PATH="$PATH" LC_ALL=C HOME="$home" perl -e "$BECOME" "$seconds" "$uid" "$gid" "$groups" "$@" 8>&- 9>&-
+}
+as_tor() {
+  local seconds=$1
+  shift
+  as_account "$TOR_UID" "$TOR_GID" "$TOR_GID" "$DATA" "$seconds" "$@"
+}
+
+# The kernel keeps at most 16 groups, the first of which is the effective one.
+caller_groups() {
+  local groups
+  groups=$(id -G -- "$CALLER_NAME") && [[ $groups =~ ^[0-9\ ]+$ ]] || return 1
+  # shellcheck disable=SC2086
+  set -- $groups
+  (($# <= 15)) || set -- "${@:1:15}"
+  printf '%s' "$*"
+}
+as_caller() {
+  local seconds=$1 groups
+  shift
+  groups=$(caller_groups) || return 1
+  as_account "$CALLER_UID" "$CALLER_GID" "$groups" "$CALLER_HOME" "$seconds" "$@"
+}
+
+# ---- Primitives of the shared parts ----
+
+# put_in_place NEW TARGET: NEW replaces TARGET, in the same folder; on disk when it returns 0.
+put_in_place() { sync && [[ ! -d $2 || -L $2 ]] && mv -f -- "$1" "$2" && sync; }
+
+# print_modes PATH...: "MODE UID KIND" for each, a line each; fails when one is missing. Links are not followed,
+# but for one at the end with a "/" after it.
+print_modes() { stat -f '%Lp %u %HT' -- "$@"; }
+
+# real_path PATH: free of links; fails when it does not exist.
+real_path() { [[ -e $1 ]] && readlink -f -- "$1"; }
+
+# print_sum: the SHA-256 of standard input.
+print_sum() { shasum -a 256; }
+
+has_ipv6_loopback() { [[ $(ifconfig lo0) == *"inet6 ::1 "* ]]; }

@@ -1,0 +1,142 @@
+
+# ---- macOS: running Tor ------------------------------------------------------------------------------------
+# Tor is a job of launchd's, in the account _veldmark and with its process group, so its transports die with it. It is
+# known by its label. Its description lies in our own folder, so that nothing starts after a restart of the computer.
+
+readonly TOR_ENTRY=20-tor
+readonly TOR_LABEL=veldmark.tor
+readonly TOR_JOB=$RUN/tor.plist           # 0644
+readonly LAUNCHD_OUT=$RUN/launchd.out     # what Tor prints before its log stands
+readonly START_POLLS=100   # of about 0.1 s: Tor opens its control port within 10 s or it failed
+readonly STOP_POLLS=100    # of about 0.1 s: launchd kills a Tor that has not ended after 4 s
+
+# print_job: the paths are of safe characters only.
+print_job() {
+  cat <<END
+<?xml version="1.0" encoding="UTF-8"?>
+<!DOCTYPE plist PUBLIC "-//Apple//DTD PLIST 1.0//EN" "http://www.apple.com/DTDs/PropertyList-1.0.dtd">
+<plist version="1.0">
+<dict>
+	<key>Label</key>
+	<string>$TOR_LABEL</string>
+	<key>ProgramArguments</key>
+	<array>
+		<string>$OPT_TOR</string>
+		<string>-f</string>
+		<string>$TORRC</string>
+	</array>
+	<key>UserName</key>
+	<string>$TOR_ACCOUNT</string>
+	<key>GroupName</key>
+	<string>$TOR_ACCOUNT</string>
+	<key>InitGroups</key>
+	<false/>
+	<key>EnvironmentVariables</key>
+	<dict>
+		<key>HOME</key>
+		<string>$DATA</string>
+		<key>LC_ALL</key>
+		<string>C</string>
+		<key>PATH</key>
+		<string>$PATH</string>
+	</dict>
+	<key>WorkingDirectory</key>
+	<string>/</string>
+	<key>Umask</key>
+	<integer>63</integer>
+	<key>StandardOutPath</key>
+	<string>$LAUNCHD_OUT</string>
+	<key>StandardErrorPath</key>
+	<string>$LAUNCHD_OUT</string>
+	<key>RunAtLoad</key>
+	<true/>
+	<key>KeepAlive</key>
+	<false/>
+	<key>ExitTimeOut</key>
+	<integer>4</integer>
+	<key>ProcessType</key>
+	<string>Interactive</string>
+</dict>
+</plist>
+END
+}
+
+# job_process: prints the process id of Tor's job; nothing when it is loaded but does not run. Status 1: not loaded;
+# 2: launchd did not tell.
+job_process() {
+  local output status=0
+  output=$(launchctl list "$TOR_LABEL" 2>&1) || status=$?
+  if ((status != 0)); then
+    [[ $status == 113 || $output == *"Could not find service"* ]] || return 2
+    return 1
+  fi
+  [[ ! $output =~ \"PID\"\ =\ ([0-9]+)\; ]] || printf '%s' "${BASH_REMATCH[1]}"
+}
+
+# tor_listens PROCESS: whether it has opened the control port.
+tor_listens() {
+  local held
+  held=$(lsof -nP -a -p "$1" -iTCP:"$CONTROL_PORT" -sTCP:LISTEN -t) && [[ $held == "$1" ]]
+}
+
+# ready_logs: empties the log files; the session's user may read them.
+ready_logs() {
+  rm -f -- "$NOTICES" "$LAUNCHD_OUT" && : >"$NOTICES" && : >"$LAUNCHD_OUT" &&
+    chown -- "$TOR_UID:$CALLER_GID" "$NOTICES" "$LAUNCHD_OUT" && chmod 0640 -- "$NOTICES" "$LAUNCHD_OUT"
+}
+
+tor_failure() {
+  local reason
+  reason=$(tor_reason "$(cat -- "$LAUNCHD_OUT" "$NOTICES" | tail -c 16384 | tr -d '\0')")
+  printf '%s' "${reason:-it ended without a message.}"
+}
+
+# start_tor: returns once Tor listens on its control port.
+start_tor() {
+  local process poll output status
+  put_in_place "$TORRC.checked" "$TORRC" || die "The file $TORRC cannot be written."
+  ready_logs || die "Tor's log files cannot be made."
+  write_file "$TOR_JOB" 0644 root "$(print_job)"$'\n' || die "The file $TOR_JOB cannot be written."
+  journal_put "$TOR_ENTRY" "label $TOR_LABEL" || die "The journal cannot be written."
+  launchctl enable "system/$TOR_LABEL" || true   # somebody may have disabled it for good
+  output=$(launchctl bootstrap system "$TOR_JOB" 2>&1) || {
+    output=${output%%$'\n'*}
+    die "Tor could not be started (${output//[[:cntrl:]]/ })."
+  }
+  for ((poll = 0; poll < START_POLLS; poll++)); do
+    status=0
+    process=$(job_process) || status=$?
+    ((status != 1)) || die "Tor did not start: $(tor_failure)"
+    # It opens all its ports before it fails for one of them.
+    if [[ -n $process ]]; then
+      if tor_listens "$process" && [[ $(<"$LAUNCHD_OUT")$(<"$NOTICES") != *"Could not bind to"* ]]; then
+        return
+      fi
+    elif ((poll > 0 && status == 0)); then
+      die "Tor did not start: $(tor_failure)"
+    fi
+    sleep 0.1
+  done
+  die "Tor did not open its control port in time."
+}
+
+# undo_tor: needs no note, because launchd knows the job by its label.
+undo_tor() {
+  local poll status
+  for ((poll = 0; poll < STOP_POLLS; poll++)); do
+    status=0
+    job_process >/dev/null || status=$?
+    if ((status == 1)); then
+      rm -f -- "$TOR_JOB"
+      return 0
+    fi
+    # It comes back before a slow Tor has gone.
+    if ((poll % 50 == 0)); then
+      launchctl bootout "system/$TOR_LABEL" || true
+    else
+      sleep 0.1
+    fi
+  done
+  UNDONE="Tor could not be stopped."
+  return 1
+}

@@ -1,0 +1,257 @@
+"""A private machine that looks like a Mac to the root helper.
+
+Its root is an overlay over this system's, so nothing outside changes. The folders are a Mac's, the programs that only
+Linux has are gone, and those that only a Mac has are the stand-ins of standins.pl, which keep their state in /mac. Tor is
+the real one, with `DisableNetwork 1`. What a real Mac would say or do beyond that is not shown here.
+"""
+
+import os
+import shutil
+import sys
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+sys.path.insert(0, os.path.join(HERE, "..", "helper"))
+
+import namespace  # noqa: E402
+from namespace import HASH, TOR, USER_UID, HelperTest, main  # noqa: E402,F401
+
+STAND_INS = ("uname sync mv killall ifconfig sysctl stat ls scutil dscacheutil dscl networksetup launchctl lsof "
+             "pfctl").split()
+ONLY_LINUX = "flock timeout setpriv unshare setsid getent sha256sum nft mount umount ip ss gsettings pkexec useradd".split()
+
+SETUP = """
+set -eu
+ip link set lo up
+mount -t tmpfs -o mode=755 private /mnt
+mkdir /mnt/upper /mnt/work /mnt/root
+mount -t overlay -o "lowerdir=/,upperdir=/mnt/upper,workdir=/mnt/work" private /mnt/root
+cd /mnt/root
+mount -t proc proc proc
+mount --rbind /dev dev
+mkdir -p Library/Preferences "Library/Application Support" private/var/db private/var/run mac/gnu etc/tor
+chmod 755 Library "Library/Application Support" private private/var private/var/db
+for name in %(linux)s %(names)s; do
+  for place in usr/bin usr/sbin; do
+    [ ! -e $place/$name ] || mv $place/$name mac/gnu/$name
+  done
+done
+rm -rf var/db var/lib/veldmark run/veldmark*
+ln -s /private/var/db var/db
+printf '127.0.0.1\\tlocalhost\\n::1\\tlocalhost' >private_hosts
+mkdir -p private/etc
+mv private_hosts private/etc/hosts
+echo 'DisableNetwork 1' >etc/tor/torrc-defaults
+echo 'alice:x:%(uid)s:%(uid)s::/home/alice:/bin/bash' >>etc/passwd
+echo 'alice:x:%(uid)s:' >>etc/group
+mkdir -p home/alice && chown %(uid)s:%(uid)s home/alice && chmod 755 home home/alice
+pivot_root . mnt
+/mac/gnu/umount -l /mnt
+cd /
+""" % {"linux": " ".join(ONLY_LINUX), "names": " ".join(STAND_INS), "uid": USER_UID}
+
+SERVICES = {   # what each has before; the second is of letters that need care
+    "Wi-Fi": {"dns": "192.0.2.53\n2001:db8::53", "bypass": "*.local\n169.254/16"},
+    "Büro: USB 10/100 “LAN”": {
+        "web": "Yes\tproxy.example\t3128", "secureweb": "Yes\tproxy.example\t3128", "auto": "Yes\thttp://wpad.example/a.pac",
+        "discovery": "On", "socksfirewall": "Yes\t192.0.2.9\t1080"},
+    "Thunderbolt Bridge": {},
+    "*iPhone USB": {"dns": "192.0.2.99"},
+}
+
+BEFORE_PF = {
+    "pf  filter": 'scrub-anchor "com.apple/*" all fragment reassemble\nanchor "com.apple/*" all',
+    "pf  nat": 'nat-anchor "com.apple/*" all\nrdr-anchor "com.apple/*" all',
+    "pf tokens": "77 socketfilterfw 18446743524953000000",
+    "pf enabled": "1",
+}
+
+
+def escaped(value):
+    return value.replace("\\", "\\\\").replace("\n", "\\n").replace("\t", "\\t")
+
+
+def unescaped(value):
+    return (value.replace("\\\\", "\0").replace("\\n", "\n").replace("\\t", "\t")).replace("\0", "\\")
+
+
+class Mac(namespace.Machine):
+    SYSTEM = "darwin"
+    SETUP = SETUP
+
+    def __init__(self):
+        super().__init__()
+        self.root = f"/proc/{self.pid}/root"
+        source = self.helper
+        self.helper = "/Applications/Veldmark.app/Contents/Resources/veldmark-helper.sh"
+        self.place(source, self.helper)
+        for name in STAND_INS:
+            self.place(os.path.join(HERE, "standins.pl"), f"/usr/bin/{name}")
+        self.reset()
+
+    def command(self, words, uid=0):
+        there = {"--wd=/": "--root", "setpriv": "/mac/gnu/setpriv"}
+        return [there.get(word, word) for word in super().command([], uid)] + list(words)
+
+    def place(self, source, target):
+        path = self.root + target
+        os.makedirs(os.path.dirname(path), exist_ok=True)
+        shutil.copy(source, path)
+        os.chmod(path, 0o755)
+
+    def read(self, path):
+        try:
+            with open(self.root + path, encoding="utf-8") as file:
+                return file.read()
+        except FileNotFoundError:
+            return None
+
+    def write(self, path, text):
+        with open(self.root + path, "w", encoding="utf-8") as file:
+            file.write(text)
+
+    @property
+    def state(self):
+        lines = (self.read("/mac/state") or "").splitlines()
+        return {key: unescaped(value) for key, value in (line.split("\t", 1) for line in lines)}
+
+    @state.setter
+    def state(self, values):
+        self.write("/mac/state", "".join(f"{key}\t{escaped(value)}\n" for key, value in sorted(values.items())))
+
+    def change(self, **values):
+        """Keys with "_" for blanks."""
+        state = self.state
+        state.update({key.replace("_", " "): value for key, value in values.items()})
+        self.state = state
+
+    def reset(self):
+        """A Mac before its first connect."""
+        state = {
+            "boot": "11111111-2222-3333-4444-555555555555", "location": "Automatic", "console": str(USER_UID),
+            f"user {USER_UID}": f"alice {USER_UID} /home/alice", "user 0": "root 0 /var/root",
+            "services Automatic": "\n".join(SERVICES), **BEFORE_PF,
+            "record /Users/alice": "1", "record /Users/alice UniqueID": str(USER_UID),
+            "record /Users/daemon UniqueID": "350", "record /Groups/staff PrimaryGroupID": "20",
+            "record /Groups/_somebody PrimaryGroupID": "351",
+        }
+        for name, values in SERVICES.items():
+            for key, value in values.items():
+                state[f"service Automatic/{name.lstrip('*')} {key}"] = value
+        self.state = state
+        self.write("/mac/calls", "")
+
+    def calls(self, name=""):
+        return [line for line in self.read("/mac/calls").splitlines() if line.startswith(name)]
+
+    def fail_at(self, number, mode="status"):
+        self.write("/mac/fail", f"{number} {mode}\n")
+
+    def fail_never(self):
+        try:
+            os.remove(self.root + "/mac/fail")
+        except FileNotFoundError:
+            pass
+
+    def help(self, *arguments, **options):
+        """As the administrator prompt runs it: as root, and it is not said for whom."""
+        return self.run("/bin/bash", self.helper, *arguments, **options)
+
+    def restart(self):
+        """What a restart of the computer leaves: settings and files, but no rules, jobs and processes."""
+        state = self.state
+        for key in [key for key in state if key.startswith(("job ", "pf "))]:
+            if key.startswith("job "):
+                self.shell(f"kill -9 {state[key]} || true")
+            del state[key]
+        state.update(BEFORE_PF, boot="99999999-2222-3333-4444-555555555555")
+        self.state = state
+
+    def tor(self):
+        """The process id of Tor's job, or None."""
+        return self.state.get("job veldmark.tor")
+
+    def settings(self):
+        """What a session may change and must put back. Accounts stay, and so do counters."""
+        state = {key: value for key, value in self.state.items()
+                 if not key.startswith(("record ", "pf flushes", "pf last token", "dns flushed", "cache flushed"))}
+        # A list that was empty and one that was never set are the same to networksetup.
+        state = {key: value for key, value in state.items()
+                 if not (key.startswith("service ") and value in ("", "No\t\t0", "No\t(null)", "Off"))}
+        files = self.shell(r"""
+            find "/Library/Application Support/Veldmark/state" "/Library/Application Support/Veldmark/journal" -type f 2>/dev/null || true
+            md5sum /private/etc/hosts; /mac/gnu/stat -c '%a %u %g' /private/etc/hosts
+            pgrep -u 352 || true; pgrep -x tor || true""")
+        return state, files
+
+    def verdict(self, direction, proto="tcp", device="en0", **packet):
+        """Whether pf lets a first packet pass, as its manual tells. packet: af, source, sport, to, port, user, group, kind."""
+        packet = {"af": "inet", "source": "198.51.100.7", "to": "203.0.113.5", "sport": "50000", "port": "443", "user": "501",
+                  "group": "20", "kind": "", **{key: str(value) for key, value in packet.items()}}
+        state = self.state
+        if state.get("pf enabled") != "1":
+            return "pass"
+        for line in state["pf  filter"].splitlines():
+            if line == 'anchor "veldmark" all':
+                for rule in state.get("pf veldmark filter", "").splitlines():
+                    if matches(rule, direction, proto, device, packet):
+                        return rule.split()[0]
+        return "pass"
+
+
+def matches(rule, direction, proto, device, packet):
+    """Whether an expanded rule is for this packet. Every word must be understood."""
+    import ipaddress
+
+    words = rule.split()[1:]
+    if words[0] in ("return", "drop"):
+        words.pop(0)
+    if words[0] in ("in", "out") and words.pop(0) != direction:
+        return False
+    assert words.pop(0) == "quick"
+    side, ok = "from", True
+    while words:
+        word = words.pop(0)
+        if word == "on":
+            ok &= words.pop(0) == device
+        elif word in ("inet", "inet6"):
+            ok &= packet["af"] == word
+        elif word == "proto":
+            ok &= words.pop(0) == proto
+        elif word == "all":
+            pass
+        elif word in ("from", "to"):
+            side, where = word, words.pop(0)
+            address = ipaddress.ip_address(packet["source" if side == "from" else "to"])
+            if where != "any":
+                network = ipaddress.ip_network(where)
+                ok &= network.version == address.version and address in network
+        elif word in ("port", "user", "group"):
+            assert words.pop(0) == "="
+            key = {"port": "sport" if side == "from" else "port"}.get(word, word)
+            ok &= words.pop(0) == packet[key] and (word == "port" or direction == "out")
+        elif word == "flags":
+            assert words.pop(0) == "S/SA"
+        elif word == "icmp6-type":
+            ok &= words.pop(0) == packet["kind"]
+        elif word in ("keep", "no"):
+            assert words.pop(0) == "state"
+        else:
+            raise AssertionError(f"{word!r} in {rule!r}")
+    return ok
+
+
+class MacTest(HelperTest):
+    """Tests on one private Mac per class."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.machine = Mac()
+
+    def setUp(self):
+        self.machine.fail_never()
+        self.machine.help("disconnect")
+        self.machine.reset()
+        self.before = self.machine.settings()
+
+    def assertRestored(self):
+        self.assertEqual(self.machine.settings(), self.before)

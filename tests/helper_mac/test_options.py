@@ -1,0 +1,67 @@
+"""Hostile or wrong arguments and environments of the Mac's helper: one sentence, and nothing changes."""
+
+import importlib.util
+import os
+
+import mac
+from mac import HASH, TOR, USER_UID, MacTest
+
+# The same table as on Linux: the patterns are shared. Loaded by its path, since the file has this one's name.
+_spec = importlib.util.spec_from_file_location("linux_options", os.path.join(mac.HERE, "..", "helper", "test_options.py"))
+linux_options = importlib.util.module_from_spec(_spec)
+_spec.loader.exec_module(linux_options)
+
+LAUNCH = ["launch", "--uid", str(USER_UID), "--app", "/Applications/Some.app"]
+MORE = {
+    "launch for somebody else": ["launch", "--uid", "0", "--app", "/Applications/Some.app"],
+    "launch of no application": ["launch", "--uid", str(USER_UID), "--app", "/usr/bin/true"],
+    "launch of a relative path": ["launch", "--uid", str(USER_UID), "--app", "Some.app"],
+    "launch with arithmetic": ["launch", "--uid", "a[$(touch /run/pwned)]", "--app", "/Applications/Some.app"],
+    "launch without a session": LAUNCH,
+}
+
+
+class Options(MacTest):
+    def test_every_hostile_argument_is_refused(self):
+        for name, arguments in {**linux_options.HOSTILE, **MORE}.items():
+            with self.subTest(name):
+                self.assertOneLine(self.machine.help(*arguments, check=False))
+                self.assertFalse(os.path.exists(self.machine.root + "/run/pwned"))
+        self.assertRestored()
+        self.assertEqual(self.machine.calls("networksetup -set"), [])
+
+    def test_odd_callers_are_refused(self):
+        for name, variables in linux_options.UIDS.items():
+            with self.subTest(name):
+                self.assertOneLine(self.machine.help(*linux_options.words(), env={"PATH": "/usr/bin:/bin", **variables}, check=False))
+        self.assertRestored()
+
+    def test_a_caller_who_is_not_root_is_refused(self):
+        self.assertOneLine(self.machine.help("disconnect", uid=USER_UID, check=False), "must run as root")
+
+    def test_nothing_from_the_environment_counts(self):
+        self.machine.shell("mkdir -p /run/bin; for name in pfctl perl stat; do printf '#!/bin/sh\ntouch /run/pwned\n' >/run/bin/$name;"
+                           "chmod +x /run/bin/$name; done")
+        variables = {"PATH": "/run/bin:/usr/bin:/bin", "PERL5OPT": "-Mpwned", "PERL5LIB": "/run/bin", "BASH_FUNC_pfctl%%": "() { touch /run/pwned; }",
+                     "SYSTEM": "linux", "CALLER_UID": "0", "DYLD_INSERT_LIBRARIES": "/run/bin/x", "IFS": "/"}
+        self.machine.help(*linux_options.words(), env=variables)
+        self.assertFalse(os.path.exists(self.machine.root + "/run/pwned"))
+        self.machine.help("disconnect", env=variables)
+        self.assertRestored()
+
+    def test_another_systems_helper_is_refused(self):
+        self.machine.place(mac.namespace.helper_path("linux"), "/mac/linux-helper.sh")
+        self.assertOneLine(self.machine.run("/bin/bash", "/mac/linux-helper.sh", "disconnect", check=False), "another system")
+
+    def test_a_missing_program_is_named(self):
+        self.machine.shell("mv /usr/bin/networksetup /mac/gnu/")
+        try:
+            self.assertOneLine(self.machine.help("connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0", check=False),
+                               "networksetup is missing")
+            self.assertEqual(self.machine.verdict("out"), "pass")
+        finally:
+            self.machine.shell("/mac/gnu/mv /mac/gnu/networksetup /usr/bin/")
+
+
+if __name__ == "__main__":
+    mac.main()

@@ -1,0 +1,96 @@
+"""The password-free way on a Mac, with the real sudo; what may run as Tor's account; applications without Tor."""
+
+import os
+
+import mac
+from mac import HASH, TOR, USER_UID, MacTest
+
+INSTALLED = "/Library/Application Support/Veldmark/bin/veldmark-helper.sh"
+LAUNCHER = "/Library/Application Support/Veldmark/bin/veldmark-launch"
+RULE = "/etc/sudoers.d/veldmark"
+UNDER_RULE = {"PATH": os.environ["PATH"], "SUDO_UID": str(USER_UID)}
+SHOW = "#!/bin/sh\n{ id -u; id -g; id -G; echo \"$@\"; env; } >/home/alice/launched\n"
+
+
+class Privileged(MacTest):
+    def setUp(self):
+        super().setUp()
+        self.machine.shell("mkdir -p /run/sudo /etc/sudoers.d; chmod 755 /etc/sudoers.d; rm -f /home/alice/*;"
+                           "grep -q '^@includedir /etc/sudoers.d' /etc/sudoers || echo '@includedir /etc/sudoers.d' >>/etc/sudoers;"
+                           "grep -q ^alice: /etc/shadow || echo 'alice:*:19000:0:99999:7:::' >>/etc/shadow")
+
+    def tearDown(self):
+        self.machine.help("uninstall-privileged")
+        for path in INSTALLED, LAUNCHER, RULE:
+            self.assertIsNone(self.machine.read(path))
+
+    def sudo(self, *words):
+        return self.machine.run("sudo", "-n", *words, uid=USER_UID, check=False)
+
+    def test_the_user_connects_and_disconnects_without_a_password(self):
+        self.assertNotEqual(self.sudo(INSTALLED, "disconnect").returncode, 0)
+        self.machine.help("install-privileged", "--user", "alice", "--launch", "/usr/bin/true")
+        self.assertEqual(self.machine.read(INSTALLED), self.machine.read(self.machine.helper))
+        done = self.sudo(INSTALLED, "connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0")
+        self.assertEqual((done.returncode, done.stderr), (0, ""))
+        self.assertIsNotNone(self.machine.tor())
+        self.assertEqual(self.sudo(INSTALLED, "disconnect").returncode, 0)
+        self.assertRestored()
+
+    def test_the_rule_lets_in_that_helper_alone(self):
+        self.machine.help("install-privileged", "--user", "alice")
+        for words in ["/bin/bash"], ["/bin/bash", INSTALLED, "disconnect"], ["/Library/Application"], ["/usr/bin/id"]:
+            self.assertNotEqual(self.sudo(*words).returncode, 0, words)
+        self.assertOneLine(self.sudo(INSTALLED, "install-privileged", "--user", "alice"), "password")
+
+    def test_nobody_but_the_user_who_asks_is_let_in(self):
+        self.machine.change(console="4243")
+        self.assertOneLine(self.machine.help("install-privileged", "--user", "alice", check=False))
+        self.assertIsNone(self.machine.read(RULE))
+
+    def test_a_tor_of_the_users_needs_an_approval_of_its_content(self):
+        self.machine.shell("/usr/bin/install -o alice -m 0755 /usr/bin/tor /home/alice/tor")
+        words = ["connect", "--tor", "/home/alice/tor", "--hash", HASH, "--strict", "1", "--lan", "0"]
+        self.assertOneLine(self.machine.help(*words, env=UNDER_RULE, check=False), "password")
+        self.assertRestored()
+        self.machine.help(*words)   # through the prompt
+        program = os.readlink(f"{self.machine.root}/proc/{self.machine.tor()}/exe")
+        self.assertRegex(program, r"/db/veldmark/programs/[0-9a-f]{64}/tor$")
+        self.machine.help("disconnect")
+        self.machine.help(*words, env=UNDER_RULE)
+        self.machine.help("disconnect")
+        self.machine.shell("echo >>/home/alice/tor")
+        self.assertOneLine(self.machine.help(*words, env=UNDER_RULE, check=False), "password")
+
+    def test_an_application_runs_as_the_user_in_the_exempt_group(self):
+        self.machine.write("/Applications/Veldmark.app/Contents/MacOS-launch", SHOW)
+        self.machine.shell("mkdir -p /Applications/Veldmark.app/Contents/MacOS; mv -f /Applications/Veldmark.app/Contents/MacOS-launch "
+                           "/Applications/Veldmark.app/Contents/MacOS/veldmark-launch; chmod 755 /Applications/Veldmark.app/Contents/MacOS/veldmark-launch")
+        words = ["launch", "--uid", str(USER_UID), "--app", "/Applications/Some “New”.app"]
+        self.machine.connect()
+        self.assertOneLine(self.machine.help(*words, env=UNDER_RULE, check=False), "password")
+        self.assertIsNone(self.machine.read("/home/alice/launched"))
+        self.machine.help(*words)
+        lines = self.machine.read("/home/alice/launched").splitlines()
+        group = self.machine.state["record /Groups/_veldmark_exempt PrimaryGroupID"]
+        self.assertEqual(lines[:2], [str(USER_UID), group])
+        self.assertEqual(set(lines[2].split()), {group, str(USER_UID)})
+        self.assertEqual(lines[3], "--app /Applications/Some “New”.app")
+        self.assertEqual({line.split("=")[0] for line in lines[4:]} - {"PWD", "SHLVL", "_"}, {"HOME", "LC_ALL", "PATH"})
+        self.assertEqual(self.machine.verdict("out", group=group, user=USER_UID), "pass")
+        self.machine.connect(strict=0)
+        self.assertOneLine(self.machine.help(*words, check=False), "kill switch is not on")
+
+    def test_a_group_with_members_is_not_exempt(self):
+        self.machine.connect()
+        self.machine.help("disconnect")
+        state = self.machine.state
+        state["record /Groups/_veldmark_exempt GroupMembership"] = "alice"
+        self.machine.state = state
+        self.machine.connect()
+        group = state["record /Groups/_veldmark_exempt PrimaryGroupID"]
+        self.assertEqual(self.machine.verdict("out", group=group, user=USER_UID), "block")
+
+
+if __name__ == "__main__":
+    mac.main()

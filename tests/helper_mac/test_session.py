@@ -1,0 +1,290 @@
+"""Connect, disconnect and fix-dns on a Mac of stand-ins: what a session sets, and that it goes back exactly."""
+
+import os
+import subprocess
+
+import mac
+from mac import HASH, TOR, USER_UID, MacTest
+
+JOURNAL = "/Library/Application Support/Veldmark/journal/"
+MARKER = "/Library/Application Support/Veldmark/state/active"
+BUREAU = "Büro: USB 10/100 “LAN”"
+
+
+class Session(MacTest):
+    def assertSwitched(self, name):
+        state = self.machine.state
+        at = f"service {state['location']}/{name} "
+        self.assertEqual(state[at + "dns"], "127.0.0.1")
+        self.assertEqual(state[at + "socksfirewall"], "Yes\t127.0.0.1\t9050")
+        for other in "web", "secureweb", "auto":
+            self.assertTrue(state.get(at + other, "No").startswith("No"), other)
+        self.assertEqual(state.get(at + "discovery", "Off"), "Off")
+
+    def test_strict_and_proxy_switch_and_go_back(self):
+        for strict, word in (1, "strict"), (0, "proxy"):
+            with self.subTest(word):
+                self.machine.connect(strict=strict)
+                self.assertEqual(self.machine.read(MARKER), word + "\n")
+                for name in "Wi-Fi", BUREAU, "Thunderbolt Bridge":
+                    self.assertSwitched(name)
+                state = self.machine.state
+                self.assertEqual(state["service Automatic/iPhone USB dns"], "192.0.2.99", "a service that is switched off was changed")
+                self.assertEqual(state["pf  filter"].splitlines()[1], 'anchor "veldmark" all')
+                self.assertEqual(len(state["pf tokens"].splitlines()), 2)
+                self.machine.shell(f"kill -0 {self.machine.tor()}")
+                self.machine.help("disconnect")
+                self.assertRestored()
+
+    def test_tor_runs_in_its_own_account_with_a_clean_environment(self):
+        self.machine.connect()
+        pid = self.machine.tor()
+        uid = self.machine.state["record /Users/_veldmark UniqueID"]
+        status = self.machine.shell(f"grep -E '^(Uid|Gid|Groups):' /proc/{pid}/status")
+        self.assertEqual(status.split()[1:5], [uid] * 4)
+        self.assertNotIn("\t0\t", status)
+        names = {line.split("=")[0] for line in self.machine.shell(f"tr '\\0' '\\n' </proc/{pid}/environ").split()}
+        self.assertEqual(names, {"HOME", "PATH", "LC_ALL"})
+        opened = [os.readlink(f"{self.machine.root}/proc/{pid}/fd/{name}") for name in os.listdir(f"{self.machine.root}/proc/{pid}/fd")]
+        self.assertNotIn("veldmark.lock", " ".join(opened))
+
+    def test_the_account_is_made_once_hidden_and_with_a_free_number(self):
+        self.machine.connect()
+        first = {key: value for key, value in self.machine.state.items() if key.startswith("record ")}
+        self.assertEqual(first["record /Users/_veldmark IsHidden"], "1")
+        self.assertEqual(first["record /Users/_veldmark Password"], "*")
+        self.assertEqual(first["record /Users/_veldmark UserShell"], "/usr/bin/false")
+        self.assertNotIn(first["record /Users/_veldmark UniqueID"], ("350", "351"))
+        self.machine.connect()
+        again = {key: value for key, value in self.machine.state.items() if key.startswith("record ")}
+        self.assertEqual(first, again)
+
+    def test_the_user_at_the_screen_may_reach_the_control_port(self):
+        self.machine.connect()
+        self.assertEqual(self.machine.verdict("out", device="lo0", to="127.0.0.1", port=9051, user=USER_UID), "pass")
+        self.assertEqual(self.machine.verdict("out", device="lo0", to="127.0.0.1", port=9051, user=1234), "block")
+
+    def test_for_root_where_nobody_sits_at_the_screen(self):
+        state = self.machine.state
+        del state["console"]
+        self.machine.state = state
+        self.machine.connect()
+        self.assertEqual(self.machine.verdict("out", device="lo0", to="127.0.0.1", port=9051, user=USER_UID), "block")
+        self.machine.help("disconnect")
+
+    def test_connecting_again_keeps_the_first_journal_and_one_token(self):
+        for strict in 1, 1, 0, 1, 0, 0:
+            self.machine.connect(strict=strict)
+        self.assertEqual(len(self.machine.state["pf tokens"].splitlines()), 2)
+        self.machine.help("disconnect")
+        self.assertRestored()
+
+    def test_disconnect_without_a_session_changes_nothing(self):
+        self.machine.help("disconnect")
+        self.machine.help("disconnect")
+        self.assertRestored()
+        self.assertEqual(self.machine.calls("networksetup -set"), [])
+
+    def test_a_service_that_came_meanwhile_is_switched_by_fix_dns_and_put_back(self):
+        self.machine.connect()
+        self.machine.change(services_Automatic=self.machine.state["services Automatic"] + "\nNew: Net")
+        self.machine.help("fix-dns")
+        self.assertSwitched("New: Net")
+        self.machine.help("disconnect")
+        self.machine.change(services_Automatic=self.before[0]["services Automatic"])
+        self.assertRestored()
+
+    def test_a_service_that_went_meanwhile_is_no_error(self):
+        self.machine.connect()
+        self.machine.change(services_Automatic="Wi-Fi\nThunderbolt Bridge\n*iPhone USB")
+        self.machine.help("disconnect")
+        self.assertEqual(self.machine.state["service Automatic/Wi-Fi dns"], "192.0.2.53\n2001:db8::53")
+        self.assertIsNone(self.machine.read(MARKER))
+
+    def test_a_service_that_was_switched_off_meanwhile_is_put_back(self):
+        self.machine.connect()
+        self.machine.change(services_Automatic=self.machine.state["services Automatic"].replace("Wi-Fi", "*Wi-Fi"))
+        self.machine.help("disconnect")
+        self.machine.change(services_Automatic=self.before[0]["services Automatic"])
+        self.assertRestored()
+
+    def test_a_renamed_service_does_not_keep_our_settings(self):
+        self.machine.connect()
+        state = self.machine.state
+        for key in [key for key in state if key.startswith("service Automatic/Wi-Fi ")]:
+            state[key.replace("Wi-Fi", "Home")] = state.pop(key)
+        state["services Automatic"] = state["services Automatic"].replace("Wi-Fi", "Home")
+        self.machine.state = state
+        self.machine.help("disconnect")
+        self.assertEqual(self.machine.state["service Automatic/Home dns"], "")
+        self.assertTrue(self.machine.state["service Automatic/Home socksfirewall"].startswith("No\t"))
+
+    def test_another_location_keeps_its_note_until_it_is_chosen_again(self):
+        self.machine.connect()
+        self.machine.change(location="Office", services_Office="Wi-Fi", **{"service_Office/Wi-Fi_dns": "198.51.100.53"})
+        done = self.machine.help("disconnect", check=False)
+        self.assertOneLine(done, "The network location Automatic still has Veldmark's settings.")
+        self.assertIsNone(self.machine.read(MARKER))
+        self.assertEqual(self.machine.state["service Office/Wi-Fi dns"], "198.51.100.53")
+        self.machine.change(location="Automatic")
+        self.machine.help("disconnect")
+        state = self.machine.state
+        del state["services Office"], state["service Office/Wi-Fi dns"]
+        self.machine.state = state
+        self.assertRestored()
+
+    def test_fix_dns_puts_back_what_others_changed(self):
+        self.machine.connect()
+        wanted = self.machine.settings()
+        state = self.machine.state
+        state["service Automatic/Wi-Fi dns"] = "192.0.2.1"
+        state[f"service Automatic/{BUREAU} web"] = "Yes\tproxy.example\t3128"
+        state["pf  filter"] = state["pf  nat"] = state["pf veldmark filter"] = ""
+        state["pf enabled"], state["pf tokens"] = "0", ""
+        self.machine.state = state
+        self.assertEqual(self.machine.verdict("out"), "pass")
+        self.machine.help("fix-dns")
+        self.assertEqual(self.machine.verdict("out"), "block")
+        self.assertSwitched("Wi-Fi")
+        self.assertSwitched(BUREAU)
+        now = self.machine.settings()
+        for key in wanted[0]:
+            if not key.startswith("pf "):
+                self.assertEqual(now[0].get(key), wanted[0][key], key)
+
+    def test_fix_dns_without_a_session_is_refused(self):
+        self.assertOneLine(self.machine.help("fix-dns", check=False), "not connected")
+        self.assertRestored()
+
+    def test_somebody_elses_rules_before_ours_are_put_behind(self):
+        self.machine.connect()
+        state = self.machine.state
+        state["pf  filter"] = 'pass out quick all\nanchor "veldmark" all'
+        self.machine.state = state
+        self.machine.help("fix-dns")
+        self.assertEqual(self.machine.state["pf  filter"], 'anchor "veldmark" all\npass out quick all')
+
+    def test_rules_of_others_that_came_meanwhile_stay(self):
+        self.machine.connect()
+        state = self.machine.state
+        state["pf  filter"] += '\nanchor "other" all'
+        self.machine.state = state
+        self.machine.help("disconnect")
+        self.assertEqual(self.machine.state["pf  filter"], self.before[0]["pf  filter"] + '\nanchor "other" all')
+
+    def test_pf_goes_off_again_where_nobody_else_holds_it(self):
+        self.machine.change(pf_tokens="", pf_enabled="0")
+        self.machine.connect()
+        self.assertEqual(self.machine.state["pf enabled"], "1")
+        self.machine.help("disconnect")
+        self.assertEqual((self.machine.state["pf enabled"], self.machine.state["pf tokens"]), ("0", ""))
+
+    def test_connections_from_before_end_at_every_change(self):
+        for words in ["connect"], ["fix-dns"], ["disconnect"]:
+            before = int(self.machine.state.get("pf flushes", 0))
+            if words == ["connect"]:
+                self.machine.connect()
+            else:
+                self.machine.help(*words)
+            self.assertGreater(int(self.machine.state.get("pf flushes", 0)), before, words)
+
+    def test_after_a_restart_of_the_computer_disconnect_puts_everything_back(self):
+        for strict in 0, 1:
+            self.machine.connect(strict=strict)
+            self.machine.restart()
+            self.assertEqual(self.machine.state["service Automatic/Wi-Fi dns"], "127.0.0.1")
+            self.machine.help("disconnect")
+            state = self.machine.state
+            state["boot"] = self.before[0]["boot"]
+            self.machine.state = state
+            self.assertRestored()
+
+    def test_after_a_restart_connect_keeps_the_users_own_settings(self):
+        self.machine.connect()
+        self.machine.restart()
+        self.machine.connect()
+        self.assertEqual(self.machine.verdict("out"), "block")
+        self.machine.help("disconnect")
+        self.machine.change(boot=self.before[0]["boot"])
+        self.assertRestored()
+
+    def test_old_networksetup_that_never_fails(self):
+        self.machine.change(old_networksetup="1")
+        self.before = self.machine.settings()
+        self.machine.connect()
+        self.machine.help("disconnect")
+        self.assertRestored()
+
+    def test_a_torn_entry_is_told_and_does_not_leave_our_settings(self):
+        self.machine.connect()
+        self.machine.write(JOURNAL + "30-service-0", "service Wi-Fi\ndns 192.0.2.53\n")
+        self.assertOneLine(self.machine.help("disconnect", check=False), "damaged")
+        self.assertIsNone(self.machine.read(MARKER))
+        self.assertEqual(self.machine.state["service Automatic/Wi-Fi dns"], "")
+        self.machine.help("disconnect")
+
+    def test_a_journal_that_others_could_write_is_not_believed(self):
+        self.machine.connect()
+        self.machine.shell('chmod 777 "/Library/Application Support/Veldmark/journal"')
+        self.machine.write(JOURNAL + "30-service-0", "service Wi-Fi\nlocation Automatic\nsocks No\nhost \nport 0\nweb No\nsecure No\n"
+                                                     "auto No\ndiscovery Off\ndns 198.51.100.66\nend\n")
+        self.machine.help("disconnect", check=False)
+        self.assertNotIn("198.51.100.66", str(self.machine.state))
+        self.assertEqual(self.machine.state["service Automatic/Wi-Fi dns"], "")
+        self.machine.shell('chmod 700 "/Library/Application Support/Veldmark/journal"')
+
+    def test_an_access_list_that_lets_others_in_is_refused(self):
+        self.machine.connect()
+        self.machine.help("disconnect")
+        state = self.machine.state
+        state["acl /Library/Application Support/Veldmark"] = "user:alice allow add_file,delete_child"
+        self.machine.state = state
+        self.assertOneLine(self.machine.help("connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0", check=False),
+                           "not safe")
+
+    def test_a_tor_that_cannot_start_says_why_and_proxy_mode_goes_back(self):
+        busy = self.machine.start("/usr/bin/perl", "-e", "use Socket; socket(S, 2, 1, 0); bind(S, sockaddr_in(9051, inet_aton('127.0.0.1')));"
+                                  "listen(S, 1); syswrite(STDOUT, 'x'); <STDIN>",
+                                  stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        try:
+            self.assertEqual(busy.stdout.read(1), b"x")
+            self.before = self.machine.settings()
+            self.assertOneLine(self.machine.help("connect", "--tor", TOR, "--hash", HASH, "--strict", "0", "--lan", "0", check=False),
+                               "Failed to bind one of the listener ports")
+            self.assertRestored()
+            done = self.machine.help("connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0", check=False)
+            self.assertOneLine(done, "The network stays blocked until you disconnect.")
+            self.assertEqual(self.machine.verdict("out"), "block")
+        finally:
+            busy.stdin.close()   # it ends by itself
+            busy.wait()
+            busy.stdout.close()
+
+    def test_two_runs_at_once_wait_for_each_other(self):
+        runs = [self.machine.start("/bin/bash", self.machine.helper, "connect", "--tor", TOR, "--hash", HASH, "--strict", "1",
+                                   "--lan", "0", stdout=subprocess.DEVNULL) for _ in range(2)]
+        self.assertEqual([run.wait(60) for run in runs], [0, 0])
+        self.machine.help("disconnect")
+        self.assertRestored()
+
+    def test_names_of_transports_stand_in_the_hosts_while_the_session_lasts(self):
+        self.machine.change(**{"host_front.example".replace("_", " "): "name: front.example\nip_address: 192.0.2.80\n\nname: front.example\nipv6_address: 2001:db8::80\n",
+                               "host_b.example".replace("_", " "): "name: b.example\nip_address: 192.0.2.81\nip_address: $(x)\n"})
+        bridge = "meek_lite 192.0.2.20:80 0123456789012345678901234567890123456789 url=https://b.example/x front=front.example"
+        before = self.machine.read("/private/etc/hosts")
+        self.machine.connect(more=["--bridge", bridge, "--pt-lyrebird", "/usr/bin/obfs4proxy"])
+        self.assertEqual(self.machine.read("/private/etc/hosts"),
+                         before + "\n# >>> veldmark >>>\n192.0.2.81 b.example\n192.0.2.80 front.example\n"
+                                  "2001:db8::80 front.example\n# <<< veldmark <<<\n")
+        self.machine.connect(more=["--bridge", bridge, "--pt-lyrebird", "/usr/bin/obfs4proxy"])
+        self.machine.help("disconnect")
+        state = self.machine.state
+        for key in [key for key in state if key.startswith("host ")]:
+            del state[key]
+        self.machine.state = state
+        self.assertRestored()
+
+
+if __name__ == "__main__":
+    os.environ.pop("VELDMARK_HELPER", None)
+    mac.main()

@@ -1,0 +1,186 @@
+#!/usr/bin/python3
+"""The program for a long time, in the private Tor network: it takes as much at the end as at the start.
+
+usage: soak.py [--cycles N] [--hours H] [--seed N] [--programs FOLDER] [--json FILE]
+
+cycles  connects and disconnects one running instance N times (500), in both modes by turns. In one of ten, Tor is killed
+        while it is connected. The host must then be as it was before.
+hours   keeps a session for H hours (2) of a clock that runs sixty times as fast, with circuits and log being looked at.
+        Tor is killed at random, and its log grows.
+
+Memory, descriptors and threads are read along the way; the middle of the last readings is compared with that of the first
+ones, after a warm-up. Exit status 1 when something has grown, 77 where no lab can run.
+"""
+
+import argparse
+import json
+import os
+import random
+import statistics
+import subprocess
+import sys
+import threading
+import time
+from pathlib import Path
+
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(Path(__file__).resolve().parent))
+
+from veldlab.lab import PROJECT, Lab, LabUnavailable  # noqa: E402
+from veldlab.product import Product, difference  # noqa: E402
+
+FAST_FORWARD = os.environ.get("VELDMARK_FAST_FORWARD", str(PROJECT / "build" / "dev" / "tests" / "FastForward"))
+KINDS = ("memoryKiB", "descriptors", "threads")
+# The allocator keeps some of what was freed, so memory may differ by this much; a leak of 10 KiB in each cycle or minute
+# would be far beyond it. Descriptors and threads may not differ.
+MEMORY_SLACK = 0.05
+WARM_UP = 0.1        # of the readings
+COMPARED = 0.2       # of the readings, at both ends
+
+# On the host: what a process takes, by its program's path; Tor's process ids.
+TAKEN = """
+for p in /proc/[0-9]*; do
+  [ "$(readlink "$p/exe")" = "$1" ] && tr '\\0' ' ' <"$p/cmdline" | grep -q ' run' || continue
+  echo "$(awk '/^VmRSS/ { print $2 }' "$p/status") $(ls "$p/fd" | wc -l) $(ls "$p/task" | wc -l)"
+done
+"""
+TOR_PIDS = """
+uid=$(id -u _veldmark)
+for p in /proc/[0-9]*; do
+  [ "$(readlink "$p/exe")" = /usr/bin/tor ] && [ "$(stat -c %u "$p")" = "$uid" ] && echo "${p#/proc/}"
+done
+true
+"""
+GROW_LOG = """
+while sleep 0.05; do
+  [ ! -f "$1" ] || for i in 1 2 3 4 5 6 7 8 9 10; do
+    echo "Nov 16 00:41:07.123 [notice] A line of the soak, one of many, about as long as those that Tor writes." >>"$1"
+  done
+done
+"""
+
+
+def kill_tor(lab: Lab) -> bool:
+    """Whether there was one to kill."""
+    pids = lab.host.run(["sh", "-c", TOR_PIDS], check=True).stdout.split()
+    return bool(pids) and lab.host.run(["kill", "-9", *pids]).returncode == 0
+
+
+def taken(lab: Lab, product: Product) -> dict[str, int]:
+    [line] = lab.host.run(["sh", "-c", TAKEN, "taken", product.ctl], check=True).stdout.splitlines()
+    return dict(zip(KINDS, map(int, line.split())))
+
+
+def growth(readings: list[dict]) -> list[str]:
+    """Prints start and end of each kind; what has grown."""
+    kept = readings[int(len(readings) * WARM_UP):]
+    share = max(1, int(len(kept) * COMPARED))
+    grown = []
+    for kind in KINDS:
+        first = statistics.median(reading[kind] for reading in kept[:share])
+        last = statistics.median(reading[kind] for reading in kept[-share:])
+        slack = first * MEMORY_SLACK if kind == "memoryKiB" else 0
+        print(f"  {kind:<12} {first:>9.0f} at the start {last:>9.0f} at the end", flush=True)
+        if last > first + slack:
+            grown.append(f"{kind} grew from {first:.0f} to {last:.0f}")
+    return grown
+
+
+def cycles(lab: Lab, product: Product, count: int, chance: random.Random) -> tuple[list[str], dict]:
+    before = lab.host.snapshot()
+    readings, kills, started = [], 0, time.monotonic()
+    with product.session(connect=False) as session:
+        session.wait_phase("disconnected")
+        for number in range(count):
+            product.run_verb("set", "strictMode", "true" if number % 2 else "false", check=True)
+            product.run_verb("connect", check=True, timeout=120)
+            if chance.random() < 0.1 and kill_tor(lab):
+                kills += 1
+                session.wait_phase("stale")
+                product.run_verb("restore", check=True)
+            else:
+                product.run_verb("disconnect", check=True)
+            readings.append(taken(lab, product))
+            if (number + 1) % 50 == 0:
+                print(f"  {number + 1} cycles, {kills} with Tor killed, {time.monotonic() - started:.0f} s: {readings[-1]}", flush=True)
+        session.interrupt()
+    problems = growth(readings)
+    product_settings = "/root/.config/veldmark"
+    lab.host.run(["rm", "-rf", product_settings], check=True)
+    if left := difference(before, lab.host.snapshot()):
+        problems.append("the host is not as it was: " + left)
+    return problems, {"cycles": count, "kills": kills, "seconds": round(time.monotonic() - started), "first": readings[0], "last": readings[-1]}
+
+
+def hours(lab: Lab, programs: Path, length: float, chance: random.Random) -> tuple[list[str], dict]:
+    before = lab.host.snapshot()
+    stop = threading.Event()
+    kills = 0
+
+    def disturb() -> None:
+        nonlocal kills
+        while not stop.wait(chance.uniform(5, 20)):  # real seconds: five to twenty minutes of the fast clock
+            kills += kill_tor(lab)
+
+    growing = lab.host.popen(["sh", "-c", GROW_LOG, "grow", "/var/lib/veldmark/run/notices.log"])
+    readings = []
+    monitor = lab.host.popen([FAST_FORWARD, "monitor", str(length)], env={"VELDMARK_PROGRAMS": str(programs)},
+                             stdout=subprocess.PIPE, text=True)
+    disturber = threading.Thread(target=disturb)
+    disturber.start()
+    try:
+        for line in monitor.stdout:
+            readings.append(json.loads(line))
+            print(f"  {readings[-1]}", flush=True)
+    finally:
+        stop.set()
+        disturber.join()
+        growing.kill()
+        growing.wait()
+    problems = growth(readings)
+    if monitor.wait() != 0:
+        problems.append("the network was not restored")
+    last = readings[-1]
+    if not (kills and last["deaths"] and last["refreshes"] and last["logLines"]):
+        problems.append(f"nothing was tried: {kills} kills, {last}")
+    lab.host.run(["rm", "-rf", "/root/.config/veldmark"], check=True)
+    if left := difference(before, lab.host.snapshot()):
+        problems.append("the host is not as it was: " + left)
+    return problems, {"hours": length, "kills": kills, "first": readings[0], "last": last}
+
+
+def main() -> int:
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--cycles", type=int, default=500)
+    parser.add_argument("--hours", type=float, default=2)
+    parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--programs", type=Path, default=PROJECT / "build" / "bin")
+    parser.add_argument("--json", metavar="FILE")
+    given = parser.parse_args()
+    chance = random.Random(given.seed)
+    problems, report = [], {}
+    try:
+        with Lab() as lab:
+            programs = given.programs.resolve()
+            product = Product(lab, programs)
+            if given.cycles:
+                print(f"{given.cycles} cycles", flush=True)
+                found, report["cycles"] = cycles(lab, product, given.cycles, chance)
+                problems += found
+            if given.hours:
+                print(f"{given.hours} hours of a fast clock", flush=True)
+                found, report["hours"] = hours(lab, programs, given.hours, chance)
+                problems += found
+    except LabUnavailable as error:
+        print(error, file=sys.stderr)
+        return 77
+    report["problems"] = problems
+    if given.json:
+        Path(given.json).write_text(json.dumps(report, indent=1) + "\n")
+    for problem in problems:
+        print("soak:", problem, file=sys.stderr)
+    return 1 if problems else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,169 @@
+#include "Scenes.h"
+#include "Stage.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QQuickItem>
+#include <QTest>
+
+using namespace veldmark;
+
+// The lines of the log as a reader meets them: at the end until he scrolls up, selectable across lines, and calm
+// while new lines arrive and old ones fall off.
+class LogWindowTest : public QObject {
+    Q_OBJECT
+
+    static constexpr int count = 3000;
+
+    std::unique_ptr<Stage> stage;
+    std::vector<LogLine> all;
+    QQuickItem *lines = nullptr;
+
+    void showFrom(int first, int number = count)
+    {
+        stage->log.show(LogFeed::State::lines,
+                        std::vector<LogLine>(all.begin() + first, all.begin() + first + number));
+        stage->picture();
+    }
+    bool follows() const { return lines->property("follow").toBool(); }
+    double contentY() const { return lines->property("contentY").toDouble(); }
+    // The raw text of the line at a height of the list.
+    QString lineAt(double y) const
+    {
+        int row = -1;
+        QMetaObject::invokeMethod(lines, "indexAt", Q_RETURN_ARG(int, row), Q_ARG(double, 10.0),
+                                  Q_ARG(double, contentY() + y));
+        return stage->lines.data(stage->lines.index(row), Qt::DisplayRole).toString();
+    }
+    QPoint inWindow(double x, double y) const { return lines->mapToScene(QPointF(x, y)).toPoint(); }
+    QString lastLine() const { return lineAt(lines->height() - 4); }
+    void scrollUp(int notches)
+    {
+        for (int i = 0; i < notches; ++i) {
+            const QPointF at = inWindow(100, 100);
+            QWheelEvent event(at, stage->window()->mapToGlobal(at), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
+                              Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(stage->window(), &event);
+        }
+        stage->picture();
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QGuiApplication::setFont(QFont(QStringLiteral("Noto Sans")));
+        all = Scenes::log(2 * count + 100);
+    }
+
+    void init()
+    {
+        stage = std::make_unique<Stage>();
+        showNothing();
+        QVERIFY(stage->open(QStringLiteral("log/LogWindow.qml"),
+                            {{QStringLiteral("model"), QVariant::fromValue(&stage->lines)}}));
+        lines = stage->window()->findChild<QQuickItem *>(QStringLiteral("lines"));
+        QVERIFY(lines);
+        showFrom(0);
+    }
+    void showNothing() { stage->log.show(LogFeed::State::empty); }
+
+    void cleanup()
+    {
+        QCOMPARE(stage->warnings(), QStringList());
+        stage.reset();
+    }
+
+    void staysAtTheEndWhileLinesArrive()
+    {
+        QVERIFY(follows());
+        QCOMPARE(lastLine(), all[count - 1].raw);
+        for (int i = 1; i <= 5; ++i) {
+            showFrom(i);
+            QCOMPARE(lastLine(), all[static_cast<size_t>(count - 1 + i)].raw);
+        }
+    }
+
+    void staysAtTheEndWhenTheWindowChangesItsSize()
+    {
+        for (const QSize size : {QSize(640, 420), QSize(1200, 800), QSize(700, 500)}) {
+            stage->window()->resize(size);
+            stage->picture();
+            QCOMPARE(lastLine(), all[count - 1].raw);
+        }
+    }
+
+    void yieldsToAReaderWhoScrollsUp()
+    {
+        scrollUp(10);
+        QVERIFY(!follows());
+        const QString read = lineAt(100);
+        QVERIFY(!read.isEmpty());
+        // New lines at the end, and old ones that fall off the beginning, leave him where he is.
+        for (int i = 1; i <= 5; ++i) {
+            showFrom(20 * i);
+            QCOMPARE(lineAt(100), read);
+        }
+    }
+
+    void followsAgainAtTheEnd()
+    {
+        scrollUp(3);
+        QVERIFY(!follows());
+        lines->forceActiveFocus();
+        QTest::keyClick(stage->window(), Qt::Key_End);
+        QVERIFY(follows());
+        showFrom(7);
+        QCOMPARE(lastLine(), all[count + 6].raw);
+    }
+
+    void copiesWhatIsDraggedOver()
+    {
+        const QString first = lineAt(60);
+        const QString last = lineAt(160);
+        QVERIFY(first != last);
+        QTest::mousePress(stage->window(), Qt::LeftButton, {}, inWindow(200, 60));
+        QTest::mouseMove(stage->window(), inWindow(240, 120));
+        QTest::mouseMove(stage->window(), inWindow(240, 160));
+        QTest::mouseRelease(stage->window(), Qt::LeftButton, {}, inWindow(240, 160));
+        QTest::keyClick(stage->window(), Qt::Key_C, Qt::ControlModifier);
+        const QStringList copied = QGuiApplication::clipboard()->text().split(u'\n');
+        QVERIFY(copied.size() > 2);
+        QCOMPARE(copied.first(), first);
+        QCOMPARE(copied.last(), last);
+    }
+
+    void theSelectionStaysOnItsLines()
+    {
+        QTest::mouseClick(stage->window(), Qt::LeftButton, {}, inWindow(200, 60));
+        const QString chosen = lineAt(60);
+        showFrom(3);
+        QTest::keyClick(stage->window(), Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(), chosen);
+        // Another list altogether has nothing selected.
+        stage->lines.setSearch(QStringLiteral("Bootstrapped"));
+        stage->picture();
+        QCOMPARE(lines->property("anchor").toInt(), -1);
+    }
+
+    void selectsEverythingByKeyboard()
+    {
+        lines->forceActiveFocus();
+        QTest::keyClick(stage->window(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(stage->window(), Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text().count(u'\n'), count - 1);
+    }
+
+    void scrollsOnWhenASelectionIsDraggedOutOfIt()
+    {
+        scrollUp(20);
+        const QString before = lineAt(4);
+        QTest::mousePress(stage->window(), Qt::LeftButton, {}, inWindow(200, 60));
+        QTest::mouseMove(stage->window(), inWindow(200, -20));
+        QTRY_VERIFY(lineAt(4) != before);
+        QTest::mouseRelease(stage->window(), Qt::LeftButton, {}, inWindow(200, -20));
+        QVERIFY(!follows());
+    }
+};
+
+QTEST_MAIN(LogWindowTest)
+#include "LogWindowTest.moc"
