@@ -41,8 +41,9 @@ packages=(
     qt6-svg-dev qt6-l10n-tools qt6-declarative-dev-tools qml6-module-qtquick
     qml6-module-qtquick-templates qml6-module-qtquick-window qml6-module-qtquick-layouts
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
-    fonts-noto-core fonts-noto-mono fonts-noto-color-emoji xvfb
-    dpkg-dev lintian debootstrap appstream desktop-file-utils mandoc python3-gi
+    fonts-noto-core fonts-noto-mono fonts-noto-color-emoji
+    xvfb xauth xdotool openbox dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi python3-dbus
+    dpkg-dev lintian debootstrap appstream desktop-file-utils mandoc
 )
 
 missing_packages() {
