@@ -10,8 +10,8 @@ T.Button {
     required property int tone
     required property bool busy
     required property double progress // 0…1
-    // The ring that has filled stays round the button while all is as it should be.
-    readonly property bool closed: !busy && (tone === PanelModel.Good || tone === PanelModel.Info || tone === PanelModel.Accent)
+    // The ring that has filled stays round the button while what was promised has been seen to hold.
+    readonly property bool closed: !busy && (tone === PanelModel.Good || tone === PanelModel.Info)
 
     implicitWidth: 140
     implicitHeight: 140
