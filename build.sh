@@ -12,7 +12,6 @@ usage: ./build.sh VERB
   demo     show the whole thing on a private Tor network: no internet, nothing changed outside it
   test     every test: unit, helper, lab and a moment of each fuzzer
   asan     the unit tests under the address and undefined-behaviour sanitizers
-  tsan     the tests of what uses threads under the thread sanitizer
   coverage which lines of src/ the unit tests run
   fuzz     the fuzzers, an hour over all (--minutes M for another time)
   soak     500 connects and disconnects, and two hours of a fast clock, in the private Tor network
@@ -38,13 +37,13 @@ packages=(
     python3 openssl ca-certificates curl tcpdump shellcheck unzip netcat-openbsd openssh-client iputils-ping zsh dash
     libglib2.0-bin dconf-cli dconf-gsettings-backend gsettings-desktop-schemas dbus
     python3-stem nyx
-    clang libclang-rt-14-dev gcovr
+    clang libclang-rt-14-dev libobjc-12-dev gcovr
     qt6-svg-dev qt6-l10n-tools qt6-declarative-dev-tools qml6-module-qtquick
     qml6-module-qtquick-templates qml6-module-qtquick-window qml6-module-qtquick-layouts
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
-    clang libobjc-12-dev
-    fonts-noto-core fonts-noto-mono fonts-noto-color-emoji xvfb
-    dpkg-dev lintian debootstrap appstream desktop-file-utils mandoc bash-completion
+    fonts-noto-core fonts-noto-mono fonts-noto-color-emoji
+    xvfb xauth xdotool openbox dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi python3-dbus
+    dpkg-dev lintian debootstrap appstream desktop-file-utils mandoc
 )
 
 missing_packages() {
@@ -216,11 +215,6 @@ package-test)
     exec /usr/bin/python3 tests/package/test_debian.py build/veldmark_*.deb "$@"
     ;;
 dist) dist ;;
-tsan)
-    deps
-    compile tsan
-    ctest --preset tsan "$@"
-    ;;
 coverage)
     deps
     compile asan
