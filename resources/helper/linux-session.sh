@@ -8,10 +8,11 @@ ON_FAILURE=''   # "undo" while a failure must put everything back; empty before 
                 # kill switch stays closed
 UNDONE=''       # why an undo_... function failed
 
+# `command -v` also gives a file that nobody may run, when there is no other.
 need_programs() {
-  local program
+  local program path
   for program in "$@"; do
-    command -v "$program" >/dev/null || die "The program $program is missing on this system."
+    path=$(command -v "$program") && [[ -x $path ]] || die "The program $program is missing on this system."
   done
 }
 
@@ -57,6 +58,7 @@ linux_connect() {
   need_programs flock nft setpriv unshare setsid getent stat sync mount umount sha256sum timeout readlink
   take_lock
   trap finish EXIT
+  check_firewall
   ready_account
   ready_folders
   ready_programs
@@ -143,6 +145,8 @@ undo_session() {
   done
   [[ -z $open ]] || rm -f -- "$MARKER" "$RULES" "$LISTED"
   rm -f -- "$MARKER.new" "$RULES.new" "$LISTED.new" "$WATCHER" "$WATCHER.new" "$RELOCKED" "$RELOCKED.new" "$TORRC.checked" "$JOURNAL"/*.new
+  [[ -z $open || ! -e $MARKER ]] || reason=${reason:-"The network is open again, but the session marker cannot be removed from $STATE."}
+  [[ -n $reason || -z $(compgen -G "$JOURNAL/*") ]] || reason="The network is open again, but the journal in $JOURNAL cannot be cleared."
   UNDONE=$reason
   [[ -z $reason ]]
 }
