@@ -633,6 +633,10 @@
         <translation>Tor startet…</translation>
     </message>
     <message>
+        <source>Tor is waiting for the bridge program, which hasn't said that it is ready.</source>
+        <translation>Tor wartet auf das Brückenprogramm, das sich noch nicht bereit gemeldet hat.</translation>
+    </message>
+    <message>
         <source>Tor didn't finish connecting</source>
         <translation>Tor konnte sich nicht fertig verbinden</translation>
     </message>

@@ -20,7 +20,7 @@ QCoro::Task<void> raiseOther(std::shared_ptr<InstanceClient> client)
     const QJsonObject request{{QStringLiteral("command"), QStringLiteral("raise")}};
     const auto done = co_await client->run(request, [](const QJsonObject &) {});
     if (!done)
-        QTextStream(stderr) << "veldmark: " << done.error() << '\n';
+        QTextStream(stderr) << "veldmark: " << done.error().description() << '\n';
     QCoreApplication::exit(done ? 0 : 1);
 }
 

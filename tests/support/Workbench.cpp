@@ -115,6 +115,9 @@ void Workbench::restart()
     controlPort = std::make_unique<ControlPort>(socketClock, tor.port());
     privileged = std::make_unique<PrivilegedRunner>(profile, processes, ordinaryUser);
     settings = std::make_unique<SettingsStore>(profile);
+    const decltype(installTransports) install = [this](bool throughTor, TransportDownloader::Progress progress) {
+        return installTransports(throughTor, std::move(progress));
+    };
     m_controller = std::make_unique<TorController>(TorController::Services{
         .profile = profile,
         .settings = *settings,
@@ -133,6 +136,7 @@ void Workbench::restart()
         .bridgeProbe = [this](QString host, quint16 port, std::chrono::milliseconds limit) {
             return bridgeProbe(std::move(host), port, limit);
         },
+        .installTransports = withoutDownloader ? nullptr : install,
     });
     settle();
 }
@@ -147,11 +151,6 @@ void Workbench::disconnect()
 {
     const auto disconnecting = m_controller->disconnect();
     finished(disconnecting);
-}
-
-bool Workbench::finished(const QCoro::Task<void> &task)
-{
-    return until([&task] { return task.isReady(); });
 }
 
 bool Workbench::tick()
