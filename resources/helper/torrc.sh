@@ -41,6 +41,7 @@ tor_reason() {
     [[ -z $line ]] || last=$line
     case $line in
     *"Reading config failed"*) ;;
+    *"Failed to bind one of the listener ports"*) reason=${reason:-${line#*"] "}} ;;   # which one was said before
     *"[warn] "*) reason=${line#*"[warn] "} ;;
     *"[err] "*) reason=${line#*"[err] "} ;;
     esac

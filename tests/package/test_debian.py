@@ -195,12 +195,10 @@ class Installed(Case):
 
     def test_another_tor_on_the_port_is_named(self):
         """As Debian's own service, which starts when tor is installed."""
-        other = self.debian.popen(["tor", "-f", "/dev/null", "--SocksPort", "9050", "--DataDirectory", "/tmp/other"],
+        other = self.debian.popen(["tor", "-f", "/none", "--ignore-missing-torrc", "--SocksPort", "9050", "--DataDirectory", "/tmp/other"],
                                   stdout=subprocess.PIPE, text=True)
         try:
-            for line in other.stdout:
-                if "Opened Socks listener" in line:
-                    break
+            self.assertTrue(any("Opened Socks listener" in line for line in other.stdout))
             with self.product.session() as session:
                 state = session.wait(lambda s: s["errorMessage"])
                 self.assertRegex(state["errorMessage"], r"^Tor did not start: .*9050")
