@@ -38,6 +38,7 @@ tor_reason() {
   local line reason='' last=''
   while IFS= read -r line; do
     line=${line//[[:cntrl:]]/}
+    line=${line%" Is Tor already running?"}   # a message is a sentence, no question
     [[ -z $line ]] || last=$line
     case $line in
     *"Reading config failed"*) ;;
