@@ -8,7 +8,7 @@
         <translation>Veldmark</translation>
     </message>
     <message>
-        <source>Sends the whole computer's traffic through Tor, and shows honestly whether it does.</source>
+        <source>Sends the whole computer&apos;s traffic through Tor, and shows honestly whether it does.</source>
         <translation>Schickt den gesamten Verkehr des Computers durch Tor und zeigt ehrlich, ob das gelingt.</translation>
     </message>
     <message>
@@ -26,6 +26,10 @@
     <message>
         <source>Veldmark is free software and independent of the Tor Project. It contains no Tor: it runs the tor that is installed here, and where bridges are used lyrebird, snowflake-client or webtunnel-client. Its interface is made with Qt.</source>
         <translation>Veldmark ist freie Software und vom Tor-Projekt unabhängig. Es enthält kein Tor: Es startet das hier installierte tor und, wo Brücken benutzt werden, lyrebird, snowflake-client oder webtunnel-client. Die Oberfläche ist mit Qt gemacht.</translation>
+    </message>
+    <message>
+        <source>Homepage, downloads and updates</source>
+        <translation>Homepage, Downloads und Aktualisierungen</translation>
     </message>
 </context>
 <context>
@@ -105,7 +109,7 @@
         <translation>Lädt das offizielle Tor Expert Bundle vom Tor-Projekt, mit Brückenprogrammen und eingebauten Brücken</translation>
     </message>
     <message>
-        <source>Fetched over HTTPS and checked against the Tor Project's signature.</source>
+        <source>Fetched over HTTPS and checked against the Tor Project&apos;s signature.</source>
         <translation>Über HTTPS geladen und gegen die Signatur des Tor-Projekts geprüft.</translation>
     </message>
 </context>
@@ -126,6 +130,37 @@
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>ChooserWindow</name>
+    <message>
+        <source>App exceptions</source>
+        <translation>Ausnahmen für Apps</translation>
+    </message>
+    <message>
+        <source>Choose apps that may skip Tor in strict mode</source>
+        <translation>Wählen Sie Apps, die im strikten Modus Tor umgehen dürfen</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Installed applications</source>
+        <translation>Installierte Apps</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Other…</source>
+        <translation>Andere …</translation>
+    </message>
+    <message>
+        <source>Choose the .desktop file of an application that is not listed</source>
+        <translation>Die .desktop-Datei einer App wählen, die nicht aufgeführt ist</translation>
     </message>
 </context>
 <context>
@@ -170,7 +205,7 @@
         <translation>Schneller</translation>
     </message>
     <message>
-        <source>Time a request through Tor and get fresh circuits if it's slow</source>
+        <source>Time a request through Tor and get fresh circuits if it&apos;s slow</source>
         <translation>Misst eine Anfrage durch Tor und holt neue Kanäle, wenn sie langsam ist</translation>
     </message>
     <message>
@@ -322,7 +357,7 @@
         <translation>Einrichten…</translation>
     </message>
     <message>
-        <source>Setup asks for your admin password once. It installs a root-owned copy of Veldmark's helper and a rule in /etc/sudoers.d that lets your account run only that helper, so Connect and Disconnect stop asking. Turn it off any time.</source>
+        <source>Setup asks for your admin password once. It installs a root-owned copy of Veldmark&apos;s helper and a rule in /etc/sudoers.d that lets your account run only that helper, so Connect and Disconnect stop asking. Turn it off any time.</source>
         <translation>Das Einrichten fragt einmal nach Ihrem Administratorpasswort. Es legt eine Kopie von Veldmarks Hilfsprogramm an, die root gehört, und eine Regel in /etc/sudoers.d, die Ihrem Konto nur dieses Hilfsprogramm erlaubt; dann fragen Verbinden und Trennen nicht mehr. Sie können es jederzeit ausschalten.</translation>
     </message>
 </context>
@@ -382,15 +417,15 @@
 <context>
     <name>LoginItem</name>
     <message>
-        <source>Login items can't be changed here.</source>
+        <source>Login items can&apos;t be changed here.</source>
         <translation>Anmeldeobjekte lassen sich hier nicht ändern.</translation>
     </message>
     <message>
-        <source>Couldn't remove %1.</source>
+        <source>Couldn&apos;t remove %1.</source>
         <translation>%1 ließ sich nicht entfernen.</translation>
     </message>
     <message>
-        <source>Couldn't write %1: %2</source>
+        <source>Couldn&apos;t write %1: %2</source>
         <translation>%1 ließ sich nicht schreiben: %2</translation>
     </message>
 </context>
@@ -435,7 +470,7 @@
         <translation>Notschalter: alles sperren, was nicht Tor benutzt</translation>
     </message>
     <message>
-        <source>Blocks every connection that doesn't go through Tor, including UDP and IPv6. Apps that ignore proxy settings won't connect at all instead of leaking.</source>
+        <source>Blocks every connection that doesn&apos;t go through Tor, including UDP and IPv6. Apps that ignore proxy settings won&apos;t connect at all instead of leaking.</source>
         <translation>Sperrt jede Verbindung, die nicht durch Tor geht, auch UDP und IPv6. Apps, die Proxy-Einstellungen übergehen, verbinden sich gar nicht, statt etwas preiszugeben.</translation>
     </message>
     <message>
@@ -498,11 +533,11 @@
         <translation>Alles sehen, was Tor gemeldet hat</translation>
     </message>
     <message>
-        <source>Tor isn't installed. Install it with this command, then click Recheck.</source>
+        <source>Tor isn&apos;t installed. Install it with this command, then click Recheck.</source>
         <translation>Tor ist nicht installiert. Installieren Sie es mit diesem Befehl und klicken Sie dann auf Erneut prüfen.</translation>
     </message>
     <message>
-        <source>Tor isn't installed. Install it with %1, then click Recheck.</source>
+        <source>Tor isn&apos;t installed. Install it with %1, then click Recheck.</source>
         <translation>Tor ist nicht installiert. Installieren Sie es mit %1 und klicken Sie dann auf Erneut prüfen.</translation>
     </message>
     <message>
@@ -586,7 +621,7 @@
         <translation>Netzwerkeinstellungen wiederherstellen</translation>
     </message>
     <message>
-        <source>Veldmark's changes are active</source>
+        <source>Veldmark&apos;s changes are active</source>
         <translation>Veldmarks Änderungen sind aktiv</translation>
     </message>
     <message>
@@ -602,7 +637,7 @@
         <translation>Benutzen Sie dies, wenn Ihr Internet nach einem Absturz nicht geht. Es setzt DNS, Proxy und Firewall auf den früheren Stand und beendet Tor.</translation>
     </message>
     <message>
-        <source>If the app won't open</source>
+        <source>If the app won&apos;t open</source>
         <translation>Wenn die App nicht öffnet</translation>
     </message>
     <message>
@@ -641,7 +676,7 @@
         <translation>Tor startet…</translation>
     </message>
     <message>
-        <source>Tor didn't finish connecting</source>
+        <source>Tor didn&apos;t finish connecting</source>
         <translation>Tor konnte sich nicht fertig verbinden</translation>
     </message>
     <message>
@@ -661,7 +696,7 @@
         <translation>Tor läuft nicht mehr. Der Notschalter sperrt weiter, also ist nichts nach außen gelangt. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um online zu gehen.</translation>
     </message>
     <message>
-        <source>Tor stopped running. Apps using the proxy can't connect until you reconnect or Restore Network.</source>
+        <source>Tor stopped running. Apps using the proxy can&apos;t connect until you reconnect or Restore Network.</source>
         <translation>Tor läuft nicht mehr. Apps, die den Proxy benutzen, verbinden sich erst wieder, wenn Sie neu verbinden oder das Netzwerk wiederherstellen.</translation>
     </message>
     <message>
@@ -737,7 +772,7 @@
         <translation>DNS: Eine Testabfrage ging durch Tor.</translation>
     </message>
     <message>
-        <source>DNS: settings point at Tor, but a test lookup couldn't be confirmed.</source>
+        <source>DNS: settings point at Tor, but a test lookup couldn&apos;t be confirmed.</source>
         <translation>DNS: Die Einstellungen zeigen auf Tor, aber eine Testabfrage ließ sich nicht bestätigen.</translation>
     </message>
     <message>
@@ -755,6 +790,102 @@
     <message>
         <source>on this Mac</source>
         <translation>auf diesem Mac</translation>
+    </message>
+    <message>
+        <source>Tor stopped running, and your network is no longer set up for it.</source>
+        <translation>Tor läuft nicht mehr, und Ihr Netzwerk ist nicht mehr dafür eingerichtet.</translation>
+    </message>
+    <message>
+        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
+        <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt; sie stehen wieder.</translation>
+    </message>
+    <message>
+        <source>Another program removed Veldmark&apos;s firewall rules and they could not be put back. Traffic may leave this computer directly. Disconnect and connect again.</source>
+        <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt, und sie ließen sich nicht wiederherstellen. Daten können diesen Computer direkt verlassen. Trennen Sie und verbinden Sie neu.</translation>
+    </message>
+    <message>
+        <source>Invalid exit country.</source>
+        <translation>Ungültiges Ausgangsland.</translation>
+    </message>
+    <message>
+        <source>The settings couldn&apos;t be saved. Changes to them may last only until you quit.</source>
+        <translation>Die Einstellungen konnten nicht gespeichert werden. Änderungen gelten vielleicht nur bis zum Beenden.</translation>
+    </message>
+    <message>
+        <source>Checking latest version…</source>
+        <translation>Neueste Version wird gesucht …</translation>
+    </message>
+    <message>
+        <source>Verifying signature…</source>
+        <translation>Signatur wird geprüft …</translation>
+    </message>
+    <message>
+        <source>Another download is under way.</source>
+        <translation>Es läuft schon ein anderer Download.</translation>
+    </message>
+    <message>
+        <source>Path not responding, finding another…</source>
+        <translation>Der Weg antwortet nicht, ein anderer wird gesucht …</translation>
+    </message>
+    <message>
+        <source>Tor didn&apos;t finish connecting within 5 minutes.</source>
+        <translation>Tor hat die Verbindung nicht innerhalb von 5 Minuten aufgebaut.</translation>
+    </message>
+    <message>
+        <source>Administrator access was refused.</source>
+        <translation>Der Administratorzugriff wurde verweigert.</translation>
+    </message>
+    <message>
+        <source>Setup ran but the helper wasn&apos;t installed. Try again.</source>
+        <translation>Die Einrichtung lief, aber das Hilfsprogramm wurde nicht installiert. Versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The helper failed without an error message.</source>
+        <translation>Das Hilfsprogramm ist ohne Fehlermeldung gescheitert.</translation>
+    </message>
+    <message>
+        <source>Add at least one bridge under Bridges → Custom….</source>
+        <translation>Tragen Sie unter Brücken → Eigene… mindestens eine Brücke ein.</translation>
+    </message>
+    <message>
+        <source>+%1 more</source>
+        <translation>+%1 weitere</translation>
+    </message>
+    <message>
+        <source>Testing %1 bridges…</source>
+        <translation>%1 Brücken werden getestet …</translation>
+    </message>
+    <message>
+        <source>Testing speed (%1 of %2)…</source>
+        <translation>Geschwindigkeit wird getestet (%1 von %2) …</translation>
+    </message>
+    <message>
+        <source>Slow path (%1 ms), finding a faster one…</source>
+        <translation>Langsamer Weg (%1 ms), ein schnellerer wird gesucht …</translation>
+    </message>
+    <message>
+        <source>Downloading Tor %1 bridge programs…</source>
+        <translation>Brückenprogramme von Tor %1 werden geladen …</translation>
+    </message>
+    <message>
+        <source>Download of %1 failed (HTTP %2).</source>
+        <translation>Der Download von %1 ist gescheitert (HTTP %2).</translation>
+    </message>
+    <message>
+        <source>The settings file couldn&apos;t be read. It was kept as %1, and a new one is used.</source>
+        <translation>Die Einstellungsdatei konnte nicht gelesen werden. Sie wurde als %1 aufgehoben, und eine neue wird benutzt.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 can&apos;t be read or replaced. Changes to the settings last until you quit.</source>
+        <translation>Die Einstellungsdatei %1 kann weder gelesen noch ersetzt werden. Änderungen gelten bis zum Beenden.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t open %1 without Tor: %2</source>
+        <translation>%1 konnte nicht ohne Tor geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 Your network is still pointed at Tor. Click Restore Network to undo.</source>
+        <translation>%1 Ihr Netzwerk ist noch auf Tor eingestellt. Klicken Sie auf „Netzwerk wiederherstellen“, um das rückgängig zu machen.</translation>
     </message>
 </context>
 <context>
@@ -864,6 +995,12 @@
         <source>Connect at once.</source>
         <translation>Sofort verbinden.</translation>
     </message>
+    <message>
+        <source>Your network is still set up for Tor. To restore it without Veldmark, run:
+%1</source>
+        <translation>Ihr Netzwerk ist noch für Tor eingerichtet. Um es ohne Veldmark wiederherzustellen, führen Sie aus:
+%1</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Alerts</name>
@@ -882,6 +1019,18 @@
     <message>
         <source>Your real address can be seen. Open Veldmark to see what to do.</source>
         <translation>Ihre echte Adresse ist sichtbar. Öffnen Sie Veldmark, um zu sehen, was zu tun ist.</translation>
+    </message>
+    <message>
+        <source>Firewall rules were removed</source>
+        <translation>Firewall-Regeln wurden entfernt</translation>
+    </message>
+    <message>
+        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
+        <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt; sie stehen wieder.</translation>
+    </message>
+    <message>
+        <source>Another program removed Veldmark&apos;s firewall rules and they could not be put back. Open Veldmark, disconnect and connect again.</source>
+        <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt, und sie ließen sich nicht wiederherstellen. Öffnen Sie Veldmark, trennen Sie und verbinden Sie neu.</translation>
     </message>
 </context>
 <context>
@@ -907,6 +1056,25 @@
     <message>
         <source>Open Veldmark again to see its window.</source>
         <translation>Öffnen Sie Veldmark erneut, um das Fenster zu sehen.</translation>
+    </message>
+    <message>
+        <source>Your network is still set up for Tor</source>
+        <translation>Ihr Netzwerk ist noch für Tor eingerichtet</translation>
+    </message>
+    <message>
+        <source>Veldmark was told to end and could not restore it. Open Veldmark again to do so.</source>
+        <translation>Veldmark sollte enden und konnte es nicht wiederherstellen. Öffnen Sie Veldmark erneut, um das zu tun.</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::ApplicationChoices</name>
+    <message>
+        <source>No installed applications were found.</source>
+        <translation>Es wurden keine installierten Apps gefunden.</translation>
+    </message>
+    <message>
+        <source>No application is called “%1”.</source>
+        <translation>Keine App heißt „%1“.</translation>
     </message>
 </context>
 <context>
@@ -1018,7 +1186,7 @@
         <translation>Hier schreibt Tor, während es sich verbindet und läuft</translation>
     </message>
     <message>
-        <source>Can't read the log files</source>
+        <source>Can&apos;t read the log files</source>
         <translation>Die Protokolldateien sind nicht lesbar</translation>
     </message>
     <message>
@@ -1038,7 +1206,7 @@
         <translation>Probleme (%1)</translation>
     </message>
     <message>
-        <source>Can't read Tor's log</source>
+        <source>Can&apos;t read Tor&apos;s log</source>
         <translation>Tors Protokoll ist nicht lesbar</translation>
     </message>
     <message>
@@ -1054,11 +1222,11 @@
         <translation>Nichts passt</translation>
     </message>
     <message>
-        <source>The log files in %1 aren't readable by your account. Reconnect once with this version of Veldmark to fix their permissions.</source>
+        <source>The log files in %1 aren&apos;t readable by your account. Reconnect once with this version of Veldmark to fix their permissions.</source>
         <translation>Ihr Konto darf die Protokolldateien in %1 nicht lesen. Verbinden Sie sich mit dieser Version von Veldmark einmal neu, um ihre Rechte zu berichtigen.</translation>
     </message>
     <message>
-        <source>Connect, and Tor's messages appear here as it starts. If Tor fails to start, the reason shows up here.</source>
+        <source>Connect, and Tor&apos;s messages appear here as it starts. If Tor fails to start, the reason shows up here.</source>
         <translation>Verbinden Sie sich, dann erscheinen hier Tors Meldungen beim Start. Startet Tor nicht, steht hier der Grund.</translation>
     </message>
     <message>
@@ -1077,7 +1245,7 @@
 <context>
     <name>veldmark::OptionsModel</name>
     <message>
-        <source>Choosing a country means fewer exit relays, so it's slower and you're easier to single out.</source>
+        <source>Choosing a country means fewer exit relays, so it&apos;s slower and you&apos;re easier to single out.</source>
         <translation>Mit einem Land bleiben weniger Ausgangsrelais: Es wird langsamer, und Sie fallen leichter auf.</translation>
     </message>
     <message>
@@ -1212,7 +1380,7 @@
         <translation>Zum Trennen klicken</translation>
     </message>
     <message>
-        <source>Tor hasn't reported progress for a while. It is still trying; a slow or blocked network is the usual reason.</source>
+        <source>Tor hasn&apos;t reported progress for a while. It is still trying; a slow or blocked network is the usual reason.</source>
         <translation>Tor meldet seit einer Weile keinen Fortschritt. Es versucht es weiter; meist ist das Netz langsam oder gesperrt.</translation>
     </message>
     <message>
@@ -1336,6 +1504,13 @@
     </message>
 </context>
 <context>
+    <name>veldmark::ShutdownNotice</name>
+    <message>
+        <source>Restoring your network settings</source>
+        <translation>Netzwerkeinstellungen werden wiederhergestellt</translation>
+    </message>
+</context>
+<context>
     <name>veldmark::Tray</name>
     <message>
         <source>Open Veldmark</source>
@@ -1357,8 +1532,8 @@
         <translation>Wählen Sie Apps, die im strikten Modus Tor umgehen dürfen</translation>
     </message>
     <message>
-        <source>Applications (*.desktop)</source>
-        <translation>Anwendungen (*.desktop)</translation>
+        <source>Applications</source>
+        <translation>Apps</translation>
     </message>
 </context>
 </TS>

@@ -4,8 +4,8 @@
 
 namespace veldmark {
 
-// Tells the desktop when protection is lost: Tor died, traffic or look-ups can leave around it.
-// Never for anything that the user has asked for. Main thread.
+// Tells the desktop when protection is lost: Tor died, traffic or look-ups can leave around it,
+// somebody removed the firewall's rules. Never for anything that the user has asked for. Main thread.
 class Alerts : public QObject {
     Q_OBJECT
 
@@ -21,6 +21,7 @@ Q_SIGNALS:
 
 private:
     void look();
+    void onRulesRemoved(bool putBack);
 
     Session &m_session;
     Phase m_phase;

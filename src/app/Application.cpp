@@ -4,18 +4,22 @@
 #include "controller/TorController.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QMessageBox>
 #include <QPointer>
+#include <QTextStream>
 
 namespace veldmark {
 
 Application::Application(const PlatformProfile &profile)
     : m_production(profile)
-    , m_session(m_production.controller(), m_production.settings())
+    , m_session(m_production.controller(), m_production.settings(), m_production.applications())
     , m_log(std::make_unique<FileLog>(m_production.controller().profile()))
-    , m_windows(m_session, *m_log)
+    , m_windows(m_session, *m_log, m_production.settings())
     , m_guard(m_production.controller(), m_windows)
     , m_alerts(m_session)
+    , m_departure(m_production.controller(), m_clock)
+    , m_shutdown(QDBusConnection::systemBus())
 {
     QObject::connect(&m_windows, &Windows::quitWanted, &m_guard, &QuitGuard::quit);
     QObject::connect(&m_windows, &Windows::mainClosed, this, &Application::onMainClosed);
@@ -28,6 +32,49 @@ Application::Application(const PlatformProfile &profile)
                                  "without Veldmark, run:\n%1\n\n%2")
                                   .arg(m_production.controller().profile().manualRestoreCommand, reason));
     });
+    joinDeparture();
+}
+
+void Application::joinDeparture()
+{
+    QObject::connect(&m_departure, &Departure::mayEnd, this, &Application::leave);
+    QObject::connect(&m_signals, &SignalWatcher::received, &m_departure, &Departure::onSignal);
+    qApp->installEventFilter(this);
+    QObject::connect(&m_shutdown, &ShutdownNotice::shuttingDown, &m_departure, &Departure::restore);
+    QObject::connect(&m_departure, &Departure::settled, &m_shutdown, [this] { m_shutdown.setDelaying(false); });
+    QObject::connect(&m_production.controller(), &TorController::phaseChanged, &m_shutdown, [this] {
+        m_shutdown.setDelaying(m_production.controller().phase() != ConnectionPhase::disconnected);
+    });
+}
+
+bool Application::eventFilter(QObject *watched, QEvent *event)
+{
+    // Nothing here asks Qt to quit: this is the desktop's word. (The request to save what is open,
+    // which comes before, may belong to a logout that is called off, or to none.)
+    if (watched != qApp || event->type() != QEvent::Quit)
+        return QObject::eventFilter(watched, event);
+    event->ignore();
+    if (m_production.controller().profile().quitCanBeRefused)
+        m_guard.quit();
+    else
+        m_departure.leave();
+    return true;
+}
+
+void Application::leave(bool restored)
+{
+    const TorController &controller = m_production.controller();
+    const bool left = !restored && controller.isSessionMarkerPresent();
+    if (left) {
+        QTextStream errors(stderr);
+        if (const auto reason = controller.errorMessage())
+            errors << "veldmark: " << *reason << '\n';
+        errors << "veldmark: The network is still set up for Tor. Restore it with: "
+               << controller.profile().manualRestoreCommand << '\n';
+        m_alerts.tell(tr("Your network is still set up for Tor"),
+                      tr("Veldmark was told to end and could not restore it. Open Veldmark again to do so."));
+    }
+    QMetaObject::invokeMethod(qApp, [left] { QCoreApplication::exit(left ? 1 : 0); }, Qt::QueuedConnection);
 }
 
 Result<void, QString> Application::start(bool hidden, bool connectNow)

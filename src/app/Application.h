@@ -2,16 +2,20 @@
 
 #include "app/Alerts.h"
 #include "app/ControllerSession.h"
+#include "app/Departure.h"
 #include "app/QuitGuard.h"
+#include "app/ShutdownNotice.h"
 #include "app/Tray.h"
 #include "app/Windows.h"
+#include "base/Clock.h"
 #include "controller/Production.h"
 #include "instance/InstanceServer.h"
+#include "system/SignalWatcher.h"
 
 namespace veldmark {
 
 // The running desktop application: builds everything once, starts the session, and joins windows,
-// tray and quit guard. Main thread.
+// tray, quit guard and the ways in which it can be told to end. Main thread.
 class Application : public QObject {
     Q_OBJECT
 
@@ -22,9 +26,14 @@ public:
     // settings say so. The error is one line.
     Result<void, QString> start(bool hidden, bool connectNow);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     QCoro::Task<void> begin(bool connectNow);
     void onMainClosed();
+    void joinDeparture();
+    void leave(bool restored);
 
     Production m_production;
     ControllerSession m_session;
@@ -32,6 +41,10 @@ private:
     Windows m_windows;
     QuitGuard m_guard;
     Alerts m_alerts;
+    SystemClock m_clock;
+    Departure m_departure;
+    SignalWatcher m_signals;
+    ShutdownNotice m_shutdown;
     std::unique_ptr<Tray> m_tray; // where there is a tray
     std::unique_ptr<InstanceServer> m_server;
 };

@@ -62,8 +62,9 @@ Lookups lookupsOf(const DNSStatus &status)
 
 } // namespace
 
-ControllerSession::ControllerSession(TorController &controller, SettingsStore &settings)
-    : Session(controller.profile()), m_controller(controller), m_settings(settings)
+ControllerSession::ControllerSession(TorController &controller, SettingsStore &settings,
+                                     RunningApplications &applications)
+    : Session(controller.profile()), m_controller(controller), m_settings(settings), m_applications(applications)
 {
     using C = TorController;
     for (const auto changed :
@@ -79,6 +80,7 @@ ControllerSession::ControllerSession(TorController &controller, SettingsStore &s
           &C::transportDownloadChanged, &C::passwordlessInstalledChanged, &C::startupErrorChanged,
           &C::terminalErrorChanged})
         QObject::connect(&controller, changed, this, &ControllerSession::schedule);
+    QObject::connect(&controller, &C::rulesRemoved, this, &Session::rulesRemoved);
     read();
 }
 
@@ -106,18 +108,21 @@ void ControllerSession::read()
     if (const auto problem = m_settings.problem())
         m_notice = problem;
     next.errorMessage = c.errorMessage() ? c.errorMessage() : m_notice;
-    next.bytesRead = c.bytesRead();
-    next.bytesWritten = c.bytesWritten();
-    next.exitIP = c.exitIP();
-    next.torVerified = c.torVerified();
-    next.leak = leakOf(c.leakStatus());
-    next.lookups = lookupsOf(c.dnsStatus());
-    next.isChecking = c.isChecking();
-    next.latencyMs = c.latencyMs();
-    next.optimizeStatus = c.optimizeStatus();
-    next.isOptimizing = c.isOptimizing();
-    next.circuits = c.circuits();
-    next.circuitError = c.circuitError();
+    // What was found out about a session is not true of what is left of it.
+    if (next.phase == Phase::connected) {
+        next.bytesRead = c.bytesRead();
+        next.bytesWritten = c.bytesWritten();
+        next.exitIP = c.exitIP();
+        next.torVerified = c.torVerified();
+        next.leak = leakOf(c.leakStatus());
+        next.lookups = lookupsOf(c.dnsStatus());
+        next.isChecking = c.isChecking();
+        next.latencyMs = c.latencyMs();
+        next.optimizeStatus = c.optimizeStatus();
+        next.isOptimizing = c.isOptimizing();
+        next.circuits = c.circuits();
+        next.circuitError = c.circuitError();
+    }
     next.transports = c.transports();
     next.transportDownload = c.transportDownload();
     next.canDownloadTransports = c.canDownloadTransports();
@@ -249,6 +254,16 @@ void ControllerSession::setOpenAtLogin(bool on)
     if (const auto done = LoginItem(profile()).set(on); !done)
         m_notice = done.error();
     schedule();
+}
+
+void ControllerSession::addBypassApp(const QString &application)
+{
+    m_controller.addBypassApp(application);
+}
+
+void ControllerSession::removeBypassApp(const QString &application)
+{
+    m_controller.removeBypassApp(application);
 }
 
 void ControllerSession::launchBypassed(const QString &path)

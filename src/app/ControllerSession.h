@@ -13,10 +13,12 @@ class ControllerSession final : public Session {
     Q_OBJECT
 
 public:
-    // Both must outlive the session.
-    ControllerSession(TorController &controller, SettingsStore &settings);
+    // All must outlive the session.
+    ControllerSession(TorController &controller, SettingsStore &settings, RunningApplications &applications);
 
     std::vector<ExitChoice> exitChoices() const override;
+    std::vector<InstalledApplication> installedApplications() const override { return m_applications.installed(); }
+    QString applicationName(const QString &path) const override { return m_applications.displayName(path); }
     void store(const Choices &choices) override;
     void connectToTor() override;
     void disconnectFromTor() override;
@@ -34,6 +36,8 @@ public:
     void removePasswordless() override;
     void removeTerminalIntegration() override;
     void setOpenAtLogin(bool on) override;
+    void addBypassApp(const QString &application) override;
+    void removeBypassApp(const QString &application) override;
     void launchBypassed(const QString &application) override;
 
 private:
@@ -42,6 +46,7 @@ private:
 
     TorController &m_controller;
     SettingsStore &m_settings;
+    RunningApplications &m_applications;
     bool m_scheduled = false;
     QString m_terminalHint;          // asked when terminal mode is switched on
     bool m_terminalModeWasOn = false;

@@ -34,7 +34,7 @@ private:
 
     PanelModel m_panel;
     QMenu m_menu;
-    QSystemTrayIcon m_icon;
+    QSystemTrayIcon m_icon{this};
     QAction *m_power = nullptr;
     QString m_shown; // symbol and ground of the icon in place
 };

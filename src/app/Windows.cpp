@@ -1,10 +1,9 @@
 #include "app/Windows.h"
 
+#include "app/Activation.h"
 #include "ui/Module.h"
 #include "ui/Symbols.h"
 
-#include <QDir>
-#include <QFileDialog>
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QScreen>
@@ -13,15 +12,35 @@
 
 namespace veldmark {
 
-Windows::Windows(Session &session, LogFeed &log)
+Windows::Windows(Session &session, LogFeed &log, SettingsStore &settings)
     : m_session(session)
     , m_panel(session)
     , m_options(session)
     , m_settings(session)
     , m_circuits(session)
     , m_log(log, session.profile())
+    , m_choices(session)
+    , m_places(settings)
+    , m_torChooser(QDBusConnection::sessionBus())
+    , m_entryChooser(QDBusConnection::sessionBus())
 {
     prepareEngine(m_engine);
+    QObject::connect(&m_torChooser, &FileChooser::chosen, &m_settings, [this](const QStringList &files) {
+        m_settings.chooseTor(QUrl::fromLocalFile(files.first()));
+    });
+    QObject::connect(&m_entryChooser, &FileChooser::chosen, &m_session, [this](const QStringList &files) {
+        for (const QString &file : files)
+            m_session.addBypassApp(file);
+    });
+}
+
+Windows::~Windows()
+{
+    for (const auto &[name, window] : m_windows) {
+        window->disconnect(this); // that they go now is nobody's doing
+        if (window->isVisible())
+            keepPlace(name, window.get());
+    }
 }
 
 std::unique_ptr<QQuickWindow> Windows::make(const QString &file, const QVariantMap &properties)
@@ -55,6 +74,7 @@ bool Windows::ensure(const QString &name)
         {QStringLiteral("circuits"), {QStringLiteral("circuits/CircuitsWindow.qml"), with(&m_circuits)}},
         {QStringLiteral("log"), {QStringLiteral("log/LogWindow.qml"), with(&m_log)}},
         {QStringLiteral("settings"), {QStringLiteral("settings/SettingsWindow.qml"), with(&m_settings)}},
+        {QStringLiteral("chooser"), {QStringLiteral("chooser/ChooserWindow.qml"), with(&m_choices)}},
     };
     const auto recipe = recipes.find(name);
     if (recipe == recipes.end())
@@ -73,19 +93,38 @@ bool Windows::ensure(const QString &name)
     }
     if (name == QLatin1String("settings"))
         QObject::connect(shown, SIGNAL(torChooserWanted()), this, SLOT(chooseTor()));
-    QObject::connect(shown, &QWindow::visibleChanged, this, [this, name, hasPanel](bool visible) {
-        if (visible)
-            return;
-        if (name == QLatin1String("main"))
-            Q_EMIT mainClosed();
-        if (!hasPanel) // queued: the window is still in its own signal
-            QMetaObject::invokeMethod(this, [this, name] {
-                const auto at = m_windows.find(name);
-                if (at != m_windows.end() && !at->second->isVisible())
-                    m_windows.erase(at);
-            }, Qt::QueuedConnection);
+    if (name == QLatin1String("chooser"))
+        QObject::connect(shown, SIGNAL(fileWanted()), this, SLOT(chooseEntries()));
+    if (name != QLatin1String("panel")) // which stands where the tray is
+        m_places.remember(name, shown,
+                          hasPanel ? WindowPlaces::Height::ownedByContent : WindowPlaces::Height::remembered);
+    // A close is still asked of a window that has its place; when it is invisible, that is gone.
+    QObject::connect(shown, &QQuickWindow::closing, this, [this, name, shown] { keepPlace(name, shown); });
+    QObject::connect(shown, &QWindow::visibleChanged, this, [this, name](bool visible) {
+        if (!visible)
+            onHidden(name);
     });
     return true;
+}
+
+void Windows::keepPlace(const QString &name, const QQuickWindow *window)
+{
+    if (name != QLatin1String("panel"))
+        m_places.keep(name, window);
+}
+
+void Windows::onHidden(const QString &name)
+{
+    if (name == QLatin1String("main"))
+        Q_EMIT mainClosed();
+    if (name == QLatin1String("main") || name == QLatin1String("panel"))
+        return;
+    // Queued: the window is still in its own signal.
+    QMetaObject::invokeMethod(this, [this, name] {
+        const auto at = m_windows.find(name);
+        if (at != m_windows.end() && !at->second->isVisible())
+            m_windows.erase(at);
+    }, Qt::QueuedConnection);
 }
 
 bool Windows::open(const QString &name)
@@ -98,6 +137,7 @@ bool Windows::open(const QString &name)
     window->show();
     window->raise();
     window->requestActivate();
+    comeToFront();
     return true;
 }
 
@@ -121,6 +161,7 @@ void Windows::togglePanel(const QRect &anchor)
     panel->show();
     panel->raise();
     panel->requestActivate();
+    comeToFront();
 }
 
 QQuickWindow *Windows::find(const QString &name) const
@@ -131,29 +172,26 @@ QQuickWindow *Windows::find(const QString &name) const
 
 void Windows::chooseTor()
 {
-    auto *dialog = new QFileDialog(nullptr, tr("Select the tor executable"), m_settings.torFolder().toLocalFile());
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setFileMode(QFileDialog::ExistingFile);
-    QObject::connect(dialog, &QFileDialog::fileSelected, &m_settings,
-                     [this](const QString &file) { m_settings.chooseTor(QUrl::fromLocalFile(file)); });
-    dialog->open();
+    m_torChooser.ask({.title = tr("Select the tor executable"), .folder = m_settings.torFolder().toLocalFile()});
 }
 
 void Windows::chooseApplications()
 {
-    const bool mac = m_session.profile().name == QLatin1String("macos");
-    auto *dialog = new QFileDialog(nullptr, tr("Choose apps that may skip Tor in strict mode"),
-                                   mac ? QStringLiteral("/Applications")
-                                       : QStringLiteral("/usr/share/applications"));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setFileMode(QFileDialog::ExistingFiles);
-    if (!mac)
-        dialog->setNameFilter(tr("Applications (*.desktop)"));
-    QObject::connect(dialog, &QFileDialog::filesSelected, &m_options, [this](const QStringList &files) {
-        for (const QString &file : files)
-            m_options.addApplication(file);
-    });
-    dialog->open();
+    if (m_session.profile().applicationSuffix == QLatin1String(".desktop"))
+        open(QStringLiteral("chooser"));
+    else
+        chooseEntries();
+}
+
+void Windows::chooseEntries()
+{
+    const QString suffix = m_session.profile().applicationSuffix;
+    m_entryChooser.ask({.title = tr("Choose apps that may skip Tor in strict mode"),
+                        .folder = suffix == QLatin1String(".app") ? QStringLiteral("/Applications")
+                                                                  : QStringLiteral("/usr/share/applications"),
+                        .filterName = tr("Applications"),
+                        .filterPattern = u'*' + suffix,
+                        .several = true});
 }
 
 } // namespace veldmark

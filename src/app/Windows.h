@@ -1,5 +1,8 @@
 #pragma once
 
+#include "app/FileChooser.h"
+#include "app/WindowPlaces.h"
+#include "ui/ApplicationChoices.h"
 #include "ui/CircuitsModel.h"
 #include "ui/LogModel.h"
 #include "ui/OptionsModel.h"
@@ -14,15 +17,16 @@
 
 namespace veldmark {
 
-// The program's windows by name: "main", "panel", "circuits", "log", "settings". A window is made
+// The program's windows by name: "main", "panel", "circuits", "log", "settings", "chooser". A window is made
 // when it is first wanted; all but "main" and "panel" go when they are closed, so that a program
-// that only sits in the tray stays small. Main thread.
+// that only sits in the tray stays small. Where they stood is remembered. Main thread.
 class Windows : public QObject {
     Q_OBJECT
 
 public:
-    // Both must outlive the windows.
-    Windows(Session &session, LogFeed &log);
+    // All must outlive the windows.
+    Windows(Session &session, LogFeed &log, SettingsStore &settings);
+    ~Windows() override;
 
     // Shows and raises the window. False when it cannot be made; failed() tells why.
     bool open(const QString &name);
@@ -41,9 +45,12 @@ private Q_SLOTS:
     void onWindowWanted(const QString &name) { open(name); }
     void chooseTor();
     void chooseApplications();
+    void chooseEntries();
 
 private:
     bool ensure(const QString &name);
+    void onHidden(const QString &name);
+    void keepPlace(const QString &name, const QQuickWindow *window);
 
     Session &m_session;
     PanelModel m_panel;
@@ -51,6 +58,10 @@ private:
     SettingsModel m_settings;
     CircuitsModel m_circuits;
     LogModel m_log;
+    ApplicationChoices m_choices;
+    WindowPlaces m_places;
+    FileChooser m_torChooser;
+    FileChooser m_entryChooser;
     QQmlApplicationEngine m_engine;
     std::map<QString, std::unique_ptr<QQuickWindow>> m_windows; // before the engine goes
 };

@@ -1,10 +1,13 @@
+#include "app/Activation.h"
 #include "app/Application.h"
+#include "app/LastWords.h"
 
 #include "instance/InstanceClient.h"
 #include "ui/Symbols.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFile>
 #include <QLocale>
 #include <QMessageBox>
 #include <QTextStream>
@@ -37,6 +40,7 @@ int main(int argc, char **argv)
     application.setApplicationVersion(QStringLiteral(VELDMARK_VERSION));
     application.setDesktopFileName(QStringLiteral("veldmark"));
     application.setQuitOnLastWindowClosed(false);
+    becomeMenuBarProgram();
     application.setWindowIcon(QPixmap::fromImage(Symbols::image(QStringLiteral("veldmark"), 64, QColor(0x62, 0x36, 0xc9))));
 
     QTranslator translator;
@@ -62,10 +66,17 @@ int main(int argc, char **argv)
         return QApplication::exec();
     }
 
+    const LastWords lastWords(profile);
     Application program(profile);
     if (const auto started = program.start(parser.isSet(hidden), parser.isSet(connectNow)); !started) {
         QTextStream(stderr) << "veldmark: " << started.error() << '\n';
-        QMessageBox::critical(nullptr, QStringLiteral("Veldmark"), started.error());
+        QString text = started.error();
+        if (QFile::exists(profile.sessionMarker)) // what this start was perhaps meant to restore
+            text += u'\n'
+                + QCoreApplication::translate("main", "Your network is still set up for Tor. To restore it without "
+                                                      "Veldmark, run:\n%1")
+                      .arg(profile.manualRestoreCommand);
+        QMessageBox::critical(nullptr, QStringLiteral("Veldmark"), text);
         return 1;
     }
     return QApplication::exec();

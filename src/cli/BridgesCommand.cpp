@@ -7,9 +7,9 @@
 #include "bridges/TransportDownloader.h"
 #include "cli/Console.h"
 #include "cli/ProgressLine.h"
-#include "cli/SignalWatcher.h"
 #include "controller/Production.h"
 #include "instance/InstancePlace.h"
+#include "system/SignalWatcher.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -13,6 +13,7 @@ namespace veldmark {
 RunCommand::RunCommand(const PlatformProfile &profile, bool connectNow)
     : m_production(profile)
     , m_controller(m_production.controller())
+    , m_withdrawal(m_controller)
     , m_connectNow(connectNow)
     , m_progress(Console::isTerminal(), Console::width())
 {
@@ -27,8 +28,7 @@ RunCommand::RunCommand(const PlatformProfile &profile, bool connectNow)
     QObject::connect(&m_controller, &TorController::phaseChanged, this, [this] {
         m_restored |= m_controller.phase() == ConnectionPhase::disconnecting;
     });
-    for (const auto changed : {&TorController::phaseChanged, &TorController::canCancelChanged})
-        QObject::connect(&m_controller, changed, this, &RunCommand::stopWhenPossible, Qt::QueuedConnection);
+    QObject::connect(&m_withdrawal, &Withdrawal::finished, this, &RunCommand::onWithdrawn);
 }
 
 void RunCommand::start()
@@ -53,7 +53,7 @@ QCoro::Task<void> RunCommand::begin()
         co_await m_controller.connect();
     else
         co_await m_controller.autoConnectIfEnabled();
-    if (!self || m_stopWanted || m_restored) // somebody else has ended the attempt by a disconnect
+    if (!self || m_withdrawal.isUnderWay() || m_restored) // somebody else has ended the attempt by a disconnect
         co_return;
     if (m_connectNow && m_controller.phase() == ConnectionPhase::disconnected) {
         complain(m_controller.errorMessage().value_or(QStringLiteral("Cancelled.")));
@@ -68,53 +68,28 @@ QCoro::Task<void> RunCommand::begin()
 void RunCommand::onSignal(int number)
 {
     m_mustEnd |= number != SIGINT;
-    if (m_stopWanted) {
+    if (m_withdrawal.isUnderWay()) {
         say(QStringLiteral("Still restoring your network, one moment…"));
         return;
     }
-    m_stopWanted = true;
     if (m_controller.phase() == ConnectionPhase::connecting && !m_controller.canCancel())
         say(QStringLiteral("Stopping as soon as Tor has been started…"));
-    stopWhenPossible();
+    m_withdrawal.begin();
 }
 
-void RunCommand::stopWhenPossible()
+void RunCommand::onWithdrawn(bool restored)
 {
-    if (!m_stopWanted || m_stopping)
+    if (restored) {
+        finish(ExitStatus::done);
         return;
-    const ConnectionPhase phase = m_controller.phase();
-    const bool busy = phase == ConnectionPhase::disconnecting
-        || (phase == ConnectionPhase::connecting && !m_controller.canCancel());
-    if (busy)
-        return; // the next change of phase comes back here
-    if (phase == ConnectionPhase::disconnected)
-        finish(ExitStatus::done);
-    else
-        stop();
-}
-
-QCoro::Task<void> RunCommand::stop()
-{
-    const QPointer<RunCommand> self(this);
-    m_stopping = true;
-    Console::draw(m_progress.finish());
-    m_controller.dismissError();
-    co_await m_controller.disconnect();
-    if (!self)
-        co_return;
-    m_stopping = false;
-    if (m_controller.phase() == ConnectionPhase::disconnected) {
-        finish(ExitStatus::done);
-        co_return;
     }
     complain(m_controller.errorMessage().value_or(QStringLiteral("Cancelled.")));
     if (m_mustEnd) {
         complain(QStringLiteral("The network is still set up for Tor. Restore it with: ")
                  + m_controller.profile().manualRestoreCommand);
         finish(ExitStatus::failed);
-        co_return;
+        return;
     }
-    m_stopWanted = false;
     say(QStringLiteral("The network is still set up for Tor. Press Ctrl-C to try again."));
 }
 

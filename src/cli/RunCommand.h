@@ -2,9 +2,10 @@
 
 #include "cli/Arguments.h"
 #include "cli/ProgressLine.h"
-#include "cli/SignalWatcher.h"
 #include "controller/Production.h"
+#include "controller/Withdrawal.h"
 #include "instance/InstanceServer.h"
+#include "system/SignalWatcher.h"
 
 #include <QObject>
 
@@ -30,8 +31,7 @@ Q_SIGNALS:
 private:
     QCoro::Task<void> begin();
     void onSignal(int number);
-    void stopWhenPossible();
-    QCoro::Task<void> stop();
+    void onWithdrawn(bool restored);
     void finish(ExitStatus status);
     void showProgress();
     void showPhase();
@@ -40,6 +40,7 @@ private:
 
     Production m_production;
     TorController &m_controller;
+    Withdrawal m_withdrawal;
     const bool m_connectNow;
     std::unique_ptr<InstanceServer> m_server;
     SignalWatcher m_signals;
@@ -47,8 +48,6 @@ private:
     QString m_lastReport;
     ConnectionPhase m_lastPhase = ConnectionPhase::disconnected;
     bool m_restored = false; // a disconnect has begun since the start
-    bool m_stopWanted = false;
-    bool m_stopping = false;
     bool m_mustEnd = false; // asked by somebody who won't ask again: SIGTERM, SIGHUP
 };
 

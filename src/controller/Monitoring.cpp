@@ -86,10 +86,12 @@ void TorController::showRelock()
     if (notice.isEmpty() || notice == m_relockNotice)
         return;
     m_relockNotice = notice;
-    errorMessage = notice.startsWith("restored")
+    const bool putBack = notice.startsWith("restored");
+    errorMessage = putBack
         ? QStringLiteral("Another program removed Veldmark's firewall rules; they are back in place.")
         : QStringLiteral("Another program removed Veldmark's firewall rules and they could not be put back. Traffic "
                          "may leave this computer directly. Disconnect and connect again.");
+    Q_EMIT rulesRemoved(putBack);
 }
 
 void TorController::torDied()

@@ -25,6 +25,7 @@ public:
 
     TorController &controller() { return m_controller; }
     SettingsStore &settings() { return m_settings; }
+    RunningApplications &applications() { return *m_applications; }
     TransportDownloader &downloader() { return m_downloader; }
 
 private:

@@ -224,6 +224,8 @@ Q_SIGNALS:
     void passwordlessInstalledChanged();
     void startupErrorChanged();
     void terminalErrorChanged();
+    // Another program has removed the firewall's rules; `errorMessage` says what came of it.
+    void rulesRemoved(bool putBack);
 
 private:
     using Attempt = quint64;

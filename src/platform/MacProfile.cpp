@@ -55,6 +55,7 @@ PlatformProfile PlatformProfile::macos(const Places &places)
     profile.terminalDirectory = places.home + QStringLiteral("/.veldmark");
     profile.terminalMaker = QStringLiteral("Veldmark.app");
     profile.givesBackProxies = false; // the file has always been without
+    profile.quitCanBeRefused = true;
     profile.netcat = at("/usr/bin/nc");
     profile.sshDirectory = places.home + QStringLiteral("/.ssh");
     profile.resolverFile = at("/etc/resolv.conf");

@@ -48,6 +48,7 @@ struct PlatformProfile {
     QString fileManager;      // "Finder" / "the file manager"
     QString torInstallHint;   // the command, or "your package manager"
     QString torMissingText;   // a whole sentence for the error banner
+    QString homePage;         // of Veldmark; empty while it has none, and then nothing links to it
     QString manualRestoreCommand; // what a user types when the program does not open
 
     // The helper and what it leaves behind.
@@ -90,6 +91,7 @@ struct PlatformProfile {
     QStringList netcatCandidates;
     QString ncat;                     // asked when no netcat will do; empty: not asked
     QString resolverFile; // /etc/resolv.conf
+    bool quitCanBeRefused; // the system asks a program whether it may end; elsewhere it is told
     QString scutil;       // empty where resolvers are not read from it
     QString controlSocket; // local socket on which a running instance takes commands
 

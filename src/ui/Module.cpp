@@ -1,5 +1,6 @@
 #include "ui/Module.h"
 
+#include "ui/ApplicationChoices.h"
 #include "ui/Symbols.h"
 
 #include <QQmlEngine>
@@ -15,6 +16,7 @@ void prepareEngine(QQmlEngine &engine)
     qml_register_types_Veldmark();
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     engine.addImageProvider(QStringLiteral("symbol"), new SymbolProvider);
+    engine.addImageProvider(QStringLiteral("application"), new ApplicationIcons);
 }
 
 QUrl moduleFile(const QString &file)

@@ -3,9 +3,6 @@
 #include "bridges/BridgeLines.h"
 #include "ui/SessionTexts.h"
 
-#include <QFileInfo>
-#include <QRegularExpression>
-
 #include <algorithm>
 
 namespace veldmark {
@@ -184,31 +181,7 @@ bool OptionsModel::canLaunchBypassed() const
 
 QString OptionsModel::applicationName(const QString &path) const
 {
-    // A desktop entry knows its own name; a bundle is named by its folder.
-    static const QRegularExpression name(QStringLiteral("(?m)^Name=(.+)$"));
-    QFile entry(path);
-    if (path.endsWith(QLatin1String(".desktop")) && entry.open(QIODevice::ReadOnly)) {
-        const auto match = name.match(QString::fromUtf8(entry.read(65536)));
-        if (match.hasMatch())
-            return match.captured(1).trimmed();
-    }
-    return QFileInfo(path).completeBaseName();
-}
-
-void OptionsModel::addApplication(const QString &path)
-{
-    if (path.isEmpty() || choices().bypassApps.contains(path))
-        return;
-    Choices next = choices();
-    next.bypassApps << path;
-    m_session.store(next);
-}
-
-void OptionsModel::removeApplication(const QString &path)
-{
-    Choices next = choices();
-    next.bypassApps.removeAll(path);
-    m_session.store(next);
+    return m_session.applicationName(path);
 }
 
 } // namespace veldmark

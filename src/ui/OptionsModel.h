@@ -71,8 +71,7 @@ public:
     QString applicationCount() const;
     bool canLaunchBypassed() const;
     Q_INVOKABLE QString applicationName(const QString &path) const;
-    Q_INVOKABLE void addApplication(const QString &path);
-    Q_INVOKABLE void removeApplication(const QString &path);
+    Q_INVOKABLE void removeApplication(const QString &path) { m_session.removeBypassApp(path); }
     Q_INVOKABLE void launchBypassed(const QString &path) { m_session.launchBypassed(path); }
 
 Q_SIGNALS:

@@ -48,6 +48,11 @@ bool PanelModel::connected() const
     return m_session.now().phase == Phase::connected;
 }
 
+bool PanelModel::lookupsLeak() const
+{
+    return connected() && m_session.now().lookups.kind == Lookups::Kind::leak;
+}
+
 bool PanelModel::throughBridge() const
 {
     const Snapshot &now = m_session.now();
@@ -124,7 +129,7 @@ QString PanelModel::title() const
 
 QString PanelModel::detail() const
 {
-    if (connected() && lookupsLeak())
+    if (lookupsLeak())
         return tr("Lookups can go around Tor");
     if (connected() && tone() == Tone::Warning)
         return tr("All traffic is locked to Tor, but the exit could not be confirmed");

@@ -97,7 +97,7 @@ public:
     bool checking() const { return m_session.now().isChecking; }
     QString optimizeText() const;
 
-    bool lookupsLeak() const { return m_session.now().lookups.kind == Lookups::Kind::leak; }
+    bool lookupsLeak() const; // in the session that runs
     QStringList leakingResolvers() const;
     QString moreResolvers() const;
 

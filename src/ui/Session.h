@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/PlatformProfile.h"
+#include "platform/RunningApplications.h"
 #include "ui/Snapshot.h"
 
 #include <QObject>
@@ -28,6 +29,8 @@ public:
     const Snapshot &now() const { return m_now; }
     const PlatformProfile &profile() const { return m_profile; }
     virtual std::vector<ExitChoice> exitChoices() const = 0;
+    virtual std::vector<InstalledApplication> installedApplications() const = 0; // as there are now
+    virtual QString applicationName(const QString &path) const = 0;
 
     virtual void store(const Choices &choices) = 0;
     virtual void connectToTor() = 0;
@@ -46,11 +49,15 @@ public:
     virtual void removePasswordless() = 0;
     virtual void removeTerminalIntegration() = 0;
     virtual void setOpenAtLogin(bool on) = 0;
+    virtual void addBypassApp(const QString &application) = 0;
+    virtual void removeBypassApp(const QString &application) = 0;
     virtual void launchBypassed(const QString &application) = 0;
 
 Q_SIGNALS:
     // Once for any number of fields that changed together.
     void changed();
+    // Another program has removed the firewall's rules. A snapshot that says more comes after it.
+    void rulesRemoved(bool putBack);
 
 protected:
     Snapshot m_now;

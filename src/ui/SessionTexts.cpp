@@ -1,6 +1,9 @@
 #include "ui/SessionTexts.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
+
+#include <vector>
 
 namespace veldmark::SessionTexts {
 
@@ -23,6 +26,21 @@ namespace {
                                  "leaked. Reconnect, or Restore Network to go back online."),
     QT_TRANSLATE_NOOP("Session", "Tor stopped running. Apps using the proxy can't connect until you reconnect "
                                  "or Restore Network."),
+    QT_TRANSLATE_NOOP("Session", "Tor stopped running, and your network is no longer set up for it."),
+    QT_TRANSLATE_NOOP("Session", "Another program removed Veldmark's firewall rules; they are back in place."),
+    QT_TRANSLATE_NOOP("Session", "Another program removed Veldmark's firewall rules and they could not be put back. "
+                                 "Traffic may leave this computer directly. Disconnect and connect again."),
+    QT_TRANSLATE_NOOP("Session", "Invalid exit country."),
+    QT_TRANSLATE_NOOP("Session", "The settings couldn't be saved. Changes to them may last only until you quit."),
+    QT_TRANSLATE_NOOP("Session", "Checking latest version…"),
+    QT_TRANSLATE_NOOP("Session", "Verifying signature…"),
+    QT_TRANSLATE_NOOP("Session", "Another download is under way."),
+    QT_TRANSLATE_NOOP("Session", "Path not responding, finding another…"),
+    QT_TRANSLATE_NOOP("Session", "Tor didn't finish connecting within 5 minutes."),
+    QT_TRANSLATE_NOOP("Session", "Administrator access was refused."),
+    QT_TRANSLATE_NOOP("Session", "Setup ran but the helper wasn't installed. Try again."),
+    QT_TRANSLATE_NOOP("Session", "The helper failed without an error message."),
+    QT_TRANSLATE_NOOP("Session", "Add at least one bridge under Bridges → Custom…."),
     QT_TRANSLATE_NOOP("Session", "This computer"),
     QT_TRANSLATE_NOOP("Session", "This Mac"),
     QT_TRANSLATE_NOOP("Session", "on this computer"),
@@ -42,11 +60,59 @@ namespace {
     QT_TRANSLATE_NOOP("Session", "Singapore"),
 };
 
+// Those with a word or number of the moment in them; in every language in this order.
+constexpr const char *forms[] = {
+    QT_TRANSLATE_NOOP("Session", "+%1 more"),
+    QT_TRANSLATE_NOOP("Session", "Testing %1 bridges…"),
+    QT_TRANSLATE_NOOP("Session", "Testing speed (%1 of %2)…"),
+    QT_TRANSLATE_NOOP("Session", "Slow path (%1 ms), finding a faster one…"),
+    QT_TRANSLATE_NOOP("Session", "Downloading Tor %1 bridge programs…"),
+    QT_TRANSLATE_NOOP("Session", "Download of %1 failed (HTTP %2)."),
+    QT_TRANSLATE_NOOP("Session", "The settings file couldn't be read. It was kept as %1, and a new one is used."),
+    QT_TRANSLATE_NOOP("Session", "The settings file %1 can't be read or replaced. Changes to the settings last "
+                                 "until you quit."),
+    QT_TRANSLATE_NOOP("Session", "Couldn't open %1 without Tor: %2"),
+    QT_TRANSLATE_NOOP("Session", "%1 Your network is still pointed at Tor. Click Restore Network to undo."),
+};
+
+struct Form {
+    const char *source;
+    QRegularExpression pattern;
+};
+
+const std::vector<Form> &patterns()
+{
+    static const std::vector<Form> made = [] {
+        static const QRegularExpression place(QStringLiteral("%\\d"));
+        std::vector<Form> list;
+        for (const char *source : forms) {
+            QStringList parts = QString::fromUtf8(source).split(place);
+            for (QString &part : parts)
+                part = QRegularExpression::escape(part);
+            list.push_back({source, QRegularExpression(QRegularExpression::anchoredPattern(
+                                        parts.join(QStringLiteral("(.+?)"))))});
+        }
+        return list;
+    }();
+    return made;
+}
+
 } // namespace
 
 QString translated(const QString &sentence)
 {
-    return QCoreApplication::translate("Session", sentence.toUtf8().constData());
+    const QString whole = QCoreApplication::translate("Session", sentence.toUtf8().constData());
+    if (whole != sentence)
+        return whole;
+    for (const Form &form : patterns()) {
+        const auto match = form.pattern.match(sentence);
+        if (!match.hasMatch())
+            continue;
+        const QString text = QCoreApplication::translate("Session", form.source);
+        const QString first = translated(match.captured(1)); // may be a sentence of its own
+        return match.lastCapturedIndex() == 1 ? text.arg(first) : text.arg(first, match.captured(2));
+    }
+    return sentence;
 }
 
 QString bridgeName(BridgeChoice choice)

@@ -41,6 +41,7 @@ class SettingsModel : public QObject {
     Q_PROPERTY(bool canRestore READ canRestore NOTIFY changed)
     Q_PROPERTY(QString restoreCommand READ restoreCommand CONSTANT)
     Q_PROPERTY(QString version READ version CONSTANT)
+    Q_PROPERTY(QString homePage READ homePage CONSTANT)
 
 public:
     // `session` must outlive the model.
@@ -81,6 +82,7 @@ public:
     bool changesActive() const { return now().markerPresent; }
     bool canRestore() const;
     QString restoreCommand() const { return m_session.profile().manualRestoreCommand; }
+    QString homePage() const { return m_session.profile().homePage; } // empty: there is none
     QString version() const { return tr("Version %1").arg(QStringLiteral(VELDMARK_VERSION)); }
 
     Q_INVOKABLE void installPasswordless() { m_session.installPasswordless(); }

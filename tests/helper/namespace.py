@@ -209,7 +209,7 @@ class Machine:
             echo "# ports";     ss -Hltun | awk '{print $1, $5}' | sort
             echo "# etc";       find /etc /usr/local -newer /run/user -type f ! -path /etc/resolv.conf -exec md5sum {} + 2>/dev/null | sort -k2
             echo "# home";      find /home -printf '%p %y %m %U %l\n' | sort; find /home -type f -exec md5sum {} + | sort -k2
-            echo "# session";   ls -A /var/lib/veldmark/state /var/lib/veldmark/journal 2>/dev/null || true
+            echo "# session";   find /var/lib/veldmark/state /var/lib/veldmark/journal -mindepth 1 2>/dev/null | sort || true
         """)
 
 

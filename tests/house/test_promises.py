@@ -3,7 +3,8 @@
 
 usage: test_promises.py PROJECT
 
-A name is written `file: test_name` or `NameTest: slotName`, or is a test file's name alone.
+A name is written `file: test_name` or `NameTest: slotName`, or is a test file's name alone; with its folder
+(`helper/test_kill.py`) where files of several folders have that name.
 """
 
 import re
@@ -15,17 +16,20 @@ NAME = re.compile(r"`([\w/]+(?:\.py|Test))(?:: (\w+))?`")
 
 def main() -> int:
     project = Path(sys.argv[1])
-    files: dict[str, list[str]] = {}   # of one name there may be several
+    files: dict[str, list[Path]] = {}   # of one name there may be several
     for folder, pattern in (("tests", "*.py"), ("fuzz", "*.py"), ("tests", "*Test.cpp")):
         for path in (project / folder).rglob(pattern):
-            files.setdefault(path.name.removesuffix(".cpp"), []).append(path.read_text(encoding="utf-8"))
+            files.setdefault(path.name.removesuffix(".cpp"), []).append(path)
     promises = (project / "docs" / "security.md").read_text(encoding="utf-8")
     missing, found = [], 0
     for file, test in NAME.findall(promises):
-        texts = files.get(file.split("/")[-1], [])
-        if not texts:
+        named = file.split("/")
+        paths = [path for path in files.get(named[-1], []) if list(path.parts[-len(named):-1]) == named[:-1]]
+        if not paths:
             missing.append(f"there is no {file}")
-        elif test and not any(re.search(rf"\b(def|void) {test}\(", text) for text in texts):
+        elif len(paths) > 1:
+            missing.append(f"{file} may be any of {', '.join(str(path.relative_to(project)) for path in paths)}")
+        elif test and not re.search(rf"\b(def|void) {test}\(", paths[0].read_text(encoding="utf-8")):
             missing.append(f"{file} has no test {test}")
         else:
             found += 1

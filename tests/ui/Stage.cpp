@@ -49,6 +49,7 @@ Stage::Stage()
     , settings(session)
     , circuits(session)
     , lines(log, profile)
+    , choices(session)
 {
     prepareEngine(engine);
     if (const QString sources = qEnvironmentVariable("VELDMARK_QML"); !sources.isEmpty()) {
@@ -76,10 +77,16 @@ QQuickWindow *Stage::open(const QString &file, QVariantMap properties)
     QObject *made = component.isReady() ? component.createWithInitialProperties(properties) : nullptr;
     for (const QQmlError &error : component.errors())
         m_warnings << error.toString();
-    m_window.reset(qobject_cast<QQuickWindow *>(made));
+    show(qobject_cast<QQuickWindow *>(made));
+    return m_window.get();
+}
+
+bool Stage::show(QQuickWindow *window)
+{
+    m_window.reset(window);
     if (m_window)
         m_window->show();
-    return m_window.get();
+    return m_window != nullptr;
 }
 
 QImage Stage::picture()

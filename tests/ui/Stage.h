@@ -1,6 +1,7 @@
 #pragma once
 
 #include "StandInSession.h"
+#include "ui/ApplicationChoices.h"
 #include "ui/CircuitsModel.h"
 #include "ui/LogModel.h"
 #include "ui/OptionsModel.h"
@@ -24,6 +25,8 @@ public:
     // Loads the window of "NAME.qml" of the module; it replaces the one before. Null when the file
     // does not load.
     QQuickWindow *open(const QString &file, QVariantMap properties = {});
+    // Shows a window of the caller's own in its place. False when it is null.
+    bool show(QQuickWindow *window);
     QQuickWindow *window() { return m_window.get(); }
     // `flags`: countries are shown by their flags, which not every machine's fonts have, and not by letters.
     void setDark(bool dark, bool flags = false);
@@ -40,6 +43,7 @@ public:
     SettingsModel settings;
     CircuitsModel circuits;
     LogModel lines;
+    ApplicationChoices choices;
     QQmlApplicationEngine engine;
 
 private:

@@ -25,6 +25,19 @@ public:
                 {QStringLiteral("de"), QStringLiteral("Germany")},
                 {QStringLiteral("se"), QStringLiteral("Sweden")}};
     }
+    std::vector<InstalledApplication> installedApplications() const override
+    {
+        return {{QStringLiteral("/usr/share/applications/letters.desktop"), QStringLiteral("Letters"), {}},
+                {QStringLiteral("/usr/share/applications/games.desktop"), QStringLiteral("Games"), QStringLiteral("no-such-icon")},
+                {QStringLiteral("/usr/share/applications/bake.desktop"), QStringLiteral("bake"), {}}};
+    }
+    QString applicationName(const QString &path) const override
+    {
+        for (const InstalledApplication &application : installedApplications())
+            if (application.path == path)
+                return application.name;
+        return path.section(u'/', -1);
+    }
     void store(const Choices &choices) override
     {
         m_now.choices = choices;
@@ -52,6 +65,16 @@ public:
     void setOpenAtLogin(bool on) override
     {
         m_now.openAtLogin = on;
+        Q_EMIT changed();
+    }
+    void addBypassApp(const QString &application) override
+    {
+        m_now.choices.bypassApps << application;
+        Q_EMIT changed();
+    }
+    void removeBypassApp(const QString &application) override
+    {
+        m_now.choices.bypassApps.removeAll(application);
         Q_EMIT changed();
     }
     void launchBypassed(const QString &application) override

@@ -32,13 +32,40 @@ private Q_SLOTS:
         QCOMPARE(told.count(), 1);
     }
 
+    void tellsWhenTorDiesAndSomebodyElseHasRestored()
+    {
+        StandInSession session(profile);
+        Alerts alerts(session);
+        QSignalSpy told(&alerts, &Alerts::told);
+        session.show(inPhase(Phase::connected));
+        Snapshot ended = inPhase(Phase::disconnected);
+        ended.errorMessage = QStringLiteral("Tor stopped running, and your network is no longer set up for it.");
+        session.show(ended);
+        QCOMPARE(told.count(), 1);
+        QCOMPARE(told.at(0).at(1).toString(), *ended.errorMessage);
+    }
+
+    void tellsEachRemovalOfTheRules()
+    {
+        StandInSession session(profile);
+        Alerts alerts(session);
+        QSignalSpy told(&alerts, &Alerts::told);
+        session.show(inPhase(Phase::connected));
+        Q_EMIT session.rulesRemoved(true);
+        QCOMPARE(told.count(), 1);
+        QVERIFY(told.at(0).at(1).toString().contains(QStringLiteral("back in place")));
+        Q_EMIT session.rulesRemoved(false);
+        QCOMPARE(told.count(), 2);
+        QVERIFY(told.at(1).at(1).toString().contains(QStringLiteral("could not be put back")));
+    }
+
     void isQuietAboutWhatTheUserDoes()
     {
         StandInSession session(profile);
         Alerts alerts(session);
         QSignalSpy told(&alerts, &Alerts::told);
-        for (const Phase phase : {Phase::connecting, Phase::connected, Phase::disconnecting, Phase::disconnected,
-                                  Phase::stale})
+        for (const Phase phase : {Phase::connecting, Phase::connected, Phase::disconnecting, Phase::connected,
+                                  Phase::disconnecting, Phase::disconnected, Phase::stale})
             session.show(inPhase(phase));
         QCOMPARE(told.count(), 0);
     }

@@ -92,31 +92,18 @@ private Q_SLOTS:
                  QStringLiteral("2 lines not recognized"));
     }
 
-    void keepsEachApplicationOnce()
+    void showsTheApplicationsThatTheSessionHas()
     {
         StandInSession session(profile);
         OptionsModel options(session);
         QCOMPARE(options.applicationCount(), QStringLiteral("None"));
-        options.addApplication(QStringLiteral("/a/One.app"));
-        options.addApplication(QStringLiteral("/a/One.app"));
-        options.addApplication(QString());
-        QCOMPARE(options.applications(), QStringList{QStringLiteral("/a/One.app")});
+        const QString games = QStringLiteral("/usr/share/applications/games.desktop");
+        session.addBypassApp(games);
+        QCOMPARE(options.applications(), QStringList{games});
         QCOMPARE(options.applicationCount(), QStringLiteral("1"));
-        options.removeApplication(QStringLiteral("/a/One.app"));
+        QCOMPARE(options.applicationName(games), QStringLiteral("Games"));
+        options.removeApplication(games);
         QVERIFY(options.applications().isEmpty());
-    }
-
-    void namesApplications()
-    {
-        QTemporaryDir folder;
-        QFile file(folder.filePath(QStringLiteral("org.example.Game.desktop")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("[Desktop Entry]\nName=A Game\nName[de]=Ein Spiel\n");
-        file.close();
-        StandInSession session(profile);
-        const OptionsModel options(session);
-        QCOMPARE(options.applicationName(file.fileName()), QStringLiteral("A Game"));
-        QCOMPARE(options.applicationName(QStringLiteral("/Applications/Zoom.app")), QStringLiteral("Zoom"));
     }
 
     void opensAroundTorOnlyInStrictMode()

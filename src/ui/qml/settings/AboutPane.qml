@@ -16,6 +16,15 @@ Pane {
             text: qsTr("Sends the whole computer's traffic through Tor, and shows honestly whether it does.")
         }
         LinkRow {
+            visible: pane.model.homePage !== ""
+            symbol: "globe"
+            title: qsTr("Veldmark")
+            subtitle: qsTr("Homepage, downloads and updates")
+            mark: "arrow.up.right"
+            Accessible.role: Accessible.Link
+            onClicked: Qt.openUrlExternally(pane.model.homePage)
+        }
+        LinkRow {
             symbol: "shield.lefthalf.filled"
             title: qsTr("The Tor Project")
             subtitle: qsTr("The network and pluggable transports Veldmark builds on")

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusPendingCall>
+#include <QObject>
+#include <QStringList>
+
+namespace veldmark {
+
+// Asks for files with the desktop's own dialogue: by way of its portal where one answers, else with
+// Qt's. One question at a time; a new one takes the place of an open one, whose answer is then
+// ignored. Main thread.
+class FileChooser : public QObject {
+    Q_OBJECT
+
+public:
+    struct Question {
+        QString title = {};
+        QString folder = {}; // where to begin
+        QString filterName = {}, filterPattern = {}; // "Applications", "*.desktop"; empty: every file
+        bool several = false;
+    };
+
+    explicit FileChooser(const QDBusConnection &bus) : m_bus(bus) {}
+
+    void ask(const Question &question);
+
+Q_SIGNALS:
+    void chosen(const QStringList &files); // absolute paths; nothing is said when the user cancels
+
+private Q_SLOTS:
+    void onResponse(uint response, const QVariantMap &results);
+
+private:
+    void onAnswer(const QDBusPendingCall &call);
+    void askWithQt();
+    void listen(const QString &request);
+    void stopListening();
+
+    QDBusConnection m_bus;
+    Question m_question;
+    QString m_request; // the portal's object for the open question
+    quint64 m_asked = 0;
+};
+
+} // namespace veldmark

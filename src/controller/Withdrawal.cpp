@@ -1,0 +1,57 @@
+#include "controller/Withdrawal.h"
+
+#include "controller/TorController.h"
+
+#include <QPointer>
+
+namespace veldmark {
+
+Withdrawal::Withdrawal(TorController &controller) : m_controller(controller)
+{
+    // Queued: what an operation sets, it has set as a whole by then.
+    for (const auto changed : {&TorController::phaseChanged, &TorController::canCancelChanged})
+        QObject::connect(&controller, changed, this, &Withdrawal::proceed, Qt::QueuedConnection);
+}
+
+void Withdrawal::begin()
+{
+    if (m_wanted)
+        return;
+    m_wanted = true;
+    QMetaObject::invokeMethod(this, &Withdrawal::proceed, Qt::QueuedConnection);
+}
+
+void Withdrawal::proceed()
+{
+    if (!m_wanted || m_disconnecting)
+        return;
+    const ConnectionPhase phase = m_controller.phase();
+    const bool busy = phase == ConnectionPhase::disconnecting
+        || (phase == ConnectionPhase::connecting && !m_controller.canCancel());
+    if (busy)
+        return; // the next change comes back here
+    if (phase == ConnectionPhase::disconnected)
+        finish();
+    else
+        disconnect();
+}
+
+QCoro::Task<void> Withdrawal::disconnect()
+{
+    const QPointer<Withdrawal> self(this);
+    m_disconnecting = true;
+    m_controller.dismissError(); // what stands there afterwards is about this
+    co_await m_controller.disconnect();
+    if (!self)
+        co_return;
+    m_disconnecting = false;
+    finish();
+}
+
+void Withdrawal::finish()
+{
+    m_wanted = false;
+    Q_EMIT finished(m_controller.phase() == ConnectionPhase::disconnected);
+}
+
+} // namespace veldmark

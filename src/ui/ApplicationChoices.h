@@ -1,0 +1,62 @@
+#pragma once
+
+#include "ui/Session.h"
+
+#include <QAbstractListModel>
+#include <QQmlEngine>
+#include <QQuickImageProvider>
+
+namespace veldmark {
+
+// The installed applications from which those that may skip Tor are chosen: one a row, by name, as
+// far as the search lets it through.
+class ApplicationChoices : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the program")
+
+    Q_PROPERTY(QString search READ search WRITE setSearch NOTIFY changed)
+    Q_PROPERTY(QString emptyText READ emptyText NOTIFY changed)
+
+public:
+    enum Role {
+        NameRole = Qt::UserRole + 1,
+        IconRole,  // QUrl of the application's picture; empty where it has none
+        ChosenRole // bool: it may skip Tor
+    };
+
+    // `session` must outlive the model.
+    explicit ApplicationChoices(Session &session, QObject *parent = nullptr);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+    QString search() const { return m_search; }
+    void setSearch(const QString &text);
+    QString emptyText() const; // why there are no rows
+
+    // Looks at what is installed now.
+    Q_INVOKABLE void refresh();
+    Q_INVOKABLE void setChosen(int row, bool chosen);
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void update();
+
+    Session &m_session;
+    QString m_search;
+    std::vector<InstalledApplication> m_all; // by name
+    std::vector<std::size_t> m_shown;        // places in m_all
+};
+
+// Pictures of applications: "image://application/" and the icon's name or file, percent-encoded.
+class ApplicationIcons final : public QQuickImageProvider {
+public:
+    ApplicationIcons() : QQuickImageProvider(Image) {}
+    QImage requestImage(const QString &id, QSize *size, const QSize &requestedSize) override;
+};
+
+} // namespace veldmark

@@ -1,0 +1,66 @@
+import QtQuick
+import QtQuick.Templates as T
+import Veldmark
+
+// One application with its picture; a click says whether it may skip Tor.
+T.CheckDelegate {
+    id: row
+    required property int index
+    required property string name
+    required property url icon
+    required property bool chosen
+    property bool focused: false
+    signal wanted(bool on)
+
+    height: Math.max(44, label.implicitHeight + 16)
+    text: name
+    checkable: false // it follows what was stored
+    checked: chosen
+    hoverEnabled: true
+    focusPolicy: Qt.NoFocus // the list has it
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: name
+    Accessible.checkable: true
+    Accessible.checked: chosen
+    onClicked: row.wanted(!row.chosen)
+
+    contentItem: Item {
+        Image {
+            x: 8
+            anchors.verticalCenter: parent.verticalCenter
+            width: 28
+            height: 28
+            visible: row.icon.toString() !== ""
+            source: row.icon
+            sourceSize: Qt.size(28, 28)
+        }
+        Symbol {
+            x: 8
+            anchors.verticalCenter: parent.verticalCenter
+            visible: row.icon.toString() === ""
+            name: "square.grid.2x2"
+            size: 28
+            color: Theme.quiet
+        }
+        Words {
+            id: label
+            x: 48
+            width: parent.width - 88
+            anchors.verticalCenter: parent.verticalCenter
+            text: row.name
+            Accessible.ignored: true
+        }
+        Symbol {
+            anchors { right: parent.right; rightMargin: 12; verticalCenter: parent.verticalCenter }
+            visible: row.chosen
+            name: "checkmark"
+            size: 16
+            color: Theme.accent
+        }
+    }
+    background: Rectangle {
+        radius: Theme.smallRadius
+        color: row.down ? Theme.pressed : row.hovered ? Theme.raised : row.chosen ? Theme.accentGround : "transparent"
+        FocusRing { shown: row.focused }
+    }
+}

@@ -1,0 +1,90 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import QtQuick.Window
+import Veldmark
+
+// The installed applications, to say which of them may skip Tor in strict mode.
+Window {
+    id: window
+    required property ApplicationChoices model
+    signal fileWanted() // an entry that is not among them
+
+    title: qsTr("App exceptions")
+    width: 460
+    height: 560
+    minimumWidth: 360
+    minimumHeight: 420
+    color: Theme.ground
+    onVisibleChanged: if (visible) {
+        search.clear()
+        model.refresh()
+        search.forceActiveFocus()
+    }
+
+    ColumnLayout {
+        anchors { fill: parent; margins: 16 }
+        spacing: 12
+        Words {
+            Layout.fillWidth: true
+            text: qsTr("Choose apps that may skip Tor in strict mode")
+            font.pixelSize: Theme.headSize
+            font.weight: Font.DemiBold
+            Accessible.role: Accessible.Heading
+        }
+        SearchField {
+            id: search
+            Layout.fillWidth: true
+            placeholderText: qsTr("Search")
+            onTextChanged: window.model.search = text
+            Keys.onDownPressed: list.forceActiveFocus(Qt.TabFocusReason)
+        }
+        Item {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            ListView {
+                id: list
+                anchors.fill: parent
+                clip: true
+                spacing: 2
+                activeFocusOnTab: count > 0
+                keyNavigationEnabled: true
+                boundsBehavior: Flickable.StopAtBounds
+                T.ScrollBar.vertical: ScrollBar {}
+                model: window.model
+                Accessible.role: Accessible.List
+                Accessible.name: qsTr("Installed applications")
+                delegate: ChooserRow {
+                    width: ListView.view.width
+                    focused: list.activeFocus && ListView.isCurrentItem
+                    onWanted: on => window.model.setChosen(index, on)
+                }
+                Keys.onSpacePressed: if (currentItem) currentItem.clicked()
+                Keys.onReturnPressed: if (currentItem) currentItem.clicked()
+            }
+            Words {
+                anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter }
+                visible: list.count === 0
+                horizontalAlignment: Text.AlignHCenter
+                text: window.model.emptyText
+                color: Theme.quiet
+            }
+        }
+        Flow {
+            Layout.fillWidth: true
+            layoutDirection: Qt.RightToLeft
+            spacing: 8
+            PushButton {
+                text: qsTr("Done")
+                primary: true
+                onClicked: window.close()
+            }
+            PushButton {
+                text: qsTr("Other…")
+                help: qsTr("Choose the .desktop file of an application that is not listed")
+                onClicked: window.fileWanted()
+            }
+        }
+    }
+    Shortcut { sequences: [StandardKey.Close, "Escape"]; onActivated: window.close() }
+}

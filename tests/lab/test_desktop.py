@@ -1,0 +1,282 @@
+"""The real desktop application under an X server of its own, by looking and clicking, on the real private Tor network."""
+
+import json
+import os
+import signal
+import sys
+import time
+import unittest
+from pathlib import Path
+
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(Path(__file__).resolve().parent))
+
+from test_connect import MARKER, PROGRAMS, SKIPPED, STRICT_DEATH, LabCase  # noqa: E402
+from veldlab import desktop as person  # noqa: E402
+from veldlab import requirements  # noqa: E402
+from veldlab import topology as at  # noqa: E402
+from veldlab.product import Product, difference  # noqa: E402
+
+LOCK = "/run/veldmark.lock"
+
+
+class DesktopCase(LabCase):
+    """alice at her desktop, with the password-free rule. Each test begins with the application running."""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.as_root, cls.product = cls.product, Product(cls.lab, PROGRAMS, user=cls.lab.host.user)
+        cls.allow()
+        cls.desktop = cls.enterClassContext(person.Desktop(cls.lab, cls.lab.host.user))
+
+    @classmethod
+    def allow(cls):
+        cls.as_root.run_helper("install-privileged", "--user", cls.lab.host.user, check=True)
+
+    def setUp(self):
+        self.lab.host.run(["rm", "-rf", f"/home/{self.lab.host.user}/.config/veldmark"], check=True)
+        self.addCleanup(self.restore)
+        self.desktop.forget_notifications()
+        self.window = self.start()
+        self.window.wait_for("heading", "Not Protected")  # with which the desktop's own services have started
+        self.before = self.snapshot()
+
+    def restore(self):
+        """For a test that failed half-way."""
+        self.as_root.run_helper("disconnect", check=True)
+
+    def start(self, *arguments, env=None):
+        return self.enterContext(self.desktop.start(PROGRAMS, *arguments, env=env))
+
+    def snapshot(self):
+        """Without the application itself, which some tests end."""
+        state = self.lab.host.snapshot()
+        kept = [line for line in state["processes"].splitlines() if not line.endswith("/veldmark")]
+        return state | {"processes": "\n".join(kept)}
+
+    def assert_restored(self):
+        self.assertFalse(self.lab.host.path(MARKER).exists(), "the session marker is still there")
+        self.assertEqual(difference(self.before, self.snapshot()), "")
+
+    def wait_state(self, condition, timeout=60):
+        deadline = time.monotonic() + timeout
+        state = None
+        while time.monotonic() < deadline:
+            state = self.product.status()
+            if condition(state):
+                return state
+        self.fail(f"not within {timeout} s; last state {json.dumps(state)[:2000]}\n{self.window.errors}")
+
+    def connect(self):
+        self.window.click("push button", "Connect to Tor")
+        return self.wait_state(lambda s: s["phase"] == "connected" and not s["isChecking"] and s["exitIP"])
+
+
+class ByClicking(DesktopCase):
+    def test_connecting_losing_tor_and_restoring(self):
+        state = self.connect()
+        self.assertEqual((state["title"], state["activeMode"], state["torVerified"]), ("Protected", "strict", True))
+        self.window.wait_for("heading", "Protected")
+        self.assertIsNone(self.direct("-4"))
+        shown = [node["name"] for node in self.window.nodes()]
+        self.assertTrue(any(state["exitIP"] in name for name in shown), shown)
+
+        self.window.click("push button", "Circuits")
+        self.window.wait_for("frame", "Circuits")
+        circuits = json.loads(self.product.run_verb("circuits", "--json", check=True).stdout)
+        self.assertTrue(circuits)
+        built = {f"Circuit {circuit['id']}" for circuit in circuits}
+        listed = {node["name"] for node in self.window.nodes() if node["role"] == "list item"}
+        self.assertTrue(built & listed, (built, listed))
+
+        self.assertEqual(self.desktop.notifications, [])  # nothing of this was anything but routine
+        self.kill_tor()
+        told = self.desktop.wait_notification("Tor stopped running")
+        self.assertEqual((told["text"], told["urgency"]), (STRICT_DEATH, 2))
+        self.window.wait_for("heading", "Needs Attention")
+        shown = [node["name"] for node in self.window.nodes()]
+        self.assertIn(STRICT_DEATH, shown)
+        self.assertFalse([name for name in shown if state["exitIP"] in name or name == "No leaks"], shown)
+        self.assertIsNone(self.direct("-4"))
+
+        self.window.click("push button", "Restore Network")
+        self.window.wait_for("heading", "Not Protected")
+        self.assert_restored()
+        self.assertEqual(self.direct("-4")["IP"], at.HOST_ADDRESS)
+        self.assertEqual(len(self.desktop.notifications), 1)
+
+    def test_rules_that_another_program_removed_are_told(self):
+        self.connect()
+        self.lab.host.run(["nft", "delete", "table", "inet", "veldmark"], check=True)
+        told = self.desktop.wait_notification("Firewall rules were removed")
+        self.assertIn("back in place", told["text"])
+        self.assertIsNone(self.direct("-4"))
+        self.window.click("push button", "Disconnect")
+        self.window.wait_for("heading", "Not Protected")
+        self.assert_restored()
+
+    def test_a_leak_that_a_check_finds_is_told(self):
+        self.connect()
+        self.lab.host.run(["umount", "/etc/resolv.conf"], check=True)  # as a network manager writes the file anew
+        self.window.click("push button", "Leak Test")
+        self.desktop.wait_notification("Lookups can go around Tor")
+        self.window.wait_for("heading", "DNS Leak")
+        self.window.click("push button", "Fix DNS")
+        self.window.wait_for("heading", "Protected")
+        self.window.click("push button", "Disconnect")
+        self.window.wait_for("heading", "Not Protected")
+        self.assert_restored()
+
+
+class BadCircumstances(DesktopCase):
+    def as_root_run(self, *command):
+        self.lab.host.run(command, check=True)
+
+    def test_settings_that_cannot_be_saved_are_told_and_nothing_else_is_lost(self):
+        config = f"/home/{self.lab.host.user}/.config"
+        self.as_root_run("sh", "-c", f"rm -rf {config}; mkdir -m 555 {config}")
+        self.addCleanup(self.as_root_run, "rm", "-rf", config)
+        self.window.click("check box", "Optimize for speed")
+        self.window.wait_for("alert", "The settings couldn't be saved. Changes to them may last only until you quit.")
+        self.connect()
+        self.window.click("push button", "Disconnect")
+        self.window.wait_for("heading", "Not Protected")
+        self.assert_restored()
+
+    def test_a_home_without_a_place_for_the_instance_says_so_and_how_to_restore(self):
+        self.connect()
+        self.lab.host.run(["kill", "-KILL", str(self.window.pid)], check=True)
+        self.window.wait()
+        nowhere = {"HOME": "/nowhere", "XDG_RUNTIME_DIR": "/nowhere/run"}
+        window = self.start(env=nowhere)
+        window.wait_for("push button", "OK")
+        self.assertEqual(len(window.errors.splitlines()), 1, window.errors)
+        self.assertIn("veldmark: ", window.errors)
+        shown = " ".join(node["name"] + node["text"] for node in window.nodes())
+        self.assertIn("veldmark-helper.sh disconnect", shown)
+        window.click("push button", "OK")
+        self.assertEqual(window.wait(), 1)
+        self.window = self.start()
+        self.window.click("push button", "Restore Network")
+        self.window.wait_for("heading", "Not Protected")
+        self.assert_restored()
+
+    def test_the_windows_stand_where_they_were(self):
+        self.window.click("push button", "Settings")
+        frame = self.window.wait_for("frame", "Settings")
+        self.desktop.run(["xdotool", "search", "--name", "^Settings$", "windowmove", "300", "200",
+                          "windowsize", "800", "500"], check=True)
+        self.window.wait_until(lambda: self.size_of("Settings") == (800, 500))
+        moved = self.window.wait_for("frame", "Settings")
+        self.assertNotEqual((moved["x"], moved["y"]), (frame["x"], frame["y"]))
+        self.window.signal(signal.SIGTERM)
+        self.assertEqual(self.window.wait(), 0)
+        self.window = self.start()
+        self.window.click("push button", "Settings")
+        self.window.wait_until(lambda: self.size_of("Settings") == (800, 500))
+        again = self.window.wait_for("frame", "Settings", state="active")
+        self.assertEqual((again["x"], again["y"]), (moved["x"], moved["y"]))
+
+    def size_of(self, title):
+        frame = self.window.find("frame", title)
+        return frame and (frame["width"], frame["height"])
+
+
+class ToldToEnd(DesktopCase):
+    def test_each_signal_restores_the_network_first(self):
+        for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
+            with self.subTest(signal=number.name):
+                if number != signal.SIGTERM:
+                    self.window = self.start()
+                self.connect()
+                self.assertIsNone(self.direct("-4"))
+                self.window.signal(number)
+                self.assertEqual((self.window.wait(), self.window.errors), (0, ""))
+                self.assert_restored()
+        self.assertEqual(self.desktop.notifications, [])
+
+    def test_the_end_of_the_desktops_session(self):
+        manager = self.desktop.start_session_manager()
+        self.addCleanup(self.desktop.env.pop, "SESSION_MANAGER")
+        self.window.signal(signal.SIGTERM)
+        self.window.wait()
+        self.before = self.snapshot()  # with the session manager
+        self.window = self.start()
+        manager.lines.wait(lambda line: line == "registered")
+        self.connect()
+        manager.tell("save")  # of a logout that may still be called off
+        manager.lines.wait(lambda line: line == "saved")
+        self.assertEqual(self.product.status()["phase"], "connected")
+        self.assertIsNone(self.direct("-4"))
+        manager.tell("die")
+        self.assertEqual((self.window.wait(), self.window.errors), (0, ""))
+        manager.lines.wait(lambda line: line == "closed")
+        self.assert_restored()
+
+    def test_a_signal_while_tor_is_starting(self):
+        self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/data"], check=True)
+        with self.lab.netem(loss=1.0):
+            self.window.click("push button", "Connect to Tor")
+            self.wait_state(lambda s: s["phase"] == "connecting")
+            self.window.signal(signal.SIGTERM)
+            self.assertEqual((self.window.wait(), self.window.errors), (0, ""))
+        self.assert_restored()
+
+    def test_the_second_signal_ends_at_once(self):
+        self.connect()
+        # Another run of the helper, as it seems to this one: it waits for the lock.
+        with self.lab.host.popen(["flock", "--no-fork", LOCK, "sh", "-c", "echo held; exec sleep 600"], stdout=-1, text=True) as holder:
+            try:
+                self.assertEqual(holder.stdout.readline(), "held\n")
+                self.window.signal(signal.SIGTERM)
+                self.wait_state(lambda s: s["phase"] == "disconnecting")
+                self.window.signal(signal.SIGHUP)  # comes with SIGTERM when a session ends
+                self.assertEqual(self.product.status()["phase"], "disconnecting")
+                began = time.monotonic()
+                self.window.signal(signal.SIGTERM)
+                self.assertEqual(self.window.wait(), 1)
+                self.assertLess(time.monotonic() - began, 5)  # the lock is waited for 20 s
+                self.assertTrue(self.lab.host.path(MARKER).exists())
+                self.assertIn("The network is still set up for Tor. Restore it with: ", self.window.errors)
+            finally:
+                holder.kill()
+        self.desktop.wait_notification("Your network is still set up for Tor")
+
+    def test_without_the_right_to_restore_it_says_so_and_the_next_start_shows_it(self):
+        self.connect()
+        self.as_root.run_helper("uninstall-privileged", check=True)
+        self.addCleanup(self.allow)
+        self.window.signal(signal.SIGTERM)
+        self.assertEqual(self.window.wait(), 1)
+        self.assertIn("Restore it with: sudo ", self.window.errors)
+        self.desktop.wait_notification("Your network is still set up for Tor")
+        self.assertIsNone(self.direct("-4"))
+        self.allow()
+        self.window = self.start()
+        self.window.wait_for("heading", "Needs Attention")
+        self.window.click("push button", "Restore Network")
+        self.window.wait_for("heading", "Not Protected")
+        self.assert_restored()
+
+    def test_a_display_that_goes_leaves_the_kill_switch_closed_and_the_next_start_shows_it(self):
+        self.connect()
+        self.desktop.kill_display()
+        self.assertEqual(self.window.wait(), 1)
+        self.assertIn("veldmark: Ended without its display. Your network is still set up for Tor", self.window.errors)
+        self.assertIsNone(self.direct("-4"))
+        self.desktop.start_display()
+        self.window = self.start()
+        self.window.wait_for("heading", "Needs Attention")
+        self.window.click("push button", "Restore Network")
+        self.window.wait_for("heading", "Not Protected")
+        self.assertFalse(self.lab.host.path(MARKER).exists())
+        self.assertIsNotNone(self.direct("-4"))
+
+
+if __name__ == "__main__":
+    reason = requirements.missing() or person.missing()
+    if reason:
+        print(f"skipped: {reason}")
+        sys.exit(SKIPPED)
+    unittest.main(verbosity=2)

@@ -1,0 +1,177 @@
+#include "Scenes.h"
+#include "Stage.h"
+
+#include <QQuickItem>
+#include <QTest>
+
+#include <cstdlib>
+
+using namespace veldmark;
+
+// The windows by keyboard alone: where the focus is can be seen, and each control does what it says.
+class KeyboardTest : public QObject {
+    Q_OBJECT
+
+    static QVariantMap panel(Stage &stage)
+    {
+        return {{QStringLiteral("panelModel"), QVariant::fromValue(&stage.panel)},
+                {QStringLiteral("optionsModel"), QVariant::fromValue(&stage.options)}};
+    }
+    template <typename Model>
+    static QVariantMap with(Model *model)
+    {
+        return {{QStringLiteral("model"), QVariant::fromValue(model)}};
+    }
+
+    // How many pixels of `place`, and a little around it, differ.
+    static int difference(const QImage &a, const QImage &b, const QRectF &place)
+    {
+        const QRect look = place.adjusted(-8, -8, 8, 8).toAlignedRect().intersected(a.rect());
+        int count = 0;
+        for (int y = look.top(); y <= look.bottom(); ++y)
+            for (int x = look.left(); x <= look.right(); ++x)
+                count += std::abs(qGray(a.pixel(x, y)) - qGray(b.pixel(x, y))) > 24 ? 1 : 0;
+        return count;
+    }
+
+    static QQuickItem *named(QQuickItem *item, const QString &text)
+    {
+        if (item->isVisible() && item->property("text").toString() == text && item->inherits("QQuickAbstractButton"))
+            return item;
+        for (QQuickItem *child : item->childItems())
+            if (QQuickItem *found = named(child, text))
+                return found;
+        return nullptr;
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QLocale::setDefault(QLocale(QLocale::English));
+        QGuiApplication::setFont(QFont(QStringLiteral("Noto Sans")));
+    }
+
+    void theFocusCanBeSeen_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<bool>("dark");
+        for (const char *file : {"main/MainWindow.qml", "main/QuitDialog.qml", "circuits/CircuitsWindow.qml",
+                                 "log/LogWindow.qml", "settings/SettingsWindow.qml", "chooser/ChooserWindow.qml"})
+            for (const bool dark : {false, true})
+                QTest::addRow("%s %s", file, dark ? "dark" : "light") << QString::fromLatin1(file) << dark;
+    }
+    void theFocusCanBeSeen()
+    {
+        QFETCH(QString, file);
+        QFETCH(bool, dark);
+        Stage stage;
+        stage.setDark(dark);
+        Snapshot snapshot; // the panel without locks
+        snapshot.torPath = QStringLiteral("/usr/bin/tor");
+        if (file != QLatin1String("main/MainWindow.qml"))
+            snapshot = Scenes::protectedSession();
+        stage.session.show(snapshot);
+        stage.log.show(LogFeed::State::lines, Scenes::log(20));
+        QVariantMap properties = panel(stage);
+        if (file.startsWith(QLatin1String("circuits")))
+            properties = with(&stage.circuits);
+        else if (file.startsWith(QLatin1String("log")))
+            properties = with(&stage.lines);
+        else if (file.startsWith(QLatin1String("settings")))
+            properties = with(&stage.settings);
+        else if (file.startsWith(QLatin1String("chooser")))
+            properties = with(&stage.choices);
+        else if (file.endsWith(QLatin1String("QuitDialog.qml")))
+            properties = {{QStringLiteral("strict"), true}, {QStringLiteral("busy"), false}};
+        QQuickWindow *window = stage.open(file, properties);
+        QVERIFY(window);
+        window->resize(std::max(window->width(), 400), 900); // nothing scrolls between two pictures
+        window->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+
+        int stops = 0;
+        QQuickItem *first = nullptr;
+        QTest::keyClick(window, Qt::Key_Tab);
+        QImage before = stage.picture();
+        for (int press = 0; press < 60; ++press) {
+            QTest::keyClick(window, Qt::Key_Tab);
+            QQuickItem *focused = window->activeFocusItem();
+            const QImage now = stage.picture();
+            QVERIFY(focused);
+            if (focused == first)
+                break;
+            if (!first)
+                first = focused;
+            const QRectF place = focused->mapRectToScene(QRectF(0, 0, focused->width(), focused->height()));
+            QVERIFY2(difference(before, now, place) >= 20,
+                     qPrintable(QStringLiteral("%1 \"%2\"").arg(QLatin1String(focused->metaObject()->className()),
+                                                                focused->property("text").toString())));
+            before = now;
+            ++stops;
+        }
+        QVERIFY2(stops >= 2, qPrintable(QString::number(stops))); // and it does move
+    }
+
+    void anApplicationIsChosenByKeyboard()
+    {
+        Stage stage;
+        stage.session.show(Snapshot());
+        QQuickWindow *window = stage.open(QStringLiteral("chooser/ChooserWindow.qml"), with(&stage.choices));
+        QVERIFY(window);
+        window->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        stage.picture();
+        for (const Qt::Key key : {Qt::Key_L, Qt::Key_E, Qt::Key_T}) // the search has the focus from the start
+            QTest::keyClick(window, key);
+        stage.picture();
+        QCOMPARE(stage.choices.search().toLower(), QStringLiteral("let"));
+        QCOMPARE(stage.choices.rowCount(), 1);
+        QTest::keyClick(window, Qt::Key_Down);
+        QTest::keyClick(window, Qt::Key_Space);
+        QCOMPARE(stage.session.now().choices.bypassApps,
+                 QStringList(QStringLiteral("/usr/share/applications/letters.desktop")));
+        QTest::keyClick(window, Qt::Key_Return);
+        QVERIFY(stage.session.now().choices.bypassApps.isEmpty());
+        QTest::keyClick(window, Qt::Key_Escape);
+        QVERIFY(QTest::qWaitFor([&] { return !window->isVisible(); }));
+    }
+
+    void aboutLinksToAHomePageOnlyWhereThereIsOne()
+    {
+        Stage stage;
+        stage.session.show(Snapshot());
+        QVariantMap about = with(&stage.settings);
+        about.insert(QStringLiteral("pane"), 5);
+        const auto hasLink = [&] {
+            QQuickWindow *window = stage.open(QStringLiteral("settings/SettingsWindow.qml"), about);
+            stage.picture();
+            return named(window->contentItem(), QStringLiteral("Veldmark")) != nullptr;
+        };
+        QVERIFY(stage.profile.homePage.isEmpty()); // so far
+        QVERIFY(!hasLink());
+        stage.profile.homePage = QStringLiteral("https://veldmark.example/");
+        QVERIFY(hasLink());
+    }
+
+    void theLookUpsOfAnEndedSessionAreNotShown()
+    {
+        Stage stage;
+        Snapshot snapshot = Scenes::protectedSession();
+        snapshot.lookups = {Lookups::Kind::leak, {QStringLiteral("192.168.1.1 on eth0")}};
+        stage.session.show(snapshot);
+        QQuickWindow *window = stage.open(QStringLiteral("main/MainWindow.qml"), panel(stage));
+        QVERIFY(window);
+        stage.picture();
+        QVERIFY(named(window->contentItem(), QStringLiteral("Fix DNS")));
+        QVERIFY(named(window->contentItem(), QStringLiteral("Leak Test")));
+        snapshot.phase = Phase::stale;
+        stage.session.show(snapshot);
+        stage.picture();
+        QVERIFY(!named(window->contentItem(), QStringLiteral("Fix DNS")));
+        QVERIFY(!named(window->contentItem(), QStringLiteral("Leak Test")));
+        QVERIFY(named(window->contentItem(), QStringLiteral("Restore Network")));
+    }
+};
+
+QTEST_MAIN(KeyboardTest)
+#include "KeyboardTest.moc"

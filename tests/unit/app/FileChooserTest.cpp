@@ -1,0 +1,174 @@
+#include "app/FileChooser.h"
+#include "support/Workbench.h"
+
+#include <QApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QFileDialog>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace veldmark;
+
+namespace {
+
+// A session bus of the test's own.
+class SessionBus {
+public:
+    SessionBus()
+    {
+        m_daemon.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
+        while (!address.endsWith(u'\n') && m_daemon.waitForReadyRead(10000))
+            address += QString::fromUtf8(m_daemon.readAllStandardOutput());
+        address = address.trimmed();
+    }
+    ~SessionBus()
+    {
+        m_daemon.kill();
+        m_daemon.waitForFinished();
+    }
+    QDBusConnection connection(const QString &name) const { return QDBusConnection::connectToBus(address, name); }
+
+    QString address;
+
+private:
+    QProcess m_daemon;
+};
+
+// Answers as the desktop's portal does.
+class Portal : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.FileChooser")
+
+public:
+    explicit Portal(const QDBusConnection &bus) : m_bus(bus)
+    {
+        m_bus.registerObject(u"/org/freedesktop/portal/desktop"_s, this, QDBusConnection::ExportScriptableSlots);
+        m_bus.registerService(u"org.freedesktop.portal.Desktop"_s);
+    }
+
+    void answer(uint response, const QStringList &uris)
+    {
+        QDBusMessage signal = QDBusMessage::createSignal(request, u"org.freedesktop.portal.Request"_s, u"Response"_s);
+        signal << response << QVariantMap{{u"uris"_s, uris}};
+        m_bus.send(signal);
+    }
+
+    QString title;
+    QVariantMap options;
+    QString request;
+    bool old = false; // a portal that makes up the path of its request
+
+public Q_SLOTS:
+    Q_SCRIPTABLE QDBusObjectPath OpenFile(const QString &, const QString &wantedTitle, const QVariantMap &wanted,
+                                          const QDBusMessage &message)
+    {
+        title = wantedTitle;
+        options = wanted;
+        const QString sender = message.service().mid(1).replace(u'.', u'_');
+        request = old ? u"/org/freedesktop/portal/desktop/request/1"_s
+                      : u"/org/freedesktop/portal/desktop/request/%1/%2"_s.arg(
+                          sender, wanted.value(u"handle_token"_s).toString());
+        return QDBusObjectPath(request);
+    }
+
+private:
+    QDBusConnection m_bus;
+};
+
+QFileDialog *qtDialog()
+{
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (auto *dialog = qobject_cast<QFileDialog *>(widget); dialog && dialog->isVisible())
+            return dialog;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class FileChooserTest : public QObject {
+    Q_OBJECT
+
+    SessionBus bus;
+    int m_names = 0;
+
+    QDBusConnection connection() { return bus.connection(u"test%1"_s.arg(++m_names)); }
+
+private Q_SLOTS:
+    void initTestCase() { QVERIFY(bus.address.startsWith(u"unix:"_s)); }
+
+    void asksThePortal_data()
+    {
+        QTest::addColumn<bool>("old");
+        QTest::newRow("that keeps to the agreed path") << false;
+        QTest::newRow("that makes up its own") << true;
+    }
+    void asksThePortal()
+    {
+        QFETCH(bool, old);
+        Portal portal(connection());
+        portal.old = old;
+        FileChooser chooser(connection());
+        QSignalSpy chosen(&chooser, &FileChooser::chosen);
+        chooser.ask({.title = u"Choose"_s, .folder = u"/usr/bin"_s, .filterName = u"Applications"_s,
+                     .filterPattern = u"*.desktop"_s, .several = true});
+        QVERIFY(until([&] { return !portal.request.isEmpty(); }));
+        QCOMPARE(portal.title, u"Choose"_s);
+        QCOMPARE(portal.options.value(u"multiple"_s).toBool(), true);
+        QCOMPARE(portal.options.value(u"current_folder"_s).toByteArray(), QByteArray("/usr/bin\0", 9));
+        QVERIFY(portal.options.contains(u"filters"_s));
+        settle(); // the reply comes before the answer
+        portal.answer(0, {u"file:///usr/share/applications/a%20b.desktop"_s, u"https://example.test/"_s});
+        QVERIFY(until([&] { return chosen.count() == 1; }));
+        QCOMPARE(chosen.at(0).at(0).toStringList(), QStringList(u"/usr/share/applications/a b.desktop"_s));
+        QVERIFY(!qtDialog());
+    }
+
+    void aCancelledDialogueChoosesNothing()
+    {
+        Portal portal(connection());
+        FileChooser chooser(connection());
+        QSignalSpy chosen(&chooser, &FileChooser::chosen);
+        chooser.ask({.title = u"Choose"_s});
+        QVERIFY(until([&] { return !portal.request.isEmpty(); }));
+        portal.answer(1, {});
+        portal.request.clear();
+        chooser.ask({.title = u"Again"_s}); // its answer comes after that of the first
+        QVERIFY(until([&] { return !portal.request.isEmpty(); }));
+        portal.answer(0, {u"file:///usr/bin/tor"_s});
+        QVERIFY(until([&] { return chosen.count() == 1; }));
+        QCOMPARE(chosen.at(0).at(0).toStringList(), QStringList(u"/usr/bin/tor"_s));
+    }
+
+    void withoutAPortalQtsOwnDialogueIsShown()
+    {
+        FileChooser chooser(connection());
+        QSignalSpy chosen(&chooser, &FileChooser::chosen);
+        chooser.ask({.title = u"Choose"_s, .folder = u"/"_s});
+        QVERIFY(until([&] { return qtDialog(); }));
+        QCOMPARE(qtDialog()->windowTitle(), u"Choose"_s);
+        Q_EMIT qtDialog()->filesSelected({u"/usr/bin/tor"_s});
+        QCOMPARE(chosen.count(), 1);
+        qtDialog()->close();
+    }
+
+    void withoutABusAsWell()
+    {
+        FileChooser chooser(QDBusConnection(u"no such connection"_s));
+        chooser.ask({.title = u"Choose"_s});
+        QVERIFY(qtDialog());
+        qtDialog()->close();
+    }
+};
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    FileChooserTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "FileChooserTest.moc"

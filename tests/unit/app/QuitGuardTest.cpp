@@ -1,0 +1,143 @@
+#include "StandInSession.h"
+#include "app/QuitGuard.h"
+#include "support/Workbench.h"
+
+#include <QGuiApplication>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace veldmark;
+using Phase = ConnectionPhase;
+
+namespace {
+
+struct Guarded {
+    Workbench bench;
+    StandInSession session{bench.profile};
+    StandInLog log;
+    Windows windows{session, log, *bench.settings};
+    QuitGuard guard{bench.controller(), windows};
+    QSignalSpy mayEnd{&guard, &QuitGuard::mayEnd};
+
+    // The question on show; null when none is.
+    static QWindow *question()
+    {
+        for (QWindow *window : QGuiApplication::topLevelWindows()) {
+            if (window->isVisible() && window->title() == u"Quit Veldmark"_s)
+                return window;
+        }
+        return nullptr;
+    }
+    static bool answer(const char *signal) { return QMetaObject::invokeMethod(question(), signal); }
+    bool mainIsShown() const { return windows.find(u"main"_s) && windows.find(u"main"_s)->isVisible(); }
+};
+
+} // namespace
+
+class QuitGuardTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void endsAtOnceWithoutAMarker()
+    {
+        Guarded g;
+        g.guard.quit();
+        QCOMPARE(g.mayEnd.count(), 1);
+        QVERIFY(!Guarded::question());
+    }
+
+    void endsAtOnceWhileConnectingBeforeTheHelperHasRun()
+    {
+        Guarded g;
+        g.bench.hold(u"connect"_s);
+        const auto connecting = g.bench.controller().connect();
+        QVERIFY(until([&] { return g.bench.processes.held() == 1; }));
+        g.guard.quit();
+        QCOMPARE(g.mayEnd.count(), 1);
+    }
+
+    void asksWhileTheNetworkIsSetUp_data()
+    {
+        QTest::addColumn<QByteArray>("marker");
+        QTest::addColumn<bool>("strict");
+        QTest::newRow("strict") << QByteArray("strict\n") << true;
+        QTest::newRow("proxy") << QByteArray("proxy\n") << false;
+        QTest::newRow("unknown") << QByteArray("perhaps\n") << false;
+    }
+    void asksWhileTheNetworkIsSetUp()
+    {
+        QFETCH(QByteArray, marker);
+        QFETCH(bool, strict);
+        Guarded g;
+        g.bench.writeMarker(marker);
+        g.bench.controller().detectStaleState();
+        g.guard.quit();
+        QCOMPARE(g.mayEnd.count(), 0);
+        QVERIFY(Guarded::question());
+        QCOMPARE(Guarded::question()->property("strict").toBool(), strict);
+        g.guard.quit(); // one question is enough
+        QVERIFY(Guarded::answer("cancelled"));
+        QVERIFY(!Guarded::question());
+        QCOMPARE(g.mayEnd.count(), 0);
+        QVERIFY(g.bench.hasMarker());
+    }
+
+    void quitAnywayLeavesEverythingInPlace()
+    {
+        Guarded g;
+        QVERIFY(g.bench.connect());
+        g.guard.quit();
+        QVERIFY(Guarded::answer("quitWanted"));
+        QCOMPARE(g.mayEnd.count(), 1);
+        QVERIFY(g.bench.hasMarker());
+        QCOMPARE(g.bench.helperRunCount(u"disconnect"_s), 0);
+    }
+
+    void disconnectAndQuitRestoresFirst()
+    {
+        Guarded g;
+        QVERIFY(g.bench.connect());
+        g.bench.hold(u"disconnect"_s);
+        g.guard.quit();
+        QVERIFY(Guarded::answer("disconnectWanted"));
+        QVERIFY(until([&] { return g.bench.processes.held() == 1; }));
+        QVERIFY(Guarded::question()->property("busy").toBool());
+        QCOMPARE(g.mayEnd.count(), 0);
+        g.bench.processes.release();
+        QVERIFY(until([&] { return g.mayEnd.count() == 1; }));
+        QVERIFY(!g.bench.hasMarker());
+        QVERIFY(!Guarded::question());
+    }
+
+    void aDismissedPromptLeavesItRunningAndConnected()
+    {
+        Guarded g;
+        QVERIFY(g.bench.connect());
+        g.bench.cancelPrompt(u"disconnect"_s);
+        g.guard.quit();
+        QVERIFY(Guarded::answer("disconnectWanted"));
+        QVERIFY(until([&] { return !Guarded::question(); }));
+        QVERIFY(g.bench.controller().phase() == Phase::connected);
+        QVERIFY(g.mainIsShown()); // its banner says why
+        QCOMPARE(g.mayEnd.count(), 0);
+    }
+
+    void aCancelDuringTheDisconnectKeepsItRunning()
+    {
+        Guarded g;
+        QVERIFY(g.bench.connect());
+        g.bench.hold(u"disconnect"_s);
+        g.guard.quit();
+        QVERIFY(Guarded::answer("disconnectWanted"));
+        QVERIFY(until([&] { return g.bench.processes.held() == 1; }));
+        QVERIFY(Guarded::answer("cancelled"));
+        g.bench.processes.release();
+        QVERIFY(until([&] { return g.bench.controller().phase() == Phase::disconnected; }));
+        settle();
+        QCOMPARE(g.mayEnd.count(), 0);
+    }
+};
+
+QTEST_MAIN(QuitGuardTest)
+#include "QuitGuardTest.moc"

@@ -1,0 +1,112 @@
+#include "StandInSession.h"
+#include "app/Tray.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace veldmark;
+
+class TrayTest : public QObject {
+    Q_OBJECT
+
+    PlatformProfile profile = PlatformProfile::linux(Places::below(QStringLiteral("/nowhere")));
+
+    static QMenu *menu(Tray &tray) { return tray.findChild<QSystemTrayIcon *>()->contextMenu(); }
+
+    static Snapshot inPhase(Phase phase)
+    {
+        Snapshot s;
+        s.phase = phase;
+        s.activeMode = RoutingMode::strict;
+        s.torPath = QStringLiteral("/usr/bin/tor");
+        return s;
+    }
+
+private Q_SLOTS:
+    void everyStateHasAnIconOfItsOwnShape()
+    {
+        QHash<QString, QImage> shapes;
+        for (const char *name : {"shield.slash", "shield.lefthalf.filled", "lock.shield.fill", "exclamationmark.shield"}) {
+            const QImage image = Tray::icon(QString::fromLatin1(name), true).pixmap(QSize(22, 22), 1.0).toImage();
+            QVERIFY(!image.isNull());
+            bool drawn = false;
+            for (int y = 0; y < image.height(); ++y)
+                for (int x = 0; x < image.width(); ++x)
+                    drawn = drawn || qAlpha(image.pixel(x, y)) > 128;
+            QVERIFY2(drawn, name);
+            for (const QImage &other : shapes)
+                QVERIFY2(image != other, name);
+            shapes.insert(QString::fromLatin1(name), image);
+        }
+    }
+
+    void aSymbolThatIsMissingIsNotInvisible()
+    {
+        const QImage image = Tray::icon(QStringLiteral("no.such.symbol"), true).pixmap(QSize(22, 22), 1.0).toImage();
+        int drawn = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                drawn += qAlpha(image.pixel(x, y)) > 128;
+        QVERIFY(drawn > 10);
+    }
+
+    void standsOutFromItsGround()
+    {
+        const auto ink = [](bool onDark) {
+            const QImage image = Tray::icon(QStringLiteral("lock.shield.fill"), onDark).pixmap(QSize(64, 64), 1.0).toImage();
+            return image.pixelColor(32, 20).lightness();
+        };
+        QVERIFY(ink(true) > 200);
+        QVERIFY(ink(false) < 60);
+    }
+
+    void itsTipAndMenuFollowTheSession()
+    {
+        StandInSession session(profile);
+        Tray tray(session);
+        auto *icon = tray.findChild<QSystemTrayIcon *>();
+        QVERIFY(icon);
+        session.show(inPhase(Phase::disconnected));
+        QCOMPARE(icon->toolTip(), QStringLiteral("Veldmark: Not Protected"));
+        QAction *power = menu(tray)->actions().at(1);
+        QCOMPARE(power->text(), QStringLiteral("Connect to Tor"));
+        QVERIFY(power->isEnabled() && power->isVisible());
+        power->trigger();
+        QCOMPARE(session.asked, QStringList(QStringLiteral("connect")));
+
+        Snapshot connected = inPhase(Phase::connected);
+        connected.torVerified = true;
+        session.show(connected);
+        QCOMPARE(icon->toolTip(), QStringLiteral("Veldmark: Protected"));
+        menu(tray)->actions().at(1)->trigger();
+        QCOMPARE(session.asked.last(), QStringLiteral("disconnect"));
+
+        session.show(inPhase(Phase::disconnecting));
+        QVERIFY(!power->isVisible());
+        session.show(inPhase(Phase::stale));
+        QCOMPARE(icon->toolTip(), QStringLiteral("Veldmark: Needs Attention"));
+        Snapshot without = inPhase(Phase::disconnected);
+        without.torPath.reset();
+        session.show(without);
+        QVERIFY(!power->isEnabled());
+    }
+
+    void aClickWantsThePanelAndTheMenuTheRest()
+    {
+        StandInSession session(profile);
+        Tray tray(session);
+        QSignalSpy panel(&tray, &Tray::panelWanted), open(&tray, &Tray::openWanted), quit(&tray, &Tray::quitWanted);
+        auto *icon = tray.findChild<QSystemTrayIcon *>();
+        Q_EMIT icon->activated(QSystemTrayIcon::Trigger);
+        QCOMPARE(panel.count(), 1);
+        Q_EMIT icon->activated(QSystemTrayIcon::Context);
+        QCOMPARE(panel.count(), 1);
+        menu(tray)->actions().first()->trigger();
+        menu(tray)->actions().last()->trigger();
+        QCOMPARE(open.count(), 1);
+        QCOMPARE(quit.count(), 1);
+    }
+};
+
+QTEST_MAIN(TrayTest)
+#include "TrayTest.moc"

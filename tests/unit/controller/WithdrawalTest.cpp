@@ -1,0 +1,110 @@
+#include "controller/Withdrawal.h"
+#include "support/Workbench.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace veldmark;
+using Phase = ConnectionPhase;
+
+class WithdrawalTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void restoresWhatIsConnected()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        Withdrawal withdrawal(bench.controller());
+        QSignalSpy finished(&withdrawal, &Withdrawal::finished);
+        withdrawal.begin();
+        QVERIFY(withdrawal.isUnderWay());
+        QVERIFY(until([&] { return finished.count() == 1; }));
+        QCOMPARE(finished.at(0).at(0).toBool(), true);
+        QVERIFY(!bench.hasMarker());
+        QVERIFY(!withdrawal.isUnderWay());
+    }
+
+    void restoresWhatAnEarlierRunLeft()
+    {
+        Workbench bench;
+        bench.writeMarker("strict\n");
+        bench.controller().detectStaleState();
+        Withdrawal withdrawal(bench.controller());
+        QSignalSpy finished(&withdrawal, &Withdrawal::finished);
+        withdrawal.begin();
+        QVERIFY(until([&] { return finished.count() == 1; }));
+        QVERIFY(!bench.hasMarker());
+    }
+
+    void leavesAloneWhatIsNotItsOwn()
+    {
+        Workbench bench;
+        Withdrawal withdrawal(bench.controller());
+        bench.writeMarker("strict\n"); // somebody else's session, begun since
+        QSignalSpy finished(&withdrawal, &Withdrawal::finished);
+        withdrawal.begin();
+        QCOMPARE(finished.count(), 0); // never from within the call
+        QVERIFY(until([&] { return finished.count() == 1; }));
+        QCOMPARE(finished.at(0).at(0).toBool(), true);
+        QCOMPARE(bench.helperRunCount(u"disconnect"_s), 0);
+    }
+
+    void waitsForAHelperThatConnects()
+    {
+        Workbench bench;
+        bench.setBootstrap("PROGRESS=10 TAG=conn SUMMARY=\"Connecting\"");
+        bench.hold(u"connect"_s);
+        const auto connecting = bench.controller().connect();
+        QVERIFY(until([&] { return bench.processes.held() == 1; }));
+        Withdrawal withdrawal(bench.controller());
+        QSignalSpy finished(&withdrawal, &Withdrawal::finished);
+        withdrawal.begin();
+        settle();
+        QCOMPARE(finished.count(), 0);
+        QCOMPARE(bench.helperRunCount(u"disconnect"_s), 0);
+        bench.processes.release();
+        QVERIFY(until([&] { return finished.count() == 1; }));
+        QCOMPARE(finished.at(0).at(0).toBool(), true);
+        QCOMPARE(bench.helperRunCount(u"disconnect"_s), 1);
+        QVERIFY(!bench.hasMarker());
+    }
+
+    void saysWhenTheHelperIsRefusedAndCanBeginAgain()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        bench.failHelper(u"disconnect"_s, u"Could not."_s);
+        Withdrawal withdrawal(bench.controller());
+        QSignalSpy finished(&withdrawal, &Withdrawal::finished);
+        withdrawal.begin();
+        withdrawal.begin(); // one is enough
+        QVERIFY(until([&] { return finished.count() == 1; }));
+        QCOMPARE(finished.at(0).at(0).toBool(), false);
+        QCOMPARE(bench.controller().errorMessage(), u"Could not."_s);
+        QCOMPARE(bench.helperRunCount(u"disconnect"_s), 1);
+        QVERIFY(bench.controller().phase() == Phase::connected);
+        bench.letHelperWork();
+        withdrawal.begin();
+        QVERIFY(until([&] { return finished.count() == 2; }));
+        QCOMPARE(finished.at(1).at(0).toBool(), true);
+    }
+
+    void goesBeforeItHasFinished()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        bench.hold(u"disconnect"_s);
+        {
+            Withdrawal withdrawal(bench.controller());
+            withdrawal.begin();
+            QVERIFY(until([&] { return bench.processes.held() == 1; }));
+        }
+        bench.processes.release();
+        QVERIFY(until([&] { return bench.controller().phase() == Phase::disconnected; }));
+    }
+};
+
+QTEST_GUILESS_MAIN(WithdrawalTest)
+#include "WithdrawalTest.moc"

@@ -1,0 +1,62 @@
+#include "ui/SessionTexts.h"
+
+#include <QTest>
+#include <QTranslator>
+
+using namespace veldmark;
+
+namespace {
+
+// A language that knows a few texts, which it puts between brackets.
+class Brackets final : public QTranslator {
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *source, const char *, int) const override
+    {
+        static const QStringList known{
+            QStringLiteral("Starting Tor…"), QStringLiteral("Testing %1 bridges…"), QStringLiteral("+%1 more"),
+            QStringLiteral("Couldn't open %1 without Tor: %2"),
+            QStringLiteral("Tor didn't finish connecting within 5 minutes."),
+            QStringLiteral("%1 Your network is still pointed at Tor. Click Restore Network to undo.")};
+        const QString text = QString::fromUtf8(source);
+        return known.contains(text) ? u'[' + text + u']' : QString();
+    }
+};
+
+} // namespace
+
+class SessionTextsTest : public QObject {
+    Q_OBJECT
+
+    Brackets brackets;
+
+private Q_SLOTS:
+    void initTestCase() { QCoreApplication::installTranslator(&brackets); }
+
+    void translatesWhatItKnows_data()
+    {
+        QTest::addColumn<QString>("said");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("a sentence") << QStringLiteral("Starting Tor…") << QStringLiteral("[Starting Tor…]");
+        QTest::newRow("a number") << QStringLiteral("Testing 7 bridges…") << QStringLiteral("[Testing 7 bridges…]");
+        QTest::newRow("a count") << QStringLiteral("+2 more") << QStringLiteral("[+2 more]");
+        QTest::newRow("somebody else's words") << QStringLiteral("Guard is down") << QStringLiteral("Guard is down");
+        QTest::newRow("nothing") << QString() << QString();
+        QTest::newRow("places within what is filled in")
+            << QStringLiteral("Couldn't open a%2 without Tor: b%1") << QStringLiteral("[Couldn't open a%2 without Tor: b%1]");
+        QTest::newRow("a sentence within a sentence")
+            << QStringLiteral("Tor didn't finish connecting within 5 minutes. Your network is still pointed at Tor. "
+                              "Click Restore Network to undo.")
+            << QStringLiteral("[[Tor didn't finish connecting within 5 minutes.] Your network is still pointed at Tor. "
+                              "Click Restore Network to undo.]");
+    }
+    void translatesWhatItKnows()
+    {
+        QFETCH(QString, said);
+        QFETCH(QString, shown);
+        QCOMPARE(SessionTexts::translated(said), shown);
+    }
+};
+
+QTEST_GUILESS_MAIN(SessionTextsTest)
+#include "SessionTextsTest.moc"
