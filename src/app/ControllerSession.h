@@ -5,6 +5,7 @@
 
 namespace veldmark {
 
+class RunningApplications;
 class TorController;
 
 // The session that views see, on top of the controller. Reads the controller's fields once after
@@ -17,7 +18,7 @@ public:
     ControllerSession(TorController &controller, SettingsStore &settings, RunningApplications &applications);
 
     std::vector<ExitChoice> exitChoices() const override;
-    std::vector<InstalledApplication> installedApplications() const override { return m_applications.installed(); }
+    std::vector<InstalledApplication> installedApplications() const override { return veldmark::installedApplications(); }
     QString applicationName(const QString &path) const override { return m_applications.displayName(path); }
     void store(const Choices &choices) override;
     void connectToTor() override;

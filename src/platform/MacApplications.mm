@@ -1,3 +1,4 @@
+#include "platform/InstalledApplications.h"
 #include "platform/RunningApplications.h"
 
 #import <AppKit/AppKit.h>
@@ -75,6 +76,11 @@ private:
 std::unique_ptr<RunningApplications> runningApplications(const QString &)
 {
     return std::make_unique<MacApplications>();
+}
+
+std::vector<InstalledApplication> installedApplications()
+{
+    return {};
 }
 
 } // namespace veldmark
