@@ -187,7 +187,7 @@ QStringList Workbench::helperArguments(const ScriptedRunner::Call &call) const
     if (call.executable != profile.promptProgram)
         return {};
     if (profile.promptKind == PromptKind::PolicyKit)
-        return call.arguments.mid(2); // shell, script
+        return call.arguments.mid(1); // script
     const QString source = call.arguments.value(1);
     const QString before = QStringLiteral("do shell script \"");
     const qsizetype end = source.indexOf(QLatin1String("\" with prompt \""));

@@ -59,6 +59,8 @@ Window {
                         checked: window.pane === index
                         hoverEnabled: true
                         Accessible.role: Accessible.PageTab
+                        Accessible.selectable: true
+                        Accessible.selected: checked
                         Accessible.name: text
                         onClicked: window.pane = index
                         Keys.onUpPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
