@@ -12,7 +12,6 @@ usage: ./build.sh VERB
   demo     show the whole thing on a private Tor network: no internet, nothing changed outside it
   test     every test: unit, helper, lab and a moment of each fuzzer
   asan     the unit tests under the address and undefined-behaviour sanitizers
-  tsan     the tests of what uses threads under the thread sanitizer
   coverage which lines of src/ the unit tests run
   fuzz     the fuzzers, an hour over all (--minutes M for another time)
   soak     500 connects and disconnects, and two hours of a fast clock, in the private Tor network
@@ -38,13 +37,13 @@ packages=(
     python3 openssl ca-certificates curl tcpdump shellcheck unzip netcat-openbsd openssh-client iputils-ping zsh dash
     libglib2.0-bin dconf-cli dconf-gsettings-backend gsettings-desktop-schemas dbus
     python3-stem nyx
-    clang libclang-rt-14-dev gcovr
+    clang libclang-rt-14-dev libobjc-12-dev gcovr
     qt6-svg-dev qt6-l10n-tools qt6-declarative-dev-tools qml6-module-qtquick
     qml6-module-qtquick-templates qml6-module-qtquick-window qml6-module-qtquick-layouts
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
     fonts-noto-core fonts-noto-mono fonts-noto-color-emoji
     xvfb xauth xdotool openbox dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi python3-dbus
-    dpkg-dev lintian debootstrap appstream desktop-file-utils mandoc bash-completion
+    dpkg-dev lintian debootstrap appstream desktop-file-utils mandoc
 )
 
 missing_packages() {
@@ -95,11 +94,11 @@ deps() {
 }
 
 # unpack FOLDER PROGRAM PACKAGE...: fetches packages whose programs the tests run in namespaces. Installing
-# them would change this machine (systemd-resolved takes over its resolver, the SSH server would start), so they
-# are only unpacked, into build/FOLDER.
+# them would change this machine (systemd-resolved takes over its resolver, the SSH server would start) or bring
+# much that nobody needs (the headers of GNUstep), so they are only unpacked, into build/FOLDER.
 unpack() {
     local target=build/$1 program=$2 folder package
-    [[ ! -x $target/$program ]] || return 0
+    [[ ! -e $target/$program ]] || return 0
     shift 2
     folder=$(mktemp -d)
     if (cd "$folder" && { apt-get download "$@" || { apt-get update && apt-get download "$@"; }; } &&
@@ -116,6 +115,7 @@ unpack() {
 unpack_services() {
     unpack resolved lib/systemd/systemd-resolved systemd-resolved
     unpack sshd usr/sbin/sshd openssh-server libwrap0
+    unpack gnustep usr/include/GNUstep/AppKit/AppKit.h libgnustep-gui-dev libgnustep-base-dev
 }
 
 # Compiles one preset; a failure shows the first error lines, not the whole log.
@@ -215,11 +215,6 @@ package-test)
     exec /usr/bin/python3 tests/package/test_debian.py build/veldmark_*.deb "$@"
     ;;
 dist) dist ;;
-tsan)
-    deps
-    compile tsan
-    ctest --preset tsan "$@"
-    ;;
 coverage)
     deps
     compile asan

@@ -64,18 +64,34 @@ int main(int argc, char **argv)
         return 1;
     stage.picture();
 
+    // A frame: what follows from the news is done by the event loop, then it is drawn.
+    const auto draw = [&] {
+        QCoreApplication::processEvents();
+        window->grabWindow();
+    };
+    const auto atEnd = [list] { return list->property("atYEnd").toBool(); };
+    bool followed = true;
     const Times added = measure(repetitions, [&](int i) {
         stage.log.show(LogFeed::State::lines, some(1 + i));
-        window->grabWindow();
+        draw();
+        followed &= atEnd();
     });
     const Times replaced = measure(repetitions, [&](int i) {
         stage.log.show(LogFeed::State::lines, some(i % 2 == 0 ? 0 : lines));
-        window->grabWindow();
+        draw();
+        followed &= atEnd();
     });
+    stage.picture();
+    const double before = list->property("contentY").toDouble();
     const Times scrolled = measure(repetitions, [&](int) {
         QMetaObject::invokeMethod(list, "scrollBy", Q_ARG(double, -60.0));
-        window->grabWindow();
+        draw();
     });
+    const bool moved = list->property("contentY").toDouble() < before - 30.0 * repetitions;
+    if (!followed || !moved) {
+        QTextStream(stderr) << "LogWindowBench: the list did not do what was to be measured\n";
+        return 1;
+    }
     const QJsonObject result{
         {QStringLiteral("bench"), QStringLiteral("log window")},
         {QStringLiteral("repetitions"), repetitions},

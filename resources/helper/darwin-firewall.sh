@@ -4,7 +4,22 @@
 # refers to it. A token keeps pf on for us and is given back; what others hold stays theirs.
 
 readonly FIREWALL_ENTRY=10-firewall
-readonly RULES=$RUN/firewall.pf   # 0600; the rules in force, for putting them back when somebody flushed them
+readonly RULES=$RUN/firewall.pf       # 0600; the rules in force, for putting them back when somebody flushed them
+readonly LISTED=$RUN/firewall.listed  # 0600; the same as pf lists them
+readonly RULES_LOCK=/private/var/db/veldmark.rules   # whoever changes the rules holds it; the watcher has no other lock
+
+# hold_rules / release_rules: descriptor 7.
+hold_rules() { { exec 7>>"$RULES_LOCK"; } && perl -e "$HOLD" 7 10; }
+release_rules() { exec 7>&-; }
+
+# list_rules: what our anchor holds.
+list_rules() { pfctl -a "$ANCHOR" -s nat && pfctl -a "$ANCHOR" -s rules; }
+
+# note_listing: what the watcher compares with.
+note_listing() {
+  local text
+  text=$(list_rules) && write_file "$LISTED" 0600 root "$text"$'\n'
+}
 
 # pf_words: the first line that pfctl had to say, without what it says each time.
 pf_words() {
@@ -65,37 +80,40 @@ take_back_reference() {
 }
 
 # held_token: prints the token of the entry that was read, if pf still knows it. A run that was killed before it could
-# note its token has noted the process that took it.
+# note its token has noted the process that took it. Status 2: that cannot be told.
 held_token() {
-  local token enabler pid name held rest
-  [[ $(journal_value boot) == "$(boot_id)" ]] || return 0
+  local token enabler pid name held rest boot listing
+  boot=$(boot_id) || return 2
+  [[ $(journal_value boot) == "$boot" ]] || return 0
   token=$(journal_value token) || token=''
   enabler=$(journal_value enabler) || enabler=''
+  [[ -n $token$enabler ]] || return 0
+  listing=$(pfctl -s References) || return 2
   while read -r pid name held rest; do
     [[ $held =~ ^[0-9]+$ ]] || continue
     if [[ $held == "$token" ]] || [[ -z $token && $pid == "$enabler" && $name == pfctl ]]; then
       printf '%s' "$held"
-      return
+      return 0
     fi
-  done < <(pfctl -s References)
+  done <<<"$listing"
 }
 
 # enable_firewall: keeps pf on until the token is given back.
 enable_firewall() {
-  local output token
+  local output token boot
   journal_read "$FIREWALL_ENTRY" || true
-  token=$(held_token)
+  { boot=$(boot_id) && token=$(held_token); } || die "The firewall's state cannot be read."
   if [[ -z $token ]]; then
     # In bash 3.2 a subshell learns its process id from a child only. It is pfctl's too, which it becomes.
     # shellcheck disable=SC2016
     output=$(
       pid=$(exec sh -c 'echo "$PPID"') &&
-        journal_put "$FIREWALL_ENTRY" "boot $(boot_id)" "enabler $pid" && exec pfctl -E 2>&1
+        journal_put "$FIREWALL_ENTRY" "boot $boot" "enabler $pid" && exec pfctl -E 2>&1
     ) || die "The firewall cannot be switched on ($(pf_words "$output"))."
     [[ $output =~ Token\ :\ ([0-9]+) ]] || die "The firewall gave no token."
     token=${BASH_REMATCH[1]}
   fi
-  journal_put "$FIREWALL_ENTRY" "boot $(boot_id)" "token $token" || die "The journal cannot be written."
+  journal_put "$FIREWALL_ENTRY" "boot $boot" "token $token" || die "The journal cannot be written."
 }
 
 # kill_states: connections from before a change must not go on.
@@ -118,13 +136,17 @@ put_firewall() {
   else
     text=$(print_proxy_rules "$TOR_UID" "$CALLER_UID")
   fi
+  hold_rules || die "Somebody else is changing the firewall. Try again in a moment."
   put_marker "$1"
   write_file "$RULES" 0600 root "$text"$'\n' || die "The file $RULES cannot be written."
   put_rules "$text"
+  release_rules
 }
 
+# put_rules TEXT: whoever calls it holds the rules.
 put_rules() {
   load_rules "$1"
+  note_listing || die "The file $LISTED cannot be written."
   put_reference
   enable_firewall
   kill_states || die "The firewall cannot end the connections from before."
@@ -133,6 +155,11 @@ put_rules() {
 # undo_firewall: empty rules open the network; the rest is tidying. Status 3: it is open, but the entry must stay.
 undo_firewall() {
   local output token
+  # Held to the end of the run, when the marker has gone as well.
+  if command -v perl >/dev/null && ! hold_rules; then
+    UNDONE="The firewall could not be opened, because somebody is changing it."
+    return 1
+  fi
   if ! output=$(pfctl -q -a "$ANCHOR" -f - 2>&1 </dev/null); then
     UNDONE="The firewall could not be opened ($(pf_words "$output"))."
     return 1
@@ -142,8 +169,7 @@ undo_firewall() {
     UNDONE="The network is open, but the firewall's main rules could not be put back."
     return 3
   fi
-  token=$(held_token)
-  if [[ -n $token ]] && ! pfctl -q -X "$token"; then
+  if ! token=$(held_token) || { [[ -n $token ]] && ! pfctl -q -X "$token"; }; then
     UNDONE="The network is open, but the firewall could not be given back."
     return 3
   fi

@@ -194,8 +194,13 @@ restore_service() {
   [[ $HAS_DISCOVERY == "$(journal_value discovery)" ]] ||
     net -setproxyautodiscovery "$1" "$(on_off "$(journal_value discovery)")" || return 1
   net -setdnsservers "$1" "${dns[@]}" || return 1
-  read_service "$1" && [[ $HAS_SOCKS == "$state" ]] || return 1
-  if [[ ${dns[0]} == Empty ]]; then ((${#HAS_DNS[@]} == 0)); else [[ ${HAS_DNS[*]-} == "${dns[*]}" ]]; fi
+  [[ ${dns[0]} != Empty ]] || dns=()
+  [[ ${bypass[0]} != Empty ]] || bypass=()
+  # A host that was empty and cannot be emptied again does nothing while the proxy is off.
+  read_service "$1" && [[ $HAS_SOCKS == "$state" && ( -z $host || $HAS_HOST == "$host" ) ]] &&
+    [[ ${HAS_DNS[*]-} == "${dns[*]-}" && ${HAS_BYPASS[*]-} == "${bypass[*]-}" ]] &&
+    [[ $HAS_WEB == "$(journal_value web)" && $HAS_SECURE == "$(journal_value secure)" ]] &&
+    [[ $HAS_AUTO == "$(journal_value auto)" && $HAS_DISCOVERY == "$(journal_value discovery)" ]]
 }
 
 # undo_service: status 1: not all of it could be put back. 3: it cannot be put back now, but the network is open.

@@ -2,7 +2,7 @@
 # ---- macOS: connect and disconnect -------------------------------------------------------------------------
 
 darwin_connect() {
-  local mode=proxy former status=0
+  local mode=proxy former boot status=0
   parse_connect "$@"
   [[ $OPT_STRICT == 0 ]] || mode=strict
   need_programs perl pfctl networksetup launchctl dscl dscacheutil lsof sysctl ifconfig stat shasum readlink
@@ -13,6 +13,7 @@ darwin_connect() {
   ready_programs
   read_names
   ready_torrc
+  boot=$(boot_id) || die "The firewall's state cannot be read."
 
   # From here on the network changes. A strict session in force stays so until its successor stands.
   former=$(read_marker)
@@ -25,12 +26,13 @@ darwin_connect() {
   else
     ON_FAILURE=undo
   fi
-  journal_has "$FIREWALL_ENTRY" || journal_put "$FIREWALL_ENTRY" "boot $(boot_id)" || die "The journal cannot be written."
+  journal_has "$FIREWALL_ENTRY" || journal_put "$FIREWALL_ENTRY" "boot $boot" || die "The journal cannot be written."
   [[ $mode != strict ]] || ready_exempt
   if [[ $former != strict || $mode == strict ]]; then
     put_firewall "$mode"
   fi
   if [[ $mode == strict ]]; then
+    start_watcher
     ON_FAILURE=
     STAYS_CLOSED=" The network stays blocked until you disconnect."
   fi
@@ -39,6 +41,7 @@ darwin_connect() {
   start_tor
   put_services "$OPT_LAN"
   if [[ $former == strict && $mode == proxy ]]; then
+    undo_entry "$WATCHER_ENTRY" || die "$UNDONE"
     put_firewall proxy
   fi
   ON_FAILURE=
@@ -60,6 +63,7 @@ undo_entry() {
   "$SERVICE_ENTRY"-*) undo_service ;;
   "$NAMES_ENTRY") undo_names ;;
   "$TOR_ENTRY") undo_tor ;;
+  "$WATCHER_ENTRY") undo_watcher ;;
   "$FIREWALL_ENTRY") undo_firewall ;;
   esac || done=$?
   ((done == 0)) || return "$done"
@@ -77,14 +81,14 @@ undo_session() {
   undo_services "$noted" || status=$?
   ((status == 0)) || reason=${UNDONE:-The former network settings could not all be restored.}
   ((status != 1)) || open=''
-  for name in "$NAMES_ENTRY" "$TOR_ENTRY" "$FIREWALL_ENTRY"; do
+  for name in "$NAMES_ENTRY" "$TOR_ENTRY" "$WATCHER_ENTRY" "$FIREWALL_ENTRY"; do
     UNDONE='' status=0
     undo_entry "$name" || status=$?
     ((status == 0)) || reason=${reason:-${UNDONE:-The former network settings could not all be restored.}}
     ((status != 1)) || open=''
   done
-  [[ -z $open ]] || rm -f -- "$MARKER" "$RULES"
-  rm -f -- "$MARKER.new" "$RULES.new" "$TOR_JOB.new" "$TORRC.checked" "$HOSTS.new"
+  [[ -z $open ]] || rm -f -- "$MARKER" "$RULES" "$LISTED"
+  rm -f -- "$MARKER.new" "$RULES.new" "$LISTED.new" "$RELOCKED.new" "$WATCHER.new" "$WATCH_JOB.new" "$TOR_JOB.new" "$TORRC.checked" "$HOSTS.new"
   [[ ! -d $JOURNAL ]] || rm -f -- "$JOURNAL"/*.new
   UNDONE=$reason
   [[ -z $reason ]]
@@ -99,8 +103,11 @@ darwin_fix-dns() {
   trap finish EXIT
   { [[ -f $MARKER ]] && folders_are_safe; } || die "Veldmark is not connected, so the DNS settings were left alone."
   if [[ -f $RULES ]]; then
+    hold_rules || die "Somebody else is changing the firewall. Try again in a moment."
     put_rules "$(<"$RULES")"
+    release_rules
   fi
+  [[ $(read_marker) != strict ]] || job_process "$WATCH_LABEL" >/dev/null || start_watcher
   put_services "$(session_lan)"
 }
 

@@ -20,10 +20,10 @@ readonly FIRST_ID=350 LAST_ID=499   # below 500 accounts are hidden; the system'
 TOR_UID='' TOR_GID=''
 CALLER_NAME='' CALLER_GID='' CALLER_HOME=''
 
-# The lock belongs to the open file, which is this shell's descriptor 9 as well, so it outlives perl.
+# DESCRIPTOR SECONDS: the lock belongs to the open file, which is this shell's as well, so it outlives perl.
 # shellcheck disable=SC2016
 readonly HOLD='
-open(my $lock, ">&=", 9) or exit 1;
+open(my $lock, q(>&=), shift) or exit 1;
 my $end = time() + shift;
 until (flock($lock, 6)) { exit 1 if time() > $end; select(undef, undef, undef, 0.02); }'
 
@@ -35,7 +35,7 @@ take_lock() {
   cd /
   [[ ! -L $LOCK ]] || die "The lock file $LOCK is a link, so nothing was done."
   { exec 9>>"$LOCK"; } || die "The lock file $LOCK cannot be opened."
-  perl -e "$HOLD" "$LOCK_SECONDS" || die "Another run of the helper is still working. Try again in a moment."
+  perl -e "$HOLD" 9 "$LOCK_SECONDS" || die "Another run of the helper is still working. Try again in a moment."
 }
 
 # find_caller: the administrator prompt of macOS runs us as root and does not say for whom. Then it is for the user who
@@ -48,10 +48,11 @@ find_caller() {
   done < <(scutil <<<"show State:/Users/ConsoleUser" || true)
 }
 
+# boot_id: tells one run of the computer from the next.
 boot_id() {
   local id
-  id=$(sysctl -n kern.bootsessionuuid) || id=unknown
-  printf '%s' "${id:-unknown}"
+  id=$(sysctl -n kern.bootsessionuuid) && [[ -n $id ]] || return 1
+  printf '%s' "$id"
 }
 
 # folder_is_safe "MODE UID KIND": a real folder of root's that nobody else can write.

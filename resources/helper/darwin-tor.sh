@@ -8,7 +8,6 @@ readonly TOR_LABEL=veldmark.tor
 readonly TOR_JOB=$RUN/tor.plist           # 0644
 readonly LAUNCHD_OUT=$RUN/launchd.out     # what Tor prints before its log stands
 readonly START_POLLS=100   # of about 0.1 s: Tor opens its control port within 10 s or it failed
-readonly STOP_POLLS=100    # of about 0.1 s: launchd kills a Tor that has not ended after 4 s
 
 # print_job: the paths are of safe characters only.
 print_job() {
@@ -61,18 +60,6 @@ print_job() {
 END
 }
 
-# job_process: prints the process id of Tor's job; nothing when it is loaded but does not run. Status 1: not loaded;
-# 2: launchd did not tell.
-job_process() {
-  local output status=0
-  output=$(launchctl list "$TOR_LABEL" 2>&1) || status=$?
-  if ((status != 0)); then
-    [[ $status == 113 || $output == *"Could not find service"* ]] || return 2
-    return 1
-  fi
-  [[ ! $output =~ \"PID\"\ =\ ([0-9]+)\; ]] || printf '%s' "${BASH_REMATCH[1]}"
-}
-
 # tor_listens PROCESS: whether it has opened the control port.
 tor_listens() {
   local held
@@ -98,14 +85,13 @@ start_tor() {
   ready_logs || die "Tor's log files cannot be made."
   write_file "$TOR_JOB" 0644 root "$(print_job)"$'\n' || die "The file $TOR_JOB cannot be written."
   journal_put "$TOR_ENTRY" "label $TOR_LABEL" || die "The journal cannot be written."
-  launchctl enable "system/$TOR_LABEL" || true   # somebody may have disabled it for good
-  output=$(launchctl bootstrap system "$TOR_JOB" 2>&1) || {
+  output=$(start_job "$TOR_LABEL" "$TOR_JOB" 2>&1) || {
     output=${output%%$'\n'*}
     die "Tor could not be started (${output//[[:cntrl:]]/ })."
   }
   for ((poll = 0; poll < START_POLLS; poll++)); do
     status=0
-    process=$(job_process) || status=$?
+    process=$(job_process "$TOR_LABEL") || status=$?
     ((status != 1)) || die "Tor did not start: $(tor_failure)"
     # It opens all its ports before it fails for one of them.
     if [[ -n $process ]]; then
@@ -122,21 +108,7 @@ start_tor() {
 
 # undo_tor: needs no note, because launchd knows the job by its label.
 undo_tor() {
-  local poll status
-  for ((poll = 0; poll < STOP_POLLS; poll++)); do
-    status=0
-    job_process >/dev/null || status=$?
-    if ((status == 1)); then
-      rm -f -- "$TOR_JOB"
-      return 0
-    fi
-    # It comes back before a slow Tor has gone.
-    if ((poll % 50 == 0)); then
-      launchctl bootout "system/$TOR_LABEL" || true
-    else
-      sleep 0.1
-    fi
-  done
+  stop_job "$TOR_LABEL" && rm -f -- "$TOR_JOB" && return 0
   UNDONE="Tor could not be stopped."
   return 1
 }

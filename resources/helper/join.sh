@@ -12,8 +12,8 @@ linux)
     linux-watcher linux-session)
   ;;
 darwin)
-  own=(darwin-state programs torrc darwin-rules darwin-firewall darwin-tor darwin-names darwin-services darwin-exempt
-    darwin-session)
+  own=(darwin-state programs torrc darwin-rules darwin-firewall darwin-jobs darwin-tor darwin-watcher
+    darwin-names darwin-services darwin-exempt darwin-session)
   ;;
 *)
   printf '%s\n' "$usage" >&2

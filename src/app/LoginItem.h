@@ -5,7 +5,8 @@
 
 namespace veldmark {
 
-// Whether the program starts when the user logs in: an autostart entry of the desktop. Main thread.
+// Whether the program starts when the user logs in: an autostart entry of the desktop (LoginItem.cpp), or the system's
+// list of login items (MacLoginItem.mm). Main thread.
 class LoginItem {
 public:
     explicit LoginItem(const PlatformProfile &profile) : m_path(profile.autostartFile) {}
@@ -13,7 +14,7 @@ public:
     bool isSet() const;
     // Writes or removes the entry. The error is a sentence for the user.
     Result<void, QString> set(bool on) const;
-    // The entry for a program at `executable`; its path is quoted as the format asks.
+    // The desktop's entry for a program at `executable`; its path is quoted as the format asks. Not on macOS.
     static QString entry(const QString &executable);
 
 private:

@@ -1,5 +1,6 @@
 #include "app/Windows.h"
 
+#include "app/Activation.h"
 #include "ui/Module.h"
 #include "ui/Symbols.h"
 
@@ -135,6 +136,7 @@ bool Windows::open(const QString &name)
     window->show();
     window->raise();
     window->requestActivate();
+    comeToFront();
     return true;
 }
 
@@ -158,6 +160,7 @@ void Windows::togglePanel(const QRect &anchor)
     panel->show();
     panel->raise();
     panel->requestActivate();
+    comeToFront();
 }
 
 QQuickWindow *Windows::find(const QString &name) const

@@ -1,3 +1,4 @@
+#include "app/Activation.h"
 #include "app/Application.h"
 #include "app/LastWords.h"
 
@@ -39,6 +40,7 @@ int main(int argc, char **argv)
     application.setApplicationVersion(QStringLiteral(VELDMARK_VERSION));
     application.setDesktopFileName(QStringLiteral("veldmark"));
     application.setQuitOnLastWindowClosed(false);
+    becomeMenuBarProgram();
     application.setWindowIcon(QPixmap::fromImage(Symbols::image(QStringLiteral("veldmark"), 64, QColor(0x62, 0x36, 0xc9))));
 
     QTranslator translator;

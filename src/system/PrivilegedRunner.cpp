@@ -76,6 +76,11 @@ HelperError policyKitError(const ProcessResult &result, const QString &script)
                 "Administrator access can't be asked for: no PolicyKit authentication agent is "
                 "running in this session."));
         }
+        // pkexec's own agent on a terminal asks, but polkit then takes the answer only from an agent of the user's.
+        if (says("No session for cookie")) {
+            return HelperError::failed(QStringLiteral(
+                "The password could not be checked: polkit takes none from this terminal. Run it with sudo."));
+        }
         if (says("Error executing command as another user: Not authorized")
             || says("Error checking for authorization ")) {
             return HelperError::failed(QStringLiteral("Administrator access was refused."));

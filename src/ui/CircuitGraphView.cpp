@@ -93,6 +93,7 @@ void CircuitGraphView::rebuild()
         layOut();
     }
     light();
+    Q_EMIT hoveredChanged(); // it may be elsewhere, or gone
     update();
 }
 
@@ -160,6 +161,7 @@ void CircuitGraphView::geometryChange(const QRectF &now, const QRectF &before)
     QQuickPaintedItem::geometryChange(now, before);
     layOut();
     light();
+    Q_EMIT hoveredChanged(); // the node is elsewhere now
     update();
 }
 

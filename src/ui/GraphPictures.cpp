@@ -91,7 +91,7 @@ const QImage &GraphPictures::country(const QString &text, bool emoji, const QCol
     constexpr double size = 26;
     return kept(named(emoji ? "flag" : "letters", {text, number(ink)}), {size, size}, [&](QPainter &painter) {
         QFont font = m_font;
-        font.setPixelSize(emoji ? 15 : 11);
+        font.setPixelSize(emoji ? 17 : 11);
         font.setWeight(emoji ? QFont::Normal : QFont::DemiBold);
         painter.setFont(font);
         painter.setPen(ink);

@@ -2,11 +2,13 @@
 
     probes.py send          sends one of each probe
     probes.py listen        prints "ready", then one line for each packet: KIND NAME-OR-PORT
+    probes.py flood         sends those of FLOOD again and again after the line "go" on standard input, until "stop"
     probes.py hold          opens a UDP socket and a TCP connection, and uses both at each line on standard input
 
 A probe is known by its destination: every probe has an address or a port of its own.
 """
 
+import select
 import socket
 import struct
 import sys
@@ -49,6 +51,11 @@ PROBES = {
 }
 
 
+# Each ends with the call that sends it: nothing is left open, and no connection comes about.
+FLOOD = ("https", "tcp6", "udp", "udp6", "quic", "dns", "dns6", "ntp", "ping", "bound-udp", "lan-udp")
+FLOOD_PAUSE = 0.005   # seconds between two rounds
+
+
 def is6(address):
     return ":" in address
 
@@ -82,6 +89,24 @@ def send():
             pass   # refused on the spot; whether it got out is for the listener to say
 
 
+def flood():
+    running = False
+    print("ready", flush=True)
+    while True:
+        if select.select([sys.stdin], [], [], FLOOD_PAUSE if running else None)[0]:
+            word = sys.stdin.readline().strip()
+            if not word:
+                return
+            running = word == "go"
+            print(word, flush=True)
+        elif running:
+            for name in FLOOD:
+                try:
+                    send_probe(*PROBES[name])
+                except OSError:
+                    pass
+
+
 def seen(packet):
     """'NAME' of the probe that an Ethernet frame carries, 'sentinel PORT', 'dhcp', 'neighbour', or 'other'."""
     protocol = struct.unpack("!H", packet[12:14])[0]
@@ -112,6 +137,7 @@ def seen(packet):
 
 def listen():
     with socket.socket(socket.AF_PACKET, socket.SOCK_RAW, socket.htons(3)) as wire:
+        wire.setsockopt(socket.SOL_SOCKET, 33, 64 << 20)   # SO_RCVBUFFORCE
         wire.bind(("veth1", 0))
         print("ready", flush=True)
         while True:
@@ -143,5 +169,7 @@ if __name__ == "__main__":
         send()
     elif sys.argv[1] == "listen":
         listen()
+    elif sys.argv[1] == "flood":
+        flood()
     elif sys.argv[1] == "hold":
         hold()

@@ -1,12 +1,47 @@
 #!/bin/bash -p
-# stepped.sh HELPER COUNT_FILE KILL_AT ARGUMENT...: runs the helper's functions and kills the shell with SIGKILL before
-# its KILL_ATth command; 0 never does, and writes the number of commands to COUNT_FILE. Subshells count on from the
-# number at which they began, so a kill may also come while one of them is at work.
-helper=$1 count_file=$2 kill_at=$3 step=0
-shift 3
+# stepped.sh HELPER CHANGES KILL_AFTER EDGE MARK ARGUMENT...: runs the helper's functions. Each command that changes something is
+# written to the file CHANGES as one line, its way through the functions, before it runs. Right after the change whose line is
+# KILL_AFTER the shell is killed with SIGKILL, and the subshell that it was made in; '' kills nothing. The program MARK runs once,
+# before the first command that begins with EDGE ('' for none); for EDGE note_listing, before a kill that comes between the
+# loading of the rules and that.
+helper=$1 changes=$2 kill_after=$3 edge=$4 mark=$5
+shift 5
 set -o functrace
 . "$helper"
-trap '((++step == kill_at)) && kill -KILL $$' DEBUG
+: >"$changes"
+
+# is_change COMMAND
+is_change() {
+  case $1 in
+  mkdir\ * | mv\ * | rm\ * | rmdir\ * | chmod\ * | chown\ * | mount\ * | umount\ * | useradd\ * | kill\ * | nft\ -f* | "nft delete "*) ;;
+  timeout\ * | "sync -- \"\$new\"" | :\ \>*) ;;
+  *) return 1 ;;
+  esac
+}
+
+# stop_after COMMAND LINES: notes a change; whether it is the one to end with. A line that comes again, in a loop, gets a number.
+stop_after() {
+  local line number
+  is_change "$1" || return 1
+  line="$2 $1"
+  line=${line//[[:cntrl:]]/ }
+  number=$(grep -cF -- "$line #" "$changes" || true)
+  line="$line #$number"
+  printf '%s\n' "$line" >>"$changes"
+  [[ $line == "$kill_after" ]]
+}
+
+# at_edge COMMAND: whether the mark is to be made now.
+at_edge() {
+  [[ -n $edge && $1 == "$edge"* && ! -e $changes.marked ]] && : >"$changes.marked"
+}
+
+rm -f -- "$changes.marked"
+trap '
+  if at_edge "$BASH_COMMAND"; then "$mark" || true; fi
+  if stop_after "$BASH_COMMAND" "${FUNCNAME[*]} ${BASH_LINENO[*]}"; then
+    eval "$BASH_COMMAND" || true
+    if at_edge "${BASH_COMMAND/#nft -f*/note_listing}"; then "$mark" || true; fi
+    kill -KILL $$ $BASHPID
+  fi' DEBUG
 main "$@"
-trap - DEBUG
-printf '%s\n' "$step" >"$count_file"

@@ -6,68 +6,12 @@ import subprocess
 import namespace
 import probes
 from namespace import HelperTest, Peer, USER_UID
+from wire import LINK, PROBES_PY, Wire
 
-PROBES_PY = namespace.os.path.join(namespace.HERE, "probes.py")
 ALL = set(probes.PROBES)
 
-# Seen when nothing blocks it, whatever the state.
-LINK = {"neighbour"}
 # Never seen with rules: a packet to the loopback address on the wire.
 NEVER = {"bound-loopback"}
-
-
-class Wire:
-    """The machine with a peer at the other end of its only link, and the listener there."""
-
-    def __init__(self, machine):
-        self.machine = machine
-        self.peer = Peer(machine)
-        self.marks = 2000
-        self.peer.run("/bin/bash", "-c", f"""
-            ip link set lo up; ip link set veth1 up
-            ip addr add {probes.LAN}/24 dev veth1; ip addr add {probes.LAN6}/64 dev veth1 nodad
-            for a in {probes.PUBLIC} {probes.SENTINEL} 203.0.113.53; do ip addr add $a/32 dev lo; done
-            ip addr add {probes.PUBLIC6}/128 dev lo
-        """)
-        machine.shell(f"""
-            ip link set veth0 up; ip addr add 192.168.77.2/24 dev veth0; ip addr add fd00:77::2/64 dev veth0 nodad
-            ip route add default via {probes.LAN}; ip -6 route add default via {probes.LAN6}
-        """)
-        self.listener = subprocess.Popen(
-            self.peer.command(["/usr/bin/python3", PROBES_PY, "listen"]), stdout=subprocess.PIPE, text=True)
-        assert self.listener.stdout.readline() == "ready\n"
-        self.server = subprocess.Popen(
-            self.peer.command(["/usr/bin/python3", "-c",
-                               "import socket; s = socket.create_server(('0.0.0.0', 1001), backlog=64); print('up', flush=True);\n"
-                               "kept = []\nwhile True: kept.append(s.accept())"]), stdout=subprocess.PIPE, text=True)
-        assert self.server.stdout.readline() == "up\n"
-
-    def close(self):
-        for process in self.listener, self.server:
-            process.kill()
-            process.wait()
-            process.stdout.close()
-        self.peer.close()
-
-    def mark(self):
-        """Sends what is let through in every state, a connection attempt of Tor's account, and returns the lines of
-        the listener up to its arrival: packets of one link keep their order."""
-        self.marks += 1
-        uid = self.machine.tor_uid
-        self.machine.run("/usr/bin/python3", "-c",
-                         f"import socket; s = socket.socket(); s.setblocking(False); s.connect_ex(('{probes.SENTINEL}', {self.marks}))",
-                         uid=int(uid))
-        lines = []
-        while True:
-            line = self.listener.stdout.readline().strip()
-            if line == f"sentinel {self.marks}":
-                return lines
-            lines.append(line)
-
-    def arrivals(self, uid=0):
-        self.mark()
-        self.machine.run("/usr/bin/python3", PROBES_PY, "send", uid=uid)
-        return set(self.mark()) - LINK
 
 
 class Firewall(HelperTest):

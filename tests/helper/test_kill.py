@@ -1,13 +1,21 @@
-"""kill -9 of the helper at steps spread over its whole run: a disconnect afterwards puts everything back, and a strict
-session is never open on the way."""
+"""kill -9 of the helper right after each of its changes: a disconnect afterwards puts everything back, and a strict session is
+never open on the way. Probes are sent all the time and seen at the other end of the machine's only link whenever nothing blocks
+them. Each test prints how many points it has tried.
+
+    test_kill.py Strict | Proxy | RandomMoments
+"""
 
 import os
+import random
+import time
 
 import namespace
 from namespace import HASH, TOR, HelperTest
+from wire import EDGE, LINK, Flood, Wire
 
 STEPPED = os.path.join(namespace.HERE, "stepped.sh")
-TRIALS = int(os.environ.get("VELDMARK_KILL_TRIALS", "15"))   # for each way through the helper
+RANDOM_TRIALS = int(os.environ.get("VELDMARK_KILL_TRIALS", "6"))   # for each way through the helper
+BEFORE, AFTER = "before", "after"
 
 
 def connect_words(strict):
@@ -22,44 +30,92 @@ class Kill(HelperTest):
         super().setUpClass()
         cls.machine.run("/bin/bash", "-c", "mkdir /home/alice/.config; printf '[Proxy Settings]\nProxyType=4\n' >/home/alice/.config/kioslaverc",
                         uid=namespace.USER_UID)
+        cls.machine.tor_uid = cls.machine.shell("id -u _veldmark").strip()
+        cls.wire = Wire(cls.machine)
+        cls.edge_program = cls.wire.edge_program()
+        cls.flood = Flood(cls.machine)
+        cls.before = cls.machine.snapshot()
 
-    def stepped(self, kill_at, words):
-        return self.machine.run("env", "-i", f"PKEXEC_UID={namespace.USER_UID}", "/bin/bash", "-p", STEPPED, self.machine.helper, "/run/steps", str(kill_at),
-                                *words, check=False)
+    @classmethod
+    def tearDownClass(cls):
+        cls.flood.close()
+        cls.wire.close()
+        super().tearDownClass()
 
-    def steps_of(self, words):
-        done = self.stepped(0, words)
+    def stepped(self, kill_after, edge, words):
+        return self.machine.run("env", "-i", f"PKEXEC_UID={namespace.USER_UID}", "/bin/bash", "-p", STEPPED, self.machine.helper,
+                                "/run/changes", kill_after, edge, self.edge_program, *words, check=False)
+
+    def connect(self, strict="1"):
+        """As the user's session."""
+        self.machine.help(*connect_words(strict), env={"PATH": "/usr/bin:/bin", "PKEXEC_UID": str(namespace.USER_UID)})
+
+    def changes(self, words):
+        done = self.stepped("", "", words)
         self.assertEqual(done.returncode, 0, done.stderr)
-        return int(self.machine.shell("cat /run/steps; rm /run/steps"))
+        return self.machine.shell("cat /run/changes; rm -f /run/changes").splitlines()
 
     def state(self):
-        """After a kill: the marker, whether the kill switch stands, whether the resolver is switched."""
+        """After a kill: the marker, whether the kill switch stands, whether rules are there, whether the resolver is switched."""
         # What the killed shell had started still holds the lock; the next run waits for it as well.
         text = self.machine.shell("flock /run/veldmark.lock true; cat /var/lib/veldmark/state/active 2>/dev/null; echo; "
                                   "nft list ruleset; cat /etc/resolv.conf")
         return text.split("\n")[0], "policy drop" in text, "table inet" in text, "nameserver 127.0.0.1" in text
 
-    def trials(self, prepare, words, check):
-        before = self.machine.snapshot()
-        prepare()
-        steps = self.steps_of(words)
-        self.machine.help("disconnect")
-        self.assertGreater(steps, 100)
-        outcomes = set()
-        for trial in range(TRIALS):
-            kill_at = 1 + (steps - 1) * trial // max(1, TRIALS - 1)
-            with self.subTest(kill_at=kill_at, steps=steps):
-                prepare()
-                done = self.stepped(kill_at, words)
-                outcomes.add(done.returncode)
-                state = self.state()
-                check(state)
-                self.machine.help("disconnect")
-                self.assertEqual(self.machine.snapshot(), before)
-        self.assertIn(137, {code % 256 for code in outcomes} | {128 - code for code in outcomes if code < 0},
-                      "no run was killed")
+    def is_open(self):
+        """Waits until the probes are seen."""
+        self.wire.wait_for(lambda line: line not in LINK and not line.startswith("sentinel"))
 
-    def test_connect_strict(self):
+    def assert_restored(self):
+        """By one disconnect; the probes are seen again, and nothing differs."""
+        self.machine.help("disconnect")
+        self.is_open()
+        self.flood.stop()
+        self.assertEqual(self.machine.snapshot(), self.before)
+
+    def trial(self, prepare, run, check, edge="", closed=None):
+        """`closed`: BEFORE or AFTER the edge, no probe may be seen as long as rules drop; None promises nothing."""
+        self.flood.go()
+        self.is_open()
+        prepare()
+        self.wire.mark()
+        done = run(edge)
+        state = self.state()
+        seen = self.wire.mark()
+        check(state)
+        if closed == AFTER:
+            seen = seen[seen.index(EDGE):] if EDGE in seen else [] if not state[1] else self.fail("the rules stand without a mark")
+        elif closed == BEFORE and EDGE in seen:
+            seen = seen[:seen.index(EDGE)]
+        elif closed == BEFORE:
+            self.assertTrue(state[1])
+        if closed:
+            self.assertEqual(set(seen) - LINK - {EDGE}, set())
+        self.assert_restored()
+        return done
+
+    def every_point(self, prepare, words, check, edge="", closed=None, only=lambda point: True):
+        prepare()
+        points = [point for point in self.changes(words) if only(point)]
+        self.machine.help("disconnect")
+        started = time.monotonic()
+        for point in points:
+            with self.subTest(point):
+                try:
+                    done = self.trial(prepare, lambda e, p=point: self.stepped(p, e, words), check, edge, closed)
+                    # How many children a process has differs from run to run.
+                    if '"$child" #' not in point:
+                        self.assertIn(done.returncode, (-9, 137), f"this change was not reached: {done.stderr}")
+                finally:
+                    self.machine.help("disconnect", check=False)
+                    self.flood.stop()
+        print(f"{self.id().split('.', 1)[1]}: killed at {len(points)} points, {time.monotonic() - started:.0f} s", flush=True)
+        return len(points)
+
+
+class Strict(Kill):
+    def test_connect(self):
+        """Nothing is blocked before; from the lock on nothing leaves."""
         def check(state):
             marker, drop, table, resolver = state
             if not marker:
@@ -68,35 +124,29 @@ class Kill(HelperTest):
                 self.assertTrue(drop, "the resolver was switched before the kill switch stood")
             if self.machine.tor_pids():
                 self.assertTrue(drop, "Tor ran before the kill switch stood")
-        self.trials(lambda: None, connect_words("1"), check)
+        self.assertGreater(self.every_point(lambda: None, connect_words("1"), check, "note_listing", AFTER), 30)
 
-    def test_connect_proxy(self):
-        def check(state):
-            marker, _, table, resolver = state
-            if not marker:
-                self.assertFalse(table or resolver)
-        self.trials(lambda: None, connect_words("0"), check)
+    def test_the_very_first_connect(self):
+        """With none of our folders there. What it does later is the same as at any connect."""
+        self.every_point(lambda: self.machine.shell("rm -rf /var/lib/veldmark"), connect_words("1"),
+                         lambda state: self.assertFalse(any(state)), only=lambda point: "ready_folders" in point)
 
-    def test_connect_strict_again(self):
-        def check(state):
-            self.assertEqual(state[:2], ("strict", True))
-        self.trials(self.machine.connect, connect_words("1"), check)
-
-    def test_change_from_strict_to_proxy(self):
-        def check(state):
-            if not state[1]:
-                self.assertEqual(state[0], "proxy")
-                self.assertTrue(self.machine.tor_pids(), "the kill switch opened before the new Tor ran")
-        self.trials(self.machine.connect, connect_words("0"), check)
+    def test_connect_again(self):
+        self.assertGreater(self.every_point(self.connect, connect_words("1"),
+                                            lambda state: self.assertEqual(state[:2], ("strict", True)), "", BEFORE), 30)
 
     def test_fix_dns(self):
-        def check(state):
-            self.assertEqual(state[:2], ("strict", True))
-
         def prepare():
-            self.machine.connect()
+            self.connect()
             self.machine.shell("umount /etc/resolv.conf")
-        self.trials(prepare, ["fix-dns"], check)
+        self.assertGreater(self.every_point(prepare, ["fix-dns"], lambda state: self.assertEqual(state[:2], ("strict", True)), "", BEFORE), 4)
+
+    def test_fix_dns_with_a_dead_watcher(self):
+        def prepare():
+            self.connect()
+            self.machine.end_watcher()
+        self.every_point(prepare, ["fix-dns"], lambda state: self.assertEqual(state[:2], ("strict", True)), "", BEFORE,
+                         only=lambda point: "watcher" in point)
 
     def test_disconnect(self):
         def check(state):
@@ -105,7 +155,85 @@ class Kill(HelperTest):
                 self.assertTrue(drop, "the kill switch opened while Tor ran")
             if not marker:
                 self.assertFalse(drop)
-        self.trials(self.machine.connect, ["disconnect"], check)
+        self.assertGreater(self.every_point(self.connect, ["disconnect"], check, "nft delete table", BEFORE), 15)
+
+    def test_change_to_proxy_mode(self):
+        def check(state):
+            if not state[1]:
+                self.assertEqual(state[0], "proxy")
+                self.assertTrue(self.machine.tor_pids(), "the kill switch opened before the new Tor ran")
+        self.assertGreater(self.every_point(self.connect, connect_words("0"), check, "switch_firewall proxy", BEFORE), 30)
+
+
+class Proxy(Kill):
+    def connect_proxy(self):
+        self.connect("0")
+
+    def test_connect(self):
+        def check(state):
+            marker, drop, table, resolver = state
+            self.assertFalse(drop)
+            if not marker:
+                self.assertFalse(table or resolver)
+        self.assertGreater(self.every_point(lambda: None, connect_words("0"), check), 30)
+
+    def test_disconnect(self):
+        self.assertGreater(self.every_point(self.connect_proxy, ["disconnect"], lambda state: self.assertFalse(state[1])), 10)
+
+    def test_fix_dns(self):
+        def prepare():
+            self.connect_proxy()
+            self.machine.shell("umount /etc/resolv.conf")
+        self.assertGreater(self.every_point(prepare, ["fix-dns"], lambda state: self.assertEqual(state[:2], ("proxy", False))), 4)
+
+    def test_change_to_strict_mode(self):
+        def check(state):
+            marker, drop, _, _ = state
+            if drop:
+                self.assertEqual(marker, "strict")
+        self.assertGreater(self.every_point(self.connect_proxy, connect_words("1"), check, "note_listing", AFTER), 30)
+
+
+class RandomMoments(Kill):
+    """The helper as it ships, killed at any time of its run."""
+
+    def killed(self, words, seconds):
+        return self.machine.run("/bin/bash", "-c", 'env -i PKEXEC_UID="$1" /bin/bash "${@:3}" & pid=$!; sleep "$2"; kill -KILL $pid; wait $pid',
+                                "killed", str(namespace.USER_UID), f"{seconds:.4f}", self.machine.helper, *words, check=False)
+
+    def trials(self, prepare, words, check, closed=None):
+        seed = int(os.environ.get("VELDMARK_SEED") or time.time_ns() % 1000000)
+        moments = random.Random(seed)
+        prepare()
+        started = time.monotonic()
+        self.machine.run("env", "-i", f"PKEXEC_UID={namespace.USER_UID}", "/bin/bash", self.machine.helper, *words)
+        whole = time.monotonic() - started
+        self.machine.help("disconnect")
+        killed = 0
+        for trial in range(RANDOM_TRIALS):
+            seconds = moments.uniform(0, whole)
+            with self.subTest(f"VELDMARK_SEED={seed}", trial=trial, seconds=seconds):
+                try:
+                    done = self.trial(prepare, lambda _, s=seconds: self.killed(words, s), check, "", closed)
+                    killed += done.returncode == 137
+                finally:
+                    self.machine.help("disconnect", check=False)
+                    self.flood.stop()
+        print(f"{self.id().split('.', 1)[1]}: killed {killed} of {RANDOM_TRIALS} times within {whole:.2f} s, VELDMARK_SEED={seed}", flush=True)
+
+    def test_connect(self):
+        for strict in "1", "0":
+            self.trials(lambda: None, connect_words(strict), lambda state: None)
+
+    def test_connect_again(self):
+        self.trials(self.connect, connect_words("1"), lambda state: self.assertEqual(state[:2], ("strict", True)), BEFORE)
+
+    def test_fix_dns(self):
+        self.trials(self.connect, ["fix-dns"], lambda state: self.assertEqual(state[:2], ("strict", True)), BEFORE)
+
+    def test_disconnect(self):
+        for strict in "1", "0":
+            self.trials(lambda s=strict: self.connect(s), ["disconnect"], lambda state: None)
 
 
 if __name__ == "__main__":

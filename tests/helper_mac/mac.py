@@ -5,6 +5,7 @@ Linux has are gone, and those that only a Mac has are the stand-ins of standins.
 the real one, with `DisableNetwork 1`. What a real Mac would say or do beyond that is not shown here.
 """
 
+import fcntl
 import os
 import shutil
 import sys
@@ -116,13 +117,22 @@ class Mac(namespace.Machine):
 
     @state.setter
     def state(self, values):
-        self.write("/mac/state", "".join(f"{key}\t{escaped(value)}\n" for key, value in sorted(values.items())))
+        """For a Mac at rest; while stand-ins run, set_state is for changes."""
+        self.write("/mac/state.test", "".join(f"{key}\t{escaped(value)}\n" for key, value in sorted(values.items())))
+        os.rename(self.root + "/mac/state.test", self.root + "/mac/state")
+
+    def end_watcher(self):
+        self.run("/usr/bin/launchctl", "bootout", "system/veldmark.watch")
+
+    def set_state(self, values):
+        """Changes some of it at once, kept apart from the stand-ins that run meanwhile."""
+        with open(self.root + "/mac/lock", "a", encoding="ascii") as lock:
+            fcntl.flock(lock, fcntl.LOCK_EX)
+            self.state = {**self.state, **values}
 
     def change(self, **values):
         """Keys with "_" for blanks."""
-        state = self.state
-        state.update({key.replace("_", " "): value for key, value in values.items()})
-        self.state = state
+        self.set_state({key.replace("_", " "): value for key, value in values.items()})
 
     def reset(self):
         """A Mac before its first connect."""
@@ -180,7 +190,7 @@ class Mac(namespace.Machine):
         files = self.shell(r"""
             find "/Library/Application Support/Veldmark/state" "/Library/Application Support/Veldmark/journal" -type f 2>/dev/null || true
             md5sum /private/etc/hosts; /mac/gnu/stat -c '%a %u %g' /private/etc/hosts
-            pgrep -u 352 || true; pgrep -x tor || true""")
+            pgrep -x tor || true; pgrep -f /watcher[.]sh || true""")
         return state, files
 
     def verdict(self, direction, proto="tcp", device="en0", **packet):

@@ -1,10 +1,10 @@
 #!/usr/bin/python3
 """The program for a long time, in the private Tor network: it takes as much at the end as at the start.
 
-usage: soak.py [--cycles N] [--hours H] [--seed N] [--programs FOLDER] [--json FILE]
+usage: soak.py [--cycles N] [--minutes M] [--hours H] [--seed N] [--programs FOLDER] [--json FILE]
 
-cycles  connects and disconnects one running instance N times (500), in both modes by turns. In one of ten, Tor is killed
-        while it is connected. The host must then be as it was before.
+cycles  connects and disconnects one running instance N times (500), in both modes by turns, or as often as M minutes (60)
+        permit. In one of ten, Tor is killed while it is connected. The host must then be as it was before.
 hours   keeps a session for H hours (2) of a clock that runs sixty times as fast, with circuits and log being looked at.
         Tor is killed at random, and its log grows.
 
@@ -86,7 +86,7 @@ def growth(readings: list[dict]) -> list[str]:
     return grown
 
 
-def cycles(lab: Lab, product: Product, count: int, chance: random.Random) -> tuple[list[str], dict]:
+def cycles(lab: Lab, product: Product, count: int, minutes: float, chance: random.Random) -> tuple[list[str], dict]:
     before = lab.host.snapshot()
     readings, kills, started = [], 0, time.monotonic()
     with product.session(connect=False) as session:
@@ -101,15 +101,17 @@ def cycles(lab: Lab, product: Product, count: int, chance: random.Random) -> tup
             else:
                 product.run_verb("disconnect", check=True)
             readings.append(taken(lab, product))
+            if time.monotonic() - started > minutes * 60:
+                print(f"  the time is over after {number + 1} cycles", flush=True)
+                break
             if (number + 1) % 50 == 0:
                 print(f"  {number + 1} cycles, {kills} with Tor killed, {time.monotonic() - started:.0f} s: {readings[-1]}", flush=True)
         session.interrupt()
     problems = growth(readings)
-    product_settings = "/root/.config/veldmark"
-    lab.host.run(["rm", "-rf", product_settings], check=True)
+    lab.host.run(["rm", "-rf", "/root/.config/veldmark"], check=True)
     if left := difference(before, lab.host.snapshot()):
         problems.append("the host is not as it was: " + left)
-    return problems, {"cycles": count, "kills": kills, "seconds": round(time.monotonic() - started), "first": readings[0], "last": readings[-1]}
+    return problems, {"cycles": len(readings), "kills": kills, "seconds": round(time.monotonic() - started), "first": readings[0], "last": readings[-1]}
 
 
 def hours(lab: Lab, programs: Path, length: float, chance: random.Random) -> tuple[list[str], dict]:
@@ -152,6 +154,7 @@ def hours(lab: Lab, programs: Path, length: float, chance: random.Random) -> tup
 def main() -> int:
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--cycles", type=int, default=500)
+    parser.add_argument("--minutes", type=float, default=60)
     parser.add_argument("--hours", type=float, default=2)
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--programs", type=Path, default=PROJECT / "build" / "bin")
@@ -165,7 +168,7 @@ def main() -> int:
             product = Product(lab, programs)
             if given.cycles:
                 print(f"{given.cycles} cycles", flush=True)
-                found, report["cycles"] = cycles(lab, product, given.cycles, chance)
+                found, report["cycles"] = cycles(lab, product, given.cycles, given.minutes, chance)
                 problems += found
             if given.hours:
                 print(f"{given.hours} hours of a fast clock", flush=True)

@@ -8,9 +8,12 @@ The programs, the helper and the policy lie where the package puts them. A small
 import contextlib
 import json
 import os
+import pty
 import re
 import subprocess
 import sys
+import termios
+import time
 import unittest
 import xml.etree.ElementTree as tree
 from pathlib import Path
@@ -122,6 +125,62 @@ class Prompt(unittest.TestCase):
             self.assertEqual((connect.returncode, connect.stderr), (1, NO_AGENT))
             self.assertEqual(session.wait_phase("disconnected")["errorMessage"], NO_AGENT[len("veldmarkctl: "):-1])
             session.interrupt()
+        self.assert_untouched()
+
+    def test_polkits_own_agent_on_a_terminal_asks_there(self):
+        with self.session() as session:
+            registered = "/home/alice/registered"   # pkttyagent closes it once polkit knows it
+            self.lab.host.run(["mkfifo", registered], user=self.lab.host.user, check=True)
+            command = f"exec pkttyagent --notify-fd 9 --process {self.pid('veldmarkctl')} 9>{registered}"
+            terminal, inner = pty.openpty()
+            agent = self.lab.host.popen(["setsid", "--ctty", "--wait", "sh", "-c", command], user=self.lab.host.user,
+                                        stdin=inner, stdout=inner, stderr=inner)
+            os.close(inner)
+            try:
+                self.lab.host.run(["cat", registered], user=self.lab.host.user, check=True, timeout=20)
+                connect = self.lab.host.popen([self.product.ctl, "connect"], user=self.lab.host.user,
+                                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+                shown = b""
+                while b"Password: " not in shown:
+                    shown += os.read(terminal, 4096)   # fails when the agent has ended
+                self.assertIn(b"Veldmark needs administrator access to manage Tor routing on this computer.", shown)
+                # It drops what was typed before it has switched the echo off.
+                while termios.tcgetattr(terminal)[3] & termios.ECHO:
+                    time.sleep(0.01)
+                os.write(terminal, self.lab.host.user.encode() + b"\n")
+                output = connect.communicate(timeout=90)[0]
+                self.assertEqual(connect.returncode, 0, output)
+            finally:
+                agent.terminate()
+                agent.wait(20)
+                os.close(terminal)
+            with self.agent(self.pid("veldmarkctl"), "approve"):
+                self.assertEqual(self.product.run_verb("disconnect", timeout=60).returncode, 0)
+            self.lab.host.run(["rm", registered], check=True)
+            session.interrupt()
+        self.assert_untouched()
+
+    def test_pkexecs_own_question_on_a_terminal_ends_with_a_sentence(self):
+        terminal, inner = pty.openpty()
+        run = self.lab.host.popen(["setsid", "--ctty", "--wait", self.product.ctl, "run", "--connect"],
+                                  user=self.lab.host.user, stdin=inner, stdout=inner, stderr=inner)
+        os.close(inner)
+        shown = b""
+        try:
+            while b"Password: " not in shown:
+                shown += os.read(terminal, 4096)
+            self.assertIn(b"Veldmark needs administrator access to manage Tor routing on this computer.", shown)
+            while termios.tcgetattr(terminal)[3] & termios.ECHO:
+                time.sleep(0.01)
+            os.write(terminal, self.lab.host.user.encode() + b"\n")
+            with contextlib.suppress(OSError):   # how Linux tells that nobody has the other end open
+                while some := os.read(terminal, 4096):
+                    shown += some
+            self.assertEqual(run.wait(30), 1)
+        finally:
+            os.close(terminal)
+        self.assertIn("veldmarkctl: The password could not be checked: polkit takes none from this terminal. Run it "
+                      "with sudo.\r\n", shown.decode())
         self.assert_untouched()
 
     def test_an_approval_is_not_kept_for_the_next_time(self):

@@ -193,6 +193,24 @@ class Installed(Case):
         self.assertEqual(self.debian.shell("find /etc -type f ! -name '*-' ! -name '.pwd.lock' | sort"), files)
 
 
+    def test_another_tor_on_the_port_is_named(self):
+        """As Debian's own service, which starts when tor is installed."""
+        other = self.debian.popen(["tor", "-f", "/dev/null", "--SocksPort", "9050", "--DataDirectory", "/tmp/other"],
+                                  stdout=subprocess.PIPE, text=True)
+        try:
+            for line in other.stdout:
+                if "Opened Socks listener" in line:
+                    break
+            with self.product.session() as session:
+                state = session.wait(lambda s: s["errorMessage"])
+                self.assertRegex(state["errorMessage"], r"^Tor did not start: .*9050")
+                session.interrupt()
+        finally:
+            other.terminate()
+            other.communicate()
+        self.assert_network_is_whole()
+
+
 class Upgraded(Case):
     def test_while_connected_nothing_gets_out_and_the_rules_stand(self):
         with self.probing():

@@ -3,10 +3,8 @@
 
 #include <QAccessible>
 #include <QDir>
-#include <QPainter>
 #include <QQmlComponent>
 #include <QQuickItem>
-#include <QQuickPaintedItem>
 #include <QRegularExpression>
 #include <QSet>
 #include <QSignalSpy>
@@ -437,31 +435,6 @@ private Q_SLOTS:
         if (share > 2.0)
             now.save(QDir::temp().filePath(QStringLiteral("veldmark-now-%1.png").arg(scene)));
         QVERIFY2(share <= 2.0, qPrintable(QStringLiteral("%1 % of the picture differs").arg(share)));
-    }
-
-    void drawsManyCircuitsQuickly_data()
-    {
-        QTest::addColumn<int>("count");
-        QTest::newRow("30") << 30;
-        QTest::newRow("300") << 300;
-    }
-    void drawsManyCircuitsQuickly()
-    {
-        QFETCH(int, count);
-        Stage stage;
-        Snapshot snapshot = Scenes::protectedSession();
-        snapshot.circuits = Scenes::circuits(count);
-        stage.session.show(snapshot);
-        QVERIFY(stage.open(QStringLiteral("circuits/CircuitsWindow.qml"), windows(stage).at(2).properties));
-        stage.picture();
-        auto *graph = stage.window()->findChild<QQuickPaintedItem *>(QStringLiteral("graph"));
-        QVERIFY(graph);
-        QImage canvas(graph->size().toSize(), QImage::Format_ARGB32_Premultiplied);
-        QBENCHMARK {
-            canvas.fill(Qt::white);
-            QPainter painter(&canvas);
-            graph->paint(&painter);
-        }
     }
 };
 

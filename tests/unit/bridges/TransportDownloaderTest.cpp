@@ -4,6 +4,7 @@
 #include "../checks/SocksProxy.h"
 #include "BundleBench.h"
 #include "bridges/PluggableTransports.h"
+#include "support/Interruption.h"
 #include "support/ManualClock.h"
 #include "system/ChildProcessRunner.h"
 
@@ -15,6 +16,8 @@ using Kind = DownloadError::Kind;
 using Outcome = TransportDownloader::Outcome;
 
 namespace {
+
+InterruptibleApplication *application = nullptr;
 
 const QByteArray indexPath = "/index.json";
 const QByteArray keyPath = "/key";
@@ -575,6 +578,30 @@ private Q_SLOTS:
         QCOMPARE((*kept)->error().description(), QStringLiteral("Cancelled."));
     }
 
+    // Right after it was resumed, for each of its waits: the former bundle stands there or the new one, and nothing is left.
+    void mayBeDestroyedAtEveryWait()
+    {
+        for (int wait = 1;; ++wait) {
+            putBundle();
+            makeDownloader(source());
+            bool destroyed = false;
+            application->interrupt(wait, InterruptibleApplication::Moment::after, [this, &destroyed] {
+                destroyed = true;
+                m_downloader.reset();
+            });
+            const auto kept = begin();
+            QTRY_VERIFY_WITH_TIMEOUT(kept->has_value(), 30'000);
+            application->leaveAlone();
+            QTRY_COMPARE(temporaryFolders(), m_formerTemporaries);
+            QCOMPARE(mark(), kept->value() ? QByteArray("fourteen") : QByteArray("former"));
+            if (!destroyed) {
+                QVERIFY(kept->value());
+                QVERIFY2(wait > 8, qPrintable(QStringLiteral("only %1 waits").arg(wait - 1)));
+                break;
+            }
+        }
+    }
+
     void clearsUpAfterOneThatWasKilled()
     {
         const QString temporary = QStringLiteral("/tmp/vmk-00000000-0000-4000-8000-00000000000a");
@@ -599,5 +626,12 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TransportDownloaderTest)
+int main(int argc, char **argv)
+{
+    InterruptibleApplication app(argc, argv);
+    application = &app;
+    TransportDownloaderTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "TransportDownloaderTest.moc"

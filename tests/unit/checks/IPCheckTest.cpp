@@ -62,6 +62,7 @@ private Q_SLOTS:
         row("an empty address", "{'IsTor':true,'IP':''}");
         row("an address with something after it", "{'IsTor':true,'IP':'fe80::1%<b>eth0</b>'}");
         row("an address with a NUL in it", "{'IsTor':true,'IP':'203.0\\u0000113.7'}");
+        QTest::newRow("an address that is too long") << json(("{'IsTor':true,'IP':'" + QByteArray(46, '0') + "'}").constData());
         row("an array", "[{'IsTor':true,'IP':'203.0.113.7'}]");
         row("half", "{'IsTor':true,'IP':'203.0");
         row("two objects", "{'IsTor':true,'IP':'203.0.113.7'}{}");

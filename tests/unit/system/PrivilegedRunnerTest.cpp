@@ -277,6 +277,12 @@ private Q_SLOTS:
             << QByteArray("printf '%s\\n\\n%s\\n' 'Error executing command as another user: Not authorized'"
                           " 'This incident has been reported.' >&2; exit 127")
             << Kind::Failed << refused;
+        QTest::newRow("asked on a terminal in vain")
+            << QByteArray("printf '%s\\n' 'polkit-agent-helper-1: error response to PolicyKit daemon: GDBus.Error:"
+                          "org.freedesktop.PolicyKit1.Error.Failed: No session for cookie'"
+                          " 'Error executing command as another user: Not authorized' >&2; exit 127")
+            << Kind::Failed
+            << QStringLiteral("The password could not be checked: polkit takes none from this terminal. Run it with sudo.");
         QTest::newRow("the helper's own 127")
             << QByteArray("echo 'ERROR: tor was not found' >&2; exit 127")
             << Kind::Failed << QStringLiteral("tor was not found");

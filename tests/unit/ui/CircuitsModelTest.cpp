@@ -72,6 +72,26 @@ private Q_SLOTS:
         QVERIFY(model.steps().isEmpty());
     }
 
+    void tellsTheRoundTripWhereTorDoes()
+    {
+        StandInSession session(profile);
+        CircuitsModel model(session);
+        CircuitInfo leg = circuit("3");
+        leg.purpose = QStringLiteral("CONFLUX");
+        leg.roundTrip = std::chrono::microseconds(182'600);
+        session.show(connectedWith({circuit("1"), leg}));
+        QVERIFY(!model.data(model.index(0), CircuitsModel::DetailRole).toString().contains(QLatin1String("ms")));
+        QVERIFY(model.data(model.index(1), CircuitsModel::DetailRole).toString().endsWith(QStringLiteral("183\u00a0ms")));
+        model.follow(QStringLiteral("1"));
+        QCOMPARE(model.followedRow(), 0);
+        QCOMPARE(model.purpose(), QString());
+        model.follow(QStringLiteral("3"));
+        QCOMPARE(model.followedRow(), 1);
+        QCOMPARE(model.purpose(), QStringLiteral("Round trip: 183\u00a0ms\nOne of several linked legs to the same exit"));
+        model.follow({});
+        QCOMPARE(model.followedRow(), -1);
+    }
+
     void showsThePathAsSteps()
     {
         StandInSession session(profile);

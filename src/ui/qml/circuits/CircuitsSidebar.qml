@@ -23,6 +23,7 @@ Rectangle {
         }
         ListView {
             id: list
+            objectName: "list"
             Layout.fillWidth: true
             Layout.fillHeight: true
             Layout.minimumHeight: 72

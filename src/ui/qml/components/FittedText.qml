@@ -6,15 +6,13 @@ Text {
     id: fitted
     property double maximumWidth: 1000
 
-    width: Math.min(Math.ceil(measure.advanceWidth) + 2, maximumWidth)
+    readonly property double longest: text.split("\n").reduce((most, line) => Math.max(most, measure.advanceWidth(line)), 0)
+
+    width: Math.min(Math.ceil(longest) + 2, maximumWidth)
     font.pixelSize: Theme.bodySize
     color: Theme.text
     wrapMode: Text.Wrap
     textFormat: Text.PlainText
 
-    TextMetrics {
-        id: measure
-        font: fitted.font
-        text: fitted.text
-    }
+    FontMetrics { id: measure; font: fitted.font }
 }

@@ -14,7 +14,7 @@ T.Button {
 
     text: title
     Layout.fillWidth: true
-    implicitHeight: Math.max(36, row.implicitHeight + 8)
+    implicitHeight: Math.max(32, row.implicitHeight + 8)
     hoverEnabled: true
     Accessible.name: text
     Accessible.description: subtitle + (subtitle !== "" && value !== "" ? ". " : "") + value

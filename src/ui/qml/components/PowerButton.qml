@@ -10,7 +10,8 @@ T.Button {
     required property int tone
     required property bool busy
     required property double progress // 0…1
-    readonly property bool filled: tone !== PanelModel.Accent || !busy
+    // The ring that has filled stays round the button while what was promised has been seen to hold.
+    readonly property bool closed: !busy && (tone === PanelModel.Good || tone === PanelModel.Info)
 
     implicitWidth: 140
     implicitHeight: 140
@@ -19,10 +20,11 @@ T.Button {
     ProgressRing {
         id: ring
         anchors.fill: parent
-        visible: button.busy
-        color: Theme.accent
-        track: Theme.pressed
-        value: button.progress > 0 ? button.progress : 0.22
+        visible: button.busy || button.closed
+        color: button.closed ? Theme.tone(button.tone) : Theme.accent
+        opacity: button.closed ? 0.35 : 1
+        track: button.closed ? "transparent" : Theme.pressed
+        value: button.closed ? 1 : button.progress > 0 ? button.progress : 0.22
         Behavior on value { NumberAnimation { duration: Theme.quick; easing.type: Easing.OutCubic } }
         NumberAnimation on turn {
             running: button.busy && button.progress <= 0 && button.visible && !ColorScheme.reducedMotion

@@ -10,7 +10,7 @@ Card {
     signal applicationsWanted()
 
     title: qsTr("Options")
-    contentSpacing: 10
+    contentSpacing: 9
 
     RowLayout {
         visible: card.model.locked

@@ -1,0 +1,40 @@
+
+# ---- macOS: jobs of launchd's ------------------------------------------------------------------------------
+# A job is known by its label and lies in our own folder, so that nothing starts after a restart of the computer.
+
+readonly STOP_POLLS=100    # of about 0.1 s: launchd kills what has not ended after its time
+
+# job_process LABEL: prints the process id of a job; nothing when it is loaded but does not run. Status 1: not loaded;
+# 2: launchd did not tell.
+job_process() {
+  local output status=0
+  output=$(launchctl list "$1" 2>&1) || status=$?
+  if ((status != 0)); then
+    [[ $status == 113 || $output == *"Could not find service"* ]] || return 2
+    return 1
+  fi
+  [[ ! $output =~ \"PID\"\ =\ ([0-9]+)\; ]] || printf '%s' "${BASH_REMATCH[1]}"
+}
+
+# start_job LABEL FILE
+start_job() {
+  launchctl enable "system/$1" || true   # somebody may have disabled it for good
+  launchctl bootstrap system "$2"
+}
+
+# stop_job LABEL: status 1 when it is still there after some time.
+stop_job() {
+  local poll status
+  for ((poll = 0; poll < STOP_POLLS; poll++)); do
+    status=0
+    job_process "$1" >/dev/null || status=$?
+    ((status != 1)) || return 0
+    # It comes back before a slow job has gone.
+    if ((poll % 50 == 0)); then
+      launchctl bootout "system/$1" || true
+    else
+      sleep 0.1
+    fi
+  done
+  return 1
+}

@@ -1,0 +1,100 @@
+
+# ---- macOS: the watcher over the firewall ------------------------------------------------------------------
+# Other programs load the main rules anew as a matter of course, and then nothing refers to ours. While a strict session
+# lasts, a job of root's looks every second or two, puts back what is missing and leaves a note for the application.
+# launchd starts it again when somebody ends it. It ends at disconnect. What it runs is written into our own folder, so
+# that it depends on no file that anybody else could have changed since.
+
+readonly WATCHER_ENTRY=15-watcher
+readonly WATCH_LABEL=veldmark.watch
+readonly WATCH_JOB=$RUN/watch.plist       # 0644
+readonly WATCHER=$RUN/watcher.sh          # 0600
+readonly RELOCKED=$STATE/relocked         # 0644; "restored COUNT" or "open COUNT": how often rules were missed
+readonly WATCH_SECONDS=1                  # pf does not tell of changes
+
+# rules_stand: pf is on, asks our anchor first, and holds it as it was loaded.
+rules_stand() {
+  local info filter nat now
+  info=$(pfctl -s info) && filter=$(pfctl -s rules) && nat=$(pfctl -s nat) && now=$(list_rules) || return 1
+  [[ $info == *"Status: Enabled"* && $(print_without "$nat") != "$nat" && $now == "$(<"$LISTED")" ]] &&
+    [[ $(print_referring filter "$filter") == "$(print_normal "$filter")" ]]
+}
+
+# relock: all of it again, unless a run of the helper has changed or opened it meanwhile.
+RELOCKS=0
+relock() {
+  local word=restored
+  hold_rules || return 0
+  if [[ $(read_marker) == strict ]] && ! rules_stand; then
+    # In a shell of its own, which any failure ends.
+    (set -e; put_rules "$(<"$RULES")") || word=open
+    RELOCKS=$((RELOCKS + 1))
+    write_file "$RELOCKED" 0644 root "$word $RELOCKS"$'\n' || true
+  fi
+  release_rules
+}
+
+watch_rules() {
+  while [[ $(read_marker) == strict ]]; do
+    rules_stand || relock
+    sleep "$WATCH_SECONDS"
+  done
+}
+
+print_watcher() {
+  printf 'set -uo pipefail\numask 077\nPATH=%s\nLC_ALL=C\nexport PATH LC_ALL\ncd /\n' "$PATH"
+  declare -p ANCHOR RULES LISTED RULES_LOCK MARKER JOURNAL RELOCKED FIREWALL_ENTRY WATCH_SECONDS HOLD
+  printf 'RELOCKS=0\nJOURNAL_LINES=()\ndie() { exit 1; }\n'
+  declare -f read_marker put_in_place write_file journal_put journal_has journal_read journal_value boot_id hold_rules \
+    release_rules pf_words load_rules put_reference print_referring print_without print_normal held_token enable_firewall \
+    kill_states list_rules note_listing put_rules rules_stand relock watch_rules
+  printf 'watch_rules\nexit 0\n'
+}
+
+# print_watch_job: begun again unless it ended by itself, at the end of the session.
+print_watch_job() {
+  cat <<END
+<?xml version="1.0" encoding="UTF-8"?>
+<!DOCTYPE plist PUBLIC "-//Apple//DTD PLIST 1.0//EN" "http://www.apple.com/DTDs/PropertyList-1.0.dtd">
+<plist version="1.0">
+<dict>
+	<key>Label</key>
+	<string>$WATCH_LABEL</string>
+	<key>ProgramArguments</key>
+	<array>
+		<string>/bin/bash</string>
+		<string>-p</string>
+		<string>--</string>
+		<string>$WATCHER</string>
+	</array>
+	<key>WorkingDirectory</key>
+	<string>/</string>
+	<key>RunAtLoad</key>
+	<true/>
+	<key>KeepAlive</key>
+	<dict>
+		<key>SuccessfulExit</key>
+		<false/>
+	</dict>
+	<key>ThrottleInterval</key>
+	<integer>1</integer>
+	<key>ProcessType</key>
+	<string>Interactive</string>
+</dict>
+</plist>
+END
+}
+
+start_watcher() {
+  undo_entry "$WATCHER_ENTRY" || true
+  { write_file "$WATCHER" 0600 root "$(print_watcher)"$'\n' && write_file "$WATCH_JOB" 0644 root "$(print_watch_job)"$'\n' &&
+    journal_put "$WATCHER_ENTRY" "label $WATCH_LABEL"; } || die "The file $WATCHER cannot be written."
+  start_job "$WATCH_LABEL" "$WATCH_JOB" || die "The watcher over the firewall could not be started."
+}
+
+# undo_watcher: a change of rules that it was in the middle of is done again, or undone, after it.
+undo_watcher() {
+  stop_job "$WATCH_LABEL" && rm -f -- "$WATCHER" "$WATCH_JOB" "$RELOCKED" && return 0
+  UNDONE="The watcher over the firewall could not be stopped."
+  return 1
+}

@@ -1,0 +1,8 @@
+#include "app/Activation.h"
+
+namespace veldmark {
+
+void becomeMenuBarProgram() {}
+void comeToFront() {}
+
+} // namespace veldmark

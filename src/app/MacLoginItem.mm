@@ -1,0 +1,33 @@
+#include "app/LoginItem.h"
+
+#import <ServiceManagement/ServiceManagement.h>
+
+#include <QCoreApplication>
+
+// The system's own list of login items is the truth; nothing is stored here. Needs macOS 13 and the program in its bundle.
+namespace veldmark {
+
+bool LoginItem::isSet() const
+{
+    @autoreleasepool {
+        return [[SMAppService mainAppService] status] == SMAppServiceStatusEnabled;
+    }
+}
+
+Result<void, QString> LoginItem::set(bool on) const
+{
+    @autoreleasepool {
+        SMAppService *const service = [SMAppService mainAppService];
+        if (on == isSet())
+            return {};
+        NSError *error = nil;
+        const BOOL done = on ? [service registerAndReturnError:&error] : [service unregisterAndReturnError:&error];
+        if (done)
+            return {};
+        NSString *const reason = [error localizedDescription];
+        return Failure(reason ? QString::fromUtf8([reason UTF8String])
+                              : QCoreApplication::translate("LoginItem", "Login items can't be changed here."));
+    }
+}
+
+} // namespace veldmark

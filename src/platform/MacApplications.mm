@@ -1,0 +1,80 @@
+#include "platform/RunningApplications.h"
+
+#import <AppKit/AppKit.h>
+
+#include <QDir>
+
+#include <unistd.h>
+
+// Compiled without automatic reference counting, as everything that is asked for here belongs to an autorelease pool.
+namespace veldmark {
+
+namespace {
+
+NSString *text(const QString &string)
+{
+    return [NSString stringWithUTF8String:string.toUtf8().constData()];
+}
+
+QString text(NSString *string)
+{
+    return string ? QString::fromUtf8([string UTF8String]) : QString();
+}
+
+class MacApplications final : public RunningApplications {
+public:
+    QString displayName(const QString &path) const override
+    {
+        @autoreleasepool {
+            QString name = text([[NSFileManager defaultManager] displayNameAtPath:text(path)]);
+            return name.remove(QStringLiteral(".app"));
+        }
+    }
+
+    std::vector<qint64> copiesOf(const QString &path) const override
+    {
+        std::vector<qint64> found;
+        @autoreleasepool {
+            const QString wanted = QDir::cleanPath(path);
+            for (NSRunningApplication *application in [[NSWorkspace sharedWorkspace] runningApplications]) {
+                const pid_t process = [application processIdentifier];
+                if (process == getpid() || process <= 0) // a process of its own may not have one yet
+                    continue;
+                NSString *bundle = [[[application bundleURL] URLByStandardizingPath] path];
+                if (QDir::cleanPath(text(bundle)) == wanted)
+                    found.push_back(process);
+            }
+        }
+        return found;
+    }
+
+    void askToQuit(qint64 process) override
+    {
+        @autoreleasepool {
+            [running(process) terminate];
+        }
+    }
+
+    bool hasEnded(qint64 process) const override
+    {
+        @autoreleasepool {
+            NSRunningApplication *const application = running(process);
+            return !application || [application isTerminated];
+        }
+    }
+
+private:
+    static NSRunningApplication *running(qint64 process)
+    {
+        return [NSRunningApplication runningApplicationWithProcessIdentifier:static_cast<pid_t>(process)];
+    }
+};
+
+} // namespace
+
+std::unique_ptr<RunningApplications> runningApplications(const QString &)
+{
+    return std::make_unique<MacApplications>();
+}
+
+} // namespace veldmark

@@ -1,0 +1,125 @@
+"""A machine's only link, and everything that is seen at its other end.
+
+    wire = Wire(machine)         a Peer with a listener and a server; machine.tor_uid must be set
+    wire.mark()                  the listener's lines since the mark before
+    with Flood(machine) as f:    the probes of probes.FLOOD, sent again and again while it runs
+"""
+
+import os
+import subprocess
+import threading
+import time
+
+import namespace
+import probes
+from namespace import Peer
+
+PROBES_PY = os.path.join(namespace.HERE, "probes.py")
+# Seen when nothing blocks it, whatever the state.
+LINK = {"neighbour"}
+EDGE = "sentinel 1"   # sent by edge_program()
+# What is sent on one processor reaches the peer in the order of sending.
+ONE_PROCESSOR = ("taskset", "--cpu-list", str(min(os.sched_getaffinity(0))))
+
+
+class Wire:
+    def __init__(self, machine):
+        self.machine = machine
+        self.peer = Peer(machine)
+        self.marks = 2000
+        self.peer.run("/bin/bash", "-c", f"""
+            ip link set lo up; ip link set veth1 up
+            ip addr add {probes.LAN}/24 dev veth1; ip addr add {probes.LAN6}/64 dev veth1 nodad
+            for a in {probes.PUBLIC} {probes.SENTINEL} 203.0.113.53; do ip addr add $a/32 dev lo; done
+            ip addr add {probes.PUBLIC6}/128 dev lo
+        """)
+        machine.shell(f"""
+            ip link set veth0 up; ip addr add 192.168.77.2/24 dev veth0; ip addr add fd00:77::2/64 dev veth0 nodad
+            ip route add default via {probes.LAN}; ip -6 route add default via {probes.LAN6}
+        """)
+        self.listener = subprocess.Popen(
+            self.peer.command(["/usr/bin/python3", PROBES_PY, "listen"]), stdout=subprocess.PIPE, text=True)
+        assert self.listener.stdout.readline() == "ready\n"
+        self.lines, self.taken, self.more = [], 0, threading.Condition()
+        self.reader = threading.Thread(target=self._read, daemon=True)
+        self.reader.start()
+        self.server = subprocess.Popen(
+            self.peer.command(["/usr/bin/python3", "-c",
+                               "import socket; s = socket.create_server(('0.0.0.0', 1001), backlog=64); print('up', flush=True);\n"
+                               "kept = []\nwhile True: kept.append(s.accept())"]), stdout=subprocess.PIPE, text=True)
+        assert self.server.stdout.readline() == "up\n"
+
+    def _read(self):
+        for line in self.listener.stdout:
+            with self.more:
+                self.lines.append(line.strip())
+                self.more.notify_all()
+
+    def close(self):
+        for process in self.listener, self.server:
+            process.kill()
+            process.wait()
+        self.reader.join()
+        self.listener.stdout.close()
+        self.server.stdout.close()
+        self.peer.close()
+
+    def wait_for(self, wanted, seconds=30):
+        """The lines not taken yet, up to the first for which `wanted` holds; they are taken."""
+        deadline = time.monotonic() + seconds
+        with self.more:
+            at = self.taken
+            while True:
+                while at < len(self.lines):
+                    at += 1
+                    if wanted(self.lines[at - 1]):
+                        found = self.lines[self.taken:at]
+                        self.taken = at
+                        return found
+                if not self.more.wait(deadline - time.monotonic()):
+                    raise TimeoutError(f"not seen at the other end within {seconds} s")
+
+    def mark(self):
+        """Sends what is let through in every state, a connection attempt of Tor's account, and returns the lines of
+        the listener up to its arrival: packets of one link keep their order."""
+        self.marks += 1
+        self.machine.run(*ONE_PROCESSOR, "/usr/bin/python3", "-c",
+                         f"import socket; s = socket.socket(); s.setblocking(False); s.connect_ex(('{probes.SENTINEL}', {self.marks}))",
+                         uid=int(self.machine.tor_uid))
+        return self.wait_for(lambda line: line == f"sentinel {self.marks}")[:-1]
+
+    def arrivals(self, uid=0):
+        self.mark()
+        self.machine.run("/usr/bin/python3", PROBES_PY, "send", uid=uid)
+        return set(self.mark()) - LINK
+
+    def edge_program(self):
+        """The path in the machine of a program of root's that sends EDGE."""
+        path = "/run/edge"
+        self.machine.shell(f"printf '%s\\n' '#!/bin/sh' \"$1\" >{path}; chmod 755 {path}",
+                           f"exec {' '.join(ONE_PROCESSOR)} setpriv --reuid {self.machine.tor_uid} --clear-groups "
+                           f"/bin/bash -c 'exec 3<>/dev/tcp/{probes.SENTINEL}/1' 2>/dev/null 8>&- 9>&-")
+        return path
+
+
+class Flood:
+    """Root's probes without pause. Begins paused."""
+
+    def __init__(self, machine):
+        self.process = machine.start(*ONE_PROCESSOR, "/usr/bin/python3", PROBES_PY, "flood", stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        assert self.process.stdout.readline() == "ready\n"
+
+    def _say(self, word):
+        self.process.stdin.write(word + "\n")
+        self.process.stdin.flush()
+        assert self.process.stdout.readline() == word + "\n"
+
+    def go(self):
+        self._say("go")
+
+    def stop(self):
+        """Returns when nothing more is sent and no socket of it is open."""
+        self._say("stop")
+
+    def close(self):
+        self.process.communicate()

@@ -1,0 +1,79 @@
+"""The watcher over the Mac's firewall: what somebody else flushes or loads anew comes back by itself, and is told."""
+
+import time
+
+import mac
+from mac import MacTest
+
+RELOCKED = "/Library/Application Support/Veldmark/state/relocked"
+LIMIT_SECONDS = 30   # on a busy machine; it looks every second
+
+
+class Watcher(MacTest):
+    def wait(self, condition, what):
+        deadline = time.monotonic() + LIMIT_SECONDS
+        while not condition():
+            self.assertLess(time.monotonic(), deadline, what)
+            time.sleep(0.05)
+
+    def closed(self):
+        return self.machine.verdict("out") == "block"
+
+    def test_every_way_to_open_it_is_closed_again_and_told(self):
+        ways = {
+            "the main rules loaded anew": {"pf  filter": mac.BEFORE_PF["pf  filter"], "pf  nat": mac.BEFORE_PF["pf  nat"]},
+            "another program's rules before ours": {"pf  filter": 'pass out quick all\nanchor "veldmark" all'},
+            "our rules emptied": {"pf veldmark filter": "", "pf veldmark nat": ""},
+            "one rule less": {"pf veldmark filter": "block return out quick all"},
+            "pf switched off": {"pf enabled": "0", "pf tokens": ""},
+            "everything at once": {"pf  filter": "", "pf  nat": "", "pf veldmark filter": "", "pf enabled": "0", "pf tokens": ""},
+        }
+        self.machine.connect()
+        wanted = self.machine.state["pf veldmark filter"]
+        self.assertTrue(self.closed())
+        for count, (name, changes) in enumerate(ways.items(), 1):
+            with self.subTest(name):
+                self.machine.set_state(changes)
+                self.wait(lambda: (self.machine.read(RELOCKED) or "") == f"restored {count}\n", "it was not told")
+                state = self.machine.state
+                self.assertTrue(self.closed())
+                self.assertEqual(state["pf veldmark filter"], wanted)
+                self.assertEqual([line for line in state["pf  filter"].splitlines() if "scrub" not in line][0], 'anchor "veldmark" all')
+                self.assertIn('rdr-anchor "veldmark" all', state["pf  nat"])
+
+    def test_it_ends_with_the_session_and_is_not_there_in_proxy_mode(self):
+        self.machine.connect(strict=0)
+        self.assertNotIn("job veldmark.watch", self.machine.state)
+        self.machine.connect(strict=1)
+        self.assertIn("job veldmark.watch", self.machine.state)
+        self.machine.connect(strict=0)
+        self.assertNotIn("job veldmark.watch", self.machine.state)
+        self.machine.connect(strict=1)
+        self.machine.help("disconnect")
+        self.assertRestored()
+
+    def test_it_changes_nothing_while_all_is_well(self):
+        self.machine.connect()
+        flushes = self.machine.state["pf flushes"]
+        loop = self.machine.shell(f"grep -c . /proc/{self.machine.state['job veldmark.watch']}/cmdline")
+        self.assertNotEqual(loop, "0")
+        # It has looked once when it has slept since: a child of its own has come and gone.
+        pid, seen = self.machine.state["job veldmark.watch"], set()
+        self.wait(lambda: seen.add(self.machine.shell(f"cat /proc/{pid}/task/{pid}/children")) or len(seen) > 4, "it does not look")
+        self.assertEqual(self.machine.state["pf flushes"], flushes)
+        self.assertIsNone(self.machine.read(RELOCKED))
+
+    def test_fix_dns_starts_one_that_is_gone(self):
+        self.machine.connect()
+        self.machine.end_watcher()
+        self.machine.help("fix-dns")
+        self.assertIn("job veldmark.watch", self.machine.state)
+
+    def test_what_it_runs_is_roots_alone(self):
+        self.machine.connect()
+        self.assertEqual(self.machine.shell("/mac/gnu/stat -c '%a %u' /private/var/db/veldmark/run/watcher.sh "
+                                            "/private/var/db/veldmark/run/watch.plist"), "600 0\n644 0\n")
+
+
+if __name__ == "__main__":
+    mac.main()

@@ -1,0 +1,17 @@
+// What is used of Apple's ServiceManagement framework, declared from its public documentation, for the syntax check only:
+// there are no free headers of it.
+#import <Foundation/Foundation.h>
+
+typedef NS_ENUM(NSInteger, SMAppServiceStatus) {
+    SMAppServiceStatusNotRegistered,
+    SMAppServiceStatusEnabled,
+    SMAppServiceStatusRequiresApproval,
+    SMAppServiceStatusNotFound,
+};
+
+@interface SMAppService : NSObject
+@property (class, readonly) SMAppService *mainAppService;
+@property (readonly) SMAppServiceStatus status;
+- (BOOL)registerAndReturnError:(NSError **)error;
+- (BOOL)unregisterAndReturnError:(NSError **)error;
+@end

@@ -1,0 +1,85 @@
+"""The Mac's own sources and its bundle, as far as they can be checked elsewhere: the Objective-C++ against GNUstep's
+headers and the few declarations in apple/, the property list, and the icon.
+
+VELDMARK_GNUSTEP: unpacked packages, else the installed headers. VELDMARK_QT_HEADERS: folders, joined by ":".
+VELDMARK_MACOS: where the build makes the property list and the icon; without it those two are not looked at.
+"""
+
+import os
+import pathlib
+import plistlib
+import shutil
+import struct
+import subprocess
+import sys
+import tempfile
+import unittest
+
+ROOT = pathlib.Path(sys.argv.pop(1) if len(sys.argv) > 1 else pathlib.Path(__file__).resolve().parents[2])
+APPLE = ROOT / "tests" / "house" / "apple"
+MADE = os.environ.get("VELDMARK_MACOS")
+QT = os.environ.get("VELDMARK_QT_HEADERS", "/usr/include/x86_64-linux-gnu/qt6:/usr/include/x86_64-linux-gnu/qt6/QtCore").split(":")
+
+
+def gnustep():
+    for place in os.environ.get("VELDMARK_GNUSTEP", "") + "/usr/include/GNUstep", "/usr/include/GNUstep":
+        if os.path.exists(place + "/AppKit/AppKit.h"):
+            return place
+    return None
+
+
+def check(path):
+    """What the compiler says of the file's syntax and types; empty when nothing."""
+    words = ["clang++", "-x", "objective-c++", "-std=c++20", "-fsyntax-only", "-fobjc-runtime=gcc", "-fno-blocks", "-fPIC",
+             "-Wall", "-Wextra", "-Wshadow", "-Werror", "-DQT_NO_CAST_FROM_ASCII", "-DQT_NO_CAST_TO_ASCII", "-DQT_NO_KEYWORDS",
+             "-I", str(ROOT / "src"), "-include", str(APPLE / "missing.h")]
+    for folder in [gnustep(), str(APPLE), *sorted(map(str, pathlib.Path("/usr/lib/gcc").glob("*/*/include"))), *QT]:
+        words += ["-isystem", folder]
+    return subprocess.run([*words, str(path)], capture_output=True, text=True, check=False).stderr
+
+
+class ObjectiveC(unittest.TestCase):
+    def test_a_message_that_nobody_understands_is_found(self):
+        with tempfile.NamedTemporaryFile("w", suffix=".mm") as file:
+            file.write("#import <AppKit/AppKit.h>\nvoid f() { [[NSWorkspace sharedWorkspace] runningAplications]; }\n")
+            file.flush()
+            self.assertIn("runningAplications", check(file.name))
+
+    def test_every_source(self):
+        sources = sorted((ROOT / "src").rglob("*.mm"))
+        self.assertGreaterEqual(len(sources), 3)
+        for source in sources:
+            with self.subTest(source.name):
+                self.assertEqual(check(source), "")
+
+
+@unittest.skipUnless(MADE, "nothing has been built")
+class Bundle(unittest.TestCase):
+    def test_property_list(self):
+        with open(os.path.join(MADE, "Info.plist"), "rb") as file:
+            values = plistlib.load(file)
+        self.assertIs(values["LSUIElement"], True)
+        self.assertEqual(values["CFBundleIconFile"] + ".icns", "Veldmark.icns")
+        self.assertRegex(values["CFBundleShortVersionString"], r"^\d+\.\d+\.\d+$")
+        self.assertEqual(values["CFBundlePackageType"], "APPL")
+
+    def test_icon_holds_a_picture_for_every_size(self):
+        data = pathlib.Path(MADE, "Veldmark.icns").read_bytes()
+        self.assertEqual(data[:4], b"icns")
+        self.assertEqual(struct.unpack(">I", data[4:8])[0], len(data))
+        sizes, at = {}, 8
+        while at < len(data):
+            kind, length = data[at:at + 4].decode(), struct.unpack(">I", data[at + 4:at + 8])[0]
+            png = data[at + 8:at + length]
+            self.assertEqual(png[:8], b"\x89PNG\r\n\x1a\n")
+            sizes[kind] = struct.unpack(">II", png[16:24])
+            at += length
+        self.assertEqual(sizes, {"icp4": (16, 16), "icp5": (32, 32), "ic07": (128, 128), "ic08": (256, 256), "ic09": (512, 512),
+                                 "ic10": (1024, 1024), "ic11": (32, 32), "ic12": (64, 64), "ic13": (256, 256), "ic14": (512, 512)})
+
+
+if __name__ == "__main__":
+    if not shutil.which("clang++") or not gnustep():
+        print("The Objective-C++ check needs clang and the headers of GNUstep.")
+        sys.exit(77)
+    unittest.main()

@@ -1,0 +1,44 @@
+#!/usr/bin/python3
+"""docs/security.md names the tests that show its promises; here it is made sure that they exist.
+
+usage: test_promises.py PROJECT
+
+A name is written `file: test_name` or `NameTest: slotName`, or is a test file's name alone; with its folder
+(`helper/test_kill.py`) where files of several folders have that name.
+"""
+
+import re
+import sys
+from pathlib import Path
+
+NAME = re.compile(r"`([\w/]+(?:\.py|Test))(?:: (\w+))?`")
+
+
+def main() -> int:
+    project = Path(sys.argv[1])
+    files: dict[str, list[Path]] = {}   # of one name there may be several
+    for folder, pattern in (("tests", "*.py"), ("fuzz", "*.py"), ("tests", "*Test.cpp")):
+        for path in (project / folder).rglob(pattern):
+            files.setdefault(path.name.removesuffix(".cpp"), []).append(path)
+    promises = (project / "docs" / "security.md").read_text(encoding="utf-8")
+    missing, found = [], 0
+    for file, test in NAME.findall(promises):
+        named = file.split("/")
+        paths = [path for path in files.get(named[-1], []) if list(path.parts[-len(named):-1]) == named[:-1]]
+        if not paths:
+            missing.append(f"there is no {file}")
+        elif len(paths) > 1:
+            missing.append(f"{file} may be any of {', '.join(str(path.relative_to(project)) for path in paths)}")
+        elif test and not re.search(rf"\b(def|void) {test}\(", paths[0].read_text(encoding="utf-8")):
+            missing.append(f"{file} has no test {test}")
+        else:
+            found += 1
+    for problem in missing:
+        print("docs/security.md:", problem)
+    if found < 20:
+        print(f"docs/security.md: only {found} tests are named")
+    return 1 if missing or found < 20 else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,185 @@
+"""The files that come with the programs: valid, and in step with what the programs and the helper really know."""
+
+import json
+import os
+import re
+import subprocess
+import sys
+import tempfile
+import unittest
+import xml.etree.ElementTree as tree
+from pathlib import Path
+
+sys.dont_write_bytecode = True
+ROOT = Path(__file__).resolve().parents[2]
+PACKAGING = ROOT / "packaging"
+PROGRAMS = Path(os.environ.get("VELDMARK_PROGRAMS", ROOT / "build" / "bin"))
+METAINFO = Path(os.environ.get("VELDMARK_METAINFO", ROOT / "build/dev/packaging/org.veldmark.Veldmark.metainfo.xml"))
+
+
+def run(*words, **options):
+    return subprocess.run(list(map(str, words)), capture_output=True, text=True, check=False, timeout=60, **options)
+
+
+class InAHome(unittest.TestCase):
+    """A home folder of the test's own, so that nothing of the caller's is read or changed."""
+
+    def setUp(self):
+        self.home = self.enterContext(tempfile.TemporaryDirectory())
+        os.mkdir(f"{self.home}/run", 0o700)
+        self.environment = {"HOME": self.home, "PATH": os.environ["PATH"], "LANG": "C.UTF-8",
+                            "XDG_RUNTIME_DIR": f"{self.home}/run", "QT_QPA_PLATFORM": "offscreen"}
+
+    def ctl(self, *words):
+        return run(PROGRAMS / "veldmarkctl", *words, env=self.environment)
+
+    def commands(self) -> dict[str, set[str]]:
+        """Each command of the usage text with its options."""
+        usage = self.ctl("help").stdout
+        found = {}
+        for line in re.findall(r"(?m)^  ([a-z][a-z-]*(?: \S+)*)", usage):
+            command, *rest = re.split(r"\s{2,}", line)[0].split()
+            found[command] = {word.strip("[]") for word in rest if word.startswith("[--")}
+        self.assertGreater(len(found), 10, usage)
+        return found
+
+    def fields(self) -> set[str]:
+        return set(json.loads(self.ctl("status", "--json").stdout))
+
+    def settings(self) -> set[str]:
+        message = self.ctl("set", "nothing", "1").stderr
+        return set(re.search(r"Settings: (.*)\.", message).group(1).split(", "))
+
+
+class Completion(InAHome):
+    def complete(self, *words: str) -> set[str]:
+        """What bash offers after these words, the last of which is being typed."""
+        script = (f'source "{PACKAGING}/completions/veldmarkctl.bash"; COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); '
+                  'case $1 in veldmarkctl) _veldmarkctl ;; veldmark) _veldmark ;; esac; printf "%s\\n" "${COMPREPLY[@]}"')
+        result = run("/bin/bash", "--norc", "-c", script, "bash", *words)
+        self.assertEqual(result.stderr, "")
+        return set(result.stdout.split())
+
+    def test_bash_knows_the_commands_and_their_options(self):
+        commands = self.commands()
+        self.assertEqual(self.complete("veldmarkctl", ""), set(commands) | {"help", "--help", "--version"})
+        for command, options in commands.items():
+            if command not in ("get", "set"):
+                self.assertEqual((command, self.complete("veldmarkctl", command, "")), (command, options))
+        self.assertEqual(self.complete("veldmarkctl", "st"), {"status"})
+
+    def test_bash_knows_the_fields_and_settings(self):
+        self.assertEqual(self.complete("veldmarkctl", "get", ""), self.fields())
+        self.assertEqual(self.complete("veldmarkctl", "set", ""), self.settings())
+
+    def test_every_value_that_bash_offers_is_taken(self):
+        offered = 0
+        for setting in sorted(self.settings() - {"customTorPath"}):
+            for value in sorted(self.complete("veldmarkctl", "set", setting, "")):
+                result = self.ctl("set", setting, value)
+                self.assertEqual((setting, value, result.returncode), (setting, value, 0), result.stderr)
+                offered += 1
+        self.assertEqual(offered, 5 * 2 + 5)
+
+    def test_bash_knows_the_options_of_the_application(self):
+        shown = run(PROGRAMS / "veldmark", "--help", env=self.environment).stdout
+        options = set(re.findall(r"--[a-z]+", shown)) - {"--help-all"}   # Qt's own options are no part of it
+        self.assertIn("--hidden", options)
+        self.assertEqual(self.complete("veldmark", ""), options)
+
+    def test_zsh_knows_the_same_words(self):
+        path = PACKAGING / "completions" / "_veldmarkctl"
+        self.assertEqual(run("zsh", "-n", path).stderr, "")
+        text = path.read_text()
+        part = text.split("commands=(")[1].split("\n    )")[0]
+        self.assertEqual(set(re.findall(r"""(?m)^ +['"]([a-z-]+):""", part)), set(self.commands()) | {"help"})
+        part = text.split("_veldmark_settings=(")[1].split("\n)")[0]
+        self.assertEqual(set(re.findall(r"'(\w+):", part)), self.settings())
+        part = text.split("fields=(")[1].split("\n    )")[0]
+        self.assertEqual(set(re.findall(r"(?<!\$)\b[a-z]\w+", part.replace("$_veldmark_settings", ""))) | self.settings(),
+                         self.fields())
+        for command, options in self.commands().items():
+            line = re.search(rf"(?m)^        (?:[a-z|]+\|)?{command}(?:\|[a-z|]+)?\) _arguments (.*) ;;$", text)
+            self.assertEqual((command, set(re.findall(r"--[a-z]+", line.group(1))) if line else set()), (command, options))
+
+
+class Manuals(InAHome):
+    def page(self, name: str) -> str:
+        """As a reader sees it, without line breaks."""
+        shown = run("mandoc", "-Tutf8", "-O", "width=78", PACKAGING / "man" / name)
+        plain = re.sub(r".\x08", "", shown.stdout)
+        return " ".join(plain.split())
+
+    def test_mandoc_has_no_complaint(self):
+        for path in sorted((PACKAGING / "man").iterdir()):
+            result = run("mandoc", "-Tlint", "-Wwarning", path)
+            self.assertEqual((path.name, result.stdout, result.returncode), (path.name, "", 0))
+
+    def test_veldmarkctl_tells_every_command_option_and_setting(self):
+        source = (PACKAGING / "man" / "veldmarkctl.1").read_text()
+        for command, options in self.commands().items():
+            item = re.search(rf"(?m)^\.It Cm {command}\b(?!-)(.*)$", source)
+            self.assertIsNotNone(item, command)
+            self.assertEqual((command, {f"-{o}" for o in re.findall(r"Fl (-\w+)", item.group(1))}), (command, options))
+        part = source.split(".Sh SETTINGS")[1].split(".Sh ")[0]
+        self.assertEqual(set(re.findall(r"(?m)^\.It Cm (\w+)$", part)), self.settings())
+        usage = self.ctl("help").stdout
+        for status in range(5):
+            self.assertRegex(usage, rf"\b{status} ")
+            self.assertIn(f".It {status}\n", source)
+
+    def test_veldmark_tells_its_options(self):
+        shown = run(PROGRAMS / "veldmark", "--help", env=self.environment).stdout
+        for option in set(re.findall(r"--[a-z]+", shown)) - {"--help-all"}:
+            self.assertIn(option, self.page("veldmark.1"))
+
+    def test_the_helper_tells_every_verb_and_option(self):
+        head = (PROGRAMS / "veldmark-helper.sh").read_text().split("\n#\n")[1]
+        page = self.page("veldmark-helper.8")
+        words = set(re.findall(r"--[a-z-]+", head)) | set(re.findall(r"veldmark-helper\.sh ([a-z-]+)", head))
+        self.assertGreater(len(words), 15)
+        for word in sorted(words):
+            self.assertRegex(page, rf"(?<![\w-]){word}(?![\w-])")
+
+
+class Metadata(InAHome):
+    def test_the_desktop_entry_is_valid(self):
+        result = run("desktop-file-validate", PACKAGING / "veldmark.desktop")
+        self.assertEqual((result.stdout + result.stderr, result.returncode), ("", 0))
+
+    def test_the_desktop_entry_runs_what_exists(self):
+        options = run(PROGRAMS / "veldmark", "--help", env=self.environment).stdout
+        lines = re.findall(r"(?m)^Exec=(.*)$", (PACKAGING / "veldmark.desktop").read_text())
+        self.assertEqual(len(lines), 3)
+        for line in lines:
+            program, *words = line.split()
+            self.assertIn(program, ("veldmark", "veldmarkctl"))
+            for word in words:
+                self.assertIn(word, re.findall(r"--\w+", options) if program == "veldmark" else self.commands())
+
+    def test_the_metainfo_is_valid(self):
+        result = run("appstreamcli", "validate", "--no-net", "--no-color", METAINFO)
+        self.assertEqual(result.returncode, 0, result.stdout)
+        version = re.search(r"project\(Veldmark VERSION (\S+)", (ROOT / "CMakeLists.txt").read_text()).group(1)
+        self.assertEqual([release.get("version") for release in tree.parse(METAINFO).iter("release")][0], version)
+        self.assertIn(f"veldmark ({version})", (PACKAGING / "debian" / "changelog").read_text().splitlines()[0])
+
+    def test_the_prompt_for_connecting_is_the_programs_own_text(self):
+        profile = (ROOT / "src/platform/LinuxProfile.cpp").read_text()
+        text = re.search(r'promptText =\s*QStringLiteral\("([^"]+)"\)', profile).group(1)
+        messages = {action.get("id"): action.find("message").text
+                    for action in tree.parse(PACKAGING / "org.veldmark.helper.policy").iter("action")}
+        self.assertEqual(messages["org.veldmark.helper.connect"], text)
+
+    def test_the_pictures_can_be_drawn(self):
+        for path in (PACKAGING / "icons").iterdir():
+            self.assertEqual(tree.parse(path).getroot().tag, "{http://www.w3.org/2000/svg}svg")
+
+    def test_the_scripts_are_clean(self):
+        for name in ("prerm", "postinst", "postrm"):
+            result = run("shellcheck", "--shell=dash", PACKAGING / "debian" / name)
+            self.assertEqual((name, result.stdout), (name, ""))
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

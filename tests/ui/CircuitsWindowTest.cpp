@@ -1,0 +1,147 @@
+#include "Scenes.h"
+#include "Stage.h"
+
+#include <QGuiApplication>
+#include <QQuickItem>
+#include <QTest>
+
+using namespace veldmark;
+
+// The picture of the circuits as somebody uses it: pointing, clicking, following.
+class CircuitsWindowTest : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<Stage> stage;
+    Snapshot session;
+    QQuickItem *graph = nullptr;
+
+    void show(int circuits)
+    {
+        session = Scenes::protectedSession();
+        session.circuits = Scenes::circuits(circuits);
+        stage->session.show(session);
+        QVERIFY(stage->open(QStringLiteral("circuits/CircuitsWindow.qml"),
+                            {{QStringLiteral("model"), QVariant::fromValue(&stage->circuits)}}));
+        graph = stage->window()->findChild<QQuickItem *>(QStringLiteral("graph"));
+        QVERIFY(graph);
+        stage->picture();
+    }
+    // Where the layout puts a relay or site, in the window.
+    QPoint placeOf(const QString &label) const
+    {
+        const CircuitGraph built = CircuitGraph::build(session.circuits);
+        const GraphLayout layout(built, graph->size());
+        for (const CircuitGraph::Node &node : built.nodes)
+            if (node.label == label)
+                return graph->mapToScene(layout.positions[node.id]).toPoint();
+        return {};
+    }
+    void point(QPoint at)
+    {
+        QTest::mouseMove(stage->window(), at);
+        stage->picture();
+    }
+    void click(const QString &label)
+    {
+        const QPoint at = placeOf(label);
+        QVERIFY2(!at.isNull(), qPrintable(label));
+        QTest::mouseClick(stage->window(), Qt::LeftButton, {}, at);
+    }
+    QString help() const { return graph->property("hoveredHelp").toString(); }
+    bool standsOut() const { return graph->property("standingOut").toBool(); }
+
+private Q_SLOTS:
+    void init()
+    {
+        QGuiApplication::setFont(QFont(QStringLiteral("Noto Sans")));
+        stage = std::make_unique<Stage>();
+    }
+    void cleanup()
+    {
+        QCOMPARE(stage->warnings(), QStringList());
+        stage.reset();
+    }
+
+    void clicksOnASharedRelayGoRoundItsCircuits()
+    {
+        show(6);
+        QStringList through;
+        for (const CircuitInfo &circuit : session.circuits)
+            if (circuit.hops.front().nickname == session.circuits[0].hops.front().nickname)
+                through << circuit.id;
+        QVERIFY(through.size() > 1);
+        for (qsizetype i = 0; i <= through.size(); ++i) {
+            click(session.circuits[0].hops.front().nickname);
+            QCOMPARE(stage->circuits.followed(), through[i % through.size()]);
+        }
+        click(QStringLiteral("This Mac")); // the computer itself: the default label of the graph
+        QCOMPARE(stage->circuits.followed(), QString());
+    }
+
+    void circuitsUnderThePointerStandOut()
+    {
+        show(30);
+        const QImage before = stage->picture();
+        const RelayInfo &relay = session.circuits[20].hops[1];
+        point(placeOf(relay.nickname));
+        QVERIFY(standsOut());
+        QCOMPARE(graph->property("emphasis").toDouble(), 1.0); // at once: the stage has no motion
+        QVERIFY(help().startsWith(relay.nickname));
+        QVERIFY(help().contains(*relay.ip));
+        QVERIFY(stage->picture() != before);
+        point(graph->mapToScene(QPointF(graph->width() * 0.6, 4)).toPoint());
+        QVERIFY(!standsOut());
+        QCOMPARE(help(), QString());
+        QCOMPARE(stage->picture(), before);
+    }
+
+    void whatIsFollowedKeepsStandingOut()
+    {
+        show(30);
+        stage->circuits.follow(QStringLiteral("15"));
+        const QImage followed = stage->picture();
+        QVERIFY(standsOut());
+        point(placeOf(session.circuits[20].hops[1].nickname));
+        point(graph->mapToScene(QPointF(graph->width() * 0.6, 4)).toPoint());
+        QCOMPARE(stage->picture(), followed);
+        // Its circuit is closed: nothing is followed any more.
+        std::erase_if(session.circuits, [](const CircuitInfo &circuit) { return circuit.id == QLatin1String("15"); });
+        stage->session.show(session);
+        QVERIFY(!standsOut());
+    }
+
+    void theFollowedRowComesIntoView()
+    {
+        show(30);
+        const QString last = session.circuits.back().id;
+        stage->circuits.follow(last);
+        stage->picture();
+        auto *list = stage->window()->findChild<QQuickItem *>(QStringLiteral("list"));
+        QVERIFY(list);
+        QTRY_VERIFY(list->property("contentY").toDouble() > 500);
+        QQuickItem *item = nullptr;
+        QMetaObject::invokeMethod(list, "itemAtIndex", Q_RETURN_ARG(QQuickItem *, item), Q_ARG(int, 29));
+        QVERIFY(item);
+        const QRectF place = item->mapRectToItem(list, QRectF(0, 0, item->width(), item->height()));
+        QVERIFY(place.top() >= -1 && place.bottom() <= list->height() + 1);
+    }
+
+    void anErrorIsSaidWhereTheGraphWouldBe()
+    {
+        session = Scenes::protectedSession();
+        session.circuits.clear();
+        session.circuitError = QStringLiteral("Tor closed the control connection.");
+        stage->session.show(session);
+        QVERIFY(stage->open(QStringLiteral("circuits/CircuitsWindow.qml"),
+                            {{QStringLiteral("model"), QVariant::fromValue(&stage->circuits)}}));
+        stage->picture();
+        bool said = false;
+        for (const QQuickItem *item : stage->window()->contentItem()->findChildren<QQuickItem *>())
+            said |= item->isVisible() && item->property("text").toString() == *session.circuitError
+                && item->inherits("QQuickText");
+        QVERIFY(said);
+    }
+};
+
+QTEST_MAIN(CircuitsWindowTest)
+#include "CircuitsWindowTest.moc"
