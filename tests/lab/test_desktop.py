@@ -151,8 +151,8 @@ class BadCircumstances(DesktopCase):
         nowhere = {"HOME": "/nowhere", "XDG_RUNTIME_DIR": "/nowhere/run"}
         window = self.start(env=nowhere)
         window.wait_for("push button", "OK")
-        self.assertEqual(len(window.errors.splitlines()), 1, window.errors)
-        self.assertIn("veldmark: ", window.errors)
+        own = [line for line in window.errors.splitlines() if line.startswith("veldmark: ")]  # Qt complains as well
+        self.assertEqual(len(own), 1, window.errors)
         shown = " ".join(node["name"] + node["text"] for node in window.nodes())
         self.assertIn("veldmark-helper.sh disconnect", shown)
         window.click("push button", "OK")

@@ -24,6 +24,12 @@ public:
         m_bus.registerService(u"org.freedesktop.portal.Desktop"_s);
     }
 
+    ~Portal() override
+    {
+        m_bus.unregisterService(u"org.freedesktop.portal.Desktop"_s); // the connection outlives this object
+        m_bus.unregisterObject(u"/org/freedesktop/portal/desktop"_s);
+    }
+
     void answer(uint response, const QStringList &uris)
     {
         QDBusMessage signal = QDBusMessage::createSignal(request, u"org.freedesktop.portal.Request"_s, u"Response"_s);

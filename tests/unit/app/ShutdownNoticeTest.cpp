@@ -25,6 +25,8 @@ public:
     }
     ~Login() override
     {
+        m_bus.unregisterService(u"org.freedesktop.login1"_s); // the connection outlives this object
+        m_bus.unregisterObject(u"/org/freedesktop/login1"_s);
         for (const int end : ends)
             ::close(end);
     }
