@@ -2,7 +2,6 @@
 
 #include "app/LoginItem.h"
 #include "controller/TorController.h"
-#include "platform/RunningApplications.h"
 
 #include <QFile>
 

@@ -108,7 +108,7 @@ private Q_SLOTS:
     void aSettingsFileOfANewerVersionIsReadAndKept()
     {
         Workbench bench;
-        const QByteArray newer = "[General]\nbridgeChoice=quantum\nexitCountry=de\nformat=7\nstrictMode=sometimes\n\n[windows]\nmain=@Variant(\\0)\n";
+        const QByteArray newer = "[General]\nbridgeChoice=quantum\nexitCountry=de\nformat=7\nstrictMode=sometimes\n\n[windows]\nmain=everywhere\n";
         bench.writeFile(bench.profile.settingsFile, newer);
         bench.restart();
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
