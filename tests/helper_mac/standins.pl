@@ -310,6 +310,8 @@ sub pfctl {
         $state{"pf $anchor nat"} = $nat unless $only eq '-R';
         delete @state{"pf $anchor filter", "pf $anchor nat"} if $anchor && !length "$filter$nat";
     }
+    # A pf that holds something else than it was told.
+    $state{'pf veldmark filter'} = 'pass out quick all' if $state{'pf lies'} && defined $state{'pf veldmark filter'};
     if ($show eq 'rules') { print map { "$_\n" } split /\n/, $state{"pf $anchor filter"} // '' }
     elsif ($show eq 'nat') { print map { "$_\n" } split /\n/, $state{"pf $anchor nat"} // '' }
     elsif ($show eq 'info') {
