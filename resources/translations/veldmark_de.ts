@@ -852,10 +852,6 @@
         <translation>Tragen Sie unter Brücken → Eigene… mindestens eine Brücke ein.</translation>
     </message>
     <message>
-        <source>+%1 more</source>
-        <translation>+%1 weitere</translation>
-    </message>
-    <message>
         <source>Testing %1 bridges…</source>
         <translation>%1 Brücken werden getestet …</translation>
     </message>

@@ -2,7 +2,6 @@
 
 #include "app/LoginItem.h"
 #include "controller/TorController.h"
-#include "platform/RunningApplications.h"
 
 #include <QFile>
 
@@ -255,7 +254,7 @@ void ControllerSession::removeTerminalIntegration()
 void ControllerSession::setOpenAtLogin(bool on)
 {
     if (const auto done = LoginItem(profile()).set(on); !done)
-        m_notice = done.error();
+        m_notice = QStringLiteral("Couldn't change the login-item setting: ") + done.error();
     schedule();
 }
 

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "platform/RunningApplications.h"
 #include "system/SettingsStore.h"
 #include "ui/Session.h"
 
 namespace veldmark {
 
-class RunningApplications;
 class TorController;
 
 // The session that views see, on top of the controller. Reads the controller's fields once after

@@ -63,7 +63,6 @@ namespace {
 
 // Those with a word or number of the moment in them; in every language in this order.
 constexpr const char *forms[] = {
-    QT_TRANSLATE_NOOP("Session", "+%1 more"),
     QT_TRANSLATE_NOOP("Session", "Testing %1 bridges…"),
     QT_TRANSLATE_NOOP("Session", "Testing speed (%1 of %2)…"),
     QT_TRANSLATE_NOOP("Session", "Slow path (%1 ms), finding a faster one…"),
