@@ -59,7 +59,7 @@ become_recorded() {
   local pid line fd
   IFS= read -r line </proc/self/stat
   pid=${line%% *}
-  start_time "$pid" && journal_put "$1" "pid $pid" "start $START_TIME" "boot $(boot_id)" 2>/dev/null || {
+  { start_time "$pid" && journal_put "$1" "pid $pid" "start $START_TIME" "boot $(boot_id)" 2>/dev/null; } || {
     printf 'the journal cannot be written.\n' >&2
     exit 1
   }

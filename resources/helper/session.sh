@@ -10,7 +10,7 @@ UNDONE=''       # why an undo_... function failed
 need_programs() {
   local program path
   for program in "$@"; do
-    path=$(command -v "$program") && [[ -x $path ]] || die "The program $program is missing on this system."
+    { path=$(command -v "$program") && [[ -x $path ]]; } || die "The program $program is missing on this system."
   done
 }
 

@@ -99,8 +99,8 @@ bool isIPv4(QStringView text)
     while (!text.isEmpty() && parts < 4) {
         const qsizetype dot = text.indexOf(u'.');
         const QStringView part = dot < 0 ? text : text.first(dot);
-        if (part.isEmpty() || part.size() > 3)
-            return false;
+        if (part.isEmpty() || part.size() > 3 || (part.size() > 1 && part.front() == u'0'))
+            return false; // what has a leading zero is octal to some
         const int value = digits(part, 0, part.size());
         if (value < 0 || value > 255)
             return false;

@@ -235,9 +235,12 @@ bool PanelModel::canRestore() const
 
 QString PanelModel::waitingFor() const
 {
+    const Snapshot &now = m_session.now();
+    if (now.phase == Phase::connecting && now.bootstrapProblem)
+        return SessionTexts::translated(*now.bootstrapProblem);
     if (!m_still)
         return {};
-    return m_session.now().bootstrapProgress > 0
+    return now.bootstrapProgress > 0
         ? tr("Tor hasn't reported progress for a while. It is still trying; a slow or blocked network "
              "is the usual reason.")
         : tr("Still waiting for Tor to start, or for your approval.");
@@ -352,7 +355,11 @@ QString PanelModel::moreResolvers() const
 
 QString PanelModel::error() const
 {
-    return SessionTexts::translated(m_session.now().errorMessage.value_or(QString()));
+    const Snapshot &now = m_session.now();
+    const QString error = SessionTexts::translated(now.errorMessage.value_or(QString()));
+    if (error.isEmpty() || now.phase != Phase::stale || !now.bootstrapProblem)
+        return error;
+    return error + u' ' + SessionTexts::translated(*now.bootstrapProblem);
 }
 
 bool PanelModel::torMissing() const

@@ -19,6 +19,7 @@ namespace {
     QT_TRANSLATE_NOOP("Session", "Waiting for administrator approval…"),
     QT_TRANSLATE_NOOP("Session", "Starting Tor…"),
     QT_TRANSLATE_NOOP("Session", "Tor didn't finish connecting"),
+    QT_TRANSLATE_NOOP("Session", "Tor is waiting for the bridge program, which hasn't said that it is ready."),
     QT_TRANSLATE_NOOP("Session", "Tor stopped running"),
     QT_TRANSLATE_NOOP("Session", "All traffic is locked to Tor"),
     QT_TRANSLATE_NOOP("Session", "Apps that use system proxy settings go through Tor"),

@@ -144,12 +144,15 @@ class Trouble(HelperTest):
         words = [self.words(verb, TOR) for verb in ("connect", "fix-dns", "connect in proxy mode", "disconnect")] * 5
         runs = [self.machine.start("/bin/bash", self.machine.helper, *line, stderr=subprocess.PIPE, stdin=subprocess.DEVNULL, text=True)
                 for line in words]
+        done = 0
         for line, run in zip(words, runs):
             _, message = run.communicate()
-            if line[0] != "fix-dns" or run.returncode == 0:
-                self.assertEqual((run.returncode, message), (0, ""))
-            else:
-                self.assertEqual(message, "ERROR: Veldmark is not connected, so the DNS settings were left alone.\n")
+            wanted = {(0, ""), (1, "ERROR: Another run of the helper is still working. Try again in a moment.\n")}
+            if line == ["fix-dns"]:
+                wanted.add((1, "ERROR: Veldmark is not connected, so the DNS settings were left alone.\n"))
+            self.assertIn((run.returncode, message), wanted)
+            done += run.returncode == 0
+        self.assertGreater(done, 0)
         self.assertLessEqual(len(self.machine.tor_pids()), 1)
         self.machine.help("disconnect")
         self.assertFalse(self.drops())

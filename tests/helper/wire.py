@@ -117,6 +117,10 @@ class Flood:
     def go(self):
         self._say("go")
 
+    def round(self):
+        """Returns when each probe has been sent once more."""
+        self._say("round")
+
     def stop(self):
         """Returns when nothing more is sent and no socket of it is open."""
         self._say("stop")

@@ -165,6 +165,7 @@ private Q_SLOTS:
         session.setOpenAtLogin(true);
         follow(session);
         QVERIFY(session.now().errorMessage);
+        QVERIFY(session.now().errorMessage->startsWith(QStringLiteral("Couldn't change the login-item setting: ")));
         QCOMPARE(session.now().openAtLogin, std::optional(false));
     }
 };

@@ -247,7 +247,7 @@ private Q_SLOTS:
                                         << QString();
         QTest::newRow("empty") << QStringList() << QString();
         for (const char *bad : {"300.1.1.1", "1.2.3", "1.2.3.4.5", "1.2.3.", ".1.2.3", "1..2.3",
-                                "a.b.c.d", "0001.2.3.4", "1.2.3.4\r\nQUIT"})
+                                "a.b.c.d", "0001.2.3.4", "096.0.2.2", "1.2.3.00", "1.2.3.4\r\nQUIT"})
             QTest::newRow(bad) << QStringList{QStringLiteral("r n i d x y %1 1").arg(QString::fromLatin1(bad))}
                                << QString();
     }
