@@ -74,6 +74,7 @@ clean_environment() {
   for name in $(compgen -e); do
     case $name in
     PATH | LC_ALL | PWD | OLDPWD | SHLVL | _ | SUDO_UID | PKEXEC_UID) ;;
+    __CF_USER_TEXT_ENCODING) ;;   # macOS may put it back into every program, and it steers nothing that runs here
     *)
       exec /usr/bin/env -i ${SUDO_UID+SUDO_UID="$SUDO_UID"} ${PKEXEC_UID+PKEXEC_UID="$PKEXEC_UID"} \
         /bin/bash -p -- "$0" "$@"

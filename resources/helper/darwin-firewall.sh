@@ -43,17 +43,20 @@ load_rules() {
     die "The firewall rules were not accepted ($(pf_words "$output"))."
 }
 
-# put_reference: has the main rules ask our anchor first. They are read and written by pfctl, each kind for itself.
+# put_reference: has the main rules ask our anchor first. They are read and written by pfctl, each kind for itself, and
+# never through a pipe: were the writing end killed, pfctl would load the half that it got.
 put_reference() {
   local filter nat output
   { filter=$(pfctl -s rules) && nat=$(pfctl -s nat); } || die "The firewall's main rules cannot be read."
   if [[ $(print_without "$nat") == "$nat" ]]; then
-    output=$(print_referring nat "$nat" | pfctl -q -N -f - 2>&1) ||
+    nat=$(print_referring nat "$nat")
+    output=$(pfctl -q -N -f - 2>&1 <<<"$nat") ||
       die "The firewall's main rules cannot be changed ($(pf_words "$output"))."
   fi
   # Somebody may have put theirs before ours since.
   if [[ $(print_referring filter "$filter") != "$(print_normal "$filter")" ]]; then
-    output=$(print_referring filter "$filter" | pfctl -q -R -f - 2>&1) ||
+    filter=$(print_referring filter "$filter")
+    output=$(pfctl -q -R -f - 2>&1 <<<"$filter") ||
       die "The firewall's main rules cannot be changed ($(pf_words "$output"))."
   fi
 }
@@ -72,12 +75,16 @@ take_back_reference() {
   local filter nat
   filter=$(pfctl -s rules) && nat=$(pfctl -s nat) || return 1
   if [[ $(print_without "$filter") != "$filter" ]]; then
-    print_without "$filter" | pfctl -q -R -f - || return 1
+    filter=$(print_without "$filter")
+    pfctl -q -R -f - <<<"$filter" || return 1
   fi
   if [[ $(print_without "$nat") != "$nat" ]]; then
-    print_without "$nat" | pfctl -q -N -f - || return 1
+    nat=$(print_without "$nat")
+    pfctl -q -N -f - <<<"$nat" || return 1
   fi
 }
+
+readonly TOKEN_LINE='Token : ([0-9]+)'
 
 # held_token: prints the token of the entry that was read, if pf still knows it. A run that was killed before it could
 # note its token has noted the process that took it. Status 2: that cannot be told.
@@ -110,7 +117,7 @@ enable_firewall() {
       pid=$(exec sh -c 'echo "$PPID"') &&
         journal_put "$FIREWALL_ENTRY" "boot $boot" "enabler $pid" && exec pfctl -E 2>&1
     ) || die "The firewall cannot be switched on ($(pf_words "$output"))."
-    [[ $output =~ Token\ :\ ([0-9]+) ]] || die "The firewall gave no token."
+    [[ $output =~ $TOKEN_LINE ]] || die "The firewall gave no token."
     token=${BASH_REMATCH[1]}
   fi
   journal_put "$FIREWALL_ENTRY" "boot $boot" "token $token" || die "The journal cannot be written."

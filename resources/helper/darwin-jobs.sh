@@ -4,6 +4,8 @@
 
 readonly STOP_POLLS=100    # of about 0.1 s: launchd kills what has not ended after its time
 
+readonly JOB_PROCESS='"PID" = ([0-9]+);'
+
 # job_process LABEL: prints the process id of a job; nothing when it is loaded but does not run. Status 1: not loaded;
 # 2: launchd did not tell.
 job_process() {
@@ -13,7 +15,7 @@ job_process() {
     [[ $status == 113 || $output == *"Could not find service"* ]] || return 2
     return 1
   fi
-  [[ ! $output =~ \"PID\"\ =\ ([0-9]+)\; ]] || printf '%s' "${BASH_REMATCH[1]}"
+  [[ ! $output =~ $JOB_PROCESS ]] || printf '%s' "${BASH_REMATCH[1]}"
 }
 
 # start_job LABEL FILE

@@ -184,9 +184,13 @@ restore_service() {
   host=$(journal_value host) && port=$(journal_value port) && state=$(journal_value socks) || return 1
   [[ $port != 0 ]] || port=''
   read_service "$1" || return 1
-  net -setproxybypassdomains "$1" "${bypass[@]}" &&
-    net -setsocksfirewallproxy "$1" "$host" "$port" off &&
-    net -setsocksfirewallproxystate "$1" "$(on_off "$state")" || return 1
+  net -setproxybypassdomains "$1" "${bypass[@]}" || return 1
+  if [[ -n $host ]]; then
+    net -setsocksfirewallproxy "$1" "$host" "$port" off || return 1
+  else
+    net -setsocksfirewallproxy "$1" '' '' off || true   # some versions may not take an empty host
+  fi
+  net -setsocksfirewallproxystate "$1" "$(on_off "$state")" || return 1
   [[ $HAS_WEB == "$(journal_value web)" ]] || net -setwebproxystate "$1" "$(on_off "$(journal_value web)")" || return 1
   [[ $HAS_SECURE == "$(journal_value secure)" ]] ||
     net -setsecurewebproxystate "$1" "$(on_off "$(journal_value secure)")" || return 1

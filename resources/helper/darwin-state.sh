@@ -55,9 +55,13 @@ boot_id() {
   printf '%s' "$id"
 }
 
+# Patterns with blanks and quotes stand in variables: bash 3.2 reads them differently in place.
+readonly SAFE_FOLDER='^[0-7]*[0145][0145] 0 Directory$'
+readonly ALLOWING='^ *[0-9]+: .* allow '
+
 # folder_is_safe "MODE UID KIND": a real folder of root's that nobody else can write.
 folder_is_safe() {
-  [[ $1 =~ ^[0-7]*[0145][0145]\ 0\ Directory$ ]]
+  [[ $1 =~ $SAFE_FOLDER ]]
 }
 
 # safe_folders PATH...: 1 when one is not safe, by its mode or by an access list that lets somebody do something;
@@ -69,7 +73,7 @@ safe_folders() {
     folder_is_safe "$line" || return 1
   done <<<"$modes"
   while IFS= read -r line; do
-    [[ ! $line =~ ^\ [0-9]+:\ .*\ allow\  ]] || return 1
+    [[ ! $line =~ $ALLOWING ]] || return 1
   done <<<"$lists"
 }
 
@@ -106,6 +110,7 @@ make_installed() {
   local folder
   for folder in "$BASE" "$INSTALLED"; do
     [[ -d $folder ]] || mkdir -m 0755 -- "$folder" || die "The folder $folder cannot be created."
+    safe_folders "$folder" || die "The folder $folder is not safe: only root may own or write it."
   done
 }
 
@@ -215,7 +220,7 @@ as_tor() {
 # The kernel keeps at most 16 groups, the first of which is the effective one.
 caller_groups() {
   local groups
-  groups=$(id -G -- "$CALLER_NAME") && [[ $groups =~ ^[0-9\ ]+$ ]] || return 1
+  groups=$(id -G -- "$CALLER_NAME") && [[ -n $groups && $groups != *[!0-9\ ]* ]] || return 1
   # shellcheck disable=SC2086
   set -- $groups
   (($# <= 15)) || set -- "${@:1:15}"

@@ -26,8 +26,8 @@ relock() {
   local word=restored
   hold_rules || return 0
   if [[ $(read_marker) == strict ]] && ! rules_stand; then
-    # In a shell of its own, which any failure ends.
-    (set -e; put_rules "$(<"$RULES")") || word=open
+    # In a shell of its own, which die() ends.
+    (put_rules "$(<"$RULES")") || word=open
     RELOCKS=$((RELOCKS + 1))
     write_file "$RELOCKED" 0644 root "$word $RELOCKS"$'\n' || true
   fi
@@ -43,7 +43,8 @@ watch_rules() {
 
 print_watcher() {
   printf 'set -uo pipefail\numask 077\nPATH=%s\nLC_ALL=C\nexport PATH LC_ALL\ncd /\n' "$PATH"
-  declare -p ANCHOR RULES LISTED RULES_LOCK MARKER JOURNAL RELOCKED FIREWALL_ENTRY WATCH_SECONDS HOLD
+  declare -p ANCHOR RULES LISTED RULES_LOCK MARKER JOURNAL RELOCKED FIREWALL_ENTRY WATCH_SECONDS \
+    HOLD TOKEN_LINE
   printf 'RELOCKS=0\nJOURNAL_LINES=()\ndie() { exit 1; }\n'
   declare -f read_marker put_in_place write_file journal_put journal_has journal_read journal_value boot_id hold_rules \
     release_rules pf_words load_rules put_reference print_referring print_without print_normal held_token enable_firewall \
@@ -85,8 +86,10 @@ print_watch_job() {
 END
 }
 
+# start_watcher: what does not read back as it was loaded is no kill switch, and would be loaded again every second.
 start_watcher() {
   undo_entry "$WATCHER_ENTRY" || true
+  { kill_switch_stands && rules_stand; } || die "The firewall does not hold the rules that were loaded."
   { write_file "$WATCHER" 0600 root "$(print_watcher)"$'\n' && write_file "$WATCH_JOB" 0644 root "$(print_watch_job)"$'\n' &&
     journal_put "$WATCHER_ENTRY" "label $WATCH_LABEL"; } || die "The file $WATCHER cannot be written."
   start_job "$WATCH_LABEL" "$WATCH_JOB" || die "The watcher over the firewall could not be started."

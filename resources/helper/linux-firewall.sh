@@ -191,13 +191,23 @@ kill_switch_stands() {
   output=$(nft list chain inet "$TABLE" output) && [[ $output == *"policy drop;"* ]]
 }
 
+# check_firewall: the system's firewall can be used at all, which is to be known before anything is changed.
+check_firewall() {
+  local output
+  output=$(nft list tables 2>&1) || die "The system's firewall cannot be used ($(first_line "$output"))."
+}
+
+# first_line TEXT: of what a program said, for a message of ours.
+first_line() {
+  local line=${1%%$'\n'*}
+  line=${line//[[:cntrl:]]/ }
+  printf '%s' "${line:-nft ended without a message}"
+}
+
 # load_rules TEXT: all of it or nothing; the former rules stay when it fails.
 load_rules() {
   local output
-  if ! output=$(nft -f - 2>&1 <<<"$1"); then
-    output=${output%%$'\n'*}
-    die "The firewall rules were not accepted (${output//[[:cntrl:]]/ })."
-  fi
+  output=$(nft -f - 2>&1 <<<"$1") || die "The firewall rules were not accepted ($(first_line "$output"))."
 }
 
 # put_firewall MODE: keeps the text first, so that the rules can be put back by fix-dns.
@@ -235,7 +245,6 @@ undo_firewall() {
   output=$(nft delete table inet "$TABLE" 2>&1) && return 0
   # Not being there is what was wanted.
   [[ $output == *"No such file or directory"* ]] && return 0
-  output=${output%%$'\n'*}
-  UNDONE="The firewall could not be opened (${output//[[:cntrl:]]/ })."
+  UNDONE="The firewall could not be opened ($(first_line "$output"))."
   return 1
 }

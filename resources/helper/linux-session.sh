@@ -19,6 +19,7 @@ linux_connect() {
   need_programs flock nft setpriv unshare setsid getent stat sync mount umount sha256sum timeout readlink
   take_lock
   trap finish EXIT
+  check_firewall
   ready_account
   ready_folders
   ready_programs
@@ -105,6 +106,8 @@ undo_session() {
   done
   [[ -z $open ]] || rm -f -- "$MARKER" "$RULES" "$LISTED"
   rm -f -- "$MARKER.new" "$RULES.new" "$LISTED.new" "$WATCHER" "$WATCHER.new" "$RELOCKED" "$RELOCKED.new" "$TORRC.checked" "$JOURNAL"/*.new
+  [[ -z $open || ! -e $MARKER ]] || reason=${reason:-"The network is open again, but the session marker cannot be removed from $STATE."}
+  [[ -n $reason || -z $(compgen -G "$JOURNAL/*") ]] || reason="The network is open again, but the journal in $JOURNAL cannot be cleared."
   UNDONE=$reason
   [[ -z $reason ]]
 }

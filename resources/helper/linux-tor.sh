@@ -53,19 +53,34 @@ boot_id() {
   printf '%s' "$id"
 }
 
-# launch_tor: the background half of start_tor. It writes its own journal entry before it becomes Tor and holds the
-# lock until then, so that there is never a Tor that no later run knows of.
-launch_tor() {
+# become_recorded ENTRY: for the background halves that turn into a process which outlives this run. It writes its own journal
+# entry and lets go of every descriptor only then, the lock above all, so that there is never one that no later run knows of.
+become_recorded() {
   local pid line fd
   IFS= read -r line </proc/self/stat
   pid=${line%% *}
-  start_time "$pid" &&
-    journal_put "$TOR_ENTRY" "pid $pid" "start $START_TIME" "boot $(boot_id)" || exit 1
+  { start_time "$pid" && journal_put "$1" "pid $pid" "start $START_TIME" "boot $(boot_id)" 2>/dev/null; } || {
+    printf 'the journal cannot be written.\n' >&2
+    exit 1
+  }
   for fd in /proc/self/fd/*; do
     fd=${fd##*/}
     # Bash's own, of the script, closes by itself.
     if ((fd > 2 && fd != 255)); then exec {fd}>&-; fi
   done
+}
+
+# recorded_pid: prints the process id of the entry that was read, if that very process still runs.
+recorded_pid() {
+  local pid start
+  pid=$(journal_value pid) && start=$(journal_value start) || return 1
+  [[ $pid =~ ^[1-9][0-9]{0,9}$ && $start =~ ^[0-9]{1,20}$ && $(journal_value boot) == "$(boot_id)" ]] || return 1
+  start_time "$pid" && [[ $START_TIME == "$start" ]] || return 1
+  printf '%s' "$pid"
+}
+
+launch_tor() {
+  become_recorded "$TOR_ENTRY"
   exec env -i --default-signal PATH="$PATH" LC_ALL=C HOME="$DATA" \
     setsid unshare --mount --propagation private --pid --fork --kill-child \
     /bin/bash -p -c "$INSIDE" inside "$TOR_RESOLVER" "$RESOLVER_TARGET" \
@@ -139,12 +154,10 @@ kill_stray_tor() {
 
 # undo_tor: ends the Tor of the entry that was read, if it is that very process and still runs.
 undo_tor() {
-  local pid start child poll
-  pid=$(journal_value pid) && start=$(journal_value start) || return 0
-  [[ $pid =~ ^[1-9][0-9]{0,9}$ && $start =~ ^[0-9]{1,20}$ ]] || return 0
-  [[ $(journal_value boot) == "$(boot_id)" ]] || return 0
+  local pid child poll
+  pid=$(recorded_pid) || return 0
   for ((poll = 0; poll < STOP_POLLS; poll++)); do
-    start_time "$pid" && [[ $START_TIME == "$start" ]] || return 0
+    recorded_pid >/dev/null || return 0
     # Tor is the launcher's child. While it sets up it hears nothing, so ask again.
     if ((poll % 5 == 0)); then
       read_children "$pid"
@@ -158,10 +171,17 @@ undo_tor() {
   for child in $CHILDREN "$pid"; do
     kill -KILL "$child" || true
   done
+  ! recorded_lives || {
+    UNDONE="Tor could not be stopped."
+    return 1
+  }
+}
+
+# recorded_lives: whether the process of the entry that was read is still there after a while.
+recorded_lives() {
+  local poll
   for ((poll = 0; poll < STOP_POLLS; poll++)); do
-    start_time "$pid" && [[ $START_TIME == "$start" ]] || return 0
+    recorded_pid >/dev/null || return 1
     sleep 0.02
   done
-  UNDONE="Tor could not be stopped."
-  return 1
 }

@@ -71,17 +71,8 @@ print_watcher() {
   printf 'watch_rules\n'
 }
 
-# launch_watcher: the background half; like Tor it writes its own journal entry and holds the lock until then.
 launch_watcher() {
-  local pid line fd
-  IFS= read -r line </proc/self/stat
-  pid=${line%% *}
-  start_time "$pid" &&
-    journal_put "$WATCHER_ENTRY" "pid $pid" "start $START_TIME" "boot $(boot_id)" || exit 1
-  for fd in /proc/self/fd/*; do
-    fd=${fd##*/}
-    if ((fd > 2 && fd != 255)); then exec {fd}>&-; fi
-  done
+  become_recorded "$WATCHER_ENTRY"
   exec env -i --default-signal PATH="$PATH" LC_ALL=C setsid /bin/bash -p -- "$WATCHER"
 }
 
@@ -107,27 +98,16 @@ kill_stray_watcher() {
 # undo_watcher: it never waits for us, so it is killed at once. A change of rules that it was in the middle of keeps
 # the rules' lock, so that the firewall opens after that.
 undo_watcher() {
-  local pid start child poll
+  local pid child
   rm -f -- "$RELOCKED" "$WATCHER"
-  pid=$(journal_value pid) && start=$(journal_value start) || return 0
-  [[ $pid =~ ^[1-9][0-9]{0,9}$ && $start =~ ^[0-9]{1,20}$ && $(journal_value boot) == "$(boot_id)" ]] || return 0
-  start_time "$pid" && [[ $START_TIME == "$start" ]] || return 0
+  pid=$(recorded_pid) || return 0
   read_children "$pid"
   kill -KILL "$pid" || true
   for child in $CHILDREN; do
     kill -KILL "$child" || true
   done
-  for ((poll = 0; poll < STOP_POLLS; poll++)); do
-    start_time "$pid" && [[ $START_TIME == "$start" ]] || return 0
-    sleep 0.02
-  done
-  return 0
+  recorded_lives || true
 }
 
 # watcher_runs: whether the watcher of the journal is alive.
-watcher_runs() {
-  local pid start
-  journal_read "$WATCHER_ENTRY" || return 1
-  pid=$(journal_value pid) && start=$(journal_value start) || return 1
-  [[ $pid =~ ^[1-9][0-9]{0,9}$ ]] && start_time "$pid" && [[ $START_TIME == "$start" ]]
-}
+watcher_runs() { journal_read "$WATCHER_ENTRY" && recorded_pid >/dev/null; }

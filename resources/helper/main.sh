@@ -14,12 +14,13 @@ main() {
   esac
   [[ $SYSTEM != darwin ]] || find_caller
   case $verb in
-  connect | disconnect | fix-dns | launch) shift ;;
-  install-privileged) shift; install_privileged "$@"; return ;;
-  uninstall-privileged) shift; uninstall_privileged "$@"; return ;;
+  connect | disconnect | fix-dns | launch | install-privileged | uninstall-privileged) shift ;;
   *) die "The helper was not given a verb that it knows." ;;
   esac
-  "${SYSTEM}_$verb" "$@"
+  case $verb in
+  *-privileged) "any_$verb" "$@" ;;
+  *) "${SYSTEM}_$verb" "$@" ;;
+  esac
 }
 
 # Read whole before anything runs, so that a change of the file meanwhile changes nothing.

@@ -30,7 +30,7 @@ install_file() {
   return 1
 }
 
-install_privileged() {
+any_install-privileged() {
   local uid
   parse_options " --user --launch " "$@"
   [[ $OPT_USER =~ ^[A-Za-z0-9_][A-Za-z0-9_.@-]{0,63}\$?$ ]] || die "The user name is not valid."
@@ -59,7 +59,7 @@ install_privileged() {
   write_file "$SUDO_RULE" 0440 root "$(print_sudo_rule "$uid")"$'\n' || die "The file $SUDO_RULE cannot be written."
 }
 
-uninstall_privileged() {
+any_uninstall-privileged() {
   (($# == 0)) || die "The verb uninstall-privileged takes no options."
   take_lock
   trap finish EXIT

@@ -6,10 +6,11 @@ ON_FAILURE=''   # "undo" while a failure must put everything back; empty before 
                 # kill switch stays closed
 UNDONE=''       # why an undo_... function failed
 
+# `command -v` also gives a file that nobody may run, when there is no other.
 need_programs() {
-  local program
+  local program path
   for program in "$@"; do
-    command -v "$program" >/dev/null || die "The program $program is missing on this system."
+    { path=$(command -v "$program") && [[ -x $path ]]; } || die "The program $program is missing on this system."
   done
 }
 

@@ -38,9 +38,11 @@ tor_reason() {
   local line reason='' last=''
   while IFS= read -r line; do
     line=${line//[[:cntrl:]]/}
+    line=${line%" Is Tor already running?"}   # a message is a sentence, no question
     [[ -z $line ]] || last=$line
     case $line in
     *"Reading config failed"*) ;;
+    *"Failed to bind one of the listener ports"*) reason=${reason:-${line#*"] "}} ;;   # which one was said before
     *"[warn] "*) reason=${line#*"[warn] "} ;;
     *"[err] "*) reason=${line#*"[err] "} ;;
     esac

@@ -676,6 +676,10 @@
         <translation>Tor startet…</translation>
     </message>
     <message>
+        <source>Tor is waiting for the bridge program, which hasn&apos;t said that it is ready.</source>
+        <translation>Tor wartet auf das Brückenprogramm, das sich noch nicht bereit gemeldet hat.</translation>
+    </message>
+    <message>
         <source>Tor didn&apos;t finish connecting</source>
         <translation>Tor konnte sich nicht fertig verbinden</translation>
     </message>
@@ -846,10 +850,6 @@
     <message>
         <source>Add at least one bridge under Bridges → Custom….</source>
         <translation>Tragen Sie unter Brücken → Eigene… mindestens eine Brücke ein.</translation>
-    </message>
-    <message>
-        <source>+%1 more</source>
-        <translation>+%1 weitere</translation>
     </message>
     <message>
         <source>Testing %1 bridges…</source>

@@ -72,7 +72,8 @@ ControllerSession::ControllerSession(TorController &controller, SettingsStore &s
           &C::customTorPathChanged, &C::bridgeChoiceChanged, &C::customBridgesChanged,
           &C::bypassAppsChanged, &C::autoConnectChanged, &C::optimizeSpeedChanged,
           &C::terminalModeChanged, &C::phaseChanged, &C::activeModeChanged, &C::activeBridgeChanged,
-          &C::bootstrapProgressChanged, &C::statusDetailChanged, &C::canCancelChanged,
+          &C::bootstrapProgressChanged, &C::statusDetailChanged,
+          &C::bootstrapProblemChanged, &C::canCancelChanged,
           &C::errorMessageChanged, &C::bytesReadChanged, &C::bytesWrittenChanged, &C::exitIPChanged,
           &C::torVerifiedChanged, &C::leakStatusChanged, &C::dnsStatusChanged, &C::isCheckingChanged,
           &C::latencyMsChanged, &C::optimizeStatusChanged, &C::isOptimizingChanged,
@@ -104,6 +105,7 @@ void ControllerSession::read()
     next.activeBridge = c.activeBridge();
     next.bootstrapProgress = c.bootstrapProgress();
     next.statusDetail = c.statusDetail();
+    next.bootstrapProblem = c.bootstrapProblem();
     next.canCancel = c.canCancel();
     if (const auto problem = m_settings.problem())
         m_notice = problem;
@@ -252,7 +254,7 @@ void ControllerSession::removeTerminalIntegration()
 void ControllerSession::setOpenAtLogin(bool on)
 {
     if (const auto done = LoginItem(profile()).set(on); !done)
-        m_notice = done.error();
+        m_notice = QStringLiteral("Couldn't change the login-item setting: ") + done.error();
     schedule();
 }
 

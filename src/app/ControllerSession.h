@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/RunningApplications.h"
 #include "system/SettingsStore.h"
 #include "ui/Session.h"
 
@@ -17,7 +18,7 @@ public:
     ControllerSession(TorController &controller, SettingsStore &settings, RunningApplications &applications);
 
     std::vector<ExitChoice> exitChoices() const override;
-    std::vector<InstalledApplication> installedApplications() const override { return m_applications.installed(); }
+    std::vector<InstalledApplication> installedApplications() const override { return veldmark::installedApplications(); }
     QString applicationName(const QString &path) const override { return m_applications.displayName(path); }
     void store(const Choices &choices) override;
     void connectToTor() override;

@@ -98,8 +98,6 @@ bool Windows::ensure(const QString &name)
     if (name != QLatin1String("panel")) // which stands where the tray is
         m_places.remember(name, shown,
                           hasPanel ? WindowPlaces::Height::ownedByContent : WindowPlaces::Height::remembered);
-    // A close is still asked of a window that has its place; when it is invisible, that is gone.
-    QObject::connect(shown, &QQuickWindow::closing, this, [this, name, shown] { keepPlace(name, shown); });
     QObject::connect(shown, &QWindow::visibleChanged, this, [this, name](bool visible) {
         if (!visible)
             onHidden(name);
@@ -115,6 +113,7 @@ void Windows::keepPlace(const QString &name, const QQuickWindow *window)
 
 void Windows::onHidden(const QString &name)
 {
+    keepPlace(name, m_windows[name].get()); // Qt tells before the window loses its place
     if (name == QLatin1String("main"))
         Q_EMIT mainClosed();
     if (name == QLatin1String("main") || name == QLatin1String("panel"))

@@ -24,7 +24,7 @@ QCoro::Task<void> tellOther(std::shared_ptr<InstanceClient> client, QString comm
     const QJsonObject request{{QStringLiteral("command"), command}};
     const auto done = co_await client->run(request, [](const QJsonObject &) {});
     if (!done)
-        QTextStream(stderr) << "veldmark: " << done.error() << '\n';
+        QTextStream(stderr) << "veldmark: " << done.error().description() << '\n';
     QCoreApplication::exit(done ? 0 : 1);
 }
 

@@ -3,9 +3,9 @@
 #include "base/ResumeOnce.h"
 #include "bridges/BundleArchive.h"
 #include "bridges/BundleFolder.h"
+#include "bridges/BundleTools.h"
 #include "bridges/HTTPSSession.h"
 #include "bridges/ReleaseIndex.h"
-#include "system/ProcessRunner.h"
 
 #include <QDir>
 #include <QFile>
@@ -41,12 +41,6 @@ QCoro::Task<T> elsewhere(std::function<T()> work)
     QThreadPool::globalInstance()->start([done, work] { done.complete(work()); });
     T result = co_await done;
     co_return result;
-}
-
-bool isProgram(const QString &path)
-{
-    const QFileInfo file(path);
-    return file.isFile() && file.isExecutable();
 }
 
 // A short path: GnuPG's agent makes sockets in its home, whose names may have about 100 characters.
@@ -106,6 +100,7 @@ struct TransportDownloader::Means {
     Clock *clock;
     DownloadSource source;
     std::weak_ptr<HTTPSSession> session; // of the installation that is under way
+    std::weak_ptr<BundleTools> tools;    // likewise
     bool isCancelled = false;
     bool isBusy = false;
 };
@@ -115,6 +110,7 @@ struct TransportDownloader::Job {
     std::shared_ptr<Means> means;
     std::shared_ptr<BundleFolder> folder;
     std::shared_ptr<HTTPSSession> session;
+    std::shared_ptr<BundleTools> tools;
     QString temporary;
     Progress report;
 
@@ -141,7 +137,7 @@ QUrl DownloadSource::archiveURL(const QString &version, const QString &archiveNa
 
 TransportDownloader::TransportDownloader(PlatformProfile profile, ProcessRunner &runner, Clock &clock,
                                          DownloadSource source)
-    : m_means(std::make_shared<Means>(Means{std::move(profile), &runner, &clock, std::move(source), {}, false, false}))
+    : m_means(std::make_shared<Means>(Means{std::move(profile), &runner, &clock, std::move(source), {}, {}, false, false}))
 {
     // Puts a bundle back that an installation, killed in between its two steps, had taken away.
     if (!QFileInfo::exists(m_means->profile.bundleDirectory)
@@ -153,6 +149,8 @@ TransportDownloader::~TransportDownloader()
 {
     cancel();
     m_means->runner = nullptr;
+    if (const auto tools = m_means->tools.lock())
+        tools->forget();
 }
 
 void TransportDownloader::cancel()
@@ -160,6 +158,8 @@ void TransportDownloader::cancel()
     m_means->isCancelled = true;
     if (const auto session = m_means->session.lock())
         session->cancel();
+    if (const auto tools = m_means->tools.lock())
+        tools->cancel();
 }
 
 std::optional<QString> TransportDownloader::installedVersion(const PlatformProfile &profile)
@@ -175,8 +175,9 @@ std::optional<QString> TransportDownloader::installedVerification(const Platform
 std::optional<QString> TransportDownloader::gpgPath(const PlatformProfile &profile)
 {
     for (const QString &folder : profile.gnupgCandidates) {
-        if (isProgram(folder + QStringLiteral("/gpg")))
-            return folder + QStringLiteral("/gpg");
+        const QFileInfo program(folder + QStringLiteral("/gpg"));
+        if (program.isFile() && program.isExecutable())
+            return program.filePath();
     }
     return std::nullopt;
 }
@@ -211,6 +212,12 @@ TransportDownloader::run(std::shared_ptr<Means> means, bool throughTor, Progress
     job->folder = *folder;
     job->temporary = newTemporaryName();
     job->report = std::move(progress);
+    job->tools = std::make_shared<BundleTools>(means->profile.places.root + QStringLiteral("/usr/bin/tar"),
+                                               gpgPath(means->profile).value_or(QString()), means->runner,
+                                               *means->clock);
+    means->tools = job->tools;
+    if (means->isCancelled)
+        job->tools->cancel();
     if (isTemporaryName(job->folder->forgotten())) {
         auto clearing = clearUp(job, job->folder->forgotten());
         co_await clearing;
@@ -265,9 +272,9 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_
     if (!downloaded)
         co_return Failure(downloaded.error());
 
-    const std::optional<QString> gpg = gpgPath(means->profile);
-    if (gpg) {
-        auto verifying = verify(job, *gpg, archive, archiveURL);
+    const bool hasGnuPG = job->tools->hasGnuPG();
+    if (hasGnuPG) {
+        auto verifying = verify(job, archive, archiveURL);
         const Done verified = co_await verifying;
         if (!verified)
             co_return Failure(verified.error());
@@ -283,7 +290,7 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_
     if (isGone())
         co_return Failure(DownloadError::other(cancelledText));
 
-    const InstalledBundle bundle{*version, gpg.has_value()};
+    const InstalledBundle bundle{*version, hasGnuPG};
     using Published = Result<void, QString>;
     const std::function<Published()> publish = [folder = job->folder, bundle] {
         return folder->publish(bundle.version, bundle.isVerified);
@@ -295,8 +302,7 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_
     co_return bundle;
 }
 
-QCoro::Task<Done> TransportDownloader::verify(std::shared_ptr<Job> job, QString gpg, QString archive,
-                                              QUrl archiveURL)
+QCoro::Task<Done> TransportDownloader::verify(std::shared_ptr<Job> job, QString archive, QUrl archiveURL)
 {
     const std::shared_ptr<Means> means = job->means;
     const QString signature = job->at("archive.tar.gz.asc");
@@ -319,38 +325,15 @@ QCoro::Task<Done> TransportDownloader::verify(std::shared_ptr<Job> job, QString 
     if (!makePrivateFolder(home))
         co_return Failure(DownloadError::other(
             QStringLiteral("Couldn't make the folder %1: %2.").arg(home, qt_error_string(errno))));
-    if (!means->runner || means->isCancelled)
-        co_return Failure(DownloadError::other(cancelledText));
-    const QStringList import = {QStringLiteral("--homedir"), home, QStringLiteral("--batch"),
-                                QStringLiteral("--quiet"), QStringLiteral("--import"), key};
-    auto importing = means->runner->run(gpg, import);
-    const auto imported = co_await importing;
-    if (!imported || imported->status != 0)
-        co_return Failure(DownloadError::badSignature(
-            QStringLiteral("Couldn't load the Tor Browser signing key. ")
-            + (imported ? imported->stderr : imported.error().description())));
-
-    if (!means->runner || means->isCancelled)
-        co_return Failure(DownloadError::other(cancelledText));
-    const QStringList check = {QStringLiteral("--homedir"), home, QStringLiteral("--batch"),
-                               QStringLiteral("--status-fd"), QStringLiteral("1"), QStringLiteral("--verify"),
-                               signature, archive};
-    auto checking = means->runner->run(gpg, check);
-    const auto checked = co_await checking;
-    if (!checked || !isSignedBy(checked->stdout, means->source.fingerprint)) {
-        QFile::remove(archive);
-        co_return Failure(DownloadError::badSignature(checked ? checked->stderr
-                                                              : checked.error().description()));
-    }
-    co_return {};
+    auto verifying = BundleTools::verify(job->tools, home, key, signature, archive, means->source.fingerprint);
+    const Done verified = co_await verifying;
+    co_return verified;
 }
 
 QCoro::Task<Done> TransportDownloader::unpack(std::shared_ptr<Job> job, QString archive)
 {
-    const std::shared_ptr<Means> means = job->means;
-    const QString tar = means->profile.places.root + QStringLiteral("/usr/bin/tar");
     using Problem = std::optional<QString>;
-    const std::function<Problem()> look = [tar, archive] { return archiveProblem(tar, archive); };
+    const std::function<Problem()> look = [tar = job->tools->tar(), archive] { return archiveProblem(tar, archive); };
     auto looking = elsewhere<Problem>(look);
     const Problem hostile = co_await looking;
     if (hostile)
@@ -359,16 +342,10 @@ QCoro::Task<Done> TransportDownloader::unpack(std::shared_ptr<Job> job, QString 
     const auto folder = job->folder->fresh();
     if (!folder)
         co_return Failure(DownloadError::other(folder.error()));
-    if (!means->runner || means->isCancelled)
-        co_return Failure(DownloadError::other(cancelledText));
-    // A process that is root must not take the archive's owners over: they are somebody else's here.
-    const QStringList extract = {QStringLiteral("-xzf"), archive, QStringLiteral("-C"), *folder,
-                                 QStringLiteral("--no-same-owner"), QStringLiteral("--no-same-permissions")};
-    auto extracting = means->runner->run(tar, extract);
-    const auto extracted = co_await extracting;
-    if (!extracted || extracted->status != 0)
-        co_return Failure(DownloadError::extractFailed(extracted ? extracted->stderr
-                                                                 : extracted.error().description()));
+    auto extracting = BundleTools::unpack(job->tools, archive, *folder);
+    const Done extracted = co_await extracting;
+    if (!extracted)
+        co_return Failure(extracted.error());
 
     const std::function<Problem()> settle = [unpacked = *folder] { return settleUnpacked(unpacked); };
     auto settling = elsewhere<Problem>(settle);
@@ -382,18 +359,8 @@ QCoro::Task<Done> TransportDownloader::unpack(std::shared_ptr<Job> job, QString 
 // unfinished bundle.
 QCoro::Task<void> TransportDownloader::clearUp(std::shared_ptr<Job> job, QString temporary)
 {
-    const std::shared_ptr<Means> means = job->means;
-    const QString home = gnupgHome(temporary);
-    const std::optional<QString> gpg = gpgPath(means->profile);
-    if (gpg && means->runner && QFileInfo::exists(home)) {
-        const QString gpgconf = QFileInfo(*gpg).absolutePath() + QStringLiteral("/gpgconf");
-        const QStringList kill = {QStringLiteral("--homedir"), home, QStringLiteral("--kill"),
-                                  QStringLiteral("all")};
-        auto killing = means->runner->run(gpgconf, kill);
-        const auto killed = co_await killing;
-        if (!killed)
-            qWarning("gpgconf: %s", qUtf8Printable(killed.error().description()));
-    }
+    auto ending = BundleTools::endAgent(job->tools, gnupgHome(temporary));
+    co_await ending;
     const std::function<bool()> remove = [temporary, folder = job->folder] {
         removeTree(temporary);
         folder->discard();

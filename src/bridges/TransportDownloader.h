@@ -79,8 +79,8 @@ private:
     struct Job;
     static QCoro::Task<Outcome> run(std::shared_ptr<Means> means, bool throughTor, Progress progress);
     static QCoro::Task<Outcome> fill(std::shared_ptr<Job> job);
-    static QCoro::Task<Result<void, DownloadError>> verify(std::shared_ptr<Job> job, QString gpg,
-                                                           QString archive, QUrl archiveURL);
+    static QCoro::Task<Result<void, DownloadError>> verify(std::shared_ptr<Job> job, QString archive,
+                                                           QUrl archiveURL);
     static QCoro::Task<Result<void, DownloadError>> unpack(std::shared_ptr<Job> job, QString archive);
     static QCoro::Task<void> clearUp(std::shared_ptr<Job> job, QString temporary);
 

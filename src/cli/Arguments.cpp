@@ -10,7 +10,7 @@ using Verb = Invocation::Verb;
 
 struct VerbRule {
     Verb verb;
-    int operands = 0; // KEY, VALUE, or ID
+    int operands = 0; // KEY, VALUE, ID, or APP
     QStringList options = {};
 };
 
@@ -31,6 +31,8 @@ const QHash<QString, VerbRule> &rules()
         {QStringLiteral("log"), {Verb::log, 0, {QStringLiteral("--follow"), QStringLiteral("--problems")}}},
         {QStringLiteral("bridges"), {Verb::bridges, 0, {json}}},
         {QStringLiteral("download-transports"), {Verb::downloadTransports}},
+        {QStringLiteral("apps"), {Verb::apps, 0, {json}}},
+        {QStringLiteral("launch"), {Verb::launch, 1}},
         {QStringLiteral("get"), {Verb::get, 1}},
         {QStringLiteral("set"), {Verb::set, 2}},
         {QStringLiteral("help"), {Verb::help}},
@@ -89,6 +91,8 @@ Result<Invocation, QString> parseArguments(const QStringList &arguments)
     }
     if (operands.size() < rule->operands && rule->verb == Verb::closeCircuit)
         return Failure(QStringLiteral("close-circuit needs a circuit's number; \"veldmarkctl circuits\" shows them."));
+    if (operands.size() < rule->operands && rule->verb == Verb::launch)
+        return Failure(QStringLiteral("launch needs an application; \"veldmarkctl apps\" lists them."));
     if (operands.size() < rule->operands)
         return Failure(rule->operands == 1
                            ? QStringLiteral("%1 needs a key: veldmarkctl %1 KEY.").arg(arguments.first())
@@ -122,6 +126,10 @@ QString usageText()
         "  bridges [--json]          the transport programs and built-in bridges that were found, and\n"
         "                            which of your own bridge lines are not valid\n"
         "  download-transports       fetch the Tor Project's transport programs and built-in bridges\n"
+        "  apps [--json]             the installed applications; * marks those in the setting \"bypassApps\"\n"
+        "  launch APP                open an application without Tor, with your own address; needs strict mode.\n"
+        "                            APP is a name from \"apps\", the file name of its desktop entry, or the path\n"
+        "                            of an entry or a program. Running copies are asked to quit first\n"
         "  get KEY                   print a field of \"status --json\"\n"
         "  set KEY VALUE             change a setting; it applies at the next connect\n"
         "\n"

@@ -11,16 +11,16 @@ namespace veldmark {
 struct Invocation {
     enum class Verb {
         run, status, connect, disconnect, restore, check, fixDNS, circuits, closeCircuit, newIdentity,
-        log, get, set, bridges, downloadTransports,
+        log, get, set, bridges, downloadTransports, apps, launch,
         help, version,
     };
     Verb verb = Verb::help;
     bool connectNow = false; // run --connect
-    bool json = false;       // status, circuits, bridges
+    bool json = false;       // status, circuits, bridges, apps
     bool watch = false;      // status
     bool follow = false;     // log
     bool problems = false;   // log
-    QString key;             // get, set; close-circuit's id
+    QString key;             // get, set; close-circuit's id; launch's application
     QString value;           // set
 };
 

@@ -1,5 +1,6 @@
 #include "cli/Commands.h"
 
+#include "cli/ApplicationsCommand.h"
 #include "cli/BridgesCommand.h"
 #include "cli/Console.h"
 #include "cli/LogCommand.h"
@@ -51,6 +52,11 @@ QJsonObject request(const Invocation &invocation)
         close.insert(QStringLiteral("id"), invocation.key);
         return close;
     }
+    case Verb::launch: {
+        QJsonObject launch = command("launch");
+        launch.insert(QStringLiteral("app"), invocation.key);
+        return launch;
+    }
     case Verb::newIdentity:
         return command("new-identity");
     case Verb::downloadTransports:
@@ -98,22 +104,32 @@ bool showsEveryState(const Invocation &invocation)
 bool showsLastState(const Invocation &invocation)
 {
     return invocation.verb != Verb::set && invocation.verb != Verb::newIdentity
-        && invocation.verb != Verb::closeCircuit && invocation.verb != Verb::downloadTransports;
+        && invocation.verb != Verb::closeCircuit && invocation.verb != Verb::launch && invocation.verb != Verb::downloadTransports;
+}
+
+void showConnecting(const QJsonObject &state, ProgressLine &progress, QString &shownProblem)
+{
+    Console::draw(progress.update(state.value(QStringLiteral("bootstrapProgress")).toDouble(),
+                                  state.value(QStringLiteral("statusDetail")).toString()));
+    const QString problem = state.value(QStringLiteral("bootstrapProblem")).toString();
+    if (problem == std::exchange(shownProblem, problem) || problem.isEmpty())
+        return;
+    Console::draw(progress.finish());
+    Console::print(problem);
 }
 
 QCoro::Task<ExitStatus> askInstance(Invocation invocation, std::shared_ptr<InstanceClient> instance)
 {
     const auto last = std::make_shared<QJsonObject>();
     const auto progress = std::make_shared<ProgressLine>(Console::isTerminal(), Console::width());
-    const std::function<void(const QJsonObject &)> onState = [invocation, last, progress](const QJsonObject &state) {
+    const auto problem = std::make_shared<QString>(); // as it was shown last
+    const std::function<void(const QJsonObject &)> onState = [invocation, last, progress, problem](const QJsonObject &state) {
         *last = state;
         if (showsEveryState(invocation))
             show(invocation, state);
         else if (invocation.verb == Verb::connect
                  && state.value(QStringLiteral("phase")) == QLatin1String("connecting"))
-            Console::draw(progress->update(
-                state.value(QStringLiteral("bootstrapProgress")).toDouble(),
-                state.value(QStringLiteral("statusDetail")).toString()));
+            showConnecting(state, *progress, *problem);
         else if (invocation.verb == Verb::downloadTransports)
             Console::draw(progress->update(state.value(QStringLiteral("transportDownload")).toString()));
     };
@@ -121,8 +137,8 @@ QCoro::Task<ExitStatus> askInstance(Invocation invocation, std::shared_ptr<Insta
     const auto answer = co_await running;
     Console::draw(progress->finish());
     if (!answer) {
-        Console::printError(answer.error());
-        co_return invocation.verb == Verb::set ? ExitStatus::usage : ExitStatus::failed;
+        Console::printError(answer.error().description());
+        co_return answer.error().isUsage() ? ExitStatus::usage : ExitStatus::failed;
     }
     if (showsEveryState(invocation) || !showsLastState(invocation))
         co_return ExitStatus::done;
@@ -143,8 +159,8 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
     if (invocation.verb == Verb::set) {
         const auto set = setSetting(controller, invocation.key, invocation.value);
         if (!set) {
-            Console::printError(set.error());
-            co_return ExitStatus::usage;
+            Console::printError(set.error().description());
+            co_return set.error().kind() == SettingError::Kind::Refused ? ExitStatus::usage : ExitStatus::failed;
         }
         if (const auto problem = production->settings().problem()) {
             Console::printError(*problem);
@@ -173,10 +189,10 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
     co_return show(invocation, publishedState(controller)) ? ExitStatus::done : ExitStatus::usage;
 }
 
-QCoro::Task<ExitStatus> refuse()
+QCoro::Task<ExitStatus> refuse(QString reason = notRunning, ExitStatus status = ExitStatus::notRunning)
 {
-    Console::printError(notRunning);
-    co_return ExitStatus::notRunning;
+    Console::printError(reason);
+    co_return status;
 }
 
 } // namespace
@@ -187,6 +203,14 @@ QCoro::Task<ExitStatus> execute(Invocation invocation, PlatformProfile profile)
         return showLog(invocation, profile);
     if (invocation.verb == Verb::bridges)
         return showBridges(invocation, profile);
+    if (invocation.verb == Verb::apps)
+        return showApplications(invocation, profile);
+    if (invocation.verb == Verb::launch) {
+        const auto path = applicationPath(invocation.key);
+        if (!path)
+            return refuse(path.error(), ExitStatus::usage);
+        invocation.key = *path;
+    }
     if (const auto instance = InstanceClient::connectTo(profile))
         return askInstance(invocation, instance);
     switch (invocation.verb) {

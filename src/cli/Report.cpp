@@ -124,6 +124,9 @@ QString status(const QJsonObject &state)
     } else if (phase == QLatin1String("stale")) {
         report += row("What to do", QStringLiteral("veldmarkctl restore"));
     }
+    const bool isTried = phase == QLatin1String("connecting") || phase == QLatin1String("stale");
+    if (const QString problem = text(state, "bootstrapProblem"); isTried && !problem.isEmpty())
+        report += row("Cause", problem);
     if (const QString error = text(state, "errorMessage"); !error.isEmpty())
         report += row("Problem", error);
     if (const QString error = text(state, "terminalError"); !error.isEmpty())

@@ -20,6 +20,8 @@ RunCommand::RunCommand(const PlatformProfile &profile, bool connectNow)
     QObject::connect(&m_signals, &SignalWatcher::received, this, &RunCommand::onSignal);
     for (const auto changed : {&TorController::bootstrapProgressChanged, &TorController::statusDetailChanged})
         QObject::connect(&m_controller, changed, this, &RunCommand::showProgress, Qt::QueuedConnection);
+    QObject::connect(&m_controller, &TorController::bootstrapProblemChanged, this, &RunCommand::showProblem,
+                     Qt::QueuedConnection);
     // Queued, like all of these: what is shown has been set as a whole.
     QObject::connect(&m_controller, &TorController::phaseChanged, this, &RunCommand::showPhase,
                      Qt::QueuedConnection);
@@ -103,6 +105,12 @@ void RunCommand::showProgress()
 {
     if (m_controller.phase() == ConnectionPhase::connecting)
         Console::draw(m_progress.update(m_controller.bootstrapProgress(), m_controller.statusDetail()));
+}
+
+void RunCommand::showProblem()
+{
+    if (m_controller.phase() == ConnectionPhase::connecting && m_controller.bootstrapProblem())
+        say(*m_controller.bootstrapProblem());
 }
 
 void RunCommand::showPhase()

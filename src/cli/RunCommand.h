@@ -34,6 +34,7 @@ private:
     void onWithdrawn(bool restored);
     void finish(ExitStatus status);
     void showProgress();
+    void showProblem();
     void showPhase();
     void say(const QString &text);
     void complain(const QString &text);

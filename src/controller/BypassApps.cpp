@@ -47,10 +47,10 @@ void TorController::removeBypassApp(const QString &path)
     bypassApps.set(apps);
 }
 
-QCoro::Task<void> TorController::launchBypassed(QString path)
+QCoro::Task<Result<void, QString>> TorController::launchBypassed(QString path)
 {
     if (!canLaunchBypassed())
-        co_return;
+        co_return Failure(QStringLiteral("Connect in strict mode to open apps without Tor"));
     const QPointer<TorController> self(this);
     RunningApplications &applications = m_services.applications;
     const auto copies = applications.copiesOf(QDir::cleanPath(path));
@@ -63,16 +63,20 @@ QCoro::Task<void> TorController::launchBypassed(QString path)
             break;
         co_await m_services.clock.sleep(quitCheckInterval);
         if (!self || !canLaunchBypassed())
-            co_return; // the session ended meanwhile
+            co_return Failure(QString()); // the session ended meanwhile
     }
 
     const QStringList arguments = {QStringLiteral("launch"), QStringLiteral("--uid"), QString::number(getuid()),
                                    QStringLiteral("--app"), path};
     const auto helper = co_await m_services.privileged.runHelper(arguments);
-    if (!self || helper || helper.error().kind() == HelperError::Kind::Cancelled)
-        co_return;
-    errorMessage = QStringLiteral("Couldn't open ") + m_services.applications.displayName(path)
+    if (helper)
+        co_return {};
+    if (!self || helper.error().kind() == HelperError::Kind::Cancelled)
+        co_return Failure(QString());
+    const QString failure = QStringLiteral("Couldn't open ") + m_services.applications.displayName(path)
         + QStringLiteral(" without Tor: ") + helper.error().description();
+    errorMessage = failure;
+    co_return Failure(failure);
 }
 
 } // namespace veldmark

@@ -1,8 +1,6 @@
 #include "controller/TorController.h"
 
-#include "base/Clock.h"
 #include "bridges/BridgePlan.h"
-#include "control/ControlPort.h"
 #include "platform/PlatformProfile.h"
 #include "system/PrivilegedRunner.h"
 #include "system/ProcessRunner.h"
@@ -10,21 +8,12 @@
 #include <QFileInfo>
 #include <QPointer>
 #include <QRandomGenerator>
-#include <QRegularExpression>
-
-#include <algorithm>
-
-using namespace std::chrono_literals;
 
 namespace veldmark {
 
 namespace {
 
-constexpr auto bootstrapLimit = 300s;
-constexpr auto bootstrapPoll = 1s;
 constexpr int passwordBytes = 32;
-
-const QString bootstrapKey = QStringLiteral("status/bootstrap-phase");
 
 bool isExecutableFile(const QString &path)
 {
@@ -62,14 +51,6 @@ QString TorController::randomHex(int bytes)
     for (char &byte : random)
         byte = static_cast<char>(QRandomGenerator::system()->bounded(256));
     return QString::fromLatin1(random.toHex());
-}
-
-BootstrapStatus TorController::parseBootstrap(const QString &reply)
-{
-    static const QRegularExpression progressField(QStringLiteral("PROGRESS=(\\d+)"));
-    static const QRegularExpression summaryField(QStringLiteral("SUMMARY=\"([^\"]*)\""));
-    return {progressField.match(reply).captured(1).toInt(), // 0 when absent or out of range
-            summaryField.match(reply).captured(1)};
 }
 
 QString TorController::connectedDetail() const
@@ -151,38 +132,6 @@ QCoro::Task<Result<QString, QString>> TorController::hashPassword(QString passwo
     co_return Failure(TorError::hashFailed(run->stderr.trimmed()).description());
 }
 
-QCoro::Task<Result<void, QString>> TorController::waitForBootstrap(Attempt attempt)
-{
-    if (!m_controlPassword)
-        co_return Failure(ControlPortError::notConnected().description());
-    const QPointer<TorController> self(this);
-    const QString password = *m_controlPassword;
-    const QStringList keys = {bootstrapKey};
-    Clock &clock = m_services.clock;
-    const auto deadline = clock.now() + bootstrapLimit;
-    std::optional<QString> lastError;
-    while (clock.now() < deadline) {
-        const auto reply = co_await m_services.controlPort.getInfo(keys, password);
-        if (!self || !isCurrent(attempt))
-            co_return Failure(QString()); // the user disconnected; nobody reads this
-        if (reply) {
-            const BootstrapStatus status = parseBootstrap(reply->value(bootstrapKey));
-            bootstrapProgress = std::min(status.progress, 100) / 100.0;
-            if (!status.summary.isEmpty())
-                statusDetail = status.summary;
-            lastError = std::nullopt;
-            if (status.progress >= 100)
-                co_return {};
-        } else {
-            lastError = reply.error().description();
-        }
-        co_await clock.sleep(bootstrapPoll);
-        if (!self || !isCurrent(attempt))
-            co_return Failure(QString());
-    }
-    co_return Failure(TorError::bootstrapTimeout(lastError).description());
-}
-
 QCoro::Task<void> TorController::connect()
 {
     if (phase() != ConnectionPhase::disconnected && phase() != ConnectionPhase::stale)
@@ -208,6 +157,7 @@ QCoro::Task<void> TorController::connect()
     stopMonitoring();
     forgetCircuits();
     bootstrapProgress = 0.0;
+    bootstrapProblem = std::nullopt;
     resetSessionInfo();
     statusDetail = QStringLiteral("Preparing Tor…");
     phase = ConnectionPhase::connecting;
@@ -267,6 +217,7 @@ QCoro::Task<void> TorController::connect()
         co_return;
     }
 
+    bootstrapProblem = std::nullopt;
     statusDetail = connectedDetail();
     phase = ConnectionPhase::connected;
     if (!self || !isCurrent(attempt))

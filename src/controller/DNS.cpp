@@ -7,6 +7,8 @@
 
 #include <QPointer>
 
+#include <utility>
+
 namespace veldmark {
 
 namespace {
@@ -64,8 +66,32 @@ QCoro::Task<void> TorController::fixDNS()
 {
     if (phase() != ConnectionPhase::connected)
         co_return;
-    const QPointer<TorController> self(this);
     const Attempt attempt = m_attempt;
+    if (m_fixedAttempt == attempt) { // the one under way does for this call as well, with one prompt
+        const ResumeOnce<bool> ended;
+        m_fixWaiters.push_back(ended);
+        co_await ended;
+        co_return;
+    }
+    const QPointer<TorController> self(this);
+    m_fixedAttempt = attempt;
+    auto repairing = repairDNS(attempt);
+    co_await repairing;
+    if (!self || m_fixedAttempt != attempt)
+        co_return;
+    m_fixedAttempt = std::nullopt;
+    endFixWaits();
+}
+
+void TorController::endFixWaits()
+{
+    for (const ResumeOnce<bool> &waiter : std::exchange(m_fixWaiters, {}))
+        waiter.complete(true);
+}
+
+QCoro::Task<void> TorController::repairDNS(Attempt attempt)
+{
+    const QPointer<TorController> self(this);
     errorMessage = std::nullopt;
     const QStringList arguments = {QStringLiteral("fix-dns")};
     const auto helper = co_await m_services.privileged.runHelper(arguments);

@@ -82,6 +82,7 @@ void TorController::endSession()
     forgetCircuits();
     resetSessionInfo();
     bootstrapProgress = 0.0;
+    bootstrapProblem = std::nullopt;
     statusDetail = QStringLiteral("Your traffic is not going through Tor");
     phase = ConnectionPhase::disconnected;
 }

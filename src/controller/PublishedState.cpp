@@ -73,7 +73,12 @@ QString shown(const QString &text)
     return line.size() <= limit ? line : line.left(limit - 1) + u'…';
 }
 
-Result<bool, QString> parseSwitch(const QString &text)
+auto refusal(const QString &description)
+{
+    return Failure(SettingError(SettingError::Kind::Refused, description));
+}
+
+Result<bool, SettingError> parseSwitch(const QString &text)
 {
     const QString word = text.trimmed().toLower();
     static const QStringList on = {QStringLiteral("true"), QStringLiteral("on"),
@@ -84,13 +89,12 @@ Result<bool, QString> parseSwitch(const QString &text)
         return true;
     if (off.contains(word))
         return false;
-    return Failure(QStringLiteral("\"%1\" is neither true nor false.").arg(shown(text)));
+    return refusal(QStringLiteral("\"%1\" is neither true nor false.").arg(shown(text)));
 }
 
-Result<QStringList, QString> parseList(const QString &text)
+Result<QStringList, SettingError> parseList(const QString &text)
 {
-    const auto failure =
-        Failure(QStringLiteral("\"%1\" is no JSON array of strings.").arg(shown(text)));
+    const auto failure = refusal(QStringLiteral("\"%1\" is no JSON array of strings.").arg(shown(text)));
     const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8());
     if (!document.isArray())
         return failure;
@@ -104,10 +108,10 @@ Result<QStringList, QString> parseList(const QString &text)
 }
 
 // What a setting's `set` returned, as this file's functions give it.
-Result<void, QString> saved(const std::optional<QString> &problem)
+Result<void, SettingError> saved(const std::optional<QString> &problem)
 {
     if (problem)
-        return Failure(*problem);
+        return Failure(SettingError(SettingError::Kind::NotDone, *problem));
     return {};
 }
 
@@ -135,6 +139,7 @@ QJsonObject publishedState(const TorController &c)
         {QStringLiteral("activeMode"), json(c.activeMode())},
         {QStringLiteral("bootstrapProgress"), json(c.bootstrapProgress())},
         {QStringLiteral("statusDetail"), json(c.statusDetail())},
+        {QStringLiteral("bootstrapProblem"), json(c.bootstrapProblem())},
         {QStringLiteral("exitIP"), json(c.exitIP())},
         {QStringLiteral("torVerified"), json(c.torVerified())},
         {QStringLiteral("leakStatus"), json(c.leakStatus())},
@@ -163,7 +168,7 @@ QStringList settingNames()
             QStringLiteral("optimizeSpeed"), QStringLiteral("terminalMode")};
 }
 
-Result<void, QString> setSetting(TorController &c, const QString &name, const QString &text)
+Result<void, SettingError> setSetting(TorController &c, const QString &name, const QString &text)
 {
     Setting<bool> *const switches[] = {&c.strictMode, &c.allowLocalNetwork, &c.autoConnect,
                                        &c.optimizeSpeed};
@@ -178,14 +183,14 @@ Result<void, QString> setSetting(TorController &c, const QString &name, const QS
         });
     if (name == c.exitCountry.key()) {
         if (!ExitCountry::isValid(text))
-            return Failure(QStringLiteral("\"%1\" is no exit country: two lower-case letters such "
+            return refusal(QStringLiteral("\"%1\" is no exit country: two lower-case letters such "
                                           "as \"de\", or nothing for any.").arg(shown(text)));
         return saved(c.exitCountry.set(text));
     }
     if (name == c.bridgeChoice.key()) {
         const auto choice = bridgeChoiceFromRawValue(text);
         if (!choice)
-            return Failure(QStringLiteral("\"%1\" is no bridge choice: off, obfs4, snowflake, meek "
+            return refusal(QStringLiteral("\"%1\" is no bridge choice: off, obfs4, snowflake, meek "
                                           "or custom.").arg(shown(text)));
         return saved(c.bridgeChoice.set(*choice));
     }
@@ -198,7 +203,7 @@ Result<void, QString> setSetting(TorController &c, const QString &name, const QS
     if (name == c.bypassApps.key())
         return parseList(text).and_then(
             [&c](const QStringList &apps) { return saved(c.bypassApps.set(apps)); });
-    return Failure(QStringLiteral("There is no setting \"%1\". Settings: %2.")
+    return refusal(QStringLiteral("There is no setting \"%1\". Settings: %2.")
                        .arg(shown(name), settingNames().join(QStringLiteral(", "))));
 }
 

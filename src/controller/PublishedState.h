@@ -21,9 +21,25 @@ QJsonObject publishedState(const TorController &controller);
 // The fields that a user may set, by name.
 QStringList settingNames();
 
+// Why setSetting() is not content.
+class SettingError {
+public:
+    enum class Kind {
+        Refused, // there is no such setting, or the text is none of its values; nothing has changed
+        NotDone, // the setting holds, but could not be saved or not be carried out
+    };
+    SettingError(Kind kind, QString description) : m_kind(kind), m_description(std::move(description)) {}
+
+    Kind kind() const { return m_kind; }
+    QString description() const { return m_description; } // one line
+
+private:
+    Kind m_kind;
+    QString m_description;
+};
+
 // Sets the setting `name` from its text: "true"/"false" (also on/off, yes/no, 1/0) for switches,
-// a JSON array of strings for lists, the raw value for choices. The error is one line:
-// what is wrong with the text, or that the setting holds but could not be saved.
-Result<void, QString> setSetting(TorController &controller, const QString &name, const QString &text);
+// a JSON array of strings for lists, the raw value for choices.
+Result<void, SettingError> setSetting(TorController &controller, const QString &name, const QString &text);
 
 } // namespace veldmark

@@ -71,6 +71,7 @@ TorController::TorController(const Services &services, QObject *parent)
     , bootstrapProgress(this, &TorController::bootstrapProgressChanged)
     , statusDetail(this, &TorController::statusDetailChanged,
                    QStringLiteral("Your traffic is not going through Tor"))
+    , bootstrapProblem(this, &TorController::bootstrapProblemChanged)
     , canCancel(this, &TorController::canCancelChanged)
     , errorMessage(this, &TorController::errorMessageChanged)
     , bytesRead(this, &TorController::bytesReadChanged)
@@ -97,7 +98,10 @@ TorController::TorController(const Services &services, QObject *parent)
     locateTransports();
 }
 
-TorController::~TorController() = default;
+TorController::~TorController()
+{
+    endFixWaits();
+}
 
 void TorController::loadSettings()
 {

@@ -11,6 +11,7 @@
 #include "controller/SessionTypes.h"
 
 #include "base/Result.h"
+#include "base/ResumeOnce.h"
 #include "base/RoutingMode.h"
 
 #include <QObject>
@@ -39,6 +40,7 @@ struct PlatformProfile;
 struct BootstrapStatus {
     int progress = 0; // per cent
     QString summary;  // Tor's own words; empty when the report has none
+    QString warning;  // what is in Tor's way, a sentence; empty when Tor warns of nothing
 };
 
 // The one object that holds what the program knows: the user's settings, the session with Tor, and
@@ -96,6 +98,9 @@ public:
     Published<std::optional<BridgeChoice>> activeBridge;
     Published<double> bootstrapProgress; // 0…1
     Published<QString> statusDetail;     // the line under the title
+    // What keeps Tor from connecting, by its own report and log, in a sentence; absent when Tor knows
+    // of nothing. Stays after a bootstrap that failed, until the next attempt or the restore.
+    Published<std::optional<QString>> bootstrapProblem;
     Published<bool> canCancel;           // a connect attempt may be ended by disconnect()
     // The banner; absent = none. An operation that may set it takes back what stood there before,
     // except a restore that did not happen: then the reason for restoring is still true.
@@ -148,6 +153,7 @@ public:
     // --- Operations: checks and circuits; each does nothing unless connected. ---
     QCoro::Task<void> runChecks();
     QCoro::Task<void> checkDNS(bool live);
+    // Calls that come while one is under way share its run, and its prompt.
     QCoro::Task<void> fixDNS();
     QCoro::Task<void> refreshCircuits();
     QCoro::Task<void> newIdentity();
@@ -170,8 +176,9 @@ public:
     // Ignores what is no application of this system, and what is listed already.
     void addBypassApp(const QString &path);
     void removeBypassApp(const QString &path);
-    // Does nothing unless `canLaunchBypassed()`. Running copies are asked to quit first.
-    QCoro::Task<void> launchBypassed(QString path);
+    // Does nothing unless `canLaunchBypassed()`. Running copies are asked to quit first. The error is a
+    // sentence; empty when the user dismissed the prompt or the session ended meanwhile.
+    QCoro::Task<Result<void, QString>> launchBypassed(QString path);
 
     // --- Operations: helper without a password, terminal. ---
     // Reinstalls the root-owned helper when the program brought a newer one.
@@ -205,6 +212,7 @@ Q_SIGNALS:
     void activeBridgeChanged();
     void bootstrapProgressChanged();
     void statusDetailChanged();
+    void bootstrapProblemChanged();
     void canCancelChanged();
     void errorMessageChanged();
     void bytesReadChanged();
@@ -234,7 +242,6 @@ private:
 
     // Connect.cpp
     QCoro::Task<Result<QString, QString>> hashPassword(QString password, QString tor);
-    QCoro::Task<Result<void, QString>> waitForBootstrap(Attempt attempt);
     QCoro::Task<Result<QStringList, QString>> bridgeArguments(Attempt attempt, BridgeRequest request);
     // Makes every operation that is still under way an old one and clears what it left shown.
     Attempt startAttempt();
@@ -249,6 +256,10 @@ private:
     std::optional<RoutingMode> markedMode() const;
     QString connectedDetail() const;
     void failAttempt(const QString &message);
+    // Bootstrap.cpp
+    QCoro::Task<Result<void, QString>> waitForBootstrap(Attempt attempt);
+    // `waited`: since Tor's first answer.
+    std::optional<QString> problemBehind(const BootstrapStatus &status, std::chrono::nanoseconds waited) const;
     // Monitoring.cpp
     void startMonitoring();
     void stopMonitoring() { ++m_monitor; }
@@ -260,6 +271,9 @@ private:
         std::chrono::milliseconds elapsed; // in both outcomes
     };
     QCoro::Task<TimedProbe> timedViaTor();
+    // DNS.cpp
+    QCoro::Task<void> repairDNS(Attempt attempt);
+    void endFixWaits();
     // Circuits.cpp
     QCoro::Task<std::vector<RelayInfo>> resolveRelays(std::vector<RelayInfo> relays, Attempt attempt);
     // Terminal.cpp
@@ -276,6 +290,8 @@ private:
     quint64 m_monitor = 0;  // the running monitor loop
     std::optional<QString> m_controlPassword; // of the running session; in memory only
     bool m_isDownloading = false;             // transports
+    std::optional<Attempt> m_fixedAttempt;    // whose fixDNS() is under way
+    std::vector<ResumeOnce<bool>> m_fixWaiters; // later calls of the same session
     QByteArray m_relockNotice;                // as last shown in this session
     bool m_dnsLiveVerified = false;           // a live DNS check passed in this session
     QStringList m_pendingBridgeLines;         // of the connection being set up

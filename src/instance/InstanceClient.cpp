@@ -18,7 +18,7 @@ std::shared_ptr<InstanceClient> InstanceClient::connectTo(const PlatformProfile 
     return std::shared_ptr<InstanceClient>(new InstanceClient(JsonLines::over(socket.release())));
 }
 
-QCoro::Task<Result<void, QString>>
+QCoro::Task<Result<void, InstanceError>>
 InstanceClient::run(QJsonObject request, std::function<void(const QJsonObject &)> onState)
 {
     const auto lines = m_lines;
@@ -26,14 +26,15 @@ InstanceClient::run(QJsonObject request, std::function<void(const QJsonObject &)
     for (;;) {
         const auto answer = co_await lines->next();
         if (!answer)
-            co_return Failure(QStringLiteral("Veldmark stopped before it had answered."));
+            co_return Failure(InstanceError(QStringLiteral("Veldmark stopped before it had answered.")));
         if (const QJsonValue state = answer->value(QStringLiteral("state")); state.isObject()) {
             onState(state.toObject());
             continue;
         }
         if (answer->value(QStringLiteral("ok")).toBool())
             co_return {};
-        co_return Failure(answer->value(QStringLiteral("error")).toString());
+        co_return Failure(InstanceError(answer->value(QStringLiteral("error")).toString(),
+                                        answer->value(QStringLiteral("usage")).toBool()));
     }
 }
 

@@ -21,11 +21,13 @@ namespace {
 
 const QString okKey = QStringLiteral("ok");
 const QString errorKey = QStringLiteral("error");
+const QString usageKey = QStringLiteral("usage");
 const QString stateKey = QStringLiteral("state");
 
 // What can only be asked of a connected Tor.
 const QStringList sessionCommands = {QStringLiteral("check"), QStringLiteral("fix-dns"), QStringLiteral("circuits"),
-                                     QStringLiteral("close-circuit"), QStringLiteral("new-identity")};
+                                     QStringLiteral("close-circuit"), QStringLiteral("new-identity"),
+                                     QStringLiteral("launch")};
 // Commands during which the client hears of every change.
 const QStringList longCommands =
     QStringList{QStringLiteral("watch"), QStringLiteral("connect"), QStringLiteral("disconnect"),
@@ -37,6 +39,17 @@ bool hasCircuit(const TorController &controller, const QString &id)
     const auto &circuits = controller.circuits();
     return std::any_of(circuits.begin(), circuits.end(),
                        [&id](const CircuitInfo &circuit) { return circuit.id == id; });
+}
+
+auto refusal(const QString &description)
+{
+    return Failure(InstanceError(description));
+}
+
+QString connectFailure(const TorController &controller)
+{
+    const QString failure = controller.errorMessage().value_or(QStringLiteral("Cancelled."));
+    return controller.bootstrapProblem() ? failure + u' ' + *controller.bootstrapProblem() : failure;
 }
 
 // The folder keeps other users out; this keeps them out also where its mode was changed.
@@ -171,18 +184,22 @@ QCoro::Task<void> InstanceServer::serve(std::shared_ptr<JsonLines> lines)
     const auto request = co_await lines->next();
     if (!self)
         co_return;
-    Result<void, QString> done = Failure(QStringLiteral("A command is a JSON object on one line."));
+    Result<void, InstanceError> done = refusal(QStringLiteral("A command is a JSON object on one line."));
     if (request) {
         auto executing = execute(*request, lines);
         done = co_await executing;
     }
-    lines->write(done ? QJsonObject{{okKey, true}}
-                      : QJsonObject{{okKey, false}, {errorKey, done.error()}});
+    QJsonObject answer{{okKey, done.has_value()}};
+    if (!done)
+        answer.insert(errorKey, done.error().description());
+    if (!done && done.error().isUsage())
+        answer.insert(usageKey, true);
+    lines->write(answer);
     co_await lines->finish();
 }
 
-QCoro::Task<Result<void, QString>> InstanceServer::execute(QJsonObject request,
-                                                           std::shared_ptr<JsonLines> lines)
+QCoro::Task<Result<void, InstanceError>> InstanceServer::execute(QJsonObject request,
+                                                                 std::shared_ptr<JsonLines> lines)
 {
     const QPointer<TorController> controller(&m_controller);
     const QString command = request.value(QStringLiteral("command")).toString();
@@ -198,11 +215,15 @@ QCoro::Task<Result<void, QString>> InstanceServer::execute(QJsonObject request,
         const QJsonValue key = request.value(QStringLiteral("key"));
         const QJsonValue value = request.value(QStringLiteral("value"));
         if (!key.isString() || !value.isString())
-            co_return Failure(QStringLiteral("\"set\" needs a \"key\" and a \"value\", both strings."));
-        co_return setSetting(m_controller, key.toString(), value.toString());
+            co_return refusal(QStringLiteral("\"set\" needs a \"key\" and a \"value\", both strings."));
+        const auto set = setSetting(m_controller, key.toString(), value.toString());
+        if (!set)
+            co_return Failure(InstanceError(set.error().description(),
+                                            set.error().kind() == SettingError::Kind::Refused));
+        co_return {};
     }
     if (!longCommands.contains(command))
-        co_return Failure(QStringLiteral("Unknown command \"%1\".").arg(command.left(40).simplified()));
+        co_return refusal(QStringLiteral("Unknown command \"%1\".").arg(command.left(40).simplified()));
 
     StateStream stream(m_controller, lines);
     if (command == QLatin1String("watch")) {
@@ -212,15 +233,15 @@ QCoro::Task<Result<void, QString>> InstanceServer::execute(QJsonObject request,
     }
     if (command == QLatin1String("connect")) {
         if (controller->optionsLocked())
-            co_return Failure(QStringLiteral("Already connected, or on the way; \"veldmarkctl status\" says more."));
+            co_return refusal(QStringLiteral("Already connected, or on the way; \"veldmarkctl status\" says more."));
         co_await m_controller.connect();
         if (controller && controller->phase() != ConnectionPhase::connected)
-            co_return Failure(controller->errorMessage().value_or(QStringLiteral("Cancelled.")));
+            co_return refusal(connectFailure(*controller));
     } else if (command == QLatin1String("disconnect")) {
         const bool underWay = controller->phase() == ConnectionPhase::disconnecting
             || (controller->phase() == ConnectionPhase::connecting && !controller->canCancel());
         if (underWay)
-            co_return Failure(QStringLiteral("Not now: %1").arg(controller->statusDetail()));
+            co_return refusal(QStringLiteral("Not now: %1").arg(controller->statusDetail()));
         const bool wasStale = controller->phase() == ConnectionPhase::stale;
         const auto earlierError = controller->errorMessage();
         co_await m_controller.disconnect();
@@ -229,51 +250,59 @@ QCoro::Task<Result<void, QString>> InstanceServer::execute(QJsonObject request,
         const auto error = controller->errorMessage();
         const bool isNews = error && !(wasStale && error == earlierError);
         if (controller->phase() != ConnectionPhase::disconnected || isNews)
-            co_return Failure(isNews ? *error : QStringLiteral("Cancelled."));
+            co_return refusal(isNews ? *error : QStringLiteral("Cancelled."));
     } else if (command == QLatin1String("download-transports")) {
         if (!controller->canDownloadTransports())
-            co_return Failure(QStringLiteral("Not now: %1").arg(
+            co_return refusal(QStringLiteral("Not now: %1").arg(
                 controller->transportDownload().value_or(controller->statusDetail())));
         auto downloading = m_controller.downloadTransports();
         const bool isInstalled = co_await downloading;
         if (controller && !isInstalled)
-            co_return Failure(controller->transportDownload().value_or(QStringLiteral("Cancelled.")));
+            co_return refusal(controller->transportDownload().value_or(QStringLiteral("Cancelled.")));
     } else if (controller->phase() != ConnectionPhase::connected) {
-        co_return Failure(QStringLiteral("Not connected."));
+        co_return refusal(QStringLiteral("Not connected."));
     } else if (command == QLatin1String("check")) {
         if (controller->isChecking())
-            co_return Failure(QStringLiteral("A check is already running."));
+            co_return refusal(QStringLiteral("A check is already running."));
         co_await m_controller.runChecks();
     } else if (command == QLatin1String("fix-dns")) {
         co_await m_controller.fixDNS();
         if (controller && controller->errorMessage())
-            co_return Failure(*controller->errorMessage());
+            co_return refusal(*controller->errorMessage());
         if (controller && controller->dnsStatus().isLeak())
-            co_return Failure(QStringLiteral("Cancelled."));
+            co_return refusal(QStringLiteral("Cancelled."));
+    } else if (command == QLatin1String("launch")) {
+        const QString path = request.value(QStringLiteral("app")).toString();
+        if (!path.startsWith(u'/'))
+            co_return refusal(QStringLiteral("\"launch\" needs an \"app\", an absolute path."));
+        auto launching = m_controller.launchBypassed(path);
+        const auto launched = co_await launching;
+        if (controller && !launched && controller->phase() == ConnectionPhase::connected)
+            co_return refusal(launched.error().isEmpty() ? QStringLiteral("Cancelled.") : launched.error());
     } else if (command == QLatin1String("close-circuit")) {
         const QString id = request.value(QStringLiteral("id")).toString();
         co_await m_controller.refreshCircuits();
         if (!controller)
             co_return {};
         if (controller->circuitError())
-            co_return Failure(*controller->circuitError());
+            co_return refusal(*controller->circuitError());
         if (!hasCircuit(*controller, id))
-            co_return Failure(QStringLiteral("There is no circuit \"%1\".").arg(id.left(40).simplified()));
+            co_return refusal(QStringLiteral("There is no circuit \"%1\".").arg(id.left(40).simplified()));
         co_await m_controller.newCircuit(id);
         if (controller && hasCircuit(*controller, id))
-            co_return Failure(QStringLiteral("Tor didn't close circuit %1.").arg(id));
+            co_return refusal(QStringLiteral("Tor didn't close circuit %1.").arg(id));
     } else if (command == QLatin1String("circuits")) {
         co_await m_controller.refreshCircuits();
         if (controller && controller->circuitError())
-            co_return Failure(*controller->circuitError());
+            co_return refusal(*controller->circuitError());
     } else if (command == QLatin1String("new-identity")) {
         co_await m_controller.newIdentity();
         if (controller && controller->errorMessage())
-            co_return Failure(*controller->errorMessage());
+            co_return refusal(*controller->errorMessage());
     }
     // What was asked of a session that ended meanwhile has no answer; the fields hold an earlier one.
     if (controller && sessionCommands.contains(command) && controller->phase() != ConnectionPhase::connected)
-        co_return Failure(QStringLiteral("The session has ended: %1").arg(controller->statusDetail()));
+        co_return refusal(QStringLiteral("The session has ended: %1").arg(controller->statusDetail()));
     if (controller)
         stream.sendNow(); // the last word, with everything that the command changed
     co_return {};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "instance/InstanceError.h"
 
 #include <QJsonObject>
 #include <QLocalServer>
@@ -18,7 +19,8 @@
 //
 //     → {"command": "connect"}                      also "set" with "key" and "value", …
 //     ← {"state": {…every published field…}}        any number of these, as they change
-//     ← {"ok": true}   or   {"ok": false, "error": "one line"}     the last line of the answer
+//     ← {"ok": true}   or   {"ok": false, "error": "one line"}     the last line of the answer;
+//                                                  "usage": true besides when the request itself was wrong
 //
 // A connection carries one command. A client that reads slowly misses states, never the last one;
 // one that goes away changes nothing about the command that it has given.
@@ -45,7 +47,7 @@ private:
     explicit InstanceServer(TorController &controller);
     void accept();
     QCoro::Task<void> serve(std::shared_ptr<JsonLines> lines);
-    QCoro::Task<Result<void, QString>> execute(QJsonObject request, std::shared_ptr<JsonLines> lines);
+    QCoro::Task<Result<void, InstanceError>> execute(QJsonObject request, std::shared_ptr<JsonLines> lines);
 
     TorController &m_controller;
     std::shared_ptr<QLockFile> m_lock;

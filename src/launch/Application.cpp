@@ -15,6 +15,7 @@ constexpr std::string_view entrySuffix = ".desktop";
 struct Release {
     void operator()(GKeyFile *file) const { g_key_file_unref(file); }
     void operator()(GDesktopAppInfo *info) const { g_object_unref(info); }
+    void operator()(GAppLaunchContext *context) const { g_object_unref(context); }
     void operator()(GError *error) const { g_error_free(error); }
 };
 
@@ -34,7 +35,11 @@ std::string startEntry(const std::string &path)
     const std::unique_ptr<GDesktopAppInfo, Release> info(g_desktop_app_info_new_from_keyfile(file.get()));
     if (!info)
         return "The desktop entry names no program that is installed.";
-    if (!g_app_info_launch(G_APP_INFO(info.get()), nullptr, nullptr, &error))
+    // GIO's own mark, by which the copy is found when it is to be opened anew. An entry that was not read from a
+    // file by GIO itself does not get it.
+    const std::unique_ptr<GAppLaunchContext, Release> context(g_app_launch_context_new());
+    g_app_launch_context_setenv(context.get(), "GIO_LAUNCHED_DESKTOP_FILE", path.c_str());
+    if (!g_app_info_launch(G_APP_INFO(info.get()), nullptr, context.get(), &error))
         return sentence("The application could not be started", error);
     return {};
 }

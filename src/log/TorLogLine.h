@@ -6,7 +6,7 @@
 #include <optional>
 
 // The room of Tor's log: TorLog reads the files that Tor and its launcher write, TorLogStore watches
-// them, TorLogFilter picks what a window or a command shows.
+// them, TorLogFilter picks what a window or a command shows, transportTrouble() what it says of bridge programs.
 namespace veldmark {
 
 // One line of the merged log.

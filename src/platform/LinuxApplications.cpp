@@ -113,26 +113,6 @@ public:
         return end < 0 || state.mid(end + 2, 1) == "Z";
     }
 
-    std::vector<InstalledApplication> installed() const override
-    {
-        std::vector<InstalledApplication> found;
-        GList *const all = g_app_info_get_all();
-        for (const GList *at = all; at; at = at->next) {
-            if (!G_IS_DESKTOP_APP_INFO(at->data) || !g_app_info_should_show(G_APP_INFO(at->data)))
-                continue;
-            auto *const info = G_DESKTOP_APP_INFO(at->data);
-            const char *const file = g_desktop_app_info_get_filename(info);
-            if (!file)
-                continue;
-            const std::unique_ptr<gchar, decltype(&g_free)> icon(g_desktop_app_info_get_string(info, "Icon"), g_free);
-            found.push_back({QFile::decodeName(file),
-                             QString::fromUtf8(g_app_info_get_display_name(G_APP_INFO(at->data))),
-                             QString::fromUtf8(icon.get())});
-        }
-        g_list_free_full(all, g_object_unref);
-        return found;
-    }
-
 private:
     const QString m_processes;
 };

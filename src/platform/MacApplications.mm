@@ -1,8 +1,11 @@
+#include "platform/InstalledApplications.h"
 #include "platform/RunningApplications.h"
 
 #import <AppKit/AppKit.h>
 
 #include <QDir>
+
+#include <algorithm>
 
 #include <unistd.h>
 
@@ -21,15 +24,17 @@ QString text(NSString *string)
     return string ? QString::fromUtf8([string UTF8String]) : QString();
 }
 
+QString nameOf(const QString &path)
+{
+    @autoreleasepool {
+        QString name = text([[NSFileManager defaultManager] displayNameAtPath:text(path)]);
+        return name.remove(QStringLiteral(".app"));
+    }
+}
+
 class MacApplications final : public RunningApplications {
 public:
-    QString displayName(const QString &path) const override
-    {
-        @autoreleasepool {
-            QString name = text([[NSFileManager defaultManager] displayNameAtPath:text(path)]);
-            return name.remove(QStringLiteral(".app"));
-        }
-    }
+    QString displayName(const QString &path) const override { return nameOf(path); }
 
     std::vector<qint64> copiesOf(const QString &path) const override
     {
@@ -75,6 +80,25 @@ private:
 std::unique_ptr<RunningApplications> runningApplications(const QString &)
 {
     return std::make_unique<MacApplications>();
+}
+
+std::vector<InstalledApplication> installedApplications()
+{
+    std::vector<InstalledApplication> applications;
+    for (const QString &folder : {QStringLiteral("/Applications"), QStringLiteral("/Applications/Utilities"),
+                                  QDir::homePath() + QStringLiteral("/Applications")}) {
+        const QStringList bundles =
+            QDir(folder).entryList({QStringLiteral("*.app")}, QDir::Dirs | QDir::NoDotAndDotDot);
+        for (const QString &bundle : bundles) {
+            const QString path = folder + u'/' + bundle;
+            applications.push_back({path, nameOf(path), {}});
+        }
+    }
+    std::sort(applications.begin(), applications.end(), [](const auto &a, const auto &b) {
+        const int order = QString::localeAwareCompare(a.name.toCaseFolded(), b.name.toCaseFolded());
+        return order != 0 ? order < 0 : a.path < b.path;
+    });
+    return applications;
 }
 
 } // namespace veldmark

@@ -7,12 +7,6 @@
 
 namespace veldmark {
 
-struct InstalledApplication {
-    QString path; // of its desktop entry
-    QString name; // in the user's language
-    QString icon; // a name in the icon theme, or an absolute path; empty where it has none
-};
-
 // The user's applications: what they are called and which of their processes run. An application is known by a path,
 // of its desktop entry on Linux and of its bundle on macOS. Main thread; every call looks afresh and returns at once.
 class RunningApplications {
@@ -26,9 +20,6 @@ public:
     // A request: the application may ask its user first, or refuse.
     virtual void askToQuit(qint64 process) = 0;
     virtual bool hasEnded(qint64 process) const = 0;
-    // What a menu of applications would show, in no order. Empty where the system's own file dialogue
-    // is the way to choose an application.
-    virtual std::vector<InstalledApplication> installed() const { return {}; }
 };
 
 // For the running system. `processFolder` is /proc but in tests.

@@ -2,10 +2,15 @@
 
 #include "base/ResumeOnce.h"
 
+#include <QPointer>
 #include <QProcess>
 
 #include <algorithm>
 #include <cerrno>
+#include <functional>
+
+#include <signal.h>
+#include <unistd.h>
 
 namespace veldmark {
 
@@ -32,6 +37,16 @@ std::optional<StartError> refusal(const QString &executable, const QStringList &
     return std::nullopt;
 }
 
+// Only while the child has not been waited for: until then its number cannot belong to another.
+void killGroup(QProcess &process)
+{
+    const auto pid = static_cast<pid_t>(process.processId());
+    if (process.state() == QProcess::NotRunning || pid <= 0)
+        return;
+    ::kill(-pid, SIGKILL);
+    process.kill(); // in case it has no group of its own yet
+}
+
 Outcome outcomeOf(QProcess &process)
 {
     // For a child that was ended by a signal QProcess keeps the signal's number as exit code.
@@ -42,6 +57,17 @@ Outcome outcomeOf(QProcess &process)
 } // namespace
 
 QCoro::Task<Outcome> ChildProcessRunner::run(QString executable, QStringList arguments)
+{
+    return start(std::move(executable), std::move(arguments), std::nullopt);
+}
+
+QCoro::Task<Outcome> ChildProcessRunner::runUntil(QString executable, QStringList arguments, std::stop_token stop)
+{
+    return start(std::move(executable), std::move(arguments), std::move(stop));
+}
+
+QCoro::Task<Outcome> ChildProcessRunner::start(QString executable, QStringList arguments,
+                                               std::optional<std::stop_token> stop)
 {
     if (const auto refused = refusal(executable, arguments))
         co_return Failure(*refused);
@@ -64,8 +90,18 @@ QCoro::Task<Outcome> ChildProcessRunner::run(QString executable, QStringList arg
         ended.complete(Failure(StartError(QStringLiteral("The program is quitting."))));
     });
     process->setInputChannelMode(QProcess::ForwardedInputChannel);
+    if (stop)
+        process->setChildProcessModifier([] { ::setsid(); });
     process->start(executable, arguments, QIODevice::ReadOnly);
 
+    std::optional<std::stop_callback<std::function<void()>>> onStop;
+    if (stop) {
+        const QPointer<QProcess> running(process);
+        onStop.emplace(*stop, std::function<void()>([running] {
+            if (running)
+                killGroup(*running);
+        }));
+    }
     const Outcome outcome = co_await ended;
     co_return outcome;
 }

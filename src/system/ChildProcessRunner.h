@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+#include <optional>
+
 namespace veldmark {
 
 // Runs real programs as children of this process, asynchronously, on the event loop of the thread
@@ -23,8 +25,13 @@ class ChildProcessRunner final : public ProcessRunner {
 public:
     [[nodiscard]] QCoro::Task<Result<ProcessResult, StartError>>
     run(QString executable, QStringList arguments) override;
+    [[nodiscard]] QCoro::Task<Result<ProcessResult, StartError>>
+    runUntil(QString executable, QStringList arguments, std::stop_token stop) override;
 
 private:
+    // Without `stop` the child stays in this process's group and session.
+    QCoro::Task<Result<ProcessResult, StartError>> start(QString executable, QStringList arguments,
+                                                         std::optional<std::stop_token> stop);
     QObject m_lifetime; // its destroyed() ends the waits
 };
 

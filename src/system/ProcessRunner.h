@@ -7,6 +7,8 @@
 
 #include <qcorotask.h>
 
+#include <stop_token>
+
 #include <cstdio> // may define stdout and stderr as macros: so every user sees the same names
 
 namespace veldmark {
@@ -42,6 +44,16 @@ public:
     // time limit: a caller that needs one imposes it. Several runs may be under way at once.
     [[nodiscard]] virtual QCoro::Task<Result<ProcessResult, StartError>>
     run(QString executable, QStringList arguments) = 0;
+
+    // The same, but when `stop` is requested, on the thread that runs the event loop, the program and
+    // every process that it has started are killed; the run has then ended by that signal. The
+    // program has no terminal. What stands here is for stand-ins, whose programs end by themselves.
+    [[nodiscard]] virtual QCoro::Task<Result<ProcessResult, StartError>>
+    runUntil(QString executable, QStringList arguments, std::stop_token stop)
+    {
+        Q_UNUSED(stop)
+        return run(std::move(executable), std::move(arguments));
+    }
 };
 
 } // namespace veldmark

@@ -25,7 +25,7 @@ int ApplicationChoices::rowCount(const QModelIndex &parent) const
 
 QHash<int, QByteArray> ApplicationChoices::roleNames() const
 {
-    return {{NameRole, "name"}, {IconRole, "icon"}, {ChosenRole, "chosen"}};
+    return {{NameRole, "name"}, {PictureRole, "picture"}, {ChosenRole, "chosen"}};
 }
 
 QVariant ApplicationChoices::data(const QModelIndex &index, int role) const
@@ -36,11 +36,11 @@ QVariant ApplicationChoices::data(const QModelIndex &index, int role) const
     switch (role) {
     case NameRole:
         return application.name;
-    case IconRole:
+    case PictureRole:
         return application.icon.isEmpty()
-            ? QUrl()
-            : QUrl(QStringLiteral("image://application/")
-                   + QString::fromLatin1(QUrl::toPercentEncoding(application.icon)));
+            ? QString()
+            : QStringLiteral("image://application/")
+                + QString::fromLatin1(QUrl::toPercentEncoding(application.icon));
     case ChosenRole:
         return m_session.now().choices.bypassApps.contains(application.path);
     default:
@@ -84,15 +84,15 @@ void ApplicationChoices::update()
     Q_EMIT changed();
 }
 
-void ApplicationChoices::setChosen(int row, bool chosen)
+void ApplicationChoices::toggle(int row)
 {
     if (row < 0 || row >= rowCount())
         return;
     const QString path = m_all[m_shown[static_cast<std::size_t>(row)]].path;
-    if (chosen)
-        m_session.addBypassApp(path);
-    else
+    if (m_session.now().choices.bypassApps.contains(path))
         m_session.removeBypassApp(path);
+    else
+        m_session.addBypassApp(path);
 }
 
 QImage ApplicationIcons::requestImage(const QString &id, QSize *size, const QSize &requestedSize)

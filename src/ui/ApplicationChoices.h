@@ -21,7 +21,7 @@ class ApplicationChoices : public QAbstractListModel {
 public:
     enum Role {
         NameRole = Qt::UserRole + 1,
-        IconRole,  // QUrl of the application's picture; empty where it has none
+        PictureRole, // URL of the application's picture, as text; empty where it has none
         ChosenRole // bool: it may skip Tor
     };
 
@@ -38,7 +38,8 @@ public:
 
     // Looks at what is installed now.
     Q_INVOKABLE void refresh();
-    Q_INVOKABLE void setChosen(int row, bool chosen);
+    // Chooses the row's application, or gives it up. Nothing for a row that there is not.
+    Q_INVOKABLE void toggle(int row);
 
 Q_SIGNALS:
     void changed();

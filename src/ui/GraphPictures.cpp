@@ -22,6 +22,17 @@ QString named(const char *kind, std::initializer_list<QString> parts)
     return key;
 }
 
+// Where anything has been drawn.
+QRect inked(const QImage &image)
+{
+    QRect bounds;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (qAlpha(image.pixel(x, y)) > 64)
+                bounds |= QRect(x, y, 1, 1);
+    return bounds;
+}
+
 QString number(double value)
 {
     return QString::number(std::lround(value * 16));
@@ -93,9 +104,20 @@ const QImage &GraphPictures::country(const QString &text, bool emoji, const QCol
         QFont font = m_font;
         font.setPixelSize(emoji ? 17 : 11);
         font.setWeight(emoji ? QFont::Normal : QFont::DemiBold);
-        painter.setFont(font);
-        painter.setPen(ink);
-        painter.drawText(QRectF(0, 0, size, size), Qt::AlignCenter, text);
+        // A line of text has its middle elsewhere than the flag or the capitals in it: draw aside, centre what came out.
+        const auto *target = static_cast<const QImage *>(painter.device());
+        QImage aside(target->size(), QImage::Format_ARGB32_Premultiplied);
+        aside.fill(Qt::transparent);
+        QPainter drawer(&aside);
+        drawer.scale(m_scale, m_scale);
+        drawer.setFont(font);
+        drawer.setPen(ink);
+        drawer.drawText(QRectF(0, 0, size, size), Qt::AlignCenter, text);
+        drawer.end();
+        const QRect bounds = inked(aside);
+        painter.resetTransform();
+        painter.drawImage(QPoint((target->width() - bounds.width()) / 2, (target->height() - bounds.height()) / 2),
+                          aside, bounds);
     });
 }
 

@@ -59,6 +59,11 @@ bool PanelModel::throughBridge() const
     return now.phase == Phase::connected && now.activeBridge && *now.activeBridge != BridgeChoice::off;
 }
 
+Leak PanelModel::knownLeak() const
+{
+    return connected() ? m_session.now().leak : Leak();
+}
+
 bool PanelModel::exposedInStrict() const
 {
     const Snapshot &now = m_session.now();
@@ -230,9 +235,12 @@ bool PanelModel::canRestore() const
 
 QString PanelModel::waitingFor() const
 {
+    const Snapshot &now = m_session.now();
+    if (now.phase == Phase::connecting && now.bootstrapProblem)
+        return SessionTexts::translated(*now.bootstrapProblem);
     if (!m_still)
         return {};
-    return m_session.now().bootstrapProgress > 0
+    return now.bootstrapProgress > 0
         ? tr("Tor hasn't reported progress for a while. It is still trying; a slow or blocked network "
              "is the usual reason.")
         : tr("Still waiting for Tor to start, or for your approval.");
@@ -241,9 +249,9 @@ QString PanelModel::waitingFor() const
 QString PanelModel::exitAddress() const
 {
     const Snapshot &now = m_session.now();
-    if (now.exitIP)
+    if (exitKnown())
         return *now.exitIP;
-    return now.isChecking ? tr("Checking") : tr("Unknown");
+    return connected() && now.isChecking ? tr("Checking") : tr("Unknown");
 }
 
 QString PanelModel::exitCountry() const
@@ -262,17 +270,16 @@ QString PanelModel::exitHelp() const
 
 QString PanelModel::verification() const
 {
-    const Snapshot &now = m_session.now();
-    if (now.isChecking)
+    if (connected() && m_session.now().isChecking)
         return tr("Checking");
-    return now.torVerified == true ? tr("Verified") : tr("Not confirmed");
+    return exitVerified() ? tr("Verified") : tr("Not confirmed");
 }
 
 QString PanelModel::leakText() const
 {
     if (lookupsLeak())
         return tr("DNS leak");
-    const Leak &leak = m_session.now().leak;
+    const Leak leak = knownLeak();
     switch (leak.kind) {
     case Leak::Kind::notTested:
         return tr("Not tested");
@@ -290,21 +297,21 @@ QString PanelModel::leakText() const
 
 QString PanelModel::leakHelp() const
 {
-    const Leak &leak = m_session.now().leak;
+    const Leak leak = knownLeak();
     QString traffic = tr("Tries a direct connection that skips Tor");
     if (leak.kind == Leak::Kind::blocked)
         traffic = tr("Direct connections that skip Tor are blocked");
     else if (leak.kind == Leak::Kind::exposed)
         traffic = tr("Apps that ignore proxy settings show your real IP (%1). Turn on Strict mode to "
                      "block them.").arg(leak.address);
-    return traffic + u'\n' + SessionTexts::lookups(m_session.now().lookups);
+    return traffic + u'\n' + SessionTexts::lookups(connected() ? m_session.now().lookups : Lookups());
 }
 
 PanelModel::Tone PanelModel::leakTone() const
 {
     if (lookupsLeak())
         return Tone::Danger;
-    switch (m_session.now().leak.kind) {
+    switch (knownLeak().kind) {
     case Leak::Kind::exposed:
         return m_session.now().activeMode == RoutingMode::strict ? Tone::Danger : Tone::Warning;
     case Leak::Kind::blocked:
@@ -348,7 +355,11 @@ QString PanelModel::moreResolvers() const
 
 QString PanelModel::error() const
 {
-    return SessionTexts::translated(m_session.now().errorMessage.value_or(QString()));
+    const Snapshot &now = m_session.now();
+    const QString error = SessionTexts::translated(now.errorMessage.value_or(QString()));
+    if (error.isEmpty() || now.phase != Phase::stale || !now.bootstrapProblem)
+        return error;
+    return error + u' ' + SessionTexts::translated(*now.bootstrapProblem);
 }
 
 bool PanelModel::torMissing() const

@@ -83,10 +83,10 @@ public:
     bool connected() const;
 
     QString exitAddress() const;
-    bool exitKnown() const { return m_session.now().exitIP.has_value(); }
+    bool exitKnown() const { return connected() && m_session.now().exitIP; }
     QString exitCountry() const; // two letters, or empty
     QString exitHelp() const;
-    bool exitVerified() const { return m_session.now().torVerified == true; }
+    bool exitVerified() const { return connected() && m_session.now().torVerified == true; }
     QString verification() const;
     QString leakText() const;
     QString leakHelp() const;
@@ -122,6 +122,7 @@ Q_SIGNALS:
 private:
     void update();
     bool exposedInStrict() const;
+    Leak knownLeak() const; // what was found out about the session that runs
     bool throughBridge() const;
 
     Session &m_session;

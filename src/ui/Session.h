@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/PlatformProfile.h"
-#include "platform/RunningApplications.h"
+#include "platform/InstalledApplications.h"
 #include "ui/Snapshot.h"
 
 #include <QObject>

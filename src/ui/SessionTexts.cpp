@@ -19,6 +19,7 @@ namespace {
     QT_TRANSLATE_NOOP("Session", "Waiting for administrator approval…"),
     QT_TRANSLATE_NOOP("Session", "Starting Tor…"),
     QT_TRANSLATE_NOOP("Session", "Tor didn't finish connecting"),
+    QT_TRANSLATE_NOOP("Session", "Tor is waiting for the bridge program, which hasn't said that it is ready."),
     QT_TRANSLATE_NOOP("Session", "Tor stopped running"),
     QT_TRANSLATE_NOOP("Session", "All traffic is locked to Tor"),
     QT_TRANSLATE_NOOP("Session", "Apps that use system proxy settings go through Tor"),
@@ -62,7 +63,6 @@ namespace {
 
 // Those with a word or number of the moment in them; in every language in this order.
 constexpr const char *forms[] = {
-    QT_TRANSLATE_NOOP("Session", "+%1 more"),
     QT_TRANSLATE_NOOP("Session", "Testing %1 bridges…"),
     QT_TRANSLATE_NOOP("Session", "Testing speed (%1 of %2)…"),
     QT_TRANSLATE_NOOP("Session", "Slow path (%1 ms), finding a faster one…"),

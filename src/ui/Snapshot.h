@@ -55,6 +55,7 @@ struct Snapshot {
     std::optional<BridgeChoice> activeBridge;
     double bootstrapProgress = 0; // 0…1
     QString statusDetail = QStringLiteral("Your traffic is not going through Tor");
+    std::optional<QString> bootstrapProblem; // what keeps Tor from connecting
     bool canCancel = false;
     std::optional<QString> errorMessage;
     quint64 bytesRead = 0; // since Tor started

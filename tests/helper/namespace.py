@@ -13,7 +13,6 @@ import os
 import subprocess
 import sys
 import tempfile
-import time
 import unittest
 
 HERE = os.path.dirname(os.path.abspath(__file__))
@@ -88,6 +87,22 @@ def make_control_group():
     return tempfile.mkdtemp(prefix=f"veldmark-test-{os.getpid()}-", dir=trees[0])
 
 
+# Removes the group FOLDER, once the process that made it has ended or closed the pipe and the last process in it has gone. In
+# a session of its own, so that it also outlives a kill of the whole test.
+SWEEPER = """
+import os, sys, time
+sys.stdin.read()
+deadline = time.monotonic() + 20
+while os.path.isdir(sys.argv[1]) and time.monotonic() < deadline:
+    for folder, _, _ in os.walk(sys.argv[1], topdown=False):
+        try:
+            os.rmdir(folder)
+        except OSError:
+            time.sleep(0.01)
+sys.exit(os.path.isdir(sys.argv[1]))
+"""
+
+
 class Machine:
     """Use with `with`. run() and start() execute in it as root, or as another user by their `uid`."""
 
@@ -97,6 +112,8 @@ class Machine:
     def __init__(self):
         self.helper = helper_path(self.SYSTEM)
         self.group = make_control_group()
+        self.sweeper = subprocess.Popen(["/usr/bin/python3", "-I", "-c", SWEEPER, self.group], stdin=subprocess.PIPE, start_new_session=True,
+                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self.init = subprocess.Popen(
             [*self.in_group(), "setpriv", "--pdeathsig", "KILL",   # ends with the test, however that ends
              "unshare", "--cgroup", "--net", "--mount", "--propagation", "private", "--pid", "--fork", "--kill-child",
@@ -119,20 +136,9 @@ class Machine:
     def close(self):
         self.init.kill()   # its child, the first process of the machine, dies with it
         self.init.wait()
-        self.remove_group()
-
-    def remove_group(self):
-        """Once the last process of the machine has gone, which takes the kernel a moment."""
-        deadline = time.monotonic() + 10
-        while True:
-            try:
-                for folder, _, _ in os.walk(self.group, topdown=False):
-                    os.rmdir(folder)
-                return
-            except OSError:
-                if time.monotonic() > deadline:
-                    raise
-                time.sleep(0.01)
+        self.sweeper.communicate()
+        if self.sweeper.returncode != 0:
+            raise RuntimeError(f"a process is left in {self.group}")
 
     def in_group(self):
         """What a command begins with to run in the machine's control group."""

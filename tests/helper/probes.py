@@ -2,7 +2,7 @@
 
     probes.py send          sends one of each probe
     probes.py listen        prints "ready", then one line for each packet: KIND NAME-OR-PORT
-    probes.py flood         sends those of FLOOD again and again after the line "go" on standard input, until "stop"
+    probes.py flood         sends those of FLOOD again and again after the line "go" on standard input, until "stop"; once at "round"
     probes.py hold          opens a UDP socket and a TCP connection, and uses both at each line on standard input
 
 A probe is known by its destination: every probe has an address or a port of its own.
@@ -93,18 +93,21 @@ def flood():
     running = False
     print("ready", flush=True)
     while True:
+        word = ""
         if select.select([sys.stdin], [], [], FLOOD_PAUSE if running else None)[0]:
             word = sys.stdin.readline().strip()
             if not word:
                 return
+        if word in ("go", "stop"):
             running = word == "go"
-            print(word, flush=True)
-        elif running:
+        else:
             for name in FLOOD:
                 try:
                     send_probe(*PROBES[name])
                 except OSError:
-                    pass
+                    pass   # refused on the spot
+        if word:
+            print(word, flush=True)
 
 
 def seen(packet):

@@ -14,6 +14,7 @@ set -o functrace
 is_change() {
   case $1 in
   mkdir\ * | mv\ * | rm\ * | rmdir\ * | chmod\ * | chown\ * | mount\ * | umount\ * | useradd\ * | kill\ * | nft\ -f* | "nft delete "*) ;;
+  'networksetup "$@"'* | pfctl\ -q* | "exec pfctl"* | launchctl\ boot* | dscl\ .\ -create*) ;;
   timeout\ * | "sync -- \"\$new\"" | :\ \>*) ;;
   *) return 1 ;;
   esac
@@ -40,6 +41,8 @@ rm -f -- "$changes.marked"
 trap '
   if at_edge "$BASH_COMMAND"; then "$mark" || true; fi
   if stop_after "$BASH_COMMAND" "${FUNCNAME[*]} ${BASH_LINENO[*]}"; then
+    # What becomes another program comes to its change after the kill of the rest.
+    case $BASH_COMMAND in exec\ *) kill -KILL $$ ;; esac
     eval "$BASH_COMMAND" || true
     if at_edge "${BASH_COMMAND/#nft -f*/note_listing}"; then "$mark" || true; fi
     kill -KILL $$ $BASHPID

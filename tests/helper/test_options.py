@@ -95,7 +95,13 @@ HOSTILE = {
     "install for nobody known": ["install-privileged", "--user", "nobody-known"],
     "install for root": ["install-privileged", "--user", "root"],
     "install with a relative launcher": ["install-privileged", "--user", "alice", "--launch", "launch"],
-    "launch, which is not built": ["launch", "--uid", "0", "--app", "/usr/bin/true"],
+    "launch as root": ["launch", "--uid", "0", "--app", "/usr/bin/true"],
+    "launch as somebody else": ["launch", "--uid", "4242", "--app", "/usr/bin/true"],
+    "launch without a user": ["launch", "--app", "/usr/bin/true"],
+    "launch of nothing": ["launch", "--uid", "0"],
+    "arithmetic in the user of launch": ["launch", "--uid", "a[$(touch /run/pwned)]", "--app", "/usr/bin/true"],
+    "relative path of launch": ["launch", "--uid", "0", "--app", "true"],
+    "line end in the path of launch": ["launch", "--uid", "0", "--app", "/usr/bin/true\n"],
 }
 
 UIDS = {
@@ -128,10 +134,14 @@ class Options(HelperTest):
         self.assertEqual(self.machine.snapshot(), self.before)
 
     def test_every_hostile_argument_is_refused(self):
+        refused = 0
         for name, arguments in HOSTILE.items():
             with self.subTest(name):
                 self.refused(arguments)
+                refused += 1
         self.assertEqual(self.machine.snapshot(), self.before)
+        print(f"{refused} of {len(HOSTILE)} hostile arguments refused with one line, nothing changed", flush=True)
+        self.assertGreaterEqual(refused, 60)
 
     def test_every_odd_caller_is_refused(self):
         for name, variables in UIDS.items():

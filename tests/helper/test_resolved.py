@@ -62,6 +62,15 @@ class Resolved(HelperTest):
         self.assertIn(": 192.0.2.99\n", self.machine.shell("resolvectl dns w0"))
         self.assertIn(": 192.0.2.98\n", self.machine.shell("resolvectl dns w1"))
 
+    def test_without_the_helper_a_link_is_reverted_by_hand(self):
+        """As the README says it."""
+        self.machine.connect()
+        self.machine.shell("rm -f /var/lib/veldmark/state/active; nft delete table inet veldmark; umount /etc/resolv.conf")
+        self.assertRegex(self.machine.shell("resolvectl dns"), r"\(w0\): 127\.0\.0\.1\n")
+        self.machine.shell("resolvectl revert w0")
+        self.assertNotIn("127.0.0.1", self.machine.shell("resolvectl dns"))
+        self.machine.help("disconnect")
+
     def test_link_that_is_gone_does_not_matter(self):
         self.machine.shell("ip link add gone type veth peer name gone2; ip link set gone up; resolvectl dns gone 192.0.2.97")
         before = self.settings().replace("gone", "")

@@ -271,16 +271,6 @@ class Session(HelperTest):
         self.machine.connect()
         self.assertEqual(self.machine.shell("stat -c %i /var/lib/veldmark/run/data"), first)
 
-    def test_twenty_at_once(self):
-        runs = [self.machine.start("/bin/bash", self.machine.helper, *words, stderr=subprocess.PIPE, stdin=subprocess.DEVNULL)
-                for _ in range(5) for words in (
-                    ["connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0"], ["disconnect"],
-                    ["connect", "--tor", TOR, "--hash", HASH, "--strict", "0", "--lan", "1"], ["disconnect"])]
-        for run in runs:
-            _, message = run.communicate()
-            self.assertEqual((run.returncode, message), (0, b""))
-        self.assertLessEqual(len(self.machine.tor_pids()), 1)
-
     def test_ctrl_c_does_not_stop_it_half_way(self):
         run = self.machine.start("setsid", "/bin/bash", self.machine.helper, "connect", "--tor", TOR, "--hash", HASH,
                                  "--strict", "1", "--lan", "0", stdin=subprocess.DEVNULL)

@@ -117,6 +117,12 @@ class Reasons(unittest.TestCase):
         "Nov 20 00:00:00.000 [warn] Failed to parse/validate config: Bad port\nNov 20 00:00:00.000 [err] Reading config failed--see warnings above.":
             "Failed to parse/validate config: Bad port",
         "Nov 20 00:00:00.000 [warn] first\nNov 20 00:00:00.000 [err] second\nNov 20 00:00:00.000 [notice] third": "second",
+        "Nov 20 00:00:00.000 [warn] Could not bind to 127.0.0.1:9050: Address already in use. Is Tor already running?\n"
+        "Nov 20 00:00:00.000 [warn] Failed to parse/validate config: Failed to bind one of the listener ports.\n"
+        "Nov 20 00:00:00.000 [err] Reading config failed--see warnings above.":
+            "Could not bind to 127.0.0.1:9050: Address already in use.",
+        "Nov 20 00:00:00.000 [warn] Failed to parse/validate config: Failed to bind one of the listener ports.":
+            "Failed to parse/validate config: Failed to bind one of the listener ports.",
         "cannot execute binary file": "cannot execute binary file",
         "": "",
     }

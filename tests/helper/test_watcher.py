@@ -5,10 +5,24 @@ import subprocess
 import time
 
 import namespace
+import probes
 from namespace import HelperTest
+from wire import LINK, Flood, Wire
 
 LIMIT = 5.0   # seconds from the change to the rules in force again
 RELOCKED = "/var/lib/veldmark/state/relocked"
+
+CHANGES = {
+    "flushed": "nft flush ruleset",
+    "deleted": "nft delete table inet veldmark",
+    "emptied": "nft flush chain inet veldmark output",
+    "opened by policy": "nft chain inet veldmark output '{ policy accept; }'",
+    "opened by a rule": "nft insert rule inet veldmark output accept",
+    "opened for forwarding": "nft add rule inet veldmark forward accept",
+    "without the redirect": "nft flush chain inet veldmark redirect_dns",
+    "replaced": "printf 'table inet veldmark\\ndelete table inet veldmark\\ntable inet veldmark { chain output { }; }\\n' | nft -f -",
+    "dormant": "nft add table inet veldmark '{ flags dormant; }'",
+}
 
 
 class Watcher(HelperTest):
@@ -42,22 +56,33 @@ class Watcher(HelperTest):
             return file.read()
 
     def test_every_change_is_undone(self):
-        changes = {
-            "flushed": "nft flush ruleset",
-            "deleted": "nft delete table inet veldmark",
-            "emptied": "nft flush chain inet veldmark output",
-            "opened by policy": "nft chain inet veldmark output '{ policy accept; }'",
-            "opened by a rule": "nft insert rule inet veldmark output accept",
-            "opened for forwarding": "nft add rule inet veldmark forward accept",
-            "without the redirect": "nft flush chain inet veldmark redirect_dns",
-            "replaced": "printf 'table inet veldmark\\ndelete table inet veldmark\\ntable inet veldmark { chain output { }; }\\n' | nft -f -",
-            "dormant": "nft add table inet veldmark '{ flags dormant; }'",
-        }
-        for name, change in changes.items():
+        for name, change in CHANGES.items():
             with self.subTest(name):
                 before = self.listing()
                 self.assertEqual(before, self.rules)
                 print(f"{name}: {self.seconds_until_locked(change) * 1000:.0f} ms", flush=True)
+
+    def test_what_is_sent_in_the_gap_is_counted(self):
+        """Root's probes without pause, seen at the other end of the machine's only link; once the rules are back there is none."""
+        self.machine.tor_uid = self.machine.shell("id -u _veldmark").strip()
+        wire, flood = Wire(self.machine), Flood(self.machine)
+        try:
+            flood.go()
+            for name, change in CHANGES.items():
+                with self.subTest(name):
+                    self.assertEqual(set(wire.mark()) - LINK, set())
+                    seconds = self.seconds_until_locked(change)
+                    seen = [line for line in wire.mark() if line not in LINK]
+                    flood.round()
+                    self.assertEqual(set(wire.mark()) - LINK, set())
+                    print(f"{name}: {len(seen)} packets in {seconds * 1000:.0f} ms", flush=True)
+            self.machine.help("disconnect")
+            wire.mark()
+            flood.round()
+            self.assertLessEqual(set(probes.FLOOD), set(wire.mark()))
+        finally:
+            flood.close()
+            wire.close()
 
     def test_it_looks_also_when_the_kernel_tells_nothing(self):
         self.machine.shell("pkill -STOP -x nft")

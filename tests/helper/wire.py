@@ -8,6 +8,7 @@
 import os
 import subprocess
 import threading
+import time
 
 import namespace
 import probes
@@ -65,6 +66,7 @@ class Wire:
 
     def wait_for(self, wanted, seconds=30):
         """The lines not taken yet, up to the first for which `wanted` holds; they are taken."""
+        deadline = time.monotonic() + seconds
         with self.more:
             at = self.taken
             while True:
@@ -74,7 +76,7 @@ class Wire:
                         found = self.lines[self.taken:at]
                         self.taken = at
                         return found
-                if not self.more.wait(seconds):
+                if not self.more.wait(deadline - time.monotonic()):
                     raise TimeoutError(f"not seen at the other end within {seconds} s")
 
     def mark(self):
@@ -114,6 +116,10 @@ class Flood:
 
     def go(self):
         self._say("go")
+
+    def round(self):
+        """Returns when each probe has been sent once more."""
+        self._say("round")
 
     def stop(self):
         """Returns when nothing more is sent and no socket of it is open."""

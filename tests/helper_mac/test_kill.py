@@ -1,5 +1,5 @@
-"""kill -9 of the Mac's helper at steps spread over its whole run: a disconnect afterwards puts everything back, and a
-strict session is never open on the way."""
+"""kill -9 of the Mac's helper right after changes spread over its whole run (VELDMARK_KILL_TRIALS=0: after every one): a
+disconnect afterwards puts everything back, and a strict session is never open on the way."""
 
 import os
 
@@ -7,7 +7,7 @@ import mac
 from mac import HASH, TOR, MacTest
 
 STEPPED = os.path.join(mac.HERE, "..", "helper", "stepped.sh")
-TRIALS = int(os.environ.get("VELDMARK_KILL_TRIALS", "8"))   # for each way through the helper
+TRIALS = int(os.environ.get("VELDMARK_KILL_TRIALS", "6"))   # for each way through the helper
 
 
 def connect_words(strict):
@@ -20,8 +20,8 @@ class Kill(MacTest):
         super().setUpClass()
         cls.machine.place(STEPPED, "/mac/stepped.sh")
 
-    def stepped(self, kill_at, words):
-        return self.machine.run("env", "-i", "/bin/bash", "-p", "/mac/stepped.sh", self.machine.helper, "/mac/steps", str(kill_at),
+    def stepped(self, kill_after, words):
+        return self.machine.run("env", "-i", "/bin/bash", "-p", "/mac/stepped.sh", self.machine.helper, "/mac/changes", kill_after, "", "",
                                 *words, check=False)
 
     def state(self):
@@ -33,45 +33,45 @@ class Kill(MacTest):
         switched = any(key.startswith("service ") and key.endswith(" dns") and value == "127.0.0.1" for key, value in state.items())
         return marker, self.machine.verdict("out") == "block", switched, "job veldmark.tor" in state
 
-    def trials(self, prepare, words, check):
+    def trials(self, prepare, words, check, least):
         prepare()
-        done = self.stepped(0, words)
-        self.assertEqual(done.returncode, 0, done.stderr)
-        steps = int(self.machine.read("/mac/steps"))
+        done = self.stepped("", words)
+        self.assertEqual((done.returncode, done.stderr), (0, ""))
+        changes = self.machine.read("/mac/changes").splitlines()
+        self.assertGreater(len(changes), least)
         self.machine.help("disconnect")
         self.assertRestored()
-        self.assertGreater(steps, 100)
-        killed = 0
-        for trial in range(TRIALS):
-            kill_at = 1 + (steps - 1) * trial // max(1, TRIALS - 1)
-            with self.subTest(kill_at=kill_at, steps=steps):
+        step = max(1, len(changes) // TRIALS) if TRIALS else 1
+        for change in changes[step // 2::step]:
+            with self.subTest(change=change):
+                self.machine.reset()   # without Tor's account as well
                 prepare()
-                killed += self.stepped(kill_at, words).returncode % 256 in (137, 247)
+                done = self.stepped(change, words)
+                self.assertIn(done.returncode % 256, (137, 247), done.stderr)
                 check(*self.state())
                 self.machine.help("disconnect")
                 self.assertRestored()
-        self.assertGreater(killed, TRIALS // 2, "hardly a run was killed")
 
     def test_connect_strict(self):
         def check(marker, closed, switched, tor):
             self.assertTrue(marker or not (closed or switched or tor), "a change came before the marker")
             self.assertTrue(closed or not (switched or tor), "a service was switched or Tor ran before the kill switch stood")
-        self.trials(lambda: None, connect_words("1"), check)
+        self.trials(lambda: None, connect_words("1"), check, 30)
 
     def test_connect_proxy(self):
         def check(marker, _, switched, tor):
             self.assertTrue(marker or not (switched or tor))
-        self.trials(lambda: None, connect_words("0"), check)
+        self.trials(lambda: None, connect_words("0"), check, 30)
 
     def test_connect_strict_again(self):
         def check(marker, closed, *_):
             self.assertEqual((marker, closed), ("strict", True))
-        self.trials(self.machine.connect, connect_words("1"), check)
+        self.trials(self.machine.connect, connect_words("1"), check, 30)
 
     def test_change_from_strict_to_proxy(self):
         def check(marker, closed, switched, tor):
             self.assertTrue(closed or (marker == "proxy" and switched and tor), "the kill switch opened before the new Tor served")
-        self.trials(self.machine.connect, connect_words("0"), check)
+        self.trials(self.machine.connect, connect_words("0"), check, 30)
 
     def test_fix_dns(self):
         def prepare():
@@ -80,13 +80,13 @@ class Kill(MacTest):
 
         def check(marker, closed, *_):
             self.assertEqual((marker, closed), ("strict", True))
-        self.trials(prepare, ["fix-dns"], check)
+        self.trials(prepare, ["fix-dns"], check, 3)
 
     def test_disconnect(self):
         def check(marker, closed, switched, tor):
             self.assertTrue(closed or not (switched or tor), "the kill switch opened before the rest was put back")
             self.assertTrue(marker or not closed)
-        self.trials(self.machine.connect, ["disconnect"], check)
+        self.trials(self.machine.connect, ["disconnect"], check, 20)
 
 
 if __name__ == "__main__":

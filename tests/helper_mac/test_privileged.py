@@ -1,6 +1,8 @@
 """The password-free way on a Mac, with the real sudo; what may run as Tor's account; applications without Tor."""
 
 import os
+import time
+import unittest
 
 import mac
 from mac import HASH, TOR, USER_UID, MacTest
@@ -9,6 +11,12 @@ INSTALLED = "/Library/Application Support/Veldmark/bin/veldmark-helper.sh"
 LAUNCHER = "/Library/Application Support/Veldmark/bin/veldmark-launch"
 RULE = "/etc/sudoers.d/veldmark"
 UNDER_RULE = {"PATH": os.environ["PATH"], "SUDO_UID": str(USER_UID)}
+REAL_LAUNCHER = os.environ.get("VELDMARK_MAC_LAUNCH", "")
+PLIST_BUDDY = """#!/usr/bin/perl
+die unless "@ARGV[0, 1]" eq "-c Print :CFBundleExecutable";
+my $text = do { local (@ARGV, $/) = $ARGV[2]; <> };
+$text =~ m{<key>CFBundleExecutable</key>\\s*<string>([^<]*)</string>} or die; print "$1\\n";
+"""
 SHOW = "#!/bin/sh\n{ id -u; id -g; id -G; echo \"$@\"; env; } >/home/alice/launched\n"
 
 
@@ -80,6 +88,42 @@ class Privileged(MacTest):
         self.assertEqual(self.machine.verdict("out", group=group, user=USER_UID), "pass")
         self.machine.connect(strict=0)
         self.assertOneLine(self.machine.help(*words, check=False), "kill switch is not on")
+
+    @unittest.skipUnless(os.path.exists(REAL_LAUNCHER), "veldmark-launch-mac has not been built")
+    def test_the_real_launcher_starts_the_bundles_own_program(self):
+        m = self.machine
+        m.place(REAL_LAUNCHER, "/Applications/Veldmark.app/Contents/MacOS/veldmark-launch")
+        m.shell("mkdir -p /usr/libexec '/Applications/Some “New”.app/Contents/MacOS'")
+        m.write("/usr/libexec/PlistBuddy", PLIST_BUDDY)
+        m.write("/Applications/Some “New”.app/Contents/MacOS/Some New", SHOW + "echo pid=$$ >>/home/alice/launched; exec sleep 1000\n")
+        m.shell("chmod 755 /usr/libexec/PlistBuddy /Applications/Some*/Contents/MacOS/*")
+        words = ["launch", "--uid", str(USER_UID), "--app", "/Applications/Some “New”.app"]
+        m.connect()
+        for name, wanted in ("Some New", ""), ("../../../../usr/bin/id", "There is no application"), ("Missing", "There is no application"):
+            with self.subTest(name):
+                m.write("/Applications/Some “New”.app/Contents/Info.plist", f"<key>CFBundleExecutable</key>\n<string>{name}</string>\n")
+                done = m.help(*words, check=False)
+                if wanted:
+                    self.assertOneLine(done, wanted)
+                else:
+                    self.assertEqual((done.returncode, done.stderr), (0, ""))
+        deadline = time.monotonic() + 30
+        while "pid=" not in (m.read("/home/alice/launched") or ""):
+            self.assertLess(time.monotonic(), deadline)
+            time.sleep(0.02)
+        lines = m.read("/home/alice/launched").splitlines()
+        group = m.state["record /Groups/_veldmark_exempt PrimaryGroupID"]
+        self.assertEqual(lines[:2], [str(USER_UID), group])
+        values = dict(line.split("=", 1) for line in lines[4:] if "=" in line)
+        self.assertEqual({name: values[name] for name in ("HOME", "USER", "LOGNAME", "PATH")},
+                         {"HOME": "/home/alice", "USER": "alice", "LOGNAME": "alice", "PATH": "/usr/bin:/bin:/usr/sbin:/sbin"})
+        m.shell(f"kill {values['pid']}")
+
+    def test_the_real_launcher_refuses_root(self):
+        if os.path.exists(REAL_LAUNCHER):
+            self.machine.place(REAL_LAUNCHER, "/mac/veldmark-launch")
+            done = self.machine.run("/mac/veldmark-launch", "--app", "/Applications/Some.app", check=False)
+            self.assertEqual((done.returncode, done.stderr), (1, "Applications are not opened as root.\n"))
 
     def test_a_group_with_members_is_not_exempt(self):
         self.machine.connect()

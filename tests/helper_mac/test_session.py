@@ -250,7 +250,7 @@ class Session(MacTest):
             self.assertEqual(busy.stdout.read(1), b"x")
             self.before = self.machine.settings()
             self.assertOneLine(self.machine.help("connect", "--tor", TOR, "--hash", HASH, "--strict", "0", "--lan", "0", check=False),
-                               "Failed to bind one of the listener ports")
+                               "Could not bind to 127.0.0.1:9051")
             self.assertRestored()
             done = self.machine.help("connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0", check=False)
             self.assertOneLine(done, "The network stays blocked until you disconnect.")

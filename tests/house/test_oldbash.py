@@ -21,6 +21,7 @@ NEWER = {
     "BASHPID, EPOCHSECONDS, SRANDOM": r"\b(BASHPID|EPOCHSECONDS|EPOCHREALTIME|SRANDOM)\b",
     "[[ -v": r"\[\[ +(! +)?-[vR] ",
     "negative places": r"\$\{[A-Za-z_]+(\[-[0-9]+\]|:[^}]*: *-[0-9])",
+    "blanks and quotes in a pattern": r"=~ \S*\\[ \"';]",
     "wait -n": r"\bwait +-[np]",
     "fall through": r";;?&",
     "read with fractions, -N or -i": r"\bread\b[^;|&]*(-t *0?\.[0-9]|-[a-zA-Z]*[Ni]\b)",
@@ -55,7 +56,7 @@ class OldBash(unittest.TestCase):
     def test_the_patterns_find_what_they_look_for(self):
         for wrong in ("declare -A x", "local -n y=z", "mapfile -t a", "echo ${x,,}", "echo ${x^}", "a |& b", "exec {fd}>&-",
                       "echo $BASHPID", "[[ -v x ]]", "read -r -t 0.1 x", "stat -c %u f", "mv -fT a b", "x=$(readlink -e f)",
-                      "flock -w 1 9", "cat /proc/self/stat", "${a[-1]}", "wait -n"):
+                      "flock -w 1 9", "cat /proc/self/stat", "${a[-1]}", "wait -n", r'[[ $x =~ a\ b ]]', r'[[ $x =~ \"a ]]'):
             self.assertTrue(any(re.search(pattern, wrong) for pattern in NEWER.values()), wrong)
 
     def test_every_part_of_the_macs_helper(self):

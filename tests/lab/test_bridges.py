@@ -1,6 +1,9 @@
 """Bridges end to end: the shipped program, Debian's obfs4proxy at both ends, and nothing but the bridge on the wire."""
 
 import contextlib
+import json
+import re
+import subprocess
 import sys
 import unittest
 from pathlib import Path
@@ -8,11 +11,12 @@ from pathlib import Path
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
-from test_connect import SKIPPED, LabCase  # noqa: E402
+from test_connect import PROGRAMS, SKIPPED, LabCase  # noqa: E402
+from test_deadline import FAST_FORWARD, RESTORE, TIMEOUT  # noqa: E402
 from veldlab import topology as at  # noqa: E402
 
-OBFS4 = next(node for node in at.BRIDGES if node.transport == "obfs4").address
-PLAIN = next(node for node in at.BRIDGES if not node.transport).address
+OBFS4 = next(node for node in at.BRIDGES if node.transport == "obfs4")
+PLAIN = next(node for node in at.BRIDGES if not node.transport)
 
 
 class Bridges(LabCase):
@@ -30,6 +34,12 @@ class Bridges(LabCase):
         self.set("bridgeChoice", "custom")
         self.set("customBridges", "\n".join(lines))
 
+    @staticmethod
+    def sent(packets):
+        """What left the host; the router's own neighbour discovery on its link is not the host's."""
+        return [p for p in packets if p.out and p.family != "arp" and not p.src.startswith("fe80:")
+                and p.src != at.ROUTER_WORLD_ADDRESS6]
+
     def connect_by(self, bridge):
         """Connects, and asserts that the bridge is all that the host talks to."""
         with self.lab.capture() as capture, self.product.session() as session:
@@ -39,18 +49,26 @@ class Bridges(LabCase):
             self.assertEqual(state["leakStatus"], "blocked")
             seen = len(capture.packets)
             self.assertEqual(session.interrupt(), 0, session.output)
-        sent = [p for p in capture.packets[:seen] if p.out and p.family != "arp" and not p.src.startswith("fe80:")]
+        sent = self.sent(capture.packets[:seen])
         self.assertTrue(sent)
         self.assertEqual({p.dst for p in sent}, {bridge})
         self.assert_restored()
 
     def test_an_obfs4_bridge_is_all_that_is_contacted(self):
         self.use(self.lab.tor.bridge_line("obfs4"))
-        self.connect_by(OBFS4)
+        self.connect_by(OBFS4.address)
 
     def test_a_plain_bridge_needs_no_program(self):
         self.use("Bridge " + self.lab.tor.bridge_line(""))
-        self.connect_by(PLAIN)
+        self.connect_by(PLAIN.address)
+
+    def test_a_bridge_with_an_ipv6_address_is_all_that_is_contacted(self):
+        self.use(self.lab.tor.bridge_line("", ipv6=True))
+        self.connect_by(PLAIN.address6)
+
+    def test_an_obfs4_bridge_with_an_ipv6_address_is_all_that_is_contacted(self):
+        self.use(self.lab.tor.bridge_line("obfs4", ipv6=True))
+        self.connect_by(OBFS4.address6)
 
     def test_the_first_hop_of_a_circuit_is_the_bridge_with_its_address(self):
         self.use(self.lab.tor.bridge_line("obfs4"))
@@ -58,7 +76,7 @@ class Bridges(LabCase):
             session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"])
             with self.download(at.WEB_HOSTS[0]):
                 for circuit in self.circuits_to(at.WEB_ADDRESS):
-                    self.assertEqual((circuit["hops"][0]["ip"], circuit["hops"][0]["country"]), (OBFS4, "no"))
+                    self.assertEqual((circuit["hops"][0]["ip"], circuit["hops"][0]["country"]), (OBFS4.address, "no"))
         self.assert_restored()
 
     def test_a_bad_line_among_good_ones_stops_the_connect(self):
@@ -97,27 +115,86 @@ class Bridges(LabCase):
             self.assertIn(f"nameserver {at.DNS_ADDRESS}", resolver)
             seen = len(capture.packets)
             self.assertEqual(session.interrupt(), 0, session.output)
-        sent = [p for p in capture.packets[:seen] if p.out and p.family != "arp" and not p.src.startswith("fe80:")]
+        sent = self.sent(capture.packets[:seen])
         self.assertEqual({p.dst for p in sent}, {host, at.DNS_ADDRESS})
         self.assertTrue(all(p.dport == 53 for p in sent if p.dst == at.DNS_ADDRESS))
         self.assert_restored()
 
-    def test_a_transport_that_is_no_use_never_lets_the_connection_look_up(self):
-        for name, script in {"dies": "exit 1", "prints garbage": "printf 'GARBAGE\\n\\377\\n'; exec sleep 600",
-                             "hangs": "exec sleep 600"}.items():
+    # What a transport program may do instead of its work, and what the user is told: from Tor's own report.
+    READY = "printf 'VERSION 1\\nCMETHOD obfs4 socks5 127.0.0.1:4711\\nCMETHODS DONE\\n'"
+    USELESS = {
+        "dies at its start": ("exit 1", r"The bridge program lyrebird keeps ending \(exit status 1\)\."),
+        "dies later": (f"{READY}; sleep 2; exit 3", r"The bridge program lyrebird keeps ending \(exit status 3\)\."),
+        "prints garbage": ("printf 'GARBAGE\\n\\377\\n'; exec sleep 600",
+                           "The bridge program printed something that Tor doesn't understand: \"GARBAGE\"."),
+        "hangs": ("exec sleep 600", "Tor is waiting for the bridge program, which hasn't said that it is ready."),
+        "never listens": (f"{READY}; exec sleep 600", "Tor can't reach the bridge program: Connection refused."),
+        "refuses": ("printf 'VERSION 1\\nCMETHOD-ERROR obfs4 no luck\\nCMETHODS DONE\\n'; exec sleep 600",
+                    r"Tor has trouble with the bridge program: .*method error\. \(obfs4 no luck\)\."),
+    }
+
+    def forget_network(self):
+        """Forgets what Tor has cached, so that it must ask its bridge again."""
+        self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/data"], check=True)
+
+    def test_a_transport_that_is_no_use_is_told_and_never_looks_connected(self):
+        # The same way does connect when the program in lyrebird's place does its work.
+        self.stand_in("exec /usr/bin/obfs4proxy")
+        self.use(self.lab.tor.bridge_line("obfs4"))
+        with self.product.session() as session:
+            state = session.wait_phase("connected")
+            self.assertIsNone(state["bootstrapProblem"])
+            self.assertEqual(session.interrupt(), 0, session.output)
+        for name, (script, told) in self.USELESS.items():
             with self.subTest(name):
-                self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/data"], check=True)
+                self.forget_network()
                 self.stand_in(script)
-                self.use(self.lab.tor.bridge_line("obfs4"))
                 with self.lab.capture() as capture, self.product.session() as session:
-                    state = session.wait(lambda s: s["phase"] == "connecting" and s["canCancel"]
-                                         and s["statusDetail"] != "Starting Tor…")
-                    self.assertLess(state["bootstrapProgress"], 1)
-                    self.assertNotEqual(state["title"], "Protected")
+                    state = session.wait(lambda s: re.fullmatch(told, s["bootstrapProblem"] or ""))
+                    self.assertEqual((state["phase"], state["title"]), ("connecting", "Connecting…"))
+                    self.assertTrue(state["canCancel"])
+                    self.assertIsNone(state["errorMessage"])
+                    self.assertLess(state["bootstrapProgress"], 0.1)
+                    self.assertIn(state["statusDetail"], ("Starting", "Connecting to pluggable transport"))  # Tor's summary
+                    self.assertRegex(self.product.run_verb("status", check=True).stdout, f"\n  Cause +{told}\n")
                     self.assertEqual(session.interrupt(), 0, session.output)
-                sent = [p for p in capture.packets if p.out and p.proto in ("tcp", "udp")]
+                self.assertRegex(session.output, f"(?m)^{told}$")
+                self.assertNotIn("Protected\n", session.output.replace("Not Protected", ""))
+                sent = [p for p in capture.packets if p.out and p.proto in ("tcp", "udp") and p.is_opening]
                 self.assertEqual([str(p) for p in sent], [])
                 self.assert_restored()
+
+    def test_an_attempt_that_is_followed_from_outside_tells_as_well(self):
+        self.stand_in("exec /usr/bin/obfs4proxy")
+        self.use(self.lab.tor.bridge_line("obfs4"))
+        with self.product.session() as session:
+            session.wait_phase("connected")
+            self.assertEqual(self.product.run_verb("disconnect").returncode, 0)
+            self.forget_network()
+            self.stand_in("exit 7")  # an update that went wrong
+            with self.lab.host.popen([self.product.ctl, "connect"], stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                                     text=True) as connect:
+                told = r"The bridge program lyrebird keeps ending \(exit status 7\)\."
+                state = session.wait(lambda s: re.fullmatch(told, s["bootstrapProblem"] or ""))
+                self.assertEqual(state["phase"], "connecting")
+                self.assertEqual(self.product.run_verb("disconnect").returncode, 0)
+                output, _ = connect.communicate(timeout=20)
+            self.assertNotEqual(connect.returncode, 0)
+            self.assertRegex(output, f"(?m)^{told}$")
+            self.assertIsNone(self.product.status()["bootstrapProblem"])
+            self.assertEqual(session.interrupt(), 0, session.output)
+        self.assert_restored()
+
+    def test_after_five_minutes_the_failure_says_which_program(self):
+        self.stand_in("exit 1")
+        self.use(self.lab.tor.bridge_line("obfs4"))
+        env = {"VELDMARK_PROGRAMS": str(PROGRAMS), "VELDMARK_SPEED": "20"}
+        result = self.lab.host.run([FAST_FORWARD, "connect"], env=env, check=True, timeout=90)
+        state = json.loads(result.stdout)
+        self.assertEqual((state["phase"], state["statusDetail"]), ("stale", "Tor didn't finish connecting"))
+        self.assertEqual(state["errorMessage"], TIMEOUT + RESTORE)
+        self.assertEqual(state["bootstrapProblem"], "The bridge program lyrebird keeps ending (exit status 1).")
+        self.assert_restored()
 
     def test_of_ten_bridges_the_three_fastest_are_used(self):
         # Any relay serves as a plain bridge. Nobody listens at the last three addresses.
@@ -130,18 +207,30 @@ class Bridges(LabCase):
                 shaped.enter_context(self.lab.netem(to=node.address, delay_ms=delay))
             with self.lab.capture() as capture, self.product.session() as session:
                 session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"])
+                torrc = self.lab.host.read("/var/lib/veldmark/run/torrc")
                 seen = len(capture.packets)
                 self.assertEqual(session.interrupt(), 0, session.output)
         self.assertIn("Testing 10 bridges…", session.output)
-        fastest = {node.address for node in sorted(delays, key=delays.get)[:3]}
+        self.assertIn("Using the 3 fastest of 10 bridges", session.output)
+        fastest = [node.address for node in sorted(delays, key=delays.get)[:3]]
+        self.assertEqual(re.findall(r"(?m)^Bridge (.+)$", torrc), [f"{address}:{at.OR_PORT}" for address in fastest])
         # A SYN that is sent again for want of an answer comes from the same port.
-        connections = {(p.dst, p.sport) for p in capture.packets[:seen] if p.out and p.proto == "tcp" and p.is_opening}
-        opened = [address for address, _ in connections]
-        self.assertEqual(set(opened), {node.address for node in delays} | set(dead))  # all were probed, and nobody else
-        # The probe opens one connection to each that answers; whoever gets another is used. A dead one may be knocked at twice.
-        again = {address for address in opened if opened.count(address) > 1} - set(dead)
-        self.assertTrue(again)
-        self.assertLessEqual(again, fastest)
+        first = {}
+        for packet in capture.packets[:seen]:
+            if packet.out and packet.proto == "tcp" and packet.is_opening:
+                first.setdefault((packet.dst, packet.sport), packet.time)
+        opened = sorted((time, address) for (address, _), time in first.items())
+        # All were probed, and nobody else: the seven by one connection each before Tor began to connect.
+        self.assertEqual({address for _, address in opened}, {node.address for node in delays} | set(dead))
+        probed, used = set(), []
+        for time, address in opened:
+            if address in probed and address not in dead:
+                used.append((time, address))
+            probed.add(address)
+        self.assertTrue(used)
+        self.assertLessEqual({address for _, address in used}, set(fastest))
+        # The dead refuse at once (and may be knocked at twice by one probe); Tor never tries them.
+        self.assertLess(max(time for time, address in opened if address in dead), used[0][0])
         self.assert_restored()
 
 

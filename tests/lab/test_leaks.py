@@ -160,10 +160,10 @@ class Leaks(unittest.TestCase):
             self.assert_no_strangers(scenario, seen)
         return seen
 
-    def in_both(self, arrangements):
+    def in_both(self, arrangements, **options):
         """Each arrangement of the network, {name: (make, unmake, probes)}: first without a session, then in one."""
         for phase in ("control", "session"):
-            with self.session() if phase == "session" else contextlib.nullcontext():
+            with self.session(**options) if phase == "session" else contextlib.nullcontext():
                 for name, (make, unmake, names) in arrangements.items():
                     with self.subTest(name, phase=phase):
                         self.sh(make)
@@ -194,6 +194,23 @@ class Leaks(unittest.TestCase):
                 "ip link add new0 type veth peer name new1; ip link set new0 up; ip link set new1 up; ip addr add 10.9.0.1/24 dev new0",
                 "ip link del new0", probes.CORE),
         })
+        self.assert_kept()
+
+    def test_2_a_hostile_dhcp_server(self):
+        """What its lease would have a client do: a neighbour as the gateway and as the way to half of the world each, public
+        addresses as on the link, another address, packet size and name server. The file of name servers is written in place,
+        as clients do where it cannot be replaced."""
+        neighbour, neighbour6 = at.LAN_ADDRESS, at.LAN_ADDRESS6
+        lease = (f"cp /etc/resolv.conf /run/resolv.before; echo 'nameserver {neighbour}' >/etc/resolv.conf; ip link set eth0 mtu 1400;"
+                 f"ip addr add 192.168.77.61/24 dev eth0; ip route replace default via {neighbour}; ip route replace ::/0 via {neighbour6};"
+                 f"ip route add 0.0.0.0/1 via {neighbour}; ip route add 128.0.0.0/1 via {neighbour}; ip route add 8000::/1 via {neighbour6};"
+                 f"ip route add 203.0.113.128/25 dev eth0; ip route add {matrix.SENTINEL}/32 via {at.ROUTER_LAN_ADDRESS}")
+        end = (f"cat /run/resolv.before >/etc/resolv.conf; ip link set eth0 mtu 1500; ip route del {matrix.SENTINEL}/32; ip route del 203.0.113.128/25;"
+               f"ip route del 8000::/1; ip route del 128.0.0.0/1; ip route del 0.0.0.0/1; ip route replace default via {at.ROUTER_LAN_ADDRESS};"
+               f"ip route replace ::/0 via {at.ROUTER_LAN_ADDRESS6}; ip addr del 192.168.77.61/24 dev eth0")
+        names = (*probes.CORE, "DNS over TCP", "DNS over TLS", "DNS to a neighbour", "DNS to the gateway")
+        self.in_both({"a hostile DHCP lease": (lease, end, names)})
+        self.in_both({"a hostile DHCP lease, with --lan 1": (lease, end, names)}, lan=1)
         self.assert_kept()
 
     def test_3_a_second_way_out(self):

@@ -46,7 +46,8 @@ class Unprepared(Exception):
 
 
 def prepare(folder: Path, package: Path) -> Path:
-    """Makes the base in `folder` unless it is there, and fetches the package's dependencies into it."""
+    """Makes the base in `folder` unless it is there, and fetches the package's dependencies into it when they are others
+    than last time. Remove the folder to begin anew."""
     base = folder / "base"
     log = folder / "log"
     folder.mkdir(parents=True, exist_ok=True)
@@ -65,6 +66,11 @@ def prepare(folder: Path, package: Path) -> Path:
         (folder / "new/usr/sbin/policy-rc.d").write_text(_START_NOTHING)
         (folder / "new/usr/sbin/policy-rc.d").chmod(0o755)
         (folder / "new").rename(base)
+    needs = subprocess.run(["dpkg-deb", "--field", package, "Depends", "Recommends"], check=True,
+                           capture_output=True, text=True).stdout
+    fetched = folder / "fetched"   # what the packages that lie in the base were fetched for
+    if fetched.exists() and fetched.read_text() == needs:
+        return base
     shutil.copy("/etc/resolv.conf", base / "etc/resolv.conf")
     shutil.copy(package, base / "tmp/package.deb")
     try:
@@ -73,6 +79,7 @@ def prepare(folder: Path, package: Path) -> Path:
            "apt-get", "install", "--yes", "--download-only", "/tmp/package.deb")
     finally:
         (base / "tmp/package.deb").unlink()
+    fetched.write_text(needs)
     return base
 
 

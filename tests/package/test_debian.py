@@ -6,6 +6,7 @@ Status 77 where Debian's registry or the lab is out of reach.
 """
 
 import contextlib
+import json
 import re
 import subprocess
 import sys
@@ -193,14 +194,36 @@ class Installed(Case):
         self.assertEqual(self.debian.shell("find /etc -type f ! -name '*-' ! -name '.pwd.lock' | sort"), files)
 
 
+    def test_the_application_connects_at_once_when_its_entry_says_so(self):
+        self.debian.run([HELPER, "install-privileged", "--user", "alice"], check=True)
+        product = Product(types.SimpleNamespace(host=self.debian), Path("/usr/bin"), user="alice")
+        offscreen = {"QT_QPA_PLATFORM": "offscreen"}
+        window = self.debian.popen(["veldmark", "--connect"], user="alice", env=offscreen,
+                                   stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+        try:
+            deadline = time.monotonic() + 90
+            while json.loads(product.run_verb("status", "--json", check=True).stdout)["phase"] != "connected":
+                self.assertIsNone(window.poll())
+                self.assertLess(time.monotonic(), deadline)
+                time.sleep(0.1)
+            again = self.debian.run(["veldmark", "--connect"], user="alice", env=offscreen, timeout=30)
+            self.assertEqual(again.returncode, 1)
+            self.assertIn("veldmark: Already connected", again.stderr)
+            product.run_verb("disconnect", check=True, timeout=60)
+            self.debian.run(["veldmark", "--connect"], user="alice", env=offscreen, timeout=90, check=True)
+            self.assertFalse(self.direct())
+            product.run_verb("disconnect", check=True, timeout=60)
+        finally:
+            window.terminate()
+            window.communicate(timeout=60)
+        self.assert_network_is_whole()
+
     def test_another_tor_on_the_port_is_named(self):
         """As Debian's own service, which starts when tor is installed."""
-        other = self.debian.popen(["tor", "-f", "/dev/null", "--SocksPort", "9050", "--DataDirectory", "/tmp/other"],
+        other = self.debian.popen(["tor", "-f", "/none", "--ignore-missing-torrc", "--SocksPort", "9050", "--DataDirectory", "/tmp/other"],
                                   stdout=subprocess.PIPE, text=True)
         try:
-            for line in other.stdout:
-                if "Opened Socks listener" in line:
-                    break
+            self.assertTrue(any("Opened Socks listener" in line for line in other.stdout))
             with self.product.session() as session:
                 state = session.wait(lambda s: s["errorMessage"])
                 self.assertRegex(state["errorMessage"], r"^Tor did not start: .*9050")

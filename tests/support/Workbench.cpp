@@ -129,6 +129,9 @@ void Workbench::restart()
     controlPort = std::make_unique<ControlPort>(socketClock, tor.port());
     privileged = std::make_unique<PrivilegedRunner>(profile, processes, ordinaryUser);
     settings = std::make_unique<SettingsStore>(profile);
+    const decltype(installTransports) install = [this](bool throughTor, TransportDownloader::Progress progress) {
+        return installTransports(throughTor, std::move(progress));
+    };
     m_controller = std::make_unique<TorController>(TorController::Services{
         .profile = profile,
         .settings = *settings,
@@ -147,9 +150,7 @@ void Workbench::restart()
         .bridgeProbe = [this](QString host, quint16 port, std::chrono::milliseconds limit) {
             return bridgeProbe(std::move(host), port, limit);
         },
-        .installTransports = [this](bool throughTor, TransportDownloader::Progress progress) {
-            return installTransports(throughTor, std::move(progress));
-        },
+        .installTransports = withoutDownloader ? nullptr : install,
     });
     settle();
 }
@@ -164,11 +165,6 @@ void Workbench::disconnect()
 {
     const auto disconnecting = m_controller->disconnect();
     finished(disconnecting);
-}
-
-bool Workbench::finished(const QCoro::Task<void> &task)
-{
-    return until([&task] { return task.isReady(); });
 }
 
 bool Workbench::tick()

@@ -53,7 +53,11 @@ public:
     // The same for disconnect(), whatever it leads to.
     void disconnect();
     // Waits for the end of an operation.
-    static bool finished(const QCoro::Task<void> &task);
+    template <typename T>
+    static bool finished(const QCoro::Task<T> &task)
+    {
+        return until([&task] { return task.isReady(); });
+    }
     // One turn of the monitor: two seconds, and what it then does. False when it does not come to
     // an end.
     bool tick();
@@ -101,6 +105,7 @@ public:
     ScriptedApplications applications;
     PluggableTransports transports; // what a search finds
     int searches = 0;               // for transports
+    bool withoutDownloader = false; // of the next restart()
     // What a download comes to; well, unless this says otherwise.
     std::function<QCoro::Task<TransportDownloader::Outcome>(bool throughTor, TransportDownloader::Progress progress)>
         installTransports;

@@ -1,5 +1,6 @@
 #include "Scenes.h"
 #include "Stage.h"
+#include "circuits/GraphLayout.h"
 
 #include <QGuiApplication>
 #include <QQuickItem>

@@ -4,6 +4,7 @@
 #include <QQuickItem>
 #include <QTest>
 
+#include <algorithm>
 #include <cstdlib>
 
 using namespace veldmark;

@@ -21,7 +21,7 @@ PYTHON = "/usr/bin/python3"
 
 CONTROLS = {"push button", "toggle button", "check box", "radio button", "combo box", "entry", "text", "password text",
             "page tab", "list item", "link", "slider", "spin button", "menu item", "chart"}
-NAMELESS = {"filler", "panel", "layered pane", "scroll bar", "scroll pane", "viewport", "separator", "image"}
+NAMELESS = {"label", "filler", "panel", "layered pane", "scroll bar", "scroll pane", "viewport", "separator", "image"}
 STRANGE = {"unknown", "invalid", "redundant object", "extended"}
 
 WINDOWS = [
@@ -32,8 +32,9 @@ WINDOWS = [
 
 
 def every(nodes):
+    """What can be seen in the windows."""
     for node in nodes:
-        if "showing" in node["states"] or node["role"] == "frame":
+        if "visible" in node["states"] or node["role"] == "frame":
             yield node
             yield from every(node["children"])
 
@@ -48,11 +49,9 @@ def faults(nodes):
         named = node["role"] in CONTROLS or node["actions"] or "focusable" in node["states"]
         if named and node["role"] not in NAMELESS and not node["name"].strip():
             found.append(f"{what} has no name")
-        if node["role"] == "check box" and "checkable" not in node["states"]:
-            found.append(f"{what} does not say that it can be checked")
         if node["role"] == "combo box" and not (node["text"] or node["description"]):
             found.append(f"{what} has no value")
-        if node["role"] in ("push button", "check box", "combo box", "page tab", "link") and not node["actions"]:
+        if node["role"] in ("push button", "check box", "page tab", "link") and not node["actions"]:
             found.append(f"{what} cannot be pressed")
     return found
 

@@ -13,7 +13,7 @@ IDENTITIES = ("nobody", "root", "Tor's account", "without Tor")
 CLOSED, OPEN, ABSENT = "closed", "open", "absent"
 SENTINEL = "203.0.113.90"   # as Tor's account: what was sent before it has arrived before it
 
-_TCP = {"tcp", "tcp-bound", "tcp-lan", "mapped", "fastopen", "userns"}
+_TCP = {"tcp", "tcp-bound", "tcp-lan", "mapped", "fastopen", "userns-tcp"}
 _KERNELS_OWN = {"igmp", "mld"}   # sent by the kernel, for no application
 _HEADER = "scenario"
 

@@ -18,7 +18,11 @@ from veldlab import topology as at
 from veldlab.lab import PROJECT
 
 _SUPPORT = PROJECT / "tests" / "support"
-_PROGRAMS = {"Xvfb": "xvfb", "xdotool": "xdotool", "openbox": "openbox", "dbus-daemon": "dbus-daemon"}
+_LOGIN_POLICY = """<busconfig><policy user="root"><allow own="org.freedesktop.login1"/></policy>
+<policy context="default"><allow send_destination="org.freedesktop.login1"/>
+<allow receive_sender="org.freedesktop.login1"/></policy></busconfig>
+"""
+_PROGRAMS = {"Xvfb": "xvfb", "xdotool": "xdotool", "openbox": "openbox", "dbus-daemon": "dbus-daemon", "gdbus": "libglib2.0-bin"}
 
 
 def missing() -> str:
@@ -102,17 +106,28 @@ class Desktop(contextlib.ExitStack):
         self.display.wait()
         self.manager.wait()
 
-    def start_session_manager(self) -> "SessionManager":
-        """Programs that are started from now on belong to its session."""
+    def start_session_manager(self) -> "Service":
+        """A session manager, tests/support/session_manager.py. Programs that are started from now on belong to its session."""
         process = self._start([at.PYTHON, str(_SUPPORT / "session_manager.py")], stdin=subprocess.PIPE,
                               stdout=subprocess.PIPE)
-        manager = SessionManager(process)
+        manager = Service(process)
         self.env["SESSION_MANAGER"] = manager.lines.wait(bool)
         return manager
 
-    def _start(self, command, **options) -> subprocess.Popen:
+    def start_login_manager(self) -> "Service":
+        """A system bus and, on it, what tests/support/login_manager.py says, as root."""
+        self.lab.host.write("/etc/dbus-1/system.d/veldlab-login.conf", _LOGIN_POLICY)
+        self.lab.host.run(["mkdir", "-p", "/run/dbus"], check=True)
+        self._start(["dbus-daemon", "--system", "--nofork", "--nopidfile"], user="root")
+        self.lab.host.run(["gdbus", "wait", "--system", "--timeout", "20", "org.freedesktop.DBus"], check=True)
+        service = Service(self._start([at.PYTHON, str(_SUPPORT / "login_manager.py")], user="root",
+                                      stdin=subprocess.PIPE, stdout=subprocess.PIPE))
+        service.lines.wait(lambda line: line == "ready")
+        return service
+
+    def _start(self, command, user: str = "", **options) -> subprocess.Popen:
         options.setdefault("stdin", subprocess.DEVNULL)
-        process = self.lab.host.popen(command, user=self.user, env=self.env, text=True, **options)
+        process = self.lab.host.popen(command, user=user or self.user, env=self.env, text=True, **options)
         self.callback(self._end, process)
         return process
 
@@ -142,8 +157,8 @@ class Desktop(contextlib.ExitStack):
         return json.loads(self._notifications.wait(lambda line: json.loads(line).get("title") == title, timeout))
 
 
-class SessionManager:
-    """See tests/support/session_manager.py."""
+class Service:
+    """A process that does what the lines say that it is told, and prints others."""
 
     def __init__(self, process: subprocess.Popen):
         self._process, self.lines = process, Lines(process.stdout)

@@ -38,7 +38,8 @@ def _links() -> list[str]:
         lines.append(f"{space}: addr add {v4}/{prefix[0]} brd + dev {link}")
         lines.append(f"{space}: addr add {v6}/{prefix[1]} dev {link} nodad")
     lines += [f"world: addr add 203.0.113.{i}/32 dev lo" for i in range(1, 40)]
-    lines += [f"world: addr add {v6}/128 dev lo nodad" for v6 in (at.WEB_ADDRESS6, at.CHECK_ADDRESS6, at.DNS_ADDRESS6)]
+    services6 = (at.WEB_ADDRESS6, at.CHECK_ADDRESS6, at.DNS_ADDRESS6, *(node.address6 for node in at.BRIDGES))
+    lines += [f"world: addr add {v6}/128 dev lo nodad" for v6 in services6]
     lines += [
         f"router: route add 203.0.113.0/24 via {at.WORLD_ADDRESS}",
         f"router: route add 2001:db8:cb::/64 via {at.WORLD_ADDRESS6}",

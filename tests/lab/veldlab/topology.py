@@ -5,6 +5,7 @@
     |      203.0.113.10-15  exits         de us nl fr gb ch              |
     |      203.0.113.20-22  middle nodes  se fi at                       |
     |      203.0.113.30     obfs4 bridge  203.0.113.31  plain bridge     |
+    |                       (2001:db8:cb::30 and ::31 likewise)          |
     |      203.0.113.37     web server    203.0.113.38  exit check       |
     |      203.0.113.39     DNS           (2001:db8:cb::37-39 likewise)  |
     |  eth0: 198.51.100.2, 2001:db8:64::2                                |
@@ -61,13 +62,14 @@ ROUTER_LINKS = {"world": "world0", "host": "host0", "lan": "lan0"}
 
 @dataclass(frozen=True)
 class Node:
-    """One tor process of the network. `role` is authority, exit, middle or bridge."""
+    """One tor process of the network. `role` is authority, exit, middle or bridge. Bridges listen at `address6` too."""
 
     name: str
     role: str
     address: str
     country: str
     transport: str = ""
+    address6: str = ""
 
     @property
     def address_number(self) -> int:
@@ -84,8 +86,8 @@ MIDDLES = tuple(
     for i, country in enumerate(("se", "fi", "at"))
 )
 BRIDGES = (
-    Node("bridgeobfs4", "bridge", "203.0.113.30", "no", "obfs4"),
-    Node("bridgeplain", "bridge", "203.0.113.31", "dk"),
+    Node("bridgeobfs4", "bridge", "203.0.113.30", "no", "obfs4", "2001:db8:cb::30"),
+    Node("bridgeplain", "bridge", "203.0.113.31", "dk", address6="2001:db8:cb::31"),
 )
 NODES = AUTHORITIES + EXITS + MIDDLES + BRIDGES
 RELAY_ADDRESSES = frozenset(node.address for node in NODES)

@@ -83,7 +83,7 @@ def node_torrc(node: Node, identities: dict[str, tuple[str, str]], voting: bool 
         f"Address {node.address}",
         f"OutboundBindAddress {node.address}",
         f"ORPort {node.address}:{at.OR_PORT} IPv4Only",
-        "AddressDisableIPv6 1",
+        f"ORPort [{node.address6}]:{at.OR_PORT} IPv6Only" if node.address6 else "AddressDisableIPv6 1",
         "AssumeReachable 1",
         "ContactInfo nobody@example.test",
     ]
@@ -131,7 +131,7 @@ def _bridge(node: Node) -> list[str]:
     if node.transport == "obfs4":
         lines += [
             "ServerTransportPlugin obfs4 exec /usr/bin/obfs4proxy",
-            f"ServerTransportListenAddr obfs4 {node.address}:{at.OBFS4_PORT}",
+            f"ServerTransportListenAddr obfs4 [::]:{at.OBFS4_PORT}",  # both families; there is one line only
             "ExtORPort auto",
         ]
     return lines

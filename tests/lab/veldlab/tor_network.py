@@ -161,15 +161,16 @@ class TorNetwork:
         latest = self.log(node.name).rpartition("opening new log file")[2]
         return not node.transport or f"Registered server transport '{node.transport}'" in latest
 
-    def bridge_line(self, transport: str = "obfs4") -> str:
+    def bridge_line(self, transport: str = "obfs4", ipv6: bool = False) -> str:
         """What a user would enter, without "Bridge": for "obfs4", or "" for the plain bridge."""
         node = next(n for n in at.BRIDGES if n.transport == transport)
         fingerprint = self._fingerprint(node)
+        address = f"[{node.address6}]" if ipv6 else node.address
         if not transport:
-            return f"{node.address}:{at.OR_PORT} {fingerprint}"
+            return f"{address}:{at.OR_PORT} {fingerprint}"
         text = (self.folder / node.name / "pt_state/obfs4_bridgeline.txt").read_text()
         arguments = text[text.index("cert="):].splitlines()[0]
-        return f"obfs4 {node.address}:{at.OBFS4_PORT} {fingerprint} {arguments}"
+        return f"obfs4 {address}:{at.OBFS4_PORT} {fingerprint} {arguments}"
 
     def _consensus(self, node: Node) -> str:
         try:

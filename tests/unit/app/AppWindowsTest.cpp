@@ -2,6 +2,7 @@
 #include "app/Windows.h"
 #include "support/Workbench.h"
 
+#include <QGuiApplication>
 #include <QSignalSpy>
 #include <QTest>
 

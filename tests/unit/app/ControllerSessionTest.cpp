@@ -108,7 +108,7 @@ private Q_SLOTS:
     void aSettingsFileOfANewerVersionIsReadAndKept()
     {
         Workbench bench;
-        const QByteArray newer = "[General]\nbridgeChoice=quantum\nexitCountry=de\nformat=7\nstrictMode=sometimes\n\n[windows]\nmain=@Variant(\\0)\n";
+        const QByteArray newer = "[General]\nbridgeChoice=quantum\nexitCountry=de\nformat=7\nstrictMode=sometimes\n\n[windows]\nmain=everywhere\n";
         bench.writeFile(bench.profile.settingsFile, newer);
         bench.restart();
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
@@ -165,6 +165,7 @@ private Q_SLOTS:
         session.setOpenAtLogin(true);
         follow(session);
         QVERIFY(session.now().errorMessage);
+        QVERIFY(session.now().errorMessage->startsWith(QStringLiteral("Couldn't change the login-item setting: ")));
         QCOMPARE(session.now().openAtLogin, std::optional(false));
     }
 };

@@ -1,42 +1,16 @@
 #include "app/FileChooser.h"
+#include "support/SessionBus.h"
 #include "support/Workbench.h"
 
 #include <QApplication>
-#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QFileDialog>
-#include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace veldmark;
-
-namespace {
-
-// A session bus of the test's own.
-class SessionBus {
-public:
-    SessionBus()
-    {
-        m_daemon.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
-        while (!address.endsWith(u'\n') && m_daemon.waitForReadyRead(10000))
-            address += QString::fromUtf8(m_daemon.readAllStandardOutput());
-        address = address.trimmed();
-    }
-    ~SessionBus()
-    {
-        m_daemon.kill();
-        m_daemon.waitForFinished();
-    }
-    QDBusConnection connection(const QString &name) const { return QDBusConnection::connectToBus(address, name); }
-
-    QString address;
-
-private:
-    QProcess m_daemon;
-};
 
 // Answers as the desktop's portal does.
 class Portal : public QObject {
@@ -48,6 +22,12 @@ public:
     {
         m_bus.registerObject(u"/org/freedesktop/portal/desktop"_s, this, QDBusConnection::ExportScriptableSlots);
         m_bus.registerService(u"org.freedesktop.portal.Desktop"_s);
+    }
+
+    ~Portal() override
+    {
+        m_bus.unregisterService(u"org.freedesktop.portal.Desktop"_s); // the connection outlives this object
+        m_bus.unregisterObject(u"/org/freedesktop/portal/desktop"_s);
     }
 
     void answer(uint response, const QStringList &uris)
@@ -79,6 +59,8 @@ private:
     QDBusConnection m_bus;
 };
 
+namespace {
+
 QFileDialog *qtDialog()
 {
     for (QWidget *widget : QApplication::topLevelWidgets()) {
@@ -94,12 +76,9 @@ class FileChooserTest : public QObject {
     Q_OBJECT
 
     SessionBus bus;
-    int m_names = 0;
-
-    QDBusConnection connection() { return bus.connection(u"test%1"_s.arg(++m_names)); }
 
 private Q_SLOTS:
-    void initTestCase() { QVERIFY(bus.address.startsWith(u"unix:"_s)); }
+    void initTestCase() { QVERIFY(bus.isRunning()); }
 
     void asksThePortal_data()
     {
@@ -110,9 +89,9 @@ private Q_SLOTS:
     void asksThePortal()
     {
         QFETCH(bool, old);
-        Portal portal(connection());
+        Portal portal(bus.connection());
         portal.old = old;
-        FileChooser chooser(connection());
+        FileChooser chooser(bus.connection());
         QSignalSpy chosen(&chooser, &FileChooser::chosen);
         chooser.ask({.title = u"Choose"_s, .folder = u"/usr/bin"_s, .filterName = u"Applications"_s,
                      .filterPattern = u"*.desktop"_s, .several = true});
@@ -130,8 +109,8 @@ private Q_SLOTS:
 
     void aCancelledDialogueChoosesNothing()
     {
-        Portal portal(connection());
-        FileChooser chooser(connection());
+        Portal portal(bus.connection());
+        FileChooser chooser(bus.connection());
         QSignalSpy chosen(&chooser, &FileChooser::chosen);
         chooser.ask({.title = u"Choose"_s});
         QVERIFY(until([&] { return !portal.request.isEmpty(); }));
@@ -146,7 +125,7 @@ private Q_SLOTS:
 
     void withoutAPortalQtsOwnDialogueIsShown()
     {
-        FileChooser chooser(connection());
+        FileChooser chooser(bus.connection());
         QSignalSpy chosen(&chooser, &FileChooser::chosen);
         chooser.ask({.title = u"Choose"_s, .folder = u"/"_s});
         QVERIFY(until([&] { return qtDialog(); }));

@@ -1,11 +1,9 @@
 #include "app/FileLog.h"
 #include "support/Workbench.h"
 
-#include <QFile>
+#include <QDir>
 #include <QSignalSpy>
 #include <QTest>
-
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace veldmark;
@@ -65,16 +63,14 @@ private Q_SLOTS:
         QCOMPARE(log.lines().at(0).message, u"Three"_s);
     }
 
-    void saysThatItMayNotRead()
+    void saysThatItCannotRead()
     {
-        if (geteuid() == 0)
-            QSKIP("root may read everything");
         Workbench bench;
-        bench.writeFile(notices(bench), "Nov 16 00:41:07.123 [notice] One\n");
-        QVERIFY(QFile::setPermissions(notices(bench), QFile::Permissions()));
+        QVERIFY(QDir().mkpath(notices(bench))); // a folder where the file should be
         FileLog log(bench.profile);
         log.start();
         QVERIFY(log.state() == LogFeed::State::unreadable);
+        QVERIFY(log.lines().empty());
     }
 };
 

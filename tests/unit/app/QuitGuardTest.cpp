@@ -8,7 +8,6 @@
 
 using namespace Qt::StringLiterals;
 using namespace veldmark;
-using Phase = ConnectionPhase;
 
 namespace {
 
@@ -118,7 +117,7 @@ private Q_SLOTS:
         g.guard.quit();
         QVERIFY(Guarded::answer("disconnectWanted"));
         QVERIFY(until([&] { return !Guarded::question(); }));
-        QVERIFY(g.bench.controller().phase() == Phase::connected);
+        QVERIFY(g.bench.controller().phase() == ConnectionPhase::connected);
         QVERIFY(g.mainIsShown()); // its banner says why
         QCOMPARE(g.mayEnd.count(), 0);
     }
@@ -133,7 +132,7 @@ private Q_SLOTS:
         QVERIFY(until([&] { return g.bench.processes.held() == 1; }));
         QVERIFY(Guarded::answer("cancelled"));
         g.bench.processes.release();
-        QVERIFY(until([&] { return g.bench.controller().phase() == Phase::disconnected; }));
+        QVERIFY(until([&] { return g.bench.controller().phase() == ConnectionPhase::disconnected; }));
         settle();
         QCOMPARE(g.mayEnd.count(), 0);
     }

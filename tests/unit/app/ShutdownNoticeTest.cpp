@@ -1,8 +1,8 @@
 #include "app/ShutdownNotice.h"
+#include "support/SessionBus.h"
 #include "support/Workbench.h"
 
 #include <QDBusMessage>
-#include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -11,8 +11,6 @@
 
 using namespace Qt::StringLiterals;
 using namespace veldmark;
-
-namespace {
 
 // Gives delay locks as logind does: the end of a pipe, whose other end tells when it has been let go.
 class Login : public QObject {
@@ -27,6 +25,8 @@ public:
     }
     ~Login() override
     {
+        m_bus.unregisterService(u"org.freedesktop.login1"_s); // the connection outlives this object
+        m_bus.unregisterObject(u"/org/freedesktop/login1"_s);
         for (const int end : ends)
             ::close(end);
     }
@@ -53,12 +53,12 @@ public Q_SLOTS:
                                                  const QString &mode)
     {
         asked << what + u' ' + who + u' ' + mode;
-        int pipe[2];
-        if (::pipe(pipe) != 0)
-            return {};
-        ends.push_back(pipe[0]);
-        const QDBusUnixFileDescriptor lock(pipe[1]); // a copy of its own
-        ::close(pipe[1]);
+        int both[2];
+        if (::pipe(both) != 0)
+            return QDBusUnixFileDescriptor();
+        ends.push_back(both[0]);
+        const QDBusUnixFileDescriptor lock(both[1]); // a copy of its own
+        ::close(both[1]);
         return lock;
     }
 
@@ -66,36 +66,18 @@ private:
     QDBusConnection m_bus;
 };
 
-} // namespace
-
 class ShutdownNoticeTest : public QObject {
     Q_OBJECT
 
-    QProcess m_daemon;
-    QString m_address;
-    int m_names = 0;
-
-    QDBusConnection connection() { return QDBusConnection::connectToBus(m_address, u"test%1"_s.arg(++m_names)); }
+    SessionBus bus;
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        m_daemon.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
-        while (!m_address.endsWith(u'\n') && m_daemon.waitForReadyRead(10000))
-            m_address += QString::fromUtf8(m_daemon.readAllStandardOutput());
-        m_address = m_address.trimmed();
-        QVERIFY(m_address.startsWith(u"unix:"_s));
-    }
-    void cleanupTestCase()
-    {
-        m_daemon.kill();
-        m_daemon.waitForFinished();
-    }
+    void initTestCase() { QVERIFY(bus.isRunning()); }
 
     void tellsWhenAShutdownBegins()
     {
-        Login login(connection());
-        ShutdownNotice notice(connection());
+        Login login(bus.connection());
+        ShutdownNotice notice(bus.connection());
         QSignalSpy shuttingDown(&notice, &ShutdownNotice::shuttingDown);
         login.prepareForShutdown(false); // one that was called off
         login.prepareForShutdown(true);
@@ -106,8 +88,8 @@ private Q_SLOTS:
 
     void holdsOneLockForAsLongAsItIsWanted()
     {
-        Login login(connection());
-        ShutdownNotice notice(connection());
+        Login login(bus.connection());
+        ShutdownNotice notice(bus.connection());
         notice.setDelaying(true);
         notice.setDelaying(true);
         QVERIFY(until([&] { return login.ends.size() == 1; }));
@@ -124,8 +106,8 @@ private Q_SLOTS:
 
     void aLockThatComesTooLateIsLetGo()
     {
-        Login login(connection());
-        ShutdownNotice notice(connection());
+        Login login(bus.connection());
+        ShutdownNotice notice(bus.connection());
         notice.setDelaying(true);
         notice.setDelaying(false); // before the answer
         QVERIFY(until([&] { return login.ends.size() == 1 && !login.isHeld(0); }));
@@ -133,7 +115,7 @@ private Q_SLOTS:
 
     void withoutLogindNothingHappens()
     {
-        ShutdownNotice notice(connection());
+        ShutdownNotice notice(bus.connection());
         notice.setDelaying(true);
         settle();
         ShutdownNotice other(QDBusConnection(u"no such connection"_s));

@@ -24,6 +24,13 @@ private Q_SLOTS:
         QTest::newRow("too much") << words("connect|now") << "connect doesn't take \"now\"";
         QTest::newRow("get with two keys") << words("get|phase|title") << "doesn't take";
         QTest::newRow("no circuit") << words("close-circuit") << "close-circuit needs a circuit's number";
+        QTest::newRow("no application") << words("launch") << "launch needs an application";
+        QTest::newRow("two applications") << words("launch|a|b") << "launch doesn't take \"b\"";
+        QTest::newRow("apps with a name") << words("apps|a") << "apps doesn't take \"a\"";
+        QTest::newRow("bridges with a word") << words("bridges|all") << "bridges doesn't take";
+        QTest::newRow("bridges that follow") << words("bridges|--follow") << "bridges has no option \"--follow\"";
+        QTest::newRow("an option of the download") << words("download-transports|--json") << "has no option";
+        QTest::newRow("an option of launch") << words("launch|--json|a") << "launch has no option \"--json\"";
         QTest::newRow("line break in a verb") << words("a\nb") << "Unknown command \"a b\"";
         QTest::newRow("escape in a verb") << words("\x1b[31m") << "Unknown command \"?[31m\"";
         QTest::newRow("endless verb") << QStringList(QString(100000, u'x')) << "Unknown command";
@@ -49,6 +56,22 @@ private Q_SLOTS:
         QVERIFY(parseArguments({QStringLiteral("run"), QStringLiteral("--connect")})->connectNow);
     }
 
+    void readsWhatIsAskedOfBridgesAndApplications()
+    {
+        const auto bridges = parseArguments({QStringLiteral("bridges"), QStringLiteral("--json")});
+        QVERIFY(bridges && bridges->verb == Verb::bridges && bridges->json);
+        QVERIFY(!parseArguments({QStringLiteral("bridges")})->json);
+        const auto download = parseArguments({QStringLiteral("download-transports")});
+        QVERIFY(download && download->verb == Verb::downloadTransports);
+        const auto apps = parseArguments({QStringLiteral("apps"), QStringLiteral("--json")});
+        QVERIFY(apps && apps->verb == Verb::apps && apps->json);
+        const auto launch = parseArguments({QStringLiteral("launch"), QStringLiteral("Two Words")});
+        QVERIFY(launch && launch->verb == Verb::launch);
+        QCOMPARE(launch->key, QStringLiteral("Two Words"));
+        QCOMPARE(parseArguments({QStringLiteral("launch"), QStringLiteral("--"), QStringLiteral("--odd")})->key,
+                 QStringLiteral("--odd"));
+    }
+
     void aValueMayLookLikeAnOption()
     {
         const auto parsed = parseArguments({QStringLiteral("set"), QStringLiteral("customTorPath"), QStringLiteral("--odd")});
@@ -63,7 +86,7 @@ private Q_SLOTS:
     void theUsageNamesEveryCommand()
     {
         for (const char *verb : {"run", "status", "connect", "disconnect", "restore", "check", "fix-dns", "circuits", "close-circuit",
-                                 "new-identity", "log", "get", "set"})
+                                 "new-identity", "log", "bridges", "download-transports", "apps", "launch", "get", "set"})
             QVERIFY2(usageText().contains(QStringLiteral("\n  ") + QLatin1String(verb)), verb);
     }
 };

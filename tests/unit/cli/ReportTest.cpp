@@ -60,6 +60,18 @@ private Q_SLOTS:
         QVERIFY(Report::status(object(R"({"phase":"stale"})")).contains(QStringLiteral("veldmarkctl restore")));
     }
 
+    void saysWhatKeepsTorFromConnecting()
+    {
+        const QString cause = QStringLiteral("\n  Cause       It keeps ending.");
+        for (const char *phase : {"connecting", "stale"}) {
+            QJsonObject state = object(R"({"bootstrapProblem":"It keeps ending."})");
+            state.insert(QStringLiteral("phase"), QLatin1String(phase));
+            QVERIFY2(Report::status(state).contains(cause), phase);
+        }
+        QVERIFY(!Report::status(object(R"({"phase":"connecting","bootstrapProblem":null})")).contains(QStringLiteral("Cause")));
+        QVERIFY(!Report::status(object(R"({"phase":"connected","bootstrapProblem":"Old."})")).contains(QStringLiteral("Cause")));
+    }
+
     void drawsACircuitAsAPath()
     {
         const QString report = Report::circuits(object(

@@ -17,6 +17,13 @@ private:
             && until([&] { return bench.clock.sleepers() == 1; });
     }
 
+    static void useObfs4(Workbench &bench)
+    {
+        bench.transports.lyrebird = u"/opt/lyrebird"_s;
+        bench.controller().bridgeChoice.set(BridgeChoice::custom);
+        bench.controller().customBridges.set(u"obfs4 192.0.2.1:443 cert=a iat-mode=0"_s);
+    }
+
 private Q_SLOTS:
     void readsTorsReport_data()
     {
@@ -44,6 +51,143 @@ private Q_SLOTS:
         const BootstrapStatus status = TorController::parseBootstrap(reply);
         QTEST(status.progress, "progress");
         QTEST(status.summary, "summary");
+    }
+
+    void readsWhatIsInTorsWay_data()
+    {
+        QTest::addColumn<QString>("reply");
+        QTest::addColumn<QString>("warning");
+        const QString start = u"WARN BOOTSTRAP PROGRESS=5 TAG=conn SUMMARY=\"Connecting to a relay\" "_s;
+        QTest::newRow("nothing") << u"NOTICE BOOTSTRAP PROGRESS=85 TAG=x SUMMARY=\"Hello\""_s << QString();
+        QTest::newRow("everything")
+            << start + u"WARNING=\"Connection refused\" REASON=CONNECTREFUSED COUNT=2 RECOMMENDATION=warn "
+                       "HOSTID=\"2FCF\" HOSTADDR=\"203.0.113.31:5000\""_s
+            << u"Tor reports: Connection refused (CONNECTREFUSED, 203.0.113.31:5000)."_s;
+        QTest::newRow("no address") << start + u"WARNING=\"No route to host\" REASON=NOROUTE COUNT=1 RECOMMENDATION=warn"_s
+                                    << u"Tor reports: No route to host (NOROUTE)."_s;
+        QTest::newRow("words alone") << start + u"WARNING=\"b\""_s << u"Tor reports: b."_s;
+        QTest::newRow("of no weight")
+            << start + u"WARNING=\"DONE\" REASON=DONE COUNT=1 RECOMMENDATION=ignore"_s << QString();
+        QTest::newRow("the way to the program")
+            << u"WARN BOOTSTRAP PROGRESS=1 TAG=conn_pt SUMMARY=\"Connecting to pluggable transport\" "
+               "WARNING=\"Connection refused\" REASON=CONNECTREFUSED COUNT=1 RECOMMENDATION=warn "
+               "HOSTADDR=\"203.0.113.30:9030\""_s
+            << u"Tor can't reach the bridge program: Connection refused."_s;
+        QTest::newRow("unclosed") << start + u"WARNING=\"abc"_s << QString();
+    }
+
+    void readsWhatIsInTorsWay()
+    {
+        QFETCH(QString, reply);
+        QTEST(TorController::parseBootstrap(reply).warning, "warning");
+    }
+
+    void showsWhatTorWarnsOfUntilItGetsOn()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        bench.setBootstrap("PROGRESS=5 TAG=conn SUMMARY=\"Connecting to a relay\" WARNING=\"Connection refused\" "
+                           "REASON=CONNECTREFUSED COUNT=1 RECOMMENDATION=warn");
+        const auto connecting = c.connect();
+        QVERIFY(waitsAfterPoll(bench, 1));
+        QCOMPARE(c.statusDetail(), u"Connecting to a relay"_s); // Tor's summary, as ever
+        QCOMPARE(c.bootstrapProblem().value(), u"Tor reports: Connection refused (CONNECTREFUSED)."_s);
+        QVERIFY(!c.errorMessage());
+        bench.setBootstrap("PROGRESS=10 TAG=conn_done SUMMARY=\"Connected to a relay\"");
+        bench.clock.advance(1s);
+        QVERIFY(waitsAfterPoll(bench, 2));
+        QVERIFY(!c.bootstrapProblem());
+    }
+
+    void showsWhatTheLogSaysOfABridgeProgram()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        useObfs4(bench);
+        const QString log = bench.profile.runDirectory + u"/notices.log"_s;
+        const QByteArray ended = "Nov 21 00:55:29.000 [warn] Managed proxy \"/x/lyrebird\" having PID 12 terminated "
+                                 "with status code 1\n";
+        bench.writeFile(log, ended);
+        bench.setBootstrap("PROGRESS=1 TAG=conn_pt SUMMARY=\"Connecting to pluggable transport\" "
+                           "WARNING=\"Connection refused\" RECOMMENDATION=warn");
+        const auto connecting = c.connect();
+        QVERIFY(waitsAfterPoll(bench, 1));
+        QCOMPARE(c.bootstrapProblem().value(), u"The bridge program lyrebird ended unexpectedly (exit status 1)."_s);
+        bench.writeFile(log, ended + ended);
+        bench.clock.advance(1s);
+        QVERIFY(waitsAfterPoll(bench, 2));
+        QCOMPARE(c.bootstrapProblem().value(), u"The bridge program lyrebird keeps ending (exit status 1)."_s);
+        bench.writeFile(log, {});
+        bench.clock.advance(1s);
+        QVERIFY(waitsAfterPoll(bench, 3));
+        QCOMPARE(c.bootstrapProblem().value(), u"Tor can't reach the bridge program: Connection refused."_s);
+        bench.setBootstrap("PROGRESS=100 TAG=done SUMMARY=\"Done\"");
+        bench.clock.advance(1s);
+        QVERIFY(Workbench::finished(connecting));
+        QVERIFY(c.phase() == Phase::connected && !c.bootstrapProblem());
+    }
+
+    void aSilentBridgeProgramIsNamedAfterTenSeconds_data()
+    {
+        QTest::addColumn<bool>("programs");
+        QTest::newRow("a bridge with a program") << true;
+        QTest::newRow("a plain bridge") << false;
+    }
+
+    void aSilentBridgeProgramIsNamedAfterTenSeconds()
+    {
+        QFETCH(bool, programs);
+        Workbench bench;
+        TorController &c = bench.controller();
+        useObfs4(bench);
+        if (!programs)
+            c.customBridges.set(u"192.0.2.1:443"_s);
+        bench.setBootstrap("PROGRESS=0 TAG=starting SUMMARY=\"Starting\"");
+        const auto connecting = c.connect();
+        QVERIFY(waitsAfterPoll(bench, 1));
+        for (int second = 1; second < 10; ++second) {
+            bench.clock.advance(1s);
+            QVERIFY(waitsAfterPoll(bench, second + 1));
+            QVERIFY(!c.bootstrapProblem());
+        }
+        bench.clock.advance(1s);
+        QVERIFY(waitsAfterPoll(bench, 11));
+        QCOMPARE(c.bootstrapProblem().value_or(QString()),
+                 programs ? u"Tor is waiting for the bridge program, which hasn't said that it is ready."_s : QString());
+        QCOMPARE(c.statusDetail(), u"Starting"_s);
+    }
+
+    void theProblemOutlivesAFailureUntilTheRestore()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        useObfs4(bench);
+        bench.setBootstrap("PROGRESS=1 WARNING=\"Connection refused\"");
+        const auto connecting = c.connect();
+        QVERIFY(waitsAfterPoll(bench, 1));
+        bench.clock.advance(300s);
+        QVERIFY(Workbench::finished(connecting));
+        QVERIFY(c.phase() == Phase::stale);
+        QCOMPARE(c.errorMessage().value(), u"Tor didn't finish connecting within 5 minutes. Your network is still pointed "
+                                           "at Tor. Click Restore Network to undo."_s);
+        QCOMPARE(c.bootstrapProblem().value(), u"Tor reports: Connection refused."_s);
+        bench.disconnect();
+        QVERIFY(c.phase() == Phase::disconnected && !c.bootstrapProblem());
+    }
+
+    void anotherAttemptForgetsTheProblem()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        bench.setBootstrap("PROGRESS=1 WARNING=\"Connection refused\"");
+        const auto connecting = c.connect();
+        QVERIFY(waitsAfterPoll(bench, 1));
+        bench.clock.advance(300s);
+        QVERIFY(Workbench::finished(connecting));
+        QVERIFY(c.bootstrapProblem());
+        bench.failHelper(u"connect"_s, u"No."_s);
+        QVERIFY(!bench.connect());
+        QVERIFY(!c.bootstrapProblem());
     }
 
     void showsProgressAndSummary()

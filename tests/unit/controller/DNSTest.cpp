@@ -326,6 +326,63 @@ private Q_SLOTS:
         QVERIFY(!c.errorMessage()); // the old reason is over
     }
 
+    void fixesThatRunAtOnceShareOnePrompt()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        bench.resolvers.answer = leaking;
+        QVERIFY(bench.connect());
+        bench.hold(u"fix-dns"_s);
+        const auto first = c.fixDNS();
+        const auto second = c.fixDNS();
+        const auto third = c.fixDNS();
+        QVERIFY(until([&] { return bench.processes.held() == 1; }));
+        settle();
+        QCOMPARE(bench.helperRunCount(u"fix-dns"_s), 1);
+        QVERIFY(!second.isReady() && !third.isReady());
+        bench.resolvers.answer = throughTor;
+        bench.processes.hold = nullptr;
+        bench.processes.release();
+        QVERIFY(Workbench::finished(first) && Workbench::finished(second) && Workbench::finished(third));
+        QVERIFY(!c.dnsStatus().isLeak()); // the check that follows was awaited by all
+        QCOMPARE(bench.helperRunCount(u"fix-dns"_s), 1);
+        QVERIFY(Workbench::finished(c.fixDNS())); // and a later one runs again
+        QCOMPARE(bench.helperRunCount(u"fix-dns"_s), 2);
+    }
+
+    void aFixOfANewSessionDoesNotWaitForAnOldOne()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        bench.hold(u"fix-dns"_s);
+        const auto old = c.fixDNS();
+        const auto shared = c.fixDNS();
+        QVERIFY(until([&] { return bench.processes.held() == 1; }));
+        bench.disconnect();
+        bench.processes.hold = nullptr;
+        QVERIFY(bench.connect());
+        QVERIFY(Workbench::finished(c.fixDNS()));
+        QCOMPARE(bench.helperRunCount(u"fix-dns"_s), 2);
+        bench.processes.release();
+        QVERIFY(Workbench::finished(old) && Workbench::finished(shared));
+    }
+
+    void aSharedFixEndsWithTheController()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        bench.hold(u"fix-dns"_s);
+        const auto first = bench.controller().fixDNS();
+        const auto second = bench.controller().fixDNS();
+        QVERIFY(until([&] { return bench.processes.held() == 1; }));
+        bench.end();
+        QVERIFY(Workbench::finished(second));
+        bench.processes.hold = nullptr;
+        bench.processes.release();
+        QVERIFY(Workbench::finished(first));
+    }
+
     void aFixThatEndsAfterTheSessionSaysNothing()
     {
         Workbench bench;

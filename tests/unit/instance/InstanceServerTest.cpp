@@ -7,6 +7,7 @@
 #include <QJsonDocument>
 #include <QLocalSocket>
 #include <QSignalSpy>
+#include <QDir>
 #include <QTest>
 
 #include <sys/stat.h>
@@ -19,7 +20,7 @@ using Phase = ConnectionPhase;
 
 namespace {
 
-using Answer = Result<void, QString>;
+using Answer = Result<void, InstanceError>;
 
 // One command given by a client, and what came of it.
 struct Conversation {
@@ -41,7 +42,7 @@ struct Conversation {
         return until([this] { return answer.has_value(); });
     }
     bool succeeds() const { return ends() && answer->has_value(); }
-    QString error() const { return ends() && !*answer ? answer->error() : QString(); }
+    QString error() const { return ends() && !*answer ? answer->error().description() : QString(); }
     QString lastPhase() const
     {
         return states.empty() ? QString() : states.back().value(u"phase"_s).toString();
@@ -210,6 +211,17 @@ private Q_SLOTS:
         QCOMPARE(dismissed.error(), u"Cancelled."_s);
     }
 
+    void saysWhatKeptTorFromConnecting()
+    {
+        Instance instance;
+        instance.bench.setBootstrap("PROGRESS=1 WARNING=\"Connection refused\"");
+        Conversation failing(instance.bench, "connect");
+        QVERIFY(until([&] { return instance.bench.controller().bootstrapProblem() && instance.bench.clock.sleepers() == 1; }));
+        instance.bench.clock.advance(std::chrono::minutes(5));
+        QCOMPARE(failing.error(), u"Tor didn't finish connecting within 5 minutes. Your network is still pointed at Tor. "
+                                  "Click Restore Network to undo. Tor reports: Connection refused."_s);
+    }
+
     void saysWhyTheNetworkWasNotRestored()
     {
         Instance instance;
@@ -308,6 +320,51 @@ private Q_SLOTS:
         QCOMPARE(instance.bench.controller().exitCountry(), u"de"_s);
     }
 
+    void tellsARefusedSettingFromOneThatWasNotSaved()
+    {
+        Instance instance;
+        Conversation refused(instance.bench, QJsonObject{{u"command"_s, u"set"_s}, {u"key"_s, u"exitCountry"_s},
+                                                         {u"value"_s, u"DE"_s}});
+        QVERIFY(refused.error().contains(u"no exit country"_s));
+        QVERIFY(refused.answer->error().isUsage());
+        QVERIFY(QDir().mkpath(instance.bench.profile.settingsFile)); // a folder where the file should be
+        Conversation unsaved(instance.bench, QJsonObject{{u"command"_s, u"set"_s}, {u"key"_s, u"exitCountry"_s},
+                                                         {u"value"_s, u"de"_s}});
+        QVERIFY(!unsaved.error().isEmpty());
+        QVERIFY(!unsaved.answer->error().isUsage());
+        QCOMPARE(instance.bench.controller().exitCountry(), u"de"_s);
+    }
+
+    void opensAnApplicationWithoutTor()
+    {
+        Instance instance;
+        const QJsonObject launch{{u"command"_s, u"launch"_s}, {u"app"_s, u"/usr/share/applications/a.desktop"_s}};
+        QCOMPARE(Conversation(instance.bench, launch).error(), u"Not connected."_s);
+        QVERIFY(instance.bench.connect());
+        QVERIFY(Conversation(instance.bench, launch).succeeds());
+        QCOMPARE(instance.bench.lastHelperRun(u"launch"_s).last(), u"/usr/share/applications/a.desktop"_s);
+        for (const QJsonValue &app : {QJsonValue(u"a.desktop"_s), QJsonValue(), QJsonValue(7)}) {
+            const QJsonObject relative{{u"command"_s, u"launch"_s}, {u"app"_s, app}};
+            QCOMPARE(Conversation(instance.bench, relative).error(), u"\"launch\" needs an \"app\", an absolute path."_s);
+        }
+        instance.bench.applications.names = {{u"/usr/share/applications/a.desktop"_s, u"Ay"_s}};
+        instance.bench.failHelper(u"launch"_s, u"No."_s);
+        QCOMPARE(Conversation(instance.bench, launch).error(), u"Couldn't open Ay without Tor: No."_s);
+        instance.bench.cancelPrompt(u"launch"_s);
+        QCOMPARE(Conversation(instance.bench, launch).error(), u"Cancelled."_s);
+        QCOMPARE(instance.bench.helperRunCount(u"launch"_s), 3);
+    }
+
+    void opensNoApplicationInProxyMode()
+    {
+        Instance instance;
+        instance.bench.controller().strictMode.set(false);
+        QVERIFY(instance.bench.connect());
+        const QJsonObject launch{{u"command"_s, u"launch"_s}, {u"app"_s, u"/usr/share/applications/a.desktop"_s}};
+        QCOMPARE(Conversation(instance.bench, launch).error(), u"Connect in strict mode to open apps without Tor"_s);
+        QCOMPARE(instance.bench.helperRunCount(u"launch"_s), 0);
+    }
+
     void badRequests_data()
     {
         QTest::addColumn<QByteArray>("bytes");
@@ -321,7 +378,7 @@ private Q_SLOTS:
         QTest::newRow("HTTP") << QByteArray("POST / HTTP/1.1\r\nHost: x\r\n\r\n{\"command\":\"connect\"}\n") << noObject;
         QTest::newRow("no command") << QByteArray("{}\n") << u"Unknown command \"\"."_s;
         QTest::newRow("no text as command") << QByteArray("{\"command\":[\"connect\"]}\n") << u"Unknown command \"\"."_s;
-        QTest::newRow("other command") << QByteArray("{\"command\":\"launch\"}\n") << u"Unknown command \"launch\"."_s;
+        QTest::newRow("other command") << QByteArray("{\"command\":\"fly\"}\n") << u"Unknown command \"fly\"."_s;
         QTest::newRow("capitals") << QByteArray("{\"command\":\"Connect\"}\n") << u"Unknown command \"Connect\"."_s;
         QTest::newRow("lines") << QByteArray("{\"command\":\"a\\nb\\r\\u0000c\"}\n") << QString();
         QTest::newRow("long") << "{\"command\":\"" + QByteArray(10000, 'x') + "\"}\n"

@@ -1,78 +1,93 @@
-#include "platform/RunningApplications.h"
+#include "platform/InstalledApplications.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QHash>
+#include <QFileInfo>
+#include <QStringList>
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace veldmark;
 
 namespace {
 
-QString folder() // of the entries
+QTemporaryDir *folder = nullptr; // outlives every look: the desktop's folders are read from the environment once
+
+QString write(const QString &name, const QByteArray &content)
 {
-    return QFile::decodeName(qgetenv("XDG_DATA_HOME")) + QStringLiteral("/applications");
+    const QString path = folder->filePath(name);
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(name));
+    return path;
 }
 
-void writeEntry(const QString &name, const QByteArray &lines)
+QByteArray entry(const QByteArray &name, const QByteArray &more = {})
 {
-    QFile file(folder() + u'/' + name);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("[Desktop Entry]\nType=Application\n" + lines);
+    return "[Desktop Entry]\nType=Application\nName=" + name + "\nExec=/bin/true\n" + more;
 }
 
 } // namespace
 
 class InstalledApplicationsTest : public QObject {
     Q_OBJECT
-
-    QHash<QString, InstalledApplication> found; // by file name
+public:
+    static void initMain()
+    {
+        folder = new QTemporaryDir;
+        qputenv("XDG_DATA_HOME", QFile::encodeName(folder->filePath(u"home"_s)));
+        qputenv("XDG_DATA_DIRS",
+                QFile::encodeName(folder->filePath(u"local"_s)) + ':' + QFile::encodeName(folder->filePath(u"system"_s)));
+        qputenv("XDG_CURRENT_DESKTOP", "Sample");
+        qputenv("LANGUAGE", "de");
+        write(u"system/applications/zebra.desktop"_s, entry("zebra"));
+        write(u"system/applications/alpha.desktop"_s, entry("Calculator", "Name[de]=Alpha\nIcon=calc\n"));
+        write(u"system/applications/sub/Beta.desktop"_s, entry("beta", "Icon=/opt/beta.png\nTerminal=true\n"));
+        write(u"system/applications/shadowed.desktop"_s, entry("The system's"));
+        write(u"local/applications/shadowed.desktop"_s, entry("The administrator's"));
+        write(u"home/applications/shadowed.desktop"_s, entry("The user's"));
+        write(u"system/applications/taken-away.desktop"_s, entry("Taken away"));
+        write(u"home/applications/taken-away.desktop"_s, entry("Taken away", "Hidden=true\n"));
+        write(u"system/applications/invisible.desktop"_s, entry("Invisible", "NoDisplay=true\n"));
+        write(u"system/applications/elsewhere.desktop"_s, entry("Elsewhere", "OnlyShowIn=Other;\n"));
+        write(u"system/applications/here.desktop"_s, entry("Here", "OnlyShowIn=Other;Sample;\n"));
+        write(u"system/applications/not-here.desktop"_s, entry("Not here", "NotShowIn=Sample;\n"));
+        write(u"system/applications/gone.desktop"_s, entry("Gone", "TryExec=/nowhere/program\n"));
+        write(u"system/applications/no-program.desktop"_s,
+              "[Desktop Entry]\nType=Application\nName=No program\nExec=/nowhere/program\n");
+        write(u"system/applications/link.desktop"_s, "[Desktop Entry]\nType=Link\nName=Link\nURL=https://example.org\n");
+        write(u"system/applications/broken.desktop"_s, "\xff\xfe[Desktop");
+        write(u"system/applications/notes.txt"_s, entry("No entry"));
+    }
 
 private Q_SLOTS:
-    void initTestCase()
+    void listsWhatAMenuWouldShowSortedByName()
     {
-        QVERIFY(QDir().mkpath(folder()));
-        writeEntry(QStringLiteral("game.desktop"), "Name=A Game\nExec=/bin/true\nIcon=game-icon\n");
-        writeEntry(QStringLiteral("picture.desktop"), "Name=Pictures\nExec=/bin/true %F\nIcon=/opt/pictures/logo.png\n");
-        writeEntry(QStringLiteral("plain.desktop"), "Name=Plain\nExec=/bin/true\n");
-        writeEntry(QStringLiteral("hidden.desktop"), "Name=Hidden\nExec=/bin/true\nNoDisplay=true\n");
-        writeEntry(QStringLiteral("gone.desktop"), "Name=Gone\nExec=/no/such/program\nTryExec=/no/such/program\n");
-        writeEntry(QStringLiteral("broken.desktop"), "Name\n");
-        const auto applications = runningApplications();
-        for (const InstalledApplication &application : applications->installed())
-            found.insert(application.path.section(u'/', -1), application);
+        QStringList names;
+        QStringList paths;
+        for (const InstalledApplication &application : installedApplications()) {
+            names << application.name;
+            paths << QDir(folder->path()).relativeFilePath(application.path);
+        }
+        QCOMPARE(names, QStringList({u"Alpha"_s, u"beta"_s, u"Here"_s, u"The user's"_s, u"zebra"_s}));
+        QCOMPARE(paths, QStringList({u"system/applications/alpha.desktop"_s, u"system/applications/sub/Beta.desktop"_s,
+                                     u"system/applications/here.desktop"_s, u"home/applications/shadowed.desktop"_s,
+                                     u"system/applications/zebra.desktop"_s}));
     }
 
-    void areThoseThatAMenuWouldShow()
+    void knowsTheirIcons()
     {
-        QStringList names = found.keys();
-        names.sort();
-        QCOMPARE(names, QStringList({QStringLiteral("game.desktop"), QStringLiteral("picture.desktop"),
-                                     QStringLiteral("plain.desktop")}));
+        const auto applications = installedApplications();
+        QVERIFY(applications.size() == 5);
+        QCOMPARE(applications[0].icon, u"calc"_s);
+        QCOMPARE(applications[1].icon, u"/opt/beta.png"_s);
+        QCOMPARE(applications[2].icon, QString());
     }
 
-    void haveNamePathAndIcon()
-    {
-        const InstalledApplication game = found.value(QStringLiteral("game.desktop"));
-        QCOMPARE(game.name, QStringLiteral("A Game"));
-        QCOMPARE(game.path, folder() + QStringLiteral("/game.desktop"));
-        QCOMPARE(game.icon, QStringLiteral("game-icon"));
-        QCOMPARE(found.value(QStringLiteral("picture.desktop")).icon, QStringLiteral("/opt/pictures/logo.png"));
-        QVERIFY(found.value(QStringLiteral("plain.desktop")).icon.isEmpty());
-    }
+    static void cleanupTestCase() { delete folder; }
 };
 
-// GIO reads where the entries are when it is first used.
-int main(int argc, char **argv)
-{
-    const QTemporaryDir data;
-    qputenv("XDG_DATA_HOME", QFile::encodeName(data.path()));
-    qputenv("XDG_DATA_DIRS", QFile::encodeName(data.path() + QStringLiteral("/none")));
-    qputenv("LC_ALL", "C");
-    QCoreApplication application(argc, argv);
-    InstalledApplicationsTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_GUILESS_MAIN(InstalledApplicationsTest)
 #include "InstalledApplicationsTest.moc"

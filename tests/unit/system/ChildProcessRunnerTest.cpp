@@ -38,6 +38,16 @@ QString startErrorOf(const QString &executable, QStringList arguments = {})
     return result ? QStringLiteral("(started)") : result.error().description();
 }
 
+// Ended; perhaps nobody has waited for it yet.
+bool isGone(int process)
+{
+    QFile stat(QStringLiteral("/proc/%1/stat").arg(process));
+    if (!stat.open(QIODevice::ReadOnly))
+        return true;
+    const QByteArray line = stat.readAll();
+    return line.mid(line.lastIndexOf(')') + 2, 1) == "Z";
+}
+
 void touch(const QString &path)
 {
     QFile file(path);
@@ -180,6 +190,64 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(folder.filePath(QStringLiteral("finished"))));
         touch(folder.filePath(QStringLiteral("go")));
         QTRY_VERIFY(QFile::exists(folder.filePath(QStringLiteral("finished"))));
+    }
+
+    void aStopKillsTheProgramAndWhatItHasStarted()
+    {
+        QTemporaryDir folder;
+        ChildProcessRunner runner;
+        std::stop_source stop;
+        auto task = runner.runUntil(QStringLiteral("/bin/sh"),
+                                    {QStringLiteral("-c"), QStringLiteral("cd \"$1\"; sleep 600 & echo $! >new; mv new child; wait"),
+                                     QStringLiteral("sh"), folder.path()}, stop.get_token());
+        const QString file = folder.filePath(QStringLiteral("child"));
+        QTRY_VERIFY(QFile::exists(file));
+        QFile content(file);
+        QVERIFY(content.open(QIODevice::ReadOnly));
+        const int child = content.readAll().trimmed().toInt();
+        QVERIFY(child > 1 && ::kill(child, 0) == 0);
+        QVERIFY(!task.isReady());
+        stop.request_stop();
+        QTRY_VERIFY(task.isReady());
+        QCOMPARE(QCoro::waitFor(std::move(task))->status, SIGKILL);
+        QTRY_VERIFY(isGone(child));
+    }
+
+    void aStopBeforeTheStartKillsAtOnce()
+    {
+        ChildProcessRunner runner;
+        std::stop_source stop;
+        stop.request_stop();
+        auto task = runner.runUntil(QStringLiteral("/bin/sleep"), {QStringLiteral("600")}, stop.get_token());
+        QTRY_VERIFY(task.isReady());
+        QCOMPARE(QCoro::waitFor(std::move(task))->status, SIGKILL);
+    }
+
+    void aStopAfterTheEndDoesNothing()
+    {
+        ChildProcessRunner runner;
+        std::stop_source stop;
+        auto task = runner.runUntil(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), QStringLiteral("echo out; exit 3")},
+                                    stop.get_token());
+        QTRY_VERIFY(task.isReady());
+        stop.request_stop();
+        const auto result = QCoro::waitFor(std::move(task));
+        QCOMPARE(result->status, 3);
+        QCOMPARE(result->stdout, QStringLiteral("out\n"));
+    }
+
+    void whatMayBeStoppedHasNoTerminalAndIsOtherwiseTheSame()
+    {
+        ChildProcessRunner runner;
+        const std::stop_source stop;
+        auto task = runner.runUntil(QStringLiteral("/nowhere/program"), {}, stop.get_token());
+        QTRY_VERIFY(task.isReady());
+        QCOMPARE(QCoro::waitFor(std::move(task)).error().description(), QStringLiteral("No such file or directory"));
+        auto session = runner.runUntil(QStringLiteral("/bin/sh"),
+                                       {QStringLiteral("-c"), QStringLiteral("ps -o sid= -p $$; echo $$")}, stop.get_token());
+        QTRY_VERIFY(session.isReady());
+        const QStringList lines = QCoro::waitFor(std::move(session))->stdout.simplified().split(u' ');
+        QCOMPARE(lines.value(0), lines.value(1)); // it leads a session of its own
     }
 
     void aCallerThatNoLongerWaitsHurtsNothing()

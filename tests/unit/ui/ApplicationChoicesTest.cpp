@@ -59,13 +59,13 @@ private Q_SLOTS:
         choices.setSearch(QStringLiteral("letters"));
         const QModelIndex row = choices.index(0);
         QCOMPARE(choices.data(row, ApplicationChoices::ChosenRole).toBool(), false);
-        choices.setChosen(0, true);
+        choices.toggle(0);
         QCOMPARE(session.now().choices.bypassApps, QStringList(QStringLiteral("/usr/share/applications/letters.desktop")));
         QCOMPARE(choices.data(row, ApplicationChoices::ChosenRole).toBool(), true);
-        choices.setChosen(0, false);
+        choices.toggle(0);
         QVERIFY(session.now().choices.bypassApps.isEmpty());
-        choices.setChosen(7, true);
-        choices.setChosen(-1, true);
+        choices.toggle(7);
+        choices.toggle(-1);
         QVERIFY(session.now().choices.bypassApps.isEmpty());
     }
 

@@ -35,6 +35,26 @@ class PanelModelTest : public QObject {
     PlatformProfile profile = PlatformProfile::linux(Places::below(QStringLiteral("/nowhere")));
 
 private Q_SLOTS:
+    void saysWhatKeepsTorFromConnecting()
+    {
+        StandInSession session(profile);
+        PanelModel panel(session);
+        Snapshot s = idle();
+        s.phase = Phase::connecting;
+        s.bootstrapProblem = QStringLiteral("The bridge program lyrebird keeps ending.");
+        session.show(s);
+        QCOMPARE(panel.waitingFor(), *s.bootstrapProblem); // at once, and the summary stays
+        QCOMPARE(panel.detail(), s.statusDetail);
+        s.phase = Phase::stale;
+        s.errorMessage = QStringLiteral("Tor didn't finish connecting.");
+        session.show(s);
+        QCOMPARE(panel.waitingFor(), QString());
+        QCOMPARE(panel.error(), *s.errorMessage + u' ' + *s.bootstrapProblem);
+        s.phase = Phase::disconnected;
+        session.show(s);
+        QCOMPARE(panel.error(), *s.errorMessage);
+    }
+
     void showsEachState_data()
     {
         QTest::addColumn<Snapshot>("snapshot");

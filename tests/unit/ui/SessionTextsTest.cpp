@@ -14,7 +14,7 @@ public:
     QString translate(const char *, const char *source, const char *, int) const override
     {
         static const QStringList known{
-            QStringLiteral("Starting Tor…"), QStringLiteral("Testing %1 bridges…"), QStringLiteral("+%1 more"),
+            QStringLiteral("Starting Tor…"), QStringLiteral("Testing %1 bridges…"), QStringLiteral("Testing speed (%1 of %2)…"),
             QStringLiteral("Couldn't open %1 without Tor: %2"),
             QStringLiteral("Tor didn't finish connecting within 5 minutes."),
             QStringLiteral("%1 Your network is still pointed at Tor. Click Restore Network to undo.")};
@@ -39,7 +39,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("shown");
         QTest::newRow("a sentence") << QStringLiteral("Starting Tor…") << QStringLiteral("[Starting Tor…]");
         QTest::newRow("a number") << QStringLiteral("Testing 7 bridges…") << QStringLiteral("[Testing 7 bridges…]");
-        QTest::newRow("a count") << QStringLiteral("+2 more") << QStringLiteral("[+2 more]");
+        QTest::newRow("two numbers") << QStringLiteral("Testing speed (2 of 3)…") << QStringLiteral("[Testing speed (2 of 3)…]");
         QTest::newRow("somebody else's words") << QStringLiteral("Guard is down") << QStringLiteral("Guard is down");
         QTest::newRow("nothing") << QString() << QString();
         QTest::newRow("places within what is filled in")

@@ -7,10 +7,10 @@ T.CheckDelegate {
     id: row
     required property int index
     required property string name
-    required property url icon
+    required property string picture // a URL; empty where it has none
     required property bool chosen
     property bool focused: false
-    signal wanted(bool on)
+    signal wanted()
 
     height: Math.max(44, label.implicitHeight + 16)
     text: name
@@ -22,7 +22,7 @@ T.CheckDelegate {
     Accessible.name: name
     Accessible.checkable: true
     Accessible.checked: chosen
-    onClicked: row.wanted(!row.chosen)
+    onClicked: row.wanted()
 
     contentItem: Item {
         Image {
@@ -30,14 +30,14 @@ T.CheckDelegate {
             anchors.verticalCenter: parent.verticalCenter
             width: 28
             height: 28
-            visible: row.icon.toString() !== ""
-            source: row.icon
-            sourceSize: Qt.size(28, 28)
+            visible: row.picture !== ""
+            source: row.picture
+            sourceSize { width: 28; height: 28 }
         }
         Symbol {
             x: 8
             anchors.verticalCenter: parent.verticalCenter
-            visible: row.icon.toString() === ""
+            visible: row.picture === ""
             name: "square.grid.2x2"
             size: 28
             color: Theme.quiet

@@ -57,10 +57,10 @@ Window {
                 delegate: ChooserRow {
                     width: ListView.view.width
                     focused: list.activeFocus && ListView.isCurrentItem
-                    onWanted: on => window.model.setChosen(index, on)
+                    onWanted: window.model.toggle(index)
                 }
-                Keys.onSpacePressed: if (currentItem) currentItem.clicked()
-                Keys.onReturnPressed: if (currentItem) currentItem.clicked()
+                Keys.onSpacePressed: window.model.toggle(currentIndex)
+                Keys.onReturnPressed: window.model.toggle(currentIndex)
             }
             Words {
                 anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter }

@@ -54,6 +54,8 @@ Rectangle {
                 hoverEnabled: true
                 focusPolicy: Qt.StrongFocus
                 Accessible.name: title
+                Accessible.selectable: true
+                Accessible.selected: isFollowed
                 Accessible.description: detail
                 onClicked: sidebar.model.follow(isFollowed ? "" : circuitId)
                 contentItem: Item {

@@ -13,6 +13,7 @@ T.ComboBox {
     leftPadding: 12
     rightPadding: 32
     Accessible.name: name
+    Accessible.description: displayText // what is chosen; the control itself does not tell
 
     contentItem: Text {
         id: label

@@ -25,7 +25,11 @@ ListView {
     Accessible.name: qsTr("Tor Log")
 
     // Rows are wrapped, so that their heights change with the width and are known only once they are made.
-    onCountChanged: stay()
+    onCountChanged: {
+        if (follow)
+            positionViewAtEnd()
+        stay()
+    }
     onFollowChanged: stay()
     onHeightChanged: stay()
     onWidthChanged: stay()

@@ -91,6 +91,10 @@ Window {
                 visible: window.model.hasRows
                 log: window.model
             }
+            FocusRing {
+                anchors.margins: 1
+                shown: lines.activeFocus && lines.head < 0 // then no line shows where the keyboard is
+            }
             EmptyState {
                 anchors.centerIn: parent
                 width: parent.width - 48

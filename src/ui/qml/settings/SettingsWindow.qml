@@ -49,16 +49,18 @@ Window {
                 Accessible.name: qsTr("Settings")
                 Repeater {
                     model: window.panes
-                    T.Button {
+                    T.TabButton {
                         id: tab
                         required property int index
                         required property var modelData
                         width: parent.width
                         height: Math.max(36, label.implicitHeight + 14)
                         text: modelData.title
+                        checkable: false // it follows the pane
                         checked: window.pane === index
                         hoverEnabled: true
-                        Accessible.role: Accessible.PageTab
+                        Accessible.selectable: true
+                        Accessible.selected: checked
                         Accessible.name: text
                         onClicked: window.pane = index
                         Keys.onUpPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)

@@ -1,0 +1,117 @@
+#include "bridges/BundleTools.h"
+
+#include "base/Clock.h"
+#include "bridges/ReleaseIndex.h"
+#include "system/ProcessRunner.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace veldmark {
+
+namespace {
+
+using Done = Result<void, DownloadError>;
+
+const QString cancelledText = QStringLiteral("Cancelled.");
+
+// Touches nothing but the source afterwards, so the task may be dropped.
+QCoro::Task<void> stopAfter(Clock *clock, std::chrono::milliseconds limit, std::stop_source source)
+{
+    co_await clock->sleep(limit);
+    source.request_stop();
+}
+
+} // namespace
+
+BundleTools::BundleTools(QString tar, QString gpg, ProcessRunner *runner, Clock &clock)
+    : m_runner(runner), m_clock(clock), m_tar(std::move(tar)), m_gpg(std::move(gpg))
+{
+}
+
+void BundleTools::cancel()
+{
+    m_isCancelled = true;
+    m_current.request_stop();
+}
+
+QCoro::Task<BundleTools::Run> BundleTools::run(std::shared_ptr<BundleTools> tools, QString program,
+                                               QStringList arguments, std::chrono::milliseconds limit,
+                                               std::stop_source current)
+{
+    if (!tools->m_runner)
+        co_return Failure(cancelledText);
+    stopAfter(&tools->m_clock, limit, current);
+    auto running = tools->m_runner->runUntil(program, arguments, current.get_token());
+    const auto ended = co_await running;
+    if (current.stop_requested())
+        co_return Failure(QStringLiteral("%1 didn't end within %2 minutes.")
+                              .arg(QFileInfo(program).fileName())
+                              .arg(std::chrono::duration_cast<std::chrono::minutes>(limit).count()));
+    if (!ended)
+        co_return Failure(ended.error().description());
+    co_return *ended;
+}
+
+QCoro::Task<Done> BundleTools::verify(std::shared_ptr<BundleTools> tools, QString home, QString key, QString signature,
+                                      QString archive, QString fingerprint)
+{
+    if (tools->m_isCancelled)
+        co_return Failure(DownloadError::other(cancelledText));
+    const QStringList import = {QStringLiteral("--homedir"), home, QStringLiteral("--batch"),
+                                QStringLiteral("--quiet"), QStringLiteral("--import"), key};
+    tools->m_current = std::stop_source();
+    auto importing = run(tools, tools->m_gpg, import, gnupgLimit, tools->m_current);
+    const Run imported = co_await importing;
+    if (tools->m_isCancelled)
+        co_return Failure(DownloadError::other(cancelledText));
+    if (!imported || imported->status != 0)
+        co_return Failure(DownloadError::badSignature(QStringLiteral("Couldn't load the Tor Browser signing key. ")
+                                                      + (imported ? imported->stderr : imported.error())));
+
+    const QStringList check = {QStringLiteral("--homedir"), home, QStringLiteral("--batch"),
+                               QStringLiteral("--status-fd"), QStringLiteral("1"), QStringLiteral("--verify"),
+                               signature, archive};
+    tools->m_current = std::stop_source();
+    auto checking = run(tools, tools->m_gpg, check, gnupgLimit, tools->m_current);
+    const Run checked = co_await checking;
+    if (tools->m_isCancelled)
+        co_return Failure(DownloadError::other(cancelledText));
+    if (!checked || !isSignedBy(checked->stdout, fingerprint)) {
+        QFile::remove(archive);
+        co_return Failure(DownloadError::badSignature(checked ? checked->stderr : checked.error()));
+    }
+    co_return {};
+}
+
+QCoro::Task<Done> BundleTools::unpack(std::shared_ptr<BundleTools> tools, QString archive, QString folder)
+{
+    if (tools->m_isCancelled)
+        co_return Failure(DownloadError::other(cancelledText));
+    // A process that is root must not take the archive's owners over: they are somebody else's here.
+    const QStringList extract = {QStringLiteral("-xzf"), archive, QStringLiteral("-C"), folder,
+                                 QStringLiteral("--no-same-owner"), QStringLiteral("--no-same-permissions")};
+    tools->m_current = std::stop_source();
+    auto extracting = run(tools, tools->m_tar, extract, unpackLimit, tools->m_current);
+    const Run extracted = co_await extracting;
+    if (tools->m_isCancelled)
+        co_return Failure(DownloadError::other(cancelledText));
+    if (!extracted || extracted->status != 0)
+        co_return Failure(DownloadError::extractFailed(extracted ? extracted->stderr : extracted.error()));
+    co_return {};
+}
+
+QCoro::Task<void> BundleTools::endAgent(std::shared_ptr<BundleTools> tools, QString home)
+{
+    if (tools->m_gpg.isEmpty() || !tools->m_runner || !QFileInfo::exists(home))
+        co_return;
+    const QString gpgconf = QFileInfo(tools->m_gpg).absolutePath() + QStringLiteral("/gpgconf");
+    const QStringList kill = {QStringLiteral("--homedir"), home, QStringLiteral("--kill"), QStringLiteral("all")};
+    const std::stop_source uncancelled;
+    auto killing = run(tools, gpgconf, kill, gnupgLimit, uncancelled);
+    const Run killed = co_await killing;
+    if (!killed)
+        qWarning("gpgconf: %s", qUtf8Printable(killed.error()));
+}
+
+} // namespace veldmark

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "base/Result.h"
+#include "cli/Arguments.h"
+#include "platform/InstalledApplications.h"
+
+#include <QJsonArray>
+#include <QStringList>
+
+#include <qcorotask.h>
+
+#include <functional>
+
+namespace veldmark {
+
+struct PlatformProfile;
+
+// `veldmarkctl apps`: the installed applications, and which of them the user has chosen to open
+// without Tor. Needs no running instance: the choice is in the settings.
+QCoro::Task<ExitStatus> showApplications(Invocation invocation, PlatformProfile profile);
+
+// The absolute path that the user means: of an application by its name (letter case aside) or its
+// desktop entry's file name, with or without ".desktop"; or a path of an existing file. The error is one line.
+Result<QString, QString> applicationPath(const QString &wanted);
+Result<QString, QString> applicationPath(const QString &wanted, const std::vector<InstalledApplication> &installed);
+
+// Every installed application and every chosen one, by name:
+//
+//     [{"path": …, "name": …, "bypassed": chosen, "installed": bool}]
+//
+// `nameOf` names chosen ones that are not installed (or hidden).
+QJsonArray applicationFindings(const std::vector<InstalledApplication> &installed, const QStringList &chosen,
+                               const std::function<QString(const QString &path)> &nameOf);
+
+namespace Report {
+QString applications(const QJsonArray &findings);
+} // namespace Report
+
+} // namespace veldmark

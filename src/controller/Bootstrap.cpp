@@ -1,0 +1,113 @@
+#include "controller/TorController.h"
+
+#include "base/Clock.h"
+#include "bridges/BridgeLines.h"
+#include "control/ControlPort.h"
+#include "log/TorLog.h"
+#include "log/TransportTrouble.h"
+
+#include <QPointer>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+using namespace std::chrono_literals;
+
+namespace veldmark {
+
+namespace {
+
+constexpr auto bootstrapLimit = 300s;
+constexpr auto bootstrapPoll = 1s;
+// A transport program is ready within a second. Tor neither starts without it nor says that it waits.
+constexpr auto transportPatience = 10s;
+
+const QString bootstrapKey = QStringLiteral("status/bootstrap-phase");
+
+// What follows NAME= within a report, without the quotation marks that it may stand in.
+QString field(const QString &report, const char *name)
+{
+    const QRegularExpression pattern(QStringLiteral("(?:^| )%1=(?:\"([^\"]*)\"|([^ \"]+))").arg(QLatin1String(name)));
+    const auto match = pattern.match(report);
+    return match.captured(1) + match.captured(2);
+}
+
+// Tor's warning as a sentence; empty without one, and where Tor itself thinks nothing of it.
+QString warningIn(const QString &report)
+{
+    const QString warning = field(report, "WARNING");
+    if (warning.isEmpty() || field(report, "RECOMMENDATION") == QLatin1String("ignore"))
+        return {};
+    if (field(report, "TAG") == QLatin1String("conn_pt"))
+        return QStringLiteral("Tor can't reach the bridge program: %1.").arg(warning);
+    QStringList details = {field(report, "REASON"), field(report, "HOSTADDR")};
+    details.removeAll(QString());
+    return details.isEmpty() ? QStringLiteral("Tor reports: %1.").arg(warning)
+                             : QStringLiteral("Tor reports: %1 (%2).").arg(warning, details.join(QStringLiteral(", ")));
+}
+
+} // namespace
+
+BootstrapStatus TorController::parseBootstrap(const QString &reply)
+{
+    static const QRegularExpression progressField(QStringLiteral("PROGRESS=(\\d+)"));
+    static const QRegularExpression summaryField(QStringLiteral("SUMMARY=\"([^\"]*)\""));
+    return {progressField.match(reply).captured(1).toInt(), // 0 when absent or out of range
+            summaryField.match(reply).captured(1), warningIn(reply)};
+}
+
+std::optional<QString> TorController::problemBehind(const BootstrapStatus &status,
+                                                    std::chrono::nanoseconds waited) const
+{
+    const bool usesPrograms =
+        std::any_of(m_activeBridgeLines.begin(), m_activeBridgeLines.end(),
+                    [](const QString &line) { return BridgeLines::transport(line).has_value(); });
+    if (usesPrograms && status.progress < 100) {
+        // The log says more than the report, which doesn't know why a program can't be reached.
+        if (const auto trouble = transportTrouble(TorLog(m_services.profile).read().lines()))
+            return trouble;
+    }
+    if (!status.warning.isEmpty())
+        return status.warning;
+    if (usesPrograms && status.progress == 0 && waited >= transportPatience)
+        return QStringLiteral("Tor is waiting for the bridge program, which hasn't said that it is ready.");
+    return std::nullopt;
+}
+
+QCoro::Task<Result<void, QString>> TorController::waitForBootstrap(Attempt attempt)
+{
+    if (!m_controlPassword)
+        co_return Failure(ControlPortError::notConnected().description());
+    const QPointer<TorController> self(this);
+    const QString password = *m_controlPassword;
+    const QStringList keys = {bootstrapKey};
+    Clock &clock = m_services.clock;
+    const auto deadline = clock.now() + bootstrapLimit;
+    std::optional<QString> lastError;
+    std::optional<Clock::TimePoint> firstAnswer;
+    while (clock.now() < deadline) {
+        const auto reply = co_await m_services.controlPort.getInfo(keys, password);
+        if (!self || !isCurrent(attempt))
+            co_return Failure(QString()); // the user disconnected; nobody reads this
+        if (reply) {
+            const BootstrapStatus status = parseBootstrap(reply->value(bootstrapKey));
+            bootstrapProgress = std::min(status.progress, 100) / 100.0;
+            if (!status.summary.isEmpty())
+                statusDetail = status.summary;
+            lastError = std::nullopt;
+            if (!firstAnswer)
+                firstAnswer = clock.now();
+            bootstrapProblem = problemBehind(status, clock.now() - *firstAnswer);
+            if (status.progress >= 100)
+                co_return {};
+        } else {
+            lastError = reply.error().description();
+        }
+        co_await clock.sleep(bootstrapPoll);
+        if (!self || !isCurrent(attempt))
+            co_return Failure(QString());
+    }
+    co_return Failure(TorError::bootstrapTimeout(lastError).description());
+}
+
+} // namespace veldmark

@@ -1,0 +1,128 @@
+#include "log/TransportTrouble.h"
+
+#include <QRegularExpression>
+
+namespace veldmark {
+
+namespace {
+
+constexpr qsizetype quoteLimit = 120;
+// What a program prints may hold any character.
+constexpr auto anyCharacter = QRegularExpression::DotMatchesEverythingOption;
+
+// Somebody else's words within a sentence.
+QString quoted(const QString &words)
+{
+    QString shown = words.trimmed();
+    if (shown.size() > quoteLimit)
+        shown = shown.left(quoteLimit - 1) + u'…';
+    for (QChar &c : shown) {
+        const bool breaksLine = c.category() == QChar::Separator_Line || c.category() == QChar::Separator_Paragraph;
+        if (!c.isPrint() || breaksLine)
+            c = u'?';
+    }
+    return shown;
+}
+
+QString withEnd(const QString &sentence)
+{
+    return sentence.endsWith(u'.') || sentence.endsWith(u'!') ? sentence : sentence + u'.';
+}
+
+// "The bridge program lyrebird"
+QString programAt(const QString &path)
+{
+    return QStringLiteral("The bridge program ") + quoted(path.section(u'/', -1));
+}
+
+// Collects while the lines go by.
+class Finding {
+public:
+    void read(const TorLogLine &line);
+    std::optional<QString> sentence() const;
+
+private:
+    bool readEnd(const QString &message);
+    bool readWords(const TorLogLine &line);
+
+    int m_ends = 0;    // how often a program has ended
+    QString m_program; // that ended last: "The bridge program lyrebird"
+    QString m_status;  // " (exit status 1)", or empty when Tor doesn't tell
+    QString m_words;   // that a program said before
+    QString m_trouble; // what is wrong when none has ended; the first counts, since it caused the rest
+};
+
+// A program that ended. Tor starts it again and again.
+bool Finding::readEnd(const QString &message)
+{
+    static const QRegularExpression ended(
+        QStringLiteral("^Managed proxy \"(.*)\" having PID \\d+ terminated with status code (\\d+)"), anyCharacter);
+    const auto match = ended.match(message);
+    if (!match.hasMatch())
+        return false;
+    if (match.captured(1) == QLatin1String("N/A"))
+        return true; // Tor ended it itself, for the reason in an earlier line
+    ++m_ends;
+    m_program = programAt(match.captured(1));
+    const QString status = match.captured(2);
+    m_status = status.size() <= 3 ? QStringLiteral(" (exit status %1)").arg(status) : QString();
+    return true;
+}
+
+// A program that says something: an error, in the way that Tor understands, or words of its own.
+bool Finding::readWords(const TorLogLine &line)
+{
+    static const QRegularExpression logged(QStringLiteral("^Managed proxy \"(.*?)\": (.+)$"), anyCharacter);
+    static const QRegularExpression unknown(
+        QStringLiteral("^Unknown line received by managed proxy \\((.*)\\)\\.?$"), anyCharacter);
+    if (const auto match = unknown.match(line.message); match.hasMatch()) {
+        m_words = quoted(match.captured(1));
+        if (m_trouble.isEmpty())
+            m_trouble = QStringLiteral("The bridge program printed something that Tor doesn't understand: \"%1\".")
+                            .arg(m_words);
+        return true;
+    }
+    const auto match = logged.match(line.message);
+    if (!match.hasMatch() || !line.isProblem())
+        return false;
+    m_words = quoted(match.captured(2));
+    m_trouble = QStringLiteral("%1 reports: %2").arg(programAt(match.captured(1)), withEnd(m_words));
+    return true;
+}
+
+void Finding::read(const TorLogLine &line)
+{
+    if (line.message.startsWith(QLatin1String("Bootstrapped "))) {
+        *this = {};
+        return;
+    }
+    if (readEnd(line.message) || readWords(line) || !line.isProblem() || !m_trouble.isEmpty())
+        return;
+    static const QRegularExpression died(QStringLiteral("^Managed proxy at '.*' died in state "), anyCharacter);
+    if (died.match(line.message).hasMatch())
+        return; // says less than the line before it
+    if (line.message.contains(QLatin1String("anaged proxy"))
+        || line.message.contains(QLatin1String("no configured transport")))
+        m_trouble = QStringLiteral("Tor has trouble with the bridge program: ") + withEnd(quoted(line.message));
+}
+
+std::optional<QString> Finding::sentence() const
+{
+    if (m_ends == 0)
+        return m_trouble.isEmpty() ? std::nullopt : std::optional(m_trouble);
+    const QString end = m_program
+        + (m_ends == 1 ? QStringLiteral(" ended unexpectedly") : QStringLiteral(" keeps ending")) + m_status + u'.';
+    return m_words.isEmpty() ? end : end + QStringLiteral(" It said: \"%1\".").arg(m_words);
+}
+
+} // namespace
+
+std::optional<QString> transportTrouble(const QList<TorLogLine> &lines)
+{
+    Finding finding;
+    for (const TorLogLine &line : lines)
+        finding.read(line);
+    return finding.sentence();
+}
+
+} // namespace veldmark

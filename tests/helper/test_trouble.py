@@ -1,0 +1,163 @@
+"""The helper on a computer where something is wrong: each run ends well or with one line that says what is wrong, the network is
+whole or closed as the line says, and a disconnect once the trouble is over puts everything back."""
+
+import subprocess
+
+import namespace
+from namespace import HASH, TOR, HelperTest
+from wire import Wire
+
+STATE = "/var/lib/veldmark"
+OTHER_TOR = "/usr/local/bin/other-tor"
+DISK = 256   # kilobytes; our own folder gets a file system of its own
+CLOSED = "The network stays blocked until you disconnect."
+# What a few bytes less than needed are, is for the file system to say: from nothing to enough for a whole connect.
+SPARE = (0, 4, 8, 12, 16, 24, 32, 48)
+NOT_EXECUTABLE = "touch /mnt/empty; mount --bind /mnt/empty {0}"
+
+
+def fill(spare):
+    return (f"dd if=/dev/zero of={STATE}/spare bs=1k count={spare} 2>/dev/null; cat /dev/zero >{STATE}/filler 2>/dev/null; rm -f {STATE}/spare")
+
+
+# name: (how it begins, how it ends, the tor that is asked for)
+TROUBLES = {f"a disk with {spare} kB left": (fill(spare), f"rm {STATE}/filler", TOR) for spare in SPARE} | {
+    "a folder that is read-only": (f"mount --rbind {STATE} {STATE}; mount -o remount,bind,ro {STATE}", f"umount -l {STATE}", TOR),
+    "a state folder that is read-only": (f"mount --bind {STATE}/state {STATE}/state; mount -o remount,bind,ro {STATE}/state",
+                                         f"umount {STATE}/state", TOR),
+    "a journal that is read-only": (f"mount --bind {STATE}/journal {STATE}/journal; mount -o remount,bind,ro {STATE}/journal",
+                                    f"umount {STATE}/journal", TOR),
+    "no nft": (NOT_EXECUTABLE.format("/usr/sbin/nft"), "umount /usr/sbin/nft", TOR),
+    "an nft that fails": ("printf '#!/bin/sh\\necho broken >&2; exit 1\\n' >/mnt/nft; chmod +x /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft",
+                          "umount /usr/sbin/nft", TOR),
+    "an nft that is killed": ("printf '#!/bin/sh\\nkill -9 $$\\n' >/mnt/nft; chmod +x /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft",
+                              "umount /usr/sbin/nft", TOR),
+    "no flock": (NOT_EXECUTABLE.format("/usr/bin/flock"), "umount /usr/bin/flock", TOR),
+    "no mount": (NOT_EXECUTABLE.format("/usr/bin/mount"), "umount /usr/bin/mount", TOR),
+    "no tor": (f"mv {OTHER_TOR} {OTHER_TOR}.away", f"mv {OTHER_TOR}.away {OTHER_TOR}", OTHER_TOR),
+    "a tor that is not executable": (f"chmod -x {OTHER_TOR}", f"chmod +x {OTHER_TOR}", OTHER_TOR),
+    "a tor that is a folder": (f"mv {OTHER_TOR} {OTHER_TOR}.away; mkdir {OTHER_TOR}", f"rmdir {OTHER_TOR}; mv {OTHER_TOR}.away {OTHER_TOR}", OTHER_TOR),
+    "a tor that is no program": (f"mv {OTHER_TOR} {OTHER_TOR}.away; head -c 99 /dev/zero >{OTHER_TOR}; chmod 755 {OTHER_TOR}",
+                                 f"mv -f {OTHER_TOR}.away {OTHER_TOR}", OTHER_TOR),
+    "a tor that dies after its check": (
+        f"mv {OTHER_TOR} {OTHER_TOR}.away; printf '#!/bin/sh\\ncase \"$*\" in *verify*) exit 0 ;; esac\\nexit 7\\n' >{OTHER_TOR}; chmod 755 {OTHER_TOR}",
+        f"mv -f {OTHER_TOR}.away {OTHER_TOR}", OTHER_TOR),
+}
+SOME_ROOM = {f"a disk with {spare} kB left" for spare in SPARE[2:]}
+
+
+class Trouble(HelperTest):
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.machine.tor_uid = cls.machine.shell("id -u _veldmark").strip()
+        cls.wire = Wire(cls.machine)
+        cls.machine.shell(f"mount -t tmpfs -o size={DISK}k,mode=755 disk {STATE}; cp {TOR} {OTHER_TOR}")
+        # Tor's own data needs more room than the trouble is about.
+        cls.machine.connect()
+        cls.machine.help("disconnect")
+        cls.machine.shell(f"rm -rf {STATE}/run/data; mkdir /run/data; chown _veldmark: /run/data; chmod 700 /run/data; mkdir -m 700 {STATE}/run/data;"
+                          f"mount --bind /run/data {STATE}/run/data")
+        cls.before = cls.machine.snapshot()
+        cls.cells = 0
+
+    @classmethod
+    def tearDownClass(cls):
+        print(f"{cls.cells} runs in trouble", flush=True)
+        cls.wire.close()
+        super().tearDownClass()
+
+    def words(self, verb, tor):
+        return {"connect": ["connect", "--tor", tor, "--hash", HASH, "--strict", "1", "--lan", "0"],
+                "connect in proxy mode": ["connect", "--tor", tor, "--hash", HASH, "--strict", "0", "--lan", "0"],
+                "fix-dns": ["fix-dns"], "disconnect": ["disconnect"]}[verb]
+
+    def drops(self):
+        """Asked of the packets, since nft itself may be what is wrong."""
+        seen = self.wire.arrivals()
+        self.assertIn(seen & {"tcp", "udp"}, (set(), {"tcp", "udp"}))
+        return "tcp" not in seen
+
+    def in_trouble(self, name, verb, session):
+        begin, end, tor = TROUBLES[name]
+        if session is not None:
+            self.machine.connect(strict=session)
+        self.machine.shell(begin)
+        try:
+            done = self.machine.help(*self.words(verb, tor), check=False)
+            closed = self.drops()
+        finally:
+            self.machine.shell(end)
+        type(self).cells += 1
+        if done.returncode:
+            self.assertOneLine(done)
+            self.assertNotIn(": line ", done.stderr)
+            if CLOSED in done.stderr or session is None:   # else the former session goes on
+                self.assertEqual(CLOSED in done.stderr, closed, done.stderr)
+            if session == 1 and verb != "disconnect":
+                self.assertTrue(closed, done.stderr)
+            if session is None and not closed:
+                self.assertEqual(self.machine.snapshot(), self.before, done.stderr)
+        else:
+            self.assertEqual((done.stdout, done.stderr), ("", ""))
+            self.assertEqual(closed, {"connect": True, "connect in proxy mode": False, "disconnect": False}.get(verb, session == 1))
+            if verb == "disconnect":
+                self.assertEqual(self.machine.snapshot(), self.before)
+        again = self.machine.help("disconnect", check=False)
+        self.assertEqual((again.returncode, again.stderr), (0, ""))
+        self.assertEqual(self.machine.snapshot(), self.before)
+        return done
+
+    def all_troubles(self, verb, session):
+        self.assertFalse(self.drops())
+        for name in TROUBLES:
+            # Connecting takes the room bit by bit; the rest either has what it needs or has not.
+            if name in SOME_ROOM and (session is not None or not verb.startswith("connect")):
+                continue
+            with self.subTest(name, verb=verb, session={None: "none", 0: "proxy", 1: "strict"}[session]):
+                done = self.in_trouble(name, verb, session)
+                print(f"{name}, {verb}, session {session}: {done.returncode} {done.stderr.strip()}", flush=True)
+
+    def test_connect(self):
+        self.all_troubles("connect", None)
+
+    def test_connect_in_proxy_mode(self):
+        self.all_troubles("connect in proxy mode", None)
+
+    def test_connect_again(self):
+        self.all_troubles("connect", 1)
+
+    def test_change_to_proxy_mode(self):
+        self.all_troubles("connect in proxy mode", 1)
+
+    def test_fix_dns(self):
+        self.all_troubles("fix-dns", 1)
+
+    def test_disconnect(self):
+        self.all_troubles("disconnect", 1)
+
+    def test_disconnect_from_proxy_mode(self):
+        self.all_troubles("disconnect", 0)
+
+    def test_twenty_at_once(self):
+        """Whatever the order, one line or none, and a network that is whole."""
+        words = [self.words(verb, TOR) for verb in ("connect", "fix-dns", "connect in proxy mode", "disconnect")] * 5
+        runs = [self.machine.start("/bin/bash", self.machine.helper, *line, stderr=subprocess.PIPE, stdin=subprocess.DEVNULL, text=True)
+                for line in words]
+        done = 0
+        for line, run in zip(words, runs):
+            _, message = run.communicate()
+            wanted = {(0, ""), (1, "ERROR: Another run of the helper is still working. Try again in a moment.\n")}
+            if line == ["fix-dns"]:
+                wanted.add((1, "ERROR: Veldmark is not connected, so the DNS settings were left alone.\n"))
+            self.assertIn((run.returncode, message), wanted)
+            done += run.returncode == 0
+        self.assertGreater(done, 0)
+        self.assertLessEqual(len(self.machine.tor_pids()), 1)
+        self.machine.help("disconnect")
+        self.assertFalse(self.drops())
+        self.assertEqual(self.machine.snapshot(), self.before)
+
+
+if __name__ == "__main__":
+    namespace.main()

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+namespace veldmark {
+
+// A message bus of the test's own, on which nothing runs but what the test puts there.
+class SessionBus {
+public:
+    SessionBus()
+    {
+        QFile config(m_folder.filePath(QStringLiteral("bus.conf")));
+        if (config.open(QIODevice::WriteOnly))
+            config.write("<busconfig><type>session</type><listen>unix:dir=" + QFile::encodeName(m_folder.path())
+                         + "</listen><policy context=\"default\"><allow send_destination=\"*\"/>"
+                           "<allow receive_sender=\"*\"/><allow own=\"*\"/></policy></busconfig>");
+        config.close();
+        m_daemon.start(QStringLiteral("dbus-daemon"), {QStringLiteral("--nofork"), QStringLiteral("--print-address"),
+                                                       QStringLiteral("--config-file=") + config.fileName()});
+        while (!m_address.endsWith(u'\n') && m_daemon.waitForReadyRead(30000))
+            m_address += QString::fromUtf8(m_daemon.readAllStandardOutput());
+        m_address = m_address.trimmed();
+    }
+    ~SessionBus()
+    {
+        m_daemon.kill();
+        m_daemon.waitForFinished();
+    }
+    SessionBus(const SessionBus &) = delete;
+    SessionBus &operator=(const SessionBus &) = delete;
+
+    bool isRunning() const { return m_address.startsWith(QLatin1String("unix:")); }
+    // A new connection each time.
+    QDBusConnection connection()
+    {
+        return QDBusConnection::connectToBus(m_address, QStringLiteral("test%1").arg(++m_connections));
+    }
+
+private:
+    QTemporaryDir m_folder;
+    QProcess m_daemon;
+    QString m_address;
+    int m_connections = 0;
+};
+
+} // namespace veldmark

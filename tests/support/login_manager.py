@@ -1,0 +1,52 @@
+"""Stands in for logind on the system bus, as root: prints "ready", "held" for each delay lock that it gives and "released"
+when one is let go. A line on its input begins a shutdown."""
+
+import os
+import sys
+
+import dbus
+import dbus.mainloop.glib
+import dbus.service
+from gi.repository import GLib
+
+NAME = "org.freedesktop.login1"
+
+
+def say(word):
+    print(word, flush=True)
+
+
+class Manager(dbus.service.Object):
+    @dbus.service.method(f"{NAME}.Manager", in_signature="ssss", out_signature="h")
+    def Inhibit(self, what, who, why, mode):
+        read, write = os.pipe()
+        lock = dbus.types.UnixFd(write)  # a copy of its own
+        os.close(write)
+        GLib.io_add_watch(read, GLib.IO_HUP, self.released)
+        say("held" if (what, mode) == ("shutdown", "delay") else f"unexpected {what} {mode}")
+        return lock
+
+    @dbus.service.signal(f"{NAME}.Manager", signature="b")
+    def PrepareForShutdown(self, begins):
+        pass
+
+    def released(self, read, _):
+        os.close(read)
+        say("released")
+        return False
+
+
+def shut_down(stream, _):
+    if not stream.readline():
+        return False
+    manager.PrepareForShutdown(True)
+    return True
+
+
+dbus.mainloop.glib.DBusGMainLoop(set_as_default=True)
+bus = dbus.SystemBus()
+name = dbus.service.BusName(NAME, bus)
+manager = Manager(bus, "/org/freedesktop/login1")
+GLib.io_add_watch(sys.stdin, GLib.IO_IN, shut_down)
+say("ready")
+GLib.MainLoop().run()
