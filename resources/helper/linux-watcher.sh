@@ -102,12 +102,25 @@ kill_stray_watcher() {
   done
 }
 
+# await_standstill PID: for half a second at most, until a process that was told to stop has done so.
+await_standstill() {
+  local poll line
+  for ((poll = 0; poll < 50; poll++)); do
+    { IFS= read -r line <"/proc/$1/stat"; } 2>/dev/null || return 0
+    [[ ${line##*) } != [TZX]* ]] || return 0
+    sleep 0.01
+  done
+}
+
 # undo_watcher: it never waits for us, so it is killed at once. A change of rules that it was in the middle of keeps
 # the rules' lock, so that the firewall opens after that.
 undo_watcher() {
   local pid child
   rm -f -- "$RELOCKED" "$WATCHER"
   pid=$(recorded_pid) || return 0
+  # A child that it is just starting would be missed; what stands still starts none.
+  kill -STOP "$pid" || true
+  await_standstill "$pid"
   read_children "$pid"
   kill -KILL "$pid" || true
   for child in $CHILDREN; do
