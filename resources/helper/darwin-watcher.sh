@@ -86,8 +86,10 @@ print_watch_job() {
 END
 }
 
+# start_watcher: what does not read back as it was loaded is no kill switch, and would be loaded again every second.
 start_watcher() {
   undo_entry "$WATCHER_ENTRY" || true
+  { kill_switch_stands && rules_stand; } || die "The firewall does not hold the rules that were loaded."
   { write_file "$WATCHER" 0600 root "$(print_watcher)"$'\n' && write_file "$WATCH_JOB" 0644 root "$(print_watch_job)"$'\n' &&
     journal_put "$WATCHER_ENTRY" "label $WATCH_LABEL"; } || die "The file $WATCHER cannot be written."
   start_job "$WATCH_LABEL" "$WATCH_JOB" || die "The watcher over the firewall could not be started."

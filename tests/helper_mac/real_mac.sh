@@ -53,7 +53,7 @@ all_switched() {
   done
 }
 
-tor_as_itself() { pgrep -u _veldmark -x tor >/dev/null; }
+tor_as_itself() { pgrep -u "$(dscl . -read /Users/_veldmark UniqueID | awk '{ print $2 }')" -x tor >/dev/null; }
 reaches_out() { curl -s -o /dev/null --noproxy '*' --connect-timeout 5 https://1.1.1.1/; }
 cannot_reach_out() { ! reaches_out; }
 same() { diff "$work/before" "$work/after"; }

@@ -288,11 +288,12 @@ sub read_rules {
 
 sub pfctl {
     my @words = @_;
-    my ($anchor, $file, $only, $show, $flush, $give_back, $enable) = ('', undef, '', '', '', '', '');
+    my ($anchor, $file, $only, $show, $flush, $give_back, $enable, $dry) = ('', undef, '', '', '', '', '', '');
     while (defined(my $word = shift @words)) {
         if ($word eq '-q') { }
         elsif ($word eq '-a') { $anchor = shift @words }
-        elsif ($word eq '-f') { $file = shift @words; refuse(@_) unless $file eq '-' }
+        elsif ($word eq '-n') { $dry = 1 }
+        elsif ($word eq '-f') { $file = shift @words; refuse(@_) unless $file eq '-' || $dry }
         elsif ($word eq '-N' || $word eq '-R') { $only = $word }
         elsif ($word eq '-s') { $show = shift @words }
         elsif ($word eq '-F') { $flush = shift @words }
@@ -302,11 +303,15 @@ sub pfctl {
     }
     print STDERR "No ALTQ support in kernel\nALTQ related functions disabled\n";
     if (defined $file) {
-        my ($filter, $nat) = read_rules(do { local $/; <STDIN> } // '', $anchor);
+        my $text = $file eq '-' ? do { local $/; <STDIN> } : do { local (@ARGV, $/) = $file; <> };
+        my ($filter, $nat) = read_rules($text // '', $anchor);
+        return if $dry;
         $state{"pf $anchor filter"} = $filter unless $only eq '-N';
         $state{"pf $anchor nat"} = $nat unless $only eq '-R';
         delete @state{"pf $anchor filter", "pf $anchor nat"} if $anchor && !length "$filter$nat";
     }
+    # A pf that holds something else than it was told.
+    $state{'pf veldmark filter'} = 'pass out quick all' if $state{'pf lies'} && defined $state{'pf veldmark filter'};
     if ($show eq 'rules') { print map { "$_\n" } split /\n/, $state{"pf $anchor filter"} // '' }
     elsif ($show eq 'nat') { print map { "$_\n" } split /\n/, $state{"pf $anchor nat"} // '' }
     elsif ($show eq 'info') {

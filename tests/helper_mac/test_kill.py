@@ -7,7 +7,7 @@ import mac
 from mac import HASH, TOR, MacTest
 
 STEPPED = os.path.join(mac.HERE, "..", "helper", "stepped.sh")
-TRIALS = int(os.environ.get("VELDMARK_KILL_TRIALS", "10"))   # for each way through the helper
+TRIALS = int(os.environ.get("VELDMARK_KILL_TRIALS", "6"))   # for each way through the helper
 
 
 def connect_words(strict):

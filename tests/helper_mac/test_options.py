@@ -53,6 +53,17 @@ class Options(MacTest):
         self.machine.place(mac.namespace.helper_path("linux"), "/mac/linux-helper.sh")
         self.assertOneLine(self.machine.run("/bin/bash", "/mac/linux-helper.sh", "disconnect", check=False), "another system")
 
+    def test_the_check_for_a_real_mac_passes_here(self):
+        """All but its own look at the network, which is not there."""
+        self.machine.place(os.path.join(mac.HERE, "real_mac.sh"), "/mac/real_mac.sh")
+        self.machine.shell("cp /usr/bin/tor /usr/local/bin/tor; ln -sf /private/etc/hosts /etc/hosts")
+        done = self.machine.run("/bin/bash", "/mac/real_mac.sh", "--change-this-mac", self.machine.helper, check=False, timeout=300)
+        lines = done.stdout.splitlines()
+        failed = [line for line in lines if line.startswith("FAILED")]
+        self.assertEqual(failed, ["FAILED  the network is there", "FAILED  the network is there again"], done.stdout + done.stderr)
+        self.assertGreater(len([line for line in lines if line.startswith("ok ")]), 20)
+        self.machine.shell("rm /usr/local/bin/tor")
+
     def test_a_missing_program_is_named(self):
         self.machine.shell("mv /usr/bin/networksetup /mac/gnu/")
         try:

@@ -41,6 +41,15 @@ class Watcher(MacTest):
                 self.assertEqual([line for line in state["pf  filter"].splitlines() if "scrub" not in line][0], 'anchor "veldmark" all')
                 self.assertIn('rdr-anchor "veldmark" all', state["pf  nat"])
 
+    def test_rules_that_do_not_read_back_are_no_kill_switch(self):
+        self.machine.set_state({"pf lies": "1"})
+        done = self.machine.help("connect", "--tor", mac.TOR, "--hash", mac.HASH, "--strict", "1", "--lan", "0", check=False)
+        self.assertOneLine(done, "does not hold the rules")
+        state = self.machine.state
+        del state["pf lies"]
+        self.machine.state = state
+        self.assertRestored()
+
     def test_it_ends_with_the_session_and_is_not_there_in_proxy_mode(self):
         self.machine.connect(strict=0)
         self.assertNotIn("job veldmark.watch", self.machine.state)

@@ -275,7 +275,7 @@ class Leaks(unittest.TestCase):
 
             def killed():
                 points = stepped_to("")
-                self.assertGreater(len(points), 30)
+                self.assertGreater(len(points), 20)
                 for point in points[::5]:
                     self.assertEqual(stepped_to(point)[-1], point)
 

@@ -164,6 +164,19 @@ class Metadata(InAHome):
         self.assertEqual([release.get("version") for release in tree.parse(METAINFO).iter("release")][0], version)
         self.assertIn(f"veldmark ({version})", (PACKAGING / "debian" / "changelog").read_text().splitlines()[0])
 
+    def test_the_policy_has_an_action_for_each_verb_of_the_helper_and_keeps_no_approval(self):
+        policy = PACKAGING / "org.veldmark.helper.policy"
+        helper = (PROGRAMS / "veldmark-helper.sh").read_text()
+        cases = helper.split("  case $verb in\n")[-1].split("  esac\n")[0]
+        verbs = {verb for line in re.findall(r"(?m)^  ([a-z| -]+)\)", cases) for verb in line.split(" | ")}
+        self.assertLessEqual({"connect", "disconnect", "launch", "install-privileged"}, verbs)
+        actions = {action.get("id"): {note.get("key").rpartition(".")[2]: note.text for note in action.iter("annotate")}
+                   for action in tree.parse(policy).iter("action")}
+        path = "/usr/share/veldmark/veldmark-helper.sh"
+        self.assertEqual(actions, {f"org.veldmark.helper.{verb}": {"path": path, "argv1": verb} for verb in verbs})
+        for kind in ("allow_any", "allow_inactive", "allow_active"):
+            self.assertEqual([e.text for e in tree.parse(policy).iter(kind)], ["auth_admin"] * len(verbs))
+
     def test_the_prompt_for_connecting_is_the_programs_own_text(self):
         profile = (ROOT / "src/platform/LinuxProfile.cpp").read_text()
         text = re.search(r'promptText =\s*QStringLiteral\("([^"]+)"\)', profile).group(1)
