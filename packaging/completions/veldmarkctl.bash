@@ -13,10 +13,16 @@ _veldmarkctl()
         run) choices="--connect" ;;
         status) choices="--json --watch" ;;
         circuits | bridges | apps) choices="--json" ;;
+        launch) # a name, or a path
+            [[ $word == */* ]] || return
+            compopt -o filenames 2>/dev/null
+            mapfile -t COMPREPLY < <(compgen -f -- "$word")
+            return
+            ;;
         log) choices="--follow --problems" ;;
         get)
-            ((COMP_CWORD != 2)) || choices="$settings activeBridge activeMode bootstrapProblem bootstrapProgress bytesRead bytesWritten
-                canCancel circuitError circuits dnsStatus errorMessage exitIP isChecking isOptimizing latencyMs
+            ((COMP_CWORD != 2)) || choices="$settings activeBridge activeMode bootstrapProblem bootstrapProgress bytesRead
+                bytesWritten canCancel circuitError circuits dnsStatus errorMessage exitIP isChecking isOptimizing latencyMs
                 leakStatus optimizeStatus passwordlessInstalled phase startupError statusDetail terminalError title
                 torVerified transportDownload transports"
             ;;
