@@ -44,10 +44,12 @@ QCoro::Task<void> quitLater(Workbench *bench)
     bench->applications.ended = {1, 2};
 }
 
+const QString listening = u"SETEVENTS STREAM"_s;
+
 // Tor tells which names it is asked for, so that the live test of DNS runs to its end.
 void hearLookups(Workbench &bench)
 {
-    bench.tor.reply("SETEVENTS STREAM", "250 OK\r\n");
+    bench.tor.reply(listening.toUtf8(), "250 OK\r\n");
 }
 
 // Everything that an operation may wait for waits here: no answer is there at once.
@@ -190,14 +192,18 @@ std::vector<Operation> operations()
 
 InterruptibleApplication *application = nullptr;
 
-// Lets the operation go on, and time pass for it, until it has ended or was interrupted.
-bool goOn(Workbench &bench, const QCoro::Task<void> &task, const bool &interrupted)
+// Lets the operation go on, and time pass for it, until it has ended or was interrupted. `listened`: how often Tor had been
+// asked to tell its events when it began.
+bool goOn(Workbench &bench, const QCoro::Task<void> &task, const bool &interrupted, qsizetype listened)
 {
     return until([&] {
         if (!interrupted && !task.isReady()) {
             if (bench.processes.held() > 0)
                 bench.processes.release();
             bench.clock.advance(1s);
+            // The control port listens by its own clock; its other waits are for sockets, which need none.
+            if (bench.tor.commands().count(listening) > listened)
+                bench.socketClock.advance(1s);
         }
         return interrupted || task.isReady();
     });
@@ -245,8 +251,9 @@ private Q_SLOTS:
                     bench.settings.reset();
                 }
             });
+            const auto listened = bench.tor.commands().count(listening);
             const auto task = operation.begin(bench);
-            QVERIFY(goOn(bench, task, interrupted));
+            QVERIFY(goOn(bench, task, interrupted, listened));
             application->leaveAlone();
             if (!interrupted) {
                 QVERIFY(operation.succeeded(bench));
