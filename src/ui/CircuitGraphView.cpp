@@ -285,7 +285,7 @@ void CircuitGraphView::drawStrands(QPainter &painter, double scale, bool lit)
     std::optional<StrandPainter> strands(std::in_place, m_canvas, scale);
     for (const Link &link : m_links) {
         const Circuit &circuit = m_circuits[link.circuit];
-        if (circuit.lit != lit)
+        if ((circuit.lit && m_emphasis > 0) != lit)
             continue;
         Strand strand{link.from, link.to, link.bulge, 1.6, circuit.color, 0, m_outline};
         const double visible = opacity(lit, m_followedOut ? fadedStrand : dimmedStrand);
@@ -378,7 +378,7 @@ void CircuitGraphView::paint(QPainter *painter)
         // What stands out lies on top of the rest, and the node under the pointer above all.
         for (const bool lit : {false, true})
             for (size_t i = 0; i < m_places.size(); ++i)
-                if (m_places[i].lit == lit && m_graph.nodes[i].id != m_hovered)
+                if ((m_places[i].lit && m_emphasis > 0) == lit && m_graph.nodes[i].id != m_hovered)
                     drawNode(inner, scale, i);
         if (const CircuitGraph::Node *node = hoveredNode())
             drawNode(inner, scale, static_cast<size_t>(node - m_graph.nodes.data()));

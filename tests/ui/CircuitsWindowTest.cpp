@@ -94,6 +94,7 @@ private Q_SLOTS:
         QVERIFY(!standsOut());
         QCOMPARE(help(), QString());
         QCOMPARE(graph->property("emphasis").toDouble(), 0.0);
+        QCOMPARE(stage->picture(), before);
     }
 
     void whatIsFollowedKeepsStandingOut()
