@@ -15,7 +15,8 @@ release_rules() { exec 7>&-; }
 # list_rules: what our anchor holds.
 list_rules() { pfctl -a "$ANCHOR" -s nat && pfctl -a "$ANCHOR" -s rules; }
 
-# note_listing: what the watcher compares with.
+# note_listing: what the watcher compares with. The same text gives the same listing, so it is noted when the text is
+# new, never when the watcher loads it again: then somebody is changing rules, and his would be taken for ours.
 note_listing() {
   local text
   text=$(list_rules) && write_file "$LISTED" 0600 root "$text"$'\n'
@@ -147,13 +148,13 @@ put_firewall() {
   put_marker "$1"
   write_file "$RULES" 0600 root "$text"$'\n' || die "The file $RULES cannot be written."
   put_rules "$text"
+  note_listing || die "The file $LISTED cannot be written."
   release_rules
 }
 
 # put_rules TEXT: whoever calls it holds the rules.
 put_rules() {
   load_rules "$1"
-  note_listing || die "The file $LISTED cannot be written."
   put_reference
   enable_firewall
   kill_states || die "The firewall cannot end the connections from before."

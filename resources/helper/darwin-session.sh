@@ -105,6 +105,7 @@ darwin_fix-dns() {
   if [[ -f $RULES ]]; then
     hold_rules || die "Somebody else is changing the firewall. Try again in a moment."
     put_rules "$(<"$RULES")"
+    [[ -f $LISTED ]] || note_listing || die "The file $LISTED cannot be written."
     release_rules
   fi
   [[ $(read_marker) != strict ]] || job_process "$WATCH_LABEL" >/dev/null || start_watcher

@@ -48,7 +48,7 @@ print_watcher() {
   printf 'RELOCKS=0\nJOURNAL_LINES=()\ndie() { exit 1; }\n'
   declare -f read_marker put_in_place write_file journal_put journal_has journal_read journal_value boot_id hold_rules \
     release_rules pf_words load_rules put_reference print_referring print_without print_normal held_token enable_firewall \
-    kill_states list_rules note_listing put_rules rules_stand relock watch_rules
+    kill_states list_rules put_rules rules_stand relock watch_rules
   printf 'watch_rules\nexit 0\n'
 }
 

@@ -16,19 +16,26 @@ rules_stand() {
   now=$(nft -s list table inet "$TABLE") && [[ $now == "$(<"$LISTED")" ]]
 }
 
-# relock: the rules again, unless a run of the helper has changed or opened them meanwhile.
+# relock: the rules again, unless a run of the helper has changed or opened them meanwhile. The same text gives the same
+# listing, so that is noted anew only when it was another text: somebody is changing rules just now, and what is noted
+# then could be his.
 RELOCKS=0
+LESSENED=''   # 1 while the rules without their exemption are loaded
 relock() {
   local word=restored text
   hold_rules || return 0
   if [[ $(read_marker) == strict ]] && ! rules_stand; then
     text=$(<"$RULES")
     make_group || true   # the rules name it, and it may be gone
-    if ! nft -f - <<<"$text"; then
+    if nft -f - <<<"$text"; then
+      [[ -z $LESSENED ]] || { note_listing && LESSENED=''; } || true
+    elif nft -f - <<<"$(print_unexempt "$text")"; then
       # Without its group the exemption cannot be loaded; the lock can.
-      nft -f - <<<"$(print_unexempt "$text")" || word=open
+      LESSENED=1
+      note_listing || true
+    else
+      word=open
     fi
-    [[ $word == open ]] || note_listing || true
     RELOCKS=$((RELOCKS + 1))
     write_file "$RELOCKED" 0644 root "$word $RELOCKS"$'\n' || true
   fi
@@ -65,7 +72,7 @@ watch_rules() {
 print_watcher() {
   printf 'set -uo pipefail\numask 077\nPATH=%s\nLC_ALL=C\nexport PATH LC_ALL\ncd /\n' "$PATH"
   declare -p TABLE RULES LISTED RULES_LOCK MARKER RELOCKED WATCH_SECONDS EXEMPT_NAME CGROUPS
-  printf 'RELOCKS=0 EXEMPT_FOLDER=\n'
+  printf 'RELOCKS=0 LESSENED= EXEMPT_FOLDER=\n'
   declare -f read_marker put_in_place write_file hold_rules release_rules note_listing rules_stand find_exempt make_group \
     print_unexempt relock watch_rules
   printf 'watch_rules\n'
@@ -95,12 +102,25 @@ kill_stray_watcher() {
   done
 }
 
+# await_standstill PID: for half a second at most, until a process that was told to stop has done so.
+await_standstill() {
+  local poll line
+  for ((poll = 0; poll < 50; poll++)); do
+    { IFS= read -r line <"/proc/$1/stat"; } 2>/dev/null || return 0
+    [[ ${line##*) } != [TZX]* ]] || return 0
+    sleep 0.01
+  done
+}
+
 # undo_watcher: it never waits for us, so it is killed at once. A change of rules that it was in the middle of keeps
 # the rules' lock, so that the firewall opens after that.
 undo_watcher() {
   local pid child
   rm -f -- "$RELOCKED" "$WATCHER"
   pid=$(recorded_pid) || return 0
+  # A child that it is just starting would be missed; what stands still starts none.
+  kill -STOP "$pid" || true
+  await_standstill "$pid"
   read_children "$pid"
   kill -KILL "$pid" || true
   for child in $CHILDREN; do

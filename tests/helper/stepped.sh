@@ -15,7 +15,7 @@ is_change() {
   case $1 in
   mkdir\ * | mv\ * | rm\ * | rmdir\ * | chmod\ * | chown\ * | mount\ * | umount\ * | useradd\ * | kill\ * | nft\ -f* | "nft delete "*) ;;
   'networksetup "$@"'* | pfctl\ -q* | "exec pfctl"* | launchctl\ boot* | dscl\ .\ -create*) ;;
-  timeout\ * | "sync -- \"\$new\"" | :\ \>*) ;;
+  timeout\ * | "sync -- \"\$1\"" | :\ \>*) ;;
   *) return 1 ;;
   esac
 }
