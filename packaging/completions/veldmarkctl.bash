@@ -7,16 +7,22 @@ _veldmarkctl()
         autoConnect optimizeSpeed terminalMode"
     if ((COMP_CWORD == 1)); then
         choices="run status connect disconnect restore check fix-dns circuits close-circuit new-identity log bridges
-            download-transports get set help --help --version"
+            download-transports apps launch get set help --help --version"
     else
         case ${COMP_WORDS[1]} in
         run) choices="--connect" ;;
         status) choices="--json --watch" ;;
-        circuits | bridges) choices="--json" ;;
+        circuits | bridges | apps) choices="--json" ;;
+        launch) # a name, or a path
+            [[ $word == */* ]] || return
+            compopt -o filenames 2>/dev/null
+            mapfile -t COMPREPLY < <(compgen -f -- "$word")
+            return
+            ;;
         log) choices="--follow --problems" ;;
         get)
-            ((COMP_CWORD != 2)) || choices="$settings activeBridge activeMode bootstrapProgress bytesRead bytesWritten
-                canCancel circuitError circuits dnsStatus errorMessage exitIP isChecking isOptimizing latencyMs
+            ((COMP_CWORD != 2)) || choices="$settings activeBridge activeMode bootstrapProblem bootstrapProgress bytesRead
+                bytesWritten canCancel circuitError circuits dnsStatus errorMessage exitIP isChecking isOptimizing latencyMs
                 leakStatus optimizeStatus passwordlessInstalled phase startupError statusDetail terminalError title
                 torVerified transportDownload transports"
             ;;

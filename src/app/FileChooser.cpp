@@ -1,7 +1,6 @@
 #include "app/FileChooser.h"
 
 #include <QDBusArgument>
-#include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusPendingReply>
@@ -114,19 +113,21 @@ void FileChooser::listen(const QString &request)
     stopListening();
     m_request = request;
     m_bus.connect(service, m_request, requestInterface, QStringLiteral("Response"), this,
-                  SLOT(onResponse(uint, QVariantMap)));
+                  SLOT(onResponse(uint, QVariantMap, QDBusMessage)));
 }
 
 void FileChooser::stopListening()
 {
     if (!m_request.isEmpty())
         m_bus.disconnect(service, m_request, requestInterface, QStringLiteral("Response"), this,
-                         SLOT(onResponse(uint, QVariantMap)));
+                         SLOT(onResponse(uint, QVariantMap, QDBusMessage)));
     m_request.clear();
 }
 
-void FileChooser::onResponse(uint response, const QVariantMap &results)
+void FileChooser::onResponse(uint response, const QVariantMap &results, const QDBusMessage &message)
 {
+    if (message.path() != m_request)
+        return; // of an earlier question; it was under way when this one was asked
     stopListening();
     QStringList files;
     for (const QString &uri : results.value(QStringLiteral("uris")).toStringList()) {

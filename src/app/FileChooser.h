@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QDBusPendingCall>
 #include <QObject>
 #include <QStringList>
@@ -29,7 +30,7 @@ Q_SIGNALS:
     void chosen(const QStringList &files); // absolute paths; nothing is said when the user cancels
 
 private Q_SLOTS:
-    void onResponse(uint response, const QVariantMap &results);
+    void onResponse(uint response, const QVariantMap &results, const QDBusMessage &message);
 
 private:
     void onAnswer(const QDBusPendingCall &call);

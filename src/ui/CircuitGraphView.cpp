@@ -197,6 +197,12 @@ void CircuitGraphView::setHovered(const QString &id)
     update();
 }
 
+// A pointer may come in right on a node and stay there.
+void CircuitGraphView::hoverEnterEvent(QHoverEvent *event)
+{
+    hoverMoveEvent(event);
+}
+
 void CircuitGraphView::hoverMoveEvent(QHoverEvent *event)
 {
     const CircuitGraph::Node *node = nodeAt(event->position());
@@ -349,8 +355,10 @@ void CircuitGraphView::drawLabel(QPainter &painter, double scale, size_t index, 
 
 void CircuitGraphView::paint(QPainter *painter)
 {
-    if (!m_model)
+    if (!m_model) { // what is painted counts as opaque
+        painter->fillRect(boundingRect(), m_background);
         return;
+    }
     const double scale = painter->deviceTransform().m11();
     const QSize pixels = (size() * scale).toSize();
     if (m_canvas.size() != pixels)

@@ -54,6 +54,7 @@ Q_SIGNALS:
 
 protected:
     void geometryChange(const QRectF &now, const QRectF &before) override;
+    void hoverEnterEvent(QHoverEvent *event) override;
     void hoverMoveEvent(QHoverEvent *event) override;
     void hoverLeaveEvent(QHoverEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;

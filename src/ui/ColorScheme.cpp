@@ -41,7 +41,7 @@ bool drawsFlags()
 
 } // namespace
 
-ColorScheme::ColorScheme(QObject *parent) : QObject(parent), m_flagsDrawn(drawsFlags())
+ColorScheme::ColorScheme(QObject *parent) : QObject(parent)
 {
     readPalette();
     qApp->installEventFilter(this);
@@ -52,6 +52,13 @@ ColorScheme::ColorScheme(QObject *parent) : QObject(parent), m_flagsDrawn(drawsF
                                           SLOT(onSettingChanged(QString, QString, QDBusVariant)));
     askPortal(QStringLiteral("org.freedesktop.appearance"), colorScheme);
     askPortal(QStringLiteral("org.gnome.desktop.interface"), animations);
+}
+
+bool ColorScheme::flagsDrawn() const
+{
+    if (!m_flagsDrawn)
+        m_flagsDrawn = drawsFlags();
+    return *m_flagsDrawn;
 }
 
 QString ColorScheme::flag(const QString &country)

@@ -5,6 +5,8 @@
 #include <QDBusVariant>
 #include <QVariant>
 
+#include <optional>
+
 namespace veldmark {
 
 // What the system prefers: dark or light, motion or less of it. Comes from the desktop portal where
@@ -22,8 +24,9 @@ public:
 
     bool dark() const { return m_dark; }
     bool reducedMotion() const { return m_reducedMotion; }
-    // Whether the fonts here have pictures for the flags of countries.
-    bool flagsDrawn() const { return m_flagsDrawn; }
+    // Whether the fonts here have pictures for the flags of countries. Looked up when first asked: it
+    // loads a large font, which the first window should not wait for.
+    bool flagsDrawn() const;
     // Overrides what the system says, from now on.
     void force(bool dark, bool reducedMotion);
     void setFlagsDrawn(bool drawn) { m_flagsDrawn = drawn; }
@@ -48,7 +51,7 @@ private Q_SLOTS:
 private:
     bool m_dark = false;
     bool m_reducedMotion = false;
-    bool m_flagsDrawn = false;
+    mutable std::optional<bool> m_flagsDrawn; // absent until asked
     bool m_forced = false;
     bool m_portalDecides = false;
 };

@@ -183,6 +183,25 @@ class BadCircumstances(DesktopCase):
         return frame and (frame["width"], frame["height"])
 
 
+class AtShutdown(DesktopCase):
+    """With a system bus, on whose word polkit starts as well: a lab of its own."""
+
+    def test_a_shutdown_waits_until_the_network_is_restored(self):
+        login = self.enterContext(self.desktop.login_manager())
+        self.window.signal(signal.SIGTERM)
+        self.window.wait()
+        self.window = self.start()
+        self.window.wait_for("heading", "Not Protected")
+        self.before = self.snapshot()  # with the bus
+        self.assertNotIn("held", login.lines.all)  # nothing is to wait for a program that has nothing to do
+        self.connect()
+        login.lines.wait(lambda line: line == "held")
+        login.tell("shut down")
+        login.lines.wait(lambda line: line == "released")
+        self.assert_restored()
+        self.assertEqual(self.product.status()["phase"], "disconnected")
+
+
 class ToldToEnd(DesktopCase):
     def test_each_signal_restores_the_network_first(self):
         for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
@@ -213,21 +232,6 @@ class ToldToEnd(DesktopCase):
         self.assertEqual((self.window.wait(), self.window.errors), (0, ""))
         manager.lines.wait(lambda line: line == "closed")
         self.assert_restored()
-
-    def test_a_shutdown_waits_until_the_network_is_restored(self):
-        login = self.desktop.start_login_manager()
-        self.window.signal(signal.SIGTERM)
-        self.window.wait()
-        self.window = self.start()
-        self.window.wait_for("heading", "Not Protected")
-        self.before = self.snapshot()  # with the bus
-        self.assertNotIn("held", login.lines.all)  # nothing is to wait for a program that has nothing to do
-        self.connect()
-        login.lines.wait(lambda line: line == "held")
-        login.tell("shut down")
-        login.lines.wait(lambda line: line == "released")
-        self.assert_restored()
-        self.assertEqual(self.product.status()["phase"], "disconnected")
 
     def test_a_signal_while_tor_is_starting(self):
         self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/data"], check=True)

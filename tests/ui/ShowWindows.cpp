@@ -74,11 +74,7 @@ bool show(Stage &stage, const QString &line)
     QVariantMap properties = propertiesOf(stage, file);
     for (const QString &word : words)
         properties.insert(word.section(u'=', 0, 0), word.section(u'=', 1).toInt());
-    if (!stage.open(file, properties))
-        return false;
-    if (file == QLatin1String("main/MainWindow.qml"))
-        stage.window()->resize(400, 1150); // what is scrolled out of view is not told
-    return true;
+    return stage.open(file, properties);
 }
 
 } // namespace

@@ -114,16 +114,26 @@ class Desktop(contextlib.ExitStack):
         self.env["SESSION_MANAGER"] = manager.lines.wait(bool)
         return manager
 
-    def start_login_manager(self) -> "Service":
-        """A system bus and, on it, what tests/support/login_manager.py says, as root."""
+    @contextlib.contextmanager
+    def login_manager(self):
+        """A system bus and, on it, what tests/support/login_manager.py says, as root: a `Service`. Ends with the context."""
         self.lab.host.write("/etc/dbus-1/system.d/veldlab-login.conf", _LOGIN_POLICY)
         self.lab.host.run(["mkdir", "-p", "/run/dbus"], check=True)
-        self._start(["dbus-daemon", "--system", "--nofork", "--nopidfile"], user="root")
-        self.lab.host.run(["gdbus", "wait", "--system", "--timeout", "20", "org.freedesktop.DBus"], check=True)
-        service = Service(self._start([at.PYTHON, str(_SUPPORT / "login_manager.py")], user="root",
-                                      stdin=subprocess.PIPE, stdout=subprocess.PIPE))
-        service.lines.wait(lambda line: line == "ready")
-        return service
+        bus = self._start(["dbus-daemon", "--system", "--nofork", "--nopidfile"], user="root")
+        try:
+            self.lab.host.run(["gdbus", "wait", "--system", "--timeout", "20", "org.freedesktop.DBus"], check=True)
+            process = self._start([at.PYTHON, str(_SUPPORT / "login_manager.py")], user="root", stdin=subprocess.PIPE,
+                                  stdout=subprocess.PIPE)
+            service = Service(process)
+            try:
+                service.lines.wait(lambda line: line == "ready")
+                yield service
+            finally:
+                process.kill()
+                process.wait()
+        finally:
+            bus.kill()
+            bus.wait()
 
     def _start(self, command, user: str = "", **options) -> subprocess.Popen:
         options.setdefault("stdin", subprocess.DEVNULL)

@@ -59,6 +59,8 @@ Window {
                     focused: list.activeFocus && ListView.isCurrentItem
                     onWanted: window.model.toggle(index)
                 }
+                // A list that was made anew has no current row, and the keyboard would be nowhere.
+                onActiveFocusChanged: if (activeFocus && currentIndex < 0 && count > 0) currentIndex = 0
                 Keys.onSpacePressed: window.model.toggle(currentIndex)
                 Keys.onReturnPressed: window.model.toggle(currentIndex)
             }

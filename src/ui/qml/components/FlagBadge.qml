@@ -5,7 +5,7 @@ import Veldmark
 Item {
     id: badge
     required property string country // two letters; anything else is shown as unknown
-    readonly property string flag: ColorScheme.flagsDrawn ? ColorScheme.flag(country) : ""
+    readonly property string flag: country !== "" && ColorScheme.flagsDrawn ? ColorScheme.flag(country) : ""
 
     implicitWidth: 26
     implicitHeight: 18
