@@ -45,8 +45,8 @@ def unmarked_copy() -> Path:
 
 def line_counts() -> dict[str, dict[int, bool]]:
     """For each file of src/, the lines that hold code and whether they were run."""
-    done = subprocess.run(["gcovr", "--root", PROJECT, "--filter", "src/", "--exclude-throw-branches", "--json", "-j", "2",
-                           str(unmarked_copy())], cwd=PROJECT, capture_output=True, text=True, check=True)
+    done = subprocess.run(["gcovr", "--root", PROJECT, "--filter", f"{PROJECT}/src/", "--exclude-throw-branches", "--json", "-j", "2",
+                           "."], cwd=unmarked_copy(), capture_output=True, text=True, check=True)
     counts: dict[str, dict[int, bool]] = {}
     for file in json.loads(done.stdout)["files"]:
         counts[file["file"]] = {line["line_number"]: line["count"] > 0

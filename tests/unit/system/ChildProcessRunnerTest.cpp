@@ -255,9 +255,15 @@ private Q_SLOTS:
         QTemporaryDir folder;
         ChildProcessRunner runner;
         {
-            auto dropped = start(runner, "touch \"$1/finished\"", {folder.path()});
+            auto dropped = start(runner, "echo $$ >\"$1/new\"; mv \"$1/new\" \"$1/finished\"", {folder.path()});
         }
-        QTRY_VERIFY(QFile::exists(folder.filePath(QStringLiteral("finished"))));
+        QFile finished(folder.filePath(QStringLiteral("finished")));
+        QTRY_VERIFY(finished.exists());
+        // Until the child has been waited for, and what was made for it has gone: nothing else ends this program's loop.
+        QVERIFY(finished.open(QIODevice::ReadOnly));
+        const QString child = QStringLiteral("/proc/") + QString::fromLatin1(finished.readAll().trimmed());
+        QTRY_VERIFY(!QFile::exists(child));
+        QTest::qWait(0);
     }
 };
 
