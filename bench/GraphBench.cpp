@@ -2,6 +2,7 @@
 // default size with the software renderer. Processor time of the drawing thread, which other work on the
 // machine does not lengthen as it does the time on the clock.
 // Usage: GraphBench [REPETITIONS] (default 25). Build it with optimisation.
+#include "DrawingTime.h"
 #include "Scenes.h"
 #include "Stage.h"
 
@@ -13,34 +14,8 @@
 #include <QTextStream>
 
 #include <algorithm>
-#include <ctime>
-#include <functional>
 
 using namespace veldmark;
-
-namespace {
-
-double threadMilliseconds()
-{
-    timespec now{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
-}
-
-double median(int repetitions, const std::function<void(int)> &work)
-{
-    std::vector<double> times;
-    for (int i = 0; i < repetitions; ++i) {
-        const double start = threadMilliseconds();
-        work(i);
-        times.push_back(threadMilliseconds() - start);
-    }
-    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
-    std::nth_element(times.begin(), middle, times.end());
-    return *middle;
-}
-
-} // namespace
 
 int main(int argc, char **argv)
 {
@@ -65,16 +40,16 @@ int main(int argc, char **argv)
             stage.setDark(dark);
             stage.picture();
             QImage canvas(graph->size().toSize(), QImage::Format_ARGB32_Premultiplied);
-            const double drawn = median(repetitions, [&](int) { // everything, each time
+            const double drawn = drawingTimes(repetitions, [&](int) { // everything, each time
                 QPainter painter(&canvas);
                 graph->paint(&painter);
-            });
+            }).middle;
             // Tor's list has changed: everything from the session's news to the window's pixels.
-            const double frame = median(repetitions, [&](int i) {
+            const double frame = drawingTimes(repetitions, [&](int i) {
                 snapshot.circuits[0].sites = {QStringLiteral("site%1.example").arg(i)};
                 stage.session.show(snapshot);
                 window->grabWindow();
-            });
+            }).middle;
             const QString key = QString::number(count) + (dark ? QStringLiteral("dark") : QStringLiteral("light"));
             result.insert(key + QStringLiteral("GraphMs"), drawn);
             result.insert(key + QStringLiteral("WindowMs"), frame);

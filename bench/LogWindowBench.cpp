@@ -1,6 +1,7 @@
 // How long the log window takes to draw with 3,000 lines, as one line of JSON: a line added while following, a
 // list replaced as a whole, and a scroll by a few lines. Processor time of the drawing thread.
 // Usage: LogWindowBench [REPETITIONS] (default 25). Build it with optimisation.
+#include "DrawingTime.h"
 #include "Scenes.h"
 #include "Stage.h"
 
@@ -11,38 +12,8 @@
 #include <QTextStream>
 
 #include <algorithm>
-#include <ctime>
-#include <functional>
 
 using namespace veldmark;
-
-namespace {
-
-double threadMilliseconds()
-{
-    timespec now{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
-}
-
-struct Times {
-    double middle;
-    double most;
-};
-
-Times measure(int repetitions, const std::function<void(int)> &work)
-{
-    std::vector<double> times;
-    for (int i = 0; i < repetitions; ++i) {
-        const double start = threadMilliseconds();
-        work(i);
-        times.push_back(threadMilliseconds() - start);
-    }
-    std::sort(times.begin(), times.end());
-    return {times[times.size() / 2], times.back()};
-}
-
-} // namespace
 
 int main(int argc, char **argv)
 {
@@ -81,17 +52,17 @@ int main(int argc, char **argv)
         }
         followed = false;
     };
-    const Times added = measure(repetitions, [&](int i) {
+    const DrawingTimes added = drawingTimes(repetitions, [&](int i) {
         stage.log.show(LogFeed::State::lines, some(1 + i));
         drawEnd();
     });
-    const Times replaced = measure(repetitions, [&](int i) {
+    const DrawingTimes replaced = drawingTimes(repetitions, [&](int i) {
         stage.log.show(LogFeed::State::lines, some(i % 2 == 0 ? 0 : lines));
         drawEnd();
     });
     stage.picture();
     const double before = list->property("contentY").toDouble();
-    const Times scrolled = measure(repetitions, [&](int) {
+    const DrawingTimes scrolled = drawingTimes(repetitions, [&](int) {
         QMetaObject::invokeMethod(list, "scrollBy", Q_ARG(double, -60.0));
         draw();
     });
