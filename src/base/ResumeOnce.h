@@ -36,8 +36,10 @@ public:
         m_state->value.emplace(std::move(value));
         // Posted before the lock is given up, so that deliver() finds it. When there is none,
         // nobody waits yet, and the waiter will find the value ready.
-        if (m_state->resumption)
-            m_state->posted = Resumption::post(std::move(m_state->resumption));
+        if (m_state->resumption) {
+            m_state->posted = m_state->resumption->receiver();
+            Resumption::post(std::move(m_state->resumption));
+        }
         return true;
     }
 
@@ -46,13 +48,13 @@ public:
     // thread; the caller must bear what the waiter does, also that it destroys things.
     void deliver() const
     {
-        Resumption *posted = nullptr;
+        QObject *posted = nullptr;
         {
             const std::lock_guard guard(m_state->lock);
             posted = m_state->posted;
         }
         if (posted)
-            posted->deliver();
+            Resumption::deliver(posted);
     }
 
     bool isDone() const
@@ -86,7 +88,7 @@ private:
         bool done = false;
         std::optional<T> value;
         std::unique_ptr<Resumption> resumption; // while somebody waits for an end that has not come
-        Resumption *posted = nullptr;           // from that end until the waiter runs
+        QObject *posted = nullptr;              // what it was sent to, from that end until the waiter runs
     };
     std::shared_ptr<State> m_state;
 };

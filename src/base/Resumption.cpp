@@ -6,36 +6,43 @@ namespace veldmark {
 
 namespace {
 
-// Owns the receiver: Qt destroys an event after its delivery, on the receiver's thread, and so the
-// receiver is never destroyed within its own event handler, nor by the thread that posts.
-class Turn final : public QEvent {
+constexpr QEvent::Type turn = QEvent::User; // a Waiter gets no other event of ours
+
+class Waiter final : public QObject {
 public:
-    explicit Turn(std::unique_ptr<Resumption> resumption) : QEvent(Resumption::turn), m_resumption(std::move(resumption)) {}
+    explicit Waiter(std::coroutine_handle<> waiter) : m_waiter(waiter) {}
+
+protected:
+    bool event(QEvent *event) override
+    {
+        if (event->type() != turn)
+            return QObject::event(event);
+        m_waiter.resume();
+        return true;
+    }
 
 private:
-    const std::unique_ptr<Resumption> m_resumption;
+    const std::coroutine_handle<> m_waiter;
 };
 
 } // namespace
 
-Resumption *Resumption::post(std::unique_ptr<Resumption> resumption)
+Resumption::Resumption(std::coroutine_handle<> waiter)
+    : QEvent(turn), m_receiver(std::make_unique<Waiter>(waiter))
 {
-    Resumption *const receiver = resumption.get();
-    QCoreApplication::postEvent(receiver, new Turn(std::move(resumption)));
-    return receiver;
 }
 
-void Resumption::deliver()
+Resumption::~Resumption() = default;
+
+void Resumption::post(std::unique_ptr<Resumption> resumption)
 {
-    QCoreApplication::sendPostedEvents(this, turn);
+    QObject *const receiver = resumption->receiver();
+    QCoreApplication::postEvent(receiver, resumption.release());
 }
 
-bool Resumption::event(QEvent *event)
+void Resumption::deliver(QObject *receiver)
 {
-    if (event->type() != turn)
-        return QObject::event(event);
-    m_waiter.resume();
-    return true;
+    QCoreApplication::sendPostedEvents(receiver, turn);
 }
 
 } // namespace veldmark

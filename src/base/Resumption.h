@@ -8,27 +8,25 @@
 
 namespace veldmark {
 
-// A suspended coroutine that is to go on through the event loop of the thread that made this.
-// Lives and dies on that thread: what posts it from another one keeps no part of it.
-class Resumption final : public QObject {
+// The event that lets a suspended coroutine go on, through the event loop of the thread that made
+// it. Owns what it is sent to, and Qt destroys it after its delivery, on that thread: whoever posts
+// it from another thread makes no part of it and keeps none.
+class Resumption final : public QEvent {
 public:
-    // The event that it waits for.
-    static constexpr QEvent::Type turn = QEvent::User;
+    explicit Resumption(std::coroutine_handle<> waiter);
+    ~Resumption() override;
+    Q_DISABLE_COPY_MOVE(Resumption)
 
-    explicit Resumption(std::coroutine_handle<> waiter) : m_waiter(waiter) {}
+    // Any thread, once. The coroutine is resumed when the event loop comes to it, or by deliver().
+    static void post(std::unique_ptr<Resumption> resumption);
 
-    // Any thread. The event loop of its own thread resumes the coroutine and then destroys it; the
-    // pointer is good until the coroutine runs.
-    static Resumption *post(std::unique_ptr<Resumption> resumption);
-
-    // Resumes at once what was posted. On its own thread.
-    void deliver();
-
-protected:
-    bool event(QEvent *event) override;
+    // Names it until the coroutine runs.
+    QObject *receiver() const { return m_receiver.get(); }
+    // Resumes at once what was posted to `receiver`. On the thread of the coroutine.
+    static void deliver(QObject *receiver);
 
 private:
-    const std::coroutine_handle<> m_waiter;
+    const std::unique_ptr<QObject> m_receiver;
 };
 
 } // namespace veldmark

@@ -19,7 +19,7 @@ void InterruptibleApplication::interrupt(int resumption, Moment moment, std::fun
 
 bool InterruptibleApplication::notify(QObject *receiver, QEvent *event)
 {
-    const bool isResumption = m_act && event->type() == Resumption::turn && dynamic_cast<Resumption *>(receiver);
+    const bool isResumption = m_act && dynamic_cast<Resumption *>(event);
     if (!isResumption || ++m_resumptions != m_wanted)
         return QCoreApplication::notify(receiver, event);
     const auto act = std::exchange(m_act, nullptr);
