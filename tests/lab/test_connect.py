@@ -155,7 +155,7 @@ class BothModes(LabCase):
                 self.assertEqual(circuit["hops"][-1]["country"], "de")
         self.assert_restored()
 
-    def test_connecting_again_switches_the_mode_without_a_gap(self):
+    def test_connecting_again_switches_the_mode(self):
         with self.product.session() as session:
             session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"])
             self.kill_tor()
