@@ -1,5 +1,5 @@
-// The settings file: whatever it holds, the store starts; one that counts as intact loses nothing when a value is
-// changed, and one that does not is put aside whole.
+// The settings file: whatever it holds, the store starts; one that counts as intact is one to QSettings, too, and loses nothing
+// when a value is changed; one that does not is put aside whole.
 #include "fuzz/Require.h"
 
 #include "system/SettingsFile.h"
@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QSettings>
 #include <QTemporaryDir>
 
 using namespace veldmark;
@@ -38,14 +39,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 {
     const QByteArray bytes = bytesOf(data, size);
     static const QTemporaryDir folder(QDir::tempPath() + QStringLiteral("/veldmark-fuzz-XXXXXX"));
-    static const PlatformProfile profile = PlatformProfile::linux(Places::below(folder.path()));
-    const QString path = profile.settingsFile;
+    static PlatformProfile profile = PlatformProfile::linux(Places::below(folder.path()));
+    // A name for each input: QSettings takes two files of one name, size and time for one, and inputs come in quick succession.
+    static quint64 number = 0;
+    const QString path = folder.filePath(QString::number(++number));
     const QString aside = path + QStringLiteral(".broken");
-    QDir().mkpath(QFileInfo(path).path());
-    QFile::remove(aside);
+    profile.settingsFile = path;
     write(path, bytes);
 
-    const bool isIntact = settingsFileState(path) == SettingsFileState::Intact;
+    const SettingsFileState state = settingsFileState(path);
+    REQUIRE(settingsFileState(path) == state);
+    const bool isIntact = state == SettingsFileState::Intact;
     const QVariantMap before = isIntact ? readSettingsFile(path) : QVariantMap();
     SettingsStore store(profile);
     REQUIRE(store.problem().has_value() != isIntact);
@@ -66,5 +70,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     REQUIRE(after.keys() == expected.keys());
     for (auto value = expected.begin(); value != expected.end(); ++value)
         REQUIRE(after.value(value.key()).toStringList() == value.value().toStringList());
+    QFile::remove(path);
+    QFile::remove(aside);
     return 0;
 }

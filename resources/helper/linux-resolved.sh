@@ -23,22 +23,25 @@ print_links() {
 
 # put_resolved: status 1 when a link could not be switched.
 put_resolved() {
-  local line link kind links='' kept=() status=0
+  local line link kind values former links='' kept=() status=0
   has_resolved || return 0
   while read -r kind link line; do
     [[ $line == "$RESOLVED_SERVER" ]] || links="$links $link "
   done < <(print_links dns)
   [[ -n $links ]] || return 0
 
-  # What an earlier connect noted stays, but for links that somebody has given other servers since.
+  # What an earlier connect noted stays, but for links that somebody has given other servers since; a setting of those
+  # that is still as we made it is noted as it was before.
   journal_read "$RESOLVED_ENTRY" || JOURNAL_LINES=()
   for line in ${JOURNAL_LINES[@]+"${JOURNAL_LINES[@]}"}; do
     read -r kind link _ <<<"$line"
     [[ $links == *" $link "* ]] || kept[${#kept[@]}]=$line
   done
   while IFS= read -r line; do
-    read -r kind link _ <<<"$line"
-    [[ $links != *" $link "* ]] || kept[${#kept[@]}]=$line
+    read -r kind link values <<<"$line"
+    [[ $links == *" $link "* ]] || continue
+    if [[ $kind != dns && $values == no ]] && former=$(journal_value "$kind $link"); then line="$kind $former"; fi
+    kept[${#kept[@]}]=$line
   done < <(print_links dns; print_links dnsovertls; print_links dnssec)
   journal_put "$RESOLVED_ENTRY" "${kept[@]}" || die "The journal cannot be written."
 
@@ -50,19 +53,22 @@ put_resolved() {
   return "$status"
 }
 
-# undo_resolved: only links that still have our server; whatever else they have is newer than we are. The server goes
-# last, so that a run that was cut short finds it still.
+# undo_resolved: only what is still as we made it; whatever else there is, is newer than we are. A link that was given
+# other servers meanwhile has its other settings from before all the same: else it would go on without DNSSEC or TLS. The
+# server goes last, so that a run that was cut short finds it still.
 undo_resolved() {
   local line kind link values ours=' ' status=0 pass
   ((${#JOURNAL_LINES[@]})) && has_resolved || return 0
-  while read -r kind link line; do
-    [[ $line != "$RESOLVED_SERVER" ]] || ours="$ours$link "
-  done < <(print_links dns)
+  while read -r kind link values; do
+    case "$kind $values" in
+    "dns $RESOLVED_SERVER" | "dnsovertls no" | "dnssec no") ours="$ours$kind:$link " ;;
+    esac
+  done < <(print_links dns; print_links dnsovertls; print_links dnssec)
   for pass in settings dns; do
     for line in "${JOURNAL_LINES[@]}"; do
       read -r kind link values <<<"$line"
-      [[ $ours == *" $link "* && " dns dnsovertls dnssec " == *" $kind "* ]] || continue
-      if [[ $kind == dns ]]; then [[ $pass == dns ]] || continue; else [[ $pass != dns ]] || continue; fi
+      [[ $ours == *" $kind:$link "* ]] || continue
+      if [[ $kind == dns ]]; then [[ $pass == dns ]] || continue; else [[ $pass != dns && $values != no ]] || continue; fi
       # shellcheck disable=SC2086
       ask_resolved "$kind" "$link" $values >/dev/null || status=1
     done

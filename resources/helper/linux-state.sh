@@ -98,13 +98,15 @@ ready_account() {
 }
 
 # as_tor / as_caller SECONDS COMMAND...: with that account's rights only, no way to gain more, a clean environment,
-# default signal handling, no descriptor of ours, and killed when it takes longer.
+# default signal handling, no descriptor of ours, and killed when it takes longer. `timeout`, which is root's, keeps the
+# lock: when this shell is killed, the next run must not begin while the command still changes things.
 as_account() {
   local uid=$1 gid=$2 groups=$3 home=$4 seconds=$5
   shift 5
-  timeout -k 1 "$seconds" env -i --default-signal PATH="$PATH" LC_ALL=C HOME="$home" \
+  timeout -k 1 "$seconds" /bin/bash -p -c 'exec 9>&-; exec "$@"' as_account \
+    env -i --default-signal PATH="$PATH" LC_ALL=C HOME="$home" \
     setpriv --reuid "$uid" --regid "$gid" "$groups" --no-new-privs --bounding-set=-all --inh-caps=-all \
-    --ambient-caps=-all "$@" 8>&- 9>&-
+    --ambient-caps=-all "$@" 8>&-
 }
 as_tor() { as_account "$TOR_UID" "$TOR_GID" --clear-groups "$DATA" "$@"; }
 as_caller() { as_account "$CALLER_UID" "$CALLER_GID" --init-groups "$CALLER_HOME" "$@"; }

@@ -21,45 +21,51 @@ namespace {
 
 constexpr qint64 largestFileBytes = 4 * 1024 * 1024;
 
-bool isComment(QByteArrayView line)
-{
-    return line.startsWith(';') || line.startsWith('#');
-}
+struct Line {
+    QByteArrayView said;      // without a comment at its end
+    qsizetype equalsAt = -1;  // the first equals sign that is neither quoted nor behind a backslash
+};
 
-// The line without a comment at its end. Nothing when it goes on: a quote that is left open, or a backslash at the end,
+// Read as QSettings reads it. Nothing when the line goes on: a quote that is left open, or a backslash at the end,
 // swallows the following line.
-std::optional<QByteArrayView> withoutComment(QByteArrayView line)
+std::optional<Line> readLine(QByteArrayView text)
 {
+    Line line{text};
     bool quoted = false;
-    for (qsizetype i = 0; i < line.size(); ++i) {
-        if (line[i] == '"')
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] == '"') {
             quoted = !quoted;
-        else if (line[i] == ';' && !quoted)
-            return line.first(i).trimmed();
-        else if (line[i] == '\\' && ++i == line.size())
+        } else if (text[i] == ';' && !quoted) {
+            line.said = text.first(i).trimmed();
+            return line;
+        } else if (text[i] == '=' && !quoted && line.equalsAt < 0) {
+            line.equalsAt = i;
+        } else if (text[i] == '\\' && ++i == text.size()) {
             return std::nullopt;
+        }
     }
     return quoted ? std::nullopt : std::optional(line);
 }
 
-bool isIntactLine(QByteArrayView line)
+bool isIntactLine(QByteArrayView text)
 {
-    if (line.isEmpty() || isComment(line))
-        return true;
-    const std::optional<QByteArrayView> said = withoutComment(line);
-    if (!said)
+    const std::optional<Line> line = readLine(text);
+    if (!line)
         return false;
-    return said->startsWith('[') ? said->endsWith(']') : said->indexOf('=') > 0;
+    if (line->said.startsWith('['))
+        return line->said.indexOf(']') == line->said.size() - 1;
+    return line->said.isEmpty() || line->equalsAt > 0;
 }
 
-// What only shows when QSettings reads the file: a line that it finds no sense in, after which it refuses to write, or a key
-// with an empty part ("/a", "a//b"), which it would write under another name.
+// What only shows when QSettings reads the file: a key with an empty part ("/a", "a//b"), which it would write under another
+// name, and half of a surrogate pair ("\xd800"), which it would write as another character. Its status is no judge: a file that
+// it has read before and that has not changed since gives no error a second time.
 bool isReadWhole(const QString &path)
 {
     const QSettings settings(path, QSettings::IniFormat);
     const QStringList keys = settings.allKeys();
-    return settings.status() == QSettings::NoError && std::all_of(keys.begin(), keys.end(), [](const QString &key) {
-        return key.split(u'/', Qt::SkipEmptyParts).join(u'/') == key;
+    return settings.status() == QSettings::NoError && std::all_of(keys.begin(), keys.end(), [&settings](const QString &key) {
+        return key.split(u'/', Qt::SkipEmptyParts).join(u'/') == key && settings.value(key).toStringList().join(u' ').isValidUtf16();
     });
 }
 
@@ -158,7 +164,7 @@ SettingsFileState settingsFileState(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return SettingsFileState::Unreadable;
-    const QByteArray content = file.read(largestFileBytes + 1);
+    const QByteArray content = file.readAll();
     if (file.error() != QFile::NoError)
         return SettingsFileState::Unreadable;
     return isIntactSettingsText(content) && isReadWhole(path) ? SettingsFileState::Intact : SettingsFileState::Damaged;
@@ -171,11 +177,10 @@ bool isIntactSettingsText(const QByteArray &content)
         if ((byte < 0x20 && c != '\n' && c != '\r' && c != '\t') || byte == 0x7f)
             return false;
     }
-    QByteArray text = content;
-    if (text.startsWith("\xef\xbb\xbf"))
-        text.remove(0, 3);
-    if (QString::fromUtf8(text).toUtf8() != text)
+    // QSettings takes a byte order mark for a line without sense, or for the beginning of a key.
+    if (content.startsWith("\xef\xbb\xbf") || QString::fromUtf8(content).toUtf8() != content)
         return false;
+    QByteArray text = content;
     text.replace('\r', '\n');
     for (const QByteArray &line : text.split('\n')) {
         if (!isIntactLine(line.trimmed()))

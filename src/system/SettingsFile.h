@@ -22,8 +22,8 @@ enum class SettingsFileState {
 SettingsFileState settingsFileState(const QString &path);
 
 // Whether `content` is something that QSettings reads back without loss: UTF-8 without control
-// characters, in which every line is empty, a comment, a "[section]" or "key=value" with its
-// quotes closed on the same line. Empty content is intact.
+// characters and byte order mark, in which every line is empty, a comment behind ";", a "[section]" or "key=value" with
+// its quotes closed on the same line. Empty content is intact.
 bool isIntactSettingsText(const QByteArray &content);
 
 // Renames the file or directory to "PATH.broken", or "PATH.broken-1" and so on where that is

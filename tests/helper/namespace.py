@@ -184,6 +184,10 @@ class Machine:
     def tor_pids(self):
         return self.shell("pgrep -u _veldmark || true").split()
 
+    def await_watcher(self):
+        """The helper starts it and does not wait until it listens."""
+        self.shell("until pgrep -xf 'nft monitor' >/dev/null; do sleep 0.01; done")
+
     def end_watcher(self):
         """As a restart of the computer ends it."""
         self.shell("pid=$(pgrep -f /watcher[.]sh); kill -9 $pid; while [ -e /proc/$pid ] || pgrep -x nft; do :; done")

@@ -29,13 +29,26 @@ class Kill(HelperTest):
     @classmethod
     def setUpClass(cls):
         super().setUpClass()
-        cls.machine.run("/bin/bash", "-c", "mkdir /home/alice/.config; printf '[Proxy Settings]\nProxyType=4\n' >/home/alice/.config/kioslaverc",
-                        uid=namespace.USER_UID)
+        cls.set_up_services()
         cls.machine.tor_uid = cls.machine.shell("id -u _veldmark").strip()
         cls.wire = Wire(cls.machine)
         cls.edge_program = cls.wire.edge_program()
         cls.flood = Flood(cls.machine)
-        cls.before = cls.machine.snapshot()
+        cls.before = cls.snapshot()
+
+    @classmethod
+    def set_up_services(cls):
+        """What a session changes besides."""
+        cls.machine.run("/bin/bash", "-c", "mkdir /home/alice/.config; printf '[Proxy Settings]\nProxyType=4\n' >/home/alice/.config/kioslaverc",
+                        uid=namespace.USER_UID)
+
+    @classmethod
+    def snapshot(cls):
+        return cls.machine.snapshot()
+
+    @staticmethod
+    def sample(points):
+        return points[::EVERY]
 
     @classmethod
     def tearDownClass(cls):
@@ -72,7 +85,7 @@ class Kill(HelperTest):
         self.machine.help("disconnect")
         self.is_open()
         self.flood.stop()
-        self.assertEqual(self.machine.snapshot(), self.before)
+        self.assertEqual(self.snapshot(), self.before)
 
     def trial(self, prepare, run, check, edge="", closed=None):
         """`closed`: BEFORE or AFTER the edge, no probe may be seen as long as rules drop; None promises nothing."""
@@ -100,7 +113,8 @@ class Kill(HelperTest):
         points = [point for point in self.changes(words) if only(point)]
         self.machine.help("disconnect")
         started = time.monotonic()
-        for point in points[::EVERY]:
+        tried = self.sample(points)
+        for point in tried:
             with self.subTest(point):
                 try:
                     done = self.trial(prepare, lambda e, p=point: self.stepped(p, e, words), check, edge, closed)
@@ -110,7 +124,7 @@ class Kill(HelperTest):
                 finally:
                     self.machine.help("disconnect", check=False)
                     self.flood.stop()
-        print(f"{self.id().split('.', 1)[1]}: killed at {len(points[::EVERY])} of {len(points)} points, {time.monotonic() - started:.0f} s", flush=True)
+        print(f"{self.id().split('.', 1)[1]}: killed at {len(tried)} of {len(points)} points, {time.monotonic() - started:.0f} s", flush=True)
         return len(points)
 
 

@@ -3,17 +3,16 @@
 import os
 
 import namespace
+import services
 from namespace import HelperTest, USER_UID
+from services import SESSION
 
-SESSION = {"PATH": os.environ["PATH"], "PKEXEC_UID": str(USER_UID)}
-DESKTOP = {"PATH": os.environ["PATH"], "HOME": "/home/alice", "XDG_RUNTIME_DIR": f"/run/user/{USER_UID}",
-           "DBUS_SESSION_BUS_ADDRESS": f"unix:path=/run/user/{USER_UID}/bus"}
 KIOSLAVE = "/home/alice/.config/kioslaverc"
 
 
 class Desktop(HelperTest):
     def as_user(self, script, **options):
-        return self.machine.run("/bin/bash", "-c", script, uid=USER_UID, env=DESKTOP, **options).stdout
+        return services.as_user(self.machine, script, **options)
 
     def connect(self, strict=0, **options):
         return self.machine.connect(strict=strict, env=SESSION, **options)
@@ -26,14 +25,13 @@ class Gnome(Desktop):
     @classmethod
     def setUpClass(cls):
         super().setUpClass()
-        cls.machine.run("dbus-daemon", "--session", f"--address=unix:path=/run/user/{USER_UID}/bus", "--fork",
-                        uid=USER_UID, env=DESKTOP)
+        services.start_session_bus(cls.machine)
 
     def setUp(self):
         self.as_user("dconf reset -f /system/proxy/")
 
     def settings(self):
-        return self.as_user("gsettings list-recursively org.gnome.system.proxy | sort"), self.as_user("dconf dump /system/proxy/")
+        return services.gnome_settings(self.machine)
 
     def test_is_set_and_goes_back_to_not_set(self):
         before = self.settings()
@@ -86,8 +84,7 @@ class Gnome(Desktop):
 
 class GnomeWithoutSession(Desktop):
     def test_restores_after_the_user_has_logged_out(self):
-        self.machine.run("dbus-daemon", "--session", f"--address=unix:path=/run/user/{USER_UID}/bus", "--fork",
-                         uid=USER_UID, env=DESKTOP)
+        services.start_session_bus(self.machine)
         self.as_user("gsettings set org.gnome.system.proxy.socks host before")
         before = self.as_user("dconf dump /system/proxy/")
         self.connect()

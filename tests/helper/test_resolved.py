@@ -2,32 +2,18 @@
 VELDMARK_RESOLVED names the folder (dpkg -x of Debian's systemd-resolved; never install it for this, it takes over the
 system's resolver)."""
 
-import os
 import subprocess
-import sys
 
 import namespace
+import services
 from namespace import HelperTest
-
-ROOT = os.environ.get("VELDMARK_RESOLVED", "/")
-DAEMON = os.path.join(ROOT, "lib/systemd/systemd-resolved")
-POLICY = os.path.join(ROOT, "usr/share/dbus-1/system.d/org.freedesktop.resolve1.conf")
 
 
 class Resolved(HelperTest):
     @classmethod
     def setUpClass(cls):
         super().setUpClass()
-        cls.machine.shell("""
-            mount -t overlay -o "lowerdir=$1/usr/bin:/usr/bin" private /usr/bin
-            grep -q ^systemd-resolve: /etc/passwd || { echo 'systemd-resolve:x:990:990::/:/usr/sbin/nologin' >>/etc/passwd; echo 'systemd-resolve:x:990:' >>/etc/group; }
-            mkdir -p /run/dbus /run/systemd/resolve /etc/dbus-1/system.d; chown systemd-resolve:systemd-resolve /run/systemd/resolve
-            cp "$2" /etc/dbus-1/system.d/; dbus-daemon --system --fork
-            for n in 0 1; do ip link add w$n type veth peer name p$n; ip link set w$n up; ip link set p$n up; ip addr add 192.0.2.1$n/24 dev w$n; done
-        """, ROOT.rstrip("/") or "", POLICY)
-        cls.daemon = cls.machine.start(DAEMON, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        cls.machine.shell("until resolvectl dns >/dev/null 2>&1; do :; done; ln -sf /run/systemd/resolve/stub-resolv.conf /etc/resolv.conf;"
-                          "until [ -s /etc/resolv.conf ]; do :; done")
+        cls.daemon = services.start_resolved(cls.machine)
 
     @classmethod
     def tearDownClass(cls):
@@ -35,11 +21,11 @@ class Resolved(HelperTest):
         cls.daemon.wait()
 
     def setUp(self):
-        self.machine.shell("resolvectl dns w0 192.0.2.53 2001:db8::53 192.0.2.54:5353#dns.example; resolvectl domain w0 corp.example '~lan.example';"
-                           "resolvectl dnsovertls w0 opportunistic; resolvectl dns w1 ''")
+        services.give_links_servers(self.machine)
+        self.machine.shell("resolvectl dnssec w0 ''")
 
     def settings(self):
-        return self.machine.shell("for k in dns domain default-route dnsovertls dnssec; do echo $k; resolvectl $k; done")
+        return services.resolved_settings(self.machine)
 
     def test_links_are_switched_and_come_back(self):
         before = self.settings(), self.machine.snapshot()
@@ -61,6 +47,27 @@ class Resolved(HelperTest):
         self.machine.help("disconnect")
         self.assertIn(": 192.0.2.99\n", self.machine.shell("resolvectl dns w0"))
         self.assertIn(": 192.0.2.98\n", self.machine.shell("resolvectl dns w1"))
+
+    def test_settings_beside_the_servers_outlive_new_servers(self):
+        self.machine.shell("resolvectl dnssec w0 yes")
+        before = self.settings()
+        for fixed in True, False:
+            self.machine.connect()
+            self.machine.shell("resolvectl dns w0 192.0.2.99")
+            if fixed:
+                self.machine.help("fix-dns")
+            self.assertRegex(self.machine.shell("resolvectl dnssec w0"), r": no\n")
+            self.machine.help("disconnect")
+            self.assertIn(": 192.0.2.99\n", self.machine.shell("resolvectl dns w0"))
+            self.machine.shell("resolvectl dns w0 192.0.2.53 2001:db8::53 192.0.2.54:5353#dns.example")
+            self.assertEqual(self.settings(), before)
+
+    def test_settings_that_a_link_got_meanwhile_stay(self):
+        self.machine.connect()
+        self.machine.shell("resolvectl dnsovertls w0 yes; resolvectl dnssec w0 allow-downgrade")
+        self.machine.help("disconnect")
+        self.assertRegex(self.machine.shell("resolvectl dnsovertls w0"), ": yes\n")
+        self.assertRegex(self.machine.shell("resolvectl dnssec w0"), ": allow-downgrade\n")
 
     def test_without_the_helper_a_link_is_reverted_by_hand(self):
         """As the README says it."""
@@ -95,7 +102,5 @@ class Resolved(HelperTest):
 
 if __name__ == "__main__":
     namespace.require_namespaces()
-    if not (os.path.exists(DAEMON) and os.path.exists(POLICY)):
-        print("systemd-resolved is not here: unpack its package and name the folder in VELDMARK_RESOLVED.")
-        sys.exit(77)
+    services.require_resolved()
     namespace.main()

@@ -272,11 +272,13 @@ class Session(HelperTest):
 
     def test_fix_dns_puts_back_the_mount_and_flushed_rules(self):
         self.machine.connect()
+        self.machine.await_watcher()
         during = self.machine.snapshot()
         self.machine.end_watcher()
         self.machine.shell("umount /etc/resolv.conf; nft flush ruleset")
         self.assertNotEqual(self.machine.snapshot(), during)
         self.machine.help("fix-dns")
+        self.machine.await_watcher()
         self.assertEqual(self.machine.snapshot(), during)
 
     def test_fix_dns_without_a_session_is_refused(self):
