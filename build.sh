@@ -200,7 +200,8 @@ test)
     unpack_services
     mkdir -p build/test
     status=0
-    ctest --preset dev --parallel 2 --output-junit ../test/junit.xml "$@" || status=$?
+    # Two processors; cmake/Veldmark.cmake says how many places a test takes.
+    ctest --preset dev --parallel 4 --output-junit ../test/junit.xml "$@" || status=$?
     /usr/bin/python3 tests/skipped.py build/test/junit.xml
     exit "$status"
     ;;

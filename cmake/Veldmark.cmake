@@ -45,5 +45,28 @@ function(veldmark_test path)
     target_link_libraries(${name} PRIVATE veldmark_support ${arg_ROOMS} ${arg_LINK} Qt6::Test)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
     add_test(NAME unit/${path} COMMAND ${name})
-    set_tests_properties(unit/${path} PROPERTIES TIMEOUT 120 LABELS unit)
+    set_tests_properties(unit/${path} PROPERTIES TIMEOUT 120 LABELS unit PROCESSORS 2)
+endfunction()
+
+# ./build.sh test gives CTest twice as many places as it uses processors. A test that keeps one busy takes two of them (PROCESSORS
+# 2), a lab, which mostly waits for Tor, takes one.
+
+# veldmark_script_test(NAME [BUSY] [COST seconds] [SCRIPT name] [ARGUMENTS word…])
+# The folder's own test_NAME.py or SCRIPT.py, known to CTest as FOLDER/NAME; status 77 is a skip. COST: about how long it takes,
+# since what takes long is better begun early. What the tests of a folder have in common it sets at its end.
+function(veldmark_script_test name)
+    cmake_parse_arguments(arg "BUSY" "COST;SCRIPT" "ARGUMENTS" ${ARGN})
+    get_filename_component(folder "${CMAKE_CURRENT_SOURCE_DIR}" NAME)
+    if(NOT arg_SCRIPT)
+        set(arg_SCRIPT test_${name})
+    endif()
+    add_test(NAME ${folder}/${name}
+        COMMAND /usr/bin/python3 "${CMAKE_CURRENT_SOURCE_DIR}/${arg_SCRIPT}.py" ${arg_ARGUMENTS})
+    set_tests_properties(${folder}/${name} PROPERTIES LABELS ${folder} TIMEOUT 1200 SKIP_RETURN_CODE 77)
+    if(arg_BUSY)
+        set_tests_properties(${folder}/${name} PROPERTIES PROCESSORS 2)
+    endif()
+    if(arg_COST)
+        set_tests_properties(${folder}/${name} PROPERTIES COST ${arg_COST})
+    endif()
 endfunction()

@@ -6,6 +6,35 @@ readonly STOP_POLLS=100    # of about 0.1 s: launchd kills what has not ended af
 
 readonly JOB_PROCESS='"PID" = ([0-9]+);'
 
+# print_job LABEL WORD...: the description of a job that runs the words, of safe characters only, as soon as it is loaded.
+# Standard input: its other keys.
+print_job() {
+  local word
+  cat <<END
+<?xml version="1.0" encoding="UTF-8"?>
+<!DOCTYPE plist PUBLIC "-//Apple//DTD PLIST 1.0//EN" "http://www.apple.com/DTDs/PropertyList-1.0.dtd">
+<plist version="1.0">
+<dict>
+	<key>Label</key>
+	<string>$1</string>
+	<key>ProgramArguments</key>
+	<array>
+END
+  for word in "${@:2}"; do printf '\t\t<string>%s</string>\n' "$word"; done
+  printf '\t</array>\n'
+  cat
+  cat <<END
+	<key>WorkingDirectory</key>
+	<string>/</string>
+	<key>RunAtLoad</key>
+	<true/>
+	<key>ProcessType</key>
+	<string>Interactive</string>
+</dict>
+</plist>
+END
+}
+
 # job_process LABEL: prints the process id of a job; nothing when it is loaded but does not run. Status 1: not loaded;
 # 2: launchd did not tell.
 job_process() {

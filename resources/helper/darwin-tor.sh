@@ -9,21 +9,8 @@ readonly TOR_JOB=$RUN/tor.plist           # 0644
 readonly LAUNCHD_OUT=$RUN/launchd.out     # what Tor prints before its log stands
 readonly START_POLLS=100   # of about 0.1 s: Tor opens its control port within 10 s or it failed
 
-# print_job: the paths are of safe characters only.
-print_job() {
-  cat <<END
-<?xml version="1.0" encoding="UTF-8"?>
-<!DOCTYPE plist PUBLIC "-//Apple//DTD PLIST 1.0//EN" "http://www.apple.com/DTDs/PropertyList-1.0.dtd">
-<plist version="1.0">
-<dict>
-	<key>Label</key>
-	<string>$TOR_LABEL</string>
-	<key>ProgramArguments</key>
-	<array>
-		<string>$OPT_TOR</string>
-		<string>-f</string>
-		<string>$TORRC</string>
-	</array>
+print_tor_job() {
+  print_job "$TOR_LABEL" "$OPT_TOR" -f "$TORRC" <<END
 	<key>UserName</key>
 	<string>$TOR_ACCOUNT</string>
 	<key>GroupName</key>
@@ -39,24 +26,16 @@ print_job() {
 		<key>PATH</key>
 		<string>$PATH</string>
 	</dict>
-	<key>WorkingDirectory</key>
-	<string>/</string>
 	<key>Umask</key>
 	<integer>63</integer>
 	<key>StandardOutPath</key>
 	<string>$LAUNCHD_OUT</string>
 	<key>StandardErrorPath</key>
 	<string>$LAUNCHD_OUT</string>
-	<key>RunAtLoad</key>
-	<true/>
 	<key>KeepAlive</key>
 	<false/>
 	<key>ExitTimeOut</key>
 	<integer>4</integer>
-	<key>ProcessType</key>
-	<string>Interactive</string>
-</dict>
-</plist>
 END
 }
 
@@ -83,7 +62,7 @@ start_tor() {
   local process poll output status
   put_in_place "$TORRC.checked" "$TORRC" || die "The file $TORRC cannot be written."
   ready_logs || die "Tor's log files cannot be made."
-  write_file "$TOR_JOB" 0644 root "$(print_job)"$'\n' || die "The file $TOR_JOB cannot be written."
+  write_file "$TOR_JOB" 0644 root "$(print_tor_job)"$'\n' || die "The file $TOR_JOB cannot be written."
   journal_put "$TOR_ENTRY" "label $TOR_LABEL" || die "The journal cannot be written."
   output=$(start_job "$TOR_LABEL" "$TOR_JOB" 2>&1) || {
     output=${output%%$'\n'*}

@@ -54,24 +54,7 @@ print_watcher() {
 
 # print_watch_job: begun again unless it ended by itself, at the end of the session.
 print_watch_job() {
-  cat <<END
-<?xml version="1.0" encoding="UTF-8"?>
-<!DOCTYPE plist PUBLIC "-//Apple//DTD PLIST 1.0//EN" "http://www.apple.com/DTDs/PropertyList-1.0.dtd">
-<plist version="1.0">
-<dict>
-	<key>Label</key>
-	<string>$WATCH_LABEL</string>
-	<key>ProgramArguments</key>
-	<array>
-		<string>/bin/bash</string>
-		<string>-p</string>
-		<string>--</string>
-		<string>$WATCHER</string>
-	</array>
-	<key>WorkingDirectory</key>
-	<string>/</string>
-	<key>RunAtLoad</key>
-	<true/>
+  print_job "$WATCH_LABEL" /bin/bash -p -- "$WATCHER" <<END
 	<key>KeepAlive</key>
 	<dict>
 		<key>SuccessfulExit</key>
@@ -79,10 +62,6 @@ print_watch_job() {
 	</dict>
 	<key>ThrottleInterval</key>
 	<integer>1</integer>
-	<key>ProcessType</key>
-	<string>Interactive</string>
-</dict>
-</plist>
 END
 }
 

@@ -119,6 +119,7 @@ class Firewall(HelperTest):
             self.machine.connect(strict=strict, env={"PATH": "/usr/bin:/bin", "PKEXEC_UID": str(USER_UID)})
             self.assertTrue(self.control_port(USER_UID))
             self.assertTrue(self.control_port(0))
+            self.assertTrue(self.control_port(int(self.machine.tor_uid)))
             self.assertFalse(self.control_port(4243))
 
     def test_other_tables_stay(self):

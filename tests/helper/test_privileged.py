@@ -37,6 +37,7 @@ class Privileged(HelperTest):
 
     def test_rule_lets_in_that_user_with_that_helper_alone(self):
         self.install()
+        self.assertEqual(self.sudo(INSTALLED, "disconnect").returncode, 0)
         for words in (["/bin/bash"], ["/bin/bash", INSTALLED, "disconnect"], ["/usr/bin/id"],
                       ["BASH_ENV=/home/alice/x", INSTALLED, "disconnect"], ["-u", "_veldmark", INSTALLED, "disconnect"]):
             self.assertNotEqual(self.sudo(*words).returncode, 0, words)

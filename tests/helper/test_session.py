@@ -57,6 +57,8 @@ class Session(HelperTest):
             self.assertRegex(status, rf"{field}:\s+0+\n")
         self.assertRegex(status, r"NoNewPrivs:\s+1\n")
         self.assertRegex(status, r"Groups:\s*\n")
+        for kind in "mnt", "pid":
+            self.assertEqual(len(set(self.machine.shell(f"readlink /proc/{pid}/ns/{kind} /proc/1/ns/{kind}").split())), 2, kind)
         self.assertNotIn("veldmark.lock", self.machine.shell(f"ls -l /proc/{pid}/fd"))
         launcher = self.machine.shell(f"ps -o ppid= -p {pid}").strip()
         self.assertNotIn("veldmark.lock", self.machine.shell(f"ls -l /proc/{launcher}/fd"))
@@ -229,6 +231,22 @@ class Session(HelperTest):
         self.machine.help("disconnect")
         self.machine.shell("test -e /etc/hosts; chmod 0700 /var/lib/veldmark/journal")
         self.machine.help("disconnect")
+
+    def test_links_are_replaced_and_never_followed(self):
+        """Where a link stands, a new file takes its place; a folder or a lock that is one is refused."""
+        self.machine.shell("echo mine >/run/mine; cd /var/lib/veldmark; for name in state/active state/active.new journal/10-firewall journal/20-tor.new"
+                           " run/torrc run/torrc.checked run/firewall.nft run/firewall.nft.new run/notices.log run/launcher.out run/tor-resolv.conf;"
+                           " do ln -sf /run/mine $name; done")
+        before = self.machine.shell("stat -c '%i %a %u %Y' /run/mine")
+        self.machine.connect()
+        self.assertEqual(self.marker(), "strict\n")
+        self.assertEqual(self.machine.shell("find /var/lib/veldmark -type l"), "")
+        self.machine.help("disconnect")
+        self.assertEqual(self.machine.shell("cat /run/mine; stat -c '%i %a %u %Y' /run/mine"), "mine\n" + before)
+        for path, refusal in ("/var/lib/veldmark/run", "is not safe"), ("/run/veldmark.lock", "is a link"):
+            self.machine.shell('mv "$1" "$1.away" && ln -s "$1.away" "$1"', path)
+            self.assertOneLine(self.machine.connect(check=False), refusal)
+            self.machine.shell('rm "$1"; mv "$1.away" "$1"', path)
 
     def test_folder_that_others_can_write_is_refused(self):
         for folder in "/var/lib/veldmark", "/var/lib/veldmark/state", "/var/lib/veldmark/run":

@@ -61,13 +61,19 @@ ClientTransportPlugin snowflake exec /usr/bin/snowflake-client
 class Rules(unittest.TestCase):
     def test_strict_options_add_exactly_their_lines(self):
         def lines(arguments):
-            return set(call(f"print_strict_rules 99 1000 {arguments}").splitlines())
-        plain = lines("0 0 '' ''")
-        self.assertEqual(lines("0 1 '' ''") - plain, {"\t\tmeta skuid 99 meta l4proto udp accept"})
-        self.assertEqual(lines("0 0 192.0.2.1 2001:db8::1") - plain,
-                         {"\t\tmeta skuid 99 ip daddr { 192.0.2.1 } udp dport 53 accept",
-                          "\t\tmeta skuid 99 ip6 daddr { 2001:db8::1 } udp dport 53 accept"})
-        opened = lines("1 0 '' ''") - plain
+            text = call(f"print_strict_rules 99 1000 {arguments}")
+            self.assertEqual(re.findall(r"(.*) jump tors_account", text), ["\t\tmeta skuid 99"])
+            account = re.search(r"chain tors_account {\n(.*?)\t}", text, re.DOTALL).group(1)
+            return set(text.splitlines()), account.splitlines()
+        plain, account = lines("0 0 '' ''")
+        self.assertEqual(account, ["\t\tmeta l4proto tcp accept"])
+        for arguments, added in (("0 1 '' ''", ["\t\tmeta l4proto udp accept"]),
+                                 ("0 0 192.0.2.1 2001:db8::1", ["\t\tip daddr { 192.0.2.1 } udp dport 53 accept",
+                                                               "\t\tip6 daddr { 2001:db8::1 } udp dport 53 accept"])):
+            more, account_more = lines(arguments)
+            self.assertEqual(account_more, account + added)
+            self.assertEqual(more - plain, set(added))
+        opened = lines("1 0 '' ''")[0] - plain
         self.assertIn("\t\tip daddr 192.168.0.0/16 goto local_network", opened)
         self.assertIn("\t\tip6 daddr fc00::/7 goto local_network", opened)
 

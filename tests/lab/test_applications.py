@@ -11,7 +11,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parent))
 
 from test_connect import PROGRAMS, SKIPPED, LabCase  # noqa: E402
 from veldlab import topology as at  # noqa: E402
-from veldlab.product import Product  # noqa: E402
+from veldlab.product import Product, is_probed  # noqa: E402
 
 ENTRY = "/usr/local/share/applications/org.example.Sample.desktop"
 # Asks for its address, tells it, and stays until it is asked to quit.
@@ -92,7 +92,7 @@ class Applications(LabCase):
 
     def test_opens_one_application_while_all_else_stays_locked(self):
         with self.product.session() as session:
-            session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"])
+            session.wait(is_probed)
             # Opened in the ordinary way it gets no answer: the kill switch stands.
             self.alice("/bin/sh", "-c", f"gio launch {ENTRY} >/dev/null 2>&1", check=True)
             self.assertNotIn('"IP"', self.answer())
@@ -120,7 +120,7 @@ class Applications(LabCase):
         self.lab.host.write("/usr/local/bin/soon-gone", "#!/bin/sh\n", mode=0o755)
         self.addCleanup(self.lab.host.run, ["rm", "-f", "/usr/local/share/applications/broken.desktop"])
         with self.product.session() as session:
-            session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"])
+            session.wait(is_probed)
             self.lab.host.run(["rm", "/usr/local/bin/soon-gone"], check=True)
             status, line = self.refused("launch", "/usr/local/share/applications/broken.desktop")
             self.assertEqual(status, 1)
@@ -130,7 +130,7 @@ class Applications(LabCase):
     def test_nothing_is_opened_in_proxy_mode(self):
         self.set("strictMode", "false")
         with self.product.session() as session:
-            session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"])
+            session.wait(is_probed)
             self.assertEqual(self.refused("launch", "Sample"),
                              (1, "veldmarkctl: Connect in strict mode to open apps without Tor\n"))
             self.assertEqual(session.interrupt(), 0, session.output)

@@ -14,6 +14,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parent))
 from test_connect import PROGRAMS, SKIPPED, LabCase  # noqa: E402
 from test_deadline import FAST_FORWARD, RESTORE, TIMEOUT  # noqa: E402
 from veldlab import topology as at  # noqa: E402
+from veldlab.product import is_probed  # noqa: E402
 
 OBFS4 = next(node for node in at.BRIDGES if node.transport == "obfs4")
 PLAIN = next(node for node in at.BRIDGES if not node.transport)
@@ -43,7 +44,7 @@ class Bridges(LabCase):
     def connect_by(self, bridge):
         """Connects, and asserts that the bridge is all that the host talks to."""
         with self.lab.capture() as capture, self.product.session() as session:
-            state = session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"] and s["exitIP"])
+            state = session.wait(is_probed)
             self.assertEqual(state["activeBridge"], "custom")
             self.assertIn(state["exitIP"], self.lab.tor.exits)
             self.assertEqual(state["leakStatus"], "blocked")
@@ -73,7 +74,7 @@ class Bridges(LabCase):
     def test_the_first_hop_of_a_circuit_is_the_bridge_with_its_address(self):
         self.use(self.lab.tor.bridge_line("obfs4"))
         with self.product.session() as session:
-            session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"])
+            session.wait(is_probed)
             with self.download(at.WEB_HOSTS[0]):
                 for circuit in self.circuits_to(at.WEB_ADDRESS):
                     self.assertEqual((circuit["hops"][0]["ip"], circuit["hops"][0]["country"]), (OBFS4.address, "no"))
@@ -109,7 +110,7 @@ class Bridges(LabCase):
         self.stand_in(script)
         self.use(f"webtunnel 192.0.2.3:1 {plain[1]} url=https://{at.WEB_HOSTS[0]}/")
         with self.lab.capture() as capture, self.product.session() as session:
-            session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"] and s["exitIP"])
+            session.wait(is_probed)
             found, resolver = self.lab.host.read("/var/lib/veldmark/run/data/pt_state/front").split("\n", 1)
             self.assertEqual(found, at.WEB_ADDRESS)
             self.assertIn(f"nameserver {at.DNS_ADDRESS}", resolver)
@@ -206,7 +207,7 @@ class Bridges(LabCase):
             for node, delay in delays.items():
                 shaped.enter_context(self.lab.netem(to=node.address, delay_ms=delay))
             with self.lab.capture() as capture, self.product.session() as session:
-                session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"])
+                session.wait(is_probed)
                 torrc = self.lab.host.read("/var/lib/veldmark/run/torrc")
                 seen = len(capture.packets)
                 self.assertEqual(session.interrupt(), 0, session.output)

@@ -14,6 +14,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parent))
 from test_connect import PROGRAMS, SKIPPED, LabCase  # noqa: E402
 from test_deadline import FAST_FORWARD  # noqa: E402
 from veldlab import topology as at  # noqa: E402
+from veldlab.product import is_probed  # noqa: E402
 
 COUNTRIES = {node.address: node.country for node in at.NODES}
 SLOW_MS = 1501
@@ -22,7 +23,7 @@ SLOW_MS = 1501
 class Circuits(LabCase):
     def connected(self):
         session = self.enterContext(self.product.session())
-        session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"] and s["exitIP"])
+        session.wait(is_probed)
         return session
 
     def circuits(self):

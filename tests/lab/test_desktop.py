@@ -15,7 +15,7 @@ from test_connect import MARKER, PROGRAMS, SKIPPED, STRICT_DEATH, LabCase  # noq
 from veldlab import desktop as person  # noqa: E402
 from veldlab import requirements  # noqa: E402
 from veldlab import topology as at  # noqa: E402
-from veldlab.product import Product, difference  # noqa: E402
+from veldlab.product import Product, difference, is_probed  # noqa: E402
 
 LOCK = "/run/veldmark.lock"
 
@@ -70,7 +70,7 @@ class DesktopCase(LabCase):
 
     def connect(self):
         self.window.click("push button", "Connect to Tor")
-        return self.wait_state(lambda s: s["phase"] == "connected" and not s["isChecking"] and s["exitIP"])
+        return self.wait_state(is_probed)
 
 
 class ByClicking(DesktopCase):
@@ -118,6 +118,7 @@ class ByClicking(DesktopCase):
 
     def test_a_leak_that_a_check_finds_is_told(self):
         self.connect()
+        self.wait_state(lambda s: not s["isChecking"])
         self.lab.host.run(["umount", "/etc/resolv.conf"], check=True)  # as a network manager writes the file anew
         self.window.click("push button", "Leak Test")
         self.desktop.wait_notification("Lookups can go around Tor")

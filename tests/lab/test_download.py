@@ -24,6 +24,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parent))
 from test_connect import SKIPPED, LabCase  # noqa: E402
 from veldlab import topology as at  # noqa: E402
 from veldlab.lab import PROJECT  # noqa: E402
+from veldlab.product import is_probed  # noqa: E402
 
 INSTALL = os.environ.get("VELDMARK_INSTALL_BUNDLE", str(PROJECT / "build" / "dev" / "tests" / "InstallBundle"))
 INDEX_HOST, ARCHIVE_HOST, KEY_HOST = "aus1.torproject.org", "dist.torproject.org", "keys.openpgp.org"
@@ -173,7 +174,7 @@ class Download(LabCase):
     def test_through_tor_no_server_is_met_directly(self):
         self.offer("14.0", bundle("14"))
         with self.product.session() as session:
-            session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"])
+            session.wait(is_probed)
             since = len(self.lab.world.web_log())
             with self.lab.capture() as capture:
                 last, _ = self.install("tor")
@@ -339,7 +340,7 @@ class Download(LabCase):
             self.assertEqual(found["bundle"], {"version": "14.5", "verification": "https"})
             self.set("bridgeChoice", "obfs4")
             with self.product.session() as session:
-                state = session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"] and s["exitIP"])
+                state = session.wait(is_probed)
                 self.assertEqual(state["activeBridge"], "obfs4")
                 since = len(self.lab.world.web_log())
                 with self.lab.capture() as capture:

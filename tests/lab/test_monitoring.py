@@ -13,6 +13,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parent))
 from test_connect import SKIPPED, LabCase  # noqa: E402
 from veldlab import shell  # noqa: E402
 from veldlab import topology as at  # noqa: E402
+from veldlab.product import is_probed  # noqa: E402
 
 AMOUNT = 3_000_000
 NOTICES = "/var/lib/veldmark/run/notices.log"
@@ -22,7 +23,7 @@ STARTUP = "/var/lib/veldmark/run/start.out"
 class Counters(LabCase):
     def connected(self):
         session = self.enterContext(self.product.session())
-        session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"] and s["bytesRead"] > 0)
+        session.wait(lambda s: is_probed(s) and s["bytesRead"] > 0)
         return session
 
     def test_they_move_with_the_traffic(self):

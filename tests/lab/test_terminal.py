@@ -15,7 +15,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parent))
 from test_connect import PROGRAMS, SKIPPED, LabCase  # noqa: E402
 from veldlab import shell, ssh_server  # noqa: E402
 from veldlab import topology as at  # noqa: E402
-from veldlab.product import Product  # noqa: E402
+from veldlab.product import Product, is_probed  # noqa: E402
 
 PROXY = "socks5h://127.0.0.1:9050"
 NO_PROXY = "localhost,127.0.0.1,::1"
@@ -50,16 +50,20 @@ class TerminalCase(LabCase):
         """The program, running but not connected, with terminal mode on."""
         shell.prepare(self.lab, self.user, extra)
         self.set("strictMode", "true" if mode == "strict" else "false")
-        session = self.enterContext(self.product.session(connect=False))
-        session.wait_phase("disconnected")
+        self.running = self.enterContext(self.product.session(connect=False))
+        self.running.wait_phase("disconnected")
         self.set("terminalMode", "true")
-        return session
+        return self.running
 
     def shells(self, **options):
         return {name: self.enterContext(shell.Shell(self.lab, name, self.user, **options)) for name in ("bash", "zsh")}
 
     def connect(self):
-        self.product.run_verb("connect", check=True, timeout=120)
+        """By the command, without waiting for the test of look-ups that it ends with."""
+        command = self.lab.host.popen([self.product.ctl, "connect"], user=self.user, stdout=-3, stderr=-3)
+        self.addCleanup(command.wait)
+        self.addCleanup(command.kill)
+        self.running.wait(is_probed)
 
     def disconnect(self):
         self.product.run_verb("disconnect", check=True)

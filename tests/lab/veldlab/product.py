@@ -27,6 +27,12 @@ def difference(before: dict[str, str], after: dict[str, str]) -> str:
     return snapshot.diff(without_accounts(before), without_accounts(after))
 
 
+def is_probed(state: dict) -> bool:
+    """Connected, and the exit and the direct path have answered: nothing is asked directly any more. The test of look-ups goes on
+    for some seconds; who wants its result, or asks for another check, waits until `isChecking` is false."""
+    return state["phase"] == "connected" and state["torVerified"] is not None
+
+
 class Product:
     """`programs`: the folder with veldmarkctl and the helper. `user`: who runs it; root needs no prompt."""
 

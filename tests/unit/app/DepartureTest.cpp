@@ -11,6 +11,34 @@ using namespace std::chrono_literals;
 using namespace veldmark;
 using Phase = ConnectionPhase;
 
+namespace {
+
+enum class Helper { works, waits };
+
+// A program that is told to end. Where the helper waits, its disconnect goes on when the bench's processes are released.
+struct Leaving {
+    Workbench bench;
+    Departure departure{bench.controller(), bench.clock};
+    QSignalSpy mayEnd{&departure, &Departure::mayEnd};
+
+    bool connects(Helper helper = Helper::works)
+    {
+        if (helper == Helper::waits)
+            bench.hold(u"disconnect"_s);
+        return bench.connect();
+    }
+    bool isRestoring() const
+    {
+        return until([this] { return bench.processes.held() == 1; });
+    }
+    bool ends(bool restored) const
+    {
+        return until([this] { return mayEnd.count() == 1; }) && mayEnd.at(0).at(0).toBool() == restored;
+    }
+};
+
+} // namespace
+
 class DepartureTest : public QObject {
     Q_OBJECT
 
@@ -25,140 +53,113 @@ private Q_SLOTS:
     void aSignalRestoresTheNetworkFirst()
     {
         QFETCH(int, number);
-        Workbench bench;
-        QVERIFY(bench.connect());
-        bench.hold(u"disconnect"_s);
-        Departure departure(bench.controller(), bench.clock);
-        QSignalSpy mayEnd(&departure, &Departure::mayEnd);
-        departure.onSignal(number);
-        QVERIFY(until([&] { return bench.processes.held() == 1; }));
+        Leaving leaving;
+        QVERIFY(leaving.connects(Helper::waits));
+        leaving.departure.onSignal(number);
+        QVERIFY(leaving.isRestoring());
         settle();
-        QCOMPARE(mayEnd.count(), 0);
-        bench.processes.release();
-        QVERIFY(until([&] { return mayEnd.count() == 1; }));
-        QCOMPARE(mayEnd.at(0).at(0).toBool(), true);
-        QVERIFY(!bench.hasMarker());
+        QCOMPARE(leaving.mayEnd.count(), 0);
+        leaving.bench.processes.release();
+        QVERIFY(leaving.ends(true));
+        QVERIFY(!leaving.bench.hasMarker());
     }
 
     void theSecondSignalEndsAtOnce()
     {
-        Workbench bench;
-        QVERIFY(bench.connect());
-        bench.hold(u"disconnect"_s);
-        Departure departure(bench.controller(), bench.clock);
-        QSignalSpy mayEnd(&departure, &Departure::mayEnd);
-        departure.onSignal(SIGTERM);
-        QVERIFY(until([&] { return bench.processes.held() == 1; }));
-        departure.onSignal(SIGHUP); // what a session's end sends with it
+        Leaving leaving;
+        QVERIFY(leaving.connects(Helper::waits));
+        leaving.departure.onSignal(SIGTERM);
+        QVERIFY(leaving.isRestoring());
+        leaving.departure.onSignal(SIGHUP); // what a session's end sends with it
         settle();
-        QCOMPARE(mayEnd.count(), 0);
-        departure.onSignal(SIGINT);
-        QCOMPARE(mayEnd.count(), 1);
-        QCOMPARE(mayEnd.at(0).at(0).toBool(), false);
+        QCOMPARE(leaving.mayEnd.count(), 0);
+        leaving.departure.onSignal(SIGINT);
+        QCOMPARE(leaving.mayEnd.count(), 1);
+        QVERIFY(leaving.ends(false));
     }
 
     void aHangUpThatComesFirstIsNoFirstSignal()
     {
-        Workbench bench;
-        QVERIFY(bench.connect());
-        bench.hold(u"disconnect"_s);
-        Departure departure(bench.controller(), bench.clock);
-        QSignalSpy mayEnd(&departure, &Departure::mayEnd);
-        departure.onSignal(SIGHUP);
-        departure.onSignal(SIGTERM);
-        QVERIFY(until([&] { return bench.processes.held() == 1; }));
+        Leaving leaving;
+        QVERIFY(leaving.connects(Helper::waits));
+        leaving.departure.onSignal(SIGHUP);
+        leaving.departure.onSignal(SIGTERM);
+        QVERIFY(leaving.isRestoring());
         settle();
-        QCOMPARE(mayEnd.count(), 0);
+        QCOMPARE(leaving.mayEnd.count(), 0);
     }
 
     void losesPatienceWithAHelperThatNeverEnds()
     {
-        Workbench bench;
-        QVERIFY(bench.connect());
-        bench.hold(u"disconnect"_s);
-        Departure departure(bench.controller(), bench.clock);
-        QSignalSpy mayEnd(&departure, &Departure::mayEnd);
-        departure.onSignal(SIGTERM);
-        QVERIFY(until([&] { return bench.processes.held() == 1; }));
-        bench.clock.advance(Departure::patience - 1ms);
+        Leaving leaving;
+        QVERIFY(leaving.connects(Helper::waits));
+        leaving.departure.onSignal(SIGTERM);
+        QVERIFY(leaving.isRestoring());
+        leaving.bench.clock.advance(Departure::patience - 1ms);
         settle();
-        QCOMPARE(mayEnd.count(), 0);
-        bench.clock.advance(1ms);
-        QVERIFY(until([&] { return mayEnd.count() == 1; }));
-        QCOMPARE(mayEnd.at(0).at(0).toBool(), false);
-        QVERIFY(bench.hasMarker());
+        QCOMPARE(leaving.mayEnd.count(), 0);
+        leaving.bench.clock.advance(1ms);
+        QVERIFY(leaving.ends(false));
+        QVERIFY(leaving.bench.hasMarker());
     }
 
     void aRefusalLetsItEndAndSaysSo()
     {
-        Workbench bench;
-        QVERIFY(bench.connect());
-        bench.failHelper(u"disconnect"_s, u"Could not."_s);
-        Departure departure(bench.controller(), bench.clock);
-        QSignalSpy mayEnd(&departure, &Departure::mayEnd);
-        departure.onSignal(SIGTERM);
-        QVERIFY(until([&] { return mayEnd.count() == 1; }));
-        QCOMPARE(mayEnd.at(0).at(0).toBool(), false);
-        QVERIFY(bench.hasMarker());
+        Leaving leaving;
+        QVERIFY(leaving.connects());
+        leaving.bench.failHelper(u"disconnect"_s, u"Could not."_s);
+        leaving.departure.onSignal(SIGTERM);
+        QVERIFY(leaving.ends(false));
+        QVERIFY(leaving.bench.hasMarker());
     }
 
     void theSessionsEndRestoresFirstToo()
     {
-        Workbench bench;
-        QVERIFY(bench.connect());
-        Departure departure(bench.controller(), bench.clock);
-        QSignalSpy mayEnd(&departure, &Departure::mayEnd);
-        departure.leave();
-        departure.onSignal(SIGTERM); // what follows it, soon; still the first of its kind
-        QCOMPARE(mayEnd.count(), 0);
-        QVERIFY(until([&] { return mayEnd.count() == 1; }));
-        QCOMPARE(mayEnd.at(0).at(0).toBool(), true);
-        QVERIFY(!bench.hasMarker());
-        QCOMPARE(bench.helperRunCount(u"disconnect"_s), 1);
+        Leaving leaving;
+        QVERIFY(leaving.connects());
+        leaving.departure.leave();
+        leaving.departure.onSignal(SIGTERM); // what follows it, soon; still the first of its kind
+        QCOMPARE(leaving.mayEnd.count(), 0);
+        QVERIFY(leaving.ends(true));
+        QVERIFY(!leaving.bench.hasMarker());
+        QCOMPARE(leaving.bench.helperRunCount(u"disconnect"_s), 1);
     }
 
     void aRestoreAloneEndsNothing()
     {
-        Workbench bench;
-        QVERIFY(bench.connect());
-        Departure departure(bench.controller(), bench.clock);
-        QSignalSpy mayEnd(&departure, &Departure::mayEnd);
-        QSignalSpy settled(&departure, &Departure::settled);
-        departure.restore();
+        Leaving leaving;
+        QVERIFY(leaving.connects());
+        QSignalSpy settled(&leaving.departure, &Departure::settled);
+        leaving.departure.restore();
         QVERIFY(until([&] { return settled.count() == 1; }));
         QCOMPARE(settled.at(0).at(0).toBool(), true);
-        QCOMPARE(mayEnd.count(), 0);
-        QVERIFY(bench.controller().phase() == Phase::disconnected);
+        QCOMPARE(leaving.mayEnd.count(), 0);
+        QVERIFY(leaving.bench.controller().phase() == Phase::disconnected);
     }
 
     void patienceIsLostAgainWithAHelperThatStillHangs()
     {
-        Workbench bench;
-        QVERIFY(bench.connect());
-        bench.hold(u"disconnect"_s);
-        Departure departure(bench.controller(), bench.clock);
-        QSignalSpy settledSpy(&departure, &Departure::settled);
+        Leaving leaving;
+        QVERIFY(leaving.connects(Helper::waits));
+        QSignalSpy settledSpy(&leaving.departure, &Departure::settled);
         for (int time = 1; time <= 2; ++time) {
-            departure.restore();
-            QVERIFY(until([&] { return bench.processes.held() == 1; }));
-            bench.clock.advance(Departure::patience);
+            leaving.departure.restore();
+            QVERIFY(leaving.isRestoring());
+            leaving.bench.clock.advance(Departure::patience);
             QVERIFY(until([&] { return settledSpy.count() == time; }));
             QCOMPARE(settledSpy.last().at(0).toBool(), false);
         }
-        bench.processes.release(); // late, but it is done
+        leaving.bench.processes.release(); // late, but it is done
         QVERIFY(until([&] { return settledSpy.count() == 3; }));
         QCOMPARE(settledSpy.last().at(0).toBool(), true);
     }
 
     void nothingToRestoreIsNoDelay()
     {
-        Workbench bench;
-        Departure departure(bench.controller(), bench.clock);
-        QSignalSpy mayEnd(&departure, &Departure::mayEnd);
-        departure.onSignal(SIGTERM);
-        QVERIFY(until([&] { return mayEnd.count() == 1; }));
-        QCOMPARE(mayEnd.at(0).at(0).toBool(), true);
-        QCOMPARE(bench.helperRunCount(u"disconnect"_s), 0);
+        Leaving leaving;
+        leaving.departure.onSignal(SIGTERM);
+        QVERIFY(leaving.ends(true));
+        QCOMPARE(leaving.bench.helperRunCount(u"disconnect"_s), 0);
     }
 };
 

@@ -1,3 +1,4 @@
+#include "DNSSettings.h"
 #include "support/NameLookups.h"
 #include "support/Workbench.h"
 
@@ -7,27 +8,6 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace veldmark;
-using Phase = ConnectionPhase;
-using System = Workbench::System;
-
-namespace {
-
-DNSResolver resolver(const QStringList &servers, std::optional<QString> domain = {},
-                     std::optional<QString> interface = {})
-{
-    DNSResolver result;
-    result.nameservers = servers;
-    result.domain = std::move(domain);
-    result.interface = std::move(interface);
-    return result;
-}
-
-const std::vector<DNSResolver> throughTor = {resolver({u"127.0.0.1"_s, u"::1"_s})};
-const std::vector<DNSResolver> leaking = {resolver({u"192.168.1.1"_s}, {}, u"en0"_s),
-                                          resolver({u"127.0.0.1"_s, u"10.8.0.1"_s}, u"corp"_s, u"utun2"_s)};
-const DNSStatus leak = DNSStatus::leak({u"192.168.1.1 on en0"_s, u"10.8.0.1 for *.corp on utun2"_s});
-
-} // namespace
 
 class DNSTest : public QObject {
     Q_OBJECT
@@ -254,150 +234,6 @@ private Q_SLOTS:
         const auto later = c.checkDNS(false); // nor did the old test prove anything about this session
         QVERIFY(Workbench::finished(later));
         QCOMPARE(c.dnsStatus().name(), reconnects ? u"unverified"_s : u"unknown"_s);
-    }
-
-    void fixing_data()
-    {
-        QTest::addColumn<System>("system");
-        QTest::addColumn<bool>("helps");
-        QTest::addColumn<QString>("message");
-        const QString text = u"Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point "
-                             "around Tor: 192.168.1.1 on en0; 10.8.0.1 for *.corp on utun2. Strict mode's firewall "
-                             "blocks them."_s;
-        QTest::newRow("helps") << System::linux << true << QString();
-        QTest::newRow("does not help") << System::linux << false << text;
-        QTest::newRow("helps (macos)") << System::macos << true << QString();
-        QTest::newRow("does not help (macos)") << System::macos << false << text;
-    }
-
-    void fixing()
-    {
-        QFETCH(System, system);
-        QFETCH(bool, helps);
-        QFETCH(QString, message);
-        Workbench bench(system);
-        TorController &c = bench.controller();
-        bench.resolvers.answer = leaking;
-        QVERIFY(bench.connect());
-        QVERIFY(c.dnsStatus() == leak);
-        if (helps)
-            bench.resolvers.answer = throughTor;
-        const int tests = bench.commandCount("SETEVENTS STREAM");
-        const auto fixed = c.fixDNS();
-        QVERIFY(Workbench::finished(fixed));
-        QCOMPARE(bench.lastHelperRun(u"fix-dns"_s), QStringList(u"fix-dns"_s));
-        QCOMPARE(bench.commandCount("SETEVENTS STREAM"), tests + 1); // a live check follows
-        QVERIFY(c.dnsStatus() == (helps ? DNSStatus::unverified() : leak));
-        QCOMPARE(c.errorMessage().value_or(QString()), message);
-    }
-
-    void fixingThatIsRefused_data()
-    {
-        QTest::addColumn<System>("system");
-        QTest::addColumn<bool>("dismissed");
-        QTest::newRow("failed") << System::linux << false;
-        QTest::newRow("dismissed") << System::linux << true;
-        QTest::newRow("failed (macos)") << System::macos << false;
-        QTest::newRow("dismissed (macos)") << System::macos << true;
-    }
-
-    void fixingThatIsRefused()
-    {
-        QFETCH(System, system);
-        QFETCH(bool, dismissed);
-        Workbench bench(system);
-        TorController &c = bench.controller();
-        bench.resolvers.answer = leaking;
-        QVERIFY(bench.connect());
-        const int readings = bench.resolvers.readings;
-        if (dismissed)
-            bench.cancelPrompt(u"fix-dns"_s);
-        else
-            bench.failHelper(u"fix-dns"_s, u"No resolver."_s);
-        const auto fixing = c.fixDNS();
-        QVERIFY(Workbench::finished(fixing));
-        QCOMPARE(c.errorMessage().value_or(QString()), dismissed ? QString() : u"Couldn't fix DNS: No resolver."_s);
-        QVERIFY(c.dnsStatus() == leak);
-        QCOMPARE(bench.resolvers.readings, readings);
-        bench.letHelperWork();
-        bench.resolvers.answer = throughTor;
-        const auto again = c.fixDNS();
-        QVERIFY(Workbench::finished(again));
-        QVERIFY(!c.errorMessage()); // the old reason is over
-    }
-
-    void fixesThatRunAtOnceShareOnePrompt()
-    {
-        Workbench bench;
-        TorController &c = bench.controller();
-        bench.resolvers.answer = leaking;
-        QVERIFY(bench.connect());
-        bench.hold(u"fix-dns"_s);
-        const auto first = c.fixDNS();
-        const auto second = c.fixDNS();
-        const auto third = c.fixDNS();
-        QVERIFY(until([&] { return bench.processes.held() == 1; }));
-        settle();
-        QCOMPARE(bench.helperRunCount(u"fix-dns"_s), 1);
-        QVERIFY(!second.isReady() && !third.isReady());
-        bench.resolvers.answer = throughTor;
-        bench.processes.hold = nullptr;
-        bench.processes.release();
-        QVERIFY(Workbench::finished(first) && Workbench::finished(second) && Workbench::finished(third));
-        QVERIFY(!c.dnsStatus().isLeak()); // the check that follows was awaited by all
-        QCOMPARE(bench.helperRunCount(u"fix-dns"_s), 1);
-        QVERIFY(Workbench::finished(c.fixDNS())); // and a later one runs again
-        QCOMPARE(bench.helperRunCount(u"fix-dns"_s), 2);
-    }
-
-    void aFixOfANewSessionDoesNotWaitForAnOldOne()
-    {
-        Workbench bench;
-        TorController &c = bench.controller();
-        QVERIFY(bench.connect());
-        bench.hold(u"fix-dns"_s);
-        const auto old = c.fixDNS();
-        const auto shared = c.fixDNS();
-        QVERIFY(until([&] { return bench.processes.held() == 1; }));
-        bench.disconnect();
-        bench.processes.hold = nullptr;
-        QVERIFY(bench.connect());
-        QVERIFY(Workbench::finished(c.fixDNS()));
-        QCOMPARE(bench.helperRunCount(u"fix-dns"_s), 2);
-        bench.processes.release();
-        QVERIFY(Workbench::finished(old) && Workbench::finished(shared));
-    }
-
-    void aSharedFixEndsWithTheController()
-    {
-        Workbench bench;
-        QVERIFY(bench.connect());
-        bench.hold(u"fix-dns"_s);
-        const auto first = bench.controller().fixDNS();
-        const auto second = bench.controller().fixDNS();
-        QVERIFY(until([&] { return bench.processes.held() == 1; }));
-        bench.end();
-        QVERIFY(Workbench::finished(second));
-        bench.processes.hold = nullptr;
-        bench.processes.release();
-        QVERIFY(Workbench::finished(first));
-    }
-
-    void aFixThatEndsAfterTheSessionSaysNothing()
-    {
-        Workbench bench;
-        TorController &c = bench.controller();
-        QVERIFY(bench.connect());
-        bench.failHelper(u"fix-dns"_s, u"No resolver."_s);
-        bench.hold(u"fix-dns"_s);
-        const auto fixing = c.fixDNS();
-        QVERIFY(until([&] { return bench.processes.held() == 1; }));
-        bench.disconnect();
-        QVERIFY(c.phase() == Phase::disconnected);
-        bench.processes.hold = nullptr;
-        bench.processes.release();
-        QVERIFY(Workbench::finished(fixing));
-        QVERIFY(!c.errorMessage());
     }
 };
 

@@ -1,0 +1,207 @@
+"""What every scenario of the leak matrix stands on: the host with its identities, the router that sees everything, and the rows.
+
+A scenario that needs more (a device, a container, a proxy) arranges it itself; see test_leaks.py.
+"""
+
+import contextlib
+import os
+import subprocess
+import unittest
+from pathlib import Path
+
+from leaks import matrix, probes
+from leaks.matrix import ABSENT, CLOSED, OPEN, Matrix
+from veldlab.lab import PROJECT, Lab
+from veldlab.product import Product
+
+PROGRAMS = Path(os.environ.get("VELDMARK_PROGRAMS", PROJECT / "build" / "bin"))
+SENDER = str(Path(__file__).resolve().with_name("sender.py"))
+HASH = "16:" + "0123456789ABCDEF" * 3 + "0123456789"
+GROUP = "/sys/fs/cgroup/veldmark-exempt"
+EVERYBODY = range(len(matrix.IDENTITIES))
+
+
+class LeakCase(unittest.TestCase):
+    """One lab and one matrix for all scenarios of a class, which prints it at its end."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.lab = Lab()
+        cls.lab.up()
+        cls.addClassCleanup(cls.lab.down)
+        cls.product = Product(cls.lab, PROGRAMS)
+        cls.host = cls.lab.host
+        cls.matrix = Matrix()
+        cls.addClassCleanup(lambda: print(f"\npackets seen when nothing blocks / in strict mode\n{cls.matrix}", flush=True))
+        world = ("ip route add blackhole 203.0.113.0/24; ip route add blackhole 2001:db8:cb::/64")
+        cls.lab.spaces["world"].run(["sh", "-c", world], check=True)
+        cls.sh("echo '0 2147483647' >/proc/sys/net/ipv4/ping_group_range; echo 2 >/proc/sys/net/ipv4/conf/eth0/force_igmp_version;"
+               "echo 1 >/proc/sys/net/ipv6/conf/eth0/force_mld_version; echo 0 >/proc/sys/net/ipv4/icmp_ratelimit")
+        cls.connect()
+        cls.disconnect()   # the account that Tor runs under exists from here on
+        cls.sentinels = 0
+
+    def setUp(self):
+        self.known = set(self.matrix.rows)
+
+    # ---- The host ----
+
+    @classmethod
+    def sh(cls, script, **options):
+        return cls.host.run(["/bin/bash", "-c", script], check=True, **options).stdout
+
+    @classmethod
+    def helper(cls, *words, check=True):
+        return cls.host.run(["env", f"PKEXEC_UID={cls.host.uid}", "/bin/bash", str(PROGRAMS / "veldmark-helper.sh"), *words], check=check)
+
+    @classmethod
+    def connect(cls, lan=0, check=True):
+        return cls.helper("connect", "--tor", "/usr/bin/tor", "--hash", HASH, "--strict", "1", "--lan", str(lan), check=check)
+
+    @classmethod
+    def disconnect(cls):
+        cls.helper("disconnect")
+
+    @contextlib.contextmanager
+    def session(self, **options):
+        self.connect(**options)
+        try:
+            yield
+        finally:
+            self.disconnect()
+
+    def words(self, identity, *arguments):
+        """(command, options) that runs sender.py as the identity."""
+        command = ["/usr/bin/python3", "-B", SENDER, *map(str, arguments)]
+        if identity == 3:   # in the group by the hand of root, as the helper does; without a session there is none
+            uid = str(self.host.uid)
+            enter = f'[ ! -d {GROUP} ] || echo 0 >{GROUP}/cgroup.procs; exec setpriv --reuid {uid} --regid {uid} --clear-groups "$@"'
+            return ["/bin/sh", "-c", enter, "sh", *command], {}
+        user = ("nobody", "root", "_veldmark", "root", "root", "root")[identity]
+        return command, {"user": user, "cwd": "/"}
+
+    def start(self, identity, *arguments, **pipes):
+        command, options = self.words(identity, *arguments)
+        return self.host.popen(command, **options, **({"stdout": subprocess.PIPE, "stderr": subprocess.STDOUT, "text": True} | pipes))
+
+    def send(self, names, identities=EVERYBODY):
+        """All identities at once; returns when everything has been sent."""
+        running = {}
+        for identity in identities:
+            mine = [n for n in names if matrix.promise(n, identity) != ABSENT]
+            running[identity] = self.start(identity, "send", identity, *mine)
+        for identity, process in running.items():
+            output, _ = process.communicate(timeout=60)
+            self.assertEqual(process.returncode, 0, f"{matrix.IDENTITIES[identity]}: {output}")
+
+    # ---- The router ----
+
+    @contextlib.contextmanager
+    def watched(self):
+        """Both of the router's links; the object yielded has the packets from the user's side once the context has ended."""
+        seen = Seen()
+        with self.lab.capture("host") as host, self.lab.capture("world") as world:
+            seen.captures = host, world
+            yield seen
+            self.settle(seen)
+        seen.packets = [[p for p in capture.packets if p.out] for capture in (host, world)]
+
+    def settle(self, seen):
+        """Returns when what the host has sent so far is recorded: a packet that is let out in every state has come after it."""
+        # What still asks for a neighbour's address would be overtaken; the kernel gives up by itself after three seconds.
+        self.sh("while ip neigh show nud incomplete | grep -q .; do sleep 0.02; done", timeout=30)
+        type(self).sentinels += 1
+        port = 1000 + self.sentinels
+        self.host.run(["/usr/bin/python3", "-c", "import socket; s = socket.socket(); s.setblocking(False);"
+                       f"s.connect_ex(('{matrix.SENTINEL}', {port}))"], user="_veldmark", cwd="/", check=True)
+        for capture in seen.captures:
+            capture.wait_for(lambda p: p.dst == matrix.SENTINEL and p.dport == port)
+
+    def run_probes(self, names, identities=EVERYBODY):
+        with self.watched() as seen:
+            self.send(names, identities)
+        return seen
+
+    def assert_no_strangers(self, scenario, seen):
+        strangers = seen.strangers()
+        self.assertEqual(strangers, [], f"{scenario}: packets of nobody's that are not on the allow-list")
+
+    # ---- Rows ----
+
+    def assert_kept(self):
+        """The rows of this test."""
+        self.assertEqual(self.matrix.broken(set(self.matrix.rows) - self.known), [])
+
+    def core(self, scenario, names=probes.CORE, phase="session", identities=EVERYBODY):
+        """One row: the sum over ordinary probes for each identity. Tor's TCP goes out by right, so its row is for the rest."""
+        cells = self.matrix.row(scenario, [CLOSED if i < 3 and i in identities else OPEN if i in identities else ABSENT for i in EVERYBODY])
+        seen = self.run_probes(names, identities)
+        counts = seen.counts()
+        for (name, identity), number in counts.items():
+            if identity < len(cells) and not (identity == 2 and probes.PROBES[name][0] == "tcp"):
+                setattr(cells[identity], phase, getattr(cells[identity], phase) + number)
+        if phase == "session":
+            self.assert_no_strangers(scenario, seen)
+        return seen
+
+    def in_both(self, arrangements, **options):
+        """Each arrangement of the network, {name: (make, unmake, probes)}: first without a session, then in one."""
+        for phase in ("control", "session"):
+            with self.session(**options) if phase == "session" else contextlib.nullcontext():
+                for name, (make, unmake, names) in arrangements.items():
+                    with self.subTest(name, phase=phase):
+                        self.sh(make)
+                        try:
+                            self.core(name, names, phase)
+                        finally:
+                            self.sh(unmake)
+
+    def under_flood(self, scenario, action):
+        """The row's count is what came through while `action` ran, with all identities sending without pause."""
+        cells = self.matrix.rows[scenario]
+        with self.watched() as seen:
+            floods = [self.start(i, "flood", i, *probes.CORE, stdin=subprocess.PIPE) for i in EVERYBODY]
+            try:
+                for flood in floods:
+                    self.assertEqual(flood.stdout.readline(), "ready\n")
+                action()
+            finally:
+                for flood in floods:
+                    flood.communicate()
+        for (name, identity), number in seen.counts().items():
+            if not (identity == 2 and probes.PROBES[name][0] == "tcp"):
+                cells[identity].session += number
+        self.assert_no_strangers(scenario, seen)
+
+    @staticmethod
+    def counted(packets):
+        counts = {}
+        for packet in packets:
+            owner = probes.owner(packet) if packet.out else None
+            if owner and not (owner[1] == 2 and probes.PROBES[owner[0]][0] == "tcp"):
+                counts[owner[1]] = counts.get(owner[1], 0) + 1
+        return counts
+
+
+class Seen:
+    """What two captures saw of the user's machine."""
+
+    packets: list
+    captures: tuple
+
+    def counts(self):
+        """{(probe, identity): packets}; the larger number of the two links, since most packets pass both."""
+        totals = {}
+        for packets in self.packets:
+            found = {}
+            for packet in packets:
+                owner = probes.owner(packet)
+                if owner:
+                    found[owner] = found.get(owner, 0) + 1
+            for owner, number in found.items():
+                totals[owner] = max(totals.get(owner, 0), number)
+        return totals
+
+    def strangers(self):
+        """On the link to the user's machine; the other one has the router's own packets as well."""
+        return [str(p) for p in self.packets[0] if not probes.owner(p) and not matrix.is_allowed(p)]

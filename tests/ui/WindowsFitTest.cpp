@@ -1,0 +1,117 @@
+#include "StagedWindows.h"
+
+#include <QTest>
+#include <QTranslator>
+
+using namespace veldmark;
+
+namespace {
+
+// Every text 40 per cent longer, as other languages make them.
+class LongWords final : public QTranslator {
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *source, const char *, int) const override
+    {
+        static const QString filler = QStringLiteral(" wordy enough for any language one can think of");
+        const QString text = QString::fromUtf8(source);
+        return text + filler.left(std::max<qsizetype>(2, text.size() * 2 / 5));
+    }
+};
+
+bool isClipped(QQuickItem *item)
+{
+    for (QQuickItem *at = item; at; at = at->parentItem())
+        if (at->clip())
+            return true;
+    return false;
+}
+
+} // namespace
+
+// Every window loads and holds its texts, at any size that it may have and at other scales of the screen.
+class WindowsFitTest : public QObject {
+    Q_OBJECT
+
+    // Nothing is cut off, and nothing sticks out of its window.
+    void expectWhole(Stage &stage, const QString &where)
+    {
+        const double width = stage.window()->width();
+        visit(stage.window()->contentItem(), [&](QQuickItem *item) {
+            const QString text = item->property("text").toString();
+            if (!item->inherits("QQuickText") || text.isEmpty())
+                return;
+            const bool elides = item->property("elide").toInt() != Qt::ElideNone;
+            const QRectF place = item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+            const QString what = where + QStringLiteral(": ") + text;
+            if (!elides) {
+                QVERIFY2(!item->property("truncated").toBool(), qPrintable(what));
+                QVERIFY2(item->property("contentWidth").toDouble() <= item->width() + 1, qPrintable(what));
+            }
+            QVERIFY2(place.left() >= -1 && place.right() <= width + 1, qPrintable(what));
+            if (!isClipped(item))
+                QVERIFY2(place.bottom() <= stage.window()->height() + 1, qPrintable(what));
+        });
+    }
+
+private Q_SLOTS:
+    void initTestCase() { settleAppearance(); }
+
+    void everyWindowLoadsWithoutWarnings()
+    {
+        Stage stage;
+        prepare(stage);
+        for (const bool dark : {false, true}) {
+            stage.setDark(dark);
+            for (const Shown &shown : windows(stage)) {
+                QVERIFY2(stage.open(QLatin1String(shown.file), shown.properties), shown.file);
+                QVERIFY(!stage.picture().isNull());
+            }
+        }
+        QCOMPARE(stage.warnings(), QStringList());
+    }
+
+    void everySceneFitsThePanel_data()
+    {
+        QTest::addColumn<int>("width");
+        QTest::addColumn<bool>("longWords");
+        for (const int width : {360, 400, 420}) {
+            QTest::addRow("%d wide", width) << width << false;
+            QTest::addRow("%d wide, long words", width) << width << true;
+        }
+    }
+    void everySceneFitsThePanel()
+    {
+        QFETCH(int, width);
+        QFETCH(bool, longWords);
+        LongWords translator;
+        if (longWords)
+            QCoreApplication::installTranslator(&translator);
+        Stage stage;
+        for (const Scenes::Scene &scene : Scenes::panel()) {
+            stage.session.show(scene.snapshot);
+            QVERIFY(stage.open(QStringLiteral("main/MainWindow.qml"), windows(stage).front().properties));
+            stage.window()->resize(width, 768);
+            stage.picture();
+            expectWhole(stage, scene.name);
+        }
+    }
+
+    void everyWindowHoldsLongWordsAtItsSmallest()
+    {
+        LongWords translator;
+        QCoreApplication::installTranslator(&translator);
+        Stage stage;
+        prepare(stage);
+        for (const Shown &shown : windows(stage)) {
+            QVERIFY(stage.open(QLatin1String(shown.file), shown.properties));
+            stage.window()->resize(std::max(360, stage.window()->minimumWidth()),
+                                   std::max(420, stage.window()->minimumHeight()));
+            stage.picture();
+            expectWhole(stage, QLatin1String(shown.file));
+        }
+    }
+};
+
+QTEST_MAIN(WindowsFitTest)
+#include "WindowsFitTest.moc"

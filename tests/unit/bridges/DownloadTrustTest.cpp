@@ -1,0 +1,146 @@
+#include "DownloadBench.h"
+
+#include <unistd.h>
+
+using namespace veldmark;
+using Kind = DownloadError::Kind;
+
+// TransportDownloader: what is believed, by signature and by content.
+class DownloadTrustTest : public QObject, DownloadBench {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { makeKeys(); }
+    void init() { prepare(); }
+    void cleanup() { expectNothingLeft(); }
+
+    void withoutGnuPGOnlyHTTPSProtects()
+    {
+        QFile::remove(m_tree->path(QStringLiteral("usr/bin/gpg")));
+        QVERIFY(!TransportDownloader::gpgPath(*m_profile));
+        const Outcome outcome = install();
+        QVERIFY(outcome);
+        QVERIFY(!outcome->isVerified);
+        QCOMPARE(installed("VERIFIED"), QByteArray("https"));
+        QCOMPARE(paths(), QByteArrayList({indexPath, archivePath}));
+    }
+
+    void takesTheFirstGnuPG()
+    {
+        const QString second = m_tree->program(QStringLiteral("usr/local/bin/gpg"));
+        QCOMPARE(TransportDownloader::gpgPath(*m_profile), std::optional(m_tree->path(QStringLiteral("usr/bin/gpg"))));
+        QFile::remove(m_tree->path(QStringLiteral("usr/bin/gpg")));
+        QCOMPARE(TransportDownloader::gpgPath(*m_profile), std::optional(second));
+    }
+
+    void refusesWhatIsNotSignedByTheExpectedKey_data()
+    {
+        QTest::addColumn<QByteArray>("key");
+        QTest::addColumn<QByteArray>("signature");
+        const SigningKey other(QStringLiteral("Other"));
+        const QByteArray right = m_key->publicKey();
+        QTest::newRow("another key, good signature") << other.publicKey() << other.sign(m_archive);
+        QTest::newRow("both keys, signature of the other") << right + other.publicKey() << other.sign(m_archive);
+        QTest::newRow("signature of an unknown key") << right << other.sign(m_archive);
+        QTest::newRow("signature of something else") << right << m_key->sign("something else");
+        QTest::newRow("signed text instead of a signature") << right << m_key->sign("text", QStringLiteral("--sign"));
+        QTest::newRow("clear-signed text") << right << m_key->sign("text", QStringLiteral("--clearsign"));
+        QTest::newRow("no signature") << right << QByteArray("nothing\n");
+        QTest::newRow("an empty file") << right << QByteArray();
+        QTest::newRow("status lines") << right
+                                      << "[GNUPG:] VALIDSIG " + m_key->fingerprint().toLatin1() + '\n';
+    }
+
+    void refusesWhatIsNotSignedByTheExpectedKey()
+    {
+        QFETCH(QByteArray, key);
+        QFETCH(QByteArray, signature);
+        putBundle();
+        serve(keyPath, key);
+        serve(archivePath + ".asc", signature);
+        const Outcome outcome = install();
+        QVERIFY(!outcome);
+        QCOMPARE(outcome.error().kind(), Kind::badSignature);
+        const QString prefix = QStringLiteral("The download's signature didn't verify, so it was discarded. ");
+        QVERIFY2(outcome.error().description().startsWith(prefix), qPrintable(outcome.error().description()));
+        QVERIFY(!outcome.error().description().contains(u'\n'));
+        QCOMPARE(mark(), QByteArray("former"));
+        QCOMPARE(installed("VERSION"), QByteArray("13.5"));
+    }
+
+    void refusesAKeyThatItsOwnerHasRevoked()
+    {
+        const SigningKey revoked(QStringLiteral("Revoked"));
+        DownloadSource from = source();
+        from.fingerprint = revoked.fingerprint();
+        makeDownloader(from);
+        serve(archivePath + ".asc", revoked.sign(m_archive));
+        serve(keyPath, revoked.publicKey());
+        QVERIFY(install()); // it does verify as long as it is not revoked
+        revoked.revoke();
+        serve(keyPath, revoked.publicKey());
+        const Outcome outcome = install();
+        QVERIFY(!outcome);
+        QCOMPARE(outcome.error().kind(), Kind::badSignature);
+    }
+
+    void saysThatTheKeyCannotBeLoaded()
+    {
+        serve(keyPath, "no key\n");
+        const QString text = failure();
+        QVERIFY2(text.startsWith(QStringLiteral("The download's signature didn't verify, so it was discarded. "
+                                                "Couldn't load the Tor Browser signing key. gpg: ")), qPrintable(text));
+        QVERIFY(!QFileInfo::exists(m_profile->bundleDirectory));
+    }
+
+    void refusesArchivesThatReachElsewhere_data()
+    {
+        QTest::addColumn<QByteArray>("archive");
+        const ProgramTree tree;
+        tree.file(QStringLiteral("b/good"), "good");
+        const auto made = [&tree](const QStringList &options) {
+            output(QStringLiteral("/usr/bin/tar"),
+                   QStringList{QStringLiteral("-P"), QStringLiteral("-C"), tree.path(QStringLiteral("b")),
+                               QStringLiteral("-czf"), tree.path(QStringLiteral("a.tar.gz"))}
+                       + options + QStringList{QStringLiteral("good")});
+            return tree.content(QStringLiteral("a.tar.gz"));
+        };
+        const auto renamed = [&made](const char *name) {
+            return made({QStringLiteral("--transform=s,good,%1,").arg(QLatin1String(name))});
+        };
+        QTest::newRow("upwards") << renamed("../../../../escaped");
+        QTest::newRow("upwards further down") << renamed("a/../../../../../escaped");
+        QTest::newRow("absolute") << renamed("/tmp/veldmark-test-escaped");
+        QFile::link(QStringLiteral("/etc/passwd"), tree.path(QStringLiteral("b/link")));
+        QTest::newRow("link") << made({QStringLiteral("link")});
+        QFile::link(QStringLiteral("../../.."), tree.path(QStringLiteral("b/up")));
+        QTest::newRow("link upwards") << made({QStringLiteral("up")});
+        ::link(QFile::encodeName(tree.path(QStringLiteral("b/good"))).constData(),
+               QFile::encodeName(tree.path(QStringLiteral("b/hard"))).constData());
+        QTest::newRow("hard link") << made({QStringLiteral("hard")});
+        QTest::newRow("device") << made({QStringLiteral("/dev/null")});
+        QTest::newRow("cut short") << bundleArchive("x", 300'000).first(200'000);
+        QTest::newRow("no archive") << QByteArray("no archive");
+        QTest::newRow("empty") << QByteArray();
+    }
+
+    void refusesArchivesThatReachElsewhere()
+    {
+        QFETCH(QByteArray, archive);
+        putBundle();
+        serveArchive(archive); // signed: the check comes on top
+        const Outcome outcome = install();
+        QVERIFY(!outcome);
+        QVERIFY2(outcome.error().description().startsWith(QStringLiteral("Couldn't unpack the download. ")),
+                 qPrintable(outcome.error().description()));
+        QCOMPARE(outcome.error().kind(), Kind::extractFailed);
+        QCOMPARE(mark(), QByteArray("former"));
+        QVERIFY(!QFileInfo::exists(QStringLiteral("/tmp/veldmark-test-escaped")));
+        const QFileInfo bundle(m_profile->bundleDirectory);
+        QCOMPARE(QDir(bundle.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot),
+                 QStringList({QStringLiteral(".TorExpertBundle.lock"), QStringLiteral("TorExpertBundle")}));
+    }
+};
+
+QTEST_GUILESS_MAIN(DownloadTrustTest)
+#include "DownloadTrustTest.moc"
