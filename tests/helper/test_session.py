@@ -112,6 +112,7 @@ class Session(HelperTest):
 
     def test_refused_configuration_leaves_the_session_in_force(self):
         self.machine.connect()
+        self.machine.await_watcher()
         during = self.machine.snapshot()
         self.assertOneLine(self.machine.connect(more=["--bridge", "1.2.3.4:443 nonsense"], check=False))
         self.assertEqual(self.machine.snapshot(), during)

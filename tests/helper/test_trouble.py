@@ -1,7 +1,9 @@
 """The helper on a computer where something is wrong: each run ends well or with one line that says what is wrong, the network is
 whole or closed as the line says, and a disconnect once the trouble is over puts everything back."""
 
+import concurrent.futures
 import subprocess
+import time
 
 import namespace
 from namespace import HASH, TOR, HelperTest
@@ -139,24 +141,76 @@ class Trouble(HelperTest):
     def test_disconnect_from_proxy_mode(self):
         self.all_troubles("disconnect", 0)
 
-    def test_twenty_at_once(self):
-        """Whatever the order, one line or none, and a network that is whole."""
-        words = [self.words(verb, TOR) for verb in ("connect", "fix-dns", "connect in proxy mode", "disconnect")] * 5
-        runs = [self.machine.start("/bin/bash", self.machine.helper, *line, stderr=subprocess.PIPE, stdin=subprocess.DEVNULL, text=True)
-                for line in words]
-        done = 0
-        for line, run in zip(words, runs):
-            _, message = run.communicate()
-            wanted = {(0, ""), (1, "ERROR: Another run of the helper is still working. Try again in a moment.\n")}
-            if line == ["fix-dns"]:
-                wanted.add((1, "ERROR: Veldmark is not connected, so the DNS settings were left alone.\n"))
-            self.assertIn((run.returncode, message), wanted)
-            done += run.returncode == 0
-        self.assertGreater(done, 0)
-        self.assertLessEqual(len(self.machine.tor_pids()), 1)
+    def together(self, verbs):
+        """Runs them at once. Gives each run's status, message and seconds, and their numbers in the order in which they had the lock."""
+        self.machine.shell("""
+            cp /usr/bin/flock /run/real-flock; rm -f /run/order
+            printf '%s\n' '#!/bin/sh' '/run/real-flock "$@" || exit' 'case "$*" in "-w 20 9") echo "$PPID" >>/run/order ;; esac' >/run/flock
+            chmod 755 /run/flock; mount --bind /run/flock /usr/bin/flock""")
+        try:
+            started = time.monotonic()
+            runs = [self.machine.start("/bin/sh", "-c", 'echo $$ >"/run/pid-$0"; exec /bin/bash "$@"', str(number), self.machine.helper,
+                                       *self.words(verb, TOR), stderr=subprocess.PIPE, stdin=subprocess.DEVNULL, text=True)
+                    for number, verb in enumerate(verbs)]
+            ended = [0.0] * len(runs)
+            def wait(number):
+                message = runs[number].communicate()[1]
+                ended[number] = time.monotonic() - started
+                return runs[number].returncode, message
+            with concurrent.futures.ThreadPoolExecutor(len(runs)) as threads:
+                results = list(threads.map(wait, range(len(runs))))
+        finally:
+            self.machine.shell("umount /usr/bin/flock")
+        pids = self.machine.shell("".join(f"cat /run/pid-{number};" for number in range(len(runs)))).split()
+        return results, ended, [pids.index(pid) for pid in self.machine.shell("cat /run/order").split()]
+
+    def assert_one_after_the_other(self, verbs):
+        """Whoever had the lock has done its work on what the run before it had left; whoever had it not has waited for it as long
+        as it should, and says so. What stands in the end is what the last of them made."""
+        results, seconds, order = self.together(verbs)
+        self.assertGreater(len(order), 0)
+        self.assertEqual(len(set(order)), len(order))
+        session = None
+        for number in order:
+            wanted = (0, "")
+            if verbs[number] == "fix-dns" and session is None:
+                wanted = (1, "ERROR: Veldmark is not connected, so the DNS settings were left alone.\n")
+            self.assertEqual(results[number], wanted, verbs[number])
+            session = {"connect": "strict", "connect in proxy mode": "proxy", "disconnect": None, "fix-dns": session}[verbs[number]]
+        for number in set(range(len(verbs))) - set(order):
+            self.assertEqual(results[number], (1, "ERROR: Another run of the helper is still working. Try again in a moment.\n"))
+            self.assertGreaterEqual(seconds[number], 20)
+        print(f"{len(order)} of {len(verbs)} had the lock, the last after {max(seconds):.1f} s; then: {session}", flush=True)
+        self.assertEqual(self.machine.shell(f"cat {STATE}/state/active 2>/dev/null || true").strip(), session or "")
+        self.assertEqual(self.drops(), session == "strict")
+        self.assertEqual(len(self.machine.tor_pids()), 0 if session is None else 1)
+        if session == "strict":
+            self.machine.await_watcher()
+        self.assertEqual(self.machine.shell("pgrep -cf '^/bin/bash -p -- .*/watcher[.]sh$' || true").strip(), "1" if session == "strict" else "0")
+        if session is None:
+            self.assertEqual(self.machine.snapshot(), self.before)
         self.machine.help("disconnect")
         self.assertFalse(self.drops())
         self.assertEqual(self.machine.snapshot(), self.before)
+
+    def test_twenty_at_once(self):
+        self.assert_one_after_the_other(["connect", "fix-dns", "connect in proxy mode", "disconnect"] * 5)
+
+    def test_twenty_connects_at_once(self):
+        self.assert_one_after_the_other(["connect", "connect in proxy mode"] * 10)
+
+    def test_a_run_waits_no_longer_for_the_lock_than_it_should(self):
+        holder = self.machine.start("flock", "/run/veldmark.lock", "sh", "-c", "echo $$; exec sleep 60", stdout=subprocess.PIPE, text=True)
+        pid = holder.stdout.readline()
+        try:
+            started = time.monotonic()
+            done = self.machine.help("fix-dns", check=False)
+            self.assertOneLine(done, "Another run of the helper is still working.")
+            self.assertGreaterEqual(time.monotonic() - started, 20)
+        finally:
+            self.machine.shell(f"kill {pid}")
+            holder.communicate()
+        self.assertOneLine(self.machine.help("fix-dns", check=False), "not connected")
 
 
 if __name__ == "__main__":
