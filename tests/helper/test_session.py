@@ -248,6 +248,17 @@ class Session(HelperTest):
             self.assertOneLine(self.machine.connect(check=False), refusal)
             self.machine.shell('rm "$1"; mv "$1.away" "$1"', path)
 
+    def test_file_that_is_no_resolver_file_is_not_shown_to_everybody(self):
+        """A link in a folder of somebody else's may lead anywhere by the time that it is read."""
+        self.machine.shell("cp -a /etc/resolv.conf /run/former; printf 'root:secret:\\nnameserver 192.0.2.7\\noptions edns0' >/run/private;"
+                           "ln -sfn /run/private /etc/resolv.conf")
+        try:
+            self.machine.connect()
+            self.assertEqual(self.machine.shell("cat /var/lib/veldmark/run/tor-resolv.conf"), "nameserver 192.0.2.7\noptions edns0\n")
+            self.machine.help("disconnect")
+        finally:
+            self.machine.shell("rm /etc/resolv.conf; mv /run/former /etc/resolv.conf")
+
     def test_limits_of_the_callers_shell_end_nothing(self):
         """Neither this run nor what outlives it: the watcher and Tor."""
         run = f'exec /bin/bash "{self.machine.helper}" "$@"'

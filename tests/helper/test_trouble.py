@@ -89,7 +89,7 @@ class Trouble(HelperTest):
     def test_folders_that_cannot_be_looked_at_are_not_taken_for_safe(self):
         begin, end, _ = TROUBLES["a stat that fails"]
         self.machine.connect()
-        for verb in "connect", "disconnect":
+        for verb in "connect", "fix-dns", "disconnect":
             self.machine.shell(f"chmod 777 {STATE}/state; {begin}")
             try:
                 self.assertOneLine(self.machine.help(*self.words(verb, TOR), check=False), "cannot be looked at")
