@@ -12,6 +12,7 @@ usage: ./build.sh VERB
   demo     show the whole thing on a private Tor network: no internet, nothing changed outside it
   test     every test: unit, helper, lab and a moment of each fuzzer
   asan     the unit tests under the address and undefined-behaviour sanitizers
+  tsan     the tests whose work crosses threads, under the thread sanitizer
   coverage which lines of src/ the unit tests run
   fuzz     the fuzzers, an hour over all (--minutes M for another time)
   soak     500 connects and disconnects, and two hours of a fast clock, in the private Tor network
@@ -209,6 +210,11 @@ asan)
     deps
     compile asan
     ctest --preset asan "$@"
+    ;;
+tsan)
+    deps
+    compile tsan
+    ctest --preset tsan "$@"
     ;;
 package) package ;;
 package-test)

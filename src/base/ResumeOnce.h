@@ -1,9 +1,7 @@
 #pragma once
 
-#include <QMetaObject>
-#include <QObject>
+#include "base/Resumption.h"
 
-#include <coroutine>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -31,19 +29,32 @@ public:
     // True when this call ended the wait, false when an earlier one had.
     bool complete(T value) const
     {
-        const std::shared_ptr<State> state = m_state;
-        {
-            const std::lock_guard guard(state->lock);
-            if (state->done)
-                return false;
-            state->done = true;
-            state->value.emplace(std::move(value));
-            if (!state->waiter)
-                return true; // not awaited yet: the waiter will find the value ready
+        const std::lock_guard guard(m_state->lock);
+        if (m_state->done)
+            return false;
+        m_state->done = true;
+        m_state->value.emplace(std::move(value));
+        // Posted before the lock is given up, so that deliver() finds it. When there is none,
+        // nobody waits yet, and the waiter will find the value ready.
+        if (m_state->resumption) {
+            m_state->posted = m_state->resumption->receiver();
+            Resumption::post(std::move(m_state->resumption));
         }
-        QMetaObject::invokeMethod(
-            state->context.get(), [state] { state->waiter.resume(); }, Qt::QueuedConnection);
         return true;
+    }
+
+    // Resumes the waiter now if its wait has ended and the event loop has not got to it yet. For the
+    // destructor of what was waited for, after which the loop may never turn again. On the waiter's
+    // thread; the caller must bear what the waiter does, also that it destroys things.
+    void deliver() const
+    {
+        QObject *posted = nullptr;
+        {
+            const std::lock_guard guard(m_state->lock);
+            posted = m_state->posted;
+        }
+        if (posted)
+            Resumption::deliver(posted);
     }
 
     bool isDone() const
@@ -60,14 +71,14 @@ public:
         const std::lock_guard guard(m_state->lock);
         if (m_state->done)
             return false;
-        m_state->context = std::make_unique<QObject>();
-        m_state->waiter = waiter;
+        m_state->resumption = std::make_unique<Resumption>(waiter);
         return true;
     }
 
     T await_resume() const
     {
         const std::lock_guard guard(m_state->lock);
+        m_state->posted = nullptr;
         return std::move(*m_state->value);
     }
 
@@ -76,8 +87,8 @@ private:
         std::mutex lock;
         bool done = false;
         std::optional<T> value;
-        std::coroutine_handle<> waiter;
-        std::unique_ptr<QObject> context; // lives in the waiter's thread
+        std::unique_ptr<Resumption> resumption; // while somebody waits for an end that has not come
+        QObject *posted = nullptr;              // what it was sent to, from that end until the waiter runs
     };
     std::shared_ptr<State> m_state;
 };

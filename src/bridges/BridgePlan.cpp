@@ -87,20 +87,4 @@ QCoro::Task<BridgePlan> planBridges(BridgeRequest request, BridgeTools tools)
     co_return plan;
 }
 
-BridgeTools BridgeTools::real(PlatformProfile profile,
-                              std::function<std::optional<QString>()> bundleVersion, Clock *clock,
-                              std::function<void(QString)> status)
-{
-    return {
-        [profile, bundleVersion] {
-            return PluggableTransports::locateAsync(
-                profile, bundleVersion ? bundleVersion() : std::nullopt);
-        },
-        [clock](QString host, quint16 port, std::chrono::milliseconds limit) {
-            return TCPProbe::connectTime(std::move(host), port, limit, clock);
-        },
-        std::move(status),
-    };
-}
-
 } // namespace veldmark

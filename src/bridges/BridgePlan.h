@@ -45,11 +45,6 @@ struct BridgeTools {
     // planBridges() has finished: guard what it writes to if that may die before, and look there
     // whether this attempt is still the current one.
     std::function<void(QString)> status;
-
-    // The real ones. `bundleVersion` may be empty; `clock` must outlive every probe.
-    static BridgeTools real(PlatformProfile profile,
-                            std::function<std::optional<QString>()> bundleVersion, Clock *clock,
-                            std::function<void(QString)> status);
 };
 
 // Searches for transports, chooses the lines, tests their speed when asked to, and builds the

@@ -15,7 +15,7 @@ namespace veldmark {
 namespace {
 
 // A bundle has some dozen members and 100 MB.
-constexpr ChildLimits listingLimits{180s, 8 * 1024 * 1024};
+const ChildLimits listingLimits{180s, 8 * 1024 * 1024};
 constexpr qsizetype memberLimit = 20'000;
 constexpr qint64 unpackedLimitBytes = 2'000'000'000;
 

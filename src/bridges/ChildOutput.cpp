@@ -3,12 +3,17 @@
 #include <QDeadlineTimer>
 #include <QProcess>
 
+#include <algorithm>
+
 #include <signal.h>
 #include <unistd.h>
 
 namespace veldmark {
 
 namespace {
+
+// QProcess waits for nothing else beside its child, so whether that is still wanted is looked at this often.
+constexpr int turnMilliseconds = 25;
 
 // Only while the child has not been waited for: until then its number cannot belong to another.
 void end(QProcess &process)
@@ -39,6 +44,10 @@ std::optional<QByteArray> childOutput(const QString &program, const QStringList 
         return std::nullopt;
     }
 
+    const auto remaining = [&deadline, &limits] {
+        const qint64 left = deadline.remainingTime();
+        return static_cast<int>(limits.ended.stop_possible() ? std::min<qint64>(left, turnMilliseconds) : left);
+    };
     QByteArray output;
     for (;;) {
         const bool isOver = process.state() == QProcess::NotRunning;
@@ -49,11 +58,11 @@ std::optional<QByteArray> childOutput(const QString &program, const QStringList 
             end(process);
             return output;
         }
-        if (deadline.hasExpired())
+        if (deadline.hasExpired() || limits.ended.stop_requested())
             break;
         // A child that has closed its output and runs on is waited for, not polled.
-        if (!process.waitForReadyRead(static_cast<int>(deadline.remainingTime())))
-            process.waitForFinished(static_cast<int>(deadline.remainingTime()));
+        if (!process.waitForReadyRead(remaining()))
+            process.waitForFinished(remaining());
     }
     end(process);
     return std::nullopt;

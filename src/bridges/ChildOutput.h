@@ -8,6 +8,7 @@
 #include <chrono>
 #include <functional>
 #include <optional>
+#include <stop_token>
 
 // Private to the room.
 namespace veldmark {
@@ -15,12 +16,13 @@ namespace veldmark {
 struct ChildLimits {
     std::chrono::milliseconds time;
     qsizetype outputBytes;
+    std::stop_token ended = {}; // nobody wants the output any more
 };
 
 // Runs a program with an empty standard input that stays open, reads its standard output until it
 // closes, or until `isEnough` says so, and ends it with every process of its group. Standard error
 // goes nowhere. It has no terminal, so it cannot ask the user anything.
-// Nothing when it cannot be started, or went past a limit. Its exit status is not looked at.
+// Nothing when it cannot be started, or went past a limit, or is not wanted any more. Its exit status is not looked at.
 // Blocks; any thread but the one that draws.
 std::optional<QByteArray> childOutput(const QString &program, const QStringList &arguments,
                                       const QProcessEnvironment &environment, ChildLimits limits,

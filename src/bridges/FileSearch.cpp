@@ -25,12 +25,12 @@ bool isFolder(const QByteArray &path)
 
 } // namespace
 
-QStringList filesNamed(const QString &root, const QByteArrayList &names)
+QStringList filesNamed(const QString &root, const QByteArrayList &names, const std::stop_token &ended)
 {
     const QByteArray top = QFile::encodeName(root);
     std::vector<QByteArray> found; // relative to the root
     std::vector<QByteArray> folders = {QByteArray()};
-    while (!folders.empty()) {
+    while (!folders.empty() && !ended.stop_requested()) {
         const QByteArray folder = std::move(folders.back());
         folders.pop_back();
         const std::unique_ptr<DIR, CloseDirectory> directory(

@@ -73,7 +73,7 @@ bool isAnnouncementComplete(QByteArrayView output)
 }
 
 QStringList servedTransports(const QString &program, const QStringList &asked,
-                             std::chrono::milliseconds limit)
+                             std::chrono::milliseconds limit, const std::stop_token &ended)
 {
     if (::geteuid() == 0 && !isRootsOwn(program))
         return {};
@@ -93,7 +93,7 @@ QStringList servedTransports(const QString &program, const QStringList &asked,
     set("TOR_PT_CLIENT_TRANSPORTS", asked.join(u','));
 
     const std::optional<QByteArray> output =
-        childOutput(program, {}, environment, {limit, outputLimitBytes},
+        childOutput(program, {}, environment, {limit, outputLimitBytes, ended},
                     [](const QByteArray &soFar) { return isAnnouncementComplete(soFar); });
     if (!output || !isAnnouncementComplete(*output))
         return {};

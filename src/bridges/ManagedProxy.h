@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <chrono>
+#include <stop_token>
 
 // What a transport program says about itself when it is started the way Tor starts it.
 namespace veldmark {
@@ -12,12 +13,14 @@ namespace veldmark {
 // The transports among `asked` that `program` serves as a client. It is started as a managed proxy
 // with a state folder of its own, says which listeners it has opened, and is killed; no bridge is
 // contacted. Empty when it cannot be started, ends early, prints something else or has not finished
-// within `limit`. Blocks for up to that long; any thread but the one that draws.
+// within `limit`, or by the time that `ended` says that nobody asks any more. Blocks for up to that long; any thread but the
+// one that draws.
 //
 // A process that is root runs it only when nobody but root can change the program or a folder
 // above it; otherwise the answer is empty.
 QStringList servedTransports(const QString &program, const QStringList &asked,
-                             std::chrono::milliseconds limit = std::chrono::seconds(5));
+                             std::chrono::milliseconds limit = std::chrono::seconds(5),
+                             const std::stop_token &ended = {});
 
 // The transports whose listener the output of a managed proxy announces ("CMETHOD name version
 // address"), in its order; ones that it reports an error for are not among them.

@@ -1,6 +1,5 @@
 #include "bridges/PluggableTransports.h"
 
-#include "base/ResumeOnce.h"
 #include "bridges/BridgeLines.h"
 #include "bridges/ChildOutput.h"
 #include "bridges/FileSearch.h"
@@ -9,7 +8,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QThreadPool>
 
 #include <algorithm>
 
@@ -20,7 +18,9 @@ namespace veldmark {
 namespace {
 
 constexpr qint64 configurationLimitBytes = 16 * 1024 * 1024;
-constexpr ChildLimits unzipLimits{20s, 16 * 1024 * 1024};
+constexpr std::chrono::milliseconds unzipLimit = 20s;
+constexpr std::chrono::milliseconds lyrebirdLimit = 5s;
+constexpr qsizetype preferencesLimitBytes = 16 * 1024 * 1024;
 const QString snowflakeTransport = QStringLiteral("snowflake");
 
 bool isProgram(const QString &path)
@@ -39,7 +39,7 @@ QByteArray readFile(const QString &path)
     return content.size() > configurationLimitBytes ? QByteArray() : content;
 }
 
-QMap<QString, QStringList> bridgesOfArchive(const QString &unzip, const QString &archive)
+QMap<QString, QStringList> bridgesOfArchive(const QString &unzip, const QString &archive, const std::stop_token &ended)
 {
     // Options of unzip that the user has set for himself would change what it prints.
     QProcessEnvironment environment;
@@ -47,7 +47,7 @@ QMap<QString, QStringList> bridgesOfArchive(const QString &unzip, const QString 
     const std::optional<QByteArray> preferences = childOutput(
         unzip,
         {QStringLiteral("-p"), archive, QStringLiteral("defaults/preferences/000-tor-browser.js")},
-        environment, unzipLimits);
+        environment, {unzipLimit, preferencesLimitBytes, ended});
     if (!preferences)
         return {};
     return bridgesOfPreferences(QString::fromUtf8(*preferences));
@@ -57,7 +57,7 @@ QMap<QString, QStringList> bridgesOfArchive(const QString &unzip, const QString 
 // that counts says that it serves snowflake.
 class Search {
 public:
-    explicit Search(QString unzip) : m_unzip(std::move(unzip)) {}
+    Search(QString unzip, std::stop_token ended) : m_unzip(std::move(unzip)), m_ended(std::move(ended)) {}
 
     void scan(const QString &root, const QString &label)
     {
@@ -67,7 +67,7 @@ public:
         bool hasLyrebird = false;
         const QStringList files =
             filesNamed(root, {"lyrebird", "snowflake-client", "webtunnel-client", "pt_config.json",
-                              "omni.ja"});
+                              "omni.ja"}, m_ended);
         for (const QString &path : files) {
             const QStringView name = QStringView(path).sliced(path.lastIndexOf(u'/') + 1);
             if (name == u"lyrebird" && isProgram(path)) {
@@ -97,7 +97,7 @@ public:
 
         for (const QString &archive : archives) {
             if (m_found.builtin.isEmpty())
-                m_found.builtin = bridgesOfArchive(m_unzip, archive);
+                m_found.builtin = bridgesOfArchive(m_unzip, archive, m_ended);
         }
         if (wasEmpty && !m_found.builtin.isEmpty())
             m_found.source = label;
@@ -117,7 +117,7 @@ public:
     {
         if (!m_found.snowflake && m_found.lyrebird
             && (m_lyrebirdSaysSnowflake
-                || servedTransports(*m_found.lyrebird, {snowflakeTransport})
+                || servedTransports(*m_found.lyrebird, {snowflakeTransport}, lyrebirdLimit, m_ended)
                        .contains(snowflakeTransport)))
             m_found.snowflake = m_found.lyrebird;
         return m_found;
@@ -137,6 +137,7 @@ private:
     }
 
     QString m_unzip;
+    std::stop_token m_ended;
     PluggableTransports m_found;
     bool m_lyrebirdSaysSnowflake = false;
 };
@@ -171,9 +172,10 @@ Result<QStringList, BridgeError> PluggableTransports::builtinLines(BridgeChoice 
 }
 
 PluggableTransports PluggableTransports::locate(const PlatformProfile &profile,
-                                                std::optional<QString> bundleVersion)
+                                                std::optional<QString> bundleVersion,
+                                                const std::stop_token &ended)
 {
-    Search search(profile.unzip);
+    Search search(profile.unzip, ended);
     for (const ProgramRoot &root : profile.transportRoots()) {
         const bool hasVersion =
             root.path == profile.bundleDirectory && bundleVersion && !bundleVersion->isEmpty();
@@ -181,16 +183,6 @@ PluggableTransports PluggableTransports::locate(const PlatformProfile &profile,
     }
     search.searchFolders(profile.transportDirectories);
     return search.result();
-}
-
-QCoro::Task<PluggableTransports>
-PluggableTransports::locateAsync(PlatformProfile profile, std::optional<QString> bundleVersion)
-{
-    const ResumeOnce<PluggableTransports> found;
-    QThreadPool::globalInstance()->start(
-        [found, profile, bundleVersion] { found.complete(locate(profile, bundleVersion)); });
-    PluggableTransports transports = co_await found;
-    co_return transports;
 }
 
 } // namespace veldmark

@@ -5,14 +5,13 @@
 #include "bridges/BridgeError.h"
 #include "platform/PlatformProfile.h"
 
-#include <qcorotask.h>
-
 #include <QMap>
 #include <QSet>
 #include <QString>
 #include <QStringList>
 
 #include <optional>
+#include <stop_token>
 
 namespace veldmark {
 
@@ -52,12 +51,11 @@ struct PluggableTransports {
     // a moment (see servedTransports()).
     //
     // Blocks: it walks folders of many thousand files and runs unzip and perhaps lyrebird, each
-    // bounded in time and output. Any thread but the one that draws.
+    // bounded in time and output. Any thread but the one that draws; see TransportSearch. Once
+    // `ended` says so it returns in a moment, and what it returns is worth nothing.
     static PluggableTransports locate(const PlatformProfile &profile,
-                                      std::optional<QString> bundleVersion = std::nullopt);
-    // The same on a thread of the global pool; resumes the caller on its own thread.
-    static QCoro::Task<PluggableTransports>
-    locateAsync(PlatformProfile profile, std::optional<QString> bundleVersion = std::nullopt);
+                                      std::optional<QString> bundleVersion = std::nullopt,
+                                      const std::stop_token &ended = {});
 
     friend bool operator==(const PluggableTransports &, const PluggableTransports &) = default;
 };

@@ -36,6 +36,7 @@ Production::Production(const PlatformProfile &profile)
     , m_terminal(m_profile, NetworkProbe::checkURL().toString())
     , m_applications(runningApplications())
     , m_downloader(m_profile, m_processes, m_clock)
+    , m_search(m_profile)
     , m_controller(TorController::Services{
           .profile = m_profile,
           .settings = m_settings,
@@ -48,9 +49,7 @@ Production::Production(const PlatformProfile &profile)
           .terminal = m_terminal,
           .applications = *m_applications,
           .locateTransports =
-              [profile = m_profile] {
-                  return PluggableTransports::locateAsync(profile, TransportDownloader::installedVersion(profile));
-              },
+              [this] { return m_search.locate(TransportDownloader::installedVersion(m_profile)); },
           .bridgeProbe =
               [clock = &m_clock](const QString &host, quint16 port, std::chrono::milliseconds limit) {
                   return TCPProbe::connectTime(host, port, limit, clock);

@@ -2,6 +2,7 @@
 
 #include "base/Clock.h"
 #include "bridges/TransportDownloader.h"
+#include "bridges/TransportSearch.h"
 #include "checks/ExitCheckProbe.h"
 #include "checks/ResolverSource.h"
 #include "control/ControlPort.h"
@@ -41,6 +42,7 @@ private:
     TerminalIntegration m_terminal;
     std::unique_ptr<RunningApplications> m_applications;
     TransportDownloader m_downloader;
+    TransportSearch m_search;
     TorController m_controller;
 };
 

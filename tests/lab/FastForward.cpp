@@ -5,13 +5,14 @@
 //     FastForward connect         connects and prints the published state when the attempt has ended, as JSON
 //     FastForward wrong-password  the same, but tor is given the hash of another control password
 //     FastForward monitor HOURS   connects and stays so for that long by its clock, as somebody would who looks at circuits and
-//                                 the log and connects again whenever Tor has died; prints a line of JSON every few minutes:
-//                                 what the process takes, and what it has seen
+//                                 the log and connects again whenever Tor has died; prints a line of JSON for each five
+//                                 minutes of its clock: what the process takes, and what it has seen
 //
 // Restores the network before it ends; exit status 1 when that failed.
 
 #include "base/Clock.h"
 #include "bridges/TCPProbe.h"
+#include "bridges/TransportSearch.h"
 #include "checks/ExitCheckProbe.h"
 #include "checks/ResolverSource.h"
 #include "control/ControlPort.h"
@@ -28,11 +29,13 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QTimer>
 
 #include <cstdio>
 
+#include <malloc.h>
 #include <unistd.h>
 
 using namespace veldmark;
@@ -84,9 +87,10 @@ QCoro::Task<void> attempt(TorController *controller)
     QCoreApplication::exit(controller->isSessionMarkerPresent() ? 1 : 0);
 }
 
-// Resident memory in KiB, open descriptors and threads of this process.
+// Memory in KiB, resident and what of it the allocator has handed out; open descriptors and threads of this process.
 QJsonObject taken()
 {
+    const struct mallinfo2 heap = mallinfo2();
     QFile file(QStringLiteral("/proc/self/statm"));
     const bool isOpen = file.open(QIODevice::ReadOnly);
     const qint64 pages = isOpen ? file.readAll().split(' ').value(1).toLongLong() : 0;
@@ -94,40 +98,45 @@ QJsonObject taken()
         return static_cast<qint64>(QDir(QLatin1String(folder)).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size());
     };
     return {{QStringLiteral("memoryKiB"), pages * sysconf(_SC_PAGESIZE) / 1024},
+            {QStringLiteral("heapKiB"), static_cast<qint64>((heap.uordblks + heap.hblkhd) / 1024)},
             {QStringLiteral("descriptors"), count("/proc/self/fd")},
             {QStringLiteral("threads"), count("/proc/self/task")}};
 }
 
-QCoro::Task<void> monitor(TorController *controller, FastClock *clock, TorLogStore *log, double hours)
-{
-    constexpr std::chrono::seconds turn(10); // of the fast clock
-    constexpr int turnsPerLine = 12;
+// What has happened in a session that is watched.
+struct Seen {
     qint64 deaths = 0;
     qint64 failures = 0;
     qint64 refreshes = 0;
-    const auto start = clock->now();
-    const auto end = start + std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::duration<double, std::ratio<3600>>(hours));
+};
+
+void printReading(const TorController &controller, const TorLogStore &log, const Seen &seen, Clock::TimePoint::duration since)
+{
+    QJsonObject line = taken();
+    line.insert(QStringLiteral("minutes"), static_cast<qint64>(std::chrono::duration_cast<std::chrono::minutes>(since).count()));
+    line.insert(QStringLiteral("deaths"), seen.deaths);
+    line.insert(QStringLiteral("failures"), seen.failures);
+    line.insert(QStringLiteral("refreshes"), seen.refreshes);
+    line.insert(QStringLiteral("circuits"), static_cast<qint64>(controller.circuits().size()));
+    line.insert(QStringLiteral("logLines"), static_cast<qint64>(log.snapshot().lines().size()));
+    line.insert(QStringLiteral("logBytes"), QFileInfo(log.log().noticesPath()).size());
+    std::puts(QJsonDocument(line).toJson(QJsonDocument::Compact).constData());
+    std::fflush(stdout);
+}
+
+QCoro::Task<void> monitor(TorController *controller, FastClock *clock, Seen *seen, Clock::TimePoint end)
+{
+    constexpr std::chrono::seconds turn(10); // of the fast clock
     co_await controller->connect();
     for (int turns = 0; clock->now() < end; ++turns) {
         if (controller->phase() != ConnectionPhase::connected) {
-            ++(controller->phase() == ConnectionPhase::stale ? deaths : failures);
+            ++(controller->phase() == ConnectionPhase::stale ? seen->deaths : seen->failures);
             co_await controller->connect();
         } else if (turns % 3 == 0) {
             co_await controller->refreshCircuits();
-            refreshes += controller->circuitError() ? 0 : 1;
-        } else if (turns % turnsPerLine == 1) {
+            seen->refreshes += controller->circuitError() ? 0 : 1;
+        } else if (turns % 12 == 1) {
             co_await controller->runChecks();
-        }
-        if (turns % turnsPerLine == 0) {
-            QJsonObject line = taken();
-            line.insert(QStringLiteral("minutes"), static_cast<qint64>(std::chrono::duration_cast<std::chrono::minutes>(clock->now() - start).count()));
-            line.insert(QStringLiteral("deaths"), deaths);
-            line.insert(QStringLiteral("failures"), failures);
-            line.insert(QStringLiteral("refreshes"), refreshes);
-            line.insert(QStringLiteral("circuits"), static_cast<qint64>(controller->circuits().size()));
-            line.insert(QStringLiteral("logLines"), static_cast<qint64>(log->snapshot().lines().size()));
-            std::puts(QJsonDocument(line).toJson(QJsonDocument::Compact).constData());
-            std::fflush(stdout);
         }
         const std::chrono::milliseconds pause = turn;
         co_await clock->sleep(pause);
@@ -158,6 +167,7 @@ int main(int argc, char **argv)
     TerminalIntegration terminal(profile, NetworkProbe::checkURL().toString());
     const auto running = runningApplications();
     RunningApplications &applications = *running;
+    TransportSearch search(profile);
     TorController controller(TorController::Services{
         .profile = profile,
         .settings = settings,
@@ -169,18 +179,25 @@ int main(int argc, char **argv)
         .resolvers = resolvers,
         .terminal = terminal,
         .applications = applications,
-        .locateTransports = [&profile] { return PluggableTransports::locateAsync(profile); },
+        .locateTransports = [&search] { return search.locate(); },
         .bridgeProbe =
             [&systemClock](const QString &host, quint16 port, std::chrono::milliseconds limit) {
                 return TCPProbe::connectTime(host, port, limit, &systemClock);
             },
     });
-    TorLogStore log(TorLog(profile), nullptr, TorLogStore::pollInterval / speed);
+    // Not once in each second of the fast clock: reading a full log so often would leave no time for anything else.
+    TorLogStore log(TorLog(profile), nullptr, TorLogStore::pollInterval * 10 / speed);
+    Seen seen;
+    QTimer readings;
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == QStringLiteral("monitor")) {
         log.start();
-        const double hours = arguments.value(2).toDouble();
-        QTimer::singleShot(0, &application, [&, hours] { monitor(&controller, &clock, &log, hours); });
+        const auto start = clock.now();
+        const auto end = start
+            + std::chrono::duration_cast<Clock::TimePoint::duration>(std::chrono::duration<double, std::ratio<3600>>(arguments.value(2).toDouble()));
+        QObject::connect(&readings, &QTimer::timeout, &application, [&, start] { printReading(controller, log, seen, clock.now() - start); });
+        readings.start(std::chrono::milliseconds(std::chrono::minutes(5)) / speed);
+        QTimer::singleShot(0, &application, [&, end] { monitor(&controller, &clock, &seen, end); });
     } else {
         QTimer::singleShot(0, &application, [&controller] { attempt(&controller); });
     }

@@ -9,7 +9,9 @@ hours   keeps a session for H hours (2) of a clock that runs sixty times as fast
         Tor is killed at random, and its log grows.
 
 Memory, descriptors and threads are read along the way; the middle of the last readings is compared with that of the first
-ones, after a warm-up. Exit status 1 when something has grown, 77 where no lab can run.
+ones, after a warm-up: a tenth of the cycles, and of the hours what it takes until all that has a limit is as large as it gets
+(the log that is kept and the part of its file that is read, and Tor has died and been started again). Exit status 1 when
+something has grown, 77 where no lab can run.
 """
 
 import argparse
@@ -31,11 +33,14 @@ from veldlab.product import Product, difference  # noqa: E402
 
 FAST_FORWARD = os.environ.get("VELDMARK_FAST_FORWARD", str(PROJECT / "build" / "dev" / "tests" / "FastForward"))
 KINDS = ("memoryKiB", "descriptors", "threads")
+HEAP = "heapKiB"     # what of the memory is in use, where the process says so itself
 # The allocator keeps some of what was freed, so memory may differ by this much; a leak of 10 KiB in each cycle or minute
 # would be far beyond it. Descriptors and threads may not differ.
 MEMORY_SLACK = 0.05
-WARM_UP = 0.1        # of the readings
+WARM_UP = 0.1        # of the cycles
 COMPARED = 0.2       # of the readings, at both ends
+FULL_LOG = {"logLines": 3000, "logBytes": 1000000}  # the limits of src/log/TorLog.h
+LEAST_READINGS = 10  # after the warm-up
 
 # On the host: what a process takes, by its program's path; Tor's process ids.
 TAKEN = """
@@ -52,10 +57,13 @@ done
 true
 """
 GROW_LOG = """
+line="Nov 16 00:41:07.123 [notice] A line of the soak, one of many, about as long as those that Tor writes."
+some=$(for i in 1 2 3 4 5 6 7 8 9 10; do echo "$line"; done)
+many=$(i=0; while [ $((i += 1)) -le 1100 ]; do echo "$some"; done)
 while sleep 0.05; do
-  [ ! -f "$1" ] || for i in 1 2 3 4 5 6 7 8 9 10; do
-    echo "Nov 16 00:41:07.123 [notice] A line of the soak, one of many, about as long as those that Tor writes." >>"$1"
-  done
+  if size=$(stat -c %s "$1" 2>/dev/null); then
+    if [ "$size" -lt 1000000 ]; then echo "$many" >>"$1"; else echo "$some" >>"$1"; fi
+  fi
 done
 """
 
@@ -71,19 +79,28 @@ def taken(lab: Lab, product: Product) -> dict[str, int]:
     return dict(zip(KINDS, map(int, line.split())))
 
 
-def growth(readings: list[dict]) -> list[str]:
-    """Prints start and end of each kind; what has grown."""
-    kept = readings[int(len(readings) * WARM_UP):]
+def growth(kept: list[dict]) -> list[str]:
+    """Prints start and end of each kind, of the readings after the warm-up; what has grown."""
     share = max(1, int(len(kept) * COMPARED))
     grown = []
-    for kind in KINDS:
+    for kind in (kind for kind in (*KINDS, HEAP) if kind in kept[0]):
         first = statistics.median(reading[kind] for reading in kept[:share])
         last = statistics.median(reading[kind] for reading in kept[-share:])
-        slack = first * MEMORY_SLACK if kind == "memoryKiB" else 0
+        slack = first * MEMORY_SLACK if kind.endswith("KiB") else 0
         print(f"  {kind:<12} {first:>9.0f} at the start {last:>9.0f} at the end", flush=True)
         if last > first + slack:
             grown.append(f"{kind} grew from {first:.0f} to {last:.0f}")
     return grown
+
+
+def after_filling(readings: list[dict]) -> list[dict]:
+    """Those from the first one on at which everything that has a limit has reached it and Tor has died once."""
+    reached = dict.fromkeys(FULL_LOG, 0)
+    for number, reading in enumerate(readings):
+        reached = {kind: max(most, reading[kind]) for kind, most in reached.items()}
+        if reading["deaths"] and all(reached[kind] >= limit for kind, limit in FULL_LOG.items()):
+            return readings[number:]
+    return []
 
 
 def cycles(lab: Lab, product: Product, count: int, minutes: float, chance: random.Random) -> tuple[list[str], dict]:
@@ -107,11 +124,11 @@ def cycles(lab: Lab, product: Product, count: int, minutes: float, chance: rando
             if (number + 1) % 50 == 0:
                 print(f"  {number + 1} cycles, {kills} with Tor killed, {time.monotonic() - started:.0f} s: {readings[-1]}", flush=True)
         session.interrupt()
-    problems = growth(readings)
+    problems = growth(readings[int(len(readings) * WARM_UP):])
     lab.host.run(["rm", "-rf", "/root/.config/veldmark"], check=True)
     if left := difference(before, lab.host.snapshot()):
         problems.append("the host is not as it was: " + left)
-    return problems, {"cycles": len(readings), "kills": kills, "seconds": round(time.monotonic() - started), "first": readings[0], "last": readings[-1]}
+    return problems, {"cycles": len(readings), "kills": kills, "seconds": round(time.monotonic() - started), "readings": readings}
 
 
 def hours(lab: Lab, programs: Path, length: float, chance: random.Random) -> tuple[list[str], dict]:
@@ -139,7 +156,9 @@ def hours(lab: Lab, programs: Path, length: float, chance: random.Random) -> tup
         disturber.join()
         growing.kill()
         growing.wait()
-    problems = growth(readings)
+    kept = after_filling(readings)
+    print(f"  {len(kept)} of {len(readings)} readings after the warm-up", flush=True)
+    problems = growth(kept) if len(kept) >= LEAST_READINGS else ["too few readings after the warm-up to say anything"]
     if monitor.wait() != 0:
         problems.append("the network was not restored")
     last = readings[-1]
@@ -148,7 +167,7 @@ def hours(lab: Lab, programs: Path, length: float, chance: random.Random) -> tup
     lab.host.run(["rm", "-rf", "/root/.config/veldmark"], check=True)
     if left := difference(before, lab.host.snapshot()):
         problems.append("the host is not as it was: " + left)
-    return problems, {"hours": length, "kills": kills, "first": readings[0], "last": last}
+    return problems, {"hours": length, "kills": kills, "readings": readings}
 
 
 def main() -> int:
@@ -163,7 +182,7 @@ def main() -> int:
     chance = random.Random(given.seed)
     problems, report = [], {}
     try:
-        with Lab() as lab:
+        with Lab(share=[given.programs.resolve()]) as lab:
             programs = given.programs.resolve()
             product = Product(lab, programs)
             if given.cycles:

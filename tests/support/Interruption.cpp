@@ -1,5 +1,7 @@
 #include "support/Interruption.h"
 
+#include "base/Resumption.h"
+
 #include <QEvent>
 #include <QPointer>
 
@@ -17,9 +19,7 @@ void InterruptibleApplication::interrupt(int resumption, Moment moment, std::fun
 
 bool InterruptibleApplication::notify(QObject *receiver, QEvent *event)
 {
-    // The context of a wait is a bare QObject that nothing else uses.
-    const bool isResumption = m_act && event->type() == QEvent::MetaCall
-        && receiver->metaObject() == &QObject::staticMetaObject;
+    const bool isResumption = m_act && dynamic_cast<Resumption *>(event);
     if (!isResumption || ++m_resumptions != m_wanted)
         return QCoreApplication::notify(receiver, event);
     const auto act = std::exchange(m_act, nullptr);

@@ -76,6 +76,37 @@ private Q_SLOTS:
         }
     }
 
+    void deliversAtOnceWhatTheEventLoopHasNotGotTo()
+    {
+        const ResumeOnce<int> once;
+        std::vector<int> seen;
+        const auto task = store(once, &seen);
+        once.deliver();
+        QVERIFY2(seen.empty(), "delivered before the wait had ended");
+        std::thread([once] { once.complete(5); }).join();
+        QVERIFY2(seen.empty(), "nothing was left to deliver");
+        once.deliver();
+        QCOMPARE(seen, std::vector<int>{5});
+        once.deliver();
+        QCoreApplication::processEvents();
+        QCOMPARE(seen.size(), 1u);
+    }
+
+    void deliversWhateverAnotherThreadHasCompleted()
+    {
+        for (int round = 0; round < 200; ++round) {
+            const ResumeOnce<int> once;
+            std::vector<int> seen;
+            const auto task = store(once, &seen);
+            std::thread other([once] { once.complete(1); });
+            while (!once.isDone())
+                std::this_thread::yield();
+            once.deliver();
+            QCOMPARE(seen.size(), 1u);
+            other.join();
+        }
+    }
+
     void aManualClockRunsFiveMinutesAtOnce()
     {
         ManualClock clock;

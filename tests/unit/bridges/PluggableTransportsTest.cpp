@@ -4,7 +4,6 @@
 #include "ZipArchive.h"
 
 #include <QSet>
-#include <QThread>
 #include <QTest>
 
 using namespace veldmark;
@@ -42,13 +41,6 @@ struct System {
     ProgramTree tree;
     PlatformProfile profile;
 };
-
-QCoro::Task<void> keep(QCoro::Task<PluggableTransports> search, PluggableTransports *found, QThread **thread)
-{
-    const PluggableTransports result = co_await search;
-    *found = result;
-    *thread = QThread::currentThread();
-}
 
 } // namespace
 
@@ -318,20 +310,6 @@ private Q_SLOTS:
         const PluggableTransports found = system.locate();
         QCOMPARE(*found.lyrebird, lyrebird);
         QCOMPARE(found.builtin.value(QStringLiteral("obfs4")), preferencesLines);
-    }
-
-    void searchesOnAnotherThreadAndAnswersOnThis()
-    {
-        const System system(false);
-        system.tree.program(system.bundle(QStringLiteral("snowflake-client")));
-        PluggableTransports found;
-        QThread *thread = nullptr;
-        const auto task = keep(PluggableTransports::locateAsync(system.profile), &found, &thread);
-        QVERIFY2(!thread, "answered before the event loop turned");
-        QTRY_VERIFY(thread);
-        QCOMPARE(thread, QThread::currentThread());
-        QCOMPARE(found, system.locate());
-        QVERIFY(found.snowflake);
     }
 
     void meekBridgesAreFoundUnderAnyOfTheirNames()
