@@ -34,6 +34,8 @@ TROUBLES = {f"a disk with {spare} kB left": (fill(spare), f"rm {STATE}/filler", 
                           "umount /usr/sbin/nft", TOR),
     "an nft that is killed": ("printf '#!/bin/sh\\nkill -9 $$\\n' >/mnt/nft; chmod +x /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft",
                               "umount /usr/sbin/nft", TOR),
+    "a stat that fails": ("printf '#!/bin/sh\\nexit 1\\n' >/mnt/stat; chmod +x /mnt/stat; mount --bind /mnt/stat /usr/bin/stat",
+                          "umount /usr/bin/stat", TOR),
     "no flock": (NOT_EXECUTABLE.format("/usr/bin/flock"), "umount /usr/bin/flock", TOR),
     "no mount": (NOT_EXECUTABLE.format("/usr/bin/mount"), "umount /usr/bin/mount", TOR),
     "no tor": (f"mv {OTHER_TOR} {OTHER_TOR}.away", f"mv {OTHER_TOR}.away {OTHER_TOR}", OTHER_TOR),
@@ -73,6 +75,29 @@ class Trouble(HelperTest):
         return {"connect": ["connect", "--tor", tor, "--hash", HASH, "--strict", "1", "--lan", "0"],
                 "connect in proxy mode": ["connect", "--tor", tor, "--hash", HASH, "--strict", "0", "--lan", "0"],
                 "fix-dns": ["fix-dns"], "disconnect": ["disconnect"]}[verb]
+
+    def test_process_that_keeps_tors_output_open_is_not_waited_for(self):
+        self.machine.shell(f"mv {OTHER_TOR} {OTHER_TOR}.away; printf '#!/bin/sh\\nsetsid sleep 1000 & echo $! >/run/data/left\\n' >{OTHER_TOR};"
+                           f"chmod 755 {OTHER_TOR}")
+        try:
+            done = self.machine.help(*self.words("connect in proxy mode", OTHER_TOR), check=False, timeout=50)
+            self.assertOneLine(done, "Tor does not accept its configuration")
+        finally:
+            self.machine.shell(f"kill $(cat /run/data/left); rm /run/data/left; mv -f {OTHER_TOR}.away {OTHER_TOR}")
+        self.assertEqual(self.machine.snapshot(), self.before)
+
+    def test_folders_that_cannot_be_looked_at_are_not_taken_for_safe(self):
+        begin, end, _ = TROUBLES["a stat that fails"]
+        self.machine.connect()
+        for verb in "connect", "fix-dns", "disconnect":
+            self.machine.shell(f"chmod 777 {STATE}/state; {begin}")
+            try:
+                self.assertOneLine(self.machine.help(*self.words(verb, TOR), check=False), "cannot be looked at")
+            finally:
+                self.machine.shell(f"{end}; chmod 755 {STATE}/state")
+            self.assertTrue(self.drops())
+        self.machine.help("disconnect")
+        self.assertEqual(self.machine.snapshot(), self.before)
 
     def drops(self):
         """Asked of the packets, since nft itself may be what is wrong."""
