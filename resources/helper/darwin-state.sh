@@ -217,6 +217,9 @@ as_tor() {
   as_account "$TOR_UID" "$TOR_GID" "$TOR_GID" "$DATA" "$seconds" "$@"
 }
 
+# take_output SECONDS BYTES: so much of standard input at most; who keeps it open any longer is not waited for.
+take_output() { perl -e 'alarm shift; exec { $ARGV[0] } @ARGV' "$1" head -c "$2"; }
+
 # The kernel keeps at most 16 groups, the first of which is the effective one.
 caller_groups() {
   local groups

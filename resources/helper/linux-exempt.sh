@@ -135,7 +135,7 @@ linux_launch() {
   { find_exempt && [[ -d $EXEMPT_FOLDER && $(<"$RULES") == *"\"${EXEMPT_FOLDER#"$CGROUPS"/}\""* ]]; } ||
     die "Applications cannot be opened without Tor on this system."
   read_resolver
-  words=$(run_launcher "$OPT_APP" 2>&1 </dev/null | head -c 2000) && return 0
+  words=$(run_launcher "$OPT_APP" 2>&1 </dev/null | take_output $((LAUNCHER_SECONDS + 2)) 2000) && return 0
   words=${words%%$'\n'*}
   words=${words//[[:cntrl:]]/ }
   die "${words:-The application could not be started.}"

@@ -7,6 +7,8 @@ readonly GNOME_ENTRY=40-gnome
 readonly KDE_ENTRY=50-kde
 readonly ANSWER=$RUN/answer   # 0600; what a program of the user's printed
 readonly ANSWER_BYTES=262144
+readonly SESSION_SECONDS=5
+readonly MAX_SETTING=65536    # bytes; a longer one could not be handed back in an argument
 
 # The user's own exceptions would go past Tor, so only this computer itself is excepted, and with LAN 1 the local
 # network. The first line is the one that switches the rest on.
@@ -96,13 +98,15 @@ if [ -S "$XDG_RUNTIME_DIR/bus" ] && command -v dbus-send >/dev/null; then
   dbus-send --session --type=signal /KIO/Scheduler org.kde.KIO.Scheduler.reparseSlaveConfiguration string: || true
 fi'
 
-# as_session SCRIPT [ARGUMENT...]: runs it as the user of the session; what it prints goes to $ANSWER.
+# as_session SCRIPT [ARGUMENT...]: runs it as the user of the session; what it prints goes to $ANSWER. No more than would be
+# read: else it could fill the disk. Whoever keeps the pipe open is not waited for.
 as_session() {
   local script=$1
   shift
   rm -f -- "$ANSWER"
-  as_caller 5 env XDG_RUNTIME_DIR="/run/user/$CALLER_UID" INNER= \
-    DBUS_SESSION_BUS_ADDRESS="unix:path=/run/user/$CALLER_UID/bus" sh -c "$script" "$script" "$@" >"$ANSWER"
+  as_caller "$SESSION_SECONDS" env XDG_RUNTIME_DIR="/run/user/$CALLER_UID" INNER= \
+    DBUS_SESSION_BUS_ADDRESS="unix:path=/run/user/$CALLER_UID/bus" sh -c "$script" "$script" "$@" |
+    take_output $((SESSION_SECONDS + 2)) "$ANSWER_BYTES" >"$ANSWER"
 }
 
 # be_session_user UID: makes UID, of a journal entry, the one that as_session acts for.
@@ -135,12 +139,15 @@ put_gnome() {
   as_session "$GNOME_READ" </dev/null || status=$?
   ((status != 3)) || return 0
   ((status == 0)) || return 1
+  # What is cut off, or cannot be handed back, is better left alone.
+  [[ $(stat -c %s -- "$ANSWER") -lt $ANSWER_BYTES ]] || return 1
   while IFS= read -r line; do
+    ((${#line} <= MAX_SETTING)) || return 1
     if [[ $line =~ ^(org\.gnome\.system\.proxy[.a-z]*\ [a-z-]+)\ . ]] && ! has_controls "$line" &&
       [[ $wanted == *$'\n'"${BASH_REMATCH[1]} "* ]]; then
       was[${#was[@]}]="was $line"
     fi
-  done < <(head -c "$ANSWER_BYTES" -- "$ANSWER")
+  done <"$ANSWER"
   ((${#was[@]})) || return 1
   journal_has "$GNOME_ENTRY" || journal_put "$GNOME_ENTRY" "uid $CALLER_UID" "${was[@]}" ||
     die "The journal cannot be written."
@@ -217,7 +224,7 @@ read_kde() {
   local status=0 word
   as_session "$KDE_READ" </dev/null || status=$?
   ((status == 0)) || return "$status"
-  read -r word KDE_FILE < <(head -c "$ANSWER_BYTES" -- "$ANSWER") || return 1
+  read -r word KDE_FILE <"$ANSWER" || return 1
   case $word in
   absent) KDE_FILE=absent ;;
   file) [[ $KDE_FILE =~ ^[A-Za-z0-9+/]*=?=?$ ]] ;;

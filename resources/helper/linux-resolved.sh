@@ -11,7 +11,7 @@ has_resolved() {
   [[ -d /run/systemd/resolve ]] && command -v resolvectl >/dev/null
 }
 
-ask_resolved() { timeout -k 1 5 resolvectl --no-pager "$@" </dev/null; }
+ask_resolved() { timeout -k 1 5 resolvectl --no-pager -- "$@" </dev/null; }
 
 # print_links KIND: "KIND LINK VALUE..." for each link that has one; KIND is dns, dnsovertls or dnssec.
 print_links() {

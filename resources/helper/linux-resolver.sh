@@ -43,6 +43,15 @@ list_servers() {
   printf '%s' "$list"
 }
 
+# print_settings TEXT: the lines of a resolver file that are settings. What is kept can be read by everybody, and somebody who
+# can change where $RESOLVER leads could have had another file read here.
+print_settings() {
+  local line
+  while IFS= read -r line || [[ -n $line ]]; do
+    [[ ! $line =~ ^[[:blank:]]*(nameserver|search|domain|options|sortlist)[[:blank:]] ]] || printf '%s\n' "$line"
+  done <<<"$1"
+}
+
 # read_resolver: sets RESOLVER_TARGET and FORMER_RESOLVER. When the resolver on this computer itself is the only
 # one (it would ask by way of Tor), the servers that it asks take its place.
 read_resolver() {
@@ -64,6 +73,7 @@ read_resolver() {
     [[ -z $servers && -f $file ]] || break
     FORMER_RESOLVER=$(head -c 65536 -- "$file" | tr -d '\0')
   done
+  FORMER_RESOLVER=$(print_settings "$FORMER_RESOLVER")
 }
 
 # put_resolver: mounts our file, unless it is in place.

@@ -17,6 +17,7 @@ linux_connect() {
   parse_connect "$@"
   [[ $OPT_STRICT == 0 ]] || mode=strict
   need_programs flock nft setpriv unshare setsid getent stat sync mount umount sha256sum timeout readlink
+  lift_limits
   take_lock
   trap finish EXIT
   check_firewall
@@ -115,11 +116,15 @@ undo_session() {
 # linux_fix-dns: puts back what somebody changed under a running session: the mount, and the rules, in one
 # transaction, so that also a flushed kill switch stands again.
 linux_fix-dns() {
+  local status=0
   (($# == 0)) || die "The verb fix-dns takes no options."
   need_programs flock nft mount umount readlink stat sync
+  lift_limits
   take_lock
   trap finish EXIT
-  { [[ -f $MARKER ]] && folders_are_safe; } || die "Veldmark is not connected, so the DNS settings were left alone."
+  [[ -f $MARKER ]] && folders_are_safe || status=$?
+  ((status != 2)) || die "The folders below $BASE cannot be looked at, so nothing was done."
+  ((status == 0)) || die "Veldmark is not connected, so the DNS settings were left alone."
   if [[ -f $RULES ]]; then
     hold_rules || die "Somebody else is changing the firewall. Try again in a moment."
     make_group || true
@@ -134,13 +139,17 @@ linux_fix-dns() {
 }
 
 linux_disconnect() {
+  local status=0
   (($# == 0)) || die "The verb disconnect takes no options."
   need_programs flock nft umount stat
+  lift_limits
   take_lock
   trap finish EXIT
   if [[ -e $BASE || -L $BASE ]]; then
     # What others could write is no record of ours.
-    folders_are_safe || JOURNAL_TRUSTED=
+    folders_are_safe || status=$?
+    ((status != 2)) || die "The folders below $BASE cannot be looked at, so nothing was done."
+    ((status == 0)) || JOURNAL_TRUSTED=
   fi
   undo_session || die "$UNDONE"
 }

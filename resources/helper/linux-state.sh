@@ -29,24 +29,36 @@ take_lock() {
   flock -w "$LOCK_SECONDS" 9 || die "Another run of the helper is still working. Try again in a moment."
 }
 
+# lift_limits: limits of the caller's shell must not end the watcher or Tor later on, nor this run half-way. What cannot be
+# lifted stays.
+lift_limits() {
+  local kind
+  for kind in f t v d m u; do ulimit -"$kind" unlimited || ulimit -S"$kind" hard || true; done
+  [[ ! $(ulimit -n) =~ ^[0-9]{1,3}$ ]] || ulimit -Sn 4096 || ulimit -n 4096 || true
+  [[ ! $(ulimit -s) =~ ^[0-9]{1,3}$ ]] || ulimit -Ss 8192 || ulimit -s 8192 || true
+}
+
 # folder_is_safe "MODE UID TYPE": a real folder of root's that nobody else can write.
 folder_is_safe() {
   [[ $1 =~ ^[0-7]*[0145][0145]\ 0\ directory$ ]]
 }
 
-# folders_are_safe: true when nobody but root could have put anything into our folders. Changes nothing.
+# folders_are_safe: true when nobody but root could have put anything into our folders; status 2 when that cannot be told.
+# Changes nothing.
 folders_are_safe() {
-  local path line
+  local path line lines=0
   for path in "$BASE" "$STATE" "$JOURNAL" "$RUN"; do
     [[ -d $path ]] || return 1
   done
   while IFS= read -r line; do
     folder_is_safe "$line" || return 1
+    lines=$((lines + 1))
   done < <(stat -c '%a %u %F' -- / /var /var/lib "$BASE" "$STATE" "$JOURNAL" "$RUN")
+  ((lines == 7)) || return 2
 }
 
 ready_folders() {
-  local path mode line want
+  local path mode line want lines=0
   for path in "$BASE" "$STATE" "$RUN" "$PROGRAMS" "$JOURNAL"; do
     mode=0755
     [[ $path != "$JOURNAL" ]] || mode=0700
@@ -54,6 +66,7 @@ ready_folders() {
   done
   while IFS=: read -r path line; do
     folder_is_safe "$line" || die "The folder $path is not safe: only root may own or write it."
+    lines=$((lines + 1))
     case $path in
     "$JOURNAL") want=700 ;;
     "$BASE"*) want=755 ;;
@@ -61,6 +74,7 @@ ready_folders() {
     esac
     [[ ${line%% *} == "$want" ]] || chmod "$want" -- "$path" || die "The folder $path cannot be changed."
   done < <(stat -c '%n:%a %u %F' -- / /var /var/lib "$BASE" "$STATE" "$JOURNAL" "$RUN" "$PROGRAMS")
+  ((lines == 8)) || die "The folders below $BASE cannot be looked at."
   ready_data_folder
 }
 
@@ -110,6 +124,9 @@ as_account() {
 }
 as_tor() { as_account "$TOR_UID" "$TOR_GID" --clear-groups "$DATA" "$@"; }
 as_caller() { as_account "$CALLER_UID" "$CALLER_GID" --init-groups "$CALLER_HOME" "$@"; }
+
+# take_output SECONDS BYTES: so much of standard input at most; who keeps it open any longer is not waited for.
+take_output() { timeout -k 1 "$1" head -c "$2"; }
 
 # ---- Primitives of the shared parts ----
 

@@ -123,7 +123,7 @@ start_tor() {
   launcher=$!
   for ((poll = 0; poll < START_POLLS; poll++)); do
     # It opens all its ports before it fails for one of them.
-    if tor_listens && [[ $(<"$START_OUT")$(<"$NOTICES") != *"Could not bind to"* ]]; then
+    if tor_listens && [[ $(head -qc 65536 -- "$START_OUT" "$NOTICES" | tr -d '\0') != *"Could not bind to"* ]]; then
       return
     fi
     start_time "$launcher" || die "Tor did not start: $(tor_failure)"

@@ -51,13 +51,13 @@ tor_reason() {
   printf '%s' "${reason:0:300}"
 }
 
-# ready_torrc: has_ipv6_loopback is the system's own part's. Writes the configuration beside the one in use and has Tor itself check it.
+# ready_torrc: has_ipv6_loopback and take_output are the system's own part's. Writes the configuration beside the one in use and has Tor itself check it.
 ready_torrc() {
   local text output ipv6=0
   ! has_ipv6_loopback || ipv6=1
   text=$(print_torrc "$ipv6" && printf x)
   write_file "$TORRC.checked" 0640 "0:$TOR_GID" "${text%x}" || die "The file $TORRC cannot be written."
-  if ! output=$(as_tor 10 "$OPT_TOR" --verify-config -f "$TORRC.checked" 2>&1 </dev/null | head -c 65536); then
+  if ! output=$(as_tor 10 "$OPT_TOR" --verify-config -f "$TORRC.checked" 2>&1 </dev/null | take_output 12 65536); then
     rm -f -- "$TORRC.checked"
     output=$(tor_reason "$output")
     die "Tor does not accept its configuration: ${output:-it ended without a message.}"

@@ -70,6 +70,44 @@ class Gnome(Desktop):
         self.assertEqual(self.settings(), before)
         self.disconnect()
 
+    def stand_in(self, script):
+        """From now on `script` is gsettings; the way back is its result."""
+        self.machine.shell("mkdir -p /mnt/stand-in; printf '#!/bin/sh\\n%s\\n' \"$1\" >/mnt/stand-in/gsettings; chmod +x /mnt/stand-in/gsettings;"
+                           "mount --bind /mnt/stand-in/gsettings /usr/bin/gsettings", script)
+        return lambda: self.machine.shell("umount /usr/bin/gsettings; rm -r /mnt/stand-in")
+
+    def test_settings_that_could_not_be_handed_back_are_left_alone(self):
+        """Longer than an argument may be."""
+        hosts = ", ".join(f"'h{number}.example'" for number in range(10000))
+        self.machine.run("dconf", "load", "/system/proxy/", uid=USER_UID, env=services.DESKTOP, stdin=f"[/]\nignore-hosts=[{hosts}]\n")
+        before = self.settings()
+        self.assertGreater(len(before[1]), 150000)
+        self.connect(strict=1)
+        self.assertEqual(self.settings(), before)
+        self.disconnect()
+        self.assertOneLine(self.connect(check=False), "proxy settings")
+        self.assertEqual(self.settings(), before)
+
+    def test_program_that_prints_without_end_fills_no_disk(self):
+        before = self.machine.snapshot()
+        restore = self.stand_in("case $1 in writable) echo true ;; *) exec yes ;; esac")
+        try:
+            self.assertOneLine(self.connect(check=False), "proxy settings")
+        finally:
+            restore()
+        self.assertEqual(self.machine.shell("stat -c %s /var/lib/veldmark/run/answer"), "262144\n")
+        self.assertEqual(self.machine.snapshot(), before)
+
+    def test_process_that_keeps_the_answer_open_is_not_waited_for(self):
+        before = self.machine.snapshot()
+        restore = self.stand_in("case $1 in writable) setsid sleep 1000 & echo $! >/run/user/4242/left; echo true ;; *) echo none ;; esac")
+        try:
+            self.assertOneLine(self.connect(check=False, timeout=50), "proxy settings")
+        finally:
+            self.machine.shell("kill $(cat /run/user/4242/left)")
+            restore()
+        self.assertEqual(self.machine.snapshot(), before)
+
     def test_program_that_hangs_is_given_up(self):
         """In proxy mode a proxy that cannot be set is a failure, and everything goes back."""
         before = self.machine.snapshot()

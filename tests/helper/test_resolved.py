@@ -78,6 +78,15 @@ class Resolved(HelperTest):
         self.assertNotIn("127.0.0.1", self.machine.shell("resolvectl dns"))
         self.machine.help("disconnect")
 
+    def test_link_whose_name_looks_like_an_option(self):
+        self.machine.shell("ip link add name -h type veth peer name plain; ip link set dev -h up; resolvectl dns -- -h 192.0.2.97")
+        before = self.settings()
+        self.machine.connect()
+        self.assertRegex(self.machine.shell("resolvectl dns -- -h"), r": 127\.0\.0\.1\n")
+        self.machine.help("disconnect")
+        self.assertEqual(self.settings(), before)
+        self.machine.shell("ip link del dev plain")
+
     def test_link_that_is_gone_does_not_matter(self):
         self.machine.shell("ip link add gone type veth peer name gone2; ip link set gone up; resolvectl dns gone 192.0.2.97")
         before = self.settings().replace("gone", "")

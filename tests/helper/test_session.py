@@ -112,6 +112,7 @@ class Session(HelperTest):
 
     def test_refused_configuration_leaves_the_session_in_force(self):
         self.machine.connect()
+        self.machine.await_watcher()
         during = self.machine.snapshot()
         self.assertOneLine(self.machine.connect(more=["--bridge", "1.2.3.4:443 nonsense"], check=False))
         self.assertEqual(self.machine.snapshot(), during)
@@ -246,6 +247,37 @@ class Session(HelperTest):
             self.machine.shell('mv "$1" "$1.away" && ln -s "$1.away" "$1"', path)
             self.assertOneLine(self.machine.connect(check=False), refusal)
             self.machine.shell('rm "$1"; mv "$1.away" "$1"', path)
+
+    def test_file_that_is_no_resolver_file_is_not_shown_to_everybody(self):
+        """A link in a folder of somebody else's may lead anywhere by the time that it is read."""
+        self.machine.shell("cp -a /etc/resolv.conf /run/former; printf 'root:secret:\\nnameserver 192.0.2.7\\noptions edns0' >/run/private;"
+                           "ln -sfn /run/private /etc/resolv.conf")
+        try:
+            self.machine.connect()
+            self.assertEqual(self.machine.shell("cat /var/lib/veldmark/run/tor-resolv.conf"), "nameserver 192.0.2.7\noptions edns0\n")
+            self.machine.help("disconnect")
+        finally:
+            self.machine.shell("rm /etc/resolv.conf; mv /run/former /etc/resolv.conf")
+
+    def test_limits_of_the_callers_shell_end_nothing(self):
+        """Neither this run nor what outlives it: the watcher and Tor."""
+        run = f'exec /bin/bash "{self.machine.helper}" "$@"'
+        words = ["connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0"]
+        self.assertNotEqual(self.machine.run("/bin/bash", "-c", "ulimit -Sf 0; echo x >/run/x", check=False).returncode, 0)
+        for limit in "-Sf 0", "-Sn 9", "-St 1", "-Sv 20000", "-Ss 64", "-Su 1":
+            with self.subTest(limit):
+                self.machine.run("/bin/bash", "-c", f"ulimit {limit}; {run}", "limited", *words)
+                self.machine.await_watcher()
+                [tor] = self.machine.tor_pids()
+                for pid in tor, self.machine.shell("pgrep -xf '/bin/bash -p -- /var/lib/veldmark/run/watcher.sh'").strip():
+                    limits = self.machine.shell(f"cat /proc/{pid}/limits")
+                    for name in "cpu time", "file size", "address space":
+                        self.assertRegex(limits, rf"Max {name} +unlimited")
+                    self.assertRegex(limits, r"Max processes +(\d{3,}|unlimited)")
+                    self.assertRegex(limits, r"Max open files +\d{4}")
+                    self.assertRegex(limits, r"Max stack size +(\d{7}|unlimited)")
+                self.machine.run("/bin/bash", "-c", f"ulimit {limit}; {run}", "limited", "disconnect")
+                self.assertEqual(self.machine.snapshot(), self.before)
 
     def test_folder_that_others_can_write_is_refused(self):
         for folder in "/var/lib/veldmark", "/var/lib/veldmark/state", "/var/lib/veldmark/run":

@@ -1,7 +1,9 @@
 """The helper on a computer where something is wrong: each run ends well or with one line that says what is wrong, the network is
 whole or closed as the line says, and a disconnect once the trouble is over puts everything back."""
 
+import concurrent.futures
 import subprocess
+import time
 
 import namespace
 from namespace import HASH, TOR, HelperTest
@@ -32,6 +34,8 @@ TROUBLES = {f"a disk with {spare} kB left": (fill(spare), f"rm {STATE}/filler", 
                           "umount /usr/sbin/nft", TOR),
     "an nft that is killed": ("printf '#!/bin/sh\\nkill -9 $$\\n' >/mnt/nft; chmod +x /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft",
                               "umount /usr/sbin/nft", TOR),
+    "a stat that fails": ("printf '#!/bin/sh\\nexit 1\\n' >/mnt/stat; chmod +x /mnt/stat; mount --bind /mnt/stat /usr/bin/stat",
+                          "umount /usr/bin/stat", TOR),
     "no flock": (NOT_EXECUTABLE.format("/usr/bin/flock"), "umount /usr/bin/flock", TOR),
     "no mount": (NOT_EXECUTABLE.format("/usr/bin/mount"), "umount /usr/bin/mount", TOR),
     "no tor": (f"mv {OTHER_TOR} {OTHER_TOR}.away", f"mv {OTHER_TOR}.away {OTHER_TOR}", OTHER_TOR),
@@ -71,6 +75,29 @@ class Trouble(HelperTest):
         return {"connect": ["connect", "--tor", tor, "--hash", HASH, "--strict", "1", "--lan", "0"],
                 "connect in proxy mode": ["connect", "--tor", tor, "--hash", HASH, "--strict", "0", "--lan", "0"],
                 "fix-dns": ["fix-dns"], "disconnect": ["disconnect"]}[verb]
+
+    def test_process_that_keeps_tors_output_open_is_not_waited_for(self):
+        self.machine.shell(f"mv {OTHER_TOR} {OTHER_TOR}.away; printf '#!/bin/sh\\nsetsid sleep 1000 & echo $! >/run/data/left\\n' >{OTHER_TOR};"
+                           f"chmod 755 {OTHER_TOR}")
+        try:
+            done = self.machine.help(*self.words("connect in proxy mode", OTHER_TOR), check=False, timeout=50)
+            self.assertOneLine(done, "Tor does not accept its configuration")
+        finally:
+            self.machine.shell(f"kill $(cat /run/data/left); rm /run/data/left; mv -f {OTHER_TOR}.away {OTHER_TOR}")
+        self.assertEqual(self.machine.snapshot(), self.before)
+
+    def test_folders_that_cannot_be_looked_at_are_not_taken_for_safe(self):
+        begin, end, _ = TROUBLES["a stat that fails"]
+        self.machine.connect()
+        for verb in "connect", "fix-dns", "disconnect":
+            self.machine.shell(f"chmod 777 {STATE}/state; {begin}")
+            try:
+                self.assertOneLine(self.machine.help(*self.words(verb, TOR), check=False), "cannot be looked at")
+            finally:
+                self.machine.shell(f"{end}; chmod 755 {STATE}/state")
+            self.assertTrue(self.drops())
+        self.machine.help("disconnect")
+        self.assertEqual(self.machine.snapshot(), self.before)
 
     def drops(self):
         """Asked of the packets, since nft itself may be what is wrong."""
@@ -139,24 +166,76 @@ class Trouble(HelperTest):
     def test_disconnect_from_proxy_mode(self):
         self.all_troubles("disconnect", 0)
 
-    def test_twenty_at_once(self):
-        """Whatever the order, one line or none, and a network that is whole."""
-        words = [self.words(verb, TOR) for verb in ("connect", "fix-dns", "connect in proxy mode", "disconnect")] * 5
-        runs = [self.machine.start("/bin/bash", self.machine.helper, *line, stderr=subprocess.PIPE, stdin=subprocess.DEVNULL, text=True)
-                for line in words]
-        done = 0
-        for line, run in zip(words, runs):
-            _, message = run.communicate()
-            wanted = {(0, ""), (1, "ERROR: Another run of the helper is still working. Try again in a moment.\n")}
-            if line == ["fix-dns"]:
-                wanted.add((1, "ERROR: Veldmark is not connected, so the DNS settings were left alone.\n"))
-            self.assertIn((run.returncode, message), wanted)
-            done += run.returncode == 0
-        self.assertGreater(done, 0)
-        self.assertLessEqual(len(self.machine.tor_pids()), 1)
+    def together(self, verbs):
+        """Runs them at once. Gives each run's status, message and seconds, and their numbers in the order in which they had the lock."""
+        self.machine.shell("""
+            cp /usr/bin/flock /run/real-flock; rm -f /run/order
+            printf '%s\n' '#!/bin/sh' '/run/real-flock "$@" || exit' 'case "$*" in "-w 20 9") echo "$PPID" >>/run/order ;; esac' >/run/flock
+            chmod 755 /run/flock; mount --bind /run/flock /usr/bin/flock""")
+        try:
+            started = time.monotonic()
+            runs = [self.machine.start("/bin/sh", "-c", 'echo $$ >"/run/pid-$0"; exec /bin/bash "$@"', str(number), self.machine.helper,
+                                       *self.words(verb, TOR), stderr=subprocess.PIPE, stdin=subprocess.DEVNULL, text=True)
+                    for number, verb in enumerate(verbs)]
+            ended = [0.0] * len(runs)
+            def wait(number):
+                message = runs[number].communicate()[1]
+                ended[number] = time.monotonic() - started
+                return runs[number].returncode, message
+            with concurrent.futures.ThreadPoolExecutor(len(runs)) as threads:
+                results = list(threads.map(wait, range(len(runs))))
+        finally:
+            self.machine.shell("umount /usr/bin/flock")
+        pids = self.machine.shell("".join(f"cat /run/pid-{number};" for number in range(len(runs)))).split()
+        return results, ended, [pids.index(pid) for pid in self.machine.shell("cat /run/order").split()]
+
+    def assert_one_after_the_other(self, verbs):
+        """Whoever had the lock has done its work on what the run before it had left; whoever had it not has waited for it as long
+        as it should, and says so. What stands in the end is what the last of them made."""
+        results, seconds, order = self.together(verbs)
+        self.assertGreater(len(order), 0)
+        self.assertEqual(len(set(order)), len(order))
+        session = None
+        for number in order:
+            wanted = (0, "")
+            if verbs[number] == "fix-dns" and session is None:
+                wanted = (1, "ERROR: Veldmark is not connected, so the DNS settings were left alone.\n")
+            self.assertEqual(results[number], wanted, verbs[number])
+            session = {"connect": "strict", "connect in proxy mode": "proxy", "disconnect": None, "fix-dns": session}[verbs[number]]
+        for number in set(range(len(verbs))) - set(order):
+            self.assertEqual(results[number], (1, "ERROR: Another run of the helper is still working. Try again in a moment.\n"))
+            self.assertGreaterEqual(seconds[number], 20)
+        print(f"{len(order)} of {len(verbs)} had the lock, the last after {max(seconds):.1f} s; then: {session}", flush=True)
+        self.assertEqual(self.machine.shell(f"cat {STATE}/state/active 2>/dev/null || true").strip(), session or "")
+        self.assertEqual(self.drops(), session == "strict")
+        self.assertEqual(len(self.machine.tor_pids()), 0 if session is None else 1)
+        if session == "strict":
+            self.machine.await_watcher()
+        self.assertEqual(self.machine.shell("pgrep -cf '^/bin/bash -p -- .*/watcher[.]sh$' || true").strip(), "1" if session == "strict" else "0")
+        if session is None:
+            self.assertEqual(self.machine.snapshot(), self.before)
         self.machine.help("disconnect")
         self.assertFalse(self.drops())
         self.assertEqual(self.machine.snapshot(), self.before)
+
+    def test_twenty_at_once(self):
+        self.assert_one_after_the_other(["connect", "fix-dns", "connect in proxy mode", "disconnect"] * 5)
+
+    def test_twenty_connects_at_once(self):
+        self.assert_one_after_the_other(["connect", "connect in proxy mode"] * 10)
+
+    def test_a_run_waits_no_longer_for_the_lock_than_it_should(self):
+        holder = self.machine.start("flock", "/run/veldmark.lock", "sh", "-c", "echo $$; exec sleep 60", stdout=subprocess.PIPE, text=True)
+        pid = holder.stdout.readline()
+        try:
+            started = time.monotonic()
+            done = self.machine.help("fix-dns", check=False)
+            self.assertOneLine(done, "Another run of the helper is still working.")
+            self.assertGreaterEqual(time.monotonic() - started, 20)
+        finally:
+            self.machine.shell(f"kill {pid}")
+            holder.communicate()
+        self.assertOneLine(self.machine.help("fix-dns", check=False), "not connected")
 
 
 if __name__ == "__main__":

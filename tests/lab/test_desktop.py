@@ -60,13 +60,10 @@ class DesktopCase(LabCase):
         self.assertEqual(difference(self.before, self.snapshot()), "")
 
     def wait_state(self, condition, timeout=60):
-        deadline = time.monotonic() + timeout
-        state = None
-        while time.monotonic() < deadline:
-            state = self.product.status()
-            if condition(state):
-                return state
-        self.fail(f"not within {timeout} s; last state {json.dumps(state)[:2000]}\n{self.window.errors}")
+        try:
+            return self.product.wait_state(condition, timeout)
+        except TimeoutError as error:
+            self.fail(f"{error}\n{self.window.errors}")
 
     def connect(self):
         self.window.click("push button", "Connect to Tor")

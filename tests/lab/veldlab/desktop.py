@@ -121,7 +121,7 @@ class Desktop(contextlib.ExitStack):
         self.lab.host.run(["mkdir", "-p", "/run/dbus"], check=True)
         bus = self._start(["dbus-daemon", "--system", "--nofork", "--nopidfile"], user="root")
         try:
-            self.lab.host.run(["gdbus", "wait", "--system", "--timeout", "20", "org.freedesktop.DBus"], check=True)
+            self.lab.host.run(["sh", "-c", "until gdbus wait --system --timeout 20 org.freedesktop.DBus 2>/dev/null; do sleep 0.02; done"], check=True)
             process = self._start([at.PYTHON, str(_SUPPORT / "login_manager.py")], user="root", stdin=subprocess.PIPE,
                                   stdout=subprocess.PIPE)
             service = Service(process)

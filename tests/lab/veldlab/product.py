@@ -8,6 +8,8 @@
 
 import contextlib
 import json
+import os
+import select
 import signal
 import subprocess
 import threading
@@ -33,6 +35,20 @@ def is_probed(state: dict) -> bool:
     return state["phase"] == "connected" and state["torVerified"] is not None
 
 
+def _lines(descriptor: int, deadline: float, look):
+    """The lines that come through a pipe until its end or the deadline, with a look() in between."""
+    rest = b""
+    while (left := deadline - time.monotonic()) > 0:
+        if not select.select([descriptor], [], [], min(left, 0.2))[0]:
+            look()
+            continue
+        some = os.read(descriptor, 1 << 20)
+        if not some:
+            return
+        *whole, rest = (rest + some).split(b"\n")
+        yield from whole
+
+
 class Product:
     """`programs`: the folder with veldmarkctl and the helper. `user`: who runs it; root needs no prompt."""
 
@@ -50,6 +66,26 @@ class Product:
 
     def run_helper(self, *arguments: str, **options) -> subprocess.CompletedProcess:
         return self.lab.host.run(["/bin/bash", self.helper, *arguments], **options)
+
+    def wait_state(self, condition, timeout: float = 60, look=lambda: None) -> dict:
+        """The first state for which `condition` holds among those that the running instance publishes, the present one first.
+        `look` is called several times a second, and may raise."""
+        deadline = time.monotonic() + timeout
+        state = None
+        while time.monotonic() < deadline:
+            look()
+            # Following costs a busy machine far less than asking again and again.
+            with self.lab.host.popen([self.ctl, "status", "--json", "--watch"], user=self.user, env=self.env,
+                                     stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL) as following:
+                try:
+                    for line in _lines(following.stdout.fileno(), deadline, look):
+                        state = json.loads(line)
+                        if condition(state):
+                            return state
+                finally:
+                    following.terminate()
+            time.sleep(0.1)   # no instance listens yet, or it has ended
+        raise TimeoutError(f"not within {timeout:.0f} s; last state {json.dumps(state)[:2000]}")
 
     def session(self, connect: bool = True, echo=None) -> "Session":
         """`veldmarkctl run`, with --connect or without. `echo` is called with each line it prints."""
@@ -80,18 +116,14 @@ class Session(contextlib.AbstractContextManager):
 
     def wait(self, condition, timeout: float = 60) -> dict:
         """The first published state for which `condition` holds, as the running instance tells it."""
-        deadline = time.monotonic() + timeout
-        state = None
-        while time.monotonic() < deadline:
+        def look() -> None:
             if self.process.poll() is not None:
                 raise RuntimeError(f"veldmarkctl run ended with {self.process.returncode}\n{self.output}")
-            result = self.product.run_verb("status", "--json")
-            if result.returncode == 0 and result.stdout.strip():
-                state = json.loads(result.stdout)
-                if condition(state):
-                    return state
-            time.sleep(0.1)
-        raise TimeoutError(f"not within {timeout:.0f} s; last state {json.dumps(state)[:2000]}\n{self.output}")
+
+        try:
+            return self.product.wait_state(condition, timeout, look)
+        except TimeoutError as error:
+            raise TimeoutError(f"{error}\n{self.output}") from None
 
     def wait_phase(self, phase: str, timeout: float = 60) -> dict:
         return self.wait(lambda state: state["phase"] == phase, timeout)
