@@ -9,9 +9,11 @@
 #include <QtQml>
 
 #include <algorithm>
+#include <cstddef>
 
 #if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/allocator_interface.h>
+// Of the sanitizer's run time; g++ brings no header that declares it.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #elif defined(Q_OS_LINUX)
 #include <malloc.h>
 #endif
