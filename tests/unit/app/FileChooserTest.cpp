@@ -59,6 +59,15 @@ private:
     QDBusConnection m_bus;
 };
 
+// What is sent to it has been preceded by all that was sent to its connection before.
+class Echo : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "test.Echo")
+
+public Q_SLOTS:
+    Q_SCRIPTABLE void answer() {}
+};
+
 namespace {
 
 QFileDialog *qtDialog()
@@ -77,6 +86,17 @@ class FileChooserTest : public QObject {
 
     SessionBus bus;
 
+    // Everything that `from` has sent to `to` by now has been dealt with there, and what that sent has reached the bus.
+    void assertDelivered(const QDBusConnection &from, QDBusConnection to)
+    {
+        Echo echo;
+        QVERIFY(to.registerObject(u"/echo"_s, &echo, QDBusConnection::ExportScriptableSlots));
+        const QDBusPendingCall call = from.asyncCall(
+            QDBusMessage::createMethodCall(to.baseService(), u"/echo"_s, u"test.Echo"_s, u"answer"_s));
+        QVERIFY(until([&] { return call.isFinished(); }));
+        QVERIFY(!call.isError());
+    }
+
 private Q_SLOTS:
     void initTestCase() { QVERIFY(bus.isRunning()); }
 
@@ -89,9 +109,10 @@ private Q_SLOTS:
     void asksThePortal()
     {
         QFETCH(bool, old);
-        Portal portal(bus.connection());
+        const QDBusConnection desktop = bus.connection(), application = bus.connection();
+        Portal portal(desktop);
         portal.old = old;
-        FileChooser chooser(bus.connection());
+        FileChooser chooser(application);
         QSignalSpy chosen(&chooser, &FileChooser::chosen);
         chooser.ask({.title = u"Choose"_s, .folder = u"/usr/bin"_s, .filterName = u"Applications"_s,
                      .filterPattern = u"*.desktop"_s, .several = true});
@@ -100,7 +121,7 @@ private Q_SLOTS:
         QCOMPARE(portal.options.value(u"multiple"_s).toBool(), true);
         QCOMPARE(portal.options.value(u"current_folder"_s).toByteArray(), QByteArray("/usr/bin\0", 9));
         QVERIFY(portal.options.contains(u"filters"_s));
-        settle(); // the reply comes before the answer
+        assertDelivered(desktop, application); // a portal that makes up its path must be heard of before it answers
         portal.answer(0, {u"file:///usr/share/applications/a%20b.desktop"_s, u"https://example.test/"_s});
         QVERIFY(until([&] { return chosen.count() == 1; }));
         QCOMPARE(chosen.at(0).at(0).toStringList(), QStringList(u"/usr/share/applications/a b.desktop"_s));
