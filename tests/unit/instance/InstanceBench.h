@@ -8,17 +8,23 @@
 
 namespace veldmark {
 
-// One command given by a client, and what came of it.
+// One command given by a client, and what came of it. It may go before the client has had its answer.
 struct Conversation {
-    std::shared_ptr<InstanceClient> client;
-    std::vector<QJsonObject> states;
     using Answer = Result<void, InstanceError>;
-    std::optional<Answer> answer;
+    struct Heard {
+        std::vector<QJsonObject> states;
+        std::optional<Answer> answer;
+    };
+
+    const std::shared_ptr<InstanceClient> client;
+    const std::shared_ptr<Heard> heard = std::make_shared<Heard>();
+    std::vector<QJsonObject> &states = heard->states;
+    std::optional<Answer> &answer = heard->answer;
 
     Conversation(const Workbench &bench, const QJsonObject &request) : client(InstanceClient::connectTo(bench.profile))
     {
         if (client)
-            talk(client, request, [this](const QJsonObject &state) { states.push_back(state); }, &answer);
+            talk(client, request, heard);
     }
     Conversation(const Workbench &bench, const char *command)
         : Conversation(bench, QJsonObject{{QStringLiteral("command"), QLatin1String(command)}})
@@ -36,12 +42,14 @@ struct Conversation {
     }
 
 private:
-    static QCoro::Task<void> talk(std::shared_ptr<InstanceClient> client, QJsonObject request,
-                                  std::function<void(const QJsonObject &)> onState, std::optional<Answer> *answer)
+    static QCoro::Task<void> talk(std::shared_ptr<InstanceClient> client, QJsonObject request, std::shared_ptr<Heard> heard)
     {
+        const std::function<void(const QJsonObject &)> onState = [heard](const QJsonObject &state) {
+            heard->states.push_back(state);
+        };
         auto running = client->run(request, onState);
         const Answer result = co_await running;
-        *answer = result;
+        heard->answer = result;
     }
 };
 
