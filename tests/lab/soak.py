@@ -1,15 +1,18 @@
 #!/usr/bin/python3
 """The program for a long time, in the private Tor network: it takes as much at the end as at the start.
 
-usage: soak.py [--cycles N] [--minutes M] [--hours H] [--seed N] [--programs FOLDER] [--json FILE]
+usage: soak.py [--cycles N] [--minutes M] [--hours H] [--rounds R] [--seed N] [--programs FOLDER] [--json FILE]
 
 cycles  connects and disconnects one running instance N times (500), in both modes by turns, or as often as M minutes (60)
-        permit. In one of ten, Tor is killed while it is connected. The host must then be as it was before.
+        permit. In one of ten, Tor is killed while it is connected; in three of four, it is disconnected while the checks of
+        the new connection are under way. The host must then be as it was before.
 hours   keeps a session for H hours (2) of a clock that runs sixty times as fast, with circuits and log being looked at.
         Tor is killed at random, and its log grows.
+rounds  opens and closes the circuits, the log and the settings R times (60) in the desktop application, connected, on an X
+        server of its own. In one of ten, Tor is killed while they are open, and the application connects again.
 
 Memory, descriptors and threads are read along the way; the middle of the last readings is compared with that of the first
-ones, after a warm-up: a tenth of the cycles, and of the hours what it takes until all that has a limit is as large as it gets
+ones, after a warm-up: a tenth of the cycles and rounds, and of the hours what it takes until all that has a limit is as large as it gets
 (the log that is kept and the part of its file that is read, and Tor has died and been started again). Exit status 1 when
 something has grown, 77 where no lab can run.
 """
@@ -28,8 +31,9 @@ from pathlib import Path
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
+from veldlab import desktop as person  # noqa: E402
 from veldlab.lab import PROJECT, Lab, LabUnavailable  # noqa: E402
-from veldlab.product import Product, difference  # noqa: E402
+from veldlab.product import Product, Session, difference, is_probed  # noqa: E402
 
 FAST_FORWARD = os.environ.get("VELDMARK_FAST_FORWARD", str(PROJECT / "build" / "dev" / "tests" / "FastForward"))
 KINDS = ("memoryKiB", "descriptors", "threads")
@@ -40,12 +44,13 @@ MEMORY_SLACK = 0.05
 WARM_UP = 0.1        # of the cycles
 COMPARED = 0.2       # of the readings, at both ends
 FULL_LOG = {"logLines": 3000, "logBytes": 1000000}  # the limits of src/log/TorLog.h
+WINDOWS = ("Circuits", "Tor Log", "Settings")
 LEAST_READINGS = 10  # after the warm-up
 
-# On the host: what a process takes, by its program's path; Tor's process ids.
+# On the host: what a process takes, by its program's path and the first of its arguments; Tor's process ids.
 TAKEN = """
 for p in /proc/[0-9]*; do
-  [ "$(readlink "$p/exe")" = "$1" ] && tr '\\0' ' ' <"$p/cmdline" | grep -q ' run' || continue
+  [ "$(readlink "$p/exe")" = "$1" ] && tr '\\0' ' ' <"$p/cmdline" | grep -q -- " $2" || continue
   echo "$(awk '/^VmRSS/ { print $2 }' "$p/status") $(ls "$p/fd" | wc -l) $(ls "$p/task" | wc -l)"
 done
 """
@@ -74,8 +79,8 @@ def kill_tor(lab: Lab) -> bool:
     return bool(pids) and lab.host.run(["kill", "-9", *pids]).returncode == 0
 
 
-def taken(lab: Lab, product: Product) -> dict[str, int]:
-    [line] = lab.host.run(["sh", "-c", TAKEN, "taken", product.ctl], check=True).stdout.splitlines()
+def taken(lab: Lab, program: Path | str, argument: str = "") -> dict[str, int]:
+    [line] = lab.host.run(["sh", "-c", TAKEN, "taken", str(program), argument], check=True).stdout.splitlines()
     return dict(zip(KINDS, map(int, line.split())))
 
 
@@ -103,6 +108,17 @@ def after_filling(readings: list[dict]) -> list[dict]:
     return []
 
 
+def connect_only(product: Product, session: Session) -> None:
+    """Until it is connected. The checks go on, as they do when one disconnects early."""
+    verb = product.lab.host.popen([product.ctl, "connect"], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                                  stderr=subprocess.DEVNULL)
+    try:
+        session.wait_phase("connected", 120)
+    finally:
+        verb.terminate()
+        verb.wait()
+
+
 def cycles(lab: Lab, product: Product, count: int, minutes: float, chance: random.Random) -> tuple[list[str], dict]:
     before = lab.host.snapshot()
     readings, kills, started = [], 0, time.monotonic()
@@ -110,14 +126,17 @@ def cycles(lab: Lab, product: Product, count: int, minutes: float, chance: rando
         session.wait_phase("disconnected")
         for number in range(count):
             product.run_verb("set", "strictMode", "true" if number % 2 else "false", check=True)
-            product.run_verb("connect", check=True, timeout=120)
+            if number // 2 % 4 == 0:  # of each mode's cycles every fourth: until all has been checked
+                product.run_verb("connect", check=True, timeout=120)
+            else:
+                connect_only(product, session)
             if chance.random() < 0.1 and kill_tor(lab):
                 kills += 1
                 session.wait_phase("stale")
                 product.run_verb("restore", check=True)
             else:
                 product.run_verb("disconnect", check=True)
-            readings.append(taken(lab, product))
+            readings.append(taken(lab, product.ctl, "run"))
             if time.monotonic() - started > minutes * 60:
                 print(f"  the time is over after {number + 1} cycles", flush=True)
                 break
@@ -170,15 +189,51 @@ def hours(lab: Lab, programs: Path, length: float, chance: random.Random) -> tup
     return problems, {"hours": length, "kills": kills, "readings": readings}
 
 
+def windows(lab: Lab, programs: Path, count: int, chance: random.Random) -> tuple[list[str], dict]:
+    user = lab.host.user
+    Product(lab, programs).run_helper("install-privileged", "--user", user, check=True)
+    product = Product(lab, programs, user=user)
+    readings, kills, started = [], 0, time.monotonic()
+    with person.Desktop(lab, user) as desktop, desktop.start(programs) as application:
+        application.click("push button", "Connect to Tor")
+        product.wait_state(is_probed)
+        for number in range(count):
+            # Each is opened by its button in the main window, and closed before the next.
+            for title in WINDOWS:
+                application.click("push button", title)
+                application.wait_for("frame", title, state="active")
+                killed = title == WINDOWS[number % len(WINDOWS)] and chance.random() < 0.1 and kill_tor(lab)
+                if killed:
+                    kills += 1
+                    application.wait_for("heading", "Needs Attention")
+                application.press("ctrl+w")
+                application.wait_until(lambda: not application.find("frame", title))
+                if killed:
+                    application.click("push button", "Restore Network")
+                    application.click("push button", "Connect to Tor")
+                    product.wait_state(is_probed)
+            readings.append(taken(lab, Path(programs) / "veldmark"))
+            if (number + 1) % 10 == 0:
+                print(f"  {number + 1} rounds, {kills} with Tor killed, {time.monotonic() - started:.0f} s: {readings[-1]}", flush=True)
+        application.click("push button", "Disconnect")
+        application.wait_for("heading", "Not Protected")
+    return (growth(readings[int(len(readings) * WARM_UP):]),
+            {"rounds": len(readings), "kills": kills, "seconds": round(time.monotonic() - started), "readings": readings})
+
+
 def main() -> int:
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--cycles", type=int, default=500)
     parser.add_argument("--minutes", type=float, default=60)
     parser.add_argument("--hours", type=float, default=2)
+    parser.add_argument("--rounds", type=int, default=60)
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--programs", type=Path, default=PROJECT / "build" / "bin")
     parser.add_argument("--json", metavar="FILE")
     given = parser.parse_args()
+    if given.rounds and (reason := person.missing()):
+        print(reason, file=sys.stderr)
+        return 77
     chance = random.Random(given.seed)
     problems, report = [], {}
     try:
@@ -192,6 +247,10 @@ def main() -> int:
             if given.hours:
                 print(f"{given.hours} hours of a fast clock", flush=True)
                 found, report["hours"] = hours(lab, programs, given.hours, chance)
+                problems += found
+            if given.rounds:
+                print(f"{given.rounds} rounds of windows", flush=True)
+                found, report["rounds"] = windows(lab, programs, given.rounds, chance)
                 problems += found
     except LabUnavailable as error:
         print(error, file=sys.stderr)
