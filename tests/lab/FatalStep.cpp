@@ -34,23 +34,13 @@ Call next(const char *name)
     return reinterpret_cast<Call>(::dlsym(RTLD_NEXT, name));
 }
 
-int openNext(const char *name, const char *path, int flags, mode_t mode)
+int openNext(const char *name, const char *path, int flags, va_list rest)
 {
-    if ((flags & O_CREAT) != 0)
+    const bool isNew = (flags & O_CREAT) != 0;
+    const mode_t mode = isNew ? va_arg(rest, mode_t) : 0;
+    if (isNew)
         step();
     return next<int (*)(const char *, int, ...)>(name)(path, flags, mode);
-}
-
-int openAtNext(const char *name, int folder, const char *path, int flags, mode_t mode)
-{
-    if ((flags & O_CREAT) != 0)
-        step();
-    return next<int (*)(int, const char *, int, ...)>(name)(folder, path, flags, mode);
-}
-
-mode_t modeOf(int flags, va_list rest)
-{
-    return (flags & O_CREAT) != 0 ? va_arg(rest, mode_t) : 0;
 }
 
 } // namespace
@@ -61,36 +51,18 @@ int open(const char *path, int flags, ...)
 {
     va_list rest;
     va_start(rest, flags);
-    const mode_t mode = modeOf(flags, rest);
+    const int file = openNext("open", path, flags, rest);
     va_end(rest);
-    return openNext("open", path, flags, mode);
+    return file;
 }
 
 int open64(const char *path, int flags, ...)
 {
     va_list rest;
     va_start(rest, flags);
-    const mode_t mode = modeOf(flags, rest);
+    const int file = openNext("open64", path, flags, rest);
     va_end(rest);
-    return openNext("open64", path, flags, mode);
-}
-
-int openat(int folder, const char *path, int flags, ...)
-{
-    va_list rest;
-    va_start(rest, flags);
-    const mode_t mode = modeOf(flags, rest);
-    va_end(rest);
-    return openAtNext("openat", folder, path, flags, mode);
-}
-
-int openat64(int folder, const char *path, int flags, ...)
-{
-    va_list rest;
-    va_start(rest, flags);
-    const mode_t mode = modeOf(flags, rest);
-    va_end(rest);
-    return openAtNext("openat64", folder, path, flags, mode);
+    return file;
 }
 
 int mkdir(const char *path, mode_t mode) noexcept

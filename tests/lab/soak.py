@@ -12,9 +12,9 @@ rounds  opens and closes the circuits, the log and the settings R times (60) in 
         server of its own. In one of ten, Tor is killed while they are open, and the application connects again.
 
 Memory, descriptors and threads are read along the way; the middle of the last readings is compared with that of the first
-ones, after a warm-up: a tenth of the cycles and rounds, and of the hours what it takes until all that has a limit is as large as it gets
-(the log that is kept and the part of its file that is read, and Tor has died and been started again). Exit status 1 when
-something has grown, 77 where no lab can run.
+ones, after a warm-up: a tenth of the cycles and of the rounds, and of the hours what it takes until all that has a limit is
+as large as it gets (the log that is kept and the part of its file that is read, and Tor has died and been started again).
+Exit status 1 when something has grown, 77 where no lab can run.
 """
 
 import argparse
