@@ -39,7 +39,7 @@ packages=(
     libglib2.0-bin dconf-cli dconf-gsettings-backend gsettings-desktop-schemas dbus
     python3-stem nyx
     clang libclang-rt-14-dev libobjc-12-dev gcovr
-    qt6-svg-dev qt6-l10n-tools qt6-declarative-dev-tools qml6-module-qtquick
+    qt6-svg-dev qt6-tools-dev qt6-l10n-tools qt6-declarative-dev-tools qml6-module-qtquick
     qml6-module-qtquick-templates qml6-module-qtquick-window qml6-module-qtquick-layouts
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
     fonts-noto-core fonts-noto-mono fonts-noto-color-emoji
