@@ -3,7 +3,7 @@
 
 # What compiles the programs, what they call, and what the private Tor network of the demonstration is made of.
 program_packages=(
-    g++ cmake ninja-build pkg-config
+    g++ cmake ninja-build pkg-config ccache
     libglib2.0-dev qt6-base-dev qt6-declarative-dev libgl-dev qcoro-qt6-dev libexpected-dev
     qt6-svg-dev qt6-tools-dev qt6-l10n-tools qt6-declarative-dev-tools qml6-module-qtquick
     qml6-module-qtquick-templates qml6-module-qtquick-window qml6-module-qtquick-layouts
@@ -15,7 +15,7 @@ program_packages=(
 )
 # What the other verbs need besides: tests, sanitizers, fuzzers, benchmarks, packages.
 development_packages=(
-    ccache git pkexec polkitd gnupg
+    git pkexec polkitd gnupg
     tcpdump shellcheck unzip netcat-openbsd openssh-client iputils-ping zsh dash
     python3-stem nyx
     clang libclang-rt-14-dev libobjc-12-dev gcovr
