@@ -2,14 +2,17 @@
 
 Other labs and programs run on the machine at the same time, so "nothing" means: no process whose control group or
 command line names this lab, no process in any of its namespaces, no mount, no control group, no record, no named
-network namespace, no file.
+network namespace, no file. Mounts, links and named namespaces are compared in namespaces of this test's own, in which nothing
+else on the machine shows: a medium that somebody plugs in is no trace of a lab.
 """
 
+import ctypes
 import os
 import select
 import signal
 import subprocess
 import sys
+import tempfile
 import unittest
 from pathlib import Path
 
@@ -32,7 +35,17 @@ with lab:
     sys.stdin.readline()
     exec(sys.argv[1])
 """
+CLONE_NEWNS, CLONE_NEWNET = 0x00020000, 0x40000000
 KINDS = ("mnt", "net", "pid", "ipc", "uts", "cgroup")
+
+
+def setUpModule() -> None:
+    if os.geteuid() == 0 and ctypes.CDLL(None, use_errno=True).unshare(CLONE_NEWNS | CLONE_NEWNET) != 0:
+        raise OSError(ctypes.get_errno(), "namespaces for the comparison")
+    if os.geteuid() == 0:
+        subprocess.run(["mount", "--make-rprivate", "/"], check=True)
+        os.makedirs("/run/netns", exist_ok=True)
+        subprocess.run(["mount", "-t", "tmpfs", "named", "/run/netns"], check=True)
 
 
 def cgroup_folder() -> str:
@@ -144,6 +157,21 @@ class Traces:
 class LifecycleTest(unittest.TestCase):
     def setUp(self):
         self.before = machine_state()
+
+    def test_what_others_mount_is_no_trace_and_a_mount_here_is_one(self):
+        self.assertNotEqual(os.stat("/proc/self/ns/mnt").st_ino, os.stat(f"/proc/{os.getppid()}/ns/mnt").st_ino)
+        self.assertNotEqual(os.stat("/proc/self/ns/net").st_ino, os.stat(f"/proc/{os.getppid()}/ns/net").st_ino)
+        with tempfile.TemporaryDirectory(prefix="veldmark-medium-") as place:
+            # As by the machine's first process: where this test came from.
+            elsewhere = subprocess.run(["nsenter", "--target", str(os.getppid()), "--mount", "mount", "-t", "tmpfs", "medium", place],
+                                       check=False)
+            self.assertEqual(elsewhere.returncode, 0)
+            self.check_machine()
+            subprocess.run(["nsenter", "--target", str(os.getppid()), "--mount", "umount", place], check=True)
+            subprocess.run(["mount", "-t", "tmpfs", "left-over", place], check=True)
+            self.assertNotEqual(machine_state(), self.before)
+            subprocess.run(["umount", place], check=True)
+        self.check_machine()
 
     def owner(self, after: str = "pass") -> tuple[subprocess.Popen, Traces]:
         process = subprocess.Popen(
