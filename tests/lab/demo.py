@@ -5,11 +5,13 @@ Needs no internet and changes nothing outside its own network namespaces. Exit s
 1 when something did not, 77 when this machine does not permit namespaces.
 """
 
+import contextlib
 import json
 import shutil
 import signal
 import subprocess
 import sys
+import threading
 import time
 from pathlib import Path
 
@@ -45,6 +47,29 @@ def judge(name: str, text: str, good: bool) -> None:
     say(name, f"{GREEN}✓{PLAIN} {text}" if good else f"{RED}✗ {text}{PLAIN}")
     if not good:
         failures.append(f"{name}: {text}")
+
+
+@contextlib.contextmanager
+def moving(what):
+    """Shows that something goes on while it does: `what` gives a text. A terminal sees one line change, a file one each ten seconds."""
+    over = threading.Event()
+
+    def show() -> None:
+        started = time.monotonic()
+        while not over.wait(0.5 if sys.stdout.isatty() else 10):
+            passed = f"{time.monotonic() - started:.0f} s"
+            print(f"\r  {DIM}{what()} {passed}{PLAIN}\033[K" if sys.stdout.isatty() else f"  {what()} {passed}", end="" if sys.stdout.isatty() else "\n",
+                  flush=True)
+        if sys.stdout.isatty():
+            print("\r\033[K", end="", flush=True)
+
+    shower = threading.Thread(target=show)
+    shower.start()
+    try:
+        yield
+    finally:
+        over.set()
+        shower.join()
 
 
 def ask_check_service(lab: Lab, *options: str) -> str:
@@ -97,7 +122,8 @@ def draw_windows() -> None:
     heading("Pictures of every window and state")
     folder = PROJECT / "build" / "demo"
     shutil.rmtree(folder, ignore_errors=True)
-    drawn = subprocess.run([PROJECT / "build/dev/tests/ui/veldmark-pictures", folder], capture_output=True, text=True)
+    with moving(lambda: f"{len(list(folder.glob('*.png')))} pictures drawn,"):
+        drawn = subprocess.run([PROJECT / "build/dev/tests/ui/veldmark-pictures", folder], capture_output=True, text=True)
     pictures = sorted(folder.glob("*.png"))
     judge("drawn", f"{len(pictures)} pictures; open {folder.relative_to(PROJECT)}/index.html", drawn.returncode == 0 and len(pictures) > 0)
     figures = "\n".join(f'<figure><img src="{one.name}" loading="lazy"><figcaption>{one.stem}</figcaption></figure>' for one in pictures)
@@ -106,9 +132,13 @@ def draw_windows() -> None:
 
 def main() -> int:
     draw_windows()
+    steps: list[str] = []
     try:
         heading("A private Tor network of real tor processes")
-        with Lab() as lab:
+        lab = Lab(on_step=lambda name: steps.append(name))
+        with contextlib.ExitStack() as held:
+            with moving(lambda: f"{steps[-1] if steps else 'beginning'},"):
+                held.enter_context(lab)
             say("up after", f"{lab.timings['total']:.1f} s: {len(at.AUTHORITIES)} authorities, {len(at.EXITS)} exits, "
                             f"{len(at.MIDDLES)} middle nodes, {len(at.BRIDGES)} bridges")
             product = Product(lab, PROJECT / "build" / "bin")

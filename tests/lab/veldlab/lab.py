@@ -12,7 +12,7 @@ import os
 import shutil
 import subprocess
 import time
-from collections.abc import Iterable
+from collections.abc import Callable, Iterable
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
@@ -31,12 +31,14 @@ _SUPERVISOR = Path(__file__).resolve().with_name("supervisor.py")
 class Lab:
     """`share`: further folders that the host is to see as they are, besides the project's tree.
 
-    `logs`: a folder that `down` copies the nodes' and services' logs to. `timings`: seconds of each step of `up`.
+    `logs`: a folder that `down` copies the nodes' and services' logs to. `timings`: seconds of each step of `up`. `on_step`
+    is told the name of each step as it begins, on any thread.
     """
 
-    def __init__(self, share: Iterable[str | Path] = (), logs: str | Path = ""):
+    def __init__(self, share: Iterable[str | Path] = (), logs: str | Path = "", on_step: Callable[[str], None] | None = None):
         self.share = [str(PROJECT), *map(str, share)]
         self.logs = logs
+        self.on_step = on_step
         self.timings: dict[str, float] = {}
         self.record: dict = {}
         self._supervisor: subprocess.Popen | None = None
@@ -107,6 +109,8 @@ class Lab:
             shutil.copy(path, folder)
 
     def _step(self, name: str, action):
+        if self.on_step:
+            self.on_step(name)
         started = time.monotonic()
         result = action()
         self.timings[name] = time.monotonic() - started
