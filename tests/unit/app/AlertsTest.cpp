@@ -1,5 +1,6 @@
 #include "StandInSession.h"
 #include "app/Alerts.h"
+#include "support/TestProgram.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -162,5 +163,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(AlertsTest)
+VELDMARK_WINDOWED_TEST(AlertsTest)
 #include "AlertsTest.moc"

@@ -4,6 +4,7 @@
 #include "app/Tray.h"
 #include "cli/Report.h"
 #include "controller/PublishedState.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 #include "ui/PanelModel.h"
 
@@ -228,5 +229,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(SurfacesTest)
+VELDMARK_WINDOWED_TEST(SurfacesTest)
 #include "SurfacesTest.moc"

@@ -1,4 +1,5 @@
 #include "checks/KillSwitch.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -52,5 +53,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(KillSwitchTest)
+VELDMARK_TEST(KillSwitchTest)
 #include "KillSwitchTest.moc"

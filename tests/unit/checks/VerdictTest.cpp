@@ -1,4 +1,5 @@
 #include "checks/Verdict.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -167,5 +168,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(VerdictTest)
+VELDMARK_TEST(VerdictTest)
 #include "VerdictTest.moc"

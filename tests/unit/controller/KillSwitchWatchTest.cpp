@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QSignalSpy>
@@ -372,5 +373,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(KillSwitchWatchTest)
+VELDMARK_TEST(KillSwitchWatchTest)
 #include "KillSwitchWatchTest.moc"
