@@ -22,9 +22,9 @@ _veldmarkctl()
         log) choices="--follow --problems" ;;
         get)
             ((COMP_CWORD != 2)) || choices="$settings activeBridge activeMode bootstrapProblem bootstrapProgress bytesRead
-                bytesWritten canCancel circuitError circuits dnsStatus errorMessage exitIP isChecking isOptimizing latencyMs
-                leakStatus optimizeStatus passwordlessInstalled phase startupError statusDetail terminalError title
-                torVerified transportDownload transports"
+                bytesWritten canCancel circuitError circuits dnsStatus errorMessage exitIP isChecking isOptimizing killSwitch
+                killSwitchSince latencyMs leakStatus level menuBarSymbol optimizeStatus passwordlessInstalled phase startupError
+                statusDetail terminalError title torVerified transportDownload transports"
             ;;
         set)
             if ((COMP_CWORD == 2)); then

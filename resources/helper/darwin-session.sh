@@ -40,9 +40,10 @@ darwin_connect() {
   put_names
   start_tor
   put_services "$OPT_LAN"
-  if [[ $former == strict && $mode == proxy ]]; then
+  if [[ $mode == proxy ]]; then
+    # Also what is left of a strict session whose rules have gone: its watcher and its note.
     undo_entry "$WATCHER_ENTRY" || die "$UNDONE"
-    put_firewall proxy
+    [[ $former != strict ]] || put_firewall proxy
   fi
   ON_FAILURE=
 }
@@ -88,7 +89,7 @@ undo_session() {
     ((status != 1)) || open=''
   done
   [[ -z $open ]] || rm -f -- "$MARKER" "$RULES" "$LISTED"
-  rm -f -- "$MARKER.new" "$RULES.new" "$LISTED.new" "$RELOCKED.new" "$WATCHER.new" "$WATCH_JOB.new" "$TOR_JOB.new" "$TORRC.checked" "$HOSTS.new"
+  rm -f -- "$MARKER.new" "$RULES.new" "$LISTED.new" "$KILL_SWITCH_NOTE.new" "$STATE/relocked" "$WATCHER.new" "$WATCH_JOB.new" "$TOR_JOB.new" "$TORRC.checked" "$HOSTS.new"
   [[ ! -d $JOURNAL ]] || rm -f -- "$JOURNAL"/*.new
   UNDONE=$reason
   [[ -z $reason ]]

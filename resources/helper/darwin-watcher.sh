@@ -9,7 +9,7 @@ readonly WATCHER_ENTRY=15-watcher
 readonly WATCH_LABEL=veldmark.watch
 readonly WATCH_JOB=$RUN/watch.plist       # 0644
 readonly WATCHER=$RUN/watcher.sh          # 0600
-readonly RELOCKED=$STATE/relocked         # 0644; "restored COUNT" or "open COUNT": how often rules were missed
+readonly KILL_SWITCH_NOTE=/private/var/run/veldmark.watch   # 0644; note.sh says what it holds
 readonly WATCH_SECONDS=1                  # pf does not tell of changes
 
 # rules_stand: pf is on, asks our anchor first, and holds it as it was loaded.
@@ -21,32 +21,34 @@ rules_stand() {
 }
 
 # relock: all of it again, unless a run of the helper has changed or opened it meanwhile.
-RELOCKS=0
 relock() {
   local word=restored
   hold_rules || return 0
   if [[ $(read_marker) == strict ]] && ! rules_stand; then
     # In a shell of its own, which die() ends.
     (put_rules "$(<"$RULES")") || word=open
-    RELOCKS=$((RELOCKS + 1))
-    write_file "$RELOCKED" 0644 root "$word $RELOCKS"$'\n' || true
+    note_rules "$word" || true
   fi
   release_rules
 }
 
 watch_rules() {
   while [[ $(read_marker) == strict ]]; do
-    rules_stand || relock
+    if rules_stand; then
+      note_rules standing || true
+    else
+      relock
+    fi
     sleep "$WATCH_SECONDS"
   done
 }
 
 print_watcher() {
   printf 'set -uo pipefail\numask 077\nPATH=%s\nLC_ALL=C\nexport PATH LC_ALL\ncd /\n' "$PATH"
-  declare -p ANCHOR RULES LISTED RULES_LOCK MARKER JOURNAL RELOCKED FIREWALL_ENTRY WATCH_SECONDS \
-    HOLD TOKEN_LINE
-  printf 'RELOCKS=0\nJOURNAL_LINES=()\ndie() { exit 1; }\n'
-  declare -f read_marker put_in_place write_file journal_put journal_has journal_read journal_value boot_id hold_rules \
+  declare -p ANCHOR RULES LISTED RULES_LOCK MARKER JOURNAL KILL_SWITCH_NOTE FIREWALL_ENTRY WATCH_SECONDS \
+    HOLD TOKEN_LINE WORD MISSED SINCE NOTED
+  printf 'JOURNAL_LINES=()\ndie() { exit 1; }\n'
+  declare -f read_marker put_in_place write_file note_rules journal_put journal_has journal_read journal_value boot_id hold_rules \
     release_rules pf_words load_rules put_reference print_referring print_without print_normal held_token enable_firewall \
     kill_states list_rules put_rules rules_stand relock watch_rules
   printf 'watch_rules\nexit 0\n'
@@ -69,6 +71,8 @@ END
 start_watcher() {
   undo_entry "$WATCHER_ENTRY" || true
   { kill_switch_stands && rules_stand; } || die "The firewall does not hold the rules that were loaded."
+  # The application asks as soon as we have ended, perhaps before the watcher has looked.
+  note_rules standing || true
   { write_file "$WATCHER" 0600 root "$(print_watcher)"$'\n' && write_file "$WATCH_JOB" 0644 root "$(print_watch_job)"$'\n' &&
     journal_put "$WATCHER_ENTRY" "label $WATCH_LABEL"; } || die "The file $WATCHER cannot be written."
   start_job "$WATCH_LABEL" "$WATCH_JOB" || die "The watcher over the firewall could not be started."
@@ -76,7 +80,7 @@ start_watcher() {
 
 # undo_watcher: a change of rules that it was in the middle of is done again, or undone, after it.
 undo_watcher() {
-  stop_job "$WATCH_LABEL" && rm -f -- "$WATCHER" "$WATCH_JOB" "$RELOCKED" && return 0
+  stop_job "$WATCH_LABEL" && rm -f -- "$WATCHER" "$WATCH_JOB" "$KILL_SWITCH_NOTE" && return 0
   UNDONE="The watcher over the firewall could not be stopped."
   return 1
 }

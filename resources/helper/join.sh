@@ -25,7 +25,7 @@ trap 'rm -f -- "$new"' EXIT
 {
   cat -- "$here/core.sh"
   printf '\nreadonly SYSTEM=%s   # what this file was joined for\n' "$system"
-  for part in options files addresses session "${own[@]}" privileged main; do
+  for part in options files note addresses session "${own[@]}" privileged main; do
     cat -- "$here/$part.sh"
   done
 } >"$new"

@@ -52,9 +52,10 @@ linux_connect() {
   put_resolver
   put_resolved || true   # the firewall redirects what its links ask
   put_proxy
-  if [[ $former == strict && $mode == proxy ]]; then
+  if [[ $mode == proxy ]]; then
+    # Also what is left of a strict session whose rules have gone: its watcher and its note.
     undo_entry "$WATCHER_ENTRY" || true
-    switch_firewall proxy
+    [[ $former != strict ]] || switch_firewall proxy
     undo_entry "$EXEMPT_ENTRY" || true
   fi
   ON_FAILURE=
@@ -106,7 +107,7 @@ undo_session() {
     [[ $status != 1 || $name == "$GNOME_ENTRY" || $name == "$KDE_ENTRY" || $name == "$EXEMPT_ENTRY" ]] || open=''
   done
   [[ -z $open ]] || rm -f -- "$MARKER" "$RULES" "$LISTED"
-  rm -f -- "$MARKER.new" "$RULES.new" "$LISTED.new" "$WATCHER" "$WATCHER.new" "$RELOCKED" "$RELOCKED.new" "$TORRC.checked" "$JOURNAL"/*.new
+  rm -f -- "$MARKER.new" "$RULES.new" "$LISTED.new" "$WATCHER" "$WATCHER.new" "$KILL_SWITCH_NOTE" "$KILL_SWITCH_NOTE.new" "$STATE/relocked" "$TORRC.checked" "$JOURNAL"/*.new
   [[ -z $open || ! -e $MARKER ]] || reason=${reason:-"The network is open again, but the session marker cannot be removed from $STATE."}
   [[ -n $reason || -z $(compgen -G "$JOURNAL/*") ]] || reason="The network is open again, but the journal in $JOURNAL cannot be cleared."
   UNDONE=$reason

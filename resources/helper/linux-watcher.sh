@@ -7,7 +7,7 @@
 
 readonly WATCHER_ENTRY=15-watcher
 readonly WATCHER=$RUN/watcher.sh          # 0600
-readonly RELOCKED=$STATE/relocked         # 0644; "restored COUNT" or "open COUNT": how often rules were missed
+readonly KILL_SWITCH_NOTE=/run/veldmark.watch   # 0644; note.sh says what it holds
 readonly WATCH_SECONDS=3                  # a look without any word from the kernel
 
 # rules_stand: whether the kernel holds our table as it was loaded.
@@ -19,7 +19,6 @@ rules_stand() {
 # relock: the rules again, unless a run of the helper has changed or opened them meanwhile. The same text gives the same
 # listing, so that is noted anew only when it was another text: somebody is changing rules just now, and what is noted
 # then could be his.
-RELOCKS=0
 LESSENED=''   # 1 while the rules without their exemption are loaded
 relock() {
   local word=restored text
@@ -36,8 +35,7 @@ relock() {
     else
       word=open
     fi
-    RELOCKS=$((RELOCKS + 1))
-    write_file "$RELOCKED" 0644 root "$word $RELOCKS"$'\n' || true
+    note_rules "$word" || true
   fi
   release_rules
 }
@@ -54,7 +52,11 @@ watch_rules() {
   local status many
   exec 4< <(exec setpriv --pdeathsig KILL nft monitor)
   while [[ $(read_marker) == strict ]]; do
-    rules_stand || relock
+    if rules_stand; then
+      note_rules standing || true
+    else
+      relock
+    fi
     status=0
     IFS= read -r -t "$WATCH_SECONDS" -u 4 _ || status=$?
     if ((status == 0)); then
@@ -71,9 +73,10 @@ watch_rules() {
 
 print_watcher() {
   printf 'set -uo pipefail\numask 077\nPATH=%s\nLC_ALL=C\nexport PATH LC_ALL\ncd /\n' "$PATH"
-  declare -p TABLE RULES LISTED RULES_LOCK MARKER RELOCKED WATCH_SECONDS EXEMPT_NAME CGROUPS
-  printf 'RELOCKS=0 LESSENED= EXEMPT_FOLDER=\n'
-  declare -f read_marker put_in_place write_file hold_rules release_rules note_listing rules_stand find_exempt make_group \
+  declare -p TABLE RULES LISTED RULES_LOCK MARKER KILL_SWITCH_NOTE WATCH_SECONDS EXEMPT_NAME CGROUPS \
+    WORD MISSED SINCE NOTED
+  printf 'LESSENED= EXEMPT_FOLDER=\n'
+  declare -f read_marker put_in_place write_file note_rules hold_rules release_rules note_listing rules_stand find_exempt make_group \
     print_unexempt relock watch_rules
   printf 'watch_rules\n'
 }
@@ -85,6 +88,8 @@ launch_watcher() {
 
 start_watcher() {
   undo_entry "$WATCHER_ENTRY" || true
+  # The application asks as soon as we have ended, perhaps before the watcher has looked.
+  ! rules_stand || note_rules standing || true
   write_file "$WATCHER" 0600 root "$(print_watcher)"$'\n' || die "The file $WATCHER cannot be written."
   launch_watcher </dev/null >/dev/null 2>&1 &
 }
@@ -116,8 +121,8 @@ await_standstill() {
 # the rules' lock, so that the firewall opens after that.
 undo_watcher() {
   local pid child
-  rm -f -- "$RELOCKED" "$WATCHER"
-  pid=$(recorded_pid) || return 0
+  rm -f -- "$WATCHER"
+  pid=$(recorded_pid) || { rm -f -- "$KILL_SWITCH_NOTE"; return 0; }
   # A child that it is just starting would be missed; what stands still starts none.
   kill -STOP "$pid" || true
   await_standstill "$pid"
@@ -127,6 +132,7 @@ undo_watcher() {
     kill -KILL "$child" || true
   done
   recorded_lives || true
+  rm -f -- "$KILL_SWITCH_NOTE"   # it writes no other any more
 }
 
 # watcher_runs: whether the watcher of the journal is alive.

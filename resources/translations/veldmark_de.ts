@@ -800,6 +800,82 @@
         <translation>Tor läuft nicht mehr, und Ihr Netzwerk ist nicht mehr dafür eingerichtet.</translation>
     </message>
     <message>
+        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go back online.</source>
+        <translation>Tor läuft nicht mehr. Der Notschalter sperrt wieder, aber ein anderes Programm hatte seine Regeln eine Zeit lang entfernt. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um online zu gehen.</translation>
+    </message>
+    <message>
+        <source>Tor stopped running, and the kill switch is open: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
+        <translation>Tor läuft nicht mehr, und der Notschalter ist offen: Ein anderes Programm hat seine Regeln entfernt. Daten können diesen Computer direkt verlassen. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her.</translation>
+    </message>
+    <message>
+        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go back online.</source>
+        <translation>Tor läuft nicht mehr, und es ist nicht bekannt, ob der Notschalter noch sperrt. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um online zu gehen.</translation>
+    </message>
+    <message>
+        <source>The watcher over Veldmark&apos;s firewall rules has stopped telling, so it isn&apos;t known whether the kill switch stands. Disconnect and connect again.</source>
+        <translation>Der Wächter über Veldmarks Firewall-Regeln meldet sich nicht mehr, also ist nicht bekannt, ob der Notschalter steht. Trennen Sie und verbinden Sie neu.</translation>
+    </message>
+    <message>
+        <source>Not Protected</source>
+        <translation>Nicht geschützt</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Verbinden…</translation>
+    </message>
+    <message>
+        <source>Disconnecting…</source>
+        <translation>Trennen…</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>Geschützt</translation>
+    </message>
+    <message>
+        <source>Proxy Active</source>
+        <translation>Proxy aktiv</translation>
+    </message>
+    <message>
+        <source>Needs Attention</source>
+        <translation>Handlung nötig</translation>
+    </message>
+    <message>
+        <source>DNS Leak</source>
+        <translation>DNS-Leck</translation>
+    </message>
+    <message>
+        <source>Kill Switch Open</source>
+        <translation>Notschalter offen</translation>
+    </message>
+    <message>
+        <source>Traffic may leave this computer directly</source>
+        <translation>Daten können diesen Computer direkt verlassen</translation>
+    </message>
+    <message>
+        <source>Lookups can go around Tor</source>
+        <translation>Namensabfragen können an Tor vorbei</translation>
+    </message>
+    <message>
+        <source>Lookups can go around Tor, and your real address can be seen</source>
+        <translation>Namensabfragen können an Tor vorbei, und Ihre echte Adresse ist sichtbar</translation>
+    </message>
+    <message>
+        <source>Your real address can be seen. Disconnect, or run the leak test again.</source>
+        <translation>Ihre echte Adresse ist sichtbar. Trennen Sie, oder wiederholen Sie den Lecktest.</translation>
+    </message>
+    <message>
+        <source>It can&apos;t be told whether the kill switch stands. Disconnect and connect again.</source>
+        <translation>Es lässt sich nicht sagen, ob der Notschalter steht. Trennen Sie und verbinden Sie neu.</translation>
+    </message>
+    <message>
+        <source>All traffic is locked to Tor, but the exit could not be confirmed</source>
+        <translation>Aller Verkehr ist auf Tor beschränkt, aber der Ausgang ließ sich nicht bestätigen</translation>
+    </message>
+    <message>
+        <source>Apps that use system proxy settings go through Tor, but the exit could not be confirmed</source>
+        <translation>Apps, die den System-Proxy benutzen, gehen durch Tor, aber der Ausgang ließ sich nicht bestätigen</translation>
+    </message>
+    <message>
         <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
         <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt; sie stehen wieder.</translation>
     </message>
@@ -1029,8 +1105,16 @@
         <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt; sie stehen wieder.</translation>
     </message>
     <message>
-        <source>Another program removed Veldmark&apos;s firewall rules and they could not be put back. Open Veldmark, disconnect and connect again.</source>
-        <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt, und sie ließen sich nicht wiederherstellen. Öffnen Sie Veldmark, trennen Sie und verbinden Sie neu.</translation>
+        <source>The kill switch is open. Open Veldmark, disconnect and connect again.</source>
+        <translation>Der Notschalter ist offen. Öffnen Sie Veldmark, trennen Sie und verbinden Sie neu.</translation>
+    </message>
+    <message>
+        <source>The kill switch is not watched</source>
+        <translation>Der Notschalter wird nicht überwacht</translation>
+    </message>
+    <message>
+        <source>It can&apos;t be told whether it stands. Open Veldmark, disconnect and connect again.</source>
+        <translation>Es lässt sich nicht sagen, ob er steht. Öffnen Sie Veldmark, trennen Sie und verbinden Sie neu.</translation>
     </message>
 </context>
 <context>
@@ -1299,46 +1383,6 @@
 </context>
 <context>
     <name>veldmark::PanelModel</name>
-    <message>
-        <source>Not Protected</source>
-        <translation>Nicht geschützt</translation>
-    </message>
-    <message>
-        <source>Connecting…</source>
-        <translation>Verbinden…</translation>
-    </message>
-    <message>
-        <source>Disconnecting…</source>
-        <translation>Trennen…</translation>
-    </message>
-    <message>
-        <source>Needs Attention</source>
-        <translation>Handlung nötig</translation>
-    </message>
-    <message>
-        <source>DNS Leak</source>
-        <translation>DNS-Leck</translation>
-    </message>
-    <message>
-        <source>Protected</source>
-        <translation>Geschützt</translation>
-    </message>
-    <message>
-        <source>Proxy Active</source>
-        <translation>Proxy aktiv</translation>
-    </message>
-    <message>
-        <source>Lookups can go around Tor</source>
-        <translation>Namensabfragen können an Tor vorbei</translation>
-    </message>
-    <message>
-        <source>All traffic is locked to Tor, but the exit could not be confirmed</source>
-        <translation>Aller Verkehr ist auf Tor beschränkt, aber der Ausgang ließ sich nicht bestätigen</translation>
-    </message>
-    <message>
-        <source>Your real address can be seen. Disconnect, or run the leak test again.</source>
-        <translation>Ihre echte Adresse ist sichtbar. Trennen Sie, oder wiederholen Sie den Lecktest.</translation>
-    </message>
     <message>
         <source>Connect to Tor</source>
         <translation>Mit Tor verbinden</translation>

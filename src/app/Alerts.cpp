@@ -9,10 +9,14 @@
 
 namespace veldmark {
 
+namespace {
+// A program that removes the rules again and again is told of once in so long.
+constexpr qint64 putBackPauseSeconds = 60;
+} // namespace
+
 Alerts::Alerts(Session &session) : m_session(session), m_phase(session.now().phase)
 {
     QObject::connect(&session, &Session::changed, this, &Alerts::look);
-    QObject::connect(&session, &Session::rulesRemoved, this, &Alerts::onRulesRemoved);
 }
 
 void Alerts::look()
@@ -24,21 +28,56 @@ void Alerts::look()
     if (before == Phase::connected && (now.phase == Phase::stale || now.phase == Phase::disconnected))
         tell(tr("Tor stopped running"),
              SessionTexts::translated(now.errorMessage.value_or(now.statusDetail)));
-    const bool exposed = now.leak.kind == Leak::Kind::exposed && now.activeMode == RoutingMode::strict;
-    const bool leaking = now.phase == Phase::connected
-        && (exposed || now.lookups.kind == Lookups::Kind::leak);
-    if (!std::exchange(m_leaking, leaking) && leaking)
-        tell(exposed ? tr("Traffic can leave around Tor") : tr("Lookups can go around Tor"),
-             exposed ? tr("Your real address can be seen. Open Veldmark to see what to do.")
-                     : SessionTexts::lookups(now.lookups));
+    if (const auto danger = now.verdict().danger; std::exchange(m_danger, danger) != danger)
+        tellDanger(danger);
+    tellPutBack(std::exchange(m_killSwitch, now.killSwitch));
 }
 
-void Alerts::onRulesRemoved(bool putBack)
+void Alerts::tellDanger(Verdict::Danger danger)
 {
-    tell(putBack ? tr("Firewall rules were removed") : tr("Traffic can leave around Tor"),
-         putBack ? tr("Another program removed Veldmark's firewall rules; they are back in place.")
-                 : tr("Another program removed Veldmark's firewall rules and they could not be put back. "
-                      "Open Veldmark, disconnect and connect again."));
+    using Danger = Verdict::Danger;
+    const Snapshot &now = m_session.now();
+    switch (danger) {
+    case Danger::killSwitchOpen:
+        tell(tr("Traffic can leave around Tor"),
+             tr("The kill switch is open. Open Veldmark, disconnect and connect again."));
+        return;
+    case Danger::exposed:
+        tell(tr("Traffic can leave around Tor"), tr("Your real address can be seen. Open Veldmark to see what to do."));
+        return;
+    case Danger::dnsLeak:
+        tell(tr("Lookups can go around Tor"), SessionTexts::lookups(now.lookups));
+        return;
+    case Danger::killSwitchUnknown:
+        if (m_killSwitch && m_killSwitch->blocks()) // it was known
+            tell(tr("The kill switch is not watched"),
+                 tr("It can't be told whether it stands. Open Veldmark, disconnect and connect again."));
+        return;
+    case Danger::none:
+    case Danger::exitNotConfirmed:
+    case Danger::leftOver:
+        return;
+    }
+}
+
+void Alerts::tellPutBack(const std::optional<KillSwitch> &before)
+{
+    const Snapshot &now = m_session.now();
+    const bool isPutBack = now.killSwitch && now.killSwitch->state == KillSwitch::State::putBack;
+    if (!isPutBack) {
+        if (!now.killSwitch)
+            m_putBackTold = {};
+        return;
+    }
+    // What happened to a session before we saw it is no news.
+    if (before == now.killSwitch || (!before && now.phase == Phase::stale))
+        return;
+    const bool wasPutBack = before && before->state == KillSwitch::State::putBack;
+    if (wasPutBack && m_putBackTold.isValid() && m_putBackTold.secsTo(now.killSwitch->since) < putBackPauseSeconds)
+        return;
+    m_putBackTold = now.killSwitch->since;
+    tell(tr("Firewall rules were removed"),
+         tr("Another program removed Veldmark's firewall rules; they are back in place."));
 }
 
 void Alerts::tell(const QString &title, const QString &text)

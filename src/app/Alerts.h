@@ -5,7 +5,8 @@
 namespace veldmark {
 
 // Tells the desktop when protection is lost: Tor died, traffic or look-ups can leave around it,
-// somebody removed the firewall's rules. Never for anything that the user has asked for. Main thread.
+// somebody removed the firewall's rules. Each change of that state is told, not each time that it is
+// noticed, and never anything that the user has asked for. Main thread.
 class Alerts : public QObject {
     Q_OBJECT
 
@@ -21,11 +22,14 @@ Q_SIGNALS:
 
 private:
     void look();
-    void onRulesRemoved(bool putBack);
+    void tellDanger(Verdict::Danger danger);
+    void tellPutBack(const std::optional<KillSwitch> &before);
 
     Session &m_session;
     Phase m_phase;
-    bool m_leaking = false;
+    Verdict::Danger m_danger = Verdict::Danger::none;
+    std::optional<KillSwitch> m_killSwitch;
+    QDateTime m_putBackTold; // when the rules were put back as told last
 };
 
 } // namespace veldmark

@@ -9,23 +9,6 @@ namespace veldmark {
 
 namespace {
 
-Phase phaseOf(ConnectionPhase phase)
-{
-    switch (phase) {
-    case ConnectionPhase::disconnected:
-        return Phase::disconnected;
-    case ConnectionPhase::connecting:
-        return Phase::connecting;
-    case ConnectionPhase::connected:
-        return Phase::connected;
-    case ConnectionPhase::disconnecting:
-        return Phase::disconnecting;
-    case ConnectionPhase::stale:
-        break;
-    }
-    return Phase::stale;
-}
-
 Leak leakOf(const LeakStatus &status)
 {
     switch (status.kind()) {
@@ -34,7 +17,7 @@ Leak leakOf(const LeakStatus &status)
     case LeakStatus::Kind::notTested:
         return {Leak::Kind::notTested, {}};
     case LeakStatus::Kind::checking:
-        return {Leak::Kind::checking, {}};
+        return {Leak::Kind::checking, status.address()};
     case LeakStatus::Kind::blocked:
         return {Leak::Kind::blocked, {}};
     case LeakStatus::Kind::inconclusive:
@@ -74,14 +57,13 @@ ControllerSession::ControllerSession(TorController &controller, SettingsStore &s
           &C::terminalModeChanged, &C::phaseChanged, &C::activeModeChanged, &C::activeBridgeChanged,
           &C::bootstrapProgressChanged, &C::statusDetailChanged,
           &C::bootstrapProblemChanged, &C::canCancelChanged,
-          &C::errorMessageChanged, &C::bytesReadChanged, &C::bytesWrittenChanged, &C::exitIPChanged,
+          &C::errorMessageChanged, &C::bytesReadChanged, &C::bytesWrittenChanged, &C::killSwitchChanged, &C::exitIPChanged,
           &C::torVerifiedChanged, &C::leakStatusChanged, &C::dnsStatusChanged, &C::isCheckingChanged,
           &C::latencyMsChanged, &C::optimizeStatusChanged, &C::isOptimizingChanged,
           &C::circuitsChanged, &C::circuitErrorChanged, &C::transportsChanged,
           &C::transportDownloadChanged, &C::passwordlessInstalledChanged, &C::startupErrorChanged,
           &C::terminalErrorChanged})
         QObject::connect(&controller, changed, this, &ControllerSession::schedule);
-    QObject::connect(&controller, &C::rulesRemoved, this, &Session::rulesRemoved);
     read();
 }
 
@@ -100,7 +82,7 @@ void ControllerSession::read()
     next.choices = {c.strictMode(),   c.allowLocalNetwork(), c.exitCountry(), c.customTorPath(),
                     c.bridgeChoice(), c.customBridges(),     c.bypassApps(),  c.autoConnect(),
                     c.optimizeSpeed(), c.terminalMode()};
-    next.phase = phaseOf(c.phase());
+    next.phase = c.phase();
     next.activeMode = c.activeMode();
     next.activeBridge = c.activeBridge();
     next.bootstrapProgress = c.bootstrapProgress();
@@ -110,6 +92,7 @@ void ControllerSession::read()
     if (const auto problem = m_settings.problem())
         m_notice = problem;
     next.errorMessage = c.errorMessage() ? c.errorMessage() : m_notice;
+    next.killSwitch = c.killSwitch();
     // What was found out about a session is not true of what is left of it.
     if (next.phase == Phase::connected) {
         next.bytesRead = c.bytesRead();

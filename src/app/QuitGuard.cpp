@@ -15,7 +15,8 @@ void QuitGuard::quit()
     if (!m_dialog) {
         m_dialog = m_windows.make(
             QStringLiteral("main/QuitDialog.qml"),
-            {{QStringLiteral("strict"), m_controller.activeMode() == RoutingMode::strict},
+            {{QStringLiteral("strict"), m_controller.activeMode() == RoutingMode::strict
+                  && m_controller.verdict().danger != Verdict::Danger::killSwitchOpen},
              {QStringLiteral("busy"), false}});
         if (!m_dialog)
             return; // the windows have said why; the network is not left to itself

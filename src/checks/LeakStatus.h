@@ -17,12 +17,16 @@ public:
     static LeakStatus exposed(QString address) { return {Kind::exposed, std::move(address)}; }
     static LeakStatus notTested() { return {Kind::notTested, {}}; }
     static LeakStatus checking() { return {Kind::checking, {}}; }
+    // The same while it is not known that what was found before is over.
+    static LeakStatus checkingAfter(const LeakStatus &before) { return {Kind::checking, before.m_address}; }
     static LeakStatus blocked() { return {Kind::blocked, {}}; }
     static LeakStatus inconclusive() { return {Kind::inconclusive, {}}; }
 
     Kind kind() const { return m_kind; }
-    // The user's own address, as the world saw it; empty unless `exposed`.
+    // The user's own address, as the world saw it; empty unless `exposed`, or `checking` after that.
     const QString &address() const { return m_address; }
+    // The user's own address was seen, and no later test has said otherwise.
+    bool isExposed() const { return m_kind == Kind::exposed || (m_kind == Kind::checking && !m_address.isEmpty()); }
     // The case's name: "exposed", "notTested" …
     QString name() const;
 

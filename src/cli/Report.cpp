@@ -1,5 +1,6 @@
 #include "cli/Report.h"
 
+#include <QDateTime>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -23,7 +24,24 @@ QString modeText(const QJsonObject &state)
 {
     if (text(state, "activeMode") != QLatin1String("strict"))
         return QStringLiteral("proxy: apps that ignore the system proxy are not covered");
-    return QStringLiteral("strict: only Tor's traffic leaves");
+    const QString rules = text(state, "killSwitch");
+    if (rules == QLatin1String("standing") || rules == QLatin1String("putBack"))
+        return QStringLiteral("strict: only Tor's traffic leaves");
+    return QStringLiteral("strict");
+}
+
+QString killSwitchText(const QJsonObject &state)
+{
+    const QString word = text(state, "killSwitch");
+    const QString since = QDateTime::fromString(text(state, "killSwitchSince"), Qt::ISODate)
+                              .toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    if (word == QLatin1String("standing"))
+        return QStringLiteral("stands, since %1").arg(since);
+    if (word == QLatin1String("putBack"))
+        return QStringLiteral("stands; put back at %1 after another program had removed it").arg(since);
+    if (word == QLatin1String("open"))
+        return QStringLiteral("OPEN since %1: traffic may leave this computer directly").arg(since);
+    return QStringLiteral("isn't known to stand, since %1").arg(since);
 }
 
 QString exitText(const QJsonObject &state)
@@ -124,6 +142,8 @@ QString status(const QJsonObject &state)
     } else if (phase == QLatin1String("stale")) {
         report += row("What to do", QStringLiteral("veldmarkctl restore"));
     }
+    if (!text(state, "killSwitch").isEmpty())
+        report += row("Kill switch", killSwitchText(state));
     const bool isTried = phase == QLatin1String("connecting") || phase == QLatin1String("stale");
     if (const QString problem = text(state, "bootstrapProblem"); isTried && !problem.isEmpty())
         report += row("Cause", problem);

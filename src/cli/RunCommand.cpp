@@ -27,6 +27,8 @@ RunCommand::RunCommand(const PlatformProfile &profile, bool connectNow)
                      Qt::QueuedConnection);
     QObject::connect(&m_controller, &TorController::isCheckingChanged, this, &RunCommand::showPhase,
                      Qt::QueuedConnection);
+    QObject::connect(&m_controller, &TorController::killSwitchChanged, this, &RunCommand::showKillSwitch,
+                     Qt::QueuedConnection);
     QObject::connect(&m_controller, &TorController::phaseChanged, this, [this] {
         m_restored |= m_controller.phase() == ConnectionPhase::disconnecting;
     });
@@ -130,12 +132,25 @@ void RunCommand::showPhase()
     m_lastPhase = phase;
     QString report = phase == ConnectionPhase::connected || phase == ConnectionPhase::stale
         ? Report::status(publishedState(m_controller))
-        : QStringLiteral("%1: %2").arg(m_controller.title(), m_controller.statusDetail());
+        : QStringLiteral("%1: %2").arg(m_controller.title(), m_controller.verdict().detail);
     if (report == std::exchange(m_lastReport, report))
         return;
     say(report);
     if (phase == ConnectionPhase::connected)
         say(QStringLiteral("Press Ctrl-C to disconnect."));
+}
+
+// On a change of state alone: a program that removes the rules without pause is told once.
+void RunCommand::showKillSwitch()
+{
+    const auto &rules = m_controller.killSwitch();
+    const auto state = rules ? std::optional(rules->state) : std::nullopt;
+    if (state == std::exchange(m_lastKillSwitch, state) || !state)
+        return;
+    if (m_controller.phase() == ConnectionPhase::connecting && *state == KillSwitch::State::open)
+        complain(QStringLiteral("%1: %2").arg(m_controller.title(), m_controller.verdict().detail));
+    else
+        showPhase();
 }
 
 void RunCommand::say(const QString &text)

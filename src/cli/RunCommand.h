@@ -36,6 +36,7 @@ private:
     void showProgress();
     void showProblem();
     void showPhase();
+    void showKillSwitch();
     void say(const QString &text);
     void complain(const QString &text);
 
@@ -48,6 +49,7 @@ private:
     ProgressLine m_progress;
     QString m_lastReport;
     ConnectionPhase m_lastPhase = ConnectionPhase::disconnected;
+    std::optional<KillSwitch::State> m_lastKillSwitch;
     bool m_restored = false; // a disconnect has begun since the start
     bool m_mustEnd = false; // asked by somebody who won't ask again: SIGTERM, SIGHUP
 };

@@ -81,7 +81,10 @@ void TorController::settleAfterFailure()
     canCancel = false;
     activeMode = markedMode(); // the helper may have changed it before it failed
     statusDetail = QStringLiteral("Your network is still set up for Tor");
+    m_torStopped = false;
+    killSwitch = m_knownKillSwitch = judgedKillSwitch(); // the banner says why it failed; what changes later is told
     phase = ConnectionPhase::stale;
+    startKillSwitchWatch();
 }
 
 void TorController::failAttempt(const QString &message)
@@ -155,6 +158,7 @@ QCoro::Task<void> TorController::connect()
     const QString exit = exitCountry();
     const BridgeRequest request{bridgeChoice(), customBridges(), optimizeSpeed()};
     stopMonitoring();
+    m_torStopped = false;
     forgetCircuits();
     bootstrapProgress = 0.0;
     bootstrapProblem = std::nullopt;
@@ -203,6 +207,9 @@ QCoro::Task<void> TorController::connect()
     activeBridge =
         request.choice == BridgeChoice::off ? std::nullopt : std::optional(request.choice);
     m_activeBridgeLines = m_pendingBridgeLines;
+    m_torStopped = false;
+    m_knownKillSwitch = KillSwitch{KillSwitch::State::standing, 0, {}}; // what happened since the helper began is news
+    startKillSwitchWatch();
     statusDetail = QStringLiteral("Starting Tor…");
     canCancel = true;
     const auto bootstrap = co_await waitForBootstrap(attempt);
@@ -218,6 +225,7 @@ QCoro::Task<void> TorController::connect()
     }
 
     bootstrapProblem = std::nullopt;
+    lookAtKillSwitch();
     statusDetail = connectedDetail();
     phase = ConnectionPhase::connected;
     if (!self || !isCurrent(attempt))

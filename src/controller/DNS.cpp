@@ -102,6 +102,7 @@ QCoro::Task<void> TorController::repairDNS(Attempt attempt)
             errorMessage = QStringLiteral("Couldn't fix DNS: ") + helper.error().description();
         co_return;
     }
+    lookAtKillSwitch();
     co_await checkDNS(true);
     if (!self || !isCurrent(attempt) || !dnsStatus().isLeak())
         co_return;

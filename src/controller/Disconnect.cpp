@@ -37,6 +37,7 @@ QCoro::Task<void> TorController::disconnect()
     statusDetail = QStringLiteral("Restoring your network settings…");
     phase = ConnectionPhase::disconnecting;
     stopMonitoring();
+    stopKillSwitchWatch(); // from here on the rules go on purpose
     m_services.terminal.setActive(false);
 
     const QStringList arguments = {QStringLiteral("disconnect")};
@@ -61,6 +62,7 @@ QCoro::Task<void> TorController::disconnect()
     phase = ConnectionPhase::connected;
     applyTerminalMode();
     startMonitoring();
+    startKillSwitchWatch();
 }
 
 void TorController::forgetCircuits()
@@ -76,6 +78,7 @@ void TorController::endSession()
     m_controlPassword = std::nullopt;
     m_activeBridgeLines.clear();
     m_services.terminal.setActive(false);
+    forgetKillSwitch();
     canCancel = false;
     activeMode = std::nullopt;
     activeBridge = std::nullopt;
@@ -105,7 +108,9 @@ void TorController::detectStaleState()
         return;
     activeMode = markedMode();
     statusDetail = QStringLiteral("Your network is still set up for Tor from an earlier session");
+    killSwitch = m_knownKillSwitch = judgedKillSwitch(); // what happened to an earlier session is no news
     phase = ConnectionPhase::stale;
+    startKillSwitchWatch();
 }
 
 QCoro::Task<void> TorController::autoConnectIfEnabled()

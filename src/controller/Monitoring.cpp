@@ -3,9 +3,7 @@
 #include "base/Clock.h"
 #include "checks/NetworkProbe.h"
 #include "control/ControlPort.h"
-#include "platform/PlatformProfile.h"
 
-#include <QFile>
 #include <QPointer>
 
 using namespace std::chrono_literals;
@@ -18,7 +16,6 @@ constexpr auto monitorInterval = 2s;
 constexpr auto counterReadLimit = 3s; // a tor that is stopped, not dead, must not stop the loop
 constexpr int ticksPerDNSCheck = 15;  // every 30 seconds
 constexpr int failuresUntilDead = 3;
-constexpr qint64 relockLimitBytes = 64;
 
 const QString readKey = QStringLiteral("traffic/read");
 const QString writtenKey = QStringLiteral("traffic/written");
@@ -31,7 +28,7 @@ TorController::Attempt TorController::startAttempt()
     isOptimizing = false;
     optimizeStatus = std::nullopt;
     if (leakStatus().kind() == LeakStatus::Kind::checking)
-        leakStatus = LeakStatus::notTested();
+        leakStatus = leakStatus().isExposed() ? LeakStatus::exposed(leakStatus().address()) : LeakStatus::notTested();
     if (dnsStatus().kind() == DNSStatus::Kind::checking)
         dnsStatus = DNSStatus::unknown();
     return ++m_attempt;
@@ -39,7 +36,6 @@ TorController::Attempt TorController::startAttempt()
 
 void TorController::startMonitoring()
 {
-    m_relockNotice.clear();
     monitor(++m_monitor);
 }
 
@@ -55,7 +51,6 @@ QCoro::Task<void> TorController::monitor(quint64 run)
             co_return;
         if (phase() != ConnectionPhase::connected || !m_controlPassword)
             continue;
-        showRelock();
         if (++tick % ticksPerDNSCheck == 0) {
             co_await checkDNS(false);
             if (!self || run != m_monitor)
@@ -79,21 +74,6 @@ QCoro::Task<void> TorController::monitor(quint64 run)
     }
 }
 
-void TorController::showRelock()
-{
-    QFile file(m_services.profile.relockNotice);
-    const QByteArray notice = file.open(QIODevice::ReadOnly) ? file.read(relockLimitBytes).trimmed() : QByteArray();
-    if (notice.isEmpty() || notice == m_relockNotice)
-        return;
-    m_relockNotice = notice;
-    const bool putBack = notice.startsWith("restored");
-    errorMessage = putBack
-        ? QStringLiteral("Another program removed Veldmark's firewall rules; they are back in place.")
-        : QStringLiteral("Another program removed Veldmark's firewall rules and they could not be put back. Traffic "
-                         "may leave this computer directly. Disconnect and connect again.");
-    Q_EMIT rulesRemoved(putBack);
-}
-
 void TorController::torDied()
 {
     startAttempt(); // checks that are still running belong to a session that is over
@@ -103,12 +83,10 @@ void TorController::torDied()
         endSession();
         return;
     }
+    m_torStopped = true;
+    lookAtKillSwitch(); // what is said of it now must be true now
     statusDetail = QStringLiteral("Tor stopped running");
-    errorMessage = activeMode() == RoutingMode::strict
-        ? QStringLiteral("Tor stopped running. The kill switch is still blocking traffic, so nothing "
-                         "leaked. Reconnect, or Restore Network to go back online.")
-        : QStringLiteral("Tor stopped running. Apps using the proxy can't connect until you reconnect "
-                         "or Restore Network.");
+    errorMessage = m_killSwitchMessage = deathMessage();
     phase = ConnectionPhase::stale;
 }
 
@@ -130,7 +108,8 @@ QCoro::Task<void> TorController::runChecks()
     const QPointer<TorController> self(this);
     const Attempt attempt = m_attempt;
     isChecking = true;
-    leakStatus = LeakStatus::checking();
+    leakStatus = LeakStatus::checkingAfter(leakStatus());
+    lookAtKillSwitch();
     auto throughTor = timedViaTor(); // both start now and run side by side
     auto aroundTor = m_services.probe.direct();
     const TimedProbe tor = co_await throughTor;
@@ -142,6 +121,7 @@ QCoro::Task<void> TorController::runChecks()
     exitIP = verdict.exitIP;
     torVerified = verdict.torVerified;
     leakStatus = verdict.leakStatus;
+    lookAtKillSwitch(); // without the rules, silence is not their doing
     co_await checkDNS(true);
     if (self && isCurrent(attempt))
         isChecking = false;

@@ -119,6 +119,8 @@ Result<void, SettingError> saved(const std::optional<QString> &problem)
 
 QJsonObject publishedState(const TorController &c)
 {
+    const Verdict verdict = c.verdict();
+    const auto &rules = c.killSwitch();
     return {
         {QStringLiteral("strictMode"), json(c.strictMode())},
         {QStringLiteral("allowLocalNetwork"), json(c.allowLocalNetwork())},
@@ -138,8 +140,11 @@ QJsonObject publishedState(const TorController &c)
         {QStringLiteral("phase"), json(c.phase())},
         {QStringLiteral("activeMode"), json(c.activeMode())},
         {QStringLiteral("bootstrapProgress"), json(c.bootstrapProgress())},
-        {QStringLiteral("statusDetail"), json(c.statusDetail())},
+        {QStringLiteral("statusDetail"), verdict.detail}, // a known danger comes before what is going on
         {QStringLiteral("bootstrapProblem"), json(c.bootstrapProblem())},
+        {QStringLiteral("killSwitch"), rules ? QJsonValue(rules->name()) : QJsonValue(QJsonValue::Null)},
+        {QStringLiteral("killSwitchSince"),
+         rules ? QJsonValue(rules->since.toString(Qt::ISODate)) : QJsonValue(QJsonValue::Null)},
         {QStringLiteral("exitIP"), json(c.exitIP())},
         {QStringLiteral("torVerified"), json(c.torVerified())},
         {QStringLiteral("leakStatus"), json(c.leakStatus())},
@@ -155,7 +160,9 @@ QJsonObject publishedState(const TorController &c)
         {QStringLiteral("circuitError"), json(c.circuitError())},
         {QStringLiteral("transportDownload"), json(c.transportDownload())},
         {QStringLiteral("terminalError"), json(c.terminalError())},
-        {QStringLiteral("title"), c.title()},
+        {QStringLiteral("title"), verdict.title},
+        {QStringLiteral("menuBarSymbol"), verdict.symbol},
+        {QStringLiteral("level"), verdict.levelName()},
     };
 }
 

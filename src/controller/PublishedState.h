@@ -15,7 +15,8 @@ class TorController;
 
 // Every published field under its field name, in the order of the header. An enumeration is its
 // case name as a string; a case with a payload an object with that one key ({"exposed":
-// "203.0.113.7"}, {"leak": ["…"]}); an absent optional is null. And "title", the headline.
+// "203.0.113.7"}, {"leak": ["…"]}); an absent optional is null. And the verdict: "title", "menuBarSymbol",
+// "level", and "statusDetail" as far as a known danger is not said instead; "killSwitchSince" goes with "killSwitch".
 QJsonObject publishedState(const TorController &controller);
 
 // The fields that a user may set, by name.

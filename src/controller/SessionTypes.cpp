@@ -4,43 +4,6 @@
 
 namespace veldmark {
 
-QString sessionTitle(ConnectionPhase phase, std::optional<RoutingMode> mode, bool isDNSLeaking)
-{
-    switch (phase) {
-    case ConnectionPhase::disconnected:
-        return QStringLiteral("Not Protected");
-    case ConnectionPhase::connecting:
-        return QStringLiteral("Connecting…");
-    case ConnectionPhase::connected:
-        if (isDNSLeaking)
-            return QStringLiteral("DNS Leak");
-        return mode == RoutingMode::strict ? QStringLiteral("Protected")
-                                           : QStringLiteral("Proxy Active");
-    case ConnectionPhase::disconnecting:
-        return QStringLiteral("Disconnecting…");
-    case ConnectionPhase::stale:
-        return QStringLiteral("Needs Attention");
-    }
-    return {};
-}
-
-QString sessionSymbol(ConnectionPhase phase, bool isDNSLeaking)
-{
-    switch (phase) {
-    case ConnectionPhase::disconnected:
-        return QStringLiteral("shield.slash");
-    case ConnectionPhase::connecting:
-    case ConnectionPhase::disconnecting:
-        return QStringLiteral("shield.lefthalf.filled");
-    case ConnectionPhase::connected:
-        return isDNSLeaking ? QStringLiteral("exclamationmark.shield")
-                            : QStringLiteral("lock.shield.fill");
-    case ConnectionPhase::stale:
-        return QStringLiteral("exclamationmark.shield");
-    }
-    return {};
-}
-
 const std::vector<ExitCountry> &ExitCountry::all()
 {
     static const std::vector<ExitCountry> countries = {

@@ -76,6 +76,7 @@ TorController::TorController(const Services &services, QObject *parent)
     , errorMessage(this, &TorController::errorMessageChanged)
     , bytesRead(this, &TorController::bytesReadChanged)
     , bytesWritten(this, &TorController::bytesWrittenChanged)
+    , killSwitch(this, &TorController::killSwitchChanged)
     , exitIP(this, &TorController::exitIPChanged)
     , torVerified(this, &TorController::torVerifiedChanged)
     , leakStatus(this, &TorController::leakStatusChanged, LeakStatus::notTested())
@@ -126,14 +127,16 @@ void TorController::loadSettings()
     optimizeSpeed.load();
 }
 
-QString TorController::title() const
+Verdict TorController::verdict() const
 {
-    return sessionTitle(phase(), activeMode(), dnsStatus().isLeak());
-}
-
-QString TorController::menuBarSymbol() const
-{
-    return sessionSymbol(phase(), dnsStatus().isLeak());
+    const auto &rules = killSwitch();
+    return Verdict::of({.phase = phase(),
+                        .mode = activeMode(),
+                        .killSwitch = rules ? std::optional(rules->state) : std::nullopt,
+                        .isExposed = leakStatus().isExposed(),
+                        .isDNSLeaking = dnsStatus().isLeak(),
+                        .torVerified = torVerified(),
+                        .detail = statusDetail()});
 }
 
 bool TorController::optionsLocked() const

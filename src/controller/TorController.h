@@ -5,11 +5,15 @@
 #include "bridges/PluggableTransports.h"
 #include "bridges/TransportDownloader.h"
 #include "checks/DNSStatus.h"
+#include "checks/KillSwitch.h"
 #include "checks/LeakStatus.h"
+#include "checks/Verdict.h"
 #include "circuits/CircuitTable.h"
 #include "controller/Published.h"
 #include "controller/SessionTypes.h"
 
+#include "base/Clock.h"
+#include "base/ConnectionPhase.h"
 #include "base/Result.h"
 #include "base/ResumeOnce.h"
 #include "base/RoutingMode.h"
@@ -25,7 +29,6 @@
 
 namespace veldmark {
 
-class Clock;
 class ControlPort;
 class ControlPortError;
 class NetworkProbe;
@@ -109,6 +112,9 @@ public:
     Published<quint64> bytesWritten;
 
     // --- The checks. ---
+    // What the watcher over the rules has last seen in the kernel; absent without a strict session. Read in every
+    // phase but `disconnected` and `disconnecting`, also when Tor is dead, and before anything is said to be blocked.
+    Published<std::optional<KillSwitch>> killSwitch;
     Published<std::optional<QString>> exitIP;
     Published<std::optional<bool>> torVerified; // absent = not checked yet
     Published<LeakStatus> leakStatus;
@@ -128,8 +134,9 @@ public:
     Published<std::optional<QString>> terminalError;
 
     // --- Derived from the fields. ---
-    QString title() const;
-    QString menuBarSymbol() const;
+    Verdict verdict() const; // how safe all this is; what every surface shows
+    QString title() const { return verdict().title; }
+    QString menuBarSymbol() const { return verdict().symbol; }
     bool optionsLocked() const;
     bool canDownloadTransports() const;
     bool canLaunchBypassed() const;
@@ -217,6 +224,7 @@ Q_SIGNALS:
     void errorMessageChanged();
     void bytesReadChanged();
     void bytesWrittenChanged();
+    void killSwitchChanged();
     void exitIPChanged();
     void torVerifiedChanged();
     void leakStatusChanged();
@@ -232,8 +240,6 @@ Q_SIGNALS:
     void passwordlessInstalledChanged();
     void startupErrorChanged();
     void terminalErrorChanged();
-    // Another program has removed the firewall's rules; `errorMessage` says what came of it.
-    void rulesRemoved(bool putBack);
 
 private:
     using Attempt = quint64;
@@ -265,12 +271,21 @@ private:
     void stopMonitoring() { ++m_monitor; }
     QCoro::Task<void> monitor(quint64 run);
     void torDied();
-    void showRelock();
     struct TimedProbe {
         ProbeResult answer;
         std::chrono::milliseconds elapsed; // in both outcomes
     };
     QCoro::Task<TimedProbe> timedViaTor();
+    // KillSwitchWatch.cpp
+    void lookAtKillSwitch();
+    // Looks now and every two seconds until stopped or the session ends. What m_knownKillSwitch holds is no news.
+    void startKillSwitchWatch();
+    void stopKillSwitchWatch() { ++m_killSwitchWatch; }
+    void forgetKillSwitch();
+    QCoro::Task<void> watchKillSwitch(quint64 run);
+    std::optional<KillSwitch> judgedKillSwitch(); // asks the note and the marker
+    std::optional<QString> killSwitchMessage() const;
+    QString deathMessage() const;
     // DNS.cpp
     QCoro::Task<void> repairDNS(Attempt attempt);
     void endFixWaits();
@@ -292,7 +307,11 @@ private:
     bool m_isDownloading = false;             // transports
     std::optional<Attempt> m_fixedAttempt;    // whose fixDNS() is under way
     std::vector<ResumeOnce<bool>> m_fixWaiters; // later calls of the same session
-    QByteArray m_relockNotice;                // as last shown in this session
+    quint64 m_killSwitchWatch = 0;            // the running watch
+    std::optional<KillSwitch> m_knownKillSwitch; // as last told in this session
+    std::optional<QString> m_killSwitchMessage; // the banner that tells of it
+    Clock::TimePoint m_killSwitchSeen;        // when the watcher's note was last a fresh one
+    bool m_torStopped = false;                // under this session
     bool m_dnsLiveVerified = false;           // a live DNS check passed in this session
     QStringList m_pendingBridgeLines;         // of the connection being set up
     QStringList m_activeBridgeLines;          // of the running session

@@ -74,7 +74,7 @@ PlatformProfile PlatformProfile::linux(const Places &places)
                          "its location in Settings.").arg(profile.torInstallHint);
 
     profile.sessionMarker = at("/var/lib/veldmark/state/active");
-    profile.relockNotice = at("/var/lib/veldmark/state/relocked");
+    profile.killSwitchNote = at("/run/veldmark.watch");
     profile.installedHelper = at("/usr/local/libexec/veldmark/veldmark-helper.sh");
     profile.sudoersRule = at("/etc/sudoers.d/veldmark");
     profile.runDirectory = at("/var/lib/veldmark/run");

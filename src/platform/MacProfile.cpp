@@ -21,7 +21,7 @@ PlatformProfile PlatformProfile::macos(const Places &places)
         "sudo bash /Applications/Veldmark.app/Contents/Resources/veldmark-helper.sh disconnect");
 
     profile.sessionMarker = at("/Library/Application Support/Veldmark/state/active");
-    profile.relockNotice = at("/Library/Application Support/Veldmark/state/relocked");
+    profile.killSwitchNote = at("/var/run/veldmark.watch");
     profile.applicationSuffix = QStringLiteral(".app");
     profile.installedHelper = at("/Library/Application Support/Veldmark/bin/veldmark-helper.sh");
     profile.sudoersRule = at("/etc/sudoers.d/veldmark");

@@ -53,7 +53,7 @@ struct PlatformProfile {
 
     // The helper and what it leaves behind.
     QString sessionMarker;    // exists while the network is set up for Tor; holds "proxy" or "strict"
-    QString relockNotice;     // written when somebody changed the firewall's rules; "restored N" or "open N"
+    QString killSwitchNote;   // what the watcher has last seen of the firewall's rules, see KillSwitch; gone after a restart
     QString installedHelper;  // the root-owned copy for use without a password
     QString sudoersRule;
     QString runDirectory;     // Tor's logs; see launcherOutput

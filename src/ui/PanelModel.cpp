@@ -64,83 +64,38 @@ Leak PanelModel::knownLeak() const
     return connected() ? m_session.now().leak : Leak();
 }
 
-bool PanelModel::exposedInStrict() const
-{
-    const Snapshot &now = m_session.now();
-    return now.phase == Phase::connected && now.activeMode == RoutingMode::strict
-        && now.leak.kind == Leak::Kind::exposed;
-}
-
 PanelModel::Tone PanelModel::tone() const
 {
-    const Snapshot &now = m_session.now();
-    switch (now.phase) {
-    case Phase::disconnected:
+    switch (m_session.now().verdict().level) {
+    case Verdict::Level::neutral:
         return Tone::Neutral;
-    case Phase::connecting:
-    case Phase::disconnecting:
+    case Verdict::Level::working:
         return Tone::Accent;
-    case Phase::stale:
+    case Verdict::Level::good:
+        return Tone::Good;
+    case Verdict::Level::info:
+        return Tone::Info;
+    case Verdict::Level::warning:
         return Tone::Warning;
-    case Phase::connected:
+    case Verdict::Level::danger:
         break;
     }
-    if (lookupsLeak() || exposedInStrict())
-        return Tone::Danger;
-    if (now.activeMode != RoutingMode::strict)
-        return Tone::Info;
-    if (now.torVerified == true)
-        return Tone::Good;
-    return now.isChecking || !now.torVerified ? Tone::Accent : Tone::Warning;
+    return Tone::Danger;
 }
 
 QString PanelModel::symbol() const
 {
-    switch (m_session.now().phase) {
-    case Phase::disconnected:
-        return QStringLiteral("shield.slash");
-    case Phase::connecting:
-    case Phase::disconnecting:
-        return QStringLiteral("shield.lefthalf.filled");
-    case Phase::stale:
-        return QStringLiteral("exclamationmark.shield");
-    case Phase::connected:
-        break;
-    }
-    return tone() == Tone::Danger || tone() == Tone::Warning ? QStringLiteral("exclamationmark.shield")
-                                                             : QStringLiteral("lock.shield.fill");
+    return m_session.now().verdict().symbol;
 }
 
 QString PanelModel::title() const
 {
-    switch (m_session.now().phase) {
-    case Phase::disconnected:
-        return tr("Not Protected");
-    case Phase::connecting:
-        return tr("Connecting…");
-    case Phase::disconnecting:
-        return tr("Disconnecting…");
-    case Phase::stale:
-        return tr("Needs Attention");
-    case Phase::connected:
-        break;
-    }
-    if (lookupsLeak())
-        return tr("DNS Leak");
-    if (exposedInStrict())
-        return tr("Needs Attention"); // the firewall is said to be up, and yet something got out
-    return m_session.now().activeMode == RoutingMode::strict ? tr("Protected") : tr("Proxy Active");
+    return SessionTexts::translated(m_session.now().verdict().title);
 }
 
 QString PanelModel::detail() const
 {
-    if (lookupsLeak())
-        return tr("Lookups can go around Tor");
-    if (connected() && tone() == Tone::Warning)
-        return tr("All traffic is locked to Tor, but the exit could not be confirmed");
-    if (exposedInStrict())
-        return tr("Your real address can be seen. Disconnect, or run the leak test again.");
-    return SessionTexts::translated(m_session.now().statusDetail);
+    return SessionTexts::translated(m_session.now().verdict().detail);
 }
 
 QString PanelModel::powerLabel() const

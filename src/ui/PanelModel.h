@@ -9,8 +9,8 @@
 namespace veldmark {
 
 // The panel's upper half: what stands in the hero, the connection card, the banners. Texts and
-// colours by meaning, all derived from the session's snapshot. It never promises more than was
-// verified: `good` is only a strict session whose exit was confirmed and in which no leak is known.
+// colours by meaning, all derived from the session's snapshot. How safe the session is, Verdict alone
+// decides.
 class PanelModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -121,13 +121,12 @@ Q_SIGNALS:
 
 private:
     void update();
-    bool exposedInStrict() const;
     Leak knownLeak() const; // what was found out about the session that runs
     bool throughBridge() const;
 
     Session &m_session;
     TrafficHistory m_traffic;
-    QTimer m_stillness; // runs out when the connection attempt has not moved
+    QTimer m_stillness{this}; // runs out when the connection attempt has not moved
     bool m_still = false;
     double m_lastProgress = 0;
     QString m_lastDetail;

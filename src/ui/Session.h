@@ -56,8 +56,6 @@ public:
 Q_SIGNALS:
     // Once for any number of fields that changed together.
     void changed();
-    // Another program has removed the firewall's rules. A snapshot that says more comes after it.
-    void rulesRemoved(bool putBack);
 
 protected:
     Snapshot m_now;

@@ -28,6 +28,30 @@ namespace {
     QT_TRANSLATE_NOOP("Session", "Tor stopped running. Apps using the proxy can't connect until you reconnect "
                                  "or Restore Network."),
     QT_TRANSLATE_NOOP("Session", "Tor stopped running, and your network is no longer set up for it."),
+    QT_TRANSLATE_NOOP("Session", "Tor stopped running. The kill switch is blocking traffic again, but another program had "
+                                 "removed its rules for a while. Reconnect, or Restore Network to go back online."),
+    QT_TRANSLATE_NOOP("Session", "Tor stopped running, and the kill switch is open: another program removed its rules. Traffic "
+                                 "may leave this computer directly. Reconnect, or Restore Network."),
+    QT_TRANSLATE_NOOP("Session", "Tor stopped running, and it isn't known whether the kill switch is still blocking traffic. "
+                                 "Reconnect, or Restore Network to go back online."),
+    QT_TRANSLATE_NOOP("Session", "The watcher over Veldmark's firewall rules has stopped telling, so it isn't known whether "
+                                 "the kill switch stands. Disconnect and connect again."),
+    // Verdict's titles and lines.
+    QT_TRANSLATE_NOOP("Session", "Not Protected"),
+    QT_TRANSLATE_NOOP("Session", "Connecting…"),
+    QT_TRANSLATE_NOOP("Session", "Disconnecting…"),
+    QT_TRANSLATE_NOOP("Session", "Protected"),
+    QT_TRANSLATE_NOOP("Session", "Proxy Active"),
+    QT_TRANSLATE_NOOP("Session", "Needs Attention"),
+    QT_TRANSLATE_NOOP("Session", "DNS Leak"),
+    QT_TRANSLATE_NOOP("Session", "Kill Switch Open"),
+    QT_TRANSLATE_NOOP("Session", "Traffic may leave this computer directly"),
+    QT_TRANSLATE_NOOP("Session", "Lookups can go around Tor"),
+    QT_TRANSLATE_NOOP("Session", "Lookups can go around Tor, and your real address can be seen"),
+    QT_TRANSLATE_NOOP("Session", "Your real address can be seen. Disconnect, or run the leak test again."),
+    QT_TRANSLATE_NOOP("Session", "It can't be told whether the kill switch stands. Disconnect and connect again."),
+    QT_TRANSLATE_NOOP("Session", "All traffic is locked to Tor, but the exit could not be confirmed"),
+    QT_TRANSLATE_NOOP("Session", "Apps that use system proxy settings go through Tor, but the exit could not be confirmed"),
     QT_TRANSLATE_NOOP("Session", "Another program removed Veldmark's firewall rules; they are back in place."),
     QT_TRANSLATE_NOOP("Session", "Another program removed Veldmark's firewall rules and they could not be put back. "
                                  "Traffic may leave this computer directly. Disconnect and connect again."),

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "base/ConnectionPhase.h"
 #include "base/RoutingMode.h"
 #include "bridges/BridgeChoice.h"
 #include "bridges/PluggableTransports.h"
+#include "checks/KillSwitch.h"
+#include "checks/Verdict.h"
 #include "circuits/CircuitInfo.h"
 
 #include <QString>
@@ -16,7 +19,7 @@
 // Session, PanelModel and qml/panel/Panel.qml.
 namespace veldmark {
 
-enum class Phase { disconnected, connecting, connected, disconnecting, stale };
+using Phase = ConnectionPhase;
 
 // What the user has chosen; a view changes a copy and hands it to Session::store().
 struct Choices {
@@ -37,7 +40,7 @@ struct Choices {
 struct Leak {
     enum class Kind { exposed, notTested, checking, blocked, inconclusive };
     Kind kind = Kind::notTested;
-    QString address; // of `exposed`: the user's own, as the world saw it
+    QString address; // of `exposed`, and of `checking` after it: the user's own, as the world saw it
 };
 
 struct Lookups {
@@ -61,6 +64,7 @@ struct Snapshot {
     quint64 bytesRead = 0; // since Tor started
     quint64 bytesWritten = 0;
 
+    std::optional<KillSwitch> killSwitch;
     std::optional<QString> exitIP;
     std::optional<bool> torVerified;
     Leak leak;
@@ -83,6 +87,19 @@ struct Snapshot {
     std::optional<QString> torPath; // absent: there is no tor to run
     bool markerPresent = false;     // the network is set up for Tor
     std::optional<bool> openAtLogin; // absent: this build cannot change it
+
+    Verdict verdict() const
+    {
+        const bool isExposed = leak.kind == Leak::Kind::exposed
+            || (leak.kind == Leak::Kind::checking && !leak.address.isEmpty());
+        return Verdict::of({.phase = phase,
+                            .mode = activeMode,
+                            .killSwitch = killSwitch ? std::optional(killSwitch->state) : std::nullopt,
+                            .isExposed = isExposed,
+                            .isDNSLeaking = lookups.kind == Lookups::Kind::leak,
+                            .torVerified = torVerified,
+                            .detail = statusDetail});
+    }
 };
 
 } // namespace veldmark

@@ -1,5 +1,6 @@
 """The watcher over the firewall: whatever somebody does to our rules while a strict session lasts is undone at once."""
 
+import contextlib
 import os
 import subprocess
 import time
@@ -10,7 +11,8 @@ from namespace import HelperTest
 from wire import LINK, Flood, Wire
 
 LIMIT = 5.0   # seconds from the change to the rules in force again
-RELOCKED = "/var/lib/veldmark/state/relocked"
+NOTE = "/run/veldmark.watch"   # "WORD COUNT SINCE", as young as the watcher's last look
+GROUP = "/sys/fs/cgroup/veldmark-exempt"
 
 CHANGES = {
     "flushed": "nft flush ruleset",
@@ -47,13 +49,37 @@ class Watcher(HelperTest):
             self.assertLess(time.monotonic() - started, LIMIT, change)
         return time.monotonic() - started
 
+    @property
+    def note_path(self):
+        return f"/proc/{self.machine.pid}/root{NOTE}"
+
     def note(self):
-        path = f"/proc/{self.machine.pid}/root{RELOCKED}"
-        deadline = time.monotonic() + LIMIT
-        while not os.path.exists(path):
-            self.assertLess(time.monotonic(), deadline)
-        with open(path, encoding="ascii") as file:
-            return file.read()
+        """The word and how often rules were missed."""
+        with open(self.note_path, encoding="ascii") as file:
+            word, count, since = file.read().split(" ")
+        self.assertTrue(since.endswith("\n") and abs(int(since) - time.time()) < 60, since)
+        return f"{word} {count}"
+
+    def wait_note(self, wanted, limit=LIMIT):
+        deadline = time.monotonic() + limit
+        while self.note() != wanted:
+            self.assertLess(time.monotonic(), deadline, (wanted, self.note()))
+            time.sleep(0.02)
+
+    def wait_look(self):
+        """Until the watcher has looked once more."""
+        before, deadline = os.stat(self.note_path).st_mtime_ns, time.monotonic() + 2 * LIMIT
+        while os.stat(self.note_path).st_mtime_ns == before:
+            self.assertLess(time.monotonic(), deadline, "it does not look")
+            time.sleep(0.02)
+
+    @contextlib.contextmanager
+    def broken_nft(self):
+        self.machine.shell("printf '#!/bin/sh\\nexit 1\\n' >/mnt/nft; chmod +x /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft")
+        try:
+            yield
+        finally:
+            self.machine.shell("umount /usr/sbin/nft; rm /mnt/nft")
 
     def test_every_change_is_undone(self):
         for name, change in CHANGES.items():
@@ -90,17 +116,66 @@ class Watcher(HelperTest):
         self.machine.shell("pkill -CONT -x nft")
 
     def test_the_change_is_told(self):
-        self.assertEqual(self.machine.shell(f"cat {RELOCKED} 2>/dev/null || true"), "")
+        self.assertEqual(self.note(), "standing 0")
         self.seconds_until_locked("nft flush ruleset")
-        self.assertEqual(self.note(), "restored 1\n")
+        self.wait_note("restored 1")
+        self.wait_look()
+        self.assertEqual(self.note(), "restored 1")   # it stands since, and that is no second miss
+        self.seconds_until_locked("nft delete table inet veldmark")
+        self.wait_note("restored 2")
+        self.assertEqual(self.machine.shell(f"stat -c '%a %u' {NOTE}"), "644 0\n")
+
+    def test_its_note_is_as_young_as_its_last_look(self):
+        for _ in range(3):
+            self.wait_look()
+        self.assertLess(time.time() - os.stat(self.note_path).st_mtime, LIMIT)
+        self.machine.end_watcher()
+        before = os.stat(self.note_path).st_mtime_ns
+        time.sleep(2 * 3 + 1)
+        self.assertEqual(os.stat(self.note_path).st_mtime_ns, before)
+
+    def test_the_note_is_there_when_the_helper_has_ended(self):
+        """The application asks then, perhaps before the watcher has looked."""
+        self.machine.help("disconnect")
+        self.assertFalse(os.path.exists(self.note_path))
+        self.machine.shell("cp /usr/bin/setsid /mnt/setsid; printf '#!/bin/sh\\ncase $* in *watcher.sh) sleep 60 ;; esac\\nexec /mnt/setsid \"$@\"\\n' "
+                           ">/mnt/late; chmod +x /mnt/late; mount --bind /mnt/late /usr/bin/setsid")
+        try:
+            self.machine.connect()
+            self.assertEqual(self.note(), "standing 0")
+            self.machine.help("disconnect")
+        finally:
+            self.machine.shell("umount /usr/bin/setsid; rm /mnt/late /mnt/setsid; pkill -x sleep || true")
+
+    def test_no_note_survives_its_session(self):
+        self.seconds_until_locked("nft flush ruleset")
+        self.wait_note("restored 1")
+        self.machine.connect(strict=0)
+        self.assertFalse(os.path.exists(self.note_path))
+        self.machine.help("disconnect")
+        # What a session before a restart has left: a marker and notes, but no rules and no watcher.
+        self.machine.connect()
+        self.machine.end_watcher()
+        self.machine.shell(f"nft delete table inet veldmark; echo 'restored 9 1' >{NOTE}; echo 'restored 9' >/var/lib/veldmark/state/relocked")
+        self.machine.connect(strict=0)
+        self.assertFalse(os.path.exists(self.note_path))
+        self.machine.help("disconnect")
+        self.assertEqual(self.machine.shell("ls /var/lib/veldmark/state"), "")
+        self.machine.connect()
+        self.machine.end_watcher()
+        self.machine.shell(f"nft delete table inet veldmark; echo 'restored 9 1' >{NOTE}")
+        self.machine.connect()
+        self.assertEqual(self.note(), "standing 0")
 
     def test_a_change_that_cannot_be_undone_is_told(self):
         """Somebody replaces nft itself: the worst, and said so."""
-        self.machine.shell("printf '#!/bin/sh\\nexit 1\\n' >/mnt/nft; chmod +x /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft")
-        try:
-            self.assertEqual(self.note(), "open 1\n")
-        finally:
-            self.machine.shell("umount /usr/sbin/nft; rm /mnt/nft")
+        self.assertEqual(self.note(), "standing 0")
+        with self.broken_nft():
+            self.wait_note("open 1", 2 * LIMIT)
+            self.wait_look()   # it tries again, and that is the same miss
+            self.wait_look()
+            self.assertEqual(self.note(), "open 1")
+        self.wait_note("restored 1", 2 * LIMIT)
 
     def test_other_peoples_tables_are_left_alone(self):
         self.machine.shell("nft add table inet other; nft add chain inet other c")
@@ -109,6 +184,35 @@ class Watcher(HelperTest):
 
     def test_a_removed_group_does_not_keep_the_lock_open(self):
         self.seconds_until_locked("rmdir /sys/fs/cgroup/veldmark-exempt; nft flush ruleset")
+
+    def test_without_its_group_the_lock_is_loaded_and_with_it_the_exemption_comes_back(self):
+        self.machine.shell(f"echo 0 >/sys/fs/cgroup/cgroup.max.descendants; rmdir {GROUP}")
+        try:
+            self.machine.shell("nft flush ruleset")
+            self.wait_note("restored 1")
+            self.assertIn("policy drop", self.listing())
+            self.assertNotIn("cgroupv2", self.listing())
+            self.wait_look()
+            self.assertEqual(self.note(), "restored 1")   # what it has loaded then is what it compares with
+        finally:
+            self.machine.shell("echo max >/sys/fs/cgroup/cgroup.max.descendants")
+        self.assertIn("cgroupv2", self.rules)
+        self.seconds_until_locked("nft flush ruleset")
+        self.wait_note("restored 2")
+        self.wait_look()
+        self.wait_look()
+        self.assertEqual(self.note(), "restored 2")
+        self.assertEqual(self.listing(), self.rules)
+
+    def test_a_group_that_cannot_be_removed_keeps_nobody_from_proxy_mode(self):
+        self.machine.shell(f"mkdir {GROUP}/somebodys")
+        try:
+            self.machine.connect(strict=0)
+            self.assertEqual(self.machine.shell("cat /var/lib/veldmark/state/active"), "proxy\n")
+            self.assertNotIn("policy drop", self.listing())
+            self.assertTrue(self.machine.tor_pids())
+        finally:
+            self.machine.shell(f"rmdir {GROUP}/somebodys")
 
     def test_proxy_mode_has_none(self):
         self.machine.connect(strict=0)

@@ -1,11 +1,12 @@
 """The watcher over the Mac's firewall: what somebody else flushes or loads anew comes back by itself, and is told."""
 
+import os
 import time
 
 import mac
 from mac import MacTest
 
-RELOCKED = "/Library/Application Support/Veldmark/state/relocked"
+NOTE = "/private/var/run/veldmark.watch"   # "WORD COUNT SINCE", as young as the watcher's last look
 LIMIT_SECONDS = 30   # on a busy machine; it looks every second
 
 
@@ -15,6 +16,15 @@ class Watcher(MacTest):
         while not condition():
             self.assertLess(time.monotonic(), deadline, what)
             time.sleep(0.05)
+
+    def note(self):
+        """The word and how often rules were missed."""
+        text = self.machine.read(NOTE)
+        if text is None:
+            return None
+        word, count, since = text.split(" ")
+        self.assertLess(abs(int(since) - time.time()), 120)
+        return f"{word} {count}"
 
     def closed(self):
         return self.machine.verdict("out") == "block"
@@ -34,7 +44,7 @@ class Watcher(MacTest):
         for count, (name, changes) in enumerate(ways.items(), 1):
             with self.subTest(name):
                 self.machine.set_state(changes)
-                self.wait(lambda: (self.machine.read(RELOCKED) or "") == f"restored {count}\n", "it was not told")
+                self.wait(lambda: self.note() == f"restored {count}", "it was not told")
                 state = self.machine.state
                 self.assertTrue(self.closed())
                 self.assertEqual(state["pf veldmark filter"], wanted)
@@ -70,7 +80,30 @@ class Watcher(MacTest):
         pid, seen = self.machine.state["job veldmark.watch"], set()
         self.wait(lambda: seen.add(self.machine.shell(f"cat /proc/{pid}/task/{pid}/children")) or len(seen) > 4, "it does not look")
         self.assertEqual(self.machine.state["pf flushes"], flushes)
-        self.assertIsNone(self.machine.read(RELOCKED))
+        self.assertEqual(self.note(), "standing 0")
+
+    def test_what_cannot_be_put_back_is_told_once_and_so_is_its_end(self):
+        self.machine.connect()
+        self.assertEqual(self.note(), "standing 0")   # also before the first look
+        path = self.machine.root + NOTE
+        pfctl = self.machine.root + "/usr/bin/pfctl"
+        os.rename(pfctl, pfctl + ".away")
+        self.wait(lambda: self.note() == "open 1", "it was not told")
+        for _ in range(2):
+            before = os.stat(path).st_mtime_ns
+            self.wait(lambda: os.stat(path).st_mtime_ns != before, "it looks no more")
+        self.assertEqual(self.note(), "open 1")
+        os.rename(pfctl + ".away", pfctl)
+        self.wait(lambda: self.note() == "restored 1", "its end was not told")
+        self.machine.help("disconnect")
+        self.assertIsNone(self.note())
+
+    def test_no_note_survives_its_session(self):
+        self.machine.connect()
+        self.machine.restart()
+        self.machine.write(NOTE, "restored 9 1\n")
+        self.machine.connect(strict=0)
+        self.assertIsNone(self.machine.read(NOTE))
 
     def test_fix_dns_starts_one_that_is_gone(self):
         self.machine.connect()

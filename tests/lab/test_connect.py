@@ -26,6 +26,9 @@ SKIPPED = 77
 
 STRICT_DEATH = ("Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. "
                 "Reconnect, or Restore Network to go back online.")
+OPEN_DEATH = ("Tor stopped running, and the kill switch is open: another program removed its rules. Traffic may leave this "
+              "computer directly. Reconnect, or Restore Network.")
+REAL_NFT = "/usr/local/sbin/real-nft"
 PROXY_DEATH = ("Tor stopped running. Apps using the proxy can't connect until you reconnect or Restore Network.")
 
 
@@ -80,6 +83,19 @@ class LabCase(unittest.TestCase):
 
     def set(self, key, value):
         self.product.run_verb("set", key, value, check=True)
+
+    @contextlib.contextmanager
+    def broken_nft(self):
+        """nft fails for everybody but who knows REAL_NFT: whatever is removed then, nobody can put back."""
+        broken = "/usr/local/sbin/broken-nft"
+        self.lab.host.run(["cp", "/usr/sbin/nft", REAL_NFT], check=True)
+        self.lab.host.write(broken, "#!/bin/sh\nexit 1\n", mode=0o755)
+        self.lab.host.run(["mount", "--bind", broken, "/usr/sbin/nft"], check=True)
+        try:
+            yield
+        finally:
+            self.lab.host.run(["umount", "/usr/sbin/nft"], check=True)
+            self.lab.host.run(["rm", broken, REAL_NFT], check=True)
 
     def kill_tor(self, number="KILL"):
         """Signals every process of Tor's account; the host's processes are its own, so nobody else's tor is met."""

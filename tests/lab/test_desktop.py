@@ -11,7 +11,7 @@ from pathlib import Path
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
-from test_connect import MARKER, PROGRAMS, SKIPPED, STRICT_DEATH, LabCase  # noqa: E402
+from test_connect import MARKER, OPEN_DEATH, PROGRAMS, REAL_NFT, SKIPPED, STRICT_DEATH, LabCase  # noqa: E402
 from veldlab import desktop as person  # noqa: E402
 from veldlab import requirements  # noqa: E402
 from veldlab import topology as at  # noqa: E402
@@ -110,6 +110,26 @@ class ByClicking(DesktopCase):
         self.assertIn("back in place", told["text"])
         self.assertIsNone(self.direct("-4"))
         self.window.click("push button", "Disconnect")
+        self.window.wait_for("heading", "Not Protected")
+        self.assert_restored()
+
+    def test_a_kill_switch_that_cannot_be_closed_is_told_once(self):
+        self.connect()
+        self.wait_state(lambda s: not s["isChecking"])
+        with self.broken_nft():
+            self.lab.host.run([REAL_NFT, "delete", "table", "inet", "veldmark"], check=True)
+            self.window.wait_for("heading", "Kill Switch Open")
+            self.desktop.wait_notification("Traffic can leave around Tor")
+            time.sleep(8)   # the watcher tries again at least twice
+            self.assertEqual(len(self.desktop.notifications), 1)
+            shown = [node["name"] for node in self.window.nodes()]
+            self.assertFalse([name for name in shown if "locked to Tor" in name or name in ("No leaks", "Protected")], shown)
+            self.kill_tor()
+            self.assertEqual(self.desktop.wait_notification("Tor stopped running")["text"], OPEN_DEATH)
+            self.window.wait_for("heading", "Kill Switch Open")
+        self.desktop.wait_notification("Firewall rules were removed")
+        self.window.wait_for("heading", "Needs Attention")
+        self.window.click("push button", "Restore Network")
         self.window.wait_for("heading", "Not Protected")
         self.assert_restored()
 

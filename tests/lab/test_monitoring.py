@@ -10,7 +10,7 @@ from pathlib import Path
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
-from test_connect import SKIPPED, LabCase  # noqa: E402
+from test_connect import OPEN_DEATH, REAL_NFT, SKIPPED, LabCase  # noqa: E402
 from veldlab import shell  # noqa: E402
 from veldlab import topology as at  # noqa: E402
 from veldlab.product import is_probed  # noqa: E402
@@ -52,6 +52,87 @@ class Counters(LabCase):
         self.assertEqual((asked.returncode, asked.stdout), (1, ""))
         self.assertEqual(len(asked.stderr.splitlines()), 1, asked.stderr)
         session.wait_phase("stale")
+
+
+class KillSwitch(LabCase):
+    """Rules that another program removes: what is said of them is what the kernel holds."""
+
+    def address_seen_directly(self):
+        answer = self.direct("-4", "--resolve", f"{at.CHECK_HOST}:443:{at.CHECK_ADDRESS}")
+        return answer and answer["IP"]
+
+    def assert_said_everywhere(self, session, title, detail):
+        state = self.product.status()
+        self.assertEqual((state["title"], state["statusDetail"]), (title, detail))
+        self.assertEqual((state["level"], state["menuBarSymbol"]), ("danger", "exclamationmark.shield"))
+        for name, value in (("title", title), ("statusDetail", detail), ("killSwitch", "open")):
+            self.assertEqual(self.product.run_verb("get", name, check=True).stdout, value + "\n")
+        report = self.product.run_verb("status", check=True).stdout
+        self.assertEqual([line.strip() for line in report.splitlines()[:2]], [title, detail])
+        self.assertRegex(report, r"\n  Kill switch +OPEN since ")
+        for claim in "locked to Tor", "only Tor's traffic", "blocked", "nothing leaked", "blocking traffic":
+            self.assertNotIn(claim, report)
+        self.assertIn(title, session.output)   # the running program has said it by itself
+
+    def test_an_open_one_is_never_called_closed(self):
+        session = self.enterContext(self.product.session())
+        state = session.wait(lambda s: is_probed(s) and not s["isChecking"])
+        self.assertEqual((state["title"], state["level"], state["killSwitch"]), ("Protected", "good", "standing"))
+        self.assertEqual(state["leakStatus"], "blocked")
+        self.assertIsNone(self.address_seen_directly())
+        opened = ("Kill Switch Open", "Traffic may leave this computer directly")
+        with self.broken_nft():
+            self.lab.host.run([REAL_NFT, "delete", "table", "inet", "veldmark"], check=True)
+            self.assertEqual(self.address_seen_directly(), at.HOST_ADDRESS)
+            state = session.wait(lambda s: s["killSwitch"] == "open", 30)
+            since = state["killSwitchSince"]
+            self.assertIn("could not be put back", state["errorMessage"])
+            self.assert_said_everywhere(session, *opened)
+            self.product.run_verb("check", check=True)
+            self.assert_said_everywhere(session, *opened)
+            self.kill_tor()
+            self.assertEqual(session.wait_phase("stale")["errorMessage"], OPEN_DEATH)
+            self.assert_said_everywhere(session, *opened)
+            note = self.lab.host.path("/run/veldmark.watch")
+            tried = note.stat().st_mtime_ns
+            while note.stat().st_mtime_ns == tried:   # the watcher tries again, and so do we
+                time.sleep(0.1)
+            time.sleep(3)
+            state = self.product.status()
+            self.assertEqual((state["errorMessage"], state["killSwitchSince"]), (OPEN_DEATH, since))
+            self.assertEqual(self.address_seen_directly(), at.HOST_ADDRESS)
+        state = session.wait(lambda s: s["killSwitch"] == "putBack", 30)   # still watched, though Tor is dead
+        self.assertEqual(state["title"], "Needs Attention")
+        self.assertIn("blocking traffic again", state["errorMessage"])
+        self.assertIsNone(self.address_seen_directly())
+        self.product.run_verb("restore", check=True)
+        self.assertIsNone(self.product.status()["killSwitch"])
+        self.assert_restored()
+
+    def test_a_watcher_that_was_killed_is_missed(self):
+        session = self.enterContext(self.product.session())
+        session.wait(is_probed)
+        self.lab.host.run(["pkill", "-KILL", "-f", "^/bin/bash -p -- /var/lib/veldmark/run/watcher.sh$"], check=True)
+        state = session.wait(lambda s: s["killSwitch"] == "unknown", 60)
+        self.assertEqual((state["title"], state["level"]), ("Needs Attention", "warning"))
+        self.assertNotIn("locked to Tor", state["statusDetail"])
+        self.product.run_verb("fix-dns", check=True)   # which starts another
+        self.assertEqual(session.wait(lambda s: s["killSwitch"] == "standing" and not s["isChecking"], 30)["title"], "Protected")
+
+    def test_proxy_mode_shows_nothing_of_a_strict_session_before_it(self):
+        with self.product.session() as session:
+            session.wait(is_probed)
+            self.lab.host.run(["nft", "delete", "table", "inet", "veldmark"], check=True)
+            session.wait(lambda s: s["killSwitch"] == "putBack", 30)
+            session.process.kill()
+            session.process.wait()
+        self.set("strictMode", "false")
+        session = self.enterContext(self.product.session())
+        state = session.wait(is_probed)
+        time.sleep(4)   # two looks
+        state = self.product.status()
+        self.assertEqual((state["title"], state["killSwitch"], state["errorMessage"]), ("Proxy Active", None, None))
+        self.assertFalse(self.lab.host.path("/run/veldmark.watch").exists())
 
 
 class Log(LabCase):

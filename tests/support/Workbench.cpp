@@ -3,6 +3,7 @@
 #include "support/NameLookups.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
@@ -100,6 +101,7 @@ Workbench::Workbench(System system)
     , bridgeProbe([](QString, quint16, std::chrono::milliseconds) { return noAnswer(); })
 {
     NameLookups::clear();
+    QObject::connect(&m_watcher, &QTimer::timeout, &m_watcher, [this] { setNoteAge(0s); });
     writeFile(profile.torCandidates.constFirst(), {}, true);
     writeFile(profile.helperCandidates.constFirst(), "the helper", true);
     QDir().mkpath(profile.places.home);
@@ -253,12 +255,36 @@ Result<ProcessResult, StartError> Workbench::run(const ScriptedRunner::Call &cal
     const QString verb = arguments.value(0);
     if (const auto refused = m_refusals.find(verb); refused != m_refusals.end())
         return refused->second;
-    if (verb == QLatin1String("connect"))
-        writeMarker(arguments.at(arguments.indexOf(QStringLiteral("--strict")) + 1) == QLatin1String("1")
-                        ? "strict\n" : "proxy\n");
-    else if (verb == QLatin1String("disconnect"))
+    if (verb == QLatin1String("connect")) {
+        const bool strict = arguments.at(arguments.indexOf(QStringLiteral("--strict")) + 1) == QLatin1String("1");
+        writeMarker(strict ? "strict\n" : "proxy\n");
+        QFile::remove(profile.killSwitchNote);
+        if (strict)
+            noteRules("standing");
+    } else if (verb == QLatin1String("disconnect")) {
         removeMarker();
+        QFile::remove(profile.killSwitchNote);
+    }
     return ProcessResult{};
+}
+
+void Workbench::noteRules(const QByteArray &word, int missed, qint64 since)
+{
+    writeFile(profile.killSwitchNote, word + ' ' + QByteArray::number(missed) + ' ' + QByteArray::number(since) + '\n');
+    m_watcher.start(1s);
+}
+
+void Workbench::setNoteAge(std::chrono::seconds age)
+{
+    QFile note(profile.killSwitchNote);
+    if (note.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
+        note.setFileTime(QDateTime::currentDateTimeUtc().addSecs(-age.count()), QFileDevice::FileModificationTime);
+}
+
+void Workbench::killWatcher()
+{
+    m_watcher.stop();
+    setNoteAge(60s);
 }
 
 void Workbench::writeMarker(const QByteArray &content)

@@ -11,6 +11,7 @@
 #include "terminal/TerminalIntegration.h"
 
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -75,6 +76,12 @@ public:
     // The password of the last "--hash-password".
     QString password() const { return tor.password(); }
 
+    // What the watcher over the firewall's rules has seen: "standing", "restored" or "open", how often the rules were
+    // missed, and when it began. It has "standing 0" once a strict session was set up, and goes on looking (its note
+    // stays young) until it is killed.
+    void noteRules(const QByteArray &word, int missed = 0, qint64 since = 1'800'000'000);
+    void killWatcher();
+
     void writeMarker(const QByteArray &content);
     void removeMarker();
     bool hasMarker() const;
@@ -116,9 +123,11 @@ private:
     Result<ProcessResult, StartError> run(const ScriptedRunner::Call &call);
     // Empty when the call is no run of the helper.
     QStringList helperArguments(const ScriptedRunner::Call &call) const;
+    void setNoteAge(std::chrono::seconds age);
     ProcessResult refusal(const QString &message) const;
 
     std::map<QString, ProcessResult> m_refusals;
+    QTimer m_watcher; // its looks, in real time like the note's
     std::unique_ptr<TorController> m_controller;
 };
 

@@ -56,6 +56,7 @@ Snapshot protectedSession()
     s.phase = Phase::connected;
     s.activeMode = RoutingMode::strict;
     s.statusDetail = QStringLiteral("All traffic is locked to Tor");
+    s.killSwitch = KillSwitch{KillSwitch::State::standing, 0, QDateTime::fromSecsSinceEpoch(1'800'000'000, Qt::UTC)};
     s.exitIP = QStringLiteral("203.0.113.10");
     s.torVerified = true;
     s.leak.kind = Leak::Kind::blocked;
@@ -144,11 +145,22 @@ std::vector<Scene> panel()
     s.leak = {Leak::Kind::exposed, QStringLiteral("198.51.100.23")};
     add("connected-strict-exposed", s);
     s = protectedSession();
+    s.killSwitch->state = KillSwitch::State::open;
+    s.leak.kind = Leak::Kind::notTested;
+    s.errorMessage = QStringLiteral("Another program removed Veldmark's firewall rules and they could not be put back. Traffic "
+                                    "may leave this computer directly. Disconnect and connect again.");
+    add("connected-strict-open", s);
+    s.killSwitch->state = KillSwitch::State::unknown;
+    s.errorMessage = QStringLiteral("The watcher over Veldmark's firewall rules has stopped telling, so it isn't known whether "
+                                    "the kill switch stands. Disconnect and connect again.");
+    add("connected-strict-unknown", s);
+    s = protectedSession();
     s.lookups = {Lookups::Kind::leak,
                  {QStringLiteral("192.168.1.1 on eth0"), QStringLiteral("10.0.0.53, 10.0.0.54 for *.corp.example on tun0"),
                   QStringLiteral("9.9.9.9 on wlan0"), QStringLiteral("fd00::1 on eth1"), QStringLiteral("fd00::2 on eth1")}};
     add("connected-strict-dns-leak", s);
     s = protectedSession();
+    s.killSwitch.reset();
     s.activeMode = RoutingMode::proxy;
     s.choices.strictMode = false;
     s.statusDetail = QStringLiteral("Apps that use system proxy settings go through Tor");
@@ -187,6 +199,11 @@ std::vector<Scene> panel()
     s.errorMessage = QStringLiteral("Tor stopped running. The kill switch is still blocking traffic, so nothing "
                                     "leaked. Reconnect, or Restore Network to go back online.");
     add("stale-strict-tor-died", s);
+    s.killSwitch = KillSwitch{KillSwitch::State::open, 1, QDateTime::fromSecsSinceEpoch(1'800'000'000, Qt::UTC)};
+    s.errorMessage = QStringLiteral("Tor stopped running, and the kill switch is open: another program removed its rules. Traffic "
+                                    "may leave this computer directly. Reconnect, or Restore Network.");
+    add("stale-strict-open", s);
+    s.killSwitch.reset();
     s.activeMode = RoutingMode::proxy;
     s.choices.strictMode = false;
     s.errorMessage = QStringLiteral("Tor stopped running. Apps using the proxy can't connect until you reconnect or "

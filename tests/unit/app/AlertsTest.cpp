@@ -12,11 +12,18 @@ class AlertsTest : public QObject {
 
     PlatformProfile profile = PlatformProfile::linux(Places::below(QStringLiteral("/nowhere")));
 
+    static KillSwitch rules(KillSwitch::State state, int missed = 0, qint64 seconds = 1'800'000'000)
+    {
+        return {state, missed, QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC)};
+    }
+
     static Snapshot inPhase(Phase phase)
     {
         Snapshot s;
         s.phase = phase;
         s.activeMode = RoutingMode::strict;
+        if (phase != Phase::disconnected)
+            s.killSwitch = rules(KillSwitch::State::standing);
         return s;
     }
 
@@ -46,18 +53,78 @@ private Q_SLOTS:
         QCOMPARE(told.at(0).at(1).toString(), *ended.errorMessage);
     }
 
-    void tellsEachRemovalOfTheRules()
+    void tellsWhatBecomesOfTheRules()
     {
+        using State = KillSwitch::State;
         StandInSession session(profile);
         Alerts alerts(session);
         QSignalSpy told(&alerts, &Alerts::told);
-        session.show(inPhase(Phase::connected));
-        Q_EMIT session.rulesRemoved(true);
+        Snapshot s = inPhase(Phase::connected);
+        session.show(s);
+        QCOMPARE(told.count(), 0);
+        s.killSwitch = rules(State::putBack, 1);
+        session.show(s);
         QCOMPARE(told.count(), 1);
         QVERIFY(told.at(0).at(1).toString().contains(QStringLiteral("back in place")));
-        Q_EMIT session.rulesRemoved(false);
+        for (int attempt = 1; attempt < 5; ++attempt) { // tries again and again
+            s.killSwitch = rules(State::open, 2);
+            session.show(s);
+            s.bytesRead += 1;
+            session.show(s);
+        }
         QCOMPARE(told.count(), 2);
-        QVERIFY(told.at(1).at(1).toString().contains(QStringLiteral("could not be put back")));
+        QCOMPARE(told.at(1).at(0).toString(), QStringLiteral("Traffic can leave around Tor"));
+        s.killSwitch = rules(State::putBack, 2);
+        session.show(s);
+        QCOMPARE(told.count(), 3); // that it is over is news as well
+        s.killSwitch = rules(State::standing);
+        session.show(s);
+        QCOMPARE(told.count(), 3);
+        s.killSwitch = rules(State::unknown);
+        session.show(s);
+        session.show(s);
+        QCOMPARE(told.count(), 4);
+        QCOMPARE(told.at(3).at(0).toString(), QStringLiteral("The kill switch is not watched"));
+    }
+
+    void tellsOnceAMinuteOfAProgramThatKeepsRemovingThem()
+    {
+        using State = KillSwitch::State;
+        StandInSession session(profile);
+        Alerts alerts(session);
+        QSignalSpy told(&alerts, &Alerts::told);
+        Snapshot s = inPhase(Phase::connected);
+        session.show(s);
+        for (int second = 0; second < 60; ++second) {
+            s.killSwitch = rules(State::putBack, second + 1, 1'800'000'000 + second);
+            session.show(s);
+        }
+        QCOMPARE(told.count(), 1);
+        s.killSwitch = rules(State::putBack, 61, 1'800'000'060);
+        session.show(s);
+        QCOMPARE(told.count(), 2);
+        // Another session has a first time of its own.
+        s.killSwitch.reset();
+        s.phase = Phase::disconnecting;
+        session.show(s);
+        s.killSwitch = rules(State::putBack, 1, 1'800'000'070);
+        s.phase = Phase::connected;
+        session.show(s);
+        QCOMPARE(told.count(), 3);
+    }
+
+    void isQuietAboutWhatHappenedToAnEarlierSession()
+    {
+        using State = KillSwitch::State;
+        for (const State state : {State::standing, State::putBack, State::unknown, State::open}) {
+            StandInSession session(profile);
+            Alerts alerts(session);
+            QSignalSpy told(&alerts, &Alerts::told);
+            Snapshot s = inPhase(Phase::stale);
+            s.killSwitch = rules(state, 3);
+            session.show(s);
+            QCOMPARE(told.count(), state == State::open ? 1 : 0); // that one is so now
+        }
     }
 
     void isQuietAboutWhatTheUserDoes()

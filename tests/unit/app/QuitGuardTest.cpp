@@ -60,17 +60,22 @@ private Q_SLOTS:
     void asksWhileTheNetworkIsSetUp_data()
     {
         QTest::addColumn<QByteArray>("marker");
+        QTest::addColumn<bool>("open");
         QTest::addColumn<bool>("strict");
-        QTest::newRow("strict") << QByteArray("strict\n") << true;
-        QTest::newRow("proxy") << QByteArray("proxy\n") << false;
-        QTest::newRow("unknown") << QByteArray("perhaps\n") << false;
+        QTest::newRow("strict") << QByteArray("strict\n") << false << true;
+        QTest::newRow("strict, with an open kill switch") << QByteArray("strict\n") << true << false; // it does not stay on
+        QTest::newRow("proxy") << QByteArray("proxy\n") << false << false;
+        QTest::newRow("unknown") << QByteArray("perhaps\n") << false << false;
     }
     void asksWhileTheNetworkIsSetUp()
     {
         QFETCH(QByteArray, marker);
+        QFETCH(bool, open);
         QFETCH(bool, strict);
         Guarded g;
         g.bench.writeMarker(marker);
+        if (open)
+            g.bench.noteRules("open", 1);
         g.bench.controller().detectStaleState();
         g.guard.quit();
         QCOMPARE(g.mayEnd.count(), 0);

@@ -87,6 +87,7 @@ private Q_SLOTS:
 
         Snapshot connected = inPhase(Phase::connected);
         connected.torVerified = true;
+        connected.killSwitch = KillSwitch{KillSwitch::State::standing, 0, {}};
         session.show(connected);
         QCOMPARE(icon->toolTip(), QStringLiteral("Veldmark: Protected"));
         menu(tray)->actions().at(1)->trigger();

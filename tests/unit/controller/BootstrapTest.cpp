@@ -15,7 +15,7 @@ private:
     static bool waitsAfterPoll(Workbench &bench, int count)
     {
         return bench.hears(Workbench::bootstrapCommand, count)
-            && until([&] { return bench.clock.sleepers() == 1; });
+            && until([&] { return bench.clock.sleepers() == 2; }); // and the watch over the rules
     }
 
     static void useObfs4(Workbench &bench)
@@ -248,7 +248,7 @@ private Q_SLOTS:
         Workbench bench;
         bench.tor.stopListening();
         const auto connecting = bench.controller().connect();
-        QVERIFY(until([&] { return bench.clock.sleepers() == 1; }));
+        QVERIFY(until([&] { return bench.clock.sleepers() == 2; }));
         QVERIFY(bench.controller().phase() == Phase::connecting);
         QCOMPARE(bench.controller().statusDetail(), u"Starting Tor…"_s);
         bench.tor.listen();
@@ -294,7 +294,7 @@ private Q_SLOTS:
         QVERIFY(c.activeMode() == RoutingMode::strict); // the helper has switched it on
         QVERIFY(bench.hasMarker());
         QCOMPARE(bench.probe.torProbes, 0);
-        QCOMPARE(bench.clock.sleepers(), std::size_t(0)); // nothing is monitored
+        QCOMPARE(bench.clock.sleepers(), std::size_t(1)); // nothing but the rules is watched
 
         bench.disconnect(); // Restore Network
         QVERIFY(c.phase() == Phase::disconnected);
@@ -309,7 +309,7 @@ private Q_SLOTS:
         QVERIFY(bench.hears(Workbench::bootstrapCommand));
         bench.clock.advance(301s);
         bench.socketClock.advance(ControlPort::defaultLimit);
-        QVERIFY(until([&] { return bench.clock.sleepers() == 1; }));
+        QVERIFY(until([&] { return bench.clock.sleepers() == 2; }));
         bench.clock.advance(1s);
         QVERIFY(Workbench::finished(connecting));
         QVERIFY(bench.controller().phase() == Phase::stale);
@@ -359,7 +359,7 @@ private Q_SLOTS:
         QVERIFY(bench.hears(Workbench::bootstrapCommand, 2));
         bench.socketClock.advance(ControlPort::defaultLimit); // both questions end
         QVERIFY(Workbench::finished(first));
-        QVERIFY(until([&] { return bench.clock.sleepers() == 1; }));
+        QVERIFY(until([&] { return bench.clock.sleepers() == 3; })); // two watches over the rules, the first of which ends
         QVERIFY(c.phase() == Phase::connecting && c.canCancel());
         bench.clock.advance(1s);
         QVERIFY(bench.hears(Workbench::bootstrapCommand, 3));

@@ -154,24 +154,6 @@ private Q_SLOTS:
         QCOMPARE(bench.helperRunCount(u"launch"_s), 1);
         QVERIFY(!bench.controller().errorMessage());
     }
-
-    void tellsOnceThatTheRulesWereBroken()
-    {
-        Workbench bench;
-        QVERIFY(bench.connect());
-        QVERIFY(bench.tick());
-        QVERIFY(!bench.controller().errorMessage());
-        bench.writeFile(bench.profile.relockNotice, "restored 1\n");
-        QVERIFY(bench.tick());
-        QCOMPARE(bench.controller().errorMessage().value(),
-                 u"Another program removed Veldmark's firewall rules; they are back in place."_s);
-        bench.controller().dismissError();
-        QVERIFY(bench.tick());
-        QVERIFY(!bench.controller().errorMessage());
-        bench.writeFile(bench.profile.relockNotice, "open 2\n");
-        QVERIFY(bench.tick());
-        QVERIFY(bench.controller().errorMessage().value().contains(u"could not be put back"_s));
-    }
 };
 
 VELDMARK_TEST(BypassAppsTest)

@@ -58,7 +58,7 @@ private Q_SLOTS:
         QCOMPARE(bench.probe.torProbes, 1);
         QCOMPARE(bench.probe.directProbes, 1);
         QCOMPARE(bench.controller().exitIP().value(), u"203.0.113.10"_s);
-        QCOMPARE(bench.clock.sleepers(), std::size_t(1)); // the monitor
+        QCOMPARE(bench.clock.sleepers(), std::size_t(2)); // the monitor, and the watch over the rules
         QVERIFY(bench.tick());
         QCOMPARE(bench.commandCount(Workbench::countersCommand), 1);
     }
@@ -280,6 +280,7 @@ private Q_SLOTS:
         QVERIFY(until([&] { return c.phase() == Phase::disconnected; }));
         QVERIFY(!bench.hasMarker());
         QCOMPARE(bench.probe.torProbes, 0);
+        bench.clock.advance(std::chrono::seconds(2));
         QCOMPARE(bench.clock.sleepers(), std::size_t(0)); // nothing is monitored
     }
 

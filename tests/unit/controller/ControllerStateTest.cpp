@@ -171,8 +171,10 @@ private Q_SLOTS:
         QFETCH(ConnectionPhase, phase);
         QFETCH(std::optional<RoutingMode>, mode);
         QFETCH(bool, leak);
-        QTEST(sessionTitle(phase, mode, leak), "title");
-        QTEST(sessionSymbol(phase, leak), "symbol");
+        const Verdict verdict = Verdict::of({.phase = phase, .mode = mode, .killSwitch = KillSwitch::State::standing,
+                                             .isDNSLeaking = leak, .torVerified = true});
+        QTEST(verdict.title, "title");
+        QTEST(verdict.symbol, "symbol");
     }
 
     void theControllerShowsTheTitleOfItsState()

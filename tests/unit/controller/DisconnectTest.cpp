@@ -220,7 +220,7 @@ private Q_SLOTS:
         bench.setBootstrap("PROGRESS=5");
         const auto connecting = c.connect();
         QVERIFY(bench.hears(Workbench::bootstrapCommand));
-        QVERIFY(until([&] { return bench.clock.sleepers() == 1; }));
+        QVERIFY(until([&] { return bench.clock.sleepers() == 2; })); // and the watch over the rules
         refuse(bench, dismissed);
         if (!marker)
             bench.removeMarker();

@@ -91,12 +91,12 @@ std::vector<Place> places()
         {"connect, between two questions", [](Workbench &b) {
              b.setBootstrap("PROGRESS=5");
              b.controller().connect();
-             return isAsleep(b, 1);
+             return isAsleep(b, 2);
          }},
         {"connect, checking", [](Workbench &b) {
              slowProbe(b);
              b.controller().connect();
-             return isAsleep(b, 2);
+             return isAsleep(b, 3);
          }},
         {"disconnect", [](Workbench &b) {
              if (!b.connect())
@@ -118,7 +118,7 @@ std::vector<Place> places()
                  return false;
              b.probe.beforeDirectAnswer = [&b] { return b.clock.sleep(1s); };
              b.controller().runChecks();
-             return isAsleep(b, 2);
+             return isAsleep(b, 3);
          }},
         {"runChecks, live test begins", [](Workbench &b) {
              if (!b.connect())
@@ -141,7 +141,7 @@ std::vector<Place> places()
                  return false;
              b.resolvers.beforeAnswer = [&b] { return b.clock.sleep(1s); };
              b.controller().checkDNS(false);
-             return isAsleep(b, 2);
+             return isAsleep(b, 3);
          }},
         {"fixDNS", [](Workbench &b) {
              if (!b.connect())
@@ -192,7 +192,7 @@ std::vector<Place> places()
                  return false;
              slowProbe(b);
              b.controller().optimizeCircuits();
-             return isAsleep(b, 2);
+             return isAsleep(b, 3);
          }},
         {"optimizeCircuits, asking for new paths", [](Workbench &b) {
              if (!b.connect())
@@ -207,7 +207,7 @@ std::vector<Place> places()
                  return false;
              b.probe.torAnswer = ScriptedProbe::nothing();
              b.controller().optimizeCircuits();
-             return isAsleep(b, 2);
+             return isAsleep(b, 3);
          }},
         {"monitor, asleep", [](Workbench &b) { return b.connect(); }},
         {"monitor, asking Tor", [](Workbench &b) {

@@ -54,7 +54,7 @@ private Q_SLOTS:
         if (!answers)
             bench.probe.torAnswer = ScriptedProbe::nothing();
         const auto connecting = c.connect();
-        QVERIFY(until([&] { return bench.clock.sleepers() == 2; })); // monitor and probe
+        QVERIFY(until([&] { return bench.clock.sleepers() == 3; })); // monitor, watch and probe
         bench.probe.beforeTorAnswer = nullptr; // the next one is fast
         bench.clock.advance(std::chrono::milliseconds(milliseconds));
         run(bench, connecting);
@@ -111,7 +111,7 @@ private Q_SLOTS:
             if (round == 4)
                 break;
             QVERIFY(bench.hears("SIGNAL NEWNYM", round));
-            QVERIFY(until([&] { return bench.clock.sleepers() == 2; })); // the monitor, the pause
+            QVERIFY(until([&] { return bench.clock.sleepers() == 3; })); // monitor, watch, the pause
             bench.clock.advance(9999ms);
             settle();
             QVERIFY(c.isOptimizing());
@@ -175,7 +175,7 @@ private Q_SLOTS:
         if (inPause) {
             bench.clock.advance(1s);
             QVERIFY(bench.hears("SIGNAL NEWNYM"));
-            QVERIFY(until([&] { return bench.clock.sleepers() == 2; }));
+            QVERIFY(until([&] { return bench.clock.sleepers() == 3; }));
         }
         bench.disconnect();
         QVERIFY(!c.isOptimizing() && !c.optimizeStatus());

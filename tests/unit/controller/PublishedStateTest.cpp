@@ -17,17 +17,18 @@ private Q_SLOTS:
         Workbench bench;
         const QStringList fields = u"strictMode allowLocalNetwork exitCountry customTorPath bridgeChoice customBridges "
             "bypassApps autoConnect optimizeSpeed latencyMs optimizeStatus isOptimizing transports activeBridge "
-            "terminalMode phase activeMode bootstrapProgress statusDetail bootstrapProblem exitIP torVerified leakStatus "
+            "terminalMode phase activeMode bootstrapProgress statusDetail bootstrapProblem killSwitch killSwitchSince exitIP torVerified leakStatus "
             "bytesRead bytesWritten isChecking canCancel errorMessage dnsStatus passwordlessInstalled startupError circuits "
-            "circuitError transportDownload terminalError title"_s.split(u' ');
+            "circuitError transportDownload terminalError title menuBarSymbol level"_s.split(u' ');
         const QJsonObject state = publishedState(bench.controller());
         for (const QString &field : fields)
             QVERIFY2(state.contains(field), qPrintable(field));
         QCOMPARE(state.size(), fields.size());
         // And each says when it changes.
         const QMetaObject *type = bench.controller().metaObject();
+        const QStringList derived = {u"title"_s, u"menuBarSymbol"_s, u"level"_s, u"killSwitchSince"_s};
         for (const QString &field : fields) {
-            if (field != u"title"_s)
+            if (!derived.contains(field))
                 QVERIFY2(type->indexOfSignal((field.toLatin1() + "Changed()").constData()) >= 0, qPrintable(field));
         }
     }
@@ -43,7 +44,7 @@ private Q_SLOTS:
         QCOMPARE(state.value(u"strictMode"_s), QJsonValue(true));
         QCOMPARE(state.value(u"bypassApps"_s), QJsonValue(QJsonArray()));
         QCOMPARE(state.value(u"bytesRead"_s), QJsonValue(0));
-        for (const char *absent : {"activeMode", "activeBridge", "exitIP", "torVerified", "latencyMs", "errorMessage"})
+        for (const char *absent : {"activeMode", "activeBridge", "killSwitch", "killSwitchSince", "exitIP", "torVerified", "latencyMs", "errorMessage"})
             QVERIFY2(state.value(QLatin1String(absent)).isNull(), absent);
     }
 
@@ -67,6 +68,11 @@ private Q_SLOTS:
         QCOMPARE(state.value(u"title"_s), QJsonValue(u"DNS Leak"_s));
         QCOMPARE(state.value(u"activeMode"_s), QJsonValue(u"strict"_s));
         QCOMPARE(state.value(u"activeBridge"_s), QJsonValue(u"custom"_s));
+        QCOMPARE(state.value(u"killSwitch"_s), QJsonValue(u"standing"_s));
+        QCOMPARE(state.value(u"killSwitchSince"_s), QJsonValue(u"2027-01-15T08:00:00Z"_s));
+        QCOMPARE(state.value(u"level"_s), QJsonValue(u"danger"_s));
+        QCOMPARE(state.value(u"menuBarSymbol"_s), QJsonValue(u"exclamationmark.shield"_s));
+        QCOMPARE(state.value(u"statusDetail"_s), QJsonValue(u"Lookups can go around Tor, and your real address can be seen"_s));
         QCOMPARE(state.value(u"leakStatus"_s), QJsonValue(QJsonObject{{u"exposed"_s, u"198.51.100.7"_s}}));
         QCOMPARE(state.value(u"dnsStatus"_s), QJsonValue(QJsonObject{{u"leak"_s, QJsonArray{u"192.168.1.1"_s}}}));
         QCOMPARE(state.value(u"torVerified"_s), QJsonValue(true));

@@ -82,7 +82,7 @@ private Q_SLOTS:
         Instance instance;
         instance.bench.setBootstrap("PROGRESS=1 WARNING=\"Connection refused\"");
         Conversation failing(instance.bench, "connect");
-        QVERIFY(until([&] { return instance.bench.controller().bootstrapProblem() && instance.bench.clock.sleepers() == 1; }));
+        QVERIFY(until([&] { return instance.bench.controller().bootstrapProblem() && instance.bench.clock.sleepers() == 2; }));
         instance.bench.clock.advance(std::chrono::minutes(5));
         QCOMPARE(failing.error(), u"Tor didn't finish connecting within 5 minutes. Your network is still pointed at Tor. "
                                   "Click Restore Network to undo. Tor reports: Connection refused."_s);

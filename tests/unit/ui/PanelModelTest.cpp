@@ -22,6 +22,8 @@ Snapshot connected(RoutingMode mode)
     Snapshot s = idle();
     s.phase = Phase::connected;
     s.activeMode = mode;
+    if (mode == RoutingMode::strict)
+        s.killSwitch = KillSwitch{KillSwitch::State::standing, 0, {}};
     s.torVerified = true;
     s.exitIP = QStringLiteral("203.0.113.10");
     s.leak.kind = Leak::Kind::blocked;
@@ -34,6 +36,16 @@ class PanelModelTest : public QObject {
     Q_OBJECT
 
     PlatformProfile profile = PlatformProfile::linux(Places::below(QStringLiteral("/nowhere")));
+
+    // The ten seconds have passed, as the timer's own signal says.
+    static void runOut(PanelModel &panel)
+    {
+        auto *timer = panel.findChild<QTimer *>();
+        QVERIFY(timer && timer->isActive() && timer->interval() == 10'000);
+        timer->setInterval(0);
+        QTRY_VERIFY(!timer->isActive());
+        timer->setInterval(10'000);
+    }
 
 private Q_SLOTS:
     void saysWhatKeepsTorFromConnecting()
@@ -89,7 +101,7 @@ private Q_SLOTS:
         row("strict, not checked yet", s, Tone::Accent, "lock.shield.fill", "Protected", "Disconnect",
             true, "Click to disconnect");
         s.torVerified = false;
-        row("strict, not confirmed", s, Tone::Warning, "exclamationmark.shield", "Protected",
+        row("strict, not confirmed", s, Tone::Warning, "exclamationmark.shield", "Needs Attention",
             "Disconnect", true, "Click to disconnect");
         s = connected(RoutingMode::strict);
         s.leak = {Leak::Kind::exposed, QStringLiteral("198.51.100.1")};
@@ -99,6 +111,13 @@ private Q_SLOTS:
         s.lookups = {Lookups::Kind::leak, {QStringLiteral("192.168.1.1")}};
         row("strict, look-ups leak", s, Tone::Danger, "exclamationmark.shield", "DNS Leak",
             "Disconnect", true, "Click to disconnect");
+        s = connected(RoutingMode::strict);
+        s.killSwitch->state = KillSwitch::State::open;
+        row("strict, open", s, Tone::Danger, "exclamationmark.shield", "Kill Switch Open", "Disconnect", true,
+            "Click to disconnect");
+        s.killSwitch.reset();
+        row("strict, nobody has looked", s, Tone::Warning, "exclamationmark.shield", "Needs Attention", "Disconnect", true,
+            "Click to disconnect");
         s = connected(RoutingMode::proxy);
         row("proxy", s, Tone::Info, "lock.shield.fill", "Proxy Active", "Disconnect", true,
             "Click to disconnect");
@@ -142,6 +161,7 @@ private Q_SLOTS:
                             s.torPath = QStringLiteral("/usr/bin/tor");
                             s.phase = phase;
                             s.activeMode = mode;
+                            s.killSwitch = KillSwitch{KillSwitch::State::standing, 0, {}};
                             s.leak = {leak, QStringLiteral("198.51.100.23")};
                             s.lookups.kind = lookups;
                             s.torVerified = verified;
@@ -168,6 +188,46 @@ private Q_SLOTS:
                         }
         QCOMPARE(combinations, 5 * 3 * 5 * 5 * 3);
         QVERIFY(green > 0);
+    }
+
+    // A second attempt begins with a patience of its own.
+    void forgetsAnEarlierAttemptsStandstill()
+    {
+        StandInSession session(profile);
+        PanelModel panel(session);
+        Snapshot s = idle();
+        s.phase = Phase::connecting;
+        s.bootstrapProgress = 0.3;
+        session.show(s);
+        QCOMPARE(panel.waitingFor(), QString());
+        runOut(panel);
+        QVERIFY(panel.waitingFor().contains(QStringLiteral("hasn't reported progress")));
+        s.phase = Phase::stale;
+        session.show(s);
+        QCOMPARE(panel.waitingFor(), QString());
+        s.phase = Phase::connecting; // with nothing else changed
+        session.show(s);
+        QCOMPARE(panel.waitingFor(), QString());
+        runOut(panel);
+        QVERIFY(!panel.waitingFor().isEmpty());
+        s.bootstrapProgress = 0.4;
+        session.show(s);
+        QCOMPARE(panel.waitingFor(), QString());
+    }
+
+    void theTrafficsPlotBelongsToOneSession()
+    {
+        StandInSession session(profile);
+        PanelModel panel(session);
+        Snapshot s = connected(RoutingMode::strict);
+        for (int reading = 0; reading < 3; ++reading) {
+            s.bytesRead += 1'000'000;
+            session.show(s);
+        }
+        QVERIFY(!panel.traffic()->samples().empty());
+        s.phase = Phase::disconnected;
+        session.show(s);
+        QVERIFY(panel.traffic()->samples().empty());
     }
 
     void pressesTheButtonByPhase()

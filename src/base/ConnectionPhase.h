@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QObject>
+
+namespace veldmark {
+Q_NAMESPACE
+
+// Where the session stands. Changes only through TorController's operations.
+enum class ConnectionPhase {
+    disconnected,  // no session; the network is in its normal state
+    connecting,    // helper approval, Tor's start, bootstrap
+    connected,     // Tor has bootstrapped and the network is routed through it
+    disconnecting, // the network is being restored and Tor stopped
+    stale,         // the network is still set up for Tor but no session of this run owns it
+};
+Q_ENUM_NS(ConnectionPhase)
+
+} // namespace veldmark

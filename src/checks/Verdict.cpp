@@ -1,0 +1,102 @@
+#include "checks/Verdict.h"
+
+namespace veldmark {
+
+namespace {
+
+using Level = Verdict::Level;
+using Danger = Verdict::Danger;
+
+Danger worst(const SessionFacts &facts)
+{
+    const bool isConnected = facts.phase == ConnectionPhase::connected;
+    const bool isStrict = isConnected && facts.mode == RoutingMode::strict;
+    const bool hasRules = facts.phase != ConnectionPhase::disconnected && facts.phase != ConnectionPhase::disconnecting;
+    if (hasRules && facts.killSwitch == KillSwitch::State::open)
+        return Danger::killSwitchOpen;
+    if (isConnected && facts.isDNSLeaking)
+        return Danger::dnsLeak;
+    if (isStrict && facts.isExposed)
+        return Danger::exposed;
+    if (facts.phase == ConnectionPhase::stale)
+        return Danger::leftOver;
+    if (isStrict && facts.killSwitch.value_or(KillSwitch::State::unknown) == KillSwitch::State::unknown)
+        return Danger::killSwitchUnknown;
+    if (isConnected && facts.torVerified == false)
+        return Danger::exitNotConfirmed;
+    return Danger::none;
+}
+
+Verdict inDanger(Danger danger, const SessionFacts &facts)
+{
+    const QString symbol = QStringLiteral("exclamationmark.shield");
+    const QString attention = QStringLiteral("Needs Attention");
+    const bool isStrict = facts.mode == RoutingMode::strict;
+    switch (danger) {
+    case Danger::killSwitchOpen:
+        return {Level::danger, danger, QStringLiteral("Kill Switch Open"), symbol,
+                QStringLiteral("Traffic may leave this computer directly")};
+    case Danger::dnsLeak:
+        return {Level::danger, danger, QStringLiteral("DNS Leak"), symbol,
+                isStrict && facts.isExposed ? QStringLiteral("Lookups can go around Tor, and your real address can be seen")
+                                            : QStringLiteral("Lookups can go around Tor")};
+    case Danger::exposed:
+        return {Level::danger, danger, attention, symbol,
+                QStringLiteral("Your real address can be seen. Disconnect, or run the leak test again.")};
+    case Danger::killSwitchUnknown:
+        return {Level::warning, danger, attention, symbol,
+                QStringLiteral("It can't be told whether the kill switch stands. Disconnect and connect again.")};
+    case Danger::exitNotConfirmed:
+        return {Level::warning, danger, attention, symbol,
+                isStrict ? QStringLiteral("All traffic is locked to Tor, but the exit could not be confirmed")
+                         : QStringLiteral("Apps that use system proxy settings go through Tor, but the exit could not be confirmed")};
+    case Danger::leftOver:
+    case Danger::none:
+        break;
+    }
+    return {Level::warning, danger, attention, symbol, facts.detail};
+}
+
+} // namespace
+
+Verdict Verdict::of(const SessionFacts &facts)
+{
+    if (const Danger found = worst(facts); found != Danger::none)
+        return inDanger(found, facts);
+    switch (facts.phase) {
+    case ConnectionPhase::connecting:
+        return {Level::working, Danger::none, QStringLiteral("Connecting…"), QStringLiteral("shield.lefthalf.filled"), facts.detail};
+    case ConnectionPhase::disconnecting:
+        return {Level::working, Danger::none, QStringLiteral("Disconnecting…"), QStringLiteral("shield.lefthalf.filled"), facts.detail};
+    case ConnectionPhase::connected:
+        if (facts.mode != RoutingMode::strict)
+            return {Level::info, Danger::none, QStringLiteral("Proxy Active"), QStringLiteral("lock.shield.fill"), facts.detail};
+        return {facts.torVerified == true ? Level::good : Level::working, Danger::none, QStringLiteral("Protected"),
+                QStringLiteral("lock.shield.fill"), facts.detail};
+    case ConnectionPhase::disconnected:
+    case ConnectionPhase::stale:
+        break;
+    }
+    return {Level::neutral, Danger::none, QStringLiteral("Not Protected"), QStringLiteral("shield.slash"), facts.detail};
+}
+
+QString Verdict::levelName() const
+{
+    switch (level) {
+    case Level::neutral:
+        return QStringLiteral("neutral");
+    case Level::working:
+        return QStringLiteral("working");
+    case Level::good:
+        return QStringLiteral("good");
+    case Level::info:
+        return QStringLiteral("info");
+    case Level::warning:
+        return QStringLiteral("warning");
+    case Level::danger:
+        break;
+    }
+    return QStringLiteral("danger");
+}
+
+} // namespace veldmark

@@ -1,0 +1,153 @@
+#include "controller/TorController.h"
+
+#include "platform/PlatformProfile.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QPointer>
+
+using namespace std::chrono_literals;
+
+namespace veldmark {
+
+namespace {
+
+using State = KillSwitch::State;
+
+constexpr auto lookInterval = 2s;
+constexpr qint64 noteLimitBytes = 64;
+// The watcher looks at least every three seconds. The note's time is the system's clock, which may be set, and
+// stands still for nobody while the computer sleeps; so what was seen holds a little longer by our own clock.
+constexpr qint64 freshSeconds = 15;
+constexpr auto graceTime = 8s;
+
+std::optional<KillSwitch> freshNote(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    const qint64 age = file.fileTime(QFileDevice::FileModificationTime).secsTo(QDateTime::currentDateTimeUtc());
+    if (age < -freshSeconds || age > freshSeconds)
+        return std::nullopt;
+    return KillSwitch::parse(file.read(noteLimitBytes));
+}
+
+bool isOneOf(const std::optional<KillSwitch> &rules, State state)
+{
+    return rules && rules->state == state;
+}
+
+} // namespace
+
+std::optional<KillSwitch> TorController::judgedKillSwitch()
+{
+    const auto &before = killSwitch();
+    const auto since = [&before](State state) {
+        return isOneOf(before, state) ? *before : KillSwitch{state, before ? before->missed : 0, QDateTime::currentDateTimeUtc()};
+    };
+    if (markedMode() != RoutingMode::strict) {
+        // Somebody has opened the network under a session that was strict.
+        const bool wasStrict = phase() == ConnectionPhase::connected && activeMode() == RoutingMode::strict;
+        return wasStrict ? std::optional(since(State::open)) : std::nullopt;
+    }
+    if (const auto note = freshNote(m_services.profile.killSwitchNote)) {
+        m_killSwitchSeen = m_services.clock.now();
+        return note;
+    }
+    // What was open stays open until somebody has seen it closed.
+    const bool isRecent = before && m_services.clock.now() - m_killSwitchSeen < graceTime;
+    return isRecent || isOneOf(before, State::open) ? before : std::optional(since(State::unknown));
+}
+
+void TorController::lookAtKillSwitch()
+{
+    if (phase() == ConnectionPhase::disconnected || phase() == ConnectionPhase::disconnecting)
+        return;
+    killSwitch = judgedKillSwitch();
+    // "Blocked" was the rules' doing.
+    if (killSwitch() && !killSwitch()->blocks() && leakStatus() == LeakStatus::blocked())
+        leakStatus = LeakStatus::notTested();
+    if (killSwitch() == std::exchange(m_knownKillSwitch, killSwitch()))
+        return;
+    const auto told = std::exchange(m_killSwitchMessage, killSwitchMessage());
+    if (m_killSwitchMessage)
+        errorMessage = m_killSwitchMessage;
+    else if (errorMessage() == told)
+        errorMessage = std::nullopt;
+}
+
+std::optional<QString> TorController::killSwitchMessage() const
+{
+    if (m_torStopped)
+        return deathMessage();
+    if (!isSessionMarkerPresent()) // somebody has restored the network on purpose; Tor's end will say so
+        return std::nullopt;
+    switch (killSwitch() ? killSwitch()->state : State::standing) {
+    case State::putBack:
+        return QStringLiteral("Another program removed Veldmark's firewall rules; they are back in place.");
+    case State::open:
+        return QStringLiteral("Another program removed Veldmark's firewall rules and they could not be put back. Traffic "
+                              "may leave this computer directly. Disconnect and connect again.");
+    case State::unknown:
+        return QStringLiteral("The watcher over Veldmark's firewall rules has stopped telling, so it isn't known whether "
+                              "the kill switch stands. Disconnect and connect again.");
+    case State::standing:
+        break;
+    }
+    return std::nullopt;
+}
+
+QString TorController::deathMessage() const
+{
+    if (activeMode() != RoutingMode::strict)
+        return QStringLiteral("Tor stopped running. Apps using the proxy can't connect until you reconnect "
+                              "or Restore Network.");
+    switch (killSwitch() ? killSwitch()->state : State::unknown) {
+    case State::standing:
+        return QStringLiteral("Tor stopped running. The kill switch is still blocking traffic, so nothing "
+                              "leaked. Reconnect, or Restore Network to go back online.");
+    case State::putBack:
+        return QStringLiteral("Tor stopped running. The kill switch is blocking traffic again, but another program had "
+                              "removed its rules for a while. Reconnect, or Restore Network to go back online.");
+    case State::open:
+        return QStringLiteral("Tor stopped running, and the kill switch is open: another program removed its rules. Traffic "
+                              "may leave this computer directly. Reconnect, or Restore Network.");
+    case State::unknown:
+        break;
+    }
+    return QStringLiteral("Tor stopped running, and it isn't known whether the kill switch is still blocking traffic. "
+                          "Reconnect, or Restore Network to go back online.");
+}
+
+void TorController::startKillSwitchWatch()
+{
+    lookAtKillSwitch();
+    watchKillSwitch(++m_killSwitchWatch);
+}
+
+void TorController::forgetKillSwitch()
+{
+    stopKillSwitchWatch();
+    killSwitch = std::nullopt;
+    m_knownKillSwitch = std::nullopt;
+    m_killSwitchMessage = std::nullopt;
+    m_torStopped = false;
+}
+
+QCoro::Task<void> TorController::watchKillSwitch(quint64 run)
+{
+    const QPointer<TorController> self(this);
+    for (;;) {
+        co_await m_services.clock.sleep(lookInterval);
+        if (!self || run != m_killSwitchWatch)
+            co_return;
+        if (phase() == ConnectionPhase::stale && !isSessionMarkerPresent()) { // somebody has restored the network
+            errorMessage = std::nullopt;
+            endSession();
+            co_return;
+        }
+        lookAtKillSwitch();
+    }
+}
+
+} // namespace veldmark

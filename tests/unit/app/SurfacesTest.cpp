@@ -1,0 +1,233 @@
+#include "StandInSession.h"
+#include "app/Alerts.h"
+#include "app/ControllerSession.h"
+#include "app/Tray.h"
+#include "cli/Report.h"
+#include "controller/PublishedState.h"
+#include "support/TestProgram.h"
+#include "support/Workbench.h"
+#include "ui/PanelModel.h"
+
+#include <QJsonArray>
+#include <QMetaEnum>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace veldmark;
+using State = KillSwitch::State;
+
+namespace {
+
+// What a real session can be made to be.
+struct Case {
+    bool strict = true;
+    QByteArray note; // empty: the watcher tells nothing
+    bool exposed = false;
+    bool leaking = false;
+    std::optional<bool> verified; // absent: the check service does not answer
+    bool torDies = false;
+
+    bool rulesStand() const { return note == "standing" || note == "restored"; }
+    QString name() const
+    {
+        return u"%1, note %2%3%4, exit %5%6"_s.arg(strict ? u"strict"_s : u"proxy"_s, QString::fromLatin1(note))
+            .arg(exposed ? u", exposed"_s : QString(), leaking ? u", look-ups leak"_s : QString(),
+                 verified ? (*verified ? u"confirmed"_s : u"other"_s) : u"silent"_s)
+            .arg(torDies ? u", tor dies"_s : QString());
+    }
+};
+
+std::vector<Case> cases()
+{
+    std::vector<Case> all;
+    for (const bool strict : {true, false})
+        for (const char *note : {"standing", "restored", "open", ""})
+            for (const bool exposed : {false, true})
+                for (const bool leaking : {false, true})
+                    for (const std::optional<bool> verified : {std::optional<bool>(), std::optional(false), std::optional(true)})
+                        for (const bool torDies : {false, true})
+                            all.push_back({strict, note, exposed, leaking, verified, torDies});
+    return all;
+}
+
+// Brings a session of the real controller into the state.
+bool make(Workbench &bench, const Case &wanted)
+{
+    TorController &c = bench.controller();
+    c.strictMode.set(wanted.strict);
+    if (wanted.exposed)
+        bench.probe.directAnswer = IPCheck{false, u"198.51.100.7"_s};
+    if (wanted.verified)
+        bench.probe.torAnswer = IPCheck{*wanted.verified, u"203.0.113.10"_s};
+    else
+        bench.probe.torAnswer = ScriptedProbe::nothing();
+    if (wanted.leaking) {
+        DNSResolver leaking;
+        leaking.nameservers = {u"192.168.1.1"_s};
+        bench.resolvers.answer = {leaking};
+    }
+    if (!bench.connect())
+        return false;
+    if (wanted.note.isEmpty())
+        bench.killWatcher();
+    else
+        bench.noteRules(wanted.note, 1);
+    for (int tick = 0; tick < 5; ++tick)
+        if (!bench.tick())
+            return false;
+    if (wanted.torDies) {
+        bench.tor.stopListening();
+        for (int tick = 0; tick < 3; ++tick)
+            bench.tick();
+    }
+    settle();
+    return c.phase() == (wanted.torDies ? ConnectionPhase::stale : ConnectionPhase::connected);
+}
+
+QString toneOf(const PanelModel &panel)
+{
+    switch (panel.tone()) {
+    case PanelModel::Tone::Neutral:
+        return u"neutral"_s;
+    case PanelModel::Tone::Accent:
+        return u"working"_s;
+    case PanelModel::Tone::Good:
+        return u"good"_s;
+    case PanelModel::Tone::Info:
+        return u"info"_s;
+    case PanelModel::Tone::Warning:
+        return u"warning"_s;
+    case PanelModel::Tone::Danger:
+        break;
+    }
+    return u"danger"_s;
+}
+
+} // namespace
+
+// One session, seen from everywhere: the published state, the command line's report, the panel, the tray
+// and the notifications say the same, and none of them more than was verified.
+class SurfacesTest : public QObject {
+    Q_OBJECT
+
+    PlatformProfile profile = PlatformProfile::linux(Places::below(QStringLiteral("/nowhere")));
+
+private Q_SLOTS:
+    void sayTheSameOfEverySession()
+    {
+        int isProtected = 0;
+        for (const Case &one : cases()) {
+            Workbench bench;
+            ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+            PanelModel panel(session);
+            Tray tray(session);
+            Alerts alerts(session);
+            QSignalSpy told(&alerts, &Alerts::told);
+            QVERIFY2(make(bench, one), qPrintable(one.name()));
+            QVERIFY(until([&] { return session.now().phase == bench.controller().phase(); }));
+            const QByteArray name = one.name().toUtf8();
+
+            const QJsonObject state = publishedState(bench.controller());
+            const QString title = state.value(u"title"_s).toString();
+            const QStringList report = Report::status(state).split(u'\n');
+            QVERIFY2(panel.title() == title, name);
+            QVERIFY2(bench.controller().title() == title, name);
+            QVERIFY2(report.at(0) == title, name);
+            QVERIFY2(tray.findChild<QSystemTrayIcon *>()->toolTip() == u"Veldmark: "_s + title, name);
+            QVERIFY2(panel.symbol() == state.value(u"menuBarSymbol"_s).toString(), name);
+            QVERIFY2(toneOf(panel) == state.value(u"level"_s).toString(), name);
+            QVERIFY2(panel.detail() == state.value(u"statusDetail"_s).toString(), name);
+            QVERIFY2(report.at(1).trimmed() == panel.detail(), name);
+
+            // Every word that is shown, and what has to be known for it.
+            QString words = report.join(u'\n') + panel.title() + panel.detail() + panel.leakText() + panel.leakHelp()
+                + panel.error();
+            const bool isConnected = !one.torDies;
+            const bool isLocked = one.strict && one.rulesStand();
+            const bool isSafe = isConnected && isLocked && !one.leaking && one.verified == true
+                && bench.controller().leakStatus().kind() != LeakStatus::Kind::exposed;
+            if (title == u"Protected"_s) {
+                ++isProtected;
+                QVERIFY2(isSafe, name);
+            }
+            for (const QString &claim : {u"locked to Tor"_s, u"only Tor's traffic leaves"_s, u"blocking traffic, so nothing leaked"_s,
+                                         u"Direct path   blocked"_s, u"Direct path blocked"_s})
+                QVERIFY2(!words.contains(claim) || isLocked, name + ": " + claim.toUtf8());
+            if (one.strict)
+                QVERIFY2(!words.contains(u"No leaks"_s) || isLocked, name);
+            if (words.contains(u"so nothing leaked"_s))
+                QVERIFY2(one.note == "standing", name);
+            if (one.strict && one.note == "open") {
+                QVERIFY2(title == u"Kill Switch Open"_s, name);
+                int danger = 0;
+                for (const auto &notification : told)
+                    danger += notification.at(0).toString() == u"Traffic can leave around Tor"_s
+                        && notification.at(1).toString().startsWith(u"The kill switch is open."_s);
+                QVERIFY2(danger == 1, name);
+            }
+        }
+        QVERIFY(isProtected > 0);
+    }
+
+    // What no session of the stand-in can be brought into: every combination of what the panel and the tray are given.
+    void promiseNoMoreThanTheVerdict()
+    {
+        StandInSession session(profile);
+        PanelModel panel(session);
+        Tray tray(session);
+        auto *icon = tray.findChild<QSystemTrayIcon *>();
+        int combinations = 0;
+        for (const Phase phase : {Phase::disconnected, Phase::connecting, Phase::connected, Phase::disconnecting, Phase::stale})
+            for (const std::optional<RoutingMode> mode : {std::optional<RoutingMode>(), std::optional(RoutingMode::strict), std::optional(RoutingMode::proxy)})
+                for (const std::optional<State> rules : {std::optional<State>(), std::optional(State::standing), std::optional(State::putBack), std::optional(State::open), std::optional(State::unknown)})
+                    for (const Leak::Kind leak : {Leak::Kind::exposed, Leak::Kind::notTested, Leak::Kind::checking, Leak::Kind::blocked, Leak::Kind::inconclusive})
+                        for (const Lookups::Kind lookups : {Lookups::Kind::leak, Lookups::Kind::unknown, Lookups::Kind::throughTor})
+                            for (const std::optional<bool> verified : {std::optional<bool>(), std::optional(false), std::optional(true)}) {
+                                Snapshot s;
+                                s.phase = phase;
+                                s.activeMode = mode;
+                                if (rules)
+                                    s.killSwitch = KillSwitch{*rules, 0, {}};
+                                s.leak = {leak, leak == Leak::Kind::exposed ? u"198.51.100.23"_s : QString()};
+                                s.lookups.kind = lookups;
+                                s.torVerified = verified;
+                                s.statusDetail = u"All traffic is locked to Tor"_s;
+                                session.show(s);
+                                ++combinations;
+                                const Verdict verdict = s.verdict();
+                                QCOMPARE(panel.title(), verdict.title);
+                                QCOMPARE(panel.symbol(), verdict.symbol);
+                                QCOMPARE(panel.detail(), verdict.detail);
+                                QCOMPARE(toneOf(panel), verdict.levelName());
+                                QCOMPARE(icon->toolTip(), u"Veldmark: "_s + verdict.title);
+                            }
+        QCOMPARE(combinations, 5 * 3 * 5 * 5 * 3 * 3);
+    }
+
+    // The report from any published state, also one that no session can be in.
+    void theReportClaimsOnlyWhatThePublishedStateHolds()
+    {
+        for (const char *phase : {"disconnected", "connecting", "connected", "disconnecting", "stale"})
+            for (const char *mode : {"", "strict", "proxy"})
+                for (const char *rules : {"", "standing", "putBack", "open", "unknown"}) {
+                    QJsonObject state{{u"title"_s, u"T"_s}, {u"phase"_s, QLatin1String(phase)}};
+                    if (*mode)
+                        state.insert(u"activeMode"_s, QLatin1String(mode));
+                    if (*rules) {
+                        state.insert(u"killSwitch"_s, QLatin1String(rules));
+                        state.insert(u"killSwitchSince"_s, u"2027-01-15T08:00:00Z"_s);
+                    }
+                    const QString report = Report::status(state);
+                    const bool stands = QLatin1String(rules) == "standing"_L1 || QLatin1String(rules) == "putBack"_L1;
+                    if (report.contains(u"only Tor's traffic leaves"_s))
+                        QVERIFY(QLatin1String(mode) == "strict"_L1 && stands);
+                    QCOMPARE(report.contains(u"Kill switch  stands"_s), stands);
+                    QCOMPARE(report.contains(u"OPEN since"_s), QLatin1String(rules) == "open"_L1);
+                    QCOMPARE(report.contains(u"isn't known to stand"_s), QLatin1String(rules) == "unknown"_L1);
+                }
+    }
+};
+
+VELDMARK_WINDOWED_TEST(SurfacesTest)
+#include "SurfacesTest.moc"

@@ -1,0 +1,377 @@
+#include "support/TestProgram.h"
+#include "support/Workbench.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace veldmark;
+using Phase = ConnectionPhase;
+using State = KillSwitch::State;
+
+namespace {
+
+const QString openText = u"Another program removed Veldmark's firewall rules and they could not be put back. Traffic "
+                         "may leave this computer directly. Disconnect and connect again."_s;
+const QString backText = u"Another program removed Veldmark's firewall rules; they are back in place."_s;
+const QString blockedDeath = u"Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. Reconnect, "
+                             "or Restore Network to go back online."_s;
+const QString openDeath = u"Tor stopped running, and the kill switch is open: another program removed its rules. Traffic "
+                          "may leave this computer directly. Reconnect, or Restore Network."_s;
+
+void killTor(Workbench &bench)
+{
+    bench.tor.stopListening();
+    for (int tick = 0; tick < 3; ++tick)
+        QVERIFY(bench.tick());
+    QVERIFY(bench.controller().phase() == Phase::stale);
+}
+
+State stateOf(const TorController &c)
+{
+    return c.killSwitch() ? c.killSwitch()->state : State::unknown;
+}
+
+} // namespace
+
+// What the watcher over the rules has seen, and what is said of it while a session is up and when it is not.
+class KillSwitchWatchTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void standsOnceConnected_data() { Workbench::bothSystems(); }
+    void standsOnceConnected()
+    {
+        QFETCH(Workbench::System, system);
+        Workbench bench(system);
+        TorController &c = bench.controller();
+        QVERIFY(!c.killSwitch());
+        QVERIFY(bench.connect());
+        QVERIFY(c.killSwitch() && c.killSwitch()->state == State::standing);
+        QCOMPARE(c.title(), u"Protected"_s);
+        bench.disconnect();
+        QVERIFY(!c.killSwitch());
+    }
+
+    void proxyModeHasNoneAndShowsNoLeftoverNote()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        c.strictMode.set(false);
+        QVERIFY(bench.connect());
+        bench.noteRules("open", 7); // left by a strict session
+        for (int tick = 0; tick < 3; ++tick)
+            QVERIFY(bench.tick());
+        QVERIFY(!c.killSwitch() && !c.errorMessage());
+        QCOMPARE(c.title(), u"Proxy Active"_s);
+    }
+
+    void aNoteOfAnEarlierSessionIsNotTold_data()
+    {
+        QTest::addColumn<QByteArray>("word");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("restored") << QByteArray("restored") << u"Needs Attention"_s;
+        QTest::newRow("open, which is so now") << QByteArray("open") << u"Kill Switch Open"_s;
+    }
+
+    void aNoteOfAnEarlierSessionIsNotTold()
+    {
+        QFETCH(QByteArray, word);
+        Workbench bench;
+        TorController &c = bench.controller();
+        bench.writeMarker("strict\n");
+        bench.noteRules(word, 2);
+        c.detectStaleState();
+        QTEST(c.title(), "title");
+        QVERIFY(!c.errorMessage());
+        QVERIFY(bench.tick());
+        QVERIFY(!c.errorMessage());
+        QVERIFY(bench.connect()); // with a watcher that begins anew
+        QVERIFY(!c.errorMessage());
+        QCOMPARE(c.title(), u"Protected"_s);
+    }
+
+    void aNoteFromBeforeARestartTellsNothing()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        bench.writeMarker("strict\n");
+        bench.noteRules("standing");
+        bench.killWatcher();
+        c.detectStaleState();
+        QVERIFY(c.killSwitch() && c.killSwitch()->state == State::unknown);
+        QCOMPARE(c.title(), u"Needs Attention"_s);
+    }
+
+    void whatBecomesOfTheRulesIsToldOnce()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        QVERIFY(bench.tick());
+        QVERIFY(!c.errorMessage());
+        bench.noteRules("restored", 1);
+        QVERIFY(bench.tick());
+        QCOMPARE(c.errorMessage().value(), backText);
+        QCOMPARE(c.title(), u"Protected"_s);
+        c.dismissError();
+        QVERIFY(bench.tick());
+        QVERIFY(!c.errorMessage());
+        QSignalSpy changes(&c, &TorController::killSwitchChanged);
+        bench.noteRules("open", 2);
+        QVERIFY(bench.tick());
+        QCOMPARE(c.errorMessage().value(), openText);
+        QCOMPARE(c.title(), u"Kill Switch Open"_s);
+        QCOMPARE(c.verdict().detail, u"Traffic may leave this computer directly"_s);
+        QVERIFY(c.leakStatus() == LeakStatus::notTested()); // "blocked" is over
+        c.dismissError();
+        for (int tick = 0; tick < 5; ++tick) // the watcher tries again and again
+            QVERIFY(bench.tick());
+        QCOMPARE(changes.count(), 1);
+        QVERIFY(!c.errorMessage());
+        QCOMPARE(c.title(), u"Kill Switch Open"_s); // which nobody can dismiss
+        bench.noteRules("restored", 2);
+        QVERIFY(bench.tick());
+        QCOMPARE(c.errorMessage().value(), backText);
+        QCOMPARE(c.title(), u"Protected"_s);
+    }
+
+    void aSecondRemovalIsToldAsWell()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        bench.noteRules("restored", 1, 1'800'000'000);
+        QVERIFY(bench.tick());
+        c.dismissError();
+        bench.noteRules("restored", 2, 1'800'000'100);
+        QVERIFY(bench.tick());
+        QCOMPARE(c.errorMessage().value(), backText);
+    }
+
+    void aSecondSessionTellsTheSameAgain()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        for (int session = 0; session < 2; ++session) {
+            QVERIFY(bench.connect());
+            QVERIFY(!c.errorMessage());
+            bench.noteRules("restored", 1); // the very same note
+            QVERIFY(bench.tick());
+            QCOMPARE(c.errorMessage().value(), backText);
+            bench.disconnect();
+            QVERIFY(!c.errorMessage());
+        }
+    }
+
+    void whatHappensWhileTorStartsIsToldToo()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        bench.setBootstrap("PROGRESS=5 SUMMARY=\"Connecting\"");
+        const auto connecting = c.connect();
+        QVERIFY(bench.hears(Workbench::bootstrapCommand));
+        QVERIFY(until([&] { return bench.clock.sleepers() == 2; }));
+        QCOMPARE(c.title(), u"Connecting…"_s);
+        bench.noteRules("open", 1);
+        bench.clock.advance(2s);
+        QVERIFY(c.phase() == Phase::connecting);
+        QCOMPARE(c.title(), u"Kill Switch Open"_s);
+        QCOMPARE(c.errorMessage().value(), openText);
+        bench.disconnect();
+    }
+
+    void asksAgainAtACheck()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        bench.noteRules("open", 1);
+        const auto checking = c.runChecks();
+        QVERIFY(Workbench::finished(checking));
+        QCOMPARE(c.title(), u"Kill Switch Open"_s);
+        QVERIFY(c.leakStatus() != LeakStatus::blocked()); // nobody answered, but no rule was the reason
+    }
+
+    void aWatcherThatTellsNoMoreIsNotBelievedForLong()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        bench.killWatcher();
+        QVERIFY(bench.tick());
+        QVERIFY(c.killSwitch()->state == State::standing); // it was seen a moment ago: a computer that slept wakes up like this
+        for (int tick = 0; tick < 4; ++tick)
+            QVERIFY(bench.tick());
+        QVERIFY(c.killSwitch()->state == State::unknown);
+        QCOMPARE(c.title(), u"Needs Attention"_s);
+        QVERIFY(c.errorMessage().value().contains(u"has stopped telling"_s));
+        QVERIFY(c.leakStatus() == LeakStatus::notTested());
+        bench.noteRules("standing", 0, 1'800'000'900); // started again by "Fix DNS"
+        QVERIFY(bench.tick());
+        QCOMPARE(c.title(), u"Protected"_s);
+        QVERIFY(!c.errorMessage());
+    }
+
+    void whatWasOpenStaysSoUntilItIsSeenClosed()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        bench.noteRules("open", 1);
+        QVERIFY(bench.tick());
+        bench.killWatcher();
+        for (int tick = 0; tick < 10; ++tick)
+            QVERIFY(bench.tick());
+        QCOMPARE(c.title(), u"Kill Switch Open"_s);
+    }
+
+    void aNoteOfTheFutureOrOfNonsenseIsNotBelieved()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        bench.writeFile(bench.profile.killSwitchNote, "all is well\n");
+        for (int tick = 0; tick < 5; ++tick)
+            QVERIFY(bench.tick());
+        QVERIFY(c.killSwitch()->state == State::unknown);
+    }
+
+    void torsDeathIsToldWithTheTruth_data()
+    {
+        QTest::addColumn<QByteArray>("word");
+        QTest::addColumn<bool>("claimsBlocking");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("standing") << QByteArray("standing") << true << u"Needs Attention"_s;
+        QTest::newRow("restored") << QByteArray("restored") << false << u"Needs Attention"_s;
+        QTest::newRow("open") << QByteArray("open") << false << u"Kill Switch Open"_s;
+        QTest::newRow("no word") << QByteArray() << false << u"Needs Attention"_s;
+    }
+
+    void torsDeathIsToldWithTheTruth()
+    {
+        QFETCH(QByteArray, word);
+        QFETCH(bool, claimsBlocking);
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        if (word.isEmpty())
+            bench.killWatcher();
+        else
+            bench.noteRules(word, 1);
+        for (int tick = 0; tick < 5; ++tick)
+            QVERIFY(bench.tick());
+        killTor(bench);
+        QTEST(c.title(), "title");
+        QCOMPARE(c.errorMessage().value() == blockedDeath, claimsBlocking);
+        QVERIFY(claimsBlocking || !c.errorMessage().value().contains(u"nothing leaked"_s));
+        QVERIFY(c.errorMessage().value().startsWith(u"Tor stopped running"_s));
+        QCOMPARE(c.statusDetail(), u"Tor stopped running"_s);
+    }
+
+    void whatIsSaidAfterTorsDeathIsCorrected()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        killTor(bench);
+        QCOMPARE(c.errorMessage().value(), blockedDeath);
+        bench.noteRules("open", 1);
+        bench.clock.advance(2s);
+        QCOMPARE(c.errorMessage().value(), openDeath);
+        QCOMPARE(c.title(), u"Kill Switch Open"_s);
+        c.dismissError();
+        bench.clock.advance(2s);
+        QVERIFY(!c.errorMessage());
+        bench.noteRules("restored", 1);
+        bench.clock.advance(2s);
+        QVERIFY(c.errorMessage().value().contains(u"blocking traffic again"_s));
+        QCOMPARE(c.title(), u"Needs Attention"_s);
+        bench.killWatcher();
+        bench.clock.advance(10s);
+        QVERIFY(c.errorMessage().value().contains(u"isn't known"_s));
+        bench.tor.listen();
+        QVERIFY(bench.connect()); // the next session has a word of its own
+        QVERIFY(!c.errorMessage());
+        bench.noteRules("restored", 1);
+        QVERIFY(bench.tick());
+        QCOMPARE(c.errorMessage().value(), backText);
+    }
+
+    void aNetworkThatSomebodyElseRestoresIsNoLongerStale()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        killTor(bench);
+        bench.removeMarker();
+        bench.clock.advance(2s);
+        QVERIFY(c.phase() == Phase::disconnected);
+        QVERIFY(!c.killSwitch() && !c.errorMessage());
+        QCOMPARE(c.title(), u"Not Protected"_s);
+    }
+
+    void aMarkerThatIsGoneIsNoKillSwitch()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        bench.removeMarker();
+        QVERIFY(bench.tick());
+        QVERIFY(stateOf(c) == State::open);
+        QCOMPARE(c.title(), u"Kill Switch Open"_s);
+    }
+
+    void disconnectingIsNoAlarm()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        QStringList titles;
+        QObject::connect(&c, &TorController::killSwitchChanged, [&] { titles << c.title(); });
+        bench.hold(u"disconnect"_s);
+        const auto disconnecting = c.disconnect();
+        bench.noteRules("open", 1);
+        bench.removeMarker();
+        bench.clock.advance(10s);
+        QCOMPARE(c.title(), u"Disconnecting…"_s);
+        bench.processes.hold = nullptr;
+        bench.processes.release();
+        QVERIFY(Workbench::finished(disconnecting));
+        QVERIFY(!titles.contains(u"Kill Switch Open"_s));
+        QVERIFY(!c.errorMessage());
+    }
+
+    void isWatchedAgainAfterARefusedDisconnect()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        bench.cancelPrompt(u"disconnect"_s);
+        bench.disconnect();
+        QVERIFY(c.phase() == Phase::connected);
+        QCOMPARE(c.title(), u"Protected"_s);
+        bench.noteRules("open", 1);
+        QVERIFY(bench.tick());
+        QCOMPARE(c.title(), u"Kill Switch Open"_s);
+    }
+
+    void anExposureIsNotForgottenWhileItIsTestedAgain()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        bench.probe.directAnswer = IPCheck{false, u"198.51.100.7"_s};
+        QVERIFY(bench.connect());
+        QCOMPARE(c.title(), u"Needs Attention"_s);
+        bench.probe.beforeTorAnswer = [&bench] { return bench.clock.sleep(1s); };
+        const auto checking = c.runChecks();
+        QCOMPARE(c.leakStatus().name(), u"checking"_s);
+        QCOMPARE(c.title(), u"Needs Attention"_s);
+        bench.probe.directAnswer = ScriptedProbe::nothing();
+        bench.clock.advance(1s);
+        QVERIFY(Workbench::finished(checking));
+    }
+};
+
+VELDMARK_TEST(KillSwitchWatchTest)
+#include "KillSwitchWatchTest.moc"
