@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QTest>
@@ -414,5 +415,5 @@ private Q_SLOTS:
 
 };
 
-QTEST_GUILESS_MAIN(CircuitsTest)
+VELDMARK_TEST(CircuitsTest)
 #include "CircuitsTest.moc"
