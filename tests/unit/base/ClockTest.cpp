@@ -2,6 +2,7 @@
 
 #include "base/Resumption.h"
 #include "base/ResumeOnce.h"
+#include "support/TestProgram.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -87,5 +88,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ClockTest)
+VELDMARK_TEST(ClockTest)
 #include "ClockTest.moc"

@@ -2,6 +2,7 @@
 
 #include "base/Resumption.h"
 #include "support/Interruption.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QFile>
@@ -136,12 +137,13 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
+static int runRunCommandTest(int argc, char **argv)
 {
     InterruptibleApplication app(argc, argv);
     application = &app;
     RunCommandTest test;
     return QTest::qExec(&test, argc, argv);
 }
+static const veldmark::test::Registration registeredRunCommandTest("RunCommandTest", runRunCommandTest);
 
 #include "RunCommandTest.moc"
