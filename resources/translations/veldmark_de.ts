@@ -648,6 +648,26 @@
 <context>
     <name>Session</name>
     <message>
+        <source>Version %1 is offered, which is older than the installed %2. Nothing was changed.</source>
+        <translation>Angeboten wird Version %1, die älter ist als die installierte %2. Nichts wurde geändert.</translation>
+    </message>
+    <message>
+        <source>What came as version %1 is another one, so it was discarded.</source>
+        <translation>Was als Version %1 kam, ist eine andere und wurde verworfen.</translation>
+    </message>
+    <message>
+        <source>The download begins again when Tor is connected…</source>
+        <translation>Der Download beginnt von vorn, wenn Tor verbunden ist …</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no place for Tor: give the whole path, such as /usr/bin/tor.</source>
+        <translation>„%1“ ist kein Ort für Tor: Geben Sie den ganzen Pfad an, etwa /usr/bin/tor.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds for the whole connection. Disconnect to change it.</source>
+        <translation>„%1“ gilt für die ganze Verbindung. Zum Ändern trennen.</translation>
+    </message>
+    <message>
         <source>Your traffic is not going through Tor</source>
         <translation>Ihr Verkehr geht nicht durch Tor</translation>
     </message>
@@ -1043,6 +1063,10 @@
     <message>
         <source>Program</source>
         <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Location: disconnect to change</source>
+        <translation>Ort: zum Ändern trennen</translation>
     </message>
     <message>
         <source>Location</source>

@@ -108,7 +108,7 @@ Result<void, QString> Application::start(bool hidden, bool connectNow)
 
 QCoro::Task<void> Application::begin(bool connectNow)
 {
-    const QPointer<Application> self(this);
+    const QPointer<QObject> self(&m_lifetime);
     co_await m_production.controller().updatePrivilegedHelper();
     if (!self)
         co_return;

@@ -47,6 +47,7 @@ private:
     ShutdownNotice m_shutdown;
     std::unique_ptr<Tray> m_tray; // where there is a tray
     std::unique_ptr<InstanceServer> m_server;
+    QObject m_lifetime; // goes first, so that what the others' ends resume finds it gone
 };
 
 } // namespace veldmark

@@ -1,6 +1,7 @@
 #include "app/ControllerSession.h"
 
 #include "app/LoginItem.h"
+#include "controller/SettingRules.h"
 #include "controller/TorController.h"
 
 #include <QFile>
@@ -89,9 +90,11 @@ void ControllerSession::read()
     next.statusDetail = c.statusDetail();
     next.bootstrapProblem = c.bootstrapProblem();
     next.canCancel = c.canCancel();
-    if (const auto problem = m_settings.problem())
-        m_notice = problem;
-    next.errorMessage = c.errorMessage() ? c.errorMessage() : m_notice;
+    while (const auto problem = m_settings.problem())
+        m_notices << *problem;
+    next.errorMessage = c.errorMessage();
+    if (!next.errorMessage && !m_notices.isEmpty())
+        next.errorMessage = m_notices.constFirst();
     next.killSwitch = c.killSwitch();
     // What was found out about a session is not true of what is left of it.
     if (next.phase == Phase::connected) {
@@ -137,9 +140,12 @@ std::vector<ExitChoice> ControllerSession::exitChoices() const
 void ControllerSession::store(const Choices &choices)
 {
     TorController &c = m_controller;
-    const auto keep = [](auto &setting, const auto &value) {
-        if (setting() != value)
-            setting.set(value);
+    const auto keep = [&c](auto &setting, const auto &value) {
+        if (setting() == value)
+            return;
+        const auto kept = SettingRules::change(c, setting, value);
+        if (!kept && kept.error().kind() == SettingError::Kind::Refused)
+            c.showProblem(kept.error().description());
     };
     keep(c.strictMode, choices.strictMode);
     keep(c.allowLocalNetwork, choices.allowLocalNetwork);
@@ -203,8 +209,11 @@ void ControllerSession::refreshCircuits()
 
 void ControllerSession::dismissError()
 {
-    m_notice.reset();
-    m_controller.dismissError();
+    // Only what the user has seen; what stands behind it, or has come meanwhile, is shown next.
+    if (m_controller.errorMessage() && m_controller.errorMessage() == m_now.errorMessage)
+        m_controller.dismissError();
+    else if (!m_notices.isEmpty() && m_notices.constFirst() == m_now.errorMessage)
+        m_notices.removeFirst();
     schedule();
 }
 
@@ -237,7 +246,7 @@ void ControllerSession::removeTerminalIntegration()
 void ControllerSession::setOpenAtLogin(bool on)
 {
     if (const auto done = LoginItem(profile()).set(on); !done)
-        m_notice = QStringLiteral("Couldn't change the login-item setting: ") + done.error();
+        m_controller.showProblem(QStringLiteral("Couldn't change the login-item setting: ") + done.error());
     schedule();
 }
 

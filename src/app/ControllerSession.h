@@ -51,7 +51,7 @@ private:
     bool m_scheduled = false;
     QString m_terminalHint;          // asked when terminal mode is switched on
     bool m_terminalModeWasOn = false;
-    std::optional<QString> m_notice; // of this program's own, shown until it is dismissed
+    QStringList m_notices; // of the settings' file, each shown until it is dismissed
 };
 
 } // namespace veldmark

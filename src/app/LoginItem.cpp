@@ -7,9 +7,35 @@
 
 namespace veldmark {
 
+namespace {
+
+constexpr qint64 entryLimitBytes = 64 * 1024;
+
+// The value of a key in the entry's own group; empty when there is none.
+QByteArray valueOf(const QByteArray &entry, const QByteArray &key)
+{
+    bool isOwnGroup = false;
+    for (const QByteArray &part : entry.split('\n')) {
+        const QByteArray line = part.trimmed();
+        if (line.startsWith('['))
+            isOwnGroup = line == "[Desktop Entry]";
+        const qsizetype equals = line.indexOf('=');
+        if (isOwnGroup && equals > 0 && line.first(equals).trimmed() == key)
+            return line.sliced(equals + 1).trimmed();
+    }
+    return {};
+}
+
+} // namespace
+
 bool LoginItem::isSet() const
 {
-    return !m_path.isEmpty() && QFile::exists(m_path);
+    QFile file(m_path);
+    if (m_path.isEmpty() || !file.open(QIODevice::ReadOnly))
+        return false;
+    // Both are ways in which desktops switch an entry off without removing it.
+    const QByteArray text = file.read(entryLimitBytes);
+    return valueOf(text, "Hidden") != "true" && valueOf(text, "X-GNOME-Autostart-enabled") != "false";
 }
 
 QString LoginItem::entry(const QString &executable)
@@ -28,8 +54,10 @@ Result<void, QString> LoginItem::set(bool on) const
 {
     if (m_path.isEmpty())
         return Failure(QCoreApplication::translate("LoginItem", "Login items can't be changed here."));
+    if (on == isSet())
+        return {}; // also an entry that somebody has changed to their liking
     if (!on) {
-        if (QFile::exists(m_path) && !QFile::remove(m_path))
+        if (!QFile::remove(m_path))
             return Failure(QCoreApplication::translate("LoginItem", "Couldn't remove %1.").arg(m_path));
         return {};
     }

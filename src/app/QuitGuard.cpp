@@ -6,6 +6,12 @@
 
 namespace veldmark {
 
+QuitGuard::~QuitGuard()
+{
+    if (m_disconnectEnded)
+        m_disconnectEnded->complete(false);
+}
+
 void QuitGuard::quit()
 {
     if (!m_controller.isSessionMarkerPresent()) {
@@ -58,10 +64,26 @@ QCoro::Task<void> QuitGuard::disconnectAndQuit()
     if (m_dialog)
         m_dialog->setProperty("busy", true);
     const QPointer<QuitGuard> self(this);
+    if (m_controller.phase() == ConnectionPhase::disconnecting) { // somebody has begun it already
+        const ResumeOnce<bool> ended;
+        m_disconnectEnded = ended;
+        const auto heard = QObject::connect(&m_controller, &TorController::phaseChanged, this,
+                                            [ended] { ended.complete(true); });
+        co_await ended;
+        if (!self)
+            co_return;
+        QObject::disconnect(heard);
+        finish();
+        co_return;
+    }
     m_controller.detectStaleState();
     co_await m_controller.disconnect();
-    if (!self)
-        co_return;
+    if (self)
+        finish();
+}
+
+void QuitGuard::finish()
+{
     const bool wanted = std::exchange(m_quitAfterwards, false);
     closeDialog();
     if (wanted && !m_controller.isSessionMarkerPresent())

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "app/Windows.h"
+#include "base/ResumeOnce.h"
 
 #include <qcorotask.h>
+
+#include <optional>
 
 namespace veldmark {
 
@@ -16,6 +19,7 @@ class QuitGuard : public QObject {
 public:
     // Both must outlive the guard.
     QuitGuard(TorController &controller, Windows &windows) : m_controller(controller), m_windows(windows) {}
+    ~QuitGuard() override;
 
 public Q_SLOTS:
     void quit();
@@ -30,12 +34,14 @@ private Q_SLOTS:
 
 private:
     QCoro::Task<void> disconnectAndQuit();
+    void finish();
     void closeDialog();
 
     TorController &m_controller;
     Windows &m_windows;
     std::unique_ptr<QQuickWindow> m_dialog;
     bool m_quitAfterwards = false; // the disconnect that runs is to be followed by the end
+    std::optional<ResumeOnce<bool>> m_disconnectEnded; // of a disconnect that somebody else has begun
 };
 
 } // namespace veldmark

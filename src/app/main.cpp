@@ -1,6 +1,7 @@
 #include "app/Activation.h"
 #include "app/Application.h"
 #include "app/LastWords.h"
+#include "base/Resumption.h"
 
 #include "instance/InstanceClient.h"
 #include "ui/Symbols.h"
@@ -66,6 +67,7 @@ int main(int argc, char **argv)
         return QApplication::exec();
     }
 
+    const LastTurn lastTurn; // what still waits when the program ends goes after everything else
     const LastWords lastWords(profile);
     Application program(profile);
     if (const auto started = program.start(parser.isSet(hidden), parser.isSet(connectNow)); !started) {

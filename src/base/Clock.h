@@ -3,6 +3,7 @@
 #include <qcorotask.h>
 
 #include <chrono>
+#include <memory>
 
 namespace veldmark {
 
@@ -26,11 +27,18 @@ public:
     virtual QCoro::Task<void> sleep(std::chrono::milliseconds duration) = 0;
 };
 
-// Real time.
+// Real time. Its destruction wakes everybody at once.
 class SystemClock final : public Clock {
 public:
+    SystemClock();
+    ~SystemClock() override;
+
     TimePoint now() const override;
     QCoro::Task<void> sleep(std::chrono::milliseconds duration) override;
+
+private:
+    struct Sleepers;
+    const std::shared_ptr<Sleepers> m_sleepers; // each takes itself off the list, also after the clock's end
 };
 
 } // namespace veldmark

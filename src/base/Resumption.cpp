@@ -1,10 +1,16 @@
 #include "base/Resumption.h"
 
 #include <QCoreApplication>
+#include <QThreadPool>
+
+#include <atomic>
 
 namespace veldmark {
 
 namespace {
+
+std::atomic<int> alive = 0;
+std::atomic<int> pending = 0; // of them: posted and not delivered yet
 
 constexpr QEvent::Type turn = QEvent::User; // a Waiter gets no other event of ours
 
@@ -30,12 +36,20 @@ private:
 Resumption::Resumption(std::coroutine_handle<> waiter)
     : QEvent(turn), m_receiver(std::make_unique<Waiter>(waiter))
 {
+    ++alive;
 }
 
-Resumption::~Resumption() = default;
+Resumption::~Resumption()
+{
+    --alive;
+    if (m_isPosted)
+        --pending;
+}
 
 void Resumption::post(std::unique_ptr<Resumption> resumption)
 {
+    resumption->m_isPosted = true;
+    ++pending;
     QObject *const receiver = resumption->receiver();
     QCoreApplication::postEvent(receiver, resumption.release());
 }
@@ -43,6 +57,22 @@ void Resumption::post(std::unique_ptr<Resumption> resumption)
 void Resumption::deliver(QObject *receiver)
 {
     QCoreApplication::sendPostedEvents(receiver, turn);
+}
+
+int Resumption::waiting()
+{
+    return alive;
+}
+
+void Resumption::deliverAll()
+{
+    constexpr int mostTurns = 1000; // nothing goes on for ever; a program must end
+    for (int turns = 0; turns < mostTurns; ++turns) {
+        QThreadPool::globalInstance()->waitForDone();
+        if (pending == 0)
+            return;
+        QCoreApplication::sendPostedEvents(nullptr, turn);
+    }
 }
 
 } // namespace veldmark

@@ -91,7 +91,8 @@ void removeTree(const QString &path)
 
 BundleRecord BundleRecord::read(const QString &folder)
 {
-    return {textOf(folder + QStringLiteral("/VERSION")), textOf(folder + QStringLiteral("/VERIFIED"))};
+    return {textOf(folder + QStringLiteral("/VERSION")), textOf(folder + QStringLiteral("/VERIFIED")),
+            textOf(folder + QStringLiteral("/SIGNED"))};
 }
 
 bool BundleFolder::exchange(const QString &one, const QString &other)
@@ -181,7 +182,7 @@ Result<QString, QString> BundleFolder::fresh()
     return m_fresh;
 }
 
-Result<void, QString> BundleFolder::publish(const QString &version, bool isVerified) const
+Result<void, QString> BundleFolder::publish(const QString &version, bool isVerified, qint64 signedAt) const
 {
     const QString folder = m_fresh;
     const QString former = beside(".old");
@@ -191,6 +192,9 @@ Result<void, QString> BundleFolder::publish(const QString &version, bool isVerif
     if (!wrote(folder + QStringLiteral("/VERSION"), version)
         || !wrote(folder + QStringLiteral("/VERIFIED"),
                   isVerified ? QStringLiteral("signature") : QStringLiteral("https")))
+        return failed();
+    removeTree(folder + QStringLiteral("/SIGNED")); // not the archive's own
+    if (isVerified && signedAt > 0 && !wrote(folder + QStringLiteral("/SIGNED"), QString::number(signedAt)))
         return failed();
     writeThrough(folder);
 
@@ -211,6 +215,12 @@ Result<void, QString> BundleFolder::publish(const QString &version, bool isVerif
         removeTree(former);
     }
     return {};
+}
+
+std::optional<QString> BundleFolder::freshVersion() const
+{
+    const QString file = m_fresh + QStringLiteral("/VERSION");
+    return QFileInfo(file).isSymLink() ? std::nullopt : textOf(file);
 }
 
 void BundleFolder::discard() const

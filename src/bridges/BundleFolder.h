@@ -16,6 +16,7 @@ namespace veldmark {
 struct BundleRecord {
     std::optional<QString> version;
     std::optional<QString> verification; // "signature" or "https"
+    std::optional<QString> signedAt;     // with the former: seconds since 1970
 
     static BundleRecord read(const QString &folder);
 };
@@ -48,8 +49,10 @@ public:
     // Makes an empty folder for a new bundle, on the same file system. Once.
     Result<QString, QString> fresh();
     // Writes the new bundle's record, puts the new bundle where the old one was and removes the old
-    // one.
-    Result<void, QString> publish(const QString &version, bool isVerified) const;
+    // one. signedAt: of a verified one, in seconds since 1970.
+    Result<void, QString> publish(const QString &version, bool isVerified, qint64 signedAt = 0) const;
+    // The version that the new bundle brings itself, before publish() notes one; nothing when it does not.
+    std::optional<QString> freshVersion() const;
     // Removes a new bundle that is not to be published.
     void discard() const;
 

@@ -53,8 +53,8 @@ QCoro::Task<BundleTools::Run> BundleTools::run(std::shared_ptr<BundleTools> tool
     co_return *ended;
 }
 
-QCoro::Task<Done> BundleTools::verify(std::shared_ptr<BundleTools> tools, QString home, QString key, QString signature,
-                                      QString archive, QString fingerprint)
+QCoro::Task<Result<qint64, DownloadError>> BundleTools::verify(std::shared_ptr<BundleTools> tools, QString home, QString key,
+                                                               QString signature, QString archive, QString fingerprint)
 {
     if (tools->m_isCancelled)
         co_return Failure(DownloadError::other(cancelledText));
@@ -77,11 +77,12 @@ QCoro::Task<Done> BundleTools::verify(std::shared_ptr<BundleTools> tools, QStrin
     const Run checked = co_await checking;
     if (tools->m_isCancelled)
         co_return Failure(DownloadError::other(cancelledText));
-    if (!checked || !isSignedBy(checked->stdout, fingerprint)) {
+    const auto signedAt = checked ? signatureTime(checked->stdout, fingerprint) : std::nullopt;
+    if (!signedAt) {
         QFile::remove(archive);
         co_return Failure(DownloadError::badSignature(checked ? checked->stderr : checked.error()));
     }
-    co_return {};
+    co_return *signedAt;
 }
 
 QCoro::Task<Done> BundleTools::unpack(std::shared_ptr<BundleTools> tools, QString archive, QString folder)

@@ -40,9 +40,10 @@ public:
     void forget() { m_runner = nullptr; }
 
     // Whether the file `signature` is of the file `archive`, made by the key with this fingerprint, which
-    // the file `key` holds. `home`: GnuPG's own folder, empty and private. An archive that fails is removed.
-    static QCoro::Task<Result<void, DownloadError>> verify(std::shared_ptr<BundleTools> tools, QString home, QString key,
-                                                           QString signature, QString archive, QString fingerprint);
+    // the file `key` holds; when it was made, as signatureTime() tells. `home`: GnuPG's own folder, empty
+    // and private. An archive that fails is removed.
+    static QCoro::Task<Result<qint64, DownloadError>> verify(std::shared_ptr<BundleTools> tools, QString home, QString key,
+                                                             QString signature, QString archive, QString fingerprint);
     static QCoro::Task<Result<void, DownloadError>> unpack(std::shared_ptr<BundleTools> tools, QString archive,
                                                            QString folder);
     // Ends the agent that GnuPG may have started for its folder `home`.

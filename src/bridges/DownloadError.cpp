@@ -33,6 +33,18 @@ DownloadError DownloadError::extractFailed(const QString &detail)
     return {Kind::extractFailed, QStringLiteral("Couldn't unpack the download. ") + oneLine(detail)};
 }
 
+DownloadError DownloadError::olderVersion(const QString &announced, const QString &installed)
+{
+    return {Kind::rollback, QStringLiteral("Version %1 is offered, which is older than the installed %2. Nothing was changed.")
+                                .arg(announced, oneLine(installed))};
+}
+
+DownloadError DownloadError::otherContent(const QString &announced)
+{
+    return {Kind::rollback,
+            QStringLiteral("What came as version %1 is another one, so it was discarded.").arg(announced)};
+}
+
 DownloadError DownloadError::other(QString text)
 {
     return {Kind::other, oneLine(text)};

@@ -13,6 +13,7 @@ public:
         badVersion,    // the index does not name a version
         badSignature,  // the archive is not what the Tor Project signed
         extractFailed, // the archive cannot be unpacked, or must not be
+        rollback,      // it is older than what is installed, or not what was announced
         other,         // the network, the disk, or the user: in their own words
     };
 
@@ -21,6 +22,8 @@ public:
     static DownloadError badVersion();
     static DownloadError badSignature(const QString &detail);
     static DownloadError extractFailed(const QString &detail);
+    static DownloadError olderVersion(const QString &announced, const QString &installed);
+    static DownloadError otherContent(const QString &announced);
     static DownloadError other(QString text);
 
     Kind kind() const { return m_kind; }

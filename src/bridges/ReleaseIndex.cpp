@@ -22,8 +22,32 @@ std::optional<QString> latestVersion(const QByteArray &json)
     return version;
 }
 
-bool isSignedBy(const QString &statusLines, const QString &fingerprint)
+bool isOlderVersion(const QString &version, const QString &other)
 {
+    // Groups of digits, then what is left: nothing for a release.
+    static const QRegularExpression parts(QStringLiteral("^([0-9]+(?:\\.[0-9]+)*)([a-z]*)([0-9]*)"));
+    const auto one = parts.match(version);
+    const auto two = parts.match(other);
+    if (!one.hasMatch() || !two.hasMatch())
+        return false;
+    const QStringList groups = one.captured(1).split(u'.');
+    const QStringList others = two.captured(1).split(u'.');
+    for (qsizetype i = 0; i < std::max(groups.size(), others.size()); ++i) {
+        const qulonglong group = groups.value(i).toULongLong();
+        const qulonglong otherGroup = others.value(i).toULongLong();
+        if (group != otherGroup)
+            return group < otherGroup;
+    }
+    const QString stage = one.captured(2);
+    const QString otherStage = two.captured(2);
+    if (stage != otherStage)
+        return otherStage.isEmpty() || (!stage.isEmpty() && stage < otherStage);
+    return one.captured(3).toULongLong() < two.captured(3).toULongLong();
+}
+
+std::optional<qint64> signatureTime(const QString &statusLines, const QString &fingerprint)
+{
+    constexpr qsizetype timeField = 3; // after the keyword, the key that signed and the day
     bool isRevoked = false;
     for (const QString &line : statusLines.split(u'\n')) {
         if (!line.startsWith(statusPrefix))
@@ -38,9 +62,9 @@ bool isSignedBy(const QString &statusLines, const QString &fingerprint)
         else if (keyword == u"REVKEYSIG")
             isRevoked = true;
         else if (keyword == u"VALIDSIG" && !isRevoked && fields.indexOf(fingerprint, 1) > 0)
-            return true;
+            return fields.value(timeField).toLongLong();
     }
-    return false;
+    return std::nullopt;
 }
 
 QString progressText(qint64 receivedBytes, qint64 totalBytes)

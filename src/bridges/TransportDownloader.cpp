@@ -256,6 +256,10 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_
     const std::optional<QString> version = latestVersion(*listed);
     if (!version)
         co_return Failure(DownloadError::badVersion());
+    // An old bundle, with what was mended since, is as well signed as a new one.
+    const BundleRecord former = BundleRecord::read(means->profile.bundleDirectory);
+    if (former.version && isOlderVersion(*version, *former.version))
+        co_return Failure(DownloadError::olderVersion(*version, *former.version));
 
     if (!makePrivateFolder(job->temporary))
         co_return Failure(DownloadError::other(
@@ -273,11 +277,16 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_
         co_return Failure(downloaded.error());
 
     const bool hasGnuPG = job->tools->hasGnuPG();
+    qint64 signedAt = 0;
     if (hasGnuPG) {
         auto verifying = verify(job, archive, archiveURL);
-        const Done verified = co_await verifying;
+        const Result<qint64, DownloadError> verified = co_await verifying;
         if (!verified)
             co_return Failure(verified.error());
+        signedAt = *verified;
+        // The signature is of the content alone: it does not tell under which name that is served.
+        if (former.signedAt && signedAt < former.signedAt->toLongLong())
+            co_return Failure(DownloadError::otherContent(*version));
     }
     if (isGone())
         co_return Failure(DownloadError::other(cancelledText));
@@ -287,13 +296,16 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_
     const Done unpacked = co_await unpacking;
     if (!unpacked)
         co_return Failure(unpacked.error());
+    const auto inside = job->folder->freshVersion();
+    if (inside && *inside != *version)
+        co_return Failure(DownloadError::otherContent(*version));
     if (isGone())
         co_return Failure(DownloadError::other(cancelledText));
 
     const InstalledBundle bundle{*version, hasGnuPG};
     using Published = Result<void, QString>;
-    const std::function<Published()> publish = [folder = job->folder, bundle] {
-        return folder->publish(bundle.version, bundle.isVerified);
+    const std::function<Published()> publish = [folder = job->folder, bundle, signedAt] {
+        return folder->publish(bundle.version, bundle.isVerified, signedAt);
     };
     auto publishing = elsewhere<Published>(publish);
     const Published published = co_await publishing;
@@ -302,7 +314,8 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_
     co_return bundle;
 }
 
-QCoro::Task<Done> TransportDownloader::verify(std::shared_ptr<Job> job, QString archive, QUrl archiveURL)
+QCoro::Task<Result<qint64, DownloadError>> TransportDownloader::verify(std::shared_ptr<Job> job, QString archive,
+                                                                       QUrl archiveURL)
 {
     const std::shared_ptr<Means> means = job->means;
     const QString signature = job->at("archive.tar.gz.asc");
@@ -326,7 +339,7 @@ QCoro::Task<Done> TransportDownloader::verify(std::shared_ptr<Job> job, QString 
         co_return Failure(DownloadError::other(
             QStringLiteral("Couldn't make the folder %1: %2.").arg(home, qt_error_string(errno))));
     auto verifying = BundleTools::verify(job->tools, home, key, signature, archive, means->source.fingerprint);
-    const Done verified = co_await verifying;
+    const Result<qint64, DownloadError> verified = co_await verifying;
     co_return verified;
 }
 

@@ -131,7 +131,7 @@ QString usageText()
         "                            APP is a name from \"apps\", the file name of its desktop entry, or the path\n"
         "                            of an entry or a program. Running copies are asked to quit first\n"
         "  get KEY                   print a field of \"status --json\"\n"
-        "  set KEY VALUE             change a setting; it applies at the next connect\n"
+        "  set KEY VALUE             change a setting; most of them only while not connected\n"
         "\n"
         "Exit status: 0 done, 1 failed (the reason is on standard error), 2 wrong usage,\n"
         "3 Veldmark is not running, 4 Veldmark is already running.\n");

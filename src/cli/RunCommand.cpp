@@ -49,7 +49,7 @@ void RunCommand::start()
 
 QCoro::Task<void> RunCommand::begin()
 {
-    const QPointer<RunCommand> self(this);
+    const QPointer<QObject> self(&m_lifetime);
     if (const auto problem = m_production.settings().problem())
         complain(*problem);
     m_controller.detectStaleState();
@@ -124,7 +124,8 @@ void RunCommand::showPhase()
         return; // the progress line speaks, or the answers are on their way
     }
     if (phase == ConnectionPhase::disconnecting) {
-        say(m_controller.statusDetail());
+        if (std::exchange(m_lastPhase, phase) != phase) // checks that end with it come here as well
+            say(m_controller.statusDetail());
         return;
     }
     if (phase == ConnectionPhase::connected && m_lastPhase == ConnectionPhase::connecting)

@@ -1,3 +1,4 @@
+#include "base/Resumption.h"
 #include "cli/Commands.h"
 #include "cli/Console.h"
 #include "cli/RunCommand.h"
@@ -38,6 +39,7 @@ int main(int argc, char **argv)
         return 0;
     }
 
+    const LastTurn lastTurn; // what still waits when the program ends goes after everything else
     const PlatformProfile profile = PlatformProfile::current(Places::fromEnvironment());
     std::unique_ptr<RunCommand> run;
     if (invocation->verb == Invocation::Verb::run) {

@@ -26,18 +26,34 @@ bool TorController::canLaunchBypassed() const
     return phase() == ConnectionPhase::connected && activeMode() == RoutingMode::strict;
 }
 
+QString TorController::displayedName(const QString &path) const
+{
+    return m_services.applications.displayName(path);
+}
+
+bool TorController::isApplication(const QString &path) const
+{
+    return path.startsWith(u'/') && path.endsWith(m_services.profile.applicationSuffix);
+}
+
+QStringList TorController::sortedByName(QStringList applications) const
+{
+    applications.removeDuplicates();
+    const RunningApplications &names = m_services.applications;
+    std::stable_sort(applications.begin(), applications.end(), [&names](const QString &a, const QString &b) {
+        return QString::localeAwareCompare(names.displayName(a).toCaseFolded(),
+                                           names.displayName(b).toCaseFolded()) < 0;
+    });
+    return applications;
+}
+
 void TorController::addBypassApp(const QString &path)
 {
-    if (!path.endsWith(m_services.profile.applicationSuffix) || bypassApps().contains(path))
+    if (!isApplication(path) || bypassApps().contains(path))
         return;
-    const RunningApplications &applications = m_services.applications;
     QStringList apps = bypassApps();
     apps << path;
-    std::stable_sort(apps.begin(), apps.end(), [&applications](const QString &a, const QString &b) {
-        return QString::localeAwareCompare(applications.displayName(a).toCaseFolded(),
-                                           applications.displayName(b).toCaseFolded()) < 0;
-    });
-    bypassApps.set(apps);
+    bypassApps.set(sortedByName(apps));
 }
 
 void TorController::removeBypassApp(const QString &path)
@@ -51,6 +67,20 @@ QCoro::Task<Result<void, QString>> TorController::launchBypassed(QString path)
 {
     if (!canLaunchBypassed())
         co_return Failure(QStringLiteral("Connect in strict mode to open apps without Tor"));
+    const QString application = QDir::cleanPath(path);
+    if (m_launching.contains(application)) // its prompt is up
+        co_return Failure(displayedName(path) + QStringLiteral(" is already being opened."));
+    m_launching << application;
+    const QPointer<TorController> self(this);
+    auto launching = launchOnce(path);
+    const auto launched = co_await launching;
+    if (self)
+        m_launching.removeAll(application);
+    co_return launched;
+}
+
+QCoro::Task<Result<void, QString>> TorController::launchOnce(QString path)
+{
     const QPointer<TorController> self(this);
     RunningApplications &applications = m_services.applications;
     const auto copies = applications.copiesOf(QDir::cleanPath(path));
@@ -73,7 +103,7 @@ QCoro::Task<Result<void, QString>> TorController::launchBypassed(QString path)
         co_return {};
     if (!self || helper.error().kind() == HelperError::Kind::Cancelled)
         co_return Failure(QString());
-    const QString failure = QStringLiteral("Couldn't open ") + m_services.applications.displayName(path)
+    const QString failure = QStringLiteral("Couldn't open ") + displayedName(path)
         + QStringLiteral(" without Tor: ") + helper.error().description();
     errorMessage = failure;
     co_return Failure(failure);

@@ -41,11 +41,13 @@ QCoro::Task<void> TorController::refreshCircuits()
         co_return;
     const QPointer<TorController> self(this);
     const Attempt attempt = m_attempt;
+    const quint64 reading = ++m_circuitReading;
     const QString password = *m_controlPassword;
     const QStringList commands = {getInfoCommand(circuitKey), getInfoCommand(streamKey)};
     const auto replies = co_await m_services.controlPort.batch(commands, password);
-    if (!self || !isCurrent(attempt))
-        co_return;
+    if (!self || !isCurrent(attempt) || reading < m_readCircuits)
+        co_return; // what a later question was told is newer
+    m_readCircuits = reading;
     if (!replies) {
         circuitError = QStringLiteral("Couldn't read circuits: ") + replies.error().description();
         co_return;
@@ -57,19 +59,24 @@ QCoro::Task<void> TorController::refreshCircuits()
     CircuitTable table = CircuitTable::assemble(block(0, circuitKey), block(1, streamKey),
                                                 m_siteHistory, m_relayCache);
     if (!table.unresolved.empty()) {
-        const auto relays = co_await resolveRelays(table.unresolved, attempt);
+        const Resolution found = co_await resolveRelays(table.unresolved, attempt);
         if (!self || !isCurrent(attempt))
             co_return;
-        for (const RelayInfo &relay : relays)
-            m_relayCache.insert(relay.fingerprint, relay);
-        CircuitTable::fillRelays(table.circuits, m_relayCache);
+        RelayCache known = m_relayCache;
+        for (const RelayInfo &relay : found.relays)
+            known.insert(relay.fingerprint, relay);
+        CircuitTable::fillRelays(table.circuits, known);
+        if (found.isComplete)
+            m_relayCache = known;
     }
+    if (reading < m_shownCircuits)
+        co_return;
+    m_shownCircuits = reading;
     circuitError = std::nullopt;
     circuits = table.circuits;
 }
 
-QCoro::Task<std::vector<RelayInfo>> TorController::resolveRelays(std::vector<RelayInfo> relays,
-                                                                 Attempt attempt)
+QCoro::Task<TorController::Resolution> TorController::resolveRelays(std::vector<RelayInfo> relays, Attempt attempt)
 {
     const QPointer<TorController> self(this);
     const QString password = *m_controlPassword;
@@ -80,7 +87,7 @@ QCoro::Task<std::vector<RelayInfo>> TorController::resolveRelays(std::vector<Rel
         commands << getInfoCommand(QStringLiteral("ns/id/") + relay.fingerprint);
     const auto statuses = co_await m_services.controlPort.batch(commands, password);
     if (!self || !isCurrent(attempt) || !statuses)
-        co_return {}; // asked again at the next refresh
+        co_return Resolution{};
     QStringList addresses;
     for (std::size_t i = 0; i < relays.size(); ++i) {
         RelayInfo &relay = relays[i];
@@ -98,7 +105,7 @@ QCoro::Task<std::vector<RelayInfo>> TorController::resolveRelays(std::vector<Rel
         commands << getInfoCommand(QStringLiteral("ip-to-country/") + address);
     const auto countries = co_await m_services.controlPort.batch(commands, password);
     if (!countries)
-        co_return relays;
+        co_return Resolution{relays, false};
     for (RelayInfo &relay : relays) {
         if (!relay.ip)
             continue;
@@ -107,7 +114,7 @@ QCoro::Task<std::vector<RelayInfo>> TorController::resolveRelays(std::vector<Rel
             relay.country = CircuitParser::country(ControlPort::dataBlock(
                 QStringLiteral("ip-to-country/") + *relay.ip, *lines));
     }
-    co_return relays;
+    co_return Resolution{relays, true};
 }
 
 QCoro::Task<void> TorController::newIdentity()
@@ -117,11 +124,15 @@ QCoro::Task<void> TorController::newIdentity()
     const QPointer<TorController> self(this);
     const Attempt attempt = m_attempt;
     errorMessage = std::nullopt;
+    forgetExit(); // also where no answer comes, Tor may have done it
     auto asking = m_services.controlPort.signal(newCircuitsSignal, *m_controlPassword);
     const auto done = co_await asking;
-    if (self && isCurrent(attempt) && !done)
+    if (!self || !isCurrent(attempt))
+        co_return;
+    if (!done)
         errorMessage =
             QStringLiteral("Couldn't request a new identity: ") + done.error().description();
+    checkExit();
 }
 
 QCoro::Task<void> TorController::newCircuit(QString id)
@@ -147,9 +158,12 @@ QCoro::Task<void> TorController::optimizeCircuits()
     for (int round = 1; round <= optimizeAttempts; ++round) {
         optimizeStatus =
             QStringLiteral("Testing speed (%1 of %2)…").arg(round).arg(optimizeAttempts);
+        const quint64 identity = m_identity;
         const TimedProbe timed = co_await timedViaTor();
         if (!self || !isCurrent(attempt))
             co_return; // the next attempt has cleared what this one showed
+        if (timed.answer && identity == m_identity)
+            showExit(timed.answer);
         const qint64 elapsedMs = timed.elapsed.count();
         if (timed.answer && elapsedMs < slowPathMs) {
             latencyMs = elapsedMs;
@@ -160,6 +174,7 @@ QCoro::Task<void> TorController::optimizeCircuits()
             : QStringLiteral("Path not responding, finding another…");
         if (round == optimizeAttempts)
             break;
+        forgetExit();
         auto asking = m_services.controlPort.signal(newCircuitsSignal, *m_controlPassword);
         co_await asking;
         if (!self || !isCurrent(attempt))

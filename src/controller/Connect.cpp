@@ -1,6 +1,7 @@
 #include "controller/TorController.h"
 
 #include "bridges/BridgePlan.h"
+#include "controller/SettingRules.h"
 #include "platform/PlatformProfile.h"
 #include "system/PrivilegedRunner.h"
 #include "system/ProcessRunner.h"
@@ -36,7 +37,7 @@ QCoro::Task<std::optional<ConnectTime>> noAnswer()
 std::optional<QString> TorController::torPath() const
 {
     const QString custom = customTorPath().trimmed();
-    if (!custom.isEmpty() && isExecutableFile(custom))
+    if (custom.startsWith(u'/') && isExecutableFile(custom))
         return custom;
     for (const QString &candidate : m_services.profile.torCandidates) {
         if (isExecutableFile(candidate))
@@ -108,11 +109,12 @@ QCoro::Task<Result<QStringList, QString>> TorController::bridgeArguments(Attempt
             if (self && self->isCurrent(attempt))
                 self->statusDetail = text;
         }};
+    const quint64 search = ++m_transportSearch;
     const BridgePlan plan = co_await planBridges(request, tools);
     if (!self || !isCurrent(attempt))
         co_return Failure(QString()); // nobody reads this
     if (plan.transports)
-        transports = *plan.transports;
+        showTransports(*plan.transports, search);
     if (request.choice == BridgeChoice::off)
         m_pendingBridgeLines.clear();
     else if (plan.lines)
@@ -140,6 +142,10 @@ QCoro::Task<void> TorController::connect()
     if (phase() != ConnectionPhase::disconnected && phase() != ConnectionPhase::stale)
         co_return;
     errorMessage = std::nullopt;
+    if (const auto problem = SettingRules::torPathProblem(customTorPath())) {
+        errorMessage = *problem;
+        co_return;
+    }
     const auto tor = torPath();
     if (!tor) {
         errorMessage = m_services.profile.torMissingText;
@@ -152,6 +158,7 @@ QCoro::Task<void> TorController::connect()
 
     const QPointer<TorController> self(this);
     const Attempt attempt = startAttempt();
+    interruptDirectDownload();
     // What is asked for here is what the helper gets, though the settings may change meanwhile.
     const bool strict = strictMode();
     const bool localNetwork = allowLocalNetwork();
@@ -232,11 +239,20 @@ QCoro::Task<void> TorController::connect()
         co_return; // whoever heard of it has disconnected at once
     applyTerminalMode();
     startMonitoring();
+    co_await settleIn(attempt);
+}
+
+QCoro::Task<void> TorController::settleIn(Attempt attempt)
+{
+    const QPointer<TorController> self(this);
+    m_isSettlingIn = true;
     co_await runChecks();
-    if (!self || !isCurrent(attempt) || phase() != ConnectionPhase::connected)
+    if (!self || !isCurrent(attempt))
         co_return;
-    if (optimizeSpeed() && (!latencyMs() || *latencyMs() >= slowPathMs))
+    if (phase() == ConnectionPhase::connected && optimizeSpeed() && (!latencyMs() || *latencyMs() >= slowPathMs))
         co_await optimizeCircuits();
+    if (self && isCurrent(attempt))
+        m_isSettlingIn = false;
 }
 
 } // namespace veldmark

@@ -27,6 +27,11 @@ QCoro::Task<void> TorController::disconnect()
         co_return;
 
     const QPointer<TorController> self(this);
+    // What the session had still to find out. It is begun again if the session stays.
+    const bool wasSettlingIn = m_isSettlingIn;
+    const bool wasOptimizing = isOptimizing();
+    const bool wasChecking = isChecking() || !torVerified() || leakStatus().kind() == LeakStatus::Kind::notTested;
+    const bool wasTestingDNS = dnsStatus().kind() == DNSStatus::Kind::checking;
     const Attempt attempt = startAttempt(); // a connect that still waits for Tor ends silently
     // What a failure goes back to: only a session that was up is still up when the helper was
     // refused. A half-made connection and a left-over one are judged by the marker.
@@ -60,9 +65,21 @@ QCoro::Task<void> TorController::disconnect()
     }
     statusDetail = connectedDetail();
     phase = ConnectionPhase::connected;
+    if (!self || !isCurrent(attempt) || phase() != ConnectionPhase::connected)
+        co_return;
     applyTerminalMode();
     startMonitoring();
     startKillSwitchWatch();
+    if (wasSettlingIn) {
+        settleIn(attempt);
+        co_return;
+    }
+    if (wasChecking)
+        runChecks();
+    else if (wasTestingDNS)
+        checkDNS(true);
+    if (wasOptimizing)
+        optimizeCircuits();
 }
 
 void TorController::forgetCircuits()

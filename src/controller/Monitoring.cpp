@@ -26,6 +26,7 @@ TorController::Attempt TorController::startAttempt()
 {
     isChecking = false;
     isOptimizing = false;
+    m_isSettlingIn = false;
     optimizeStatus = std::nullopt;
     if (leakStatus().kind() == LeakStatus::Kind::checking)
         leakStatus = leakStatus().isExposed() ? LeakStatus::exposed(leakStatus().address()) : LeakStatus::notTested();
@@ -110,12 +111,20 @@ QCoro::Task<void> TorController::runChecks()
     isChecking = true;
     leakStatus = LeakStatus::checkingAfter(leakStatus());
     lookAtKillSwitch();
+    quint64 identity = m_identity;
     auto throughTor = timedViaTor(); // both start now and run side by side
     auto aroundTor = m_services.probe.direct();
-    const TimedProbe tor = co_await throughTor;
+    TimedProbe tor = co_await throughTor;
     const ProbeResult direct = co_await aroundTor;
     if (!self || !isCurrent(attempt))
         co_return; // the session ended meanwhile: what it had is no longer true
+    while (identity != m_identity) { // new circuits meanwhile: that was the exit of the old ones
+        identity = m_identity;
+        const TimedProbe again = co_await timedViaTor();
+        if (!self || !isCurrent(attempt))
+            co_return;
+        tor = again;
+    }
     const auto verdict = NetworkVerdict::of(tor.answer, tor.elapsed, direct, activeMode());
     latencyMs = verdict.latencyMs;
     exitIP = verdict.exitIP;
@@ -125,6 +134,38 @@ QCoro::Task<void> TorController::runChecks()
     co_await checkDNS(true);
     if (self && isCurrent(attempt))
         isChecking = false;
+}
+
+void TorController::forgetExit()
+{
+    ++m_identity;
+    exitIP = std::nullopt;
+    torVerified = std::nullopt;
+}
+
+QCoro::Task<void> TorController::checkExit()
+{
+    if (phase() != ConnectionPhase::connected || isChecking())
+        co_return; // the checks that are under way ask once more by themselves
+    const QPointer<TorController> self(this);
+    const Attempt attempt = m_attempt;
+    isChecking = true;
+    for (quint64 identity = m_identity;; identity = m_identity) {
+        const TimedProbe tor = co_await timedViaTor();
+        if (!self || !isCurrent(attempt))
+            co_return;
+        if (identity == m_identity) {
+            showExit(tor.answer);
+            break;
+        }
+    }
+    isChecking = false;
+}
+
+void TorController::showExit(const ProbeResult &answer)
+{
+    exitIP = answer ? std::optional(answer->ip) : std::nullopt;
+    torVerified = answer && answer->isTor;
 }
 
 } // namespace veldmark

@@ -5,6 +5,8 @@
 
 #include <QPointer>
 
+#include <utility>
+
 #include <pwd.h>
 #include <unistd.h>
 
@@ -20,6 +22,8 @@ QString loginName()
 
 QCoro::Task<void> TorController::installPasswordless()
 {
+    if (std::exchange(m_isSettingUpHelper, true))
+        co_return; // its prompt is up
     const QPointer<TorController> self(this);
     startupError = std::nullopt;
     QStringList arguments = {QStringLiteral("install-privileged"), QStringLiteral("--user"), loginName()};
@@ -29,6 +33,7 @@ QCoro::Task<void> TorController::installPasswordless()
     const auto helper = co_await m_services.privileged.runWithPrompt(arguments);
     if (!self)
         co_return;
+    m_isSettingUpHelper = false;
     passwordlessInstalled = m_services.privileged.passwordlessInstalled();
     if (!helper) {
         if (helper.error().kind() != HelperError::Kind::Cancelled) // the user's own choice is no error
@@ -41,12 +46,15 @@ QCoro::Task<void> TorController::installPasswordless()
 
 QCoro::Task<void> TorController::removePasswordless()
 {
+    if (std::exchange(m_isSettingUpHelper, true))
+        co_return;
     const QPointer<TorController> self(this);
     startupError = std::nullopt;
     const QStringList arguments = {QStringLiteral("uninstall-privileged")};
     const auto helper = co_await m_services.privileged.runHelper(arguments);
     if (!self)
         co_return;
+    m_isSettingUpHelper = false;
     passwordlessInstalled = m_services.privileged.passwordlessInstalled();
     if (!helper && helper.error().kind() != HelperError::Kind::Cancelled)
         startupError = QStringLiteral("Couldn't remove passwordless mode: ")

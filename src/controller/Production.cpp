@@ -58,6 +58,7 @@ Production::Production(const PlatformProfile &profile)
               [this](bool throughTor, const TransportDownloader::Progress &progress) {
                   return m_downloader.install(throughTor, progress);
               },
+          .cancelTransports = [this] { m_downloader.cancel(); },
       })
 {
 }

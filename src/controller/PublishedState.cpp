@@ -1,5 +1,6 @@
 #include "controller/PublishedState.h"
 
+#include "controller/SettingRules.h"
 #include "controller/TorController.h"
 
 #include <QJsonArray>
@@ -65,13 +66,7 @@ QJsonValue json(const PluggableTransports &value)
                        {QStringLiteral("source"), value.source}};
 }
 
-// The user's words within a message of one line.
-QString shown(const QString &text)
-{
-    constexpr qsizetype limit = 60;
-    const QString line = text.simplified();
-    return line.size() <= limit ? line : line.left(limit - 1) + u'…';
-}
+using SettingRules::shown;
 
 auto refusal(const QString &description)
 {
@@ -181,35 +176,27 @@ Result<void, SettingError> setSetting(TorController &c, const QString &name, con
                                        &c.optimizeSpeed};
     for (Setting<bool> *setting : switches) {
         if (setting->key() == name)
-            return parseSwitch(text).and_then([setting](bool on) { return saved(setting->set(on)); });
+            return parseSwitch(text).and_then([&c, setting](bool on) { return SettingRules::change(c, *setting, on); });
     }
     if (name == c.terminalMode.key())
         return parseSwitch(text).and_then([&c](bool on) {
             const auto problem = c.setTerminalMode(on);
             return saved(problem ? problem : c.terminalError());
         });
-    if (name == c.exitCountry.key()) {
-        if (!ExitCountry::isValid(text))
-            return refusal(QStringLiteral("\"%1\" is no exit country: two lower-case letters such "
-                                          "as \"de\", or nothing for any.").arg(shown(text)));
-        return saved(c.exitCountry.set(text));
+    for (Setting<QString> *const setting : {&c.exitCountry, &c.customTorPath, &c.customBridges}) {
+        if (setting->key() == name)
+            return SettingRules::change(c, *setting, text);
     }
     if (name == c.bridgeChoice.key()) {
         const auto choice = bridgeChoiceFromRawValue(text);
         if (!choice)
             return refusal(QStringLiteral("\"%1\" is no bridge choice: off, obfs4, snowflake, meek "
                                           "or custom.").arg(shown(text)));
-        return saved(c.bridgeChoice.set(*choice));
-    }
-    if (name == c.customTorPath.key()) {
-        return saved(c.customTorPath.set(text));
-    }
-    if (name == c.customBridges.key()) {
-        return saved(c.customBridges.set(text));
+        return SettingRules::change(c, c.bridgeChoice, *choice);
     }
     if (name == c.bypassApps.key())
         return parseList(text).and_then(
-            [&c](const QStringList &apps) { return saved(c.bypassApps.set(apps)); });
+            [&c](const QStringList &apps) { return SettingRules::change(c, c.bypassApps, apps); });
     return refusal(QStringLiteral("There is no setting \"%1\". Settings: %2.")
                        .arg(shown(name), settingNames().join(QStringLiteral(", "))));
 }

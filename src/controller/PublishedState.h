@@ -26,7 +26,7 @@ QStringList settingNames();
 class SettingError {
 public:
     enum class Kind {
-        Refused, // there is no such setting, or the text is none of its values; nothing has changed
+        Refused, // no such setting, none of its values, or not while connected; nothing has changed
         NotDone, // the setting holds, but could not be saved or not be carried out
     };
     SettingError(Kind kind, QString description) : m_kind(kind), m_description(std::move(description)) {}

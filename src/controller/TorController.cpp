@@ -102,6 +102,8 @@ TorController::TorController(const Services &services, QObject *parent)
 TorController::~TorController()
 {
     endFixWaits();
+    if (m_downloadWait)
+        m_downloadWait->complete(false);
 }
 
 void TorController::loadSettings()
@@ -154,9 +156,18 @@ bool TorController::canDownloadTransports() const
 QCoro::Task<void> TorController::locateTransports()
 {
     const QPointer<TorController> self(this);
+    const quint64 search = ++m_transportSearch;
     const auto found = co_await m_services.locateTransports();
     if (self)
-        transports = found;
+        showTransports(found, search);
+}
+
+void TorController::showTransports(const PluggableTransports &found, quint64 search)
+{
+    if (search < m_shownSearch)
+        return; // a search that began later has seen the newer files
+    m_shownSearch = search;
+    transports = found;
 }
 
 } // namespace veldmark

@@ -76,6 +76,8 @@ public:
         std::function<QCoro::Task<TransportDownloader::Outcome>(
             bool throughTor, TransportDownloader::Progress progress)>
             installTransports = {};
+        // TransportDownloader::cancel().
+        std::function<void()> cancelTransports = {};
     };
 
     // Registers the settings' defaults, reads the settings, and starts looking for transports
@@ -169,27 +171,36 @@ public:
 
     // The user has read the banner.
     void dismissError() { errorMessage = std::nullopt; }
+    // Shows what went wrong outside the controller as the banner.
+    void showProblem(const QString &problem) { errorMessage = problem; }
 
     // --- Operations: transports. ---
-    // Searches the computer afresh and sets `transports`.
+    // Searches the computer afresh and sets `transports`, unless a search that began later has done so.
     QCoro::Task<void> locateTransports();
     // Fetches and installs the Tor Project's bundle of transport programs, through Tor while
-    // connected. Does nothing unless canDownloadTransports(). `transportDownload` tells how it goes
+    // connected. A connect() ends a direct download; it begins again when the connection stands or
+    // has failed. Does nothing unless canDownloadTransports(). `transportDownload` tells how it goes
     // and keeps the last word until the next download; it is absent when all went well. True when a
     // bundle was installed, whatever else there is to say about it.
     QCoro::Task<bool> downloadTransports();
 
     // --- Operations: applications without Tor; paths as `bypassApps` holds them. ---
+    // Whether it can be one: an absolute path that ends like this system's applications.
+    bool isApplication(const QString &path) const;
+    // The order of `bypassApps`: by displayed name, each once.
+    QStringList sortedByName(QStringList applications) const;
     // Ignores what is no application of this system, and what is listed already.
     void addBypassApp(const QString &path);
     void removeBypassApp(const QString &path);
-    // Does nothing unless `canLaunchBypassed()`. Running copies are asked to quit first. The error is a
-    // sentence; empty when the user dismissed the prompt or the session ended meanwhile.
+    // Does nothing unless `canLaunchBypassed()`, nor while the same application is being opened.
+    // Running copies are asked to quit first. The error is a sentence; empty when the user dismissed
+    // the prompt or the session ended meanwhile.
     QCoro::Task<Result<void, QString>> launchBypassed(QString path);
 
     // --- Operations: helper without a password, terminal. ---
     // Reinstalls the root-owned helper when the program brought a newer one.
     QCoro::Task<void> updatePrivilegedHelper();
+    // One of these two at a time; a call while one is under way does nothing.
     QCoro::Task<void> installPasswordless();
     QCoro::Task<void> removePasswordless();
     std::optional<QString> setTerminalMode(bool on); // as Setting::set()
@@ -258,6 +269,8 @@ private:
     // Everything of the session goes, and the phase becomes `disconnected`.
     void endSession();
     void settleAfterFailure();
+    // What follows a connect: the checks, and the optimisation of a slow path where it is wanted.
+    QCoro::Task<void> settleIn(Attempt attempt);
     // The mode that the session marker names; absent when it names none, or is not there.
     std::optional<RoutingMode> markedMode() const;
     QString connectedDetail() const;
@@ -286,25 +299,45 @@ private:
     std::optional<KillSwitch> judgedKillSwitch(); // asks the note and the marker
     std::optional<QString> killSwitchMessage() const;
     QString deathMessage() const;
+    // Asks for the exit alone, after Tor was told to take new circuits.
+    QCoro::Task<void> checkExit();
+    void forgetExit();
+    void showExit(const ProbeResult &answer);
     // DNS.cpp
     QCoro::Task<void> repairDNS(Attempt attempt);
     void endFixWaits();
+    // BypassApps.cpp
+    QString displayedName(const QString &path) const;
+    QCoro::Task<Result<void, QString>> launchOnce(QString path);
     // Circuits.cpp
-    QCoro::Task<std::vector<RelayInfo>> resolveRelays(std::vector<RelayInfo> relays, Attempt attempt);
+    struct Resolution {
+        std::vector<RelayInfo> relays;
+        bool isComplete = false; // else asked again at the next refresh
+    };
+    QCoro::Task<Resolution> resolveRelays(std::vector<RelayInfo> relays, Attempt attempt);
+    // Transports.cpp
+    QCoro::Task<TransportDownloader::Outcome> fetchTransports();
+    void interruptDirectDownload();
+    void showTransports(const PluggableTransports &found, quint64 search);
+    bool isChangingPhase() const
+    {
+        return phase() == ConnectionPhase::connecting || phase() == ConnectionPhase::disconnecting;
+    }
     // Terminal.cpp
     void applyTerminalMode();
     // TorController.cpp
     void loadSettings();
-    template <typename T>
-    friend class Setting;
-    // Shows a problem with saving as the banner.
-    void showProblem(const QString &problem) { errorMessage = problem; }
 
     Services m_services;
     Attempt m_attempt = 0;  // the running connect or disconnect; older ones end silently
     quint64 m_monitor = 0;  // the running monitor loop
     std::optional<QString> m_controlPassword; // of the running session; in memory only
     bool m_isDownloading = false;             // transports
+    bool m_downloadsDirectly = false;         // and not through Tor
+    bool m_downloadInterrupted = false;       // a connect has begun meanwhile
+    std::optional<ResumeOnce<bool>> m_downloadWait; // for the end of that connect
+    quint64 m_transportSearch = 0;            // the last search that began
+    quint64 m_shownSearch = 0;                // the one that `transports` is of
     std::optional<Attempt> m_fixedAttempt;    // whose fixDNS() is under way
     std::vector<ResumeOnce<bool>> m_fixWaiters; // later calls of the same session
     quint64 m_killSwitchWatch = 0;            // the running watch
@@ -313,6 +346,13 @@ private:
     Clock::TimePoint m_killSwitchSeen;        // when the watcher's note was last a fresh one
     bool m_torStopped = false;                // under this session
     bool m_dnsLiveVerified = false;           // a live DNS check passed in this session
+    bool m_isSettlingIn = false;              // settleIn() is under way
+    quint64 m_identity = 0;                   // counts the times that Tor was asked for new circuits
+    quint64 m_circuitReading = 0;             // the last refresh that began
+    quint64 m_readCircuits = 0;               // the newest whose answer has come
+    quint64 m_shownCircuits = 0;              // the one that `circuits` is of
+    bool m_isSettingUpHelper = false;         // password-free mode is being set up or removed
+    QStringList m_launching;                  // applications that are being opened without Tor
     QStringList m_pendingBridgeLines;         // of the connection being set up
     QStringList m_activeBridgeLines;          // of the running session
     RelayCache m_relayCache;

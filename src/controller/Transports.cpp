@@ -4,6 +4,8 @@
 
 #include <QPointer>
 
+#include <utility>
+
 namespace veldmark {
 
 namespace {
@@ -15,6 +17,47 @@ QString gnupgHint(const QString &torHint)
 }
 } // namespace
 
+// What goes on around Tor after the user has asked for Tor would say who connects.
+void TorController::interruptDirectDownload()
+{
+    if (!m_downloadsDirectly || !m_services.cancelTransports)
+        return;
+    m_downloadInterrupted = true;
+    m_services.cancelTransports();
+}
+
+QCoro::Task<TransportDownloader::Outcome> TorController::fetchTransports()
+{
+    const QPointer<TorController> self(this);
+    const TransportDownloader::Progress progress = [self](const QString &text) {
+        if (self)
+            self->transportDownload = text;
+    };
+    for (;;) {
+        const bool throughTor = phase() == ConnectionPhase::connected;
+        m_downloadsDirectly = !throughTor;
+        auto installing = m_services.installTransports(throughTor, progress);
+        const TransportDownloader::Outcome outcome = co_await installing;
+        if (!self)
+            co_return outcome;
+        m_downloadsDirectly = false;
+        if (!std::exchange(m_downloadInterrupted, false) || outcome)
+            co_return outcome;
+        transportDownload = QStringLiteral("The download begins again when Tor is connected…");
+        while (isChangingPhase()) {
+            const ResumeOnce<bool> changed;
+            m_downloadWait = changed;
+            const auto heard = QObject::connect(this, &TorController::phaseChanged, this,
+                                                [changed] { changed.complete(true); });
+            co_await changed;
+            if (!self)
+                co_return Failure(DownloadError::other(QString())); // nobody reads this
+            QObject::disconnect(heard);
+        }
+        m_downloadWait.reset();
+    }
+}
+
 QCoro::Task<bool> TorController::downloadTransports()
 {
     if (!canDownloadTransports() || !m_services.installTransports)
@@ -23,12 +66,8 @@ QCoro::Task<bool> TorController::downloadTransports()
     transportDownload = QStringLiteral("Starting…");
 
     const QPointer<TorController> self(this);
-    const TransportDownloader::Progress progress = [self](const QString &text) {
-        if (self)
-            self->transportDownload = text;
-    };
-    auto installing = m_services.installTransports(phase() == ConnectionPhase::connected, progress);
-    const TransportDownloader::Outcome outcome = co_await installing;
+    auto fetching = fetchTransports();
+    const TransportDownloader::Outcome outcome = co_await fetching;
     if (!self)
         co_return false;
     if (!outcome) {

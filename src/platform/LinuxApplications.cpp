@@ -31,8 +31,20 @@ QByteArray contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.read(readLimitBytes) : QByteArray();
 }
 
+// Whether programs of all kinds run by this one, so that its processes say nothing of whose they are.
+bool isInterpreter(const QString &program)
+{
+    static const QRegularExpression names(QRegularExpression::anchoredPattern(
+        QStringLiteral("(?:(?:ba|da|k|mk|pdk|z|fi|tc|c|ya|a)?sh|busybox|toybox|pwsh|env|bwrap|flatpak|snap"
+                       "|python|pypy|perl|ruby|jruby|lua|luajit|php|tclsh|wish|guile|gjs|gjs-console|node|nodejs|deno|bun|java"
+                       "|mono|mono-sgen|dotnet|wine|wine64|wine-preloader|wine64-preloader|R|Rscript|julia|racket|electron|qml"
+                       "|qmlscene|awk|gawk|mawk)-?[0-9.]*")));
+    return names.match(QFileInfo(program).fileName()).hasMatch();
+}
+
 // The file that runs when the entry is started, links resolved. Empty when the entry's command has words of its own:
-// then the program may be an interpreter or a starter, which others of the user's applications run as well.
+// then the program may be an interpreter or a starter, which others of the user's applications run as well. Empty too
+// for an interpreter on its own.
 QString ownProgram(const Entry &entry)
 {
     const char *command = g_app_info_get_commandline(G_APP_INFO(entry.get()));
@@ -47,6 +59,8 @@ QString ownProgram(const Entry &entry)
         if (gchar *found = g_find_program_in_path(words[0])) {
             program = QFileInfo(QFile::decodeName(found)).canonicalFilePath();
             g_free(found);
+            if (isInterpreter(program) || isInterpreter(QString::fromLocal8Bit(words[0])))
+                program.clear();
         }
     }
     g_strfreev(words);

@@ -4,6 +4,7 @@
 
 #include <QPointer>
 #include <QProcess>
+#include <QSet>
 
 #include <algorithm>
 #include <cerrno>
@@ -47,6 +48,13 @@ void killGroup(QProcess &process)
     process.kill(); // in case it has no group of its own yet
 }
 
+// What is left to finish when the program ends. Never destroyed, so that it is held to the last moment.
+QSet<QProcess *> &underWay()
+{
+    static auto *const processes = new QSet<QProcess *>;
+    return *processes;
+}
+
 Outcome outcomeOf(QProcess &process)
 {
     // For a child that was ended by a signal QProcess keeps the signal's number as exit code.
@@ -74,6 +82,8 @@ QCoro::Task<Outcome> ChildProcessRunner::start(QString executable, QStringList a
 
     // Nobody owns the process object but itself: QProcess kills its child when it is destroyed.
     auto *process = new QProcess;
+    underWay().insert(process);
+    QObject::connect(process, &QObject::destroyed, [process] { underWay().remove(process); });
     const ResumeOnce<Outcome> ended;
     QObject::connect(process, &QProcess::finished, process, [process, ended] {
         ended.complete(outcomeOf(*process));

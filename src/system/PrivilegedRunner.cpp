@@ -22,9 +22,22 @@ std::optional<QByteArray> contentOf(const QString &path)
     return content;
 }
 
+// From the helper's own line on, and without sudo's where the shell speaks for the helper. What stands before it are warnings of sudo (a host name that it cannot resolve), of
+// the shell or of a library, and no reason for anything.
+QString helpersWords(const QString &errors)
+{
+    static const QRegularExpression line(QStringLiteral("^ERROR: "), QRegularExpression::MultilineOption);
+    if (const auto match = line.match(errors); match.hasMatch())
+        return errors.sliced(match.capturedStart());
+    QStringList lines = errors.split(u'\n');
+    lines.removeIf([](const QString &said) { return said.startsWith(QLatin1String("sudo: ")); });
+    const QString others = lines.join(u'\n');
+    return others.trimmed().isEmpty() ? errors : others;
+}
+
 HelperError failure(const QString &text)
 {
-    return HelperError::failed(PrivilegedRunner::cleanError(text));
+    return HelperError::failed(PrivilegedRunner::cleanError(helpersWords(text)));
 }
 
 // Whether every line is sudo's own. It translates its complaints, but not its name before them.
@@ -39,6 +52,8 @@ bool onlySudoSpoke(const QString &errors)
 // With -n sudo never asks: it complains of a password or a terminal that it would need.
 bool sudoRefused(const ProcessResult &result)
 {
+    if (helpersWords(result.stderr).startsWith(QLatin1String("ERROR: ")))
+        return false; // whatever it says, and whatever sudo warned of before
     return result.stderr.toLower().contains(QLatin1String("password"))
         || result.stderr.contains(QLatin1String("a terminal")) || onlySudoSpoke(result.stderr);
 }

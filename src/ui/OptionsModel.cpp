@@ -19,6 +19,12 @@ bool OptionsModel::locked() const
     return phase == Phase::connecting || phase == Phase::connected || phase == Phase::disconnecting;
 }
 
+bool OptionsModel::strictMode() const
+{
+    const Snapshot &now = m_session.now();
+    return now.phase == Phase::connected ? now.activeMode == RoutingMode::strict : choices().strictMode;
+}
+
 void OptionsModel::setStrictMode(bool on)
 {
     Choices next = choices();

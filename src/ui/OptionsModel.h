@@ -38,7 +38,7 @@ public:
     explicit OptionsModel(Session &session, QObject *parent = nullptr);
 
     bool locked() const; // the connection's options hold until it ends
-    bool strictMode() const { return choices().strictMode; }
+    bool strictMode() const; // while connected, what the session has
     bool allowLocalNetwork() const { return choices().allowLocalNetwork; }
     bool optimizeSpeed() const { return choices().optimizeSpeed; }
     bool terminalMode() const { return choices().terminalMode; }

@@ -60,6 +60,7 @@ namespace {
     QT_TRANSLATE_NOOP("Session", "Checking latest version…"),
     QT_TRANSLATE_NOOP("Session", "Verifying signature…"),
     QT_TRANSLATE_NOOP("Session", "Another download is under way."),
+    QT_TRANSLATE_NOOP("Session", "The download begins again when Tor is connected…"),
     QT_TRANSLATE_NOOP("Session", "Path not responding, finding another…"),
     QT_TRANSLATE_NOOP("Session", "Tor didn't finish connecting within 5 minutes."),
     QT_TRANSLATE_NOOP("Session", "Administrator access was refused."),
@@ -92,10 +93,14 @@ constexpr const char *forms[] = {
     QT_TRANSLATE_NOOP("Session", "Slow path (%1 ms), finding a faster one…"),
     QT_TRANSLATE_NOOP("Session", "Downloading Tor %1 bridge programs…"),
     QT_TRANSLATE_NOOP("Session", "Download of %1 failed (HTTP %2)."),
+    QT_TRANSLATE_NOOP("Session", "Version %1 is offered, which is older than the installed %2. Nothing was changed."),
+    QT_TRANSLATE_NOOP("Session", "What came as version %1 is another one, so it was discarded."),
     QT_TRANSLATE_NOOP("Session", "The settings file couldn't be read. It was kept as %1, and a new one is used."),
     QT_TRANSLATE_NOOP("Session", "The settings file %1 can't be read or replaced. Changes to the settings last "
                                  "until you quit."),
     QT_TRANSLATE_NOOP("Session", "Couldn't open %1 without Tor: %2"),
+    QT_TRANSLATE_NOOP("Session", "\"%1\" is no place for Tor: give the whole path, such as /usr/bin/tor."),
+    QT_TRANSLATE_NOOP("Session", "\"%1\" holds for the whole connection. Disconnect to change it."),
     QT_TRANSLATE_NOOP("Session", "%1 Your network is still pointed at Tor. Click Restore Network to undo."),
 };
 

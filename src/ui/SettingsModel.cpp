@@ -45,6 +45,12 @@ QString SettingsModel::torPlace() const
         : tr("Install it with %1").arg(m_session.profile().torInstallHint);
 }
 
+bool SettingsModel::torLocked() const
+{
+    const Phase phase = now().phase;
+    return phase == Phase::connecting || phase == Phase::connected || phase == Phase::disconnecting;
+}
+
 QString SettingsModel::installCommand() const
 {
     const QString &hint = m_session.profile().torInstallHint;

@@ -23,6 +23,7 @@ class SettingsModel : public QObject {
     Q_PROPERTY(QString torPlace READ torPlace NOTIFY changed)
     Q_PROPERTY(QString installCommand READ installCommand NOTIFY changed)
     Q_PROPERTY(bool torCustom READ torCustom NOTIFY changed)
+    Q_PROPERTY(bool torLocked READ torLocked NOTIFY changed)
     Q_PROPERTY(QUrl torFolder READ torFolder CONSTANT)
     Q_PROPERTY(QString onComputer READ onComputer CONSTANT)
     Q_PROPERTY(bool lyrebird READ lyrebird NOTIFY changed)
@@ -58,6 +59,7 @@ public:
     bool torFound() const { return now().torPath.has_value(); }
     QString torStatus() const; // "Found", "Missing" (a custom one), "Not found" (anywhere)
     QString torPlace() const;
+    bool torLocked() const; // a connection holds on to the tor that it has
     QString installCommand() const; // what `torPlace` tells to run; empty when it tells something else
     bool torCustom() const { return !now().choices.customTorPath.isEmpty(); }
     QUrl torFolder() const; // where a chooser starts

@@ -322,6 +322,71 @@ class AnOrdinaryUser(LabCase):
         self.assert_restored()
 
 
+class UnderTheLeakChecker(LabCase):
+    """The shipped program under LeakSanitizer, ended at several moments: exit status 23 would mean that something is left."""
+
+    LEFT = 23
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        checker = next(Path("/usr/lib").glob("*/liblsan.so.0"), None)
+        forget = os.environ.get("VELDMARK_FORGET_PRELOAD", str(PROJECT / "build/dev/tests/ForgetPreload.so"))
+        if checker is None:
+            raise unittest.SkipTest("liblsan is not installed")
+        env = {"LD_PRELOAD": f"{checker} {forget}",
+               "LSAN_OPTIONS": f"suppressions={PROJECT}/tests/lsan.supp:print_suppressions=0"}
+        cls.product = Product(cls.lab, PROGRAMS, env=env)
+
+    def end(self, session):
+        status = session.interrupt(signal.SIGTERM, timeout=90)
+        self.assertEqual(status, 0, session.output[-6000:])
+        self.assertNotIn("LeakSanitizer", session.output)
+
+    def test_the_checker_sees_what_is_lost(self):
+        lose = "import ctypes; ctypes.CDLL(None).malloc(123456)"
+        done = self.lab.host.run(["python3", "-c", lose], env=self.product.env)
+        self.assertEqual(done.returncode, self.LEFT, done.stderr)
+
+    def test_ready(self):
+        with self.product.session(connect=False) as session:
+            session.wait_phase("disconnected")
+            self.end(session)
+
+    def test_soon_after_the_start(self):
+        for pause in (0.05, 0.3, 0.6, 1.2):
+            with self.subTest(pause), self.product.session() as session:
+                time.sleep(pause)
+                session.send(signal.SIGTERM)
+                # A signal that comes before its handler is an ordinary death.
+                self.assertIn(session.process.wait(90), (0, -signal.SIGTERM), session.output[-6000:])
+                self.assertNotIn("LeakSanitizer", session.output)
+        self.assert_restored()
+
+    def test_while_it_bootstraps(self):
+        with self.product.session() as session:
+            session.wait(lambda s: s["phase"] == "connecting" and s["bootstrapProgress"] > 0)
+            self.end(session)
+        self.assert_restored()
+
+    def test_during_the_checks(self):
+        with self.product.session() as session:
+            session.wait(lambda s: s["phase"] == "connected" and s["isChecking"])
+            self.end(session)
+            self.assertEqual(session.output.count("Restoring your network settings…"), 1, session.output)
+        self.assert_restored()
+
+    def test_with_a_client_that_follows(self):
+        with self.product.session() as session:
+            session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"] and s["exitIP"])
+            with self.lab.host.popen([self.product.ctl, "status", "--watch"], stdout=-3, stderr=-3) as following:
+                self.product.run_verb("circuits", check=True)
+                self.product.run_verb("new-identity", check=True)
+                self.end(session)
+                following.wait(20)
+        self.assert_restored()
+
+
 class OneInstanceAndBadInput(LabCase):
     def test_a_second_instance_says_that_one_is_running(self):
         with self.product.session(connect=False) as session:

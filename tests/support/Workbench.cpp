@@ -60,8 +60,10 @@ QCoro::Task<TransportDownloader::Outcome> installed()
     co_return InstalledBundle{QStringLiteral("14.0.4"), true};
 }
 
-QCoro::Task<PluggableTransports> answered(PluggableTransports transports)
+QCoro::Task<PluggableTransports> answered(PluggableTransports transports, std::function<QCoro::Task<void>()> before)
 {
+    if (before)
+        co_await before();
     co_return transports;
 }
 
@@ -147,12 +149,16 @@ void Workbench::restart()
         .applications = applications,
         .locateTransports = [this] {
             ++searches;
-            return answered(transports);
+            return answered(transports, beforeSearchAnswer);
         },
         .bridgeProbe = [this](QString host, quint16 port, std::chrono::milliseconds limit) {
             return bridgeProbe(std::move(host), port, limit);
         },
         .installTransports = withoutDownloader ? nullptr : install,
+        .cancelTransports = [this] {
+            if (cancelTransports)
+                cancelTransports();
+        },
     });
     settle();
 }

@@ -112,7 +112,9 @@ public:
     ScriptedApplications applications;
     PluggableTransports transports; // what a search finds
     int searches = 0;               // for transports
+    std::function<QCoro::Task<void>()> beforeSearchAnswer; // what is found is settled before it
     bool withoutDownloader = false; // of the next restart()
+    std::function<void()> cancelTransports; // heard when a direct download is to end
     // What a download comes to; well, unless this says otherwise.
     std::function<QCoro::Task<TransportDownloader::Outcome>(bool throughTor, TransportDownloader::Progress progress)>
         installTransports;

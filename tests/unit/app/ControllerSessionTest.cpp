@@ -3,6 +3,7 @@
 #include "support/Workbench.h"
 
 #include <QFileInfo>
+#include <QMetaMethod>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -161,7 +162,98 @@ private Q_SLOTS:
         follow(session);
         QVERIFY(session.now().errorMessage);
         QVERIFY(session.now().errorMessage->startsWith(QStringLiteral("Couldn't change the login-item setting: ")));
+        QCOMPARE(bench.controller().errorMessage(), session.now().errorMessage); // the command line sees it as well
         QCOMPARE(session.now().openAtLogin, std::optional(false));
+    }
+
+    void everyFieldThatChangesIsShown()
+    {
+        Workbench bench;
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        settle();
+        const QMetaObject *type = bench.controller().metaObject();
+        int fields = 0;
+        for (int i = type->methodOffset(); i < type->methodCount(); ++i) {
+            const QMetaMethod method = type->method(i);
+            if (method.methodType() != QMetaMethod::Signal || !method.name().endsWith("Changed"))
+                continue;
+            ++fields;
+            QSignalSpy changed(&session, &Session::changed);
+            QVERIFY(method.invoke(&bench.controller(), Qt::DirectConnection));
+            settle();
+            QVERIFY2(changed.count() == 1, method.name().constData());
+        }
+        QVERIFY(fields >= 35);
+    }
+
+    void oneClickDismissesOneMessage()
+    {
+        Workbench bench;
+        bench.writeFile(bench.profile.settingsFile, QByteArray("\0\xff=", 3));
+        bench.restart();
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        const QString first = session.now().errorMessage.value();
+        bench.removeTor();
+        session.connectToTor();
+        follow(session);
+        QCOMPARE(session.now().errorMessage.value(), bench.profile.torMissingText); // in front of the first
+        session.dismissError();
+        follow(session);
+        QCOMPARE(session.now().errorMessage.value(), first);
+        session.dismissError();
+        follow(session);
+        QVERIFY(!session.now().errorMessage);
+    }
+
+    void aMessageThatNobodyHasSeenIsNotDismissed()
+    {
+        Workbench bench;
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        bench.controller().showProblem(u"First."_s);
+        follow(session);
+        bench.controller().showProblem(u"Second."_s); // not shown yet when the user clicks
+        session.dismissError();
+        follow(session);
+        QCOMPARE(session.now().errorMessage.value(), u"Second."_s);
+    }
+
+    void whatAConnectionHoldsIsNotStored()
+    {
+        Workbench bench;
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        QVERIFY(bench.connect());
+        settle();
+        Choices choices = session.now().choices;
+        QVERIFY(choices.strictMode);
+        choices.strictMode = false;
+        choices.autoConnect = true;
+        session.store(choices);
+        follow(session);
+        QVERIFY(session.now().choices.strictMode && session.now().choices.autoConnect);
+        QVERIFY(session.now().errorMessage.value().contains(u"Disconnect to change it."_s));
+        bench.disconnect();
+        settle();
+        session.store(choices);
+        follow(session);
+        QVERIFY(!session.now().choices.strictMode);
+    }
+
+    void aDisconnectHasTheProgressOfItsSession()
+    {
+        Workbench bench;
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        QVERIFY(bench.connect());
+        bench.hold(u"disconnect"_s);
+        const auto disconnecting = bench.controller().disconnect();
+        QVERIFY(until([&] { return session.now().phase == Phase::disconnecting; }));
+        QCOMPARE(session.now().bootstrapProgress, 1.0); // not to be shown as that of the disconnect
+        QCOMPARE(session.now().statusDetail, u"Restoring your network settings…"_s);
+        QVERIFY(!session.now().canCancel && !session.now().exitIP);
+        bench.processes.hold = nullptr;
+        bench.processes.release();
+        QVERIFY(Workbench::finished(disconnecting));
+        QVERIFY(until([&] { return session.now().phase == Phase::disconnected; }));
+        QCOMPARE(session.now().bootstrapProgress, 0.0);
     }
 };
 

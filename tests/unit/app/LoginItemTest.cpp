@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -62,6 +63,48 @@ private Q_SLOTS:
         QVERIFY(done.error().startsWith(QStringLiteral("Couldn't write ")));
         profile.autostartFile.clear();
         QVERIFY(!LoginItem(profile).set(true));
+    }
+
+    void anEntryThatIsSwitchedOffIsOff_data()
+    {
+        QTest::addColumn<QByteArray>("lines");
+        QTest::addColumn<bool>("set");
+        const QByteArray head = "[Desktop Entry]\nType=Application\nExec=veldmark\n";
+        QTest::newRow("plain") << head << true;
+        QTest::newRow("enabled") << head + "X-GNOME-Autostart-enabled=true\nHidden=false\n" << true;
+        QTest::newRow("hidden") << head + "Hidden=true\n" << false;
+        QTest::newRow("hidden, with blanks") << head + "  Hidden = true \r\n" << false;
+        QTest::newRow("not enabled") << head + "X-GNOME-Autostart-enabled=false\n" << false;
+        QTest::newRow("both ways") << head + "Hidden=false\nX-GNOME-Autostart-enabled=false\n" << false;
+        QTest::newRow("another group") << head + "[Desktop Action x]\nHidden=true\n" << true;
+        QTest::newRow("a longer key") << head + "NotHidden=true\n" << true;
+        QTest::newRow("a comment") << head + "#Hidden=true\n" << true;
+    }
+
+    void anEntryThatIsSwitchedOffIsOff()
+    {
+        QFETCH(QByteArray, lines);
+        QFETCH(bool, set);
+        QTemporaryDir folder;
+        const PlatformProfile profile = PlatformProfile::linux(Places::below(folder.path()));
+        QVERIFY(QDir().mkpath(QFileInfo(profile.autostartFile).path()));
+        QFile file(profile.autostartFile);
+        const auto content = [&file] {
+            const bool opened = file.open(QIODevice::ReadOnly);
+            const QByteArray text = file.readAll();
+            file.close();
+            return opened ? text : QByteArray("(none)");
+        };
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(lines) == lines.size());
+        file.close();
+        const LoginItem item(profile);
+        QCOMPARE(item.isSet(), set);
+        QVERIFY(item.set(set)); // as it is already
+        QCOMPARE(content(), lines);
+        QVERIFY(item.set(!set));
+        QCOMPARE(item.isSet(), !set);
+        QVERIFY(item.set(true));
+        QVERIFY(item.isSet());
     }
 };
 

@@ -142,6 +142,36 @@ private Q_SLOTS:
         settle();
         QCOMPARE(g.mayEnd.count(), 0);
     }
+
+    void disconnectAndQuitDuringADisconnectQuitsWhenItIsDone_data()
+    {
+        QTest::addColumn<bool>("restored");
+        QTest::newRow("restored") << true;
+        QTest::newRow("the prompt is dismissed") << false;
+    }
+    void disconnectAndQuitDuringADisconnectQuitsWhenItIsDone()
+    {
+        QFETCH(bool, restored);
+        Guarded g;
+        QVERIFY(g.bench.connect());
+        g.bench.hold(u"disconnect"_s);
+        if (!restored)
+            g.bench.cancelPrompt(u"disconnect"_s);
+        const auto disconnecting = g.bench.controller().disconnect();
+        QVERIFY(until([&] { return g.bench.processes.held() == 1; }));
+        g.guard.quit();
+        QVERIFY(Guarded::answer("disconnectWanted"));
+        settle();
+        QVERIFY(Guarded::question()->property("busy").toBool());
+        QVERIFY(!g.mainIsShown());
+        QCOMPARE(g.mayEnd.count(), 0);
+        g.bench.processes.release();
+        QVERIFY(until([&] { return !Guarded::question(); }));
+        QVERIFY(Workbench::finished(disconnecting));
+        QCOMPARE(g.mayEnd.count(), restored ? 1 : 0);
+        QCOMPARE(g.mainIsShown(), !restored); // its banner says why
+        QCOMPARE(g.bench.helperRunCount(u"disconnect"_s), 1);
+    }
 };
 
 VELDMARK_WINDOWED_TEST(QuitGuardTest)

@@ -69,9 +69,12 @@ private:
 };
 
 // The archive of a bundle whose lyrebird prints `mark`. `padding`: bytes that do not compress.
-inline QByteArray bundleArchive(const QByteArray &mark, qsizetype padding = 0)
+// version: what the archive says itself that it is; empty, as the real one: nothing.
+inline QByteArray bundleArchive(const QByteArray &mark, qsizetype padding = 0, const QByteArray &version = {})
 {
     const ProgramTree tree;
+    if (!version.isEmpty())
+        tree.file(QStringLiteral("b/VERSION"), version);
     tree.program(QStringLiteral("b/tor/pluggable_transports/lyrebird"), "#!/bin/sh\necho " + mark + '\n');
     tree.file(QStringLiteral("b/tor/pluggable_transports/pt_config.json"),
               "{\"bridges\": {\"obfs4\": [\"obfs4 192.0.2.3:80 cert=A iat-mode=0\"]}}");

@@ -152,6 +152,23 @@ private Q_SLOTS:
         QVERIFY(!claimed);
         QVERIFY2(claimed.error().startsWith(QStringLiteral("Couldn't make the folder ")), qPrintable(claimed.error()));
     }
+
+    void theOldBundleStaysWhenTheNewOneCannotTakeItsPlace()
+    {
+        const ProgramTree tree;
+        tree.file(QStringLiteral("data/Bundle/content"), "old");
+        const auto losesTheNewOne = [](const QString &fresh, const QString &) {
+            removeTree(fresh);
+            return false;
+        };
+        const auto folder = claim(tree, losesTheNewOne);
+        QVERIFY(folder->fresh());
+        const auto published = folder->publish(QStringLiteral("2.0"), true);
+        QVERIFY(!published);
+        QVERIFY2(published.error().startsWith(QStringLiteral("Couldn't write ")), qPrintable(published.error()));
+        QCOMPARE(tree.content(QStringLiteral("data/Bundle/content")), QByteArray("old"));
+        QCOMPARE(everything(tree), QStringList({QStringLiteral(".Bundle.lock"), QStringLiteral("Bundle")}));
+    }
 };
 
 VELDMARK_TEST(BundleFolderTest)

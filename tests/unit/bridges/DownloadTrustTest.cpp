@@ -1,6 +1,10 @@
 #include "DownloadBench.h"
 #include "support/TestProgram.h"
 
+#include <QHash>
+#include <QScopeGuard>
+
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace veldmark;
@@ -140,6 +144,99 @@ private Q_SLOTS:
         const QFileInfo bundle(m_profile->bundleDirectory);
         QCOMPARE(QDir(bundle.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot),
                  QStringList({QStringLiteral(".TorExpertBundle.lock"), QStringLiteral("TorExpertBundle")}));
+    }
+
+    void refusesAVersionThatIsOlderThanTheInstalledOne_data()
+    {
+        QTest::addColumn<QByteArray>("installedVersion");
+        QTest::addColumn<bool>("refused");
+        QTest::newRow("older") << QByteArray("14.0.3") << false;
+        QTest::newRow("the same") << QByteArray("14.0.4") << false;
+        QTest::newRow("newer") << QByteArray("14.0.10") << true;
+        QTest::newRow("unreadable") << QByteArray("garbage") << false;
+    }
+
+    void refusesAVersionThatIsOlderThanTheInstalledOne()
+    {
+        QFETCH(QByteArray, installedVersion);
+        QFETCH(bool, refused);
+        putBundle();
+        m_tree->file(m_profile->bundleDirectory + QStringLiteral("/VERSION"), installedVersion);
+        const Outcome outcome = install();
+        QCOMPARE(outcome.has_value(), !refused);
+        QCOMPARE(mark(), refused ? QByteArray("former") : QByteArray("fourteen"));
+        if (!refused)
+            return;
+        QCOMPARE(outcome.error().kind(), Kind::rollback);
+        QCOMPARE(outcome.error().description(),
+                 QStringLiteral("Version 14.0.4 is offered, which is older than the installed 14.0.10. Nothing was changed."));
+        QCOMPARE(paths(), QByteArrayList({indexPath})); // before anything is downloaded
+    }
+
+    void refusesAnOlderArchiveUnderANewName()
+    {
+        QVERIFY(install());
+        QCOMPARE(installed("SIGNED").toLongLong() > 1'700'000'000, true);
+        QVERIFY(install()); // the same once more
+        // The installed one was signed later than what is served now.
+        m_tree->file(m_profile->bundleDirectory + QStringLiteral("/SIGNED"),
+                     QByteArray::number(installed("SIGNED").toLongLong() + 1));
+        const Outcome outcome = install();
+        QVERIFY(!outcome);
+        QCOMPARE(outcome.error().kind(), Kind::rollback);
+        QCOMPARE(outcome.error().description(),
+                 QStringLiteral("What came as version 14.0.4 is another one, so it was discarded."));
+        QCOMPARE(mark(), QByteArray("fourteen"));
+    }
+
+    void refusesAnArchiveThatSaysThatItIsAnotherVersion()
+    {
+        putBundle();
+        serveArchive(bundleArchive("other", 0, "13.0.1\n"));
+        const Outcome outcome = install();
+        QVERIFY(!outcome);
+        QCOMPARE(outcome.error().kind(), Kind::rollback);
+        QCOMPARE(mark(), QByteArray("former"));
+        serveArchive(bundleArchive("announced", 0, "14.0.4\n"));
+        QVERIFY(install());
+        QCOMPARE(mark(), QByteArray("announced"));
+    }
+
+    void theTemporaryFolderIsTheUsersAlone()
+    {
+        const mode_t former = ::umask(0);
+        const auto restore = qScopeGuard([former] { ::umask(former); });
+        QHash<QString, uint> modes;
+        m_service->respond = [this, &modes](QSslSocket *socket) {
+            for (const QString &name : temporaryFolders()) {
+                struct stat status {};
+                const QByteArray path = QFile::encodeName(QStringLiteral("/tmp/") + name);
+                if (!m_formerTemporaries.contains(name) && ::stat(path.constData(), &status) == 0)
+                    modes.insert(name, status.st_mode & 07777);
+            }
+            const QByteArray path = m_service->requests.last().split(' ').value(1);
+            m_answers.value(path, CheckService::answer("404 Not Found", "no such page"))(socket);
+        };
+        QVERIFY(install());
+        QCOMPARE(modes.size(), 1); // it was there
+        QCOMPARE(modes.constBegin().value(), 0700U);
+    }
+
+    void tarTakesNoOwnersAndNoPermissionsOver()
+    {
+        // Instead of tar: writes down how it is called, then does it.
+        const QString seen = m_tree->path(QStringLiteral("seen"));
+        QFile::remove(m_tree->path(QStringLiteral("usr/bin/tar")));
+        m_tree->program(QStringLiteral("usr/bin/tar"), "#!/bin/sh\necho \"$*\" >>'" + seen.toUtf8() + "'\nexec /usr/bin/tar \"$@\"\n");
+        QVERIFY(install());
+        const QByteArrayList calls = m_tree->content(QStringLiteral("seen")).trimmed().split('\n');
+        QCOMPARE(calls.size(), 3); // two lists of what is in it, then the unpacking
+        const QByteArrayList words = calls.last().split(' ');
+        QCOMPARE(words.value(0), QByteArray("-xzf"));
+        QVERIFY2(words.value(1).startsWith("/tmp/vmk-") && words.value(1).endsWith("/archive.tar.gz"), words.value(1).constData());
+        QCOMPARE(words.value(2), QByteArray("-C"));
+        QVERIFY2(words.value(3).contains("/.TorExpertBundle.new-"), words.value(3).constData());
+        QCOMPARE(words.mid(4), QByteArrayList({"--no-same-owner", "--no-same-permissions"}));
     }
 };
 

@@ -135,19 +135,23 @@ private Q_SLOTS:
     void rootDoesNotRunWhatOthersCanChange_data()
     {
         QTest::addColumn<bool>("folderIsOpen");
-        QTest::newRow("program") << false;
-        QTest::newRow("folder above") << true;
+        QTest::addColumn<int>("permission");
+        QTest::newRow("program, others") << false << static_cast<int>(QFile::WriteOther);
+        QTest::newRow("program, its group") << false << static_cast<int>(QFile::WriteGroup);
+        QTest::newRow("folder above, others") << true << static_cast<int>(QFile::WriteOther);
+        QTest::newRow("folder above, its group") << true << static_cast<int>(QFile::WriteGroup);
     }
 
     void rootDoesNotRunWhatOthersCanChange()
     {
         QFETCH(bool, folderIsOpen);
+        QFETCH(int, permission);
         const ProgramTree tree;
         const QString program = tree.program(QStringLiteral("open/bin/lyrebird"), script(
             "echo CMETHOD snowflake socks5 127.0.0.1:1; echo CMETHODS DONE\n"));
         QCOMPARE(servedTransports(program, snowflake), snowflake);
         const QString opened = folderIsOpen ? tree.path(QStringLiteral("open")) : program;
-        QVERIFY(QFile::setPermissions(opened, QFile::permissions(opened) | QFile::WriteOther));
+        QVERIFY(QFile::setPermissions(opened, QFile::permissions(opened) | QFile::Permissions(permission)));
         QCOMPARE(servedTransports(program, snowflake), ::geteuid() == 0 ? QStringList() : snowflake);
     }
 };

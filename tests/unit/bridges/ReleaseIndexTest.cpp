@@ -75,7 +75,45 @@ private Q_SLOTS:
     {
         QFETCH(QString, status);
         QFETCH(bool, isValid);
-        QCOMPARE(isSignedBy(status, key), isValid);
+        QCOMPARE(signatureTime(status, key).has_value(), isValid);
+    }
+
+    void tellsWhenItWasSigned()
+    {
+        const QString bySubkey = QStringLiteral("[GNUPG:] VALIDSIG 6131 2024-01-01 1704067200 0 4 0 1 10 00 ") + key;
+        QCOMPARE(signatureTime(bySubkey, key), std::optional<qint64>(1704067200));
+        QCOMPARE(signatureTime(QStringLiteral("[GNUPG:] VALIDSIG ") + key, key), std::optional<qint64>(0));
+    }
+
+    void comparesVersions_data()
+    {
+        QTest::addColumn<QString>("older");
+        QTest::addColumn<QString>("newer");
+        QTest::newRow("last group") << "14.0.4" << "14.0.5";
+        QTest::newRow("numbers, not letters") << "14.0.9" << "14.0.10";
+        QTest::newRow("first group") << "9.5.9" << "14.0";
+        QTest::newRow("one group more") << "14.0" << "14.0.1";
+        QTest::newRow("alpha and release") << "14.0a9" << "14.0";
+        QTest::newRow("two alphas") << "14.0a9" << "14.0a10";
+        QTest::newRow("alpha and beta") << "14.0a1" << "14.0b1";
+        QTest::newRow("release and the next alpha") << "14.0.4" << "14.5a1";
+    }
+
+    void comparesVersions()
+    {
+        QFETCH(QString, older);
+        QFETCH(QString, newer);
+        QVERIFY(isOlderVersion(older, newer));
+        QVERIFY(!isOlderVersion(newer, older));
+        QVERIFY(!isOlderVersion(older, older) && !isOlderVersion(newer, newer));
+    }
+
+    void equalOrStrangeVersionsAreNotOlder()
+    {
+        QVERIFY(!isOlderVersion(QStringLiteral("14.0"), QStringLiteral("14.0.0")));
+        QVERIFY(!isOlderVersion(QStringLiteral("14.0.0"), QStringLiteral("14.0")));
+        QVERIFY(!isOlderVersion(QStringLiteral("14.0"), QStringLiteral("garbage")));
+        QVERIFY(!isOlderVersion(QStringLiteral("14.0"), QString()));
     }
 
     void tellsHowFarADownloadIs()

@@ -389,6 +389,51 @@ private Q_SLOTS:
         QTRY_VERIFY(tor.isDone() && direct.isDone());
         QVERIFY(tor.result() && direct.result());
     }
+
+    // Who closes the connection before a word was said has answered all the same: the path is open.
+    void aConnectionThatIsClosedAtOnceWasOne_data()
+    {
+        QTest::addColumn<bool>("accepts");
+        QTest::newRow("accepted and closed") << true;
+        QTest::newRow("refused") << false;
+    }
+    void aConnectionThatIsClosedAtOnceWasOne()
+    {
+        QFETCH(bool, accepts);
+        QTcpServer server;
+        QVERIFY(server.listen(QHostAddress::LocalHost));
+        connect(&server, &QTcpServer::newConnection, &server, [&server] {
+            QTcpSocket *const socket = server.nextPendingConnection();
+            connect(socket, &QTcpSocket::readyRead, socket, [socket] { // all of it: else it is a reset
+                socket->readAll();
+                socket->disconnectFromHost();
+            });
+        });
+        const QUrl target(QStringLiteral("https://127.0.0.1:%1/api/ip").arg(server.serverPort()));
+        if (!accepts)
+            server.close();
+        ExitCheckProbe network(*m_clock, target, 1, m_certificates->client());
+        const Probe direct(network.direct());
+        QTRY_VERIFY(direct.isDone());
+        QCOMPARE(direct.failure(), Kind::transport);
+        QCOMPARE(direct.result().error().reachedNetwork, accepts);
+    }
+
+    void followsNoRedirect()
+    {
+        m_service->respond = [this](QSslSocket *socket) {
+            if (m_service->requests.last().startsWith("GET /other "))
+                CheckService::goodAnswer(true, "192.0.2.9")(socket); // following it would look like an answer
+            else
+                socket->write("HTTP/1.1 302 Found\r\nLocation: /other\r\nContent-Length: 0\r\n\r\n");
+        };
+        const auto network = probe();
+        const Probe direct(network->direct());
+        QTRY_VERIFY(direct.isDone());
+        QVERIFY(!direct.result());
+        QCOMPARE(direct.failure(), Kind::badResponse);
+        QCOMPARE(m_service->requests.size(), 1);
+    }
 };
 
 VELDMARK_TEST(ExitCheckProbeTest)

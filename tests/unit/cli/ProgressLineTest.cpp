@@ -37,6 +37,18 @@ private Q_SLOTS:
             QVERIFY(text.size() <= std::max(columns, 34));
         }
     }
+
+    void drawsTheSameAgainAfterSomethingElseWasSaid()
+    {
+        for (const bool terminal : {true, false}) {
+            ProgressLine line(terminal, 80);
+            const QString drawn = line.update(0.5, QStringLiteral("Loading"));
+            QVERIFY(!drawn.isEmpty());
+            QVERIFY(line.update(0.5, QStringLiteral("Loading")).isEmpty());
+            line.finish();
+            QCOMPARE(line.update(0.5, QStringLiteral("Loading")), drawn);
+        }
+    }
 };
 
 VELDMARK_TEST(ProgressLineTest)

@@ -56,6 +56,15 @@ private Q_SLOTS:
         QVERIFY(report.contains(QStringLiteral("can go around Tor via: 192.0.2.1 on eth0")));
     }
 
+    void saysWhatIsWrong()
+    {
+        const QString report = Report::status(object(
+            R"({"phase":"disconnected","errorMessage":"No tor.","terminalError":"No ~/.bashrc."})"));
+        QVERIFY(report.contains(QStringLiteral("\n  Problem     No tor.")));
+        QVERIFY(report.contains(QStringLiteral("\n  Terminal    No ~/.bashrc.")));
+        QVERIFY(!Report::status(object(R"({"phase":"disconnected"})")).contains(QStringLiteral("Terminal")));
+    }
+
     void saysHowToRestoreAStaleNetwork()
     {
         QVERIFY(Report::status(object(R"({"phase":"stale"})")).contains(QStringLiteral("veldmarkctl restore")));

@@ -4,6 +4,9 @@
 #include "support/ManualClock.h"
 #include "support/TestProgram.h"
 
+#include <QCoreApplication>
+#include <QNetworkProxy>
+#include <QScopeGuard>
 #include <QTest>
 
 using namespace std::chrono_literals;
@@ -312,6 +315,59 @@ private Q_SLOTS:
         const auto failure = ask(opened.connection, "X").error();
         clock.advance(10s);
         QCOMPARE(ask(opened.connection, "X").error(), failure);
+    }
+
+    void goesPastTheProgramsProxy()
+    {
+        FakeTor tor;
+        const auto restore = qScopeGuard([] { QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy); });
+        QNetworkProxy::setApplicationProxy(
+            QNetworkProxy(QNetworkProxy::Socks5Proxy, QStringLiteral("127.0.0.1"), tor.port()));
+        // Qt asks no proxy for "localhost" and its addresses anyway, unless the address is another one's that leads there.
+        const QHostAddress here(QStringLiteral("0.0.0.0"));
+        QTcpSocket ordinary;
+        ordinary.connectToHost(here, tor.port());
+        QTRY_VERIFY(tor.connectionCount() == 1);
+        QVERIFY(ordinary.state() != QAbstractSocket::ConnectedState); // it talks SOCKS to what is none
+        ControlConnection connection(tor.port(), here);
+        QVERIFY(QCoro::waitFor(connection.open(tor.password())));
+    }
+
+    void aCaptureHoldsNoMoreThanItsLimit()
+    {
+        ManualClock clock;
+        Opened opened;
+        QVERIFY(ask(opened.connection, "SETEVENTS STREAM"));
+        const auto task = opened.connection.collectEvents(&clock, 5s);
+        // Short lines: each takes more room in memory than its bytes.
+        const QByteArray lines = QByteArray("650\r\n").repeated(10'000);
+        const qsizetype needed = ReplyFraming::largestReplyBytes / (3 + ReplyFraming::lineOverheadBytes);
+        qsizetype sent = 0;
+        for (; sent <= needed + 20'000 && !task.isReady(); sent += 10'000) {
+            opened.tor.sendEvent(lines);
+            QCoreApplication::processEvents();
+        }
+        QTRY_VERIFY(task.isReady()); // by its limit: no time has passed and nobody has hung up
+        QVERIFY(!opened.connection.isOpen());
+    }
+
+    void takesAtMost65536BytesAtOnce()
+    {
+        Opened opened;
+        opened.tor.reply("X", QByteArray(300'000, 'x'));
+        QVERIFY(QCoro::waitFor(opened.connection.send("X\r\n")));
+        qsizetype received = 0;
+        bool wasFull = false;
+        while (received < 300'000) {
+            QTest::qWait(20); // more than that is there by now
+            const auto chunk = QCoro::waitFor(opened.connection.receive());
+            QVERIFY(chunk);
+            QVERIFY2(chunk->size() <= 65'536, qPrintable(QString::number(chunk->size())));
+            wasFull = wasFull || chunk->size() == 65'536;
+            received += chunk->size();
+        }
+        QVERIFY(wasFull);
+        QCOMPARE(received, qsizetype(300'000));
     }
 };
 

@@ -60,6 +60,7 @@ private Q_SLOTS:
         QTest::newRow("linux bundle") << false << u"/a/b.app"_s << false;
         QTest::newRow("mac bundle") << true << u"/Applications/B.app"_s << true;
         QTest::newRow("mac folder") << true << u"/Applications/B"_s << false;
+        QTest::newRow("relative") << false << u"b.desktop"_s << false;
         QTest::newRow("empty") << false << QString() << false;
     }
 
@@ -153,6 +154,44 @@ private Q_SLOTS:
         QVERIFY(Workbench::finished(bench.controller().launchBypassed(zed)));
         QCOMPARE(bench.helperRunCount(u"launch"_s), 1);
         QVERIFY(!bench.controller().errorMessage());
+    }
+
+    void aSecondPressWhileThePromptIsUpDoesNothing()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        bench.applications.names = {{zed, u"Zed"_s}};
+        QVERIFY(bench.connect());
+        bench.hold(u"launch"_s);
+        const auto first = c.launchBypassed(zed);
+        QVERIFY(until([&] { return bench.processes.held() == 1; }));
+        auto second = c.launchBypassed(u"/usr/share//applications/a-zed.desktop"_s); // the same one
+        QVERIFY(second.isReady());
+        QVERIFY(!QCoro::waitFor(std::move(second)));
+        QVERIFY(!c.errorMessage());
+        QCOMPARE(bench.helperRunCount(u"launch"_s), 1);
+        const auto other = c.launchBypassed(alpha); // another one is another wish
+        QVERIFY(until([&] { return bench.processes.held() == 2; }));
+        bench.processes.hold = nullptr;
+        bench.processes.release();
+        QVERIFY(Workbench::finished(first) && Workbench::finished(other));
+        QVERIFY(Workbench::finished(c.launchBypassed(zed))); // and again when it is through
+        QCOMPARE(bench.helperRunCount(u"launch"_s), 3);
+    }
+
+    void opensNothingWhenTheSessionEndsWhileACopyQuits()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        bench.applications.copies = {{zed, {7}}};
+        const auto launching = c.launchBypassed(zed);
+        bench.disconnect();
+        bench.applications.ended = {7};
+        bench.clock.advance(100ms);
+        QVERIFY(Workbench::finished(launching));
+        QCOMPARE(bench.helperRunCount(u"launch"_s), 0);
+        QVERIFY(!c.errorMessage());
     }
 };
 

@@ -294,6 +294,125 @@ private Q_SLOTS:
         settle();
         QCOMPARE(bench.tor.connectionCount(), connections);
     }
+
+    void aCountryThatCouldNotBeAskedForIsAskedForAgain()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        const QByteArray question = "GETINFO ip-to-country/192.0.2.2";
+        for (const QByteArray &relay : {guard, middle, exitRelay})
+            bench.tor.reply("GETINFO ns/id/" + relay,
+                            Workbench::block("ns/id/" + relay, {"r n A B 2026-03-01 10:00:00 192.0.2.2 9001 0"}));
+        bench.tor.reply(question, "250-ip-to-country/192.0.2.2=de\r\n250 OK\r\n");
+        bench.tor.ignore(question);
+        answer(bench, {circuit("1")});
+        const auto refreshing = c.refreshCircuits();
+        QVERIFY(bench.hears(question.constData()));
+        bench.tor.hangUp();
+        QVERIFY(Workbench::finished(refreshing));
+        QCOMPARE(c.circuits().front().hops[2].ip.value(), u"192.0.2.2"_s); // what is known is shown
+        QVERIFY(!c.circuits().front().hops[2].country);
+        const auto again = c.refreshCircuits();
+        QVERIFY(bench.hears(question.constData(), 2));
+        bench.tor.answerIgnored();
+        QVERIFY(Workbench::finished(again));
+        QCOMPARE(c.circuits().front().hops[2].country.value(), u"de"_s);
+    }
+
+    void anEarlierReadingNeverReplacesALaterOne()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        const QByteArray other(40, 'D');
+        answer(bench, {"12 BUILT $" + other + "~other PURPOSE=GENERAL", circuit("13")});
+        const QByteArray question = "GETINFO ns/id/" + other;
+        bench.tor.ignore(question); // what the first one then waits for
+        const auto first = c.refreshCircuits();
+        QVERIFY(bench.hears(question.constData()));
+        answer(bench, {circuit("13")}); // 12 has been closed
+        QVERIFY(refresh(bench));
+        QCOMPARE(ids(c), QStringList(u"13"_s));
+        bench.tor.answerIgnored();
+        QVERIFY(Workbench::finished(first));
+        QCOMPARE(ids(c), QStringList(u"13"_s));
+    }
+
+    void aReadingThatEndsLastButBeganFirstIsDropped()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        const QByteArray question = "GETINFO stream-status";
+        answer(bench, {circuit("12"), circuit("13")});
+        bench.tor.ignore(question);
+        const auto first = c.refreshCircuits();
+        QVERIFY(bench.hears(question.constData()));
+        const QByteArray other = "GETINFO circuit-status";
+        bench.tor.closeAfter(other); // the second one fails at once
+        bench.tor.reply(other, "");
+        const auto second = c.refreshCircuits();
+        QVERIFY(Workbench::finished(second));
+        QVERIFY(c.circuitError() && c.circuits().empty());
+        bench.tor.answerIgnored();
+        QVERIFY(Workbench::finished(first));
+        QVERIFY(c.circuits().empty()); // the older answer is not news
+        QVERIFY(c.circuitError());
+    }
+
+    void aNewIdentityForgetsTheExitAndAsksForTheNewOne()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        QCOMPARE(c.exitIP().value(), u"203.0.113.10"_s);
+        QVERIFY(c.torVerified().value());
+        bench.probe.torAnswer = IPCheck{true, u"203.0.113.20"_s};
+        bench.probe.beforeTorAnswer = [&bench] { return bench.clock.sleep(std::chrono::seconds(1)); };
+        const int direct = bench.probe.directProbes;
+        const auto renewing = c.newIdentity();
+        QVERIFY(!c.exitIP() && !c.torVerified());
+        QVERIFY(Workbench::finished(renewing));
+        QVERIFY(c.isChecking() && !c.exitIP());
+        QVERIFY(c.leakStatus() == LeakStatus::blocked()); // nothing has changed there
+        bench.clock.advance(std::chrono::seconds(1));
+        QVERIFY(until([&] { return !c.isChecking(); }));
+        QCOMPARE(c.exitIP().value(), u"203.0.113.20"_s);
+        QVERIFY(c.torVerified().value());
+        QCOMPARE(bench.probe.directProbes, direct); // nobody is told the new exit and the real address at once
+    }
+
+    void checksUnderWayAskAgainAfterANewIdentity_data()
+    {
+        QTest::addColumn<bool>("whole");
+        QTest::newRow("all checks") << true;
+        QTest::newRow("the exit's only") << false;
+    }
+
+    void checksUnderWayAskAgainAfterANewIdentity()
+    {
+        QFETCH(bool, whole);
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        bench.probe.beforeTorAnswer = [&bench] { return bench.clock.sleep(std::chrono::seconds(5)); };
+        if (whole)
+            c.runChecks();
+        else
+            c.newIdentity();
+        QVERIFY(until([&] { return c.isChecking(); }));
+        const int probes = bench.probe.torProbes;
+        bench.probe.torAnswer = IPCheck{true, u"203.0.113.20"_s}; // of the next probe
+        QVERIFY(Workbench::finished(c.newIdentity()));
+        bench.clock.advance(std::chrono::seconds(5)); // the old circuits' answer comes
+        QVERIFY(until([&] { return bench.probe.torProbes == probes + 1; }));
+        QVERIFY(c.isChecking() && !c.exitIP());
+        bench.clock.advance(std::chrono::seconds(5));
+        QVERIFY(until([&] { return !c.isChecking(); }));
+        QCOMPARE(c.exitIP().value(), u"203.0.113.20"_s);
+    }
+
 };
 
 VELDMARK_TEST(CircuitsTest)

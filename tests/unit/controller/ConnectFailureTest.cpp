@@ -248,6 +248,21 @@ private Q_SLOTS:
         QVERIFY(isNormal(bench.controller()));
         QVERIFY(!QFile::exists(bench.profile.terminalDirectory + u"/active"_s));
     }
+
+    void aRelativePlaceOfTorIsRefused()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect()); // there is a tor to fall back to
+        bench.disconnect();
+        c.customTorPath.set(u" bin/tor"_s); // as an older version may have kept it
+        QVERIFY(Workbench::finished(c.connect()));
+        QVERIFY(c.phase() == ConnectionPhase::disconnected);
+        QCOMPARE(c.errorMessage().value(),
+                 u"\"bin/tor\" is no place for Tor: give the whole path, such as /usr/bin/tor."_s);
+        QCOMPARE(bench.helperRunCount(u"connect"_s), 1);
+    }
+
 };
 
 VELDMARK_TEST(ConnectFailureTest)

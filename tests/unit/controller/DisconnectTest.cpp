@@ -275,6 +275,61 @@ private Q_SLOTS:
         QCOMPARE(c.exitIP().value(), u"198.51.100.2"_s);
         QVERIFY(!c.isChecking());
     }
+
+    void aRefusalDuringTheChecksBeginsThemAgain_data()
+    {
+        QTest::addColumn<bool>("first"); // those after connecting, with the optimisation to follow
+        QTest::newRow("after connecting") << true;
+        QTest::newRow("later") << false;
+    }
+
+    void aRefusalDuringTheChecksBeginsThemAgain()
+    {
+        QFETCH(bool, first);
+        Workbench bench;
+        TorController &c = bench.controller();
+        c.optimizeSpeed.set(true);
+        if (!first)
+            QVERIFY(bench.connect());
+        int slow = first ? 2 : 1; // probes: that of the checks that are broken off, that of those that begin again
+        bench.probe.beforeTorAnswer = [&bench, &slow] {
+            return bench.clock.sleep(std::chrono::milliseconds(slow-- > 0 ? 1600 : 0));
+        };
+        const auto checking = first ? c.connect() : c.runChecks();
+        QVERIFY(until([&] { return c.isChecking() && bench.clock.sleepers() == 2; }));
+        bench.cancelPrompt(u"disconnect"_s);
+        bench.disconnect();
+        QVERIFY(c.phase() == Phase::connected);
+        QVERIFY(c.isChecking() && c.leakStatus() == LeakStatus::checking());
+        const int probes = bench.probe.torProbes;
+        for (int step = 0; step < 30 && (c.isChecking() || c.isOptimizing()); ++step) {
+            bench.clock.advance(std::chrono::milliseconds(200));
+            settle();
+        }
+        QVERIFY(Workbench::finished(checking));
+        QVERIFY(!c.isChecking() && !c.isOptimizing());
+        QVERIFY(c.leakStatus() == LeakStatus::blocked());
+        QCOMPARE(c.exitIP().value(), u"203.0.113.10"_s);
+        QCOMPARE(bench.probe.torProbes, probes + (first ? 1 : 0)); // the optimisation of the slow path
+    }
+
+    void aRefusalDuringTheOptimisationBeginsItAgain()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        bench.probe.beforeTorAnswer = [&bench] { return bench.clock.sleep(std::chrono::seconds(1)); };
+        const auto optimizing = c.optimizeCircuits();
+        QVERIFY(c.isOptimizing());
+        bench.cancelPrompt(u"disconnect"_s);
+        bench.disconnect();
+        QVERIFY(c.phase() == Phase::connected && c.isOptimizing() && !c.isChecking());
+        bench.clock.advance(std::chrono::seconds(1));
+        QVERIFY(until([&] { return !c.isOptimizing(); }));
+        QCOMPARE(c.latencyMs().value(), qint64(1000));
+        QVERIFY(Workbench::finished(optimizing));
+    }
+
 };
 
 VELDMARK_TEST(DisconnectTest)

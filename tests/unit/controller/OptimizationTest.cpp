@@ -186,6 +186,39 @@ private Q_SLOTS:
         QVERIFY(!c.isOptimizing() && !c.optimizeStatus());
         QCOMPARE(bench.commandCount("SIGNAL NEWNYM"), inPause ? 1 : 0);
     }
+
+    void theExitShownIsThatOfTheNewPath()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        QCOMPARE(c.exitIP().value(), u"203.0.113.10"_s);
+        answerAfter(bench, 2s); // slow
+        const auto optimizing = c.optimizeCircuits();
+        bench.clock.advance(2s);
+        QVERIFY(bench.hears("SIGNAL NEWNYM"));
+        QVERIFY(until([&] { return bench.clock.sleepers() == 2; })); // the monitor, the pause
+        QVERIFY(!c.exitIP() && !c.torVerified());
+        bench.probe.torAnswer = IPCheck{false, u"203.0.113.30"_s};
+        bench.probe.beforeTorAnswer = nullptr; // fast
+        bench.clock.advance(10s);
+        QVERIFY(Workbench::finished(optimizing));
+        QCOMPARE(c.exitIP().value(), u"203.0.113.30"_s);
+        QVERIFY(!c.torVerified().value());
+    }
+
+    void withoutAnAnswerNoExitIsShown()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        QVERIFY(c.exitIP());
+        bench.probe.torAnswer = ScriptedProbe::nothing();
+        const auto optimizing = c.optimizeCircuits();
+        run(bench, optimizing);
+        QVERIFY(optimizing.isReady() && !c.exitIP() && !c.torVerified());
+    }
+
 };
 
 VELDMARK_TEST(OptimizationTest)

@@ -178,6 +178,35 @@ private Q_SLOTS:
         QVERIFY(Workbench::finished(updating));
         QCOMPARE(bench.helperRunCount(u"install-privileged"_s), renewed ? 1 : 0);
     }
+
+    void aSecondPressWhileThePromptIsUpDoesNothing()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        obey(bench);
+        bench.hold(u"install-privileged"_s);
+        const auto first = c.installPasswordless();
+        QVERIFY(until([&] { return bench.processes.held() == 1; }));
+        const auto second = c.installPasswordless();
+        const auto other = c.removePasswordless();
+        QVERIFY(second.isReady() && other.isReady());
+        bench.processes.hold = nullptr;
+        bench.processes.release();
+        QVERIFY(Workbench::finished(first));
+        QVERIFY(c.passwordlessInstalled());
+        QCOMPARE(bench.helperRunCount(u"install-privileged"_s), 1);
+        QCOMPARE(bench.helperRunCount(u"uninstall-privileged"_s), 0);
+        bench.hold(u"uninstall-privileged"_s);
+        const auto removing = c.removePasswordless(); // the next press counts again
+        QVERIFY(until([&] { return bench.processes.held() == 1; }));
+        QVERIFY(c.removePasswordless().isReady());
+        bench.processes.hold = nullptr;
+        bench.processes.release();
+        QVERIFY(Workbench::finished(removing));
+        QCOMPARE(bench.helperRunCount(u"uninstall-privileged"_s), 1);
+        QVERIFY(!c.passwordlessInstalled());
+    }
+
 };
 
 VELDMARK_TEST(PasswordlessTest)

@@ -110,8 +110,15 @@ private Q_SLOTS:
         QTest::newRow("bridge") << u"bridgeChoice"_s << u"meek"_s << QJsonValue(u"meek"_s);
         QTest::newRow("no bridge") << u"bridgeChoice"_s << u"Meek"_s << refused;
         QTest::newRow("path") << u"customTorPath"_s << u"/opt/tor"_s << QJsonValue(u"/opt/tor"_s);
+        QTest::newRow("path with blanks around") << u"customTorPath"_s << u" /opt/tor "_s << QJsonValue(u" /opt/tor "_s);
+        QTest::newRow("no path") << u"customTorPath"_s << QString() << QJsonValue(QString());
+        QTest::newRow("relative path") << u"customTorPath"_s << u"bin/tor"_s << refused;
+        QTest::newRow("bare name") << u"customTorPath"_s << u"tor"_s << refused;
         QTest::newRow("bridges") << u"customBridges"_s << u"a\nb"_s << QJsonValue(u"a\nb"_s);
-        QTest::newRow("list") << u"bypassApps"_s << u"[\"/a\", \"/b\"]"_s << QJsonValue(QJsonArray{u"/a"_s, u"/b"_s});
+        QTest::newRow("list") << u"bypassApps"_s << u"[\"/b.desktop\", \"/a.desktop\", \"/b.desktop\"]"_s
+                              << QJsonValue(QJsonArray{u"/a.desktop"_s, u"/b.desktop"_s}); // sorted, each once
+        QTest::newRow("list with a program") << u"bypassApps"_s << u"[\"/a.desktop\", \"/usr/bin/b\"]"_s << refused;
+        QTest::newRow("list with a relative path") << u"bypassApps"_s << u"[\"a.desktop\"]"_s << refused;
         QTest::newRow("empty list") << u"bypassApps"_s << u"[]"_s << QJsonValue(QJsonArray());
         QTest::newRow("no list") << u"bypassApps"_s << u"/a"_s << refused;
         QTest::newRow("list of numbers") << u"bypassApps"_s << u"[1]"_s << refused;
@@ -183,6 +190,57 @@ private Q_SLOTS:
                  qPrintable(set.error().description()));
         QVERIFY(bench.controller().terminalMode());
     }
+
+    void whatAConnectionIsMadeWithHoldsUntilItEnds_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("locked");
+        QTest::newRow("mode") << u"strictMode"_s << u"false"_s << true;
+        QTest::newRow("local network") << u"allowLocalNetwork"_s << u"false"_s << true;
+        QTest::newRow("country") << u"exitCountry"_s << u"de"_s << true;
+        QTest::newRow("tor") << u"customTorPath"_s << u"/opt/tor"_s << true;
+        QTest::newRow("bridges") << u"bridgeChoice"_s << u"meek"_s << true;
+        QTest::newRow("own bridges") << u"customBridges"_s << u"192.0.2.1:443"_s << true;
+        QTest::newRow("speed") << u"optimizeSpeed"_s << u"true"_s << true;
+        QTest::newRow("applications") << u"bypassApps"_s << u"[\"/a.desktop\"]"_s << false;
+        QTest::newRow("at start") << u"autoConnect"_s << u"true"_s << false;
+        QTest::newRow("terminal") << u"terminalMode"_s << u"true"_s << false;
+    }
+
+    void whatAConnectionIsMadeWithHoldsUntilItEnds()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, text);
+        QFETCH(bool, locked);
+        Workbench bench;
+        TorController &c = bench.controller();
+        const QJsonValue before = publishedState(c).value(name);
+        const auto isRefused = [&] {
+            const auto set = setSetting(c, name, text);
+            return !set && set.error().kind() == SettingError::Kind::Refused
+                && set.error().description().contains(u"Disconnect to change it."_s)
+                && publishedState(c).value(name) == before;
+        };
+        if (locked) {
+            bench.hold(u"connect"_s);
+            const auto connecting = c.connect();
+            QVERIFY(until([&] { return bench.processes.held() == 1; }));
+            QVERIFY(isRefused());
+            bench.processes.hold = nullptr;
+            bench.processes.release();
+            QVERIFY(Workbench::finished(connecting));
+            QVERIFY(isRefused());
+            const QString same = before.isBool() ? (before.toBool() ? u"on"_s : u"off"_s) : before.toString();
+            QVERIFY(setSetting(c, name, same)); // nothing changes
+            bench.disconnect();
+        } else {
+            QVERIFY(bench.connect());
+        }
+        QVERIFY(setSetting(c, name, text));
+        QVERIFY(publishedState(c).value(name) != before);
+    }
+
 };
 
 VELDMARK_TEST(PublishedStateTest)

@@ -42,6 +42,11 @@ struct Downloader {
     }
 };
 
+QCoro::Task<void> opened(ResumeOnce<bool> gate)
+{
+    co_await gate;
+}
+
 bool result(const QCoro::Task<bool> &task)
 {
     return task.isReady() && QCoro::waitFor(const_cast<QCoro::Task<bool> &>(task));
@@ -222,6 +227,97 @@ private Q_SLOTS:
         QVERIFY(Workbench::finished(task));
         QVERIFY(!result(task));
     }
+
+    void aDirectDownloadBeginsAgainThroughTorAfterAConnect()
+    {
+        Workbench bench;
+        Downloader downloader;
+        downloader.gate.emplace();
+        downloader.serve(bench);
+        int cancels = 0;
+        bench.cancelTransports = [&] {
+            ++cancels;
+            downloader.outcome = Failure(DownloadError::other(u"Cancelled."_s));
+            const ResumeOnce<bool> gate = *downloader.gate;
+            downloader.gate.reset();
+            gate.complete(true);
+        };
+        TorController &c = bench.controller();
+        const auto task = c.downloadTransports();
+        QCOMPARE(downloader.throughTor, std::vector<bool>({false}));
+        bench.hold(u"connect"_s);
+        const auto connecting = c.connect();
+        QCOMPARE(cancels, 1);
+        QVERIFY(until([&] { return bench.processes.held() == 1; }));
+        settle();
+        QCOMPARE(downloader.throughTor.size(), std::size_t(1)); // nothing goes on while Tor is on its way
+        QCOMPARE(c.transportDownload().value(), u"The download begins again when Tor is connected…"_s);
+        QVERIFY(!c.canDownloadTransports());
+        downloader.outcome = verified;
+        bench.processes.hold = nullptr;
+        bench.processes.release();
+        QVERIFY(Workbench::finished(connecting) && c.phase() == ConnectionPhase::connected);
+        QVERIFY(Workbench::finished(task) && result(task));
+        QCOMPARE(downloader.throughTor, std::vector<bool>({false, true}));
+        QVERIFY(!c.transportDownload());
+        bench.disconnect();
+        QCOMPARE(cancels, 1);
+    }
+
+    void aDownloadThroughTorIsNotCancelledByAReconnect()
+    {
+        Workbench bench;
+        Downloader downloader;
+        downloader.gate.emplace();
+        downloader.serve(bench);
+        int cancels = 0;
+        bench.cancelTransports = [&] { ++cancels; };
+        QVERIFY(bench.connect());
+        const auto task = bench.controller().downloadTransports();
+        bench.disconnect();
+        QVERIFY(bench.connect());
+        QCOMPARE(cancels, 0);
+        downloader.gate->complete(true);
+        QVERIFY(Workbench::finished(task));
+    }
+
+    void theControllerMayGoWhileTheDownloadWaitsForTor()
+    {
+        Workbench bench;
+        Downloader downloader;
+        downloader.gate.emplace();
+        downloader.serve(bench);
+        bench.cancelTransports = [&] {
+            downloader.outcome = Failure(DownloadError::other(u"Cancelled."_s));
+            downloader.gate->complete(true);
+        };
+        const auto task = bench.controller().downloadTransports();
+        bench.hold(u"connect"_s);
+        const auto connecting = bench.controller().connect();
+        QVERIFY(until([&] { return bench.processes.held() == 1; }));
+        settle();
+        bench.end();
+        QVERIFY(Workbench::finished(task) && !result(task));
+        QCOMPARE(downloader.throughTor.size(), std::size_t(1));
+    }
+
+    void anEarlierSearchNeverReplacesALaterOne()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        const ResumeOnce<bool> gate;
+        bench.beforeSearchAnswer = [gate] { return opened(gate); };
+        bench.transports.lyrebird = u"/old/lyrebird"_s;
+        const auto first = c.locateTransports();
+        bench.beforeSearchAnswer = nullptr;
+        bench.transports.lyrebird = u"/new/lyrebird"_s;
+        QVERIFY(Workbench::finished(c.locateTransports()));
+        QCOMPARE(c.transports().lyrebird, std::optional(u"/new/lyrebird"_s));
+        gate.complete(true);
+        QVERIFY(Workbench::finished(first));
+        QCOMPARE(c.transports().lyrebird, std::optional(u"/new/lyrebird"_s));
+    }
+
 };
 
 VELDMARK_TEST(TransportsTest)

@@ -312,6 +312,37 @@ private Q_SLOTS:
         QVERIFY(m_applications->hasEnded(8));
         QVERIFY(m_applications->hasEnded(9));
     }
+
+    void aBareInterpreterIsNobodysProgram_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QString>("program");
+        QTest::newRow("python") << u"python3"_s << u"/usr/bin/python3"_s;
+        QTest::newRow("python, with a place for files") << u"/usr/bin/python3 %F"_s << u"/usr/bin/python3"_s;
+        QTest::newRow("shell") << u"bash"_s << u"/bin/bash"_s;
+        QTest::newRow("perl") << u"perl"_s << u"/usr/bin/perl"_s;
+    }
+
+    void aBareInterpreterIsNobodysProgram()
+    {
+        QFETCH(QString, command);
+        QFETCH(QString, program);
+        const QHash<QString, QStringList> waiting = {
+            {u"/usr/bin/python3"_s, {u"-c"_s, u"print('ready', flush=True); input()"_s}},
+            {u"/bin/bash"_s, {u"-c"_s, u"echo ready; read answer"_s}},
+            {u"/usr/bin/perl"_s, {u"-e"_s, u"$| = 1; print \"ready\\n\"; <STDIN>"_s}}};
+        const QString file = entry(u"sample"_s, command);
+        Running other(program, waiting.value(program));
+        QCOMPARE(other.line(), QByteArray("ready"));
+        QVERIFY(!isFound(file, other.id()));
+        // Its own copies are still known by the mark of their launch.
+        QProcessEnvironment marked = QProcessEnvironment::systemEnvironment();
+        marked.insert(u"GIO_LAUNCHED_DESKTOP_FILE"_s, file);
+        const QString launch = u"GIO_LAUNCHED_DESKTOP_FILE_PID=$$ exec %1 \"$@\""_s.arg(program);
+        Running copy(u"/bin/sh"_s, QStringList{u"-c"_s, launch, u"sh"_s} + waiting.value(program), marked);
+        QCOMPARE(copy.line(), QByteArray("ready"));
+        QVERIFY(isFound(file, copy.id()));
+    }
 };
 
 VELDMARK_TEST(LinuxApplicationsTest)

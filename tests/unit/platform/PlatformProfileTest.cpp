@@ -112,6 +112,39 @@ private Q_SLOTS:
         write(folder.filePath(QStringLiteral("usr/bin/zsh")), "");
         QVERIFY(PlatformProfile::linux(places).shellFilesAlways.contains(places.home + QStringLiteral("/.zshrc")));
     }
+
+    void onlyWholePathsOfTheEnvironmentCount_data()
+    {
+        QTest::addColumn<QByteArray>("value");
+        QTest::addColumn<bool>("counts");
+        QTest::newRow("whole") << QByteArray("/elsewhere/x") << true;
+        QTest::newRow("relative") << QByteArray("elsewhere/x") << false;
+        QTest::newRow("empty") << QByteArray("") << false;
+    }
+
+    void onlyWholePathsOfTheEnvironmentCount()
+    {
+        QFETCH(QByteArray, value);
+        QFETCH(bool, counts);
+        const QByteArrayList names = {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"};
+        QHash<QByteArray, QByteArray> former;
+        for (const QByteArray &name : names) {
+            if (qEnvironmentVariableIsSet(name.constData()))
+                former.insert(name, qgetenv(name.constData()));
+            qputenv(name.constData(), value);
+        }
+        const Places places = Places::fromEnvironment();
+        for (const QByteArray &name : names) {
+            if (former.contains(name))
+                qputenv(name.constData(), former.value(name));
+            else
+                qunsetenv(name.constData());
+        }
+        const QString given = QString::fromUtf8(value);
+        QCOMPARE(places.configHome, counts ? given : places.home + QStringLiteral("/.config"));
+        QCOMPARE(places.dataHome, counts ? given : places.home + QStringLiteral("/.local/share"));
+        QCOMPARE(places.runtimeDirectory, counts ? given : QString());
+    }
 };
 
 VELDMARK_TEST(PlatformProfileTest)

@@ -147,6 +147,19 @@ private Q_SLOTS:
                                             << QStringLiteral("only here");
         QTest::newRow("silent") << QByteArray("exit 1")
                                 << QStringLiteral("The helper failed without an error message.");
+        QTest::newRow("after warnings of sudo")
+            << QByteArray("echo 'sudo: unable to resolve host here: Name or service not known' >&2; "
+                          "echo 'sudo: a plug-in is broken' >&2; echo 'ERROR: nftables is missing' >&2; exit 1")
+            << QStringLiteral("nftables is missing");
+        QTest::newRow("after a warning of the shell")
+            << QByteArray("echo 'bash: warning: setlocale: cannot change locale' >&2; echo 'ERROR: no tor' >&2; exit 1")
+            << QStringLiteral("no tor");
+        QTest::newRow("the shell's own, after a warning of sudo")
+            << QByteArray("echo 'sudo: unable to resolve host here' >&2; echo 'helper: line 7: nope' >&2; exit 1")
+            << QStringLiteral("helper: line 7: nope");
+        QTest::newRow("speaks of a password")
+            << QByteArray("echo 'sudo: unable to resolve host here' >&2; echo 'ERROR: No password hash.' >&2; exit 1")
+            << QStringLiteral("No password hash.");
         QTest::newRow("capitals of the terminal") << QByteArray("echo 'no A TERMINAL' >&2; exit 1")
                                                   << QStringLiteral("no A TERMINAL");
     }

@@ -131,6 +131,10 @@ private Q_SLOTS:
         store.setString(QStringLiteral("third"), QStringLiteral("y"));
         QCOMPARE(home.content(), QByteArray("[General]\naKey=x\nstrictMode=true\nthird=y\n"));
         QVERIFY(!store.problem());
+        QCOMPARE(::chmod(qPrintable(home.folder()), 0500), 0); // it begins again: that is news
+        store.setString(key, QStringLiteral("z"));
+        QVERIFY(store.problem());
+        QCOMPARE(::chmod(qPrintable(home.folder()), 0700), 0);
     }
 
     void aFullDiskLeavesTheOldFile_data()

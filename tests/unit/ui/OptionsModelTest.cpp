@@ -120,6 +120,25 @@ private Q_SLOTS:
         session.show(s);
         QVERIFY(options.canLaunchBypassed());
     }
+
+    void showsWhatTheRunningSessionHas()
+    {
+        StandInSession session(profile);
+        OptionsModel options(session);
+        Snapshot s;
+        s.choices.strictMode = true;
+        s.activeMode = RoutingMode::proxy;
+        s.phase = Phase::connected;
+        session.show(s);
+        QVERIFY(!options.strictMode());
+        s.activeMode = RoutingMode::strict;
+        session.show(s);
+        QVERIFY(options.strictMode());
+        s.activeMode = RoutingMode::proxy; // left over: what is chosen is for the next one
+        s.phase = Phase::stale;
+        session.show(s);
+        QVERIFY(options.strictMode());
+    }
 };
 
 VELDMARK_WINDOWED_TEST(OptionsModelTest)

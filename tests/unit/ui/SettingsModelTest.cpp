@@ -92,6 +92,20 @@ private Q_SLOTS:
         QVERIFY(session.now().choices.terminalMode);
         QVERIFY(settings.openAtLogin());
     }
+
+    void theTorOfAConnectionIsLocked()
+    {
+        StandInSession session(profile);
+        SettingsModel settings(session);
+        Snapshot s;
+        for (const auto &[phase, locked] : {std::pair{Phase::disconnected, false}, {Phase::connecting, true},
+                                            {Phase::connected, true}, {Phase::disconnecting, true},
+                                            {Phase::stale, false}}) {
+            s.phase = phase;
+            session.show(s);
+            QCOMPARE(settings.torLocked(), locked);
+        }
+    }
 };
 
 VELDMARK_WINDOWED_TEST(SettingsModelTest)

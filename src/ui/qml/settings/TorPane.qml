@@ -32,11 +32,12 @@ Pane {
         GridLayout {
             Layout.fillWidth: true
             columns: width < 430 ? 1 : 2
-            Words { Layout.fillWidth: true; text: qsTr("Location") }
+            Words { Layout.fillWidth: true; text: pane.model.torLocked ? qsTr("Location: disconnect to change") : qsTr("Location") }
             SegmentedControl {
                 name: qsTr("Location")
                 names: [qsTr("Automatic"), qsTr("Custom location")]
                 current: pane.model.torCustom ? 1 : 0
+                enabled: !pane.model.torLocked
                 onChosen: index => index === 0 ? pane.model.chooseTor("") : pane.chooserWanted()
             }
         }
