@@ -71,12 +71,16 @@ class Programs(HelperTest):
 
     def test_copy_that_is_removed_while_it_starts_is_not_taken_for_another(self):
         """As by uninstall-privileged, which the rule lets in as well."""
-        self.machine.shell(f"cp {INSTALLED} /usr/local/kept")
+        self.machine.shell(f"cp {INSTALLED} /usr/local/kept; cp {INSTALLED} /usr/local/other.sh")
         words = ["connect", "--tor", "/home/alice/tor", "--hash", HASH, "--strict", "1", "--lan", "0"]
         try:
             # Bash has it open; it is gone before the helper looks at its own name.
-            done = self.machine.shell_run('rm "$1"; path=$1; shift; exec /bin/bash -p -c \'source /usr/local/kept; main "$@"\' "$path" "$@"',
-                                          INSTALLED, *words, env=SUDO)
+            for path in INSTALLED, "/usr/local/other.sh":
+                done = self.machine.shell_run('rm "$1"; path=$1; shift; exec /bin/bash -p -c \'source /usr/local/kept; main "$@"\' "$path" "$@"',
+                                              path, *words, env=SUDO)
+                self.assertOneLine(done, "password")
+            done = self.machine.shell_run('exec 20</usr/local/kept; cp /usr/local/kept /usr/local/again; mv /usr/local/again /usr/local/kept;'
+                                          'exec /bin/bash -p /dev/fd/20 "$@"', *words, env=SUDO)
             self.assertOneLine(done, "password")
         finally:
             self.machine.shell(f"mv /usr/local/kept {INSTALLED}")
