@@ -28,12 +28,12 @@ asking_process() {
 
 # note_owner: before the marker, so that there is never a session whose owner is not known.
 note_owner() {
-  local pid lines="uid $CALLER_UID"
+  local pid text="uid $CALLER_UID"
   pid=$(asking_process)
   if [[ -n $pid ]] && start_time "$pid"; then
-    lines="$lines"$'\n'"pid $pid"$'\n'"start $START_TIME"$'\n'"boot $(boot_id)"
+    text="$text"$'\n'"pid $pid"$'\n'"start $START_TIME"$'\n'"boot $(boot_id)"
   fi
-  write_file "$OWNER" 0644 root "$lines"$'\nend\n' || die "The file $OWNER cannot be written."
+  write_file "$OWNER" 0644 root "$text"$'\nend\n' || die "The file $OWNER cannot be written."
 }
 
 # live_owner: sets OWNER_UID to the user of the session, while the program that asked for it runs; 1 when it does not.
