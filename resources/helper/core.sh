@@ -83,6 +83,16 @@ clean_environment() {
   done
 }
 
+# let_in_by_rule: whether sudo may have run this by the password-free rule, which is for the installed copy alone. Another
+# copy runs by a right of the caller's own, with which an administrator has let them run more than this. What cannot be
+# told counts as the rule: a copy that is just being removed, or one that was handed over as an open file.
+let_in_by_rule() {
+  case $SELF in
+  "$INSTALLED"/* | /dev/*) return 0 ;;
+  esac
+  [[ ! -f $SELF || $SELF -ef $INSTALLED_HELPER ]]
+}
+
 identify_caller() {
   local id
   for id in ${SUDO_UID+"$SUDO_UID"} ${PKEXEC_UID+"$PKEXEC_UID"}; do
@@ -90,8 +100,7 @@ identify_caller() {
     [[ -z $CALLER_UID || $CALLER_UID == "$id" ]] || die "Two different callers were reported, so nothing was done."
     CALLER_UID=$id
   done
-  # Only pkexec and root itself stand for a fresh approval; sudo may have let the caller in by rule.
-  [[ -n ${SUDO_UID+x} ]] || PROMPTED=1
+  [[ -n ${SUDO_UID+x} ]] && let_in_by_rule || PROMPTED=1
   CALLER_UID=${CALLER_UID:-0}
   unset SUDO_UID PKEXEC_UID
   ((EUID == 0)) || die "The helper must run as root."

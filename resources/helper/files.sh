@@ -35,13 +35,19 @@ journal_has() { [[ -f $JOURNAL/$1 && ! -L $JOURNAL/$1 ]]; }
 
 # journal_read NAME: fills JOURNAL_LINES; status 1 when there is no such entry, 2 when it is torn.
 journal_read() {
-  local line last=''
   JOURNAL_LINES=()
   journal_has "$1" || return 1
+  read_lines "$JOURNAL/$1"
+}
+
+# read_lines FILE: likewise, of a file that is there.
+read_lines() {
+  local line last=''
+  JOURNAL_LINES=()
   while IFS= read -r line; do
     [[ -z $last ]] || JOURNAL_LINES[${#JOURNAL_LINES[@]}]=$last
     last=$line
-  done <"$JOURNAL/$1"
+  done <"$1"
   [[ $last == end ]] || return 2
 }
 

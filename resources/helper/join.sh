@@ -9,7 +9,7 @@ system=${1:?$usage} output=${2:?$usage}
 case $system in
 linux)
   own=(linux-state programs torrc linux-firewall linux-resolver linux-resolved linux-tor linux-proxy linux-exempt
-    linux-watcher linux-session)
+    linux-watcher linux-owner linux-session)
   ;;
 darwin)
   own=(darwin-state programs torrc darwin-rules darwin-firewall darwin-jobs darwin-tor darwin-watcher

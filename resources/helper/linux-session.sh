@@ -20,6 +20,7 @@ linux_connect() {
   lift_limits
   take_lock
   trap finish EXIT
+  spare_others
   check_firewall
   ready_account
   ready_folders
@@ -38,6 +39,7 @@ linux_connect() {
     ON_FAILURE=undo
   fi
   journal_has "$FIREWALL_ENTRY" || journal_put "$FIREWALL_ENTRY" "table $TABLE" || die "The journal cannot be written."
+  note_owner
   [[ $mode != strict ]] || ready_exempt
   if [[ $former != strict || $mode == strict ]]; then
     switch_firewall "$mode"
@@ -106,8 +108,8 @@ undo_session() {
     # The desktop's settings and the group are not the network: they are tried again by the next run.
     [[ $status != 1 || $name == "$GNOME_ENTRY" || $name == "$KDE_ENTRY" || $name == "$EXEMPT_ENTRY" ]] || open=''
   done
-  [[ -z $open ]] || rm -f -- "$MARKER" "$RULES" "$LISTED"
-  rm -f -- "$MARKER.new" "$RULES.new" "$LISTED.new" "$WATCHER" "$WATCHER.new" "$KILL_SWITCH_NOTE" "$KILL_SWITCH_NOTE.new" "$STATE/relocked" "$TORRC.checked" "$JOURNAL"/*.new
+  [[ -z $open ]] || rm -f -- "$MARKER" "$OWNER" "$RULES" "$LISTED"
+  rm -f -- "$MARKER.new" "$OWNER.new" "$RULES.new" "$LISTED.new" "$WATCHER" "$WATCHER.new" "$KILL_SWITCH_NOTE" "$KILL_SWITCH_NOTE.new" "$STATE/relocked" "$TORRC.checked" "$JOURNAL"/*.new
   [[ -z $open || ! -e $MARKER ]] || reason=${reason:-"The network is open again, but the session marker cannot be removed from $STATE."}
   [[ -n $reason || -z $(compgen -G "$JOURNAL/*") ]] || reason="The network is open again, but the journal in $JOURNAL cannot be cleared."
   UNDONE=$reason
@@ -152,5 +154,6 @@ linux_disconnect() {
     ((status != 2)) || die "The folders below $BASE cannot be looked at, so nothing was done."
     ((status == 0)) || JOURNAL_TRUSTED=
   fi
+  spare_others
   undo_session || die "$UNDONE"
 }

@@ -5,9 +5,9 @@ main() {
   local verb=${1-}
   clean_environment "$@"
   open_messages
-  identify_caller
   SELF=$0
   [[ $SELF == /* ]] || SELF=$PWD/$SELF
+  identify_caller
   case $SYSTEM-$(uname -s) in
   linux-Linux | darwin-Darwin) ;;
   *) die "This helper is made for another system." ;;

@@ -20,6 +20,8 @@ PARTS = os.path.join(HERE, "..", "..", "resources", "helper")
 HASH = "16:" + "0123456789ABCDEF" * 3 + "0123456789"
 TOR = "/usr/bin/tor"
 USER_UID = 4242
+OTHER_UID = 4243   # bob's
+INSTALLED = "/usr/local/libexec/veldmark/veldmark-helper.sh"
 
 # Reaps what is orphaned in the process namespace, and ends with the test.
 INIT = (
@@ -47,9 +49,13 @@ echo 'nameserver 192.0.2.53' >/etc/resolv.conf
 echo 'alice:x:%(uid)s:%(uid)s::/home/alice:/bin/bash' >>/etc/passwd
 echo 'alice:x:%(uid)s:' >>/etc/group
 echo 'alice:*:19000:0:99999:7:::' >>/etc/shadow
+echo 'bob:x:%(other)s:%(other)s::/home/bob:/bin/bash' >>/etc/passwd
+echo 'bob:x:%(other)s:' >>/etc/group
+echo 'bob:*:19000:0:99999:7:::' >>/etc/shadow
+install -d -o %(other)s -g %(other)s -m 0700 /home/bob
 install -d -o %(uid)s -g %(uid)s -m 0700 /home/alice /run/user/%(uid)s
 mkdir -p /run/sudo
-""" % {"uid": USER_UID}
+""" % {"uid": USER_UID, "other": OTHER_UID}
 
 
 def require_namespaces():
@@ -166,9 +172,21 @@ class Machine:
     def shell(self, script, *arguments, **options):
         return self.run("/bin/bash", "-c", script, "shell", *arguments, **options).stdout
 
+    def shell_run(self, script, *arguments, **options):
+        """Like shell(), for a script that may fail."""
+        return self.run("/bin/bash", "-c", script, "shell", *arguments, check=False, **options)
+
     def help(self, *arguments, **options):
         """Runs the helper as the administrator prompt does."""
         return self.run("/bin/bash", self.helper, *arguments, **options)
+
+    def install_copy(self):
+        """The copy that the password-free rule is for."""
+        self.shell('install -D -m 0755 "$1" "$2"', self.helper, INSTALLED)
+
+    def help_by_rule(self, *arguments, uid=USER_UID, **options):
+        """Runs the installed copy as sudo does by the rule."""
+        return self.run("/bin/bash", INSTALLED, *arguments, env={"PATH": os.environ["PATH"], "SUDO_UID": str(uid)}, **options)
 
     def connect(self, strict=1, lan=0, more=(), **options):
         return self.help("connect", "--tor", TOR, "--hash", HASH, "--strict", str(strict), "--lan", str(lan), *more,

@@ -122,6 +122,84 @@ class Firewall(HelperTest):
             self.assertTrue(self.control_port(int(self.machine.tor_uid)))
             self.assertFalse(self.control_port(4243))
 
+    def test_firewall_is_not_opened_while_somebody_changes_it(self):
+        """The watcher may be in the middle of putting the rules back: opening waits until it is done."""
+        self.machine.connect(strict=1)
+        holder = self.machine.start("flock", "/run/veldmark.rules", "/bin/sh", "-c", "echo held; read word", stdin=subprocess.PIPE,
+                                    stdout=subprocess.PIPE, text=True)
+        self.assertEqual(holder.stdout.readline(), "held\n")
+        ending = self.machine.start("/bin/bash", self.machine.helper, "disconnect")
+        while ending.poll() is None and not self.machine.shell("pgrep -xf 'flock -w 10 7' || true"):
+            pass
+        self.assertIsNone(ending.poll(), "it did not wait")
+        self.assertIn("policy drop", self.machine.run("nft", "list", "ruleset").stdout)
+        holder.communicate("go on\n")
+        self.assertEqual(ending.wait(), 0)
+        self.assertEqual(self.machine.run("nft", "list", "ruleset").stdout, "")
+
+    def test_answers_come_in_and_what_others_began_does_not(self):
+        """Also where the connection is older than the rules: only this side's own opening makes an answer of a packet."""
+        server = self.machine.start("/usr/bin/python3", "-c", """if True:
+            import socket, sys
+            server = socket.create_server(('192.168.77.2', 1002)); print('up', flush=True)
+            taken, _ = server.accept(); print('taken', flush=True)
+            for line in sys.stdin:
+                taken.settimeout(float(line))
+                try: print(taken.recv(1).decode(), flush=True)
+                except OSError: print('nothing', flush=True)""", stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        self.addCleanup(server.communicate)
+        self.assertEqual(server.stdout.readline(), "up\n")
+        self.machine.connect(strict=0)   # its rules have the kernel follow connections
+        outside = subprocess.Popen(self.wire.peer.command(["/usr/bin/python3", "-c",
+            "import socket, sys\ns = socket.create_connection(('192.168.77.2', 1002))\nfor word in sys.stdin: s.send(word[:1].encode()); print('sent', flush=True)"]),
+            stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        self.addCleanup(outside.communicate)
+        self.assertEqual(server.stdout.readline(), "taken\n")
+
+        def arrives(word, seconds):
+            outside.stdin.write(word + "\n")
+            outside.stdin.flush()
+            self.assertEqual(outside.stdout.readline(), "sent\n")
+            server.stdin.write(f"{seconds}\n")
+            server.stdin.flush()
+            return server.stdout.readline().strip()
+        self.assertEqual(arrives("a", 10), "a")
+        self.machine.connect(strict=1)
+        self.assertEqual(arrives("b", 0.5), "nothing")
+        # Tor's own connections have their answers: the server of the other end accepts.
+        self.machine.run("/usr/bin/python3", "-c", f"import socket; socket.create_connection(('{probes.PUBLIC}', 1001), 10)",
+                         uid=int(self.machine.tor_uid))
+
+    def test_programs_on_this_computer_reach_each_other(self):
+        """Over both kinds of addresses and on any port, a resolver's over TCP too; in both modes."""
+        talk = """if True:
+            import socket
+            for family, address in (socket.AF_INET, '127.0.0.1'), (socket.AF_INET6, '::1'), (socket.AF_INET, '192.168.77.2'):
+                for port in 53, 2001:
+                    with socket.create_server((address, port), family=family) as server:
+                        socket.create_connection((address, port), 10).close()
+                        print(address, port)"""
+        expected = self.machine.run("/usr/bin/python3", "-c", talk).stdout
+        self.assertEqual(len(expected.splitlines()), 6)
+        for strict in 0, 1:
+            self.machine.connect(strict=strict)
+            self.assertEqual(self.machine.run("/usr/bin/python3", "-c", talk).stdout, expected)
+
+    def test_look_up_without_a_header_does_not_reach_tor(self):
+        """It ends some versions of Tor; a whole one arrives."""
+        ask = f"""if True:
+            import socket
+            there = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); there.bind(('127.0.0.1', 9053)); there.settimeout(10)
+            for place in ('127.0.0.1', 9053), ('127.0.0.1', 53), ('{probes.PUBLIC}', 53):
+                asking = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
+                try: asking.sendto(b'x' * 11, place); print('let through')
+                except PermissionError: pass
+                asking.sendto(b'y' * 12, place)
+                print(there.recv(99).decode())"""
+        for strict in 0, 1:
+            self.machine.connect(strict=strict)
+            self.assertEqual(self.machine.run("/usr/bin/python3", "-c", ask, uid=USER_UID).stdout, ("y" * 12 + "\n") * 3)
+
     def test_other_tables_stay(self):
         self.machine.shell("nft add table inet other; nft add chain inet other c")
         before = self.machine.snapshot()

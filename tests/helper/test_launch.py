@@ -2,9 +2,12 @@
 
 import json
 import os
+import sys
 
 import namespace
-from namespace import HelperTest, USER_UID
+from namespace import HelperTest, INSTALLED, USER_UID
+
+BUILT = os.path.join(namespace.HERE, "..", "..", "build", "bin", "veldmark-launch")
 
 # Tells what it is; alice can write its answer's folder.
 PROBE = r"""#!/usr/bin/python3
@@ -20,6 +23,12 @@ open(path + ".new", "w").write(json.dumps(answer)); os.rename(path + ".new", pat
 """
 
 
+def launcher():
+    """The launcher under test: the one beside the helper, else the one of an ordinary build."""
+    given = os.environ.get("VELDMARK_HELPER")
+    return os.path.join(os.path.dirname(given), "veldmark-launch") if given else BUILT
+
+
 class Launch(HelperTest):
     @classmethod
     def setUpClass(cls):
@@ -29,10 +38,9 @@ class Launch(HelperTest):
         machine.shell("mkdir -p /usr/local/share/applications; cat >/usr/local/share/applications/probe.desktop <<'END'\n"
                       "[Desktop Entry]\nType=Application\nName=Probe\nExec=/usr/local/bin/probe --one %U \"two words\"\n"
                       "DBusActivatable=true\nEND\n")
-        launcher = os.path.join(os.path.dirname(machine.helper), "veldmark-launch")
-        if not os.path.exists(launcher):
-            raise namespace.unittest.SkipTest("veldmark-launch is not built beside the helper")
-        machine.shell("cp \"$1\" \"$2\" /usr/local/bin/", machine.helper, launcher)
+        machine.shell("cp \"$1\" \"$2\" /usr/local/bin/", machine.helper, launcher())
+        machine.install_copy()
+        machine.shell("cp \"$1\" \"${2%/*}\"", launcher(), INSTALLED)
 
     def setUp(self):
         self.before = self.machine.snapshot()
@@ -47,8 +55,9 @@ class Launch(HelperTest):
         return self.machine.run("env", f"PKEXEC_UID={USER_UID}", "/bin/bash", self.machine.helper, "connect", "--tor", namespace.TOR,
                                 "--hash", namespace.HASH, "--strict", str(strict), "--lan", "0")
 
-    def launch(self, app, *more, uid=USER_UID, caller=f"PKEXEC_UID={USER_UID}", check=True, environment=()):
-        words = ["env", *environment, caller, "/bin/bash", "/usr/local/bin/veldmark-helper.sh", "launch", "--uid", str(uid), "--app", app, *more]
+    def launch(self, app, *more, uid=USER_UID, caller=f"PKEXEC_UID={USER_UID}", check=True, environment=(),
+               helper="/usr/local/bin/veldmark-helper.sh"):
+        words = ["env", *environment, caller, "/bin/bash", helper, "launch", "--uid", str(uid), "--app", app, *more]
         return self.machine.run(*words, check=check)
 
     def answer(self):
@@ -106,6 +115,24 @@ class Launch(HelperTest):
         self.assertNotIn("LD_LIBRARY_PATH", env)
         self.machine.shell("rm /etc/sudoers.d/test /usr/local/bin/as-pkexec")
 
+    def test_sudo_by_a_right_of_the_users_own_is_an_approval(self):
+        self.connect()
+        self.launch("/usr/local/bin/probe", caller=f"SUDO_UID={USER_UID}")
+        self.assertEqual(self.answer()["uid"], [USER_UID] * 3)
+
+    def test_launcher_holds_none_of_our_descriptors(self):
+        """Whoever has the lock's can unlock it, and whoever keeps the message's open keeps us waiting."""
+        self.machine.shell("mkdir /usr/local/stand-in; cp /usr/local/bin/veldmark-helper.sh /usr/local/stand-in;"
+                           "cat >/usr/local/stand-in/veldmark-launch; chmod 755 /usr/local/stand-in/*", stdin="""#!/usr/bin/python3
+import json, os
+held = {n: os.readlink(f"/proc/self/fd/{n}") for n in os.listdir("/proc/self/fd") if os.path.exists(f"/proc/self/fd/{n}")}
+json.dump(held, open("/home/alice/descriptors", "w"))
+""")
+        self.connect()
+        self.launch("/usr/local/bin/probe", helper="/usr/local/stand-in/veldmark-helper.sh")
+        held = json.loads(self.machine.shell("cat /home/alice/descriptors; rm -r /home/alice/descriptors /usr/local/stand-in"))
+        self.assertEqual(set(held), {"0", "1", "2"}, held)
+
     def test_refused(self):
         self.connect()
         cases = {
@@ -118,7 +145,8 @@ class Launch(HelperTest):
             "a folder": dict(app="/usr", words="no such application"),
             "no entry": dict(app="/usr/local/share/nothing.desktop", words="cannot be read"),
             "a link look-alike": dict(app="/usr/local/bin/-x", words="no such application"),
-            "password-free": dict(app="/usr/local/bin/probe", caller=f"SUDO_UID={USER_UID}", words="password is needed"),
+            "password-free": dict(app="/usr/local/bin/probe", caller=f"SUDO_UID={USER_UID}", helper=INSTALLED, words="password is needed"),
+            "password-free for somebody else": dict(app="/usr/local/bin/probe", caller="SUDO_UID=1", helper=INSTALLED, words="for the user who asks only"),
         }
         for name, case in cases.items():
             words = case.pop("words")
@@ -156,4 +184,6 @@ class Launch(HelperTest):
 
 
 if __name__ == "__main__":
+    if not os.path.exists(launcher()):
+        sys.exit(f"{os.path.normpath(launcher())} is missing: build the target veldmark-launch first.")
     namespace.main()

@@ -3,9 +3,8 @@
 import os
 
 import namespace
-from namespace import HASH, TOR, HelperTest, USER_UID
+from namespace import HASH, INSTALLED, OTHER_UID, TOR, HelperTest, USER_UID
 
-INSTALLED = "/usr/local/libexec/veldmark/veldmark-helper.sh"
 LAUNCHER = "/usr/local/libexec/veldmark/veldmark-launch"
 RULE = "/etc/sudoers.d/veldmark"
 PROMPT = {"PATH": os.environ["PATH"], "PKEXEC_UID": str(USER_UID)}
@@ -41,9 +40,7 @@ class Privileged(HelperTest):
         for words in (["/bin/bash"], ["/bin/bash", INSTALLED, "disconnect"], ["/usr/bin/id"],
                       ["BASH_ENV=/home/alice/x", INSTALLED, "disconnect"], ["-u", "_veldmark", INSTALLED, "disconnect"]):
             self.assertNotEqual(self.sudo(*words).returncode, 0, words)
-        self.machine.shell("echo 'bob:x:4243:4243::/home/bob:/bin/bash' >>/etc/passwd;"
-                           "echo 'bob:*:19000:0:99999:7:::' >>/etc/shadow")
-        self.assertNotEqual(self.sudo(INSTALLED, "disconnect", uid=4243).returncode, 0)
+        self.assertNotEqual(self.sudo(INSTALLED, "disconnect", uid=OTHER_UID).returncode, 0)
 
     def test_copy_is_the_helper_and_roots(self):
         self.install()
@@ -71,6 +68,21 @@ class Privileged(HelperTest):
         self.machine.shell("install -o alice -m 0755 /usr/bin/tor /home/alice/tor")
         done = self.sudo(INSTALLED, "connect", "--tor", "/home/alice/tor", "--hash", HASH, "--strict", "1", "--lan", "0")
         self.assertOneLine(done, "password")
+
+    def test_users_own_right_to_sudo_approves_what_the_rule_does_not(self):
+        """The real sudo: the same user, the same helper, another path."""
+        self.install()
+        self.machine.shell("install -o alice -m 0755 /usr/bin/tor /home/alice/tor; cp \"$1\" /usr/local/helper.sh", self.machine.helper)
+        words = ["connect", "--tor", "/home/alice/tor", "--hash", HASH, "--strict", "1", "--lan", "0"]
+        self.assertNotEqual(self.sudo("/bin/bash", "/usr/local/helper.sh", *words).returncode, 0)
+        self.machine.shell("echo 'alice ALL=(root) NOPASSWD: /bin/bash /usr/local/helper.sh *' >/etc/sudoers.d/own; chmod 0440 /etc/sudoers.d/own")
+        try:
+            self.assertOneLine(self.sudo(INSTALLED, *words), "password")
+            done = self.sudo("/bin/bash", "/usr/local/helper.sh", *words)
+            self.assertEqual((done.returncode, done.stderr), (0, ""))
+        finally:
+            self.machine.shell("rm /etc/sudoers.d/own /usr/local/helper.sh")
+            self.machine.help("disconnect")
 
     def test_user_can_remove_it_without_a_password(self):
         self.install()

@@ -3,14 +3,20 @@
 import os
 
 import namespace
-from namespace import HASH, TOR, HelperTest, USER_UID
+from namespace import HASH, INSTALLED, TOR, HelperTest, USER_UID
 
 PROMPT = {"PATH": os.environ["PATH"], "PKEXEC_UID": str(USER_UID)}
-RULE = {"PATH": os.environ["PATH"], "SUDO_UID": str(USER_UID)}
+RULE = None   # the installed copy, by sudo's rule
+SUDO = {"PATH": os.environ["PATH"], "SUDO_UID": str(USER_UID)}   # another copy, by a right of the user's own
 BRIDGE = "obfs4 192.0.2.1:443 0123456789012345678901234567890123456789 cert=a iat-mode=0"
 
 
 class Programs(HelperTest):
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.machine.install_copy()
+
     def setUp(self):
         self.machine.shell("rm -rf /home/alice/* /var/lib/veldmark/programs; install -o alice -g alice -m 0755 /usr/bin/tor /home/alice/tor")
 
@@ -18,7 +24,10 @@ class Programs(HelperTest):
         self.machine.help("disconnect")
 
     def connect(self, env, tor="/home/alice/tor", more=(), **options):
-        return self.machine.help("connect", "--tor", tor, "--hash", HASH, "--strict", "1", "--lan", "0", *more, env=env, **options)
+        words = ["connect", "--tor", tor, "--hash", HASH, "--strict", "1", "--lan", "0", *more]
+        if env is RULE:
+            return self.machine.help_by_rule(*words, **options)
+        return self.machine.help(*words, env=env, **options)
 
     def running(self):
         return self.machine.shell("readlink /proc/$(pgrep -u _veldmark | head -1)/exe").strip()
@@ -42,6 +51,39 @@ class Programs(HelperTest):
         self.machine.help("disconnect")
         self.machine.shell("echo >>/home/alice/tor")
         self.assertOneLine(self.connect(RULE, check=False), "password")
+
+    def test_sudo_with_a_right_of_the_users_own_is_an_approval(self):
+        """Where no password can be asked for otherwise; the same helper by the rule is none."""
+        self.connect(SUDO)
+        self.assertRegex(self.running(), r"^/var/lib/veldmark/programs/[0-9a-f]{64}/tor$")
+
+    def test_no_way_to_name_the_installed_copy_makes_the_rule_an_approval(self):
+        words = ["connect", "--tor", "/home/alice/tor", "--hash", HASH, "--strict", "1", "--lan", "0"]
+        folder = os.path.dirname(INSTALLED)
+        self.machine.shell(f"ln -sf {INSTALLED} /home/alice/veldmark-helper.sh; ln -f {INSTALLED} /usr/local/hard.sh;"
+                           f"install -m 0755 {INSTALLED} {folder}/being-replaced.sh")
+        for path in ("/home/alice/veldmark-helper.sh", "/usr/local/hard.sh", f"{folder}/../veldmark/veldmark-helper.sh",
+                     f"{folder}/being-replaced.sh", f"/proc/self/root{INSTALLED}"):
+            with self.subTest(path):
+                self.assertOneLine(self.machine.run("/bin/bash", path, *words, env=SUDO, check=False), "password")
+        self.assertOneLine(self.machine.shell_run('exec 20<"$1"; shift; exec /bin/bash -p /dev/fd/20 "$@"', INSTALLED, *words, env=SUDO), "password")
+        self.machine.shell(f"rm /usr/local/hard.sh {folder}/being-replaced.sh")
+
+    def test_copy_that_is_removed_while_it_starts_is_not_taken_for_another(self):
+        """As by uninstall-privileged, which the rule lets in as well."""
+        self.machine.shell(f"cp {INSTALLED} /usr/local/kept; cp {INSTALLED} /usr/local/other.sh")
+        words = ["connect", "--tor", "/home/alice/tor", "--hash", HASH, "--strict", "1", "--lan", "0"]
+        try:
+            # Bash has it open; it is gone before the helper looks at its own name.
+            for path in INSTALLED, "/usr/local/other.sh":
+                done = self.machine.shell_run('rm "$1"; path=$1; shift; exec /bin/bash -p -c \'source /usr/local/kept; main "$@"\' "$path" "$@"',
+                                              path, *words, env=SUDO)
+                self.assertOneLine(done, "password")
+            done = self.machine.shell_run('exec 20</usr/local/kept; cp /usr/local/kept /usr/local/again; mv /usr/local/again /usr/local/kept;'
+                                          'exec /bin/bash -p /dev/fd/20 "$@"', *words, env=SUDO)
+            self.assertOneLine(done, "password")
+        finally:
+            self.machine.shell(f"mv /usr/local/kept {INSTALLED}")
 
     def test_copy_is_roots_alone(self):
         self.connect(PROMPT)

@@ -171,6 +171,22 @@ class Kde(Desktop):
         self.disconnect()
         self.assertEqual(self.machine.snapshot(), before)
 
+    def test_former_users_settings_go_back_when_another_user_connects(self):
+        """At once, and not with the new user's disconnect; bob has a desktop of his own."""
+        bobs = "/home/bob/.config/kioslaverc"
+        self.write(self.FILES["proxies of the user's"])
+        self.machine.shell("mkdir -p /home/bob/.config", uid=namespace.OTHER_UID)
+        self.machine.run("tee", bobs, uid=namespace.OTHER_UID, stdin=self.FILES["no such group"])
+        before = self.machine.snapshot()
+        self.connect()
+        self.assertIn("ProxyType=1\n", self.machine.shell(f"cat {KIOSLAVE}"))
+        self.machine.connect(strict=0, env={"PATH": os.environ["PATH"], "PKEXEC_UID": str(namespace.OTHER_UID)})
+        self.assertEqual(self.machine.shell(f"cat {KIOSLAVE}"), self.FILES["proxies of the user's"])
+        self.assertIn("ProxyType=1\n", self.machine.shell(f"cat {bobs}"))
+        self.disconnect()
+        self.assertEqual(self.machine.snapshot(), before)
+        self.machine.shell("rm -r /home/bob/.config")
+
     def test_user_without_kde_gets_no_file(self):
         self.connect()
         self.assertEqual(self.machine.shell("ls -A /home/alice/.config"), "")

@@ -96,10 +96,13 @@ class Session(HelperTest):
         self.assertEqual(len(self.machine.shell("grep veldmark-resolv /proc/self/mountinfo").splitlines()), 1)
 
     def test_strict_then_proxy_then_strict(self):
+        traces = "ls /sys/fs/cgroup /var/lib/veldmark/journal | grep -e exempt -e watcher || true; pgrep -f /watcher[.]sh || true"
         self.machine.connect(strict=1)
+        self.assertIn("veldmark-exempt", self.machine.shell(traces))
         self.machine.connect(strict=0)
         self.assertEqual(self.marker(), "proxy\n")
         self.assertNotIn("policy drop", self.machine.run("nft", "list", "ruleset").stdout)
+        self.assertEqual(self.machine.shell(traces), "")   # what only a strict session has goes with it
         self.machine.connect(strict=1)
         self.assertEqual(self.marker(), "strict\n")
         self.assertIn("policy drop", self.machine.run("nft", "list", "ruleset").stdout)
@@ -202,6 +205,33 @@ class Session(HelperTest):
         self.assertEqual(self.machine.shell("pgrep -x sleep").strip(), pid)
         self.machine.run("kill", pid)
         bystander.wait()
+
+    def test_process_of_before_a_restart_is_left_alone(self):
+        """Another one may have its number, and by chance its start, after a restart."""
+        self.machine.connect()
+        [tor] = self.machine.tor_pids()
+        entry = "/var/lib/veldmark/journal/20-tor"
+        boot = self.machine.shell(f"sed -n 's/^boot //p' {entry}").strip()
+        self.machine.shell(f"sed -i 's/^boot .*/boot other/' {entry}")
+        self.machine.help("disconnect")
+        self.assertEqual(self.machine.tor_pids(), [tor])
+        self.machine.shell(f"printf 'pid %s\nstart %s\nboot %s\nend\n' $(ps -o ppid= -p $1) $(cut -d' ' -f22 /proc/$(ps -o ppid= -p $1 | tr -d ' ')/stat) $2 >{entry};"
+                           f"chmod 600 {entry}", tor, boot)
+        self.machine.help("disconnect")   # the same note of this run of the computer ends it
+        self.assertEqual(self.machine.tor_pids(), [])
+
+    def test_folders_that_cannot_be_looked_at_stop_everything(self):
+        """Nothing can be told of them then, not even that there is nothing to undo."""
+        self.machine.connect(strict=1)
+        self.machine.await_watcher()
+        during = self.machine.snapshot()
+        self.machine.shell("printf '#!/bin/sh\nexit 1\n' >/mnt/stat; chmod +x /mnt/stat; mount --bind /mnt/stat /usr/bin/stat")
+        try:
+            for verb in "disconnect", "fix-dns":
+                self.assertOneLine(self.machine.help(verb, check=False), "cannot be looked at, so nothing was done.")
+        finally:
+            self.machine.shell("umount /usr/bin/stat; rm /mnt/stat")
+        self.assertEqual(self.machine.snapshot(), during)
 
     def test_disconnect_after_a_restart_of_the_computer(self):
         self.machine.connect()
@@ -364,6 +394,17 @@ class ResolverFile(HelperTest):
 
     def test_missing(self):
         self.cycle("rm -f /etc/resolv.conf")
+
+    def test_resolver_that_cannot_be_noted_is_not_touched(self):
+        for setup in "rm -f /etc/resolv.conf", "echo 'nameserver 192.0.2.7' >/etc/resolv.conf":
+            with self.subTest(setup):
+                self.machine.shell(f"{setup}; mkdir -p /var/lib/veldmark/journal/30-resolver.new/x")
+                before = self.machine.snapshot()
+                try:
+                    self.assertOneLine(self.machine.connect(strict=0, check=False), "The journal cannot be written.")
+                    self.assertEqual(self.machine.snapshot(), before)
+                finally:
+                    self.machine.shell("rm -r /var/lib/veldmark/journal/30-resolver.new")
 
     def test_missing_folder_is_left_alone(self):
         self.machine.shell("ln -sf /run/nowhere/at/all /etc/resolv.conf")

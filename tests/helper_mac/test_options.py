@@ -25,7 +25,7 @@ class Options(MacTest):
     def test_every_hostile_argument_is_refused(self):
         for name, arguments in {**linux_options.HOSTILE, **MORE}.items():
             with self.subTest(name):
-                self.assertOneLine(self.machine.help(*arguments, check=False))
+                self.assertOneLine(self.machine.help(*arguments, check=False), linux_options.SAYS.get(name, ""))
                 self.assertFalse(os.path.exists(self.machine.root + "/run/pwned"))
         self.assertRestored()
         self.assertEqual(self.machine.calls("networksetup -set"), [])

@@ -7,6 +7,7 @@ import subprocess
 import tempfile
 import threading
 import unittest
+import unittest.mock
 from pathlib import Path
 
 from veldlab import snapshot
@@ -22,7 +23,13 @@ class HostTest(unittest.TestCase):
     def setUpClass(cls):
         cls.shared = tempfile.TemporaryDirectory(prefix="veldlab-test-")
         cls.addClassCleanup(cls.shared.cleanup)
-        cls.lab = Lab(share=[cls.shared.name])
+        cls.built = tempfile.TemporaryDirectory(prefix="veldlab-test-")   # below /tmp, which the host has of its own
+        cls.addClassCleanup(cls.built.cleanup)
+        os.chmod(cls.built.name, 0o755)
+        Path(cls.built.name, "veldmarkctl").write_text("#!/bin/sh\necho built\n")
+        os.chmod(Path(cls.built.name, "veldmarkctl"), 0o755)
+        with unittest.mock.patch.dict(os.environ, {"VELDMARK_PROGRAMS": cls.built.name, "VELDMARK_SPEED": "20", "VELDMARK_NONE": "/tmp/none"}):
+            cls.lab = Lab(share=[cls.shared.name])
         cls.lab.up(wait=False)
         cls.addClassCleanup(cls.lab.down)
         cls.host = cls.lab.host
@@ -57,6 +64,9 @@ class HostTest(unittest.TestCase):
         self.assertEqual(Path(self.shared.name, "in").read_text(), "back\n")
         self.assertEqual(self.sh(f"test {PROJECT} -ef . && echo same", cwd=PROJECT).stdout, "same\n")
         self.assertTrue(self.host.path(str(PROJECT)).samefile(PROJECT))
+
+    def test_programs_of_a_build_below_tmp_run(self):
+        self.assertEqual(self.host.run([f"{self.built.name}/veldmarkctl"], user=self.host.user).stdout, "built\n")
 
     def test_alice_is_an_ordinary_user_of_the_host_only(self):
         facts = self.sh("id -un; id -u; echo $HOME $USER $XDG_RUNTIME_DIR; pwd; stat -c %a:%U $HOME $XDG_RUNTIME_DIR",

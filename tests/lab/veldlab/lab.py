@@ -28,15 +28,23 @@ PROJECT = Path(__file__).resolve().parents[3]
 _SUPERVISOR = Path(__file__).resolve().with_name("supervisor.py")
 
 
+def _given_folders() -> list[str]:
+    """Where the programs and other files are that the caller's environment names (VELDMARK_PROGRAMS and its like). A build
+    may lie anywhere, also below /tmp, where the host would see an empty folder."""
+    given = (value for name, value in os.environ.items() if name.startswith("VELDMARK_") and os.path.isabs(value))
+    folders = {path if os.path.isdir(path) else os.path.dirname(path) for path in given if os.path.exists(path)}
+    return sorted(folders - {"/", "/tmp", "/run", "/etc", "/usr", "/var", "/home", "/opt", "/srv", "/root"})
+
+
 class Lab:
-    """`share`: further folders that the host is to see as they are, besides the project's tree.
+    """`share`: further folders that the host is to see as they are, besides the project's tree and the programs under test.
 
     `logs`: a folder that `down` copies the nodes' and services' logs to. `timings`: seconds of each step of `up`. `on_step`
     is told the name of each step as it begins, on any thread.
     """
 
     def __init__(self, share: Iterable[str | Path] = (), logs: str | Path = "", on_step: Callable[[str], None] | None = None):
-        self.share = [str(PROJECT), *map(str, share)]
+        self.share = [str(PROJECT), *_given_folders(), *map(str, share)]
         self.logs = logs
         self.on_step = on_step
         self.timings: dict[str, float] = {}
