@@ -2,7 +2,7 @@
 # ---- Linux: connect and disconnect -------------------------------------------------------------------------
 
 readonly FIREWALL_ENTRY=10-firewall
-readonly ENTRIES="$KDE_ENTRY $GNOME_ENTRY $RESOLVED_ENTRY $RESOLVER_ENTRY $TOR_ENTRY $WATCHER_ENTRY $EXEMPT_ENTRY $FIREWALL_ENTRY"   # in the order of undoing
+readonly ENTRIES="$KDE_ENTRY $GNOME_ENTRY $GLOBAL_ENTRY $RESOLVED_ENTRY $RESOLVER_ENTRY $TOR_ENTRY $SERVICE_ENTRY $WATCHER_ENTRY $EXEMPT_ENTRY $FIREWALL_ENTRY"   # in the order of undoing
 
 # switch_firewall MODE: marker and rules belong together, the marker first.
 switch_firewall() {
@@ -22,6 +22,7 @@ linux_connect() {
   trap finish EXIT
   check_firewall
   ready_account
+  check_ports
   ready_folders
   ready_programs
   read_resolver
@@ -48,9 +49,11 @@ linux_connect() {
     STAYS_CLOSED=" The network stays blocked until you disconnect."
   fi
   undo_entry "$TOR_ENTRY" || ! journal_has "$TOR_ENTRY" || die "$UNDONE"
+  stop_services
   start_tor
   put_resolver
-  put_resolved || true   # the firewall redirects what its links ask
+  put_resolved || true   # the firewall redirects what it asks
+  put_global || true
   put_proxy
   if [[ $former == strict && $mode == proxy ]]; then
     undo_entry "$WATCHER_ENTRY" || true
@@ -79,9 +82,11 @@ undo_entry() {
   case $name in
   "$KDE_ENTRY") undo_kde ;;
   "$GNOME_ENTRY") undo_gnome ;;
+  "$GLOBAL_ENTRY") undo_global ;;
   "$RESOLVED_ENTRY") undo_resolved ;;
   "$RESOLVER_ENTRY") undo_resolver ;;
   "$TOR_ENTRY") undo_tor ;;
+  "$SERVICE_ENTRY") undo_service ;;
   "$WATCHER_ENTRY") undo_watcher ;;
   "$EXEMPT_ENTRY") undo_exempt ;;
   "$FIREWALL_ENTRY") undo_firewall ;;
@@ -102,8 +107,8 @@ undo_session() {
     UNDONE='' status=0
     undo_entry "$name" || status=$?
     ((status == 0)) || reason=${reason:-${UNDONE:-The former network settings could not all be restored.}}
-    # The desktop's settings and the group are not the network: they are tried again by the next run.
-    [[ $status != 1 || $name == "$GNOME_ENTRY" || $name == "$KDE_ENTRY" || $name == "$EXEMPT_ENTRY" ]] || open=''
+    # The desktop's settings, the service and the group are not the network: they are tried again by the next run.
+    [[ $status != 1 || $name == "$GNOME_ENTRY" || $name == "$KDE_ENTRY" || $name == "$SERVICE_ENTRY" || $name == "$EXEMPT_ENTRY" ]] || open=''
   done
   [[ -z $open ]] || rm -f -- "$MARKER" "$RULES" "$LISTED"
   rm -f -- "$MARKER.new" "$RULES.new" "$LISTED.new" "$WATCHER" "$WATCHER.new" "$RELOCKED" "$RELOCKED.new" "$TORRC.checked" "$JOURNAL"/*.new
@@ -135,7 +140,7 @@ linux_fix-dns() {
   [[ $(read_marker) != strict ]] || watcher_runs || start_watcher
   read_resolver
   put_resolver
-  put_resolved || die "The DNS servers of systemd-resolved cannot be changed."
+  { put_resolved && put_global; } || die "The DNS servers of systemd-resolved cannot be changed."
 }
 
 linux_disconnect() {
