@@ -82,6 +82,25 @@ class Service(HelperTest):
                                f"The port 9050, which Tor needs, is held by tor (process {pid}). End that, then connect again.")
             self.assertEqual(self.machine.snapshot(), before)
 
+    def test_a_service_that_holds_no_port_is_not_stopped_for_another_program(self):
+        self.machine.shell("systemctl stop tor@default.service")
+        services.start_tor_service(self.machine, ports=(9150,))
+        services.start_tor_service(self.machine, "tor@other.service")
+        self.assertOneLine(self.machine.connect(check=False), "is held by tor (process ")
+        self.assertTrue(self.runs())
+
+    def test_what_was_stopped_before_stays_noted(self):
+        """A second service holds a port at the next connect of the same session."""
+        self.machine.shell("systemctl stop tor@default.service")
+        services.start_tor_service(self.machine, ports=(9050,))
+        self.connect_again()
+        self.machine.shell("kill -9 $(pgrep -u _veldmark); while pgrep -u _veldmark; do sleep 0.01; done")
+        services.start_tor_service(self.machine, "tor.service", (9051,))
+        self.connect_again()
+        self.assertFalse(services.tor_service_runs(self.machine, "tor.service"))
+        self.machine.help("disconnect")
+        self.assertTrue(self.runs() and services.tor_service_runs(self.machine, "tor.service"))
+
     def test_a_session_stays_where_the_next_connect_cannot_begin(self):
         self.connect_again(1)
         self.machine.shell("kill -9 $(pgrep -u _veldmark); while pgrep -u _veldmark; do sleep 0.01; done")
