@@ -1,7 +1,7 @@
 
 # ---- Linux: systemd-resolved -------------------------------------------------------------------------------
-# Where it serves the look-ups, each network link has servers of its own. The firewall redirects what is sent to them
-# all the same; here they are named as what they are, so that the settings that everybody reads are true.
+# Where it serves the look-ups, each network link has servers of its own, and the system may have some. The firewall redirects
+# what is sent to them all the same; here they are named as what they are, so that the settings that everybody reads are true.
 
 readonly RESOLVED_ENTRY=31-resolved
 readonly RESOLVED_SERVER=127.0.0.1
@@ -75,5 +75,72 @@ undo_resolved() {
   done
   ((status == 0)) && return 0
   UNDONE="The network is open again, but the DNS servers of systemd-resolved could not be put back."
+  return 1
+}
+
+# The system's own servers stand in the daemon's configuration. A file of ours in /run, which a restart of the computer removes,
+# replaces them; the daemon reads it when it starts anew. It keeps the links' settings over that.
+
+readonly GLOBAL_ENTRY=32-resolved-global
+readonly GLOBAL_FILE=/run/systemd/resolved.conf.d/zz-veldmark.conf
+readonly RESOLVED_UNIT=systemd-resolved.service
+
+# Tor's port speaks neither TLS nor DNSSEC. The empty line takes away what was set before.
+print_global() {
+  printf '# Veldmark: names are looked up through Tor.\n[Resolve]\nDNS=\nDNS=%s\nDNSOverTLS=no\nDNSSEC=no\n' "$RESOLVED_SERVER"
+}
+
+# global_servers: prints the system's own servers as the daemon tells them.
+global_servers() {
+  local line
+  while IFS= read -r line; do
+    [[ $line != "Global: "* ]] || printf '%s' "${line#Global: }"
+  done < <(ask_resolved dns)
+}
+
+# is_our_server SERVERS: nothing but our own; the daemon may name it twice, once for the resolver file.
+is_our_server() { [[ $1 =~ ^127\.0\.0\.1(\ 127\.0\.0\.1)*$ ]]; }
+
+# restart_resolved: the daemon is told to start anew, however often it was before.
+restart_resolved() {
+  ask_systemd 5 reset-failed -- "$RESOLVED_UNIT" >/dev/null || true
+  ask_systemd 20 restart -- "$RESOLVED_UNIT" >/dev/null
+}
+
+# put_global: status 1 when the system's servers could not be switched.
+put_global() {
+  local servers folder=${GLOBAL_FILE%/*} poll
+  has_resolved && command -v systemctl >/dev/null || return 0
+  servers=$(global_servers)
+  [[ -n $servers ]] && ! is_our_server "$servers" || return 0
+  if ! journal_has "$GLOBAL_ENTRY"; then
+    if [[ -d $folder ]]; then
+      journal_put "$GLOBAL_ENTRY" "file $GLOBAL_FILE" || die "The journal cannot be written."
+    else
+      journal_put "$GLOBAL_ENTRY" "file $GLOBAL_FILE" "created 1" || die "The journal cannot be written."
+    fi
+  fi
+  [[ -d $folder ]] || mkdir -m 0755 -- "$folder" || return 1
+  write_file "$GLOBAL_FILE" 0644 root "$(print_global)"$'\n' && restart_resolved || return 1
+  # NetworkManager hands a daemon that has started anew the links' servers once more.
+  if [[ -d /run/NetworkManager ]]; then
+    for ((poll = 0; poll < 20; poll++)); do
+      put_resolved || true
+      sleep 0.1
+    done
+  fi
+  is_our_server "$(global_servers)"
+}
+
+# undo_global: the daemon is started anew only where it still asks us.
+undo_global() {
+  ((${#JOURNAL_LINES[@]})) || [[ -e $GLOBAL_FILE ]] || return 0
+  rm -f -- "$GLOBAL_FILE" "$GLOBAL_FILE.new" || true
+  [[ $(journal_value created) != 1 ]] || rmdir -- "${GLOBAL_FILE%/*}" || true
+  if [[ ! -e $GLOBAL_FILE ]]; then
+    has_resolved && is_our_server "$(global_servers)" || return 0
+    ! restart_resolved || return 0
+  fi
+  UNDONE="The network is open again, but the DNS servers of systemd-resolved could not be put back. Try: systemctl restart $RESOLVED_UNIT."
   return 1
 }

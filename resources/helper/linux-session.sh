@@ -2,7 +2,7 @@
 # ---- Linux: connect and disconnect -------------------------------------------------------------------------
 
 readonly FIREWALL_ENTRY=10-firewall
-readonly ENTRIES="$KDE_ENTRY $GNOME_ENTRY $RESOLVED_ENTRY $RESOLVER_ENTRY $TOR_ENTRY $WATCHER_ENTRY $EXEMPT_ENTRY $FIREWALL_ENTRY"   # in the order of undoing
+readonly ENTRIES="$KDE_ENTRY $GNOME_ENTRY $GLOBAL_ENTRY $RESOLVED_ENTRY $RESOLVER_ENTRY $TOR_ENTRY $SERVICE_ENTRY $WATCHER_ENTRY $EXEMPT_ENTRY $FIREWALL_ENTRY"   # in the order of undoing
 
 # switch_firewall MODE: marker and rules belong together, the marker first.
 switch_firewall() {
@@ -23,6 +23,7 @@ linux_connect() {
   spare_others
   check_firewall
   ready_account
+  check_ports
   ready_folders
   ready_programs
   read_resolver
@@ -50,9 +51,11 @@ linux_connect() {
     STAYS_CLOSED=" The network stays blocked until you disconnect."
   fi
   undo_entry "$TOR_ENTRY" || ! journal_has "$TOR_ENTRY" || die "$UNDONE"
+  stop_services
   start_tor
   put_resolver
-  put_resolved || true   # the firewall redirects what its links ask
+  put_resolved || true   # the firewall redirects what it asks
+  put_global || true
   put_proxy
   if [[ $mode == proxy ]]; then
     # Also what is left of a strict session whose rules have gone: its watcher and its note.
@@ -82,9 +85,11 @@ undo_entry() {
   case $name in
   "$KDE_ENTRY") undo_kde ;;
   "$GNOME_ENTRY") undo_gnome ;;
+  "$GLOBAL_ENTRY") undo_global ;;
   "$RESOLVED_ENTRY") undo_resolved ;;
   "$RESOLVER_ENTRY") undo_resolver ;;
   "$TOR_ENTRY") undo_tor ;;
+  "$SERVICE_ENTRY") undo_service ;;
   "$WATCHER_ENTRY") undo_watcher ;;
   "$EXEMPT_ENTRY") undo_exempt ;;
   "$FIREWALL_ENTRY") undo_firewall ;;
@@ -105,8 +110,8 @@ undo_session() {
     UNDONE='' status=0
     undo_entry "$name" || status=$?
     ((status == 0)) || reason=${reason:-${UNDONE:-The former network settings could not all be restored.}}
-    # The desktop's settings and the group are not the network: they are tried again by the next run.
-    [[ $status != 1 || $name == "$GNOME_ENTRY" || $name == "$KDE_ENTRY" || $name == "$EXEMPT_ENTRY" ]] || open=''
+    # The desktop's settings, the service and the group are not the network: they are tried again by the next run.
+    [[ $status != 1 || $name == "$GNOME_ENTRY" || $name == "$KDE_ENTRY" || $name == "$SERVICE_ENTRY" || $name == "$EXEMPT_ENTRY" ]] || open=''
   done
   [[ -z $open ]] || rm -f -- "$MARKER" "$OWNER" "$RULES" "$LISTED"
   rm -f -- "$MARKER.new" "$OWNER.new" "$RULES.new" "$LISTED.new" "$WATCHER" "$WATCHER.new" "$KILL_SWITCH_NOTE" "$KILL_SWITCH_NOTE.new" "$STATE/relocked" "$TORRC.checked" "$JOURNAL"/*.new
@@ -138,7 +143,7 @@ linux_fix-dns() {
   [[ $(read_marker) != strict ]] || watcher_runs || start_watcher
   read_resolver
   put_resolver
-  put_resolved || die "The DNS servers of systemd-resolved cannot be changed."
+  { put_resolved && put_global; } || die "The DNS servers of systemd-resolved cannot be changed."
 }
 
 linux_disconnect() {

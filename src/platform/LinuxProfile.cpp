@@ -96,7 +96,7 @@ PlatformProfile PlatformProfile::linux(const Places &places)
     profile.promptKind = PromptKind::PolicyKit;
     profile.promptProgram = at("/usr/bin/pkexec");
     profile.promptText =
-        QStringLiteral("Veldmark needs administrator access to manage Tor routing on this computer.");
+        QStringLiteral("Veldmark needs administrator access to manage Tor routing on this computer. The system's own Tor service, where it runs, is stopped meanwhile.");
 
     profile.torBrowserRoots = {
         {places.home + QStringLiteral("/.local/share/torbrowser/tbb/x86_64/tor-browser"),

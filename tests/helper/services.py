@@ -1,7 +1,9 @@
-"""Real services of a desktop in a test's machine: a user's session bus with GNOME's settings, and systemd-resolved.
+"""Services of a desktop in a test's machine: a user's session bus with GNOME's settings and systemd-resolved, which are the real
+ones, and a system's own Tor service, which is a stand-in with systemctl's words.
 
     start_session_bus(machine), as_user(machine, script)
     require_resolved() before anything else, daemon = start_resolved(machine); daemon.wait() after the machine was closed
+    add_systemctl(machine), start_tor_service(machine)
 """
 
 import os
@@ -48,11 +50,22 @@ def start_resolved(machine):
         mkdir -p /run/dbus /run/systemd/resolve /etc/dbus-1/system.d; chown systemd-resolve:systemd-resolve /run/systemd/resolve
         cp "$2" /etc/dbus-1/system.d/; dbus-daemon --system --fork
         for n in 0 1; do ip link add w$n type veth peer name p$n; ip link set w$n up; ip link set p$n up; ip addr add 192.0.2.1$n/24 dev w$n; done
+        ln -sf /run/systemd/resolve/stub-resolv.conf /etc/resolv.conf
     """, ROOT.rstrip("/") or "", POLICY)
     daemon = machine.start(DAEMON, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-    machine.shell("until resolvectl dns >/dev/null 2>&1; do :; done; ln -sf /run/systemd/resolve/stub-resolv.conf /etc/resolv.conf;"
-                  "until [ -s /etc/resolv.conf ]; do :; done")
+    machine.shell("until resolvectl dns >/dev/null 2>&1 && [ -s /etc/resolv.conf ]; do :; done")
     return daemon
+
+
+def add_global_servers(machine, servers, more=""):
+    """In the daemon's configuration, with a systemctl that can start it anew; after start_resolved() and add_systemctl()."""
+    machine.shell(r"""
+        cd /run/units; unit=systemd-resolved.service
+        printf '#!/bin/sh\nexec %s\n' "$1" >$unit; printf '#!/bin/sh\nresolvectl dns >/dev/null 2>&1\n' >$unit.ready; chmod 755 $unit $unit.ready
+        [ -e $unit.pid ] || pgrep -x systemd-resolve >$unit.pid
+        printf '[Resolve]\nDNS=%s\n%s\n' "$2" "$3" >/etc/systemd/resolved.conf
+        systemctl restart $unit
+    """, DAEMON, servers, more)
 
 
 def give_links_servers(machine):
@@ -62,3 +75,66 @@ def give_links_servers(machine):
 
 def resolved_settings(machine):
     return machine.shell("for k in dns domain default-route dnsovertls dnssec; do echo $k; resolvectl $k; done")
+
+
+# Keeps what it knows in /run/units: NAME is a unit's program, NAME.pid its process. A unit whose file NAME.stuck is there can be
+# neither started nor stopped.
+SYSTEMCTL = r"""#!/bin/bash
+cd /run/units
+echo "$*" >>said
+property='' words=()
+for word; do
+  case $word in
+  --property=*) property=${word#*=} ;;
+  -*) ;;
+  *) words[${#words[@]}]=$word ;;
+  esac
+done
+unit=${words[1]}
+running() { [ -s "$unit.pid" ] && kill -0 "$(cat "$unit.pid")" 2>/dev/null; }
+case ${words[0]}-$property in
+show-MainPID) if running; then cat "$unit.pid"; else echo 0; fi ;;
+show-LoadState) if [ -e "$unit" ]; then echo loaded; else echo not-found; fi ;;
+stop-*)
+  [ ! -e "$unit.stuck" ] || { echo "Job for $unit failed." >&2; exit 1; }
+  ! running || { kill "$(cat "$unit.pid")"; while running; do sleep 0.01; done; }
+  rm -f "$unit.pid" ;;
+start-*)
+  [ -e "$unit" ] || { echo "Failed to start $unit: Unit $unit not found." >&2; exit 5; }
+  ! running || exit 0
+  [ ! -e "$unit.stuck" ] || { echo "Job for $unit failed." >&2; exit 1; }
+  rm -f up
+  setsid "./$unit" </dev/null >/dev/null 2>&1 7>&- 8>&- 9>&- &
+  echo $! >"$unit.pid"
+  until [ -e up ] || { [ -x "$unit.ready" ] && "./$unit.ready"; } || ! running; do sleep 0.01; done ;;
+restart-*) "$0" stop "$unit" && "$0" start "$unit" ;;
+reset-failed-*) ;;
+*) exit 1 ;;
+esac
+"""
+
+# Listens on a Tor's ports as Debian's does: opened by root, run by an account of its own.
+TOR_SERVICE = """#!/usr/bin/python3
+import ctypes, os, signal, socket
+ctypes.CDLL(None).prctl(15, b"tor")
+sockets = []
+for port in %r:
+    sockets.append(socket.socket()); sockets[-1].setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1); sockets[-1].bind(("127.0.0.1", port)); sockets[-1].listen()
+os.setgroups([]); os.setgid(4108); os.setuid(4108)
+open("/run/units/up", "w").close()
+signal.pause()
+"""
+TOR_UNIT = "tor@default.service"
+
+
+def add_systemctl(machine):
+    machine.shell("mkdir -p -m 777 /run/units; printf %s \"$1\" >/run/units/systemctl; chmod 755 /run/units/systemctl;"
+                  "mount --bind /run/units/systemctl /usr/bin/systemctl", SYSTEMCTL)
+
+
+def start_tor_service(machine, unit=TOR_UNIT, ports=(9050, 9051)):
+    machine.shell('cd /run/units; printf %s "$1" >"$2"; chmod 755 "$2"; systemctl start "$2"', TOR_SERVICE % (ports,), unit)
+
+
+def tor_service_runs(machine, unit=TOR_UNIT):
+    return machine.shell('systemctl show --property=MainPID --value "$1"', unit) != "0\n"

@@ -4,7 +4,7 @@ own: a disconnect afterwards puts those back as well, and a strict session is ne
 Killed after each change to those settings, and after a sample of the others, which test_kill.py goes through;
 VELDMARK_KILL_ALL=1: after each.
 
-    test_kill_services.py Gnome | Resolved
+    test_kill_services.py Gnome | Resolved | Global | TorService
 """
 
 import os
@@ -122,11 +122,13 @@ class Services(Kill):
     def test_disconnect(self):
         self.assertGreater(self.every_point(self.connect_strict, ["disconnect"], lambda state: None, "nft delete table", BEFORE), 15)
 
+    CALLS = 3   # at least so many in a connect, and in a disconnect
+
     def test_in_the_midst_of_connect(self):
-        self.killed_in_the_midst(lambda: None, connect_words("1"), 3)
+        self.killed_in_the_midst(lambda: None, connect_words("1"), self.CALLS)
 
     def test_in_the_midst_of_disconnect(self):
-        self.killed_in_the_midst(self.connect_strict, ["disconnect"], 3)
+        self.killed_in_the_midst(self.connect_strict, ["disconnect"], self.CALLS)
 
 
 class Gnome(Services):
@@ -147,6 +149,24 @@ class Gnome(Services):
         """The file of dconf's that the settings are in is written anew at each change; what it holds is what counts."""
         return "".join(line for line in super().snapshot().splitlines(True) if not line.endswith(" /home/alice/.config/dconf/user\n")) \
             + "".join(services.gnome_settings(cls.machine))
+
+
+class TorService(Services):
+    """The system's own Tor service."""
+
+    OWN = "service",
+    HOLDS = "/usr/bin/systemctl", "stop start"
+    CALLS = 1
+
+    @classmethod
+    def set_up_services(cls):
+        services.add_systemctl(cls.machine)
+        cls.set_up_holder()
+        services.start_tor_service(cls.machine)
+
+    @classmethod
+    def snapshot(cls):
+        return super().snapshot() + str(services.tor_service_runs(cls.machine))
 
 
 class Resolved(Services):
@@ -194,8 +214,33 @@ class Resolved(Services):
         self.assertEqual(self.snapshot(), former)
 
 
+class Global(Services):
+    """systemd-resolved with servers of the whole system."""
+
+    OWN = "global",
+    HOLDS = "/usr/bin/systemctl", "restart"
+    CALLS = 1
+
+    @classmethod
+    def set_up_services(cls):
+        cls.daemon = services.start_resolved(cls.machine)
+        services.add_systemctl(cls.machine)
+        services.add_global_servers(cls.machine, "192.0.2.60")
+        services.give_links_servers(cls.machine)
+        cls.set_up_holder()
+
+    @classmethod
+    def tearDownClass(cls):
+        super().tearDownClass()
+        cls.daemon.wait()
+
+    @classmethod
+    def snapshot(cls):
+        return super().snapshot() + services.resolved_settings(cls.machine) + cls.machine.shell("ls /run/systemd")
+
+
 if __name__ == "__main__":
     namespace.require_namespaces()
-    if not any(word.startswith("Gnome") for word in sys.argv[1:]):
+    if not any(word.startswith(("Gnome", "TorService")) for word in sys.argv[1:]):
         services.require_resolved()
     namespace.main()

@@ -121,9 +121,10 @@ class Session(HelperTest):
         self.assertEqual(self.machine.snapshot(), during)
 
     def take_port(self, port):
+        """For IPv6 and IPv4 at once: whether such a one is in Tor's way only Tor finds out."""
         holder = self.machine.start(
             "/usr/bin/python3", "-c",
-            f"import socket, sys; s = socket.create_server(('127.0.0.1', {port})); print('up', flush=True); sys.stdin.read()",
+            f"import socket, sys; s = socket.create_server(('::', {port}), family=socket.AF_INET6, dualstack_ipv6=True); print('up', flush=True); sys.stdin.read()",
             stdin=subprocess.PIPE, stdout=subprocess.PIPE)
         self.assertEqual(holder.stdout.readline(), b"up\n")
         self.addCleanup(holder.wait)

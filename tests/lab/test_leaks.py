@@ -118,7 +118,7 @@ class Leaks(LeakCase):
             self.core("fix-dns ran")
             self.sh("until pgrep -x nft; do sleep 0.01; done; nft flush ruleset; until nft list chain inet veldmark output; do :; done >/dev/null 2>&1")
             self.core("somebody flushed the rules, and they are back")
-            holder = self.host.popen(["/usr/bin/python3", "-c", "import socket,sys; s = socket.create_server(('127.0.0.1', 9051));"
+            holder = self.host.popen(["/usr/bin/python3", "-c", "import socket,sys; s = socket.create_server(('::', 9051), family=socket.AF_INET6, dualstack_ipv6=True);"
                                       "print('up', flush=True); sys.stdin.read()"], stdin=subprocess.PIPE, stdout=subprocess.PIPE)
             self.assertEqual(holder.stdout.readline(), b"up\n")
             self.assertNotEqual(self.connect(check=False).returncode, 0)

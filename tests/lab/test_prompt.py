@@ -90,7 +90,8 @@ class Prompt(unittest.TestCase):
             self.assertEqual([request["action"] for request in asked],
                              ["org.veldmark.helper.connect", "org.veldmark.helper.disconnect"])
             self.assertEqual([request["message"] for request in asked],
-                             ["Veldmark needs administrator access to manage Tor routing on this computer.",
+                             ["Veldmark needs administrator access to manage Tor routing on this computer. "
+                              "The system's own Tor service, where it runs, is stopped meanwhile.",
                               "Veldmark needs administrator access to stop Tor and restore this computer's network."])
             self.assertEqual(asked[0]["identities"], [self.lab.host.uid])
             session.interrupt()

@@ -1,0 +1,127 @@
+
+# ---- Linux: the system's own Tor service -------------------------------------------------------------------
+# Debian starts one when tor is installed. It holds the ports that our Tor needs, so it is stopped while a session lasts, behind the
+# kill switch in strict mode, and started again at the end. Only a service of these names is, and only when its own main process
+# is what holds a port. Whatever else holds one is named, and nothing is changed.
+
+readonly SERVICE_ENTRY=18-service
+readonly SERVICES="tor@default.service tor.service"
+readonly SERVICE_SECONDS=40   # a relay takes 30 s to end
+
+# ask_systemd SECONDS WORD...
+ask_systemd() {
+  local seconds=$1
+  shift
+  timeout -k 1 "$seconds" systemctl --no-pager --no-ask-password "$@" </dev/null
+}
+
+# port_sockets: "PORT UID SOCKET" for each socket of another account's that keeps Tor from a port of its on 127.0.0.1.
+port_sockets() {
+  local table listens socks control names port address state uid socket rest
+  printf -v socks '%04X' "$SOCKS_PORT"
+  printf -v control '%04X' "$CONTROL_PORT"
+  printf -v names '%04X' "$DNS_PORT"
+  for table in tcp udp; do
+    listens=0A
+    [[ $table == tcp ]] || listens=07
+    while read -r rest address rest state rest rest rest uid rest socket rest; do
+      [[ $state == "$listens" && $uid != "$TOR_UID" && $socket =~ ^[1-9][0-9]*$ ]] || continue
+      case $address in
+      # 127.0.0.1 as a number of this processor, either order of the bytes, and every address.
+      0100007F:* | 7F000001:* | 00000000:*) ;;
+      *) continue ;;
+      esac
+      case $table-${address#*:} in
+      tcp-"$socks") port=$SOCKS_PORT ;;
+      tcp-"$control") port=$CONTROL_PORT ;;
+      udp-"$names") port=$DNS_PORT ;;
+      *) continue ;;
+      esac
+      printf '%s %s %s\n' "$port" "$uid" "$socket"
+    done <"/proc/net/$table"
+  done
+}
+
+# has_socket PID SOCKET: whether the process has it open.
+has_socket() {
+  local line
+  while IFS= read -r line; do
+    [[ $line != "socket $2" ]] || return 0
+  done < <(stat -L -c '%F %i' -- "/proc/$1/fd"/* || true)
+  return 1
+}
+
+# service_with SOCKET: prints which of SERVICES has it, by its main process.
+service_with() {
+  local unit pid
+  command -v systemctl >/dev/null || return 0
+  for unit in $SERVICES; do
+    pid=$(ask_systemd 5 show --property=MainPID --value -- "$unit") || continue
+    if [[ $pid =~ ^[1-9][0-9]{0,9}$ ]] && has_socket "$pid" "$1"; then
+      printf '%s' "$unit"
+      return
+    fi
+  done
+}
+
+# name_holder SOCKET UID: who has it, for a message.
+name_holder() {
+  local folder name
+  for folder in /proc/[1-9]*; do
+    has_socket "${folder#/proc/}" "$1" || continue
+    { IFS= read -r name <"$folder/comm"; } 2>/dev/null || name=
+    # Anybody can call a process anything.
+    name=${name//[^ -~]/?}
+    printf '%s (process %s)' "${name:-a program}" "${folder#/proc/}"
+    return
+  done
+  printf 'a program of the account with the id %s' "$2"
+}
+
+# check_ports: sets TAKEN to the services that hold a port of Tor's. Fails, before anything is changed, when somebody else does.
+TAKEN=''
+check_ports() {
+  local port uid socket unit
+  TAKEN=''
+  while read -r port uid socket; do
+    unit=$(service_with "$socket")
+    [[ -n $unit ]] || die "The port $port, which Tor needs, is held by $(name_holder "$socket" "$uid"). End that, then connect again."
+    [[ " $TAKEN " == *" $unit "* ]] || TAKEN="${TAKEN:+$TAKEN }$unit"
+  done < <(port_sockets | sort -n)
+}
+
+# stop_services: what an earlier connect has noted since the computer's start stays noted.
+stop_services() {
+  local unit line noted=()
+  check_ports
+  [[ -n $TAKEN ]] || return 0
+  if journal_read "$SERVICE_ENTRY" && [[ $(journal_value boot) == "$(boot_id)" ]]; then
+    for line in "${JOURNAL_LINES[@]}"; do
+      [[ $line != "unit "* || " $TAKEN " == *" ${line#unit } "* ]] || noted[${#noted[@]}]=$line
+    done
+  fi
+  for unit in $TAKEN; do
+    noted[${#noted[@]}]="unit $unit"
+  done
+  journal_put "$SERVICE_ENTRY" "boot $(boot_id)" "${noted[@]}" || die "The journal cannot be written."
+  for unit in $TAKEN; do
+    ask_systemd "$SERVICE_SECONDS" stop -- "$unit" >/dev/null || die "The system's own Tor service ($unit) cannot be stopped."
+  done
+}
+
+# undo_service: starts what was stopped, unless the computer has been started anew since or the service is no longer there. That
+# it has begun to start is all that is waited for.
+undo_service() {
+  local line unit state status=0
+  [[ $(journal_value boot) == "$(boot_id)" ]] || return 0
+  for line in "${JOURNAL_LINES[@]}"; do
+    unit=${line#unit }
+    [[ $line == "unit "* && " $SERVICES " == *" $unit "* ]] || continue
+    ask_systemd 10 --no-block start -- "$unit" >/dev/null && continue
+    state=$(ask_systemd 5 show --property=LoadState --value -- "$unit") || state=
+    [[ $state == not-found || $state == masked ]] || status=1
+  done
+  ((status != 0)) || return 0
+  UNDONE="The network is open again, but the system's own Tor service could not be started again. Try: systemctl start ${SERVICES%% *}."
+  return 1
+}
