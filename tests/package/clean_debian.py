@@ -3,9 +3,9 @@
     with CleanDebian(lab, base) as debian:
         debian.run(["apt-get", "install", "-y", "/packages/x.deb"], check=True)
 
-`prepare` makes the folder once, from Debian's registry, with nothing in it but what debootstrap calls minimal, and
-fetches (but does not install) what the package asks for. In the lab there is no way to the registry, so that what
-is installed there is what the package's own fields name.
+`prepare` makes the folder once, from the registry that this machine's own apt uses, with nothing in it but what
+debootstrap calls minimal, and fetches (but does not install) what the package asks for. In the lab there is no way to
+the registry, so that what is installed there is what the package's own fields name.
 """
 
 import contextlib
@@ -15,7 +15,6 @@ import subprocess
 from pathlib import Path
 
 RELEASE = "bookworm"
-REGISTRY = "http://deb.debian.org/debian"
 USER, UID = "alice", 1000
 _ENVIRONMENT = {"LANG": "C.UTF-8", "DEBIAN_FRONTEND": "noninteractive"}
 _START_NOTHING = "#!/bin/sh\nexit 101\n"
@@ -45,6 +44,20 @@ class Unprepared(Exception):
     """Why there is no clean Debian here; one line."""
 
 
+def registry() -> str:
+    """Where this machine's own apt gets Debian 12 from."""
+    try:
+        targets = subprocess.run(["apt-get", "indextargets", "--format", "$(SITE) $(RELEASE)"], check=True,
+                                 capture_output=True, text=True).stdout
+    except (OSError, subprocess.CalledProcessError):
+        raise Unprepared("This machine has no apt that works, so there is no registry to make a Debian from.") from None
+    for line in targets.splitlines():
+        site, _, release = line.partition(" ")
+        if release == RELEASE:
+            return site
+    raise Unprepared(f"The apt sources of this machine name no registry of Debian 12 ({RELEASE}).")
+
+
 def prepare(folder: Path, package: Path) -> Path:
     """Makes the base in `folder` unless it is there, and fetches the package's dependencies into it when they are others
     than last time. Remove the folder to begin anew."""
@@ -62,7 +75,7 @@ def prepare(folder: Path, package: Path) -> Path:
         raise Unprepared("debootstrap is not installed; ./build.sh deps does it")
     if not base.exists():
         shutil.rmtree(folder / "new", ignore_errors=True)
-        do("Fetching a minimal Debian from its registry", "debootstrap", "--variant=minbase", RELEASE, folder / "new", REGISTRY)
+        do("Fetching a minimal Debian from its registry", "debootstrap", "--variant=minbase", RELEASE, folder / "new", registry())
         (folder / "new/usr/sbin/policy-rc.d").write_text(_START_NOTHING)
         (folder / "new/usr/sbin/policy-rc.d").chmod(0o755)
         (folder / "new").rename(base)
