@@ -1,0 +1,171 @@
+"""Desktops of the booted machine, each a real login of alice's: pam_systemd makes the session, the session starts its own panel, its
+own polkit agent and whatever else is in its autostart. Used by looking (the accessibility bus, pictures) and by clicking.
+
+    with Desktop(machine, "xfce") as desktop:
+        desktop.launch("veldmark")
+        desktop.click("push button", "Connect to Tor")
+"""
+
+import contextlib
+import json
+import time
+from pathlib import Path
+
+from base import PROJECT
+from boot import USER, Machine
+
+_INSIDE = Path(__file__).resolve().parent / "inside"
+TOOLS = "/usr/local/lib/machine-test"
+_UNIT = """[Unit]
+Description=A person's desktop
+After=systemd-user-sessions.service dbus.service
+[Service]
+User={user}
+PAMName=machine-test
+WorkingDirectory=/home/{user}
+UtmpIdentifier=desktop
+UtmpMode=user
+Environment={environment}
+ExecStart={tools}/{kind}-session
+StandardOutput=append:/tmp/desktop.log
+StandardError=append:/tmp/desktop.log
+KillMode=mixed
+TimeoutStopSec=20
+"""
+_PAM = "auth required pam_permit.so\naccount required pam_unix.so\nsession required pam_unix.so\nsession required pam_systemd.so\n"
+_X11 = {"DISPLAY": ":7", "XDG_SESSION_TYPE": "x11", "QT_QPA_PLATFORM": "xcb"}
+_WAYLAND = {"XDG_SESSION_TYPE": "wayland", "WLR_BACKENDS": "headless", "WLR_LIBINPUT_NO_DEVICES": "1", "WLR_RENDERER": "pixman",
+            "WAYLAND_DISPLAY": "wayland-1"}
+_KINDS = {
+    "xfce": _X11 | {"XDG_CURRENT_DESKTOP": "XFCE", "XDG_SESSION_DESKTOP": "xfce", "XFCE_PANEL_MIGRATE_DEFAULT": "1"},
+    "lxqt": _X11 | {"XDG_CURRENT_DESKTOP": "LXQt", "XDG_SESSION_DESKTOP": "LXQt"},
+    "sway": _WAYLAND | {"XDG_CURRENT_DESKTOP": "sway", "XDG_SESSION_DESKTOP": "sway"},
+}
+_READY = {"xfce": ("xfce4-panel", "xfdesktop", "polkit-gnome-au"), "lxqt": ("lxqt-panel", "lxqt-policykit-"), "sway": ("waybar", "lxpolkit")}
+
+
+class Desktop(contextlib.AbstractContextManager):
+    def __init__(self, machine: Machine, kind: str, language: str = "en_GB", dark: bool = False):
+        self.machine, self.kind = machine, kind
+        self.env = _KINDS[kind] | {
+            "LANG": f"{language}.UTF-8", "XDG_SEAT": "seat0", "XDG_SESSION_CLASS": "user", "DBUS_SESSION_BUS_ADDRESS": "unix:path=/run/user/1000/bus",
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "XDG_RUNTIME_DIR": "/run/user/1000",
+        }
+        self.dark = dark
+
+    def __enter__(self) -> "Desktop":
+        given = {k: v for k, v in self.env.items() if k not in ("DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR", "WAYLAND_DISPLAY")}
+        environment = " ".join(f'"{key}={value}"' for key, value in given.items())
+        machine = self.machine
+        install(machine)
+        put(machine, "/run/systemd/system/desktop.service",
+            _UNIT.format(user=USER, environment=environment, tools=TOOLS, kind=self.kind))
+        machine.run(["systemctl", "daemon-reload"], check=True)
+        machine.run(["systemctl", "start", "desktop"], check=True)
+        try:
+            self.wait(lambda: all(self.pids(name) for name in _READY[self.kind]), 40, "the desktop did not come up")
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
+
+    def __exit__(self, *_) -> None:
+        self.machine.run(["systemctl", "stop", "desktop"], timeout=60)
+
+    def pids(self, name: str) -> list[int]:
+        """Processes of alice's whose name begins so; the kernel keeps 15 letters of it."""
+        return [int(word) for word in self.machine.run(["pgrep", "-u", USER, f"^{name[:15]}"]).stdout.split()]
+
+    def run(self, argv, **options):
+        return self.machine.run(argv, user=USER, env=self.env, **options)
+
+    def wait(self, condition, timeout: float = 30, what: str = "it did not come true"):
+        deadline = time.monotonic() + timeout
+        while not (found := condition()):
+            if time.monotonic() > deadline:
+                raise TimeoutError(f"{what} within {timeout:.0f} s")
+            time.sleep(0.1)
+        return found
+
+    def picture(self, target: Path) -> Path:
+        """What is on the screen, as a PNG file of the caller's."""
+        inside = "/tmp/picture.png"
+        shot = ["grim", inside] if self.kind == "sway" else ["scrot", "--overwrite", "--pointer", inside]
+        self.run(shot, check=True)
+        target.parent.mkdir(parents=True, exist_ok=True)
+        target.write_bytes(self.run(["cat", inside], check=True, text=False).stdout)
+        return target
+
+    def launch(self, *command: str, env: dict | None = None) -> None:
+        """A program of the session's own, as its menu starts one."""
+        words = [f"--setenv={key}={value}" for key, value in (env or {}).items()]
+        if self.kind == "sway":
+            self.run(["swaymsg", "exec", "--", *command], check=True)
+        else:
+            put(self.machine, "/tmp/launch", "#!/bin/sh\nexec " + " ".join(command) + "\n", 0o755)
+            self.run(["xfce4-terminal"] if words and False else ["setsid", "-f", "/tmp/launch"], check=True)
+
+    # Looking ----------------------------------------------------------------------------------------------------------
+
+    def nodes(self, pid: int) -> list[dict]:
+        """Everything that the program shows, by what it tells a screen reader."""
+        seen = self.run(["/usr/bin/python3", f"{TOOLS}/accessible.py", str(pid)], timeout=60)
+        if seen.returncode:
+            return []
+        found, waiting = [], json.loads(seen.stdout)[::-1]
+        while waiting:
+            node = waiting.pop()
+            found.append(node)
+            waiting += node["children"][::-1]
+        return [node for node in found if "showing" in node["states"]]
+
+    def find(self, program: str, role: str, name: str = "") -> dict | None:
+        for pid in self.pids(program):
+            for node in self.nodes(pid):
+                if node["role"] == role and (not name or node["name"] == name):
+                    return node
+        return None
+
+    def wait_for(self, program: str, role: str, name: str = "", timeout: float = 40) -> dict:
+        try:
+            return self.wait(lambda: self.find(program, role, name), timeout)
+        except TimeoutError:
+            shown = [f"{n['role']} {n['name']!r}" for pid in self.pids(program) for n in self.nodes(pid)]
+            raise TimeoutError(f"{program} shows no {role} {name!r} within {timeout:.0f} s but " + "; ".join(shown)) from None
+
+    # Doing ------------------------------------------------------------------------------------------------------------
+
+    def click_at(self, x: int, y: int, button: int = 1) -> None:
+        if self.kind == "sway":
+            self.run(["swaymsg", "seat - cursor set", str(x), str(y)], check=True)
+            for action in ("press", "release"):
+                self.run(["swaymsg", "seat - cursor", action, f"button{button}"], check=True)
+        else:
+            self.run(["xdotool", "mousemove", str(x), str(y), "sleep", "0.2", "click", str(button)], check=True)
+
+    def click(self, program: str, role: str, name: str, timeout: float = 40) -> None:
+        self.wait(lambda: "enabled" in (self.find(program, role, name) or {"states": []})["states"], timeout,
+                  f"no {role} {name!r} to press")
+        before = None
+        while (node := self.wait_for(program, role, name)) and (before is None or (node["x"], node["y"]) != before):
+            before = node["x"], node["y"]   # until it has come to rest
+        self.click_at(node["x"] + node["width"] // 2, node["y"] + node["height"] // 2)
+
+    def type(self, text: str) -> None:
+        self.run(["xdotool", "type", "--delay", "30", text] if self.kind != "sway" else ["wtype", text], check=True)
+
+    def key(self, name: str) -> None:
+        self.run(["xdotool", "key", name] if self.kind != "sway" else ["wtype", "-k", name], check=True)
+
+
+def put(machine: Machine, path: str, text: str | bytes, mode: int = 0o644) -> None:
+    """A file of the running machine, also below what it has mounted."""
+    machine.run(["/bin/sh", "-c", 'mkdir -p "${1%/*}"; cat >"$1"; chmod "$2" "$1"', "sh", path, f"{mode:o}"],
+                input=text, text=isinstance(text, str), check=True)
+
+
+def install(machine: Machine) -> None:
+    """The sessions' scripts and what looks at the screen."""
+    put(machine, "/etc/pam.d/machine-test", _PAM)
+    for source in (*_INSIDE.iterdir(), PROJECT / "tests/support/accessible.py"):
+        put(machine, f"{TOOLS}/{source.name}", source.read_text(), 0o755)
