@@ -47,6 +47,7 @@ dns={at.DNS_ADDRESS6};
 """
 # udev does not run in a container, and without it NetworkManager leaves Ethernet devices of this kind alone.
 _MANAGED = "[device-eth0]\nmatch-device=interface-name:eth0\nmanaged=1\n[main]\nplugins=keyfile\nno-auto-default=*\n"
+_DNS = "[main]\ndns=default\nrc-manager=file\n"   # resolv.conf is NetworkManager's own, as where systemd-resolved is not installed
 _DISK = r"""
 set -eu
 mountpoint -q "$1" || { mkdir -p "$1"; mount -t tmpfs -o mode=755,size=8g machine "$1"; }
@@ -131,6 +132,8 @@ class Machine(contextlib.AbstractContextManager):
         self.write("/etc/hosts", "127.0.0.1 localhost\n127.0.1.1 debian\n::1 localhost\n")
         self.write("/etc/NetworkManager/system-connections/Home.nmconnection", CONNECTION, 0o600)
         self.write("/etc/NetworkManager/conf.d/eth0.conf", _MANAGED)
+        self.write("/etc/NetworkManager/conf.d/dns.conf", _DNS)
+        self.write("/etc/resolv.conf", "")
 
     # Power ------------------------------------------------------------------------------------------------------------
 

@@ -41,7 +41,19 @@ _KINDS = {
     "lxqt": _X11 | {"XDG_CURRENT_DESKTOP": "LXQt", "XDG_SESSION_DESKTOP": "LXQt"},
     "sway": _WAYLAND | {"XDG_CURRENT_DESKTOP": "sway", "XDG_SESSION_DESKTOP": "sway"},
 }
-_READY = {"xfce": ("xfce4-panel", "xfdesktop", "polkit-gnome-au"), "lxqt": ("lxqt-panel", "lxqt-policykit-"), "sway": ("waybar", "lxpolkit")}
+_FILES = {
+    "lxqt": {".config/lxqt/session.conf": "[General]\nwindow_manager=openbox\n"},
+    "sway": {".config/sway/config": """output HEADLESS-1 resolution 1280x800 background #2c4a5e solid_color
+default_border normal
+for_window [app_id=".*"] floating enable
+bindsym Mod4+d exec true
+exec /usr/lib/policykit-1-gnome/polkit-gnome-authentication-agent-1
+bar {
+    swaybar_command waybar
+}
+"""},
+}
+_READY = {"xfce": ("xfce4-panel", "xfdesktop", "polkit-gnome-au"), "lxqt": ("lxqt-panel", "lxqt-policykit-"), "sway": ("waybar", "polkit-gnome-au")}
 
 
 class Desktop(contextlib.AbstractContextManager):
@@ -58,6 +70,9 @@ class Desktop(contextlib.AbstractContextManager):
         environment = " ".join(f'"{key}={value}"' for key, value in given.items())
         machine = self.machine
         install(machine)
+        for name, text in _FILES.get(self.kind, {}).items():
+            put(machine, f"/home/{USER}/{name}", text)
+        machine.run(["chown", "-R", f"{USER}:", f"/home/{USER}"], check=True)
         put(machine, "/run/systemd/system/desktop.service",
             _UNIT.format(user=USER, environment=environment, tools=TOOLS, kind=self.kind))
         machine.run(["systemctl", "daemon-reload"], check=True)
