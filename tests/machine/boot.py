@@ -85,6 +85,7 @@ class Machine(contextlib.AbstractContextManager):
         self._process: subprocess.Popen | None = None
         self._inside: Space | None = None
         self._console: list[str] = []
+        self._kept = False
         self._shell(self._world, _DISK, ROOM, name, ":".join(map(str, layers)))
         self._join_lab()
 
@@ -222,9 +223,13 @@ class Machine(contextlib.AbstractContextManager):
         self.power_off()
         self.boot()
 
+    def keep(self) -> None:
+        """What has become of the disk stays, as layers of other machines, until the lab ends."""
+        self._kept = True
+
     def __exit__(self, *_) -> None:
         self.power_cut()
-        self._shell(self._world, 'umount "$1"', self.root)
+        self._shell(self._world, 'umount "$1"' if self._kept else 'umount "$1"; rm -rf "$1.upper" "$1.work" "$1"', self.root)
 
     # Inside -----------------------------------------------------------------------------------------------------------
 

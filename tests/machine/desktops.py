@@ -51,8 +51,12 @@ exec /usr/lib/policykit-1-gnome/polkit-gnome-authentication-agent-1
 bar {
     swaybar_command waybar
 }
-"""},
+""",
+             ".config/waybar/config": """{"modules-left": ["sway/workspaces"], "modules-right": ["network", "tray", "clock"],
+"tray": {"icon-size": 18, "spacing": 10}}"""},
 }
+_BAR = {"xfce": (0, 26), "sway": (0, 30), "lxqt": (769, 800)}   # rows of the panel with the tray
+_PROMPT = {"xfce": "Authenticat", "sway": "Authenticat", "lxqt": "Authentication Required"}
 _READY = {"xfce": ("xfce4-panel", "xfdesktop", "polkit-gnome-au"), "lxqt": ("lxqt-panel", "lxqt-policykit-"), "sway": ("waybar", "polkit-gnome-au")}
 
 
@@ -111,14 +115,15 @@ class Desktop(contextlib.AbstractContextManager):
         target.write_bytes(self.run(["cat", inside], check=True, text=False).stdout)
         return target
 
-    def launch(self, *command: str, env: dict | None = None) -> None:
-        """A program of the session's own, as its menu starts one."""
-        words = [f"--setenv={key}={value}" for key, value in (env or {}).items()]
-        if self.kind == "sway":
-            self.run(["swaymsg", "exec", "--", *command], check=True)
-        else:
-            put(self.machine, "/tmp/launch", "#!/bin/sh\nexec " + " ".join(command) + "\n", 0o755)
-            self.run(["xfce4-terminal"] if words and False else ["setsid", "-f", "/tmp/launch"], check=True)
+    def start_from_menu(self, picture=lambda name: None) -> None:
+        """Veldmark's entry, pressed in the desktop's own menu."""
+        if self.kind == "xfce":
+            self.click_at(55, 13)
+            self.click("xfce4-panel", "menu", "Internet")
+            self.wait_for("xfce4-panel", "menu item", "Veldmark")
+            picture("xfce-menu")
+            self.click("xfce4-panel", "menu item", "Veldmark")
+        self.wait(lambda: self.pids("veldmark"), 20, "the menu's entry starts nothing")
 
     # Looking ----------------------------------------------------------------------------------------------------------
 
@@ -147,6 +152,40 @@ class Desktop(contextlib.AbstractContextManager):
         except TimeoutError:
             shown = [f"{n['role']} {n['name']!r}" for pid in self.pids(program) for n in self.nodes(pid)]
             raise TimeoutError(f"{program} shows no {role} {name!r} within {timeout:.0f} s but " + "; ".join(shown)) from None
+
+    def windows(self) -> list[str]:
+        """The titles of the windows on show."""
+        if self.kind == "sway":
+            tree, found = [json.loads(self.run(["swaymsg", "-t", "get_tree"], check=True).stdout)], []
+            while tree:
+                node = tree.pop()
+                tree += node["nodes"] + node["floating_nodes"]
+                found += [node["name"] or ""] if node.get("pid") else []
+            return found
+        ids = self.run(["xdotool", "search", "--onlyvisible", "--name", ".+"]).stdout.split()
+        return [self.run(["xdotool", "getwindowname", window]).stdout.strip() for window in ids]
+
+    def wait_prompt(self) -> None:
+        """The polkit agent's dialogue stands and takes what is typed."""
+        self.wait(lambda: any(title.startswith(_PROMPT[self.kind]) for title in self.windows()), 30, "nobody asks for the password")
+        time.sleep(1)   # no sign tells when the dialogue has the keyboard
+
+    def look_at_bar(self, name: str) -> None:
+        """Keeps a picture, without the pointer, for tray_icon."""
+        shot = ["grim"] if self.kind == "sway" else ["scrot", "--overwrite"]
+        self.run([*shot, f"/tmp/bar-{name}.png"], check=True)
+
+    def tray_icon(self, one: str, other: str) -> tuple[int, int]:
+        """The middle of the one thing in the panel that is as large as an icon and not the same in two pictures of the bar."""
+        top, bottom = _BAR[self.kind]
+        seen = self.run(["/usr/bin/python3", f"{TOOLS}/changed.py", f"/tmp/bar-{one}.png", f"/tmp/bar-{other}.png", str(top), str(bottom)],
+                        check=True)
+        icons = [(left, above, right, below) for left, above, right, below in json.loads(seen.stdout)
+                 if 10 <= right - left <= 30 and 10 <= below - above <= 30 and left > 400]
+        if len(icons) != 1:
+            raise RuntimeError(f"the panel shows no icon that changes but {seen.stdout.strip()}")
+        left, above, right, below = icons[0]
+        return (left + right) // 2, (above + below) // 2
 
     # Doing ------------------------------------------------------------------------------------------------------------
 

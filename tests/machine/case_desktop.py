@@ -1,0 +1,64 @@
+"""The application on real desktops, used as a person uses it."""
+
+from desktops import Desktop
+from stage import Stage, direct, expect, expect_whole, is_protected, network, state, wait
+
+PASSWORD = "alice"
+
+
+def from_the_menu_to_connected_and_back(stage: Stage, kind: str, **options) -> None:
+    with stage.machine(f"desktop-{kind}") as machine, Desktop(machine, kind, **options) as desktop:
+        before = network(machine)
+        start(stage, desktop)
+        connect(stage, desktop)
+        stage.picture(desktop, f"{kind}-protected")
+        use_the_tray(stage, desktop)
+        disconnect(stage, desktop)
+        expect_whole(machine, before)
+        stage.picture(desktop, f"{kind}-disconnected")
+
+
+def start(stage: Stage, desktop: Desktop) -> None:
+    desktop.start_from_menu(lambda name: stage.picture(desktop, name))
+    desktop.wait_for("veldmark", "heading", "Not Protected")
+
+
+def give_password(stage: Stage, desktop: Desktop, what: str) -> None:
+    desktop.wait_prompt()
+    stage.picture(desktop, f"{desktop.kind}-prompt-{what}")
+    desktop.type(PASSWORD)
+    desktop.key("Return")
+
+
+def connect(stage: Stage, desktop: Desktop) -> None:
+    desktop.look_at_bar("disconnected")
+    desktop.click("veldmark", "push button", "Connect to Tor")
+    give_password(stage, desktop, "connect")
+    wait(lambda: is_protected(state(desktop.machine, "alice")), 90, "it does not connect")
+    desktop.wait_for("veldmark", "heading", "Protected")
+    expect(not direct(desktop.machine), "the direct way is open")
+
+
+def disconnect(stage: Stage, desktop: Desktop) -> None:
+    desktop.click("veldmark", "push button", "Disconnect")
+    give_password(stage, desktop, "disconnect")
+    desktop.wait_for("veldmark", "heading", "Not Protected")
+
+
+def use_the_tray(stage: Stage, desktop: Desktop) -> None:
+    """The icon is what has changed in the desktop's panel since it was not connected; a click on it shows ours."""
+    desktop.look_at_bar("protected")
+    x, y = desktop.tray_icon("disconnected", "protected")
+    shown = desktop.windows().count("Veldmark")
+    desktop.click_at(x, y)
+    wait(lambda: desktop.windows().count("Veldmark") > shown, 10, "the click on the tray icon shows nothing")
+    stage.picture(desktop, f"{desktop.kind}-tray")
+    desktop.click_at(x, y)
+    wait(lambda: desktop.windows().count("Veldmark") == shown, 10, "a second click leaves the panel open")
+
+
+def xfce(stage: Stage) -> None:
+    from_the_menu_to_connected_and_back(stage, "xfce")
+
+
+CASES = {"Xfce: from the menu to connected and back, tray": xfce}
