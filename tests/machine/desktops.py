@@ -47,7 +47,7 @@ _FILES = {
 default_border normal
 for_window [app_id=".*"] floating enable
 bindsym Mod4+d exec true
-exec /usr/lib/policykit-1-gnome/polkit-gnome-authentication-agent-1
+exec /usr/libexec/polkit-mate-authentication-agent-1
 bar {
     swaybar_command waybar
 }
@@ -56,8 +56,9 @@ bar {
 "tray": {"icon-size": 18, "spacing": 10}}"""},
 }
 _BAR = {"xfce": (0, 26), "sway": (0, 30), "lxqt": (769, 800)}   # rows of the panel with the tray
+_AGENT = {"sway": "polkit-mate-aut"}
 _PROMPT = {"xfce": "Authenticat", "sway": "Authenticat", "lxqt": "Authentication Required"}
-_READY = {"xfce": ("xfce4-panel", "xfdesktop", "polkit-gnome-au"), "lxqt": ("lxqt-panel", "lxqt-policykit-"), "sway": ("waybar", "polkit-gnome-au")}
+_READY = {"xfce": ("xfce4-panel", "xfdesktop", "polkit-gnome-au"), "lxqt": ("lxqt-panel", "lxqt-policykit-"), "sway": ("waybar", "polkit-mate-aut")}
 
 
 class Desktop(contextlib.AbstractContextManager):
@@ -83,6 +84,8 @@ class Desktop(contextlib.AbstractContextManager):
         machine.run(["systemctl", "start", "desktop"], check=True)
         try:
             self.wait(lambda: all(self.pids(name) for name in _READY[self.kind]), 40, "the desktop did not come up")
+            if self.kind == "sway":
+                self.env["SWAYSOCK"] = self.machine.shell("echo /run/user/1000/sway-ipc.*.sock").strip()
         except BaseException:
             self.__exit__()
             raise
@@ -123,6 +126,8 @@ class Desktop(contextlib.AbstractContextManager):
             self.wait_for("xfce4-panel", "menu item", "Veldmark")
             picture("xfce-menu")
             self.click("xfce4-panel", "menu item", "Veldmark")
+        elif self.kind == "sway":    # it has no menu: what a launcher does
+            self.run(["swaymsg", "exec", "veldmark"], check=True)
         self.wait(lambda: self.pids("veldmark"), 20, "the menu's entry starts nothing")
 
     # Looking ----------------------------------------------------------------------------------------------------------
@@ -156,14 +161,17 @@ class Desktop(contextlib.AbstractContextManager):
     def windows(self) -> list[str]:
         """The titles of the windows on show."""
         if self.kind == "sway":
-            tree, found = [json.loads(self.run(["swaymsg", "-t", "get_tree"], check=True).stdout)], []
-            while tree:
-                node = tree.pop()
-                tree += node["nodes"] + node["floating_nodes"]
-                found += [node["name"] or ""] if node.get("pid") else []
-            return found
+            return [node["name"] or "" for node in self._sway_windows()]
         ids = self.run(["xdotool", "search", "--onlyvisible", "--name", ".+"]).stdout.split()
         return [self.run(["xdotool", "getwindowname", window]).stdout.strip() for window in ids]
+
+    def _sway_windows(self) -> list[dict]:
+        tree, found = [json.loads(self.run(["swaymsg", "-t", "get_tree"], check=True).stdout)], []
+        while tree:
+            node = tree.pop()
+            tree += node["nodes"] + node["floating_nodes"]
+            found += [node] if node.get("pid") else []
+        return found
 
     def wait_prompt(self) -> None:
         """The polkit agent's dialogue stands and takes what is typed."""
@@ -191,9 +199,7 @@ class Desktop(contextlib.AbstractContextManager):
 
     def click_at(self, x: int, y: int, button: int = 1) -> None:
         if self.kind == "sway":
-            self.run(["swaymsg", "seat - cursor set", str(x), str(y)], check=True)
-            for action in ("press", "release"):
-                self.run(["swaymsg", "seat - cursor", action, f"button{button}"], check=True)
+            self.run(["/usr/bin/python3", f"{TOOLS}/pointer.py", str(x), str(y), str(button), "1280", "800"], check=True)
         else:
             self.run(["xdotool", "mousemove", str(x), str(y), "sleep", "0.2", "click", str(button)], check=True)
 
@@ -203,13 +209,26 @@ class Desktop(contextlib.AbstractContextManager):
         before = None
         while (node := self.wait_for(program, role, name)) and (before is None or (node["x"], node["y"]) != before):
             before = node["x"], node["y"]   # until it has come to rest
-        self.click_at(node["x"] + node["width"] // 2, node["y"] + node["height"] // 2)
+        left, top = self._origin(program)
+        self.click_at(left + node["x"] + node["width"] // 2, top + node["y"] + node["height"] // 2)
 
-    def type(self, text: str) -> None:
-        self.run(["xdotool", "type", "--delay", "30", text] if self.kind != "sway" else ["wtype", text], check=True)
+    def _origin(self, program: str) -> tuple[int, int]:
+        """What a program's own places have to be moved by: on Wayland it does not know where its window is."""
+        if self.kind != "sway":
+            return 0, 0
+        for node in self._sway_windows():
+            if node["pid"] in self.pids(program):
+                inner = node["window_rect"]
+                return node["rect"]["x"] + inner["x"], node["rect"]["y"] + inner["y"]
+        raise RuntimeError(f"{program} has no window")
 
-    def key(self, name: str) -> None:
-        self.run(["xdotool", "key", name] if self.kind != "sway" else ["wtype", "-k", name], check=True)
+    def enter(self, text: str) -> None:
+        """Typed into the prompt for the password, which is then sent."""
+        if self.kind == "sway":
+            self.run(["wtype", "-s", "500", text], check=True)
+            self.click(_AGENT[self.kind], "push button", "Authenticate")
+        else:
+            self.run(["xdotool", "type", "--delay", "30", f"{text}\n"], check=True)
 
 
 def put(machine: Machine, path: str, text: str | bytes, mode: int = 0o644) -> None:

@@ -19,11 +19,17 @@ from boot import program  # noqa: E402
 from veldlab.lab import Lab, LabUnavailable  # noqa: E402
 
 import case_desktop  # noqa: E402
+import case_firewall  # noqa: E402
 import case_install  # noqa: E402
+import case_network  # noqa: E402
+import case_sleep  # noqa: E402
+import case_tor  # noqa: E402
+import case_trouble  # noqa: E402
 from stage import Broken, CannotRun, Stage  # noqa: E402
 
 SKIPPED = 77
-CASES = case_desktop.CASES | case_install.CASES
+CASES = (case_desktop.CASES | case_tor.CASES | case_network.CASES | case_firewall.CASES | case_trouble.CASES | case_sleep.CASES
+         | case_install.CASES)
 
 
 def attempt(stage: Stage, name: str, case) -> tuple[str, str, float]:

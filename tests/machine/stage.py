@@ -96,12 +96,38 @@ def is_protected(s: dict) -> bool:
     return s["phase"] == "connected" and not s["isChecking"] and bool(s["exitIP"]) and s["torVerified"] is True
 
 
+def through_tor(machine: Machine, seconds: float = 15) -> bool:
+    """Whether the exit check answers a program of alice's that asks through Tor, and sees an exit."""
+    asked = machine.run(["curl", "--silent", "--max-time", str(seconds), "--socks5-hostname", "127.0.0.1:9050", at.CHECK_URL],
+                        user=USER, timeout=seconds + 20)
+    return asked.returncode == 0 and '"IsTor":true' in asked.stdout.replace(" ", "")
+
+
+_OURS = (at.HOST_ADDRESS.rpartition(".")[0] + ".", at.HOST_ADDRESS6.rpartition("::")[0] + ":")
+
+
+def _strangers(packets) -> list:
+    """What the machine has opened to others than relays."""
+    return [p for p in packets if p.out and p.is_opening and p.src.startswith(_OURS) and p.dst not in at.RELAY_ADDRESSES]
+
+
+@contextlib.contextmanager
+def watched(stage: "Stage"):
+    """Nothing but Tor's own may leave the machine while it lasts. That the watch sees more is shown by `connected`, before it begins."""
+    with stage.lab.capture() as capture:
+        yield
+    strangers = _strangers(capture.packets)
+    expect(not strangers, f"{len(strangers)} packets leaked, the first: {strangers[0] if strangers else ''}")
+
+
 @contextlib.contextmanager
 def connected(machine: Machine, strict: bool = True):
     """A session of veldmarkctl's, run by root as on a server, which ends by Ctrl-C unless the test has ended it."""
     ctl = product(machine)
     ctl.run_verb("set", "strictMode", "true" if strict else "false", check=True)
-    expect(direct(machine), "there is no network to begin with")
+    with machine.lab.capture() as capture:
+        expect(direct(machine), "there is no network to begin with")
+    expect(_strangers(capture.packets), "the watch sees nothing of what leaves the machine")
     with ctl.session() as session:
         try:
             session.wait(is_protected, 90)
