@@ -130,7 +130,8 @@ def connected(machine: Machine, strict: bool = True):
     expect(_strangers(capture.packets), "the watch sees nothing of what leaves the machine")
     with ctl.session() as session:
         try:
-            session.wait(is_protected, 90)
+            told = session.wait(lambda s: is_protected(s) or s["errorMessage"], 90)
+            expect(is_protected(told), f"it does not connect: {told['errorMessage']}")
         except (RuntimeError, TimeoutError) as error:
             raise Broken(f"it does not connect: {last_line(session, error)}") from None
         expect(direct(machine) != strict, "the direct way is open in strict mode" if strict else "the direct way is closed")
