@@ -1,7 +1,7 @@
 """The application on real desktops, used as a person uses it."""
 
 from desktops import Desktop
-from stage import Stage, direct, expect, expect_whole, is_protected, network, state, wait
+from stage import HELPER, Stage, direct, expect, expect_whole, is_protected, network, state, wait
 
 PASSWORD = "alice"
 
@@ -70,4 +70,33 @@ def sway(stage: Stage) -> None:
     from_the_menu_to_connected_and_back(stage, "sway")
 
 
-CASES = {"Xfce: from the menu to connected and back, tray": xfce}
+def lxqt(stage: Stage) -> None:
+    from_the_menu_to_connected_and_back(stage, "lxqt")
+
+
+def languages_and_appearances(stage: Stage) -> None:
+    """Pictures of the protected state on Xfce, with the panel under the tray icon."""
+    with stage.machine("pictures") as machine:
+        machine.run([HELPER, "install-privileged", "--user", "alice"], check=True)
+        for language in ("en_GB", "de_DE"):
+            for dark in (False, True):
+                with Desktop(machine, "xfce", language, dark) as desktop:
+                    desktop.run(["setsid", "-f", "veldmark"], stdout=None, stderr=None, capture_output=False)
+                    wait(lambda: "Veldmark" in desktop.windows(), 20, "no window")
+                    desktop.look_at_bar("disconnected")
+                    desktop.run(["veldmarkctl", "connect"], check=True, timeout=90)
+                    wait(lambda: is_protected(state(machine, "alice")), 60, "it does not connect")
+                    desktop.look_at_bar("protected")
+                    desktop.click_at(*desktop.tray_icon("disconnected", "protected"))
+                    wait(lambda: desktop.windows().count("Veldmark") == 2, 10, "the click on the tray icon shows nothing")
+                    stage.picture(desktop, f"xfce-{language[:2]}-{'dark' if dark else 'light'}")
+                    desktop.run(["veldmarkctl", "disconnect"], check=True, timeout=60)
+                    desktop.run(["pkill", "-x", "veldmark"], check=True)
+
+
+CASES = {
+    "Xfce: from the menu to connected and back, tray": xfce,
+    "sway and waybar: to connected and back, tray": sway,
+    "LXQt: from the menu to connected and back, tray": lxqt,
+    "Xfce: English and German, light and dark": languages_and_appearances,
+}

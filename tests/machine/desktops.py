@@ -58,6 +58,10 @@ bar {
 _BAR = {"xfce": (0, 26), "sway": (0, 30), "lxqt": (769, 800)}   # rows of the panel with the tray
 _AGENT = {"sway": "polkit-mate-aut"}
 _PROMPT = {"xfce": "Authenticat", "sway": "Authenticat", "lxqt": "Authentication Required"}
+_DARK = """<?xml version="1.0" encoding="UTF-8"?>
+<channel name="xsettings" version="1.0"><property name="Net" type="empty">
+<property name="ThemeName" type="string" value="Adwaita-dark"/></property></channel>
+"""
 _READY = {"xfce": ("xfce4-panel", "xfdesktop", "polkit-gnome-au"), "lxqt": ("lxqt-panel", "lxqt-policykit-"), "sway": ("waybar", "polkit-mate-aut")}
 
 
@@ -75,7 +79,10 @@ class Desktop(contextlib.AbstractContextManager):
         environment = " ".join(f'"{key}={value}"' for key, value in given.items())
         machine = self.machine
         install(machine)
-        for name, text in _FILES.get(self.kind, {}).items():
+        files = dict(_FILES.get(self.kind, {}))
+        if self.dark and self.kind == "xfce":
+            files[".config/xfce4/xfconf/xfce-perchannel-xml/xsettings.xml"] = _DARK
+        for name, text in files.items():
             put(machine, f"/home/{USER}/{name}", text)
         machine.run(["chown", "-R", f"{USER}:", f"/home/{USER}"], check=True)
         put(machine, "/run/systemd/system/desktop.service",
@@ -126,6 +133,12 @@ class Desktop(contextlib.AbstractContextManager):
             self.wait_for("xfce4-panel", "menu item", "Veldmark")
             picture("xfce-menu")
             self.click("xfce4-panel", "menu item", "Veldmark")
+        elif self.kind == "lxqt":
+            self.click_at(14, 784)
+            self.click("lxqt-panel", "menu item", "Internet")
+            self.wait_for("lxqt-panel", "menu item", "Veldmark")
+            picture("lxqt-menu")
+            self.click("lxqt-panel", "menu item", "Veldmark")
         elif self.kind == "sway":    # it has no menu: what a launcher does
             self.run(["swaymsg", "exec", "veldmark"], check=True)
         self.wait(lambda: self.pids("veldmark"), 20, "the menu's entry starts nothing")
