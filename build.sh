@@ -23,6 +23,8 @@ usage: ./build.sh VERB
   package  make the Debian package: build/veldmark_VERSION_ARCHITECTURE.deb
   package-test
            install, use, upgrade and remove that package on a clean Debian 12, in the private Tor network
+  machine-test
+           the package on a whole booted Debian 12 with its desktops, in the private Tor network
   dist     make the source archive build/veldmark-VERSION.tar.gz, and build it once without a network
 TEXT
 }
@@ -235,6 +237,11 @@ package) package ;;
 package-test)
     package
     exec /usr/bin/python3 tests/package/test_debian.py build/veldmark_*.deb "$@"
+    ;;
+machine-test)
+    package
+    unpack nspawn usr/bin/systemd-nspawn systemd-container libsystemd-shared
+    exec /usr/bin/python3 tests/machine/machine_test.py build/veldmark_*.deb "$@"
     ;;
 dist) dist ;;
 coverage)

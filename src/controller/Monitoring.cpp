@@ -2,6 +2,7 @@
 
 #include "base/Clock.h"
 #include "checks/NetworkProbe.h"
+#include "checks/OwnAddresses.h"
 #include "control/ControlPort.h"
 
 #include <QPointer>
@@ -44,6 +45,11 @@ QCoro::Task<void> TorController::monitor(quint64 run)
 {
     const QPointer<TorController> self(this);
     const QStringList keys = {readKey, writtenKey};
+    // Tor closes what it has and begins anew. It would send into connections of an address that is gone for minutes.
+    const QStringList beginAnew = {QStringLiteral("SETCONF DisableNetwork=1"),
+                                   QStringLiteral("SETCONF DisableNetwork=0")};
+    OwnAddresses addresses;
+    addresses.haveMoved(OwnAddresses::present());
     quint64 tick = 0;
     int failures = 0;
     for (;;) {
@@ -52,6 +58,13 @@ QCoro::Task<void> TorController::monitor(quint64 run)
             co_return;
         if (phase() != ConnectionPhase::connected || !m_controlPassword)
             continue;
+        if (addresses.haveMoved(OwnAddresses::present())) {
+            co_await m_services.controlPort.batch(beginAnew, *m_controlPassword, counterReadLimit);
+            if (!self || run != m_monitor)
+                co_return;
+            if (phase() == ConnectionPhase::connected && !isChecking())
+                runChecks(); // what was verified was another way out
+        }
         if (++tick % ticksPerDNSCheck == 0) {
             co_await checkDNS(false);
             if (!self || run != m_monitor)

@@ -7,7 +7,6 @@ Status 77 where Debian's registry or the lab is out of reach.
 
 import contextlib
 import json
-import re
 import subprocess
 import sys
 import tempfile
@@ -21,12 +20,12 @@ HERE = Path(__file__).resolve().parent
 sys.path[:0] = [str(HERE), str(HERE.parent / "lab")]
 
 from clean_debian import CleanDebian, Unprepared, prepare  # noqa: E402
+from later_package import HELPER, newer  # noqa: E402
 from veldlab import topology as at  # noqa: E402
 from veldlab.lab import PROJECT, Lab, LabUnavailable  # noqa: E402
 from veldlab.product import Product  # noqa: E402
 
 PACKAGE = Path(sys.argv.pop(1)).resolve() if len(sys.argv) > 1 and sys.argv[1].endswith(".deb") else None
-HELPER = "/usr/share/veldmark/veldmark-helper.sh"
 MARKER = "/var/lib/veldmark/state/active"
 SKIPPED = 77
 PROBE_PORT = 4999
@@ -50,19 +49,6 @@ while True:
 
 # The rules as the kernel lists them, again and again, each time as one line.
 LOOK = 'while :; do nft -s list table inet veldmark 2>&1 | sha256sum; done'
-
-
-def newer(package: Path, folder: Path) -> Path:
-    """The same package as a later version whose helper is another file."""
-    tree = folder / "newer"
-    subprocess.run(["dpkg-deb", "--raw-extract", package, tree], check=True)
-    control = tree / "DEBIAN/control"
-    control.write_text(re.sub(r"(?m)^Version: (.*)$", r"Version: \1+later", control.read_text()))
-    helper = tree / HELPER.lstrip("/")
-    helper.write_text(helper.read_text() + "# A later version.\n")
-    made = folder / "newer.deb"
-    subprocess.run(["dpkg-deb", "--build", "--root-owner-group", tree, made], check=True, capture_output=True)
-    return made
 
 
 class Case(unittest.TestCase):

@@ -56,15 +56,15 @@ def children(node, depth):
 def main():
     wanted = int(sys.argv[1])
     desktop = Atspi.get_desktop(0)
+    windows = []   # a Qt program whose desktop theme uses GTK is there twice, once as each
     for i in range(desktop.get_child_count()):
         application = desktop.get_child_at_index(i)
         try:
             if application is not None and application.get_process_id() == wanted:
-                print(json.dumps(children(application, 0)))
-                return
+                windows += children(application, 0)
         except GLib.Error:
             continue
-    print("[]")
+    print(json.dumps(windows))
 
 
 main()

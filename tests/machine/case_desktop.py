@@ -1,0 +1,102 @@
+"""The application on real desktops, used as a person uses it."""
+
+from desktops import Desktop
+from stage import HELPER, Stage, direct, expect, expect_whole, is_protected, network, state, wait
+
+PASSWORD = "alice"
+
+
+def from_the_menu_to_connected_and_back(stage: Stage, kind: str, **options) -> None:
+    with stage.machine(f"desktop-{kind}") as machine, Desktop(machine, kind, **options) as desktop:
+        before = network(machine)
+        start(stage, desktop)
+        connect(stage, desktop)
+        stage.picture(desktop, f"{kind}-protected")
+        use_the_tray(stage, desktop)
+        disconnect(stage, desktop)
+        expect_whole(machine, before)
+        stage.picture(desktop, f"{kind}-disconnected")
+
+
+def start(stage: Stage, desktop: Desktop) -> None:
+    desktop.start_from_menu(lambda name: stage.picture(desktop, name))
+    desktop.wait_for("veldmark", "heading", "Not Protected")
+
+
+def give_password(stage: Stage, desktop: Desktop, what: str) -> None:
+    desktop.wait_prompt()
+    stage.picture(desktop, f"{desktop.kind}-prompt-{what}")
+    desktop.enter(PASSWORD)
+
+
+def connect(stage: Stage, desktop: Desktop) -> None:
+    desktop.look_at_bar("disconnected")
+    desktop.click("veldmark", "push button", "Connect to Tor")
+    give_password(stage, desktop, "connect")
+    wait(lambda: is_protected(state(desktop.machine, "alice")), 90, "it does not connect")
+    desktop.wait_for("veldmark", "heading", "Protected")
+    expect(not direct(desktop.machine), "the direct way is open")
+
+
+def disconnect(stage: Stage, desktop: Desktop) -> None:
+    desktop.click("veldmark", "push button", "Disconnect")
+    give_password(stage, desktop, "disconnect")
+    desktop.wait_for("veldmark", "heading", "Not Protected")
+
+
+def use_the_tray(stage: Stage, desktop: Desktop) -> None:
+    """The icon is what has changed in the desktop's panel since it was not connected; a click on it shows ours. A Wayland window cannot
+    say where it wants to be: there the click shows the main window."""
+    desktop.look_at_bar("protected")
+    x, y = desktop.tray_icon("disconnected", "protected")
+    if desktop.kind == "sway":
+        desktop.run(["swaymsg", "[app_id=veldmark] kill"])
+        desktop.run(["swaymsg", "[title=Veldmark] kill"])
+        wait(lambda: "Veldmark" not in desktop.windows(), 10, "the window does not close")
+    shown = desktop.windows().count("Veldmark")
+    desktop.click_at(x, y)
+    wait(lambda: desktop.windows().count("Veldmark") > shown, 10, "the click on the tray icon shows nothing")
+    stage.picture(desktop, f"{desktop.kind}-tray")
+    if desktop.kind != "sway":
+        desktop.click_at(x, y)
+        wait(lambda: desktop.windows().count("Veldmark") == shown, 10, "a second click leaves the panel open")
+
+
+def xfce(stage: Stage) -> None:
+    from_the_menu_to_connected_and_back(stage, "xfce")
+
+
+def sway(stage: Stage) -> None:
+    from_the_menu_to_connected_and_back(stage, "sway")
+
+
+def lxqt(stage: Stage) -> None:
+    from_the_menu_to_connected_and_back(stage, "lxqt")
+
+
+def languages_and_appearances(stage: Stage) -> None:
+    """Pictures of the protected state on Xfce, with the panel under the tray icon."""
+    with stage.machine("pictures") as machine:
+        machine.run([HELPER, "install-privileged", "--user", "alice"], check=True)
+        for language in ("en_GB", "de_DE"):
+            for dark in (False, True):
+                with Desktop(machine, "xfce", language, dark) as desktop:
+                    desktop.run(["setsid", "-f", "veldmark"], stdout=None, stderr=None, capture_output=False)
+                    wait(lambda: "Veldmark" in desktop.windows(), 20, "no window")
+                    desktop.look_at_bar("disconnected")
+                    desktop.run(["veldmarkctl", "connect"], check=True, timeout=90)
+                    wait(lambda: is_protected(state(machine, "alice")), 60, "it does not connect")
+                    desktop.look_at_bar("protected")
+                    desktop.click_at(*desktop.tray_icon("disconnected", "protected"))
+                    wait(lambda: desktop.windows().count("Veldmark") == 2, 10, "the click on the tray icon shows nothing")
+                    stage.picture(desktop, f"xfce-{language[:2]}-{'dark' if dark else 'light'}")
+                    desktop.run(["veldmarkctl", "disconnect"], check=True, timeout=60)
+                    desktop.run(["pkill", "-x", "veldmark"], check=True)
+
+
+CASES = {
+    "Xfce: from the menu to connected and back, tray": xfce,
+    "sway and waybar: to connected and back, tray": sway,
+    "LXQt: from the menu to connected and back, tray": lxqt,
+    "Xfce: English and German, light and dark": languages_and_appearances,
+}

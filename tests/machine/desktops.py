@@ -1,0 +1,257 @@
+"""Desktops of the booted machine, each a real login of alice's: pam_systemd makes the session, the session starts its own panel, its
+own polkit agent and whatever else is in its autostart. Used by looking (the accessibility bus, pictures) and by clicking.
+
+    with Desktop(machine, "xfce") as desktop:
+        desktop.launch("veldmark")
+        desktop.click("push button", "Connect to Tor")
+"""
+
+import contextlib
+import json
+import time
+from pathlib import Path
+
+from base import PROJECT
+from boot import USER, Machine
+
+_INSIDE = Path(__file__).resolve().parent / "inside"
+TOOLS = "/usr/local/lib/machine-test"
+_UNIT = """[Unit]
+Description=A person's desktop
+After=systemd-user-sessions.service dbus.service
+[Service]
+User={user}
+PAMName=machine-test
+WorkingDirectory=/home/{user}
+UtmpIdentifier=desktop
+UtmpMode=user
+Environment={environment}
+ExecStart={tools}/{kind}-session
+StandardOutput=append:/tmp/desktop.log
+StandardError=append:/tmp/desktop.log
+KillMode=mixed
+TimeoutStopSec=20
+"""
+_PAM = "auth required pam_permit.so\naccount required pam_unix.so\nsession required pam_unix.so\nsession required pam_systemd.so\n"
+_X11 = {"DISPLAY": ":7", "XDG_SESSION_TYPE": "x11", "QT_QPA_PLATFORM": "xcb"}
+_WAYLAND = {"XDG_SESSION_TYPE": "wayland", "WLR_BACKENDS": "headless", "WLR_LIBINPUT_NO_DEVICES": "1", "WLR_RENDERER": "pixman",
+            "WAYLAND_DISPLAY": "wayland-1"}
+_KINDS = {
+    "xfce": _X11 | {"XDG_CURRENT_DESKTOP": "XFCE", "XDG_SESSION_DESKTOP": "xfce", "XFCE_PANEL_MIGRATE_DEFAULT": "1"},
+    "lxqt": _X11 | {"XDG_CURRENT_DESKTOP": "LXQt", "XDG_SESSION_DESKTOP": "LXQt"},
+    "sway": _WAYLAND | {"XDG_CURRENT_DESKTOP": "sway", "XDG_SESSION_DESKTOP": "sway"},
+}
+_FILES = {
+    "lxqt": {".config/lxqt/session.conf": "[General]\nwindow_manager=openbox\n"},
+    "sway": {".config/sway/config": """output HEADLESS-1 resolution 1280x800 background #2c4a5e solid_color
+default_border normal
+for_window [app_id=".*"] floating enable
+bindsym Mod4+d exec true
+exec /usr/libexec/polkit-mate-authentication-agent-1
+bar {
+    swaybar_command waybar
+}
+""",
+             ".config/waybar/config": """{"modules-left": ["sway/workspaces"], "modules-right": ["network", "tray", "clock"],
+"tray": {"icon-size": 18, "spacing": 10}}"""},
+}
+_BAR = {"xfce": (0, 26), "sway": (0, 30), "lxqt": (769, 800)}   # rows of the panel with the tray
+_AGENT = {"sway": "polkit-mate-aut"}
+_PROMPT = {"xfce": "Authenticat", "sway": "Authenticat", "lxqt": "Authentication Required"}
+_DARK = """<?xml version="1.0" encoding="UTF-8"?>
+<channel name="xsettings" version="1.0"><property name="Net" type="empty">
+<property name="ThemeName" type="string" value="Adwaita-dark"/></property></channel>
+"""
+_READY = {"xfce": ("xfce4-panel", "xfdesktop", "polkit-gnome-au"), "lxqt": ("lxqt-panel", "lxqt-policykit-"), "sway": ("waybar", "polkit-mate-aut")}
+
+
+class Desktop(contextlib.AbstractContextManager):
+    def __init__(self, machine: Machine, kind: str, language: str = "en_GB", dark: bool = False):
+        self.machine, self.kind = machine, kind
+        self.env = _KINDS[kind] | {
+            "LANG": f"{language}.UTF-8", "XDG_SEAT": "seat0", "XDG_SESSION_CLASS": "user", "DBUS_SESSION_BUS_ADDRESS": "unix:path=/run/user/1000/bus",
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "XDG_RUNTIME_DIR": "/run/user/1000",
+        }
+        self.dark = dark
+
+    def __enter__(self) -> "Desktop":
+        given = {k: v for k, v in self.env.items() if k not in ("DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR", "WAYLAND_DISPLAY")}
+        environment = " ".join(f'"{key}={value}"' for key, value in given.items())
+        machine = self.machine
+        install(machine)
+        files = dict(_FILES.get(self.kind, {}))
+        if self.dark and self.kind == "xfce":
+            files[".config/xfce4/xfconf/xfce-perchannel-xml/xsettings.xml"] = _DARK
+        for name, text in files.items():
+            put(machine, f"/home/{USER}/{name}", text)
+        machine.run(["chown", "-R", f"{USER}:", f"/home/{USER}"], check=True)
+        put(machine, "/run/systemd/system/desktop.service",
+            _UNIT.format(user=USER, environment=environment, tools=TOOLS, kind=self.kind))
+        machine.run(["systemctl", "daemon-reload"], check=True)
+        machine.run(["systemctl", "start", "desktop"], check=True)
+        try:
+            self.wait(lambda: all(self.pids(name) for name in _READY[self.kind]), 40, "the desktop did not come up")
+            if self.kind == "sway":
+                self.env["SWAYSOCK"] = self.machine.shell("echo /run/user/1000/sway-ipc.*.sock").strip()
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
+
+    def __exit__(self, *_) -> None:
+        self.machine.run(["systemctl", "stop", "desktop"], timeout=60)
+
+    def pids(self, name: str) -> list[int]:
+        """Processes of alice's whose name begins so; the kernel keeps 15 letters of it."""
+        return [int(word) for word in self.machine.run(["pgrep", "-u", USER, f"^{name[:15]}"]).stdout.split()]
+
+    def run(self, argv, **options):
+        return self.machine.run(argv, user=USER, env=self.env, **options)
+
+    def wait(self, condition, timeout: float = 30, what: str = "it did not come true"):
+        deadline = time.monotonic() + timeout
+        while not (found := condition()):
+            if time.monotonic() > deadline:
+                raise TimeoutError(f"{what} within {timeout:.0f} s")
+            time.sleep(0.1)
+        return found
+
+    def picture(self, target: Path) -> Path:
+        """What is on the screen, as a PNG file of the caller's."""
+        inside = "/tmp/picture.png"
+        shot = ["grim", inside] if self.kind == "sway" else ["scrot", "--overwrite", "--pointer", inside]
+        self.run(shot, check=True)
+        target.parent.mkdir(parents=True, exist_ok=True)
+        target.write_bytes(self.run(["cat", inside], check=True, text=False).stdout)
+        return target
+
+    def start_from_menu(self, picture=lambda name: None) -> None:
+        """Veldmark's entry, pressed in the desktop's own menu."""
+        if self.kind == "xfce":
+            self.click_at(55, 13)
+            self.click("xfce4-panel", "menu", "Internet")
+            self.wait_for("xfce4-panel", "menu item", "Veldmark")
+            picture("xfce-menu")
+            self.click("xfce4-panel", "menu item", "Veldmark")
+        elif self.kind == "lxqt":
+            self.click_at(14, 784)
+            self.click("lxqt-panel", "menu item", "Internet")
+            self.wait_for("lxqt-panel", "menu item", "Veldmark")
+            picture("lxqt-menu")
+            self.click("lxqt-panel", "menu item", "Veldmark")
+        elif self.kind == "sway":    # it has no menu: what a launcher does
+            self.run(["swaymsg", "exec", "veldmark"], check=True)
+        self.wait(lambda: self.pids("veldmark"), 20, "the menu's entry starts nothing")
+
+    # Looking ----------------------------------------------------------------------------------------------------------
+
+    def nodes(self, pid: int) -> list[dict]:
+        """Everything that the program shows, by what it tells a screen reader."""
+        seen = self.run(["/usr/bin/python3", f"{TOOLS}/accessible.py", str(pid)], timeout=60)
+        if seen.returncode:
+            return []
+        found, waiting = [], json.loads(seen.stdout)[::-1]
+        while waiting:
+            node = waiting.pop()
+            found.append(node)
+            waiting += node["children"][::-1]
+        return [node for node in found if "showing" in node["states"]]
+
+    def find(self, program: str, role: str, name: str = "") -> dict | None:
+        for pid in self.pids(program):
+            for node in self.nodes(pid):
+                if node["role"] == role and (not name or node["name"] == name):
+                    return node
+        return None
+
+    def wait_for(self, program: str, role: str, name: str = "", timeout: float = 40) -> dict:
+        try:
+            return self.wait(lambda: self.find(program, role, name), timeout)
+        except TimeoutError:
+            shown = [f"{n['role']} {n['name']!r}" for pid in self.pids(program) for n in self.nodes(pid)]
+            raise TimeoutError(f"{program} shows no {role} {name!r} within {timeout:.0f} s but " + "; ".join(shown)) from None
+
+    def windows(self) -> list[str]:
+        """The titles of the windows on show."""
+        if self.kind == "sway":
+            return [node["name"] or "" for node in self._sway_windows()]
+        ids = self.run(["xdotool", "search", "--onlyvisible", "--name", ".+"]).stdout.split()
+        return [self.run(["xdotool", "getwindowname", window]).stdout.strip() for window in ids]
+
+    def _sway_windows(self) -> list[dict]:
+        tree, found = [json.loads(self.run(["swaymsg", "-t", "get_tree"], check=True).stdout)], []
+        while tree:
+            node = tree.pop()
+            tree += node["nodes"] + node["floating_nodes"]
+            found += [node] if node.get("pid") else []
+        return found
+
+    def wait_prompt(self) -> None:
+        """The polkit agent's dialogue stands and takes what is typed."""
+        self.wait(lambda: any(title.startswith(_PROMPT[self.kind]) for title in self.windows()), 30, "nobody asks for the password")
+        time.sleep(1)   # no sign tells when the dialogue has the keyboard
+
+    def look_at_bar(self, name: str) -> None:
+        """Keeps a picture, without the pointer, for tray_icon."""
+        shot = ["grim"] if self.kind == "sway" else ["scrot", "--overwrite"]
+        self.run([*shot, f"/tmp/bar-{name}.png"], check=True)
+
+    def tray_icon(self, one: str, other: str) -> tuple[int, int]:
+        """The middle of the one thing in the panel that is as large as an icon and not the same in two pictures of the bar."""
+        top, bottom = _BAR[self.kind]
+        seen = self.run(["/usr/bin/python3", f"{TOOLS}/changed.py", f"/tmp/bar-{one}.png", f"/tmp/bar-{other}.png", str(top), str(bottom)],
+                        check=True)
+        icons = [(left, above, right, below) for left, above, right, below in json.loads(seen.stdout)
+                 if 10 <= right - left <= 30 and 10 <= below - above <= 30 and left > 400]
+        if len(icons) != 1:
+            raise RuntimeError(f"the panel shows no icon that changes but {seen.stdout.strip()}")
+        left, above, right, below = icons[0]
+        return (left + right) // 2, (above + below) // 2
+
+    # Doing ------------------------------------------------------------------------------------------------------------
+
+    def click_at(self, x: int, y: int, button: int = 1) -> None:
+        if self.kind == "sway":
+            self.run(["/usr/bin/python3", f"{TOOLS}/pointer.py", str(x), str(y), str(button), "1280", "800"], check=True)
+        else:
+            self.run(["xdotool", "mousemove", str(x), str(y), "sleep", "0.2", "click", str(button)], check=True)
+
+    def click(self, program: str, role: str, name: str, timeout: float = 40) -> None:
+        self.wait(lambda: "enabled" in (self.find(program, role, name) or {"states": []})["states"], timeout,
+                  f"no {role} {name!r} to press")
+        before = None
+        while (node := self.wait_for(program, role, name)) and (before is None or (node["x"], node["y"]) != before):
+            before = node["x"], node["y"]   # until it has come to rest
+        left, top = self._origin(program)
+        self.click_at(left + node["x"] + node["width"] // 2, top + node["y"] + node["height"] // 2)
+
+    def _origin(self, program: str) -> tuple[int, int]:
+        """What a program's own places have to be moved by: on Wayland it does not know where its window is."""
+        if self.kind != "sway":
+            return 0, 0
+        for node in self._sway_windows():
+            if node["pid"] in self.pids(program):
+                inner = node["window_rect"]
+                return node["rect"]["x"] + inner["x"], node["rect"]["y"] + inner["y"]
+        raise RuntimeError(f"{program} has no window")
+
+    def enter(self, text: str) -> None:
+        """Typed into the prompt for the password, which is then sent."""
+        if self.kind == "sway":
+            self.run(["wtype", "-s", "500", text], check=True)
+            self.click(_AGENT[self.kind], "push button", "Authenticate")
+        else:
+            self.run(["xdotool", "type", "--delay", "30", f"{text}\n"], check=True)
+
+
+def put(machine: Machine, path: str, text: str | bytes, mode: int = 0o644) -> None:
+    """A file of the running machine, also below what it has mounted."""
+    machine.run(["/bin/sh", "-c", 'mkdir -p "${1%/*}"; cat >"$1"; chmod "$2" "$1"', "sh", path, f"{mode:o}"],
+                input=text, text=isinstance(text, str), check=True)
+
+
+def install(machine: Machine) -> None:
+    """The sessions' scripts and what looks at the screen."""
+    put(machine, "/etc/pam.d/machine-test", _PAM)
+    for source in (*_INSIDE.iterdir(), PROJECT / "tests/support/accessible.py"):
+        put(machine, f"{TOOLS}/{source.name}", source.read_text(), 0o755)
