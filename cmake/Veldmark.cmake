@@ -100,11 +100,12 @@ endfunction()
 # ./build.sh test gives CTest twice as many places as it uses processors. A test that keeps one busy takes two of them (PROCESSORS
 # 2), a lab, which mostly waits for Tor, takes one.
 
-# veldmark_script_test(NAME [BUSY] [COST seconds] [SCRIPT name] [ARGUMENTS word…])
+# veldmark_script_test(NAME [BUSY] [LONG] [COST seconds] [SCRIPT name] [ARGUMENTS word…])
 # The folder's own test_NAME.py or SCRIPT.py, known to CTest as FOLDER/NAME; status 77 is a skip. COST: about how long it takes,
-# since what takes long is better begun early. What the tests of a folder have in common it sets at its end.
+# since what takes long is better begun early. LONG: takes minutes and needs no program that the others do not, so that the short
+# run on a clean Debian leaves it out. What the tests of a folder have in common it sets at its end.
 function(veldmark_script_test name)
-    cmake_parse_arguments(arg "BUSY" "COST;SCRIPT" "ARGUMENTS" ${ARGN})
+    cmake_parse_arguments(arg "BUSY;LONG" "COST;SCRIPT" "ARGUMENTS" ${ARGN})
     get_filename_component(folder "${CMAKE_CURRENT_SOURCE_DIR}" NAME)
     if(NOT arg_SCRIPT)
         set(arg_SCRIPT test_${name})
@@ -117,5 +118,8 @@ function(veldmark_script_test name)
     endif()
     if(arg_COST)
         set_tests_properties(${folder}/${name} PROPERTIES COST ${arg_COST})
+    endif()
+    if(arg_LONG)
+        set_property(TEST ${folder}/${name} APPEND PROPERTY LABELS long)
     endif()
 endfunction()
