@@ -58,6 +58,8 @@ Production::Production(const PlatformProfile &profile)
               [this](bool throughTor, const TransportDownloader::Progress &progress) {
                   return m_downloader.install(throughTor, progress);
               },
+          .locateWithoutAsking =
+              [this] { return m_search.locateWithoutAsking(TransportDownloader::installedVersion(m_profile)); },
       })
 {
 }

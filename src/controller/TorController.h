@@ -73,6 +73,9 @@ public:
         std::function<QCoro::Task<TransportDownloader::Outcome>(
             bool throughTor, TransportDownloader::Progress progress)>
             installTransports = {};
+        // As locateTransports, without waiting for what programs say of themselves; for connect(). Without it
+        // locateTransports is used.
+        std::function<QCoro::Task<PluggableTransports>()> locateWithoutAsking = {};
     };
 
     // Registers the settings' defaults, reads the settings, and starts looking for transports
