@@ -948,6 +948,14 @@
         <translation>Tragen Sie unter Brücken → Eigene… mindestens eine Brücke ein.</translation>
     </message>
     <message>
+        <source>Some custom bridge lines aren&apos;t valid. Fix them under Bridges → Custom….</source>
+        <translation>Einige eigene Brückenzeilen sind ungültig. Berichtigen Sie sie unter Brücken → Eigene….</translation>
+    </message>
+    <message>
+        <source>At most %1 custom bridges can be used. Remove some under Bridges → Custom….</source>
+        <translation>Höchstens %1 eigene Brücken können benutzt werden. Entfernen Sie einige unter Brücken → Eigene….</translation>
+    </message>
+    <message>
         <source>Testing %1 bridges…</source>
         <translation>%1 Brücken werden getestet …</translation>
     </message>
@@ -1192,10 +1200,6 @@
         <translation>%1: Ihre echte IP erreicht nur das Eingangsrelais</translation>
     </message>
     <message>
-        <source>Unknown</source>
-        <translation>Unbekannt</translation>
-    </message>
-    <message>
         <source>Used by 1 circuit</source>
         <translation>Von 1 Kanal benutzt</translation>
     </message>
@@ -1249,6 +1253,14 @@
     <message>
         <source> · click a relay or site to follow it</source>
         <translation> · klicken Sie ein Relais oder Ziel an, um ihm zu folgen</translation>
+    </message>
+    <message>
+        <source>Leads to an onion service, which meets it at its last relay</source>
+        <translation>Führt zu einem Onion-Dienst, der ihm an seinem letzten Relais begegnet</translation>
+    </message>
+    <message>
+        <source>Meeting point</source>
+        <translation>Treffpunkt</translation>
     </message>
     <message>
         <source>One of several linked legs to the same exit</source>
@@ -1391,6 +1403,30 @@
     <message>
         <source>Built-in bridges from %1</source>
         <translation>Eingebaute Brücken aus %1</translation>
+    </message>
+    <message>
+        <source>(line %1)</source>
+        <translation>(Zeile %1)</translation>
+    </message>
+    <message>
+        <source>(lines %1)</source>
+        <translation>(Zeilen %1)</translation>
+    </message>
+    <message>
+        <source>1 bridge recognized</source>
+        <translation>1 Brücke erkannt</translation>
+    </message>
+    <message>
+        <source>%1 bridges recognized</source>
+        <translation>%1 Brücken erkannt</translation>
+    </message>
+    <message>
+        <source>A bridge line can&apos;t contain #, &quot; or \.</source>
+        <translation>Eine Brückenzeile kann kein #, &quot; oder \ enthalten.</translation>
+    </message>
+    <message>
+        <source>At most %1 bridges can be used</source>
+        <translation>Höchstens %1 Brücken können benutzt werden</translation>
     </message>
     <message>
         <source>1 line not recognized</source>

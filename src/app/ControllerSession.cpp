@@ -5,6 +5,9 @@
 #include "controller/TorController.h"
 
 #include <QFile>
+#include <QPointer>
+
+#include <utility>
 
 namespace veldmark {
 
@@ -65,6 +68,11 @@ ControllerSession::ControllerSession(TorController &controller, SettingsStore &s
           &C::transportDownloadChanged, &C::passwordlessInstalledChanged, &C::startupErrorChanged,
           &C::terminalErrorChanged})
         QObject::connect(&controller, changed, this, &ControllerSession::schedule);
+    // The exit's country is known from the circuits, also while no window shows them.
+    QObject::connect(&controller, &C::exitIPChanged, this, [this] {
+        if (m_controller.exitIP())
+            refreshCircuits();
+    });
     read();
 }
 
@@ -189,7 +197,16 @@ void ControllerSession::fixLookups()
 
 void ControllerSession::newIdentity()
 {
-    m_controller.newIdentity();
+    takeNewIdentity();
+}
+
+QCoro::Task<void> ControllerSession::takeNewIdentity()
+{
+    const QPointer<ControllerSession> self(this);
+    auto asking = m_controller.newIdentity();
+    co_await asking;
+    if (self)
+        refreshCircuits();
 }
 
 void ControllerSession::newCircuit(const QString &id)
@@ -204,7 +221,23 @@ void ControllerSession::findFasterCircuits()
 
 void ControllerSession::refreshCircuits()
 {
-    m_controller.refreshCircuits();
+    m_circuitsWanted = true;
+    if (!m_isReadingCircuits)
+        readCircuits();
+}
+
+// One reading at a time: a Tor that does not answer is not asked by one more every few seconds.
+QCoro::Task<void> ControllerSession::readCircuits()
+{
+    const QPointer<ControllerSession> self(this);
+    m_isReadingCircuits = true;
+    while (std::exchange(m_circuitsWanted, false)) {
+        auto reading = m_controller.refreshCircuits();
+        co_await reading;
+        if (!self)
+            co_return;
+    }
+    m_isReadingCircuits = false;
 }
 
 void ControllerSession::dismissError()
@@ -220,6 +253,11 @@ void ControllerSession::dismissError()
 void ControllerSession::lookForTor()
 {
     schedule(); // the next snapshot looks
+}
+
+void ControllerSession::lookForTransports()
+{
+    m_controller.locateTransports();
 }
 
 void ControllerSession::downloadTransports()

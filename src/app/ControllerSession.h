@@ -4,6 +4,8 @@
 #include "system/SettingsStore.h"
 #include "ui/Session.h"
 
+#include <qcorotask.h>
+
 namespace veldmark {
 
 class TorController;
@@ -32,6 +34,7 @@ public:
     void refreshCircuits() override;
     void dismissError() override;
     void lookForTor() override;
+    void lookForTransports() override;
     void downloadTransports() override;
     void installPasswordless() override;
     void removePasswordless() override;
@@ -44,11 +47,15 @@ public:
 private:
     void schedule();
     void read();
+    QCoro::Task<void> readCircuits();
+    QCoro::Task<void> takeNewIdentity();
 
     TorController &m_controller;
     SettingsStore &m_settings;
     RunningApplications &m_applications;
     bool m_scheduled = false;
+    bool m_isReadingCircuits = false;
+    bool m_circuitsWanted = false; // once more after those that are being read
     QString m_terminalHint;          // asked when terminal mode is switched on
     bool m_terminalModeWasOn = false;
     QStringList m_notices; // of the settings' file, each shown until it is dismissed

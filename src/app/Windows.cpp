@@ -130,8 +130,8 @@ bool Windows::open(const QString &name)
 {
     if (!ensure(name))
         return false;
-    if (name == QLatin1String("circuits"))
-        m_session.refreshCircuits();
+    if (name == QLatin1String("main"))
+        m_session.lookForTransports(); // its options tell what bridges need
     QQuickWindow *window = m_windows[name].get();
     window->show();
     window->raise();
@@ -149,6 +149,7 @@ void Windows::togglePanel(const QRect &anchor)
         panel->hide();
         return;
     }
+    m_session.lookForTransports();
     const QScreen *screen = QGuiApplication::screenAt(anchor.center());
     if (!screen)
         screen = QGuiApplication::primaryScreen();

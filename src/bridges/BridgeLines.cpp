@@ -14,7 +14,7 @@ const QRegularExpression &linePattern()
 {
     static const QRegularExpression pattern = [] {
         QRegularExpression compiled(QStringLiteral(
-            R"(\A(?:[a-z][a-z0-9_]*+ )?+\[?[0-9A-Fa-f.:]+\]?:[0-9]++(?: [!-~]++)*+\z)"));
+            R"(\A(?:[a-z][a-z0-9_]*+ )?+\[?[0-9A-Fa-f.:]+\]?:[0-9]++(?: [!$-\[\]-~]++)*+\z)"));
         compiled.optimize();
         return compiled;
     }();
@@ -100,7 +100,13 @@ QString normalised(QStringView line)
 
 bool isValid(QStringView normalisedLine)
 {
-    return linePattern().match(normalisedLine).hasMatch();
+    return normalisedLine.size() <= longestLine && linePattern().match(normalisedLine).hasMatch();
+}
+
+bool hasForbiddenCharacter(QStringView normalisedLine)
+{
+    return std::any_of(normalisedLine.begin(), normalisedLine.end(),
+                       [](QChar c) { return c == u'#' || c == u'"' || c == u'\\'; });
 }
 
 ParsedBridgeLines parse(QStringView text)
@@ -119,7 +125,10 @@ ParsedBridgeLines parse(QStringView text)
         if (line.isEmpty() || line.startsWith(u'#'))
             continue;
         if (isValid(line)) {
-            parsed.lines.append(std::move(line));
+            if (parsed.lines.size() < mostLines)
+                parsed.lines.append(std::move(line));
+            else
+                parsed.surplusLineNumbers.push_back(number);
         } else {
             parsed.invalid.append(std::move(line));
             parsed.invalidLineNumbers.push_back(number);
@@ -166,6 +175,9 @@ Result<QStringList, BridgeError> custom(QStringView text)
     if (!parsed.invalid.isEmpty())
         return Failure(BridgeError::unavailable(QStringLiteral(
             "Some custom bridge lines aren't valid. Fix them under Bridges → Custom….")));
+    if (!parsed.surplusLineNumbers.empty())
+        return Failure(BridgeError::unavailable(
+            QStringLiteral("At most %1 custom bridges can be used. Remove some under Bridges → Custom….").arg(mostLines)));
     if (parsed.lines.isEmpty())
         return Failure(BridgeError::unavailable(
             QStringLiteral("Add at least one bridge under Bridges → Custom….")));

@@ -10,6 +10,18 @@ namespace veldmark {
 namespace {
 const QString snowflake = QStringLiteral("snowflake");
 const QString webtunnel = QStringLiteral("webtunnel");
+
+bool usesSnowflake(const QStringList &lines)
+{
+    return std::any_of(lines.begin(), lines.end(),
+                       [](const QString &line) { return BridgeLines::transport(line) == snowflake; });
+}
+
+bool holdsAll(const QStringList &lines, const QStringList &some)
+{
+    return !some.isEmpty()
+        && std::all_of(some.begin(), some.end(), [&lines](const QString &line) { return lines.contains(line); });
+}
 } // namespace
 
 Result<QStringList, BridgeError> selectedBridgeLines(const BridgeRequest &request,
@@ -67,8 +79,8 @@ QCoro::Task<BridgePlan> planBridges(BridgeRequest request, BridgeTools tools)
     if (request.choice == BridgeChoice::off)
         co_return plan;
 
-    auto search = tools.locate();
-    const PluggableTransports found = co_await search;
+    auto search = tools.locateWithoutAsking ? tools.locateWithoutAsking() : tools.locate();
+    PluggableTransports found = co_await search;
     plan.transports = found;
 
     const Result<QStringList, BridgeError> selected = selectedBridgeLines(request, found);
@@ -77,7 +89,16 @@ QCoro::Task<BridgePlan> planBridges(BridgeRequest request, BridgeTools tools)
         co_return plan;
     }
     QStringList lines = *selected;
-    if (request.optimizeSpeed) {
+    if (tools.locateWithoutAsking && !found.snowflake && found.lyrebird && usesSnowflake(lines)) {
+        auto asking = tools.locate();
+        const PluggableTransports answered = co_await asking;
+        found = answered;
+        plan.transports = found;
+    }
+    if (request.optimizeSpeed && request.isBlocked) {
+        if (holdsAll(lines, request.lastLines))
+            lines = request.lastLines;
+    } else if (request.optimizeSpeed) {
         auto test = fastestBridges(lines, tools.probe, tools.status);
         const QStringList fastest = co_await test;
         lines = fastest;

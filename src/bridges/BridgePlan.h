@@ -21,6 +21,9 @@ struct BridgeRequest {
     BridgeChoice choice = BridgeChoice::off;
     QString customBridges;     // as typed
     bool optimizeSpeed = false; // keep only the fastest
+    // A kill switch stands: it would refuse the probes, so none is made.
+    bool isBlocked = false;
+    QStringList lastLines = {}; // of the session before; used again where no test can be made
 };
 
 // What a selection came to. The caller stores the parts that are present, also when `arguments`
@@ -45,10 +48,13 @@ struct BridgeTools {
     // planBridges() has finished: guard what it writes to if that may die before, and look there
     // whether this attempt is still the current one.
     std::function<void(QString)> status;
+    // As `locate`, without waiting for a program's answer; without it `locate` is used.
+    std::function<QCoro::Task<PluggableTransports>()> locateWithoutAsking = {};
 };
 
 // Searches for transports, chooses the lines, tests their speed when asked to, and builds the
-// options. Takes up to 3 s for the speed test, plus what the search takes.
+// options. Takes up to 3 s for the speed test, plus what the search takes. What programs say of
+// themselves is waited for only where the lines need a snowflake client and none is known.
 QCoro::Task<BridgePlan> planBridges(BridgeRequest request, BridgeTools tools);
 
 // The lines that a selection other than `off` stands for, before any speed test.

@@ -72,14 +72,14 @@ bool isAnnouncementComplete(QByteArrayView output)
     return isComplete;
 }
 
-QStringList servedTransports(const QString &program, const QStringList &asked,
-                             std::chrono::milliseconds limit, const std::stop_token &ended)
+std::optional<QStringList> answeredTransports(const QString &program, const QStringList &asked,
+                                              std::chrono::milliseconds limit, const std::stop_token &ended)
 {
     if (::geteuid() == 0 && !isRootsOwn(program))
-        return {};
+        return std::nullopt;
     const QTemporaryDir state;
     if (!state.isValid())
-        return {};
+        return std::nullopt;
 
     QProcessEnvironment environment;
     const auto set = [&environment](const char *name, const QString &value) {
@@ -96,10 +96,16 @@ QStringList servedTransports(const QString &program, const QStringList &asked,
         childOutput(program, {}, environment, {limit, outputLimitBytes, ended},
                     [](const QByteArray &soFar) { return isAnnouncementComplete(soFar); });
     if (!output || !isAnnouncementComplete(*output))
-        return {};
+        return std::nullopt;
     QStringList served = announcedTransports(*output);
     served.removeIf([&asked](const QString &name) { return !asked.contains(name); });
     return served;
+}
+
+QStringList servedTransports(const QString &program, const QStringList &asked,
+                             std::chrono::milliseconds limit, const std::stop_token &ended)
+{
+    return answeredTransports(program, asked, limit, ended).value_or(QStringList());
 }
 
 } // namespace veldmark

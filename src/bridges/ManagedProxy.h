@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <chrono>
+#include <optional>
 #include <stop_token>
 
 // What a transport program says about itself when it is started the way Tor starts it.
@@ -21,6 +22,9 @@ namespace veldmark {
 QStringList servedTransports(const QString &program, const QStringList &asked,
                              std::chrono::milliseconds limit = std::chrono::seconds(5),
                              const std::stop_token &ended = {});
+// The same, and tells a program that serves none of them from one that gave no whole answer: absent.
+std::optional<QStringList> answeredTransports(const QString &program, const QStringList &asked,
+                                              std::chrono::milliseconds limit, const std::stop_token &ended);
 
 // The transports whose listener the output of a managed proxy announces ("CMETHOD name version
 // address"), in its order; ones that it reports an error for are not among them.

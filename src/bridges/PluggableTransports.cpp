@@ -5,6 +5,7 @@
 #include "bridges/FileSearch.h"
 #include "bridges/ManagedProxy.h"
 #include "bridges/TransportFiles.h"
+#include "bridges/TransportMemory.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -39,7 +40,8 @@ QByteArray readFile(const QString &path)
     return content.size() > configurationLimitBytes ? QByteArray() : content;
 }
 
-QMap<QString, QStringList> bridgesOfArchive(const QString &unzip, const QString &archive, const std::stop_token &ended)
+std::optional<QMap<QString, QStringList>> bridgesOfArchive(const QString &unzip, const QString &archive,
+                                                           const std::stop_token &ended)
 {
     // Options of unzip that the user has set for himself would change what it prints.
     QProcessEnvironment environment;
@@ -49,7 +51,7 @@ QMap<QString, QStringList> bridgesOfArchive(const QString &unzip, const QString 
         {QStringLiteral("-p"), archive, QStringLiteral("defaults/preferences/000-tor-browser.js")},
         environment, {unzipLimit, preferencesLimitBytes, ended});
     if (!preferences)
-        return {};
+        return std::nullopt;
     return bridgesOfPreferences(QString::fromUtf8(*preferences));
 }
 
@@ -57,7 +59,10 @@ QMap<QString, QStringList> bridgesOfArchive(const QString &unzip, const QString 
 // that counts says that it serves snowflake.
 class Search {
 public:
-    Search(QString unzip, std::stop_token ended) : m_unzip(std::move(unzip)), m_ended(std::move(ended)) {}
+    Search(QString unzip, std::stop_token ended, TransportMemory &memory, bool mayAsk)
+        : m_unzip(std::move(unzip)), m_ended(std::move(ended)), m_memory(memory), m_mayAsk(mayAsk)
+    {
+    }
 
     void scan(const QString &root, const QString &label)
     {
@@ -97,7 +102,7 @@ public:
 
         for (const QString &archive : archives) {
             if (m_found.builtin.isEmpty())
-                m_found.builtin = bridgesOfArchive(m_unzip, archive, m_ended);
+                m_found.builtin = m_memory.bridges(archive, [&] { return bridgesOfArchive(m_unzip, archive, m_ended); });
         }
         if (wasEmpty && !m_found.builtin.isEmpty())
             m_found.source = label;
@@ -116,14 +121,20 @@ public:
     PluggableTransports result()
     {
         if (!m_found.snowflake && m_found.lyrebird
-            && (m_lyrebirdSaysSnowflake
-                || servedTransports(*m_found.lyrebird, {snowflakeTransport}, lyrebirdLimit, m_ended)
-                       .contains(snowflakeTransport)))
+            && (m_lyrebirdSaysSnowflake || served(*m_found.lyrebird).contains(snowflakeTransport)))
             m_found.snowflake = m_found.lyrebird;
         return m_found;
     }
 
 private:
+    QStringList served(const QString &program)
+    {
+        std::function<std::optional<QStringList>()> ask;
+        if (m_mayAsk)
+            ask = [&] { return answeredTransports(program, {snowflakeTransport}, lyrebirdLimit, m_ended); };
+        return m_memory.served(program, ask);
+    }
+
     static std::optional<QString> firstProgram(const QStringList &folders, const QStringList &names)
     {
         for (const QString &folder : folders) {
@@ -138,6 +149,8 @@ private:
 
     QString m_unzip;
     std::stop_token m_ended;
+    TransportMemory &m_memory;
+    bool m_mayAsk;
     PluggableTransports m_found;
     bool m_lyrebirdSaysSnowflake = false;
 };
@@ -163,7 +176,7 @@ Result<QStringList, BridgeError> PluggableTransports::builtinLines(BridgeChoice 
             });
         }
         if (!lines.isEmpty())
-            return lines;
+            return lines.first(std::min(lines.size(), BridgeLines::mostLines));
     }
     return Failure(BridgeError::unavailable(
         QStringLiteral("Built-in %1 bridges come from Tor Browser. Click Download next to Bridges, "
@@ -173,9 +186,11 @@ Result<QStringList, BridgeError> PluggableTransports::builtinLines(BridgeChoice 
 
 PluggableTransports PluggableTransports::locate(const PlatformProfile &profile,
                                                 std::optional<QString> bundleVersion,
-                                                const std::stop_token &ended)
+                                                const std::stop_token &ended, TransportMemory *memory,
+                                                bool mayAsk)
 {
-    Search search(profile.unzip, ended);
+    TransportMemory none;
+    Search search(profile.unzip, ended, memory ? *memory : none, mayAsk);
     for (const ProgramRoot &root : profile.transportRoots()) {
         const bool hasVersion =
             root.path == profile.bundleDirectory && bundleVersion && !bundleVersion->isEmpty();

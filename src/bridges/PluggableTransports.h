@@ -15,6 +15,8 @@
 
 namespace veldmark {
 
+class TransportMemory;
+
 // The transport programs and built-in bridges that were found on this computer. A plain value,
 // filled by locate() from copies of Tor Browser and of the Tor Expert Bundle; nothing of it is
 // shipped with the program.
@@ -34,10 +36,11 @@ struct PluggableTransports {
 
     // The built-in lines for `obfs4`, `snowflake` or `meek`, or the sentence that says where to get
     // some. The first key of builtinKeys() that holds any decides; of lines that a bundle files
-    // under another name than their transport's, those of that transport count.
+    // under another name than their transport's, those of that transport count. At most as many as can
+    // be used at once.
     Result<QStringList, BridgeError> builtinLines(BridgeChoice choice) const;
 
-    // Searches afresh and remembers nothing. Never fails: what cannot be read is not found.
+    // Searches afresh. Never fails: what cannot be read is not found.
     //
     // Searched are the profile's Tor Browser and its bundle, with all their folders, then the
     // profile's program folders. Of several lyrebirds the last wins (the bundle's over the
@@ -53,9 +56,13 @@ struct PluggableTransports {
     // Blocks: it walks folders of many thousand files and runs unzip and perhaps lyrebird, each
     // bounded in time and output. Any thread but the one that draws; see TransportSearch. Once
     // `ended` says so it returns in a moment, and what it returns is worth nothing.
+    //
+    // With a `memory`, archives and programs that it knows are not asked again. With `mayAsk` false no
+    // program is started: lyrebird counts for snowflake when its place or the memory says so.
     static PluggableTransports locate(const PlatformProfile &profile,
                                       std::optional<QString> bundleVersion = std::nullopt,
-                                      const std::stop_token &ended = {});
+                                      const std::stop_token &ended = {}, TransportMemory *memory = nullptr,
+                                      bool mayAsk = true);
 
     friend bool operator==(const PluggableTransports &, const PluggableTransports &) = default;
 };

@@ -21,13 +21,30 @@ TransportSearch::~TransportSearch()
 
 QCoro::Task<PluggableTransports> TransportSearch::locate(std::optional<QString> bundleVersion)
 {
+    return search(std::move(bundleVersion), true);
+}
+
+QCoro::Task<PluggableTransports> TransportSearch::locateWithoutAsking(std::optional<QString> bundleVersion)
+{
+    return search(std::move(bundleVersion), false);
+}
+
+QCoro::Task<PluggableTransports> TransportSearch::search(std::optional<QString> bundleVersion, bool mayAsk)
+{
     const ResumeOnce<PluggableTransports> found;
     const std::shared_ptr<Waits> waits = m_waits;
     const auto wait = waits->insert(waits->end(), found);
-    QThreadPool::globalInstance()->start(
-        [found, profile = m_profile, version = std::move(bundleVersion), ended = m_ended.get_token()] {
-            found.complete(PluggableTransports::locate(profile, version, ended));
-        });
+    QThreadPool *const pool = QThreadPool::globalInstance();
+    pool->start([found, profile = m_profile, version = std::move(bundleVersion), ended = m_ended.get_token(),
+                 memory = m_memory, mayAsk, pool] {
+        // One that waits for a program takes no thread from those that do not.
+        if (mayAsk)
+            pool->releaseThread();
+        const PluggableTransports transports = PluggableTransports::locate(profile, version, ended, memory.get(), mayAsk);
+        if (mayAsk)
+            pool->reserveThread();
+        found.complete(transports);
+    });
     PluggableTransports transports = co_await found;
     waits->erase(wait); // not `this`, which may be gone
     co_return transports;

@@ -52,8 +52,8 @@ size_t qHash(const CircuitInfo &circuit, size_t seed)
                       circuit.purpose, circuit.created.has_value(),
                       circuit.created ? circuit.created->toMSecsSinceEpoch() : 0, circuit.sites,
                       circuit.confluxID, circuit.roundTrip.has_value(),
-                      circuit.roundTrip ? circuit.roundTrip->count() : 0, circuit.isOneHopTunnel,
-                      circuit.isInternal);
+                      circuit.roundTrip ? circuit.roundTrip->count() : 0, circuit.onionService,
+                      circuit.isOneHopTunnel, circuit.isInternal);
 }
 
 } // namespace veldmark

@@ -41,6 +41,9 @@ struct CircuitInfo {
     // What Tor says beyond the above.
     QString confluxID; // the legs of one conflux set have the same; empty on other circuits
     std::optional<std::chrono::microseconds> roundTrip; // measured by Tor on conflux legs
+    // The onion service that this circuit of the user's leads to, "….onion"; empty on other circuits. Its
+    // last relay is where the service meets it, not an exit.
+    QString onionService;
     bool isOneHopTunnel = false; // a directory fetch, no path for the user's traffic
     bool isInternal = false;     // for Tor's own ends; does not leave through an exit
 

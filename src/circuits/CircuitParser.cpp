@@ -1,6 +1,9 @@
 #include "circuits/CircuitParser.h"
 
+#include "base/ReplyWords.h"
+
 #include <algorithm>
+#include <iterator>
 
 namespace veldmark::CircuitParser {
 
@@ -70,28 +73,51 @@ void readBuildFlags(QStringView flags, CircuitInfo &circuit)
     }
 }
 
-void readField(QStringView field, CircuitInfo &circuit)
-{
-    const auto valueOf = [field](QStringView key) { return field.sliced(key.size()); };
-    if (field.startsWith(u"PURPOSE=")) {
-        const QStringView purpose = valueOf(u"PURPOSE=");
-        // Two linked legs carry traffic to one exit; an unlinked one does not yet.
-        circuit.purpose = purpose == u"CONFLUX_LINKED" ? QStringLiteral("CONFLUX")
-            : purpose == u"GENERAL"                    ? QStringLiteral("GENERAL")
-                                                       : purpose.toString();
-    } else if (field.startsWith(u"TIME_CREATED=")) {
-        circuit.created = timeFormatter(valueOf(u"TIME_CREATED="));
-    } else if (field.startsWith(u"BUILD_FLAGS=")) {
-        readBuildFlags(valueOf(u"BUILD_FLAGS="), circuit);
-    } else if (field.startsWith(u"CONFLUX_ID=")) {
-        circuit.confluxID = valueOf(u"CONFLUX_ID=").toString();
-    } else if (field.startsWith(u"CONFLUX_RTT=")) {
+// What the words behind the path say. Of two words with one key the first counts: what a program has
+// given Tor as its user name comes after what Tor says of the circuit.
+class Fields {
+public:
+    void read(QStringView rest)
+    {
+        for (QStringView word = ReplyWords::next(rest); !word.isEmpty(); word = ReplyWords::next(rest))
+            for (std::size_t key = 0; key < std::size(keys); ++key)
+                take(key, word);
+    }
+
+    void fill(CircuitInfo &circuit) const
+    {
+        if (const auto purpose = value(Purpose)) {
+            // Two linked legs carry traffic to one exit; an unlinked one does not yet.
+            circuit.purpose = *purpose == u"CONFLUX_LINKED" ? QStringLiteral("CONFLUX") : purpose->toString();
+        }
+        if (const auto time = value(Created))
+            circuit.created = timeFormatter(*time);
+        if (const auto flags = value(Flags))
+            readBuildFlags(*flags, circuit);
+        circuit.confluxID = value(ConfluxID).value_or(QStringView()).toString();
         bool valid = false;
-        const qlonglong microseconds = valueOf(u"CONFLUX_RTT=").toLongLong(&valid);
+        const qlonglong microseconds = value(RoundTrip).value_or(QStringView()).toLongLong(&valid);
         if (valid && microseconds >= 0)
             circuit.roundTrip = std::chrono::microseconds(microseconds);
+        const QStringView service = value(Service).value_or(QStringView());
+        if (!service.isEmpty() && circuit.purpose == u"HS_CLIENT_REND" && value(ServiceState) == QStringView(u"HSCR_JOINED"))
+            circuit.onionService = service.toString() + QStringLiteral(".onion");
     }
-}
+
+private:
+    enum Key { Purpose, Created, Flags, ConfluxID, RoundTrip, Service, ServiceState };
+    static constexpr QStringView keys[] = {u"PURPOSE=", u"TIME_CREATED=", u"BUILD_FLAGS=", u"CONFLUX_ID=",
+                                           u"CONFLUX_RTT=", u"REND_QUERY=", u"HS_STATE="};
+
+    void take(std::size_t key, QStringView word)
+    {
+        if (!m_values[key] && word.startsWith(keys[key]))
+            m_values[key] = word.sliced(keys[key].size());
+    }
+    std::optional<QStringView> value(Key key) const { return m_values[key]; }
+
+    std::optional<QStringView> m_values[std::size(keys)];
+};
 
 bool isIPv4(QStringView text)
 {
@@ -149,8 +175,9 @@ std::optional<CircuitInfo> circuit(QStringView line)
 
     circuit.id = id.toString();
     circuit.purpose = QStringLiteral("GENERAL");
-    for (QStringView field = nextPiece(line, u' '); !field.isEmpty(); field = nextPiece(line, u' '))
-        readField(field, circuit);
+    Fields fields;
+    fields.read(line);
+    fields.fill(circuit);
     return circuit;
 }
 

@@ -10,9 +10,12 @@ namespace veldmark {
 
 namespace {
 
+// Internal circuits are Tor's own, except those to the onion services that the user visits.
 bool carriesUserTraffic(const CircuitInfo &circuit)
 {
-    return !circuit.isOneHopTunnel
+    if (!circuit.onionService.isEmpty())
+        return true;
+    return !circuit.isOneHopTunnel && !circuit.isInternal
         && (circuit.purpose == u"GENERAL" || circuit.purpose == u"CONFLUX");
 }
 
@@ -60,6 +63,7 @@ void joinSites(std::vector<CircuitInfo> &circuits, const QStringList &streamLine
         const QString key = sharingKey(circuit);
         keys.insert(circuit.id, key);
         Sites &shared = sites[key];
+        shared.add(circuit.onionService);
         for (const QString &site : history.value(circuit.id))
             shared.add(site);
     }

@@ -14,6 +14,9 @@ namespace veldmark {
 struct GraphLayout {
     QHash<QString, QPointF> positions; // node id → its centre
 
+    static constexpr int columns = 5;
+    static double columnAt(int column, double width);
+
     GraphLayout(const CircuitGraph &graph, QSizeF size);
 };
 

@@ -43,7 +43,11 @@ QJsonObject customFindings(const QString &text)
         invalid.append(QJsonObject{
             {QStringLiteral("line"), parsed.invalidLineNumbers[static_cast<std::size_t>(i)]},
             {QStringLiteral("text"), parsed.invalid[i]}});
-    return {{QStringLiteral("valid"), parsed.lines.size()}, {QStringLiteral("invalid"), invalid}};
+    QJsonArray surplus;
+    for (const int number : parsed.surplusLineNumbers)
+        surplus.append(number);
+    return {{QStringLiteral("valid"), parsed.lines.size()}, {QStringLiteral("invalid"), invalid},
+            {QStringLiteral("surplus"), surplus}};
 }
 
 // Blocks for some seconds.
@@ -134,6 +138,10 @@ QString Report::bridges(const QJsonObject &all)
         report += QStringLiteral("\n  line %1 is not a bridge line: %2")
                       .arg(entry.toObject().value(QStringLiteral("line")).toInt())
                       .arg(shown(entry.toObject().value(QStringLiteral("text")).toString()));
+    const QJsonArray surplus = custom.value(QStringLiteral("surplus")).toArray();
+    if (!surplus.isEmpty())
+        report += QStringLiteral("\n  %1 too many, from line %2 on; at most %3 can be used")
+                      .arg(surplus.size()).arg(surplus.first().toInt()).arg(BridgeLines::mostLines);
     return report;
 }
 
@@ -150,8 +158,9 @@ QCoro::Task<ExitStatus> showBridges(Invocation invocation, PlatformProfile profi
     Console::print(invocation.json
                        ? QString::fromUtf8(QJsonDocument(all).toJson(QJsonDocument::Compact))
                        : Report::bridges(all));
-    const bool allValid =
-        all.value(QStringLiteral("custom")).toObject().value(QStringLiteral("invalid")).toArray().isEmpty();
+    const QJsonObject own = all.value(QStringLiteral("custom")).toObject();
+    const bool allValid = own.value(QStringLiteral("invalid")).toArray().isEmpty()
+        && own.value(QStringLiteral("surplus")).toArray().isEmpty();
     co_return allValid ? ExitStatus::done : ExitStatus::failed;
 }
 

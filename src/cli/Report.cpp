@@ -165,8 +165,10 @@ QString circuits(const QJsonObject &state)
         QStringList path;
         for (const QJsonValue &hop : circuit.value(QStringLiteral("hops")).toArray())
             path << hopText(hop.toObject());
+        const QString purpose = text(circuit, "purpose"); // Tor's word for the way to an onion service is long
         lines << QStringLiteral("%1  %2  %3").arg(text(circuit, "id"), 4)
-                     .arg(text(circuit, "purpose"), -8).arg(path.join(QStringLiteral(" → ")));
+                     .arg(purpose == QLatin1String("HS_CLIENT_REND") ? QStringLiteral("ONION") : purpose, -8)
+                     .arg(path.join(QStringLiteral(" → ")));
         QStringList sites;
         for (const QJsonValue &site : circuit.value(QStringLiteral("sites")).toArray())
             sites << site.toString();

@@ -1,5 +1,6 @@
 #include "control/ControlPort.h"
 
+#include "base/ReplyWords.h"
 #include "control/ControlConnection.h"
 
 #include <algorithm>
@@ -173,7 +174,7 @@ QStringList ControlPort::resolvedHosts(const QStringList &lines)
     QStringList hosts;
     for (const QString &line : lines) {
         if (!line.startsWith(QLatin1String("650 STREAM "))
-            || !line.contains(QLatin1String("PURPOSE=DNS_REQUEST")))
+            || ReplyWords::value(line, u"PURPOSE") != QLatin1String("DNS_REQUEST"))
             continue;
         // 650 STREAM StreamID Status CircuitID Target …
         const QStringList words = line.split(u' ', Qt::SkipEmptyParts);

@@ -1,13 +1,13 @@
 #include "controller/TorController.h"
 
 #include "base/Clock.h"
+#include "base/ReplyWords.h"
 #include "bridges/BridgeLines.h"
 #include "control/ControlPort.h"
 #include "log/TorLog.h"
 #include "log/TransportTrouble.h"
 
 #include <QPointer>
-#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -24,23 +24,20 @@ constexpr auto transportPatience = 10s;
 
 const QString bootstrapKey = QStringLiteral("status/bootstrap-phase");
 
-// What follows NAME= within a report, without the quotation marks that it may stand in.
-QString field(const QString &report, const char *name)
+QString field(const QString &report, QStringView name)
 {
-    const QRegularExpression pattern(QStringLiteral("(?:^| )%1=(?:\"([^\"]*)\"|([^ \"]+))").arg(QLatin1String(name)));
-    const auto match = pattern.match(report);
-    return match.captured(1) + match.captured(2);
+    return ReplyWords::value(report, name).value_or(QString());
 }
 
 // Tor's warning as a sentence; empty without one, and where Tor itself thinks nothing of it.
 QString warningIn(const QString &report)
 {
-    const QString warning = field(report, "WARNING");
-    if (warning.isEmpty() || field(report, "RECOMMENDATION") == QLatin1String("ignore"))
+    const QString warning = field(report, u"WARNING");
+    if (warning.isEmpty() || field(report, u"RECOMMENDATION") == QLatin1String("ignore"))
         return {};
-    if (field(report, "TAG") == QLatin1String("conn_pt"))
+    if (field(report, u"TAG") == QLatin1String("conn_pt"))
         return QStringLiteral("Tor can't reach the bridge program: %1.").arg(warning);
-    QStringList details = {field(report, "REASON"), field(report, "HOSTADDR")};
+    QStringList details = {field(report, u"REASON"), field(report, u"HOSTADDR")};
     details.removeAll(QString());
     return details.isEmpty() ? QStringLiteral("Tor reports: %1.").arg(warning)
                              : QStringLiteral("Tor reports: %1 (%2).").arg(warning, details.join(QStringLiteral(", ")));
@@ -50,10 +47,8 @@ QString warningIn(const QString &report)
 
 BootstrapStatus TorController::parseBootstrap(const QString &reply)
 {
-    static const QRegularExpression progressField(QStringLiteral("PROGRESS=(\\d+)"));
-    static const QRegularExpression summaryField(QStringLiteral("SUMMARY=\"([^\"]*)\""));
-    return {progressField.match(reply).captured(1).toInt(), // 0 when absent or out of range
-            summaryField.match(reply).captured(1), warningIn(reply)};
+    return {std::max(field(reply, u"PROGRESS").toInt(), 0), // 0 when absent or out of range
+            field(reply, u"SUMMARY"), warningIn(reply)};
 }
 
 std::optional<QString> TorController::problemBehind(const BootstrapStatus &status,

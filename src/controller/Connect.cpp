@@ -108,7 +108,8 @@ QCoro::Task<Result<QStringList, QString>> TorController::bridgeArguments(Attempt
         [self, attempt](const QString &text) {
             if (self && self->isCurrent(attempt))
                 self->statusDetail = text;
-        }};
+        },
+        m_services.locateWithoutAsking};
     const quint64 search = ++m_transportSearch;
     const BridgePlan plan = co_await planBridges(request, tools);
     if (!self || !isCurrent(attempt))
@@ -163,7 +164,8 @@ QCoro::Task<void> TorController::connect()
     const bool strict = strictMode();
     const bool localNetwork = allowLocalNetwork();
     const QString exit = exitCountry();
-    const BridgeRequest request{bridgeChoice(), customBridges(), optimizeSpeed()};
+    const bool isBlocked = markedMode() == RoutingMode::strict; // by a session that is still to be restored
+    const BridgeRequest request{bridgeChoice(), customBridges(), optimizeSpeed(), isBlocked, m_activeBridgeLines};
     stopMonitoring();
     m_torStopped = false;
     forgetCircuits();

@@ -59,6 +59,8 @@ Production::Production(const PlatformProfile &profile)
                   return m_downloader.install(throughTor, progress);
               },
           .cancelTransports = [this] { m_downloader.cancel(); },
+          .locateWithoutAsking =
+              [this] { return m_search.locateWithoutAsking(TransportDownloader::installedVersion(m_profile)); },
       })
 {
 }

@@ -78,6 +78,9 @@ public:
             installTransports = {};
         // TransportDownloader::cancel().
         std::function<void()> cancelTransports = {};
+        // As locateTransports, without waiting for what programs say of themselves; for connect(). Without it
+        // locateTransports is used.
+        std::function<QCoro::Task<PluggableTransports>()> locateWithoutAsking = {};
     };
 
     // Registers the settings' defaults, reads the settings, and starts looking for transports

@@ -5,7 +5,6 @@
 
 #include <QCursor>
 #include <QHash>
-#include <QMap>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -234,8 +233,7 @@ QString CircuitGraphView::hoveredHelp() const
         return tr("%1: your real IP only ever reaches the entry relay").arg(node->label);
     QString help = node->label + u'\n';
     if (node->relay)
-        help += node->relay->country.value_or(tr("Unknown")).toUpper() + QStringLiteral(" · ")
-            + node->relay->ip.value_or(tr("Unknown")) + u'\n';
+        help += CircuitsModel::placeOf(*node->relay) + u'\n';
     const auto count = static_cast<int>(node->circuitIDs.size());
     return help + (count == 1 ? tr("Used by 1 circuit") : tr("Used by %1 circuits").arg(count));
 }
@@ -265,18 +263,15 @@ QColor CircuitGraphView::ringColor(const Place &place) const
 void CircuitGraphView::drawGuides(QPainter &painter) const
 {
     const std::array titles{QString(), tr("ENTRY"), tr("MIDDLE"), tr("EXIT"), tr("SITES")};
-    QMap<int, double> places;
-    for (size_t i = 0; i < m_places.size(); ++i)
-        places.insert(m_graph.nodes[i].column, m_places[i].at.x());
     QFont font = painter.font();
     font.setPixelSize(11);
     font.setLetterSpacing(QFont::AbsoluteSpacing, 1);
     painter.setFont(font);
-    for (auto place = places.cbegin(); place != places.cend(); ++place) {
-        const double x = std::round(place.value());
+    for (int column = 0; column < GraphLayout::columns; ++column) {
+        const double x = std::round(GraphLayout::columnAt(column, width()));
         painter.fillRect(QRectF(x, 34, 1, height() - 40), m_guide);
         painter.setPen(m_faintInk);
-        painter.drawText(QRectF(x - 70, 10, 140, 18), Qt::AlignCenter, titles[static_cast<size_t>(place.key())]);
+        painter.drawText(QRectF(x - 70, 10, 140, 18), Qt::AlignCenter, titles[static_cast<size_t>(column)]);
     }
 }
 

@@ -4,26 +4,18 @@
 #include "ui/SessionTexts.h"
 
 #include <QLocale>
+#include <QSet>
 
 #include <algorithm>
+#include <utility>
+
+using namespace std::chrono_literals;
 
 namespace veldmark {
 
 namespace {
 
-QString countryName(const RelayInfo &relay)
-{
-    return relay.country ? relay.country->toUpper() : QString();
-}
-
-QString relayDetail(const RelayInfo &relay)
-{
-    QStringList parts;
-    if (relay.country)
-        parts << countryName(relay);
-    parts << relay.ip.value_or(CircuitsModel::tr("Unknown"));
-    return parts.join(QStringLiteral(" · "));
-}
+constexpr auto refreshInterval = 3s; // while somebody looks
 
 QString milliseconds(std::chrono::microseconds time)
 {
@@ -31,11 +23,18 @@ QString milliseconds(std::chrono::microseconds time)
 }
 
 QVariantMap step(const QString &symbol, const QString &country, const QString &role,
-                 const QString &title, const QString &detail, bool last)
+                 const QString &title, const QString &detail, const QColor &tint, bool last)
 {
     return {{QStringLiteral("symbol"), symbol}, {QStringLiteral("country"), country},
             {QStringLiteral("role"), role},     {QStringLiteral("title"), title},
-            {QStringLiteral("detail"), detail}, {QStringLiteral("last"), last}};
+            {QStringLiteral("detail"), detail}, {QStringLiteral("tint"), tint},
+            {QStringLiteral("last"), last}};
+}
+
+auto rowOf(std::vector<CircuitInfo> &rows, std::size_t from, const QString &id)
+{
+    return std::find_if(rows.begin() + static_cast<std::ptrdiff_t>(from), rows.end(),
+                        [&id](const CircuitInfo &circuit) { return circuit.id == id; });
 }
 
 } // namespace
@@ -43,6 +42,10 @@ QVariantMap step(const QString &symbol, const QString &country, const QString &r
 CircuitsModel::CircuitsModel(Session &session, QObject *parent)
     : QAbstractListModel(parent), m_session(session), m_shown(session.now().circuits)
 {
+    m_wasConnected = connected();
+    m_wasOptimizing = optimizing();
+    m_ticks.setInterval(refreshInterval);
+    QObject::connect(&m_ticks, &QTimer::timeout, this, &CircuitsModel::refresh);
     QObject::connect(&session, &Session::changed, this, &CircuitsModel::update);
 }
 
@@ -51,14 +54,84 @@ QString CircuitsModel::computer() const
     return SessionTexts::translated(m_session.profile().computer);
 }
 
-void CircuitsModel::update()
+void CircuitsModel::setSeen(bool seen)
 {
-    if (m_shown != circuits()) {
-        beginResetModel();
-        m_shown = circuits();
-        endResetModel();
+    if (m_seen == seen)
+        return;
+    m_seen = seen;
+    if (seen) {
+        m_ticks.start();
+        refresh();
+    } else {
+        m_ticks.stop();
     }
     Q_EMIT changed();
+}
+
+void CircuitsModel::refresh()
+{
+    if (connected())
+        m_session.refreshCircuits();
+}
+
+void CircuitsModel::update()
+{
+    if (!connected())
+        m_followed.clear(); // the next session's circuit of that number is another one
+    const bool begins = !std::exchange(m_wasConnected, connected()) && connected();
+    const bool isOptimized = std::exchange(m_wasOptimizing, optimizing()) && !optimizing();
+    showRows();
+    Q_EMIT changed();
+    if (m_seen && (begins || isOptimized))
+        refresh();
+}
+
+// Changes the rows into the session's circuits one by one: a list that is read anew would lose its place,
+// and the row that has the keyboard.
+void CircuitsModel::showRows()
+{
+    const std::vector<CircuitInfo> &next = circuits();
+    if (m_shown == next)
+        return;
+    QSet<QString> kept;
+    for (const CircuitInfo &circuit : next)
+        kept.insert(circuit.id);
+    const auto remove = [this](std::size_t row) {
+        beginRemoveRows({}, static_cast<int>(row), static_cast<int>(row));
+        m_shown.erase(m_shown.begin() + static_cast<std::ptrdiff_t>(row));
+        endRemoveRows();
+    };
+    for (std::size_t row = m_shown.size(); row-- > 0;)
+        if (!kept.contains(m_shown[row].id))
+            remove(row);
+    for (std::size_t row = 0; row < next.size(); ++row) {
+        const int to = static_cast<int>(row);
+        const auto place = m_shown.begin() + static_cast<std::ptrdiff_t>(row);
+        const auto found = rowOf(m_shown, row, next[row].id);
+        if (found == m_shown.end()) {
+            beginInsertRows({}, to, to);
+            m_shown.insert(place, next[row]);
+            endInsertRows();
+        } else if (found != place) {
+            const int from = static_cast<int>(found - m_shown.begin());
+            beginMoveRows({}, from, from, {}, to);
+            std::rotate(place, found, found + 1);
+            endMoveRows();
+        }
+        m_shown[row] = next[row];
+    }
+    while (m_shown.size() > next.size())
+        remove(m_shown.size() - 1);
+    if (!m_shown.empty()) // a row's colour goes by its place
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+}
+
+QString CircuitsModel::placeOf(const RelayInfo &relay)
+{
+    const QString country = relay.country ? relay.country->toUpper() : tr("Unknown");
+    if (!relay.country && !relay.ip)
+        return country;
+    return country + QStringLiteral(" · ") + relay.ip.value_or(tr("Unknown"));
 }
 
 int CircuitsModel::rowCount(const QModelIndex &parent) const
@@ -80,7 +153,7 @@ QVariant CircuitsModel::data(const QModelIndex &index, int role) const
     case DetailRole: {
         QStringList names;
         for (const RelayInfo &hop : circuit.hops)
-            names << (hop.country ? countryName(hop) : hop.nickname);
+            names << (hop.country ? hop.country->toUpper() : hop.nickname);
         QString text = names.join(QStringLiteral(" → "));
         if (circuit.roundTrip)
             text += QStringLiteral("  ·  ") + milliseconds(*circuit.roundTrip);
@@ -151,6 +224,8 @@ QString CircuitsModel::purpose() const
     QStringList facts;
     if (circuit->roundTrip)
         facts << tr("Round trip: %1").arg(milliseconds(*circuit->roundTrip));
+    if (!circuit->onionService.isEmpty())
+        facts << tr("Leads to an onion service, which meets it at its last relay");
     if (circuit->purpose == QLatin1String("CONFLUX"))
         facts << tr("One of several linked legs to the same exit");
     return facts.join(u'\n');
@@ -161,8 +236,9 @@ QVariantList CircuitsModel::steps() const
     const CircuitInfo *circuit = followedCircuit();
     if (!circuit)
         return {};
+    const QColor tint = paletteColor(static_cast<size_t>(circuit - circuits().data()));
     QVariantList path{step(QStringLiteral("laptopcomputer"), {}, {}, computer(),
-                           tr("Only the entry sees your IP"), false)};
+                           tr("Only the entry sees your IP"), tint, false)};
     const bool throughBridge = m_session.now().activeBridge
         && *m_session.now().activeBridge != BridgeChoice::off;
     const size_t hops = circuit->hops.size();
@@ -172,8 +248,8 @@ QVariantList CircuitsModel::steps() const
         if (i == 0)
             role = throughBridge ? tr("Bridge") : tr("Entry");
         else if (i + 1 == hops)
-            role = tr("Exit");
-        path << step({}, hop.country.value_or(QString()), role, hop.nickname, relayDetail(hop),
+            role = circuit->onionService.isEmpty() ? tr("Exit") : tr("Meeting point");
+        path << step({}, hop.country.value_or(QString()), role, hop.nickname, placeOf(hop), tint,
                      i + 1 == hops && circuit->sites.isEmpty());
     }
     if (!circuit->sites.isEmpty()) {
@@ -181,7 +257,7 @@ QVariantList CircuitsModel::steps() const
         QString sites = circuit->sites.mid(0, shown).join(QStringLiteral(", "));
         if (circuit->sites.size() > shown)
             sites += tr(", +%1 more").arg(circuit->sites.size() - shown);
-        path << step(QStringLiteral("globe"), {}, {}, tr("Sites"), sites, true);
+        path << step(QStringLiteral("globe"), {}, {}, tr("Sites"), sites, tint, true);
     }
     return path;
 }

@@ -6,11 +6,13 @@
 #include <QAbstractListModel>
 #include <QColor>
 #include <QQmlEngine>
+#include <QTimer>
 
 namespace veldmark {
 
 // The list of circuits, the one that is followed, and its path as steps. One row a circuit, in the
-// session's order, which is also the order of the palette.
+// session's order, which is also the order of the palette. While it is seen the circuits are read again
+// every few seconds; rows come, go and move one by one, never all anew.
 class CircuitsModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -26,6 +28,7 @@ class CircuitsModel : public QAbstractListModel {
     Q_PROPERTY(int followedRow READ followedRow NOTIFY changed)
     Q_PROPERTY(QVariantList steps READ steps NOTIFY changed)
     Q_PROPERTY(QString purpose READ purpose NOTIFY changed)
+    Q_PROPERTY(bool seen READ seen WRITE setSeen NOTIFY changed)
 
 public:
     enum Role {
@@ -51,11 +54,11 @@ public:
     bool empty() const { return circuits().empty(); }
     QString purpose() const;
 
-    // The followed circuit's number; empty when none is, or when it is gone.
+    // The followed circuit's number; empty when none is, or when it or its session is gone.
     QString followed() const;
     Q_INVOKABLE void follow(const QString &id);
     int followedRow() const; // -1: none
-    // The path of the followed circuit, each step a map: symbol, country, role, title, detail,
+    // The path of the followed circuit, each step a map: symbol, country, role, title, detail, tint,
     // last. Empty when none is followed.
     QVariantList steps() const;
 
@@ -65,20 +68,30 @@ public:
     Q_INVOKABLE void newIdentity() { m_session.newIdentity(); }
     Q_INVOKABLE void findFaster() { m_session.findFasterCircuits(); }
     Q_INVOKABLE void newCircuit() { m_session.newCircuit(followed()); }
-    Q_INVOKABLE void refresh() { m_session.refreshCircuits(); }
+    void refresh();
+
+    bool seen() const { return m_seen; }
+    void setSeen(bool seen); // somebody can see the list
 
     static QColor paletteColor(std::size_t index);
+    // "DE · 192.0.2.7"; "Unknown" for what is not known.
+    static QString placeOf(const RelayInfo &relay);
 
 Q_SIGNALS:
     void changed();
 
 private:
     void update();
+    void showRows();
     const CircuitInfo *followedCircuit() const;
 
     Session &m_session;
     std::vector<CircuitInfo> m_shown; // what the rows were last made from
     QString m_followed;
+    QTimer m_ticks{this};
+    bool m_seen = false;
+    bool m_wasConnected = false;
+    bool m_wasOptimizing = false;
 };
 
 } // namespace veldmark

@@ -7,6 +7,26 @@
 
 namespace veldmark {
 
+namespace {
+
+// " (line 3)", " (lines 3, 5, 8, 9, 10, …)"
+QString inLines(const std::vector<int> &numbers)
+{
+    constexpr qsizetype named = 5;
+    QStringList list;
+    for (const int number : numbers) {
+        if (list.size() == named) {
+            list << QStringLiteral("…");
+            break;
+        }
+        list << QString::number(number);
+    }
+    const QString lines = list.join(QStringLiteral(", "));
+    return u' ' + (numbers.size() == 1 ? OptionsModel::tr("(line %1)").arg(lines) : OptionsModel::tr("(lines %1)").arg(lines));
+}
+
+} // namespace
+
 OptionsModel::OptionsModel(Session &session, QObject *parent)
     : QObject(parent), m_session(session), m_exits(session.exitChoices())
 {
@@ -159,12 +179,26 @@ QString OptionsModel::downloadText() const
     return SessionTexts::translated(m_session.now().transportDownload.value_or(QString()));
 }
 
+QString OptionsModel::bridgeCount(const QString &text) const
+{
+    const auto count = static_cast<int>(BridgeLines::parse(text).lines.size());
+    if (count == 0)
+        return {};
+    return count == 1 ? tr("1 bridge recognized") : tr("%1 bridges recognized").arg(count);
+}
+
 QString OptionsModel::bridgeWarning(const QString &text) const
 {
-    const auto invalid = static_cast<int>(BridgeLines::parse(text).invalid.size());
-    if (invalid == 0)
-        return {};
-    return invalid == 1 ? tr("1 line not recognized") : tr("%1 lines not recognized").arg(invalid);
+    const ParsedBridgeLines parsed = BridgeLines::parse(text);
+    QStringList warnings;
+    if (const auto invalid = static_cast<int>(parsed.invalid.size()); invalid > 0)
+        warnings << (invalid == 1 ? tr("1 line not recognized") : tr("%1 lines not recognized").arg(invalid))
+                + inLines(parsed.invalidLineNumbers);
+    if (std::any_of(parsed.invalid.begin(), parsed.invalid.end(), BridgeLines::hasForbiddenCharacter))
+        warnings << tr("A bridge line can't contain #, \" or \\.");
+    if (!parsed.surplusLineNumbers.empty())
+        warnings << tr("At most %1 bridges can be used").arg(BridgeLines::mostLines) + inLines(parsed.surplusLineNumbers);
+    return warnings.join(u'\n');
 }
 
 void OptionsModel::saveCustomBridges(const QString &text)

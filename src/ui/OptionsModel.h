@@ -62,7 +62,9 @@ public:
     QString downloadText() const;
     bool customChosen() const { return choices().bridgeChoice == BridgeChoice::custom; }
     QString customBridges() const { return choices().customBridges; }
-    // "2 lines not recognized", or empty.
+    // "3 bridges recognized", or empty.
+    Q_INVOKABLE QString bridgeCount(const QString &text) const;
+    // What of `text` cannot be used, and in which lines; empty when all can.
     Q_INVOKABLE QString bridgeWarning(const QString &text) const;
     Q_INVOKABLE void saveCustomBridges(const QString &text);
     Q_INVOKABLE void download() { m_session.downloadTransports(); }

@@ -40,7 +40,21 @@ void PanelModel::update()
         m_traffic.add(now.bytesRead, now.bytesWritten);
     else
         m_traffic.clear();
+    rememberExitCountry();
     Q_EMIT changed();
+}
+
+// The circuit that the address was checked over does not last, the address does.
+void PanelModel::rememberExitCountry()
+{
+    const Snapshot &now = m_session.now();
+    const std::optional<QString> exit = connected() ? now.exitIP : std::nullopt;
+    if (std::exchange(m_exit, exit) != exit)
+        m_exitCountry.clear();
+    for (const CircuitInfo &circuit : now.circuits)
+        if (exit && !circuit.hops.empty() && circuit.onionService.isEmpty() && circuit.hops.back().ip == exit
+            && circuit.hops.back().country)
+            m_exitCountry = *circuit.hops.back().country;
 }
 
 bool PanelModel::connected() const
@@ -207,15 +221,6 @@ QString PanelModel::exitAddress() const
     if (exitKnown())
         return *now.exitIP;
     return connected() && now.isChecking ? tr("Checking") : tr("Unknown");
-}
-
-QString PanelModel::exitCountry() const
-{
-    const Snapshot &now = m_session.now();
-    for (const CircuitInfo &circuit : now.circuits)
-        if (!circuit.hops.empty() && now.exitIP && circuit.hops.back().ip == now.exitIP)
-            return circuit.hops.back().country.value_or(QString());
-    return {};
 }
 
 QString PanelModel::exitHelp() const

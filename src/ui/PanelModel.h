@@ -84,7 +84,7 @@ public:
 
     QString exitAddress() const;
     bool exitKnown() const { return connected() && m_session.now().exitIP; }
-    QString exitCountry() const; // two letters, or empty
+    QString exitCountry() const { return m_exitCountry; } // two letters, or empty
     QString exitHelp() const;
     bool exitVerified() const { return connected() && m_session.now().torVerified == true; }
     QString verification() const;
@@ -121,6 +121,7 @@ Q_SIGNALS:
 
 private:
     void update();
+    void rememberExitCountry();
     Leak knownLeak() const; // what was found out about the session that runs
     bool throughBridge() const;
 
@@ -129,6 +130,8 @@ private:
     QTimer m_stillness{this}; // runs out when the connection attempt has not moved
     bool m_still = false;
     double m_lastProgress = 0;
+    std::optional<QString> m_exit; // whose country this is
+    QString m_exitCountry;
     QString m_lastDetail;
 };
 

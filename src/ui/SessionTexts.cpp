@@ -67,6 +67,7 @@ namespace {
     QT_TRANSLATE_NOOP("Session", "Setup ran but the helper wasn't installed. Try again."),
     QT_TRANSLATE_NOOP("Session", "The helper failed without an error message."),
     QT_TRANSLATE_NOOP("Session", "Add at least one bridge under Bridges → Custom…."),
+    QT_TRANSLATE_NOOP("Session", "Some custom bridge lines aren't valid. Fix them under Bridges → Custom…."),
     QT_TRANSLATE_NOOP("Session", "This computer"),
     QT_TRANSLATE_NOOP("Session", "This Mac"),
     QT_TRANSLATE_NOOP("Session", "on this computer"),
@@ -98,6 +99,7 @@ constexpr const char *forms[] = {
     QT_TRANSLATE_NOOP("Session", "The settings file couldn't be read. It was kept as %1, and a new one is used."),
     QT_TRANSLATE_NOOP("Session", "The settings file %1 can't be read or replaced. Changes to the settings last "
                                  "until you quit."),
+    QT_TRANSLATE_NOOP("Session", "At most %1 custom bridges can be used. Remove some under Bridges → Custom…."),
     QT_TRANSLATE_NOOP("Session", "Couldn't open %1 without Tor: %2"),
     QT_TRANSLATE_NOOP("Session", "\"%1\" is no place for Tor: give the whole path, such as /usr/bin/tor."),
     QT_TRANSLATE_NOOP("Session", "\"%1\" holds for the whole connection. Disconnect to change it."),

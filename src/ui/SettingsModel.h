@@ -90,6 +90,7 @@ public:
     Q_INVOKABLE void installPasswordless() { m_session.installPasswordless(); }
     Q_INVOKABLE void removePasswordless() { m_session.removePasswordless(); }
     Q_INVOKABLE void chooseTor(const QUrl &file); // empty: automatic
+    Q_INVOKABLE void lookForTransports() { m_session.lookForTransports(); }
     Q_INVOKABLE void download() { m_session.downloadTransports(); }
     Q_INVOKABLE void removeTerminalIntegration() { m_session.removeTerminalIntegration(); }
     Q_INVOKABLE void restore() { m_session.disconnectFromTor(); }

@@ -81,10 +81,27 @@ class Bridges(LabCase):
         self.assert_restored()
 
     def test_a_bad_line_among_good_ones_stops_the_connect(self):
-        self.use(self.lab.tor.bridge_line("obfs4"), "obfs4 example.org:443 nonsense")
+        good = self.lab.tor.bridge_line("obfs4")
+        for bad in ("obfs4 example.org:443 nonsense", good + " #mine", good + ' "x"', good + "\\"):
+            with self.subTest(bad):
+                self.use(good, bad)
+                with self.product.session() as session:
+                    self.assertEqual(session.process.wait(20), 1)
+                self.assertIn("Some custom bridge lines aren't valid. Fix them under Bridges → Custom….", session.output)
+                self.assertRegex(self.product.run_verb("bridges").stdout, "(?m)^  line 2 is not a bridge line: ")
+                self.assert_restored()
+
+    def test_more_bridges_than_can_be_used_are_refused_before_anything_changes(self):
+        lines = [f"203.0.113.33:{port}" for port in range(1, 103)]
+        self.use(*lines)
         with self.product.session() as session:
             self.assertEqual(session.process.wait(20), 1)
-        self.assertIn("Some custom bridge lines aren't valid. Fix them under Bridges → Custom….", session.output)
+        self.assertIn("At most 100 custom bridges can be used.", session.output)
+        shown = self.product.run_verb("bridges")
+        self.assertEqual(shown.returncode, 1)
+        self.assertIn("100 valid\n  2 too many, from line 101 on; at most 100 can be used", shown.stdout)
+        self.use(*lines[:100])
+        self.assertEqual(self.product.run_verb("bridges").returncode, 0)
         self.assert_restored()
 
     def test_built_in_bridges_that_nobody_has_are_explained(self):
@@ -195,6 +212,26 @@ class Bridges(LabCase):
         self.assertEqual((state["phase"], state["statusDetail"]), ("stale", "Tor didn't finish connecting"))
         self.assertEqual(state["errorMessage"], TIMEOUT + RESTORE)
         self.assertEqual(state["bootstrapProblem"], "The bridge program lyrebird keeps ending (exit status 1).")
+        self.assert_restored()
+
+    def test_behind_the_kill_switch_the_fastest_bridges_are_kept(self):
+        self.use(*(f"{node.address}:{at.OR_PORT}" for node in at.EXITS))
+        self.set("optimizeSpeed", "true")
+
+        def used():
+            return re.findall(r"(?m)^Bridge (.+)$", self.lab.host.read("/var/lib/veldmark/run/torrc"))
+
+        with self.product.session() as session:
+            session.wait(is_probed)
+            fastest = used()
+            self.assertEqual(len(fastest), 3)
+            self.kill_tor()
+            session.wait_phase("stale")
+            self.assertIsNone(self.direct("-4"))  # it would refuse the probes too
+            self.product.run_verb("connect", check=True)
+            self.assertEqual(used(), fastest)
+            self.assertEqual(session.interrupt(), 0, session.output)
+        self.assertNotIn("No bridge answered a quick test", session.output)
         self.assert_restored()
 
     def test_of_ten_bridges_the_three_fastest_are_used(self):

@@ -102,6 +102,57 @@ class Circuits(LabCase):
         self.assertTrue(self.through_tor()["IsTor"])
 
 
+class OnionServices(LabCase):
+    def torrc(self, folder):
+        """A member of the private network that offers its web server as an onion service."""
+        network = self.lab.host.read("/etc/tor/torrc-defaults").splitlines()
+        return "\n".join([
+            *(line for line in network if not line.startswith("GeoIPFile ")),
+            f"DataDirectory {folder}/data",
+            f"HiddenServiceDir {folder}/service",
+            f"HiddenServicePort 80 {at.WEB_ADDRESS}:80",
+            "SocksPort 0",
+            f"Log info file {folder}/log",
+            ""])
+
+    @contextlib.contextmanager
+    def service(self):
+        """Its address, once a visitor can find it."""
+        folder = f"{at.TOR_FOLDER}/onion"
+        place = self.lab.world.path(folder)
+        place.mkdir(mode=0o700)
+        (place / "torrc").write_text(self.torrc(folder))
+        with self.lab.world.popen(["tor", "-f", f"{folder}/torrc", "--defaults-torrc", f"{at.TOR_FOLDER}/empty", "--quiet"]) as tor:
+            try:
+                deadline = time.monotonic() + 120
+                log = place / "log"
+                while not log.exists() or log.read_text(errors="replace").count("descriptor: finished with status 200") < 4:
+                    self.assertIsNone(tor.poll(), "tor ended")
+                    self.assertLess(time.monotonic(), deadline, "the service has not published itself")
+                    time.sleep(0.2)
+                yield (place / "service/hostname").read_text().strip()
+            finally:
+                tor.kill()
+
+    def test_the_way_to_an_onion_service_is_shown_and_the_other_circuits_for_it_are_not(self):
+        with self.service() as onion, self.product.session() as session:
+            session.wait(is_probed)
+            with self.download(onion):
+                (way,) = self.circuits_to(onion, 90)
+                self.assertEqual((way["purpose"], way["sites"]), ("HS_CLIENT_REND", [onion]))
+                self.assertGreaterEqual(len(way["hops"]), 3)
+                for hop in way["hops"]:
+                    self.assertEqual(at.node_named(hop["nickname"]).address, hop["ip"])
+                shown = json.loads(self.product.run_verb("circuits", "--json", check=True).stdout)
+                for circuit in shown:  # Tor has made others ahead for such services; they lead to no exit
+                    if circuit["id"] != way["id"]:
+                        self.assertIn(circuit["purpose"], ("GENERAL", "CONFLUX"))
+                        self.assertIn(circuit["hops"][-1]["ip"], self.lab.tor.exits)
+                self.assertRegex(self.product.run_verb("circuits", check=True).stdout, rf"(?m)^ *{way['id']}  ONION ")
+                self.product.run_verb("close-circuit", way["id"], check=True)
+            self.assertEqual(session.interrupt(), 0, session.output)
+
+
 class Speed(LabCase):
     def test_a_slow_path_is_left_for_a_faster_one(self):
         self.set("optimizeSpeed", "true")

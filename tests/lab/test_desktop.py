@@ -103,6 +103,35 @@ class ByClicking(DesktopCase):
         self.assertEqual(self.direct("-4")["IP"], at.HOST_ADDRESS)
         self.assertEqual(len(self.desktop.notifications), 1)
 
+    def circuits_shown(self):
+        return {node["name"] for node in self.window.nodes() if node["role"] == "list item" and node["name"].startswith("Circuit ")}
+
+    def test_the_circuits_are_kept_up_to_date_without_being_asked_for(self):
+        state = self.connect()
+        country = self.lab.tor.exits[state["exitIP"]].upper()
+        # The exit's country is on the panel, though no window shows circuits.
+        self.window.wait_until(lambda: any(node["name"] == country for node in self.window.nodes()))
+        self.window.click("push button", "Circuits")
+        self.window.wait_for("frame", "Circuits")
+        self.window.wait_until(self.circuits_shown)
+        first = self.circuits_shown()
+        self.product.run_verb("new-identity", check=True)
+        with self.download(at.WEB_HOSTS[0]):
+            self.window.wait_until(lambda: self.circuits_shown() - first)
+            # The window and the command line say the same, though nobody has run "circuits". Not all rows need be in view.
+            self.window.wait_until(lambda: first != self.circuits_shown() <= {
+                f"Circuit {circuit['id']}" for circuit in self.product.status()["circuits"]})
+        # It stays open and shows the next session too.
+        self.kill_tor()
+        self.window.wait_for("heading", "Needs Attention")
+        self.window.wait_until(lambda: not self.circuits_shown())
+        self.window.click("push button", "Reconnect")
+        self.wait_state(is_probed)
+        self.window.wait_until(self.circuits_shown)
+        self.window.click("push button", "Disconnect")
+        self.window.wait_for("heading", "Not Protected")
+        self.assert_restored()
+
     def test_rules_that_another_program_removed_are_told(self):
         self.connect()
         self.lab.host.run(["nft", "delete", "table", "inet", "veldmark"], check=True)

@@ -6,6 +6,9 @@
 #include <QQuickItem>
 #include <QTest>
 
+#include <algorithm>
+#include <cmath>
+
 using namespace veldmark;
 
 // The picture of the circuits as somebody uses it: pointing, clicking, following.
@@ -49,6 +52,23 @@ class CircuitsWindowTest : public QObject {
         QTest::mouseClick(stage->window(), Qt::LeftButton, {}, at);
     }
     QString help() const { return graph->property("hoveredHelp").toString(); }
+    bool shows(const QString &text) const
+    {
+        const auto items = stage->window()->findChildren<QQuickItem *>();
+        return std::any_of(items.begin(), items.end(), [&text](const QQuickItem *item) {
+            return item->isVisible() && item->inherits("QQuickText") && item->property("text").toString() == text;
+        });
+    }
+    // The circuit's row in the list; null when it is not near what can be seen.
+    QQuickItem *rowOf(QQuickItem *list, const QString &id) const
+    {
+        const auto found = std::find_if(session.circuits.begin(), session.circuits.end(),
+                                        [&id](const CircuitInfo &circuit) { return circuit.id == id; });
+        QQuickItem *item = nullptr;
+        QMetaObject::invokeMethod(list, "itemAtIndex", Q_RETURN_ARG(QQuickItem *, item),
+                                  Q_ARG(int, static_cast<int>(found - session.circuits.begin())));
+        return item;
+    }
     bool standsOut() const { return graph->property("standingOut").toBool(); }
 
 private Q_SLOTS:
@@ -137,11 +157,93 @@ private Q_SLOTS:
         QVERIFY(stage->open(QStringLiteral("circuits/CircuitsWindow.qml"),
                             {{QStringLiteral("model"), QVariant::fromValue(&stage->circuits)}}));
         stage->picture();
-        bool said = false;
-        for (const QQuickItem *item : stage->window()->findChildren<QQuickItem *>())
-            said |= item->isVisible() && item->property("text").toString() == *session.circuitError
-                && item->inherits("QQuickText");
-        QVERIFY(said);
+        QVERIFY(shows(*session.circuitError));
+    }
+
+    void aRefreshTakesNobodysPlace()
+    {
+        show(30);
+        stage->circuits.follow(session.circuits.front().id);
+        stage->picture();
+        auto *list = stage->window()->findChild<QQuickItem *>(QStringLiteral("list"));
+        QVERIFY(list);
+        list->setProperty("contentY", 600.0);
+        stage->picture();
+        int middle = -1;
+        QMetaObject::invokeMethod(list, "indexAt", Q_RETURN_ARG(int, middle), Q_ARG(double, 10.0),
+                                  Q_ARG(double, 600.0 + list->height() / 2));
+        QVERIFY(middle > 5);
+        const QString reading = session.circuits[static_cast<std::size_t>(middle)].id;
+        QQuickItem *row = rowOf(list, reading);
+        QVERIFY(row);
+        row->forceActiveFocus(Qt::TabFocusReason);
+        QVERIFY(row->hasActiveFocus());
+        const double before = row->mapToItem(list, QPointF()).y();
+
+        CircuitInfo newer = session.circuits.front();
+        newer.id = QStringLiteral("900");
+        session.circuits.insert(session.circuits.begin(), newer);
+        std::erase_if(session.circuits, [](const CircuitInfo &circuit) { return circuit.id == QLatin1String("13"); });
+        stage->session.show(session);
+        stage->picture();
+        QCOMPARE(rowOf(list, reading), row);
+        QVERIFY(row->hasActiveFocus());
+        QVERIFY2(qAbs(row->mapToItem(list, QPointF()).y() - before) <= row->height(), "the list has moved");
+        QCOMPARE(stage->circuits.followed(), session.circuits[1].id);
+    }
+
+    void theCircuitsAreReadWhileTheWindowIsOpen()
+    {
+        QVERIFY(!stage->circuits.seen());
+        show(3);
+        QVERIFY(stage->circuits.seen());
+        QVERIFY(stage->session.asked.contains(QStringLiteral("refreshCircuits")));
+        stage->window()->hide();
+        QVERIFY(!stage->circuits.seen());
+        stage->window()->show();
+        QVERIFY(stage->circuits.seen());
+    }
+
+    void allFiveColumnsHaveTheirGuide()
+    {
+        show(1);
+        session.circuits.front().sites.clear();
+        stage->session.show(session); // nothing stands in the last column
+        const QImage picture = stage->picture();
+        const double scale = stage->window()->effectiveDevicePixelRatio();
+        const auto at = [&](double x) {
+            const QPointF place = graph->mapToScene(QPointF(x, graph->height() - 20)) * scale;
+            return picture.pixelColor(place.toPoint());
+        };
+        const QColor ground = at(graph->width() * 0.6);
+        for (int column = 0; column < GraphLayout::columns; ++column) {
+            const double x = std::round(GraphLayout::columnAt(column, graph->width()));
+            QVERIFY2(at(x) != ground, qPrintable(QString::number(column)));
+        }
+    }
+
+    void thePathsAreStillCountedWhileFasterOnesAreLookedFor()
+    {
+        show(3);
+        QVERIFY(shows(stage->circuits.subtitle()));
+        session.isOptimizing = true;
+        session.optimizeStatus = QStringLiteral("Testing speed (1 of 4)…");
+        stage->session.show(session);
+        stage->picture();
+        QVERIFY(stage->circuits.subtitle().startsWith(QLatin1String("3 active paths")));
+        QVERIFY(shows(stage->circuits.subtitle()));
+        QVERIFY(shows(*session.optimizeStatus));
+    }
+
+    void whatIsNotKnownOfARelayIsCalledUnknown()
+    {
+        show(1);
+        session.circuits.front().hops[1].country.reset();
+        session.circuits.front().hops[1].ip.reset();
+        stage->session.show(session);
+        stage->picture();
+        point(placeOf(session.circuits.front().hops[1].nickname));
+        QVERIFY2(help().contains(QStringLiteral("\nUnknown\n")), qPrintable(help()));
     }
 };
 

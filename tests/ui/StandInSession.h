@@ -58,6 +58,7 @@ public:
         Q_EMIT changed();
     }
     void lookForTor() override { asked << QStringLiteral("lookForTor"); }
+    void lookForTransports() override { asked << QStringLiteral("lookForTransports"); }
     void downloadTransports() override { asked << QStringLiteral("downloadTransports"); }
     void installPasswordless() override { asked << QStringLiteral("installPasswordless"); }
     void removePasswordless() override { asked << QStringLiteral("removePasswordless"); }

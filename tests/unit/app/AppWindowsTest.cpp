@@ -173,6 +173,43 @@ private Q_SLOTS:
         qInfo("%lld bytes in %d rounds", static_cast<long long>(after.heapBytes - before.heapBytes), measured);
     }
 
+    void transportsAreLookedForWhereTheyAreShown()
+    {
+        Shown shown;
+        const auto looked = [&shown] { return shown.session.asked.removeAll(u"lookForTransports"_s); };
+        QVERIFY(shown.windows->open(u"circuits"_s));
+        QCOMPARE(looked(), 0);
+        QVERIFY(shown.windows->open(u"main"_s));
+        QCOMPARE(looked(), 1);
+        shown.windows->togglePanel(QRect(0, 0, 10, 10));
+        QCOMPARE(looked(), 1);
+        shown.windows->togglePanel(QRect(0, 0, 10, 10));
+        QCOMPARE(looked(), 0);
+        QVERIFY(shown.windows->open(u"settings"_s));
+        QCOMPARE(looked(), 0); // another pane is shown
+        shown.windows->find(u"settings"_s)->setProperty("pane", 2);
+        QCOMPARE(looked(), 1);
+    }
+
+    void circuitsAreReadAsLongAsTheirWindowIsOpen()
+    {
+        Shown shown;
+        Snapshot connected;
+        connected.phase = Phase::connected;
+        const auto read = [&shown] { return shown.session.asked.removeAll(u"refreshCircuits"_s); };
+        QVERIFY(shown.windows->open(u"circuits"_s)); // before the session
+        QCOMPARE(read(), 0);
+        shown.session.show(connected);
+        QCOMPARE(read(), 1);
+        shown.windows->find(u"circuits"_s)->close();
+        QVERIFY(until([&] { return !shown.windows->find(u"circuits"_s); }));
+        shown.session.show(Snapshot());
+        shown.session.show(connected);
+        QCOMPARE(read(), 0);
+        QVERIFY(shown.windows->open(u"circuits"_s));
+        QCOMPARE(read(), 1);
+    }
+
     void theChooserStandsInForFilesWhereEntriesAreFiles()
     {
         Shown shown;

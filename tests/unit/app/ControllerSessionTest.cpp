@@ -94,6 +94,51 @@ private Q_SLOTS:
         QVERIFY(stale.errorMessage && stale.markerPresent && stale.activeMode == RoutingMode::strict);
     }
 
+    // No window asks for them, and the panel shows the exit's country all the same.
+    void theCircuitsAreReadWhenTheExitIsKnown()
+    {
+        Workbench bench;
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        bench.tor.reply("GETINFO circuit-status", Workbench::block("circuit-status", {"5 BUILT $" + QByteArray(40, 'A') + "~one PURPOSE=GENERAL"}));
+        bench.tor.reply("GETINFO stream-status", Workbench::block("stream-status", {}));
+        QVERIFY(bench.connect());
+        QVERIFY(until([&] { return session.now().exitIP.has_value(); }));
+        QVERIFY(until([&] { return session.now().circuits.size() == 1; }));
+    }
+
+    void afterANewIdentityTheCircuitsAreReadAgain()
+    {
+        Workbench bench;
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        bench.tor.reply("GETINFO stream-status", Workbench::block("stream-status", {}));
+        QVERIFY(bench.connect());
+        settle();
+        bench.tor.reply("GETINFO circuit-status", Workbench::block("circuit-status", {"6 BUILT $" + QByteArray(40, 'B') + "~two PURPOSE=GENERAL"}));
+        session.newIdentity();
+        QVERIFY(until([&] { return session.now().circuits.size() == 1; }));
+        QCOMPARE(session.now().circuits.front().id, u"6"_s);
+    }
+
+    void circuitsAreReadOnceMoreHoweverOftenTheyAreAskedFor()
+    {
+        Workbench bench;
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        bench.tor.reply("GETINFO circuit-status", Workbench::block("circuit-status", {"5 BUILT $" + QByteArray(40, 'A') + "~one PURPOSE=GENERAL"}));
+        bench.tor.reply("GETINFO stream-status", Workbench::block("stream-status", {}));
+        QVERIFY(bench.connect());
+        QVERIFY(until([&] { return session.now().circuits.size() == 1; }));
+        settle();
+        const auto asked = [&bench] { return bench.tor.commands().count(u"GETINFO circuit-status"_s); };
+        const auto before = asked();
+        for (int i = 0; i < 20; ++i)
+            session.refreshCircuits();
+        QVERIFY(until([&] { return asked() >= before + 2; }));
+        settle();
+        QCOMPARE(asked(), before + 2);
+        session.refreshCircuits(); // and again when somebody asks later
+        QVERIFY(until([&] { return asked() == before + 3; }));
+    }
+
     void aBrokenSettingsFileIsTold()
     {
         Workbench bench;

@@ -193,6 +193,73 @@ private Q_SLOTS:
         QCOMPARE(stage.said, optimizeSpeed ? QStringList({QStringLiteral("Testing 9 bridges…"), QStringLiteral("Using the 3 fastest of 9 bridges")}) : QStringList());
     }
 
+    // A kill switch refuses the probes: every bridge would look dead.
+    void behindAKillSwitchNoneIsTested_data()
+    {
+        QTest::addColumn<QStringList>("last"); // of the session before
+        QTest::addColumn<QStringList>("used");
+        const QStringList all = {obfs4, plain, anotherObfs4};
+        QTest::newRow("nothing is known") << QStringList() << all;
+        QTest::newRow("what was fastest before") << QStringList{anotherObfs4, obfs4} << QStringList{anotherObfs4, obfs4};
+        QTest::newRow("one of them has gone") << QStringList{anotherObfs4, QStringLiteral("obfs4 192.0.2.99:1")} << all;
+    }
+
+    void behindAKillSwitchNoneIsTested()
+    {
+        QFETCH(QStringList, last);
+        Stage stage{found(QStringLiteral("l"))};
+        const QString own = QStringList{obfs4, plain, anotherObfs4}.join(u'\n');
+        const BridgePlan plan = planned({BridgeChoice::custom, own, true, true, last}, stage);
+        QTEST(*plan.lines, "used");
+        QCOMPARE(stage.probes, 0);
+        QVERIFY(stage.said.isEmpty());
+        // Where it can be tested, that counts, whatever was used before.
+        const BridgePlan tested = planned({BridgeChoice::custom, own, true, false, last}, stage);
+        QCOMPARE(stage.probes, 3);
+        QCOMPARE(*tested.lines, QStringList({plain, obfs4, anotherObfs4}));
+    }
+
+    void programsAreAskedOnlyWhereTheAnswerIsNeeded_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QString>("known"); // without asking
+        QTest::addColumn<int>("asked");
+        QTest::newRow("obfs4") << obfs4 << "l" << 0;
+        QTest::newRow("plain") << plain << "" << 0;
+        QTest::newRow("snowflake, whose client is known") << snowflake << "ls" << 0;
+        QTest::newRow("snowflake and nobody to ask") << snowflake << "" << 0;
+        QTest::newRow("snowflake") << snowflake << "l" << 1;
+    }
+
+    void programsAreAskedOnlyWhereTheAnswerIsNeeded()
+    {
+        QFETCH(QString, line);
+        QFETCH(QString, known);
+        Stage stage{found(QStringLiteral("ls"))};
+        BridgeTools tools = stage.tools();
+        tools.locateWithoutAsking = [&known] { return answer(found(known)); };
+        std::optional<BridgePlan> plan;
+        const auto task = run({BridgeChoice::custom, line, false}, tools, &plan);
+        QTRY_VERIFY(plan);
+        QTEST(stage.searches, "asked");
+        QCOMPARE(*plan->transports, stage.searches > 0 ? stage.transports : found(known));
+        QCOMPARE(plan->arguments.has_value(), line != snowflake || !known.isEmpty());
+    }
+
+    void builtInBridgesAreNoMoreThanCanBeUsed()
+    {
+        Stage stage{found(QStringLiteral("l"))};
+        QStringList many;
+        for (int i = 1; i <= 500; ++i)
+            many << QStringLiteral("obfs4 192.0.2.1:%1 AA cert=b").arg(i);
+        stage.transports.builtin = {{QStringLiteral("obfs4"), many}};
+        const BridgePlan plan = planned({BridgeChoice::obfs4, QString(), true}, stage);
+        QCOMPARE(stage.probes, 100); // and as many descriptors at once
+        stage.said.clear();
+        const BridgePlan all = planned({BridgeChoice::obfs4, QString(), false}, stage);
+        QCOMPARE(all.arguments->count(QStringLiteral("--bridge")), 100);
+    }
+
     void oneBridgeIsNotTested()
     {
         Stage stage{found(QStringLiteral("l"))};

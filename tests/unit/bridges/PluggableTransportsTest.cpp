@@ -1,4 +1,5 @@
 #include "bridges/PluggableTransports.h"
+#include "bridges/TransportMemory.h"
 
 #include "ProgramTree.h"
 #include "ZipArchive.h"
@@ -285,6 +286,48 @@ private Q_SLOTS:
         system.tree.program(system.bundle(QStringLiteral("snowflake-client")));
         system.locate();
         QVERIFY(!QFile::exists(ran));
+    }
+
+    void whatAProgramHasAnsweredIsRememberedWhileItIsTheSame()
+    {
+        const System system(false);
+        const QString ran = system.tree.path(QStringLiteral("ran"));
+        const QByteArray counting = "#!/bin/sh\necho x >>" + ran.toUtf8() + "\necho CMETHOD snowflake socks5 127.0.0.1:1\necho CMETHODS DONE\n";
+        const QString lyrebird = system.tree.program(system.bundle(QStringLiteral("lyrebird")), counting);
+        TransportMemory memory;
+        const auto locate = [&](bool mayAsk) {
+            return PluggableTransports::locate(system.profile, std::nullopt, {}, &memory, mayAsk);
+        };
+        const auto asked = [&] { return system.tree.content(ran).count('x'); };
+        QVERIFY(!locate(false).snowflake); // nobody knows yet
+        QVERIFY(!QFile::exists(ran));
+        QCOMPARE(locate(true).snowflake, std::optional(lyrebird));
+        QCOMPARE(asked(), 1);
+        QCOMPARE(locate(true).snowflake, std::optional(lyrebird));
+        QCOMPARE(locate(false).snowflake, std::optional(lyrebird));
+        QCOMPARE(asked(), 1);
+        // A newer one in its place, which serves it no more.
+        QVERIFY(QFile::remove(lyrebird));
+        system.tree.program(lyrebird, "#!/bin/sh\necho x >>" + ran.toUtf8() + "\necho CMETHODS DONE\n");
+        QVERIFY(!locate(false).snowflake);
+        QCOMPARE(asked(), 1);
+        QVERIFY(!locate(true).snowflake);
+        QVERIFY(!locate(true).snowflake);
+        QCOMPARE(asked(), 2);
+        QVERIFY(QFile::remove(lyrebird));
+        QVERIFY(!locate(true).lyrebird);
+    }
+
+    void aProgramThatDidNotAnswerIsAskedAgain()
+    {
+        const System system(false);
+        const QString ran = system.tree.path(QStringLiteral("ran"));
+        system.tree.program(system.bundle(QStringLiteral("lyrebird")), "#!/bin/sh\necho x >>" + ran.toUtf8() + "\nexit 1\n");
+        TransportMemory memory;
+        for (int times = 1; times <= 2; ++times) {
+            QVERIFY(!PluggableTransports::locate(system.profile, std::nullopt, {}, &memory).snowflake);
+            QCOMPARE(system.tree.content(ran).count('x'), times);
+        }
     }
 
     void theDistributionsProgramsAreFound()

@@ -125,6 +125,47 @@ private Q_SLOTS:
         QCOMPARE(::kill(process, 0), -1);
     }
 
+    void aProgramThatHangsHoldsUpNoSearchThatDoesNotAsk()
+    {
+        const System system;
+        const QString running = system.tree.path(QStringLiteral("running"));
+        system.tree.program(system.bundle(QStringLiteral("lyrebird")), silentProgram(running));
+        QThreadPool *const pool = QThreadPool::globalInstance();
+        const int threads = pool->maxThreadCount();
+        pool->setMaxThreadCount(1);
+        {
+            TransportSearch search(system.profile);
+            Outcome first;
+            Outcome second;
+            Outcome quick;
+            const auto one = keep(search.locate(), &first);
+            const auto another = keep(search.locate(), &second);
+            QTRY_VERIFY(QFile::exists(running));
+            const auto task = keep(search.locateWithoutAsking(), &quick);
+            QTRY_VERIFY_WITH_TIMEOUT(quick.thread, 3000);
+            QVERIFY(quick.found.lyrebird && !quick.found.snowflake);
+            QVERIFY(!first.thread && !second.thread); // they do hang
+        }
+        pool->waitForDone();
+        pool->setMaxThreadCount(threads);
+    }
+
+    void aSecondSearchDoesNotAskAgain()
+    {
+        const System system;
+        const QString ran = system.tree.path(QStringLiteral("ran"));
+        system.tree.program(system.bundle(QStringLiteral("lyrebird")),
+                            "#!/bin/sh\necho x >>" + QFile::encodeName(ran) + "\necho CMETHOD snowflake socks5 127.0.0.1:1\necho CMETHODS DONE\n");
+        TransportSearch search(system.profile);
+        Outcome first;
+        Outcome second;
+        const auto one = keep(search.locate(), &first);
+        const auto another = keep(search.locate(), &second); // while the other still asks, perhaps
+        QTRY_VERIFY(first.thread && second.thread);
+        QVERIFY(first.found.snowflake && second.found == first.found);
+        QCOMPARE(system.tree.content(ran).count('x'), 1);
+    }
+
     void itsDestructionEndsAWalkThroughFolders()
     {
         const System system;

@@ -142,6 +142,38 @@ private Q_SLOTS:
         QVERIFY(similar && !similar->isOneHopTunnel);
     }
 
+    // Tor quotes what a program has chosen, and writes it after its own words.
+    void whatAProgramChoosesIsNoWordOfTors()
+    {
+        const QString start = QStringLiteral("4 BUILT $AA~a,$BB~b,$CC~c BUILD_FLAGS=NEED_CAPACITY PURPOSE=GENERAL "
+                                             "TIME_CREATED=2024-05-01T10:20:30.000000 ");
+        const auto plain = CircuitParser::circuit(start);
+        for (const char *chosen : {"SOCKS_USERNAME=\"x PURPOSE=HS y\"", "SOCKS_USERNAME=\"x\" SOCKS_PASSWORD=\"\\\" PURPOSE=HS \"",
+                                   "SOCKS_USERNAME=\" CONFLUX_ID=1 BUILD_FLAGS=ONEHOP_TUNNEL \"", "PURPOSE=HS_VANGUARDS",
+                                   "TIME_CREATED=2030-05-01T10:20:30", "SOCKS_USERNAME=\"x CONFLUX_RTT=1"})
+            QCOMPARE(CircuitParser::circuit(start + QString::fromLatin1(chosen)), plain);
+        // What follows a string is Tor's again.
+        const auto leg = CircuitParser::circuit(start + QStringLiteral("SOCKS_USERNAME=\"a b\" CONFLUX_ID=AB CONFLUX_RTT=1000"));
+        QCOMPARE(leg->confluxID, QStringLiteral("AB"));
+        QCOMPARE(leg->roundTrip, std::optional(1000us));
+    }
+
+    // As Tor 0.4.9 writes them.
+    void namesTheOnionServiceThatTheUserVisits()
+    {
+        const QString service(56, u'b');
+        const QString line = QStringLiteral("9 BUILT $AA~a,$BB~b,$CC~c BUILD_FLAGS=IS_INTERNAL,NEED_CAPACITY "
+                                            "PURPOSE=%1 HS_STATE=%2 REND_QUERY=%3 TIME_CREATED=2026-01-02T03:04:05.678901");
+        const auto named = [&](const char *purpose, const char *state, const QString &query) {
+            return CircuitParser::circuit(line.arg(QString::fromLatin1(purpose), QString::fromLatin1(state), query))->onionService;
+        };
+        QCOMPARE(named("HS_CLIENT_REND", "HSCR_JOINED", service), service + QStringLiteral(".onion"));
+        QCOMPARE(named("HS_CLIENT_REND", "HSCR_ESTABLISHED_WAITING", service), QString()); // nobody has come yet
+        QCOMPARE(named("HS_CLIENT_REND", "HSCR_JOINED", QString()), QString());
+        QCOMPARE(named("HS_CLIENT_INTRO", "HSCI_DONE", service), QString());
+        QCOMPARE(named("HS_SERVICE_REND", "HSSR_JOINED", service), QString()); // a service of this computer's
+    }
+
     void ignoresARoundTripThatIsNoNumber()
     {
         for (const QString &value : {QString(), QStringLiteral("-1"), QStringLiteral("x"),

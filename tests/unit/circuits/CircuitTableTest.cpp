@@ -49,6 +49,23 @@ private Q_SLOTS:
         QCOMPARE(ids(table), (QStringList{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("9")}));
     }
 
+    void toOnionServicesOnlyTheVisitorsWayIsListed()
+    {
+        const char *joined = "BUILD_FLAGS=IS_INTERNAL PURPOSE=HS_CLIENT_REND HS_STATE=HSCR_JOINED REND_QUERY=abc";
+        SiteHistory history;
+        const CircuitTable table = CircuitTable::assemble(
+            {built("1", nullptr, "BUILD_FLAGS=IS_INTERNAL,NEED_CAPACITY PURPOSE=GENERAL"), // made ahead, Tor's own
+             built("2", nullptr, joined),
+             built("3", nullptr, "BUILD_FLAGS=IS_INTERNAL PURPOSE=HS_CLIENT_REND HS_STATE=HSCR_ESTABLISHED_IDLE"),
+             built("4", nullptr, "BUILD_FLAGS=IS_INTERNAL PURPOSE=HS_CLIENT_INTRO HS_STATE=HSCI_DONE REND_QUERY=abc"),
+             built("5", nullptr, "BUILD_FLAGS=IS_INTERNAL PURPOSE=HS_SERVICE_REND HS_STATE=HSSR_JOINED REND_QUERY=own"),
+             built("6", nullptr, "BUILD_FLAGS=IS_INTERNAL PURPOSE=HS_CLIENT_HSDIR"), built("7")},
+            {QStringLiteral("12 SUCCEEDED 2 abc.onion:80")}, history, {});
+        QCOMPARE(ids(table).join(u' '), QStringLiteral("2 7"));
+        QCOMPARE(table.circuits.front().sites, QStringList{QStringLiteral("abc.onion")});
+        QVERIFY(table.circuits.back().onionService.isEmpty());
+    }
+
     void otherPurposesGiveAnEmptyList()
     {
         const CircuitTable table = assemble({built("4", nullptr, "PURPOSE=HS_VANGUARDS"),

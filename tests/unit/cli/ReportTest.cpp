@@ -88,6 +88,8 @@ private Q_SLOTS:
             R"({"circuits":[{"id":"7","purpose":"GENERAL","sites":["example.org"],"hops":[
                 {"nickname":"alpha","country":"de","ip":"192.0.2.1"},{"nickname":"beta","country":null,"ip":null}]}]})"));
         QCOMPARE(report, QStringLiteral("   7  GENERAL   alpha (DE 192.0.2.1) → beta\n                → example.org"));
+        QVERIFY(Report::circuits(object(R"({"circuits":[{"id":"8","purpose":"HS_CLIENT_REND","sites":["a.onion"],"hops":[]}]})"))
+                    .startsWith(QStringLiteral("   8  ONION ")));
         QCOMPARE(Report::circuits({}), QStringLiteral("No circuits yet."));
     }
 

@@ -93,6 +93,8 @@ private Q_SLOTS:
         row("650 STREAM  13  NEW 0 a:53 PURPOSE=DNS_REQUEST", text({"a"}));
         row("650 STREAM 13 NEW 0 []:53 PURPOSE=DNS_REQUEST", text({""}));
         row("650 STREAM 13 NEW 0 a:53 PURPOSE=USER", {});
+        row("650 STREAM 13 NEW 0 a:53 PURPOSE=USER SOCKS_USERNAME=\"x PURPOSE=DNS_REQUEST\"", {});
+        row("650 STREAM 13 NEW 0 a:53 SOCKS_USERNAME=\"x PURPOSE=USER\" PURPOSE=DNS_REQUEST", text({"a"}));
         row("650 STREAM 13 NEW PURPOSE=DNS_REQUEST", {});
         row("650 CIRC 13 NEW 0 a:53 PURPOSE=DNS_REQUEST", {});
         row("650-STREAM 13 NEW 0 a:53 PURPOSE=DNS_REQUEST", {});

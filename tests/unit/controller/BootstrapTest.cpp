@@ -43,6 +43,9 @@ private Q_SLOTS:
         QTest::newRow("the first counts") << u"PROGRESS=1 PROGRESS=2 SUMMARY=\"a\" SUMMARY=\"b\""_s << 1 << u"a"_s;
         QTest::newRow("warning fields") << u"WARN BOOTSTRAP PROGRESS=50 TAG=x SUMMARY=\"a\" WARNING=\"b\" COUNT=3"_s
                                         << 50 << u"a"_s;
+        QTest::newRow("words within a string")
+            << u"NOTICE BOOTSTRAP SUMMARY=\"say \\\"PROGRESS=100 TAG=done\\\" twice\" PROGRESS=10"_s << 10
+            << u"say \"PROGRESS=100 TAG=done\" twice"_s;
         QTest::newRow("other digits") << u"PROGRESS=١٢"_s << 0 << QString();
     }
 

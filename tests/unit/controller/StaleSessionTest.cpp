@@ -8,6 +8,13 @@ using namespace veldmark;
 using System = Workbench::System;
 using Phase = ConnectionPhase;
 
+namespace {
+QCoro::Task<std::optional<ConnectTime>> silence()
+{
+    co_return std::nullopt;
+}
+} // namespace
+
 // What an earlier run has left behind, and connecting by itself at start-up.
 class StaleSessionTest : public QObject {
     Q_OBJECT
@@ -110,6 +117,34 @@ private Q_SLOTS:
         bench.controller().strictMode.set(false);
         QVERIFY(bench.connect());
         QVERIFY(bench.controller().activeMode() == RoutingMode::proxy);
+    }
+
+    void bridgesAreTestedOnlyWhereNoKillSwitchStands_data()
+    {
+        QTest::addColumn<QByteArray>("marker");
+        QTest::addColumn<int>("probes");
+        QTest::newRow("strict") << QByteArray("strict") << 0;
+        QTest::newRow("proxy") << QByteArray("proxy") << 2;
+        QTest::newRow("nothing left over") << QByteArray() << 2;
+    }
+
+    void bridgesAreTestedOnlyWhereNoKillSwitchStands()
+    {
+        QFETCH(QByteArray, marker);
+        Workbench bench;
+        int probes = 0;
+        bench.bridgeProbe = [&probes](QString, quint16, std::chrono::milliseconds) {
+            ++probes;
+            return silence();
+        };
+        if (!marker.isEmpty())
+            bench.writeMarker(marker);
+        bench.controller().detectStaleState();
+        bench.controller().bridgeChoice.set(BridgeChoice::custom);
+        bench.controller().customBridges.set(u"192.0.2.1:443\n192.0.2.2:443"_s);
+        bench.controller().optimizeSpeed.set(true);
+        QVERIFY(bench.connect());
+        QTEST(probes, "probes");
     }
 
     void aRestoreThatFailsIsJudgedByTheMarker_data()

@@ -2,6 +2,7 @@
 #include "ui/ApplicationChoices.h"
 #include "support/TestProgram.h"
 
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -68,6 +69,22 @@ private Q_SLOTS:
         choices.toggle(7);
         choices.toggle(-1);
         QVERIFY(session.now().choices.bypassApps.isEmpty());
+    }
+
+    // Somebody else may have chosen it, in the sheet or over the command line.
+    void whatIsChosenElsewhereIsToldToTheRows()
+    {
+        StandInSession session(profile);
+        ApplicationChoices choices(session);
+        QSignalSpy told(&choices, &QAbstractItemModel::dataChanged);
+        session.addBypassApp(QStringLiteral("/usr/share/applications/games.desktop"));
+        QCOMPARE(told.count(), 0); // there are no rows yet
+        choices.refresh();
+        session.addBypassApp(QStringLiteral("/usr/share/applications/letters.desktop"));
+        QCOMPARE(told.count(), 1);
+        QCOMPARE(told.at(0).at(0).toModelIndex().row(), 0);
+        QCOMPARE(told.at(0).at(1).toModelIndex().row(), 2);
+        QVERIFY(told.at(0).at(2).value<QList<int>>().contains(ApplicationChoices::ChosenRole));
     }
 
     void aPictureIsTakenFromItsFile()

@@ -80,6 +80,13 @@ private Q_SLOTS:
         QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("10\n11"));
         model.copy(1, 1);
         QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("11"));
+        // Rows that have gone since they were chosen: what is left of them.
+        model.copy(-3, 0);
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("10"));
+        model.copy(1, 7);
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("11"));
+        model.copy(2, 7);
+        QCOMPARE(QGuiApplication::clipboard()->text(), QString());
     }
 
     void growsAtTheEndAndIsCutAtTheBeginning()

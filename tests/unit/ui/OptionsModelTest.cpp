@@ -83,14 +83,82 @@ private Q_SLOTS:
         QCOMPARE(options.bridgeNote(), QStringLiteral("No bridges added yet"));
     }
 
+    void ownBridgesNeedTheProgramsOfTheirTransports_data()
+    {
+        QTest::addColumn<QString>("lines");
+        QTest::addColumn<QString>("programs"); // that are there
+        QTest::addColumn<bool>("needed");
+        const QString plain = QStringLiteral("192.0.2.1:443\n");
+        const auto line = [](const char *transport) { return QString::fromLatin1(transport) + QStringLiteral(" 192.0.2.2:443\n"); };
+        QTest::newRow("plain") << plain << QString() << false;
+        QTest::newRow("obfs4") << line("obfs4") << QString() << true;
+        QTest::newRow("obfs4, served") << line("obfs4") << QStringLiteral("lyrebird") << false;
+        QTest::newRow("obfs4, by no other") << line("obfs4") << QStringLiteral("snowflake webtunnel") << true;
+        QTest::newRow("a plain one before it") << plain + line("obfs4") << QString() << true;
+        QTest::newRow("snowflake") << line("snowflake") << QStringLiteral("lyrebird webtunnel") << true;
+        QTest::newRow("snowflake, served") << line("snowflake") << QStringLiteral("snowflake") << false;
+        QTest::newRow("webtunnel") << line("webtunnel") << QStringLiteral("snowflake") << true;
+        QTest::newRow("webtunnel, served") << line("webtunnel") << QStringLiteral("webtunnel") << false;
+        QTest::newRow("webtunnel, by lyrebird") << line("webtunnel") << QStringLiteral("lyrebird") << false;
+        QTest::newRow("one of two") << line("snowflake") + line("obfs4") << QStringLiteral("snowflake") << true;
+    }
+    void ownBridgesNeedTheProgramsOfTheirTransports()
+    {
+        QFETCH(QString, lines);
+        QFETCH(QString, programs);
+        StandInSession session(profile);
+        const OptionsModel options(session);
+        Snapshot s;
+        s.choices.bridgeChoice = BridgeChoice::custom;
+        s.choices.customBridges = lines;
+        const auto program = [&programs](const char *name) {
+            return programs.contains(QLatin1String(name)) ? std::optional(QStringLiteral("/usr/bin/") + QLatin1String(name)) : std::nullopt;
+        };
+        s.transports.lyrebird = program("lyrebird");
+        s.transports.snowflake = program("snowflake");
+        s.transports.webtunnel = program("webtunnel");
+        session.show(s);
+        QTEST(options.needsDownload(), "needed");
+        QCOMPARE(options.bridgeNoteIsWarning(), options.needsDownload());
+    }
+
     void countsLinesThatAreNoBridges()
     {
         StandInSession session(profile);
         const OptionsModel options(session);
         QCOMPARE(options.bridgeWarning(QStringLiteral("192.0.2.1:443\n# note\n")), QString());
-        QCOMPARE(options.bridgeWarning(QStringLiteral("nonsense")), QStringLiteral("1 line not recognized"));
+        QCOMPARE(options.bridgeWarning(QStringLiteral("nonsense")), QStringLiteral("1 line not recognized (line 1)"));
         QCOMPARE(options.bridgeWarning(QStringLiteral("nonsense\nmore\n192.0.2.1:443")),
-                 QStringLiteral("2 lines not recognized"));
+                 QStringLiteral("2 lines not recognized (lines 1, 2)"));
+        QCOMPARE(options.bridgeWarning(QStringLiteral("192.0.2.1:443\na\nb\nc\nd\ne\nf\n")),
+                 QStringLiteral("6 lines not recognized (lines 2, 3, 4, 5, 6, …)"));
+    }
+
+    void namesTheCharactersThatABridgeLineCannotHave()
+    {
+        StandInSession session(profile);
+        const OptionsModel options(session);
+        const QString reason = QStringLiteral("\nA bridge line can't contain #, \" or \\.");
+        for (const char *line : {"192.0.2.1:443 #a", "192.0.2.1:443 \"a\"", "192.0.2.1:443 a\\"})
+            QCOMPARE(options.bridgeWarning(QStringLiteral("192.0.2.1:1\n") + QString::fromLatin1(line)),
+                     QStringLiteral("1 line not recognized (line 2)") + reason);
+        QVERIFY(!options.bridgeWarning(QStringLiteral("nonsense")).contains(reason));
+    }
+
+    void countsTheBridgesAndThoseThatAreTooMany()
+    {
+        StandInSession session(profile);
+        const OptionsModel options(session);
+        QCOMPARE(options.bridgeCount(QStringLiteral("# none\nnonsense")), QString());
+        QCOMPARE(options.bridgeCount(QStringLiteral("192.0.2.1:443\nnonsense")), QStringLiteral("1 bridge recognized"));
+        QString text;
+        for (int i = 1; i <= 100; ++i)
+            text += QStringLiteral("192.0.2.1:%1\n").arg(i);
+        QCOMPARE(options.bridgeCount(text), QStringLiteral("100 bridges recognized"));
+        QCOMPARE(options.bridgeWarning(text), QString());
+        text += QStringLiteral("192.0.2.2:1\n");
+        QCOMPARE(options.bridgeCount(text), QStringLiteral("100 bridges recognized"));
+        QCOMPARE(options.bridgeWarning(text), QStringLiteral("At most 100 bridges can be used (line 101)"));
     }
 
     void showsTheApplicationsThatTheSessionHas()

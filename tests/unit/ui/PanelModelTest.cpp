@@ -230,6 +230,38 @@ private Q_SLOTS:
         QVERIFY(panel.traffic()->samples().empty());
     }
 
+    void theExitsCountryStaysWhenItsCircuitHasGone()
+    {
+        StandInSession session(profile);
+        PanelModel panel(session);
+        Snapshot s = connected(RoutingMode::strict);
+        s.exitIP = QStringLiteral("192.0.2.44");
+        CircuitInfo circuit;
+        circuit.id = QStringLiteral("7");
+        circuit.hops = {{QStringLiteral("AA"), QStringLiteral("a"), QStringLiteral("192.0.2.43"), QStringLiteral("fr")},
+                        {QStringLiteral("BB"), QStringLiteral("b"), QStringLiteral("192.0.2.44"), QStringLiteral("de")}};
+        CircuitInfo onion = circuit;
+        onion.onionService = QStringLiteral("abc.onion");
+        s.circuits = {onion}; // its last relay lets nothing out
+        session.show(s);
+        QCOMPARE(panel.exitCountry(), QString());
+        s.circuits = {circuit};
+        session.show(s);
+        QCOMPARE(panel.exitCountry(), QStringLiteral("de"));
+        s.circuits.clear();
+        session.show(s);
+        QCOMPARE(panel.exitCountry(), QStringLiteral("de"));
+        s.exitIP = QStringLiteral("192.0.2.45"); // another exit
+        session.show(s);
+        QCOMPARE(panel.exitCountry(), QString());
+        s.circuits = {circuit};
+        s.exitIP = QStringLiteral("192.0.2.44");
+        session.show(s);
+        s.phase = Phase::stale;
+        session.show(s);
+        QCOMPARE(panel.exitCountry(), QString());
+    }
+
     void pressesTheButtonByPhase()
     {
         StandInSession session(profile);

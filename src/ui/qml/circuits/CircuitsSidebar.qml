@@ -32,14 +32,15 @@ Rectangle {
             boundsBehavior: Flickable.StopAtBounds
             T.ScrollBar.vertical: ScrollBar {}
             model: sidebar.model
-            // The followed one stays in view, also when it was chosen in the graph or its path needs room.
-            readonly property int followedRow: sidebar.model.followedRow
-            onFollowedRowChanged: settled.restart()
+            // The followed one comes into view, also when it was chosen in the graph or its path needs room;
+            // not when it only gets another row, since the list is then where somebody has scrolled it.
+            readonly property string followed: sidebar.model.followed
+            onFollowedChanged: settled.restart()
             onHeightChanged: settled.restart()
             Timer {
                 id: settled // the list has its new height
                 interval: 0
-                onTriggered: if (list.followedRow >= 0) list.positionViewAtIndex(list.followedRow, ListView.Contain)
+                onTriggered: if (list.followed !== "") list.positionViewAtIndex(sidebar.model.followedRow, ListView.Contain)
             }
             delegate: T.ItemDelegate {
                 id: row
@@ -128,6 +129,7 @@ Rectangle {
                         role: modelData.role
                         title: modelData.title
                         detail: modelData.detail
+                        tint: modelData.tint
                         last: modelData.last
                     }
                 }

@@ -14,6 +14,11 @@ Window {
     minimumHeight: 420
     color: Theme.ground
 
+    // The circuits are read again as long as somebody can see them.
+    readonly property bool seen: visible && visibility !== Window.Minimized
+    onSeenChanged: model.seen = seen
+    Component.onDestruction: model.seen = false
+
     ColumnLayout {
         anchors.fill: parent
         spacing: 0
@@ -32,10 +37,18 @@ Window {
                 }
                 Words {
                     Layout.fillWidth: true
-                    text: window.model.optimizeText !== "" ? window.model.optimizeText : window.model.subtitle
+                    text: window.model.subtitle
                     font.pixelSize: Theme.smallSize
                     color: Theme.quiet
                 }
+            }
+            Words {
+                Layout.maximumWidth: 190
+                visible: text !== ""
+                text: window.model.optimizeText
+                horizontalAlignment: Text.AlignRight
+                font.pixelSize: Theme.smallSize
+                color: Theme.quiet
             }
             IconButton {
                 visible: window.model.error !== ""

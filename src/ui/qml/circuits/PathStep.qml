@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Veldmark
 
-// One stop on the followed circuit's path, joined with the next by a line.
+// One stop on the followed circuit's path, joined with the next by a line in the circuit's colour.
 RowLayout {
     id: step
     required property string symbol  // of the computer and the sites
@@ -10,6 +10,7 @@ RowLayout {
     required property string role
     required property string title
     required property string detail
+    required property color tint
     required property bool last
 
     spacing: 12
@@ -21,11 +22,14 @@ RowLayout {
         implicitWidth: 28
         Rectangle {
             visible: !step.last
-            x: 13
+            x: 14 - width / 2
             y: 26
-            width: 2
+            width: 4
             height: parent.height - 26
-            color: Theme.line
+            radius: 2
+            color: step.tint
+            border.width: Theme.dark ? 0 : 1
+            border.color: "#6a6a78"
         }
         Symbol {
             visible: step.symbol !== ""

@@ -50,6 +50,13 @@ Sheet {
             }
         }
     }
+    Words {
+        Layout.fillWidth: true
+        visible: text !== ""
+        text: sheet.model.bridgeCount(editor.text)
+        font.pixelSize: Theme.smallSize
+        color: Theme.quiet
+    }
     RowLayout {
         visible: warning.text !== ""
         Symbol { name: "exclamationmark.triangle.fill"; color: Theme.warning }

@@ -7,6 +7,7 @@ Pane {
     required property SettingsModel model
     title: qsTr("Bridges")
     subtitle: qsTr("Programs that disguise your Tor connection")
+    Component.onCompleted: pane.model.lookForTransports()
 
     Card {
         Layout.fillWidth: true
