@@ -4,6 +4,8 @@
 #include "system/SettingsStore.h"
 #include "ui/Session.h"
 
+#include <qcorotask.h>
+
 namespace veldmark {
 
 class TorController;
@@ -31,7 +33,7 @@ public:
     void findFasterCircuits() override;
     void refreshCircuits() override;
     void dismissError() override;
-    void lookForTor() override;
+    void lookAgain() override;
     void downloadTransports() override;
     void installPasswordless() override;
     void removePasswordless() override;
@@ -44,6 +46,9 @@ public:
 private:
     void schedule();
     void read();
+    void followTerminalMode();
+    QCoro::Task<void> askTerminalHint();
+    QCoro::Task<void> launch(QString application);
 
     TorController &m_controller;
     SettingsStore &m_settings;
@@ -51,6 +56,9 @@ private:
     bool m_scheduled = false;
     QString m_terminalHint;          // asked when terminal mode is switched on
     bool m_terminalModeWasOn = false;
+    bool m_terminalIsKnown = false; // the two below are true; they cost reading the user's files
+    bool m_terminalInstalled = false;
+    bool m_terminalForSsh = false;
     std::optional<QString> m_notice; // of this program's own, shown until it is dismissed
 };
 

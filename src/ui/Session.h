@@ -43,7 +43,8 @@ public:
     virtual void findFasterCircuits() = 0;
     virtual void refreshCircuits() = 0;
     virtual void dismissError() = 0;
-    virtual void lookForTor() = 0;
+    // Reads again what other programs can change: tor, the session marker, the terminal's files, the login item.
+    virtual void lookAgain() = 0;
     virtual void downloadTransports() = 0;
     virtual void installPasswordless() = 0;
     virtual void removePasswordless() = 0;
@@ -58,6 +59,8 @@ Q_SIGNALS:
     void changed();
     // Another program has removed the firewall's rules. A snapshot that says more comes after it.
     void rulesRemoved(bool putBack);
+    // launchBypassed() came to nothing; a sentence in the user's language.
+    void launchFailed(const QString &reason);
 
 protected:
     Snapshot m_now;

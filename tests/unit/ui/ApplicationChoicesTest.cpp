@@ -1,6 +1,7 @@
 #include "StandInSession.h"
 #include "ui/ApplicationChoices.h"
 
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -67,6 +68,19 @@ private Q_SLOTS:
         choices.toggle(7);
         choices.toggle(-1);
         QVERIFY(session.now().choices.bypassApps.isEmpty());
+    }
+
+    void tellsItsRowsWhenSomebodyElseChooses()
+    {
+        StandInSession session(profile);
+        ApplicationChoices choices(session);
+        choices.refresh();
+        QSignalSpy changed(&choices, &QAbstractItemModel::dataChanged);
+        session.addBypassApp(QStringLiteral("/usr/share/applications/games.desktop"));
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(changed.at(0).at(0).toModelIndex().row(), 0);
+        QCOMPARE(changed.at(0).at(1).toModelIndex().row(), 2);
+        QVERIFY(changed.at(0).at(2).value<QList<int>>().contains(ApplicationChoices::ChosenRole));
     }
 
     void aPictureIsTakenFromItsFile()

@@ -39,6 +39,6 @@ Pane {
             }
         }
         Note { text: pane.model.downloadText }
-        Note { text: qsTr("Fetched over HTTPS and checked against the Tor Project's signature.") }
+        Note { text: pane.model.bundleTrust }
     }
 }
