@@ -23,9 +23,9 @@ int main(int argc, char **argv)
     const int repetitions = argc > 1 ? std::max(1, QByteArray(argv[1]).toInt()) : 25;
     constexpr int lines = 3000;
     Stage stage;
-    const std::vector<LogLine> all = Scenes::log(2 * lines + repetitions);
+    const QList<TorLogLine> all = Scenes::log(2 * lines + repetitions);
     const auto some = [&all](int first) {
-        return std::vector<LogLine>(all.begin() + first, all.begin() + first + lines);
+        return all.mid(first, lines);
     };
     stage.log.show(LogFeed::State::lines, some(0));
     QQuickWindow *window = stage.open(QStringLiteral("log/LogWindow.qml"),

@@ -8,10 +8,6 @@
         <translation>Veldmark</translation>
     </message>
     <message>
-        <source>Sends the whole computer&apos;s traffic through Tor, and shows honestly whether it does.</source>
-        <translation>Schickt den gesamten Verkehr des Computers durch Tor und zeigt ehrlich, ob das gelingt.</translation>
-    </message>
-    <message>
         <source>The Tor Project</source>
         <translation>Das Tor-Projekt</translation>
     </message>
@@ -24,12 +20,16 @@
         <translation>Danksagung</translation>
     </message>
     <message>
-        <source>Veldmark is free software and independent of the Tor Project. It contains no Tor: it runs the tor that is installed here, and where bridges are used lyrebird, snowflake-client or webtunnel-client. Its interface is made with Qt.</source>
-        <translation>Veldmark ist freie Software und vom Tor-Projekt unabhängig. Es enthält kein Tor: Es startet das hier installierte tor und, wo Brücken benutzt werden, lyrebird, snowflake-client oder webtunnel-client. Die Oberfläche ist mit Qt gemacht.</translation>
-    </message>
-    <message>
         <source>Homepage, downloads and updates</source>
         <translation>Homepage, Downloads und Aktualisierungen</translation>
+    </message>
+    <message>
+        <source>Sends this computer&apos;s traffic through Tor, all of it in strict mode and that of apps that use the system proxy in proxy mode, and shows whether it really does.</source>
+        <translation>Schickt den Verkehr dieses Computers durch Tor, im strikten Modus den gesamten und im Proxy-Modus den von Apps, die den System-Proxy benutzen, und zeigt, ob das wirklich geschieht.</translation>
+    </message>
+    <message>
+        <source>Veldmark is made with Qt, QCoro and tl::expected.</source>
+        <translation>Veldmark ist mit Qt, QCoro und tl::expected gemacht.</translation>
     </message>
 </context>
 <context>
@@ -37,10 +37,6 @@
     <message>
         <source>App exceptions</source>
         <translation>Ausnahmen für Apps</translation>
-    </message>
-    <message>
-        <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the Dock) so Veldmark can tag them. A running copy is quit and reopened.</source>
-        <translation>Im strikten Modus dürfen sich diese Apps direkt statt durch Tor verbinden, mit Ihrer echten IP-Adresse. Alles andere bleibt gesperrt. Öffnen Sie sie mit &lt;b&gt;Ohne Tor öffnen&lt;/b&gt; (nicht aus dem Dock), damit Veldmark sie kennzeichnen kann. Eine laufende Kopie wird beendet und neu geöffnet.</translation>
     </message>
     <message>
         <source>No apps yet. Add Zoom, Discord, a game…</source>
@@ -107,10 +103,6 @@
     <message>
         <source>Downloads the official Tor Expert Bundle from the Tor Project, for bridge programs and built-in bridges</source>
         <translation>Lädt das offizielle Tor Expert Bundle vom Tor-Projekt, mit Brückenprogrammen und eingebauten Brücken</translation>
-    </message>
-    <message>
-        <source>Fetched over HTTPS and checked against the Tor Project&apos;s signature.</source>
-        <translation>Über HTTPS geladen und gegen die Signatur des Tor-Projekts geprüft.</translation>
     </message>
 </context>
 <context>
@@ -384,6 +376,25 @@
     </message>
 </context>
 <context>
+    <name>LogRow</name>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Notice</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+</context>
+<context>
     <name>LogWindow</name>
     <message>
         <source>Tor Log</source>
@@ -520,6 +531,10 @@
     <message>
         <source>App exceptions</source>
         <translation>Ausnahmen für Apps</translation>
+    </message>
+    <message>
+        <source>For networks that block or watch Tor</source>
+        <translation>Für Netze, die Tor sperren oder beobachten</translation>
     </message>
 </context>
 <context>
@@ -991,6 +1006,30 @@
         <source>%1 Your network is still pointed at Tor. Click Restore Network to undo.</source>
         <translation>%1 Ihr Netzwerk ist noch auf Tor eingestellt. Klicken Sie auf „Netzwerk wiederherstellen“, um das rückgängig zu machen.</translation>
     </message>
+    <message>
+        <source>ssh doesn&apos;t go through Tor yet: it needs a netcat that speaks SOCKS. Install the OpenBSD netcat or Ncat with your package manager.</source>
+        <translation>ssh geht noch nicht durch Tor: Es braucht ein netcat, das SOCKS spricht. Installieren Sie das netcat von OpenBSD oder Ncat mit Ihrer Paketverwaltung.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t set up terminal mode: %1</source>
+        <translation>Der Terminalmodus konnte nicht eingerichtet werden: %1</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t remove terminal integration: %1</source>
+        <translation>Die Terminal-Einbindung konnte nicht entfernt werden: %1</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t set up passwordless mode: %1</source>
+        <translation>Der Modus ohne Passwort konnte nicht eingerichtet werden: %1</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t remove passwordless mode: %1</source>
+        <translation>Der Modus ohne Passwort konnte nicht entfernt werden: %1</translation>
+    </message>
+    <message>
+        <source>ssh doesn&apos;t go through Tor yet: it needs a netcat that speaks SOCKS. Install one with: %1</source>
+        <translation>ssh geht noch nicht durch Tor: Es braucht ein netcat, das SOCKS spricht. Installieren Sie eines mit: %1</translation>
+    </message>
 </context>
 <context>
     <name>SettingsWindow</name>
@@ -1038,20 +1077,8 @@
         <translation>Terminalmodus</translation>
     </message>
     <message>
-        <source>curl, git, brew, pip, ssh and more use Tor</source>
-        <translation>curl, git, brew, pip, ssh und andere benutzen Tor</translation>
-    </message>
-    <message>
         <source>Shell integration</source>
         <translation>Shell-Einbindung</translation>
-    </message>
-    <message>
-        <source>Installed in your shell and SSH config</source>
-        <translation>In Ihrer Shell und SSH-Konfiguration eingerichtet</translation>
-    </message>
-    <message>
-        <source>Not installed</source>
-        <translation>Nicht eingerichtet</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -1361,6 +1388,14 @@
         <source>Show the log files in the file manager</source>
         <translation>Zeigt die Protokolldateien in der Dateiverwaltung</translation>
     </message>
+    <message>
+        <source>There are no log files yet: Tor makes %1 when it is first started.</source>
+        <translation>Es gibt noch keine Protokolldateien: Tor legt %1 beim ersten Start an.</translation>
+    </message>
+    <message>
+        <source>No file manager could be opened. The log files are in %1.</source>
+        <translation>Es konnte kein Dateimanager geöffnet werden. Die Protokolldateien liegen in %1.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::OptionsModel</name>
@@ -1395,10 +1430,6 @@
     <message>
         <source>Needs bridge programs: click Download</source>
         <translation>Braucht Brückenprogramme: Klicken Sie auf Herunterladen</translation>
-    </message>
-    <message>
-        <source>For networks that block or watch Tor</source>
-        <translation>Für Netze, die Tor sperren oder beobachten</translation>
     </message>
     <message>
         <source>Built-in bridges from %1</source>
@@ -1439,6 +1470,14 @@
     <message>
         <source>None</source>
         <translation>Keine</translation>
+    </message>
+    <message>
+        <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the Dock) so Veldmark can tag them. A running copy is quit and reopened.</source>
+        <translation>Im strikten Modus dürfen sich diese Apps direkt statt durch Tor verbinden, mit Ihrer echten IP-Adresse. Alles andere bleibt gesperrt. Öffnen Sie sie mit &lt;b&gt;Ohne Tor öffnen&lt;/b&gt; (nicht aus dem Dock), damit Veldmark sie kennzeichnen kann. Eine laufende Kopie wird beendet und neu geöffnet.</translation>
+    </message>
+    <message>
+        <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the desktop&apos;s menu) so Veldmark can tag them. A running copy is quit and reopened.</source>
+        <translation>Im strikten Modus dürfen sich diese Apps direkt statt durch Tor verbinden, mit Ihrer echten IP-Adresse. Alles andere bleibt gesperrt. Öffnen Sie sie mit &lt;b&gt;Ohne Tor öffnen&lt;/b&gt; (nicht aus dem Menü der Arbeitsumgebung), damit Veldmark sie kennzeichnen kann. Eine laufende Kopie wird beendet und neu geöffnet.</translation>
     </message>
 </context>
 <context>
@@ -1605,6 +1644,46 @@
     <message>
         <source>Version %1</source>
         <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Fetched over HTTPS. Its signature isn&apos;t checked, since GnuPG isn&apos;t installed.</source>
+        <translation>Über HTTPS geladen. Die Signatur wird nicht geprüft, weil GnuPG nicht installiert ist.</translation>
+    </message>
+    <message>
+        <source>Fetched over HTTPS and checked against the Tor Project&apos;s signature.</source>
+        <translation>Über HTTPS geladen und gegen die Signatur des Tor-Projekts geprüft.</translation>
+    </message>
+    <message>
+        <source>Not installed</source>
+        <translation>Nicht eingerichtet</translation>
+    </message>
+    <message>
+        <source>Installed in your shell and SSH config</source>
+        <translation>In Ihrer Shell und SSH-Konfiguration eingerichtet</translation>
+    </message>
+    <message>
+        <source>Installed in your shell; SSH doesn&apos;t use it</source>
+        <translation>In Ihrer Shell eingerichtet; SSH benutzt es nicht</translation>
+    </message>
+    <message>
+        <source>curl, git, brew, pip, ssh and more use Tor</source>
+        <translation>curl, git, brew, pip, ssh und andere benutzen Tor</translation>
+    </message>
+    <message>
+        <source>curl, git, pip, ssh and more use Tor</source>
+        <translation>curl, git, pip, ssh und andere benutzen Tor</translation>
+    </message>
+    <message>
+        <source>Veldmark is free software and independent of the Tor Project. It contains no Tor: it runs the tor that is installed here, and where bridges are used lyrebird, snowflake-client or webtunnel-client.</source>
+        <translation>Veldmark ist freie Software und vom Tor-Projekt unabhängig. Es enthält kein Tor: Es startet das hier installierte tor und, wo Brücken benutzt werden, lyrebird, snowflake-client oder webtunnel-client.</translation>
+    </message>
+    <message>
+        <source>It sets up the network with macOS&apos;s own programs, asks for the administrator with sudo, and checks downloads with GnuPG where that is installed.</source>
+        <translation>Es richtet das Netz mit den Programmen von macOS ein, fragt mit sudo nach dem Administrator und prüft Downloads mit GnuPG, wo das installiert ist.</translation>
+    </message>
+    <message>
+        <source>It sets up the network with nftables, resolvectl and gsettings, asks for the administrator with polkit or sudo, takes ssh through Tor with a netcat, and checks downloads with GnuPG where that is installed.</source>
+        <translation>Es richtet das Netz mit nftables, resolvectl und gsettings ein, fragt mit polkit oder sudo nach dem Administrator, führt ssh mit einem netcat durch Tor und prüft Downloads mit GnuPG, wo das installiert ist.</translation>
     </message>
 </context>
 <context>

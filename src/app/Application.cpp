@@ -9,6 +9,8 @@
 #include <QPointer>
 #include <QTextStream>
 
+#include <utility>
+
 namespace veldmark {
 
 Application::Application(const PlatformProfile &profile)
@@ -20,6 +22,7 @@ Application::Application(const PlatformProfile &profile)
     , m_alerts(m_session)
     , m_departure(m_production.controller(), m_clock)
     , m_shutdown(QDBusConnection::systemBus())
+    , m_trayHost(QDBusConnection::sessionBus(), m_clock)
 {
     QObject::connect(&m_windows, &Windows::quitWanted, &m_guard, &QuitGuard::quit);
     QObject::connect(&m_windows, &Windows::mainClosed, this, &Application::onMainClosed);
@@ -87,19 +90,9 @@ Result<void, QString> Application::start(bool hidden, bool connectNow)
                      [this] { m_windows.open(QStringLiteral("main")); });
 
     m_production.controller().detectStaleState();
-    if (Tray::isAvailable()) {
-        m_tray = std::make_unique<Tray>(m_session);
-        QObject::connect(m_tray.get(), &Tray::quitWanted, &m_guard, &QuitGuard::quit);
-        QObject::connect(m_tray.get(), &Tray::openWanted, this,
-                         [this] { m_windows.open(QStringLiteral("main")); });
-        QObject::connect(m_tray.get(), &Tray::panelWanted, this, [this] {
-            // A Wayland window cannot say where it wants to be.
-            if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
-                m_windows.open(QStringLiteral("main"));
-            else
-                m_windows.togglePanel(m_tray->anchor());
-        });
-    }
+    QObject::connect(&m_trayHost, &TrayHost::changed, this, &Application::onTrayHostChanged);
+    QObject::connect(&m_trayHost, &TrayHost::missing, this, &Application::onTrayHostMissing);
+    onTrayHostChanged();
     if (!hidden)
         m_windows.open(QStringLiteral("main"));
     begin(connectNow);
@@ -118,9 +111,42 @@ QCoro::Task<void> Application::begin(bool connectNow)
         co_await m_production.controller().autoConnectIfEnabled();
 }
 
+void Application::onTrayHostChanged()
+{
+    m_isToldHidden = false;
+    if (m_tray || !m_trayHost.isPresent())
+        return;
+    m_tray = std::make_unique<Tray>(m_session);
+    QObject::connect(m_tray.get(), &Tray::quitWanted, &m_guard, &QuitGuard::quit);
+    QObject::connect(m_tray.get(), &Tray::openWanted, this, [this] { m_windows.open(QStringLiteral("main")); });
+    QObject::connect(m_tray.get(), &Tray::panelWanted, this, [this] {
+        // A Wayland window cannot say where it wants to be.
+        if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+            m_windows.open(QStringLiteral("main"));
+        else
+            m_windows.togglePanel(m_tray->anchor());
+    });
+}
+
+void Application::onTrayHostMissing()
+{
+    if (m_windows.isAnyShown())
+        return;
+    if (m_windows.find(QStringLiteral("main")))
+        tellHidden(); // its user has closed it
+    else
+        m_windows.open(QStringLiteral("main")); // nothing would be there to see or to use
+}
+
 void Application::onMainClosed()
 {
-    if (!m_tray)
+    if (!m_trayHost.isPresent())
+        tellHidden();
+}
+
+void Application::tellHidden()
+{
+    if (!std::exchange(m_isToldHidden, true))
         m_alerts.tell(tr("Veldmark is still running"), tr("Open Veldmark again to see its window."));
 }
 

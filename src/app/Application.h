@@ -6,6 +6,7 @@
 #include "app/QuitGuard.h"
 #include "app/ShutdownNotice.h"
 #include "app/Tray.h"
+#include "app/TrayHost.h"
 #include "app/Windows.h"
 #include "base/Clock.h"
 #include "controller/Production.h"
@@ -26,12 +27,18 @@ public:
     // settings say so. The error is one line.
     Result<void, QString> start(bool hidden, bool connectNow);
 
+    const Windows &windows() const { return m_windows; }
+    const Tray *tray() const { return m_tray.get(); } // null until the desktop has had a place for it
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QCoro::Task<void> begin(bool connectNow);
     void onMainClosed();
+    void onTrayHostChanged();
+    void onTrayHostMissing();
+    void tellHidden();
     void joinDeparture();
     void leave(bool restored);
 
@@ -45,8 +52,10 @@ private:
     Departure m_departure;
     SignalWatcher m_signals;
     ShutdownNotice m_shutdown;
-    std::unique_ptr<Tray> m_tray; // where there is a tray
+    TrayHost m_trayHost;
+    std::unique_ptr<Tray> m_tray; // Qt brings the icon back by itself when the host does
     std::unique_ptr<InstanceServer> m_server;
+    bool m_isToldHidden = false; // that it runs without anything to see, since the tray's host last came or went
     QObject m_lifetime; // goes first, so that what the others' ends resume finds it gone
 };
 

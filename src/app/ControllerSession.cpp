@@ -3,8 +3,8 @@
 #include "app/LoginItem.h"
 #include "controller/SettingRules.h"
 #include "controller/TorController.h"
+#include "ui/SessionTexts.h"
 
-#include <QFile>
 #include <QPointer>
 
 #include <utility>
@@ -73,6 +73,8 @@ ControllerSession::ControllerSession(TorController &controller, SettingsStore &s
         if (m_controller.exitIP())
             refreshCircuits();
     });
+    for (const auto changed : {&C::terminalModeChanged, &C::terminalErrorChanged, &C::phaseChanged})
+        QObject::connect(&controller, changed, this, [this] { m_terminalIsKnown = false; });
     read();
 }
 
@@ -124,17 +126,41 @@ void ControllerSession::read()
     next.canDownloadTransports = c.canDownloadTransports();
     next.passwordlessInstalled = c.passwordlessInstalled();
     next.startupError = c.startupError();
-    if (c.terminalMode() != std::exchange(m_terminalModeWasOn, c.terminalMode()))
-        m_terminalHint = c.terminalMode() ? c.terminalHint() : QString();
+    followTerminalMode();
     next.terminalError = c.terminalError();
     if (!next.terminalError && !m_terminalHint.isEmpty())
         next.terminalError = m_terminalHint;
-    next.terminalInstalled = QFile::exists(c.profile().terminalDirectory);
+    next.terminalInstalled = m_terminalInstalled;
+    next.terminalForSsh = m_terminalForSsh;
     next.torPath = c.torPath();
     next.markerPresent = c.isSessionMarkerPresent();
     next.openAtLogin = LoginItem(c.profile()).isSet();
     m_now = std::move(next);
     Q_EMIT changed();
+}
+
+void ControllerSession::followTerminalMode()
+{
+    const bool isOn = m_controller.terminalMode();
+    if (isOn != std::exchange(m_terminalModeWasOn, isOn)) {
+        m_terminalHint.clear();
+        if (isOn)
+            askTerminalHint();
+    }
+    if (!std::exchange(m_terminalIsKnown, true)) {
+        m_terminalInstalled = m_controller.isTerminalInstalled();
+        m_terminalForSsh = m_terminalInstalled && m_controller.isTerminalUsedBySsh();
+    }
+}
+
+QCoro::Task<void> ControllerSession::askTerminalHint()
+{
+    const QPointer<ControllerSession> self(this);
+    const QString hint = co_await m_controller.terminalHint();
+    if (!self || !m_controller.terminalMode())
+        co_return;
+    m_terminalHint = hint;
+    lookAgain(); // what concerns ssh is installed by now
 }
 
 std::vector<ExitChoice> ControllerSession::exitChoices() const
@@ -250,8 +276,9 @@ void ControllerSession::dismissError()
     schedule();
 }
 
-void ControllerSession::lookForTor()
+void ControllerSession::lookAgain()
 {
+    m_terminalIsKnown = false;
     schedule(); // the next snapshot looks
 }
 
@@ -278,7 +305,7 @@ void ControllerSession::removePasswordless()
 void ControllerSession::removeTerminalIntegration()
 {
     m_controller.removeTerminalIntegration();
-    schedule();
+    lookAgain();
 }
 
 void ControllerSession::setOpenAtLogin(bool on)
@@ -300,7 +327,15 @@ void ControllerSession::removeBypassApp(const QString &application)
 
 void ControllerSession::launchBypassed(const QString &path)
 {
-    m_controller.launchBypassed(path);
+    launch(path);
+}
+
+QCoro::Task<void> ControllerSession::launch(QString application)
+{
+    const QPointer<ControllerSession> self(this);
+    const auto launched = co_await m_controller.launchBypassed(application);
+    if (self && !launched && !launched.error().isEmpty())
+        Q_EMIT launchFailed(SessionTexts::translated(launched.error()));
 }
 
 } // namespace veldmark

@@ -33,7 +33,7 @@ public:
     void findFasterCircuits() override;
     void refreshCircuits() override;
     void dismissError() override;
-    void lookForTor() override;
+    void lookAgain() override;
     void lookForTransports() override;
     void downloadTransports() override;
     void installPasswordless() override;
@@ -49,6 +49,9 @@ private:
     void read();
     QCoro::Task<void> readCircuits();
     QCoro::Task<void> takeNewIdentity();
+    void followTerminalMode();
+    QCoro::Task<void> askTerminalHint();
+    QCoro::Task<void> launch(QString application);
 
     TorController &m_controller;
     SettingsStore &m_settings;
@@ -59,6 +62,9 @@ private:
     QString m_terminalHint;          // asked when terminal mode is switched on
     bool m_terminalModeWasOn = false;
     QStringList m_notices; // of the settings' file, each shown until it is dismissed
+    bool m_terminalIsKnown = false; // the two below are true; they cost reading the user's files
+    bool m_terminalInstalled = false;
+    bool m_terminalForSsh = false;
 };
 
 } // namespace veldmark

@@ -13,17 +13,12 @@ class FileLog final : public LogFeed {
 public:
     explicit FileLog(const PlatformProfile &profile);
 
-    State state() const override { return m_state; }
-    const std::vector<LogLine> &lines() const override { return m_lines; }
+    const TorLog::Snapshot &snapshot() const override { return m_store.snapshot(); }
     void start() override { m_store.start(); }
     void stop() override { m_store.stop(); }
 
 private:
-    void read();
-
     TorLogStore m_store;
-    State m_state = State::empty;
-    std::vector<LogLine> m_lines;
 };
 
 } // namespace veldmark

@@ -14,10 +14,9 @@ class Tray : public QObject {
     Q_OBJECT
 
 public:
-    // `session` must outlive the tray.
+    // `session` must outlive the tray. Not before TrayHost tells of a host.
     explicit Tray(Session &session);
 
-    static bool isAvailable() { return QSystemTrayIcon::isSystemTrayAvailable(); }
     QRect anchor() const; // where the icon is, as far as the desktop tells
 
     // Every size in which trays ask for it.

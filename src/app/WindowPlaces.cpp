@@ -53,24 +53,30 @@ void WindowPlaces::remember(const QString &name, QQuickWindow *window, Height he
     if (!stored)
         return;
     QRect place = *stored;
+    const int chosen = height == Height::ownedByContent ? m_settings.string(heightKey(name)).toInt() : 0;
     if (height == Height::ownedByContent)
-        place.setHeight(window->height());
+        place.setHeight(chosen > 0 ? chosen : window->height());
     place.setSize(place.size().expandedTo(window->minimumSize()).boundedTo(window->maximumSize()));
     place = within(usableAreas(), place);
     window->setWidth(place.width());
     if (height == Height::remembered)
         window->setHeight(place.height());
+    else if (chosen > 0)
+        window->setProperty("chosenHeight", place.height());
     if (placesItsWindows())
         window->setFramePosition(place.topLeft());
 }
 
-void WindowPlaces::keep(const QString &name, const QQuickWindow *window)
+void WindowPlaces::keep(const QString &name, const QQuickWindow *window, Height height)
 {
     if (window->windowStates() & (Qt::WindowMaximized | Qt::WindowFullScreen | Qt::WindowMinimized))
         return; // not a place that anybody chose for it
     const QString now = text(QRect(window->framePosition(), window->size()));
     if (m_settings.string(key(name)) != now)
         m_settings.setString(key(name), now);
+    const QString chosen = window->property("chosenHeight").toString();
+    if (height == Height::ownedByContent && chosen.toInt() > 0 && m_settings.string(heightKey(name)) != chosen)
+        m_settings.setString(heightKey(name), chosen);
 }
 
 void WindowPlaces::bringBack()

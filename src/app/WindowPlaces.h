@@ -18,7 +18,8 @@ class WindowPlaces : public QObject {
     Q_OBJECT
 
 public:
-    // What a window does with the height that it is given.
+    // What a window does with the height that it is given. One whose content decides has the property `chosenHeight`,
+    // which its user's own height is, or 0; only that one is remembered.
     enum class Height { remembered, ownedByContent };
 
     // `settings` must outlive the object; the windows need not.
@@ -28,7 +29,7 @@ public:
     // or leaves it to the window manager.
     void remember(const QString &name, QQuickWindow *window, Height height = Height::remembered);
     // The window is about to go: its place is kept on disk. Only of a window that was remembered.
-    void keep(const QString &name, const QQuickWindow *window);
+    void keep(const QString &name, const QQuickWindow *window, Height height = Height::remembered);
 
     // `place` moved, and shrunk if it must be, so that it lies within one of `screens` (their usable
     // areas, the primary one first): the one that it overlaps most, else the first.
@@ -41,6 +42,7 @@ private:
     void bringBack(); // what the screens that are left do not show
     static QList<QRect> usableAreas();
     static QString key(const QString &name) { return QStringLiteral("windows/") + name; }
+    static QString heightKey(const QString &name) { return key(name) + QStringLiteral("Height"); }
 
     SettingsStore &m_settings;
 };

@@ -12,6 +12,15 @@
 
 namespace veldmark {
 
+namespace {
+
+WindowPlaces::Height heightOf(const QString &name)
+{
+    return name == QLatin1String("main") ? WindowPlaces::Height::ownedByContent : WindowPlaces::Height::remembered;
+}
+
+} // namespace
+
 Windows::Windows(Session &session, LogFeed &log, SettingsStore &settings)
     : m_session(session)
     , m_panel(session)
@@ -89,15 +98,14 @@ bool Windows::ensure(const QString &name)
     if (hasPanel) {
         QObject::connect(shown, SIGNAL(windowWanted(QString)), this, SLOT(onWindowWanted(QString)));
         QObject::connect(shown, SIGNAL(chooserWanted()), this, SLOT(chooseApplications()));
-        QObject::connect(shown, SIGNAL(quitWanted()), this, SIGNAL(quitWanted()));
     }
+    QObject::connect(shown, SIGNAL(quitWanted()), this, SIGNAL(quitWanted()));
     if (name == QLatin1String("settings"))
         QObject::connect(shown, SIGNAL(torChooserWanted()), this, SLOT(chooseTor()));
     if (name == QLatin1String("chooser"))
         QObject::connect(shown, SIGNAL(fileWanted()), this, SLOT(chooseEntries()));
     if (name != QLatin1String("panel")) // which stands where the tray is
-        m_places.remember(name, shown,
-                          hasPanel ? WindowPlaces::Height::ownedByContent : WindowPlaces::Height::remembered);
+        m_places.remember(name, shown, heightOf(name));
     QObject::connect(shown, &QWindow::visibleChanged, this, [this, name](bool visible) {
         if (!visible)
             onHidden(name);
@@ -108,7 +116,7 @@ bool Windows::ensure(const QString &name)
 void Windows::keepPlace(const QString &name, const QQuickWindow *window)
 {
     if (name != QLatin1String("panel"))
-        m_places.keep(name, window);
+        m_places.keep(name, window, heightOf(name));
 }
 
 void Windows::onHidden(const QString &name)
@@ -168,6 +176,11 @@ QQuickWindow *Windows::find(const QString &name) const
 {
     const auto at = m_windows.find(name);
     return at == m_windows.end() ? nullptr : at->second.get();
+}
+
+bool Windows::isAnyShown() const
+{
+    return std::any_of(m_windows.begin(), m_windows.end(), [](const auto &entry) { return entry.second->isVisible(); });
 }
 
 void Windows::chooseTor()

@@ -33,6 +33,7 @@ public:
     // Shows the panel at `anchor` (the tray's icon, screen coordinates), or hides it when shown.
     void togglePanel(const QRect &anchor);
     QQuickWindow *find(const QString &name) const;
+    bool isAnyShown() const;
     // A window for a question of the program's own; null when it cannot be made.
     std::unique_ptr<QQuickWindow> make(const QString &file, const QVariantMap &properties);
 

@@ -15,6 +15,10 @@
 #include <QTimer>
 #include <QTranslator>
 
+#include <algorithm>
+#include <array>
+#include <string_view>
+
 using namespace veldmark;
 
 namespace {
@@ -29,40 +33,85 @@ QCoro::Task<void> tellOther(std::shared_ptr<InstanceClient> client, QString comm
     QCoreApplication::exit(done ? 0 : 1);
 }
 
+// What the command line may say.
+class CommandLine {
+public:
+    CommandLine()
+    {
+        m_parser.addOptions({hidden, connectNow});
+        m_parser.addHelpOption();
+        m_parser.addVersionOption();
+    }
+    // Ends the program where that answers it.
+    void process() { m_parser.process(*QCoreApplication::instance()); }
+    bool has(const QCommandLineOption &option) const { return m_parser.isSet(option); }
+
+    const QCommandLineOption hidden{QStringLiteral("hidden"),
+                                    QCoreApplication::translate("main", "Start without a window, as at login.")};
+    const QCommandLineOption connectNow{QStringLiteral("connect"),
+                                        QCoreApplication::translate("main", "Connect at once.")};
+
+private:
+    QCommandLineParser m_parser;
+};
+
+void nameProgram()
+{
+    QCoreApplication::setApplicationName(QStringLiteral("veldmark"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(VELDMARK_VERSION));
+}
+
+void translate(QTranslator &translator)
+{
+    if (translator.load(QLocale(), QStringLiteral("veldmark"), QStringLiteral("_"), QStringLiteral(":/i18n")))
+        QCoreApplication::installTranslator(&translator);
+}
+
+// Whether it only wants to be told something, which needs no display.
+bool isQuestion(int argc, char **argv)
+{
+    static constexpr std::array<std::string_view, 5> questions{"-h", "--help", "--help-all", "-v", "--version"};
+    return std::any_of(argv + 1, argv + argc, [](const char *word) {
+        return std::find(questions.begin(), questions.end(), word) != questions.end();
+    });
+}
+
+int answer(int argc, char **argv)
+{
+    QCoreApplication application(argc, argv);
+    nameProgram();
+    QTranslator translator;
+    translate(translator);
+    CommandLine().process();
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
+    if (isQuestion(argc, argv))
+        return answer(argc, argv);
     // Nothing here needs a GPU, and its drivers cost more memory than the whole program.
     if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND"))
         qputenv("QT_QUICK_BACKEND", "software");
     QApplication application(argc, argv);
-    application.setApplicationName(QStringLiteral("veldmark"));
-    application.setApplicationVersion(QStringLiteral(VELDMARK_VERSION));
+    nameProgram();
     application.setDesktopFileName(QStringLiteral("veldmark"));
     application.setQuitOnLastWindowClosed(false);
     becomeMenuBarProgram();
     application.setWindowIcon(QPixmap::fromImage(Symbols::image(QStringLiteral("veldmark"), 64, QColor(0x62, 0x36, 0xc9))));
 
     QTranslator translator;
-    if (translator.load(QLocale(), QStringLiteral("veldmark"), QStringLiteral("_"), QStringLiteral(":/i18n")))
-        application.installTranslator(&translator);
-
-    QCommandLineParser parser;
-    const QCommandLineOption hidden(QStringLiteral("hidden"),
-                                    QCoreApplication::translate("main", "Start without a window, as at login."));
-    const QCommandLineOption connectNow(QStringLiteral("connect"),
-                                        QCoreApplication::translate("main", "Connect at once."));
-    parser.addOptions({hidden, connectNow});
-    parser.addHelpOption();
-    parser.addVersionOption();
-    parser.process(application);
+    translate(translator);
+    CommandLine line;
+    line.process();
 
     const PlatformProfile profile = PlatformProfile::current(Places::fromEnvironment());
     if (const auto other = InstanceClient::connectTo(profile)) {
-        if (parser.isSet(hidden) && !parser.isSet(connectNow))
+        if (line.has(line.hidden) && !line.has(line.connectNow))
             return 0; // it is there already
-        const QString command = parser.isSet(connectNow) ? QStringLiteral("connect") : QStringLiteral("raise");
+        const QString command = line.has(line.connectNow) ? QStringLiteral("connect") : QStringLiteral("raise");
         QTimer::singleShot(0, &application, [other, command] { tellOther(other, command); });
         return QApplication::exec();
     }
@@ -70,7 +119,7 @@ int main(int argc, char **argv)
     const LastTurn lastTurn; // what still waits when the program ends goes after everything else
     const LastWords lastWords(profile);
     Application program(profile);
-    if (const auto started = program.start(parser.isSet(hidden), parser.isSet(connectNow)); !started) {
+    if (const auto started = program.start(line.has(line.hidden), line.has(line.connectNow)); !started) {
         QTextStream(stderr) << "veldmark: " << started.error() << '\n';
         QString text = started.error();
         if (QFile::exists(profile.sessionMarker)) // what this start was perhaps meant to restore

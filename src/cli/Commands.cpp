@@ -166,8 +166,10 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
             Console::printError(*problem);
             co_return ExitStatus::failed;
         }
-        if (invocation.key == controller.terminalMode.key() && controller.terminalMode())
-            Console::draw(noteLine(controller.terminalError().value_or(controller.terminalHint())));
+        if (invocation.key == controller.terminalMode.key() && controller.terminalMode()) {
+            const QString hint = co_await controller.terminalHint();
+            Console::draw(noteLine(controller.terminalError().value_or(hint)));
+        }
         co_return ExitStatus::done;
     }
 

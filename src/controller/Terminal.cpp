@@ -2,6 +2,8 @@
 
 #include "terminal/TerminalIntegration.h"
 
+#include <QPointer>
+
 namespace veldmark {
 
 std::optional<QString> TorController::setTerminalMode(bool on)
@@ -13,17 +15,51 @@ std::optional<QString> TorController::setTerminalMode(bool on)
 
 void TorController::applyTerminalMode()
 {
+    const TerminalIntegration &terminal = m_services.terminal;
     terminalError = std::nullopt;
+    ++m_terminalRun;
     if (terminalMode()) {
-        if (const auto installed = m_services.terminal.install(); !installed)
-            terminalError = QStringLiteral("Couldn't set up terminal mode: ") + installed.error().description();
+        // To know what ssh can use, programs have to be asked; the shells need not wait for that.
+        const bool isKnown = terminal.knowsSocksCommand();
+        showTerminalProblem(isKnown ? terminal.install() : terminal.installForShells());
+        if (!isKnown && !terminalError())
+            installForSsh(m_terminalRun);
     }
-    m_services.terminal.setActive(terminalMode() && phase() == ConnectionPhase::connected);
+    terminal.setActive(terminalMode() && phase() == ConnectionPhase::connected);
 }
 
-QString TorController::terminalHint() const
+void TorController::showTerminalProblem(const Result<void, TerminalError> &installed)
 {
-    return m_services.terminal.sshHint();
+    if (!installed)
+        terminalError = QStringLiteral("Couldn't set up terminal mode: ") + installed.error().description();
+}
+
+QCoro::Task<void> TorController::installForSsh(quint64 run)
+{
+    const QPointer<TorController> self(this);
+    auto asking = m_services.terminal.askForSocksCommand();
+    co_await asking;
+    if (!self || run != m_terminalRun || !m_services.terminal.knowsSocksCommand())
+        co_return;
+    showTerminalProblem(m_services.terminal.install());
+}
+
+QCoro::Task<QString> TorController::terminalHint()
+{
+    const QPointer<TorController> self(this);
+    auto asking = m_services.terminal.askForSocksCommand();
+    co_await asking;
+    co_return self && m_services.terminal.knowsSocksCommand() ? m_services.terminal.sshHint() : QString();
+}
+
+bool TorController::isTerminalInstalled() const
+{
+    return m_services.terminal.isInstalled();
+}
+
+bool TorController::isTerminalUsedBySsh() const
+{
+    return m_services.terminal.isUsedBySsh();
 }
 
 void TorController::removeTerminalIntegration()

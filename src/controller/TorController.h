@@ -38,6 +38,7 @@ class ResolverSource;
 class RunningApplications;
 class TerminalIntegration;
 struct PlatformProfile;
+struct TerminalError;
 
 // A bootstrap report of Tor's, as much of it as is shown.
 struct BootstrapStatus {
@@ -208,9 +209,12 @@ public:
     QCoro::Task<void> removePasswordless();
     std::optional<QString> setTerminalMode(bool on); // as Setting::set()
     void removeTerminalIntegration();
-    // What to install so that ssh goes through Tor in terminal mode; empty when it does. Starts
-    // programs to ask them, so not for every redraw.
-    QString terminalHint() const;
+    // What to install so that ssh goes through Tor in terminal mode; empty when it does. Programs are asked for it,
+    // beside what else happens and once.
+    QCoro::Task<QString> terminalHint();
+    // Whether the shells, and ssh, read terminal mode's files. Both read the user's files, so not for every redraw.
+    bool isTerminalInstalled() const;
+    bool isTerminalUsedBySsh() const;
 
     // Reads the value of Tor's "status/bootstrap-phase".
     static BootstrapStatus parseBootstrap(const QString &reply);
@@ -328,12 +332,15 @@ private:
     }
     // Terminal.cpp
     void applyTerminalMode();
+    void showTerminalProblem(const Result<void, TerminalError> &installed);
+    QCoro::Task<void> installForSsh(quint64 run);
     // TorController.cpp
     void loadSettings();
 
     Services m_services;
     Attempt m_attempt = 0;  // the running connect or disconnect; older ones end silently
     quint64 m_monitor = 0;  // the running monitor loop
+    quint64 m_terminalRun = 0; // how often terminal mode was applied
     std::optional<QString> m_controlPassword; // of the running session; in memory only
     bool m_isDownloading = false;             // transports
     bool m_downloadsDirectly = false;         // and not through Tor

@@ -1,6 +1,5 @@
 #include "terminal/TerminalIntegration.h"
 
-#include "terminal/SocksCommand.h"
 #include "terminal/TerminalFiles.h"
 #include "terminal/UserFile.h"
 
@@ -53,7 +52,9 @@ TerminalNames namesFor(const PlatformProfile &profile, const QString &exitCheckA
 } // namespace
 
 TerminalIntegration::TerminalIntegration(PlatformProfile profile, QString exitCheckAddress)
-    : m_profile(std::move(profile)), m_exitCheckAddress(std::move(exitCheckAddress))
+    : m_profile(std::move(profile))
+    , m_exitCheckAddress(std::move(exitCheckAddress))
+    , m_search(std::make_shared<SocksSearch>(m_profile))
 {
 }
 
@@ -69,29 +70,32 @@ QString TerminalIntegration::sshConfiguration() const
 
 Result<void, TerminalError> TerminalIntegration::install() const
 {
-    const std::optional<QString> command = socksCommand(m_profile);
-    if (const auto written = writeOwnFiles(command); !written)
+    const std::optional<QString> command = m_search->command();
+    if (const auto installed = installForShells(); !installed)
+        return installed;
+    if (!command)
+        return leaveOutSsh();
+    if (const auto written = writeSshFiles(*command); !written)
         return written;
-    if (const auto added = addShellBlocks(); !added)
-        return added;
-    return command ? addSshBlock() : leaveOutSsh();
+    return addSshBlock();
 }
 
-Result<void, TerminalError>
-TerminalIntegration::writeOwnFiles(const std::optional<QString> &command) const
+Result<void, TerminalError> TerminalIntegration::installForShells() const
 {
-    const TerminalNames names = namesFor(m_profile, m_exitCheckAddress);
     if (const auto made = makeFolder(own("bin")); !made)
         return made;
+    const TerminalNames names = namesFor(m_profile, m_exitCheckAddress);
     if (const auto written = writeOwnFile(own("shell.sh"), shellFile(names), plainMode); !written)
         return written;
-    if (!command)
-        return {};
-    if (const auto written = writeOwnFile(own("ssh_config"), sshFile(names, *command), plainMode);
-        !written)
+    return addShellBlocks();
+}
+
+Result<void, TerminalError> TerminalIntegration::writeSshFiles(const QString &command) const
+{
+    const TerminalNames names = namesFor(m_profile, m_exitCheckAddress);
+    if (const auto written = writeOwnFile(own("ssh_config"), sshFile(names, command), plainMode); !written)
         return written;
-    return writeOwnFile(own("bin/veldmark-active"), activeProgram(names), programMode,
-                        OwnMode::exact);
+    return writeOwnFile(own("bin/veldmark-active"), activeProgram(names), programMode, OwnMode::exact);
 }
 
 Result<void, TerminalError> TerminalIntegration::addShellBlocks() const
@@ -158,6 +162,14 @@ bool TerminalIntegration::isInstalled() const
     });
 }
 
+bool TerminalIntegration::isUsedBySsh() const
+{
+    if (!QFile::exists(own("ssh_config")))
+        return false;
+    const Result<UserFile, TerminalError> file = UserFile::read(sshConfiguration());
+    return file && MarkedBlock::hasStart(file->content());
+}
+
 void TerminalIntegration::setActive(bool on) const
 {
     if (!on) {
@@ -170,7 +182,7 @@ void TerminalIntegration::setActive(bool on) const
 
 QString TerminalIntegration::sshHint() const
 {
-    return socksCommand(m_profile) ? QString() : socksCommandHint(m_profile);
+    return m_search->command() ? QString() : socksCommandHint(m_profile);
 }
 
 Result<void, TerminalError> TerminalIntegration::addBlock(const QByteArray &body,

@@ -3,11 +3,13 @@
 #include "base/Result.h"
 #include "platform/PlatformProfile.h"
 #include "terminal/MarkedBlock.h"
+#include "terminal/SocksCommand.h"
 #include "terminal/TerminalError.h"
 
 #include <QString>
 
 #include <map>
+#include <memory>
 #include <optional>
 
 namespace veldmark {
@@ -21,8 +23,8 @@ namespace veldmark {
 // On a Mac the files are ~/.zshrc and, where it exists, ~/.bash_profile; on Linux ~/.bashrc and,
 // where zsh is installed or the file exists, ~/.zshrc.
 //
-// Stateless but for the profile. Everything blocks, but works on small files only; the main thread
-// is fine. One process at a time.
+// Keeps no state but which program ssh can use. Everything blocks, but works on small files only, once it is known
+// what that program is; the main thread is fine. One process at a time. Copies share what they know.
 class TerminalIntegration {
 public:
     // `exitCheckAddress` is what `torip` asks for the caller's address: a plain https address,
@@ -31,8 +33,15 @@ public:
 
     // Writes the files and adds the blocks; doing it again changes nothing. A failure ends it
     // where it stands and keeps what was written before. Where no program speaks SOCKS for ssh,
-    // what concerns ssh is left out, or taken away again: see sshHint().
+    // what concerns ssh is left out, or taken away again: see sshHint(). Asks for that program, unless it is known.
     Result<void, TerminalError> install() const;
+    // The shells' part of it alone.
+    Result<void, TerminalError> installForShells() const;
+
+    // Whether it is known which program ssh can use, if any.
+    bool knowsSocksCommand() const { return m_search->isKnown(); }
+    // Resumes when it is known.
+    QCoro::Task<void> askForSocksCommand() const { return m_search->ask(); }
 
     // Removes the marker, the blocks and ~/.veldmark; the user's files are byte for byte what they
     // were, apart from what the user has changed since. A file that install() created stays, empty.
@@ -41,10 +50,13 @@ public:
     // Whether the shell file exists and a start-up file that always gets the block has it.
     bool isInstalled() const;
 
+    // Whether ssh's configuration leads to ours.
+    bool isUsedBySsh() const;
+
     // Creates or removes the marker. Never fails: without it nothing goes through Tor.
     void setActive(bool on) const;
 
-    // What to install so that ssh goes through Tor; empty when it does. Blocks like install().
+    // What to install so that ssh goes through Tor; empty when it does. Asks like install().
     QString sshHint() const;
 
 private:
@@ -58,7 +70,7 @@ private:
                                          MarkedBlock::Position position, mode_t newMode) const;
     Result<void, TerminalError> removeBlock(const QString &path,
                                             MarkedBlock::Position position) const;
-    Result<void, TerminalError> writeOwnFiles(const std::optional<QString> &socksCommand) const;
+    Result<void, TerminalError> writeSshFiles(const QString &socksCommand) const;
     Result<void, TerminalError> addShellBlocks() const;
     Result<void, TerminalError> addSshBlock() const;
     Result<void, TerminalError> leaveOutSsh() const;
@@ -68,6 +80,7 @@ private:
 
     PlatformProfile m_profile;
     QString m_exitCheckAddress;
+    std::shared_ptr<SocksSearch> m_search;
 };
 
 } // namespace veldmark

@@ -18,7 +18,7 @@ Unit unitFor(quint64 bytes)
 
 QString text(quint64 bytes, Unit unit)
 {
-    static constexpr std::array names{"B", "KB", "MB", "GB", "TB"};
+    static constexpr std::array names{"B", "kB", "MB", "GB", "TB"};
     const auto index = static_cast<size_t>(unit);
     const double value = static_cast<double>(bytes) / std::pow(1000.0, static_cast<double>(index));
     return QLocale().toString(value, 'f', unit == Unit::bytes ? 0 : 1) + QChar(0x00a0)

@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
 #include <QDesktopServices>
 #include <QFile>
 #include <QGuiApplication>
@@ -10,14 +11,16 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 namespace veldmark {
 
 namespace {
 
-bool isProblem(const LogLine &line)
+// The same line, wherever it stands in the log.
+bool isSame(const TorLogLine &a, const TorLogLine &b)
 {
-    return line.level == LogLine::Level::error || line.level == LogLine::Level::warning;
+    return a.raw == b.raw && a.level == b.level;
 }
 
 } // namespace
@@ -29,31 +32,29 @@ LogModel::LogModel(LogFeed &feed, const PlatformProfile &profile, QObject *paren
     update();
 }
 
-bool LogModel::lets(const LogLine &line) const
+void LogModel::open()
 {
-    const QString wanted = m_search.trimmed();
-    return (!m_problemsOnly || isProblem(line))
-        && (wanted.isEmpty() || line.raw.contains(wanted, Qt::CaseInsensitive));
+    setSearch({});
+    setProblemsOnly(false);
+    setRevealProblem({});
+    m_feed.start();
 }
 
 void LogModel::update()
 {
-    std::vector<LogLine> next;
-    m_problems = 0;
-    if (m_feed.state() == LogFeed::State::lines) {
-        m_problems = static_cast<int>(std::count_if(m_feed.lines().begin(), m_feed.lines().end(), isProblem));
-        std::copy_if(m_feed.lines().begin(), m_feed.lines().end(), std::back_inserter(next),
-                     [this](const LogLine &line) { return lets(line); });
-    }
+    const TorLog::Snapshot &log = m_feed.snapshot();
+    m_problems = TorLogFilter::problemCount(log);
+    QList<TorLogLine> next = m_filter.shown(log);
     // A log grows at its end and is cut at its beginning: find where the new list continues the old.
-    const auto start = next.empty() ? m_shown.end()
-                                    : std::find(m_shown.begin(), m_shown.end(), next.front());
-    const auto kept = m_shown.end() - start;
-    if (kept > 0 && kept <= static_cast<std::ptrdiff_t>(next.size())
-        && std::equal(start, m_shown.end(), next.begin())) {
-        if (const auto cut = start - m_shown.begin(); cut > 0) {
+    const auto start = next.isEmpty() ? m_shown.cend()
+                                      : std::find_if(m_shown.cbegin(), m_shown.cend(), [&next](const TorLogLine &line) {
+                                            return isSame(line, next.constFirst());
+                                        });
+    const auto kept = m_shown.cend() - start;
+    if (kept > 0 && kept <= next.size() && std::equal(start, m_shown.cend(), next.cbegin(), isSame)) {
+        if (const auto cut = start - m_shown.cbegin(); cut > 0) {
             beginRemoveRows({}, 0, static_cast<int>(cut) - 1);
-            m_shown.erase(m_shown.begin(), start);
+            m_shown.remove(0, cut);
             endRemoveRows();
         }
         if (next.size() > m_shown.size()) {
@@ -78,10 +79,10 @@ QVariant LogModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid() || index.row() >= rowCount())
         return {};
-    const LogLine &line = m_shown[static_cast<size_t>(index.row())];
+    const TorLogLine &line = m_shown.at(index.row());
     switch (role) {
     case TimeRole:
-        return line.time;
+        return line.time.value_or(QString());
     case MessageRole:
         return line.message;
     case LevelRole:
@@ -100,23 +101,23 @@ QHash<int, QByteArray> LogModel::roleNames() const
 
 void LogModel::setSearch(const QString &text)
 {
-    if (m_search == text)
+    if (m_filter.search == text)
         return;
-    m_search = text;
+    m_filter.search = text;
     update();
 }
 
 void LogModel::setProblemsOnly(bool on)
 {
-    if (m_problemsOnly == on)
+    if (m_filter.problemsOnly == on)
         return;
-    m_problemsOnly = on;
+    m_filter.problemsOnly = on;
     update();
 }
 
 QString LogModel::subtitle() const
 {
-    switch (m_feed.state()) {
+    switch (m_feed.snapshot().kind()) {
     case LogFeed::State::empty:
         return tr("Tor writes here while it connects and runs");
     case LogFeed::State::unreadable:
@@ -124,7 +125,7 @@ QString LogModel::subtitle() const
     case LogFeed::State::lines:
         break;
     }
-    const auto count = static_cast<int>(m_feed.lines().size());
+    const auto count = static_cast<int>(m_feed.snapshot().lines().size());
     return (count == 1 ? tr("1 line") : tr("%1 lines").arg(count)) + QStringLiteral(" · ") + noticesPath();
 }
 
@@ -135,32 +136,32 @@ QString LogModel::problemsLabel() const
 
 QString LogModel::emptySymbol() const
 {
-    if (m_feed.state() == LogFeed::State::unreadable)
+    if (m_feed.snapshot().kind() == LogFeed::State::unreadable)
         return QStringLiteral("lock");
-    if (m_feed.state() == LogFeed::State::empty)
+    if (m_feed.snapshot().kind() == LogFeed::State::empty)
         return QStringLiteral("doc.text");
-    return m_search.trimmed().isEmpty() ? QStringLiteral("checkmark.circle.fill")
+    return m_filter.search.trimmed().isEmpty() ? QStringLiteral("checkmark.circle.fill")
                                         : QStringLiteral("line.3.horizontal.decrease.circle");
 }
 
 QString LogModel::emptyTitle() const
 {
-    if (m_feed.state() == LogFeed::State::unreadable)
+    if (m_feed.snapshot().kind() == LogFeed::State::unreadable)
         return tr("Can't read Tor's log");
-    if (m_feed.state() == LogFeed::State::empty)
+    if (m_feed.snapshot().kind() == LogFeed::State::empty)
         return tr("No log yet");
-    return m_search.trimmed().isEmpty() ? tr("No warnings or errors. Tor is happy.") : tr("Nothing matches");
+    return m_filter.search.trimmed().isEmpty() ? tr("No warnings or errors. Tor is happy.") : tr("Nothing matches");
 }
 
 QString LogModel::emptyText() const
 {
-    if (m_feed.state() == LogFeed::State::unreadable)
+    if (m_feed.snapshot().kind() == LogFeed::State::unreadable)
         return tr("The log files in %1 aren't readable by your account. Reconnect once with this version "
                   "of Veldmark to fix their permissions.").arg(m_profile.runDirectory);
-    if (m_feed.state() == LogFeed::State::empty)
+    if (m_feed.snapshot().kind() == LogFeed::State::empty)
         return tr("Connect, and Tor's messages appear here as it starts. If Tor fails to start, the reason "
                   "shows up here.");
-    return m_search.trimmed().isEmpty() ? QString() : tr("No lines contain “%1”").arg(m_search.trimmed());
+    return m_filter.search.trimmed().isEmpty() ? QString() : tr("No lines contain “%1”").arg(m_filter.search.trimmed());
 }
 
 QString LogModel::showHelp() const
@@ -174,19 +175,45 @@ void LogModel::copy(int first, int last) const
     QStringList text;
     const int end = last < 0 ? rowCount() - 1 : std::min(last, rowCount() - 1);
     for (int row = std::max(first, 0); row <= end; ++row)
-        text << m_shown[static_cast<size_t>(row)].raw;
+        text << m_shown.at(row).raw;
     QGuiApplication::clipboard()->setText(text.join(u'\n'));
 }
 
-void LogModel::reveal() const
+void LogModel::copyText(const QString &text) const
 {
+    QGuiApplication::clipboard()->setText(text);
+}
+
+void LogModel::setRevealProblem(const QString &problem)
+{
+    if (std::exchange(m_revealProblem, problem) != problem)
+        Q_EMIT changed();
+}
+
+void LogModel::reveal()
+{
+    setRevealProblem({});
     const QString path = QFile::exists(noticesPath()) ? noticesPath() : m_profile.runDirectory;
+    if (!QFile::exists(path)) {
+        setRevealProblem(tr("There are no log files yet: Tor makes %1 when it is first started.").arg(path));
+        return;
+    }
     QDBusMessage call = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("/org/freedesktop/FileManager1"),
         QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("ShowItems"));
     call << QStringList{QUrl::fromLocalFile(path).toString()} << QString();
-    if (!QDBusConnection::sessionBus().isConnected() || !QDBusConnection::sessionBus().send(call))
-        QDesktopServices::openUrl(QUrl::fromLocalFile(m_profile.runDirectory));
+    auto *answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);
+    QObject::connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+        answer->deleteLater();
+        if (answer->isError())
+            openFolder();
+    });
+}
+
+void LogModel::openFolder()
+{
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(m_profile.runDirectory)))
+        setRevealProblem(tr("No file manager could be opened. The log files are in %1.").arg(m_profile.runDirectory));
 }
 
 } // namespace veldmark

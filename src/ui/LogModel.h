@@ -1,5 +1,6 @@
 #pragma once
 
+#include "log/TorLogFilter.h"
 #include "platform/PlatformProfile.h"
 #include "ui/LogFeed.h"
 
@@ -25,6 +26,7 @@ class LogModel : public QAbstractListModel {
     Q_PROPERTY(QString emptyTitle READ emptyTitle NOTIFY changed)
     Q_PROPERTY(QString emptyText READ emptyText NOTIFY changed)
     Q_PROPERTY(QString showHelp READ showHelp CONSTANT)
+    Q_PROPERTY(QString revealProblem READ revealProblem NOTIFY changed)
 
 public:
     enum Role { TimeRole = Qt::UserRole + 1, MessageRole, LevelRole };
@@ -39,38 +41,42 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
     QString subtitle() const;
-    QString search() const { return m_search; }
+    QString search() const { return m_filter.search; }
     void setSearch(const QString &text);
-    bool problemsOnly() const { return m_problemsOnly; }
+    bool problemsOnly() const { return m_filter.problemsOnly; }
     void setProblemsOnly(bool on);
     QString problemsLabel() const;
-    bool hasRows() const { return !m_shown.empty(); }
+    bool hasRows() const { return !m_shown.isEmpty(); }
     QString emptySymbol() const;
     QString emptyTitle() const;
     QString emptyText() const;
     QString showHelp() const;
 
-    Q_INVOKABLE void open() { m_feed.start(); }
+    // A new window: nothing is filtered. Until it closes the files are followed.
+    Q_INVOKABLE void open();
     Q_INVOKABLE void close() { m_feed.stop(); }
     // Puts the raw lines from `first` to `last` (rows) on the clipboard; all of them by default.
     Q_INVOKABLE void copy(int first = 0, int last = -1) const;
-    // Shows the log files in the file manager.
-    Q_INVOKABLE void reveal() const;
+    Q_INVOKABLE void copyText(const QString &text) const; // a part of a line
+    // Shows the log files in the file manager; `revealProblem` says why that did not work.
+    Q_INVOKABLE void reveal();
+    QString revealProblem() const { return m_revealProblem; }
 
 Q_SIGNALS:
     void changed();
 
 private:
     void update();
-    bool lets(const LogLine &line) const;
+    void openFolder();
+    void setRevealProblem(const QString &problem);
     QString noticesPath() const { return m_profile.runDirectory + QStringLiteral("/notices.log"); }
 
     LogFeed &m_feed;
     const PlatformProfile &m_profile;
-    QString m_search;
-    bool m_problemsOnly = false;
+    TorLogFilter m_filter;
     int m_problems = 0;
-    std::vector<LogLine> m_shown;
+    QList<TorLogLine> m_shown;
+    QString m_revealProblem;
 };
 
 } // namespace veldmark

@@ -4,6 +4,7 @@
 #include "ui/SessionTexts.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace veldmark {
 
@@ -31,6 +32,10 @@ OptionsModel::OptionsModel(Session &session, QObject *parent)
     : QObject(parent), m_session(session), m_exits(session.exitChoices())
 {
     QObject::connect(&session, &Session::changed, this, &OptionsModel::changed);
+    QObject::connect(&session, &Session::launchFailed, this, [this](const QString &reason) {
+        m_launchError = reason;
+        Q_EMIT changed();
+    });
 }
 
 bool OptionsModel::locked() const
@@ -96,6 +101,11 @@ void OptionsModel::setExitIndex(int index)
     Choices next = choices();
     next.exitCountry = m_exits[static_cast<size_t>(index)].code;
     m_session.store(next);
+}
+
+QString OptionsModel::exitUnlisted() const
+{
+    return exitIndex() < 0 ? choices().exitCountry.toUpper() : QString();
 }
 
 QString OptionsModel::exitWarning() const
@@ -164,7 +174,7 @@ QString OptionsModel::bridgeNote() const
     if (transportMissing())
         return tr("Needs bridge programs: click Download");
     if (choices().bridgeChoice == BridgeChoice::off || customChosen())
-        return tr("For networks that block or watch Tor");
+        return {};
     return tr("Built-in bridges from %1").arg(m_session.now().transports.source);
 }
 
@@ -217,6 +227,34 @@ QString OptionsModel::applicationCount() const
 bool OptionsModel::canLaunchBypassed() const
 {
     return m_session.now().phase == Phase::connected && m_session.now().activeMode == RoutingMode::strict;
+}
+
+void OptionsModel::launchBypassed(const QString &path)
+{
+    forgetLaunchError();
+    m_session.launchBypassed(path);
+}
+
+void OptionsModel::forgetLaunchError()
+{
+    if (!std::exchange(m_launchError, QString()).isEmpty())
+        Q_EMIT changed();
+}
+
+QString OptionsModel::applicationsExplanation() const
+{
+    return m_session.profile().name == QLatin1String("macos")
+        ? tr("In strict mode, these apps can connect directly instead of through Tor, using your real IP address. "
+             "Everything else stays locked. Open them with <b>Open without Tor</b> (not from the Dock) so Veldmark "
+             "can tag them. A running copy is quit and reopened.")
+        : tr("In strict mode, these apps can connect directly instead of through Tor, using your real IP address. "
+             "Everything else stays locked. Open them with <b>Open without Tor</b> (not from the desktop's menu) so "
+             "Veldmark can tag them. A running copy is quit and reopened.");
+}
+
+QString OptionsModel::terminalError() const
+{
+    return SessionTexts::translated(m_session.now().terminalError.value_or(QString()));
 }
 
 QString OptionsModel::applicationName(const QString &path) const

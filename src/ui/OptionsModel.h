@@ -19,6 +19,7 @@ class OptionsModel : public QObject {
     Q_PROPERTY(bool terminalMode READ terminalMode WRITE setTerminalMode NOTIFY changed)
     Q_PROPERTY(QStringList exitNames READ exitNames CONSTANT)
     Q_PROPERTY(int exitIndex READ exitIndex WRITE setExitIndex NOTIFY changed)
+    Q_PROPERTY(QString exitUnlisted READ exitUnlisted NOTIFY changed)
     Q_PROPERTY(QString exitWarning READ exitWarning NOTIFY changed)
     Q_PROPERTY(QStringList bridgeNames READ bridgeNames CONSTANT)
     Q_PROPERTY(int bridgeIndex READ bridgeIndex WRITE setBridgeIndex NOTIFY changed)
@@ -32,6 +33,9 @@ class OptionsModel : public QObject {
     Q_PROPERTY(QStringList applications READ applications NOTIFY changed)
     Q_PROPERTY(QString applicationCount READ applicationCount NOTIFY changed)
     Q_PROPERTY(bool canLaunchBypassed READ canLaunchBypassed NOTIFY changed)
+    Q_PROPERTY(QString launchError READ launchError NOTIFY changed)
+    Q_PROPERTY(QString applicationsExplanation READ applicationsExplanation CONSTANT)
+    Q_PROPERTY(QString terminalError READ terminalError NOTIFY changed)
 
 public:
     // `session` must outlive the model.
@@ -50,12 +54,13 @@ public:
     QStringList exitNames() const;
     int exitIndex() const;
     void setExitIndex(int index);
+    QString exitUnlisted() const; // the code of a country that is chosen without being in the list
     QString exitWarning() const; // empty: no country is chosen
 
     QStringList bridgeNames() const;
     int bridgeIndex() const;
     void setBridgeIndex(int index);
-    QString bridgeNote() const;
+    QString bridgeNote() const; // what the choice lacks, or where its bridges come from; may be empty
     bool bridgeNoteIsWarning() const;
     bool needsDownload() const;
     bool canDownload() const { return m_session.now().canDownloadTransports; }
@@ -74,7 +79,12 @@ public:
     bool canLaunchBypassed() const;
     Q_INVOKABLE QString applicationName(const QString &path) const;
     Q_INVOKABLE void removeApplication(const QString &path) { m_session.removeBypassApp(path); }
-    Q_INVOKABLE void launchBypassed(const QString &path) { m_session.launchBypassed(path); }
+    Q_INVOKABLE void launchBypassed(const QString &path);
+    QString launchError() const { return m_launchError; } // why the last one was not opened
+    Q_INVOKABLE void forgetLaunchError();
+    QString applicationsExplanation() const; // with markup
+
+    QString terminalError() const;
 
 Q_SIGNALS:
     void changed();
@@ -85,6 +95,7 @@ private:
 
     Session &m_session;
     const std::vector<ExitChoice> m_exits;
+    QString m_launchError;
 };
 
 } // namespace veldmark

@@ -152,6 +152,13 @@ bool PanelModel::busy() const
     return phase == Phase::connecting || phase == Phase::disconnecting;
 }
 
+double PanelModel::progress() const
+{
+    // The session keeps Tor's last report while it is taken down, which says nothing of how far that is.
+    const Snapshot &now = m_session.now();
+    return now.phase == Phase::connecting ? now.bootstrapProgress : 0;
+}
+
 void PanelModel::pressPower()
 {
     if (!powerEnabled())

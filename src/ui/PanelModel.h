@@ -73,7 +73,7 @@ public:
     QString powerLabel() const;
     bool powerEnabled() const;
     bool busy() const;
-    double progress() const { return m_session.now().bootstrapProgress; }
+    double progress() const; // 0…1; 0 unless Tor is bootstrapping
     QString pillText() const; // empty: no pill
     QString pillSymbol() const;
     QString endpoint() const { return QStringLiteral("SOCKS 127.0.0.1:9050"); }
@@ -113,7 +113,7 @@ public:
     Q_INVOKABLE void fixDNS() { m_session.fixLookups(); }
     Q_INVOKABLE void retestDNS() { m_session.checkLookups(); }
     Q_INVOKABLE void dismissError() { m_session.dismissError(); }
-    Q_INVOKABLE void recheckTor() { m_session.lookForTor(); }
+    Q_INVOKABLE void recheckTor() { m_session.lookAgain(); }
     Q_INVOKABLE void copy(const QString &text) const;
 
 Q_SIGNALS:

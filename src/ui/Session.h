@@ -43,7 +43,8 @@ public:
     virtual void findFasterCircuits() = 0;
     virtual void refreshCircuits() = 0;
     virtual void dismissError() = 0;
-    virtual void lookForTor() = 0;
+    // Reads again what other programs can change: tor, the session marker, the terminal's files, the login item.
+    virtual void lookAgain() = 0;
     virtual void lookForTransports() = 0;
     virtual void downloadTransports() = 0;
     virtual void installPasswordless() = 0;
@@ -57,6 +58,8 @@ public:
 Q_SIGNALS:
     // Once for any number of fields that changed together.
     void changed();
+    // launchBypassed() came to nothing; a sentence in the user's language.
+    void launchFailed(const QString &reason);
 
 protected:
     Snapshot m_now;

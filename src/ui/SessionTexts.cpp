@@ -68,6 +68,8 @@ namespace {
     QT_TRANSLATE_NOOP("Session", "The helper failed without an error message."),
     QT_TRANSLATE_NOOP("Session", "Add at least one bridge under Bridges → Custom…."),
     QT_TRANSLATE_NOOP("Session", "Some custom bridge lines aren't valid. Fix them under Bridges → Custom…."),
+    QT_TRANSLATE_NOOP("Session", "ssh doesn't go through Tor yet: it needs a netcat that speaks SOCKS. Install the "
+                                 "OpenBSD netcat or Ncat with your package manager."),
     QT_TRANSLATE_NOOP("Session", "This computer"),
     QT_TRANSLATE_NOOP("Session", "This Mac"),
     QT_TRANSLATE_NOOP("Session", "on this computer"),
@@ -103,6 +105,12 @@ constexpr const char *forms[] = {
     QT_TRANSLATE_NOOP("Session", "Couldn't open %1 without Tor: %2"),
     QT_TRANSLATE_NOOP("Session", "\"%1\" is no place for Tor: give the whole path, such as /usr/bin/tor."),
     QT_TRANSLATE_NOOP("Session", "\"%1\" holds for the whole connection. Disconnect to change it."),
+    QT_TRANSLATE_NOOP("Session", "Couldn't set up terminal mode: %1"),
+    QT_TRANSLATE_NOOP("Session", "Couldn't remove terminal integration: %1"),
+    QT_TRANSLATE_NOOP("Session", "Couldn't set up passwordless mode: %1"),
+    QT_TRANSLATE_NOOP("Session", "Couldn't remove passwordless mode: %1"),
+    QT_TRANSLATE_NOOP("Session", "ssh doesn't go through Tor yet: it needs a netcat that speaks SOCKS. Install one "
+                                 "with: %1"),
     QT_TRANSLATE_NOOP("Session", "%1 Your network is still pointed at Tor. Click Restore Network to undo."),
 };
 

@@ -1,5 +1,6 @@
 #include "ui/SettingsModel.h"
 
+#include "bridges/TransportDownloader.h"
 #include "ui/SessionTexts.h"
 
 #include <QClipboard>
@@ -97,6 +98,13 @@ QString SettingsModel::downloadText() const
     return SessionTexts::translated(now().transportDownload.value_or(QString()));
 }
 
+QString SettingsModel::bundleTrust() const
+{
+    return !TransportDownloader::gpgPath(m_session.profile())
+        ? tr("Fetched over HTTPS. Its signature isn't checked, since GnuPG isn't installed.")
+        : tr("Fetched over HTTPS and checked against the Tor Project's signature.");
+}
+
 QString SettingsModel::terminalExplanation() const
 {
     if (m_session.profile().name == QLatin1String("macos"))
@@ -106,6 +114,43 @@ QString SettingsModel::terminalExplanation() const
     return tr("Adds one line to ~/.bashrc (and ~/.zshrc if you use zsh) and an Include line at the top of "
               "~/.ssh/config. Its files live in ~/.veldmark. Nothing is routed unless Veldmark is "
               "connected with Terminal mode on.");
+}
+
+QString SettingsModel::terminalStatus() const
+{
+    if (!terminalInstalled())
+        return tr("Not installed");
+    return now().terminalForSsh ? tr("Installed in your shell and SSH config")
+                                : tr("Installed in your shell; SSH doesn't use it");
+}
+
+QString SettingsModel::terminalTools() const
+{
+    return m_session.profile().name == QLatin1String("macos") ? tr("curl, git, brew, pip, ssh and more use Tor")
+                                                              : tr("curl, git, pip, ssh and more use Tor");
+}
+
+QString SettingsModel::terminalError() const
+{
+    return SessionTexts::translated(now().terminalError.value_or(QString()));
+}
+
+QString SettingsModel::passwordlessError() const
+{
+    return SessionTexts::translated(now().startupError.value_or(QString()));
+}
+
+QString SettingsModel::credits() const
+{
+    const QString start = tr("Veldmark is free software and independent of the Tor Project. It contains no Tor: it runs "
+                             "the tor that is installed here, and where bridges are used lyrebird, snowflake-client or "
+                             "webtunnel-client.");
+    const QString system = m_session.profile().name == QLatin1String("macos")
+        ? tr("It sets up the network with macOS's own programs, asks for the administrator with sudo, and checks "
+             "downloads with GnuPG where that is installed.")
+        : tr("It sets up the network with nftables, resolvectl and gsettings, asks for the administrator with polkit or "
+             "sudo, takes ssh through Tor with a netcat, and checks downloads with GnuPG where that is installed.");
+    return start + u' ' + system;
 }
 
 QString SettingsModel::onComputer() const

@@ -34,8 +34,11 @@ class SettingsModel : public QObject {
     Q_PROPERTY(bool bundleLoaded READ bundleLoaded NOTIFY changed)
     Q_PROPERTY(bool canDownload READ canDownload NOTIFY changed)
     Q_PROPERTY(QString downloadText READ downloadText NOTIFY changed)
+    Q_PROPERTY(QString bundleTrust READ bundleTrust NOTIFY changed)
     Q_PROPERTY(bool terminalMode READ terminalMode WRITE setTerminalMode NOTIFY changed)
     Q_PROPERTY(bool terminalInstalled READ terminalInstalled NOTIFY changed)
+    Q_PROPERTY(QString terminalStatus READ terminalStatus NOTIFY changed)
+    Q_PROPERTY(QString terminalTools READ terminalTools CONSTANT)
     Q_PROPERTY(QString terminalExplanation READ terminalExplanation CONSTANT)
     Q_PROPERTY(QString terminalError READ terminalError NOTIFY changed)
     Q_PROPERTY(bool changesActive READ changesActive NOTIFY changed)
@@ -43,6 +46,7 @@ class SettingsModel : public QObject {
     Q_PROPERTY(QString restoreCommand READ restoreCommand CONSTANT)
     Q_PROPERTY(QString version READ version CONSTANT)
     Q_PROPERTY(QString homePage READ homePage CONSTANT)
+    Q_PROPERTY(QString credits READ credits CONSTANT)
 
 public:
     // `session` must outlive the model.
@@ -54,7 +58,7 @@ public:
     bool autoConnect() const { return now().choices.autoConnect; }
     void setAutoConnect(bool on);
     bool passwordless() const { return now().passwordlessInstalled; }
-    QString passwordlessError() const { return now().startupError.value_or(QString()); }
+    QString passwordlessError() const;
 
     bool torFound() const { return now().torPath.has_value(); }
     QString torStatus() const; // "Found", "Missing" (a custom one), "Not found" (anywhere)
@@ -74,17 +78,21 @@ public:
     QString bundleStatus() const;
     bool canDownload() const { return now().canDownloadTransports; }
     QString downloadText() const;
+    QString bundleTrust() const; // how a download is checked, with the programs that are here
 
     bool terminalMode() const { return now().choices.terminalMode; }
     void setTerminalMode(bool on);
     bool terminalInstalled() const { return now().terminalInstalled; }
+    QString terminalStatus() const;
+    QString terminalTools() const;
     QString terminalExplanation() const;
-    QString terminalError() const { return now().terminalError.value_or(QString()); }
+    QString terminalError() const;
 
     bool changesActive() const { return now().markerPresent; }
     bool canRestore() const;
     QString restoreCommand() const { return m_session.profile().manualRestoreCommand; }
     QString homePage() const { return m_session.profile().homePage; } // empty: there is none
+    QString credits() const;
     QString version() const { return tr("Version %1").arg(QStringLiteral(VELDMARK_VERSION)); }
 
     Q_INVOKABLE void installPasswordless() { m_session.installPasswordless(); }
@@ -94,6 +102,8 @@ public:
     Q_INVOKABLE void download() { m_session.downloadTransports(); }
     Q_INVOKABLE void removeTerminalIntegration() { m_session.removeTerminalIntegration(); }
     Q_INVOKABLE void restore() { m_session.disconnectFromTor(); }
+    // What a pane shows may have been changed by other programs since it was last open.
+    Q_INVOKABLE void lookAgain() { m_session.lookAgain(); }
     Q_INVOKABLE void copy(const QString &text) const;
 
 Q_SIGNALS:

@@ -82,7 +82,8 @@ struct Snapshot {
     bool passwordlessInstalled = false;
     std::optional<QString> startupError;
     std::optional<QString> terminalError;
-    bool terminalInstalled = false; // the shell integration's files are there
+    bool terminalInstalled = false; // the shell reads the integration's files
+    bool terminalForSsh = false;    // and ssh does
 
     std::optional<QString> torPath; // absent: there is no tor to run
     bool markerPresent = false;     // the network is set up for Tor

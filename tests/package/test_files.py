@@ -51,6 +51,17 @@ class InAHome(unittest.TestCase):
         return set(re.search(r"Settings: (.*)\.", message).group(1).split(", "))
 
 
+class Questions(InAHome):
+    def test_what_the_application_only_tells_needs_no_display(self):
+        program = PROGRAMS / "veldmark"
+        nowhere = {name: value for name, value in self.environment.items() if name != "QT_QPA_PLATFORM"}
+        self.assertNotEqual(run(program, "--hidden", env=nowhere).returncode, 0)   # there is none
+        for question, answer in (("--help", "--hidden"), ("-h", "--hidden"), ("--version", "veldmark "), ("-v", "veldmark ")):
+            result = run(program, question, env=nowhere)
+            self.assertEqual((result.returncode, result.stderr), (0, ""), question)
+            self.assertIn(answer, result.stdout)
+
+
 class Completion(InAHome):
     def complete(self, *words: str) -> set[str]:
         """What bash offers after these words, the last of which is being typed."""

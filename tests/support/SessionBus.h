@@ -33,6 +33,7 @@ public:
     SessionBus &operator=(const SessionBus &) = delete;
 
     bool isRunning() const { return m_address.startsWith(QLatin1String("unix:")); }
+    QByteArray address() const { return m_address.toUtf8(); }
     // A new connection each time.
     QDBusConnection connection()
     {

@@ -1,3 +1,4 @@
+#include "GoldenText.h"
 #include "StagedWindows.h"
 
 #include <QDir>
@@ -6,31 +7,6 @@
 #include <cmath>
 
 using namespace veldmark;
-
-namespace {
-
-// A line about a text or a control, or nothing: texts inside controls are the controls' own.
-QString described(QQuickItem *item)
-{
-    const auto isControl = [](const QQuickItem *one) {
-        return one->inherits("QQuickAbstractButton") || one->inherits("QQuickComboBox");
-    };
-    for (const QQuickItem *above = item->parentItem(); above; above = above->parentItem())
-        if (isControl(above))
-            return {};
-    QString text = item->property("text").toString();
-    if (!isControl(item)) {
-        const bool isText = item->inherits("QQuickText") || item->inherits("QQuickTextEdit");
-        return isText && !text.isEmpty() ? QStringLiteral("  ") + text.replace(u'\n', u'/') + u'\n' : QString();
-    }
-    if (item->inherits("QQuickComboBox"))
-        text = item->property("name").toString() + QStringLiteral(": ") + item->property("displayText").toString();
-    if (item->property("checkable").toBool() || item->inherits("QQuickSwitch"))
-        text += item->property("checked").toBool() ? QStringLiteral(": on") : QStringLiteral(": off");
-    return QStringLiteral("  (%1)%2\n").arg(text, item->isEnabled() ? QString() : QStringLiteral(" disabled"));
-}
-
-} // namespace
 
 // Every state of the panel as it was when somebody last looked at it. VELDMARK_WRITE_GOLDEN=1 writes it anew.
 class GoldenPicturesTest : public QObject {
@@ -50,25 +26,10 @@ private Q_SLOTS:
             QVERIFY(stage.open(QStringLiteral("main/MainWindow.qml"), windows(stage).front().properties));
             stage.picture();
             now += u'[' + scene.name + QStringLiteral("]\n");
-            visit(stage.window()->contentItem(), [&](QQuickItem *item) { now += described(item); });
+            now += described(stage);
             now += u'\n';
         }
-        QFile file(QStringLiteral(GOLDEN_DIR "/panel.txt"));
-        if (qEnvironmentVariableIsSet("VELDMARK_WRITE_GOLDEN")) {
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write(now.toUtf8());
-            return;
-        }
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QStringList before = QString::fromUtf8(file.readAll()).split(u'\n');
-        const QStringList lines = now.split(u'\n');
-        QString scene;
-        for (qsizetype i = 0; i < std::max(before.size(), lines.size()); ++i) {
-            if (lines.value(i).startsWith(u'['))
-                scene = lines[i];
-            QVERIFY2(before.value(i) == lines.value(i),
-                     qPrintable(scene + QStringLiteral(": was \"%1\", is \"%2\"").arg(before.value(i), lines.value(i))));
-        }
+        expectGolden(QStringLiteral(GOLDEN_DIR "/panel.txt"), now);
     }
 
     void looksAsItDid_data()

@@ -2,10 +2,12 @@
 #include "Stage.h"
 
 #include <QQuickItem>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <algorithm>
 #include <cstdlib>
+#include <functional>
 
 using namespace veldmark;
 
@@ -111,6 +113,142 @@ private Q_SLOTS:
             ++stops;
         }
         QVERIFY2(stops >= 2, qPrintable(QString::number(stops))); // and it does move
+    }
+
+    void theSameKeysCloseAndQuitInEveryWindow_data()
+    {
+        QTest::addColumn<QString>("file");
+        for (const char *file : {"main/MainWindow.qml", "main/PanelPopup.qml", "main/QuitDialog.qml",
+                                 "circuits/CircuitsWindow.qml", "log/LogWindow.qml", "settings/SettingsWindow.qml",
+                                 "chooser/ChooserWindow.qml"})
+            QTest::newRow(file) << QString::fromLatin1(file);
+    }
+    void theSameKeysCloseAndQuitInEveryWindow()
+    {
+        QFETCH(QString, file);
+        Stage stage;
+        stage.session.show(Scenes::protectedSession());
+        const bool isQuestion = file.endsWith(QLatin1String("QuitDialog.qml"));
+        const auto open = [&] {
+            QVariantMap properties = panel(stage);
+            if (file.startsWith(QLatin1String("circuits")))
+                properties = with(&stage.circuits);
+            else if (file.startsWith(QLatin1String("log")))
+                properties = with(&stage.lines);
+            else if (file.startsWith(QLatin1String("settings")))
+                properties = with(&stage.settings);
+            else if (file.startsWith(QLatin1String("chooser")))
+                properties = with(&stage.choices);
+            else if (isQuestion)
+                properties = {{QStringLiteral("strict"), true}, {QStringLiteral("busy"), false}};
+            QQuickWindow *window = stage.open(file, properties);
+            window->requestActivate();
+            return QTest::qWaitForWindowActive(window) ? window : nullptr;
+        };
+        for (const QKeySequence &keys : {QKeySequence(Qt::CTRL | Qt::Key_W), QKeySequence(Qt::Key_Escape)}) {
+            QQuickWindow *window = open();
+            QVERIFY(window);
+            QSignalSpy closed(window, isQuestion ? SIGNAL(cancelled()) : SIGNAL(visibleChanged(bool)));
+            QTest::keySequence(window, keys);
+            QVERIFY2(QTest::qWaitFor([&] { return closed.count() == 1; }), qPrintable(keys.toString()));
+        }
+        if (isQuestion)
+            return; // it is the answer to the other one
+        QQuickWindow *window = open();
+        QSignalSpy quit(window, SIGNAL(quitWanted()));
+        QTest::keySequence(window, QKeySequence(Qt::CTRL | Qt::Key_Q));
+        QCOMPARE(quit.count(), 1);
+        QVERIFY(window->isVisible());
+    }
+
+    void escapeClosesWhatIsInTheWindowFirst()
+    {
+        Stage stage;
+        Snapshot snapshot;
+        snapshot.torPath = QStringLiteral("/usr/bin/tor");
+        stage.session.show(snapshot);
+        QQuickWindow *window = stage.open(QStringLiteral("main/MainWindow.qml"), panel(stage));
+        window->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        stage.picture();
+        const auto *sheet = window->findChild<QObject *>(QStringLiteral("applications"));
+        QVERIFY(QMetaObject::invokeMethod(const_cast<QObject *>(sheet), "open"));
+        QVERIFY(QTest::qWaitFor([&] { return sheet->property("opened").toBool(); }));
+        QTest::keyClick(window, Qt::Key_Escape);
+        QVERIFY(QTest::qWaitFor([&] { return !sheet->property("visible").toBool(); }));
+        QVERIFY(window->isVisible());
+
+        QQuickItem *list = nullptr;
+        const std::function<void(QQuickItem *)> look = [&](QQuickItem *item) {
+            if (!list && item->inherits("QQuickComboBox"))
+                list = item;
+            for (QQuickItem *child : item->childItems())
+                look(child);
+        };
+        look(window->contentItem());
+        QVERIFY(list);
+        auto *popup = list->property("popup").value<QObject *>();
+        list->forceActiveFocus(Qt::TabFocusReason);
+        QTest::keyClick(window, Qt::Key_Space);
+        QVERIFY(QTest::qWaitFor([&] { return popup->property("opened").toBool(); }));
+        QTest::keyClick(window, Qt::Key_Escape);
+        QVERIFY(QTest::qWaitFor([&] { return !popup->property("visible").toBool(); }));
+        QVERIFY(window->isVisible());
+        QTest::keyClick(window, Qt::Key_Escape);
+        QVERIFY(QTest::qWaitFor([&] { return !window->isVisible(); }));
+
+        stage.log.show(LogFeed::State::lines, Scenes::log(20));
+        window = stage.open(QStringLiteral("log/LogWindow.qml"), with(&stage.lines));
+        window->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        QTest::keySequence(window, QKeySequence(Qt::CTRL | Qt::Key_F));
+        QTest::keyClick(window, Qt::Key_T);
+        QCOMPARE(stage.lines.search(), QStringLiteral("t"));
+        QTest::keyClick(window, Qt::Key_Escape);
+        QCOMPARE(stage.lines.search(), QString());
+        QVERIFY(window->isVisible());
+        QTest::keyClick(window, Qt::Key_Escape);
+        QVERIFY(QTest::qWaitFor([&] { return !window->isVisible(); }));
+    }
+
+    void aChoiceThatIsNotMadeLeavesTheOneThatWas()
+    {
+        Stage stage;
+        stage.session.show(Snapshot());
+        QVariantMap tor = with(&stage.settings);
+        tor.insert(QStringLiteral("pane"), 1);
+        QQuickWindow *window = stage.open(QStringLiteral("settings/SettingsWindow.qml"), tor);
+        stage.picture();
+        QSignalSpy wanted(window, SIGNAL(torChooserWanted()));
+        QQuickItem *automatic = named(window->contentItem(), QStringLiteral("Automatic"));
+        QQuickItem *custom = named(window->contentItem(), QStringLiteral("Custom location"));
+        const auto click = [window](const QQuickItem *item) {
+            QTest::mouseClick(window, Qt::LeftButton, {},
+                              item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint());
+        };
+        click(custom); // and then Cancel
+        QCOMPARE(wanted.count(), 1);
+        QVERIFY(automatic->property("checked").toBool());
+        QVERIFY(!custom->property("checked").toBool());
+        stage.settings.chooseTor(QUrl::fromLocalFile(QStringLiteral("/opt/tor")));
+        QVERIFY(!automatic->property("checked").toBool());
+        QVERIFY(custom->property("checked").toBool());
+        click(automatic);
+        QVERIFY(automatic->property("checked").toBool());
+        QVERIFY(!custom->property("checked").toBool());
+    }
+
+    void theRecoveryPaneLooksAgainWhenItOpens()
+    {
+        Stage stage;
+        stage.session.show(Snapshot());
+        QQuickWindow *window = stage.open(QStringLiteral("settings/SettingsWindow.qml"), with(&stage.settings));
+        QCOMPARE(stage.session.asked, QStringList());
+        for (const int pane : {4, 3}) {
+            window->setProperty("pane", pane);
+            QCOMPARE(stage.session.asked, QStringList(QStringLiteral("lookAgain")));
+            stage.session.asked.clear();
+        }
     }
 
     void anApplicationIsChosenByKeyboard()

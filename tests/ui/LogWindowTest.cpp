@@ -1,10 +1,13 @@
 #include "Scenes.h"
 #include "Stage.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QQuickItem>
 #include <QTest>
+
+#include <functional>
 
 using namespace veldmark;
 
@@ -16,13 +19,12 @@ class LogWindowTest : public QObject {
     static constexpr int count = 3000;
 
     std::unique_ptr<Stage> stage;
-    std::vector<LogLine> all;
+    QList<TorLogLine> all;
     QQuickItem *lines = nullptr;
 
     void showFrom(int first, int number = count)
     {
-        stage->log.show(LogFeed::State::lines,
-                        std::vector<LogLine>(all.begin() + first, all.begin() + first + number));
+        stage->log.show(LogFeed::State::lines, all.mid(first, number));
         stage->picture();
     }
     bool follows() const { return lines->property("follow").toBool(); }
@@ -52,6 +54,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         QGuiApplication::setFont(QFont(QStringLiteral("Noto Sans")));
+        QAccessible::setActive(true);
         all = Scenes::log(2 * count + 100);
     }
 
@@ -79,7 +82,7 @@ private Q_SLOTS:
         QCOMPARE(lastLine(), all[count - 1].raw);
         for (int i = 1; i <= 5; ++i) {
             showFrom(i);
-            QCOMPARE(lastLine(), all[static_cast<size_t>(count - 1 + i)].raw);
+            QCOMPARE(lastLine(), all[count - 1 + i].raw);
         }
     }
 
@@ -130,6 +133,56 @@ private Q_SLOTS:
         QVERIFY(copied.size() > 2);
         QCOMPARE(copied.first(), first);
         QCOMPARE(copied.last(), last);
+    }
+
+    void aPartOfALineIsSelectedAsText()
+    {
+        const QString line = lineAt(60);
+        QTest::mousePress(stage->window(), Qt::LeftButton, {}, inWindow(200, 60));
+        QTest::mouseMove(stage->window(), inWindow(230, 60));
+        QTest::mouseMove(stage->window(), inWindow(290, 60));
+        QTest::mouseRelease(stage->window(), Qt::LeftButton, {}, inWindow(290, 60));
+        QTest::keyClick(stage->window(), Qt::Key_C, Qt::ControlModifier);
+        const QString part = QGuiApplication::clipboard()->text();
+        QVERIFY2(part.size() >= 3 && part.size() < line.size() && line.contains(part), qPrintable(part));
+        QTest::mouseDClick(stage->window(), Qt::LeftButton, {}, inWindow(200, 60));
+        QTest::keyClick(stage->window(), Qt::Key_C, Qt::ControlModifier);
+        const QString word = QGuiApplication::clipboard()->text();
+        QVERIFY2(!word.trimmed().isEmpty() && !word.trimmed().contains(u' ') && line.contains(word), qPrintable(word));
+        // A click selects its line again, and so does the keyboard.
+        QTest::mouseClick(stage->window(), Qt::LeftButton, {}, inWindow(200, 160));
+        QTest::keyClick(stage->window(), Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(), lineAt(160));
+    }
+
+    void theLevelIsTold()
+    {
+        showFrom(0, 7);
+        QStringList names;
+        const std::function<void(QQuickItem *)> look = [&](QQuickItem *item) {
+            if (!item->isVisible())
+                return; // kept for later
+            if (auto *face = QAccessible::queryAccessibleInterface(item); face && face->role() == QAccessible::ListItem)
+                names << face->text(QAccessible::Name).section(u' ', 0, 0) + u'|' + face->text(QAccessible::Description);
+            for (QQuickItem *child : item->childItems())
+                look(child);
+        };
+        look(lines);
+        names.sort();
+        QCOMPARE(names, QStringList({QStringLiteral("Error:|"), QStringLiteral("Nov|Notice"), QStringLiteral("Nov|Notice"),
+                                     QStringLiteral("Nov|Notice"), QStringLiteral("Nov|Notice"), QStringLiteral("Warning:|"),
+                                     QStringLiteral("|Information")}));
+    }
+
+    void aNewWindowFiltersNothing()
+    {
+        stage->lines.setSearch(QStringLiteral("nowhere"));
+        stage->lines.setProblemsOnly(true);
+        stage->window()->close();
+        QVERIFY(stage->open(QStringLiteral("log/LogWindow.qml"),
+                            {{QStringLiteral("model"), QVariant::fromValue(&stage->lines)}}));
+        QVERIFY(stage->lines.search().isEmpty() && !stage->lines.problemsOnly());
+        QCOMPARE(stage->lines.rowCount(), count);
     }
 
     void theSelectionStaysOnItsLines()

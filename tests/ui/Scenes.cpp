@@ -86,9 +86,20 @@ std::vector<Scene> panel()
     s = idle;
     s.torPath.reset();
     add("disconnected-no-tor", s);
+    s.errorMessage = QStringLiteral("The settings couldn't be saved. Changes to them may last only until you quit.");
+    add("disconnected-no-tor-error", s);
     s = idle;
     s.errorMessage = QStringLiteral("Tor didn't finish connecting within 5 minutes. (Connection refused)");
     add("disconnected-error", s);
+    s = idle;
+    s.choices.exitCountry = QStringLiteral("at");
+    s.choices.bridgeChoice = BridgeChoice::obfs4;
+    s.transports.lyrebird = QStringLiteral("/usr/bin/lyrebird");
+    s.transports.builtin = {{QStringLiteral("obfs4"), {QStringLiteral("obfs4 192.0.2.1:443 cert=a")}}};
+    s.transports.source = QStringLiteral("Tor Browser");
+    s.choices.terminalMode = true;
+    s.terminalError = QStringLiteral("Couldn't set up terminal mode: /home/user/.bashrc is read-only.");
+    add("disconnected-unlisted-country-terminal-error", s);
     s = idle;
     s.choices.bridgeChoice = BridgeChoice::custom;
     s.choices.bypassApps = {QStringLiteral("/usr/share/applications/org.example.Game.desktop")};
@@ -186,6 +197,7 @@ std::vector<Scene> panel()
     s = protectedSession();
     s.phase = Phase::disconnecting;
     s.statusDetail = QStringLiteral("Restoring your network settings…");
+    s.bootstrapProgress = 1; // as Tor reported last
     add("disconnecting-strict", s);
     s.activeMode = RoutingMode::proxy;
     s.choices.strictMode = false;
@@ -220,28 +232,28 @@ std::vector<Scene> panel()
     return scenes;
 }
 
-std::vector<LogLine> log(int count)
+QList<TorLogLine> log(int count)
 {
-    static const std::array<std::pair<LogLine::Level, const char *>, 7> texts{{
-        {LogLine::Level::notice, "Tor 0.4.7.16 running on Linux with Libevent 2.1.12-stable, OpenSSL 3.0.15"},
-        {LogLine::Level::notice, "Opened Socks listener connection (ready) on 127.0.0.1:9050"},
-        {LogLine::Level::notice, "Bootstrapped 45% (requesting_descriptors): Asking for relay descriptors"},
-        {LogLine::Level::warning, "Guard quietharbor ($0000000000000000000000000000000000000001) is failing more circuits than usual. Most likely this means the Tor network is overloaded. Success counts are 141/203."},
-        {LogLine::Level::info, "launcher: tor started"},
-        {LogLine::Level::error, "Could not bind to 127.0.0.1:9051: Address already in use. Is Tor already running?"},
-        {LogLine::Level::notice, "Bootstrapped 100% (done): Done"},
+    static const std::array<std::pair<TorLogLine::Level, const char *>, 7> texts{{
+        {TorLogLine::Level::notice, "Tor 0.4.7.16 running on Linux with Libevent 2.1.12-stable, OpenSSL 3.0.15"},
+        {TorLogLine::Level::notice, "Opened Socks listener connection (ready) on 127.0.0.1:9050"},
+        {TorLogLine::Level::notice, "Bootstrapped 45% (requesting_descriptors): Asking for relay descriptors"},
+        {TorLogLine::Level::warning, "Guard quietharbor ($0000000000000000000000000000000000000001) is failing more circuits than usual. Most likely this means the Tor network is overloaded. Success counts are 141/203."},
+        {TorLogLine::Level::info, "launcher: tor started"},
+        {TorLogLine::Level::error, "Could not bind to 127.0.0.1:9051: Address already in use. Is Tor already running?"},
+        {TorLogLine::Level::notice, "Bootstrapped 100% (done): Done"},
     }};
-    std::vector<LogLine> lines;
+    QList<TorLogLine> lines;
     for (int i = 0; i < count; ++i) {
         const auto &[level, text] = texts[static_cast<size_t>(i) % texts.size()];
-        LogLine line;
+        TorLogLine line;
         line.level = level;
         line.message = QString::fromUtf8(text);
-        if (level != LogLine::Level::info)
+        if (level != TorLogLine::Level::info)
             line.time = QStringLiteral("Nov 16 09:%1:%2.123")
                             .arg(i / 60 % 60, 2, 10, QLatin1Char('0')).arg(i % 60, 2, 10, QLatin1Char('0'));
-        line.raw = line.time + u' ' + line.message + QString::number(i);
-        lines.push_back(line);
+        line.raw = line.time.value_or(QString()) + u' ' + line.message + QString::number(i);
+        lines << line;
     }
     return lines;
 }

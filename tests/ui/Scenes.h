@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/LogFeed.h"
+#include "log/TorLogLine.h"
 #include "ui/Snapshot.h"
 
 #include <vector>
@@ -18,6 +18,6 @@ std::vector<Scene> panel();
 Snapshot protectedSession();
 // `count` circuits over a few dozen relays, the first two of them linked legs.
 std::vector<CircuitInfo> circuits(int count);
-std::vector<LogLine> log(int count);
+QList<TorLogLine> log(int count);
 
 } // namespace veldmark::Scenes

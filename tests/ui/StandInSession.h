@@ -57,7 +57,7 @@ public:
         m_now.errorMessage.reset();
         Q_EMIT changed();
     }
-    void lookForTor() override { asked << QStringLiteral("lookForTor"); }
+    void lookAgain() override { asked << QStringLiteral("lookAgain"); }
     void lookForTransports() override { asked << QStringLiteral("lookForTransports"); }
     void downloadTransports() override { asked << QStringLiteral("downloadTransports"); }
     void installPasswordless() override { asked << QStringLiteral("installPasswordless"); }
@@ -88,23 +88,20 @@ public:
 
 class StandInLog final : public LogFeed {
 public:
-    State state() const override { return m_state; }
-    const std::vector<LogLine> &lines() const override { return m_lines; }
+    const TorLog::Snapshot &snapshot() const override { return m_snapshot; }
     void start() override { running = true; }
     void stop() override { running = false; }
 
-    void show(State state, std::vector<LogLine> lines = {})
+    void show(State state, const QList<TorLogLine> &lines = {})
     {
-        m_state = state;
-        m_lines = std::move(lines);
+        m_snapshot = state == State::unreadable ? TorLog::Snapshot::unreadable() : TorLog::Snapshot::of(lines);
         Q_EMIT changed();
     }
 
     bool running = false;
 
 private:
-    State m_state = State::empty;
-    std::vector<LogLine> m_lines;
+    TorLog::Snapshot m_snapshot;
 };
 
 } // namespace veldmark

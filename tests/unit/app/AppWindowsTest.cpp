@@ -1,3 +1,4 @@
+#include "Scenes.h"
 #include "StandInSession.h"
 #include "app/Windows.h"
 #include "support/TestProgram.h"
@@ -113,6 +114,82 @@ private Q_SLOTS:
         QVERIFY(shown.windows->open(u"log"_s));
         QCOMPARE(shown.windows->find(u"log"_s)->size(), QSize(700, 450));
         QCOMPARE(shown.windows->find(u"log"_s)->framePosition(), place);
+    }
+
+    void theyHaveTheirSizesFromTheStart()
+    {
+        Shown shown;
+        for (const auto &[name, size] : {std::pair(u"circuits"_s, QSize(1000, 640)), {u"log"_s, QSize(900, 540)},
+                                         {u"settings"_s, QSize(760, 540)}, {u"chooser"_s, QSize(460, 560)}}) {
+            QVERIFY(shown.windows->open(name));
+            QCOMPARE(shown.windows->find(name)->size(), size);
+        }
+        QVERIFY(shown.windows->open(u"main"_s));
+        QCOMPARE(shown.windows->find(u"main"_s)->width(), 400);
+    }
+
+    void theMainWindowIsAsTallAsItsContentUntilItsUserSaysHowTall()
+    {
+        Shown shown;
+        Snapshot small;
+        small.torPath = u"/usr/bin/tor"_s;
+        shown.session.show(small);
+        QVERIFY(shown.windows->open(u"main"_s));
+        QQuickWindow *main = shown.windows->find(u"main"_s);
+        main->grabWindow();
+        settle();
+        const int before = main->height();
+        small.errorMessage = u"Tor didn't finish connecting within 5 minutes."_s;
+        shown.session.show(small);
+        main->grabWindow();
+        settle();
+        QVERIFY2(main->height() > before, qPrintable(QString::number(before))); // the banner's
+        const int content = main->height();
+        main->resize(main->width(), before); // what the window manager tells late is nobody's wish
+        small.errorMessage.reset();
+        shown.session.show(small);
+        settle();
+        main->resize(main->width(), 512);
+        small.errorMessage = u"Tor stopped running"_s;
+        shown.session.show(small);
+        main->grabWindow();
+        settle();
+        QCOMPARE(main->height(), 512);
+        QVERIFY(content != 512);
+        main->close();
+        shown.windows.reset();
+        shown.windows = std::make_unique<Windows>(shown.session, shown.log, *shown.bench.settings);
+        QVERIFY(shown.windows->open(u"main"_s));
+        QCOMPARE(shown.windows->find(u"main"_s)->height(), 512);
+    }
+
+    void aFilterDoesNotOutliveItsWindow()
+    {
+        Shown shown;
+        shown.log.show(LogFeed::State::lines, Scenes::log(20));
+        for (const auto &[name, shownRows] : {std::pair(u"log"_s, 20), {u"chooser"_s, 3}}) {
+            QVERIFY(shown.windows->open(name));
+            const auto *rows = shown.windows->find(name)->property("model").value<QAbstractItemModel *>();
+            QCOMPARE(rows->rowCount(), shownRows);
+            shown.windows->find(name)->property("model").value<QObject *>()->setProperty("search", u"zzz"_s);
+            QCOMPARE(rows->rowCount(), 0);
+            shown.windows->find(name)->close();
+            QVERIFY(until([&] { return !shown.windows->find(name); }));
+            QVERIFY(shown.windows->open(name));
+            QCOMPARE(rows->rowCount(), shownRows);
+        }
+    }
+
+    void everyWindowCanAskToQuit()
+    {
+        Shown shown;
+        QSignalSpy quit(shown.windows.get(), &Windows::quitWanted);
+        int windows = 0;
+        for (const QString &name : {u"main"_s, u"circuits"_s, u"log"_s, u"settings"_s, u"chooser"_s}) {
+            QVERIFY(shown.windows->open(name));
+            QVERIFY(QMetaObject::invokeMethod(shown.windows->find(name), "quitWanted"));
+            QCOMPARE(quit.count(), ++windows);
+        }
     }
 
     void whatIsOpenWhenTheProgramEndsIsRememberedToo()

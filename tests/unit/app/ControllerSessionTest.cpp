@@ -2,6 +2,7 @@
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QMetaMethod>
 #include <QSignalSpy>
@@ -195,6 +196,70 @@ private Q_SLOTS:
         follow(session);
         QVERIFY(session.now().killSwitch == bench.controller().killSwitch());
         QVERIFY(session.now().killSwitch->state == KillSwitch::State::putBack);
+    }
+
+    void showsWhetherShellsAndSshReadTheTerminalsFiles()
+    {
+        Workbench bench;
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        QVERIFY(QDir().mkpath(bench.profile.terminalDirectory)); // which says nothing of what is in it
+        session.lookAgain();
+        follow(session);
+        QVERIFY(!session.now().terminalInstalled);
+        Choices choices = session.now().choices;
+        choices.terminalMode = true;
+        session.store(choices);
+        QVERIFY(until([&] { return session.now().terminalInstalled; }));
+        QVERIFY(!session.now().terminalForSsh); // this computer has no netcat
+        QVERIFY(session.now().terminalError && session.now().terminalError->contains(u"netcat"_s));
+        bench.writeFile(bench.profile.netcatCandidates.constFirst(),
+                        "#!/bin/sh\necho '[-X proxy_protocol] [-x proxy_address[:port]]'\n", true);
+        choices.terminalMode = false;
+        session.store(choices);
+        QVERIFY(until([&] { return !session.now().terminalError; }));
+        choices.terminalMode = true;
+        session.store(choices);
+        QVERIFY(until([&] { return session.now().terminalForSsh; }));
+        QVERIFY(!session.now().terminalError);
+        // Somebody takes our line out of the shell's file.
+        bench.writeFile(bench.profile.shellFilesAlways.constFirst(), "# nothing\n");
+        session.lookAgain();
+        follow(session);
+        QVERIFY(!session.now().terminalInstalled && !session.now().terminalForSsh);
+        session.removeTerminalIntegration();
+        follow(session);
+        QVERIFY(!session.now().terminalInstalled);
+    }
+
+    void tellsWhyAnApplicationWasNotOpened()
+    {
+        Workbench bench;
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        QVERIFY(bench.connect());
+        bench.failHelper(u"launch"_s, u"it has no program"_s);
+        QSignalSpy failed(&session, &Session::launchFailed);
+        session.launchBypassed(u"/usr/share/applications/games.desktop"_s);
+        QVERIFY(until([&] { return failed.count() == 1; }));
+        QVERIFY2(failed.at(0).at(0).toString().contains(u"it has no program"_s), qPrintable(failed.at(0).at(0).toString()));
+        bench.cancelPrompt(u"launch"_s);
+        const int runs = bench.helperRunCount(u"launch"_s);
+        session.launchBypassed(u"/usr/share/applications/games.desktop"_s);
+        QVERIFY(until([&] { return bench.helperRunCount(u"launch"_s) == runs + 1; }));
+        settle();
+        QCOMPARE(failed.count(), 1); // the user's own choice
+    }
+
+    void looksAgainAtTheMarker()
+    {
+        Workbench bench;
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        QVERIFY(!session.now().markerPresent);
+        bench.writeMarker("strict\n");
+        settle();
+        QVERIFY(!session.now().markerPresent); // nobody tells
+        session.lookAgain();
+        follow(session);
+        QVERIFY(session.now().markerPresent);
     }
 
     void aLoginItemThatCannotBeWrittenIsTold()

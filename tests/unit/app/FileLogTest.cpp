@@ -20,8 +20,8 @@ private Q_SLOTS:
         Workbench bench;
         FileLog log(bench.profile);
         log.start();
-        QVERIFY(log.state() == LogFeed::State::empty);
-        QVERIFY(log.lines().empty());
+        QVERIFY(log.snapshot().kind() == LogFeed::State::empty);
+        QVERIFY(log.snapshot().lines().empty());
     }
 
     void givesTheLinesWithTheirLevels()
@@ -34,14 +34,14 @@ private Q_SLOTS:
         QSignalSpy changed(&log, &LogFeed::changed);
         log.start();
         QVERIFY(until([&] { return !changed.isEmpty(); }));
-        QVERIFY(log.state() == LogFeed::State::lines);
-        QCOMPARE(log.lines().size(), std::size_t(3));
-        QCOMPARE(log.lines().at(0).message, u"Bootstrapped 5%"_s);
-        QVERIFY(log.lines().at(0).level == LogLine::Level::notice);
-        QVERIFY(log.lines().at(1).level == LogLine::Level::warning);
-        QVERIFY(log.lines().at(2).level == LogLine::Level::error);
-        QVERIFY(log.lines().at(2).raw.endsWith(u"[err] No more"_s));
-        QVERIFY(log.lines().at(0).time.contains(u"00:41:07"_s));
+        QVERIFY(log.snapshot().kind() == LogFeed::State::lines);
+        QCOMPARE(log.snapshot().lines().size(), qsizetype(3));
+        QCOMPARE(log.snapshot().lines().at(0).message, u"Bootstrapped 5%"_s);
+        QVERIFY(log.snapshot().lines().at(0).level == TorLogLine::Level::notice);
+        QVERIFY(log.snapshot().lines().at(1).level == TorLogLine::Level::warning);
+        QVERIFY(log.snapshot().lines().at(2).level == TorLogLine::Level::error);
+        QVERIFY(log.snapshot().lines().at(2).raw.endsWith(u"[err] No more"_s));
+        QVERIFY(log.snapshot().lines().at(0).time->contains(u"00:41:07"_s));
     }
 
     void followsTheFileUntilItIsStopped()
@@ -51,17 +51,17 @@ private Q_SLOTS:
         FileLog log(bench.profile);
         QSignalSpy changed(&log, &LogFeed::changed);
         log.start();
-        QVERIFY(until([&] { return log.lines().size() == 1; }));
+        QVERIFY(until([&] { return log.snapshot().lines().size() == 1; }));
         bench.writeFile(notices(bench), "Nov 16 00:41:07.123 [notice] One\nNov 16 00:41:08.000 [notice] Two\n");
-        QVERIFY(until([&] { return log.lines().size() == 2; }));
+        QVERIFY(until([&] { return log.snapshot().lines().size() == 2; }));
         log.stop();
         const qsizetype told = changed.count();
         bench.writeFile(notices(bench), "Nov 16 00:41:09.000 [notice] Three\n");
         settle();
         QCOMPARE(changed.count(), told);
         log.start(); // catches up at once
-        QCOMPARE(log.lines().size(), std::size_t(1));
-        QCOMPARE(log.lines().at(0).message, u"Three"_s);
+        QCOMPARE(log.snapshot().lines().size(), qsizetype(1));
+        QCOMPARE(log.snapshot().lines().at(0).message, u"Three"_s);
     }
 
     void saysThatItCannotRead()
@@ -70,8 +70,8 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(notices(bench))); // a folder where the file should be
         FileLog log(bench.profile);
         log.start();
-        QVERIFY(log.state() == LogFeed::State::unreadable);
-        QVERIFY(log.lines().empty());
+        QVERIFY(log.snapshot().kind() == LogFeed::State::unreadable);
+        QVERIFY(log.snapshot().lines().empty());
     }
 };
 

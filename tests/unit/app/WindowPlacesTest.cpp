@@ -86,6 +86,24 @@ private Q_SLOTS:
         QCOMPARE(window.framePosition(), QPoint(10, 20));
     }
 
+    void aHeightThatItsUserGaveIsKeptAllTheSame()
+    {
+        Workbench bench;
+        WindowPlaces places(*bench.settings);
+        constexpr auto height = WindowPlaces::Height::ownedByContent;
+        QQuickWindow window;
+        window.resize(400, 500);
+        window.show();
+        places.keep(u"main"_s, &window, height);
+        QCOMPARE(bench.settings->string(u"windows/mainHeight"_s), QString());
+        window.setProperty("chosenHeight", 520);
+        places.keep(u"main"_s, &window, height);
+        QQuickWindow next;
+        next.resize(400, 500);
+        places.remember(u"main"_s, &next, height);
+        QCOMPARE(next.property("chosenHeight").toInt(), 520);
+    }
+
     void aPlaceThatIsNoLongerOnAScreenIsBroughtBack()
     {
         Workbench bench;

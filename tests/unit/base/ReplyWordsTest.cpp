@@ -1,4 +1,5 @@
 #include "base/ReplyWords.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -59,5 +60,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(ReplyWordsTest)
+VELDMARK_BARE_TEST(ReplyWordsTest)
 #include "ReplyWordsTest.moc"

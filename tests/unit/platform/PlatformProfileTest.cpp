@@ -16,6 +16,62 @@ void write(const QString &path, const QByteArray &content)
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(content);
 }
+
+Places home() { return Places::below(QStringLiteral("/nowhere")); }
+
+// All that a profile says, a line for each thing.
+QString table(const PlatformProfile &p)
+{
+    const auto list = [](const QStringList &words) { return words.join(QStringLiteral(", ")); };
+    QStringList browsers;
+    for (const ProgramRoot &root : p.torBrowserRoots) {
+        browsers << root.path;
+        if (root.label != QLatin1String("Tor Browser"))
+            browsers << root.label;
+    }
+    const std::vector<std::pair<const char *, QString>> rows{
+        {"name", p.name},
+        {"computer", list({p.computer, p.onComputer})},
+        {"fileManager", p.fileManager},
+        {"torInstallHint", p.torInstallHint},
+        {"torMissingText", p.torMissingText},
+        {"homePage", p.homePage},
+        {"manualRestoreCommand", p.manualRestoreCommand},
+        {"sessionMarker", p.sessionMarker},
+        {"relockNotice", p.relockNotice},
+        {"installedHelper", p.installedHelper},
+        {"sudoersRule", p.sudoersRule},
+        {"runDirectory", p.runDirectory},
+        {"launcher", list({p.launcherOutput, p.launcherPrefix})},
+        {"torAccount", p.torAccount},
+        {"helperCandidates", list(p.helperCandidates)},
+        {"torCandidates", list(p.torCandidates)},
+        {"transportDirectories", list(p.transportDirectories)},
+        {"gnupgCandidates", list(p.gnupgCandidates)},
+        {"sudo", p.sudo},
+        {"unzip", p.unzip},
+        {"prompt", list({p.promptKind == PromptKind::PolicyKit ? QStringLiteral("PolicyKit") : QStringLiteral("AppleScript"),
+                         p.promptProgram})},
+        {"promptText", p.promptText},
+        {"torBrowserRoots", list(browsers)},
+        {"bundle", list({p.bundleDirectory, p.bundleArchivePrefix})},
+        {"applicationSuffix", p.applicationSuffix},
+        {"settingsFile", p.settingsFile},
+        {"autostartFile", p.autostartFile},
+        {"shellFiles", list(p.shellFilesAlways) + QStringLiteral("; where it exists ") + list(p.shellFilesIfPresent)},
+        {"terminal", list({p.terminalDirectory, p.terminalMaker}) + QStringLiteral(", gives back proxies %1").arg(p.givesBackProxies)},
+        {"sshDirectory", p.sshDirectory},
+        {"netcat", p.netcat + QStringLiteral("; ") + list(p.netcatCandidates) + QStringLiteral("; ") + p.ncat},
+        {"resolverFile", p.resolverFile},
+        {"quitCanBeRefused", QString::number(p.quitCanBeRefused)},
+        {"scutil", p.scutil},
+        {"controlSocket", p.controlSocket},
+    };
+    QString text;
+    for (const auto &[key, value] : rows)
+        text += QLatin1String(key) + QStringLiteral(": ") + value + u'\n';
+    return text.replace(p.places.home, QStringLiteral("~"));
+}
 } // namespace
 
 class PlatformProfileTest : public QObject {
@@ -60,6 +116,103 @@ private Q_SLOTS:
             for (const QString &path : paths)
                 QVERIFY2(path.startsWith(QLatin1String("/tmp/elsewhere/")), qPrintable(p.name + path));
         }
+    }
+
+    // Every field, so that no path or text changes unnoticed. "~" stands for the home.
+    void linuxIsThis()
+    {
+        QCOMPARE(table(PlatformProfile::linux(home())), QStringLiteral(R"(name: linux
+computer: This computer, on this computer
+fileManager: the file manager
+torInstallHint: your package manager
+torMissingText: Tor isn't installed. Install it with your package manager or set its location in Settings.
+homePage: 
+manualRestoreCommand: sudo bash /nowhere/usr/share/veldmark/veldmark-helper.sh disconnect
+sessionMarker: /nowhere/var/lib/veldmark/state/active
+relockNotice: /nowhere/var/lib/veldmark/state/relocked
+installedHelper: /nowhere/usr/local/libexec/veldmark/veldmark-helper.sh
+sudoersRule: /nowhere/etc/sudoers.d/veldmark
+runDirectory: /nowhere/var/lib/veldmark/run
+launcher: launcher.out, launcher: 
+torAccount: _veldmark
+helperCandidates: /nowhere/app/veldmark-helper.sh, /nowhere/usr/share/veldmark/veldmark-helper.sh
+torCandidates: /nowhere/usr/bin/tor, /nowhere/usr/local/bin/tor, /nowhere/usr/sbin/tor, /nowhere/home/linuxbrew/.linuxbrew/bin/tor
+transportDirectories: /nowhere/usr/bin, /nowhere/usr/local/bin
+gnupgCandidates: /nowhere/usr/bin, /nowhere/usr/local/bin
+sudo: /nowhere/usr/bin/sudo
+unzip: /nowhere/usr/bin/unzip
+prompt: PolicyKit, /nowhere/usr/bin/pkexec
+promptText: Veldmark needs administrator access to manage Tor routing on this computer.
+torBrowserRoots: ~/.local/share/torbrowser/tbb/x86_64/tor-browser, ~/tor-browser, /nowhere/opt/tor-browser
+bundle: ~/.local/share/veldmark/TorExpertBundle, tor-expert-bundle-linux-x86_64-
+applicationSuffix: .desktop
+settingsFile: ~/.config/veldmark/veldmark.conf
+autostartFile: ~/.config/autostart/veldmark.desktop
+shellFiles: ~/.bashrc; where it exists ~/.zshrc
+terminal: ~/.veldmark, Veldmark, gives back proxies 1
+sshDirectory: ~/.ssh
+netcat: ; /nowhere/usr/bin/nc, /nowhere/bin/nc, /nowhere/usr/bin/nc.openbsd, /nowhere/bin/nc.openbsd; /nowhere/usr/bin/ncat
+resolverFile: /nowhere/etc/resolv.conf
+quitCanBeRefused: 0
+scutil: 
+controlSocket: /nowhere/run/user/1000/veldmark/control
+)"));
+    }
+
+    void aMacIsThis()
+    {
+        QCOMPARE(table(PlatformProfile::macos(home())), QStringLiteral(R"(name: macos
+computer: This Mac, on this Mac
+fileManager: Finder
+torInstallHint: brew install tor
+torMissingText: Tor isn't installed. Install it with Homebrew (brew install tor) or set its location in Settings.
+homePage: 
+manualRestoreCommand: sudo bash /Applications/Veldmark.app/Contents/Resources/veldmark-helper.sh disconnect
+sessionMarker: /nowhere/Library/Application Support/Veldmark/state/active
+relockNotice: /nowhere/Library/Application Support/Veldmark/state/relocked
+installedHelper: /nowhere/Library/Application Support/Veldmark/bin/veldmark-helper.sh
+sudoersRule: /nowhere/etc/sudoers.d/veldmark
+runDirectory: /nowhere/var/db/veldmark/run
+launcher: launchd.out, launchd: 
+torAccount: _veldmark
+helperCandidates: /nowhere/app/../Resources/veldmark-helper.sh, /nowhere/app/veldmark-helper.sh
+torCandidates: /nowhere/opt/homebrew/bin/tor, /nowhere/usr/local/bin/tor, /nowhere/opt/local/bin/tor
+transportDirectories: /nowhere/opt/homebrew/bin, /nowhere/usr/local/bin
+gnupgCandidates: /nowhere/opt/homebrew/bin, /nowhere/usr/local/bin, /nowhere/usr/local/MacGPG2/bin
+sudo: /nowhere/usr/bin/sudo
+unzip: /nowhere/usr/bin/unzip
+prompt: AppleScript, /nowhere/usr/bin/osascript
+promptText: Veldmark needs administrator access to manage Tor routing on this Mac.
+torBrowserRoots: /nowhere/Applications/Tor Browser.app
+bundle: ~/Library/Application Support/Veldmark/TorExpertBundle, tor-expert-bundle-macos-aarch64-
+applicationSuffix: .app
+settingsFile: 
+autostartFile: 
+shellFiles: ~/.zshrc; where it exists ~/.bash_profile
+terminal: ~/.veldmark, Veldmark.app, gives back proxies 0
+sshDirectory: ~/.ssh
+netcat: /nowhere/usr/bin/nc; ; 
+resolverFile: /nowhere/etc/resolv.conf
+quitCanBeRefused: 1
+scutil: /nowhere/usr/sbin/scutil
+controlSocket: ~/Library/Application Support/Veldmark/run/control
+)"));
+    }
+
+    void aRelativeFolderOfTheEnvironmentIsIgnored()
+    {
+        for (const char *variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
+            qputenv(variable, "/absolute");
+        Places places = Places::fromEnvironment();
+        QCOMPARE(places.configHome + places.dataHome + places.runtimeDirectory, QStringLiteral("/absolute/absolute/absolute"));
+        for (const char *variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
+            qputenv(variable, "relative");
+        places = Places::fromEnvironment();
+        QCOMPARE(places.configHome, places.home + QStringLiteral("/.config"));
+        QCOMPARE(places.dataHome, places.home + QStringLiteral("/.local/share"));
+        QCOMPARE(places.runtimeDirectory, QString());
+        for (const char *variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
+            qunsetenv(variable);
     }
 
     void theMacIsNamedAsSuch()

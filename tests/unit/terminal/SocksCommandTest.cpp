@@ -77,6 +77,49 @@ private Q_SLOTS:
         QVERIFY(!socksCommand(home.profile));
     }
 
+    void theProgramsAreAskedOnceAndBesideWhatElseHappens()
+    {
+        const Home home;
+        const QString folder = home.profile.places.root + QStringLiteral("/usr/bin/");
+        QFile::remove(folder + QStringLiteral("nc"));
+        SocksSearch search(home.profile);
+        QVERIFY(search.isKnown()); // there is nobody to ask
+        const QString asked = folder + QStringLiteral("asked"), go = folder + QStringLiteral("go");
+        const QByteArray wait = "echo x >>'" + asked.toUtf8() + "'\nwhile [ ! -e '" + go.toUtf8() + "' ]; do sleep 0.01; done";
+        home.file(folder + QStringLiteral("nc"), program(openbsd, wait), 0755);
+        QVERIFY(!search.isKnown());
+        const auto first = search.ask();
+        const auto second = search.ask(); // shares that run
+        QVERIFY(!first.isReady() && !second.isReady()); // and this thread goes on
+        QTRY_VERIFY(QFile::exists(asked));
+        home.file(go, {});
+        QTRY_VERIFY(first.isReady() && second.isReady());
+        QVERIFY(search.isKnown());
+        QVERIFY(search.command()->startsWith(folder + QStringLiteral("nc ")));
+        const auto third = search.ask();
+        QVERIFY(third.isReady());
+        QCOMPARE(home.content(asked), QByteArray("x\n"));
+
+        home.file(folder + QStringLiteral("nc"), program("another one"), 0755); // an update
+        QVERIFY(!search.isKnown());
+        const auto again = search.ask();
+        QTRY_VERIFY(again.isReady());
+        QVERIFY(search.isKnown() && !search.command());
+    }
+
+    void nobodyWaitsForASearchThatIsGone()
+    {
+        const Home home;
+        const QString nc = home.profile.places.root + QStringLiteral("/usr/bin/nc");
+        QFile::remove(nc);
+        home.file(nc, program(openbsd, "exec sleep 1000"), 0755);
+        auto search = std::make_unique<SocksSearch>(home.profile);
+        const auto asking = search->ask();
+        QVERIFY(!asking.isReady());
+        search.reset();
+        QVERIFY(asking.isReady());
+    }
+
     void theDistributionsNetcatCanDoIt()
     {
         const QString nc = QStringLiteral("/bin/nc.openbsd");

@@ -72,6 +72,7 @@ private Q_SLOTS:
         QVERIFY(home.content(QStringLiteral(".veldmark/ssh_config")).contains("ProxyCommand " + home.profile.places.root.toUtf8() + "/usr/bin/nc -X 5"));
         QCOMPARE(home.content(QStringLiteral(".veldmark/shell.sh")).contains("Veldmark.app"), isMac);
         QCOMPARE(terminal(home).sshHint(), QString());
+        QVERIFY(terminal(home).isUsedBySsh());
     }
 
     void theConfigurationOfSshIsNeverWritableForOthers()
@@ -288,6 +289,7 @@ private Q_SLOTS:
         QVERIFY(!home.has(QStringLiteral(".veldmark/bin/veldmark-active")));
         QVERIFY(terminal(home).isInstalled());
         QVERIFY(!terminal(home).sshHint().isEmpty());
+        QVERIFY(!terminal(home).isUsedBySsh());
     }
 
     void aLinkedFolderOfItsOwnIsOnlyUnlinked()

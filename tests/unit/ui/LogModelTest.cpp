@@ -4,24 +4,27 @@
 
 #include <QAbstractItemModelTester>
 #include <QClipboard>
+#include <QDesktopServices>
+#include <QDir>
 #include <QGuiApplication>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace veldmark;
 
 namespace {
 
-LogLine line(LogLine::Level level, const char *text)
+TorLogLine line(TorLogLine::Level level, const char *text)
 {
-    return {QStringLiteral("Nov 16 00:41:07.123"), level, QString::fromUtf8(text), QString::fromUtf8(text)};
+    return {0, QStringLiteral("Nov 16 00:41:07.123"), level, QString::fromUtf8(text), QString::fromUtf8(text)};
 }
 
-std::vector<LogLine> numbered(int from, int to)
+QList<TorLogLine> numbered(int from, int to)
 {
-    std::vector<LogLine> lines;
+    QList<TorLogLine> lines;
     for (int i = from; i < to; ++i)
-        lines.push_back(line(LogLine::Level::notice, QByteArray::number(i).constData()));
+        lines.push_back(line(TorLogLine::Level::notice, QByteArray::number(i).constData()));
     return lines;
 }
 
@@ -31,8 +34,13 @@ class LogModelTest : public QObject {
     Q_OBJECT
 
     PlatformProfile profile = PlatformProfile::linux(Places::below(QStringLiteral("/nowhere")));
+    QStringList opened;
+
+public Q_SLOTS:
+    void openFolder(const QUrl &url) { opened << url.toLocalFile(); }
 
 private Q_SLOTS:
+    void initTestCase() { qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere/bus"); } // nobody is there
     void init() { profile.runDirectory = QStringLiteral("/run/tor"); }
 
     void saysHowManyLinesThereAre()
@@ -53,7 +61,7 @@ private Q_SLOTS:
         StandInLog log;
         LogModel model(log, profile);
         QCOMPARE(model.emptyTitle(), QStringLiteral("No log yet"));
-        log.show(LogFeed::State::lines, {line(LogLine::Level::notice, "Done"), line(LogLine::Level::info, "x")});
+        log.show(LogFeed::State::lines, {line(TorLogLine::Level::notice, "Done"), line(TorLogLine::Level::info, "x")});
         QCOMPARE(model.problemsLabel(), QStringLiteral("Problems"));
         model.setProblemsOnly(true);
         QVERIFY(!model.hasRows());
@@ -64,7 +72,7 @@ private Q_SLOTS:
         model.setProblemsOnly(false);
         model.setSearch(QStringLiteral("dONE"));
         QCOMPARE(model.rowCount(), 1);
-        log.show(LogFeed::State::lines, {line(LogLine::Level::warning, "a"), line(LogLine::Level::error, "b")});
+        log.show(LogFeed::State::lines, {line(TorLogLine::Level::warning, "a"), line(TorLogLine::Level::error, "b")});
         QCOMPARE(model.problemsLabel(), QStringLiteral("Problems (2)"));
     }
 
@@ -110,6 +118,61 @@ private Q_SLOTS:
         QCOMPARE(resets.count(), 1);
         log.show(LogFeed::State::empty);
         QCOMPARE(model.rowCount(), 0);
+    }
+
+    void searchesAsTheUsersLanguageDoes()
+    {
+        const QLocale before;
+        StandInLog log;
+        log.show(LogFeed::State::lines, {line(TorLogLine::Level::notice, "BAĞLANTI hazır"), line(TorLogLine::Level::notice, "other")});
+        QLocale::setDefault(QLocale(QLocale::Turkish));
+        LogModel turkish(log, profile);
+        turkish.setSearch(QStringLiteral("bağlantı"));
+        const int found = turkish.rowCount();
+        QLocale::setDefault(QLocale(QLocale::English));
+        LogModel english(log, profile);
+        english.setSearch(QStringLiteral("bağlantı"));
+        const int otherwise = english.rowCount();
+        QLocale::setDefault(before);
+        QCOMPARE(otherwise, 0); // there the capital of ı is another letter
+        QCOMPARE(found, 1);
+    }
+
+    void aNewWindowBeginsWithoutAFilter()
+    {
+        StandInLog log;
+        LogModel model(log, profile);
+        log.show(LogFeed::State::lines, numbered(0, 5));
+        model.setSearch(QStringLiteral("3"));
+        model.setProblemsOnly(true);
+        model.close();
+        model.open();
+        QCOMPARE(model.search(), QString());
+        QVERIFY(!model.problemsOnly());
+        QCOMPARE(model.rowCount(), 5);
+    }
+
+    void showsTheFilesOrSaysWhyNot()
+    {
+        QTemporaryDir folder;
+        StandInLog log;
+        profile.runDirectory = folder.filePath(QStringLiteral("run"));
+        LogModel model(log, profile);
+        QSignalSpy changed(&model, &LogModel::changed);
+        model.reveal();
+        QVERIFY2(model.revealProblem().contains(profile.runDirectory), qPrintable(model.revealProblem()));
+        QCOMPARE(changed.count(), 1);
+        QVERIFY(QDir().mkpath(profile.runDirectory));
+        model.reveal(); // nobody answers on the bus, and this platform opens nothing
+        QVERIFY(model.revealProblem().isEmpty());
+        QTRY_VERIFY2(model.revealProblem().startsWith(QStringLiteral("No file manager")), qPrintable(model.revealProblem()));
+
+        // Where the desktop opens folders, that is what happens.
+        QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openFolder");
+        model.reveal();
+        QTRY_COMPARE(opened, QStringList(profile.runDirectory));
+        QVERIFY(model.revealProblem().isEmpty());
+        QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
     }
 
     void followsTheFilesOnlyWhileItIsOpen()

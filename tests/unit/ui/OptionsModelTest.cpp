@@ -2,6 +2,7 @@
 #include "ui/OptionsModel.h"
 #include "support/TestProgram.h"
 
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -66,7 +67,7 @@ private Q_SLOTS:
         OptionsModel options(session);
         Snapshot s;
         session.show(s);
-        QCOMPARE(options.bridgeNote(), QStringLiteral("For networks that block or watch Tor"));
+        QCOMPARE(options.bridgeNote(), QString());
         QVERIFY(!options.needsDownload());
         s.choices.bridgeChoice = BridgeChoice::obfs4;
         session.show(s);
@@ -81,6 +82,98 @@ private Q_SLOTS:
         s.choices.bridgeChoice = BridgeChoice::custom;
         session.show(s);
         QCOMPARE(options.bridgeNote(), QStringLiteral("No bridges added yet"));
+        QVERIFY(options.bridgeNoteIsWarning());
+    }
+
+    void saysWhichProgramsTheUsersOwnBridgesNeed_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QString>("program"); // the one that makes it work; empty: none is needed
+        const QString key = QStringLiteral(" 0123456789ABCDEF0123456789ABCDEF01234567");
+        QTest::newRow("plain") << QStringLiteral("192.0.2.1:443") << QString();
+        QTest::newRow("obfs4") << QStringLiteral("obfs4 192.0.2.1:443") + key + QStringLiteral(" cert=abc iat-mode=0") << QStringLiteral("lyrebird");
+        QTest::newRow("after a plain one") << QStringLiteral("192.0.2.9:443\nobfs4 192.0.2.1:443") + key + QStringLiteral(" cert=abc iat-mode=0") << QStringLiteral("lyrebird");
+        QTest::newRow("snowflake") << QStringLiteral("snowflake 192.0.2.1:443") + key << QStringLiteral("snowflake");
+        QTest::newRow("webtunnel") << QStringLiteral("webtunnel 192.0.2.1:443") + key + QStringLiteral(" url=https://a.example/b") << QStringLiteral("webtunnel");
+        QTest::newRow("webtunnel by lyrebird") << QStringLiteral("webtunnel 192.0.2.1:443") + key + QStringLiteral(" url=https://a.example/b") << QStringLiteral("lyrebird");
+    }
+    void saysWhichProgramsTheUsersOwnBridgesNeed()
+    {
+        QFETCH(QString, line);
+        QFETCH(QString, program);
+        StandInSession session(profile);
+        OptionsModel options(session);
+        Snapshot s;
+        s.choices.bridgeChoice = BridgeChoice::custom;
+        s.choices.customBridges = line;
+        session.show(s);
+        QCOMPARE(options.needsDownload(), !program.isEmpty());
+        for (const auto &[name, field] : {std::pair(QStringLiteral("lyrebird"), &PluggableTransports::lyrebird),
+                                          {QStringLiteral("snowflake"), &PluggableTransports::snowflake},
+                                          {QStringLiteral("webtunnel"), &PluggableTransports::webtunnel}}) {
+            Snapshot with = s;
+            with.transports.*field = QStringLiteral("/usr/bin/it");
+            session.show(with);
+            const bool helps = name == program || (name == QLatin1String("lyrebird") && line.startsWith(QLatin1String("webtunnel")))
+                || (name == QLatin1String("webtunnel") && line.startsWith(QLatin1String("webtunnel")));
+            QCOMPARE(options.needsDownload(), !program.isEmpty() && !helps);
+        }
+    }
+
+    void aBuiltInBridgeNeedsItsProgramAndItsLines()
+    {
+        StandInSession session(profile);
+        OptionsModel options(session);
+        for (const auto &[choice, field] : {std::pair(BridgeChoice::obfs4, &PluggableTransports::lyrebird),
+                                            {BridgeChoice::meek, &PluggableTransports::lyrebird},
+                                            {BridgeChoice::snowflake, &PluggableTransports::snowflake}}) {
+            for (const bool program : {false, true}) {
+                for (const bool lines : {false, true}) {
+                    Snapshot s;
+                    s.choices.bridgeChoice = choice;
+                    if (program)
+                        s.transports.*field = QStringLiteral("/usr/bin/it");
+                    if (lines)
+                        for (const char *key : {"obfs4", "meek", "meek-azure", "meek_lite", "snowflake"})
+                            s.transports.builtin.insert(QString::fromLatin1(key), QStringList{QStringLiteral("a line")});
+                    session.show(s);
+                    QVERIFY2(options.needsDownload() == !(program && lines),
+                             qPrintable(rawValue(choice) + QString::number(program) + QString::number(lines)));
+                }
+            }
+        }
+    }
+
+    void aCountryOutsideTheListIsShownByItsCode()
+    {
+        StandInSession session(profile);
+        OptionsModel options(session);
+        QCOMPARE(options.exitUnlisted(), QString());
+        Snapshot s;
+        s.choices.exitCountry = QStringLiteral("de");
+        session.show(s);
+        QCOMPARE(options.exitUnlisted(), QString());
+        s.choices.exitCountry = QStringLiteral("at");
+        session.show(s);
+        QCOMPARE(options.exitIndex(), -1);
+        QCOMPARE(options.exitUnlisted(), QStringLiteral("AT"));
+        QVERIFY(!options.exitWarning().isEmpty());
+    }
+
+    void tellsWhyAnApplicationWasNotOpenedUntilTheNextTry()
+    {
+        StandInSession session(profile);
+        OptionsModel options(session);
+        QSignalSpy changed(&options, &OptionsModel::changed);
+        Q_EMIT session.launchFailed(QStringLiteral("Couldn't open Games without Tor: It has no program."));
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(options.launchError(), QStringLiteral("Couldn't open Games without Tor: It has no program."));
+        options.launchBypassed(QStringLiteral("/usr/share/applications/games.desktop"));
+        QCOMPARE(options.launchError(), QString());
+        QCOMPARE(changed.count(), 2);
+        Q_EMIT session.launchFailed(QStringLiteral("again"));
+        options.forgetLaunchError();
+        QCOMPARE(options.launchError(), QString());
     }
 
     void ownBridgesNeedTheProgramsOfTheirTransports_data()

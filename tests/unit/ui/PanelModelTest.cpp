@@ -3,6 +3,7 @@
 #include "support/TestProgram.h"
 
 #include <QTest>
+#include <QTimer>
 
 using namespace veldmark;
 
@@ -66,6 +67,61 @@ private Q_SLOTS:
         s.phase = Phase::disconnected;
         session.show(s);
         QCOMPARE(panel.error(), *s.errorMessage);
+    }
+
+    void saysThatNothingMovesUntilSomethingDoes()
+    {
+        StandInSession session(profile);
+        PanelModel panel(session);
+        auto *stillness = panel.findChild<QTimer *>();
+        QVERIFY(stillness);
+        QCOMPARE(stillness->interval(), 10'000);
+        stillness->setInterval(1);
+        Snapshot s = idle();
+        s.phase = Phase::connecting;
+        s.bootstrapProgress = 0.1;
+        session.show(s);
+        QVERIFY(panel.waitingFor().isEmpty());
+        QTRY_VERIFY(panel.waitingFor().startsWith(QStringLiteral("Tor hasn't reported progress")));
+        session.show(s); // the same again is no progress
+        QVERIFY(!panel.waitingFor().isEmpty());
+        stillness->setInterval(10'000);
+        s.bootstrapProgress = 0.2;
+        session.show(s);
+        QCOMPARE(panel.waitingFor(), QString());
+        stillness->start(1);
+        QTRY_VERIFY(!panel.waitingFor().isEmpty());
+        s.phase = Phase::disconnected;
+        session.show(s);
+        QCOMPARE(panel.waitingFor(), QString());
+    }
+
+    void theProgressIsThatOfConnecting()
+    {
+        StandInSession session(profile);
+        PanelModel panel(session);
+        Snapshot s = idle();
+        s.bootstrapProgress = 0.4;
+        for (const auto &[phase, shown] : {std::pair(Phase::disconnected, 0.0), {Phase::connecting, 0.4}, {Phase::connected, 0.0},
+                                           {Phase::disconnecting, 0.0}, {Phase::stale, 0.0}}) {
+            s.phase = phase;
+            session.show(s);
+            QCOMPARE(panel.progress(), shown);
+        }
+    }
+
+    void theTrafficOfAnEndedSessionGoes()
+    {
+        StandInSession session(profile);
+        PanelModel panel(session);
+        Snapshot s = connected(RoutingMode::strict);
+        session.show(s);
+        const auto now = std::chrono::steady_clock::now();
+        panel.traffic()->add(900'000, 1000, now + std::chrono::seconds(2));
+        QVERIFY(!panel.traffic()->samples().empty());
+        s.phase = Phase::disconnected;
+        session.show(s);
+        QVERIFY(panel.traffic()->samples().empty());
     }
 
     void showsEachState_data()

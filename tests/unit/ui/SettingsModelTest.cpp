@@ -63,6 +63,45 @@ private Q_SLOTS:
         QCOMPARE(settings.bundleStatus(), QStringLiteral("Version 14.0.4 loaded · signature verified"));
     }
 
+    void claimsACheckOfTheSignatureOnlyWhereGnuPGIs()
+    {
+        StandInSession session(profile);
+        const SettingsModel settings(session);
+        QVERIFY2(settings.bundleTrust().contains(QStringLiteral("isn't checked")), qPrintable(settings.bundleTrust()));
+        const QString gpg = profile.gnupgCandidates.constFirst() + QStringLiteral("/gpg");
+        write(gpg, "#!/bin/sh\n");
+        QFile::setPermissions(gpg, QFile::ReadOwner | QFile::ExeOwner);
+        QCOMPARE(settings.bundleTrust(), QStringLiteral("Fetched over HTTPS and checked against the Tor Project's signature."));
+    }
+
+    void tellsShellsAndSshApart()
+    {
+        StandInSession session(profile);
+        const SettingsModel settings(session);
+        Snapshot s;
+        session.show(s);
+        QCOMPARE(settings.terminalStatus(), QStringLiteral("Not installed"));
+        s.terminalInstalled = true;
+        session.show(s);
+        QCOMPARE(settings.terminalStatus(), QStringLiteral("Installed in your shell; SSH doesn't use it"));
+        s.terminalForSsh = true;
+        session.show(s);
+        QCOMPARE(settings.terminalStatus(), QStringLiteral("Installed in your shell and SSH config"));
+    }
+
+    void namesWhatEachSystemHas()
+    {
+        StandInSession session(profile);
+        const SettingsModel settings(session);
+        const PlatformProfile mac = PlatformProfile::macos(Places());
+        StandInSession onMac(mac);
+        const SettingsModel macSettings(onMac);
+        QVERIFY(!settings.terminalTools().contains(QStringLiteral("brew")));
+        QVERIFY(macSettings.terminalTools().contains(QStringLiteral("brew")));
+        QVERIFY(settings.credits().contains(QStringLiteral("nftables")));
+        QVERIFY(!macSettings.credits().contains(QStringLiteral("nftables")));
+    }
+
     void restoresOnlyWhatIsChanged()
     {
         StandInSession session(profile);

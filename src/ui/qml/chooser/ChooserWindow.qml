@@ -9,6 +9,7 @@ Window {
     id: window
     required property ApplicationChoices model
     signal fileWanted() // an entry that is not among them
+    signal quitWanted()
 
     title: qsTr("App exceptions")
     width: 460
@@ -18,6 +19,7 @@ Window {
     color: Theme.ground
     onVisibleChanged: if (visible) {
         search.clear()
+        model.search = "" // of the window before
         model.refresh()
         search.forceActiveFocus()
     }
@@ -88,5 +90,5 @@ Window {
             }
         }
     }
-    Shortcut { sequences: [StandardKey.Close, "Escape"]; onActivated: window.close() }
+    WindowKeys { onCloseWanted: window.close(); onQuitWanted: window.quitWanted() }
 }

@@ -6,6 +6,7 @@ import Veldmark
 Window {
     id: window
     required property CircuitsModel model
+    signal quitWanted()
 
     title: qsTr("Circuits")
     width: 1000
@@ -138,5 +139,5 @@ Window {
             }
         }
     }
-    Shortcut { sequences: [StandardKey.Close]; onActivated: window.close() }
+    WindowKeys { onCloseWanted: window.close(); onQuitWanted: window.quitWanted() }
 }

@@ -6,12 +6,14 @@ import Veldmark
 T.ComboBox {
     id: box
     required property string name // for screen readers
+    property string unlisted // shown while none of the list is chosen
 
     implicitWidth: Math.min(190, label.implicitWidth + 44)
     implicitHeight: Theme.control
     hoverEnabled: true
     leftPadding: 12
     rightPadding: 32
+    displayText: currentIndex < 0 ? unlisted : currentText
     Accessible.name: name
     Accessible.description: displayText // what is chosen; the control itself does not tell
 

@@ -28,6 +28,7 @@ Rectangle {
                 required property string modelData
                 text: modelData
                 checked: index === control.current
+                autoExclusive: false // one is chosen by `current` alone, which a click need not change
                 Accessible.name: text
                 implicitWidth: label.implicitWidth + 24
                 implicitHeight: Theme.control - 4

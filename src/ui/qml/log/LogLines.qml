@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Veldmark
 
-// The lines. Dragging over them, or Shift with the arrow keys, selects whole lines; Ctrl-C copies
-// them. Following ends when the reader scrolls up and begins again at the end.
+// The lines. Dragging within one, or a double click, selects its text; dragging over several, or Shift with the arrow
+// keys, selects whole lines. Ctrl-C copies what is selected. Following ends when the reader scrolls up and begins again at the end.
 ListView {
     id: list
     required property LogModel log
@@ -12,6 +12,8 @@ ListView {
     property int head: -1
     readonly property int firstSelected: Math.min(anchor, head)
     readonly property int lastSelected: Math.max(anchor, head)
+    property int textRow: -1 // the row of whose text a part is selected, or -1
+    readonly property string selectedText: textRow >= 0 ? (itemAtIndex(textRow) as LogRow)?.selectedText ?? "" : ""
 
     clip: true
     focus: true
@@ -49,11 +51,25 @@ ListView {
             const gone = last - first + 1
             list.head = Math.max(list.head - gone, -1)
             list.anchor = list.head < 0 ? -1 : Math.max(list.anchor - gone, 0)
+            list.textRow = Math.max(list.textRow - gone, -1)
         }
         function onModelReset() {
             list.head = -1
             list.anchor = -1
+            list.textRow = -1
         }
+    }
+
+    function selectText(row: int, from: int, to: int) {
+        if (row !== textRow)
+            dropText()
+        textRow = row;
+        (itemAtIndex(row) as LogRow)?.selectCharacters(from, to)
+    }
+    function dropText() {
+        if (textRow >= 0)
+            (itemAtIndex(textRow) as LogRow)?.deselect()
+        textRow = -1
     }
 
     function scrollBy(distance: double) {
@@ -61,6 +77,7 @@ ListView {
         follow = atYEnd || contentY >= originY + contentHeight - height - 2
     }
     function move(row: int, extend: bool) {
+        dropText()
         head = Math.max(0, Math.min(count - 1, row))
         if (!extend)
             anchor = head
@@ -70,9 +87,12 @@ ListView {
     Keys.onPressed: event => {
         const extend = event.modifiers & Qt.ShiftModifier
         event.accepted = true
-        if (event.matches(StandardKey.Copy) && anchor >= 0)
+        if (event.matches(StandardKey.Copy) && selectedText !== "")
+            log.copyText(selectedText)
+        else if (event.matches(StandardKey.Copy) && anchor >= 0)
             log.copy(firstSelected, lastSelected)
         else if (event.matches(StandardKey.SelectAll)) {
+            dropText()
             anchor = 0
             head = count - 1
         } else if (event.key === Qt.Key_Up) move(head < 0 ? count - 1 : head - 1, extend)
@@ -85,7 +105,7 @@ ListView {
     }
 
     delegate: LogRow {
-        selected: index >= list.firstSelected && index <= list.lastSelected && list.anchor >= 0
+        selected: index >= list.firstSelected && index <= list.lastSelected && list.anchor >= 0 && list.selectedText === ""
         focused: list.activeFocus && index === list.head
     }
     MouseArea {
@@ -95,9 +115,21 @@ ListView {
         cursorShape: Qt.IBeamCursor
         preventStealing: true
         function rowAt(y: double): int { return list.indexAt(10, list.contentY + Math.max(0, Math.min(list.height - 1, y))) }
+        // The place in the row that lies there.
+        function inRow(row: int, mouse: point): point {
+            const item = list.itemAtIndex(row)
+            return item ? mapToItem(item, mouse.x, mouse.y) : Qt.point(0, 0)
+        }
+        function characterAt(row: int, mouse: point): int {
+            const at = inRow(row, mouse)
+            return (list.itemAtIndex(row) as LogRow)?.characterAt(at.x, at.y) ?? 0
+        }
+        property int pressedAt: 0 // the character
         onPressed: mouse => {
             list.forceActiveFocus()
+            list.dropText()
             const row = rowAt(mouse.y)
+            pressedAt = characterAt(row, Qt.point(mouse.x, mouse.y))
             list.head = row
             if (!(mouse.modifiers & Qt.ShiftModifier) || list.anchor < 0)
                 list.anchor = row
@@ -106,9 +138,19 @@ ListView {
             const row = rowAt(mouse.y)
             if (row >= 0)
                 list.head = row
+            if (list.head !== list.anchor)
+                list.dropText()
+            else if (row >= 0)
+                list.selectText(row, pressedAt, characterAt(row, Qt.point(mouse.x, mouse.y)))
             dragged = mouse.y < 0 ? mouse.y : Math.max(0, mouse.y - height)
             if (list.head !== list.anchor)
                 list.follow = false
+        }
+        onDoubleClicked: mouse => {
+            const row = rowAt(mouse.y)
+            const at = inRow(row, Qt.point(mouse.x, mouse.y))
+            list.textRow = row;
+            (list.itemAtIndex(row) as LogRow)?.selectWordAt(at.x, at.y)
         }
         onReleased: dragged = 0
         onCanceled: dragged = 0

@@ -9,7 +9,18 @@ Rectangle {
     required property int level
     required property bool selected
     required property bool focused
+    readonly property string selectedText: words.selectedText
     readonly property bool problem: level === LogModel.Error || level === LogModel.Warning
+
+    // The character of the message at a place in the row, and what is selected of the message.
+    function characterAt(x: double, y: double): int { return words.positionAt(x - words.x, y - words.y) }
+    function selectCharacters(from: int, to: int) { words.select(from, to) }
+    function selectWordAt(x: double, y: double) {
+        words.cursorPosition = characterAt(x, y)
+        words.selectWord()
+    }
+    function deselect() { words.deselect() }
+    ListView.onPooled: deselect()
 
     width: ListView.view ? ListView.view.width : 0
     height: words.height + 6
@@ -17,7 +28,11 @@ Rectangle {
          : level === LogModel.Error ? Theme.dangerGround
          : level === LogModel.Warning ? Theme.warningGround : "transparent"
     Accessible.role: Accessible.ListItem
-    Accessible.name: time + " " + message
+    // The colour's meaning comes first, as the eye sees it.
+    readonly property string levelName: level === LogModel.Error ? qsTr("Error") : level === LogModel.Warning ? qsTr("Warning")
+                                      : level === LogModel.Notice ? qsTr("Notice") : qsTr("Information")
+    Accessible.name: (problem ? levelName + ": " : "") + time + " " + message
+    Accessible.description: problem ? "" : levelName
 
     Rectangle {
         width: 3
@@ -35,16 +50,23 @@ Rectangle {
         font.pixelSize: Theme.smallSize
         color: Theme.quiet
     }
-    Text {
+    TextEdit {
         id: words
         x: 188
         y: 3
         width: row.width - 206
         text: row.message
-        textFormat: Text.PlainText
+        textFormat: TextEdit.PlainText
+        readOnly: true
+        activeFocusOnPress: false
+        activeFocusOnTab: false
+        persistentSelection: true
+        selectionColor: Theme.accent
+        selectedTextColor: Theme.onTone
+        Accessible.ignored: true
         font.family: Theme.monospaced
         font.pixelSize: Theme.smallSize
-        wrapMode: Text.WrapAtWordBoundaryOrAnywhere
+        wrapMode: TextEdit.WrapAtWordBoundaryOrAnywhere
         color: row.level === LogModel.Error ? Theme.danger : row.level === LogModel.Warning ? Theme.warning : Theme.text
     }
     Rectangle {

@@ -6,6 +6,7 @@ import Veldmark
 Window {
     id: window
     required property LogModel model
+    signal quitWanted()
 
     title: qsTr("Tor Log")
     width: 900
@@ -79,6 +80,12 @@ Window {
                 onClicked: window.model.reveal()
             }
         }
+        ErrorLine {
+            Layout.leftMargin: 16
+            Layout.rightMargin: 16
+            Layout.bottomMargin: 12
+            text: window.model.revealProblem
+        }
         Rectangle {
             Layout.fillWidth: true
             Layout.fillHeight: true
@@ -106,5 +113,5 @@ Window {
         }
     }
     Shortcut { sequences: [StandardKey.Find]; onActivated: filter.forceActiveFocus() }
-    Shortcut { sequences: [StandardKey.Close]; onActivated: window.close() }
+    WindowKeys { onCloseWanted: window.close(); onQuitWanted: window.quitWanted() }
 }

@@ -13,7 +13,16 @@ Window {
 
     title: qsTr("Veldmark")
     width: 400
-    height: Math.min(panel.wantedHeight, 768, Screen.desktopAvailableHeight - 48)
+    // As tall as its content, until its user makes it as tall as he likes.
+    readonly property int contentHeight: Math.max(minimumHeight, Math.min(panel.wantedHeight, 768, Screen.desktopAvailableHeight - 48))
+    property int chosenHeight: 0 // 0: none
+    property var ownHeights: ({}) // those that the content has had: a window manager may tell of them late
+    onContentHeightChanged: ownHeights[contentHeight] = true
+    onHeightChanged: {
+        if (visible && visibility === Window.Windowed && !ownHeights[height])
+            chosenHeight = height
+    }
+    height: chosenHeight > 0 ? chosenHeight : contentHeight
     minimumWidth: 360
     minimumHeight: 420
     maximumWidth: 520
@@ -28,4 +37,5 @@ Window {
         onChooserWanted: window.chooserWanted()
         onQuitWanted: window.quitWanted()
     }
+    WindowKeys { onCloseWanted: window.close(); escapes: panel.escapes; onQuitWanted: window.quitWanted() }
 }

@@ -25,9 +25,9 @@ Window {
         options: window.optionsModel
         border.color: Theme.edge
         focus: true
-        Keys.onEscapePressed: window.hide()
         onWindowWanted: name => window.windowWanted(name)
         onChooserWanted: window.chooserWanted()
         onQuitWanted: window.quitWanted()
     }
+    WindowKeys { onCloseWanted: window.close(); escapes: panel.escapes; onQuitWanted: window.quitWanted() }
 }

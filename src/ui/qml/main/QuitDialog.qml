@@ -22,7 +22,7 @@ Window {
     color: Theme.surface
     onClosing: window.cancelled()
 
-    Shortcut { sequence: "Escape"; onActivated: window.cancelled() }
+    WindowKeys { onCloseWanted: window.cancelled() }
     ColumnLayout {
         id: column
         x: 20

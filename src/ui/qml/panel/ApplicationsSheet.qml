@@ -9,11 +9,12 @@ Sheet {
     signal chooserWanted()
 
     title: qsTr("App exceptions")
+    onAboutToShow: model.forgetLaunchError()
 
     Words {
         Layout.fillWidth: true
         textFormat: Text.StyledText
-        text: qsTr("In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with <b>Open without Tor</b> (not from the Dock) so Veldmark can tag them. A running copy is quit and reopened.")
+        text: sheet.model.applicationsExplanation
         color: Theme.quiet
     }
     Words {
@@ -23,10 +24,11 @@ Sheet {
     }
     Words {
         Layout.fillWidth: true
-        visible: !sheet.model.canLaunchBypassed && list.count > 0
+        visible: !sheet.model.canLaunchBypassed
         text: qsTr("Connect in strict mode to open apps without Tor")
         color: Theme.warning
     }
+    ErrorLine { text: sheet.model.launchError }
     ListView {
         id: list
         Layout.fillWidth: true

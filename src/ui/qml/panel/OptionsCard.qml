@@ -6,6 +6,7 @@ import Veldmark
 Card {
     id: card
     required property OptionsModel model
+    readonly property bool choosing: exits.open || bridges.open // a list is open, which Escape closes
     signal bridgesWanted()
     signal applicationsWanted()
 
@@ -40,18 +41,23 @@ Card {
         onWanted: on => card.model.allowLocalNetwork = on
     }
     ChoiceRow {
+        id: exits
         symbol: "mappin"
         title: qsTr("Exit country")
-        note: card.model.exitWarning !== "" ? card.model.exitWarning : qsTr("Where your traffic appears to come from")
-        noteColor: card.model.exitWarning !== "" ? Theme.warning : Theme.quiet
+        subtitle: qsTr("Where your traffic appears to come from")
+        note: card.model.exitWarning
+        noteColor: Theme.warning
+        unlisted: card.model.exitUnlisted
         enabled: !card.model.locked
         names: card.model.exitNames
         current: card.model.exitIndex
         onChosen: index => card.model.exitIndex = index
     }
     ChoiceRow {
+        id: bridges
         symbol: "point.3.connected.trianglepath.dotted"
         title: qsTr("Bridges")
+        subtitle: qsTr("For networks that block or watch Tor")
         note: card.model.bridgeNote
         noteColor: card.model.bridgeNoteIsWarning ? Theme.warning : Theme.quiet
         enabled: !card.model.locked
@@ -98,6 +104,10 @@ Card {
         title: qsTr("Terminal mode")
         on: card.model.terminalMode
         onWanted: on => card.model.terminalMode = on
+    }
+    ErrorLine {
+        Layout.leftMargin: 30
+        text: card.model.terminalError
     }
     LinkRow {
         symbol: "square.grid.2x2"

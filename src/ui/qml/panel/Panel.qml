@@ -9,6 +9,7 @@ Rectangle {
     required property PanelModel model
     required property OptionsModel options
     readonly property int wantedHeight: column.implicitHeight + 2 * area.margin + footer.implicitHeight + 16
+    readonly property bool escapes: !bridges.visible && !applications.visible && !card.choosing // Escape is nobody's
     signal windowWanted(string name) // "circuits", "log", "settings"
     signal chooserWanted()
     signal quitWanted()
@@ -24,7 +25,7 @@ Rectangle {
             spacing: 12
             Banner {
                 Layout.fillWidth: true
-                visible: panel.model.error !== "" && !panel.model.torMissing
+                visible: panel.model.error !== ""
                 text: panel.model.error
                 closable: true
                 onClosed: panel.model.dismissError()
@@ -82,6 +83,7 @@ Rectangle {
                 onCircuitsWanted: panel.windowWanted("circuits")
             }
             OptionsCard {
+                id: card
                 Layout.fillWidth: true
                 model: panel.options
                 onBridgesWanted: bridges.open()

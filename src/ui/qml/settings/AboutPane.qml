@@ -13,7 +13,7 @@ Pane {
         contentSpacing: 12
         Words {
             Layout.fillWidth: true
-            text: qsTr("Sends the whole computer's traffic through Tor, and shows honestly whether it does.")
+            text: qsTr("Sends this computer's traffic through Tor, all of it in strict mode and that of apps that use the system proxy in proxy mode, and shows whether it really does.")
         }
         LinkRow {
             visible: pane.model.homePage !== ""
@@ -36,8 +36,7 @@ Pane {
     Card {
         Layout.fillWidth: true
         title: qsTr("Credits")
-        Note {
-            text: qsTr("Veldmark is free software and independent of the Tor Project. It contains no Tor: it runs the tor that is installed here, and where bridges are used lyrebird, snowflake-client or webtunnel-client. Its interface is made with Qt.")
-        }
+        Note { text: pane.model.credits }
+        Note { text: qsTr("Veldmark is made with Qt, QCoro and tl::expected.") }
     }
 }

@@ -40,6 +40,6 @@ Pane {
             }
         }
         Note { text: pane.model.downloadText }
-        Note { text: qsTr("Fetched over HTTPS and checked against the Tor Project's signature.") }
+        Note { text: pane.model.bundleTrust }
     }
 }

@@ -7,6 +7,7 @@ Pane {
     required property SettingsModel model
     title: qsTr("Recovery")
     subtitle: qsTr("Get your normal connection back")
+    Component.onCompleted: model.lookAgain()
 
     Card {
         Layout.fillWidth: true

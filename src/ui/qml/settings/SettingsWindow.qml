@@ -9,6 +9,7 @@ Window {
     required property SettingsModel model
     property int pane: 0
     signal torChooserWanted()
+    signal quitWanted()
 
     title: qsTr("Settings")
     width: 760
@@ -99,5 +100,5 @@ Window {
             sourceComponent: window.panes[window.pane].page
         }
     }
-    Shortcut { sequences: [StandardKey.Close, "Escape"]; onActivated: window.close() }
+    WindowKeys { onCloseWanted: window.close(); onQuitWanted: window.quitWanted() }
 }

@@ -7,6 +7,7 @@ Pane {
     required property SettingsModel model
     title: qsTr("Terminal")
     subtitle: qsTr("Route command-line tools through Tor")
+    Component.onCompleted: model.lookAgain()
 
     Card {
         Layout.fillWidth: true
@@ -14,7 +15,7 @@ Pane {
         SwitchRow {
             symbol: "terminal.fill"
             title: qsTr("Terminal mode")
-            subtitle: qsTr("curl, git, brew, pip, ssh and more use Tor")
+            subtitle: pane.model.terminalTools
             on: pane.model.terminalMode
             onWanted: on => pane.model.terminalMode = on
         }
@@ -22,7 +23,7 @@ Pane {
         SettingRow {
             symbol: "doc.text"
             title: qsTr("Shell integration")
-            subtitle: pane.model.terminalInstalled ? qsTr("Installed in your shell and SSH config") : qsTr("Not installed")
+            subtitle: pane.model.terminalStatus
             PushButton {
                 text: qsTr("Remove")
                 visible: pane.model.terminalInstalled

@@ -1,0 +1,177 @@
+#include "GoldenText.h"
+#include "WindowScenes.h"
+
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QSignalSpy>
+
+using namespace veldmark;
+
+namespace {
+
+QString textOf(const QQuickItem *item)
+{
+    return item->inherits("QQuickComboBox") ? item->property("name").toString() : item->property("text").toString();
+}
+
+// What can be pressed, in the order in which it is found.
+QList<QQuickItem *> controls(QQuickWindow *window)
+{
+    QList<QQuickItem *> found;
+    visit(window->contentItem(), [&found](QQuickItem *item) {
+        if ((item->inherits("QQuickAbstractButton") || item->inherits("QQuickComboBox")) && item->isEnabled())
+            found << item;
+    });
+    // Behind a sheet nothing can be pressed.
+    for (const char *name : {"applications", "bridges"}) {
+        const auto *sheet = window->findChild<QObject *>(QLatin1String(name));
+        if (!sheet || !sheet->property("opened").toBool())
+            continue;
+        const auto *content = sheet->property("contentItem").value<QQuickItem *>();
+        found.removeIf([content](const QQuickItem *item) { return !content->isAncestorOf(item); });
+    }
+    return found;
+}
+
+QString choicesOf(const Choices &c)
+{
+    return QStringLiteral("strict %1, local %2, country %3, tor %4, bridges %5, lines %6, apps %7, auto %8, speed %9, terminal %10")
+        .arg(c.strictMode).arg(c.allowLocalNetwork).arg(c.exitCountry, c.customTorPath, rawValue(c.bridgeChoice))
+        .arg(c.customBridges.size()).arg(c.bypassApps.join(u' ')).arg(c.autoConnect).arg(c.optimizeSpeed).arg(c.terminalMode);
+}
+
+// The state that a button may change, a line for each part.
+QStringList stateOf(Stage &stage)
+{
+    QQuickWindow *window = stage.window();
+    QStringList state;
+    for (const QString &part : choicesOf(stage.session.now().choices).split(QStringLiteral(", ")))
+        state << part;
+    state << QStringLiteral("error %1").arg(stage.session.now().errorMessage.value_or(QString()).left(20))
+          << QStringLiteral("open at login %1").arg(stage.session.now().openAtLogin.value_or(false))
+          << QStringLiteral("shown %1").arg(window->isVisible())
+          << QStringLiteral("pane %1").arg(window->property("pane").toString())
+          << QStringLiteral("followed %1").arg(stage.circuits.followed())
+          << QStringLiteral("problems only %1").arg(stage.lines.problemsOnly())
+          << QStringLiteral("log files %1").arg(stage.lines.revealProblem())
+          << QStringLiteral("clipboard %1").arg(QGuiApplication::clipboard()->text().section(u'\n', 0, 0));
+    if (const auto *lines = window->findChild<QQuickItem *>(QStringLiteral("lines")))
+        state << QStringLiteral("follow %1").arg(lines->property("follow").toBool());
+    for (const char *name : {"applications", "bridges"})
+        if (const auto *sheet = window->findChild<QObject *>(QLatin1String(name)))
+            state << QStringLiteral("sheet %1 %2").arg(QLatin1String(name)).arg(sheet->property("visible").toBool());
+    return state;
+}
+
+} // namespace
+
+// Every button of every window is pressed once, and what came of it is what it was when somebody last read it.
+class ButtonsTest : public QObject {
+    Q_OBJECT
+
+    QStringList opened; // web pages
+
+public Q_SLOTS:
+    void openPage(const QUrl &url) { opened << url.toString(); }
+
+private:
+    // Presses the control at a place in the list; what came of it.
+    QString press(Stage &stage, qsizetype place)
+    {
+        QQuickWindow *window = stage.window();
+        QQuickItem *item = controls(window).at(place);
+        std::vector<std::unique_ptr<QSignalSpy>> spies;
+        const QMetaObject *own = window->metaObject();
+        for (int i = QQuickWindow::staticMetaObject.methodCount(); i < own->methodCount(); ++i)
+            if (own->method(i).methodType() == QMetaMethod::Signal && own->method(i).name().endsWith("anted"))
+                spies.push_back(std::make_unique<QSignalSpy>(window, own->method(i)));
+        spies.push_back(std::make_unique<QSignalSpy>(window, QMetaMethod::fromSignal(&QWindow::visibleChanged)));
+        if (own->indexOfSignal("cancelled()") >= 0)
+            spies.push_back(std::make_unique<QSignalSpy>(window, SIGNAL(cancelled())));
+        const QStringList before = stateOf(stage);
+        stage.session.asked.clear();
+        opened.clear();
+        if (item->inherits("QQuickComboBox")) {
+            item->forceActiveFocus();
+            const bool isLast = item->property("currentIndex").toInt() == item->property("count").toInt() - 1;
+            QTest::keyClick(window, isLast ? Qt::Key_Up : Qt::Key_Down);
+        } else {
+            const QPointF center = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+            QTest::mouseClick(window, Qt::LeftButton, {}, center.toPoint());
+        }
+        stage.picture();
+        QStringList came;
+        for (const QString &asked : stage.session.asked)
+            came << QStringLiteral("asks ") + asked;
+        for (const QString &page : opened)
+            came << QStringLiteral("opens ") + page;
+        for (const auto &spy : spies)
+            for (const QList<QVariant> &call : *spy)
+                if (!spy->signal().startsWith("visibleChanged"))
+                    came << QStringLiteral("tells ") + QString::fromLatin1(spy->signal()).section(u'(', 0, 0)
+                            + (call.isEmpty() ? QString() : u' ' + call.first().toString());
+        const QStringList after = stateOf(stage);
+        for (qsizetype i = 0; i < before.size(); ++i)
+            if (after.value(i) != before.at(i))
+                came << after.value(i);
+        return came.join(QStringLiteral("; "));
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        settleAppearance();
+        QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "openPage");
+    }
+
+    void doWhatTheyDid()
+    {
+        std::vector<WindowScene> scenes;
+        for (const Scenes::Scene &scene : Scenes::panel())
+            scenes.push_back({QStringLiteral("panel/") + scene.name, [session = scene.snapshot](Stage &stage) {
+                stage.session.show(session);
+                return stage.open(QStringLiteral("main/MainWindow.qml"), panelProperties(stage));
+            }});
+        for (const WindowScene &scene : windowScenes())
+            scenes.push_back(scene);
+
+        QString now;
+        QSet<QString> seen; // a button that does what it did in an earlier state of its window is not told again
+        for (const WindowScene &scene : scenes) {
+            QString lines;
+            const QString window = scene.name.section(u'/', 0, 0);
+            for (qsizetype place = 0;; ++place) {
+                Stage stage;
+                stage.profile.runDirectory = QStringLiteral("/nowhere"); // so that the log's files cannot be shown
+                QGuiApplication::clipboard()->clear();
+                QVERIFY(scene.open(stage));
+                stage.window()->resize(std::max(stage.window()->width(), 400), 1700); // nothing is scrolled away
+                stage.picture();
+                const QList<QQuickItem *> all = controls(stage.window());
+                if (place >= all.size())
+                    break;
+                const QString text = textOf(all.at(place));
+                const QString came = press(stage, place);
+                const QString line = QStringLiteral("  (%1) %2\n").arg(text, came);
+                QVERIFY2(!came.isEmpty() || isChosenAlready(text, scene.name),
+                         qPrintable(scene.name + QStringLiteral(": nothing comes of \"%1\"").arg(text)));
+                if (!seen.contains(window + line))
+                    lines += line;
+                seen << window + line;
+            }
+            if (!lines.isEmpty())
+                now += u'[' + scene.name + QStringLiteral("]\n") + lines + u'\n';
+        }
+        expectGolden(QStringLiteral(GOLDEN_DIR "/buttons.txt"), now);
+    }
+
+private:
+    // A tab or a choice that is the current one: pressing it changes nothing.
+    static bool isChosenAlready(const QString &text, const QString &scene)
+    {
+        return scene.startsWith(QStringLiteral("settings ") + text.toLower()) || text == QStringLiteral("Automatic");
+    }
+};
+
+QTEST_MAIN(ButtonsTest)
+#include "ButtonsTest.moc"

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "StagedWindows.h"
+
+#include <QFile>
+#include <QTest>
+
+namespace veldmark {
+
+// Texts that can be read, and compared with what they were when somebody last looked at them.
+
+// A line about a text or a control, or nothing: texts inside controls are the controls' own.
+inline QString described(QQuickItem *item)
+{
+    const auto isControl = [](const QQuickItem *one) {
+        return one->inherits("QQuickAbstractButton") || one->inherits("QQuickComboBox");
+    };
+    for (const QQuickItem *above = item->parentItem(); above; above = above->parentItem())
+        if (isControl(above))
+            return {};
+    QString text = item->property("text").toString();
+    if (!isControl(item)) {
+        const bool isText = item->inherits("QQuickText") || item->inherits("QQuickTextEdit");
+        return isText && !text.isEmpty() ? QStringLiteral("  ") + text.replace(u'\n', u'/') + u'\n' : QString();
+    }
+    if (item->inherits("QQuickComboBox"))
+        text = item->property("name").toString() + QStringLiteral(": ") + item->property("displayText").toString();
+    if (item->property("checkable").toBool() || item->inherits("QQuickSwitch"))
+        text += item->property("checked").toBool() ? QStringLiteral(": on") : QStringLiteral(": off");
+    return QStringLiteral("  (%1)%2\n").arg(text, item->isEnabled() ? QString() : QStringLiteral(" disabled"));
+}
+
+// Everything that the window on the stage says and offers.
+inline QString described(Stage &stage)
+{
+    QString text;
+    visit(stage.window()->contentItem(), [&text](QQuickItem *item) { text += described(item); });
+    return text;
+}
+
+// `now` is what the file holds; a line in brackets names what follows. VELDMARK_WRITE_GOLDEN=1 writes the file anew.
+inline void expectGolden(const QString &path, const QString &now)
+{
+    QFile file(path);
+    if (qEnvironmentVariableIsSet("VELDMARK_WRITE_GOLDEN")) {
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(now.toUtf8());
+        return;
+    }
+    QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(path));
+    const QStringList before = QString::fromUtf8(file.readAll()).split(u'\n');
+    const QStringList lines = now.split(u'\n');
+    QString scene;
+    for (qsizetype i = 0; i < std::max(before.size(), lines.size()); ++i) {
+        if (lines.value(i).startsWith(u'['))
+            scene = lines[i];
+        QVERIFY2(before.value(i) == lines.value(i),
+                 qPrintable(scene + QStringLiteral(": was \"%1\", is \"%2\"").arg(before.value(i), lines.value(i))));
+    }
+}
+
+} // namespace veldmark

@@ -1,0 +1,196 @@
+#include "app/Application.h"
+#include "support/SessionBus.h"
+#include "support/StatusNotifierWatcher.h"
+#include "support/Workbench.h"
+#include "support/TestProgram.h"
+
+#include <QDBusUnixFileDescriptor>
+#include <QDir>
+#include <QFileInfo>
+#include <QTest>
+
+#include <poll.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace veldmark;
+
+namespace {
+
+void write(const QString &path, const QByteArray &content)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+    file.close();
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+// The session's notification service and logind, which stand on one bus here.
+class Desktop final : public QDBusVirtualObject {
+public:
+    explicit Desktop(const QDBusConnection &bus) : m_bus(bus)
+    {
+        for (const QString &path : {u"/org/freedesktop/Notifications"_s, u"/org/freedesktop/login1"_s})
+            m_bus.registerVirtualObject(path, this);
+        for (const QString &name : {u"org.freedesktop.Notifications"_s, u"org.freedesktop.login1"_s})
+            m_bus.registerService(name);
+    }
+    ~Desktop() override
+    {
+        if (m_lock >= 0)
+            ::close(m_lock);
+    }
+
+    QString introspect(const QString &) const override { return {}; }
+    bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override
+    {
+        if (message.member() == u"Notify"_s) {
+            notified << message.arguments().at(3).toString();
+            connection.send(message.createReply(uint(1)));
+        } else if (message.member() == u"Inhibit"_s) {
+            int both[2];
+            if (::pipe(both) != 0)
+                return false;
+            m_lock = both[0];
+            connection.send(message.createReply(QVariant::fromValue(QDBusUnixFileDescriptor(both[1]))));
+            ::close(both[1]);
+        } else {
+            return false;
+        }
+        return true;
+    }
+
+    void shutDown()
+    {
+        QDBusMessage signal = QDBusMessage::createSignal(u"/org/freedesktop/login1"_s,
+                                                         u"org.freedesktop.login1.Manager"_s, u"PrepareForShutdown"_s);
+        m_bus.send(signal << true);
+    }
+    // A shutdown waits for the program.
+    bool isHeld() const
+    {
+        if (m_lock < 0)
+            return false;
+        pollfd end{m_lock, 0, 0};
+        ::poll(&end, 1, 0);
+        return !(end.revents & POLLHUP);
+    }
+
+    QStringList notified;
+
+private:
+    QDBusConnection m_bus;
+    int m_lock = -1;
+};
+
+// A computer in a folder, whose helper writes down its verbs and fails.
+struct Computer {
+    QTemporaryDir folder;
+    PlatformProfile profile;
+
+    Computer()
+    {
+        const Places places = Places::below(folder.path());
+        write(places.applicationDirectory + u"/veldmark-helper.sh"_s,
+              "#!/bin/bash\necho \"$1\" >>'" + log().toUtf8() + "'\necho 'ERROR: not here' >&2\nexit 1\n");
+        profile = PlatformProfile::linux(places);
+        write(profile.promptProgram, "#!/bin/sh\nexec /bin/bash \"$@\"\n"); // for those who are not root
+        QDir().mkpath(places.runtimeDirectory);
+    }
+    QString log() const { return folder.filePath(u"verbs"_s); }
+    QStringList verbs() const
+    {
+        QFile file(log());
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts)
+                                              : QStringList();
+    }
+};
+
+bool isMainShown(const Application &application)
+{
+    const QQuickWindow *main = application.windows().find(u"main"_s);
+    return main && main->isVisible();
+}
+
+} // namespace
+
+// The program as a whole on a desktop, with a tray and without one, and what it tells the desktop.
+class DesktopStartTest : public QObject {
+    Q_OBJECT
+
+    SessionBus bus;
+    std::unique_ptr<Desktop> desktop;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(bus.isRunning());
+        qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address());
+        qputenv("DBUS_SYSTEM_BUS_ADDRESS", bus.address());
+        QVERIFY(QDBusConnection::sessionBus().isConnected());
+    }
+    void init() { desktop = std::make_unique<Desktop>(bus.connection()); }
+    void cleanup() { desktop.reset(); }
+
+    void withoutATrayAHiddenStartShowsItsWindowAndClosingItIsTold()
+    {
+        const Computer computer;
+        Application application(computer.profile);
+        QVERIFY(application.start(true, false));
+        QVERIFY(!isMainShown(application)); // a tray may be starting
+        QTRY_VERIFY_WITH_TIMEOUT(isMainShown(application), 30'000);
+        QVERIFY(desktop->notified.isEmpty());
+        application.windows().find(u"main"_s)->close();
+        QTRY_COMPARE(desktop->notified, QStringList(u"Veldmark is still running"_s));
+
+        // A tray that comes later is used at once, and from then on there is nothing to tell.
+        QVERIFY(!application.tray());
+        StatusNotifierWatcher tray(bus.connection());
+        QTRY_VERIFY(application.tray());
+        QVERIFY(!isMainShown(application));
+        Q_EMIT const_cast<Tray *>(application.tray())->openWanted();
+        QVERIFY(isMainShown(application));
+        application.windows().find(u"main"_s)->close();
+        QTest::qWait(100);
+        QCOMPARE(desktop->notified.size(), 1);
+        tray.setHost(false); // and gone again
+        QTRY_COMPARE_WITH_TIMEOUT(desktop->notified.size(), 2, 30'000);
+        QVERIFY(!isMainShown(application));
+    }
+
+    void withATrayAHiddenStartStaysHidden()
+    {
+        const StatusNotifierWatcher tray(bus.connection());
+        const Computer computer;
+        Application application(computer.profile);
+        QVERIFY(application.start(true, false));
+        QTRY_VERIFY(application.tray());
+        QVERIFY(!isMainShown(application));
+    }
+
+    void aPlainStartShowsTheWindowAtOnce()
+    {
+        const Computer computer;
+        Application application(computer.profile);
+        QVERIFY(application.start(false, false));
+        QVERIFY(isMainShown(application));
+    }
+
+    void aShutdownIsHeldUpNoLongerThanItIsOfUse()
+    {
+        const Computer computer;
+        write(computer.profile.sessionMarker, "strict\n");
+        Application application(computer.profile);
+        QVERIFY(application.start(true, false));
+        QTRY_VERIFY(desktop->isHeld());
+        QVERIFY(computer.verbs().isEmpty());
+        desktop->shutDown();
+        QTRY_COMPARE(computer.verbs(), QStringList(u"disconnect"_s)); // and that fails
+        QTRY_VERIFY(!desktop->isHeld());
+    }
+};
+
+VELDMARK_WINDOWED_TEST(DesktopStartTest)
+#include "DesktopStartTest.moc"

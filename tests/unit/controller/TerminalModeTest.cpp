@@ -1,0 +1,80 @@
+#include "support/Workbench.h"
+#include "support/TestProgram.h"
+
+#include <QFile>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace veldmark;
+
+// Terminal mode as the controller applies it, on a computer whose netcat takes its time to say what it can do.
+class TerminalModeTest : public QObject {
+    Q_OBJECT
+
+    static QString go(const Workbench &bench) { return bench.folder.filePath(u"go"_s); }
+    static void putSlowNetcat(const Workbench &bench)
+    {
+        bench.writeFile(bench.profile.netcatCandidates.constFirst(),
+                        "#!/bin/sh\nwhile [ ! -e '" + go(bench).toUtf8() + "' ]; do sleep 0.01; done\n"
+                        "echo '[-X proxy_protocol] [-x proxy_address[:port]]'\n", true);
+    }
+    static bool isActive(const Workbench &bench) { return QFile::exists(bench.profile.terminalDirectory + u"/active"_s); }
+
+private Q_SLOTS:
+    void theShellsNeedNotWaitForWhatSshCanUse()
+    {
+        Workbench bench;
+        putSlowNetcat(bench);
+        QVERIFY(bench.connect());
+        bench.controller().setTerminalMode(true);
+        QVERIFY(bench.controller().isTerminalInstalled()); // at once
+        QVERIFY(isActive(bench));
+        QVERIFY(!bench.controller().isTerminalUsedBySsh());
+        const auto hint = bench.controller().terminalHint();
+        QVERIFY(!hint.isReady());
+        bench.writeFile(go(bench));
+        QVERIFY(until([&] { return bench.controller().isTerminalUsedBySsh(); }));
+        QVERIFY(Workbench::finished(hint));
+        QVERIFY(!bench.controller().terminalError());
+    }
+
+    void whatIsSwitchedOffMeanwhileIsNotInstalled()
+    {
+        Workbench bench;
+        putSlowNetcat(bench);
+        bench.controller().setTerminalMode(true);
+        bench.controller().removeTerminalIntegration();
+        bench.writeFile(go(bench));
+        QVERIFY(until([&] { return bench.terminal.knowsSocksCommand(); }));
+        settle();
+        QVERIFY(!bench.controller().isTerminalUsedBySsh());
+        QVERIFY(!QFile::exists(bench.profile.terminalDirectory));
+    }
+
+    void aControllerThatEndsMeanwhileIsNotMissed()
+    {
+        Workbench bench;
+        putSlowNetcat(bench);
+        bench.controller().setTerminalMode(true);
+        bench.end();
+        bench.writeFile(go(bench));
+        QVERIFY(until([&] { return bench.terminal.knowsSocksCommand(); }));
+        QVERIFY(!bench.terminal.isUsedBySsh());
+    }
+
+    void whatSshCannotHaveIsTold()
+    {
+        Workbench bench;
+        putSlowNetcat(bench);
+        bench.controller().setTerminalMode(true);
+        QVERIFY(!bench.controller().terminalError());
+        bench.writeFile(bench.profile.sshDirectory); // a file where the folder should be
+        bench.writeFile(go(bench));
+        QVERIFY(until([&] { return bench.controller().terminalError().has_value(); }));
+        QVERIFY(bench.controller().terminalError()->startsWith(u"Couldn't set up terminal mode: "_s));
+        QVERIFY(bench.controller().isTerminalInstalled());
+    }
+};
+
+VELDMARK_TEST(TerminalModeTest)
+#include "TerminalModeTest.moc"
