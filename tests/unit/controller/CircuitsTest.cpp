@@ -360,59 +360,6 @@ private Q_SLOTS:
         QVERIFY(c.circuits().empty()); // the older answer is not news
         QVERIFY(c.circuitError());
     }
-
-    void aNewIdentityForgetsTheExitAndAsksForTheNewOne()
-    {
-        Workbench bench;
-        TorController &c = bench.controller();
-        QVERIFY(bench.connect());
-        QCOMPARE(c.exitIP().value(), u"203.0.113.10"_s);
-        QVERIFY(c.torVerified().value());
-        bench.probe.torAnswer = IPCheck{true, u"203.0.113.20"_s};
-        bench.probe.beforeTorAnswer = [&bench] { return bench.clock.sleep(std::chrono::seconds(1)); };
-        const int direct = bench.probe.directProbes;
-        const auto renewing = c.newIdentity();
-        QVERIFY(!c.exitIP() && !c.torVerified());
-        QVERIFY(Workbench::finished(renewing));
-        QVERIFY(c.isChecking() && !c.exitIP());
-        QVERIFY(c.leakStatus() == LeakStatus::blocked()); // nothing has changed there
-        bench.clock.advance(std::chrono::seconds(1));
-        QVERIFY(until([&] { return !c.isChecking(); }));
-        QCOMPARE(c.exitIP().value(), u"203.0.113.20"_s);
-        QVERIFY(c.torVerified().value());
-        QCOMPARE(bench.probe.directProbes, direct); // nobody is told the new exit and the real address at once
-    }
-
-    void checksUnderWayAskAgainAfterANewIdentity_data()
-    {
-        QTest::addColumn<bool>("whole");
-        QTest::newRow("all checks") << true;
-        QTest::newRow("the exit's only") << false;
-    }
-
-    void checksUnderWayAskAgainAfterANewIdentity()
-    {
-        QFETCH(bool, whole);
-        Workbench bench;
-        TorController &c = bench.controller();
-        QVERIFY(bench.connect());
-        bench.probe.beforeTorAnswer = [&bench] { return bench.clock.sleep(std::chrono::seconds(5)); };
-        if (whole)
-            c.runChecks();
-        else
-            c.newIdentity();
-        QVERIFY(until([&] { return c.isChecking(); }));
-        const int probes = bench.probe.torProbes;
-        bench.probe.torAnswer = IPCheck{true, u"203.0.113.20"_s}; // of the next probe
-        QVERIFY(Workbench::finished(c.newIdentity()));
-        bench.clock.advance(std::chrono::seconds(5)); // the old circuits' answer comes
-        QVERIFY(until([&] { return bench.probe.torProbes == probes + 1; }));
-        QVERIFY(c.isChecking() && !c.exitIP());
-        bench.clock.advance(std::chrono::seconds(5));
-        QVERIFY(until([&] { return !c.isChecking(); }));
-        QCOMPARE(c.exitIP().value(), u"203.0.113.20"_s);
-    }
-
 };
 
 VELDMARK_TEST(CircuitsTest)
