@@ -1,5 +1,7 @@
 #include "base/ReplyWords.h"
 
+#include "support/TestProgram.h"
+
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -59,5 +61,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(ReplyWordsTest)
+VELDMARK_BARE_TEST(ReplyWordsTest)
 #include "ReplyWordsTest.moc"
