@@ -1,6 +1,8 @@
 #include "base/ReplyWords.h"
 #include "support/TestProgram.h"
 
+#include "support/TestProgram.h"
+
 #include <QTest>
 
 using namespace Qt::StringLiterals;
