@@ -58,24 +58,37 @@ def registry() -> str:
     raise Unprepared(f"The apt sources of this machine name no registry of Debian 12 ({RELEASE}).")
 
 
+def _do(log: Path, what: str, *words) -> None:
+    with open(log, "ab") as output:
+        if subprocess.run(list(map(str, words)), stdout=output, stderr=output, stdin=subprocess.DEVNULL,
+                          env=os.environ | _ENVIRONMENT, check=False).returncode:
+            raise Unprepared(f"{what} failed; see {log}")
+
+
+def minimal(folder: Path) -> Path:
+    """What debootstrap calls minimal and nothing else, made once in `folder`. Remove the folder to begin anew."""
+    base = folder / "minimal"
+    if shutil.which("debootstrap") is None:
+        raise Unprepared("debootstrap is not installed; ./build.sh deps does it")
+    if not base.exists():
+        folder.mkdir(parents=True, exist_ok=True)
+        shutil.rmtree(folder / "new", ignore_errors=True)
+        print("Fetching a minimal Debian from its registry", flush=True)
+        _do(folder / "log", "Fetching a minimal Debian from its registry",
+            "debootstrap", "--variant=minbase", RELEASE, folder / "new", registry())
+        (folder / "new").rename(base)
+    return base
+
+
 def prepare(folder: Path, package: Path) -> Path:
     """Makes the base in `folder` unless it is there, and fetches the package's dependencies into it when they are others
     than last time. Remove the folder to begin anew."""
     base = folder / "base"
     log = folder / "log"
-    folder.mkdir(parents=True, exist_ok=True)
-
-    def do(what: str, *words) -> None:
-        with open(log, "ab") as output:
-            if subprocess.run(list(map(str, words)), stdout=output, stderr=output, stdin=subprocess.DEVNULL,
-                              env=os.environ | _ENVIRONMENT, check=False).returncode:
-                raise Unprepared(f"{what} failed; see {log}")
-
-    if shutil.which("debootstrap") is None:
-        raise Unprepared("debootstrap is not installed; ./build.sh deps does it")
     if not base.exists():
+        source = minimal(folder)
         shutil.rmtree(folder / "new", ignore_errors=True)
-        do("Fetching a minimal Debian from its registry", "debootstrap", "--variant=minbase", RELEASE, folder / "new", registry())
+        _do(log, "Copying a minimal Debian", "cp", "-a", "--reflink=auto", source, folder / "new")
         (folder / "new/usr/sbin/policy-rc.d").write_text(_START_NOTHING)
         (folder / "new/usr/sbin/policy-rc.d").chmod(0o755)
         (folder / "new").rename(base)
@@ -87,8 +100,8 @@ def prepare(folder: Path, package: Path) -> Path:
     shutil.copy("/etc/resolv.conf", base / "etc/resolv.conf")
     shutil.copy(package, base / "tmp/package.deb")
     try:
-        do("Asking Debian's registry", "chroot", base, "apt-get", "update")
-        do("Fetching what the package depends on", "chroot", base,
+        _do(log, "Asking Debian's registry", "chroot", base, "apt-get", "update")
+        _do(log, "Fetching what the package depends on", "chroot", base,
            "apt-get", "install", "--yes", "--download-only", "/tmp/package.deb")
     finally:
         (base / "tmp/package.deb").unlink()

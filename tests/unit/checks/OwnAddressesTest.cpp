@@ -1,4 +1,5 @@
 #include "checks/OwnAddresses.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -56,5 +57,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(OwnAddressesTest)
+VELDMARK_BARE_TEST(OwnAddressesTest)
 #include "OwnAddressesTest.moc"
