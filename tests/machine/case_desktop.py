@@ -1,7 +1,7 @@
 """The application on real desktops, used as a person uses it."""
 
 from desktops import Desktop
-from stage import HELPER, Stage, direct, expect, expect_whole, is_protected, network, state, wait
+from stage import HELPER, Broken, Stage, direct, expect, expect_whole, is_protected, network, state, wait
 
 PASSWORD = "alice"
 
@@ -27,10 +27,15 @@ def give_password(stage: Stage, desktop: Desktop, what: str) -> None:
     desktop.wait_prompt()
     stage.picture(desktop, f"{desktop.kind}-prompt-{what}")
     desktop.enter(PASSWORD)
+    try:
+        wait(lambda: not desktop.prompts(), 15, "the password prompt does not go")
+    except Broken:
+        stage.picture(desktop, f"{desktop.kind}-prompt-stays")
+        raise
 
 
 def connect(stage: Stage, desktop: Desktop) -> None:
-    desktop.look_at_bar("disconnected")
+    desktop.look("disconnected")
     desktop.click("veldmark", "push button", "Connect to Tor")
     give_password(stage, desktop, "connect")
     wait(lambda: is_protected(state(desktop.machine, "alice")), 90, "it does not connect")
@@ -47,7 +52,7 @@ def disconnect(stage: Stage, desktop: Desktop) -> None:
 def use_the_tray(stage: Stage, desktop: Desktop) -> None:
     """The icon is what has changed in the desktop's panel since it was not connected; a click on it shows ours. A Wayland window cannot
     say where it wants to be: there the click shows the main window."""
-    desktop.look_at_bar("protected")
+    desktop.look("protected")
     x, y = desktop.tray_icon("disconnected", "protected")
     if desktop.kind == "sway":
         desktop.run(["swaymsg", "[app_id=veldmark] kill"])
@@ -80,13 +85,15 @@ def languages_and_appearances(stage: Stage) -> None:
         machine.run([HELPER, "install-privileged", "--user", "alice"], check=True)
         for language in ("en_GB", "de_DE"):
             for dark in (False, True):
-                with Desktop(machine, "xfce", language, dark) as desktop:
+                with Desktop(machine, "xfce", language) as desktop:
+                    desktop.run(["xfconf-query", "-c", "xsettings", "-p", "/Net/ThemeName", "-n", "-t", "string", "-s",
+                                 "Greybird-dark" if dark else "Greybird"], check=True)
                     desktop.run(["setsid", "-f", "veldmark"], stdout=None, stderr=None, capture_output=False)
                     wait(lambda: "Veldmark" in desktop.windows(), 20, "no window")
-                    desktop.look_at_bar("disconnected")
+                    desktop.look("disconnected")
                     desktop.run(["veldmarkctl", "connect"], check=True, timeout=90)
                     wait(lambda: is_protected(state(machine, "alice")), 60, "it does not connect")
-                    desktop.look_at_bar("protected")
+                    desktop.look("protected")
                     desktop.click_at(*desktop.tray_icon("disconnected", "protected"))
                     wait(lambda: desktop.windows().count("Veldmark") == 2, 10, "the click on the tray icon shows nothing")
                     stage.picture(desktop, f"xfce-{language[:2]}-{'dark' if dark else 'light'}")

@@ -58,31 +58,23 @@ bar {
 _BAR = {"xfce": (0, 26), "sway": (0, 30), "lxqt": (769, 800)}   # rows of the panel with the tray
 _AGENT = {"sway": "polkit-mate-aut"}
 _PROMPT = {"xfce": "Authenticat", "sway": "Authenticat", "lxqt": "Authentication Required"}
-_DARK = """<?xml version="1.0" encoding="UTF-8"?>
-<channel name="xsettings" version="1.0"><property name="Net" type="empty">
-<property name="ThemeName" type="string" value="Adwaita-dark"/></property></channel>
-"""
 _READY = {"xfce": ("xfce4-panel", "xfdesktop", "polkit-gnome-au"), "lxqt": ("lxqt-panel", "lxqt-policykit-"), "sway": ("waybar", "polkit-mate-aut")}
 
 
 class Desktop(contextlib.AbstractContextManager):
-    def __init__(self, machine: Machine, kind: str, language: str = "en_GB", dark: bool = False):
+    def __init__(self, machine: Machine, kind: str, language: str = "en_GB"):
         self.machine, self.kind = machine, kind
         self.env = _KINDS[kind] | {
             "LANG": f"{language}.UTF-8", "XDG_SEAT": "seat0", "XDG_SESSION_CLASS": "user", "DBUS_SESSION_BUS_ADDRESS": "unix:path=/run/user/1000/bus",
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "XDG_RUNTIME_DIR": "/run/user/1000",
         }
-        self.dark = dark
 
     def __enter__(self) -> "Desktop":
         given = {k: v for k, v in self.env.items() if k not in ("DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR", "WAYLAND_DISPLAY")}
         environment = " ".join(f'"{key}={value}"' for key, value in given.items())
         machine = self.machine
         install(machine)
-        files = dict(_FILES.get(self.kind, {}))
-        if self.dark and self.kind == "xfce":
-            files[".config/xfce4/xfconf/xfce-perchannel-xml/xsettings.xml"] = _DARK
-        for name, text in files.items():
+        for name, text in _FILES.get(self.kind, {}).items():
             put(machine, f"/home/{USER}/{name}", text)
         machine.run(["chown", "-R", f"{USER}:", f"/home/{USER}"], check=True)
         put(machine, "/run/systemd/system/desktop.service",
@@ -134,11 +126,14 @@ class Desktop(contextlib.AbstractContextManager):
             picture("xfce-menu")
             self.click("xfce4-panel", "menu item", "Veldmark")
         elif self.kind == "lxqt":
+            # Its menu tells a screen reader nothing. It has a field to search in, which leaves what was found.
+            self.look("closed")
             self.click_at(14, 784)
-            self.click("lxqt-panel", "menu item", "Internet")
-            self.wait_for("lxqt-panel", "menu item", "Veldmark")
+            self.wait(lambda: self._differs("closed", "menu", 600, 760), 20, "the menu does not open")
+            self.run(["xdotool", "type", "--delay", "50", "veldmark"], check=True)
+            self.wait(lambda: self._differs("menu", "found", 600, 700), 20, "the menu finds nothing")
             picture("lxqt-menu")
-            self.click("lxqt-panel", "menu item", "Veldmark")
+            self.run(["xdotool", "key", "Return"], check=True)
         elif self.kind == "sway":    # it has no menu: what a launcher does
             self.run(["swaymsg", "exec", "veldmark"], check=True)
         self.wait(lambda: self.pids("veldmark"), 20, "the menu's entry starts nothing")
@@ -186,25 +181,36 @@ class Desktop(contextlib.AbstractContextManager):
             found += [node] if node.get("pid") else []
         return found
 
+    def prompts(self) -> bool:
+        return any(title.startswith(_PROMPT[self.kind]) for title in self.windows())
+
     def wait_prompt(self) -> None:
         """The polkit agent's dialogue stands and takes what is typed."""
-        self.wait(lambda: any(title.startswith(_PROMPT[self.kind]) for title in self.windows()), 30, "nobody asks for the password")
+        self.wait(self.prompts, 30, "nobody asks for the password")
         time.sleep(1)   # no sign tells when the dialogue has the keyboard
 
-    def look_at_bar(self, name: str) -> None:
-        """Keeps a picture, without the pointer, for tray_icon."""
+    def look(self, name: str) -> None:
+        """Keeps a picture of the screen, without the pointer."""
         shot = ["grim"] if self.kind == "sway" else ["scrot", "--overwrite"]
         self.run([*shot, f"/tmp/bar-{name}.png"], check=True)
 
-    def tray_icon(self, one: str, other: str) -> tuple[int, int]:
-        """The middle of the one thing in the panel that is as large as an icon and not the same in two pictures of the bar."""
-        top, bottom = _BAR[self.kind]
+    def _changes(self, one: str, other: str, top: int, bottom: int) -> list[list[int]]:
         seen = self.run(["/usr/bin/python3", f"{TOOLS}/changed.py", f"/tmp/bar-{one}.png", f"/tmp/bar-{other}.png", str(top), str(bottom)],
                         check=True)
-        icons = [(left, above, right, below) for left, above, right, below in json.loads(seen.stdout)
+        return json.loads(seen.stdout)
+
+    def _differs(self, before: str, now: str, top: int, bottom: int) -> bool:
+        """Whether these rows of the screen are others than in an earlier picture; takes the picture `now`."""
+        self.look(now)
+        return bool(self._changes(before, now, top, bottom))
+
+    def tray_icon(self, one: str, other: str) -> tuple[int, int]:
+        """The middle of the one thing in the panel that is as large as an icon and not the same in two pictures of the bar."""
+        changes = self._changes(one, other, *_BAR[self.kind])
+        icons = [(left, above, right, below) for left, above, right, below in changes
                  if 10 <= right - left <= 30 and 10 <= below - above <= 30 and left > 400]
         if len(icons) != 1:
-            raise RuntimeError(f"the panel shows no icon that changes but {seen.stdout.strip()}")
+            raise RuntimeError(f"the panel shows no icon that changes but {changes}")
         left, above, right, below = icons[0]
         return (left + right) // 2, (above + below) // 2
 
@@ -241,7 +247,8 @@ class Desktop(contextlib.AbstractContextManager):
             self.run(["wtype", "-s", "500", text], check=True)
             self.click(_AGENT[self.kind], "push button", "Authenticate")
         else:
-            self.run(["xdotool", "type", "--delay", "30", f"{text}\n"], check=True)
+            self.run(["xdotool", "type", "--delay", "30", text], check=True)
+            self.run(["xdotool", "key", "Return"], check=True)
 
 
 def put(machine: Machine, path: str, text: str | bytes, mode: int = 0o644) -> None:

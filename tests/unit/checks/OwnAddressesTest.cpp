@@ -57,5 +57,5 @@ private Q_SLOTS:
     }
 };
 
-VELDMARK_TEST(OwnAddressesTest)
+VELDMARK_BARE_TEST(OwnAddressesTest)
 #include "OwnAddressesTest.moc"
