@@ -114,7 +114,7 @@ private Q_SLOTS:
                 run.reset();
             });
             run->start();
-            QTest::qWaitFor([&ended] { return ended; }, connects ? 10'000 : 300);
+            static_cast<void>(QTest::qWaitFor([&ended] { return ended; }, connects ? 10'000 : 300));
             application->leaveAlone();
         }
         QCOMPARE(Resumption::waiting(), 0);

@@ -38,7 +38,7 @@ QString table(const PlatformProfile &p)
         {"homePage", p.homePage},
         {"manualRestoreCommand", p.manualRestoreCommand},
         {"sessionMarker", p.sessionMarker},
-        {"relockNotice", p.relockNotice},
+        {"killSwitchNote", p.killSwitchNote},
         {"installedHelper", p.installedHelper},
         {"sudoersRule", p.sudoersRule},
         {"runDirectory", p.runDirectory},
@@ -129,7 +129,7 @@ torMissingText: Tor isn't installed. Install it with your package manager or set
 homePage: 
 manualRestoreCommand: sudo bash /nowhere/usr/share/veldmark/veldmark-helper.sh disconnect
 sessionMarker: /nowhere/var/lib/veldmark/state/active
-relockNotice: /nowhere/var/lib/veldmark/state/relocked
+killSwitchNote: /nowhere/run/veldmark.watch
 installedHelper: /nowhere/usr/local/libexec/veldmark/veldmark-helper.sh
 sudoersRule: /nowhere/etc/sudoers.d/veldmark
 runDirectory: /nowhere/var/lib/veldmark/run
@@ -169,7 +169,7 @@ torMissingText: Tor isn't installed. Install it with Homebrew (brew install tor)
 homePage: 
 manualRestoreCommand: sudo bash /Applications/Veldmark.app/Contents/Resources/veldmark-helper.sh disconnect
 sessionMarker: /nowhere/Library/Application Support/Veldmark/state/active
-relockNotice: /nowhere/Library/Application Support/Veldmark/state/relocked
+killSwitchNote: /nowhere/var/run/veldmark.watch
 installedHelper: /nowhere/Library/Application Support/Veldmark/bin/veldmark-helper.sh
 sudoersRule: /nowhere/etc/sudoers.d/veldmark
 runDirectory: /nowhere/var/db/veldmark/run
