@@ -1,6 +1,7 @@
 #include "Scenes.h"
 #include "StandInSession.h"
 #include "app/Windows.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QDir>
@@ -259,5 +260,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(AppWindowsTest)
+VELDMARK_WINDOWED_TEST(AppWindowsTest)
 #include "AppWindowsTest.moc"

@@ -1,6 +1,7 @@
 #include "app/Application.h"
 #include "support/SessionBus.h"
 #include "support/StatusNotifierWatcher.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QDBusUnixFileDescriptor>
@@ -191,5 +192,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(DesktopStartTest)
+VELDMARK_WINDOWED_TEST(DesktopStartTest)
 #include "DesktopStartTest.moc"

@@ -2,6 +2,7 @@
 #include "support/ManualClock.h"
 #include "support/SessionBus.h"
 #include "support/StatusNotifierWatcher.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QSignalSpy>
@@ -79,5 +80,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TrayHostTest)
+VELDMARK_WINDOWED_TEST(TrayHostTest)
 #include "TrayHostTest.moc"

@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QFile>
@@ -75,5 +76,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TerminalModeTest)
+VELDMARK_TEST(TerminalModeTest)
 #include "TerminalModeTest.moc"

@@ -1,4 +1,5 @@
 #include "platform/PlatformProfile.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QFile>
@@ -266,5 +267,5 @@ controlSocket: ~/Library/Application Support/Veldmark/run/control
     }
 };
 
-QTEST_GUILESS_MAIN(PlatformProfileTest)
+VELDMARK_TEST(PlatformProfileTest)
 #include "PlatformProfileTest.moc"

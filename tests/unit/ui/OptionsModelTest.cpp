@@ -1,5 +1,6 @@
 #include "StandInSession.h"
 #include "ui/OptionsModel.h"
+#include "support/TestProgram.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -214,5 +215,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(OptionsModelTest)
+VELDMARK_WINDOWED_TEST(OptionsModelTest)
 #include "OptionsModelTest.moc"
