@@ -1,6 +1,7 @@
 #include "app/Application.h"
 #include "support/SessionBus.h"
 #include "support/StatusNotifierWatcher.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 #include "support/TestProgram.h"
 

@@ -2,6 +2,7 @@
 #include "support/ManualClock.h"
 #include "support/SessionBus.h"
 #include "support/StatusNotifierWatcher.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 #include "support/TestProgram.h"
 
