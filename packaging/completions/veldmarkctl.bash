@@ -23,7 +23,7 @@ _veldmarkctl()
         get)
             ((COMP_CWORD != 2)) || choices="$settings activeBridge activeMode bootstrapProblem bootstrapProgress bytesRead
                 bytesWritten canCancel circuitError circuits dnsStatus errorMessage exitIP isChecking isOptimizing latencyMs
-                leakStatus optimizeStatus passwordlessInstalled phase startupError statusDetail terminalError title
+                leakStatus optimizeStatus otherSession passwordlessInstalled phase startupError statusDetail terminalError title
                 torVerified transportDownload transports"
             ;;
         set)

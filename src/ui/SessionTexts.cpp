@@ -72,6 +72,12 @@ constexpr const char *forms[] = {
     QT_TRANSLATE_NOOP("Session", "The settings file %1 can't be read or replaced. Changes to the settings last "
                                  "until you quit."),
     QT_TRANSLATE_NOOP("Session", "Couldn't open %1 without Tor: %2"),
+    QT_TRANSLATE_NOOP("Session", "Your network is set up for Tor by another Veldmark of yours, process %1"),
+    QT_TRANSLATE_NOOP("Session", "Your network is set up for Tor by %1, whose Veldmark is process %2"),
+    QT_TRANSLATE_NOOP("Session", "Another Veldmark of yours is connected (process %1). "
+                                 "Disconnect it, or restore the network, first."),
+    QT_TRANSLATE_NOOP("Session", "%1 is connected with Veldmark (process %2). "
+                                 "That session must be ended first."),
     QT_TRANSLATE_NOOP("Session", "%1 Your network is still pointed at Tor. Click Restore Network to undo."),
 };
 

@@ -5,6 +5,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <unistd.h>
+
 using namespace veldmark;
 
 namespace {
@@ -59,6 +61,43 @@ private Q_SLOTS:
             for (const QString &path : paths)
                 QVERIFY2(path.startsWith(QLatin1String("/tmp/elsewhere/")), qPrintable(p.name + path));
         }
+    }
+
+#ifndef Q_OS_MACOS
+    void theRuntimeFolderIsTheUsersOwn()
+    {
+        QTemporaryDir own;
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(own.path()));
+        QCOMPARE(Places::fromEnvironment().runtimeDirectory, own.path());
+        const QString missing = own.filePath(QStringLiteral("missing"));
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(missing));
+        QCOMPARE(Places::fromEnvironment().runtimeDirectory, missing);
+        // Without the variable, and where su has left another user's, logind's is taken if it is there.
+        const QFileInfo logind(QStringLiteral("/run/user/%1").arg(geteuid()));
+        const QString usual = logind.isDir() && logind.ownerId() == geteuid() ? logind.filePath() : QString();
+        for (const char *given : {"", "relative"}) {
+            qputenv("XDG_RUNTIME_DIR", given);
+            QCOMPARE(Places::fromEnvironment().runtimeDirectory, usual);
+        }
+        if (geteuid() == 0) {
+            QVERIFY(::chown(QFile::encodeName(own.path()).constData(), 65534, 65534) == 0);
+            qputenv("XDG_RUNTIME_DIR", QFile::encodeName(own.path()));
+            QCOMPARE(Places::fromEnvironment().runtimeDirectory, usual);
+        }
+        qunsetenv("XDG_RUNTIME_DIR");
+    }
+#endif
+
+    void aUsersInstanceIsLookedForInBothPlaces()
+    {
+        Places places = Places::below(QStringLiteral("/x"));
+        const QString runtime = QStringLiteral("/x/run/user/1000/veldmark/control");
+        const QString home = QStringLiteral("/x/home/user/.local/share/veldmark/run/control");
+        QCOMPARE(PlatformProfile::linux(places).controlSocket, runtime);
+        QCOMPARE(PlatformProfile::linux(places).otherControlSockets, QStringList{home});
+        places.runtimeDirectory.clear();
+        QCOMPARE(PlatformProfile::linux(places).controlSocket, home);
+        QCOMPARE(PlatformProfile::linux(places).otherControlSockets, QStringList());
     }
 
     void theMacIsNamedAsSuch()
