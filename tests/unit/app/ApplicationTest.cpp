@@ -2,6 +2,7 @@
 
 #include "support/Computer.h"
 #include "support/OtherSession.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QTest>
@@ -79,5 +80,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ApplicationTest)
+VELDMARK_WINDOWED_TEST(ApplicationTest)
 #include "ApplicationTest.moc"

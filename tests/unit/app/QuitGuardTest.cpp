@@ -1,6 +1,7 @@
 #include "StandInSession.h"
 #include "app/QuitGuard.h"
 #include "support/OtherSession.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QGuiApplication>
@@ -151,5 +152,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(QuitGuardTest)
+VELDMARK_WINDOWED_TEST(QuitGuardTest)
 #include "QuitGuardTest.moc"

@@ -4,6 +4,7 @@
 #include "instance/InstanceServer.h"
 #include "support/Computer.h"
 #include "support/OtherSession.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QTest>
@@ -122,5 +123,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(CommandsTest)
+VELDMARK_TEST(CommandsTest)
 #include "CommandsTest.moc"

@@ -2,6 +2,7 @@
 
 #include "support/Computer.h"
 #include "support/OtherSession.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QSignalSpy>
@@ -63,5 +64,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(RunStartTest)
+VELDMARK_TEST(RunStartTest)
 #include "RunStartTest.moc"

@@ -2,6 +2,7 @@
 #include "controller/SessionWatch.h"
 #include "controller/Withdrawal.h"
 #include "support/OtherSession.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QJsonObject>
@@ -207,5 +208,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(OtherSessionTest)
+VELDMARK_TEST(OtherSessionTest)
 #include "OtherSessionTest.moc"

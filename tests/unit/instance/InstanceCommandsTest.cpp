@@ -1,4 +1,5 @@
 #include "InstanceBench.h"
+#include "support/TestProgram.h"
 
 #include "support/OtherSession.h"
 
@@ -283,5 +284,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(InstanceCommandsTest)
+VELDMARK_TEST(InstanceCommandsTest)
 #include "InstanceCommandsTest.moc"

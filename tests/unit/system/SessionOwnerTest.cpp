@@ -1,6 +1,7 @@
 #include "system/SessionOwner.h"
 
 #include "support/OtherSession.h"
+#include "support/TestProgram.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -115,5 +116,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(SessionOwnerTest)
+VELDMARK_TEST(SessionOwnerTest)
 #include "SessionOwnerTest.moc"
