@@ -23,8 +23,8 @@ _veldmarkctl()
         get)
             ((COMP_CWORD != 2)) || choices="$settings activeBridge activeMode bootstrapProblem bootstrapProgress bytesRead
                 bytesWritten canCancel circuitError circuits dnsStatus errorMessage exitIP isChecking isOptimizing killSwitch
-                killSwitchSince latencyMs leakStatus level menuBarSymbol optimizeStatus passwordlessInstalled phase startupError
-                statusDetail terminalError title torVerified transportDownload transports"
+                killSwitchSince latencyMs leakStatus level menuBarSymbol optimizeStatus otherSession passwordlessInstalled phase
+                startupError statusDetail terminalError title torVerified transportDownload transports"
             ;;
         set)
             if ((COMP_CWORD == 2)); then

@@ -1003,6 +1003,22 @@
         <translation>%1 konnte nicht ohne Tor geöffnet werden: %2</translation>
     </message>
     <message>
+        <source>Your network is set up for Tor by another Veldmark of yours, process %1</source>
+        <translation>Ihr Netzwerk ist durch ein anderes Veldmark von Ihnen auf Tor eingestellt, Prozess %1</translation>
+    </message>
+    <message>
+        <source>Your network is set up for Tor by %1, whose Veldmark is process %2</source>
+        <translation>Ihr Netzwerk ist durch %1 auf Tor eingestellt, mit Veldmark als Prozess %2</translation>
+    </message>
+    <message>
+        <source>Another Veldmark of yours is connected (process %1). Disconnect it, or restore the network, first.</source>
+        <translation>Ein anderes Veldmark von Ihnen ist verbunden (Prozess %1). Trennen Sie es zuerst, oder stellen Sie das Netzwerk wieder her.</translation>
+    </message>
+    <message>
+        <source>%1 is connected with Veldmark (process %2). That session must be ended first.</source>
+        <translation>%1 ist mit Veldmark verbunden (Prozess %2). Diese Sitzung muss zuerst beendet werden.</translation>
+    </message>
+    <message>
         <source>%1 Your network is still pointed at Tor. Click Restore Network to undo.</source>
         <translation>%1 Ihr Netzwerk ist noch auf Tor eingestellt. Klicken Sie auf „Netzwerk wiederherstellen“, um das rückgängig zu machen.</translation>
     </message>

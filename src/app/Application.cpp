@@ -67,7 +67,7 @@ bool Application::eventFilter(QObject *watched, QEvent *event)
 void Application::leave(bool restored)
 {
     const TorController &controller = m_production.controller();
-    const bool left = !restored && controller.isSessionMarkerPresent();
+    const bool left = !restored && controller.isSessionMarkerPresent() && !controller.otherSession();
     if (left) {
         QTextStream errors(stderr);
         if (const auto reason = controller.errorMessage())

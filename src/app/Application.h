@@ -10,6 +10,7 @@
 #include "app/Windows.h"
 #include "base/Clock.h"
 #include "controller/Production.h"
+#include "controller/SessionWatch.h"
 #include "instance/InstanceServer.h"
 #include "system/SignalWatcher.h"
 
@@ -43,6 +44,7 @@ private:
     void leave(bool restored);
 
     Production m_production;
+    SessionWatch m_watch{m_production.controller()};
     ControllerSession m_session;
     std::unique_ptr<LogFeed> m_log;
     Windows m_windows;

@@ -202,7 +202,7 @@ void ControllerSession::connectToTor()
 
 void ControllerSession::disconnectFromTor()
 {
-    m_controller.detectStaleState(); // a marker that another process left counts as well
+    m_controller.lookAtSession(); // a marker that another process left counts as well
     m_controller.disconnect();
 }
 

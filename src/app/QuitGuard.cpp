@@ -14,7 +14,8 @@ QuitGuard::~QuitGuard()
 
 void QuitGuard::quit()
 {
-    if (!m_controller.isSessionMarkerPresent()) {
+    m_controller.lookAtSession();
+    if (!m_controller.isSessionMarkerPresent() || m_controller.otherSession()) { // nothing of ours to lose or leave
         Q_EMIT mayEnd();
         return;
     }

@@ -14,6 +14,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <unistd.h>
+
 namespace veldmark {
 
 namespace {
@@ -180,15 +182,29 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
             Console::printError(lock.error());
             co_return ExitStatus::alreadyRunning;
         }
-        co_await controller.disconnect();
-        if (controller.isSessionMarkerPresent()) {
-            Console::printError(controller.errorMessage().value_or(QStringLiteral("Cancelled.")));
-            co_return ExitStatus::failed;
+        if (controller.phase() != ConnectionPhase::disconnected) { // else there is nothing to do
+            const auto ended = co_await controller.disconnect();
+            if (!ended) {
+                Console::printError(ended.error().isEmpty() ? QStringLiteral("Cancelled.") : ended.error());
+                co_return ExitStatus::failed;
+            }
         }
     } else if (invocation.verb == Verb::status || invocation.verb == Verb::get) {
         co_await controller.locateTransports();
     }
     co_return show(invocation, publishedState(controller)) ? ExitStatus::done : ExitStatus::usage;
+}
+
+// As root there is nobody to ask: the helper itself says whether there is a session to open the application beside,
+// whoever's it is. So it also works where no password can be asked for: `sudo veldmarkctl launch …`.
+QCoro::Task<ExitStatus> launchHere(QString path, std::shared_ptr<Production> production)
+{
+    const QStringList arguments = {QStringLiteral("launch"), QStringLiteral("--uid"),
+                                   QString::number(SessionOwner::callerOfHelper()), QStringLiteral("--app"), path};
+    const auto launched = co_await production->privileged().runHelper(arguments);
+    if (!launched)
+        Console::printError(launched.error().description());
+    co_return launched ? ExitStatus::done : ExitStatus::failed;
 }
 
 QCoro::Task<ExitStatus> refuse(QString reason = notRunning, ExitStatus status = ExitStatus::notRunning)
@@ -226,6 +242,8 @@ QCoro::Task<ExitStatus> execute(Invocation invocation, PlatformProfile profile)
         return refuse();
     case Verb::downloadTransports:
         return downloadTransportsHere(profile);
+    case Verb::launch:
+        return geteuid() == 0 ? launchHere(invocation.key, std::make_shared<Production>(profile)) : refuse();
     default:
         return refuse();
     }

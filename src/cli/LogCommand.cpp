@@ -96,12 +96,9 @@ QCoro::Task<ExitStatus> showLog(Invocation invocation, PlatformProfile profile)
     if (!invocation.follow)
         co_return isUnreadable ? ExitStatus::failed : ExitStatus::done;
 
-    QList<TorLogLine> printed = store.snapshot().lines();
-    QObject::connect(&store, &TorLogStore::changed, &store, [&filter, &store, &printed] {
-        const QList<TorLogLine> now = store.snapshot().lines();
-        const auto added = TorLog::Snapshot::of(newLogLines(printed, now));
-        print(filter.shown(added));
-        printed = now;
+    LogFollower follower(store.snapshot().lines());
+    QObject::connect(&store, &TorLogStore::changed, &store, [&filter, &store, &follower] {
+        print(filter.shown(TorLog::Snapshot::of(follower.take(store.snapshot().lines()))));
     });
     store.start();
     const ResumeOnce<bool> never; // a signal ends the process

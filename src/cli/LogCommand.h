@@ -5,6 +5,8 @@
 
 #include <qcorotask.h>
 
+#include <utility>
+
 namespace veldmark {
 
 struct PlatformProfile;
@@ -20,5 +22,19 @@ QString logLineText(const TorLogLine &line, bool coloured);
 // The lines of `now` that were not in `before`, in order. The merged log is no file that only grows:
 // its beginning is cut, files rotate, and a start-up line goes when Tor logs it too.
 QList<TorLogLine> newLogLines(const QList<TorLogLine> &before, const QList<TorLogLine> &now);
+
+// What somebody who follows the log has not been shown yet.
+class LogFollower {
+public:
+    explicit LogFollower(QList<TorLogLine> shown) : m_shown(std::move(shown)) {}
+    // The new ones of `now`; they count as shown from then on.
+    QList<TorLogLine> take(const QList<TorLogLine> &now)
+    {
+        return newLogLines(std::exchange(m_shown, now), now);
+    }
+
+private:
+    QList<TorLogLine> m_shown;
+};
 
 } // namespace veldmark

@@ -13,6 +13,7 @@ namespace veldmark {
 RunCommand::RunCommand(const PlatformProfile &profile, bool connectNow)
     : m_production(profile)
     , m_controller(m_production.controller())
+    , m_watch(m_controller)
     , m_withdrawal(m_controller)
     , m_connectNow(connectNow)
     , m_progress(Console::isTerminal(), Console::width())
@@ -53,13 +54,19 @@ QCoro::Task<void> RunCommand::begin()
     if (const auto problem = m_production.settings().problem())
         complain(*problem);
     m_controller.detectStaleState();
+    co_await m_controller.updatePrivilegedHelper();
+    if (!self || m_withdrawal.isUnderWay() || m_restored)
+        co_return;
+    if (const auto problem = m_controller.startupError())
+        complain(*problem);
     if (m_connectNow)
         co_await m_controller.connect();
     else
         co_await m_controller.autoConnectIfEnabled();
     if (!self || m_withdrawal.isUnderWay() || m_restored) // somebody else has ended the attempt by a disconnect
         co_return;
-    if (m_connectNow && m_controller.phase() == ConnectionPhase::disconnected) {
+    const bool isRefused = m_controller.phase() == ConnectionPhase::disconnected || m_controller.otherSession();
+    if (m_connectNow && isRefused) {
         complain(m_controller.errorMessage().value_or(QStringLiteral("Cancelled.")));
         finish(ExitStatus::failed);
     } else if (m_controller.phase() == ConnectionPhase::disconnected) {

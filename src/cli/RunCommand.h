@@ -3,6 +3,7 @@
 #include "cli/Arguments.h"
 #include "cli/ProgressLine.h"
 #include "controller/Production.h"
+#include "controller/SessionWatch.h"
 #include "controller/Withdrawal.h"
 #include "instance/InstanceServer.h"
 #include "system/SignalWatcher.h"
@@ -42,6 +43,7 @@ private:
 
     Production m_production;
     TorController &m_controller;
+    SessionWatch m_watch;
     Withdrawal m_withdrawal;
     const bool m_connectNow;
     std::unique_ptr<InstanceServer> m_server;

@@ -10,8 +10,6 @@
 
 #include <algorithm>
 
-#include <unistd.h>
-
 using namespace std::chrono_literals;
 
 namespace veldmark {
@@ -96,7 +94,7 @@ QCoro::Task<Result<void, QString>> TorController::launchOnce(QString path)
             co_return Failure(QString()); // the session ended meanwhile
     }
 
-    const QStringList arguments = {QStringLiteral("launch"), QStringLiteral("--uid"), QString::number(getuid()),
+    const QStringList arguments = {QStringLiteral("launch"), QStringLiteral("--uid"), QString::number(SessionOwner::callerOfHelper()),
                                    QStringLiteral("--app"), path};
     const auto helper = co_await m_services.privileged.runHelper(arguments);
     if (helper)

@@ -81,7 +81,8 @@ void TorController::settleAfterFailure()
     }
     canCancel = false;
     activeMode = markedMode(); // the helper may have changed it before it failed
-    statusDetail = QStringLiteral("Your network is still set up for Tor");
+    otherSession = SessionOwner::ofAnotherProcess(m_services.profile);
+    statusDetail = otherSession() ? leftOverDetail() : QStringLiteral("Your network is still set up for Tor");
     m_torStopped = false;
     killSwitch = m_knownKillSwitch = judgedKillSwitch(); // the banner says why it failed; what changes later is told
     phase = ConnectionPhase::stale;
@@ -142,9 +143,18 @@ QCoro::Task<void> TorController::connect()
 {
     if (phase() != ConnectionPhase::disconnected && phase() != ConnectionPhase::stale)
         co_return;
+    lookAtSession();
     errorMessage = std::nullopt;
     if (const auto problem = SettingRules::torPathProblem(customTorPath())) {
         errorMessage = *problem;
+        co_return;
+    }
+    if (const auto other = otherSession()) { // whoever made it is told nothing when it is replaced
+        errorMessage = other->isOwnUser()
+            ? QStringLiteral("Another Veldmark of yours is connected (process %1). Disconnect it, or restore the "
+                             "network, first.").arg(other->process)
+            : QStringLiteral("%1 is connected with Veldmark (process %2). That session must be ended first.")
+                  .arg(other->userName(), QString::number(other->process));
         co_return;
     }
     const auto tor = torPath();

@@ -18,13 +18,13 @@ bool TorController::isSessionMarkerPresent() const
     return QFile::exists(m_services.profile.sessionMarker);
 }
 
-QCoro::Task<void> TorController::disconnect()
+QCoro::Task<Result<void, QString>> TorController::disconnect()
 {
     const bool mayDisconnect = phase() == ConnectionPhase::connected
         || phase() == ConnectionPhase::stale
         || (phase() == ConnectionPhase::connecting && canCancel());
     if (!mayDisconnect)
-        co_return;
+        co_return Failure(QString());
 
     const QPointer<TorController> self(this);
     // What the session had still to find out. It is begun again if the session stays.
@@ -48,31 +48,34 @@ QCoro::Task<void> TorController::disconnect()
     const QStringList arguments = {QStringLiteral("disconnect")};
     const auto helper = co_await m_services.privileged.runHelper(arguments);
     if (!self || !isCurrent(attempt))
-        co_return;
+        co_return Failure(QString());
     if (helper) {
         errorMessage = std::nullopt; // whatever it was, "the network is set up for Tor" is over
         endSession();
-        co_return;
+        co_return {};
     }
 
-    if (helper.error().kind() != HelperError::Kind::Cancelled)
-        errorMessage = helper.error().description();
+    QString reason;
+    if (helper.error().kind() != HelperError::Kind::Cancelled) {
+        reason = helper.error().description();
+        errorMessage = reason;
+    }
     // Without the marker the helper has opened the network before it failed: nothing is locked to
     // Tor any more, whatever this session was.
     if (!sessionWasUp || !isSessionMarkerPresent()) {
         settleAfterFailure();
-        co_return;
+        co_return Failure(reason);
     }
     statusDetail = connectedDetail();
     phase = ConnectionPhase::connected;
     if (!self || !isCurrent(attempt) || phase() != ConnectionPhase::connected)
-        co_return;
+        co_return Failure(reason);
     applyTerminalMode();
     startMonitoring();
     startKillSwitchWatch();
     if (wasSettlingIn) {
         settleIn(attempt);
-        co_return;
+        co_return Failure(reason);
     }
     if (wasChecking)
         runChecks();
@@ -80,6 +83,7 @@ QCoro::Task<void> TorController::disconnect()
         checkDNS(true);
     if (wasOptimizing)
         optimizeCircuits();
+    co_return Failure(reason);
 }
 
 void TorController::forgetCircuits()
@@ -97,6 +101,7 @@ void TorController::endSession()
     m_services.terminal.setActive(false);
     forgetKillSwitch();
     canCancel = false;
+    otherSession = std::nullopt;
     activeMode = std::nullopt;
     activeBridge = std::nullopt;
     forgetCircuits();
@@ -124,10 +129,42 @@ void TorController::detectStaleState()
     if (phase() != ConnectionPhase::disconnected)
         return;
     activeMode = markedMode();
-    statusDetail = QStringLiteral("Your network is still set up for Tor from an earlier session");
+    otherSession = SessionOwner::ofAnotherProcess(m_services.profile);
+    statusDetail = leftOverDetail();
     killSwitch = m_knownKillSwitch = judgedKillSwitch(); // what happened to an earlier session is no news
     phase = ConnectionPhase::stale;
     startKillSwitchWatch();
+}
+
+QString TorController::leftOverDetail() const
+{
+    if (!otherSession())
+        return QStringLiteral("Your network is still set up for Tor from an earlier session");
+    return otherSession()->isOwnUser()
+        ? QStringLiteral("Your network is set up for Tor by another Veldmark of yours, process %1")
+              .arg(otherSession()->process)
+        : QStringLiteral("Your network is set up for Tor by %1, whose Veldmark is process %2")
+              .arg(otherSession()->userName(), QString::number(otherSession()->process));
+}
+
+void TorController::lookAtSession()
+{
+    if (phase() == ConnectionPhase::disconnected && isSessionMarkerPresent())
+        detectStaleState();
+    if (phase() != ConnectionPhase::stale)
+        return;
+    if (!isSessionMarkerPresent()) { // another process has restored the network
+        errorMessage = std::nullopt;
+        endSession();
+        return;
+    }
+    const auto other = SessionOwner::ofAnotherProcess(m_services.profile);
+    if (other == otherSession())
+        return;
+    otherSession = other;
+    errorMessage = std::nullopt; // it was about another session
+    activeMode = markedMode();
+    statusDetail = leftOverDetail();
 }
 
 QCoro::Task<void> TorController::autoConnectIfEnabled()

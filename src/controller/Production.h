@@ -27,6 +27,7 @@ public:
     TorController &controller() { return m_controller; }
     SettingsStore &settings() { return m_settings; }
     RunningApplications &applications() { return *m_applications; }
+    PrivilegedRunner &privileged() { return m_privileged; }
     TransportDownloader &downloader() { return m_downloader; }
 
 private:

@@ -48,6 +48,11 @@ QJsonValue json(const std::vector<CircuitInfo> &value)
     return array;
 }
 
+QJsonValue json(const SessionOwner &value)
+{
+    return QJsonObject{{QStringLiteral("user"), value.userName()}, {QStringLiteral("process"), value.process}};
+}
+
 template <typename T>
 QJsonValue json(const std::optional<T> &value)
 {
@@ -146,6 +151,7 @@ QJsonObject publishedState(const TorController &c)
         {QStringLiteral("bytesRead"), json(c.bytesRead())},
         {QStringLiteral("bytesWritten"), json(c.bytesWritten())},
         {QStringLiteral("isChecking"), json(c.isChecking())},
+        {QStringLiteral("otherSession"), json(c.otherSession())},
         {QStringLiteral("canCancel"), json(c.canCancel())},
         {QStringLiteral("errorMessage"), json(c.errorMessage())},
         {QStringLiteral("dnsStatus"), json(c.dnsStatus())},

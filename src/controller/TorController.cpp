@@ -72,6 +72,7 @@ TorController::TorController(const Services &services, QObject *parent)
     , statusDetail(this, &TorController::statusDetailChanged,
                    QStringLiteral("Your traffic is not going through Tor"))
     , bootstrapProblem(this, &TorController::bootstrapProblemChanged)
+    , otherSession(this, &TorController::otherSessionChanged)
     , canCancel(this, &TorController::canCancelChanged)
     , errorMessage(this, &TorController::errorMessageChanged)
     , bytesRead(this, &TorController::bytesReadChanged)

@@ -17,6 +17,7 @@
 #include "base/Result.h"
 #include "base/ResumeOnce.h"
 #include "base/RoutingMode.h"
+#include "system/SessionOwner.h"
 
 #include <QObject>
 #include <QStringList>
@@ -110,6 +111,8 @@ public:
     // What keeps Tor from connecting, by its own report and log, in a sentence; absent when Tor knows
     // of nothing. Stays after a bootstrap that failed, until the next attempt or the restore.
     Published<std::optional<QString>> bootstrapProblem;
+    // Whose the session is that a stale phase shows, while another process that made it still runs.
+    Published<std::optional<SessionOwner>> otherSession;
     Published<bool> canCancel;           // a connect attempt may be ended by disconnect()
     // The banner; absent = none. An operation that may set it takes back what stood there before,
     // except a restore that did not happen: then the reason for restoring is still true.
@@ -156,10 +159,14 @@ public:
     // From `disconnected` or `stale` to `connected`; in any other phase does nothing.
     QCoro::Task<void> connect();
     // Restores the network. Accepted when connected, stale, or connecting with `canCancel`. When
-    // the helper fails, a session that was up is so again as long as the marker says so too.
-    QCoro::Task<void> disconnect();
+    // the helper fails, a session that was up is so again as long as the marker says so too. The error is
+    // a sentence; empty when the user dismissed the prompt, or when it was not accepted or not waited for.
+    QCoro::Task<Result<void, QString>> disconnect();
     // At start-up, before anything shows state: finds a session left from an earlier run.
     void detectStaleState();
+    // When another process may have made, replaced or ended the computer's session: shows what is so now. Does
+    // nothing while a session of this object's is being made, stands, or goes.
+    void lookAtSession();
     // At start-up: connects when the user wants it, nothing is left over and tor is there.
     QCoro::Task<void> autoConnectIfEnabled();
 
@@ -238,6 +245,7 @@ Q_SIGNALS:
     void bootstrapProgressChanged();
     void statusDetailChanged();
     void bootstrapProblemChanged();
+    void otherSessionChanged();
     void canCancelChanged();
     void errorMessageChanged();
     void bytesReadChanged();
@@ -281,6 +289,7 @@ private:
     // The mode that the session marker names; absent when it names none, or is not there.
     std::optional<RoutingMode> markedMode() const;
     QString connectedDetail() const;
+    QString leftOverDetail() const;
     void failAttempt(const QString &message);
     // Bootstrap.cpp
     QCoro::Task<Result<void, QString>> waitForBootstrap(Attempt attempt);

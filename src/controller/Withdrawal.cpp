@@ -30,7 +30,7 @@ void Withdrawal::proceed()
         || (phase == ConnectionPhase::connecting && !m_controller.canCancel());
     if (busy)
         return; // the next change comes back here
-    if (phase == ConnectionPhase::disconnected)
+    if (isDone())
         finish();
     else
         disconnect();
@@ -51,7 +51,14 @@ QCoro::Task<void> Withdrawal::disconnect()
 void Withdrawal::finish()
 {
     m_wanted = false;
-    Q_EMIT finished(m_controller.phase() == ConnectionPhase::disconnected);
+    Q_EMIT finished(isDone());
+}
+
+// Also where this program's session was replaced by another process's without its knowing yet.
+bool Withdrawal::isDone() const
+{
+    return m_controller.phase() == ConnectionPhase::disconnected
+        || SessionOwner::ofAnotherProcess(m_controller.profile());
 }
 
 } // namespace veldmark

@@ -10,7 +10,8 @@ class TorController;
 
 // Takes the network out of Tor at the first moment at which that can be done: at once where the
 // controller can be told to disconnect, else when what it is busy with has got so far. For a program
-// that was told to end. What was left over from an earlier run is restored as well. Main thread.
+// that was told to end. What was left over from an earlier run is restored as well; a session of another
+// process that still runs is that one's. Main thread.
 class Withdrawal : public QObject {
     Q_OBJECT
 
@@ -23,7 +24,7 @@ public:
     bool isUnderWay() const { return m_wanted; }
 
 Q_SIGNALS:
-    // Not restored: the controller's `errorMessage` says why, or the prompt was dismissed. It may be
+    // Restored: nothing is left that is this program's to put back. Not restored: the controller's `errorMessage` says why, or the prompt was dismissed. It may be
     // begun again.
     void finished(bool restored);
 
@@ -31,6 +32,7 @@ private:
     void proceed();
     QCoro::Task<void> disconnect();
     void finish();
+    bool isDone() const;
 
     TorController &m_controller;
     bool m_wanted = false;

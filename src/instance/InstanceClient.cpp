@@ -11,11 +11,13 @@ constexpr int connectLimitMs = 2000; // a local socket answers at once or not at
 
 std::shared_ptr<InstanceClient> InstanceClient::connectTo(const PlatformProfile &profile)
 {
-    auto socket = std::make_unique<QLocalSocket>();
-    socket->connectToServer(profile.controlSocket);
-    if (!socket->waitForConnected(connectLimitMs))
-        return nullptr;
-    return std::shared_ptr<InstanceClient>(new InstanceClient(JsonLines::over(socket.release())));
+    for (const QString &place : QStringList(profile.controlSocket) + profile.otherControlSockets) {
+        auto socket = std::make_unique<QLocalSocket>();
+        socket->connectToServer(place);
+        if (socket->waitForConnected(connectLimitMs))
+            return std::shared_ptr<InstanceClient>(new InstanceClient(JsonLines::over(socket.release())));
+    }
+    return nullptr;
 }
 
 QCoro::Task<Result<void, InstanceError>>

@@ -4,6 +4,9 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QSysInfo>
+
+#include <optional>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -20,6 +23,30 @@ bool isPrivateFolder(const QString &folder)
         && info.st_uid == geteuid() && (info.st_mode & 0077) == 0;
 }
 
+// The process of this user's that holds the lock of another place. A home that other computers share has their locks
+// as well; those are none of this computer's.
+std::optional<qint64> holderElsewhere(const PlatformProfile &profile)
+{
+    for (const QString &socket : profile.otherControlSockets) {
+        const QString folder = QFileInfo(socket).path();
+        if (!isPrivateFolder(folder))
+            continue;
+        QLockFile lock(folder + QStringLiteral("/lock"));
+        lock.setStaleLockTime(0);
+        qint64 pid = 0;
+        QString host;
+        QString program;
+        if (!lock.tryLock(0) && lock.getLockInfo(&pid, &host, &program) && host == QSysInfo::machineHostName())
+            return pid;
+    }
+    return std::nullopt;
+}
+
+QString alreadyRunning(qint64 pid)
+{
+    return QStringLiteral("Veldmark is already running (process %1).").arg(pid);
+}
+
 } // namespace
 
 Result<std::shared_ptr<QLockFile>, QString> lockInstance(const PlatformProfile &profile)
@@ -32,6 +59,8 @@ Result<std::shared_ptr<QLockFile>, QString> lockInstance(const PlatformProfile &
     if (!isPrivateFolder(folder))
         return Failure(QStringLiteral("%1 must be a folder of your own with mode 0700: the control "
                                       "socket goes there.").arg(folder));
+    if (const auto pid = holderElsewhere(profile))
+        return Failure(alreadyRunning(*pid));
     auto lock = std::make_shared<QLockFile>(folder + QStringLiteral("/lock"));
     lock->setStaleLockTime(0); // held for as long as the process lives, never stale by age
     if (lock->tryLock(0))
@@ -51,7 +80,7 @@ Result<std::shared_ptr<QLockFile>, QString> lockInstance(const PlatformProfile &
     if (lock->error() != QLockFile::LockFailedError)
         return Failure(QStringLiteral("Couldn't write %1/lock.").arg(folder));
     lock->getLockInfo(&pid, &host, &program);
-    return Failure(QStringLiteral("Veldmark is already running (process %1).").arg(pid));
+    return Failure(alreadyRunning(pid));
 }
 
 } // namespace veldmark

@@ -203,6 +203,7 @@ QCoro::Task<Result<void, InstanceError>> InstanceServer::execute(QJsonObject req
 {
     const QPointer<TorController> controller(&m_controller);
     const QString command = request.value(QStringLiteral("command")).toString();
+    m_controller.lookAtSession(); // another process may have changed what this one shows
     if (command == QLatin1String("raise")) {
         Q_EMIT raiseRequested();
         co_return {};
@@ -242,15 +243,11 @@ QCoro::Task<Result<void, InstanceError>> InstanceServer::execute(QJsonObject req
             || (controller->phase() == ConnectionPhase::connecting && !controller->canCancel());
         if (underWay)
             co_return refusal(QStringLiteral("Not now: %1").arg(controller->statusDetail()));
-        const bool wasStale = controller->phase() == ConnectionPhase::stale;
-        const auto earlierError = controller->errorMessage();
-        co_await m_controller.disconnect();
-        if (!controller)
-            co_return {};
-        const auto error = controller->errorMessage();
-        const bool isNews = error && !(wasStale && error == earlierError);
-        if (controller->phase() != ConnectionPhase::disconnected || isNews)
-            co_return refusal(isNews ? *error : QStringLiteral("Cancelled."));
+        if (controller->phase() != ConnectionPhase::disconnected) { // else there is nothing to do
+            const auto ended = co_await m_controller.disconnect();
+            if (!ended)
+                co_return refusal(ended.error().isEmpty() ? QStringLiteral("Cancelled.") : ended.error());
+        }
     } else if (command == QLatin1String("download-transports")) {
         if (!controller->canDownloadTransports())
             co_return refusal(QStringLiteral("Not now: %1").arg(

@@ -74,6 +74,7 @@ PlatformProfile PlatformProfile::linux(const Places &places)
                          "its location in Settings.").arg(profile.torInstallHint);
 
     profile.sessionMarker = at("/var/lib/veldmark/state/active");
+    profile.sessionOwner = at("/var/lib/veldmark/state/owner");
     profile.killSwitchNote = at("/run/veldmark.watch");
     profile.installedHelper = at("/usr/local/libexec/veldmark/veldmark-helper.sh");
     profile.sudoersRule = at("/etc/sudoers.d/veldmark");
@@ -127,10 +128,13 @@ PlatformProfile PlatformProfile::linux(const Places &places)
     profile.sshDirectory = places.home + QStringLiteral("/.ssh");
     profile.resolverFile = at("/etc/resolv.conf");
     // Without a runtime folder (a root shell, an SSH session without logind) the socket goes into
-    // a folder below the home that only the user can enter.
-    profile.controlSocket = places.runtimeDirectory.isEmpty()
-        ? places.dataHome + QStringLiteral("/veldmark/run/control")
-        : places.runtimeDirectory + QStringLiteral("/veldmark/control");
+    // a folder below the home that only the user can enter. The instance may have been started when
+    // there was one, and this process when there is none, or the other way round.
+    profile.controlSocket = places.dataHome + QStringLiteral("/veldmark/run/control");
+    if (!places.runtimeDirectory.isEmpty()) {
+        profile.otherControlSockets = {profile.controlSocket};
+        profile.controlSocket = places.runtimeDirectory + QStringLiteral("/veldmark/control");
+    }
     return profile;
 }
 

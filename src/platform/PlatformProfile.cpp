@@ -5,6 +5,9 @@
 #include <QFile>
 #include <QSysInfo>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace veldmark {
 
 namespace {
@@ -19,6 +22,23 @@ QString machineName()
     const QString architecture = QSysInfo::currentCpuArchitecture();
     return architecture == QLatin1String("arm64") ? QStringLiteral("aarch64") : architecture;
 }
+#ifndef Q_OS_MACOS
+// The variable is missing after su, in cron and in some SSH sessions, and after su it may be another user's. logind's folder
+// is the same one for all of a user's processes. A folder that is not there yet is made by who needs it.
+QString runtimeDirectory()
+{
+    const QString given = absoluteFromEnvironment("XDG_RUNTIME_DIR", QString());
+    struct stat info {};
+    const auto isOwn = [&info](const QString &path) {
+        return ::stat(QFile::encodeName(path).constData(), &info) == 0 && S_ISDIR(info.st_mode)
+            && info.st_uid == geteuid();
+    };
+    if (!given.isEmpty() && (isOwn(given) || !QFile::exists(given)))
+        return given;
+    const QString usual = QStringLiteral("/run/user/%1").arg(geteuid());
+    return isOwn(usual) ? usual : QString();
+}
+#endif
 } // namespace
 
 Places Places::fromEnvironment()
@@ -29,7 +49,9 @@ Places Places::fromEnvironment()
         absoluteFromEnvironment("XDG_CONFIG_HOME", places.home + QStringLiteral("/.config"));
     places.dataHome =
         absoluteFromEnvironment("XDG_DATA_HOME", places.home + QStringLiteral("/.local/share"));
-    places.runtimeDirectory = absoluteFromEnvironment("XDG_RUNTIME_DIR", QString());
+#ifndef Q_OS_MACOS
+    places.runtimeDirectory = runtimeDirectory();
+#endif
     places.applicationDirectory = QCoreApplication::applicationDirPath();
     places.machine = machineName();
     return places;

@@ -17,7 +17,7 @@ struct Places {
     QString home;           // the user's home folder
     QString configHome;     // $XDG_CONFIG_HOME, default ~/.config
     QString dataHome;       // $XDG_DATA_HOME, default ~/.local/share
-    QString runtimeDirectory; // $XDG_RUNTIME_DIR; empty where there is none
+    QString runtimeDirectory; // the user's, of $XDG_RUNTIME_DIR or the system's; empty where there is none
     QString applicationDirectory; // the folder of the running program's executable
     QString machine;        // "x86_64" or "aarch64", for the name of the bundle archive
 
@@ -53,6 +53,7 @@ struct PlatformProfile {
 
     // The helper and what it leaves behind.
     QString sessionMarker;    // exists while the network is set up for Tor; holds "proxy" or "strict"
+    QString sessionOwner;     // beside the marker: who made the session; empty where no helper notes it
     QString killSwitchNote;   // what the watcher has last seen of the firewall's rules, see KillSwitch; gone after a restart
     QString installedHelper;  // the root-owned copy for use without a password
     QString sudoersRule;
@@ -94,6 +95,7 @@ struct PlatformProfile {
     bool quitCanBeRefused; // the system asks a program whether it may end; elsewhere it is told
     QString scutil;       // empty where resolvers are not read from it
     QString controlSocket; // local socket on which a running instance takes commands
+    QStringList otherControlSockets; // where the same user's instance listens that was started in other circumstances
 
     static PlatformProfile linux(const Places &places);
     static PlatformProfile macos(const Places &places);

@@ -111,6 +111,12 @@ constexpr const char *forms[] = {
     QT_TRANSLATE_NOOP("Session", "Couldn't remove passwordless mode: %1"),
     QT_TRANSLATE_NOOP("Session", "ssh doesn't go through Tor yet: it needs a netcat that speaks SOCKS. Install one "
                                  "with: %1"),
+    QT_TRANSLATE_NOOP("Session", "Your network is set up for Tor by another Veldmark of yours, process %1"),
+    QT_TRANSLATE_NOOP("Session", "Your network is set up for Tor by %1, whose Veldmark is process %2"),
+    QT_TRANSLATE_NOOP("Session", "Another Veldmark of yours is connected (process %1). "
+                                 "Disconnect it, or restore the network, first."),
+    QT_TRANSLATE_NOOP("Session", "%1 is connected with Veldmark (process %2). "
+                                 "That session must be ended first."),
     QT_TRANSLATE_NOOP("Session", "%1 Your network is still pointed at Tor. Click Restore Network to undo."),
 };
 

@@ -1,5 +1,6 @@
 #include "StandInSession.h"
 #include "app/QuitGuard.h"
+#include "support/OtherSession.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 
@@ -55,6 +56,18 @@ private Q_SLOTS:
         QVERIFY(until([&] { return g.bench.processes.held() == 1; }));
         g.guard.quit();
         QCOMPARE(g.mayEnd.count(), 1);
+    }
+
+    void endsAtOnceWhereTheSessionIsAnotherProcesss()
+    {
+        Guarded g;
+        OtherSession other(g.bench.profile);
+        g.guard.quit();
+        QCOMPARE(g.mayEnd.count(), 1);
+        QVERIFY(!Guarded::question());
+        other.end();
+        g.guard.quit();
+        QVERIFY(Guarded::question()); // it is left over by now
     }
 
     void asksWhileTheNetworkIsSetUp_data()

@@ -3,6 +3,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace veldmark;
 
 namespace {
@@ -70,6 +71,21 @@ private Q_SLOTS:
         for (const TorLogLine &line : newLogLines(lines(before), lines(now)))
             found << line.raw;
         QCOMPARE(found, added);
+    }
+
+    void whoFollowsSeesEachLineOnce()
+    {
+        LogFollower follower(lines({u"a"_s, u"b"_s}));
+        const auto seen = [&follower](const QStringList &now) {
+            QStringList found;
+            for (const TorLogLine &line : follower.take(lines(now)))
+                found << line.raw;
+            return found;
+        };
+        QCOMPARE(seen({u"a"_s, u"b"_s, u"c"_s}), QStringList{u"c"_s});
+        QCOMPARE(seen({u"a"_s, u"b"_s, u"c"_s, u"d"_s}), QStringList{u"d"_s});
+        QCOMPARE(seen({u"a"_s, u"b"_s, u"c"_s, u"d"_s}), QStringList());
+        QCOMPARE(seen({u"d"_s, u"d"_s}), QStringList{u"d"_s}); // rotated, and once more
     }
 };
 

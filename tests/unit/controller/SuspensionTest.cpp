@@ -114,14 +114,14 @@ std::vector<Operation> operations()
         {"disconnect", true,
          [](Workbench &b) {
              b.hold(u"disconnect"_s);
-             return b.controller().disconnect();
+             return inWords(b.controller().disconnect());
          },
          1, isDisconnected},
         {"disconnect that is refused", true,
          [](Workbench &b) {
              b.cancelPrompt(u"disconnect"_s);
              b.hold(u"disconnect"_s);
-             return b.controller().disconnect();
+             return inWords(b.controller().disconnect());
          },
          1, isConnected},
         {"restoring what an earlier run left", false,
@@ -129,7 +129,7 @@ std::vector<Operation> operations()
              b.writeMarker("strict\n");
              b.controller().detectStaleState();
              b.hold(u"disconnect"_s);
-             return b.controller().disconnect();
+             return inWords(b.controller().disconnect());
          },
          1, isDisconnected},
         {"runChecks", true, [](Workbench &b) { return b.controller().runChecks(); }, 4,

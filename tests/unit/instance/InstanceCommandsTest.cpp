@@ -1,6 +1,8 @@
 #include "InstanceBench.h"
 #include "support/TestProgram.h"
 
+#include "support/OtherSession.h"
+
 #include <QDir>
 #include <QSignalSpy>
 #include <QTest>
@@ -115,6 +117,56 @@ private Q_SLOTS:
         instance.bench.cancelPrompt(u"disconnect"_s);
         Conversation dismissed(instance.bench, "disconnect");
         QCOMPARE(dismissed.error(), u"Cancelled."_s);
+    }
+
+    void aRestoreThatFailsAgainForTheSameReasonSaysItAgain()
+    {
+        Instance instance;
+        instance.bench.writeMarker("strict\n");
+        instance.bench.controller().detectStaleState();
+        instance.bench.failHelper(u"disconnect"_s, u"Could not."_s);
+        for (int time = 0; time < 3; ++time) {
+            Conversation restoring(instance.bench, "disconnect");
+            QCOMPARE(restoring.error(), u"Could not."_s);
+        }
+        instance.bench.cancelPrompt(u"disconnect"_s);
+        Conversation dismissed(instance.bench, "disconnect");
+        QCOMPARE(dismissed.error(), u"Cancelled."_s);
+    }
+
+    void restoresWhatSomebodyElseHasSetUpSince()
+    {
+        Instance instance;
+        instance.bench.writeMarker("strict\n"); // this instance was at rest all the while
+        Conversation restoring(instance.bench, "disconnect");
+        QVERIFY2(restoring.succeeds(), qPrintable(restoring.error()));
+        QCOMPARE(instance.bench.helperRunCount(u"disconnect"_s), 1);
+        QVERIFY(!instance.bench.hasMarker());
+        QCOMPARE(restoring.lastPhase(), u"disconnected"_s);
+        instance.bench.writeMarker("strict\n");
+        instance.bench.failHelper(u"disconnect"_s, u"Could not."_s);
+        Conversation failing(instance.bench, "disconnect");
+        QCOMPARE(failing.error(), u"Could not."_s);
+        QVERIFY(instance.bench.hasMarker());
+    }
+
+    void tellsOfASessionThatSomebodyElseHasMadeSince()
+    {
+        Instance instance;
+        OtherSession other(instance.bench.profile);
+        Conversation status(instance.bench, "status");
+        QVERIFY(status.succeeds());
+        QCOMPARE(status.lastPhase(), u"stale"_s);
+        QCOMPARE(status.states.back().value(u"otherSession"_s).toObject().value(u"process"_s).toInteger(), other.process());
+        Conversation connecting(instance.bench, "connect");
+        QVERIFY2(connecting.error().contains(QString::number(other.process())), qPrintable(connecting.error()));
+        QVERIFY(instance.bench.processes.calls.empty());
+        other.end();
+        instance.bench.removeMarker();
+        Conversation afterwards(instance.bench, "status");
+        QVERIFY(afterwards.succeeds());
+        QCOMPARE(afterwards.lastPhase(), u"disconnected"_s);
+        QVERIFY(afterwards.states.back().value(u"otherSession"_s).isNull());
     }
 
     void aConnectionThatIsDisconnectedMeanwhileHasFailed()

@@ -60,6 +60,22 @@ private Q_SLOTS:
         QVERIFY(lockInstance(place.profile));
     }
 
+    void thereIsOneInstanceInWhicheverPlaceItWasStarted()
+    {
+        Place place;
+        Places places = place.profile.places;
+        places.runtimeDirectory.clear();
+        const PlatformProfile elsewhere = PlatformProfile::linux(places);
+        auto first = lockInstance(elsewhere);
+        QVERIFY(first);
+        const auto second = lockInstance(place.profile);
+        QVERIFY(!second);
+        QCOMPARE(second.error(), u"Veldmark is already running (process %1)."_s.arg(QCoreApplication::applicationPid()));
+        first->reset();
+        QVERIFY(lockInstance(place.profile));
+        QVERIFY(lockInstance(elsewhere)); // looking has left no lock behind
+    }
+
     void refusesAFolder_data()
     {
         QTest::addColumn<int>("mode");

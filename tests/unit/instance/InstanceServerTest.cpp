@@ -6,7 +6,13 @@
 #include <QLocalSocket>
 #include <QTest>
 
+#include <cstring>
+
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace veldmark;
@@ -65,6 +71,70 @@ private Q_SLOTS:
         QVERIFY(status.succeeds());
         instance.server.reset();
         QVERIFY(InstanceServer::start(instance.bench.controller()));
+    }
+
+    // Where the folder's mode was changed.
+    void aProcessOfAnotherUserIsNotHeard_data()
+    {
+        QTest::addColumn<uint>("user");
+        QTest::addColumn<bool>("heard");
+        QTest::newRow("own user") << geteuid() << true;
+        QTest::newRow("another user") << 65534U << false;
+    }
+
+    void aProcessOfAnotherUserIsNotHeard()
+    {
+        QFETCH(uint, user);
+        QFETCH(bool, heard);
+        if (geteuid() != 0)
+            QSKIP("Only root can become another user: run this test with sudo.");
+        Instance instance;
+        const QByteArray path = QFile::encodeName(instance.bench.profile.controlSocket);
+        QByteArray folder = path;
+        for (int level = 0; level < 5; ++level) { // down from the temporary folder
+            folder = folder.left(folder.lastIndexOf('/'));
+            QVERIFY(::chmod(folder.constData(), 0755) == 0);
+        }
+        QVERIFY(::chmod(path.constData(), 0777) == 0);
+        const pid_t child = ::fork();
+        if (child == 0) { // plain system calls; its status is the number of bytes that it heard
+            sockaddr_un address{};
+            address.sun_family = AF_UNIX;
+            std::memcpy(address.sun_path, path.constData(), static_cast<std::size_t>(path.size()));
+            const int end = ::socket(AF_UNIX, SOCK_STREAM, 0);
+            const char request[] = "{\"command\":\"status\"}\n";
+            char answer[64];
+            if (::setresuid(user, user, user) != 0
+                || ::connect(end, reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0
+                || ::send(end, request, sizeof request - 1, MSG_NOSIGNAL) < 0)
+                ::_exit(100);
+            const ssize_t count = ::read(end, answer, sizeof answer);
+            ::_exit(count < 0 ? 0 : static_cast<int>(count));
+        }
+        int status = -1;
+        QVERIFY(until([&] { return ::waitpid(child, &status, WNOHANG) == child; }));
+        QVERIFY(WIFEXITED(status));
+        QCOMPARE(WEXITSTATUS(status), heard ? 64 : 0);
+    }
+
+    void isFoundFromAProcessWithoutTheRuntimeFolder()
+    {
+        Instance instance;
+        Workbench &bench = instance.bench;
+        Places places = bench.profile.places;
+        places.runtimeDirectory.clear(); // as under su, in cron, over SSH
+        const PlatformProfile elsewhere = PlatformProfile::linux(places);
+        QVERIFY(elsewhere.controlSocket != bench.profile.controlSocket);
+        QVERIFY(!InstanceClient::connectTo(elsewhere)); // it cannot know of that folder
+        instance.server.reset();
+        bench.profile = elsewhere;
+        bench.restart();
+        auto started = InstanceServer::start(bench.controller()); // the other way round it can
+        QVERIFY(started);
+        places.runtimeDirectory = bench.folder.path() + u"/run/user/1000"_s;
+        QVERIFY(InstanceClient::connectTo(PlatformProfile::linux(places)));
+        started->reset();
+        settle();
     }
 
     void aSocketThatACrashLeftIsNoHindrance()

@@ -7,6 +7,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <unistd.h>
+
 using namespace veldmark;
 
 namespace {
@@ -39,6 +41,7 @@ QString table(const PlatformProfile &p)
         {"homePage", p.homePage},
         {"manualRestoreCommand", p.manualRestoreCommand},
         {"sessionMarker", p.sessionMarker},
+        {"sessionOwner", p.sessionOwner},
         {"killSwitchNote", p.killSwitchNote},
         {"installedHelper", p.installedHelper},
         {"sudoersRule", p.sudoersRule},
@@ -66,7 +69,7 @@ QString table(const PlatformProfile &p)
         {"resolverFile", p.resolverFile},
         {"quitCanBeRefused", QString::number(p.quitCanBeRefused)},
         {"scutil", p.scutil},
-        {"controlSocket", p.controlSocket},
+        {"controlSocket", list({p.controlSocket})},
     };
     QString text;
     for (const auto &[key, value] : rows)
@@ -130,6 +133,7 @@ torMissingText: Tor isn't installed. Install it with your package manager or set
 homePage: 
 manualRestoreCommand: sudo bash /nowhere/usr/share/veldmark/veldmark-helper.sh disconnect
 sessionMarker: /nowhere/var/lib/veldmark/state/active
+sessionOwner: /nowhere/var/lib/veldmark/state/owner
 killSwitchNote: /nowhere/run/veldmark.watch
 installedHelper: /nowhere/usr/local/libexec/veldmark/veldmark-helper.sh
 sudoersRule: /nowhere/etc/sudoers.d/veldmark
@@ -170,6 +174,7 @@ torMissingText: Tor isn't installed. Install it with Homebrew (brew install tor)
 homePage: 
 manualRestoreCommand: sudo bash /Applications/Veldmark.app/Contents/Resources/veldmark-helper.sh disconnect
 sessionMarker: /nowhere/Library/Application Support/Veldmark/state/active
+sessionOwner: 
 killSwitchNote: /nowhere/var/run/veldmark.watch
 installedHelper: /nowhere/Library/Application Support/Veldmark/bin/veldmark-helper.sh
 sudoersRule: /nowhere/etc/sudoers.d/veldmark
@@ -214,6 +219,43 @@ controlSocket: ~/Library/Application Support/Veldmark/run/control
         QCOMPARE(places.runtimeDirectory, QString());
         for (const char *variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
             qunsetenv(variable);
+    }
+
+#ifndef Q_OS_MACOS
+    void theRuntimeFolderIsTheUsersOwn()
+    {
+        QTemporaryDir own;
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(own.path()));
+        QCOMPARE(Places::fromEnvironment().runtimeDirectory, own.path());
+        const QString missing = own.filePath(QStringLiteral("missing"));
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(missing));
+        QCOMPARE(Places::fromEnvironment().runtimeDirectory, missing);
+        // Without the variable, and where su has left another user's, logind's is taken if it is there.
+        const QFileInfo logind(QStringLiteral("/run/user/%1").arg(geteuid()));
+        const QString usual = logind.isDir() && logind.ownerId() == geteuid() ? logind.filePath() : QString();
+        for (const char *given : {"", "relative"}) {
+            qputenv("XDG_RUNTIME_DIR", given);
+            QCOMPARE(Places::fromEnvironment().runtimeDirectory, usual);
+        }
+        if (geteuid() == 0) {
+            QVERIFY(::chown(QFile::encodeName(own.path()).constData(), 65534, 65534) == 0);
+            qputenv("XDG_RUNTIME_DIR", QFile::encodeName(own.path()));
+            QCOMPARE(Places::fromEnvironment().runtimeDirectory, usual);
+        }
+        qunsetenv("XDG_RUNTIME_DIR");
+    }
+#endif
+
+    void aUsersInstanceIsLookedForInBothPlaces()
+    {
+        Places places = Places::below(QStringLiteral("/x"));
+        const QString runtime = QStringLiteral("/x/run/user/1000/veldmark/control");
+        const QString home = QStringLiteral("/x/home/user/.local/share/veldmark/run/control");
+        QCOMPARE(PlatformProfile::linux(places).controlSocket, runtime);
+        QCOMPARE(PlatformProfile::linux(places).otherControlSockets, QStringList{home});
+        places.runtimeDirectory.clear();
+        QCOMPARE(PlatformProfile::linux(places).controlSocket, home);
+        QCOMPARE(PlatformProfile::linux(places).otherControlSockets, QStringList());
     }
 
     void theMacIsNamedAsSuch()

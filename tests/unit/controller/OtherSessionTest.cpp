@@ -1,0 +1,212 @@
+#include "controller/PublishedState.h"
+#include "controller/SessionWatch.h"
+#include "controller/Withdrawal.h"
+#include "support/OtherSession.h"
+#include "support/TestProgram.h"
+#include "support/Workbench.h"
+
+#include <QJsonObject>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace veldmark;
+using Phase = ConnectionPhase;
+
+namespace {
+constexpr uid_t daemonUser = 1; // every system's
+const QString leftOver = u"Your network is still set up for Tor from an earlier session"_s;
+} // namespace
+
+// The session of another process, of the same user or another: it is shown as what it is, and neither replaced nor ended
+// without having been asked to.
+class OtherSessionTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase() // also where sudo runs it
+    {
+        qunsetenv("SUDO_UID");
+        qunsetenv("PKEXEC_UID");
+    }
+
+    void isShownAsWhose_data()
+    {
+        QTest::addColumn<uint>("user");
+        QTest::addColumn<QString>("detail");
+        QTest::newRow("own user") << geteuid() << u"Your network is set up for Tor by another Veldmark of yours, process %1"_s;
+        QTest::newRow("another user") << daemonUser << u"Your network is set up for Tor by daemon, whose Veldmark is process %1"_s;
+    }
+
+    void isShownAsWhose()
+    {
+        QFETCH(uint, user);
+        QFETCH(QString, detail);
+        Workbench bench;
+        OtherSession other(bench.profile, user, "proxy\n");
+        TorController &c = bench.controller();
+        c.detectStaleState();
+        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.activeMode() == RoutingMode::proxy);
+        QCOMPARE(c.statusDetail(), detail.arg(other.process()));
+        const QJsonObject published = publishedState(c).value(u"otherSession"_s).toObject();
+        QCOMPARE(published.value(u"user"_s).toString(), (SessionOwner{user, 0}).userName());
+        QCOMPARE(published.value(u"process"_s).toInteger(), other.process());
+    }
+
+    void isLeftOverOnceItsProcessHasEnded()
+    {
+        Workbench bench;
+        OtherSession other(bench.profile);
+        TorController &c = bench.controller();
+        c.detectStaleState();
+        QVERIFY(c.otherSession());
+        other.end();
+        c.lookAtSession();
+        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(!c.otherSession());
+        QCOMPARE(c.statusDetail(), leftOver);
+        QVERIFY(bench.connect());
+    }
+
+    void isNotReplaced_data()
+    {
+        QTest::addColumn<uint>("user");
+        QTest::addColumn<bool>("seen");
+        QTest::newRow("own user") << geteuid() << true;
+        QTest::newRow("another user") << daemonUser << true;
+        QTest::newRow("begun since the start") << geteuid() << false;
+    }
+
+    void isNotReplaced()
+    {
+        QFETCH(uint, user);
+        QFETCH(bool, seen);
+        Workbench bench;
+        OtherSession other(bench.profile, user);
+        TorController &c = bench.controller();
+        if (seen)
+            c.detectStaleState();
+        QVERIFY(!bench.connect());
+        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(bench.processes.calls.empty());
+        QVERIFY2(c.errorMessage().value_or(QString()).contains(u"process %1"_s.arg(other.process())), qPrintable(*c.errorMessage()));
+        other.end();
+        QVERIFY(bench.connect());
+        QVERIFY(!c.errorMessage());
+    }
+
+    void isEndedWhenTheUserRestoresTheNetwork()
+    {
+        Workbench bench;
+        OtherSession other(bench.profile, daemonUser);
+        TorController &c = bench.controller();
+        c.detectStaleState();
+        bench.failHelper(u"disconnect"_s, u"An administrator said no."_s);
+        bench.disconnect();
+        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.otherSession()); // and it is shown as before
+        QVERIFY(c.statusDetail().contains(u"daemon"_s));
+        bench.letHelperWork();
+        bench.disconnect();
+        QVERIFY(c.phase() == Phase::disconnected);
+        QVERIFY(!c.otherSession());
+        QVERIFY(!bench.hasMarker());
+    }
+
+    void isNotEndedWithTheProgramThatOnlySeesIt()
+    {
+        Workbench bench;
+        OtherSession other(bench.profile);
+        TorController &c = bench.controller();
+        c.detectStaleState();
+        Withdrawal withdrawal(c);
+        QSignalSpy finished(&withdrawal, &Withdrawal::finished);
+        withdrawal.begin();
+        QVERIFY(until([&] { return finished.count() == 1; }));
+        QCOMPARE(finished.at(0).at(0).toBool(), true);
+        QCOMPARE(bench.helperRunCount(u"disconnect"_s), 0);
+        QVERIFY(bench.hasMarker());
+        other.end(); // then it is left over, and the next one that ends restores it
+        withdrawal.begin();
+        QVERIFY(until([&] { return finished.count() == 2; }));
+        QCOMPARE(bench.helperRunCount(u"disconnect"_s), 1);
+        QVERIFY(!bench.hasMarker());
+    }
+
+    void isNotEndedWithTheProgramWhoseSessionItHasReplaced()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        OtherSession other(bench.profile, daemonUser); // by an administrator's word; this one has not seen it yet
+        Withdrawal withdrawal(bench.controller());
+        QSignalSpy finished(&withdrawal, &Withdrawal::finished);
+        withdrawal.begin();
+        QVERIFY(until([&] { return finished.count() == 1; }));
+        QCOMPARE(finished.at(0).at(0).toBool(), true);
+        QCOMPARE(bench.helperRunCount(u"disconnect"_s), 0);
+        QVERIFY(bench.hasMarker());
+    }
+
+    void isShownWhenItHasReplacedThisOnes()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        SessionWatch watch(c);
+        QVERIFY(bench.connect());
+        OtherSession other(bench.profile, daemonUser);
+        bench.tor.stopListening(); // it has a Tor of its own
+        for (int tick = 0; tick < 3; ++tick)
+            QVERIFY(bench.tick());
+        QVERIFY(until([&] { return c.otherSession().has_value(); }));
+        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.statusDetail().contains(u"daemon"_s));
+        QVERIFY(!c.errorMessage()); // it told of a kill switch that is another session's by now
+    }
+
+    void takesThePlaceOfALeftOverOne()
+    {
+        Workbench bench;
+        bench.writeMarker("proxy\n");
+        TorController &c = bench.controller();
+        c.detectStaleState();
+        bench.failHelper(u"disconnect"_s, u"Could not."_s);
+        bench.disconnect();
+        QVERIFY(c.errorMessage());
+        OtherSession other(bench.profile);
+        c.lookAtSession();
+        QVERIFY(c.otherSession());
+        QVERIFY(!c.errorMessage()); // it was about what is there no more
+        QVERIFY(c.activeMode() == RoutingMode::strict);
+    }
+
+    void aSessionOfThisProcessIsNotLookedAt()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        bench.removeMarker();
+        bench.controller().lookAtSession(); // what Tor's death comes to is the monitor's to tell
+        QVERIFY(bench.controller().phase() == Phase::connected);
+    }
+
+    void theWatchSeesItComeAndGo()
+    {
+        Workbench bench; // where there was never a session, and no folder for the marker
+        TorController &c = bench.controller();
+        SessionWatch watch(c);
+        {
+            OtherSession other(bench.profile);
+            QVERIFY(until([&] { return c.otherSession().has_value(); }));
+            QVERIFY(c.phase() == Phase::stale);
+            bench.removeMarker(); // it has disconnected
+            QVERIFY(until([&] { return c.phase() == Phase::disconnected; }));
+        }
+        OtherSession next(bench.profile, daemonUser);
+        QVERIFY(until([&] { return c.otherSession().has_value(); }));
+        next.end(); // without a word
+        QVERIFY(until([&] { return !c.otherSession(); }));
+        QCOMPARE(c.statusDetail(), leftOver);
+    }
+};
+
+VELDMARK_TEST(OtherSessionTest)
+#include "OtherSessionTest.moc"
