@@ -1,6 +1,8 @@
 #pragma once
 
+#include "doctor/Examiner.h"
 #include "platform/RunningApplications.h"
+#include "system/ChildProcessRunner.h"
 #include "system/SettingsStore.h"
 #include "ui/Session.h"
 
@@ -32,6 +34,7 @@ public:
     void refreshCircuits() override;
     void dismissError() override;
     void lookForTor() override;
+    void examine() override;
     void downloadTransports() override;
     void installPasswordless() override;
     void removePasswordless() override;
@@ -44,6 +47,7 @@ public:
 private:
     void schedule();
     void read();
+    QCoro::Task<void> look();
 
     TorController &m_controller;
     SettingsStore &m_settings;
@@ -52,6 +56,10 @@ private:
     QString m_terminalHint;          // asked when terminal mode is switched on
     bool m_terminalModeWasOn = false;
     std::optional<QString> m_notice; // of this program's own, shown until it is dismissed
+    Findings m_findings;
+    bool m_isExamining = false;
+    ChildProcessRunner m_processes; // of the examiner
+    Examiner m_examiner;            // the last: who waits for it is resumed when it goes
 };
 
 } // namespace veldmark

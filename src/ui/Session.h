@@ -44,6 +44,7 @@ public:
     virtual void refreshCircuits() = 0;
     virtual void dismissError() = 0;
     virtual void lookForTor() = 0;
+    virtual void examine() = 0; // this computer: what a connect needs of it
     virtual void downloadTransports() = 0;
     virtual void installPasswordless() = 0;
     virtual void removePasswordless() = 0;

@@ -4,6 +4,7 @@
 #include "bridges/BridgeChoice.h"
 #include "bridges/PluggableTransports.h"
 #include "circuits/CircuitInfo.h"
+#include "doctor/Finding.h"
 
 #include <QString>
 #include <QStringList>
@@ -82,6 +83,8 @@ struct Snapshot {
 
     std::optional<QString> torPath; // absent: there is no tor to run
     bool markerPresent = false;     // the network is set up for Tor
+    Findings findings;              // of the last look at this computer
+    bool isExamining = false;       // it is being looked at
     std::optional<bool> openAtLogin; // absent: this build cannot change it
 };
 

@@ -57,6 +57,7 @@ public:
         m_now.errorMessage.reset();
         Q_EMIT changed();
     }
+    void examine() override { asked << QStringLiteral("examine"); }
     void lookForTor() override { asked << QStringLiteral("lookForTor"); }
     void downloadTransports() override { asked << QStringLiteral("downloadTransports"); }
     void installPasswordless() override { asked << QStringLiteral("installPasswordless"); }
