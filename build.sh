@@ -7,10 +7,13 @@ usage() {
     cat <<'TEXT'
 usage: ./build.sh VERB
   deps     install every Debian package that the other verbs need (only when one is missing)
-  build    compile; programs in build/bin/
+  build    compile the programs, into build/bin/
   run      start veldmarkctl in the foreground (arguments are handed on)
   demo     show the whole thing on a private Tor network: no internet, nothing changed outside it
-  test     every test: unit, helper, lab and a moment of each fuzzer
+  test     every test: unit, helper, lab and a moment of each fuzzer; with names of rooms or suites
+           (./build.sh test controller lab) only theirs
+  fresh-test
+           demo, test and package as a stranger runs them: from a clone of the last commit on a clean Debian 12
   asan     the unit tests under the address and undefined-behaviour sanitizers
   tsan     the tests whose work crosses threads, under the thread sanitizer
   coverage which lines of src/ the unit tests run
@@ -29,86 +32,32 @@ die() {
     exit 1
 }
 
-# What compiles the programs, what they call, and what the tests and the private Tor network need.
-packages=(
-    g++ cmake ninja-build ccache pkg-config git
-    libglib2.0-dev qt6-base-dev qt6-declarative-dev libgl-dev qcoro-qt6-dev libexpected-dev
-    tor tor-geoipdb obfs4proxy nftables iproute2 util-linux sudo pkexec polkitd procps
-    snowflake-client gnupg passwd
-    python3 openssl ca-certificates curl tcpdump shellcheck unzip netcat-openbsd openssh-client iputils-ping zsh dash
-    libglib2.0-bin dconf-cli dconf-gsettings-backend gsettings-desktop-schemas dbus
-    python3-stem nyx
-    clang libclang-rt-14-dev libobjc-12-dev gcovr
-    qt6-svg-dev qt6-l10n-tools qt6-declarative-dev-tools qml6-module-qtquick
-    qml6-module-qtquick-templates qml6-module-qtquick-window qml6-module-qtquick-layouts
-    qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
-    fonts-noto-core fonts-noto-mono fonts-noto-color-emoji
-    xvfb xauth xdotool openbox dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi python3-dbus
-    dpkg-dev lintian debootstrap appstream desktop-file-utils mandoc
-)
+# shellcheck source=tools/progress.sh
+source tools/progress.sh
+# shellcheck source=tools/deps.sh
+source tools/deps.sh
 
-missing_packages() {
-    local installed name
-    installed=$(dpkg-query -W -f '${db:Status-Abbrev} ${Package}\n' 2>/dev/null | awk '$1 == "ii" { print $2 }')
-    for name in "${packages[@]}"; do
-        grep -qxF -- "$name" <<<"$installed" || printf '%s\n' "$name"
-    done
-}
-
-# Debian starts a service when its package is installed. Nothing here wants a running tor, and
-# a tor that starts by itself would talk to the public network: tell dpkg to start nothing.
-install_packages() {
-    local -a root=()
-    if [[ $EUID -ne 0 ]]; then
-        command -v sudo >/dev/null || die "these packages are missing; install them as root: $*"
-        root=(sudo)
-    fi
-    local policy=/usr/sbin/policy-rc.d made_policy=
-    if [[ ! -e $policy ]]; then
-        printf '#!/bin/sh\nexit 101\n' | "${root[@]}" tee "$policy" >/dev/null
-        "${root[@]}" chmod 755 "$policy"
-        made_policy=yes
-    fi
-    local log status=0
-    log=$(mktemp)
-    {
-        "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update &&
-            "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "$@"
-    } >"$log" 2>&1 || status=$?
-    [[ -z $made_policy ]] || "${root[@]}" rm -f "$policy"
-    if [[ $status -ne 0 ]]; then
-        grep -E '^E:' "$log" | head -n 3 >&2 || true
-        die "installing packages failed; see $log, then run ./build.sh deps again"
-    fi
-    rm -f "$log"
-}
-
-deps() {
-    command -v dpkg-query >/dev/null ||
-        die "only Debian 12 and its descendants are set up by this script; install the equivalents of: ${packages[*]}"
-    local -a missing=()
-    local name
-    while read -r name; do missing+=("$name"); done < <(missing_packages)
-    [[ ${#missing[@]} -gt 0 ]] || return 0
-    printf 'Installing %d packages: %s\n' "${#missing[@]}" "${missing[*]}"
-    install_packages "${missing[@]}"
+fetch_unpacked() {
+    local package
+    cd "$1" || return
+    apt-get download "${@:2}" || { apt-get update && apt-get download "${@:2}"; } || return
+    for package in *.deb; do dpkg -x "$package" unpacked || return; done
 }
 
 # unpack FOLDER PROGRAM PACKAGE...: fetches packages whose programs the tests run in namespaces. Installing
 # them would change this machine (systemd-resolved takes over its resolver, the SSH server would start) or bring
 # much that nobody needs (the headers of GNUstep), so they are only unpacked, into build/FOLDER.
 unpack() {
-    local target=build/$1 program=$2 folder package
+    local target=build/$1 program=$2 folder
+    local -a packages=("${@:3}")
     [[ ! -e $target/$program ]] || return 0
-    shift 2
     folder=$(mktemp -d)
-    if (cd "$folder" && { apt-get download "$@" || { apt-get update && apt-get download "$@"; }; } &&
-        for package in *.deb; do dpkg -x "$package" unpacked; done) >"$folder/log" 2>&1; then
+    if busy "Fetching ${packages[0]}" "$folder/log" fetch_unpacked "$folder" "${packages[@]}"; then
         rm -rf "$target"
         mkdir -p build
         mv "$folder/unpacked" "$target"
     else
-        printf 'build.sh: %s could not be fetched; its tests will be skipped.\n' "$1" >&2
+        printf 'build.sh: %s could not be fetched; its tests will be skipped.\n' "${packages[0]}" >&2
     fi
     rm -rf "$folder"
 }
@@ -119,42 +68,90 @@ unpack_services() {
     unpack gnustep usr/include/GNUstep/AppKit/AppKit.h libgnustep-gui-dev libgnustep-base-dev
 }
 
-# Compiles one preset; a failure shows the first error lines, not the whole log.
+# compile PRESET [TARGET...]: configures and compiles; a failure shows the reason, not the whole log.
 compile() {
-    local preset=$1 log
-    mkdir -p build
-    log=build/$preset.log
+    local preset=$1 log=build/$1.log target reason
+    local -a targets=() launcher=()
+    shift
+    for target in "$@"; do targets+=(--target "$target"); done
+    mkdir -p build 2>/dev/null || die "this folder cannot be written: copy the checkout to one of your own, or run this as its owner"
+    (: >"$log") 2>/dev/null || die "build/ belongs to another user: remove it, or run this as that user"
+    # A compiler cache is used where there is one, also for what is compiled with precompiled headers.
+    export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros}
+    ! command -v ccache >/dev/null || launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
     if [[ ! -f build/$preset/build.ninja ]]; then
-        cmake --preset "$preset" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache >"$log" 2>&1 || {
+        busy "Configuring" "$log" cmake --preset "$preset" ${launcher[@]+"${launcher[@]}"} || {
+            reason=$(explain_failure "$log")
+            [[ -z $reason ]] || die "$reason"
             grep -m 1 -A 3 'CMake Error' "$log" >&2 || true
             die "configuring failed; run ./build.sh deps, and see $log if that does not help"
         }
     fi
-    cmake --build --preset "$preset" >"$log" 2>&1 || {
+    cmake --build "build/$preset" ${targets[@]+"${targets[@]}"} 2>&1 | tee "$log" | progress "Compiling" || {
+        reason=$(explain_failure "$log")
+        [[ -z $reason ]] || die "$reason"
         grep -m 5 -E 'error:|CMake Error|ninja: error' "$log" >&2 || tail -n 5 "$log" >&2
         die "the build failed; the whole output is in $log"
     }
 }
 
 build() {
-    deps
-    compile dev
+    deps programs
+    compile dev programs
+}
+
+# test_targets NAME...: what a run of these tests alone has to compile. A name is a room ("controller") or a suite ("lab").
+test_targets() {
+    local name
+    for name in "$@"; do
+        if [[ -d tests/unit/$name ]]; then
+            printf 'test-%s\n' "$name"
+        elif [[ $name =~ ^(house|helper|helper_mac|lab|ui|package|fuzz)$ ]]; then
+            printf 'suite-%s\n' "$name"
+        else
+            die "there are no tests of '$name'; rooms: $(cd tests/unit && echo *); suites: house helper helper_mac lab ui package fuzz"
+        fi
+    done
+}
+
+# git, also in a checkout that belongs to another user.
+own_git() {
+    git -c safe.directory="$PWD" "$@"
+}
+
+# When the sources were last changed, in seconds since 1970: the commit's time, in a source archive that of its newest file.
+source_date() {
+    own_git log -1 --format=%ct 2>/dev/null || find . -path ./build -prune -o -type f -printf '%Ts\n' | sort -n | tail -n 1
+}
+
+pack() {
+    (cd "$1" && cpack -G DEB)
 }
 
 # The Debian package of the release build, checked by lintian; an error of its fails.
 package() {
     deps
+    # Times in the archive, and in the resources inside the programs, are the commit's: the same commit gives the same bytes
+    # anywhere and on any day.
+    SOURCE_DATE_EPOCH=$(source_date)
+    export SOURCE_DATE_EPOCH QT_RCC_SOURCE_DATE_OVERRIDE=$SOURCE_DATE_EPOCH
     compile release
     local folder=build/release log=build/package.log made
-    rm -f "$folder"/*.deb build/*.deb
-    (cd "$folder" && cpack -G DEB) >"$log" 2>&1 || die "packing failed; see $log"
+    rm -f "$folder"/*.deb build/*.deb "$log"
+    busy "Packing" "$log" pack "$folder" || die "packing failed; see $log"
     made=$(cd "$folder" && echo veldmark_*.deb)
-    lintian --allow-root --fail-on error "$folder/$made" >>"$log" 2>&1 || {
+    busy "Checking the package" "$log" lintian --allow-root --fail-on error "$folder/$made" || {
         grep '^E:' "$log" >&2 || true
         die "lintian refuses $folder/$made; see $log"
     }
     mv "$folder/$made" build/
     printf 'build/%s\n' "$made"
+}
+
+build_archive() {
+    cd "$1" || return
+    export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+    "${@:2}" ./build.sh package
 }
 
 # Sources of the last commit, and a build of exactly these where there is no network.
@@ -163,21 +160,18 @@ dist() {
     local version name folder
     version=$(sed -nE 's/^project\(Veldmark VERSION ([0-9.]+) .*/\1/p' CMakeLists.txt)
     name=veldmark-$version
-    git rev-parse --is-inside-work-tree >/dev/null 2>&1 || die "a source archive is made from the git repository"
-    [[ -z $(git status --porcelain) ]] || printf 'build.sh: what is not committed is not in the archive.\n' >&2
+    own_git rev-parse --is-inside-work-tree >/dev/null 2>&1 || die "a source archive is made from the git repository"
+    [[ -z $(own_git status --porcelain) ]] || printf 'build.sh: what is not committed is not in the archive.\n' >&2
     mkdir -p build
-    git archive --format=tar --prefix="$name/" HEAD | gzip -9n >"build/$name.tar.gz"
+    own_git archive --format=tar --prefix="$name/" HEAD | gzip -9n >"build/$name.tar.gz"
     folder=$(mktemp -d)
     tar -xzf "build/$name.tar.gz" -C "$folder"
     local -a alone=(unshare --net)
     [[ $EUID -eq 0 ]] || alone=(unshare --map-root-user --net)
     "${alone[@]}" true 2>/dev/null || alone=()
     [[ ${#alone[@]} -gt 0 ]] || printf 'build.sh: no network namespaces here, so it is built with the network.\n' >&2
-    (
-        cd "$folder/$name"
-        export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
-        "${alone[@]}" ./build.sh package
-    ) >build/dist.log 2>&1 || die "the archive does not build; see build/dist.log and $folder/$name/build"
+    rm -f build/dist.log
+    busy "Building the archive's content" build/dist.log build_archive "$folder/$name" ${alone[@]+"${alone[@]}"} || die "the archive does not build; see build/dist.log and $folder/$name/build"
     rm -rf "$folder"
     printf 'build/%s\n' "$name.tar.gz"
 }
@@ -185,26 +179,45 @@ dist() {
 verb=${1:-}
 [[ $# -eq 0 ]] || shift
 case $verb in
-deps) deps ;;
+deps) deps "$@" ;;
 build) build ;;
 run)
     build
     exec build/bin/veldmarkctl "$@"
     ;;
 demo)
-    build
+    deps programs
+    compile dev programs veldmark-pictures
     exec /usr/bin/python3 tests/lab/demo.py "$@"
     ;;
 test)
-    build
-    compile fuzz
-    unpack_services
+    deps
+    names=()
+    while [[ $# -gt 0 && $1 != -* ]]; do
+        names+=("$1")
+        shift
+    done
     mkdir -p build/test
+    if [[ ${#names[@]} -gt 0 ]]; then
+        mapfile -t targets < <(test_targets "${names[@]}")
+        [[ ${#targets[@]} -eq ${#names[@]} ]] || exit 2
+        compile dev "${targets[@]}"
+        [[ " ${names[*]} " != *" fuzz "* ]] || compile fuzz fuzzers
+        set -- -R "^(unit/)?($(IFS='|' && echo "${names[*]}"))/" "$@"
+    else
+        compile dev
+        compile fuzz fuzzers
+    fi
+    unpack_services
     status=0
     # Two processors; cmake/Veldmark.cmake says how many places a test takes.
     ctest --preset dev --parallel 4 --output-junit ../test/junit.xml "$@" || status=$?
-    /usr/bin/python3 tests/skipped.py build/test/junit.xml
+    /usr/bin/python3 tests/skipped.py build/test/junit.xml || status=$?
     exit "$status"
+    ;;
+fresh-test)
+    deps
+    exec /usr/bin/python3 tests/package/fresh.py "$@"
     ;;
 asan)
     deps
@@ -215,7 +228,7 @@ asan)
     ;;
 tsan)
     deps
-    compile tsan
+    compile tsan threads
     ctest --preset tsan "$@"
     ;;
 package) package ;;
@@ -230,16 +243,19 @@ coverage)
     exec /usr/bin/python3 tests/coverage.py "$@"
     ;;
 fuzz)
-    build
-    compile fuzz
+    deps
+    compile dev programs
+    compile fuzz fuzzers
     exec /usr/bin/python3 fuzz/run.py "$@"
     ;;
 soak)
-    build
+    deps
+    compile dev suite-lab
     exec /usr/bin/python3 tests/lab/soak.py "$@"
     ;;
 bench)
-    build
+    deps
+    compile dev
     exec /usr/bin/python3 bench/run.py "$@"
     ;;
 help | -h | --help) usage ;;

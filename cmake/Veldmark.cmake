@@ -1,10 +1,16 @@
 # Small functions that every room uses, so that a room's own CMakeLists.txt is a list of its files.
 
 add_library(veldmark_options INTERFACE)
+# Some libraries ask for this; a precompiled header serves only sources that are compiled alike.
+target_compile_options(veldmark_options INTERFACE -pthread)
 target_compile_options(veldmark_options INTERFACE -Wall -Wextra -Wconversion -Wshadow)
 target_compile_definitions(veldmark_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS
     VELDMARK_VERSION="${PROJECT_VERSION}")
+if(CMAKE_BUILD_TYPE STREQUAL "Release")
+    # Where it was built is nobody's business, and the same commit gives the same bytes in every folder.
+    target_compile_options(veldmark_options INTERFACE "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.")
+endif()
 if(VELDMARK_STRICT)
     target_compile_options(veldmark_options INTERFACE -Werror)
 endif()
@@ -23,6 +29,35 @@ if(VELDMARK_COVERAGE)
     target_link_options(veldmark_options INTERFACE --coverage)
 endif()
 
+# What nearly every source reads of Qt and of the standard library, compiled once for all rooms, and once for the tests.
+# A source still includes what it uses: the preset "release" compiles without this.
+option(VELDMARK_PRECOMPILE "Compile common headers once" OFF)
+set(veldmark_common_headers <algorithm> <chrono> <functional> <memory> <optional> <vector> <tl/expected.hpp> <qcorotask.h>
+    <QByteArray> <QDir> <QFile> <QFileInfo> <QJsonArray> <QJsonDocument> <QJsonObject> <QObject> <QPointer> <QProcess>
+    <QRegularExpression> <QSet> <QString> <QStringList> <QTimer> <QUrl> <QVariant>)
+function(veldmark_precompile kind)
+    if(VELDMARK_PRECOMPILE)
+        cmake_parse_arguments(arg "" "" "HEADERS;LINK" ${ARGN})
+        file(WRITE "${CMAKE_BINARY_DIR}/precompiled-${kind}.cpp" "// Carries the precompiled headers.\n")
+        add_library(veldmark_precompiled_${kind} OBJECT "${CMAKE_BINARY_DIR}/precompiled-${kind}.cpp")
+        set_target_properties(veldmark_precompiled_${kind} PROPERTIES AUTOMOC OFF)
+        target_link_libraries(veldmark_precompiled_${kind} PRIVATE veldmark_options Qt6::Core QCoro6::Core tl::expected ${arg_LINK})
+        target_precompile_headers(veldmark_precompiled_${kind} PRIVATE ${veldmark_common_headers} ${arg_HEADERS})
+    endif()
+endfunction()
+
+# veldmark_precompiled(TARGET rooms|tests [OWN]): OWN compiles the headers for this target alone.
+function(veldmark_precompiled target kind)
+    if(NOT VELDMARK_PRECOMPILE)
+        return()
+    elseif("OWN" IN_LIST ARGN)
+        get_target_property(headers veldmark_precompiled_${kind} PRECOMPILE_HEADERS)
+        target_precompile_headers(${target} PRIVATE ${headers})
+    else()
+        target_precompile_headers(${target} REUSE_FROM veldmark_precompiled_${kind})
+    endif()
+endfunction()
+
 # veldmark_library(ROOM SOURCES a.cpp… ROOMS lower-room… LINK other-library…)
 # One room: a static library whose headers are included as "room/Header.h".
 function(veldmark_library room)
@@ -32,19 +67,33 @@ function(veldmark_library room)
     list(TRANSFORM arg_ROOMS PREPEND veldmark_)
     target_link_libraries(veldmark_${room}
         PUBLIC veldmark_options ${arg_ROOMS} ${arg_LINK} Qt6::Core)
+    veldmark_precompiled(veldmark_${room} rooms)
 endfunction()
 
 # veldmark_test(room/NameTest ROOMS room… LINK library… SOURCES extra.cpp…)
-# One Qt Test program from tests/unit/room/NameTest.cpp, known to CTest as unit/room/NameTest.
+# The Qt Test class of tests/unit/room/NameTest.cpp, in the room's one test program test-room, known to CTest as
+# unit/room/NameTest. support/TestProgram.h says how a class gets into the program.
 function(veldmark_test path)
     cmake_parse_arguments(arg "" "" "ROOMS;LINK;SOURCES" ${ARGN})
     get_filename_component(name ${path} NAME)
-    add_executable(${name} "${CMAKE_SOURCE_DIR}/tests/unit/${path}.cpp" ${arg_SOURCES})
+    get_filename_component(room ${path} DIRECTORY)
+    set(program test-${room})
+    if(NOT TARGET ${program})
+        add_executable(${program})
+        target_include_directories(${program} PRIVATE "${CMAKE_SOURCE_DIR}/tests")
+        target_link_libraries(${program} PRIVATE veldmark_support veldmark_test_program veldmark_test_options Qt6::Test)
+        set_target_properties(${program} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+        if(room MATCHES "^(ui|app)$")
+            # Qt Test's headers hold more where there are windows.
+            veldmark_precompiled(${program} tests OWN)
+        else()
+            veldmark_precompiled(${program} tests)
+        endif()
+    endif()
     list(TRANSFORM arg_ROOMS PREPEND veldmark_)
-    target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/tests")
-    target_link_libraries(${name} PRIVATE veldmark_support ${arg_ROOMS} ${arg_LINK} Qt6::Test)
-    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
-    add_test(NAME unit/${path} COMMAND ${name})
+    target_sources(${program} PRIVATE "${CMAKE_SOURCE_DIR}/tests/unit/${path}.cpp" ${arg_SOURCES})
+    target_link_libraries(${program} PRIVATE ${arg_ROOMS} ${arg_LINK})
+    add_test(NAME unit/${path} COMMAND ${program} ${name})
     set_tests_properties(unit/${path} PROPERTIES TIMEOUT 120 LABELS unit PROCESSORS 2)
 endfunction()
 

@@ -1,6 +1,10 @@
 #!/usr/bin/python3
-"""Prints each test that a run has skipped, with its reason: skipped.py JUNIT-FILE. CTest itself hides the reasons."""
+"""Prints each test that a run has skipped, with its reason: skipped.py JUNIT-FILE. CTest itself hides the reasons.
 
+With VELDMARK_NO_SKIPS=1 in the environment a skipped test is a failure: exit status 1.
+"""
+
+import os
 import re
 import sys
 import xml.etree.ElementTree as ElementTree
@@ -19,5 +23,9 @@ def skipped(path: str):
             yield case.get("name"), "", last[-1].strip() if last else "no reason given"
 
 
-for name, part, reason in skipped(sys.argv[1]):
+found = list(skipped(sys.argv[1]))
+for name, part, reason in found:
     print(f"skipped {name}{' ' + part if part else ''}: {reason}")
+if found and os.environ.get("VELDMARK_NO_SKIPS") == "1":
+    print(f"{len(found)} tests were skipped, and none may be here.")
+    sys.exit(1)

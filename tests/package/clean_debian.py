@@ -3,9 +3,9 @@
     with CleanDebian(lab, base) as debian:
         debian.run(["apt-get", "install", "-y", "/packages/x.deb"], check=True)
 
-`prepare` makes the folder once, from Debian's registry, with nothing in it but what debootstrap calls minimal, and
-fetches (but does not install) what the package asks for. In the lab there is no way to the registry, so that what
-is installed there is what the package's own fields name.
+`prepare` makes the folder once, from the registry that this machine's own apt uses, with nothing in it but what
+debootstrap calls minimal, and fetches (but does not install) what the package asks for. In the lab there is no way to
+the registry, so that what is installed there is what the package's own fields name.
 """
 
 import contextlib
@@ -15,7 +15,6 @@ import subprocess
 from pathlib import Path
 
 RELEASE = "bookworm"
-REGISTRY = "http://deb.debian.org/debian"
 USER, UID = "alice", 1000
 _ENVIRONMENT = {"LANG": "C.UTF-8", "DEBIAN_FRONTEND": "noninteractive"}
 _START_NOTHING = "#!/bin/sh\nexit 101\n"
@@ -45,24 +44,51 @@ class Unprepared(Exception):
     """Why there is no clean Debian here; one line."""
 
 
+def registry() -> str:
+    """Where this machine's own apt gets Debian 12 from."""
+    try:
+        targets = subprocess.run(["apt-get", "indextargets", "--format", "$(SITE) $(RELEASE)"], check=True,
+                                 capture_output=True, text=True).stdout
+    except (OSError, subprocess.CalledProcessError):
+        raise Unprepared("This machine has no apt that works, so there is no registry to make a Debian from.") from None
+    for line in targets.splitlines():
+        site, _, release = line.partition(" ")
+        if release == RELEASE:
+            return site
+    raise Unprepared(f"The apt sources of this machine name no registry of Debian 12 ({RELEASE}).")
+
+
+def _do(log: Path, what: str, *words) -> None:
+    with open(log, "ab") as output:
+        if subprocess.run(list(map(str, words)), stdout=output, stderr=output, stdin=subprocess.DEVNULL,
+                          env=os.environ | _ENVIRONMENT, check=False).returncode:
+            raise Unprepared(f"{what} failed; see {log}")
+
+
+def minimal(folder: Path) -> Path:
+    """What debootstrap calls minimal and nothing else, made once in `folder`. Remove the folder to begin anew."""
+    base = folder / "minimal"
+    if shutil.which("debootstrap") is None:
+        raise Unprepared("debootstrap is not installed; ./build.sh deps does it")
+    if not base.exists():
+        folder.mkdir(parents=True, exist_ok=True)
+        shutil.rmtree(folder / "new", ignore_errors=True)
+        print("Fetching a minimal Debian from its registry", flush=True)
+        _do(folder / "log", "Fetching a minimal Debian from its registry",
+            "debootstrap", "--variant=minbase", RELEASE, folder / "new", registry())
+        (folder / "new").rename(base)
+    return base
+
+
 def prepare(folder: Path, package: Path) -> Path:
     """Makes the base in `folder` unless it is there, and fetches the package's dependencies into it when they are others
     than last time. Remove the folder to begin anew."""
     base = folder / "base"
     log = folder / "log"
-    folder.mkdir(parents=True, exist_ok=True)
-
-    def do(what: str, *words) -> None:
-        with open(log, "ab") as output:
-            if subprocess.run(list(map(str, words)), stdout=output, stderr=output, stdin=subprocess.DEVNULL,
-                              env=os.environ | _ENVIRONMENT, check=False).returncode:
-                raise Unprepared(f"{what} failed; see {log}")
-
-    if shutil.which("debootstrap") is None:
-        raise Unprepared("debootstrap is not installed; ./build.sh deps does it")
     if not base.exists():
+        source = minimal(folder)
         shutil.rmtree(folder / "new", ignore_errors=True)
-        do("Fetching a minimal Debian from its registry", "debootstrap", "--variant=minbase", RELEASE, folder / "new", REGISTRY)
+        _do(log, "Copying a minimal Debian", "cp", "-a", "--reflink=auto", source, folder / "new")
         (folder / "new/usr/sbin/policy-rc.d").write_text(_START_NOTHING)
         (folder / "new/usr/sbin/policy-rc.d").chmod(0o755)
         (folder / "new").rename(base)
@@ -74,8 +100,8 @@ def prepare(folder: Path, package: Path) -> Path:
     shutil.copy("/etc/resolv.conf", base / "etc/resolv.conf")
     shutil.copy(package, base / "tmp/package.deb")
     try:
-        do("Asking Debian's registry", "chroot", base, "apt-get", "update")
-        do("Fetching what the package depends on", "chroot", base,
+        _do(log, "Asking Debian's registry", "chroot", base, "apt-get", "update")
+        _do(log, "Fetching what the package depends on", "chroot", base,
            "apt-get", "install", "--yes", "--download-only", "/tmp/package.deb")
     finally:
         (base / "tmp/package.deb").unlink()

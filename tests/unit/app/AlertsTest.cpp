@@ -1,5 +1,6 @@
 #include "StandInSession.h"
 #include "app/Alerts.h"
+#include "support/TestProgram.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -95,5 +96,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(AlertsTest)
+VELDMARK_WINDOWED_TEST(AlertsTest)
 #include "AlertsTest.moc"

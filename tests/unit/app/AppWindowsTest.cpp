@@ -1,5 +1,6 @@
 #include "StandInSession.h"
 #include "app/Windows.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QDir>
@@ -182,5 +183,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(AppWindowsTest)
+VELDMARK_WINDOWED_TEST(AppWindowsTest)
 #include "AppWindowsTest.moc"

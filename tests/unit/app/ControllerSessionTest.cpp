@@ -1,4 +1,5 @@
 #include "app/ControllerSession.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QFileInfo>
@@ -193,5 +194,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ControllerSessionTest)
+VELDMARK_TEST(ControllerSessionTest)
 #include "ControllerSessionTest.moc"

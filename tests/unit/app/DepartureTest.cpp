@@ -1,4 +1,5 @@
 #include "app/Departure.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QSignalSpy>
@@ -163,5 +164,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(DepartureTest)
+VELDMARK_TEST(DepartureTest)
 #include "DepartureTest.moc"

@@ -1,6 +1,7 @@
 #include "app/FileChooser.h"
 #include "support/SessionBus.h"
 #include "support/Workbench.h"
+#include "support/TestProgram.h"
 
 #include <QApplication>
 #include <QDBusMessage>
@@ -165,10 +166,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
-{
-    QApplication application(argc, argv);
-    FileChooserTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+VELDMARK_WINDOWED_TEST(FileChooserTest)
 #include "FileChooserTest.moc"

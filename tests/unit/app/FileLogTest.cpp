@@ -1,4 +1,5 @@
 #include "app/FileLog.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QDir>
@@ -74,5 +75,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(FileLogTest)
+VELDMARK_TEST(FileLogTest)
 #include "FileLogTest.moc"

@@ -1,4 +1,5 @@
 #include "app/LoginItem.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QFile>
@@ -64,5 +65,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(LoginItemTest)
+VELDMARK_WINDOWED_TEST(LoginItemTest)
 #include "LoginItemTest.moc"

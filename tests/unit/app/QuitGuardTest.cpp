@@ -1,5 +1,6 @@
 #include "StandInSession.h"
 #include "app/QuitGuard.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QGuiApplication>
@@ -138,5 +139,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(QuitGuardTest)
+VELDMARK_WINDOWED_TEST(QuitGuardTest)
 #include "QuitGuardTest.moc"

@@ -1,5 +1,6 @@
 #include "app/ShutdownNotice.h"
 #include "support/SessionBus.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QDBusMessage>
@@ -124,5 +125,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ShutdownNoticeTest)
+VELDMARK_TEST(ShutdownNoticeTest)
 #include "ShutdownNoticeTest.moc"

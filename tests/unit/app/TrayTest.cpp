@@ -1,5 +1,6 @@
 #include "StandInSession.h"
 #include "app/Tray.h"
+#include "support/TestProgram.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -118,5 +119,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TrayTest)
+VELDMARK_WINDOWED_TEST(TrayTest)
 #include "TrayTest.moc"

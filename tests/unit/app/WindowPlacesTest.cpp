@@ -1,4 +1,5 @@
 #include "app/WindowPlaces.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QGuiApplication>
@@ -120,5 +121,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(WindowPlacesTest)
+VELDMARK_WINDOWED_TEST(WindowPlacesTest)
 #include "WindowPlacesTest.moc"

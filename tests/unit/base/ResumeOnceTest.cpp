@@ -1,6 +1,7 @@
 #include "base/ResumeOnce.h"
 
 #include "support/ManualClock.h"
+#include "support/TestProgram.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -120,5 +121,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ResumeOnceTest)
+VELDMARK_TEST(ResumeOnceTest)
 #include "ResumeOnceTest.moc"

@@ -1,4 +1,5 @@
 #include "bridges/BridgeChoice.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -57,5 +58,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(BridgeChoiceTest)
+VELDMARK_TEST(BridgeChoiceTest)
 #include "BridgeChoiceTest.moc"

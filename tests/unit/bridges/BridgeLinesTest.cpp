@@ -1,4 +1,5 @@
 #include "bridges/BridgeLines.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -264,5 +265,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(BridgeLinesTest)
+VELDMARK_TEST(BridgeLinesTest)
 #include "BridgeLinesTest.moc"

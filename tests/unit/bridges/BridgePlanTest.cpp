@@ -1,4 +1,5 @@
 #include "bridges/BridgePlan.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -235,5 +236,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(BridgePlanTest)
+VELDMARK_TEST(BridgePlanTest)
 #include "BridgePlanTest.moc"

@@ -1,6 +1,7 @@
 #include "bridges/BundleArchive.h"
 
 #include "ProgramTree.h"
+#include "support/TestProgram.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -112,5 +113,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(BundleArchiveTest)
+VELDMARK_TEST(BundleArchiveTest)
 #include "BundleArchiveTest.moc"

@@ -1,6 +1,7 @@
 #include "bridges/BundleFolder.h"
 
 #include "ProgramTree.h"
+#include "support/TestProgram.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -153,5 +154,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(BundleFolderTest)
+VELDMARK_TEST(BundleFolderTest)
 #include "BundleFolderTest.moc"

@@ -1,5 +1,6 @@
 #include "DownloadBench.h"
 #include "support/Interruption.h"
+#include "support/TestProgram.h"
 
 using namespace veldmark;
 using namespace std::chrono_literals;
@@ -159,12 +160,13 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
+static int runDownloadEndTest(int argc, char **argv)
 {
     InterruptibleApplication app(argc, argv);
     application = &app;
     DownloadEndTest test;
     return QTest::qExec(&test, argc, argv);
 }
+static const veldmark::test::Registration registeredDownloadEndTest("DownloadEndTest", runDownloadEndTest);
 
 #include "DownloadEndTest.moc"

@@ -1,4 +1,5 @@
 #include "DownloadBench.h"
+#include "support/TestProgram.h"
 
 using namespace veldmark;
 using namespace std::chrono_literals;
@@ -162,5 +163,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(DownloadTransferTest)
+VELDMARK_TEST(DownloadTransferTest)
 #include "DownloadTransferTest.moc"

@@ -1,4 +1,5 @@
 #include "DownloadBench.h"
+#include "support/TestProgram.h"
 
 #include <unistd.h>
 
@@ -142,5 +143,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(DownloadTrustTest)
+VELDMARK_TEST(DownloadTrustTest)
 #include "DownloadTrustTest.moc"

@@ -1,6 +1,7 @@
 #include "bridges/ManagedProxy.h"
 
 #include "ProgramTree.h"
+#include "support/TestProgram.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -151,5 +152,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ManagedProxyTest)
+VELDMARK_TEST(ManagedProxyTest)
 #include "ManagedProxyTest.moc"

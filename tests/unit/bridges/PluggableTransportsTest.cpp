@@ -2,6 +2,7 @@
 
 #include "ProgramTree.h"
 #include "ZipArchive.h"
+#include "support/TestProgram.h"
 
 #include <QSet>
 #include <QTest>
@@ -351,5 +352,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(PluggableTransportsTest)
+VELDMARK_TEST(PluggableTransportsTest)
 #include "PluggableTransportsTest.moc"

@@ -1,4 +1,5 @@
 #include "bridges/ReleaseIndex.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -87,5 +88,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ReleaseIndexTest)
+VELDMARK_TEST(ReleaseIndexTest)
 #include "ReleaseIndexTest.moc"

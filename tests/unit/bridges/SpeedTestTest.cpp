@@ -1,6 +1,7 @@
 #include "bridges/SpeedTest.h"
 
 #include "base/ResumeOnce.h"
+#include "support/TestProgram.h"
 
 #include <QMap>
 #include <QTest>
@@ -162,5 +163,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(SpeedTestTest)
+VELDMARK_TEST(SpeedTestTest)
 #include "SpeedTestTest.moc"

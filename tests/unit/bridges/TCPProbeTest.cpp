@@ -1,6 +1,7 @@
 #include "bridges/TCPProbe.h"
 
 #include "support/ManualClock.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -225,5 +226,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TCPProbeTest)
+VELDMARK_TEST(TCPProbeTest)
 #include "TCPProbeTest.moc"

@@ -1,5 +1,6 @@
 #include "DownloadBench.h"
 #include "bridges/PluggableTransports.h"
+#include "support/TestProgram.h"
 
 using namespace veldmark;
 
@@ -120,5 +121,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TransportDownloaderTest)
+VELDMARK_TEST(TransportDownloaderTest)
 #include "TransportDownloaderTest.moc"

@@ -1,4 +1,5 @@
 #include "bridges/TransportFiles.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -96,5 +97,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TransportFilesTest)
+VELDMARK_TEST(TransportFilesTest)
 #include "TransportFilesTest.moc"

@@ -1,6 +1,7 @@
 #include "bridges/TransportSearch.h"
 
 #include "ProgramTree.h"
+#include "support/TestProgram.h"
 
 #include <QElapsedTimer>
 #include <QSemaphore>
@@ -168,5 +169,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TransportSearchTest)
+VELDMARK_TEST(TransportSearchTest)
 #include "TransportSearchTest.moc"

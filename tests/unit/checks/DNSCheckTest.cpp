@@ -1,6 +1,7 @@
 #include "checks/DNSCheck.h"
 
 #include "support/ManualClock.h"
+#include "support/TestProgram.h"
 
 #include <QRandomGenerator>
 #include <QRegularExpression>
@@ -395,5 +396,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(DNSCheckTest)
+VELDMARK_TEST(DNSCheckTest)
 #include "DNSCheckTest.moc"

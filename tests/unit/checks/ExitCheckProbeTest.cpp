@@ -3,6 +3,7 @@
 #include "CheckService.h"
 #include "SocksProxy.h"
 #include "support/ManualClock.h"
+#include "support/TestProgram.h"
 
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
@@ -390,5 +391,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ExitCheckProbeTest)
+VELDMARK_TEST(ExitCheckProbeTest)
 #include "ExitCheckProbeTest.moc"

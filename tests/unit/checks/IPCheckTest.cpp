@@ -1,4 +1,5 @@
 #include "checks/IPCheck.h"
+#include "support/TestProgram.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -92,5 +93,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(IPCheckTest)
+VELDMARK_BARE_TEST(IPCheckTest)
 #include "IPCheckTest.moc"

@@ -1,4 +1,5 @@
 #include "checks/LeakStatus.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -88,5 +89,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(LeakStatusTest)
+VELDMARK_BARE_TEST(LeakStatusTest)
 #include "LeakStatusTest.moc"

@@ -1,6 +1,7 @@
 #include "checks/ResolvedState.h"
 
 #include "checks/DNSCheck.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -140,5 +141,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(ResolvedStateTest)
+VELDMARK_BARE_TEST(ResolvedStateTest)
 #include "ResolvedStateTest.moc"

@@ -1,4 +1,5 @@
 #include "checks/ResolverFile.h"
+#include "support/TestProgram.h"
 
 #include <QFile>
 #include <QRandomGenerator>
@@ -137,5 +138,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(ResolverFileTest)
+VELDMARK_BARE_TEST(ResolverFileTest)
 #include "ResolverFileTest.moc"

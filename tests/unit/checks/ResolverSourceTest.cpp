@@ -2,6 +2,7 @@
 
 #include "ResolvedService.h"
 #include "support/ManualClock.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -248,5 +249,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ResolverSourceTest)
+VELDMARK_TEST(ResolverSourceTest)
 #include "ResolverSourceTest.moc"

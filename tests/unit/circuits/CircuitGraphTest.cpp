@@ -1,6 +1,7 @@
 #include "circuits/CircuitGraph.h"
 #include "circuits/CircuitPalette.h"
 #include "circuits/GraphLayout.h"
+#include "support/TestProgram.h"
 
 #include <QSet>
 #include <QTest>
@@ -250,5 +251,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(CircuitGraphTest)
+VELDMARK_BARE_TEST(CircuitGraphTest)
 #include "CircuitGraphTest.moc"

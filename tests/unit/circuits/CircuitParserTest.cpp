@@ -1,4 +1,5 @@
 #include "circuits/CircuitParser.h"
+#include "support/TestProgram.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -385,5 +386,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(CircuitParserTest)
+VELDMARK_BARE_TEST(CircuitParserTest)
 #include "CircuitParserTest.moc"

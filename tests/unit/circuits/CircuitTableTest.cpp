@@ -1,4 +1,5 @@
 #include "circuits/CircuitTable.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -161,5 +162,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(CircuitTableTest)
+VELDMARK_BARE_TEST(CircuitTableTest)
 #include "CircuitTableTest.moc"

@@ -1,4 +1,5 @@
 #include "cli/ApplicationsCommand.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QFile>
@@ -112,5 +113,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ApplicationsCommandTest)
+VELDMARK_TEST(ApplicationsCommandTest)
 #include "ApplicationsCommandTest.moc"

@@ -1,4 +1,5 @@
 #include "cli/Arguments.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -91,5 +92,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ArgumentsTest)
+VELDMARK_TEST(ArgumentsTest)
 #include "ArgumentsTest.moc"

@@ -1,4 +1,5 @@
 #include "cli/BridgesCommand.h"
+#include "support/TestProgram.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -90,5 +91,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(BridgesCommandTest)
+VELDMARK_TEST(BridgesCommandTest)
 #include "BridgesCommandTest.moc"

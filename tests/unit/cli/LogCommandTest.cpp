@@ -1,4 +1,5 @@
 #include "cli/LogCommand.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -72,5 +73,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(LogCommandTest)
+VELDMARK_TEST(LogCommandTest)
 #include "LogCommandTest.moc"

@@ -1,4 +1,5 @@
 #include "cli/ProgressLine.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -38,5 +39,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ProgressLineTest)
+VELDMARK_TEST(ProgressLineTest)
 #include "ProgressLineTest.moc"

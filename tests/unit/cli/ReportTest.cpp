@@ -1,4 +1,5 @@
 #include "cli/Report.h"
+#include "support/TestProgram.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -91,5 +92,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ReportTest)
+VELDMARK_TEST(ReportTest)
 #include "ReportTest.moc"

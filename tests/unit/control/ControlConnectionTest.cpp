@@ -2,6 +2,7 @@
 
 #include "support/FakeTor.h"
 #include "support/ManualClock.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -314,5 +315,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ControlConnectionTest)
+VELDMARK_TEST(ControlConnectionTest)
 #include "ControlConnectionTest.moc"

@@ -1,4 +1,5 @@
 #include "control/ControlPort.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -105,5 +106,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ControlPortRepliesTest)
+VELDMARK_TEST(ControlPortRepliesTest)
 #include "ControlPortRepliesTest.moc"

@@ -2,6 +2,7 @@
 
 #include "support/FakeTor.h"
 #include "support/ManualClock.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -344,5 +345,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ControlPortTest)
+VELDMARK_TEST(ControlPortTest)
 #include "ControlPortTest.moc"

@@ -1,6 +1,7 @@
 #include "control/ControlPort.h"
 
 #include "support/ManualClock.h"
+#include "support/TestProgram.h"
 
 #include <QFile>
 #include <QProcess>
@@ -199,12 +200,13 @@ private:
     ControlPort m_port{m_clock};
 };
 
-int main(int argc, char **argv)
+static int runRealTorTest(int argc, char **argv)
 {
     noPrivateNetwork = enterPrivateNetwork();
     QCoreApplication app(argc, argv);
     RealTorTest test;
     return QTest::qExec(&test, argc, argv);
 }
+static const veldmark::test::Registration registeredRealTorTest("RealTorTest", runRealTorTest);
 
 #include "RealTorTest.moc"

@@ -1,4 +1,5 @@
 #include "control/ReplyFraming.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -219,5 +220,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ReplyFramingTest)
+VELDMARK_TEST(ReplyFramingTest)
 #include "ReplyFramingTest.moc"

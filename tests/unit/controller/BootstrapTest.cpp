@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QTest>
@@ -366,5 +367,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(BootstrapTest)
+VELDMARK_TEST(BootstrapTest)
 #include "BootstrapTest.moc"

@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QTest>
@@ -173,5 +174,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(BypassAppsTest)
+VELDMARK_TEST(BypassAppsTest)
 #include "BypassAppsTest.moc"

@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QTest>
@@ -126,5 +127,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ChecksTest)
+VELDMARK_TEST(ChecksTest)
 #include "ChecksTest.moc"

@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QTest>
@@ -295,5 +296,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(CircuitsTest)
+VELDMARK_TEST(CircuitsTest)
 #include "CircuitsTest.moc"

@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QTest>
@@ -249,5 +250,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ConnectFailureTest)
+VELDMARK_TEST(ConnectFailureTest)
 #include "ConnectFailureTest.moc"

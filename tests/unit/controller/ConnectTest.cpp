@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QRegularExpression>
@@ -309,5 +310,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ConnectTest)
+VELDMARK_TEST(ConnectTest)
 #include "ConnectTest.moc"

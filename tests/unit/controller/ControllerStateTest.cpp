@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QSignalSpy>
@@ -261,5 +262,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ControllerStateTest)
+VELDMARK_TEST(ControllerStateTest)
 #include "ControllerStateTest.moc"

@@ -1,5 +1,6 @@
 #include "DNSSettings.h"
 #include "support/NameLookups.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QRegularExpression>
@@ -237,5 +238,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(DNSTest)
+VELDMARK_TEST(DNSTest)
 #include "DNSTest.moc"

@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QTest>
@@ -276,5 +277,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(DisconnectTest)
+VELDMARK_TEST(DisconnectTest)
 #include "DisconnectTest.moc"

@@ -1,4 +1,5 @@
 #include "DNSSettings.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QTest>
@@ -156,5 +157,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(FixDNSTest)
+VELDMARK_TEST(FixDNSTest)
 #include "FixDNSTest.moc"

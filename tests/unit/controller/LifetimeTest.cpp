@@ -1,4 +1,5 @@
 #include "support/NameLookups.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QCoreApplication>
@@ -384,5 +385,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(LifetimeTest)
+VELDMARK_TEST(LifetimeTest)
 #include "LifetimeTest.moc"

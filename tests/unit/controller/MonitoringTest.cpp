@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QTest>
@@ -247,5 +248,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(MonitoringTest)
+VELDMARK_TEST(MonitoringTest)
 #include "MonitoringTest.moc"

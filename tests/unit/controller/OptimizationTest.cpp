@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QTest>
@@ -187,5 +188,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(OptimizationTest)
+VELDMARK_TEST(OptimizationTest)
 #include "OptimizationTest.moc"

@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QTest>
@@ -179,5 +180,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(PasswordlessTest)
+VELDMARK_TEST(PasswordlessTest)
 #include "PasswordlessTest.moc"

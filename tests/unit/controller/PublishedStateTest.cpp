@@ -1,4 +1,5 @@
 #include "controller/PublishedState.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QJsonArray>
@@ -178,5 +179,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(PublishedStateTest)
+VELDMARK_TEST(PublishedStateTest)
 #include "PublishedStateTest.moc"

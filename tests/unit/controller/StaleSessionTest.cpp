@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QTest>
@@ -195,5 +196,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(StaleSessionTest)
+VELDMARK_TEST(StaleSessionTest)
 #include "StaleSessionTest.moc"

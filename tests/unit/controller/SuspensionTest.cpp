@@ -1,5 +1,6 @@
 #include "support/Interruption.h"
 #include "support/Workbench.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -310,12 +311,13 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char **argv)
+static int runSuspensionTest(int argc, char **argv)
 {
     InterruptibleApplication app(argc, argv);
     application = &app;
     SuspensionTest test;
     return QTest::qExec(&test, argc, argv);
 }
+static const veldmark::test::Registration registeredSuspensionTest("SuspensionTest", runSuspensionTest);
 
 #include "SuspensionTest.moc"

@@ -1,4 +1,5 @@
 #include "controller/Withdrawal.h"
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QSignalSpy>
@@ -106,5 +107,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(WithdrawalTest)
+VELDMARK_TEST(WithdrawalTest)
 #include "WithdrawalTest.moc"

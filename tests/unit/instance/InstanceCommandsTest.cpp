@@ -1,4 +1,5 @@
 #include "InstanceBench.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QSignalSpy>
@@ -231,5 +232,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(InstanceCommandsTest)
+VELDMARK_TEST(InstanceCommandsTest)
 #include "InstanceCommandsTest.moc"

@@ -1,5 +1,6 @@
 #include "instance/InstancePlace.h"
 
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QCoreApplication>
@@ -127,5 +128,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(InstancePlaceTest)
+VELDMARK_TEST(InstancePlaceTest)
 #include "InstancePlaceTest.moc"

@@ -1,4 +1,5 @@
 #include "InstanceBench.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QJsonDocument>
@@ -275,5 +276,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(InstanceServerTest)
+VELDMARK_TEST(InstanceServerTest)
 #include "InstanceServerTest.moc"

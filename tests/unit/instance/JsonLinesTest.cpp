@@ -1,5 +1,6 @@
 #include "instance/JsonLines.h"
 
+#include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QLocalServer>
@@ -156,5 +157,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(JsonLinesTest)
+VELDMARK_TEST(JsonLinesTest)
 #include "JsonLinesTest.moc"

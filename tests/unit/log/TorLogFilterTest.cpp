@@ -1,4 +1,5 @@
 #include "log/TorLogFilter.h"
+#include "support/TestProgram.h"
 
 #include <QLocale>
 #include <QScopeGuard>
@@ -113,5 +114,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TorLogFilterTest)
+VELDMARK_BARE_TEST(TorLogFilterTest)
 #include "TorLogFilterTest.moc"

@@ -1,4 +1,5 @@
 #include "log/TorLogLine.h"
+#include "support/TestProgram.h"
 
 #include <QRandomGenerator>
 #include <QRegularExpression>
@@ -154,5 +155,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TorLogLineTest)
+VELDMARK_BARE_TEST(TorLogLineTest)
 #include "TorLogLineTest.moc"

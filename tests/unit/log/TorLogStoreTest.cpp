@@ -1,4 +1,5 @@
 #include "log/TorLogStore.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QFile>
@@ -132,5 +133,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TorLogStoreTest)
+VELDMARK_TEST(TorLogStoreTest)
 #include "TorLogStoreTest.moc"

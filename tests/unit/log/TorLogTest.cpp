@@ -1,4 +1,5 @@
 #include "log/TorLog.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QFile>
@@ -288,5 +289,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TorLogTest)
+VELDMARK_BARE_TEST(TorLogTest)
 #include "TorLogTest.moc"

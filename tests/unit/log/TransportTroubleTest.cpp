@@ -1,4 +1,5 @@
 #include "log/TransportTrouble.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -111,5 +112,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TransportTroubleTest)
+VELDMARK_TEST(TransportTroubleTest)
 #include "TransportTroubleTest.moc"

@@ -1,4 +1,5 @@
 #include "platform/InstalledApplications.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QFile>
@@ -89,5 +90,5 @@ private Q_SLOTS:
     static void cleanupTestCase() { delete folder; }
 };
 
-QTEST_GUILESS_MAIN(InstalledApplicationsTest)
+VELDMARK_TEST(InstalledApplicationsTest)
 #include "InstalledApplicationsTest.moc"

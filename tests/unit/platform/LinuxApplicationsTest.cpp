@@ -1,4 +1,5 @@
 #include "platform/RunningApplications.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QFile>
@@ -313,5 +314,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(LinuxApplicationsTest)
+VELDMARK_TEST(LinuxApplicationsTest)
 #include "LinuxApplicationsTest.moc"

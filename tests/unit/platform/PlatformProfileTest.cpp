@@ -1,4 +1,5 @@
 #include "platform/PlatformProfile.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QFile>
@@ -113,5 +114,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(PlatformProfileTest)
+VELDMARK_TEST(PlatformProfileTest)
 #include "PlatformProfileTest.moc"

@@ -1,4 +1,5 @@
 #include "system/ChildProcessRunner.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QFile>
@@ -267,5 +268,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ChildProcessRunnerTest)
+VELDMARK_TEST(ChildProcessRunnerTest)
 #include "ChildProcessRunnerTest.moc"

@@ -1,4 +1,5 @@
 #include "HelperRuns.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -190,5 +191,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(PrivilegedRunnerPromptTest)
+VELDMARK_TEST(PrivilegedRunnerPromptTest)
 #include "PrivilegedRunnerPromptTest.moc"

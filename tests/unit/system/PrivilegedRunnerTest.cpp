@@ -1,5 +1,6 @@
 #include "HelperRuns.h"
 #include "base/ResumeOnce.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -226,5 +227,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(PrivilegedRunnerTest)
+VELDMARK_TEST(PrivilegedRunnerTest)
 #include "PrivilegedRunnerTest.moc"

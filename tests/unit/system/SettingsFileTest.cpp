@@ -1,4 +1,5 @@
 #include "system/SettingsFile.h"
+#include "support/TestProgram.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -132,5 +133,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(SettingsFileTest)
+VELDMARK_TEST(SettingsFileTest)
 #include "SettingsFileTest.moc"

@@ -1,4 +1,5 @@
 #include "unit/system/TemporaryHome.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -183,5 +184,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(SettingsStoreDamageTest)
+VELDMARK_TEST(SettingsStoreDamageTest)
 #include "SettingsStoreDamageTest.moc"

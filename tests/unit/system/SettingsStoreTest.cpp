@@ -1,4 +1,5 @@
 #include "unit/system/TemporaryHome.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -220,5 +221,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(SettingsStoreTest)
+VELDMARK_TEST(SettingsStoreTest)
 #include "SettingsStoreTest.moc"

@@ -1,4 +1,5 @@
 #include "terminal/MarkedBlock.h"
+#include "support/TestProgram.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -131,5 +132,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(MarkedBlockTest)
+VELDMARK_TEST(MarkedBlockTest)
 #include "MarkedBlockTest.moc"

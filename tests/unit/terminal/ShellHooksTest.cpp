@@ -1,6 +1,7 @@
 #include "terminal/TerminalIntegration.h"
 
 #include "Home.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -299,5 +300,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ShellHooksTest)
+VELDMARK_TEST(ShellHooksTest)
 #include "ShellHooksTest.moc"

@@ -1,6 +1,7 @@
 #include "terminal/SocksCommand.h"
 
 #include "Home.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -115,5 +116,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(SocksCommandTest)
+VELDMARK_TEST(SocksCommandTest)
 #include "SocksCommandTest.moc"

@@ -1,6 +1,7 @@
 #include "terminal/TerminalFiles.h"
 
 #include "Home.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -159,5 +160,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TerminalFilesTest)
+VELDMARK_TEST(TerminalFilesTest)
 #include "TerminalFilesTest.moc"

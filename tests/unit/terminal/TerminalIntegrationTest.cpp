@@ -1,6 +1,7 @@
 #include "terminal/TerminalIntegration.h"
 
 #include "Home.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -302,5 +303,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TerminalIntegrationTest)
+VELDMARK_TEST(TerminalIntegrationTest)
 #include "TerminalIntegrationTest.moc"

@@ -1,6 +1,7 @@
 #include "terminal/UserFile.h"
 
 #include "Home.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -256,5 +257,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(UserFileTest)
+VELDMARK_TEST(UserFileTest)
 #include "UserFileTest.moc"

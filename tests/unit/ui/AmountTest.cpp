@@ -1,4 +1,5 @@
 #include "ui/Amount.h"
+#include "support/TestProgram.h"
 
 #include <QLocale>
 #include <QTest>
@@ -35,5 +36,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(AmountTest)
+VELDMARK_WINDOWED_TEST(AmountTest)
 #include "AmountTest.moc"

@@ -1,5 +1,6 @@
 #include "StandInSession.h"
 #include "ui/ApplicationChoices.h"
+#include "support/TestProgram.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -98,5 +99,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ApplicationChoicesTest)
+VELDMARK_WINDOWED_TEST(ApplicationChoicesTest)
 #include "ApplicationChoicesTest.moc"

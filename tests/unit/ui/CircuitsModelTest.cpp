@@ -1,5 +1,6 @@
 #include "StandInSession.h"
 #include "ui/CircuitsModel.h"
+#include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
 #include <QTest>
@@ -112,5 +113,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(CircuitsModelTest)
+VELDMARK_WINDOWED_TEST(CircuitsModelTest)
 #include "CircuitsModelTest.moc"

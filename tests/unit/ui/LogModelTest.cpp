@@ -1,5 +1,6 @@
 #include "StandInSession.h"
 #include "ui/LogModel.h"
+#include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
 #include <QClipboard>
@@ -116,5 +117,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(LogModelTest)
+VELDMARK_WINDOWED_TEST(LogModelTest)
 #include "LogModelTest.moc"

@@ -1,5 +1,6 @@
 #include "StandInSession.h"
 #include "ui/OptionsModel.h"
+#include "support/TestProgram.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -121,5 +122,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(OptionsModelTest)
+VELDMARK_WINDOWED_TEST(OptionsModelTest)
 #include "OptionsModelTest.moc"

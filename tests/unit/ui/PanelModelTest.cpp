@@ -1,5 +1,6 @@
 #include "StandInSession.h"
 #include "ui/PanelModel.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -319,5 +320,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(PanelModelTest)
+VELDMARK_WINDOWED_TEST(PanelModelTest)
 #include "PanelModelTest.moc"

@@ -1,4 +1,5 @@
 #include "ui/SessionTexts.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 #include <QTranslator>
@@ -58,5 +59,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(SessionTextsTest)
+VELDMARK_TEST(SessionTextsTest)
 #include "SessionTextsTest.moc"

@@ -1,5 +1,6 @@
 #include "StandInSession.h"
 #include "ui/SettingsModel.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -93,5 +94,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(SettingsModelTest)
+VELDMARK_WINDOWED_TEST(SettingsModelTest)
 #include "SettingsModelTest.moc"

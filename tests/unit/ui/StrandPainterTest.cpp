@@ -1,4 +1,5 @@
 #include "ui/StrandPainter.h"
+#include "support/TestProgram.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -122,5 +123,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(StrandPainterTest)
+VELDMARK_BARE_TEST(StrandPainterTest)
 #include "StrandPainterTest.moc"

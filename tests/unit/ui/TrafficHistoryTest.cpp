@@ -1,4 +1,5 @@
 #include "ui/TrafficHistory.h"
+#include "support/TestProgram.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -55,5 +56,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TrafficHistoryTest)
+VELDMARK_WINDOWED_TEST(TrafficHistoryTest)
 #include "TrafficHistoryTest.moc"

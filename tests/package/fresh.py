@@ -1,0 +1,201 @@
+#!/usr/bin/python3
+"""The README's commands as a stranger runs them: from a clone of the last commit, on a Debian 12 with nothing installed.
+
+usage: fresh.py [--without PACKAGE] [--cold] [VERB...]
+
+VERB       demo, test, package (all three when none is named); "test" with further words: "test controller"
+--without  takes a package out of the clone's list first, to see that this notices
+--cold     compiles everything, without the compiler cache of this machine
+
+The package is made twice, in two such systems, in folders of other names and a day apart, and has to have the same bytes.
+A skipped test fails. Exit status 0 when everything went as it should, 1 with one line when something did not or when this
+machine cannot run it.
+"""
+
+import argparse
+import hashlib
+import os
+import shlex
+import shutil
+import subprocess
+import sys
+import time
+from pathlib import Path
+
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(Path(__file__).resolve().parent))
+
+from clean_debian import Unprepared, minimal  # noqa: E402
+
+PROJECT = Path(__file__).resolve().parents[2]
+WORK = PROJECT / "build" / "fresh"
+VERBS = ("demo", "test", "package")
+PLACES = {"first": "/root/veldmark", "second": "/srv/a stranger/veld mark"}
+
+# Makes the tree $1 the root of new mount and process namespaces and runs the rest of the words in it, with the machine's own
+# network: the registry has to be reached. $2 and $3 are kept on this machine: fetched packages, and the compiler's cache.
+ENTER = r"""
+set -eu
+tree=$1 archives=$2 cache=$3
+shift 3
+mount --bind "$tree" "$tree"
+mount -t proc proc "$tree/proc"
+mount --rbind /sys "$tree/sys"
+mount --rbind /dev "$tree/dev"
+mount -t tmpfs -o mode=755 private "$tree/run"
+mount -t tmpfs -o mode=1777 private "$tree/tmp"
+mount --bind "$archives" "$tree/var/cache/apt/archives"
+if [ -n "$cache" ]; then
+    mkdir -p "$tree/root/.cache/ccache"
+    mount --bind "$cache" "$tree/root/.cache/ccache"
+fi
+exec chroot "$tree" /usr/bin/env -i HOME=/root USER=root LOGNAME=root LANG=C.UTF-8 \
+    PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin "$@"
+"""
+
+
+class Failed(Exception):
+    """One line for the user."""
+
+
+def own_git(*words: str) -> str:
+    return subprocess.run(["git", "-c", f"safe.directory={PROJECT}", "-C", PROJECT, *words], check=True, capture_output=True,
+                          text=True).stdout.strip()
+
+
+def compiler_cache() -> str:
+    """The folder of this machine's compiler cache, or nothing."""
+    if shutil.which("ccache") is None:
+        return ""
+    folder = subprocess.run(["ccache", "--get-config", "cache_dir"], capture_output=True, text=True, check=False).stdout.strip()
+    if not folder:
+        return ""
+    Path(folder).mkdir(parents=True, exist_ok=True)
+    return folder
+
+
+class Stranger:
+    """A minimal Debian of its own with a clone of the last commit at `place`."""
+
+    def __init__(self, name: str, base: Path, cache: str):
+        self.name, self.place, self.cache = name, PLACES[name], cache
+        self.tree = WORK / name
+        self.archives = WORK / "archives"
+        (self.archives / "partial").mkdir(parents=True, exist_ok=True)
+        remove(self.tree)
+        subprocess.run(["cp", "-a", "--reflink=auto", base, self.tree], check=True)
+        for file in ("resolv.conf", "hosts"):
+            shutil.copy(f"/etc/{file}", self.tree / "etc" / file)
+        self.clone = self.tree / self.place.lstrip("/")
+        self.clone.parent.mkdir(parents=True, exist_ok=True)
+        own_git("clone", "--quiet", "--no-hardlinks", str(PROJECT), str(self.clone))
+
+    def run(self, *words: str, environment: dict[str, str] | None = None) -> int:
+        """The words in the clone, their output on ours; the exit status."""
+        variables = dict(environment or {})
+        if self.cache:
+            variables |= {"CCACHE_BASEDIR": self.place, "CCACHE_NOHASHDIR": "1"}
+        command = f"cd {shlex.quote(self.place)} && exec {shlex.join(words)}"
+        return subprocess.run(
+            ["unshare", "--mount", "--propagation", "private", "--pid", "--fork", "--kill-child", "--uts", "/bin/sh", "-c", ENTER, "enter",
+             self.tree, self.archives, self.cache, *(f"{key}={value}" for key, value in variables.items()), "/bin/bash", "-c", command],
+            stdin=subprocess.DEVNULL, check=False).returncode
+
+    def verb(self, *words: str, environment: dict[str, str] | None = None) -> None:
+        heading(f"./build.sh {' '.join(words)} in {self.place}")
+        started = time.monotonic()
+        status = self.run("./build.sh", *words, environment=environment)
+        if status != 0:
+            raise Failed(f"./build.sh {' '.join(words)} failed on a clean Debian (exit status {status}); its files are in {self.clone}")
+        print(f"fresh-test: ./build.sh {' '.join(words)} took {time.monotonic() - started:.0f} s", flush=True)
+
+
+def remove(tree: Path) -> None:
+    # Nothing of the machine is mounted in it any more: mounts were made in namespaces that have ended.
+    if tree.exists():
+        subprocess.run(["rm", "-rf", "--one-file-system", tree], check=True)
+
+
+def heading(text: str) -> None:
+    print(f"\nfresh-test: {text}", flush=True)
+
+
+def without(stranger: Stranger, package: str) -> None:
+    """Takes the package out of the clone's list, as if it had been forgotten."""
+    file = stranger.clone / "tools/deps.sh"
+    lines = file.read_text().splitlines(keepends=True)
+    changed = [" ".join(word for word in line.split(" ") if word.strip() != package) if line.startswith("    ") else line for line in lines]
+    changed = [line if line.endswith("\n") else line + "\n" for line in changed]
+    if changed == lines:
+        raise Failed(f"{package} is not in the list of packages")
+    file.write_text("".join(changed))
+
+
+def digest(folder: Path) -> tuple[str, str]:
+    packages = sorted((folder / "build").glob("veldmark_*.deb"))
+    if len(packages) != 1:
+        raise Failed(f"{len(packages)} packages instead of one in {folder}/build")
+    return packages[0].name, hashlib.sha256(packages[0].read_bytes()).hexdigest()
+
+
+def same_package(first: Stranger, base: Path) -> None:
+    """Two systems, two folders, two days: the same bytes."""
+    uncached = {"CCACHE_DISABLE": "1"}
+    first.verb("package", environment=uncached)
+    second = Stranger("second", base, "")
+    heading("tomorrow's clock for the second system")
+    if second.run("/bin/sh", "-c", "apt-get -qq update && apt-get -qq install -y --no-install-recommends faketime >/dev/null 2>&1") != 0:
+        raise Failed("the program that sets a clock for others cannot be installed")
+    preload = next(iter((second.tree / "usr/lib").glob("*/faketime/libfaketime.so.1")))
+    second.verb("package", environment=uncached | {
+        "LD_PRELOAD": "/" + str(preload.relative_to(second.tree)), "FAKETIME": "+1d", "NO_FAKE_STAT": "1", "FAKETIME_DONT_RESET": "1"})
+    one, other = digest(first.clone), digest(second.clone)
+    print(f"fresh-test: {one[0]} {one[1]}\nfresh-test: {other[0]} {other[1]}", flush=True)
+    if one != other:
+        raise Failed(f"the package differs between {first.clone} and {second.clone}")
+
+
+def verify(arguments: argparse.Namespace) -> None:
+    if os.geteuid() != 0:
+        raise Failed("a clean Debian is made by root: run sudo ./build.sh fresh-test")
+    if subprocess.run(["unshare", "--mount", "--pid", "--fork", "true"], capture_output=True, check=False).returncode != 0:
+        raise Failed("this machine does not permit namespaces")
+    words = arguments.verbs or list(VERBS)
+    if words[0] not in VERBS:
+        raise Failed(f"'{words[0]}' is none of: {', '.join(VERBS)}")
+    base = minimal(PROJECT / "build" / "debian12")
+    if own_git("status", "--porcelain"):
+        print("fresh-test: what is not committed is not in the clone.", flush=True)
+    stranger = Stranger("first", base, "" if arguments.cold else compiler_cache())
+    if arguments.without:
+        without(stranger, arguments.without)
+    strict = {"VELDMARK_NO_SKIPS": "1"}
+    if len(words) > 1 and words[0] == "test":   # some tests only
+        stranger.verb(*words, environment=strict)
+        return
+    for verb in words:
+        if verb == "package":
+            same_package(stranger, base)
+        else:
+            stranger.verb(verb, environment=strict if verb == "test" else None)
+
+
+def main() -> int:
+    parser = argparse.ArgumentParser(usage="./build.sh fresh-test [--without PACKAGE] [--cold] [VERB...]")
+    parser.add_argument("--without", metavar="PACKAGE")
+    parser.add_argument("--cold", action="store_true")
+    parser.add_argument("verbs", nargs="*")
+    started = time.monotonic()
+    try:
+        verify(parser.parse_args())
+    except (Failed, Unprepared) as reason:
+        print(f"fresh-test: {reason}", file=sys.stderr)
+        return 1
+    for name in PLACES:   # what failed stays, to be looked at
+        remove(WORK / name)
+    print(f"\nfresh-test: everything went as it should, in {time.monotonic() - started:.0f} s", flush=True)
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

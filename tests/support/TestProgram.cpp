@@ -1,0 +1,46 @@
+#include "support/TestProgram.h"
+
+#include <cstdio>
+#include <cstring>
+#include <vector>
+
+namespace veldmark::test {
+namespace {
+
+struct Entry {
+    const char *className;
+    Registration::Run run;
+};
+
+std::vector<Entry> &entries()
+{
+    static std::vector<Entry> all;
+    return all;
+}
+
+} // namespace
+
+Registration::Registration(const char *className, Run run)
+{
+    entries().push_back({className, run});
+}
+
+} // namespace veldmark::test
+
+int main(int argc, char **argv)
+{
+    using namespace veldmark::test;
+    if (argc > 1) {
+        for (const Entry &entry : entries()) {
+            if (std::strcmp(argv[1], entry.className) == 0) {
+                // The class name goes, the program's own name stays first.
+                argv[1] = argv[0];
+                return entry.run(argc - 1, argv + 1);
+            }
+        }
+    }
+    std::fputs("usage: CLASS [Qt Test arguments]; the classes:\n", stderr);
+    for (const Entry &entry : entries())
+        std::fprintf(stderr, "  %s\n", entry.className);
+    return 2;
+}

@@ -1,0 +1,93 @@
+# Sourced by build.sh: the Debian packages that its verbs need, and how they are installed.
+# shellcheck shell=bash
+
+# What compiles the programs, what they call, and what the private Tor network of the demonstration is made of.
+program_packages=(
+    g++ cmake ninja-build pkg-config
+    libglib2.0-dev qt6-base-dev qt6-declarative-dev libgl-dev qcoro-qt6-dev libexpected-dev
+    qt6-svg-dev qt6-tools-dev qt6-l10n-tools qt6-declarative-dev-tools qml6-module-qtquick
+    qml6-module-qtquick-templates qml6-module-qtquick-window qml6-module-qtquick-layouts
+    qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
+    fonts-noto-core fonts-noto-mono fonts-noto-color-emoji
+    tor tor-geoipdb obfs4proxy snowflake-client nftables iproute2 util-linux passwd procps sudo
+    python3 openssl ca-certificates curl
+    libglib2.0-bin dconf-cli dconf-gsettings-backend gsettings-desktop-schemas dbus dbus-daemon
+)
+# What the other verbs need besides: tests, sanitizers, fuzzers, benchmarks, packages.
+development_packages=(
+    ccache git pkexec polkitd gnupg
+    tcpdump shellcheck unzip netcat-openbsd openssh-client iputils-ping zsh dash
+    python3-stem nyx
+    clang libclang-rt-14-dev libobjc-12-dev gcovr
+    xvfb xauth xdotool openbox at-spi2-core gir1.2-atspi-2.0 python3-gi python3-dbus
+    dpkg-dev lintian debootstrap appstream desktop-file-utils mandoc
+)
+
+missing_packages() {
+    local installed name
+    installed=$(dpkg-query -W -f '${db:Status-Abbrev} ${Package}\n' 2>/dev/null | awk '$1 == "ii" { print $2 }')
+    for name in "$@"; do
+        grep -qxF -- "$name" <<<"$installed" || printf '%s\n' "$name"
+    done
+}
+
+# The lines that apt writes on its status descriptor, as "[percent/100]".
+apt_percent() {
+    awk -F: '/^(dl|pm)status:/ { part = $1 == "dlstatus" ? $3 * 0.4 : 40 + $3 * 0.6; printf "[%d/100]\n", part; fflush() }'
+}
+
+# install_packages NAME...: Debian starts a service when its package is installed. Nothing here wants a running tor, and a tor
+# that starts by itself would talk to the public network: dpkg is told to start nothing meanwhile.
+install_packages() {
+    local -a root=()
+    if [[ $EUID -ne 0 ]]; then
+        command -v sudo >/dev/null || die "some packages are missing and there is no sudo: run ./build.sh deps as root once"
+        root=(sudo)
+        sudo -v || die "sudo refused: run ./build.sh deps as root once"
+    fi
+    local log
+    log=$(mktemp 2>/dev/null) || die "$(explain_failure <(echo "${TMPDIR:-/tmp}/x: No space left on device"))"
+    local policy=/usr/sbin/policy-rc.d status=0
+    if [[ ! -e $policy ]]; then
+        # Also when this is ended in the middle: a machine that starts no service any more would be a bad surprise.
+        # shellcheck disable=SC2064
+        trap "${root[*]} rm -f $policy" EXIT
+        printf '#!/bin/sh\nexit 101\n' | "${root[@]}" tee "$policy" >/dev/null
+        "${root[@]}" chmod 755 "$policy"
+    fi
+    local -a apt=("${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -o DPkg::Lock::Timeout=60)
+    # What an earlier run was stopped in.
+    [[ -z $(dpkg --audit 2>/dev/null) ]] ||
+        busy "Finishing an interrupted installation" "$log" "${root[@]}" env DEBIAN_FRONTEND=noninteractive dpkg --configure -a || true
+    if busy "Asking Debian's registry" "$log" "${apt[@]}" update -o APT::Update::Error-Mode=any; then
+        "${apt[@]}" -o APT::Status-Fd=3 install -y --no-install-recommends "$@" 3> >(apt_percent | progress "Installing packages, percent") >>"$log" 2>&1 ||
+            status=$?
+    else
+        status=1
+    fi
+    if [[ -e $policy && $(trap -p EXIT) == *"$policy"* ]]; then
+        "${root[@]}" rm -f "$policy"
+        trap - EXIT
+    fi
+    if [[ $status -ne 0 ]]; then
+        local reason
+        reason=$(explain_failure "$log")
+        [[ -n $reason ]] || reason="installing packages failed ($(grep -m 1 -E '^E:' "$log" || echo "apt gave no reason")); the whole output is in $log"
+        die "$reason"
+    fi
+    rm -f "$log"
+}
+
+# deps [programs]: installs what is missing of the packages of all verbs, or only of those for building, running and showing
+# the programs.
+deps() {
+    local -a wanted=("${program_packages[@]}") missing=()
+    [[ ${1:-} == programs ]] || wanted+=("${development_packages[@]}")
+    command -v dpkg-query >/dev/null ||
+        die "only Debian 12 and its descendants are set up by this script; install the equivalents of: ${wanted[*]}"
+    local name
+    while read -r name; do missing+=("$name"); done < <(missing_packages "${wanted[@]}")
+    [[ ${#missing[@]} -gt 0 ]] || return 0
+    printf 'Installing %d packages: %s\n' "${#missing[@]}" "${missing[*]}"
+    install_packages "${missing[@]}"
+}

@@ -1,0 +1,73 @@
+# Sourced by build.sh: what takes longer than two seconds shows that it moves.
+# shellcheck shell=bash
+
+# progress WHAT: copies lines with "[done/total]" or "done/total" at their start to a display. On a terminal that is one line
+# that changes, otherwise one line for each tenth. Everything else is swallowed: the caller keeps it in a log.
+progress() {
+    local what=$1 line finished total tenth=-1 shown=
+    while IFS= read -r line; do
+        [[ $line =~ ^\[?([0-9]+)/([0-9]+)[]\ ]? ]] || continue
+        finished=${BASH_REMATCH[1]} total=${BASH_REMATCH[2]}
+        ((total > 0)) || continue
+        if [[ -t 1 ]]; then
+            printf '\r%s: %d of %d ' "$what" "$finished" "$total"
+            shown=yes
+        elif ((finished * 10 / total > tenth)); then
+            tenth=$((finished * 10 / total))
+            printf '%s: %d of %d\n' "$what" "$finished" "$total"
+        fi
+    done
+    [[ -z $shown ]] || printf '\r\033[K'
+}
+
+# busy WHAT LOG COMMAND...: runs a command that cannot count its steps, its output added to LOG. A terminal sees the seconds pass,
+# another reader a line after two seconds and one each half minute. The status is the command's.
+busy() {
+    local what=$1 log=$2 started=$SECONDS passed told=0 status=0 child
+    shift 2
+    "$@" >>"$log" 2>&1 &
+    child=$!
+    # A command in the background does not hear Ctrl-C.
+    # shellcheck disable=SC2064
+    trap "kill $child 2>/dev/null; exit 130" INT TERM
+    while kill -0 "$child" 2>/dev/null; do
+        sleep 0.1
+        passed=$((SECONDS - started))
+        if [[ -t 1 ]]; then
+            ((passed < 1)) || printf '\r%s: %d s ' "$what" "$passed"
+        elif ((passed >= 2 && passed >= told + (told > 0 ? 30 : 0))) && ((passed != told)); then
+            told=$passed
+            printf '%s: %d s\n' "$what" "$passed"
+        fi
+    done
+    wait "$child" || status=$?
+    trap - INT TERM
+    [[ ! -t 1 ]] || printf '\r\033[K'
+    return "$status"
+}
+
+# What is wrong with this machine, in one line that says what to do, from the log of a step that failed; nothing when the log
+# tells of none of these.
+explain_failure() {
+    local log=$1
+    if grep -qE 'No space left on device|not have enough free space' "$log"; then
+        if grep -qE '/tmp/[^ ]*: No space left|error writing to /tmp|cannot create temporary' "$log" ||
+            (($(df --output=avail -k "${TMPDIR:-/tmp}" | tail -n 1) < 51200)); then
+            printf '%s is full: make room there, or set TMPDIR to a folder with 1 GB, and run this again' "${TMPDIR:-/tmp}"
+        else
+            printf 'the disk is full: make room (a full build takes 3 GB) and run this again'
+        fi
+    elif grep -qE 'Could not get lock|is another process using it|Unable to acquire the dpkg frontend lock' "$log"; then
+        printf 'another program is installing packages: run this again when it has ended'
+    elif grep -qE 'Temporary failure resolving|Could not resolve|Could not connect|Connection failed|Unable to connect|Network is unreachable' "$log"; then
+        printf "Debian's registry cannot be reached: connect to the network and run this again"
+    elif grep -qE 'Unable to locate package|has no installation candidate' "$log"; then
+        printf 'a package is unknown to apt (%s): only Debian 12 and its descendants have them all' \
+            "$(sed -nE 's/^E: (Unable to locate package|Package .* has no).*$/&/p' "$log" | head -n 1)"
+    elif grep -qE 'a password is required|a terminal is required|is not in the sudoers file|may not run sudo' "$log"; then
+        printf 'sudo refused: run ./build.sh deps as root once'
+    elif grep -qE 'Permission denied' "$log"; then
+        printf 'a file may not be written (%s): this checkout, or its build folder, belongs to another user' \
+            "$(grep -m 1 -E 'Permission denied' "$log" | cut -c1-120)"
+    fi
+}
