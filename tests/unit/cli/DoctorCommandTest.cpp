@@ -1,4 +1,5 @@
 #include "cli/DoctorCommand.h"
+#include "support/TestProgram.h"
 
 #include <QJsonArray>
 #include <QTest>
@@ -34,5 +35,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(DoctorCommandTest)
+VELDMARK_TEST(DoctorCommandTest)
 #include "DoctorCommandTest.moc"

@@ -1,4 +1,5 @@
 #include "TestMachine.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -301,5 +302,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(DoctorTest)
+VELDMARK_TEST(DoctorTest)
 #include "DoctorTest.moc"

@@ -3,6 +3,7 @@
 #include "doctor/Examiner.h"
 #include "support/StandIns.h"
 #include "system/SettingsStore.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -79,5 +80,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ExaminerTest)
+VELDMARK_TEST(ExaminerTest)
 #include "ExaminerTest.moc"

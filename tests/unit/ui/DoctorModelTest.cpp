@@ -1,5 +1,6 @@
 #include "StandInSession.h"
 #include "ui/DoctorModel.h"
+#include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
@@ -86,5 +87,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(DoctorModelTest)
+VELDMARK_WINDOWED_TEST(DoctorModelTest)
 #include "DoctorModelTest.moc"
