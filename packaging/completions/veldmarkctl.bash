@@ -7,12 +7,12 @@ _veldmarkctl()
         autoConnect optimizeSpeed terminalMode"
     if ((COMP_CWORD == 1)); then
         choices="run status connect disconnect restore check fix-dns circuits close-circuit new-identity log bridges
-            download-transports apps launch get set help --help --version"
+            download-transports apps launch doctor get set help --help --version"
     else
         case ${COMP_WORDS[1]} in
         run) choices="--connect" ;;
         status) choices="--json --watch" ;;
-        circuits | bridges | apps) choices="--json" ;;
+        circuits | bridges | apps | doctor) choices="--json" ;;
         launch) # a name, or a path
             [[ $word == */* ]] || return
             compopt -o filenames 2>/dev/null

@@ -280,6 +280,240 @@
     </message>
 </context>
 <context>
+    <name>Doctor</name>
+    <message>
+        <source>The clock is behind: it shows %1, but the file %2 was written on %3. Tor needs a clock that is right to within minutes.</source>
+        <translation>Die Uhr geht nach: Sie zeigt %1, aber die Datei %2 wurde am %3 geschrieben. Tor braucht eine Uhr, die auf Minuten genau geht.</translation>
+    </message>
+    <message>
+        <source>The clock is set from the network. It shows %1.</source>
+        <translation>Die Uhr wird über das Netz gestellt. Sie zeigt %1.</translation>
+    </message>
+    <message>
+        <source>Whether the clock is right isn&apos;t known: nothing is seen to set it from the network. It shows %1. Tor needs it right to within minutes.</source>
+        <translation>Ob die Uhr richtig geht, ist nicht bekannt: Nichts ist zu sehen, das sie über das Netz stellt. Sie zeigt %1. Tor braucht sie auf Minuten genau.</translation>
+    </message>
+    <message>
+        <source>nftables isn&apos;t installed. Veldmark&apos;s firewall needs it.</source>
+        <translation>nftables ist nicht installiert. Veldmarks Firewall braucht es.</translation>
+    </message>
+    <message>
+        <source>The system&apos;s firewall, nftables, can be used.</source>
+        <translation>Die Firewall des Systems, nftables, lässt sich benutzen.</translation>
+    </message>
+    <message>
+        <source>The system&apos;s firewall can&apos;t be used: %1</source>
+        <translation>Die Firewall des Systems lässt sich nicht benutzen: %1</translation>
+    </message>
+    <message>
+        <source>The kernel that runs (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
+        <translation>Der laufende Kernel (%1) hat kein nftables. Starten Sie nach einer Aktualisierung des Kernels den Computer neu.</translation>
+    </message>
+    <message>
+        <source>nftables is installed. Whether the kernel that runs can use it is known to root only.</source>
+        <translation>nftables ist installiert. Ob der laufende Kernel es nutzen kann, weiß nur root.</translation>
+    </message>
+    <message>
+        <source>nftables is installed, and the kernel has it.</source>
+        <translation>nftables ist installiert, und der Kernel hat es.</translation>
+    </message>
+    <message>
+        <source>This system has no control groups of version 2, so no application can be opened without Tor. Everything else works.</source>
+        <translation>Dieses System hat keine Kontrollgruppen der Version 2, daher lässt sich keine Anwendung ohne Tor öffnen. Alles andere geht.</translation>
+    </message>
+    <message>
+        <source>The kernel (%1) is older than 5.13, so no application can be opened without Tor. Everything else works.</source>
+        <translation>Der Kernel (%1) ist älter als 5.13, daher lässt sich keine Anwendung ohne Tor öffnen. Alles andere geht.</translation>
+    </message>
+    <message>
+        <source>Applications can be opened without Tor: control groups of version 2 are there.</source>
+        <translation>Anwendungen lassen sich ohne Tor öffnen: Kontrollgruppen der Version 2 sind da.</translation>
+    </message>
+    <message>
+        <source>No other firewall that is known by name runs. The rules themselves are known to root only.</source>
+        <translation>Keine andere dem Namen nach bekannte Firewall läuft. Die Regeln selbst kennt nur root.</translation>
+    </message>
+    <message>
+        <source>Other programs set firewall rules here: %1. Veldmark leaves their rules alone. Rules that drop packets can block Tor.</source>
+        <translation>Andere Programme setzen hier Firewall-Regeln: %1. Veldmark lässt ihre Regeln in Ruhe. Regeln, die Pakete verwerfen, können Tor sperren.</translation>
+    </message>
+    <message>
+        <source>pkexec isn&apos;t installed, so no window can ask for the administrator&apos;s password.</source>
+        <translation>pkexec ist nicht installiert, daher kann kein Fenster nach dem Administratorpasswort fragen.</translation>
+    </message>
+    <message>
+        <source>polkit isn&apos;t installed, so no window can ask for the administrator&apos;s password.</source>
+        <translation>polkit ist nicht installiert, daher kann kein Fenster nach dem Administratorpasswort fragen.</translation>
+    </message>
+    <message>
+        <source>There is no desktop here on which a window could ask for the administrator&apos;s password. Use sudo.</source>
+        <translation>Hier ist keine Arbeitsfläche, auf der ein Fenster nach dem Administratorpasswort fragen könnte. Benutzen Sie sudo.</translation>
+    </message>
+    <message>
+        <source>No program that is known to ask for polkit&apos;s passwords (an agent) runs in your session. Without one, use sudo, or start an agent such as lxpolkit.</source>
+        <translation>In Ihrer Sitzung läuft kein bekanntes Programm, das nach polkits Passwörtern fragt (ein Agent). Benutzen Sie ohne einen solchen sudo oder starten Sie einen Agenten wie lxpolkit.</translation>
+    </message>
+    <message>
+        <source>polkit is there, and a program that asks for its passwords runs in your session.</source>
+        <translation>polkit ist da, und in Ihrer Sitzung läuft ein Programm, das nach seinen Passwörtern fragt.</translation>
+    </message>
+    <message>
+        <source>Veldmark runs as root here and asks for no password.</source>
+        <translation>Veldmark läuft hier als root und fragt nach keinem Passwort.</translation>
+    </message>
+    <message>
+        <source>Connecting without a password is set up.</source>
+        <translation>Das Verbinden ohne Passwort ist eingerichtet.</translation>
+    </message>
+    <message>
+        <source>sudo isn&apos;t installed. Connecting without a password needs it.</source>
+        <translation>sudo ist nicht installiert. Das Verbinden ohne Passwort braucht es.</translation>
+    </message>
+    <message>
+        <source>sudo is installed. Whether you may use it is known to root only.</source>
+        <translation>sudo ist installiert. Ob Sie es benutzen dürfen, weiß nur root.</translation>
+    </message>
+    <message>
+        <source>sudo is installed, and you are in the group %1.</source>
+        <translation>sudo ist installiert, und Sie sind in der Gruppe %1.</translation>
+    </message>
+    <message>
+        <source>The port %1, which Tor needs, is held by a program of the account %2.</source>
+        <translation>Den Port %1, den Tor braucht, belegt ein Programm des Kontos %2.</translation>
+    </message>
+    <message>
+        <source>The system&apos;s own Tor service (%1) runs. Veldmark stops it while it is connected and starts it again afterwards.</source>
+        <translation>Der Tor-Dienst des Systems (%1) läuft. Veldmark hält ihn an, solange es verbunden ist, und startet ihn danach wieder.</translation>
+    </message>
+    <message>
+        <source>The port %1, which Tor needs, is held by %2 (process %3, account %4).</source>
+        <translation>Den Port %1, den Tor braucht, belegt %2 (Prozess %3, Konto %4).</translation>
+    </message>
+    <message>
+        <source>Veldmark&apos;s own Tor holds the ports 9050, 9051 and 9053.</source>
+        <translation>Veldmarks eigenes Tor belegt die Ports 9050, 9051 und 9053.</translation>
+    </message>
+    <message>
+        <source>The ports that Tor needs (9050, 9051 and 9053) are free.</source>
+        <translation>Die Ports, die Tor braucht (9050, 9051 und 9053), sind frei.</translation>
+    </message>
+    <message>
+        <source>The location of Tor in the settings, %1, is no program that can run. The usual places are searched instead.</source>
+        <translation>Der Ort von Tor in den Einstellungen, %1, ist kein ausführbares Programm. Stattdessen wird an den üblichen Orten gesucht.</translation>
+    </message>
+    <message>
+        <source>Tor isn&apos;t installed.</source>
+        <translation>Tor ist nicht installiert.</translation>
+    </message>
+    <message>
+        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it doesn&apos;t tell its version.</source>
+        <translation>%1 startet nicht oder ist nicht Tor: Es nennt seine Version nicht.</translation>
+    </message>
+    <message>
+        <source>Tor %1 is installed: %2. Veldmark was not tried with a Tor older than 0.4.7.</source>
+        <translation>Tor %1 ist installiert: %2. Veldmark wurde mit keinem Tor vor 0.4.7 erprobt.</translation>
+    </message>
+    <message>
+        <source>Tor %1 is installed: %2.</source>
+        <translation>Tor %1 ist installiert: %2.</translation>
+    </message>
+    <message>
+        <source>The program %1 is missing. Veldmark&apos;s helper needs it.</source>
+        <translation>Das Programm %1 fehlt. Veldmarks Helfer braucht es.</translation>
+    </message>
+    <message>
+        <source>Every program that Veldmark&apos;s helper calls is installed.</source>
+        <translation>Alle Programme, die Veldmarks Helfer aufruft, sind installiert.</translation>
+    </message>
+    <message>
+        <source>Veldmark&apos;s helper script is missing. Install Veldmark again.</source>
+        <translation>Veldmarks Helferskript fehlt. Installieren Sie Veldmark neu.</translation>
+    </message>
+    <message>
+        <source>Veldmark&apos;s helper, %1, lies where others than root can write. They can change it, and with it what the administrator&apos;s password runs.</source>
+        <translation>Veldmarks Helfer, %1, liegt, wo außer root noch andere schreiben können. Sie können ihn ändern und damit auch, was das Administratorpasswort ausführt.</translation>
+    </message>
+    <message>
+        <source>Veldmark&apos;s helper, %1, is not an installed one: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
+        <translation>Veldmarks Helfer, %1, ist kein installierter: Das Konto %2 kann ihn ändern und damit auch, was das Administratorpasswort ausführt.</translation>
+    </message>
+    <message>
+        <source>Veldmark&apos;s helper is installed, and only root can change it: %1.</source>
+        <translation>Veldmarks Helfer ist installiert, und nur root kann ihn ändern: %1.</translation>
+    </message>
+    <message>
+        <source>The helper that runs without a password is not this version&apos;s. Set up connecting without a password again in Settings, General.</source>
+        <translation>Der Helfer, der ohne Passwort läuft, gehört nicht zu dieser Version. Richten Sie das Verbinden ohne Passwort in den Einstellungen unter Allgemein neu ein.</translation>
+    </message>
+    <message>
+        <source>Bridges are off. Where Tor is blocked they need bridge programs, and none was found.</source>
+        <translation>Brücken sind aus. Wo Tor gesperrt ist, brauchen sie Brückenprogramme, und es wurde keines gefunden.</translation>
+    </message>
+    <message>
+        <source>Bridges are off. Bridge programs were found: %1.</source>
+        <translation>Brücken sind aus. Gefundene Brückenprogramme: %1.</translation>
+    </message>
+    <message>
+        <source>The chosen bridges can&apos;t be used. %1</source>
+        <translation>Die gewählten Brücken lassen sich nicht benutzen. %1</translation>
+    </message>
+    <message>
+        <source>The chosen bridges (%1) can be used: %2.</source>
+        <translation>Die gewählten Brücken (%1) lassen sich benutzen: %2.</translation>
+    </message>
+    <message>
+        <source>Names are looked up as %1 says. Veldmark switches that over and back.</source>
+        <translation>Namen werden aufgelöst, wie %1 es vorgibt. Veldmark stellt das um und zurück.</translation>
+    </message>
+    <message>
+        <source>Names are looked up through Tor: %1 is Veldmark&apos;s.</source>
+        <translation>Namen werden durch Tor aufgelöst: %1 ist Veldmarks Datei.</translation>
+    </message>
+    <message>
+        <source>There is no file %1, so names may not be looked up at all.</source>
+        <translation>Es gibt keine Datei %1, daher werden Namen vielleicht gar nicht aufgelöst.</translation>
+    </message>
+    <message>
+        <source>Names are looked up by a resolver on this computer. Veldmark switches that over and back.</source>
+        <translation>Namen löst ein Resolver auf diesem Computer auf. Veldmark stellt das um und zurück.</translation>
+    </message>
+    <message>
+        <source>No earlier session is left open.</source>
+        <translation>Keine frühere Sitzung ist offen geblieben.</translation>
+    </message>
+    <message>
+        <source>A Tor of an earlier session still runs (process %1).</source>
+        <translation>Ein Tor einer früheren Sitzung läuft noch (Prozess %1).</translation>
+    </message>
+    <message>
+        <source>A session is open: the network is set up for Tor, and Tor runs.</source>
+        <translation>Eine Sitzung ist offen: Das Netzwerk ist für Tor eingerichtet, und Tor läuft.</translation>
+    </message>
+    <message>
+        <source>The network is set up for Tor. Whether Tor still runs isn&apos;t known here.</source>
+        <translation>Das Netzwerk ist für Tor eingerichtet. Ob Tor noch läuft, ist hier nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>The network is still set up for Tor from an earlier session, and no Tor runs. Connect again, or restore the network.</source>
+        <translation>Das Netzwerk ist noch von einer früheren Sitzung für Tor eingerichtet, und es läuft kein Tor. Verbinden Sie sich wieder oder stellen Sie das Netzwerk wieder her.</translation>
+    </message>
+</context>
+<context>
+    <name>DoctorSheet</name>
+    <message>
+        <source>This computer</source>
+        <translation>Dieser Computer</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Look Again</source>
+        <translation>Erneut nachsehen</translation>
+    </message>
+</context>
+<context>
     <name>Footer</name>
     <message>
         <source>Settings</source>
@@ -539,6 +773,14 @@
 </context>
 <context>
     <name>Panel</name>
+    <message>
+        <source>Find the Cause</source>
+        <translation>Ursache finden</translation>
+    </message>
+    <message>
+        <source>Looks at this computer: what a connection needs, what is in its way, and what mends it</source>
+        <translation>Untersucht diesen Computer: was eine Verbindung braucht, was ihr im Weg steht und was das behebt</translation>
+    </message>
     <message>
         <source>Show Tor Log</source>
         <translation>Tor-Protokoll zeigen</translation>
@@ -1340,6 +1582,49 @@
     <message>
         <source>Round trip: %1</source>
         <translation>Hin und zurück: %1</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::DoctorModel</name>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>Nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>In order</source>
+        <translation>In Ordnung</translation>
+    </message>
+    <message>
+        <source>Restore Network</source>
+        <translation>Netzwerk wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Herunterladen</translation>
+    </message>
+    <message>
+        <source>Looking at this computer…</source>
+        <translation>Dieser Computer wird untersucht…</translation>
+    </message>
+    <message>
+        <source>Nothing was found out.</source>
+        <translation>Es wurde nichts herausgefunden.</translation>
+    </message>
+    <message>
+        <source>Nothing was found that keeps Veldmark from connecting.</source>
+        <translation>Es wurde nichts gefunden, das Veldmark am Verbinden hindert.</translation>
+    </message>
+    <message>
+        <source>Veldmark can&apos;t connect before each problem is mended.</source>
+        <translation>Veldmark kann sich nicht verbinden, bevor jedes Problem behoben ist.</translation>
     </message>
 </context>
 <context>

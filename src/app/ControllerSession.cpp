@@ -51,7 +51,11 @@ Lookups lookupsOf(const DNSStatus &status)
 
 ControllerSession::ControllerSession(TorController &controller, SettingsStore &settings,
                                      RunningApplications &applications)
-    : Session(controller.profile()), m_controller(controller), m_settings(settings), m_applications(applications)
+    : Session(controller.profile())
+    , m_controller(controller)
+    , m_settings(settings)
+    , m_applications(applications)
+    , m_examiner(controller.profile(), settings, m_processes)
 {
     using C = TorController;
     for (const auto changed :
@@ -134,6 +138,8 @@ void ControllerSession::read()
     next.terminalForSsh = m_terminalForSsh;
     next.torPath = c.torPath();
     next.markerPresent = c.isSessionMarkerPresent();
+    next.findings = m_findings;
+    next.isExamining = m_isExamining;
     next.openAtLogin = LoginItem(c.profile()).isSet();
     m_now = std::move(next);
     Q_EMIT changed();
@@ -285,6 +291,26 @@ void ControllerSession::lookAgain()
 void ControllerSession::lookForTransports()
 {
     m_controller.locateTransports();
+}
+
+void ControllerSession::examine()
+{
+    if (std::exchange(m_isExamining, true))
+        return;
+    schedule();
+    look();
+}
+
+QCoro::Task<void> ControllerSession::look()
+{
+    const QPointer<ControllerSession> self(this);
+    auto examining = m_examiner.examine();
+    const Findings findings = co_await examining;
+    if (!self)
+        co_return;
+    m_findings = findings;
+    m_isExamining = false;
+    schedule();
 }
 
 void ControllerSession::downloadTransports()

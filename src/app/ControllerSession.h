@@ -1,6 +1,8 @@
 #pragma once
 
+#include "doctor/Examiner.h"
 #include "platform/RunningApplications.h"
+#include "system/ChildProcessRunner.h"
 #include "system/SettingsStore.h"
 #include "ui/Session.h"
 
@@ -35,6 +37,7 @@ public:
     void dismissError() override;
     void lookAgain() override;
     void lookForTransports() override;
+    void examine() override;
     void downloadTransports() override;
     void installPasswordless() override;
     void removePasswordless() override;
@@ -52,6 +55,7 @@ private:
     void followTerminalMode();
     QCoro::Task<void> askTerminalHint();
     QCoro::Task<void> launch(QString application);
+    QCoro::Task<void> look();
 
     TorController &m_controller;
     SettingsStore &m_settings;
@@ -65,6 +69,10 @@ private:
     bool m_terminalIsKnown = false; // the two below are true; they cost reading the user's files
     bool m_terminalInstalled = false;
     bool m_terminalForSsh = false;
+    Findings m_findings;
+    bool m_isExamining = false;
+    ChildProcessRunner m_processes; // of the examiner
+    Examiner m_examiner;            // the last: who waits for it is resumed when it goes
 };
 
 } // namespace veldmark

@@ -33,6 +33,7 @@ const QHash<QString, VerbRule> &rules()
         {QStringLiteral("download-transports"), {Verb::downloadTransports}},
         {QStringLiteral("apps"), {Verb::apps, 0, {json}}},
         {QStringLiteral("launch"), {Verb::launch, 1}},
+        {QStringLiteral("doctor"), {Verb::doctor, 0, {json}}},
         {QStringLiteral("get"), {Verb::get, 1}},
         {QStringLiteral("set"), {Verb::set, 2}},
         {QStringLiteral("help"), {Verb::help}},
@@ -130,6 +131,8 @@ QString usageText()
         "  launch APP                open an application without Tor, with your own address; needs strict mode.\n"
         "                            APP is a name from \"apps\", the file name of its desktop entry, or the path\n"
         "                            of an entry or a program. Running copies are asked to quit first\n"
+        "  doctor [--json]           look at this computer: what a connect needs, what is in its way, and what\n"
+        "                            mends it. Changes nothing; ends with 0 when a connect can work\n"
         "  get KEY                   print a field of \"status --json\"\n"
         "  set KEY VALUE             change a setting; most of them only while not connected\n"
         "\n"

@@ -11,12 +11,12 @@ namespace veldmark {
 struct Invocation {
     enum class Verb {
         run, status, connect, disconnect, restore, check, fixDNS, circuits, closeCircuit, newIdentity,
-        log, get, set, bridges, downloadTransports, apps, launch,
+        log, get, set, bridges, downloadTransports, apps, launch, doctor,
         help, version,
     };
     Verb verb = Verb::help;
     bool connectNow = false; // run --connect
-    bool json = false;       // status, circuits, bridges, apps
+    bool json = false;       // status, circuits, bridges, apps, doctor
     bool watch = false;      // status
     bool follow = false;     // log
     bool problems = false;   // log

@@ -3,6 +3,7 @@
 #include "cli/ApplicationsCommand.h"
 #include "cli/BridgesCommand.h"
 #include "cli/Console.h"
+#include "cli/DoctorCommand.h"
 #include "cli/LogCommand.h"
 #include "cli/ProgressLine.h"
 #include "cli/Report.h"
@@ -221,6 +222,8 @@ QCoro::Task<ExitStatus> execute(Invocation invocation, PlatformProfile profile)
         return showLog(invocation, profile);
     if (invocation.verb == Verb::bridges)
         return showBridges(invocation, profile);
+    if (invocation.verb == Verb::doctor)
+        return showDoctor(invocation, profile);
     if (invocation.verb == Verb::apps)
         return showApplications(invocation, profile);
     if (invocation.verb == Verb::launch) {

@@ -12,7 +12,7 @@ namespace veldmark {
 
 using namespace std::chrono_literals;
 
-PanelModel::PanelModel(Session &session, QObject *parent) : QObject(parent), m_session(session)
+PanelModel::PanelModel(Session &session, QObject *parent) : QObject(parent), m_session(session), m_doctor(session)
 {
     m_stillness.setSingleShot(true);
     m_stillness.setInterval(10s);

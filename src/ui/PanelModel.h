@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/DoctorModel.h"
 #include "ui/Session.h"
 #include "ui/TrafficHistory.h"
 
@@ -52,6 +53,7 @@ class PanelModel : public QObject {
     Q_PROPERTY(QString moreResolvers READ moreResolvers NOTIFY changed)
 
     Q_PROPERTY(QString error READ error NOTIFY changed)
+    Q_PROPERTY(veldmark::DoctorModel *doctor READ doctor CONSTANT)
     Q_PROPERTY(bool torMissing READ torMissing NOTIFY changed)
     Q_PROPERTY(QString installHint READ installHint CONSTANT)
     Q_PROPERTY(bool installHintIsCommand READ installHintIsCommand CONSTANT)
@@ -102,6 +104,7 @@ public:
     QString moreResolvers() const;
 
     QString error() const;
+    DoctorModel *doctor() { return &m_doctor; }
     bool torMissing() const;
     QString installHint() const { return m_session.profile().torInstallHint; }
     bool installHintIsCommand() const;
@@ -127,6 +130,7 @@ private:
 
     Session &m_session;
     TrafficHistory m_traffic;
+    DoctorModel m_doctor;
     QTimer m_stillness{this}; // runs out when the connection attempt has not moved
     bool m_still = false;
     double m_lastProgress = 0;

@@ -46,6 +46,7 @@ public:
     // Reads again what other programs can change: tor, the session marker, the terminal's files, the login item.
     virtual void lookAgain() = 0;
     virtual void lookForTransports() = 0;
+    virtual void examine() = 0; // this computer: what a connect needs of it
     virtual void downloadTransports() = 0;
     virtual void installPasswordless() = 0;
     virtual void removePasswordless() = 0;

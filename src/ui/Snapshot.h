@@ -7,6 +7,7 @@
 #include "checks/KillSwitch.h"
 #include "checks/Verdict.h"
 #include "circuits/CircuitInfo.h"
+#include "doctor/Finding.h"
 
 #include <QString>
 #include <QStringList>
@@ -87,6 +88,8 @@ struct Snapshot {
 
     std::optional<QString> torPath; // absent: there is no tor to run
     bool markerPresent = false;     // the network is set up for Tor
+    Findings findings;              // of the last look at this computer
+    bool isExamining = false;       // it is being looked at
     std::optional<bool> openAtLogin; // absent: this build cannot change it
 
     Verdict verdict() const

@@ -71,8 +71,9 @@ void drawSheets(Stage &stage, const QDir &folder, const QString &suffix)
         s.choices.bypassApps = full ? QStringList{QStringLiteral("/usr/share/applications/org.example.Game.desktop"),
                                                   QStringLiteral("/usr/share/applications/org.example.VideoConference.desktop")}
                                     : QStringList();
+        s.findings = full ? Scenes::findings() : Findings();
         stage.session.show(s);
-        for (const char *name : {"applications", "bridges"}) {
+        for (const char *name : {"applications", "bridges", "doctor"}) {
             QQuickWindow *window = stage.open(QStringLiteral("main/MainWindow.qml"),
                                               {{QStringLiteral("panelModel"), QVariant::fromValue(&stage.panel)},
                                                {QStringLiteral("optionsModel"), QVariant::fromValue(&stage.options)}});

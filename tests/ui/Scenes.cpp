@@ -69,6 +69,23 @@ Snapshot protectedSession()
     return s;
 }
 
+Findings findings()
+{
+    using Level = Finding::Level;
+    const auto text = [](const char *words) { return QString::fromUtf8(words); };
+    return {{text("tor"), Level::good, "Tor %1 is installed: %2.", {text("0.4.9.11"), text("/usr/bin/tor")}, {}},
+            {text("nftables"), Level::problem, "nftables isn't installed. Veldmark's firewall needs it.", {}, text("sudo apt install nftables")},
+            {text("firewalls"), Level::note,
+             "Other programs set firewall rules here: %1. Veldmark leaves their rules alone. Rules that drop packets can block Tor.",
+             {text("firewalld, Docker")}, text("sudo nft list ruleset")},
+            {text("clock"), Level::unknown,
+             "Whether the clock is right isn't known: nothing is seen to set it from the network. It shows %1. Tor needs it right to within minutes.",
+             {text("2026-11-22 01:00 UTC")}, text("sudo timedatectl set-ntp true")},
+            {text("session"), Level::note,
+             "The network is still set up for Tor from an earlier session, and no Tor runs. Connect again, or restore the network.", {},
+             text("veldmarkctl restore"), Finding::Button::restore}};
+}
+
 std::vector<Scene> panel()
 {
     std::vector<Scene> scenes;

@@ -16,6 +16,7 @@ struct Scene {
 std::vector<Scene> panel();
 // The verified strict session that the other windows are shown with.
 Snapshot protectedSession();
+Findings findings(); // of a computer on which a connect cannot work
 // `count` circuits over a few dozen relays, the first two of them linked legs.
 std::vector<CircuitInfo> circuits(int count);
 QList<TorLogLine> log(int count);

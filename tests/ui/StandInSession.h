@@ -59,6 +59,7 @@ public:
     }
     void lookAgain() override { asked << QStringLiteral("lookAgain"); }
     void lookForTransports() override { asked << QStringLiteral("lookForTransports"); }
+    void examine() override { asked << QStringLiteral("examine"); }
     void downloadTransports() override { asked << QStringLiteral("downloadTransports"); }
     void installPasswordless() override { asked << QStringLiteral("installPasswordless"); }
     void removePasswordless() override { asked << QStringLiteral("removePasswordless"); }

@@ -169,6 +169,32 @@ private Q_SLOTS:
         QVERIFY(stage.session.now().choices.strictMode);
     }
 
+    void theButtonBesideAnErrorLooksAtTheComputer()
+    {
+        Stage stage;
+        Snapshot failed = Scenes::panel().front().snapshot;
+        failed.errorMessage = QStringLiteral("Tor closed the control connection.");
+        failed.findings = Scenes::findings();
+        stage.session.show(failed);
+        QQuickWindow *window = stage.open(QStringLiteral("main/MainWindow.qml"), windows(stage).front().properties);
+        stage.picture();
+        const auto shown = [&](const QString &text) {
+            QQuickItem *found = nullptr;
+            for (QQuickItem *root : {window->contentItem(), window->contentItem()->parentItem()})
+                if (root)
+                    visit(root, [&](QQuickItem *item) { found = item->property("text").toString() == text ? item : found; });
+            return found;
+        };
+        QVERIFY(!shown(QStringLiteral("Look Again")));
+        QQuickItem *cause = shown(QStringLiteral("Find the Cause"));
+        QVERIFY(cause);
+        QTest::mouseClick(window, Qt::LeftButton, {}, cause->mapToScene(QPointF(cause->width() / 4, cause->height() / 2)).toPoint());
+        stage.picture();
+        QCOMPARE(stage.session.asked, QStringList{QStringLiteral("examine")});
+        QVERIFY(shown(QStringLiteral("Look Again")));
+        QVERIFY(shown(QStringLiteral("sudo apt install nftables")));
+    }
+
     void escapeInTheQuitDialogHarmsNothing()
     {
         Stage stage;

@@ -262,6 +262,29 @@ private Q_SLOTS:
         QVERIFY(session.now().markerPresent);
     }
 
+    void looksAtTheComputerOnceAtATime()
+    {
+        Workbench bench;
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        QVERIFY(session.now().findings.empty());
+        session.examine();
+        session.examine();
+        follow(session);
+        QVERIFY(session.now().isExamining);
+        QVERIFY(until([&] { return !session.now().isExamining; }));
+        QVERIFY(!session.now().findings.empty());
+        QCOMPARE(session.now().findings.front().name, u"tor"_s);
+    }
+
+    void goesWhileItLooksAtTheComputer()
+    {
+        Workbench bench;
+        auto session = std::make_unique<ControllerSession>(bench.controller(), *bench.settings, bench.applications);
+        session->examine();
+        session.reset();
+        settle();
+    }
+
     void aLoginItemThatCannotBeWrittenIsTold()
     {
         Workbench bench;

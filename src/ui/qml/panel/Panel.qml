@@ -41,6 +41,13 @@ Rectangle {
                 }
                 PushButton {
                     fill: Theme.surface
+                    text: qsTr("Find the Cause")
+                    symbol: "stethoscope"
+                    help: qsTr("Looks at this computer: what a connection needs, what is in its way, and what mends it")
+                    onClicked: doctor.open()
+                }
+                PushButton {
+                    fill: Theme.surface
                     text: qsTr("Show Tor Log")
                     help: qsTr("See everything Tor reported")
                     onClicked: panel.windowWanted("log")
@@ -104,6 +111,7 @@ Rectangle {
         onLogWanted: panel.windowWanted("log")
         onQuitWanted: panel.quitWanted()
     }
+    DoctorSheet { id: doctor; objectName: "doctor"; model: panel.model.doctor }
     BridgesSheet { id: bridges; objectName: "bridges"; model: panel.options }
     ApplicationsSheet {
         id: applications

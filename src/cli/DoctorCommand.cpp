@@ -1,0 +1,54 @@
+#include "cli/DoctorCommand.h"
+
+#include "cli/Console.h"
+#include "doctor/Examiner.h"
+#include "platform/PlatformProfile.h"
+#include "system/ChildProcessRunner.h"
+#include "system/SettingsStore.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+namespace veldmark {
+
+QJsonObject doctorFindings(const Findings &findings)
+{
+    QJsonArray list;
+    for (const Finding &finding : findings)
+        list.append(QJsonObject{{QStringLiteral("name"), finding.name},
+                                {QStringLiteral("level"), levelName(finding.level)},
+                                {QStringLiteral("text"), finding.text()},
+                                {QStringLiteral("command"), finding.command.isEmpty() ? QJsonValue() : QJsonValue(finding.command)}});
+    return {{QStringLiteral("canConnect"), canConnect(findings)}, {QStringLiteral("findings"), list}};
+}
+
+QString Report::doctor(const Findings &findings)
+{
+    QStringList lines;
+    for (const Finding &finding : findings) {
+        lines << levelName(finding.level).leftJustified(9) + finding.text();
+        if (!finding.command.isEmpty())
+            lines << QString(9, u' ') + finding.command;
+    }
+    lines << (canConnect(findings) ? QStringLiteral("A connect can work.") : QStringLiteral("A connect can't work yet."));
+    return lines.join(u'\n');
+}
+
+QCoro::Task<ExitStatus> showDoctor(Invocation invocation, PlatformProfile profile)
+{
+    SettingsStore settings(profile);
+    if (const auto problem = settings.problem())
+        Console::printError(*problem);
+    ChildProcessRunner processes;
+    Examiner examiner(profile, settings, processes);
+    auto examining = examiner.examine();
+    const Findings findings = co_await examining;
+    Console::print(invocation.json ? QString::fromUtf8(QJsonDocument(doctorFindings(findings)).toJson(QJsonDocument::Compact))
+                                   : Report::doctor(findings));
+    if (canConnect(findings))
+        co_return ExitStatus::done;
+    Console::printError(QStringLiteral("A connect can't work before each \"problem\" is mended."));
+    co_return ExitStatus::failed;
+}
+
+} // namespace veldmark

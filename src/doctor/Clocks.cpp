@@ -1,0 +1,50 @@
+#include "doctor/Checks.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace veldmark::Doctor {
+
+namespace {
+
+using Level = Finding::Level;
+
+const QString clockName = QStringLiteral("clock");
+constexpr qint64 allowedSeconds = 3600; // Tor fails beyond some hours; a file's own time may be a little off
+
+QString shown(const QDateTime &time)
+{
+    return time.toUTC().toString(QStringLiteral("yyyy-MM-dd HH:mm 'UTC'"));
+}
+
+} // namespace
+
+// Without the network nobody knows the time. Known is what it cannot be (earlier than a file that is there was written), and
+// whether something has set the clock.
+Findings clockFindings(const Machine &machine)
+{
+    const QString setting = machine.isLinux() ? QStringLiteral("sudo timedatectl set-ntp true") : QString();
+    QDateTime latest;
+    QString witness;
+    for (const QString &path : {machine.profile.bundledHelper(), machine.at("/var/lib/dpkg/status"),
+                                machine.at("/var/lib/systemd/timesync/clock")}) {
+        const QFileInfo file(path);
+        if (path.isEmpty() || !file.exists() || (latest.isValid() && file.lastModified() <= latest))
+            continue;
+        latest = file.lastModified();
+        witness = path;
+    }
+    if (latest.isValid() && machine.now.secsTo(latest) > allowedSeconds)
+        return {{clockName, Level::problem,
+                 QT_TRANSLATE_NOOP("Doctor", "The clock is behind: it shows %1, but the file %2 was written on %3. Tor needs a clock that is right "
+                                             "to within minutes."),
+                 {shown(machine.now), witness, shown(latest)}, setting}};
+    if (machine.clockIsSet == true || machine.exists("/run/systemd/timesync/synchronized"))
+        return {{clockName, Level::good, QT_TRANSLATE_NOOP("Doctor", "The clock is set from the network. It shows %1."), {shown(machine.now)}, {}}};
+    return {{clockName, Level::unknown,
+             QT_TRANSLATE_NOOP("Doctor", "Whether the clock is right isn't known: nothing is seen to set it from the network. It shows %1. Tor needs it "
+                                         "right to within minutes."),
+             {shown(machine.now)}, setting}};
+}
+
+} // namespace veldmark::Doctor

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+// The room that looks at this computer and says what a connect needs, what is in its way, and what mends it. It reads only, asks
+// nobody on the network, and needs no root. Start here, then Machine (what is looked at), Checks.h (the findings, each a function of
+// a Machine) and Examiner (which looks at the real computer).
+namespace veldmark {
+
+// One thing that was looked at. A plain value.
+struct Finding {
+    enum class Level {
+        good,    // as a connect needs it
+        note,    // a connect works; this is worth knowing
+        unknown, // could not be told
+        problem, // a connect cannot work before this is mended
+    };
+    // The control of the window that mends it.
+    enum class Button { none, restore, download };
+
+    QString name;     // what was looked at: "tor", "ports" …; never translated
+    Level level = Level::good;
+    const char *form = ""; // a sentence with %1…%9 for `words`; the translators' files have it in the context "Doctor"
+    QStringList words;
+    QString command;  // what a user types to mend it; empty: nothing, or nothing that is known
+    Button button = Button::none;
+
+    // The sentence in English.
+    QString text() const { return filled(QString::fromUtf8(form), words); }
+    // `form` with each %1…%9 replaced by its word; a word is taken as it stands, also with a % in it.
+    static QString filled(const QString &form, const QStringList &words);
+
+    friend bool operator==(const Finding &, const Finding &) = default;
+};
+
+using Findings = std::vector<Finding>;
+
+// "good", "note", "unknown", "problem".
+QString levelName(Finding::Level level);
+
+// Whether a connect can work: there is no problem among them.
+bool canConnect(const Findings &findings);
+
+} // namespace veldmark

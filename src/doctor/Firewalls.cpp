@@ -1,0 +1,133 @@
+#include "doctor/Checks.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <array>
+
+namespace veldmark::Doctor {
+
+namespace {
+
+using Level = Finding::Level;
+
+const QString nftablesName = QStringLiteral("nftables");
+const QString firewallsName = QStringLiteral("firewalls");
+const QString groupsName = QStringLiteral("cgroups");
+
+// Known by the names of their processes.
+struct Known {
+    const char *process;
+    const char *name;
+};
+constexpr std::array known{
+    Known{"firewalld", "firewalld"},       Known{"dockerd", "Docker"},          Known{"libvirtd", "libvirt"},
+    Known{"virtnetworkd", "libvirt"},      Known{"opensnitchd", "OpenSnitch"},  Known{"portmaster-core", "Portmaster"},
+    Known{"mullvad-daemon", "Mullvad VPN"}, Known{"nordvpnd", "NordVPN"},       Known{"fail2ban-server", "Fail2ban"},
+};
+
+QString kernel(const Machine &machine)
+{
+    return machine.read("/proc/sys/kernel/osrelease").trimmed();
+}
+
+// Whether the kernel has nf_tables; absent: that cannot be seen.
+std::optional<bool> kernelHasTables(const Machine &machine)
+{
+    if (machine.exists("/sys/module/nf_tables"))
+        return true;
+    for (const char *prefix : {"/lib/modules/", "/usr/lib/modules/"}) {
+        const QString folder = machine.at(prefix) + kernel(machine);
+        if (kernel(machine).isEmpty() || !QFileInfo(folder).isDir())
+            continue;
+        for (const char *list : {"/modules.dep", "/modules.builtin"}) {
+            QFile file(folder + QLatin1String(list));
+            if (file.open(QIODevice::ReadOnly) && file.readAll().contains("/nf_tables.ko"))
+                return true;
+        }
+        return false;
+    }
+    return std::nullopt;
+}
+
+Finding nftables(const Machine &machine)
+{
+    if (machine.program(QStringLiteral("nft")).isEmpty())
+        return {nftablesName, Level::problem, QT_TRANSLATE_NOOP("Doctor", "nftables isn't installed. Veldmark's firewall needs it."), {},
+                machine.installing(nftablesName)};
+    if (machine.firewallComplaint)
+        return machine.firewallComplaint->isEmpty()
+            ? Finding{nftablesName, Level::good, QT_TRANSLATE_NOOP("Doctor", "The system's firewall, nftables, can be used."), {}, {}}
+            : Finding{nftablesName, Level::problem, QT_TRANSLATE_NOOP("Doctor", "The system's firewall can't be used: %1"),
+                      {*machine.firewallComplaint}, QStringLiteral("sudo modprobe nf_tables")};
+    const auto hasTables = kernelHasTables(machine);
+    if (hasTables == false)
+        return {nftablesName, Level::problem,
+                QT_TRANSLATE_NOOP("Doctor", "The kernel that runs (%1) has no nftables. After an upgrade of the kernel, restart the computer."),
+                {kernel(machine)}, QStringLiteral("sudo reboot")};
+    if (!hasTables)
+        return {nftablesName, Level::unknown,
+                QT_TRANSLATE_NOOP("Doctor", "nftables is installed. Whether the kernel that runs can use it is known to root only."), {},
+                QStringLiteral("sudo nft list tables")};
+    return {nftablesName, Level::good, QT_TRANSLATE_NOOP("Doctor", "nftables is installed, and the kernel has it."), {}, {}};
+}
+
+QStringList others(const Machine &machine)
+{
+    QStringList names;
+    const auto processes = runningProcesses(machine);
+    for (const auto &[process, name] : known)
+        if (runs(processes, QLatin1String(process)) && !names.contains(QLatin1String(name)))
+            names << QLatin1String(name);
+    static const QRegularExpression enabled(QStringLiteral("^\\s*ENABLED\\s*=\\s*[\"']?yes\\b"),
+                                            QRegularExpression::MultilineOption | QRegularExpression::CaseInsensitiveOption);
+    if (enabled.match(machine.read("/etc/ufw/ufw.conf")).hasMatch())
+        names << QStringLiteral("ufw");
+    if (QFileInfo(machine.at("/etc/systemd/system/sysinit.target.wants/nftables.service")).isSymLink()
+        || machine.exists("/etc/systemd/system/sysinit.target.wants/nftables.service"))
+        names << QStringLiteral("nftables.service");
+    return names;
+}
+
+Finding controlGroups(const Machine &machine)
+{
+    bool isThere = false;
+    for (const QString &line : machine.read("/proc/self/mountinfo").split(u'\n'))
+        isThere |= line.contains(QLatin1String(" - cgroup2 ")) && line.section(u' ', 3, 3) == QLatin1String("/");
+    if (!isThere)
+        return {groupsName, Level::note,
+                QT_TRANSLATE_NOOP("Doctor", "This system has no control groups of version 2, so no application can be opened without Tor. "
+                                            "Everything else works."),
+                {}, {}};
+    const QStringList version = kernel(machine).split(u'.');
+    const int major = version.value(0).toInt(), minor = version.value(1).toInt();
+    if (major > 0 && (major < 5 || (major == 5 && minor < 13)))
+        return {groupsName, Level::note,
+                QT_TRANSLATE_NOOP("Doctor", "The kernel (%1) is older than 5.13, so no application can be opened without Tor. Everything else works."),
+                {kernel(machine)}, {}};
+    return {groupsName, Level::good, QT_TRANSLATE_NOOP("Doctor", "Applications can be opened without Tor: control groups of version 2 are there."), {}, {}};
+}
+
+} // namespace
+
+Findings firewallFindings(const Machine &machine)
+{
+    if (!machine.isLinux())
+        return {};
+    Findings findings{nftables(machine)};
+    const QStringList names = others(machine);
+    if (names.isEmpty())
+        findings.push_back({firewallsName, Level::good,
+                            QT_TRANSLATE_NOOP("Doctor", "No other firewall that is known by name runs. The rules themselves are known to root only."),
+                            {}, {}});
+    else
+        findings.push_back({firewallsName, Level::note,
+                            QT_TRANSLATE_NOOP("Doctor", "Other programs set firewall rules here: %1. Veldmark leaves their rules alone. Rules "
+                                                        "that drop packets can block Tor."),
+                            {names.join(QStringLiteral(", "))}, QStringLiteral("sudo nft list ruleset")});
+    findings.push_back(controlGroups(machine));
+    return findings;
+}
+
+} // namespace veldmark::Doctor

@@ -1,0 +1,136 @@
+#include "doctor/Checks.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+
+#include <array>
+
+namespace veldmark::Doctor {
+
+namespace {
+
+using Level = Finding::Level;
+
+const QString portsName = QStringLiteral("ports");
+
+struct Port {
+    int number;
+    const char *table; // in which the kernel lists who listens
+    const char *state; // of a listener there
+};
+constexpr std::array ports{Port{9050, "/proc/net/tcp", "0A"}, Port{9051, "/proc/net/tcp", "0A"}, Port{9053, "/proc/net/udp", "07"}};
+
+struct Holder {
+    int port = 0;
+    uid_t user = 0;
+    QString socket; // its number
+};
+
+// Those that keep Tor from its address on this computer: who listens on it, or on every address.
+std::vector<Holder> holders(const Machine &machine)
+{
+    std::vector<Holder> found;
+    for (const Port &port : ports) {
+        const QString suffix = QStringLiteral(":%1").arg(port.number, 4, 16, QLatin1Char('0')).toUpper();
+        for (const QString &line : machine.read(port.table).split(u'\n')) {
+            const QStringList words = line.simplified().split(u' ');
+            if (words.size() < 10 || words[3] != QLatin1String(port.state) || !words[1].endsWith(suffix))
+                continue;
+            const QString address = words[1].chopped(suffix.size());
+            // As a number of this processor: either order of the bytes.
+            if (address != QLatin1String("0100007F") && address != QLatin1String("7F000001") && address != QLatin1String("00000000"))
+                continue;
+            found.push_back({port.number, words[7].toUInt(), words[9]});
+        }
+    }
+    return found;
+}
+
+bool hasSocket(const Machine &machine, const RunningProcess &process, const QString &socket)
+{
+    const QDir folder(machine.at("/proc/%1/fd").arg(process.pid));
+    const QString wanted = QStringLiteral("socket:[%1]").arg(socket);
+    for (const QString &entry : folder.entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)) {
+        if (QFile::symLinkTarget(folder.filePath(entry)).endsWith(wanted))
+            return true;
+    }
+    return false;
+}
+
+bool isSystemsService(const RunningProcess &process)
+{
+    return process.unit == QLatin1String("tor@default.service") || process.unit == QLatin1String("tor.service");
+}
+
+// The process with the socket. Another user's descriptors cannot be read: there the system's own Tor service is meant (its ports may
+// be root's, who has opened them), or a tor of that user's, or the user's only process.
+std::optional<RunningProcess> holderProcess(const Machine &machine, const std::vector<RunningProcess> &processes, const Holder &holder)
+{
+    std::optional<RunningProcess> service, tor, only;
+    int many = 0;
+    for (const RunningProcess &process : processes) {
+        if (hasSocket(machine, process, holder.socket))
+            return process;
+        if (isSystemsService(process) && (holder.user == 0 || holder.user == process.user))
+            service = process;
+        if (process.user != holder.user)
+            continue;
+        if (process.name == QLatin1String("tor"))
+            tor = process;
+        only = process;
+        ++many;
+    }
+    if (service)
+        return service;
+    return tor ? tor : many == 1 ? only : std::nullopt;
+}
+
+} // namespace
+
+Findings portFindings(const Machine &machine)
+{
+    if (!machine.isLinux())
+        return {};
+    Findings findings;
+    const std::vector<Holder> held = holders(machine);
+    const auto ours = machine.account(machine.profile.torAccount);
+    const auto processes = held.empty() ? std::vector<RunningProcess>() : runningProcesses(machine);
+    QStringList paused; // units that have been spoken of
+    bool isOurs = false;
+    for (const Holder &holder : held) {
+        const QString port = QString::number(holder.port);
+        if (ours && holder.user == *ours) {
+            isOurs = true;
+            continue;
+        }
+        const auto process = holderProcess(machine, processes, holder);
+        if (!process) {
+            findings.push_back({portsName, Level::problem,
+                                QT_TRANSLATE_NOOP("Doctor", "The port %1, which Tor needs, is held by a program of the account %2."),
+                                {port, machine.accountName(holder.user)},
+                                QStringLiteral("sudo ss -lpn sport = :%1").arg(port)});
+        } else if (isSystemsService(*process)) {
+            if (!paused.contains(process->unit))
+                findings.push_back({portsName, Level::note,
+                                    QT_TRANSLATE_NOOP("Doctor", "The system's own Tor service (%1) runs. Veldmark stops it while it is "
+                                                                "connected and starts it again afterwards."),
+                                    {process->unit}, {}});
+            paused << process->unit;
+        } else {
+            const QString unit = process->unit;
+            findings.push_back({portsName, Level::problem,
+                                QT_TRANSLATE_NOOP("Doctor", "The port %1, which Tor needs, is held by %2 (process %3, account %4)."),
+                                {port, process->name, QString::number(process->pid), machine.accountName(process->user)},
+                                unit.isEmpty() || unit.startsWith(QLatin1String("user@")) ? QStringLiteral("sudo kill %1").arg(process->pid)
+                                                                                          : QStringLiteral("sudo systemctl stop %1").arg(unit)});
+        }
+    }
+    if (findings.empty() && isOurs)
+        findings.push_back({portsName, Level::good, QT_TRANSLATE_NOOP("Doctor", "Veldmark's own Tor holds the ports 9050, 9051 and 9053."), {}, {}});
+    else if (findings.empty())
+        findings.push_back({portsName, Level::good, QT_TRANSLATE_NOOP("Doctor", "The ports that Tor needs (9050, 9051 and 9053) are free."), {}, {}});
+    return findings;
+}
+
+} // namespace veldmark::Doctor

@@ -1,0 +1,178 @@
+#include "doctor/Checks.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <array>
+
+namespace veldmark::Doctor {
+
+namespace {
+
+using Level = Finding::Level;
+using Button = Finding::Button;
+
+const QString torName = QStringLiteral("tor");
+const QString programsName = QStringLiteral("programs");
+const QString helperName = QStringLiteral("helper");
+const QString bridgesName = QStringLiteral("bridges");
+
+// What the helper calls, and the package that brings it where that is not always there.
+struct Needed {
+    const char *program;
+    const char *package;
+};
+constexpr std::array needed{
+    Needed{"bash", "bash"},       Needed{"flock", "util-linux"},   Needed{"setpriv", "util-linux"}, Needed{"unshare", "util-linux"},
+    Needed{"setsid", "util-linux"}, Needed{"mount", "mount"},      Needed{"umount", "mount"},       Needed{"getent", "libc-bin"},
+    Needed{"stat", "coreutils"},  Needed{"sync", "coreutils"},     Needed{"timeout", "coreutils"},  Needed{"readlink", "coreutils"},
+    Needed{"sha256sum", "coreutils"}, Needed{"useradd", "passwd"},
+};
+
+// "Tor version 0.4.7.16." or "… (git-…)."
+QString versionIn(const QString &text)
+{
+    static const QRegularExpression form(QStringLiteral("Tor version (\\d+\\.\\d+\\.\\d+(?:\\.\\d+)?[A-Za-z0-9-]*)"));
+    return form.match(text).captured(1);
+}
+
+// Older than 0.4.7, the oldest that Veldmark was tried with.
+bool isOld(const QString &version)
+{
+    const QStringList parts = version.split(u'.');
+    const std::array tried{0, 4, 7};
+    for (std::size_t i = 0; i < tried.size(); ++i) {
+        const int part = parts.value(static_cast<qsizetype>(i)).toInt();
+        if (part != tried[i])
+            return part < tried[i];
+    }
+    return false;
+}
+
+// Whether somebody besides root could change a file or one of the folders above it, up to the root of the system: the account's
+// number, root's own for more than one.
+std::optional<uid_t> otherWriter(const Machine &machine, const QString &path)
+{
+    const QString root = machine.profile.places.root;
+    for (QString part = path; part.size() > root.size(); part = part.left(std::max(part.lastIndexOf(u'/'), qsizetype(0)))) {
+        const auto owner = machine.owner(part);
+        if (!owner || (owner->mode & 022) != 0)
+            return uid_t(0);
+        if (owner->user != 0)
+            return owner->user;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+Findings torFindings(const Machine &machine)
+{
+    Findings findings;
+    const QString tor = machine.tor();
+    const QString custom = machine.customTor.trimmed();
+    const QString usual = QStringLiteral("veldmarkctl set customTorPath \"\"");
+    if (!custom.isEmpty() && custom != tor)
+        findings.push_back({torName, Level::note,
+                            QT_TRANSLATE_NOOP("Doctor", "The location of Tor in the settings, %1, is no program that can run. The usual "
+                                                        "places are searched instead."),
+                            {custom}, usual});
+    if (tor.isEmpty()) {
+        findings.push_back({torName, Level::problem, QT_TRANSLATE_NOOP("Doctor", "Tor isn't installed."), {},
+                            machine.installing({}).isEmpty() ? QString() : machine.profile.torInstallHint});
+        return findings;
+    }
+    const QString version = versionIn(machine.torVersion.value_or(QString()));
+    if (version.isEmpty())
+        findings.push_back({torName, Level::problem,
+                            QT_TRANSLATE_NOOP("Doctor", "%1 doesn't start, or isn't Tor: it doesn't tell its version."), {tor},
+                            tor == custom ? usual : machine.installing(QStringLiteral("--reinstall tor"))});
+    else if (isOld(version))
+        findings.push_back({torName, Level::note,
+                            QT_TRANSLATE_NOOP("Doctor", "Tor %1 is installed: %2. Veldmark was not tried with a Tor older than 0.4.7."),
+                            {version, tor}, machine.installing(torName)});
+    else
+        findings.push_back({torName, Level::good, QT_TRANSLATE_NOOP("Doctor", "Tor %1 is installed: %2."), {version, tor}, {}});
+    return findings;
+}
+
+Findings programFindings(const Machine &machine)
+{
+    if (!machine.isLinux())
+        return {};
+    Findings findings;
+    for (const auto &[program, package] : needed) {
+        const QString name = QLatin1String(program);
+        // The account may be there already.
+        if (!machine.program(name).isEmpty()
+            || (name == QLatin1String("useradd") && machine.account(machine.profile.torAccount)))
+            continue;
+        findings.push_back({programsName, Level::problem, QT_TRANSLATE_NOOP("Doctor", "The program %1 is missing. Veldmark's helper needs it."),
+                            {name}, machine.installing(QLatin1String(package))});
+    }
+    if (findings.empty())
+        findings.push_back({programsName, Level::good, QT_TRANSLATE_NOOP("Doctor", "Every program that Veldmark's helper calls is installed."), {}, {}});
+    return findings;
+}
+
+Findings helperFindings(const Machine &machine)
+{
+    Findings findings;
+    const QString helper = machine.profile.bundledHelper();
+    if (helper.isEmpty()) {
+        findings.push_back({helperName, Level::problem,
+                            QT_TRANSLATE_NOOP("Doctor", "Veldmark's helper script is missing. Install Veldmark again."), {},
+                            machine.installing(QStringLiteral("--reinstall veldmark"))});
+        return findings;
+    }
+    const auto writer = otherWriter(machine, helper);
+    if (writer == uid_t(0))
+        findings.push_back({helperName, Level::note,
+                            QT_TRANSLATE_NOOP("Doctor", "Veldmark's helper, %1, lies where others than root can write. They can change it, and "
+                                                        "with it what the administrator's password runs."),
+                            {helper}, QStringLiteral("./build.sh package")});
+    else if (writer)
+        findings.push_back({helperName, Level::note,
+                            QT_TRANSLATE_NOOP("Doctor", "Veldmark's helper, %1, is not an installed one: the account %2 can change it, and "
+                                                        "with it what the administrator's password runs."),
+                            {helper, machine.accountName(*writer)}, QStringLiteral("./build.sh package")});
+    else
+        findings.push_back({helperName, Level::good, QT_TRANSLATE_NOOP("Doctor", "Veldmark's helper is installed, and only root can change it: %1."),
+                            {helper}, {}});
+    if (machine.isPasswordless() && Machine::readFile(machine.profile.installedHelper) != Machine::readFile(helper))
+        findings.push_back({helperName, Level::note,
+                            QT_TRANSLATE_NOOP("Doctor", "The helper that runs without a password is not this version's. Set up connecting "
+                                                        "without a password again in Settings, General."), {},
+                            QStringLiteral("sudo bash %1 install-privileged --user %2").arg(helper, machine.accountName(machine.user))});
+    return findings;
+}
+
+Findings bridgeFindings(const Machine &machine)
+{
+    QStringList found;
+    for (const auto &path : {machine.transports.lyrebird, machine.transports.snowflake, machine.transports.webtunnel})
+        if (path && !found.contains(*path))
+            found << *path;
+    const QString download = QStringLiteral("veldmarkctl download-transports");
+    if (machine.bridges.choice == BridgeChoice::off) {
+        if (found.isEmpty())
+            return {{bridgesName, Level::good,
+                     QT_TRANSLATE_NOOP("Doctor", "Bridges are off. Where Tor is blocked they need bridge programs, and none was found."), {},
+                     download, Button::download}};
+        return {{bridgesName, Level::good, QT_TRANSLATE_NOOP("Doctor", "Bridges are off. Bridge programs were found: %1."),
+                 {found.join(QStringLiteral(", "))}, {}}};
+    }
+    const auto lines = selectedBridgeLines(machine.bridges, machine.transports);
+    const auto arguments = lines ? bridgeArguments(*lines, machine.transports) : lines;
+    if (!arguments) {
+        const bool isTyped = machine.bridges.choice == BridgeChoice::custom && !lines;
+        return {{bridgesName, Level::problem, QT_TRANSLATE_NOOP("Doctor", "The chosen bridges can't be used. %1"),
+                 {arguments.error().description()},
+                 isTyped ? QStringLiteral("veldmarkctl set bridgeChoice off") : download, isTyped ? Button::none : Button::download}};
+    }
+    return {{bridgesName, Level::good, QT_TRANSLATE_NOOP("Doctor", "The chosen bridges (%1) can be used: %2."),
+             {displayName(machine.bridges.choice), QString::number(lines->size())}, {}}};
+}
+
+} // namespace veldmark::Doctor

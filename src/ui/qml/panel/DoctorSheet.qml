@@ -1,0 +1,82 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import Veldmark
+
+// What a connect needs of this computer, what is in its way, and what mends it.
+Sheet {
+    id: sheet
+    required property DoctorModel model
+
+    title: qsTr("This computer")
+    onAboutToShow: model.examine()
+
+    Words {
+        Layout.fillWidth: true
+        text: sheet.model.verdict
+        color: Theme.quiet
+        Accessible.role: Accessible.AlertMessage
+    }
+    ListView {
+        id: list
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+        Layout.preferredHeight: Math.min(contentHeight, 360)
+        visible: count > 0
+        clip: true
+        spacing: 10
+        boundsBehavior: Flickable.StopAtBounds
+        T.ScrollBar.vertical: ScrollBar {}
+        model: sheet.model
+        delegate: RowLayout {
+            id: row
+            required property int index
+            required property string text
+            required property string level
+            required property string symbol
+            required property string command
+            required property string button
+            required property int tone
+            width: ListView.view.width - 10
+            spacing: 10
+            Symbol {
+                Layout.alignment: Qt.AlignTop
+                name: row.symbol
+                color: Theme.tone(row.tone)
+            }
+            ColumnLayout {
+                Layout.fillWidth: true
+                spacing: 6
+                Words {
+                    Layout.fillWidth: true
+                    text: row.text
+                    Accessible.name: row.level + ": " + row.text
+                }
+                CopyField {
+                    Layout.fillWidth: true
+                    visible: row.command !== ""
+                    text: row.command
+                    onCopied: text => sheet.model.copy(text)
+                }
+                PushButton {
+                    visible: row.button !== ""
+                    text: row.button
+                    onClicked: sheet.model.press(row.index)
+                }
+            }
+        }
+    }
+    buttons: [
+        PushButton {
+            text: qsTr("Done")
+            primary: true
+            onClicked: sheet.close()
+        },
+        PushButton {
+            text: qsTr("Look Again")
+            symbol: "arrow.triangle.2.circlepath"
+            enabled: !sheet.model.busy
+            onClicked: sheet.model.examine()
+        }
+    ]
+}
