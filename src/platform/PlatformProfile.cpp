@@ -25,7 +25,7 @@ QString machineName()
 #ifndef Q_OS_MACOS
 // The variable is missing after su, in cron and in some SSH sessions, and after su it may be another user's. logind's folder
 // is the same one for all of a user's processes. A folder that is not there yet is made by who needs it.
-QString runtimeDirectory()
+QString ownRuntimeDirectory()
 {
     const QString given = absoluteFromEnvironment("XDG_RUNTIME_DIR", QString());
     struct stat info {};
@@ -50,7 +50,7 @@ Places Places::fromEnvironment()
     places.dataHome =
         absoluteFromEnvironment("XDG_DATA_HOME", places.home + QStringLiteral("/.local/share"));
 #ifndef Q_OS_MACOS
-    places.runtimeDirectory = runtimeDirectory();
+    places.runtimeDirectory = ownRuntimeDirectory();
 #endif
     places.applicationDirectory = QCoreApplication::applicationDirPath();
     places.machine = machineName();

@@ -70,24 +70,32 @@ QString TerminalIntegration::sshConfiguration() const
 
 Result<void, TerminalError> TerminalIntegration::install() const
 {
+    // Our own files first: what the user's files then name is there.
     const std::optional<QString> command = m_search->command();
-    if (const auto installed = installForShells(); !installed)
-        return installed;
-    if (!command)
-        return leaveOutSsh();
-    if (const auto written = writeSshFiles(*command); !written)
+    if (const auto written = writeShellFiles(); !written)
         return written;
-    return addSshBlock();
+    if (command) {
+        if (const auto written = writeSshFiles(*command); !written)
+            return written;
+    }
+    if (const auto added = addShellBlocks(); !added)
+        return added;
+    return command ? addSshBlock() : leaveOutSsh();
 }
 
 Result<void, TerminalError> TerminalIntegration::installForShells() const
 {
+    if (const auto written = writeShellFiles(); !written)
+        return written;
+    return addShellBlocks();
+}
+
+Result<void, TerminalError> TerminalIntegration::writeShellFiles() const
+{
     if (const auto made = makeFolder(own("bin")); !made)
         return made;
     const TerminalNames names = namesFor(m_profile, m_exitCheckAddress);
-    if (const auto written = writeOwnFile(own("shell.sh"), shellFile(names), plainMode); !written)
-        return written;
-    return addShellBlocks();
+    return writeOwnFile(own("shell.sh"), shellFile(names), plainMode);
 }
 
 Result<void, TerminalError> TerminalIntegration::writeSshFiles(const QString &command) const

@@ -70,6 +70,7 @@ private:
                                          MarkedBlock::Position position, mode_t newMode) const;
     Result<void, TerminalError> removeBlock(const QString &path,
                                             MarkedBlock::Position position) const;
+    Result<void, TerminalError> writeShellFiles() const;
     Result<void, TerminalError> writeSshFiles(const QString &socksCommand) const;
     Result<void, TerminalError> addShellBlocks() const;
     Result<void, TerminalError> addSshBlock() const;
