@@ -177,10 +177,11 @@ void Workbench::disconnect()
 
 bool Workbench::tick()
 {
-    const std::size_t sleepers = clock.sleepers();
+    // The monitor and the watch over the rules go to sleep anew; loops of earlier sessions wake only to end.
+    const auto goal = clock.totalSlept() + 2 * 2s;
     clock.advance(2s);
-    return until([this, sleepers] {
-        return clock.sleepers() >= sleepers || m_controller->phase() != ConnectionPhase::connected;
+    return until([this, goal] {
+        return clock.totalSlept() >= goal || m_controller->phase() != ConnectionPhase::connected;
     });
 }
 

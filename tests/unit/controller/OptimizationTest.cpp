@@ -197,7 +197,7 @@ private Q_SLOTS:
         const auto optimizing = c.optimizeCircuits();
         bench.clock.advance(2s);
         QVERIFY(bench.hears("SIGNAL NEWNYM"));
-        QVERIFY(until([&] { return bench.clock.sleepers() == 2; })); // the monitor, the pause
+        QVERIFY(until([&] { return bench.clock.sleepers() == 3; })); // monitor, watch, the pause
         QVERIFY(!c.exitIP() && !c.torVerified());
         bench.probe.torAnswer = IPCheck{false, u"203.0.113.30"_s};
         bench.probe.beforeTorAnswer = nullptr; // fast
