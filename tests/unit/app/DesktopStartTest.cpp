@@ -3,7 +3,6 @@
 #include "support/StatusNotifierWatcher.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
-#include "support/TestProgram.h"
 
 #include <QDBusUnixFileDescriptor>
 #include <QDir>
@@ -33,13 +32,19 @@ class Desktop final : public QDBusVirtualObject {
 public:
     explicit Desktop(const QDBusConnection &bus) : m_bus(bus)
     {
-        for (const QString &path : {u"/org/freedesktop/Notifications"_s, u"/org/freedesktop/login1"_s})
-            m_bus.registerVirtualObject(path, this);
-        for (const QString &name : {u"org.freedesktop.Notifications"_s, u"org.freedesktop.login1"_s})
-            m_bus.registerService(name);
+        m_isThere = true;
+        for (const QString &path : paths())
+            m_isThere = m_bus.registerVirtualObject(path, this) && m_isThere;
+        for (const QString &name : names())
+            m_isThere = m_bus.registerService(name) && m_isThere;
     }
+    // Its connection outlives it, and would keep the names from the next one.
     ~Desktop() override
     {
+        for (const QString &name : names())
+            m_bus.unregisterService(name);
+        for (const QString &path : paths())
+            m_bus.unregisterObject(path);
         if (m_lock >= 0)
             ::close(m_lock);
     }
@@ -79,10 +84,16 @@ public:
         return !(end.revents & POLLHUP);
     }
 
+    bool isThere() const { return m_isThere; }
+
     QStringList notified;
 
 private:
+    static QStringList paths() { return {u"/org/freedesktop/Notifications"_s, u"/org/freedesktop/login1"_s}; }
+    static QStringList names() { return {u"org.freedesktop.Notifications"_s, u"org.freedesktop.login1"_s}; }
+
     QDBusConnection m_bus;
+    bool m_isThere = false;
     int m_lock = -1;
 };
 
@@ -132,7 +143,11 @@ private Q_SLOTS:
         qputenv("DBUS_SYSTEM_BUS_ADDRESS", bus.address());
         QVERIFY(QDBusConnection::sessionBus().isConnected());
     }
-    void init() { desktop = std::make_unique<Desktop>(bus.connection()); }
+    void init()
+    {
+        desktop = std::make_unique<Desktop>(bus.connection());
+        QVERIFY(desktop->isThere());
+    }
     void cleanup() { desktop.reset(); }
 
     void withoutATrayAHiddenStartShowsItsWindowAndClosingItIsTold()

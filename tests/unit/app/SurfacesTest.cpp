@@ -222,7 +222,7 @@ private Q_SLOTS:
                     const bool stands = QLatin1String(rules) == "standing"_L1 || QLatin1String(rules) == "putBack"_L1;
                     if (report.contains(u"only Tor's traffic leaves"_s))
                         QVERIFY(QLatin1String(mode) == "strict"_L1 && stands);
-                    QCOMPARE(report.contains(u"Kill switch  stands"_s), stands);
+                    QCOMPARE(report.contains(u"Kill switch stands"_s), stands);
                     QCOMPARE(report.contains(u"OPEN since"_s), QLatin1String(rules) == "open"_L1);
                     QCOMPARE(report.contains(u"isn't known to stand"_s), QLatin1String(rules) == "unknown"_L1);
                 }
