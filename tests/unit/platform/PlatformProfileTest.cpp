@@ -147,7 +147,7 @@ gnupgCandidates: /nowhere/usr/bin, /nowhere/usr/local/bin
 sudo: /nowhere/usr/bin/sudo
 unzip: /nowhere/usr/bin/unzip
 prompt: PolicyKit, /nowhere/usr/bin/pkexec
-promptText: Veldmark needs administrator access to manage Tor routing on this computer.
+promptText: Veldmark needs administrator access to manage Tor routing on this computer. The system's own Tor service, where it runs, is stopped meanwhile.
 torBrowserRoots: ~/.local/share/torbrowser/tbb/x86_64/tor-browser, ~/tor-browser, /nowhere/opt/tor-browser
 bundle: ~/.local/share/veldmark/TorExpertBundle, tor-expert-bundle-linux-x86_64-
 applicationSuffix: .desktop
