@@ -146,10 +146,12 @@ private Q_SLOTS:
         QVERIFY2(main->height() > before, qPrintable(QString::number(before))); // the banner's
         const int content = main->height();
         main->resize(main->width(), before); // what the window manager tells late is nobody's wish
+        settle();
         small.errorMessage.reset();
         shown.session.show(small);
         settle();
         main->resize(main->width(), 512);
+        settle();
         small.errorMessage = u"Tor stopped running"_s;
         shown.session.show(small);
         main->grabWindow();
@@ -169,6 +171,7 @@ private Q_SLOTS:
         shown.log.show(LogFeed::State::lines, Scenes::log(20));
         for (const auto &[name, shownRows] : {std::pair(u"log"_s, 20), {u"chooser"_s, 3}}) {
             QVERIFY(shown.windows->open(name));
+            settle(); // Qt tells QML late that a window is visible
             const auto *rows = shown.windows->find(name)->property("model").value<QAbstractItemModel *>();
             QCOMPARE(rows->rowCount(), shownRows);
             shown.windows->find(name)->property("model").value<QObject *>()->setProperty("search", u"zzz"_s);
@@ -176,6 +179,7 @@ private Q_SLOTS:
             shown.windows->find(name)->close();
             QVERIFY(until([&] { return !shown.windows->find(name); }));
             QVERIFY(shown.windows->open(name));
+            settle();
             QCOMPARE(rows->rowCount(), shownRows);
         }
     }
@@ -275,6 +279,7 @@ private Q_SLOTS:
         connected.phase = Phase::connected;
         const auto read = [&shown] { return shown.session.asked.removeAll(u"refreshCircuits"_s); };
         QVERIFY(shown.windows->open(u"circuits"_s)); // before the session
+        settle(); // Qt tells QML late that a window is visible
         QCOMPARE(read(), 0);
         shown.session.show(connected);
         QCOMPARE(read(), 1);
@@ -284,6 +289,7 @@ private Q_SLOTS:
         shown.session.show(connected);
         QCOMPARE(read(), 0);
         QVERIFY(shown.windows->open(u"circuits"_s));
+        settle();
         QCOMPARE(read(), 1);
     }
 
