@@ -198,11 +198,16 @@ void LogModel::reveal()
         setRevealProblem(tr("There are no log files yet: Tor makes %1 when it is first started.").arg(path));
         return;
     }
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected()) { // a call on no bus never ends
+        openFolder();
+        return;
+    }
     QDBusMessage call = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("/org/freedesktop/FileManager1"),
         QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("ShowItems"));
     call << QStringList{QUrl::fromLocalFile(path).toString()} << QString();
-    auto *answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);
+    auto *answer = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
     QObject::connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
         answer->deleteLater();
         if (answer->isError())

@@ -163,9 +163,8 @@ private Q_SLOTS:
         QVERIFY2(model.revealProblem().contains(profile.runDirectory), qPrintable(model.revealProblem()));
         QCOMPARE(changed.count(), 1);
         QVERIFY(QDir().mkpath(profile.runDirectory));
-        model.reveal(); // nobody answers on the bus, and this platform opens nothing
-        QVERIFY(model.revealProblem().isEmpty());
-        QTRY_VERIFY2(model.revealProblem().startsWith(QStringLiteral("No file manager")), qPrintable(model.revealProblem()));
+        model.reveal(); // there is no bus, and this platform opens nothing
+        QVERIFY2(model.revealProblem().startsWith(QStringLiteral("No file manager")), qPrintable(model.revealProblem()));
 
         // Where the desktop opens folders, that is what happens.
         QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openFolder");

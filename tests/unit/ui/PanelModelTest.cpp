@@ -276,10 +276,8 @@ private Q_SLOTS:
         StandInSession session(profile);
         PanelModel panel(session);
         Snapshot s = connected(RoutingMode::strict);
-        for (int reading = 0; reading < 3; ++reading) {
-            s.bytesRead += 1'000'000;
-            session.show(s);
-        }
+        session.show(s);
+        panel.traffic()->add(s.bytesRead + 1'000'000, s.bytesWritten, std::chrono::steady_clock::now() + std::chrono::seconds(2));
         QVERIFY(!panel.traffic()->samples().empty());
         s.phase = Phase::disconnected;
         session.show(s);
