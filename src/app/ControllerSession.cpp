@@ -63,7 +63,7 @@ ControllerSession::ControllerSession(TorController &controller, SettingsStore &s
           &C::customTorPathChanged, &C::bridgeChoiceChanged, &C::customBridgesChanged,
           &C::bypassAppsChanged, &C::autoConnectChanged, &C::optimizeSpeedChanged,
           &C::terminalModeChanged, &C::phaseChanged, &C::activeModeChanged, &C::activeBridgeChanged,
-          &C::bootstrapProgressChanged, &C::statusDetailChanged,
+          &C::otherSessionChanged, &C::bootstrapProgressChanged, &C::statusDetailChanged,
           &C::bootstrapProblemChanged, &C::canCancelChanged,
           &C::errorMessageChanged, &C::bytesReadChanged, &C::bytesWrittenChanged, &C::killSwitchChanged, &C::exitIPChanged,
           &C::torVerifiedChanged, &C::leakStatusChanged, &C::dnsStatusChanged, &C::isCheckingChanged,
