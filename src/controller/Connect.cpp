@@ -83,8 +83,12 @@ void TorController::settleAfterFailure()
     activeMode = markedMode(); // the helper may have changed it before it failed
     otherSession = SessionOwner::ofAnotherProcess(m_services.profile);
     statusDetail = otherSession() ? leftOverDetail() : QStringLiteral("Your network is still set up for Tor");
-    m_torStopped = false;
-    killSwitch = m_knownKillSwitch = judgedKillSwitch(); // the banner says why it failed; what changes later is told
+    // The banner says why it failed; what changes later is told. But a banner that tells of the rules, and stayed while
+    // the prompt for a restore was shown, is corrected at once.
+    const auto rules = judgedKillSwitch();
+    if (!m_killSwitchMessage || errorMessage() != m_killSwitchMessage)
+        m_knownKillSwitch = rules;
+    killSwitch = rules;
     phase = ConnectionPhase::stale;
     startKillSwitchWatch();
 }

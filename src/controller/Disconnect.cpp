@@ -162,8 +162,20 @@ void TorController::lookAtSession()
     if (other == otherSession())
         return;
     otherSession = other;
-    errorMessage = std::nullopt; // it was about another session
+    // What is shown was about another session, and so was what is known.
+    m_killSwitchMessage = std::nullopt;
+    errorMessage = std::nullopt;
+    m_torStopped = false;
+    m_controlPassword = std::nullopt;
+    m_activeBridgeLines.clear();
+    activeBridge = std::nullopt;
+    bootstrapProgress = 0.0;
+    bootstrapProblem = std::nullopt;
+    forgetCircuits();
+    resetSessionInfo();
     activeMode = markedMode();
+    m_knownKillSwitch = judgedKillSwitch();
+    killSwitch = m_knownKillSwitch;
     statusDetail = leftOverDetail();
 }
 

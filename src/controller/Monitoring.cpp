@@ -102,6 +102,7 @@ void TorController::torDied()
     statusDetail = QStringLiteral("Tor stopped running");
     errorMessage = m_killSwitchMessage = deathMessage();
     phase = ConnectionPhase::stale;
+    lookAtSession(); // perhaps Tor ended because another process's session has taken this one's place
 }
 
 QCoro::Task<TorController::TimedProbe> TorController::timedViaTor()

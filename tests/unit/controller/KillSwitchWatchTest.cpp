@@ -298,6 +298,26 @@ private Q_SLOTS:
         QCOMPARE(c.errorMessage().value(), backText);
     }
 
+    void whatHappensAtThePromptForARestoreIsToldWhenItIsDismissed()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        killTor(bench);
+        bench.cancelPrompt(u"disconnect"_s);
+        bench.disconnect();
+        QCOMPARE(c.errorMessage().value(), blockedDeath); // still true
+        bench.hold(u"disconnect"_s);
+        const auto restoring = c.disconnect();
+        bench.noteRules("open", 1);
+        bench.processes.hold = nullptr;
+        bench.processes.release();
+        QVERIFY(Workbench::finished(restoring));
+        QVERIFY(c.phase() == Phase::stale);
+        QCOMPARE(c.title(), u"Kill Switch Open"_s);
+        QCOMPARE(c.errorMessage().value(), openDeath);
+    }
+
     void aNetworkThatSomebodyElseRestoresIsNoLongerStale()
     {
         Workbench bench;

@@ -163,6 +163,39 @@ private Q_SLOTS:
         QVERIFY(!c.errorMessage()); // it told of a kill switch that is another session's by now
     }
 
+    void nothingOfTheReplacedSessionIsSaidOfIt_data()
+    {
+        QTest::addColumn<bool>("strict");
+        QTest::newRow("strict") << true;
+        QTest::newRow("proxy") << false;
+    }
+
+    void nothingOfTheReplacedSessionIsSaidOfIt()
+    {
+        QFETCH(bool, strict);
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        QVERIFY(bench.tick());
+        QVERIFY(c.exitIP() && c.torVerified() && c.bytesRead() > 0 && c.killSwitch());
+        QVERIFY(c.leakStatus() == LeakStatus::blocked());
+        OtherSession other(bench.profile, daemonUser, strict ? "strict\n" : "proxy\n");
+        bench.tor.stopListening(); // it has a Tor of its own
+        for (int tick = 0; tick < 3; ++tick)
+            QVERIFY(bench.tick());
+        QVERIFY(c.phase() == Phase::stale && c.otherSession()); // at once, without a watch
+        QVERIFY(!c.errorMessage());
+        QVERIFY(c.killSwitch().has_value() == strict);
+        QVERIFY(!c.exitIP() && !c.torVerified() && c.bytesRead() == 0);
+        QVERIFY(c.leakStatus() == LeakStatus::notTested());
+        if (!strict)
+            return;
+        bench.noteRules("open", 1);
+        bench.clock.advance(std::chrono::seconds(2));
+        QVERIFY(c.errorMessage().value().contains(u"firewall rules"_s));
+        QVERIFY(!c.errorMessage().value().contains(u"Tor stopped running"_s)); // its own runs
+    }
+
     void takesThePlaceOfALeftOverOne()
     {
         Workbench bench;
