@@ -199,9 +199,9 @@ private Q_SLOTS:
         QVERIFY(stage->circuits.seen());
         QVERIFY(stage->session.asked.contains(QStringLiteral("refreshCircuits")));
         stage->window()->hide();
-        QVERIFY(!stage->circuits.seen());
+        QTRY_VERIFY(!stage->circuits.seen());
         stage->window()->show();
-        QVERIFY(stage->circuits.seen());
+        QTRY_VERIFY(stage->circuits.seen());
     }
 
     void allFiveColumnsHaveTheirGuide()

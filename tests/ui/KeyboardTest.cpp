@@ -171,12 +171,15 @@ private Q_SLOTS:
         window->requestActivate();
         QVERIFY(QTest::qWaitForWindowActive(window));
         stage.picture();
-        const auto *sheet = window->findChild<QObject *>(QStringLiteral("applications"));
-        QVERIFY(QMetaObject::invokeMethod(const_cast<QObject *>(sheet), "open"));
-        QVERIFY(QTest::qWaitFor([&] { return sheet->property("opened").toBool(); }));
-        QTest::keyClick(window, Qt::Key_Escape);
-        QVERIFY(QTest::qWaitFor([&] { return !sheet->property("visible").toBool(); }));
-        QVERIFY(window->isVisible());
+        for (const char *name : {"applications", "bridges", "doctor"}) {
+            auto *sheet = window->findChild<QObject *>(QLatin1String(name));
+            QVERIFY(QMetaObject::invokeMethod(sheet, "open"));
+            QVERIFY2(QTest::qWaitFor([&] { return sheet->property("opened").toBool(); }), name);
+            QVERIFY2(!window->findChild<QQuickItem *>(QStringLiteral("panel"))->property("escapes").toBool(), name);
+            QTest::keyClick(window, Qt::Key_Escape);
+            QVERIFY2(QTest::qWaitFor([&] { return !sheet->property("visible").toBool(); }), name);
+            QVERIFY2(window->isVisible(), name);
+        }
 
         QQuickItem *list = nullptr;
         const std::function<void(QQuickItem *)> look = [&](QQuickItem *item) {

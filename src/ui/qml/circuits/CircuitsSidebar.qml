@@ -44,6 +44,7 @@ Rectangle {
             }
             delegate: T.ItemDelegate {
                 id: row
+                required property int index
                 required property string circuitId
                 required property string title
                 required property string detail
@@ -59,6 +60,8 @@ Rectangle {
                 Accessible.selected: isFollowed
                 Accessible.description: detail
                 onClicked: sidebar.model.follow(isFollowed ? "" : circuitId)
+                // The list hands the keyboard to its current row whenever rows come and go.
+                onActiveFocusChanged: if (activeFocus) list.currentIndex = index
                 contentItem: Item {
                     Rectangle {
                         x: 16

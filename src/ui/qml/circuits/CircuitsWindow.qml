@@ -51,7 +51,7 @@ Window {
                 font.pixelSize: Theme.smallSize
                 color: Theme.quiet
             }
-            IconButton {
+            HelpSign {
                 visible: window.model.error !== ""
                 symbol: "exclamationmark.triangle.fill"
                 color: Theme.warning

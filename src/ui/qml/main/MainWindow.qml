@@ -30,6 +30,7 @@ Window {
 
     Panel {
         id: panel
+        objectName: "panel"
         anchors.fill: parent
         model: window.panelModel
         options: window.optionsModel

@@ -9,7 +9,7 @@ Rectangle {
     required property PanelModel model
     required property OptionsModel options
     readonly property int wantedHeight: column.implicitHeight + 2 * area.margin + footer.implicitHeight + 16
-    readonly property bool escapes: !bridges.visible && !applications.visible && !card.choosing // Escape is nobody's
+    readonly property bool escapes: !doctor.visible && !bridges.visible && !applications.visible && !card.choosing // Escape is nobody's
     signal windowWanted(string name) // "circuits", "log", "settings"
     signal chooserWanted()
     signal quitWanted()

@@ -1,0 +1,28 @@
+import QtQuick
+import QtQuick.Templates as T
+import Veldmark
+
+// A symbol that says something to who points at it or comes to it with the keyboard. There is nothing to press.
+T.Control {
+    id: sign
+    required property string symbol
+    required property string text
+    property color color: Theme.quiet
+
+    implicitWidth: Theme.control
+    implicitHeight: Theme.control
+    hoverEnabled: true
+    focusPolicy: Qt.TabFocus
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: text
+
+    contentItem: Item {
+        Symbol {
+            anchors.centerIn: parent
+            name: sign.symbol
+            color: sign.color
+        }
+    }
+    background: Item { FocusRing { shown: sign.visualFocus } }
+    Hint { control: sign; text: sign.text }
+}
