@@ -107,6 +107,7 @@ class KillSwitch(LabCase):
         self.assertIsNone(self.address_seen_directly())
         self.product.run_verb("restore", check=True)
         self.assertIsNone(self.product.status()["killSwitch"])
+        self.assertEqual(session.interrupt(), 0)
         self.assert_restored()
 
     def test_a_watcher_that_was_killed_is_missed(self):

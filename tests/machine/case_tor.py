@@ -18,7 +18,8 @@ def debians_tor(stage: Stage) -> None:
             expect(not _service_listens(machine), "Debian's tor service still has the port")
             end(session, machine, before)
         wait(lambda: _service_listens(machine), 20, "Debian's tor service was not given back")
-        expect(machine.run(["sh", "-c", _WHO]).stdout == service, "the service is not as before")
+        # systemd calls it active only when tor has told it so, a moment after it listens.
+        wait(lambda: machine.run(["sh", "-c", _WHO]).stdout == service, 20, "the service is not as before")
 
 
 def debians_tor_after_a_power_cut(stage: Stage) -> None:
