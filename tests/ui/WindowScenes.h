@@ -140,12 +140,19 @@ inline void addDialogScenes(std::vector<WindowScene> &scenes)
     chosen.choices.bypassApps = {QStringLiteral("/usr/share/applications/games.desktop")};
     sheet("applications", "applications", chosen);
     sheet("applications/failed", "applications", chosen, QStringLiteral("Couldn't open Games without Tor: It has no program."));
-    chosen.phase = Phase::disconnected;
-    sheet("applications/disconnected", "applications", chosen);
+    Snapshot apart = idleSession();
+    apart.choices.bypassApps = chosen.choices.bypassApps;
+    sheet("applications/disconnected", "applications", apart);
     Snapshot bridges = idleSession();
     bridges.choices.bridgeChoice = BridgeChoice::custom;
     bridges.choices.customBridges = QStringLiteral("192.0.2.1:443\na line that is none\n");
     sheet("bridges", "bridges", bridges);
+    Snapshot failed = idleSession();
+    failed.findings = Scenes::findings();
+    sheet("doctor", "doctor", failed);
+    failed.isExamining = true;
+    failed.findings.clear();
+    sheet("doctor/looking", "doctor", failed);
 
     scenes.push_back({QStringLiteral("chooser"), [](Stage &stage) {
         stage.session.show(idleSession());
@@ -154,6 +161,7 @@ inline void addDialogScenes(std::vector<WindowScene> &scenes)
     scenes.push_back({QStringLiteral("chooser/nothing"), [](Stage &stage) {
         stage.session.show(idleSession());
         QQuickWindow *window = stage.open(QStringLiteral("chooser/ChooserWindow.qml"), modelProperty(&stage.choices));
+        stage.picture(); // a window that comes forgets the search of the one before
         stage.choices.setSearch(QStringLiteral("zzz"));
         return window;
     }});
