@@ -267,15 +267,29 @@ private Q_SLOTS:
     void looksAtTheComputerOnceAtATime()
     {
         Workbench bench;
+        const QString asked = bench.folder.filePath(u"asked"_s);
+        bench.writeFile(bench.profile.torCandidates.constFirst(), "#!/bin/sh\necho tor >>'" + asked.toUtf8() + "'\n", true);
+        const auto runs = [&asked] {
+            QFile file(asked);
+            return file.open(QIODevice::ReadOnly) ? file.readAll().count('\n') : 0;
+        };
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
         QVERIFY(session.now().findings.empty());
+        QList<bool> shown{session.now().isExamining}; // it may end while the events of its beginning are handled
+        QObject::connect(&session, &Session::changed, this, [&] {
+            if (shown.constLast() != session.now().isExamining)
+                shown << session.now().isExamining;
+        });
         session.examine();
         session.examine();
-        follow(session);
-        QVERIFY(session.now().isExamining);
-        QVERIFY(until([&] { return !session.now().isExamining; }));
+        QVERIFY(until([&] { return shown.size() == 3; }));
+        QCOMPARE(shown, QList({false, true, false}));
+        QCOMPARE(runs(), 1);
         QVERIFY(!session.now().findings.empty());
         QCOMPARE(session.now().findings.front().name, u"tor"_s);
+        session.examine(); // and again when somebody asks later
+        QVERIFY(until([&] { return shown.size() == 5; }));
+        QCOMPARE(runs(), 2);
     }
 
     void goesWhileItLooksAtTheComputer()
