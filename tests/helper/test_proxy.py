@@ -100,11 +100,13 @@ class Gnome(Desktop):
 
     def test_process_that_keeps_the_answer_open_is_not_waited_for(self):
         before = self.machine.snapshot()
-        restore = self.stand_in("case $1 in writable) setsid sleep 1000 & echo $! >/run/user/4242/left; echo true ;; *) echo none ;; esac")
+        restore = self.stand_in("case $1 in writable) setsid sleep 1000 & echo $! >>/run/user/4242/left; echo true ;; *) echo none ;; esac")
         try:
             self.assertOneLine(self.connect(check=False, timeout=50), "proxy settings")
         finally:
-            self.machine.shell("kill $(cat /run/user/4242/left)")
+            # The helper may have asked more than once, and who was killed is not gone at once.
+            self.machine.shell("for left in $(cat /run/user/4242/left); do kill $left; while kill -0 $left 2>/dev/null; do sleep 0.01; done; done; "
+                               "rm /run/user/4242/left")
             restore()
         self.assertEqual(self.machine.snapshot(), before)
 
