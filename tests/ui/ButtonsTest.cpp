@@ -149,28 +149,28 @@ private Q_SLOTS:
         std::vector<WindowScene> scenes = everyScene();
         std::erase_if(scenes, [&kind](const WindowScene &scene) { return kindOf(scene.name) != kind; });
         QString now;
-        QSet<QString> seen; // a button that does what it did in an earlier state of its window is not told again
+        QSet<QString> pressed; // a button that was pressed in an earlier state of the kind is not pressed again
         for (const WindowScene &scene : scenes) {
             QString lines;
-            const QString window = scene.name.section(u'/', 0, 0);
-            for (qsizetype place = 0;; ++place) {
+            QStringList texts;
+            {
                 Stage stage;
-                stage.profile.runDirectory = QStringLiteral("/nowhere"); // so that the log's files cannot be shown
+                QVERIFY(openTall(scene, stage));
+                for (QQuickItem *item : controls(stage.window()))
+                    texts << textOf(item);
+            }
+            for (qsizetype place = 0; place < texts.size(); ++place) {
+                const QString text = texts.at(place);
+                if (pressed.contains(text))
+                    continue;
+                pressed << text;
+                Stage stage;
                 QGuiApplication::clipboard()->clear();
-                QVERIFY(scene.open(stage));
-                stage.window()->resize(std::max(stage.window()->width(), 400), 1700); // nothing is scrolled away
-                stage.picture();
-                const QList<QQuickItem *> all = controls(stage.window());
-                if (place >= all.size())
-                    break;
-                const QString text = textOf(all.at(place));
+                QVERIFY(openTall(scene, stage));
                 const QString came = press(stage, place);
-                const QString line = QStringLiteral("  (%1) %2\n").arg(text, came);
                 QVERIFY2(!came.isEmpty() || isChosenAlready(text, scene.name),
                          qPrintable(scene.name + QStringLiteral(": nothing comes of \"%1\"").arg(text)));
-                if (!seen.contains(window + line))
-                    lines += line;
-                seen << window + line;
+                lines += QStringLiteral("  (%1) %2\n").arg(text, came);
             }
             if (!lines.isEmpty())
                 now += u'[' + scene.name + QStringLiteral("]\n") + lines + u'\n';
@@ -179,6 +179,15 @@ private Q_SLOTS:
     }
 
 private:
+    static bool openTall(const WindowScene &scene, Stage &stage)
+    {
+        stage.profile.runDirectory = QStringLiteral("/nowhere"); // so that the log's files cannot be shown
+        if (!scene.open(stage))
+            return false;
+        stage.window()->resize(std::max(stage.window()->width(), 400), 1700); // nothing is scrolled away
+        stage.picture();
+        return true;
+    }
     static std::vector<WindowScene> everyScene()
     {
         std::vector<WindowScene> scenes;
