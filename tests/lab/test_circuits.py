@@ -119,10 +119,10 @@ class OnionServices(LabCase):
     def service(self):
         """Its address, once a visitor can find it."""
         folder = f"{at.TOR_FOLDER}/onion"
-        place = self.lab.world.path(folder)
+        place = self.lab.tor.space.path(folder)
         place.mkdir(mode=0o700)
         (place / "torrc").write_text(self.torrc(folder))
-        with self.lab.world.popen(["tor", "-f", f"{folder}/torrc", "--defaults-torrc", f"{at.TOR_FOLDER}/empty", "--quiet"]) as tor:
+        with self.lab.tor.space.popen(["tor", "-f", f"{folder}/torrc", "--defaults-torrc", f"{at.TOR_FOLDER}/empty", "--quiet"]) as tor:
             try:
                 deadline = time.monotonic() + 120
                 log = place / "log"
