@@ -138,7 +138,8 @@ class Leaks(LeakCase):
             def killed():
                 points = stepped_to("")
                 self.assertGreater(len(points), 20)
-                for point in points[::5]:
+                # How many children a process has differs from run to run.
+                for point in [point for point in points if '"$child" #' not in point][::5]:
                     self.assertEqual(stepped_to(point)[-1], point)
 
             self.under_flood("the helper was killed while it connected again", killed)
