@@ -103,8 +103,9 @@ class Download(LabCase):
         super().setUp()
 
     def tearDown(self):
-        # One that has ended and waits for the host's first process to take note is not left behind.
-        left = self.lab.host.run(["sh", "-c", "ls -d /tmp/vmk-* 2>/dev/null; pgrep -a gpg-agent | grep -vF '<defunct>'"]).stdout
+        # GnuPG's agent has been told to end; it may still be about to.
+        left = self.lab.host.run(["sh", "-c", "i=0; while pgrep gpg-agent >/dev/null && [ $i -lt 50 ]; do sleep 0.1; i=$((i + 1)); done; "
+                                  "ls -d /tmp/vmk-* 2>/dev/null; pgrep -a gpg-agent"]).stdout
         self.assertEqual(left, "", "left behind")
 
     def publish(self, host, path, content):
