@@ -171,6 +171,13 @@ undo_tor() {
   for child in $CHILDREN "$pid"; do
     kill -KILL "$child" || true
   done
+  # Tor holds its ports until it has gone, which may be after the launcher.
+  for child in $CHILDREN; do
+    for ((poll = 0; poll < 50; poll++)); do
+      [[ -d /proc/$child ]] || break
+      sleep 0.02
+    done
+  done
   ! recorded_lives || {
     UNDONE="Tor could not be stopped."
     return 1
