@@ -28,6 +28,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     }
     const BootstrapStatus status = TorController::parseBootstrap(text);
     REQUIRE(status.progress >= 0);
-    REQUIRE(!status.summary.contains(u'"'));
+    REQUIRE(status.summary.size() <= text.size()); // a quoted string may hold quotes of its own
     return 0;
 }
