@@ -157,7 +157,7 @@ class Capture:
     def _open(self) -> socket.socket:
         def make() -> socket.socket:
             made = socket.socket(socket.AF_PACKET, socket.SOCK_RAW, 0)
-            made.setsockopt(socket.SOL_SOCKET, _SO_RCVBUFFORCE, 64 << 20)
+            made.setsockopt(socket.SOL_SOCKET, _SO_RCVBUFFORCE, 256 << 20)
             made.bind((self.interface, _ETH_P_ALL))
             return made
 
