@@ -59,7 +59,7 @@ install_packages() {
     # What an earlier run was stopped in.
     [[ -z $(dpkg --audit 2>/dev/null) ]] ||
         busy "Finishing an interrupted installation" "$log" "${root[@]}" env DEBIAN_FRONTEND=noninteractive dpkg --configure -a || true
-    if busy "Asking Debian's registry" "$log" "${apt[@]}" update -o APT::Update::Error-Mode=any; then
+    if busy "Asking Debian's registry" "$log" "${apt[@]}" update; then
         "${apt[@]}" -o APT::Status-Fd=3 install -y --no-install-recommends "$@" 3> >(apt_percent | progress "Installing packages, percent") >>"$log" 2>&1 ||
             status=$?
     else
