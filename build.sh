@@ -81,13 +81,15 @@ compile() {
     # A compiler cache is used where there is one, also for what is compiled with precompiled headers.
     export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros}
     ! command -v ccache >/dev/null || launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
-    if [[ ! -f build/$preset/build.ninja ]]; then
+    # Presets are read only when they are asked for: again after a change of them.
+    if [[ ! -f build/$preset/build.ninja || CMakePresets.json -nt build/$preset/configured ]]; then
         busy "Configuring" "$log" cmake --preset "$preset" ${launcher[@]+"${launcher[@]}"} || {
             reason=$(explain_failure "$log")
             [[ -z $reason ]] || die "$reason"
             grep -m 1 -A 3 'CMake Error' "$log" >&2 || true
             die "configuring failed; run ./build.sh deps, and see $log if that does not help"
         }
+        : >"build/$preset/configured"
     fi
     cmake --build "build/$preset" ${targets[@]+"${targets[@]}"} 2>&1 | tee "$log" | progress "Compiling" || {
         reason=$(explain_failure "$log")
