@@ -7,8 +7,8 @@ ROOM: a room of src/ (its C++), qml, helper or helper_mac (the root helper's par
 made at lines that the seed chooses. Each is built, in a clone of the last commit in build/mutate, and run against the tests of its
 room; what those miss, against the tests of the rooms that use it. The helper's tests that last minutes are left out.
 
-A mistake that does not compile is thrown away and replaced by the next. It is noticed when a test fails twice, or takes ten times
-as long as without it. First all these tests run without a mistake. Tests run behind walls.sh, where a mistake can do no harm.
+A mistake that does not compile is thrown away and replaced by the next. It is noticed when the same case of a
+test fails twice, or a test takes ten times as long as without it. First all these tests run without a mistake. Tests run behind walls.sh, where a mistake can do no harm.
 
 tests/mutate/aside.txt holds mistakes that change nothing anybody could notice, each with its reason. They are not counted.
 
@@ -20,6 +20,7 @@ Exit status 1 when one survived.
 
 import argparse
 import fcntl
+import hashlib
 import json
 import os
 import random
@@ -41,6 +42,7 @@ ROOMS = LOGIC + ("ui", "app", "cli", "qml") + HELPERS
 # Left out: what takes minutes, and the test of the namespaces themselves, which holds no helper.
 LEFT_OUT = r"/(kill-|trouble|cycles|failures|kill$|namespace)"
 SKIPPED = "skipped"
+HANGS = "takes ten times as long"
 SLOWER = 10   # times the usual, and half a minute: hangs
 
 
@@ -150,29 +152,35 @@ class Test:
     def __init__(self, told):
         properties = {entry["name"]: entry["value"] for entry in told.get("properties", [])}
         self.name, self.command, self.usual = told["name"], told["command"], 0.0
+        if self.command[-1].endswith(".py"):
+            self.command.append("--failfast")
         self.environment = dict(word.split("=", 1) for word in properties.get("ENVIRONMENT", []))
         self.limit = float(properties.get("TIMEOUT", 1200))
 
-    def run(self, clone):
-        """"" when it passed, SKIPPED, else how it failed."""
-        with subprocess.Popen([HERE / "walls.sh", *self.command], cwd=clone.build, env={**os.environ, **self.environment},
+    def run(self, clone, *case):
+        """"" when it passed, SKIPPED, else the case that failed, or how it did. Of one case alone when that is named."""
+        with subprocess.Popen([HERE / "walls.sh", *self.command, *case], cwd=clone.build, env={**os.environ, **self.environment},
                               stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, errors="replace") as process:
             try:
                 output, _ = process.communicate(timeout=self.usual * SLOWER + 30 if self.usual else self.limit)
             except subprocess.TimeoutExpired:
                 process.kill()   # the walls fall with it, and whatever runs inside
                 process.communicate()
-                return "takes ten times as long"
+                return HANGS
         if process.returncode == 125:
             sys.exit("the walls cannot be built:\n" + output)
         if process.returncode in (0, 77):
             return SKIPPED if process.returncode else ""
-        return next(iter(re.findall(r"(?m)^(?:FAIL!  : \w+::|(?:FAIL|ERROR): )(\S+)", output)), f"status {process.returncode}")
+        named = re.search(r"(?m)^FAIL!  : \w+::(\w+)|^(?:FAIL|ERROR): test_\w+ \(__main__\.(\w+\.test_\w+)\)", output)
+        return named[1] or named[2] if named else f"status {process.returncode}"
 
 
 def prove_green(clone, room):
-    """The tests of the room in their two groups, each with its usual time. The run ends here when one fails without a mistake."""
-    note = ROOT / f"times-{clone.commit[:12]}.json"
+    """The tests of the room in their two groups, each with its usual time. The run ends here when one fails without a mistake.
+    What was proved is remembered for as long as neither the program nor its tests change."""
+    parts = ("resources/helper", "tests/helper", "tests/helper_mac") if room.name in HELPERS else ("src", "tests/unit", "tests/support", "tests/ui")
+    state = clone.git(PROJECT, "rev-parse", *(f"{clone.commit}:{part}" for part in parts))
+    note = ROOT / f"times-{hashlib.sha256(state.encode()).hexdigest()[:12]}.json"
     times = json.loads(note.read_text()) if note.exists() else {}
     groups = [clone.tests(pattern) for pattern in room.tests]
     for group, targets in zip(groups, room.targets):
@@ -215,7 +223,10 @@ def noticed_by(clone, path, groups, targets):
             sys.exit(said)
         for test in sorted(group, key=lambda test: (kin(path, test), test.usual)):
             how = test.run(clone)
-            if how and test.run(clone):
+            if how in ("", SKIPPED):
+                continue
+            # A crash names no case: the whole again.
+            if how == HANGS or test.run(clone, *([how] if " " not in how else [])):
                 return f"{test.name} ({how})"
     return None
 

@@ -6,7 +6,8 @@ set -u
 if [[ ${1-} != --inside ]]; then
     user=()
     [[ $EUID -eq 0 ]] || user=(--user --map-root-user)
-    exec unshare ${user[@]+"${user[@]}"} --mount --net --pid --fork --kill-child --mount-proc /bin/bash -- "$0" --inside "$@"
+    # Without the one who asked it ends at once.
+    exec setpriv --pdeathsig KILL unshare ${user[@]+"${user[@]}"} --mount --net --pid --fork --kill-child --mount-proc /bin/bash -- "$0" --inside "$@"
 fi
 shift
 {
