@@ -161,7 +161,8 @@ def shell_mutants(text: str):
                     yield made(replaced(line, *match.span(), str(int(match[1]) + 1)), "number changed")
             continue
         code = re.sub(r"(^|\s)#.*", lambda found: " " * len(found.group()), line)
-        code = re.sub(r"'[^']*'", lambda found: "'" + " " * (len(found.group()) - 2) + "'", code)
+        # Nor sentences that the user reads.
+        code = re.sub(r"'[^']*'|\"[A-Z][^\"]*\.\"", lambda found: "'" + " " * (len(found.group()) - 2) + "'", code)
         if not code.strip():
             continue
         for match in re.finditer(r" (\|\||&&) (?:return|die|exit|continue|break)\b[^;}]*", code):
