@@ -37,6 +37,13 @@ HERE = Path(__file__).resolve().parent
 PROJECT = HERE.parents[1]
 ROOT = PROJECT / "build" / "mutate"
 LOGIC = ("base", "platform", "system", "control", "bridges", "circuits", "checks", "log", "terminal", "doctor", "controller", "instance")
+# The helper's tests that touch a part; those of a part that is not here touch all.
+TOUCHED = {"addresses": "texts firewall", "files": "session texts watcher programs", "linux-exempt": "launch firewall session",
+           "linux-firewall": "texts firewall session watcher", "linux-owner": "owner", "linux-proxy": "proxy", "linux-resolved": "resolved",
+           "linux-resolver": "session resolved texts", "linux-service": "service", "linux-session": "session watcher owner launch resolved",
+           "linux-state": "options session programs owner privileged", "linux-tor": "session programs texts launch owner",
+           "linux-watcher": "watcher session", "note": "session owner watcher", "options": "options texts programs",
+           "privileged": "privileged programs", "programs": "programs launch privileged", "torrc": "texts session options"}
 HELPERS = ("helper", "helper_mac")
 ROOMS = LOGIC + ("ui", "app", "cli", "qml") + HELPERS
 # Left out: what takes minutes, and the test of the namespaces themselves, which holds no helper.
@@ -111,15 +118,24 @@ def chosen(rooms, seed, top):
 
 class Clone:
     def __init__(self, name):
-        self.place, self.build = ROOT / name, ROOT / name / "build/dev"
         ROOT.mkdir(parents=True, exist_ok=True)
-        self.lock = open(ROOT / f"{name}.lock", "w", encoding="ascii")
-        fcntl.flock(self.lock, fcntl.LOCK_EX)
+        # Two runs at the same time have a clone each.
+        for number in range(1, 9):
+            self.place = ROOT / (name if number == 1 else f"{name}-{number}")
+            self.lock = open(f"{self.place}.lock", "w", encoding="ascii")
+            try:
+                fcntl.flock(self.lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
+                break
+            except BlockingIOError:
+                self.lock.close()
+        else:
+            sys.exit("eight runs are enough")
+        self.build = self.place / "build/dev"
         self.commit = self.git(PROJECT, "rev-parse", "HEAD")
         if self.git(PROJECT, "status", "--porcelain", "--untracked-files=no"):
             print("What is not committed is not looked at.")
         if not self.place.is_dir():
-            self.git(ROOT, "clone", "--quiet", "--shared", "--no-checkout", str(PROJECT), name)
+            self.git(ROOT, "clone", "--quiet", "--shared", "--no-checkout", str(PROJECT), self.place.name)
         self.git(self.place, "fetch", "--quiet", str(PROJECT), "HEAD")
         self.git(self.place, "checkout", "--quiet", "--force", "--detach", self.commit)
         self.build.parent.mkdir(exist_ok=True)
@@ -175,31 +191,41 @@ class Test:
         return named[1] or named[2] if named else f"status {process.returncode}"
 
 
-def prove_green(clone, room):
-    """The tests of the room in their two groups, each with its usual time. The run ends here when one fails without a mistake.
+class Proved:
+    """The tests of a room in their two groups, which pass without a mistake, each with its usual time; the second only when it is wanted.
     What was proved is remembered for as long as neither the program nor its tests change."""
-    parts = ("resources/helper", "tests/helper", "tests/helper_mac") if room.name in HELPERS else ("src", "tests/unit", "tests/support", "tests/ui")
-    state = clone.git(PROJECT, "rev-parse", *(f"{clone.commit}:{part}" for part in parts))
-    note = ROOT / f"times-{hashlib.sha256(state.encode()).hexdigest()[:12]}.json"
-    times = json.loads(note.read_text()) if note.exists() else {}
-    groups = [clone.tests(pattern) for pattern in room.tests]
-    for group, targets in zip(groups, room.targets):
-        if any(test.name not in times for test in group):
-            status, said = clone.compile(targets)
-            if status:
-                sys.exit(said)
-        for test in group:
-            if test.name not in times:
-                started = time.monotonic()
-                failed = test.run(clone)
-                if failed == SKIPPED:
-                    print(f"{test.name} is skipped here, so it can notice nothing")
-                elif failed:
-                    sys.exit(f"{test.name} fails without a mistake ({failed}), so it can tell nothing")
-                times[test.name] = round(time.monotonic() - started, 2)
-                note.write_text(json.dumps(times, indent=1))
-            test.usual = times[test.name]
-    return groups
+
+    def __init__(self, clone, room):
+        self.clone, self.targets, self.groups = clone, room.targets, [None, None]
+        self.patterns = room.tests
+        parts = ("resources/helper", "tests/helper", "tests/helper_mac") if room.name in HELPERS else ("src", "tests/unit", "tests/support", "tests/ui")
+        state = clone.git(PROJECT, "rev-parse", *(f"{clone.commit}:{part}" for part in parts))
+        self.note = ROOT / f"times-{hashlib.sha256(state.encode()).hexdigest()[:12]}.json"
+
+    def times(self):
+        return json.loads(self.note.read_text()) if self.note.exists() else {}
+
+    def tests(self, number):
+        if self.groups[number] is None:
+            self.groups[number] = self.clone.tests(self.patterns[number])
+            if any(test.name not in self.times() for test in self.groups[number]):
+                status, said = self.clone.compile(self.targets[number])
+                if status:
+                    sys.exit(said)
+            for test in self.groups[number]:
+                test.usual = self.times().get(test.name) or self.prove(test)
+        return self.groups[number]
+
+    def prove(self, test):
+        started = time.monotonic()
+        failed = test.run(self.clone)
+        if failed == SKIPPED:
+            print(f"{test.name} is skipped here, so it can notice nothing")
+        elif failed:
+            sys.exit(f"{test.name} fails without a mistake ({failed}), so it can tell nothing")
+        usual = round(time.monotonic() - started, 2)
+        self.note.write_text(json.dumps({**self.times(), test.name: usual}, indent=1))
+        return usual
 
 
 def kin(path, test):
@@ -209,25 +235,34 @@ def kin(path, test):
     return -len({word.lower()[:5] for word in mine} & {word.lower()[:5] for word in its})
 
 
-def noticed_by(clone, path, groups, targets):
-    """The test that notices the mistake now in the clone; None when none does; "" when it does not compile."""
-    for number, group in enumerate(groups):
-        if not group or number == 1 and Path(path).name.startswith("linux-"):
+def noticed_by(clone, path, mutant, proved):
+    """The test that notices the mistake; None when none does; "" when it does not compile."""
+    for number in range(2):
+        tests = [] if number == 1 and Path(path).name.startswith("linux-") else proved.tests(number)
+        touched = TOUCHED.get(Path(path).stem, "").split() if path.endswith(".sh") and number == 0 else []
+        tests = [test for test in tests if not touched or test.name.rsplit("/", 1)[1] in touched]
+        if not tests:
             continue
-        if path.endswith(".sh") and subprocess.run(["/bin/bash", "-n", clone.place / path], capture_output=True).returncode != 0:
-            return ""
-        status, said = clone.compile(targets[number])
-        if status:
-            if number == 0 and re.search("error:|qmlcachegen|QML", said):
+        file = clone.place / path
+        original = file.read_text()
+        try:
+            file.write_text(mutant.apply(original))
+            if path.endswith(".sh") and subprocess.run(["/bin/bash", "-n", file], capture_output=True).returncode != 0:
                 return ""
-            sys.exit(said)
-        for test in sorted(group, key=lambda test: (kin(path, test), test.usual)):
-            how = test.run(clone)
-            if how in ("", SKIPPED):
-                continue
-            # A crash names no case: the whole again.
-            if how == HANGS or test.run(clone, *([how] if " " not in how else [])):
-                return f"{test.name} ({how})"
+            status, said = clone.compile(proved.targets[number])
+            if status:
+                if number == 0 and re.search("error:|QML", said):
+                    return ""
+                sys.exit(said)
+            for test in sorted(tests, key=lambda test: (kin(path, test), test.usual)):
+                how = test.run(clone)
+                if how in ("", SKIPPED):
+                    continue
+                # A crash names no case: the whole again.
+                if how == HANGS or test.run(clone, *([how] if " " not in how else [])):
+                    return f"{test.name} ({how})"
+        finally:
+            file.write_text(original)
     return None
 
 
@@ -256,7 +291,7 @@ def main():
     clone = Clone("helper" if set(names) <= set(HELPERS) else "code")
     note = ROOT / f"survivors-{'-'.join(given.rooms) or 'logic'}-{given.seed}.json"
     wanted = [tuple(entry) for entry in json.loads(note.read_text())] if given.again else None
-    groups, survivors, noticed, put_aside, refused = {}, [], 0, 0, 0
+    proved, survivors, noticed, put_aside, refused = {}, [], 0, 0, 0
     for room, path, mutant in chosen([Room(name) for name in names], given.seed, clone.place):
         if wanted is not None and (path, mutant.before, mutant.after) not in wanted:
             continue
@@ -265,15 +300,7 @@ def main():
         if aside.reason(path, mutant):
             put_aside += 1
             continue
-        if room.name not in groups:
-            groups[room.name] = prove_green(clone, room)
-        file = clone.place / path
-        original = file.read_text()
-        try:
-            file.write_text(mutant.apply(original))
-            by = noticed_by(clone, path, groups[room.name], room.targets)
-        finally:
-            file.write_text(original)
+        by = noticed_by(clone, path, mutant, proved.setdefault(room.name, Proved(clone, room)))
         if by == "":
             refused += 1
         elif by:
