@@ -8,7 +8,7 @@ made at lines that the seed chooses. Each is built, in a clone of the last commi
 room; what those miss, against the tests of the rooms that use it. The helper's tests that last minutes are left out.
 
 A mistake that does not compile is thrown away and replaced by the next. It is noticed when the same case of a
-test fails twice, or a test takes ten times as long as without it. First all these tests run without a mistake. Tests run behind walls.sh, where a mistake can do no harm.
+test fails twice, or a test takes ten times as long as without it. First those tests run without a mistake. Tests run behind walls.sh, where a mistake can do no harm.
 
 tests/mutate/aside.txt holds mistakes that change nothing anybody could notice, each with its reason. They are not counted.
 
@@ -192,7 +192,7 @@ class Test:
 
 
 class Proved:
-    """The tests of a room in their two groups, which pass without a mistake, each with its usual time; the second only when it is wanted.
+    """The tests of a room in their two groups. Each is proved to pass without a mistake before it is asked, which gives its usual time.
     What was proved is remembered for as long as neither the program nor its tests change."""
 
     def __init__(self, clone, room):
@@ -208,13 +208,16 @@ class Proved:
     def tests(self, number):
         if self.groups[number] is None:
             self.groups[number] = self.clone.tests(self.patterns[number])
-            if any(test.name not in self.times() for test in self.groups[number]):
-                status, said = self.clone.compile(self.targets[number])
-                if status:
-                    sys.exit(said)
-            for test in self.groups[number]:
-                test.usual = self.times().get(test.name) or self.prove(test)
         return self.groups[number]
+
+    def require(self, tests, targets):
+        """They pass now, without a mistake."""
+        if any(test.name not in self.times() for test in tests):
+            status, said = self.clone.compile(targets)
+            if status:
+                sys.exit(said)
+        for test in tests:
+            test.usual = test.usual or self.times().get(test.name) or self.prove(test)
 
     def prove(self, test):
         started = time.monotonic()
@@ -243,6 +246,7 @@ def noticed_by(clone, path, mutant, proved):
         tests = [test for test in tests if not touched or test.name.rsplit("/", 1)[1] in touched]
         if not tests:
             continue
+        proved.require(tests, proved.targets[number])
         file = clone.place / path
         original = file.read_text()
         try:
