@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Puts small mistakes into the code, one at a time, and says which of them no test notices.
 
-usage: run.py [ROOM...] [--count N] [--seed S] [--again] [--list]
+usage: run.py [ROOM...] [--count N] [--seed S] [--again] [--long] [--list]
 
 ROOM: a room of src/ (its C++), qml, helper or helper_mac (the root helper's parts); without one all rooms of the logic. N mistakes are
 made at lines that the seed chooses. Each is built, in a clone of the last commit in build/mutate, and run against the tests of its
@@ -12,6 +12,7 @@ test fails twice, or a test takes ten times as long as without it. First those t
 
 tests/mutate/aside.txt holds mistakes that change nothing anybody could notice, each with its reason. They are not counted.
 
+--long   the helper's tests that last minutes are asked as well, the kills above all
 --again  the mistakes that survived the last run with these words, instead of new ones
 --list   only print the mistakes
 
@@ -46,8 +47,8 @@ TOUCHED = {"addresses": "texts firewall", "files": "session texts watcher progra
            "privileged": "privileged programs", "programs": "programs launch privileged", "torrc": "texts session options"}
 HELPERS = ("helper", "helper_mac")
 ROOMS = LOGIC + ("ui", "app", "cli", "qml") + HELPERS
-# Left out: what takes minutes, and the test of the namespaces themselves, which holds no helper.
-LEFT_OUT = r"/(kill-|trouble|cycles|failures|kill$|namespace)"
+LONG = r"/(kill-|trouble|cycles|failures|kill$)"
+NO_HELPER = r"^helper/namespace$"   # tests what the tests stand on
 SKIPPED = "skipped"
 HANGS = "takes ten times as long"
 SLOWER = 10   # times the usual, and half a minute: hangs
@@ -161,7 +162,7 @@ class Clone:
         if not pattern:
             return []
         told = subprocess.run(["ctest", "--test-dir", self.build, "-R", pattern, "--show-only=json-v1"], capture_output=True, text=True, check=True)
-        return [Test(test) for test in json.loads(told.stdout)["tests"] if not re.search(LEFT_OUT, test["name"])]
+        return [Test(test) for test in json.loads(told.stdout)["tests"]]
 
 
 class Test:
@@ -195,9 +196,9 @@ class Proved:
     """The tests of a room in their two groups. Each is proved to pass without a mistake before it is asked, which gives its usual time.
     What was proved is remembered for as long as neither the program nor its tests change."""
 
-    def __init__(self, clone, room):
+    def __init__(self, clone, room, with_long):
         self.clone, self.targets, self.groups = clone, room.targets, [None, None]
-        self.patterns = room.tests
+        self.patterns, self.left_out = room.tests, NO_HELPER if with_long else f"{NO_HELPER}|{LONG}"
         parts = ("resources/helper", "tests/helper", "tests/helper_mac") if room.name in HELPERS else ("src", "tests/unit", "tests/support", "tests/ui")
         state = clone.git(PROJECT, "rev-parse", *(f"{clone.commit}:{part}" for part in parts))
         self.note = ROOT / f"times-{hashlib.sha256(state.encode()).hexdigest()[:12]}.json"
@@ -207,7 +208,8 @@ class Proved:
 
     def tests(self, number):
         if self.groups[number] is None:
-            self.groups[number] = self.clone.tests(self.patterns[number])
+            self.groups[number] = [
+                test for test in self.clone.tests(self.patterns[number]) if not re.search(self.left_out, test.name)]
         return self.groups[number]
 
     def require(self, tests, targets):
@@ -243,7 +245,7 @@ def noticed_by(clone, path, mutant, proved):
     for number in range(2):
         tests = [] if number == 1 and Path(path).name.startswith("linux-") else proved.tests(number)
         touched = TOUCHED.get(Path(path).stem, "").split() if path.endswith(".sh") and number == 0 else []
-        tests = [test for test in tests if not touched or test.name.rsplit("/", 1)[1] in touched]
+        tests = [test for test in tests if not touched or test.name.rsplit("/", 1)[1] in touched or re.search(LONG, test.name)]
         if not tests:
             continue
         proved.require(tests, proved.targets[number])
@@ -280,6 +282,7 @@ def main():
     parser.add_argument("rooms", nargs="*", metavar="ROOM")
     parser.add_argument("--count", type=int, default=20)
     parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--long", action="store_true")
     parser.add_argument("--again", action="store_true")
     parser.add_argument("--list", action="store_true")
     given = parser.parse_args()
@@ -304,7 +307,7 @@ def main():
         if aside.reason(path, mutant):
             put_aside += 1
             continue
-        by = noticed_by(clone, path, mutant, proved.setdefault(room.name, Proved(clone, room)))
+        by = noticed_by(clone, path, mutant, proved.setdefault(room.name, Proved(clone, room, given.long)))
         if by == "":
             refused += 1
         elif by:
