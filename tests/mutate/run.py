@@ -7,8 +7,9 @@ ROOM: a room of src/ (its C++), qml, helper or helper_mac (the root helper's par
 made at lines that the seed chooses. Each is built, in a clone of the last commit in build/mutate, and run against the tests of its
 room; of the helper's, against those that touch its part.
 
-A mistake that does not compile is thrown away and replaced by the next. It is noticed when the same case of a
-test fails twice, or a test takes ten times as long as without it. First those tests run without a mistake. Tests run behind walls.sh, where a mistake can do no harm.
+A mistake that does not compile is thrown away and replaced by the next. It is noticed when the same case of a test fails twice, or a
+test takes ten times as long as without it. First those tests run without a mistake. Tests run behind walls.sh, where a mistake can do
+no harm.
 
 tests/mutate/aside.txt holds mistakes that change nothing anybody could notice, each with its reason. They are not counted.
 
@@ -39,7 +40,8 @@ PROJECT = HERE.parents[1]
 ROOT = PROJECT / "build" / "mutate"
 LOGIC = ("base", "platform", "system", "control", "bridges", "circuits", "checks", "log", "terminal", "doctor", "controller", "instance")
 # The helper's tests that touch a part; those of a part that is not here touch all.
-TOUCHED = {"addresses": "texts firewall parts", "files": "parts session texts watcher programs", "linux-exempt": "launch firewall session",
+TOUCHED = {"core": "parts options privileged programs owner", "main": "options privileged owner programs",
+           "session": "parts session watcher", "addresses": "texts firewall parts", "files": "parts session texts watcher programs", "linux-exempt": "launch firewall session",
            "linux-firewall": "rules texts firewall session watcher", "linux-owner": "owner", "linux-proxy": "proxy", "linux-resolved": "resolved",
            "linux-resolver": "session resolved texts", "linux-service": "service", "linux-session": "session watcher owner launch resolved",
            "linux-state": "options session programs owner privileged", "linux-tor": "session programs texts launch owner",
