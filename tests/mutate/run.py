@@ -298,6 +298,8 @@ def main():
         for _, path, mutant in chosen([Room(name) for name in names], given.seed, PROJECT)[:given.count]:
             print(show(path, mutant), "\n    aside: " + aside.reason(path, mutant) if aside.reason(path, mutant) else "")
         return 0
+    if any(place in map(str, PROJECT.parents) for place in ("/tmp", "/var/tmp", "/run")):
+        sys.exit("What stands behind the walls sees none of the computer's /tmp, /var/tmp and /run: run this from a checkout elsewhere.")
     clone = Clone("helper" if set(names) <= set(HELPERS) else "code")
     note = ROOT / f"survivors-{'-'.join(given.rooms) or 'logic'}-{given.seed}.json"
     wanted = [tuple(entry) for entry in json.loads(note.read_text())] if given.again else None
