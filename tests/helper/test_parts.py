@@ -190,6 +190,19 @@ class Arguments(InAFolder):
             self.assertEqual(done.stdout, wanted + "\n", lines)
 
 
+class Environment(InAFolder):
+    @unittest.skipUnless(os.geteuid() == 0, "as nobody but root the helper ends before it calls a program")
+    def test_a_function_of_the_callers_is_never_called(self):
+        """Bash takes functions from the environment; one that has a program's name would run as root in its place."""
+        seen = self.path("seen")
+        environment = {"PATH": os.environ["PATH"], "BASH_FUNC_uname%%": f"() {{ echo x >>{seen}; command uname \"$@\"; }}"}
+        subprocess.run(["/bin/bash", "-c", "uname"], env=environment, check=True, capture_output=True, timeout=60)
+        self.assertEqual(self.text("seen"), "x\n")
+        done = subprocess.run(["/bin/bash", HELPER, "no-verb"], env=environment, capture_output=True, text=True, check=False, timeout=60)
+        self.assertEqual((done.returncode, done.stderr), (1, "ERROR: The helper was not given a verb that it knows.\n"))
+        self.assertEqual(self.text("seen"), "x\n")
+
+
 class Numbers(unittest.TestCase):
     def test_user_ids(self):
         for text, good in {"0": True, "1": True, "4294967294": True, "4294967295": False, "9999999999": False, "01": False, "": False, "-1": False,
