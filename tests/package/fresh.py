@@ -16,6 +16,7 @@ machine cannot run it.
 import argparse
 import hashlib
 import os
+import resource
 import shlex
 import shutil
 import subprocess
@@ -104,11 +105,18 @@ class Stranger:
 
     def verb(self, *words: str, environment: dict[str, str] | None = None) -> None:
         heading(f"./build.sh {' '.join(words)} in {self.place}")
-        started = time.monotonic()
+        started, used = time.monotonic(), processor_time()
         status = self.run("./build.sh", *words, environment=environment)
         if status != 0:
             raise Failed(f"./build.sh {' '.join(words)} failed on a clean Debian (exit status {status}); its files are in {self.clone}")
-        print(f"fresh-test: ./build.sh {' '.join(words)} took {time.monotonic() - started:.0f} s", flush=True)
+        print(f"fresh-test: ./build.sh {' '.join(words)} took {time.monotonic() - started:.0f} s, "
+              f"{processor_time() - used:.0f} s of processor time", flush=True)
+
+
+def processor_time() -> float:
+    """Seconds that the programs which this one has run have used."""
+    usage = resource.getrusage(resource.RUSAGE_CHILDREN)
+    return usage.ru_utime + usage.ru_stime
 
 
 def remove(tree: Path) -> None:
