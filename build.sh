@@ -134,7 +134,7 @@ pack() {
 
 # The Debian package of the release build, checked by lintian; an error of its fails.
 package() {
-    deps
+    deps package
     # Times in the archive, and in the resources inside the programs, are the commit's: the same commit gives the same bytes
     # anywhere and on any day.
     SOURCE_DATE_EPOCH=$(source_date)
@@ -190,9 +190,15 @@ run)
     exec build/bin/veldmarkctl "$@"
     ;;
 demo)
+    root=()
+    if [[ $EUID -ne 0 ]]; then
+        command -v sudo >/dev/null || die "the demonstration's network is made by root and there is no sudo: run ./build.sh demo as root"
+        sudo -v 2>/dev/null || die "the demonstration's network is made by root and sudo refused: run sudo ./build.sh demo"
+        root=(sudo)
+    fi
     deps programs
     compile dev programs veldmark-pictures
-    exec /usr/bin/python3 tests/lab/demo.py "$@"
+    exec ${root[@]+"${root[@]}"} /usr/bin/python3 tests/lab/demo.py "$@"
     ;;
 test)
     deps
@@ -237,10 +243,12 @@ tsan)
     ;;
 package) package ;;
 package-test)
+    deps
     package
     exec /usr/bin/python3 tests/package/test_debian.py build/veldmark_*.deb "$@"
     ;;
 machine-test)
+    deps
     package
     unpack nspawn usr/bin/systemd-nspawn systemd-container libsystemd-shared
     exec /usr/bin/python3 tests/machine/machine_test.py build/veldmark_*.deb "$@"
