@@ -131,7 +131,6 @@ def draw_windows() -> None:
 
 
 def main() -> int:
-    draw_windows()
     steps: list[str] = []
     try:
         heading("A private Tor network of real tor processes")
@@ -150,6 +149,7 @@ def main() -> int:
     except LabUnavailable as error:
         print(error, file=sys.stderr)
         return SKIPPED
+    draw_windows()
     heading("Everything went as it should." if not failures else f"{len(failures)} things did not go as they should:")
     for failure in failures:
         print(f"  {failure}")

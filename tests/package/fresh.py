@@ -36,6 +36,7 @@ PLACES = {"first": "/root/veldmark", "second": "/srv/a stranger/veld mark"}
 
 # Makes the tree $1 the root of new mount and process namespaces and runs the rest of the words in it, with the machine's own
 # network: the registry has to be reached. $2 and $3 are kept on this machine: fetched packages, and the compiler's cache.
+# A change of root alone would not do: whoever enters these namespaces, as the lab's commands do, finds himself in their first root.
 ENTER = r"""
 set -eu
 tree=$1 archives=$2 cache=$3
@@ -51,7 +52,10 @@ if [ -n "$cache" ]; then
     mkdir -p "$tree/root/.cache/ccache"
     mount --bind "$cache" "$tree/root/.cache/ccache"
 fi
-exec chroot "$tree" /usr/bin/env -i HOME=/root USER=root LOGNAME=root LANG=C.UTF-8 \
+cd "$tree"
+pivot_root . mnt
+umount --lazy /mnt
+exec /usr/bin/env -i HOME=/root USER=root LOGNAME=root LANG=C.UTF-8 \
     PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin "$@"
 """
 
