@@ -73,17 +73,18 @@ unpack_services() {
 # compile PRESET [TARGET...]: configures and compiles; a failure shows the reason, not the whole log.
 compile() {
     local preset=$1 log=build/$1.log target reason
-    local -a targets=() launcher=()
+    local -a targets=() options=()
     shift
     for target in "$@"; do targets+=(--target "$target"); done
     mkdir -p build 2>/dev/null || die "this folder cannot be written: copy the checkout to one of your own, or run this as its owner"
     (: >"$log") 2>/dev/null || die "build/ belongs to another user: remove it, or run this as that user"
-    # A compiler cache is used where there is one, also for what is compiled with precompiled headers.
-    export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros}
-    ! command -v ccache >/dev/null || launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+    # A compiler cache is used where there is one, also for what is compiled with precompiled headers, and from another checkout.
+    export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros} CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+    ! command -v ccache >/dev/null || options=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+    [[ -z ${VELDMARK_PLAIN:-} ]] || options+=(-DVELDMARK_PRECOMPILE=OFF)
     # Presets are read only when they are asked for: again after a change of them.
     if [[ ! -f build/$preset/build.ninja || CMakePresets.json -nt build/$preset/configured ]]; then
-        busy "Configuring" "$log" cmake --preset "$preset" ${launcher[@]+"${launcher[@]}"} || {
+        busy "Configuring" "$log" cmake --preset "$preset" ${options[@]+"${options[@]}"} || {
             reason=$(explain_failure "$log")
             [[ -z $reason ]] || die "$reason"
             grep -m 1 -A 3 'CMake Error' "$log" >&2 || true
@@ -154,8 +155,8 @@ package() {
 
 build_archive() {
     cd "$1" || return
-    export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
-    "${@:2}" ./build.sh package
+    # Each source alone, so that none is without a header that it uses.
+    VELDMARK_PLAIN=1 "${@:2}" ./build.sh package
 }
 
 # Sources of the last commit, and a build of exactly these where there is no network.
