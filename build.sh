@@ -17,6 +17,8 @@ usage: ./build.sh VERB
   asan     the unit tests under the address and undefined-behaviour sanitizers
   tsan     the tests whose work crosses threads, under the thread sanitizer
   coverage which lines of src/ the unit tests run
+  mutate   small mistakes put into a clone of the last commit, one at a time, and which of them no test notices
+           (./build.sh mutate [ROOM...] [--count N] [--seed S]; rooms are also qml, helper and helper_mac)
   fuzz     the fuzzers, an hour over all (--minutes M for another time)
   soak     500 connects and disconnects, and two hours of a fast clock, in the private Tor network
   bench    print the benchmarks
@@ -111,10 +113,10 @@ test_targets() {
     for name in "$@"; do
         if [[ -d tests/unit/$name ]]; then
             printf 'test-%s\n' "$name"
-        elif [[ $name =~ ^(house|helper|helper_mac|lab|ui|package|fuzz)$ ]]; then
+        elif [[ $name =~ ^(house|helper|helper_mac|lab|ui|package|mutate|fuzz)$ ]]; then
             printf 'suite-%s\n' "$name"
         else
-            die "there are no tests of '$name'; rooms: $(cd tests/unit && echo *); suites: house helper helper_mac lab ui package fuzz"
+            die "there are no tests of '$name'; rooms: $(cd tests/unit && echo *); suites: house helper helper_mac lab ui package mutate fuzz"
         fi
     done
 }
@@ -265,6 +267,11 @@ fuzz)
     compile dev programs
     compile fuzz fuzzers
     exec /usr/bin/python3 fuzz/run.py "$@"
+    ;;
+mutate)
+    deps
+    unpack_services
+    exec nice /usr/bin/python3 tests/mutate/run.py "$@"
     ;;
 soak)
     deps
