@@ -22,6 +22,7 @@ linux_connect() {
   trap finish EXIT
   spare_others
   check_firewall
+  note_others
   ready_account
   check_ports
   ready_folders
@@ -113,7 +114,7 @@ undo_session() {
     # The desktop's settings, the service and the group are not the network: they are tried again by the next run.
     [[ $status != 1 || $name == "$GNOME_ENTRY" || $name == "$KDE_ENTRY" || $name == "$SERVICE_ENTRY" || $name == "$EXEMPT_ENTRY" ]] || open=''
   done
-  [[ -z $open ]] || rm -f -- "$MARKER" "$OWNER" "$RULES" "$LISTED"
+  [[ -z $open ]] || rm -f -- "$MARKER" "$OWNER" "$RULES" "$LISTED" "$OTHERS_NOTE"
   rm -f -- "$MARKER.new" "$OWNER.new" "$RULES.new" "$LISTED.new" "$WATCHER" "$WATCHER.new" "$KILL_SWITCH_NOTE" "$KILL_SWITCH_NOTE.new" "$STATE/relocked" "$TORRC.checked" "$JOURNAL"/*.new
   [[ -z $open || ! -e $MARKER ]] || reason=${reason:-"The network is open again, but the session marker cannot be removed from $STATE."}
   [[ -n $reason || -z $(compgen -G "$JOURNAL/*") ]] || reason="The network is open again, but the journal in $JOURNAL cannot be cleared."
