@@ -206,9 +206,14 @@ class Machine:
         """The helper starts it and does not wait until it listens."""
         self.shell("until pgrep -xf 'nft monitor' >/dev/null; do sleep 0.01; done")
 
+    def watchers(self):
+        """Their process ids. What one is just starting bears its name as well, in its session."""
+        lines = [line.split(None, 2) for line in self.shell("ps -eo pid=,sid=,args=").splitlines()]
+        return [int(pid) for pid, session, words in lines if pid == session and words.startswith("/bin/bash -p -- ") and words.endswith("/watcher.sh")]
+
     def end_watcher(self):
         """As a restart of the computer ends it."""
-        self.shell("pid=$(pgrep -f /watcher[.]sh); kill -9 $pid; while [ -e /proc/$pid ] || pgrep -x nft; do :; done")
+        self.shell("kill -9 $(pgrep -f /watcher[.]sh); while pgrep -f '/watcher[.]sh|nft [m]onitor' || pgrep -x nft; do :; done")
 
     def processes(self):
         """The command lines of what runs in the machine, sorted; not the dead that nobody has waited for, nor the
@@ -221,7 +226,7 @@ class Machine:
                     continue
                 with open(f"/proc/{pid}/cmdline", "rb") as file:
                     line = file.read().replace(b"\0", b" ").decode(errors="replace")
-                if line and not line.startswith(("nft -s list table ", "setpriv --pdeathsig KILL nft ", "flock -w 10 7 ")):
+                if line and not line.startswith(("nft -s list table ", "setpriv --pdeathsig KILL sh -c [ ", "sh -c [ \"$PPID\" ", "flock -w 10 7 ")):
                     lines.append(line.replace("\n", " ") + "\n")
             except OSError:
                 pass
