@@ -193,15 +193,15 @@ run)
     exec build/bin/veldmarkctl "$@"
     ;;
 demo)
-    root=()
     if [[ $EUID -ne 0 ]]; then
         command -v sudo >/dev/null || die "the demonstration's network is made by root and there is no sudo: run ./build.sh demo as root"
         sudo -v 2>/dev/null || die "the demonstration's network is made by root and sudo refused: run sudo ./build.sh demo"
-        root=(sudo)
     fi
     deps programs
     compile dev programs veldmark-pictures
-    exec ${root[@]+"${root[@]}"} /usr/bin/python3 tests/lab/demo.py "$@"
+    [[ $EUID -ne 0 ]] || exec /usr/bin/python3 tests/lab/demo.py
+    sudo /usr/bin/python3 tests/lab/demo.py network
+    exec /usr/bin/python3 tests/lab/demo.py pictures
     ;;
 test)
     deps

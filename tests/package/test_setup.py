@@ -154,6 +154,14 @@ class Compiling(Case):
         self.machine.run("rm -f /usr/bin/sudo /usr/local/bin/sudo")
         self.refused("demo", r"the demonstration's network is made by root and there is no sudo: run \./build\.sh demo as root", user="alice")
 
+    def test_a_demonstration_is_root_for_its_network_alone(self):
+        self.machine.own("alice")
+        self.machine.run("echo 'alice ALL=(ALL) NOPASSWD: ALL' >/etc/sudoers.d/alice")
+        self.machine.run(f"cd {QUOTED} && mkdir -p tests/lab && echo 'import os, sys; print(os.getuid(), *sys.argv[1:])' >tests/lab/demo.py")
+        self.assertRegex(self.works("demo", "alice"), r"\n0 network\n4242 pictures\n\Z")
+        self.assertTrue(self.compiled())
+        self.assertEqual(self.machine.path(f"{CHECKOUT}/build/dev/tool").stat().st_uid, 4242)
+
     def test_a_repository_that_git_finds_dubious(self):
         self.machine.run(f"cd {QUOTED} && git init --quiet && git add . && GIT_COMMITTER_DATE='2020-02-02T02:02:02Z' "
                          "git -c user.name=x -c user.email=x@example.test commit --quiet -m x")
