@@ -146,6 +146,19 @@ class Fresh(unittest.TestCase):
         put(self.base / "no-clock", "")
         self.fails("package", line="the second system's clock did not take tomorrow's time")
 
+    def test_a_run_goes_on_where_another_failed_with_what_was_committed_since(self):
+        self.fails("--again", "test", line="there is no run that failed; leave out --again")
+        self.commit("a-skip")
+        self.fails("test", line=r"\./build\.sh test failed")
+        kept = self.project / "build/fresh/first/root/veldmark/build/kept"
+        put(kept, "")
+        (self.project / "a-skip").unlink()
+        self.commit()
+        put(self.project / "build.sh", BUILD.replace("need beta", "need beta\n    [[ -e build/kept ]]"))
+        self.commit()
+        self.assertEqual(self.fresh("--again", "test").returncode, 0)
+        self.assertFalse(kept.exists())
+
     def test_only_what_is_committed_is_tried(self):
         put(self.project / "a-skip", "")
         result = self.fresh("test")
