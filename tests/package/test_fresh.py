@@ -194,7 +194,9 @@ class Skipped(unittest.TestCase):
         whole = '<testcase name="lab/x"><skipped message="x"/><system-out>skipped: no network here</system-out></testcase>'
         part = '<testcase name="unit/x"><system-out>SKIP   : XTest::slot() no tor here\nPASS   : XTest::other()</system-out></testcase>'
         self.assertEqual(self.judge(ran, True), (0, ""))
-        for case, reason in ((whole, "no network here"), (part, "no tor here")):
+        python = '<testcase name="lab/y"><system-out>....s\nRan 5 tests in 2.000s\n\nOK (skipped=1)</system-out></testcase>'
+        broken = '<testcase name="lab/y"><failure/><system-out>Ran 5 tests in 2.0s\n\nFAILED (failures=1, skipped=2)</system-out></testcase>'
+        for case, reason in ((whole, "no network here"), (part, "no tor here"), (python, "1 of its cases"), (broken, "2 of its cases")):
             for forbidden in (False, True):
                 status, output = self.judge(case, forbidden)
                 self.assertEqual(status, 1 if forbidden else 0, output)
