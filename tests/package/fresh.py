@@ -1,12 +1,13 @@
 #!/usr/bin/python3
 """The README's commands as a stranger runs them: from a clone of the last commit, on a Debian 12 with nothing installed.
 
-usage: fresh.py [--short] [--without PACKAGE] [--cold] [VERB...]
+usage: fresh.py [--short] [--without PACKAGE] [--cold] [--again] [VERB...]
 
 VERB       demo, test, package (all three when none is named); "test" with further words: "test controller"
 --short    leaves out the tests that take minutes and need no program that the others do not
 --without  takes a package out of the clone's list first, to see that this notices
 --cold     compiles everything, without the compiler cache of this machine
+--again    goes on in the first system as a failed run has left it, with what has been committed since: to mend what failed, no proof
 
 The package is made twice, in two such systems, in folders of other names and a day apart, and has to have the same bytes; that
 is compiled without a cache. A skipped test fails. Exit status 0 when everything went as it should, 1 with one line when something
@@ -103,17 +104,23 @@ def compiler_cache() -> str:
 class Stranger:
     """A minimal Debian of its own with a clone of the last commit at `place`."""
 
-    def __init__(self, name: str, base: Path, cache: str):
+    def __init__(self, name: str, base: Path, cache: str, again: bool = False):
         self.name, self.place, self.cache = name, PLACES[name], cache
         self.tree = WORK / name
         self.archives = KEPT / "archives"
         (self.archives / "partial").mkdir(parents=True, exist_ok=True)
         WORK.mkdir(parents=True, exist_ok=True)
+        self.clone = self.tree / self.place.lstrip("/")
+        if again:
+            if not (self.clone / ".git").exists():
+                raise Failed("there is no run that failed; leave out --again")
+            for words in (("fetch", "--quiet", PROJECT, "HEAD"), ("reset", "--quiet", "--hard", "FETCH_HEAD")):
+                subprocess.run(["git", "-C", self.clone, *words], check=True)
+            return
         remove(self.tree)
         subprocess.run(["cp", "-a", "--reflink=auto", base, self.tree], check=True)
         for file in ("resolv.conf", "hosts"):
             shutil.copy(f"/etc/{file}", self.tree / "etc" / file)
-        self.clone = self.tree / self.place.lstrip("/")
         self.clone.parent.mkdir(parents=True, exist_ok=True)
         own_git("clone", "--quiet", "--no-hardlinks", str(PROJECT), str(self.clone))
 
@@ -207,7 +214,7 @@ def verify(arguments: argparse.Namespace) -> None:
     step.end()
     if own_git("status", "--porcelain"):
         print("fresh-test: what is not committed is not in the clone.", flush=True)
-    stranger = Stranger("first", base, "" if arguments.cold else compiler_cache())
+    stranger = Stranger("first", base, "" if arguments.cold else compiler_cache(), arguments.again)
     if arguments.without:
         without(stranger, arguments.without)
     strict = {"VELDMARK_NO_SKIPS": "1"}
@@ -223,10 +230,11 @@ def verify(arguments: argparse.Namespace) -> None:
 
 
 def main() -> int:
-    parser = argparse.ArgumentParser(usage="./build.sh fresh-test [--short] [--without PACKAGE] [--cold] [VERB...]")
+    parser = argparse.ArgumentParser(usage="./build.sh fresh-test [--short] [--without PACKAGE] [--cold] [--again] [VERB...]")
     parser.add_argument("--short", action="store_true")
     parser.add_argument("--without", metavar="PACKAGE")
     parser.add_argument("--cold", action="store_true")
+    parser.add_argument("--again", action="store_true")
     parser.add_argument("verbs", nargs="*")
     started = time.monotonic()
     try:

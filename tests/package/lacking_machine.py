@@ -57,6 +57,10 @@ cmake_minimum_required(VERSION 3.25)
 project(Stranger VERSION 1.0 LANGUAGES CXX DESCRIPTION "one small program")
 add_executable(tool main.cpp)
 add_custom_target(programs DEPENDS tool)
+add_custom_target(veldmark-pictures)
+enable_testing()
+add_custom_target(suite-house)
+add_test(NAME house/wordy COMMAND sh -c "seq 5000; echo 'SKIP   : Wordy::last() no such thing here'")
 install(TARGETS tool RUNTIME DESTINATION bin)
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME veldmark)
@@ -66,7 +70,8 @@ include(CPack)
 """
 PRESETS = """{"version": 6, "configurePresets": [
   {"name": "dev", "generator": "Ninja", "binaryDir": "${sourceDir}/build/${presetName}"},
-  {"name": "release", "generator": "Ninja", "binaryDir": "${sourceDir}/build/${presetName}"}]}
+  {"name": "release", "generator": "Ninja", "binaryDir": "${sourceDir}/build/${presetName}"}],
+  "testPresets": [{"name": "dev", "configurePreset": "dev"}]}
 """
 # Four megabytes that no compiler makes smaller.
 MAIN = "import random; random.seed(1); print('unsigned char filler[] = {%s};' % ','.join(str(random.randrange(256)) for _ in range(1 << 20)))"
@@ -134,6 +139,7 @@ class LackingMachine(contextlib.AbstractContextManager):
     def _checkout(self) -> None:
         folder = self.path(CHECKOUT)
         (folder / "tools").mkdir(parents=True)
+        (folder / "tests").mkdir()
         shutil.copy(PROJECT / "build.sh", folder)
         for file in (PROJECT / "tools").glob("*.sh"):
             shutil.copy(file, folder / "tools")

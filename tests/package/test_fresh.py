@@ -146,6 +146,19 @@ class Fresh(unittest.TestCase):
         put(self.base / "no-clock", "")
         self.fails("package", line="the second system's clock did not take tomorrow's time")
 
+    def test_a_run_goes_on_where_another_failed_with_what_was_committed_since(self):
+        self.fails("--again", "test", line="there is no run that failed; leave out --again")
+        self.commit("a-skip")
+        self.fails("test", line=r"\./build\.sh test failed")
+        kept = self.project / "build/fresh/first/root/veldmark/build/kept"
+        put(kept, "")
+        (self.project / "a-skip").unlink()
+        self.commit()
+        put(self.project / "build.sh", BUILD.replace("need beta", "need beta\n    [[ -e build/kept ]]"))
+        self.commit()
+        self.assertEqual(self.fresh("--again", "test").returncode, 0)
+        self.assertFalse(kept.exists())
+
     def test_only_what_is_committed_is_tried(self):
         put(self.project / "a-skip", "")
         result = self.fresh("test")
@@ -181,7 +194,9 @@ class Skipped(unittest.TestCase):
         whole = '<testcase name="lab/x"><skipped message="x"/><system-out>skipped: no network here</system-out></testcase>'
         part = '<testcase name="unit/x"><system-out>SKIP   : XTest::slot() no tor here\nPASS   : XTest::other()</system-out></testcase>'
         self.assertEqual(self.judge(ran, True), (0, ""))
-        for case, reason in ((whole, "no network here"), (part, "no tor here")):
+        python = '<testcase name="lab/y"><system-out>....s\nRan 5 tests in 2.000s\n\nOK (skipped=1)</system-out></testcase>'
+        broken = '<testcase name="lab/y"><failure/><system-out>Ran 5 tests in 2.0s\n\nFAILED (failures=1, skipped=2)</system-out></testcase>'
+        for case, reason in ((whole, "no network here"), (part, "no tor here"), (python, "1 of its cases"), (broken, "2 of its cases")):
             for forbidden in (False, True):
                 status, output = self.judge(case, forbidden)
                 self.assertEqual(status, 1 if forbidden else 0, output)

@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 """./build.sh on a machine that lacks something ends in one line that says what to do, and a second run goes on where it stopped."""
 
+import shutil
 import sys
 import unittest
 from pathlib import Path
@@ -8,7 +9,7 @@ from pathlib import Path
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
-from lacking_machine import CHECKOUT, PACKAGE, LackingMachine, require  # noqa: E402
+from lacking_machine import CHECKOUT, PACKAGE, PROJECT, LackingMachine, require  # noqa: E402
 
 QUOTED = f"'{CHECKOUT}'"
 
@@ -153,6 +154,22 @@ class Compiling(Case):
         self.assertFalse(self.compiled())   # it is said at once
         self.machine.run("rm -f /usr/bin/sudo /usr/local/bin/sudo")
         self.refused("demo", r"the demonstration's network is made by root and there is no sudo: run \./build\.sh demo as root", user="alice")
+
+    def test_a_demonstration_is_root_for_its_network_alone(self):
+        self.machine.own("alice")
+        self.machine.run("echo 'alice ALL=(ALL) NOPASSWD: ALL' >/etc/sudoers.d/alice")
+        self.machine.run(f"cd {QUOTED} && mkdir -p tests/lab && echo 'import os, sys; print(os.getuid(), *sys.argv[1:])' >tests/lab/demo.py")
+        self.assertRegex(self.works("demo", "alice"), r"\n0 network\n4242 pictures\n\Z")
+        self.assertTrue(self.compiled())
+        self.assertEqual(self.machine.path(f"{CHECKOUT}/build/dev/tool").stat().st_uid, 4242)
+
+    def test_a_skip_is_told_however_much_its_test_says(self):
+        # What the tests would fetch is there.
+        for place in ("resolved/lib/systemd/systemd-resolved", "sshd/usr/sbin/sshd", "gnustep/usr/include/GNUstep/AppKit/AppKit.h"):
+            self.machine.run(f"install -D /dev/null {QUOTED}/build/{place}")
+        shutil.copy(PROJECT / "tests/skipped.py", self.machine.path(CHECKOUT) / "tests/skipped.py")
+        self.assertIn("skipped house/wordy Wordy::last: no such thing here\n", self.works("test house"))
+        self.assertEqual(self.machine.build("test house", variables="VELDMARK_NO_SKIPS=1").returncode, 1)
 
     def test_a_repository_that_git_finds_dubious(self):
         self.machine.run(f"cd {QUOTED} && git init --quiet && git add . && GIT_COMMITTER_DATE='2020-02-02T02:02:02Z' "
