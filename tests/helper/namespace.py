@@ -188,6 +188,11 @@ class Machine:
         """Runs the installed copy as sudo does by the rule."""
         return self.run("/bin/bash", INSTALLED, *arguments, env={"PATH": os.environ["PATH"], "SUDO_UID": str(uid)}, **options)
 
+    def approve(self, path, role="tor", **options):
+        """Approves a program as the prompt does that names it."""
+        digest = self.run("sha256sum", path).stdout.split()[0].lstrip("\\")
+        return self.help("approve", "--program", path, "--as", role, "--sha256", digest, **options)
+
     def connect(self, strict=1, lan=0, more=(), **options):
         return self.help("connect", "--tor", TOR, "--hash", HASH, "--strict", str(strict), "--lan", str(lan), *more,
                          **options)
