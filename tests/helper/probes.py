@@ -8,6 +8,7 @@
 A probe is known by its destination: every probe has an address or a port of its own.
 """
 
+import functools
 import select
 import socket
 import struct
@@ -60,9 +61,14 @@ def is6(address):
     return ":" in address
 
 
-def send_probe(kind, address, port):
+@functools.cache
+def target_of(address, port):
     family = socket.AF_INET6 if is6(address) else socket.AF_INET
-    target = socket.getaddrinfo(address, port, family, socket.SOCK_DGRAM)[0][4]
+    return family, socket.getaddrinfo(address, port, family, socket.SOCK_DGRAM)[0][4]
+
+
+def send_probe(kind, address, port):
+    family, target = target_of(address, port)
     if kind == "tcp":
         with socket.socket(family, socket.SOCK_STREAM) as probe:
             probe.setblocking(False)

@@ -83,7 +83,7 @@ class Wire:
         """Sends what is let through in every state, a connection attempt of Tor's account, and returns the lines of
         the listener up to its arrival: packets of one link keep their order."""
         self.marks += 1
-        self.machine.run(*ONE_PROCESSOR, "/usr/bin/python3", "-c",
+        self.machine.run(*ONE_PROCESSOR, "/usr/bin/python3", "-I", "-S", "-c",
                          f"import socket; s = socket.socket(); s.setblocking(False); s.connect_ex(('{probes.SENTINEL}', {self.marks}))",
                          uid=int(self.machine.tor_uid))
         return self.wait_for(lambda line: line == f"sentinel {self.marks}")[:-1]
