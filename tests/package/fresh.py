@@ -4,7 +4,7 @@
 usage: fresh.py [--short] [--without PACKAGE] [--cold] [--again] [VERB...]
 
 VERB       demo, test, package (all three when none is named); "test" with further words: "test controller"
---short    leaves out the tests that take minutes and need no program that the others do not
+--short    leaves out tests that take minutes and need no program that the others do not
 --without  takes a package out of the clone's list first, to see that this notices
 --cold     compiles everything, without the compiler cache of this machine
 --again    goes on in the first system as a failed run has left it, with what has been committed since: to mend what failed, no proof
@@ -37,6 +37,7 @@ PROJECT = Path(__file__).resolve().parents[2]
 WORK = PROJECT / "build" / "fresh"
 KEPT = Path(os.environ.get("XDG_CACHE_HOME") or Path.home() / ".cache") / "veldmark-fresh"
 VERBS = ("demo", "test", "package")
+SHORT = ("-LE", "^long$", "-E", "^(lab/(trouble|sessions|leakcheck)|helper/(kill-.*|trouble|cycles)|ui/(Buttons|WindowsFit-.*))$")
 PLACES = {"first": "/root/veldmark", "second": "/srv/a stranger/veld mark"}
 
 # Makes the tree $1 the root of new mount and process namespaces and runs the rest of the words in it, with the machine's own
@@ -225,7 +226,7 @@ def verify(arguments: argparse.Namespace) -> None:
         if verb == "package":
             same_package(stranger, base)
         else:
-            further = ("-LE", "^long$") if verb == "test" and arguments.short else ()
+            further = SHORT if verb == "test" and arguments.short else ()
             stranger.verb(verb, *further, environment=strict if verb == "test" else None)
 
 

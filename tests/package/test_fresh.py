@@ -2,6 +2,7 @@
 """fresh-test notices what it is there for. The Debian, its apt and the project are small stand-ins; fresh.py is the real one."""
 
 import os
+import re
 import shutil
 import subprocess
 import sys
@@ -167,7 +168,12 @@ class Fresh(unittest.TestCase):
 
     def test_the_short_run_leaves_out_the_long_tests_and_nothing_else(self):
         verbs = [line.split(" in ")[0] for line in self.fresh("--short").stdout.splitlines() if line.startswith("verb ")]
-        self.assertEqual(verbs, ["verb demo", "verb test -LE ^long$", "verb package", "verb package"])
+        self.assertEqual([verb.split(" -E ")[0] for verb in verbs], ["verb demo", "verb test -LE ^long$", "verb package", "verb package"])
+        known = "".join((HERE.parent / suite / "CMakeLists.txt").read_text() for suite in ("lab", "helper", "ui"))
+        left_out = re.findall(r"[A-Za-z]+", verbs[1].split(" -E ")[1].replace("kill-.*", "kill"))
+        self.assertIn("sessions", left_out)
+        for word in left_out:
+            self.assertIn(word, known + "lab helper ui", f"no test is called {word} any more")
 
     def test_where_it_cannot_run_it_says_so(self):
         shutil.rmtree(self.base)
