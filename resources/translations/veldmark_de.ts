@@ -334,6 +334,10 @@
         <translation>Keine andere dem Namen nach bekannte Firewall läuft. Die Regeln selbst kennt nur root.</translation>
     </message>
     <message>
+        <source>Another firewall on this computer denies what goes out unless one of its rules allows it, so Tor may not get through: %1.</source>
+        <translation>Eine andere Firewall auf diesem Computer verwehrt ausgehende Verbindungen, die keine ihrer Regeln erlaubt; Tor kommt womöglich nicht durch: %1.</translation>
+    </message>
+    <message>
         <source>Other programs set firewall rules here: %1. Veldmark leaves their rules alone. Rules that drop packets can block Tor.</source>
         <translation>Andere Programme setzen hier Firewall-Regeln: %1. Veldmark lässt ihre Regeln in Ruhe. Regeln, die Pakete verwerfen, können Tor sperren.</translation>
     </message>
@@ -1189,8 +1193,12 @@
         <translation>Tor hat die Verbindung nicht innerhalb von 5 Minuten aufgebaut.</translation>
     </message>
     <message>
-        <source>Administrator access was refused.</source>
-        <translation>Der Administratorzugriff wurde verweigert.</translation>
+        <source>Administrator access was refused, or the agent that asks for the password gave no answer.</source>
+        <translation>Der Administratorzugriff wurde verweigert, oder der Agent, der nach dem Passwort fragt, gab keine Antwort.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, so Tor can&apos;t connect: %1.</source>
+        <translation>Eine andere Firewall auf diesem Computer verwehrt ausgehende Verbindungen, daher kann Tor sich nicht verbinden: %1.</translation>
     </message>
     <message>
         <source>Setup ran but the helper wasn&apos;t installed. Try again.</source>

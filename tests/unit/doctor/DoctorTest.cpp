@@ -82,6 +82,20 @@ const std::vector<Case> &cases()
          Level::note, "here: firewalld, Docker.", "sudo nft list ruleset"},
         {"ufw that is on", [](TestMachine &m) { m.write("/etc/ufw/ufw.conf", "# comment\nENABLED=yes\nLOGLEVEL=low\n"); }, "firewalls", Level::note,
          "here: ufw.", "sudo nft list ruleset"},
+        {"ufw that denies what goes out", [](TestMachine &m) {
+             m.write("/etc/ufw/ufw.conf", "ENABLED=yes\n");
+             m.write("/etc/default/ufw", "DEFAULT_INPUT_POLICY=\"DROP\"\nDEFAULT_OUTPUT_POLICY=\"DROP\"\n");
+         }, "firewalls", Level::unknown, "so Tor may not get through: ufw.", "sudo ufw default allow outgoing"},
+        {"what the helper has found of others", [](TestMachine &m) {
+             m.write("/var/lib/veldmark/state/active", "strict\n");
+             m.write("/run/veldmark.others", "firewalld\ntable ip filter\n\x1b[2J\n");
+         }, "firewalls", Level::unknown, "so Tor may not get through: firewalld, table ip filter.", "sudo nft list ruleset"},
+        {"what it found in a session that is over", [](TestMachine &m) { m.write("/run/veldmark.others", "firewalld\n"); }, "firewalls",
+         Level::good, "No other firewall", {}},
+        {"ufw that lets out", [](TestMachine &m) {
+             m.write("/etc/ufw/ufw.conf", "ENABLED=yes\n");
+             m.write("/etc/default/ufw", "DEFAULT_INPUT_POLICY=\"DROP\"\n#DEFAULT_OUTPUT_POLICY=\"DROP\"\nDEFAULT_OUTPUT_POLICY=\"ACCEPT\"\n");
+         }, "firewalls", Level::note, "here: ufw.", "sudo nft list ruleset"},
         {"ufw that is off", [](TestMachine &m) { m.write("/etc/ufw/ufw.conf", "#ENABLED=yes\nENABLED=no\n"); }, "firewalls", Level::good,
          "No other firewall that is known by name", nullptr},
         {"rules that are loaded at boot", [](TestMachine &m) { m.write("/etc/systemd/system/sysinit.target.wants/nftables.service", ""); },
