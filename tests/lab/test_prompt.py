@@ -209,6 +209,16 @@ class Prompt(unittest.TestCase):
                 self.assertEqual((asked[0]["action"], status), (f"org.veldmark.helper.{verb}", 126))
                 self.assertTrue(asked[0]["message"].startswith("Veldmark needs administrator access to "))
 
+    def test_the_prompt_shows_what_is_approved(self):
+        digest = "0123456789abcdef" * 4
+        for words, shown in ((["approve", "--program", "/home/alice/my tor", "--as", "tor", "--sha256", digest], ("/home/alice/my tor", digest)),
+                             (["launch", "--uid", "4242", "--app", "/usr/bin/some-app"], ("/usr/bin/some-app",))):
+            with self.subTest(words[0]):
+                asked, status = self.ask(HELPER, *words)
+                self.assertEqual(status, 126)
+                for part in shown:
+                    self.assertIn(part, asked[0]["message"])
+
     def test_nothing_else_passes_for_the_helper(self):
         self.lab.host.write("/home/alice/veldmark-helper.sh", "#!/bin/sh\n", 0o755, self.lab.host.uid)
         self.lab.host.run(["ln", "-sf", HELPER, "/home/alice/link.sh"], user=self.lab.host.user, check=True)
