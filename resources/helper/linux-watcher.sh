@@ -12,8 +12,7 @@ readonly WATCH_SECONDS=3                  # a look without any word from the ker
 
 # rules_stand: whether the kernel holds our table as it was loaded.
 rules_stand() {
-  local now
-  now=$(nft -s list table inet "$TABLE") && [[ $now == "$(<"$LISTED")" ]]
+  read_listing "$TABLE" && [[ $LISTING == "$(<"$LISTED")" ]]
 }
 
 # relock: the rules again, unless a run of the helper has changed or opened them meanwhile. The same text gives the same
@@ -25,7 +24,7 @@ relock() {
   hold_rules || return 0
   if [[ $(read_marker) == strict ]] && ! rules_stand; then
     text=$(<"$RULES")
-    make_group || true   # the rules name it, and it may be gone
+    make_groups   # the rules name them, and they may be gone
     if nft -f - <<<"$text"; then
       [[ -z $LESSENED ]] || { note_listing && LESSENED=''; } || true
     elif nft -f - <<<"$(print_unexempt "$text")"; then
@@ -73,16 +72,17 @@ watch_rules() {
 
 print_watcher() {
   printf 'set -uo pipefail\numask 077\nPATH=%s\nLC_ALL=C\nexport PATH LC_ALL\ncd /\n' "$PATH"
-  declare -p TABLE RULES LISTED RULES_LOCK MARKER KILL_SWITCH_NOTE WATCH_SECONDS EXEMPT_NAME CGROUPS \
+  declare -p TABLE RULES LISTED RULES_LOCK MARKER KILL_SWITCH_NOTE WATCH_SECONDS EXEMPT_NAME RUN_GROUP TOR_GROUP CGROUPS \
     WORD MISSED SINCE NOTED
-  printf 'LESSENED= EXEMPT_FOLDER=\n'
-  declare -f read_marker put_in_place write_file note_rules hold_rules release_rules note_listing rules_stand find_exempt make_group \
+  printf 'LESSENED= LISTING= TREE=\n'
+  declare -f read_marker put_in_place write_file note_rules hold_rules release_rules note_listing rules_stand find_tree make_group make_groups read_listing \
     print_unexempt relock watch_rules
   printf 'watch_rules\n'
 }
 
 launch_watcher() {
   become_recorded "$WATCHER_ENTRY"
+  printf -- '-1000\n' >/proc/self/oom_score_adj || true   # the last to go where memory is short
   exec env -i --default-signal PATH="$PATH" LC_ALL=C setsid /bin/bash -p -- "$WATCHER"
 }
 
