@@ -100,7 +100,7 @@ linux_launch() {
   [[ $OPT_UID == "$CALLER_UID" ]] || die "Applications can be opened for the user who asks only."
   [[ $OPT_UID != 0 ]] || die "Applications are not opened as root."
   [[ $OPT_APP == /* ]] || die "The path given with --app is not absolute."
-  [[ -n $PROMPTED ]] || die "An administrator password is needed to open an application without Tor."
+  [[ -n $PROMPTED ]] || unapproved "An administrator password is needed to open an application without Tor."
   need_programs flock nft setpriv unshare mount stat timeout
   find_launcher || die "The program veldmark-launch is missing."
   take_lock

@@ -9,6 +9,8 @@ readonly RUN=$BASE/run            # 0755; Tor's configuration, data and logs
 readonly TOR_PLACE=$RUN/tor        # 0710, root and Tor's group: nobody else reaches what Tor's account leaves in
 readonly DATA=$TOR_PLACE/data     # 0700, Tor's account; kept between sessions so that entry guards are
 readonly PROGRAMS=$BASE/programs  # 0755; approved copies, SHA-256/NAME
+readonly ASKED=$BASE/asked        # 0600; what the running session was asked for
+readonly PROGRAM_PLACES='^/(usr|opt)/.'
 readonly LOCK=/run/veldmark.lock
 readonly LOCK_SECONDS=20
 readonly INSTALLED=/usr/local/libexec/veldmark
@@ -151,6 +153,22 @@ print_modes() { stat -c '%a %u %F' -- "$@"; }
 
 # real_path PATH: free of links; fails when it does not exist.
 real_path() { readlink -e -- "$1"; }
+
+# on_own_mount PATH: whether the file system that PATH, root's alone, lies on was mounted for programs of the system. What
+# users may mount (a medium on the desktop, FUSE, fstab's "user") is always without setuid programs.
+on_own_mount() {
+  local file key value id='' mount rest options kind
+  { exec {file}<"$1"; } || return 1
+  while read -r key value; do
+    [[ $key != mnt_id: ]] || id=$value
+  done <"/proc/self/fdinfo/$file"
+  exec {file}<&-
+  while read -r mount rest rest rest rest options rest; do
+    kind=${rest#*"- "}
+    [[ $mount != "$id" ]] || { [[ ,$options, != *,nosuid,* && $kind != fuse* ]] && return 0; return 1; }
+  done </proc/self/mountinfo
+  return 1
+}
 
 # print_sum: the SHA-256 of standard input.
 print_sum() { sha256sum; }

@@ -116,12 +116,13 @@ tor_listens() {
   return 1
 }
 
-# ready_logs: empties the log files; the session's user may read them.
+# ready_logs: empties the log files. Tor writes them by its group, the session's user alone may read them: the user's own
+# group may be everybody's.
 ready_logs() {
   rm -f -- "$NOTICES" "$START_OUT" "$LAUNCHER_OUT" &&
     : >"$NOTICES" && : >"$START_OUT" && : >"$LAUNCHER_OUT" &&
-    chown -- "$TOR_UID:$CALLER_GID" "$NOTICES" "$START_OUT" "$LAUNCHER_OUT" &&
-    chmod 0640 -- "$NOTICES" "$START_OUT" "$LAUNCHER_OUT"
+    chown -- "$CALLER_UID:$TOR_GID" "$NOTICES" "$START_OUT" "$LAUNCHER_OUT" &&
+    chmod 0460 -- "$NOTICES" "$START_OUT" "$LAUNCHER_OUT"
 }
 
 tor_failure() {

@@ -47,9 +47,13 @@ print_unexempt() {
   done <<<"$1"
 }
 
+# monitor_rules: becomes nft's monitor, which dies with the watcher, also one that has died before this could be arranged.
+# shellcheck disable=SC2016
+monitor_rules() { exec setpriv --pdeathsig KILL sh -c '[ "$PPID" != "$1" ] || exec nft monitor' monitor "$$"; }
+
 watch_rules() {
   local status many
-  exec 4< <(exec setpriv --pdeathsig KILL nft monitor)
+  exec 4< <(monitor_rules)
   while [[ $(read_marker) == strict ]]; do
     if rules_stand; then
       note_rules standing || true
@@ -65,7 +69,7 @@ watch_rules() {
       done
     elif ((status <= 128)); then
       sleep "$WATCH_SECONDS"   # the kernel tells nothing (any more): look on, and ask again
-      exec 4< <(exec setpriv --pdeathsig KILL nft monitor)
+      exec 4< <(monitor_rules)
     fi
   done
 }
@@ -76,7 +80,7 @@ print_watcher() {
     WORD MISSED SINCE NOTED
   printf 'LESSENED= LISTING= TREE=\n'
   declare -f read_marker put_in_place write_file note_rules hold_rules release_rules note_listing rules_stand find_tree make_group make_groups read_listing \
-    print_unexempt relock watch_rules
+    print_unexempt relock monitor_rules watch_rules
   printf 'watch_rules\n'
 }
 

@@ -193,6 +193,11 @@ class Machine:
         """Runs the installed copy as sudo does by the rule."""
         return self.run("/bin/bash", INSTALLED, *arguments, env={"PATH": os.environ["PATH"], "SUDO_UID": str(uid)}, **options)
 
+    def approve(self, path, role="tor", **options):
+        """Approves a program as the prompt does that names it."""
+        digest = self.run("sha256sum", path).stdout.split()[0].lstrip("\\")
+        return self.help("approve", "--program", path, "--as", role, "--sha256", digest, **options)
+
     def connect(self, strict=1, lan=0, more=(), **options):
         return self.help("connect", "--tor", TOR, "--hash", HASH, "--strict", str(strict), "--lan", str(lan), *more,
                          **options)
@@ -211,9 +216,14 @@ class Machine:
         """The helper starts it and does not wait until it listens."""
         self.shell("until pgrep -xf 'nft monitor' >/dev/null; do sleep 0.01; done")
 
+    def watchers(self):
+        """Their process ids. What one is just starting bears its name as well, in its session."""
+        lines = [line.split(None, 2) for line in self.shell("ps -eo pid=,sid=,args=").splitlines()]
+        return [int(pid) for pid, session, words in lines if pid == session and words.startswith("/bin/bash -p -- ") and words.endswith("/watcher.sh")]
+
     def end_watcher(self):
         """As a restart of the computer ends it."""
-        self.shell("pid=$(pgrep -f /watcher[.]sh); kill -9 $pid; while [ -e /proc/$pid ] || pgrep -x nft; do :; done")
+        self.shell("kill -9 $(pgrep -f /watcher[.]sh); while pgrep -f '/watcher[.]sh|nft [m]onitor' || pgrep -x nft; do :; done")
 
     def processes(self):
         """The command lines of what runs in the machine, sorted; not the dead that nobody has waited for, nor the
@@ -226,7 +236,7 @@ class Machine:
                     continue
                 with open(f"/proc/{pid}/cmdline", "rb") as file:
                     line = file.read().replace(b"\0", b" ").decode(errors="replace")
-                if line and not line.startswith(("nft -s -t list table ", "setpriv --pdeathsig KILL nft ", "flock -w 10 7 ")):
+                if line and not line.startswith(("nft -s -t list table ", "setpriv --pdeathsig KILL sh -c [ ", "sh -c [ \"$PPID\" ", "flock -w 10 7 ")):
                     lines.append(line.replace("\n", " ") + "\n")
             except OSError:
                 pass

@@ -30,7 +30,7 @@ class Privileged(HelperTest):
         done = self.sudo(INSTALLED, "connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0")
         self.assertEqual((done.returncode, done.stderr), (0, ""))
         self.assertEqual(len(self.machine.tor_pids()), 1)
-        self.assertEqual(self.machine.shell("stat -c %g /var/lib/veldmark/run/notices.log").strip(), str(USER_UID))
+        self.assertEqual(self.machine.shell("stat -c %u /var/lib/veldmark/run/notices.log").strip(), str(USER_UID))
         self.assertEqual(self.sudo(INSTALLED, "disconnect").returncode, 0)
         self.assertEqual(self.machine.tor_pids(), [])
 
@@ -73,7 +73,8 @@ class Privileged(HelperTest):
         """The real sudo: the same user, the same helper, another path."""
         self.install()
         self.machine.shell("install -o alice -m 0755 /usr/bin/tor /home/alice/tor; cp \"$1\" /usr/local/helper.sh", self.machine.helper)
-        words = ["connect", "--tor", "/home/alice/tor", "--hash", HASH, "--strict", "1", "--lan", "0"]
+        digest = self.machine.run("sha256sum", "/home/alice/tor").stdout.split()[0]
+        words = ["approve", "--program", "/home/alice/tor", "--as", "tor", "--sha256", digest]
         self.assertNotEqual(self.sudo("/bin/bash", "/usr/local/helper.sh", *words).returncode, 0)
         self.machine.shell("echo 'alice ALL=(root) NOPASSWD: /bin/bash /usr/local/helper.sh *' >/etc/sudoers.d/own; chmod 0440 /etc/sudoers.d/own")
         try:

@@ -47,6 +47,10 @@ class Session(HelperTest):
             path = "/var/lib/veldmark/run/" + name
             self.machine.run("cat", path, uid=namespace.USER_UID)
             self.assertNotEqual(self.machine.run("cat", path, uid=4243, check=False).returncode, 0)
+            # Neither may who shares the user's primary group, which on some systems is everybody.
+            self.machine.run("setpriv", "--reuid=4243", f"--regid={namespace.USER_UID}", "--clear-groups", "true")
+            self.assertNotEqual(self.machine.run("setpriv", "--reuid=4243", f"--regid={namespace.USER_UID}", "--clear-groups", "cat", path,
+                                                 check=False).returncode, 0)
         self.assertIn("opening new log file", self.machine.shell("cat /var/lib/veldmark/run/notices.log"))
 
     def test_tor_has_no_rights_and_no_descriptor_of_ours(self):

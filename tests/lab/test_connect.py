@@ -281,15 +281,15 @@ class WhenThingsGoWrong(LabCase):
         self.assert_restored()
 
     def test_a_tor_that_cannot_start_says_why(self):
-        self.lab.host.write("/usr/local/bin/broken-tor",
+        self.lab.host.write("/usr/local/broken/tor",
                             "#!/bin/sh\ncase \" $* \" in *hash-password*) exec /usr/bin/tor \"$@\";; esac\n"
                             "echo '[err] The clock says it is yesterday.'; exit 1\n", mode=0o755)
-        self.addCleanup(self.lab.host.run, ["rm", "-f", "/usr/local/bin/broken-tor"])
-        self.set("customTorPath", "/usr/local/bin/broken-tor")
+        self.addCleanup(self.lab.host.run, ["rm", "-f", "/usr/local/broken/tor"])
+        self.set("customTorPath", "/usr/local/broken/tor")
         with self.product.session() as session:
             self.assertEqual(session.process.wait(30), 1)
         self.assertIn("The clock says it is yesterday.", session.output)
-        self.lab.host.run(["rm", "-f", "/usr/local/bin/broken-tor"])
+        self.lab.host.run(["rm", "-f", "/usr/local/broken/tor"])
         self.assert_restored()
 
 

@@ -27,7 +27,7 @@ PROGRAMS = Path(os.environ.get("VELDMARK_PROGRAMS", PROJECT / "build" / "bin"))
 AGENT = Path(__file__).resolve().parent / "veldlab" / "polkit_agent.py"
 POLICY = PROJECT / "packaging" / "org.veldmark.helper.policy"
 HELPER = "/usr/share/veldmark/veldmark-helper.sh"
-VERBS = ("connect", "disconnect", "fix-dns", "launch", "install-privileged", "uninstall-privileged")
+VERBS = ("connect", "replace", "approve", "disconnect", "fix-dns", "launch", "install-privileged", "uninstall-privileged")
 NO_AGENT = ("veldmarkctl: Administrator access can't be asked for: no PolicyKit authentication agent is running in this "
             "session.\n")
 SKIPPED = 77
