@@ -2,6 +2,8 @@
 # ---- macOS: folders, lock, accounts ------------------------------------------------------------------------
 # Everything here and in the other parts keeps to the bash 3.2, the BSD tools and the perl that macOS has.
 
+readonly DNS_PORT=9053
+end_run() { :; }   # nothing of a run outlives it
 readonly BASE="/Library/Application Support/Veldmark"
 readonly STATE=$BASE/state        # 0755; holds the session marker
 readonly MARKER=$STATE/active     # 0644; "strict" or "proxy": the network is set up for Tor

@@ -138,7 +138,7 @@ linux_fix-dns() {
   ((status == 0)) || die "Veldmark is not connected, so the DNS settings were left alone."
   if [[ -f $RULES ]]; then
     hold_rules || die "Somebody else is changing the firewall. Try again in a moment."
-    make_group || true
+    make_groups
     load_rules "$(<"$RULES")"
     note_listing || die "The file $LISTED cannot be written."
     release_rules

@@ -1,6 +1,6 @@
 
 # ---- What connect and disconnect share on every system -----------------------------------------------------
-# The system's own part brings undo_session and MARKER.
+# The system's own part brings undo_session, end_run and MARKER.
 
 ON_FAILURE=''   # "undo" while a failure must put everything back; empty before the first change and where the
                 # kill switch stays closed
@@ -26,6 +26,7 @@ finish() {
       undo_session
     fi
   fi
+  end_run || true
   exit "$status"
 }
 

@@ -318,12 +318,12 @@
         <translation>nftables ist installiert, und der Kernel hat es.</translation>
     </message>
     <message>
-        <source>This system has no control groups of version 2, so no application can be opened without Tor. Everything else works.</source>
-        <translation>Dieses System hat keine Kontrollgruppen der Version 2, daher lässt sich keine Anwendung ohne Tor öffnen. Alles andere geht.</translation>
+        <source>This system has no control groups of version 2, so no application can be opened without Tor, and the kill switch knows Tor by its account alone. Everything else works.</source>
+        <translation>Dieses System hat keine Kontrollgruppen der Version 2, daher lässt sich keine Anwendung ohne Tor öffnen, und der Notschalter erkennt Tor allein an dessen Konto. Alles andere geht.</translation>
     </message>
     <message>
-        <source>The kernel (%1) is older than 5.13, so no application can be opened without Tor. Everything else works.</source>
-        <translation>Der Kernel (%1) ist älter als 5.13, daher lässt sich keine Anwendung ohne Tor öffnen. Alles andere geht.</translation>
+        <source>The kernel (%1) is older than 5.13, so no application can be opened without Tor, and the kill switch knows Tor by its account alone. Everything else works.</source>
+        <translation>Der Kernel (%1) ist älter als 5.13, daher lässt sich keine Anwendung ohne Tor öffnen, und der Notschalter erkennt Tor allein an dessen Konto. Alles andere geht.</translation>
     </message>
     <message>
         <source>Applications can be opened without Tor: control groups of version 2 are there.</source>
@@ -394,12 +394,12 @@
         <translation>Den Port %1, den Tor braucht, belegt %2 (Prozess %3, Konto %4).</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s own Tor holds the ports 9050, 9051 and 9053.</source>
-        <translation>Veldmarks eigenes Tor belegt die Ports 9050, 9051 und 9053.</translation>
+        <source>Veldmark&apos;s own Tor holds the ports 9050, 9051 and 293.</source>
+        <translation>Veldmarks eigenes Tor belegt die Ports 9050, 9051 und 293.</translation>
     </message>
     <message>
-        <source>The ports that Tor needs (9050, 9051 and 9053) are free.</source>
-        <translation>Die Ports, die Tor braucht (9050, 9051 und 9053), sind frei.</translation>
+        <source>The ports that Tor needs (9050, 9051 and 293) are free.</source>
+        <translation>Die Ports, die Tor braucht (9050, 9051 und 293), sind frei.</translation>
     </message>
     <message>
         <source>The location of Tor in the settings, %1, is no program that can run. The usual places are searched instead.</source>

@@ -95,14 +95,15 @@ Finding controlGroups(const Machine &machine)
         isThere |= line.contains(QLatin1String(" - cgroup2 ")) && line.section(u' ', 3, 3) == QLatin1String("/");
     if (!isThere)
         return {groupsName, Level::note,
-                QT_TRANSLATE_NOOP("Doctor", "This system has no control groups of version 2, so no application can be opened without Tor. "
-                                            "Everything else works."),
+                QT_TRANSLATE_NOOP("Doctor", "This system has no control groups of version 2, so no application can be opened without Tor, "
+                                            "and the kill switch knows Tor by its account alone. Everything else works."),
                 {}, {}};
     const QStringList version = kernel(machine).split(u'.');
     const int major = version.value(0).toInt(), minor = version.value(1).toInt();
     if (major > 0 && (major < 5 || (major == 5 && minor < 13)))
         return {groupsName, Level::note,
-                QT_TRANSLATE_NOOP("Doctor", "The kernel (%1) is older than 5.13, so no application can be opened without Tor. Everything else works."),
+                QT_TRANSLATE_NOOP("Doctor", "The kernel (%1) is older than 5.13, so no application can be opened without Tor, "
+                                            "and the kill switch knows Tor by its account alone. Everything else works."),
                 {kernel(machine)}, {}};
     return {groupsName, Level::good, QT_TRANSLATE_NOOP("Doctor", "Applications can be opened without Tor: control groups of version 2 are there."), {}, {}};
 }

@@ -60,8 +60,8 @@ class Trouble(HelperTest):
         # Tor's own data needs more room than the trouble is about.
         cls.machine.connect()
         cls.machine.help("disconnect")
-        cls.machine.shell(f"rm -rf {STATE}/run/data; mkdir /run/data; chown _veldmark: /run/data; chmod 700 /run/data; mkdir -m 700 {STATE}/run/data;"
-                          f"mount --bind /run/data {STATE}/run/data")
+        cls.machine.shell(f"rm -rf {STATE}/run/tor/data; mkdir /run/data; chown _veldmark: /run/data; chmod 700 /run/data; mkdir -m 700 {STATE}/run/tor/data;"
+                          f"mount --bind /run/data {STATE}/run/tor/data")
         cls.before = cls.machine.snapshot()
         cls.cells = 0
 
