@@ -40,7 +40,7 @@ PROJECT = HERE.parents[1]
 ROOT = PROJECT / "build" / "mutate"
 LOGIC = ("base", "platform", "system", "control", "bridges", "circuits", "checks", "log", "terminal", "doctor", "controller", "instance")
 # The helper's tests that touch a part; those of a part that is not here touch all.
-TOUCHED = {"core": "parts options privileged programs owner", "main": "options privileged owner programs",
+TOUCHED = {"core": "parts options privileged programs owner", "main": "parts options privileged owner programs",
            "session": "parts session watcher", "addresses": "texts firewall parts", "files": "parts session texts watcher programs", "linux-exempt": "launch firewall session",
            "linux-firewall": "rules texts firewall session watcher", "linux-owner": "owner", "linux-proxy": "proxy", "linux-resolved": "resolved",
            "linux-resolver": "session resolved texts", "linux-service": "service", "linux-session": "session watcher owner launch resolved",
