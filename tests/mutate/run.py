@@ -148,6 +148,10 @@ class Clone:
         if not (self.build / "build.ninja").exists():
             launcher = ["-DCMAKE_CXX_COMPILER_LAUNCHER=ccache"] if subprocess.run(["which", "ccache"], capture_output=True).returncode == 0 else []
             subprocess.run(["cmake", "--preset", "dev", *launcher], cwd=self.place, check=True, stdout=subprocess.DEVNULL)
+        # CTest is asked before anything is compiled, and must know this commit's tests.
+        status, said = self.compile(["build.ninja"])
+        if status:
+            sys.exit(said)
 
     @staticmethod
     def git(place, *words):
