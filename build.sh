@@ -17,6 +17,8 @@ usage: ./build.sh VERB
   asan     the unit tests under the address and undefined-behaviour sanitizers
   tsan     the tests whose work crosses threads, under the thread sanitizer
   coverage which lines of src/ the unit tests run
+  mutate   small mistakes put into a clone of the last commit, one at a time, and which of them no test notices
+           (./build.sh mutate [ROOM...] [--count N] [--seed S]; rooms are also qml, helper and helper_mac)
   fuzz     the fuzzers, an hour over all (--minutes M for another time)
   soak     500 connects and disconnects, and two hours of a fast clock, in the private Tor network
   bench    print the benchmarks
@@ -73,17 +75,18 @@ unpack_services() {
 # compile PRESET [TARGET...]: configures and compiles; a failure shows the reason, not the whole log.
 compile() {
     local preset=$1 log=build/$1.log target reason
-    local -a targets=() launcher=()
+    local -a targets=() options=()
     shift
     for target in "$@"; do targets+=(--target "$target"); done
     mkdir -p build 2>/dev/null || die "this folder cannot be written: copy the checkout to one of your own, or run this as its owner"
     (: >"$log") 2>/dev/null || die "build/ belongs to another user: remove it, or run this as that user"
-    # A compiler cache is used where there is one, also for what is compiled with precompiled headers.
-    export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros}
-    ! command -v ccache >/dev/null || launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+    # A compiler cache is used where there is one, also for what is compiled with precompiled headers, and from another checkout.
+    export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros} CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+    ! command -v ccache >/dev/null || options=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+    [[ -z ${VELDMARK_PLAIN:-} ]] || options+=(-DVELDMARK_PRECOMPILE=OFF)
     # Presets are read only when they are asked for: again after a change of them.
     if [[ ! -f build/$preset/build.ninja || CMakePresets.json -nt build/$preset/configured ]]; then
-        busy "Configuring" "$log" cmake --preset "$preset" ${launcher[@]+"${launcher[@]}"} || {
+        busy "Configuring" "$log" cmake --preset "$preset" ${options[@]+"${options[@]}"} || {
             reason=$(explain_failure "$log")
             [[ -z $reason ]] || die "$reason"
             grep -m 1 -A 3 'CMake Error' "$log" >&2 || true
@@ -110,10 +113,10 @@ test_targets() {
     for name in "$@"; do
         if [[ -d tests/unit/$name ]]; then
             printf 'test-%s\n' "$name"
-        elif [[ $name =~ ^(house|helper|helper_mac|lab|ui|package|fuzz)$ ]]; then
+        elif [[ $name =~ ^(house|helper|helper_mac|lab|ui|package|mutate|fuzz)$ ]]; then
             printf 'suite-%s\n' "$name"
         else
-            die "there are no tests of '$name'; rooms: $(cd tests/unit && echo *); suites: house helper helper_mac lab ui package fuzz"
+            die "there are no tests of '$name'; rooms: $(cd tests/unit && echo *); suites: house helper helper_mac lab ui package mutate fuzz"
         fi
     done
 }
@@ -134,7 +137,7 @@ pack() {
 
 # The Debian package of the release build, checked by lintian; an error of its fails.
 package() {
-    deps
+    deps package
     # Times in the archive, and in the resources inside the programs, are the commit's: the same commit gives the same bytes
     # anywhere and on any day.
     SOURCE_DATE_EPOCH=$(source_date)
@@ -154,8 +157,8 @@ package() {
 
 build_archive() {
     cd "$1" || return
-    export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
-    "${@:2}" ./build.sh package
+    # Each source alone, so that none is without a header that it uses.
+    VELDMARK_PLAIN=1 "${@:2}" ./build.sh package
 }
 
 # Sources of the last commit, and a build of exactly these where there is no network.
@@ -190,9 +193,15 @@ run)
     exec build/bin/veldmarkctl "$@"
     ;;
 demo)
+    if [[ $EUID -ne 0 ]]; then
+        command -v sudo >/dev/null || die "the demonstration's network is made by root and there is no sudo: run ./build.sh demo as root"
+        sudo -v 2>/dev/null || die "the demonstration's network is made by root and sudo refused: run sudo ./build.sh demo"
+    fi
     deps programs
     compile dev programs veldmark-pictures
-    exec /usr/bin/python3 tests/lab/demo.py "$@"
+    [[ $EUID -ne 0 ]] || exec /usr/bin/python3 tests/lab/demo.py
+    sudo /usr/bin/python3 tests/lab/demo.py network
+    exec /usr/bin/python3 tests/lab/demo.py pictures
     ;;
 test)
     deps
@@ -215,7 +224,8 @@ test)
     unpack_services
     status=0
     # Two processors; cmake/Veldmark.cmake says how many places a test takes.
-    ctest --preset dev --parallel 4 --output-junit ../test/junit.xml "$@" || status=$?
+    # All that a test says is kept, since what it has skipped may stand at the end.
+    ctest --preset dev --parallel 4 --output-junit ../test/junit.xml --test-output-size-passed 100000000 "$@" || status=$?
     /usr/bin/python3 tests/skipped.py build/test/junit.xml || status=$?
     exit "$status"
     ;;
@@ -237,10 +247,12 @@ tsan)
     ;;
 package) package ;;
 package-test)
+    deps
     package
     exec /usr/bin/python3 tests/package/test_debian.py build/veldmark_*.deb "$@"
     ;;
 machine-test)
+    deps
     package
     unpack nspawn usr/bin/systemd-nspawn systemd-container libsystemd-shared
     exec /usr/bin/python3 tests/machine/machine_test.py build/veldmark_*.deb "$@"
@@ -256,6 +268,11 @@ fuzz)
     compile dev programs
     compile fuzz fuzzers
     exec /usr/bin/python3 fuzz/run.py "$@"
+    ;;
+mutate)
+    deps
+    unpack_services
+    exec nice /usr/bin/python3 tests/mutate/run.py "$@"
     ;;
 soak)
     deps

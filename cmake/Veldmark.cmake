@@ -30,7 +30,7 @@ if(VELDMARK_COVERAGE)
 endif()
 
 # What nearly every source reads of Qt and of the standard library, compiled once for all rooms, and once for the tests.
-# A source still includes what it uses: the preset "release" compiles without this.
+# A source still includes what it uses: ./build.sh dist compiles its archive without this.
 option(VELDMARK_PRECOMPILE "Compile common headers once" OFF)
 set(veldmark_common_headers <algorithm> <chrono> <functional> <memory> <optional> <vector> <tl/expected.hpp> <qcorotask.h>
     <QByteArray> <QDir> <QFile> <QFileInfo> <QJsonArray> <QJsonDocument> <QJsonObject> <QObject> <QPointer> <QProcess>

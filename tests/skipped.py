@@ -10,6 +10,8 @@ import sys
 import xml.etree.ElementTree as ElementTree
 
 REASON = re.compile(r"^(?:SKIP\s*:\s*(?P<case>\S+?)\(.*?\)\s*(?P<qt>.*)|skipped: (?P<own>.*))$", re.MULTILINE)
+# Python's unittest tells the reasons only when it is asked to be verbose.
+COUNT = re.compile(r"^(?:OK|FAILED) \(.*\bskipped=(\d+)", re.MULTILINE)
 
 
 def skipped(path: str):
@@ -18,7 +20,10 @@ def skipped(path: str):
         found = list(REASON.finditer(output))
         for match in found:
             yield case.get("name"), match["case"] or "", (match["qt"] or match["own"]).strip()
-        if not found and case.find("skipped") is not None:
+        count = COUNT.search(output)
+        if count:
+            yield case.get("name"), "", f"{count[1]} of its cases; run it with -v to see why"
+        elif not found and case.find("skipped") is not None:
             last = [line for line in output.splitlines() if line.strip()]
             yield case.get("name"), "", last[-1].strip() if last else "no reason given"
 

@@ -1,11 +1,15 @@
 # Sourced by build.sh: the Debian packages that its verbs need, and how they are installed.
 # shellcheck shell=bash
 
-# What compiles the programs, what they call, and what the private Tor network of the demonstration is made of.
-program_packages=(
+# What compiles the programs.
+compiling_packages=(
     g++ cmake ninja-build pkg-config ccache
     libglib2.0-dev qt6-base-dev qt6-declarative-dev libgl-dev qcoro-qt6-dev libexpected-dev
-    qt6-svg-dev qt6-tools-dev qt6-l10n-tools qt6-declarative-dev-tools qml6-module-qtquick
+    qt6-svg-dev qt6-tools-dev qt6-l10n-tools qt6-declarative-dev-tools
+)
+# What the programs call, and what the private Tor network of the demonstration is made of.
+running_packages=(
+    qml6-module-qtquick
     qml6-module-qtquick-templates qml6-module-qtquick-window qml6-module-qtquick-layouts
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
     fonts-noto-core fonts-noto-mono fonts-noto-color-emoji
@@ -13,14 +17,18 @@ program_packages=(
     python3 openssl ca-certificates curl
     libglib2.0-bin dconf-cli dconf-gsettings-backend gsettings-desktop-schemas dbus dbus-daemon
 )
-# What the other verbs need besides: tests, sanitizers, fuzzers, benchmarks, packages.
+# What makes and judges the Debian package.
+packaging_packages=(
+    git dpkg-dev lintian
+)
+# What the other verbs need besides: tests, sanitizers, fuzzers, benchmarks.
 development_packages=(
-    git pkexec polkitd gnupg
+    pkexec polkitd gnupg
     tcpdump shellcheck unzip netcat-openbsd openssh-client iputils-ping zsh dash
     python3-stem nyx
     clang libclang-rt-14-dev libobjc-12-dev gcovr
     xvfb xauth xdotool openbox at-spi2-core gir1.2-atspi-2.0 python3-gi python3-dbus
-    dpkg-dev lintian debootstrap appstream desktop-file-utils mandoc
+    debootstrap appstream desktop-file-utils mandoc
 )
 
 missing_packages() {
@@ -36,6 +44,20 @@ apt_percent() {
     awk -F: '/^(dl|pm)status:/ { part = $1 == "dlstatus" ? $3 * 0.4 : 40 + $3 * 0.6; printf "[%d/100]\n", part; fflush() }'
 }
 
+# asks_again SECONDS COMMAND...: apt-get's update, once more each second while another program holds the lists.
+asks_again() {
+    local deadline=$((SECONDS + $1)) output status
+    shift
+    while :; do
+        status=0
+        output=$("$@" 2>&1) || status=$?
+        if ((SECONDS >= deadline)) || [[ $status -eq 0 || $output != *"Could not get lock"* ]]; then break; fi
+        sleep 1
+    done
+    printf '%s\n' "$output"
+    return "$status"
+}
+
 # install_packages NAME...: Debian starts a service when its package is installed. Nothing here wants a running tor, and a tor
 # that starts by itself would talk to the public network: dpkg is told to start nothing meanwhile.
 install_packages() {
@@ -43,11 +65,12 @@ install_packages() {
     if [[ $EUID -ne 0 ]]; then
         command -v sudo >/dev/null || die "some packages are missing and there is no sudo: run ./build.sh deps as root once"
         root=(sudo)
-        sudo -v || die "sudo refused: run ./build.sh deps as root once"
+        sudo -v 2>/dev/null || die "sudo refused: run ./build.sh deps as root once"
     fi
     local log
     log=$(mktemp 2>/dev/null) || die "$(explain_failure <(echo "${TMPDIR:-/tmp}/x: No space left on device"))"
-    local policy=/usr/sbin/policy-rc.d status=0
+    # Seconds for another program that installs packages to end.
+    local policy=/usr/sbin/policy-rc.d status=0 wait=${VELDMARK_APT_WAIT:-60}
     if [[ ! -e $policy ]]; then
         # Also when this is ended in the middle: a machine that starts no service any more would be a bad surprise.
         # shellcheck disable=SC2064
@@ -55,11 +78,12 @@ install_packages() {
         printf '#!/bin/sh\nexit 101\n' | "${root[@]}" tee "$policy" >/dev/null
         "${root[@]}" chmod 755 "$policy"
     fi
-    local -a apt=("${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -o DPkg::Lock::Timeout=60)
+    local -a apt=("${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -o "DPkg::Lock::Timeout=$wait")
     # What an earlier run was stopped in.
     [[ -z $(dpkg --audit 2>/dev/null) ]] ||
         busy "Finishing an interrupted installation" "$log" "${root[@]}" env DEBIAN_FRONTEND=noninteractive dpkg --configure -a || true
-    if busy "Asking Debian's registry" "$log" "${apt[@]}" update; then
+    if busy "Asking Debian's registry" "$log" asks_again "$wait" "${apt[@]}" update &&
+        busy "Waiting for another program that installs packages" "$log" "${apt[@]}" check; then
         "${apt[@]}" -o APT::Status-Fd=3 install -y --no-install-recommends "$@" 3> >(apt_percent | progress "Installing packages, percent") >>"$log" 2>&1 ||
             status=$?
     else
@@ -78,11 +102,16 @@ install_packages() {
     rm -f "$log"
 }
 
-# deps [programs]: installs what is missing of the packages of all verbs, or only of those for building, running and showing
-# the programs.
+# deps [compiling|programs|package]: installs what is missing of the packages of all verbs, or only of those for compiling the
+# programs, for running and showing them as well, or for packing them.
 deps() {
-    local -a wanted=("${program_packages[@]}") missing=()
-    [[ ${1:-} == programs ]] || wanted+=("${development_packages[@]}")
+    local -a wanted=("${compiling_packages[@]}") missing=()
+    case ${1:-} in
+    compiling) ;;
+    programs) wanted+=("${running_packages[@]}") ;;
+    package) wanted+=("${packaging_packages[@]}") ;;
+    *) wanted+=("${running_packages[@]}" "${packaging_packages[@]}" "${development_packages[@]}") ;;
+    esac
     command -v dpkg-query >/dev/null ||
         die "only Debian 12 and its descendants are set up by this script; install the equivalents of: ${wanted[*]}"
     local name

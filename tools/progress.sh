@@ -50,7 +50,7 @@ busy() {
 # tells of none of these.
 explain_failure() {
     local log=$1
-    if grep -qE 'No space left on device|not have enough free space' "$log"; then
+    if grep -qE 'No space left on device|have enough free space' "$log"; then
         if grep -qE '/tmp/[^ ]*: No space left|error writing to /tmp|cannot create temporary' "$log" ||
             (($(df --output=avail -k "${TMPDIR:-/tmp}" | tail -n 1) < 51200)); then
             printf '%s is full: make room there, or set TMPDIR to a folder with 1 GB, and run this again' "${TMPDIR:-/tmp}"

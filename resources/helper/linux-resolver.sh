@@ -7,6 +7,7 @@ readonly RESOLVER=/etc/resolv.conf
 readonly OUR_RESOLVER=$RUN/veldmark-resolv.conf   # 0644; its name tells our mount from anybody else's
 readonly TOR_RESOLVER=$RUN/tor-resolv.conf        # 0644; what Tor and its transports see: the resolvers as before
 readonly RESOLVER_ENTRY=30-resolver
+readonly MANAGERS_COPY=/run/NetworkManager/resolv.conf   # what NetworkManager would have in $RESOLVER at this moment
 
 FORMER_RESOLVER=''   # text of the resolver file without our mount
 RESOLVER_TARGET=''   # the file behind $RESOLVER; empty when there is none and none can be made
@@ -89,7 +90,9 @@ put_resolver() {
   fi
   unmount_resolver || die "$UNDONE"
   if ! journal_has "$RESOLVER_ENTRY"; then
-    if [[ -e $RESOLVER_TARGET ]]; then
+    if is_managers "$RESOLVER_TARGET"; then
+      journal_put "$RESOLVER_ENTRY" "target $RESOLVER_TARGET" "writer NetworkManager" || die "The journal cannot be written."
+    elif [[ -e $RESOLVER_TARGET ]]; then
       journal_put "$RESOLVER_ENTRY" "target $RESOLVER_TARGET" || die "The journal cannot be written."
     else
       journal_put "$RESOLVER_ENTRY" "target $RESOLVER_TARGET" "created 1" || die "The journal cannot be written."
@@ -116,9 +119,24 @@ unmount_resolver() {
   return 1
 }
 
+# is_managers FILE: whether NetworkManager has written it, as it is now.
+is_managers() {
+  [[ -f $1 && -f $MANAGERS_COPY ]] && { [[ $1 -ef $MANAGERS_COPY ]] || [[ $(<"$1") == "$(<"$MANAGERS_COPY")" ]]; }
+}
+
+# renew_resolver: NetworkManager could not write its file while ours was mounted over it. Where the network has given other
+# name servers since, it is asked to write it now; a file that somebody else has written stays as it is.
+renew_resolver() {
+  local target
+  [[ $(journal_value writer) == NetworkManager ]] && target=$(journal_value target) && [[ -f $MANAGERS_COPY ]] || return 0
+  [[ $target -ef $MANAGERS_COPY ]] || ! is_managers "$target" || return 0
+  timeout -k 1 5 nmcli general reload dns-rc </dev/null >/dev/null || true
+}
+
 undo_resolver() {
   local created target
   unmount_resolver || return 1
+  renew_resolver
   if created=$(journal_value created) && target=$(journal_value target) &&
     [[ $created == 1 && ! -s $target && -f $target && $target == "$(readlink -f -- "$RESOLVER")" ]]; then
     rm -f -- "$target"

@@ -21,6 +21,8 @@ HASH = "16:" + "0123456789ABCDEF" * 3 + "0123456789"
 TOR = "/usr/bin/tor"
 USER_UID = 4242
 OTHER_UID = 4243   # bob's
+DNS_PORT = 293
+TOR_GROUP = "/sys/fs/cgroup/veldmark/tor"   # to be in it and Tor's account is what the rules know Tor by
 INSTALLED = "/usr/local/libexec/veldmark/veldmark-helper.sh"
 
 # Reaps what is orphaned in the process namespace, and ends with the test.
@@ -150,15 +152,18 @@ class Machine:
         """What a command begins with to run in the machine's control group."""
         return ["/bin/sh", "-c", 'echo 0 >"$0/cgroup.procs" && exec "$@"', self.group]
 
-    def command(self, words, uid=0):
+    def command(self, words, uid=0, group=None):
+        """`group`: enters that control group, if it is there."""
         inside = [*self.in_group(), "nsenter", "--target", str(self.pid), "--cgroup", "--net", "--mount", "--pid", "--wd=/"]
+        if group:
+            inside += ["/bin/sh", "-c", '[ ! -d "$0" ] || echo 0 >"$0/cgroup.procs"; exec "$@"', group]
         if uid:
             inside += ["setpriv", f"--reuid={uid}", f"--regid={uid}", "--clear-groups"]
         return inside + list(words)
 
-    def run(self, *words, uid=0, check=True, stdin=None, env=None, timeout=60):
+    def run(self, *words, uid=0, group=None, check=True, stdin=None, env=None, timeout=60):
         done = subprocess.run(
-            self.command(words, uid), capture_output=True, text=True, input=stdin, check=False, timeout=timeout,
+            self.command(words, uid, group), capture_output=True, text=True, input=stdin, check=False, timeout=timeout,
             env=env if env is not None else {"PATH": os.environ["PATH"]}, errors="surrogateescape",
             **({"stdin": subprocess.DEVNULL} if stdin is None else {}),
         )
@@ -166,8 +171,8 @@ class Machine:
             raise AssertionError(f"{words}: status {done.returncode}: {done.stdout}{done.stderr}")
         return done
 
-    def start(self, *words, uid=0, **options):
-        return subprocess.Popen(self.command(words, uid), **options)
+    def start(self, *words, uid=0, group=None, **options):
+        return subprocess.Popen(self.command(words, uid, group), **options)
 
     def shell(self, script, *arguments, **options):
         return self.run("/bin/bash", "-c", script, "shell", *arguments, **options).stdout
@@ -187,6 +192,11 @@ class Machine:
     def help_by_rule(self, *arguments, uid=USER_UID, **options):
         """Runs the installed copy as sudo does by the rule."""
         return self.run("/bin/bash", INSTALLED, *arguments, env={"PATH": os.environ["PATH"], "SUDO_UID": str(uid)}, **options)
+
+    def approve(self, path, role="tor", **options):
+        """Approves a program as the prompt does that names it."""
+        digest = self.run("sha256sum", path).stdout.split()[0].lstrip("\\")
+        return self.help("approve", "--program", path, "--as", role, "--sha256", digest, **options)
 
     def connect(self, strict=1, lan=0, more=(), **options):
         return self.help("connect", "--tor", TOR, "--hash", HASH, "--strict", str(strict), "--lan", str(lan), *more,
@@ -226,7 +236,7 @@ class Machine:
                     continue
                 with open(f"/proc/{pid}/cmdline", "rb") as file:
                     line = file.read().replace(b"\0", b" ").decode(errors="replace")
-                if line and not line.startswith(("nft -s list table ", "setpriv --pdeathsig KILL sh -c [ ", "sh -c [ \"$PPID\" ", "flock -w 10 7 ")):
+                if line and not line.startswith(("nft -s -t list table ", "setpriv --pdeathsig KILL sh -c [ ", "sh -c [ \"$PPID\" ", "flock -w 10 7 ")):
                     lines.append(line.replace("\n", " ") + "\n")
             except OSError:
                 pass

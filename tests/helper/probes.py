@@ -131,6 +131,8 @@ def seen(packet):
     if number == 1:
         return "ping" if address == PUBLIC else "other icmp " + address
     if number == 58:
+        if address == PUBLIC6:
+            return f"icmp6 {payload[0]} far away"
         return "neighbour" if payload[0] in (133, 135, 136) else f"other icmp6 {payload[0]}"
     if number not in (6, 17):
         return f"other protocol {number} to {address}"

@@ -17,8 +17,8 @@ import namespace  # noqa: E402
 from namespace import HASH, TOR, USER_UID, HelperTest, main  # noqa: E402,F401
 
 STAND_INS = ("uname sync mv killall ifconfig sysctl stat ls scutil dscacheutil dscl networksetup launchctl lsof "
-             "pfctl").split()
-ONLY_LINUX = "flock timeout setpriv unshare setsid getent sha256sum nft mount umount ip ss gsettings pkexec useradd".split()
+             "pfctl df mount").split()
+ONLY_LINUX = "flock timeout setpriv unshare setsid getent sha256sum nft umount ip ss gsettings pkexec useradd".split()
 
 SETUP = """
 set -eu

@@ -1,5 +1,7 @@
 #!/usr/bin/python3
-"""Shows the main job on a private Tor network: from unprotected to routed through Tor and back, in both modes.
+"""Shows the main job on a private Tor network: from unprotected to routed through Tor and back, in both modes. Then pictures.
+
+usage: demo.py [network] [pictures]    both when none is named; only the network needs root
 
 Needs no internet and changes nothing outside its own network namespaces. Exit status 0 when everything went as it should,
 1 when something did not, 77 when this machine does not permit namespaces.
@@ -130,26 +132,34 @@ def draw_windows() -> None:
     (folder / "index.html").write_text(PAGE.format(figures=figures))
 
 
-def main() -> int:
-    draw_windows()
+def show_network() -> None:
+    """Raises LabUnavailable where there can be none."""
     steps: list[str] = []
+    heading("A private Tor network of real tor processes")
+    lab = Lab(on_step=lambda name: steps.append(name))
+    with contextlib.ExitStack() as held:
+        with moving(lambda: f"{steps[-1] if steps else 'beginning'},"):
+            held.enter_context(lab)
+        say("up after", f"{lab.timings['total']:.1f} s: {len(at.AUTHORITIES)} authorities, {len(at.EXITS)} exits, "
+                        f"{len(at.MIDDLES)} middle nodes, {len(at.BRIDGES)} bridges")
+        product = Product(lab, PROJECT / "build" / "bin")
+        before = lab.host.snapshot()
+        direct = ask_check_service(lab, "-4")
+        judge("without Veldmark", direct, at.HOST_ADDRESS in direct)
+        for mode in ("strict", "proxy"):
+            show_mode(lab, product, mode, before)
+
+
+def main() -> int:
+    parts = sys.argv[1:] or ["network", "pictures"]
     try:
-        heading("A private Tor network of real tor processes")
-        lab = Lab(on_step=lambda name: steps.append(name))
-        with contextlib.ExitStack() as held:
-            with moving(lambda: f"{steps[-1] if steps else 'beginning'},"):
-                held.enter_context(lab)
-            say("up after", f"{lab.timings['total']:.1f} s: {len(at.AUTHORITIES)} authorities, {len(at.EXITS)} exits, "
-                            f"{len(at.MIDDLES)} middle nodes, {len(at.BRIDGES)} bridges")
-            product = Product(lab, PROJECT / "build" / "bin")
-            before = lab.host.snapshot()
-            direct = ask_check_service(lab, "-4")
-            judge("without Veldmark", direct, at.HOST_ADDRESS in direct)
-            for mode in ("strict", "proxy"):
-                show_mode(lab, product, mode, before)
+        if "network" in parts:
+            show_network()
     except LabUnavailable as error:
         print(error, file=sys.stderr)
         return SKIPPED
+    if "pictures" in parts:
+        draw_windows()
     heading("Everything went as it should." if not failures else f"{len(failures)} things did not go as they should:")
     for failure in failures:
         print(f"  {failure}")

@@ -1,0 +1,87 @@
+
+# ---- Linux: other firewalls --------------------------------------------------------------------------------
+# Rules of others can keep Tor from going out, and only root can read them. What a connect finds is noted for the application,
+# which names it when Tor gets nowhere. Nothing of theirs is changed.
+
+readonly OTHERS_NOTE=/run/veldmark.others   # 0644; a name per line: ufw, firewalld, or "table FAMILY NAME"
+
+# What stands before a verdict and holds for all that Tor opens.
+readonly ALWAYS='^(counter( packets [0-9]+ bytes [0-9]+)?|oif(name)? != "lo"|ct state new|meta l4proto tcp|ip protocol tcp|meta nfproto ipv4|log( (prefix|level|flags|group|snaplen) ("[^"]*"|[a-z0-9]+))*) (.+)$'
+
+CHAINS=() CHAIN_RULES=()   # "FAMILY TABLE CHAIN", and its rules without a condition, one per line
+
+# read_chains: reads a listing of the rules from standard input.
+read_chains() {
+  local line family='' table='' count=0
+  CHAINS=() CHAIN_RULES=()
+  while IFS= read -r line; do
+    line=${line#"${line%%[!$'\t ']*}"}
+    if [[ $line =~ ^table\ (ip|inet)\ ([A-Za-z0-9_./-]+)\ \{ ]]; then
+      family=${BASH_REMATCH[1]} table=${BASH_REMATCH[2]}
+    elif [[ $line == "table "* ]]; then
+      table=''
+    elif [[ -n $table && $line =~ ^chain\ ([A-Za-z0-9_./-]+)\ \{ ]]; then
+      CHAINS[count]="$family $table ${BASH_REMATCH[1]}" CHAIN_RULES[count]=''
+      count=$((count + 1))
+    elif ((count)) && [[ -n $table ]]; then
+      while [[ $line =~ $ALWAYS ]]; do line=${BASH_REMATCH[7]}; done
+      case $line in
+      "type "*" hook output "* | accept | return | drop | reject | "reject with "* | "jump "* | "goto "*)
+        CHAIN_RULES[count - 1]=${CHAIN_RULES[count - 1]}$line$'\n'
+        ;;
+      esac
+    fi
+  done
+}
+
+# judge_chain "FAMILY TABLE" CHAIN DEPTH: sets JUDGED to what becomes of a packet that no condition of a rule holds for: deny,
+# accept, or nothing when the chain does not say. The kernel allows sixteen chains one within another.
+judge_chain() {
+  local rules='' policy='' line i
+  JUDGED=''
+  (($3 <= 16)) || return 0
+  for ((i = 0; i < ${#CHAINS[@]}; i++)); do
+    [[ ${CHAINS[i]} != "$1 $2" ]] || rules=${CHAIN_RULES[i]}
+  done
+  while IFS= read -r line; do
+    case $line in
+    "type "*"policy drop;"*) policy=deny ;;
+    drop | reject*) JUDGED=deny ;;
+    accept) JUDGED=accept ;;
+    return) break ;;
+    "jump "* | "goto "*)
+      judge_chain "$1" "${line#* }" $(($3 + 1))
+      [[ $line != "goto "* ]] || break
+      ;;
+    esac
+    [[ -z $JUDGED ]] || return 0
+  done <<<"$rules"
+  JUDGED=${JUDGED:-$policy}
+}
+
+# name_others: prints who denies what goes out, by the listing that was read; our own table is none of them.
+name_others() {
+  local i place chain named=$'\n' name
+  for ((i = 0; i < ${#CHAINS[@]}; i++)); do
+    [[ ${CHAIN_RULES[i]} == "type "* ]] || continue
+    chain=${CHAINS[i]##* } place=${CHAINS[i]% *}
+    [[ $place != "inet $TABLE" ]] || continue
+    judge_chain "$place" "$chain" 0
+    [[ $JUDGED == deny ]] || continue
+    name="table $place"
+    [[ ${CHAIN_RULES[i]} != *"jump ufw-"* ]] || name=ufw
+    [[ $place != "inet firewalld" ]] || name=firewalld
+    [[ $named != *$'\n'"$name"$'\n'* ]] || continue
+    named=$named$name$'\n'
+    printf '%s\n' "$name"
+  done
+}
+
+# note_others: what cannot be read is not told.
+note_others() {
+  local names
+  read_chains < <(timeout -k 1 5 nft -s -t list ruleset)
+  names=$(name_others)
+  rm -f -- "$OTHERS_NOTE"
+  [[ -z $names ]] || write_file "$OTHERS_NOTE" 0644 root "$names"$'\n' || true
+}
