@@ -25,7 +25,7 @@ need_programs() { :; }
 find_launcher() { :; }
 take_lock() {
   printf 'OK\0%s\0' "$OPT_TOR" "$OPT_HASH" "$OPT_STRICT" "$OPT_LAN" "$OPT_EXIT" "$OPT_LYREBIRD" "$OPT_SNOWFLAKE" \
-    "$OPT_WEBTUNNEL" "$OPT_USER" "$OPT_LAUNCH" "$OPT_UID" "$OPT_APP" ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"}
+    "$OPT_WEBTUNNEL" "$OPT_USER" "$OPT_LAUNCH" "$OPT_UID" "$OPT_APP" "$OPT_PROGRAM" "$OPT_AS" "$OPT_SHA256" ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"}
   if [[ -n $OPT_TOR ]]; then printf 'TORRC\0%s\0' "$(print_torrc 1)"; fi
   exit 42
 }
@@ -37,16 +37,17 @@ while IFS= read -r -d '' count; do
     IFS= read -r -d '' word || exit 3
     words[i]=$word
   done
-  ( set -euo pipefail; main ${words[@]+"${words[@]}"} ) 2>refusal
+  ( set -euo pipefail; main ${words[@]+"${words[@]}"} ) 2>refusal </dev/null
   status=$?
   printf 'STATUS\0%s\0REFUSAL\0%s\0END\0' "$status" "$(<refusal)"
 done
 """
 
 SINGLE = ["--tor", "--hash", "--strict", "--lan", "--exit", "--pt-lyrebird", "--pt-snowflake", "--pt-webtunnel",
-          "--user", "--launch", "--uid", "--app"]
+          "--user", "--launch", "--uid", "--app", "--program", "--as", "--sha256"]
 ALLOWED = {
-    "connect": SINGLE[:8] + ["--bridge"], "launch": ["--uid", "--app"], "install-privileged": ["--user", "--launch"],
+    "connect": SINGLE[:8] + ["--bridge"], "replace": SINGLE[:8] + ["--bridge"], "approve": ["--program", "--as", "--sha256"],
+    "launch": ["--uid", "--app"], "install-privileged": ["--user", "--launch"],
     "disconnect": [], "fix-dns": [], "uninstall-privileged": [],
 }
 BRIDGE = re.compile(rb"([a-z][a-z0-9_]* )?\[?[0-9A-Fa-f.:]+\]?:[0-9]+( [!-~]+)*")
@@ -67,6 +68,8 @@ GOOD = [
      b"--bridge", b"webtunnel [2001:db8::2]:443 url=https://b/", b"--pt-webtunnel", b"/usr/bin/env"],
     [b"launch", b"--uid", b"4242", b"--app", b"/usr/share/applications/a.desktop"],
     [b"install-privileged", b"--user", b"alice", b"--launch", b"/usr/bin/env"],
+    [b"replace", b"--tor", b"/usr/bin/env", b"--hash", HASH, b"--strict", b"0", b"--lan", b"1"],
+    [b"approve", b"--program", b"/usr/bin/env", b"--as", b"lyrebird", b"--sha256", b"0123456789abcdef" * 4],
     [b"disconnect"], [b"fix-dns"], [b"uninstall-privileged"],
 ]
 HOSTILE = [
@@ -108,7 +111,7 @@ def understood(words):
             return None
         else:
             options[name] = value
-    fits = {"connect": fits_connect, "launch": fits_launch, "install-privileged": fits_install}.get(verb, lambda *_: True)
+    fits = {"connect": fits_connect, "replace": fits_connect, "approve": fits_approve, "launch": fits_launch, "install-privileged": fits_install}.get(verb, lambda *_: True)
     return (options, bridges) if fits(options, bridges) else None
 
 
@@ -133,6 +136,12 @@ def fits_connect(options, bridges):
         if needed.get(transport) not in options:
             return False
     return True
+
+
+def fits_approve(options, _):
+    return (options.get("--as") in (b"tor", b"lyrebird", b"snowflake-client", b"webtunnel-client")
+            and re.fullmatch(rb"[0-9a-f]{64}", options.get("--sha256", b"")) is not None
+            and is_program(options.get("--program", b"")))
 
 
 def fits_launch(options, _):

@@ -3,14 +3,19 @@
 #
 #   veldmark-helper.sh connect --tor PATH --hash HASH --strict 0|1 --lan 0|1 [--exit CC]
 #                      [--bridge LINE]... [--pt-lyrebird PATH] [--pt-snowflake PATH] [--pt-webtunnel PATH]
+#   veldmark-helper.sh replace …       connect, where that lessens what protects a strict session
+#   veldmark-helper.sh approve --program PATH --as tor|lyrebird|snowflake-client|webtunnel-client --sha256 DIGEST
 #   veldmark-helper.sh disconnect
 #   veldmark-helper.sh fix-dns
 #   veldmark-helper.sh launch --uid UID --app PATH
 #   veldmark-helper.sh install-privileged --user NAME [--launch PATH]
 #   veldmark-helper.sh uninstall-privileged
 #
+# "-" in place of all options reads them from standard input: a word on each line, the last line "end".
+#
 # Runs as root, through the administrator prompt or a sudo rule. Exit status 0 means done. Any other status
-# comes with one line on standard error, "ERROR: " and a sentence for the user.
+# comes with one line on standard error, "ERROR: " and a sentence for the user; 3 when only an administrator's
+# approval of that very verb is missing.
 #
 # This file is joined from parts; each part's head says what it holds. Functions named print_... are pure:
 # they write generated text to standard output and touch nothing.
@@ -37,6 +42,8 @@ export PATH LC_ALL
 SAID=''         # set once a message has gone to standard error
 CALLER_UID=''   # whose session this is: the uid that sudo or pkexec reports, else 0
 PROMPTED=''     # 1 when an administrator approved this very run, empty under the password-free rule
+BY_DIALOG=''    # 1 when that was in a dialog that showed no more than the verb
+VERB=''
 SELF=''         # absolute path of this file
 STAYS_CLOSED='' # added to the message when a failure leaves the kill switch on
 
@@ -56,6 +63,12 @@ say() {
 die() {
   say "$1$STAYS_CLOSED"
   exit 1
+}
+
+# unapproved TEXT: the same, where an administrator's approval is all that is missing.
+unapproved() {
+  say "$1$STAYS_CLOSED"
+  exit 3
 }
 
 # The number patterns come before any arithmetic: bash would run a command hidden in an index.
@@ -101,6 +114,7 @@ identify_caller() {
     CALLER_UID=$id
   done
   [[ -n ${SUDO_UID+x} ]] && let_in_by_rule || PROMPTED=1
+  [[ -z ${PKEXEC_UID+x} ]] || BY_DIALOG=1
   CALLER_UID=${CALLER_UID:-0}
   unset SUDO_UID PKEXEC_UID
   ((EUID == 0)) || die "The helper must run as root."

@@ -50,7 +50,7 @@ darwin_launch() {
   [[ $OPT_UID != 0 ]] || die "Applications are not opened as root."
   [[ $OPT_APP == /*.app || $OPT_APP == /*.app/ ]] || die "The path given with --app names no application."
   [[ $OPT_UID == "$CALLER_UID" ]] || die "Applications can be opened for the user who asks only."
-  [[ -n $PROMPTED ]] || die "An administrator password is needed to open an application without Tor."
+  [[ -n $PROMPTED ]] || unapproved "An administrator password is needed to open an application without Tor."
   need_programs perl pfctl launchctl dscl dscacheutil stat
   find_launcher || die "The program veldmark-launch is missing."
   take_lock

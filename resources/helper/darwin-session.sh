@@ -22,11 +22,13 @@ darwin_connect() {
     ((status != 1)) || former=''
   fi
   if [[ $former == strict ]]; then
+    guard_session
     STAYS_CLOSED=" The network stays blocked until you disconnect."
   else
     ON_FAILURE=undo
   fi
   journal_has "$FIREWALL_ENTRY" || journal_put "$FIREWALL_ENTRY" "boot $boot" || die "The journal cannot be written."
+  note_asked
   [[ $mode != strict ]] || ready_exempt
   if [[ $former != strict || $mode == strict ]]; then
     put_firewall "$mode"
@@ -88,8 +90,8 @@ undo_session() {
     ((status == 0)) || reason=${reason:-${UNDONE:-The former network settings could not all be restored.}}
     ((status != 1)) || open=''
   done
-  [[ -z $open ]] || rm -f -- "$MARKER" "$RULES" "$LISTED"
-  rm -f -- "$MARKER.new" "$RULES.new" "$LISTED.new" "$KILL_SWITCH_NOTE.new" "$STATE/relocked" "$WATCHER.new" "$WATCH_JOB.new" "$TOR_JOB.new" "$TORRC.checked" "$HOSTS.new"
+  [[ -z $open ]] || rm -f -- "$MARKER" "$ASKED" "$RULES" "$LISTED"
+  rm -f -- "$MARKER.new" "$ASKED.new" "$RULES.new" "$LISTED.new" "$KILL_SWITCH_NOTE.new" "$STATE/relocked" "$WATCHER.new" "$WATCH_JOB.new" "$TOR_JOB.new" "$TORRC.checked" "$HOSTS.new"
   [[ ! -d $JOURNAL ]] || rm -f -- "$JOURNAL"/*.new
   UNDONE=$reason
   [[ -z $reason ]]

@@ -2,6 +2,8 @@
 # ---- macOS: folders, lock, accounts ------------------------------------------------------------------------
 # Everything here and in the other parts keeps to the bash 3.2, the BSD tools and the perl that macOS has.
 
+readonly DNS_PORT=9053
+end_run() { :; }   # nothing of a run outlives it
 readonly BASE="/Library/Application Support/Veldmark"
 readonly STATE=$BASE/state        # 0755; holds the session marker
 readonly MARKER=$STATE/active     # 0644; "strict" or "proxy": the network is set up for Tor
@@ -11,6 +13,8 @@ readonly TOR_BASE=/private/var/db/veldmark   # 0755
 readonly RUN=/var/db/veldmark/run            # 0755; Tor's configuration, data and logs; /var is a link
 readonly DATA=$RUN/data                      # 0700, Tor's account; kept between sessions so that entry guards are
 readonly PROGRAMS=/var/db/veldmark/programs  # 0755; approved copies, SHA-256/NAME
+readonly ASKED=$BASE/asked        # 0600; what the running session was asked for
+readonly PROGRAM_PLACES='^/(usr|opt)/.'
 readonly LOCK=/private/var/db/veldmark.lock
 readonly LOCK_SECONDS=20
 readonly SUDO_DRAFT=/private/var/db/veldmark.sudoers   # 0440; checked here first
@@ -247,6 +251,16 @@ print_modes() { stat -f '%Lp %u %HT' -- "$@"; }
 
 # real_path PATH: free of links; fails when it does not exist.
 real_path() { [[ -e $1 ]] && readlink -f -- "$1"; }
+
+# on_own_mount PATH: volumes that users attach appear below /Volumes, and are mounted without setuid programs elsewhere.
+on_own_mount() {
+  local volume line
+  volume=$(df -P -- "$1" | tail -n 1) && volume=/${volume#*% */} || return 1
+  while IFS= read -r line; do
+    [[ $line != *" on $volume "* ]] || { [[ $line != *nosuid* && $volume != /Volumes/* ]] && return 0; return 1; }
+  done < <(mount || true)
+  return 1
+}
 
 # print_sum: the SHA-256 of standard input.
 print_sum() { shasum -a 256; }

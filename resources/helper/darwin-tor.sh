@@ -45,10 +45,11 @@ tor_listens() {
   held=$(lsof -nP -a -p "$1" -iTCP:"$CONTROL_PORT" -sTCP:LISTEN -t) && [[ $held == "$1" ]]
 }
 
-# ready_logs: empties the log files; the session's user may read them.
+# ready_logs: empties the log files. Tor writes them by its group, the session's user alone may read them: the user's own
+# group may be everybody's.
 ready_logs() {
   rm -f -- "$NOTICES" "$LAUNCHD_OUT" && : >"$NOTICES" && : >"$LAUNCHD_OUT" &&
-    chown -- "$TOR_UID:$CALLER_GID" "$NOTICES" "$LAUNCHD_OUT" && chmod 0640 -- "$NOTICES" "$LAUNCHD_OUT"
+    chown -- "$CALLER_UID:$TOR_GID" "$NOTICES" "$LAUNCHD_OUT" && chmod 0460 -- "$NOTICES" "$LAUNCHD_OUT"
 }
 
 tor_failure() {

@@ -6,39 +6,26 @@
 
 readonly EXEMPT_ENTRY=12-exempt
 readonly EXEMPT_NAME=veldmark-exempt
-readonly CGROUPS=/sys/fs/cgroup   # below it nft looks for a group by name
 readonly LAUNCHER_SECONDS=20
-readonly MOVE_ROUNDS=50           # processes may fork while they are moved out
 
 EXEMPT_FOLDER=''   # the group's folder; empty where the system has no such groups
 EXEMPT_PATH=''     # the same below $CGROUPS; empty when the rules must not name it
 
-# find_exempt: sets EXEMPT_FOLDER. The tree's own root must be mounted, so that the group is of the first level.
+# find_exempt: sets EXEMPT_FOLDER.
 find_exempt() {
-  local root point kind rest
   EXEMPT_FOLDER=''
-  while read -r rest rest rest root point rest; do
-    kind=${rest#*" - "}
-    [[ ${kind%% *} == cgroup2 && $root == / && $point =~ ^$CGROUPS(/[a-z]+)?$ ]] || continue
-    EXEMPT_FOLDER=$point/$EXEMPT_NAME
-  done </proc/self/mountinfo
-  [[ -n $EXEMPT_FOLDER ]]
-}
-
-make_group() {
-  find_exempt || return 1
-  [[ -d $EXEMPT_FOLDER ]] || mkdir -m 0755 -- "$EXEMPT_FOLDER"
+  find_tree || return 1
+  EXEMPT_FOLDER=$TREE/$EXEMPT_NAME
 }
 
 # make_exempt: makes the group unless it is there, and sets EXEMPT_PATH; empty where there can be none, and then
 # nothing is exempt.
 make_exempt() {
   EXEMPT_PATH=''
-  make_group || return 0
+  { find_exempt && make_group "$EXEMPT_NAME"; } || return 0
   [[ $(stat -c '%u %a' -- "$EXEMPT_FOLDER") == "0 755" ]] || return 0
   EXEMPT_PATH=${EXEMPT_FOLDER#"$CGROUPS"/}
-  # Kernels before 5.13 do not know the match.
-  nft -c -f - <<<"table inet $TABLE-check { chain output { socket cgroupv2 level 1 \"$EXEMPT_PATH\" accept; }; }" || EXEMPT_PATH=''
+  rules_can_name "$EXEMPT_PATH" 1 || EXEMPT_PATH=''
 }
 
 ready_exempt() {
@@ -47,25 +34,15 @@ ready_exempt() {
   make_exempt
 }
 
-# own_group: prints the folder of the group that this run is in, which is the caller's session; the tree's root when
-# that is the exempt group itself.
-own_group() {
-  local line path=/
-  while IFS= read -r line; do
-    [[ $line != 0::/* ]] || path=${line#0::}
-  done </proc/self/cgroup
-  [[ $path != "/$EXEMPT_NAME" && $path != *..* && -d ${EXEMPT_FOLDER%/*}$path ]] || path=/
-  printf '%s' "${EXEMPT_FOLDER%/*}$path"
-}
-
 # undo_exempt: what still runs there goes on in the caller's group. The network is the user's business by then.
 undo_exempt() {
   local round pid home
   find_exempt && [[ -d $EXEMPT_FOLDER ]] || return 0
-  home=$(own_group)
+  home=${HOME_GROUP:-$TREE}
+  [[ $home != "$EXEMPT_FOLDER" ]] || home=$TREE
   for ((round = 0; round < MOVE_ROUNDS; round++)); do
     while read -r pid; do
-      printf '%s\n' "$pid" >"$home/cgroup.procs" || printf '%s\n' "$pid" >"${EXEMPT_FOLDER%/*}/cgroup.procs" || true
+      printf '%s\n' "$pid" >"$home/cgroup.procs" || printf '%s\n' "$pid" >"$TREE/cgroup.procs" || true
     done <"$EXEMPT_FOLDER/cgroup.procs"
     rmdir -- "$EXEMPT_FOLDER" && return 0
     sleep 0.02
@@ -123,7 +100,7 @@ linux_launch() {
   [[ $OPT_UID == "$CALLER_UID" ]] || die "Applications can be opened for the user who asks only."
   [[ $OPT_UID != 0 ]] || die "Applications are not opened as root."
   [[ $OPT_APP == /* ]] || die "The path given with --app is not absolute."
-  [[ -n $PROMPTED ]] || die "An administrator password is needed to open an application without Tor."
+  [[ -n $PROMPTED ]] || unapproved "An administrator password is needed to open an application without Tor."
   need_programs flock nft setpriv unshare mount stat timeout
   find_launcher || die "The program veldmark-launch is missing."
   take_lock

@@ -17,20 +17,28 @@ print_table_head() {
   printf 'table inet %s\ndelete table inet %s\ntable inet %s {\n' "$TABLE" "$TABLE" "$TABLE"
 }
 
+# tors_key TOR_UID: what a packet of Tor's is known by. The account alone would do for whoever finds a file that Tor's account
+# has left with the setuid bit on; into the group comes nobody. Where there are no such groups it is the account alone.
+tors_key() {
+  [[ -z $TOR_PATH ]] || printf 'socket cgroupv2 level 2 "%s" ' "$TOR_PATH"
+  printf 'meta skuid %s' "$1"
+}
+
 # print_exempt GROUP: lets out what is sent by applications that are started without Tor. Nothing when GROUP is empty.
 print_exempt() {
   [[ -z $1 ]] || printf '\t\tsocket cgroupv2 level 1 "%s" accept\n' "$1"
 }
 
-# print_redirect TOR_UID GROUP: every look-up over UDP goes to Tor, whichever server it was meant for. A redirected
+# print_redirect TOR_UID GROUP KEEP LAN: every look-up over UDP goes to Tor, whichever server it was meant for. A redirected
 # packet of a socket that is bound to a network device would leave by that device, so the last chain, which sees
 # the true device, keeps what is meant for this computer on this computer. It asks first what is cheapest to know: only
-# a redirected packet can have come past the output chain on such a way.
+# a redirected packet can have come past the output chain on such a way. KEEP is the mode: in strict mode what others
+# redirect stays here as well, unless LAN is 1 and it goes to the local network.
 print_redirect() {
   cat <<END
 	chain redirect_dns {
 		type nat hook output priority -100; policy accept;
-		meta skuid $1 accept
+		$(tors_key "$1") accept
 END
   print_exempt "$2"
   cat <<END
@@ -39,6 +47,19 @@ END
 	chain off_loopback {
 		ip daddr 127.0.0.0/8 oif != "lo" drop
 		ip6 daddr ::1 oif != "lo" drop
+END
+  if [[ $3 == strict ]]; then
+    # A port mapping of somebody else's, from an address of this computer's to one outside: the output chain has seen a packet
+    # that stays here, and this is where it shows that it leaves.
+    printf '\t\toif "lo" accept\n'
+    [[ $4 != 1 ]] || cat <<END
+		meta l4proto { tcp, udp } th dport { 53, 137, 138, 139, 853, 5353, 5355 } drop
+		ip daddr { $LAN4 } accept
+		ip6 daddr { $LAN6 } accept
+END
+    printf '\t\tdrop\n'
+  fi
+  cat <<END
 	}
 	chain stay_on_loopback {
 		type filter hook postrouting priority 200; policy accept;
@@ -48,24 +69,50 @@ END
 }
 
 # print_side_chains TOR_UID USER_UID GROUP: where the output chain sends what needs a closer look.
-# control_port: only root, the session's user and Tor may open Tor's control port. Only opening packets are looked at:
-# later ones may belong to a socket that its program has closed already.
-# loopback: what stays on this computer. redirected: what is meant for this computer, but was on its way out until its
-# address was changed; after that the packet still carries the device that it was to leave by.
+# loopback: what stays on this computer. Only packets that open a connection, or answer that, are looked at more closely: later ones
+# may belong to a socket that its program has closed already.
 # A look-up too short for its own header (12 bytes after the 8 of UDP) ends some versions of Tor.
+# opening: Tor's own connections to its transports are remembered; whoever has the same ports later is somebody else.
+# control_port: only root, the session's user and Tor may open Tor's control port.
+# answering: nobody but Tor answers at Tor's ports, else a false listener gets the control password and what others ask while Tor is
+# away. And a transport answers Tor alone, else everybody could use it as a tunnel to a server of their own, from the real
+# address. An answer of a flooded listener (a SYN cookie) belongs to no socket and passes for nobody's.
+# redirected: what is meant for this computer, but was on its way out until its address was changed; after that the packet still
+# carries the device that it was to leave by.
 # refused: so that applications fail at once.
 print_side_chains() {
-  local users="0, $1"
+  local users="0, $1" ports="ip saddr 127.0.0.1 tcp sport { $SOCKS_PORT, $CONTROL_PORT }"
   [[ $2 == 0 ]] || users="$users, $2"
   cat <<END
-	chain control_port {
-		tcp flags & (fin | syn | rst | ack) == syn meta skuid { $users } accept
-		tcp flags & (fin | syn | rst | ack) == syn reject with tcp reset
+	set tors_own {
+		type ipv4_addr . inet_service . ipv4_addr . inet_service
+		size 4096
+		flags dynamic, timeout
+		timeout 10s
 	}
 	chain loopback {
-		tcp dport $CONTROL_PORT ip daddr 127.0.0.0/8 jump control_port
+		tcp flags & syn == syn goto opening
 		udp dport $DNS_PORT udp length < 20 drop
 		accept
+	}
+	chain opening {
+		tcp flags & ack == ack goto answering
+		$(tors_key "$1") update @tors_own { ip saddr . tcp sport . ip daddr . tcp dport } accept
+		delete @tors_own { ip saddr . tcp sport . ip daddr . tcp dport }
+		tcp dport $CONTROL_PORT ip daddr 127.0.0.0/8 goto control_port
+		accept
+	}
+	chain control_port {
+		meta skuid { $users } accept
+		reject with tcp reset
+	}
+	chain answering {
+		$ports meta skuid $1 accept
+		$ports reject with tcp reset
+		ip daddr . tcp dport . ip saddr . tcp sport @tors_own accept
+		meta skuid $1 reject with tcp reset
+		meta skuid 0-4294967294 accept
+		reject with tcp reset
 	}
 	chain redirected {
 		udp dport $DNS_PORT udp length < 20 drop
@@ -83,19 +130,26 @@ END
 }
 
 # print_proxy_rules TOR_UID USER_UID: everything may leave, but names are looked up through Tor. What could not be
-# redirected (connections older than the rules, DNS over TCP) is refused.
+# redirected (connections older than the rules, DNS over TCP or TLS) is refused. What is bound to this computer's own address is
+# reached from this computer alone, also where route_localnet is on.
 print_proxy_rules() {
   print_table_head
-  print_redirect "$1" ''
+  print_redirect "$1" '' proxy 0
   print_side_chains "$1" "$2" ''
   cat <<END
 	chain output {
 		type filter hook output priority 0; policy accept;
-		meta skuid $1 accept
 		oif "lo" goto loopback
-		meta l4proto { tcp, udp } th dport 53 goto refused
+		$(tors_key "$1") accept
+		meta l4proto { tcp, udp } th dport { 53, 853 } goto refused
 		ip daddr 127.0.0.0/8 goto redirected
 		ip6 daddr ::1 goto redirected
+	}
+	chain input {
+		type filter hook input priority 0; policy accept;
+		iif "lo" accept
+		ip daddr 127.0.0.0/8 drop
+		ip6 daddr ::1 drop
 	}
 }
 END
@@ -125,34 +179,49 @@ print_local_matches() {
   for range in ${LAN6//,/}; do printf '\t\tip6 daddr %s goto local_network\n' "$range"; done
 }
 
-# print_strict_rules TOR_UID USER_UID LAN UDP SERVERS4 SERVERS6 GROUP: nothing leaves but Tor's own traffic.
+# print_strict_rules TOR_UID USER_UID LAN UDP SERVERS4 SERVERS6 GROUP NEAR: nothing leaves but Tor's own traffic.
 # LAN 1 opens the local network; UDP 1 lets Tor's account send UDP (snowflake); SERVERS4 and SERVERS6 are the
 # resolvers, joined by commas, that Tor's transports may ask, usually none; GROUP is the control group of the
-# applications without Tor, empty for none.
+# applications without Tor, empty for none; NEAR 1 lets Tor reach the local network, where one of its bridges is.
 # Only positive matches on the account: a packet without a socket matches neither "skuid X" nor "skuid != X".
+# What comes in for this computer's own address does so where route_localnet is on, and would reach Tor's ports from the
+# local network.
 # No "established" on output: connections from before the kill switch must not go on. Nor is Tor's traffic kept from
 # connection tracking, which would be cheaper: firewalls of other people's that let answers in by their state would
 # drop what is not tracked.
+# neighbours: the kernel's own packets belong to nobody; what a program makes up is no neighbour discovery, it could go anywhere.
 # The order is by how many packets take the way; each expression that a packet passes costs it some 10 ns, and asking
 # for its account some 80, so that is asked once.
 print_strict_rules() {
   print_table_head
-  print_redirect "$1" "${7-}"
+  print_redirect "$1" "${7-}" strict "$3"
   print_side_chains "$1" "$2" "${7-}"
   [[ $3 != 1 ]] || print_local_chains
   cat <<END
 	chain tors_account {
-		meta l4proto tcp accept
 END
-  [[ $4 != 1 ]] || printf '\t\tmeta l4proto udp accept\n'
   [[ -z $5 ]] || printf '\t\tip daddr { %s } udp dport 53 accept\n' "$5"
   [[ -z $6 ]] || printf '\t\tip6 daddr { %s } udp dport 53 accept\n' "$6"
+  if [[ $3 != 1 && ${8-} != 1 ]]; then
+    # Whoever has taken Tor over gets no further than anybody else. An opening packet is enough to look at.
+    cat <<END
+		tcp flags & syn == 0 accept
+		ip daddr { $LAN4 } goto refused
+		ip6 daddr { $LAN6 } goto refused
+END
+  fi
+  printf '\t\tmeta l4proto tcp accept\n'
+  [[ $4 != 1 ]] || printf '\t\tmeta l4proto udp accept\n'
   cat <<END
+	}
+	chain neighbours {
+		meta skuid 0-4294967294 goto refused
+		accept
 	}
 	chain output {
 		type filter hook output priority 0; policy drop;
-		meta skuid $1 jump tors_account
 		oif "lo" goto loopback
+		$(tors_key "$1") jump tors_account
 END
   [[ $3 != 1 ]] || print_local_matches
   cat <<END
@@ -160,7 +229,8 @@ END
 		ip6 daddr ::1 goto redirected
 		udp sport 68 udp dport 67 ip daddr { 255.255.255.255, $LAN4 } accept
 		udp sport 546 udp dport 547 ip6 daddr { ff02::1:2, fe80::/10 } accept
-		icmpv6 type { nd-router-solicit, nd-neighbor-solicit, nd-neighbor-advert } ip6 hoplimit 255 accept
+		icmpv6 type nd-router-solicit ip6 daddr ff02::2 ip6 hoplimit 255 accept
+		icmpv6 type { nd-neighbor-solicit, nd-neighbor-advert } ip6 hoplimit 255 goto neighbours
 		goto refused
 	}
 	chain forward {
@@ -180,6 +250,8 @@ END
 		type filter hook input priority 0; policy drop;
 		iif "lo" accept
 		ct state established ct direction reply accept
+		ip daddr 127.0.0.0/8 drop
+		ip6 daddr ::1 drop
 		ct state related icmp type { destination-unreachable, time-exceeded, parameter-problem } accept
 		ct state related icmpv6 type { destination-unreachable, packet-too-big, time-exceeded, parameter-problem } accept
 		udp sport 67 udp dport 68 accept
@@ -220,16 +292,28 @@ load_rules() {
   output=$(nft -f - 2>&1 <<<"$1") || die "The firewall rules were not accepted ($(first_line "$output"))."
 }
 
+# bridges_are_near: whether one of the bridges is on the local network, by its address or by that in its URL.
+bridges_are_near() {
+  local bridge
+  for bridge in ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"}; do
+    [[ ! $bridge =~ (^|[^0-9.])(10|192\.168|172\.(1[6-9]|2[0-9]|3[01])|169\.254)\.[0-9.]+ ]] || return 0
+    [[ ! $bridge =~ \[[Ff]([Ee][89AaBb]|[CcDd])[0-9A-Fa-f]*: ]] || return 0
+  done
+  return 1
+}
+
 # put_firewall MODE: keeps the text first, so that the rules can be put back by fix-dns.
 put_firewall() {
-  local text udp=0 servers4='' servers6=''
+  local text udp=0 near=0 servers4='' servers6=''
+  ready_groups
   if [[ $1 == strict ]]; then
     [[ -z $USED_SNOWFLAKE ]] || udp=1
+    ! bridges_are_near || near=1
     if transports_need_names; then
       servers4=$(list_servers 4 "$FORMER_RESOLVER")
       servers6=$(list_servers 6 "$FORMER_RESOLVER")
     fi
-    text=$(print_strict_rules "$TOR_UID" "$CALLER_UID" "$OPT_LAN" "$udp" "$servers4" "$servers6" "$EXEMPT_PATH")
+    text=$(print_strict_rules "$TOR_UID" "$CALLER_UID" "$OPT_LAN" "$udp" "$servers4" "$servers6" "$EXEMPT_PATH" "$near")
   else
     text=$(print_proxy_rules "$TOR_UID" "$CALLER_UID")
   fi
@@ -243,9 +327,14 @@ hold_rules() { { exec 7>>"$RULES_LOCK"; } && flock -w 10 7; }
 release_rules() { exec 7>&-; }
 
 # note_listing: what the watcher compares with.
-note_listing() {
-  local text
-  text=$(nft -s list table inet "$TABLE") && write_file "$LISTED" 0600 root "$text"$'\n'
+note_listing() { read_listing "$TABLE" && write_file "$LISTED" 0600 root "$LISTING"$'\n'; }
+
+# read_listing TABLE: sets LISTING to how the kernel tells it, without counters, without what a set has taken up meanwhile, and
+# without blanks, which not every nft puts in the same places.
+LISTING=''
+read_listing() {
+  LISTING=$(nft -s -t list table inet "$1") || return 1
+  LISTING=${LISTING//[[:blank:]]/}
 }
 
 undo_firewall() {

@@ -7,7 +7,8 @@ readonly GNOME_ENTRY=40-gnome
 readonly KDE_ENTRY=50-kde
 readonly ANSWER=$RUN/answer   # 0600; what a program of the user's printed
 readonly ANSWER_BYTES=262144
-readonly SESSION_SECONDS=5
+readonly SESSION_SECONDS=5    # a script that runs a program or two, and each program of a longer one
+readonly SESSION_LIMIT=15     # a script that runs a program for each setting; less than others wait for the lock
 readonly MAX_SETTING=65536    # bytes; a longer one could not be handed back in an argument
 
 # The user's own exceptions would go past Tor, so only this computer itself is excepted, and with LAN 1 the local
@@ -49,24 +50,36 @@ readonly GNOME_READ='
 [ "$(gsettings writable org.gnome.system.proxy mode)" = true ] || exit 3
 exec gsettings list-recursively org.gnome.system.proxy'
 
+# The beginning of scripts with many programs: one that hangs is given up as early as in a short script, and programs that are
+# only slow are not. Each stays in the group of processes that ends together.
+readonly IN_STEPS="
+step() { timeout --foreground -k 1 $SESSION_SECONDS \"\$@\"; }"
+
 # Arguments: "SCHEMA KEY VALUE" each. The mode comes last, when the rest is in place.
 # shellcheck disable=SC2016
-readonly GNOME_SET='
+readonly GNOME_SET="$IN_STEPS"'
 for line; do
   schema=${line%% *}; line=${line#* }
-  gsettings set "$schema" "${line%% *}" "${line#* }" || exit 1
+  step gsettings set "$schema" "${line%% *}" "${line#* }" || exit 1
 done'
 
 # Back to not being set, unless that is another value than before. Works without a session of the user as well.
 # shellcheck disable=SC2016
-readonly GNOME_RESTORE='
+readonly GNOME_RESTORE="$IN_STEPS"'
 if [ ! -S "$XDG_RUNTIME_DIR/bus" ] && [ -z "$INNER" ]; then
   INNER=1 exec dbus-run-session -- sh -c "$0" "$0" "$@"
 fi
 for line; do
-  schema=${line%% *}; line=${line#* }; key=${line%% *}; value=${line#* }
-  gsettings reset "$schema" "$key" || exit 1
-  [ "$(gsettings get "$schema" "$key")" = "$value" ] || gsettings set "$schema" "$key" "$value" || exit 1
+  schema=${line%% *}; line=${line#* }
+  step gsettings reset "$schema" "${line%% *}" || exit 1
+done
+end="
+"
+now=$end$(step gsettings list-recursively org.gnome.system.proxy)$end || exit 1
+for line; do
+  case $now in *"$end$line$end"*) continue ;; esac
+  schema=${line%% *}; line=${line#* }
+  step gsettings set "$schema" "${line%% *}" "${line#* }" || exit 1
 done'
 
 # shellcheck disable=SC2016
@@ -101,12 +114,13 @@ fi'
 # as_session SCRIPT [ARGUMENT...]: runs it as the user of the session; what it prints goes to $ANSWER. No more than would be
 # read: else it could fill the disk. Whoever keeps the pipe open is not waited for.
 as_session() {
-  local script=$1
+  local script=$1 seconds=$SESSION_SECONDS
   shift
+  [[ $script != "$IN_STEPS"* ]] || seconds=$SESSION_LIMIT
   rm -f -- "$ANSWER"
-  as_caller "$SESSION_SECONDS" env XDG_RUNTIME_DIR="/run/user/$CALLER_UID" INNER= \
+  as_caller "$seconds" env XDG_RUNTIME_DIR="/run/user/$CALLER_UID" INNER= \
     DBUS_SESSION_BUS_ADDRESS="unix:path=/run/user/$CALLER_UID/bus" sh -c "$script" "$script" "$@" |
-    take_output $((SESSION_SECONDS + 2)) "$ANSWER_BYTES" >"$ANSWER"
+    take_output $((seconds + 2)) "$ANSWER_BYTES" >"$ANSWER"
 }
 
 # be_session_user UID: makes UID, of a journal entry, the one that as_session acts for.

@@ -36,12 +36,14 @@ linux_connect() {
     former=''
   fi
   if [[ $former == strict ]]; then
+    guard_session
     STAYS_CLOSED=" The network stays blocked until you disconnect."
   else
     ON_FAILURE=undo
   fi
   journal_has "$FIREWALL_ENTRY" || journal_put "$FIREWALL_ENTRY" "table $TABLE" || die "The journal cannot be written."
   note_owner
+  note_asked
   [[ $mode != strict ]] || ready_exempt
   if [[ $former != strict || $mode == strict ]]; then
     switch_firewall "$mode"
@@ -114,8 +116,8 @@ undo_session() {
     # The desktop's settings, the service and the group are not the network: they are tried again by the next run.
     [[ $status != 1 || $name == "$GNOME_ENTRY" || $name == "$KDE_ENTRY" || $name == "$SERVICE_ENTRY" || $name == "$EXEMPT_ENTRY" ]] || open=''
   done
-  [[ -z $open ]] || rm -f -- "$MARKER" "$OWNER" "$RULES" "$LISTED" "$OTHERS_NOTE"
-  rm -f -- "$MARKER.new" "$OWNER.new" "$RULES.new" "$LISTED.new" "$WATCHER" "$WATCHER.new" "$KILL_SWITCH_NOTE" "$KILL_SWITCH_NOTE.new" "$STATE/relocked" "$TORRC.checked" "$JOURNAL"/*.new
+  [[ -z $open ]] || rm -f -- "$MARKER" "$ASKED" "$OWNER" "$RULES" "$LISTED" "$OTHERS_NOTE"
+  rm -f -- "$MARKER.new" "$ASKED.new" "$OWNER.new" "$RULES.new" "$LISTED.new" "$WATCHER" "$WATCHER.new" "$KILL_SWITCH_NOTE" "$KILL_SWITCH_NOTE.new" "$STATE/relocked" "$TORRC.checked" "$JOURNAL"/*.new
   [[ -z $open || ! -e $MARKER ]] || reason=${reason:-"The network is open again, but the session marker cannot be removed from $STATE."}
   [[ -n $reason || -z $(compgen -G "$JOURNAL/*") ]] || reason="The network is open again, but the journal in $JOURNAL cannot be cleared."
   UNDONE=$reason
@@ -136,7 +138,7 @@ linux_fix-dns() {
   ((status == 0)) || die "Veldmark is not connected, so the DNS settings were left alone."
   if [[ -f $RULES ]]; then
     hold_rules || die "Somebody else is changing the firewall. Try again in a moment."
-    make_group || true
+    make_groups
     load_rules "$(<"$RULES")"
     note_listing || die "The file $LISTED cannot be written."
     release_rules

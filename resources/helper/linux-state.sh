@@ -6,12 +6,18 @@ readonly STATE=$BASE/state        # 0755; holds the session marker
 readonly MARKER=$STATE/active     # 0644; "strict" or "proxy": the network is set up for Tor
 readonly JOURNAL=$BASE/journal    # 0700; what was there before each change, one file per change
 readonly RUN=$BASE/run            # 0755; Tor's configuration, data and logs
-readonly DATA=$RUN/data           # 0700, Tor's account; kept between sessions so that entry guards are
+readonly TOR_PLACE=$RUN/tor        # 0710, root and Tor's group: nobody else reaches what Tor's account leaves in
+readonly DATA=$TOR_PLACE/data     # 0700, Tor's account; kept between sessions so that entry guards are
 readonly PROGRAMS=$BASE/programs  # 0755; approved copies, SHA-256/NAME
+readonly ASKED=$BASE/asked        # 0600; what the running session was asked for
+readonly PROGRAM_PLACES='^/(usr|opt)/.'
 readonly LOCK=/run/veldmark.lock
 readonly LOCK_SECONDS=20
 readonly INSTALLED=/usr/local/libexec/veldmark
 readonly SUDO_DRAFT=/run/veldmark.sudoers   # 0440; checked here first
+
+# Below 1024, so that nobody but root and Tor can bind there beside it and get what others ask.
+readonly DNS_PORT=293
 
 readonly TOR_ACCOUNT=_veldmark
 TOR_UID='' TOR_GID=''
@@ -24,6 +30,8 @@ CALLER_NAME='' CALLER_GID='' CALLER_HOME=''
 take_lock() {
   trap '' INT TERM HUP QUIT PIPE TSTP
   cd /
+  leave_caller
+  trap finish EXIT
   [[ ! -L $LOCK ]] || die "The lock file $LOCK is a link, so nothing was done."
   { exec 9>>"$LOCK"; } || die "The lock file $LOCK cannot be opened."
   flock -w "$LOCK_SECONDS" 9 || die "Another run of the helper is still working. Try again in a moment."
@@ -80,6 +88,11 @@ ready_folders() {
 
 # Tor refuses a data folder of somebody else's; one left by a former account cannot be used any more.
 ready_data_folder() {
+  if [[ $(stat -c '%u %g %a %F' -- "$TOR_PLACE") != "0 $TOR_GID 710 directory" ]]; then
+    rm -rf -- "$TOR_PLACE"
+    { mkdir -m 0710 -- "$TOR_PLACE" && chown -- "0:$TOR_GID" "$TOR_PLACE"; } || die "The folder $TOR_PLACE cannot be created."
+    [[ ! -d $RUN/data || -L $RUN/data ]] || mv -T -- "$RUN/data" "$DATA" || true   # where it was in earlier versions
+  fi
   if [[ -e $DATA || -L $DATA ]] &&
     [[ $(stat -c '%u %F' -- "$DATA") != "$TOR_UID directory" ]]; then
     rm -rf -- "$DATA"
@@ -115,9 +128,11 @@ ready_account() {
 # default signal handling, no descriptor of ours, and killed when it takes longer. `timeout`, which is root's, keeps the
 # lock: when this shell is killed, the next run must not begin while the command still changes things.
 as_account() {
-  local uid=$1 gid=$2 groups=$3 home=$4 seconds=$5
+  local uid=$1 gid=$2 groups=$3 home=$4 seconds=$5 group=''
+  [[ $uid != "$CALLER_UID" ]] || group=$HOME_GROUP   # a user's own programs are of the user's group
   shift 5
-  timeout -k 1 "$seconds" /bin/bash -p -c 'exec 9>&-; exec "$@"' as_account \
+  # shellcheck disable=SC2016
+  timeout -k 1 "$seconds" /bin/bash -p -c 'exec 9>&-; [[ -z $0 ]] || printf "0\n" >"$0/cgroup.procs"; exec "$@"' "$group" \
     env -i --default-signal PATH="$PATH" LC_ALL=C HOME="$home" \
     setpriv --reuid "$uid" --regid "$gid" "$groups" --no-new-privs --bounding-set=-all --inh-caps=-all \
     --ambient-caps=-all "$@" 8>&-
@@ -138,6 +153,22 @@ print_modes() { stat -c '%a %u %F' -- "$@"; }
 
 # real_path PATH: free of links; fails when it does not exist.
 real_path() { readlink -e -- "$1"; }
+
+# on_own_mount PATH: whether the file system that PATH, root's alone, lies on was mounted for programs of the system. What
+# users may mount (a medium on the desktop, FUSE, fstab's "user") is always without setuid programs.
+on_own_mount() {
+  local file key value id='' mount rest options kind
+  { exec {file}<"$1"; } || return 1
+  while read -r key value; do
+    [[ $key != mnt_id: ]] || id=$value
+  done <"/proc/self/fdinfo/$file"
+  exec {file}<&-
+  while read -r mount rest rest rest rest options rest; do
+    kind=${rest#*"- "}
+    [[ $mount != "$id" ]] || { [[ ,$options, != *,nosuid,* && $kind != fuse* ]] && return 0; return 1; }
+  done </proc/self/mountinfo
+  return 1
+}
 
 # print_sum: the SHA-256 of standard input.
 print_sum() { sha256sum; }

@@ -1,8 +1,8 @@
 
 # ---- Linux: running Tor ------------------------------------------------------------------------------------
-# Tor runs as its own account, without any capability, in mount and process namespaces of its own: it keeps the
-# resolvers as they were before the switch, cannot load code from places that users write, and its transports die
-# with it. It is known by process id and start time, never by name.
+# Tor runs as its own account, with no right of root's but that to the port for look-ups, in a control group and in mount and process
+# namespaces of its own: it keeps the resolvers as they were before the switch, cannot load code from places that users write, leaves
+# nothing behind that others could run, and its transports die with it. It is known by process id and start time, never by name.
 
 readonly TOR_ENTRY=20-tor
 readonly START_OUT=$RUN/start.out  # what Tor prints before its log stands
@@ -10,18 +10,34 @@ readonly LAUNCHER_OUT=$RUN/launcher.out   # what the programs that lead up to To
 readonly START_POLLS=500   # of about 20 ms: Tor opens its control port within 10 s or it failed
 readonly STOP_POLLS=200    # of about 20 ms: Tor has about 4 s to end by itself
 
-# Runs as root in the new namespaces: RESOLVERS TARGET COMMAND... COMMAND gives up root.
+# Runs as root in the new namespaces: RESOLVERS TARGET DATA LOG COMMAND... COMMAND gives up root. What Tor's account may write is its
+# data, its log and three places in memory that nobody else sees; everything else can only be read, so that it leaves no program for a
+# later session or for others. What is mounted later comes in and goes again, since the mounts are slaves of the system's.
 # shellcheck disable=SC2016
 readonly INSIDE='
 set -eu
+data=$3 log=$4
 if [ -n "$2" ] && [ -e "$2" ]; then mount --bind -- "$1" "$2"; fi
-shift 2
+shift 4
 for socket in /run/systemd/resolve/io.systemd.Resolve /run/nscd/socket; do
   if [ -S "$socket" ]; then mount --bind /dev/null "$socket"; fi
 done
-for place in /home /tmp /var/tmp /dev/shm /run/user /media /mnt; do
-  if [ -d "$place" ] && [ ! -L "$place" ]; then mount -o bind,nosuid,nodev,noexec "$place" "$place"; fi
+for place in /home /run/user /media /mnt; do
+  if [ -d "$place" ] && [ ! -L "$place" ]; then mount -o bind,ro,nosuid,nodev,noexec "$place" "$place"; fi
 done
+for place in /tmp /var/tmp /dev/shm; do
+  if [ -d "$place" ] && [ ! -L "$place" ]; then mount -t tmpfs -o mode=1777,size=16m,nosuid,nodev,noexec private "$place"; fi
+done
+mount -o bind,nosuid,nodev,noexec "$data" "$data"
+mount --bind "$log" "$log"
+while read -r _ _ _ _ point flags _; do
+  case $point in
+  "$data" | "$log" | /tmp | /var/tmp | /dev | /dev/* | /proc | /proc/* | /sys | /sys/*) continue ;;
+  esac
+  case $flags in
+  rw*) mount -o "remount,bind,ro${flags#rw},nosuid" "$(printf "%b" "$point")" || : ;;
+  esac
+done <<<"$(</proc/self/mountinfo)"
 exec "$@"
 '
 
@@ -81,11 +97,12 @@ recorded_pid() {
 
 launch_tor() {
   become_recorded "$TOR_ENTRY"
+  ! find_tree || enter_group "$TREE/$TOR_GROUP" || true
   exec env -i --default-signal PATH="$PATH" LC_ALL=C HOME="$DATA" \
-    setsid unshare --mount --propagation private --pid --fork --kill-child \
-    /bin/bash -p -c "$INSIDE" inside "$TOR_RESOLVER" "$RESOLVER_TARGET" \
-    setpriv --reuid "$TOR_UID" --regid "$TOR_GID" --clear-groups --no-new-privs --bounding-set=-all \
-    --inh-caps=-all --ambient-caps=-all --pdeathsig KILL \
+    setsid unshare --mount --propagation slave --pid --fork --kill-child \
+    /bin/bash -p -c "$INSIDE" inside "$TOR_RESOLVER" "$RESOLVER_TARGET" "$DATA" "$NOTICES" \
+    setpriv --reuid "$TOR_UID" --regid "$TOR_GID" --clear-groups --no-new-privs --bounding-set=-all,+net_bind_service \
+    --inh-caps=-all,+net_bind_service --ambient-caps=-all,+net_bind_service --pdeathsig KILL \
     "$OPT_TOR" -f "$TORRC"
 }
 
@@ -99,12 +116,13 @@ tor_listens() {
   return 1
 }
 
-# ready_logs: empties the log files; the session's user may read them.
+# ready_logs: empties the log files. Tor writes them by its group, the session's user alone may read them: the user's own
+# group may be everybody's.
 ready_logs() {
   rm -f -- "$NOTICES" "$START_OUT" "$LAUNCHER_OUT" &&
     : >"$NOTICES" && : >"$START_OUT" && : >"$LAUNCHER_OUT" &&
-    chown -- "$TOR_UID:$CALLER_GID" "$NOTICES" "$START_OUT" "$LAUNCHER_OUT" &&
-    chmod 0640 -- "$NOTICES" "$START_OUT" "$LAUNCHER_OUT"
+    chown -- "$CALLER_UID:$TOR_GID" "$NOTICES" "$START_OUT" "$LAUNCHER_OUT" &&
+    chmod 0460 -- "$NOTICES" "$START_OUT" "$LAUNCHER_OUT"
 }
 
 tor_failure() {

@@ -9,25 +9,34 @@ readonly WATCHER_ENTRY=15-watcher
 readonly WATCHER=$RUN/watcher.sh          # 0600
 readonly KILL_SWITCH_NOTE=/run/veldmark.watch   # 0644; note.sh says what it holds
 readonly WATCH_SECONDS=3                  # a look without any word from the kernel
+readonly BEAT_SECONDS=0.5                 # how often the note is written, so that a watcher that was stopped is missed at once
 
 # rules_stand: whether the kernel holds our table as it was loaded.
 rules_stand() {
-  local now
-  now=$(nft -s list table inet "$TABLE") && [[ $now == "$(<"$LISTED")" ]]
+  read_listing "$TABLE" && [[ $LISTING == "$(<"$LISTED")" ]]
 }
 
 # relock: the rules again, unless a run of the helper has changed or opened them meanwhile. The same text gives the same
 # listing, so that is noted anew only when it was another text: somebody is changing rules just now, and what is noted
 # then could be his.
+STRUGGLES=0   # how often in a row the rules did not stand as soon as they were loaded
 LESSENED=''   # 1 while the rules without their exemption are loaded
 relock() {
   local word=restored text
   hold_rules || return 0
   if [[ $(read_marker) == strict ]] && ! rules_stand; then
     text=$(<"$RULES")
-    make_group || true   # the rules name it, and it may be gone
+    make_groups   # the rules name them, and they may be gone
     if nft -f - <<<"$text"; then
-      [[ -z $LESSENED ]] || { note_listing && LESSENED=''; } || true
+      if [[ -n $LESSENED ]]; then
+        { note_listing && LESSENED=''; } || true
+      elif ! rules_stand; then
+        # Either nft words the same rules in another way now, or somebody changes them as fast as we do.
+        if copy_stands "$text"; then note_listing && word=standing || true; else STRUGGLES=$((STRUGGLES + 1)); fi
+        ((STRUGGLES < 3)) || sleep "$BEAT_SECONDS"
+      else
+        STRUGGLES=0
+      fi
     elif nft -f - <<<"$(print_unexempt "$text")"; then
       # Without its group the exemption cannot be loaded; the lock can.
       LESSENED=1
@@ -40,6 +49,19 @@ relock() {
   release_rules
 }
 
+# copy_stands TEXT: whether the kernel's listing is that of the rules, by a copy of them that takes no part in anything.
+copy_stands() {
+  local copy=$TABLE-copy now text
+  read_listing "$TABLE" || return 1
+  now=$LISTING
+  text=${1//"table inet $TABLE"/"table inet $copy"}
+  nft -f - <<<"${text/"$copy {"/"$copy { flags dormant;"}" || return 1
+  read_listing "$copy" || LISTING=''
+  nft delete table inet "$copy"
+  LISTING=${LISTING/"tableinet$copy"/"tableinet$TABLE"}
+  [[ ${LISTING/$'flagsdormant\n\n'/} == "$now" ]]
+}
+
 # print_unexempt TEXT: the rules without those that name the exempt group.
 print_unexempt() {
   local line
@@ -48,41 +70,64 @@ print_unexempt() {
   done <<<"$1"
 }
 
+# monitor_rules: becomes nft's monitor, which dies with the watcher, also one that has died before this could be arranged.
+# shellcheck disable=SC2016
+monitor_rules() { exec setpriv --pdeathsig KILL sh -c '[ "$PPID" != "$1" ] || exec nft monitor' monitor "$$"; }
+
+# beat: the note once more as it is, in place, by this shell alone. On descriptor 3, since `declare -f` prints 1<> as <>.
+beat() {
+  [[ -z $NOTED || ! -f $KILL_SWITCH_NOTE ]] || printf '%s\n' "$NOTED" 3<>"$KILL_SWITCH_NOTE" >&3
+}
+
+# await_change: until the kernel has told something, or a look is due. Status 1 when the kernel tells nothing any more.
+await_change() {
+  local status many until=$((SECONDS + WATCH_SECONDS))
+  while ((SECONDS < until)); do
+    status=0
+    IFS= read -r -t "$BEAT_SECONDS" -u 4 _ || status=$?
+    beat || true
+    ((status != 0)) || break
+    ((status > 128)) || return 1
+  done
+  # One look for all that came at once.
+  for ((many = 0; many < 1000; many++)); do
+    IFS= read -r -t 0.001 -u 4 _ || break
+  done
+}
+
 watch_rules() {
-  local status many
-  exec 4< <(exec setpriv --pdeathsig KILL nft monitor)
+  local again
+  exec 4< <(monitor_rules)
   while [[ $(read_marker) == strict ]]; do
     if rules_stand; then
       note_rules standing || true
     else
       relock
     fi
-    status=0
-    IFS= read -r -t "$WATCH_SECONDS" -u 4 _ || status=$?
-    if ((status == 0)); then
-      # One look for all that came at once.
-      for ((many = 0; many < 1000; many++)); do
-        IFS= read -r -t 0.001 -u 4 _ || break
+    await_change || {
+      # Look on, and ask again.
+      for ((again = 0; again < 2 * WATCH_SECONDS; again++)); do
+        sleep "$BEAT_SECONDS"
+        beat || true
       done
-    elif ((status <= 128)); then
-      sleep "$WATCH_SECONDS"   # the kernel tells nothing (any more): look on, and ask again
-      exec 4< <(exec setpriv --pdeathsig KILL nft monitor)
-    fi
+      exec 4< <(monitor_rules)
+    }
   done
 }
 
 print_watcher() {
   printf 'set -uo pipefail\numask 077\nPATH=%s\nLC_ALL=C\nexport PATH LC_ALL\ncd /\n' "$PATH"
-  declare -p TABLE RULES LISTED RULES_LOCK MARKER KILL_SWITCH_NOTE WATCH_SECONDS EXEMPT_NAME CGROUPS \
+  declare -p TABLE RULES LISTED RULES_LOCK MARKER KILL_SWITCH_NOTE WATCH_SECONDS BEAT_SECONDS EXEMPT_NAME RUN_GROUP TOR_GROUP CGROUPS \
     WORD MISSED SINCE NOTED
-  printf 'LESSENED= EXEMPT_FOLDER=\n'
-  declare -f read_marker put_in_place write_file note_rules hold_rules release_rules note_listing rules_stand find_exempt make_group \
-    print_unexempt relock watch_rules
+  printf 'STRUGGLES=0 LESSENED= LISTING= TREE=\n'
+  declare -f read_marker put_in_place write_file note_rules hold_rules release_rules note_listing rules_stand find_tree make_group make_groups read_listing copy_stands \
+    print_unexempt relock monitor_rules beat await_change watch_rules
   printf 'watch_rules\n'
 }
 
 launch_watcher() {
   become_recorded "$WATCHER_ENTRY"
+  printf -- '-1000\n' >/proc/self/oom_score_adj || true   # the last to go where memory is short
   exec env -i --default-signal PATH="$PATH" LC_ALL=C setsid /bin/bash -p -- "$WATCHER"
 }
 

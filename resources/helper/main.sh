@@ -2,7 +2,7 @@
 # ---- Start -------------------------------------------------------------------------------------------------
 
 main() {
-  local verb=${1-}
+  VERB=${1-}
   clean_environment "$@"
   open_messages
   SELF=$0
@@ -13,13 +13,18 @@ main() {
   *) die "This helper is made for another system." ;;
   esac
   [[ $SYSTEM != darwin ]] || find_caller
-  case $verb in
-  connect | disconnect | fix-dns | launch | install-privileged | uninstall-privileged) shift ;;
+  case $VERB in
+  connect | replace | approve | disconnect | fix-dns | launch | install-privileged | uninstall-privileged) shift ;;
   *) die "The helper was not given a verb that it knows." ;;
   esac
-  case $verb in
-  *-privileged) "any_$verb" "$@" ;;
-  *) "${SYSTEM}_$verb" "$@" ;;
+  if (($# == 1)) && [[ $1 == - ]]; then
+    read_words
+    set -- ${WORDS[@]+"${WORDS[@]}"}
+  fi
+  case $VERB in
+  replace) "${SYSTEM}_connect" "$@" ;;
+  approve | *-privileged) "any_$VERB" "$@" ;;
+  *) "${SYSTEM}_$VERB" "$@" ;;
   esac
 }
 

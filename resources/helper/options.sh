@@ -7,10 +7,30 @@ OPT_BRIDGES=()
 OPT_LYREBIRD='' OPT_SNOWFLAKE='' OPT_WEBTUNNEL=''
 OPT_USER='' OPT_LAUNCH=''
 OPT_UID='' OPT_APP=''
+OPT_PROGRAM='' OPT_AS='' OPT_SHA256=''
 
 readonly MAX_BRIDGES=100
 readonly MAX_VALUE=4096   # bytes
+readonly MAX_WORDS=300
 readonly BRIDGE_PATTERN='^([a-z][a-z0-9_]* )?\[?[0-9A-Fa-f.:]+\]?:[0-9]+( [!-~]+)*$'
+
+# read_words: sets WORDS to the lines of standard input, up to a last one that is "end", so that words that were cut short
+# are none. Options come this way where nobody else is to see them on a command line.
+WORDS=()
+read_words() {
+  local line words=0 status=0
+  while ((words++ <= MAX_WORDS)); do
+    status=0
+    IFS= read -r -n "$((MAX_VALUE + 1))" line || status=$?
+    if ((status == 0)) && [[ $line == end ]]; then
+      exec </dev/null
+      return
+    fi
+    ((status == 0)) || die "The options on standard input are not complete."
+    WORDS[${#WORDS[@]}]=$line
+  done
+  die "There are too many options on standard input."
+}
 
 # take NAME OPTION VALUE: stores a single option, once.
 take() {
@@ -46,6 +66,9 @@ parse_options() {
     --launch) take OPT_LAUNCH "$option" "$value" ;;
     --uid) take OPT_UID "$option" "$value" ;;
     --app) take OPT_APP "$option" "$value" ;;
+    --program) take OPT_PROGRAM "$option" "$value" ;;
+    --as) take OPT_AS "$option" "$value" ;;
+    --sha256) take OPT_SHA256 "$option" "$value" ;;
     --bridge)
       ((${#OPT_BRIDGES[@]} < MAX_BRIDGES)) || die "More than $MAX_BRIDGES bridges were given."
       OPT_BRIDGES[${#OPT_BRIDGES[@]}]=$value

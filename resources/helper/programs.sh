@@ -1,11 +1,13 @@
 
 # ---- Which programs may run as Tor's account ---------------------------------------------------------------
-# Whatever runs as Tor's account passes the kill switch, so under the password-free rule only two kinds run:
-# programs that root alone can change, and exact copies of what an administrator approved in a prompted run.
+# Whatever runs as Tor's account passes the kill switch, so only two kinds run: the system's own programs of a known
+# name, and exact copies of what an administrator approved by the verb approve, whose prompt names path and digest.
+# The system's own part brings PROGRAM_PLACES and on_own_mount.
 
 PROGRAM=''   # the result of ready_program
 
 readonly MAX_PROGRAM_BYTES=200000000
+readonly NEW_PROGRAM=$PROGRAMS/new
 
 # every_part PATH PATTERN: whether "MODE UID KIND" matches PATTERN for PATH and every folder above it.
 every_part() {
@@ -22,6 +24,22 @@ every_part() {
 # root_owned PATH: PATH, free of links, and every folder above it are root's to change alone.
 root_owned() { every_part "$1" '^[0-7]*[0145][0145] 0 '; }
 
+# name_fits ROLE NAME: an interpreter, or a program that starts others, is root's too, so only these names go unasked.
+name_fits() {
+  case $1:$2 in
+  tor:tor | lyrebird:lyrebird | lyrebird:obfs4proxy | lyrebird:meek-client) ;;
+  snowflake-client:snowflake-client | snowflake-client:lyrebird) ;;
+  webtunnel-client:webtunnel-client | webtunnel-client:webtunnel | webtunnel-client:lyrebird) ;;
+  *) return 1 ;;
+  esac
+}
+
+# systems_own PATH ROLE: whether PATH, free of links, is a program that nobody has to be asked for. A file of root's on
+# a medium that a user mounted is none: whoever made the medium chose its owner.
+systems_own() {
+  [[ $1 =~ $PROGRAM_PLACES ]] && name_fits "$2" "${1##*/}" && root_owned "$1" && on_own_mount "$1"
+}
+
 # open_to_all PATH: any account can reach and run it.
 open_to_all() { every_part "$1" '^[0-7]*[1357] '; }
 
@@ -34,38 +52,74 @@ print_file() {
   fi
 }
 
-# ready_program PATH NAME: sets PROGRAM to what may be run for PATH, a path of safe characters only, which Tor's
-# configuration can hold unquoted. NAME is the file name that a copy gets.
-ready_program() {
-  local path sum copy new=$PROGRAMS/new owned=''
-  path=$(real_path "$1" && printf x) || die "The program $1 cannot be found."
-  path=${path%$'\n'x}
-  # An interpreter is root's too, so as Tor only a program of that name goes unasked.
-  if [[ $2 != tor || ${path##*/} == tor ]] && root_owned "$path"; then
-    owned=1
-    if [[ $path =~ ^[A-Za-z0-9._/+-]+$ ]] && open_to_all "$path"; then
-      PROGRAM=$path
-      return
-    fi
-  fi
-  rm -f -- "$new"
+# find_program PATH: sets PROGRAM to it, free of links.
+find_program() {
+  PROGRAM=$(real_path "$1" && printf x) || die "The program $1 cannot be found."
+  PROGRAM=${PROGRAM%$'\n'x}
+}
+
+# copy_program PATH: leaves its content, as it is now, in $NEW_PROGRAM and its digest in DIGEST.
+DIGEST=''
+copy_program() {
+  rm -f -- "$NEW_PROGRAM"
   set -o noclobber
-  : >"$new" || die "The folder $PROGRAMS cannot be written."
+  : >"$NEW_PROGRAM" || die "The folder $PROGRAMS cannot be written."
   set +o noclobber
-  print_file "$path" >"$new" || { rm -f -- "$new"; die "The program $path cannot be copied."; }
-  sum=$(print_sum <"$new") && sum=${sum%% *}
-  [[ $sum =~ ^[0-9a-f]{64}$ ]] || die "The program $path cannot be copied."
-  copy=$PROGRAMS/$sum/$2
-  if [[ ! -f $copy ]]; then
-    if [[ -z $owned && -z $PROMPTED ]]; then
-      rm -f -- "$new"
-      die "An administrator password is needed to approve $path."
-    fi
-    [[ -d $PROGRAMS/$sum ]] || mkdir -m 0755 -- "$PROGRAMS/$sum" || die "The folder $PROGRAMS cannot be written."
-    { chmod 0755 -- "$new" && put_in_place "$new" "$copy"; } || die "The program $path cannot be copied."
+  print_file "$1" >"$NEW_PROGRAM" && DIGEST=$(print_sum <"$NEW_PROGRAM") && DIGEST=${DIGEST%% *} &&
+    [[ $DIGEST =~ ^[0-9a-f]{64}$ ]] && return 0
+  rm -f -- "$NEW_PROGRAM"
+  die "The program $1 cannot be copied."
+}
+
+# keep_copy ROLE: puts what copy_program has left where it may be run from.
+keep_copy() {
+  [[ -d $PROGRAMS/$DIGEST ]] || mkdir -m 0755 -- "$PROGRAMS/$DIGEST" || die "The folder $PROGRAMS cannot be written."
+  { chmod 0755 -- "$NEW_PROGRAM" && put_in_place "$NEW_PROGRAM" "$PROGRAMS/$DIGEST/$1"; } ||
+    die "The copy of the program cannot be put into $PROGRAMS."
+}
+
+# ready_program PATH ROLE: sets PROGRAM to what may be run for PATH, a path of safe characters only, which Tor's
+# configuration can hold unquoted.
+ready_program() {
+  local owned=''
+  find_program "$1"
+  if systems_own "$PROGRAM" "$2"; then
+    owned=1
+    if [[ $PROGRAM =~ ^[A-Za-z0-9._/+-]+$ ]] && open_to_all "$PROGRAM"; then return; fi
   fi
-  rm -f -- "$new"
-  PROGRAM=$copy
+  copy_program "$PROGRAM"
+  if [[ ! -f $PROGRAMS/$DIGEST/$2 ]]; then
+    if [[ -z $owned ]]; then
+      rm -f -- "$NEW_PROGRAM"
+      unapproved "An administrator password is needed to approve $PROGRAM."
+    fi
+    keep_copy "$2"
+  fi
+  rm -f -- "$NEW_PROGRAM"
+  PROGRAM=$PROGRAMS/$DIGEST/$2
+}
+
+# any_approve: from now on a program of the user's may run as Tor's account, in that one role and with that very content,
+# which was read, and named with its path and digest, before anybody was asked.
+any_approve() {
+  parse_options " --program --as --sha256 " "$@"
+  [[ -n $OPT_PROGRAM ]] || die "The option --program is missing."
+  [[ $OPT_AS =~ ^(tor|lyrebird|snowflake-client|webtunnel-client)$ ]] ||
+    die "The value of --as must be tor, lyrebird, snowflake-client or webtunnel-client."
+  [[ $OPT_SHA256 =~ ^[0-9a-f]{64}$ ]] || die "The value of --sha256 must be 64 small hexadecimal digits."
+  check_program --program "$OPT_PROGRAM"
+  [[ -n $PROMPTED ]] || unapproved "An administrator password is needed to approve $OPT_PROGRAM."
+  take_lock
+  trap finish EXIT
+  ready_account
+  ready_folders
+  find_program "$OPT_PROGRAM"
+  copy_program "$PROGRAM"
+  if [[ $DIGEST != "$OPT_SHA256" ]]; then
+    rm -f -- "$NEW_PROGRAM"
+    die "The program $OPT_PROGRAM is not the one that was to be approved."
+  fi
+  keep_copy "$OPT_AS"
 }
 
 ready_programs() {

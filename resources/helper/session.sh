@@ -1,6 +1,6 @@
 
 # ---- What connect and disconnect share on every system -----------------------------------------------------
-# The system's own part brings undo_session and MARKER.
+# The system's own part brings undo_session, end_run and MARKER.
 
 ON_FAILURE=''   # "undo" while a failure must put everything back; empty before the first change and where the
                 # kill switch stays closed
@@ -26,6 +26,7 @@ finish() {
       undo_session
     fi
   fi
+  end_run || true
   exit "$status"
 }
 
@@ -39,4 +40,34 @@ read_marker() {
 
 put_marker() {
   write_file "$MARKER" 0644 root "$1"$'\n' || die "The session marker cannot be written."
+}
+
+# ---- What a strict session was asked for -------------------------------------------------------------------
+# A strict session may be ended without a password where the rule says so. Without one it is not lessened while it
+# runs: no proxy mode, no open local network, no other password, exit, bridges or programs.
+
+# print_asked LAN: the checked options, programs as they will run.
+print_asked() {
+  printf '%s\n' "lan $1" "hash $OPT_HASH" "exit $OPT_EXIT" "tor $OPT_TOR"
+  printf '%s\n' "lyrebird $USED_LYREBIRD $OPT_LYREBIRD" "snowflake $USED_SNOWFLAKE $OPT_SNOWFLAKE" \
+    "webtunnel $USED_WEBTUNNEL $OPT_WEBTUNNEL" ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]/#/bridge }"}
+}
+
+note_asked() { write_file "$ASKED" 0600 root "$(print_asked "$OPT_LAN")"$'\n' || die "The file $ASKED cannot be written."; }
+
+# lessens: whether what is asked for now is anything but the running session again, or that with a closed local network.
+lessens() {
+  local asked=''
+  [[ $OPT_STRICT == 1 && -f $ASKED && ! -L $ASKED ]] && asked=$(<"$ASKED") || return 0
+  [[ $asked != "$(print_asked "$OPT_LAN")" ]] || return 1
+  [[ $OPT_LAN != 0 || $asked != "$(print_asked 1)" ]]
+}
+
+# guard_session: for a connect while a strict session runs. The dialog of connect does not say that it would be lessened;
+# that of replace does. Who ran us by hand has said it all.
+guard_session() {
+  [[ -n $PROMPTED && (-z $BY_DIALOG || $VERB == replace) ]] || ! lessens || {
+    rm -f -- "$TORRC.checked"
+    unapproved "An administrator password is needed to change the strict session that is running."
+  }
 }

@@ -1,7 +1,7 @@
 
 # ---- Tor's configuration -----------------------------------------------------------------------------------
 
-readonly SOCKS_PORT=9050 CONTROL_PORT=9051 DNS_PORT=9053
+readonly SOCKS_PORT=9050 CONTROL_PORT=9051   # DNS_PORT is the system's own part's
 readonly TORRC=$RUN/torrc          # root:_veldmark 0640; /etc/tor/torrc-defaults is read beneath it
 readonly NOTICES=$RUN/notices.log  # Tor's log
 

@@ -318,12 +318,12 @@
         <translation>nftables ist installiert, und der Kernel hat es.</translation>
     </message>
     <message>
-        <source>This system has no control groups of version 2, so no application can be opened without Tor. Everything else works.</source>
-        <translation>Dieses System hat keine Kontrollgruppen der Version 2, daher lässt sich keine Anwendung ohne Tor öffnen. Alles andere geht.</translation>
+        <source>This system has no control groups of version 2, so no application can be opened without Tor, and the kill switch knows Tor by its account alone. Everything else works.</source>
+        <translation>Dieses System hat keine Kontrollgruppen der Version 2, daher lässt sich keine Anwendung ohne Tor öffnen, und der Notschalter erkennt Tor allein an dessen Konto. Alles andere geht.</translation>
     </message>
     <message>
-        <source>The kernel (%1) is older than 5.13, so no application can be opened without Tor. Everything else works.</source>
-        <translation>Der Kernel (%1) ist älter als 5.13, daher lässt sich keine Anwendung ohne Tor öffnen. Alles andere geht.</translation>
+        <source>The kernel (%1) is older than 5.13, so no application can be opened without Tor, and the kill switch knows Tor by its account alone. Everything else works.</source>
+        <translation>Der Kernel (%1) ist älter als 5.13, daher lässt sich keine Anwendung ohne Tor öffnen, und der Notschalter erkennt Tor allein an dessen Konto. Alles andere geht.</translation>
     </message>
     <message>
         <source>Applications can be opened without Tor: control groups of version 2 are there.</source>
@@ -332,6 +332,10 @@
     <message>
         <source>No other firewall that is known by name runs. The rules themselves are known to root only.</source>
         <translation>Keine andere dem Namen nach bekannte Firewall läuft. Die Regeln selbst kennt nur root.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out unless one of its rules allows it, so Tor may not get through: %1.</source>
+        <translation>Eine andere Firewall auf diesem Computer verwehrt ausgehende Verbindungen, die keine ihrer Regeln erlaubt; Tor kommt womöglich nicht durch: %1.</translation>
     </message>
     <message>
         <source>Other programs set firewall rules here: %1. Veldmark leaves their rules alone. Rules that drop packets can block Tor.</source>
@@ -390,12 +394,12 @@
         <translation>Den Port %1, den Tor braucht, belegt %2 (Prozess %3, Konto %4).</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s own Tor holds the ports 9050, 9051 and 9053.</source>
-        <translation>Veldmarks eigenes Tor belegt die Ports 9050, 9051 und 9053.</translation>
+        <source>Veldmark&apos;s own Tor holds the ports 9050, 9051 and 293.</source>
+        <translation>Veldmarks eigenes Tor belegt die Ports 9050, 9051 und 293.</translation>
     </message>
     <message>
-        <source>The ports that Tor needs (9050, 9051 and 9053) are free.</source>
-        <translation>Die Ports, die Tor braucht (9050, 9051 und 9053), sind frei.</translation>
+        <source>The ports that Tor needs (9050, 9051 and 293) are free.</source>
+        <translation>Die Ports, die Tor braucht (9050, 9051 und 293), sind frei.</translation>
     </message>
     <message>
         <source>The location of Tor in the settings, %1, is no program that can run. The usual places are searched instead.</source>
@@ -1189,8 +1193,12 @@
         <translation>Tor hat die Verbindung nicht innerhalb von 5 Minuten aufgebaut.</translation>
     </message>
     <message>
-        <source>Administrator access was refused.</source>
-        <translation>Der Administratorzugriff wurde verweigert.</translation>
+        <source>Administrator access was refused, or the agent that asks for the password gave no answer.</source>
+        <translation>Der Administratorzugriff wurde verweigert, oder der Agent, der nach dem Passwort fragt, gab keine Antwort.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, so Tor can&apos;t connect: %1.</source>
+        <translation>Eine andere Firewall auf diesem Computer verwehrt ausgehende Verbindungen, daher kann Tor sich nicht verbinden: %1.</translation>
     </message>
     <message>
         <source>Setup ran but the helper wasn&apos;t installed. Try again.</source>

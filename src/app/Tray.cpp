@@ -4,7 +4,10 @@
 
 #include <QCursor>
 #include <QGuiApplication>
+#include <QPainter>
 #include <QPalette>
+
+#include <algorithm>
 
 namespace veldmark {
 
@@ -34,12 +37,32 @@ bool Tray::groundIsDark()
     return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
 }
 
+namespace {
+
+// The symbol with a thin edge in the other colour all around.
+QImage edged(const QString &symbol, int pixels, const QColor &ink, const QColor &edge)
+{
+    const int width = std::max(1, pixels / 20);
+    const int inner = pixels - 2 * width;
+    const QImage around = Symbols::image(symbol, inner, edge);
+    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    for (int y = 0; y <= 2 * width; ++y)
+        for (int x = 0; x <= 2 * width; ++x)
+            painter.drawImage(x, y, around);
+    painter.drawImage(width, width, Symbols::image(symbol, inner, ink));
+    return image;
+}
+
+} // namespace
+
 QIcon Tray::icon(const QString &symbol, bool onDark)
 {
+    const QColor light(0xf2, 0xf2, 0xf7), dark(0x1a, 0x1a, 0x22);
     QIcon icon;
     for (const int pixels : {16, 22, 24, 32, 44, 48, 64})
-        icon.addPixmap(QPixmap::fromImage(
-            Symbols::image(symbol, pixels, onDark ? QColor(0xf2, 0xf2, 0xf7) : QColor(0x1a, 0x1a, 0x22))));
+        icon.addPixmap(QPixmap::fromImage(edged(symbol, pixels, onDark ? light : dark, onDark ? dark : light)));
     return icon;
 }
 

@@ -9,7 +9,7 @@
 namespace veldmark {
 
 // The program's icon in the tray: a symbol that differs by shape with the session's state, drawn to
-// stand out from the tray's ground, and a menu for desktops whose tray shows nothing else.
+// stand out from the tray's ground by its colour, or else (no panel tells its own) by its edge, and a menu for desktops whose tray shows nothing else.
 class Tray : public QObject {
     Q_OBJECT
 

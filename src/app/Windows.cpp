@@ -1,6 +1,7 @@
 #include "app/Windows.h"
 
 #include "app/Activation.h"
+#include "app/Taskbar.h"
 #include "ui/Module.h"
 #include "ui/Symbols.h"
 
@@ -166,6 +167,7 @@ void Windows::togglePanel(const QRect &anchor)
     const int bottom = std::max(room.top(), room.bottom() - panel->height() - 8);
     panel->setPosition(std::clamp(anchor.center().x() - panel->width() / 2, room.left(), right),
                        std::clamp(anchor.bottom() + 4, room.top(), bottom));
+    leaveOutOfTaskbar(*panel); // each time: what a window asked for is forgotten when it is hidden
     panel->show();
     panel->raise();
     panel->requestActivate();

@@ -10,7 +10,7 @@ namespace veldmark {
 namespace {
 
 constexpr quint16 dnsPort = 53;
-constexpr quint16 torDNSPort = 9053; // where our Tor answers look-ups
+constexpr quint16 torDNSPort = 293; // where our Tor answers look-ups
 constexpr quint64 dnsScope = 1;      // in a link's "ScopesMask"
 
 // The elements of the array that `value` holds, each read by `readElement`. Anything else than

@@ -6,6 +6,7 @@
 #include "control/ControlPort.h"
 #include "log/TorLog.h"
 #include "log/TransportTrouble.h"
+#include "system/OtherFirewalls.h"
 
 #include <QPointer>
 
@@ -21,6 +22,9 @@ constexpr auto bootstrapLimit = 300s;
 constexpr auto bootstrapPoll = 1s;
 // A transport program is ready within a second. Tor neither starts without it nor says that it waits.
 constexpr auto transportPatience = 10s;
+// The first relay answers within a second or two. Below this progress none has.
+constexpr auto relayPatience = 10s;
+constexpr int relayReached = 10;
 
 const QString bootstrapKey = QStringLiteral("status/bootstrap-phase");
 
@@ -61,6 +65,12 @@ std::optional<QString> TorController::problemBehind(const BootstrapStatus &statu
         // The log says more than the report, which doesn't know why a program can't be reached.
         if (const auto trouble = transportTrouble(TorLog(m_services.profile).read().lines()))
             return trouble;
+    }
+    if (status.progress < relayReached && waited >= relayPatience) {
+        // Tor itself sees nothing but silence.
+        if (const QStringList others = OtherFirewalls::denying(m_services.profile); !others.isEmpty())
+            return QStringLiteral("Another firewall on this computer denies what goes out, so Tor can't connect: %1.")
+                .arg(others.join(QStringLiteral(", ")));
     }
     if (!status.warning.isEmpty())
         return status.warning;

@@ -14,20 +14,20 @@ namespace {
 
 using State = KillSwitch::State;
 
-constexpr auto lookInterval = 2s;
+constexpr auto lookInterval = 1s;
 constexpr qint64 noteLimitBytes = 64;
-// The watcher looks at least every three seconds. The note's time is the system's clock, which may be set, and
-// stands still for nobody while the computer sleeps; so what was seen holds a little longer by our own clock.
-constexpr qint64 freshSeconds = 15;
-constexpr auto graceTime = 8s;
+// The watcher writes twice a second, so what stops telling shows within three seconds. The note's time is the system's clock, which
+// may be set, and stands still for nobody while the computer sleeps; so what was seen holds a little longer by our own clock.
+constexpr auto freshTime = 1s;
+constexpr auto graceTime = 1500ms;
 
 std::optional<KillSwitch> freshNote(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
-    const qint64 age = file.fileTime(QFileDevice::FileModificationTime).secsTo(QDateTime::currentDateTimeUtc());
-    if (age < -freshSeconds || age > freshSeconds)
+    const std::chrono::milliseconds age(file.fileTime(QFileDevice::FileModificationTime).msecsTo(QDateTime::currentDateTimeUtc()));
+    if (age < -freshTime || age > freshTime)
         return std::nullopt;
     return KillSwitch::parse(file.read(noteLimitBytes));
 }
@@ -144,6 +144,11 @@ QCoro::Task<void> TorController::watchKillSwitch(quint64 run)
         if (phase() == ConnectionPhase::stale && !isSessionMarkerPresent()) { // somebody has restored the network
             errorMessage = std::nullopt;
             endSession();
+            co_return;
+        }
+        // Somebody else has disconnected. Whoever answers at Tor's port now is no sign of a session.
+        if (phase() == ConnectionPhase::connected && activeMode() == RoutingMode::proxy && !isSessionMarkerPresent()) {
+            torDied();
             co_return;
         }
         lookAtKillSwitch();

@@ -7,6 +7,8 @@
 
 #include <QPointer>
 
+#include <utility>
+
 using namespace std::chrono_literals;
 
 namespace veldmark {
@@ -38,6 +40,7 @@ TorController::Attempt TorController::startAttempt()
 
 void TorController::startMonitoring()
 {
+    m_hasSlept = false;
     monitor(++m_monitor);
 }
 
@@ -58,7 +61,8 @@ QCoro::Task<void> TorController::monitor(quint64 run)
             co_return;
         if (phase() != ConnectionPhase::connected || !m_controlPassword)
             continue;
-        if (addresses.haveMoved(OwnAddresses::present())) {
+        const bool haveMoved = addresses.haveMoved(OwnAddresses::present());
+        if (std::exchange(m_hasSlept, false) || haveMoved) {
             co_await m_services.controlPort.batch(beginAnew, *m_controlPassword, counterReadLimit);
             if (!self || run != m_monitor)
                 co_return;
@@ -86,6 +90,14 @@ QCoro::Task<void> TorController::monitor(quint64 run)
             co_return;
         }
     }
+}
+
+void TorController::wake()
+{
+    if (phase() != ConnectionPhase::connected)
+        return;
+    m_hasSlept = true; // the loop makes Tor begin anew, and checks
+    forgetExit();
 }
 
 void TorController::torDied()

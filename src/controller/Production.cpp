@@ -62,7 +62,9 @@ Production::Production(const PlatformProfile &profile)
           .locateWithoutAsking =
               [this] { return m_search.locateWithoutAsking(TransportDownloader::installedVersion(m_profile)); },
       })
+    , m_wake(QDBusConnection::systemBus())
 {
+    QObject::connect(&m_wake, &WakeNotice::awake, &m_controller, &TorController::wake);
 }
 
 } // namespace veldmark

@@ -7,6 +7,7 @@
 #include "checks/ResolverSource.h"
 #include "control/ControlPort.h"
 #include "controller/TorController.h"
+#include "controller/WakeNotice.h"
 #include "platform/PlatformProfile.h"
 #include "platform/RunningApplications.h"
 #include "system/ChildProcessRunner.h"
@@ -31,7 +32,7 @@ public:
     TransportDownloader &downloader() { return m_downloader; }
 
 private:
-    // In the order of construction; the controller goes first.
+    // In the order of construction; what hears of sleep goes first, then the controller.
     const PlatformProfile m_profile;
     SystemClock m_clock;
     SettingsStore m_settings;
@@ -45,6 +46,7 @@ private:
     TransportDownloader m_downloader;
     TransportSearch m_search;
     TorController m_controller;
+    WakeNotice m_wake;
 };
 
 } // namespace veldmark

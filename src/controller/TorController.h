@@ -179,6 +179,8 @@ public:
     QCoro::Task<void> newIdentity();
     QCoro::Task<void> newCircuit(QString id);
     QCoro::Task<void> optimizeCircuits();
+    // The computer was asleep: what was verified is no longer known, and Tor's connections may hang without a word.
+    void wake();
 
     // The user has read the banner.
     void dismissError() { errorMessage = std::nullopt; }
@@ -364,6 +366,7 @@ private:
     std::optional<QString> m_killSwitchMessage; // the banner that tells of it
     Clock::TimePoint m_killSwitchSeen;        // when the watcher's note was last a fresh one
     bool m_torStopped = false;                // under this session
+    bool m_hasSlept = false;                  // Tor is to begin anew
     bool m_dnsLiveVerified = false;           // a live DNS check passed in this session
     bool m_isSettlingIn = false;              // settleIn() is under way
     quint64 m_identity = 0;                   // counts the times that Tor was asked for new circuits

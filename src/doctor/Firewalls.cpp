@@ -1,8 +1,8 @@
 #include "doctor/Checks.h"
+#include "system/OtherFirewalls.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 #include <array>
 
@@ -80,9 +80,7 @@ QStringList others(const Machine &machine)
     for (const auto &[process, name] : known)
         if (runs(processes, QLatin1String(process)) && !names.contains(QLatin1String(name)))
             names << QLatin1String(name);
-    static const QRegularExpression enabled(QStringLiteral("^\\s*ENABLED\\s*=\\s*[\"']?yes\\b"),
-                                            QRegularExpression::MultilineOption | QRegularExpression::CaseInsensitiveOption);
-    if (enabled.match(machine.read("/etc/ufw/ufw.conf")).hasMatch())
+    if (OtherFirewalls::isUfwOn(machine.profile))
         names << QStringLiteral("ufw");
     if (QFileInfo(machine.at("/etc/systemd/system/sysinit.target.wants/nftables.service")).isSymLink()
         || machine.exists("/etc/systemd/system/sysinit.target.wants/nftables.service"))
@@ -97,14 +95,15 @@ Finding controlGroups(const Machine &machine)
         isThere |= line.contains(QLatin1String(" - cgroup2 ")) && line.section(u' ', 3, 3) == QLatin1String("/");
     if (!isThere)
         return {groupsName, Level::note,
-                QT_TRANSLATE_NOOP("Doctor", "This system has no control groups of version 2, so no application can be opened without Tor. "
-                                            "Everything else works."),
+                QT_TRANSLATE_NOOP("Doctor", "This system has no control groups of version 2, so no application can be opened without Tor, "
+                                            "and the kill switch knows Tor by its account alone. Everything else works."),
                 {}, {}};
     const QStringList version = kernel(machine).split(u'.');
     const int major = version.value(0).toInt(), minor = version.value(1).toInt();
     if (major > 0 && (major < 5 || (major == 5 && minor < 13)))
         return {groupsName, Level::note,
-                QT_TRANSLATE_NOOP("Doctor", "The kernel (%1) is older than 5.13, so no application can be opened without Tor. Everything else works."),
+                QT_TRANSLATE_NOOP("Doctor", "The kernel (%1) is older than 5.13, so no application can be opened without Tor, "
+                                            "and the kill switch knows Tor by its account alone. Everything else works."),
                 {kernel(machine)}, {}};
     return {groupsName, Level::good, QT_TRANSLATE_NOOP("Doctor", "Applications can be opened without Tor: control groups of version 2 are there."), {}, {}};
 }
@@ -117,7 +116,15 @@ Findings firewallFindings(const Machine &machine)
         return {};
     Findings findings{nftables(machine)};
     const QStringList names = others(machine);
-    if (names.isEmpty())
+    const QStringList denying = OtherFirewalls::denying(machine.profile);
+    if (!denying.isEmpty())
+        findings.push_back({firewallsName, Level::unknown,
+                            QT_TRANSLATE_NOOP("Doctor", "Another firewall on this computer denies what goes out unless one of its rules allows it, "
+                                                        "so Tor may not get through: %1."),
+                            {denying.join(QStringLiteral(", "))},
+                            denying.first() == QLatin1String("ufw") ? QStringLiteral("sudo ufw default allow outgoing")
+                                                                    : QStringLiteral("sudo nft list ruleset")});
+    else if (names.isEmpty())
         findings.push_back({firewallsName, Level::good,
                             QT_TRANSLATE_NOOP("Doctor", "No other firewall that is known by name runs. The rules themselves are known to root only."),
                             {}, {}});

@@ -19,7 +19,7 @@ struct Port {
     const char *table; // in which the kernel lists who listens
     const char *state; // of a listener there
 };
-constexpr std::array ports{Port{9050, "/proc/net/tcp", "0A"}, Port{9051, "/proc/net/tcp", "0A"}, Port{9053, "/proc/net/udp", "07"}};
+constexpr std::array ports{Port{9050, "/proc/net/tcp", "0A"}, Port{9051, "/proc/net/tcp", "0A"}, Port{293, "/proc/net/udp", "07"}};
 
 struct Holder {
     int port = 0;
@@ -127,9 +127,9 @@ Findings portFindings(const Machine &machine)
         }
     }
     if (findings.empty() && isOurs)
-        findings.push_back({portsName, Level::good, QT_TRANSLATE_NOOP("Doctor", "Veldmark's own Tor holds the ports 9050, 9051 and 9053."), {}, {}});
+        findings.push_back({portsName, Level::good, QT_TRANSLATE_NOOP("Doctor", "Veldmark's own Tor holds the ports 9050, 9051 and 293."), {}, {}});
     else if (findings.empty())
-        findings.push_back({portsName, Level::good, QT_TRANSLATE_NOOP("Doctor", "The ports that Tor needs (9050, 9051 and 9053) are free."), {}, {}});
+        findings.push_back({portsName, Level::good, QT_TRANSLATE_NOOP("Doctor", "The ports that Tor needs (9050, 9051 and 293) are free."), {}, {}});
     return findings;
 }
 

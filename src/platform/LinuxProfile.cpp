@@ -76,6 +76,7 @@ PlatformProfile PlatformProfile::linux(const Places &places)
     profile.sessionMarker = at("/var/lib/veldmark/state/active");
     profile.sessionOwner = at("/var/lib/veldmark/state/owner");
     profile.killSwitchNote = at("/run/veldmark.watch");
+    profile.othersNote = at("/run/veldmark.others");
     profile.installedHelper = at("/usr/local/libexec/veldmark/veldmark-helper.sh");
     profile.sudoersRule = at("/etc/sudoers.d/veldmark");
     profile.runDirectory = at("/var/lib/veldmark/run");

@@ -54,6 +54,7 @@ struct PlatformProfile {
     // The helper and what it leaves behind.
     QString sessionMarker;    // exists while the network is set up for Tor; holds "proxy" or "strict"
     QString sessionOwner;     // beside the marker: who made the session; empty where no helper notes it
+    QString othersNote;       // who else denies what goes out, as the helper has found it, see OtherFirewalls; gone after a restart
     QString killSwitchNote;   // what the watcher has last seen of the firewall's rules, see KillSwitch; gone after a restart
     QString installedHelper;  // the root-owned copy for use without a password
     QString sudoersRule;

@@ -98,7 +98,8 @@ HelperError policyKitError(const ProcessResult &result, const QString &script)
         }
         if (says("Error executing command as another user: Not authorized")
             || says("Error checking for authorization ")) {
-            return HelperError::failed(QStringLiteral("Administrator access was refused."));
+            // polkit says the same of a wrong password and of an agent that ended without an answer.
+            return HelperError::failed(QStringLiteral("Administrator access was refused, or the agent that asks for the password gave no answer."));
         }
     }
     return failure(result.stderr);

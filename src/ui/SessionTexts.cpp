@@ -63,7 +63,7 @@ namespace {
     QT_TRANSLATE_NOOP("Session", "The download begins again when Tor is connected…"),
     QT_TRANSLATE_NOOP("Session", "Path not responding, finding another…"),
     QT_TRANSLATE_NOOP("Session", "Tor didn't finish connecting within 5 minutes."),
-    QT_TRANSLATE_NOOP("Session", "Administrator access was refused."),
+    QT_TRANSLATE_NOOP("Session", "Administrator access was refused, or the agent that asks for the password gave no answer."),
     QT_TRANSLATE_NOOP("Session", "Setup ran but the helper wasn't installed. Try again."),
     QT_TRANSLATE_NOOP("Session", "The helper failed without an error message."),
     QT_TRANSLATE_NOOP("Session", "Add at least one bridge under Bridges → Custom…."),
@@ -117,6 +117,7 @@ constexpr const char *forms[] = {
                                  "Disconnect it, or restore the network, first."),
     QT_TRANSLATE_NOOP("Session", "%1 is connected with Veldmark (process %2). "
                                  "That session must be ended first."),
+    QT_TRANSLATE_NOOP("Session", "Another firewall on this computer denies what goes out, so Tor can't connect: %1."),
     QT_TRANSLATE_NOOP("Session", "%1 Your network is still pointed at Tor. Click Restore Network to undo."),
 };
 

@@ -2,7 +2,7 @@
 
 Machine is a set of namespaces (network, mounts, processes) in which the helper may do whatever it does: /etc and
 /usr/local are overlays, /run, /var/lib and /home are empty and in memory, its control groups are its own, and Tor has `DisableNetwork 1` from
-/etc/tor/torrc-defaults. There is no network device but the loopback one, unless a Peer is attached. Nothing of it
+/etc/tor/torrc-defaults, and no list of countries, whose 25 MB take it nine tenths of its start. There is no network device but the loopback one, unless a Peer is attached. Nothing of it
 is visible outside, and everything goes when the process that made it ends.
 
 Exit status 77 (skipped) with one line when the system does not permit namespaces.
@@ -21,6 +21,8 @@ HASH = "16:" + "0123456789ABCDEF" * 3 + "0123456789"
 TOR = "/usr/bin/tor"
 USER_UID = 4242
 OTHER_UID = 4243   # bob's
+DNS_PORT = 293
+TOR_GROUP = "/sys/fs/cgroup/veldmark/tor"   # to be in it and Tor's account is what the rules know Tor by
 INSTALLED = "/usr/local/libexec/veldmark/veldmark-helper.sh"
 
 # Reaps what is orphaned in the process namespace, and ends with the test.
@@ -44,7 +46,7 @@ mkdir -p /sys/fs/cgroup 2>/dev/null || true
 mount -t cgroup2 private /sys/fs/cgroup
 for place in /run /var/lib /home; do mount -t tmpfs -o mode=755 private "$place"; done
 mkdir -p /etc/tor /etc/sudoers.d
-echo 'DisableNetwork 1' >/etc/tor/torrc-defaults
+printf '%%s\\n' 'DisableNetwork 1' 'GeoIPFile /dev/null' 'GeoIPv6File /dev/null' >/etc/tor/torrc-defaults
 echo 'nameserver 192.0.2.53' >/etc/resolv.conf
 echo 'alice:x:%(uid)s:%(uid)s::/home/alice:/bin/bash' >>/etc/passwd
 echo 'alice:x:%(uid)s:' >>/etc/group
@@ -150,15 +152,18 @@ class Machine:
         """What a command begins with to run in the machine's control group."""
         return ["/bin/sh", "-c", 'echo 0 >"$0/cgroup.procs" && exec "$@"', self.group]
 
-    def command(self, words, uid=0):
+    def command(self, words, uid=0, group=None):
+        """`group`: enters that control group, if it is there."""
         inside = [*self.in_group(), "nsenter", "--target", str(self.pid), "--cgroup", "--net", "--mount", "--pid", "--wd=/"]
+        if group:
+            inside += ["/bin/sh", "-c", '[ ! -d "$0" ] || echo 0 >"$0/cgroup.procs"; exec "$@"', group]
         if uid:
             inside += ["setpriv", f"--reuid={uid}", f"--regid={uid}", "--clear-groups"]
         return inside + list(words)
 
-    def run(self, *words, uid=0, check=True, stdin=None, env=None, timeout=60):
+    def run(self, *words, uid=0, group=None, check=True, stdin=None, env=None, timeout=60):
         done = subprocess.run(
-            self.command(words, uid), capture_output=True, text=True, input=stdin, check=False, timeout=timeout,
+            self.command(words, uid, group), capture_output=True, text=True, input=stdin, check=False, timeout=timeout,
             env=env if env is not None else {"PATH": os.environ["PATH"]}, errors="surrogateescape",
             **({"stdin": subprocess.DEVNULL} if stdin is None else {}),
         )
@@ -166,8 +171,8 @@ class Machine:
             raise AssertionError(f"{words}: status {done.returncode}: {done.stdout}{done.stderr}")
         return done
 
-    def start(self, *words, uid=0, **options):
-        return subprocess.Popen(self.command(words, uid), **options)
+    def start(self, *words, uid=0, group=None, **options):
+        return subprocess.Popen(self.command(words, uid, group), **options)
 
     def shell(self, script, *arguments, **options):
         return self.run("/bin/bash", "-c", script, "shell", *arguments, **options).stdout
@@ -188,6 +193,11 @@ class Machine:
         """Runs the installed copy as sudo does by the rule."""
         return self.run("/bin/bash", INSTALLED, *arguments, env={"PATH": os.environ["PATH"], "SUDO_UID": str(uid)}, **options)
 
+    def approve(self, path, role="tor", **options):
+        """Approves a program as the prompt does that names it."""
+        digest = self.run("sha256sum", path).stdout.split()[0].lstrip("\\")
+        return self.help("approve", "--program", path, "--as", role, "--sha256", digest, **options)
+
     def connect(self, strict=1, lan=0, more=(), **options):
         return self.help("connect", "--tor", TOR, "--hash", HASH, "--strict", str(strict), "--lan", str(lan), *more,
                          **options)
@@ -206,9 +216,14 @@ class Machine:
         """The helper starts it and does not wait until it listens."""
         self.shell("until pgrep -xf 'nft monitor' >/dev/null; do sleep 0.01; done")
 
+    def watchers(self):
+        """Their process ids. What one is just starting bears its name as well, in its session."""
+        lines = [line.split(None, 2) for line in self.shell("ps -eo pid=,sid=,args=").splitlines()]
+        return [int(pid) for pid, session, words in lines if pid == session and words.startswith("/bin/bash -p -- ") and words.endswith("/watcher.sh")]
+
     def end_watcher(self):
         """As a restart of the computer ends it."""
-        self.shell("pid=$(pgrep -f /watcher[.]sh); kill -9 $pid; while [ -e /proc/$pid ] || pgrep -x nft; do :; done")
+        self.shell("kill -9 $(pgrep -f /watcher[.]sh); while pgrep -f '/watcher[.]sh|nft [m]onitor' || pgrep -x nft; do :; done")
 
     def processes(self):
         """The command lines of what runs in the machine, sorted; not the dead that nobody has waited for, nor the
@@ -221,7 +236,7 @@ class Machine:
                     continue
                 with open(f"/proc/{pid}/cmdline", "rb") as file:
                     line = file.read().replace(b"\0", b" ").decode(errors="replace")
-                if line and not line.startswith(("nft -s list table ", "setpriv --pdeathsig KILL nft ", "flock -w 10 7 ")):
+                if line and not line.startswith(("nft -s -t list table ", "setpriv --pdeathsig KILL sh -c [ ", "sh -c [ \"$PPID\" ", "flock -w 10 7 ")):
                     lines.append(line.replace("\n", " ") + "\n")
             except OSError:
                 pass

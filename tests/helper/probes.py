@@ -8,6 +8,7 @@
 A probe is known by its destination: every probe has an address or a port of its own.
 """
 
+import functools
 import select
 import socket
 import struct
@@ -60,9 +61,14 @@ def is6(address):
     return ":" in address
 
 
-def send_probe(kind, address, port):
+@functools.cache
+def target_of(address, port):
     family = socket.AF_INET6 if is6(address) else socket.AF_INET
-    target = socket.getaddrinfo(address, port, family, socket.SOCK_DGRAM)[0][4]
+    return family, socket.getaddrinfo(address, port, family, socket.SOCK_DGRAM)[0][4]
+
+
+def send_probe(kind, address, port):
+    family, target = target_of(address, port)
     if kind == "tcp":
         with socket.socket(family, socket.SOCK_STREAM) as probe:
             probe.setblocking(False)
@@ -125,6 +131,8 @@ def seen(packet):
     if number == 1:
         return "ping" if address == PUBLIC else "other icmp " + address
     if number == 58:
+        if address == PUBLIC6:
+            return f"icmp6 {payload[0]} far away"
         return "neighbour" if payload[0] in (133, 135, 136) else f"other icmp6 {payload[0]}"
     if number not in (6, 17):
         return f"other protocol {number} to {address}"

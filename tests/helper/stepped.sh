@@ -23,11 +23,10 @@ is_change() {
 
 # stop_after COMMAND LINES: notes a change; whether it is the one to end with. A line that comes again, in a loop, gets a number.
 stop_after() {
-  local line number
-  is_change "$1" || return 1
+  local line former number=0
   line="$2 $1"
   line=${line//[[:cntrl:]]/ }
-  number=$(grep -cF -- "$line #" "$changes" || true)
+  while IFS= read -r former; do [[ $former != *"$line #"* ]] || number=$((number + 1)); done <"$changes"
   line="$line #$number"
   printf '%s\n' "$line" >>"$changes"
   [[ $line == "$kill_after" ]]
@@ -40,8 +39,8 @@ at_edge() {
 
 rm -f -- "$changes.marked"
 trap '
-  if at_edge "$BASH_COMMAND"; then "$mark" || true; fi
-  if stop_after "$BASH_COMMAND" "${FUNCNAME[*]} ${BASH_LINENO[*]}"; then
+  if [[ -n $edge ]] && at_edge "$BASH_COMMAND"; then "$mark" || true; fi
+  if is_change "$BASH_COMMAND" && stop_after "$BASH_COMMAND" "${FUNCNAME[*]} ${BASH_LINENO[*]}"; then
     # What becomes another program comes to its change after the kill of the rest.
     case $BASH_COMMAND in exec\ *) kill -KILL $$ ;; esac
     eval "$BASH_COMMAND" || true

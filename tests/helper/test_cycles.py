@@ -12,7 +12,7 @@ class Cycles(HelperTest):
     def everything(self):
         """The snapshot, and what it does not look at: all our files, and how many descriptors the first process has."""
         return self.machine.snapshot() + self.machine.shell(
-            "find /var/lib/veldmark /run /tmp/veldmark* -not -path '*/run/data/*' -printf '%p %y %m %U\\n' 2>/dev/null | sort; ls /proc/1/fd | wc -l")
+            "find /var/lib/veldmark /run /tmp/veldmark* -not -path '*/run/tor/data/*' -printf '%p %y %m %U\\n' 2>/dev/null | sort; ls /proc/1/fd | wc -l")
 
     def test_nothing_is_left(self):
         self.machine.connect()

@@ -89,6 +89,18 @@ class Kill(HelperTest):
 
     def trial(self, prepare, run, check, edge="", closed=None):
         """`closed`: BEFORE or AFTER the edge, no probe may be seen as long as rules drop; None promises nothing."""
+        restored = False
+        try:
+            done = self.begin_trial(prepare, run, check, edge, closed)
+            self.assert_restored()
+            restored = True
+        finally:
+            if not restored:   # what failed here is not to fail the next point as well
+                self.machine.help("disconnect", check=False)
+                self.flood.stop()
+        return done
+
+    def begin_trial(self, prepare, run, check, edge, closed):
         self.flood.go()
         self.is_open()
         prepare()
@@ -105,7 +117,6 @@ class Kill(HelperTest):
             self.assertTrue(state[1])
         if closed:
             self.assertEqual(set(seen) - LINK - {EDGE}, set())
-        self.assert_restored()
         return done
 
     def every_point(self, prepare, words, check, edge="", closed=None, only=lambda point: True):
@@ -116,14 +127,10 @@ class Kill(HelperTest):
         tried = self.sample(points)
         for point in tried:
             with self.subTest(point):
-                try:
-                    done = self.trial(prepare, lambda e, p=point: self.stepped(p, e, words), check, edge, closed)
-                    # How many children a process has differs from run to run.
-                    if '"$child" #' not in point:
-                        self.assertIn(done.returncode, (-9, 137), f"this change was not reached: {done.stderr}")
-                finally:
-                    self.machine.help("disconnect", check=False)
-                    self.flood.stop()
+                done = self.trial(prepare, lambda e, p=point: self.stepped(p, e, words), check, edge, closed)
+                # How many children a process has differs from run to run.
+                if '"$child" #' not in point:
+                    self.assertIn(done.returncode, (-9, 137), f"this change was not reached: {done.stderr}")
         print(f"{self.id().split('.', 1)[1]}: killed at {len(tried)} of {len(points)} points, {time.monotonic() - started:.0f} s", flush=True)
         return len(points)
 
@@ -228,12 +235,8 @@ class RandomMoments(Kill):
         for trial in range(RANDOM_TRIALS):
             seconds = moments.uniform(0, whole)
             with self.subTest(f"VELDMARK_SEED={seed}", trial=trial, seconds=seconds):
-                try:
-                    done = self.trial(prepare, lambda _, s=seconds: self.killed(words, s), check, "", closed)
-                    killed += done.returncode == 137
-                finally:
-                    self.machine.help("disconnect", check=False)
-                    self.flood.stop()
+                done = self.trial(prepare, lambda _, s=seconds: self.killed(words, s), check, "", closed)
+                killed += done.returncode == 137
         print(f"{self.id().split('.', 1)[1]}: killed {killed} of {RANDOM_TRIALS} times within {whole:.2f} s, VELDMARK_SEED={seed}", flush=True)
 
     def test_connect(self):

@@ -7,6 +7,7 @@ from namespace import HASH, INSTALLED, OTHER_UID, TOR, HelperTest, USER_UID
 
 LAUNCHER = "/usr/local/libexec/veldmark/veldmark-launch"
 RULE = "/etc/sudoers.d/veldmark"
+POSTINST = os.path.join(namespace.HERE, "..", "..", "packaging", "debian", "postinst")
 PROMPT = {"PATH": os.environ["PATH"], "PKEXEC_UID": str(USER_UID)}
 
 
@@ -30,7 +31,7 @@ class Privileged(HelperTest):
         done = self.sudo(INSTALLED, "connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0")
         self.assertEqual((done.returncode, done.stderr), (0, ""))
         self.assertEqual(len(self.machine.tor_pids()), 1)
-        self.assertEqual(self.machine.shell("stat -c %g /var/lib/veldmark/run/notices.log").strip(), str(USER_UID))
+        self.assertEqual(self.machine.shell("stat -c %u /var/lib/veldmark/run/notices.log").strip(), str(USER_UID))
         self.assertEqual(self.sudo(INSTALLED, "disconnect").returncode, 0)
         self.assertEqual(self.machine.tor_pids(), [])
 
@@ -57,6 +58,33 @@ class Privileged(HelperTest):
         self.install("--launch", "/usr/bin/false")
         self.machine.shell(f"cmp {INSTALLED} {self.machine.helper}; cmp {LAUNCHER} /usr/bin/false")
 
+    def upgrade(self):
+        """The new version's files are there; now the package's own script, run by another administrator's sudo."""
+        self.machine.shell('mountpoint -q /usr/share || { mkdir -p /mnt/share/upper /mnt/share/work;'
+                           'mount -t overlay -o lowerdir=/usr/share,upperdir=/mnt/share/upper,workdir=/mnt/share/work private /usr/share; };'
+                           'install -D -m 0755 "$1" /usr/share/veldmark/veldmark-helper.sh', self.machine.helper)
+        return self.machine.run("/bin/sh", POSTINST, "configure", "0.1", env={"PATH": os.environ["PATH"], "SUDO_UID": str(OTHER_UID)})
+
+    def test_upgrade_renews_what_runs_without_a_password(self):
+        self.install("--launch", "/usr/bin/true")
+        self.machine.shell(f"echo '# an older one' >>{INSTALLED}; cp {RULE} /run/rule")
+        self.assertEqual(self.upgrade().stderr, "")
+        self.machine.shell(f"cmp {INSTALLED} {self.machine.helper}; cmp {RULE} /run/rule")
+        self.assertEqual(self.sudo(INSTALLED, "disconnect").returncode, 0)
+
+    def test_upgrade_lets_nobody_in_anew(self):
+        self.upgrade()
+        self.assertEqual(self.machine.shell(f"ls {INSTALLED} {RULE} 2>/dev/null || true"), "")
+
+    def test_upgrade_removes_a_rule_that_it_cannot_renew(self):
+        self.install()
+        for change in f"sed -i 's/^#{USER_UID} /#9999 /' {RULE}", f"echo >{RULE}":
+            with self.subTest(change):
+                self.install()
+                self.machine.shell(f"echo '# an older one' >>{INSTALLED}; {change}")
+                self.assertIn("password-free mode is off", self.upgrade().stderr)
+                self.assertEqual(self.machine.shell(f"ls {INSTALLED} {RULE} 2>/dev/null || true"), "")
+
     def test_rule_cannot_change_what_it_lets_in(self):
         self.install()
         done = self.sudo(INSTALLED, "install-privileged", "--user", "alice", "--launch", "/usr/bin/true")
@@ -73,7 +101,8 @@ class Privileged(HelperTest):
         """The real sudo: the same user, the same helper, another path."""
         self.install()
         self.machine.shell("install -o alice -m 0755 /usr/bin/tor /home/alice/tor; cp \"$1\" /usr/local/helper.sh", self.machine.helper)
-        words = ["connect", "--tor", "/home/alice/tor", "--hash", HASH, "--strict", "1", "--lan", "0"]
+        digest = self.machine.run("sha256sum", "/home/alice/tor").stdout.split()[0]
+        words = ["approve", "--program", "/home/alice/tor", "--as", "tor", "--sha256", digest]
         self.assertNotEqual(self.sudo("/bin/bash", "/usr/local/helper.sh", *words).returncode, 0)
         self.machine.shell("echo 'alice ALL=(root) NOPASSWD: /bin/bash /usr/local/helper.sh *' >/etc/sudoers.d/own; chmod 0440 /etc/sudoers.d/own")
         try:

@@ -1,4 +1,4 @@
-"""Nothing that a user can change runs as Tor's account unasked, and nothing of it ever as root."""
+"""Nothing that a user can change runs as Tor's account unless an administrator was asked for exactly that, and nothing of it ever as root."""
 
 import os
 
@@ -42,7 +42,68 @@ class Programs(HelperTest):
         self.assertEqual(self.machine.snapshot(), before)
         self.assertEqual(self.machine.shell("ls /var/lib/veldmark/programs"), "")
 
+    def approve(self, path="/home/alice/tor", role="tor", env=PROMPT, **options):
+        return self.machine.approve(path, role, env=env, **options)
+
+    def test_the_prompt_of_a_connect_approves_no_program(self):
+        """It does not name it, so whoever swaps the file before the prompt would have it approved."""
+        before = self.machine.snapshot()
+        for env in PROMPT, SUDO, {"PATH": os.environ["PATH"]}:
+            done = self.connect(env, check=False)
+            self.assertOneLine(done, "An administrator password is needed to approve /home/alice/tor.")
+            self.assertEqual(done.returncode, 3)
+        self.assertEqual(self.machine.snapshot(), before)
+        self.assertEqual(self.machine.shell("ls /var/lib/veldmark/programs"), "")
+
+    def test_what_was_swapped_before_the_approval_does_not_run(self):
+        digest = self.machine.run("sha256sum", "/home/alice/tor").stdout.split()[0]
+        self.machine.shell("echo >>/home/alice/tor")
+        done = self.machine.help("approve", "--program", "/home/alice/tor", "--as", "tor", "--sha256", digest, env=PROMPT, check=False)
+        self.assertOneLine(done, "not the one that was to be approved")
+        self.assertEqual(self.machine.shell("ls /var/lib/veldmark/programs"), "")
+
+    def test_rule_approves_nothing(self):
+        digest = self.machine.run("sha256sum", "/home/alice/tor").stdout.split()[0]
+        done = self.machine.help_by_rule("approve", "--program", "/home/alice/tor", "--as", "tor", "--sha256", digest, check=False)
+        self.assertOneLine(done, "password")
+        self.assertEqual(done.returncode, 3)
+        self.approve()
+        self.connect(RULE)
+
+    def test_approval_is_for_one_role(self):
+        self.machine.shell("install -o alice -g alice -m 0755 /usr/bin/obfs4proxy /home/alice/lyrebird")
+        self.approve("/home/alice/lyrebird", "lyrebird")
+        self.assertOneLine(self.connect(RULE, "/home/alice/lyrebird", check=False), "password")
+        self.connect(RULE, TOR, ["--bridge", BRIDGE, "--pt-lyrebird", "/home/alice/lyrebird"])
+
+    def test_interpreter_is_no_transport(self):
+        """A transport's program is what the control port may start again with other words."""
+        for program in "/usr/bin/perl", "/bin/bash", "/usr/bin/python3", "/usr/bin/tor":
+            with self.subTest(program):
+                done = self.connect(RULE, TOR, ["--bridge", BRIDGE, "--pt-lyrebird", program], check=False)
+                self.assertOneLine(done, "password")
+        self.connect(RULE, TOR, ["--bridge", BRIDGE, "--pt-lyrebird", "/usr/bin/obfs4proxy"])
+        self.assertIn("\nClientTransportPlugin obfs4 exec /usr/bin/obfs4proxy\n", self.machine.shell("cat /var/lib/veldmark/run/torrc"))
+
+    def test_roots_file_on_a_medium_that_a_user_mounted_is_the_users(self):
+        """As the desktop mounts an image with whatever owners its maker chose; at a system's own place as well."""
+        copy = "mkdir -p {0}; mount -t tmpfs -o mode=755{1} medium {0}; cp /usr/bin/tor {0}/tor"
+        for place, options, runs in (("/opt/medium", "", True), ("/opt/medium", ",nosuid,nodev", False),
+                                     ("/media/medium", "", False), ("/run/media/alice/x", ",nosuid,nodev", False), ("/mnt/medium", "", False),
+                                     ("/home/medium", "", False), ("/usr/local/medium", ",nosuid", False)):
+            with self.subTest(place + options):
+                self.machine.shell(copy.format(place, options))
+                self.addCleanup(self.machine.shell, f"mountpoint -q {place} && umount -l {place} && rmdir {place} || true")
+                done = self.connect(RULE, place + "/tor", check=False)
+                if runs:
+                    self.assertEqual((done.returncode, done.stderr), (0, ""))
+                    self.machine.help("disconnect")
+                else:
+                    self.assertOneLine(done, "password")
+                self.machine.shell(f"umount -l {place}; rmdir {place}")
+
     def test_approved_copy_runs_and_its_content_alone(self):
+        self.approve()
         self.connect(PROMPT)
         self.assertRegex(self.running(), r"^/var/lib/veldmark/programs/[0-9a-f]{64}/tor$")
         self.machine.help("disconnect")
@@ -54,6 +115,7 @@ class Programs(HelperTest):
 
     def test_sudo_with_a_right_of_the_users_own_is_an_approval(self):
         """Where no password can be asked for otherwise; the same helper by the rule is none."""
+        self.approve(env=SUDO)
         self.connect(SUDO)
         self.assertRegex(self.running(), r"^/var/lib/veldmark/programs/[0-9a-f]{64}/tor$")
 
@@ -86,7 +148,7 @@ class Programs(HelperTest):
             self.machine.shell(f"mv /usr/local/kept {INSTALLED}")
 
     def test_copy_is_roots_alone(self):
-        self.connect(PROMPT)
+        self.approve()
         self.assertEqual(self.machine.shell("stat -c '%a %u %g' /var/lib/veldmark/programs/*/tor"), "755 0 0\n")
 
     def test_folder_that_the_user_owns_makes_roots_program_the_users(self):
@@ -113,10 +175,12 @@ class Programs(HelperTest):
     def test_file_that_the_user_cannot_read_is_not_read_for_them(self):
         self.machine.shell("install -m 0700 /usr/bin/tor /home/alice/secret; chmod 0700 /home/alice/secret")
         self.assertOneLine(self.connect(PROMPT, "/home/alice/secret", check=False), "cannot be copied")
+        self.assertOneLine(self.approve("/home/alice/secret", check=False), "cannot be copied")
         self.assertEqual(self.machine.shell("ls /var/lib/veldmark/programs"), "")
 
     def test_path_with_blanks_and_odd_characters(self):
         self.machine.shell("mkdir \"/home/alice/my; tor's\"; chown alice \"/home/alice/my; tor's\"; mv /home/alice/tor \"/home/alice/my; tor's/tor\"")
+        self.approve("/home/alice/my; tor's/tor")
         self.connect(PROMPT, "/home/alice/my; tor's/tor")
         self.assertRegex(self.running(), r"/programs/")
 
@@ -124,6 +188,7 @@ class Programs(HelperTest):
         self.machine.shell("install -o alice -g alice -m 0755 /usr/bin/obfs4proxy '/home/alice/lyre bird'")
         more = ["--bridge", BRIDGE, "--pt-lyrebird", "/home/alice/lyre bird"]
         self.assertOneLine(self.connect(RULE, TOR, more, check=False), "password")
+        self.approve("/home/alice/lyre bird", "lyrebird")
         self.connect(PROMPT, TOR, more)
         self.assertRegex(self.machine.shell("cat /var/lib/veldmark/run/torrc"),
                          r"\nClientTransportPlugin obfs4 exec /var/lib/veldmark/programs/[0-9a-f]{64}/lyrebird\n")
@@ -138,6 +203,7 @@ class Programs(HelperTest):
     def test_nothing_of_the_users_ever_runs_as_root(self):
         """A 'tor' that tells who it is: run for the check of its configuration and to be Tor, as Tor's account alone."""
         self.machine.shell("mkdir -m 1777 -p /run/told; rm -f /run/told/*; printf '#!/bin/sh\\nid -u >/run/told/$$\\n' >/home/alice/tor")
+        self.approve()
         self.assertOneLine(self.connect(PROMPT, check=False), "Tor did not start")
         told = set(self.machine.shell("cat /run/told/*").split())
         self.assertEqual(told, {self.machine.shell("id -u _veldmark").strip()})
@@ -145,6 +211,7 @@ class Programs(HelperTest):
 
     def test_tor_dies_with_its_transports_and_alone(self):
         self.machine.shell("printf '#!/bin/sh\\nsleep 12345 & exec sleep 54321\\n' >/home/alice/tor")
+        self.approve()
         self.connect(PROMPT, check=False, timeout=60)
         self.machine.help("disconnect")
         self.assertEqual(self.machine.tor_pids(), [])

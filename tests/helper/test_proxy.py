@@ -121,6 +121,22 @@ class Gnome(Desktop):
             self.machine.shell("umount /usr/bin/gsettings; rm -r /mnt/slow")
         self.assertEqual(self.machine.snapshot(), before)
 
+    def test_slow_program_is_waited_for(self):
+        """On a computer with much to do each call takes its time; all of them together take longer than one may."""
+        self.as_user("gsettings set org.gnome.system.proxy mode auto; gsettings set org.gnome.system.proxy.http host proxy.corp;"
+                     "gsettings set org.gnome.system.proxy.socks host before; gsettings set org.gnome.system.proxy.socks port 1")
+        before = self.settings()
+        self.machine.shell("cp /usr/bin/gsettings /run/gsettings")
+        restore = self.stand_in('sleep 0.5; exec /run/gsettings "$@"')
+        try:
+            self.connect(strict=1)
+            self.assertIn("'manual'", self.as_user("/run/gsettings get org.gnome.system.proxy mode"))
+            self.disconnect()
+        finally:
+            restore()
+            self.machine.shell("rm /run/gsettings")
+        self.assertEqual(self.settings(), before)
+
 
 class GnomeWithoutSession(Desktop):
     def test_restores_after_the_user_has_logged_out(self):

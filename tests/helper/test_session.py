@@ -34,7 +34,7 @@ class Session(HelperTest):
         self.machine.connect(strict=0)
         self.assertEqual(self.marker(), "proxy\n")
         rules = self.machine.run("nft", "list", "ruleset").stdout
-        self.assertIn("redirect to :9053", rules)
+        self.assertIn("redirect to :293", rules)
         self.assertNotIn("policy drop", rules)
 
     def test_marker_is_readable_by_everybody(self):
@@ -47,6 +47,10 @@ class Session(HelperTest):
             path = "/var/lib/veldmark/run/" + name
             self.machine.run("cat", path, uid=namespace.USER_UID)
             self.assertNotEqual(self.machine.run("cat", path, uid=4243, check=False).returncode, 0)
+            # Neither may who shares the user's primary group, which on some systems is everybody.
+            self.machine.run("setpriv", "--reuid=4243", f"--regid={namespace.USER_UID}", "--clear-groups", "true")
+            self.assertNotEqual(self.machine.run("setpriv", "--reuid=4243", f"--regid={namespace.USER_UID}", "--clear-groups", "cat", path,
+                                                 check=False).returncode, 0)
         self.assertIn("opening new log file", self.machine.shell("cat /var/lib/veldmark/run/notices.log"))
 
     def test_tor_has_no_rights_and_no_descriptor_of_ours(self):
@@ -54,7 +58,7 @@ class Session(HelperTest):
         [pid] = self.machine.tor_pids()
         status = self.machine.shell(f"cat /proc/{pid}/status")
         for field in "CapInh", "CapPrm", "CapEff", "CapBnd", "CapAmb":
-            self.assertRegex(status, rf"{field}:\s+0+\n")
+            self.assertRegex(status, rf"{field}:\s+0+400\n")   # CAP_NET_BIND_SERVICE, for the port for look-ups
         self.assertRegex(status, r"NoNewPrivs:\s+1\n")
         self.assertRegex(status, r"Groups:\s*\n")
         for kind in "mnt", "pid":
@@ -350,9 +354,9 @@ class Session(HelperTest):
     def test_entry_guards_survive(self):
         self.machine.connect()
         self.machine.help("disconnect")
-        first = self.machine.shell("stat -c %i /var/lib/veldmark/run/data")
+        first = self.machine.shell("stat -c %i /var/lib/veldmark/run/tor/data")
         self.machine.connect()
-        self.assertEqual(self.machine.shell("stat -c %i /var/lib/veldmark/run/data"), first)
+        self.assertEqual(self.machine.shell("stat -c %i /var/lib/veldmark/run/tor/data"), first)
 
     def test_ctrl_c_does_not_stop_it_half_way(self):
         run = self.machine.start("setsid", "/bin/bash", self.machine.helper, "connect", "--tor", TOR, "--hash", HASH,

@@ -19,13 +19,13 @@ def call(script):
 class Torrc(unittest.TestCase):
     maxDiff = None
     HEAD = f"""# Written by Veldmark at each connect; changes here are lost.
-DataDirectory /var/lib/veldmark/run/data
+DataDirectory /var/lib/veldmark/run/tor/data
 Log notice file /var/lib/veldmark/run/notices.log
 SocksPort 127.0.0.1:9050
 ControlPort 127.0.0.1:9051
 HashedControlPassword {HASH}
 CookieAuthentication 0
-DNSPort 127.0.0.1:9053
+DNSPort 127.0.0.1:293
 """
 
     def test_plain(self):
@@ -37,7 +37,7 @@ DNSPort 127.0.0.1:9053
             call(f"OPT_HASH={HASH} OPT_EXIT=de OPT_LYREBIRD=/usr/bin/lyrebird OPT_SNOWFLAKE=/usr/bin/snowflake-client;"
                  "OPT_BRIDGES=('192.0.2.1:1' 'obfs4 192.0.2.2:2 cert=a' 'webtunnel 192.0.2.3:3' 'snowflake [2001:db8::4]:4'"
                  " 'obfs4 192.0.2.5:5'); choose_transports; print_torrc 1"),
-            self.HEAD + """DNSPort [::1]:9053
+            self.HEAD + """DNSPort [::1]:293
 ClientOnly 1
 AvoidDiskWrites 1
 ExitNodes {de}
@@ -66,13 +66,14 @@ class Rules(unittest.TestCase):
             account = re.search(r"chain tors_account {\n(.*?)\t}", text, re.DOTALL).group(1)
             return set(text.splitlines()), account.splitlines()
         plain, account = lines("0 0 '' ''")
-        self.assertEqual(account, ["\t\tmeta l4proto tcp accept"])
+        self.assertEqual((account[0], account[-1]), ("\t\ttcp flags & syn == 0 accept", "\t\tmeta l4proto tcp accept"))
         for arguments, added in (("0 1 '' ''", ["\t\tmeta l4proto udp accept"]),
                                  ("0 0 192.0.2.1 2001:db8::1", ["\t\tip daddr { 192.0.2.1 } udp dport 53 accept",
                                                                "\t\tip6 daddr { 2001:db8::1 } udp dport 53 accept"])):
             more, account_more = lines(arguments)
-            self.assertEqual(account_more, account + added)
+            self.assertEqual(sorted(account_more), sorted(account + added))
             self.assertEqual(more - plain, set(added))
+        self.assertEqual(lines("0 0 '' '' '' 1")[1], ["\t\tmeta l4proto tcp accept"])
         opened = lines("1 0 '' ''")[0] - plain
         self.assertIn("\t\tip daddr 192.168.0.0/16 goto local_network", opened)
         self.assertIn("\t\tip6 daddr fc00::/7 goto local_network", opened)

@@ -12,7 +12,7 @@ import time
 
 import namespace
 import probes
-from namespace import Peer
+from namespace import TOR_GROUP, Peer
 
 PROBES_PY = os.path.join(namespace.HERE, "probes.py")
 # Seen when nothing blocks it, whatever the state.
@@ -83,20 +83,20 @@ class Wire:
         """Sends what is let through in every state, a connection attempt of Tor's account, and returns the lines of
         the listener up to its arrival: packets of one link keep their order."""
         self.marks += 1
-        self.machine.run(*ONE_PROCESSOR, "/usr/bin/python3", "-c",
+        self.machine.run(*ONE_PROCESSOR, "/usr/bin/python3", "-I", "-S", "-c",
                          f"import socket; s = socket.socket(); s.setblocking(False); s.connect_ex(('{probes.SENTINEL}', {self.marks}))",
-                         uid=int(self.machine.tor_uid))
+                         uid=int(self.machine.tor_uid), group=TOR_GROUP)
         return self.wait_for(lambda line: line == f"sentinel {self.marks}")[:-1]
 
-    def arrivals(self, uid=0):
+    def arrivals(self, uid=0, group=None):
         self.mark()
-        self.machine.run("/usr/bin/python3", PROBES_PY, "send", uid=uid)
+        self.machine.run("/usr/bin/python3", PROBES_PY, "send", uid=uid, group=group)
         return set(self.mark()) - LINK
 
     def edge_program(self):
         """The path in the machine of a program of root's that sends EDGE."""
         path = "/run/edge"
-        self.machine.shell(f"printf '%s\\n' '#!/bin/sh' \"$1\" >{path}; chmod 755 {path}",
+        self.machine.shell(f"printf '%s\\n' '#!/bin/sh' '[ ! -d {TOR_GROUP} ] || echo $$ >{TOR_GROUP}/cgroup.procs' \"$1\" >{path}; chmod 755 {path}",
                            f"exec {' '.join(ONE_PROCESSOR)} setpriv --reuid {self.machine.tor_uid} --clear-groups "
                            f"/bin/bash -c 'exec 3<>/dev/tcp/{probes.SENTINEL}/1' 2>/dev/null 8>&- 9>&-")
         return path

@@ -17,8 +17,8 @@ import namespace  # noqa: E402
 from namespace import HASH, TOR, USER_UID, HelperTest, main  # noqa: E402,F401
 
 STAND_INS = ("uname sync mv killall ifconfig sysctl stat ls scutil dscacheutil dscl networksetup launchctl lsof "
-             "pfctl").split()
-ONLY_LINUX = "flock timeout setpriv unshare setsid getent sha256sum nft mount umount ip ss gsettings pkexec useradd".split()
+             "pfctl df mount").split()
+ONLY_LINUX = "flock timeout setpriv unshare setsid getent sha256sum nft umount ip ss gsettings pkexec useradd".split()
 
 SETUP = """
 set -eu
@@ -41,7 +41,7 @@ ln -s /private/var/db var/db
 printf '127.0.0.1\\tlocalhost\\n::1\\tlocalhost' >private_hosts
 mkdir -p private/etc
 mv private_hosts private/etc/hosts
-echo 'DisableNetwork 1' >etc/tor/torrc-defaults
+printf '%%s\\n' 'DisableNetwork 1' 'GeoIPFile /dev/null' 'GeoIPv6File /dev/null' >etc/tor/torrc-defaults
 echo 'alice:x:%(uid)s:%(uid)s::/home/alice:/bin/bash' >>etc/passwd
 echo 'alice:x:%(uid)s:' >>etc/group
 mkdir -p home/alice && chown %(uid)s:%(uid)s home/alice && chmod 755 home home/alice

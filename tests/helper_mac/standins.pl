@@ -43,6 +43,19 @@ sub gnu { exec { "/mac/gnu/$name" } $name, @_; die }
 
 # ---- small ones ----
 
+# One volume of the system's, and the folder that "attached" names, if any, for a medium.
+sub df {
+    refuse(@_) unless @_ == 3 && "@_[0, 1]" eq '-P --' && -e $_[2];
+    my $medium = $state{attached} // '';
+    print "Filesystem 512-blocks Used Available Capacity Mounted on\n/dev/disk1 100 50 50 50% ",
+        $medium ne '' && index($_[2], "$medium/") == 0 ? $medium : '/', "\n";
+}
+sub mount {
+    refuse(@_) if @_;
+    print "/dev/disk1 on / (apfs, local, journaled)\n";
+    print "/dev/disk2 on $state{attached} (apfs, local, nodev, nosuid, noowners)\n" if $state{attached};
+}
+
 sub uname { refuse(@_) unless "@_" eq '-s'; print "Darwin\n" }
 sub sync { refuse(@_) if @_ }
 sub mv { refuse(@_) if grep { /^-./ && $_ ne '-f' && $_ ne '--' } @_; gnu(@_) }
@@ -340,7 +353,7 @@ sub pfctl {
 # ---- one call ----
 
 my %stand_in = (uname => \&uname, sync => \&sync, mv => \&mv, killall => \&killall, ifconfig => \&ifconfig, sysctl => \&sysctl,
-    stat => \&stat_, ls => \&ls, scutil => \&scutil, dscacheutil => \&dscacheutil, dscl => \&dscl,
+    df => \&df, mount => \&mount, stat => \&stat_, ls => \&ls, scutil => \&scutil, dscacheutil => \&dscacheutil, dscl => \&dscl,
     networksetup => \&networksetup, launchctl => \&launchctl, lsof => \&lsof, pfctl => \&pfctl);
 
 open(my $lock, '>>', '/mac/lock') or die;

@@ -65,7 +65,9 @@ class Privileged(MacTest):
         self.machine.help("install-privileged", "--user", "alice")
         self.assertOneLine(self.by_rule(*words, check=False), "password")
         self.assertRestored()
-        self.machine.help(*words)   # through the prompt
+        self.assertOneLine(self.machine.help(*words, check=False), "password")   # the prompt of a connect names no program
+        self.machine.approve("/home/alice/tor")
+        self.machine.help(*words)
         program = os.readlink(f"{self.machine.root}/proc/{self.machine.tor()}/exe")
         self.assertRegex(program, r"/db/veldmark/programs/[0-9a-f]{64}/tor$")
         self.machine.help("disconnect")
@@ -73,8 +75,32 @@ class Privileged(MacTest):
         self.machine.help("disconnect")
         self.machine.shell("echo >>/home/alice/tor")
         self.assertOneLine(self.by_rule(*words, check=False), "password")
-        self.machine.help(*words, env=UNDER_RULE)   # another copy, by a right of the user's own
+        self.machine.approve("/home/alice/tor", env=UNDER_RULE)   # another copy, by a right of the user's own
+        self.machine.help(*words, env=UNDER_RULE)
         self.machine.help("disconnect")
+
+    def test_rule_does_not_lessen_what_runs(self):
+        words = ["connect", "--tor", "/usr/bin/tor", "--hash", HASH, "--strict", "1", "--lan", "0"]
+        self.machine.help("install-privileged", "--user", "alice")
+        self.by_rule(*words)
+        for change in ["--strict", "0"], ["--lan", "1"], ["--hash", HASH[:-1] + "F"]:
+            less = list(words)
+            less[less.index(change[0]) + 1] = change[1]
+            done = self.by_rule(*less, check=False)
+            self.assertOneLine(done, "An administrator password is needed to change the strict session that is running.")
+            self.assertEqual(done.returncode, 3)
+        self.by_rule(*words)
+        self.by_rule("disconnect")
+        self.by_rule(*less)
+
+    def test_roots_tor_on_an_attached_volume_is_the_users(self):
+        words = ["connect", "--tor", "/opt/image/tor", "--hash", HASH, "--strict", "1", "--lan", "0"]
+        self.machine.help("install-privileged", "--user", "alice")
+        self.machine.shell("mkdir -p /opt/image; cp /usr/bin/tor /opt/image/tor")
+        self.by_rule(*words)
+        self.machine.help("disconnect")
+        self.machine.change(attached="/opt/image")
+        self.assertOneLine(self.by_rule(*words, check=False), "password")
 
     def test_an_application_runs_as_the_user_in_the_exempt_group(self):
         self.machine.write("/Applications/Veldmark.app/Contents/MacOS-launch", SHOW)

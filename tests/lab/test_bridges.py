@@ -28,7 +28,7 @@ class Bridges(LabCase):
 
     def setUp(self):
         # A cached network would let tor start without asking the bridge.
-        self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/data"], check=True)
+        self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/tor/data"], check=True)
         super().setUp()
 
     def use(self, *lines):
@@ -53,6 +53,28 @@ class Bridges(LabCase):
         sent = self.sent(capture.packets[:seen])
         self.assertTrue(sent)
         self.assertEqual({p.dst for p in sent}, {bridge})
+        self.assert_restored()
+
+    def test_a_bridge_programs_port_is_no_tunnel_for_others(self):
+        """Its port for Tor is open to see in /proc/net/tcp. Whoever could use it would reach a server of their own from the real address."""
+        ask = ("import socket, sys; s = socket.socket(); s.settimeout(float(sys.argv[2])); print(s.connect_ex(('127.0.0.1', int(sys.argv[1]))) or"
+               " (s.send(b'\\x05\\x01\\x02'), s.recv(2).hex())[1])")
+        self.use(self.lab.tor.bridge_line("obfs4"))
+        with self.product.session() as session:
+            session.wait(is_probed)
+            listening = self.lab.host.run(["/bin/sh", "-c", "awk -v u=$(id -u _veldmark) '$4 == \"0A\" && $8 == u {print $2}' /proc/net/tcp"]).stdout.split()
+            ports = {int(line.split(":")[1], 16) for line in listening} - {9050, 9051}
+            self.assertEqual(len(ports), 1, listening)
+            [port] = ports
+
+            def asked(user, seconds):
+                return self.lab.host.run(["/usr/bin/python3", "-c", ask, str(port), str(seconds)], user=user, cwd="/", check=True).stdout.strip()
+            for user in "nobody", "root", "_veldmark":
+                self.assertEqual(asked(user, 1), "11", user)
+            self.lab.host.run(["/bin/sh", "-c", "pkill -STOP -f watcher[.]sh; nft flush chain inet veldmark answering; nft add rule inet veldmark answering accept"], check=True)
+            self.assertEqual(asked("nobody", 10), "0502")   # it speaks SOCKS with everybody
+            self.lab.host.run(["pkill", "-CONT", "-f", "watcher[.]sh"], check=True)
+            self.assertEqual(session.interrupt(), 0, session.output)
         self.assert_restored()
 
     def test_an_obfs4_bridge_is_all_that_is_contacted(self):
@@ -128,7 +150,7 @@ class Bridges(LabCase):
         self.use(f"webtunnel 192.0.2.3:1 {plain[1]} url=https://{at.WEB_HOSTS[0]}/")
         with self.lab.capture() as capture, self.product.session() as session:
             session.wait(is_probed)
-            found, resolver = self.lab.host.read("/var/lib/veldmark/run/data/pt_state/front").split("\n", 1)
+            found, resolver = self.lab.host.read("/var/lib/veldmark/run/tor/data/pt_state/front").split("\n", 1)
             self.assertEqual(found, at.WEB_ADDRESS)
             self.assertIn(f"nameserver {at.DNS_ADDRESS}", resolver)
             seen = len(capture.packets)
@@ -153,7 +175,7 @@ class Bridges(LabCase):
 
     def forget_network(self):
         """Forgets what Tor has cached, so that it must ask its bridge again."""
-        self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/data"], check=True)
+        self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/tor/data"], check=True)
 
     def test_a_transport_that_is_no_use_is_told_and_never_looks_connected(self):
         # The same way does connect when the program in lyrebird's place does its work.

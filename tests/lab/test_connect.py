@@ -150,7 +150,7 @@ class BothModes(LabCase):
             with self.product.session() as session:
                 session.wait_phase("connected")
                 session.interrupt()
-            state = self.lab.host.read("/var/lib/veldmark/run/data/state")
+            state = self.lab.host.read("/var/lib/veldmark/run/tor/data/state")
             guards.append([line.split("rsa_id=")[1].split()[0] for line in state.splitlines()
                            if line.startswith("Guard ") and "confirmed_on=" in line])
         self.assertTrue(guards[0])
@@ -214,7 +214,7 @@ class WhenThingsGoWrong(LabCase):
         self.assert_restored()
 
     def test_disconnecting_during_the_bootstrap(self):
-        self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/data"], check=True)
+        self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/tor/data"], check=True)
         with self.lab.netem(loss=1.0), self.product.session() as session:
             state = session.wait(lambda s: s["canCancel"] and s["bootstrapProgress"] > 0)
             self.assertEqual(state["phase"], "connecting")
@@ -225,7 +225,7 @@ class WhenThingsGoWrong(LabCase):
         self.assert_restored()
 
     def test_ctrl_c_during_the_bootstrap(self):
-        self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/data"], check=True)
+        self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/tor/data"], check=True)
         with self.lab.netem(loss=1.0), self.product.session() as session:
             session.wait(lambda s: s["phase"] == "connecting")
             self.assertEqual(session.interrupt(), 0, session.output)
@@ -281,15 +281,15 @@ class WhenThingsGoWrong(LabCase):
         self.assert_restored()
 
     def test_a_tor_that_cannot_start_says_why(self):
-        self.lab.host.write("/usr/local/bin/broken-tor",
+        self.lab.host.write("/usr/local/broken/tor",
                             "#!/bin/sh\ncase \" $* \" in *hash-password*) exec /usr/bin/tor \"$@\";; esac\n"
                             "echo '[err] The clock says it is yesterday.'; exit 1\n", mode=0o755)
-        self.addCleanup(self.lab.host.run, ["rm", "-f", "/usr/local/bin/broken-tor"])
-        self.set("customTorPath", "/usr/local/bin/broken-tor")
+        self.addCleanup(self.lab.host.run, ["rm", "-f", "/usr/local/broken/tor"])
+        self.set("customTorPath", "/usr/local/broken/tor")
         with self.product.session() as session:
             self.assertEqual(session.process.wait(30), 1)
         self.assertIn("The clock says it is yesterday.", session.output)
-        self.lab.host.run(["rm", "-f", "/usr/local/bin/broken-tor"])
+        self.lab.host.run(["rm", "-f", "/usr/local/broken/tor"])
         self.assert_restored()
 
 

@@ -27,7 +27,7 @@ class Deadline(LabCase):
         return state["errorMessage"]
 
     def test_a_network_that_answers_nothing(self):
-        self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/data"], check=True)
+        self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/tor/data"], check=True)
         with self.lab.netem(loss=1.0):
             self.assertEqual(self.attempt("connect"), TIMEOUT + RESTORE)
 

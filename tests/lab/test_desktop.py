@@ -281,7 +281,7 @@ class ToldToEnd(DesktopCase):
         self.assert_restored()
 
     def test_a_signal_while_tor_is_starting(self):
-        self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/data"], check=True)
+        self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/tor/data"], check=True)
         with self.lab.netem(loss=1.0):
             self.window.click("push button", "Connect to Tor")
             self.wait_state(lambda s: s["phase"] == "connecting")

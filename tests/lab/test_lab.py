@@ -213,7 +213,7 @@ class NetworkTest(unittest.TestCase):
 
 
 def everything() -> unittest.TestSuite:
-    names = ("test_packets", "test_host", "test_command_line", "test_lifecycle", "test_lab")
+    names = ("test_packets", "test_keys", "test_host", "test_command_line", "test_lifecycle", "test_lab")
     return unittest.TestSuite(unittest.defaultTestLoader.loadTestsFromName(name) for name in names)
 
 

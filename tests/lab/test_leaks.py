@@ -104,7 +104,7 @@ class Leaks(LeakCase):
         for moment in moments:
             for identity, cell in enumerate(self.matrix.row(moment, [CLOSED, CLOSED, CLOSED, OPEN])):
                 cell.control = control.get(identity, 0)
-        self.sh("rm -rf /var/lib/veldmark/run/data")
+        self.sh("rm -rf /var/lib/veldmark/run/tor/data")
         with self.session():
             self.core("Tor has not bootstrapped yet")
             self.sh("until grep -q 'Bootstrapped 100%' /var/lib/veldmark/run/notices.log; do sleep 0.05; done", timeout=60)
@@ -312,6 +312,15 @@ class Leaks(LeakCase):
             asked = [entry for entry in self.lab.world.dns_log(since) if entry["name"] == "www.example.test"]
             self.assertTrue(asked and all(entry["source"] == at.HOST_ADDRESS for entry in asked), asked)
         self.sh(f"rm {script} /home/alice/ip")
+
+    def test_d_tors_account_outside_its_control_group(self):
+        """What a setuid file of Tor's account, left by an earlier session, would send."""
+        cells = self.matrix.row("Tor's account outside Tor's control group", [ABSENT, ABSENT, CLOSED, ABSENT])
+        cells[2].control = sum(self.run_probes(probes.CORE, [2]).counts().values())
+        with self.session():
+            self.assertGreater(sum(self.run_probes(probes.CORE, [2]).counts().values()), 0, "in the group its TCP goes out")
+            cells[2].session = sum(self.run_probes(probes.CORE, [2], within=False).counts().values())
+        self.assert_kept()
 
 
 if __name__ == "__main__":

@@ -166,11 +166,11 @@ class Log(LabCase):
                          [line for line in problems if re.search(r"\[(warn|err)\]", line)])
 
     def test_a_tor_that_cannot_start_shows_its_reason(self):
-        self.lab.host.write("/usr/local/bin/broken-tor",
+        self.lab.host.write("/usr/local/broken/tor",
                             "#!/bin/sh\ncase \" $* \" in *hash-password*|*verify-config*) exec /usr/bin/tor \"$@\";; esac\n"
                             "echo 'Nov 16 00:41:07.123 [err] The clock says it is yesterday.'; exit 1\n", mode=0o755)
-        self.addCleanup(self.lab.host.run, ["rm", "-f", "/usr/local/bin/broken-tor"])
-        self.set("customTorPath", "/usr/local/bin/broken-tor")
+        self.addCleanup(self.lab.host.run, ["rm", "-f", "/usr/local/broken/tor"])
+        self.set("customTorPath", "/usr/local/broken/tor")
         with self.product.session() as session:
             self.assertIn("The clock says it is yesterday.", session.wait_phase("stale")["errorMessage"])
             problems = self.product.run_verb("log", "--problems", check=True).stdout

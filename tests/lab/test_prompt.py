@@ -27,7 +27,7 @@ PROGRAMS = Path(os.environ.get("VELDMARK_PROGRAMS", PROJECT / "build" / "bin"))
 AGENT = Path(__file__).resolve().parent / "veldlab" / "polkit_agent.py"
 POLICY = PROJECT / "packaging" / "org.veldmark.helper.policy"
 HELPER = "/usr/share/veldmark/veldmark-helper.sh"
-VERBS = ("connect", "disconnect", "fix-dns", "launch", "install-privileged", "uninstall-privileged")
+VERBS = ("connect", "replace", "approve", "disconnect", "fix-dns", "launch", "install-privileged", "uninstall-privileged")
 NO_AGENT = ("veldmarkctl: Administrator access can't be asked for: no PolicyKit authentication agent is running in this "
             "session.\n")
 SKIPPED = 77
@@ -113,7 +113,7 @@ class Prompt(unittest.TestCase):
             with self.agent(self.pid("veldmarkctl"), "refuse") as asked:
                 connect = self.product.run_verb("connect", timeout=60)
                 self.assertEqual((connect.returncode, connect.stderr),
-                                 (1, "veldmarkctl: Administrator access was refused.\n"))
+                                 (1, "veldmarkctl: Administrator access was refused, or the agent that asks for the password gave no answer.\n"))
             self.assertGreaterEqual(len(asked), 1)
             session.interrupt()
         self.assert_untouched()
@@ -208,6 +208,16 @@ class Prompt(unittest.TestCase):
                 asked, status = self.ask(HELPER, verb, "--anything")
                 self.assertEqual((asked[0]["action"], status), (f"org.veldmark.helper.{verb}", 126))
                 self.assertTrue(asked[0]["message"].startswith("Veldmark needs administrator access to "))
+
+    def test_the_prompt_shows_what_is_approved(self):
+        digest = "0123456789abcdef" * 4
+        for words, shown in ((["approve", "--program", "/home/alice/my tor", "--as", "tor", "--sha256", digest], ("/home/alice/my tor", digest)),
+                             (["launch", "--uid", "4242", "--app", "/usr/bin/some-app"], ("/usr/bin/some-app",))):
+            with self.subTest(words[0]):
+                asked, status = self.ask(HELPER, *words)
+                self.assertEqual(status, 126)
+                for part in shown:
+                    self.assertIn(part, asked[0]["message"])
 
     def test_nothing_else_passes_for_the_helper(self):
         self.lab.host.write("/home/alice/veldmark-helper.sh", "#!/bin/sh\n", 0o755, self.lab.host.uid)

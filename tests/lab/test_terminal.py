@@ -136,7 +136,7 @@ class Shells(TerminalCase):
     def test_the_marker_is_there_only_while_it_may_be(self):
         session = self.start()
         self.assertFalse(self.is_marked())
-        self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/data"], check=True)
+        self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/tor/data"], check=True)
         with self.lab.netem(loss=1.0):
             waiting = self.lab.host.popen([self.product.ctl, "connect"], user=self.user, stdout=-3, stderr=-3)
             session.wait(lambda s: s["canCancel"])

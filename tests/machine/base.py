@@ -23,7 +23,7 @@ _PACKAGES = (
     "libpam-systemd dbus-user-session polkitd pkexec sudo network-manager iproute2 iputils-ping curl procps "
     "ca-certificates locales python3 "
     # Desktops: Xfce on an X server without a screen, sway and LXQt; each with its panel and its polkit agent.
-    "xvfb xauth xdotool scrot at-spi2-core python3-gi gir1.2-atspi-2.0 gir1.2-gdkpixbuf-2.0 librsvg2-common adwaita-icon-theme fonts-dejavu-core fonts-font-awesome "
+    "xvfb xauth xdotool x11-utils scrot at-spi2-core python3-gi gir1.2-atspi-2.0 gir1.2-gdkpixbuf-2.0 librsvg2-common adwaita-icon-theme fonts-dejavu-core fonts-font-awesome "
     "xfce4-session xfce4-panel xfwm4 xfdesktop4 xfce4-settings xfce4-notifyd policykit-1-gnome greybird-gtk-theme "
     "sway waybar grim wtype mate-polkit "
     "lxqt-session lxqt-panel lxqt-policykit lxqt-notificationd openbox breeze-icon-theme "

@@ -1,5 +1,7 @@
 """The application on real desktops, used as a person uses it."""
 
+import time
+
 from desktops import Desktop
 from stage import HELPER, Broken, Stage, direct, expect, expect_whole, is_protected, network, state, wait
 
@@ -54,6 +56,8 @@ def use_the_tray(stage: Stage, desktop: Desktop) -> None:
     say where it wants to be: there the click shows the main window."""
     desktop.look("protected")
     x, y = desktop.tray_icon("disconnected", "protected")
+    seen = desktop.contrast("protected", x, y)
+    expect(seen > 100, f"the tray icon hardly differs from its ground ({seen} of 255)")
     if desktop.kind == "sway":
         desktop.run(["swaymsg", "[app_id=veldmark] kill"])
         desktop.run(["swaymsg", "[title=Veldmark] kill"])
@@ -63,6 +67,7 @@ def use_the_tray(stage: Stage, desktop: Desktop) -> None:
     wait(lambda: desktop.windows().count("Veldmark") > shown, 10, "the click on the tray icon shows nothing")
     stage.picture(desktop, f"{desktop.kind}-tray")
     if desktop.kind != "sway":
+        expect(sorted(desktop.taskbar_states("Veldmark")) == [False, True], "the panel stands in the taskbar as a second Veldmark")
         desktop.click_at(x, y)
         wait(lambda: desktop.windows().count("Veldmark") == shown, 10, "a second click leaves the panel open")
 
@@ -101,9 +106,61 @@ def languages_and_appearances(stage: Stage) -> None:
                     desktop.run(["pkill", "-x", "veldmark"], check=True)
 
 
+def a_tray_that_starts_later(stage: Stage) -> None:
+    """At login, where the desktop's panel comes after the program; then a panel that starts anew."""
+    with stage.machine("tray-late") as machine, Desktop(machine, "sway") as desktop:
+        for moment in ("later", "anew"):
+            _without_tray(desktop)
+            if moment == "later":
+                desktop.run(["swaymsg", "exec", "veldmark --hidden"], check=True)
+                wait(lambda: desktop.pids("veldmark"), 20, "it does not start")
+            time.sleep(2)
+            desktop.run(["swaymsg", "exec", "waybar"], check=True)
+            wait(lambda: len(desktop.tray_items()) == 1, 20, f"a tray that starts {moment} gets no icon")
+            time.sleep(5)
+            expect("Veldmark" not in desktop.windows(), f"a window shows itself although a tray started {moment}")
+            stage.picture(desktop, f"sway-tray-{moment}")
+
+
+def no_tray(stage: Stage) -> None:
+    """Started without a window where there is no tray at all: there must be something to see and to use."""
+    with stage.machine("no-tray") as machine, Desktop(machine, "sway") as desktop:
+        _without_tray(desktop)
+        desktop.run(["swaymsg", "exec", "veldmark --hidden"], check=True)
+        started = time.monotonic()
+        wait(lambda: "Veldmark" in desktop.windows(), 20, "neither an icon nor a window")
+        stage.note = f"a window after {time.monotonic() - started:.0f} s"
+        desktop.wait_for("veldmark", "heading", "Not Protected")
+        stage.picture(desktop, "sway-no-tray")
+
+
+def _without_tray(desktop: Desktop) -> None:
+    desktop.run(["pkill", "-x", "waybar"], check=True)
+    wait(lambda: not desktop.pids("waybar"), 10, "the panel does not end")
+
+
+def an_agent_that_ends(stage: Stage) -> None:
+    """polkit-gnome, an agent for X11, ends on Wayland as soon as it is to show its dialogue."""
+    with stage.machine("agent-ends") as machine, Desktop(machine, "sway") as desktop:
+        desktop.run(["pkill", "-x", "polkit-mate-aut"], check=True)
+        desktop.run(["swaymsg", "exec", "/usr/lib/policykit-1-gnome/polkit-gnome-authentication-agent-1"], check=True)
+        wait(lambda: desktop.pids("polkit-gnome-au"), 10, "the other agent does not start")
+        time.sleep(2)   # no sign tells when it is ready to be asked
+        start(stage, desktop)
+        desktop.click("veldmark", "push button", "Connect to Tor")
+        wait(lambda: not desktop.pids("polkit-gnome-au"), 30, "the agent shows its dialogue, so nothing can be said of one that ends")
+        told = wait(lambda: state(machine, "alice")["errorMessage"], 30, "it says nothing")
+        stage.picture(desktop, "sway-agent-ended")
+        expect("gave no answer" in told, f"it says: {told}")
+        expect(direct(machine), "the network does not work")
+
+
 CASES = {
     "Xfce: from the menu to connected and back, tray": xfce,
     "sway and waybar: to connected and back, tray": sway,
     "LXQt: from the menu to connected and back, tray": lxqt,
     "Xfce: English and German, light and dark": languages_and_appearances,
+    "sway: a panel that starts after the program, and anew": a_tray_that_starts_later,
+    "sway: no panel, and started without a window": no_tray,
+    "sway: an agent that ends when it is to ask": an_agent_that_ends,
 }

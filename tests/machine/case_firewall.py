@@ -1,5 +1,6 @@
 """Other firewalls, there before the session or started during it: it connects, nothing leaks, they are as they were."""
 
+from boot import USER
 from stage import Stage, connected, direct, end, expect, network, product, state, through_tor, watched
 
 _FIREWALLD = "systemctl start firewalld && firewall-cmd --state >/dev/null"
@@ -17,6 +18,20 @@ iptables -A FORWARD -o docker0 -m conntrack --ctstate RELATED,ESTABLISHED -j ACC
 iptables -A FORWARD -o docker0 -j DOCKER
 iptables -A FORWARD -i docker0 ! -o docker0 -j ACCEPT
 iptables -P FORWARD DROP
+"""
+# For whatever this machine sends, as its administrators do it.
+_FIREWALLD_DENIES = """
+firewall-cmd --permanent --new-policy nothing-out
+firewall-cmd --permanent --policy nothing-out --add-ingress-zone HOST
+firewall-cmd --permanent --policy nothing-out --add-egress-zone ANY
+firewall-cmd --permanent --policy nothing-out --set-target DROP
+firewall-cmd --reload
+"""
+_CHAIN_DENIES = """
+iptables -N NOTHING-OUT
+iptables -A NOTHING-OUT -m conntrack --ctstate RELATED,ESTABLISHED -j ACCEPT
+iptables -A NOTHING-OUT -j DROP
+iptables -A OUTPUT ! -o lo -j NOTHING-OUT
 """
 
 
@@ -78,19 +93,34 @@ def docker_during(stage: Stage) -> None:
     _during(stage, "docker-during", _DOCKER)
 
 
-def ufw_that_denies_what_goes_out(stage: Stage) -> None:
-    """What blocks Tor is named, before the five minutes are over."""
-    with stage.machine("ufw-denies") as machine:
-        machine.shell("ufw default deny outgoing && ufw --force enable")
-        expect(not direct(machine), "ufw denies nothing")
+def _denies(stage: Stage, name: str, script: str, called: str) -> None:
+    """What blocks Tor is named, before the five minutes are over, and by the doctor as well."""
+    with stage.machine(f"{name}-denies") as machine:
+        expect(direct(machine), "there is no network to begin with")
+        machine.shell(f"set -e; {script}", timeout=60)
+        expect(not direct(machine), "it denies nothing")
         before = network(machine)
         with product(machine).session() as session:
-            told = session.wait(lambda s: s["bootstrapProblem"] or s["errorMessage"], 60)
+            told = session.wait(lambda s: s["bootstrapProblem"] or s["errorMessage"], 30)
             words = told["bootstrapProblem"] or told["errorMessage"]
-            expect("ufw" in words or "firewall" in words.lower(), f"it says: {words}")
+            expect("firewall" in words and called in words, f"it says: {words}")
+            found = [line for line in machine.run(["veldmarkctl", "doctor"], user=USER).stdout.splitlines() if "denies what goes out" in line]
+            expect(found and called in found[0], f"the doctor does not name {called}")
             session.interrupt()
         after = network(machine)
         expect(after == before, "the network is not as before")
+
+
+def ufw_that_denies_what_goes_out(stage: Stage) -> None:
+    _denies(stage, "ufw", "ufw default deny outgoing && ufw --force enable", "ufw")
+
+
+def firewalld_that_denies_what_goes_out(stage: Stage) -> None:
+    _denies(stage, "firewalld", _FIREWALLD + _FIREWALLD_DENIES, "firewalld")
+
+
+def docker_beside_a_chain_that_denies(stage: Stage) -> None:
+    _denies(stage, "docker", _DOCKER + _CHAIN_DENIES, "table ip filter")
 
 
 CASES = {
@@ -101,4 +131,6 @@ CASES = {
     "Docker's rules before": docker_before,
     "Docker's rules during the session": docker_during,
     "ufw denies what goes out: it is named": ufw_that_denies_what_goes_out,
+    "firewalld denies what goes out: it is named": firewalld_that_denies_what_goes_out,
+    "Docker's rules, and a chain that denies: it is named": docker_beside_a_chain_that_denies,
 }

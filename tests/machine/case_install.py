@@ -1,7 +1,9 @@
 """The package, as its user meets it: installed by apt on a machine that is on, upgraded while connected, removed, purged."""
 
 from boot import Machine
-from stage import Stage, connected, expect, expect_whole, network
+from case_readme import at_a_terminal, commands
+from case_tor import service_listens, service_state
+from stage import Stage, connected, expect, expect_whole, network, wait
 from veldlab import topology as at
 
 
@@ -11,9 +13,10 @@ def install(stage: Stage) -> None:
     with Machine(stage.lab, [stage.base], "install") as machine:
         machine.boot()
         before = network(machine)
-        machine.path("/home/alice").joinpath(stage.package.name).write_bytes(stage.package.read_bytes())
-        done = machine.run(["apt-get", "install", "--yes", f"./{stage.package.name}"], cwd="/home/alice", timeout=400,
-                           env={"DEBIAN_FRONTEND": "noninteractive"})
+        # As the README says; ./build.sh package, its line before, is tried where there is a compiler (./build.sh fresh-test).
+        machine.write(f"/home/alice/build/{stage.package.name}", stage.package.read_bytes(), uid=machine.uid)
+        [line] = [line for line in commands("Install") if "apt install" in line]
+        done = at_a_terminal(machine, line, {"DEBIAN_FRONTEND": "noninteractive"}, timeout=400)
         expect(done.returncode == 0, f"apt: {(done.stdout + done.stderr).strip().splitlines()[-1]}")
         expect_whole(machine, before)
         expect(machine.shell("systemctl is-active tor@default; true").strip() == "active", "Debian's tor service did not start")
@@ -25,23 +28,38 @@ def install(stage: Stage) -> None:
         machine.keep()
 
 
+def with_service(machine: Machine) -> tuple[dict[str, str], str]:
+    """How the machine is while Debian's own tor service runs, which a session takes the port from."""
+    wait(lambda: service_listens(machine), 20, "Debian's tor service does not listen")
+    return network(machine), service_state(machine)
+
+
+def given_back(machine: Machine, service: str) -> None:
+    wait(lambda: service_listens(machine), 20, "Debian's tor service was not given back")
+    wait(lambda: service_state(machine) == service, 20, "the service is not as before")
+
+
 def remove_while_connected(stage: Stage) -> None:
-    with stage.machine("remove") as machine:
-        before = network(machine)
+    with stage.machine("remove", tor_service=True) as machine:
+        before, service = with_service(machine)
         with connected(machine) as session:
+            expect(not service_listens(machine), "Debian's tor service still has the port")
             machine.run(["apt-get", "remove", "--yes", "veldmark"], check=True, timeout=120)
             expect_whole(machine, before)
+            given_back(machine, service)
             session.interrupt()
         machine.reboot()
         expect_whole(machine, before)
 
 
 def purge_while_connected(stage: Stage) -> None:
-    with stage.machine("purge") as machine:
-        before = network(machine)
+    with stage.machine("purge", tor_service=True) as machine:
+        before, service = with_service(machine)
         with connected(machine) as session:
+            expect(not service_listens(machine), "Debian's tor service still has the port")
             machine.run(["apt-get", "purge", "--yes", "veldmark"], check=True, timeout=120)
             expect_whole(machine, before)
+            given_back(machine, service)
             session.interrupt()
         left = machine.shell("find / -xdev -iname '*veldmark*' ! -path '/var/lib/apt/*' ! -path '/var/cache/*' ! -path '/home/*' ! -path '/root/*'"
                              " ! -path '/tmp/*' ! -path '/var/log/*' ! -path '/var/lib/dpkg/*' ! -name '*-lab-*'; getent passwd _veldmark; true").strip()
@@ -49,6 +67,6 @@ def purge_while_connected(stage: Stage) -> None:
 
 
 CASES = {
-    "apt remove, while connected": remove_while_connected,
-    "apt purge, while connected": purge_while_connected,
+    "apt remove, while connected and Debian's tor service taken over": remove_while_connected,
+    "apt purge, while connected and Debian's tor service taken over": purge_while_connected,
 }

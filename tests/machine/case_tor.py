@@ -5,26 +5,30 @@ from stage import Stage, connected, end, expect, expect_whole, network, product,
 _WHO = "systemctl is-active tor@default; systemctl is-enabled tor"
 
 
-def _service_listens(machine) -> bool:
+def service_listens(machine) -> bool:
     return "debian-tor" in machine.shell("pid=$(ss -Hltnp 'sport = 9050' | grep -o 'pid=[0-9]*' | head -n 1 | cut -d= -f2); "
                                          "[ -z \"$pid\" ] || ps -o user= -p \"$pid\"")
 
 
+def service_state(machine) -> str:
+    return machine.run(["sh", "-c", _WHO]).stdout
+
+
 def debians_tor(stage: Stage) -> None:
     with stage.machine("tor", tor_service=True) as machine:
-        wait(lambda: _service_listens(machine), 20, "Debian's tor service does not listen")
-        before, service = network(machine), machine.run(["sh", "-c", _WHO]).stdout
+        wait(lambda: service_listens(machine), 20, "Debian's tor service does not listen")
+        before, service = network(machine), service_state(machine)
         with connected(machine) as session:
-            expect(not _service_listens(machine), "Debian's tor service still has the port")
+            expect(not service_listens(machine), "Debian's tor service still has the port")
             end(session, machine, before)
-        wait(lambda: _service_listens(machine), 20, "Debian's tor service was not given back")
+        wait(lambda: service_listens(machine), 20, "Debian's tor service was not given back")
         # systemd calls it active only when tor has told it so, a moment after it listens.
-        wait(lambda: machine.run(["sh", "-c", _WHO]).stdout == service, 20, "the service is not as before")
+        wait(lambda: service_state(machine) == service, 20, "the service is not as before")
 
 
 def debians_tor_after_a_power_cut(stage: Stage) -> None:
     with stage.machine("tor-cut", tor_service=True) as machine:
-        wait(lambda: _service_listens(machine), 20, "Debian's tor service does not listen")
+        wait(lambda: service_listens(machine), 20, "Debian's tor service does not listen")
         before = network(machine)
         with connected(machine) as session:
             machine.power_cut()
@@ -33,7 +37,7 @@ def debians_tor_after_a_power_cut(stage: Stage) -> None:
         if state(machine)["phase"] != "disconnected":
             product(machine).run_verb("restore", timeout=60)
         expect_whole(machine, before)
-        wait(lambda: _service_listens(machine), 20, "Debian's tor service was not given back")
+        wait(lambda: service_listens(machine), 20, "Debian's tor service was not given back")
 
 
 CASES = {

@@ -214,6 +214,21 @@ class Desktop(contextlib.AbstractContextManager):
         left, above, right, below = icons[0]
         return (left + right) // 2, (above + below) // 2
 
+    def contrast(self, picture: str, x: int, y: int, size: int = 24) -> int:
+        """By how much what stands there differs from the ground around it, in a picture of look()'s; 0 to 255."""
+        return int(self.run(["/usr/bin/python3", f"{TOOLS}/contrast.py", f"/tmp/bar-{picture}.png", str(x), str(y), str(size)], check=True).stdout)
+
+    def taskbar_states(self, title: str) -> list[bool]:
+        """On X11, for each window on show with this title: whether it asks to be left out of the taskbar."""
+        ids = self.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"]).stdout.split()
+        return ["_NET_WM_STATE_SKIP_TASKBAR" in self.run(["xprop", "-id", window, "_NET_WM_STATE"], check=True).stdout for window in ids]
+
+    def tray_items(self) -> list[str]:
+        """Who has an icon in the tray, as its keeper on the bus tells."""
+        told = self.run(["busctl", "--user", "--json=short", "get-property", "org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher",
+                         "org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems"])
+        return json.loads(told.stdout)["data"] if told.returncode == 0 else []
+
     # Doing ------------------------------------------------------------------------------------------------------------
 
     def click_at(self, x: int, y: int, button: int = 1) -> None:

@@ -22,6 +22,7 @@ import case_desktop  # noqa: E402
 import case_firewall  # noqa: E402
 import case_install  # noqa: E402
 import case_network  # noqa: E402
+import case_readme  # noqa: E402
 import case_sleep  # noqa: E402
 import case_tor  # noqa: E402
 import case_trouble  # noqa: E402
@@ -29,7 +30,7 @@ from stage import Broken, CannotRun, Stage  # noqa: E402
 
 SKIPPED = 77
 CASES = (case_desktop.CASES | case_tor.CASES | case_network.CASES | case_firewall.CASES | case_trouble.CASES | case_sleep.CASES
-         | case_install.CASES)
+         | case_install.CASES | case_readme.CASES)
 
 
 def attempt(stage: Stage, name: str, case) -> tuple[str, str, float]:

@@ -1,18 +1,19 @@
 #!/usr/bin/python3
 """Puts small mistakes into the code, one at a time, and says which of them no test notices.
 
-usage: run.py [ROOM...] [--count N] [--seed S] [--again] [--long] [--list]
+usage: run.py [ROOM...] [--count N] [--seed S] [--again] [--all] [--list]
 
 ROOM: a room of src/ (its C++), qml, helper or helper_mac (the root helper's parts); without one all rooms of the logic. N mistakes are
 made at lines that the seed chooses. Each is built, in a clone of the last commit in build/mutate, and run against the tests of its
-room; what those miss, against the tests of the rooms that use it. The helper's tests that last minutes are left out.
+room; of the helper's, against those that touch its part.
 
-A mistake that does not compile is thrown away and replaced by the next. It is noticed when the same case of a
-test fails twice, or a test takes ten times as long as without it. First those tests run without a mistake. Tests run behind walls.sh, where a mistake can do no harm.
+A mistake that does not compile is thrown away and replaced by the next. It is noticed when the same case of a test fails twice, or a
+test takes ten times as long as without it. First those tests run without a mistake. Tests run behind walls.sh, where a mistake can do
+no harm.
 
 tests/mutate/aside.txt holds mistakes that change nothing anybody could notice, each with its reason. They are not counted.
 
---long   the helper's tests that last minutes are asked as well, the kills above all
+--all    what those tests miss is shown to the tests of the rooms that use this one as well, and to the helper's that last minutes
 --again  the mistakes that survived the last run with these words, instead of new ones
 --list   only print the mistakes
 
@@ -39,11 +40,12 @@ PROJECT = HERE.parents[1]
 ROOT = PROJECT / "build" / "mutate"
 LOGIC = ("base", "platform", "system", "control", "bridges", "circuits", "checks", "log", "terminal", "doctor", "controller", "instance")
 # The helper's tests that touch a part; those of a part that is not here touch all.
-TOUCHED = {"addresses": "texts firewall", "files": "session texts watcher programs", "linux-exempt": "launch firewall session",
-           "linux-firewall": "texts firewall session watcher", "linux-owner": "owner", "linux-proxy": "proxy", "linux-resolved": "resolved",
+TOUCHED = {"core": "parts options privileged programs owner", "main": "options privileged owner programs",
+           "session": "parts session watcher", "addresses": "texts firewall parts", "files": "parts session texts watcher programs", "linux-exempt": "launch firewall session",
+           "linux-firewall": "rules texts firewall session watcher", "linux-owner": "owner", "linux-proxy": "proxy", "linux-resolved": "resolved",
            "linux-resolver": "session resolved texts", "linux-service": "service", "linux-session": "session watcher owner launch resolved",
            "linux-state": "options session programs owner privileged", "linux-tor": "session programs texts launch owner",
-           "linux-watcher": "watcher session", "note": "session owner watcher", "options": "options texts programs",
+           "linux-watcher": "watcher session", "note": "parts session owner watcher", "options": "parts options texts programs",
            "privileged": "privileged programs", "programs": "programs launch privileged", "torrc": "texts session options"}
 HELPERS = ("helper", "helper_mac")
 ROOMS = LOGIC + ("ui", "app", "cli", "qml") + HELPERS
@@ -63,7 +65,7 @@ def link_lines() -> dict[str, set[str]]:
 
 
 class Room:
-    """Where its mistakes are made and which tests are asked, in this order: patterns of CTest names."""
+    """Where its mistakes are made, and which tests are asked: its own, then those of who uses it, as patterns of CTest names."""
 
     def __init__(self, name):
         self.name = name
@@ -193,12 +195,13 @@ class Test:
 
 
 class Proved:
-    """The tests of a room in their two groups. Each is proved to pass without a mistake before it is asked, which gives its usual time.
+    """The tests of a room in those two groups. Each is proved to pass without a mistake before it is asked, which gives its usual time.
     What was proved is remembered for as long as neither the program nor its tests change."""
 
-    def __init__(self, clone, room, with_long):
+    def __init__(self, clone, room, ask_all):
         self.clone, self.targets, self.groups = clone, room.targets, [None, None]
-        self.patterns, self.left_out = room.tests, NO_HELPER if with_long else f"{NO_HELPER}|{LONG}"
+        self.ask_all = ask_all
+        self.patterns, self.left_out = room.tests, NO_HELPER if ask_all else f"{NO_HELPER}|{LONG}"
         parts = ("resources/helper", "tests/helper", "tests/helper_mac") if room.name in HELPERS else ("src", "tests/unit", "tests/support", "tests/ui")
         state = clone.git(PROJECT, "rev-parse", *(f"{clone.commit}:{part}" for part in parts))
         self.note = ROOT / f"times-{hashlib.sha256(state.encode()).hexdigest()[:12]}.json"
@@ -242,7 +245,7 @@ def kin(path, test):
 
 def noticed_by(clone, path, mutant, proved):
     """The test that notices the mistake; None when none does; "" when it does not compile."""
-    for number in range(2):
+    for number in range(2 if proved.ask_all else 1):
         tests = [] if number == 1 and Path(path).name.startswith("linux-") else proved.tests(number)
         touched = TOUCHED.get(Path(path).stem, "").split() if path.endswith(".sh") and number == 0 else []
         tests = [test for test in tests if not touched or test.name.rsplit("/", 1)[1] in touched or re.search(LONG, test.name)]
@@ -282,7 +285,7 @@ def main():
     parser.add_argument("rooms", nargs="*", metavar="ROOM")
     parser.add_argument("--count", type=int, default=20)
     parser.add_argument("--seed", type=int, default=1)
-    parser.add_argument("--long", action="store_true")
+    parser.add_argument("--all", action="store_true")
     parser.add_argument("--again", action="store_true")
     parser.add_argument("--list", action="store_true")
     given = parser.parse_args()
@@ -307,7 +310,7 @@ def main():
         if aside.reason(path, mutant):
             put_aside += 1
             continue
-        by = noticed_by(clone, path, mutant, proved.setdefault(room.name, Proved(clone, room, given.long)))
+        by = noticed_by(clone, path, mutant, proved.setdefault(room.name, Proved(clone, room, given.all)))
         if by == "":
             refused += 1
         elif by:

@@ -3,6 +3,7 @@
 import json
 import os
 import re
+import struct
 import subprocess
 import sys
 import tempfile
@@ -198,6 +199,16 @@ class Metadata(InAHome):
     def test_the_pictures_can_be_drawn(self):
         for path in (PACKAGING / "icons").iterdir():
             self.assertEqual(tree.parse(path).getroot().tag, "{http://www.w3.org/2000/svg}svg")
+
+    def test_the_program_has_a_picture_where_no_svg_is_shown(self):
+        """Of every size that the package installs, drawn by the build: a PNG of that size with the drawing's colour in it."""
+        sizes = re.search(r"set\(sizes ([0-9 ]+)\)", (PACKAGING / "CMakeLists.txt").read_text()).group(1).split()
+        self.assertLessEqual({"16", "22", "24", "32", "48", "64", "128", "256"}, set(sizes))
+        for size in map(int, sizes):
+            png = (METAINFO.parent / f"{size}.png").read_bytes()
+            self.assertEqual((png[:8], png[12:16]), (b"\x89PNG\r\n\x1a\n", b"IHDR"), size)
+            self.assertEqual((*struct.unpack(">II", png[16:24]), png[25]), (size, size, 6), "with transparency")
+        self.assertGreater(len(png), 1000)
 
     def test_the_scripts_are_clean(self):
         for name in ("prerm", "postinst", "postrm"):

@@ -278,7 +278,7 @@ Result<ProcessResult, StartError> Workbench::run(const ScriptedRunner::Call &cal
 void Workbench::noteRules(const QByteArray &word, int missed, qint64 since)
 {
     writeFile(profile.killSwitchNote, word + ' ' + QByteArray::number(missed) + ' ' + QByteArray::number(since) + '\n');
-    m_watcher.start(1s);
+    m_watcher.start(200ms);
 }
 
 void Workbench::setNoteAge(std::chrono::seconds age)

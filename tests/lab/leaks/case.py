@@ -17,7 +17,7 @@ from veldlab.product import Product
 PROGRAMS = Path(os.environ.get("VELDMARK_PROGRAMS", PROJECT / "build" / "bin"))
 SENDER = str(Path(__file__).resolve().with_name("sender.py"))
 HASH = "16:" + "0123456789ABCDEF" * 3 + "0123456789"
-GROUP = "/sys/fs/cgroup/veldmark-exempt"
+GROUPS = {2: "/sys/fs/cgroup/veldmark/tor", 3: "/sys/fs/cgroup/veldmark-exempt"}   # which identity is in one
 EVERYBODY = range(len(matrix.IDENTITIES))
 
 
@@ -70,26 +70,27 @@ class LeakCase(unittest.TestCase):
         finally:
             self.disconnect()
 
-    def words(self, identity, *arguments):
-        """(command, options) that runs sender.py as the identity."""
+    def words(self, identity, *arguments, within=True):
+        """(command, options) that runs sender.py as the identity; `within` its control group, if it has one."""
         command = ["/usr/bin/python3", "-B", SENDER, *map(str, arguments)]
-        if identity == 3:   # in the group by the hand of root, as the helper does; without a session there is none
-            uid = str(self.host.uid)
-            enter = f'[ ! -d {GROUP} ] || echo 0 >{GROUP}/cgroup.procs; exec setpriv --reuid {uid} --regid {uid} --clear-groups "$@"'
-            return ["/bin/sh", "-c", enter, "sh", *command], {}
+        if identity in GROUPS and within:   # in the group by the hand of root, as the helper does; without a session there is none
+            user = "_veldmark" if identity == 2 else str(self.host.uid)
+            group = "_veldmark" if identity == 2 else str(self.host.uid)
+            enter = '[ ! -d "$0" ] || echo 0 >"$0/cgroup.procs"; exec setpriv --reuid "$1" --regid "$2" --clear-groups -- /bin/sh -c \'cd /; exec "$@"\' sh "${@:3}"'
+            return ["/bin/bash", "-c", enter, GROUPS[identity], user, group, *command], {}
         user = ("nobody", "root", "_veldmark", "root", "root", "root")[identity]
         return command, {"user": user, "cwd": "/"}
 
-    def start(self, identity, *arguments, **pipes):
-        command, options = self.words(identity, *arguments)
+    def start(self, identity, *arguments, within=True, **pipes):
+        command, options = self.words(identity, *arguments, within=within)
         return self.host.popen(command, **options, **({"stdout": subprocess.PIPE, "stderr": subprocess.STDOUT, "text": True} | pipes))
 
-    def send(self, names, identities=EVERYBODY):
+    def send(self, names, identities=EVERYBODY, within=True):
         """All identities at once; returns when everything has been sent."""
         running = {}
         for identity in identities:
             mine = [n for n in names if matrix.promise(n, identity) != ABSENT]
-            running[identity] = self.start(identity, "send", identity, *mine)
+            running[identity] = self.start(identity, "send", identity, *mine, within=within)
         for identity, process in running.items():
             output, _ = process.communicate(timeout=60)
             self.assertEqual(process.returncode, 0, f"{matrix.IDENTITIES[identity]}: {output}")
@@ -112,14 +113,15 @@ class LeakCase(unittest.TestCase):
         self.sh("while ip neigh show nud incomplete | grep -q .; do sleep 0.02; done", timeout=30)
         type(self).sentinels += 1
         port = 1000 + self.sentinels
-        self.host.run(["/usr/bin/python3", "-c", "import socket; s = socket.socket(); s.setblocking(False);"
-                       f"s.connect_ex(('{matrix.SENTINEL}', {port}))"], user="_veldmark", cwd="/", check=True)
+        self.host.run(["/bin/sh", "-c", '[ ! -d "$0" ] || echo 0 >"$0/cgroup.procs"; exec setpriv --reuid _veldmark --clear-groups "$@"', GROUPS[2],
+                       "/usr/bin/python3", "-c", "import socket; s = socket.socket(); s.setblocking(False);"
+                       f"s.connect_ex(('{matrix.SENTINEL}', {port}))"], cwd="/", check=True)
         for capture in seen.captures:
             capture.wait_for(lambda p: p.dst == matrix.SENTINEL and p.dport == port)
 
-    def run_probes(self, names, identities=EVERYBODY):
+    def run_probes(self, names, identities=EVERYBODY, within=True):
         with self.watched() as seen:
-            self.send(names, identities)
+            self.send(names, identities, within)
         return seen
 
     def assert_no_strangers(self, scenario, seen):

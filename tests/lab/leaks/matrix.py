@@ -25,7 +25,7 @@ def promise(name: str, identity: int) -> str:
         return ABSENT
     if identity == 3 and how not in _KERNELS_OWN:
         return OPEN
-    if identity == 2 and how in _TCP:
+    if identity == 2 and how in _TCP - {"tcp-lan"}:
         return OPEN
     return CLOSED
 

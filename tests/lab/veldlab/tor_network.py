@@ -7,16 +7,17 @@ registry controls it as well as the one that started it.
 import time
 from datetime import datetime, timezone
 
-from veldlab import tor_config
+from veldlab import node_keys, tor_config
 from veldlab import topology as at
 from veldlab.topology import Node
 
-# Arguments: a folder, then names of authorities. Makes each one's keys and prints "NAME V3-IDENTITY FINGERPRINT".
-_AUTHORITY_KEYS = r"""
+# Arguments: a folder, then names of nodes. Makes each one's keys and prints "NAME V3-IDENTITY FINGERPRINT" for the authorities.
+_MAKE_KEYS = r"""
 set -eu; cd "$1"; shift
 make_keys() (
     cd "$1"; mkdir -m 700 keys
     tor -f fingerprint.torrc --defaults-torrc ../empty --list-fingerprint --quiet > fingerprint.out &
+    case $1 in auth*) ;; *) wait $!; exit ;; esac
     head -c 16 /dev/urandom | od -An -tx1 | tr -d ' \n' > passphrase; echo >> passphrase
     (cd keys; tor-gencert --create-identity-key -m 2 --passphrase-fd 3 3< ../passphrase > ../gencert.log 2>&1)
     rm passphrase
@@ -75,18 +76,21 @@ class TorNetwork:
         return {node.address: node.country for node in at.EXITS}
 
     def make_keys(self) -> dict[str, tuple[str, str]]:
-        """Makes the authorities' keys; returns name to (v3 identity, fingerprint)."""
+        """Gives each node its keys, those of an earlier lab if there are any; returns the authorities' name to (v3 identity, fingerprint)."""
         (self.folder / "empty").touch()
         (self.folder / "geoip").write_text(tor_config.geoip_text())
         (self.folder / "resolv.conf").write_text(f"nameserver {at.DNS_ADDRESS}\n")
         for node in at.NODES:
             (self.folder / node.name).mkdir(mode=0o700)
-        names = [node.name for node in at.AUTHORITIES]
-        for node in at.AUTHORITIES:
-            (self.folder / node.name / "fingerprint.torrc").write_text(tor_config.fingerprint_torrc(node))
-        made = self.space.run(["/bin/sh", "-c", _AUTHORITY_KEYS, "sh", at.TOR_FOLDER, *names], check=True)
+        names = [node.name for node in at.NODES]
+        lines = node_keys.take(names, self.folder)
+        if lines is None:
+            for node in at.NODES:
+                (self.folder / node.name / "fingerprint.torrc").write_text(tor_config.fingerprint_torrc(node))
+            lines = self.space.run(["/bin/sh", "-c", _MAKE_KEYS, "sh", at.TOR_FOLDER, *names], check=True).stdout
+            node_keys.keep(names, self.folder, lines)
         identities = {}
-        for line in made.stdout.splitlines():
+        for line in lines.splitlines():
             name, v3_identity, fingerprint = line.split()
             identities[name] = (v3_identity, fingerprint)
         return identities

@@ -2,6 +2,7 @@
 #include "app/Tray.h"
 #include "support/TestProgram.h"
 
+#include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -53,22 +54,41 @@ private Q_SLOTS:
 
     void standsOutFromItsGround()
     {
-        // The mean lightness of what is drawn.
-        const auto ink = [](bool onDark) {
+        // How much of what is drawn is light; the rest is its edge.
+        const auto light = [](bool onDark) {
             const QImage image = Tray::icon(QStringLiteral("lock.shield.fill"), onDark).pixmap(QSize(64, 64), 1.0).toImage();
-            int sum = 0, count = 0;
+            double sum = 0, count = 0;
             for (int y = 0; y < image.height(); ++y) {
                 for (int x = 0; x < image.width(); ++x) {
                     if (qAlpha(image.pixel(x, y)) == 255) {
-                        sum += image.pixelColor(x, y).lightness();
+                        sum += image.pixelColor(x, y).lightness() > 128;
                         ++count;
                     }
                 }
             }
-            return count ? sum / count : -1;
+            return count > 0 ? sum / count : -1;
         };
-        QVERIFY(ink(true) > 200);
-        QVERIFY(ink(false) >= 0 && ink(false) < 60);
+        QVERIFY(light(true) > 0.6);
+        QVERIFY(light(false) >= 0 && light(false) < 0.4);
+    }
+
+    void itsEdgeStandsOutWhereItsColourDoesNot()
+    {
+        // A dark icon on a dark panel, and a light one on a light panel.
+        for (const bool onDark : {false, true}) {
+            for (const int pixels : {16, 22, 24}) {
+                const QImage image = Tray::icon(QStringLiteral("lock.shield.fill"), onDark).pixmap(QSize(pixels, pixels), 1.0).toImage();
+                QImage panel(image.size(), QImage::Format_RGB32);
+                const int ground = onDark ? 245 : 20;
+                panel.fill(QColor(ground, ground, ground));
+                QPainter(&panel).drawImage(0, 0, image);
+                int seen = 0;
+                for (int y = 0; y < panel.height(); ++y)
+                    for (int x = 0; x < panel.width(); ++x)
+                        seen += qAbs(panel.pixelColor(x, y).lightness() - ground) > 120;
+                QVERIFY2(seen > pixels, qPrintable(QString::number(seen)));
+            }
+        }
     }
 
     void itsTipAndMenuFollowTheSession()

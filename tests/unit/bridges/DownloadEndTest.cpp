@@ -1,4 +1,5 @@
 #include "DownloadBench.h"
+#include "bridges/BundleTools.h"
 #include "support/Interruption.h"
 #include "support/TestProgram.h"
 
@@ -111,6 +112,18 @@ private Q_SLOTS:
         QCOMPARE((*kept)->error().description(), QStringLiteral("Cancelled."));
         QTRY_VERIFY(hasEnded(processes.at(0)) && hasEnded(processes.at(1)));
         QCOMPARE(mark(), QByteArray("former"));
+    }
+
+    void nothingIsStartedOnceTheRunnerIsAboutToGo()
+    {
+        const auto tools = std::make_shared<BundleTools>(QStringLiteral("/usr/bin/true"), QString(), m_runner.get(), *m_clock);
+        auto first = BundleTools::unpack(tools, QStringLiteral("/archive"), QStringLiteral("/folder"));
+        QVERIFY(QCoro::waitFor(std::move(first)));
+        tools->forget();
+        auto second = BundleTools::unpack(tools, QStringLiteral("/archive"), QStringLiteral("/folder"));
+        const auto ended = QCoro::waitFor(std::move(second));
+        QVERIFY(!ended);
+        QCOMPARE(ended.error().description(), QStringLiteral("Couldn't unpack the download. Cancelled."));
     }
 
     void mayBeDestroyedWhileAProgramRuns()

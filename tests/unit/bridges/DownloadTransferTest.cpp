@@ -39,6 +39,16 @@ private Q_SLOTS:
         QCOMPARE(mark(), QByteArray("former"));
     }
 
+    // The page of an error may be longer than what was asked for: that is not what went wrong.
+    void namesTheStatusOfALongPage()
+    {
+        putBundle();
+        serve(archivePath + ".asc", QByteArray(300 * 1024, 'x'));
+        QCOMPARE(failure(), QStringLiteral("The server sent more than signature can be."));
+        serve(archivePath + ".asc", QByteArray(300 * 1024, 'x'), "404 Not Found");
+        QCOMPARE(failure(), QStringLiteral("Download of signature failed (HTTP 404)."));
+    }
+
     void followsARedirectButNeverToPlainHTTP()
     {
         QTcpServer plain;

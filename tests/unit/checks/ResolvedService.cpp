@@ -1,6 +1,7 @@
 #include "ResolvedService.h"
 
 #include <QDBusArgument>
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
@@ -166,6 +167,7 @@ bool ResolvedService::handleMessage(const QDBusMessage &message, const QDBusConn
     ++calls;
     if (isSilent) {
         message.setDelayedReply(true);
+        m_unanswered = message;
         return true;
     }
     if (message.member() == u"GetLink") {
@@ -181,4 +183,14 @@ bool ResolvedService::handleMessage(const QDBusMessage &message, const QDBusConn
         return true;
     }
     return false;
+}
+
+void ResolvedService::answerLate()
+{
+    m_connection.send(m_unanswered.createReply(manager()));
+}
+
+bool ResolvedService::hasListener() const
+{
+    return m_connection.interface()->isServiceRegistered(m_unanswered.service());
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QDBusVirtualObject>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -37,6 +38,9 @@ public:
     bool withPorts = true; // the daemon is new enough for "DNSEx"
     int calls = 0;
 
+    void answerLate();               // what it was silent about
+    bool hasListener() const;        // whoever asked that is still on the bus
+
     QString introspect(const QString &) const override { return {}; }
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override;
 
@@ -46,4 +50,5 @@ private:
 
     QString m_name;
     QDBusConnection m_connection;
+    QDBusMessage m_unanswered;
 };

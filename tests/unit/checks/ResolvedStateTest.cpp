@@ -62,9 +62,9 @@ private Q_SLOTS:
         QTest::newRow("IPv6") << ipv6("20010db8000000000000000000000053").text() << text("2001:db8::53");
         QTest::newRow("IPv6 with port") << ipv6("20010db8000000000000000000000053", 0, 853).text()
                                         << text("[2001:db8::53]:853");
-        QTest::newRow("Tor's port") << ipv4("7f000001", 0, 9053).text() << text("127.0.0.1");
-        QTest::newRow("Tor's port, IPv6") << ipv6(loopback6, 0, 9053).text() << text("::1");
-        QTest::newRow("Tor's port elsewhere") << ipv4("0a000001", 0, 9053).text() << text("10.0.0.1:9053");
+        QTest::newRow("Tor's port") << ipv4("7f000001", 0, 293).text() << text("127.0.0.1");
+        QTest::newRow("Tor's port, IPv6") << ipv6(loopback6, 0, 293).text() << text("::1");
+        QTest::newRow("Tor's port elsewhere") << ipv4("0a000001", 0, 293).text() << text("10.0.0.1:293");
         QTest::newRow("another program on the loopback") << ipv4("7f000001", 0, 5353).text() << text("127.0.0.1:5353");
         QTest::newRow("too short") << ipv4("7f0000").text() << QString();
         QTest::newRow("wrong family") << ResolvedServer{0, AF_INET, QByteArray(16, 'x'), 0, {}}.text() << QString();
@@ -105,8 +105,8 @@ private Q_SLOTS:
     void linksThatPointAtTorAreNoLeak()
     {
         ResolvedState state;
-        state.servers = {ipv4("7f000001", 1), ipv6(loopback6, 1), ipv4("7f000001", 1, 9053)};
-        state.links = {{text("eth7"), {ipv4("7f000001"), ipv6(loopback6), ipv4("7f000001", 0, 9053)},
+        state.servers = {ipv4("7f000001", 1), ipv6(loopback6, 1), ipv4("7f000001", 1, 293)};
+        state.links = {{text("eth7"), {ipv4("7f000001"), ipv6(loopback6), ipv4("7f000001", 0, 293)},
                         {{text("."), true}}, true, true}};
         QCOMPARE(summaries(state.resolvers()), text("127.0.0.1, ::1 on eth7"));
         QVERIFY(DNSCheck::leaks(state.resolvers()).empty());

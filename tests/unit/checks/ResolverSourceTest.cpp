@@ -207,6 +207,28 @@ private Q_SLOTS:
         QCOMPARE(reading.summaries(), text("10.0.0.1"));
     }
 
+    // Its thread ends with the question that it has asked, and asks no more.
+    void aDaemonThatWasGivenUpIsAskedNothingMore()
+    {
+        ResolvedService service(m_bus->address());
+        LinuxResolverSource source(*m_clock, write(text("resolv.conf"), "nameserver 127.0.0.53\n"));
+        const Reading whole(source);
+        QTRY_VERIFY(whole.isDone());
+        QVERIFY(service.calls > 1);
+
+        service.calls = 0;
+        service.isSilent = true;
+        const Reading reading(source);
+        QTRY_COMPARE(service.calls, 1);
+        QVERIFY(service.hasListener());
+        m_clock->advance(ResolvedBus::limit);
+        QTRY_VERIFY(reading.isDone());
+        service.isSilent = false;
+        service.answerLate();
+        QTRY_VERIFY(!service.hasListener());
+        QCOMPARE(service.calls, 1);
+    }
+
     // Connecting to a bus waits for its greeting; that must not stop the event loop.
     void aFrozenBusStopsNobody()
     {

@@ -89,6 +89,7 @@ private Q_SLOTS:
     {
         forEachSession([](const SessionFacts &facts) {
             const Verdict verdict = Verdict::of(facts);
+            QCOMPARE(verdict.danger == Danger::leftOver, facts.phase == Phase::stale && facts.killSwitch != State::open);
             if (verdict.danger != Danger::none && verdict.danger != Danger::leftOver)
                 return;
             switch (facts.phase) {

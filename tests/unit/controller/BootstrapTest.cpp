@@ -161,6 +161,28 @@ private Q_SLOTS:
         QCOMPARE(c.statusDetail(), u"Starting"_s);
     }
 
+    void aFirewallThatDeniesWhatGoesOutIsNamedAfterTenSeconds()
+    {
+        for (const int progress : {5, 10}) { // without a relay, and with one
+            Workbench bench;
+            TorController &c = bench.controller();
+            bench.setBootstrap("PROGRESS=" + QByteArray::number(progress) + " TAG=conn SUMMARY=\"Connecting to a relay\"");
+            const auto connecting = c.connect();
+            QVERIFY(waitsAfterPoll(bench, 1));
+            bench.writeFile(bench.profile.othersNote, "ufw\ntable ip filter\n");
+            for (int second = 1; second < 10; ++second) {
+                bench.clock.advance(1s);
+                QVERIFY(waitsAfterPoll(bench, second + 1));
+                QVERIFY(!c.bootstrapProblem());
+            }
+            bench.clock.advance(1s);
+            QVERIFY(waitsAfterPoll(bench, 11));
+            QCOMPARE(c.bootstrapProblem().value_or(QString()),
+                     progress < 10 ? u"Another firewall on this computer denies what goes out, so Tor can't connect: ufw, table ip filter."_s
+                                   : QString());
+        }
+    }
+
     void theProblemOutlivesAFailureUntilTheRestore()
     {
         Workbench bench;
@@ -235,7 +257,7 @@ private Q_SLOTS:
         Workbench bench;
         QVERIFY(bench.connect());
         QCOMPARE(bench.clock.now(), Clock::TimePoint{});
-        QCOMPARE(bench.clock.totalSlept(), 4000ms); // the monitor's, and that of the watch over the rules
+        QCOMPARE(bench.clock.totalSlept(), 3000ms); // the monitor's, and that of the watch over the rules
     }
 
     void progressNeverExceedsTheWhole()

@@ -198,11 +198,11 @@ private Q_SLOTS:
         Workbench bench;
         TorController &c = bench.controller();
         QVERIFY(bench.connect());
-        bench.killWatcher();
         QVERIFY(bench.tick());
+        bench.killWatcher();
+        bench.clock.advance(1s);
         QVERIFY(c.killSwitch()->state == State::standing); // it was seen a moment ago: a computer that slept wakes up like this
-        for (int tick = 0; tick < 4; ++tick)
-            QVERIFY(bench.tick());
+        bench.clock.advance(1s);
         QVERIFY(c.killSwitch()->state == State::unknown);
         QCOMPARE(c.title(), u"Needs Attention"_s);
         QVERIFY(c.errorMessage().value().contains(u"has stopped telling"_s));
@@ -211,6 +211,32 @@ private Q_SLOTS:
         QVERIFY(bench.tick());
         QCOMPARE(c.title(), u"Protected"_s);
         QVERIFY(!c.errorMessage());
+    }
+
+    void aSessionThatSomebodyElseTurnedOrEndedIsNeverCalledProtected()
+    {
+        for (const bool isEnded : {false, true}) {
+            Workbench bench;
+            TorController &c = bench.controller();
+            QVERIFY(bench.connect());
+            QCOMPARE(c.title(), u"Protected"_s);
+            if (isEnded) // and something goes on answering at Tor's port
+                bench.removeMarker();
+            else
+                bench.writeMarker("proxy\n");
+            bench.clock.advance(1s);
+            QCOMPARE(c.title(), u"Kill Switch Open"_s);
+            QVERIFY(c.leakStatus() == LeakStatus::notTested());
+        }
+        Workbench bench;
+        TorController &c = bench.controller();
+        c.strictMode.set(false);
+        QVERIFY(bench.connect());
+        QCOMPARE(c.title(), u"Proxy Active"_s);
+        bench.removeMarker();
+        bench.clock.advance(1s);
+        QVERIFY(c.phase() == Phase::disconnected);
+        QCOMPARE(c.title(), u"Not Protected"_s);
     }
 
     void whatWasOpenStaysSoUntilItIsSeenClosed()

@@ -129,6 +129,33 @@ private Q_SLOTS:
         QVERIFY(!c.activeMode() && !c.exitIP());
     }
 
+    void afterASleepTorBeginsAnewAndNothingOldIsClaimed()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        QVERIFY(bench.tick());
+        const char *const off = "SETCONF DisableNetwork=1";
+        const char *const on = "SETCONF DisableNetwork=0";
+        bench.tor.reply(off, "250 OK\r\n");
+        bench.tor.reply(on, "250 OK\r\n");
+        QCOMPARE(bench.commandCount(off), 0);
+        QVERIFY(c.torVerified().value_or(false) && c.exitIP());
+        c.wake();
+        QVERIFY(!c.torVerified() && !c.exitIP());
+        QVERIFY(bench.tick());
+        QCOMPARE(bench.commandCount(off), 1);
+        QCOMPARE(bench.commandCount(on), 1);
+        QVERIFY(until([&] { return c.torVerified().value_or(false) && c.exitIP(); })); // asked afresh
+        QVERIFY(bench.tick());
+        QCOMPARE(bench.commandCount(off), 1);
+        bench.disconnect();
+        c.wake(); // nothing to wake
+        QVERIFY(bench.connect());
+        QVERIFY(bench.tick());
+        QCOMPARE(bench.commandCount(off), 1);
+    }
+
     void restoringAfterTorsDeathTakesTheBannerBack()
     {
         Workbench bench;

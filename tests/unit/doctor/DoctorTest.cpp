@@ -58,8 +58,8 @@ const std::vector<Case> &cases()
          "held by nc (process 812, account alice)", "sudo kill 812"},
         {"a port on every address", [](TestMachine &m) { m.process(812, "nc", 4343); m.listens("/proc/net/tcp", {{"00000000", 9051, 4343, 1}}); }, "ports",
          Level::problem, "The port 9051", "sudo kill 812"},
-        {"the port for look-ups", [](TestMachine &m) { m.process(812, "nc", 4343); m.listens("/proc/net/udp", {{"0100007F", 9053, 4343, 1, "07"}}); },
-         "ports", Level::problem, "The port 9053", "sudo kill 812"},
+        {"the port for look-ups", [](TestMachine &m) { m.process(812, "nc", 4343); m.listens("/proc/net/udp", {{"0100007F", 293, 4343, 1, "07"}}); },
+         "ports", Level::problem, "The port 293", "sudo kill 812"},
         {"our own Tor", [](TestMachine &m) { m.listens("/proc/net/tcp", {{"0100007F", 9050, 990, 1}, {"0100007F", 9051, 990, 2}}); }, "ports",
          Level::good, "Veldmark's own Tor holds", nullptr},
         {"no nftables", [](TestMachine &m) { m.remove("/usr/bin/nft"); }, "nftables", Level::problem, "nftables isn't installed",
@@ -82,6 +82,20 @@ const std::vector<Case> &cases()
          Level::note, "here: firewalld, Docker.", "sudo nft list ruleset"},
         {"ufw that is on", [](TestMachine &m) { m.write("/etc/ufw/ufw.conf", "# comment\nENABLED=yes\nLOGLEVEL=low\n"); }, "firewalls", Level::note,
          "here: ufw.", "sudo nft list ruleset"},
+        {"ufw that denies what goes out", [](TestMachine &m) {
+             m.write("/etc/ufw/ufw.conf", "ENABLED=yes\n");
+             m.write("/etc/default/ufw", "DEFAULT_INPUT_POLICY=\"DROP\"\nDEFAULT_OUTPUT_POLICY=\"DROP\"\n");
+         }, "firewalls", Level::unknown, "so Tor may not get through: ufw.", "sudo ufw default allow outgoing"},
+        {"what the helper has found of others", [](TestMachine &m) {
+             m.write("/var/lib/veldmark/state/active", "strict\n");
+             m.write("/run/veldmark.others", "firewalld\ntable ip filter\n\x1b[2J\n");
+         }, "firewalls", Level::unknown, "so Tor may not get through: firewalld, table ip filter.", "sudo nft list ruleset"},
+        {"what it found in a session that is over", [](TestMachine &m) { m.write("/run/veldmark.others", "firewalld\n"); }, "firewalls",
+         Level::good, "No other firewall", {}},
+        {"ufw that lets out", [](TestMachine &m) {
+             m.write("/etc/ufw/ufw.conf", "ENABLED=yes\n");
+             m.write("/etc/default/ufw", "DEFAULT_INPUT_POLICY=\"DROP\"\n#DEFAULT_OUTPUT_POLICY=\"DROP\"\nDEFAULT_OUTPUT_POLICY=\"ACCEPT\"\n");
+         }, "firewalls", Level::note, "here: ufw.", "sudo nft list ruleset"},
         {"ufw that is off", [](TestMachine &m) { m.write("/etc/ufw/ufw.conf", "#ENABLED=yes\nENABLED=no\n"); }, "firewalls", Level::good,
          "No other firewall that is known by name", nullptr},
         {"rules that are loaded at boot", [](TestMachine &m) { m.write("/etc/systemd/system/sysinit.target.wants/nftables.service", ""); },

@@ -87,7 +87,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("description");
         const QString noAgent = QStringLiteral("Administrator access can't be asked for: no PolicyKit "
                                                "authentication agent is running in this session.");
-        const QString refused = QStringLiteral("Administrator access was refused.");
+        const QString refused = QStringLiteral("Administrator access was refused, or the agent that asks for the password gave no answer.");
         QTest::newRow("dismissed")
             << QByteArray("echo 'Error executing command as another user: Request dismissed' >&2; exit 126")
             << Kind::Cancelled << QStringLiteral("Cancelled.");

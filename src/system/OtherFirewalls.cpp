@@ -1,0 +1,53 @@
+#include "system/OtherFirewalls.h"
+
+#include "platform/PlatformProfile.h"
+
+#include <QFile>
+#include <QRegularExpression>
+
+namespace veldmark::OtherFirewalls {
+
+namespace {
+
+constexpr qint64 limit = 64 * 1024; // no such file is nearly as long
+
+QString read(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.read(limit)) : QString();
+}
+
+// Whether a line of `text`, which a shell reads, sets NAME to something that begins so.
+bool sets(const QString &text, const char *name, const char *value)
+{
+    const QRegularExpression line(QStringLiteral("^\\s*%1\\s*=\\s*[\"']?(%2)\\b").arg(QLatin1String(name), QLatin1String(value)),
+                                  QRegularExpression::MultilineOption | QRegularExpression::CaseInsensitiveOption);
+    return line.match(text).hasMatch();
+}
+
+} // namespace
+
+bool isUfwOn(const PlatformProfile &profile)
+{
+    return sets(read(profile.places.root + QStringLiteral("/etc/ufw/ufw.conf")), "ENABLED", "yes");
+}
+
+QStringList denying(const PlatformProfile &profile)
+{
+    if (profile.promptKind != PromptKind::PolicyKit)
+        return {};
+    QStringList names;
+    static const QRegularExpression name(QStringLiteral("^[A-Za-z0-9_./ -]{1,80}$"));
+    if (QFile::exists(profile.sessionMarker)) {
+        for (const QString &line : read(profile.othersNote).split(u'\n', Qt::SkipEmptyParts))
+            if (name.match(line).hasMatch() && !names.contains(line))
+                names << line;
+    }
+    const QString ufw = QStringLiteral("ufw");
+    if (!names.contains(ufw) && isUfwOn(profile)
+        && sets(read(profile.places.root + QStringLiteral("/etc/default/ufw")), "DEFAULT_OUTPUT_POLICY", "DROP|REJECT"))
+        names << ufw;
+    return names;
+}
+
+} // namespace veldmark::OtherFirewalls

@@ -1,0 +1,294 @@
+"""Programs on the machine itself as attackers, without root's rights: each attack is first seen to work where its defence is
+taken out."""
+
+import os
+import subprocess
+
+import namespace
+import probes
+from namespace import DNS_PORT, OTHER_UID, TOR_GROUP, USER_UID, HelperTest
+from wire import LINK, Wire
+
+RULES = "/var/lib/veldmark/run/firewall.nft"
+DATA = "/var/lib/veldmark/run/tor/data"
+
+# Listens on 127.0.0.1 at the port given, any for 0, prints it, and greets whoever comes, until its input ends.
+SERVER = ("import os, socket, sys, threading\nthreading.Thread(target=lambda: (sys.stdin.read(), os._exit(0)), daemon=True).start()\ns = socket.create_server(('127.0.0.1', int(sys.argv[1]))); print(s.getsockname()[1], flush=True)\n"
+          "while True:\n c, _ = s.accept(); c.sendall(b'hello'); c.close()")
+# Connects to 127.0.0.1 at the port given, from the port given, any for 0; prints the greeting.
+CLIENT = ("import socket, sys\nc = socket.socket(); c.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1); c.settimeout(float(sys.argv[3]))\n"
+          "c.bind(('127.0.0.1', int(sys.argv[2])))\n"
+          "try: c.connect(('127.0.0.1', int(sys.argv[1]))); print(c.recv(9).decode())\nexcept OSError as e: print('refused')")
+
+
+class Hostile(HelperTest):
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.tor_uid = int(cls.machine.shell("id -u _veldmark"))
+        cls.machine.tor_uid = str(cls.tor_uid)
+        cls.wire = Wire(cls.machine)
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.wire.close()
+        super().tearDownClass()
+
+    def setUp(self):
+        self.before = self.machine.snapshot()
+
+    def tearDown(self):
+        self.machine.help("disconnect")
+        self.assertEqual(self.machine.snapshot(), self.before)
+
+    def serve(self, port, **who):
+        process = self.machine.start("/usr/bin/python3", "-c", SERVER, str(port), stdin=subprocess.PIPE,
+                                     stdout=subprocess.PIPE, text=True, **who)
+        port = int(process.stdout.readline())
+
+        def end():
+            if process.poll() is None:
+                process.communicate()
+        self.addCleanup(end)
+        return port, end
+
+    def reach(self, port, source=0, seconds=1, **who):
+        return self.machine.run("/usr/bin/python3", "-c", CLIENT, str(port), str(source), str(seconds), **who).stdout.strip() == "hello"
+
+    def without(self, *chains):
+        """The rules of the session without what is in those chains."""
+        if self.machine.shell("cat /var/lib/veldmark/state/active") == "strict\n":
+            self.machine.end_watcher()
+        for chain in chains:
+            self.machine.shell(f"nft flush chain inet veldmark {chain}; nft add rule inet veldmark {chain} accept")
+
+    # ---- Tor's account and its ports ----
+
+    def test_a_transports_port_is_tors_alone(self):
+        """Else it is a tunnel to a server of anybody's, from the real address."""
+        port, end = self.serve(0, uid=self.tor_uid)
+        self.assertTrue(self.reach(port, uid=OTHER_UID))
+        end()
+        for strict in 1, 0:
+            self.machine.connect(strict=strict)
+            port, end = self.serve(0, uid=self.tor_uid, group=TOR_GROUP)
+            self.assertTrue(self.reach(port, uid=self.tor_uid, group=TOR_GROUP), "Tor reaches its transports")
+            for uid in USER_UID, OTHER_UID, 0, self.tor_uid:
+                self.assertFalse(self.reach(port, uid=uid), f"as {uid}")
+            self.without("answering")
+            self.assertTrue(self.reach(port, uid=OTHER_UID))
+            end()
+            self.machine.help("disconnect")
+
+    def test_a_port_that_was_tors_lets_nobody_else_in(self):
+        self.machine.connect()
+        port, end = self.serve(0, uid=self.tor_uid, group=TOR_GROUP)
+        self.assertTrue(self.reach(port, 40001, uid=self.tor_uid, group=TOR_GROUP))
+        self.assertFalse(self.reach(port, 40001, uid=OTHER_UID))
+        self.assertTrue(self.reach(port, 40001, 10, uid=self.tor_uid, group=TOR_GROUP), "the port was free for another connection")
+        end()
+
+    def test_nobody_else_answers_at_tors_ports(self):
+        """While Tor is away, a false listener would get the control password and what others ask."""
+        for strict in 1, 0:
+            self.machine.connect(strict=strict)
+            self.machine.shell("pkill -KILL -u _veldmark; while pgrep -u _veldmark; do sleep 0.01; done")
+            ends = [self.serve(port, uid=OTHER_UID)[1] for port in (9050, 9051)]
+            mine, end_mine = self.serve(0, uid=OTHER_UID)
+            for port, wanted in ((9050, False), (9051, False), (mine, True)):
+                self.assertEqual(self.reach(port, uid=USER_UID, seconds=10 if wanted else 1), wanted, port)
+            self.without("answering", "opening")
+            self.assertTrue(self.reach(9050, uid=USER_UID) and self.reach(9051, uid=USER_UID))
+            for end in (*ends, end_mine):
+                end()
+            self.machine.help("disconnect")
+
+    def test_nobody_gets_what_others_ask(self):
+        """A second socket at Tor's port for look-ups would get them. Nobody but root and Tor can have one."""
+        bind = ("import socket, sys\ntwo = []\nfor _ in 1, 2:\n two.append(socket.socket(socket.AF_INET, socket.SOCK_DGRAM))\n"
+                " for option in socket.SO_REUSEADDR, socket.SO_REUSEPORT: two[-1].setsockopt(socket.SOL_SOCKET, option, 1)\n"
+                " two[-1].bind(('127.0.0.1', int(sys.argv[1])))\nprint('beside')")
+        for strict in 1, 0:
+            self.machine.connect(strict=strict)
+            rules = self.machine.run("nft", "list", "chain", "inet", "veldmark", "redirect_dns").stdout
+            self.assertIn(f"redirect to :{DNS_PORT}\n", rules)
+            self.assertEqual(self.machine.run("/usr/bin/python3", "-c", bind, "9053", uid=OTHER_UID).stdout, "beside\n")
+            for uid in USER_UID, OTHER_UID:
+                self.assertIn("PermissionError", self.machine.run("/usr/bin/python3", "-c", bind, str(DNS_PORT), uid=uid, check=False).stderr)
+            self.machine.help("disconnect")
+
+    def test_tors_account_alone_passes_nothing(self):
+        """A setuid file that it has left in an earlier session, say."""
+        self.machine.connect()
+        self.assertIn("https", self.wire.arrivals(self.tor_uid, TOR_GROUP))
+        self.assertEqual(self.wire.arrivals(self.tor_uid), set())
+        self.assertNotEqual(self.machine.run("/bin/sh", "-c", f"echo 0 >{TOR_GROUP}/cgroup.procs", uid=self.tor_uid, check=False).returncode, 0)
+        self.machine.help("disconnect")
+        self.assertIn("https", self.wire.arrivals(self.tor_uid))
+
+    def test_without_such_groups_it_is_the_account_alone(self):
+        self.machine.shell("umount /sys/fs/cgroup")
+        try:
+            self.machine.connect()
+            self.assertNotIn("cgroupv2", self.machine.run("nft", "list", "ruleset").stdout)
+            self.assertIn("https", self.wire.arrivals(self.tor_uid))
+            port, end = self.serve(0, uid=self.tor_uid)
+            self.assertFalse(self.reach(port, uid=OTHER_UID))
+            end()
+            self.machine.help("disconnect")
+        finally:
+            self.machine.shell("mount -t cgroup2 private /sys/fs/cgroup")
+
+    def test_tor_reaches_the_local_network_for_a_bridge_there_alone(self):
+        lan = {"lan-tcp", "lan-dns-tcp", "lan-dns-tls"}
+        self.machine.connect()
+        self.assertEqual(self.wire.arrivals(self.tor_uid, TOR_GROUP) & lan, set())
+        self.machine.connect(more=["--bridge", "203.0.113.7:443"])
+        self.assertEqual(self.wire.arrivals(self.tor_uid, TOR_GROUP) & lan, set())
+        self.machine.connect(more=["--bridge", "192.168.77.30:443"])
+        self.assertEqual(self.wire.arrivals(self.tor_uid, TOR_GROUP) & lan, lan)
+
+    # ---- What Tor's account leaves ----
+
+    def as_tor_within(self, script):
+        """In Tor's own mounts, as code of its account would run there."""
+        [pid] = self.machine.tor_pids()
+        return self.machine.run("nsenter", "--target", pid, "--mount", "setpriv", "--reuid", "_veldmark", "--regid", "_veldmark", "--clear-groups",
+                                "/bin/sh", "-c", script, check=False)
+
+    def test_tors_account_leaves_nothing_that_others_can_run(self):
+        self.machine.shell("mkdir -m 1777 /run/everybodys /home/everybodys; cp /usr/bin/id /run/id")
+        places = ["/run/everybodys", "/home/everybodys", "/tmp", "/var/tmp", "/dev/shm", DATA]
+        self.machine.shell("setpriv --reuid _veldmark --clear-groups /bin/sh -c 'cp /run/id /run/everybodys/control; chmod 4755 /run/everybodys/control'")
+        self.assertIn(f"euid={self.tor_uid}", self.machine.run("/run/everybodys/control", uid=OTHER_UID).stdout)
+        self.machine.shell("rm /run/everybodys/control")
+        self.machine.connect()
+        for place in places:
+            self.as_tor_within(f"cp /run/id {place}/left; chmod 4755 {place}/left; chmod 755 {DATA}")
+            done = self.machine.run("/bin/sh", "-c", f"{place}/left", uid=OTHER_UID, check=False)
+            self.assertNotEqual(done.returncode, 0, f"{place}: {done.stdout}")
+        self.assertEqual(self.machine.shell(f"find {' '.join(places)} -name left -perm -4000"), f"{DATA}/left\n")   # it could write there
+        self.assertNotIn("euid", self.as_tor_within(f"{DATA}/left").stdout)
+        self.machine.help("disconnect")
+        self.assertNotEqual(self.machine.run("/bin/sh", "-c", f"{DATA}/left", uid=OTHER_UID, check=False).returncode, 0)
+        self.machine.shell(f"rm -r /run/everybodys /home/everybodys /run/id {DATA}/left; chmod 700 {DATA}")
+
+    def test_what_is_unmounted_is_not_kept_by_tor(self):
+        self.machine.shell("mkdir /opt/stick; mount -t tmpfs earlier /opt/stick; mount --make-rshared /")
+        try:
+            self.machine.connect()
+            [pid] = self.machine.tor_pids()
+
+            def mounted():
+                return self.machine.shell(f"grep -c ' /opt/stick ' /proc/{pid}/mountinfo || true").strip()
+            self.assertEqual(mounted(), "1")
+            self.machine.shell("umount /opt/stick")
+            self.assertEqual(mounted(), "0")
+        finally:
+            self.machine.shell("mountpoint -q /opt/stick && umount /opt/stick; rmdir /opt/stick; mount --make-rprivate /")
+
+    def test_the_data_folder_of_an_earlier_version_is_taken_over(self):
+        self.machine.shell(f"mv {DATA} /var/lib/veldmark/run/data; rmdir {os.path.dirname(DATA)}; touch /var/lib/veldmark/run/data/guards")
+        self.machine.connect()
+        self.machine.shell(f"test -e {DATA}/guards; rm {DATA}/guards; test ! -e /var/lib/veldmark/run/data")
+
+    # ---- Who can stop what ----
+
+    def test_the_callers_group_ends_and_stops_nothing(self):
+        own = "/sys/fs/cgroup/alices"
+        self.machine.shell(f"chmod 755 /sys/fs/cgroup; mkdir {own}; chown -R {USER_UID} {own}")
+        try:
+            self.machine.connect(group=own)
+            self.machine.await_watcher()
+            sleeper = self.machine.start("sleep", "1000", group=own)
+            watcher = self.machine.shell("pgrep -f /watcher[.]sh").strip()
+            [tor] = self.machine.tor_pids()
+            self.machine.run("/bin/sh", "-c", f"echo 1 >{own}/cgroup.kill", uid=USER_UID)
+            self.assertEqual(sleeper.wait(10), -9)
+            self.machine.shell(f"kill -0 {watcher} {tor}")
+            self.assertNotEqual(self.machine.run("/bin/sh", "-c", "echo 1 >/sys/fs/cgroup/veldmark/cgroup.kill", uid=USER_UID, check=False).returncode, 0)
+            # One that waits for the lock has left the group as well, before it could have it.
+            holder = self.machine.start("flock", "/run/veldmark.lock", "/bin/sh", "-c", "echo held; read word", stdin=subprocess.PIPE,
+                                        stdout=subprocess.PIPE, text=True)
+            self.assertEqual(holder.stdout.readline(), "held\n")
+            waiting = self.machine.start("/bin/bash", self.machine.helper, "fix-dns", group=own)
+            self.machine.shell("until pgrep -xf 'flock -w 20 9'; do sleep 0.01; done")
+            self.machine.run("/bin/sh", "-c", f"echo 1 >{own}/cgroup.freeze", uid=USER_UID)
+            holder.communicate("go on\n")
+            self.assertEqual(waiting.wait(20), 0)
+        finally:
+            self.machine.shell(f"echo 0 >{own}/cgroup.freeze")
+            self.machine.help("disconnect")
+            self.machine.shell(f"rmdir {own}")
+
+    def test_the_callers_priorities_are_not_taken_over(self):
+        self.machine.shell('echo 500 >/proc/self/oom_score_adj; exec chrt --idle 0 nice -n 15 /bin/bash "$@"', self.machine.helper,
+                           "connect", "--tor", namespace.TOR, "--hash", namespace.HASH, "--strict", "1", "--lan", "0")
+        [tor] = self.machine.tor_pids()
+        for pid in tor, self.machine.shell("pgrep -f /watcher[.]sh").strip():
+            self.assertLessEqual(int(self.machine.shell(f"cat /proc/{pid}/oom_score_adj")), 0)
+            self.assertEqual(self.machine.shell(f"ps -o ni=,cls= -p {pid}").split(), ["0", "TS"])
+
+    # ---- Ways around the rules ----
+
+    def mapped(self, address, port):
+        """What comes to the wire of a connection to this computer's own address that another table turns to `address`."""
+        self.machine.shell(f"nft -f - <<<'table ip other {{ chain o {{ type nat hook output priority -100; ip daddr 192.168.77.2 tcp dport 8080 dnat to {address}:{port}; }}; }}'")
+        try:
+            self.wire.mark()
+            self.machine.run("/usr/bin/python3", "-c", "import socket; s = socket.socket(); s.setblocking(False); s.connect_ex(('192.168.77.2', 8080))",
+                             uid=USER_UID)
+            return set(self.wire.mark()) & set(probes.PROBES)
+        finally:
+            self.machine.shell("nft delete table ip other")
+
+    def test_a_port_mapping_of_others_is_no_way_out(self):
+        self.assertEqual(self.mapped(probes.PUBLIC, 1001), {"tcp"})
+        self.machine.connect()
+        self.assertEqual(self.mapped(probes.PUBLIC, 1001), set())
+        self.assertEqual(self.mapped(probes.LAN, 1006), set())
+        self.machine.connect(lan=1)
+        self.assertEqual(self.mapped(probes.PUBLIC, 1001), set())
+        self.assertEqual(self.mapped(probes.LAN, 53), set())
+        self.assertEqual(self.mapped(probes.LAN, 1006), {"lan-tcp"})
+
+    def test_a_neighbour_does_not_reach_the_loopback_address(self):
+        """With route_localnet on and the local network allowed."""
+        self.machine.shell("sysctl -qw net.ipv4.conf.all.route_localnet=1")
+        peer = self.wire.peer
+        peer.run("/bin/bash", "-c", "sysctl -qw net.ipv4.conf.all.route_localnet=1; ip route del local 127.0.0.0/8 dev lo table local;"
+                                    f"ip route del local 127.0.0.1 dev lo table local; ip route add 127.0.0.0/8 via 192.168.77.2 src {probes.LAN}")
+        knock = "import socket; s = socket.socket(); s.setblocking(False); s.bind(('192.168.77.1', 0)); s.connect_ex(('127.0.0.1', 1))"
+
+        def answers():
+            self.wire.mark()
+            peer.run("/usr/bin/python3", "-c", knock)
+            return [line for line in self.wire.mark() if line.startswith(f"other tcp {probes.LAN} ")]
+        try:
+            self.assertTrue(answers())
+            for strict in 1, 0:
+                self.machine.connect(strict=strict, lan=1)
+                self.assertEqual(answers(), [])
+        finally:
+            peer.run("/bin/bash", "-c", "ip route del 127.0.0.0/8; ip route add local 127.0.0.0/8 dev lo table local src 127.0.0.1;"
+                                        "ip route add local 127.0.0.1 dev lo table local src 127.0.0.1")
+            self.machine.shell("sysctl -qw net.ipv4.conf.all.route_localnet=0")
+
+    def test_what_a_program_makes_up_is_no_neighbour_discovery(self):
+        solicit = ("import socket, struct; s = socket.socket(socket.AF_INET6, socket.SOCK_RAW, socket.IPPROTO_ICMPV6);"
+                   "s.setsockopt(socket.IPPROTO_IPV6, socket.IPV6_UNICAST_HOPS, 255);"
+                   f"s.sendto(struct.pack('!BBHI', 135, 0, 0, 0) + socket.inet_pton(socket.AF_INET6, '{probes.PUBLIC6}'), ('{probes.PUBLIC6}', 0))")
+
+        def seen():
+            self.wire.mark()
+            self.machine.run("/usr/bin/python3", "-c", solicit, check=False)
+            return set(self.wire.mark()) - LINK
+        self.assertEqual(seen(), {"icmp6 135 far away"})
+        self.machine.connect()
+        self.assertEqual(seen(), set())
+        # The kernel's own goes on.
+        self.machine.shell(f"ip neigh flush dev veth0; ping -6 -c 1 -W 0.1 {probes.LAN6} || true")
+
+
+if __name__ == "__main__":
+    namespace.main()

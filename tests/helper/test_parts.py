@@ -1,0 +1,210 @@
+"""Small parts of the helper, each called by itself with files in a folder of the test's own; no private machine is needed."""
+
+import os
+import stat
+import subprocess
+import tempfile
+import unittest
+
+import namespace
+from namespace import HASH, TOR
+
+HELPER = namespace.helper_path()
+
+
+def run(script, *words, **environment):
+    return subprocess.run(["/bin/bash", "-p", "-c", f". {HELPER}; exec 8>&2; {script}", "test", *words], capture_output=True, text=True,
+                          errors="surrogateescape", check=False, timeout=60, env={**os.environ, **environment})
+
+
+class InAFolder(unittest.TestCase):
+    def setUp(self):
+        self.folder = self.enterContext(tempfile.TemporaryDirectory())
+
+    def path(self, name):
+        return os.path.join(self.folder, name)
+
+    def write(self, name, text):
+        with open(self.path(name), "w", encoding="utf-8") as file:
+            file.write(text)
+        return self.path(name)
+
+    def text(self, name):
+        with open(self.path(name), encoding="utf-8") as file:
+            return file.read()
+
+
+class Files(InAFolder):
+    def test_a_file_has_its_text_and_mode_and_nothing_is_left_beside_it(self):
+        target = self.write("a", "former")
+        for mode in "0600", "0644", "0440":
+            self.assertEqual(run('write_file "$1" "$2" root $\'one\\ntwo\'', target, mode).returncode, 0)
+            self.assertEqual(self.text("a"), "one\ntwo")
+            self.assertEqual(stat.S_IMODE(os.stat(target).st_mode), int(mode, 8))
+            self.assertEqual(os.listdir(self.folder), ["a"])
+
+    def test_what_a_killed_run_left_beside_it_is_replaced_and_links_are_not_followed(self):
+        elsewhere = self.write("elsewhere", "kept")
+        os.symlink(elsewhere, self.path("a.new"))
+        self.assertEqual(run('write_file "$1" 0600 root text', self.path("a")).returncode, 0)
+        self.assertEqual(self.text("a"), "text")
+        self.assertEqual(self.text("elsewhere"), "kept")
+        self.assertFalse(os.path.islink(self.path("a")))
+
+    def test_what_cannot_be_put_in_place_is_told_and_leaves_nothing(self):
+        os.makedirs(self.path("a/b"))   # a folder stands where the file belongs
+        done = run('write_file "$1" 0644 root text || echo "status $?"', self.path("a"))
+        self.assertIn("status 1", done.stdout)
+        self.assertEqual(os.listdir(self.folder), ["a"])
+        done = run('write_file "$1" 0644 root text || echo "status $?"; set -o | grep noclobber', self.path("none/a"))
+        self.assertIn("status 1", done.stdout)
+        self.assertRegex(done.stdout, r"noclobber\s+off")
+
+    def read(self, text):
+        done = run('read_lines "$1" && echo 0 || echo "$?"; printf "%s\\n" ${JOURNAL_LINES[@]+"${JOURNAL_LINES[@]}"}', self.write("entry", text))
+        status, *lines = done.stdout.split("\n")[:-1]
+        return int(status), [line for line in lines if line]
+
+    def test_an_entry_is_whole_with_its_end_only(self):
+        self.assertEqual(self.read("pid 1\nboot x y\nend\n"), (0, ["pid 1", "boot x y"]))
+        self.assertEqual(self.read("pid 1\nboot x y\n")[0], 2)
+        self.assertEqual(self.read("pid 1\nen")[0], 2)
+        self.assertEqual(self.read("pid 1\nend")[0], 2)
+        self.assertEqual(self.read("")[0], 2)
+        self.assertEqual(self.read("end\n"), (0, []))
+
+    def test_the_first_value_of_a_key_counts_and_no_other_key_is_taken_for_it(self):
+        script = ('JOURNAL_LINES=("dns eth0 1.2.3.4" "dnssec eth0 no" "dns eth0 5.6.7.8" "bare");'
+                  'for key in "dns eth0" dnssec dn bare none; do journal_value "$key" && echo || echo "none"; done')
+        self.assertEqual(run(script).stdout.split("\n")[:-1], ["eth0 1.2.3.4", "eth0 no", "none", "none", "none"])
+
+
+class Note(InAFolder):
+    """What the watcher leaves for the application: WORD COUNT SINCE."""
+
+    def setUp(self):
+        super().setUp()
+        # Where it stands is fixed in the helper; in this copy of it the test says where.
+        with open(HELPER, encoding="utf-8") as file:
+            self.helper = self.write("helper.sh", file.read().replace("readonly KILL_SWITCH_NOTE=", "KILL_SWITCH_NOTE="))
+
+    def looks(self, script, *words):
+        return subprocess.run(["/bin/bash", "-p", "-c", f". {self.helper}; KILL_SWITCH_NOTE=$1; shift; {script}", "test", self.path("note"), *words],
+                              capture_output=True, text=True, check=True, timeout=60).stdout
+
+    def notes(self, *words):
+        """The note after each of the looks, one a second."""
+        return self.looks('now=0; date() { echo "$now"; }; for word in "$@"; do now=$((now + 1)); note_rules "$word" || echo failed;'
+                          'cat -- "$KILL_SWITCH_NOTE"; done', *words).split("\n")[:-1]
+
+    def test_standing_stays_since_it_stood(self):
+        self.assertEqual(self.notes("standing", "standing", "standing"), ["standing 0 1"] * 3)
+
+    def test_each_miss_is_counted_once_and_what_stands_again_was_put_back(self):
+        self.assertEqual(self.notes("standing", "open", "open", "standing", "standing", "restored", "standing", "open", "restored"),
+                         ["standing 0 1", "open 1 2", "open 1 2", "restored 1 4", "restored 1 4", "restored 2 6", "restored 2 6", "open 3 8",
+                          "restored 3 9"])
+
+    def test_a_note_that_somebody_removed_comes_back_and_all_may_read_it(self):
+        self.looks('note_rules standing; rm -f -- "$KILL_SWITCH_NOTE"; note_rules standing')
+        self.assertRegex(self.text("note"), r"^standing 0 \d+\n$")
+        self.assertEqual(stat.S_IMODE(os.stat(self.path("note")).st_mode), 0o644)
+
+    def test_each_look_makes_the_note_young(self):
+        self.looks('note_rules standing; touch -d @1000 -- "$KILL_SWITCH_NOTE"; note_rules standing')
+        self.assertGreater(os.stat(self.path("note")).st_mtime, 1000)
+
+
+class Arguments(InAFolder):
+    """Which option it is that is refused, and that each of them is looked at."""
+
+    GOOD = {"--tor": TOR, "--hash": HASH, "--strict": "1", "--lan": "0"}
+    PROGRAMS = ("--tor", "--pt-lyrebird", "--pt-snowflake", "--pt-webtunnel")
+
+    def parse(self, *more, print_after="", **changes):
+        options = {**self.GOOD, **{"--" + name.replace("_", "-"): value for name, value in changes.items()}}
+        words = [word for name, value in options.items() if value is not None for word in (name, value)]
+        return run(f'parse_connect "$@"; {print_after}', *words, *more)
+
+    def test_the_good_ones_pass(self):
+        done = self.parse(print_after='echo "$OPT_TOR $OPT_STRICT $OPT_LAN"')
+        self.assertEqual((done.returncode, done.stdout, done.stderr), (0, f"{TOR} 1 0\n", ""))
+
+    def test_each_program_must_be_an_absolute_path_of_an_executable_file(self):
+        plain = self.write("plain", "")
+        os.mkdir(self.path("folder"))
+        for option in self.PROGRAMS:
+            for value, says in (("tor", f"The path given with {option} is not absolute."),
+                                ("./tor", f"The path given with {option} is not absolute."),
+                                ("/nonexistent", f"The program given with {option} is not an executable file."),
+                                (plain, f"The program given with {option} is not an executable file."),
+                                (self.path("folder"), f"The program given with {option} is not an executable file.")):
+                with self.subTest(option=option, value=value):
+                    done = self.parse(**{option[2:].replace("-", "_"): value})
+                    self.assertEqual((done.returncode, done.stderr), (1, f"ERROR: {says}\n"))
+
+    def test_each_needed_option_is_missed_by_name(self):
+        for option in self.GOOD:
+            done = self.parse(**{option[2:]: None})
+            self.assertEqual((done.returncode, done.stderr), (1, f"ERROR: The option {option} is missing.\n"))
+
+    def test_each_is_given_once_and_with_a_value(self):
+        for option, value in (*self.GOOD.items(), ("--exit", "de"), ("--pt-lyrebird", "/usr/bin/true"), ("--pt-snowflake", "/usr/bin/true"),
+                              ("--pt-webtunnel", "/usr/bin/true")):
+            done = self.parse(option, value, option, value)
+            self.assertEqual((done.returncode, done.stderr), (1, f"ERROR: The option {option} was given twice.\n"))
+            for end in [option], [option, ""]:
+                done = self.parse(*end)
+                self.assertEqual((done.returncode, done.stderr), (1, f"ERROR: The option {option} needs a value.\n"))
+
+    def test_options_of_other_verbs_are_not_known(self):
+        for option in "--user", "--launch", "--uid", "--app", "--torr", "tor", "--tor --hash", "":
+            done = self.parse(option, "1")
+            self.assertEqual((done.returncode, done.stderr), (1, "ERROR: The helper was given an option that it does not know.\n"))
+
+    def test_the_longest_value_and_the_most_bridges(self):
+        longest = "192.0.2.1:443 " + "a" * (4096 - 14)
+        self.assertEqual(self.parse("--bridge", longest).returncode, 0)
+        self.assertIn("The value of --bridge is too long.", self.parse("--bridge", longest + "a").stderr)
+        hundred = ["--bridge", "192.0.2.1:443"] * 100
+        self.assertEqual(self.parse(*hundred, print_after='((${#OPT_BRIDGES[@]} == 100))').returncode, 0)
+        self.assertIn("More than 100 bridges", self.parse(*hundred, "--bridge", "192.0.2.1:443").stderr)
+
+    def test_transports_need_their_programs(self):
+        for line, says in (("obfs4 192.0.2.1:1 x", "lyrebird"), ("meek_lite 192.0.2.1:1", "lyrebird"), ("obfs3 192.0.2.1:1", "lyrebird"),
+                           ("scramblesuit 192.0.2.1:1", "lyrebird"), ("webtunnel 192.0.2.1:1", "lyrebird"),
+                           ("snowflake 192.0.2.1:1", "snowflake-client")):
+            done = self.parse("--bridge", line)
+            self.assertEqual((done.returncode, done.stderr), (1, f"ERROR: These bridges need {says}, which was not given.\n"))
+
+    def test_which_program_serves_which_transport_and_needs_names(self):
+        programs = ["--pt-lyrebird", "/usr/bin/true", "--pt-snowflake", "/usr/bin/true"]
+        web = ["--pt-webtunnel", "/usr/bin/true"]
+        tell = 'transports_need_names && names=1 || names=0; echo "$USED_LYREBIRD|$USED_SNOWFLAKE|$USED_WEBTUNNEL|$names"'
+        for lines, more, wanted in ((["192.0.2.1:1"], [], "|||0"), (["obfs4 192.0.2.1:1"], [], "obfs4|||0"),
+                                    (["obfs4 192.0.2.1:1", "obfs4 192.0.2.2:1", "obfs3 192.0.2.1:1"], [], "obfs4,obfs3|||0"),
+                                    (["meek_lite 192.0.2.1:1"], [], "meek_lite|||1"), (["webtunnel 192.0.2.1:1"], [], "webtunnel|||1"),
+                                    (["obfs4 192.0.2.1:1", "webtunnel 192.0.2.1:1"], [], "obfs4,webtunnel|||1"),
+                                    (["webtunnel 192.0.2.1:1"], web, "||webtunnel|1"), (["snowflake 192.0.2.1:1"], [], "|snowflake||1")):
+            done = self.parse(*programs, *more, *(word for line in lines for word in ("--bridge", line)), print_after=tell)
+            self.assertEqual(done.stdout, wanted + "\n", lines)
+
+
+class Numbers(unittest.TestCase):
+    def test_user_ids(self):
+        for text, good in {"0": True, "1": True, "4294967294": True, "4294967295": False, "9999999999": False, "01": False, "": False, "-1": False,
+                           "1 ": False, "x": False, "12345678901": False}.items():
+            self.assertEqual(run('is_uid "$1"', text).returncode == 0, good, text)
+
+    def test_control_characters(self):
+        for text, has in {"a b~": False, "a\tb": True, "\x7f": True, "é": False, "\u0080": True, "\u009f": True, "\u00a0": False}.items():
+            self.assertEqual(run('has_controls "$1"', text, LC_ALL="C").returncode == 0, has, ascii(text))
+
+    def test_programs_that_are_missing_are_named(self):
+        self.assertEqual(run("need_programs cat ls").returncode, 0)
+        done = run("need_programs cat no-such-program ls")
+        self.assertEqual((done.returncode, done.stderr), (1, "ERROR: The program no-such-program is missing on this system.\n"))
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,39 @@
+"""The firewall's rules, word for word: what they let out and in is tested with packets (test_firewall.py), which cannot try every
+port and range.
+
+A change that is meant is written with VELDMARK_WRITE_RULES=1 test_rules.py, and read in the difference."""
+
+import os
+import subprocess
+import unittest
+
+import namespace
+
+HELPER = namespace.helper_path()
+FOLDER = os.path.join(namespace.HERE, "rules")
+
+CASES = {
+    "strict": "print_strict_rules 991 1000 0 0 '' '' ''",
+    "strict-everything": "print_strict_rules 991 1000 1 1 192.0.2.53 2001:db8::53 veldmark-exempt",
+    "strict-root": "print_strict_rules 991 0 0 0 '' '' ''",
+    "proxy": "print_proxy_rules 991 1000",
+}
+
+
+class Rules(unittest.TestCase):
+    maxDiff = None
+
+    def test_each_text_is_as_it_was_meant(self):
+        for name, call in CASES.items():
+            with self.subTest(name):
+                text = subprocess.run(["/bin/bash", "-p", "-c", f". {HELPER}; {call}"], capture_output=True, text=True, check=True).stdout
+                path = os.path.join(FOLDER, name + ".nft")
+                if os.environ.get("VELDMARK_WRITE_RULES"):
+                    with open(path, "w", encoding="ascii") as file:
+                        file.write(text)
+                with open(path, encoding="ascii") as file:
+                    self.assertEqual(text, file.read())
+
+
+if __name__ == "__main__":
+    unittest.main()
