@@ -190,6 +190,24 @@ class Arguments(InAFolder):
             self.assertEqual(done.stdout, wanted + "\n", lines)
 
 
+class Environment(InAFolder):
+    @unittest.skipUnless(os.geteuid() == 0, "as nobody but root the helper ends before it calls a program")
+    def test_no_program_of_ours_sees_the_callers_environment(self):
+        """LD_DEBUG has each process that sees it write a file of its own; the first sees it always."""
+        seen = self.path("seen")
+        os.mkdir(seen)
+        environment = {"PATH": os.environ["PATH"], "LD_DEBUG": "libs", "LD_DEBUG_OUTPUT": f"{seen}/by"}
+        subprocess.run(["/bin/bash", "-p", "-c", 'a=$(uname; :)'], env=environment, check=True, capture_output=True, timeout=60)
+        self.assertEqual(len(os.listdir(seen)), 2)   # the shell and uname
+        for privileged in ["-p"], []:
+            for name in os.listdir(seen):
+                os.unlink(os.path.join(seen, name))
+            done = subprocess.run(["/bin/bash", *privileged, HELPER, "no-verb"], env=environment, capture_output=True, text=True, check=False,
+                                  timeout=60)
+            self.assertEqual((done.returncode, done.stderr), (1, "ERROR: The helper was not given a verb that it knows.\n"))
+            self.assertEqual(len(os.listdir(seen)), 1)
+
+
 class Numbers(unittest.TestCase):
     def test_user_ids(self):
         for text, good in {"0": True, "1": True, "4294967294": True, "4294967295": False, "9999999999": False, "01": False, "": False, "-1": False,

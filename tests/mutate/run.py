@@ -40,7 +40,7 @@ PROJECT = HERE.parents[1]
 ROOT = PROJECT / "build" / "mutate"
 LOGIC = ("base", "platform", "system", "control", "bridges", "circuits", "checks", "log", "terminal", "doctor", "controller", "instance")
 # The helper's tests that touch a part; those of a part that is not here touch all.
-TOUCHED = {"core": "parts options privileged programs owner", "main": "options privileged owner programs",
+TOUCHED = {"core": "parts options privileged programs owner", "main": "parts options privileged owner programs",
            "session": "parts session watcher", "addresses": "texts firewall parts", "files": "parts session texts watcher programs", "linux-exempt": "launch firewall session",
            "linux-firewall": "rules texts firewall session watcher", "linux-owner": "owner", "linux-proxy": "proxy", "linux-resolved": "resolved",
            "linux-resolver": "session resolved texts", "linux-service": "service", "linux-session": "session watcher owner launch resolved",
@@ -298,6 +298,8 @@ def main():
         for _, path, mutant in chosen([Room(name) for name in names], given.seed, PROJECT)[:given.count]:
             print(show(path, mutant), "\n    aside: " + aside.reason(path, mutant) if aside.reason(path, mutant) else "")
         return 0
+    if any(place in map(str, PROJECT.parents) for place in ("/tmp", "/var/tmp", "/run")):
+        sys.exit("What stands behind the walls sees none of the computer's /tmp, /var/tmp and /run: run this from a checkout elsewhere.")
     clone = Clone("helper" if set(names) <= set(HELPERS) else "code")
     note = ROOT / f"survivors-{'-'.join(given.rooms) or 'logic'}-{given.seed}.json"
     wanted = [tuple(entry) for entry in json.loads(note.read_text())] if given.again else None
