@@ -125,10 +125,12 @@ is_managers() {
 }
 
 # renew_resolver: NetworkManager could not write its file while ours was mounted over it. Where the network has given other
-# name servers since, it is asked to write it now; a file that somebody else has written stays as it is.
+# name servers since, it is asked to write it now; a file that somebody else has written stays as it is, and so does this one while
+# NetworkManager has no server to write, as between two networks: it writes by itself when it has.
 renew_resolver() {
   local target
   [[ $(journal_value writer) == NetworkManager ]] && target=$(journal_value target) && [[ -f $MANAGERS_COPY ]] || return 0
+  [[ $target -ef $MANAGERS_COPY || $(<"$MANAGERS_COPY") == *nameserver* ]] || return 0
   [[ $target -ef $MANAGERS_COPY ]] || ! is_managers "$target" || return 0
   timeout -k 1 5 nmcli general reload dns-rc </dev/null >/dev/null || true
 }

@@ -32,7 +32,11 @@ relock() {
         { note_listing && LESSENED=''; } || true
       elif ! rules_stand; then
         # Either nft words the same rules in another way now, or somebody changes them as fast as we do.
-        if copy_stands "$text"; then note_listing && word=standing || true; else STRUGGLES=$((STRUGGLES + 1)); fi
+        if ! copy_stands "$text"; then
+          STRUGGLES=$((STRUGGLES + 1))
+        elif note_listing; then
+          word=standing
+        fi
         ((STRUGGLES < 3)) || sleep "$BEAT_SECONDS"
       else
         STRUGGLES=0

@@ -1253,6 +1253,14 @@
         <translation>%1 konnte nicht ohne Tor geöffnet werden: %2</translation>
     </message>
     <message>
+        <source>Another Veldmark of yours has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <translation>Ein anderes Veldmark von Ihnen hat inzwischen eine Sitzung begonnen; es wurde nichts beendet. Trennen Sie noch einmal, um sie zu beenden.</translation>
+    </message>
+    <message>
+        <source>Another user&apos;s Veldmark has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <translation>Das Veldmark eines anderen Benutzers hat inzwischen eine Sitzung begonnen; es wurde nichts beendet. Trennen Sie noch einmal, um sie zu beenden.</translation>
+    </message>
+    <message>
         <source>Your network is set up for Tor by another Veldmark of yours, process %1</source>
         <translation>Ihr Netzwerk ist durch ein anderes Veldmark von Ihnen auf Tor eingestellt, Prozess %1</translation>
     </message>

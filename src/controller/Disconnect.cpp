@@ -20,6 +20,15 @@ bool TorController::isSessionMarkerPresent() const
 
 QCoro::Task<Result<void, QString>> TorController::disconnect()
 {
+    if (phase() == ConnectionPhase::connected) {
+        lookAtSession();
+        if (phase() == ConnectionPhase::stale) { // it was another session that the user wanted to end
+            errorMessage = otherSession()->isOwnUser()
+                ? QStringLiteral("Another Veldmark of yours has begun a session since, so nothing was ended. Disconnect again to end it.")
+                : QStringLiteral("Another user's Veldmark has begun a session since, so nothing was ended. Disconnect again to end it.");
+            co_return Failure(*errorMessage());
+        }
+    }
     const bool mayDisconnect = phase() == ConnectionPhase::connected
         || phase() == ConnectionPhase::stale
         || (phase() == ConnectionPhase::connecting && canCancel());
@@ -151,6 +160,11 @@ void TorController::lookAtSession()
 {
     if (phase() == ConnectionPhase::disconnected && isSessionMarkerPresent())
         detectStaleState();
+    if (phase() == ConnectionPhase::connected) {
+        if (const auto other = SessionOwner::ofAnotherProcess(m_services.profile))
+            giveUpTo(*other);
+        return;
+    }
     if (phase() != ConnectionPhase::stale)
         return;
     if (!isSessionMarkerPresent()) { // another process has restored the network
@@ -161,6 +175,21 @@ void TorController::lookAtSession()
     const auto other = SessionOwner::ofAnotherProcess(m_services.profile);
     if (other == otherSession())
         return;
+    showSessionOf(other);
+}
+
+// Another process has replaced this one's session: its Tor has ended, and its rules are the other's.
+void TorController::giveUpTo(const SessionOwner &other)
+{
+    startAttempt(); // checks that are still running belong to a session that is over
+    stopMonitoring();
+    canCancel = false;
+    showSessionOf(other);
+    phase = ConnectionPhase::stale;
+}
+
+void TorController::showSessionOf(const std::optional<SessionOwner> &other)
+{
     otherSession = other;
     // What is shown was about another session, and so was what is known.
     m_killSwitchMessage = std::nullopt;

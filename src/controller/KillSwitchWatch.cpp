@@ -59,14 +59,18 @@ std::optional<KillSwitch> TorController::judgedKillSwitch()
     return isRecent || isOneOf(before, State::open) ? before : std::optional(since(State::unknown));
 }
 
+LeakStatus TorController::believable(const LeakStatus &found) const
+{
+    const bool isOpen = killSwitch() && !killSwitch()->blocks();
+    return isOpen && found == LeakStatus::blocked() ? LeakStatus::notTested() : found;
+}
+
 void TorController::lookAtKillSwitch()
 {
     if (phase() == ConnectionPhase::disconnected || phase() == ConnectionPhase::disconnecting)
         return;
     killSwitch = judgedKillSwitch();
-    // "Blocked" was the rules' doing.
-    if (killSwitch() && !killSwitch()->blocks() && leakStatus() == LeakStatus::blocked())
-        leakStatus = LeakStatus::notTested();
+    leakStatus = believable(leakStatus());
     if (killSwitch() == std::exchange(m_knownKillSwitch, killSwitch()))
         return;
     const auto told = std::exchange(m_killSwitchMessage, killSwitchMessage());

@@ -2,7 +2,6 @@
 
 #include "base/Clock.h"
 #include "checks/NetworkProbe.h"
-#include "checks/OwnAddresses.h"
 #include "control/ControlPort.h"
 
 #include <QPointer>
@@ -49,10 +48,11 @@ QCoro::Task<void> TorController::monitor(quint64 run)
     const QPointer<TorController> self(this);
     const QStringList keys = {readKey, writtenKey};
     // Tor closes what it has and begins anew. It would send into connections of an address that is gone for minutes.
-    const QStringList beginAnew = {QStringLiteral("SETCONF DisableNetwork=1"),
-                                   QStringLiteral("SETCONF DisableNetwork=0")};
+    const QStringList goOn = {QStringLiteral("SETCONF DisableNetwork=0")};
+    const QStringList beginAnew = QStringList{QStringLiteral("SETCONF DisableNetwork=1")} + goOn;
+    bool mayBeOffline = false; // a Tor that has taken the first of the two and not the second stays without a network
     OwnAddresses addresses;
-    addresses.haveMoved(OwnAddresses::present());
+    addresses.haveMoved(m_services.ownAddresses());
     quint64 tick = 0;
     int failures = 0;
     for (;;) {
@@ -61,13 +61,17 @@ QCoro::Task<void> TorController::monitor(quint64 run)
             co_return;
         if (phase() != ConnectionPhase::connected || !m_controlPassword)
             continue;
-        const bool haveMoved = addresses.haveMoved(OwnAddresses::present());
-        if (std::exchange(m_hasSlept, false) || haveMoved) {
-            co_await m_services.controlPort.batch(beginAnew, *m_controlPassword, counterReadLimit);
+        const bool hasMoved = addresses.haveMoved(m_services.ownAddresses());
+        const bool isStale = std::exchange(m_hasSlept, false) || hasMoved;
+        if (isStale || mayBeOffline) {
+            if (isStale)
+                forgetExit(); // what was verified was another way out
+            const auto taken = co_await m_services.controlPort.batch(isStale ? beginAnew : goOn, *m_controlPassword, counterReadLimit);
             if (!self || run != m_monitor)
                 co_return;
-            if (phase() == ConnectionPhase::connected && !isChecking())
-                runChecks(); // what was verified was another way out
+            mayBeOffline = !taken;
+            if (taken && phase() == ConnectionPhase::connected && !isChecking())
+                runChecks();
         }
         if (++tick % ticksPerDNSCheck == 0) {
             co_await checkDNS(false);
@@ -155,8 +159,8 @@ QCoro::Task<void> TorController::runChecks()
     latencyMs = verdict.latencyMs;
     exitIP = verdict.exitIP;
     torVerified = verdict.torVerified;
-    leakStatus = verdict.leakStatus;
     lookAtKillSwitch(); // without the rules, silence is not their doing
+    leakStatus = believable(verdict.leakStatus);
     co_await checkDNS(true);
     if (self && isCurrent(attempt))
         isChecking = false;

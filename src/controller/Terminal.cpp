@@ -25,7 +25,10 @@ void TorController::applyTerminalMode()
         if (!isKnown && !terminalError())
             installForSsh(m_terminalRun);
     }
-    terminal.setActive(terminalMode() && phase() == ConnectionPhase::connected);
+    // Another process of this user's says for its own session whether the shells follow it.
+    const bool isAnothers = otherSession() && otherSession()->isOwnUser();
+    if (!terminalMode() || !isAnothers)
+        terminal.setActive(terminalMode() && phase() == ConnectionPhase::connected);
 }
 
 void TorController::showTerminalProblem(const Result<void, TerminalError> &installed)

@@ -6,6 +6,7 @@
 #include "bridges/TransportDownloader.h"
 #include "checks/DNSStatus.h"
 #include "checks/KillSwitch.h"
+#include "checks/OwnAddresses.h"
 #include "checks/LeakStatus.h"
 #include "checks/Verdict.h"
 #include "circuits/CircuitTable.h"
@@ -83,6 +84,7 @@ public:
         // As locateTransports, without waiting for what programs say of themselves; for connect(). Without it
         // locateTransports is used.
         std::function<QCoro::Task<PluggableTransports>()> locateWithoutAsking = {};
+        std::function<QSet<QHostAddress>()> ownAddresses = OwnAddresses::present;
     };
 
     // Registers the settings' defaults, reads the settings, and starts looking for transports
@@ -160,12 +162,13 @@ public:
     QCoro::Task<void> connect();
     // Restores the network. Accepted when connected, stale, or connecting with `canCancel`. When
     // the helper fails, a session that was up is so again as long as the marker says so too. The error is
-    // a sentence; empty when the user dismissed the prompt, or when it was not accepted or not waited for.
+    // a sentence; empty when the user dismissed the prompt, or when it was not accepted or not waited for. A session
+    // by which another process has replaced this one's is not ended by the first call, which shows it instead.
     QCoro::Task<Result<void, QString>> disconnect();
     // At start-up, before anything shows state: finds a session left from an earlier run.
     void detectStaleState();
     // When another process may have made, replaced or ended the computer's session: shows what is so now. Does
-    // nothing while a session of this object's is being made, stands, or goes.
+    // nothing while a session of this object's is being made or goes, nor while its own stands unreplaced.
     void lookAtSession();
     // At start-up: connects when the user wants it, nothing is left over and tor is there.
     QCoro::Task<void> autoConnectIfEnabled();
@@ -302,6 +305,8 @@ private:
     void stopMonitoring() { ++m_monitor; }
     QCoro::Task<void> monitor(quint64 run);
     void torDied();
+    void giveUpTo(const SessionOwner &other);
+    void showSessionOf(const std::optional<SessionOwner> &other); // nobody's: one that was left over
     struct TimedProbe {
         ProbeResult answer;
         std::chrono::milliseconds elapsed; // in both outcomes
@@ -309,6 +314,8 @@ private:
     QCoro::Task<TimedProbe> timedViaTor();
     // KillSwitchWatch.cpp
     void lookAtKillSwitch();
+    // "Blocked" is the rules' doing, and nothing where they aren't known to stand.
+    LeakStatus believable(const LeakStatus &found) const;
     // Looks now and every two seconds until stopped or the session ends. What m_knownKillSwitch holds is no news.
     void startKillSwitchWatch();
     void stopKillSwitchWatch() { ++m_killSwitchWatch; }

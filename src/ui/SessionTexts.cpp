@@ -113,6 +113,8 @@ constexpr const char *forms[] = {
                                  "with: %1"),
     QT_TRANSLATE_NOOP("Session", "Your network is set up for Tor by another Veldmark of yours, process %1"),
     QT_TRANSLATE_NOOP("Session", "Your network is set up for Tor by %1, whose Veldmark is process %2"),
+    QT_TRANSLATE_NOOP("Session", "Another Veldmark of yours has begun a session since, so nothing was ended. Disconnect again to end it."),
+    QT_TRANSLATE_NOOP("Session", "Another user's Veldmark has begun a session since, so nothing was ended. Disconnect again to end it."),
     QT_TRANSLATE_NOOP("Session", "Another Veldmark of yours is connected (process %1). "
                                  "Disconnect it, or restore the network, first."),
     QT_TRANSLATE_NOOP("Session", "%1 is connected with Veldmark (process %2). "

@@ -103,10 +103,10 @@ def compiler_cache() -> str:
 
 
 class Stranger:
-    """A minimal Debian of its own with a clone of the last commit at `place`."""
+    """A minimal Debian of its own with a clone of `commit` at `place`."""
 
-    def __init__(self, name: str, base: Path, cache: str, again: bool = False):
-        self.name, self.place, self.cache = name, PLACES[name], cache
+    def __init__(self, name: str, base: Path, commit: str, cache: str, again: bool = False):
+        self.name, self.place, self.commit, self.cache = name, PLACES[name], commit, cache
         self.tree = WORK / name
         self.archives = KEPT / "archives"
         (self.archives / "partial").mkdir(parents=True, exist_ok=True)
@@ -115,8 +115,8 @@ class Stranger:
         if again:
             if not (self.clone / ".git").exists():
                 raise Failed("there is no run that failed; leave out --again")
-            for words in (("fetch", "--quiet", PROJECT, "HEAD"), ("reset", "--quiet", "--hard", "FETCH_HEAD")):
-                subprocess.run(["git", "-C", self.clone, *words], check=True)
+            subprocess.run(["git", "-C", self.clone, "fetch", "--quiet", PROJECT, "HEAD"], check=True)
+            subprocess.run(["git", "-C", self.clone, "reset", "--quiet", "--hard", commit], check=True)
             return
         remove(self.tree)
         subprocess.run(["cp", "-a", "--reflink=auto", base, self.tree], check=True)
@@ -124,6 +124,8 @@ class Stranger:
             shutil.copy(f"/etc/{file}", self.tree / "etc" / file)
         self.clone.parent.mkdir(parents=True, exist_ok=True)
         own_git("clone", "--quiet", "--no-hardlinks", str(PROJECT), str(self.clone))
+        # Both systems get the same one, whatever is committed meanwhile.
+        subprocess.run(["git", "-C", self.clone, "-c", "advice.detachedHead=false", "checkout", "--quiet", commit], check=True)
 
     def run(self, *words: str, environment: dict[str, str] | None = None, **options) -> subprocess.CompletedProcess:
         """The words in the clone, their output on ours unless asked otherwise."""
@@ -194,7 +196,7 @@ def same_package(first: Stranger, base: Path) -> None:
     """Two systems, two folders, two days: the same bytes."""
     uncached = {"CCACHE_DISABLE": "1"}
     first.verb("package", environment=uncached)
-    second = Stranger("second", base, "")
+    second = Stranger("second", base, first.commit, "")
     second.verb("package", environment=uncached | tomorrow(second))
     one, other = digest(first.clone), digest(second.clone)
     print(f"fresh-test: {one[0]} {one[1]}\nfresh-test: {other[0]} {other[1]}", flush=True)
@@ -215,7 +217,7 @@ def verify(arguments: argparse.Namespace) -> None:
     step.end()
     if own_git("status", "--porcelain"):
         print("fresh-test: what is not committed is not in the clone.", flush=True)
-    stranger = Stranger("first", base, "" if arguments.cold else compiler_cache(), arguments.again)
+    stranger = Stranger("first", base, own_git("rev-parse", "HEAD"), "" if arguments.cold else compiler_cache(), arguments.again)
     if arguments.without:
         without(stranger, arguments.without)
     strict = {"VELDMARK_NO_SKIPS": "1"}

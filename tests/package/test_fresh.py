@@ -143,6 +143,20 @@ class Fresh(unittest.TestCase):
         self.commit("sloppy-day")
         self.fails("package", line="the package differs between ")
 
+    def test_what_is_committed_meanwhile_is_not_taken_for_a_difference(self):
+        git = shutil.which("git")
+        put(self.folder / "path/git", f"""#!/bin/bash
+{git} "$@" || exit
+[[ " $* " != *" clone "* ]] || {{
+    touch {self.project}/sloppy-folder
+    {git} -C {self.project} add .
+    {git} -C {self.project} -c user.name=x -c user.email=x@example.test commit --quiet --allow-empty -m x
+}}
+""")
+        result = self.fresh("package")
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertTrue((self.project / "sloppy-folder").exists())
+
     def test_a_clock_that_stays_is_no_proof(self):
         put(self.base / "no-clock", "")
         self.fails("package", line="the second system's clock did not take tomorrow's time")

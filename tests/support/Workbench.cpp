@@ -159,6 +159,7 @@ void Workbench::restart()
             if (cancelTransports)
                 cancelTransports();
         },
+        .ownAddresses = [this] { return ownAddresses; },
     });
     settle();
 }

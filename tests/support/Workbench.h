@@ -120,6 +120,7 @@ public:
         installTransports;
     // How long a bridge takes to answer; none answer unless this says so.
     BridgeProbe bridgeProbe;
+    QSet<QHostAddress> ownAddresses = {QHostAddress(QStringLiteral("192.0.2.7"))};
 
 private:
     Result<ProcessResult, StartError> run(const ScriptedRunner::Call &call);

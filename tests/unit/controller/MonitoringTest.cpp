@@ -10,6 +10,13 @@ using Phase = ConnectionPhase;
 
 class MonitoringTest : public QObject {
     Q_OBJECT
+
+    static void acceptNetworkCommands(Workbench &bench)
+    {
+        for (const char *command : {"SETCONF DisableNetwork=1", "SETCONF DisableNetwork=0"})
+            bench.tor.reply(command, "250 OK\r\n");
+    }
+
 private Q_SLOTS:
     void readsTheCountersEveryTwoSeconds()
     {
@@ -41,6 +48,45 @@ private Q_SLOTS:
             QCOMPARE(bench.controller().bytesWritten(), quint64(300));
         }
         QVERIFY(bench.controller().phase() == Phase::connected); // they were answers all the same
+    }
+
+    void torBeginsAnewWhenTheAddressHasChanged()
+    {
+        Workbench bench;
+        acceptNetworkCommands(bench);
+        QVERIFY(bench.connect());
+        QVERIFY(bench.tick());
+        QCOMPARE(bench.commandCount("SETCONF DisableNetwork=1"), 0);
+        bench.ownAddresses = {QHostAddress(u"198.51.100.7"_s)};
+        QVERIFY(bench.tick());
+        QCOMPARE(bench.commandCount("SETCONF DisableNetwork=1"), 1);
+        QCOMPARE(bench.commandCount("SETCONF DisableNetwork=0"), 1);
+        QVERIFY(until([&] { return bench.controller().torVerified() == true; })); // checked again
+        QVERIFY(bench.tick());
+        QCOMPARE(bench.commandCount("SETCONF DisableNetwork=0"), 1);
+    }
+
+    // It has taken the first command, and would stay without a network.
+    void torIsGivenItsNetworkUntilItTakesIt()
+    {
+        Workbench bench;
+        acceptNetworkCommands(bench);
+        bench.tor.reply("SETCONF DisableNetwork=0", "553 Busy\r\n");
+        QVERIFY(bench.connect());
+        QVERIFY(bench.tick());
+        QVERIFY(bench.controller().torVerified() == true);
+        bench.ownAddresses = {QHostAddress(u"198.51.100.7"_s)};
+        for (int times = 1; times <= 4; ++times) {
+            QVERIFY(bench.tick());
+            QCOMPARE(bench.commandCount("SETCONF DisableNetwork=0"), times);
+            QVERIFY(!bench.controller().torVerified()); // nothing is claimed meanwhile
+        }
+        QCOMPARE(bench.commandCount("SETCONF DisableNetwork=1"), 1);
+        bench.tor.reply("SETCONF DisableNetwork=0", "250 OK\r\n");
+        QVERIFY(bench.tick());
+        QVERIFY(until([&] { return bench.controller().torVerified() == true; }));
+        QVERIFY(bench.tick());
+        QCOMPARE(bench.commandCount("SETCONF DisableNetwork=0"), 5);
     }
 
     void threeFailuresInARowMeanThatTorIsDead_data()

@@ -147,6 +147,51 @@ private Q_SLOTS:
         QVERIFY(bench.hasMarker());
     }
 
+    void isNotEndedByADisconnectThatWasMeantForThisOnes_data() { isShownAsWhose_data(); }
+
+    void isNotEndedByADisconnectThatWasMeantForThisOnes()
+    {
+        QFETCH(uint, user);
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        OtherSession other(bench.profile, user); // this one has not seen it yet
+        bench.disconnect();
+        QCOMPARE(bench.helperRunCount(u"disconnect"_s), 0);
+        QVERIFY(bench.hasMarker());
+        QVERIFY(c.phase() == Phase::stale && c.otherSession());
+        QVERIFY2(c.errorMessage().value_or(QString()).contains(u"Disconnect again"_s), qPrintable(c.errorMessage().value_or(QString())));
+        bench.disconnect(); // now it is meant
+        QCOMPARE(bench.helperRunCount(u"disconnect"_s), 1);
+        QVERIFY(c.phase() == Phase::disconnected);
+    }
+
+    void theWatchSeesThatItHasReplacedThisOnes()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        SessionWatch watch(c);
+        OtherSession other(bench.profile, daemonUser);
+        QVERIFY(until([&] { return c.phase() == Phase::stale; })); // before any tick of the monitor's
+        QVERIFY(c.otherSession() && !c.exitIP() && !c.torVerified());
+    }
+
+    void terminalModeOfThisOneLeavesItsShellsAlone()
+    {
+        Workbench bench;
+        const QString active = bench.profile.terminalDirectory + u"/active"_s;
+        OtherSession other(bench.profile);
+        TorController &c = bench.controller();
+        c.detectStaleState();
+        QVERIFY(c.setTerminalMode(false) == std::nullopt);
+        bench.terminal.setActive(true); // by the process whose session it is
+        c.setTerminalMode(true);
+        QVERIFY(QFile::exists(active));
+        c.setTerminalMode(false);
+        QVERIFY(!QFile::exists(active));
+    }
+
     void isShownWhenItHasReplacedThisOnes()
     {
         Workbench bench;
