@@ -158,7 +158,7 @@ class Machine(contextlib.AbstractContextManager):
             leader = self._wait(self._leader, timeout, "no process 1")
             self._inside = _Inside(leader, self.lab.record)
             self._wait(lambda: self.path("/") and self._answers(), timeout, "systemd did not get ready")
-            self._wait(self._is_online, timeout, "no network")
+            self._wait(self.is_online, timeout, "no network")
         except BaseException:
             self.power_cut()
             raise
@@ -193,7 +193,7 @@ class Machine(contextlib.AbstractContextManager):
         state = self.run(["systemctl", "is-system-running"]).stdout.strip()
         return state in ("running", "degraded")
 
-    def _is_online(self) -> bool:
+    def is_online(self) -> bool:
         return "connected" == self.run(["nmcli", "-t", "-f", "STATE", "general"]).stdout.strip()
 
     def _off(self, timeout: float) -> None:

@@ -45,6 +45,10 @@ def suspend_and_resume(stage: Stage) -> None:
                 expect(works or not told["torVerified"] or told["errorMessage"] or told["bootstrapProblem"],
                        "ten seconds after the resume nothing flows, and it still says that all is well")
                 stage.note = f"through Tor {seconds:.0f} s after the resume" if works else f"after 10 s it says {told['title']}"
+                # The network itself may be slower than that.
+                wait(machine.is_online, 60, f"{stage.note}; NetworkManager does not bring the network back within a minute of the sleep")
+                wait(lambda: through_tor(machine, 5), 30, "no traffic through Tor although the network is back")
+                stage.note += "" if works else f"; through Tor {time.monotonic() - resumed:.0f} s after it"
                 expect(not direct(machine), "the direct way is open")
             end(session, machine, before)
 
