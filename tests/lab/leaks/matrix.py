@@ -25,8 +25,8 @@ def promise(name: str, identity: int) -> str:
         return ABSENT
     if identity == 3 and how not in _KERNELS_OWN:
         return OPEN
-    if identity == 2 and how in _TCP - {"tcp-lan"}:
-        return OPEN
+    if identity == 2 and how in _TCP:   # but not to private addresses; the neighbour's of IPv6 is a public one
+        return CLOSED if how == "tcp-lan" and "IPv6" not in name else OPEN
     return CLOSED
 
 
