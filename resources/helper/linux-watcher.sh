@@ -181,6 +181,7 @@ undo_watcher() {
     kill -KILL "$child" || true
   done
   recorded_lives || true
+  for child in $CHILDREN; do await_standstill "$child"; done
   rm -f -- "$KILL_SWITCH_NOTE"   # it writes no other any more
 }
 
