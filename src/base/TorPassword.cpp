@@ -3,7 +3,6 @@
 #include <QCryptographicHash>
 #include <QRandomGenerator>
 
-#include <algorithm>
 
 namespace veldmark {
 
@@ -35,7 +34,7 @@ QString TorPassword::hashOf(const QByteArray &clear, const QByteArray &salt)
 {
     const QByteArray round = salt + clear;
     QCryptographicHash hash(QCryptographicHash::Sha1);
-    qsizetype left = std::max(hashedBytes, round.size()); // all of it goes in once
+    qsizetype left = hashedBytes; // Tor, unlike the RFC, takes no more of a longer password
     for (; left >= round.size(); left -= round.size())
         hash.addData(round);
     hash.addData(round.first(left));
