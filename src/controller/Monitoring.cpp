@@ -69,8 +69,8 @@ QCoro::Task<void> TorController::monitor(quint64 run)
             const auto taken = co_await m_services.controlPort.batch(isStale ? beginAnew : goOn, *m_controlPassword, counterReadLimit);
             if (!self || run != m_monitor)
                 co_return;
-            mayBeOffline = !taken;
-            if (taken && phase() == ConnectionPhase::connected && !isChecking())
+            mayBeOffline = !taken || !taken->back();
+            if (!mayBeOffline && phase() == ConnectionPhase::connected && !isChecking())
                 runChecks();
         }
         if (++tick % ticksPerDNSCheck == 0) {
