@@ -148,7 +148,7 @@ class Manuals(InAHome):
     def test_the_helper_tells_every_verb_and_option(self):
         head = (PROGRAMS / "veldmark-helper.sh").read_text().split("\n#\n")[1]
         page = self.page("veldmark-helper.8")
-        words = set(re.findall(r"--[a-z-]+", head)) | set(re.findall(r"veldmark-helper\.sh ([a-z-]+)", head))
+        words = set(re.findall(r"--[a-z][a-z0-9-]*", head)) | set(re.findall(r"veldmark-helper\.sh ([a-z-]+)", head))
         self.assertGreater(len(words), 15)
         for word in sorted(words):
             self.assertRegex(page, rf"(?<![\w-]){word}(?![\w-])")
@@ -179,7 +179,7 @@ class Metadata(InAHome):
     def test_the_policy_has_an_action_for_each_verb_of_the_helper_and_keeps_no_approval(self):
         policy = PACKAGING / "org.veldmark.helper.policy"
         helper = (PROGRAMS / "veldmark-helper.sh").read_text()
-        cases = helper.split("\nmain() {\n")[-1].split("  case $verb in\n")[1].split("  esac\n")[0]
+        cases = helper.split("\nmain() {\n")[-1].split("  case $VERB in\n")[1].split("  esac\n")[0]
         verbs = {verb for line in re.findall(r"(?m)^  ([a-z| -]+)\)", cases) for verb in line.split(" | ")}
         self.assertLessEqual({"connect", "disconnect", "launch", "install-privileged"}, verbs)
         actions = {action.get("id"): {note.get("key").rpartition(".")[2]: note.text for note in action.iter("annotate")}
