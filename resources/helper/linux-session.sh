@@ -151,7 +151,8 @@ linux_fix-dns() {
 
 linux_disconnect() {
   local status=0
-  (($# == 0)) || die "The verb disconnect takes no options."
+  parse_options " --process " "$@"
+  [[ -z $OPT_PROCESS || $OPT_PROCESS =~ ^[1-9][0-9]{0,9}$ ]] || die "The process id is not valid."
   need_programs flock nft umount stat
   lift_limits
   take_lock
@@ -163,5 +164,6 @@ linux_disconnect() {
     ((status == 0)) || JOURNAL_TRUSTED=
   fi
   spare_others
+  spare_unmeant
   undo_session || die "$UNDONE"
 }
