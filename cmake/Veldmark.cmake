@@ -18,6 +18,7 @@ if(VELDMARK_SANITIZE)
     target_compile_options(veldmark_options INTERFACE
         -fsanitize=${VELDMARK_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     target_link_options(veldmark_options INTERFACE -fsanitize=${VELDMARK_SANITIZE})
+    target_compile_definitions(veldmark_options INTERFACE VELDMARK_SANITIZED)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
         # What this check puts before each function does not go together with coroutines.
         target_compile_options(veldmark_options INTERFACE -fno-sanitize=function)

@@ -151,8 +151,7 @@ linux_fix-dns() {
 
 linux_disconnect() {
   local status=0
-  parse_options " --process " "$@"
-  [[ -z $OPT_PROCESS || $OPT_PROCESS =~ ^[1-9][0-9]{0,9}$ ]] || die "The process id is not valid."
+  parse_disconnect "$@"
   need_programs flock nft umount stat
   lift_limits
   take_lock

@@ -957,6 +957,10 @@
         <translation>Warten auf die Zustimmung eines Administrators…</translation>
     </message>
     <message>
+        <source>Waiting for an administrator to approve a program…</source>
+        <translation>Ein Administrator muss ein Programm zulassen…</translation>
+    </message>
+    <message>
         <source>Starting Tor…</source>
         <translation>Tor startet…</translation>
     </message>

@@ -1,6 +1,7 @@
 #include "app/Activation.h"
 #include "app/Application.h"
 #include "app/LastWords.h"
+#include "base/PrivateMemory.h"
 #include "base/Resumption.h"
 
 #include "instance/InstanceClient.h"
@@ -90,6 +91,7 @@ int answer(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
+    keepMemoryPrivate();
     if (isQuestion(argc, argv))
         return answer(argc, argv);
     // Nothing here needs a GPU, and its drivers cost more memory than the whole program.

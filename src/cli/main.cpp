@@ -1,3 +1,4 @@
+#include "base/PrivateMemory.h"
 #include "base/Resumption.h"
 #include "cli/Commands.h"
 #include "cli/Console.h"
@@ -21,6 +22,7 @@ QCoro::Task<void> executeAndQuit(Invocation invocation, PlatformProfile profile)
 
 int main(int argc, char **argv)
 {
+    keepMemoryPrivate();
     QCoreApplication application(argc, argv);
     application.setApplicationName(QStringLiteral("veldmarkctl"));
     application.setApplicationVersion(QStringLiteral(VELDMARK_VERSION));

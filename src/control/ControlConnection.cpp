@@ -1,6 +1,9 @@
 #include "control/ControlConnection.h"
 
+#include "control/PeerAccount.h"
+
 #include <QNetworkProxy>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -8,6 +11,8 @@ namespace veldmark {
 
 namespace {
 constexpr qint64 largestChunkBytes = 65'536;
+constexpr std::chrono::milliseconds acceptPoll{5};
+constexpr int absentPolls = 100; // the kernel may know the other end a moment later than ours
 
 ControlPortError lineBreakError()
 {
@@ -32,8 +37,8 @@ QCoro::Task<void> abortAfter(Clock *clock, std::chrono::milliseconds duration,
         connection->abort(reason);
 }
 
-ControlConnection::ControlConnection(quint16 port, const QHostAddress &host)
-    : m_host(host), m_port(port)
+ControlConnection::ControlConnection(quint16 port, const QHostAddress &host, std::optional<uid_t> torUser)
+    : m_host(host), m_port(port), m_torUser(torUser)
 {
 }
 
@@ -112,10 +117,36 @@ QCoro::Task<Result<void, ControlPortError>> ControlConnection::open(QString pass
         if (const auto stop = interruption())
             co_return Failure(*stop);
     }
+    if (m_torUser) {
+        const auto proven = co_await proveTor();
+        if (!proven)
+            co_return Failure(proven.error());
+    }
     const auto reply = co_await command(QStringLiteral("AUTHENTICATE \"%1\"").arg(password));
     if (!reply)
         co_return Failure(reply.error());
     co_return Result<void, ControlPortError>{};
+}
+
+// What counts is who has this very connection, not who listens by now: a listener can make room for Tor.
+QCoro::Task<Result<void, ControlPortError>> ControlConnection::proveTor()
+{
+    for (int absent = 0;;) {
+        const PeerAccount peer = PeerAccount::ask(m_port, m_socket->localPort());
+        if (peer.kind == PeerAccount::Kind::Accepted && peer.user == *m_torUser)
+            co_return Result<void, ControlPortError>{};
+        if (peer.kind == PeerAccount::Kind::Accepted
+            || (peer.kind == PeerAccount::Kind::Absent && ++absent > absentPolls)) {
+            m_failure = m_socket->state() == QAbstractSocket::ConnectedState ? ControlPortError::stranger()
+                                                                             : ControlPortError::closed();
+            co_return Failure(*m_failure);
+        }
+        const Change change = nextChange();
+        QTimer::singleShot(acceptPoll, this, &ControlConnection::signalChange);
+        co_await change;
+        if (const auto stop = interruption())
+            co_return Failure(*stop);
+    }
 }
 
 QCoro::Task<Result<QStringList, ControlPortError>> ControlConnection::command(QString text)

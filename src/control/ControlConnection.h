@@ -13,6 +13,8 @@
 #include <optional>
 #include <variant>
 
+#include <sys/types.h>
+
 namespace veldmark {
 
 // One connection to Tor's control port, for one call of ControlPort: open(), one or more commands
@@ -26,12 +28,14 @@ namespace veldmark {
 // returns the same.
 class ControlConnection final : public QObject {
 public:
+    // torUser: the account that Tor must run in, or nothing where that cannot be asked.
     explicit ControlConnection(quint16 port,
-                               const QHostAddress &host = QHostAddress(QHostAddress::LocalHost));
+                               const QHostAddress &host = QHostAddress(QHostAddress::LocalHost),
+                               std::optional<uid_t> torUser = std::nullopt);
     ~ControlConnection() override;
 
-    // Connects, past any proxy, and authenticates with the plain password. Tor not listening is
-    // the system's error at once.
+    // Connects, past any proxy, and authenticates with the plain password, once a process of
+    // Tor's account has taken the connection. Tor not listening is the system's error at once.
     [[nodiscard]] QCoro::Task<Result<void, ControlPortError>> open(QString password);
 
     // Sends one command line (without its end) and gives all the lines of the reply. A final line
@@ -57,6 +61,9 @@ public:
 private:
     using Change = ResumeOnce<std::monostate>;
 
+    // Fails with stranger() when anybody but Tor's account has taken the connection.
+    QCoro::Task<Result<void, ControlPortError>> proveTor();
+
     Change nextChange();
     void signalChange();
     // What a wait that has just been resumed must fail with, if anything.
@@ -64,6 +71,7 @@ private:
 
     const QHostAddress m_host;
     const quint16 m_port;
+    const std::optional<uid_t> m_torUser;
     std::unique_ptr<QTcpSocket> m_socket; // null before open() and after close()
     std::optional<Change> m_change; // what the waiting task, if any, waits for
     std::optional<ControlPortError> m_failure;

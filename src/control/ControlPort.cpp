@@ -11,11 +11,14 @@ namespace {
 
 using Milliseconds = std::chrono::milliseconds;
 
+constexpr uid_t nobody = static_cast<uid_t>(-1); // no process can have it
+
 // What one operation holds for as long as it runs: its connection and the watch over its time.
 class Session {
 public:
-    Session(Clock &clock, quint16 port, const QObject &lifetime, Milliseconds limit)
-        : m_connection(std::make_unique<ControlConnection>(port)),
+    Session(Clock &clock, quint16 port, const ControlPort::TorUser &torUser, const QObject &lifetime, Milliseconds limit)
+        : m_connection(std::make_unique<ControlConnection>(
+              port, QHostAddress(QHostAddress::LocalHost), torUser ? std::optional(torUser().value_or(nobody)) : std::nullopt)),
           m_watched(std::make_shared<const std::monostate>())
     {
         ControlConnection *connection = m_connection.get();
@@ -63,7 +66,10 @@ QString hostOf(const QString &target)
 
 } // namespace
 
-ControlPort::ControlPort(Clock &clock, quint16 port) : m_clock(clock), m_port(port) {}
+ControlPort::ControlPort(Clock &clock, quint16 port, TorUser torUser)
+    : m_clock(clock), m_port(port), m_torUser(std::move(torUser))
+{
+}
 
 // The operations below may outlive their ControlPort, so none uses a member after its first wait.
 
@@ -73,7 +79,7 @@ ControlPort::getInfo(QStringList keys, QString password, Milliseconds limit)
     const QString command = QStringLiteral("GETINFO ") + keys.join(u' ');
     if (const auto refused = refusal({command, password}))
         co_return Failure(*refused);
-    const Session session(m_clock, m_port, m_lifetime, limit);
+    const Session session(m_clock, m_port, m_torUser, m_lifetime, limit);
     const auto reply = co_await ask(&session, password, command);
     if (!reply)
         co_return Failure(reply.error());
@@ -85,7 +91,7 @@ ControlPort::Outcome<void> ControlPort::signal(QString name, QString password, M
     const QString command = QStringLiteral("SIGNAL ") + name;
     if (const auto refused = refusal({command, password}))
         co_return Failure(*refused);
-    const Session session(m_clock, m_port, m_lifetime, limit);
+    const Session session(m_clock, m_port, m_torUser, m_lifetime, limit);
     const auto reply = co_await ask(&session, password, command);
     if (!reply)
         co_return Failure(reply.error());
@@ -97,7 +103,7 @@ ControlPort::batch(QStringList commands, QString password, Milliseconds limit)
 {
     if (const auto refused = refusal(commands + QStringList(password)))
         co_return Failure(*refused);
-    const Session session(m_clock, m_port, m_lifetime, limit);
+    const Session session(m_clock, m_port, m_torUser, m_lifetime, limit);
     const auto opened = co_await session->open(password);
     if (!opened)
         co_return Failure(opened.error());
@@ -120,7 +126,7 @@ ControlPort::captureResolves(QString password, Milliseconds duration, Work work,
     if (const auto refused = refusal({password}))
         co_return Failure(*refused);
     Clock *clock = &m_clock;
-    Session session(*clock, m_port, m_lifetime, limit);
+    Session session(*clock, m_port, m_torUser, m_lifetime, limit);
     const auto subscribed = co_await ask(&session, password, QStringLiteral("SETEVENTS STREAM"));
     if (!subscribed)
         co_return Failure(subscribed.error());

@@ -13,6 +13,8 @@
 #include <stop_token>
 #include <vector>
 
+#include <sys/types.h>
+
 namespace veldmark {
 
 // Asks Tor over its control port. Every operation opens a connection of its own to 127.0.0.1,
@@ -41,7 +43,11 @@ public:
     static constexpr quint16 defaultPort = 9051;
     static constexpr std::chrono::milliseconds defaultLimit{20'000};
 
-    explicit ControlPort(Clock &clock, quint16 port = defaultPort);
+    // The account that Tor runs in, asked anew each time; the password goes to nobody else's process. Nothing: no
+    // process is trusted. Without the function, any is, as where the system does not tell.
+    using TorUser = std::function<std::optional<uid_t>()>;
+
+    explicit ControlPort(Clock &clock, quint16 port = defaultPort, TorUser torUser = {});
 
     // "GETINFO key key…". A key whose value is a data block has an empty value here; ask for such
     // keys with batch() and dataBlock().
@@ -74,6 +80,7 @@ public:
 private:
     Clock &m_clock;
     const quint16 m_port;
+    const TorUser m_torUser;
     QObject m_lifetime; // its destroyed() ends the operations
 };
 

@@ -27,6 +27,11 @@ ControlPortError ControlPortError::malformed(const QString &sentence)
     return {Kind::Malformed, sentence};
 }
 
+ControlPortError ControlPortError::stranger()
+{
+    return {Kind::Stranger, QStringLiteral("Another program than Tor listens on Tor's control port.")};
+}
+
 ControlPortError ControlPortError::timedOut()
 {
     return {Kind::TimedOut, QStringLiteral("Tor didn't answer on its control port in time.")};

@@ -13,6 +13,7 @@ public:
         Tor,          // Tor refused; line() is its answer
         Network,      // the socket failed; the description is the system's text
         Malformed,    // something that must not be sent, or that Tor would never send
+        Stranger,     // another program than Tor listens there; it was told nothing
         TimedOut,     // the call's time limit passed
     };
 
@@ -21,6 +22,7 @@ public:
     static ControlPortError tor(const QString &line);
     static ControlPortError network(const QString &systemText);
     static ControlPortError malformed(const QString &sentence);
+    static ControlPortError stranger();
     static ControlPortError timedOut();
 
     Kind kind() const { return m_kind; }

@@ -1,20 +1,17 @@
 #include "controller/TorController.h"
 
+#include "base/TorPassword.h"
 #include "bridges/BridgePlan.h"
 #include "controller/SettingRules.h"
 #include "platform/PlatformProfile.h"
 #include "system/PrivilegedRunner.h"
-#include "system/ProcessRunner.h"
 
 #include <QFileInfo>
 #include <QPointer>
-#include <QRandomGenerator>
 
 namespace veldmark {
 
 namespace {
-
-constexpr int passwordBytes = 32;
 
 bool isExecutableFile(const QString &path)
 {
@@ -44,14 +41,6 @@ std::optional<QString> TorController::torPath() const
             return candidate;
     }
     return std::nullopt;
-}
-
-QString TorController::randomHex(int bytes)
-{
-    QByteArray random(bytes, Qt::Uninitialized);
-    for (char &byte : random)
-        byte = static_cast<char>(QRandomGenerator::system()->bounded(256));
-    return QString::fromLatin1(random.toHex());
 }
 
 QString TorController::connectedDetail() const
@@ -99,6 +88,14 @@ void TorController::failAttempt(const QString &message)
     settleAfterFailure();
 }
 
+void TorController::failAtHelper(const HelperError &error)
+{
+    if (error.kind() == HelperError::Kind::Cancelled)
+        settleAfterFailure();
+    else
+        failAttempt(error.description());
+}
+
 QCoro::Task<Result<QStringList, QString>> TorController::bridgeArguments(Attempt attempt,
                                                                          BridgeRequest request)
 {
@@ -128,19 +125,20 @@ QCoro::Task<Result<QStringList, QString>> TorController::bridgeArguments(Attempt
     co_return plan.arguments.map_error([](const BridgeError &error) { return error.description(); });
 }
 
-QCoro::Task<Result<QString, QString>> TorController::hashPassword(QString password, QString tor)
+QCoro::Task<Result<void, HelperError>> TorController::approvePrograms(Attempt attempt, QStringList words)
 {
-    const QStringList arguments = {QStringLiteral("--quiet"), QStringLiteral("--hash-password"), password};
-    const auto run = co_await m_services.processes.run(tor, arguments);
-    if (!run)
-        co_return Failure(run.error().description());
-    const QStringList lines = run->stdout.split(u'\n', Qt::SkipEmptyParts);
-    for (auto line = lines.crbegin(); line != lines.crend(); ++line) {
-        const QString hash = line->trimmed();
-        if (hash.startsWith(QLatin1String("16:")))
-            co_return hash;
+    const QPointer<TorController> self(this);
+    const auto missing = m_services.missingApprovals ? m_services.missingApprovals(words) : std::vector<ProgramApproval>();
+    for (const ProgramApproval &program : missing) {
+        statusDetail = QStringLiteral("Waiting for an administrator to approve a program…");
+        const QStringList asked = program.words();
+        const auto helper = co_await m_services.privileged.runWithPrompt(asked);
+        if (!self || !isCurrent(attempt))
+            co_return Failure(HelperError::cancelled()); // nobody reads this
+        if (!helper)
+            co_return Failure(helper.error());
     }
-    co_return Failure(TorError::hashFailed(run->stderr.trimmed()).description());
+    co_return Result<void, HelperError>{};
 }
 
 QCoro::Task<void> TorController::connect()
@@ -197,34 +195,40 @@ QCoro::Task<void> TorController::connect()
         co_return;
     }
 
-    const QString password = randomHex(passwordBytes);
-    const auto hash = co_await hashPassword(password, *tor);
-    if (!self || !isCurrent(attempt))
-        co_return;
-    if (!hash) {
-        failAttempt(hash.error());
-        co_return;
+    // A strict session that is begun again, as after the end of Tor, keeps its password: with another one it would be
+    // another session, which nobody could have without an administrator's approval.
+    if (!isBlocked || !m_controlPassword || m_controlHash.isEmpty()) {
+        const TorPassword password = TorPassword::random();
+        m_controlPassword = password.clear;
+        m_controlHash = password.hash;
     }
-    m_controlPassword = password;
-
     QStringList arguments = {QStringLiteral("connect"), QStringLiteral("--tor"), *tor,
-                             QStringLiteral("--hash"), *hash,
+                             QStringLiteral("--hash"), m_controlHash,
                              QStringLiteral("--strict"), flag(strict),
                              QStringLiteral("--lan"), flag(localNetwork)};
     if (!exit.isEmpty())
         arguments << QStringLiteral("--exit") << exit;
     arguments += *bridges;
+    const auto approved = co_await approvePrograms(attempt, arguments);
+    if (!self || !isCurrent(attempt))
+        co_return;
+    if (!approved) {
+        failAtHelper(approved.error());
+        co_return;
+    }
+    // Under the password-free rule the helper itself says whether it has to be asked for.
+    if (isBlocked && arguments != m_sessionWords && !m_services.privileged.passwordlessInstalled())
+        arguments[0] = QStringLiteral("replace");
     statusDetail = QStringLiteral("Waiting for administrator approval…");
     const auto helper = co_await m_services.privileged.runHelper(arguments);
     if (!self || !isCurrent(attempt))
         co_return;
     if (!helper) {
-        if (helper.error().kind() == HelperError::Kind::Cancelled)
-            settleAfterFailure();
-        else
-            failAttempt(helper.error().description());
+        failAtHelper(helper.error());
         co_return;
     }
+    arguments[0] = QStringLiteral("connect");
+    m_sessionWords = arguments;
 
     activeMode = strict ? RoutingMode::strict : RoutingMode::proxy;
     activeBridge =

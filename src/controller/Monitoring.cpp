@@ -149,9 +149,19 @@ QCoro::Task<void> TorController::runChecks()
     leakStatus = LeakStatus::checkingAfter(leakStatus());
     lookAtKillSwitch();
     quint64 identity = m_identity;
-    auto throughTor = timedViaTor(); // both start now and run side by side
+    auto throughTor = timedViaTor();
+    // In strict mode both run side by side: nothing of the direct one leaves. In proxy mode it does, and the service is
+    // not to see the exit's address and the user's in the same moment.
+    const bool together = activeMode() == RoutingMode::strict;
+    TimedProbe tor{};
+    if (!together) {
+        tor = co_await throughTor;
+        if (!self || !isCurrent(attempt))
+            co_return;
+    }
     auto aroundTor = m_services.probe.direct();
-    TimedProbe tor = co_await throughTor;
+    if (together)
+        tor = co_await throughTor;
     const ProbeResult direct = co_await aroundTor;
     if (!self || !isCurrent(attempt))
         co_return; // the session ended meanwhile: what it had is no longer true

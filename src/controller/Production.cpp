@@ -2,6 +2,11 @@
 
 #include "bridges/TCPProbe.h"
 #include "bridges/TransportDownloader.h"
+#include "system/ProgramApproval.h"
+
+#include <QFile>
+
+#include <pwd.h>
 
 namespace veldmark {
 
@@ -12,6 +17,17 @@ QCoro::Task<QString> readScutil(ProcessRunner *processes, QString scutil)
     const QStringList arguments = {QStringLiteral("--dns")};
     const auto run = co_await processes->run(scutil, arguments);
     co_return run ? run->stdout : QString();
+}
+
+// The account is root's to make. On a Mac the system does not tell users whose a connection is.
+ControlPort::TorUser torUser(const PlatformProfile &profile)
+{
+    if (profile.name != QLatin1String("linux"))
+        return {};
+    return [name = QFile::encodeName(profile.torAccount)]() -> std::optional<uid_t> {
+        const passwd *entry = getpwnam(name.constData());
+        return entry ? std::optional(entry->pw_uid) : std::nullopt;
+    };
 }
 
 std::unique_ptr<ResolverSource> resolverSource(const PlatformProfile &profile, Clock &clock,
@@ -30,7 +46,7 @@ Production::Production(const PlatformProfile &profile)
     : m_profile(profile)
     , m_settings(m_profile)
     , m_privileged(m_profile, m_processes)
-    , m_controlPort(m_clock)
+    , m_controlPort(m_clock, ControlPort::defaultPort, torUser(m_profile))
     , m_probe(m_clock)
     , m_resolvers(resolverSource(m_profile, m_clock, m_processes))
     , m_terminal(m_profile, NetworkProbe::checkURL().toString())
@@ -61,6 +77,7 @@ Production::Production(const PlatformProfile &profile)
           .cancelTransports = [this] { m_downloader.cancel(); },
           .locateWithoutAsking =
               [this] { return m_search.locateWithoutAsking(TransportDownloader::installedVersion(m_profile)); },
+          .missingApprovals = [this](const QStringList &words) { return ProgramApproval::missing(m_profile, words); },
       })
     , m_wake(QDBusConnection::systemBus())
 {

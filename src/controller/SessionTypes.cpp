@@ -32,11 +32,6 @@ bool ExitCountry::isValid(const QString &code)
                            [](QChar c) { return c >= u'a' && c <= u'z'; }));
 }
 
-TorError TorError::hashFailed(const QString &message)
-{
-    return TorError(QStringLiteral("Couldn't prepare Tor's control password. ") + message);
-}
-
 TorError TorError::bootstrapTimeout(const std::optional<QString> &lastError)
 {
     QString text = QStringLiteral("Tor didn't finish connecting within 5 minutes.");

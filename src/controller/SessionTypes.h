@@ -22,7 +22,6 @@ struct ExitCountry {
 // What can go wrong in the connect sequence itself.
 class TorError {
 public:
-    static TorError hashFailed(const QString &message);
     // `lastError`: the description of the last control-port error met while waiting, if any.
     static TorError bootstrapTimeout(const std::optional<QString> &lastError);
 

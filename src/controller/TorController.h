@@ -18,6 +18,8 @@
 #include "base/Result.h"
 #include "base/ResumeOnce.h"
 #include "base/RoutingMode.h"
+#include "system/HelperError.h"
+#include "system/ProgramApproval.h"
 #include "system/SessionOwner.h"
 
 #include <QObject>
@@ -85,6 +87,8 @@ public:
         // locateTransports is used.
         std::function<QCoro::Task<PluggableTransports>()> locateWithoutAsking = {};
         std::function<QSet<QHostAddress>()> ownAddresses = OwnAddresses::present;
+        // ProgramApproval::missing(), for the words of a connect. Without it nothing is ever to be approved.
+        std::function<std::vector<ProgramApproval>(const QStringList &words)> missingApprovals = {};
     };
 
     // Registers the settings' defaults, reads the settings, and starts looking for transports
@@ -232,8 +236,6 @@ public:
 
     // Reads the value of Tor's "status/bootstrap-phase".
     static BootstrapStatus parseBootstrap(const QString &reply);
-    // `bytes` bytes of the system's secure random source as lower-case hexadecimal digits.
-    static QString randomHex(int bytes);
 
 Q_SIGNALS:
     void strictModeChanged();
@@ -280,7 +282,9 @@ private:
     static constexpr qint64 slowPathMs = 1501;
 
     // Connect.cpp
-    QCoro::Task<Result<QString, QString>> hashPassword(QString password, QString tor);
+    // Has the administrator asked for each program that is not the system's own.
+    QCoro::Task<Result<void, HelperError>> approvePrograms(Attempt attempt, QStringList words);
+    void failAtHelper(const HelperError &error);
     QCoro::Task<Result<QStringList, QString>> bridgeArguments(Attempt attempt, BridgeRequest request);
     // Makes every operation that is still under way an old one and clears what it left shown.
     Attempt startAttempt();
@@ -364,6 +368,8 @@ private:
     quint64 m_monitor = 0;  // the running monitor loop
     quint64 m_terminalRun = 0; // how often terminal mode was applied
     std::optional<QString> m_controlPassword; // of the running session; in memory only
+    QString m_controlHash;                    // what Tor was told of it
+    QStringList m_sessionWords;               // what the helper was last asked for, and did
     bool m_isDownloading = false;             // transports
     bool m_downloadsDirectly = false;         // and not through Tor
     bool m_downloadInterrupted = false;       // a connect has begun meanwhile

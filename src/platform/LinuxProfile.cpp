@@ -80,6 +80,7 @@ PlatformProfile PlatformProfile::linux(const Places &places)
     profile.installedHelper = at("/usr/local/libexec/veldmark/veldmark-helper.sh");
     profile.sudoersRule = at("/etc/sudoers.d/veldmark");
     profile.runDirectory = at("/var/lib/veldmark/run");
+    profile.approvedPrograms = at("/var/lib/veldmark/programs");
     profile.launcherOutput = QStringLiteral("launcher.out");
     profile.launcherPrefix = QStringLiteral("launcher: ");
     profile.torAccount = QStringLiteral("_veldmark");

@@ -26,6 +26,7 @@ PlatformProfile PlatformProfile::macos(const Places &places)
     profile.installedHelper = at("/Library/Application Support/Veldmark/bin/veldmark-helper.sh");
     profile.sudoersRule = at("/etc/sudoers.d/veldmark");
     profile.runDirectory = at("/var/db/veldmark/run");
+    profile.approvedPrograms = at("/var/db/veldmark/programs");
     profile.launcherOutput = QStringLiteral("launchd.out");
     profile.launcherPrefix = QStringLiteral("launchd: ");
     profile.torAccount = QStringLiteral("_veldmark");

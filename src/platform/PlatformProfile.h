@@ -59,6 +59,7 @@ struct PlatformProfile {
     QString installedHelper;  // the root-owned copy for use without a password
     QString sudoersRule;
     QString runDirectory;     // Tor's logs; see launcherOutput
+    QString approvedPrograms; // copies of programs that an administrator approved: DIGEST/ROLE
     QString launcherOutput;   // file name in runDirectory of the service launcher's output
     QString launcherPrefix;   // put before the launcher's lines in the log
     QString torAccount;

@@ -66,16 +66,22 @@ Outcome outcomeOf(QProcess &process)
 
 QCoro::Task<Outcome> ChildProcessRunner::run(QString executable, QStringList arguments)
 {
-    return start(std::move(executable), std::move(arguments), std::nullopt);
+    return start(std::move(executable), std::move(arguments), std::nullopt, std::nullopt);
+}
+
+QCoro::Task<Outcome> ChildProcessRunner::runWithInput(QString executable, QStringList arguments, QByteArray input)
+{
+    return start(std::move(executable), std::move(arguments), std::nullopt, std::move(input));
 }
 
 QCoro::Task<Outcome> ChildProcessRunner::runUntil(QString executable, QStringList arguments, std::stop_token stop)
 {
-    return start(std::move(executable), std::move(arguments), std::move(stop));
+    return start(std::move(executable), std::move(arguments), std::move(stop), std::nullopt);
 }
 
 QCoro::Task<Outcome> ChildProcessRunner::start(QString executable, QStringList arguments,
-                                               std::optional<std::stop_token> stop)
+                                               std::optional<std::stop_token> stop,
+                                               std::optional<QByteArray> input)
 {
     if (const auto refused = refusal(executable, arguments))
         co_return Failure(*refused);
@@ -99,10 +105,14 @@ QCoro::Task<Outcome> ChildProcessRunner::start(QString executable, QStringList a
     QObject::connect(&m_lifetime, &QObject::destroyed, process, [ended] {
         ended.complete(Failure(StartError(QStringLiteral("The program is quitting."))));
     });
-    process->setInputChannelMode(QProcess::ForwardedInputChannel);
+    process->setInputChannelMode(input ? QProcess::ManagedInputChannel : QProcess::ForwardedInputChannel);
     if (stop)
         process->setChildProcessModifier([] { ::setsid(); });
-    process->start(executable, arguments, QIODevice::ReadOnly);
+    process->start(executable, arguments, input ? QIODevice::ReadWrite : QIODevice::ReadOnly);
+    if (input) {
+        process->write(*input);
+        process->closeWriteChannel(); // once all of it is written
+    }
 
     std::optional<std::stop_callback<std::function<void()>>> onStop;
     if (stop) {

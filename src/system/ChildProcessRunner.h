@@ -26,12 +26,15 @@ public:
     [[nodiscard]] QCoro::Task<Result<ProcessResult, StartError>>
     run(QString executable, QStringList arguments) override;
     [[nodiscard]] QCoro::Task<Result<ProcessResult, StartError>>
+    runWithInput(QString executable, QStringList arguments, QByteArray input) override;
+    [[nodiscard]] QCoro::Task<Result<ProcessResult, StartError>>
     runUntil(QString executable, QStringList arguments, std::stop_token stop) override;
 
 private:
-    // Without `stop` the child stays in this process's group and session.
+    // Without `stop` the child stays in this process's group and session, without `input` its input is ours.
     QCoro::Task<Result<ProcessResult, StartError>> start(QString executable, QStringList arguments,
-                                                         std::optional<std::stop_token> stop);
+                                                         std::optional<std::stop_token> stop,
+                                                         std::optional<QByteArray> input);
     QObject m_lifetime; // its destroyed() ends the waits
 };
 

@@ -12,6 +12,11 @@ HelperError HelperError::failed(QString message)
     return {Kind::Failed, std::move(message)};
 }
 
+HelperError HelperError::unapproved(QString message)
+{
+    return {Kind::Unapproved, std::move(message)};
+}
+
 HelperError HelperError::missingHelper()
 {
     return {Kind::MissingHelper,

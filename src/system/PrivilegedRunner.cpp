@@ -35,6 +35,60 @@ QString helpersWords(const QString &errors)
     return others.trimmed().isEmpty() ? errors : others;
 }
 
+// What the helper ends with when only an administrator's approval is missing.
+constexpr int unapprovedStatus = 3;
+
+// The words of a run: those that anybody may read on its command line, and what it reads from its input.
+struct Words {
+    QStringList shown;
+    std::optional<QByteArray> input;
+};
+
+// The options of a connect tell bridges, exit and the hashed password. Those of the other verbs are what the
+// administrator is asked about, and stay where the dialog can show them.
+Words hidden(const QStringList &arguments)
+{
+    const QString verb = arguments.value(0);
+    const auto fitsALine = [](const QString &word) { // what does not is for the helper to refuse
+        return std::none_of(word.begin(), word.end(), [](QChar c) { return c < u' ' || c == QChar(0x7f); });
+    };
+    if ((verb != QLatin1String("connect") && verb != QLatin1String("replace")) || arguments.size() < 2
+        || !std::all_of(arguments.begin(), arguments.end(), fitsALine))
+        return {arguments, std::nullopt};
+    const QString lines = arguments.mid(1).join(u'\n') + QLatin1String("\nend\n");
+    return {{verb, QStringLiteral("-")}, lines.toUtf8()};
+}
+
+QCoro::Task<Result<ProcessResult, StartError>> start(ProcessRunner *runner, QString program, QStringList before, Words words)
+{
+    const QStringList all = before + words.shown;
+    return words.input ? runner->runWithInput(program, all, *words.input) : runner->run(program, all);
+}
+
+// What the dialog is to ask for where the helper has refused `arguments` without an approval.
+QStringList approvable(QStringList arguments)
+{
+    if (arguments.value(0) == QLatin1String("connect"))
+        arguments[0] = QStringLiteral("replace");
+    return arguments;
+}
+
+// What stands in the dialog where the program writes it: osascript's.
+QString promptText(const PlatformProfile &profile, const QStringList &arguments)
+{
+    const QString verb = arguments.value(0);
+    if (verb == QLatin1String("replace"))
+        return profile.promptText
+            + QStringLiteral(" The strict session that is running is replaced, and may protect you less.");
+    if (verb != QLatin1String("approve"))
+        return profile.promptText;
+    const auto valueOf = [&arguments](const char *option) {
+        return arguments.value(arguments.indexOf(QLatin1String(option)) + 1);
+    };
+    return QStringLiteral("Veldmark wants to run %1 as a part of Tor. No package of the system brought it. Its SHA-256 is %2.")
+        .arg(valueOf("--program"), valueOf("--sha256"));
+}
+
 HelperError failure(const QString &text)
 {
     return HelperError::failed(PrivilegedRunner::cleanError(helpersWords(text)));
@@ -121,9 +175,11 @@ QString appleScriptSource(const QStringList &words, const QString &promptText)
         quoted += shellQuoted(word);
     QString command = quoted.join(u' ');
     // Backslashes first, so that those added for the quotes are not doubled.
-    command.replace(u'\\', QLatin1String("\\\\")).replace(u'"', QLatin1String("\\\""));
+    QString text = promptText;
+    for (QString *quotable : {&command, &text})
+        quotable->replace(u'\\', QLatin1String("\\\\")).replace(u'"', QLatin1String("\\\""));
     return QLatin1String("do shell script \"") + command + QLatin1String("\" with prompt \"")
-        + promptText + QLatin1String("\" with administrator privileges");
+        + text + QLatin1String("\" with administrator privileges");
 }
 
 PrivilegedRunner::PrivilegedRunner(PlatformProfile profile, ProcessRunner &runner,
@@ -160,13 +216,18 @@ PrivilegedRunner::Outcome PrivilegedRunner::bundledHelper() const
     return m_means->bundledHelper();
 }
 
-bool PrivilegedRunner::privilegedHelperOutdated() const
+bool PrivilegedRunner::Means::privilegedHelperOutdated() const
 {
     const Outcome shipped = bundledHelper();
     if (!passwordlessInstalled() || !shipped)
         return false;
     // Two files that cannot be read count as equal, one that can and one that cannot as different.
-    return contentOf(*shipped) != contentOf(m_means->profile.installedHelper);
+    return contentOf(*shipped) != contentOf(profile.installedHelper);
+}
+
+bool PrivilegedRunner::privilegedHelperOutdated() const
+{
+    return m_means->privilegedHelperOutdated();
 }
 
 QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::runHelper(QStringList arguments)
@@ -186,14 +247,18 @@ PrivilegedRunner::run(std::shared_ptr<const Means> means, QStringList arguments)
     const bool needsNobody =
         means->isRoot && means->profile.promptKind == PromptKind::PolicyKit;
     if (!needsNobody && means->passwordlessInstalled()) {
-        const QStringList words =
-            QStringList{QStringLiteral("-n"), means->profile.installedHelper} + arguments;
-        const auto run = co_await means->runner->run(means->profile.sudo, words);
+        const QStringList before{QStringLiteral("-n"), means->profile.installedHelper};
+        // A copy of another version may read nothing from its input.
+        const Words words = means->privilegedHelperOutdated() ? Words{arguments, std::nullopt} : hidden(arguments);
+        auto running = start(means->runner, means->profile.sudo, before, words);
+        const auto run = co_await running;
         if (!run)
             co_return Failure(HelperError::notStarted(run.error()));
         if (run->status == 0)
             co_return run->stdout;
-        if (!sudoRefused(*run))
+        if (run->status == unapprovedStatus && helpersWords(run->stderr).startsWith(QLatin1String("ERROR: ")))
+            arguments = approvable(arguments);
+        else if (!sudoRefused(*run))
             co_return Failure(failure(run->stderr.isEmpty() ? run->stdout : run->stderr));
         if (!means->runner)
             co_return Failure(HelperError::cancelled());
@@ -212,10 +277,10 @@ PrivilegedRunner::prompt(std::shared_ptr<const Means> means, QStringList argumen
             co_return shipped;
         script = *shipped;
     }
-    const QStringList words = QStringList{shell, *script} + arguments;
     if (means->profile.promptKind == PromptKind::AppleScript) {
+        const QStringList words = QStringList{shell, *script} + arguments;
         const QStringList source = {QStringLiteral("-e"),
-                                    appleScriptSource(words, means->profile.promptText)};
+                                    appleScriptSource(words, promptText(means->profile, arguments))};
         const auto run = co_await means->runner->run(means->profile.promptProgram, source);
         if (!run)
             co_return Failure(HelperError::notStarted(run.error()));
@@ -226,24 +291,34 @@ PrivilegedRunner::prompt(std::shared_ptr<const Means> means, QStringList argumen
             co_return Failure(HelperError::cancelled());
         co_return Failure(failure(run->stderr));
     }
-    const Outcome outcome = co_await runAsRoot(means, words);
-    co_return outcome;
+    const QString helper = *script;
+    const Outcome outcome = co_await runAsRoot(means, helper, arguments);
+    const QStringList more = approvable(arguments);
+    if (outcome || outcome.error().kind() != HelperError::Kind::Unapproved || more == arguments || !means->runner)
+        co_return outcome;
+    // The dialog has not said that a strict session would be lessened; now it does.
+    const Outcome approved = co_await runAsRoot(means, helper, more);
+    co_return approved;
 }
 
 QCoro::Task<PrivilegedRunner::Outcome>
-PrivilegedRunner::runAsRoot(std::shared_ptr<const Means> means, QStringList words)
+PrivilegedRunner::runAsRoot(std::shared_ptr<const Means> means, QString script, QStringList arguments)
 {
-    const QString script = words.at(1);
-    const QString firstWord = words.takeFirst();
     // pkexec gets the script itself and no shell: the installed policy's actions, which say in the dialog what is
     // wanted, belong to that path and the verb after it.
-    const QString program = means->isRoot ? firstWord : means->profile.promptProgram;
-    const auto run = co_await means->runner->run(program, words);
+    const QString program = means->isRoot ? shell : means->profile.promptProgram;
+    const QStringList before{script};
+    const Words words = hidden(arguments);
+    auto running = start(means->runner, program, before, words);
+    const auto run = co_await running;
     if (!run)
         co_return Failure(HelperError::notStarted(run.error()));
     if (run->status == 0)
         co_return run->stdout;
-    co_return Failure(means->isRoot ? failure(run->stderr) : policyKitError(*run, script));
+    const HelperError error = means->isRoot ? failure(run->stderr) : policyKitError(*run, script);
+    if (run->status == unapprovedStatus && error.kind() == HelperError::Kind::Failed)
+        co_return Failure(HelperError::unapproved(error.description()));
+    co_return Failure(error);
 }
 
 QString PrivilegedRunner::cleanError(const QString &text)

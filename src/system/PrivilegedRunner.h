@@ -25,6 +25,9 @@ namespace veldmark {
 // The helper reports a failure as one line on standard error, optionally after "ERROR: ", and a
 // status other than 0; that line, cleaned, is the error's description.
 //
+// The options of connect and replace go to the helper's standard input, where nobody else reads them, except through
+// osascript. A connect that would lessen a running strict session is refused by the helper; then replace asks.
+//
 // Belongs to the main thread and must be destroyed before its ProcessRunner. A run that is under
 // way then is left to finish; its caller gets `cancelled`, at the latest when it ends.
 class PrivilegedRunner {
@@ -62,13 +65,13 @@ private:
         bool isRoot;
 
         bool passwordlessInstalled() const;
+        bool privilegedHelperOutdated() const;
         Outcome bundledHelper() const;
     };
     static QCoro::Task<Outcome> run(std::shared_ptr<const Means> means, QStringList arguments);
     static QCoro::Task<Outcome> prompt(std::shared_ptr<const Means> means, QStringList arguments,
                                        std::optional<QString> script);
-    // words: the shell, the script, the arguments.
-    static QCoro::Task<Outcome> runAsRoot(std::shared_ptr<const Means> means, QStringList words);
+    static QCoro::Task<Outcome> runAsRoot(std::shared_ptr<const Means> means, QString script, QStringList arguments);
 
     std::shared_ptr<Means> m_means;
 };

@@ -45,6 +45,10 @@ public:
     [[nodiscard]] virtual QCoro::Task<Result<ProcessResult, StartError>>
     run(QString executable, QStringList arguments) = 0;
 
+    // The same, with `input` on its standard input, which then ends. run() leaves it this process's own.
+    [[nodiscard]] virtual QCoro::Task<Result<ProcessResult, StartError>>
+    runWithInput(QString executable, QStringList arguments, QByteArray input) = 0;
+
     // The same, but when `stop` is requested, on the thread that runs the event loop, the program and
     // every process that it has started are killed; the run has then ended by that signal. The
     // program has no terminal. What stands here is for stand-ins, whose programs end by themselves.

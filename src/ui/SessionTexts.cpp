@@ -17,6 +17,7 @@ namespace {
     QT_TRANSLATE_NOOP("Session", "Your network is still set up for Tor"),
     QT_TRANSLATE_NOOP("Session", "Preparing Tor…"),
     QT_TRANSLATE_NOOP("Session", "Waiting for administrator approval…"),
+    QT_TRANSLATE_NOOP("Session", "Waiting for an administrator to approve a program…"),
     QT_TRANSLATE_NOOP("Session", "Starting Tor…"),
     QT_TRANSLATE_NOOP("Session", "Tor didn't finish connecting"),
     QT_TRANSLATE_NOOP("Session", "Tor is waiting for the bridge program, which hasn't said that it is ready."),

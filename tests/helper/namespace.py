@@ -163,7 +163,7 @@ class Machine:
 
     def run(self, *words, uid=0, group=None, check=True, stdin=None, env=None, timeout=60):
         done = subprocess.run(
-            self.command(words, uid, group), capture_output=True, text=True, input=stdin, check=False, timeout=timeout,
+            self.command(words, uid, **({"group": group} if group else {})), capture_output=True, text=True, input=stdin, check=False, timeout=timeout,
             env=env if env is not None else {"PATH": os.environ["PATH"]}, errors="surrogateescape",
             **({"stdin": subprocess.DEVNULL} if stdin is None else {}),
         )
@@ -172,7 +172,7 @@ class Machine:
         return done
 
     def start(self, *words, uid=0, group=None, **options):
-        return subprocess.Popen(self.command(words, uid, group), **options)
+        return subprocess.Popen(self.command(words, uid, **({"group": group} if group else {})), **options)
 
     def shell(self, script, *arguments, **options):
         return self.run("/bin/bash", "-c", script, "shell", *arguments, **options).stdout

@@ -31,7 +31,7 @@ NEWER = {
     "stat -c": r"\bstat +-[a-zA-Z]*[cL]",
     "mv -T, cp -T, ln -T": r"\b(mv|cp|ln) +-[a-zA-Z]*T",
     "readlink -e or -m": r"\breadlink +-[em]",
-    "programs of Linux": r"(?<![-\w/.])(flock|timeout|setpriv|unshare|setsid|getent|sha256sum|nft|mount|umount|pgrep|useradd|pidof)(?![-\w:=(])",
+    "programs of Linux": r"(?<![-\w/.])(flock|timeout|setpriv|unshare|setsid|getent|sha256sum|nft|mount(?= +-)|umount|pgrep|useradd|pidof)(?![-\w:=(])",
     "proc": r"/proc/",
     "long options of GNU": r"\b(rm|mkdir|chmod|chown|head|tail|sort|env) +--[a-z]",
 }

@@ -11,6 +11,7 @@
 // Restores the network before it ends; exit status 1 when that failed.
 
 #include "base/Clock.h"
+#include "base/TorPassword.h"
 #include "bridges/TCPProbe.h"
 #include "bridges/TransportSearch.h"
 #include "checks/ExitCheckProbe.h"
@@ -61,16 +62,18 @@ private:
     SystemClock m_clock;
 };
 
-// Hashes another password than it is asked to.
+// Tells the helper the hash of another password.
 class WrongHash final : public ProcessRunner {
 public:
     QCoro::Task<Result<ProcessResult, StartError>> run(QString executable, QStringList arguments) override
     {
-        if (arguments.contains(QStringLiteral("--hash-password")))
-            arguments.last() = QStringLiteral("another");
-        auto running = m_runner.run(executable, arguments);
-        auto result = co_await running;
-        co_return result;
+        return m_runner.run(executable, arguments);
+    }
+    QCoro::Task<Result<ProcessResult, StartError>> runWithInput(QString executable, QStringList arguments, QByteArray input) override
+    {
+        QByteArrayList words = input.split('\n');
+        words[words.indexOf(QByteArray("--hash")) + 1] = TorPassword::hashOf("another", "salty___").toLatin1();
+        return m_runner.runWithInput(executable, arguments, words.join('\n'));
     }
 
 private:

@@ -1,5 +1,7 @@
 #include "support/FakeTor.h"
 
+#include "base/TorPassword.h"
+
 #include <QNetworkProxy>
 #include <QTcpSocket>
 #include <QTimer>
@@ -128,6 +130,10 @@ QByteArray FakeTor::answerTo(const QByteArray &command)
     if (const auto reply = m_replies.constFind(command); reply != m_replies.constEnd())
         return *reply;
     if (command.startsWith("AUTHENTICATE")) {
+        QByteArray given = command.mid(14);
+        given.chop(1); // between the quotes
+        if (!m_hash.isEmpty() && TorPassword::matches(given, m_hash))
+            m_password = QString::fromUtf8(given);
         return command == "AUTHENTICATE \"" + m_password.toUtf8() + '"'
             ? QByteArray("250 OK\r\n")
             : QByteArray("515 Authentication failed: Password did not match HashedControlPassword "

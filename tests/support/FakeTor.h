@@ -28,6 +28,8 @@ public:
     quint16 port() const { return m_port; }
     QString password() const { return m_password; }
     void setPassword(const QString &password) { m_password = password; }
+    // Any password of that hash is right from now on; password() is the last that was.
+    void setHash(const QString &hash) { m_hash = hash; }
 
     // The bytes that answer `command` (the whole line) from now on.
     void reply(const QByteArray &command, const QByteArray &bytes);
@@ -79,6 +81,7 @@ private:
     QTcpServer m_server;
     quint16 m_port = 0;
     QString m_password = QStringLiteral("secret");
+    QString m_hash; // empty: m_password alone is right
     std::list<Client> m_clients;
     QHash<QByteArray, QByteArray> m_replies;
     QHash<QByteArray, QByteArrayList> m_repliesOnce;

@@ -43,6 +43,16 @@ public:
         co_return now(call);
     }
 
+    // A helper's call is noted as if its options stood on the command line.
+    QCoro::Task<Result<ProcessResult, StartError>> runWithInput(QString executable, QStringList arguments, QByteArray input) override
+    {
+        QStringList words = QString::fromUtf8(input).split(u'\n');
+        words.resize(words.indexOf(QStringLiteral("end")));
+        arguments.removeLast(); // "-"
+        inputs.push_back(input);
+        return run(executable, arguments + words);
+    }
+
     void release()
     {
         while (!m_held.empty()) {
@@ -55,6 +65,7 @@ public:
     Answer answer = [](const Call &) { return ProcessResult{}; };
     std::function<bool(const Call &call)> hold;
     std::vector<Call> calls;
+    std::vector<QByteArray> inputs;
 
 private:
     std::deque<ResumeOnce<bool>> m_held;

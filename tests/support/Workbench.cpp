@@ -160,6 +160,9 @@ void Workbench::restart()
                 cancelTransports();
         },
         .ownAddresses = [this] { return ownAddresses; },
+        .missingApprovals = [this](const QStringList &words) {
+            return missingApprovals ? missingApprovals(words) : std::vector<ProgramApproval>();
+        },
     });
     settle();
 }
@@ -249,21 +252,21 @@ void Workbench::cancelPrompt(const QString &verb)
 void Workbench::hold(const QString &verb)
 {
     processes.hold = [this, verb](const ScriptedRunner::Call &call) {
-        return call.arguments.contains(verb) || helperArguments(call).contains(verb);
+        const QString asked = helperArguments(call).value(0);
+        return call.arguments.contains(verb) || asked == verb
+            || (asked == QLatin1String("replace") && verb == QLatin1String("connect"));
     };
 }
 
 Result<ProcessResult, StartError> Workbench::run(const ScriptedRunner::Call &call)
 {
-    if (call.arguments.contains(QStringLiteral("--hash-password"))) {
-        tor.setPassword(call.arguments.constLast());
-        return ProcessResult{0, QStringLiteral("16:0123456789ABCDEF\n"), {}};
-    }
     const QStringList arguments = helperArguments(call);
     const QString verb = arguments.value(0);
-    if (const auto refused = m_refusals.find(verb); refused != m_refusals.end())
+    const QString meant = verb == QLatin1String("replace") ? QStringLiteral("connect") : verb;
+    if (const auto refused = m_refusals.find(meant); refused != m_refusals.end())
         return refused->second;
-    if (verb == QLatin1String("connect")) {
+    if (verb == QLatin1String("connect") || verb == QLatin1String("replace")) {
+        tor.setHash(arguments.at(arguments.indexOf(QStringLiteral("--hash")) + 1));
         const bool strict = arguments.at(arguments.indexOf(QStringLiteral("--strict")) + 1) == QLatin1String("1");
         writeMarker(strict ? "strict\n" : "proxy\n");
         QFile::remove(profile.killSwitchNote);

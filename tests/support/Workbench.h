@@ -67,13 +67,13 @@ public:
     std::vector<QStringList> helperRuns() const;
     QStringList lastHelperRun(const QString &verb) const;
     int helperRunCount(const QString &verb) const;
-    // What the helper answers to a verb from now on, instead of doing it.
+    // What the helper answers to a verb from now on, instead of doing it; "connect" stands for "replace" as well.
     void failHelper(const QString &verb, const QString &message);
     void cancelPrompt(const QString &verb);
     void letHelperWork() { m_refusals.clear(); }
-    // The helper, or "--hash-password" of tor, does not end before processes.release().
+    // The helper does not end before processes.release().
     void hold(const QString &verb);
-    // The password of the last "--hash-password".
+    // The password that Tor was last asked with.
     QString password() const { return tor.password(); }
 
     // What the watcher over the firewall's rules has seen: "standing", "restored" or "open", how often the rules were
@@ -110,6 +110,7 @@ public:
     ScriptedResolvers resolvers;
     TerminalIntegration terminal;
     ScriptedApplications applications;
+    std::function<std::vector<ProgramApproval>(const QStringList &words)> missingApprovals; // none, unless set before a connect
     PluggableTransports transports; // what a search finds
     int searches = 0;               // for transports
     std::function<QCoro::Task<void>()> beforeSearchAnswer; // what is found is settled before it

@@ -1,5 +1,6 @@
 #include "control/ControlPort.h"
 
+#include "base/TorPassword.h"
 #include "support/ManualClock.h"
 #include "support/TestProgram.h"
 
@@ -71,7 +72,7 @@ private Q_SLOTS:
             QStringLiteral("--DisableNetwork"), QStringLiteral("1"),
             QStringLiteral("--SocksPort"), QStringLiteral("0"),
             QStringLiteral("--ControlPort"), QStringLiteral("9051"),
-            QStringLiteral("--HashedControlPassword"), hashOf(m_password),
+            QStringLiteral("--HashedControlPassword"), TorPassword::hashOf(m_password.toUtf8(), "saltsalt"),
             QStringLiteral("--DataDirectory"), m_folder.filePath(QStringLiteral("data")),
             QStringLiteral("--__OwningControllerProcess"), QString::number(QCoreApplication::applicationPid()),
             QStringLiteral("--Log"), QStringLiteral("notice stdout")});
@@ -172,15 +173,6 @@ private:
         return path;
     }
 
-    QString hashOf(const QString &password)
-    {
-        QProcess hashing;
-        hashing.start(torProgram(), {QStringLiteral("--quiet"), QStringLiteral("--hash-password"), password});
-        hashing.waitForFinished();
-        const QString output = QString::fromUtf8(hashing.readAllStandardOutput()).trimmed();
-        return output.mid(output.lastIndexOf(QStringLiteral("16:")));
-    }
-
     bool waitForText(const QByteArray &wanted, QByteArray *log)
     {
         while (!log->contains(wanted)) {
@@ -197,7 +189,7 @@ private:
     QTemporaryDir m_folder;
     QProcess m_tor;
     ManualClock m_clock;
-    ControlPort m_port{m_clock};
+    ControlPort m_port{m_clock, ControlPort::defaultPort, [] { return std::optional(::geteuid()); }};
 };
 
 static int runRealTorTest(int argc, char **argv)

@@ -125,34 +125,6 @@ private Q_SLOTS:
         QTEST(bench.controller().errorMessage().value(), "message");
     }
 
-    void passwordThatCannotBeHashed_data()
-    {
-        QTest::addColumn<bool>("starts");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("no hash") << true << u"Couldn't prepare Tor's control password. [err] broken"_s;
-        QTest::newRow("not started") << false << u"Exec format error"_s;
-    }
-
-    void passwordThatCannotBeHashed()
-    {
-        QFETCH(bool, starts);
-        Workbench bench;
-        bench.processes.answer = [starts](const ScriptedRunner::Call &) -> Result<ProcessResult, StartError> {
-            if (!starts)
-                return Failure(StartError(u"Exec format error"_s));
-            return ProcessResult{0, u"17:nearly\n\n"_s, u"\n [err] broken \r\n"_s};
-        };
-        QVERIFY(!bench.connect());
-        QTEST(bench.controller().errorMessage().value(), "message");
-        QVERIFY(isNormal(bench.controller()));
-        QCOMPARE(bench.processes.calls.size(), std::size_t(1)); // the helper is not asked
-        bench.writeMarker("proxy");
-        bench.controller().detectStaleState();
-        QVERIFY(!bench.connect());
-        QVERIFY(isLeftSetUp(bench.controller()));
-        QVERIFY(bench.controller().activeMode() == RoutingMode::proxy);
-    }
-
     void aDismissedPromptIsNoError_data() { Workbench::bothSystems(); }
     void aDismissedPromptIsNoError()
     {

@@ -1,3 +1,4 @@
+#include "base/TorPassword.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 
@@ -35,11 +36,13 @@ private Q_SLOTS:
         QVERIFY(!c.activeBridge() && !c.errorMessage() && !c.canCancel());
         QCOMPARE(c.bootstrapProgress(), 1.0);
         QVERIFY(bench.hasMarker());
-        QCOMPARE(bench.processes.calls.front().executable, bench.profile.torCandidates.constFirst());
-        QCOMPARE(bench.processes.calls.back().executable, bench.profile.promptProgram);
+        QCOMPARE(bench.processes.calls.size(), std::size_t(1)); // Tor is not run to hash the password
+        QCOMPARE(bench.processes.calls.front().executable, bench.profile.promptProgram);
+        const QString hash = bench.lastHelperRun(u"connect"_s).value(4);
+        QVERIFY(TorPassword::matches(bench.password().toUtf8(), hash));
         QCOMPARE(bench.lastHelperRun(u"connect"_s),
                  QStringList({u"connect"_s, u"--tor"_s, bench.profile.torCandidates.constFirst(),
-                              u"--hash"_s, u"16:0123456789ABCDEF"_s, u"--strict"_s, u"1"_s, u"--lan"_s, u"1"_s}));
+                              u"--hash"_s, hash, u"--strict"_s, u"1"_s, u"--lan"_s, u"1"_s}));
     }
 
     void proxyModeIsNotCalledLocked()
@@ -137,7 +140,7 @@ private Q_SLOTS:
         Workbench bench;
         TorController &c = bench.controller();
         c.exitCountry.set(u"de"_s);
-        bench.hold(u"--hash-password"_s);
+        bench.hold(u"connect"_s);
         const auto connecting = c.connect();
         QVERIFY(until([&] { return bench.processes.held() == 1; }));
         c.exitCountry.set(u"; reboot"_s); // a view may let anything be typed
@@ -213,32 +216,53 @@ private Q_SLOTS:
         }
     }
 
-    void randomHexHasTwoDigitsForEachByte()
-    {
-        QCOMPARE(TorController::randomHex(0), QString());
-        std::set<QString> seen;
-        for (int i = 0; i < 100; ++i) {
-            const QString word = TorController::randomHex(5);
-            QVERIFY(QRegularExpression(u"^[0-9a-f]{10}$"_s).match(word).hasMatch());
-            seen.insert(word);
-        }
-        QVERIFY(seen.size() > 95);
-    }
-
-    void asksTorForTheHashAndTakesTheLastLine()
+    // Under the password-free rule any other session than the same again is refused.
+    void aStrictSessionThatIsBegunAgainIsTheSame()
     {
         Workbench bench;
-        const auto helper = bench.processes.answer;
-        bench.processes.answer = [&](const ScriptedRunner::Call &call) -> Result<ProcessResult, StartError> {
-            const auto result = helper(call);
-            if (!call.arguments.contains(u"--hash-password"_s))
-                return result;
-            return ProcessResult{1, u"16:FIRST\nnot 16:this\n  16:LAST \r\n\nwarning\n"_s, u"noise"_s};
+        const auto endTor = [&bench] {
+            bench.tor.stopListening();
+            for (int failure = 0; failure < 3; ++failure)
+                QVERIFY(bench.tick());
+            QVERIFY(bench.controller().phase() == Phase::stale);
+            bench.tor.listen();
         };
         QVERIFY(bench.connect());
-        QCOMPARE(bench.processes.calls.front().arguments,
-                 QStringList({u"--quiet"_s, u"--hash-password"_s, bench.password()}));
-        QCOMPARE(bench.lastHelperRun(u"connect"_s).at(4), u"16:LAST"_s);
+        const QStringList words = bench.lastHelperRun(u"connect"_s);
+        endTor();
+        QVERIFY(bench.connect());
+        QCOMPARE(bench.helperRunCount(u"connect"_s), 2);
+        QCOMPARE(bench.lastHelperRun(u"connect"_s), words);
+        endTor();
+        bench.controller().allowLocalNetwork.set(false);
+        QVERIFY(bench.connect()); // whose dialog says what it is
+        QCOMPARE(bench.helperRunCount(u"connect"_s), 2);
+        QCOMPARE(bench.lastHelperRun(u"replace"_s).mid(5).join(u' '), u"--strict 1 --lan 0"_s);
+        bench.disconnect();
+        QVERIFY(bench.connect());
+        QVERIFY(bench.lastHelperRun(u"connect"_s).at(4) != words.at(4));
+    }
+
+    void programsOfTheUsersAreApprovedByNameFirst()
+    {
+        Workbench bench;
+        bench.missingApprovals = [](const QStringList &words) {
+            return std::vector<ProgramApproval>{{words.at(2), u"tor"_s, u"abcd"_s}};
+        };
+        const QString tor = bench.profile.torCandidates.constFirst();
+        bench.cancelPrompt(u"approve"_s);
+        QVERIFY(!bench.connect());
+        QCOMPARE(bench.helperRunCount(u"connect"_s), 0);
+        QVERIFY(bench.controller().phase() == Phase::disconnected && !bench.controller().errorMessage());
+        bench.failHelper(u"approve"_s, u"No."_s);
+        QVERIFY(!bench.connect());
+        QCOMPARE(bench.controller().errorMessage().value(), u"No."_s);
+        QCOMPARE(bench.helperRunCount(u"connect"_s), 0);
+        bench.letHelperWork();
+        QVERIFY(bench.connect());
+        QCOMPARE(bench.lastHelperRun(u"approve"_s),
+                 QStringList({u"approve"_s, u"--program"_s, tor, u"--as"_s, u"tor"_s, u"--sha256"_s, u"abcd"_s}));
+        QCOMPARE(bench.helperRuns().back().constFirst(), u"connect"_s);
     }
 
     void aSecondConnectIsIgnored()
@@ -297,7 +321,7 @@ private Q_SLOTS:
         QVERIFY(c.phase() == Phase::stale);
         QVERIFY(c.exitIP() && c.torVerified() && c.latencyMs() && c.errorMessage());
         bench.tor.listen();
-        bench.hold(u"--hash-password"_s);
+        bench.hold(u"connect"_s);
         const auto connecting = c.connect();
         QVERIFY(c.phase() == Phase::connecting);
         QVERIFY(!c.exitIP() && !c.torVerified() && !c.latencyMs() && !c.errorMessage());

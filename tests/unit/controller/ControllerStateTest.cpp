@@ -255,8 +255,6 @@ private Q_SLOTS:
 
     void errorTexts()
     {
-        QCOMPARE(TorError::hashFailed(u"why"_s).description(),
-                 u"Couldn't prepare Tor's control password. why"_s);
         QCOMPARE(TorError::bootstrapTimeout(std::nullopt).description(),
                  u"Tor didn't finish connecting within 5 minutes."_s);
         QCOMPARE(TorError::bootstrapTimeout(u"why"_s).description(),

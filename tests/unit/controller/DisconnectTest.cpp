@@ -97,7 +97,6 @@ private Q_SLOTS:
     void waitsUntilTheHelperIsThrough_data()
     {
         QTest::addColumn<QString>("step");
-        QTest::newRow("hashing") << u"--hash-password"_s;
         QTest::newRow("prompt") << u"connect"_s;
     }
 

@@ -73,11 +73,6 @@ std::vector<Place> places()
              b.controller().connect();
              return isAsleep(b, 2);
          }},
-        {"connect, hashing", [](Workbench &b) {
-             b.hold(u"--hash-password"_s);
-             b.controller().connect();
-             return isHeld(b);
-         }},
         {"connect, at the prompt", [](Workbench &b) {
              b.hold(u"connect"_s);
              b.controller().connect();

@@ -68,6 +68,20 @@ private Q_SLOTS:
         QCOMPARE(run(runner, verb).error().description(), QStringLiteral("pf is off"));
     }
 
+    void osascriptsDialogNamesTheProgramToApprove()
+    {
+        StandIns system(false);
+        system.helper("exit 0");
+        system.dialog("exit 0");
+        PrivilegedRunner runner = system.runner();
+        const QStringList words = {QStringLiteral("approve"), QStringLiteral("--program"), QStringLiteral("/Users/a/\"tor\""),
+                                   QStringLiteral("--as"), QStringLiteral("tor"), QStringLiteral("--sha256"), QStringLiteral("abcd")};
+        QVERIFY(QCoro::waitFor(runner.runWithPrompt(words)));
+        const QString source = system.argumentsOf(system.profile.promptProgram)->last();
+        QVERIFY2(source.contains(QStringLiteral("with prompt \"Veldmark wants to run /Users/a/\\\"tor\\\" as a part of Tor.")), qPrintable(source));
+        QVERIFY(source.contains(QStringLiteral("Its SHA-256 is abcd.\" with administrator privileges")));
+    }
+
     void pkexecRunsTheHelperItself()
     {
         StandIns system(true);

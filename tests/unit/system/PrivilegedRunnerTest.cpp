@@ -21,6 +21,10 @@ public:
         const ProcessResult result = co_await wait;
         co_return result;
     }
+    QCoro::Task<Result<ProcessResult, StartError>> runWithInput(QString executable, QStringList arguments, QByteArray) override
+    {
+        return run(executable, arguments);
+    }
     ResumeOnce<ProcessResult> answer;
 };
 
@@ -178,6 +182,73 @@ private Q_SLOTS:
         QCOMPARE(outcome.error().kind(), Kind::Failed);
         QCOMPARE(outcome.error().description(), description);
         QVERIFY(!system.argumentsOf(system.profile.promptProgram));
+    }
+
+    // Bridges, exit and hash are nobody else's to read; what the dialog is to show stays on it.
+    void optionsOfAConnectStandOnNoCommandLine()
+    {
+        const QStringList words = {QStringLiteral("connect"), QStringLiteral("--hash"), QStringLiteral("16:AB"),
+                                   QStringLiteral("--exit"), QString::fromUtf8("é")};
+        const QString input = QString::fromUtf8("--hash\n16:AB\n--exit\né\nend\n");
+        StandIns system(true);
+        system.dialog("cat");
+        system.helper("cat");
+        PrivilegedRunner runner = system.runner();
+        QCOMPARE(run(runner, words).value(), input);
+        QCOMPARE(system.argumentsOf(system.profile.promptProgram).value(),
+                 QStringList({system.helperPath(), QStringLiteral("connect"), QStringLiteral("-")}));
+        PrivilegedRunner root = system.runner(0);
+        QCOMPARE(run(root, words).value(), input);
+        QCOMPARE(system.argumentsOf(system.helperPath()).value(), QStringList({QStringLiteral("connect"), QStringLiteral("-")}));
+
+        QFile helper(system.helperPath());
+        QVERIFY(helper.open(QIODevice::ReadOnly));
+        system.installPasswordless(helper.readAll());
+        system.sudo("cat");
+        QCOMPARE(run(runner, words).value(), input);
+        QCOMPARE(system.argumentsOf(system.profile.sudo)->mid(2), QStringList({QStringLiteral("connect"), QStringLiteral("-")}));
+        system.installPasswordless("a copy of another version");
+        QVERIFY(run(runner, words));
+        QCOMPARE(system.argumentsOf(system.profile.sudo)->mid(2), words);
+
+        const QStringList launch = {QStringLiteral("launch"), QStringLiteral("--app"), QStringLiteral("/x")};
+        QVERIFY(QCoro::waitFor(runner.runWithPrompt(launch)));
+        QCOMPARE(system.argumentsOf(system.profile.promptProgram).value(), QStringList(system.helperPath()) + launch);
+    }
+
+    void whatTheRuleDoesNotCoverIsAskedFor_data()
+    {
+        QTest::addColumn<QString>("asked");
+        QTest::addColumn<QString>("verb");
+        QTest::newRow("connect") << QStringLiteral("connect") << QStringLiteral("replace");
+        QTest::newRow("launch") << QStringLiteral("launch") << QStringLiteral("launch");
+    }
+
+    void whatTheRuleDoesNotCoverIsAskedFor()
+    {
+        QFETCH(QString, asked);
+        QFETCH(QString, verb);
+        StandIns system(true);
+        system.installPasswordless();
+        system.helper("exit 0");
+        system.sudo("echo 'ERROR: An administrator password is needed.' >&2; exit 3");
+        system.dialog("echo prompted");
+        PrivilegedRunner runner = system.runner();
+        QCOMPARE(run(runner, {asked}).value(), QStringLiteral("prompted\n"));
+        QCOMPARE(system.argumentsOf(system.profile.promptProgram).value(), QStringList({system.helperPath(), verb}));
+    }
+
+    // The dialog of connect has not said that a session would be lessened.
+    void aDialogThatSaidTooLittleIsFollowedByOneThatSaysIt()
+    {
+        StandIns system(true);
+        system.helper("exit 0");
+        system.dialog("[ \"$2\" = replace ] && echo done && exit 0; echo 'ERROR: An administrator password is needed.' >&2; exit 3");
+        PrivilegedRunner runner = system.runner();
+        QCOMPARE(run(runner, {QStringLiteral("connect")}).value(), QStringLiteral("done\n"));
+        const Outcome refused = run(runner, {QStringLiteral("fix-dns")});
+        QCOMPARE(refused.error().kind(), Kind::Unapproved);
+        QCOMPARE(refused.error().description(), QStringLiteral("An administrator password is needed."));
     }
 
     void withoutTheRuleEveryRunPrompts()

@@ -1,0 +1,60 @@
+#include "system/ProgramApproval.h"
+
+#include "platform/PlatformProfile.h"
+#include "support/TestProgram.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace veldmark;
+
+class ProgramApprovalTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void namesAProgramOfTheUsersUntilItsCopyIsThere()
+    {
+        const QTemporaryDir folder;
+        const PlatformProfile profile = PlatformProfile::linux(Places::below(folder.path()));
+        const QString path = folder.filePath(u"home/user/obfs"_s);
+        write(path, "abc");
+        QVERIFY(QFile::link(path, folder.filePath(u"link"_s)));
+        const QStringList words = {u"connect"_s, u"--tor"_s, u"/nonexistent"_s, u"--pt-lyrebird"_s, folder.filePath(u"link"_s)};
+        const auto missing = ProgramApproval::missing(profile, words);
+        QCOMPARE(missing.size(), std::size_t(1));
+        const QString digest = u"ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad"_s;
+        QCOMPARE(missing.front().words(), QStringList({u"approve"_s, u"--program"_s, QFileInfo(path).canonicalFilePath(),
+                                                       u"--as"_s, u"lyrebird"_s, u"--sha256"_s, digest}));
+        write(profile.approvedPrograms + u'/' + digest + u"/tor"_s, "abc"); // in another role
+        QCOMPARE(ProgramApproval::missing(profile, words).size(), std::size_t(1));
+        write(profile.approvedPrograms + u'/' + digest + u"/lyrebird"_s, "abc");
+        QVERIFY(ProgramApproval::missing(profile, words).empty());
+    }
+
+    void asksForNoProgramOfTheSystems()
+    {
+        const PlatformProfile profile = PlatformProfile::linux(Places{});
+        if (!QFile::exists(u"/usr/bin/tor"_s) || !QFile::exists(u"/usr/bin/perl"_s))
+            QSKIP("needs tor and perl of the system");
+        const auto asked = [&profile](const QString &option, const QString &path) {
+            return !ProgramApproval::missing(profile, {u"connect"_s, option, path}).empty();
+        };
+        QVERIFY(!asked(u"--tor"_s, u"/usr/bin/tor"_s));
+        QVERIFY(asked(u"--tor"_s, u"/usr/bin/perl"_s));
+        QVERIFY(asked(u"--pt-lyrebird"_s, u"/usr/bin/perl"_s));
+        QVERIFY(asked(u"--pt-lyrebird"_s, u"/usr/bin/tor"_s));
+    }
+
+private:
+    static void write(const QString &path, const QByteArray &content)
+    {
+        QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    }
+};
+
+VELDMARK_TEST(ProgramApprovalTest)
+#include "ProgramApprovalTest.moc"
