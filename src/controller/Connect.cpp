@@ -9,6 +9,8 @@
 #include <QFileInfo>
 #include <QPointer>
 
+using namespace std::chrono_literals;
+
 namespace veldmark {
 
 namespace {
@@ -101,6 +103,7 @@ QCoro::Task<Result<QStringList, QString>> TorController::bridgeArguments(Attempt
 {
     const QPointer<TorController> self(this);
     const BridgeProbe probe = m_services.bridgeProbe;
+    const QString before = statusDetail();
     const BridgeTools tools{
         m_services.locateTransports,
         [self, attempt, probe](QString host, quint16 port, std::chrono::milliseconds limit) {
@@ -122,6 +125,11 @@ QCoro::Task<Result<QStringList, QString>> TorController::bridgeArguments(Attempt
         m_pendingBridgeLines.clear();
     else if (plan.lines)
         m_pendingBridgeLines = *plan.lines;
+    if (statusDetail() != before) { // whoever follows the attempt reads it before the next words take its place
+        co_await m_services.clock.sleep(0ms);
+        if (!self || !isCurrent(attempt))
+            co_return Failure(QString());
+    }
     co_return plan.arguments.map_error([](const BridgeError &error) { return error.description(); });
 }
 

@@ -104,7 +104,8 @@ start-*)
   ! running || exit 0
   [ ! -e "$unit.stuck" ] || { echo "Job for $unit failed." >&2; exit 1; }
   rm -f up
-  setsid "./$unit" </dev/null >/dev/null 2>&1 7>&- 8>&- 9>&- &
+  # As below systemd, not in the control group of whoever asks.
+  { printf '0\n' >/sys/fs/cgroup/cgroup.procs; exec setsid "./$unit"; } </dev/null >/dev/null 2>&1 7>&- 8>&- 9>&- &
   echo $! >"$unit.pid"
   until [ -e up ] || { [ -x "$unit.ready" ] && "./$unit.ready"; } || ! running; do sleep 0.01; done ;;
 restart-*) "$0" stop "$unit" && "$0" start "$unit" ;;

@@ -184,7 +184,8 @@ class Strict(Kill):
             if not state[1]:
                 self.assertEqual(state[0], "proxy")
                 self.assertTrue(self.machine.tor_pids(), "the kill switch opened before the new Tor ran")
-        self.assertGreater(self.every_point(self.connect, connect_words("0"), check, "switch_firewall proxy", BEFORE), 30)
+        self.assertGreater(self.every_point(self.connect, ["replace", *connect_words("0")[1:]], check, "switch_firewall proxy", BEFORE),
+                           30)
 
 
 class Proxy(Kill):

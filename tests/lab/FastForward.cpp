@@ -72,7 +72,8 @@ public:
     QCoro::Task<Result<ProcessResult, StartError>> runWithInput(QString executable, QStringList arguments, QByteArray input) override
     {
         QByteArrayList words = input.split('\n');
-        words[words.indexOf(QByteArray("--hash")) + 1] = TorPassword::hashOf("another", "salty___").toLatin1();
+        if (const auto place = words.indexOf(QByteArray("--hash")); place >= 0)
+            words[place + 1] = TorPassword::hashOf("another", "salty___").toLatin1();
         return m_runner.runWithInput(executable, arguments, words.join('\n'));
     }
 
@@ -163,7 +164,8 @@ int main(int argc, char **argv)
     SettingsStore settings(profile);
     ChildProcessRunner processes;
     WrongHash wrongHash;
-    PrivilegedRunner privileged(profile, processes);
+    ProcessRunner &runner = wrongPassword ? static_cast<ProcessRunner &>(wrongHash) : processes;
+    PrivilegedRunner privileged(profile, runner);
     ControlPort controlPort(systemClock);
     ExitCheckProbe probe(systemClock);
     LinuxResolverSource resolvers(systemClock, profile.resolverFile);
@@ -175,7 +177,7 @@ int main(int argc, char **argv)
         .profile = profile,
         .settings = settings,
         .clock = clock,
-        .processes = wrongPassword ? static_cast<ProcessRunner &>(wrongHash) : processes,
+        .processes = runner,
         .privileged = privileged,
         .controlPort = controlPort,
         .probe = probe,

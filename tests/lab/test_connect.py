@@ -284,12 +284,12 @@ class WhenThingsGoWrong(LabCase):
         self.lab.host.write("/usr/local/broken/tor",
                             "#!/bin/sh\ncase \" $* \" in *hash-password*) exec /usr/bin/tor \"$@\";; esac\n"
                             "echo '[err] The clock says it is yesterday.'; exit 1\n", mode=0o755)
-        self.addCleanup(self.lab.host.run, ["rm", "-f", "/usr/local/broken/tor"])
+        self.addCleanup(self.lab.host.run, ["rm", "-rf", "/usr/local/broken"])
         self.set("customTorPath", "/usr/local/broken/tor")
         with self.product.session() as session:
             self.assertEqual(session.process.wait(30), 1)
         self.assertIn("The clock says it is yesterday.", session.output)
-        self.lab.host.run(["rm", "-f", "/usr/local/broken/tor"])
+        self.lab.host.run(["rm", "-rf", "/usr/local/broken"])
         self.assert_restored()
 
 
@@ -364,7 +364,8 @@ class UnderTheLeakChecker(LabCase):
         self.assert_restored()
 
     def test_while_it_bootstraps(self):
-        with self.product.session() as session:
+        self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/tor/data"], check=True)
+        with self.lab.netem(loss=1.0), self.product.session() as session:
             session.wait(lambda s: s["phase"] == "connecting" and s["bootstrapProgress"] > 0)
             self.end(session)
         self.assert_restored()

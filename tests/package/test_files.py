@@ -179,7 +179,7 @@ class Metadata(InAHome):
     def test_the_policy_has_an_action_for_each_verb_of_the_helper_and_keeps_no_approval(self):
         policy = PACKAGING / "org.veldmark.helper.policy"
         helper = (PROGRAMS / "veldmark-helper.sh").read_text()
-        cases = helper.split("\nmain() {\n")[-1].split("  case $verb in\n")[1].split("  esac\n")[0]
+        cases = helper.split("\nmain() {\n")[-1].split("  case $VERB in\n")[1].split("  esac\n")[0]
         verbs = {verb for line in re.findall(r"(?m)^  ([a-z| -]+)\)", cases) for verb in line.split(" | ")}
         self.assertLessEqual({"connect", "disconnect", "launch", "install-privileged"}, verbs)
         actions = {action.get("id"): {note.get("key").rpartition(".")[2]: note.text for note in action.iter("annotate")}

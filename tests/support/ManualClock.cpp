@@ -1,6 +1,7 @@
 #include "support/ManualClock.h"
 
 #include <QCoreApplication>
+#include <QTimer>
 
 namespace veldmark {
 
@@ -27,6 +28,8 @@ QCoro::Task<void> ManualClock::sleep(std::chrono::milliseconds duration)
     m_totalSlept += duration;
     const ResumeOnce<std::monostate> elapsed;
     m_sleepers.emplace(m_now + duration, elapsed);
+    if (duration.count() <= 0) // a turn of the event loop, for which nobody moves the clock
+        QTimer::singleShot(0, qApp, [elapsed] { elapsed.complete({}); });
     co_await elapsed;
 }
 
