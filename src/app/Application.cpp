@@ -45,7 +45,7 @@ void Application::joinDeparture()
     qApp->installEventFilter(this);
     QObject::connect(&m_shutdown, &ShutdownNotice::shuttingDown, &m_departure, &Departure::restore);
     QObject::connect(&m_departure, &Departure::settled, &m_shutdown, [this] { m_shutdown.setDelaying(false); });
-    QObject::connect(&m_production.controller(), &TorController::phaseChanged, &m_shutdown, [this] {
+    QObject::connect(&m_production.controller().phase, &Field::changed, &m_shutdown, [this] {
         m_shutdown.setDelaying(m_production.controller().phase() != ConnectionPhase::disconnected);
     });
 }

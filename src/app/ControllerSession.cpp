@@ -57,28 +57,15 @@ ControllerSession::ControllerSession(TorController &controller, SettingsStore &s
     , m_applications(applications)
     , m_examiner(controller.profile(), settings, m_processes)
 {
-    using C = TorController;
-    for (const auto changed :
-         {&C::strictModeChanged, &C::allowLocalNetworkChanged, &C::exitCountryChanged,
-          &C::customTorPathChanged, &C::bridgeChoiceChanged, &C::customBridgesChanged,
-          &C::bypassAppsChanged, &C::autoConnectChanged, &C::optimizeSpeedChanged,
-          &C::terminalModeChanged, &C::phaseChanged, &C::activeModeChanged, &C::activeBridgeChanged,
-          &C::otherSessionChanged, &C::bootstrapProgressChanged, &C::statusDetailChanged,
-          &C::bootstrapProblemChanged, &C::canCancelChanged,
-          &C::errorMessageChanged, &C::bytesReadChanged, &C::bytesWrittenChanged, &C::killSwitchChanged, &C::exitIPChanged,
-          &C::torVerifiedChanged, &C::leakStatusChanged, &C::dnsStatusChanged, &C::isCheckingChanged,
-          &C::latencyMsChanged, &C::optimizeStatusChanged, &C::isOptimizingChanged,
-          &C::circuitsChanged, &C::circuitErrorChanged, &C::transportsChanged,
-          &C::transportDownloadChanged, &C::passwordlessInstalledChanged, &C::startupErrorChanged,
-          &C::terminalErrorChanged})
-        QObject::connect(&controller, changed, this, &ControllerSession::schedule);
+    for (const Field *field : controller.fields())
+        QObject::connect(field, &Field::changed, this, &ControllerSession::schedule);
     // The exit's country is known from the circuits, also while no window shows them.
-    QObject::connect(&controller, &C::exitIPChanged, this, [this] {
+    QObject::connect(&controller.exitIP, &Field::changed, this, [this] {
         if (m_controller.exitIP())
             refreshCircuits();
     });
-    for (const auto changed : {&C::terminalModeChanged, &C::terminalErrorChanged, &C::phaseChanged})
-        QObject::connect(&controller, changed, this, [this] { m_terminalIsKnown = false; });
+    for (const Field *field : std::initializer_list<const Field *>{&controller.terminalMode, &controller.terminalError, &controller.phase})
+        QObject::connect(field, &Field::changed, this, [this] { m_terminalIsKnown = false; });
     read();
 }
 
@@ -197,8 +184,7 @@ void ControllerSession::store(const Choices &choices)
     keep(c.bypassApps, choices.bypassApps);
     keep(c.autoConnect, choices.autoConnect);
     keep(c.optimizeSpeed, choices.optimizeSpeed);
-    if (c.terminalMode() != choices.terminalMode)
-        c.setTerminalMode(choices.terminalMode);
+    keep(c.terminalMode, choices.terminalMode);
     schedule();
 }
 

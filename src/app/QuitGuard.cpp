@@ -68,7 +68,7 @@ QCoro::Task<void> QuitGuard::disconnectAndQuit()
     if (m_controller.phase() == ConnectionPhase::disconnecting) { // somebody has begun it already
         const ResumeOnce<bool> ended;
         m_disconnectEnded = ended;
-        const auto heard = QObject::connect(&m_controller, &TorController::phaseChanged, this,
+        const auto heard = QObject::connect(&m_controller.phase, &Field::changed, this,
                                             [ended] { ended.complete(true); });
         co_await ended;
         if (!self)

@@ -1,48 +1,10 @@
 #include "cli/Arguments.h"
 
-#include <QHash>
+#include <algorithm>
 
 namespace veldmark {
 
 namespace {
-
-using Verb = Invocation::Verb;
-
-struct VerbRule {
-    Verb verb;
-    int operands = 0; // KEY, VALUE, ID, or APP
-    QStringList options = {};
-};
-
-const QHash<QString, VerbRule> &rules()
-{
-    static const QString json = QStringLiteral("--json");
-    static const QHash<QString, VerbRule> table = {
-        {QStringLiteral("run"), {Verb::run, 0, {QStringLiteral("--connect")}}},
-        {QStringLiteral("status"), {Verb::status, 0, {json, QStringLiteral("--watch")}}},
-        {QStringLiteral("connect"), {Verb::connect}},
-        {QStringLiteral("disconnect"), {Verb::disconnect}},
-        {QStringLiteral("restore"), {Verb::restore}},
-        {QStringLiteral("check"), {Verb::check}},
-        {QStringLiteral("fix-dns"), {Verb::fixDNS}},
-        {QStringLiteral("close-circuit"), {Verb::closeCircuit, 1}},
-        {QStringLiteral("circuits"), {Verb::circuits, 0, {json}}},
-        {QStringLiteral("new-identity"), {Verb::newIdentity}},
-        {QStringLiteral("log"), {Verb::log, 0, {QStringLiteral("--follow"), QStringLiteral("--problems")}}},
-        {QStringLiteral("bridges"), {Verb::bridges, 0, {json}}},
-        {QStringLiteral("download-transports"), {Verb::downloadTransports}},
-        {QStringLiteral("apps"), {Verb::apps, 0, {json}}},
-        {QStringLiteral("launch"), {Verb::launch, 1}},
-        {QStringLiteral("doctor"), {Verb::doctor, 0, {json}}},
-        {QStringLiteral("get"), {Verb::get, 1}},
-        {QStringLiteral("set"), {Verb::set, 2}},
-        {QStringLiteral("help"), {Verb::help}},
-        {QStringLiteral("--help"), {Verb::help}},
-        {QStringLiteral("-h"), {Verb::help}},
-        {QStringLiteral("--version"), {Verb::version}},
-    };
-    return table;
-}
 
 // What a user typed, fit for one line of a message.
 QString quoted(const QString &text)
@@ -55,25 +17,47 @@ QString quoted(const QString &text)
     return u'"' + shown + u'"';
 }
 
+QString missing(const Verb &verb)
+{
+    if (!verb.missing.isEmpty())
+        return verb.missing;
+    return verb.operands.size() == 1 ? QStringLiteral("%1 needs a key: veldmarkctl %1 KEY.").arg(verb.name)
+                                     : QStringLiteral("%1 needs a key and a value: veldmarkctl %1 KEY VALUE.").arg(verb.name);
+}
+
+// A line of the usage text, or more.
+QString usageOf(const Verb &verb)
+{
+    constexpr int column = 28;
+    QString line = QStringLiteral("  ") + verb.name;
+    for (const QString &operand : verb.operands)
+        line += u' ' + operand;
+    for (const Verb::Option &option : verb.options)
+        line += QStringLiteral(" [%1]").arg(option.name);
+    const QString margin(column, u' ');
+    line = line.size() < column ? line.leftJustified(column) : line + u'\n' + margin;
+    return line + QString(verb.help).replace(u'\n', u'\n' + margin) + u'\n';
+}
+
 } // namespace
 
 Result<Invocation, QString> parseArguments(const QStringList &arguments)
 {
     if (arguments.isEmpty())
         return Failure(QStringLiteral("What should I do? \"veldmarkctl help\" lists the commands."));
-    const auto rule = rules().constFind(arguments.first());
-    if (rule == rules().constEnd())
+    const Verb *const verb = verbTyped(arguments.first());
+    if (!verb)
         return Failure(QStringLiteral("Unknown command %1. \"veldmarkctl help\" lists the commands.")
                            .arg(quoted(arguments.first())));
 
     Invocation invocation;
-    invocation.verb = rule->verb;
+    invocation.verb = verb->id;
     QStringList operands;
     bool optionsEnded = false;
     for (const QString &argument : arguments.mid(1)) {
         // A value may begin with a dash; a key does not.
         const bool isOption = !optionsEnded && argument.startsWith(QLatin1String("--"))
-            && !(rule->verb == Verb::set && operands.size() == 1);
+            && !(verb->id == Verb::Id::set && operands.size() == 1);
         if (!isOption) {
             operands << argument;
             continue;
@@ -82,7 +66,7 @@ Result<Invocation, QString> parseArguments(const QStringList &arguments)
             optionsEnded = true;
             continue;
         }
-        if (!rule->options.contains(argument))
+        if (std::none_of(verb->options.begin(), verb->options.end(), [&argument](const Verb::Option &option) { return option.name == argument; }))
             return Failure(QStringLiteral("%1 has no option %2.").arg(arguments.first(), quoted(argument)));
         invocation.connectNow |= argument == QLatin1String("--connect");
         invocation.json |= argument == QLatin1String("--json");
@@ -90,18 +74,11 @@ Result<Invocation, QString> parseArguments(const QStringList &arguments)
         invocation.follow |= argument == QLatin1String("--follow");
         invocation.problems |= argument == QLatin1String("--problems");
     }
-    if (operands.size() < rule->operands && rule->verb == Verb::closeCircuit)
-        return Failure(QStringLiteral("close-circuit needs a circuit's number; \"veldmarkctl circuits\" shows them."));
-    if (operands.size() < rule->operands && rule->verb == Verb::launch)
-        return Failure(QStringLiteral("launch needs an application; \"veldmarkctl apps\" lists them."));
-    if (operands.size() < rule->operands)
-        return Failure(rule->operands == 1
-                           ? QStringLiteral("%1 needs a key: veldmarkctl %1 KEY.").arg(arguments.first())
-                           : QStringLiteral("%1 needs a key and a value: veldmarkctl %1 KEY VALUE.")
-                                 .arg(arguments.first()));
-    if (operands.size() > rule->operands)
+    if (operands.size() < verb->operands.size() && verb->id != Verb::Id::complete)
+        return Failure(missing(*verb));
+    if (operands.size() > verb->operands.size())
         return Failure(QStringLiteral("%1 doesn't take %2.")
-                           .arg(arguments.first(), quoted(operands.at(rule->operands))));
+                           .arg(arguments.first(), quoted(operands.at(verb->operands.size()))));
     invocation.key = operands.value(0);
     invocation.value = operands.value(1);
     return invocation;
@@ -109,35 +86,13 @@ Result<Invocation, QString> parseArguments(const QStringList &arguments)
 
 QString usageText()
 {
-    return QStringLiteral(
-        "usage: veldmarkctl COMMAND\n"
-        "\n"
-        "  run [--connect]           run Veldmark here, in the foreground; Ctrl-C disconnects\n"
-        "  status [--json] [--watch] how things stand; --watch goes on until Ctrl-C\n"
-        "  connect                   connect the running instance to Tor\n"
-        "  disconnect                restore the network and stop Tor\n"
-        "  restore                   the same, also for what a crash left behind\n"
-        "  check                     check the exit address, the direct path and DNS now\n"
-        "  fix-dns                   point the system's DNS settings at Tor again\n"
-        "  circuits [--json]         Tor's circuits and the sites on them\n"
-        "  close-circuit ID          close one; its sites get a fresh path on their next request\n"
-        "  new-identity              new circuits for everything\n"
-        "  log [--follow] [--problems]\n"
-        "                            Tor's log; --problems shows warnings and errors only\n"
-        "  bridges [--json]          the transport programs and built-in bridges that were found, and\n"
-        "                            which of your own bridge lines are not valid\n"
-        "  download-transports       fetch the Tor Project's transport programs and built-in bridges\n"
-        "  apps [--json]             the installed applications; * marks those in the setting \"bypassApps\"\n"
-        "  launch APP                open an application without Tor, with your own address; needs strict mode.\n"
-        "                            APP is a name from \"apps\", the file name of its desktop entry, or the path\n"
-        "                            of an entry or a program. Running copies are asked to quit first\n"
-        "  doctor [--json]           look at this computer: what a connect needs, what is in its way, and what\n"
-        "                            mends it. Changes nothing; ends with 0 when a connect can work\n"
-        "  get KEY                   print a field of \"status --json\"\n"
-        "  set KEY VALUE             change a setting; most of them only while not connected\n"
-        "\n"
-        "Exit status: 0 done, 1 failed (the reason is on standard error), 2 wrong usage,\n"
-        "3 Veldmark is not running, 4 Veldmark is already running.\n");
+    QString text = QStringLiteral("usage: veldmarkctl COMMAND\n\n");
+    for (const Verb &verb : verbs()) {
+        if (!verb.help.isEmpty())
+            text += usageOf(verb);
+    }
+    return text + QStringLiteral("\nExit status: 0 done, 1 failed (the reason is on standard error), 2 wrong usage,\n"
+                                 "3 Veldmark is not running, 4 Veldmark is already running.\n");
 }
 
 } // namespace veldmark

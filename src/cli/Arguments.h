@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "instance/Verbs.h"
 
 #include <QString>
 #include <QStringList>
@@ -9,19 +10,14 @@ namespace veldmark {
 
 // What one call of veldmarkctl asks for.
 struct Invocation {
-    enum class Verb {
-        run, status, connect, disconnect, restore, check, fixDNS, circuits, closeCircuit, newIdentity,
-        log, get, set, bridges, downloadTransports, apps, launch, doctor,
-        help, version,
-    };
-    Verb verb = Verb::help;
+    Verb::Id verb = Verb::Id::help;
     bool connectNow = false; // run --connect
     bool json = false;       // status, circuits, bridges, apps, doctor
     bool watch = false;      // status
     bool follow = false;     // log
     bool problems = false;   // log
-    QString key;             // get, set; close-circuit's id; launch's application
-    QString value;           // set
+    QString key;             // the first operand: get, set; close-circuit's id; launch's application
+    QString value;           // the second: set
 };
 
 // What the process ends with.

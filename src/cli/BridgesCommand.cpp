@@ -178,7 +178,7 @@ QCoro::Task<ExitStatus> downloadTransportsHere(PlatformProfile profile)
     QObject::connect(&signalWatcher, &SignalWatcher::received, &controller,
                      [raw = production.get()] { raw->downloader().cancel(); });
     const auto line = std::make_shared<ProgressLine>(Console::isTerminal(), Console::width());
-    QObject::connect(&controller, &TorController::transportDownloadChanged, &controller, [&controller, line] {
+    QObject::connect(&controller.transportDownload, &Field::changed, &controller, [&controller, line] {
         if (!controller.canDownloadTransports()) // the last word is not progress
             Console::draw(line->update(controller.transportDownload().value_or(QString())));
     });

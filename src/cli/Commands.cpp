@@ -21,8 +21,6 @@ namespace veldmark {
 
 namespace {
 
-using Verb = Invocation::Verb;
-
 const QString notRunning = QStringLiteral(
     "Veldmark isn't running. Start it with: veldmarkctl run --connect");
 
@@ -35,55 +33,23 @@ QString compact(const QJsonValue &value)
 
 QJsonObject request(const Invocation &invocation)
 {
-    const auto command = [](const char *name) {
-        return QJsonObject{{QStringLiteral("command"), QLatin1String(name)}};
-    };
-    switch (invocation.verb) {
-    case Verb::connect:
-        return command("connect");
-    case Verb::disconnect:
-    case Verb::restore:
-        return command("disconnect");
-    case Verb::check:
-        return command("check");
-    case Verb::fixDNS:
-        return command("fix-dns");
-    case Verb::circuits:
-        return command("circuits");
-    case Verb::closeCircuit: {
-        QJsonObject close = command("close-circuit");
-        close.insert(QStringLiteral("id"), invocation.key);
-        return close;
-    }
-    case Verb::launch: {
-        QJsonObject launch = command("launch");
-        launch.insert(QStringLiteral("app"), invocation.key);
-        return launch;
-    }
-    case Verb::newIdentity:
-        return command("new-identity");
-    case Verb::downloadTransports:
-        return command("download-transports");
-    case Verb::set: {
-        QJsonObject set = command("set");
-        set.insert(QStringLiteral("key"), invocation.key);
-        set.insert(QStringLiteral("value"), invocation.value);
-        return set;
-    }
-    default:
-        return command(invocation.watch ? "watch" : "status");
-    }
+    const Verb &asked = verbOf(invocation.watch ? Verb::Id::watch : invocation.verb);
+    QJsonObject request{{QStringLiteral("command"), asked.requested()}};
+    QStringList given = {invocation.key, invocation.value};
+    for (const QString &operand : asked.operands)
+        request.insert(operand.toLower(), given.takeFirst());
+    return request;
 }
 
 // Prints one state the way the command wants it. False when it cannot: an unknown key.
 bool show(const Invocation &invocation, const QJsonObject &state)
 {
     switch (invocation.verb) {
-    case Verb::circuits:
+    case Verb::Id::circuits:
         Console::print(invocation.json ? compact(state.value(QStringLiteral("circuits")))
                                        : Report::circuits(state));
         return true;
-    case Verb::get: {
+    case Verb::Id::get: {
         const QJsonValue value = state.value(invocation.key);
         if (value.isUndefined()) {
             Console::printError(QStringLiteral("There is no field \"%1\". Fields: %2.")
@@ -101,13 +67,13 @@ bool show(const Invocation &invocation, const QJsonObject &state)
 
 bool showsEveryState(const Invocation &invocation)
 {
-    return invocation.verb == Verb::status && invocation.watch;
+    return invocation.verb == Verb::Id::status && invocation.watch;
 }
 
 bool showsLastState(const Invocation &invocation)
 {
-    return invocation.verb != Verb::set && invocation.verb != Verb::newIdentity
-        && invocation.verb != Verb::closeCircuit && invocation.verb != Verb::launch && invocation.verb != Verb::downloadTransports;
+    return invocation.verb != Verb::Id::set && invocation.verb != Verb::Id::newIdentity
+        && invocation.verb != Verb::Id::closeCircuit && invocation.verb != Verb::Id::launch && invocation.verb != Verb::Id::downloadTransports;
 }
 
 void showConnecting(const QJsonObject &state, ProgressLine &progress, QString &shownProblem)
@@ -130,10 +96,10 @@ QCoro::Task<ExitStatus> askInstance(Invocation invocation, std::shared_ptr<Insta
         *last = state;
         if (showsEveryState(invocation))
             show(invocation, state);
-        else if (invocation.verb == Verb::connect
+        else if (invocation.verb == Verb::Id::connect
                  && state.value(QStringLiteral("phase")) == QLatin1String("connecting"))
             showConnecting(state, *progress, *problem);
-        else if (invocation.verb == Verb::downloadTransports)
+        else if (invocation.verb == Verb::Id::downloadTransports)
             Console::draw(progress->update(state.value(QStringLiteral("transportDownload")).toString()));
     };
     auto running = instance->run(request(invocation), onState);
@@ -159,7 +125,7 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
     TorController &controller = production->controller();
     if (const auto problem = production->settings().problem())
         Console::printError(*problem);
-    if (invocation.verb == Verb::set) {
+    if (invocation.verb == Verb::Id::set) {
         const auto set = setSetting(controller, invocation.key, invocation.value);
         if (!set) {
             Console::printError(set.error().description());
@@ -169,7 +135,7 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
             Console::printError(*problem);
             co_return ExitStatus::failed;
         }
-        if (invocation.key == controller.terminalMode.key() && controller.terminalMode()) {
+        if (invocation.key == controller.terminalMode.name() && controller.terminalMode()) {
             const QString hint = co_await controller.terminalHint();
             Console::draw(noteLine(controller.terminalError().value_or(hint)));
         }
@@ -177,7 +143,7 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
     }
 
     controller.detectStaleState();
-    if (invocation.verb == Verb::disconnect || invocation.verb == Verb::restore) {
+    if (invocation.verb == Verb::Id::disconnect || invocation.verb == Verb::Id::restore) {
         const auto lock = lockInstance(controller.profile()); // nobody starts meanwhile
         if (!lock) {
             Console::printError(lock.error());
@@ -190,7 +156,7 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
                 co_return ExitStatus::failed;
             }
         }
-    } else if (invocation.verb == Verb::status || invocation.verb == Verb::get) {
+    } else if (invocation.verb == Verb::Id::status || invocation.verb == Verb::Id::get) {
         co_await controller.locateTransports();
     }
     co_return show(invocation, publishedState(controller)) ? ExitStatus::done : ExitStatus::usage;
@@ -218,15 +184,15 @@ QCoro::Task<ExitStatus> refuse(QString reason = notRunning, ExitStatus status = 
 
 QCoro::Task<ExitStatus> execute(Invocation invocation, PlatformProfile profile)
 {
-    if (invocation.verb == Verb::log)
+    if (invocation.verb == Verb::Id::log)
         return showLog(invocation, profile);
-    if (invocation.verb == Verb::bridges)
+    if (invocation.verb == Verb::Id::bridges)
         return showBridges(invocation, profile);
-    if (invocation.verb == Verb::doctor)
+    if (invocation.verb == Verb::Id::doctor)
         return showDoctor(invocation, profile);
-    if (invocation.verb == Verb::apps)
+    if (invocation.verb == Verb::Id::apps)
         return showApplications(invocation, profile);
-    if (invocation.verb == Verb::launch) {
+    if (invocation.verb == Verb::Id::launch) {
         const auto path = applicationPath(invocation.key);
         if (!path)
             return refuse(path.error(), ExitStatus::usage);
@@ -235,17 +201,17 @@ QCoro::Task<ExitStatus> execute(Invocation invocation, PlatformProfile profile)
     if (const auto instance = InstanceClient::connectTo(profile))
         return askInstance(invocation, instance);
     switch (invocation.verb) {
-    case Verb::status:
-    case Verb::get:
-    case Verb::set:
-    case Verb::disconnect:
-    case Verb::restore:
+    case Verb::Id::status:
+    case Verb::Id::get:
+    case Verb::Id::set:
+    case Verb::Id::disconnect:
+    case Verb::Id::restore:
         if (!invocation.watch)
             return doHere(invocation, std::make_shared<Production>(profile));
         return refuse();
-    case Verb::downloadTransports:
+    case Verb::Id::downloadTransports:
         return downloadTransportsHere(profile);
-    case Verb::launch:
+    case Verb::Id::launch:
         return geteuid() == 0 ? launchHere(invocation.key, std::make_shared<Production>(profile)) : refuse();
     default:
         return refuse();

@@ -19,18 +19,18 @@ RunCommand::RunCommand(const PlatformProfile &profile, bool connectNow)
     , m_progress(Console::isTerminal(), Console::width())
 {
     QObject::connect(&m_signals, &SignalWatcher::received, this, &RunCommand::onSignal);
-    for (const auto changed : {&TorController::bootstrapProgressChanged, &TorController::statusDetailChanged})
-        QObject::connect(&m_controller, changed, this, &RunCommand::showProgress, Qt::QueuedConnection);
-    QObject::connect(&m_controller, &TorController::bootstrapProblemChanged, this, &RunCommand::showProblem,
+    for (const Field *field : std::initializer_list<const Field *>{&m_controller.bootstrapProgress, &m_controller.statusDetail})
+        QObject::connect(field, &Field::changed, this, &RunCommand::showProgress, Qt::QueuedConnection);
+    QObject::connect(&m_controller.bootstrapProblem, &Field::changed, this, &RunCommand::showProblem,
                      Qt::QueuedConnection);
     // Queued, like all of these: what is shown has been set as a whole.
-    QObject::connect(&m_controller, &TorController::phaseChanged, this, &RunCommand::showPhase,
+    QObject::connect(&m_controller.phase, &Field::changed, this, &RunCommand::showPhase,
                      Qt::QueuedConnection);
-    QObject::connect(&m_controller, &TorController::isCheckingChanged, this, &RunCommand::showPhase,
+    QObject::connect(&m_controller.isChecking, &Field::changed, this, &RunCommand::showPhase,
                      Qt::QueuedConnection);
-    QObject::connect(&m_controller, &TorController::killSwitchChanged, this, &RunCommand::showKillSwitch,
+    QObject::connect(&m_controller.killSwitch, &Field::changed, this, &RunCommand::showKillSwitch,
                      Qt::QueuedConnection);
-    QObject::connect(&m_controller, &TorController::phaseChanged, this, [this] {
+    QObject::connect(&m_controller.phase, &Field::changed, this, [this] {
         m_restored |= m_controller.phase() == ConnectionPhase::disconnecting;
     });
     QObject::connect(&m_withdrawal, &Withdrawal::finished, this, &RunCommand::onWithdrawn);

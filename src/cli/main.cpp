@@ -1,6 +1,7 @@
 #include "base/PrivateMemory.h"
 #include "base/Resumption.h"
 #include "cli/Commands.h"
+#include "cli/CompleteCommand.h"
 #include "cli/Console.h"
 #include "cli/RunCommand.h"
 #include "platform/PlatformProfile.h"
@@ -32,19 +33,22 @@ int main(int argc, char **argv)
         Console::printError(invocation.error());
         return static_cast<int>(ExitStatus::usage);
     }
-    if (invocation->verb == Invocation::Verb::help) {
+    if (invocation->verb == Verb::Id::help) {
         Console::draw(usageText());
         return 0;
     }
-    if (invocation->verb == Invocation::Verb::version) {
+    if (invocation->verb == Verb::Id::version) {
         Console::print(QStringLiteral("veldmarkctl ") + application.applicationVersion());
         return 0;
     }
 
+    if (invocation->verb == Verb::Id::complete)
+        return static_cast<int>(showCompletions(*invocation, PlatformProfile::current(Places::fromEnvironment())));
+
     const LastTurn lastTurn; // what still waits when the program ends goes after everything else
     const PlatformProfile profile = PlatformProfile::current(Places::fromEnvironment());
     std::unique_ptr<RunCommand> run;
-    if (invocation->verb == Invocation::Verb::run) {
+    if (invocation->verb == Verb::Id::run) {
         run = std::make_unique<RunCommand>(profile, invocation->connectNow);
         QObject::connect(run.get(), &RunCommand::finished, &application,
                          [](ExitStatus status) { QCoreApplication::exit(static_cast<int>(status)); },

@@ -13,14 +13,12 @@ class TorController;
 // The controller's fields as other programs see them: `veldmarkctl status --json`, the local
 // socket, scripts.
 
-// Every published field under its field name, in the order of the header. An enumeration is its
-// case name as a string; a case with a payload an object with that one key ({"exposed":
-// "203.0.113.7"}, {"leak": ["…"]}); an absent optional is null. And the verdict: "title", "menuBarSymbol",
-// "level", and "statusDetail" as far as a known danger is not said instead; "killSwitchSince" goes with "killSwitch".
+// Every published field under its name. And the verdict: "title", "menuBarSymbol", "level", and "statusDetail" as far
+// as a known danger is not said instead; "killSwitchSince" goes with "killSwitch".
 QJsonObject publishedState(const TorController &controller);
 
 // The fields that a user may set, by name.
-QStringList settingNames();
+QStringList settingNames(const TorController &controller);
 
 // Why setSetting() is not content.
 class SettingError {
@@ -39,8 +37,7 @@ private:
     QString m_description;
 };
 
-// Sets the setting `name` from its text: "true"/"false" (also on/off, yes/no, 1/0) for switches,
-// a JSON array of strings for lists, the raw value for choices.
+// Sets the setting `name` from the user's words, as parse() in FieldValue.h knows them.
 Result<void, SettingError> setSetting(TorController &controller, const QString &name, const QString &text);
 
 } // namespace veldmark

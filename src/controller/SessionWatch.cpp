@@ -19,10 +19,10 @@ SessionWatch::SessionWatch(TorController &controller) : m_controller(controller)
 {
     QObject::connect(&m_folders, &QFileSystemWatcher::directoryChanged, this, &SessionWatch::look,
                      Qt::QueuedConnection);
-    QObject::connect(&controller, &TorController::otherSessionChanged, this, &SessionWatch::watchOwner,
+    QObject::connect(&controller.otherSession, &Field::changed, this, &SessionWatch::watchOwner,
                      Qt::QueuedConnection);
     // What this one takes for the end of its own session may have been another's beginning.
-    QObject::connect(&controller, &TorController::phaseChanged, this, &SessionWatch::look, Qt::QueuedConnection);
+    QObject::connect(&controller.phase, &Field::changed, this, &SessionWatch::look, Qt::QueuedConnection);
     watchFolder();
     watchOwner();
 }

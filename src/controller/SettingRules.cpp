@@ -16,7 +16,7 @@ auto refusal(const QString &description)
 template <typename T>
 Result<void, SettingError> store(const TorController &controller, Setting<T> &setting, const T &value)
 {
-    if (const auto locked = lock(controller, setting.key()); locked && setting() != value)
+    if (const auto locked = lock(controller, setting); locked && setting() != value)
         return refusal(*locked);
     if (const auto problem = setting.set(value))
         return Failure(SettingError(SettingError::Kind::NotDone, *problem));
@@ -25,27 +25,11 @@ Result<void, SettingError> store(const TorController &controller, Setting<T> &se
 
 } // namespace
 
-QString shown(const QString &text)
+std::optional<QString> lock(const TorController &controller, const Field &setting)
 {
-    constexpr qsizetype limit = 60;
-    const QString line = text.simplified();
-    return line.size() <= limit ? line : line.left(limit - 1) + u'…';
-}
-
-bool isOfConnection(const QString &name)
-{
-    static const QStringList names = {QStringLiteral("strictMode"),    QStringLiteral("allowLocalNetwork"),
-                                      QStringLiteral("exitCountry"),   QStringLiteral("customTorPath"),
-                                      QStringLiteral("bridgeChoice"),  QStringLiteral("customBridges"),
-                                      QStringLiteral("optimizeSpeed")};
-    return names.contains(name);
-}
-
-std::optional<QString> lock(const TorController &controller, const QString &name)
-{
-    if (!controller.optionsLocked() || !isOfConnection(name))
+    if (!controller.optionsLocked() || !setting.setting()->isOfConnection)
         return std::nullopt;
-    return QStringLiteral("\"%1\" holds for the whole connection. Disconnect to change it.").arg(name);
+    return QStringLiteral("\"%1\" holds for the whole connection. Disconnect to change it.").arg(setting.name());
 }
 
 std::optional<QString> torPathProblem(const QString &path)
@@ -53,11 +37,17 @@ std::optional<QString> torPathProblem(const QString &path)
     const QString place = path.trimmed();
     if (place.isEmpty() || place.startsWith(u'/'))
         return std::nullopt;
-    return QStringLiteral("\"%1\" is no place for Tor: give the whole path, such as /usr/bin/tor.").arg(shown(place));
+    return QStringLiteral("\"%1\" is no place for Tor: give the whole path, such as /usr/bin/tor.").arg(inOneLine(place));
 }
 
 Result<void, SettingError> change(TorController &controller, Setting<bool> &setting, bool value)
 {
+    if (&setting == &controller.terminalMode) {
+        const auto problem = controller.setTerminalMode(value);
+        if (const auto told = problem ? problem : controller.terminalError())
+            return Failure(SettingError(SettingError::Kind::NotDone, *told));
+        return {};
+    }
     return store(controller, setting, value);
 }
 
@@ -68,10 +58,10 @@ Result<void, SettingError> change(TorController &controller, Setting<BridgeChoic
 
 Result<void, SettingError> change(TorController &controller, Setting<QString> &setting, const QString &value)
 {
-    if (setting.key() == controller.exitCountry.key() && !ExitCountry::isValid(value))
+    if (&setting == &controller.exitCountry && !ExitCountry::isValid(value))
         return refusal(QStringLiteral("\"%1\" is no exit country: two lower-case letters such as \"de\", or nothing "
-                                      "for any.").arg(shown(value)));
-    if (setting.key() == controller.customTorPath.key()) {
+                                      "for any.").arg(inOneLine(value)));
+    if (&setting == &controller.customTorPath) {
         if (const auto problem = torPathProblem(value))
             return refusal(*problem);
     }
@@ -85,7 +75,7 @@ Result<void, SettingError> change(TorController &controller, Setting<QStringList
     });
     if (odd != value.end())
         return refusal(QStringLiteral("\"%1\" is no application: an absolute path that ends in \"%2\".")
-                           .arg(shown(*odd), controller.profile().applicationSuffix));
+                           .arg(inOneLine(*odd), controller.profile().applicationSuffix));
     return store(controller, setting, controller.sortedByName(value));
 }
 

@@ -7,15 +7,10 @@
 // the local socket. What a connection is made with holds until it ends. Main thread.
 namespace veldmark::SettingRules {
 
-// Whether the setting is one of those that a connection is made with.
-bool isOfConnection(const QString &name);
 // Why the setting cannot be changed now, a sentence; absent: it can be.
-std::optional<QString> lock(const TorController &controller, const QString &name);
+std::optional<QString> lock(const TorController &controller, const Field &setting);
 // Why the text is no place of a tor, a sentence; absent: it may be one.
 std::optional<QString> torPathProblem(const QString &path);
-
-// The user's words within a message of one line.
-QString shown(const QString &text);
 
 // Sets a setting of `controller` where these rules allow it. A value that it has already is never refused.
 Result<void, SettingError> change(TorController &controller, Setting<bool> &setting, bool value);

@@ -59,7 +59,7 @@ struct BootstrapStatus {
 // (Connect.cpp, Disconnect.cpp, Monitoring.cpp, …). They report through the fields, never by a
 // result. Whether the network is set up for Tor is not this object's memory to tell but the
 // helper's session marker: `isSessionMarkerPresent()`.
-class TorController : public QObject {
+class TorController : public FieldOwner {
     Q_OBJECT
 
 public:
@@ -97,56 +97,56 @@ public:
     ~TorController() override;
 
     // --- The user's settings; each `set` is stored at once. ---
-    Setting<bool> strictMode;        // the next connection's mode: kill switch, else proxy
-    Setting<bool> allowLocalNetwork; // strict mode lets the local network through
-    Setting<QString> exitCountry;    // two lower-case letters; empty = any
-    Setting<QString> customTorPath;  // empty = search the standard places
-    Setting<BridgeChoice> bridgeChoice; // for the next connection
-    Setting<QString> customBridges;  // the user's lines as typed
-    Setting<QStringList> bypassApps; // paths of applications that are launched outside Tor
-    Setting<bool> autoConnect;
-    Setting<bool> optimizeSpeed;     // test bridges before, re-time the path after connecting
-    Setting<bool> terminalMode;      // command-line tools go through Tor while connected
+    Setting<bool> strictMode{this, "strictMode", Scope::connection, "the kill switch, else proxy mode", true};
+    Setting<bool> allowLocalNetwork{this, "allowLocalNetwork", Scope::connection, "strict mode lets the local network through", true};
+    Setting<QString> exitCountry{this, "exitCountry", Scope::connection, "two lower-case letters, or nothing for any", QString()};
+    Setting<QString> customTorPath{this, "customTorPath", Scope::connection, "the tor to use, or nothing to search for it", QString()};
+    Setting<BridgeChoice> bridgeChoice{this, "bridgeChoice", Scope::connection, "which bridges", BridgeChoice::off};
+    Setting<QString> customBridges{this, "customBridges", Scope::connection, "your own bridge lines, as typed", QString()};
+    Setting<QStringList> bypassApps{this, "bypassApps", Scope::always, "paths of applications that may be opened without Tor"};
+    Setting<bool> autoConnect{this, "autoConnect", Scope::always, "connect when Veldmark starts"};
+    Setting<bool> optimizeSpeed{this, "optimizeSpeed", Scope::connection, "test bridges before connecting, look for a faster path afterwards"};
+    Setting<bool> terminalMode{this, "terminalMode", Scope::always, "command-line tools go through Tor while connected", false};
 
     // --- The session. ---
-    Published<ConnectionPhase> phase;
-    Published<std::optional<RoutingMode>> activeMode; // absent when no session
-    Published<std::optional<BridgeChoice>> activeBridge;
-    Published<double> bootstrapProgress; // 0…1
-    Published<QString> statusDetail;     // the line under the title
+    Published<ConnectionPhase> phase{this, "phase", ConnectionPhase::disconnected};
+    Published<std::optional<RoutingMode>> activeMode{this, "activeMode"}; // absent when no session
+    Published<std::optional<BridgeChoice>> activeBridge{this, "activeBridge"};
+    Published<double> bootstrapProgress{this, "bootstrapProgress"}; // 0…1
+    Published<QString> statusDetail{this, "statusDetail", QStringLiteral("Your traffic is not going through Tor")};     // the line under the title
     // What keeps Tor from connecting, by its own report and log, in a sentence; absent when Tor knows
     // of nothing. Stays after a bootstrap that failed, until the next attempt or the restore.
-    Published<std::optional<QString>> bootstrapProblem;
+    Published<std::optional<QString>> bootstrapProblem{this, "bootstrapProblem"};
     // Whose the session is that a stale phase shows, while another process that made it still runs.
-    Published<std::optional<SessionOwner>> otherSession;
-    Published<bool> canCancel;           // a connect attempt may be ended by disconnect()
+    Published<std::optional<SessionOwner>> otherSession{this, "otherSession"};
+    Published<bool> canCancel{this, "canCancel"};           // a connect attempt may be ended by disconnect()
     // The banner; absent = none. An operation that may set it takes back what stood there before,
     // except a restore that did not happen: then the reason for restoring is still true.
-    Published<std::optional<QString>> errorMessage;
-    Published<quint64> bytesRead;        // since Tor started
-    Published<quint64> bytesWritten;
+    Published<std::optional<QString>> errorMessage{this, "errorMessage"};
+    Published<quint64> bytesRead{this, "bytesRead"};        // since Tor started
+    Published<quint64> bytesWritten{this, "bytesWritten"};
 
     // --- The checks. ---
     // What the watcher over the rules has last seen in the kernel; absent without a strict session. Read in every
     // phase but `disconnected` and `disconnecting`, also when Tor is dead, and before anything is said to be blocked.
-    Published<std::optional<KillSwitch>> killSwitch;
-    Published<std::optional<QString>> exitIP;
-    Published<std::optional<bool>> torVerified; // absent = not checked yet
-    Published<LeakStatus> leakStatus;
-    Published<DNSStatus> dnsStatus;
-    Published<bool> isChecking;
-    Published<std::optional<qint64>> latencyMs; // of a request through Tor, milliseconds
-    Published<std::optional<QString>> optimizeStatus;
-    Published<bool> isOptimizing;
+    Published<std::optional<KillSwitch>> killSwitch{this, "killSwitch"};
+    Published<std::optional<QString>> exitIP{this, "exitIP"};
+    Published<std::optional<bool>> torVerified{this, "torVerified"}; // absent = not checked yet
+    Published<LeakStatus> leakStatus{this, "leakStatus", LeakStatus::notTested()};
+    Published<DNSStatus> dnsStatus{this, "dnsStatus", DNSStatus::unknown()};
+    Published<bool> isChecking{this, "isChecking"};
+    Published<std::optional<qint64>> latencyMs{this, "latencyMs"}; // of a request through Tor, milliseconds
+    Published<std::optional<QString>> optimizeStatus{this, "optimizeStatus"};
+    Published<bool> isOptimizing{this, "isOptimizing"};
 
     // --- Circuits, transports, and the settings' own messages. ---
-    Published<std::vector<CircuitInfo>> circuits;
-    Published<std::optional<QString>> circuitError;
-    Published<PluggableTransports> transports;
-    Published<std::optional<QString>> transportDownload;
-    Published<bool> passwordlessInstalled;
-    Published<std::optional<QString>> startupError;
-    Published<std::optional<QString>> terminalError;
+    Published<std::vector<CircuitInfo>> circuits{this, "circuits"};
+    Published<std::optional<QString>> circuitError{this, "circuitError"};
+    Published<PluggableTransports> transports{this, "transports"};
+    Published<std::optional<QString>> transportDownload{this, "transportDownload"};
+    Published<bool> passwordlessInstalled{this, "passwordlessInstalled"};
+    Published<std::optional<QString>> startupError{this, "startupError"};
+    Published<std::optional<QString>> terminalError{this, "terminalError"};
 
     // --- Derived from the fields. ---
     Verdict verdict() const; // how safe all this is; what every surface shows
@@ -194,7 +194,7 @@ public:
     // The user has read the banner.
     void dismissError() { errorMessage = std::nullopt; }
     // Shows what went wrong outside the controller as the banner.
-    void showProblem(const QString &problem) { errorMessage = problem; }
+    void showProblem(const QString &problem) override { errorMessage = problem; }
 
     // --- Operations: transports. ---
     // Searches the computer afresh and sets `transports`, unless a search that began later has done so.
@@ -236,45 +236,6 @@ public:
 
     // Reads the value of Tor's "status/bootstrap-phase".
     static BootstrapStatus parseBootstrap(const QString &reply);
-
-Q_SIGNALS:
-    void strictModeChanged();
-    void allowLocalNetworkChanged();
-    void exitCountryChanged();
-    void customTorPathChanged();
-    void bridgeChoiceChanged();
-    void customBridgesChanged();
-    void bypassAppsChanged();
-    void autoConnectChanged();
-    void optimizeSpeedChanged();
-    void terminalModeChanged();
-    void phaseChanged();
-    void activeModeChanged();
-    void activeBridgeChanged();
-    void bootstrapProgressChanged();
-    void statusDetailChanged();
-    void bootstrapProblemChanged();
-    void otherSessionChanged();
-    void canCancelChanged();
-    void errorMessageChanged();
-    void bytesReadChanged();
-    void bytesWrittenChanged();
-    void killSwitchChanged();
-    void exitIPChanged();
-    void torVerifiedChanged();
-    void leakStatusChanged();
-    void dnsStatusChanged();
-    void isCheckingChanged();
-    void latencyMsChanged();
-    void optimizeStatusChanged();
-    void isOptimizingChanged();
-    void circuitsChanged();
-    void circuitErrorChanged();
-    void transportsChanged();
-    void transportDownloadChanged();
-    void passwordlessInstalledChanged();
-    void startupErrorChanged();
-    void terminalErrorChanged();
 
 private:
     using Attempt = quint64;
@@ -360,8 +321,6 @@ private:
     void setShellsActive(bool on);
     void showTerminalProblem(const Result<void, TerminalError> &installed);
     QCoro::Task<void> installForSsh(quint64 run);
-    // TorController.cpp
-    void loadSettings();
 
     Services m_services;
     Attempt m_attempt = 0;  // the running connect or disconnect; older ones end silently

@@ -47,7 +47,7 @@ QCoro::Task<TransportDownloader::Outcome> TorController::fetchTransports()
         while (isChangingPhase()) {
             const ResumeOnce<bool> changed;
             m_downloadWait = changed;
-            const auto heard = QObject::connect(this, &TorController::phaseChanged, this,
+            const auto heard = QObject::connect(&phase, &Field::changed, this,
                                                 [changed] { changed.complete(true); });
             co_await changed;
             if (!self)

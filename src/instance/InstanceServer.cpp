@@ -4,13 +4,13 @@
 #include "controller/TorController.h"
 #include "instance/InstancePlace.h"
 #include "instance/JsonLines.h"
+#include "instance/Verbs.h"
 #include "platform/PlatformProfile.h"
 
 #include <QLocalSocket>
-#include <QMetaMethod>
 #include <QPointer>
 
-#include <algorithm>
+#include <optional>
 
 #include <sys/socket.h>
 #include <unistd.h>
@@ -24,33 +24,9 @@ const QString errorKey = QStringLiteral("error");
 const QString usageKey = QStringLiteral("usage");
 const QString stateKey = QStringLiteral("state");
 
-// What can only be asked of a connected Tor.
-const QStringList sessionCommands = {QStringLiteral("check"), QStringLiteral("fix-dns"), QStringLiteral("circuits"),
-                                     QStringLiteral("close-circuit"), QStringLiteral("new-identity"),
-                                     QStringLiteral("launch")};
-// Commands during which the client hears of every change.
-const QStringList longCommands =
-    QStringList{QStringLiteral("watch"), QStringLiteral("connect"), QStringLiteral("disconnect"),
-                QStringLiteral("download-transports")}
-    + sessionCommands;
-
-bool hasCircuit(const TorController &controller, const QString &id)
-{
-    const auto &circuits = controller.circuits();
-    return std::any_of(circuits.begin(), circuits.end(),
-                       [&id](const CircuitInfo &circuit) { return circuit.id == id; });
-}
-
 auto refusal(const QString &description)
 {
     return Failure(InstanceError(description));
-}
-
-QString connectFailure(const TorController &controller)
-{
-    const QString failure = controller.errorMessage().value_or(
-        controller.otherSession() ? controller.statusDetail() : QStringLiteral("Cancelled."));
-    return controller.bootstrapProblem() ? failure + u' ' + *controller.bootstrapProblem() : failure;
 }
 
 // The folder keeps other users out; this keeps them out also where its mode was changed.
@@ -82,14 +58,8 @@ public:
     StateStream(TorController &controller, std::shared_ptr<JsonLines> lines)
         : m_controller(&controller), m_lines(std::move(lines))
     {
-        const QMetaObject *type = controller.metaObject();
-        const QMetaMethod slot =
-            metaObject()->method(metaObject()->indexOfSlot("scheduleSend()"));
-        for (int i = type->methodOffset(); i < type->methodCount(); ++i) {
-            const QMetaMethod method = type->method(i);
-            if (method.methodType() == QMetaMethod::Signal)
-                QObject::connect(&controller, method, this, slot);
-        }
+        for (const Field *field : controller.fields())
+            QObject::connect(field, &Field::changed, this, &StateStream::scheduleSend);
         QObject::connect(m_lines.get(), &JsonLines::sent, this, &StateStream::sendIfBehind);
         sendNow();
     }
@@ -211,100 +181,24 @@ QCoro::Task<Result<void, InstanceError>> InstanceServer::execute(QJsonObject req
         Q_EMIT raiseRequested();
         co_return {};
     }
-    if (command == QLatin1String("status")) {
-        lines->write({{stateKey, publishedState(m_controller)}});
-        co_return {};
-    }
-    if (command == QLatin1String("set")) {
-        const QJsonValue key = request.value(QStringLiteral("key"));
-        const QJsonValue value = request.value(QStringLiteral("value"));
-        if (!key.isString() || !value.isString())
-            co_return refusal(QStringLiteral("\"set\" needs a \"key\" and a \"value\", both strings."));
-        const auto set = setSetting(m_controller, key.toString(), value.toString());
-        if (!set)
-            co_return Failure(InstanceError(set.error().description(),
-                                            set.error().kind() == SettingError::Kind::Refused));
-        co_return {};
-    }
-    if (!longCommands.contains(command))
+    const Verb *const verb = verbRequested(command);
+    if (!verb)
         co_return refusal(QStringLiteral("Unknown command \"%1\".").arg(command.left(40).simplified()));
-
-    StateStream stream(m_controller, lines);
-    if (command == QLatin1String("watch")) {
-        while (co_await lines->next()) { // until the other end goes; it has nothing more to say
-        }
-        co_return {};
-    }
-    if (command == QLatin1String("connect")) {
-        if (controller->optionsLocked())
-            co_return refusal(QStringLiteral("Already connected, or on the way; \"veldmarkctl status\" says more."));
-        co_await m_controller.connect();
-        if (controller && controller->phase() != ConnectionPhase::connected)
-            co_return refusal(connectFailure(*controller));
-    } else if (command == QLatin1String("disconnect")) {
-        const bool underWay = controller->phase() == ConnectionPhase::disconnecting
-            || (controller->phase() == ConnectionPhase::connecting && !controller->canCancel());
-        if (underWay)
-            co_return refusal(QStringLiteral("Not now: %1").arg(controller->statusDetail()));
-        if (controller->phase() != ConnectionPhase::disconnected || controller->isSessionMarkerPresent()) { // else there is nothing to do
-            const auto ended = co_await m_controller.disconnect();
-            if (!ended)
-                co_return refusal(ended.error().isEmpty() ? QStringLiteral("Cancelled.") : ended.error());
-        }
-    } else if (command == QLatin1String("download-transports")) {
-        if (!controller->canDownloadTransports())
-            co_return refusal(QStringLiteral("Not now: %1").arg(
-                controller->transportDownload().value_or(controller->statusDetail())));
-        auto downloading = m_controller.downloadTransports();
-        const bool isInstalled = co_await downloading;
-        if (controller && !isInstalled)
-            co_return refusal(controller->transportDownload().value_or(QStringLiteral("Cancelled.")));
-    } else if (controller->phase() != ConnectionPhase::connected) {
+    std::optional<StateStream> stream;
+    if (verb->streams)
+        stream.emplace(m_controller, lines);
+    if (verb->needsSession && controller->phase() != ConnectionPhase::connected)
         co_return refusal(QStringLiteral("Not connected."));
-    } else if (command == QLatin1String("check")) {
-        if (controller->isChecking())
-            co_return refusal(QStringLiteral("A check is already running."));
-        co_await m_controller.runChecks();
-    } else if (command == QLatin1String("fix-dns")) {
-        co_await m_controller.fixDNS();
-        if (controller && controller->failure())
-            co_return refusal(*controller->failure());
-        if (controller && controller->dnsStatus().isLeak())
-            co_return refusal(QStringLiteral("Cancelled."));
-    } else if (command == QLatin1String("launch")) {
-        const QString path = request.value(QStringLiteral("app")).toString();
-        if (!path.startsWith(u'/'))
-            co_return refusal(QStringLiteral("\"launch\" needs an \"app\", an absolute path."));
-        auto launching = m_controller.launchBypassed(path);
-        const auto launched = co_await launching;
-        if (controller && !launched && controller->phase() == ConnectionPhase::connected)
-            co_return refusal(launched.error().isEmpty() ? QStringLiteral("Cancelled.") : launched.error());
-    } else if (command == QLatin1String("close-circuit")) {
-        const QString id = request.value(QStringLiteral("id")).toString();
-        co_await m_controller.refreshCircuits();
-        if (!controller)
-            co_return {};
-        if (controller->circuitError())
-            co_return refusal(*controller->circuitError());
-        if (!hasCircuit(*controller, id))
-            co_return refusal(QStringLiteral("There is no circuit \"%1\".").arg(id.left(40).simplified()));
-        co_await m_controller.newCircuit(id);
-        if (controller && hasCircuit(*controller, id))
-            co_return refusal(QStringLiteral("Tor didn't close circuit %1.").arg(id));
-    } else if (command == QLatin1String("circuits")) {
-        co_await m_controller.refreshCircuits();
-        if (controller && controller->circuitError())
-            co_return refusal(*controller->circuitError());
-    } else if (command == QLatin1String("new-identity")) {
-        co_await m_controller.newIdentity();
-        if (controller && controller->failure())
-            co_return refusal(*controller->failure());
-    }
+    const Call call{controller, request, lines};
+    auto handling = verb->handler(call);
+    const Outcome done = co_await handling;
+    if (!done)
+        co_return done;
     // What was asked of a session that ended meanwhile has no answer; the fields hold an earlier one.
-    if (controller && sessionCommands.contains(command) && controller->phase() != ConnectionPhase::connected)
+    if (controller && verb->needsSession && controller->phase() != ConnectionPhase::connected)
         co_return refusal(QStringLiteral("The session has ended: %1").arg(controller->statusDetail()));
-    if (controller)
-        stream.sendNow(); // the last word, with everything that the command changed
+    if (controller && stream)
+        stream->sendNow(); // the last word, with everything that the command changed
     co_return {};
 }
 

@@ -5,7 +5,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QMetaMethod>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -53,7 +52,7 @@ private Q_SLOTS:
     {
         Workbench bench;
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
-        QSignalSpy strict(&bench.controller(), &TorController::strictModeChanged);
+        QSignalSpy strict(&bench.controller().strictMode, &Field::changed);
         Choices choices = session.now().choices;
         choices.bridgeChoice = BridgeChoice::obfs4;
         session.store(choices);
@@ -336,19 +335,13 @@ private Q_SLOTS:
         Workbench bench;
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
         settle();
-        const QMetaObject *type = bench.controller().metaObject();
-        int fields = 0;
-        for (int i = type->methodOffset(); i < type->methodCount(); ++i) {
-            const QMetaMethod method = type->method(i);
-            if (method.methodType() != QMetaMethod::Signal || !method.name().endsWith("Changed"))
-                continue;
-            ++fields;
+        QVERIFY(bench.controller().fields().size() >= 35);
+        for (Field *field : bench.controller().fields()) {
             QSignalSpy changed(&session, &Session::changed);
-            QVERIFY(method.invoke(&bench.controller(), Qt::DirectConnection));
+            Q_EMIT field->changed();
             settle();
-            QVERIFY2(changed.count() == 1, method.name().constData());
+            QVERIFY2(changed.count() == 1, qPrintable(field->name()));
         }
-        QVERIFY(fields >= 35);
     }
 
     void oneClickDismissesOneMessage()

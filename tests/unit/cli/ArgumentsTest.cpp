@@ -4,7 +4,7 @@
 #include <QTest>
 
 using namespace veldmark;
-using Verb = Invocation::Verb;
+using Id = Verb::Id;
 
 class ArgumentsTest : public QObject {
     Q_OBJECT
@@ -52,7 +52,7 @@ private Q_SLOTS:
     {
         const auto parsed = parseArguments({QStringLiteral("status"), QStringLiteral("--watch"), QStringLiteral("--json")});
         QVERIFY(parsed);
-        QCOMPARE(parsed->verb, Verb::status);
+        QCOMPARE(parsed->verb, Id::status);
         QVERIFY(parsed->watch && parsed->json && !parsed->follow);
         QVERIFY(parseArguments({QStringLiteral("run"), QStringLiteral("--connect")})->connectNow);
     }
@@ -60,14 +60,14 @@ private Q_SLOTS:
     void readsWhatIsAskedOfBridgesAndApplications()
     {
         const auto bridges = parseArguments({QStringLiteral("bridges"), QStringLiteral("--json")});
-        QVERIFY(bridges && bridges->verb == Verb::bridges && bridges->json);
+        QVERIFY(bridges && bridges->verb == Id::bridges && bridges->json);
         QVERIFY(!parseArguments({QStringLiteral("bridges")})->json);
         const auto download = parseArguments({QStringLiteral("download-transports")});
-        QVERIFY(download && download->verb == Verb::downloadTransports);
+        QVERIFY(download && download->verb == Id::downloadTransports);
         const auto apps = parseArguments({QStringLiteral("apps"), QStringLiteral("--json")});
-        QVERIFY(apps && apps->verb == Verb::apps && apps->json);
+        QVERIFY(apps && apps->verb == Id::apps && apps->json);
         const auto launch = parseArguments({QStringLiteral("launch"), QStringLiteral("Two Words")});
-        QVERIFY(launch && launch->verb == Verb::launch);
+        QVERIFY(launch && launch->verb == Id::launch);
         QCOMPARE(launch->key, QStringLiteral("Two Words"));
         QCOMPARE(parseArguments({QStringLiteral("launch"), QStringLiteral("--"), QStringLiteral("--odd")})->key,
                  QStringLiteral("--odd"));

@@ -15,7 +15,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace veldmark;
-using Verb = Invocation::Verb;
+using Id = Verb::Id;
 
 namespace {
 
@@ -26,7 +26,7 @@ QCoro::Task<void> take(Invocation invocation, PlatformProfile profile, std::shar
 }
 
 // What a whole command comes to; nothing when it does not end.
-std::optional<ExitStatus> outcome(Verb verb, const PlatformProfile &profile, const QString &key = {})
+std::optional<ExitStatus> outcome(Id verb, const PlatformProfile &profile, const QString &key = {})
 {
     Invocation invocation;
     invocation.verb = verb;
@@ -47,10 +47,10 @@ private Q_SLOTS:
     {
         Computer computer;
         computer.writeMarker();
-        QVERIFY(outcome(Verb::restore, computer.profile) == ExitStatus::done);
+        QVERIFY(outcome(Id::restore, computer.profile) == ExitStatus::done);
         QVERIFY(!computer.hasMarker());
         QCOMPARE(computer.verbs(), QStringList{u"disconnect"_s});
-        QVERIFY(outcome(Verb::restore, computer.profile) == ExitStatus::done); // nothing to do is no error
+        QVERIFY(outcome(Id::restore, computer.profile) == ExitStatus::done); // nothing to do is no error
         QCOMPARE(computer.verbs().size(), 1);
     }
 
@@ -60,7 +60,7 @@ private Q_SLOTS:
         computer.writeMarker();
         computer.fail("disconnect", "Could not.");
         for (int time = 1; time <= 2; ++time) {
-            QVERIFY(outcome(Verb::restore, computer.profile) == ExitStatus::failed);
+            QVERIFY(outcome(Id::restore, computer.profile) == ExitStatus::failed);
             QCOMPARE(computer.verbs().size(), time);
         }
         QVERIFY(computer.hasMarker());
@@ -83,11 +83,11 @@ private Q_SLOTS:
             its.controlSocket = std::exchange(its.otherControlSockets, {}).constFirst();
         auto lock = lockInstance(its); // it has its lock, and does not listen yet
         QVERIFY(lock);
-        QVERIFY(outcome(Verb::restore, computer.profile) == ExitStatus::alreadyRunning);
+        QVERIFY(outcome(Id::restore, computer.profile) == ExitStatus::alreadyRunning);
         QVERIFY(computer.hasMarker());
         QVERIFY(computer.verbs().isEmpty());
         lock->reset();
-        QVERIFY(outcome(Verb::restore, computer.profile) == ExitStatus::done);
+        QVERIFY(outcome(Id::restore, computer.profile) == ExitStatus::done);
         QVERIFY(!computer.hasMarker());
     }
 
@@ -97,12 +97,12 @@ private Q_SLOTS:
         auto server = InstanceServer::start(bench.controller());
         QVERIFY(server);
         bench.writeMarker("strict\n"); // of somebody else; the instance is at rest
-        QVERIFY(outcome(Verb::restore, bench.profile) == ExitStatus::done);
+        QVERIFY(outcome(Id::restore, bench.profile) == ExitStatus::done);
         QVERIFY(!bench.hasMarker());
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 1);
         bench.writeMarker("strict\n");
         bench.failHelper(u"disconnect"_s, u"Could not."_s);
-        QVERIFY(outcome(Verb::restore, bench.profile) == ExitStatus::failed);
+        QVERIFY(outcome(Id::restore, bench.profile) == ExitStatus::failed);
         QVERIFY(bench.hasMarker());
         server->reset();
         settle();
@@ -114,12 +114,12 @@ private Q_SLOTS:
         const QString app = computer.folder.filePath(u"app.desktop"_s);
         Computer::write(app, "[Desktop Entry]\nType=Application\nName=A\nExec=true\n");
         const bool isRoot = geteuid() == 0;
-        QVERIFY(outcome(Verb::launch, computer.profile, app) == (isRoot ? ExitStatus::done : ExitStatus::notRunning));
+        QVERIFY(outcome(Id::launch, computer.profile, app) == (isRoot ? ExitStatus::done : ExitStatus::notRunning));
         QCOMPARE(computer.verbs(), isRoot ? QStringList{u"launch"_s} : QStringList());
         if (!isRoot)
             return;
         computer.fail("launch", "The kill switch is not on.");
-        QVERIFY(outcome(Verb::launch, computer.profile, app) == ExitStatus::failed);
+        QVERIFY(outcome(Id::launch, computer.profile, app) == ExitStatus::failed);
     }
 };
 

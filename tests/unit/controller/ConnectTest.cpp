@@ -26,8 +26,8 @@ private Q_SLOTS:
         TorController &c = bench.controller();
         QStringList details;
         std::vector<Phase> phases;
-        QObject::connect(&c, &TorController::statusDetailChanged, [&] { details << c.statusDetail(); });
-        QObject::connect(&c, &TorController::phaseChanged, [&] { phases.push_back(c.phase()); });
+        QObject::connect(&c.statusDetail, &Field::changed, [&] { details << c.statusDetail(); });
+        QObject::connect(&c.phase, &Field::changed, [&] { phases.push_back(c.phase()); });
         QVERIFY(bench.connect());
         QCOMPARE(details, QStringList({u"Preparing Tor…"_s, u"Waiting for administrator approval…"_s,
                                        u"Starting Tor…"_s, u"Done"_s, u"All traffic is locked to Tor"_s}));
@@ -124,7 +124,7 @@ private Q_SLOTS:
     {
         Workbench bench;
         QStringList details;
-        QObject::connect(&bench.controller(), &TorController::statusDetailChanged,
+        QObject::connect(&bench.controller().statusDetail, &Field::changed,
                          [&] { details << bench.controller().statusDetail(); });
         bench.controller().customBridges.set(u"192.0.2.1:443\n192.0.2.2:443"_s);
         bench.controller().bridgeChoice.set(BridgeChoice::custom);
@@ -295,7 +295,7 @@ private Q_SLOTS:
     {
         Workbench bench;
         TorController &c = bench.controller();
-        QObject::connect(&c, &TorController::phaseChanged, [&c] {
+        QObject::connect(&c.phase, &Field::changed, [&c] {
             if (c.phase() == Phase::connected)
                 c.disconnect();
         });

@@ -119,7 +119,7 @@ private Q_SLOTS:
         c.dismissError();
         QVERIFY(bench.tick());
         QVERIFY(!c.errorMessage());
-        QSignalSpy changes(&c, &TorController::killSwitchChanged);
+        QSignalSpy changes(&c.killSwitch, &Field::changed);
         bench.noteRules("open", 2);
         QVERIFY(bench.tick());
         QCOMPARE(c.errorMessage().value(), openText);
@@ -376,7 +376,7 @@ private Q_SLOTS:
         TorController &c = bench.controller();
         QVERIFY(bench.connect());
         QStringList titles;
-        QObject::connect(&c, &TorController::killSwitchChanged, [&] { titles << c.title(); });
+        QObject::connect(&c.killSwitch, &Field::changed, [&] { titles << c.title(); });
         bench.hold(u"disconnect"_s);
         const auto disconnecting = c.disconnect();
         bench.noteRules("open", 1);

@@ -69,7 +69,7 @@ private Q_SLOTS:
         TorController &c = bench.controller();
         QVERIFY(bench.connect());
         QStringList texts;
-        QObject::connect(&c, &TorController::optimizeStatusChanged,
+        QObject::connect(&c.optimizeStatus, &Field::changed,
                          [&] { texts << c.optimizeStatus().value_or(u"-"_s); });
         answerAfter(bench, 1500ms);
         const auto optimizing = c.optimizeCircuits();
@@ -101,7 +101,7 @@ private Q_SLOTS:
             bench.probe.torAnswer = ScriptedProbe::nothing();
         answerAfter(bench, answers ? 1600ms : 100ms);
         QStringList texts;
-        QObject::connect(&c, &TorController::optimizeStatusChanged,
+        QObject::connect(&c.optimizeStatus, &Field::changed,
                          [&] { texts << c.optimizeStatus().value_or(u"-"_s); });
         const int probes = bench.probe.torProbes;
         const auto optimizing = c.optimizeCircuits();

@@ -307,6 +307,12 @@ private Q_SLOTS:
         QVERIFY(bench.connect());
         QVERIFY(bench.tick());
         QVERIFY(c.exitIP() && c.torVerified() && c.bytesRead() > 0 && c.killSwitch());
+        const QByteArray circuit = "1 BUILT $" + QByteArray(40, 'A') + "~guard,$" + QByteArray(40, 'B') + "~exit PURPOSE=GENERAL";
+        bench.tor.reply("GETINFO circuit-status", Workbench::block("circuit-status", {circuit}));
+        bench.tor.reply("GETINFO stream-status", Workbench::block("stream-status", {}));
+        const auto reading = c.refreshCircuits();
+        QVERIFY(Workbench::finished(reading));
+        QVERIFY(!c.circuits().empty());
         QVERIFY(c.leakStatus() == LeakStatus::blocked());
         OtherSession other(bench.profile, daemonUser, strict ? "strict\n" : "proxy\n");
         bench.tor.stopListening(); // it has a Tor of its own
@@ -315,7 +321,7 @@ private Q_SLOTS:
         QVERIFY(c.phase() == Phase::stale && c.otherSession()); // at once, without a watch
         QVERIFY(!c.errorMessage());
         QVERIFY(c.killSwitch().has_value() == strict);
-        QVERIFY(!c.exitIP() && !c.torVerified() && c.bytesRead() == 0);
+        QVERIFY(!c.exitIP() && !c.torVerified() && c.bytesRead() == 0 && c.circuits().empty());
         QVERIFY(c.leakStatus() == LeakStatus::notTested());
         if (!strict)
             return;

@@ -24,13 +24,10 @@ private Q_SLOTS:
         for (const QString &field : fields)
             QVERIFY2(state.contains(field), qPrintable(field));
         QCOMPARE(state.size(), fields.size());
-        // And each says when it changes.
-        const QMetaObject *type = bench.controller().metaObject();
+        // And each is a field that says when it changes.
         const QStringList derived = {u"title"_s, u"menuBarSymbol"_s, u"level"_s, u"killSwitchSince"_s};
-        for (const QString &field : fields) {
-            if (!derived.contains(field))
-                QVERIFY2(type->indexOfSignal((field.toLatin1() + "Changed()").constData()) >= 0, qPrintable(field));
-        }
+        for (const QString &field : fields)
+            QVERIFY2(derived.contains(field) != (bench.controller().fieldNamed(field) != nullptr), qPrintable(field));
     }
 
     void withoutASession()
@@ -156,14 +153,15 @@ private Q_SLOTS:
     {
         Workbench bench;
         const QJsonObject state = publishedState(bench.controller());
-        for (const QString &name : settingNames()) {
+        const QStringList names = settingNames(bench.controller());
+        for (const QString &name : names) {
             const QJsonValue value = state.value(name);
             QVERIFY2(!value.isUndefined(), qPrintable(name));
             const QString text = value.isArray() ? u"[]"_s : value.isBool() ? (value.toBool() ? u"true"_s : u"false"_s)
                                                                             : value.toString();
             QVERIFY2(setSetting(bench.controller(), name, text), qPrintable(name));
         }
-        QCOMPARE(settingNames().size(), 10);
+        QCOMPARE(names.size(), 10);
     }
 
     void saysWhenTheSettingWasNotSaved()

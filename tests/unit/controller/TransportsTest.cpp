@@ -132,7 +132,7 @@ private Q_SLOTS:
         downloader.serve(bench);
         TorController &c = bench.controller();
         QStringList seen;
-        QObject::connect(&c, &TorController::transportDownloadChanged, &c,
+        QObject::connect(&c.transportDownload, &Field::changed, &c,
                          [&] { seen << c.transportDownload().value_or(u"(none)"_s); });
         downloader.lines = {u"Checking latest version…"_s, u"Downloading Tor 14.0.4 bridge programs… 1.0 of 2.0 MB (50%)"_s};
         const auto task = c.downloadTransports();

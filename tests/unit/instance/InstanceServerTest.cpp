@@ -344,6 +344,22 @@ private Q_SLOTS:
         instance.bench.processes.release();
         settle();
     }
+
+    void aCircuitMayBeWaitedForWhenTheInstanceEnds()
+    {
+        Instance instance;
+        QVERIFY(instance.bench.connect());
+        const auto questions = [&] { return instance.bench.tor.commands().count(u"GETINFO circuit-status"_s); };
+        instance.bench.tor.ignore("GETINFO circuit-status");
+        const auto before = questions();
+        Conversation closing(instance.bench, "close-circuit");
+        QVERIFY(until([&] { return questions() > before; }));
+        instance.server.reset();
+        instance.bench.end();
+        instance.bench.socketClock.advance(std::chrono::minutes(1)); // the question is given up
+        settle();
+        QCOMPARE(closing.error(), u"Veldmark stopped before it had answered."_s);
+    }
 };
 
 VELDMARK_TEST(InstanceServerTest)

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QJsonValue>
+#include <QObject>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+namespace veldmark {
+
+class FieldOwner;
+class SettingsStore;
+
+// What the program says of a setting of the user's, in lists and completions.
+struct SettingInfo {
+    QString help;            // a few English words
+    bool isOfConnection = false; // a connection is made with it, so it holds until that ends
+    QStringList values;      // all that it can be, where they are few
+};
+
+// A field that views observe. It registers itself with its owner, in the order of declaration; the published state, the
+// settings' names, observers and completions come from there. Main thread.
+class Field : public QObject {
+    Q_OBJECT
+
+public:
+    // As other programs see it, and in the settings' file.
+    QString name() const { return m_name; }
+    virtual QJsonValue toJson() const = 0;
+    // Absent: no setting, but what the program found out.
+    const std::optional<SettingInfo> &setting() const { return m_setting; }
+
+Q_SIGNALS:
+    void changed();
+
+protected:
+    Field(FieldOwner *owner, const char *name, std::optional<SettingInfo> setting = {});
+
+private:
+    const QString m_name;
+    const std::optional<SettingInfo> m_setting;
+};
+
+// An object with fields. Its settings are kept in `store`, which must outlive it.
+class FieldOwner : public QObject {
+public:
+    const std::vector<Field *> &fields() const { return m_fields; }
+    Field *fieldNamed(const QString &name) const; // null: there is none
+    SettingsStore &store() const { return m_store; }
+
+    // Shows what went wrong while a field was set.
+    virtual void showProblem(const QString &problem) = 0;
+
+protected:
+    FieldOwner(SettingsStore &store, QObject *parent) : QObject(parent), m_store(store) {}
+
+private:
+    friend class Field;
+    SettingsStore &m_store;
+    std::vector<Field *> m_fields;
+};
+
+} // namespace veldmark

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "base/ConnectionPhase.h"
+#include "base/Result.h"
+#include "base/RoutingMode.h"
+#include "bridges/BridgeChoice.h"
+
+#include <QJsonValue>
+#include <QStringList>
+#include <QVariant>
+
+#include <optional>
+#include <vector>
+
+// How the types of the controller's fields are written: as JSON, in the settings' file, and as the user's words.
+namespace veldmark {
+
+class DNSStatus;
+class KillSwitch;
+class LeakStatus;
+class SessionOwner;
+class SettingsStore;
+struct CircuitInfo;
+struct PluggableTransports;
+
+// An enumeration is its case name as a string; a case with a payload an object with that one key ({"exposed":
+// "203.0.113.7"}, {"leak": ["…"]}); an absent optional is null.
+QJsonValue json(const QString &value);
+QJsonValue json(bool value);
+QJsonValue json(qint64 value);
+QJsonValue json(quint64 value);
+QJsonValue json(double value);
+QJsonValue json(const QStringList &value);
+QJsonValue json(BridgeChoice value);
+QJsonValue json(RoutingMode value);
+QJsonValue json(ConnectionPhase value);
+QJsonValue json(const DNSStatus &value);
+QJsonValue json(const KillSwitch &value); // its state alone
+QJsonValue json(const LeakStatus &value);
+QJsonValue json(const SessionOwner &value);
+QJsonValue json(const PluggableTransports &value);
+QJsonValue json(const std::vector<CircuitInfo> &value);
+
+template <typename T>
+QJsonValue json(const std::optional<T> &value)
+{
+    return value ? json(*value) : QJsonValue(QJsonValue::Null);
+}
+
+// The types of settings. What is stored and is none of the type's values reads as `fallback`.
+bool readSetting(const SettingsStore &store, const QString &key, bool fallback);
+QString readSetting(const SettingsStore &store, const QString &key, const QString &fallback);
+QStringList readSetting(const SettingsStore &store, const QString &key, const QStringList &fallback);
+BridgeChoice readSetting(const SettingsStore &store, const QString &key, BridgeChoice fallback);
+void writeSetting(SettingsStore &store, const QString &key, bool value);
+void writeSetting(SettingsStore &store, const QString &key, const QString &value);
+void writeSetting(SettingsStore &store, const QString &key, const QStringList &value);
+void writeSetting(SettingsStore &store, const QString &key, BridgeChoice value);
+
+// As the store holds it.
+QVariant stored(bool value);
+QVariant stored(const QString &value);
+QVariant stored(const QStringList &value);
+QVariant stored(BridgeChoice value);
+
+// From the user's words: "true"/"false" (also on/off, yes/no, 1/0) for switches, a JSON array of strings for lists, the raw
+// value for choices. The error is a sentence; `value` is left as it was then.
+Result<void, QString> parse(const QString &text, bool &value);
+Result<void, QString> parse(const QString &text, QString &value);
+Result<void, QString> parse(const QString &text, QStringList &value);
+Result<void, QString> parse(const QString &text, BridgeChoice &value);
+
+// All the words that parse() knows a value by, one each; empty where there are too many.
+QStringList possibleValues(bool);
+QStringList possibleValues(const QString &);
+QStringList possibleValues(const QStringList &);
+QStringList possibleValues(BridgeChoice);
+
+// The user's words within a message of one line.
+QString inOneLine(const QString &text);
+
+} // namespace veldmark

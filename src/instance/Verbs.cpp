@@ -1,0 +1,123 @@
+#include "instance/Verbs.h"
+
+#include "instance/Handlers.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace veldmark {
+
+namespace {
+
+std::vector<Verb> makeTable()
+{
+    using Id = Verb::Id;
+    const Verb::Option json{QStringLiteral("--json"), QStringLiteral("as JSON")};
+    const QString disconnect = QStringLiteral("disconnect");
+    const QString status = QStringLiteral("status");
+    return {
+        {.id = Id::run, .name = QStringLiteral("run"), .options = {{QStringLiteral("--connect"), QStringLiteral("connect at once")}},
+         .help = QStringLiteral("run Veldmark here, in the foreground; Ctrl-C disconnects")},
+        {.id = Id::status, .name = status, .options = {json, {QStringLiteral("--watch"), QStringLiteral("go on until Ctrl-C")}},
+         .help = QStringLiteral("how things stand; --watch goes on until Ctrl-C"),
+         .handler = Handlers::status},
+        {.id = Id::connect, .name = QStringLiteral("connect"),
+         .help = QStringLiteral("connect the running instance to Tor"),
+         .streams = true, .handler = Handlers::connect},
+        {.id = Id::disconnect, .name = disconnect,
+         .help = QStringLiteral("restore the network and stop Tor"),
+         .streams = true, .handler = Handlers::disconnect},
+        {.id = Id::restore, .name = QStringLiteral("restore"),
+         .help = QStringLiteral("the same, also for what a crash left behind"),
+         .command = disconnect},
+        {.id = Id::check, .name = QStringLiteral("check"),
+         .help = QStringLiteral("check the exit address, the direct path and DNS now"),
+         .needsSession = true, .streams = true, .handler = Handlers::check},
+        {.id = Id::fixDNS, .name = QStringLiteral("fix-dns"),
+         .help = QStringLiteral("point the system's DNS settings at Tor again"),
+         .needsSession = true, .streams = true, .handler = Handlers::fixDNS},
+        {.id = Id::circuits, .name = QStringLiteral("circuits"), .options = {json},
+         .help = QStringLiteral("Tor's circuits and the sites on them"),
+         .needsSession = true, .streams = true, .handler = Handlers::circuits},
+        {.id = Id::closeCircuit, .name = QStringLiteral("close-circuit"), .operands = {QStringLiteral("ID")},
+         .help = QStringLiteral("close one; its sites get a fresh path on their next request"),
+         .missing = QStringLiteral("close-circuit needs a circuit's number; \"veldmarkctl circuits\" shows them."),
+         .needsSession = true, .streams = true, .handler = Handlers::closeCircuit},
+        {.id = Id::newIdentity, .name = QStringLiteral("new-identity"),
+         .help = QStringLiteral("new circuits for everything"),
+         .needsSession = true, .streams = true, .handler = Handlers::newIdentity},
+        {.id = Id::log, .name = QStringLiteral("log"), 
+         .options = {{QStringLiteral("--follow"), QStringLiteral("go on until Ctrl-C")},
+                     {QStringLiteral("--problems"), QStringLiteral("warnings and errors only")}},
+         .help = QStringLiteral("Tor's log; --problems shows warnings and errors only")},
+        {.id = Id::bridges, .name = QStringLiteral("bridges"), .options = {json},
+         .help = QStringLiteral("the transport programs and built-in bridges that were found, and\n"
+                                "which of your own bridge lines are not valid")},
+        {.id = Id::downloadTransports, .name = QStringLiteral("download-transports"),
+         .help = QStringLiteral("fetch the Tor Project's transport programs and built-in bridges"),
+         .streams = true, .handler = Handlers::downloadTransports},
+        {.id = Id::apps, .name = QStringLiteral("apps"), .options = {json},
+         .help = QStringLiteral("the installed applications; * marks those in the setting \"bypassApps\"")},
+        {.id = Id::launch, .name = QStringLiteral("launch"), .operands = {QStringLiteral("APP")},
+         .help = QStringLiteral("open an application without Tor, with your own address; needs strict mode.\n"
+                                "APP is a name from \"apps\", the file name of its desktop entry, or the path\n"
+                                "of an entry or a program. Running copies are asked to quit first"),
+         .missing = QStringLiteral("launch needs an application; \"veldmarkctl apps\" lists them."),
+         .needsSession = true, .streams = true, .handler = Handlers::launch},
+        {.id = Id::doctor, .name = QStringLiteral("doctor"), .options = {json},
+         .help = QStringLiteral("look at this computer: what a connect needs, what is in its way, and what\n"
+                                "mends it. Changes nothing; ends with 0 when a connect can work")},
+        {.id = Id::get, .name = QStringLiteral("get"), .operands = {QStringLiteral("KEY")},
+         .help = QStringLiteral("print a field of \"status --json\""),
+         .command = status},
+        {.id = Id::set, .name = QStringLiteral("set"), .operands = {QStringLiteral("KEY"), QStringLiteral("VALUE")},
+         .help = QStringLiteral("change a setting; most of them only while not connected"),
+         .handler = Handlers::set},
+        {.id = Id::help, .name = QStringLiteral("help")},
+        {.id = Id::help, .name = QStringLiteral("--help")},
+        {.id = Id::help, .name = QStringLiteral("-h")},
+        {.id = Id::version, .name = QStringLiteral("--version")},
+        {.id = Id::complete, .name = QStringLiteral("complete"), .operands = {QStringLiteral("WHAT"), QStringLiteral("OF")}},
+        {.id = Id::watch, .name = QStringLiteral("watch"), .streams = true, .handler = Handlers::watch},
+    };
+}
+
+template <typename Matches>
+const Verb *firstVerb(Matches matches)
+{
+    const auto &all = verbs();
+    const auto found = std::find_if(all.begin(), all.end(), matches);
+    return found == all.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+QString Verb::summary() const
+{
+    static const QRegularExpression firstWords(QStringLiteral("^(.*?)(;|, (?:and|with|what)\\b|:|$)"));
+    return firstWords.match(QString(help).replace(u'\n', u' ')).captured(1);
+}
+
+const std::vector<Verb> &verbs()
+{
+    static const std::vector<Verb> table = makeTable();
+    return table;
+}
+
+const Verb &verbOf(Verb::Id id)
+{
+    return *firstVerb([id](const Verb &verb) { return verb.id == id; });
+}
+
+const Verb *verbTyped(const QString &name)
+{
+    return firstVerb([&name](const Verb &verb) { return verb.name == name && verb.id != Verb::Id::watch; });
+}
+
+const Verb *verbRequested(const QString &command)
+{
+    return firstVerb([&command](const Verb &verb) { return verb.name == command && verb.handler; });
+}
+
+} // namespace veldmark
