@@ -501,6 +501,10 @@
         <source>The network is still set up for Tor from an earlier session, and no Tor runs. Connect again, or restore the network.</source>
         <translation>Das Netzwerk ist noch von einer früheren Sitzung für Tor eingerichtet, und es läuft kein Tor. Verbinden Sie sich wieder oder stellen Sie das Netzwerk wieder her.</translation>
     </message>
+    <message>
+        <source>A session is open, and it isn&apos;t known whether its kill switch stands: nobody watches over the rules. Restore the network, and connect again.</source>
+        <translation>Eine Sitzung ist offen, und ob ihr Notschalter geschlossen ist, ist nicht bekannt: Niemand wacht über die Regeln. Stellen Sie das Netzwerk wieder her, und verbinden Sie neu.</translation>
+    </message>
 </context>
 <context>
     <name>DoctorSheet</name>
@@ -1311,6 +1315,158 @@
     <message>
         <source>ssh doesn&apos;t go through Tor yet: it needs a netcat that speaks SOCKS. Install one with: %1</source>
         <translation>ssh geht noch nicht durch Tor: Es braucht ein netcat, das SOCKS spricht. Installieren Sie eines mit: %1</translation>
+    </message>
+    <message>
+        <source>Connect in strict mode to open apps without Tor</source>
+        <translation>Verbinden Sie im strikten Modus, um Apps ohne Tor zu öffnen</translation>
+    </message>
+    <message>
+        <source>No bridge answered a quick test, trying them all</source>
+        <translation>Keine Brücke hat im Schnelltest geantwortet; alle werden versucht</translation>
+    </message>
+    <message>
+        <source>These bridges need lyrebird, which comes with Tor Browser. Click Download next to Bridges to get it.</source>
+        <translation>Diese Brücken brauchen lyrebird, das mit dem Tor Browser kommt. Klicken Sie bei „Brücken“ auf „Herunterladen“.</translation>
+    </message>
+    <message>
+        <source>Snowflake needs snowflake-client, which comes with Tor Browser. Click Download next to Bridges to get it.</source>
+        <translation>Snowflake braucht snowflake-client, das mit dem Tor Browser kommt. Klicken Sie bei „Brücken“ auf „Herunterladen“.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t read the latest Tor version from torproject.org.</source>
+        <translation>Die neueste Version von Tor war auf torproject.org nicht zu lesen.</translation>
+    </message>
+    <message>
+        <source>The request timed out.</source>
+        <translation>Die Anfrage hat zu lange gedauert.</translation>
+    </message>
+    <message>
+        <source>The server gave no HTTP answer.</source>
+        <translation>Der Server hat nicht mit HTTP geantwortet.</translation>
+    </message>
+    <message>
+        <source>The connection was lost before the end.</source>
+        <translation>Die Verbindung ist vor dem Ende abgerissen.</translation>
+    </message>
+    <message>
+        <source>Not connected to Tor&apos;s control port.</source>
+        <translation>Es besteht keine Verbindung zu Tors Steuerport.</translation>
+    </message>
+    <message>
+        <source>Tor closed the control connection.</source>
+        <translation>Tor hat die Steuerverbindung beendet.</translation>
+    </message>
+    <message>
+        <source>Another program than Tor listens on Tor&apos;s control port.</source>
+        <translation>An Tors Steuerport lauscht ein anderes Programm als Tor.</translation>
+    </message>
+    <message>
+        <source>Tor didn&apos;t answer on its control port in time.</source>
+        <translation>Tor hat an seinem Steuerport nicht rechtzeitig geantwortet.</translation>
+    </message>
+    <message>
+        <source>Tor isn&apos;t installed. Install it with your package manager or set its location in Settings.</source>
+        <translation>Tor ist nicht installiert. Installieren Sie es mit Ihrer Paketverwaltung, oder geben Sie in den Einstellungen seinen Ort an.</translation>
+    </message>
+    <message>
+        <source>Tor isn&apos;t installed. Install it with Homebrew (brew install tor) or set its location in Settings.</source>
+        <translation>Tor ist nicht installiert. Installieren Sie es mit Homebrew (brew install tor), oder geben Sie in den Einstellungen seinen Ort an.</translation>
+    </message>
+    <message>
+        <source>The helper script is missing from the app bundle. Rebuild the app with build.sh.</source>
+        <translation>Im Programmpaket fehlt das Hilfsskript. Bauen Sie das Programm mit build.sh neu.</translation>
+    </message>
+    <message>
+        <source>Administrator access can&apos;t be asked for: polkit is not running on this system.</source>
+        <translation>Nach den Rechten eines Administrators kann nicht gefragt werden: polkit läuft auf diesem System nicht.</translation>
+    </message>
+    <message>
+        <source>Administrator access can&apos;t be asked for: no PolicyKit authentication agent is running in this session.</source>
+        <translation>Nach den Rechten eines Administrators kann nicht gefragt werden: In dieser Sitzung läuft kein PolicyKit-Agent.</translation>
+    </message>
+    <message>
+        <source>The password could not be checked: polkit takes none from this terminal. Run it with sudo.</source>
+        <translation>Das Passwort konnte nicht geprüft werden: polkit nimmt von diesem Terminal keines an. Nehmen Sie sudo.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t fix DNS: %1</source>
+        <translation>DNS konnte nicht berichtigt werden: %1</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t request a new identity: %1</source>
+        <translation>Um eine neue Identität konnte nicht gebeten werden: %1</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t read circuits: %1</source>
+        <translation>Die Kanäle konnten nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t change the login-item setting: %1</source>
+        <translation>Der Start bei der Anmeldung konnte nicht geändert werden: %1</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t download bridge programs: %1</source>
+        <translation>Die Brückenprogramme konnten nicht heruntergeladen werden: %1</translation>
+    </message>
+    <message>
+        <source>Bridge programs %1 installed over HTTPS. Install GnuPG (%2) and download again to also verify the Tor Project&apos;s signature.</source>
+        <translation>Brückenprogramme %1 über HTTPS installiert. Installieren Sie GnuPG (%2) und laden Sie noch einmal herunter, um auch die Signatur des Tor-Projekts zu prüfen.</translation>
+    </message>
+    <message>
+        <source>The download&apos;s signature didn&apos;t verify, so it was discarded. %1</source>
+        <translation>Die Signatur des Downloads stimmt nicht, er wurde verworfen. %1</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t unpack the download. %1</source>
+        <translation>Der Download konnte nicht entpackt werden. %1</translation>
+    </message>
+    <message>
+        <source>Tor can&apos;t reach the bridge program: %1.</source>
+        <translation>Tor erreicht das Brückenprogramm nicht: %1.</translation>
+    </message>
+    <message>
+        <source>Tor reports: %1 (%2).</source>
+        <translation>Tor meldet: %1 (%2).</translation>
+    </message>
+    <message>
+        <source>Tor reports: %1.</source>
+        <translation>Tor meldet: %1.</translation>
+    </message>
+    <message>
+        <source>Tor replied: %1</source>
+        <translation>Tor hat geantwortet: %1</translation>
+    </message>
+    <message>
+        <source>Tor has trouble with the bridge program: %1</source>
+        <translation>Tor hat Schwierigkeiten mit dem Brückenprogramm: %1</translation>
+    </message>
+    <message>
+        <source>The bridge program printed something that Tor doesn&apos;t understand: &quot;%1&quot;.</source>
+        <translation>Das Brückenprogramm hat etwas ausgegeben, was Tor nicht versteht: „%1“.</translation>
+    </message>
+    <message>
+        <source>Using the %1 fastest of %2 bridges</source>
+        <translation>Die %1 schnellsten von %2 Brücken werden benutzt</translation>
+    </message>
+    <message>
+        <source>The %1 bridge type isn&apos;t supported yet.</source>
+        <translation>Brücken der Art %1 werden noch nicht unterstützt.</translation>
+    </message>
+    <message>
+        <source>Built-in %1 bridges come from Tor Browser. Click Download next to Bridges, install Tor Browser, or paste your own under Bridges → Custom….</source>
+        <translation>Mitgelieferte %1-Brücken kommen aus dem Tor Browser. Klicken Sie bei „Brücken“ auf „Herunterladen“, installieren Sie den Tor Browser, oder fügen Sie unter „Brücken → Eigene…“ eigene ein.</translation>
+    </message>
+    <message>
+        <source>Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around Tor: %1. Strict mode&apos;s firewall blocks them.</source>
+        <translation>Manche DNS-Einstellungen kommen von außerhalb von Veldmark (einem VPN oder /etc/resolver) und führen noch an Tor vorbei: %1. Die Firewall des strikten Modus sperrt sie.</translation>
+    </message>
+    <message>
+        <source>Tor isn&apos;t installed. Install it with your package manager (%1) or set its location in Settings.</source>
+        <translation>Tor ist nicht installiert. Installieren Sie es mit Ihrer Paketverwaltung (%1), oder geben Sie in den Einstellungen seinen Ort an.</translation>
+    </message>
+    <message>
+        <source>%1 is already being opened.</source>
+        <translation>%1 wird schon geöffnet.</translation>
     </message>
 </context>
 <context>

@@ -90,7 +90,27 @@ QString shown(const QString &text)
     return text.size() > line.size() ? line + u'…' : line;
 }
 
+// What of the user's own bridges can't be used, a line each.
+QStringList problems(const QJsonObject &custom)
+{
+    QStringList lines;
+    for (const QJsonValue &entry : custom.value(QStringLiteral("invalid")).toArray())
+        lines << QStringLiteral("line %1 is not a bridge line: %2")
+                     .arg(entry.toObject().value(QStringLiteral("line")).toInt())
+                     .arg(shown(entry.toObject().value(QStringLiteral("text")).toString()));
+    const QJsonArray surplus = custom.value(QStringLiteral("surplus")).toArray();
+    if (!surplus.isEmpty())
+        lines << QStringLiteral("%1 too many, from line %2 on; at most %3 can be used")
+                     .arg(surplus.size()).arg(surplus.first().toInt()).arg(BridgeLines::mostLines);
+    return lines;
+}
+
 } // namespace
+
+QStringList Report::bridgeProblems(const QString &text)
+{
+    return problems(customFindings(text));
+}
 
 QString Report::bridges(const QJsonObject &all)
 {
@@ -132,16 +152,9 @@ QString Report::bridges(const QJsonObject &all)
                                               : QStringLiteral("signature not verified"));
 
     const QJsonObject custom = all.value(QStringLiteral("custom")).toObject();
-    const QJsonArray invalid = custom.value(QStringLiteral("invalid")).toArray();
     report += QStringLiteral("\nYour own bridges\n  %1 valid").arg(custom.value(QStringLiteral("valid")).toInt());
-    for (const QJsonValue &entry : invalid)
-        report += QStringLiteral("\n  line %1 is not a bridge line: %2")
-                      .arg(entry.toObject().value(QStringLiteral("line")).toInt())
-                      .arg(shown(entry.toObject().value(QStringLiteral("text")).toString()));
-    const QJsonArray surplus = custom.value(QStringLiteral("surplus")).toArray();
-    if (!surplus.isEmpty())
-        report += QStringLiteral("\n  %1 too many, from line %2 on; at most %3 can be used")
-                      .arg(surplus.size()).arg(surplus.first().toInt()).arg(BridgeLines::mostLines);
+    for (const QString &problem : problems(custom))
+        report += QStringLiteral("\n  ") + problem;
     return report;
 }
 

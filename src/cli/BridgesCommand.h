@@ -29,6 +29,8 @@ namespace Report {
 //      "bundle": {"version": …, "verification": "signature" or "https"} or null,
 //      "custom": {"valid": count, "invalid": [{"line": number, "text": …}]}}
 QString bridges(const QJsonObject &findings);
+// What of the user's own lines can't be used, as that command says it; empty when all can.
+QStringList bridgeProblems(const QString &text);
 
 } // namespace Report
 

@@ -76,6 +76,15 @@ bool showsLastState(const Invocation &invocation)
         && invocation.verb != Verb::Id::closeCircuit && invocation.verb != Verb::Id::launch && invocation.verb != Verb::Id::downloadTransports;
 }
 
+// They are stored as they were typed; a connect would refuse them.
+void tellOfBridges(const Invocation &invocation)
+{
+    if (invocation.verb != Verb::Id::set || invocation.key != QLatin1String("customBridges"))
+        return;
+    for (const QString &problem : Report::bridgeProblems(invocation.value))
+        Console::printError(problem);
+}
+
 void showConnecting(const QJsonObject &state, ProgressLine &progress, QString &shownProblem)
 {
     Console::draw(progress.update(state.value(QStringLiteral("bootstrapProgress")).toDouble(),
@@ -109,6 +118,7 @@ QCoro::Task<ExitStatus> askInstance(Invocation invocation, std::shared_ptr<Insta
         Console::printError(answer.error().description());
         co_return answer.error().isUsage() ? ExitStatus::usage : ExitStatus::failed;
     }
+    tellOfBridges(invocation);
     if (showsEveryState(invocation) || !showsLastState(invocation))
         co_return ExitStatus::done;
     co_return show(invocation, *last) ? ExitStatus::done : ExitStatus::usage;
@@ -135,6 +145,7 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
             Console::printError(*problem);
             co_return ExitStatus::failed;
         }
+        tellOfBridges(invocation);
         if (invocation.key == controller.terminalMode.name() && controller.terminalMode()) {
             const QString hint = co_await controller.terminalHint();
             Console::draw(noteLine(controller.terminalError().value_or(hint)));

@@ -32,7 +32,9 @@ QString modeText(const QJsonObject &state)
 {
     if (text(state, "activeMode") != QLatin1String("strict"))
         return QStringLiteral("proxy: apps that ignore the system proxy are not covered");
-    return isClosed(state) ? QStringLiteral("strict: only Tor's traffic leaves") : QStringLiteral("strict");
+    // Rules that stand are no proof where something was seen to get out all the same.
+    const bool isHeld = isClosed(state) && text(state, "level") != QLatin1String("danger");
+    return isHeld ? QStringLiteral("strict: only Tor's traffic leaves") : QStringLiteral("strict");
 }
 
 QString killSwitchText(const QJsonObject &state)

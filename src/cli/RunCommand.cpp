@@ -30,6 +30,9 @@ RunCommand::RunCommand(const PlatformProfile &profile, bool connectNow)
                      Qt::QueuedConnection);
     QObject::connect(&m_controller.killSwitch, &Field::changed, this, &RunCommand::showKillSwitch,
                      Qt::QueuedConnection);
+    for (const Field *field : std::initializer_list<const Field *>{&m_controller.dnsStatus, &m_controller.leakStatus,
+                                                                   &m_controller.torVerified, &m_controller.otherSession})
+        QObject::connect(field, &Field::changed, this, &RunCommand::showVerdict, Qt::QueuedConnection);
     QObject::connect(&m_controller.phase, &Field::changed, this, [this] {
         m_restored |= m_controller.phase() == ConnectionPhase::disconnecting;
     });
@@ -141,7 +144,8 @@ void RunCommand::showPhase()
     m_lastPhase = phase;
     QString report = phase == ConnectionPhase::connected || phase == ConnectionPhase::stale
         ? Report::status(publishedState(m_controller))
-        : QStringLiteral("%1: %2").arg(m_controller.title(), m_controller.verdict().detail);
+        : verdictText();
+    m_lastVerdict = verdictText();
     if (report == std::exchange(m_lastReport, report))
         return;
     say(report);
@@ -157,9 +161,24 @@ void RunCommand::showKillSwitch()
     if (state == std::exchange(m_lastKillSwitch, state) || !state)
         return;
     if (m_controller.phase() == ConnectionPhase::connecting && *state == KillSwitch::State::open)
-        complain(QStringLiteral("%1: %2").arg(m_controller.title(), m_controller.verdict().detail));
+        complain(verdictText());
     else
         showPhase();
+}
+
+// What the checks find between the phases, and what becomes of another process's session.
+void RunCommand::showVerdict()
+{
+    const ConnectionPhase phase = m_controller.phase();
+    const bool isShown = phase == ConnectionPhase::connected || phase == ConnectionPhase::stale;
+    if (isShown && m_lastPhase == phase && m_lastVerdict != verdictText())
+        showPhase();
+}
+
+QString RunCommand::verdictText() const
+{
+    const Verdict verdict = m_controller.verdict();
+    return QStringLiteral("%1: %2").arg(verdict.title, verdict.detail);
 }
 
 void RunCommand::say(const QString &text)

@@ -38,6 +38,8 @@ private:
     void showProblem();
     void showPhase();
     void showKillSwitch();
+    void showVerdict();
+    QString verdictText() const;
     void say(const QString &text);
     void complain(const QString &text);
 
@@ -50,6 +52,7 @@ private:
     SignalWatcher m_signals;
     ProgressLine m_progress;
     QString m_lastReport;
+    QString m_lastVerdict;
     ConnectionPhase m_lastPhase = ConnectionPhase::disconnected;
     std::optional<KillSwitch::State> m_lastKillSwitch;
     bool m_restored = false; // a disconnect has begun since the start

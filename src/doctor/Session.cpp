@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace veldmark::Doctor {
 
@@ -41,6 +42,19 @@ qint64 ourTor(const Machine &machine)
         if (process.user == *account)
             return process.pid;
     return 0;
+}
+
+bool isStrict(const Machine &machine)
+{
+    return Machine::readFile(machine.profile.sessionMarker).trimmed() == QLatin1String("strict");
+}
+
+// The watcher's note is as young as its last word. A look at the computer takes a moment itself.
+bool isWatched(const Machine &machine)
+{
+    constexpr qint64 freshSeconds = 15;
+    const QFileInfo note(machine.profile.killSwitchNote);
+    return note.exists() && std::abs(note.lastModified().secsTo(machine.now)) <= freshSeconds;
 }
 
 } // namespace
@@ -81,6 +95,11 @@ Findings sessionFindings(const Machine &machine)
         return {{sessionName, Level::note,
                  QT_TRANSLATE_NOOP("Doctor", "A session is open, and its kill switch isn't closed: its watcher couldn't put the rules back. Traffic may "
                                              "leave this computer directly. Restore the network, and connect again."),
+                 {}, QStringLiteral("veldmarkctl restore"), Button::restore}};
+    if (isStrict(machine) && !isWatched(machine) && (tor != 0 || !machine.isLinux()))
+        return {{sessionName, Level::note,
+                 QT_TRANSLATE_NOOP("Doctor", "A session is open, and it isn't known whether its kill switch stands: nobody watches over the rules. "
+                                             "Restore the network, and connect again."),
                  {}, QStringLiteral("veldmarkctl restore"), Button::restore}};
     if (tor != 0)
         return {{sessionName, Level::good, QT_TRANSLATE_NOOP("Doctor", "A session is open: the network is set up for Tor, and Tor runs."), {}, {}}};

@@ -183,6 +183,11 @@ QString CircuitsModel::subtitle() const
     return paths + tr(" · click a relay or site to follow it");
 }
 
+QString CircuitsModel::error() const
+{
+    return SessionTexts::translated(m_session.now().circuitError.value_or(QString()));
+}
+
 QString CircuitsModel::optimizeText() const
 {
     return SessionTexts::translated(m_session.now().optimizeStatus.value_or(QString()));

@@ -50,7 +50,7 @@ public:
     bool connected() const { return m_session.now().phase == Phase::connected; }
     bool optimizing() const { return m_session.now().isOptimizing; }
     QString optimizeText() const;
-    QString error() const { return m_session.now().circuitError.value_or(QString()); }
+    QString error() const;
     bool empty() const { return circuits().empty(); }
     QString purpose() const;
 

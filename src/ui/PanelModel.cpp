@@ -131,7 +131,7 @@ QString PanelModel::powerLabel() const
     case Phase::disconnecting:
         return {};
     case Phase::stale:
-        return tr("Reconnect");
+        return m_session.now().isAnothers ? QString() : tr("Reconnect");
     }
     return {};
 }
@@ -141,8 +141,9 @@ bool PanelModel::powerEnabled() const
     const Snapshot &now = m_session.now();
     switch (now.phase) {
     case Phase::disconnected:
-    case Phase::stale:
         return now.torPath.has_value();
+    case Phase::stale: // another process's session is never replaced, only ended
+        return now.torPath.has_value() && !now.isAnothers;
     case Phase::connecting:
         return now.canCancel;
     case Phase::connected:

@@ -71,6 +71,26 @@ namespace {
     QT_TRANSLATE_NOOP("Session", "The helper failed without an error message."),
     QT_TRANSLATE_NOOP("Session", "Add at least one bridge under Bridges → Custom…."),
     QT_TRANSLATE_NOOP("Session", "Some custom bridge lines aren't valid. Fix them under Bridges → Custom…."),
+    QT_TRANSLATE_NOOP("Session", "Connect in strict mode to open apps without Tor"),
+    QT_TRANSLATE_NOOP("Session", "No bridge answered a quick test, trying them all"),
+    QT_TRANSLATE_NOOP("Session", "These bridges need lyrebird, which comes with Tor Browser. Click Download next to Bridges to get it."),
+    QT_TRANSLATE_NOOP("Session", "Snowflake needs snowflake-client, which comes with Tor Browser. Click Download next to "
+                                 "Bridges to get it."),
+    QT_TRANSLATE_NOOP("Session", "Couldn't read the latest Tor version from torproject.org."),
+    QT_TRANSLATE_NOOP("Session", "The request timed out."),
+    QT_TRANSLATE_NOOP("Session", "The server gave no HTTP answer."),
+    QT_TRANSLATE_NOOP("Session", "The connection was lost before the end."),
+    QT_TRANSLATE_NOOP("Session", "Not connected to Tor's control port."),
+    QT_TRANSLATE_NOOP("Session", "Tor closed the control connection."),
+    QT_TRANSLATE_NOOP("Session", "Another program than Tor listens on Tor's control port."),
+    QT_TRANSLATE_NOOP("Session", "Tor didn't answer on its control port in time."),
+    QT_TRANSLATE_NOOP("Session", "Tor isn't installed. Install it with your package manager or set its location in Settings."),
+    QT_TRANSLATE_NOOP("Session", "Tor isn't installed. Install it with Homebrew (brew install tor) or set its location in Settings."),
+    QT_TRANSLATE_NOOP("Session", "The helper script is missing from the app bundle. Rebuild the app with build.sh."),
+    QT_TRANSLATE_NOOP("Session", "Administrator access can't be asked for: polkit is not running on this system."),
+    QT_TRANSLATE_NOOP("Session", "Administrator access can't be asked for: no PolicyKit authentication agent is running in this "
+                                 "session."),
+    QT_TRANSLATE_NOOP("Session", "The password could not be checked: polkit takes none from this terminal. Run it with sudo."),
     QT_TRANSLATE_NOOP("Session", "ssh doesn't go through Tor yet: it needs a netcat that speaks SOCKS. Install the "
                                  "OpenBSD netcat or Ncat with your package manager."),
     QT_TRANSLATE_NOOP("Session", "This computer"),
@@ -123,6 +143,29 @@ constexpr const char *forms[] = {
     QT_TRANSLATE_NOOP("Session", "%1 is connected with Veldmark (process %2). "
                                  "That session must be ended first."),
     QT_TRANSLATE_NOOP("Session", "Another firewall on this computer denies what goes out, so Tor can't connect: %1."),
+    QT_TRANSLATE_NOOP("Session", "Couldn't fix DNS: %1"),
+    QT_TRANSLATE_NOOP("Session", "Couldn't request a new identity: %1"),
+    QT_TRANSLATE_NOOP("Session", "Couldn't read circuits: %1"),
+    QT_TRANSLATE_NOOP("Session", "Couldn't change the login-item setting: %1"),
+    QT_TRANSLATE_NOOP("Session", "Couldn't download bridge programs: %1"),
+    QT_TRANSLATE_NOOP("Session", "Bridge programs %1 installed over HTTPS. Install GnuPG (%2) and download again to also verify "
+                                 "the Tor Project's signature."),
+    QT_TRANSLATE_NOOP("Session", "The download's signature didn't verify, so it was discarded. %1"),
+    QT_TRANSLATE_NOOP("Session", "Couldn't unpack the download. %1"),
+    QT_TRANSLATE_NOOP("Session", "Tor can't reach the bridge program: %1."),
+    QT_TRANSLATE_NOOP("Session", "Tor reports: %1 (%2)."),
+    QT_TRANSLATE_NOOP("Session", "Tor reports: %1."),
+    QT_TRANSLATE_NOOP("Session", "Tor replied: %1"),
+    QT_TRANSLATE_NOOP("Session", "Tor has trouble with the bridge program: %1"),
+    QT_TRANSLATE_NOOP("Session", "The bridge program printed something that Tor doesn't understand: \"%1\"."),
+    QT_TRANSLATE_NOOP("Session", "Using the %1 fastest of %2 bridges"),
+    QT_TRANSLATE_NOOP("Session", "The %1 bridge type isn't supported yet."),
+    QT_TRANSLATE_NOOP("Session", "Built-in %1 bridges come from Tor Browser. Click Download next to Bridges, install Tor "
+                                 "Browser, or paste your own under Bridges → Custom…."),
+    QT_TRANSLATE_NOOP("Session", "Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around "
+                                 "Tor: %1. Strict mode's firewall blocks them."),
+    QT_TRANSLATE_NOOP("Session", "Tor isn't installed. Install it with your package manager (%1) or set its location in Settings."),
+    QT_TRANSLATE_NOOP("Session", "%1 is already being opened."),
     QT_TRANSLATE_NOOP("Session", "%1 Your network is still pointed at Tor. Click Restore Network to undo."),
 };
 

@@ -4,6 +4,7 @@
 #include "instance/InstanceServer.h"
 #include "support/Computer.h"
 #include "support/OtherSession.h"
+#include "support/Output.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 
@@ -26,11 +27,12 @@ QCoro::Task<void> take(Invocation invocation, PlatformProfile profile, std::shar
 }
 
 // What a whole command comes to; nothing when it does not end.
-std::optional<ExitStatus> outcome(Id verb, const PlatformProfile &profile, const QString &key = {})
+std::optional<ExitStatus> outcome(Id verb, const PlatformProfile &profile, const QString &key = {}, const QString &value = {})
 {
     Invocation invocation;
     invocation.verb = verb;
     invocation.key = key;
+    invocation.value = value;
     const auto ended = std::make_shared<std::optional<ExitStatus>>();
     take(invocation, profile, ended);
     until([&ended] { return ended->has_value(); });
@@ -120,6 +122,38 @@ private Q_SLOTS:
             return;
         computer.fail("launch", "The kill switch is not on.");
         QVERIFY(outcome(Id::launch, computer.profile, app) == ExitStatus::failed);
+    }
+
+    void bridgesThatCannotBeUsedAreNamedWhereTheyAreTyped_data()
+    {
+        QTest::addColumn<bool>("running");
+        QTest::newRow("without an instance") << false;
+        QTest::newRow("through a running one") << true;
+    }
+
+    void bridgesThatCannotBeUsedAreNamedWhereTheyAreTyped()
+    {
+        QFETCH(bool, running);
+        Workbench bench;
+        Result<std::unique_ptr<InstanceServer>, QString> server;
+        if (running) {
+            server = InstanceServer::start(bench.controller());
+            QVERIFY(server);
+        }
+        const auto said = [&bench](const QString &lines) {
+            const Output errors(stderr);
+            const auto ended = outcome(Id::set, bench.profile, u"customBridges"_s, lines);
+            return ended == ExitStatus::done ? errors.text() : u"it failed"_s;
+        };
+        QCOMPARE(said(u"192.0.2.1:443\n192.0.2.2:443"_s), QString());
+        QCOMPARE(said(u"192.0.2.1:443\nexample.org:443"_s), u"veldmarkctl: line 2 is not a bridge line: example.org:443\n"_s);
+        QString many;
+        for (int i = 1; i <= 102; ++i)
+            many += u"192.0.2.1:%1\n"_s.arg(i);
+        QCOMPARE(said(many), u"veldmarkctl: 2 too many, from line 101 on; at most 100 can be used\n"_s);
+        if (running)
+            server->reset();
+        settle();
     }
 };
 

@@ -84,6 +84,19 @@ private Q_SLOTS:
         QVERIFY2(report.contains(QStringLiteral("\n  Direct path ") + text + QLatin1Char('\n')), qPrintable(report));
     }
 
+    void claimsThatOnlyTorsTrafficLeavesWhereNothingElseWasSeen()
+    {
+        const QString claim = QStringLiteral("only Tor's traffic leaves");
+        QJsonObject state = object(R"({"phase":"connected","activeMode":"strict","killSwitch":"standing"})");
+        for (const auto &[level, isClaimed] : {std::pair{"good", true}, {"working", true}, {"warning", true}, {"danger", false}}) {
+            state.insert(QStringLiteral("level"), QLatin1String(level)); // a leak or an exposure is a danger
+            QVERIFY2(Report::status(state).contains(claim) == isClaimed, level);
+        }
+        state.insert(QStringLiteral("level"), QStringLiteral("good"));
+        state.insert(QStringLiteral("killSwitch"), QStringLiteral("unknown"));
+        QVERIFY(!Report::status(state).contains(claim));
+    }
+
     void doesNotAdviseToEndAnothersSession()
     {
         QVERIFY(Report::status(object(R"({"phase":"stale","otherSession":{"user":"bob","process":7}})")).contains(

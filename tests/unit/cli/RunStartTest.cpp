@@ -2,6 +2,7 @@
 
 #include "support/Computer.h"
 #include "support/OtherSession.h"
+#include "support/Output.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 
@@ -61,6 +62,33 @@ private Q_SLOTS:
         QVERIFY(finished.at(0).at(0).value<ExitStatus>() == ExitStatus::failed);
         QVERIFY(computer.verbs().isEmpty());
         QVERIFY(computer.hasMarker());
+    }
+
+    // The phase stays the same meanwhile.
+    void tellsWhatBecomesOfASessionThatIsNotItsOwn()
+    {
+        Computer computer;
+        computer.writeMarker();
+        QString atFirst, taken, leftOver;
+        qint64 process = 0;
+        {
+            const Output output;
+            RunCommand run(computer.profile, false);
+            run.start();
+            const auto says = [&output](const QString &words) { return until([&] { return output.text().contains(words); }); };
+            static_cast<void>(says(u"from an earlier session"_s));
+            atFirst = output.text();
+            OtherSession other(computer.profile);
+            process = other.process();
+            static_cast<void>(says(u"process %1"_s.arg(process)));
+            taken = output.text().sliced(atFirst.size());
+            other.end();
+            static_cast<void>(until([&] { return output.text().sliced(atFirst.size() + taken.size()).contains(u"earlier"_s); }));
+            leftOver = output.text().sliced(atFirst.size() + taken.size());
+        }
+        QCOMPARE(atFirst.count(u"from an earlier session"_s), 1);
+        QVERIFY2(taken.contains(u"by another Veldmark of yours, process %1"_s.arg(process)), qPrintable(taken));
+        QVERIFY2(leftOver.contains(u"from an earlier session"_s), qPrintable(leftOver));
     }
 };
 

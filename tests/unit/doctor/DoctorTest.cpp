@@ -198,8 +198,26 @@ const std::vector<Case> &cases()
         {"an earlier session", [](TestMachine &m) { m.write("/var/lib/veldmark/state/active", "strict\n"); }, "session", Level::note,
          "from an earlier session, and no Tor runs", "veldmarkctl restore"},
         {"a session that is open",
-         [](TestMachine &m) { m.write("/var/lib/veldmark/state/active", "strict\n"); m.process(950, "tor", 990); }, "session", Level::good,
-         "A session is open", nullptr},
+         [](TestMachine &m) {
+             m.write("/var/lib/veldmark/state/active", "strict\n");
+             m.write("/run/veldmark.watch", "standing 0 1795307640\n");
+             m.process(950, "tor", 990);
+         },
+         "session", Level::good, "A session is open: the network is set up", nullptr},
+        {"a session in proxy mode, which has no kill switch",
+         [](TestMachine &m) { m.write("/var/lib/veldmark/state/active", "proxy\n"); m.process(950, "tor", 990); }, "session", Level::good,
+         "A session is open: the network is set up", nullptr},
+        {"a session whose watcher has never spoken",
+         [](TestMachine &m) { m.write("/var/lib/veldmark/state/active", "strict\n"); m.process(950, "tor", 990); }, "session", Level::note,
+         "it isn't known whether its kill switch stands", "veldmarkctl restore"},
+        {"a session whose watcher has ended",
+         [](TestMachine &m) {
+             m.write("/var/lib/veldmark/state/active", "strict\n");
+             m.write("/run/veldmark.watch", "standing 0 1795307640\n");
+             m.machine.now = m.machine.now.addSecs(60);
+             m.process(950, "tor", 990);
+         },
+         "session", Level::note, "it isn't known whether its kill switch stands", "veldmarkctl restore"},
         {"a session whose kill switch is open",
          [](TestMachine &m) {
              m.write("/var/lib/veldmark/state/active", "strict\n");
@@ -213,7 +231,7 @@ const std::vector<Case> &cases()
              m.write("/run/veldmark.watch", "restored 4 1795307640\n");
              m.process(950, "tor", 990);
          },
-         "session", Level::good, "A session is open", nullptr},
+         "session", Level::good, "A session is open: the network is set up", nullptr},
         {"a Tor without a session", [](TestMachine &m) { m.process(950, "tor", 990); }, "session", Level::note, "(process 950)",
          "sudo bash ROOT/usr/share/veldmark/veldmark-helper.sh disconnect"},
     };

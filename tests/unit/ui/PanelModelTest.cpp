@@ -339,6 +339,25 @@ private Q_SLOTS:
         QVERIFY(session.asked.isEmpty());
     }
 
+    // It would be refused: the session belongs to a process that runs.
+    void offersNoReconnectOverAnothersSession()
+    {
+        StandInSession session(profile);
+        PanelModel panel(session);
+        Snapshot s = idle();
+        s.phase = Phase::stale;
+        s.markerPresent = true;
+        session.show(s);
+        QVERIFY(panel.powerEnabled() && !panel.powerLabel().isEmpty());
+        s.isAnothers = true;
+        session.show(s);
+        session.asked.clear();
+        QVERIFY(!panel.powerEnabled() && panel.powerLabel().isEmpty());
+        panel.pressPower();
+        QVERIFY(session.asked.isEmpty());
+        QVERIFY(panel.canRestore()); // which ends it
+    }
+
     void namesTheModeOrTheBridge()
     {
         StandInSession session(profile);
