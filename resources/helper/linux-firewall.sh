@@ -72,7 +72,8 @@ END
 # loopback: what stays on this computer. Only packets that open a connection, or answer that, are looked at more closely: later ones
 # may belong to a socket that its program has closed already.
 # A look-up too short for its own header (12 bytes after the 8 of UDP) ends some versions of Tor.
-# opening: Tor's own connections to its transports are remembered; whoever has the same ports later is somebody else.
+# opening: Tor's own connections to its transports are remembered; whoever has the same ports later is somebody else. Nobody opens one
+# from Tor's ports: two openings that meet are a connection, so a false listener would not have to answer.
 # control_port: only root, the session's user and Tor may open Tor's control port.
 # answering: nobody but Tor answers at Tor's ports, else a false listener gets the control password and what others ask while Tor is
 # away. And a transport answers Tor alone, else everybody could use it as a tunnel to a server of their own, from the real
@@ -98,6 +99,7 @@ print_side_chains() {
 	chain opening {
 		tcp flags & ack == ack goto answering
 		$(tors_key "$1") update @tors_own { ip saddr . tcp sport . ip daddr . tcp dport } accept
+		$ports reject with tcp reset
 		delete @tors_own { ip saddr . tcp sport . ip daddr . tcp dport }
 		tcp dport $CONTROL_PORT ip daddr 127.0.0.0/8 goto control_port
 		accept
@@ -267,10 +269,16 @@ END
   printf '\t}\n}\n'
 }
 
-# kill_switch_stands: asks the kernel; the marker alone may be from before a restart of the computer.
+# kill_switch_stands: asks the kernel; the marker alone may be from before a restart of the computer. Status 2 when it cannot be told.
 kill_switch_stands() {
   local output
-  output=$(nft list chain inet "$TABLE" output) && [[ $output == *"policy drop;"* ]]
+  if output=$(nft list chain inet "$TABLE" output 2>&1); then
+    [[ $output == *"policy drop;"* ]]
+  elif [[ $output != *"No such file or directory"* ]]; then
+    return 2
+  else
+    return 1
+  fi
 }
 
 # check_firewall: the system's firewall can be used at all, which is to be known before anything is changed.
