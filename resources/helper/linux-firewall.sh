@@ -77,12 +77,13 @@ END
 # control_port: only root, the session's user and Tor may open Tor's control port.
 # answering: nobody but Tor answers at Tor's ports, else a false listener gets the control password and what others ask while Tor is
 # away. And a transport answers Tor alone, else everybody could use it as a tunnel to a server of their own, from the real
-# address. An answer of a flooded listener (a SYN cookie) belongs to no socket and passes for nobody's.
+# address. At [::1], which "localhost" means as well, Tor itself does not listen. An answer of a flooded listener (a SYN cookie) belongs to no socket and passes for nobody's.
 # redirected: what is meant for this computer, but was on its way out until its address was changed; after that the packet still
 # carries the device that it was to leave by.
 # refused: so that applications fail at once.
 print_side_chains() {
   local users="0, $1" ports="ip saddr 127.0.0.1 tcp sport { $SOCKS_PORT, $CONTROL_PORT }"
+  local beside="ip6 saddr ::1 tcp sport { $SOCKS_PORT, $CONTROL_PORT }"
   [[ $2 == 0 ]] || users="$users, $2"
   cat <<END
 	set tors_own {
@@ -100,6 +101,7 @@ print_side_chains() {
 		tcp flags & ack == ack goto answering
 		$(tors_key "$1") update @tors_own { ip saddr . tcp sport . ip daddr . tcp dport } accept
 		$ports reject with tcp reset
+		$beside reject with tcp reset
 		delete @tors_own { ip saddr . tcp sport . ip daddr . tcp dport }
 		tcp dport $CONTROL_PORT ip daddr 127.0.0.0/8 goto control_port
 		accept
@@ -111,6 +113,7 @@ print_side_chains() {
 	chain answering {
 		$ports meta skuid $1 accept
 		$ports reject with tcp reset
+		$beside reject with tcp reset
 		ip daddr . tcp dport . ip saddr . tcp sport @tors_own accept
 		meta skuid $1 reject with tcp reset
 		meta skuid 0-4294967294 accept

@@ -113,6 +113,24 @@ class Hostile(HelperTest):
                 end()
             self.machine.help("disconnect")
 
+    def test_nobody_answers_at_tors_ports_of_the_other_loopback_address(self):
+        """Programs that are told "localhost:9050" try it first."""
+        serve, ask = (text.replace("'127.0.0.1'", "'::1'").replace("socket.socket()", "socket.socket(socket.AF_INET6)").replace(
+            "create_server((", "create_server(family=socket.AF_INET6, address=(") for text in (SERVER, CLIENT))
+
+        def reached(port):
+            server = self.machine.start("/usr/bin/python3", "-c", serve, str(port), uid=OTHER_UID, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+            port = server.stdout.readline().strip()
+            try:
+                return self.machine.run("/usr/bin/python3", "-c", ask, port, "0", "2", uid=USER_UID).stdout.strip() == "hello"
+            finally:
+                server.communicate()
+        self.assertTrue(reached(9050))
+        for strict in 1, 0:
+            self.machine.connect(strict=strict)
+            self.assertEqual([reached(port) for port in (9050, 9051, 0)], [False, False, True])
+            self.machine.help("disconnect")
+
     def test_nobody_takes_tors_place_without_answering(self):
         """While Tor is away: an opening packet from Tor's port meets that of who waits for Tor, and neither has been answered."""
         for strict in 1, 0:
