@@ -213,7 +213,7 @@ class Watcher(HelperTest):
         """As after an upgrade of nft: neither an alarm nor loading without end."""
         for edit in ("s/ { 9050/  {  9050/", "s/priority filter/priority 0/"):
             with self.subTest(edit):
-                self.machine.shell("cp /usr/sbin/nft /mnt/real; : >/mnt/loads; printf '%s\\n' '#!/bin/sh' '[ \"$1\" != -f ] || echo >>/mnt/loads' "
+                self.machine.shell("cp --remove-destination /usr/sbin/nft /mnt/real; : >/mnt/loads; printf '%s\\n' '#!/bin/sh' '[ \"$1\" != -f ] || echo >>/mnt/loads' "
                                    "'case \"$*\" in *list*) /mnt/real \"$@\" | sed \"'\"$1\"'\" ;; *) exec /mnt/real \"$@\" ;; esac' >/mnt/nft;"
                                    "chmod +x /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft", edit)
                 try:
@@ -223,7 +223,7 @@ class Watcher(HelperTest):
                     self.assertEqual(self.note(), "standing 0")
                     self.assertLess(len(self.machine.shell("cat /mnt/loads")), 4)
                 finally:
-                    self.machine.shell("umount /usr/sbin/nft; rm /mnt/nft /mnt/real /mnt/loads")
+                    self.machine.shell("umount -l /usr/sbin/nft; mv /mnt/nft /mnt/nft.former; rm /mnt/loads")   # the watcher may run it just now
                 self.machine.help("disconnect")
                 self.machine.connect()
                 self.machine.await_watcher()

@@ -8,13 +8,14 @@ import os
 import socket
 import subprocess
 import sys
+import time
 
 TOR_PORTS = {9050, 9051}
 DNS_PORT = 293
+GROUP = "/sys/fs/cgroup/desktop"   # everybody may kill what is in it
 OWN_TOR = "/opt/own/tor"
 HASH = "16:" + "0123456789ABCDEF" * 3 + "0123456789"   # as in case.py, which this program cannot import
-OTHER_HASH = HASH[:-1] + "F"
-STRICT = ["--strict", "1", "--lan"]
+PROXY = ["--strict", "0", "--lan", "0"]
 
 
 def listening(uid):
@@ -56,12 +57,43 @@ def beside_tor():
             return False
 
 
+def place():
+    """Listens in Tor's place, where Tor is away; it is enough that it answers itself."""
+    for family, address, port in ((socket.AF_INET, "127.0.0.1", 9050), (socket.AF_INET, "127.0.0.1", 9051), (socket.AF_INET6, "::1", 9050)):
+        with socket.create_server((address, port), family=family), socket.socket(family) as caller:
+            caller.settimeout(0.5)
+            if caller.connect_ex((address, port)) == 0:
+                return True
+    return False
+
+
+def is_watched():
+    for pid in filter(str.isdigit, os.listdir("/proc")):
+        try:
+            with open(f"/proc/{pid}/cmdline", "rb") as words:
+                if words.read().endswith(b"/watcher.sh\0"):
+                    return True
+        except OSError:
+            pass
+    return False
+
+
+def kill():
+    """Everything in the group that the session was begun in."""
+    with open(f"{GROUP}/cgroup.kill", "w", encoding="ascii") as group:
+        group.write("1")
+    deadline = time.monotonic() + 0.5
+    while is_watched() and time.monotonic() < deadline:
+        time.sleep(0.02)
+    return not is_watched()
+
+
 def by_rule(*words):
     return subprocess.run(["sudo", "-n", sys.argv[1], *words], capture_output=True, stdin=subprocess.DEVNULL, check=False).returncode == 0
 
 
-def connect(*more, tor="/usr/bin/tor", password=HASH):
-    return by_rule("connect", "--tor", tor, "--hash", password, *more)
+def connect(*more, tor="/usr/bin/tor"):
+    return by_rule("connect", "--tor", tor, "--hash", HASH, *more)
 
 
 def approve():
@@ -73,12 +105,13 @@ def approve():
 ATTACKS = {
     "tunnel": (tunnel, "a bridge program's port as a tunnel"),
     "beside": (beside_tor, "a second socket at Tor's port for look-ups"),
-    "proxy": (lambda: connect("--strict", "0", "--lan", "0"), "by the rule: proxy mode"),
-    "lan": (lambda: connect(*STRICT, "1"), "by the rule: the local network"),
-    "password": (lambda: connect(*STRICT, "0", password=OTHER_HASH), "by the rule: another control password"),
-    "interpreter": (lambda: connect(*STRICT, "0", "--bridge", "obfs4 192.0.2.1:443 cert=a iat-mode=0", "--pt-lyrebird", "/opt/interpreter/program"),
+    "place": (place, "listening in Tor's place while it is away"),
+    "kill": (kill, "an end of the control group that it was begun in"),
+    "proxy": (lambda: connect(*PROXY), "by the rule: proxy mode"),
+    "lan": (lambda: connect("--strict", "1", "--lan", "1"), "by the rule: the local network"),
+    "interpreter": (lambda: connect(*PROXY, "--bridge", "obfs4 192.0.2.1:443 cert=a iat-mode=0", "--pt-lyrebird", "/opt/interpreter/program"),
                     "by the rule: an interpreter as a bridge program"),
-    "program": (lambda: connect(*STRICT, "0", tor=OWN_TOR), "by the rule: a Tor of one's own"),
+    "program": (lambda: connect(*PROXY, tor=OWN_TOR), "by the rule: a Tor of one's own"),
     "approval": (lambda: approve(), "by the rule: an approval of it"),
     "launch": (lambda: by_rule("launch", "--uid", str(os.getuid()), "--app", "/bin/true"), "by the rule: an application without Tor"),
 }

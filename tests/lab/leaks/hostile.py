@@ -18,8 +18,8 @@ INDICES = (6, 7)   # of their probes
 INSTALLED = "/usr/local/libexec/veldmark/veldmark-helper.sh"
 ELSEWHERE = "/opt/own/veldmark-helper.sh"   # where sudo's rule is an administrator's word
 RULE = "/etc/sudoers.d/veldmark"
-LESSENING = ("proxy", "lan", "password")
-BY_RULE = (*LESSENING, "interpreter", "program", "approval", "launch")
+BY_RULE = ("proxy", "lan", "interpreter", "program", "approval", "launch")
+AWAY = "pkill -KILL -u _veldmark; while pgrep -u _veldmark; do sleep 0.01; done"
 # bridges, password-free, local network: each pair of settings is in one of them
 SESSIONS = ((True, False, 0), (False, True, 0), (False, False, 1), (True, True, 1))
 PACKETS = {"ordinary packets": probes.CORE, "by a setuid file of Tor's account": ("HTTP",), "by a port mapping of others": ("SSH",)}
@@ -50,6 +50,8 @@ class HostileRows:
                 f"cp /usr/bin/tor /opt/own/tor; chown {self.host.uid} /opt/own/tor; cp $(readlink -f /usr/bin/python3) /opt/own/left;"
                 f"chown _veldmark /opt/own/left; chmod 4755 /opt/own/left; cp {INSTALLED} {ELSEWHERE}; cp {PROGRAMS}/veldmark-launch /opt/own")
         stack.callback(self.sh, f"rm -rf /opt/own /opt/interpreter /usr/local/libexec/veldmark {RULE} /run/hostile")
+        self.sh(f"mkdir {attacks.GROUP}; chmod 666 {attacks.GROUP}/cgroup.kill")
+        stack.callback(self.sh, f"rmdir {attacks.GROUP}")
         maps = "; ".join(f"ip daddr 192.168.77.2 tcp dport 80{i} dnat to {probes.public(i)}:22" for i in INDICES)
         self.sh(f"nft -f - <<<'table ip other {{ chain o {{ type nat hook output priority -100; {maps}; }}; }}'")
         stack.callback(self.sh, "nft delete table ip other")
@@ -91,35 +93,42 @@ class HostileRows:
 
     def begin(self, bridges, lan):
         more = self.bridge_words() if bridges else []
-        self.helper("connect", "--tor", "/usr/bin/tor", "--hash", HASH, "--strict", "1", "--lan", str(lan), *more)
+        self.sh(f'echo 0 >{attacks.GROUP}/cgroup.procs; PKEXEC_UID=$0 exec "$@"', str(self.host.uid), "/bin/bash", str(PROGRAMS / "veldmark-helper.sh"), "connect",
+                "--tor", "/usr/bin/tor", "--hash", HASH, "--strict", "1", "--lan", str(lan), *more)
         if bridges:   # until the bridge program serves
             self.sh("until grep -c ' 0A .* '$(id -u _veldmark)' ' /proc/net/tcp | grep -q 3; do sleep 0.05; done", timeout=30)
 
     def without_defence(self, rows):
         self.packets(rows, "control")
-        # A session that runs is what keeps it from being lessened.
-        self.allow(INSTALLED)
-        for name in LESSENING:
-            self.attack(rows, "control", name, after=self.disconnect)
-        # An interpreter is kept out by its name.
-        self.sh("mv /opt/interpreter/program /opt/interpreter/lyrebird; ln -s lyrebird /opt/interpreter/program")
-        self.attack(rows, "control", "interpreter", after=self.disconnect)
-        self.sh("rm /opt/interpreter/program; mv /opt/interpreter/lyrebird /opt/interpreter/program")
-        # An approval and an application are kept out by the rule's place, a program of one's own by the approval that it lacks.
+        # An approval and an application are kept out by the rule's place.
         self.allow(ELSEWHERE)
         self.attack(rows, "control", "approval", helper=ELSEWHERE)
         self.begin(False, 0)
         self.attack(rows, "control", "launch", helper=ELSEWHERE)
         self.disconnect()
+        # The local network and proxy mode are kept out by the session that runs, an interpreter by its name, a program of one's own by
+        # the approval that it lacks.
         self.allow(INSTALLED)
-        self.attack(rows, "control", "program", after=self.disconnect)
+        self.attack(rows, "control", "lan", after=self.disconnect)
+        self.sh("mv /opt/interpreter/program /opt/interpreter/lyrebird; ln -s lyrebird /opt/interpreter/program")
+        self.attack(rows, "control", "proxy", "interpreter", "program")
+        self.sh("rm /opt/interpreter/program; mv /opt/interpreter/lyrebird /opt/interpreter/program")
+        self.disconnect()
         self.sh("rm -r /var/lib/veldmark/programs/*")
         self.allow(None)
         self.begin(True, 0)
         self.sh("pkill -STOP -f watcher[.]sh; for c in answering opening; do nft flush chain inet veldmark $c; nft add rule inet veldmark $c accept; done;"
                 "sysctl -qw net.ipv4.ip_unprivileged_port_start=0")
         self.attack(rows, "control", "tunnel", "beside")
-        self.sh("sysctl -qw net.ipv4.ip_unprivileged_port_start=1024; pkill -CONT -f watcher[.]sh")
+        self.sh(f"sysctl -qw net.ipv4.ip_unprivileged_port_start=1024; {AWAY}")
+        self.attack(rows, "control", "place")
+        self.sh("pkill -CONT -f watcher[.]sh")
+
+        def in_reach():
+            self.helper("fix-dns")
+            self.sh(f"pgrep -o -f watcher[.]sh >{attacks.GROUP}/cgroup.procs")
+        in_reach()
+        self.attack(rows, "control", "kill", after=in_reach)
         self.disconnect()
 
     def attacked_session(self, rows, bridges, free, lan):
@@ -130,7 +139,10 @@ class HostileRows:
             state = self.truth()
             self.attack(rows, "session", "beside", *BY_RULE, *(["tunnel"] if bridges else []))
             self.packets(rows, "session")
+            self.attack(rows, "session", "kill")
             self.assertEqual(self.truth(), state)
+            self.sh(AWAY)
+            self.attack(rows, "session", "place")
         finally:
             self.disconnect()
 
