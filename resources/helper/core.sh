@@ -39,7 +39,9 @@ PATH=/usr/sbin:/usr/bin:/sbin:/bin
 LC_ALL=C
 export PATH LC_ALL
 
-SAID=''         # set once a message has gone to standard error
+SAID=''         # set once there was a message
+LOCKED=''       # set while what we say has to wait until we let go of our locks
+MESSAGE=''      # what waits
 CALLER_UID=''   # whose session this is: the uid that sudo or pkexec reports, else 0
 PROMPTED=''     # 1 when an administrator approved this very run, empty under the password-free rule
 BY_DIALOG=''    # 1 when that was in a dialog that showed no more than the verb
@@ -54,10 +56,15 @@ open_messages() {
   exec 2>/dev/null
 }
 
-# say TEXT: one line for the user. Never fails, also when nobody reads it any more.
+# say TEXT: one line for the user. Never fails, also when nobody reads it any more. Whoever has us write into a full pipe makes us
+# wait, so nothing is said while others wait for us: finish says it.
 say() {
   SAID=1
-  printf 'ERROR: %s\n' "$1" >&8 || true
+  if [[ -n $LOCKED ]] && ((BASH_SUBSHELL == 0)); then
+    MESSAGE=${MESSAGE:-$1}
+  else
+    printf 'ERROR: %s\n' "$1" >&8 || true
+  fi
 }
 
 die() {

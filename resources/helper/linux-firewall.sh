@@ -72,16 +72,18 @@ END
 # loopback: what stays on this computer. Only packets that open a connection, or answer that, are looked at more closely: later ones
 # may belong to a socket that its program has closed already.
 # A look-up too short for its own header (12 bytes after the 8 of UDP) ends some versions of Tor.
-# opening: Tor's own connections to its transports are remembered; whoever has the same ports later is somebody else.
+# opening: Tor's own connections to its transports are remembered; whoever has the same ports later is somebody else. Nobody opens one
+# from Tor's ports: two openings that meet are a connection, so a false listener would not have to answer.
 # control_port: only root, the session's user and Tor may open Tor's control port.
 # answering: nobody but Tor answers at Tor's ports, else a false listener gets the control password and what others ask while Tor is
 # away. And a transport answers Tor alone, else everybody could use it as a tunnel to a server of their own, from the real
-# address. An answer of a flooded listener (a SYN cookie) belongs to no socket and passes for nobody's.
+# address. At [::1], which "localhost" means as well, Tor itself does not listen. An answer of a flooded listener (a SYN cookie) belongs to no socket and passes for nobody's.
 # redirected: what is meant for this computer, but was on its way out until its address was changed; after that the packet still
 # carries the device that it was to leave by.
 # refused: so that applications fail at once.
 print_side_chains() {
   local users="0, $1" ports="ip saddr 127.0.0.1 tcp sport { $SOCKS_PORT, $CONTROL_PORT }"
+  local beside="ip6 saddr ::1 tcp sport { $SOCKS_PORT, $CONTROL_PORT }"
   [[ $2 == 0 ]] || users="$users, $2"
   cat <<END
 	set tors_own {
@@ -98,6 +100,8 @@ print_side_chains() {
 	chain opening {
 		tcp flags & ack == ack goto answering
 		$(tors_key "$1") update @tors_own { ip saddr . tcp sport . ip daddr . tcp dport } accept
+		$ports reject with tcp reset
+		$beside reject with tcp reset
 		delete @tors_own { ip saddr . tcp sport . ip daddr . tcp dport }
 		tcp dport $CONTROL_PORT ip daddr 127.0.0.0/8 goto control_port
 		accept
@@ -109,6 +113,7 @@ print_side_chains() {
 	chain answering {
 		$ports meta skuid $1 accept
 		$ports reject with tcp reset
+		$beside reject with tcp reset
 		ip daddr . tcp dport . ip saddr . tcp sport @tors_own accept
 		meta skuid $1 reject with tcp reset
 		meta skuid 0-4294967294 accept
@@ -267,10 +272,16 @@ END
   printf '\t}\n}\n'
 }
 
-# kill_switch_stands: asks the kernel; the marker alone may be from before a restart of the computer.
+# kill_switch_stands: asks the kernel; the marker alone may be from before a restart of the computer. Status 2 when it cannot be told.
 kill_switch_stands() {
   local output
-  output=$(nft list chain inet "$TABLE" output) && [[ $output == *"policy drop;"* ]]
+  if output=$(nft list chain inet "$TABLE" output 2>&1); then
+    [[ $output == *"policy drop;"* ]]
+  elif [[ $output != *"No such file or directory"* ]]; then
+    return 2
+  else
+    return 1
+  fi
 }
 
 # check_firewall: the system's firewall can be used at all, which is to be known before anything is changed.

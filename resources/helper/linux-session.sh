@@ -13,7 +13,7 @@ switch_firewall() {
 }
 
 linux_connect() {
-  local mode=proxy former
+  local mode=proxy former status=0
   parse_connect "$@"
   [[ $OPT_STRICT == 0 ]] || mode=strict
   need_programs flock nft setpriv unshare setsid getent stat sync mount umount sha256sum timeout readlink
@@ -32,8 +32,10 @@ linux_connect() {
 
   # From here on the network changes. A strict session in force stays so until its successor stands.
   former=$(read_marker)
-  if [[ $former == strict ]] && ! kill_switch_stands; then
-    former=''
+  if [[ $former == strict ]]; then
+    kill_switch_stands || status=$?
+    ((status != 2)) || die "The firewall cannot be looked at, so nothing was done."
+    ((status == 0)) || former=''
   fi
   if [[ $former == strict ]]; then
     guard_session

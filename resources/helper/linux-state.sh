@@ -32,6 +32,7 @@ take_lock() {
   cd /
   leave_caller
   trap finish EXIT
+  LOCKED=1
   [[ ! -L $LOCK ]] || die "The lock file $LOCK is a link, so nothing was done."
   { exec 9>>"$LOCK"; } || die "The lock file $LOCK cannot be opened."
   flock -w "$LOCK_SECONDS" 9 || die "Another run of the helper is still working. Try again in a moment."
@@ -41,7 +42,7 @@ take_lock() {
 # lifted stays.
 lift_limits() {
   local kind
-  for kind in f t v d m u; do ulimit -"$kind" unlimited || ulimit -S"$kind" hard || true; done
+  for kind in f t v d m u i; do ulimit -"$kind" unlimited || ulimit -S"$kind" hard || true; done
   [[ ! $(ulimit -n) =~ ^[0-9]{1,3}$ ]] || ulimit -Sn 4096 || ulimit -n 4096 || true
   [[ ! $(ulimit -s) =~ ^[0-9]{1,3}$ ]] || ulimit -Ss 8192 || ulimit -s 8192 || true
 }
@@ -132,7 +133,7 @@ as_account() {
   [[ $uid != "$CALLER_UID" ]] || group=$HOME_GROUP   # a user's own programs are of the user's group
   shift 5
   # shellcheck disable=SC2016
-  timeout -k 1 "$seconds" /bin/bash -p -c 'exec 9>&-; [[ -z $0 ]] || printf "0\n" >"$0/cgroup.procs"; exec "$@"' "$group" \
+  timeout -k 1 "$seconds" /bin/bash -p -c 'exec 7>&- 9>&-; [[ -z $0 ]] || printf "0\n" >"$0/cgroup.procs"; exec "$@"' "$group" \
     env -i --default-signal PATH="$PATH" LC_ALL=C HOME="$home" \
     setpriv --reuid "$uid" --regid "$gid" "$groups" --no-new-privs --bounding-set=-all --inh-caps=-all \
     --ambient-caps=-all "$@" 8>&-

@@ -99,14 +99,42 @@ await_change() {
   done
 }
 
+# ports_are_tors: whether nobody but Tor of this session listens at Tor's ports; nobody at all will do. Who was found to be Tor is
+# not asked again. A Tor that ends just now is looked at twice.
+VOUCHED=''
+ports_are_tors() {
+  local round sockets line child strange
+  for round in 1 2; do
+    sockets=$(port_sockets)
+    [[ -n $sockets && $sockets != "$VOUCHED" ]] || return 0
+    CHILDREN='' strange=''
+    ! journal_read "$TOR_ENTRY" || read_children "$(recorded_pid)"
+    while IFS= read -r line; do
+      for child in $CHILDREN 0; do
+        ! has_socket "$child" "${line##* }" || break
+      done
+      [[ $child != 0 ]] || strange=1
+    done <<<"$sockets"
+    if [[ -z $strange ]]; then
+      VOUCHED=$sockets
+      return 0
+    fi
+    ((round == 2)) || sleep 0.1
+  done
+  return 1
+}
+
+# Where somebody else listens in Tor's place, nothing is vouched for: the note is left to grow old.
 watch_rules() {
   local again
   exec 4< <(monitor_rules)
   while [[ $(read_marker) == strict ]]; do
-    if rules_stand; then
+    if ! rules_stand; then
+      relock
+    elif ports_are_tors; then
       note_rules standing || true
     else
-      relock
+      NOTED=''
     fi
     await_change || {
       # Look on, and ask again.
@@ -122,10 +150,11 @@ watch_rules() {
 print_watcher() {
   printf 'set -uo pipefail\numask 077\nPATH=%s\nLC_ALL=C\nexport PATH LC_ALL\ncd /\n' "$PATH"
   declare -p TABLE RULES LISTED RULES_LOCK MARKER KILL_SWITCH_NOTE WATCH_SECONDS BEAT_SECONDS EXEMPT_NAME RUN_GROUP TOR_GROUP CGROUPS \
-    WORD MISSED SINCE NOTED
-  printf 'STRUGGLES=0 LESSENED= LISTING= TREE=\n'
+    WORD MISSED SINCE NOTED JOURNAL TOR_ENTRY SOCKS_PORT CONTROL_PORT DNS_PORT
+  printf 'STRUGGLES=0 LESSENED= LISTING= TREE= TOR_UID= VOUCHED= CHILDREN= START_TIME= JOURNAL_LINES=()\n'
   declare -f read_marker put_in_place write_file note_rules hold_rules release_rules note_listing rules_stand find_tree make_group make_groups read_listing copy_stands \
-    print_unexempt relock monitor_rules beat await_change watch_rules
+    print_unexempt relock monitor_rules beat await_change port_sockets has_socket \
+    journal_has journal_read read_lines journal_value boot_id start_time recorded_pid read_children ports_are_tors watch_rules
   printf 'watch_rules\n'
 }
 

@@ -27,6 +27,9 @@ finish() {
     fi
   fi
   end_run || true
+  exec 7>&- 9>&-
+  LOCKED=''
+  [[ -z $MESSAGE ]] || say "$MESSAGE"
   exit "$status"
 }
 

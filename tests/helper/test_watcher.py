@@ -134,6 +134,38 @@ class Watcher(HelperTest):
         time.sleep(2 * 3 + 1)
         self.assertEqual(os.stat(self.note_path).st_mtime_ns, before)
 
+    def test_nothing_is_vouched_for_while_somebody_else_listens_at_tors_ports(self):
+        listen = ("import socket, sys; s = socket.create_server(('127.0.0.1', int(sys.argv[1]))) if sys.argv[1] != '293' else socket.socket(type=socket.SOCK_DGRAM)\n"
+                  "if sys.argv[1] == '293': s.bind(('127.0.0.1', 293))\nprint('up', flush=True); sys.stdin.read()")
+
+        def is_young():
+            return time.time() - os.stat(self.note_path).st_mtime < 1
+
+        def becomes(young):
+            deadline = time.monotonic() + 10
+            while is_young() != young:
+                self.assertLess(time.monotonic(), deadline, f"young: {young}")
+                time.sleep(0.05)
+        # Tor's own account is no proof: what counts is that it is this session's.
+        tor = int(self.machine.shell("id -u _veldmark"))
+        for port, uid in (9050, namespace.OTHER_UID), (9051, tor), (293, 0):
+            with self.subTest(port):
+                self.machine.shell("pkill -KILL -u _veldmark; while pgrep -u _veldmark; do sleep 0.01; done")
+                for _ in range(40):
+                    self.assertTrue(is_young(), "where nobody listens, nobody is in Tor's place")
+                    time.sleep(0.1)
+                process = self.machine.start("/usr/bin/python3", "-c", listen, str(port), uid=uid, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+                self.addCleanup(process.kill)
+                self.assertEqual(process.stdout.readline(), "up\n")
+                becomes(young=False)
+                process.communicate()
+                becomes(young=True)
+                self.assertEqual(self.note(), "standing 0")
+                self.machine.connect()
+                for _ in range(40):
+                    self.assertTrue(is_young(), "Tor of a session that was begun again")
+                    time.sleep(0.1)
+
     def test_the_note_is_there_when_the_helper_has_ended(self):
         """The application asks then, perhaps before the watcher has looked."""
         self.machine.help("disconnect")
@@ -181,7 +213,7 @@ class Watcher(HelperTest):
         """As after an upgrade of nft: neither an alarm nor loading without end."""
         for edit in ("s/ { 9050/  {  9050/", "s/priority filter/priority 0/"):
             with self.subTest(edit):
-                self.machine.shell("cp /usr/sbin/nft /mnt/real; : >/mnt/loads; printf '%s\\n' '#!/bin/sh' '[ \"$1\" != -f ] || echo >>/mnt/loads' "
+                self.machine.shell("cp --remove-destination /usr/sbin/nft /mnt/real; : >/mnt/loads; printf '%s\\n' '#!/bin/sh' '[ \"$1\" != -f ] || echo >>/mnt/loads' "
                                    "'case \"$*\" in *list*) /mnt/real \"$@\" | sed \"'\"$1\"'\" ;; *) exec /mnt/real \"$@\" ;; esac' >/mnt/nft;"
                                    "chmod +x /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft", edit)
                 try:
@@ -191,7 +223,7 @@ class Watcher(HelperTest):
                     self.assertEqual(self.note(), "standing 0")
                     self.assertLess(len(self.machine.shell("cat /mnt/loads")), 4)
                 finally:
-                    self.machine.shell("umount /usr/sbin/nft; rm /mnt/nft /mnt/real /mnt/loads")
+                    self.machine.shell("umount -l /usr/sbin/nft; mv /mnt/nft /mnt/nft.former; rm /mnt/loads")   # the watcher may run it just now
                 self.machine.help("disconnect")
                 self.machine.connect()
                 self.machine.await_watcher()

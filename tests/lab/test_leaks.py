@@ -15,6 +15,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parent))
 
 from leaks import matrix, probes  # noqa: E402
 from leaks.case import EVERYBODY, HASH, PROGRAMS, SENDER, LeakCase, Seen  # noqa: E402
+from leaks.hostile import HostileRows  # noqa: E402
 from leaks.matrix import ABSENT, CLOSED, OPEN  # noqa: E402
 from veldlab import topology as at  # noqa: E402
 from veldlab.lab import PROJECT  # noqa: E402
@@ -25,7 +26,7 @@ NEVER_LAN = ("DNS to the gateway", "DNS to a neighbour", "mDNS", "mDNS, IPv6", "
              "NetBIOS datagrams")
 
 
-class Leaks(LeakCase):
+class Leaks(HostileRows, LeakCase):
     def test_1_every_kind_of_packet(self):
         self.matrix.add_kinds(self.run_probes(list(probes.PROBES)).counts(), "control")
         with self.session():
@@ -322,6 +323,10 @@ class Leaks(LeakCase):
             self.assertGreater(sum(self.run_probes(probes.CORE, [2]).counts().values()), 0, "in the group its TCP goes out")
             cells[2].session = sum(self.run_probes(probes.CORE, [2], within=False).counts().values())
         self.assert_kept()
+
+    def test_e_programs_without_roots_rights(self):
+        """Of the session's user and of another account: what they try against the session itself."""
+        self.hostile_rows()
 
 
 if __name__ == "__main__":

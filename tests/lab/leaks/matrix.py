@@ -62,7 +62,8 @@ class Cell:
 
 
 class Matrix:
-    def __init__(self):
+    def __init__(self, identities=IDENTITIES):
+        self.identities = identities
         self.rows: dict[str, list[Cell]] = {}
         self.strangers: dict[str, list] = {}   # packets that are nobody's and not on the allow-list
 
@@ -78,9 +79,9 @@ class Matrix:
 
     def broken(self, names) -> list[str]:
         return [f"{name}, {identity}: {cell}" for name, cells in self.rows.items() if name in names
-                for identity, cell in zip(IDENTITIES, cells) if not cell.kept]
+                for identity, cell in zip(self.identities, cells) if not cell.kept]
 
     def __str__(self) -> str:
-        lines = [[_HEADER, *IDENTITIES]] + [[name, *map(str, cells)] for name, cells in self.rows.items()]
+        lines = [[_HEADER, *self.identities]] + [[name, *map(str, cells)] for name, cells in self.rows.items()]
         widths = [max(len(line[i]) for line in lines) for i in range(len(lines[0]))]
         return "\n".join("  ".join(text.ljust(width) for text, width in zip(line, widths)).rstrip() for line in lines)

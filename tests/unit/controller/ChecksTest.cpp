@@ -84,6 +84,24 @@ private Q_SLOTS:
         QVERIFY(!c.isChecking());
     }
 
+    void inProxyModeTheDirectProbeWaitsForTors()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        c.strictMode.set(false);
+        QVERIFY(bench.connect());
+        const int direct = bench.probe.directProbes;
+        const int viaTor = bench.probe.torProbes;
+        bench.probe.beforeTorAnswer = [&bench] { return bench.clock.sleep(700ms); };
+        const auto checking = c.runChecks();
+        QCOMPARE(bench.probe.torProbes, viaTor + 1);
+        bench.clock.advance(600ms);
+        QCOMPARE(bench.probe.directProbes, direct); // the service does not see both addresses in one moment
+        bench.clock.advance(100ms);
+        QVERIFY(Workbench::finished(checking));
+        QCOMPARE(bench.probe.directProbes, direct + 1);
+    }
+
     void oneCheckAtATime()
     {
         Workbench bench;

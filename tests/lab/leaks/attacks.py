@@ -1,0 +1,122 @@
+"""What a hostile program without root's rights tries inside the host; runs as the identity that tries it.
+
+    attacks.py HELPER NAME...      prints the names of those that succeed, one per line; HELPER is what sudo is asked to run
+"""
+
+import hashlib
+import os
+import socket
+import subprocess
+import sys
+import time
+
+TOR_PORTS = {9050, 9051}
+DNS_PORT = 293
+GROUP = "/sys/fs/cgroup/desktop"   # everybody may kill what is in it
+OWN_TOR = "/opt/own/tor"
+HASH = "16:" + "0123456789ABCDEF" * 3 + "0123456789"   # as in case.py, which this program cannot import
+PROXY = ["--strict", "0", "--lan", "0"]
+
+
+def listening(uid):
+    """Ports on which programs of that account listen."""
+    with open("/proc/net/tcp", encoding="ascii") as table:
+        lines = [line.split() for line in table][1:]
+    return {int(line[1].split(":")[1], 16) for line in lines if line[3] == "0A" and int(line[7]) == uid}
+
+
+def tors_uid():
+    with open("/etc/passwd", encoding="utf-8") as accounts:
+        return next(int(line.split(":")[2]) for line in accounts if line.startswith("_veldmark:"))
+
+
+def tunnel():
+    """Through a bridge program's port to a server of one's own."""
+    for port in listening(tors_uid()) - TOR_PORTS:
+        with socket.socket() as probe:
+            probe.settimeout(1)
+            try:
+                probe.connect(("127.0.0.1", port))
+                probe.sendall(b"\x05\x01\x02")
+                if probe.recv(2):
+                    return True
+            except OSError:
+                pass
+    return False
+
+
+def beside_tor():
+    """At Tor's port for look-ups, to get what others ask."""
+    with socket.socket(socket.AF_INET, socket.SOCK_DGRAM) as beside:
+        for option in socket.SO_REUSEADDR, socket.SO_REUSEPORT:
+            beside.setsockopt(socket.SOL_SOCKET, option, 1)
+        try:
+            beside.bind(("127.0.0.1", DNS_PORT))
+            return True
+        except OSError:
+            return False
+
+
+def place():
+    """Listens in Tor's place, where Tor is away; it is enough that it answers itself."""
+    for family, address, port in ((socket.AF_INET, "127.0.0.1", 9050), (socket.AF_INET, "127.0.0.1", 9051), (socket.AF_INET6, "::1", 9050)):
+        with socket.create_server((address, port), family=family), socket.socket(family) as caller:
+            caller.settimeout(0.5)
+            if caller.connect_ex((address, port)) == 0:
+                return True
+    return False
+
+
+def is_watched():
+    for pid in filter(str.isdigit, os.listdir("/proc")):
+        try:
+            with open(f"/proc/{pid}/cmdline", "rb") as words:
+                if words.read().endswith(b"/watcher.sh\0"):
+                    return True
+        except OSError:
+            pass
+    return False
+
+
+def kill():
+    """Everything in the group that the session was begun in."""
+    with open(f"{GROUP}/cgroup.kill", "w", encoding="ascii") as group:
+        group.write("1")
+    deadline = time.monotonic() + 0.5
+    while is_watched() and time.monotonic() < deadline:
+        time.sleep(0.02)
+    return not is_watched()
+
+
+def by_rule(*words):
+    return subprocess.run(["sudo", "-n", sys.argv[1], *words], capture_output=True, stdin=subprocess.DEVNULL, check=False).returncode == 0
+
+
+def connect(*more, tor="/usr/bin/tor"):
+    return by_rule("connect", "--tor", tor, "--hash", HASH, *more)
+
+
+def approve():
+    with open(OWN_TOR, "rb") as program:
+        return by_rule("approve", "--program", OWN_TOR, "--as", "tor", "--sha256", hashlib.sha256(program.read()).hexdigest())
+
+
+# name: (function, row of the table)
+ATTACKS = {
+    "tunnel": (tunnel, "a bridge program's port as a tunnel"),
+    "beside": (beside_tor, "a second socket at Tor's port for look-ups"),
+    "place": (place, "listening in Tor's place while it is away"),
+    "kill": (kill, "an end of the control group that it was begun in"),
+    "proxy": (lambda: connect(*PROXY), "by the rule: proxy mode"),
+    "lan": (lambda: connect("--strict", "1", "--lan", "1"), "by the rule: the local network"),
+    "interpreter": (lambda: connect(*PROXY, "--bridge", "obfs4 192.0.2.1:443 cert=a iat-mode=0", "--pt-lyrebird", "/opt/interpreter/program"),
+                    "by the rule: an interpreter as a bridge program"),
+    "program": (lambda: connect(*PROXY, tor=OWN_TOR), "by the rule: a Tor of one's own"),
+    "approval": (lambda: approve(), "by the rule: an approval of it"),
+    "launch": (lambda: by_rule("launch", "--uid", str(os.getuid()), "--app", "/bin/true"), "by the rule: an application without Tor"),
+}
+
+if __name__ == "__main__":
+    for name in sys.argv[2:]:
+        if ATTACKS[name][0]():
+            print(name, flush=True)

@@ -1,0 +1,150 @@
+"""Rows of the leak matrix for two more identities: a hostile program of the session's user, and one of another account.
+
+Each attack is made in sessions that have every pair of settings between them: bridges or none, password-free mode on or off, the local
+network open or closed. Where password-free mode is on, the other account is let in as well. Each is first seen to work where its
+defence is taken out. One lab, four sessions.
+"""
+
+import contextlib
+from pathlib import Path
+
+from leaks import attacks, probes
+from leaks.case import HASH, PROGRAMS, SENDER
+from leaks.matrix import CLOSED, Matrix
+
+ATTACKS = str(Path(__file__).resolve().with_name("attacks.py"))
+IDENTITIES = ("a program of the session's user", "a program of another account")
+INDICES = (6, 7)   # of their probes
+INSTALLED = "/usr/local/libexec/veldmark/veldmark-helper.sh"
+ELSEWHERE = "/opt/own/veldmark-helper.sh"   # where sudo's rule is an administrator's word
+RULE = "/etc/sudoers.d/veldmark"
+BY_RULE = ("proxy", "lan", "interpreter", "program", "approval", "launch")
+AWAY = "pkill -KILL -u _veldmark; while pgrep -u _veldmark; do sleep 0.01; done"
+# bridges, password-free, local network: each pair of settings is in one of them
+SESSIONS = ((True, False, 0), (False, True, 0), (False, False, 1), (True, True, 1))
+PACKETS = {"ordinary packets": probes.CORE, "by a setuid file of Tor's account": ("HTTP",), "by a port mapping of others": ("SSH",)}
+
+
+class HostileRows:
+    """For a LeakCase."""
+
+    def hostile_rows(self):
+        table = Matrix(IDENTITIES)
+        names = [row for _, row in attacks.ATTACKS.values()] + list(PACKETS)
+        rows = {name: table.row(name, [CLOSED, CLOSED]) for name in names}
+        self.users = (self.host.user, "games")
+        self.lab.tor.wait_bridges()
+        self.host.write("/run/hostile/attacks.py", Path(ATTACKS).read_text(encoding="utf-8"))
+        with contextlib.ExitStack() as stack:
+            stack.callback(lambda: print(f"\nattacks that succeed where the defence is out / in strict mode\n{table}", flush=True))
+            self.prepare(stack)
+            self.without_defence(rows)
+            for bridges, free, lan in SESSIONS:
+                with self.subTest(bridges=bridges, free=free, lan=lan):
+                    self.attacked_session(rows, bridges, free, lan)
+            self.assertEqual(table.broken(set(table.rows)), [])
+
+    def prepare(self, stack):
+        self.sh(f"install -D -m 0755 {PROGRAMS}/veldmark-helper.sh {INSTALLED}; grep -q '^@includedir /etc/sudoers.d' /etc/sudoers ||"
+                " echo '@includedir /etc/sudoers.d' >>/etc/sudoers; mkdir -p /opt/own /opt/interpreter; cp /usr/bin/perl /opt/interpreter/program;"
+                f"cp /usr/bin/tor /opt/own/tor; chown {self.host.uid} /opt/own/tor; cp $(readlink -f /usr/bin/python3) /opt/own/left;"
+                f"chown _veldmark /opt/own/left; chmod 4755 /opt/own/left; cp {INSTALLED} {ELSEWHERE}; cp {PROGRAMS}/veldmark-launch /opt/own")
+        stack.callback(self.sh, f"rm -rf /opt/own /opt/interpreter /usr/local/libexec/veldmark {RULE} /run/hostile")
+        self.sh(f"mkdir {attacks.GROUP}; chmod 666 {attacks.GROUP}/cgroup.kill")
+        stack.callback(self.sh, f"rmdir {attacks.GROUP}")
+        maps = "; ".join(f"ip daddr 192.168.77.2 tcp dport 80{i} dnat to {probes.public(i)}:22" for i in INDICES)
+        self.sh(f"nft -f - <<<'table ip other {{ chain o {{ type nat hook output priority -100; {maps}; }}; }}'")
+        stack.callback(self.sh, "nft delete table ip other")
+
+    def allow(self, helper):
+        """Lets both run that without a password; none for nobody."""
+        rules = "".join(f"{user} ALL=(root) NOPASSWD:NOSETENV: {helper}\n" for user in self.users)
+        self.sh(f"printf '%s' \"$0\" >{RULE}; chmod 0440 {RULE}" if helper else f"rm -f {RULE}", rules)
+
+    @classmethod
+    def sh(cls, script, *words, **options):
+        return cls.host.run(["/bin/bash", "-c", script, *words], check=True, **options).stdout
+
+    def attack(self, rows, phase, *names, helper=INSTALLED, after=None):
+        for column, user in enumerate(self.users):
+            done = self.host.run(["/usr/bin/python3", "-B", "/run/hostile/attacks.py", helper, *names], user=user, cwd="/", check=True)
+            for name in done.stdout.split():
+                cell = rows[attacks.ATTACKS[name][1]][column]
+                setattr(cell, phase, getattr(cell, phase) + 1)
+            if after:
+                after()
+
+    def packets(self, rows, phase):
+        connect = "import socket; s = socket.socket(); s.setblocking(False); s.connect_ex(('{}', {}))"
+        with self.watched() as seen:
+            for index, user in zip(INDICES, self.users):
+                for command in (["/usr/bin/python3", "-B", SENDER, "send", str(index), *probes.CORE],
+                                ["/opt/own/left", "-c", connect.format(probes.public(index), 80)],
+                                ["/usr/bin/python3", "-c", connect.format("192.168.77.2", f"80{index}")]):
+                    self.host.run(command, user=user, cwd="/", check=True)
+        for (name, index), number in seen.counts().items():
+            if index in INDICES:
+                row = next(row for row, kinds in PACKETS.items() if name in kinds)
+                cell = rows[row][INDICES.index(index)]
+                setattr(cell, phase, getattr(cell, phase) + number)
+
+    def bridge_words(self):
+        return ["--bridge", self.lab.tor.bridge_line("obfs4"), "--pt-lyrebird", "/usr/bin/obfs4proxy"]
+
+    def begin(self, bridges, lan):
+        more = self.bridge_words() if bridges else []
+        self.sh(f'echo 0 >{attacks.GROUP}/cgroup.procs; PKEXEC_UID=$0 exec "$@"', str(self.host.uid), "/bin/bash", str(PROGRAMS / "veldmark-helper.sh"), "connect",
+                "--tor", "/usr/bin/tor", "--hash", HASH, "--strict", "1", "--lan", str(lan), *more)
+        if bridges:   # until the bridge program serves
+            self.sh("until grep -c ' 0A .* '$(id -u _veldmark)' ' /proc/net/tcp | grep -q 3; do sleep 0.05; done", timeout=30)
+
+    def without_defence(self, rows):
+        self.packets(rows, "control")
+        # An approval and an application are kept out by the rule's place.
+        self.allow(ELSEWHERE)
+        self.attack(rows, "control", "approval", helper=ELSEWHERE)
+        self.begin(False, 0)
+        self.attack(rows, "control", "launch", helper=ELSEWHERE)
+        self.disconnect()
+        # The local network and proxy mode are kept out by the session that runs, an interpreter by its name, a program of one's own by
+        # the approval that it lacks.
+        self.allow(INSTALLED)
+        self.attack(rows, "control", "lan", after=self.disconnect)
+        self.sh("mv /opt/interpreter/program /opt/interpreter/lyrebird; ln -s lyrebird /opt/interpreter/program")
+        self.attack(rows, "control", "proxy", "interpreter", "program")
+        self.sh("rm /opt/interpreter/program; mv /opt/interpreter/lyrebird /opt/interpreter/program")
+        self.disconnect()
+        self.sh("rm -r /var/lib/veldmark/programs/*")
+        self.allow(None)
+        self.begin(True, 0)
+        self.sh("pkill -STOP -f watcher[.]sh; for c in answering opening; do nft flush chain inet veldmark $c; nft add rule inet veldmark $c accept; done;"
+                "sysctl -qw net.ipv4.ip_unprivileged_port_start=0")
+        self.attack(rows, "control", "tunnel", "beside")
+        self.sh(f"sysctl -qw net.ipv4.ip_unprivileged_port_start=1024; {AWAY}")
+        self.attack(rows, "control", "place")
+        self.sh("pkill -CONT -f watcher[.]sh")
+
+        def in_reach():
+            self.helper("fix-dns")
+            self.sh(f"pgrep -o -f watcher[.]sh >{attacks.GROUP}/cgroup.procs")
+        in_reach()
+        self.attack(rows, "control", "kill", after=in_reach)
+        self.disconnect()
+
+    def attacked_session(self, rows, bridges, free, lan):
+        self.allow(INSTALLED if free else None)
+        self.attack(rows, "session", "interpreter", "program", "approval")   # no session keeps these out
+        self.begin(bridges, lan)
+        try:
+            state = self.truth()
+            self.attack(rows, "session", "beside", *BY_RULE, *(["tunnel"] if bridges else []))
+            self.packets(rows, "session")
+            self.attack(rows, "session", "kill")
+            self.assertEqual(self.truth(), state)
+            self.sh(AWAY)
+            self.attack(rows, "session", "place")
+        finally:
+            self.disconnect()
+
+    def truth(self):
+        return self.sh("cat /var/lib/veldmark/state/active; md5sum </var/lib/veldmark/asked; nft -s -t list table inet veldmark; pgrep -u _veldmark")
