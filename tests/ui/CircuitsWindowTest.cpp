@@ -1,3 +1,4 @@
+#include "GoldenText.h"
 #include "Scenes.h"
 #include "Stage.h"
 #include "circuits/GraphLayout.h"
@@ -244,6 +245,28 @@ private Q_SLOTS:
         stage->picture();
         point(placeOf(session.circuits.front().hops[1].nickname));
         QVERIFY2(help().contains(QStringLiteral("\nUnknown\n")), qPrintable(help()));
+    }
+
+    void thePathIsDrawnInItsCircuitsColour()
+    {
+        show(6);
+        QList<QColor> colours;
+        for (const int place : {0, 1}) {
+            stage->circuits.follow(session.circuits[static_cast<std::size_t>(place)].id);
+            stage->picture();
+            const QColor own = stage->circuits.data(stage->circuits.index(place), CircuitsModel::ColorRole).value<QColor>();
+            int lines = 0;
+            visit(stage->window()->contentItem(), [&](QQuickItem *item) {
+                const QQuickItem *step = item->parentItem() ? item->parentItem()->parentItem() : nullptr;
+                if (!step || !QByteArray(step->metaObject()->className()).startsWith("PathStep") || item->width() != 4)
+                    return;
+                ++lines;
+                QCOMPARE(item->property("color").value<QColor>(), own);
+            });
+            QVERIFY(lines >= 3); // between the computer, the relays and the sites
+            colours << own;
+        }
+        QVERIFY(colours.first() != colours.last());
     }
 };
 

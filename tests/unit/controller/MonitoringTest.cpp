@@ -204,6 +204,21 @@ private Q_SLOTS:
         QCOMPARE(bench.commandCount(off), 1);
     }
 
+    void afterASleepWithoutANetworkTheExitIsNotConfirmed()
+    {
+        Workbench bench;
+        acceptNetworkCommands(bench);
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        QVERIFY(bench.tick());
+        QCOMPARE(c.title(), u"Protected"_s);
+        bench.probe.torAnswer = ScriptedProbe::nothing();
+        c.wake();
+        QVERIFY(bench.tick());
+        QVERIFY(until([&] { return c.torVerified() == false; }));
+        QCOMPARE(c.title(), u"Needs Attention"_s);
+    }
+
     void restoringAfterTorsDeathTakesTheBannerBack()
     {
         Workbench bench;
