@@ -993,6 +993,10 @@
         <translation>Tor läuft nicht mehr. Der Notschalter sperrt weiter, also ist nichts nach außen gelangt. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um online zu gehen.</translation>
     </message>
     <message>
+        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks have seen some go around Tor. Reconnect, or Restore Network to go back online.</source>
+        <translation>Tor läuft nicht mehr. Der Notschalter sperrt weiter, aber die letzten Prüfungen haben Verkehr an Tor vorbei gesehen. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um online zu gehen.</translation>
+    </message>
+    <message>
         <source>Tor stopped running. Apps using the proxy can&apos;t connect until you reconnect or Restore Network.</source>
         <translation>Tor läuft nicht mehr. Apps, die den Proxy benutzen, verbinden sich erst wieder, wenn Sie neu verbinden oder das Netzwerk wiederherstellen.</translation>
     </message>
@@ -1455,6 +1459,10 @@
     <message>
         <source>Built-in %1 bridges come from Tor Browser. Click Download next to Bridges, install Tor Browser, or paste your own under Bridges → Custom….</source>
         <translation>Mitgelieferte %1-Brücken kommen aus dem Tor Browser. Klicken Sie bei „Brücken“ auf „Herunterladen“, installieren Sie den Tor Browser, oder fügen Sie unter „Brücken → Eigene…“ eigene ein.</translation>
+    </message>
+    <message>
+        <source>Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around Tor: %1.</source>
+        <translation>Manche DNS-Einstellungen kommen von außerhalb von Veldmark (einem VPN oder /etc/resolver) und führen noch an Tor vorbei: %1.</translation>
     </message>
     <message>
         <source>Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around Tor: %1. Strict mode&apos;s firewall blocks them.</source>

@@ -28,6 +28,8 @@ void Alerts::look()
     if (before == Phase::connected && (now.phase == Phase::stale || now.phase == Phase::disconnected))
         tell(now.isAnothers ? tr("Another session has replaced this one") : tr("Tor stopped running"),
              SessionTexts::translated(now.errorMessage.value_or(now.statusDetail)));
+    if (!now.killSwitch || now.killSwitch->blocks())
+        m_wasWatched = now.killSwitch.has_value();
     if (const auto danger = now.verdict().danger; std::exchange(m_danger, danger) != danger)
         tellDanger(danger);
     tellPutBack(std::exchange(m_killSwitch, now.killSwitch));
@@ -49,7 +51,7 @@ void Alerts::tellDanger(Verdict::Danger danger)
         tell(tr("Lookups can go around Tor"), SessionTexts::lookups(now.lookups));
         return;
     case Danger::killSwitchUnknown:
-        if (m_killSwitch && m_killSwitch->blocks()) // it was known
+        if (std::exchange(m_wasWatched, false)) // perhaps a worse danger was told when that began
             tell(tr("The kill switch is not watched"),
                  tr("It can't be told whether it stands. Open Veldmark, disconnect and connect again."));
         return;

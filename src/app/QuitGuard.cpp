@@ -6,6 +6,12 @@
 
 namespace veldmark {
 
+QuitGuard::QuitGuard(TorController &controller, Windows &windows) : m_controller(controller), m_windows(windows)
+{
+    QObject::connect(&controller.killSwitch, &Field::changed, this, &QuitGuard::showWhetherClosed);
+    QObject::connect(&controller.activeMode, &Field::changed, this, &QuitGuard::showWhetherClosed);
+}
+
 QuitGuard::~QuitGuard()
 {
     if (m_disconnectEnded)
@@ -20,11 +26,8 @@ void QuitGuard::quit()
         return;
     }
     if (!m_dialog) {
-        m_dialog = m_windows.make(
-            QStringLiteral("main/QuitDialog.qml"),
-            {{QStringLiteral("strict"), m_controller.activeMode() == RoutingMode::strict
-                  && m_controller.verdict().danger != Verdict::Danger::killSwitchOpen},
-             {QStringLiteral("busy"), false}});
+        m_dialog = m_windows.make(QStringLiteral("main/QuitDialog.qml"),
+                                  {{QStringLiteral("strict"), staysClosed()}, {QStringLiteral("busy"), false}});
         if (!m_dialog)
             return; // the windows have said why; the network is not left to itself
         QObject::connect(m_dialog.get(), SIGNAL(disconnectWanted()), this, SLOT(onDisconnectWanted()));
@@ -34,6 +37,19 @@ void QuitGuard::quit()
     m_dialog->show();
     m_dialog->raise();
     m_dialog->requestActivate();
+}
+
+// What the question says of the kill switch: it stays on only where it is known to be on.
+bool QuitGuard::staysClosed() const
+{
+    const auto &rules = m_controller.killSwitch();
+    return m_controller.activeMode() == RoutingMode::strict && rules && rules->blocks();
+}
+
+void QuitGuard::showWhetherClosed()
+{
+    if (m_dialog)
+        m_dialog->setProperty("strict", staysClosed());
 }
 
 void QuitGuard::closeDialog()

@@ -18,7 +18,7 @@ class QuitGuard : public QObject {
 
 public:
     // Both must outlive the guard.
-    QuitGuard(TorController &controller, Windows &windows) : m_controller(controller), m_windows(windows) {}
+    QuitGuard(TorController &controller, Windows &windows);
     ~QuitGuard() override;
 
 public Q_SLOTS:
@@ -31,11 +31,13 @@ private Q_SLOTS:
     void onDisconnectWanted() { disconnectAndQuit(); }
     void onQuitWanted();
     void onCancelled();
+    void showWhetherClosed();
 
 private:
     QCoro::Task<void> disconnectAndQuit();
     void finish();
     void closeDialog();
+    bool staysClosed() const;
 
     TorController &m_controller;
     Windows &m_windows;

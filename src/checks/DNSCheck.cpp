@@ -95,11 +95,12 @@ DNSStatus statusAfter(const std::vector<DNSResolver> &leaks, const std::optional
     return current.isLeak() ? DNSStatus::unknown() : current;
 }
 
-QString stillLeakingText(const QStringList &summaries)
+QString stillLeakingText(const QStringList &summaries, bool isBlocked)
 {
-    return QStringLiteral("Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and "
-                          "still point around Tor: %1. Strict mode's firewall blocks them.")
-        .arg(summaries.join(QStringLiteral("; ")));
+    const QString text = QStringLiteral("Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and "
+                                        "still point around Tor: %1.")
+                             .arg(summaries.join(QStringLiteral("; ")));
+    return isBlocked ? text + QStringLiteral(" Strict mode's firewall blocks them.") : text;
 }
 
 QString probeName()

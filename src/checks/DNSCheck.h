@@ -29,7 +29,7 @@ DNSStatus statusAfter(const std::vector<DNSResolver> &leaks, const std::optional
                       bool liveVerified, const DNSStatus &current);
 
 // What the user reads when the settings leak even after they were fixed.
-QString stillLeakingText(const QStringList &summaries);
+QString stillLeakingText(const QStringList &summaries, bool isBlocked);
 
 // A name that nobody has looked up before, under a domain that exists.
 QString probeName();

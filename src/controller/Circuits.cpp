@@ -162,8 +162,8 @@ QCoro::Task<void> TorController::optimizeCircuits()
         const TimedProbe timed = co_await timedViaTor();
         if (!self || !isCurrent(attempt))
             co_return; // the next attempt has cleared what this one showed
-        if (timed.answer && identity == m_identity)
-            showExit(timed.answer);
+        if ((timed.answer || round == optimizeAttempts) && identity == m_identity)
+            showExit(timed.answer); // no answer to the last is one, too
         const qint64 elapsedMs = timed.elapsed.count();
         if (timed.answer && elapsedMs < slowPathMs) {
             latencyMs = elapsedMs;

@@ -266,6 +266,8 @@ QCoro::Task<void> TorController::connect()
     if (!self || !isCurrent(attempt))
         co_return; // whoever heard of it has disconnected at once
     applyTerminalMode();
+    m_network = {};
+    m_network.addresses.haveMoved(m_services.ownAddresses());
     startMonitoring();
     co_await settleIn(attempt);
 }

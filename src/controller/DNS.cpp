@@ -106,7 +106,7 @@ QCoro::Task<void> TorController::repairDNS(Attempt attempt)
     co_await checkDNS(true);
     if (!self || !isCurrent(attempt) || !dnsStatus().isLeak())
         co_return;
-    errorMessage = DNSCheck::stillLeakingText(dnsStatus().leaks());
+    errorMessage = DNSCheck::stillLeakingText(dnsStatus().leaks(), killSwitch() && killSwitch()->blocks());
 }
 
 } // namespace veldmark

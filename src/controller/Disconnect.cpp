@@ -182,7 +182,7 @@ void TorController::lookAtSession()
         return;
     }
     const auto other = SessionOwner::ofAnotherProcess(m_services.profile);
-    if (other == otherSession())
+    if (other == otherSession() && markedMode() == activeMode()) // nobody has changed it by hand either
         return;
     showSessionOf(other);
 }

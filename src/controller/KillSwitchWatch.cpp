@@ -106,8 +106,12 @@ QString TorController::deathMessage() const
     if (activeMode() != RoutingMode::strict)
         return QStringLiteral("Tor stopped running. Apps using the proxy can't connect until you reconnect "
                               "or Restore Network.");
+    const bool hasLeaked = leakStatus().isExposed() || dnsStatus().isLeak();
     switch (killSwitch() ? killSwitch()->state : State::unknown) {
     case State::standing:
+        if (hasLeaked)
+            return QStringLiteral("Tor stopped running. The kill switch is still blocking traffic, but the last checks have seen some go "
+                                  "around Tor. Reconnect, or Restore Network to go back online.");
         return QStringLiteral("Tor stopped running. The kill switch is still blocking traffic, so nothing "
                               "leaked. Reconnect, or Restore Network to go back online.");
     case State::putBack:

@@ -40,9 +40,13 @@ TorController::Attempt TorController::startAttempt()
     return ++m_attempt;
 }
 
+std::optional<QString> TorController::failure() const
+{
+    return errorMessage() == m_killSwitchMessage || errorMessage() == offlineText ? std::nullopt : errorMessage();
+}
+
 void TorController::startMonitoring()
 {
-    m_hasSlept = false;
     monitor(++m_monitor);
 }
 
@@ -53,9 +57,6 @@ QCoro::Task<void> TorController::monitor(quint64 run)
     // Tor closes what it has and begins anew. It would send into connections of an address that is gone for minutes.
     const QStringList goOn = {QStringLiteral("SETCONF DisableNetwork=0")};
     const QStringList beginAnew = QStringList{QStringLiteral("SETCONF DisableNetwork=1")} + goOn;
-    bool mayBeOffline = false; // a Tor that has taken the first of the two and not the second stays without a network
-    OwnAddresses addresses;
-    addresses.haveMoved(m_services.ownAddresses());
     quint64 tick = 0;
     int failures = 0;
     for (;;) {
@@ -64,20 +65,20 @@ QCoro::Task<void> TorController::monitor(quint64 run)
             co_return;
         if (phase() != ConnectionPhase::connected || !m_controlPassword)
             continue;
-        const bool hasMoved = addresses.haveMoved(m_services.ownAddresses());
-        const bool isStale = std::exchange(m_hasSlept, false) || hasMoved;
-        if (isStale || mayBeOffline) {
+        const bool hasMoved = m_network.addresses.haveMoved(m_services.ownAddresses());
+        const bool isStale = std::exchange(m_network.hasSlept, false) || hasMoved;
+        if (isStale || m_network.mayBeOffline) {
             if (isStale)
                 forgetExit(); // what was verified was another way out
             const auto replies = co_await m_services.controlPort.batch(isStale ? beginAnew : goOn, *m_controlPassword, counterReadLimit);
             if (!self || run != m_monitor)
                 co_return;
-            mayBeOffline = !replies || !replies->back(); // no answer, or Tor's refusal
-            if (mayBeOffline)
-                errorMessage = offlineText;
+            m_network.mayBeOffline = !replies || !replies->back(); // no answer, or Tor's refusal
+            if (m_network.mayBeOffline)
+                errorMessage = errorMessage().value_or(offlineText); // what else has failed is to be read first
             else if (errorMessage() == offlineText)
                 errorMessage = std::nullopt;
-            if (!mayBeOffline && phase() == ConnectionPhase::connected && !isChecking())
+            if (!m_network.mayBeOffline && phase() == ConnectionPhase::connected && !isChecking())
                 runChecks();
         }
         if (++tick % ticksPerDNSCheck == 0) {
@@ -105,9 +106,9 @@ QCoro::Task<void> TorController::monitor(quint64 run)
 
 void TorController::wake()
 {
-    if (phase() != ConnectionPhase::connected)
+    if (phase() != ConnectionPhase::connected && phase() != ConnectionPhase::disconnecting)
         return;
-    m_hasSlept = true; // the loop makes Tor begin anew, and checks
+    m_network.hasSlept = true; // the loop makes Tor begin anew, and checks; also of a session that a refused disconnect leaves
     forgetExit();
 }
 
@@ -179,8 +180,11 @@ QCoro::Task<void> TorController::runChecks()
     lookAtKillSwitch(); // without the rules, silence is not their doing
     leakStatus = believable(verdict.leakStatus);
     co_await checkDNS(true);
-    if (self && isCurrent(attempt))
-        isChecking = false;
+    if (!self || !isCurrent(attempt))
+        co_return;
+    isChecking = false;
+    if (identity != m_identity) // new circuits while the DNS test ran
+        checkExit();
 }
 
 void TorController::forgetExit()

@@ -3,6 +3,8 @@
 #include "controller/SettingRules.h"
 #include "controller/TorController.h"
 
+#include <QJsonArray>
+
 namespace veldmark {
 
 namespace {
@@ -27,6 +29,19 @@ QJsonObject publishedState(const TorController &controller)
     QJsonObject state;
     for (const Field *field : controller.fields())
         state.insert(field->name(), field->toJson());
+    // The results of checks are those of a session that is up.
+    if (controller.phase() != ConnectionPhase::connected) {
+        for (const Field *field : std::initializer_list<const Field *>{&controller.exitIP, &controller.torVerified, &controller.latencyMs,
+                                                                       &controller.optimizeStatus, &controller.circuitError})
+            state.insert(field->name(), QJsonValue(QJsonValue::Null));
+        for (const Field *field : std::initializer_list<const Field *>{&controller.bytesRead, &controller.bytesWritten})
+            state.insert(field->name(), 0);
+        state.insert(controller.leakStatus.name(), json(LeakStatus::notTested()));
+        state.insert(controller.dnsStatus.name(), json(DNSStatus::unknown()));
+        state.insert(controller.circuits.name(), QJsonArray());
+        state.insert(controller.isChecking.name(), false);
+        state.insert(controller.isOptimizing.name(), false);
+    }
     const Verdict verdict = controller.verdict();
     state.insert(controller.statusDetail.name(), verdict.detail); // a known danger comes before what is going on
     state.insert(QStringLiteral("title"), verdict.title);

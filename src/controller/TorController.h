@@ -189,8 +189,8 @@ public:
     // The computer was asleep: what was verified is no longer known, and Tor's connections may hang without a word.
     void wake();
 
-    // What the last operation that failed has said, without what is told of the kill switch.
-    std::optional<QString> failure() const { return errorMessage() == m_killSwitchMessage ? std::nullopt : errorMessage(); }
+    // What the last operation that failed has said, without what is told of the kill switch and of Tor's own network.
+    std::optional<QString> failure() const;
     // The user has read the banner.
     void dismissError() { errorMessage = std::nullopt; }
     // Shows what went wrong outside the controller as the banner.
@@ -342,7 +342,12 @@ private:
     std::optional<QString> m_killSwitchMessage; // the banner that tells of it
     Clock::TimePoint m_killSwitchSeen;        // when the watcher's note was last a fresh one
     bool m_torStopped = false;                // under this session
-    bool m_hasSlept = false;                  // Tor is to begin anew
+    // What the monitor knows of the session's network, also over a disconnect that was refused.
+    struct NetworkKnowledge {
+        bool hasSlept = false;     // Tor is to begin anew
+        bool mayBeOffline = false; // Tor was told to leave the network, and has not confirmed that it is back
+        OwnAddresses addresses;
+    } m_network;
     bool m_dnsLiveVerified = false;           // a live DNS check passed in this session
     bool m_isSettlingIn = false;              // settleIn() is under way
     quint64 m_identity = 0;                   // counts the times that Tor was asked for new circuits

@@ -26,6 +26,8 @@ namespace {
     QT_TRANSLATE_NOOP("Session", "Apps that use system proxy settings go through Tor"),
     QT_TRANSLATE_NOOP("Session", "Tor stopped running. The kill switch is still blocking traffic, so nothing "
                                  "leaked. Reconnect, or Restore Network to go back online."),
+    QT_TRANSLATE_NOOP("Session", "Tor stopped running. The kill switch is still blocking traffic, but the last checks have seen some go "
+                                 "around Tor. Reconnect, or Restore Network to go back online."),
     QT_TRANSLATE_NOOP("Session", "Tor stopped running. Apps using the proxy can't connect until you reconnect "
                                  "or Restore Network."),
     QT_TRANSLATE_NOOP("Session", "Tor stopped running, and your network is no longer set up for it."),
@@ -164,6 +166,7 @@ constexpr const char *forms[] = {
                                  "Browser, or paste your own under Bridges → Custom…."),
     QT_TRANSLATE_NOOP("Session", "Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around "
                                  "Tor: %1. Strict mode's firewall blocks them."),
+    QT_TRANSLATE_NOOP("Session", "Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around Tor: %1."),
     QT_TRANSLATE_NOOP("Session", "Tor isn't installed. Install it with your package manager (%1) or set its location in Settings."),
     QT_TRANSLATE_NOOP("Session", "%1 is already being opened."),
     QT_TRANSLATE_NOOP("Session", "%1 Your network is still pointed at Tor. Click Restore Network to undo."),

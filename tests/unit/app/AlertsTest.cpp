@@ -102,6 +102,27 @@ private Q_SLOTS:
         QCOMPARE(told.at(3).at(0).toString(), QStringLiteral("The kill switch is not watched"));
     }
 
+    void tellsThatNobodyWatchesOnceAWorseDangerIsOver()
+    {
+        using State = KillSwitch::State;
+        StandInSession session(profile);
+        Alerts alerts(session);
+        QSignalSpy told(&alerts, &Alerts::told);
+        Snapshot s = inPhase(Phase::connected);
+        s.activeMode = RoutingMode::strict;
+        s.killSwitch = rules(State::standing);
+        session.show(s);
+        s.leak = {Leak::Kind::exposed, QStringLiteral("198.51.100.7")};
+        session.show(s);
+        s.killSwitch = rules(State::unknown);
+        session.show(s);
+        QCOMPARE(told.count(), 1);
+        s.leak = {Leak::Kind::notTested, {}};
+        session.show(s);
+        QCOMPARE(told.count(), 2);
+        QCOMPARE(told.at(1).at(0).toString(), QStringLiteral("The kill switch is not watched"));
+    }
+
     void tellsOnceAMinuteOfAProgramThatKeepsRemovingThem()
     {
         using State = KillSwitch::State;

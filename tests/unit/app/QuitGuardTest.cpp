@@ -73,27 +73,31 @@ private Q_SLOTS:
     void asksWhileTheNetworkIsSetUp_data()
     {
         QTest::addColumn<QByteArray>("marker");
-        QTest::addColumn<bool>("open");
+        QTest::addColumn<QByteArray>("rules");
         QTest::addColumn<bool>("strict");
-        QTest::newRow("strict") << QByteArray("strict\n") << false << true;
-        QTest::newRow("strict, with an open kill switch") << QByteArray("strict\n") << true << false; // it does not stay on
-        QTest::newRow("proxy") << QByteArray("proxy\n") << false << false;
-        QTest::newRow("unknown") << QByteArray("perhaps\n") << false << false;
+        QTest::newRow("strict") << QByteArray("strict\n") << QByteArray("standing") << true;
+        QTest::newRow("strict, after a restart of the computer") << QByteArray("strict\n") << QByteArray() << false; // nobody has seen the rules
+        QTest::newRow("strict, with an open kill switch") << QByteArray("strict\n") << QByteArray("open") << false; // it does not stay on
+        QTest::newRow("proxy") << QByteArray("proxy\n") << QByteArray() << false;
+        QTest::newRow("unknown") << QByteArray("perhaps\n") << QByteArray() << false;
     }
     void asksWhileTheNetworkIsSetUp()
     {
         QFETCH(QByteArray, marker);
-        QFETCH(bool, open);
+        QFETCH(QByteArray, rules);
         QFETCH(bool, strict);
         Guarded g;
         g.bench.writeMarker(marker);
-        if (open)
-            g.bench.noteRules("open", 1);
+        if (!rules.isEmpty())
+            g.bench.noteRules(rules.constData(), 1);
         g.bench.controller().detectStaleState();
         g.guard.quit();
         QCOMPARE(g.mayEnd.count(), 0);
         QVERIFY(Guarded::question());
         QCOMPARE(Guarded::question()->property("strict").toBool(), strict);
+        g.bench.noteRules("open", 1); // while the question is shown
+        g.bench.clock.advance(std::chrono::seconds(1));
+        QVERIFY(!Guarded::question()->property("strict").toBool());
         g.guard.quit(); // one question is enough
         QVERIFY(Guarded::answer("cancelled"));
         QVERIFY(!Guarded::question());

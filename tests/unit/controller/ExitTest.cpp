@@ -61,6 +61,26 @@ private Q_SLOTS:
         QVERIFY(until([&] { return !c.isChecking(); }));
         QCOMPARE(c.exitIP().value(), u"203.0.113.20"_s);
     }
+
+    // The answer through Tor has come, and the look-ups are still being tested.
+    void aNewIdentityDuringTheLookUpsIsAskedForToo()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        bench.tor.reply("SETEVENTS STREAM", "250 OK\r\n"); // so that the live test takes its time
+        const auto checking = c.runChecks();
+        QVERIFY(until([&] { return c.dnsStatus() == DNSStatus::checking(); }));
+        bench.probe.torAnswer = IPCheck{true, u"203.0.113.20"_s};
+        QVERIFY(Workbench::finished(c.newIdentity()));
+        QVERIFY(!c.exitIP());
+        settle();
+        bench.socketClock.advance(std::chrono::seconds(6));
+        QVERIFY(Workbench::finished(checking));
+        QVERIFY(until([&] { return !c.isChecking(); }));
+        QVERIFY(c.torVerified().value_or(false));
+        QCOMPARE(c.exitIP().value(), u"203.0.113.20"_s);
+    }
 };
 
 VELDMARK_TEST(ExitTest)

@@ -17,13 +17,15 @@ private Q_SLOTS:
         QTest::addColumn<System>("system");
         QTest::addColumn<bool>("helps");
         QTest::addColumn<QString>("message");
+        QTest::addColumn<bool>("strict");
         const QString text = u"Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point "
                              "around Tor: 192.168.1.1 on en0; 10.8.0.1 for *.corp on utun2. Strict mode's firewall "
                              "blocks them."_s;
-        QTest::newRow("helps") << System::linux << true << QString();
-        QTest::newRow("does not help") << System::linux << false << text;
-        QTest::newRow("helps (macos)") << System::macos << true << QString();
-        QTest::newRow("does not help (macos)") << System::macos << false << text;
+        QTest::newRow("helps") << System::linux << true << QString() << true;
+        QTest::newRow("does not help") << System::linux << false << text << true;
+        QTest::newRow("does not help in proxy mode") << System::linux << false << text.section(u'.', 0, -3) + u'.' << false;
+        QTest::newRow("helps (macos)") << System::macos << true << QString() << true;
+        QTest::newRow("does not help (macos)") << System::macos << false << text << true;
     }
 
     void fixing()
@@ -31,8 +33,10 @@ private Q_SLOTS:
         QFETCH(System, system);
         QFETCH(bool, helps);
         QFETCH(QString, message);
+        QFETCH(bool, strict);
         Workbench bench(system);
         TorController &c = bench.controller();
+        c.strictMode.set(strict);
         bench.resolvers.answer = leaking;
         QVERIFY(bench.connect());
         QVERIFY(c.dnsStatus() == leak);

@@ -421,6 +421,30 @@ private Q_SLOTS:
         bench.clock.advance(1s);
         QVERIFY(Workbench::finished(checking));
     }
+
+    void whatLeakedBeforeTorsDeathIsNotDenied_data()
+    {
+        QTest::addColumn<bool>("exposed");
+        QTest::newRow("the user's address") << true;
+        QTest::newRow("look-ups") << false;
+    }
+
+    void whatLeakedBeforeTorsDeathIsNotDenied()
+    {
+        QFETCH(bool, exposed);
+        Workbench bench;
+        TorController &c = bench.controller();
+        DNSResolver leaking;
+        leaking.nameservers = {u"192.168.1.1"_s};
+        if (exposed)
+            bench.probe.directAnswer = IPCheck{false, u"198.51.100.7"_s};
+        else
+            bench.resolvers.answer = {leaking};
+        QVERIFY(bench.connect());
+        QVERIFY(c.title() != u"Protected"_s);
+        killTor(bench);
+        QVERIFY2(!c.errorMessage().value().contains(u"nothing leaked"_s), qPrintable(c.errorMessage().value()));
+    }
 };
 
 VELDMARK_TEST(KillSwitchWatchTest)

@@ -336,6 +336,56 @@ private Q_SLOTS:
         QCOMPARE(c.statusDetail(), u"Tor stopped running"_s);
         QCOMPARE(bench.probe.torProbes, 1); // no optimisation
     }
+
+    // It has taken the first command, and the monitor that knows begins anew with the session.
+    void aRefusedDisconnectDoesNotForgetThatTorHasNoNetwork()
+    {
+        Workbench bench;
+        acceptNetworkCommands(bench);
+        bench.tor.reply("SETCONF DisableNetwork=0", "553 Busy\r\n");
+        QVERIFY(bench.connect());
+        QVERIFY(bench.tick());
+        bench.ownAddresses = {QHostAddress(u"198.51.100.7"_s)};
+        QVERIFY(bench.tick());
+        QVERIFY(bench.controller().errorMessage().value_or(QString()).contains(u"hasn't confirmed that it is on the network"_s));
+        bench.cancelPrompt(u"disconnect"_s);
+        bench.disconnect();
+        QVERIFY(bench.controller().phase() == Phase::connected);
+        QVERIFY(bench.tick());
+        QCOMPARE(bench.commandCount("SETCONF DisableNetwork=0"), 2);
+        QVERIFY(bench.controller().errorMessage().value_or(QString()).contains(u"hasn't confirmed that it is on the network"_s));
+    }
+
+    void whatHappensAtARefusedPromptIsNotMissed_data()
+    {
+        QTest::addColumn<bool>("sleeps");
+        QTest::newRow("a sleep") << true;
+        QTest::newRow("another network") << false;
+    }
+
+    void whatHappensAtARefusedPromptIsNotMissed()
+    {
+        QFETCH(bool, sleeps);
+        Workbench bench;
+        acceptNetworkCommands(bench);
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        QVERIFY(bench.tick());
+        bench.cancelPrompt(u"disconnect"_s);
+        bench.hold(u"disconnect"_s);
+        const auto disconnecting = c.disconnect();
+        QVERIFY(until([&] { return bench.processes.held() == 1; }));
+        if (sleeps)
+            c.wake();
+        else
+            bench.ownAddresses = {QHostAddress(u"198.51.100.7"_s)};
+        bench.processes.hold = nullptr;
+        bench.processes.release();
+        QVERIFY(Workbench::finished(disconnecting));
+        QVERIFY(c.phase() == Phase::connected);
+        QVERIFY(bench.tick());
+        QCOMPARE(bench.commandCount("SETCONF DisableNetwork=1"), 1);
+    }
 };
 
 VELDMARK_TEST(MonitoringTest)

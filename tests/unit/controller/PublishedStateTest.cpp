@@ -239,6 +239,30 @@ private Q_SLOTS:
         QVERIFY(publishedState(c).value(name) != before);
     }
 
+
+    // As in the windows: what was found out about a session is not true of what is left of it.
+    void nothingOfADeadSessionIsClaimed()
+    {
+        Workbench bench;
+        bench.tor.reply("GETINFO circuit-status", Workbench::block("circuit-status", {"5 BUILT $" + QByteArray(40, 'A') + "~one PURPOSE=GENERAL"}));
+        bench.tor.reply("GETINFO stream-status", Workbench::block("stream-status", {}));
+        QVERIFY(bench.connect());
+        QVERIFY(Workbench::finished(bench.controller().refreshCircuits()));
+        QVERIFY(bench.tick());
+        const QJsonObject before = publishedState(bench.controller());
+        QVERIFY(before.value(u"torVerified"_s).toBool() && !before.value(u"circuits"_s).toArray().isEmpty());
+        bench.tor.stopListening();
+        for (int tick = 0; tick < 3; ++tick)
+            QVERIFY(bench.tick());
+        const QJsonObject state = publishedState(bench.controller());
+        QCOMPARE(state.value(u"phase"_s), QJsonValue(u"stale"_s));
+        for (const char *field : {"exitIP", "torVerified", "latencyMs"})
+            QVERIFY2(state.value(QLatin1String(field)).isNull(), field);
+        QCOMPARE(state.value(u"leakStatus"_s), QJsonValue(u"notTested"_s));
+        QCOMPARE(state.value(u"dnsStatus"_s), QJsonValue(u"unknown"_s));
+        QCOMPARE(state.value(u"bytesRead"_s), QJsonValue(0));
+        QVERIFY(state.value(u"circuits"_s).toArray().isEmpty());
+    }
 };
 
 VELDMARK_TEST(PublishedStateTest)

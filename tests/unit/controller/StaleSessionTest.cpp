@@ -229,6 +229,19 @@ private Q_SLOTS:
         QVERIFY(Workbench::finished(starting));
         QVERIFY(bench.processes.calls.empty());
     }
+
+    void aModeThatSomebodyHasChangedByHandIsShown()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        bench.writeMarker("strict\n");
+        c.detectStaleState();
+        QVERIFY(c.activeMode() == RoutingMode::strict);
+        bench.writeMarker("proxy\n"); // with the helper, which notes no owner then
+        c.lookAtSession();
+        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.activeMode() == RoutingMode::proxy);
+    }
 };
 
 VELDMARK_TEST(StaleSessionTest)
