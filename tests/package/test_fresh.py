@@ -189,6 +189,18 @@ class Fresh(unittest.TestCase):
         for word in left_out:
             self.assertIn(word, known + "lab helper ui", f"no test is called {word} any more")
 
+    def test_the_quick_run_names_tests_that_there_are(self):
+        verbs = [line.split(" in ")[0] for line in self.fresh("--quick").stdout.splitlines() if line.startswith("verb ")]
+        self.assertEqual([verb.split(" -R ")[0] for verb in verbs], ["verb demo", "verb test", "verb package", "verb package"])
+        suites = re.findall(r"(\w+)/(?:\(([\w|]+)\)|(\w+|\.\*))", verbs[1].split(" -R ")[1])
+        self.assertIn("lab", [suite for suite, *_ in suites])
+        for suite, several, one in suites:
+            folder = HERE.parents[1] / "fuzz" if suite == "fuzz" else HERE.parent / suite
+            known = "".join(file.read_text() for file in folder.rglob("CMakeLists.txt")) + "".join(file.stem for file in folder.glob("*"))
+            for name in (several or one).split("|"):
+                self.assertIn(name.removesuffix(".*"), known, f"no test is called {suite}/{name} any more")
+        self.assertEqual(self.fresh("--quick", "--short").returncode, 2)
+
     def test_where_it_cannot_run_it_says_so(self):
         shutil.rmtree(self.base)
         self.fails(line="Fetching a minimal Debian from its registry failed; see ")
