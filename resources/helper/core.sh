@@ -5,7 +5,7 @@
 #                      [--bridge LINE]... [--pt-lyrebird PATH] [--pt-snowflake PATH] [--pt-webtunnel PATH]
 #   veldmark-helper.sh replace …       connect, where that lessens what protects a strict session
 #   veldmark-helper.sh approve --program PATH --as tor|lyrebird|snowflake-client|webtunnel-client --sha256 DIGEST
-#   veldmark-helper.sh disconnect
+#   veldmark-helper.sh disconnect [--process PID]
 #   veldmark-helper.sh fix-dns
 #   veldmark-helper.sh launch --uid UID --app PATH
 #   veldmark-helper.sh install-privileged --user NAME [--launch PATH]

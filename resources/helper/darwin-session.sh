@@ -122,7 +122,7 @@ session_lan() {
 
 darwin_disconnect() {
   local status=0
-  (($# == 0)) || die "The verb disconnect takes no options."
+  parse_disconnect "$@"
   need_programs pfctl networksetup launchctl
   # A lock less is better than a network that nobody can restore.
   if command -v perl >/dev/null; then take_lock; fi

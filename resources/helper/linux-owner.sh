@@ -36,11 +36,11 @@ note_owner() {
   write_file "$OWNER" 0644 root "$text"$'\nend\n' || die "The file $OWNER cannot be written."
 }
 
-# live_owner: sets OWNER_UID to the user of the session, while the program that asked for it runs; 1 when it does not.
-OWNER_UID=''
+# live_owner: sets OWNER_UID and OWNER_PID to the user and the program of the session, while the program that asked for it runs; 1 when it does not.
+OWNER_UID='' OWNER_PID=''
 live_owner() {
-  OWNER_UID=''
-  [[ -f $MARKER && -f $OWNER && ! -L $OWNER ]] && read_lines "$OWNER" && recorded_pid >/dev/null || return 1
+  OWNER_UID='' OWNER_PID=''
+  [[ -f $MARKER && -f $OWNER && ! -L $OWNER ]] && read_lines "$OWNER" && OWNER_PID=$(recorded_pid) || return 1
   OWNER_UID=$(journal_value uid) && is_uid "$OWNER_UID"
 }
 
@@ -50,4 +50,10 @@ spare_others() {
   [[ -z $PROMPTED ]] && folders_are_safe && live_owner && [[ $OWNER_UID != "$CALLER_UID" ]] || return 0
   name=$(getent passwd "$OWNER_UID") || name="the user $OWNER_UID"
   die "Veldmark is in use by ${name%%:*}. An administrator password is needed to end that session."
+}
+
+# spare_unmeant: who asks may name the program whose session is to be ended. Another program's is left alone: it has come since.
+spare_unmeant() {
+  [[ -n $OPT_PROCESS ]] && folders_are_safe && live_owner && [[ $OWNER_PID != "$OPT_PROCESS" ]] || return 0
+  die "Another program (process $OWNER_PID) has begun a session since. It was left alone."
 }

@@ -151,7 +151,7 @@ linux_fix-dns() {
 
 linux_disconnect() {
   local status=0
-  (($# == 0)) || die "The verb disconnect takes no options."
+  parse_disconnect "$@"
   need_programs flock nft umount stat
   lift_limits
   take_lock
@@ -163,5 +163,6 @@ linux_disconnect() {
     ((status == 0)) || JOURNAL_TRUSTED=
   fi
   spare_others
+  spare_unmeant
   undo_session || die "$UNDONE"
 }

@@ -6,7 +6,7 @@ OPT_TOR='' OPT_HASH='' OPT_STRICT='' OPT_LAN='' OPT_EXIT=''
 OPT_BRIDGES=()
 OPT_LYREBIRD='' OPT_SNOWFLAKE='' OPT_WEBTUNNEL=''
 OPT_USER='' OPT_LAUNCH=''
-OPT_UID='' OPT_APP=''
+OPT_UID='' OPT_APP='' OPT_PROCESS=''
 OPT_PROGRAM='' OPT_AS='' OPT_SHA256=''
 
 readonly MAX_BRIDGES=100
@@ -66,6 +66,7 @@ parse_options() {
     --launch) take OPT_LAUNCH "$option" "$value" ;;
     --uid) take OPT_UID "$option" "$value" ;;
     --app) take OPT_APP "$option" "$value" ;;
+    --process) take OPT_PROCESS "$option" "$value" ;;
     --program) take OPT_PROGRAM "$option" "$value" ;;
     --as) take OPT_AS "$option" "$value" ;;
     --sha256) take OPT_SHA256 "$option" "$value" ;;

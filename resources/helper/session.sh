@@ -38,6 +38,12 @@ read_marker() {
   printf '%s' "$word"
 }
 
+# parse_disconnect WORD...: the program whose session is meant may be named. On a Mac no owner is noted, so nobody's is refused.
+parse_disconnect() {
+  parse_options " --process " "$@"
+  [[ -z $OPT_PROCESS || $OPT_PROCESS =~ ^[1-9][0-9]{0,9}$ ]] || die "The process id is not valid."
+}
+
 put_marker() {
   write_file "$MARKER" 0644 root "$1"$'\n' || die "The session marker cannot be written."
 }

@@ -282,6 +282,10 @@
 <context>
     <name>Doctor</name>
     <message>
+        <source>A session is open, and its kill switch isn&apos;t closed: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
+        <translation>Eine Sitzung ist offen, und ihr Notschalter ist nicht geschlossen: Ihr Wächter konnte die Regeln nicht wiederherstellen. Daten können diesen Computer direkt verlassen. Stellen Sie das Netzwerk wieder her, und verbinden Sie neu.</translation>
+    </message>
+    <message>
         <source>The clock is behind: it shows %1, but the file %2 was written on %3. Tor needs a clock that is right to within minutes.</source>
         <translation>Die Uhr geht nach: Sie zeigt %1, aber die Datei %2 wurde am %3 geschrieben. Tor braucht eine Uhr, die auf Minuten genau geht.</translation>
     </message>
@@ -414,10 +418,6 @@
         <translation>%1 startet nicht oder ist nicht Tor: Es nennt seine Version nicht.</translation>
     </message>
     <message>
-        <source>Tor %1 is installed: %2. Veldmark was not tried with a Tor older than 0.4.7.</source>
-        <translation>Tor %1 ist installiert: %2. Veldmark wurde mit keinem Tor vor 0.4.7 erprobt.</translation>
-    </message>
-    <message>
         <source>Tor %1 is installed: %2.</source>
         <translation>Tor %1 ist installiert: %2.</translation>
     </message>
@@ -470,8 +470,8 @@
         <translation>Namen werden aufgelöst, wie %1 es vorgibt. Veldmark stellt das um und zurück.</translation>
     </message>
     <message>
-        <source>Names are looked up through Tor: %1 is Veldmark&apos;s.</source>
-        <translation>Namen werden durch Tor aufgelöst: %1 ist Veldmarks Datei.</translation>
+        <source>%1 is Veldmark&apos;s. It names Tor as the name server.</source>
+        <translation>%1 ist von Veldmark. Als Nameserver steht dort Tor.</translation>
     </message>
     <message>
         <source>There is no file %1, so names may not be looked up at all.</source>
@@ -908,6 +908,10 @@
 </context>
 <context>
     <name>Session</name>
+    <message>
+        <source>Tor hasn&apos;t confirmed that it is on the network again, so nothing may get through. Veldmark goes on telling it to; else disconnect and connect again.</source>
+        <translation>Tor hat nicht bestätigt, dass es wieder im Netzwerk ist; womöglich kommt nichts durch. Veldmark fordert es weiter dazu auf; trennen Sie sonst, und verbinden Sie neu.</translation>
+    </message>
     <message>
         <source>Version %1 is offered, which is older than the installed %2. Nothing was changed.</source>
         <translation>Angeboten wird Version %1, die älter ist als die installierte %2. Nichts wurde geändert.</translation>
@@ -1418,6 +1422,10 @@
 <context>
     <name>veldmark::Alerts</name>
     <message>
+        <source>Another session has replaced this one</source>
+        <translation>Eine andere Sitzung hat diese ersetzt</translation>
+    </message>
+    <message>
         <source>Tor stopped running</source>
         <translation>Tor läuft nicht mehr</translation>
     </message>
@@ -1803,6 +1811,18 @@
 </context>
 <context>
     <name>veldmark::PanelModel</name>
+    <message>
+        <source>No answer</source>
+        <translation>Keine Antwort</translation>
+    </message>
+    <message>
+        <source>A direct connection that skips Tor got no answer, but the kill switch isn&apos;t known to close that path</source>
+        <translation>Eine direkte Verbindung an Tor vorbei blieb ohne Antwort, aber es ist nicht bekannt, ob der Notschalter diesen Weg schließt</translation>
+    </message>
+    <message>
+        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t close that path</source>
+        <translation>Eine direkte Verbindung an Tor vorbei blieb ohne Antwort, aber der Proxy-Modus schließt diesen Weg nicht</translation>
+    </message>
     <message>
         <source>Connect to Tor</source>
         <translation>Mit Tor verbinden</translation>

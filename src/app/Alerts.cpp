@@ -26,7 +26,7 @@ void Alerts::look()
     // What the user asks for goes by way of `disconnecting`. Tor may die after somebody else has
     // restored the network; then nothing is left over.
     if (before == Phase::connected && (now.phase == Phase::stale || now.phase == Phase::disconnected))
-        tell(tr("Tor stopped running"),
+        tell(now.isAnothers ? tr("Another session has replaced this one") : tr("Tor stopped running"),
              SessionTexts::translated(now.errorMessage.value_or(now.statusDetail)));
     if (const auto danger = now.verdict().danger; std::exchange(m_danger, danger) != danger)
         tellDanger(danger);

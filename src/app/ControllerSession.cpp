@@ -103,6 +103,7 @@ void ControllerSession::read()
     next.bootstrapProgress = c.bootstrapProgress();
     next.statusDetail = c.statusDetail();
     next.bootstrapProblem = c.bootstrapProblem();
+    next.isAnothers = c.otherSession().has_value();
     next.canCancel = c.canCancel();
     while (const auto problem = m_settings.problem())
         m_notices << *problem;
@@ -208,7 +209,8 @@ void ControllerSession::connectToTor()
 
 void ControllerSession::disconnectFromTor()
 {
-    m_controller.lookAtSession(); // a marker that another process left counts as well
+    if (!m_controller.isSessionMarkerPresent())
+        m_controller.lookAtSession(); // somebody else has restored the network
     m_controller.disconnect();
 }
 

@@ -20,14 +20,19 @@ QString text(const QJsonObject &state, const char *key)
     return state.value(QLatin1String(key)).toString();
 }
 
+// Whether the rules were seen to be there.
+bool isClosed(const QJsonObject &state)
+{
+    const QString rules = text(state, "killSwitch");
+    return text(state, "activeMode") == QLatin1String("strict")
+        && (rules == QLatin1String("standing") || rules == QLatin1String("putBack"));
+}
+
 QString modeText(const QJsonObject &state)
 {
     if (text(state, "activeMode") != QLatin1String("strict"))
         return QStringLiteral("proxy: apps that ignore the system proxy are not covered");
-    const QString rules = text(state, "killSwitch");
-    if (rules == QLatin1String("standing") || rules == QLatin1String("putBack"))
-        return QStringLiteral("strict: only Tor's traffic leaves");
-    return QStringLiteral("strict");
+    return isClosed(state) ? QStringLiteral("strict: only Tor's traffic leaves") : QStringLiteral("strict");
 }
 
 QString killSwitchText(const QJsonObject &state)
@@ -64,9 +69,11 @@ QString directText(const QJsonObject &state)
             .arg(leak.toObject().value(QStringLiteral("exposed")).toString());
     const QString word = leak.toString();
     // Only the kill switch blocks: in proxy mode, silence is no protection.
+    if (word == QLatin1String("blocked") && isClosed(state))
+        return QStringLiteral("blocked");
     if (word == QLatin1String("blocked"))
         return text(state, "activeMode") == QLatin1String("strict")
-            ? QStringLiteral("blocked")
+            ? QStringLiteral("no answer, but the kill switch isn't known to close it")
             : QStringLiteral("no answer, but proxy mode doesn't close it");
     if (word == QLatin1String("checking"))
         return QStringLiteral("checking…");
@@ -140,7 +147,9 @@ QString status(const QJsonObject &state)
         report += row("Progress", QStringLiteral("%1%").arg(
                           qRound(state.value(QStringLiteral("bootstrapProgress")).toDouble() * 100)));
     } else if (phase == QLatin1String("stale")) {
-        report += row("What to do", QStringLiteral("veldmarkctl restore"));
+        const bool isAnothers = state.value(QStringLiteral("otherSession")).isObject();
+        report += row("What to do", isAnothers ? QStringLiteral("nothing; veldmarkctl restore would end that session")
+                                               : QStringLiteral("veldmarkctl restore"));
     }
     if (!text(state, "killSwitch").isEmpty())
         report += row("Kill switch", killSwitchText(state));

@@ -67,7 +67,8 @@ QCoro::Task<void> RunCommand::begin()
         co_return;
     const bool isRefused = m_controller.phase() == ConnectionPhase::disconnected || m_controller.otherSession();
     if (m_connectNow && isRefused) {
-        complain(m_controller.errorMessage().value_or(QStringLiteral("Cancelled.")));
+        complain(m_controller.errorMessage().value_or(
+            m_controller.otherSession() ? m_controller.statusDetail() : QStringLiteral("Cancelled.")));
         finish(ExitStatus::failed);
     } else if (m_controller.phase() == ConnectionPhase::disconnected) {
         say(QStringLiteral("Ready. Connect with: veldmarkctl connect"));

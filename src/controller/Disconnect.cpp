@@ -4,6 +4,7 @@
 #include "system/PrivilegedRunner.h"
 #include "terminal/TerminalIntegration.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QPointer>
 
@@ -20,14 +21,13 @@ bool TorController::isSessionMarkerPresent() const
 
 QCoro::Task<Result<void, QString>> TorController::disconnect()
 {
-    if (phase() == ConnectionPhase::connected) {
+    const auto meant = otherSession();
+    const auto other = SessionOwner::ofAnotherProcess(m_services.profile);
+    if (phase() == ConnectionPhase::disconnected || (other && other != meant))
         lookAtSession();
-        if (phase() == ConnectionPhase::stale) { // it was another session that the user wanted to end
-            errorMessage = otherSession()->isOwnUser()
-                ? QStringLiteral("Another Veldmark of yours has begun a session since, so nothing was ended. Disconnect again to end it.")
-                : QStringLiteral("Another user's Veldmark has begun a session since, so nothing was ended. Disconnect again to end it.");
-            co_return Failure(*errorMessage());
-        }
+    if (otherSession() && otherSession() != meant) { // not the one that the user wanted to end
+        errorMessage = replacedText();
+        co_return Failure(replacedText());
     }
     const bool mayDisconnect = phase() == ConnectionPhase::connected
         || phase() == ConnectionPhase::stale
@@ -52,9 +52,12 @@ QCoro::Task<Result<void, QString>> TorController::disconnect()
     phase = ConnectionPhase::disconnecting;
     stopMonitoring();
     stopKillSwitchWatch(); // from here on the rules go on purpose
-    m_services.terminal.setActive(false);
+    setShellsActive(false);
 
-    const QStringList arguments = {QStringLiteral("disconnect")};
+    QStringList arguments = {QStringLiteral("disconnect")};
+    // One of another version may not know the option.
+    if (!m_services.profile.sessionOwner.isEmpty() && !m_services.privileged.privilegedHelperOutdated())
+        arguments << QStringLiteral("--process") << QString::number(meant ? meant->process : QCoreApplication::applicationPid());
     const auto helper = co_await m_services.privileged.runHelper(arguments);
     if (!self || !isCurrent(attempt))
         co_return Failure(QString());
@@ -64,6 +67,12 @@ QCoro::Task<Result<void, QString>> TorController::disconnect()
         co_return {};
     }
 
+    // While the prompt was shown, perhaps.
+    if (const auto newer = SessionOwner::ofAnotherProcess(m_services.profile); newer && newer != meant) {
+        giveUpTo(*newer);
+        errorMessage = replacedText();
+        co_return Failure(replacedText());
+    }
     QString reason;
     if (helper.error().kind() != HelperError::Kind::Cancelled) {
         reason = helper.error().description();
@@ -160,7 +169,7 @@ void TorController::lookAtSession()
 {
     if (phase() == ConnectionPhase::disconnected && isSessionMarkerPresent())
         detectStaleState();
-    if (phase() == ConnectionPhase::connected) {
+    if (phase() == ConnectionPhase::connected || (phase() == ConnectionPhase::connecting && canCancel())) {
         if (const auto other = SessionOwner::ofAnotherProcess(m_services.profile))
             giveUpTo(*other);
         return;
@@ -186,6 +195,14 @@ void TorController::giveUpTo(const SessionOwner &other)
     canCancel = false;
     showSessionOf(other);
     phase = ConnectionPhase::stale;
+    startKillSwitchWatch();
+}
+
+QString TorController::replacedText() const
+{
+    return otherSession()->isOwnUser()
+        ? QStringLiteral("Another Veldmark of yours has begun a session since, so nothing was ended. Disconnect again to end it.")
+        : QStringLiteral("Another user's Veldmark has begun a session since, so nothing was ended. Disconnect again to end it.");
 }
 
 void TorController::showSessionOf(const std::optional<SessionOwner> &other)

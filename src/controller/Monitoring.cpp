@@ -19,6 +19,9 @@ constexpr auto counterReadLimit = 3s; // a tor that is stopped, not dead, must n
 constexpr int ticksPerDNSCheck = 15;  // every 30 seconds
 constexpr int failuresUntilDead = 3;
 
+// Stays as long as it is so.
+const QString offlineText = QStringLiteral("Tor hasn't confirmed that it is on the network again, so nothing may get through. Veldmark goes on "
+                                           "telling it to; else disconnect and connect again.");
 const QString readKey = QStringLiteral("traffic/read");
 const QString writtenKey = QStringLiteral("traffic/written");
 
@@ -66,10 +69,14 @@ QCoro::Task<void> TorController::monitor(quint64 run)
         if (isStale || mayBeOffline) {
             if (isStale)
                 forgetExit(); // what was verified was another way out
-            const auto taken = co_await m_services.controlPort.batch(isStale ? beginAnew : goOn, *m_controlPassword, counterReadLimit);
+            const auto replies = co_await m_services.controlPort.batch(isStale ? beginAnew : goOn, *m_controlPassword, counterReadLimit);
             if (!self || run != m_monitor)
                 co_return;
-            mayBeOffline = !taken || !taken->back();
+            mayBeOffline = !replies || !replies->back(); // no answer, or Tor's refusal
+            if (mayBeOffline)
+                errorMessage = offlineText;
+            else if (errorMessage() == offlineText)
+                errorMessage = std::nullopt;
             if (!mayBeOffline && phase() == ConnectionPhase::connected && !isChecking())
                 runChecks();
         }

@@ -120,7 +120,8 @@ Result<void, SettingError> saved(const std::optional<QString> &problem)
 QJsonObject publishedState(const TorController &c)
 {
     const Verdict verdict = c.verdict();
-    const auto &rules = c.killSwitch();
+    // While they are taken down, nobody looks.
+    const auto rules = c.phase() == ConnectionPhase::disconnecting ? std::nullopt : c.killSwitch();
     return {
         {QStringLiteral("strictMode"), json(c.strictMode())},
         {QStringLiteral("allowLocalNetwork"), json(c.allowLocalNetwork())},

@@ -25,10 +25,15 @@ void TorController::applyTerminalMode()
         if (!isKnown && !terminalError())
             installForSsh(m_terminalRun);
     }
-    // Another process of this user's says for its own session whether the shells follow it.
-    const bool isAnothers = otherSession() && otherSession()->isOwnUser();
-    if (!terminalMode() || !isAnothers)
-        terminal.setActive(terminalMode() && phase() == ConnectionPhase::connected);
+    setShellsActive(terminalMode() && phase() == ConnectionPhase::connected);
+}
+
+// Another process of this user's says for its own session whether the shells follow it, also where it isn't shown here.
+void TorController::setShellsActive(bool on)
+{
+    const auto other = SessionOwner::ofAnotherProcess(m_services.profile);
+    if (!other || !other->isOwnUser())
+        m_services.terminal.setActive(on);
 }
 
 void TorController::showTerminalProblem(const Result<void, TerminalError> &installed)

@@ -189,6 +189,8 @@ public:
     // The computer was asleep: what was verified is no longer known, and Tor's connections may hang without a word.
     void wake();
 
+    // What the last operation that failed has said, without what is told of the kill switch.
+    std::optional<QString> failure() const { return errorMessage() == m_killSwitchMessage ? std::nullopt : errorMessage(); }
     // The user has read the banner.
     void dismissError() { errorMessage = std::nullopt; }
     // Shows what went wrong outside the controller as the banner.
@@ -310,6 +312,7 @@ private:
     QCoro::Task<void> monitor(quint64 run);
     void torDied();
     void giveUpTo(const SessionOwner &other);
+    QString replacedText() const; // `otherSession` is there
     void showSessionOf(const std::optional<SessionOwner> &other); // nobody's: one that was left over
     struct TimedProbe {
         ProbeResult answer;
@@ -354,6 +357,7 @@ private:
     }
     // Terminal.cpp
     void applyTerminalMode();
+    void setShellsActive(bool on);
     void showTerminalProblem(const Result<void, TerminalError> &installed);
     QCoro::Task<void> installForSsh(quint64 run);
     // TorController.cpp

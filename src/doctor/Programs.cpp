@@ -37,19 +37,6 @@ QString versionIn(const QString &text)
     return form.match(text).captured(1);
 }
 
-// Older than 0.4.7, the oldest that Veldmark was tried with.
-bool isOld(const QString &version)
-{
-    const QStringList parts = version.split(u'.');
-    const std::array tried{0, 4, 7};
-    for (std::size_t i = 0; i < tried.size(); ++i) {
-        const int part = parts.value(static_cast<qsizetype>(i)).toInt();
-        if (part != tried[i])
-            return part < tried[i];
-    }
-    return false;
-}
-
 // Whether somebody besides root could change a file or one of the folders above it, up to the root of the system: the account's
 // number, root's own for more than one.
 std::optional<uid_t> otherWriter(const Machine &machine, const QString &path)
@@ -88,11 +75,7 @@ Findings torFindings(const Machine &machine)
         findings.push_back({torName, Level::problem,
                             QT_TRANSLATE_NOOP("Doctor", "%1 doesn't start, or isn't Tor: it doesn't tell its version."), {tor},
                             tor == custom ? usual : machine.installing(QStringLiteral("--reinstall tor"))});
-    else if (isOld(version))
-        findings.push_back({torName, Level::note,
-                            QT_TRANSLATE_NOOP("Doctor", "Tor %1 is installed: %2. Veldmark was not tried with a Tor older than 0.4.7."),
-                            {version, tor}, machine.installing(torName)});
-    else
+    else // whether it takes the configuration, it is asked itself at each connect
         findings.push_back({torName, Level::good, QT_TRANSLATE_NOOP("Doctor", "Tor %1 is installed: %2."), {version, tor}, {}});
     return findings;
 }

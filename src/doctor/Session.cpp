@@ -53,7 +53,7 @@ Findings lookupFindings(const Machine &machine)
     const QString target = QFile::symLinkTarget(file);
     const QString text = Machine::readFile(file);
     if (text.startsWith(QLatin1String("# Veldmark")))
-        return {{dnsName, Level::good, QT_TRANSLATE_NOOP("Doctor", "Names are looked up through Tor: %1 is Veldmark's."), {file}, {}}};
+        return {{dnsName, Level::good, QT_TRANSLATE_NOOP("Doctor", "%1 is Veldmark's. It names Tor as the name server."), {file}, {}}};
     if (!QFileInfo::exists(file))
         return {{dnsName, Level::note, QT_TRANSLATE_NOOP("Doctor", "There is no file %1, so names may not be looked up at all."), {file}, {}}};
     if (target.contains(QLatin1String("/run/systemd/resolve/")) || asks(text, "127.0.0.53"))
@@ -77,6 +77,11 @@ Findings sessionFindings(const Machine &machine)
         return {{sessionName, Level::note, QT_TRANSLATE_NOOP("Doctor", "A Tor of an earlier session still runs (process %1)."),
                  {QString::number(tor)}, machine.profile.manualRestoreCommand}};
     }
+    if (Machine::readFile(machine.profile.killSwitchNote).startsWith(QLatin1String("open ")))
+        return {{sessionName, Level::note,
+                 QT_TRANSLATE_NOOP("Doctor", "A session is open, and its kill switch isn't closed: its watcher couldn't put the rules back. Traffic may "
+                                             "leave this computer directly. Restore the network, and connect again."),
+                 {}, QStringLiteral("veldmarkctl restore"), Button::restore}};
     if (tor != 0)
         return {{sessionName, Level::good, QT_TRANSLATE_NOOP("Doctor", "A session is open: the network is set up for Tor, and Tor runs."), {}, {}}};
     if (!machine.isLinux())

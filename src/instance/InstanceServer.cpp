@@ -48,7 +48,8 @@ auto refusal(const QString &description)
 
 QString connectFailure(const TorController &controller)
 {
-    const QString failure = controller.errorMessage().value_or(QStringLiteral("Cancelled."));
+    const QString failure = controller.errorMessage().value_or(
+        controller.otherSession() ? controller.statusDetail() : QStringLiteral("Cancelled."));
     return controller.bootstrapProblem() ? failure + u' ' + *controller.bootstrapProblem() : failure;
 }
 
@@ -203,7 +204,9 @@ QCoro::Task<Result<void, InstanceError>> InstanceServer::execute(QJsonObject req
 {
     const QPointer<TorController> controller(&m_controller);
     const QString command = request.value(QStringLiteral("command")).toString();
-    m_controller.lookAtSession(); // another process may have changed what this one shows
+    // Another process may have changed what this one shows. What is to be ended is what was shown until now, and no other.
+    if (command != QLatin1String("disconnect") || !m_controller.isSessionMarkerPresent())
+        m_controller.lookAtSession();
     if (command == QLatin1String("raise")) {
         Q_EMIT raiseRequested();
         co_return {};
@@ -243,7 +246,7 @@ QCoro::Task<Result<void, InstanceError>> InstanceServer::execute(QJsonObject req
             || (controller->phase() == ConnectionPhase::connecting && !controller->canCancel());
         if (underWay)
             co_return refusal(QStringLiteral("Not now: %1").arg(controller->statusDetail()));
-        if (controller->phase() != ConnectionPhase::disconnected) { // else there is nothing to do
+        if (controller->phase() != ConnectionPhase::disconnected || controller->isSessionMarkerPresent()) { // else there is nothing to do
             const auto ended = co_await m_controller.disconnect();
             if (!ended)
                 co_return refusal(ended.error().isEmpty() ? QStringLiteral("Cancelled.") : ended.error());
@@ -264,8 +267,8 @@ QCoro::Task<Result<void, InstanceError>> InstanceServer::execute(QJsonObject req
         co_await m_controller.runChecks();
     } else if (command == QLatin1String("fix-dns")) {
         co_await m_controller.fixDNS();
-        if (controller && controller->errorMessage())
-            co_return refusal(*controller->errorMessage());
+        if (controller && controller->failure())
+            co_return refusal(*controller->failure());
         if (controller && controller->dnsStatus().isLeak())
             co_return refusal(QStringLiteral("Cancelled."));
     } else if (command == QLatin1String("launch")) {
@@ -294,8 +297,8 @@ QCoro::Task<Result<void, InstanceError>> InstanceServer::execute(QJsonObject req
             co_return refusal(*controller->circuitError());
     } else if (command == QLatin1String("new-identity")) {
         co_await m_controller.newIdentity();
-        if (controller && controller->errorMessage())
-            co_return refusal(*controller->errorMessage());
+        if (controller && controller->failure())
+            co_return refusal(*controller->failure());
     }
     // What was asked of a session that ended meanwhile has no answer; the fields hold an earlier one.
     if (controller && sessionCommands.contains(command) && controller->phase() != ConnectionPhase::connected)

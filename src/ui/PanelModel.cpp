@@ -78,6 +78,13 @@ Leak PanelModel::knownLeak() const
     return connected() ? m_session.now().leak : Leak();
 }
 
+// Only the kill switch blocks, and only where its rules were seen: elsewhere silence is no protection.
+bool PanelModel::isClosed() const
+{
+    const Snapshot &now = m_session.now();
+    return now.activeMode == RoutingMode::strict && now.killSwitch && now.killSwitch->blocks();
+}
+
 PanelModel::Tone PanelModel::tone() const
 {
     switch (m_session.now().verdict().level) {
@@ -253,7 +260,7 @@ QString PanelModel::leakText() const
     case Leak::Kind::checking:
         return tr("Testing…");
     case Leak::Kind::blocked:
-        return tr("No leaks");
+        return isClosed() ? tr("No leaks") : tr("No answer");
     case Leak::Kind::inconclusive:
         return tr("Inconclusive");
     case Leak::Kind::exposed:
@@ -266,8 +273,12 @@ QString PanelModel::leakHelp() const
 {
     const Leak leak = knownLeak();
     QString traffic = tr("Tries a direct connection that skips Tor");
-    if (leak.kind == Leak::Kind::blocked)
+    if (leak.kind == Leak::Kind::blocked && isClosed())
         traffic = tr("Direct connections that skip Tor are blocked");
+    else if (leak.kind == Leak::Kind::blocked)
+        traffic = m_session.now().activeMode == RoutingMode::strict
+            ? tr("A direct connection that skips Tor got no answer, but the kill switch isn't known to close that path")
+            : tr("A direct connection that skips Tor got no answer, but proxy mode doesn't close that path");
     else if (leak.kind == Leak::Kind::exposed)
         traffic = tr("Apps that ignore proxy settings show your real IP (%1). Turn on Strict mode to "
                      "block them.").arg(leak.address);
@@ -282,7 +293,7 @@ PanelModel::Tone PanelModel::leakTone() const
     case Leak::Kind::exposed:
         return m_session.now().activeMode == RoutingMode::strict ? Tone::Danger : Tone::Warning;
     case Leak::Kind::blocked:
-        return Tone::Good;
+        return isClosed() ? Tone::Good : Tone::Neutral;
     case Leak::Kind::inconclusive:
         return Tone::Warning;
     case Leak::Kind::notTested:

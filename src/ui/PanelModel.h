@@ -126,6 +126,7 @@ private:
     void update();
     void rememberExitCountry();
     Leak knownLeak() const; // what was found out about the session that runs
+    bool isClosed() const;
     bool throughBridge() const;
 
     Session &m_session;

@@ -37,6 +37,8 @@ namespace {
                                  "Reconnect, or Restore Network to go back online."),
     QT_TRANSLATE_NOOP("Session", "The watcher over Veldmark's firewall rules has stopped telling, so it isn't known whether "
                                  "the kill switch stands. Disconnect and connect again."),
+    QT_TRANSLATE_NOOP("Session", "Tor hasn't confirmed that it is on the network again, so nothing may get through. Veldmark goes on "
+                                 "telling it to; else disconnect and connect again."),
     // Verdict's titles and lines.
     QT_TRANSLATE_NOOP("Session", "Not Protected"),
     QT_TRANSLATE_NOOP("Session", "Connecting…"),

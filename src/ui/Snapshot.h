@@ -60,6 +60,7 @@ struct Snapshot {
     double bootstrapProgress = 0; // 0…1
     QString statusDetail = QStringLiteral("Your traffic is not going through Tor");
     std::optional<QString> bootstrapProblem; // what keeps Tor from connecting
+    bool isAnothers = false; // the session is another process's
     bool canCancel = false;
     std::optional<QString> errorMessage;
     quint64 bytesRead = 0; // since Tor started

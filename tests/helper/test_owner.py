@@ -97,6 +97,24 @@ class Owner(HelperTest):
         self.machine.help(*CONNECT, env={"PATH": os.environ["PATH"], "PKEXEC_UID": str(OTHER_UID)})
         self.assertEqual(self.note(), {"uid": str(OTHER_UID)})
 
+    def test_a_disconnect_that_means_another_programs_session_leaves_it_alone(self):
+        program = self.begin()
+        pid = self.note()["pid"]
+        self.machine.await_watcher()
+        before = self.machine.snapshot(), self.note()
+        for value, words in ("1", f"Another program (process {pid}) has begun a session since. It was left alone."), \
+                            (pid + "0", f"Another program (process {pid}) has begun a session since. It was left alone."), \
+                            ("0", "The process id is not valid."), ("x[$(reboot)]", "The process id is not valid."):
+            done = self.machine.help("disconnect", "--process", value, check=False)
+            self.assertEqual((done.returncode, done.stderr), (1, f"ERROR: {words}\n"))
+        self.assertEqual((self.machine.snapshot(), self.note()), before)
+        self.machine.help("disconnect", "--process", pid)
+        self.assertEqual(self.machine.shell("ls /var/lib/veldmark/state"), "")
+        program.communicate()
+        self.begin().communicate()
+        self.machine.help("disconnect", "--process", "1")   # what was left over is nobody's
+        self.assertEqual(self.machine.shell("ls /var/lib/veldmark/state"), "")
+
     def test_the_user_ends_the_own_session_from_elsewhere(self):
         self.begin()
         self.machine.help_by_rule("disconnect")

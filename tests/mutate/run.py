@@ -215,16 +215,16 @@ class Proved:
 
     def tests(self, number):
         if self.groups[number] is None:
+            # CTest knows the command of a program only once it is there.
+            status, said = self.clone.compile(self.targets[number])
+            if status:
+                sys.exit(said)
             self.groups[number] = [
                 test for test in self.clone.tests(self.patterns[number]) if not re.search(self.left_out, test.name)]
         return self.groups[number]
 
-    def require(self, tests, targets):
+    def require(self, tests):
         """They pass now, without a mistake."""
-        if any(test.name not in self.times() for test in tests):
-            status, said = self.clone.compile(targets)
-            if status:
-                sys.exit(said)
         for test in tests:
             test.usual = test.usual or self.times().get(test.name) or self.prove(test)
 
@@ -255,7 +255,7 @@ def noticed_by(clone, path, mutant, proved):
         tests = [test for test in tests if not touched or test.name.rsplit("/", 1)[1] in touched or re.search(LONG, test.name)]
         if not tests:
             continue
-        proved.require(tests, proved.targets[number])
+        proved.require(tests)
         file = clone.place / path
         original = file.read_text()
         try:

@@ -40,6 +40,21 @@ private Q_SLOTS:
         QCOMPARE(told.count(), 1);
     }
 
+    void tellsThatAnotherSessionHasReplacedThisOne()
+    {
+        StandInSession session(profile);
+        Alerts alerts(session);
+        QSignalSpy told(&alerts, &Alerts::told);
+        session.show(inPhase(Phase::connected));
+        Snapshot replaced = inPhase(Phase::stale);
+        replaced.isAnothers = true;
+        replaced.statusDetail = QStringLiteral("Your network is set up for Tor by bob, whose Veldmark is process 7");
+        session.show(replaced);
+        QCOMPARE(told.count(), 1);
+        QCOMPARE(told.at(0).at(0).toString(), QStringLiteral("Another session has replaced this one"));
+        QCOMPARE(told.at(0).at(1).toString(), replaced.statusDetail);
+    }
+
     void tellsWhenTorDiesAndSomebodyElseHasRestored()
     {
         StandInSession session(profile);

@@ -1,4 +1,5 @@
 #include "app/ControllerSession.h"
+#include "support/OtherSession.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 
@@ -182,6 +183,21 @@ private Q_SLOTS:
         session.disconnectFromTor();
         QVERIFY(until([&] { return bench.controller().phase() == ConnectionPhase::disconnected && !bench.hasMarker(); }));
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 1);
+    }
+
+    void endsNoSessionThatHasReplacedItsOwn()
+    {
+        Workbench bench;
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        QVERIFY(bench.connect());
+        OtherSession other(bench.profile);
+        session.disconnectFromTor();
+        QVERIFY(until([&] { return session.now().isAnothers; }));
+        QVERIFY(session.now().phase == ConnectionPhase::stale);
+        QCOMPARE(bench.helperRunCount(u"disconnect"_s), 0);
+        session.disconnectFromTor(); // it is shown, and meant
+        QVERIFY(until([&] { return session.now().phase == ConnectionPhase::disconnected; }));
+        QVERIFY(!session.now().isAnothers);
     }
 
     void passesOnWhatTheWatcherHasSeen()

@@ -154,8 +154,8 @@ private Q_SLOTS:
             for (const QString &claim : {u"locked to Tor"_s, u"only Tor's traffic leaves"_s, u"blocking traffic, so nothing leaked"_s,
                                          u"Direct path   blocked"_s, u"Direct path blocked"_s})
                 QVERIFY2(!words.contains(claim) || isLocked, name + ": " + claim.toUtf8());
-            if (one.strict)
-                QVERIFY2(!words.contains(u"No leaks"_s) || isLocked, name);
+            for (const QString &claim : {u"No leaks"_s, u"that skip Tor are blocked"_s})
+                QVERIFY2(!words.contains(claim) || isLocked, name);
             if (words.contains(u"so nothing leaked"_s))
                 QVERIFY2(one.note == "standing", name);
             if (one.strict && one.note == "open") {
@@ -200,6 +200,8 @@ private Q_SLOTS:
                                 QCOMPARE(panel.symbol(), verdict.symbol);
                                 QCOMPARE(panel.detail(), verdict.detail);
                                 QCOMPARE(toneOf(panel), verdict.levelName());
+                                if (panel.leakText() == u"No leaks"_s || panel.leakHelp().contains(u"are blocked"_s))
+                                    QVERIFY(mode == RoutingMode::strict && s.killSwitch && s.killSwitch->blocks());
                                 QCOMPARE(icon->toolTip(), u"Veldmark: "_s + verdict.title);
                             }
         QCOMPARE(combinations, 5 * 3 * 5 * 5 * 3 * 3);
@@ -211,7 +213,7 @@ private Q_SLOTS:
         for (const char *phase : {"disconnected", "connecting", "connected", "disconnecting", "stale"})
             for (const char *mode : {"", "strict", "proxy"})
                 for (const char *rules : {"", "standing", "putBack", "open", "unknown"}) {
-                    QJsonObject state{{u"title"_s, u"T"_s}, {u"phase"_s, QLatin1String(phase)}};
+                    QJsonObject state{{u"title"_s, u"T"_s}, {u"phase"_s, QLatin1String(phase)}, {u"leakStatus"_s, u"blocked"_s}};
                     if (*mode)
                         state.insert(u"activeMode"_s, QLatin1String(mode));
                     if (*rules) {
@@ -221,6 +223,8 @@ private Q_SLOTS:
                     const QString report = Report::status(state);
                     const bool stands = QLatin1String(rules) == "standing"_L1 || QLatin1String(rules) == "putBack"_L1;
                     if (report.contains(u"only Tor's traffic leaves"_s))
+                        QVERIFY(QLatin1String(mode) == "strict"_L1 && stands);
+                    if (report.contains(u"Direct path blocked"_s))
                         QVERIFY(QLatin1String(mode) == "strict"_L1 && stands);
                     QCOMPARE(report.contains(u"Kill switch stands"_s), stands);
                     QCOMPARE(report.contains(u"OPEN since"_s), QLatin1String(rules) == "open"_L1);

@@ -56,6 +56,41 @@ private Q_SLOTS:
         QVERIFY(report.contains(QStringLiteral("can go around Tor via: 192.0.2.1 on eth0")));
     }
 
+    void saysBlockedOnlyWhereTheRulesWereSeen_data()
+    {
+        QTest::addColumn<QString>("mode");
+        QTest::addColumn<QString>("rules");
+        QTest::addColumn<QString>("text");
+        const QString unknown = QStringLiteral("no answer, but the kill switch isn't known to close it");
+        const QString proxy = QStringLiteral("no answer, but proxy mode doesn't close it");
+        QTest::newRow("standing") << "strict" << "standing" << "blocked";
+        QTest::newRow("put back") << "strict" << "putBack" << "blocked";
+        QTest::newRow("open") << "strict" << "open" << unknown;
+        QTest::newRow("unknown") << "strict" << "unknown" << unknown;
+        QTest::newRow("nothing") << "strict" << "" << unknown;
+        QTest::newRow("proxy") << "proxy" << "" << proxy;
+        QTest::newRow("proxy with rules") << "proxy" << "standing" << proxy;
+    }
+
+    void saysBlockedOnlyWhereTheRulesWereSeen()
+    {
+        QFETCH(QString, mode);
+        QFETCH(QString, rules);
+        QFETCH(QString, text);
+        QJsonObject state = object(R"({"phase":"connected","leakStatus":"blocked"})");
+        state.insert(QStringLiteral("activeMode"), mode);
+        state.insert(QStringLiteral("killSwitch"), rules);
+        const QString report = Report::status(state);
+        QVERIFY2(report.contains(QStringLiteral("\n  Direct path ") + text + QLatin1Char('\n')), qPrintable(report));
+    }
+
+    void doesNotAdviseToEndAnothersSession()
+    {
+        QVERIFY(Report::status(object(R"({"phase":"stale","otherSession":{"user":"bob","process":7}})")).contains(
+            QStringLiteral("nothing; veldmarkctl restore would end that session")));
+        QVERIFY(!Report::status(object(R"({"phase":"stale","otherSession":null})")).contains(QStringLiteral("nothing;")));
+    }
+
     void saysWhatIsWrong()
     {
         const QString report = Report::status(object(

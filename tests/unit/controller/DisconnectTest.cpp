@@ -62,7 +62,9 @@ private Q_SLOTS:
         bench.disconnect();
         QVERIFY((phases == std::vector{Phase::disconnecting, Phase::disconnected}));
         QCOMPARE(details, QStringList({u"Restoring your network settings…"_s, u"Your traffic is not going through Tor"_s}));
-        QCOMPARE(bench.lastHelperRun(u"disconnect"_s), QStringList(u"disconnect"_s));
+        const QStringList told = bench.profile.sessionOwner.isEmpty()
+            ? QStringList() : QStringList{u"--process"_s, QString::number(QCoreApplication::applicationPid())};
+        QCOMPARE(bench.lastHelperRun(u"disconnect"_s), QStringList(u"disconnect"_s) + told);
         QVERIFY(!c.activeMode() && !c.activeBridge() && !c.errorMessage() && c.circuits().empty());
         QVERIFY(!c.exitIP() && !c.torVerified() && !c.latencyMs());
         QVERIFY(c.leakStatus() == LeakStatus::notTested() && c.dnsStatus() == DNSStatus::unknown());

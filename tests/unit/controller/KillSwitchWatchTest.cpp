@@ -1,6 +1,8 @@
+#include "controller/PublishedState.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 
+#include <QJsonObject>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -381,6 +383,8 @@ private Q_SLOTS:
         bench.removeMarker();
         bench.clock.advance(10s);
         QCOMPARE(c.title(), u"Disconnecting…"_s);
+        for (const QString &name : {u"killSwitch"_s, u"killSwitchSince"_s})
+            QVERIFY(publishedState(c).value(name).isNull()); // they go on purpose, and nobody looks
         bench.processes.hold = nullptr;
         bench.processes.release();
         QVERIFY(Workbench::finished(disconnecting));

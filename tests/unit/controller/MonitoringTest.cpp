@@ -80,11 +80,13 @@ private Q_SLOTS:
             QVERIFY(bench.tick());
             QCOMPARE(bench.commandCount("SETCONF DisableNetwork=0"), times);
             QVERIFY(!bench.controller().torVerified()); // nothing is claimed meanwhile
+            QVERIFY(bench.controller().errorMessage().value_or(QString()).contains(u"hasn't confirmed that it is on the network"_s));
         }
         QCOMPARE(bench.commandCount("SETCONF DisableNetwork=1"), 1);
         bench.tor.reply("SETCONF DisableNetwork=0", "250 OK\r\n");
         QVERIFY(bench.tick());
         QVERIFY(until([&] { return bench.controller().torVerified() == true; }));
+        QVERIFY(!bench.controller().errorMessage());
         QVERIFY(bench.tick());
         QCOMPARE(bench.commandCount("SETCONF DisableNetwork=0"), 5);
     }

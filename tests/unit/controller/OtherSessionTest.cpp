@@ -189,7 +189,91 @@ private Q_SLOTS:
         c.setTerminalMode(true);
         QVERIFY(QFile::exists(active));
         c.setTerminalMode(false);
+        QVERIFY(QFile::exists(active));
+        bench.disconnect(); // the user ends that session
         QVERIFY(!QFile::exists(active));
+    }
+
+    void terminalModeOfOneThatHasNotLookedLeavesItsShellsAlone()
+    {
+        Workbench bench;
+        OtherSession other(bench.profile);
+        bench.terminal.setActive(true);
+        bench.controller().setTerminalMode(true); // as "veldmarkctl set" does, which looks at no session
+        bench.controller().setTerminalMode(false);
+        QVERIFY(QFile::exists(bench.profile.terminalDirectory + u"/active"_s));
+    }
+
+    void theHelperIsToldWhoseSessionIsMeant()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        bench.disconnect();
+        const QString own = QString::number(QCoreApplication::applicationPid());
+        QCOMPARE(bench.lastHelperRun(u"disconnect"_s), (QStringList{u"disconnect"_s, u"--process"_s, own}));
+        OtherSession other(bench.profile);
+        c.lookAtSession();
+        bench.disconnect();
+        QCOMPARE(bench.lastHelperRun(u"disconnect"_s), (QStringList{u"disconnect"_s, u"--process"_s, QString::number(other.process())}));
+    }
+
+    void aHelperOfAFormerVersionIsNotGivenTheOption()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        bench.writeFile(bench.profile.installedHelper, "of a former version\n", true);
+        bench.writeFile(bench.profile.sudoersRule);
+        bench.disconnect();
+        QCOMPARE(bench.lastHelperRun(u"disconnect"_s), QStringList(u"disconnect"_s));
+    }
+
+    void isShownWhenItBeginsWhileTheUserIsAskedForTheDisconnect()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        bench.hold(u"disconnect"_s);
+        const auto ending = c.disconnect();
+        QVERIFY(until([&] { return bench.processes.held() == 1; }));
+        bench.failHelper(u"disconnect"_s, u"Another program (process 7) has begun a session since. It was left alone."_s);
+        OtherSession other(bench.profile, daemonUser);
+        bench.processes.release();
+        QVERIFY(Workbench::finished(ending));
+        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.otherSession());
+        QVERIFY(c.errorMessage().value().startsWith(u"Another user's Veldmark has begun a session since"_s));
+        QVERIFY(!c.exitIP() && !c.torVerified());
+        bench.clock.advance(std::chrono::seconds(2)); // former loops wake once more
+        settle();
+        QCOMPARE(bench.clock.sleepers(), std::size_t(1)); // its rules are watched, and nothing else
+    }
+
+    void isNotTheOneThatAnIdleProgramWasToldToEnd()
+    {
+        Workbench bench;
+        OtherSession other(bench.profile); // this one has not seen it yet
+        bench.disconnect();
+        QCOMPARE(bench.helperRunCount(u"disconnect"_s), 0);
+        QVERIFY(bench.controller().otherSession());
+        bench.disconnect();
+        QCOMPARE(bench.helperRunCount(u"disconnect"_s), 1);
+    }
+
+    void isSeenWhileThisOneStillConnects()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        bench.setBootstrap("PROGRESS=5");
+        const auto connecting = c.connect();
+        QVERIFY(until([&] { return c.canCancel(); }));
+        OtherSession other(bench.profile, daemonUser);
+        c.lookAtSession();
+        QVERIFY(c.phase() == Phase::stale);
+        QVERIFY(c.otherSession() && !c.canCancel());
+        bench.clock.advance(std::chrono::seconds(1));
+        QVERIFY(Workbench::finished(connecting));
+        QVERIFY(c.phase() == Phase::stale && c.otherSession());
     }
 
     void isShownWhenItHasReplacedThisOnes()

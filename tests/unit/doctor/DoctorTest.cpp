@@ -32,8 +32,8 @@ const std::vector<Case> &cases()
          "sudo apt install --reinstall tor"},
         {"another program called tor", [](TestMachine &m) { m.machine.torVersion = QStringLiteral("usage: tor FILE"); }, "tor", Level::problem,
          "isn't Tor", "sudo apt install --reinstall tor"},
-        {"an old tor", [](TestMachine &m) { m.machine.torVersion = QStringLiteral("Tor version 0.4.6.12."); }, "tor", Level::note,
-         "not tried with a Tor older than 0.4.7", "sudo apt install tor"},
+        {"an old tor, which a connect has check its configuration", [](TestMachine &m) { m.machine.torVersion = QStringLiteral("Tor version 0.4.6.12."); },
+         "tor", Level::good, "Tor 0.4.6.12 is installed", nullptr},
         {"a location of tor that is no program", [](TestMachine &m) { m.machine.customTor = QStringLiteral("/opt/none/tor"); }, "tor", Level::note,
          "/opt/none/tor, is no program", "veldmarkctl set customTorPath \"\""},
         {"Debian's own service", [](TestMachine &m) { addHolder(m, "tor", 108, "system-tor.slice/tor@default.service"); }, "ports", Level::note,
@@ -181,7 +181,7 @@ const std::vector<Case> &cases()
         {"a resolver of one's own", [](TestMachine &m) { m.write("/etc/resolv.conf", "nameserver ::1\n"); }, "dns", Level::good,
          "by a resolver on this computer", nullptr},
         {"our resolver file", [](TestMachine &m) { m.write("/etc/resolv.conf", "# Veldmark: names are looked up through Tor.\nnameserver 127.0.0.1\n"); },
-         "dns", Level::good, "through Tor", nullptr},
+         "dns", Level::good, "It names Tor as the name server", nullptr},
         {"no resolver file", [](TestMachine &m) { m.remove("/etc/resolv.conf"); }, "dns", Level::note, "There is no file", nullptr},
         {"no bridge programs", [](TestMachine &) {}, "bridges", Level::good, "none was found", "veldmarkctl download-transports"},
         {"bridge programs", [](TestMachine &m) { m.machine.transports.lyrebird = QStringLiteral("/usr/bin/obfs4proxy"); }, "bridges", Level::good,
@@ -200,6 +200,20 @@ const std::vector<Case> &cases()
         {"a session that is open",
          [](TestMachine &m) { m.write("/var/lib/veldmark/state/active", "strict\n"); m.process(950, "tor", 990); }, "session", Level::good,
          "A session is open", nullptr},
+        {"a session whose kill switch is open",
+         [](TestMachine &m) {
+             m.write("/var/lib/veldmark/state/active", "strict\n");
+             m.write("/run/veldmark.watch", "open 4 1795307640\n");
+             m.process(950, "tor", 990);
+         },
+         "session", Level::note, "its kill switch isn't closed", "veldmarkctl restore"},
+        {"a session whose kill switch was put back",
+         [](TestMachine &m) {
+             m.write("/var/lib/veldmark/state/active", "strict\n");
+             m.write("/run/veldmark.watch", "restored 4 1795307640\n");
+             m.process(950, "tor", 990);
+         },
+         "session", Level::good, "A session is open", nullptr},
         {"a Tor without a session", [](TestMachine &m) { m.process(950, "tor", 990); }, "session", Level::note, "(process 950)",
          "sudo bash ROOT/usr/share/veldmark/veldmark-helper.sh disconnect"},
     };

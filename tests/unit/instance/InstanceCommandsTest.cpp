@@ -150,6 +150,56 @@ private Q_SLOTS:
         QVERIFY(instance.bench.hasMarker());
     }
 
+    void endsNoSessionThatHasReplacedItsOwn()
+    {
+        Instance instance;
+        QVERIFY(instance.bench.connect());
+        OtherSession other(instance.bench.profile);
+        Conversation disconnecting(instance.bench, "disconnect");
+        QCOMPARE(disconnecting.error(), u"Another Veldmark of yours has begun a session since, so nothing was ended. "
+                                        "Disconnect again to end it."_s);
+        QCOMPARE(instance.bench.helperRunCount(u"disconnect"_s), 0);
+        QVERIFY(instance.bench.hasMarker());
+        Conversation again(instance.bench, "disconnect");
+        QVERIFY2(again.succeeds(), qPrintable(again.error()));
+        QCOMPARE(instance.bench.helperRunCount(u"disconnect"_s), 1);
+    }
+
+    void aSessionThatSomebodyElseHasEndedIsEnded()
+    {
+        Instance instance;
+        instance.bench.writeMarker("strict\n");
+        instance.bench.controller().detectStaleState();
+        instance.bench.removeMarker();
+        Conversation disconnecting(instance.bench, "disconnect");
+        QVERIFY2(disconnecting.succeeds(), qPrintable(disconnecting.error()));
+        QCOMPARE(instance.bench.helperRunCount(u"disconnect"_s), 0);
+        QCOMPARE(disconnecting.lastPhase(), u"disconnected"_s);
+    }
+
+    void whatIsToldOfTheKillSwitchIsNoFailureOfACommand()
+    {
+        Instance instance;
+        QVERIFY(instance.bench.connect());
+        instance.bench.noteRules("restored", 1);
+        Conversation fixing(instance.bench, "fix-dns"); // it is told while the command runs
+        QVERIFY2(fixing.succeeds(), qPrintable(fixing.error()));
+        QVERIFY(instance.bench.controller().errorMessage().value().contains(u"back in place"_s));
+    }
+
+    void saysThatAConnectionWasReplaced()
+    {
+        Instance instance;
+        instance.bench.setBootstrap("PROGRESS=5");
+        Conversation connecting(instance.bench, "connect");
+        QVERIFY(until([&] { return instance.bench.controller().canCancel(); }));
+        OtherSession other(instance.bench.profile);
+        Conversation looking(instance.bench, "status");
+        QVERIFY(looking.succeeds());
+        instance.bench.clock.advance(1s);
+        QVERIFY2(connecting.error().contains(u"another Veldmark of yours, process %1"_s.arg(other.process())), qPrintable(connecting.error()));
+    }
+
     void tellsOfASessionThatSomebodyElseHasMadeSince()
     {
         Instance instance;

@@ -397,8 +397,8 @@ private Q_SLOTS:
         row("not tested", Leak::Kind::notTested, QStringLiteral("Not tested"), tries);
         row("testing", Leak::Kind::checking, QStringLiteral("Testing…"), tries);
         row("inconclusive", Leak::Kind::inconclusive, QStringLiteral("Inconclusive"), tries);
-        row("blocked", Leak::Kind::blocked, QStringLiteral("No leaks"),
-            QStringLiteral("Direct connections that skip Tor are blocked"));
+        row("blocked", Leak::Kind::blocked, QStringLiteral("No answer"),
+            QStringLiteral("A direct connection that skips Tor got no answer, but proxy mode doesn't close that path"));
         row("exposed", Leak::Kind::exposed, QStringLiteral("Exposed: 198.51.100.1"),
             QStringLiteral("Apps that ignore proxy settings show your real IP (198.51.100.1). Turn on "
                            "Strict mode to block them."));
@@ -418,6 +418,30 @@ private Q_SLOTS:
         session.show(s);
         QCOMPARE(panel.leakText(), QStringLiteral("DNS leak"));
         QCOMPARE(panel.leakHelp(), help + QStringLiteral("\nDNS can go around Tor via: 192.168.1.1 on en0"));
+    }
+
+    void saysNoLeaksOnlyWhereTheRulesWereSeen()
+    {
+        StandInSession session(profile);
+        PanelModel panel(session);
+        Snapshot s = connected(RoutingMode::strict);
+        for (const auto state : {KillSwitch::State::standing, KillSwitch::State::putBack}) {
+            s.killSwitch->state = state;
+            session.show(s);
+            QCOMPARE(panel.leakText(), QStringLiteral("No leaks"));
+            QCOMPARE(panel.leakTone(), PanelModel::Tone::Good);
+            QVERIFY(panel.leakHelp().startsWith(QStringLiteral("Direct connections that skip Tor are blocked\n")));
+        }
+        for (const auto state : {KillSwitch::State::open, KillSwitch::State::unknown}) {
+            s.killSwitch->state = state;
+            session.show(s);
+            QCOMPARE(panel.leakText(), QStringLiteral("No answer"));
+            QCOMPARE(panel.leakTone(), PanelModel::Tone::Neutral);
+            QVERIFY(panel.leakHelp().contains(QStringLiteral("isn't known to close that path")));
+        }
+        s.killSwitch.reset();
+        session.show(s);
+        QCOMPARE(panel.leakText(), QStringLiteral("No answer"));
     }
 
     void countsTheResolversThatItDoesNotName()
