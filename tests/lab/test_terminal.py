@@ -76,8 +76,6 @@ class TerminalCase(LabCase):
 
 
 class Shells(TerminalCase):
-    SHARED = True
-
     def test_an_open_shell_follows_the_session_at_its_next_prompt(self):
         self.start()
         for name, open_shell in self.shells().items():
@@ -163,7 +161,6 @@ class Shells(TerminalCase):
 
 
 class ShellsOfAnOrdinaryUser(Shells):
-    SHARED = False
     user = "alice"
 
     def test_the_log_of_the_users_own_session_is_open(self):
@@ -174,8 +171,6 @@ class ShellsOfAnOrdinaryUser(Shells):
 
 class WhenItEnds(TerminalCase):
     """In proxy mode, where nothing but the variables keeps a tool from the direct path."""
-
-    SHARED = True
 
     def answer(self, open_shell):
         return open_shell.run(f"curl -sS --max-time 20 http://{SITE}/ip 2>&1").splitlines()[-1]
