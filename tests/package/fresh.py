@@ -43,7 +43,8 @@ SHORT = ("-LE", "^long$", "-E", "^(lab/(trouble|sessions|leakcheck)|helper/(kill
 # polkit and pkexec (prompt), gpg (download), ssh, zsh and git (terminal), nc and ping (lab), a desktop's (desktop), clang's (fuzz).
 QUICK = ("-R", "^(unit/.*|house/.*|package/(files|registry)|ui/(accessibility|qmllint|translation)|fuzz/LogFuzz|"
          "helper/(namespace|launch|resolved)|lab/(lab|prompt|download|terminal|desktop))$")
-PLACES = {"first": "/root/veldmark", "second": "/srv/a stranger/veld mark"}
+# Where ordinary users can read them, since tests run programs as one.
+PLACES = {"first": "/srv/veldmark", "second": "/srv/a stranger/veld mark"}
 
 # Makes the tree $1 the root of new mount and process namespaces and runs the rest of the words in it, with the machine's own
 # network: the registry has to be reached. $2 and $3 are kept on this machine: fetched packages, and the compiler's cache.
