@@ -223,9 +223,9 @@ test)
     fi
     unpack_services
     status=0
-    # Two processors; cmake/Veldmark.cmake says how many places a test takes.
+    # Three places for each of two processors; cmake/Veldmark.cmake says how many a test takes.
     # All that a test says is kept, since what it has skipped may stand at the end.
-    ctest --preset dev --parallel 4 --output-junit ../test/junit.xml --test-output-size-passed 100000000 "$@" || status=$?
+    ctest --preset dev --parallel 6 --output-junit ../test/junit.xml --test-output-size-passed 100000000 "$@" || status=$?
     /usr/bin/python3 tests/skipped.py build/test/junit.xml || status=$?
     exit "$status"
     ;;

@@ -71,6 +71,12 @@ function(veldmark_library room)
     veldmark_precompiled(veldmark_${room} rooms)
 endfunction()
 
+# ./build.sh test gives CTest six places for two processors: three for each. A test that computes keeps a processor busy and takes
+# three (BUSY); a test of the root helper waits about half of its time, for programs and for Tor, and takes two (HALF); a lab, which
+# mostly waits for Tor, takes one. docs/performance.md has the figures.
+set(VELDMARK_BUSY_PLACES 3)
+set(VELDMARK_HALF_PLACES 2)
+
 # veldmark_test(room/NameTest ROOMS room… LINK library… SOURCES extra.cpp…)
 # The Qt Test class of tests/unit/room/NameTest.cpp, in the room's one test program test-room, known to CTest as
 # unit/room/NameTest. support/TestProgram.h says how a class gets into the program.
@@ -95,18 +101,15 @@ function(veldmark_test path)
     target_sources(${program} PRIVATE "${CMAKE_SOURCE_DIR}/tests/unit/${path}.cpp" ${arg_SOURCES})
     target_link_libraries(${program} PRIVATE ${arg_ROOMS} ${arg_LINK})
     add_test(NAME unit/${path} COMMAND ${program} ${name})
-    set_tests_properties(unit/${path} PROPERTIES TIMEOUT 120 LABELS unit PROCESSORS 2)
+    set_tests_properties(unit/${path} PROPERTIES TIMEOUT 120 LABELS unit PROCESSORS ${VELDMARK_BUSY_PLACES})
 endfunction()
 
-# ./build.sh test gives CTest twice as many places as it uses processors. A test that keeps one busy takes two of them (PROCESSORS
-# 2), a lab, which mostly waits for Tor, takes one.
-
-# veldmark_script_test(NAME [BUSY] [LONG] [COST seconds] [SCRIPT name] [ARGUMENTS word…])
+# veldmark_script_test(NAME [BUSY|HALF] [LONG] [COST seconds] [SCRIPT name] [ARGUMENTS word…])
 # The folder's own test_NAME.py or SCRIPT.py, known to CTest as FOLDER/NAME; status 77 is a skip. COST: about how long it takes,
 # since what takes long is better begun early. LONG: takes minutes and needs no program that the others do not, so that the short
 # run on a clean Debian leaves it out. What the tests of a folder have in common it sets at its end.
 function(veldmark_script_test name)
-    cmake_parse_arguments(arg "BUSY;LONG" "COST;SCRIPT" "ARGUMENTS" ${ARGN})
+    cmake_parse_arguments(arg "BUSY;HALF;LONG" "COST;SCRIPT" "ARGUMENTS" ${ARGN})
     get_filename_component(folder "${CMAKE_CURRENT_SOURCE_DIR}" NAME)
     if(NOT arg_SCRIPT)
         set(arg_SCRIPT test_${name})
@@ -115,7 +118,9 @@ function(veldmark_script_test name)
         COMMAND /usr/bin/python3 "${CMAKE_CURRENT_SOURCE_DIR}/${arg_SCRIPT}.py" ${arg_ARGUMENTS})
     set_tests_properties(${folder}/${name} PROPERTIES LABELS ${folder} TIMEOUT 1200 SKIP_RETURN_CODE 77)
     if(arg_BUSY)
-        set_tests_properties(${folder}/${name} PROPERTIES PROCESSORS 2)
+        set_tests_properties(${folder}/${name} PROPERTIES PROCESSORS ${VELDMARK_BUSY_PLACES})
+    elseif(arg_HALF)
+        set_tests_properties(${folder}/${name} PROPERTIES PROCESSORS ${VELDMARK_HALF_PLACES})
     endif()
     if(arg_COST)
         set_tests_properties(${folder}/${name} PROPERTIES COST ${arg_COST})

@@ -21,6 +21,8 @@ SLOW_MS = 1501
 
 
 class Circuits(LabCase):
+    SHARED = True
+
     def connected(self):
         session = self.enterContext(self.product.session())
         session.wait(is_probed)
@@ -110,6 +112,8 @@ class Circuits(LabCase):
 
 
 class OnionServices(LabCase):
+    SHARED = True
+
     def torrc(self, folder):
         """A member of the private network that offers its web server as an onion service."""
         network = self.lab.host.read("/etc/tor/torrc-defaults").splitlines()
@@ -161,6 +165,8 @@ class OnionServices(LabCase):
 
 
 class Speed(LabCase):
+    SHARED = True
+
     def test_a_slow_path_is_left_for_a_faster_one(self):
         self.set("optimizeSpeed", "true")
         with self.product.session(connect=False) as session:

@@ -33,14 +33,28 @@ PROXY_DEATH = ("Tor stopped running. Apps using the proxy can't connect until yo
 
 
 class LabCase(unittest.TestCase):
-    """One lab for all tests of a class; every test begins with default settings and must leave the host as it was."""
+    """One lab for all tests of a class; every test begins with default settings and must leave the host as it was. A class that
+    itself leaves its lab as it was may share it: SHARED."""
+
+    SHARED = False
+    _shared: Lab | None = None   # until the program ends
 
     @classmethod
     def setUpClass(cls):
-        cls.lab = Lab()
-        cls.lab.up()
-        cls.addClassCleanup(cls.lab.down)
+        cls.lab = LabCase._shared if cls.SHARED and LabCase._shared else Lab()
+        if not cls.lab.record:
+            cls.lab.up()
+            if cls.SHARED:
+                LabCase._shared = cls.lab
+                unittest.addModuleCleanup(LabCase._end_shared)
+            else:
+                cls.addClassCleanup(cls.lab.down)
         cls.product = Product(cls.lab, PROGRAMS)
+
+    @staticmethod
+    def _end_shared():
+        lab, LabCase._shared = LabCase._shared, None
+        lab.down()
 
     def setUp(self):
         self.lab.host.run(["rm", "-rf", "/root/.config/veldmark"], check=True)

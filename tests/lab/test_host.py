@@ -29,8 +29,8 @@ class HostTest(unittest.TestCase):
         Path(cls.built.name, "veldmarkctl").write_text("#!/bin/sh\necho built\n")
         os.chmod(Path(cls.built.name, "veldmarkctl"), 0o755)
         with unittest.mock.patch.dict(os.environ, {"VELDMARK_PROGRAMS": cls.built.name, "VELDMARK_SPEED": "20", "VELDMARK_NONE": "/tmp/none"}):
-            cls.lab = Lab(share=[cls.shared.name])
-        cls.lab.up(wait=False)
+            cls.lab = Lab(share=[cls.shared.name], consensus=False)
+        cls.lab.up()
         cls.addClassCleanup(cls.lab.down)
         cls.host = cls.lab.host
 
@@ -158,9 +158,9 @@ class HostTest(unittest.TestCase):
     def test_another_lab_beside_it_has_its_own_groups(self):
         self.sh("mkdir /sys/fs/cgroup/mine", check=True)
         self.addCleanup(self.sh, "rmdir /sys/fs/cgroup/mine")
-        other = Lab()
+        other = Lab(consensus=False)
         self.addCleanup(other.down)
-        other.up(wait=False)
+        other.up()
         self.assertNotIn("mine", other.host.run(["ls", "/sys/fs/cgroup"]).stdout)
 
     def test_snapshots_of_an_unchanged_host_are_equal(self):

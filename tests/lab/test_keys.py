@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 """The keys that labs hand on: whole or not at all, for a week, and for nobody else."""
 
+import itertools
 import os
 import sys
 import tempfile
@@ -23,12 +24,11 @@ class Keys(unittest.TestCase):
         self.addCleanup(folder.cleanup)
         self.build = Path(folder.name, "build")
         self.build.mkdir()
-        self.made = 0
+        self.numbers = itertools.count()
 
     def lab(self, text="made"):
         """A lab's folder with keys of its own."""
-        self.made += 1
-        folder = self.build.parent / f"lab{self.made}"
+        folder = self.build.parent / f"lab{next(self.numbers)}"
         for name in NAMES:
             (folder / name / "keys").mkdir(parents=True)
             (folder / name / "keys" / "secret").write_text(f"{text} {name}")
@@ -69,13 +69,31 @@ class Keys(unittest.TestCase):
         labs = [self.lab(f"lab {number}") for number in range(8)]
         with ThreadPoolExecutor(8) as pool:
             list(pool.map(lambda number: node_keys.keep(NAMES, labs[number], f"{number}\n", self.build, NOW), range(8)))
-        self.assertEqual(len(os.listdir(self.build / "lab-keys")), 1)
+        self.assertEqual(len(list((self.build / "lab-keys").glob("*/identities"))), 1)
         lines, found = self.take()
         self.assertEqual(found, {name: f"lab {lines.strip()} {name}" for name in NAMES})
 
+    def test_one_makes_them_and_the_others_wait(self):
+        making, most = [], []
+        def start(number):
+            if self.take()[0] is not None:
+                return
+            with node_keys.one_at_a_time(self.build):
+                if self.take()[0] is None:
+                    making.append(number)
+                    most.append(len(making))
+                    time.sleep(0.05)
+                    node_keys.keep(NAMES, labs[number], f"{number}\n", self.build, NOW)
+        labs = [self.lab(f"lab {number}") for number in range(4)]
+        with ThreadPoolExecutor(4) as pool:
+            list(pool.map(start, range(4)))
+        self.assertEqual(most, [1])
+        with node_keys.one_at_a_time(self.build / "missing"):
+            pass
+
     def test_half_a_set_is_none(self):
         node_keys.keep(NAMES, self.lab(), "half\n", self.build, NOW)
-        kept, = (self.build / "lab-keys").iterdir()
+        kept, = (self.build / "lab-keys").glob("*/")
         (kept / "identities").unlink()
         self.assertEqual(self.take(), (None, {}))
 

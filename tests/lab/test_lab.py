@@ -5,6 +5,7 @@ This file holds what concerns the network; the other test files here hold the re
 """
 
 import json
+import os
 import sys
 import unittest
 from pathlib import Path
@@ -170,6 +171,17 @@ class NetworkTest(unittest.TestCase):
             self.assertIn("refused", self.lab.host.run(connect).stderr)
             self.lab.tor.start("middleat")
             self.assertEqual(self.lab.host.run(connect).returncode, 0)
+
+    def test_nodes_take_the_key_of_their_connections_that_is_kept(self):
+        address = next(node.address for node in at.EXITS if node.name == "exitde")
+        told = self.lab.spaces["world"].run(["/bin/sh", "-c", r"""
+            openssl rsa -in "$1/exitde/keys/link-2048-1" -pubout 2>/dev/null
+            openssl s_client -connect "$2" </dev/null 2>/dev/null | openssl x509 -noout -pubkey
+        """, "sh", at.TOR_FOLDER, f"{address}:{at.OR_PORT}"], check=True).stdout
+        kept, used = told.split("-----END PUBLIC KEY-----\n")[:2]
+        self.assertIn("BEGIN PUBLIC KEY", used)
+        # Without the library each node makes its own, at each start.
+        self.assertEqual(used == kept, bool(os.environ.get("VELDMARK_KEPT_LINK_KEYS")))
 
     def test_a_bridge_can_be_started_again(self):
         self.lab.tor.wait_bridges()

@@ -27,7 +27,7 @@ import os, sys
 sys.dont_write_bytecode = True
 sys.path.insert(0, {str(HERE)!r})
 from veldlab.lab import Lab
-lab = Lab()
+lab = Lab(consensus=False)
 with lab:
     lab.host.run(["/bin/sh", "-c", "setsid sleep 600 >/dev/null 2>&1 &"], check=True)
     running = lab.host.popen(["sleep", "600"], user="alice")
@@ -227,7 +227,7 @@ class LifecycleTest(unittest.TestCase):
         process.communicate("go\n")
         traces.wait_for_processes()
         traces.check_nothing_left(swept=False)
-        with Lab() as lab:
+        with Lab(consensus=False) as lab:
             self.assertNotIn(traces.id, [record["id"] for record in registry.records()])
             self.assertIn(lab.id, [record["id"] for record in registry.records()])
         traces.check_nothing_left()
@@ -241,13 +241,13 @@ class LifecycleTest(unittest.TestCase):
         process.wait()
         traces.wait_for_processes()
         traces.check_nothing_left(swept=False)
-        with Lab():
+        with Lab(consensus=False):
             pass
         traces.check_nothing_left()
         self.check_machine()
 
     def test_failed_start_leaves_nothing(self):
-        lab = Lab()
+        lab = Lab(consensus=False)
         lab._step = self.fail_after_nodes(lab, lab._step)
         self.assertRaisesRegex(RuntimeError, "on purpose", lab.up)
         self.traces.check_nothing_left()
@@ -265,7 +265,7 @@ class LifecycleTest(unittest.TestCase):
         return failing
 
     def test_two_labs_at_once_do_not_meet(self):
-        with Lab() as one, Lab() as two:
+        with Lab(consensus=False) as one, Lab(consensus=False) as two:
             print("two at once:", one.timings["total"], two.timings["total"], file=sys.stderr)
             one.world.behave("check", "status-503")
             ask = ["curl", "-s4", "-o", "/dev/null", "-w", "%{http_code}", at.CHECK_URL]

@@ -21,6 +21,8 @@ STARTUP = "/var/lib/veldmark/run/start.out"
 
 
 class Counters(LabCase):
+    SHARED = True
+
     def connected(self):
         session = self.enterContext(self.product.session())
         session.wait(lambda s: is_probed(s) and s["bytesRead"] > 0)
@@ -56,6 +58,8 @@ class Counters(LabCase):
 
 class KillSwitch(LabCase):
     """Rules that another program removes: what is said of them is what the kernel holds."""
+
+    SHARED = True
 
     def address_seen_directly(self):
         answer = self.direct("-4", "--resolve", f"{at.CHECK_HOST}:443:{at.CHECK_ADDRESS}")
@@ -137,6 +141,8 @@ class KillSwitch(LabCase):
 
 
 class Log(LabCase):
+    SHARED = True
+
     def test_it_shows_how_tor_started(self):
         self.enterContext(self.product.session()).wait_phase("connected")
         shown = self.product.run_verb("log", check=True)

@@ -1,10 +1,11 @@
 #!/usr/bin/python3
 """The README's commands as a stranger runs them: from a clone of the last commit, on a Debian 12 with nothing installed.
 
-usage: fresh.py [--short] [--without PACKAGE] [--cold] [--again] [VERB...]
+usage: fresh.py [--short | --quick] [--without PACKAGE] [--cold] [--again] [VERB...]
 
 VERB       demo, test, package (all three when none is named); "test" with further words: "test controller"
 --short    leaves out tests that take minutes and need no program that the others do not
+--quick    of the tests only a few, which between them call every program that a test needs; what .ci/run does
 --without  takes a package out of the clone's list first, to see that this notices
 --cold     compiles everything, without the compiler cache of this machine
 --again    goes on in the first system as a failed run has left it, with what has been committed since: to mend what failed, no proof
@@ -38,7 +39,12 @@ WORK = PROJECT / "build" / "fresh"
 KEPT = Path(os.environ.get("XDG_CACHE_HOME") or Path.home() / ".cache") / "veldmark-fresh"
 VERBS = ("demo", "test", "package")
 SHORT = ("-LE", "^long$", "-E", "^(lab/(trouble|sessions|leakcheck)|helper/(kill-.*|trouble|cycles)|ui/(Buttons|WindowsFit-.*))$")
-PLACES = {"first": "/root/veldmark", "second": "/srv/a stranger/veld mark"}
+# Each unit test, what judges the sources and the package, and of the suites that call further programs at least one each:
+# polkit and pkexec (prompt), gpg (download), ssh, zsh and git (terminal), nc and ping (lab), a desktop's (desktop), clang's (fuzz).
+QUICK = ("-R", "^(unit/.*|house/.*|package/(files|registry)|ui/(accessibility|qmllint|translation)|fuzz/LogFuzz|"
+         "helper/(namespace|launch|resolved)|lab/(lab|prompt|download|terminal|desktop))$")
+# Where ordinary users can read them, since tests run programs as one.
+PLACES = {"first": "/srv/veldmark", "second": "/srv/a stranger/veld mark"}
 
 # Makes the tree $1 the root of new mount and process namespaces and runs the rest of the words in it, with the machine's own
 # network: the registry has to be reached. $2 and $3 are kept on this machine: fetched packages, and the compiler's cache.
@@ -228,13 +234,15 @@ def verify(arguments: argparse.Namespace) -> None:
         if verb == "package":
             same_package(stranger, base)
         else:
-            further = SHORT if verb == "test" and arguments.short else ()
+            further = () if verb != "test" else SHORT if arguments.short else QUICK if arguments.quick else ()
             stranger.verb(verb, *further, environment=strict if verb == "test" else None)
 
 
 def main() -> int:
-    parser = argparse.ArgumentParser(usage="./build.sh fresh-test [--short] [--without PACKAGE] [--cold] [--again] [VERB...]")
-    parser.add_argument("--short", action="store_true")
+    parser = argparse.ArgumentParser(usage="./build.sh fresh-test [--short | --quick] [--without PACKAGE] [--cold] [--again] [VERB...]")
+    share = parser.add_mutually_exclusive_group()
+    share.add_argument("--short", action="store_true")
+    share.add_argument("--quick", action="store_true")
     parser.add_argument("--without", metavar="PACKAGE")
     parser.add_argument("--cold", action="store_true")
     parser.add_argument("--again", action="store_true")

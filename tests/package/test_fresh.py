@@ -117,12 +117,12 @@ class Fresh(unittest.TestCase):
         result = self.fresh()
         self.assertEqual(result.returncode, 0, result.stderr)
         self.assertEqual([line for line in result.stdout.splitlines() if line.startswith("verb ")], [
-            "verb demo in /root/veldmark, home /root, skips forbidden: no, cache off: no",
-            "verb test in /root/veldmark, home /root, skips forbidden: 1, cache off: no",
-            "verb package in /root/veldmark, home /root, skips forbidden: no, cache off: 1",
+            "verb demo in /srv/veldmark, home /root, skips forbidden: no, cache off: no",
+            "verb test in /srv/veldmark, home /root, skips forbidden: 1, cache off: no",
+            "verb package in /srv/veldmark, home /root, skips forbidden: no, cache off: 1",
             "verb package in /srv/a stranger/veld mark, home /root, skips forbidden: no, cache off: 1"])
         self.assertEqual(len(set(line.split(" ")[-1] for line in result.stdout.splitlines() if "veldmark_1_all.deb" in line)), 1, result.stdout)
-        self.assertRegex(result.stdout, r"(?m)^fresh-test: +\d+ s +\d+ s  \./build\.sh test in /root/veldmark$")
+        self.assertRegex(result.stdout, r"(?m)^fresh-test: +\d+ s +\d+ s  \./build\.sh test in /srv/veldmark$")
         self.assertFalse((self.project / "build/fresh/first").exists())
 
     def test_a_forgotten_package_fails_and_names_the_command(self):
@@ -165,7 +165,7 @@ class Fresh(unittest.TestCase):
         self.fails("--again", "test", line="there is no run that failed; leave out --again")
         self.commit("a-skip")
         self.fails("test", line=r"\./build\.sh test failed")
-        kept = self.project / "build/fresh/first/root/veldmark/build/kept"
+        kept = self.project / "build/fresh/first/srv/veldmark/build/kept"
         put(kept, "")
         (self.project / "a-skip").unlink()
         self.commit()
@@ -188,6 +188,18 @@ class Fresh(unittest.TestCase):
         self.assertIn("sessions", left_out)
         for word in left_out:
             self.assertIn(word, known + "lab helper ui", f"no test is called {word} any more")
+
+    def test_the_quick_run_names_tests_that_there_are(self):
+        verbs = [line.split(" in ")[0] for line in self.fresh("--quick").stdout.splitlines() if line.startswith("verb ")]
+        self.assertEqual([verb.split(" -R ")[0] for verb in verbs], ["verb demo", "verb test", "verb package", "verb package"])
+        suites = re.findall(r"(\w+)/(?:\(([\w|]+)\)|(\w+|\.\*))", verbs[1].split(" -R ")[1])
+        self.assertIn("lab", [suite for suite, *_ in suites])
+        for suite, several, one in suites:
+            folder = HERE.parents[1] / "fuzz" if suite == "fuzz" else HERE.parent / suite
+            known = "".join(file.read_text() for file in folder.rglob("CMakeLists.txt")) + "".join(file.stem for file in folder.glob("*"))
+            for name in (several or one).split("|"):
+                self.assertIn(name.removesuffix(".*"), known, f"no test is called {suite}/{name} any more")
+        self.assertEqual(self.fresh("--quick", "--short").returncode, 2)
 
     def test_where_it_cannot_run_it_says_so(self):
         shutil.rmtree(self.base)

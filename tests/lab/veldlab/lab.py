@@ -39,14 +39,17 @@ def _given_folders() -> list[str]:
 class Lab:
     """`share`: further folders that the host is to see as they are, besides the project's tree and the programs under test.
 
+    `consensus=False`: nothing will go through Tor, so that entering and `up` need not wait until it could.
     `logs`: a folder that `down` copies the nodes' and services' logs to. `timings`: seconds of each step of `up`. `on_step`
     is told the name of each step as it begins, on any thread.
     """
 
-    def __init__(self, share: Iterable[str | Path] = (), logs: str | Path = "", on_step: Callable[[str], None] | None = None):
+    def __init__(self, share: Iterable[str | Path] = (), logs: str | Path = "", on_step: Callable[[str], None] | None = None,
+                 consensus: bool = True):
         self.share = [str(PROJECT), *_given_folders(), *map(str, share)]
         self.logs = logs
         self.on_step = on_step
+        self.consensus = consensus
         self.timings: dict[str, float] = {}
         self.record: dict = {}
         self._supervisor: subprocess.Popen | None = None
@@ -69,8 +72,8 @@ class Lab:
     def id(self) -> str:
         return self.record["id"]
 
-    def up(self, wait: bool = True) -> None:
-        """Raises LabUnavailable when this machine or user cannot run one. Without `wait`, there is no consensus yet."""
+    def up(self) -> None:
+        """Raises LabUnavailable when this machine or user cannot run one."""
         reason = requirements.missing()
         if reason:
             raise LabUnavailable(reason)
@@ -84,7 +87,7 @@ class Lab:
             self._step("nodes", lambda: self.tor.start_all(identities))
             self.host.trust(self.world.certificate_authority())
             self.host.join_tor_network(identities)
-            if wait:
+            if self.consensus:
                 self.wait_consensus()
         except BaseException:
             self.down()

@@ -1,10 +1,12 @@
 """The keys of the lab's nodes, kept between labs: making them is most of the work of a lab's start, and no lab meets another.
 
 They lie in build/lab-keys, for root alone, and are made anew after a week, long before the authorities' certificates expire.
-Where there is no such folder to write, every lab makes its own. Safe for labs that start side by side: what is kept appears whole,
-and is replaced by the next folder's name, never changed.
+Where there is no such folder to write, every lab makes its own. Safe for labs that start side by side: one of them makes the keys
+and the others wait for these; what is kept appears whole, and is replaced by the next folder's name, never changed.
 """
 
+import contextlib
+import fcntl
 import os
 import shutil
 import tempfile
@@ -27,7 +29,7 @@ def _whole(kept: Path, names: list[str], now: float) -> bool:
 def take(names: list[str], target: Path, build: Path = _BUILD, now: float | None = None) -> str | None:
     """Copies the kept keys to NAME/keys below the target; returns what `keep` was given, or None when there are none to use."""
     now = time.time() if now is None else now
-    for kept in sorted((build / "lab-keys").glob("kept-*")):
+    for kept in sorted((build / "lab-keys").glob("set-*")):
         if not _whole(kept, names, now):
             continue
         for name in names:
@@ -35,6 +37,22 @@ def take(names: list[str], target: Path, build: Path = _BUILD, now: float | None
             (target / name / "keys").chmod(0o700)
         return (kept / _LINES).read_text()
     return None
+
+
+@contextlib.contextmanager
+def one_at_a_time(build: Path = _BUILD):
+    """While a lab makes keys to be kept, no other one does. The lock ends with its process."""
+    try:
+        (build / "lab-keys").mkdir(mode=0o700, exist_ok=True)
+        lock = os.open(build / "lab-keys" / "lock", os.O_RDWR | os.O_CREAT | os.O_CLOEXEC, 0o600)
+    except OSError:   # nothing can be kept here
+        yield
+        return
+    try:
+        fcntl.flock(lock, fcntl.LOCK_EX)
+        yield
+    finally:
+        os.close(lock)
 
 
 def keep(names: list[str], source: Path, lines: str, build: Path = _BUILD, now: float | None = None) -> None:
@@ -53,10 +71,10 @@ def keep(names: list[str], source: Path, lines: str, build: Path = _BUILD, now: 
             shutil.copytree(source / name / "keys", new / name / "keys")
         (new / _LINES).write_text(lines)
         os.utime(new / _LINES, (now, now))
-        new.rename(place / f"kept-{int(now // _WEEK)}")   # fails where one stands already
+        new.rename(place / f"set-{int(now // _WEEK)}")   # fails where one stands already
     except OSError:
         shutil.rmtree(new, ignore_errors=True)
-    for old in place.glob("*"):
+    for old in (folder for folder in place.glob("*") if folder.is_dir()):
         try:
             # Not one that another lab may be reading or writing just now.
             if now - old.stat().st_mtime > 2 * _WEEK:

@@ -80,6 +80,8 @@ def node_torrc(node: Node, identities: dict[str, tuple[str, str]], voting: bool 
         "RunAsDaemon 1",
         "NumCPUs 1",
         "AvoidDiskWrites 1",
+        # Each node packs, in four ways, the difference from each consensus that it has kept; there is a new one every ten seconds.
+        "MaxConsensusAgeForDiffs 1 minutes",
         "SocksPort 0",
         f"Address {node.address}",
         f"OutboundBindAddress {node.address}",

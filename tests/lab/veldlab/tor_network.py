@@ -4,6 +4,7 @@ State is in files (keys, torrc, pid and log of each node in its folder), so a se
 registry controls it as well as the one that started it.
 """
 
+import os
 import time
 from datetime import datetime, timezone
 
@@ -16,6 +17,7 @@ _MAKE_KEYS = r"""
 set -eu; cd "$1"; shift
 make_keys() (
     cd "$1"; mkdir -m 700 keys
+    openssl genrsa -traditional -out keys/link-2048-1 2048 2>/dev/null
     tor -f fingerprint.torrc --defaults-torrc ../empty --list-fingerprint --quiet > fingerprint.out &
     case $1 in auth*) ;; *) wait $!; exit ;; esac
     head -c 16 /dev/urandom | od -An -tx1 | tr -d ' \n' > passphrase; echo >> passphrase
@@ -29,11 +31,12 @@ for node; do make_keys "$node" & pids="$pids $!"; done
 for pid in $pids; do wait "$pid"; done
 """
 
-# Arguments: a folder, then names of nodes. Each tor goes to the background once it has its keys and its ports.
+# Arguments: a folder, a library or nothing, then names of nodes. Each tor goes to the background once it has its keys and its ports.
+# The library, KeptLinkKeys.cpp, gives it the key for its connections that make_keys has made.
 _START = r"""
-set -u; cd "$1"; shift
+set -u; cd "$1"; library=$2; shift 2
 for node; do
-    tor -f "$node/torrc" --defaults-torrc empty --quiet </dev/null >"$node/start" 2>&1 &
+    LD_PRELOAD=$library VELDLAB_LINK_KEYS=$PWD/$node/keys tor -f "$node/torrc" --defaults-torrc empty --quiet </dev/null >"$node/start" 2>&1 &
     eval "pid_$node=$!"
 done
 failed=
@@ -83,17 +86,23 @@ class TorNetwork:
         for node in at.NODES:
             (self.folder / node.name).mkdir(mode=0o700)
         names = [node.name for node in at.NODES]
-        lines = node_keys.take(names, self.folder)
-        if lines is None:
-            for node in at.NODES:
-                (self.folder / node.name / "fingerprint.torrc").write_text(tor_config.fingerprint_torrc(node))
-            lines = self.space.run(["/bin/sh", "-c", _MAKE_KEYS, "sh", at.TOR_FOLDER, *names], check=True).stdout
-            node_keys.keep(names, self.folder, lines)
+        lines = node_keys.take(names, self.folder) or self._make_new_keys(names)
         identities = {}
         for line in lines.splitlines():
             name, v3_identity, fingerprint = line.split()
             identities[name] = (v3_identity, fingerprint)
         return identities
+
+    def _make_new_keys(self, names: list[str]) -> str:
+        with node_keys.one_at_a_time():
+            lines = node_keys.take(names, self.folder)   # another lab has just made them
+            if lines is None:
+                for node in at.NODES:
+                    (self.folder / node.name / "fingerprint.torrc").write_text(tor_config.fingerprint_torrc(node))
+                # Chance makes them dear or cheap, and other programs may want the processors too.
+                lines = self.space.run(["/bin/sh", "-c", _MAKE_KEYS, "sh", at.TOR_FOLDER, *names], check=True, timeout=180).stdout
+                node_keys.keep(names, self.folder, lines)
+        return lines
 
     def start_all(self, identities: dict[str, tuple[str, str]]) -> None:
         """Starts every node; `identities` as `make_keys` gives them.
@@ -130,7 +139,8 @@ class TorNetwork:
     def start(self, *names: str) -> None:
         """Starts the named nodes, or all; returns when each has read its configuration and opened its ports."""
         wanted = [at.node_named(name).name for name in names] or [node.name for node in at.NODES]
-        self.space.run(["/bin/sh", "-c", _START, "sh", at.TOR_FOLDER, *wanted], check=True)
+        library = os.environ.get("VELDMARK_KEPT_LINK_KEYS", "")
+        self.space.run(["/bin/sh", "-c", _START, "sh", at.TOR_FOLDER, library, *wanted], check=True)
 
     def stop(self, *names: str) -> None:
         """Kills the named nodes; returns when they are gone. A node that is stopped already is fine.
