@@ -94,7 +94,7 @@ ready_folders() {
     [[ $path != "$JOURNAL" ]] || mode=0700
     [[ -e $path || -L $path ]] || mkdir -m "$mode" -- "$path" || die "The folder $path cannot be created."
     safe_folders "$path" || die "The folder $path is not safe: only root may own or write it."
-    chmod "$mode" -- "$path" || die "The folder $path cannot be changed."
+    chmod -- "$mode" "$path" || die "The folder $path cannot be changed."
   done
   folders_are_safe || die "The folders above Veldmark's are not safe: only root may own or write them."
   ready_data_folder

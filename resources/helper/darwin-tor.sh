@@ -49,7 +49,7 @@ tor_listens() {
 # group may be everybody's.
 ready_logs() {
   rm -f -- "$NOTICES" "$LAUNCHD_OUT" && : >"$NOTICES" && : >"$LAUNCHD_OUT" &&
-    chown -- "$CALLER_UID:$TOR_GID" "$NOTICES" "$LAUNCHD_OUT" && chmod 0460 -- "$NOTICES" "$LAUNCHD_OUT"
+    chown -- "$CALLER_UID:$TOR_GID" "$NOTICES" "$LAUNCHD_OUT" && chmod -- 0460 "$NOTICES" "$LAUNCHD_OUT"
 }
 
 tor_failure() {

@@ -1,13 +1,14 @@
 """A private machine that looks like a Mac to the root helper.
 
 Its root is an overlay over this system's, so nothing outside changes. The folders are a Mac's, the programs that only
-Linux has are gone, and those that only a Mac has are the stand-ins of standins.pl, which keep their state in /mac. Tor is
-the real one, with `DisableNetwork 1`. What a real Mac would say or do beyond that is not shown here.
+Linux has are gone, those that only a Mac has are stand-ins (standins/server.pl), which keep their state in /mac, and those
+that both have refuse what a Mac's would (standins/program.c). Tor is the real one, with `DisableNetwork 1`. What a real Mac would say or do beyond that is not shown here.
 """
 
 import fcntl
 import os
 import shutil
+import subprocess
 import sys
 
 HERE = os.path.dirname(os.path.abspath(__file__))
@@ -18,6 +19,7 @@ from namespace import HASH, TOR, USER_UID, HelperTest, main  # noqa: E402,F401
 
 STAND_INS = ("uname sync mv killall ifconfig sysctl stat ls scutil dscacheutil dscl networksetup launchctl lsof "
              "pfctl df mount").split()
+BSD = ("cat chmod chown cp date env grep head id ln mkdir mktemp readlink rm rmdir sed shasum sleep sort tail touch tr wc xargs").split()
 ONLY_LINUX = "flock timeout setpriv unshare setsid getent sha256sum nft umount ip ss gsettings pkexec useradd".split()
 
 SETUP = """
@@ -36,6 +38,7 @@ for name in %(linux)s %(names)s; do
     [ ! -e $place/$name ] || mv $place/$name mac/gnu/$name
   done
 done
+for name in %(names)s; do ln -s /mac/program usr/bin/$name; done
 rm -rf var/db var/lib/veldmark run/veldmark*
 ln -s /private/var/db var/db
 printf '127.0.0.1\\tlocalhost\\n::1\\tlocalhost' >private_hosts
@@ -48,7 +51,7 @@ mkdir -p home/alice && chown %(uid)s:%(uid)s home/alice && chmod 755 home home/a
 pivot_root . mnt
 /mac/gnu/umount -l /mnt
 cd /
-""" % {"linux": " ".join(ONLY_LINUX), "names": " ".join(STAND_INS), "uid": USER_UID}
+""" % {"linux": " ".join(ONLY_LINUX), "names": " ".join(STAND_INS + BSD), "uid": USER_UID}
 
 SERVICES = {   # what each has before; the second is of letters that need care
     "Wi-Fi": {"dns": "192.0.2.53\n2001:db8::53", "bypass": "*.local\n169.254/16"},
@@ -85,8 +88,10 @@ class Mac(namespace.Machine):
         source = self.helper
         self.helper = "/Applications/Veldmark.app/Contents/Resources/veldmark-helper.sh"
         self.place(source, self.helper)
-        for name in STAND_INS:
-            self.place(os.path.join(HERE, "standins.pl"), f"/usr/bin/{name}")
+        subprocess.run(["cc", "-O1", "-static", "-Wall", "-Wextra", "-Werror", "-o", self.root + "/mac/program",
+                        os.path.join(HERE, "standins", "program.c")], check=True)
+        self.place(os.path.join(HERE, "standins", "server.pl"), "/mac/server.pl")
+        self.run("/usr/bin/perl", "/mac/server.pl")
         self.reset()
 
     def command(self, words, uid=0):

@@ -1,16 +1,20 @@
 #!/usr/bin/perl
-# Stand-ins for the programs of a Mac that the root helper calls, one file under many names. They keep what they are told
+# Answers for the programs of a Mac that the root helper calls (program.c hands their words on). They keep what they are told
 # in a state file, answer in the form of the real ones, and refuse what those would not understand. Every call is
 # written down; the file /mac/fail makes one of them fail.
 #
 # /mac/state: lines "KEY<TAB>VALUE", with \n, \t and \\ in a value escaped. /mac/calls: a line per call.
 # /mac/fail: "NUMBER MODE": that call from now on fails: "status" (nothing happens, status 1), "quiet" (a sentence on
 # standard output, status 0, nothing happens; only networksetup does that) or "late" (it happens, status 1).
+#
+# One call at a time, as the real ones' changes are kept apart; tests that change the state hold /mac/lock meanwhile.
 use strict;
 use warnings;
+use Socket;
+use POSIX ();
+use Time::HiRes ();
 
-my $name = $0 =~ s{.*/}{}r;
-my %state;
+my ($name, $caller, $input, %state);   # of the call that is answered
 
 sub load {
     %state = ();
@@ -38,8 +42,11 @@ sub save {
     rename "/mac/state.new.$$", '/mac/state' or die;
 }
 
-sub refuse { print STDERR "$name: illegal use: @_\n"; exit 64 }
-sub gnu { exec { "/mac/gnu/$name" } $name, @_; die }
+# How a call ends before its end, and what it becomes when another program takes its place: PATH, then its words.
+sub finish { die { status => $_[0] } }
+sub become_program { die { run => [@_] } }
+sub refuse { print STDERR "$name: illegal use: @_\n"; finish(64) }
+sub gnu { become_program("/mac/gnu/$name", $name, @_) }
 
 # ---- small ones ----
 
@@ -72,7 +79,7 @@ sub stat_ {
         my @about = lstat($path) or do { print STDERR "stat: $path: stat: No such file or directory\n"; $failed = 1; next };
         printf "%o %d %s\n", $about[2] & 0777, $about[4], -l $path ? 'Symbolic Link' : -d _ ? 'Directory' : 'Regular File';
     }
-    exit $failed;
+    finish($failed);
 }
 
 sub ls {
@@ -86,7 +93,7 @@ sub ls {
 }
 
 sub scutil {
-    my $asked = do { local $/; <STDIN> };
+    my $asked = $input;
     refuse($asked) unless $asked =~ /^show State:\/Users\/ConsoleUser$/;
     my $uid = $state{console};
     if (!defined $uid) { print "  No such key\n"; return }
@@ -116,7 +123,7 @@ sub dscl {
     if ($verb eq '-read') {
         if (!grep { /^record \Q$record\E\t/ || /^record \Q$record\E / } map { "$_ " } keys %state) {
             print STDERR "<dscl_cmd> DS Error: -14136 (eDSRecordNotFound)\n";
-            exit 56;
+            finish(56);
         }
         my $value = $state{"record $record $key"};
         if (defined $value) { print $value =~ / / ? "$key:\n $value\n" : "$key: $value\n" }
@@ -144,7 +151,7 @@ sub networksetup {
     if ($verb eq '-getcurrentlocation') { print "$state{location}\n"; return }
     if (!grep { s/^\*//r eq $service } services()) {
         print "$service is not a recognized network service.\n** Error: The parameters were not valid.\n";
-        exit($state{'old networksetup'} ? 0 : 4);
+        finish($state{'old networksetup'} ? 0 : 4);
     }
     my $at = "service $state{location}/$service";
     if ($verb eq '-getdnsservers') {
@@ -190,15 +197,14 @@ sub become {
     $) = "$gid $gid";
     POSIX::setgid($gid);
     POSIX::setuid($uid);
-    exit 126 unless $> == $uid && $uid;
+    POSIX::_exit(126) unless $> == $uid && $uid;
 }
 
 sub launchctl {
-    require POSIX;
     my ($verb, @words) = @_;
     if ($verb eq 'list') {
         my $pid = $state{"job $words[0]"};
-        if (!defined $pid) { print STDERR "Could not find service \"$words[0]\" in domain for system\n"; exit 113 }
+        if (!defined $pid) { print STDERR "Could not find service \"$words[0]\" in domain for system\n"; finish(113) }
         print "{\n\t\"LimitLoadToSessionType\" = \"System\";\n\t\"Label\" = \"$words[0]\";\n\t\"OnDemand\" = true;\n\t\"LastExitStatus\" = 0;\n",
               alive($pid) ? "\t\"PID\" = $pid;\n" : '', "\t\"Program\" = \"x\";\n};\n";
     } elsif ($verb eq 'enable') {
@@ -207,18 +213,18 @@ sub launchctl {
         my ($domain, $file) = @words;
         refuse(@_) unless $domain eq 'system';
         my @about = lstat($file);
-        if (!@about || $about[4] != 0 || $about[2] & 022) { print STDERR "Bootstrap failed: 122: Path had bad ownership/permissions\n"; exit 122 }
+        if (!@about || $about[4] != 0 || $about[2] & 022) { print STDERR "Bootstrap failed: 122: Path had bad ownership/permissions\n"; finish(122) }
         my $text = do { local (@ARGV, $/) = $file; <> };
         my %job = $text =~ m{<key>(\w+)</key>\s*<string>([^<]*)</string>}g;
         my ($words) = $text =~ m{<key>ProgramArguments</key>\s*<array>(.*?)</array>}s;
         my @command = $words =~ m{<string>([^<]*)</string>}g;
-        if (defined $state{"job $job{Label}"}) { print STDERR "Bootstrap failed: 5: Input/output error\n"; exit 5 }
+        if (defined $state{"job $job{Label}"}) { print STDERR "Bootstrap failed: 5: Input/output error\n"; finish(5) }
         my ($read, $write);
         pipe($read, $write);
         if (!fork) {
             POSIX::setsid();
             my $pid = fork;
-            if ($pid) { print $write "$pid\n"; exit 0 }
+            if ($pid) { syswrite $write, "$pid\n"; POSIX::_exit(0) }
             POSIX::close($_) for 3 .. 20;   # launchd's children have nothing of ours
             $SIG{$_} = 'DEFAULT' for qw(INT TERM HUP QUIT PIPE TSTP);
             POSIX::setpgid(0, 0);
@@ -228,37 +234,37 @@ sub launchctl {
             open(STDERR, '>>', $job{StandardErrorPath} // '/dev/null');
             %ENV = $job{HOME} ? (HOME => $job{HOME}, PATH => $job{PATH}, LC_ALL => 'C') : (PATH => '/usr/bin:/bin');
             exec { $command[0] } @command;
-            exit 127;
+            POSIX::_exit(127);
         }
         chomp($state{"job $job{Label}"} = <$read>);
     } elsif ($verb eq 'bootout') {
         my $label = $words[0] =~ s{^system/}{}r;
         my $pid = $state{"job $label"};
-        if (!defined $pid) { print STDERR "Boot-out failed: 3: No such process\n"; exit 3 }
+        if (!defined $pid) { print STDERR "Boot-out failed: 3: No such process\n"; finish(3) }
         kill 'TERM', $pid;
         for (1 .. 200) { last unless alive($pid); select(undef, undef, undef, 0.02) }
         kill 'KILL', -$pid;
         delete $state{"job $label"};
     } elsif ($verb eq 'asuser') {
         my ($uid, @command) = @words;
-        exec { $command[0] } @command;
+        become_program($command[0], @command);
     } else { refuse(@_) }
 }
 
 sub lsof {
     refuse(@_) unless "@_" =~ /^-nP -a -p (\d+) -iTCP:(\d+) -sTCP:LISTEN -t$/;
     my ($pid, $port) = ($1, sprintf '%04X', $2);
-    open(my $table, '<', '/proc/net/tcp') or exit 1;
+    open(my $table, '<', '/proc/net/tcp') or finish(1);
     my %sockets = map { my @c = split; ("socket:[$c[9]]" => 1) } grep { /^\s*\d+: \w+:$port \S+ 0A/ } <$table>;
     for (glob "/proc/$pid/fd/*") {
         if ($sockets{readlink($_) // ''}) { print "$pid\n"; return }
     }
-    exit 1;
+    finish(1);
 }
 
 # ---- pf ----
 
-sub quit_pf { print STDERR "$_[0]\npfctl: Syntax error in config file: pf rules not loaded\n"; exit 1 }
+sub quit_pf { print STDERR "$_[0]\npfctl: Syntax error in config file: pf rules not loaded\n"; finish(1) }
 
 my $ADDRESS = qr/[0-9a-fA-F.:]+(?:\/\d+)?/;
 my $PORT = qr/(?:port = \d+)/;
@@ -316,7 +322,7 @@ sub pfctl {
     }
     print STDERR "No ALTQ support in kernel\nALTQ related functions disabled\n";
     if (defined $file) {
-        my $text = $file eq '-' ? do { local $/; <STDIN> } : do { local (@ARGV, $/) = $file; <> };
+        my $text = $file eq '-' ? $input : do { local (@ARGV, $/) = $file; <> };
         my ($filter, $nat) = read_rules($text // '', $anchor);
         return if $dry;
         $state{"pf $anchor filter"} = $filter unless $only eq '-N';
@@ -337,50 +343,82 @@ sub pfctl {
     if ($flush eq 'states') { $state{'pf flushes'}++ } elsif ($flush) { refuse(@_) }
     if ($enable) {
         my $token = 18446743524953000000 + ++$state{'pf last token'};
-        $state{'pf tokens'} = join "\n", (split /\n/, $state{'pf tokens'} // ''), "$$ pfctl $token";
+        $state{'pf tokens'} = join "\n", (split /\n/, $state{'pf tokens'} // ''), "$caller pfctl $token";
         $state{'pf enabled'} = 1;
         print STDERR "pf enabled\nToken : $token\n";
     }
     if ($give_back) {
         my @tokens = split /\n/, $state{'pf tokens'} // '';
         my @left = grep { !/ \Q$give_back\E$/ } @tokens;
-        if (@left == @tokens) { print STDERR "pfctl: DIOCSTOPREF: Invalid argument\n"; exit 1 }
+        if (@left == @tokens) { print STDERR "pfctl: DIOCSTOPREF: Invalid argument\n"; finish(1) }
         $state{'pf tokens'} = join "\n", @left;
         $state{'pf enabled'} = 0 unless @left || $state{'pf plainly enabled'};
     }
 }
 
-# ---- one call ----
+# ---- calls ----
 
 my %stand_in = (uname => \&uname, sync => \&sync, mv => \&mv, killall => \&killall, ifconfig => \&ifconfig, sysctl => \&sysctl,
     df => \&df, mount => \&mount, stat => \&stat_, ls => \&ls, scutil => \&scutil, dscacheutil => \&dscacheutil, dscl => \&dscl,
     networksetup => \&networksetup, launchctl => \&launchctl, lsof => \&lsof, pfctl => \&pfctl);
 
-open(my $lock, '>>', '/mac/lock') or die;
-flock($lock, 2);
-load();
-$loaded = dump_state();
+sub file_text { my ($path) = @_; open(my $file, '<', $path) or return ''; local $/; return <$file> // '' }
 
 # The watcher goes on by itself: its calls are not counted and are not made to fail.
-my $parent = do { local (@ARGV, $/) = '/proc/' . getppid() . '/cmdline'; <> } // '';
-my $watching = $parent =~ m{/watcher\.sh};
-open(my $calls, '>>', '/mac/calls') or die;
-syswrite $calls, $watching ? '' : join(' ', $name, map { s/\n/\\n/gr } @ARGV) . "\n";
-close $calls;
-
-my $mode = '';
-if (!$watching && open(my $file, '<', '/mac/fail')) {
-    my ($left, $how) = split ' ', <$file>;
-    if (--$left == 0) { $mode = $how }
+sub note_call {
+    my ($parent, @words) = @_;
+    return '' if file_text("/proc/$parent/cmdline") =~ m{/watcher\.sh};
+    open(my $calls, '>>', '/mac/calls') or die;
+    syswrite $calls, join(' ', $name, map { s/\n/\\n/gr } @words) . "\n";
+    my ($left, $how) = split ' ', file_text('/mac/fail') or return '';
     open(my $new, '>', '/mac/fail') or die;
-    print $new "$left $how\n";
-    close $new;
+    print $new --$left, " $how\n";
+    return '' if $left != 0;
+    return $how eq 'quiet' && $name ne 'networksetup' ? 'status' : $how;
 }
-$mode = 'status' if $mode eq 'quiet' && $name ne 'networksetup';
-if ($mode eq 'status') { print STDERR "$name: made to fail\n"; exit 1 }
-if ($mode eq 'quiet') { print "** Error: made to fail quietly.\n"; exit 0 }
-# What becomes another program must not hold the lock.
-if ($name eq 'mv' || ($name eq 'launchctl' && $ARGV[0] eq 'asuser')) { close $lock }
-$stand_in{$name}->(@ARGV);
-save();
-exit($mode eq 'late' ? 1 : 0);
+
+# The answer to one call.
+sub answer {
+    my ($parent, $count, @rest) = @_;
+    my @words = splice(@rest, 0, $count - 1);
+    $input = join("\0", @rest);
+    my ($out, $error, $status, $run) = ('', '', 0);
+    {
+        local (*STDOUT, *STDERR);
+        open(STDOUT, '>', \$out);
+        open(STDERR, '>', \$error);
+        my $mode = note_call($parent, @words);
+        if ($mode eq 'status') { print STDERR "$name: made to fail\n"; $status = 1 }
+        elsif ($mode eq 'quiet') { print "** Error: made to fail quietly.\n" }
+        else {
+            load();
+            if (eval { $stand_in{$name}->(@words); 1 }) { save(); $status = $mode eq 'late' ? 1 : 0 }
+            elsif (ref $@ && $@->{run}) { $run = $@->{run} }
+            elsif (ref $@) { $status = $@->{status} }
+            else { $error .= $@; $status = 70 }
+        }
+    }
+    return $run ? "run\n" . join('', map { "$_\0" } @$run) : "$status " . length($out) . ' ' . length($error) . "\n$out$error";
+}
+
+socket(my $server, AF_UNIX, SOCK_STREAM, 0) or die;
+bind($server, pack_sockaddr_un('/mac/socket')) or die;
+chmod 0777, '/mac/socket';
+listen($server, 64) or die;
+exit 0 if fork;   # who started us waits until there is a server
+POSIX::setsid();
+open(STDIN, '<', '/dev/null');
+open(STDOUT, '>', '/dev/null');
+open(STDERR, '>>', '/mac/server.log');
+open(my $lock, '>>', '/mac/lock') or die;
+while (1) {
+    accept(my $client, $server) or next;
+    my $call = do { local $/; <$client> } // '';
+    $call =~ s/^(\d+) (\d+) (\d+) ([^\0]*)\0//s or next;
+    ($caller, my $parent, my $count, $name) = ($1, $2, $3, $4);
+    flock($lock, 2);
+    my $answer = answer($parent, $count, split(/\0/, $call, -1));
+    flock($lock, 8);
+    print $client $answer;
+    close $client;
+}
