@@ -29,7 +29,7 @@ static const struct rule rules[] = {
     {"env", "0iu:vP:S:"},        /* env(1): no -C */
     {"grep", "abcDd:EFGHhIiLlmnoPqRrsUvwxZze:f:A:B:C:"}, /* grep(1): the one with long options, which we do not use */
     {"head", "n:c:"},            /* head(1): no -q, -v, -z; and no negative numbers */
-    {"id", "ApGnurFP"},          /* id(1): no -z, -Z */
+    {"id", "ApGgnurFP"},          /* id(1): no -z, -Z */
     {"ln", "Ffhinsvw"},          /* ln(1): no -r, -t, -T */
     {"mkdir", "m:pv"},           /* mkdir(1): no -Z */
     {"mktemp", "dqt:up:"},       /* mktemp(1): -t takes a prefix; no --suffix */
