@@ -229,9 +229,13 @@ sub launchctl {
             $SIG{$_} = 'DEFAULT' for qw(INT TERM HUP QUIT PIPE TSTP);
             POSIX::setpgid(0, 0);
             become($job{UserName}) if $job{UserName};
-            open(STDIN, '<', '/dev/null');
-            open(STDOUT, '>>', $job{StandardOutPath} // '/dev/null');
-            open(STDERR, '>>', $job{StandardErrorPath} // '/dev/null');
+            my $number = 0;   # the handles of those names belong to the answer
+            for (['/dev/null', POSIX::O_RDONLY()], map { [$job{$_} // '/dev/null', POSIX::O_WRONLY() | POSIX::O_APPEND() | POSIX::O_CREAT()] }
+                 qw(StandardOutPath StandardErrorPath)) {
+                my $opened = POSIX::open(@$_, 0666);
+                POSIX::dup2($opened, $number++);
+                POSIX::close($opened);
+            }
             %ENV = $job{HOME} ? (HOME => $job{HOME}, PATH => $job{PATH}, LC_ALL => 'C') : (PATH => '/usr/bin:/bin');
             exec { $command[0] } @command;
             POSIX::_exit(127);
@@ -410,6 +414,7 @@ POSIX::setsid();
 open(STDIN, '<', '/dev/null');
 open(STDOUT, '>', '/dev/null');
 open(STDERR, '>>', '/mac/server.log');
+$SIG{PIPE} = 'IGNORE';   # who asked may have been killed meanwhile
 open(my $lock, '>>', '/mac/lock') or die;
 while (1) {
     accept(my $client, $server) or next;
