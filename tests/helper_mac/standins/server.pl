@@ -13,8 +13,10 @@ use warnings;
 use Socket;
 use POSIX ();
 use Time::HiRes ();
+require '/mac/launchd.pl';
+require '/mac/pf.pl';
 
-my ($name, $caller, $input, %state);   # of the call that is answered
+our ($name, $caller, $input, %state);   # of the call that is answered; launchd.pl and pf.pl use them as well
 
 sub load {
     %state = ();
@@ -46,6 +48,12 @@ sub save {
 sub finish { die { status => $_[0] } }
 sub become_program { die { run => [@_] } }
 sub refuse { print STDERR "$name: illegal use: @_\n"; finish(64) }
+# What makes something last on a Mac's disk; this system's perl does the rest of it (program.c).
+sub fullsync {
+    my ($option, $text, @words) = @_;
+    $text =~ s/\bfcntl\(\$file, 51, 0\)/fcntl(\$file, 1, 0)/ or refuse(@_);
+    become_program('/mac/gnu/perl', 'perl', $option, $text, @words);
+}
 sub gnu { become_program("/mac/gnu/$name", $name, @_) }
 
 # ---- small ones ----
@@ -92,8 +100,21 @@ sub ls {
     }
 }
 
+# Services have an id of their own; the first one's ends in 0.
+sub service_id { sprintf '00000000-AAAA-BBBB-CCCC-00000000000%X', $_[0] }
+
 sub scutil {
     my $asked = $input;
+    if ($asked eq "show State:/Network/Global/IPv4\n") {
+        my @names = map { s/^\*//r } services();
+        my ($place) = grep { $names[$_] eq ($state{primary} // '') } 0 .. $#names;
+        print defined $place ? "<dictionary> {\n  PrimaryInterface : en0\n  PrimaryService : " . service_id($place) . "\n  Router : 192.168.1.1\n}\n" : "  No such key\n";
+        return;
+    }
+    if ($asked =~ m{^show Setup:/Network/Service/\S+([0-9A-F])$}) {
+        print "<dictionary> {\n  UserDefinedName : ", (services())[hex $1] =~ s/^\*//r, "\n}\n";
+        return;
+    }
     refuse($asked) unless $asked =~ /^show State:\/Users\/ConsoleUser$/;
     my $uid = $state{console};
     if (!defined $uid) { print "  No such key\n"; return }
@@ -154,6 +175,11 @@ sub networksetup {
         finish($state{'old networksetup'} ? 0 : 4);
     }
     my $at = "service $state{location}/$service";
+    # What a VPN's own program or a profile of the company's holds.
+    if (($state{"$at refuses"} // '') =~ ($verb =~ /^-get/ ? qr/get/ : qr/set/)) {
+        print "** Error: Unable to commit changes to network database.\n";
+        finish(14);
+    }
     if ($verb eq '-getdnsservers') {
         print length($state{"$at dns"} // '') ? $state{"$at dns"} : "There aren't any DNS Servers set on $service.", "\n";
     } elsif ($verb eq '-getproxybypassdomains') {
@@ -187,73 +213,7 @@ sub networksetup {
     } else { refuse(@_) }
 }
 
-# ---- launchd ----
-
-sub alive { my $pid = shift; open(my $file, '<', "/proc/$pid/stat") or return 0; return (<$file> // 'x) Z') !~ /\) [ZX]/ }
-
-sub become {
-    my ($user) = @_;
-    my ($uid, $gid) = map { $state{"record /Users/$user $_"} } qw(UniqueID PrimaryGroupID);
-    $) = "$gid $gid";
-    POSIX::setgid($gid);
-    POSIX::setuid($uid);
-    POSIX::_exit(126) unless $> == $uid && $uid;
-}
-
-sub launchctl {
-    my ($verb, @words) = @_;
-    if ($verb eq 'list') {
-        my $pid = $state{"job $words[0]"};
-        if (!defined $pid) { print STDERR "Could not find service \"$words[0]\" in domain for system\n"; finish(113) }
-        print "{\n\t\"LimitLoadToSessionType\" = \"System\";\n\t\"Label\" = \"$words[0]\";\n\t\"OnDemand\" = true;\n\t\"LastExitStatus\" = 0;\n",
-              alive($pid) ? "\t\"PID\" = $pid;\n" : '', "\t\"Program\" = \"x\";\n};\n";
-    } elsif ($verb eq 'enable') {
-        refuse(@_) unless "@words" =~ m{^system/\S+$};
-    } elsif ($verb eq 'bootstrap') {
-        my ($domain, $file) = @words;
-        refuse(@_) unless $domain eq 'system';
-        my @about = lstat($file);
-        if (!@about || $about[4] != 0 || $about[2] & 022) { print STDERR "Bootstrap failed: 122: Path had bad ownership/permissions\n"; finish(122) }
-        my $text = do { local (@ARGV, $/) = $file; <> };
-        my %job = $text =~ m{<key>(\w+)</key>\s*<string>([^<]*)</string>}g;
-        my ($words) = $text =~ m{<key>ProgramArguments</key>\s*<array>(.*?)</array>}s;
-        my @command = $words =~ m{<string>([^<]*)</string>}g;
-        if (defined $state{"job $job{Label}"}) { print STDERR "Bootstrap failed: 5: Input/output error\n"; finish(5) }
-        my ($read, $write);
-        pipe($read, $write);
-        if (!fork) {
-            POSIX::setsid();
-            my $pid = fork;
-            if ($pid) { syswrite $write, "$pid\n"; POSIX::_exit(0) }
-            POSIX::close($_) for 3 .. 20;   # launchd's children have nothing of ours
-            $SIG{$_} = 'DEFAULT' for qw(INT TERM HUP QUIT PIPE TSTP);
-            POSIX::setpgid(0, 0);
-            become($job{UserName}) if $job{UserName};
-            my $number = 0;   # the handles of those names belong to the answer
-            for (['/dev/null', POSIX::O_RDONLY()], map { [$job{$_} // '/dev/null', POSIX::O_WRONLY() | POSIX::O_APPEND() | POSIX::O_CREAT()] }
-                 qw(StandardOutPath StandardErrorPath)) {
-                my $opened = POSIX::open(@$_, 0666);
-                POSIX::dup2($opened, $number++);
-                POSIX::close($opened);
-            }
-            %ENV = $job{HOME} ? (HOME => $job{HOME}, PATH => $job{PATH}, LC_ALL => 'C') : (PATH => '/usr/bin:/bin');
-            exec { $command[0] } @command;
-            POSIX::_exit(127);
-        }
-        chomp($state{"job $job{Label}"} = <$read>);
-    } elsif ($verb eq 'bootout') {
-        my $label = $words[0] =~ s{^system/}{}r;
-        my $pid = $state{"job $label"};
-        if (!defined $pid) { print STDERR "Boot-out failed: 3: No such process\n"; finish(3) }
-        kill 'TERM', $pid;
-        for (1 .. 200) { last unless alive($pid); select(undef, undef, undef, 0.02) }
-        kill 'KILL', -$pid;
-        delete $state{"job $label"};
-    } elsif ($verb eq 'asuser') {
-        my ($uid, @command) = @words;
-        become_program($command[0], @command);
-    } else { refuse(@_) }
-}
+# ---- what a process listens on ----
 
 sub lsof {
     refuse(@_) unless "@_" =~ /^-nP -a -p (\d+) -iTCP:(\d+) -sTCP:LISTEN -t$/;
@@ -266,105 +226,11 @@ sub lsof {
     finish(1);
 }
 
-# ---- pf ----
-
-sub quit_pf { print STDERR "$_[0]\npfctl: Syntax error in config file: pf rules not loaded\n"; finish(1) }
-
-my $ADDRESS = qr/[0-9a-fA-F.:]+(?:\/\d+)?/;
-my $PORT = qr/(?:port = \d+)/;
-my $RULE = qr{^(?:pass|block\ return|block\ drop)(?:\ in|\ out)?\ quick(?:\ on\ lo0)?(?:\ inet6?)?(?:\ proto\ (?:tcp|udp|icmp6))?
-    (?:\ all|\ from\ (?:any|$ADDRESS)(?:\ $PORT)?\ to\ (?:any|$ADDRESS)(?:\ $PORT)?)
-    (?:\ user\ =\ \d+)?(?:\ group\ =\ \d+)?(?:\ flags\ S/SA)?(?:\ icmp6-type\ \w+)?(?:\ keep\ state|\ no\ state)?$}x;
-
-# A rule as pfctl prints it: lists written out, "=" before single numbers.
-sub expand {
-    my ($line) = @_;
-    if ($line =~ /^(.*?)\{ ([^{}]*) \}(.*)$/) {
-        my ($before, $list, $after) = ($1, $2, $3);
-        return map { expand("$before$_$after") } split /, /, $list;
-    }
-    $line =~ s/\b(port|user|group) (\d+)/$1 = $2/g;
-    $line =~ s/ from any to any(?= icmp6-type|$)/ all/;
-    return $line;
-}
-
-sub read_rules {
-    my ($text, $anchor) = @_;
-    my (@filter, @nat);
-    my $number = 0;
-    for (split /\n/, $text) {
-        $number++;
-        next if /^\s*(#.*)?$/;
-        if (/^rdr pass on lo0 inet proto udp from any to 127\.0\.0\.1 port (\d+) -> 127\.0\.0\.1 port \d+$/) { push @nat, $_ }
-        elsif (/^(?:nat|rdr)-anchor "[^"]+"(?: all)?$/) { push @nat, s/( all)?$/ all/r }
-        elsif (/^scrub-anchor "[^"]+"(?: all fragment reassemble)?$/) {
-            quit_pf("stdin:$number: Rules must be in order: options, normalization, queueing, translation, filtering") if @filter && $filter[-1] !~ /^scrub/;
-            push @filter, s/( all fragment reassemble)?$/ all fragment reassemble/r;
-        }
-        elsif (/^anchor "[^"]+"(?: all)?$/) { push @filter, s/( all)?$/ all/r }
-        else {
-            for (expand($_)) { quit_pf("stdin:$number: syntax error ($_)") unless $_ =~ $RULE; push @filter, $_ }
-        }
-    }
-    return (join("\n", @filter), join("\n", @nat));
-}
-
-sub pfctl {
-    my @words = @_;
-    my ($anchor, $file, $only, $show, $flush, $give_back, $enable, $dry) = ('', undef, '', '', '', '', '', '');
-    while (defined(my $word = shift @words)) {
-        if ($word eq '-q') { }
-        elsif ($word eq '-a') { $anchor = shift @words }
-        elsif ($word eq '-n') { $dry = 1 }
-        elsif ($word eq '-f') { $file = shift @words; refuse(@_) unless $file eq '-' || $dry }
-        elsif ($word eq '-N' || $word eq '-R') { $only = $word }
-        elsif ($word eq '-s') { $show = shift @words }
-        elsif ($word eq '-F') { $flush = shift @words }
-        elsif ($word eq '-E') { $enable = 1 }
-        elsif ($word eq '-X') { $give_back = shift @words }
-        else { refuse(@_) }
-    }
-    print STDERR "No ALTQ support in kernel\nALTQ related functions disabled\n";
-    if (defined $file) {
-        my $text = $file eq '-' ? $input : do { local (@ARGV, $/) = $file; <> };
-        my ($filter, $nat) = read_rules($text // '', $anchor);
-        return if $dry;
-        $state{"pf $anchor filter"} = $filter unless $only eq '-N';
-        $state{"pf $anchor nat"} = $nat unless $only eq '-R';
-        delete @state{"pf $anchor filter", "pf $anchor nat"} if $anchor && !length "$filter$nat";
-    }
-    # A pf that holds something else than it was told.
-    $state{'pf veldmark filter'} = 'pass out quick all' if $state{'pf lies'} && defined $state{'pf veldmark filter'};
-    if ($show eq 'rules') { print map { "$_\n" } split /\n/, $state{"pf $anchor filter"} // '' }
-    elsif ($show eq 'nat') { print map { "$_\n" } split /\n/, $state{"pf $anchor nat"} // '' }
-    elsif ($show eq 'info') {
-        print "Status: ", ($state{'pf enabled'} ? 'Enabled' : 'Disabled'), " for 0 days 00:01:00           Debug: Urgent\n\nState Table\n";
-    } elsif ($show eq 'References') {
-        print "TOKENS:\nPID      Process Name                 TOKEN                    TIMESTAMP           \n",
-              map { my ($pid, $process, $token) = split / /; sprintf " %-7s %-28s %-24s 0 days 00:00:01\n", $pid, $process, $token }
-              split /\n/, $state{'pf tokens'} // '';
-    } elsif ($show) { refuse(@_) }
-    if ($flush eq 'states') { $state{'pf flushes'}++ } elsif ($flush) { refuse(@_) }
-    if ($enable) {
-        my $token = 18446743524953000000 + ++$state{'pf last token'};
-        $state{'pf tokens'} = join "\n", (split /\n/, $state{'pf tokens'} // ''), "$caller pfctl $token";
-        $state{'pf enabled'} = 1;
-        print STDERR "pf enabled\nToken : $token\n";
-    }
-    if ($give_back) {
-        my @tokens = split /\n/, $state{'pf tokens'} // '';
-        my @left = grep { !/ \Q$give_back\E$/ } @tokens;
-        if (@left == @tokens) { print STDERR "pfctl: DIOCSTOPREF: Invalid argument\n"; finish(1) }
-        $state{'pf tokens'} = join "\n", @left;
-        $state{'pf enabled'} = 0 unless @left || $state{'pf plainly enabled'};
-    }
-}
-
 # ---- calls ----
 
 my %stand_in = (uname => \&uname, sync => \&sync, mv => \&mv, killall => \&killall, ifconfig => \&ifconfig, sysctl => \&sysctl,
     df => \&df, mount => \&mount, stat => \&stat_, ls => \&ls, scutil => \&scutil, dscacheutil => \&dscacheutil, dscl => \&dscl,
-    networksetup => \&networksetup, launchctl => \&launchctl, lsof => \&lsof, pfctl => \&pfctl);
+    networksetup => \&networksetup, launchctl => \&launchctl, lsof => \&lsof, pfctl => \&pfctl, fullsync => \&fullsync);
 
 sub file_text { my ($path) = @_; open(my $file, '<', $path) or return ''; local $/; return <$file> // '' }
 
@@ -396,6 +262,7 @@ sub answer {
         elsif ($mode eq 'quiet') { print "** Error: made to fail quietly.\n" }
         else {
             load();
+            settle_jobs();
             if (eval { $stand_in{$name}->(@words); 1 }) { save(); $status = $mode eq 'late' ? 1 : 0 }
             elsif (ref $@ && $@->{run}) { $run = $@->{run} }
             elsif (ref $@) { $status = $@->{status} }
