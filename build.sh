@@ -16,6 +16,7 @@ usage: ./build.sh VERB
            demo, test and package as a stranger runs them: from a clone of the last commit on a clean Debian 12
   asan     the unit tests under the address and undefined-behaviour sanitizers
   tsan     the tests whose work crosses threads, under the thread sanitizer
+  apple    what a Mac compiles, under clang and libc++: syntax and types only (./build.sh apple [PART OF A PATH...])
   coverage which lines of src/ the unit tests run
   mutate   small mistakes put into a clone of the last commit, one at a time, and which of them no test notices
            (./build.sh mutate [ROOM...] [--count N] [--seed S]; rooms are also qml, helper and helper_mac)
@@ -239,6 +240,12 @@ asan)
     # Counts of an earlier build would be complained about on the standard error of programs whose output is tested.
     find build/asan -name '*.gcda' -delete
     ctest --preset asan "$@"
+    ;;
+apple)
+    deps
+    compile dev
+    [[ $# -gt 0 ]] || set -- all
+    exec /usr/bin/python3 tests/house/test_apple.py "$PWD" "$PWD/build/dev" "$@"
     ;;
 tsan)
     deps

@@ -44,11 +44,31 @@ load_rules() {
     die "The firewall rules were not accepted ($(pf_words "$output"))."
 }
 
+# list_filter: the main rules for packets, as they are written: normalising, then dummynet, then filtering. Loading filter rules replaces
+# those of dummynet as well, which "-s rules" does not show. Where pfctl does not know them there are none.
+list_filter() {
+  local rules line dummynet
+  rules=$(pfctl -s rules) || return 1
+  dummynet=$(pfctl -s dummynet) || dummynet=''
+  while IFS= read -r line; do [[ $line != *scrub* ]] || printf '%s\n' "$line"; done <<<"$rules"
+  [[ -z $dummynet ]] || printf '%s\n' "$dummynet"
+  while IFS= read -r line; do [[ $line == *scrub* ]] || printf '%s\n' "$line"; done <<<"$rules"
+}
+
+# skipped_devices: prints the network devices that the main rules leave out ("set skip on"). No rule of any anchor holds there.
+skipped_devices() {
+  local listing line
+  listing=$(pfctl -v -s Interfaces) || return 1
+  while IFS= read -r line; do
+    [[ $line != *" (skip)"* ]] || printf '%s ' "${line%% *}"
+  done <<<"$listing"
+}
+
 # put_reference: has the main rules ask our anchor first. They are read and written by pfctl, each kind for itself, and
 # never through a pipe: were the writing end killed, pfctl would load the half that it got.
 put_reference() {
   local filter nat output
-  { filter=$(pfctl -s rules) && nat=$(pfctl -s nat); } || die "The firewall's main rules cannot be read."
+  { filter=$(list_filter) && nat=$(pfctl -s nat); } || die "The firewall's main rules cannot be read."
   if [[ $(print_without "$nat") == "$nat" ]]; then
     nat=$(print_referring nat "$nat")
     output=$(pfctl -q -N -f - 2>&1 <<<"$nat") ||
@@ -74,7 +94,7 @@ print_normal() {
 # take_back_reference: status 1 when the main rules still name us.
 take_back_reference() {
   local filter nat
-  filter=$(pfctl -s rules) && nat=$(pfctl -s nat) || return 1
+  filter=$(list_filter) && nat=$(pfctl -s nat) || return 1
   if [[ $(print_without "$filter") != "$filter" ]]; then
     filter=$(print_without "$filter")
     pfctl -q -R -f - <<<"$filter" || return 1
@@ -130,9 +150,9 @@ kill_states() { pfctl -q -F states; }
 # kill_switch_stands: asks the kernel; the marker alone may be from before a restart of the computer. Status 2: it
 # did not tell.
 kill_switch_stands() {
-  local info main rules
-  info=$(pfctl -s info) && main=$(pfctl -s rules) && rules=$(pfctl -a "$ANCHOR" -s rules) || return 2
-  [[ $info == *"Status: Enabled"* && $main == *"anchor \"$ANCHOR\""* && $rules == *"block return out quick all"* ]]
+  local info main rules skipped
+  info=$(pfctl -s info) && main=$(pfctl -s rules) && rules=$(pfctl -a "$ANCHOR" -s rules) && skipped=$(skipped_devices) || return 2
+  [[ -z $skipped && $info == *"Status: Enabled"* && $main == *"anchor \"$ANCHOR\""* && $rules == *"block return out quick all"* ]]
 }
 
 # put_firewall MODE: marker, rules, reference, pf itself, old connections, in this order. The text is kept first.
@@ -154,6 +174,9 @@ put_firewall() {
 
 # put_rules TEXT: whoever calls it holds the rules.
 put_rules() {
+  local skipped
+  skipped=$(skipped_devices) || die "The firewall's devices cannot be read."
+  [[ -z $skipped ]] || die "The firewall leaves out the network device ${skipped%% *} (\"set skip\" in /etc/pf.conf), where nothing would be blocked."
   load_rules "$1"
   put_reference
   enable_firewall

@@ -2,6 +2,7 @@
 # ---- macOS: jobs of launchd's ------------------------------------------------------------------------------
 # A job is known by its label and lies in our own folder, so that nothing starts after a restart of the computer.
 
+readonly BUSY_POLLS=20     # of about 0.1 s: for launchd to be done with the former job
 readonly STOP_POLLS=100    # of about 0.1 s: launchd kills what has not ended after its time
 
 readonly JOB_PROCESS='"PID" = ([0-9]+);'
@@ -47,10 +48,18 @@ job_process() {
   [[ ! $output =~ $JOB_PROCESS ]] || printf '%s' "${BASH_REMATCH[1]}"
 }
 
-# start_job LABEL FILE
+# start_job LABEL FILE: says on standard error why not. Right after the end of a job of that label launchd answers for a while that
+# the operation is in progress (37), or with a plain error (5).
 start_job() {
+  local poll status
   launchctl enable "system/$1" || true   # somebody may have disabled it for good
-  launchctl bootstrap system "$2"
+  for ((poll = 0; poll < BUSY_POLLS; poll++)); do
+    status=0
+    launchctl bootstrap system "$2" || status=$?
+    ((status == 5 || status == 37)) || return "$status"
+    sleep 0.1
+  done
+  return "$status"
 }
 
 # stop_job LABEL: status 1 when it is still there after some time.

@@ -48,20 +48,22 @@ own_hosts() {
 
 # read_names: sets NAMES_TEXT. A name that is not found keeps what a session under way knows of it.
 read_names() {
-  local name line address found known count=0
+  local name line address addresses found known count=0
   NAMES_TEXT=''
   transports_need_names || return 0
   known=$(own_hosts) || known=''
   while IFS= read -r name; do
     ((++count <= MAX_NAMES)) || break
     found=''
-    while read -r line address; do
-      case $line in
-      ip_address:) is_address4 "$address" || continue ;;
-      ipv6_address:) is_address6 "$address" || continue ;;
-      *) continue ;;
-      esac
-      found="$found$address $name"$'\n'
+    while read -r line addresses; do
+      for address in $addresses; do
+        case $line in
+        ip_address:) is_address4 "$address" || continue ;;
+        ipv6_address:) is_address6 "$address" || continue ;;
+        *) continue ;;
+        esac
+        found="$found$address $name"$'\n'
+      done
     done < <(perl -e 'alarm shift; exec @ARGV' "$NAME_SECONDS" dscacheutil -q host -a name "$name" || true)
     if [[ -z $found ]]; then
       while IFS= read -r line; do

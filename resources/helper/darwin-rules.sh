@@ -33,7 +33,9 @@ block return out quick proto { tcp, udp } from any to any port 53
 END
 }
 
-# print_strict_rules TOR_UID USER_UID LAN UDP GROUP: nothing leaves but Tor's own traffic. LAN 1 opens the local
+# print_strict_rules TOR_UID USER_UID LAN UDP GROUP: nothing leaves but Tor's own traffic, and what a network wants to be joined: leases, and
+# neighbours, which switches pass on to whoever has reported (MLD; 143 is the report of its second version). The kernel writes a device's
+# number into link-local addresses, ff02::1:2 is ff02:4::1:2 there, hence whole ranges. LAN 1 opens the local
 # network; UDP 1 lets Tor's account send UDP (snowflake); GROUP is the group of the applications without Tor.
 print_strict_rules() {
   print_rules_head "$1" "$2"
@@ -42,8 +44,8 @@ print_strict_rules() {
   [[ -z ${5-} ]] || printf 'pass out quick proto { tcp, udp } from any to any group %s keep state\n' "$5"
   cat <<END
 pass out quick inet proto udp from any port 68 to { 255.255.255.255, $LAN4 } port 67 keep state
-pass out quick inet6 proto udp from any port 546 to { ff02::1:2, fe80::/10 } port 547 keep state
-pass out quick inet6 proto icmp6 from any to { fe80::/10, ff02::/16 } icmp6-type { routersol, neighbrsol, neighbradv } no state
+pass out quick inet6 proto udp from any port 546 to { ff02::/16, fe80::/10 } port 547 keep state
+pass out quick inet6 proto icmp6 from any to { fe80::/10, ff02::/16 } icmp6-type { routersol, neighbrsol, neighbradv, listenrep, 143 } no state
 END
   if [[ $3 == 1 ]]; then
     cat <<END
@@ -60,13 +62,13 @@ END
 block return out quick all
 pass in quick inet proto udp from any port 67 to any port 68 no state
 pass in quick inet6 proto udp from fe80::/10 port 547 to any port 546 no state
-pass in quick inet6 proto icmp6 all icmp6-type { routeradv, neighbrsol, neighbradv } no state
+pass in quick inet6 proto icmp6 all icmp6-type { routeradv, neighbrsol, neighbradv, listqry } no state
 block drop in quick all
 END
 }
 
 # print_referring KIND TEXT: the main rules of one kind, "filter" or "nat", as pfctl printed them, with our anchor
-# before everybody else's. Normalising comes before filtering.
+# before everybody else's. Normalising and dummynet come before filtering.
 print_referring() {
   local line put=''
   if [[ $1 == nat ]]; then
@@ -75,7 +77,7 @@ print_referring() {
   fi
   while IFS= read -r line; do
     [[ -n $line ]] || continue
-    if [[ -z $put && $line != scrub* && $line != "no scrub"* ]]; then
+    if [[ -z $put && $line != scrub* && $line != "no scrub"* && $line != dummynet* && $line != "no dummynet"* ]]; then
       printf 'anchor "%s"\n' "$ANCHOR"
       put=1
     fi

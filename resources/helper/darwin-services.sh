@@ -146,17 +146,40 @@ set_service() {
     [[ $HAS_WEB$HAS_SECURE$HAS_AUTO != *Yes* && $HAS_DISCOVERY != On ]]
 }
 
-# put_services LAN: journal and switch every active service, also one that came since.
+# primary_service: prints the name of the service that the default route goes through; nothing where there is none.
+primary_service() {
+  local key value id='' rest
+  while read -r key rest value; do
+    [[ $key != PrimaryService ]] || id=$value
+  done < <(scutil <<<"show State:/Network/Global/IPv4" || true)
+  [[ $id =~ ^[0-9A-F-]{36}$ ]] || return 0
+  while IFS= read -r value; do
+    [[ $value != *"UserDefinedName : "* ]] || printf '%s' "${value#*"UserDefinedName : "}"
+  done < <(scutil <<<"show Setup:/Network/Service/$id" || true)
+}
+
+# put_services LAN: journal and switch every active service, also one that came since. A service that cannot be read or set, as those of a
+# VPN or of the company's may be, is left as it is, unless traffic goes through it now, or there is no other.
 put_services() {
-  local name location
+  local name location reason='' primary put=0
   choose_bypass "$1"
   location=$(current_location) || die "The network settings cannot be read."
   read_services active || die "The network settings cannot be read."
+  primary=$(primary_service)
   for name in ${SERVICES[@]+"${SERVICES[@]}"}; do
-    read_service "$name" || die "The settings of the network service $name cannot be read."
-    note_service "$name" "$location" || die "The journal cannot be written."
-    set_service "$name" || die "The settings of the network service $name cannot be changed."
+    if ! read_service "$name"; then
+      reason="The settings of the network service $name cannot be read."
+    else
+      note_service "$name" "$location" || die "The journal cannot be written."
+      if set_service "$name"; then
+        put=1
+        continue
+      fi
+      reason="The settings of the network service $name cannot be changed."
+    fi
+    [[ $name != "$primary" ]] || die "$reason"
   done
+  [[ $put == 1 || -z $reason ]] || die "$reason"
   flush_names
 }
 
@@ -168,7 +191,16 @@ flush_names() {
 
 on_off() { if [[ $1 == Yes || $1 == On ]]; then printf on; else printf off; fi; }
 
-# restore_service NAME: what the entry that was read tells of.
+# is_as_noted: whether the service that was read is as the entry that was read tells. Uses its caller's dns, bypass, host and state. A host
+# that was empty and cannot be emptied again does nothing while the proxy is off.
+is_as_noted() {
+  [[ $HAS_SOCKS == "$state" && (-z $host || $HAS_HOST == "$host") ]] &&
+    [[ ${HAS_DNS[*]-} == "${dns[*]-}" && ${HAS_BYPASS[*]-} == "${bypass[*]-}" ]] &&
+    [[ $HAS_WEB == "$(journal_value web)" && $HAS_SECURE == "$(journal_value secure)" ]] &&
+    [[ $HAS_AUTO == "$(journal_value auto)" && $HAS_DISCOVERY == "$(journal_value discovery)" ]]
+}
+
+# restore_service NAME: what the entry that was read tells of. Nothing is written to one that never took our settings.
 restore_service() {
   local -a dns bypass
   local line host port state
@@ -179,11 +211,12 @@ restore_service() {
     "bypass "*) bypass[${#bypass[@]}]=${line#* } ;;
     esac
   done
-  ((${#dns[@]} > 0)) || dns=(Empty)
-  ((${#bypass[@]} > 0)) || bypass=(Empty)
   host=$(journal_value host) && port=$(journal_value port) && state=$(journal_value socks) || return 1
   [[ $port != 0 ]] || port=''
   read_service "$1" || return 1
+  ! is_as_noted || return 0
+  ((${#dns[@]} > 0)) || dns=(Empty)
+  ((${#bypass[@]} > 0)) || bypass=(Empty)
   net -setproxybypassdomains "$1" "${bypass[@]}" || return 1
   if [[ -n $host ]]; then
     net -setsocksfirewallproxy "$1" "$host" "$port" off || return 1
@@ -200,23 +233,21 @@ restore_service() {
   net -setdnsservers "$1" "${dns[@]}" || return 1
   [[ ${dns[0]} != Empty ]] || dns=()
   [[ ${bypass[0]} != Empty ]] || bypass=()
-  # A host that was empty and cannot be emptied again does nothing while the proxy is off.
-  read_service "$1" && [[ $HAS_SOCKS == "$state" && ( -z $host || $HAS_HOST == "$host" ) ]] &&
-    [[ ${HAS_DNS[*]-} == "${dns[*]-}" && ${HAS_BYPASS[*]-} == "${bypass[*]-}" ]] &&
-    [[ $HAS_WEB == "$(journal_value web)" && $HAS_SECURE == "$(journal_value secure)" ]] &&
-    [[ $HAS_AUTO == "$(journal_value auto)" && $HAS_DISCOVERY == "$(journal_value discovery)" ]]
+  read_service "$1" && is_as_noted
 }
+
+CURRENT_LOCATION='' SERVICES_READ=0   # what undo_services has asked for all of them
 
 # undo_service: status 1: not all of it could be put back. 3: it cannot be put back now, but the network is open.
 undo_service() {
   local name location
   name=$(journal_value service) || return 0
   location=$(journal_value location) || location=''
-  if [[ $location != "$(current_location)" ]]; then
+  if [[ $location != "$CURRENT_LOCATION" ]]; then
     UNDONE="The network location $location still has Veldmark's settings. Choose it and disconnect again."
     return 3
   fi
-  if read_services all; then
+  if ((SERVICES_READ)); then
     # One that is gone took its settings with it; one with another name is found below.
     has_service "$name" || return 0
     restore_service "$name" && return 0
@@ -230,8 +261,12 @@ undo_service() {
 # NOTED is empty and there is no entry.
 undo_services() {
   local path reason='' status worst=0 noted=$1
+  CURRENT_LOCATION='' SERVICES_READ=0
   for path in "$JOURNAL/$SERVICE_ENTRY"-[0-9]*; do
     [[ -e $path && $path != *.new ]] || continue
+    # Asked once: networksetup is slow, and the program waits for us at its end.
+    [[ -n $CURRENT_LOCATION ]] || CURRENT_LOCATION=$(current_location) || CURRENT_LOCATION=''
+    ((SERVICES_READ)) || { read_services all && SERVICES_READ=1; } || true
     noted=1 status=0 UNDONE=''
     undo_entry "${path##*/}" || status=$?
     if ((status != 0)); then
@@ -252,6 +287,8 @@ sweep_services() {
   local name
   read_services all || return 0
   for name in ${SERVICES[@]+"${SERVICES[@]}"}; do
+    # The first of seven questions answers most.
+    [[ $(networksetup -getdnsservers "$name" || true) == "$OUR_DNS" ]] || continue
     if read_service "$name" && is_ours; then
       net -setsocksfirewallproxy "$name" '' '' off || true
       net -setsocksfirewallproxystate "$name" off || true

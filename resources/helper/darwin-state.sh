@@ -94,7 +94,7 @@ ready_folders() {
     [[ $path != "$JOURNAL" ]] || mode=0700
     [[ -e $path || -L $path ]] || mkdir -m "$mode" -- "$path" || die "The folder $path cannot be created."
     safe_folders "$path" || die "The folder $path is not safe: only root may own or write it."
-    chmod "$mode" -- "$path" || die "The folder $path cannot be changed."
+    chmod -- "$mode" "$path" || die "The folder $path cannot be changed."
   done
   folders_are_safe || die "The folders above Veldmark's are not safe: only root may own or write them."
   ready_data_folder
@@ -242,8 +242,26 @@ as_caller() {
 
 # ---- Primitives of the shared parts ----
 
-# put_in_place NEW TARGET: NEW replaces TARGET, in the same folder; on disk when it returns 0.
-put_in_place() { sync && [[ ! -d $2 || -L $2 ]] && mv -f -- "$1" "$2" && sync; }
+# NEW TARGET FOLDER: sync(2) and fsync(2) of macOS end when the drive has the data, which may still lose it with the power; F_FULLFSYNC
+# (51) also has the drive write it. Not every file system knows that.
+# shellcheck disable=SC2016
+readonly PUT='
+my ($new, $target, $folder) = @ARGV;
+for my $path ($new, $folder) {
+  open(my $file, "<", $path) or exit 1;
+  fcntl($file, 51, 0) or $path eq $folder or do { require IO::Handle; $file->sync } or exit 1;
+  rename($new, $target) or exit 1 if $path eq $new;
+}'
+
+# put_in_place NEW TARGET: NEW replaces TARGET, in the same folder; on disk when it returns 0. A network is restored without perl, too.
+put_in_place() {
+  [[ ! -d $2 || -L $2 ]] || return 1
+  if command -v perl >/dev/null; then
+    perl -e "$PUT" "$1" "$2" "${2%/*}"
+  else
+    sync && mv -f -- "$1" "$2" && sync
+  fi
+}
 
 # print_modes PATH...: "MODE UID KIND" for each, a line each; fails when one is missing. Links are not followed,
 # but for one at the end with a "/" after it.

@@ -7,6 +7,7 @@ readonly TOR_ENTRY=20-tor
 readonly TOR_LABEL=veldmark.tor
 readonly TOR_JOB=$RUN/tor.plist           # 0644
 readonly LAUNCHD_OUT=$RUN/launchd.out     # what Tor prints before its log stands
+readonly SPAWN_POLLS=20    # likewise: launchd has a process for it by then
 readonly START_POLLS=100   # of about 0.1 s: Tor opens its control port within 10 s or it failed
 
 print_tor_job() {
@@ -49,7 +50,7 @@ tor_listens() {
 # group may be everybody's.
 ready_logs() {
   rm -f -- "$NOTICES" "$LAUNCHD_OUT" && : >"$NOTICES" && : >"$LAUNCHD_OUT" &&
-    chown -- "$CALLER_UID:$TOR_GID" "$NOTICES" "$LAUNCHD_OUT" && chmod 0460 -- "$NOTICES" "$LAUNCHD_OUT"
+    chown -- "$CALLER_UID:$TOR_GID" "$NOTICES" "$LAUNCHD_OUT" && chmod -- 0460 "$NOTICES" "$LAUNCHD_OUT"
 }
 
 tor_failure() {
@@ -60,13 +61,13 @@ tor_failure() {
 
 # start_tor: returns once Tor listens on its control port.
 start_tor() {
-  local process poll output status
+  local process poll output status had=''
   put_in_place "$TORRC.checked" "$TORRC" || die "The file $TORRC cannot be written."
   ready_logs || die "Tor's log files cannot be made."
   write_file "$TOR_JOB" 0644 root "$(print_tor_job)"$'\n' || die "The file $TOR_JOB cannot be written."
   journal_put "$TOR_ENTRY" "label $TOR_LABEL" || die "The journal cannot be written."
   output=$(start_job "$TOR_LABEL" "$TOR_JOB" 2>&1) || {
-    output=${output%%$'\n'*}
+    output=${output##*$'\n'}
     die "Tor could not be started (${output//[[:cntrl:]]/ })."
   }
   for ((poll = 0; poll < START_POLLS; poll++)); do
@@ -75,10 +76,11 @@ start_tor() {
     ((status != 1)) || die "Tor did not start: $(tor_failure)"
     # It opens all its ports before it fails for one of them.
     if [[ -n $process ]]; then
+      had=1
       if tor_listens "$process" && [[ $(<"$LAUNCHD_OUT")$(<"$NOTICES") != *"Could not bind to"* ]]; then
         return
       fi
-    elif ((poll > 0 && status == 0)); then
+    elif [[ -n $had ]] || ((poll >= SPAWN_POLLS && status == 0)); then
       die "Tor did not start: $(tor_failure)"
     fi
     sleep 0.1

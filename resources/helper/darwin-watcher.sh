@@ -14,9 +14,9 @@ readonly WATCH_SECONDS=1                  # pf does not tell of changes
 
 # rules_stand: pf is on, asks our anchor first, and holds it as it was loaded.
 rules_stand() {
-  local info filter nat now
-  info=$(pfctl -s info) && filter=$(pfctl -s rules) && nat=$(pfctl -s nat) && now=$(list_rules) || return 1
-  [[ $info == *"Status: Enabled"* && $(print_without "$nat") != "$nat" && $now == "$(<"$LISTED")" ]] &&
+  local info filter nat now skipped
+  info=$(pfctl -s info) && filter=$(list_filter) && nat=$(pfctl -s nat) && now=$(list_rules) && skipped=$(skipped_devices) || return 1
+  [[ -z $skipped && $info == *"Status: Enabled"* && $(print_without "$nat") != "$nat" && $now == "$(<"$LISTED")" ]] &&
     [[ $(print_referring filter "$filter") == "$(print_normal "$filter")" ]]
 }
 
@@ -46,10 +46,10 @@ watch_rules() {
 print_watcher() {
   printf 'set -uo pipefail\numask 077\nPATH=%s\nLC_ALL=C\nexport PATH LC_ALL\ncd /\n' "$PATH"
   declare -p ANCHOR RULES LISTED RULES_LOCK MARKER JOURNAL KILL_SWITCH_NOTE FIREWALL_ENTRY WATCH_SECONDS \
-    HOLD TOKEN_LINE WORD MISSED SINCE NOTED
+    HOLD PUT TOKEN_LINE WORD MISSED SINCE NOTED
   printf 'JOURNAL_LINES=()\ndie() { exit 1; }\n'
   declare -f read_marker put_in_place write_file note_rules journal_put journal_has journal_read journal_value boot_id hold_rules \
-    release_rules pf_words load_rules put_reference print_referring print_without print_normal held_token enable_firewall \
+    release_rules pf_words load_rules list_filter skipped_devices put_reference print_referring print_without print_normal held_token enable_firewall \
     kill_states list_rules put_rules rules_stand relock watch_rules
   printf 'watch_rules\nexit 0\n'
 }

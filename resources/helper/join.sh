@@ -29,5 +29,5 @@ trap 'rm -f -- "$new"' EXIT
     cat -- "$here/$part.sh"
   done
 } >"$new"
-chmod 0755 -- "$new"
+chmod -- 0755 "$new"
 mv -f -- "$new" "$output"

@@ -25,7 +25,7 @@ install_file() {
   set -o noclobber
   : >"$new" || return 1
   set +o noclobber
-  print_file "$1" >"$new" && [[ -s $new ]] && chmod 0755 -- "$new" && put_in_place "$new" "$2" && return 0
+  print_file "$1" >"$new" && [[ -s $new ]] && chmod -- 0755 "$new" && put_in_place "$new" "$2" && return 0
   rm -f -- "$new"
   return 1
 }
@@ -47,7 +47,7 @@ any_install-privileged() {
   root_owned /etc/sudoers.d || die "The folder /etc/sudoers.d is missing or not safe."
   make_installed
   root_owned "$INSTALLED" || die "The folder $INSTALLED is not safe: only root may own or write it and those above it."
-  chmod 0755 -- "$INSTALLED" || die "The folder $INSTALLED cannot be changed."
+  chmod -- 0755 "$INSTALLED" || die "The folder $INSTALLED cannot be changed."
 
   install_file "$SELF" "$INSTALLED_HELPER" || die "The helper could not be copied to $INSTALLED."
   if [[ -n $OPT_LAUNCH ]]; then

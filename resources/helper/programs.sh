@@ -74,7 +74,7 @@ copy_program() {
 # keep_copy ROLE: puts what copy_program has left where it may be run from.
 keep_copy() {
   [[ -d $PROGRAMS/$DIGEST ]] || mkdir -m 0755 -- "$PROGRAMS/$DIGEST" || die "The folder $PROGRAMS cannot be written."
-  { chmod 0755 -- "$NEW_PROGRAM" && put_in_place "$NEW_PROGRAM" "$PROGRAMS/$DIGEST/$1"; } ||
+  { chmod -- 0755 "$NEW_PROGRAM" && put_in_place "$NEW_PROGRAM" "$PROGRAMS/$DIGEST/$1"; } ||
     die "The copy of the program cannot be put into $PROGRAMS."
 }
 

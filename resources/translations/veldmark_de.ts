@@ -674,6 +674,10 @@
         <translation>Anmeldeobjekte lassen sich hier nicht ändern.</translation>
     </message>
     <message>
+        <source>Move Veldmark to the Applications folder and open it from there first.</source>
+        <translation>Bewegen Sie Veldmark zuerst in den Ordner „Programme“ und öffnen Sie es von dort.</translation>
+    </message>
+    <message>
         <source>Couldn&apos;t remove %1.</source>
         <translation>%1 ließ sich nicht entfernen.</translation>
     </message>

@@ -1,5 +1,6 @@
 #include "app/Application.h"
 
+#include "app/Activation.h"
 #include "app/FileLog.h"
 #include "controller/TorController.h"
 
@@ -35,6 +36,9 @@ Application::Application(const PlatformProfile &profile)
                                  "without Veldmark, run:\n%1\n\n%2")
                                   .arg(m_production.controller().profile().manualRestoreCommand, reason));
     });
+    QObject::connect(&m_alerts, &Alerts::told, this, showNotice);
+    QObject::connect(&m_production.controller(), &TorController::phaseChanged, this,
+                     [this] { keepAwake(m_production.controller().phase() != ConnectionPhase::disconnected); });
     joinDeparture();
 }
 
@@ -93,8 +97,12 @@ Result<void, QString> Application::start(bool hidden, bool connectNow)
     QObject::connect(&m_trayHost, &TrayHost::changed, this, &Application::onTrayHostChanged);
     QObject::connect(&m_trayHost, &TrayHost::missing, this, &Application::onTrayHostMissing);
     onTrayHostChanged();
+    whenReopened([this] { m_windows.open(QStringLiteral("main")); });
     if (!hidden)
-        m_windows.open(QStringLiteral("main"));
+        whenLaunched([this](bool atLogin) {
+            if (!atLogin)
+                m_windows.open(QStringLiteral("main"));
+        });
     begin(connectNow);
     return {};
 }

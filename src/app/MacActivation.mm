@@ -1,8 +1,58 @@
 #include "app/Activation.h"
 
 #import <AppKit/AppKit.h>
+#import <UserNotifications/UserNotifications.h>
+
+#include <utility>
+
+// Compiled without automatic reference counting. What is made here lives as long as the program.
+
+@interface VeldmarkEvents : NSObject {
+@public
+    std::function<void(bool)> launched;
+    std::function<void()> reopened;
+}
+- (void)didLaunch:(NSNotification *)notification;
+- (void)reopen:(NSAppleEventDescriptor *)event withReply:(NSAppleEventDescriptor *)reply;
+@end
+
+@implementation VeldmarkEvents
+
+// The event that started the program is the current one now, and only now.
+- (void)didLaunch:(NSNotification *)notification
+{
+    (void)notification;
+    NSAppleEventManager *const manager = [NSAppleEventManager sharedAppleEventManager];
+    NSAppleEventDescriptor *const event = [manager currentAppleEvent];
+    const bool atLogin = [event eventID] == kAEOpenApplication
+        && [[event paramDescriptorForKeyword:keyAEPropData] enumCodeValue] == keyAELaunchedAsLogInItem;
+    // AppKit has set its own by now.
+    [manager setEventHandler:self andSelector:@selector(reopen:withReply:) forEventClass:kCoreEventClass andEventID:kAEReopenApplication];
+    if (const auto then = std::exchange(launched, nullptr))
+        then(atLogin);
+}
+
+- (void)reopen:(NSAppleEventDescriptor *)event withReply:(NSAppleEventDescriptor *)reply
+{
+    (void)event;
+    (void)reply;
+    if (reopened)
+        reopened();
+}
+
+@end
 
 namespace veldmark {
+
+namespace {
+
+VeldmarkEvents *events()
+{
+    static VeldmarkEvents *const own = [[VeldmarkEvents alloc] init];
+    return own;
+}
+
+} // namespace
 
 // The bundle says the same in its Info.plist (LSUIElement); this is for the program in a build tree.
 void becomeMenuBarProgram()
@@ -16,6 +66,56 @@ void comeToFront()
 {
     @autoreleasepool {
         [[NSApplication sharedApplication] activateIgnoringOtherApps:YES];
+    }
+}
+
+void whenLaunched(std::function<void(bool atLogin)> then)
+{
+    @autoreleasepool {
+        events()->launched = std::move(then);
+        [[NSNotificationCenter defaultCenter] addObserver:events()
+                                                 selector:@selector(didLaunch:)
+                                                     name:NSApplicationDidFinishLaunchingNotification
+                                                   object:nil];
+    }
+}
+
+void whenReopened(std::function<void()> then)
+{
+    events()->reopened = std::move(then);
+}
+
+void keepAwake(bool on)
+{
+    static id activity = nil;
+    @autoreleasepool {
+        if (on && !activity) {
+            activity = [[[NSProcessInfo processInfo] beginActivityWithOptions:NSActivityUserInitiatedAllowingIdleSystemSleep
+                                                                       reason:@"Watches the connection to Tor"] retain];
+        } else if (!on && activity) {
+            [[NSProcessInfo processInfo] endActivity:activity];
+            [activity release];
+            activity = nil;
+        }
+    }
+}
+
+// The system asks the user once whether notifications may be shown, and drops them where the answer is no.
+void showNotice(const QString &title, const QString &text)
+{
+    @autoreleasepool {
+        UNUserNotificationCenter *const center = [UNUserNotificationCenter currentNotificationCenter];
+        UNMutableNotificationContent *const content = [[[UNMutableNotificationContent alloc] init] autorelease];
+        [content setTitle:[NSString stringWithUTF8String:title.toUtf8().constData()]];
+        [content setBody:[NSString stringWithUTF8String:text.toUtf8().constData()]];
+        UNNotificationRequest *const request = [UNNotificationRequest requestWithIdentifier:[[NSUUID UUID] UUIDString]
+                                                                                    content:content
+                                                                                    trigger:nil];
+        [center requestAuthorizationWithOptions:UNAuthorizationOptionAlert
+                              completionHandler:^(BOOL granted, NSError *) {
+                                  if (granted)
+                                      [center addNotificationRequest:request withCompletionHandler:nil];
+                              }];
     }
 }
 

@@ -20,6 +20,9 @@ Result<void, QString> LoginItem::set(bool on) const
         SMAppService *const service = [SMAppService mainAppService];
         if (on == isSet())
             return {};
+        // The system runs a bundle that came from the network from a place of its own, which is another one each time.
+        if (on && QString::fromUtf8([[[NSBundle mainBundle] bundlePath] UTF8String]).contains(QLatin1String("/AppTranslocation/")))
+            return Failure(QCoreApplication::translate("LoginItem", "Move Veldmark to the Applications folder and open it from there first."));
         NSError *error = nil;
         const BOOL done = on ? [service registerAndReturnError:&error] : [service unregisterAndReturnError:&error];
         if (done)

@@ -11,21 +11,36 @@
 
 namespace veldmark {
 
-Tray::Tray(Session &session) : m_panel(session)
+Tray::Place Tray::place()
+{
+#ifdef Q_OS_MACOS
+    return Place::menuBar;
+#else
+    return Place::tray;
+#endif
+}
+
+Tray::Tray(Session &session, Place where) : m_place(where), m_panel(session)
 {
     QObject::connect(m_menu.addAction(tr("Open Veldmark")), &QAction::triggered, this, &Tray::openWanted);
     m_power = m_menu.addAction(QString());
     QObject::connect(m_power, &QAction::triggered, &m_panel, &PanelModel::pressPower);
     m_menu.addSeparator();
     QObject::connect(m_menu.addAction(tr("Quit")), &QAction::triggered, this, &Tray::quitWanted);
-    m_icon.setContextMenu(&m_menu);
-    QObject::connect(&m_icon, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
-        if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
-            Q_EMIT panelWanted();
-    });
+    if (m_place == Place::tray)
+        m_icon.setContextMenu(&m_menu);
+    QObject::connect(&m_icon, &QSystemTrayIcon::activated, this, &Tray::onActivated);
     QObject::connect(&m_panel, &PanelModel::changed, this, &Tray::update);
     update();
     m_icon.show();
+}
+
+void Tray::onActivated(QSystemTrayIcon::ActivationReason reason)
+{
+    if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
+        Q_EMIT panelWanted();
+    else if (reason == QSystemTrayIcon::Context && m_place == Place::menuBar)
+        m_menu.popup(anchor().bottomLeft());
 }
 
 bool Tray::groundIsDark()
@@ -66,6 +81,15 @@ QIcon Tray::icon(const QString &symbol, bool onDark)
     return icon;
 }
 
+QIcon Tray::mask(const QString &symbol)
+{
+    QIcon icon;
+    for (const int pixels : {16, 18, 32, 36})
+        icon.addPixmap(QPixmap::fromImage(Symbols::image(symbol, pixels, Qt::black)));
+    icon.setIsMask(true);
+    return icon;
+}
+
 QRect Tray::anchor() const
 {
     const QRect place = m_icon.geometry();
@@ -77,7 +101,7 @@ void Tray::update()
     const bool dark = groundIsDark();
     const QString wanted = m_panel.symbol() + (dark ? u'd' : u'l');
     if (std::exchange(m_shown, wanted) != wanted)
-        m_icon.setIcon(icon(m_panel.symbol(), dark));
+        m_icon.setIcon(m_place == Place::menuBar ? mask(m_panel.symbol()) : icon(m_panel.symbol(), dark));
     const QString tip = QStringLiteral("Veldmark: ") + m_panel.title();
     if (m_icon.toolTip() != tip)
         m_icon.setToolTip(tip);

@@ -14,13 +14,20 @@ class Tray : public QObject {
     Q_OBJECT
 
 public:
+    // Where the icon stands: in a tray, or in the menu bar of a Mac, which colours it by itself and opens a menu that it
+    // knows of with every click.
+    enum class Place { tray, menuBar };
+    static Place place();
+
     // `session` must outlive the tray. Not before TrayHost tells of a host.
-    explicit Tray(Session &session);
+    explicit Tray(Session &session, Place where = place());
 
     QRect anchor() const; // where the icon is, as far as the desktop tells
 
     // Every size in which trays ask for it.
     static QIcon icon(const QString &symbol, bool onDark);
+    // A shape alone, for a place that colours it.
+    static QIcon mask(const QString &symbol);
 
 Q_SIGNALS:
     void panelWanted();
@@ -31,6 +38,9 @@ private:
     void update();
     static bool groundIsDark();
 
+    void onActivated(QSystemTrayIcon::ActivationReason reason);
+
+    Place m_place;
     PanelModel m_panel;
     QMenu m_menu;
     QSystemTrayIcon m_icon{this};

@@ -16,7 +16,7 @@ using Done = Result<void, DownloadError>;
 const QString cancelledText = QStringLiteral("Cancelled.");
 
 // Touches nothing but the source afterwards, so the task may be dropped.
-QCoro::Task<void> stopAfter(Clock *clock, std::chrono::milliseconds limit, std::stop_source source)
+QCoro::Task<void> stopAfter(Clock *clock, std::chrono::milliseconds limit, StopSource source)
 {
     co_await clock->sleep(limit);
     source.request_stop();
@@ -37,7 +37,7 @@ void BundleTools::cancel()
 
 QCoro::Task<BundleTools::Run> BundleTools::run(std::shared_ptr<BundleTools> tools, QString program,
                                                QStringList arguments, std::chrono::milliseconds limit,
-                                               std::stop_source current)
+                                               StopSource current)
 {
     if (!tools->m_runner)
         co_return Failure(cancelledText);
@@ -60,7 +60,7 @@ QCoro::Task<Result<qint64, DownloadError>> BundleTools::verify(std::shared_ptr<B
         co_return Failure(DownloadError::other(cancelledText));
     const QStringList import = {QStringLiteral("--homedir"), home, QStringLiteral("--batch"),
                                 QStringLiteral("--quiet"), QStringLiteral("--import"), key};
-    tools->m_current = std::stop_source();
+    tools->m_current = StopSource();
     auto importing = run(tools, tools->m_gpg, import, gnupgLimit, tools->m_current);
     const Run imported = co_await importing;
     if (tools->m_isCancelled)
@@ -72,7 +72,7 @@ QCoro::Task<Result<qint64, DownloadError>> BundleTools::verify(std::shared_ptr<B
     const QStringList check = {QStringLiteral("--homedir"), home, QStringLiteral("--batch"),
                                QStringLiteral("--status-fd"), QStringLiteral("1"), QStringLiteral("--verify"),
                                signature, archive};
-    tools->m_current = std::stop_source();
+    tools->m_current = StopSource();
     auto checking = run(tools, tools->m_gpg, check, gnupgLimit, tools->m_current);
     const Run checked = co_await checking;
     if (tools->m_isCancelled)
@@ -92,7 +92,7 @@ QCoro::Task<Done> BundleTools::unpack(std::shared_ptr<BundleTools> tools, QStrin
     // A process that is root must not take the archive's owners over: they are somebody else's here.
     const QStringList extract = {QStringLiteral("-xzf"), archive, QStringLiteral("-C"), folder,
                                  QStringLiteral("--no-same-owner"), QStringLiteral("--no-same-permissions")};
-    tools->m_current = std::stop_source();
+    tools->m_current = StopSource();
     auto extracting = run(tools, tools->m_tar, extract, unpackLimit, tools->m_current);
     const Run extracted = co_await extracting;
     if (tools->m_isCancelled)
@@ -108,7 +108,7 @@ QCoro::Task<void> BundleTools::endAgent(std::shared_ptr<BundleTools> tools, QStr
         co_return;
     const QString gpgconf = QFileInfo(tools->m_gpg).absolutePath() + QStringLiteral("/gpgconf");
     const QStringList kill = {QStringLiteral("--homedir"), home, QStringLiteral("--kill"), QStringLiteral("all")};
-    const std::stop_source uncancelled;
+    const StopSource uncancelled;
     auto killing = run(tools, gpgconf, kill, gnupgLimit, uncancelled);
     const Run killed = co_await killing;
     if (!killed)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "base/StopToken.h"
 #include "bridges/DownloadError.h"
 
 #include <QString>
@@ -10,7 +11,6 @@
 
 #include <chrono>
 #include <memory>
-#include <stop_token>
 
 // Private to the room.
 namespace veldmark {
@@ -54,13 +54,13 @@ private:
     using Run = Result<ProcessResult, QString>;
     // cancel() ends the program only when it is told how by `current`.
     static QCoro::Task<Run> run(std::shared_ptr<BundleTools> tools, QString program, QStringList arguments,
-                                std::chrono::milliseconds limit, std::stop_source current);
+                                std::chrono::milliseconds limit, StopSource current);
 
     ProcessRunner *m_runner;
     Clock &m_clock;
     const QString m_tar;
     const QString m_gpg;
-    std::stop_source m_current{std::nostopstate}; // ends what verify() or unpack() has started
+    StopSource m_current; // ends what verify() or unpack() has started
     bool m_isCancelled = false;
 };
 

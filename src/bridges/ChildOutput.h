@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/StopToken.h"
+
 #include <QByteArray>
 #include <QProcessEnvironment>
 #include <QString>
@@ -8,7 +10,6 @@
 #include <chrono>
 #include <functional>
 #include <optional>
-#include <stop_token>
 
 // Private to the room.
 namespace veldmark {
@@ -16,7 +17,7 @@ namespace veldmark {
 struct ChildLimits {
     std::chrono::milliseconds time;
     qsizetype outputBytes;
-    std::stop_token ended = {}; // nobody wants the output any more
+    StopToken ended = {}; // nobody wants the output any more
 };
 
 // Runs a program with an empty standard input that stays open, reads its standard output until it

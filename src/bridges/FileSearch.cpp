@@ -25,7 +25,7 @@ bool isFolder(const QByteArray &path)
 
 } // namespace
 
-QStringList filesNamed(const QString &root, const QByteArrayList &names, const std::stop_token &ended)
+QStringList filesNamed(const QString &root, const QByteArrayList &names, const StopToken &ended)
 {
     const QByteArray top = QFile::encodeName(root);
     std::vector<QByteArray> found; // relative to the root

@@ -73,7 +73,7 @@ bool isAnnouncementComplete(QByteArrayView output)
 }
 
 std::optional<QStringList> answeredTransports(const QString &program, const QStringList &asked,
-                                              std::chrono::milliseconds limit, const std::stop_token &ended)
+                                              std::chrono::milliseconds limit, const StopToken &ended)
 {
     if (::geteuid() == 0 && !isRootsOwn(program))
         return std::nullopt;
@@ -103,7 +103,7 @@ std::optional<QStringList> answeredTransports(const QString &program, const QStr
 }
 
 QStringList servedTransports(const QString &program, const QStringList &asked,
-                             std::chrono::milliseconds limit, const std::stop_token &ended)
+                             std::chrono::milliseconds limit, const StopToken &ended)
 {
     return answeredTransports(program, asked, limit, ended).value_or(QStringList());
 }

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "base/StopToken.h"
+
 #include <QByteArrayView>
 #include <QString>
 #include <QStringList>
 
 #include <chrono>
 #include <optional>
-#include <stop_token>
 
 // What a transport program says about itself when it is started the way Tor starts it.
 namespace veldmark {
@@ -21,10 +22,10 @@ namespace veldmark {
 // above it; otherwise the answer is empty.
 QStringList servedTransports(const QString &program, const QStringList &asked,
                              std::chrono::milliseconds limit = std::chrono::seconds(5),
-                             const std::stop_token &ended = {});
+                             const StopToken &ended = {});
 // The same, and tells a program that serves none of them from one that gave no whole answer: absent.
 std::optional<QStringList> answeredTransports(const QString &program, const QStringList &asked,
-                                              std::chrono::milliseconds limit, const std::stop_token &ended);
+                                              std::chrono::milliseconds limit, const StopToken &ended);
 
 // The transports whose listener the output of a managed proxy announces ("CMETHOD name version
 // address"), in its order; ones that it reports an error for are not among them.

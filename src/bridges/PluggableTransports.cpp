@@ -41,7 +41,7 @@ QByteArray readFile(const QString &path)
 }
 
 std::optional<QMap<QString, QStringList>> bridgesOfArchive(const QString &unzip, const QString &archive,
-                                                           const std::stop_token &ended)
+                                                           const StopToken &ended)
 {
     // Options of unzip that the user has set for himself would change what it prints.
     QProcessEnvironment environment;
@@ -59,7 +59,7 @@ std::optional<QMap<QString, QStringList>> bridgesOfArchive(const QString &unzip,
 // that counts says that it serves snowflake.
 class Search {
 public:
-    Search(QString unzip, std::stop_token ended, TransportMemory &memory, bool mayAsk)
+    Search(QString unzip, StopToken ended, TransportMemory &memory, bool mayAsk)
         : m_unzip(std::move(unzip)), m_ended(std::move(ended)), m_memory(memory), m_mayAsk(mayAsk)
     {
     }
@@ -148,7 +148,7 @@ private:
     }
 
     QString m_unzip;
-    std::stop_token m_ended;
+    StopToken m_ended;
     TransportMemory &m_memory;
     bool m_mayAsk;
     PluggableTransports m_found;
@@ -186,7 +186,7 @@ Result<QStringList, BridgeError> PluggableTransports::builtinLines(BridgeChoice 
 
 PluggableTransports PluggableTransports::locate(const PlatformProfile &profile,
                                                 std::optional<QString> bundleVersion,
-                                                const std::stop_token &ended, TransportMemory *memory,
+                                                const StopToken &ended, TransportMemory *memory,
                                                 bool mayAsk)
 {
     TransportMemory none;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "base/StopToken.h"
 #include "bridges/BridgeChoice.h"
 #include "bridges/BridgeError.h"
 #include "platform/PlatformProfile.h"
@@ -11,7 +12,6 @@
 #include <QStringList>
 
 #include <optional>
-#include <stop_token>
 
 namespace veldmark {
 
@@ -61,7 +61,7 @@ struct PluggableTransports {
     // program is started: lyrebird counts for snowflake when its place or the memory says so.
     static PluggableTransports locate(const PlatformProfile &profile,
                                       std::optional<QString> bundleVersion = std::nullopt,
-                                      const std::stop_token &ended = {}, TransportMemory *memory = nullptr,
+                                      const StopToken &ended = {}, TransportMemory *memory = nullptr,
                                       bool mayAsk = true);
 
     friend bool operator==(const PluggableTransports &, const PluggableTransports &) = default;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/ResumeOnce.h"
+#include "base/StopToken.h"
 #include "bridges/PluggableTransports.h"
 #include "bridges/TransportMemory.h"
 #include "platform/PlatformProfile.h"
@@ -10,7 +11,6 @@
 #include <list>
 #include <memory>
 #include <optional>
-#include <stop_token>
 
 namespace veldmark {
 
@@ -38,7 +38,7 @@ private:
 
     const PlatformProfile m_profile;
     const std::shared_ptr<TransportMemory> m_memory = std::make_shared<TransportMemory>(); // outlives this in searches
-    std::stop_source m_ended;
+    StopSource m_ended;
     const std::shared_ptr<Waits> m_waits = std::make_shared<Waits>(); // outlives this in those who wait
 };
 

@@ -9,6 +9,7 @@
 #include <fcntl.h>
 #include <net/if.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace veldmark {
 

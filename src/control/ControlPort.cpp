@@ -133,7 +133,7 @@ ControlPort::captureResolves(QString password, Milliseconds duration, Work work,
     // The port is still there, or else the connection would have been aborted; so is the clock.
     session.liftLimit();
 
-    std::stop_source stop;
+    StopSource stop;
     const auto running = work(stop.get_token());
     const QStringList lines = co_await session->collectEvents(clock, duration);
     stop.request_stop();

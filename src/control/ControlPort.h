@@ -2,6 +2,7 @@
 
 #include "base/Clock.h"
 #include "base/Result.h"
+#include "base/StopToken.h"
 #include "control/ControlPortError.h"
 
 #include <QHash>
@@ -10,7 +11,6 @@
 
 #include <functional>
 #include <optional>
-#include <stop_token>
 #include <vector>
 
 #include <sys/types.h>
@@ -36,7 +36,7 @@ public:
     using Reply = QStringList; // all the lines of one reply, in order, without line ends
     using Values = QHash<QString, QString>;
     // Work that is run during a capture. It is asked to stop when the capture ends.
-    using Work = std::function<QCoro::Task<void>(std::stop_token)>;
+    using Work = std::function<QCoro::Task<void>(StopToken)>;
     template <typename T>
     using Outcome = QCoro::Task<Result<T, ControlPortError>>;
 

@@ -18,7 +18,7 @@ QCoro::Task<std::optional<QStringList>> captureResolves(ControlPort *controlPort
                                                         std::chrono::milliseconds duration,
                                                         std::function<QCoro::Task<void>()> work)
 {
-    const ControlPort::Work task = [work](std::stop_token) { return work(); };
+    const ControlPort::Work task = [work](StopToken) { return work(); };
     auto capturing = controlPort->captureResolves(password, duration, task);
     const auto hosts = co_await capturing;
     co_return hosts ? std::optional(*hosts) : std::nullopt;

@@ -44,7 +44,7 @@ Examiner::Examiner(const PlatformProfile &profile, SettingsStore &settings, Proc
 
 QCoro::Task<std::optional<ProcessResult>> Examiner::run(ProcessRunner *processes, QString program, QStringList arguments)
 {
-    std::stop_source stop;
+    StopSource stop;
     QTimer limit;
     limit.setSingleShot(true);
     QObject::connect(&limit, &QTimer::timeout, &limit, [stop]() mutable { stop.request_stop(); });

@@ -49,7 +49,7 @@ PlatformProfile PlatformProfile::macos(const Places &places)
 
     profile.torBrowserRoots = {{at("/Applications/Tor Browser.app"), QStringLiteral("Tor Browser")}};
     profile.bundleDirectory = support + QStringLiteral("/TorExpertBundle");
-    profile.bundleArchivePrefix = QStringLiteral("tor-expert-bundle-macos-aarch64-");
+    profile.bundleArchivePrefix = QStringLiteral("tor-expert-bundle-macos-%1-").arg(places.machine);
 
     profile.shellFilesAlways = {places.home + QStringLiteral("/.zshrc")};
     profile.shellFilesIfPresent = {places.home + QStringLiteral("/.bash_profile")};

@@ -74,13 +74,13 @@ QCoro::Task<Outcome> ChildProcessRunner::runWithInput(QString executable, QStrin
     return start(std::move(executable), std::move(arguments), std::nullopt, std::move(input));
 }
 
-QCoro::Task<Outcome> ChildProcessRunner::runUntil(QString executable, QStringList arguments, std::stop_token stop)
+QCoro::Task<Outcome> ChildProcessRunner::runUntil(QString executable, QStringList arguments, StopToken stop)
 {
     return start(std::move(executable), std::move(arguments), std::move(stop), std::nullopt);
 }
 
 QCoro::Task<Outcome> ChildProcessRunner::start(QString executable, QStringList arguments,
-                                               std::optional<std::stop_token> stop,
+                                               std::optional<StopToken> stop,
                                                std::optional<QByteArray> input)
 {
     if (const auto refused = refusal(executable, arguments))
@@ -114,7 +114,7 @@ QCoro::Task<Outcome> ChildProcessRunner::start(QString executable, QStringList a
         process->closeWriteChannel(); // once all of it is written
     }
 
-    std::optional<std::stop_callback<std::function<void()>>> onStop;
+    std::optional<StopCallback> onStop;
     if (stop) {
         const QPointer<QProcess> running(process);
         onStop.emplace(*stop, std::function<void()>([running] {

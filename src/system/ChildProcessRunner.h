@@ -28,12 +28,12 @@ public:
     [[nodiscard]] QCoro::Task<Result<ProcessResult, StartError>>
     runWithInput(QString executable, QStringList arguments, QByteArray input) override;
     [[nodiscard]] QCoro::Task<Result<ProcessResult, StartError>>
-    runUntil(QString executable, QStringList arguments, std::stop_token stop) override;
+    runUntil(QString executable, QStringList arguments, StopToken stop) override;
 
 private:
     // Without `stop` the child stays in this process's group and session, without `input` its input is ours.
     QCoro::Task<Result<ProcessResult, StartError>> start(QString executable, QStringList arguments,
-                                                         std::optional<std::stop_token> stop,
+                                                         std::optional<StopToken> stop,
                                                          std::optional<QByteArray> input);
     QObject m_lifetime; // its destroyed() ends the waits
 };

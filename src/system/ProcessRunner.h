@@ -1,13 +1,12 @@
 #pragma once
 
 #include "base/Result.h"
+#include "base/StopToken.h"
 
 #include <QString>
 #include <QStringList>
 
 #include <qcorotask.h>
-
-#include <stop_token>
 
 #include <cstdio> // may define stdout and stderr as macros: so every user sees the same names
 
@@ -53,7 +52,7 @@ public:
     // every process that it has started are killed; the run has then ended by that signal. The
     // program has no terminal. What stands here is for stand-ins, whose programs end by themselves.
     [[nodiscard]] virtual QCoro::Task<Result<ProcessResult, StartError>>
-    runUntil(QString executable, QStringList arguments, std::stop_token stop)
+    runUntil(QString executable, QStringList arguments, StopToken stop)
     {
         Q_UNUSED(stop)
         return run(std::move(executable), std::move(arguments));

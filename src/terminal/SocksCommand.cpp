@@ -16,7 +16,7 @@ namespace {
 constexpr qsizetype usageLimitBytes = 64 * 1024;
 
 // What a program prints about itself, on either channel; empty when it does not end within 2 s, or nobody wants to know.
-QByteArray usage(const QString &program, const QString &option, const std::stop_token &ended)
+QByteArray usage(const QString &program, const QString &option, const StopToken &ended)
 {
     if (ended.stop_requested() || !QFileInfo(program).isExecutable())
         return {};
@@ -58,7 +58,7 @@ bool isSocksNcat(const QByteArray &usage)
     return usage.contains("--proxy-type") && usage.contains("--proxy-dns");
 }
 
-std::optional<QString> socksCommand(const PlatformProfile &profile, const std::stop_token &ended)
+std::optional<QString> socksCommand(const PlatformProfile &profile, const StopToken &ended)
 {
     if (!profile.netcat.isEmpty())
         return netcatCommand(profile.netcat);
@@ -123,7 +123,7 @@ QCoro::Task<void> SocksSearch::ask()
     const ResumeOnce<std::optional<QString>> answer;
     const auto wait = state->waits.insert(state->waits.end(), answer);
     const QString asked = signature();
-    const std::stop_token ended = m_ended.get_token();
+    const StopToken ended = m_ended.get_token();
     const bool isFirst = !std::exchange(state->isRunning, true);
     if (isFirst)
         QThreadPool::globalInstance()->start(

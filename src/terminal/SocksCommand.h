@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/ResumeOnce.h"
+#include "base/StopToken.h"
 #include "platform/PlatformProfile.h"
 
 #include <QByteArray>
@@ -11,7 +12,6 @@
 #include <list>
 #include <memory>
 #include <optional>
-#include <stop_token>
 
 // The program that ssh uses to reach Tor's SOCKS port.
 namespace veldmark {
@@ -20,7 +20,7 @@ namespace veldmark {
 // when no program here speaks SOCKS and leaves the look-up of names to the proxy. A Mac has one;
 // elsewhere the programs in the usual places are asked what they can do, which blocks for as long
 // as it takes to start them. Any thread; an end that is asked for ends it with nothing.
-std::optional<QString> socksCommand(const PlatformProfile &profile, const std::stop_token &ended = {});
+std::optional<QString> socksCommand(const PlatformProfile &profile, const StopToken &ended = {});
 
 // Asks the programs on a thread of its own, and remembers the answer until one of their files changes. Main thread.
 class SocksSearch {
@@ -47,7 +47,7 @@ private:
     QString signature() const; // changes with the programs' files; empty: there is none of them
 
     const PlatformProfile m_profile;
-    std::stop_source m_ended;
+    StopSource m_ended;
     const std::shared_ptr<State> m_state = std::make_shared<State>(); // outlives this in those who wait
 };
 

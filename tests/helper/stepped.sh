@@ -15,7 +15,7 @@ is_change() {
   case $1 in
   "timeout -k 1 \"\$1\" head "*) return 1 ;; # take_output only reads, beside what it reads from
   mkdir\ * | mv\ * | rm\ * | rmdir\ * | chmod\ * | chown\ * | mount\ * | umount\ * | useradd\ * | kill\ * | nft\ -f* | "nft delete "*) ;;
-  'networksetup "$@"'* | pfctl\ -q* | "exec pfctl"* | launchctl\ boot* | dscl\ .\ -create*) ;;
+  'networksetup "$@"'* | pfctl\ -q* | "exec pfctl"* | launchctl\ boot* | 'perl -e "$PUT"'* | dscl\ .\ -create*) ;;
   timeout\ * | "sync -- \"\$1\"" | :\ \>*) ;;
   *) return 1 ;;
   esac

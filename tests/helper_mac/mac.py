@@ -1,13 +1,14 @@
 """A private machine that looks like a Mac to the root helper.
 
 Its root is an overlay over this system's, so nothing outside changes. The folders are a Mac's, the programs that only
-Linux has are gone, and those that only a Mac has are the stand-ins of standins.pl, which keep their state in /mac. Tor is
-the real one, with `DisableNetwork 1`. What a real Mac would say or do beyond that is not shown here.
+Linux has are gone, those that only a Mac has are stand-ins (standins/server.pl), which keep their state in /mac, and those
+that both have refuse what a Mac's would (standins/program.c). Tor is the real one, with `DisableNetwork 1`. What a real Mac would say or do beyond that is not shown here.
 """
 
 import fcntl
 import os
 import shutil
+import subprocess
 import sys
 
 HERE = os.path.dirname(os.path.abspath(__file__))
@@ -18,6 +19,7 @@ from namespace import HASH, TOR, USER_UID, HelperTest, main  # noqa: E402,F401
 
 STAND_INS = ("uname sync mv killall ifconfig sysctl stat ls scutil dscacheutil dscl networksetup launchctl lsof "
              "pfctl df mount").split()
+BSD = ("perl cat chmod chown cp date env grep head id ln mkdir mktemp readlink rm rmdir sed shasum sleep sort tail touch tr wc xargs").split()
 ONLY_LINUX = "flock timeout setpriv unshare setsid getent sha256sum nft umount ip ss gsettings pkexec useradd".split()
 
 SETUP = """
@@ -36,6 +38,7 @@ for name in %(linux)s %(names)s; do
     [ ! -e $place/$name ] || mv $place/$name mac/gnu/$name
   done
 done
+for name in %(names)s; do ln -s /mac/program usr/bin/$name; done
 rm -rf var/db var/lib/veldmark run/veldmark*
 ln -s /private/var/db var/db
 printf '127.0.0.1\\tlocalhost\\n::1\\tlocalhost' >private_hosts
@@ -48,7 +51,7 @@ mkdir -p home/alice && chown %(uid)s:%(uid)s home/alice && chmod 755 home home/a
 pivot_root . mnt
 /mac/gnu/umount -l /mnt
 cd /
-""" % {"linux": " ".join(ONLY_LINUX), "names": " ".join(STAND_INS), "uid": USER_UID}
+""" % {"linux": " ".join(ONLY_LINUX), "names": " ".join(STAND_INS + BSD), "uid": USER_UID}
 
 SERVICES = {   # what each has before; the second is of letters that need care
     "Wi-Fi": {"dns": "192.0.2.53\n2001:db8::53", "bypass": "*.local\n169.254/16"},
@@ -61,6 +64,7 @@ SERVICES = {   # what each has before; the second is of letters that need care
 
 BEFORE_PF = {
     "pf  filter": 'scrub-anchor "com.apple/*" all fragment reassemble\nanchor "com.apple/*" all',
+    "pf  dummynet": 'dummynet-anchor "com.apple/*" all',
     "pf  nat": 'nat-anchor "com.apple/*" all\nrdr-anchor "com.apple/*" all',
     "pf tokens": "77 socketfilterfw 18446743524953000000",
     "pf enabled": "1",
@@ -85,8 +89,11 @@ class Mac(namespace.Machine):
         source = self.helper
         self.helper = "/Applications/Veldmark.app/Contents/Resources/veldmark-helper.sh"
         self.place(source, self.helper)
-        for name in STAND_INS:
-            self.place(os.path.join(HERE, "standins.pl"), f"/usr/bin/{name}")
+        subprocess.run(["cc", "-O1", "-static", "-Wall", "-Wextra", "-Werror", "-o", self.root + "/mac/program",
+                        os.path.join(HERE, "standins", "program.c")], check=True)
+        for part in "server.pl", "launchd.pl", "pf.pl":
+            self.place(os.path.join(HERE, "standins", part), "/mac/" + part)
+        self.run("/mac/gnu/perl", "/mac/server.pl")
         self.reset()
 
     def command(self, words, uid=0):
@@ -122,7 +129,7 @@ class Mac(namespace.Machine):
         os.rename(self.root + "/mac/state.test", self.root + "/mac/state")
 
     def end_watcher(self):
-        self.run("/usr/bin/launchctl", "bootout", "system/veldmark.watch")
+        self.shell("launchctl bootout system/veldmark.watch; while launchctl list veldmark.watch; do sleep 0.02; done")
 
     def set_state(self, values):
         """Changes some of it at once, kept apart from the stand-ins that run meanwhile."""
@@ -137,7 +144,7 @@ class Mac(namespace.Machine):
     def reset(self):
         """A Mac before its first connect."""
         state = {
-            "boot": "11111111-2222-3333-4444-555555555555", "location": "Automatic", "console": str(USER_UID),
+            "primary": "Wi-Fi", "boot": "11111111-2222-3333-4444-555555555555", "location": "Automatic", "console": str(USER_UID),
             f"user {USER_UID}": f"alice {USER_UID} /home/alice", "user 0": "root 0 /var/root",
             "services Automatic": "\n".join(SERVICES), **BEFORE_PF,
             "record /Users/alice": "1", "record /Users/alice UniqueID": str(USER_UID),
@@ -169,7 +176,7 @@ class Mac(namespace.Machine):
     def restart(self):
         """What a restart of the computer leaves: settings and files, but no rules, jobs and processes."""
         state = self.state
-        for key in [key for key in state if key.startswith(("job ", "pf "))]:
+        for key in [key for key in state if key.startswith(("job ", "pf ", "spawning ", "leaving ", "settling "))]:
             if key.startswith("job "):
                 self.shell(f"kill -9 {state[key]} || true")
             del state[key]
@@ -183,7 +190,7 @@ class Mac(namespace.Machine):
     def settings(self):
         """What a session may change and must put back. Accounts stay, and so do counters."""
         state = {key: value for key, value in self.state.items()
-                 if not key.startswith(("record ", "pf flushes", "pf last token", "dns flushed", "cache flushed"))}
+                 if not key.startswith(("record ", "settling ", "pf flushes", "pf last token", "dns flushed", "cache flushed"))}
         # A list that was empty and one that was never set are the same to networksetup.
         state = {key: value for key, value in state.items()
                  if not (key.startswith("service ") and value in ("", "No\t\t0", "No\t(null)", "Off"))}
@@ -198,7 +205,7 @@ class Mac(namespace.Machine):
         packet = {"af": "inet", "source": "198.51.100.7", "to": "203.0.113.5", "sport": "50000", "port": "443", "user": "501",
                   "group": "20", "kind": "", **{key: str(value) for key, value in packet.items()}}
         state = self.state
-        if state.get("pf enabled") != "1":
+        if state.get("pf enabled") != "1" or device in state.get("pf skip", "").split():
             return "pass"
         for line in state["pf  filter"].splitlines():
             if line == 'anchor "veldmark" all':

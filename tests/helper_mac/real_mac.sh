@@ -1,32 +1,74 @@
 #!/bin/bash
-# real_mac.sh --change-this-mac HELPER: runs the root helper on this very Mac and looks whether it does what it should and
-# puts everything back. It switches the network of the machine: only for one that may be thrown away. Needs root, and
-# Homebrew's tor, which is kept off the network (DisableNetwork 1).
-# shellcheck disable=SC2317   # what check() is given to call
+# real_mac.sh --change-this-mac HELPER [--person APPLICATION]: the first hour on a Mac. It asks the system what nobody without one could
+# know, runs the root helper on this very Mac, looks whether it does what it should and puts everything back, and ends in a table
+# that can be sent back. It switches the network of the machine: only for one that may be thrown away. Needs root, and Homebrew's tor.
+#
+# Without --person nobody has to sit there, and tor is kept off the network (DisableNetwork 1). With it the real Tor runs, and somebody
+# looks at what a program cannot see: a download of Safari's, and the camera of APPLICATION (a path that ends in .app).
+# It may be stopped at any point (Ctrl-C): what it changed is put back then, too.
+#
+# Lines: "ok" and "FAILED" are what has to be so; "answer" is a question that decides something, with what it decides.
+# shellcheck disable=SC2317   # what check() and ask() are given to call
 set -u
-[[ ${1-} == --change-this-mac && -f ${2-} && $EUID == 0 && $(uname -s) == Darwin ]] || {
-  echo "usage, as root on a Mac that may be thrown away: real_mac.sh --change-this-mac HELPER" >&2
+[[ ${1-} == --change-this-mac && -f ${2-} && $EUID == 0 && $(uname -s) == Darwin && (-z ${3-} || (${3-} == --person && ${4-} == *.app)) ]] || {
+  echo "usage, as root on a Mac that may be thrown away: real_mac.sh --change-this-mac HELPER [--person APPLICATION.app]" >&2
   exit 2
 }
-helper=$2 failed=0
+helper=$2 person=${4-} failed=0
 hash=16:0123456789ABCDEF0123456789ABCDEF0123456789ABCDEF0123456789
 for tor in /opt/homebrew/bin/tor /usr/local/bin/tor; do
   [[ ! -x $tor ]] || break
 done
-prefix=${tor%/bin/tor}
-mkdir -p "$prefix/etc/tor"
-echo "DisableNetwork 1" >"$prefix/etc/tor/torrc-defaults"
-work=$(mktemp -d)
-trap '/bin/bash "$helper" disconnect; rm -rf "$work"' EXIT
+defaults=${tor%/bin/tor}/etc/tor/torrc-defaults
+work=$(mktemp -d) || exit 1
+: >"$work/table"
+
+exec 3>&1 4>&2
+restore() {
+  exec >&3 2>&4   # it may have been stopped while a question's answer went to a file
+  /bin/bash "$helper" disconnect
+  [[ ! -f $work/mine ]] || rm -f "$defaults"
+  if [[ -f $work/service ]]; then networksetup -setsocksfirewallproxystate "$(cat "$work/service")" off; fi
+  echo
+  echo "---- the table, to be sent back with the versions below ----"
+  cat "$work/table"
+  sw_vers 2>/dev/null
+  uname -m 2>/dev/null
+  rm -rf "$work"
+}
+trap restore EXIT
+trap 'exit 130' INT TERM HUP
 
 # As somebody at the screen would run it; the runner's own session is sudo's.
 help() { env -u SUDO_UID /bin/bash "$helper" "$@"; }
 
+say() { echo "$1"; echo "$1" >>"$work/table"; }
+
 check() {
   local text=$1
   shift
-  if "$@"; then echo "ok      $text"; else echo "FAILED  $text"; failed=1; fi
+  if "$@"; then say "ok      $text"; else say "FAILED  $text"; failed=1; fi
 }
+
+# ask QUESTION DECIDES COMMAND...: the answer is the first lines of what the command says, and its status.
+ask() {
+  local question=$1 decides=$2 status=0
+  shift 2
+  "$@" >"$work/answer" 2>&1 || status=$?
+  say "answer  $question -> status $status: $(head -n 3 "$work/answer" | tr '\n' '|')"
+  say "        decides: $decides"
+}
+
+# look QUESTION DECIDES: what only somebody who sits there can tell.
+look() {
+  local answer=''
+  [[ -n $person ]] || return 0
+  read -r -p "$1 (y/n) " answer
+  say "answer  $1 -> $answer"
+  say "        decides: $2"
+}
+
+active_services() { networksetup -listallnetworkservices | tail -n +2 | grep -v '^\*'; }
 
 snapshot() {
   local service get
@@ -37,33 +79,89 @@ snapshot() {
       networksetup "-get$get" "${service#\*}"
     done
   done
-  pfctl -s rules 2>/dev/null
-  pfctl -s nat 2>/dev/null
+  for get in rules nat dummynet; do pfctl -s "$get" 2>/dev/null; done
   pfctl -s info 2>/dev/null | grep -o '^Status: [A-Za-z]*'
   pfctl -s References 2>/dev/null | grep -c '[0-9]\{10\}'
   cat /etc/hosts
   launchctl list veldmark.tor 2>/dev/null
 }
 
-all_switched() {
-  local service
-  networksetup -listallnetworkservices | tail -n +2 | grep -v '^\*' | while IFS= read -r service; do
-    [[ $(networksetup -getdnsservers "$service") == 127.0.0.1 ]] || exit 1
-    networksetup -getsocksfirewallproxy "$service" | grep -q '^Port: 9050' || exit 1
+# ---- What the system says, without a change ----
+
+chmod_as_written() { : >"$work/file" && chmod -- 0600 "$work/file" && ! chmod 0600 -- "$work/file" 2>/dev/null; }
+stop_token() { echo '#include <stop_token>' >"$work/token.cpp" && xcrun clang++ -std=c++20 -fsyntax-only "$work/token.cpp"; }
+main_rules() {   # in the order that pf.conf(5) wants
+  pfctl -s rules | grep scrub
+  pfctl -s nat
+  pfctl -s dummynet
+  pfctl -s rules | grep -v scrub
+}
+read_back() { main_rules 2>/dev/null >"$work/main" && pfctl "$@" -f "$work/main"; }
+skipped() { pfctl -v -s Interfaces 2>/dev/null | grep skip; }
+every_getter() {
+  active_services | while IFS= read -r service; do
+    for get in dnsservers proxybypassdomains socksfirewallproxy webproxy securewebproxy autoproxyurl proxyautodiscovery; do
+      networksetup "-get$get" "$service" >"$work/getter" 2>&1 || echo "$service $get: status $?, $(head -n 1 "$work/getter")"
+    done
   done
 }
+first_service() { active_services | head -n 1; }
+empties_proxy() {
+  local service
+  service=$(first_service)
+  [[ $(networksetup -getsocksfirewallproxy "$service") == "Enabled: No"*"Server: "$'\n'* ]] || { echo "it has a proxy of its own"; return 1; }
+  echo "$service" >"$work/service"
+  networksetup -setsocksfirewallproxy "$service" '' '' off
+  networksetup -setsocksfirewallproxystate "$service" off
+  networksetup -getsocksfirewallproxy "$service"
+}
+two_addresses() { dscacheutil -q host -a name one.one.one.one; }
+primary() { scutil <<<"show State:/Network/Global/IPv4"; }
+# shellcheck disable=SC2016
+ids_under_prompt() { osascript -e 'do shell script "id -u; id -ru; launchctl managername; echo $SUDO_UID" with administrator privileges'; }
+full_sync() { perl -e 'for (@ARGV) { open(my $f, "<", $_) or die; fcntl($f, 51, 0) or print "$_: $!\n" }' "$work/file" "$work" /private/etc; }
+again_at_once() {
+  launchctl list veldmark.tor >"$work/job" 2>&1
+  echo "$(grep -c '"PID"' "$work/job") process number"
+}
 
-tor_as_itself() { pgrep -u "$(dscl . -read /Users/_veldmark UniqueID | awk '{ print $2 }')" -x tor >/dev/null; }
-reaches_out() { curl -s -o /dev/null --noproxy '*' --connect-timeout 5 https://1.1.1.1/; }
-cannot_reach_out() { ! reaches_out; }
-same() { diff "$work/before" "$work/after"; }
-
-/bin/bash -n "$helper" || exit 1
+check "the helper is one that this bash reads" /bin/bash -n "$helper"
+check "chmod takes its mode behind --, and no -- behind it" chmod_as_written
+ask "<stop_token> is in this library" "whether the small one of our own may go" stop_token
+ask "pf reads back its own main rules (-n)" "whether ours can be put among them at all" read_back -n
+ask "pf takes them back (loaded)" "whether its main rules survive being written by somebody" read_back
+ask "pf's rules for dummynet" "what loading filter rules with -R takes away; compare with the same after a session" pfctl -s dummynet
+ask "network devices that pf leaves out" "a strict session is refused where there are any" skipped
+ask "getters of a service that fail" "which services are left alone: VPN, managed ones" every_getter
+ask "a SOCKS proxy that is emptied" "whether an empty host is put back exactly" empties_proxy
+ask "a name with several addresses" "how dscacheutil separates them" two_addresses
+ask "the primary service" "which service has to be set" primary
+ask "drives and F_FULLFSYNC" "on which file systems a note outlives the power" full_sync
+[[ -z $person ]] || ask "ids and domain under the prompt" "whether the helper is root by its real id, and what of it reaches the user's session" ids_under_prompt
 for rules in "print_proxy_rules 99 501" "print_strict_rules 99 501 0 0 ''" "print_strict_rules 99 501 1 1 400"; do
   /bin/bash -p -c ". '$helper'; $rules" >"$work/rules"
   check "pf takes: $rules" pfctl -n -q -a veldmark -f "$work/rules"
 done
 
+# ---- The helper, without a network for Tor ----
+
+all_switched() {
+  local service
+  active_services | while IFS= read -r service; do
+    [[ $(networksetup -getdnsservers "$service") == 127.0.0.1 ]] || exit 1
+    networksetup -getsocksfirewallproxy "$service" | grep -q '^Port: 9050' || exit 1
+  done
+}
+tor_as_itself() { pgrep -u "$(dscl . -read /Users/_veldmark UniqueID | awk '{ print $2 }')" -x tor >/dev/null; }
+reaches_out() { curl -s -o /dev/null --noproxy '*' --connect-timeout 5 https://1.1.1.1/; }
+cannot_reach_out() { ! reaches_out; }
+same() { diff "$work/before" "$work/after"; }
+
+if [[ ! -e $defaults ]]; then
+  mkdir -p "${defaults%/*}"
+  echo "DisableNetwork 1" >"$defaults"
+  : >"$work/mine"
+fi
 help disconnect
 snapshot >"$work/before"
 check "the network is there" reaches_out
@@ -73,7 +171,10 @@ for strict in 0 1; do
   check "Tor runs in its own account" tor_as_itself
   check "our rules are loaded" test -n "$(pfctl -a veldmark -s rules 2>/dev/null)"
   check "a rule refers to them" grep -q '^anchor "veldmark"' <(pfctl -s rules 2>/dev/null)
+  ask "pf reads back its main rules with ours (-n)" "whether they can be put right while a session lasts" read_back -n
+  ask "pf's rules for dummynet in a session" "they have to be the ones of above" pfctl -s dummynet
   check "connect again" help connect --tor "$tor" --hash "$hash" --strict "$strict" --lan 0
+  ask "Tor's job right after it is begun" "how long launchd takes to tell a process number" again_at_once
   check "fix-dns" help fix-dns
   [[ $strict == 0 ]] || check "nothing gets past the kill switch" cannot_reach_out
   check "disconnect" help disconnect
@@ -81,4 +182,23 @@ for strict in 0 1; do
   check "everything is as before" same
 done
 check "the network is there again" reaches_out
+
+# ---- With the real Tor, and somebody who looks ----
+
+flows() { networkQuality -s -c & local quality=$!; nscurl https://example.com/ >/dev/null 2>&1; kill "$quality" 2>/dev/null; wait "$quality"; }
+if [[ -n $person ]]; then
+  [[ ! -f $work/mine ]] || rm -f "$defaults"
+  echo "Begin a long download in Safari now, and leave it running. Then press Return."
+  read -r
+  check "connect --strict 1 with the real Tor" help connect --tor "$tor" --hash "$hash" --strict 1 --lan 0
+  look "Does Safari's download from before stand still?" "whether flows of the user-space network stack that were open before end with pf's states"
+  look "Does a new page in Safari load, with its address shown as an exit's by check.torproject.org?" "whether the services' proxy is used"
+  ask "nscurl and networkQuality past the proxy" "whether the system's user-space network stack obeys pf" flows
+  check "nothing gets past the kill switch" cannot_reach_out
+  check "an application without Tor" env SUDO_UID="${SUDO_UID:-501}" /bin/bash "$helper" launch --uid "${SUDO_UID:-501}" --app "$person"
+  look "Can the application that was opened use camera and microphone?" "whether the launcher has to disclaim responsibility for what it starts"
+  look "Log out now in another session of fast user switching: does the logout go through while Veldmark runs there?" "whether Qt's answer to the system has to be put off"
+  check "disconnect" help disconnect
+  check "the network is there again at the end" reaches_out
+fi
 exit "$failed"

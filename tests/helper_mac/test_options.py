@@ -2,6 +2,7 @@
 
 import importlib.util
 import os
+import subprocess
 
 import mac
 from mac import HASH, TOR, USER_UID, MacTest
@@ -58,11 +59,31 @@ class Options(MacTest):
         self.machine.place(os.path.join(mac.HERE, "real_mac.sh"), "/mac/real_mac.sh")
         self.machine.shell("cp /usr/bin/tor /usr/local/bin/tor; ln -sf /private/etc/hosts /etc/hosts")
         done = self.machine.run("/bin/bash", "/mac/real_mac.sh", "--change-this-mac", self.machine.helper, check=False, timeout=300)
-        lines = done.stdout.splitlines()
+        run, table = done.stdout.split("---- the table, ")
+        lines = run.splitlines()
         failed = [line for line in lines if line.startswith("FAILED")]
         self.assertEqual(failed, ["FAILED  the network is there", "FAILED  the network is there again"], done.stdout + done.stderr)
         self.assertGreater(len([line for line in lines if line.startswith("ok ")]), 20)
+        self.assertGreater(len([line for line in lines if line.startswith("answer ")]), 12)
+        self.assertEqual([line for line in lines if line.strip()], table.splitlines()[1:len(lines)])
         self.machine.shell("rm /usr/local/bin/tor")
+
+    def test_the_check_for_a_real_mac_puts_back_what_it_was_stopped_in(self):
+        self.machine.place(os.path.join(mac.HERE, "real_mac.sh"), "/mac/real_mac.sh")
+        self.machine.shell("cp /usr/bin/tor /usr/local/bin/tor; ln -sf /private/etc/hosts /etc/hosts")
+        running = self.machine.start("/bin/bash", "/mac/real_mac.sh", "--change-this-mac", self.machine.helper, stdout=subprocess.PIPE,
+                                     stderr=subprocess.DEVNULL, text=True)
+        for line in running.stdout:
+            if line.startswith("ok      every service is switched"):
+                break
+        self.machine.shell("kill $(pgrep -f '^/bin/bash /mac/real_mac.sh')")
+        rest = running.stdout.read()
+        running.stdout.close()
+        self.assertEqual(running.wait(), 130, rest)
+        self.assertIn("---- the table, ", rest)
+        self.assertFalse(os.path.exists(self.machine.root + "/usr/local/etc/tor/torrc-defaults"))
+        self.machine.shell("rm /usr/local/bin/tor")
+        self.assertRestored()
 
     def test_a_missing_program_is_named(self):
         self.machine.shell("mv /usr/bin/networksetup /mac/gnu/")

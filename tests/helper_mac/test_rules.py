@@ -48,6 +48,11 @@ class Leaks(MacTest):
             ("block", "out", {"proto": "udp", "sport": 68, "port": 53, "to": "192.168.1.1"}),
             ("pass", "out", {"proto": "icmp6", "af": "inet6", "source": "fe80::7", "to": "ff02::1:ff00:1", "kind": "neighbrsol"}),
             ("block", "out", {"proto": "icmp6", "af": "inet6", "source": "fe80::7", "to": "2001:db8::5", "kind": "neighbrsol"}),
+            # Who did not report gets no solicitations from a switch that listens; the kernel puts the device's number into addresses.
+            *[("pass", "out", {"proto": "icmp6", "af": "inet6", "source": "fe80::7", "to": "ff02::16", "kind": kind}) for kind in ("listenrep", "143")],
+            ("block", "out", {"proto": "icmp6", "af": "inet6", "source": "fe80::7", "to": "ff05::16", "kind": "143"}),
+            *[("pass", "out", {"proto": "udp", "af": "inet6", "source": "fe80::7", "to": to, "sport": 546, "port": 547}) for to in ("ff02::1:2", "ff02:4::1:2")],
+            ("block", "out", {"proto": "udp", "af": "inet6", "source": "fe80::7", "to": "2001:db8::5", "sport": 546, "port": 547}),
             ("block", "out", {"proto": "icmp6", "af": "inet6", "source": "fe80::7", "to": "ff02::1", "kind": "echoreq"}),
             ("pass", "out", {"device": "lo0", "to": "127.0.0.1", "port": 9050}),
             ("pass", "in", {"device": "lo0", "to": "127.0.0.1", "port": 9050}),

@@ -242,6 +242,99 @@ class Session(MacTest):
         self.assertOneLine(self.machine.help("connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0", check=False),
                            "not safe")
 
+    def test_a_job_that_launchd_is_not_done_with_is_begun_again(self):
+        """Right after the end of a job, bootstrap fails for a while, first with 37 and then with 5."""
+        self.machine.connect()
+        self.machine.write("/mac/calls", "")
+        self.machine.connect()
+        tries = self.machine.calls("launchctl bootstrap system /var/db/veldmark/run/tor.plist")
+        self.assertEqual(len(tries), 3)
+        self.machine.shell(f"kill -0 {self.machine.tor()}")
+
+    def test_tors_process_number_that_is_not_there_at_once_is_waited_for(self):
+        self.machine.connect()
+        self.machine.help("disconnect")
+        self.machine.write("/mac/calls", "")
+        self.machine.connect()
+        self.assertGreaterEqual(len(self.machine.calls("launchctl list veldmark.tor")), 4)   # the first is before it is started
+
+    def test_a_service_that_cannot_be_set_does_not_end_the_connect(self):
+        for what in "get", "set", "getset":
+            with self.subTest(what):
+                self.machine.set_state({f"service Automatic/{BUREAU} refuses": what})
+                before = self.machine.settings()
+                self.machine.connect()
+                self.assertSwitched("Wi-Fi")
+                self.assertSwitched("Thunderbolt Bridge")
+                self.assertTrue(self.machine.state[f"service Automatic/{BUREAU} web"].startswith("Yes"))
+                self.machine.help("fix-dns")
+                self.machine.help("disconnect")
+                self.assertEqual(self.machine.settings(), before)
+        self.machine.reset()
+
+    def test_the_service_that_traffic_goes_through_has_to_be_set(self):
+        words = ["connect", "--tor", TOR, "--hash", HASH, "--strict", "0", "--lan", "0"]
+        for changes in {"primary": BUREAU}, {"primary": "", "services Automatic": BUREAU}:
+            for what, says in ("get", "cannot be read"), ("set", "cannot be changed"):
+                with self.subTest(what, **changes):
+                    self.machine.reset()
+                    self.machine.set_state({f"service Automatic/{BUREAU} refuses": what, **changes})
+                    before = self.machine.settings()
+                    self.assertOneLine(self.machine.help(*words, check=False), f"{BUREAU} {says}")
+                    self.assertEqual(self.machine.settings(), before)
+        self.machine.reset()
+
+    def test_disconnect_asks_networksetup_no_more_than_it_must(self):
+        """A process of it takes some 50 ms on a Mac, and the program waits 25 s at most at its end."""
+        self.machine.connect()
+        self.machine.write("/mac/calls", "")
+        self.machine.help("disconnect")
+        services = 3
+        self.assertLessEqual(len(self.machine.calls("networksetup")), 3 + services * 20 + len(mac.SERVICES))
+
+    def test_what_is_written_is_on_the_disk(self):
+        """fsync of a Mac leaves it in the drive's memory; the file before it gets its name, and the folder after."""
+        self.machine.connect()
+        for name in "/state/active", "/journal/10-firewall", "/journal/20-tor":
+            path = "/Library/Application Support/Veldmark" + name
+            self.assertTrue([call for call in self.machine.calls("fullsync") if call.endswith(f"{path}.new {path} {path.rsplit('/', 1)[0]}")], name)
+        self.assertEqual(self.machine.calls("sync"), [])
+
+    def test_without_perl_disconnect_puts_everything_back(self):
+        self.machine.connect()
+        self.machine.shell("/mac/gnu/mv /usr/bin/perl /mac/perl.away")
+        try:
+            self.machine.help("disconnect")
+        finally:
+            self.machine.shell("/mac/gnu/mv /mac/perl.away /usr/bin/perl")
+        self.assertRestored()
+
+    def test_a_device_that_the_firewall_leaves_out_is_no_kill_switch(self):
+        words = ["connect", "--tor", TOR, "--hash", HASH, "--lan", "0", "--strict"]
+        for device in "en0", "lo0":
+            self.machine.set_state({"pf skip": device})
+            self.assertEqual(self.machine.verdict("out", device=device, to="203.0.113.5", port=443), "pass")
+            before = self.machine.settings()
+            for strict in "1", "0":
+                self.assertOneLine(self.machine.help(*words, strict, check=False), f"leaves out the network device {device} ")
+                self.assertEqual(self.machine.settings(), before)
+        self.machine.change(pf_skip="")
+        self.machine.connect()
+        self.machine.end_watcher()
+        self.machine.change(pf_skip="en0")
+        self.assertOneLine(self.machine.help("fix-dns", check=False), "leaves out the network device en0 ")
+        self.machine.change(pf_skip="")
+        self.machine.help("disconnect")
+
+    def test_rules_of_dummynet_outlive_a_session(self):
+        self.machine.connect()
+        state = self.machine.state
+        self.assertEqual(state["pf  dummynet"], self.before[0]["pf  dummynet"])
+        order = state["pf  filter"].splitlines()
+        self.assertEqual(order[:2], ['scrub-anchor "com.apple/*" all fragment reassemble', 'anchor "veldmark" all'])
+        self.machine.help("disconnect")
+        self.assertRestored()
+
     def test_a_tor_that_cannot_start_says_why_and_proxy_mode_goes_back(self):
         busy = self.machine.start("/usr/bin/perl", "-e", "use Socket; socket(S, 2, 1, 0); bind(S, sockaddr_in(9051, inet_aton('127.0.0.1')));"
                                   "listen(S, 1); syswrite(STDOUT, 'x'); <STDIN>",
@@ -268,13 +361,13 @@ class Session(MacTest):
         self.assertRestored()
 
     def test_names_of_transports_stand_in_the_hosts_while_the_session_lasts(self):
-        self.machine.change(**{"host_front.example".replace("_", " "): "name: front.example\nip_address: 192.0.2.80\n\nname: front.example\nipv6_address: 2001:db8::80\n",
+        self.machine.change(**{"host_front.example".replace("_", " "): "name: front.example\nip_address: 192.0.2.80 192.0.2.83\n\nname: front.example\nipv6_address: 2001:db8::80\n",
                                "host_b.example".replace("_", " "): "name: b.example\nip_address: 192.0.2.81\nip_address: $(x)\n"})
         bridge = "meek_lite 192.0.2.20:80 0123456789012345678901234567890123456789 url=https://b.example/x front=front.example"
         before = self.machine.read("/private/etc/hosts")
         self.machine.connect(more=["--bridge", bridge, "--pt-lyrebird", "/usr/bin/obfs4proxy"])
         self.assertEqual(self.machine.read("/private/etc/hosts"),
-                         before + "\n# >>> veldmark >>>\n192.0.2.81 b.example\n192.0.2.80 front.example\n"
+                         before + "\n# >>> veldmark >>>\n192.0.2.81 b.example\n192.0.2.80 front.example\n192.0.2.83 front.example\n"
                                   "2001:db8::80 front.example\n# <<< veldmark <<<\n")
         self.machine.connect(more=["--bridge", bridge, "--pt-lyrebird", "/usr/bin/obfs4proxy"])
         self.machine.help("disconnect")

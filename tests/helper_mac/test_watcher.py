@@ -60,6 +60,13 @@ class Watcher(MacTest):
         self.machine.state = state
         self.assertRestored()
 
+    def test_a_device_that_is_left_out_is_told_as_open(self):
+        self.machine.connect()
+        self.machine.set_state({"pf skip": "en0"})
+        self.wait(lambda: self.note() == "open 1", "it was not told")
+        self.machine.set_state({"pf skip": ""})
+        self.wait(lambda: self.note() == "restored 1", "its end was not told")
+
     def test_it_ends_with_the_session_and_is_not_there_in_proxy_mode(self):
         self.machine.connect(strict=0)
         self.assertNotIn("job veldmark.watch", self.machine.state)

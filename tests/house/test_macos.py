@@ -5,6 +5,7 @@ VELDMARK_GNUSTEP: unpacked packages, else the installed headers. VELDMARK_QT_HEA
 VELDMARK_MACOS: where the build makes the property list and the icon; without it those two are not looked at.
 """
 
+import json
 import os
 import pathlib
 import plistlib
@@ -30,7 +31,7 @@ def gnustep():
 
 def check(path):
     """What the compiler says of the file's syntax and types; empty when nothing."""
-    words = ["clang++", "-x", "objective-c++", "-std=c++20", "-fsyntax-only", "-fobjc-runtime=gcc", "-fno-blocks", "-fPIC",
+    words = ["clang++", "-x", "objective-c++", "-std=c++20", "-fsyntax-only", "-fobjc-runtime=gcc", "-fblocks", "-fPIC",
              "-Wall", "-Wextra", "-Wshadow", "-Werror", "-DQT_NO_CAST_FROM_ASCII", "-DQT_NO_CAST_TO_ASCII", "-DQT_NO_KEYWORDS",
              "-I", str(ROOT / "src"), "-include", str(APPLE / "missing.h")]
     for folder in [gnustep(), str(APPLE), *sorted(map(str, pathlib.Path("/usr/lib/gcc").glob("*/*/include"))), *QT]:
@@ -53,6 +54,17 @@ class ObjectiveC(unittest.TestCase):
                 self.assertEqual(check(source), "")
 
 
+class Build(unittest.TestCase):
+    def test_the_oldest_macos_is_set_before_the_compiler_is_chosen(self):
+        text = (ROOT / "CMakeLists.txt").read_text(encoding="utf-8")
+        self.assertLess(text.index("set(CMAKE_OSX_DEPLOYMENT_TARGET"), text.index("\nproject("))
+
+    def test_a_release_is_for_both_machines(self):
+        presets = json.loads((ROOT / "CMakePresets.json").read_text(encoding="utf-8"))["configurePresets"]
+        mac = next(preset for preset in presets if preset["name"] == "mac")
+        self.assertEqual(mac["cacheVariables"]["CMAKE_OSX_ARCHITECTURES"], "arm64;x86_64")
+
+
 @unittest.skipUnless(MADE, "nothing has been built")
 class Bundle(unittest.TestCase):
     def test_property_list(self):
@@ -62,6 +74,18 @@ class Bundle(unittest.TestCase):
         self.assertEqual(values["CFBundleIconFile"] + ".icns", "Veldmark.icns")
         self.assertRegex(values["CFBundleShortVersionString"], r"^\d+\.\d+\.\d+$")
         self.assertEqual(values["CFBundlePackageType"], "APPL")
+
+    def test_it_says_what_an_application_without_tor_wants(self):
+        """The system asks in the name of who has started it, and ends a program that uses a camera without a reason."""
+        with open(os.path.join(MADE, "Info.plist"), "rb") as file:
+            values = plistlib.load(file)
+        for device in "Camera", "Microphone":
+            self.assertIn(f"opened without Tor wants to use the {device.lower()}", values[f"NS{device}UsageDescription"])
+
+    def test_a_second_user_may_open_it(self):
+        """After fast user switching; one user's second start is handed over by the program itself."""
+        with open(os.path.join(MADE, "Info.plist"), "rb") as file:
+            self.assertNotIn("LSMultipleInstancesProhibited", plistlib.load(file))
 
     def test_icon_holds_a_picture_for_every_size(self):
         data = pathlib.Path(MADE, "Veldmark.icns").read_bytes()

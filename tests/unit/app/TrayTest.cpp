@@ -2,6 +2,7 @@
 #include "app/Tray.h"
 #include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
@@ -49,6 +50,41 @@ private Q_SLOTS:
         for (int y = 0; y < image.height(); ++y)
             for (int x = 0; x < image.width(); ++x)
                 drawn += qAlpha(image.pixel(x, y)) > 128;
+        QVERIFY(drawn > 10);
+    }
+
+    void inAMenuBarALeftClickOpensThePanelAlone()
+    {
+        StandInSession session(profile);
+        Tray tray(session, Tray::Place::menuBar);
+        QSignalSpy panel(&tray, &Tray::panelWanted);
+        auto *icon = tray.findChild<QSystemTrayIcon *>();
+        QVERIFY(!icon->contextMenu()); // it would open with the panel
+        Q_EMIT icon->activated(QSystemTrayIcon::Trigger);
+        QCOMPARE(panel.size(), 1);
+        QVERIFY(!QApplication::activePopupWidget());
+        Q_EMIT icon->activated(QSystemTrayIcon::Context);
+        QCOMPARE(panel.size(), 1);
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        QVERIFY(menu && !menu->actions().isEmpty());
+        menu->close();
+    }
+
+    void inAMenuBarTheSystemColoursTheIcon()
+    {
+        StandInSession session(profile);
+        Tray bar(session, Tray::Place::menuBar);
+        Tray tray(session, Tray::Place::tray);
+        QVERIFY(!tray.findChild<QSystemTrayIcon *>()->icon().isMask());
+        const QIcon icon = bar.findChild<QSystemTrayIcon *>()->icon();
+        QVERIFY(icon.isMask());
+        const QImage image = icon.pixmap(QSize(18, 18), 1.0).toImage();
+        int drawn = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x) {
+                drawn += qAlpha(image.pixel(x, y)) > 128;
+                QCOMPARE(image.pixelColor(x, y).lightness(), 0); // only its shape counts
+            }
         QVERIFY(drawn > 10);
     }
 

@@ -45,7 +45,7 @@ QCoro::Task<void> probe(QString host, quint16 port, std::chrono::milliseconds li
 
 qsizetype openDescriptors()
 {
-    return QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size();
+    return QDir(QStringLiteral("/dev/fd")).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size();
 }
 
 class Descriptor {
@@ -59,10 +59,17 @@ private:
     int m_number;
 };
 
+Descriptor streamSocket()
+{
+    Descriptor made(::socket(AF_INET, SOCK_STREAM, 0));
+    ::fcntl(made.number(), F_SETFD, FD_CLOEXEC);
+    return made;
+}
+
 // A port of the loopback interface that is bound; it refuses until listen() is called.
 class Port {
 public:
-    Port() : m_socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0))
+    Port() : m_socket(streamSocket())
     {
         m_address.sin_family = AF_INET;
         m_address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
@@ -73,6 +80,7 @@ public:
 
     quint16 number() const { return ntohs(m_address.sin_port); }
 
+#ifdef __linux__ // elsewhere the queue cannot be looked at
     // Listens and fills the queue of connections that nobody accepts: from then on the kernel drops
     // whoever comes, so that a connection neither stands nor fails.
     void hang()
@@ -86,11 +94,12 @@ public:
                 qFatal("cannot look at the queue");
             if (queue.tcpi_unacked > queue.tcpi_sacked) // waiting, most that may wait
                 return;
-            m_waiting.emplace_back(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
+            m_waiting.push_back(streamSocket());
             if (::connect(m_waiting.back().number(), generic(), sizeof m_address) != 0)
                 qFatal("cannot fill the queue");
         }
     }
+#endif
 
 private:
     sockaddr *generic() { return reinterpret_cast<sockaddr *>(&m_address); }
@@ -167,6 +176,9 @@ private Q_SLOTS:
 
     void givesUpAtTheLimit()
     {
+#ifndef __linux__
+        QSKIP("no port can be made to hang");
+#else
         Port hanging;
         hanging.hang();
         ManualClock clock;
@@ -180,10 +192,14 @@ private Q_SLOTS:
         QVERIFY(outcome.isOver);
         QVERIFY(!outcome.time);
         QCOMPARE(openDescriptors(), before);
+#endif
     }
 
     void twoHundredThatHangTakeAsLongAsOne()
     {
+#ifndef __linux__
+        QSKIP("no port can be made to hang");
+#else
         Port hanging;
         hanging.hang();
         SystemClock clock;
@@ -202,6 +218,7 @@ private Q_SLOTS:
         QVERIFY2(timer.elapsed() >= 3000, qPrintable(QString::number(timer.elapsed())));
         QVERIFY2(timer.elapsed() <= 3500, qPrintable(QString::number(timer.elapsed())));
         QCOMPARE(openDescriptors(), before);
+#endif
     }
 
     void theApplicationsProxyIsNotUsed()

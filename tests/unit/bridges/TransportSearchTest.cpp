@@ -173,7 +173,7 @@ private Q_SLOTS:
         for (int depth = 0; depth < 60; ++depth)
             path += QStringLiteral("/d");
         system.tree.program(path + QStringLiteral("/webtunnel-client"));
-        std::stop_source ended;
+        StopSource ended;
         QVERIFY(PluggableTransports::locate(system.profile, std::nullopt, ended.get_token()).webtunnel);
         ended.request_stop();
         QVERIFY(!PluggableTransports::locate(system.profile, std::nullopt, ended.get_token()).webtunnel);

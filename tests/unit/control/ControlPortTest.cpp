@@ -32,7 +32,7 @@ struct Work {
 };
 
 QCoro::Task<void> emitEvents(FakeTor *tor, QByteArray events, std::shared_ptr<Work> work,
-                             std::stop_token stop)
+                             StopToken stop)
 {
     work->started = true;
     if (!events.isEmpty())
@@ -44,7 +44,7 @@ QCoro::Task<void> emitEvents(FakeTor *tor, QByteArray events, std::shared_ptr<Wo
 
 ControlPort::Work workThatSends(FakeTor &tor, const QByteArray &events, std::shared_ptr<Work> work)
 {
-    return [&tor, events, work](std::stop_token stop) {
+    return [&tor, events, work](StopToken stop) {
         return emitEvents(&tor, events, work, stop);
     };
 }

@@ -162,7 +162,7 @@ private Q_SLOTS:
     }
 
 private:
-    static QCoro::Task<void> doNothing(std::stop_token) { co_return; }
+    static QCoro::Task<void> doNothing(StopToken) { co_return; }
 
     QString file(const char *name, const QByteArray &content)
     {

@@ -190,7 +190,7 @@ unzip: /nowhere/usr/bin/unzip
 prompt: AppleScript, /nowhere/usr/bin/osascript
 promptText: Veldmark needs administrator access to manage Tor routing on this Mac.
 torBrowserRoots: /nowhere/Applications/Tor Browser.app
-bundle: ~/Library/Application Support/Veldmark/TorExpertBundle, tor-expert-bundle-macos-aarch64-
+bundle: ~/Library/Application Support/Veldmark/TorExpertBundle, tor-expert-bundle-macos-x86_64-
 applicationSuffix: .app
 settingsFile: 
 autostartFile: 
@@ -203,6 +203,16 @@ quitCanBeRefused: 1
 scutil: /nowhere/usr/sbin/scutil
 controlSocket: ~/Library/Application Support/Veldmark/run/control
 )"));
+    }
+
+    void theMachineDecidesWhichBundle()
+    {
+        Places places = Places::below(QStringLiteral("/nowhere"));
+        for (const char *machine : {"x86_64", "aarch64"}) {
+            places.machine = QLatin1String(machine);
+            for (const PlatformProfile &profile : {PlatformProfile::linux(places), PlatformProfile::macos(places)})
+                QVERIFY2(profile.bundleArchivePrefix.endsWith(u'-' + places.machine + u'-'), qPrintable(profile.bundleArchivePrefix));
+        }
     }
 
     void aRelativeFolderOfTheEnvironmentIsIgnored()

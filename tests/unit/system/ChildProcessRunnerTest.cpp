@@ -197,7 +197,7 @@ private Q_SLOTS:
     {
         QTemporaryDir folder;
         ChildProcessRunner runner;
-        std::stop_source stop;
+        StopSource stop;
         auto task = runner.runUntil(QStringLiteral("/bin/sh"),
                                     {QStringLiteral("-c"), QStringLiteral("cd \"$1\"; sleep 600 & echo $! >new; mv new child; wait"),
                                      QStringLiteral("sh"), folder.path()}, stop.get_token());
@@ -217,7 +217,7 @@ private Q_SLOTS:
     void aStopBeforeTheStartKillsAtOnce()
     {
         ChildProcessRunner runner;
-        std::stop_source stop;
+        StopSource stop;
         stop.request_stop();
         auto task = runner.runUntil(QStringLiteral("/bin/sleep"), {QStringLiteral("600")}, stop.get_token());
         QTRY_VERIFY(task.isReady());
@@ -227,7 +227,7 @@ private Q_SLOTS:
     void aStopAfterTheEndDoesNothing()
     {
         ChildProcessRunner runner;
-        std::stop_source stop;
+        StopSource stop;
         auto task = runner.runUntil(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), QStringLiteral("echo out; exit 3")},
                                     stop.get_token());
         QTRY_VERIFY(task.isReady());
@@ -240,7 +240,7 @@ private Q_SLOTS:
     void whatMayBeStoppedHasNoTerminalAndIsOtherwiseTheSame()
     {
         ChildProcessRunner runner;
-        const std::stop_source stop;
+        const StopSource stop;
         auto task = runner.runUntil(QStringLiteral("/nowhere/program"), {}, stop.get_token());
         QTRY_VERIFY(task.isReady());
         QCOMPARE(QCoro::waitFor(std::move(task)).error().description(), QStringLiteral("No such file or directory"));

@@ -1,0 +1,103 @@
+#pragma once
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <utility>
+
+namespace veldmark {
+
+class StopCallback;
+
+// How one who waits asks another to end: the waiter keeps a StopSource, the other one gets its StopToken and looks at it or leaves a
+// StopCallback. Copies of a source or token mean the same request. Any thread may use them.
+//
+// What of the standard's <stop_token> is used here, under its names, since Apple's standard library does not have that header.
+class StopToken {
+public:
+    StopToken() = default; // of nobody who could ask
+
+    bool stop_possible() const { return m_state != nullptr; }
+    bool stop_requested() const { return m_state && m_state->requested; }
+
+private:
+    friend class StopSource;
+    friend class StopCallback;
+
+    struct State {
+        std::atomic<bool> requested = false;
+        // Recursive, since a callback may end the one that it belongs to.
+        std::recursive_mutex lock;
+        StopCallback *first = nullptr;
+    };
+    explicit StopToken(std::shared_ptr<State> state) : m_state(std::move(state)) {}
+
+    std::shared_ptr<State> m_state;
+};
+
+// Calls a function once, when the end is asked for, on the thread that asks; at once if it has been. Its destructor waits for a call that
+// is under way on another thread.
+class StopCallback {
+public:
+    StopCallback(StopToken token, std::function<void()> call) : m_state(std::move(token.m_state)), m_call(std::move(call))
+    {
+        if (!m_state)
+            return;
+        const std::lock_guard guard(m_state->lock);
+        if (m_state->requested) {
+            m_call();
+            return;
+        }
+        m_next = std::exchange(m_state->first, this);
+    }
+    ~StopCallback()
+    {
+        if (!m_state)
+            return;
+        const std::lock_guard guard(m_state->lock);
+        for (StopCallback **at = &m_state->first; *at; at = &(*at)->m_next) {
+            if (*at == this) {
+                *at = m_next;
+                return;
+            }
+        }
+    }
+    StopCallback(const StopCallback &) = delete;
+    StopCallback &operator=(const StopCallback &) = delete;
+
+private:
+    friend class StopSource;
+
+    std::shared_ptr<StopToken::State> m_state;
+    std::function<void()> m_call;
+    StopCallback *m_next = nullptr;
+};
+
+class StopSource {
+public:
+    StopSource() : m_state(std::make_shared<StopToken::State>()) {}
+
+    StopToken get_token() const { return StopToken(m_state); }
+    bool stop_requested() const { return m_state->requested; }
+
+    // False when it had been asked for before.
+    bool request_stop()
+    {
+        const auto state = m_state; // a callback may destroy this source
+        const std::lock_guard guard(state->lock);
+        if (state->requested.exchange(true))
+            return false;
+        while (StopCallback *callback = state->first) {
+            state->first = callback->m_next;
+            const std::function<void()> call = callback->m_call; // which may destroy its callback
+            call();
+        }
+        return true;
+    }
+
+private:
+    std::shared_ptr<StopToken::State> m_state;
+};
+
+} // namespace veldmark
