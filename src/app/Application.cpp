@@ -37,7 +37,7 @@ Application::Application(const PlatformProfile &profile)
                                   .arg(m_production.controller().profile().manualRestoreCommand, reason));
     });
     QObject::connect(&m_alerts, &Alerts::told, this, showNotice);
-    QObject::connect(&m_production.controller(), &TorController::phaseChanged, this,
+    QObject::connect(&m_production.controller().phase, &Field::changed, this,
                      [this] { keepAwake(m_production.controller().phase() != ConnectionPhase::disconnected); });
     joinDeparture();
 }
