@@ -33,7 +33,7 @@ relock() {
       elif ! rules_stand; then
         # Either nft words the same rules in another way now, or somebody changes them as fast as we do.
         if ! copy_stands "$text"; then
-          STRUGGLES=$((STRUGGLES + 1))
+          STRUGGLES=$((STRUGGLES + 1)) word=open   # whatever was loaded, it does not stand
         elif note_listing; then
           word=standing
         fi

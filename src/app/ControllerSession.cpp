@@ -89,7 +89,7 @@ void ControllerSession::read()
     next.activeBridge = c.activeBridge();
     next.bootstrapProgress = c.bootstrapProgress();
     next.statusDetail = c.statusDetail();
-    next.bootstrapProblem = c.bootstrapProblem();
+    next.bootstrapProblem = next.phase == Phase::connecting ? c.bootstrapProblem() : c.problemBehindError();
     next.isAnothers = c.otherSession().has_value();
     next.canCancel = c.canCancel();
     while (const auto problem = m_settings.problem())

@@ -36,7 +36,9 @@ QCoro::Task<std::optional<ConnectTime>> noAnswer()
 std::optional<QString> TorController::torPath() const
 {
     const QString custom = customTorPath().trimmed();
-    if (custom.startsWith(u'/') && isExecutableFile(custom))
+    if (SettingRules::torPathProblem(custom))
+        return std::nullopt; // a connect refuses it, so no other is found instead
+    if (!custom.isEmpty() && isExecutableFile(custom))
         return custom;
     for (const QString &candidate : m_services.profile.torCandidates) {
         if (isExecutableFile(candidate))
@@ -252,7 +254,7 @@ QCoro::Task<void> TorController::connect()
         co_return;
     canCancel = false;
     if (!bootstrap) {
-        errorMessage = bootstrap.error()
+        errorMessage = m_bootstrapFailure = bootstrap.error()
             + QStringLiteral(" Your network is still pointed at Tor. Click Restore Network to undo.");
         statusDetail = QStringLiteral("Tor didn't finish connecting");
         phase = ConnectionPhase::stale;

@@ -191,6 +191,11 @@ public:
 
     // What the last operation that failed has said, without what is told of the kill switch and of Tor's own network.
     std::optional<QString> failure() const;
+    // What goes behind the banner: what kept Tor from connecting, where the banner says that it didn't.
+    std::optional<QString> problemBehindError() const
+    {
+        return errorMessage() == m_bootstrapFailure ? bootstrapProblem() : std::nullopt;
+    }
     // The user has read the banner.
     void dismissError() { errorMessage = std::nullopt; }
     // Shows what went wrong outside the controller as the banner.
@@ -341,6 +346,7 @@ private:
     std::optional<KillSwitch> m_knownKillSwitch; // as last told in this session
     std::optional<QString> m_killSwitchMessage; // the banner that tells of it
     Clock::TimePoint m_killSwitchSeen;        // when the watcher's note was last a fresh one
+    std::optional<QString> m_bootstrapFailure;  // the banner of a bootstrap that failed
     bool m_torStopped = false;                // under this session
     // What the monitor knows of the session's network, also over a disconnect that was refused.
     struct NetworkKnowledge {

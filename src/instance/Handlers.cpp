@@ -36,7 +36,8 @@ QString connectFailure(const TorController &controller)
 {
     const QString told = controller.otherSession() ? controller.errorMessage().value_or(controller.statusDetail())
                                                    : failure(controller.errorMessage());
-    return controller.bootstrapProblem() ? told + u' ' + *controller.bootstrapProblem() : told;
+    const auto problem = controller.problemBehindError();
+    return problem ? told + u' ' + *problem : told;
 }
 
 } // namespace

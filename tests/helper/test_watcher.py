@@ -209,6 +209,20 @@ class Watcher(HelperTest):
             self.assertEqual(self.note(), "open 1")
         self.wait_note("restored 1", 2 * LIMIT)
 
+    def test_rules_that_are_removed_as_fast_as_they_are_loaded_are_open(self):
+        self.machine.shell("rm -f /mnt/enough; (until [ -e /mnt/enough ]; do nft flush table inet veldmark; done) >/dev/null 2>&1 </dev/null &")
+        try:
+            deadline = time.monotonic() + 2 * LIMIT
+            while not self.note().startswith("open "):
+                self.assertLess(time.monotonic(), deadline, self.note())
+                time.sleep(0.02)
+        finally:
+            self.machine.shell("touch /mnt/enough")
+        deadline = time.monotonic() + 2 * LIMIT
+        while self.listing() != self.rules or not self.note().startswith("restored "):
+            self.assertLess(time.monotonic(), deadline, self.note())
+            time.sleep(0.02)
+
     def test_the_same_rules_in_other_words_are_no_change(self):
         """As after an upgrade of nft: neither an alarm nor loading without end."""
         for edit in ("s/ { 9050/  {  9050/", "s/priority filter/priority 0/"):

@@ -330,6 +330,22 @@ private Q_SLOTS:
         QCOMPARE(session.now().openAtLogin, std::optional(false));
     }
 
+    void whatKeptTorFromConnectingIsNoPartOfALaterMessage()
+    {
+        Workbench bench;
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        bench.setBootstrap("PROGRESS=1 WARNING=\"Connection refused\"");
+        const auto connecting = bench.controller().connect();
+        QVERIFY(until([&] { return bench.controller().bootstrapProblem() && bench.clock.sleepers() == 2; }));
+        bench.clock.advance(std::chrono::minutes(5));
+        QVERIFY(Workbench::finished(connecting));
+        follow(session);
+        QVERIFY(session.now().phase == Phase::stale && session.now().bootstrapProblem);
+        bench.controller().showProblem(QStringLiteral("The settings can't be written."));
+        follow(session);
+        QVERIFY(!session.now().bootstrapProblem);
+    }
+
     void everyFieldThatChangesIsShown()
     {
         Workbench bench;

@@ -233,6 +233,7 @@ private Q_SLOTS:
         QCOMPARE(c.errorMessage().value(),
                  u"\"bin/tor\" is no place for Tor: give the whole path, such as /usr/bin/tor."_s);
         QCOMPARE(bench.helperRunCount(u"connect"_s), 1);
+        QVERIFY(!c.torPath()); // the settings don't call one found that a connect refuses
     }
 
 };
