@@ -182,11 +182,14 @@ class WhenItEnds(TerminalCase):
         self.assertIn(self.answer(open_shell), self.lab.tor.exits)
         for path in (self.marker, "/var/lib/veldmark/state/active"):
             with self.subTest(marker=path):
+                # The program would see within a second that the session's marker has gone, and end the session.
+                self.lab.host.run(["pkill", "-STOP", "veldmarkctl"], check=True)
                 self.lab.host.run(["mv", path, f"{path}.away"], check=True)
                 open_shell.run("")
                 self.assertEqual(open_shell.run(SHOW), "|||||||")
                 self.assertIn(self.answer(open_shell), (at.HOST_ADDRESS, at.HOST_ADDRESS6))
                 self.lab.host.run(["mv", f"{path}.away", path], check=True)
+                self.lab.host.run(["pkill", "-CONT", "veldmarkctl"], check=True)
                 open_shell.run("")
                 self.assertIn(self.answer(open_shell), self.lab.tor.exits)
 
