@@ -228,16 +228,25 @@ class Machine:
 
     def processes(self):
         """The command lines of what runs in the machine, sorted; not the dead that nobody has waited for, nor the
-        watcher's looks at the rules, which come and go."""
+        watcher's looks at the rules and ports, which come and go."""
+        def words(pid):
+            with open(f"/proc/{pid}/cmdline", "rb") as file:
+                return file.read().replace(b"\0", b" ").decode(errors="replace")
+
+        def is_look(pid, line):
+            """A shell that the watcher has started, and that is not yet, or not to be, another program."""
+            with open(f"/proc/{pid}/stat", encoding="utf-8", errors="replace") as file:
+                parent = file.read().rsplit(")", 1)[1].split()[1]
+            return line.endswith("/watcher.sh ") and words(parent) == line
+
         own = os.readlink(f"/proc/{self.pid}/ns/net")
         lines = []
         for pid in filter(str.isdigit, os.listdir("/proc")):
             try:
                 if os.readlink(f"/proc/{pid}/ns/net") != own:
                     continue
-                with open(f"/proc/{pid}/cmdline", "rb") as file:
-                    line = file.read().replace(b"\0", b" ").decode(errors="replace")
-                if line and not line.startswith(("nft -s -t list table ", "setpriv --pdeathsig KILL sh -c [ ", "sh -c [ \"$PPID\" ", "flock -w 10 7 ")):
+                line = words(pid)
+                if line and not is_look(pid, line) and not line.startswith(("nft -s -t list table ", "setpriv --pdeathsig KILL sh -c [ ", "sh -c [ \"$PPID\" ", "flock -w 10 7 ")):
                     lines.append(line.replace("\n", " ") + "\n")
             except OSError:
                 pass
