@@ -16,12 +16,12 @@
 namespace veldmark {
 
 class DNSStatus;
-class KillSwitch;
 class LeakStatus;
-class SessionOwner;
 class SettingsStore;
 struct CircuitInfo;
+struct KillSwitch;
 struct PluggableTransports;
+struct SessionOwner;
 
 // An enumeration is its case name as a string; a case with a payload an object with that one key ({"exposed":
 // "203.0.113.7"}, {"leak": ["…"]}); an absent optional is null.

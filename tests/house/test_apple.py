@@ -145,7 +145,7 @@ class Apple(unittest.TestCase):
             paths = [headers, *(ROOT / name for name in sources)]
             for path, said in zip(paths, pool.map(self.compiler.check, paths)):
                 with self.subTest(path.name):
-                    self.assertEqual(said, "")
+                    self.assertEqual(said, "", said)
 
 
 if __name__ == "__main__":
