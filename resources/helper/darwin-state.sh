@@ -244,7 +244,7 @@ as_caller() {
 
 # NEW TARGET FOLDER: sync(2) and fsync(2) of macOS end when the drive has the data, which may still lose it with the power; F_FULLFSYNC
 # (51) also has the drive write it. Not every file system knows that.
-# shellcheck disable=SC2016
+# shellcheck disable=SC2016,SC2089
 readonly PUT='
 my ($new, $target, $folder) = @ARGV;
 for my $path ($new, $folder) {

@@ -45,6 +45,7 @@ watch_rules() {
 
 print_watcher() {
   printf 'set -uo pipefail\numask 077\nPATH=%s\nLC_ALL=C\nexport PATH LC_ALL\ncd /\n' "$PATH"
+  # shellcheck disable=SC2090
   declare -p ANCHOR RULES LISTED RULES_LOCK MARKER JOURNAL KILL_SWITCH_NOTE FIREWALL_ENTRY WATCH_SECONDS \
     HOLD PUT TOKEN_LINE WORD MISSED SINCE NOTED
   printf 'JOURNAL_LINES=()\ndie() { exit 1; }\n'

@@ -97,10 +97,11 @@ DNSStatus statusAfter(const std::vector<DNSResolver> &leaks, const std::optional
 
 QString stillLeakingText(const QStringList &summaries, bool isBlocked)
 {
-    const QString text = QStringLiteral("Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and "
-                                        "still point around Tor: %1.")
-                             .arg(summaries.join(QStringLiteral("; ")));
-    return isBlocked ? text + QStringLiteral(" Strict mode's firewall blocks them.") : text;
+    const QString text = isBlocked
+        ? QStringLiteral("Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around "
+                         "Tor: %1. Strict mode's firewall blocks them.")
+        : QStringLiteral("Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around Tor: %1.");
+    return text.arg(summaries.join(QStringLiteral("; ")));
 }
 
 QString probeName()

@@ -28,7 +28,9 @@ private Q_SLOTS:
 
     void macsAskForTheirOwnArchive()
     {
-        *m_profile = PlatformProfile::macos(Places::below(m_tree->root()));
+        Places places = Places::below(m_tree->root());
+        places.machine = QStringLiteral("aarch64");
+        *m_profile = PlatformProfile::macos(places);
         for (const char *name : {"gpg", "gpgconf"}) {
             QDir().mkpath(m_tree->path(QStringLiteral("opt/homebrew/bin")));
             QFile::link(QStringLiteral("/usr/bin/") + QLatin1String(name),
