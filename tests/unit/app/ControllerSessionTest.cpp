@@ -339,10 +339,10 @@ private Q_SLOTS:
         QVERIFY(until([&] { return bench.controller().bootstrapProblem() && bench.clock.sleepers() == 2; }));
         bench.clock.advance(std::chrono::minutes(5));
         QVERIFY(Workbench::finished(connecting));
-        follow(session);
+        settle();
         QVERIFY(session.now().phase == Phase::stale && session.now().bootstrapProblem);
         bench.controller().showProblem(QStringLiteral("The settings can't be written."));
-        follow(session);
+        settle();
         QVERIFY(!session.now().bootstrapProblem);
     }
 
