@@ -8,13 +8,17 @@ readonly SERVICE_ENTRY=30-service   # a number follows, one file per service
 readonly MAX_SERVICES=64
 readonly OUR_DNS=127.0.0.1 OUR_HOST=127.0.0.1
 
+# ask VERB [SERVICE]: sets its caller's text to the answer. Status 1 when the answer is a refusal, which may come with
+# status 0.
+ask() { text=$(networksetup "$@") && [[ $text != *"** Error"* && $text != *"not a recognized"* ]]; }
+
 # read_services all|active: sets SERVICES to the names; all includes those that are switched off. Status 1 when they
 # cannot be told, which is not the same as there being none.
 SERVICES=()
 read_services() {
   local line text
   SERVICES=()
-  text=$(networksetup -listallnetworkservices) && [[ $text == "An asterisk "* ]] || return 1
+  ask -listallnetworkservices && [[ $text == "An asterisk "* ]] || return 1
   while IFS= read -r line; do
     case $line in
     '' | "An asterisk "*) continue ;;
@@ -35,7 +39,11 @@ has_service() {
   return 1
 }
 
-current_location() { networksetup -getcurrentlocation; }
+# current_location: prints the name of the network location. Status 1 when it cannot be told.
+current_location() {
+  local text
+  ask -getcurrentlocation && [[ -n $text ]] && printf '%s' "$text"
+}
 
 # read_list TEXT: sets LIST to the lines of an answer; to none when the answer is a sentence that there are none.
 LIST=()
@@ -68,21 +76,21 @@ value_of() {
 HAS_DNS=() HAS_BYPASS=() HAS_SOCKS='' HAS_HOST='' HAS_PORT='' HAS_WEB='' HAS_SECURE='' HAS_AUTO='' HAS_DISCOVERY=''
 read_service() {
   local text line
-  text=$(networksetup -getdnsservers "$1") && [[ $text != *"** Error"* && $text != *"not a recognized"* ]] || return 1
+  ask -getdnsservers "$1" || return 1
   read_list "$text"
   HAS_DNS=(${LIST[@]+"${LIST[@]}"})
   for line in ${LIST[@]+"${LIST[@]}"}; do
     is_address4 "$line" || is_address6 "${line%%%*}" || return 1
   done
-  text=$(networksetup -getproxybypassdomains "$1") || return 1
+  ask -getproxybypassdomains "$1" || return 1
   read_list "$text"
   HAS_BYPASS=(${LIST[@]+"${LIST[@]}"})
-  text=$(networksetup -getsocksfirewallproxy "$1") && HAS_SOCKS=$(value_of "$text" Enabled) &&
+  ask -getsocksfirewallproxy "$1" && HAS_SOCKS=$(value_of "$text" Enabled) &&
     HAS_HOST=$(value_of "$text" Server) && HAS_PORT=$(value_of "$text" Port) || return 1
-  text=$(networksetup -getwebproxy "$1") && HAS_WEB=$(value_of "$text" Enabled) || return 1
-  text=$(networksetup -getsecurewebproxy "$1") && HAS_SECURE=$(value_of "$text" Enabled) || return 1
-  text=$(networksetup -getautoproxyurl "$1") && HAS_AUTO=$(value_of "$text" Enabled) || return 1
-  text=$(networksetup -getproxyautodiscovery "$1") && HAS_DISCOVERY=$(value_of "$text" "Auto Proxy Discovery") || return 1
+  ask -getwebproxy "$1" && HAS_WEB=$(value_of "$text" Enabled) || return 1
+  ask -getsecurewebproxy "$1" && HAS_SECURE=$(value_of "$text" Enabled) || return 1
+  ask -getautoproxyurl "$1" && HAS_AUTO=$(value_of "$text" Enabled) || return 1
+  ask -getproxyautodiscovery "$1" && HAS_DISCOVERY=$(value_of "$text" "Auto Proxy Discovery") || return 1
 }
 
 is_ours() {
@@ -243,6 +251,10 @@ undo_service() {
   local name location
   name=$(journal_value service) || return 0
   location=$(journal_value location) || location=''
+  if [[ -z $CURRENT_LOCATION ]]; then
+    UNDONE="The network settings cannot be read."
+    return 1
+  fi
   if [[ $location != "$CURRENT_LOCATION" ]]; then
     UNDONE="The network location $location still has Veldmark's settings. Choose it and disconnect again."
     return 3
