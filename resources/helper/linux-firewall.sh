@@ -71,7 +71,10 @@ END
 # print_side_chains TOR_UID USER_UID GROUP: where the output chain sends what needs a closer look.
 # loopback: what stays on this computer. Only packets that open a connection, or answer that, are looked at more closely: later ones
 # may belong to a socket that its program has closed already.
-# A look-up too short for its own header (12 bytes after the 8 of UDP) ends some versions of Tor.
+# from_loopback, look_ups: who has got a socket beside Tor's at the port for look-ups gets none: here it shows whose socket a datagram
+# would reach. One too short for its own header (12 bytes after the 8 of UDP) ends some versions of Tor. It is refused, so that
+# applications fail at once where Tor is away.
+# looked_up: nor does anybody but Tor answer from there.
 # opening: Tor's own connections to its transports are remembered; whoever has the same ports later is somebody else. Nobody opens one
 # from Tor's ports: two openings that meet are a connection, so a false listener would not have to answer.
 # control_port: only root, the session's user and Tor may open Tor's control port.
@@ -94,8 +97,26 @@ print_side_chains() {
 	}
 	chain loopback {
 		tcp flags & syn == syn goto opening
-		udp dport $DNS_PORT udp length < 20 drop
+		udp sport $DNS_PORT goto looked_up
 		accept
+	}
+	chain looked_up {
+		$(tors_key "$1") accept
+		drop
+	}
+	chain from_loopback {
+		udp dport $DNS_PORT goto look_ups
+		accept
+	}
+	chain look_ups {
+		udp length < 20 drop
+END
+  if [[ -n $TOR_PATH ]]; then
+    printf '\t\tsocket cgroupv2 level 2 "%s" accept\n\t\treject\n' "$TOR_PATH"
+  else
+    printf '\t\taccept\n'
+  fi
+  cat <<END
 	}
 	chain opening {
 		tcp flags & ack == ack goto answering
@@ -120,7 +141,6 @@ print_side_chains() {
 		reject with tcp reset
 	}
 	chain redirected {
-		udp dport $DNS_PORT udp length < 20 drop
 		udp dport $DNS_PORT ct status dnat accept
 		goto refused
 	}
@@ -152,7 +172,7 @@ print_proxy_rules() {
 	}
 	chain input {
 		type filter hook input priority 0; policy accept;
-		iif "lo" accept
+		iif "lo" goto from_loopback
 		ip daddr 127.0.0.0/8 drop
 		ip6 daddr ::1 drop
 	}
@@ -188,6 +208,7 @@ print_local_matches() {
 # LAN 1 opens the local network; UDP 1 lets Tor's account send UDP (snowflake); SERVERS4 and SERVERS6 are the
 # resolvers, joined by commas, that Tor's transports may ask, usually none; GROUP is the control group of the
 # applications without Tor, empty for none; NEAR 1 lets Tor reach the local network, where one of its bridges is.
+# What Tor answers a look-up does not leave: anybody can give one a sender elsewhere (IPV6_FREEBIND).
 # Only positive matches on the account: a packet without a socket matches neither "skuid X" nor "skuid != X".
 # What comes in for this computer's own address does so where route_localnet is on, and would reach Tor's ports from the
 # local network.
@@ -216,7 +237,7 @@ END
 END
   fi
   printf '\t\tmeta l4proto tcp accept\n'
-  [[ $4 != 1 ]] || printf '\t\tmeta l4proto udp accept\n'
+  [[ $4 != 1 ]] || printf '\t\tudp sport %s goto refused\n\t\tmeta l4proto udp accept\n' "$DNS_PORT"
   cat <<END
 	}
 	chain neighbours {
@@ -253,7 +274,7 @@ END
 	}
 	chain input {
 		type filter hook input priority 0; policy drop;
-		iif "lo" accept
+		iif "lo" goto from_loopback
 		ct state established ct direction reply accept
 		ip daddr 127.0.0.0/8 drop
 		ip6 daddr ::1 drop

@@ -23,6 +23,8 @@ USER_UID = 4242
 OTHER_UID = 4243   # bob's
 DNS_PORT = 293
 TOR_GROUP = "/sys/fs/cgroup/veldmark/tor"   # to be in it and Tor's account is what the rules know Tor by
+# What a program begins with that stands in for Tor at its port for look-ups. It is started with group=TOR_GROUP.
+AS_TOR = ("setpriv", "--reuid=_veldmark", "--clear-groups", "--inh-caps=+net_bind_service", "--ambient-caps=+net_bind_service")
 INSTALLED = "/usr/local/libexec/veldmark/veldmark-helper.sh"
 
 # Reaps what is orphaned in the process namespace, and ends with the test.

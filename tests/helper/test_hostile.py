@@ -6,7 +6,7 @@ import subprocess
 
 import namespace
 import probes
-from namespace import DNS_PORT, OTHER_UID, TOR_GROUP, USER_UID, HelperTest
+from namespace import AS_TOR, DNS_PORT, OTHER_UID, TOR_GROUP, USER_UID, HelperTest
 from wire import LINK, Wire
 
 RULES = "/var/lib/veldmark/run/firewall.nft"
@@ -162,6 +162,91 @@ class Hostile(HelperTest):
                 self.assertIn("PermissionError", self.machine.run("/usr/bin/python3", "-c", bind, str(DNS_PORT), uid=uid, check=False).stderr)
             self.machine.help("disconnect")
 
+    def asked(self, script, *who):
+        """What sockets at Tor's port for look-ups get when SCRIPT asks: "NAME LENGTH" each. who: (name, address, uid, group), the last
+        one to bind is the kernel's choice."""
+        listen = ("import socket, sys\ns = socket.socket(socket.AF_INET6 if ':' in sys.argv[2] else socket.AF_INET, socket.SOCK_DGRAM)\n"
+                  "s.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1); s.bind((sys.argv[2], int(sys.argv[3]))); print('up', flush=True)\n"
+                  "while True:\n data = s.recv(999)\n if data == b'e' * 20: break\n print(sys.argv[1], len(data), flush=True)")
+        up = []
+        for name, address, uid, group in who:
+            up.append(self.machine.start("setpriv", f"--reuid={uid}", *AS_TOR[2:], "/usr/bin/python3", "-c", listen, name, address, str(DNS_PORT), group=group, stdout=subprocess.PIPE, text=True))
+            self.assertEqual(up[-1].stdout.readline(), "up\n")
+        try:
+            said = self.machine.run("/usr/bin/python3", "-c", script, uid=USER_UID).stdout
+            # What ends each that gets anything comes after all else.
+            self.machine.run("/usr/bin/python3", "-c", "import socket\nfor a in '127.0.0.1', '::1':\n s = socket.socket(socket.AF_INET6 if ':' in a else socket.AF_INET, socket.SOCK_DGRAM)\n"
+                             f" s.sendto(b'e' * 20, (a, {DNS_PORT}))", uid=USER_UID, check=False)
+            got = []
+            for process in up:
+                try:
+                    got += process.communicate(timeout=1)[0].splitlines()
+                except subprocess.TimeoutExpired:
+                    self.machine.shell("pkill -KILL -f 's.setsockopt[(]' || true")
+                    got += process.communicate()[0].splitlines()
+            return said, got
+        finally:
+            for process in up:
+                process.kill()
+
+    ASK = ("import socket\nfor a, p in ('127.0.0.1', 53), ('192.0.2.53', 53), ('127.0.0.1', 293), ('::1', 293):\n"
+           " s = socket.socket(socket.AF_INET6 if ':' in a else socket.AF_INET, socket.SOCK_DGRAM); s.settimeout(1)\n"
+           " try:\n  s.connect((a, p)); s.send(b'q' * 30); s.send(b'q' * 11)\n except OSError as e: pass")
+
+    def test_a_socket_beside_tors_gets_no_look_ups(self):
+        """Where somebody has opened the port to everybody: they are all given the right to it."""
+        tor, tor6 = ("tor", "127.0.0.1", self.tor_uid, TOR_GROUP), ("tor", "::1", self.tor_uid, TOR_GROUP)
+        evil, evil6 = ("other", "127.0.0.1", OTHER_UID, None), ("other", "::1", OTHER_UID, None)
+        account = ("account", "127.0.0.1", self.tor_uid, None)
+        for strict in 1, 0:
+            self.machine.connect(strict=strict)
+            self.assertEqual(self.asked(self.ASK, tor, tor6)[1], ["tor 30"] * 4)
+            for who in ((tor, tor6, evil, evil6), (evil, evil6), (tor, account)):
+                self.assertEqual([line for line in self.asked(self.ASK, *who)[1] if not line.startswith("tor")], [], who)
+            self.without("from_loopback")
+            self.assertLessEqual({"other 30", "other 11"}, set(self.asked(self.ASK, tor, tor6, evil, evil6)[1]))
+            self.machine.help("disconnect")
+
+    def test_nobody_else_answers_a_look_up(self):
+        """Likewise: who asks, and from which port, everybody can see."""
+        ask = ("import socket\ns = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.settimeout(2); s.connect(('127.0.0.1', 53)); s.send(b'q' * 30)\n"
+               "t = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); t.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1); t.bind(('127.0.0.1', 293))\n"
+               "try: t.sendto(b'lie', s.getsockname())\nexcept OSError: pass\n"
+               "try: print(s.recv(9).decode())\nexcept OSError: print('nothing')")
+        self.machine.shell("sysctl -qw net.ipv4.ip_unprivileged_port_start=0")
+        try:
+            for strict in 1, 0:
+                self.machine.connect(strict=strict)
+                tor = "tor", "127.0.0.1", self.tor_uid, TOR_GROUP
+                self.assertEqual(self.asked(ask, tor)[0], "nothing\n")
+                self.without("looked_up")
+                self.assertEqual(self.asked(ask, tor)[0], "lie\n")
+                self.machine.help("disconnect")
+        finally:
+            self.machine.shell("sysctl -qw net.ipv4.ip_unprivileged_port_start=1024")
+
+    def test_what_tor_answers_does_not_leave(self):
+        """A look-up may come with any sender, who then gets Tor's answer, where Tor may send datagrams."""
+        answer = ("import os, socket, sys, threading\nthreading.Thread(target=lambda: (sys.stdin.read(), os._exit(0)), daemon=True).start()\n"
+                  f"s = socket.socket(socket.AF_INET6, socket.SOCK_DGRAM); s.bind(('::1', {DNS_PORT})); print('up', flush=True)\n"
+                  "while True:\n data, where = s.recvfrom(999)\n try: s.sendto(b'answer', where); print('sent', flush=True)\n except OSError: print('refused', flush=True)")
+        ask = (f"import socket\ns = socket.socket(socket.AF_INET6, socket.SOCK_DGRAM); s.setsockopt(socket.IPPROTO_IPV6, 78, 1); s.bind(('{probes.PUBLIC6}', 40404))\n"
+               f"s.sendto(b'q' * 30, ('::1', {DNS_PORT}))")   # 78: IPV6_FREEBIND
+        self.machine.connect(more=["--bridge", "snowflake 192.0.2.3:80", "--pt-snowflake", "/usr/bin/snowflake-client"])
+        tor = self.machine.start(*AS_TOR, "/usr/bin/python3", "-c", answer, group=TOR_GROUP, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        self.assertEqual(tor.stdout.readline(), "up\n")
+        try:
+            for said, seen in ("refused\n", False), ("sent\n", True):
+                if seen:
+                    self.machine.end_watcher()
+                    self.machine.shell("nft flush chain inet veldmark tors_account; nft add rule inet veldmark tors_account accept")
+                self.wire.mark()
+                self.machine.run("/usr/bin/python3", "-c", ask, uid=OTHER_UID)
+                self.assertEqual(tor.stdout.readline(), said)
+                self.assertEqual(f"other udp {probes.PUBLIC6} 40404" in self.wire.mark(), seen)
+        finally:
+            tor.communicate()
+
     def test_tors_account_alone_passes_nothing(self):
         """A setuid file that it has left in an earlier session, say."""
         self.machine.connect()
@@ -180,6 +265,7 @@ class Hostile(HelperTest):
             port, end = self.serve(0, uid=self.tor_uid)
             self.assertFalse(self.reach(port, uid=OTHER_UID))
             end()
+            self.assertEqual(self.asked(self.ASK, ("tor", "127.0.0.1", self.tor_uid, None))[1], ["tor 30"] * 3)
             self.machine.help("disconnect")
         finally:
             self.machine.shell("mount -t cgroup2 private /sys/fs/cgroup")
