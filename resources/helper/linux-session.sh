@@ -129,15 +129,12 @@ undo_session() {
 # linux_fix-dns: puts back what somebody changed under a running session: the mount, and the rules, in one
 # transaction, so that also a flushed kill switch stands again.
 linux_fix-dns() {
-  local status=0
   (($# == 0)) || die "The verb fix-dns takes no options."
   need_programs flock nft mount umount readlink stat sync
   lift_limits
   take_lock
   trap finish EXIT
-  [[ -f $MARKER ]] && folders_are_safe || status=$?
-  ((status != 2)) || die "The folders below $BASE cannot be looked at, so nothing was done."
-  ((status == 0)) || die "Veldmark is not connected, so the DNS settings were left alone."
+  { [[ -f $MARKER ]] && safe_folders; } || die "Veldmark is not connected, so the DNS settings were left alone."
   if [[ -f $RULES ]]; then
     hold_rules || die "Somebody else is changing the firewall. Try again in a moment."
     make_groups
@@ -152,7 +149,6 @@ linux_fix-dns() {
 }
 
 linux_disconnect() {
-  local status=0
   parse_disconnect "$@"
   need_programs flock nft umount stat
   lift_limits
@@ -160,9 +156,7 @@ linux_disconnect() {
   trap finish EXIT
   if [[ -e $BASE || -L $BASE ]]; then
     # What others could write is no record of ours.
-    folders_are_safe || status=$?
-    ((status != 2)) || die "The folders below $BASE cannot be looked at, so nothing was done."
-    ((status == 0)) || JOURNAL_TRUSTED=
+    safe_folders || JOURNAL_TRUSTED=
   fi
   spare_others
   spare_unmeant

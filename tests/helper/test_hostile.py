@@ -353,12 +353,15 @@ class Hostile(HelperTest):
             self.machine.shell(f"rmdir {own}")
 
     def test_the_callers_priorities_are_not_taken_over(self):
-        self.machine.shell('echo 500 >/proc/self/oom_score_adj; exec chrt --idle 0 nice -n 15 /bin/bash "$@"', self.machine.helper,
+        self.machine.shell('echo 500 >/proc/self/oom_score_adj; exec taskset --cpu-list 0 ionice --class idle chrt --idle 0 nice -n 15 /bin/bash "$@"', self.machine.helper,
                            "connect", "--tor", namespace.TOR, "--hash", namespace.HASH, "--strict", "1", "--lan", "0")
+        every = self.machine.shell("taskset --cpu-list $(cat /sys/devices/system/cpu/possible) grep Cpus_allowed_list /proc/self/status")
         [tor] = self.machine.tor_pids()
         for pid in tor, self.machine.shell("pgrep -f /watcher[.]sh").strip():
             self.assertLessEqual(int(self.machine.shell(f"cat /proc/{pid}/oom_score_adj")), 0)
             self.assertEqual(self.machine.shell(f"ps -o ni=,cls= -p {pid}").split(), ["0", "TS"])
+            self.assertTrue(self.machine.shell(f"ionice --pid {pid}").startswith("none"))
+            self.assertEqual(self.machine.shell(f"grep Cpus_allowed_list /proc/{pid}/status"), every)
 
     # ---- Ways around the rules ----
 
