@@ -225,6 +225,44 @@ class Hostile(HelperTest):
         finally:
             self.machine.shell("sysctl -qw net.ipv4.ip_unprivileged_port_start=1024")
 
+    def has_late_cut(self):
+        return "\ntx-udp-segmentation: on\n" in self.machine.run("ethtool", "-k", "lo").stdout
+
+    def give_ethtool(self):
+        self.machine.give_ethtool()
+        self.before = self.machine.snapshot()
+
+    def test_what_the_kernel_cuts_reaches_tor_in_no_piece(self):
+        """Pieces that are too short for a look-up's header end some versions of Tor."""
+        self.give_ethtool()
+        pieces = (f"import socket\nfor a, p in ('127.0.0.1', {DNS_PORT}), ('127.0.0.1', 53):\n s = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)\n"
+                  " s.setsockopt(socket.SOL_UDP, 103, 11); s.sendto(b'p' * 33, (a, p))\n"   # UDP_SEGMENT
+                  " s.setsockopt(socket.SOL_UDP, 103, 0); s.sendto(b'w' * 33, (a, p))")
+        tor = "tor", "127.0.0.1", self.tor_uid, TOR_GROUP
+        for strict in 1, 0:
+            self.assertTrue(self.has_late_cut())
+            self.machine.connect(strict=strict)
+            self.assertEqual(self.asked(pieces, tor)[1], ["tor 33"] * 2)
+            self.machine.connect(strict=strict)   # once more upon what it has noted
+            self.machine.run("ethtool", "-K", "lo", "tx-udp-segmentation", "on")
+            self.assertEqual(self.asked(pieces, tor)[1], (["tor 11"] * 3 + ["tor 33"]) * 2)
+            self.machine.help("fix-dns" if strict else "connect", *([] if strict else ["--tor", namespace.TOR, "--hash", namespace.HASH, "--strict", "0", "--lan", "0"]))
+            self.assertFalse(self.has_late_cut())
+            self.machine.help("disconnect")
+        self.assertTrue(self.has_late_cut())
+
+    def test_a_loopback_device_that_cannot_be_put_back_is_told_and_tried_again(self):
+        self.give_ethtool()
+        self.machine.connect()
+        self.machine.shell("printf '#!/bin/sh\nexit 1\n' >/mnt/broken; chmod 755 /mnt/broken; mount --bind /mnt/broken /usr/sbin/ethtool")
+        done = self.machine.help("disconnect", check=False)
+        self.machine.shell("umount /usr/sbin/ethtool; rm /mnt/broken")
+        self.assertOneLine(done, "The network is open again, but the loopback device could not be set up as before.")
+        self.assertEqual(self.machine.shell("nft list ruleset; ls /var/lib/veldmark/state"), "")
+        self.assertFalse(self.has_late_cut())
+        self.machine.help("disconnect")
+        self.assertTrue(self.has_late_cut())
+
     def test_what_tor_answers_does_not_leave(self):
         """A look-up may come with any sender, who then gets Tor's answer, where Tor may send datagrams."""
         answer = ("import os, socket, sys, threading\nthreading.Thread(target=lambda: (sys.stdin.read(), os._exit(0)), daemon=True).start()\n"
