@@ -215,6 +215,7 @@ print_local_matches() {
 # No "established" on output: connections from before the kill switch must not go on. Nor is Tor's traffic kept from
 # connection tracking, which would be cheaper: firewalls of other people's that let answers in by their state would
 # drop what is not tracked.
+# Addresses are asked for by root or an account of the system's (below 1000), also where the ports below 1024 are open to everybody.
 # neighbours: the kernel's own packets belong to nobody; what a program makes up is no neighbour discovery, it could go anywhere.
 # The order is by how many packets take the way; each expression that a packet passes costs it some 10 ns, and asking
 # for its account some 80, so that is asked once.
@@ -253,8 +254,8 @@ END
   cat <<END
 		ip daddr 127.0.0.0/8 goto redirected
 		ip6 daddr ::1 goto redirected
-		udp sport 68 udp dport 67 ip daddr { 255.255.255.255, $LAN4 } accept
-		udp sport 546 udp dport 547 ip6 daddr { ff02::1:2, fe80::/10 } accept
+		udp sport 68 udp dport 67 ip daddr { 255.255.255.255, $LAN4 } meta skuid 0-999 accept
+		udp sport 546 udp dport 547 ip6 daddr { ff02::1:2, fe80::/10 } meta skuid 0-999 accept
 		icmpv6 type nd-router-solicit ip6 daddr ff02::2 ip6 hoplimit 255 accept
 		icmpv6 type { nd-neighbor-solicit, nd-neighbor-advert } ip6 hoplimit 255 goto neighbours
 		goto refused

@@ -446,6 +446,28 @@ class Hostile(HelperTest):
                                         "ip route add local 127.0.0.1 dev lo table local src 127.0.0.1")
             self.machine.shell("sysctl -qw net.ipv4.conf.all.route_localnet=0")
 
+    def test_only_the_systems_own_ask_for_an_address(self):
+        """Where somebody has opened the ports below 1024 to everybody."""
+        ask = ("import socket\nfor a, own, port in ('192.168.77.1', 68, 67), ('255.255.255.255', 68, 67), ('fe80::1%veth0', 546, 547), ('ff02::1:2%veth0', 546, 547):\n"
+               " family, kind, _, _, to = socket.getaddrinfo(a, port, type=socket.SOCK_DGRAM)[0]\n"
+               " with socket.socket(family, kind) as s:\n  s.setsockopt(socket.SOL_SOCKET, socket.SO_BROADCAST, 1); s.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1)\n"
+               "  s.bind(('', own))\n  try: s.sendto(b'?', to)\n  except PermissionError: pass")
+
+        def seen(uid):
+            self.wire.mark()
+            self.machine.run("/usr/bin/python3", "-c", ask, uid=uid)
+            return sorted(line.split()[2] for line in self.wire.mark() if line.endswith((" 67", " 547")))
+        self.machine.shell("sysctl -qw net.ipv4.ip_unprivileged_port_start=0; ip neigh replace fe80::1 lladdr 02:00:00:00:00:01 dev veth0")
+        try:
+            everywhere = ["192.168.77.1", "255.255.255.255", "fe80::1", "ff02::1:2"]
+            self.assertEqual(seen(OTHER_UID), everywhere)
+            self.machine.connect()
+            self.assertEqual(seen(OTHER_UID), [])
+            for uid in 0, 998:
+                self.assertEqual(seen(uid), everywhere)
+        finally:
+            self.machine.shell("sysctl -qw net.ipv4.ip_unprivileged_port_start=1024; ip neigh del fe80::1 dev veth0")
+
     def test_what_a_program_makes_up_is_no_neighbour_discovery(self):
         solicit = ("import socket, struct; s = socket.socket(socket.AF_INET6, socket.SOCK_RAW, socket.IPPROTO_ICMPV6);"
                    "s.setsockopt(socket.IPPROTO_IPV6, socket.IPV6_UNICAST_HOPS, 255);"
