@@ -24,9 +24,10 @@ tors_key() {
   printf 'meta skuid %s' "$1"
 }
 
-# print_exempt GROUP: lets out what is sent by applications that are started without Tor. Nothing when GROUP is empty.
+# print_exempt GROUP: lets out what applications that are started without Tor send of their own accord; what they answer could go to any
+# sender that somebody on this computer has made up. Nothing when GROUP is empty.
 print_exempt() {
-  [[ -z $1 ]] || printf '\t\tsocket cgroupv2 level 1 "%s" accept\n' "$1"
+  [[ -z $1 ]] || printf '\t\tsocket cgroupv2 level 1 "%s" ct direction original accept\n' "$1"
 }
 
 # print_redirect TOR_UID GROUP KEEP LAN: every look-up over UDP goes to Tor, whichever server it was meant for. A redirected

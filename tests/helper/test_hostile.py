@@ -446,6 +446,29 @@ class Hostile(HelperTest):
                                         "ip route add local 127.0.0.1 dev lo table local src 127.0.0.1")
             self.machine.shell("sysctl -qw net.ipv4.conf.all.route_localnet=0")
 
+    def test_an_application_without_tor_answers_nobody_elsewhere(self):
+        """What it is asked on this computer may come with any sender, who then gets the answer, from the real address."""
+        server = ("import os, socket, sys, threading\nthreading.Thread(target=lambda: (sys.stdin.read(), os._exit(0)), daemon=True).start()\n"
+                  "s = socket.socket(socket.AF_INET6, socket.SOCK_DGRAM); s.bind(('::', 6881)); print('up', flush=True)\n"
+                  f"s.sendto(b'hello', ('{probes.PUBLIC6}', 40405))\n"
+                  "while True:\n data, where = s.recvfrom(999)\n try: s.sendto(b'answer', where); print('sent', flush=True)\n except OSError: print('refused', flush=True)")
+        ask = (f"import socket\ns = socket.socket(socket.AF_INET6, socket.SOCK_DGRAM); s.setsockopt(socket.IPPROTO_IPV6, 78, 1); s.bind(('{probes.PUBLIC6}', 40404))\n"
+               "s.sendto(b'?', ('fd00:77::2', 6881))")   # 78: IPV6_FREEBIND
+        self.machine.connect()
+        for said in "refused\n", "sent\n":
+            if said == "sent\n":
+                self.machine.end_watcher()
+                self.machine.shell("nft insert rule inet veldmark refused socket cgroupv2 level 1 '\"veldmark-exempt\"' accept")
+            self.wire.mark()
+            process = self.machine.start("/usr/bin/python3", "-c", server, uid=USER_UID, group="/sys/fs/cgroup/veldmark-exempt", stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+            self.assertEqual(process.stdout.readline(), "up\n")
+            self.machine.run("/usr/bin/python3", "-c", ask, uid=OTHER_UID)
+            self.assertEqual(process.stdout.readline(), said)
+            process.communicate()
+            seen = self.wire.mark()
+            self.assertIn(f"other udp {probes.PUBLIC6} 40405", seen, "what it sends of its own accord leaves")
+            self.assertEqual(f"other udp {probes.PUBLIC6} 40404" in seen, said == "sent\n")
+
     def test_only_the_systems_own_ask_for_an_address(self):
         """Where somebody has opened the ports below 1024 to everybody."""
         ask = ("import socket\nfor a, own, port in ('192.168.77.1', 68, 67), ('255.255.255.255', 68, 67), ('fe80::1%veth0', 546, 547), ('ff02::1:2%veth0', 546, 547):\n"
