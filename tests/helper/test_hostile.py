@@ -471,7 +471,8 @@ class Hostile(HelperTest):
 
     def test_only_the_systems_own_ask_for_an_address(self):
         """Where somebody has opened the ports below 1024 to everybody."""
-        ask = ("import socket\nfor a, own, port in ('192.168.77.1', 68, 67), ('255.255.255.255', 68, 67), ('fe80::1%veth0', 546, 547), ('ff02::1:2%veth0', 546, 547):\n"
+        ask = ("import socket\nfor a, own, port in ('192.168.77.1', 68, 67), ('255.255.255.255', 68, 67), ('fe80::1%veth0', 546, 547), ('ff02::1:2%veth0', 546, 547), ('203.0.113.9', 68, 67),"
+               " ('2001:db8:9::9', 546, 547):\n"
                " family, kind, _, _, to = socket.getaddrinfo(a, port, type=socket.SOCK_DGRAM)[0]\n"
                " with socket.socket(family, kind) as s:\n  s.setsockopt(socket.SOL_SOCKET, socket.SO_BROADCAST, 1); s.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1)\n"
                "  s.bind(('', own))\n  try: s.sendto(b'?', to)\n  except PermissionError: pass")
@@ -483,7 +484,7 @@ class Hostile(HelperTest):
         self.machine.shell("sysctl -qw net.ipv4.ip_unprivileged_port_start=0; ip neigh replace fe80::1 lladdr 02:00:00:00:00:01 dev veth0")
         try:
             everywhere = ["192.168.77.1", "255.255.255.255", "fe80::1", "ff02::1:2"]
-            self.assertEqual(seen(OTHER_UID), everywhere)
+            self.assertEqual(seen(OTHER_UID), sorted([*everywhere, probes.PUBLIC, probes.PUBLIC6]))
             self.machine.connect()
             self.assertEqual(seen(OTHER_UID), [])
             for uid in 0, 998:
