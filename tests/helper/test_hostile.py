@@ -148,6 +148,21 @@ class Hostile(HelperTest):
                 self.assertEqual((reached, met), (True, "met") if wanted else (False, "refused"), port)
             self.machine.help("disconnect")
 
+    def test_nobody_takes_tors_place_so_at_the_other_loopback_address(self):
+        meeting = MEETING.replace("0100007F", "0" * 24 + "01000000").replace("/net/tcp", "/net/tcp6").replace("create_server(('127.0.0.1', port))",
+            "create_server(('::1', port), family=socket.AF_INET6)").replace("socket.socket()", "socket.socket(socket.AF_INET6)").replace("'127.0.0.1'", "'::1'")
+        ask = CLIENT.replace("'127.0.0.1'", "'::1'").replace("socket.socket()", "socket.socket(socket.AF_INET6)")
+        self.machine.connect()
+        for port, wanted in (9050, False), (9051, False), (9050, True):
+            if wanted:
+                self.without("opening")
+                self.machine.shell("nft insert rule inet veldmark opening tcp flags \\& ack == ack goto answering")
+            process = self.machine.start("/usr/bin/python3", "-c", meeting, str(port), uid=OTHER_UID, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+            self.addCleanup(process.kill)
+            self.assertEqual(process.stdout.readline(), "up\n")
+            said = self.machine.run("/usr/bin/python3", "-c", ask, str(port), "0", "10" if wanted else "3", uid=USER_UID).stdout.strip()
+            self.assertEqual((said, process.communicate(timeout=30)[0].strip()), ("hello", "met") if wanted else ("refused", "refused"), port)
+
     def test_nobody_gets_what_others_ask(self):
         """A second socket at Tor's port for look-ups would get them. Nobody but root and Tor can have one."""
         bind = ("import socket, sys\ntwo = []\nfor _ in 1, 2:\n two.append(socket.socket(socket.AF_INET, socket.SOCK_DGRAM))\n"
