@@ -1209,6 +1209,10 @@
         <translation>Tor bekommt aus dem Netz keine Antwort und versucht es weiter.</translation>
     </message>
     <message>
+        <source>Another program has ended this session and begun one of its own. Disconnect to end that.</source>
+        <translation>Ein anderes Programm hat diese Sitzung beendet und eine eigene begonnen. Trennen Sie, um jene zu beenden.</translation>
+    </message>
+    <message>
         <source>This computer has no network, so Tor can&apos;t connect.</source>
         <translation>Dieser Rechner hat kein Netz, daher kann Tor keine Verbindung herstellen.</translation>
     </message>

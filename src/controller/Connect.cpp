@@ -239,6 +239,7 @@ QCoro::Task<void> TorController::connect()
     }
     arguments[0] = QStringLiteral("connect");
     m_sessionWords = arguments;
+    m_sessionMark = SessionMark::present(m_services.profile);
 
     activeMode = strict ? RoutingMode::strict : RoutingMode::proxy;
     activeBridge =

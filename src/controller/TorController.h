@@ -22,6 +22,7 @@
 #include "base/RoutingMode.h"
 #include "system/HelperError.h"
 #include "system/ProgramApproval.h"
+#include "system/SessionMark.h"
 #include "system/SessionOwner.h"
 
 #include <QObject>
@@ -284,7 +285,7 @@ private:
     // What the counters and Tor's word on its circuits say of the traffic.
     void lookAtTraffic(std::optional<bool> hasCircuit);
     void torDied();
-    void giveUpTo(const SessionOwner &other);
+    void giveUpTo(const std::optional<SessionOwner> &other);
     QString replacedText() const; // `otherSession` is there
     void showSessionOf(const std::optional<SessionOwner> &other); // nobody's: one that was left over
     struct TimedProbe {
@@ -340,6 +341,7 @@ private:
     quint64 m_terminalRun = 0; // how often terminal mode was applied
     std::optional<QString> m_controlPassword; // of the running session; in memory only
     QString m_controlHash;                    // what Tor was told of it
+    std::optional<SessionMark> m_sessionMark; // of the session that this object has made
     QStringList m_sessionWords;               // what the helper was last asked for, and did
     bool m_isDownloading = false;             // transports
     bool m_downloadsDirectly = false;         // and not through Tor

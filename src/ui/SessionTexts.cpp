@@ -67,6 +67,7 @@ namespace {
     QT_TRANSLATE_NOOP("Session", "Tor gets no answer from the network and keeps trying."),
     QT_TRANSLATE_NOOP("Session", "This computer has no network, so Tor can't connect."),
     QT_TRANSLATE_NOOP("Session", "A VPN takes Tor's traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode."),
+    QT_TRANSLATE_NOOP("Session", "Another program has ended this session and begun one of its own. Disconnect to end that."),
     QT_TRANSLATE_NOOP("Session", "Another program removed Veldmark's firewall rules; they are back in place."),
     QT_TRANSLATE_NOOP("Session", "Another program removed Veldmark's firewall rules and they could not be put back. "
                                  "Traffic may leave this computer directly. Disconnect and connect again."),
