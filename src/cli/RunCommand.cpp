@@ -36,8 +36,8 @@ void RunCommand::start()
 QCoro::Task<void> RunCommand::begin()
 {
     const QPointer<QObject> self(&m_lifetime);
-    if (const auto problem = m_production.settings().problem())
-        m_lines.complain(*problem);
+    for (const QString &problem : m_controller.settingsProblems())
+        m_lines.complain(problem);
     m_controller.detectStaleState();
     co_await m_controller.updatePrivilegedHelper();
     if (!self || m_withdrawal.isUnderWay() || m_restored)
