@@ -29,7 +29,7 @@ relock() {
     make_groups   # the rules name them, and they may be gone
     if nft -f - <<<"$text"; then
       if [[ -n $LESSENED ]]; then
-        { note_listing && LESSENED=''; } || true
+        if copy_stands "$text" && note_listing; then LESSENED=''; else word=open; fi
       elif ! rules_stand; then
         # Either nft words the same rules in another way now, or somebody changes them as fast as we do.
         if ! copy_stands "$text"; then
@@ -44,7 +44,7 @@ relock() {
     elif nft -f - <<<"$(print_unexempt "$text")"; then
       # Without its group the exemption cannot be loaded; the lock can.
       LESSENED=1
-      note_listing || true
+      { copy_stands "$(print_unexempt "$text")" && note_listing; } || word=open
     else
       word=open
     fi

@@ -668,25 +668,6 @@
     </message>
 </context>
 <context>
-    <name>LoginItem</name>
-    <message>
-        <source>Login items can&apos;t be changed here.</source>
-        <translation>Anmeldeobjekte lassen sich hier nicht ändern.</translation>
-    </message>
-    <message>
-        <source>Move Veldmark to the Applications folder and open it from there first.</source>
-        <translation>Bewegen Sie Veldmark zuerst in den Ordner „Programme“ und öffnen Sie es von dort.</translation>
-    </message>
-    <message>
-        <source>Couldn&apos;t remove %1.</source>
-        <translation>%1 ließ sich nicht entfernen.</translation>
-    </message>
-    <message>
-        <source>Couldn&apos;t write %1: %2</source>
-        <translation>%1 ließ sich nicht schreiben: %2</translation>
-    </message>
-</context>
-<context>
     <name>LookupCard</name>
     <message>
         <source>Lookups can go around Tor</source>
@@ -1455,6 +1436,22 @@
     <message>
         <source>Couldn&apos;t change the login-item setting: %1</source>
         <translation>Der Start bei der Anmeldung konnte nicht geändert werden: %1</translation>
+    </message>
+    <message>
+        <source>Login items can&apos;t be changed here.</source>
+        <translation>Anmeldeobjekte lassen sich hier nicht ändern.</translation>
+    </message>
+    <message>
+        <source>Move Veldmark to the Applications folder and open it from there first.</source>
+        <translation>Bewegen Sie Veldmark zuerst in den Ordner „Programme“ und öffnen Sie es von dort.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t remove %1.</source>
+        <translation>%1 ließ sich nicht entfernen.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t write %1: %2</source>
+        <translation>%1 ließ sich nicht schreiben: %2</translation>
     </message>
     <message>
         <source>Couldn&apos;t download bridge programs: %1</source>

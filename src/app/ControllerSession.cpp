@@ -53,7 +53,6 @@ ControllerSession::ControllerSession(TorController &controller, SettingsStore &s
                                      RunningApplications &applications)
     : Session(controller.profile())
     , m_controller(controller)
-    , m_settings(settings)
     , m_applications(applications)
     , m_examiner(controller.profile(), settings, m_processes)
 {
@@ -78,6 +77,7 @@ void ControllerSession::schedule()
 
 void ControllerSession::read()
 {
+    m_controller.readSettingsProblems(); // what the windows' places were refused, too
     m_scheduled = false;
     const TorController &c = m_controller;
     Snapshot next;
@@ -92,11 +92,9 @@ void ControllerSession::read()
     next.bootstrapProblem = next.phase == Phase::connecting ? c.bootstrapProblem() : c.problemBehindError();
     next.isAnothers = c.otherSession().has_value();
     next.canCancel = c.canCancel();
-    while (const auto problem = m_settings.problem())
-        m_notices << *problem;
     next.errorMessage = c.errorMessage();
-    if (!next.errorMessage && !m_notices.isEmpty())
-        next.errorMessage = m_notices.constFirst();
+    if (!next.errorMessage && !c.settingsProblems().isEmpty())
+        next.errorMessage = c.settingsProblems().constFirst();
     next.killSwitch = c.killSwitch();
     // What was found out about a session is not true of what is left of it.
     if (next.phase == Phase::connected) {
@@ -266,8 +264,8 @@ void ControllerSession::dismissError()
     // Only what the user has seen; what stands behind it, or has come meanwhile, is shown next.
     if (m_controller.errorMessage() && m_controller.errorMessage() == m_now.errorMessage)
         m_controller.dismissError();
-    else if (!m_notices.isEmpty() && m_notices.constFirst() == m_now.errorMessage)
-        m_notices.removeFirst();
+    else if (m_controller.settingsProblems().value(0) == m_now.errorMessage)
+        m_controller.dismissSettingsProblem();
     schedule();
 }
 

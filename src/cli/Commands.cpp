@@ -133,17 +133,15 @@ QString noteLine(const QString &text)
 QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production> production)
 {
     TorController &controller = production->controller();
-    if (const auto problem = production->settings().problem())
-        Console::printError(*problem);
+    if (invocation.verb != Verb::Id::status || invocation.json) { // the report says it as well
+        for (const QString &problem : controller.settingsProblems())
+            Console::printError(problem);
+    }
     if (invocation.verb == Verb::Id::set) {
         const auto set = setSetting(controller, invocation.key, invocation.value);
         if (!set) {
             Console::printError(set.error().description());
             co_return set.error().kind() == SettingError::Kind::Refused ? ExitStatus::usage : ExitStatus::failed;
-        }
-        if (const auto problem = production->settings().problem()) {
-            Console::printError(*problem);
-            co_return ExitStatus::failed;
         }
         tellOfBridges(invocation);
         if (invocation.key == controller.terminalMode.name() && controller.terminalMode()) {

@@ -162,6 +162,8 @@ QString status(const QJsonObject &state)
         report += row("Problem", error);
     if (const QString error = text(state, "terminalError"); !error.isEmpty())
         report += row("Terminal", error);
+    for (const QJsonValue &problem : state.value(QStringLiteral("settingsProblems")).toArray())
+        report += row("Settings", problem.toString());
     return report;
 }
 

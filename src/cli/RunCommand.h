@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cli/Arguments.h"
-#include "cli/ProgressLine.h"
+#include "cli/SessionLines.h"
 #include "controller/Production.h"
 #include "controller/SessionWatch.h"
 #include "controller/Withdrawal.h"
@@ -34,14 +34,6 @@ private:
     void onSignal(int number);
     void onWithdrawn(bool restored);
     void finish(ExitStatus status);
-    void showProgress();
-    void showProblem();
-    void showPhase();
-    void showKillSwitch();
-    void showVerdict();
-    QString verdictText() const;
-    void say(const QString &text);
-    void complain(const QString &text);
 
     Production m_production;
     TorController &m_controller;
@@ -50,11 +42,7 @@ private:
     const bool m_connectNow;
     std::unique_ptr<InstanceServer> m_server;
     SignalWatcher m_signals;
-    ProgressLine m_progress;
-    QString m_lastReport;
-    QString m_lastVerdict;
-    ConnectionPhase m_lastPhase = ConnectionPhase::disconnected;
-    std::optional<KillSwitch::State> m_lastKillSwitch;
+    SessionLines m_lines;
     bool m_restored = false; // a disconnect has begun since the start
     bool m_mustEnd = false; // asked by somebody who won't ask again: SIGTERM, SIGHUP
     QObject m_lifetime;     // goes first, so that what the others' ends resume finds it gone

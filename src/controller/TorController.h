@@ -153,6 +153,8 @@ public:
     Published<bool> passwordlessInstalled{this, "passwordlessInstalled"};
     Published<std::optional<QString>> startupError{this, "startupError"};
     Published<std::optional<QString>> terminalError{this, "terminalError"};
+    // What is wrong with the settings' file, a sentence each, the oldest first; until its reader has dismissed it.
+    Published<QStringList> settingsProblems{this, "settingsProblems"};
 
     // --- Derived from the fields. ---
     Verdict verdict() const; // how safe all this is; what every surface shows
@@ -206,6 +208,10 @@ public:
     void dismissError() { errorMessage = std::nullopt; }
     // Shows what went wrong outside the controller as the banner.
     void showProblem(const QString &problem) override { errorMessage = problem; }
+    // Takes over what the settings' store has to tell.
+    void readSettingsProblems();
+    // The user has read the oldest of them.
+    void dismissSettingsProblem() { settingsProblems = settingsProblems().mid(1); }
 
     // --- Operations: transports. ---
     // Searches the computer afresh and sets `transports`, unless a search that began later has done so.

@@ -72,6 +72,8 @@ namespace {
     QT_TRANSLATE_NOOP("Session", "Another program removed Veldmark's firewall rules and they could not be put back. "
                                  "Traffic may leave this computer directly. Disconnect and connect again."),
     QT_TRANSLATE_NOOP("Session", "Invalid exit country."),
+    QT_TRANSLATE_NOOP("Session", "Login items can't be changed here."),
+    QT_TRANSLATE_NOOP("Session", "Move Veldmark to the Applications folder and open it from there first."),
     QT_TRANSLATE_NOOP("Session", "The settings couldn't be saved. Changes to them may last only until you quit."),
     QT_TRANSLATE_NOOP("Session", "Checking latest version…"),
     QT_TRANSLATE_NOOP("Session", "Verifying signature…"),
@@ -160,6 +162,8 @@ constexpr const char *forms[] = {
     QT_TRANSLATE_NOOP("Session", "Couldn't request a new identity: %1"),
     QT_TRANSLATE_NOOP("Session", "Couldn't read circuits: %1"),
     QT_TRANSLATE_NOOP("Session", "Couldn't change the login-item setting: %1"),
+    QT_TRANSLATE_NOOP("Session", "Couldn't remove %1."),
+    QT_TRANSLATE_NOOP("Session", "Couldn't write %1: %2"),
     QT_TRANSLATE_NOOP("Session", "Couldn't download bridge programs: %1"),
     QT_TRANSLATE_NOOP("Session", "Bridge programs %1 installed over HTTPS. Install GnuPG (%2) and download again to also verify "
                                  "the Tor Project's signature."),

@@ -24,7 +24,7 @@ SPEAKERS = ["controller/" + name for name in (
     "SessionTypes", "Terminal", "Transports")]
 SPEAKERS += ["checks/Verdict", "checks/DNSCheck", "bridges/BridgePlan", "bridges/DownloadError", "bridges/PluggableTransports",
              "bridges/SpeedTest", "control/ControlPortError", "system/HelperError", "platform/LinuxProfile", "platform/MacProfile",
-             "app/ControllerSession"]
+             "app/ControllerSession", "app/LoginItem"]
 # Said to Tor, or by the prompt, which has its own words (packaging/org.veldmark.helper.policy).
 NO_SENTENCES = "SETCONF ", "CLOSECIRCUIT ", "Veldmark needs administrator access"
 

@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/utsname.h>
 #include <unistd.h>
 
 using namespace veldmark;
@@ -213,6 +214,15 @@ controlSocket: ~/Library/Application Support/Veldmark/run/control
             for (const PlatformProfile &profile : {PlatformProfile::linux(places), PlatformProfile::macos(places)})
                 QVERIFY2(profile.bundleArchivePrefix.endsWith(u'-' + places.machine + u'-'), qPrintable(profile.bundleArchivePrefix));
         }
+    }
+
+    // The kernel's name of it, which on a Mac is another one than the Tor Project's.
+    void theMachineIsThisOne()
+    {
+        utsname system{};
+        QCOMPARE(::uname(&system), 0);
+        const QString machine = QString::fromLatin1(system.machine);
+        QCOMPARE(Places::fromEnvironment().machine, machine == QLatin1String("arm64") ? QStringLiteral("aarch64") : machine);
     }
 
     void aRelativeFolderOfTheEnvironmentIsIgnored()

@@ -17,6 +17,7 @@ public:
         static const QStringList known{
             QStringLiteral("Starting Tor…"), QStringLiteral("Testing %1 bridges…"), QStringLiteral("Testing speed (%1 of %2)…"),
             QStringLiteral("Couldn't open %1 without Tor: %2"),
+            QStringLiteral("Couldn't change the login-item setting: %1"), QStringLiteral("Couldn't write %1: %2"),
             QStringLiteral("Tor didn't finish connecting within 5 minutes."),
             QStringLiteral("%1 Your network is still pointed at Tor. Click Restore Network to undo.")};
         const QString text = QString::fromUtf8(source);
@@ -50,6 +51,9 @@ private Q_SLOTS:
                               "Click Restore Network to undo.")
             << QStringLiteral("[[Tor didn't finish connecting within 5 minutes.] Your network is still pointed at Tor. "
                               "Click Restore Network to undo.]");
+        QTest::newRow("a reason behind a colon")
+            << QStringLiteral("Couldn't change the login-item setting: Couldn't write /a: b: No.")
+            << QStringLiteral("[Couldn't change the login-item setting: [Couldn't write /a: b: No.]]");
     }
     void translatesWhatItKnows()
     {
