@@ -2,7 +2,7 @@
 # ---- Linux: connect and disconnect -------------------------------------------------------------------------
 
 readonly FIREWALL_ENTRY=10-firewall
-readonly ENTRIES="$KDE_ENTRY $GNOME_ENTRY $GLOBAL_ENTRY $RESOLVED_ENTRY $RESOLVER_ENTRY $TOR_ENTRY $SERVICE_ENTRY $WATCHER_ENTRY $EXEMPT_ENTRY $FIREWALL_ENTRY"   # in the order of undoing
+readonly ENTRIES="$KDE_ENTRY $GNOME_ENTRY $GLOBAL_ENTRY $RESOLVED_ENTRY $RESOLVER_ENTRY $TOR_ENTRY $IDENTIFIER_ENTRY $IDENTITIES_ENTRY $SERVICE_ENTRY $WATCHER_ENTRY $EXEMPT_ENTRY $FIREWALL_ENTRY"   # in the order of undoing
 
 # switch_firewall MODE: marker and rules belong together, the marker first.
 switch_firewall() {
@@ -57,6 +57,7 @@ linux_connect() {
   fi
   undo_entry "$TOR_ENTRY" || ! journal_has "$TOR_ENTRY" || die "$UNDONE"
   stop_services
+  separate_applications "$OPT_SEPARATE"
   start_tor
   put_resolver
   put_resolved || true   # the firewall redirects what it asks
@@ -87,6 +88,9 @@ undo_entry() {
   if [[ $name == "$WATCHER_ENTRY" ]] && [[ $status == 2 || -z $JOURNAL_TRUSTED ]]; then
     kill_stray_watcher
   fi
+  if [[ $name == "$IDENTIFIER_ENTRY" ]] && [[ $status == 2 || -z $JOURNAL_TRUSTED ]]; then
+    kill_stray_identifier
+  fi
   case $name in
   "$KDE_ENTRY") undo_kde ;;
   "$GNOME_ENTRY") undo_gnome ;;
@@ -94,6 +98,8 @@ undo_entry() {
   "$RESOLVED_ENTRY") undo_resolved ;;
   "$RESOLVER_ENTRY") undo_resolver ;;
   "$TOR_ENTRY") undo_tor ;;
+  "$IDENTIFIER_ENTRY") undo_identifier ;;
+  "$IDENTITIES_ENTRY") undo_identities ;;
   "$SERVICE_ENTRY") undo_service ;;
   "$WATCHER_ENTRY") undo_watcher ;;
   "$EXEMPT_ENTRY") undo_exempt ;;
@@ -115,8 +121,8 @@ undo_session() {
     UNDONE='' status=0
     undo_entry "$name" || status=$?
     ((status == 0)) || reason=${reason:-${UNDONE:-The former network settings could not all be restored.}}
-    # The desktop's settings, the service and the group are not the network: they are tried again by the next run.
-    [[ $status != 1 || $name == "$GNOME_ENTRY" || $name == "$KDE_ENTRY" || $name == "$SERVICE_ENTRY" || $name == "$EXEMPT_ENTRY" ]] || open=''
+    # The desktop's settings, the service, identities and the group are not the network: they are tried again by the next run.
+    [[ $status != 1 || $name == "$GNOME_ENTRY" || $name == "$KDE_ENTRY" || $name == "$SERVICE_ENTRY" || $name == "$IDENTITIES_ENTRY" || $name == "$EXEMPT_ENTRY" ]] || open=''
   done
   [[ -z $open ]] || rm -f -- "$MARKER" "$ASKED" "$OWNER" "$RULES" "$LISTED" "$OTHERS_NOTE"
   rm -f -- "$MARKER.new" "$ASKED.new" "$OWNER.new" "$RULES.new" "$LISTED.new" "$WATCHER" "$WATCHER.new" "$KILL_SWITCH_NOTE" "$KILL_SWITCH_NOTE.new" "$STATE/relocked" "$TORRC.checked" "$JOURNAL"/*.new
@@ -146,6 +152,7 @@ linux_fix-dns() {
     release_rules
   fi
   [[ $(read_marker) != strict ]] || watcher_runs || start_watcher
+  ! journal_has "$IDENTITIES_ENTRY" || identifier_runs || separate_applications 1
   read_resolver
   put_resolver
   { put_resolved && put_global; } || die "The DNS servers of systemd-resolved cannot be changed."
