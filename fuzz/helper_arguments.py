@@ -24,7 +24,7 @@ identify_caller() { CALLER_UID=4242; PROMPTED=1; }
 need_programs() { :; }
 find_launcher() { :; }
 take_lock() {
-  printf 'OK\0%s\0' "$OPT_TOR" "$OPT_HASH" "$OPT_STRICT" "$OPT_LAN" "$OPT_EXIT" "$OPT_LYREBIRD" "$OPT_SNOWFLAKE" \
+  printf 'OK\0%s\0' "$OPT_TOR" "$OPT_HASH" "$OPT_STRICT" "$OPT_LAN" "$OPT_SEPARATE" "$OPT_EXIT" "$OPT_LYREBIRD" "$OPT_SNOWFLAKE" \
     "$OPT_WEBTUNNEL" "$OPT_USER" "$OPT_LAUNCH" "$OPT_UID" "$OPT_APP" "$OPT_PROGRAM" "$OPT_AS" "$OPT_SHA256" ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"}
   if [[ -n $OPT_TOR ]]; then printf 'TORRC\0%s\0' "$(print_torrc 1)"; fi
   exit 42

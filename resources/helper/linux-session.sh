@@ -116,17 +116,22 @@ JOURNAL_TRUSTED=1
 
 # undo_session: everything, backwards, the firewall last; goes on when a step fails. Keeps the first reason.
 undo_session() {
-  local name status reason='' open=1
+  local name status reason='' least='' open=1
   for name in $ENTRIES; do
     UNDONE='' status=0
     undo_entry "$name" || status=$?
-    ((status == 0)) || reason=${reason:-${UNDONE:-The former network settings could not all be restored.}}
+    case $status,$name in
+    0,*) ;;
+    *,"$IDENTITIES_ENTRY") least=$UNDONE ;;   # what keeps the network closed is worth more
+    *) reason=${reason:-${UNDONE:-The former network settings could not all be restored.}} ;;
+    esac
     # The desktop's settings, the service, identities and the group are not the network: they are tried again by the next run.
     [[ $status != 1 || $name == "$GNOME_ENTRY" || $name == "$KDE_ENTRY" || $name == "$SERVICE_ENTRY" || $name == "$IDENTITIES_ENTRY" || $name == "$EXEMPT_ENTRY" ]] || open=''
   done
   [[ -z $open ]] || rm -f -- "$MARKER" "$ASKED" "$OWNER" "$RULES" "$LISTED" "$OTHERS_NOTE"
   rm -f -- "$MARKER.new" "$ASKED.new" "$OWNER.new" "$RULES.new" "$LISTED.new" "$WATCHER" "$WATCHER.new" "$KILL_SWITCH_NOTE" "$KILL_SWITCH_NOTE.new" "$STATE/relocked" "$TORRC.checked" "$JOURNAL"/*.new
   [[ -z $open || ! -e $MARKER ]] || reason=${reason:-"The network is open again, but the session marker cannot be removed from $STATE."}
+  reason=${reason:-$least}
   [[ -n $reason || -z $(compgen -G "$JOURNAL/*") ]] || reason="The network is open again, but the journal in $JOURNAL cannot be cleared."
   UNDONE=$reason
   [[ -z $reason ]]
