@@ -70,6 +70,7 @@ struct Snapshot {
     std::optional<KillSwitch> killSwitch;
     std::optional<QString> exitIP;
     std::optional<bool> torVerified;
+    std::optional<TrafficWatch::Stall> stall;
     Leak leak;
     Lookups lookups;
     bool isChecking = false;
@@ -104,7 +105,8 @@ struct Snapshot {
                             .isExposed = isExposed,
                             .isDNSLeaking = lookups.kind == Lookups::Kind::leak,
                             .torVerified = torVerified,
-                            .detail = statusDetail});
+                            .detail = statusDetail,
+                            .stall = stall});
     }
 };
 
