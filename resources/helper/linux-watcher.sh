@@ -74,9 +74,18 @@ print_unexempt() {
   done <<<"$1"
 }
 
-# monitor_rules: becomes nft's monitor, which dies with the watcher, also one that has died before this could be arranged.
+# monitor PARENT KIND: becomes nft's monitor, which dies with its parent, also with one that has died before this could be arranged.
 # shellcheck disable=SC2016
-monitor_rules() { exec setpriv --pdeathsig KILL sh -c '[ "$PPID" != "$1" ] || exec nft monitor' monitor "$$"; }
+monitor() { exec setpriv --pdeathsig KILL sh -c '[ "$PPID" != "$1" ] || exec nft monitor "$2"' monitor "$1" "$2"; }
+
+# monitor_rules: one for each kind of change that the listing tells, and none for the elements of sets, which come and go with
+# applications. The first is the others' parent.
+monitor_rules() {
+  local first=$BASHPID
+  monitor "$first" tables &
+  monitor "$first" chains &
+  monitor "$$" rules
+}
 
 # beat: the note once more as it is, in place, by this shell alone. On descriptor 3, since `declare -f` prints 1<> as <>.
 beat() {
@@ -153,7 +162,7 @@ print_watcher() {
     WORD MISSED SINCE NOTED JOURNAL TOR_ENTRY SOCKS_PORT CONTROL_PORT DNS_PORT
   printf 'STRUGGLES=0 LESSENED= LISTING= TREE= TOR_UID= VOUCHED= CHILDREN= START_TIME= JOURNAL_LINES=()\n'
   declare -f read_marker put_in_place write_file note_rules hold_rules release_rules note_listing rules_stand find_tree make_group make_groups read_listing copy_stands \
-    print_unexempt relock monitor_rules beat await_change port_sockets has_socket \
+    print_unexempt relock monitor monitor_rules beat await_change port_sockets has_socket \
     journal_has journal_read read_lines journal_value boot_id start_time recorded_pid read_children ports_are_tors watch_rules
   printf 'watch_rules\n'
 }
@@ -195,22 +204,31 @@ await_standstill() {
   done
 }
 
-# undo_watcher: it never waits for us, so it is killed at once. A change of rules that it was in the middle of keeps
-# the rules' lock, so that the firewall opens after that.
-undo_watcher() {
-  local pid child
-  rm -f -- "$WATCHER"
-  pid=$(recorded_pid) || { rm -f -- "$KILL_SWITCH_NOTE"; return 0; }
+# end_recorded: kills the process of the entry that was read, which never waits for us, and what it has started.
+end_recorded() {
+  local pid child all
+  pid=$(recorded_pid) || return 0
   # A child that it is just starting would be missed; what stands still starts none.
   kill -STOP "$pid" || true
   await_standstill "$pid"
   read_children "$pid"
-  kill -KILL "$pid" || true
+  all=$CHILDREN
   for child in $CHILDREN; do
+    read_children "$child"
+    all="$all $CHILDREN"
+  done
+  kill -KILL "$pid" || true
+  for child in $all; do
     kill -KILL "$child" || true
   done
   recorded_lives || true
-  for child in $CHILDREN; do await_standstill "$child"; done
+  for child in $all; do await_standstill "$child"; done
+}
+
+# undo_watcher: a change of rules that it was in the middle of keeps the rules' lock, so that the firewall opens after that.
+undo_watcher() {
+  rm -f -- "$WATCHER"
+  end_recorded
   rm -f -- "$KILL_SWITCH_NOTE"   # it writes no other any more
 }
 

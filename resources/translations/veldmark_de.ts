@@ -1610,6 +1610,22 @@
         <source>Copy</source>
         <translation>Kopieren</translation>
     </message>
+    <message>
+        <source>Separate applications</source>
+        <translation>Anwendungen trennen</translation>
+    </message>
+    <message>
+        <source>Disconnect to change</source>
+        <translation>Zum Ändern trennen</translation>
+    </message>
+    <message>
+        <source>Each application has circuits of its own</source>
+        <translation>Jede Anwendung hat eigene Kanäle</translation>
+    </message>
+    <message>
+        <source>Sites cannot tell by the exit address that two applications are yours. Applications are told apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with all of their login session or account.</source>
+        <translation>Seiten erkennen nicht an der Ausgangsadresse, dass zwei Anwendungen Ihre sind. Anwendungen werden unterschieden, wo die Arbeitsumgebung jede in einer eigenen Kontrollgruppe startet, wie GNOME und KDE. Andere Programme teilen sich Kanäle mit ihrer ganzen Anmeldesitzung oder ihrem Konto.</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

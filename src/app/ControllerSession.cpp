@@ -83,7 +83,7 @@ void ControllerSession::read()
     Snapshot next;
     next.choices = {c.strictMode(),   c.allowLocalNetwork(), c.exitCountry(), c.customTorPath(),
                     c.bridgeChoice(), c.customBridges(),     c.bypassApps(),  c.autoConnect(),
-                    c.optimizeSpeed(), c.terminalMode()};
+                    c.optimizeSpeed(), c.terminalMode(), c.separateApps()};
     next.phase = c.phase();
     next.activeMode = c.activeMode();
     next.activeBridge = c.activeBridge();
@@ -184,6 +184,7 @@ void ControllerSession::store(const Choices &choices)
     keep(c.autoConnect, choices.autoConnect);
     keep(c.optimizeSpeed, choices.optimizeSpeed);
     keep(c.terminalMode, choices.terminalMode);
+    keep(c.separateApps, choices.separateApps);
     schedule();
 }
 

@@ -4,6 +4,7 @@
 #include "cli/BridgesCommand.h"
 #include "cli/Console.h"
 #include "cli/DoctorCommand.h"
+#include "cli/IdentitiesCommand.h"
 #include "cli/LogCommand.h"
 #include "cli/ProgressLine.h"
 #include "cli/Report.h"
@@ -201,6 +202,12 @@ QCoro::Task<ExitStatus> execute(Invocation invocation, PlatformProfile profile)
         return showDoctor(invocation, profile);
     if (invocation.verb == Verb::Id::apps)
         return showApplications(invocation, profile);
+    if (invocation.verb == Verb::Id::identities)
+        return showIdentities(invocation, profile);
+    if (invocation.verb == Verb::Id::renew)
+        return renewIdentity(invocation, profile);
+    if (invocation.verb == Verb::Id::runAs)
+        return runAs(invocation, profile);
     if (invocation.verb == Verb::Id::launch) {
         const auto path = applicationPath(invocation.key);
         if (!path)

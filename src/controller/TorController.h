@@ -103,6 +103,7 @@ public:
     // --- The user's settings; each `set` is stored at once. ---
     Setting<bool> strictMode{this, "strictMode", Scope::connection, "the kill switch, else proxy mode", true};
     Setting<bool> allowLocalNetwork{this, "allowLocalNetwork", Scope::connection, "strict mode lets the local network through", true};
+    Setting<bool> separateApps{this, "separateApps", Scope::connection, "each application has circuits of its own", true};
     Setting<QString> exitCountry{this, "exitCountry", Scope::connection, "two lower-case letters, or nothing for any", QString()};
     Setting<QString> customTorPath{this, "customTorPath", Scope::connection, "the tor to use, or nothing to search for it", QString()};
     Setting<BridgeChoice> bridgeChoice{this, "bridgeChoice", Scope::connection, "which bridges", BridgeChoice::off};

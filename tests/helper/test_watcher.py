@@ -111,9 +111,9 @@ class Watcher(HelperTest):
             wire.close()
 
     def test_it_looks_also_when_the_kernel_tells_nothing(self):
-        self.machine.shell("pkill -STOP -xf 'nft monitor'")   # and not what it looks with
+        self.machine.shell("pkill -STOP -xf 'nft monitor [a-z]*'")   # and not what it looks with
         self.seconds_until_locked("nft flush ruleset")
-        self.machine.shell("pkill -CONT -xf 'nft monitor'")
+        self.machine.shell("pkill -CONT -xf 'nft monitor [a-z]*'")
 
     def test_the_change_is_told(self):
         self.assertEqual(self.note(), "standing 0")

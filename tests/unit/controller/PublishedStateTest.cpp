@@ -15,7 +15,7 @@ private Q_SLOTS:
     void everyPublishedFieldIsThereUnderItsName()
     {
         Workbench bench;
-        const QStringList fields = u"strictMode allowLocalNetwork exitCountry customTorPath bridgeChoice customBridges "
+        const QStringList fields = u"strictMode allowLocalNetwork separateApps exitCountry customTorPath bridgeChoice customBridges "
             "bypassApps autoConnect optimizeSpeed latencyMs optimizeStatus isOptimizing transports activeBridge "
             "terminalMode phase activeMode bootstrapProgress statusDetail bootstrapProblem killSwitch killSwitchSince exitIP torVerified leakStatus "
             "bytesRead bytesWritten stall isChecking otherSession canCancel errorMessage dnsStatus passwordlessInstalled startupError circuits "
@@ -92,7 +92,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QJsonValue>("value"); // undefined: refused
         const QJsonValue refused(QJsonValue::Undefined);
-        for (const char *name : {"strictMode", "allowLocalNetwork", "autoConnect", "optimizeSpeed", "terminalMode"}) {
+        for (const char *name : {"strictMode", "allowLocalNetwork", "separateApps", "autoConnect", "optimizeSpeed", "terminalMode"}) {
             QTest::addRow("%s on", name) << QString::fromLatin1(name) << u"on"_s << QJsonValue(true);
             QTest::addRow("%s off", name) << QString::fromLatin1(name) << u" FALSE "_s << QJsonValue(false);
             QTest::addRow("%s yes", name) << QString::fromLatin1(name) << u"yes"_s << QJsonValue(true);
@@ -161,7 +161,7 @@ private Q_SLOTS:
                                                                             : value.toString();
             QVERIFY2(setSetting(bench.controller(), name, text), qPrintable(name));
         }
-        QCOMPARE(names.size(), 10);
+        QCOMPARE(names.size(), 11);
     }
 
     void saysWhenTheSettingWasNotSaved()

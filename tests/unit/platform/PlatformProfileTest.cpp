@@ -44,6 +44,7 @@ QString table(const PlatformProfile &p)
         {"sessionMarker", p.sessionMarker},
         {"sessionOwner", p.sessionOwner},
         {"killSwitchNote", p.killSwitchNote},
+        {"identities", list({p.identitiesNote, p.identitiesSocket})},
         {"installedHelper", p.installedHelper},
         {"sudoersRule", p.sudoersRule},
         {"runDirectory", p.runDirectory},
@@ -136,6 +137,7 @@ manualRestoreCommand: sudo bash /nowhere/usr/share/veldmark/veldmark-helper.sh d
 sessionMarker: /nowhere/var/lib/veldmark/state/active
 sessionOwner: /nowhere/var/lib/veldmark/state/owner
 killSwitchNote: /nowhere/run/veldmark.watch
+identities: /nowhere/run/veldmark.identities, /nowhere/run/veldmark.identify
 installedHelper: /nowhere/usr/local/libexec/veldmark/veldmark-helper.sh
 sudoersRule: /nowhere/etc/sudoers.d/veldmark
 runDirectory: /nowhere/var/lib/veldmark/run
@@ -177,6 +179,7 @@ manualRestoreCommand: sudo bash /Applications/Veldmark.app/Contents/Resources/ve
 sessionMarker: /nowhere/Library/Application Support/Veldmark/state/active
 sessionOwner: 
 killSwitchNote: /nowhere/var/run/veldmark.watch
+identities: , 
 installedHelper: /nowhere/Library/Application Support/Veldmark/bin/veldmark-helper.sh
 sudoersRule: /nowhere/etc/sudoers.d/veldmark
 runDirectory: /nowhere/var/db/veldmark/run
