@@ -132,10 +132,12 @@ nft add rule ip vpn out ip saddr 10.9.0.2 masquerade
 _VPN = f"""[Interface]
 PrivateKey = %s
 Address = 10.9.0.2/32
+PostUp = ip route add {at.ROUTER_WORLD_ADDRESS} via {at.ROUTER_LAN_ADDRESS}
+PostDown = ip route del {at.ROUTER_WORLD_ADDRESS}
 
 [Peer]
 PublicKey = %s
-Endpoint = {at.ROUTER_LAN_ADDRESS}:51820
+Endpoint = {at.ROUTER_WORLD_ADDRESS}:51820
 AllowedIPs = 0.0.0.0/1, 128.0.0.0/1
 PersistentKeepalive = 5
 """
@@ -176,9 +178,11 @@ def vpn_before(stage: Stage) -> None:
         expect("wg0" in machine.shell(f"ip route get {at.WEB_ADDRESS}"), "the VPN does not take the traffic")
         wait(lambda: direct(machine), 20, "the VPN does not work to begin with")
         before = network(machine)
-        with connected(machine, strict=False) as session:
-            end(session, machine, before)
         ctl = product(machine)
+        ctl.run_verb("set", "strictMode", "false", check=True)
+        with ctl.session() as session:
+            session.wait(is_protected, 90)
+            end(session, machine, before)
         ctl.run_verb("set", "strictMode", "true", check=True)
         with watched(stage), ctl.session() as session:
             started = time.monotonic()
