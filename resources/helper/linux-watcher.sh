@@ -29,12 +29,12 @@ relock() {
     make_groups   # the rules name them, and they may be gone
     if nft -f - <<<"$text"; then
       if [[ -n $LESSENED ]]; then
-        if copy_stands "$text" && note_listing; then LESSENED=''; else word=open; fi
+        if copy_stands "$text" && keep_listing; then LESSENED=''; else word=open; fi
       elif ! rules_stand; then
         # Either nft words the same rules in another way now, or somebody changes them as fast as we do.
         if ! copy_stands "$text"; then
           STRUGGLES=$((STRUGGLES + 1)) word=open   # whatever was loaded, it does not stand
-        elif note_listing; then
+        elif keep_listing; then
           word=standing
         fi
         ((STRUGGLES < 3)) || sleep "$BEAT_SECONDS"
@@ -44,7 +44,7 @@ relock() {
     elif nft -f - <<<"$(print_unexempt "$text")"; then
       # Without its group the exemption cannot be loaded; the lock can.
       LESSENED=1
-      { copy_stands "$(print_unexempt "$text")" && note_listing; } || word=open
+      { copy_stands "$(print_unexempt "$text")" && keep_listing; } || word=open
     else
       word=open
     fi
@@ -53,7 +53,8 @@ relock() {
   release_rules
 }
 
-# copy_stands TEXT: whether the kernel's listing is that of the rules, by a copy of them that takes no part in anything.
+# copy_stands TEXT: whether the kernel's listing is that of the rules, by a copy of them that takes no part in anything. LISTING is then
+# that listing; one that is read afterwards may already be another.
 copy_stands() {
   local copy=$TABLE-copy now text
   read_listing "$TABLE" || return 1
@@ -63,7 +64,8 @@ copy_stands() {
   read_listing "$copy" || LISTING=''
   nft delete table inet "$copy"
   LISTING=${LISTING/"tableinet$copy"/"tableinet$TABLE"}
-  [[ ${LISTING/$'flagsdormant\n\n'/} == "$now" ]]
+  [[ ${LISTING/$'flagsdormant\n\n'/} == "$now" ]] || return 1
+  LISTING=$now
 }
 
 # print_unexempt TEXT: the rules without those that name the exempt group.
@@ -161,7 +163,7 @@ print_watcher() {
   declare -p TABLE RULES LISTED RULES_LOCK MARKER KILL_SWITCH_NOTE WATCH_SECONDS BEAT_SECONDS EXEMPT_NAME RUN_GROUP TOR_GROUP CGROUPS \
     WORD MISSED SINCE NOTED JOURNAL TOR_ENTRY SOCKS_PORT CONTROL_PORT DNS_PORT
   printf 'STRUGGLES=0 LESSENED= LISTING= TREE= TOR_UID= VOUCHED= CHILDREN= START_TIME= JOURNAL_LINES=()\n'
-  declare -f read_marker put_in_place write_file note_rules hold_rules release_rules note_listing rules_stand find_tree make_group make_groups read_listing copy_stands \
+  declare -f read_marker put_in_place write_file note_rules hold_rules release_rules keep_listing rules_stand find_tree make_group make_groups read_listing copy_stands \
     print_unexempt relock monitor monitor_rules beat await_change port_sockets has_socket \
     journal_has journal_read read_lines journal_value boot_id start_time recorded_pid read_children ports_are_tors watch_rules
   printf 'watch_rules\n'
