@@ -142,10 +142,9 @@ watch_rules() {
   while [[ $(read_marker) == strict ]]; do
     if ! rules_stand; then
       relock
-    elif ports_are_tors; then
-      note_rules standing || true
     else
-      NOTED=''
+      beat || true   # on a busy computer the rest takes its time
+      if ports_are_tors; then note_rules standing || true; else NOTED=''; fi
     fi
     await_change || {
       # Look on, and ask again.
