@@ -47,7 +47,7 @@ Pane {
         visible: pane.model.canSeparateApps
         contentSpacing: 12
         SwitchRow {
-            symbol: "square.stack.3d.up"
+            symbol: "arrow.triangle.branch"
             title: qsTr("Separate applications")
             subtitle: pane.model.torLocked ? qsTr("Disconnect to change") : qsTr("Each application has circuits of its own")
             on: pane.model.separateApps
