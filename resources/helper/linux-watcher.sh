@@ -230,6 +230,8 @@ end_recorded() {
 undo_watcher() {
   rm -f -- "$WATCHER"
   end_recorded
+  # A copy of the rules that it was comparing with just then.
+  nft -f - <<<"delete table inet $TABLE-copy" >/dev/null 2>&1 || true
   rm -f -- "$KILL_SWITCH_NOTE"   # it writes no other any more
 }
 
