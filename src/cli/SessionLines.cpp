@@ -22,7 +22,7 @@ SessionLines::SessionLines(const TorController &controller)
     follow({&c.bootstrapProblem}, &SessionLines::showProblem);
     follow({&c.phase, &c.isChecking}, &SessionLines::showPhase);
     follow({&c.killSwitch}, &SessionLines::showKillSwitch);
-    follow({&c.dnsStatus, &c.leakStatus, &c.torVerified, &c.otherSession}, &SessionLines::showVerdict);
+    follow({&c.dnsStatus, &c.leakStatus, &c.torVerified, &c.otherSession, &c.stall}, &SessionLines::showVerdict);
 }
 
 void SessionLines::finish()

@@ -43,6 +43,31 @@ private Q_SLOTS:
         QVERIFY(until([&] { return bench.controller().phase() == ConnectionPhase::disconnected; }));
     }
 
+    void whatKeepsTrafficFromGettingThroughIsSaidAlsoWhenItChanges()
+    {
+        Workbench bench;
+        const SessionLines lines(bench.controller());
+        QVERIFY(bench.connect());
+        QVERIFY(until([&] { return !bench.controller().isChecking(); }));
+        settle();
+        bench.hasCircuit = false;
+        bench.setCounters("1000", "200");
+        bench.route = std::nullopt;
+        QString said;
+        {
+            const Output output;
+            for (int tick = 0; tick < 7; ++tick)
+                QVERIFY(bench.tick());
+            settle();
+            bench.route = NetworkRoute{u"eth0"_s, false}; // there is a network, and Tor has not noticed yet
+            QVERIFY(bench.tick());
+            settle();
+            said = output.text();
+        }
+        QVERIFY2(said.contains(u"No Network"_s), qPrintable(said));
+        QVERIFY2(said.contains(u"Nothing Gets Through"_s), qPrintable(said));
+    }
+
     // And again in the next session of the same program.
     void eachRestoreIsSaid()
     {
