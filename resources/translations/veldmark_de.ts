@@ -1177,6 +1177,46 @@
         <translation>Apps, die den System-Proxy benutzen, gehen durch Tor, aber der Ausgang ließ sich nicht bestätigen</translation>
     </message>
     <message>
+        <source>No Network</source>
+        <translation>Kein Netz</translation>
+    </message>
+    <message>
+        <source>Nothing Gets Through</source>
+        <translation>Nichts kommt durch</translation>
+    </message>
+    <message>
+        <source>This computer has no network. Nothing gets out around Tor meanwhile.</source>
+        <translation>Dieser Rechner hat kein Netz. Solange gelangt nichts an Tor vorbei nach draußen.</translation>
+    </message>
+    <message>
+        <source>This computer has no network. Veldmark goes on when it is back.</source>
+        <translation>Dieser Rechner hat kein Netz. Veldmark macht weiter, sobald es wieder da ist.</translation>
+    </message>
+    <message>
+        <source>Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile.</source>
+        <translation>Tor hat keinen funktionierenden Kanal und versucht es weiter. Solange gelangt nichts daran vorbei nach draußen.</translation>
+    </message>
+    <message>
+        <source>Tor has no working circuit and keeps trying.</source>
+        <translation>Tor hat keinen funktionierenden Kanal und versucht es weiter.</translation>
+    </message>
+    <message>
+        <source>Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile.</source>
+        <translation>Tor bekommt aus dem Netz keine Antwort und versucht es weiter. Solange gelangt nichts daran vorbei nach draußen.</translation>
+    </message>
+    <message>
+        <source>Tor gets no answer from the network and keeps trying.</source>
+        <translation>Tor bekommt aus dem Netz keine Antwort und versucht es weiter.</translation>
+    </message>
+    <message>
+        <source>This computer has no network, so Tor can&apos;t connect.</source>
+        <translation>Dieser Rechner hat kein Netz, daher kann Tor keine Verbindung herstellen.</translation>
+    </message>
+    <message>
+        <source>A VPN takes Tor&apos;s traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode.</source>
+        <translation>Ein VPN nimmt Tors Verkehr auf, und der strikte Modus lässt das VPN nicht hinaus. Schalten Sie das VPN aus, oder verwenden Sie den Proxy-Modus.</translation>
+    </message>
+    <message>
         <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
         <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt; sie stehen wieder.</translation>
     </message>

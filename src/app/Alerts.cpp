@@ -56,6 +56,7 @@ void Alerts::tellDanger(Verdict::Danger danger)
                  tr("It can't be told whether it stands. Open Veldmark, disconnect and connect again."));
         return;
     case Danger::none:
+    case Danger::stalled: // nothing is at risk, and whoever wants something of the network looks
     case Danger::exitNotConfirmed:
     case Danger::leftOver:
         return;

@@ -104,6 +104,7 @@ void ControllerSession::read()
         next.bytesWritten = c.bytesWritten();
         next.exitIP = c.exitIP();
         next.torVerified = c.torVerified();
+        next.stall = c.stall();
         next.leak = leakOf(c.leakStatus());
         next.lookups = lookupsOf(c.dnsStatus());
         next.isChecking = c.isChecking();

@@ -22,9 +22,31 @@ Danger worst(const SessionFacts &facts)
         return Danger::leftOver;
     if (isStrict && facts.killSwitch.value_or(KillSwitch::State::unknown) == KillSwitch::State::unknown)
         return Danger::killSwitchUnknown;
+    if (isConnected && facts.stall)
+        return Danger::stalled;
     if (isConnected && facts.torVerified == false)
         return Danger::exitNotConfirmed;
     return Danger::none;
+}
+
+// What is being waited for. In strict mode the rules were seen to stand, else there is a worse danger.
+QString waiting(TrafficWatch::Stall stall, bool isStrict)
+{
+    using Stall = TrafficWatch::Stall;
+    switch (stall) {
+    case Stall::noNetwork:
+        return isStrict ? QStringLiteral("This computer has no network. Nothing gets out around Tor meanwhile.")
+                        : QStringLiteral("This computer has no network. Veldmark goes on when it is back.");
+    case Stall::noCircuit:
+        return isStrict ? QStringLiteral("Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile.")
+                        : QStringLiteral("Tor has no working circuit and keeps trying.");
+    case Stall::noAnswer:
+        return isStrict ? QStringLiteral("Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile.")
+                        : QStringLiteral("Tor gets no answer from the network and keeps trying.");
+    case Stall::vpn:
+        break;
+    }
+    return QStringLiteral("A VPN takes Tor's traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode.");
 }
 
 Verdict inDanger(Danger danger, const SessionFacts &facts)
@@ -46,6 +68,10 @@ Verdict inDanger(Danger danger, const SessionFacts &facts)
     case Danger::killSwitchUnknown:
         return {Level::warning, danger, attention, symbol,
                 QStringLiteral("It can't be told whether the kill switch stands. Disconnect and connect again.")};
+    case Danger::stalled:
+        return {Level::warning, danger,
+                facts.stall == TrafficWatch::Stall::noNetwork ? QStringLiteral("No Network") : QStringLiteral("Nothing Gets Through"), symbol,
+                waiting(*facts.stall, isStrict)};
     case Danger::exitNotConfirmed:
         return {Level::warning, danger, attention, symbol,
                 isStrict ? QStringLiteral("All traffic is locked to Tor, but the exit could not be confirmed")

@@ -3,6 +3,7 @@
 #include "base/ConnectionPhase.h"
 #include "base/RoutingMode.h"
 #include "checks/KillSwitch.h"
+#include "checks/TrafficWatch.h"
 
 #include <QString>
 
@@ -19,6 +20,7 @@ struct SessionFacts {
     bool isDNSLeaking = false;
     std::optional<bool> torVerified = {}; // absent: not checked yet
     QString detail = {};                  // the line under the title where no danger is known
+    std::optional<TrafficWatch::Stall> stall = {}; // absent: something gets through, as far as is known
 };
 
 // How safe the session is, in one place: title, symbol, line and colour of every window, the tray, the
@@ -32,6 +34,7 @@ struct Verdict {
     enum class Danger {
         none,
         exitNotConfirmed,
+        stalled, // nothing gets through Tor
         killSwitchUnknown,
         leftOver, // the network is still set up for Tor, without a session
         exposed,  // in strict mode

@@ -68,9 +68,14 @@ std::optional<QString> TorController::problemBehind(const BootstrapStatus &statu
     }
     if (status.progress < relayReached && waited >= relayPatience) {
         // Tor itself sees nothing but silence.
+        const auto route = m_services.route();
+        if (!route)
+            return QStringLiteral("This computer has no network, so Tor can't connect.");
         if (const QStringList others = OtherFirewalls::denying(m_services.profile); !others.isEmpty())
             return QStringLiteral("Another firewall on this computer denies what goes out, so Tor can't connect: %1.")
                 .arg(others.join(QStringLiteral(", ")));
+        if (strictMode() && route->isVPN)
+            return QStringLiteral("A VPN takes Tor's traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode.");
     }
     if (!status.warning.isEmpty())
         return status.warning;

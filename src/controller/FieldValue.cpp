@@ -75,6 +75,8 @@ QJsonValue json(const SessionOwner &value)
 
 QJsonValue json(const KillSwitch &value) { return value.name(); }
 
+QJsonValue json(TrafficWatch::Stall value) { return TrafficWatch::name(value); }
+
 QJsonValue json(const PluggableTransports &value)
 {
     QJsonObject builtin;

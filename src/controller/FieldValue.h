@@ -4,6 +4,7 @@
 #include "base/Result.h"
 #include "base/RoutingMode.h"
 #include "bridges/BridgeChoice.h"
+#include "checks/TrafficWatch.h"
 
 #include <QJsonValue>
 #include <QStringList>
@@ -38,6 +39,7 @@ QJsonValue json(const DNSStatus &value);
 QJsonValue json(const KillSwitch &value); // its state alone
 QJsonValue json(const LeakStatus &value);
 QJsonValue json(const SessionOwner &value);
+QJsonValue json(TrafficWatch::Stall value);
 QJsonValue json(const PluggableTransports &value);
 QJsonValue json(const std::vector<CircuitInfo> &value);
 

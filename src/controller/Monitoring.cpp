@@ -24,6 +24,7 @@ const QString offlineText = QStringLiteral("Tor hasn't confirmed that it is on t
                                            "telling it to; else disconnect and connect again.");
 const QString readKey = QStringLiteral("traffic/read");
 const QString writtenKey = QStringLiteral("traffic/written");
+const QString circuitKey = QStringLiteral("status/circuit-established");
 
 } // namespace
 
@@ -47,13 +48,36 @@ std::optional<QString> TorController::failure() const
 
 void TorController::startMonitoring()
 {
+    m_network.traffic.reset();
     monitor(++m_monitor);
+}
+
+void TorController::stopMonitoring()
+{
+    ++m_monitor;
+    stall = std::nullopt;
+}
+
+void TorController::lookAtTraffic(std::optional<bool> hasCircuit)
+{
+    const auto route = m_services.route();
+    const bool wasStalled = stall().has_value();
+    stall = m_network.traffic.take({.at = m_services.clock.now(),
+                                    .read = bytesRead(),
+                                    .written = bytesWritten(),
+                                    .hasCircuit = hasCircuit,
+                                    .hasRoute = route.has_value(),
+                                    .isInVPN = activeMode() == RoutingMode::strict && route && route->isVPN});
+    if (!wasStalled && stall())
+        forgetExit(); // what was verified may be another one when traffic flows again
+    else if (wasStalled && !stall())
+        runChecks();
 }
 
 QCoro::Task<void> TorController::monitor(quint64 run)
 {
     const QPointer<TorController> self(this);
-    const QStringList keys = {readKey, writtenKey};
+    const QStringList keys = {readKey, writtenKey, circuitKey};
     // Tor closes what it has and begins anew. It would send into connections of an address that is gone for minutes.
     const QStringList goOn = {QStringLiteral("SETCONF DisableNetwork=0")};
     const QStringList beginAnew = QStringList{QStringLiteral("SETCONF DisableNetwork=1")} + goOn;
@@ -97,6 +121,9 @@ QCoro::Task<void> TorController::monitor(quint64 run)
                 bytesRead = read;
             if (const quint64 written = counters->value(writtenKey).toULongLong(&valid); valid)
                 bytesWritten = written;
+            const QString established = counters->value(circuitKey);
+            if (phase() == ConnectionPhase::connected)
+                lookAtTraffic(established.isEmpty() ? std::nullopt : std::optional(established != QLatin1String("0")));
         } else if (++failures >= failuresUntilDead && phase() == ConnectionPhase::connected) {
             torDied();
             co_return;

@@ -31,7 +31,8 @@ Verdict TorController::verdict() const
                         .isExposed = leakStatus().isExposed(),
                         .isDNSLeaking = dnsStatus().isLeak(),
                         .torVerified = torVerified(),
-                        .detail = statusDetail()});
+                        .detail = statusDetail(),
+                        .stall = stall()});
 }
 
 bool TorController::optionsLocked() const

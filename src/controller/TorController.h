@@ -8,6 +8,8 @@
 #include "checks/KillSwitch.h"
 #include "checks/OwnAddresses.h"
 #include "checks/LeakStatus.h"
+#include "checks/NetworkRoute.h"
+#include "checks/TrafficWatch.h"
 #include "checks/Verdict.h"
 #include "circuits/CircuitTable.h"
 #include "controller/Published.h"
@@ -87,6 +89,7 @@ public:
         // locateTransports is used.
         std::function<QCoro::Task<PluggableTransports>()> locateWithoutAsking = {};
         std::function<QSet<QHostAddress>()> ownAddresses = OwnAddresses::present;
+        std::function<std::optional<NetworkRoute>()> route = NetworkRoute::present;
         // ProgramApproval::missing(), for the words of a connect. Without it nothing is ever to be approved.
         std::function<std::vector<ProgramApproval>(const QStringList &words)> missingApprovals = {};
     };
@@ -125,6 +128,8 @@ public:
     Published<std::optional<QString>> errorMessage{this, "errorMessage"};
     Published<quint64> bytesRead{this, "bytesRead"};        // since Tor started
     Published<quint64> bytesWritten{this, "bytesWritten"};
+    // Why nothing gets through Tor at the moment, although it counts as connected; absent while something does.
+    Published<std::optional<TrafficWatch::Stall>> stall{this, "stall"};
 
     // --- The checks. ---
     // What the watcher over the rules has last seen in the kernel; absent without a strict session. Read in every
@@ -274,8 +279,10 @@ private:
     std::optional<QString> problemBehind(const BootstrapStatus &status, std::chrono::nanoseconds waited) const;
     // Monitoring.cpp
     void startMonitoring();
-    void stopMonitoring() { ++m_monitor; }
+    void stopMonitoring();
     QCoro::Task<void> monitor(quint64 run);
+    // What the counters and Tor's word on its circuits say of the traffic.
+    void lookAtTraffic(std::optional<bool> hasCircuit);
     void torDied();
     void giveUpTo(const SessionOwner &other);
     QString replacedText() const; // `otherSession` is there
@@ -353,6 +360,7 @@ private:
         bool hasSlept = false;     // Tor is to begin anew
         bool mayBeOffline = false; // Tor was told to leave the network, and has not confirmed that it is back
         OwnAddresses addresses;
+        TrafficWatch traffic;
     } m_network;
     bool m_dnsLiveVerified = false;           // a live DNS check passed in this session
     bool m_isSettlingIn = false;              // settleIn() is under way

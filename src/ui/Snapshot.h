@@ -69,6 +69,7 @@ struct Snapshot {
     std::optional<KillSwitch> killSwitch;
     std::optional<QString> exitIP;
     std::optional<bool> torVerified;
+    std::optional<TrafficWatch::Stall> stall;
     Leak leak;
     Lookups lookups;
     bool isChecking = false;
@@ -103,7 +104,8 @@ struct Snapshot {
                             .isExposed = isExposed,
                             .isDNSLeaking = lookups.kind == Lookups::Kind::leak,
                             .torVerified = torVerified,
-                            .detail = statusDetail});
+                            .detail = statusDetail,
+                            .stall = stall});
     }
 };
 

@@ -146,7 +146,7 @@ class Machine(contextlib.AbstractContextManager):
         nspawn = program()
         command = [nspawn, "--directory", self.root, "--boot", f"--network-namespace-path=/run/netns/{NETWORK}",
                    "--capability=CAP_NET_ADMIN,CAP_NET_RAW", "--register=no", "--keep-unit", "--settings=no", "--machine=debian",
-                   "--resolv-conf=off", "--timezone=off", "--link-journal=no", "--console=pipe", "--quiet",
+                   "--resolv-conf=off", *(["--bind=/dev/net/tun"] if Path("/dev/net/tun").exists() else []), "--timezone=off", "--link-journal=no", "--console=pipe", "--quiet",
                    "--kill-signal=SIGRTMIN+4"]
         self._process = self._world.popen(
             command, env={"SYSTEMD_NSPAWN_UNIFIED_HIERARCHY": "1",

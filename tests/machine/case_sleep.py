@@ -1,9 +1,12 @@
-"""Suspend and resume, as far as a container can: logind's own signals around a sleep in which the cable is out."""
+"""Suspend and resume, as far as a container can: logind's own signals around a sleep in which the cable is out; and a clock that jumps."""
 
+import struct
+import subprocess
 import time
+from pathlib import Path
 
 from desktops import put
-from stage import CannotRun, Stage, connected, direct, end, expect, network, state, through_tor, wait, watched
+from stage import CannotRun, Stage, connected, direct, end, expect, is_protected, network, state, through_tor, wait, watched
 
 _SLEEP = "[Service]\nExecStart=\nExecStart=/bin/sh -c 'touch /run/asleep; while [ -e /run/asleep ]; do sleep 0.1; done'\n"
 # logind asks the kernel whether it can sleep; here a file answers.
@@ -18,8 +21,45 @@ systemctl daemon-reload
 """
 
 
+_SHIFT = "/etc/shifted-clock"
+
+
+def _shifted_clock(machine, folder: Path) -> None:
+    """Gives a machine that is off a clock of its own, see ShiftedClock.c."""
+    library = folder / "shifted-clock.so"
+    source = Path(__file__).with_name("ShiftedClock.c")
+    built = subprocess.run(["gcc", "-shared", "-fPIC", "-O2", "-o", library, source], capture_output=True, text=True, check=False)
+    if built.returncode:
+        raise CannotRun(f"no compiler for the clock: {built.stderr.splitlines()[0] if built.stderr else built.returncode}")
+    machine.write("/usr/lib/shifted-clock.so", library.read_bytes(), 0o755)
+    machine.write(_SHIFT, struct.pack("=q", 0))
+    machine.write("/etc/ld.so.preload", "/usr/lib/shifted-clock.so\n")
+
+
+def _shift(machine, seconds: int) -> None:
+    machine.run(["/usr/bin/python3", "-c", "import struct,sys; open(sys.argv[1], 'r+b').write(struct.pack('=q', int(sys.argv[2])))",
+                 _SHIFT, str(seconds)], check=True)
+    told = int(machine.shell("date +%s")) - time.time()
+    expect(abs(told - seconds) < 5, f"the machine's clock is {told:.0f} s ahead instead of {seconds}")
+
+
 def clock_jump(stage: Stage) -> None:
-    raise CannotRun("a container has no clock of its own")
+    """The time of day goes on by an hour at once, as after a sleep, and back again, as after a time server was asked."""
+    notes = []
+    with stage.machine("clock", prepare=lambda machine: _shifted_clock(machine, stage.folder)) as machine:
+        before = network(machine)
+        with connected(machine) as session:
+            with watched(stage):
+                for seconds, words in (3600, "an hour on"), (0, "back"):
+                    _shift(machine, seconds)
+                    started = time.monotonic()
+                    wait(lambda: through_tor(machine, 5), 60, f"no traffic through Tor after the clock went {words}")
+                    notes.append(f"{words}: through Tor after {time.monotonic() - started:.0f} s")
+                    told = session.wait(lambda s: is_protected(s), 60)
+                    expect(told["title"] == "Protected", f"it says {told['title']} after the clock went {words}")
+                    expect(not direct(machine), "the direct way is open")
+            end(session, machine, before)
+    stage.note = "; ".join(notes)
 
 
 def suspend_and_resume(stage: Stage) -> None:

@@ -43,17 +43,20 @@ class Stage:
         self.lab, self.base, self.package = lab, base, package
         self.leases = Leases(lab, base)
         self.installed: list[str] = []      # layers with the package and Debian's tor, as apt has left them
+        self.folder = FOLDER
         self.note = ""                      # a word for the table, of the case that runs
 
     @contextlib.contextmanager
-    def machine(self, name: str, tor_service: bool = False):
-        """The installed machine, booted. `tor_service`: Debian's own tor is on, as apt leaves it."""
+    def machine(self, name: str, tor_service: bool = False, prepare=None):
+        """The installed machine, booted. `tor_service`: Debian's own tor is on, as apt leaves it. `prepare` gets it before that."""
         if not self.installed:
             raise CannotRun("the package could not be installed")
         self.leases.give(at.HOST_ADDRESS)
         with Machine(self.lab, self.installed, name) as machine:
             if not tor_service:
                 machine.path("/etc/systemd/system/multi-user.target.wants/tor.service").unlink(missing_ok=True)
+            if prepare:
+                prepare(machine)
             machine.boot()
             yield machine
 

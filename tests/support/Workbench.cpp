@@ -160,6 +160,7 @@ void Workbench::restart()
                 cancelTransports();
         },
         .ownAddresses = [this] { return ownAddresses; },
+        .route = [this] { return route; },
         .missingApprovals = [this](const QStringList &words) {
             return missingApprovals ? missingApprovals(words) : std::vector<ProgramApproval>();
         },
@@ -337,7 +338,7 @@ void Workbench::setBootstrap(const QByteArray &fields)
 void Workbench::setCounters(const QByteArray &read, const QByteArray &written)
 {
     tor.reply(countersCommand, "250-traffic/read=" + read + "\r\n250-traffic/written=" + written
-                  + "\r\n250 OK\r\n");
+                  + "\r\n250-status/circuit-established=" + (hasCircuit ? "1" : "0") + "\r\n250 OK\r\n");
 }
 
 QByteArray Workbench::block(const QByteArray &key, const QByteArrayList &lines)

@@ -38,7 +38,7 @@ public:
     // The data of a test that runs on both systems: one column "system".
     static void bothSystems();
     static constexpr auto bootstrapCommand = "GETINFO status/bootstrap-phase";
-    static constexpr auto countersCommand = "GETINFO traffic/read traffic/written";
+    static constexpr auto countersCommand = "GETINFO traffic/read traffic/written status/circuit-established";
 
     explicit Workbench(System system = System::linux);
     ~Workbench();
@@ -121,6 +121,8 @@ public:
         installTransports;
     // How long a bridge takes to answer; none answer unless this says so.
     BridgeProbe bridgeProbe;
+    std::optional<NetworkRoute> route = NetworkRoute{QStringLiteral("eth0"), false};
+    bool hasCircuit = true; // of the next setCounters()
     QSet<QHostAddress> ownAddresses = {QHostAddress(QStringLiteral("192.0.2.7"))};
 
 private:

@@ -166,6 +166,13 @@ std::vector<Scene> panel()
     s.leak.kind = Leak::Kind::inconclusive;
     add("connected-strict-unconfirmed", s);
     s = protectedSession();
+    s.stall = TrafficWatch::Stall::noNetwork;
+    s.exitIP.reset();
+    s.torVerified.reset();
+    add("connected-strict-no-network", s);
+    s.stall = TrafficWatch::Stall::vpn;
+    add("connected-strict-vpn", s);
+    s = protectedSession();
     s.leak.kind = Leak::Kind::inconclusive;
     s.lookups.kind = Lookups::Kind::unverified;
     add("connected-strict-inconclusive", s);

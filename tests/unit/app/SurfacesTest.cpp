@@ -193,6 +193,8 @@ private Q_SLOTS:
                                 s.lookups.kind = lookups;
                                 s.torVerified = verified;
                                 s.statusDetail = u"All traffic is locked to Tor"_s;
+                                if (combinations % 3 == 1)
+                                    s.stall = TrafficWatch::Stall::noAnswer;
                                 session.show(s);
                                 ++combinations;
                                 const Verdict verdict = s.verdict();

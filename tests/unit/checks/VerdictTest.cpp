@@ -11,6 +11,7 @@ using Phase = ConnectionPhase;
 using State = KillSwitch::State;
 using Level = Verdict::Level;
 using Danger = Verdict::Danger;
+using Stall = TrafficWatch::Stall;
 
 namespace {
 
@@ -23,7 +24,8 @@ void forEachSession(const std::function<void(const SessionFacts &)> &look)
                 for (const bool isExposed : {false, true})
                     for (const bool isDNSLeaking : {false, true})
                         for (const std::optional<bool> verified : {std::optional<bool>(), std::optional(false), std::optional(true)})
-                            look({phase, mode, rules, isExposed, isDNSLeaking, verified, u"What is going on"_s});
+                            for (const std::optional<Stall> stall : {std::optional<Stall>(), std::optional(Stall::noNetwork), std::optional(Stall::noCircuit), std::optional(Stall::noAnswer), std::optional(Stall::vpn)})
+                                look({phase, mode, rules, isExposed, isDNSLeaking, verified, u"What is going on"_s, stall});
 }
 
 SessionFacts strict()
@@ -45,7 +47,7 @@ private Q_SLOTS:
             const bool isConnected = facts.phase == Phase::connected;
             const bool rulesStand = facts.killSwitch == State::standing || facts.killSwitch == State::putBack;
             const bool isSafe = isConnected && facts.mode == RoutingMode::strict && rulesStand && !facts.isExposed
-                && !facts.isDNSLeaking && facts.torVerified != false;
+                && !facts.isDNSLeaking && facts.torVerified != false && !facts.stall;
             if (verdict.title == u"Protected"_s) {
                 ++protectedOnes;
                 QVERIFY(isSafe);
@@ -59,7 +61,9 @@ private Q_SLOTS:
             QCOMPARE(isDanger, verdict.level == Level::warning || verdict.level == Level::danger);
             QCOMPARE(isDanger, verdict.symbol == u"exclamationmark.shield"_s);
             if (verdict.symbol == u"lock.shield.fill"_s)
-                QVERIFY(isConnected && !facts.isDNSLeaking && facts.torVerified != false);
+                QVERIFY(isConnected && !facts.isDNSLeaking && facts.torVerified != false && !facts.stall);
+            if (verdict.detail.contains(u"Nothing gets out around"_s)) // rules that stand are behind it
+                QVERIFY(isConnected && facts.mode == RoutingMode::strict && rulesStand && !facts.isExposed && !facts.isDNSLeaking);
             if (verdict.detail.contains(u"locked to Tor"_s))
                 QVERIFY(isConnected && facts.mode == RoutingMode::strict && rulesStand && !facts.isExposed && !facts.isDNSLeaking);
             if (isConnected && facts.mode == RoutingMode::strict && !isSafe) { // nothing of the ordinary line is left
@@ -68,7 +72,7 @@ private Q_SLOTS:
             }
             QVERIFY(!verdict.title.isEmpty() && !verdict.symbol.isEmpty() && !verdict.detail.isEmpty());
         });
-        QCOMPARE(sessions, 5 * 3 * 5 * 2 * 2 * 3);
+        QCOMPARE(sessions, 5 * 3 * 5 * 2 * 2 * 3 * 5);
         QVERIFY(good > 0 && protectedOnes > good);
     }
 
@@ -133,6 +137,17 @@ private Q_SLOTS:
         facts.torVerified = false;
         row("not confirmed", facts, u"warning"_s, u"Needs Attention"_s,
             u"All traffic is locked to Tor, but the exit could not be confirmed"_s);
+        facts.stall = Stall::noNetwork;
+        row("no network", facts, u"warning"_s, u"No Network"_s, u"This computer has no network. Nothing gets out around Tor meanwhile."_s);
+        facts.stall = Stall::noCircuit;
+        row("no circuit", facts, u"warning"_s, u"Nothing Gets Through"_s,
+            u"Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile."_s);
+        facts.stall = Stall::vpn;
+        row("a VPN in the way", facts, u"warning"_s, u"Nothing Gets Through"_s,
+            u"A VPN takes Tor's traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode."_s);
+        facts.stall = Stall::noAnswer;
+        row("no answer", facts, u"warning"_s, u"Nothing Gets Through"_s,
+            u"Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile."_s);
         facts.killSwitch = State::unknown;
         row("nor known to stand", facts, u"warning"_s, u"Needs Attention"_s,
             u"It can't be told whether the kill switch stands. Disconnect and connect again."_s);
@@ -153,6 +168,8 @@ private Q_SLOTS:
         facts.torVerified = false;
         row("proxy, not confirmed", facts, u"warning"_s, u"Needs Attention"_s,
             u"Apps that use system proxy settings go through Tor, but the exit could not be confirmed"_s);
+        facts.stall = Stall::noNetwork;
+        row("proxy, no network", facts, u"warning"_s, u"No Network"_s, u"This computer has no network. Veldmark goes on when it is back."_s);
         facts.isDNSLeaking = true;
         row("proxy, look-ups leak", facts, u"danger"_s, u"DNS Leak"_s, u"Lookups can go around Tor"_s);
         row("nothing", {}, u"neutral"_s, u"Not Protected"_s, QString());

@@ -183,6 +183,33 @@ private Q_SLOTS:
         }
     }
 
+    void aMissingNetworkAndAVPNAreNamedAfterTenSeconds()
+    {
+        const auto told = [](std::optional<NetworkRoute> route, bool strict, int progress) {
+            Workbench bench;
+            TorController &c = bench.controller();
+            c.strictMode.set(strict);
+            bench.route = std::move(route);
+            bench.setBootstrap("PROGRESS=" + QByteArray::number(progress) + " TAG=conn SUMMARY=\"Connecting to a relay\"");
+            const auto connecting = c.connect();
+            waitsAfterPoll(bench, 1);
+            bench.clock.advance(9s);
+            const bool isTooEarly = waitsAfterPoll(bench, 2) && c.bootstrapProblem();
+            bench.clock.advance(1s);
+            const bool isThere = waitsAfterPoll(bench, 3);
+            return isTooEarly || !isThere ? u"?"_s : c.bootstrapProblem().value_or(QString());
+        };
+        const NetworkRoute vpn{u"wg0"_s, true};
+        const QString inTheWay = u"A VPN takes Tor's traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode."_s;
+        QCOMPARE(told(std::nullopt, true, 5), u"This computer has no network, so Tor can't connect."_s);
+        QCOMPARE(told(std::nullopt, false, 5), u"This computer has no network, so Tor can't connect."_s);
+        QCOMPARE(told(std::nullopt, true, 10), QString()); // a relay answers, by whatever way
+        QCOMPARE(told(vpn, true, 5), inTheWay);
+        QCOMPARE(told(vpn, false, 5), QString());
+        QCOMPARE(told(vpn, true, 10), QString());
+        QCOMPARE(told(NetworkRoute{u"eth0"_s, false}, true, 5), QString());
+    }
+
     void theProblemOutlivesAFailureUntilTheRestore()
     {
         Workbench bench;

@@ -50,6 +50,66 @@ private Q_SLOTS:
         QVERIFY(bench.controller().phase() == Phase::connected); // they were answers all the same
     }
 
+    void aMissingNetworkIsSaidAndTakenBackWithAnExitThatIsAskedForAgain()
+    {
+        Workbench bench;
+        QVERIFY(bench.connect());
+        QVERIFY(until([&] { return !bench.controller().isChecking(); }));
+        QVERIFY(bench.tick());
+        TorController &c = bench.controller();
+        QCOMPARE(c.title(), u"Protected"_s);
+        bench.route = std::nullopt;
+        QVERIFY(bench.tick());
+        QVERIFY(!c.stall()); // between two networks there is none for a moment
+        QVERIFY(bench.tick());
+        QVERIFY(c.stall() == TrafficWatch::Stall::noNetwork);
+        QCOMPARE(c.title(), u"No Network"_s);
+        QVERIFY(!c.exitIP() && !c.torVerified()); // of before
+        // Meanwhile nobody answers a check.
+        bench.probe.torAnswer = ScriptedProbe::nothing();
+        const auto checking = c.runChecks();
+        QVERIFY(Workbench::finished(checking));
+        QVERIFY(c.torVerified() == false);
+        bench.probe.torAnswer = IPCheck{true, u"203.0.113.9"_s};
+        bench.route = NetworkRoute{u"eth0"_s, false};
+        QVERIFY(bench.tick());
+        QVERIFY(!c.stall());
+        QVERIFY(until([&] { return c.torVerified() == true && !c.isChecking(); }));
+        QCOMPARE(c.title(), u"Protected"_s);
+    }
+
+    void torWithoutACircuitIsSaid_data()
+    {
+        QTest::addColumn<bool>("vpn");
+        QTest::addColumn<bool>("strict");
+        QTest::addColumn<TrafficWatch::Stall>("stall");
+        QTest::newRow("strict") << false << true << TrafficWatch::Stall::noCircuit;
+        QTest::newRow("strict, with a VPN") << true << true << TrafficWatch::Stall::vpn;
+        QTest::newRow("proxy, with a VPN") << true << false << TrafficWatch::Stall::noCircuit;
+    }
+
+    void torWithoutACircuitIsSaid()
+    {
+        QFETCH(bool, vpn);
+        QFETCH(bool, strict);
+        QFETCH(TrafficWatch::Stall, stall);
+        Workbench bench;
+        bench.controller().strictMode.set(strict);
+        bench.route = NetworkRoute{u"dev0"_s, vpn};
+        QVERIFY(bench.connect());
+        QVERIFY(bench.tick());
+        bench.hasCircuit = false;
+        bench.setCounters("1000", "200");
+        for (int tick = 0; tick < 5; ++tick) {
+            QVERIFY(!bench.controller().stall());
+            QVERIFY(bench.tick());
+        }
+        QVERIFY(bench.tick());
+        QVERIFY(bench.controller().stall() == stall);
+        bench.disconnect();
+        QVERIFY(!bench.controller().stall());
+    }
+
     void torBeginsAnewWhenTheAddressHasChanged()
     {
         Workbench bench;

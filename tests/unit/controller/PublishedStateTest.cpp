@@ -18,7 +18,7 @@ private Q_SLOTS:
         const QStringList fields = u"strictMode allowLocalNetwork exitCountry customTorPath bridgeChoice customBridges "
             "bypassApps autoConnect optimizeSpeed latencyMs optimizeStatus isOptimizing transports activeBridge "
             "terminalMode phase activeMode bootstrapProgress statusDetail bootstrapProblem killSwitch killSwitchSince exitIP torVerified leakStatus "
-            "bytesRead bytesWritten isChecking otherSession canCancel errorMessage dnsStatus passwordlessInstalled startupError circuits "
+            "bytesRead bytesWritten stall isChecking otherSession canCancel errorMessage dnsStatus passwordlessInstalled startupError circuits "
             "circuitError transportDownload terminalError title menuBarSymbol level"_s.split(u' ');
         const QJsonObject state = publishedState(bench.controller());
         for (const QString &field : fields)

@@ -1,0 +1,57 @@
+#include "checks/TrafficWatch.h"
+
+using namespace std::chrono_literals;
+
+namespace veldmark {
+
+namespace {
+
+// An idle connection to a relay carries padding both ways, at the latest every 9.5 s.
+constexpr auto answerPatience = 12s;
+constexpr auto circuitPatience = 10s; // new circuits, as after a new identity, take a moment
+constexpr int routelessLooks = 2;     // between two networks there is none
+
+} // namespace
+
+std::optional<TrafficWatch::Stall> TrafficWatch::take(const Look &look)
+{
+    const bool hasRead = !m_last || look.read != m_last->read;
+    const bool hasWritten = m_last && look.written != m_last->written;
+    m_last = look;
+
+    if (hasRead)
+        m_unanswered = std::nullopt;
+    else if (hasWritten && !m_unanswered)
+        m_unanswered = look.at;
+    if (look.hasCircuit != false)
+        m_circuitless = std::nullopt;
+    else if (!m_circuitless)
+        m_circuitless = look.at;
+    // Bytes that come are a way, whatever the routes say: a bridge may be in the local network.
+    m_routeless = look.hasRoute || hasRead ? 0 : m_routeless + 1;
+
+    if (m_routeless >= routelessLooks)
+        return Stall::noNetwork;
+    if (m_circuitless && look.at - *m_circuitless >= circuitPatience)
+        return look.isInVPN ? Stall::vpn : Stall::noCircuit;
+    if (m_unanswered && look.at - *m_unanswered >= answerPatience)
+        return look.isInVPN ? Stall::vpn : Stall::noAnswer;
+    return std::nullopt;
+}
+
+QString TrafficWatch::name(Stall stall)
+{
+    switch (stall) {
+    case Stall::noNetwork:
+        return QStringLiteral("noNetwork");
+    case Stall::noCircuit:
+        return QStringLiteral("noCircuit");
+    case Stall::noAnswer:
+        return QStringLiteral("noAnswer");
+    case Stall::vpn:
+        break;
+    }
+    return QStringLiteral("vpn");
+}
+
+} // namespace veldmark
