@@ -71,10 +71,10 @@ QCoro::Task<void> RunCommand::begin()
     const bool isRefused = m_controller.phase() == ConnectionPhase::disconnected || m_controller.otherSession();
     if (m_connectNow && isRefused) {
         complain(m_controller.errorMessage().value_or(
-            m_controller.otherSession() ? m_controller.statusDetail() : QStringLiteral("Cancelled.")));
+            m_controller.otherSession() ? m_controller.statusDetail() : Text::tr("Cancelled.")));
         finish(ExitStatus::failed);
     } else if (m_controller.phase() == ConnectionPhase::disconnected) {
-        say(QStringLiteral("Ready. Connect with: veldmarkctl connect"));
+        say(Text::tr("Ready. Connect with: veldmarkctl connect"));
     } else if (m_controller.phase() == ConnectionPhase::stale && !m_connectNow) {
         showPhase();
     }
@@ -84,11 +84,11 @@ void RunCommand::onSignal(int number)
 {
     m_mustEnd |= number != SIGINT;
     if (m_withdrawal.isUnderWay()) {
-        say(QStringLiteral("Still restoring your network, one moment…"));
+        say(Text::tr("Still restoring your network, one moment…"));
         return;
     }
     if (m_controller.phase() == ConnectionPhase::connecting && !m_controller.canCancel())
-        say(QStringLiteral("Stopping as soon as Tor has been started…"));
+        say(Text::tr("Stopping as soon as Tor has been started…"));
     m_withdrawal.begin();
 }
 
@@ -98,14 +98,13 @@ void RunCommand::onWithdrawn(bool restored)
         finish(ExitStatus::done);
         return;
     }
-    complain(m_controller.errorMessage().value_or(QStringLiteral("Cancelled.")));
+    complain(m_controller.errorMessage().value_or(Text::tr("Cancelled.")));
     if (m_mustEnd) {
-        complain(QStringLiteral("The network is still set up for Tor. Restore it with: ")
-                 + m_controller.profile().manualRestoreCommand);
+        complain(Text::tr("The network is still set up for Tor. Restore it with: %1").arg(m_controller.profile().manualRestoreCommand));
         finish(ExitStatus::failed);
         return;
     }
-    say(QStringLiteral("The network is still set up for Tor. Press Ctrl-C to try again."));
+    say(Text::tr("The network is still set up for Tor. Press Ctrl-C to try again."));
 }
 
 void RunCommand::finish(ExitStatus status)
@@ -117,7 +116,7 @@ void RunCommand::finish(ExitStatus status)
 void RunCommand::showProgress()
 {
     if (m_controller.phase() == ConnectionPhase::connecting)
-        Console::draw(m_progress.update(m_controller.bootstrapProgress(), m_controller.statusDetail()));
+        Console::draw(m_progress.update(m_controller.bootstrapProgress(), m_controller.statusDetail().translated()));
 }
 
 void RunCommand::showProblem()
@@ -140,17 +139,17 @@ void RunCommand::showPhase()
         return;
     }
     if (phase == ConnectionPhase::connected && m_lastPhase == ConnectionPhase::connecting)
-        Console::draw(m_progress.update(1.0, QStringLiteral("Done")));
+        Console::draw(m_progress.update(1.0, Text::tr("Done").translated()));
     m_lastPhase = phase;
     QString report = phase == ConnectionPhase::connected || phase == ConnectionPhase::stale
-        ? Report::status(publishedState(m_controller))
+        ? Report::status(inUsersLanguage(publishedState(m_controller), publishedTexts(m_controller)))
         : verdictText();
     m_lastVerdict = verdictText();
     if (report == std::exchange(m_lastReport, report))
         return;
     say(report);
     if (phase == ConnectionPhase::connected)
-        say(QStringLiteral("Press Ctrl-C to disconnect."));
+        say(Text::tr("Press Ctrl-C to disconnect."));
 }
 
 // On a change of state alone: a program that removes the rules without pause is told once.
@@ -178,16 +177,16 @@ void RunCommand::showVerdict()
 QString RunCommand::verdictText() const
 {
     const Verdict verdict = m_controller.verdict();
-    return QStringLiteral("%1: %2").arg(verdict.title, verdict.detail);
+    return QStringLiteral("%1: %2").arg(verdict.title.translated(), verdict.detail.translated());
 }
 
-void RunCommand::say(const QString &text)
+void RunCommand::say(const Text &text)
 {
     Console::draw(m_progress.finish());
     Console::print(text);
 }
 
-void RunCommand::complain(const QString &text)
+void RunCommand::complain(const Text &text)
 {
     Console::draw(m_progress.finish());
     Console::printError(text);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Text.h"
 #include "cli/Arguments.h"
 #include "cli/ProgressLine.h"
 #include "controller/Production.h"
@@ -40,8 +41,8 @@ private:
     void showKillSwitch();
     void showVerdict();
     QString verdictText() const;
-    void say(const QString &text);
-    void complain(const QString &text);
+    void say(const Text &text);
+    void complain(const Text &text);
 
     Production m_production;
     TorController &m_controller;

@@ -51,7 +51,7 @@ QCoro::Task<void> install(TransportDownloader *downloader, bool throughTor)
     auto installing = downloader->install(throughTor, progress);
     const TransportDownloader::Outcome outcome = co_await installing;
     print(outcome ? QStringLiteral("installed %1 %2").arg(outcome->version, outcome->isVerified ? QStringLiteral("signature") : QStringLiteral("https"))
-                  : QStringLiteral("failed: ") + outcome.error().description());
+                  : QStringLiteral("failed: ") + outcome.error().description().english());
     QCoreApplication::exit(outcome ? 0 : 1);
 }
 

@@ -60,7 +60,7 @@ private Q_SLOTS:
         profile.autostartFile = folder.filePath(QStringLiteral("file/autostart/veldmark.desktop"));
         const auto done = LoginItem(profile).set(true);
         QVERIFY(!done);
-        QVERIFY(done.error().startsWith(QStringLiteral("Couldn't write ")));
+        QVERIFY(done.error().english().startsWith(QStringLiteral("Couldn't write ")));
         profile.autostartFile.clear();
         QVERIFY(!LoginItem(profile).set(true));
     }
