@@ -24,9 +24,10 @@ tors_key() {
   printf 'meta skuid %s' "$1"
 }
 
-# print_exempt GROUP: lets out what is sent by applications that are started without Tor. Nothing when GROUP is empty.
+# print_exempt GROUP: lets out what applications that are started without Tor send of their own accord; what they answer could go to any
+# sender that somebody on this computer has made up. Nothing when GROUP is empty.
 print_exempt() {
-  [[ -z $1 ]] || printf '\t\tsocket cgroupv2 level 1 "%s" accept\n' "$1"
+  [[ -z $1 ]] || printf '\t\tsocket cgroupv2 level 1 "%s" ct direction original accept\n' "$1"
 }
 
 # print_redirect TOR_UID GROUP KEEP LAN: every look-up over UDP goes to Tor, whichever server it was meant for. A redirected
@@ -71,7 +72,10 @@ END
 # print_side_chains TOR_UID USER_UID GROUP: where the output chain sends what needs a closer look.
 # loopback: what stays on this computer. Only packets that open a connection, or answer that, are looked at more closely: later ones
 # may belong to a socket that its program has closed already.
-# A look-up too short for its own header (12 bytes after the 8 of UDP) ends some versions of Tor.
+# from_loopback, look_ups: who has got a socket beside Tor's at the port for look-ups gets none: here it shows whose socket a datagram
+# would reach. One too short for its own header (12 bytes after the 8 of UDP) ends some versions of Tor. It is refused, so that
+# applications fail at once where Tor is away.
+# looked_up: nor does anybody but Tor answer from there.
 # opening: Tor's own connections to its transports are remembered; whoever has the same ports later is somebody else. Nobody opens one
 # from Tor's ports: two openings that meet are a connection, so a false listener would not have to answer.
 # control_port: only root, the session's user and Tor may open Tor's control port.
@@ -94,8 +98,26 @@ print_side_chains() {
 	}
 	chain loopback {
 		tcp flags & syn == syn goto opening
-		udp dport $DNS_PORT udp length < 20 drop
+		udp sport $DNS_PORT goto looked_up
 		accept
+	}
+	chain looked_up {
+		$(tors_key "$1") accept
+		drop
+	}
+	chain from_loopback {
+		udp dport $DNS_PORT goto look_ups
+		accept
+	}
+	chain look_ups {
+		udp length < 20 drop
+END
+  if [[ -n $TOR_PATH ]]; then
+    printf '\t\tsocket cgroupv2 level 2 "%s" accept\n\t\treject\n' "$TOR_PATH"
+  else
+    printf '\t\taccept\n'
+  fi
+  cat <<END
 	}
 	chain opening {
 		tcp flags & ack == ack goto answering
@@ -120,7 +142,6 @@ print_side_chains() {
 		reject with tcp reset
 	}
 	chain redirected {
-		udp dport $DNS_PORT udp length < 20 drop
 		udp dport $DNS_PORT ct status dnat accept
 		goto refused
 	}
@@ -152,7 +173,7 @@ print_proxy_rules() {
 	}
 	chain input {
 		type filter hook input priority 0; policy accept;
-		iif "lo" accept
+		iif "lo" goto from_loopback
 		ip daddr 127.0.0.0/8 drop
 		ip6 daddr ::1 drop
 	}
@@ -188,12 +209,14 @@ print_local_matches() {
 # LAN 1 opens the local network; UDP 1 lets Tor's account send UDP (snowflake); SERVERS4 and SERVERS6 are the
 # resolvers, joined by commas, that Tor's transports may ask, usually none; GROUP is the control group of the
 # applications without Tor, empty for none; NEAR 1 lets Tor reach the local network, where one of its bridges is.
+# What Tor answers a look-up does not leave: anybody can give one a sender elsewhere (IPV6_FREEBIND).
 # Only positive matches on the account: a packet without a socket matches neither "skuid X" nor "skuid != X".
 # What comes in for this computer's own address does so where route_localnet is on, and would reach Tor's ports from the
 # local network.
 # No "established" on output: connections from before the kill switch must not go on. Nor is Tor's traffic kept from
 # connection tracking, which would be cheaper: firewalls of other people's that let answers in by their state would
 # drop what is not tracked.
+# Addresses are asked for by root or an account of the system's (below 1000), also where the ports below 1024 are open to everybody.
 # neighbours: the kernel's own packets belong to nobody; what a program makes up is no neighbour discovery, it could go anywhere.
 # The order is by how many packets take the way; each expression that a packet passes costs it some 10 ns, and asking
 # for its account some 80, so that is asked once.
@@ -216,7 +239,7 @@ END
 END
   fi
   printf '\t\tmeta l4proto tcp accept\n'
-  [[ $4 != 1 ]] || printf '\t\tmeta l4proto udp accept\n'
+  [[ $4 != 1 ]] || printf '\t\tudp sport %s goto refused\n\t\tmeta l4proto udp accept\n' "$DNS_PORT"
   cat <<END
 	}
 	chain neighbours {
@@ -232,8 +255,8 @@ END
   cat <<END
 		ip daddr 127.0.0.0/8 goto redirected
 		ip6 daddr ::1 goto redirected
-		udp sport 68 udp dport 67 ip daddr { 255.255.255.255, $LAN4 } accept
-		udp sport 546 udp dport 547 ip6 daddr { ff02::1:2, fe80::/10 } accept
+		udp sport 68 udp dport 67 ip daddr { 255.255.255.255, $LAN4 } meta skuid 0-999 accept
+		udp sport 546 udp dport 547 ip6 daddr { ff02::1:2, fe80::/10 } meta skuid 0-999 accept
 		icmpv6 type nd-router-solicit ip6 daddr ff02::2 ip6 hoplimit 255 accept
 		icmpv6 type { nd-neighbor-solicit, nd-neighbor-advert } ip6 hoplimit 255 goto neighbours
 		goto refused
@@ -253,7 +276,7 @@ END
 	}
 	chain input {
 		type filter hook input priority 0; policy drop;
-		iif "lo" accept
+		iif "lo" goto from_loopback
 		ct state established ct direction reply accept
 		ip daddr 127.0.0.0/8 drop
 		ip6 daddr ::1 drop

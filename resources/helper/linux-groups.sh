@@ -51,13 +51,14 @@ own_group() {
 }
 
 # leave_caller: before the lock is taken, so that nobody but root can make us stop while we have it. Another run that ends just
-# now may remove the group between two of these steps. Nor does the caller say how we share the processor, how late our timers may
-# be and who dies first when memory is short.
+# now may remove the group between two of these steps. Nor does the caller say on which processors we run, how we share them and the disk, how late our
+# timers may be and who dies first when memory is short.
 leave_caller() {
   local round
   printf '0\n' >/proc/self/oom_score_adj || true
   printf '50000\n' >/proc/self/timerslack_ns || true   # nanoseconds, as the kernel begins with
-  { chrt --other --pid 0 "$$" && renice -n 0 -p "$$"; } >/dev/null || true
+  { chrt --other --pid 0 "$$" && renice -n 0 -p "$$" && ionice --class none --pid "$$"; } >/dev/null || true
+  taskset --cpu-list --pid "$(</sys/devices/system/cpu/possible)" "$$" >/dev/null || true
   find_tree || return 0
   HOME_GROUP=$(own_group)
   for round in 1 2 3 4 5; do

@@ -47,13 +47,13 @@ live_owner() {
 # spare_others: a session that another user is using is ended, or replaced, only where an administrator approves that very run.
 spare_others() {
   local name
-  [[ -z $PROMPTED ]] && folders_are_safe && live_owner && [[ $OWNER_UID != "$CALLER_UID" ]] || return 0
+  [[ -z $PROMPTED ]] && safe_folders && live_owner && [[ $OWNER_UID != "$CALLER_UID" ]] || return 0
   name=$(getent passwd "$OWNER_UID") || name="the user $OWNER_UID"
   die "Veldmark is in use by ${name%%:*}. An administrator password is needed to end that session."
 }
 
 # spare_unmeant: who asks may name the program whose session is to be ended. Another program's is left alone: it has come since.
 spare_unmeant() {
-  [[ -n $OPT_PROCESS ]] && folders_are_safe && live_owner && [[ $OWNER_PID != "$OPT_PROCESS" ]] || return 0
+  [[ -n $OPT_PROCESS ]] && safe_folders && live_owner && [[ $OWNER_PID != "$OPT_PROCESS" ]] || return 0
   die "Another program (process $OWNER_PID) has begun a session since. It was left alone."
 }

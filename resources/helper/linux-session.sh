@@ -2,7 +2,7 @@
 # ---- Linux: connect and disconnect -------------------------------------------------------------------------
 
 readonly FIREWALL_ENTRY=10-firewall
-readonly ENTRIES="$KDE_ENTRY $GNOME_ENTRY $GLOBAL_ENTRY $RESOLVED_ENTRY $RESOLVER_ENTRY $TOR_ENTRY $SERVICE_ENTRY $WATCHER_ENTRY $EXEMPT_ENTRY $FIREWALL_ENTRY"   # in the order of undoing
+readonly ENTRIES="$KDE_ENTRY $GNOME_ENTRY $GLOBAL_ENTRY $RESOLVED_ENTRY $RESOLVER_ENTRY $TOR_ENTRY $SERVICE_ENTRY $WATCHER_ENTRY $EXEMPT_ENTRY $LOOPBACK_ENTRY $FIREWALL_ENTRY"   # in the order of undoing
 
 # switch_firewall MODE: marker and rules belong together, the marker first.
 switch_firewall() {
@@ -50,6 +50,7 @@ linux_connect() {
   if [[ $former != strict || $mode == strict ]]; then
     switch_firewall "$mode"
   fi
+  put_loopback || true
   if [[ $mode == strict ]]; then
     start_watcher
     ON_FAILURE=
@@ -97,6 +98,7 @@ undo_entry() {
   "$SERVICE_ENTRY") undo_service ;;
   "$WATCHER_ENTRY") undo_watcher ;;
   "$EXEMPT_ENTRY") undo_exempt ;;
+  "$LOOPBACK_ENTRY") undo_loopback ;;
   "$FIREWALL_ENTRY") undo_firewall ;;
   esac || return 1
   journal_drop "$name"
@@ -115,8 +117,8 @@ undo_session() {
     UNDONE='' status=0
     undo_entry "$name" || status=$?
     ((status == 0)) || reason=${reason:-${UNDONE:-The former network settings could not all be restored.}}
-    # The desktop's settings, the service and the group are not the network: they are tried again by the next run.
-    [[ $status != 1 || $name == "$GNOME_ENTRY" || $name == "$KDE_ENTRY" || $name == "$SERVICE_ENTRY" || $name == "$EXEMPT_ENTRY" ]] || open=''
+    # The desktop's settings, the service, the group and the loopback device are not the network: they are tried again by the next run.
+    [[ $status != 1 || " $KDE_ENTRY $GNOME_ENTRY $SERVICE_ENTRY $EXEMPT_ENTRY $LOOPBACK_ENTRY " == *" $name "* ]] || open=''
   done
   [[ -z $open ]] || rm -f -- "$MARKER" "$ASKED" "$OWNER" "$RULES" "$LISTED" "$OTHERS_NOTE"
   rm -f -- "$MARKER.new" "$ASKED.new" "$OWNER.new" "$RULES.new" "$LISTED.new" "$WATCHER" "$WATCHER.new" "$KILL_SWITCH_NOTE" "$KILL_SWITCH_NOTE.new" "$STATE/relocked" "$TORRC.checked" "$JOURNAL"/*.new
@@ -129,15 +131,12 @@ undo_session() {
 # linux_fix-dns: puts back what somebody changed under a running session: the mount, and the rules, in one
 # transaction, so that also a flushed kill switch stands again.
 linux_fix-dns() {
-  local status=0
   (($# == 0)) || die "The verb fix-dns takes no options."
   need_programs flock nft mount umount readlink stat sync
   lift_limits
   take_lock
   trap finish EXIT
-  [[ -f $MARKER ]] && folders_are_safe || status=$?
-  ((status != 2)) || die "The folders below $BASE cannot be looked at, so nothing was done."
-  ((status == 0)) || die "Veldmark is not connected, so the DNS settings were left alone."
+  { [[ -f $MARKER ]] && safe_folders; } || die "Veldmark is not connected, so the DNS settings were left alone."
   if [[ -f $RULES ]]; then
     hold_rules || die "Somebody else is changing the firewall. Try again in a moment."
     make_groups
@@ -145,6 +144,7 @@ linux_fix-dns() {
     note_listing || die "The file $LISTED cannot be written."
     release_rules
   fi
+  put_loopback || true
   [[ $(read_marker) != strict ]] || watcher_runs || start_watcher
   read_resolver
   put_resolver
@@ -152,7 +152,6 @@ linux_fix-dns() {
 }
 
 linux_disconnect() {
-  local status=0
   parse_disconnect "$@"
   need_programs flock nft umount stat
   lift_limits
@@ -160,9 +159,7 @@ linux_disconnect() {
   trap finish EXIT
   if [[ -e $BASE || -L $BASE ]]; then
     # What others could write is no record of ours.
-    folders_are_safe || status=$?
-    ((status != 2)) || die "The folders below $BASE cannot be looked at, so nothing was done."
-    ((status == 0)) || JOURNAL_TRUSTED=
+    safe_folders || JOURNAL_TRUSTED=
   fi
   spare_others
   spare_unmeant

@@ -66,6 +66,14 @@ folders_are_safe() {
   ((lines == 7)) || return 2
 }
 
+# safe_folders: likewise; a run that cannot tell ends here.
+safe_folders() {
+  local status=0
+  folders_are_safe || status=$?
+  ((status != 2)) || die "The folders below $BASE cannot be looked at, so nothing was done."
+  return "$status"
+}
+
 ready_folders() {
   local path mode line want lines=0
   for path in "$BASE" "$STATE" "$RUN" "$PROGRAMS" "$JOURNAL"; do

@@ -9,25 +9,27 @@ namespace {
 // An idle connection to a relay carries padding both ways, at the latest every 9.5 s.
 constexpr auto answerPatience = 12s;
 constexpr auto circuitPatience = 10s; // new circuits, as after a new identity, take a moment
+// The smallest message between Tor and a relay is a cell; what an application asks of Tor is less.
+constexpr qint64 cellBytes = 500;
 constexpr int routelessLooks = 2;     // between two networks there is none
 
 } // namespace
 
 std::optional<TrafficWatch::Stall> TrafficWatch::take(const Look &look)
 {
-    const bool hasRead = !m_last || look.read != m_last->read;
-    const bool hasWritten = m_last && look.written != m_last->written;
+    const bool hasRead = !m_last || look.read - m_last->read >= cellBytes;
     m_last = look;
-
-    if (hasRead)
+    if (!m_answer || look.read - m_answer->read >= cellBytes) {
+        m_answer = look;
         m_unanswered = std::nullopt;
-    else if (hasWritten && !m_unanswered)
+    } else if (look.written - m_answer->written >= cellBytes && !m_unanswered) {
         m_unanswered = look.at;
+    }
     if (look.hasCircuit != false)
         m_circuitless = std::nullopt;
     else if (!m_circuitless)
         m_circuitless = look.at;
-    // Bytes that come are a way, whatever the routes say: a bridge may be in the local network.
+    // Cells that come are a way, whatever the routes say: a bridge may be in the local network.
     m_routeless = look.hasRoute || hasRead ? 0 : m_routeless + 1;
 
     if (m_routeless >= routelessLooks)

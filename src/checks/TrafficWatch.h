@@ -22,15 +22,16 @@ public:
 
     struct Look {
         Clock::TimePoint at;
-        quint64 read = 0;    // bytes since Tor started
-        quint64 written = 0;
+        // Bytes since Tor started, without those of the control port. What applications and Tor say to each other is among them.
+        qint64 read = 0;
+        qint64 written = 0;
         std::optional<bool> hasCircuit = {}; // absent: Tor did not say
         bool hasRoute = true;
         bool isInVPN = false; // the route leads into a VPN whose own packets are refused
     };
 
-    // Absent while something gets through, or too little is known. Takes back what it said as soon as Tor has read a byte
-    // and has a circuit.
+    // Absent while something gets through, or too little is known. Takes back what it said as soon as Tor has read a relay's
+    // smallest message and has a circuit.
     std::optional<Stall> take(const Look &look);
     // Another session: nothing is known.
     void reset() { *this = {}; }
@@ -39,6 +40,7 @@ public:
 
 private:
     std::optional<Look> m_last;
+    std::optional<Look> m_answer; // the look at which Tor had last been answered
     std::optional<Clock::TimePoint> m_unanswered; // since when Tor has sent without an answer
     std::optional<Clock::TimePoint> m_circuitless;
     int m_routeless = 0;                          // looks in a row

@@ -184,6 +184,7 @@ QCoro::Task<Result<void, ControlPortError>> ControlConnection::send(QByteArray b
             co_return Failure(ControlPortError::closed());
         co_return Failure(ControlPortError::network(m_socket->errorString()));
     }
+    m_traffic->sent += bytes.size();
     while (m_socket->bytesToWrite() > 0) {
         if (m_socket->state() == QAbstractSocket::UnconnectedState)
             break; // receive() tells why, after what had arrived before
@@ -214,7 +215,9 @@ QCoro::Task<Result<QByteArray, ControlPortError>> ControlConnection::receive()
         if (const auto stop = interruption())
             co_return Failure(*stop);
     }
-    co_return m_socket->read(largestChunkBytes);
+    const QByteArray bytes = m_socket->read(largestChunkBytes);
+    m_traffic->received += bytes.size();
+    co_return bytes;
 }
 
 QCoro::Task<QStringList> ControlConnection::collectEvents(Clock *clock,

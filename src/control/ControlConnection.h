@@ -17,6 +17,12 @@
 
 namespace veldmark {
 
+// Bytes that went to and came from Tor's control port, which Tor counts as traffic like all others.
+struct ControlTraffic {
+    qint64 sent = 0;
+    qint64 received = 0;
+};
+
 // One connection to Tor's control port, for one call of ControlPort: open(), one or more commands
 // (or a command and then collectEvents()), close(). It is never reopened.
 //
@@ -33,6 +39,9 @@ public:
                                const QHostAddress &host = QHostAddress(QHostAddress::LocalHost),
                                std::optional<uid_t> torUser = std::nullopt);
     ~ControlConnection() override;
+
+    // Adds what it sends and receives to these.
+    void countIn(std::shared_ptr<ControlTraffic> traffic) { m_traffic = std::move(traffic); }
 
     // Connects, past any proxy, and authenticates with the plain password, once a process of
     // Tor's account has taken the connection. Tor not listening is the system's error at once.
@@ -72,6 +81,7 @@ private:
     const QHostAddress m_host;
     const quint16 m_port;
     const std::optional<uid_t> m_torUser;
+    std::shared_ptr<ControlTraffic> m_traffic = std::make_shared<ControlTraffic>();
     std::unique_ptr<QTcpSocket> m_socket; // null before open() and after close()
     std::optional<Change> m_change; // what the waiting task, if any, waits for
     std::optional<ControlPortError> m_failure;

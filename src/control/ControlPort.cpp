@@ -16,12 +16,14 @@ constexpr uid_t nobody = static_cast<uid_t>(-1); // no process can have it
 // What one operation holds for as long as it runs: its connection and the watch over its time.
 class Session {
 public:
-    Session(Clock &clock, quint16 port, const ControlPort::TorUser &torUser, const QObject &lifetime, Milliseconds limit)
+    Session(Clock &clock, quint16 port, const ControlPort::TorUser &torUser, const QObject &lifetime,
+            std::shared_ptr<ControlTraffic> traffic, Milliseconds limit)
         : m_connection(std::make_unique<ControlConnection>(
               port, QHostAddress(QHostAddress::LocalHost), torUser ? std::optional(torUser().value_or(nobody)) : std::nullopt)),
           m_watched(std::make_shared<const std::monostate>())
     {
         ControlConnection *connection = m_connection.get();
+        connection->countIn(std::move(traffic));
         QObject::connect(&lifetime, &QObject::destroyed, connection,
                          [connection] { connection->abort(ControlPortError::closed()); });
         abortAfter(&clock, limit, connection, ControlPortError::timedOut(), m_watched);
@@ -67,9 +69,11 @@ QString hostOf(const QString &target)
 } // namespace
 
 ControlPort::ControlPort(Clock &clock, quint16 port, TorUser torUser)
-    : m_clock(clock), m_port(port), m_torUser(std::move(torUser))
+    : m_clock(clock), m_port(port), m_torUser(std::move(torUser)), m_traffic(std::make_shared<ControlTraffic>())
 {
 }
+
+ControlTraffic ControlPort::traffic() const { return *m_traffic; }
 
 // The operations below may outlive their ControlPort, so none uses a member after its first wait.
 
@@ -79,7 +83,7 @@ ControlPort::getInfo(QStringList keys, QString password, Milliseconds limit)
     const QString command = QStringLiteral("GETINFO ") + keys.join(u' ');
     if (const auto refused = refusal({command, password}))
         co_return Failure(*refused);
-    const Session session(m_clock, m_port, m_torUser, m_lifetime, limit);
+    const Session session(m_clock, m_port, m_torUser, m_lifetime, m_traffic, limit);
     const auto reply = co_await ask(&session, password, command);
     if (!reply)
         co_return Failure(reply.error());
@@ -91,7 +95,7 @@ ControlPort::Outcome<void> ControlPort::signal(QString name, QString password, M
     const QString command = QStringLiteral("SIGNAL ") + name;
     if (const auto refused = refusal({command, password}))
         co_return Failure(*refused);
-    const Session session(m_clock, m_port, m_torUser, m_lifetime, limit);
+    const Session session(m_clock, m_port, m_torUser, m_lifetime, m_traffic, limit);
     const auto reply = co_await ask(&session, password, command);
     if (!reply)
         co_return Failure(reply.error());
@@ -103,7 +107,7 @@ ControlPort::batch(QStringList commands, QString password, Milliseconds limit)
 {
     if (const auto refused = refusal(commands + QStringList(password)))
         co_return Failure(*refused);
-    const Session session(m_clock, m_port, m_torUser, m_lifetime, limit);
+    const Session session(m_clock, m_port, m_torUser, m_lifetime, m_traffic, limit);
     const auto opened = co_await session->open(password);
     if (!opened)
         co_return Failure(opened.error());
@@ -126,7 +130,7 @@ ControlPort::captureResolves(QString password, Milliseconds duration, Work work,
     if (const auto refused = refusal({password}))
         co_return Failure(*refused);
     Clock *clock = &m_clock;
-    Session session(*clock, m_port, m_torUser, m_lifetime, limit);
+    Session session(*clock, m_port, m_torUser, m_lifetime, m_traffic, limit);
     const auto subscribed = co_await ask(&session, password, QStringLiteral("SETEVENTS STREAM"));
     if (!subscribed)
         co_return Failure(subscribed.error());

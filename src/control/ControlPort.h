@@ -10,12 +10,15 @@
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
 
 #include <sys/types.h>
 
 namespace veldmark {
+
+struct ControlTraffic;
 
 // Asks Tor over its control port. Every operation opens a connection of its own to 127.0.0.1,
 // authenticates with the plain control password, and closes the connection in every outcome;
@@ -70,6 +73,9 @@ public:
     captureResolves(QString password, std::chrono::milliseconds duration, Work work,
                     std::chrono::milliseconds limit = defaultLimit);
 
+    // What all operations so far have sent to Tor and received.
+    ControlTraffic traffic() const;
+
     // The lines of one key's value within a reply, dots unstuffed; empty when it is not there.
     static QStringList dataBlock(const QString &key, const Reply &lines);
     // Key and value of every "250-key=value" line of a reply; the last of equal keys counts.
@@ -81,6 +87,7 @@ private:
     Clock &m_clock;
     const quint16 m_port;
     const TorUser m_torUser;
+    const std::shared_ptr<ControlTraffic> m_traffic; // shared with the operations under way
     QObject m_lifetime; // its destroyed() ends the operations
 };
 

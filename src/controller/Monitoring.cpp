@@ -2,6 +2,7 @@
 
 #include "base/Clock.h"
 #include "checks/NetworkProbe.h"
+#include "control/ControlConnection.h"
 #include "control/ControlPort.h"
 
 #include <QPointer>
@@ -61,10 +62,11 @@ void TorController::stopMonitoring()
 void TorController::lookAtTraffic(std::optional<bool> hasCircuit)
 {
     const auto route = m_services.route();
+    const ControlTraffic own = m_services.controlPort.traffic();
     const bool wasStalled = stall().has_value();
     stall = m_network.traffic.take({.at = m_services.clock.now(),
-                                    .read = bytesRead(),
-                                    .written = bytesWritten(),
+                                    .read = qint64(bytesRead()) - own.sent,
+                                    .written = qint64(bytesWritten()) - own.received,
                                     .hasCircuit = hasCircuit,
                                     .hasRoute = route.has_value(),
                                     .isInVPN = activeMode() == RoutingMode::strict && route && route->isVPN});

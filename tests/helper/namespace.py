@@ -23,6 +23,8 @@ USER_UID = 4242
 OTHER_UID = 4243   # bob's
 DNS_PORT = 293
 TOR_GROUP = "/sys/fs/cgroup/veldmark/tor"   # to be in it and Tor's account is what the rules know Tor by
+# What a program begins with that stands in for Tor at its port for look-ups. It is started with group=TOR_GROUP.
+AS_TOR = ("setpriv", "--reuid=_veldmark", "--clear-groups", "--inh-caps=+net_bind_service", "--ambient-caps=+net_bind_service")
 INSTALLED = "/usr/local/libexec/veldmark/veldmark-helper.sh"
 
 # Reaps what is orphaned in the process namespace, and ends with the test.
@@ -210,6 +212,12 @@ class Machine:
             self.help("disconnect")
             self.accounts_made = True
 
+    def give_ethtool(self):
+        """A stand-in, where there is none."""
+        if not self.shell("command -v ethtool || true"):
+            self.shell("mkdir -p /mnt/sbin/upper /mnt/sbin/work; mount -t overlay -o lowerdir=/usr/sbin,upperdir=/mnt/sbin/upper,workdir=/mnt/sbin/work private /usr/sbin;"
+                       'install -m 0755 "$1" /usr/sbin/ethtool', os.path.join(HERE, "ethtool.py"))
+
     def tor_pids(self):
         return self.shell("pgrep -u _veldmark || true").split()
 
@@ -258,6 +266,7 @@ class Machine:
             echo "# rules";     nft list ruleset
             echo "# resolver";  stat -L -c '%F %a %u %g %s' /etc/resolv.conf; cat /etc/resolv.conf; readlink /etc/resolv.conf
             echo "# mounts";    cut -d' ' -f 4- /proc/self/mountinfo | sort
+            echo "# loopback";  command -v ethtool >/dev/null && ethtool -k lo | grep '^tx-udp-segmentation' || true
             echo "# groups";    find /sys/fs/cgroup -type d | sort
             echo "# ports";     ss -Hltun | awk '{print $1, $5}' | sort
             echo "# etc";       find /etc /usr/local -newer /run/user -type f ! -path /etc/resolv.conf -exec md5sum {} + 2>/dev/null | sort -k2

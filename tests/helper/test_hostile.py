@@ -6,7 +6,7 @@ import subprocess
 
 import namespace
 import probes
-from namespace import DNS_PORT, OTHER_UID, TOR_GROUP, USER_UID, HelperTest
+from namespace import AS_TOR, DNS_PORT, OTHER_UID, TOR_GROUP, USER_UID, HelperTest
 from wire import LINK, Wire
 
 RULES = "/var/lib/veldmark/run/firewall.nft"
@@ -148,6 +148,21 @@ class Hostile(HelperTest):
                 self.assertEqual((reached, met), (True, "met") if wanted else (False, "refused"), port)
             self.machine.help("disconnect")
 
+    def test_nobody_takes_tors_place_so_at_the_other_loopback_address(self):
+        meeting = MEETING.replace("0100007F", "0" * 24 + "01000000").replace("/net/tcp", "/net/tcp6").replace("create_server(('127.0.0.1', port))",
+            "create_server(('::1', port), family=socket.AF_INET6)").replace("socket.socket()", "socket.socket(socket.AF_INET6)").replace("'127.0.0.1'", "'::1'")
+        ask = CLIENT.replace("'127.0.0.1'", "'::1'").replace("socket.socket()", "socket.socket(socket.AF_INET6)")
+        self.machine.connect()
+        for port, wanted in (9050, False), (9051, False), (9050, True):
+            if wanted:
+                self.without("opening")
+                self.machine.shell("nft insert rule inet veldmark opening tcp flags \\& ack == ack goto answering")
+            process = self.machine.start("/usr/bin/python3", "-c", meeting, str(port), uid=OTHER_UID, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+            self.addCleanup(process.kill)
+            self.assertEqual(process.stdout.readline(), "up\n")
+            said = self.machine.run("/usr/bin/python3", "-c", ask, str(port), "0", "10" if wanted else "3", uid=USER_UID).stdout.strip()
+            self.assertEqual((said, process.communicate(timeout=30)[0].strip()), ("hello", "met") if wanted else ("refused", "refused"), port)
+
     def test_nobody_gets_what_others_ask(self):
         """A second socket at Tor's port for look-ups would get them. Nobody but root and Tor can have one."""
         bind = ("import socket, sys\ntwo = []\nfor _ in 1, 2:\n two.append(socket.socket(socket.AF_INET, socket.SOCK_DGRAM))\n"
@@ -161,6 +176,129 @@ class Hostile(HelperTest):
             for uid in USER_UID, OTHER_UID:
                 self.assertIn("PermissionError", self.machine.run("/usr/bin/python3", "-c", bind, str(DNS_PORT), uid=uid, check=False).stderr)
             self.machine.help("disconnect")
+
+    def asked(self, script, *who):
+        """What sockets at Tor's port for look-ups get when SCRIPT asks: "NAME LENGTH" each. who: (name, address, uid, group), the last
+        one to bind is the kernel's choice."""
+        listen = ("import socket, sys\ns = socket.socket(socket.AF_INET6 if ':' in sys.argv[2] else socket.AF_INET, socket.SOCK_DGRAM)\n"
+                  "s.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1); s.bind((sys.argv[2], int(sys.argv[3]))); print('up', flush=True)\n"
+                  "while True:\n data = s.recv(999)\n if data == b'e' * 20: break\n print(sys.argv[1], len(data), flush=True)")
+        up = []
+        for name, address, uid, group in who:
+            up.append(self.machine.start("setpriv", f"--reuid={uid}", *AS_TOR[2:], "/usr/bin/python3", "-c", listen, name, address, str(DNS_PORT), group=group, stdout=subprocess.PIPE, text=True))
+            self.assertEqual(up[-1].stdout.readline(), "up\n")
+        try:
+            said = self.machine.run("/usr/bin/python3", "-c", script, uid=USER_UID).stdout
+            # What ends each that gets anything comes after all else.
+            self.machine.run("/usr/bin/python3", "-c", "import socket\nfor a in '127.0.0.1', '::1':\n s = socket.socket(socket.AF_INET6 if ':' in a else socket.AF_INET, socket.SOCK_DGRAM)\n"
+                             f" s.sendto(b'e' * 20, (a, {DNS_PORT}))", uid=USER_UID, check=False)
+            got = []
+            for process in up:
+                try:
+                    got += process.communicate(timeout=1)[0].splitlines()
+                except subprocess.TimeoutExpired:
+                    self.machine.shell("pkill -KILL -f 's.setsockopt[(]' || true")
+                    got += process.communicate()[0].splitlines()
+            return said, got
+        finally:
+            for process in up:
+                process.kill()
+
+    ASK = ("import socket\nfor a, p in ('127.0.0.1', 53), ('192.0.2.53', 53), ('127.0.0.1', 293), ('::1', 293):\n"
+           " s = socket.socket(socket.AF_INET6 if ':' in a else socket.AF_INET, socket.SOCK_DGRAM); s.settimeout(1)\n"
+           " try:\n  s.connect((a, p)); s.send(b'q' * 30); s.send(b'q' * 11)\n except OSError as e: pass")
+
+    def test_a_socket_beside_tors_gets_no_look_ups(self):
+        """Where somebody has opened the port to everybody: they are all given the right to it."""
+        tor, tor6 = ("tor", "127.0.0.1", self.tor_uid, TOR_GROUP), ("tor", "::1", self.tor_uid, TOR_GROUP)
+        evil, evil6 = ("other", "127.0.0.1", OTHER_UID, None), ("other", "::1", OTHER_UID, None)
+        account = ("account", "127.0.0.1", self.tor_uid, None)
+        for strict in 1, 0:
+            self.machine.connect(strict=strict)
+            self.assertEqual(self.asked(self.ASK, tor, tor6)[1], ["tor 30"] * 4)
+            for who in ((tor, tor6, evil, evil6), (evil, evil6), (tor, account)):
+                self.assertEqual([line for line in self.asked(self.ASK, *who)[1] if not line.startswith("tor")], [], who)
+            self.without("from_loopback")
+            self.assertLessEqual({"other 30", "other 11"}, set(self.asked(self.ASK, tor, tor6, evil, evil6)[1]))
+            self.machine.help("disconnect")
+
+    def test_nobody_else_answers_a_look_up(self):
+        """Likewise: who asks, and from which port, everybody can see."""
+        ask = ("import socket\ns = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.settimeout(2); s.connect(('127.0.0.1', 53)); s.send(b'q' * 30)\n"
+               "t = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); t.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1); t.bind(('127.0.0.1', 293))\n"
+               "try: t.sendto(b'lie', s.getsockname())\nexcept OSError: pass\n"
+               "try: print(s.recv(9).decode())\nexcept OSError: print('nothing')")
+        self.machine.shell("sysctl -qw net.ipv4.ip_unprivileged_port_start=0")
+        try:
+            for strict in 1, 0:
+                self.machine.connect(strict=strict)
+                tor = "tor", "127.0.0.1", self.tor_uid, TOR_GROUP
+                self.assertEqual(self.asked(ask, tor)[0], "nothing\n")
+                self.without("looked_up")
+                self.assertEqual(self.asked(ask, tor)[0], "lie\n")
+                self.machine.help("disconnect")
+        finally:
+            self.machine.shell("sysctl -qw net.ipv4.ip_unprivileged_port_start=1024")
+
+    def has_late_cut(self):
+        return "\ntx-udp-segmentation: on\n" in self.machine.run("ethtool", "-k", "lo").stdout
+
+    def give_ethtool(self):
+        self.machine.give_ethtool()
+        self.before = self.machine.snapshot()
+
+    def test_what_the_kernel_cuts_reaches_tor_in_no_piece(self):
+        """Pieces that are too short for a look-up's header end some versions of Tor."""
+        self.give_ethtool()
+        pieces = (f"import socket\nfor a, p in ('127.0.0.1', {DNS_PORT}), ('127.0.0.1', 53):\n s = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)\n"
+                  " s.setsockopt(socket.SOL_UDP, 103, 11); s.sendto(b'p' * 33, (a, p))\n"   # UDP_SEGMENT
+                  " s.setsockopt(socket.SOL_UDP, 103, 0); s.sendto(b'w' * 33, (a, p))")
+        tor = "tor", "127.0.0.1", self.tor_uid, TOR_GROUP
+        for strict in 1, 0:
+            self.assertTrue(self.has_late_cut())
+            self.machine.connect(strict=strict)
+            self.assertEqual(self.asked(pieces, tor)[1], ["tor 33"] * 2)
+            self.machine.connect(strict=strict)   # once more upon what it has noted
+            self.machine.run("ethtool", "-K", "lo", "tx-udp-segmentation", "on")
+            self.assertEqual(self.asked(pieces, tor)[1], (["tor 11"] * 3 + ["tor 33"]) * 2)
+            self.machine.help("fix-dns" if strict else "connect", *([] if strict else ["--tor", namespace.TOR, "--hash", namespace.HASH, "--strict", "0", "--lan", "0"]))
+            self.assertFalse(self.has_late_cut())
+            self.machine.help("disconnect")
+        self.assertTrue(self.has_late_cut())
+
+    def test_a_loopback_device_that_cannot_be_put_back_is_told_and_tried_again(self):
+        self.give_ethtool()
+        self.machine.connect()
+        self.machine.shell("printf '#!/bin/sh\nexit 1\n' >/mnt/broken; chmod 755 /mnt/broken; mount --bind /mnt/broken /usr/sbin/ethtool")
+        done = self.machine.help("disconnect", check=False)
+        self.machine.shell("umount /usr/sbin/ethtool; rm /mnt/broken")
+        self.assertOneLine(done, "The network is open again, but the loopback device could not be set up as before.")
+        self.assertEqual(self.machine.shell("nft list ruleset; ls /var/lib/veldmark/state"), "")
+        self.assertFalse(self.has_late_cut())
+        self.machine.help("disconnect")
+        self.assertTrue(self.has_late_cut())
+
+    def test_what_tor_answers_does_not_leave(self):
+        """A look-up may come with any sender, who then gets Tor's answer, where Tor may send datagrams."""
+        answer = ("import os, socket, sys, threading\nthreading.Thread(target=lambda: (sys.stdin.read(), os._exit(0)), daemon=True).start()\n"
+                  f"s = socket.socket(socket.AF_INET6, socket.SOCK_DGRAM); s.bind(('::1', {DNS_PORT})); print('up', flush=True)\n"
+                  "while True:\n data, where = s.recvfrom(999)\n try: s.sendto(b'answer', where); print('sent', flush=True)\n except OSError: print('refused', flush=True)")
+        ask = (f"import socket\ns = socket.socket(socket.AF_INET6, socket.SOCK_DGRAM); s.setsockopt(socket.IPPROTO_IPV6, 78, 1); s.bind(('{probes.PUBLIC6}', 40404))\n"
+               f"s.sendto(b'q' * 30, ('::1', {DNS_PORT}))")   # 78: IPV6_FREEBIND
+        self.machine.connect(more=["--bridge", "snowflake 192.0.2.3:80", "--pt-snowflake", "/usr/bin/snowflake-client"])
+        tor = self.machine.start(*AS_TOR, "/usr/bin/python3", "-c", answer, group=TOR_GROUP, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        self.assertEqual(tor.stdout.readline(), "up\n")
+        try:
+            for said, seen in ("refused\n", False), ("sent\n", True):
+                if seen:
+                    self.machine.end_watcher()
+                    self.machine.shell("nft flush chain inet veldmark tors_account; nft add rule inet veldmark tors_account accept")
+                self.wire.mark()
+                self.machine.run("/usr/bin/python3", "-c", ask, uid=OTHER_UID)
+                self.assertEqual(tor.stdout.readline(), said)
+                self.assertEqual(f"other udp {probes.PUBLIC6} 40404" in self.wire.mark(), seen)
+        finally:
+            tor.communicate()
 
     def test_tors_account_alone_passes_nothing(self):
         """A setuid file that it has left in an earlier session, say."""
@@ -180,6 +318,7 @@ class Hostile(HelperTest):
             port, end = self.serve(0, uid=self.tor_uid)
             self.assertFalse(self.reach(port, uid=OTHER_UID))
             end()
+            self.assertEqual(self.asked(self.ASK, ("tor", "127.0.0.1", self.tor_uid, None))[1], ["tor 30"] * 3)
             self.machine.help("disconnect")
         finally:
             self.machine.shell("mount -t cgroup2 private /sys/fs/cgroup")
@@ -267,12 +406,15 @@ class Hostile(HelperTest):
             self.machine.shell(f"rmdir {own}")
 
     def test_the_callers_priorities_are_not_taken_over(self):
-        self.machine.shell('echo 500 >/proc/self/oom_score_adj; exec chrt --idle 0 nice -n 15 /bin/bash "$@"', self.machine.helper,
+        self.machine.shell('echo 500 >/proc/self/oom_score_adj; exec taskset --cpu-list 0 ionice --class idle chrt --idle 0 nice -n 15 /bin/bash "$@"', self.machine.helper,
                            "connect", "--tor", namespace.TOR, "--hash", namespace.HASH, "--strict", "1", "--lan", "0")
+        every = self.machine.shell("taskset --cpu-list $(cat /sys/devices/system/cpu/possible) grep Cpus_allowed_list /proc/self/status")
         [tor] = self.machine.tor_pids()
         for pid in tor, self.machine.shell("pgrep -f /watcher[.]sh").strip():
             self.assertLessEqual(int(self.machine.shell(f"cat /proc/{pid}/oom_score_adj")), 0)
             self.assertEqual(self.machine.shell(f"ps -o ni=,cls= -p {pid}").split(), ["0", "TS"])
+            self.assertTrue(self.machine.shell(f"ionice --pid {pid}").startswith("none"))
+            self.assertEqual(self.machine.shell(f"grep Cpus_allowed_list /proc/{pid}/status"), every)
 
     # ---- Ways around the rules ----
 
@@ -318,6 +460,52 @@ class Hostile(HelperTest):
             peer.run("/bin/bash", "-c", "ip route del 127.0.0.0/8; ip route add local 127.0.0.0/8 dev lo table local src 127.0.0.1;"
                                         "ip route add local 127.0.0.1 dev lo table local src 127.0.0.1")
             self.machine.shell("sysctl -qw net.ipv4.conf.all.route_localnet=0")
+
+    def test_an_application_without_tor_answers_nobody_elsewhere(self):
+        """What it is asked on this computer may come with any sender, who then gets the answer, from the real address."""
+        server = ("import os, socket, sys, threading\nthreading.Thread(target=lambda: (sys.stdin.read(), os._exit(0)), daemon=True).start()\n"
+                  "s = socket.socket(socket.AF_INET6, socket.SOCK_DGRAM); s.bind(('::', 6881)); print('up', flush=True)\n"
+                  f"s.sendto(b'hello', ('{probes.PUBLIC6}', 40405))\n"
+                  "while True:\n data, where = s.recvfrom(999)\n try: s.sendto(b'answer', where); print('sent', flush=True)\n except OSError: print('refused', flush=True)")
+        ask = (f"import socket\ns = socket.socket(socket.AF_INET6, socket.SOCK_DGRAM); s.setsockopt(socket.IPPROTO_IPV6, 78, 1); s.bind(('{probes.PUBLIC6}', 40404))\n"
+               "s.sendto(b'?', ('fd00:77::2', 6881))")   # 78: IPV6_FREEBIND
+        self.machine.connect()
+        for said in "refused\n", "sent\n":
+            if said == "sent\n":
+                self.machine.end_watcher()
+                self.machine.shell("nft insert rule inet veldmark refused socket cgroupv2 level 1 '\"veldmark-exempt\"' accept")
+            self.wire.mark()
+            process = self.machine.start("/usr/bin/python3", "-c", server, uid=USER_UID, group="/sys/fs/cgroup/veldmark-exempt", stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+            self.assertEqual(process.stdout.readline(), "up\n")
+            self.machine.run("/usr/bin/python3", "-c", ask, uid=OTHER_UID)
+            self.assertEqual(process.stdout.readline(), said)
+            process.communicate()
+            seen = self.wire.mark()
+            self.assertIn(f"other udp {probes.PUBLIC6} 40405", seen, "what it sends of its own accord leaves")
+            self.assertEqual(f"other udp {probes.PUBLIC6} 40404" in seen, said == "sent\n")
+
+    def test_only_the_systems_own_ask_for_an_address(self):
+        """Where somebody has opened the ports below 1024 to everybody."""
+        ask = ("import socket\nfor a, own, port in ('192.168.77.1', 68, 67), ('255.255.255.255', 68, 67), ('fe80::1%veth0', 546, 547), ('ff02::1:2%veth0', 546, 547), ('203.0.113.9', 68, 67),"
+               " ('2001:db8:9::9', 546, 547):\n"
+               " family, kind, _, _, to = socket.getaddrinfo(a, port, type=socket.SOCK_DGRAM)[0]\n"
+               " with socket.socket(family, kind) as s:\n  s.setsockopt(socket.SOL_SOCKET, socket.SO_BROADCAST, 1); s.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1)\n"
+               "  s.bind(('', own))\n  try: s.sendto(b'?', to)\n  except PermissionError: pass")
+
+        def seen(uid):
+            self.wire.mark()
+            self.machine.run("/usr/bin/python3", "-c", ask, uid=uid)
+            return sorted(line.split()[2] for line in self.wire.mark() if line.endswith((" 67", " 547")))
+        self.machine.shell("sysctl -qw net.ipv4.ip_unprivileged_port_start=0; ip neigh replace fe80::1 lladdr 02:00:00:00:00:01 dev veth0")
+        try:
+            everywhere = ["192.168.77.1", "255.255.255.255", "fe80::1", "ff02::1:2"]
+            self.assertEqual(seen(OTHER_UID), sorted([*everywhere, probes.PUBLIC, probes.PUBLIC6]))
+            self.machine.connect()
+            self.assertEqual(seen(OTHER_UID), [])
+            for uid in 0, 998:
+                self.assertEqual(seen(uid), everywhere)
+        finally:
+            self.machine.shell("sysctl -qw net.ipv4.ip_unprivileged_port_start=1024; ip neigh del fe80::1 dev veth0")
 
     def test_what_a_program_makes_up_is_no_neighbour_discovery(self):
         solicit = ("import socket, struct; s = socket.socket(socket.AF_INET6, socket.SOCK_RAW, socket.IPPROTO_ICMPV6);"

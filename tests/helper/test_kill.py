@@ -39,6 +39,7 @@ class Kill(HelperTest):
     @classmethod
     def set_up_services(cls):
         """What a session changes besides."""
+        cls.machine.give_ethtool()
         cls.machine.run("/bin/bash", "-c", "mkdir /home/alice/.config; printf '[Proxy Settings]\nProxyType=4\n' >/home/alice/.config/kioslaverc",
                         uid=namespace.USER_UID)
 

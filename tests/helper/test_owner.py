@@ -70,6 +70,22 @@ class Owner(HelperTest):
         self.assertEqual(self.note(), {"uid": str(USER_UID)})
         self.machine.help_by_rule("disconnect", uid=OTHER_UID)   # nobody says that it is in use
 
+    def test_owner_that_cannot_be_looked_at_is_not_taken_for_nobody(self):
+        """As when a program of the helper's is ended just then, memory being short."""
+        self.begin()
+        folders = "/ /var /var/lib /var/lib/veldmark "
+        self.machine.shell("cp /usr/bin/stat /mnt/stat.true; printf '%s\\n' '#!/bin/sh' 'case $* in *\"'\"$1\"'\"*) echo >>/mnt/looks; [ $(wc -l </mnt/looks) != \"$(cat /mnt/fails)\" ] || kill -9 $$ ;; esac'"
+                           " 'exec /mnt/stat.true \"$@\"' >/mnt/stat; chmod 755 /mnt/stat; mount --bind /mnt/stat /usr/bin/stat", folders)
+        try:
+            for fails in 1, 2:
+                for words in ["disconnect"], CONNECT:
+                    self.machine.shell(f"echo {fails} >/mnt/fails; : >/mnt/looks")
+                    done = self.machine.help_by_rule(*words, uid=OTHER_UID, check=False)
+                    self.assertNotEqual(done.returncode, 0)
+                    self.assertEqual(self.note()["uid"], str(USER_UID), (fails, words))
+        finally:
+            self.machine.shell("umount /usr/bin/stat")
+
     def test_next_owner_takes_the_place_of_the_former(self):
         self.begin("veldmarkctl")
         self.begin("veldmark", env={"PKEXEC_UID": str(OTHER_UID)})

@@ -98,9 +98,9 @@ class Resolved(HelperTest):
 
     def test_look_ups_of_links_come_to_tors_port(self):
         self.machine.connect()
-        stand_in = self.machine.start("/usr/bin/python3", "-c",
+        stand_in = self.machine.start(*namespace.AS_TOR, "/usr/bin/python3", "-c",
             "import socket\ns = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.bind(('127.0.0.1', 293)); print('up', flush=True)\n"
-            "print(s.recvfrom(999)[0])", stdout=subprocess.PIPE, text=True)
+            "print(s.recvfrom(999)[0])", group=namespace.TOR_GROUP, stdout=subprocess.PIPE, text=True)
         self.assertEqual(stand_in.stdout.readline(), "up\n")
         query = self.machine.start("resolvectl", "query", "probe.lan.example", stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self.assertIn("probe", stand_in.communicate()[0])

@@ -67,7 +67,7 @@ class Rules(unittest.TestCase):
             return set(text.splitlines()), account.splitlines()
         plain, account = lines("0 0 '' ''")
         self.assertEqual((account[0], account[-1]), ("\t\ttcp flags & syn == 0 accept", "\t\tmeta l4proto tcp accept"))
-        for arguments, added in (("0 1 '' ''", ["\t\tmeta l4proto udp accept"]),
+        for arguments, added in (("0 1 '' ''", ["\t\tudp sport 293 goto refused", "\t\tmeta l4proto udp accept"]),
                                  ("0 0 192.0.2.1 2001:db8::1", ["\t\tip daddr { 192.0.2.1 } udp dport 53 accept",
                                                                "\t\tip6 daddr { 2001:db8::1 } udp dport 53 accept"])):
             more, account_more = lines(arguments)

@@ -116,7 +116,8 @@ def resolved_with_global_servers(stage: Stage) -> None:
 
 
 # Another end of the tunnel at the router, which lets out what comes through it as its own. Both ends are the program in user space,
-# since not every kernel has WireGuard; the packets are the same.
+# since not every kernel has WireGuard; the packets are the same. Two halves of the world, since for the whole wg-quick sets a
+# switch of the kernel, which a container may not.
 _VPN_END = r"""
 set -eu
 mkdir -p /run/wireguard
@@ -135,7 +136,7 @@ Address = 10.9.0.2/32
 [Peer]
 PublicKey = %s
 Endpoint = {at.ROUTER_LAN_ADDRESS}:51820
-AllowedIPs = 0.0.0.0/0
+AllowedIPs = 0.0.0.0/1, 128.0.0.0/1
 PersistentKeepalive = 5
 """
 _IN_THE_WAY = "A VPN takes Tor's traffic, and strict mode does not let the VPN out."
@@ -151,7 +152,7 @@ def _vpn(stage: Stage, machine: Machine):
         return private, machine.shell("printf %s \"$1\" | wg pubkey", private).strip()
 
     own, other = keys(), keys()
-    machine.shell("nmcli connection modify Home ipv6.method disabled && nmcli connection up Home")
+    machine.shell("nmcli connection modify Home ipv6.dns '' ipv6.gateway '' ipv6.addresses '' ipv6.method disabled && nmcli connection up Home")
     made = stage.lab.router.run(["/bin/bash", "-c", _VPN_END, "vpn", tree, other[0], own[1]])
     if made.returncode:
         raise CannotRun(f"no tunnel device here: {(made.stderr.splitlines() or ['?'])[-1]}")

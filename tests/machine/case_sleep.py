@@ -54,6 +54,7 @@ def clock_jump(stage: Stage) -> None:
                     _shift(machine, seconds)
                     started = time.monotonic()
                     wait(lambda: through_tor(machine, 5), 60, f"no traffic through Tor after the clock went {words}")
+                    wait(lambda: "jumped" in machine.shell("veldmarkctl log"), 30, "Tor has not seen the clock jump")
                     notes.append(f"{words}: through Tor after {time.monotonic() - started:.0f} s")
                     told = session.wait(lambda s: is_protected(s), 60)
                     expect(told["title"] == "Protected", f"it says {told['title']} after the clock went {words}")
@@ -85,6 +86,7 @@ def suspend_and_resume(stage: Stage) -> None:
                 expect(works or not told["torVerified"] or told["errorMessage"] or told["bootstrapProblem"],
                        "ten seconds after the resume nothing flows, and it still says that all is well")
                 stage.note = f"through Tor {seconds:.0f} s after the resume" if works else f"after 10 s it says {told['title']}"
+                print(machine.shell("nmcli device; nmcli general; ip addr; ip route; ip -6 route; journalctl -b -u NetworkManager --no-pager | tail -60; nmcli -f all device show eth0 | head -50"), state(machine), flush=True)
                 # The network itself may be slower than that.
                 wait(machine.is_online, 60, f"{stage.note}; NetworkManager does not bring the network back within a minute of the sleep")
                 wait(lambda: through_tor(machine, 5), 30, "no traffic through Tor although the network is back")

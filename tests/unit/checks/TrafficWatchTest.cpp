@@ -18,7 +18,7 @@ std::optional<Stall> unanswered(int every, int last, bool isInVPN = false)
     TrafficWatch watch;
     std::optional<Stall> said;
     for (int second = 0; second <= last; second += 2)
-        said = watch.take({.at = at(std::chrono::seconds(second)), .read = 500, .written = 100 + quint64(second / every), .isInVPN = isInVPN});
+        said = watch.take({.at = at(std::chrono::seconds(second)), .read = 500, .written = 600 * qint64(second / every), .isInVPN = isInVPN});
     return said;
 }
 
@@ -28,14 +28,14 @@ class TrafficWatchTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void nothingIsSaidWhileBytesComeOrNothingIsSent()
+    void nothingIsSaidWhileCellsComeOrNothingIsSent()
     {
         TrafficWatch watch;
         for (int second = 0; second < 60; second += 2) { // idle: neither
             QVERIFY(!watch.take({.at = at(std::chrono::seconds(second)), .read = 10, .written = 10, .hasCircuit = true}));
         }
         for (int second = 60; second < 120; second += 2) // an upload: little comes
-            QVERIFY(!watch.take({.at = at(std::chrono::seconds(second)), .read = 10 + quint64(second / 10), .written = quint64(second) * 1000}));
+            QVERIFY(!watch.take({.at = at(std::chrono::seconds(second)), .read = 10 + 600 * qint64(second / 10), .written = second * 1000}));
     }
 
     void whatIsSentWithoutAnAnswerIsSaidAfterTwelveSeconds()
@@ -47,33 +47,42 @@ private Q_SLOTS:
         QVERIFY(!unanswered(1000, 60));
     }
 
-    void oneByteTakesItBack()
+    void whatApplicationsAskOfTorIsNoAnswer()
     {
         TrafficWatch watch;
-        watch.take({.at = at(0s), .read = 5, .written = 1});
-        watch.take({.at = at(2s), .read = 5, .written = 2});
-        QVERIFY(watch.take({.at = at(14s), .read = 5, .written = 3}) == Stall::noAnswer);
-        QVERIFY(!watch.take({.at = at(16s), .read = 6, .written = 4}));
-        QVERIFY(!watch.take({.at = at(18s), .read = 6, .written = 5}));
-        QVERIFY(watch.take({.at = at(30s), .read = 6, .written = 6}) == Stall::noAnswer);
+        std::optional<Stall> said;
+        for (int second = 0; second <= 14; second += 2)
+            said = watch.take({.at = at(std::chrono::seconds(second)), .read = 30 * second, .written = 600 * second});
+        QVERIFY(said == Stall::noAnswer);
     }
 
-    void torWithoutACircuitIsSaidAfterTenSecondsAlsoWhenBytesCome()
+    void oneCellTakesItBack()
+    {
+        TrafficWatch watch;
+        watch.take({.at = at(0s), .read = 5000, .written = 1000});
+        watch.take({.at = at(2s), .read = 5000, .written = 2000});
+        QVERIFY(watch.take({.at = at(14s), .read = 5000, .written = 3000}) == Stall::noAnswer);
+        QVERIFY(!watch.take({.at = at(16s), .read = 6000, .written = 4000}));
+        QVERIFY(!watch.take({.at = at(18s), .read = 6000, .written = 5000}));
+        QVERIFY(watch.take({.at = at(30s), .read = 6000, .written = 6000}) == Stall::noAnswer);
+    }
+
+    void torWithoutACircuitIsSaidAfterTenSecondsAlsoWhenCellsCome()
     {
         TrafficWatch watch;
         for (int second = 0; second < 10; second += 2)
-            QVERIFY(!watch.take({.at = at(std::chrono::seconds(second)), .read = quint64(second), .hasCircuit = false}));
-        QVERIFY(watch.take({.at = at(10s), .read = 10, .hasCircuit = false}) == Stall::noCircuit);
-        QVERIFY(watch.take({.at = at(12s), .read = 12, .hasCircuit = false, .isInVPN = true}) == Stall::vpn);
-        QVERIFY(!watch.take({.at = at(14s), .read = 14, .hasCircuit = true}));
-        QVERIFY(!watch.take({.at = at(16s), .read = 16, .hasCircuit = false})); // counted anew
+            QVERIFY(!watch.take({.at = at(std::chrono::seconds(second)), .read = 1000 * qint64(second), .hasCircuit = false}));
+        QVERIFY(watch.take({.at = at(10s), .read = 10000, .hasCircuit = false}) == Stall::noCircuit);
+        QVERIFY(watch.take({.at = at(12s), .read = 12000, .hasCircuit = false, .isInVPN = true}) == Stall::vpn);
+        QVERIFY(!watch.take({.at = at(14s), .read = 14000, .hasCircuit = true}));
+        QVERIFY(!watch.take({.at = at(16s), .read = 16000, .hasCircuit = false})); // counted anew
     }
 
     void aTorThatDoesNotSayIsNotTakenAtItsWord()
     {
         TrafficWatch watch;
         for (int second = 0; second < 60; second += 2)
-            QVERIFY(!watch.take({.at = at(std::chrono::seconds(second)), .read = quint64(second)}));
+            QVERIFY(!watch.take({.at = at(std::chrono::seconds(second)), .read = 1000 * qint64(second)}));
     }
 
     void withoutARouteItIsSaidAtTheSecondLook()
@@ -85,20 +94,20 @@ private Q_SLOTS:
         QVERIFY(!watch.take({.at = at(6s), .read = 1, .written = 2, .hasRoute = true}));
     }
 
-    void bytesThatComeAreAWay() // a bridge in the local network
+    void cellsThatComeAreAWay() // a bridge in the local network
     {
         TrafficWatch watch;
         for (int second = 0; second < 20; second += 2)
-            QVERIFY(!watch.take({.at = at(std::chrono::seconds(second)), .read = quint64(second), .written = 1, .hasRoute = false}));
+            QVERIFY(!watch.take({.at = at(std::chrono::seconds(second)), .read = 1000 * qint64(second), .written = 1, .hasRoute = false}));
     }
 
     void anotherSessionBeginsWithoutKnowledge()
     {
         TrafficWatch watch;
-        watch.take({.at = at(0s), .read = 5, .written = 1});
-        watch.take({.at = at(2s), .read = 5, .written = 2, .hasCircuit = false});
+        watch.take({.at = at(0s), .read = 5000, .written = 1000});
+        watch.take({.at = at(2s), .read = 5000, .written = 2000, .hasCircuit = false});
         watch.reset();
-        QVERIFY(!watch.take({.at = at(20s), .read = 5, .written = 3, .hasCircuit = false}));
+        QVERIFY(!watch.take({.at = at(20s), .read = 5000, .written = 3000, .hasCircuit = false}));
     }
 };
 
