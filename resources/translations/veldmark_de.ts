@@ -2924,6 +2924,10 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <source>your package manager</source>
         <translation>Ihrer Paketverwaltung</translation>
     </message>
+    <message>
+        <source>The network is open again, but the loopback device could not be set up as before. Try: ethtool -K lo %1 on.</source>
+        <translation>Das Netzwerk ist wieder offen, aber das Loopback-Gerät ließ sich nicht wie vorher einstellen. Versuchen Sie: ethtool -K lo %1 on.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsWindow</name>

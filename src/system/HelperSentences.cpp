@@ -88,6 +88,7 @@ constexpr const char *sources[] = {
     QT_TRANSLATE_NOOP("veldmark::Text", "The network is open again, but the DNS servers of systemd-resolved could not be put back. Try: systemctl restart %1."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The network is open again, but the desktop's proxy settings could not be put back."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The network is open again, but the journal in %1 cannot be cleared."),
+    QT_TRANSLATE_NOOP("veldmark::Text", "The network is open again, but the loopback device could not be set up as before. Try: ethtool -K lo %1 on."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The network is open again, but the session marker cannot be removed from %1."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The network is open again, but the system's own Tor service could not be started again. Try: systemctl start %1."),
     QT_TRANSLATE_NOOP("veldmark::Text", "The network is open, but the firewall could not be given back."),
