@@ -47,7 +47,7 @@ void print(const QString &line)
 
 QCoro::Task<void> install(TransportDownloader *downloader, bool throughTor)
 {
-    const TransportDownloader::Progress progress = &print;
+    const TransportDownloader::Progress progress = [](const Text &text) { print(text.english()); };
     auto installing = downloader->install(throughTor, progress);
     const TransportDownloader::Outcome outcome = co_await installing;
     print(outcome ? QStringLiteral("installed %1 %2").arg(outcome->version, outcome->isVerified ? QStringLiteral("signature") : QStringLiteral("https"))
