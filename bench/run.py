@@ -7,6 +7,7 @@
     helper    the helper's connect and disconnect in strict mode, in the private Tor network
     killswitch  how long the rules take to load, and what they cost, against none, interleaved
     download  SOCKS downloads through Tor with the kill switch and without, interleaved
+    identities  what separate applications cost a connection, with and without, interleaved; the program that watches groups
     prompt    what terminal mode's hook adds to a shell's prompt, in the private Tor network
     desktop   redrawing the windows; first frame, memory and processor time of the application beside a bare tray program
     connect   from the call of connect() to connected, and disconnect, against a bare tor with the same torrc, interleaved
@@ -338,6 +339,17 @@ def downloads(lab: Lab, product: Product, pairs: int = 8) -> None:
     report("SOCKS download with it, share of that", middle(shares), "", "at least 0.99", spread(shares))
 
 
+def identities(lab: Lab, product: Product) -> None:
+    from identities_probe import measure  # noqa: PLC0415
+
+    pairs, (busy, idle) = measure(lab, product)
+    more = [(one - other) * 1000 for one, other in pairs]
+    report("a connection to Tor's SOCKS port", middle([other * 1000 for _, other in pairs]), "ms", "yardstick")
+    report("… with 200 identities: more", middle(more), "ms", "at most 0.3", spread(more))
+    report("50 groups come and go each second: processor", busy * 100, "%", "at most 2")
+    report("… at rest", idle * 100, "%", "none")
+
+
 PROMPTS = 1000
 PLAIN_HOME = "/root/plain"
 # Read by an interactive shell line by line, so with a prompt and its hooks before each; prints when it began and
@@ -415,8 +427,8 @@ def main() -> int:
     parser.add_argument("--idle", type=float, default=300, metavar="SECONDS", help="how long the idle application is watched")
     arguments = parser.parse_args()
     idle_seconds = arguments.idle
-    groups = [name for name in ("parsing", "helper", "killswitch", "download", "prompt", "desktop", "connect", "discovery", "service") if arguments.only in name]
-    in_lab = {"helper", "killswitch", "download", "prompt", "desktop", "connect", "service"}
+    groups = [name for name in ("parsing", "helper", "killswitch", "download", "identities", "prompt", "desktop", "connect", "discovery", "service") if arguments.only in name]
+    in_lab = {"helper", "killswitch", "download", "identities", "prompt", "desktop", "connect", "service"}
     try:
         if "parsing" in groups:
             print("parsing")
@@ -430,7 +442,7 @@ def main() -> int:
         if in_lab & set(groups):
             with Lab() as lab:
                 product = Product(lab, PROGRAMS)
-                for name, group in (("helper", helper), ("killswitch", killswitch), ("download", downloads), ("prompt", prompt), ("desktop", desktop), ("connect", connect), ("service", service)):
+                for name, group in (("helper", helper), ("killswitch", killswitch), ("download", downloads), ("identities", identities), ("prompt", prompt), ("desktop", desktop), ("connect", connect), ("service", service)):
                     if name in groups:
                         print(f"{name}, in the private Tor network" if name == "desktop" else name)
                         group(lab, product)

@@ -24,7 +24,7 @@ identify_caller() { CALLER_UID=4242; PROMPTED=1; }
 need_programs() { :; }
 find_launcher() { :; }
 take_lock() {
-  printf 'OK\0%s\0' "$OPT_TOR" "$OPT_HASH" "$OPT_STRICT" "$OPT_LAN" "$OPT_EXIT" "$OPT_LYREBIRD" "$OPT_SNOWFLAKE" \
+  printf 'OK\0%s\0' "$OPT_TOR" "$OPT_HASH" "$OPT_STRICT" "$OPT_LAN" "$OPT_SEPARATE" "$OPT_EXIT" "$OPT_LYREBIRD" "$OPT_SNOWFLAKE" \
     "$OPT_WEBTUNNEL" "$OPT_USER" "$OPT_LAUNCH" "$OPT_UID" "$OPT_APP" "$OPT_PROGRAM" "$OPT_AS" "$OPT_SHA256" ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"}
   if [[ -n $OPT_TOR ]]; then printf 'TORRC\0%s\0' "$(print_torrc 1)"; fi
   exit 42
@@ -43,10 +43,10 @@ while IFS= read -r -d '' count; do
 done
 """
 
-SINGLE = ["--tor", "--hash", "--strict", "--lan", "--exit", "--pt-lyrebird", "--pt-snowflake", "--pt-webtunnel",
+SINGLE = ["--tor", "--hash", "--strict", "--lan", "--separate", "--exit", "--pt-lyrebird", "--pt-snowflake", "--pt-webtunnel",
           "--user", "--launch", "--uid", "--app", "--program", "--as", "--sha256"]
 ALLOWED = {
-    "connect": SINGLE[:8] + ["--bridge"], "replace": SINGLE[:8] + ["--bridge"], "approve": ["--program", "--as", "--sha256"],
+    "connect": SINGLE[:9] + ["--bridge"], "replace": SINGLE[:9] + ["--bridge"], "approve": ["--program", "--as", "--sha256"],
     "launch": ["--uid", "--app"], "install-privileged": ["--user", "--launch"],
     "disconnect": [], "fix-dns": [], "uninstall-privileged": [],
 }
@@ -59,7 +59,7 @@ OBFS4 = b"obfs4 192.0.2.1:443 " + b"0" * 40 + b" cert=a/b+c iat-mode=0"
 
 GOOD = [
     [b"connect", b"--tor", b"/usr/bin/env", b"--hash", HASH, b"--strict", b"1", b"--lan", b"0"],
-    [b"connect", b"--tor", b"/usr/bin/env", b"--hash", HASH, b"--strict", b"0", b"--lan", b"1", b"--exit", b"de"],
+    [b"connect", b"--tor", b"/usr/bin/env", b"--hash", HASH, b"--strict", b"0", b"--lan", b"1", b"--exit", b"de", b"--separate", b"1"],
     [b"connect", b"--tor", b"/usr/bin/env", b"--hash", HASH, b"--strict", b"1", b"--lan", b"1", b"--bridge", OBFS4,
      b"--bridge", b"[2001:db8::1]:443", b"--pt-lyrebird", b"/usr/bin/env"],
     [b"connect", b"--tor", b"/usr/bin/env", b"--hash", HASH, b"--strict", b"1", b"--lan", b"0",
@@ -120,7 +120,7 @@ def fits_connect(options, bridges):
         return False
     programs = [options[name] for name in ("--tor", "--pt-lyrebird", "--pt-snowflake", "--pt-webtunnel") if name in options]
     if not (re.fullmatch(rb"16:[0-9A-F]{58}", options["--hash"]) and options["--strict"] in (b"0", b"1")
-            and options["--lan"] in (b"0", b"1") and re.fullmatch(rb"[a-z]{2}", options.get("--exit", b"xx"))
+            and options["--lan"] in (b"0", b"1") and options.get("--separate", b"0") in (b"0", b"1") and re.fullmatch(rb"[a-z]{2}", options.get("--exit", b"xx"))
             and all(map(is_program, programs))):
         return False
     for bridge in bridges:

@@ -1,7 +1,7 @@
 #!/bin/bash -p
 # Veldmark's root helper: starts and stops Tor and switches the network over and back.
 #
-#   veldmark-helper.sh connect --tor PATH --hash HASH --strict 0|1 --lan 0|1 [--exit CC]
+#   veldmark-helper.sh connect --tor PATH --hash HASH --strict 0|1 --lan 0|1 [--separate 0|1] [--exit CC]
 #                      [--bridge LINE]... [--pt-lyrebird PATH] [--pt-snowflake PATH] [--pt-webtunnel PATH]
 #   veldmark-helper.sh replace …       connect, where that lessens what protects a strict session
 #   veldmark-helper.sh approve --program PATH --as tor|lyrebird|snowflake-client|webtunnel-client --sha256 DIGEST

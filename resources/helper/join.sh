@@ -9,7 +9,7 @@ system=${1:?$usage} output=${2:?$usage}
 case $system in
 linux)
   own=(linux-state linux-groups programs torrc linux-firewall linux-loopback linux-others linux-resolver linux-resolved linux-tor linux-service linux-proxy linux-exempt
-    linux-watcher linux-owner linux-session)
+    linux-watcher linux-identify linux-owner linux-session)
   ;;
 darwin)
   own=(darwin-state programs torrc darwin-rules darwin-firewall darwin-jobs darwin-tor darwin-watcher

@@ -360,8 +360,9 @@ put_firewall() {
 hold_rules() { { exec 7>>"$RULES_LOCK"; } && flock -w 10 7; }
 release_rules() { exec 7>&-; }
 
-# note_listing: what the watcher compares with.
-note_listing() { read_listing "$TABLE" && write_file "$LISTED" 0600 root "$LISTING"$'\n'; }
+# note_listing: what the watcher compares with. keep_listing: the listing that was read.
+note_listing() { read_listing "$TABLE" && keep_listing; }
+keep_listing() { write_file "$LISTED" 0600 root "$LISTING"$'\n'; }
 
 # read_listing TABLE: sets LISTING to how the kernel tells it, without counters, without what a set has taken up meanwhile, and
 # without blanks, which not every nft puts in the same places.

@@ -2,7 +2,7 @@
 # ---- Linux: connect and disconnect -------------------------------------------------------------------------
 
 readonly FIREWALL_ENTRY=10-firewall
-readonly ENTRIES="$KDE_ENTRY $GNOME_ENTRY $GLOBAL_ENTRY $RESOLVED_ENTRY $RESOLVER_ENTRY $TOR_ENTRY $SERVICE_ENTRY $WATCHER_ENTRY $EXEMPT_ENTRY $LOOPBACK_ENTRY $FIREWALL_ENTRY"   # in the order of undoing
+readonly ENTRIES="$KDE_ENTRY $GNOME_ENTRY $GLOBAL_ENTRY $RESOLVED_ENTRY $RESOLVER_ENTRY $TOR_ENTRY $IDENTIFIER_ENTRY $IDENTITIES_ENTRY $SERVICE_ENTRY $WATCHER_ENTRY $EXEMPT_ENTRY $LOOPBACK_ENTRY $FIREWALL_ENTRY"   # in the order of undoing
 
 # switch_firewall MODE: marker and rules belong together, the marker first.
 switch_firewall() {
@@ -58,6 +58,7 @@ linux_connect() {
   fi
   undo_entry "$TOR_ENTRY" || ! journal_has "$TOR_ENTRY" || die "$UNDONE"
   stop_services
+  separate_applications "$OPT_SEPARATE"
   start_tor
   put_resolver
   put_resolved || true   # the firewall redirects what it asks
@@ -88,6 +89,9 @@ undo_entry() {
   if [[ $name == "$WATCHER_ENTRY" ]] && [[ $status == 2 || -z $JOURNAL_TRUSTED ]]; then
     kill_stray_watcher
   fi
+  if [[ $name == "$IDENTIFIER_ENTRY" ]] && [[ $status == 2 || -z $JOURNAL_TRUSTED ]]; then
+    kill_stray_identifier
+  fi
   case $name in
   "$KDE_ENTRY") undo_kde ;;
   "$GNOME_ENTRY") undo_gnome ;;
@@ -95,6 +99,8 @@ undo_entry() {
   "$RESOLVED_ENTRY") undo_resolved ;;
   "$RESOLVER_ENTRY") undo_resolver ;;
   "$TOR_ENTRY") undo_tor ;;
+  "$IDENTIFIER_ENTRY") undo_identifier ;;
+  "$IDENTITIES_ENTRY") undo_identities ;;
   "$SERVICE_ENTRY") undo_service ;;
   "$WATCHER_ENTRY") undo_watcher ;;
   "$EXEMPT_ENTRY") undo_exempt ;;
@@ -112,17 +118,22 @@ JOURNAL_TRUSTED=1
 
 # undo_session: everything, backwards, the firewall last; goes on when a step fails. Keeps the first reason.
 undo_session() {
-  local name status reason='' open=1
+  local name status reason='' least='' open=1
   for name in $ENTRIES; do
     UNDONE='' status=0
     undo_entry "$name" || status=$?
-    ((status == 0)) || reason=${reason:-${UNDONE:-The former network settings could not all be restored.}}
-    # The desktop's settings, the service, the group and the loopback device are not the network: they are tried again by the next run.
-    [[ $status != 1 || " $KDE_ENTRY $GNOME_ENTRY $SERVICE_ENTRY $EXEMPT_ENTRY $LOOPBACK_ENTRY " == *" $name "* ]] || open=''
+    case $status,$name in
+    0,*) ;;
+    *,"$IDENTITIES_ENTRY") least=$UNDONE ;;   # what keeps the network closed is worth more
+    *) reason=${reason:-${UNDONE:-The former network settings could not all be restored.}} ;;
+    esac
+    # The desktop's settings, the service, the identities, the group and the loopback device are not the network: they are tried again by the next run.
+    [[ $status != 1 || " $KDE_ENTRY $GNOME_ENTRY $SERVICE_ENTRY $IDENTITIES_ENTRY $EXEMPT_ENTRY $LOOPBACK_ENTRY " == *" $name "* ]] || open=''
   done
   [[ -z $open ]] || rm -f -- "$MARKER" "$ASKED" "$OWNER" "$RULES" "$LISTED" "$OTHERS_NOTE"
   rm -f -- "$MARKER.new" "$ASKED.new" "$OWNER.new" "$RULES.new" "$LISTED.new" "$WATCHER" "$WATCHER.new" "$KILL_SWITCH_NOTE" "$KILL_SWITCH_NOTE.new" "$STATE/relocked" "$TORRC.checked" "$JOURNAL"/*.new
   [[ -z $open || ! -e $MARKER ]] || reason=${reason:-"The network is open again, but the session marker cannot be removed from $STATE."}
+  reason=${reason:-$least}
   [[ -n $reason || -z $(compgen -G "$JOURNAL/*") ]] || reason="The network is open again, but the journal in $JOURNAL cannot be cleared."
   UNDONE=$reason
   [[ -z $reason ]]
@@ -146,6 +157,7 @@ linux_fix-dns() {
   fi
   put_loopback || true
   [[ $(read_marker) != strict ]] || watcher_runs || start_watcher
+  ! journal_has "$IDENTITIES_ENTRY" || identifier_runs || separate_applications 1
   read_resolver
   put_resolver
   { put_resolved && put_global; } || die "The DNS servers of systemd-resolved cannot be changed."

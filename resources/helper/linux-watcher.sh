@@ -29,12 +29,12 @@ relock() {
     make_groups   # the rules name them, and they may be gone
     if nft -f - <<<"$text"; then
       if [[ -n $LESSENED ]]; then
-        { note_listing && LESSENED=''; } || true
+        if copy_stands "$text" && keep_listing; then LESSENED=''; else word=open; fi
       elif ! rules_stand; then
         # Either nft words the same rules in another way now, or somebody changes them as fast as we do.
         if ! copy_stands "$text"; then
           STRUGGLES=$((STRUGGLES + 1)) word=open   # whatever was loaded, it does not stand
-        elif note_listing; then
+        elif keep_listing; then
           word=standing
         fi
         ((STRUGGLES < 3)) || sleep "$BEAT_SECONDS"
@@ -44,7 +44,7 @@ relock() {
     elif nft -f - <<<"$(print_unexempt "$text")"; then
       # Without its group the exemption cannot be loaded; the lock can.
       LESSENED=1
-      note_listing || true
+      { copy_stands "$(print_unexempt "$text")" && keep_listing; } || word=open
     else
       word=open
     fi
@@ -53,7 +53,8 @@ relock() {
   release_rules
 }
 
-# copy_stands TEXT: whether the kernel's listing is that of the rules, by a copy of them that takes no part in anything.
+# copy_stands TEXT: whether the kernel's listing is that of the rules, by a copy of them that takes no part in anything. LISTING is then
+# that listing; one that is read afterwards may already be another.
 copy_stands() {
   local copy=$TABLE-copy now text
   read_listing "$TABLE" || return 1
@@ -63,7 +64,8 @@ copy_stands() {
   read_listing "$copy" || LISTING=''
   nft delete table inet "$copy"
   LISTING=${LISTING/"tableinet$copy"/"tableinet$TABLE"}
-  [[ ${LISTING/$'flagsdormant\n\n'/} == "$now" ]]
+  [[ ${LISTING/$'flagsdormant\n\n'/} == "$now" ]] || return 1
+  LISTING=$now
 }
 
 # print_unexempt TEXT: the rules without those that name the exempt group.
@@ -74,9 +76,18 @@ print_unexempt() {
   done <<<"$1"
 }
 
-# monitor_rules: becomes nft's monitor, which dies with the watcher, also one that has died before this could be arranged.
+# monitor PARENT KIND: becomes nft's monitor, which dies with its parent, also with one that has died before this could be arranged.
 # shellcheck disable=SC2016
-monitor_rules() { exec setpriv --pdeathsig KILL sh -c '[ "$PPID" != "$1" ] || exec nft monitor' monitor "$$"; }
+monitor() { exec setpriv --pdeathsig KILL sh -c '[ "$PPID" != "$1" ] || exec nft monitor "$2"' monitor "$1" "$2"; }
+
+# monitor_rules: one for each kind of change that the listing tells, and none for the elements of sets, which come and go with
+# applications. The first is the others' parent.
+monitor_rules() {
+  local first=$BASHPID
+  monitor "$first" tables &
+  monitor "$first" chains &
+  monitor "$$" rules
+}
 
 # beat: the note once more as it is, in place, by this shell alone. On descriptor 3, since `declare -f` prints 1<> as <>.
 beat() {
@@ -131,10 +142,9 @@ watch_rules() {
   while [[ $(read_marker) == strict ]]; do
     if ! rules_stand; then
       relock
-    elif ports_are_tors; then
-      note_rules standing || true
     else
-      NOTED=''
+      beat || true   # on a busy computer the rest takes its time
+      if ports_are_tors; then note_rules standing || true; else NOTED=''; fi
     fi
     await_change || {
       # Look on, and ask again.
@@ -152,8 +162,8 @@ print_watcher() {
   declare -p TABLE RULES LISTED RULES_LOCK MARKER KILL_SWITCH_NOTE WATCH_SECONDS BEAT_SECONDS EXEMPT_NAME RUN_GROUP TOR_GROUP CGROUPS \
     WORD MISSED SINCE NOTED JOURNAL TOR_ENTRY SOCKS_PORT CONTROL_PORT DNS_PORT
   printf 'STRUGGLES=0 LESSENED= LISTING= TREE= TOR_UID= VOUCHED= CHILDREN= START_TIME= JOURNAL_LINES=()\n'
-  declare -f read_marker put_in_place write_file note_rules hold_rules release_rules note_listing rules_stand find_tree make_group make_groups read_listing copy_stands \
-    print_unexempt relock monitor_rules beat await_change port_sockets has_socket \
+  declare -f read_marker put_in_place write_file note_rules hold_rules release_rules keep_listing rules_stand find_tree make_group make_groups read_listing copy_stands \
+    print_unexempt relock monitor monitor_rules beat await_change port_sockets has_socket \
     journal_has journal_read read_lines journal_value boot_id start_time recorded_pid read_children ports_are_tors watch_rules
   printf 'watch_rules\n'
 }
@@ -195,22 +205,33 @@ await_standstill() {
   done
 }
 
-# undo_watcher: it never waits for us, so it is killed at once. A change of rules that it was in the middle of keeps
-# the rules' lock, so that the firewall opens after that.
-undo_watcher() {
-  local pid child
-  rm -f -- "$WATCHER"
-  pid=$(recorded_pid) || { rm -f -- "$KILL_SWITCH_NOTE"; return 0; }
+# end_recorded: kills the process of the entry that was read, which never waits for us, and what it has started.
+end_recorded() {
+  local pid child all
+  pid=$(recorded_pid) || return 0
   # A child that it is just starting would be missed; what stands still starts none.
   kill -STOP "$pid" || true
   await_standstill "$pid"
   read_children "$pid"
-  kill -KILL "$pid" || true
+  all=$CHILDREN
   for child in $CHILDREN; do
+    read_children "$child"
+    all="$all $CHILDREN"
+  done
+  kill -KILL "$pid" || true
+  for child in $all; do
     kill -KILL "$child" || true
   done
   recorded_lives || true
-  for child in $CHILDREN; do await_standstill "$child"; done
+  for child in $all; do await_standstill "$child"; done
+}
+
+# undo_watcher: a change of rules that it was in the middle of keeps the rules' lock, so that the firewall opens after that.
+undo_watcher() {
+  rm -f -- "$WATCHER"
+  end_recorded
+  # A copy of the rules that it was comparing with just then.
+  nft -f - <<<"delete table inet $TABLE-copy" >/dev/null 2>&1 || true
   rm -f -- "$KILL_SWITCH_NOTE"   # it writes no other any more
 }
 

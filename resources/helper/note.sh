@@ -3,7 +3,8 @@
 # The system's own part brings KILL_SWITCH_NOTE, a file that everybody may read, in a folder that a restart of the
 # computer empties. It holds "WORD COUNT SINCE": standing (the kernel holds the rules as they were loaded), restored
 # (they were missing and are back) or open (they are missing and could not be put back); how often they were missed;
-# since when, in seconds since 1970. The file's own time is that of the last look, so what is old tells nothing.
+# since when, in seconds since 1970. The file's own time is that of the watcher's last sign of life, which looks again every
+# few seconds at the latest; so what is old tells nothing.
 
 WORD='' MISSED=0 SINCE=0 NOTED=''
 

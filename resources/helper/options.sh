@@ -2,7 +2,7 @@
 # ---- Options -----------------------------------------------------------------------------------------------
 # Every value is checked against one strict pattern before anything is touched.
 
-OPT_TOR='' OPT_HASH='' OPT_STRICT='' OPT_LAN='' OPT_EXIT=''
+OPT_TOR='' OPT_HASH='' OPT_STRICT='' OPT_LAN='' OPT_EXIT='' OPT_SEPARATE=''
 OPT_BRIDGES=()
 OPT_LYREBIRD='' OPT_SNOWFLAKE='' OPT_WEBTUNNEL=''
 OPT_USER='' OPT_LAUNCH=''
@@ -58,6 +58,7 @@ parse_options() {
     --hash) take OPT_HASH "$option" "$value" ;;
     --strict) take OPT_STRICT "$option" "$value" ;;
     --lan) take OPT_LAN "$option" "$value" ;;
+    --separate) take OPT_SEPARATE "$option" "$value" ;;
     --exit) take OPT_EXIT "$option" "$value" ;;
     --pt-lyrebird) take OPT_LYREBIRD "$option" "$value" ;;
     --pt-snowflake) take OPT_SNOWFLAKE "$option" "$value" ;;
@@ -92,7 +93,7 @@ check_bridge() {
 
 parse_connect() {
   local bridge
-  parse_options " --tor --hash --strict --lan --exit --bridge --pt-lyrebird --pt-snowflake --pt-webtunnel " "$@"
+  parse_options " --tor --hash --strict --lan --separate --exit --bridge --pt-lyrebird --pt-snowflake --pt-webtunnel " "$@"
   [[ -n $OPT_TOR ]] || die "The option --tor is missing."
   [[ -n $OPT_HASH ]] || die "The option --hash is missing."
   [[ -n $OPT_STRICT ]] || die "The option --strict is missing."
@@ -100,6 +101,7 @@ parse_connect() {
   [[ $OPT_HASH =~ ^16:[0-9A-F]{58}$ ]] || die "The hashed control password is not valid."
   [[ $OPT_STRICT == [01] ]] || die "The value of --strict must be 0 or 1."
   [[ $OPT_LAN == [01] ]] || die "The value of --lan must be 0 or 1."
+  [[ -z $OPT_SEPARATE || $OPT_SEPARATE == [01] ]] || die "The value of --separate must be 0 or 1."
   [[ -z $OPT_EXIT || $OPT_EXIT =~ ^[a-z]{2}$ ]] || die "The exit country is not a two-letter code."
   for bridge in ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"}; do
     check_bridge "$bridge"

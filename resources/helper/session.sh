@@ -57,7 +57,7 @@ put_marker() {
 
 # print_asked LAN: the checked options, programs as they will run.
 print_asked() {
-  printf '%s\n' "lan $1" "hash $OPT_HASH" "exit $OPT_EXIT" "tor $OPT_TOR"
+  printf '%s\n' "lan $1" "hash $OPT_HASH" "exit $OPT_EXIT" "tor $OPT_TOR" "separate ${OPT_SEPARATE:-0}"
   printf '%s\n' "lyrebird $USED_LYREBIRD $OPT_LYREBIRD" "snowflake $USED_SNOWFLAKE $OPT_SNOWFLAKE" \
     "webtunnel $USED_WEBTUNNEL $OPT_WEBTUNNEL" ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]/#/bridge }"}
 }

@@ -669,6 +669,743 @@
     </message>
 </context>
 <context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Tor</source>
+        <translation>Tor</translation>
+    </message>
+    <message>
+        <source>Bridges</source>
+        <translation>Brücken</translation>
+    </message>
+    <message>
+        <source>Terminal</source>
+        <translation>Terminal</translation>
+    </message>
+    <message>
+        <source>Recovery</source>
+        <translation>Wiederherstellung</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalPane</name>
+    <message>
+        <source>Terminal</source>
+        <translation>Terminal</translation>
+    </message>
+    <message>
+        <source>Route command-line tools through Tor</source>
+        <translation>Befehlszeilenprogramme durch Tor leiten</translation>
+    </message>
+    <message>
+        <source>Terminal mode</source>
+        <translation>Terminalmodus</translation>
+    </message>
+    <message>
+        <source>Shell integration</source>
+        <translation>Shell-Einbindung</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>TorPane</name>
+    <message>
+        <source>Tor</source>
+        <translation>Tor</translation>
+    </message>
+    <message>
+        <source>The Tor program Veldmark runs</source>
+        <translation>Das Tor-Programm, das Veldmark startet</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Location: disconnect to change</source>
+        <translation>Ort: zum Ändern trennen</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Custom location</source>
+        <translation>Eigener Ort</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Separate applications</source>
+        <translation>Anwendungen trennen</translation>
+    </message>
+    <message>
+        <source>Disconnect to change</source>
+        <translation>Zum Ändern trennen</translation>
+    </message>
+    <message>
+        <source>Each application has circuits of its own</source>
+        <translation>Jede Anwendung hat eigene Kanäle</translation>
+    </message>
+    <message>
+        <source>Sites cannot tell by the exit address that two applications are yours. Applications are told apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with all of their login session or account.</source>
+        <translation>Seiten erkennen nicht an der Ausgangsadresse, dass zwei Anwendungen Ihre sind. Anwendungen werden unterschieden, wo die Arbeitsumgebung jede in einer eigenen Kontrollgruppe startet, wie GNOME und KDE. Andere Programme teilen sich Kanäle mit ihrer ganzen Anmeldesitzung oder ihrem Konto.</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Start without a window, as at login.</source>
+        <translation>Ohne Fenster starten, wie bei der Anmeldung.</translation>
+    </message>
+    <message>
+        <source>Connect at once.</source>
+        <translation>Sofort verbinden.</translation>
+    </message>
+    <message>
+        <source>Your network is still set up for Tor. To restore it without Veldmark, run:
+%1</source>
+        <translation>Ihr Netzwerk ist noch für Tor eingerichtet. Um es ohne Veldmark wiederherzustellen, führen Sie aus:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::Alerts</name>
+    <message>
+        <source>Another session has replaced this one</source>
+        <translation>Eine andere Sitzung hat diese ersetzt</translation>
+    </message>
+    <message>
+        <source>Tor stopped running</source>
+        <translation>Tor läuft nicht mehr</translation>
+    </message>
+    <message>
+        <source>Traffic can leave around Tor</source>
+        <translation>Verkehr kann an Tor vorbei</translation>
+    </message>
+    <message>
+        <source>Lookups can go around Tor</source>
+        <translation>Namensabfragen können an Tor vorbei</translation>
+    </message>
+    <message>
+        <source>Your real address can be seen. Open Veldmark to see what to do.</source>
+        <translation>Ihre echte Adresse ist sichtbar. Öffnen Sie Veldmark, um zu sehen, was zu tun ist.</translation>
+    </message>
+    <message>
+        <source>Firewall rules were removed</source>
+        <translation>Firewall-Regeln wurden entfernt</translation>
+    </message>
+    <message>
+        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
+        <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt; sie stehen wieder.</translation>
+    </message>
+    <message>
+        <source>The kill switch is open. Open Veldmark, disconnect and connect again.</source>
+        <translation>Der Notschalter ist offen. Öffnen Sie Veldmark, trennen Sie und verbinden Sie neu.</translation>
+    </message>
+    <message>
+        <source>The kill switch is not watched</source>
+        <translation>Der Notschalter wird nicht überwacht</translation>
+    </message>
+    <message>
+        <source>It can&apos;t be told whether it stands. Open Veldmark, disconnect and connect again.</source>
+        <translation>Es lässt sich nicht sagen, ob er steht. Öffnen Sie Veldmark, trennen Sie und verbinden Sie neu.</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::Application</name>
+    <message>
+        <source>Veldmark</source>
+        <translation>Veldmark</translation>
+    </message>
+    <message>
+        <source>A window could not be made. Your network is not affected; to restore it without Veldmark, run:
+%1
+
+%2</source>
+        <translation>Ein Fenster ließ sich nicht öffnen. Ihr Netzwerk ist davon nicht betroffen; um es ohne Veldmark wiederherzustellen, führen Sie aus:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>Veldmark is still running</source>
+        <translation>Veldmark läuft weiter</translation>
+    </message>
+    <message>
+        <source>Open Veldmark again to see its window.</source>
+        <translation>Öffnen Sie Veldmark erneut, um das Fenster zu sehen.</translation>
+    </message>
+    <message>
+        <source>Your network is still set up for Tor</source>
+        <translation>Ihr Netzwerk ist noch für Tor eingerichtet</translation>
+    </message>
+    <message>
+        <source>Veldmark was told to end and could not restore it. Open Veldmark again to do so.</source>
+        <translation>Veldmark sollte enden und konnte es nicht wiederherstellen. Öffnen Sie Veldmark erneut, um das zu tun.</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::ApplicationChoices</name>
+    <message>
+        <source>No installed applications were found.</source>
+        <translation>Es wurden keine installierten Apps gefunden.</translation>
+    </message>
+    <message>
+        <source>No application is called “%1”.</source>
+        <translation>Keine App heißt „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::CircuitGraphView</name>
+    <message>
+        <source>%1: your real IP only ever reaches the entry relay</source>
+        <translation>%1: Ihre echte IP erreicht nur das Eingangsrelais</translation>
+    </message>
+    <message>
+        <source>Used by 1 circuit</source>
+        <translation>Von 1 Kanal benutzt</translation>
+    </message>
+    <message>
+        <source>Used by %1 circuits</source>
+        <translation>Von %1 Kanälen benutzt</translation>
+    </message>
+    <message>
+        <source>ENTRY</source>
+        <translation>EINGANG</translation>
+    </message>
+    <message>
+        <source>MIDDLE</source>
+        <translation>MITTE</translation>
+    </message>
+    <message>
+        <source>EXIT</source>
+        <translation>AUSGANG</translation>
+    </message>
+    <message>
+        <source>SITES</source>
+        <translation>ZIELE</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 weitere</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::CircuitsModel</name>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>Circuit %1</source>
+        <translation>Kanal %1</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Nicht verbunden</translation>
+    </message>
+    <message>
+        <source>1 active path</source>
+        <translation>1 aktiver Weg</translation>
+    </message>
+    <message>
+        <source>%1 active paths</source>
+        <translation>%1 aktive Wege</translation>
+    </message>
+    <message>
+        <source> · click a relay or site to follow it</source>
+        <translation> · klicken Sie ein Relais oder Ziel an, um ihm zu folgen</translation>
+    </message>
+    <message>
+        <source>Leads to an onion service, which meets it at its last relay</source>
+        <translation>Führt zu einem Onion-Dienst, der ihm an seinem letzten Relais begegnet</translation>
+    </message>
+    <message>
+        <source>Meeting point</source>
+        <translation>Treffpunkt</translation>
+    </message>
+    <message>
+        <source>One of several linked legs to the same exit</source>
+        <translation>Einer von mehreren verbundenen Strängen zum selben Ausgang</translation>
+    </message>
+    <message>
+        <source>Only the entry sees your IP</source>
+        <translation>Nur der Eingang sieht Ihre IP</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Bridge</source>
+        <translation>Brücke</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Eingang</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Ausgang</translation>
+    </message>
+    <message>
+        <source>, +%1 more</source>
+        <translation>, +%1 weitere</translation>
+    </message>
+    <message>
+        <source>Sites</source>
+        <translation>Ziele</translation>
+    </message>
+    <message>
+        <source>Round trip: %1</source>
+        <translation>Hin und zurück: %1</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::DoctorModel</name>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>Nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>In order</source>
+        <translation>In Ordnung</translation>
+    </message>
+    <message>
+        <source>Restore Network</source>
+        <translation>Netzwerk wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Herunterladen</translation>
+    </message>
+    <message>
+        <source>Looking at this computer…</source>
+        <translation>Dieser Computer wird untersucht…</translation>
+    </message>
+    <message>
+        <source>Nothing was found out.</source>
+        <translation>Es wurde nichts herausgefunden.</translation>
+    </message>
+    <message>
+        <source>Nothing was found that keeps Veldmark from connecting.</source>
+        <translation>Es wurde nichts gefunden, das Veldmark am Verbinden hindert.</translation>
+    </message>
+    <message>
+        <source>Veldmark can&apos;t connect before each problem is mended.</source>
+        <translation>Veldmark kann sich nicht verbinden, bevor jedes Problem behoben ist.</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::LogModel</name>
+    <message>
+        <source>Tor writes here while it connects and runs</source>
+        <translation>Hier schreibt Tor, während es sich verbindet und läuft</translation>
+    </message>
+    <message>
+        <source>Can&apos;t read the log files</source>
+        <translation>Die Protokolldateien sind nicht lesbar</translation>
+    </message>
+    <message>
+        <source>1 line</source>
+        <translation>1 Zeile</translation>
+    </message>
+    <message>
+        <source>%1 lines</source>
+        <translation>%1 Zeilen</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Probleme</translation>
+    </message>
+    <message>
+        <source>Problems (%1)</source>
+        <translation>Probleme (%1)</translation>
+    </message>
+    <message>
+        <source>Can&apos;t read Tor&apos;s log</source>
+        <translation>Tors Protokoll ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>No log yet</source>
+        <translation>Noch kein Protokoll</translation>
+    </message>
+    <message>
+        <source>No warnings or errors. Tor is happy.</source>
+        <translation>Keine Warnungen oder Fehler. Tor ist zufrieden.</translation>
+    </message>
+    <message>
+        <source>Nothing matches</source>
+        <translation>Nichts passt</translation>
+    </message>
+    <message>
+        <source>The log files in %1 aren&apos;t readable by your account. Reconnect once with this version of Veldmark to fix their permissions.</source>
+        <translation>Ihr Konto darf die Protokolldateien in %1 nicht lesen. Verbinden Sie sich mit dieser Version von Veldmark einmal neu, um ihre Rechte zu berichtigen.</translation>
+    </message>
+    <message>
+        <source>Connect, and Tor&apos;s messages appear here as it starts. If Tor fails to start, the reason shows up here.</source>
+        <translation>Verbinden Sie sich, dann erscheinen hier Tors Meldungen beim Start. Startet Tor nicht, steht hier der Grund.</translation>
+    </message>
+    <message>
+        <source>No lines contain “%1”</source>
+        <translation>Keine Zeile enthält „%1“</translation>
+    </message>
+    <message>
+        <source>Show the log files in Finder</source>
+        <translation>Zeigt die Protokolldateien im Finder</translation>
+    </message>
+    <message>
+        <source>Show the log files in the file manager</source>
+        <translation>Zeigt die Protokolldateien in der Dateiverwaltung</translation>
+    </message>
+    <message>
+        <source>There are no log files yet: Tor makes %1 when it is first started.</source>
+        <translation>Es gibt noch keine Protokolldateien: Tor legt %1 beim ersten Start an.</translation>
+    </message>
+    <message>
+        <source>No file manager could be opened. The log files are in %1.</source>
+        <translation>Es konnte kein Dateimanager geöffnet werden. Die Protokolldateien liegen in %1.</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::OptionsModel</name>
+    <message>
+        <source>Choosing a country means fewer exit relays, so it&apos;s slower and you&apos;re easier to single out.</source>
+        <translation>Mit einem Land bleiben weniger Ausgangsrelais: Es wird langsamer, und Sie fallen leichter auf.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>obfs4 (built-in)</source>
+        <translation>obfs4 (eingebaut)</translation>
+    </message>
+    <message>
+        <source>Snowflake (built-in)</source>
+        <translation>Snowflake (eingebaut)</translation>
+    </message>
+    <message>
+        <source>meek (built-in)</source>
+        <translation>meek (eingebaut)</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Eigene</translation>
+    </message>
+    <message>
+        <source>No bridges added yet</source>
+        <translation>Noch keine Brücken eingetragen</translation>
+    </message>
+    <message>
+        <source>Needs bridge programs: click Download</source>
+        <translation>Braucht Brückenprogramme: Klicken Sie auf Herunterladen</translation>
+    </message>
+    <message>
+        <source>Built-in bridges from %1</source>
+        <translation>Eingebaute Brücken aus %1</translation>
+    </message>
+    <message>
+        <source>(line %1)</source>
+        <translation>(Zeile %1)</translation>
+    </message>
+    <message>
+        <source>(lines %1)</source>
+        <translation>(Zeilen %1)</translation>
+    </message>
+    <message>
+        <source>1 bridge recognized</source>
+        <translation>1 Brücke erkannt</translation>
+    </message>
+    <message>
+        <source>%1 bridges recognized</source>
+        <translation>%1 Brücken erkannt</translation>
+    </message>
+    <message>
+        <source>A bridge line can&apos;t contain #, &quot; or \.</source>
+        <translation>Eine Brückenzeile kann kein #, &quot; oder \ enthalten.</translation>
+    </message>
+    <message>
+        <source>At most %1 bridges can be used</source>
+        <translation>Höchstens %1 Brücken können benutzt werden</translation>
+    </message>
+    <message>
+        <source>1 line not recognized</source>
+        <translation>1 Zeile nicht erkannt</translation>
+    </message>
+    <message>
+        <source>%1 lines not recognized</source>
+        <translation>%1 Zeilen nicht erkannt</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the Dock) so Veldmark can tag them. A running copy is quit and reopened.</source>
+        <translation>Im strikten Modus dürfen sich diese Apps direkt statt durch Tor verbinden, mit Ihrer echten IP-Adresse. Alles andere bleibt gesperrt. Öffnen Sie sie mit &lt;b&gt;Ohne Tor öffnen&lt;/b&gt; (nicht aus dem Dock), damit Veldmark sie kennzeichnen kann. Eine laufende Kopie wird beendet und neu geöffnet.</translation>
+    </message>
+    <message>
+        <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the desktop&apos;s menu) so Veldmark can tag them. A running copy is quit and reopened.</source>
+        <translation>Im strikten Modus dürfen sich diese Apps direkt statt durch Tor verbinden, mit Ihrer echten IP-Adresse. Alles andere bleibt gesperrt. Öffnen Sie sie mit &lt;b&gt;Ohne Tor öffnen&lt;/b&gt; (nicht aus dem Menü der Arbeitsumgebung), damit Veldmark sie kennzeichnen kann. Eine laufende Kopie wird beendet und neu geöffnet.</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::PanelModel</name>
+    <message>
+        <source>No answer</source>
+        <translation>Keine Antwort</translation>
+    </message>
+    <message>
+        <source>A direct connection that skips Tor got no answer, but the kill switch isn&apos;t known to close that path</source>
+        <translation>Eine direkte Verbindung an Tor vorbei blieb ohne Antwort, aber es ist nicht bekannt, ob der Notschalter diesen Weg schließt</translation>
+    </message>
+    <message>
+        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t close that path</source>
+        <translation>Eine direkte Verbindung an Tor vorbei blieb ohne Antwort, aber der Proxy-Modus schließt diesen Weg nicht</translation>
+    </message>
+    <message>
+        <source>Connect to Tor</source>
+        <translation>Mit Tor verbinden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Trennen</translation>
+    </message>
+    <message>
+        <source>Reconnect</source>
+        <translation>Neu verbinden</translation>
+    </message>
+    <message>
+        <source>Connected through %1 bridges</source>
+        <translation>Über %1-Brücken verbunden</translation>
+    </message>
+    <message>
+        <source>Strict</source>
+        <translation>Strikt</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+    <message>
+        <source>Install Tor to get started</source>
+        <translation>Installieren Sie zuerst Tor</translation>
+    </message>
+    <message>
+        <source>Click to connect</source>
+        <translation>Zum Verbinden klicken</translation>
+    </message>
+    <message>
+        <source>Click to disconnect</source>
+        <translation>Zum Trennen klicken</translation>
+    </message>
+    <message>
+        <source>Tor hasn&apos;t reported progress for a while. It is still trying; a slow or blocked network is the usual reason.</source>
+        <translation>Tor meldet seit einer Weile keinen Fortschritt. Es versucht es weiter; meist ist das Netz langsam oder gesperrt.</translation>
+    </message>
+    <message>
+        <source>Still waiting for Tor to start, or for your approval.</source>
+        <translation>Es wird noch auf Tors Start oder auf Ihre Zustimmung gewartet.</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Wird geprüft</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>Checked against %1</source>
+        <translation>Geprüft bei %1</translation>
+    </message>
+    <message>
+        <source>Verified</source>
+        <translation>Bestätigt</translation>
+    </message>
+    <message>
+        <source>Not confirmed</source>
+        <translation>Nicht bestätigt</translation>
+    </message>
+    <message>
+        <source>DNS leak</source>
+        <translation>DNS-Leck</translation>
+    </message>
+    <message>
+        <source>Not tested</source>
+        <translation>Nicht getestet</translation>
+    </message>
+    <message>
+        <source>Testing…</source>
+        <translation>Test läuft…</translation>
+    </message>
+    <message>
+        <source>No leaks</source>
+        <translation>Keine Lecks</translation>
+    </message>
+    <message>
+        <source>Inconclusive</source>
+        <translation>Ohne Ergebnis</translation>
+    </message>
+    <message>
+        <source>Exposed: %1</source>
+        <translation>Sichtbar: %1</translation>
+    </message>
+    <message>
+        <source>Tries a direct connection that skips Tor</source>
+        <translation>Versucht eine direkte Verbindung an Tor vorbei</translation>
+    </message>
+    <message>
+        <source>Direct connections that skip Tor are blocked</source>
+        <translation>Direkte Verbindungen an Tor vorbei sind gesperrt</translation>
+    </message>
+    <message>
+        <source>Apps that ignore proxy settings show your real IP (%1). Turn on Strict mode to block them.</source>
+        <translation>Apps, die Proxy-Einstellungen übergehen, zeigen Ihre echte IP (%1). Schalten Sie den strikten Modus ein, um sie zu sperren.</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 weitere</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::SettingsModel</name>
+    <message>
+        <source>Found</source>
+        <translation>Gefunden</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Fehlt</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Homebrew: %1</source>
+        <translation>Homebrew: %1</translation>
+    </message>
+    <message>
+        <source>Install it with %1</source>
+        <translation>Installieren Sie es mit %1</translation>
+    </message>
+    <message>
+        <source>Not found in Tor Browser or a downloaded bundle</source>
+        <translation>Weder im Tor Browser noch in einem geladenen Bundle gefunden</translation>
+    </message>
+    <message>
+        <source>Loaded from %1</source>
+        <translation>Geladen aus %1</translation>
+    </message>
+    <message>
+        <source>Not downloaded</source>
+        <translation>Nicht geladen</translation>
+    </message>
+    <message>
+        <source>Version %1 loaded</source>
+        <translation>Version %1 geladen</translation>
+    </message>
+    <message>
+        <source>signature verified</source>
+        <translation>Signatur geprüft</translation>
+    </message>
+    <message>
+        <source>Adds one line to ~/.zshrc (and ~/.bash_profile if you have one) and an Include line at the top of ~/.ssh/config. Its files live in ~/.veldmark. Nothing is routed unless Veldmark is connected with Terminal mode on.</source>
+        <translation>Fügt ~/.zshrc (und ~/.bash_profile, falls vorhanden) eine Zeile hinzu und oben in ~/.ssh/config eine Include-Zeile. Die Dateien liegen in ~/.veldmark. Umgeleitet wird nur, wenn Veldmark mit eingeschaltetem Terminalmodus verbunden ist.</translation>
+    </message>
+    <message>
+        <source>Adds one line to ~/.bashrc (and ~/.zshrc if you use zsh) and an Include line at the top of ~/.ssh/config. Its files live in ~/.veldmark. Nothing is routed unless Veldmark is connected with Terminal mode on.</source>
+        <translation>Fügt ~/.bashrc (und ~/.zshrc, wenn Sie zsh benutzen) eine Zeile hinzu und oben in ~/.ssh/config eine Include-Zeile. Die Dateien liegen in ~/.veldmark. Umgeleitet wird nur, wenn Veldmark mit eingeschaltetem Terminalmodus verbunden ist.</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Fetched over HTTPS. Its signature isn&apos;t checked, since GnuPG isn&apos;t installed.</source>
+        <translation>Über HTTPS geladen. Die Signatur wird nicht geprüft, weil GnuPG nicht installiert ist.</translation>
+    </message>
+    <message>
+        <source>Fetched over HTTPS and checked against the Tor Project&apos;s signature.</source>
+        <translation>Über HTTPS geladen und gegen die Signatur des Tor-Projekts geprüft.</translation>
+    </message>
+    <message>
+        <source>Not installed</source>
+        <translation>Nicht eingerichtet</translation>
+    </message>
+    <message>
+        <source>Installed in your shell and SSH config</source>
+        <translation>In Ihrer Shell und SSH-Konfiguration eingerichtet</translation>
+    </message>
+    <message>
+        <source>Installed in your shell; SSH doesn&apos;t use it</source>
+        <translation>In Ihrer Shell eingerichtet; SSH benutzt es nicht</translation>
+    </message>
+    <message>
+        <source>curl, git, brew, pip, ssh and more use Tor</source>
+        <translation>curl, git, brew, pip, ssh und andere benutzen Tor</translation>
+    </message>
+    <message>
+        <source>curl, git, pip, ssh and more use Tor</source>
+        <translation>curl, git, pip, ssh und andere benutzen Tor</translation>
+    </message>
+    <message>
+        <source>Veldmark is free software and independent of the Tor Project. It contains no Tor: it runs the tor that is installed here, and where bridges are used lyrebird, snowflake-client or webtunnel-client.</source>
+        <translation>Veldmark ist freie Software und vom Tor-Projekt unabhängig. Es enthält kein Tor: Es startet das hier installierte tor und, wo Brücken benutzt werden, lyrebird, snowflake-client oder webtunnel-client.</translation>
+    </message>
+    <message>
+        <source>It sets up the network with macOS&apos;s own programs, asks for the administrator with sudo, and checks downloads with GnuPG where that is installed.</source>
+        <translation>Es richtet das Netz mit den Programmen von macOS ein, fragt mit sudo nach dem Administrator und prüft Downloads mit GnuPG, wo das installiert ist.</translation>
+    </message>
+    <message>
+        <source>It sets up the network with nftables, resolvectl and gsettings, asks for the administrator with polkit or sudo, takes ssh through Tor with a netcat, and checks downloads with GnuPG where that is installed.</source>
+        <translation>Es richtet das Netz mit nftables, resolvectl und gsettings ein, fragt mit polkit oder sudo nach dem Administrator, führt ssh mit einem netcat durch Tor und prüft Downloads mit GnuPG, wo das installiert ist.</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::ShutdownNotice</name>
+    <message>
+        <source>Restoring your network settings</source>
+        <translation>Netzwerkeinstellungen werden wiederhergestellt</translation>
+    </message>
+</context>
+<context>
     <name>veldmark::Text</name>
     <message>
         <source>Tor hasn&apos;t confirmed that it is on the network again, so nothing may get through. Veldmark goes on telling it to; else disconnect and connect again.</source>
@@ -963,6 +1700,10 @@
         <translation>Tor bekommt aus dem Netz keine Antwort und versucht es weiter.</translation>
     </message>
     <message>
+        <source>Another program has ended this session and begun one of its own. Disconnect to end that.</source>
+        <translation>Ein anderes Programm hat diese Sitzung beendet und eine eigene begonnen. Trennen Sie, um jene zu beenden.</translation>
+    </message>
+    <message>
         <source>This computer has no network, so Tor can&apos;t connect.</source>
         <translation>Dieser Rechner hat kein Netz, daher kann Tor keine Verbindung herstellen.</translation>
     </message>
@@ -1205,6 +1946,22 @@
     <message>
         <source>Couldn&apos;t change the login-item setting: %1</source>
         <translation>Der Start bei der Anmeldung konnte nicht geändert werden: %1</translation>
+    </message>
+    <message>
+        <source>Login items can&apos;t be changed here.</source>
+        <translation>Anmeldeobjekte lassen sich hier nicht ändern.</translation>
+    </message>
+    <message>
+        <source>Move Veldmark to the Applications folder and open it from there first.</source>
+        <translation>Bewegen Sie Veldmark zuerst in den Ordner „Programme“ und öffnen Sie es von dort.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t remove %1.</source>
+        <translation>%1 ließ sich nicht entfernen.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t write %1: %2</source>
+        <translation>%1 ließ sich nicht schreiben: %2</translation>
     </message>
     <message>
         <source>Couldn&apos;t download bridge programs: %1</source>
@@ -1497,22 +2254,6 @@
     <message>
         <source>A session is open, and it isn&apos;t known whether its kill switch stands: nobody watches over the rules. Restore the network, and connect again.</source>
         <translation>Eine Sitzung ist offen, und ob ihr Notschalter geschlossen ist, ist nicht bekannt: Niemand wacht über die Regeln. Stellen Sie das Netzwerk wieder her, und verbinden Sie neu.</translation>
-    </message>
-    <message>
-        <source>Login items can&apos;t be changed here.</source>
-        <translation>Anmeldeobjekte lassen sich hier nicht ändern.</translation>
-    </message>
-    <message>
-        <source>Move Veldmark to the Applications folder and open it from there first.</source>
-        <translation>Bewegen Sie Veldmark zuerst in den Ordner „Programme“ und öffnen Sie es von dort.</translation>
-    </message>
-    <message>
-        <source>Couldn&apos;t remove %1.</source>
-        <translation>%1 ließ sich nicht entfernen.</translation>
-    </message>
-    <message>
-        <source>Couldn&apos;t write %1: %2</source>
-        <translation>%1 ließ sich nicht schreiben: %2</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -2928,726 +3669,87 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <source>The network is open again, but the loopback device could not be set up as before. Try: ethtool -K lo %1 on.</source>
         <translation>Das Netzwerk ist wieder offen, aber das Loopback-Gerät ließ sich nicht wie vorher einstellen. Versuchen Sie: ethtool -K lo %1 on.</translation>
     </message>
-</context>
-<context>
-    <name>SettingsWindow</name>
+    <message>
+        <source>Applications are not told apart on this system.</source>
+        <translation>Anwendungen werden auf diesem System nicht unterschieden.</translation>
+    </message>
+    <message>
+        <source>Applications are not separated now: they share circuits.</source>
+        <translation>Anwendungen sind jetzt nicht getrennt: Sie teilen sich Kanäle.</translation>
+    </message>
+    <message>
+        <source>user %1</source>
+        <translation>Benutzer %1</translation>
+    </message>
+    <message>
+        <source>No application has an identity of its own now.</source>
+        <translation>Jetzt hat keine Anwendung eine eigene Identität.</translation>
+    </message>
+    <message>
+        <source>No application of yours has that identity; &quot;veldmarkctl identities&quot; lists them.</source>
+        <translation>Keine Ihrer Anwendungen hat diese Identität; „veldmarkctl identities“ zählt sie auf.</translation>
+    </message>
+    <message>
+        <source>The application has not got another identity.</source>
+        <translation>Die Anwendung hat keine andere Identität bekommen.</translation>
+    </message>
+    <message>
+        <source>The program has not got an identity of its own, so it was not started.</source>
+        <translation>Das Programm hat keine eigene Identität bekommen und wurde darum nicht gestartet.</translation>
+    </message>
+    <message>
+        <source>A name has up to 40 letters, digits, dots and underscores.</source>
+        <translation>Ein Name hat bis zu 40 Buchstaben, Ziffern, Punkte und Unterstriche.</translation>
+    </message>
+    <message>
+        <source>The program systemd-run is missing, which makes groups for programs.</source>
+        <translation>Das Programm systemd-run fehlt, das Gruppen für Programme anlegt.</translation>
+    </message>
+    <message>
+        <source>The program could not be started: %1.</source>
+        <translation>Das Programm ließ sich nicht starten: %1.</translation>
+    </message>
     <message>
         <source>Settings</source>
         <translation>Einstellungen</translation>
     </message>
     <message>
-        <source>General</source>
-        <translation>Allgemein</translation>
+        <source>each application has circuits of its own</source>
+        <translation>jede Anwendung hat eigene Kanäle</translation>
     </message>
     <message>
-        <source>Tor</source>
-        <translation>Tor</translation>
+        <source>the applications that have circuits of their own, and the loopback address
+by which Tor tells each from the others</source>
+        <translation>die Anwendungen mit eigenen Kanälen und die Loopback-Adresse, an der Tor
+jede von den anderen unterscheidet</translation>
     </message>
     <message>
-        <source>Bridges</source>
-        <translation>Brücken</translation>
+        <source>new circuits for one application, from its next connection on; APP is as
+&quot;identities&quot; names it</source>
+        <translation>neue Kanäle für eine Anwendung, von ihrer nächsten Verbindung an; APP, wie
+„identities“ sie nennt</translation>
     </message>
     <message>
-        <source>Terminal</source>
-        <translation>Terminal</translation>
+        <source>renew needs an application; &quot;veldmarkctl identities&quot; lists them.</source>
+        <translation>renew braucht eine Anwendung; „veldmarkctl identities“ zählt sie auf.</translation>
     </message>
     <message>
-        <source>Recovery</source>
-        <translation>Wiederherstellung</translation>
+        <source>run a program (after --) with circuits of its own; a later run with the same
+name in the same session has the same ones</source>
+        <translation>ein Programm (nach --) mit eigenen Kanälen ausführen; mit demselben Namen
+hat es in derselben Sitzung später dieselben</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>Über</translation>
+        <source>run-as needs a name and a program: veldmarkctl run-as NAME -- PROGRAM.</source>
+        <translation>run-as braucht einen Namen und ein Programm: veldmarkctl run-as NAME -- PROGRAMM.</translation>
     </message>
-</context>
-<context>
-    <name>TerminalPane</name>
     <message>
-        <source>Terminal</source>
-        <translation>Terminal</translation>
+        <source>The table of the applications&apos; identities could not be removed (%1).</source>
+        <translation>Die Tabelle mit den Identitäten der Anwendungen ließ sich nicht entfernen (%1).</translation>
     </message>
     <message>
-        <source>Route command-line tools through Tor</source>
-        <translation>Befehlszeilenprogramme durch Tor leiten</translation>
-    </message>
-    <message>
-        <source>Terminal mode</source>
-        <translation>Terminalmodus</translation>
-    </message>
-    <message>
-        <source>Shell integration</source>
-        <translation>Shell-Einbindung</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Entfernen</translation>
-    </message>
-</context>
-<context>
-    <name>TorPane</name>
-    <message>
-        <source>Tor</source>
-        <translation>Tor</translation>
-    </message>
-    <message>
-        <source>The Tor program Veldmark runs</source>
-        <translation>Das Tor-Programm, das Veldmark startet</translation>
-    </message>
-    <message>
-        <source>Program</source>
-        <translation>Programm</translation>
-    </message>
-    <message>
-        <source>Location: disconnect to change</source>
-        <translation>Ort: zum Ändern trennen</translation>
-    </message>
-    <message>
-        <source>Location</source>
-        <translation>Ort</translation>
-    </message>
-    <message>
-        <source>Automatic</source>
-        <translation>Automatisch</translation>
-    </message>
-    <message>
-        <source>Custom location</source>
-        <translation>Eigener Ort</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Kopieren</translation>
-    </message>
-</context>
-<context>
-    <name>main</name>
-    <message>
-        <source>Start without a window, as at login.</source>
-        <translation>Ohne Fenster starten, wie bei der Anmeldung.</translation>
-    </message>
-    <message>
-        <source>Connect at once.</source>
-        <translation>Sofort verbinden.</translation>
-    </message>
-    <message>
-        <source>Your network is still set up for Tor. To restore it without Veldmark, run:
-%1</source>
-        <translation>Ihr Netzwerk ist noch für Tor eingerichtet. Um es ohne Veldmark wiederherzustellen, führen Sie aus:
-%1</translation>
-    </message>
-</context>
-<context>
-    <name>veldmark::Alerts</name>
-    <message>
-        <source>Another session has replaced this one</source>
-        <translation>Eine andere Sitzung hat diese ersetzt</translation>
-    </message>
-    <message>
-        <source>Tor stopped running</source>
-        <translation>Tor läuft nicht mehr</translation>
-    </message>
-    <message>
-        <source>Traffic can leave around Tor</source>
-        <translation>Verkehr kann an Tor vorbei</translation>
-    </message>
-    <message>
-        <source>Lookups can go around Tor</source>
-        <translation>Namensabfragen können an Tor vorbei</translation>
-    </message>
-    <message>
-        <source>Your real address can be seen. Open Veldmark to see what to do.</source>
-        <translation>Ihre echte Adresse ist sichtbar. Öffnen Sie Veldmark, um zu sehen, was zu tun ist.</translation>
-    </message>
-    <message>
-        <source>Firewall rules were removed</source>
-        <translation>Firewall-Regeln wurden entfernt</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt; sie stehen wieder.</translation>
-    </message>
-    <message>
-        <source>The kill switch is open. Open Veldmark, disconnect and connect again.</source>
-        <translation>Der Notschalter ist offen. Öffnen Sie Veldmark, trennen Sie und verbinden Sie neu.</translation>
-    </message>
-    <message>
-        <source>The kill switch is not watched</source>
-        <translation>Der Notschalter wird nicht überwacht</translation>
-    </message>
-    <message>
-        <source>It can&apos;t be told whether it stands. Open Veldmark, disconnect and connect again.</source>
-        <translation>Es lässt sich nicht sagen, ob er steht. Öffnen Sie Veldmark, trennen Sie und verbinden Sie neu.</translation>
-    </message>
-</context>
-<context>
-    <name>veldmark::Application</name>
-    <message>
-        <source>Veldmark</source>
-        <translation>Veldmark</translation>
-    </message>
-    <message>
-        <source>A window could not be made. Your network is not affected; to restore it without Veldmark, run:
-%1
-
-%2</source>
-        <translation>Ein Fenster ließ sich nicht öffnen. Ihr Netzwerk ist davon nicht betroffen; um es ohne Veldmark wiederherzustellen, führen Sie aus:
-%1
-
-%2</translation>
-    </message>
-    <message>
-        <source>Veldmark is still running</source>
-        <translation>Veldmark läuft weiter</translation>
-    </message>
-    <message>
-        <source>Open Veldmark again to see its window.</source>
-        <translation>Öffnen Sie Veldmark erneut, um das Fenster zu sehen.</translation>
-    </message>
-    <message>
-        <source>Your network is still set up for Tor</source>
-        <translation>Ihr Netzwerk ist noch für Tor eingerichtet</translation>
-    </message>
-    <message>
-        <source>Veldmark was told to end and could not restore it. Open Veldmark again to do so.</source>
-        <translation>Veldmark sollte enden und konnte es nicht wiederherstellen. Öffnen Sie Veldmark erneut, um das zu tun.</translation>
-    </message>
-</context>
-<context>
-    <name>veldmark::ApplicationChoices</name>
-    <message>
-        <source>No installed applications were found.</source>
-        <translation>Es wurden keine installierten Apps gefunden.</translation>
-    </message>
-    <message>
-        <source>No application is called “%1”.</source>
-        <translation>Keine App heißt „%1“.</translation>
-    </message>
-</context>
-<context>
-    <name>veldmark::CircuitGraphView</name>
-    <message>
-        <source>%1: your real IP only ever reaches the entry relay</source>
-        <translation>%1: Ihre echte IP erreicht nur das Eingangsrelais</translation>
-    </message>
-    <message>
-        <source>Used by 1 circuit</source>
-        <translation>Von 1 Kanal benutzt</translation>
-    </message>
-    <message>
-        <source>Used by %1 circuits</source>
-        <translation>Von %1 Kanälen benutzt</translation>
-    </message>
-    <message>
-        <source>ENTRY</source>
-        <translation>EINGANG</translation>
-    </message>
-    <message>
-        <source>MIDDLE</source>
-        <translation>MITTE</translation>
-    </message>
-    <message>
-        <source>EXIT</source>
-        <translation>AUSGANG</translation>
-    </message>
-    <message>
-        <source>SITES</source>
-        <translation>ZIELE</translation>
-    </message>
-    <message>
-        <source>%1 more</source>
-        <translation>%1 weitere</translation>
-    </message>
-</context>
-<context>
-    <name>veldmark::CircuitsModel</name>
-    <message>
-        <source>Unknown</source>
-        <translation>Unbekannt</translation>
-    </message>
-    <message>
-        <source>Circuit %1</source>
-        <translation>Kanal %1</translation>
-    </message>
-    <message>
-        <source>Not connected</source>
-        <translation>Nicht verbunden</translation>
-    </message>
-    <message>
-        <source>1 active path</source>
-        <translation>1 aktiver Weg</translation>
-    </message>
-    <message>
-        <source>%1 active paths</source>
-        <translation>%1 aktive Wege</translation>
-    </message>
-    <message>
-        <source> · click a relay or site to follow it</source>
-        <translation> · klicken Sie ein Relais oder Ziel an, um ihm zu folgen</translation>
-    </message>
-    <message>
-        <source>Leads to an onion service, which meets it at its last relay</source>
-        <translation>Führt zu einem Onion-Dienst, der ihm an seinem letzten Relais begegnet</translation>
-    </message>
-    <message>
-        <source>Meeting point</source>
-        <translation>Treffpunkt</translation>
-    </message>
-    <message>
-        <source>One of several linked legs to the same exit</source>
-        <translation>Einer von mehreren verbundenen Strängen zum selben Ausgang</translation>
-    </message>
-    <message>
-        <source>Only the entry sees your IP</source>
-        <translation>Nur der Eingang sieht Ihre IP</translation>
-    </message>
-    <message>
-        <source>Middle</source>
-        <translation>Mitte</translation>
-    </message>
-    <message>
-        <source>Bridge</source>
-        <translation>Brücke</translation>
-    </message>
-    <message>
-        <source>Entry</source>
-        <translation>Eingang</translation>
-    </message>
-    <message>
-        <source>Exit</source>
-        <translation>Ausgang</translation>
-    </message>
-    <message>
-        <source>, +%1 more</source>
-        <translation>, +%1 weitere</translation>
-    </message>
-    <message>
-        <source>Sites</source>
-        <translation>Ziele</translation>
-    </message>
-    <message>
-        <source>Round trip: %1</source>
-        <translation>Hin und zurück: %1</translation>
-    </message>
-</context>
-<context>
-    <name>veldmark::DoctorModel</name>
-    <message>
-        <source>Problem</source>
-        <translation>Problem</translation>
-    </message>
-    <message>
-        <source>Not known</source>
-        <translation>Nicht bekannt</translation>
-    </message>
-    <message>
-        <source>Note</source>
-        <translation>Hinweis</translation>
-    </message>
-    <message>
-        <source>In order</source>
-        <translation>In Ordnung</translation>
-    </message>
-    <message>
-        <source>Restore Network</source>
-        <translation>Netzwerk wiederherstellen</translation>
-    </message>
-    <message>
-        <source>Download</source>
-        <translation>Herunterladen</translation>
-    </message>
-    <message>
-        <source>Looking at this computer…</source>
-        <translation>Dieser Computer wird untersucht…</translation>
-    </message>
-    <message>
-        <source>Nothing was found out.</source>
-        <translation>Es wurde nichts herausgefunden.</translation>
-    </message>
-    <message>
-        <source>Nothing was found that keeps Veldmark from connecting.</source>
-        <translation>Es wurde nichts gefunden, das Veldmark am Verbinden hindert.</translation>
-    </message>
-    <message>
-        <source>Veldmark can&apos;t connect before each problem is mended.</source>
-        <translation>Veldmark kann sich nicht verbinden, bevor jedes Problem behoben ist.</translation>
-    </message>
-</context>
-<context>
-    <name>veldmark::LogModel</name>
-    <message>
-        <source>Tor writes here while it connects and runs</source>
-        <translation>Hier schreibt Tor, während es sich verbindet und läuft</translation>
-    </message>
-    <message>
-        <source>Can&apos;t read the log files</source>
-        <translation>Die Protokolldateien sind nicht lesbar</translation>
-    </message>
-    <message>
-        <source>1 line</source>
-        <translation>1 Zeile</translation>
-    </message>
-    <message>
-        <source>%1 lines</source>
-        <translation>%1 Zeilen</translation>
-    </message>
-    <message>
-        <source>Problems</source>
-        <translation>Probleme</translation>
-    </message>
-    <message>
-        <source>Problems (%1)</source>
-        <translation>Probleme (%1)</translation>
-    </message>
-    <message>
-        <source>Can&apos;t read Tor&apos;s log</source>
-        <translation>Tors Protokoll ist nicht lesbar</translation>
-    </message>
-    <message>
-        <source>No log yet</source>
-        <translation>Noch kein Protokoll</translation>
-    </message>
-    <message>
-        <source>No warnings or errors. Tor is happy.</source>
-        <translation>Keine Warnungen oder Fehler. Tor ist zufrieden.</translation>
-    </message>
-    <message>
-        <source>Nothing matches</source>
-        <translation>Nichts passt</translation>
-    </message>
-    <message>
-        <source>The log files in %1 aren&apos;t readable by your account. Reconnect once with this version of Veldmark to fix their permissions.</source>
-        <translation>Ihr Konto darf die Protokolldateien in %1 nicht lesen. Verbinden Sie sich mit dieser Version von Veldmark einmal neu, um ihre Rechte zu berichtigen.</translation>
-    </message>
-    <message>
-        <source>Connect, and Tor&apos;s messages appear here as it starts. If Tor fails to start, the reason shows up here.</source>
-        <translation>Verbinden Sie sich, dann erscheinen hier Tors Meldungen beim Start. Startet Tor nicht, steht hier der Grund.</translation>
-    </message>
-    <message>
-        <source>No lines contain “%1”</source>
-        <translation>Keine Zeile enthält „%1“</translation>
-    </message>
-    <message>
-        <source>Show the log files in Finder</source>
-        <translation>Zeigt die Protokolldateien im Finder</translation>
-    </message>
-    <message>
-        <source>Show the log files in the file manager</source>
-        <translation>Zeigt die Protokolldateien in der Dateiverwaltung</translation>
-    </message>
-    <message>
-        <source>There are no log files yet: Tor makes %1 when it is first started.</source>
-        <translation>Es gibt noch keine Protokolldateien: Tor legt %1 beim ersten Start an.</translation>
-    </message>
-    <message>
-        <source>No file manager could be opened. The log files are in %1.</source>
-        <translation>Es konnte kein Dateimanager geöffnet werden. Die Protokolldateien liegen in %1.</translation>
-    </message>
-</context>
-<context>
-    <name>veldmark::OptionsModel</name>
-    <message>
-        <source>Choosing a country means fewer exit relays, so it&apos;s slower and you&apos;re easier to single out.</source>
-        <translation>Mit einem Land bleiben weniger Ausgangsrelais: Es wird langsamer, und Sie fallen leichter auf.</translation>
-    </message>
-    <message>
-        <source>Off</source>
-        <translation>Aus</translation>
-    </message>
-    <message>
-        <source>obfs4 (built-in)</source>
-        <translation>obfs4 (eingebaut)</translation>
-    </message>
-    <message>
-        <source>Snowflake (built-in)</source>
-        <translation>Snowflake (eingebaut)</translation>
-    </message>
-    <message>
-        <source>meek (built-in)</source>
-        <translation>meek (eingebaut)</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Eigene</translation>
-    </message>
-    <message>
-        <source>No bridges added yet</source>
-        <translation>Noch keine Brücken eingetragen</translation>
-    </message>
-    <message>
-        <source>Needs bridge programs: click Download</source>
-        <translation>Braucht Brückenprogramme: Klicken Sie auf Herunterladen</translation>
-    </message>
-    <message>
-        <source>Built-in bridges from %1</source>
-        <translation>Eingebaute Brücken aus %1</translation>
-    </message>
-    <message>
-        <source>(line %1)</source>
-        <translation>(Zeile %1)</translation>
-    </message>
-    <message>
-        <source>(lines %1)</source>
-        <translation>(Zeilen %1)</translation>
-    </message>
-    <message>
-        <source>1 bridge recognized</source>
-        <translation>1 Brücke erkannt</translation>
-    </message>
-    <message>
-        <source>%1 bridges recognized</source>
-        <translation>%1 Brücken erkannt</translation>
-    </message>
-    <message>
-        <source>A bridge line can&apos;t contain #, &quot; or \.</source>
-        <translation>Eine Brückenzeile kann kein #, &quot; oder \ enthalten.</translation>
-    </message>
-    <message>
-        <source>At most %1 bridges can be used</source>
-        <translation>Höchstens %1 Brücken können benutzt werden</translation>
-    </message>
-    <message>
-        <source>1 line not recognized</source>
-        <translation>1 Zeile nicht erkannt</translation>
-    </message>
-    <message>
-        <source>%1 lines not recognized</source>
-        <translation>%1 Zeilen nicht erkannt</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Keine</translation>
-    </message>
-    <message>
-        <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the Dock) so Veldmark can tag them. A running copy is quit and reopened.</source>
-        <translation>Im strikten Modus dürfen sich diese Apps direkt statt durch Tor verbinden, mit Ihrer echten IP-Adresse. Alles andere bleibt gesperrt. Öffnen Sie sie mit &lt;b&gt;Ohne Tor öffnen&lt;/b&gt; (nicht aus dem Dock), damit Veldmark sie kennzeichnen kann. Eine laufende Kopie wird beendet und neu geöffnet.</translation>
-    </message>
-    <message>
-        <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the desktop&apos;s menu) so Veldmark can tag them. A running copy is quit and reopened.</source>
-        <translation>Im strikten Modus dürfen sich diese Apps direkt statt durch Tor verbinden, mit Ihrer echten IP-Adresse. Alles andere bleibt gesperrt. Öffnen Sie sie mit &lt;b&gt;Ohne Tor öffnen&lt;/b&gt; (nicht aus dem Menü der Arbeitsumgebung), damit Veldmark sie kennzeichnen kann. Eine laufende Kopie wird beendet und neu geöffnet.</translation>
-    </message>
-</context>
-<context>
-    <name>veldmark::PanelModel</name>
-    <message>
-        <source>No answer</source>
-        <translation>Keine Antwort</translation>
-    </message>
-    <message>
-        <source>A direct connection that skips Tor got no answer, but the kill switch isn&apos;t known to close that path</source>
-        <translation>Eine direkte Verbindung an Tor vorbei blieb ohne Antwort, aber es ist nicht bekannt, ob der Notschalter diesen Weg schließt</translation>
-    </message>
-    <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t close that path</source>
-        <translation>Eine direkte Verbindung an Tor vorbei blieb ohne Antwort, aber der Proxy-Modus schließt diesen Weg nicht</translation>
-    </message>
-    <message>
-        <source>Connect to Tor</source>
-        <translation>Mit Tor verbinden</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>Disconnect</source>
-        <translation>Trennen</translation>
-    </message>
-    <message>
-        <source>Reconnect</source>
-        <translation>Neu verbinden</translation>
-    </message>
-    <message>
-        <source>Connected through %1 bridges</source>
-        <translation>Über %1-Brücken verbunden</translation>
-    </message>
-    <message>
-        <source>Strict</source>
-        <translation>Strikt</translation>
-    </message>
-    <message>
-        <source>Proxy</source>
-        <translation>Proxy</translation>
-    </message>
-    <message>
-        <source>Install Tor to get started</source>
-        <translation>Installieren Sie zuerst Tor</translation>
-    </message>
-    <message>
-        <source>Click to connect</source>
-        <translation>Zum Verbinden klicken</translation>
-    </message>
-    <message>
-        <source>Click to disconnect</source>
-        <translation>Zum Trennen klicken</translation>
-    </message>
-    <message>
-        <source>Tor hasn&apos;t reported progress for a while. It is still trying; a slow or blocked network is the usual reason.</source>
-        <translation>Tor meldet seit einer Weile keinen Fortschritt. Es versucht es weiter; meist ist das Netz langsam oder gesperrt.</translation>
-    </message>
-    <message>
-        <source>Still waiting for Tor to start, or for your approval.</source>
-        <translation>Es wird noch auf Tors Start oder auf Ihre Zustimmung gewartet.</translation>
-    </message>
-    <message>
-        <source>Checking</source>
-        <translation>Wird geprüft</translation>
-    </message>
-    <message>
-        <source>Unknown</source>
-        <translation>Unbekannt</translation>
-    </message>
-    <message>
-        <source>Checked against %1</source>
-        <translation>Geprüft bei %1</translation>
-    </message>
-    <message>
-        <source>Verified</source>
-        <translation>Bestätigt</translation>
-    </message>
-    <message>
-        <source>Not confirmed</source>
-        <translation>Nicht bestätigt</translation>
-    </message>
-    <message>
-        <source>DNS leak</source>
-        <translation>DNS-Leck</translation>
-    </message>
-    <message>
-        <source>Not tested</source>
-        <translation>Nicht getestet</translation>
-    </message>
-    <message>
-        <source>Testing…</source>
-        <translation>Test läuft…</translation>
-    </message>
-    <message>
-        <source>No leaks</source>
-        <translation>Keine Lecks</translation>
-    </message>
-    <message>
-        <source>Inconclusive</source>
-        <translation>Ohne Ergebnis</translation>
-    </message>
-    <message>
-        <source>Exposed: %1</source>
-        <translation>Sichtbar: %1</translation>
-    </message>
-    <message>
-        <source>Tries a direct connection that skips Tor</source>
-        <translation>Versucht eine direkte Verbindung an Tor vorbei</translation>
-    </message>
-    <message>
-        <source>Direct connections that skip Tor are blocked</source>
-        <translation>Direkte Verbindungen an Tor vorbei sind gesperrt</translation>
-    </message>
-    <message>
-        <source>Apps that ignore proxy settings show your real IP (%1). Turn on Strict mode to block them.</source>
-        <translation>Apps, die Proxy-Einstellungen übergehen, zeigen Ihre echte IP (%1). Schalten Sie den strikten Modus ein, um sie zu sperren.</translation>
-    </message>
-    <message>
-        <source>%1 more</source>
-        <translation>%1 weitere</translation>
-    </message>
-</context>
-<context>
-    <name>veldmark::SettingsModel</name>
-    <message>
-        <source>Found</source>
-        <translation>Gefunden</translation>
-    </message>
-    <message>
-        <source>Missing</source>
-        <translation>Fehlt</translation>
-    </message>
-    <message>
-        <source>Not found</source>
-        <translation>Nicht gefunden</translation>
-    </message>
-    <message>
-        <source>Homebrew: %1</source>
-        <translation>Homebrew: %1</translation>
-    </message>
-    <message>
-        <source>Install it with %1</source>
-        <translation>Installieren Sie es mit %1</translation>
-    </message>
-    <message>
-        <source>Not found in Tor Browser or a downloaded bundle</source>
-        <translation>Weder im Tor Browser noch in einem geladenen Bundle gefunden</translation>
-    </message>
-    <message>
-        <source>Loaded from %1</source>
-        <translation>Geladen aus %1</translation>
-    </message>
-    <message>
-        <source>Not downloaded</source>
-        <translation>Nicht geladen</translation>
-    </message>
-    <message>
-        <source>Version %1 loaded</source>
-        <translation>Version %1 geladen</translation>
-    </message>
-    <message>
-        <source>signature verified</source>
-        <translation>Signatur geprüft</translation>
-    </message>
-    <message>
-        <source>Adds one line to ~/.zshrc (and ~/.bash_profile if you have one) and an Include line at the top of ~/.ssh/config. Its files live in ~/.veldmark. Nothing is routed unless Veldmark is connected with Terminal mode on.</source>
-        <translation>Fügt ~/.zshrc (und ~/.bash_profile, falls vorhanden) eine Zeile hinzu und oben in ~/.ssh/config eine Include-Zeile. Die Dateien liegen in ~/.veldmark. Umgeleitet wird nur, wenn Veldmark mit eingeschaltetem Terminalmodus verbunden ist.</translation>
-    </message>
-    <message>
-        <source>Adds one line to ~/.bashrc (and ~/.zshrc if you use zsh) and an Include line at the top of ~/.ssh/config. Its files live in ~/.veldmark. Nothing is routed unless Veldmark is connected with Terminal mode on.</source>
-        <translation>Fügt ~/.bashrc (und ~/.zshrc, wenn Sie zsh benutzen) eine Zeile hinzu und oben in ~/.ssh/config eine Include-Zeile. Die Dateien liegen in ~/.veldmark. Umgeleitet wird nur, wenn Veldmark mit eingeschaltetem Terminalmodus verbunden ist.</translation>
-    </message>
-    <message>
-        <source>Version %1</source>
-        <translation>Version %1</translation>
-    </message>
-    <message>
-        <source>Fetched over HTTPS. Its signature isn&apos;t checked, since GnuPG isn&apos;t installed.</source>
-        <translation>Über HTTPS geladen. Die Signatur wird nicht geprüft, weil GnuPG nicht installiert ist.</translation>
-    </message>
-    <message>
-        <source>Fetched over HTTPS and checked against the Tor Project&apos;s signature.</source>
-        <translation>Über HTTPS geladen und gegen die Signatur des Tor-Projekts geprüft.</translation>
-    </message>
-    <message>
-        <source>Not installed</source>
-        <translation>Nicht eingerichtet</translation>
-    </message>
-    <message>
-        <source>Installed in your shell and SSH config</source>
-        <translation>In Ihrer Shell und SSH-Konfiguration eingerichtet</translation>
-    </message>
-    <message>
-        <source>Installed in your shell; SSH doesn&apos;t use it</source>
-        <translation>In Ihrer Shell eingerichtet; SSH benutzt es nicht</translation>
-    </message>
-    <message>
-        <source>curl, git, brew, pip, ssh and more use Tor</source>
-        <translation>curl, git, brew, pip, ssh und andere benutzen Tor</translation>
-    </message>
-    <message>
-        <source>curl, git, pip, ssh and more use Tor</source>
-        <translation>curl, git, pip, ssh und andere benutzen Tor</translation>
-    </message>
-    <message>
-        <source>Veldmark is free software and independent of the Tor Project. It contains no Tor: it runs the tor that is installed here, and where bridges are used lyrebird, snowflake-client or webtunnel-client.</source>
-        <translation>Veldmark ist freie Software und vom Tor-Projekt unabhängig. Es enthält kein Tor: Es startet das hier installierte tor und, wo Brücken benutzt werden, lyrebird, snowflake-client oder webtunnel-client.</translation>
-    </message>
-    <message>
-        <source>It sets up the network with macOS&apos;s own programs, asks for the administrator with sudo, and checks downloads with GnuPG where that is installed.</source>
-        <translation>Es richtet das Netz mit den Programmen von macOS ein, fragt mit sudo nach dem Administrator und prüft Downloads mit GnuPG, wo das installiert ist.</translation>
-    </message>
-    <message>
-        <source>It sets up the network with nftables, resolvectl and gsettings, asks for the administrator with polkit or sudo, takes ssh through Tor with a netcat, and checks downloads with GnuPG where that is installed.</source>
-        <translation>Es richtet das Netz mit nftables, resolvectl und gsettings ein, fragt mit polkit oder sudo nach dem Administrator, führt ssh mit einem netcat durch Tor und prüft Downloads mit GnuPG, wo das installiert ist.</translation>
-    </message>
-</context>
-<context>
-    <name>veldmark::ShutdownNotice</name>
-    <message>
-        <source>Restoring your network settings</source>
-        <translation>Netzwerkeinstellungen werden wiederhergestellt</translation>
+        <source>The value of --separate must be 0 or 1.</source>
+        <translation>Der Wert von --separate muss 0 oder 1 sein.</translation>
     </message>
 </context>
 <context>

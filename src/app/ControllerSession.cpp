@@ -35,7 +35,6 @@ ControllerSession::ControllerSession(TorController &controller, SettingsStore &s
                                      RunningApplications &applications)
     : Session(controller.profile())
     , m_controller(controller)
-    , m_settings(settings)
     , m_applications(applications)
     , m_examiner(controller.profile(), settings, m_processes)
 {
@@ -60,12 +59,13 @@ void ControllerSession::schedule()
 
 void ControllerSession::read()
 {
+    m_controller.readSettingsProblems(); // what the windows' places were refused, too
     m_scheduled = false;
     const TorController &c = m_controller;
     Snapshot next;
     next.choices = {c.strictMode(),   c.allowLocalNetwork(), c.exitCountry(), c.customTorPath(),
                     c.bridgeChoice(), c.customBridges(),     c.bypassApps(),  c.autoConnect(),
-                    c.optimizeSpeed(), c.terminalMode()};
+                    c.optimizeSpeed(), c.terminalMode(), c.separateApps()};
     next.phase = c.phase();
     next.activeMode = c.activeMode();
     next.activeBridge = c.activeBridge();
@@ -74,11 +74,9 @@ void ControllerSession::read()
     next.bootstrapProblem = next.phase == Phase::connecting ? c.bootstrapProblem() : c.problemBehindError();
     next.isAnothers = c.otherSession().has_value();
     next.canCancel = c.canCancel();
-    while (const auto problem = m_settings.problem())
-        m_notices << *problem;
     next.errorMessage = c.errorMessage();
-    if (!next.errorMessage && !m_notices.isEmpty())
-        next.errorMessage = m_notices.constFirst();
+    if (!next.errorMessage && !c.settingsProblems().isEmpty())
+        next.errorMessage = c.settingsProblems().constFirst();
     next.killSwitch = c.killSwitch();
     // What was found out about a session is not true of what is left of it.
     if (next.phase == Phase::connected) {
@@ -168,6 +166,7 @@ void ControllerSession::store(const Choices &choices)
     keep(c.autoConnect, choices.autoConnect);
     keep(c.optimizeSpeed, choices.optimizeSpeed);
     keep(c.terminalMode, choices.terminalMode);
+    keep(c.separateApps, choices.separateApps);
     schedule();
 }
 
@@ -248,8 +247,8 @@ void ControllerSession::dismissError()
     // Only what the user has seen; what stands behind it, or has come meanwhile, is shown next.
     if (m_controller.errorMessage() && m_controller.errorMessage() == m_now.errorMessage)
         m_controller.dismissError();
-    else if (!m_notices.isEmpty() && m_notices.constFirst() == m_now.errorMessage)
-        m_notices.removeFirst();
+    else if (!m_controller.settingsProblems().isEmpty() && m_controller.settingsProblems().constFirst() == m_now.errorMessage)
+        m_controller.dismissSettingsProblem();
     schedule();
 }
 

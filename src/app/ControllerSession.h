@@ -59,14 +59,12 @@ private:
     QCoro::Task<void> look();
 
     TorController &m_controller;
-    SettingsStore &m_settings;
     RunningApplications &m_applications;
     bool m_scheduled = false;
     bool m_isReadingCircuits = false;
     bool m_circuitsWanted = false; // once more after those that are being read
     Text m_terminalHint;             // asked when terminal mode is switched on
     bool m_terminalModeWasOn = false;
-    QList<Text> m_notices; // of the settings' file, each shown until it is dismissed
     bool m_terminalIsKnown = false; // the two below are true; they cost reading the user's files
     bool m_terminalInstalled = false;
     bool m_terminalForSsh = false;

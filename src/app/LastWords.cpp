@@ -1,7 +1,9 @@
 #include "app/LastWords.h"
 
 #include "platform/PlatformProfile.h"
+#include "system/SessionOwner.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <cstdlib>
@@ -14,14 +16,14 @@ namespace {
 
 // Made early and never destroyed: at exit nothing else can be relied on.
 struct Words {
-    QByteArray marker;
+    PlatformProfile profile;
     QByteArray text;
 };
 Words *words = nullptr;
 
 void speak()
 {
-    if (!words || ::access(words->marker.constData(), F_OK) != 0)
+    if (!words || !LastWords::isNetworkLeft(words->profile))
         return;
     [[maybe_unused]] const auto written =
         ::write(STDERR_FILENO, words->text.constData(), static_cast<size_t>(words->text.size()));
@@ -29,9 +31,22 @@ void speak()
 
 } // namespace
 
+bool LastWords::isNetworkLeft(const PlatformProfile &profile)
+{
+    return QFile::exists(profile.sessionMarker) && !SessionOwner::ofAnotherProcess(profile);
+}
+
+QString LastWords::advice(const PlatformProfile &profile)
+{
+    if (!isNetworkLeft(profile))
+        return {};
+    return u'\n' + QCoreApplication::translate("main", "Your network is still set up for Tor. To restore it without Veldmark, run:\n%1")
+                        .arg(profile.manualRestoreCommand);
+}
+
 LastWords::LastWords(const PlatformProfile &profile)
 {
-    words = new Words{QFile::encodeName(profile.sessionMarker),
+    words = new Words{profile,
                       "veldmark: "
                           + Text::tr("Ended without its display. Your network is still set up for Tor: start Veldmark again, or "
                                      "restore it with: %1").arg(profile.manualRestoreCommand).translated().toUtf8()

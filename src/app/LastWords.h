@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 namespace veldmark {
 
 struct PlatformProfile;
@@ -11,6 +13,10 @@ class LastWords {
 public:
     explicit LastWords(const PlatformProfile &profile);
     ~LastWords(); // an orderly end, which has nothing to add
+    // Whether the network is set up for Tor, and not by another process that runs, whose it is to restore.
+    static bool isNetworkLeft(const PlatformProfile &profile);
+    // What a start that fails says besides, on lines of its own; empty unless isNetworkLeft(): it was perhaps meant to restore.
+    static QString advice(const PlatformProfile &profile);
     LastWords(const LastWords &) = delete;
     LastWords &operator=(const LastWords &) = delete;
 };

@@ -10,7 +10,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QFile>
+#include <QLocale>
 #include <QMessageBox>
 #include <QTextStream>
 #include <QTimer>
@@ -114,13 +114,7 @@ int main(int argc, char **argv)
     Application program(profile);
     if (const auto started = program.start(line.has(line.hidden), line.has(line.connectNow)); !started) {
         QTextStream(stderr) << "veldmark: " << started.error().translated() << '\n';
-        QString text = started.error().translated();
-        if (QFile::exists(profile.sessionMarker)) // what this start was perhaps meant to restore
-            text += u'\n'
-                + QCoreApplication::translate("main", "Your network is still set up for Tor. To restore it without "
-                                                      "Veldmark, run:\n%1")
-                      .arg(profile.manualRestoreCommand);
-        QMessageBox::critical(nullptr, QStringLiteral("Veldmark"), text);
+        QMessageBox::critical(nullptr, QStringLiteral("Veldmark"), started.error().translated() + LastWords::advice(profile));
         return 1;
     }
     return QApplication::exec();

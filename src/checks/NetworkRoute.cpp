@@ -3,6 +3,8 @@
 #include <QHostAddress>
 #include <QNetworkInterface>
 
+#include <cstring>
+
 #include <netinet/in.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -31,7 +33,7 @@ QHostAddress leavingBy(const QHostAddress &target)
         const Q_IPV6ADDR bytes = target.toIPv6Address();
         to->sin6_family = AF_INET6;
         to->sin6_port = htons(9);
-        memcpy(&to->sin6_addr, &bytes, sizeof bytes);
+        std::memcpy(&to->sin6_addr, &bytes, sizeof bytes);
         size = sizeof(sockaddr_in6);
     }
     const int socket = ::socket(address.ss_family, SOCK_DGRAM, 0);

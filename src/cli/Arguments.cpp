@@ -32,6 +32,8 @@ QString usageOf(const Verb &verb)
     QString line = QStringLiteral("  ") + verb.name;
     for (const QString &operand : verb.operands)
         line += u' ' + operand;
+    if (verb.takesProgram)
+        line += QStringLiteral(" -- PROGRAM");
     for (const Verb::Option &option : verb.options)
         line += QStringLiteral(" [%1]").arg(option.name);
     const QString margin(column, u' ');
@@ -76,6 +78,12 @@ Result<Invocation, Text> parseArguments(const QStringList &arguments)
     }
     if (operands.size() < verb->operands.size() && verb->id != Verb::Id::complete)
         return Failure(missing(*verb));
+    if (verb->takesProgram) {
+        invocation.program = operands.mid(verb->operands.size());
+        operands = operands.mid(0, verb->operands.size());
+        if (invocation.program.isEmpty())
+            return Failure(missing(*verb));
+    }
     if (operands.size() > verb->operands.size())
         return Failure(Text::tr("%1 doesn't take %2.")
                            .arg(arguments.first(), quoted(operands.at(verb->operands.size()))));

@@ -19,6 +19,7 @@ struct Invocation {
     bool problems = false;   // log
     QString key;             // the first operand: get, set; close-circuit's id; launch's application
     QString value;           // the second: set
+    QStringList program;     // run-as: what is run, with its own words
 };
 
 // What the process ends with.

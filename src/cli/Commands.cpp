@@ -4,6 +4,7 @@
 #include "cli/BridgesCommand.h"
 #include "cli/Console.h"
 #include "cli/DoctorCommand.h"
+#include "cli/IdentitiesCommand.h"
 #include "cli/LogCommand.h"
 #include "cli/ProgressLine.h"
 #include "cli/Report.h"
@@ -141,17 +142,15 @@ QString noteLine(const QString &text)
 QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production> production)
 {
     TorController &controller = production->controller();
-    if (const auto problem = production->settings().problem())
-        Console::printError(*problem);
+    if (invocation.verb != Verb::Id::status || invocation.json) { // the report says it as well
+        for (const Text &problem : controller.settingsProblems())
+            Console::printError(problem);
+    }
     if (invocation.verb == Verb::Id::set) {
         const auto set = setSetting(controller, invocation.key, invocation.value);
         if (!set) {
             Console::printError(set.error().description());
             co_return set.error().kind() == SettingError::Kind::Refused ? ExitStatus::usage : ExitStatus::failed;
-        }
-        if (const auto problem = production->settings().problem()) {
-            Console::printError(*problem);
-            co_return ExitStatus::failed;
         }
         tellOfBridges(invocation);
         if (invocation.key == controller.terminalMode.name() && controller.terminalMode()) {
@@ -211,6 +210,12 @@ QCoro::Task<ExitStatus> execute(Invocation invocation, PlatformProfile profile)
         return showDoctor(invocation, profile);
     if (invocation.verb == Verb::Id::apps)
         return showApplications(invocation, profile);
+    if (invocation.verb == Verb::Id::identities)
+        return showIdentities(invocation, profile);
+    if (invocation.verb == Verb::Id::renew)
+        return renewIdentity(invocation, profile);
+    if (invocation.verb == Verb::Id::runAs)
+        return runAs(invocation, profile);
     if (invocation.verb == Verb::Id::launch) {
         const auto path = applicationPath(invocation.key);
         if (!path)

@@ -164,6 +164,8 @@ QString status(const QJsonObject &state)
         report += row(Text::tr("Problem"), error);
     if (const QString error = text(state, "terminalError"); !error.isEmpty())
         report += row(Text::tr("Terminal"), error);
+    for (const QJsonValue &problem : state.value(QStringLiteral("settingsProblems")).toArray())
+        report += row(Text::tr("Settings"), problem.toString());
     return report;
 }
 

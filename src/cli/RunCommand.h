@@ -2,7 +2,7 @@
 
 #include "base/Text.h"
 #include "cli/Arguments.h"
-#include "cli/ProgressLine.h"
+#include "cli/SessionLines.h"
 #include "controller/Production.h"
 #include "controller/SessionWatch.h"
 #include "controller/Withdrawal.h"
@@ -35,14 +35,6 @@ private:
     void onSignal(int number);
     void onWithdrawn(bool restored);
     void finish(ExitStatus status);
-    void showProgress();
-    void showProblem();
-    void showPhase();
-    void showKillSwitch();
-    void showVerdict();
-    QString verdictText() const;
-    void say(const Text &text);
-    void complain(const Text &text);
 
     Production m_production;
     TorController &m_controller;
@@ -51,11 +43,7 @@ private:
     const bool m_connectNow;
     std::unique_ptr<InstanceServer> m_server;
     SignalWatcher m_signals;
-    ProgressLine m_progress;
-    QString m_lastReport;
-    QString m_lastVerdict;
-    ConnectionPhase m_lastPhase = ConnectionPhase::disconnected;
-    std::optional<KillSwitch::State> m_lastKillSwitch;
+    SessionLines m_lines;
     bool m_restored = false; // a disconnect has begun since the start
     bool m_mustEnd = false; // asked by somebody who won't ask again: SIGTERM, SIGHUP
     QObject m_lifetime;     // goes first, so that what the others' ends resume finds it gone

@@ -185,6 +185,7 @@ QCoro::Task<void> TorController::connect()
     // What is asked for here is what the helper gets, though the settings may change meanwhile.
     const bool strict = strictMode();
     const bool localNetwork = allowLocalNetwork();
+    const bool separate = separateApps();
     const QString exit = exitCountry();
     const bool isBlocked = markedMode() == RoutingMode::strict; // by a session that is still to be restored
     const BridgeRequest request{bridgeChoice(), customBridges(), optimizeSpeed(), isBlocked, m_activeBridgeLines};
@@ -216,6 +217,8 @@ QCoro::Task<void> TorController::connect()
                              QStringLiteral("--hash"), m_controlHash,
                              QStringLiteral("--strict"), flag(strict),
                              QStringLiteral("--lan"), flag(localNetwork)};
+    if (!m_services.profile.identitiesNote.isEmpty())
+        arguments << QStringLiteral("--separate") << flag(separate);
     if (!exit.isEmpty())
         arguments << QStringLiteral("--exit") << exit;
     arguments += *bridges;
@@ -239,6 +242,7 @@ QCoro::Task<void> TorController::connect()
     }
     arguments[0] = QStringLiteral("connect");
     m_sessionWords = arguments;
+    m_sessionMark = SessionMark::present(m_services.profile);
 
     activeMode = strict ? RoutingMode::strict : RoutingMode::proxy;
     activeBridge =

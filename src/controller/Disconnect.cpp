@@ -170,8 +170,12 @@ void TorController::lookAtSession()
     if (phase() == ConnectionPhase::disconnected && isSessionMarkerPresent())
         detectStaleState();
     if (phase() == ConnectionPhase::connected || (phase() == ConnectionPhase::connecting && canCancel())) {
-        if (const auto other = SessionOwner::ofAnotherProcess(m_services.profile))
-            giveUpTo(*other);
+        // One that somebody has begun by hand has no owner; its password is not ours all the same.
+        const auto other = SessionOwner::ofAnotherProcess(m_services.profile);
+        const auto mark = SessionMark::present(m_services.profile);
+        // One of another mode is told by the kill switch, which is open then.
+        if (other || (mark && m_sessionMark && mark != m_sessionMark && markedMode() == activeMode()))
+            giveUpTo(other);
         return;
     }
     if (phase() != ConnectionPhase::stale)
@@ -188,12 +192,14 @@ void TorController::lookAtSession()
 }
 
 // Another process has replaced this one's session: its Tor has ended, and its rules are the other's.
-void TorController::giveUpTo(const SessionOwner &other)
+void TorController::giveUpTo(const std::optional<SessionOwner> &other)
 {
     startAttempt(); // checks that are still running belong to a session that is over
     stopMonitoring();
     canCancel = false;
     showSessionOf(other);
+    if (!other)
+        errorMessage = Text::tr("Another program has ended this session and begun one of its own. Disconnect to end that.");
     phase = ConnectionPhase::stale;
     startKillSwitchWatch();
 }

@@ -38,6 +38,23 @@ QJsonValue json(qint64 value) { return value; }
 QJsonValue json(double value) { return value; }
 QJsonValue json(quint64 value) { return static_cast<qint64>(value); }
 QJsonValue json(const QStringList &value) { return QJsonArray::fromStringList(value); }
+
+QJsonValue json(const QList<Text> &value)
+{
+    QJsonArray texts;
+    for (const Text &text : value)
+        texts.append(text.english());
+    return texts;
+}
+
+QJsonValue textJson(const QList<Text> &value)
+{
+    QJsonArray texts;
+    for (const Text &text : value)
+        texts.append(text.toJson());
+    return texts.isEmpty() ? QJsonValue(QJsonValue::Null) : texts;
+}
+
 QJsonValue json(BridgeChoice value) { return rawValue(value); }
 QJsonValue json(RoutingMode value) { return rawValue(value); }
 

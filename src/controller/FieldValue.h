@@ -34,6 +34,7 @@ QJsonValue json(qint64 value);
 QJsonValue json(quint64 value);
 QJsonValue json(double value);
 QJsonValue json(const QStringList &value);
+QJsonValue json(const QList<Text> &value); // English
 QJsonValue json(BridgeChoice value);
 QJsonValue json(RoutingMode value);
 QJsonValue json(ConnectionPhase value);
@@ -51,10 +52,11 @@ QJsonValue json(const std::optional<T> &value)
     return value ? json(*value) : QJsonValue(QJsonValue::Null);
 }
 
-// As Text::toJson() where the value is a text; null where it is none.
+// As Text::toJson() where the value is a text, a list of those where it is a list; null where it is none.
 template <typename T>
 QJsonValue textJson(const T &) { return QJsonValue::Null; }
 inline QJsonValue textJson(const Text &value) { return value.toJson(); }
+QJsonValue textJson(const QList<Text> &value);
 inline QJsonValue textJson(const std::optional<Text> &value) { return value ? value->toJson() : QJsonValue(QJsonValue::Null); }
 
 // The types of settings. What is stored and is none of the type's values reads as `fallback`.

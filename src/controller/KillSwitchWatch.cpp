@@ -159,6 +159,10 @@ QCoro::Task<void> TorController::watchKillSwitch(quint64 run)
             torDied();
             co_return;
         }
+        if (phase() == ConnectionPhase::connected && isSessionMarkerPresent())
+            lookAtSession(); // perhaps it is another session's
+        if (!self || run != m_killSwitchWatch)
+            co_return;
         lookAtKillSwitch();
     }
 }

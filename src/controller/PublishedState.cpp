@@ -72,8 +72,15 @@ QJsonObject publishedTexts(const TorController &controller)
 QJsonObject inUsersLanguage(QJsonObject state, const QJsonObject &texts)
 {
     for (auto text = texts.begin(); text != texts.end(); ++text) {
-        if (state.value(text.key()).isString()) // what the state keeps back stays so
+        const QJsonValue english = state.value(text.key()); // what the state keeps back stays so
+        if (english.isString()) {
             state.insert(text.key(), Text::fromJson(text.value()).translated());
+        } else if (english.isArray()) {
+            QJsonArray translated;
+            for (const QJsonValue &one : text.value().toArray())
+                translated.append(Text::fromJson(one).translated());
+            state.insert(text.key(), translated);
+        }
     }
     return state;
 }

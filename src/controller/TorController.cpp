@@ -12,6 +12,7 @@ TorController::TorController(const Services &services, QObject *parent)
     , m_services(services)
 {
     passwordlessInstalled = services.privileged.passwordlessInstalled();
+    readSettingsProblems();
     locateTransports();
 }
 
@@ -20,6 +21,14 @@ TorController::~TorController()
     endFixWaits();
     if (m_downloadWait)
         m_downloadWait->complete(false);
+}
+
+void TorController::readSettingsProblems()
+{
+    QList<Text> problems = settingsProblems();
+    while (const auto problem = store().problem())
+        problems << *problem;
+    settingsProblems = problems;
 }
 
 Verdict TorController::verdict() const

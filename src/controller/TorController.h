@@ -23,6 +23,7 @@
 #include "base/Text.h"
 #include "system/HelperError.h"
 #include "system/ProgramApproval.h"
+#include "system/SessionMark.h"
 #include "system/SessionOwner.h"
 
 #include <QObject>
@@ -103,6 +104,7 @@ public:
     // --- The user's settings; each `set` is stored at once. ---
     Setting<bool> strictMode{this, "strictMode", Scope::connection, Text::tr("the kill switch, else proxy mode"), true};
     Setting<bool> allowLocalNetwork{this, "allowLocalNetwork", Scope::connection, Text::tr("strict mode lets the local network through"), true};
+    Setting<bool> separateApps{this, "separateApps", Scope::connection, Text::tr("each application has circuits of its own"), true};
     Setting<QString> exitCountry{this, "exitCountry", Scope::connection, Text::tr("two lower-case letters, or nothing for any"), QString()};
     Setting<QString> customTorPath{this, "customTorPath", Scope::connection, Text::tr("the tor to use, or nothing to search for it"), QString()};
     Setting<BridgeChoice> bridgeChoice{this, "bridgeChoice", Scope::connection, Text::tr("which bridges"), BridgeChoice::off};
@@ -153,6 +155,8 @@ public:
     Published<bool> passwordlessInstalled{this, "passwordlessInstalled"};
     Published<std::optional<Text>> startupError{this, "startupError"};
     Published<std::optional<Text>> terminalError{this, "terminalError"};
+    // What is wrong with the settings' file, a sentence each, the oldest first; until its reader has dismissed it.
+    Published<QList<Text>> settingsProblems{this, "settingsProblems"};
 
     // --- Derived from the fields. ---
     Verdict verdict() const; // how safe all this is; what every surface shows
@@ -206,6 +210,10 @@ public:
     void dismissError() { errorMessage = std::nullopt; }
     // Shows what went wrong outside the controller as the banner.
     void showProblem(const Text &problem) override { errorMessage = problem; }
+    // Takes over what the settings' store has to tell.
+    void readSettingsProblems();
+    // The user has read the oldest of them.
+    void dismissSettingsProblem() { settingsProblems = settingsProblems().mid(1); }
 
     // --- Operations: transports. ---
     // Searches the computer afresh and sets `transports`, unless a search that began later has done so.
@@ -285,7 +293,7 @@ private:
     // What the counters and Tor's word on its circuits say of the traffic.
     void lookAtTraffic(std::optional<bool> hasCircuit);
     void torDied();
-    void giveUpTo(const SessionOwner &other);
+    void giveUpTo(const std::optional<SessionOwner> &other);
     Text replacedText() const; // `otherSession` is there
     void showSessionOf(const std::optional<SessionOwner> &other); // nobody's: one that was left over
     struct TimedProbe {
@@ -341,6 +349,7 @@ private:
     quint64 m_terminalRun = 0; // how often terminal mode was applied
     std::optional<QString> m_controlPassword; // of the running session; in memory only
     QString m_controlHash;                    // what Tor was told of it
+    std::optional<SessionMark> m_sessionMark; // of the session that this object has made
     QStringList m_sessionWords;               // what the helper was last asked for, and did
     bool m_isDownloading = false;             // transports
     bool m_downloadsDirectly = false;         // and not through Tor

@@ -65,6 +65,18 @@ std::vector<Verb> makeTable()
                           "of an entry or a program. Running copies are asked to quit first"),
          .missing = Text::tr("launch needs an application; \"veldmarkctl apps\" lists them."),
          .needsSession = true, .streams = true, .handler = Handlers::launch},
+        {.id = Id::identities, .name = QStringLiteral("identities"), .options = {json},
+         .help = Text::tr("the applications that have circuits of their own, and the loopback address\n"
+                                "by which Tor tells each from the others")},
+        {.id = Id::renew, .name = QStringLiteral("renew"), .operands = {QStringLiteral("APP")},
+         .help = Text::tr("new circuits for one application, from its next connection on; APP is as\n"
+                                "\"identities\" names it"),
+         .missing = Text::tr("renew needs an application; \"veldmarkctl identities\" lists them.")},
+        {.id = Id::runAs, .name = QStringLiteral("run-as"), .operands = {QStringLiteral("NAME")},
+         .help = Text::tr("run a program (after --) with circuits of its own; a later run with the same\n"
+                                "name in the same session has the same ones"),
+         .missing = Text::tr("run-as needs a name and a program: veldmarkctl run-as NAME -- PROGRAM."),
+         .takesProgram = true},
         {.id = Id::doctor, .name = QStringLiteral("doctor"), .options = {json},
          .help = Text::tr("look at this computer: what a connect needs, what is in its way, and what\n"
                           "mends it. Changes nothing; ends with 0 when a connect can work")},

@@ -31,7 +31,7 @@ using Outcome = Result<void, InstanceError>;
 struct Verb {
     enum class Id {
         run, status, connect, disconnect, restore, check, fixDNS, circuits, closeCircuit, newIdentity,
-        log, bridges, downloadTransports, apps, launch, doctor, get, set,
+        log, bridges, downloadTransports, apps, launch, identities, renew, runAs, doctor, get, set,
         help, version, complete,
         watch, // for the socket alone
     };
@@ -48,6 +48,7 @@ struct Verb {
     Text help = {};              // one or more lines; empty: not told to users
     Text missing = {};           // the sentence for an operand that is not there; empty: a usual one
     QString command = {};        // the socket's word, when it is another
+    bool takesProgram = false;   // a program and its words follow the operands
     bool needsSession = false;   // refused by the instance unless it is connected
     bool streams = false;        // the client hears of every change until it ends
     Handler handler = nullptr;   // in the running instance; absent: veldmarkctl does it by itself

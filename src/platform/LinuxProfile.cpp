@@ -77,6 +77,8 @@ PlatformProfile PlatformProfile::linux(const Places &places)
     profile.sessionOwner = at("/var/lib/veldmark/state/owner");
     profile.killSwitchNote = at("/run/veldmark.watch");
     profile.othersNote = at("/run/veldmark.others");
+    profile.identitiesNote = at("/run/veldmark.identities");
+    profile.identitiesSocket = at("/run/veldmark.identify");
     profile.installedHelper = at("/usr/local/libexec/veldmark/veldmark-helper.sh");
     profile.sudoersRule = at("/etc/sudoers.d/veldmark");
     profile.runDirectory = at("/var/lib/veldmark/run");

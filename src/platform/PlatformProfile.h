@@ -58,6 +58,8 @@ struct PlatformProfile {
     QString sessionOwner;     // beside the marker: who made the session; empty where no helper notes it
     QString othersNote;       // who else denies what goes out, as the helper has found it, see OtherFirewalls; gone after a restart
     QString killSwitchNote;   // what the watcher has last seen of the firewall's rules, see KillSwitch; gone after a restart
+    QString identitiesNote;   // which application has which address, see Identities; empty where applications cannot be told apart
+    QString identitiesSocket; // where another address is asked for
     QString installedHelper;  // the root-owned copy for use without a password
     QString sudoersRule;
     QString runDirectory;     // Tor's logs; see launcherOutput

@@ -21,6 +21,18 @@ void SettingsModel::setAutoConnect(bool on)
     m_session.store(next);
 }
 
+void SettingsModel::setSeparateApps(bool on)
+{
+    Choices next = now().choices;
+    next.separateApps = on;
+    m_session.store(next);
+}
+
+bool SettingsModel::canSeparateApps() const
+{
+    return !m_session.profile().identitiesNote.isEmpty();
+}
+
 void SettingsModel::setTerminalMode(bool on)
 {
     Choices next = now().choices;

@@ -24,6 +24,8 @@ class SettingsModel : public QObject {
     Q_PROPERTY(QString installCommand READ installCommand NOTIFY changed)
     Q_PROPERTY(bool torCustom READ torCustom NOTIFY changed)
     Q_PROPERTY(bool torLocked READ torLocked NOTIFY changed)
+    Q_PROPERTY(bool separateApps READ separateApps WRITE setSeparateApps NOTIFY changed)
+    Q_PROPERTY(bool canSeparateApps READ canSeparateApps CONSTANT)
     Q_PROPERTY(QUrl torFolder READ torFolder CONSTANT)
     Q_PROPERTY(QString onComputer READ onComputer CONSTANT)
     Q_PROPERTY(bool lyrebird READ lyrebird NOTIFY changed)
@@ -68,6 +70,10 @@ public:
     bool torCustom() const { return !now().choices.customTorPath.isEmpty(); }
     QUrl torFolder() const; // where a chooser starts
     QString onComputer() const;
+
+    bool separateApps() const { return now().choices.separateApps; }
+    void setSeparateApps(bool on);
+    bool canSeparateApps() const; // the system tells applications apart
 
     bool lyrebird() const { return now().transports.lyrebird.has_value(); }
     bool snowflake() const { return now().transports.snowflake.has_value(); }

@@ -36,6 +36,7 @@ struct Choices {
     bool autoConnect = false;
     bool optimizeSpeed = false;
     bool terminalMode = false;
+    bool separateApps = true;
 
     friend bool operator==(const Choices &, const Choices &) = default;
 };

@@ -223,7 +223,7 @@ class Machine:
 
     def await_watcher(self):
         """The helper starts it and does not wait until it listens."""
-        self.shell("until pgrep -xf 'nft monitor' >/dev/null; do sleep 0.01; done")
+        self.shell("for kind in tables chains rules; do until pgrep -xf \"nft monitor $kind\" >/dev/null; do sleep 0.01; done; done")
 
     def watchers(self):
         """Their process ids. What one is just starting bears its name as well, in its session."""

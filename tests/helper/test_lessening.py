@@ -20,6 +20,7 @@ LESS = {
     "the local network": words(lan=1),
     "another password": words(hash=OTHER_HASH),
     "an exit country": words(more=["--exit", "de"]),
+    "who shares circuits": words(more=["--separate", "1"]),
     "a bridge": words(more=["--bridge", "192.0.2.1:443"]),
     "a bridge with a program": words(more=BRIDGES),
 }

@@ -56,6 +56,9 @@ HOSTILE = {
     "hash with another line": words(hash=HASH + "\nSocksPort 0.0.0.0:9050"),
     "plain password": words(hash="secret"),
     "strict 2": words(strict="2"),
+    "separate yes": words(separate="yes"),
+    "separate arithmetic": words(separate="a[$(touch /run/pwned)]"),
+    "twice --separate": words(separate="0") + ["--separate", "0"],
     "strict yes": words(strict="yes"),
     "strict 01": words(strict="01"),
     "arithmetic in strict": words(strict="a[$(touch /run/pwned)]"),
@@ -133,6 +136,7 @@ SAYS = {
         "country of three letters", "country in capitals", "braces in the country", "country of one letter", "digits as the country")},
     **{name: "The value of --strict must be 0 or 1." for name in ("strict 2", "strict yes", "strict 01", "arithmetic in strict")},
     "arithmetic in lan": "The value of --lan must be 0 or 1.",
+    **{name: "The value of --separate must be 0 or 1." for name in ("separate yes", "separate arithmetic")},
     "lan 2": "The value of --lan must be 0 or 1.",
     **{name: "The hashed control password is not valid." for name in ("short hash", "long hash", "hash in small letters", "plain password")},
     **{name: "contains control characters." for name in (

@@ -16,6 +16,7 @@ CASES = {
     "strict": "print_strict_rules 991 1000 0 0 '' '' ''",
     "strict-everything": "print_strict_rules 991 1000 1 1 192.0.2.53 2001:db8::53 veldmark-exempt",
     "strict-root": "print_strict_rules 991 0 0 0 '' '' ''",
+    "identities": "print_identities 0 1000 65534",
     "strict-groups": "TOR_PATH=veldmark/tor; print_strict_rules 991 1000 0 1 '' '' veldmark-exempt 1",
     "proxy": "print_proxy_rules 991 1000",
 }

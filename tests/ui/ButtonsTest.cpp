@@ -35,9 +35,9 @@ QList<QQuickItem *> controls(QQuickWindow *window)
 
 QString choicesOf(const Choices &c)
 {
-    return QStringLiteral("strict %1, local %2, country %3, tor %4, bridges %5, lines %6, apps %7, auto %8, speed %9, terminal %10")
+    return QStringLiteral("strict %1, local %2, country %3, tor %4, bridges %5, lines %6, apps %7, auto %8, speed %9, terminal %10, separate %11")
         .arg(c.strictMode).arg(c.allowLocalNetwork).arg(c.exitCountry, c.customTorPath, rawValue(c.bridgeChoice))
-        .arg(c.customBridges.size()).arg(c.bypassApps.join(u' ')).arg(c.autoConnect).arg(c.optimizeSpeed).arg(c.terminalMode);
+        .arg(c.customBridges.size()).arg(c.bypassApps.join(u' ')).arg(c.autoConnect).arg(c.optimizeSpeed).arg(c.terminalMode).arg(c.separateApps);
 }
 
 // The state that a button may change, a line for each part.

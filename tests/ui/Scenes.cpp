@@ -250,6 +250,11 @@ std::vector<Scene> panel()
     s.activeMode.reset();
     s.statusDetail = Text::tr("Your network is still set up for Tor from an earlier session");
     add("stale-proxy", s);
+    s.activeMode = RoutingMode::strict;
+    s.killSwitch = protectedSession().killSwitch;
+    s.isAnothers = true;
+    s.statusDetail = QStringLiteral("Your network is set up for Tor by alexandra, whose Veldmark is process 48213");
+    add("stale-strict-another-user", s);
     return scenes;
 }
 

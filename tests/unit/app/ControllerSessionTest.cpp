@@ -1,10 +1,12 @@
 #include "app/ControllerSession.h"
+#include "controller/PublishedState.h"
 #include "support/OtherSession.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -148,9 +150,12 @@ private Q_SLOTS:
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
         QVERIFY(session.now().errorMessage);
         QVERIFY(session.now().errorMessage->english().contains(u".broken"_s));
+        const QJsonValue published = publishedState(bench.controller()).value(u"settingsProblems"_s);
+        QCOMPARE(published, QJsonValue(QJsonArray{session.now().errorMessage->english()})); // the command line sees it as well
         session.dismissError();
         follow(session);
         QVERIFY(!session.now().errorMessage);
+        QVERIFY(bench.controller().settingsProblems().isEmpty());
     }
 
     void aSettingsFileOfANewerVersionIsReadAndKept()

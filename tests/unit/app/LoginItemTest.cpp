@@ -6,10 +6,22 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTranslator>
 
 #include <unistd.h>
 
 using namespace veldmark;
+
+namespace {
+
+// A language in which everything is said between brackets.
+class Brackets final : public QTranslator {
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *source, const char *, int) const override { return u'[' + QString::fromUtf8(source) + u']'; }
+};
+
+} // namespace
 
 class LoginItemTest : public QObject {
     Q_OBJECT
@@ -63,6 +75,23 @@ private Q_SLOTS:
         QVERIFY(done.error().english().startsWith(QStringLiteral("Couldn't write ")));
         profile.autostartFile.clear();
         QVERIFY(!LoginItem(profile).set(true));
+    }
+
+    // The published state is English; the window translates.
+    void whatIsWrongIsEnglishInEveryLanguage()
+    {
+        QTemporaryDir folder;
+        PlatformProfile profile = PlatformProfile::linux(Places::below(folder.path()));
+        profile.autostartFile = folder.filePath(QStringLiteral("folder/in the way"));
+        QVERIFY(QDir().mkpath(profile.autostartFile));
+        Brackets language;
+        QCoreApplication::installTranslator(&language);
+        QCOMPARE(QCoreApplication::translate("LoginItem", "x"), QStringLiteral("[x]"));
+        const auto done = LoginItem(profile).set(true);
+        QVERIFY(!done);
+        QVERIFY2(done.error().english().startsWith(QStringLiteral("Couldn't write ")), qPrintable(done.error().english()));
+        profile.autostartFile.clear();
+        QCOMPARE(LoginItem(profile).set(true).error().english(), QStringLiteral("Login items can't be changed here."));
     }
 
     void anEntryThatIsSwitchedOffIsOff_data()

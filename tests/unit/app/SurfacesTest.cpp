@@ -4,6 +4,7 @@
 #include "app/Tray.h"
 #include "cli/Report.h"
 #include "controller/PublishedState.h"
+#include "support/OtherSession.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 #include "ui/PanelModel.h"
@@ -12,6 +13,9 @@
 #include <QMetaEnum>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <algorithm>
+#include <map>
 
 using namespace Qt::StringLiterals;
 using namespace veldmark;
@@ -117,6 +121,7 @@ private Q_SLOTS:
     void sayTheSameOfEverySession()
     {
         int isProtected = 0;
+        std::map<Verdict::Danger, int> dangers;
         for (const Case &one : cases()) {
             Workbench bench;
             ControllerSession session(bench.controller(), *bench.settings, bench.applications);
@@ -151,6 +156,8 @@ private Q_SLOTS:
                 ++isProtected;
                 QVERIFY2(isSafe, name);
             }
+            const bool wasSeenOut = one.leaking || (one.strict && one.exposed);
+            QVERIFY2(!words.contains(u"only Tor's traffic leaves"_s) || !wasSeenOut, name);
             for (const QString &claim : {u"locked to Tor"_s, u"only Tor's traffic leaves"_s, u"blocking traffic, so nothing leaked"_s,
                                          u"Direct path   blocked"_s, u"Direct path blocked"_s})
                 QVERIFY2(!words.contains(claim) || isLocked, name + ": " + claim.toUtf8());
@@ -166,8 +173,79 @@ private Q_SLOTS:
                         && notification.at(1).toString().startsWith(u"The kill switch is open."_s);
                 QVERIFY2(danger == 1, name);
             }
+            // The other dangers that stay are told once as well, and where nothing is wrong nothing is told.
+            const auto danger = bench.controller().verdict().danger;
+            const QString heading = danger == Verdict::Danger::dnsLeak ? u"Lookups can go around Tor"_s
+                : danger == Verdict::Danger::exposed                   ? u"Traffic can leave around Tor"_s
+                                                                       : QString();
+            const auto count = std::count_if(told.begin(), told.end(), [&heading](const auto &notification) { return notification.at(0).toString() == heading; });
+            QVERIFY2(heading.isEmpty() || count == 1, name);
+            ++dangers[danger];
+            const bool isWell = !one.exposed && !one.leaking && !one.torDies && (!one.strict || one.note == "standing");
+            QVERIFY2(!isWell || told.isEmpty(), name);
         }
         QVERIFY(isProtected > 0);
+        QCOMPARE(dangers.size(), std::size_t(7)); // all there are
+    }
+
+    // The phases in between, another process's session and what was left over.
+    void sayTheSameInEveryPhase()
+    {
+        for (const bool open : {false, true}) {
+            Workbench bench;
+            TorController &c = bench.controller();
+            ControllerSession session(c, *bench.settings, bench.applications);
+            PanelModel panel(session);
+            Tray tray(session);
+            QStringList titles;
+            const auto agree = [&] {
+                if (!until([&] { return session.now().phase == c.phase() && session.now().isAnothers == c.otherSession().has_value(); }))
+                    return false;
+                settle();
+                const QJsonObject state = publishedState(c);
+                const QString title = state.value(u"title"_s).toString();
+                titles << title;
+                const QStringList report = Report::status(state).split(u'\n');
+                return panel.title() == title && report.at(0) == title && tray.findChild<QSystemTrayIcon *>()->toolTip() == u"Veldmark: "_s + title
+                    && panel.symbol() == state.value(u"menuBarSymbol"_s).toString() && toneOf(panel) == state.value(u"level"_s).toString()
+                    && panel.detail() == state.value(u"statusDetail"_s).toString() && report.at(1).trimmed() == panel.detail();
+            };
+            QVERIFY(agree());
+            bench.setBootstrap("PROGRESS=5 SUMMARY=\"Connecting\"");
+            const auto connecting = c.connect();
+            QVERIFY(bench.hears(Workbench::bootstrapCommand));
+            QVERIFY(until([&] { return bench.clock.sleepers() == 2; }));
+            if (open) {
+                bench.noteRules("open", 1);
+                bench.clock.advance(std::chrono::seconds(2));
+            }
+            QVERIFY(agree());
+            bench.setBootstrap("PROGRESS=100");
+            for (int second = 0; second < 3 && !connecting.isReady(); ++second) {
+                bench.clock.advance(std::chrono::seconds(1));
+                settle();
+            }
+            QVERIFY(Workbench::finished(connecting));
+            QVERIFY(agree());
+            bench.cancelPrompt(u"disconnect"_s);
+            bench.hold(u"disconnect"_s);
+            const auto disconnecting = c.disconnect();
+            QVERIFY(until([&] { return bench.processes.held() == 1; }));
+            QVERIFY(agree());
+            bench.processes.hold = nullptr;
+            bench.processes.release();
+            QVERIFY(Workbench::finished(disconnecting));
+            QVERIFY(agree());
+            OtherSession other(bench.profile);
+            c.lookAtSession();
+            QVERIFY(agree());
+            other.end();
+            c.lookAtSession();
+            QVERIFY(agree());
+            const QString up = open ? u"Kill Switch Open"_s : u"Protected"_s;
+            const QString stale = open ? u"Kill Switch Open"_s : u"Needs Attention"_s;
+            QCOMPARE(titles, (QStringList{u"Not Protected"_s, open ? up : u"Connecting…"_s, up, u"Disconnecting…"_s, up, stale, stale}));
+        }
     }
 
     // What no session of the stand-in can be brought into: every combination of what the panel and the tray are given.

@@ -279,7 +279,7 @@ private Q_SLOTS:
         QTest::newRow("no router line") << QStringList{QStringLiteral("s Exit"), QStringLiteral("rx a b c d e f g")}
                                         << QString();
         QTest::newRow("empty") << QStringList() << QString();
-        for (const char *bad : {"300.1.1.1", "1.2.3", "1.2.3.4.5", "1.2.3.", ".1.2.3", "1..2.3",
+        for (const char *bad : {"300.1.1.1", "1.2.3.256", "1.2.3", "1.2.3.4.5", "1.2.3.", ".1.2.3", "1..2.3",
                                 "a.b.c.d", "0001.2.3.4", "096.0.2.2", "1.2.3.00", "1.2.3.4\r\nQUIT"})
             QTest::newRow(bad) << QStringList{QStringLiteral("r n i d x y %1 1").arg(QString::fromLatin1(bad))}
                                << QString();
@@ -341,6 +341,8 @@ private Q_SLOTS:
     void readsACountry()
     {
         QCOMPARE(CircuitParser::country({QStringLiteral("de")}), QStringLiteral("de"));
+        QCOMPARE(CircuitParser::country({QStringLiteral("AZ")}), QStringLiteral("AZ"));
+        QCOMPARE(CircuitParser::country({QStringLiteral("za")}), QStringLiteral("za"));
         QVERIFY(!CircuitParser::country({QStringLiteral("??")}));
         QVERIFY(!CircuitParser::country({QStringLiteral("deu")}));
         QVERIFY(!CircuitParser::country({QString()}));

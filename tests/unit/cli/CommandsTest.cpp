@@ -124,6 +124,48 @@ private Q_SLOTS:
         QVERIFY(outcome(Id::launch, computer.profile, app) == ExitStatus::failed);
     }
 
+    // By a running instance each time, without one by the command that finds it.
+    void aDamagedSettingsFileIsToldByTheStatus()
+    {
+        Computer computer;
+        Computer::write(computer.profile.settingsFile, QByteArray("\0\xff=", 3));
+        const auto said = [](const PlatformProfile &profile) {
+            const Output output;
+            static_cast<void>(outcome(Id::status, profile));
+            return output.text();
+        };
+        const QString told = u"\n  Settings    The settings file couldn't be read. It was kept as "_s;
+        QCOMPARE(said(computer.profile).count(told), 1);
+        QCOMPARE(said(computer.profile).count(told), 0);
+
+        Workbench bench;
+        bench.writeFile(bench.profile.settingsFile, QByteArray("\0\xff=", 3));
+        bench.restart();
+        auto server = InstanceServer::start(bench.controller());
+        QVERIFY(server);
+        for (int time = 1; time <= 2; ++time)
+            QCOMPARE(said(bench.profile).count(told), 1);
+        bench.controller().dismissSettingsProblem(); // as in a window
+        QCOMPARE(said(bench.profile).count(told), 0);
+        server->reset();
+        settle();
+    }
+
+    void aDamagedSettingsFileIsToldOnceByTheOtherCommands()
+    {
+        for (const Id verb : {Id::get, Id::set, Id::restore}) {
+            Computer computer;
+            Computer::write(computer.profile.settingsFile, QByteArray("\0\xff=", 3));
+            const auto said = [&] {
+                const Output errors(stderr);
+                static_cast<void>(outcome(verb, computer.profile, u"autoConnect"_s, u"true"_s));
+                return errors.text();
+            };
+            QVERIFY(said().startsWith(u"veldmarkctl: The settings file couldn't be read."_s));
+            QCOMPARE(said(), QString());
+        }
+    }
+
     void bridgesThatCannotBeUsedAreNamedWhereTheyAreTyped_data()
     {
         QTest::addColumn<bool>("running");

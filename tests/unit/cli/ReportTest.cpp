@@ -111,6 +111,8 @@ private Q_SLOTS:
         QVERIFY(report.contains(QStringLiteral("\n  Problem     No tor.")));
         QVERIFY(report.contains(QStringLiteral("\n  Terminal    No ~/.bashrc.")));
         QVERIFY(!Report::status(object(R"({"phase":"disconnected"})")).contains(QStringLiteral("Terminal")));
+        const QString two = Report::status(object(R"({"phase":"connected","settingsProblems":["It was damaged.","It is full."]})"));
+        QVERIFY(two.endsWith(QStringLiteral("\n  Settings    It was damaged.\n  Settings    It is full.")));
     }
 
     void saysHowToRestoreAStaleNetwork()

@@ -51,6 +51,16 @@ private Q_SLOTS:
         QCOMPARE(computer.verbs().constLast(), u"connect"_s);
     }
 
+    void tellsOfADamagedSettingsFile()
+    {
+        Computer computer;
+        Computer::write(computer.profile.settingsFile, QByteArray("\0\xff=", 3));
+        const Output errors(stderr);
+        RunCommand run(computer.profile, false);
+        run.start();
+        QCOMPARE(errors.text().count(u"veldmarkctl: The settings file couldn't be read."_s), 1);
+    }
+
     void endsWhereAnotherProcessIsConnected()
     {
         Computer computer;

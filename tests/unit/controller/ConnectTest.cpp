@@ -40,9 +40,11 @@ private Q_SLOTS:
         QCOMPARE(bench.processes.calls.front().executable, bench.profile.promptProgram);
         const QString hash = bench.lastHelperRun(u"connect"_s).value(4);
         QVERIFY(TorPassword::matches(bench.password().toUtf8(), hash));
-        QCOMPARE(bench.lastHelperRun(u"connect"_s),
-                 QStringList({u"connect"_s, u"--tor"_s, bench.profile.torCandidates.constFirst(),
-                              u"--hash"_s, hash, u"--strict"_s, u"1"_s, u"--lan"_s, u"1"_s}));
+        QStringList words = {u"connect"_s, u"--tor"_s, bench.profile.torCandidates.constFirst(),
+                             u"--hash"_s, hash, u"--strict"_s, u"1"_s, u"--lan"_s, u"1"_s};
+        if (!bench.profile.identitiesNote.isEmpty())
+            words << u"--separate"_s << u"1"_s; // a Mac's helper tells no applications apart
+        QCOMPARE(bench.lastHelperRun(u"connect"_s), words);
     }
 
     void proxyModeIsNotCalledLocked()
@@ -85,10 +87,11 @@ private Q_SLOTS:
         QTest::addColumn<bool>("localNetwork");
         QTest::addColumn<QString>("exit");
         QTest::addColumn<QString>("options");
-        QTest::newRow("strict, local") << true << true << QString() << u"--strict 1 --lan 1"_s;
-        QTest::newRow("strict, not local") << true << false << QString() << u"--strict 1 --lan 0"_s;
-        QTest::newRow("proxy, local") << false << true << QString() << u"--strict 0 --lan 1"_s;
-        QTest::newRow("exit") << true << false << u"de"_s << u"--strict 1 --lan 0 --exit de"_s;
+        QTest::newRow("strict, local") << true << true << QString() << u"--strict 1 --lan 1 --separate 1"_s;
+        QTest::newRow("strict, not local") << true << false << QString() << u"--strict 1 --lan 0 --separate 1"_s;
+        QTest::newRow("proxy, local") << false << true << QString() << u"--strict 0 --lan 1 --separate 1"_s;
+        QTest::newRow("together") << true << true << QString() << u"--strict 1 --lan 1 --separate 0"_s;
+        QTest::newRow("exit") << true << false << u"de"_s << u"--strict 1 --lan 0 --separate 1 --exit de"_s;
     }
 
     void helperOptionsFollowTheSettings()
@@ -100,6 +103,7 @@ private Q_SLOTS:
         bench.controller().strictMode.set(strict);
         bench.controller().allowLocalNetwork.set(localNetwork);
         bench.controller().exitCountry.set(exit);
+        bench.controller().separateApps.set(!QByteArray(QTest::currentDataTag()).startsWith("together"));
         QVERIFY(bench.connect());
         QTEST(bench.lastHelperRun(u"connect"_s).mid(5).join(u' '), "options");
     }
@@ -113,7 +117,7 @@ private Q_SLOTS:
         bench.controller().bridgeChoice.set(BridgeChoice::obfs4);
         bench.controller().exitCountry.set(u"ch"_s);
         QVERIFY(bench.connect());
-        QCOMPARE(bench.lastHelperRun(u"connect"_s).mid(9),
+        QCOMPARE(bench.lastHelperRun(u"connect"_s).mid(11),
                  QStringList({u"--exit"_s, u"ch"_s, u"--bridge"_s, line, u"--pt-lyrebird"_s,
                               u"/opt/it's \"lyre\\bird\""_s}));
         QVERIFY(bench.controller().activeBridge() == BridgeChoice::obfs4);
@@ -150,7 +154,7 @@ private Q_SLOTS:
         bench.processes.hold = nullptr;
         bench.processes.release();
         QVERIFY(Workbench::finished(connecting));
-        QCOMPARE(bench.lastHelperRun(u"connect"_s).mid(5).join(u' '), u"--strict 1 --lan 1 --exit de"_s);
+        QCOMPARE(bench.lastHelperRun(u"connect"_s).mid(5).join(u' '), u"--strict 1 --lan 1 --separate 1 --exit de"_s);
         QVERIFY(c.activeMode() == RoutingMode::strict);
         QVERIFY(!c.activeBridge());
     }
@@ -237,7 +241,7 @@ private Q_SLOTS:
         bench.controller().allowLocalNetwork.set(false);
         QVERIFY(bench.connect()); // whose dialog says what it is
         QCOMPARE(bench.helperRunCount(u"connect"_s), 2);
-        QCOMPARE(bench.lastHelperRun(u"replace"_s).mid(5).join(u' '), u"--strict 1 --lan 0"_s);
+        QCOMPARE(bench.lastHelperRun(u"replace"_s).mid(5).join(u' '), u"--strict 1 --lan 0 --separate 1"_s);
         bench.disconnect();
         QVERIFY(bench.connect());
         QVERIFY(bench.lastHelperRun(u"connect"_s).at(4) != words.at(4));

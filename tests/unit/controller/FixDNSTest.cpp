@@ -51,6 +51,19 @@ private Q_SLOTS:
         QCOMPARE(c.errorMessage().value_or(QString()), message);
     }
 
+    void anOpenKillSwitchIsNotSaidToBlockThem()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        bench.resolvers.answer = leaking;
+        QVERIFY(bench.connect());
+        bench.noteRules("open", 1);
+        const auto fixed = c.fixDNS();
+        QVERIFY(Workbench::finished(fixed));
+        QVERIFY(c.killSwitch()->state == KillSwitch::State::open && c.dnsStatus() == leak);
+        QVERIFY2(c.errorMessage().value().english().endsWith(u"10.8.0.1 for *.corp on utun2."_s), qPrintable(c.errorMessage()->english()));
+    }
+
     void fixingThatIsRefused_data()
     {
         QTest::addColumn<System>("system");

@@ -151,6 +151,26 @@ private Q_SLOTS:
         QCOMPARE(bench.commandCount("SETCONF DisableNetwork=0"), 5);
     }
 
+    // It hides nothing that went wrong, and no operation failed because of it.
+    void thatTorHasNoNetworkIsNoFailureOfAnOperation()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        acceptNetworkCommands(bench);
+        bench.tor.reply("SETCONF DisableNetwork=0", "553 Busy\r\n");
+        QVERIFY(bench.connect());
+        QVERIFY(bench.tick());
+        bench.ownAddresses = {QHostAddress(u"198.51.100.7"_s)};
+        QVERIFY(bench.tick());
+        QVERIFY(c.errorMessage().value_or(Text()).english().contains(u"hasn't confirmed that it is on the network"_s));
+        QVERIFY(!c.failure());
+        c.showProblem(u"Something else."_s);
+        QCOMPARE(c.failure().value_or(QString()), u"Something else."_s);
+        QVERIFY(bench.tick());
+        QCOMPARE(bench.commandCount("SETCONF DisableNetwork=0"), 2);
+        QCOMPARE(c.errorMessage().value_or(QString()), u"Something else."_s);
+    }
+
     void threeFailuresInARowMeanThatTorIsDead_data()
     {
         QTest::addColumn<bool>("strict");

@@ -9,6 +9,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <cstdio>
+
 using namespace Qt::StringLiterals;
 using namespace veldmark;
 using Phase = ConnectionPhase;
@@ -51,6 +53,27 @@ private Q_SLOTS:
         const QJsonObject published = publishedState(c).value(u"otherSession"_s).toObject();
         QCOMPARE(published.value(u"user"_s).toString(), (SessionOwner{user, 0}).userName());
         QCOMPARE(published.value(u"process"_s).toInteger(), other.process());
+    }
+
+    // Under the password-free rule a program of the user's can do that in a moment; nobody is the owner then.
+    void oneBegunByHandInPlaceOfOursIsNotTakenForOurs()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        QVERIFY(until([&] { return !c.isChecking(); }));
+        QCOMPARE(c.title(), u"Protected"_s);
+        QFile marker(bench.profile.sessionMarker);
+        QVERIFY(marker.open(QIODevice::ReadOnly));
+        const QByteArray content = marker.readAll();
+        bench.writeFile(bench.profile.sessionMarker + u".new"_s, content);
+        QVERIFY(std::rename(QFile::encodeName(bench.profile.sessionMarker + u".new"_s).constData(),
+                            QFile::encodeName(bench.profile.sessionMarker).constData()) == 0);
+        bench.clock.advance(std::chrono::seconds(1));
+        QVERIFY(until([&] { return c.phase() == Phase::stale; }));
+        QVERIFY(!c.otherSession());
+        QCOMPARE(c.errorMessage().value_or(QString()), u"Another program has ended this session and begun one of its own. Disconnect to end that."_s);
+        QVERIFY(c.title() != u"Protected"_s);
     }
 
     void isLeftOverOnceItsProcessHasEnded()

@@ -26,11 +26,11 @@ private Q_SLOTS:
     void everyPublishedFieldIsThereUnderItsName()
     {
         Workbench bench;
-        const QStringList fields = u"strictMode allowLocalNetwork exitCountry customTorPath bridgeChoice customBridges "
+        const QStringList fields = u"strictMode allowLocalNetwork separateApps exitCountry customTorPath bridgeChoice customBridges "
             "bypassApps autoConnect optimizeSpeed latencyMs optimizeStatus isOptimizing transports activeBridge "
             "terminalMode phase activeMode bootstrapProgress statusDetail bootstrapProblem killSwitch killSwitchSince exitIP torVerified leakStatus "
             "bytesRead bytesWritten stall isChecking otherSession canCancel errorMessage dnsStatus passwordlessInstalled startupError circuits "
-            "circuitError transportDownload terminalError title menuBarSymbol level"_s.split(u' ');
+            "circuitError transportDownload terminalError settingsProblems title menuBarSymbol level"_s.split(u' ');
         const QJsonObject state = publishedState(bench.controller());
         for (const QString &field : fields)
             QVERIFY2(state.contains(field), qPrintable(field));
@@ -121,6 +121,24 @@ private Q_SLOTS:
         QCOMPARE(inUsersLanguage(kept, texts), kept); // a text that the state holds back
     }
 
+    void soAreItsListsOfTexts()
+    {
+        Workbench bench;
+        bench.writeFile(bench.profile.settingsFile, QByteArray("\0\xff=", 3)); // damaged
+        bench.restart();
+        const QJsonObject state = publishedState(bench.controller());
+        const QJsonArray english = state.value(u"settingsProblems"_s).toArray();
+        QCOMPARE(english.size(), 1);
+        Shouting shouting;
+        QCoreApplication::installTranslator(&shouting);
+        const QJsonObject shown = inUsersLanguage(state, publishedTexts(bench.controller()));
+        QCoreApplication::removeTranslator(&shouting);
+        const QJsonArray shouted = shown.value(u"settingsProblems"_s).toArray();
+        QCOMPARE(shouted.size(), 1);
+        QVERIFY(shouted != english);
+        QCOMPARE(shouted.at(0).toString().toUpper(), english.at(0).toString().toUpper());
+    }
+
     void neverHoldsThePassword()
     {
         Workbench bench;
@@ -135,7 +153,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QJsonValue>("value"); // undefined: refused
         const QJsonValue refused(QJsonValue::Undefined);
-        for (const char *name : {"strictMode", "allowLocalNetwork", "autoConnect", "optimizeSpeed", "terminalMode"}) {
+        for (const char *name : {"strictMode", "allowLocalNetwork", "separateApps", "autoConnect", "optimizeSpeed", "terminalMode"}) {
             QTest::addRow("%s on", name) << QString::fromLatin1(name) << u"on"_s << QJsonValue(true);
             QTest::addRow("%s off", name) << QString::fromLatin1(name) << u" FALSE "_s << QJsonValue(false);
             QTest::addRow("%s yes", name) << QString::fromLatin1(name) << u"yes"_s << QJsonValue(true);
@@ -204,7 +222,7 @@ private Q_SLOTS:
                                                                             : value.toString();
             QVERIFY2(setSetting(bench.controller(), name, text), qPrintable(name));
         }
-        QCOMPARE(names.size(), 10);
+        QCOMPARE(names.size(), 11);
     }
 
     void saysWhenTheSettingWasNotSaved()

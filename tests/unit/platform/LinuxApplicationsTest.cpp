@@ -254,6 +254,26 @@ private Q_SLOTS:
         QCOMPARE(copies, found ? std::vector<qint64>{4711} : std::vector<qint64>());
     }
 
+    // A file that has no end keeps nobody: a MiB of each is enough.
+    void ofWhatAProcessTellsAMiBIsRead_data()
+    {
+        QTest::addColumn<qsizetype>("before");
+        QTest::addColumn<bool>("found");
+        QTest::newRow("within it") << qsizetype(1000) << true;
+        QTest::newRow("behind it") << qsizetype(1 << 20) << false;
+    }
+
+    void ofWhatAProcessTellsAMiBIsRead()
+    {
+        QFETCH(qsizetype, before);
+        QFETCH(bool, found);
+        const QString file = entry(u"sample"_s, u"/opt/wrapper start"_s);
+        write(u"proc/4711/environ"_s, "A=" + QByteArray(before, 'x') + '\0' + "GIO_LAUNCHED_DESKTOP_FILE=" + QFile::encodeName(file) + '\0'
+                                          + "GIO_LAUNCHED_DESKTOP_FILE_PID=4711" + '\0');
+        m_applications = runningApplications(path(u"proc"_s));
+        QCOMPARE(m_applications->copiesOf(file), found ? std::vector<qint64>{4711} : std::vector<qint64>());
+    }
+
     void thisProgramIsNotItsOwnCopy()
     {
         const QString file = entry(u"self"_s, QCoreApplication::applicationFilePath());

@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/utsname.h>
 #include <unistd.h>
 
 using namespace veldmark;
@@ -43,6 +44,7 @@ QString table(const PlatformProfile &p)
         {"sessionMarker", p.sessionMarker},
         {"sessionOwner", p.sessionOwner},
         {"killSwitchNote", p.killSwitchNote},
+        {"identities", list({p.identitiesNote, p.identitiesSocket})},
         {"installedHelper", p.installedHelper},
         {"sudoersRule", p.sudoersRule},
         {"runDirectory", p.runDirectory},
@@ -135,6 +137,7 @@ manualRestoreCommand: sudo bash /nowhere/usr/share/veldmark/veldmark-helper.sh d
 sessionMarker: /nowhere/var/lib/veldmark/state/active
 sessionOwner: /nowhere/var/lib/veldmark/state/owner
 killSwitchNote: /nowhere/run/veldmark.watch
+identities: /nowhere/run/veldmark.identities, /nowhere/run/veldmark.identify
 installedHelper: /nowhere/usr/local/libexec/veldmark/veldmark-helper.sh
 sudoersRule: /nowhere/etc/sudoers.d/veldmark
 runDirectory: /nowhere/var/lib/veldmark/run
@@ -176,6 +179,7 @@ manualRestoreCommand: sudo bash /Applications/Veldmark.app/Contents/Resources/ve
 sessionMarker: /nowhere/Library/Application Support/Veldmark/state/active
 sessionOwner: 
 killSwitchNote: /nowhere/var/run/veldmark.watch
+identities: , 
 installedHelper: /nowhere/Library/Application Support/Veldmark/bin/veldmark-helper.sh
 sudoersRule: /nowhere/etc/sudoers.d/veldmark
 runDirectory: /nowhere/var/db/veldmark/run
@@ -213,6 +217,15 @@ controlSocket: ~/Library/Application Support/Veldmark/run/control
             for (const PlatformProfile &profile : {PlatformProfile::linux(places), PlatformProfile::macos(places)})
                 QVERIFY2(profile.bundleArchivePrefix.endsWith(u'-' + places.machine + u'-'), qPrintable(profile.bundleArchivePrefix));
         }
+    }
+
+    // The kernel's name of it, which on a Mac is another one than the Tor Project's.
+    void theMachineIsThisOne()
+    {
+        utsname system{};
+        QCOMPARE(::uname(&system), 0);
+        const QString machine = QString::fromLatin1(system.machine);
+        QCOMPARE(Places::fromEnvironment().machine, machine == QLatin1String("arm64") ? QStringLiteral("aarch64") : machine);
     }
 
     void aRelativeFolderOfTheEnvironmentIsIgnored()

@@ -8,6 +8,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <unistd.h>
+
 using namespace veldmark;
 
 class SettingsFileTest : public QObject {
@@ -94,6 +96,23 @@ private Q_SLOTS:
         // The second time QSettings has what it read the first time.
         for (int time = 0; time < 2; ++time)
             QCOMPARE(settingsFileState(file.fileName()), intact ? SettingsFileState::Intact : SettingsFileState::Damaged);
+    }
+
+    // As where somebody has started the program without its standard input: the new file is descriptor 0.
+    void isWrittenWithoutAStandardInput()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("veldmark.conf"));
+        const QString key = QStringLiteral("a");
+        const int input = ::dup(STDIN_FILENO);
+        ::close(STDIN_FILENO);
+        const bool isWritten = rewriteSettingsFile(path, {key}, {{key, 1}});
+        if (input >= 0) {
+            ::dup2(input, STDIN_FILENO);
+            ::close(input);
+        }
+        QVERIFY(isWritten);
+        QCOMPARE(readSettingsFile(path).value(key).toString(), QStringLiteral("1"));
     }
 
     // Two files of one size and time would be one to QSettings.

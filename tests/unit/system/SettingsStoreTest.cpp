@@ -113,12 +113,13 @@ private Q_SLOTS:
     void aValueOfTheWrongTypeIsTheDefaultAndStays()
     {
         Home home;
-        home.write("[General]\nstrictMode=banana\naKey=a, b\nlist=@Variant(\\0\\0\\0\\x2\\0\\0\\0\\x5)\n");
+        home.write("[General]\nstrictMode=banana\naKey=a, b\nlist=@Variant(\\0\\0\\0\\x2\\0\\0\\0\\x5)\nmixed=one, @Size(1 2)\n");
         SettingsStore store(home.profile);
         store.registerDefaults({{strict, true}, {key, QStringLiteral("one")}});
         QCOMPARE(store.boolean(strict), true);
         QCOMPARE(store.string(key), QStringLiteral("one"));
         QCOMPARE(store.stringList(QStringLiteral("list")), QStringList());
+        QCOMPARE(store.stringList(QStringLiteral("mixed")), QStringList()); // not all of it is text
         QCOMPARE(store.boolean(key), false);
         QVERIFY(!store.problem());
         store.setBoolean(QStringLiteral("other"), true);

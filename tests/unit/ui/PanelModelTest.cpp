@@ -63,7 +63,7 @@ private Q_SLOTS:
         s.errorMessage = QStringLiteral("Tor didn't finish connecting.");
         session.show(s);
         QCOMPARE(panel.waitingFor(), QString());
-        QCOMPARE(panel.error(), *s.errorMessage + u' ' + *s.bootstrapProblem);
+        QCOMPARE(panel.error(), s.errorMessage->english() + u' ' + s.bootstrapProblem->english());
         s.phase = Phase::disconnected;
         session.show(s);
         QCOMPARE(panel.error(), *s.errorMessage);

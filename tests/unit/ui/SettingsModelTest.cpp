@@ -126,6 +126,9 @@ private Q_SLOTS:
         QVERIFY(!settings.canOpenAtLogin()); // unknown in the snapshot
         settings.setAutoConnect(true);
         settings.setTerminalMode(true);
+        QVERIFY(settings.separateApps());
+        settings.setSeparateApps(false);
+        QVERIFY(!settings.separateApps() && !session.now().choices.separateApps);
         settings.setOpenAtLogin(true);
         QVERIFY(session.now().choices.autoConnect);
         QVERIFY(session.now().choices.terminalMode);

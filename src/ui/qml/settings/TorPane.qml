@@ -42,4 +42,20 @@ Pane {
             }
         }
     }
+    Card {
+        Layout.fillWidth: true
+        visible: pane.model.canSeparateApps
+        contentSpacing: 12
+        SwitchRow {
+            symbol: "arrow.triangle.branch"
+            title: qsTr("Separate applications")
+            subtitle: pane.model.torLocked ? qsTr("Disconnect to change") : qsTr("Each application has circuits of its own")
+            on: pane.model.separateApps
+            enabled: !pane.model.torLocked
+            onWanted: on => pane.model.separateApps = on
+        }
+        Note {
+            text: qsTr("Sites cannot tell by the exit address that two applications are yours. Applications are told apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with all of their login session or account.")
+        }
+    }
 }

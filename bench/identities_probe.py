@@ -1,0 +1,71 @@
+"""What separate applications cost: a connection to Tor's SOCKS port with the table and without, by turns, among 200 identities; and the
+program that sees groups come and go, while 50 come and 50 go each second, and at rest."""
+
+import os
+import subprocess
+
+USER = "/sys/fs/cgroup/user.slice/user-1001.slice"
+APPS = f"{USER}/user@1001.service/app.slice"
+TABLE = "veldmark-identities"
+
+# Opens and closes so many connections; the seconds for one.
+CONNECTIONS = ("import socket, sys, time\nstart = time.perf_counter()\nfor _ in range(int(sys.argv[1])):\n"
+               "    s = socket.create_connection(('127.0.0.1', 9050)); s.close()\nprint((time.perf_counter() - start) / int(sys.argv[1]))")
+COMING = """if True:
+    import os, sys, time
+    start = time.monotonic()
+    for n in range(int(sys.argv[2]) * 50):
+        os.mkdir(f'{sys.argv[1]}/app-coming{n % 70}-{n}.scope')
+        if n >= 20: os.rmdir(f'{sys.argv[1]}/app-coming{(n - 20) % 70}-{n - 20}.scope')
+        time.sleep(max(0, start + (n + 1) / 50 - time.monotonic()))
+    for n in range(n - 19, n + 1): os.rmdir(f'{sys.argv[1]}/app-coming{n % 70}-{n}.scope')"""
+
+
+def connection_seconds(host, group, many=200):
+    words = ["/bin/sh", "-c", 'echo 0 >"$0/cgroup.procs"; exec "$@"', group, "/usr/bin/python3", "-c", CONNECTIONS, str(many)]
+    return float(host.run(words, check=True).stdout)
+
+
+def connections(host, pairs=12):
+    """Pairs of seconds for one connection, with the table and without it."""
+    host.run(["/bin/sh", "-c", f"pkill -STOP -x veldmark-identi; nft list table inet {TABLE} >/run/table.nft"], check=True)
+    found = []
+    for _ in range(pairs):
+        with_table = connection_seconds(host, f"{APPS}/app-bench0-1.scope")
+        host.run(["nft", "delete", "table", "inet", TABLE], check=True)
+        without = connection_seconds(host, f"{APPS}/app-bench0-1.scope")
+        host.run(["nft", "-f", "/run/table.nft"], check=True)
+        found.append((with_table, without))
+    host.run(["/bin/sh", "-c", "rm /run/table.nft; pkill -CONT -x veldmark-identi"], check=True)
+    return found
+
+
+def spent(host):
+    """Seconds of processor time: of the program, and of those that listen to the rules."""
+    script = 'for name in veldmark-identi "nft"; do for pid in $(pgrep -x "$name"); do cut -d" " -f14,15 /proc/$pid/stat; done; done'
+    ticks = sum(int(word) for word in host.run(["/bin/sh", "-c", script], check=True).stdout.split())
+    return ticks / os.sysconf("SC_CLK_TCK")
+
+
+def coming_and_going(host, seconds=20):
+    """Shares of one core while groups come and go, and while nothing does."""
+    before = spent(host)
+    host.run(["/usr/bin/python3", "-c", COMING, APPS, str(seconds)], check=True, timeout=seconds * 3)
+    busy = spent(host)
+    subprocess.run(["sleep", "3"], check=True)
+    settled = spent(host)
+    subprocess.run(["sleep", str(seconds)], check=True)
+    return (busy - before) / seconds, (spent(host) - settled) / seconds
+
+
+def measure(lab, product):
+    host = lab.host
+    host.run(["/bin/sh", "-c", f"mkdir -p {APPS}; cd {APPS}; for n in $(seq 0 199); do mkdir app-bench$n-1.scope; done"], check=True)
+    hashed = host.run(["tor", "--quiet", "--hash-password", "bench"], check=True).stdout.split()[-1]
+    product.run_helper("connect", "--tor", "/usr/bin/tor", "--hash", hashed, "--strict", "1", "--lan", "0", "--separate", "1", check=True)
+    host.run(["timeout", "20", "/bin/sh", "-c", "until [ $(grep -c bench /run/veldmark.identities) = 200 ]; do sleep 0.1; done"], check=True)
+    try:
+        return connections(host), coming_and_going(host)
+    finally:
+        product.run_helper("disconnect", check=True)
+        host.run(["/bin/sh", "-c", "cd /sys/fs/cgroup/user.slice && find . -mindepth 1 -depth -type d -exec rmdir {} +; rmdir /sys/fs/cgroup/user.slice"])

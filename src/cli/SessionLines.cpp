@@ -1,0 +1,112 @@
+#include "cli/SessionLines.h"
+
+#include "cli/Console.h"
+#include "cli/Report.h"
+#include "controller/PublishedState.h"
+#include "controller/TorController.h"
+
+#include <utility>
+
+namespace veldmark {
+
+SessionLines::SessionLines(const TorController &controller)
+    : m_controller(controller), m_progress(Console::isTerminal(), Console::width())
+{
+    // Queued: what is shown has been set as a whole.
+    const auto follow = [this](std::initializer_list<const Field *> fields, void (SessionLines::*show)()) {
+        for (const Field *field : fields)
+            QObject::connect(field, &Field::changed, this, show, Qt::QueuedConnection);
+    };
+    const TorController &c = controller;
+    follow({&c.bootstrapProgress, &c.statusDetail}, &SessionLines::showProgress);
+    follow({&c.bootstrapProblem}, &SessionLines::showProblem);
+    follow({&c.phase, &c.isChecking}, &SessionLines::showPhase);
+    follow({&c.killSwitch}, &SessionLines::showKillSwitch);
+    follow({&c.dnsStatus, &c.leakStatus, &c.torVerified, &c.otherSession, &c.stall}, &SessionLines::showVerdict);
+}
+
+void SessionLines::finish()
+{
+    Console::draw(m_progress.finish());
+}
+
+void SessionLines::showProgress()
+{
+    if (m_controller.phase() == ConnectionPhase::connecting)
+        Console::draw(m_progress.update(m_controller.bootstrapProgress(), m_controller.statusDetail().translated()));
+}
+
+void SessionLines::showProblem()
+{
+    if (m_controller.phase() == ConnectionPhase::connecting && m_controller.bootstrapProblem())
+        say(*m_controller.bootstrapProblem());
+}
+
+void SessionLines::showPhase()
+{
+    const ConnectionPhase phase = m_controller.phase();
+    if (phase == ConnectionPhase::connecting || m_controller.isChecking()) {
+        if (phase == ConnectionPhase::connecting)
+            m_lastPhase = phase;
+        return; // the progress line speaks, or the answers are on their way
+    }
+    if (phase == ConnectionPhase::disconnecting) {
+        if (std::exchange(m_lastPhase, phase) != phase) // checks that end with it come here as well
+            say(m_controller.statusDetail());
+        return;
+    }
+    if (phase == ConnectionPhase::connected && m_lastPhase == ConnectionPhase::connecting)
+        Console::draw(m_progress.update(1.0, Text::tr("Done").translated()));
+    m_lastPhase = phase;
+    QString report = phase == ConnectionPhase::connected || phase == ConnectionPhase::stale
+        ? Report::status(inUsersLanguage(publishedState(m_controller), publishedTexts(m_controller)))
+        : verdictText();
+    m_lastVerdict = verdictText();
+    if (report == std::exchange(m_lastReport, report))
+        return;
+    say(report);
+    if (phase == ConnectionPhase::connected)
+        say(Text::tr("Press Ctrl-C to disconnect."));
+}
+
+// On a change of state alone: a program that removes the rules without pause is told once.
+void SessionLines::showKillSwitch()
+{
+    const auto &rules = m_controller.killSwitch();
+    const auto state = rules ? std::optional(rules->state) : std::nullopt;
+    if (state == std::exchange(m_lastKillSwitch, state) || !state)
+        return;
+    if (m_controller.phase() == ConnectionPhase::connecting && *state == KillSwitch::State::open)
+        complain(verdictText());
+    else
+        showPhase();
+}
+
+// What the checks find between the phases, and what becomes of another process's session.
+void SessionLines::showVerdict()
+{
+    const ConnectionPhase phase = m_controller.phase();
+    const bool isShown = phase == ConnectionPhase::connected || phase == ConnectionPhase::stale;
+    if (isShown && m_lastPhase == phase && m_lastVerdict != verdictText())
+        showPhase();
+}
+
+QString SessionLines::verdictText() const
+{
+    const Verdict verdict = m_controller.verdict();
+    return QStringLiteral("%1: %2").arg(verdict.title.translated(), verdict.detail.translated());
+}
+
+void SessionLines::say(const Text &text)
+{
+    finish();
+    Console::print(text);
+}
+
+void SessionLines::complain(const Text &text)
+{
+    finish();
+    Console::printError(text);
+}
+
+} // namespace veldmark

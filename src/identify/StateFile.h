@@ -1,0 +1,32 @@
+#pragma once
+
+#include "identify/Descriptor.h"
+#include "identify/GroupRegister.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace veldmark {
+
+// What everybody may read of the identities. Lines:
+//
+//     identities COUNT
+//     standing | lost           whether the table of the firewall is there
+//     UID ADDRESS APPLICATION   for each that has a group just now
+//     end COUNT
+//
+// COUNT grows with each change. The file is written in place: who reads two different counts, or no end, reads again.
+class StateFile {
+public:
+    explicit StateFile(const std::string &path);
+
+    [[nodiscard]] bool isOpen() const { return static_cast<bool>(m_file); }
+    void write(bool standing, const std::vector<Identity> &identities);
+
+private:
+    Descriptor m_file;
+    std::uint64_t m_count = 0;
+};
+
+} // namespace veldmark

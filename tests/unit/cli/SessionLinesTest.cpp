@@ -1,0 +1,161 @@
+#include "cli/SessionLines.h"
+
+#include "support/Output.h"
+#include "support/TestProgram.h"
+#include "support/Workbench.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace veldmark;
+
+// What `veldmarkctl run` prints while its session changes.
+class SessionLinesTest : public QObject {
+    Q_OBJECT
+
+    static QCoro::Task<void> waitFor(ResumeOnce<bool> gate) { co_await gate; }
+
+private Q_SLOTS:
+    // The checks that end with the session change what is shown a second time.
+    void aRestoreThatBeginsDuringTheChecksIsSaidOnce()
+    {
+        Workbench bench;
+        const ResumeOnce<bool> answers;
+        bench.probe.beforeTorAnswer = [answers] { return waitFor(answers); };
+        const SessionLines lines(bench.controller());
+        const auto connecting = bench.controller().connect();
+        QVERIFY(until([&] { return bench.controller().phase() == ConnectionPhase::connected && bench.controller().isChecking(); }));
+        settle();
+        bench.hold(u"disconnect"_s);
+        QString said;
+        {
+            const Output output;
+            const auto disconnecting = bench.controller().disconnect();
+            static_cast<void>(until([&] { return bench.processes.held() == 1; }));
+            settle();
+            said = output.text();
+        }
+        QVERIFY(!bench.controller().isChecking());
+        QCOMPARE(said, u"Restoring your network settings…\n"_s);
+        bench.processes.hold = nullptr;
+        bench.processes.release();
+        answers.complete(true);
+        QVERIFY(until([&] { return bench.controller().phase() == ConnectionPhase::disconnected; }));
+    }
+
+    void whatKeepsTrafficFromGettingThroughIsSaidAlsoWhenItChanges()
+    {
+        Workbench bench;
+        const SessionLines lines(bench.controller());
+        QVERIFY(bench.connect());
+        QVERIFY(until([&] { return !bench.controller().isChecking(); }));
+        settle();
+        bench.hasCircuit = false;
+        bench.setCounters("1000", "200");
+        bench.route = std::nullopt;
+        QString said;
+        {
+            const Output output;
+            for (int tick = 0; tick < 7; ++tick)
+                QVERIFY(bench.tick());
+            settle();
+            bench.route = NetworkRoute{u"eth0"_s, false}; // there is a network, and Tor has not noticed yet
+            QVERIFY(bench.tick());
+            settle();
+            said = output.text();
+        }
+        QVERIFY2(said.contains(u"No Network"_s), qPrintable(said));
+        QVERIFY2(said.contains(u"Nothing Gets Through"_s), qPrintable(said));
+    }
+
+    // And again in the next session of the same program.
+    void eachRestoreIsSaid()
+    {
+        Workbench bench;
+        const SessionLines lines(bench.controller());
+        for (int session = 1; session <= 2; ++session) {
+            QVERIFY(bench.connect());
+            settle();
+            bench.hold(u"disconnect"_s);
+            QString said;
+            {
+                const Output output;
+                const auto disconnecting = bench.controller().disconnect();
+                static_cast<void>(until([&] { return bench.processes.held() == 1; }));
+                settle();
+                bench.processes.hold = nullptr;
+                bench.processes.release();
+                static_cast<void>(Workbench::finished(disconnecting));
+                settle();
+                said = output.text();
+            }
+            QCOMPARE(said, u"Restoring your network settings…\nNot Protected: Your traffic is not going through Tor\n"_s);
+        }
+    }
+
+    void theReportOfASessionIsSaidOnceItsChecksHaveEnded()
+    {
+        Workbench bench;
+        QString said;
+        {
+            const Output output;
+            const SessionLines lines(bench.controller());
+            static_cast<void>(bench.connect());
+            settle();
+            said = output.text();
+        }
+        QVERIFY(bench.controller().phase() == ConnectionPhase::connected);
+        QCOMPARE(said.count(u"\nProtected\n"_s), 1);
+        QCOMPARE(said.count(u"Press Ctrl-C to disconnect."_s), 1);
+        QVERIFY(said.contains(u"  Direct path blocked\n"_s)); // what the checks have found
+    }
+
+    void whatBecomesOfTheKillSwitchIsSaidWhenItsStateChanges()
+    {
+        Workbench bench;
+        const SessionLines lines(bench.controller());
+        QVERIFY(bench.connect());
+        settle();
+        QString said, saidAgain;
+        {
+            const Output output;
+            bench.noteRules("open", 1);
+            static_cast<void>(bench.tick());
+            settle();
+            said = output.text();
+            bench.noteRules("open", 2);
+            static_cast<void>(bench.tick());
+            settle();
+            saidAgain = output.text().sliced(said.size());
+        }
+        QCOMPARE(bench.controller().killSwitch()->missed, 2);
+        QVERIFY2(said.startsWith(u"Kill Switch Open\n"_s), qPrintable(said));
+        QCOMPARE(saidAgain, QString());
+    }
+
+    // The progress line goes on below the warning.
+    void anOpenKillSwitchDuringAConnectIsAWarning()
+    {
+        Workbench bench;
+        bench.setBootstrap("PROGRESS=5 SUMMARY=\"Connecting\"");
+        QString warned, said;
+        {
+            const Output errors(stderr);
+            const Output output;
+            const SessionLines lines(bench.controller());
+            const auto connecting = bench.controller().connect();
+            static_cast<void>(until([&] { return bench.clock.sleepers() == 2; }));
+            bench.noteRules("open", 1);
+            bench.clock.advance(std::chrono::seconds(2));
+            settle();
+            warned = errors.text();
+            said = output.text();
+        }
+        QCOMPARE(warned, u"veldmarkctl: Kill Switch Open: Traffic may leave this computer directly\n"_s);
+        QVERIFY(said.contains(u"  5%  Connecting\n"_s));
+        QVERIFY(!said.contains(u"Kill switch"_s));
+    }
+};
+
+VELDMARK_TEST(SessionLinesTest)
+#include "SessionLinesTest.moc"
