@@ -34,7 +34,7 @@ set(CPACK_DEBIAN_PACKAGE_DEPENDS
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
     "tor, tor-geoipdb, sudo, gnupg, libglib2.0-bin, qt6-qpa-plugins, qt6-wayland, unzip")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS
-    "obfs4proxy, snowflake-client, netcat-openbsd, fonts-noto-color-emoji, systemd-resolved")
+    "obfs4proxy, snowflake-client, netcat-openbsd, fonts-noto-color-emoji, fonts-noto-core, fonts-wqy-microhei | fonts-noto-cjk, systemd-resolved")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA
     "${CMAKE_CURRENT_LIST_DIR}/debian/prerm;${CMAKE_CURRENT_LIST_DIR}/debian/postinst;${CMAKE_CURRENT_LIST_DIR}/debian/postrm")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)

@@ -12,7 +12,7 @@ running_packages=(
     qml6-module-qtquick
     qml6-module-qtquick-templates qml6-module-qtquick-window qml6-module-qtquick-layouts
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
-    fonts-noto-core fonts-noto-mono fonts-noto-color-emoji
+    fonts-noto-core fonts-noto-mono fonts-noto-color-emoji fonts-wqy-microhei
     tor tor-geoipdb obfs4proxy snowflake-client nftables iproute2 util-linux passwd procps sudo
     python3 openssl ca-certificates curl
     libglib2.0-bin dconf-cli dconf-gsettings-backend gsettings-desktop-schemas dbus dbus-daemon

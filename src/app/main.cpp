@@ -97,6 +97,7 @@ int main(int argc, char **argv)
     application.setWindowIcon(QPixmap::fromImage(Symbols::image(QStringLiteral("veldmark"), 64, QColor(0x62, 0x36, 0xc9))));
 
     const UsersLanguage language;
+    QApplication::setLayoutDirection(language.direction());
     CommandLine line;
     line.process();
 

@@ -9,9 +9,12 @@ namespace veldmark {
 class UsersLanguage {
 public:
     UsersLanguage();
+    // In which windows are laid out.
+    Qt::LayoutDirection direction() const { return m_direction; }
 
 private:
     QTranslator m_translator;
+    Qt::LayoutDirection m_direction = Qt::LeftToRight;
 };
 
 } // namespace veldmark

@@ -4,6 +4,7 @@
 #include "ui/StrandPainter.h"
 
 #include <QCursor>
+#include <QGuiApplication>
 #include <QHash>
 #include <QPainter>
 #include <QPainterPath>
@@ -265,7 +266,8 @@ void CircuitGraphView::drawGuides(QPainter &painter) const
     const std::array titles{QString(), tr("ENTRY"), tr("MIDDLE"), tr("EXIT"), tr("SITES")};
     QFont font = painter.font();
     font.setPixelSize(11);
-    font.setLetterSpacing(QFont::AbsoluteSpacing, 1);
+    if (!QGuiApplication::isRightToLeft()) // letters that are joined stay so
+        font.setLetterSpacing(QFont::AbsoluteSpacing, 1);
     painter.setFont(font);
     for (int column = 0; column < GraphLayout::columns; ++column) {
         const double x = std::round(GraphLayout::columnAt(column, width()));

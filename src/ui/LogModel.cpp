@@ -1,5 +1,7 @@
 #include "ui/LogModel.h"
 
+#include "ui/Wording.h"
+
 #include <QClipboard>
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -126,7 +128,7 @@ QString LogModel::subtitle() const
         break;
     }
     const auto count = static_cast<int>(m_feed.snapshot().lines().size());
-    return (count == 1 ? tr("1 line") : tr("%1 lines").arg(count)) + QStringLiteral(" · ") + noticesPath();
+    return (count == 1 ? tr("1 line") : tr("%1 lines").arg(count)) + QStringLiteral(" · ") + fromTheLeft(noticesPath());
 }
 
 QString LogModel::problemsLabel() const

@@ -1,5 +1,7 @@
 #include "ui/Side.h"
 
+#include <QGuiApplication>
+
 #include <algorithm>
 
 namespace veldmark {
@@ -24,8 +26,11 @@ void Side::updatePolish()
     for (const QQuickItem *child : childItems())
         if (child->isVisible())
             tallest = std::max(tallest, child->height());
+    QList<QQuickItem *> children = childItems();
+    if (QGuiApplication::isRightToLeft())
+        std::reverse(children.begin(), children.end());
     double x = 0;
-    for (QQuickItem *child : childItems()) {
+    for (QQuickItem *child : children) {
         if (!child->isVisible() || child->width() <= 0)
             continue;
         child->setPosition({x, (tallest - child->height()) / 2});

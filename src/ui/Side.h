@@ -4,7 +4,7 @@
 
 namespace veldmark {
 
-// The controls at the end of a row: its visible children from left to right, centred, as wide and
+// The controls at the end of a row: its visible children in the direction of reading, centred, as wide and
 // high as they want to be. It follows every change of their sizes.
 class Side : public QQuickItem {
     Q_OBJECT

@@ -1,6 +1,13 @@
 #include "ui/Wording.h"
 
+#include <QGuiApplication>
+
 namespace veldmark {
+
+QString fromTheLeft(const QString &words)
+{
+    return QGuiApplication::isRightToLeft() ? QChar(0x2066) + words + QChar(0x2069) : words; // the two marks of an isolate
+}
 
 QString shownName(BridgeChoice choice)
 {

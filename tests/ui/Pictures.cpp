@@ -224,8 +224,10 @@ int main(int argc, char **argv)
     folder.mkpath(QStringLiteral("."));
     const QString only = arguments.value(2);
     QTranslator translator;
-    if (arguments.size() > 3 && translator.load(arguments.at(3)))
+    if (arguments.size() > 3 && translator.load(arguments.at(3))) {
         application.installTranslator(&translator);
+        application.setLayoutDirection(QLocale(translator.language()).textDirection());
+    }
 
     Stage stage;
     const bool flags = ColorScheme().flagsDrawn();

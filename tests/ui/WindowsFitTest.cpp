@@ -1,7 +1,13 @@
 #include "StagedWindows.h"
 
+#include <QDir>
 #include <QTest>
 #include <QTranslator>
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <tuple>
 
 using namespace veldmark;
 
@@ -26,6 +32,45 @@ bool isClipped(QQuickItem *item)
             return true;
     return false;
 }
+
+// What is read from the left in every language.
+bool isReadFromTheLeft(QQuickItem *item)
+{
+    for (QQuickItem *at = item; at; at = at->parentItem())
+        for (const char *name : {"LogLines_", "CopyField_", "CircuitGraphView"})
+            if (QByteArray(at->metaObject()->className()).contains(name))
+                return true;
+    return false;
+}
+
+struct Placed {
+    QString text;
+    QRectF place;
+};
+
+// The places of all texts, in the window's coordinates.
+QList<Placed> texts(QQuickWindow *window)
+{
+    QList<Placed> found;
+    visit(window->contentItem(), [&found](QQuickItem *item) {
+        const QString text = item->property("text").toString().remove(QChar(0x2066)).remove(QChar(0x2069)); // marks that are not seen
+        if (item->inherits("QQuickText") && !text.isEmpty() && !isReadFromTheLeft(item))
+            found.append({text, item->mapRectToScene(QRectF(0, 0, item->width(), item->height()))});
+    });
+    std::sort(found.begin(), found.end(), [](const Placed &a, const Placed &b) {
+        return std::tuple(a.text, a.place.top(), a.place.height()) < std::tuple(b.text, b.place.top(), b.place.height());
+    });
+    return found;
+}
+
+// As long as it lives windows are laid out for a language that is read from the right.
+class FromTheRight {
+public:
+    FromTheRight() { QGuiApplication::setLayoutDirection(Qt::RightToLeft); }
+    ~FromTheRight() { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
+    FromTheRight(const FromTheRight &) = delete;
+    FromTheRight &operator=(const FromTheRight &) = delete;
+};
 
 } // namespace
 
@@ -107,6 +152,65 @@ private Q_SLOTS:
             QVERIFY(stage.open(QLatin1String(shown.file), shown.properties));
             stage.window()->resize(std::max(360, stage.window()->minimumWidth()),
                                    std::max(420, stage.window()->minimumHeight()));
+            stage.picture();
+            expectWhole(stage, QLatin1String(shown.file));
+        }
+    }
+
+    void everyWindowIsMirroredForReadersFromTheRight()
+    {
+        Stage stage;
+        prepare(stage);
+        for (const Shown &shown : windows(stage)) {
+            QVERIFY(stage.open(QLatin1String(shown.file), shown.properties));
+            stage.picture();
+            const double width = stage.window()->width();
+            const QList<Placed> usual = texts(stage.window());
+            QVERIFY2(usual.size() > 2, shown.name);
+            const FromTheRight direction;
+            QVERIFY(stage.open(QLatin1String(shown.file), shown.properties));
+            stage.picture();
+            const QList<Placed> mirrored = texts(stage.window());
+            QCOMPARE(mirrored.size(), usual.size());
+            for (int i = 0; i < usual.size(); ++i) {
+                const QString what = QStringLiteral("%1: \"%2\" from %3 to %4, mirrored from %5 to %6 of %7")
+                                         .arg(QLatin1String(shown.name), usual[i].text).arg(usual[i].place.left()).arg(usual[i].place.right())
+                                         .arg(mirrored[i].place.left()).arg(mirrored[i].place.right()).arg(width);
+                QVERIFY2(mirrored[i].text == usual[i].text, qPrintable(what));
+                QVERIFY2(std::abs(mirrored[i].place.left() - (width - usual[i].place.right())) <= 2, qPrintable(what));
+            }
+        }
+    }
+
+    void everyWindowHoldsEveryLanguage_data()
+    {
+        QTest::addColumn<QString>("file");
+        const QFileInfoList files = QDir(QStringLiteral(":/i18n")).entryInfoList({QStringLiteral("*.qm")});
+        QVERIFY(!files.isEmpty());
+        for (const QFileInfo &file : files)
+            QTest::newRow(qPrintable(file.baseName())) << file.filePath();
+    }
+    void everyWindowHoldsEveryLanguage()
+    {
+        QFETCH(QString, file);
+        QTranslator translator;
+        QVERIFY(translator.load(file));
+        QCoreApplication::installTranslator(&translator);
+        std::optional<FromTheRight> direction;
+        if (QLocale(translator.language()).textDirection() == Qt::RightToLeft)
+            direction.emplace();
+        Stage stage;
+        for (const Scenes::Scene &scene : Scenes::panel()) {
+            stage.session.show(scene.snapshot);
+            QVERIFY(stage.open(QStringLiteral("main/MainWindow.qml"), windows(stage).front().properties));
+            stage.window()->resize(360, 768);
+            stage.picture();
+            expectWhole(stage, scene.name);
+        }
+        prepare(stage);
+        for (const Shown &shown : windows(stage)) {
+            QVERIFY(stage.open(QLatin1String(shown.file), shown.properties));
+            stage.window()->resize(std::max(360, stage.window()->minimumWidth()), std::max(420, stage.window()->minimumHeight()));
             stage.picture();
             expectWhole(stage, QLatin1String(shown.file));
         }

@@ -26,7 +26,8 @@ T.CheckDelegate {
 
     contentItem: Item {
         Image {
-            x: 8
+            anchors.left: parent.left
+            anchors.leftMargin: 8
             anchors.verticalCenter: parent.verticalCenter
             width: 28
             height: 28
@@ -35,7 +36,8 @@ T.CheckDelegate {
             sourceSize { width: 28; height: 28 }
         }
         Symbol {
-            x: 8
+            anchors.left: parent.left
+            anchors.leftMargin: 8
             anchors.verticalCenter: parent.verticalCenter
             visible: row.picture === ""
             name: "square.grid.2x2"
@@ -44,7 +46,8 @@ T.CheckDelegate {
         }
         Words {
             id: label
-            x: 48
+            anchors.left: parent.left
+            anchors.leftMargin: 48
             width: parent.width - 88
             anchors.verticalCenter: parent.verticalCenter
             text: row.name

@@ -12,6 +12,8 @@ Window {
     signal quitWanted()
 
     title: qsTr("App exceptions")
+    LayoutMirroring.enabled: Theme.mirrored
+    LayoutMirroring.childrenInherit: true
     width: 460
     height: 560
     minimumWidth: 360

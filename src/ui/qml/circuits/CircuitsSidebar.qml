@@ -64,7 +64,8 @@ Rectangle {
                 onActiveFocusChanged: if (activeFocus) list.currentIndex = index
                 contentItem: Item {
                     Rectangle {
-                        x: 16
+                        anchors.left: parent.left
+                        anchors.leftMargin: 16
                         anchors.verticalCenter: parent.verticalCenter
                         width: 12
                         height: 12
@@ -75,7 +76,8 @@ Rectangle {
                     }
                     Column {
                         id: texts
-                        x: 38
+                        anchors.left: parent.left
+                        anchors.leftMargin: 38
                         width: parent.width - 50
                         anchors.verticalCenter: parent.verticalCenter
                         Words {

@@ -9,6 +9,8 @@ Window {
     signal quitWanted()
 
     title: qsTr("Circuits")
+    LayoutMirroring.enabled: Theme.mirrored
+    LayoutMirroring.childrenInherit: true
     width: 1000
     height: 640
     minimumWidth: 640

@@ -22,7 +22,8 @@ RowLayout {
         implicitWidth: 28
         Rectangle {
             visible: !step.last
-            x: 14 - width / 2
+            anchors.left: parent.left
+            anchors.leftMargin: 14 - width / 2
             y: 26
             width: 4
             height: parent.height - 26
@@ -33,7 +34,8 @@ RowLayout {
         }
         Symbol {
             visible: step.symbol !== ""
-            x: 5
+            anchors.left: parent.left
+            anchors.leftMargin: 5
             y: 3
             name: step.symbol
             size: 18
@@ -41,7 +43,8 @@ RowLayout {
         }
         FlagBadge {
             visible: step.symbol === ""
-            x: 1
+            anchors.left: parent.left
+            anchors.leftMargin: 1
             y: 3
             country: step.country
         }

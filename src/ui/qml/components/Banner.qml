@@ -18,7 +18,8 @@ Rectangle {
     Accessible.name: text
 
     Symbol {
-        x: 12
+        anchors.left: parent.left
+        anchors.leftMargin: 12
         y: 14
         name: banner.symbol
         size: 18
@@ -26,9 +27,10 @@ Rectangle {
     }
     Column {
         id: column
-        x: 40
+        anchors.left: parent.left
+        anchors.leftMargin: 40
         y: 12
-        width: banner.width - x - (banner.closable ? 46 : 12)
+        width: banner.width - 40 - (banner.closable ? 46 : 12)
         spacing: 8
         TextEdit {
             width: parent.width
@@ -36,6 +38,7 @@ Rectangle {
             readOnly: true
             selectByMouse: true
             activeFocusOnTab: false
+            horizontalAlignment: TextEdit.AlignLeft
             wrapMode: Text.Wrap
             font.pixelSize: Theme.bodySize
             color: Theme.text

@@ -11,8 +11,8 @@ T.ComboBox {
     implicitWidth: Math.min(190, label.implicitWidth + 44)
     implicitHeight: Theme.control
     hoverEnabled: true
-    leftPadding: 12
-    rightPadding: 32
+    leftPadding: mirrored ? 32 : 12
+    rightPadding: mirrored ? 12 : 32
     displayText: currentIndex < 0 ? unlisted : currentText
     Accessible.name: name
     Accessible.description: displayText // what is chosen; the control itself does not tell
@@ -23,11 +23,12 @@ T.ComboBox {
         font.pixelSize: Theme.bodySize
         color: Theme.text
         opacity: box.enabled ? 1 : 0.55
+        horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight
     }
     indicator: Symbol {
-        x: box.width - width - 10
+        x: box.mirrored ? 10 : box.width - width - 10
         y: (box.height - height) / 2
         name: "chevron.down"
         size: 12
@@ -51,7 +52,8 @@ T.ComboBox {
         hoverEnabled: true
         contentItem: Item {
             Symbol {
-                x: 10
+                anchors.left: parent.left
+                anchors.leftMargin: 10
                 anchors.verticalCenter: parent.verticalCenter
                 name: "checkmark"
                 size: 12
@@ -59,10 +61,12 @@ T.ComboBox {
                 visible: box.currentIndex === item.index
             }
             Text {
-                x: 30
+                anchors.left: parent.left
+                anchors.leftMargin: 30
                 width: parent.width - 36
                 anchors.verticalCenter: parent.verticalCenter
                 text: item.text
+                horizontalAlignment: Text.AlignLeft
                 elide: Text.ElideRight
                 font.pixelSize: Theme.bodySize
                 color: Theme.text
@@ -75,7 +79,7 @@ T.ComboBox {
     }
     popup: T.Popup {
         y: box.height + 4
-        x: box.width - width
+        x: box.mirrored ? 0 : box.width - width
         width: Math.max(box.width, 230)
         height: Math.min(contentItem.implicitHeight + 8, 300)
         margins: 8

@@ -33,7 +33,8 @@ Column {
         }
     }
     Words {
-        x: 30
+        anchors.left: parent.left
+        anchors.leftMargin: 30
         width: row.width - 30
         text: row.subtitle
         font.pixelSize: Theme.smallSize
@@ -41,7 +42,8 @@ Column {
         opacity: row.enabled ? 1 : 0.62
     }
     Words {
-        x: 30
+        anchors.left: parent.left
+        anchors.leftMargin: 30
         width: row.width - 30
         visible: text !== ""
         text: row.note

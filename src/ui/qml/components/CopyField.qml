@@ -9,6 +9,9 @@ Rectangle {
     signal copied(string text)
 
     implicitHeight: row.implicitHeight + 8
+    // Commands are read from the left in every language.
+    LayoutMirroring.enabled: false
+    LayoutMirroring.childrenInherit: true
     radius: Theme.smallRadius
     color: Theme.ground
     border.color: Theme.line
@@ -19,6 +22,7 @@ Rectangle {
         TextEdit {
             Layout.fillWidth: true
             text: field.text
+            horizontalAlignment: TextEdit.AlignLeft
             readOnly: true
             selectByMouse: true
             wrapMode: Text.WrapAtWordBoundaryOrAnywhere

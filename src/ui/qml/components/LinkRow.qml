@@ -29,7 +29,7 @@ T.Button {
             symbol: button.symbol
             enabled: button.enabled
             Words { text: button.value; color: Theme.quiet; visible: text !== "" }
-            Symbol { name: button.mark; size: 14 }
+            Symbol { name: button.mark; size: 14; transform: Scale { xScale: Theme.mirrored ? -1 : 1; origin.x: 7 } }
         }
     }
     background: Rectangle {

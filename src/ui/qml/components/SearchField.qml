@@ -6,8 +6,8 @@ T.TextField {
     id: field
     implicitWidth: 200
     implicitHeight: Theme.control
-    leftPadding: 34
-    rightPadding: 10
+    leftPadding: Theme.mirrored ? 10 : 34
+    rightPadding: Theme.mirrored ? 34 : 10
     font.pixelSize: Theme.bodySize
     color: Theme.text
     selectionColor: Theme.accent
@@ -26,13 +26,15 @@ T.TextField {
         radius: Theme.smallRadius
         color: Theme.raised
         Symbol {
-            x: 10
+            anchors.left: parent.left
+            anchors.leftMargin: 10
             anchors.verticalCenter: parent.verticalCenter
             name: "magnifyingglass"
             size: 14
         }
         Text {
-            x: 34
+            anchors.left: parent.left
+            anchors.leftMargin: 34
             anchors.verticalCenter: parent.verticalCenter
             visible: field.text === "" && field.preeditText === ""
             text: field.placeholderText

@@ -18,6 +18,7 @@ Item {
 
     Symbol {
         id: picture
+        anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         visible: row.symbol !== ""
         name: row.symbol
@@ -27,8 +28,10 @@ Item {
     }
     Column {
         id: texts
-        x: row.symbol === "" ? 0 : 30
-        width: Math.max(40, row.width - x - (side.width > 0 ? side.width + 12 : 0))
+        readonly property int start: row.symbol === "" ? 0 : 30
+        anchors.left: parent.left
+        anchors.leftMargin: start
+        width: Math.max(40, row.width - start - (side.width > 0 ? side.width + 12 : 0))
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
         opacity: row.enabled ? 1 : 0.62

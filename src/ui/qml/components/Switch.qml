@@ -32,7 +32,7 @@ T.Switch {
             height: 16
             radius: 8
             y: 4
-            x: control.checked ? parent.width - width - 4 : 4
+            x: control.checked !== control.mirrored ? parent.width - width - 4 : 4
             color: control.checked ? Theme.onTone : Theme.edge
             Behavior on x { NumberAnimation { duration: Theme.quick; easing.type: Easing.OutCubic } }
         }

@@ -17,6 +17,9 @@ ListView {
 
     clip: true
     focus: true
+    // Tor's log is English in every language.
+    LayoutMirroring.enabled: false
+    LayoutMirroring.childrenInherit: true
     activeFocusOnTab: true
     boundsBehavior: Flickable.StopAtBounds
     interactive: false

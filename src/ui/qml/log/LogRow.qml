@@ -56,6 +56,7 @@ Rectangle {
         y: 3
         width: row.width - 206
         text: row.message
+        horizontalAlignment: TextEdit.AlignLeft
         textFormat: TextEdit.PlainText
         readOnly: true
         activeFocusOnPress: false

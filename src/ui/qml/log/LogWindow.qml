@@ -9,6 +9,8 @@ Window {
     signal quitWanted()
 
     title: qsTr("Tor Log")
+    LayoutMirroring.enabled: Theme.mirrored
+    LayoutMirroring.childrenInherit: true
     width: 900
     height: 540
     minimumWidth: 640

@@ -12,6 +12,8 @@ Window {
     signal quitWanted()
 
     title: qsTr("Veldmark")
+    LayoutMirroring.enabled: Theme.mirrored
+    LayoutMirroring.childrenInherit: true
     width: 400
     // As tall as its content, until its user makes it as tall as he likes.
     readonly property int contentHeight: Math.max(minimumHeight, Math.min(panel.wantedHeight, 768, Screen.desktopAvailableHeight - 48))

@@ -12,6 +12,8 @@ Window {
     signal quitWanted()
 
     title: qsTr("Veldmark")
+    LayoutMirroring.enabled: Theme.mirrored
+    LayoutMirroring.childrenInherit: true
     flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
     width: 380
     height: Math.min(panel.wantedHeight, 720, Screen.desktopAvailableHeight - 16)

@@ -13,6 +13,8 @@ Window {
     signal cancelled()
 
     title: qsTr("Quit Veldmark")
+    LayoutMirroring.enabled: Theme.mirrored
+    LayoutMirroring.childrenInherit: true
     flags: Qt.Dialog
     modality: Qt.ApplicationModal
     width: 480

@@ -36,6 +36,8 @@ Sheet {
             T.ScrollBar.vertical: ScrollBar {}
             T.TextArea.flickable: T.TextArea {
                 id: editor
+                LayoutMirroring.enabled: false // bridge lines are read from the left in every language
+                horizontalAlignment: TextEdit.AlignLeft
                 padding: 10
                 wrapMode: Text.WrapAnywhere
                 font.pixelSize: 13

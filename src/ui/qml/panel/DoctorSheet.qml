@@ -37,6 +37,7 @@ Sheet {
             required property string command
             required property string button
             required property int tone
+            x: Theme.mirrored ? 10 : 0 // beside the scroll bar
             width: ListView.view.width - 10
             spacing: 10
             Symbol {

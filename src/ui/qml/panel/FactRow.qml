@@ -20,12 +20,14 @@ T.Control {
 
     contentItem: Item {
         Symbol {
+            anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
             name: fact.symbol
             color: fact.symbolColor
         }
         Words {
-            x: 26
+            anchors.left: parent.left
+            anchors.leftMargin: 26
             width: Math.max(40, parent.width - side.width - 34)
             anchors.verticalCenter: parent.verticalCenter
             text: fact.title

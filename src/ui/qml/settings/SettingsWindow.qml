@@ -12,6 +12,8 @@ Window {
     signal quitWanted()
 
     title: qsTr("Settings")
+    LayoutMirroring.enabled: Theme.mirrored
+    LayoutMirroring.childrenInherit: true
     width: 760
     height: 540
     minimumWidth: 640
@@ -68,7 +70,8 @@ Window {
                         Keys.onDownPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
                         contentItem: Item {
                             Symbol {
-                                x: 10
+                                anchors.left: parent.left
+                                anchors.leftMargin: 10
                                 anchors.verticalCenter: parent.verticalCenter
                                 name: tab.modelData.symbol
                                 size: 18
@@ -76,7 +79,8 @@ Window {
                             }
                             Words {
                                 id: label
-                                x: 38
+                                anchors.left: parent.left
+                                anchors.leftMargin: 38
                                 width: parent.width - 44
                                 anchors.verticalCenter: parent.verticalCenter
                                 text: tab.text
