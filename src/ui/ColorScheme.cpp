@@ -43,6 +43,7 @@ bool drawsFlags()
 
 ColorScheme::ColorScheme(QObject *parent) : QObject(parent)
 {
+    QObject::connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, &ColorScheme::changed);
     readPalette();
     qApp->installEventFilter(this);
     if (!QDBusConnection::sessionBus().isConnected())
@@ -53,6 +54,8 @@ ColorScheme::ColorScheme(QObject *parent) : QObject(parent)
     askPortal(QStringLiteral("org.freedesktop.appearance"), colorScheme);
     askPortal(QStringLiteral("org.gnome.desktop.interface"), animations);
 }
+
+bool ColorScheme::mirrored() { return QGuiApplication::isRightToLeft(); }
 
 bool ColorScheme::flagsDrawn() const
 {

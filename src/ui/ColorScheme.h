@@ -9,7 +9,7 @@
 
 namespace veldmark {
 
-// What the system prefers: dark or light, motion or less of it. Comes from the desktop portal where
+// What the system prefers: dark or light, motion or less of it; and the direction of the user's language. Comes from the desktop portal where
 // one answers, else from the palette; follows changes of both. One per QML engine.
 class ColorScheme : public QObject {
     Q_OBJECT
@@ -17,6 +17,7 @@ class ColorScheme : public QObject {
     QML_SINGLETON
     Q_PROPERTY(bool dark READ dark NOTIFY changed)
     Q_PROPERTY(bool reducedMotion READ reducedMotion NOTIFY changed)
+    Q_PROPERTY(bool mirrored READ mirrored NOTIFY changed)
     Q_PROPERTY(bool flagsDrawn READ flagsDrawn CONSTANT)
 
 public:
@@ -24,6 +25,8 @@ public:
 
     bool dark() const { return m_dark; }
     bool reducedMotion() const { return m_reducedMotion; }
+    // Windows are laid out from the right.
+    static bool mirrored();
     // Whether the fonts here have pictures for the flags of countries. Looked up when first asked: it
     // loads a large font, which the first window should not wait for.
     bool flagsDrawn() const;

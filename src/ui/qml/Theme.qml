@@ -6,7 +6,7 @@ import Veldmark
 // against each ground that it stands on, every symbol and control edge 3:1; a test computes it.
 QtObject {
     readonly property bool dark: ColorScheme.dark
-    readonly property bool mirrored: Qt.application.layoutDirection === Qt.RightToLeft
+    readonly property bool mirrored: ColorScheme.mirrored
     readonly property int quick: ColorScheme.reducedMotion ? 0 : 160 // milliseconds
 
     readonly property color ground: dark ? "#15151b" : "#f4f4f8"
