@@ -23,13 +23,18 @@ void Alerts::look()
     const Phase before = std::exchange(m_phase, now.phase);
     // What the user asks for goes by way of `disconnecting`. Tor may die after somebody else has
     // restored the network; then nothing is left over.
+    // Where another process's session has come, what the banner says is about something else.
+    const bool isReplaced = now.phase == Phase::stale && !now.hasTorStopped;
     if (before == Phase::connected && (now.phase == Phase::stale || now.phase == Phase::disconnected))
-        tell(now.isAnothers ? tr("Another session has replaced this one") : tr("Tor stopped running"),
-             now.errorMessage.value_or(now.statusDetail).translated());
+        tell(isReplaced ? tr("Another session has replaced this one") : tr("Tor stopped running"),
+             (now.isAnothers ? now.statusDetail : now.errorMessage.value_or(now.statusDetail)).translated());
     if (!now.killSwitch || now.killSwitch->blocks())
         m_wasWatched = now.killSwitch.has_value();
     if (const auto danger = now.verdict().danger; std::exchange(m_danger, danger) != danger)
         tellDanger(danger);
+    const bool isExposed = now.phase == Phase::connected && now.activeMode == RoutingMode::strict && now.isExposed();
+    if (!std::exchange(m_wasExposed, isExposed) && isExposed && m_danger == Verdict::Danger::dnsLeak)
+        tellDanger(Verdict::Danger::exposed); // the look-ups alone would be half of what is known
     tellPutBack(std::exchange(m_killSwitch, now.killSwitch));
 }
 

@@ -29,6 +29,7 @@ private:
     Phase m_phase;
     Verdict::Danger m_danger = Verdict::Danger::none;
     std::optional<KillSwitch> m_killSwitch;
+    bool m_wasExposed = false;
     bool m_wasWatched = false; // the rules were seen standing, and nobody was told of the contrary since
     QDateTime m_putBackTold; // when the rules were put back as told last
 };

@@ -73,6 +73,7 @@ void ControllerSession::read()
     next.statusDetail = c.statusDetail();
     next.bootstrapProblem = next.phase == Phase::connecting ? c.bootstrapProblem() : c.problemBehindError();
     next.isAnothers = c.otherSession().has_value();
+    next.hasTorStopped = c.hasTorStopped();
     next.canCancel = c.canCancel();
     next.errorMessage = c.errorMessage();
     if (!next.errorMessage && !c.settingsProblems().isEmpty())

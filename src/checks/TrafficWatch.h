@@ -33,8 +33,6 @@ public:
     // Absent while something gets through, or too little is known. Takes back what it said as soon as Tor has read a relay's
     // smallest message and has a circuit.
     std::optional<Stall> take(const Look &look);
-    // Another session: nothing is known.
-    void reset() { *this = {}; }
 
     static QString name(Stall stall); // "noNetwork" …
 

@@ -57,8 +57,8 @@ QCoro::Task<void> RunCommand::begin()
         finish(ExitStatus::failed);
     } else if (m_controller.phase() == ConnectionPhase::disconnected) {
         m_lines.say(Text::tr("Ready. Connect with: veldmarkctl connect"));
-    } else if (m_controller.phase() == ConnectionPhase::stale && !m_connectNow) {
-        m_lines.showPhase();
+    } else if (m_controller.phase() == ConnectionPhase::stale) {
+        m_lines.showPhase(); // a connect that was refused says why in the banner alone
     }
 }
 

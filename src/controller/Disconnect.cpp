@@ -45,6 +45,7 @@ QCoro::Task<Result<void, Text>> TorController::disconnect()
     // What a failure goes back to: only a session that was up is still up when the helper was
     // refused. A half-made connection and a left-over one are judged by the marker.
     const bool sessionWasUp = phase() == ConnectionPhase::connected;
+    const auto stalled = stall();
     if (sessionWasUp)
         errorMessage = std::nullopt;
     canCancel = false;
@@ -85,6 +86,7 @@ QCoro::Task<Result<void, Text>> TorController::disconnect()
         co_return Failure(reason);
     }
     statusDetail = connectedDetail();
+    stall = stalled; // until the next look
     phase = ConnectionPhase::connected;
     if (!self || !isCurrent(attempt) || phase() != ConnectionPhase::connected)
         co_return Failure(reason);

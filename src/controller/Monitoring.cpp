@@ -49,7 +49,6 @@ std::optional<Text> TorController::failure() const
 
 void TorController::startMonitoring()
 {
-    m_network.traffic.reset();
     monitor(++m_monitor);
 }
 
@@ -72,8 +71,10 @@ void TorController::lookAtTraffic(std::optional<bool> hasCircuit)
                                     .isInVPN = activeMode() == RoutingMode::strict && route && route->isVPN});
     if (!wasStalled && stall())
         forgetExit(); // what was verified may be another one when traffic flows again
-    else if (wasStalled && !stall())
+    if (wasStalled && !stall()) {
+        forgetExit(); // checks that are under way have asked while nothing got through
         runChecks();
+    }
 }
 
 QCoro::Task<void> TorController::monitor(quint64 run)

@@ -204,8 +204,10 @@ public:
     // What goes behind the banner: what kept Tor from connecting, where the banner says that it didn't.
     std::optional<Text> problemBehindError() const
     {
-        return errorMessage() == m_bootstrapFailure ? bootstrapProblem() : std::nullopt;
+        return errorMessage() && errorMessage() == m_bootstrapFailure ? bootstrapProblem() : std::nullopt;
     }
+    // Whether the session that a stale phase shows is this object's, and its Tor has ended.
+    bool hasTorStopped() const { return m_torStopped; }
     // The user has read the banner.
     void dismissError() { errorMessage = std::nullopt; }
     // Shows what went wrong outside the controller as the banner.

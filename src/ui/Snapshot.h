@@ -58,6 +58,7 @@ struct Snapshot {
     Text statusDetail = Text::tr("Your traffic is not going through Tor");
     std::optional<Text> bootstrapProblem; // what keeps Tor from connecting
     bool isAnothers = false; // the session is another process's
+    bool hasTorStopped = false; // Tor has ended under the session that a stale phase shows
     bool canCancel = false;
     std::optional<Text> errorMessage;
     quint64 bytesRead = 0; // since Tor started
@@ -91,14 +92,16 @@ struct Snapshot {
     bool isExamining = false;       // it is being looked at
     std::optional<bool> openAtLogin; // absent: this build cannot change it
 
+    bool isExposed() const
+    {
+        return leak.kind == Leak::Kind::exposed || (leak.kind == Leak::Kind::checking && !leak.address.isEmpty());
+    }
     Verdict verdict() const
     {
-        const bool isExposed = leak.kind == Leak::Kind::exposed
-            || (leak.kind == Leak::Kind::checking && !leak.address.isEmpty());
         return Verdict::of({.phase = phase,
                             .mode = activeMode,
                             .killSwitch = killSwitch ? std::optional(killSwitch->state) : std::nullopt,
-                            .isExposed = isExposed,
+                            .isExposed = isExposed(),
                             .isDNSLeaking = dns.isLeak(),
                             .torVerified = torVerified,
                             .detail = statusDetail,

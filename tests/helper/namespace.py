@@ -1,7 +1,7 @@
 """A private machine for tests of the root helper.
 
-Machine is a set of namespaces (network, mounts, processes) in which the helper may do whatever it does: /etc and
-/usr/local are overlays, /run, /var/lib and /home are empty and in memory, its control groups are its own, and Tor has `DisableNetwork 1` from
+Machine is a set of namespaces (network, mounts, processes) in which the helper may do whatever it does: /etc,
+/usr/local, /opt and /media are overlays, /run, /var/lib and /home are empty and in memory, its control groups are its own, and Tor has `DisableNetwork 1` from
 /etc/tor/torrc-defaults, and no list of countries, whose 25 MB take it nine tenths of its start. There is no network device but the loopback one, unless a Peer is attached. Nothing of it
 is visible outside, and everything goes when the process that made it ends.
 
@@ -38,7 +38,8 @@ set -eu
 mount -t proc proc /proc
 ip link set lo up
 mount -t tmpfs -o mode=755 private /mnt
-for place in etc usr/local; do
+for place in etc usr/local opt media; do
+  [ -d "/$place" ] || continue
   name=$(echo "$place" | tr / -)
   mkdir -p "/mnt/$name/upper" "/mnt/$name/work"
   mount -t overlay -o "lowerdir=/$place,upperdir=/mnt/$name/upper,workdir=/mnt/$name/work" private "/$place"

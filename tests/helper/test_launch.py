@@ -133,6 +133,17 @@ json.dump(held, open("/home/alice/descriptors", "w"))
         held = json.loads(self.machine.shell("cat /home/alice/descriptors; rm -r /home/alice/descriptors /usr/local/stand-in"))
         self.assertEqual(set(held), {"0", "1", "2"}, held)
 
+    def test_nothing_is_started_as_root(self):
+        """The launcher refuses it as well; here one stands in that doesn't."""
+        self.machine.shell("mkdir /usr/local/stand-in; cp /usr/local/bin/veldmark-helper.sh /usr/local/stand-in;"
+                           "printf '#!/bin/sh\\nid -u >>/run/started\\n' >/usr/local/stand-in/veldmark-launch; chmod 755 /usr/local/stand-in/*;"
+                           "touch /run/started; chmod 666 /run/started")
+        self.connect()
+        stand_in = "/usr/local/stand-in/veldmark-helper.sh"
+        self.launch("/usr/local/bin/probe", helper=stand_in)
+        self.assertOneLine(self.launch("/usr/local/bin/probe", uid=0, caller="A=1", helper=stand_in, check=False), "not opened as root")
+        self.assertEqual(self.machine.shell("cat /run/started; rm -r /run/started /usr/local/stand-in"), f"{USER_UID}\n")
+
     def test_refused(self):
         self.connect()
         cases = {

@@ -1,9 +1,14 @@
 #include "StandInSession.h"
 #include "app/Alerts.h"
+#include "app/ControllerSession.h"
 #include "support/TestProgram.h"
+#include "support/Workbench.h"
 
+#include <QFile>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <cstdio>
 
 using namespace veldmark;
 
@@ -24,6 +29,7 @@ class AlertsTest : public QObject {
         s.activeMode = RoutingMode::strict;
         if (phase != Phase::disconnected)
             s.killSwitch = rules(KillSwitch::State::standing);
+        s.hasTorStopped = phase == Phase::stale;
         return s;
     }
 
@@ -36,6 +42,7 @@ private Q_SLOTS:
         session.show(inPhase(Phase::connected));
         session.show(inPhase(Phase::stale));
         QCOMPARE(told.count(), 1);
+        QCOMPARE(told.at(0).at(0).toString(), QStringLiteral("Tor stopped running"));
         session.show(inPhase(Phase::stale));
         QCOMPARE(told.count(), 1);
     }
@@ -48,11 +55,47 @@ private Q_SLOTS:
         session.show(inPhase(Phase::connected));
         Snapshot replaced = inPhase(Phase::stale);
         replaced.isAnothers = true;
+        replaced.hasTorStopped = false;
+        replaced.errorMessage = QStringLiteral("The settings file couldn't be read."); // of something else
         replaced.statusDetail = QStringLiteral("Your network is set up for Tor by bob, whose Veldmark is process 7");
         session.show(replaced);
         QCOMPARE(told.count(), 1);
         QCOMPARE(told.at(0).at(0).toString(), QStringLiteral("Another session has replaced this one"));
         QCOMPARE(told.at(0).at(1).toString(), replaced.statusDetail);
+    }
+
+    // Nobody is the owner of one that was begun by hand.
+    void aSessionBegunByHandInPlaceOfThisOneIsNotCalledTorsEnd()
+    {
+        Workbench bench;
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        Alerts alerts(session);
+        QSignalSpy told(&alerts, &Alerts::told);
+        QVERIFY(bench.connect());
+        QVERIFY(until([&] { return session.now().phase == Phase::connected && !session.now().isChecking; }));
+        const QString marker = bench.profile.sessionMarker;
+        bench.writeFile(marker + QStringLiteral(".new"), "strict\n");
+        QVERIFY(std::rename(QFile::encodeName(marker + QStringLiteral(".new")).constData(), QFile::encodeName(marker).constData()) == 0);
+        bench.clock.advance(std::chrono::seconds(1));
+        QVERIFY(until([&] { return session.now().phase == Phase::stale; }));
+        QCOMPARE(told.count(), 1);
+        QCOMPARE(told.at(0).at(0).toString(), QStringLiteral("Another session has replaced this one"));
+    }
+
+    void norIsTorsEndCalledAnotherSession()
+    {
+        Workbench bench;
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        Alerts alerts(session);
+        QSignalSpy told(&alerts, &Alerts::told);
+        QVERIFY(bench.connect());
+        QVERIFY(bench.tick());
+        bench.tor.stopListening();
+        for (int tick = 0; tick < 3; ++tick)
+            QVERIFY(bench.tick());
+        QVERIFY(until([&] { return session.now().phase == Phase::stale; }));
+        QCOMPARE(told.count(), 1);
+        QCOMPARE(told.at(0).at(0).toString(), QStringLiteral("Tor stopped running"));
     }
 
     void tellsWhenTorDiesAndSomebodyElseHasRestored()
@@ -192,10 +235,23 @@ private Q_SLOTS:
         QCOMPARE(told.count(), 2);
         s.leak = {};
         session.show(s);
+        // What begins behind another danger is news as well, once.
+        s.dns = DNSStatus::leak({QStringLiteral("192.168.1.1")});
+        session.show(s);
+        QCOMPARE(told.count(), 3);
+        s.leak = {Leak::Kind::exposed, QStringLiteral("198.51.100.1")};
+        session.show(s);
+        session.show(s);
+        QCOMPARE(told.count(), 4);
+        QCOMPARE(told.at(3).at(0).toString(), QStringLiteral("Traffic can leave around Tor"));
+        s.dns = {};
+        s.leak = {};
+        session.show(s);
+        QCOMPARE(told.count(), 4);
         s.activeMode = RoutingMode::proxy; // where it is known, and told, that apps can go direct
         s.leak = {Leak::Kind::exposed, QStringLiteral("198.51.100.1")};
         session.show(s);
-        QCOMPARE(told.count(), 2);
+        QCOMPARE(told.count(), 4);
     }
 };
 

@@ -351,6 +351,25 @@ private Q_SLOTS:
         QVERIFY(!session.now().bootstrapProblem);
     }
 
+    // An attempt that was ended before it failed has no banner to which that would belong.
+    void whatWasInTorsWayIsNoPartOfWhatIsWrongWithTheSettings()
+    {
+        Workbench bench;
+        bench.writeFile(bench.profile.settingsFile, QByteArray("\0\xff=", 3));
+        bench.restart();
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        bench.setBootstrap("PROGRESS=1 WARNING=\"Connection refused\"");
+        const auto connecting = bench.controller().connect();
+        QVERIFY(until([&] { return bench.controller().bootstrapProblem() && bench.clock.sleepers() == 2; }));
+        bench.cancelPrompt(u"disconnect"_s);
+        bench.disconnect();
+        bench.clock.advance(std::chrono::seconds(1));
+        QVERIFY(Workbench::finished(connecting));
+        QVERIFY(until([&] { return session.now().phase == Phase::stale; }));
+        QVERIFY(session.now().errorMessage && !bench.controller().settingsProblems().isEmpty());
+        QVERIFY(!session.now().bootstrapProblem);
+    }
+
     void everyFieldThatChangesIsShown()
     {
         Workbench bench;

@@ -73,6 +73,7 @@ private Q_SLOTS:
         const ProgramTree tree;
         const QString seen = tree.path(QStringLiteral("seen"));
         const QString program = tree.program(QStringLiteral("lyrebird"), script(
+            "env >" + tree.path(QStringLiteral("environment")).toUtf8() + "\n"
             "echo \"$TOR_PT_MANAGED_TRANSPORT_VER $TOR_PT_CLIENT_TRANSPORTS $TOR_PT_EXIT_ON_STDIN_CLOSE\" >" + seen.toUtf8() + "\n"
             "[ -d \"$TOR_PT_STATE_LOCATION\" ] && touch \"$TOR_PT_STATE_LOCATION/x\" && echo \"$TOR_PT_STATE_LOCATION\" >>" + seen.toUtf8() + "\n"
             "echo VERSION 1; echo CMETHOD snowflake socks5 127.0.0.1:1\n"
@@ -81,6 +82,9 @@ private Q_SLOTS:
         const QList<QByteArray> lines = tree.content(QStringLiteral("seen")).split('\n');
         QCOMPARE(lines.value(0), QByteArray("1 snowflake,obfs4 1"));
         QVERIFY(lines.value(1).startsWith('/'));
+        const QList<QByteArray> environment = tree.content(QStringLiteral("environment")).split('\n');
+        QVERIFY(environment.contains("PATH=/usr/bin:/bin"));
+        QVERIFY(environment.contains("HOME=" + lines.value(1)));
         QVERIFY2(!QFile::exists(QString::fromUtf8(lines.value(1))), "the state folder is left behind");
     }
 

@@ -100,15 +100,6 @@ private Q_SLOTS:
         for (int second = 0; second < 20; second += 2)
             QVERIFY(!watch.take({.at = at(std::chrono::seconds(second)), .read = 1000 * qint64(second), .written = 1, .hasRoute = false}));
     }
-
-    void anotherSessionBeginsWithoutKnowledge()
-    {
-        TrafficWatch watch;
-        watch.take({.at = at(0s), .read = 5000, .written = 1000});
-        watch.take({.at = at(2s), .read = 5000, .written = 2000, .hasCircuit = false});
-        watch.reset();
-        QVERIFY(!watch.take({.at = at(20s), .read = 5000, .written = 3000, .hasCircuit = false}));
-    }
 };
 
 VELDMARK_TEST(TrafficWatchTest)

@@ -51,6 +51,21 @@ private Q_SLOTS:
         QCOMPARE(computer.verbs().constLast(), u"connect"_s);
     }
 
+    // The phase stays the same, and what was shown of it was shown while the helper was renewed.
+    void saysWhyItDoesNotConnectOverWhatWasLeft()
+    {
+        Computer computer;
+        computer.installOldHelper();
+        computer.writeMarker();
+        Computer::write(computer.profile.settingsFile, "[General]\ncustomTorPath=bin/tor\n");
+        const Output output;
+        RunCommand run(computer.profile, true);
+        run.start();
+        QVERIFY2(until([&] { return output.text().contains(u"\n  Problem "_s); }), qPrintable(output.text()));
+        QCOMPARE(computer.verbs(), QStringList({u"install-privileged"_s}));
+        QCOMPARE(output.text().count(u"\n  Problem "_s), 1);
+    }
+
     void tellsOfADamagedSettingsFile()
     {
         Computer computer;

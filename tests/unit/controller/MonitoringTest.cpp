@@ -17,6 +17,8 @@ class MonitoringTest : public QObject {
             bench.tor.reply(command, "250 OK\r\n");
     }
 
+    static QCoro::Task<void> waitFor(ResumeOnce<bool> gate) { co_await gate; }
+
 private Q_SLOTS:
     void readsTheCountersEveryTwoSeconds()
     {
@@ -108,6 +110,9 @@ private Q_SLOTS:
         QVERIFY(bench.controller().stall() == stall);
         bench.disconnect();
         QVERIFY(!bench.controller().stall());
+        QVERIFY(bench.connect());
+        QVERIFY(bench.tick());
+        QVERIFY(!bench.controller().stall()); // another session begins without knowledge
     }
 
     void torBeginsAnewWhenTheAddressHasChanged()
@@ -434,6 +439,58 @@ private Q_SLOTS:
         QVERIFY(bench.tick());
         QCOMPARE(bench.commandCount("SETCONF DisableNetwork=0"), 2);
         QVERIFY(bench.controller().errorMessage().value_or(QString()).english().contains(u"hasn't confirmed that it is on the network"_s));
+    }
+
+    // Nothing got through before the prompt, and nothing does after it.
+    void aRefusedDisconnectDoesNotForgetThatNothingGetsThrough()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        QVERIFY(bench.tick());
+        bench.hasCircuit = false;
+        bench.setCounters("1000", "200");
+        for (int tick = 0; tick < 6; ++tick)
+            QVERIFY(bench.tick());
+        QVERIFY(c.stall() == TrafficWatch::Stall::noCircuit);
+        bench.cancelPrompt(u"disconnect"_s);
+        bench.disconnect();
+        QVERIFY(c.phase() == Phase::connected);
+        QVERIFY(c.stall() == TrafficWatch::Stall::noCircuit);
+        QVERIFY(bench.tick());
+        QVERIFY(c.stall() == TrafficWatch::Stall::noCircuit);
+        bench.hasCircuit = true;
+        bench.setCounters("9000", "200");
+        QVERIFY(bench.tick());
+        QVERIFY(!c.stall());
+    }
+
+    // They have asked while nothing got through, and nobody has answered.
+    void checksUnderWayWhenTrafficFlowsAgainAskOnceMore()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        QVERIFY(until([&] { return !c.isChecking(); }));
+        QVERIFY(bench.tick());
+        bench.route = std::nullopt;
+        QVERIFY(bench.tick());
+        QVERIFY(bench.tick());
+        QVERIFY(c.stall().has_value());
+        const ResumeOnce<bool> answer;
+        bench.probe.torAnswer = ScriptedProbe::nothing();
+        bench.probe.beforeDirectAnswer = [answer]() -> QCoro::Task<void> { return waitFor(answer); };
+        const auto checking = c.runChecks();
+        QVERIFY(c.isChecking());
+        bench.probe.torAnswer = IPCheck{true, u"203.0.113.9"_s};
+        bench.route = NetworkRoute{u"eth0"_s, false};
+        QVERIFY(bench.tick());
+        QVERIFY(!c.stall() && c.isChecking());
+        answer.complete(true);
+        QVERIFY(Workbench::finished(checking));
+        QVERIFY(until([&] { return !c.isChecking(); }));
+        QVERIFY(c.torVerified() == true);
+        QCOMPARE(c.exitIP().value_or(QString()), u"203.0.113.9"_s);
     }
 
     void whatHappensAtARefusedPromptIsNotMissed_data()
