@@ -186,17 +186,55 @@ class Identities(HelperTest):
         self.until(lambda: self.known() == 0)
         self.mapped("app-after-1.scope")
 
+    def test_what_many_users_have_is_told_to_the_firewall_once(self):
+        """The kernel tells of each change, also to who has made it, and keeps so much of that and no more."""
+        users = range(5000, 5012)
+        made = [f"user.slice/user-{user}.slice/user@{user}.service/app.slice/app-prog{number}-1.scope" for user in users for number in range(1000)]
+        self.machine.run("/usr/bin/python3", "-c", "import os, sys\nfor n in sys.stdin.read().split(): os.makedirs('/sys/fs/cgroup/' + n)", stdin="\n".join(made))
+
+        def knows_all():
+            return sum(line.count(" : 0x") for line in self.machine.shell(listed).splitlines()) == len(made)
+        # names would take minutes
+        listed = f"unshare --mount sh -c 'mount -t tmpfs none /sys/fs/cgroup; exec nft list map inet {TABLE} applications' || true"
+        try:
+            self.connect()
+            self.until(knows_all)
+            self.machine.run("nft", "flush ruleset")
+            self.until(knows_all)
+            time.sleep(0.3)   # it tells of what it has done within 0.1 s
+            handle = "nft -a list tables; head -1 " + STATE
+            told = self.machine.shell(handle)
+            time.sleep(1)
+            self.assertEqual(self.machine.shell(handle), told)
+        finally:
+            self.machine.help("disconnect")
+            self.machine.shell("cd /sys/fs/cgroup/user.slice; find user-50??.slice -depth -type d -exec rmdir {} +")
+
     # ---- What it may ----
 
     def test_it_has_one_right_of_roots(self):
         self.connect()
         status = dict(line.split(":\t", 1) for line in self.machine.shell(f"cat /proc/{self.pid()}/status").splitlines() if ":\t" in line)
-        self.assertEqual(set(status["Uid"].split() + status["Gid"].split()), {"65534"})
+        self.assertEqual(set(status["Uid"].split() + status["Gid"].split()), {"65533"})
         self.assertEqual({int(status[key], 16) for key in ("CapInh", "CapPrm", "CapEff", "CapBnd", "CapAmb")}, {1 << 12})
         self.assertEqual((status["NoNewPrivs"], status["Groups"].strip()), ("1", ""))
         links = self.machine.shell(f"ls -l /proc/{self.pid()}/fd | grep -o '>.*'").splitlines()
         self.assertEqual(sorted(re.sub(r"\d+", "N", link) for link in links),
                          sorted(["> /dev/null"] * 2 + [f"> {STATE}", "> anon_inode:inotify"] + ["> socket:[N]"] * 3 + [link for link in map(lambda l: re.sub(r"\d+", "N", l), links) if "pipe" in link or "deleted" in link]))
+
+    def test_what_runs_as_nobody_does_not_stop_it(self):
+        """Other services run so."""
+        self.connect()
+        other = self.machine.start("setpriv", "--reuid=65534", "--regid=65534", "--clear-groups", "sh", "-c", "echo $$; exec sleep 1000", stdout=subprocess.PIPE, text=True)
+        nobodys = other.stdout.readline().strip()
+        try:
+            for pid, refused in (self.pid(), True), (nobodys, False):
+                for words in ["kill", "-STOP", pid], ["prlimit", "--fsize=0:0", "--pid", pid], ["renice", "19", "-p", pid], ["kill", "-KILL", pid]:
+                    self.assertEqual(self.machine.run(*words, uid=65534, check=False).returncode != 0, refused, words)
+        finally:
+            other.kill()
+            other.communicate()
+        self.mapped("app-mail-7.scope")
 
     def test_a_users_program_is_not_run(self):
         self.machine.shell(f"chown {USER_UID} {PLACE}/veldmark-identify")
