@@ -180,8 +180,6 @@ bool FirewallMaps::send(const std::string &messages)
         std::memcpy(&error, body.data(), sizeof error);
         taken = taken && error.error == 0;
     });
-    // What the kernel tells of this very change would fill up what it keeps for us, where changes are many.
-    readNotices();
     return complete && taken;
 }
 
@@ -207,18 +205,13 @@ void FirewallMaps::removeTable()
                            + message(command(NFT_MSG_DELTABLE), 0, NFPROTO_INET, 0, named)));
 }
 
-void FirewallMaps::readNotices()
-{
-    const bool complete = receive(m_notices.number(), [this](const nlmsghdr &head, std::string_view body) {
-        m_lost = m_lost || (takesAway(head.nlmsg_type) && head.nlmsg_pid != m_port && tableOf(body) == m_table);
-    });
-    m_lost = m_lost || !complete;
-}
-
 bool FirewallMaps::takeLoss()
 {
-    readNotices();
-    return std::exchange(m_lost, false);
+    bool lost = false;
+    const bool complete = receive(m_notices.number(), [this, &lost](const nlmsghdr &head, std::string_view body) {
+        lost = lost || (takesAway(head.nlmsg_type) && head.nlmsg_pid != m_port && tableOf(body) == m_table);
+    });
+    return lost || !complete;
 }
 
 } // namespace veldmark

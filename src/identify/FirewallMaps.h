@@ -24,18 +24,14 @@ public:
     [[nodiscard]] int descriptor() const { return m_notices.number(); }
     // Whether anything of the table has been taken away since the last time, by anybody but us.
     [[nodiscard]] bool takeLoss();
-    // The same, as far as it has been read already: then descriptor() may stay silent.
-    [[nodiscard]] bool knowsLoss() const { return m_lost; }
 
 private:
-    void readNotices();
     [[nodiscard]] bool send(const std::string &messages);
 
     std::string m_table;
     Descriptor m_commands;
     Descriptor m_notices;
     std::uint32_t m_port = 0;
-    bool m_lost = false;
 };
 
 } // namespace veldmark

@@ -90,11 +90,11 @@ public:
             return 1;
         for (;;) {
             wait();
+            if (m_maps.takeLoss())
+                m_standing = false;
             takeEvents();
             takeRequests();
             apply();
-            if (m_maps.takeLoss())
-                m_standing = false;
             if (!m_standing && now() >= m_retryAt && !build())
                 m_retryAt = now() + retryMilliseconds;
             tell();
@@ -185,8 +185,6 @@ private:
             until(m_retryAt);
         if (now() < m_requestsAt)
             until(m_requestsAt);
-        if (m_maps.knowsLoss())
-            until(now());
         if (!m_changes.empty())
             until(m_changedAt + leaveMilliseconds);
         std::array<pollfd, 3> waited = {{{m_tree.descriptor(), POLLIN, 0}, {m_maps.descriptor(), POLLIN, 0}, {now() < m_requestsAt ? -1 : m_requests.number(), POLLIN, 0}}};
