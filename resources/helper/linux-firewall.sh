@@ -367,6 +367,7 @@ keep_listing() { write_file "$LISTED" 0600 root "$LISTING"$'\n'; }
 
 # nft_without_groups WORD...: lists without names of control groups. To find the name of one, nft looks at all that there are, and any user may
 # make so many that this takes minutes. In a mount namespace where it sees none, it prints their numbers.
+# shellcheck disable=SC2016,SC2089
 readonly WITHOUT_GROUPS='mount -t tmpfs none /sys/fs/cgroup && exec nft "$@"'
 nft_without_groups() { unshare --mount --propagation private sh -c "$WITHOUT_GROUPS" nft "$@"; }
 
