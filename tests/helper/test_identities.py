@@ -209,6 +209,7 @@ class Identities(HelperTest):
                     self.assertEqual(self.machine.run(*words, uid=65534, check=False).returncode != 0, refused, words)
         finally:
             self.machine.run("kill", "-KILL", nobodys, check=False)
+            other.kill()   # what has entered for it stands still as it did
             other.communicate()
         self.mapped("app-mail-7.scope")
 
