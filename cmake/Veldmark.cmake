@@ -71,6 +71,14 @@ function(veldmark_library room)
     veldmark_precompiled(veldmark_${room} rooms)
 endfunction()
 
+# veldmark_translated(PROGRAM)
+# Puts every translation of resources/translations into the program; base/UsersLanguage.h loads the user's.
+function(veldmark_translated program)
+    file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/resources/translations/*.ts")
+    qt_add_lrelease(${program} TS_FILES ${sources} QM_FILES_OUTPUT_VARIABLE translations)
+    qt_add_resources(${program} i18n PREFIX /i18n BASE "${CMAKE_CURRENT_BINARY_DIR}" FILES ${translations})
+endfunction()
+
 # ./build.sh test gives CTest six places for two processors: three for each. A test that computes keeps a processor busy and takes
 # three (BUSY); a test of the root helper waits about half of its time, for programs and for Tor, and takes two (HALF); a lab, which
 # mostly waits for Tor, takes one. docs/performance.md has the figures.

@@ -27,8 +27,8 @@ JOURNAL_LINES=()
 journal_put() {
   local name=$1 text=''
   shift
-  text=$(printf '%s\n' "$@" end; printf x)
-  write_file "$JOURNAL/$name" 0600 root "${text%x}"
+  printf -v text '%s\n' "$@" end
+  write_file "$JOURNAL/$name" 0600 root "$text"
 }
 
 journal_has() { [[ -f $JOURNAL/$1 && ! -L $JOURNAL/$1 ]]; }

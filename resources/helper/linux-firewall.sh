@@ -36,13 +36,13 @@ print_exempt() {
 # a redirected packet can have come past the output chain on such a way. KEEP is the mode: in strict mode what others
 # redirect stays here as well, unless LAN is 1 and it goes to the local network.
 print_redirect() {
-  cat <<END
+  print_text <<END
 	chain redirect_dns {
 		type nat hook output priority -100; policy accept;
 		$(tors_key "$1") accept
 END
   print_exempt "$2"
-  cat <<END
+  print_text <<END
 		udp dport 53 redirect to :$DNS_PORT
 	}
 	chain off_loopback {
@@ -53,14 +53,14 @@ END
     # A port mapping of somebody else's, from an address of this computer's to one outside: the output chain has seen a packet
     # that stays here, and this is where it shows that it leaves.
     printf '\t\toif "lo" accept\n'
-    [[ $4 != 1 ]] || cat <<END
+    [[ $4 != 1 ]] || print_text <<END
 		meta l4proto { tcp, udp } th dport { 53, 137, 138, 139, 853, 5353, 5355 } drop
 		ip daddr { $LAN4 } accept
 		ip6 daddr { $LAN6 } accept
 END
     printf '\t\tdrop\n'
   fi
-  cat <<END
+  print_text <<END
 	}
 	chain stay_on_loopback {
 		type filter hook postrouting priority 200; policy accept;
@@ -89,7 +89,7 @@ print_side_chains() {
   local users="0, $1" ports="ip saddr 127.0.0.1 tcp sport { $SOCKS_PORT, $CONTROL_PORT }"
   local beside="ip6 saddr ::1 tcp sport { $SOCKS_PORT, $CONTROL_PORT }"
   [[ $2 == 0 ]] || users="$users, $2"
-  cat <<END
+  print_text <<END
 	set tors_own {
 		type ipv4_addr . inet_service . ipv4_addr . inet_service
 		size 4096
@@ -117,7 +117,7 @@ END
   else
     printf '\t\taccept\n'
   fi
-  cat <<END
+  print_text <<END
 	}
 	chain opening {
 		tcp flags & ack == ack goto answering
@@ -148,7 +148,7 @@ END
 	chain refused {
 END
   print_exempt "$3"
-  cat <<END
+  print_text <<END
 		meta l4proto tcp reject with tcp reset
 		reject with icmpx type admin-prohibited
 	}
@@ -162,7 +162,7 @@ print_proxy_rules() {
   print_table_head
   print_redirect "$1" '' proxy 0
   print_side_chains "$1" "$2" ''
-  cat <<END
+  print_text <<END
 	chain output {
 		type filter hook output priority 0; policy accept;
 		oif "lo" goto loopback
@@ -184,7 +184,7 @@ END
 # print_local_chains: the local network but for names, whoever answers them. `th` is the header of the protocol that the
 # rule before has settled.
 print_local_chains() {
-  cat <<END
+  print_text <<END
 	chain local_network {
 		meta l4proto udp goto local_udp
 		tcp dport { 53, 137, 138, 139, 853, 5355 } goto refused
@@ -227,7 +227,7 @@ print_strict_rules() {
   print_redirect "$1" "${7-}" strict "$3"
   print_side_chains "$1" "$2" "${7-}"
   [[ $3 != 1 ]] || print_local_chains
-  cat <<END
+  print_text <<END
 	chain tors_account {
 		ct direction reply goto refused
 END
@@ -239,7 +239,7 @@ END
     [[ -z $6 ]] || printf '\t\tip6 daddr { %s } udp dport 53 accept\n' "$6"
     if [[ $3 != 1 && ${8-} != 1 ]]; then
       # Whoever has taken Tor over gets no further than anybody else. An opening packet is enough to look at.
-      cat <<END
+      print_text <<END
 		tcp flags & syn == 0 accept
 		ip daddr { $LAN4 } goto refused
 		ip6 daddr { $LAN6 } goto refused
@@ -250,7 +250,7 @@ END
   fi
   # Its account is one of the system's: what is for those alone is not for Tor.
   [[ $3 == 1 ]] || printf '\t\tgoto refused\n'
-  cat <<END
+  print_text <<END
 	}
 	chain neighbours {
 		meta skuid 0-4294967294 goto refused
@@ -262,7 +262,7 @@ END
 		$(tors_key "$1") jump tors_account
 END
   [[ $3 != 1 ]] || print_local_matches
-  cat <<END
+  print_text <<END
 		ip daddr 127.0.0.0/8 goto redirected
 		ip6 daddr ::1 goto redirected
 		udp sport 68 udp dport 67 ip daddr { 255.255.255.255, $LAN4 } meta skuid 0-999 accept
@@ -275,14 +275,14 @@ END
 		type filter hook forward priority 0; policy drop;
 END
   if [[ $3 == 1 ]]; then
-    cat <<END
+    print_text <<END
 		udp dport { 53, 137, 138, 853, 5353, 5355 } drop
 		tcp dport { 53, 137, 138, 139, 853, 5355 } drop
 		ip saddr { $LAN4 } ip daddr { $LAN4 } accept
 		ip6 saddr { $LAN6 } ip6 daddr { $LAN6 } accept
 END
   fi
-  cat <<END
+  print_text <<END
 	}
 	chain input {
 		type filter hook input priority 0; policy drop;
@@ -297,7 +297,7 @@ END
 		icmpv6 type { nd-router-advert, nd-neighbor-solicit, nd-neighbor-advert } ip6 hoplimit 255 accept
 END
   if [[ $3 == 1 ]]; then
-    cat <<END
+    print_text <<END
 		ip saddr { $LAN4 } accept
 		ip6 saddr { $LAN6 } accept
 END

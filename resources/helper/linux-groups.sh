@@ -15,13 +15,15 @@ HOME_GROUP='' # the folder of the group that the caller has started us in
 
 # find_tree: sets TREE. The tree's own root must be mounted, so that our groups are of the first level.
 find_tree() {
-  local root point kind rest
+  local text line root point
   TREE=''
-  while read -r rest rest rest root point rest; do
-    kind=${rest#*" - "}
-    [[ ${kind%% *} == cgroup2 && $root == / && $point =~ ^$CGROUPS(/[a-z]+)?$ ]] || continue
-    TREE=$point
-  done </proc/self/mountinfo
+  IFS= read -r -d '' text </proc/self/mountinfo || true
+  while [[ $text == *" - cgroup2 "* ]]; do
+    line=${text%%" - cgroup2 "*}
+    text=${text#*" - cgroup2 "}
+    read -r _ _ _ root point _ <<<"${line##*$'\n'}"
+    [[ $root != / || ! $point =~ ^$CGROUPS(/[a-z]+)?$ ]] || TREE=$point
+  done
   [[ -n $TREE ]]
 }
 

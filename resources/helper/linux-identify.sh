@@ -20,7 +20,7 @@ print_identities() {
     accounts="$accounts, $uid : $mark"
     addresses="$addresses, $mark : 127.64.$((uid >> 8)).$((uid & 255))"
   done
-  cat <<END
+  print_text <<END
 table inet $IDENTITIES {
 	map accounts {
 		type uid : mark
@@ -117,7 +117,7 @@ kill_stray_identifier() {
 }
 
 # identifier_runs: whether the program of the journal is alive.
-identifier_runs() { journal_read "$IDENTIFIER_ENTRY" && recorded_pid >/dev/null; }
+identifier_runs() { journal_read "$IDENTIFIER_ENTRY" && find_recorded; }
 
 undo_identifier() {
   end_recorded || true

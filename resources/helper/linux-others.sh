@@ -10,20 +10,22 @@ readonly ALWAYS='^(counter( packets [0-9]+ bytes [0-9]+)?|oif(name)? != "lo"|ct 
 
 CHAINS=() CHAIN_RULES=()   # "FAMILY TABLE CHAIN", and its rules without a condition, one per line
 
-# read_chains: reads a listing of the rules from standard input.
+# read_chains: reads a listing of the rules from standard input, but for our own table.
 read_chains() {
   local line family='' table='' count=0
   CHAINS=() CHAIN_RULES=()
   while IFS= read -r line; do
     line=${line#"${line%%[!$'\t ']*}"}
-    if [[ $line =~ ^table\ (ip|inet)\ ([A-Za-z0-9_./-]+)\ \{ ]]; then
-      family=${BASH_REMATCH[1]} table=${BASH_REMATCH[2]}
-    elif [[ $line == "table "* ]]; then
-      table=''
-    elif [[ -n $table && $line =~ ^chain\ ([A-Za-z0-9_./-]+)\ \{ ]]; then
+    if [[ $line == "table "* ]]; then
+      table=''   # what follows is passed over, our own as well
+      [[ $line == "table inet $TABLE {"* || ! $line =~ ^table\ (ip|inet)\ ([A-Za-z0-9_./-]+)\ \{ ]] ||
+        family=${BASH_REMATCH[1]} table=${BASH_REMATCH[2]}
+    elif [[ -z $table ]]; then
+      continue
+    elif [[ $line =~ ^chain\ ([A-Za-z0-9_./-]+)\ \{ ]]; then
       CHAINS[count]="$family $table ${BASH_REMATCH[1]}" CHAIN_RULES[count]=''
       count=$((count + 1))
-    elif ((count)) && [[ -n $table ]]; then
+    elif ((count)); then
       while [[ $line =~ $ALWAYS ]]; do line=${BASH_REMATCH[7]}; done
       case $line in
       "type "*" hook output "* | accept | return | drop | reject | "reject with "* | "jump "* | "goto "*)
@@ -59,13 +61,12 @@ judge_chain() {
   JUDGED=${JUDGED:-$policy}
 }
 
-# name_others: prints who denies what goes out, by the listing that was read; our own table is none of them.
+# name_others: prints who denies what goes out, by the listing that was read.
 name_others() {
   local i place chain named=$'\n' name
   for ((i = 0; i < ${#CHAINS[@]}; i++)); do
     [[ ${CHAIN_RULES[i]} == "type "* ]] || continue
     chain=${CHAINS[i]##* } place=${CHAINS[i]% *}
-    [[ $place != "inet $TABLE" ]] || continue
     judge_chain "$place" "$chain" 0
     [[ $JUDGED == deny ]] || continue
     name="table $place"

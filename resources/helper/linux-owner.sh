@@ -31,7 +31,8 @@ note_owner() {
   local pid text="uid $CALLER_UID"
   pid=$(asking_process)
   if [[ -n $pid ]] && start_time "$pid"; then
-    text="$text"$'\n'"pid $pid"$'\n'"start $START_TIME"$'\n'"boot $(boot_id)"
+    read_boot
+    text="$text"$'\n'"pid $pid"$'\n'"start $START_TIME"$'\n'"boot $BOOT"
   fi
   write_file "$OWNER" 0644 root "$text"$'\nend\n' || die "The file $OWNER cannot be written."
 }
@@ -40,7 +41,8 @@ note_owner() {
 OWNER_UID='' OWNER_PID=''
 live_owner() {
   OWNER_UID='' OWNER_PID=''
-  [[ -f $MARKER && -f $OWNER && ! -L $OWNER ]] && read_lines "$OWNER" && OWNER_PID=$(recorded_pid) || return 1
+  [[ -f $MARKER && -f $OWNER && ! -L $OWNER ]] && read_lines "$OWNER" && find_recorded || return 1
+  OWNER_PID=$RECORDED_PID
   OWNER_UID=$(journal_value uid) && is_uid "$OWNER_UID"
 }
 

@@ -17,7 +17,7 @@ readonly MAX_SETTING=65536    # bytes; a longer one could not be handed back in 
 print_gnome_values() {
   local lan=''
   [[ $1 != 1 ]] || lan=", '10.0.0.0/8', '172.16.0.0/12', '192.168.0.0/16', '169.254.0.0/16', 'fe80::/10', 'fc00::/7'"
-  cat <<END
+  print_text <<END
 org.gnome.system.proxy mode 'manual'
 org.gnome.system.proxy ignore-hosts ['localhost', '127.0.0.0/8', '::1'$lan]
 org.gnome.system.proxy.http host ''
@@ -32,7 +32,7 @@ END
 print_kde_values() {
   local lan=''
   [[ $1 != 1 ]] || lan=",10.0.0.0/8,172.16.0.0/12,192.168.0.0/16,169.254.0.0/16,fe80::/10,fc00::/7"
-  cat <<END
+  print_text <<END
 ProxyType=1
 socksProxy=socks://127.0.0.1 $SOCKS_PORT
 httpProxy=

@@ -19,14 +19,22 @@ print_resolver() {
   printf 'options timeout:10 attempts:2\n'
 }
 
-# our_mounts: prints the mount points of our resolver file, one per line, the latest last.
-our_mounts() {
-  local root point rest
+# find_mounts: sets OUR_MOUNTS to the mount points of our resolver file, one per line, the latest last. Most computers have many
+# mounts and none of ours.
+OUR_MOUNTS=''
+find_mounts() {
+  local text root point rest
+  OUR_MOUNTS=''
+  IFS= read -r -d '' text </proc/self/mountinfo || true
+  [[ $text == */veldmark-resolv.conf* ]] || return 0
   while read -r rest rest rest root point rest; do
     case $root in
-    */veldmark-resolv.conf | */veldmark-resolv.conf//deleted) printf '%b\n' "$point" ;;
+    */veldmark-resolv.conf | */veldmark-resolv.conf//deleted)
+      printf -v point '%b' "$point"
+      OUR_MOUNTS=${OUR_MOUNTS:+$OUR_MOUNTS$'\n'}$point
+      ;;
     esac
-  done </proc/self/mountinfo
+  done <<<"$text"
 }
 
 # list_servers 4|6 TEXT: the name servers of a resolver file that are not this computer, joined by ", ".
@@ -62,7 +70,8 @@ read_resolver() {
   file=${file%$'\n'x}
   [[ ! -e $file || -f $file ]] && [[ -d ${file%/*}/ ]] || return 0
   RESOLVER_TARGET=$file
-  if [[ -n $(our_mounts) ]]; then
+  find_mounts
+  if [[ -n $OUR_MOUNTS ]]; then
     # shellcheck disable=SC2016
     FORMER_RESOLVER=$(unshare --mount --propagation private /bin/bash -p -c \
       'umount -l -- "$1" && head -c 65536 -- "$1"' umount "$file" | tr -d '\0') || true
@@ -79,12 +88,12 @@ read_resolver() {
 
 # put_resolver: mounts our file, unless it is in place.
 put_resolver() {
-  local text ipv6=0 mounted
+  local text ipv6=0
   [[ -n $RESOLVER_TARGET ]] || return 0
   ! has_ipv6_loopback || ipv6=1
   text=$(print_resolver "$ipv6")
-  mounted=$(our_mounts)
-  if [[ $RESOLVER_TARGET -ef $OUR_RESOLVER && $mounted == "$RESOLVER_TARGET" ]] &&
+  find_mounts
+  if [[ $RESOLVER_TARGET -ef $OUR_RESOLVER && $OUR_MOUNTS == "$RESOLVER_TARGET" ]] &&
     [[ $(<"$OUR_RESOLVER") == "$text" ]]; then
     return
   fi
@@ -110,10 +119,12 @@ put_resolver() {
 unmount_resolver() {
   local point
   for _ in 1 2 3; do
+    find_mounts
     while IFS= read -r point; do
       [[ -z $point ]] || umount -l -- "$point" 2>/dev/null || true
-    done <<<"$(our_mounts)"
-    [[ -n $(our_mounts) ]] || return 0
+    done <<<"$OUR_MOUNTS"
+    find_mounts
+    [[ -n $OUR_MOUNTS ]] || return 0
   done
   UNDONE="The DNS settings could not be put back."
   return 1

@@ -141,7 +141,7 @@ as_account() {
   [[ $uid != "$CALLER_UID" ]] || group=$HOME_GROUP   # a user's own programs are of the user's group
   shift 5
   # shellcheck disable=SC2016
-  timeout -k 1 "$seconds" /bin/bash -p -c 'exec 7>&- 9>&-; [[ -z $0 ]] || printf "0\n" >"$0/cgroup.procs"; exec "$@"' "$group" \
+  timeout -k 1 "$seconds" /bin/sh -c 'exec 7>&- 9>&-; [ -z "$0" ] || printf "0\n" >"$0/cgroup.procs"; exec "$@"' "$group" \
     env -i --default-signal PATH="$PATH" LC_ALL=C HOME="$home" \
     setpriv --reuid "$uid" --regid "$gid" "$groups" --no-new-privs --bounding-set=-all --inh-caps=-all \
     --ambient-caps=-all "$@" 8>&-
@@ -166,17 +166,19 @@ real_path() { readlink -e -- "$1"; }
 # on_own_mount PATH: whether the file system that PATH, root's alone, lies on was mounted for programs of the system. What
 # users may mount (a medium on the desktop, FUSE, fstab's "user") is always without setuid programs.
 on_own_mount() {
-  local file key value id='' mount rest options kind
+  local file key value id='' text options rest kind
   { exec {file}<"$1"; } || return 1
   while read -r key value; do
     [[ $key != mnt_id: ]] || id=$value
   done <"/proc/self/fdinfo/$file"
   exec {file}<&-
-  while read -r mount rest rest rest rest options rest; do
-    kind=${rest#*"- "}
-    [[ $mount != "$id" ]] || { [[ ,$options, != *,nosuid,* && $kind != fuse* ]] && return 0; return 1; }
-  done </proc/self/mountinfo
-  return 1
+  IFS= read -r -d '' text </proc/self/mountinfo || true
+  text=$'\n'$text
+  [[ -n $id && $text == *$'\n'"$id "* ]] || return 1
+  text=${text#*$'\n'"$id "}
+  read -r rest rest rest rest options rest <<<"${text%%$'\n'*}"
+  kind=${rest#*"- "}
+  [[ ,$options, != *,nosuid,* && $kind != fuse* ]]
 }
 
 # print_sum: the SHA-256 of standard input.

@@ -34,8 +34,9 @@ while read -r _ _ _ _ point flags _; do
   case $point in
   "$data" | "$log" | /tmp | /var/tmp | /dev | /dev/* | /proc | /proc/* | /sys | /sys/*) continue ;;
   esac
+  printf -v point "%b" "$point"
   case $flags in
-  rw*) mount -o "remount,bind,ro${flags#rw},nosuid" "$(printf "%b" "$point")" || : ;;
+  rw*) mount -o "remount,bind,ro${flags#rw},nosuid" "$point" || : ;;
   esac
 done <<<"$(</proc/self/mountinfo)"
 exec "$@"
@@ -63,10 +64,15 @@ has_ipv6_loopback() {
   return 1
 }
 
+# boot_id: tells one run of the computer from the next. read_boot sets BOOT to it.
+BOOT=''
+read_boot() {
+  BOOT=unknown
+  read -r BOOT </proc/sys/kernel/random/boot_id || true
+}
 boot_id() {
-  local id=unknown
-  read -r id </proc/sys/kernel/random/boot_id || true
-  printf '%s' "$id"
+  read_boot
+  printf '%s' "$BOOT"
 }
 
 # become_recorded ENTRY: for the background halves that turn into a process which outlives this run. It writes its own journal
@@ -75,7 +81,8 @@ become_recorded() {
   local pid line fd
   IFS= read -r line </proc/self/stat
   pid=${line%% *}
-  { start_time "$pid" && journal_put "$1" "pid $pid" "start $START_TIME" "boot $(boot_id)" 2>/dev/null; } || {
+  read_boot
+  { start_time "$pid" && journal_put "$1" "pid $pid" "start $START_TIME" "boot $BOOT" 2>/dev/null; } || {
     printf 'the journal cannot be written.\n' >&2
     exit 1
   }
@@ -86,13 +93,23 @@ become_recorded() {
   done
 }
 
-# recorded_pid: prints the process id of the entry that was read, if that very process still runs.
-recorded_pid() {
-  local pid start
-  pid=$(journal_value pid) && start=$(journal_value start) || return 1
-  [[ $pid =~ ^[1-9][0-9]{0,9}$ && $start =~ ^[0-9]{1,20}$ && $(journal_value boot) == "$(boot_id)" ]] || return 1
+# find_recorded: sets RECORDED_PID to the process id of the entry that was read; 1 when that very process no longer runs. It is asked
+# again and again while a process ends, so it starts none.
+RECORDED_PID=''
+find_recorded() {
+  local line pid='' start='' boot=''
+  RECORDED_PID=''
+  for line in ${JOURNAL_LINES[@]+"${JOURNAL_LINES[@]}"}; do
+    case $line in
+    "pid "*) pid=${pid:-${line#* }} ;;
+    "start "*) start=${start:-${line#* }} ;;
+    "boot "*) boot=${boot:-${line#* }} ;;
+    esac
+  done
+  read_boot
+  [[ $pid =~ ^[1-9][0-9]{0,9}$ && $start =~ ^[0-9]{1,20}$ && $boot == "$BOOT" ]] || return 1
   start_time "$pid" && [[ $START_TIME == "$start" ]] || return 1
-  printf '%s' "$pid"
+  RECORDED_PID=$pid
 }
 
 launch_tor() {
@@ -173,9 +190,10 @@ kill_stray_tor() {
 # undo_tor: ends the Tor of the entry that was read, if it is that very process and still runs.
 undo_tor() {
   local pid child poll
-  pid=$(recorded_pid) || return 0
+  find_recorded || return 0
+  pid=$RECORDED_PID
   for ((poll = 0; poll < STOP_POLLS; poll++)); do
-    recorded_pid >/dev/null || return 0
+    find_recorded || return 0
     # Tor is the launcher's child. While it sets up it hears nothing, so ask again.
     if ((poll % 5 == 0)); then
       read_children "$pid"
@@ -206,7 +224,7 @@ undo_tor() {
 recorded_lives() {
   local poll
   for ((poll = 0; poll < STOP_POLLS; poll++)); do
-    recorded_pid >/dev/null || return 1
+    find_recorded || return 1
     sleep 0.02
   done
 }

@@ -122,7 +122,7 @@ ports_are_tors() {
     sockets=$(port_sockets)
     [[ -n $sockets && $sockets != "$VOUCHED" ]] || return 0
     CHILDREN='' strange=''
-    ! journal_read "$TOR_ENTRY" || read_children "$(recorded_pid)"
+    ! { journal_read "$TOR_ENTRY" && find_recorded; } || read_children "$RECORDED_PID"
     while IFS= read -r line; do
       for child in $CHILDREN 0; do
         ! has_socket "$child" "${line##* }" || break
@@ -165,10 +165,10 @@ print_watcher() {
   # shellcheck disable=SC2090
   declare -p TABLE RULES LISTED RULES_LOCK MARKER KILL_SWITCH_NOTE WATCH_SECONDS BEAT_SECONDS EXEMPT_NAME RUN_GROUP TOR_GROUP CGROUPS \
     WITHOUT_GROUPS WORD MISSED SINCE NOTED JOURNAL TOR_ENTRY SOCKS_PORT CONTROL_PORT DNS_PORT
-  printf 'STRUGGLES=0 LESSENED= LISTING= TREE= TOR_UID= VOUCHED= CHILDREN= START_TIME= JOURNAL_LINES=()\n'
+  printf 'STRUGGLES=0 LESSENED= LISTING= TREE= TOR_UID= VOUCHED= CHILDREN= START_TIME= BOOT= RECORDED_PID= JOURNAL_LINES=()\n'
   declare -f read_marker put_in_place write_file note_rules hold_rules release_rules keep_listing rules_stand find_tree make_group make_groups nft_without_groups read_listing copy_stands \
     print_unexempt relock monitor monitor_rules beat await_change port_sockets has_socket \
-    journal_has journal_read read_lines journal_value boot_id start_time recorded_pid read_children ports_are_tors watch_rules
+    journal_has journal_read read_lines read_boot start_time find_recorded read_children ports_are_tors watch_rules
   printf 'watch_rules\n'
 }
 
@@ -212,7 +212,8 @@ await_standstill() {
 # end_recorded: kills the process of the entry that was read, which never waits for us, and what it has started.
 end_recorded() {
   local pid child all
-  pid=$(recorded_pid) || return 0
+  find_recorded || return 0
+  pid=$RECORDED_PID
   # A child that it is just starting would be missed; what stands still starts none.
   kill -STOP "$pid" || true
   await_standstill "$pid"
@@ -240,4 +241,4 @@ undo_watcher() {
 }
 
 # watcher_runs: whether the watcher of the journal is alive.
-watcher_runs() { journal_read "$WATCHER_ENTRY" && recorded_pid >/dev/null; }
+watcher_runs() { journal_read "$WATCHER_ENTRY" && find_recorded; }

@@ -6,11 +6,19 @@ ON_FAILURE=''   # "undo" while a failure must put everything back; empty before 
                 # kill switch stays closed
 UNDONE=''       # why an undo_... function failed
 
-# `command -v` also gives a file that nobody may run, when there is no other.
+# in_path NAME: whether there is such a program, which can be run.
+in_path() {
+  local folder IFS=:
+  for folder in $PATH; do
+    [[ ! -f $folder/$1 || ! -x $folder/$1 ]] || return 0
+  done
+  return 1
+}
+
 need_programs() {
-  local program path
+  local program
   for program in "$@"; do
-    { path=$(command -v "$program") && [[ -x $path ]]; } || die "The program $program is missing on this system."
+    in_path "$program" || die "The program $program is missing on this system."
   done
 }
 

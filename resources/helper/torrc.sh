@@ -8,7 +8,7 @@ readonly NOTICES=$RUN/notices.log  # Tor's log
 # print_torrc IPV6_LOOPBACK: from the checked options.
 print_torrc() {
   local bridge
-  cat <<END
+  print_text <<END
 # Written by Veldmark at each connect; changes here are lost.
 DataDirectory $DATA
 Log notice file $NOTICES

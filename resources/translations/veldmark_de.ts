@@ -280,233 +280,6 @@
     </message>
 </context>
 <context>
-    <name>Doctor</name>
-    <message>
-        <source>A session is open, and its kill switch isn&apos;t closed: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
-        <translation>Eine Sitzung ist offen, und ihr Notschalter ist nicht geschlossen: Ihr Wächter konnte die Regeln nicht wiederherstellen. Daten können diesen Computer direkt verlassen. Stellen Sie das Netzwerk wieder her, und verbinden Sie neu.</translation>
-    </message>
-    <message>
-        <source>The clock is behind: it shows %1, but the file %2 was written on %3. Tor needs a clock that is right to within minutes.</source>
-        <translation>Die Uhr geht nach: Sie zeigt %1, aber die Datei %2 wurde am %3 geschrieben. Tor braucht eine Uhr, die auf Minuten genau geht.</translation>
-    </message>
-    <message>
-        <source>The clock is set from the network. It shows %1.</source>
-        <translation>Die Uhr wird über das Netz gestellt. Sie zeigt %1.</translation>
-    </message>
-    <message>
-        <source>Whether the clock is right isn&apos;t known: nothing is seen to set it from the network. It shows %1. Tor needs it right to within minutes.</source>
-        <translation>Ob die Uhr richtig geht, ist nicht bekannt: Nichts ist zu sehen, das sie über das Netz stellt. Sie zeigt %1. Tor braucht sie auf Minuten genau.</translation>
-    </message>
-    <message>
-        <source>nftables isn&apos;t installed. Veldmark&apos;s firewall needs it.</source>
-        <translation>nftables ist nicht installiert. Veldmarks Firewall braucht es.</translation>
-    </message>
-    <message>
-        <source>The system&apos;s firewall, nftables, can be used.</source>
-        <translation>Die Firewall des Systems, nftables, lässt sich benutzen.</translation>
-    </message>
-    <message>
-        <source>The system&apos;s firewall can&apos;t be used: %1</source>
-        <translation>Die Firewall des Systems lässt sich nicht benutzen: %1</translation>
-    </message>
-    <message>
-        <source>The kernel that runs (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
-        <translation>Der laufende Kernel (%1) hat kein nftables. Starten Sie nach einer Aktualisierung des Kernels den Computer neu.</translation>
-    </message>
-    <message>
-        <source>nftables is installed. Whether the kernel that runs can use it is known to root only.</source>
-        <translation>nftables ist installiert. Ob der laufende Kernel es nutzen kann, weiß nur root.</translation>
-    </message>
-    <message>
-        <source>nftables is installed, and the kernel has it.</source>
-        <translation>nftables ist installiert, und der Kernel hat es.</translation>
-    </message>
-    <message>
-        <source>This system has no control groups of version 2, so no application can be opened without Tor, and the kill switch knows Tor by its account alone. Everything else works.</source>
-        <translation>Dieses System hat keine Kontrollgruppen der Version 2, daher lässt sich keine Anwendung ohne Tor öffnen, und der Notschalter erkennt Tor allein an dessen Konto. Alles andere geht.</translation>
-    </message>
-    <message>
-        <source>The kernel (%1) is older than 5.13, so no application can be opened without Tor, and the kill switch knows Tor by its account alone. Everything else works.</source>
-        <translation>Der Kernel (%1) ist älter als 5.13, daher lässt sich keine Anwendung ohne Tor öffnen, und der Notschalter erkennt Tor allein an dessen Konto. Alles andere geht.</translation>
-    </message>
-    <message>
-        <source>Applications can be opened without Tor: control groups of version 2 are there.</source>
-        <translation>Anwendungen lassen sich ohne Tor öffnen: Kontrollgruppen der Version 2 sind da.</translation>
-    </message>
-    <message>
-        <source>No other firewall that is known by name runs. The rules themselves are known to root only.</source>
-        <translation>Keine andere dem Namen nach bekannte Firewall läuft. Die Regeln selbst kennt nur root.</translation>
-    </message>
-    <message>
-        <source>Another firewall on this computer denies what goes out unless one of its rules allows it, so Tor may not get through: %1.</source>
-        <translation>Eine andere Firewall auf diesem Computer verwehrt ausgehende Verbindungen, die keine ihrer Regeln erlaubt; Tor kommt womöglich nicht durch: %1.</translation>
-    </message>
-    <message>
-        <source>Other programs set firewall rules here: %1. Veldmark leaves their rules alone. Rules that drop packets can block Tor.</source>
-        <translation>Andere Programme setzen hier Firewall-Regeln: %1. Veldmark lässt ihre Regeln in Ruhe. Regeln, die Pakete verwerfen, können Tor sperren.</translation>
-    </message>
-    <message>
-        <source>pkexec isn&apos;t installed, so no window can ask for the administrator&apos;s password.</source>
-        <translation>pkexec ist nicht installiert, daher kann kein Fenster nach dem Administratorpasswort fragen.</translation>
-    </message>
-    <message>
-        <source>polkit isn&apos;t installed, so no window can ask for the administrator&apos;s password.</source>
-        <translation>polkit ist nicht installiert, daher kann kein Fenster nach dem Administratorpasswort fragen.</translation>
-    </message>
-    <message>
-        <source>There is no desktop here on which a window could ask for the administrator&apos;s password. Use sudo.</source>
-        <translation>Hier ist keine Arbeitsfläche, auf der ein Fenster nach dem Administratorpasswort fragen könnte. Benutzen Sie sudo.</translation>
-    </message>
-    <message>
-        <source>No program that is known to ask for polkit&apos;s passwords (an agent) runs in your session. Without one, use sudo, or start an agent such as lxpolkit.</source>
-        <translation>In Ihrer Sitzung läuft kein bekanntes Programm, das nach polkits Passwörtern fragt (ein Agent). Benutzen Sie ohne einen solchen sudo oder starten Sie einen Agenten wie lxpolkit.</translation>
-    </message>
-    <message>
-        <source>polkit is there, and a program that asks for its passwords runs in your session.</source>
-        <translation>polkit ist da, und in Ihrer Sitzung läuft ein Programm, das nach seinen Passwörtern fragt.</translation>
-    </message>
-    <message>
-        <source>Veldmark runs as root here and asks for no password.</source>
-        <translation>Veldmark läuft hier als root und fragt nach keinem Passwort.</translation>
-    </message>
-    <message>
-        <source>Connecting without a password is set up.</source>
-        <translation>Das Verbinden ohne Passwort ist eingerichtet.</translation>
-    </message>
-    <message>
-        <source>sudo isn&apos;t installed. Connecting without a password needs it.</source>
-        <translation>sudo ist nicht installiert. Das Verbinden ohne Passwort braucht es.</translation>
-    </message>
-    <message>
-        <source>sudo is installed. Whether you may use it is known to root only.</source>
-        <translation>sudo ist installiert. Ob Sie es benutzen dürfen, weiß nur root.</translation>
-    </message>
-    <message>
-        <source>sudo is installed, and you are in the group %1.</source>
-        <translation>sudo ist installiert, und Sie sind in der Gruppe %1.</translation>
-    </message>
-    <message>
-        <source>The port %1, which Tor needs, is held by a program of the account %2.</source>
-        <translation>Den Port %1, den Tor braucht, belegt ein Programm des Kontos %2.</translation>
-    </message>
-    <message>
-        <source>The system&apos;s own Tor service (%1) runs. Veldmark stops it while it is connected and starts it again afterwards.</source>
-        <translation>Der Tor-Dienst des Systems (%1) läuft. Veldmark hält ihn an, solange es verbunden ist, und startet ihn danach wieder.</translation>
-    </message>
-    <message>
-        <source>The port %1, which Tor needs, is held by %2 (process %3, account %4).</source>
-        <translation>Den Port %1, den Tor braucht, belegt %2 (Prozess %3, Konto %4).</translation>
-    </message>
-    <message>
-        <source>Veldmark&apos;s own Tor holds the ports 9050, 9051 and 293.</source>
-        <translation>Veldmarks eigenes Tor belegt die Ports 9050, 9051 und 293.</translation>
-    </message>
-    <message>
-        <source>The ports that Tor needs (9050, 9051 and 293) are free.</source>
-        <translation>Die Ports, die Tor braucht (9050, 9051 und 293), sind frei.</translation>
-    </message>
-    <message>
-        <source>The location of Tor in the settings, %1, is no program that can run. The usual places are searched instead.</source>
-        <translation>Der Ort von Tor in den Einstellungen, %1, ist kein ausführbares Programm. Stattdessen wird an den üblichen Orten gesucht.</translation>
-    </message>
-    <message>
-        <source>Tor isn&apos;t installed.</source>
-        <translation>Tor ist nicht installiert.</translation>
-    </message>
-    <message>
-        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it doesn&apos;t tell its version.</source>
-        <translation>%1 startet nicht oder ist nicht Tor: Es nennt seine Version nicht.</translation>
-    </message>
-    <message>
-        <source>Tor %1 is installed: %2.</source>
-        <translation>Tor %1 ist installiert: %2.</translation>
-    </message>
-    <message>
-        <source>The program %1 is missing. Veldmark&apos;s helper needs it.</source>
-        <translation>Das Programm %1 fehlt. Veldmarks Helfer braucht es.</translation>
-    </message>
-    <message>
-        <source>Every program that Veldmark&apos;s helper calls is installed.</source>
-        <translation>Alle Programme, die Veldmarks Helfer aufruft, sind installiert.</translation>
-    </message>
-    <message>
-        <source>Veldmark&apos;s helper script is missing. Install Veldmark again.</source>
-        <translation>Veldmarks Helferskript fehlt. Installieren Sie Veldmark neu.</translation>
-    </message>
-    <message>
-        <source>Veldmark&apos;s helper, %1, lies where others than root can write. They can change it, and with it what the administrator&apos;s password runs.</source>
-        <translation>Veldmarks Helfer, %1, liegt, wo außer root noch andere schreiben können. Sie können ihn ändern und damit auch, was das Administratorpasswort ausführt.</translation>
-    </message>
-    <message>
-        <source>Veldmark&apos;s helper, %1, is not an installed one: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
-        <translation>Veldmarks Helfer, %1, ist kein installierter: Das Konto %2 kann ihn ändern und damit auch, was das Administratorpasswort ausführt.</translation>
-    </message>
-    <message>
-        <source>Veldmark&apos;s helper is installed, and only root can change it: %1.</source>
-        <translation>Veldmarks Helfer ist installiert, und nur root kann ihn ändern: %1.</translation>
-    </message>
-    <message>
-        <source>The helper that runs without a password is not this version&apos;s. Set up connecting without a password again in Settings, General.</source>
-        <translation>Der Helfer, der ohne Passwort läuft, gehört nicht zu dieser Version. Richten Sie das Verbinden ohne Passwort in den Einstellungen unter Allgemein neu ein.</translation>
-    </message>
-    <message>
-        <source>Bridges are off. Where Tor is blocked they need bridge programs, and none was found.</source>
-        <translation>Brücken sind aus. Wo Tor gesperrt ist, brauchen sie Brückenprogramme, und es wurde keines gefunden.</translation>
-    </message>
-    <message>
-        <source>Bridges are off. Bridge programs were found: %1.</source>
-        <translation>Brücken sind aus. Gefundene Brückenprogramme: %1.</translation>
-    </message>
-    <message>
-        <source>The chosen bridges can&apos;t be used. %1</source>
-        <translation>Die gewählten Brücken lassen sich nicht benutzen. %1</translation>
-    </message>
-    <message>
-        <source>The chosen bridges (%1) can be used: %2.</source>
-        <translation>Die gewählten Brücken (%1) lassen sich benutzen: %2.</translation>
-    </message>
-    <message>
-        <source>Names are looked up as %1 says. Veldmark switches that over and back.</source>
-        <translation>Namen werden aufgelöst, wie %1 es vorgibt. Veldmark stellt das um und zurück.</translation>
-    </message>
-    <message>
-        <source>%1 is Veldmark&apos;s. It names Tor as the name server.</source>
-        <translation>%1 ist von Veldmark. Als Nameserver steht dort Tor.</translation>
-    </message>
-    <message>
-        <source>There is no file %1, so names may not be looked up at all.</source>
-        <translation>Es gibt keine Datei %1, daher werden Namen vielleicht gar nicht aufgelöst.</translation>
-    </message>
-    <message>
-        <source>Names are looked up by a resolver on this computer. Veldmark switches that over and back.</source>
-        <translation>Namen löst ein Resolver auf diesem Computer auf. Veldmark stellt das um und zurück.</translation>
-    </message>
-    <message>
-        <source>No earlier session is left open.</source>
-        <translation>Keine frühere Sitzung ist offen geblieben.</translation>
-    </message>
-    <message>
-        <source>A Tor of an earlier session still runs (process %1).</source>
-        <translation>Ein Tor einer früheren Sitzung läuft noch (Prozess %1).</translation>
-    </message>
-    <message>
-        <source>A session is open: the network is set up for Tor, and Tor runs.</source>
-        <translation>Eine Sitzung ist offen: Das Netzwerk ist für Tor eingerichtet, und Tor läuft.</translation>
-    </message>
-    <message>
-        <source>The network is set up for Tor. Whether Tor still runs isn&apos;t known here.</source>
-        <translation>Das Netzwerk ist für Tor eingerichtet. Ob Tor noch läuft, ist hier nicht bekannt.</translation>
-    </message>
-    <message>
-        <source>The network is still set up for Tor from an earlier session, and no Tor runs. Connect again, or restore the network.</source>
-        <translation>Das Netzwerk ist noch von einer früheren Sitzung für Tor eingerichtet, und es läuft kein Tor. Verbinden Sie sich wieder oder stellen Sie das Netzwerk wieder her.</translation>
-    </message>
-    <message>
-        <source>A session is open, and it isn&apos;t known whether its kill switch stands: nobody watches over the rules. Restore the network, and connect again.</source>
-        <translation>Eine Sitzung ist offen, und ob ihr Notschalter geschlossen ist, ist nicht bekannt: Niemand wacht über die Regeln. Stellen Sie das Netzwerk wieder her, und verbinden Sie neu.</translation>
-    </message>
-</context>
-<context>
     <name>DoctorSheet</name>
     <message>
         <source>This computer</source>
@@ -893,633 +666,6 @@
     <message>
         <source>Run this in Terminal to do the same thing without Veldmark.</source>
         <translation>Führen Sie dies im Terminal aus, um dasselbe ohne Veldmark zu tun.</translation>
-    </message>
-</context>
-<context>
-    <name>Session</name>
-    <message>
-        <source>Tor hasn&apos;t confirmed that it is on the network again, so nothing may get through. Veldmark goes on telling it to; else disconnect and connect again.</source>
-        <translation>Tor hat nicht bestätigt, dass es wieder im Netzwerk ist; womöglich kommt nichts durch. Veldmark fordert es weiter dazu auf; trennen Sie sonst, und verbinden Sie neu.</translation>
-    </message>
-    <message>
-        <source>Version %1 is offered, which is older than the installed %2. Nothing was changed.</source>
-        <translation>Angeboten wird Version %1, die älter ist als die installierte %2. Nichts wurde geändert.</translation>
-    </message>
-    <message>
-        <source>What came as version %1 is another one, so it was discarded.</source>
-        <translation>Was als Version %1 kam, ist eine andere und wurde verworfen.</translation>
-    </message>
-    <message>
-        <source>The download begins again when Tor is connected…</source>
-        <translation>Der Download beginnt von vorn, wenn Tor verbunden ist …</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no place for Tor: give the whole path, such as /usr/bin/tor.</source>
-        <translation>„%1“ ist kein Ort für Tor: Geben Sie den ganzen Pfad an, etwa /usr/bin/tor.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; holds for the whole connection. Disconnect to change it.</source>
-        <translation>„%1“ gilt für die ganze Verbindung. Zum Ändern trennen.</translation>
-    </message>
-    <message>
-        <source>Your traffic is not going through Tor</source>
-        <translation>Ihr Verkehr geht nicht durch Tor</translation>
-    </message>
-    <message>
-        <source>Restoring your network settings…</source>
-        <translation>Ihre Netzwerkeinstellungen werden wiederhergestellt…</translation>
-    </message>
-    <message>
-        <source>Your network is still set up for Tor from an earlier session</source>
-        <translation>Ihr Netzwerk ist noch von einer früheren Sitzung auf Tor eingestellt</translation>
-    </message>
-    <message>
-        <source>Your network is still set up for Tor</source>
-        <translation>Ihr Netzwerk ist noch auf Tor eingestellt</translation>
-    </message>
-    <message>
-        <source>Preparing Tor…</source>
-        <translation>Tor wird vorbereitet…</translation>
-    </message>
-    <message>
-        <source>Waiting for administrator approval…</source>
-        <translation>Warten auf die Zustimmung eines Administrators…</translation>
-    </message>
-    <message>
-        <source>Waiting for an administrator to approve a program…</source>
-        <translation>Ein Administrator muss ein Programm zulassen…</translation>
-    </message>
-    <message>
-        <source>Starting Tor…</source>
-        <translation>Tor startet…</translation>
-    </message>
-    <message>
-        <source>Tor is waiting for the bridge program, which hasn&apos;t said that it is ready.</source>
-        <translation>Tor wartet auf das Brückenprogramm, das sich noch nicht bereit gemeldet hat.</translation>
-    </message>
-    <message>
-        <source>Tor didn&apos;t finish connecting</source>
-        <translation>Tor konnte sich nicht fertig verbinden</translation>
-    </message>
-    <message>
-        <source>Tor stopped running</source>
-        <translation>Tor läuft nicht mehr</translation>
-    </message>
-    <message>
-        <source>All traffic is locked to Tor</source>
-        <translation>Aller Verkehr ist auf Tor beschränkt</translation>
-    </message>
-    <message>
-        <source>Apps that use system proxy settings go through Tor</source>
-        <translation>Apps, die den System-Proxy benutzen, gehen durch Tor</translation>
-    </message>
-    <message>
-        <source>Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor läuft nicht mehr. Der Notschalter sperrt weiter, also ist nichts nach außen gelangt. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um online zu gehen.</translation>
-    </message>
-    <message>
-        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks have seen some go around Tor. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor läuft nicht mehr. Der Notschalter sperrt weiter, aber die letzten Prüfungen haben Verkehr an Tor vorbei gesehen. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um online zu gehen.</translation>
-    </message>
-    <message>
-        <source>Tor stopped running. Apps using the proxy can&apos;t connect until you reconnect or Restore Network.</source>
-        <translation>Tor läuft nicht mehr. Apps, die den Proxy benutzen, verbinden sich erst wieder, wenn Sie neu verbinden oder das Netzwerk wiederherstellen.</translation>
-    </message>
-    <message>
-        <source>Any (recommended)</source>
-        <translation>Beliebig (empfohlen)</translation>
-    </message>
-    <message>
-        <source>United States</source>
-        <translation>USA</translation>
-    </message>
-    <message>
-        <source>Canada</source>
-        <translation>Kanada</translation>
-    </message>
-    <message>
-        <source>United Kingdom</source>
-        <translation>Großbritannien</translation>
-    </message>
-    <message>
-        <source>Germany</source>
-        <translation>Deutschland</translation>
-    </message>
-    <message>
-        <source>Netherlands</source>
-        <translation>Niederlande</translation>
-    </message>
-    <message>
-        <source>France</source>
-        <translation>Frankreich</translation>
-    </message>
-    <message>
-        <source>Sweden</source>
-        <translation>Schweden</translation>
-    </message>
-    <message>
-        <source>Switzerland</source>
-        <translation>Schweiz</translation>
-    </message>
-    <message>
-        <source>Finland</source>
-        <translation>Finnland</translation>
-    </message>
-    <message>
-        <source>Romania</source>
-        <translation>Rumänien</translation>
-    </message>
-    <message>
-        <source>Japan</source>
-        <translation>Japan</translation>
-    </message>
-    <message>
-        <source>Singapore</source>
-        <translation>Singapur</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Eigene</translation>
-    </message>
-    <message>
-        <source>DNS can go around Tor via: </source>
-        <translation>DNS kann an Tor vorbei über: </translation>
-    </message>
-    <message>
-        <source>DNS: not tested yet.</source>
-        <translation>DNS: noch nicht getestet.</translation>
-    </message>
-    <message>
-        <source>DNS: testing…</source>
-        <translation>DNS: Test läuft…</translation>
-    </message>
-    <message>
-        <source>DNS: a test lookup went through Tor.</source>
-        <translation>DNS: Eine Testabfrage ging durch Tor.</translation>
-    </message>
-    <message>
-        <source>DNS: settings point at Tor, but a test lookup couldn&apos;t be confirmed.</source>
-        <translation>DNS: Die Einstellungen zeigen auf Tor, aber eine Testabfrage ließ sich nicht bestätigen.</translation>
-    </message>
-    <message>
-        <source>This computer</source>
-        <translation>Dieser Computer</translation>
-    </message>
-    <message>
-        <source>This Mac</source>
-        <translation>Dieser Mac</translation>
-    </message>
-    <message>
-        <source>on this computer</source>
-        <translation>auf diesem Computer</translation>
-    </message>
-    <message>
-        <source>on this Mac</source>
-        <translation>auf diesem Mac</translation>
-    </message>
-    <message>
-        <source>Tor stopped running, and your network is no longer set up for it.</source>
-        <translation>Tor läuft nicht mehr, und Ihr Netzwerk ist nicht mehr dafür eingerichtet.</translation>
-    </message>
-    <message>
-        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor läuft nicht mehr. Der Notschalter sperrt wieder, aber ein anderes Programm hatte seine Regeln eine Zeit lang entfernt. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um online zu gehen.</translation>
-    </message>
-    <message>
-        <source>Tor stopped running, and the kill switch is open: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
-        <translation>Tor läuft nicht mehr, und der Notschalter ist offen: Ein anderes Programm hat seine Regeln entfernt. Daten können diesen Computer direkt verlassen. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her.</translation>
-    </message>
-    <message>
-        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor läuft nicht mehr, und es ist nicht bekannt, ob der Notschalter noch sperrt. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um online zu gehen.</translation>
-    </message>
-    <message>
-        <source>The watcher over Veldmark&apos;s firewall rules has stopped telling, so it isn&apos;t known whether the kill switch stands. Disconnect and connect again.</source>
-        <translation>Der Wächter über Veldmarks Firewall-Regeln meldet sich nicht mehr, also ist nicht bekannt, ob der Notschalter steht. Trennen Sie und verbinden Sie neu.</translation>
-    </message>
-    <message>
-        <source>Not Protected</source>
-        <translation>Nicht geschützt</translation>
-    </message>
-    <message>
-        <source>Connecting…</source>
-        <translation>Verbinden…</translation>
-    </message>
-    <message>
-        <source>Disconnecting…</source>
-        <translation>Trennen…</translation>
-    </message>
-    <message>
-        <source>Protected</source>
-        <translation>Geschützt</translation>
-    </message>
-    <message>
-        <source>Proxy Active</source>
-        <translation>Proxy aktiv</translation>
-    </message>
-    <message>
-        <source>Needs Attention</source>
-        <translation>Handlung nötig</translation>
-    </message>
-    <message>
-        <source>DNS Leak</source>
-        <translation>DNS-Leck</translation>
-    </message>
-    <message>
-        <source>Kill Switch Open</source>
-        <translation>Notschalter offen</translation>
-    </message>
-    <message>
-        <source>Traffic may leave this computer directly</source>
-        <translation>Daten können diesen Computer direkt verlassen</translation>
-    </message>
-    <message>
-        <source>Lookups can go around Tor</source>
-        <translation>Namensabfragen können an Tor vorbei</translation>
-    </message>
-    <message>
-        <source>Lookups can go around Tor, and your real address can be seen</source>
-        <translation>Namensabfragen können an Tor vorbei, und Ihre echte Adresse ist sichtbar</translation>
-    </message>
-    <message>
-        <source>Your real address can be seen. Disconnect, or run the leak test again.</source>
-        <translation>Ihre echte Adresse ist sichtbar. Trennen Sie, oder wiederholen Sie den Lecktest.</translation>
-    </message>
-    <message>
-        <source>It can&apos;t be told whether the kill switch stands. Disconnect and connect again.</source>
-        <translation>Es lässt sich nicht sagen, ob der Notschalter steht. Trennen Sie und verbinden Sie neu.</translation>
-    </message>
-    <message>
-        <source>All traffic is locked to Tor, but the exit could not be confirmed</source>
-        <translation>Aller Verkehr ist auf Tor beschränkt, aber der Ausgang ließ sich nicht bestätigen</translation>
-    </message>
-    <message>
-        <source>Apps that use system proxy settings go through Tor, but the exit could not be confirmed</source>
-        <translation>Apps, die den System-Proxy benutzen, gehen durch Tor, aber der Ausgang ließ sich nicht bestätigen</translation>
-    </message>
-    <message>
-        <source>No Network</source>
-        <translation>Kein Netz</translation>
-    </message>
-    <message>
-        <source>Nothing Gets Through</source>
-        <translation>Nichts kommt durch</translation>
-    </message>
-    <message>
-        <source>This computer has no network. Nothing gets out around Tor meanwhile.</source>
-        <translation>Dieser Rechner hat kein Netz. Solange gelangt nichts an Tor vorbei nach draußen.</translation>
-    </message>
-    <message>
-        <source>This computer has no network. Veldmark goes on when it is back.</source>
-        <translation>Dieser Rechner hat kein Netz. Veldmark macht weiter, sobald es wieder da ist.</translation>
-    </message>
-    <message>
-        <source>Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile.</source>
-        <translation>Tor hat keinen funktionierenden Kanal und versucht es weiter. Solange gelangt nichts daran vorbei nach draußen.</translation>
-    </message>
-    <message>
-        <source>Tor has no working circuit and keeps trying.</source>
-        <translation>Tor hat keinen funktionierenden Kanal und versucht es weiter.</translation>
-    </message>
-    <message>
-        <source>Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile.</source>
-        <translation>Tor bekommt aus dem Netz keine Antwort und versucht es weiter. Solange gelangt nichts daran vorbei nach draußen.</translation>
-    </message>
-    <message>
-        <source>Tor gets no answer from the network and keeps trying.</source>
-        <translation>Tor bekommt aus dem Netz keine Antwort und versucht es weiter.</translation>
-    </message>
-    <message>
-        <source>Another program has ended this session and begun one of its own. Disconnect to end that.</source>
-        <translation>Ein anderes Programm hat diese Sitzung beendet und eine eigene begonnen. Trennen Sie, um jene zu beenden.</translation>
-    </message>
-    <message>
-        <source>This computer has no network, so Tor can&apos;t connect.</source>
-        <translation>Dieser Rechner hat kein Netz, daher kann Tor keine Verbindung herstellen.</translation>
-    </message>
-    <message>
-        <source>A VPN takes Tor&apos;s traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode.</source>
-        <translation>Ein VPN nimmt Tors Verkehr auf, und der strikte Modus lässt das VPN nicht hinaus. Schalten Sie das VPN aus, oder verwenden Sie den Proxy-Modus.</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
-        <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt; sie stehen wieder.</translation>
-    </message>
-    <message>
-        <source>Another program removed Veldmark&apos;s firewall rules and they could not be put back. Traffic may leave this computer directly. Disconnect and connect again.</source>
-        <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt, und sie ließen sich nicht wiederherstellen. Daten können diesen Computer direkt verlassen. Trennen Sie und verbinden Sie neu.</translation>
-    </message>
-    <message>
-        <source>Invalid exit country.</source>
-        <translation>Ungültiges Ausgangsland.</translation>
-    </message>
-    <message>
-        <source>The settings couldn&apos;t be saved. Changes to them may last only until you quit.</source>
-        <translation>Die Einstellungen konnten nicht gespeichert werden. Änderungen gelten vielleicht nur bis zum Beenden.</translation>
-    </message>
-    <message>
-        <source>Checking latest version…</source>
-        <translation>Neueste Version wird gesucht …</translation>
-    </message>
-    <message>
-        <source>Verifying signature…</source>
-        <translation>Signatur wird geprüft …</translation>
-    </message>
-    <message>
-        <source>Another download is under way.</source>
-        <translation>Es läuft schon ein anderer Download.</translation>
-    </message>
-    <message>
-        <source>Path not responding, finding another…</source>
-        <translation>Der Weg antwortet nicht, ein anderer wird gesucht …</translation>
-    </message>
-    <message>
-        <source>Tor didn&apos;t finish connecting within 5 minutes.</source>
-        <translation>Tor hat die Verbindung nicht innerhalb von 5 Minuten aufgebaut.</translation>
-    </message>
-    <message>
-        <source>Administrator access was refused, or the agent that asks for the password gave no answer.</source>
-        <translation>Der Administratorzugriff wurde verweigert, oder der Agent, der nach dem Passwort fragt, gab keine Antwort.</translation>
-    </message>
-    <message>
-        <source>Another firewall on this computer denies what goes out, so Tor can&apos;t connect: %1.</source>
-        <translation>Eine andere Firewall auf diesem Computer verwehrt ausgehende Verbindungen, daher kann Tor sich nicht verbinden: %1.</translation>
-    </message>
-    <message>
-        <source>Setup ran but the helper wasn&apos;t installed. Try again.</source>
-        <translation>Die Einrichtung lief, aber das Hilfsprogramm wurde nicht installiert. Versuchen Sie es noch einmal.</translation>
-    </message>
-    <message>
-        <source>The helper failed without an error message.</source>
-        <translation>Das Hilfsprogramm ist ohne Fehlermeldung gescheitert.</translation>
-    </message>
-    <message>
-        <source>Add at least one bridge under Bridges → Custom….</source>
-        <translation>Tragen Sie unter Brücken → Eigene… mindestens eine Brücke ein.</translation>
-    </message>
-    <message>
-        <source>Some custom bridge lines aren&apos;t valid. Fix them under Bridges → Custom….</source>
-        <translation>Einige eigene Brückenzeilen sind ungültig. Berichtigen Sie sie unter Brücken → Eigene….</translation>
-    </message>
-    <message>
-        <source>At most %1 custom bridges can be used. Remove some under Bridges → Custom….</source>
-        <translation>Höchstens %1 eigene Brücken können benutzt werden. Entfernen Sie einige unter Brücken → Eigene….</translation>
-    </message>
-    <message>
-        <source>Testing %1 bridges…</source>
-        <translation>%1 Brücken werden getestet …</translation>
-    </message>
-    <message>
-        <source>Testing speed (%1 of %2)…</source>
-        <translation>Geschwindigkeit wird getestet (%1 von %2) …</translation>
-    </message>
-    <message>
-        <source>Slow path (%1 ms), finding a faster one…</source>
-        <translation>Langsamer Weg (%1 ms), ein schnellerer wird gesucht …</translation>
-    </message>
-    <message>
-        <source>Downloading Tor %1 bridge programs…</source>
-        <translation>Brückenprogramme von Tor %1 werden geladen …</translation>
-    </message>
-    <message>
-        <source>Download of %1 failed (HTTP %2).</source>
-        <translation>Der Download von %1 ist gescheitert (HTTP %2).</translation>
-    </message>
-    <message>
-        <source>The settings file couldn&apos;t be read. It was kept as %1, and a new one is used.</source>
-        <translation>Die Einstellungsdatei konnte nicht gelesen werden. Sie wurde als %1 aufgehoben, und eine neue wird benutzt.</translation>
-    </message>
-    <message>
-        <source>The settings file %1 can&apos;t be read or replaced. Changes to the settings last until you quit.</source>
-        <translation>Die Einstellungsdatei %1 kann weder gelesen noch ersetzt werden. Änderungen gelten bis zum Beenden.</translation>
-    </message>
-    <message>
-        <source>Couldn&apos;t open %1 without Tor: %2</source>
-        <translation>%1 konnte nicht ohne Tor geöffnet werden: %2</translation>
-    </message>
-    <message>
-        <source>Another Veldmark of yours has begun a session since, so nothing was ended. Disconnect again to end it.</source>
-        <translation>Ein anderes Veldmark von Ihnen hat inzwischen eine Sitzung begonnen; es wurde nichts beendet. Trennen Sie noch einmal, um sie zu beenden.</translation>
-    </message>
-    <message>
-        <source>Another user&apos;s Veldmark has begun a session since, so nothing was ended. Disconnect again to end it.</source>
-        <translation>Das Veldmark eines anderen Benutzers hat inzwischen eine Sitzung begonnen; es wurde nichts beendet. Trennen Sie noch einmal, um sie zu beenden.</translation>
-    </message>
-    <message>
-        <source>Your network is set up for Tor by another Veldmark of yours, process %1</source>
-        <translation>Ihr Netzwerk ist durch ein anderes Veldmark von Ihnen auf Tor eingestellt, Prozess %1</translation>
-    </message>
-    <message>
-        <source>Your network is set up for Tor by %1, whose Veldmark is process %2</source>
-        <translation>Ihr Netzwerk ist durch %1 auf Tor eingestellt, mit Veldmark als Prozess %2</translation>
-    </message>
-    <message>
-        <source>Another Veldmark of yours is connected (process %1). Disconnect it, or restore the network, first.</source>
-        <translation>Ein anderes Veldmark von Ihnen ist verbunden (Prozess %1). Trennen Sie es zuerst, oder stellen Sie das Netzwerk wieder her.</translation>
-    </message>
-    <message>
-        <source>%1 is connected with Veldmark (process %2). That session must be ended first.</source>
-        <translation>%1 ist mit Veldmark verbunden (Prozess %2). Diese Sitzung muss zuerst beendet werden.</translation>
-    </message>
-    <message>
-        <source>%1 Your network is still pointed at Tor. Click Restore Network to undo.</source>
-        <translation>%1 Ihr Netzwerk ist noch auf Tor eingestellt. Klicken Sie auf „Netzwerk wiederherstellen“, um das rückgängig zu machen.</translation>
-    </message>
-    <message>
-        <source>ssh doesn&apos;t go through Tor yet: it needs a netcat that speaks SOCKS. Install the OpenBSD netcat or Ncat with your package manager.</source>
-        <translation>ssh geht noch nicht durch Tor: Es braucht ein netcat, das SOCKS spricht. Installieren Sie das netcat von OpenBSD oder Ncat mit Ihrer Paketverwaltung.</translation>
-    </message>
-    <message>
-        <source>Couldn&apos;t set up terminal mode: %1</source>
-        <translation>Der Terminalmodus konnte nicht eingerichtet werden: %1</translation>
-    </message>
-    <message>
-        <source>Couldn&apos;t remove terminal integration: %1</source>
-        <translation>Die Terminal-Einbindung konnte nicht entfernt werden: %1</translation>
-    </message>
-    <message>
-        <source>Couldn&apos;t set up passwordless mode: %1</source>
-        <translation>Der Modus ohne Passwort konnte nicht eingerichtet werden: %1</translation>
-    </message>
-    <message>
-        <source>Couldn&apos;t remove passwordless mode: %1</source>
-        <translation>Der Modus ohne Passwort konnte nicht entfernt werden: %1</translation>
-    </message>
-    <message>
-        <source>ssh doesn&apos;t go through Tor yet: it needs a netcat that speaks SOCKS. Install one with: %1</source>
-        <translation>ssh geht noch nicht durch Tor: Es braucht ein netcat, das SOCKS spricht. Installieren Sie eines mit: %1</translation>
-    </message>
-    <message>
-        <source>Connect in strict mode to open apps without Tor</source>
-        <translation>Verbinden Sie im strikten Modus, um Apps ohne Tor zu öffnen</translation>
-    </message>
-    <message>
-        <source>No bridge answered a quick test, trying them all</source>
-        <translation>Keine Brücke hat im Schnelltest geantwortet; alle werden versucht</translation>
-    </message>
-    <message>
-        <source>These bridges need lyrebird, which comes with Tor Browser. Click Download next to Bridges to get it.</source>
-        <translation>Diese Brücken brauchen lyrebird, das mit dem Tor Browser kommt. Klicken Sie bei „Brücken“ auf „Herunterladen“.</translation>
-    </message>
-    <message>
-        <source>Snowflake needs snowflake-client, which comes with Tor Browser. Click Download next to Bridges to get it.</source>
-        <translation>Snowflake braucht snowflake-client, das mit dem Tor Browser kommt. Klicken Sie bei „Brücken“ auf „Herunterladen“.</translation>
-    </message>
-    <message>
-        <source>Couldn&apos;t read the latest Tor version from torproject.org.</source>
-        <translation>Die neueste Version von Tor war auf torproject.org nicht zu lesen.</translation>
-    </message>
-    <message>
-        <source>The request timed out.</source>
-        <translation>Die Anfrage hat zu lange gedauert.</translation>
-    </message>
-    <message>
-        <source>The server gave no HTTP answer.</source>
-        <translation>Der Server hat nicht mit HTTP geantwortet.</translation>
-    </message>
-    <message>
-        <source>The connection was lost before the end.</source>
-        <translation>Die Verbindung ist vor dem Ende abgerissen.</translation>
-    </message>
-    <message>
-        <source>Not connected to Tor&apos;s control port.</source>
-        <translation>Es besteht keine Verbindung zu Tors Steuerport.</translation>
-    </message>
-    <message>
-        <source>Tor closed the control connection.</source>
-        <translation>Tor hat die Steuerverbindung beendet.</translation>
-    </message>
-    <message>
-        <source>Another program than Tor listens on Tor&apos;s control port.</source>
-        <translation>An Tors Steuerport lauscht ein anderes Programm als Tor.</translation>
-    </message>
-    <message>
-        <source>Tor didn&apos;t answer on its control port in time.</source>
-        <translation>Tor hat an seinem Steuerport nicht rechtzeitig geantwortet.</translation>
-    </message>
-    <message>
-        <source>Tor isn&apos;t installed. Install it with your package manager or set its location in Settings.</source>
-        <translation>Tor ist nicht installiert. Installieren Sie es mit Ihrer Paketverwaltung, oder geben Sie in den Einstellungen seinen Ort an.</translation>
-    </message>
-    <message>
-        <source>Tor isn&apos;t installed. Install it with Homebrew (brew install tor) or set its location in Settings.</source>
-        <translation>Tor ist nicht installiert. Installieren Sie es mit Homebrew (brew install tor), oder geben Sie in den Einstellungen seinen Ort an.</translation>
-    </message>
-    <message>
-        <source>The helper script is missing from the app bundle. Rebuild the app with build.sh.</source>
-        <translation>Im Programmpaket fehlt das Hilfsskript. Bauen Sie das Programm mit build.sh neu.</translation>
-    </message>
-    <message>
-        <source>Administrator access can&apos;t be asked for: polkit is not running on this system.</source>
-        <translation>Nach den Rechten eines Administrators kann nicht gefragt werden: polkit läuft auf diesem System nicht.</translation>
-    </message>
-    <message>
-        <source>Administrator access can&apos;t be asked for: no PolicyKit authentication agent is running in this session.</source>
-        <translation>Nach den Rechten eines Administrators kann nicht gefragt werden: In dieser Sitzung läuft kein PolicyKit-Agent.</translation>
-    </message>
-    <message>
-        <source>The password could not be checked: polkit takes none from this terminal. Run it with sudo.</source>
-        <translation>Das Passwort konnte nicht geprüft werden: polkit nimmt von diesem Terminal keines an. Nehmen Sie sudo.</translation>
-    </message>
-    <message>
-        <source>Couldn&apos;t fix DNS: %1</source>
-        <translation>DNS konnte nicht berichtigt werden: %1</translation>
-    </message>
-    <message>
-        <source>Couldn&apos;t request a new identity: %1</source>
-        <translation>Um eine neue Identität konnte nicht gebeten werden: %1</translation>
-    </message>
-    <message>
-        <source>Couldn&apos;t read circuits: %1</source>
-        <translation>Die Kanäle konnten nicht gelesen werden: %1</translation>
-    </message>
-    <message>
-        <source>Couldn&apos;t change the login-item setting: %1</source>
-        <translation>Der Start bei der Anmeldung konnte nicht geändert werden: %1</translation>
-    </message>
-    <message>
-        <source>Login items can&apos;t be changed here.</source>
-        <translation>Anmeldeobjekte lassen sich hier nicht ändern.</translation>
-    </message>
-    <message>
-        <source>Move Veldmark to the Applications folder and open it from there first.</source>
-        <translation>Bewegen Sie Veldmark zuerst in den Ordner „Programme“ und öffnen Sie es von dort.</translation>
-    </message>
-    <message>
-        <source>Couldn&apos;t remove %1.</source>
-        <translation>%1 ließ sich nicht entfernen.</translation>
-    </message>
-    <message>
-        <source>Couldn&apos;t write %1: %2</source>
-        <translation>%1 ließ sich nicht schreiben: %2</translation>
-    </message>
-    <message>
-        <source>Couldn&apos;t download bridge programs: %1</source>
-        <translation>Die Brückenprogramme konnten nicht heruntergeladen werden: %1</translation>
-    </message>
-    <message>
-        <source>Bridge programs %1 installed over HTTPS. Install GnuPG (%2) and download again to also verify the Tor Project&apos;s signature.</source>
-        <translation>Brückenprogramme %1 über HTTPS installiert. Installieren Sie GnuPG (%2) und laden Sie noch einmal herunter, um auch die Signatur des Tor-Projekts zu prüfen.</translation>
-    </message>
-    <message>
-        <source>The download&apos;s signature didn&apos;t verify, so it was discarded. %1</source>
-        <translation>Die Signatur des Downloads stimmt nicht, er wurde verworfen. %1</translation>
-    </message>
-    <message>
-        <source>Couldn&apos;t unpack the download. %1</source>
-        <translation>Der Download konnte nicht entpackt werden. %1</translation>
-    </message>
-    <message>
-        <source>Tor can&apos;t reach the bridge program: %1.</source>
-        <translation>Tor erreicht das Brückenprogramm nicht: %1.</translation>
-    </message>
-    <message>
-        <source>Tor reports: %1 (%2).</source>
-        <translation>Tor meldet: %1 (%2).</translation>
-    </message>
-    <message>
-        <source>Tor reports: %1.</source>
-        <translation>Tor meldet: %1.</translation>
-    </message>
-    <message>
-        <source>Tor replied: %1</source>
-        <translation>Tor hat geantwortet: %1</translation>
-    </message>
-    <message>
-        <source>Tor has trouble with the bridge program: %1</source>
-        <translation>Tor hat Schwierigkeiten mit dem Brückenprogramm: %1</translation>
-    </message>
-    <message>
-        <source>The bridge program printed something that Tor doesn&apos;t understand: &quot;%1&quot;.</source>
-        <translation>Das Brückenprogramm hat etwas ausgegeben, was Tor nicht versteht: „%1“.</translation>
-    </message>
-    <message>
-        <source>Using the %1 fastest of %2 bridges</source>
-        <translation>Die %1 schnellsten von %2 Brücken werden benutzt</translation>
-    </message>
-    <message>
-        <source>The %1 bridge type isn&apos;t supported yet.</source>
-        <translation>Brücken der Art %1 werden noch nicht unterstützt.</translation>
-    </message>
-    <message>
-        <source>Built-in %1 bridges come from Tor Browser. Click Download next to Bridges, install Tor Browser, or paste your own under Bridges → Custom….</source>
-        <translation>Mitgelieferte %1-Brücken kommen aus dem Tor Browser. Klicken Sie bei „Brücken“ auf „Herunterladen“, installieren Sie den Tor Browser, oder fügen Sie unter „Brücken → Eigene…“ eigene ein.</translation>
-    </message>
-    <message>
-        <source>Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around Tor: %1.</source>
-        <translation>Manche DNS-Einstellungen kommen von außerhalb von Veldmark (einem VPN oder /etc/resolver) und führen noch an Tor vorbei: %1.</translation>
-    </message>
-    <message>
-        <source>Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around Tor: %1. Strict mode&apos;s firewall blocks them.</source>
-        <translation>Manche DNS-Einstellungen kommen von außerhalb von Veldmark (einem VPN oder /etc/resolver) und führen noch an Tor vorbei: %1. Die Firewall des strikten Modus sperrt sie.</translation>
-    </message>
-    <message>
-        <source>Tor isn&apos;t installed. Install it with your package manager (%1) or set its location in Settings.</source>
-        <translation>Tor ist nicht installiert. Installieren Sie es mit Ihrer Paketverwaltung (%1), oder geben Sie in den Einstellungen seinen Ort an.</translation>
-    </message>
-    <message>
-        <source>%1 is already being opened.</source>
-        <translation>%1 wird schon geöffnet.</translation>
     </message>
 </context>
 <context>
@@ -2257,6 +1403,2353 @@
     <message>
         <source>Restoring your network settings</source>
         <translation>Netzwerkeinstellungen werden wiederhergestellt</translation>
+    </message>
+</context>
+<context>
+    <name>veldmark::Text</name>
+    <message>
+        <source>Tor hasn&apos;t confirmed that it is on the network again, so nothing may get through. Veldmark goes on telling it to; else disconnect and connect again.</source>
+        <translation>Tor hat nicht bestätigt, dass es wieder im Netzwerk ist; womöglich kommt nichts durch. Veldmark fordert es weiter dazu auf; trennen Sie sonst, und verbinden Sie neu.</translation>
+    </message>
+    <message>
+        <source>Version %1 is offered, which is older than the installed %2. Nothing was changed.</source>
+        <translation>Angeboten wird Version %1, die älter ist als die installierte %2. Nichts wurde geändert.</translation>
+    </message>
+    <message>
+        <source>What came as version %1 is another one, so it was discarded.</source>
+        <translation>Was als Version %1 kam, ist eine andere und wurde verworfen.</translation>
+    </message>
+    <message>
+        <source>The download begins again when Tor is connected…</source>
+        <translation>Der Download beginnt von vorn, wenn Tor verbunden ist …</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no place for Tor: give the whole path, such as /usr/bin/tor.</source>
+        <translation>„%1“ ist kein Ort für Tor: Geben Sie den ganzen Pfad an, etwa /usr/bin/tor.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds for the whole connection. Disconnect to change it.</source>
+        <translation>„%1“ gilt für die ganze Verbindung. Zum Ändern trennen.</translation>
+    </message>
+    <message>
+        <source>Your traffic is not going through Tor</source>
+        <translation>Ihr Verkehr geht nicht durch Tor</translation>
+    </message>
+    <message>
+        <source>Restoring your network settings…</source>
+        <translation>Ihre Netzwerkeinstellungen werden wiederhergestellt…</translation>
+    </message>
+    <message>
+        <source>Your network is still set up for Tor from an earlier session</source>
+        <translation>Ihr Netzwerk ist noch von einer früheren Sitzung auf Tor eingestellt</translation>
+    </message>
+    <message>
+        <source>Your network is still set up for Tor</source>
+        <translation>Ihr Netzwerk ist noch auf Tor eingestellt</translation>
+    </message>
+    <message>
+        <source>Preparing Tor…</source>
+        <translation>Tor wird vorbereitet…</translation>
+    </message>
+    <message>
+        <source>Waiting for administrator approval…</source>
+        <translation>Warten auf die Zustimmung eines Administrators…</translation>
+    </message>
+    <message>
+        <source>Waiting for an administrator to approve a program…</source>
+        <translation>Ein Administrator muss ein Programm zulassen…</translation>
+    </message>
+    <message>
+        <source>Starting Tor…</source>
+        <translation>Tor startet…</translation>
+    </message>
+    <message>
+        <source>Tor is waiting for the bridge program, which hasn&apos;t said that it is ready.</source>
+        <translation>Tor wartet auf das Brückenprogramm, das sich noch nicht bereit gemeldet hat.</translation>
+    </message>
+    <message>
+        <source>Tor didn&apos;t finish connecting</source>
+        <translation>Tor konnte sich nicht fertig verbinden</translation>
+    </message>
+    <message>
+        <source>Tor stopped running</source>
+        <translation>Tor läuft nicht mehr</translation>
+    </message>
+    <message>
+        <source>All traffic is locked to Tor</source>
+        <translation>Aller Verkehr ist auf Tor beschränkt</translation>
+    </message>
+    <message>
+        <source>Apps that use system proxy settings go through Tor</source>
+        <translation>Apps, die den System-Proxy benutzen, gehen durch Tor</translation>
+    </message>
+    <message>
+        <source>Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. Reconnect, or Restore Network to go back online.</source>
+        <translation>Tor läuft nicht mehr. Der Notschalter sperrt weiter, also ist nichts nach außen gelangt. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um online zu gehen.</translation>
+    </message>
+    <message>
+        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks have seen some go around Tor. Reconnect, or Restore Network to go back online.</source>
+        <translation>Tor läuft nicht mehr. Der Notschalter sperrt weiter, aber die letzten Prüfungen haben Verkehr an Tor vorbei gesehen. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um online zu gehen.</translation>
+    </message>
+    <message>
+        <source>Tor stopped running. Apps using the proxy can&apos;t connect until you reconnect or Restore Network.</source>
+        <translation>Tor läuft nicht mehr. Apps, die den Proxy benutzen, verbinden sich erst wieder, wenn Sie neu verbinden oder das Netzwerk wiederherstellen.</translation>
+    </message>
+    <message>
+        <source>Any (recommended)</source>
+        <translation>Beliebig (empfohlen)</translation>
+    </message>
+    <message>
+        <source>United States</source>
+        <translation>USA</translation>
+    </message>
+    <message>
+        <source>Canada</source>
+        <translation>Kanada</translation>
+    </message>
+    <message>
+        <source>United Kingdom</source>
+        <translation>Großbritannien</translation>
+    </message>
+    <message>
+        <source>Germany</source>
+        <translation>Deutschland</translation>
+    </message>
+    <message>
+        <source>Netherlands</source>
+        <translation>Niederlande</translation>
+    </message>
+    <message>
+        <source>France</source>
+        <translation>Frankreich</translation>
+    </message>
+    <message>
+        <source>Sweden</source>
+        <translation>Schweden</translation>
+    </message>
+    <message>
+        <source>Switzerland</source>
+        <translation>Schweiz</translation>
+    </message>
+    <message>
+        <source>Finland</source>
+        <translation>Finnland</translation>
+    </message>
+    <message>
+        <source>Romania</source>
+        <translation>Rumänien</translation>
+    </message>
+    <message>
+        <source>Japan</source>
+        <translation>Japan</translation>
+    </message>
+    <message>
+        <source>Singapore</source>
+        <translation>Singapur</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Eigene</translation>
+    </message>
+    <message>
+        <source>DNS can go around Tor via: %1</source>
+        <translation>DNS kann an Tor vorbei über: %1</translation>
+    </message>
+    <message>
+        <source>DNS: not tested yet.</source>
+        <translation>DNS: noch nicht getestet.</translation>
+    </message>
+    <message>
+        <source>DNS: testing…</source>
+        <translation>DNS: Test läuft…</translation>
+    </message>
+    <message>
+        <source>DNS: a test lookup went through Tor.</source>
+        <translation>DNS: Eine Testabfrage ging durch Tor.</translation>
+    </message>
+    <message>
+        <source>DNS: settings point at Tor, but a test lookup couldn&apos;t be confirmed.</source>
+        <translation>DNS: Die Einstellungen zeigen auf Tor, aber eine Testabfrage ließ sich nicht bestätigen.</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>Dieser Computer</translation>
+    </message>
+    <message>
+        <source>This Mac</source>
+        <translation>Dieser Mac</translation>
+    </message>
+    <message>
+        <source>on this computer</source>
+        <translation>auf diesem Computer</translation>
+    </message>
+    <message>
+        <source>on this Mac</source>
+        <translation>auf diesem Mac</translation>
+    </message>
+    <message>
+        <source>Tor stopped running, and your network is no longer set up for it.</source>
+        <translation>Tor läuft nicht mehr, und Ihr Netzwerk ist nicht mehr dafür eingerichtet.</translation>
+    </message>
+    <message>
+        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go back online.</source>
+        <translation>Tor läuft nicht mehr. Der Notschalter sperrt wieder, aber ein anderes Programm hatte seine Regeln eine Zeit lang entfernt. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um online zu gehen.</translation>
+    </message>
+    <message>
+        <source>Tor stopped running, and the kill switch is open: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
+        <translation>Tor läuft nicht mehr, und der Notschalter ist offen: Ein anderes Programm hat seine Regeln entfernt. Daten können diesen Computer direkt verlassen. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her.</translation>
+    </message>
+    <message>
+        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go back online.</source>
+        <translation>Tor läuft nicht mehr, und es ist nicht bekannt, ob der Notschalter noch sperrt. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um online zu gehen.</translation>
+    </message>
+    <message>
+        <source>The watcher over Veldmark&apos;s firewall rules has stopped telling, so it isn&apos;t known whether the kill switch stands. Disconnect and connect again.</source>
+        <translation>Der Wächter über Veldmarks Firewall-Regeln meldet sich nicht mehr, also ist nicht bekannt, ob der Notschalter steht. Trennen Sie und verbinden Sie neu.</translation>
+    </message>
+    <message>
+        <source>Not Protected</source>
+        <translation>Nicht geschützt</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Verbinden…</translation>
+    </message>
+    <message>
+        <source>Disconnecting…</source>
+        <translation>Trennen…</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>Geschützt</translation>
+    </message>
+    <message>
+        <source>Proxy Active</source>
+        <translation>Proxy aktiv</translation>
+    </message>
+    <message>
+        <source>Needs Attention</source>
+        <translation>Handlung nötig</translation>
+    </message>
+    <message>
+        <source>DNS Leak</source>
+        <translation>DNS-Leck</translation>
+    </message>
+    <message>
+        <source>Kill Switch Open</source>
+        <translation>Notschalter offen</translation>
+    </message>
+    <message>
+        <source>Traffic may leave this computer directly</source>
+        <translation>Daten können diesen Computer direkt verlassen</translation>
+    </message>
+    <message>
+        <source>Lookups can go around Tor</source>
+        <translation>Namensabfragen können an Tor vorbei</translation>
+    </message>
+    <message>
+        <source>Lookups can go around Tor, and your real address can be seen</source>
+        <translation>Namensabfragen können an Tor vorbei, und Ihre echte Adresse ist sichtbar</translation>
+    </message>
+    <message>
+        <source>Your real address can be seen. Disconnect, or run the leak test again.</source>
+        <translation>Ihre echte Adresse ist sichtbar. Trennen Sie, oder wiederholen Sie den Lecktest.</translation>
+    </message>
+    <message>
+        <source>It can&apos;t be told whether the kill switch stands. Disconnect and connect again.</source>
+        <translation>Es lässt sich nicht sagen, ob der Notschalter steht. Trennen Sie und verbinden Sie neu.</translation>
+    </message>
+    <message>
+        <source>All traffic is locked to Tor, but the exit could not be confirmed</source>
+        <translation>Aller Verkehr ist auf Tor beschränkt, aber der Ausgang ließ sich nicht bestätigen</translation>
+    </message>
+    <message>
+        <source>Apps that use system proxy settings go through Tor, but the exit could not be confirmed</source>
+        <translation>Apps, die den System-Proxy benutzen, gehen durch Tor, aber der Ausgang ließ sich nicht bestätigen</translation>
+    </message>
+    <message>
+        <source>No Network</source>
+        <translation>Kein Netz</translation>
+    </message>
+    <message>
+        <source>Nothing Gets Through</source>
+        <translation>Nichts kommt durch</translation>
+    </message>
+    <message>
+        <source>This computer has no network. Nothing gets out around Tor meanwhile.</source>
+        <translation>Dieser Rechner hat kein Netz. Solange gelangt nichts an Tor vorbei nach draußen.</translation>
+    </message>
+    <message>
+        <source>This computer has no network. Veldmark goes on when it is back.</source>
+        <translation>Dieser Rechner hat kein Netz. Veldmark macht weiter, sobald es wieder da ist.</translation>
+    </message>
+    <message>
+        <source>Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile.</source>
+        <translation>Tor hat keinen funktionierenden Kanal und versucht es weiter. Solange gelangt nichts daran vorbei nach draußen.</translation>
+    </message>
+    <message>
+        <source>Tor has no working circuit and keeps trying.</source>
+        <translation>Tor hat keinen funktionierenden Kanal und versucht es weiter.</translation>
+    </message>
+    <message>
+        <source>Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile.</source>
+        <translation>Tor bekommt aus dem Netz keine Antwort und versucht es weiter. Solange gelangt nichts daran vorbei nach draußen.</translation>
+    </message>
+    <message>
+        <source>Tor gets no answer from the network and keeps trying.</source>
+        <translation>Tor bekommt aus dem Netz keine Antwort und versucht es weiter.</translation>
+    </message>
+    <message>
+        <source>Another program has ended this session and begun one of its own. Disconnect to end that.</source>
+        <translation>Ein anderes Programm hat diese Sitzung beendet und eine eigene begonnen. Trennen Sie, um jene zu beenden.</translation>
+    </message>
+    <message>
+        <source>This computer has no network, so Tor can&apos;t connect.</source>
+        <translation>Dieser Rechner hat kein Netz, daher kann Tor keine Verbindung herstellen.</translation>
+    </message>
+    <message>
+        <source>A VPN takes Tor&apos;s traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode.</source>
+        <translation>Ein VPN nimmt Tors Verkehr auf, und der strikte Modus lässt das VPN nicht hinaus. Schalten Sie das VPN aus, oder verwenden Sie den Proxy-Modus.</translation>
+    </message>
+    <message>
+        <source>Another program removed Veldmark&apos;s firewall rules; they are back in place.</source>
+        <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt; sie stehen wieder.</translation>
+    </message>
+    <message>
+        <source>Another program removed Veldmark&apos;s firewall rules and they could not be put back. Traffic may leave this computer directly. Disconnect and connect again.</source>
+        <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt, und sie ließen sich nicht wiederherstellen. Daten können diesen Computer direkt verlassen. Trennen Sie und verbinden Sie neu.</translation>
+    </message>
+    <message>
+        <source>Invalid exit country.</source>
+        <translation>Ungültiges Ausgangsland.</translation>
+    </message>
+    <message>
+        <source>The settings couldn&apos;t be saved. Changes to them may last only until you quit.</source>
+        <translation>Die Einstellungen konnten nicht gespeichert werden. Änderungen gelten vielleicht nur bis zum Beenden.</translation>
+    </message>
+    <message>
+        <source>Checking latest version…</source>
+        <translation>Neueste Version wird gesucht …</translation>
+    </message>
+    <message>
+        <source>Verifying signature…</source>
+        <translation>Signatur wird geprüft …</translation>
+    </message>
+    <message>
+        <source>Another download is under way.</source>
+        <translation>Es läuft schon ein anderer Download.</translation>
+    </message>
+    <message>
+        <source>Path not responding, finding another…</source>
+        <translation>Der Weg antwortet nicht, ein anderer wird gesucht …</translation>
+    </message>
+    <message>
+        <source>Tor didn&apos;t finish connecting within 5 minutes.</source>
+        <translation>Tor hat die Verbindung nicht innerhalb von 5 Minuten aufgebaut.</translation>
+    </message>
+    <message>
+        <source>Administrator access was refused, or the agent that asks for the password gave no answer.</source>
+        <translation>Der Administratorzugriff wurde verweigert, oder der Agent, der nach dem Passwort fragt, gab keine Antwort.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, so Tor can&apos;t connect: %1.</source>
+        <translation>Eine andere Firewall auf diesem Computer verwehrt ausgehende Verbindungen, daher kann Tor sich nicht verbinden: %1.</translation>
+    </message>
+    <message>
+        <source>Setup ran but the helper wasn&apos;t installed. Try again.</source>
+        <translation>Die Einrichtung lief, aber das Hilfsprogramm wurde nicht installiert. Versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The helper failed without an error message.</source>
+        <translation>Das Hilfsprogramm ist ohne Fehlermeldung gescheitert.</translation>
+    </message>
+    <message>
+        <source>Add at least one bridge under Bridges → Custom….</source>
+        <translation>Tragen Sie unter Brücken → Eigene… mindestens eine Brücke ein.</translation>
+    </message>
+    <message>
+        <source>Some custom bridge lines aren&apos;t valid. Fix them under Bridges → Custom….</source>
+        <translation>Einige eigene Brückenzeilen sind ungültig. Berichtigen Sie sie unter Brücken → Eigene….</translation>
+    </message>
+    <message>
+        <source>At most %1 custom bridges can be used. Remove some under Bridges → Custom….</source>
+        <translation>Höchstens %1 eigene Brücken können benutzt werden. Entfernen Sie einige unter Brücken → Eigene….</translation>
+    </message>
+    <message>
+        <source>Testing %1 bridges…</source>
+        <translation>%1 Brücken werden getestet …</translation>
+    </message>
+    <message>
+        <source>Testing speed (%1 of %2)…</source>
+        <translation>Geschwindigkeit wird getestet (%1 von %2) …</translation>
+    </message>
+    <message>
+        <source>Slow path (%1 ms), finding a faster one…</source>
+        <translation>Langsamer Weg (%1 ms), ein schnellerer wird gesucht …</translation>
+    </message>
+    <message>
+        <source>Downloading Tor %1 bridge programs…</source>
+        <translation>Brückenprogramme von Tor %1 werden geladen …</translation>
+    </message>
+    <message>
+        <source>Download of %1 failed (HTTP %2).</source>
+        <translation>Der Download ist gescheitert: %1 (HTTP %2).</translation>
+    </message>
+    <message>
+        <source>The settings file couldn&apos;t be read. It was kept as %1, and a new one is used.</source>
+        <translation>Die Einstellungsdatei konnte nicht gelesen werden. Sie wurde als %1 aufgehoben, und eine neue wird benutzt.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 can&apos;t be read or replaced. Changes to the settings last until you quit.</source>
+        <translation>Die Einstellungsdatei %1 kann weder gelesen noch ersetzt werden. Änderungen gelten bis zum Beenden.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t open %1 without Tor: %2</source>
+        <translation>%1 konnte nicht ohne Tor geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <source>Another Veldmark of yours has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <translation>Ein anderes Veldmark von Ihnen hat inzwischen eine Sitzung begonnen; es wurde nichts beendet. Trennen Sie noch einmal, um sie zu beenden.</translation>
+    </message>
+    <message>
+        <source>Another user&apos;s Veldmark has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <translation>Das Veldmark eines anderen Benutzers hat inzwischen eine Sitzung begonnen; es wurde nichts beendet. Trennen Sie noch einmal, um sie zu beenden.</translation>
+    </message>
+    <message>
+        <source>Your network is set up for Tor by another Veldmark of yours, process %1</source>
+        <translation>Ihr Netzwerk ist durch ein anderes Veldmark von Ihnen auf Tor eingestellt, Prozess %1</translation>
+    </message>
+    <message>
+        <source>Your network is set up for Tor by %1, whose Veldmark is process %2</source>
+        <translation>Ihr Netzwerk ist durch %1 auf Tor eingestellt, mit Veldmark als Prozess %2</translation>
+    </message>
+    <message>
+        <source>Another Veldmark of yours is connected (process %1). Disconnect it, or restore the network, first.</source>
+        <translation>Ein anderes Veldmark von Ihnen ist verbunden (Prozess %1). Trennen Sie es zuerst, oder stellen Sie das Netzwerk wieder her.</translation>
+    </message>
+    <message>
+        <source>%1 is connected with Veldmark (process %2). That session must be ended first.</source>
+        <translation>%1 ist mit Veldmark verbunden (Prozess %2). Diese Sitzung muss zuerst beendet werden.</translation>
+    </message>
+    <message>
+        <source>%1 Your network is still pointed at Tor. Click Restore Network to undo.</source>
+        <translation>%1 Ihr Netzwerk ist noch auf Tor eingestellt. Klicken Sie auf „Netzwerk wiederherstellen“, um das rückgängig zu machen.</translation>
+    </message>
+    <message>
+        <source>ssh doesn&apos;t go through Tor yet: it needs a netcat that speaks SOCKS. Install the OpenBSD netcat or Ncat with your package manager.</source>
+        <translation>ssh geht noch nicht durch Tor: Es braucht ein netcat, das SOCKS spricht. Installieren Sie das netcat von OpenBSD oder Ncat mit Ihrer Paketverwaltung.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t set up terminal mode: %1</source>
+        <translation>Der Terminalmodus konnte nicht eingerichtet werden: %1</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t remove terminal integration: %1</source>
+        <translation>Die Terminal-Einbindung konnte nicht entfernt werden: %1</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t set up passwordless mode: %1</source>
+        <translation>Der Modus ohne Passwort konnte nicht eingerichtet werden: %1</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t remove passwordless mode: %1</source>
+        <translation>Der Modus ohne Passwort konnte nicht entfernt werden: %1</translation>
+    </message>
+    <message>
+        <source>ssh doesn&apos;t go through Tor yet: it needs a netcat that speaks SOCKS. Install one with: %1</source>
+        <translation>ssh geht noch nicht durch Tor: Es braucht ein netcat, das SOCKS spricht. Installieren Sie eines mit: %1</translation>
+    </message>
+    <message>
+        <source>Connect in strict mode to open apps without Tor</source>
+        <translation>Verbinden Sie im strikten Modus, um Apps ohne Tor zu öffnen</translation>
+    </message>
+    <message>
+        <source>No bridge answered a quick test, trying them all</source>
+        <translation>Keine Brücke hat im Schnelltest geantwortet; alle werden versucht</translation>
+    </message>
+    <message>
+        <source>These bridges need lyrebird, which comes with Tor Browser. Click Download next to Bridges to get it.</source>
+        <translation>Diese Brücken brauchen lyrebird, das mit dem Tor Browser kommt. Klicken Sie bei „Brücken“ auf „Herunterladen“.</translation>
+    </message>
+    <message>
+        <source>Snowflake needs snowflake-client, which comes with Tor Browser. Click Download next to Bridges to get it.</source>
+        <translation>Snowflake braucht snowflake-client, das mit dem Tor Browser kommt. Klicken Sie bei „Brücken“ auf „Herunterladen“.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t read the latest Tor version from torproject.org.</source>
+        <translation>Die neueste Version von Tor war auf torproject.org nicht zu lesen.</translation>
+    </message>
+    <message>
+        <source>The request timed out.</source>
+        <translation>Die Anfrage hat zu lange gedauert.</translation>
+    </message>
+    <message>
+        <source>The server gave no HTTP answer.</source>
+        <translation>Der Server hat nicht mit HTTP geantwortet.</translation>
+    </message>
+    <message>
+        <source>The connection was lost before the end.</source>
+        <translation>Die Verbindung ist vor dem Ende abgerissen.</translation>
+    </message>
+    <message>
+        <source>Not connected to Tor&apos;s control port.</source>
+        <translation>Es besteht keine Verbindung zu Tors Steuerport.</translation>
+    </message>
+    <message>
+        <source>Tor closed the control connection.</source>
+        <translation>Tor hat die Steuerverbindung beendet.</translation>
+    </message>
+    <message>
+        <source>Another program than Tor listens on Tor&apos;s control port.</source>
+        <translation>An Tors Steuerport lauscht ein anderes Programm als Tor.</translation>
+    </message>
+    <message>
+        <source>Tor didn&apos;t answer on its control port in time.</source>
+        <translation>Tor hat an seinem Steuerport nicht rechtzeitig geantwortet.</translation>
+    </message>
+    <message>
+        <source>Tor isn&apos;t installed. Install it with your package manager or set its location in Settings.</source>
+        <translation>Tor ist nicht installiert. Installieren Sie es mit Ihrer Paketverwaltung, oder geben Sie in den Einstellungen seinen Ort an.</translation>
+    </message>
+    <message>
+        <source>Tor isn&apos;t installed. Install it with Homebrew (brew install tor) or set its location in Settings.</source>
+        <translation>Tor ist nicht installiert. Installieren Sie es mit Homebrew (brew install tor), oder geben Sie in den Einstellungen seinen Ort an.</translation>
+    </message>
+    <message>
+        <source>The helper script is missing from the app bundle. Rebuild the app with build.sh.</source>
+        <translation>Im Programmpaket fehlt das Hilfsskript. Bauen Sie das Programm mit build.sh neu.</translation>
+    </message>
+    <message>
+        <source>Administrator access can&apos;t be asked for: polkit is not running on this system.</source>
+        <translation>Nach den Rechten eines Administrators kann nicht gefragt werden: polkit läuft auf diesem System nicht.</translation>
+    </message>
+    <message>
+        <source>Administrator access can&apos;t be asked for: no PolicyKit authentication agent is running in this session.</source>
+        <translation>Nach den Rechten eines Administrators kann nicht gefragt werden: In dieser Sitzung läuft kein PolicyKit-Agent.</translation>
+    </message>
+    <message>
+        <source>The password could not be checked: polkit takes none from this terminal. Run it with sudo.</source>
+        <translation>Das Passwort konnte nicht geprüft werden: polkit nimmt von diesem Terminal keines an. Nehmen Sie sudo.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t fix DNS: %1</source>
+        <translation>DNS konnte nicht berichtigt werden: %1</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t request a new identity: %1</source>
+        <translation>Um eine neue Identität konnte nicht gebeten werden: %1</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t read circuits: %1</source>
+        <translation>Die Kanäle konnten nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t change the login-item setting: %1</source>
+        <translation>Der Start bei der Anmeldung konnte nicht geändert werden: %1</translation>
+    </message>
+    <message>
+        <source>Login items can&apos;t be changed here.</source>
+        <translation>Anmeldeobjekte lassen sich hier nicht ändern.</translation>
+    </message>
+    <message>
+        <source>Move Veldmark to the Applications folder and open it from there first.</source>
+        <translation>Bewegen Sie Veldmark zuerst in den Ordner „Programme“ und öffnen Sie es von dort.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t remove %1.</source>
+        <translation>%1 ließ sich nicht entfernen.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t write %1: %2</source>
+        <translation>%1 ließ sich nicht schreiben: %2</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t download bridge programs: %1</source>
+        <translation>Die Brückenprogramme konnten nicht heruntergeladen werden: %1</translation>
+    </message>
+    <message>
+        <source>Bridge programs %1 installed over HTTPS. Install GnuPG (%2) and download again to also verify the Tor Project&apos;s signature.</source>
+        <translation>Brückenprogramme %1 über HTTPS installiert. Installieren Sie GnuPG (%2) und laden Sie noch einmal herunter, um auch die Signatur des Tor-Projekts zu prüfen.</translation>
+    </message>
+    <message>
+        <source>The download&apos;s signature didn&apos;t verify, so it was discarded. %1</source>
+        <translation>Die Signatur des Downloads stimmt nicht, er wurde verworfen. %1</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t unpack the download. %1</source>
+        <translation>Der Download konnte nicht entpackt werden. %1</translation>
+    </message>
+    <message>
+        <source>Tor can&apos;t reach the bridge program: %1.</source>
+        <translation>Tor erreicht das Brückenprogramm nicht: %1.</translation>
+    </message>
+    <message>
+        <source>Tor reports: %1 (%2).</source>
+        <translation>Tor meldet: %1 (%2).</translation>
+    </message>
+    <message>
+        <source>Tor reports: %1.</source>
+        <translation>Tor meldet: %1.</translation>
+    </message>
+    <message>
+        <source>Tor replied: %1</source>
+        <translation>Tor hat geantwortet: %1</translation>
+    </message>
+    <message>
+        <source>Tor has trouble with the bridge program: %1</source>
+        <translation>Tor hat Schwierigkeiten mit dem Brückenprogramm: %1</translation>
+    </message>
+    <message>
+        <source>The bridge program printed something that Tor doesn&apos;t understand: &quot;%1&quot;.</source>
+        <translation>Das Brückenprogramm hat etwas ausgegeben, was Tor nicht versteht: „%1“.</translation>
+    </message>
+    <message>
+        <source>Using the %1 fastest of %2 bridges</source>
+        <translation>Die %1 schnellsten von %2 Brücken werden benutzt</translation>
+    </message>
+    <message>
+        <source>The %1 bridge type isn&apos;t supported yet.</source>
+        <translation>Brücken der Art %1 werden noch nicht unterstützt.</translation>
+    </message>
+    <message>
+        <source>Built-in %1 bridges come from Tor Browser. Click Download next to Bridges, install Tor Browser, or paste your own under Bridges → Custom….</source>
+        <translation>Mitgelieferte %1-Brücken kommen aus dem Tor Browser. Klicken Sie bei „Brücken“ auf „Herunterladen“, installieren Sie den Tor Browser, oder fügen Sie unter „Brücken → Eigene…“ eigene ein.</translation>
+    </message>
+    <message>
+        <source>Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around Tor: %1.</source>
+        <translation>Manche DNS-Einstellungen kommen von außerhalb von Veldmark (einem VPN oder /etc/resolver) und führen noch an Tor vorbei: %1.</translation>
+    </message>
+    <message>
+        <source>Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around Tor: %1. Strict mode&apos;s firewall blocks them.</source>
+        <translation>Manche DNS-Einstellungen kommen von außerhalb von Veldmark (einem VPN oder /etc/resolver) und führen noch an Tor vorbei: %1. Die Firewall des strikten Modus sperrt sie.</translation>
+    </message>
+    <message>
+        <source>Tor isn&apos;t installed. Install it with your package manager (%1) or set its location in Settings.</source>
+        <translation>Tor ist nicht installiert. Installieren Sie es mit Ihrer Paketverwaltung (%1), oder geben Sie in den Einstellungen seinen Ort an.</translation>
+    </message>
+    <message>
+        <source>%1 is already being opened.</source>
+        <translation>%1 wird schon geöffnet.</translation>
+    </message>
+    <message>
+        <source>A session is open, and its kill switch isn&apos;t closed: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
+        <translation>Eine Sitzung ist offen, und ihr Notschalter ist nicht geschlossen: Ihr Wächter konnte die Regeln nicht wiederherstellen. Daten können diesen Computer direkt verlassen. Stellen Sie das Netzwerk wieder her, und verbinden Sie neu.</translation>
+    </message>
+    <message>
+        <source>The clock is behind: it shows %1, but the file %2 was written on %3. Tor needs a clock that is right to within minutes.</source>
+        <translation>Die Uhr geht nach: Sie zeigt %1, aber die Datei %2 wurde am %3 geschrieben. Tor braucht eine Uhr, die auf Minuten genau geht.</translation>
+    </message>
+    <message>
+        <source>The clock is set from the network. It shows %1.</source>
+        <translation>Die Uhr wird über das Netz gestellt. Sie zeigt %1.</translation>
+    </message>
+    <message>
+        <source>Whether the clock is right isn&apos;t known: nothing is seen to set it from the network. It shows %1. Tor needs it right to within minutes.</source>
+        <translation>Ob die Uhr richtig geht, ist nicht bekannt: Nichts ist zu sehen, das sie über das Netz stellt. Sie zeigt %1. Tor braucht sie auf Minuten genau.</translation>
+    </message>
+    <message>
+        <source>nftables isn&apos;t installed. Veldmark&apos;s firewall needs it.</source>
+        <translation>nftables ist nicht installiert. Veldmarks Firewall braucht es.</translation>
+    </message>
+    <message>
+        <source>The system&apos;s firewall, nftables, can be used.</source>
+        <translation>Die Firewall des Systems, nftables, lässt sich benutzen.</translation>
+    </message>
+    <message>
+        <source>The system&apos;s firewall can&apos;t be used: %1</source>
+        <translation>Die Firewall des Systems lässt sich nicht benutzen: %1</translation>
+    </message>
+    <message>
+        <source>The kernel that runs (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
+        <translation>Der laufende Kernel (%1) hat kein nftables. Starten Sie nach einer Aktualisierung des Kernels den Computer neu.</translation>
+    </message>
+    <message>
+        <source>nftables is installed. Whether the kernel that runs can use it is known to root only.</source>
+        <translation>nftables ist installiert. Ob der laufende Kernel es nutzen kann, weiß nur root.</translation>
+    </message>
+    <message>
+        <source>nftables is installed, and the kernel has it.</source>
+        <translation>nftables ist installiert, und der Kernel hat es.</translation>
+    </message>
+    <message>
+        <source>This system has no control groups of version 2, so no application can be opened without Tor, and the kill switch knows Tor by its account alone. Everything else works.</source>
+        <translation>Dieses System hat keine Kontrollgruppen der Version 2, daher lässt sich keine Anwendung ohne Tor öffnen, und der Notschalter erkennt Tor allein an dessen Konto. Alles andere geht.</translation>
+    </message>
+    <message>
+        <source>The kernel (%1) is older than 5.13, so no application can be opened without Tor, and the kill switch knows Tor by its account alone. Everything else works.</source>
+        <translation>Der Kernel (%1) ist älter als 5.13, daher lässt sich keine Anwendung ohne Tor öffnen, und der Notschalter erkennt Tor allein an dessen Konto. Alles andere geht.</translation>
+    </message>
+    <message>
+        <source>Applications can be opened without Tor: control groups of version 2 are there.</source>
+        <translation>Anwendungen lassen sich ohne Tor öffnen: Kontrollgruppen der Version 2 sind da.</translation>
+    </message>
+    <message>
+        <source>No other firewall that is known by name runs. The rules themselves are known to root only.</source>
+        <translation>Keine andere dem Namen nach bekannte Firewall läuft. Die Regeln selbst kennt nur root.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out unless one of its rules allows it, so Tor may not get through: %1.</source>
+        <translation>Eine andere Firewall auf diesem Computer verwehrt ausgehende Verbindungen, die keine ihrer Regeln erlaubt; Tor kommt womöglich nicht durch: %1.</translation>
+    </message>
+    <message>
+        <source>Other programs set firewall rules here: %1. Veldmark leaves their rules alone. Rules that drop packets can block Tor.</source>
+        <translation>Andere Programme setzen hier Firewall-Regeln: %1. Veldmark lässt ihre Regeln in Ruhe. Regeln, die Pakete verwerfen, können Tor sperren.</translation>
+    </message>
+    <message>
+        <source>pkexec isn&apos;t installed, so no window can ask for the administrator&apos;s password.</source>
+        <translation>pkexec ist nicht installiert, daher kann kein Fenster nach dem Administratorpasswort fragen.</translation>
+    </message>
+    <message>
+        <source>polkit isn&apos;t installed, so no window can ask for the administrator&apos;s password.</source>
+        <translation>polkit ist nicht installiert, daher kann kein Fenster nach dem Administratorpasswort fragen.</translation>
+    </message>
+    <message>
+        <source>There is no desktop here on which a window could ask for the administrator&apos;s password. Use sudo.</source>
+        <translation>Hier ist keine Arbeitsfläche, auf der ein Fenster nach dem Administratorpasswort fragen könnte. Benutzen Sie sudo.</translation>
+    </message>
+    <message>
+        <source>No program that is known to ask for polkit&apos;s passwords (an agent) runs in your session. Without one, use sudo, or start an agent such as lxpolkit.</source>
+        <translation>In Ihrer Sitzung läuft kein bekanntes Programm, das nach polkits Passwörtern fragt (ein Agent). Benutzen Sie ohne einen solchen sudo oder starten Sie einen Agenten wie lxpolkit.</translation>
+    </message>
+    <message>
+        <source>polkit is there, and a program that asks for its passwords runs in your session.</source>
+        <translation>polkit ist da, und in Ihrer Sitzung läuft ein Programm, das nach seinen Passwörtern fragt.</translation>
+    </message>
+    <message>
+        <source>Veldmark runs as root here and asks for no password.</source>
+        <translation>Veldmark läuft hier als root und fragt nach keinem Passwort.</translation>
+    </message>
+    <message>
+        <source>Connecting without a password is set up.</source>
+        <translation>Das Verbinden ohne Passwort ist eingerichtet.</translation>
+    </message>
+    <message>
+        <source>sudo isn&apos;t installed. Connecting without a password needs it.</source>
+        <translation>sudo ist nicht installiert. Das Verbinden ohne Passwort braucht es.</translation>
+    </message>
+    <message>
+        <source>sudo is installed. Whether you may use it is known to root only.</source>
+        <translation>sudo ist installiert. Ob Sie es benutzen dürfen, weiß nur root.</translation>
+    </message>
+    <message>
+        <source>sudo is installed, and you are in the group %1.</source>
+        <translation>sudo ist installiert, und Sie sind in der Gruppe %1.</translation>
+    </message>
+    <message>
+        <source>The port %1, which Tor needs, is held by a program of the account %2.</source>
+        <translation>Den Port %1, den Tor braucht, belegt ein Programm des Kontos %2.</translation>
+    </message>
+    <message>
+        <source>The system&apos;s own Tor service (%1) runs. Veldmark stops it while it is connected and starts it again afterwards.</source>
+        <translation>Der Tor-Dienst des Systems (%1) läuft. Veldmark hält ihn an, solange es verbunden ist, und startet ihn danach wieder.</translation>
+    </message>
+    <message>
+        <source>The port %1, which Tor needs, is held by %2 (process %3, account %4).</source>
+        <translation>Den Port %1, den Tor braucht, belegt %2 (Prozess %3, Konto %4).</translation>
+    </message>
+    <message>
+        <source>Veldmark&apos;s own Tor holds the ports 9050, 9051 and 293.</source>
+        <translation>Veldmarks eigenes Tor belegt die Ports 9050, 9051 und 293.</translation>
+    </message>
+    <message>
+        <source>The ports that Tor needs (9050, 9051 and 293) are free.</source>
+        <translation>Die Ports, die Tor braucht (9050, 9051 und 293), sind frei.</translation>
+    </message>
+    <message>
+        <source>The location of Tor in the settings, %1, is no program that can run. The usual places are searched instead.</source>
+        <translation>Der Ort von Tor in den Einstellungen, %1, ist kein ausführbares Programm. Stattdessen wird an den üblichen Orten gesucht.</translation>
+    </message>
+    <message>
+        <source>Tor isn&apos;t installed.</source>
+        <translation>Tor ist nicht installiert.</translation>
+    </message>
+    <message>
+        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it doesn&apos;t tell its version.</source>
+        <translation>%1 startet nicht oder ist nicht Tor: Es nennt seine Version nicht.</translation>
+    </message>
+    <message>
+        <source>Tor %1 is installed: %2.</source>
+        <translation>Tor %1 ist installiert: %2.</translation>
+    </message>
+    <message>
+        <source>The program %1 is missing. Veldmark&apos;s helper needs it.</source>
+        <translation>Das Programm %1 fehlt. Veldmarks Helfer braucht es.</translation>
+    </message>
+    <message>
+        <source>Every program that Veldmark&apos;s helper calls is installed.</source>
+        <translation>Alle Programme, die Veldmarks Helfer aufruft, sind installiert.</translation>
+    </message>
+    <message>
+        <source>Veldmark&apos;s helper script is missing. Install Veldmark again.</source>
+        <translation>Veldmarks Helferskript fehlt. Installieren Sie Veldmark neu.</translation>
+    </message>
+    <message>
+        <source>Veldmark&apos;s helper, %1, lies where others than root can write. They can change it, and with it what the administrator&apos;s password runs.</source>
+        <translation>Veldmarks Helfer, %1, liegt, wo außer root noch andere schreiben können. Sie können ihn ändern und damit auch, was das Administratorpasswort ausführt.</translation>
+    </message>
+    <message>
+        <source>Veldmark&apos;s helper, %1, is not an installed one: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
+        <translation>Veldmarks Helfer, %1, ist kein installierter: Das Konto %2 kann ihn ändern und damit auch, was das Administratorpasswort ausführt.</translation>
+    </message>
+    <message>
+        <source>Veldmark&apos;s helper is installed, and only root can change it: %1.</source>
+        <translation>Veldmarks Helfer ist installiert, und nur root kann ihn ändern: %1.</translation>
+    </message>
+    <message>
+        <source>The helper that runs without a password is not this version&apos;s. Set up connecting without a password again in Settings, General.</source>
+        <translation>Der Helfer, der ohne Passwort läuft, gehört nicht zu dieser Version. Richten Sie das Verbinden ohne Passwort in den Einstellungen unter Allgemein neu ein.</translation>
+    </message>
+    <message>
+        <source>Bridges are off. Where Tor is blocked they need bridge programs, and none was found.</source>
+        <translation>Brücken sind aus. Wo Tor gesperrt ist, brauchen sie Brückenprogramme, und es wurde keines gefunden.</translation>
+    </message>
+    <message>
+        <source>Bridges are off. Bridge programs were found: %1.</source>
+        <translation>Brücken sind aus. Gefundene Brückenprogramme: %1.</translation>
+    </message>
+    <message>
+        <source>The chosen bridges can&apos;t be used. %1</source>
+        <translation>Die gewählten Brücken lassen sich nicht benutzen. %1</translation>
+    </message>
+    <message>
+        <source>The chosen bridges (%1) can be used: %2.</source>
+        <translation>Die gewählten Brücken (%1) lassen sich benutzen: %2.</translation>
+    </message>
+    <message>
+        <source>Names are looked up as %1 says. Veldmark switches that over and back.</source>
+        <translation>Namen werden aufgelöst, wie %1 es vorgibt. Veldmark stellt das um und zurück.</translation>
+    </message>
+    <message>
+        <source>%1 is Veldmark&apos;s. It names Tor as the name server.</source>
+        <translation>%1 ist von Veldmark. Als Nameserver steht dort Tor.</translation>
+    </message>
+    <message>
+        <source>There is no file %1, so names may not be looked up at all.</source>
+        <translation>Es gibt keine Datei %1, daher werden Namen vielleicht gar nicht aufgelöst.</translation>
+    </message>
+    <message>
+        <source>Names are looked up by a resolver on this computer. Veldmark switches that over and back.</source>
+        <translation>Namen löst ein Resolver auf diesem Computer auf. Veldmark stellt das um und zurück.</translation>
+    </message>
+    <message>
+        <source>No earlier session is left open.</source>
+        <translation>Keine frühere Sitzung ist offen geblieben.</translation>
+    </message>
+    <message>
+        <source>A Tor of an earlier session still runs (process %1).</source>
+        <translation>Ein Tor einer früheren Sitzung läuft noch (Prozess %1).</translation>
+    </message>
+    <message>
+        <source>A session is open: the network is set up for Tor, and Tor runs.</source>
+        <translation>Eine Sitzung ist offen: Das Netzwerk ist für Tor eingerichtet, und Tor läuft.</translation>
+    </message>
+    <message>
+        <source>The network is set up for Tor. Whether Tor still runs isn&apos;t known here.</source>
+        <translation>Das Netzwerk ist für Tor eingerichtet. Ob Tor noch läuft, ist hier nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>The network is still set up for Tor from an earlier session, and no Tor runs. Connect again, or restore the network.</source>
+        <translation>Das Netzwerk ist noch von einer früheren Sitzung für Tor eingerichtet, und es läuft kein Tor. Verbinden Sie sich wieder oder stellen Sie das Netzwerk wieder her.</translation>
+    </message>
+    <message>
+        <source>A session is open, and it isn&apos;t known whether its kill switch stands: nobody watches over the rules. Restore the network, and connect again.</source>
+        <translation>Eine Sitzung ist offen, und ob ihr Notschalter geschlossen ist, ist nicht bekannt: Niemand wacht über die Regeln. Stellen Sie das Netzwerk wieder her, und verbinden Sie neu.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB (%3%)</source>
+        <translation>%1 von %2 MB (%3 %)</translation>
+    </message>
+    <message>
+        <source>Veldmark needs administrator access to manage Tor routing on this computer. The system&apos;s own Tor service, where it runs, is stopped meanwhile.</source>
+        <translation>Veldmark braucht die Rechte eines Administrators, um den Weg durch Tor auf diesem Computer zu verwalten. Der Tor-Dienst des Systems wird solange angehalten, wenn er läuft.</translation>
+    </message>
+    <message>
+        <source>Veldmark needs administrator access to manage Tor routing on this Mac.</source>
+        <translation>Veldmark braucht die Rechte eines Administrators, um den Weg durch Tor auf diesem Mac zu verwalten.</translation>
+    </message>
+    <message>
+        <source>The archive holds %1: %2</source>
+        <translation>Im Archiv ist %1: %2</translation>
+    </message>
+    <message>
+        <source>a link that leads elsewhere</source>
+        <translation>ein Verweis, der nach außerhalb führt</translation>
+    </message>
+    <message>
+        <source>a hard link</source>
+        <translation>ein harter Verweis</translation>
+    </message>
+    <message>
+        <source>what is neither file nor folder</source>
+        <translation>etwas, das weder Datei noch Ordner ist</translation>
+    </message>
+    <message>
+        <source>a path that leads elsewhere</source>
+        <translation>ein Pfad, der nach außerhalb führt</translation>
+    </message>
+    <message>
+        <source>The archive is empty or no archive.</source>
+        <translation>Das Archiv ist leer oder gar kein Archiv.</translation>
+    </message>
+    <message>
+        <source>The archive&apos;s list of files is not clear.</source>
+        <translation>Das Inhaltsverzeichnis des Archivs ist nicht eindeutig.</translation>
+    </message>
+    <message>
+        <source>The archive holds too many files.</source>
+        <translation>Im Archiv sind zu viele Dateien.</translation>
+    </message>
+    <message>
+        <source>The archive&apos;s content is too large.</source>
+        <translation>Der Inhalt des Archivs ist zu groß.</translation>
+    </message>
+    <message>
+        <source>The archive&apos;s content could not be listed.</source>
+        <translation>Der Inhalt des Archivs ließ sich nicht auflisten.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t make the folder %1: %2.</source>
+        <translation>Der Ordner %1 konnte nicht angelegt werden: %2.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t open %1: %2.</source>
+        <translation>%1 konnte nicht geöffnet werden: %2.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t make a folder beside %1: %2.</source>
+        <translation>Neben %1 konnte kein Ordner angelegt werden: %2.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t write %1: %2.</source>
+        <translation>%1 konnte nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 didn&apos;t end within %2 minutes.</source>
+        <translation>%1 ist in %2 Minuten nicht fertig geworden.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t load the Tor Browser signing key. %1</source>
+        <translation>Der Signaturschlüssel des Tor Browsers ließ sich nicht laden. %1</translation>
+    </message>
+    <message>
+        <source>The server sent more than %1 can be.</source>
+        <translation>Der Server hat mehr gesandt, als hier sein kann: %1.</translation>
+    </message>
+    <message>
+        <source>the version index</source>
+        <translation>Versionsverzeichnis</translation>
+    </message>
+    <message>
+        <source>the bridge programs</source>
+        <translation>Brückenprogramme</translation>
+    </message>
+    <message>
+        <source>signature</source>
+        <translation>Signatur</translation>
+    </message>
+    <message>
+        <source>signing key</source>
+        <translation>Signaturschlüssel</translation>
+    </message>
+    <message>
+        <source>Installing…</source>
+        <translation>Wird installiert …</translation>
+    </message>
+    <message>
+        <source>No applications are installed.</source>
+        <translation>Es sind keine Anwendungen installiert.</translation>
+    </message>
+    <message>
+        <source>(not in the menu)</source>
+        <translation>(nicht im Menü)</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>Die Datei „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>There is no application &quot;%1&quot;; &quot;veldmarkctl apps&quot; lists them.</source>
+        <translation>Eine Anwendung „%1“ gibt es nicht; „veldmarkctl apps“ zählt sie auf.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; may be any of: %2. Give the path.</source>
+        <translation>„%1“ kann jede von diesen sein: %2. Geben Sie den Pfad an.</translation>
+    </message>
+    <message>
+        <source>%1 needs a key: veldmarkctl %1 KEY.</source>
+        <translation>%1 braucht einen Schlüssel: veldmarkctl %1 KEY.</translation>
+    </message>
+    <message>
+        <source>%1 needs a key and a value: veldmarkctl %1 KEY VALUE.</source>
+        <translation>%1 braucht einen Schlüssel und einen Wert: veldmarkctl %1 KEY VALUE.</translation>
+    </message>
+    <message>
+        <source>What should I do? &quot;veldmarkctl help&quot; lists the commands.</source>
+        <translation>Was soll geschehen? „veldmarkctl help“ zählt die Befehle auf.</translation>
+    </message>
+    <message>
+        <source>Unknown command %1. &quot;veldmarkctl help&quot; lists the commands.</source>
+        <translation>Unbekannter Befehl %1. „veldmarkctl help“ zählt die Befehle auf.</translation>
+    </message>
+    <message>
+        <source>%1 has no option %2.</source>
+        <translation>%1 hat keine Option %2.</translation>
+    </message>
+    <message>
+        <source>%1 doesn&apos;t take %2.</source>
+        <translation>%1 kann mit %2 nichts anfangen.</translation>
+    </message>
+    <message>
+        <source>usage: veldmarkctl COMMAND</source>
+        <translation>Aufruf: veldmarkctl BEFEHL</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 done, 1 failed (the reason is on standard error), 2 wrong usage,
+3 Veldmark is not running, 4 Veldmark is already running.</source>
+        <translation>Rückgabewert: 0 getan, 1 gescheitert (der Grund steht auf der Standardfehlerausgabe),
+2 falscher Aufruf, 3 Veldmark läuft nicht, 4 Veldmark läuft schon.</translation>
+    </message>
+    <message>
+        <source>line %1 is not a bridge line: %2</source>
+        <translation>Zeile %1 ist keine Brückenzeile: %2</translation>
+    </message>
+    <message>
+        <source>%1 too many, from line %2 on; at most %3 can be used</source>
+        <translation>%1 zu viel, ab Zeile %2; höchstens %3 können benutzt werden</translation>
+    </message>
+    <message>
+        <source>Programs</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>nicht gefunden</translation>
+    </message>
+    <message>
+        <source>doesn&apos;t say what it serves</source>
+        <translation>sagt nicht, was es bietet</translation>
+    </message>
+    <message>
+        <source>serves %1</source>
+        <translation>bietet %1</translation>
+    </message>
+    <message>
+        <source>Built-in bridges</source>
+        <translation>Mitgelieferte Brücken</translation>
+    </message>
+    <message>
+        <source>Built-in bridges, from %1</source>
+        <translation>Mitgelieferte Brücken, aus %1</translation>
+    </message>
+    <message>
+        <source>none; get some with: veldmarkctl download-transports</source>
+        <translation>keine; holen Sie welche mit: veldmarkctl download-transports</translation>
+    </message>
+    <message>
+        <source>signature verified</source>
+        <translation>Signatur geprüft</translation>
+    </message>
+    <message>
+        <source>signature not verified</source>
+        <translation>Signatur nicht geprüft</translation>
+    </message>
+    <message>
+        <source>not downloaded</source>
+        <translation>nicht heruntergeladen</translation>
+    </message>
+    <message>
+        <source>Your own bridges</source>
+        <translation>Eigene Brücken</translation>
+    </message>
+    <message>
+        <source>%1 valid</source>
+        <translation>%1 gültig</translation>
+    </message>
+    <message>
+        <source>Installed Tor Expert Bundle %1, signature verified.</source>
+        <translation>Tor Expert Bundle %1 ist installiert, die Signatur wurde geprüft.</translation>
+    </message>
+    <message>
+        <source>Veldmark isn&apos;t running. Start it with: veldmarkctl run --connect</source>
+        <translation>Veldmark läuft nicht. Starten Sie es mit: veldmarkctl run --connect</translation>
+    </message>
+    <message>
+        <source>There is no field &quot;%1&quot;. Fields: %2.</source>
+        <translation>Ein Feld „%1“ gibt es nicht. Felder: %2.</translation>
+    </message>
+    <message>
+        <source>list the commands</source>
+        <translation>die Befehle aufzählen</translation>
+    </message>
+    <message>
+        <source>good</source>
+        <translation>gut</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unklar</translation>
+    </message>
+    <message>
+        <source>problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>A connect can work.</source>
+        <translation>Eine Verbindung ist möglich.</translation>
+    </message>
+    <message>
+        <source>A connect can&apos;t work yet.</source>
+        <translation>Eine Verbindung ist noch nicht möglich.</translation>
+    </message>
+    <message>
+        <source>A connect can&apos;t work before each &quot;problem&quot; is mended.</source>
+        <translation>Eine Verbindung ist erst möglich, wenn jedes „Problem“ behoben ist.</translation>
+    </message>
+    <message>
+        <source>proxy: apps that ignore the system proxy are not covered</source>
+        <translation>Proxy: Apps, die den System-Proxy übergehen, sind nicht erfasst</translation>
+    </message>
+    <message>
+        <source>strict: only Tor&apos;s traffic leaves</source>
+        <translation>strikt: Nur Verkehr von Tor geht hinaus</translation>
+    </message>
+    <message>
+        <source>strict</source>
+        <translation>strikt</translation>
+    </message>
+    <message>
+        <source>stands, since %1</source>
+        <translation>steht, seit %1</translation>
+    </message>
+    <message>
+        <source>stands; put back at %1 after another program had removed it</source>
+        <translation>steht; um %1 wiederhergestellt, nachdem ein anderes Programm ihn entfernt hatte</translation>
+    </message>
+    <message>
+        <source>OPEN since %1: traffic may leave this computer directly</source>
+        <translation>OFFEN seit %1: Daten können diesen Computer direkt verlassen</translation>
+    </message>
+    <message>
+        <source>isn&apos;t known to stand, since %1</source>
+        <translation>nicht bekannt, ob er steht, seit %1</translation>
+    </message>
+    <message>
+        <source>not checked yet</source>
+        <translation>noch nicht geprüft</translation>
+    </message>
+    <message>
+        <source>the check service didn&apos;t answer through Tor</source>
+        <translation>der Prüfdienst hat durch Tor nicht geantwortet</translation>
+    </message>
+    <message>
+        <source>%1, a Tor exit</source>
+        <translation>%1, ein Ausgang von Tor</translation>
+    </message>
+    <message>
+        <source>%1, NOT a Tor exit</source>
+        <translation>%1, KEIN Ausgang von Tor</translation>
+    </message>
+    <message>
+        <source>open; it shows the address %1</source>
+        <translation>offen; er zeigt die Adresse %1</translation>
+    </message>
+    <message>
+        <source>blocked</source>
+        <translation>gesperrt</translation>
+    </message>
+    <message>
+        <source>no answer, but the kill switch isn&apos;t known to close it</source>
+        <translation>keine Antwort, aber es ist nicht bekannt, ob der Notschalter ihn sperrt</translation>
+    </message>
+    <message>
+        <source>no answer, but proxy mode doesn&apos;t close it</source>
+        <translation>keine Antwort, aber der Proxy-Modus sperrt ihn nicht</translation>
+    </message>
+    <message>
+        <source>checking…</source>
+        <translation>wird geprüft …</translation>
+    </message>
+    <message>
+        <source>couldn&apos;t be told</source>
+        <translation>ließ sich nicht sagen</translation>
+    </message>
+    <message>
+        <source>can go around Tor via: %1</source>
+        <translation>kann an Tor vorbei über: %1</translation>
+    </message>
+    <message>
+        <source>a test lookup went through Tor</source>
+        <translation>eine Testabfrage ging durch Tor</translation>
+    </message>
+    <message>
+        <source>testing…</source>
+        <translation>Test läuft …</translation>
+    </message>
+    <message>
+        <source>settings point at Tor, but a test lookup couldn&apos;t be confirmed</source>
+        <translation>die Einstellungen zeigen auf Tor, aber eine Testabfrage ließ sich nicht bestätigen</translation>
+    </message>
+    <message>
+        <source>not tested yet</source>
+        <translation>noch nicht getestet</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modus</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Ausgang</translation>
+    </message>
+    <message>
+        <source>Latency</source>
+        <translation>Antwortzeit</translation>
+    </message>
+    <message>
+        <source>%1 ms through Tor</source>
+        <translation>%1 ms durch Tor</translation>
+    </message>
+    <message>
+        <source>Direct path</source>
+        <translation>Direkter Weg</translation>
+    </message>
+    <message>
+        <source>DNS</source>
+        <translation>DNS</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>Verkehr</translation>
+    </message>
+    <message>
+        <source>%1 received, %2 sent</source>
+        <translation>%1 empfangen, %2 gesendet</translation>
+    </message>
+    <message>
+        <source>Bridges</source>
+        <translation>Brücken</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>What to do</source>
+        <translation>Zu tun</translation>
+    </message>
+    <message>
+        <source>nothing; veldmarkctl restore would end that session</source>
+        <translation>nichts; veldmarkctl restore würde diese Sitzung beenden</translation>
+    </message>
+    <message>
+        <source>Kill switch</source>
+        <translation>Notschalter</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>Ursache</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Terminal</source>
+        <translation>Terminal</translation>
+    </message>
+    <message>
+        <source>No circuits yet.</source>
+        <translation>Noch keine Kanäle.</translation>
+    </message>
+    <message>
+        <source>Ready. Connect with: veldmarkctl connect</source>
+        <translation>Bereit. Verbinden Sie mit: veldmarkctl connect</translation>
+    </message>
+    <message>
+        <source>Still restoring your network, one moment…</source>
+        <translation>Ihr Netzwerk wird noch wiederhergestellt, einen Augenblick …</translation>
+    </message>
+    <message>
+        <source>Stopping as soon as Tor has been started…</source>
+        <translation>Endet, sobald Tor gestartet ist …</translation>
+    </message>
+    <message>
+        <source>The network is still set up for Tor. Restore it with: %1</source>
+        <translation>Das Netzwerk ist noch auf Tor eingestellt. Stellen Sie es wieder her mit: %1</translation>
+    </message>
+    <message>
+        <source>The network is still set up for Tor. Press Ctrl-C to try again.</source>
+        <translation>Das Netzwerk ist noch auf Tor eingestellt. Drücken Sie Strg-C, um es noch einmal zu versuchen.</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Press Ctrl-C to disconnect.</source>
+        <translation>Zum Trennen Strg-C drücken.</translation>
+    </message>
+    <message>
+        <source>A command to Tor can&apos;t contain a line break or a NUL.</source>
+        <translation>Ein Befehl an Tor darf keinen Zeilenumbruch und kein NUL enthalten.</translation>
+    </message>
+    <message>
+        <source>Tor sent a line of more than 1 MiB on its control port.</source>
+        <translation>Tor hat an seinem Steuerport eine Zeile von mehr als 1 MiB gesandt.</translation>
+    </message>
+    <message>
+        <source>Tor sent a reply of more than 64 MiB on its control port.</source>
+        <translation>Tor hat an seinem Steuerport eine Antwort von mehr als 64 MiB gesandt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither true nor false.</source>
+        <translation>„%1“ ist weder true noch false.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no JSON array of strings.</source>
+        <translation>„%1“ ist kein JSON-Array von Zeichenketten.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no bridge choice: off, obfs4, snowflake, meek or custom.</source>
+        <translation>„%1“ ist keine Wahl von Brücken: off, obfs4, snowflake, meek oder custom.</translation>
+    </message>
+    <message>
+        <source>There is no setting &quot;%1&quot;. Settings: %2.</source>
+        <translation>Eine Einstellung „%1“ gibt es nicht. Einstellungen: %2.</translation>
+    </message>
+    <message>
+        <source>Tor didn&apos;t finish connecting within 5 minutes. (%1)</source>
+        <translation>Tor hat die Verbindung nicht innerhalb von 5 Minuten aufgebaut. (%1)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
+        <translation>„%1“ ist kein Ausgangsland: zwei Kleinbuchstaben wie „de“, oder nichts für ein beliebiges.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no application: an absolute path that ends in &quot;%2&quot;.</source>
+        <translation>„%1“ ist keine Anwendung: Es muss ein absoluter Pfad sein, der auf „%2“ endet.</translation>
+    </message>
+    <message>
+        <source>the kill switch, else proxy mode</source>
+        <translation>der Notschalter, sonst der Proxy-Modus</translation>
+    </message>
+    <message>
+        <source>strict mode lets the local network through</source>
+        <translation>der strikte Modus lässt das lokale Netz durch</translation>
+    </message>
+    <message>
+        <source>two lower-case letters, or nothing for any</source>
+        <translation>zwei Kleinbuchstaben, oder nichts für ein beliebiges</translation>
+    </message>
+    <message>
+        <source>the tor to use, or nothing to search for it</source>
+        <translation>das tor, das benutzt wird, oder nichts, um es zu suchen</translation>
+    </message>
+    <message>
+        <source>which bridges</source>
+        <translation>welche Brücken</translation>
+    </message>
+    <message>
+        <source>your own bridge lines, as typed</source>
+        <translation>Ihre eigenen Brückenzeilen, wie eingegeben</translation>
+    </message>
+    <message>
+        <source>paths of applications that may be opened without Tor</source>
+        <translation>Pfade von Anwendungen, die ohne Tor geöffnet werden dürfen</translation>
+    </message>
+    <message>
+        <source>connect when Veldmark starts</source>
+        <translation>verbinden, wenn Veldmark startet</translation>
+    </message>
+    <message>
+        <source>test bridges before connecting, look for a faster path afterwards</source>
+        <translation>vor dem Verbinden Brücken testen, danach einen schnelleren Weg suchen</translation>
+    </message>
+    <message>
+        <source>command-line tools go through Tor while connected</source>
+        <translation>Programme der Kommandozeile gehen durch Tor, solange verbunden ist</translation>
+    </message>
+    <message>
+        <source>with your package manager</source>
+        <translation>mit Ihrer Paketverwaltung</translation>
+    </message>
+    <message>
+        <source>Starting…</source>
+        <translation>Beginnt …</translation>
+    </message>
+    <message>
+        <source>&quot;set&quot; needs a &quot;key&quot; and a &quot;value&quot;, both strings.</source>
+        <translation>„set“ braucht einen „key“ und einen „value“, beides Zeichenketten.</translation>
+    </message>
+    <message>
+        <source>Already connected, or on the way; &quot;veldmarkctl status&quot; says more.</source>
+        <translation>Schon verbunden oder dabei; „veldmarkctl status“ sagt mehr.</translation>
+    </message>
+    <message>
+        <source>Not now: %1</source>
+        <translation>Jetzt nicht: %1</translation>
+    </message>
+    <message>
+        <source>A check is already running.</source>
+        <translation>Eine Prüfung läuft schon.</translation>
+    </message>
+    <message>
+        <source>There is no circuit &quot;%1&quot;.</source>
+        <translation>Einen Kanal „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Tor didn&apos;t close circuit %1.</source>
+        <translation>Tor hat den Kanal %1 nicht geschlossen.</translation>
+    </message>
+    <message>
+        <source>&quot;launch&quot; needs an &quot;app&quot;, an absolute path.</source>
+        <translation>„launch“ braucht eine „app“, einen absoluten Pfad.</translation>
+    </message>
+    <message>
+        <source>Veldmark stopped before it had answered.</source>
+        <translation>Veldmark hat geendet, bevor es geantwortet hatte.</translation>
+    </message>
+    <message>
+        <source>Veldmark is already running (process %1).</source>
+        <translation>Veldmark läuft schon (Prozess %1).</translation>
+    </message>
+    <message>
+        <source>%1 must be a folder of your own with mode 0700: the control socket goes there.</source>
+        <translation>%1 muss ein Ordner sein, der Ihnen gehört und die Rechte 0700 hat: Dort liegt der Steuer-Socket.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t write %1/lock.</source>
+        <translation>%1/lock konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t listen on %1: %2.</source>
+        <translation>An %1 kann nicht gelauscht werden: %2.</translation>
+    </message>
+    <message>
+        <source>A command is a JSON object on one line.</source>
+        <translation>Ein Befehl ist ein JSON-Objekt in einer Zeile.</translation>
+    </message>
+    <message>
+        <source>Unknown command &quot;%1&quot;.</source>
+        <translation>Unbekannter Befehl „%1“.</translation>
+    </message>
+    <message>
+        <source>Not connected.</source>
+        <translation>Nicht verbunden.</translation>
+    </message>
+    <message>
+        <source>The session has ended: %1</source>
+        <translation>Die Sitzung ist zu Ende: %1</translation>
+    </message>
+    <message>
+        <source>as JSON</source>
+        <translation>als JSON</translation>
+    </message>
+    <message>
+        <source>connect at once</source>
+        <translation>sofort verbinden</translation>
+    </message>
+    <message>
+        <source>run Veldmark here, in the foreground; Ctrl-C disconnects</source>
+        <translation>Veldmark hier ausführen, im Vordergrund; Strg-C trennt</translation>
+    </message>
+    <message>
+        <source>go on until Ctrl-C</source>
+        <translation>bis Strg-C fortfahren</translation>
+    </message>
+    <message>
+        <source>how things stand; --watch goes on until Ctrl-C</source>
+        <translation>der Stand der Dinge; --watch fährt bis Strg-C fort</translation>
+    </message>
+    <message>
+        <source>connect the running instance to Tor</source>
+        <translation>das laufende Veldmark mit Tor verbinden</translation>
+    </message>
+    <message>
+        <source>restore the network and stop Tor</source>
+        <translation>das Netzwerk wiederherstellen und Tor beenden</translation>
+    </message>
+    <message>
+        <source>the same, also for what a crash left behind</source>
+        <translation>ebenso, auch nach einem Absturz</translation>
+    </message>
+    <message>
+        <source>check the exit address, the direct path and DNS now</source>
+        <translation>Ausgangsadresse, direkten Weg und DNS jetzt prüfen</translation>
+    </message>
+    <message>
+        <source>point the system&apos;s DNS settings at Tor again</source>
+        <translation>die DNS-Einstellungen des Systems wieder auf Tor richten</translation>
+    </message>
+    <message>
+        <source>Tor&apos;s circuits and the sites on them</source>
+        <translation>Tors Kanäle und die Seiten darauf</translation>
+    </message>
+    <message>
+        <source>close one; its sites get a fresh path on their next request</source>
+        <translation>einen schließen; seine Seiten bekommen beim nächsten Abruf einen neuen Weg</translation>
+    </message>
+    <message>
+        <source>close-circuit needs a circuit&apos;s number; &quot;veldmarkctl circuits&quot; shows them.</source>
+        <translation>close-circuit braucht die Nummer eines Kanals; „veldmarkctl circuits“ zeigt sie.</translation>
+    </message>
+    <message>
+        <source>new circuits for everything</source>
+        <translation>neue Kanäle für alles</translation>
+    </message>
+    <message>
+        <source>warnings and errors only</source>
+        <translation>nur Warnungen und Fehler</translation>
+    </message>
+    <message>
+        <source>Tor&apos;s log; --problems shows warnings and errors only</source>
+        <translation>Tors Protokoll; --problems zeigt nur Warnungen und Fehler</translation>
+    </message>
+    <message>
+        <source>the transport programs and built-in bridges that were found, and
+which of your own bridge lines are not valid</source>
+        <translation>die gefundenen Brückenprogramme und mitgelieferten Brücken, und
+welche Ihrer eigenen Brückenzeilen ungültig sind</translation>
+    </message>
+    <message>
+        <source>fetch the Tor Project&apos;s transport programs and built-in bridges</source>
+        <translation>die Brückenprogramme und Brücken des Tor-Projekts holen</translation>
+    </message>
+    <message>
+        <source>the installed applications; * marks those in the setting &quot;bypassApps&quot;</source>
+        <translation>die installierten Anwendungen; * steht bei denen der Einstellung „bypassApps“</translation>
+    </message>
+    <message>
+        <source>open an application without Tor, with your own address; needs strict mode.
+APP is a name from &quot;apps&quot;, the file name of its desktop entry, or the path
+of an entry or a program. Running copies are asked to quit first</source>
+        <translation>eine Anwendung ohne Tor öffnen, mit Ihrer eigenen Adresse; braucht den strikten Modus.
+APP ist ein Name aus „apps“, der Dateiname ihres Desktop-Eintrags, oder der Pfad
+eines Eintrags oder Programms. Laufende Kopien werden vorher zum Beenden aufgefordert</translation>
+    </message>
+    <message>
+        <source>launch needs an application; &quot;veldmarkctl apps&quot; lists them.</source>
+        <translation>launch braucht eine Anwendung; „veldmarkctl apps“ zählt sie auf.</translation>
+    </message>
+    <message>
+        <source>look at this computer: what a connect needs, what is in its way, and what
+mends it. Changes nothing; ends with 0 when a connect can work</source>
+        <translation>diesen Computer ansehen: was eine Verbindung braucht, was ihr im Weg steht und
+was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</translation>
+    </message>
+    <message>
+        <source>print a field of &quot;status --json&quot;</source>
+        <translation>ein Feld von „status --json“ ausgeben</translation>
+    </message>
+    <message>
+        <source>change a setting; most of them only while not connected</source>
+        <translation>eine Einstellung ändern; die meisten nur, solange nicht verbunden ist</translation>
+    </message>
+    <message>
+        <source>Can&apos;t read Tor&apos;s log</source>
+        <translation>Tors Protokoll ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>The log files in %1 aren&apos;t readable by your account. Reconnect once with this version of Veldmark to fix their permissions.</source>
+        <translation>Ihr Konto darf die Protokolldateien in %1 nicht lesen. Verbinden Sie mit dieser Version von Veldmark einmal neu, um die Rechte zu berichtigen.</translation>
+    </message>
+    <message>
+        <source>No log yet</source>
+        <translation>Noch kein Protokoll</translation>
+    </message>
+    <message>
+        <source>Connect, and Tor&apos;s messages appear here as it starts. If Tor fails to start, the reason shows up here.</source>
+        <translation>Verbinden Sie, dann erscheinen hier Tors Meldungen, sobald es startet. Startet Tor nicht, steht der Grund hier.</translation>
+    </message>
+    <message>
+        <source>Nothing matches</source>
+        <translation>Nichts passt</translation>
+    </message>
+    <message>
+        <source>No lines contain “%1”</source>
+        <translation>Keine Zeile enthält „%1“</translation>
+    </message>
+    <message>
+        <source>No warnings or errors. Tor is happy.</source>
+        <translation>Keine Warnungen oder Fehler. Tor geht es gut.</translation>
+    </message>
+    <message>
+        <source>The bridge program %1 reports: %2</source>
+        <translation>Das Brückenprogramm %1 meldet: %2</translation>
+    </message>
+    <message>
+        <source>The bridge program %1 ended unexpectedly.</source>
+        <translation>Das Brückenprogramm %1 ist unerwartet zu Ende gegangen.</translation>
+    </message>
+    <message>
+        <source>The bridge program %1 keeps ending.</source>
+        <translation>Das Brückenprogramm %1 geht immer wieder zu Ende.</translation>
+    </message>
+    <message>
+        <source>The bridge program %1 ended unexpectedly (exit status %2).</source>
+        <translation>Das Brückenprogramm %1 ist unerwartet zu Ende gegangen (Rückgabewert %2).</translation>
+    </message>
+    <message>
+        <source>The bridge program %1 keeps ending (exit status %2).</source>
+        <translation>Das Brückenprogramm %1 geht immer wieder zu Ende (Rückgabewert %2).</translation>
+    </message>
+    <message>
+        <source>It said: &quot;%1&quot;.</source>
+        <translation>Es sagte: „%1“.</translation>
+    </message>
+    <message>
+        <source>The program is quitting.</source>
+        <translation>Das Programm wird gerade beendet.</translation>
+    </message>
+    <message>
+        <source>The strict session that is running is replaced, and may protect you less.</source>
+        <translation>Die laufende strikte Sitzung wird ersetzt und schützt Sie vielleicht weniger.</translation>
+    </message>
+    <message>
+        <source>Veldmark wants to run %1 as a part of Tor. No package of the system brought it. Its SHA-256 is %2.</source>
+        <translation>Veldmark will %1 als Teil von Tor ausführen. Kein Paket des Systems hat es gebracht. Seine SHA-256-Summe ist %2.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be created: %2.</source>
+        <translation>%1 kann nicht angelegt werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be removed: %2.</source>
+        <translation>%1 kann nicht entfernt werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2.</source>
+        <translation>%1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: %2.</source>
+        <translation>%1 kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>%1 is read-only.</source>
+        <translation>%1 ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program just now.</source>
+        <translation>%1 wurde eben von einem anderen Programm geändert.</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user or group.</source>
+        <translation>%1 gehört einem anderen Benutzer oder einer anderen Gruppe.</translation>
+    </message>
+    <message>
+        <source>A bridge line is not valid.</source>
+        <translation>Eine Brückenzeile ist ungültig.</translation>
+    </message>
+    <message>
+        <source>A note of what to restore was damaged (%1). The network is open again; check your network settings.</source>
+        <translation>Eine Notiz darüber, was wiederherzustellen ist, war beschädigt (%1). Das Netzwerk ist wieder offen; sehen Sie Ihre Netzwerkeinstellungen nach.</translation>
+    </message>
+    <message>
+        <source>A note of what to restore was damaged (%1). The network is open again; check your proxy settings.</source>
+        <translation>Eine Notiz darüber, was wiederherzustellen ist, war beschädigt (%1). Das Netzwerk ist wieder offen; sehen Sie Ihre Proxy-Einstellungen nach.</translation>
+    </message>
+    <message>
+        <source>An administrator password is needed to approve %1.</source>
+        <translation>Um %1 zuzulassen, ist das Passwort eines Administrators nötig.</translation>
+    </message>
+    <message>
+        <source>An administrator password is needed to change the strict session that is running.</source>
+        <translation>Um die laufende strikte Sitzung zu ändern, ist das Passwort eines Administrators nötig.</translation>
+    </message>
+    <message>
+        <source>An administrator password is needed to open an application without Tor.</source>
+        <translation>Um eine Anwendung ohne Tor zu öffnen, ist das Passwort eines Administrators nötig.</translation>
+    </message>
+    <message>
+        <source>An administrator password is needed to set this up.</source>
+        <translation>Um dies einzurichten, ist das Passwort eines Administrators nötig.</translation>
+    </message>
+    <message>
+        <source>Another program (process %1) has begun a session since. It was left alone.</source>
+        <translation>Ein anderes Programm (Prozess %1) hat inzwischen eine Sitzung begonnen. Sie blieb unberührt.</translation>
+    </message>
+    <message>
+        <source>Another run of the helper is still working. Try again in a moment.</source>
+        <translation>Das Hilfsprogramm arbeitet noch an einem anderen Auftrag. Versuchen Sie es gleich noch einmal.</translation>
+    </message>
+    <message>
+        <source>Applications are not opened as root.</source>
+        <translation>Als root werden keine Anwendungen geöffnet.</translation>
+    </message>
+    <message>
+        <source>Applications can be opened for the user who asks only.</source>
+        <translation>Anwendungen können nur für den Benutzer geöffnet werden, der darum bittet.</translation>
+    </message>
+    <message>
+        <source>Applications cannot be opened without Tor on this system.</source>
+        <translation>Auf diesem System können keine Anwendungen ohne Tor geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>More than %1 bridges were given.</source>
+        <translation>Es wurden mehr als %1 Brücken angegeben.</translation>
+    </message>
+    <message>
+        <source>Only the user who asks can be let in.</source>
+        <translation>Nur der Benutzer, der darum bittet, kann zugelassen werden.</translation>
+    </message>
+    <message>
+        <source>Somebody else is changing the firewall. Try again in a moment.</source>
+        <translation>Jemand anders ändert gerade die Firewall. Versuchen Sie es gleich noch einmal.</translation>
+    </message>
+    <message>
+        <source>The DNS servers of systemd-resolved cannot be changed.</source>
+        <translation>Die DNS-Server von systemd-resolved können nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>The DNS settings cannot be changed.</source>
+        <translation>Die DNS-Einstellungen können nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>The DNS settings could not be put back.</source>
+        <translation>Die DNS-Einstellungen konnten nicht zurückgesetzt werden.</translation>
+    </message>
+    <message>
+        <source>The account %1 cannot be created.</source>
+        <translation>Das Konto %1 kann nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>The account %1 has no valid user id.</source>
+        <translation>Das Konto %1 hat keine gültige Benutzernummer.</translation>
+    </message>
+    <message>
+        <source>The account %1 must be one of its own.</source>
+        <translation>Das Konto %1 muss ein eigenes sein.</translation>
+    </message>
+    <message>
+        <source>The application could not be started.</source>
+        <translation>Die Anwendung konnte nicht gestartet werden.</translation>
+    </message>
+    <message>
+        <source>The caller&apos;s user id is not a number.</source>
+        <translation>Die Benutzernummer des Aufrufers ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>The control group of the applications without Tor could not be removed.</source>
+        <translation>Die Kontrollgruppe der Anwendungen ohne Tor konnte nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>The copy of the program cannot be put into %1.</source>
+        <translation>Die Kopie des Programms kann nicht in %1 abgelegt werden.</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings cannot be changed.</source>
+        <translation>Die Proxy-Einstellungen des Desktops können nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>The exit country is not a two-letter code.</source>
+        <translation>Das Ausgangsland ist kein Kürzel aus zwei Buchstaben.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be made.</source>
+        <translation>Die Datei %1 kann nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read.</source>
+        <translation>Die Datei %1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be removed.</source>
+        <translation>Die Datei %1 kann nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written.</source>
+        <translation>Die Datei %1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The file %1 could not be put back.</source>
+        <translation>Die Datei %1 konnte nicht zurückgesetzt werden.</translation>
+    </message>
+    <message>
+        <source>The files in %1 cannot be removed.</source>
+        <translation>Die Dateien in %1 können nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>The firewall cannot be looked at, so nothing was done.</source>
+        <translation>Die Firewall lässt sich nicht ansehen, also wurde nichts getan.</translation>
+    </message>
+    <message>
+        <source>The firewall cannot be switched on (%1).</source>
+        <translation>Die Firewall kann nicht eingeschaltet werden (%1).</translation>
+    </message>
+    <message>
+        <source>The firewall cannot end the connections from before.</source>
+        <translation>Die Firewall kann die früheren Verbindungen nicht beenden.</translation>
+    </message>
+    <message>
+        <source>The firewall could not be opened (%1).</source>
+        <translation>Die Firewall konnte nicht geöffnet werden (%1).</translation>
+    </message>
+    <message>
+        <source>The firewall could not be opened, because somebody is changing it.</source>
+        <translation>Die Firewall konnte nicht geöffnet werden, weil jemand sie gerade ändert.</translation>
+    </message>
+    <message>
+        <source>The firewall does not hold the rules that were loaded.</source>
+        <translation>In der Firewall stehen nicht die Regeln, die geladen wurden.</translation>
+    </message>
+    <message>
+        <source>The firewall gave no token.</source>
+        <translation>Die Firewall hat keine Kennung zurückgegeben.</translation>
+    </message>
+    <message>
+        <source>The firewall leaves out the network device %1 (&quot;set skip&quot; in /etc/pf.conf), where nothing would be blocked.</source>
+        <translation>Die Firewall lässt das Netzwerkgerät %1 aus („set skip“ in /etc/pf.conf); dort würde nichts gesperrt.</translation>
+    </message>
+    <message>
+        <source>The firewall rules were not accepted (%1).</source>
+        <translation>Die Firewall-Regeln wurden nicht angenommen (%1).</translation>
+    </message>
+    <message>
+        <source>The firewall&apos;s devices cannot be read.</source>
+        <translation>Die Geräte der Firewall sind nicht zu lesen.</translation>
+    </message>
+    <message>
+        <source>The firewall&apos;s main rules cannot be changed (%1).</source>
+        <translation>Die Hauptregeln der Firewall können nicht geändert werden (%1).</translation>
+    </message>
+    <message>
+        <source>The firewall&apos;s main rules cannot be read.</source>
+        <translation>Die Hauptregeln der Firewall sind nicht zu lesen.</translation>
+    </message>
+    <message>
+        <source>The firewall&apos;s state cannot be read.</source>
+        <translation>Der Zustand der Firewall ist nicht zu lesen.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be changed.</source>
+        <translation>Der Ordner %1 kann nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be created.</source>
+        <translation>Der Ordner %1 kann nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be written.</source>
+        <translation>In den Ordner %1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The folder %1 is not safe: only root may own or write it and those above it.</source>
+        <translation>Der Ordner %1 ist nicht sicher: Er und die Ordner darüber dürfen nur root gehören und nur von root beschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The folder %1 is not safe: only root may own or write it.</source>
+        <translation>Der Ordner %1 ist nicht sicher: Er darf nur root gehören und nur von root beschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The folder /etc/sudoers.d is missing or not safe.</source>
+        <translation>Der Ordner /etc/sudoers.d fehlt oder ist nicht sicher.</translation>
+    </message>
+    <message>
+        <source>The folders above Veldmark&apos;s are not safe: only root may own or write them.</source>
+        <translation>Die Ordner über dem von Veldmark sind nicht sicher: Sie dürfen nur root gehören und nur von root beschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The folders below %1 cannot be looked at, so nothing was done.</source>
+        <translation>Die Ordner unter %1 lassen sich nicht ansehen, also wurde nichts getan.</translation>
+    </message>
+    <message>
+        <source>The folders below %1 cannot be looked at.</source>
+        <translation>Die Ordner unter %1 lassen sich nicht ansehen.</translation>
+    </message>
+    <message>
+        <source>The former network settings could not all be restored.</source>
+        <translation>Die früheren Netzwerkeinstellungen konnten nicht alle wiederhergestellt werden.</translation>
+    </message>
+    <message>
+        <source>The hashed control password is not valid.</source>
+        <translation>Die Prüfsumme des Steuerpassworts ist ungültig.</translation>
+    </message>
+    <message>
+        <source>The helper could not be copied to %1.</source>
+        <translation>Das Hilfsprogramm konnte nicht nach %1 kopiert werden.</translation>
+    </message>
+    <message>
+        <source>The helper must run as root.</source>
+        <translation>Das Hilfsprogramm muss als root laufen.</translation>
+    </message>
+    <message>
+        <source>The helper stopped unexpectedly.</source>
+        <translation>Das Hilfsprogramm ist unerwartet zu Ende gegangen.</translation>
+    </message>
+    <message>
+        <source>The helper was given an option that it does not know.</source>
+        <translation>Das Hilfsprogramm bekam eine Option, die es nicht kennt.</translation>
+    </message>
+    <message>
+        <source>The helper was not given a verb that it knows.</source>
+        <translation>Das Hilfsprogramm bekam keinen Befehl, den es kennt.</translation>
+    </message>
+    <message>
+        <source>The journal cannot be written.</source>
+        <translation>Das Journal kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The kill switch is not on, so there is nothing to open the application past.</source>
+        <translation>Der Notschalter ist nicht an; die Anwendung braucht nicht an ihm vorbei geöffnet zu werden.</translation>
+    </message>
+    <message>
+        <source>The launcher could not be copied to %1.</source>
+        <translation>Das Startprogramm konnte nicht nach %1 kopiert werden.</translation>
+    </message>
+    <message>
+        <source>The lock file %1 cannot be opened.</source>
+        <translation>Die Sperrdatei %1 kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The lock file %1 is a link, so nothing was done.</source>
+        <translation>Die Sperrdatei %1 ist ein Verweis, also wurde nichts getan.</translation>
+    </message>
+    <message>
+        <source>The network is open again, but the DNS servers of systemd-resolved could not be put back.</source>
+        <translation>Das Netzwerk ist wieder offen, aber die DNS-Server von systemd-resolved konnten nicht zurückgesetzt werden.</translation>
+    </message>
+    <message>
+        <source>The network is open again, but the DNS servers of systemd-resolved could not be put back. Try: systemctl restart %1.</source>
+        <translation>Das Netzwerk ist wieder offen, aber die DNS-Server von systemd-resolved konnten nicht zurückgesetzt werden. Versuchen Sie: systemctl restart %1.</translation>
+    </message>
+    <message>
+        <source>The network is open again, but the desktop&apos;s proxy settings could not be put back.</source>
+        <translation>Das Netzwerk ist wieder offen, aber die Proxy-Einstellungen des Desktops konnten nicht zurückgesetzt werden.</translation>
+    </message>
+    <message>
+        <source>The network is open again, but the journal in %1 cannot be cleared.</source>
+        <translation>Das Netzwerk ist wieder offen, aber das Journal in %1 kann nicht geleert werden.</translation>
+    </message>
+    <message>
+        <source>The network is open again, but the session marker cannot be removed from %1.</source>
+        <translation>Das Netzwerk ist wieder offen, aber die Sitzungsmarke kann nicht aus %1 entfernt werden.</translation>
+    </message>
+    <message>
+        <source>The network is open again, but the system&apos;s own Tor service could not be started again. Try: systemctl start %1.</source>
+        <translation>Das Netzwerk ist wieder offen, aber der Tor-Dienst des Systems konnte nicht wieder gestartet werden. Versuchen Sie: systemctl start %1.</translation>
+    </message>
+    <message>
+        <source>The network is open, but the firewall could not be given back.</source>
+        <translation>Das Netzwerk ist offen, aber die Firewall konnte nicht zurückgegeben werden.</translation>
+    </message>
+    <message>
+        <source>The network is open, but the firewall&apos;s main rules could not be put back.</source>
+        <translation>Das Netzwerk ist offen, aber die Hauptregeln der Firewall konnten nicht zurückgesetzt werden.</translation>
+    </message>
+    <message>
+        <source>The network location %1 still has Veldmark&apos;s settings. Choose it and disconnect again.</source>
+        <translation>Die Netzwerkumgebung %1 hat noch die Einstellungen von Veldmark. Wählen Sie sie, und trennen Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>The network settings cannot be read.</source>
+        <translation>Die Netzwerkeinstellungen sind nicht zu lesen.</translation>
+    </message>
+    <message>
+        <source>The network stays blocked until you disconnect.</source>
+        <translation>Das Netzwerk bleibt gesperrt, bis Sie trennen.</translation>
+    </message>
+    <message>
+        <source>The notes of what to restore cannot be read.</source>
+        <translation>Die Notizen darüber, was wiederherzustellen ist, sind nicht zu lesen.</translation>
+    </message>
+    <message>
+        <source>The option %1 needs a value.</source>
+        <translation>Die Option %1 braucht einen Wert.</translation>
+    </message>
+    <message>
+        <source>The option %1 was given twice.</source>
+        <translation>Die Option %1 wurde zweimal angegeben.</translation>
+    </message>
+    <message>
+        <source>The option --app is missing.</source>
+        <translation>Die Option --app fehlt.</translation>
+    </message>
+    <message>
+        <source>The option --hash is missing.</source>
+        <translation>Die Option --hash fehlt.</translation>
+    </message>
+    <message>
+        <source>The option --lan is missing.</source>
+        <translation>Die Option --lan fehlt.</translation>
+    </message>
+    <message>
+        <source>The option --program is missing.</source>
+        <translation>Die Option --program fehlt.</translation>
+    </message>
+    <message>
+        <source>The option --strict is missing.</source>
+        <translation>Die Option --strict fehlt.</translation>
+    </message>
+    <message>
+        <source>The option --tor is missing.</source>
+        <translation>Die Option --tor fehlt.</translation>
+    </message>
+    <message>
+        <source>The option --uid is missing.</source>
+        <translation>Die Option --uid fehlt.</translation>
+    </message>
+    <message>
+        <source>The options on standard input are not complete.</source>
+        <translation>Die Optionen auf der Standardeingabe sind nicht vollständig.</translation>
+    </message>
+    <message>
+        <source>The path given with %1 is not absolute.</source>
+        <translation>Der mit %1 angegebene Pfad ist nicht absolut.</translation>
+    </message>
+    <message>
+        <source>The path given with --app is not absolute.</source>
+        <translation>Der mit --app angegebene Pfad ist nicht absolut.</translation>
+    </message>
+    <message>
+        <source>The path given with --app names no application.</source>
+        <translation>Der mit --app angegebene Pfad nennt keine Anwendung.</translation>
+    </message>
+    <message>
+        <source>The port %1, which Tor needs, is held by %2. End that, then connect again.</source>
+        <translation>Den Port %1, den Tor braucht, hat %2. Beenden Sie das, und verbinden Sie dann neu.</translation>
+    </message>
+    <message>
+        <source>a program (process %1)</source>
+        <translation>ein Programm (Prozess %1)</translation>
+    </message>
+    <message>
+        <source>a program of the account with the id %1</source>
+        <translation>ein Programm des Kontos mit der Nummer %1</translation>
+    </message>
+    <message>
+        <source>The process id is not valid.</source>
+        <translation>Die Prozessnummer ist ungültig.</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be copied.</source>
+        <translation>Das Programm %1 kann nicht kopiert werden.</translation>
+    </message>
+    <message>
+        <source>The program %1 cannot be found.</source>
+        <translation>Das Programm %1 ist nicht zu finden.</translation>
+    </message>
+    <message>
+        <source>The program %1 is missing on this system.</source>
+        <translation>Das Programm %1 fehlt auf diesem System.</translation>
+    </message>
+    <message>
+        <source>The program %1 is not the one that was to be approved.</source>
+        <translation>Das Programm %1 ist nicht das, welches zugelassen werden sollte.</translation>
+    </message>
+    <message>
+        <source>The program given with %1 is not an executable file.</source>
+        <translation>Das mit %1 angegebene Programm ist keine ausführbare Datei.</translation>
+    </message>
+    <message>
+        <source>The program veldmark-launch is missing.</source>
+        <translation>Das Programm veldmark-launch fehlt.</translation>
+    </message>
+    <message>
+        <source>The session marker cannot be written.</source>
+        <translation>Die Sitzungsmarke kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The settings of the network service %1 cannot be changed.</source>
+        <translation>Die Einstellungen des Netzwerkdienstes %1 können nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>The settings of the network service %1 cannot be read.</source>
+        <translation>Die Einstellungen des Netzwerkdienstes %1 sind nicht zu lesen.</translation>
+    </message>
+    <message>
+        <source>The settings of the network service %1 could not be put back.</source>
+        <translation>Die Einstellungen des Netzwerkdienstes %1 konnten nicht zurückgesetzt werden.</translation>
+    </message>
+    <message>
+        <source>The system&apos;s firewall cannot be used (%1).</source>
+        <translation>Die Firewall des Systems ist nicht zu benutzen (%1).</translation>
+    </message>
+    <message>
+        <source>The system&apos;s own Tor service (%1) cannot be stopped.</source>
+        <translation>Der Tor-Dienst des Systems (%1) kann nicht angehalten werden.</translation>
+    </message>
+    <message>
+        <source>The user %1 is not known on this system.</source>
+        <translation>Den Benutzer %1 gibt es auf diesem System nicht.</translation>
+    </message>
+    <message>
+        <source>The user id is not a number.</source>
+        <translation>Die Benutzernummer ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>The user name is not valid.</source>
+        <translation>Der Benutzername ist ungültig.</translation>
+    </message>
+    <message>
+        <source>The user root needs no password for the helper.</source>
+        <translation>Der Benutzer root braucht für das Hilfsprogramm kein Passwort.</translation>
+    </message>
+    <message>
+        <source>The user with the id %1 is not known on this system.</source>
+        <translation>Einen Benutzer mit der Nummer %1 gibt es auf diesem System nicht.</translation>
+    </message>
+    <message>
+        <source>The value of %1 contains control characters.</source>
+        <translation>Der Wert von %1 enthält Steuerzeichen.</translation>
+    </message>
+    <message>
+        <source>The value of %1 is too long.</source>
+        <translation>Der Wert von %1 ist zu lang.</translation>
+    </message>
+    <message>
+        <source>The value of --as must be tor, lyrebird, snowflake-client or webtunnel-client.</source>
+        <translation>Der Wert von --as muss tor, lyrebird, snowflake-client oder webtunnel-client sein.</translation>
+    </message>
+    <message>
+        <source>The value of --lan must be 0 or 1.</source>
+        <translation>Der Wert von --lan muss 0 oder 1 sein.</translation>
+    </message>
+    <message>
+        <source>The value of --sha256 must be 64 small hexadecimal digits.</source>
+        <translation>Der Wert von --sha256 muss aus 64 kleinen hexadezimalen Ziffern bestehen.</translation>
+    </message>
+    <message>
+        <source>The value of --strict must be 0 or 1.</source>
+        <translation>Der Wert von --strict muss 0 oder 1 sein.</translation>
+    </message>
+    <message>
+        <source>The verb fix-dns takes no options.</source>
+        <translation>Der Befehl fix-dns hat keine Optionen.</translation>
+    </message>
+    <message>
+        <source>The verb uninstall-privileged takes no options.</source>
+        <translation>Der Befehl uninstall-privileged hat keine Optionen.</translation>
+    </message>
+    <message>
+        <source>The watcher over the firewall could not be started.</source>
+        <translation>Der Wächter über die Firewall konnte nicht gestartet werden.</translation>
+    </message>
+    <message>
+        <source>The watcher over the firewall could not be stopped.</source>
+        <translation>Der Wächter über die Firewall konnte nicht angehalten werden.</translation>
+    </message>
+    <message>
+        <source>There are too many options on standard input.</source>
+        <translation>Auf der Standardeingabe sind zu viele Optionen.</translation>
+    </message>
+    <message>
+        <source>These bridges need lyrebird, which was not given.</source>
+        <translation>Diese Brücken brauchen lyrebird, das nicht angegeben wurde.</translation>
+    </message>
+    <message>
+        <source>These bridges need snowflake-client, which was not given.</source>
+        <translation>Diese Brücken brauchen snowflake-client, das nicht angegeben wurde.</translation>
+    </message>
+    <message>
+        <source>This helper is made for another system.</source>
+        <translation>Dieses Hilfsprogramm ist für ein anderes System gemacht.</translation>
+    </message>
+    <message>
+        <source>Tor could not be started (%1).</source>
+        <translation>Tor konnte nicht gestartet werden (%1).</translation>
+    </message>
+    <message>
+        <source>Tor could not be stopped.</source>
+        <translation>Tor konnte nicht beendet werden.</translation>
+    </message>
+    <message>
+        <source>Tor did not open its control port in time.</source>
+        <translation>Tor hat seinen Steuerport nicht rechtzeitig geöffnet.</translation>
+    </message>
+    <message>
+        <source>Tor did not start: %1</source>
+        <translation>Tor ist nicht gestartet: %1</translation>
+    </message>
+    <message>
+        <source>Tor does not accept its configuration: %1</source>
+        <translation>Tor nimmt seine Konfiguration nicht an: %1</translation>
+    </message>
+    <message>
+        <source>it ended without a message.</source>
+        <translation>Es ist ohne eine Meldung zu Ende gegangen.</translation>
+    </message>
+    <message>
+        <source>Tor&apos;s log files cannot be made.</source>
+        <translation>Tors Protokolldateien können nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>Two different callers were reported, so nothing was done.</source>
+        <translation>Es wurden zwei verschiedene Aufrufer gemeldet, also wurde nichts getan.</translation>
+    </message>
+    <message>
+        <source>Veldmark is in use by %1. An administrator password is needed to end that session.</source>
+        <translation>Veldmark wird von %1 benutzt. Um diese Sitzung zu beenden, ist das Passwort eines Administrators nötig.</translation>
+    </message>
+    <message>
+        <source>Veldmark is not connected, so the DNS settings were left alone.</source>
+        <translation>Veldmark ist nicht verbunden, also blieben die DNS-Einstellungen unberührt.</translation>
+    </message>
+    <message>
+        <source>sudo does not accept the rule.</source>
+        <translation>sudo nimmt die Regel nicht an.</translation>
+    </message>
+    <message>
+        <source>sudo is not installed on this system.</source>
+        <translation>sudo ist auf diesem System nicht installiert.</translation>
+    </message>
+    <message>
+        <source>The desktop entry cannot be read.</source>
+        <translation>Der Desktop-Eintrag ist nicht zu lesen.</translation>
+    </message>
+    <message>
+        <source>The desktop entry cannot be read (%1).</source>
+        <translation>Der Desktop-Eintrag ist nicht zu lesen (%1).</translation>
+    </message>
+    <message>
+        <source>The desktop entry names no program that is installed.</source>
+        <translation>Der Desktop-Eintrag nennt kein Programm, das installiert ist.</translation>
+    </message>
+    <message>
+        <source>The application could not be started (%1).</source>
+        <translation>Die Anwendung konnte nicht gestartet werden (%1).</translation>
+    </message>
+    <message>
+        <source>There is no such application or program.</source>
+        <translation>Eine solche Anwendung oder ein solches Programm gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The program could not be started.</source>
+        <translation>Das Programm konnte nicht gestartet werden.</translation>
+    </message>
+    <message>
+        <source>The program could not be started (%1).</source>
+        <translation>Das Programm konnte nicht gestartet werden (%1).</translation>
+    </message>
+    <message>
+        <source>The user is not known on this system.</source>
+        <translation>Den Benutzer gibt es auf diesem System nicht.</translation>
+    </message>
+    <message>
+        <source>There is no application at %1.</source>
+        <translation>Unter %1 ist keine Anwendung.</translation>
+    </message>
+    <message>
+        <source>The home folder cannot be entered.</source>
+        <translation>Der persönliche Ordner kann nicht betreten werden.</translation>
+    </message>
+    <message>
+        <source>nft doesn&apos;t answer.</source>
+        <translation>nft antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>nft fails.</source>
+        <translation>nft scheitert.</translation>
+    </message>
+    <message>
+        <source>Ended without its display. Your network is still set up for Tor: start Veldmark again, or restore it with: %1</source>
+        <translation>Ohne Bildschirm beendet. Ihr Netzwerk ist noch auf Tor eingestellt: Starten Sie Veldmark noch einmal, oder stellen Sie es wieder her mit: %1</translation>
+    </message>
+    <message>
+        <source>your package manager</source>
+        <translation>Ihrer Paketverwaltung</translation>
+    </message>
+    <message>
+        <source>The network is open again, but the loopback device could not be set up as before. Try: ethtool -K lo %1 on.</source>
+        <translation>Das Netzwerk ist wieder offen, aber das Loopback-Gerät ließ sich nicht wie vorher einstellen. Versuchen Sie: ethtool -K lo %1 on.</translation>
+    </message>
+    <message>
+        <source>Applications are not told apart on this system.</source>
+        <translation>Anwendungen werden auf diesem System nicht unterschieden.</translation>
+    </message>
+    <message>
+        <source>Applications are not separated now: they share circuits.</source>
+        <translation>Anwendungen sind jetzt nicht getrennt: Sie teilen sich Kanäle.</translation>
+    </message>
+    <message>
+        <source>user %1</source>
+        <translation>Benutzer %1</translation>
+    </message>
+    <message>
+        <source>No application has an identity of its own now.</source>
+        <translation>Jetzt hat keine Anwendung eine eigene Identität.</translation>
+    </message>
+    <message>
+        <source>No application of yours has that identity; &quot;veldmarkctl identities&quot; lists them.</source>
+        <translation>Keine Ihrer Anwendungen hat diese Identität; „veldmarkctl identities“ zählt sie auf.</translation>
+    </message>
+    <message>
+        <source>The application has not got another identity.</source>
+        <translation>Die Anwendung hat keine andere Identität bekommen.</translation>
+    </message>
+    <message>
+        <source>The program has not got an identity of its own, so it was not started.</source>
+        <translation>Das Programm hat keine eigene Identität bekommen und wurde darum nicht gestartet.</translation>
+    </message>
+    <message>
+        <source>A name has up to 40 letters, digits, dots and underscores.</source>
+        <translation>Ein Name hat bis zu 40 Buchstaben, Ziffern, Punkte und Unterstriche.</translation>
+    </message>
+    <message>
+        <source>The program systemd-run is missing, which makes groups for programs.</source>
+        <translation>Das Programm systemd-run fehlt, das Gruppen für Programme anlegt.</translation>
+    </message>
+    <message>
+        <source>The program could not be started: %1.</source>
+        <translation>Das Programm ließ sich nicht starten: %1.</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>each application has circuits of its own</source>
+        <translation>jede Anwendung hat eigene Kanäle</translation>
+    </message>
+    <message>
+        <source>the applications that have circuits of their own, and the loopback address
+by which Tor tells each from the others</source>
+        <translation>die Anwendungen mit eigenen Kanälen und die Loopback-Adresse, an der Tor
+jede von den anderen unterscheidet</translation>
+    </message>
+    <message>
+        <source>new circuits for one application, from its next connection on; APP is as
+&quot;identities&quot; names it</source>
+        <translation>neue Kanäle für eine Anwendung, von ihrer nächsten Verbindung an; APP, wie
+„identities“ sie nennt</translation>
+    </message>
+    <message>
+        <source>renew needs an application; &quot;veldmarkctl identities&quot; lists them.</source>
+        <translation>renew braucht eine Anwendung; „veldmarkctl identities“ zählt sie auf.</translation>
+    </message>
+    <message>
+        <source>run a program (after --) with circuits of its own; a later run with the same
+name in the same session has the same ones</source>
+        <translation>ein Programm (nach --) mit eigenen Kanälen ausführen; mit demselben Namen
+hat es in derselben Sitzung später dieselben</translation>
+    </message>
+    <message>
+        <source>run-as needs a name and a program: veldmarkctl run-as NAME -- PROGRAM.</source>
+        <translation>run-as braucht einen Namen und ein Programm: veldmarkctl run-as NAME -- PROGRAMM.</translation>
+    </message>
+    <message>
+        <source>The table of the applications&apos; identities could not be removed (%1).</source>
+        <translation>Die Tabelle mit den Identitäten der Anwendungen ließ sich nicht entfernen (%1).</translation>
+    </message>
+    <message>
+        <source>The value of --separate must be 0 or 1.</source>
+        <translation>Der Wert von --separate muss 0 oder 1 sein.</translation>
     </message>
 </context>
 <context>

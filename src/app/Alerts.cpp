@@ -1,7 +1,5 @@
 #include "app/Alerts.h"
 
-#include "ui/SessionTexts.h"
-
 #include <QDBusConnection>
 #include <QDBusMessage>
 
@@ -27,7 +25,7 @@ void Alerts::look()
     // restored the network; then nothing is left over.
     if (before == Phase::connected && (now.phase == Phase::stale || now.phase == Phase::disconnected))
         tell(now.isAnothers ? tr("Another session has replaced this one") : tr("Tor stopped running"),
-             SessionTexts::translated(now.errorMessage.value_or(now.statusDetail)));
+             now.errorMessage.value_or(now.statusDetail).translated());
     if (!now.killSwitch || now.killSwitch->blocks())
         m_wasWatched = now.killSwitch.has_value();
     if (const auto danger = now.verdict().danger; std::exchange(m_danger, danger) != danger)
@@ -48,7 +46,7 @@ void Alerts::tellDanger(Verdict::Danger danger)
         tell(tr("Traffic can leave around Tor"), tr("Your real address can be seen. Open Veldmark to see what to do."));
         return;
     case Danger::dnsLeak:
-        tell(tr("Lookups can go around Tor"), SessionTexts::lookups(now.lookups));
+        tell(tr("Lookups can go around Tor"), now.dns.text().translated());
         return;
     case Danger::killSwitchUnknown:
         if (std::exchange(m_wasWatched, false)) // perhaps a worse danger was told when that began

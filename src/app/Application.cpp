@@ -75,16 +75,17 @@ void Application::leave(bool restored)
     if (left) {
         QTextStream errors(stderr);
         if (const auto reason = controller.errorMessage())
-            errors << "veldmark: " << *reason << '\n';
-        errors << "veldmark: The network is still set up for Tor. Restore it with: "
-               << controller.profile().manualRestoreCommand << '\n';
+            errors << "veldmark: " << reason->translated() << '\n';
+        errors << "veldmark: "
+               << Text::tr("The network is still set up for Tor. Restore it with: %1").arg(controller.profile().manualRestoreCommand).translated()
+               << '\n';
         m_alerts.tell(tr("Your network is still set up for Tor"),
                       tr("Veldmark was told to end and could not restore it. Open Veldmark again to do so."));
     }
     QMetaObject::invokeMethod(qApp, [left] { QCoreApplication::exit(left ? 1 : 0); }, Qt::QueuedConnection);
 }
 
-Result<void, QString> Application::start(bool hidden, bool connectNow)
+Result<void, Text> Application::start(bool hidden, bool connectNow)
 {
     auto server = InstanceServer::start(m_production.controller());
     if (!server)

@@ -9,6 +9,7 @@
 #include "app/TrayHost.h"
 #include "app/Windows.h"
 #include "base/Clock.h"
+#include "base/Text.h"
 #include "controller/Production.h"
 #include "controller/SessionWatch.h"
 #include "instance/InstanceServer.h"
@@ -26,7 +27,7 @@ public:
 
     // Becomes the user's one instance and shows itself, unless `hidden`; connects when `connectNow` or the user's
     // settings say so. The error is one line.
-    Result<void, QString> start(bool hidden, bool connectNow);
+    Result<void, Text> start(bool hidden, bool connectNow);
 
     const Windows &windows() const { return m_windows; }
     const Tray *tray() const { return m_tray.get(); } // null until the desktop has had a place for it

@@ -3,7 +3,6 @@
 #include "app/LoginItem.h"
 #include "controller/SettingRules.h"
 #include "controller/TorController.h"
-#include "ui/SessionTexts.h"
 
 #include <QPointer>
 
@@ -28,23 +27,6 @@ Leak leakOf(const LeakStatus &status)
         break;
     }
     return {Leak::Kind::inconclusive, {}};
-}
-
-Lookups lookupsOf(const DNSStatus &status)
-{
-    switch (status.kind()) {
-    case DNSStatus::Kind::leak:
-        return {Lookups::Kind::leak, status.leaks()};
-    case DNSStatus::Kind::unknown:
-        return {Lookups::Kind::unknown, {}};
-    case DNSStatus::Kind::checking:
-        return {Lookups::Kind::checking, {}};
-    case DNSStatus::Kind::throughTor:
-        return {Lookups::Kind::throughTor, {}};
-    case DNSStatus::Kind::unverified:
-        break;
-    }
-    return {Lookups::Kind::unverified, {}};
 }
 
 } // namespace
@@ -104,7 +86,7 @@ void ControllerSession::read()
         next.torVerified = c.torVerified();
         next.stall = c.stall();
         next.leak = leakOf(c.leakStatus());
-        next.lookups = lookupsOf(c.dnsStatus());
+        next.dns = c.dnsStatus();
         next.isChecking = c.isChecking();
         next.latencyMs = c.latencyMs();
         next.optimizeStatus = c.optimizeStatus();
@@ -136,7 +118,7 @@ void ControllerSession::followTerminalMode()
 {
     const bool isOn = m_controller.terminalMode();
     if (isOn != std::exchange(m_terminalModeWasOn, isOn)) {
-        m_terminalHint.clear();
+        m_terminalHint = {};
         if (isOn)
             askTerminalHint();
     }
@@ -149,7 +131,7 @@ void ControllerSession::followTerminalMode()
 QCoro::Task<void> ControllerSession::askTerminalHint()
 {
     const QPointer<ControllerSession> self(this);
-    const QString hint = co_await m_controller.terminalHint();
+    const Text hint = co_await m_controller.terminalHint();
     if (!self || !m_controller.terminalMode())
         co_return;
     m_terminalHint = hint;
@@ -265,7 +247,7 @@ void ControllerSession::dismissError()
     // Only what the user has seen; what stands behind it, or has come meanwhile, is shown next.
     if (m_controller.errorMessage() && m_controller.errorMessage() == m_now.errorMessage)
         m_controller.dismissError();
-    else if (m_controller.settingsProblems().value(0) == m_now.errorMessage)
+    else if (!m_controller.settingsProblems().isEmpty() && m_controller.settingsProblems().constFirst() == m_now.errorMessage)
         m_controller.dismissSettingsProblem();
     schedule();
 }
@@ -325,7 +307,7 @@ void ControllerSession::removeTerminalIntegration()
 void ControllerSession::setOpenAtLogin(bool on)
 {
     if (const auto done = LoginItem(profile()).set(on); !done)
-        m_controller.showProblem(QStringLiteral("Couldn't change the login-item setting: ") + done.error());
+        m_controller.showProblem(Text::tr("Couldn't change the login-item setting: %1").arg(done.error()));
     schedule();
 }
 
@@ -349,7 +331,7 @@ QCoro::Task<void> ControllerSession::launch(QString application)
     const QPointer<ControllerSession> self(this);
     const auto launched = co_await m_controller.launchBypassed(application);
     if (self && !launched && !launched.error().isEmpty())
-        Q_EMIT launchFailed(SessionTexts::translated(launched.error()));
+        Q_EMIT launchFailed(launched.error().translated());
 }
 
 } // namespace veldmark

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Text.h"
 #include "doctor/Examiner.h"
 #include "platform/RunningApplications.h"
 #include "system/ChildProcessRunner.h"
@@ -62,7 +63,7 @@ private:
     bool m_scheduled = false;
     bool m_isReadingCircuits = false;
     bool m_circuitsWanted = false; // once more after those that are being read
-    QString m_terminalHint;          // asked when terminal mode is switched on
+    Text m_terminalHint;             // asked when terminal mode is switched on
     bool m_terminalModeWasOn = false;
     bool m_terminalIsKnown = false; // the two below are true; they cost reading the user's files
     bool m_terminalInstalled = false;

@@ -47,9 +47,10 @@ QString LastWords::advice(const PlatformProfile &profile)
 LastWords::LastWords(const PlatformProfile &profile)
 {
     words = new Words{profile,
-                      "veldmark: Ended without its display. Your network is still set up for Tor: start Veldmark "
-                      "again, or restore it with: "
-                          + profile.manualRestoreCommand.toUtf8() + '\n'};
+                      "veldmark: "
+                          + Text::tr("Ended without its display. Your network is still set up for Tor: start Veldmark again, or "
+                                     "restore it with: %1").arg(profile.manualRestoreCommand).translated().toUtf8()
+                          + '\n'};
     std::atexit(speak);
 }
 

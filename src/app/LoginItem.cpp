@@ -50,22 +50,23 @@ QString LoginItem::entry(const QString &executable)
         .arg(quoted);
 }
 
-Result<void, QString> LoginItem::set(bool on) const
+Result<void, Text> LoginItem::set(bool on) const
 {
     if (m_path.isEmpty())
-        return Failure(QStringLiteral("Login items can't be changed here."));
+        return Failure(Text::tr("Login items can't be changed here."));
     if (on == isSet())
         return {}; // also an entry that somebody has changed to their liking
     if (!on) {
         if (!QFile::remove(m_path))
-            return Failure(QStringLiteral("Couldn't remove %1.").arg(m_path));
+            return Failure(Text::tr("Couldn't remove %1.").arg(m_path));
         return {};
     }
     QDir().mkpath(QFileInfo(m_path).absolutePath());
     QSaveFile file(m_path);
     const QByteArray text = entry(QCoreApplication::applicationFilePath()).toUtf8();
     if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
-        return Failure(QStringLiteral("Couldn't write %1: %2").arg(m_path, file.errorString()));
+        return Failure(Text::tr("Couldn't write %1: %2")
+                           .arg(m_path, file.errorString()));
     return {};
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "base/Text.h"
 #include "platform/PlatformProfile.h"
 
 namespace veldmark {
@@ -12,8 +13,8 @@ public:
     explicit LoginItem(const PlatformProfile &profile) : m_path(profile.autostartFile) {}
 
     bool isSet() const;
-    // Writes or removes the entry; touches nothing when isSet() says so already. The error is an English sentence for the user; the window shows it in the user's language (SessionTexts).
-    Result<void, QString> set(bool on) const;
+    // Writes or removes the entry; touches nothing when isSet() says so already. The error is a sentence for the user.
+    Result<void, Text> set(bool on) const;
     // The desktop's entry for a program at `executable`; its path is quoted as the format asks. Not on macOS.
     static QString entry(const QString &executable);
 

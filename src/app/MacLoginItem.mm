@@ -12,7 +12,7 @@ bool LoginItem::isSet() const
     }
 }
 
-Result<void, QString> LoginItem::set(bool on) const
+Result<void, Text> LoginItem::set(bool on) const
 {
     @autoreleasepool {
         SMAppService *const service = [SMAppService mainAppService];
@@ -20,14 +20,14 @@ Result<void, QString> LoginItem::set(bool on) const
             return {};
         // The system runs a bundle that came from the network from a place of its own, which is another one each time.
         if (on && QString::fromUtf8([[[NSBundle mainBundle] bundlePath] UTF8String]).contains(QLatin1String("/AppTranslocation/")))
-            return Failure(QStringLiteral("Move Veldmark to the Applications folder and open it from there first."));
+            return Failure(Text::tr("Move Veldmark to the Applications folder and open it from there first."));
         NSError *error = nil;
         const BOOL done = on ? [service registerAndReturnError:&error] : [service unregisterAndReturnError:&error];
         if (done)
             return {};
         NSString *const reason = [error localizedDescription];
-        return Failure(reason ? QString::fromUtf8([reason UTF8String])
-                              : QStringLiteral("Login items can't be changed here."));
+        return Failure(reason ? Text(QString::fromUtf8([reason UTF8String]))
+                              : Text::tr("Login items can't be changed here."));
     }
 }
 

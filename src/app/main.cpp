@@ -3,6 +3,7 @@
 #include "app/LastWords.h"
 #include "base/PrivateMemory.h"
 #include "base/Resumption.h"
+#include "base/UsersLanguage.h"
 
 #include "instance/InstanceClient.h"
 #include "ui/Symbols.h"
@@ -13,7 +14,6 @@
 #include <QMessageBox>
 #include <QTextStream>
 #include <QTimer>
-#include <QTranslator>
 
 #include <algorithm>
 #include <array>
@@ -27,9 +27,9 @@ namespace {
 QCoro::Task<void> tellOther(std::shared_ptr<InstanceClient> client, QString command)
 {
     const QJsonObject request{{QStringLiteral("command"), command}};
-    const auto done = co_await client->run(request, [](const QJsonObject &) {});
+    const auto done = co_await client->run(request, [](const QJsonObject &, const QJsonObject &) {});
     if (!done)
-        QTextStream(stderr) << "veldmark: " << done.error().description() << '\n';
+        QTextStream(stderr) << "veldmark: " << done.error().description().translated() << '\n';
     QCoreApplication::exit(done ? 0 : 1);
 }
 
@@ -61,12 +61,6 @@ void nameProgram()
     QCoreApplication::setApplicationVersion(QStringLiteral(VELDMARK_VERSION));
 }
 
-void translate(QTranslator &translator)
-{
-    if (translator.load(QLocale(), QStringLiteral("veldmark"), QStringLiteral("_"), QStringLiteral(":/i18n")))
-        QCoreApplication::installTranslator(&translator);
-}
-
 // Whether it only wants to be told something, which needs no display.
 bool isQuestion(int argc, char **argv)
 {
@@ -80,8 +74,7 @@ int answer(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
     nameProgram();
-    QTranslator translator;
-    translate(translator);
+    const UsersLanguage language;
     CommandLine().process();
     return 0;
 }
@@ -103,8 +96,7 @@ int main(int argc, char **argv)
     becomeMenuBarProgram();
     application.setWindowIcon(QPixmap::fromImage(Symbols::image(QStringLiteral("veldmark"), 64, QColor(0x62, 0x36, 0xc9))));
 
-    QTranslator translator;
-    translate(translator);
+    const UsersLanguage language;
     CommandLine line;
     line.process();
 
@@ -121,8 +113,8 @@ int main(int argc, char **argv)
     const LastWords lastWords(profile);
     Application program(profile);
     if (const auto started = program.start(line.has(line.hidden), line.has(line.connectNow)); !started) {
-        QTextStream(stderr) << "veldmark: " << started.error() << '\n';
-        QMessageBox::critical(nullptr, QStringLiteral("Veldmark"), started.error() + LastWords::advice(profile));
+        QTextStream(stderr) << "veldmark: " << started.error().translated() << '\n';
+        QMessageBox::critical(nullptr, QStringLiteral("Veldmark"), started.error().translated() + LastWords::advice(profile));
         return 1;
     }
     return QApplication::exec();

@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QString>
+#include "base/Text.h"
+
+#include <utility>
 
 namespace veldmark {
 
@@ -8,15 +10,15 @@ namespace veldmark {
 // sentence that the user reads and is shown as it stands.
 class BridgeError {
 public:
-    static BridgeError unavailable(QString text) { return BridgeError(std::move(text)); }
+    static BridgeError unavailable(Text text) { return BridgeError(std::move(text)); }
 
-    QString description() const { return m_text; }
+    Text description() const { return m_text; }
 
     friend bool operator==(const BridgeError &, const BridgeError &) = default;
 
 private:
-    explicit BridgeError(QString text) : m_text(std::move(text)) {}
-    QString m_text;
+    explicit BridgeError(Text text) : m_text(std::move(text)) {}
+    Text m_text;
 };
 
 } // namespace veldmark

@@ -49,7 +49,7 @@ Result<QStringList, BridgeError> bridgeArguments(const QStringList &lines,
     if (!unsupported.isEmpty()) {
         const QString first = *std::min_element(unsupported.cbegin(), unsupported.cend());
         return Failure(BridgeError::unavailable(
-            QStringLiteral("The %1 bridge type isn't supported yet.").arg(first)));
+            Text::tr("The %1 bridge type isn't supported yet.").arg(first)));
     }
 
     if (used.contains(webtunnel) && transports.webtunnel) {
@@ -59,15 +59,15 @@ Result<QStringList, BridgeError> bridgeArguments(const QStringList &lines,
     if (!byLyrebird.isEmpty()) {
         if (!transports.lyrebird)
             return Failure(BridgeError::unavailable(
-                QStringLiteral("These bridges need lyrebird, which comes with Tor Browser. Click "
-                               "Download next to Bridges to get it.")));
+                Text::tr("These bridges need lyrebird, which comes with Tor Browser. Click "
+                         "Download next to Bridges to get it.")));
         arguments << QStringLiteral("--pt-lyrebird") << *transports.lyrebird;
     }
     if (used.contains(snowflake)) {
         if (!transports.snowflake)
             return Failure(BridgeError::unavailable(
-                QStringLiteral("Snowflake needs snowflake-client, which comes with Tor Browser. "
-                               "Click Download next to Bridges to get it.")));
+                Text::tr("Snowflake needs snowflake-client, which comes with Tor Browser. "
+                         "Click Download next to Bridges to get it.")));
         arguments << QStringLiteral("--pt-snowflake") << *transports.snowflake;
     }
     return arguments;

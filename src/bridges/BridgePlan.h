@@ -2,6 +2,7 @@
 
 #include "base/Clock.h"
 #include "base/Result.h"
+#include "base/Text.h"
 #include "bridges/BridgeChoice.h"
 #include "bridges/BridgeError.h"
 #include "bridges/PluggableTransports.h"
@@ -47,7 +48,7 @@ struct BridgeTools {
     // Takes a line for the user while bridges are being tested. May be called at any time until
     // planBridges() has finished: guard what it writes to if that may die before, and look there
     // whether this attempt is still the current one.
-    std::function<void(QString)> status;
+    std::function<void(Text)> status;
     // As `locate`, without waiting for a program's answer; without it `locate` is used.
     std::function<QCoro::Task<PluggableTransports>()> locateWithoutAsking = {};
 };

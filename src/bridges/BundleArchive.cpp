@@ -19,10 +19,10 @@ const ChildLimits listingLimits{180s, 8 * 1024 * 1024};
 constexpr qsizetype memberLimit = 20'000;
 constexpr qint64 unpackedLimitBytes = 2'000'000'000;
 
-QString refusal(const char *what, QByteArrayView name)
+Text refusal(const Text &what, QByteArrayView name)
 {
-    return QStringLiteral("The archive holds %1: %2")
-        .arg(QLatin1String(what), QString::fromUtf8(name.first(std::min<qsizetype>(name.size(), 200))));
+    return Text::tr("The archive holds %1: %2")
+        .arg(what, QString::fromUtf8(name.first(std::min<qsizetype>(name.size(), 200))));
 }
 
 // A path that stays below the folder it starts from.
@@ -59,7 +59,7 @@ std::optional<QByteArray> listing(const QString &tar, const QString &option, con
     return childOutput(tar, {QStringLiteral("--numeric-owner"), option, archive}, environment, listingLimits);
 }
 
-std::optional<QString> entryProblem(const fs::directory_entry &entry)
+std::optional<Text> entryProblem(const fs::directory_entry &entry)
 {
     std::error_code error;
     const fs::file_status status = entry.symlink_status(error);
@@ -70,12 +70,12 @@ std::optional<QString> entryProblem(const fs::directory_entry &entry)
     case fs::file_type::symlink: {
         const std::string target = fs::read_symlink(entry.path(), error).string();
         if (error || !leadsDownwards(target))
-            return refusal("a link that leads elsewhere", name);
+            return refusal(Text::tr("a link that leads elsewhere"), name);
         return std::nullopt;
     }
     case fs::file_type::regular: {
         if (entry.hard_link_count(error) != 1 || error)
-            return refusal("a hard link", name);
+            return refusal(Text::tr("a hard link"), name);
         const bool isProgram = (status.permissions() & fs::perms::owner_exec) != fs::perms::none;
         fs::permissions(entry.path(), static_cast<fs::perms>(isProgram ? 0755 : 0644), error);
         break;
@@ -84,67 +84,67 @@ std::optional<QString> entryProblem(const fs::directory_entry &entry)
         fs::permissions(entry.path(), static_cast<fs::perms>(0755), error);
         break;
     default:
-        return refusal("what is neither file nor folder", name);
+        return refusal(Text::tr("what is neither file nor folder"), name);
     }
-    return error ? std::optional(QString::fromStdString(error.message())) : std::nullopt;
+    return error ? std::optional<Text>(QString::fromStdString(error.message())) : std::nullopt;
 }
 
 } // namespace
 
-std::optional<QString> listingProblem(QByteArrayView names, QByteArrayView details)
+std::optional<Text> listingProblem(QByteArrayView names, QByteArrayView details)
 {
     const QByteArrayList nameLines = linesOf(names);
     const QByteArrayList detailLines = linesOf(details);
     if (nameLines.isEmpty())
-        return QStringLiteral("The archive is empty or no archive.");
+        return Text::tr("The archive is empty or no archive.");
     if (nameLines.size() != detailLines.size())
-        return QStringLiteral("The archive's list of files is not clear.");
+        return Text::tr("The archive's list of files is not clear.");
     if (nameLines.size() > memberLimit)
-        return QStringLiteral("The archive holds too many files.");
+        return Text::tr("The archive holds too many files.");
 
     qint64 total = 0;
     for (qsizetype i = 0; i < nameLines.size(); ++i) {
         const QByteArray &name = nameLines[i];
         const QByteArray &line = detailLines[i];
         if (!leadsDownwards(name))
-            return refusal("a path that leads elsewhere", name);
+            return refusal(Text::tr("a path that leads elsewhere"), name);
         const char type = line.isEmpty() ? '\0' : line.front();
         if (type == 'l') {
             const qsizetype arrow = line.lastIndexOf(name + " -> ");
             if (arrow < 0 || !leadsDownwards(QByteArrayView(line).sliced(arrow + name.size() + 4)))
-                return refusal("a link that leads elsewhere", name);
+                return refusal(Text::tr("a link that leads elsewhere"), name);
             continue;
         }
         if (type == 'h' || line.contains(" link to "))
-            return refusal("a hard link", name);
+            return refusal(Text::tr("a hard link"), name);
         if (type != '-' && type != 'd')
-            return refusal("what is neither file nor folder", name);
+            return refusal(Text::tr("what is neither file nor folder"), name);
         const std::optional<qint64> size = sizeIn(line);
         if (!size || *size > unpackedLimitBytes - total)
-            return QStringLiteral("The archive's content is too large.");
+            return Text::tr("The archive's content is too large.");
         total += *size;
     }
     return std::nullopt;
 }
 
-std::optional<QString> archiveProblem(const QString &tar, const QString &archive)
+std::optional<Text> archiveProblem(const QString &tar, const QString &archive)
 {
     const std::optional<QByteArray> names = listing(tar, QStringLiteral("-tzf"), archive);
     const std::optional<QByteArray> details = listing(tar, QStringLiteral("-tvzf"), archive);
     if (!names || !details)
-        return QStringLiteral("The archive's content could not be listed.");
+        return Text::tr("The archive's content could not be listed.");
     return listingProblem(*names, *details);
 }
 
-std::optional<QString> settleUnpacked(const QString &folder)
+std::optional<Text> settleUnpacked(const QString &folder)
 {
     std::error_code error;
     fs::recursive_directory_iterator entries(QFile::encodeName(folder).toStdString(), error);
     for (; !error && entries != fs::recursive_directory_iterator(); entries.increment(error)) {
-        if (const std::optional<QString> problem = entryProblem(*entries))
+        if (const std::optional<Text> problem = entryProblem(*entries))
             return problem;
     }
-    return error ? std::optional(QString::fromStdString(error.message())) : std::nullopt;
+    return error ? std::optional<Text>(QString::fromStdString(error.message())) : std::nullopt;
 }
 
 } // namespace veldmark

@@ -116,20 +116,20 @@ BundleFolder::~BundleFolder()
     ::close(m_lock);
 }
 
-Result<std::shared_ptr<BundleFolder>, QString> BundleFolder::claim(const QString &folder, Exchange exchange)
+Result<std::shared_ptr<BundleFolder>, Text> BundleFolder::claim(const QString &folder, Exchange exchange)
 {
     const QFileInfo place(folder);
     const QString parent = place.absolutePath();
     if (!QDir().mkpath(parent))
-        return Failure(QStringLiteral("Couldn't make the folder %1: %2.").arg(parent, lastSystemError()));
+        return Failure(Text::tr("Couldn't make the folder %1: %2.").arg(parent, lastSystemError()));
     const QString lockFile = parent + QStringLiteral("/.") + place.fileName() + QStringLiteral(".lock");
     const int lock = ::open(QFile::encodeName(lockFile).constData(),
                             O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
     if (lock < 0)
-        return Failure(QStringLiteral("Couldn't open %1: %2.").arg(lockFile, lastSystemError()));
+        return Failure(Text::tr("Couldn't open %1: %2.").arg(lockFile, lastSystemError()));
     if (::flock(lock, LOCK_EX | LOCK_NB) != 0) {
         ::close(lock);
-        return Failure(QStringLiteral("Another download is under way."));
+        return Failure(Text::tr("Another download is under way."));
     }
     std::shared_ptr<BundleFolder> claimed(new BundleFolder(folder, std::move(exchange), lock));
     char noted[recordLimitBytes] = {};
@@ -172,22 +172,22 @@ void BundleFolder::removeUnfinished() const
     }
 }
 
-Result<QString, QString> BundleFolder::fresh()
+Result<QString, Text> BundleFolder::fresh()
 {
     QByteArray name = QFile::encodeName(beside(".new-XXXXXX"));
     // Tor's own account runs programs from here, whatever this user's umask is.
     if (::mkdtemp(name.data()) == nullptr || ::chmod(name.constData(), 0755) != 0)
-        return Failure(QStringLiteral("Couldn't make a folder beside %1: %2.").arg(m_folder, lastSystemError()));
+        return Failure(Text::tr("Couldn't make a folder beside %1: %2.").arg(m_folder, lastSystemError()));
     m_fresh = QFile::decodeName(name);
     return m_fresh;
 }
 
-Result<void, QString> BundleFolder::publish(const QString &version, bool isVerified, qint64 signedAt) const
+Result<void, Text> BundleFolder::publish(const QString &version, bool isVerified, qint64 signedAt) const
 {
     const QString folder = m_fresh;
     const QString former = beside(".old");
     const auto failed = [this] {
-        return Failure(QStringLiteral("Couldn't write %1: %2.").arg(m_folder, lastSystemError()));
+        return Failure(Text::tr("Couldn't write %1: %2.").arg(m_folder, lastSystemError()));
     };
     if (!wrote(folder + QStringLiteral("/VERSION"), version)
         || !wrote(folder + QStringLiteral("/VERIFIED"),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "base/Text.h"
 
 #include <QString>
 
@@ -33,7 +34,7 @@ public:
 
     // Takes the right and clears up what a process that was killed has left: puts back a bundle
     // that had been taken away, and removes unfinished ones. The error is a sentence.
-    static Result<std::shared_ptr<BundleFolder>, QString> claim(const QString &folder,
+    static Result<std::shared_ptr<BundleFolder>, Text> claim(const QString &folder,
                                                                Exchange exchange = &BundleFolder::exchange);
     ~BundleFolder();
     BundleFolder(const BundleFolder &) = delete;
@@ -47,10 +48,10 @@ public:
     void note(const QString &temporary) const;
 
     // Makes an empty folder for a new bundle, on the same file system. Once.
-    Result<QString, QString> fresh();
+    Result<QString, Text> fresh();
     // Writes the new bundle's record, puts the new bundle where the old one was and removes the old
     // one. signedAt: of a verified one, in seconds since 1970.
-    Result<void, QString> publish(const QString &version, bool isVerified, qint64 signedAt = 0) const;
+    Result<void, Text> publish(const QString &version, bool isVerified, qint64 signedAt = 0) const;
     // The version that the new bundle brings itself, before publish() notes one; nothing when it does not.
     std::optional<QString> freshVersion() const;
     // Removes a new bundle that is not to be published.

@@ -13,7 +13,11 @@ namespace {
 
 using Done = Result<void, DownloadError>;
 
-const QString cancelledText = QStringLiteral("Cancelled.");
+// What a program that failed has to say, or why it did not run.
+Text said(const Result<ProcessResult, Text> &run)
+{
+    return run ? Text(run->stderr.simplified()) : run.error();
+}
 
 // Touches nothing but the source afterwards, so the task may be dropped.
 QCoro::Task<void> stopAfter(Clock *clock, std::chrono::milliseconds limit, StopSource source)
@@ -40,12 +44,12 @@ QCoro::Task<BundleTools::Run> BundleTools::run(std::shared_ptr<BundleTools> tool
                                                StopSource current)
 {
     if (!tools->m_runner)
-        co_return Failure(cancelledText);
+        co_return Failure(DownloadError::cancelled().description());
     stopAfter(&tools->m_clock, limit, current);
     auto running = tools->m_runner->runUntil(program, arguments, current.get_token());
     const auto ended = co_await running;
     if (current.stop_requested())
-        co_return Failure(QStringLiteral("%1 didn't end within %2 minutes.")
+        co_return Failure(Text::tr("%1 didn't end within %2 minutes.")
                               .arg(QFileInfo(program).fileName())
                               .arg(std::chrono::duration_cast<std::chrono::minutes>(limit).count()));
     if (!ended)
@@ -57,17 +61,16 @@ QCoro::Task<Result<qint64, DownloadError>> BundleTools::verify(std::shared_ptr<B
                                                                QString signature, QString archive, QString fingerprint)
 {
     if (tools->m_isCancelled)
-        co_return Failure(DownloadError::other(cancelledText));
+        co_return Failure(DownloadError::cancelled());
     const QStringList import = {QStringLiteral("--homedir"), home, QStringLiteral("--batch"),
                                 QStringLiteral("--quiet"), QStringLiteral("--import"), key};
     tools->m_current = StopSource();
     auto importing = run(tools, tools->m_gpg, import, gnupgLimit, tools->m_current);
     const Run imported = co_await importing;
     if (tools->m_isCancelled)
-        co_return Failure(DownloadError::other(cancelledText));
+        co_return Failure(DownloadError::cancelled());
     if (!imported || imported->status != 0)
-        co_return Failure(DownloadError::badSignature(QStringLiteral("Couldn't load the Tor Browser signing key. ")
-                                                      + (imported ? imported->stderr : imported.error())));
+        co_return Failure(DownloadError::badSignature(Text::tr("Couldn't load the Tor Browser signing key. %1").arg(said(imported))));
 
     const QStringList check = {QStringLiteral("--homedir"), home, QStringLiteral("--batch"),
                                QStringLiteral("--status-fd"), QStringLiteral("1"), QStringLiteral("--verify"),
@@ -76,11 +79,11 @@ QCoro::Task<Result<qint64, DownloadError>> BundleTools::verify(std::shared_ptr<B
     auto checking = run(tools, tools->m_gpg, check, gnupgLimit, tools->m_current);
     const Run checked = co_await checking;
     if (tools->m_isCancelled)
-        co_return Failure(DownloadError::other(cancelledText));
+        co_return Failure(DownloadError::cancelled());
     const auto signedAt = checked ? signatureTime(checked->stdout, fingerprint) : std::nullopt;
     if (!signedAt) {
         QFile::remove(archive);
-        co_return Failure(DownloadError::badSignature(checked ? checked->stderr : checked.error()));
+        co_return Failure(DownloadError::badSignature(said(checked)));
     }
     co_return *signedAt;
 }
@@ -88,7 +91,7 @@ QCoro::Task<Result<qint64, DownloadError>> BundleTools::verify(std::shared_ptr<B
 QCoro::Task<Done> BundleTools::unpack(std::shared_ptr<BundleTools> tools, QString archive, QString folder)
 {
     if (tools->m_isCancelled)
-        co_return Failure(DownloadError::other(cancelledText));
+        co_return Failure(DownloadError::cancelled());
     // A process that is root must not take the archive's owners over: they are somebody else's here.
     const QStringList extract = {QStringLiteral("-xzf"), archive, QStringLiteral("-C"), folder,
                                  QStringLiteral("--no-same-owner"), QStringLiteral("--no-same-permissions")};
@@ -96,9 +99,9 @@ QCoro::Task<Done> BundleTools::unpack(std::shared_ptr<BundleTools> tools, QStrin
     auto extracting = run(tools, tools->m_tar, extract, unpackLimit, tools->m_current);
     const Run extracted = co_await extracting;
     if (tools->m_isCancelled)
-        co_return Failure(DownloadError::other(cancelledText));
+        co_return Failure(DownloadError::cancelled());
     if (!extracted || extracted->status != 0)
-        co_return Failure(DownloadError::extractFailed(extracted ? extracted->stderr : extracted.error()));
+        co_return Failure(DownloadError::extractFailed(said(extracted)));
     co_return {};
 }
 
@@ -112,7 +115,7 @@ QCoro::Task<void> BundleTools::endAgent(std::shared_ptr<BundleTools> tools, QStr
     auto killing = run(tools, gpgconf, kill, gnupgLimit, uncancelled);
     const Run killed = co_await killing;
     if (!killed)
-        qWarning("gpgconf: %s", qUtf8Printable(killed.error()));
+        qWarning("gpgconf: %s", qUtf8Printable(killed.error().english()));
 }
 
 } // namespace veldmark

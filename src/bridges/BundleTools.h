@@ -2,6 +2,7 @@
 
 #include "base/Result.h"
 #include "base/StopToken.h"
+#include "base/Text.h"
 #include "bridges/DownloadError.h"
 
 #include <QString>
@@ -51,7 +52,7 @@ public:
 
 private:
     // The program's result, or why there is none, in a sentence.
-    using Run = Result<ProcessResult, QString>;
+    using Run = Result<ProcessResult, Text>;
     // cancel() ends the program only when it is told how by `current`.
     static QCoro::Task<Run> run(std::shared_ptr<BundleTools> tools, QString program, QStringList arguments,
                                 std::chrono::milliseconds limit, StopSource current);

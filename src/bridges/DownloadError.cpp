@@ -4,48 +4,56 @@ namespace veldmark {
 
 namespace {
 // What a program wrote on standard error, as a part of one line.
-QString oneLine(const QString &detail)
+Text oneLine(const Text &text)
 {
+    if (!text.isWords())
+        return text;
+    const QString detail = text.english();
     constexpr qsizetype shown = 400;
     const QString line = detail.simplified();
     return line.size() > shown ? line.left(shown) + u'…' : line;
 }
 } // namespace
 
-DownloadError DownloadError::http(int status, const QString &item)
+DownloadError DownloadError::http(int status, const Text &item)
 {
-    return {Kind::http, QStringLiteral("Download of %1 failed (HTTP %2).").arg(item).arg(status)};
+    return {Kind::http, Text::tr("Download of %1 failed (HTTP %2).").arg(item).arg(status)};
 }
 
 DownloadError DownloadError::badVersion()
 {
-    return {Kind::badVersion, QStringLiteral("Couldn't read the latest Tor version from torproject.org.")};
+    return {Kind::badVersion, Text::tr("Couldn't read the latest Tor version from torproject.org.")};
 }
 
-DownloadError DownloadError::badSignature(const QString &detail)
+DownloadError DownloadError::badSignature(const Text &detail)
 {
     return {Kind::badSignature,
-            QStringLiteral("The download's signature didn't verify, so it was discarded. ") + oneLine(detail)};
+            Text::tr("The download's signature didn't verify, so it was discarded. %1").arg(oneLine(detail))};
 }
 
-DownloadError DownloadError::extractFailed(const QString &detail)
+DownloadError DownloadError::extractFailed(const Text &detail)
 {
-    return {Kind::extractFailed, QStringLiteral("Couldn't unpack the download. ") + oneLine(detail)};
+    return {Kind::extractFailed, Text::tr("Couldn't unpack the download. %1").arg(oneLine(detail))};
 }
 
 DownloadError DownloadError::olderVersion(const QString &announced, const QString &installed)
 {
-    return {Kind::rollback, QStringLiteral("Version %1 is offered, which is older than the installed %2. Nothing was changed.")
+    return {Kind::rollback, Text::tr("Version %1 is offered, which is older than the installed %2. Nothing was changed.")
                                 .arg(announced, oneLine(installed))};
 }
 
 DownloadError DownloadError::otherContent(const QString &announced)
 {
     return {Kind::rollback,
-            QStringLiteral("What came as version %1 is another one, so it was discarded.").arg(announced)};
+            Text::tr("What came as version %1 is another one, so it was discarded.").arg(announced)};
 }
 
-DownloadError DownloadError::other(QString text)
+DownloadError DownloadError::cancelled()
+{
+    return {Kind::other, Text::tr("Cancelled.")};
+}
+
+DownloadError DownloadError::other(const Text &text)
 {
     return {Kind::other, oneLine(text)};
 }

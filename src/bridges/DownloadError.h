@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QString>
+#include "base/Text.h"
+
+#include <utility>
 
 namespace veldmark {
 
@@ -18,22 +20,23 @@ public:
     };
 
     // item: what was asked for, as in "Download of the archive failed".
-    static DownloadError http(int status, const QString &item);
+    static DownloadError http(int status, const Text &item);
     static DownloadError badVersion();
-    static DownloadError badSignature(const QString &detail);
-    static DownloadError extractFailed(const QString &detail);
+    static DownloadError badSignature(const Text &detail);
+    static DownloadError extractFailed(const Text &detail);
     static DownloadError olderVersion(const QString &announced, const QString &installed);
     static DownloadError otherContent(const QString &announced);
-    static DownloadError other(QString text);
+    static DownloadError cancelled();
+    static DownloadError other(const Text &text);
 
     Kind kind() const { return m_kind; }
-    QString description() const { return m_description; }
+    Text description() const { return m_description; }
 
 private:
-    DownloadError(Kind kind, QString description) : m_kind(kind), m_description(std::move(description)) {}
+    DownloadError(Kind kind, Text description) : m_kind(kind), m_description(std::move(description)) {}
 
     Kind m_kind;
-    QString m_description;
+    Text m_description;
 };
 
 } // namespace veldmark

@@ -22,8 +22,6 @@ constexpr int success = 200;
 
 using Outcome = Result<QByteArray, DownloadError>;
 
-const QString cancelledText = QStringLiteral("Cancelled.");
-
 } // namespace
 
 // One request and what became of it. Owned by the coroutine that waits for the answer, which is
@@ -31,7 +29,7 @@ const QString cancelledText = QStringLiteral("Cancelled.");
 class HTTPSSession::Exchange : public QObject {
 public:
     Exchange(Clock &clock, Fetch what) : m_clock(clock), m_what(std::move(what)) {}
-    ~Exchange() override { end(DownloadError::other(cancelledText)); }
+    ~Exchange() override { end(DownloadError::cancelled()); }
 
     void start(QNetworkAccessManager &access, const QNetworkRequest &request)
     {
@@ -52,8 +50,8 @@ public:
         connect(reply, &QNetworkReply::finished, this, &Exchange::readEnd);
     }
 
-    void cancel() { end(DownloadError::other(cancelledText)); }
-    void timeOut() { end(DownloadError::other(QStringLiteral("The request timed out."))); }
+    void cancel() { end(DownloadError::cancelled()); }
+    void timeOut() { end(DownloadError::other(Text::tr("The request timed out."))); }
 
     const ResumeOnce<Outcome> &answer() const { return m_answer; }
     Clock::TimePoint lastActivity() const { return m_lastActivity; }
@@ -107,13 +105,13 @@ private:
         } else if (error != QNetworkReply::NoError) {
             end(DownloadError::other(m_reply->errorString()));
         } else if (status() != success) {
-            end(DownloadError::other(QStringLiteral("The server gave no HTTP answer.")));
+            end(DownloadError::other(Text::tr("The server gave no HTTP answer.")));
         } else {
             readBody();
             if (m_answer.isDone())
                 return;
             if (total() >= 0 && m_received != total())
-                end(DownloadError::other(QStringLiteral("The connection was lost before the end.")));
+                end(DownloadError::other(Text::tr("The connection was lost before the end.")));
             else if (m_file.isOpen() && !m_file.flush())
                 endUnwritten();
             else
@@ -123,13 +121,13 @@ private:
 
     void endTooLong()
     {
-        end(DownloadError::other(QStringLiteral("The server sent more than %1 can be.").arg(m_what.item)));
+        end(DownloadError::other(Text::tr("The server sent more than %1 can be.").arg(m_what.item)));
     }
 
     void endUnwritten()
     {
         end(DownloadError::other(
-            QStringLiteral("Couldn't write %1: %2.").arg(m_what.file, m_file.errorString())));
+            Text::tr("Couldn't write %1: %2.").arg(m_what.file, m_file.errorString())));
     }
 
     void end(DownloadError error) { finish(Failure(std::move(error))); }
@@ -169,7 +167,7 @@ HTTPSSession::~HTTPSSession() = default;
 void HTTPSSession::cancel()
 {
     m_isCancelled = true;
-    m_cancelling.setObjectName(cancelledText);
+    m_cancelling.setObjectName(QStringLiteral("cancelled"));
 }
 
 // Looks at the exchange again before each use: it is gone when the answer came in time, and then
@@ -200,7 +198,7 @@ QCoro::Task<Result<QByteArray, DownloadError>> HTTPSSession::fetch(std::shared_p
                                                                    Fetch what)
 {
     if (session->m_isCancelled)
-        co_return Failure(DownloadError::other(cancelledText));
+        co_return Failure(DownloadError::cancelled());
     QNetworkRequest request = privateRequest(what.url, session->m_tls);
     request.setMaximumRedirectsAllowed(redirectLimit);
 

@@ -2,6 +2,7 @@
 
 #include "base/Clock.h"
 #include "base/Result.h"
+#include "base/Text.h"
 #include "bridges/DownloadError.h"
 
 #include <QNetworkAccessManager>
@@ -18,7 +19,7 @@ namespace veldmark {
 // One thing to fetch.
 struct Fetch {
     QUrl url;     // https
-    QString item; // what it is, for the message about a failure
+    Text item;    // what it is, for the message about a failure
     qint64 limitBytes = 0;
     QString file; // where it goes; empty: it is given back
     // Hears the bytes so far and in all (-1 when the server does not say). Optional.

@@ -179,8 +179,8 @@ Result<QStringList, BridgeError> PluggableTransports::builtinLines(BridgeChoice 
             return lines.first(std::min(lines.size(), BridgeLines::mostLines));
     }
     return Failure(BridgeError::unavailable(
-        QStringLiteral("Built-in %1 bridges come from Tor Browser. Click Download next to Bridges, "
-                       "install Tor Browser, or paste your own under Bridges → Custom….")
+        Text::tr("Built-in %1 bridges come from Tor Browser. Click Download next to Bridges, "
+                 "install Tor Browser, or paste your own under Bridges → Custom….")
             .arg(displayName(choice))));
 }
 

@@ -70,15 +70,15 @@ std::optional<qint64> signatureTime(const QString &statusLines, const QString &f
     return std::nullopt;
 }
 
-QString progressText(qint64 receivedBytes, qint64 totalBytes)
+Text progressText(qint64 receivedBytes, qint64 totalBytes)
 {
     const auto megabytes = [](qint64 bytes) {
         return QString::number(static_cast<double>(bytes) / 1e6, 'f', 1);
     };
     if (totalBytes < 1)
-        return megabytes(receivedBytes) + QStringLiteral(" MB");
+        return Text::tr("%1 MB").arg(megabytes(receivedBytes));
     const qint64 percent = std::min(receivedBytes, totalBytes) * 100 / totalBytes;
-    return QStringLiteral("%1 of %2 MB (%3%)")
+    return Text::tr("%1 of %2 MB (%3%)")
         .arg(megabytes(receivedBytes), megabytes(totalBytes)).arg(percent);
 }
 

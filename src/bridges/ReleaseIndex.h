@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Text.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -24,6 +26,6 @@ std::optional<qint64> signatureTime(const QString &statusLines, const QString &f
 
 // What is shown of a download under way: "12.3 of 30.1 MB (40%)", or "12.3 MB" when the whole size
 // is not known (totalBytes < 1). Decimal megabytes.
-QString progressText(qint64 receivedBytes, qint64 totalBytes);
+Text progressText(qint64 receivedBytes, qint64 totalBytes);
 
 } // namespace veldmark

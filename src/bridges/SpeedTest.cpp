@@ -34,7 +34,7 @@ FastestSelection fastestSelection(const QStringList &lines,
             answers.push_back({candidates[i], *times[i]});
     }
     if (answers.empty())
-        return {lines, QStringLiteral("No bridge answered a quick test, trying them all")};
+        return {lines, Text::tr("No bridge answered a quick test, trying them all")};
 
     std::stable_sort(answers.begin(), answers.end(),
                      [](const Answer &a, const Answer &b) { return a.time < b.time; });
@@ -47,18 +47,18 @@ FastestSelection fastestSelection(const QStringList &lines,
         if (!std::binary_search(candidates.begin(), candidates.end(), i))
             selection.lines.append(lines[i]);
     }
-    selection.status = QStringLiteral("Using the %1 fastest of %2 bridges")
+    selection.status = Text::tr("Using the %1 fastest of %2 bridges")
                            .arg(answers.size()).arg(candidates.size());
     return selection;
 }
 
 QCoro::Task<QStringList> fastestBridges(QStringList lines, BridgeProbe probe,
-                                        std::function<void(QString)> status)
+                                        std::function<void(Text)> status)
 {
     const std::vector<qsizetype> candidates = speedTestCandidates(lines);
     if (candidates.size() < 2)
         co_return lines;
-    status(QStringLiteral("Testing %1 bridges…").arg(candidates.size()));
+    status(Text::tr("Testing %1 bridges…").arg(candidates.size()));
 
     // Tasks run from the moment they are made, so all probes are under way before the first is
     // awaited. A candidate without an address has no time.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Text.h"
+
 #include <qcorotask.h>
 
 #include <QString>
@@ -29,14 +31,14 @@ inline constexpr qsizetype fastestBridgeCount = 3;
 // the result after, and the answer is that of fastestSelection(). Lasts as long as the slowest
 // probe.
 QCoro::Task<QStringList> fastestBridges(QStringList lines, BridgeProbe probe,
-                                        std::function<void(QString)> status);
+                                        std::function<void(Text)> status);
 
 // The steps of the above, pure. Candidates are positions in `lines`, in rising order.
 std::vector<qsizetype> speedTestCandidates(const QStringList &lines);
 
 struct FastestSelection {
     QStringList lines;
-    QString status; // the line for the user
+    Text status; // the line for the user
 };
 
 // The three fastest candidates (equal times in the order of `lines`), then every line that was not

@@ -31,8 +31,6 @@ constexpr qint64 keyLimitBytes = 4 * 1024 * 1024;
 constexpr qint64 signatureLimitBytes = 256 * 1024;
 constexpr qint64 archiveLimitBytes = 256 * 1024 * 1024;
 
-const QString cancelledText = QStringLiteral("Cancelled.");
-
 // Runs what blocks on a thread of the pool.
 template <typename T>
 QCoro::Task<T> elsewhere(std::function<T()> work)
@@ -72,7 +70,7 @@ bool makePrivateFolder(const QString &path)
 // the size is not known.
 class DownloadLine {
 public:
-    DownloadLine(QString line, TransportDownloader::Progress progress)
+    DownloadLine(Text line, TransportDownloader::Progress progress)
         : m_line(std::move(line)), m_progress(std::move(progress))
     {
     }
@@ -82,11 +80,11 @@ public:
         const qint64 step = total > 0 ? received * 100 / total : received / 1'000'000;
         if (step == std::exchange(m_step, step))
             return;
-        m_progress(m_line + u' ' + progressText(received, total));
+        m_progress(Text::joined({m_line, progressText(received, total)}));
     }
 
 private:
-    QString m_line;
+    Text m_line;
     TransportDownloader::Progress m_progress;
     qint64 m_step = -1;
 };
@@ -191,12 +189,12 @@ QCoro::Task<TransportDownloader::Outcome>
 TransportDownloader::run(std::shared_ptr<Means> means, bool throughTor, Progress progress)
 {
     if (means->isBusy)
-        co_return Failure(DownloadError::other(QStringLiteral("Another download is under way.")));
+        co_return Failure(DownloadError::other(Text::tr("Another download is under way.")));
     means->isBusy = true;
     means->isCancelled = false;
-    progress(QStringLiteral("Checking latest version…"));
+    progress(Text::tr("Checking latest version…"));
 
-    using Claim = Result<std::shared_ptr<BundleFolder>, QString>;
+    using Claim = Result<std::shared_ptr<BundleFolder>, Text>;
     const std::function<Claim()> claim = [folder = means->profile.bundleDirectory] {
         return BundleFolder::claim(folder);
     };
@@ -225,7 +223,7 @@ TransportDownloader::run(std::shared_ptr<Means> means, bool throughTor, Progress
     job->folder->note(job->temporary);
     const std::optional<quint16> proxy = throughTor ? std::optional(means->source.socksPort) : std::nullopt;
 
-    Outcome outcome = Failure(DownloadError::other(cancelledText));
+    Outcome outcome = Failure(DownloadError::cancelled());
     if (means->runner && !means->isCancelled) {
         job->session = std::make_shared<HTTPSSession>(*means->clock, proxy, means->source.tls);
         means->session = job->session;
@@ -233,7 +231,7 @@ TransportDownloader::run(std::shared_ptr<Means> means, bool throughTor, Progress
         outcome = co_await filling;
         job->session.reset();
         if (!outcome && means->isCancelled) // whatever it was that noticed first
-            outcome = Failure(DownloadError::other(cancelledText));
+            outcome = Failure(DownloadError::cancelled());
     }
     auto clearing = clearUp(job, job->temporary);
     co_await clearing;
@@ -248,7 +246,7 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_
     const DownloadSource &source = means->source;
     const auto isGone = [means] { return means->isCancelled || !means->runner; };
 
-    const Fetch index{source.versionURL, QStringLiteral("the version index"), indexLimitBytes, {}, {}};
+    const Fetch index{source.versionURL, Text::tr("the version index"), indexLimitBytes, {}, {}};
     auto asking = HTTPSSession::fetch(job->session, index);
     const auto listed = co_await asking;
     if (!listed)
@@ -263,13 +261,13 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_
 
     if (!makePrivateFolder(job->temporary))
         co_return Failure(DownloadError::other(
-            QStringLiteral("Couldn't make the folder %1: %2.").arg(job->temporary, qt_error_string(errno))));
+            Text::tr("Couldn't make the folder %1: %2.").arg(job->temporary, qt_error_string(errno))));
     const QString archive = job->at("archive.tar.gz");
     const QUrl archiveURL =
         source.archiveURL(*version, means->profile.bundleArchivePrefix + *version + QStringLiteral(".tar.gz"));
-    const QString line = QStringLiteral("Downloading Tor %1 bridge programs…").arg(*version);
+    const Text line = Text::tr("Downloading Tor %1 bridge programs…").arg(*version);
     job->report(line);
-    const Fetch large{archiveURL, QStringLiteral("the bridge programs"), archiveLimitBytes, archive,
+    const Fetch large{archiveURL, Text::tr("the bridge programs"), archiveLimitBytes, archive,
                       DownloadLine(line, job->report)};
     auto downloading = HTTPSSession::fetch(job->session, large);
     const auto downloaded = co_await downloading;
@@ -289,9 +287,9 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_
             co_return Failure(DownloadError::otherContent(*version));
     }
     if (isGone())
-        co_return Failure(DownloadError::other(cancelledText));
+        co_return Failure(DownloadError::cancelled());
 
-    job->report(QStringLiteral("Installing…"));
+    job->report(Text::tr("Installing…"));
     auto unpacking = unpack(job, archive);
     const Done unpacked = co_await unpacking;
     if (!unpacked)
@@ -300,10 +298,10 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_
     if (inside && *inside != *version)
         co_return Failure(DownloadError::otherContent(*version));
     if (isGone())
-        co_return Failure(DownloadError::other(cancelledText));
+        co_return Failure(DownloadError::cancelled());
 
     const InstalledBundle bundle{*version, hasGnuPG};
-    using Published = Result<void, QString>;
+    using Published = Result<void, Text>;
     const std::function<Published()> publish = [folder = job->folder, bundle, signedAt] {
         return folder->publish(bundle.version, bundle.isVerified, signedAt);
     };
@@ -320,15 +318,15 @@ QCoro::Task<Result<qint64, DownloadError>> TransportDownloader::verify(std::shar
     const std::shared_ptr<Means> means = job->means;
     const QString signature = job->at("archive.tar.gz.asc");
     const QUrl signatureURL(archiveURL.toString() + QStringLiteral(".asc"));
-    const Fetch small{signatureURL, QStringLiteral("signature"), signatureLimitBytes, signature, {}};
+    const Fetch small{signatureURL, Text::tr("signature"), signatureLimitBytes, signature, {}};
     auto downloading = HTTPSSession::fetch(job->session, small);
     const auto downloaded = co_await downloading;
     if (!downloaded)
         co_return Failure(downloaded.error());
 
-    job->report(QStringLiteral("Verifying signature…"));
+    job->report(Text::tr("Verifying signature…"));
     const QString key = job->at("key.asc");
-    const Fetch asking{means->source.keyURL, QStringLiteral("signing key"), keyLimitBytes, key, {}};
+    const Fetch asking{means->source.keyURL, Text::tr("signing key"), keyLimitBytes, key, {}};
     auto fetching = HTTPSSession::fetch(job->session, asking);
     const auto fetched = co_await fetching;
     if (!fetched)
@@ -337,7 +335,7 @@ QCoro::Task<Result<qint64, DownloadError>> TransportDownloader::verify(std::shar
     const QString home = gnupgHome(job->temporary);
     if (!makePrivateFolder(home))
         co_return Failure(DownloadError::other(
-            QStringLiteral("Couldn't make the folder %1: %2.").arg(home, qt_error_string(errno))));
+            Text::tr("Couldn't make the folder %1: %2.").arg(home, qt_error_string(errno))));
     auto verifying = BundleTools::verify(job->tools, home, key, signature, archive, means->source.fingerprint);
     const Result<qint64, DownloadError> verified = co_await verifying;
     co_return verified;
@@ -345,7 +343,7 @@ QCoro::Task<Result<qint64, DownloadError>> TransportDownloader::verify(std::shar
 
 QCoro::Task<Done> TransportDownloader::unpack(std::shared_ptr<Job> job, QString archive)
 {
-    using Problem = std::optional<QString>;
+    using Problem = std::optional<Text>;
     const std::function<Problem()> look = [tar = job->tools->tar(), archive] { return archiveProblem(tar, archive); };
     auto looking = elsewhere<Problem>(look);
     const Problem hostile = co_await looking;

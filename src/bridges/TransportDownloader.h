@@ -2,6 +2,7 @@
 
 #include "base/Clock.h"
 #include "base/Result.h"
+#include "base/Text.h"
 #include "bridges/DownloadError.h"
 #include "platform/PlatformProfile.h"
 
@@ -54,7 +55,7 @@ public:
     using Outcome = Result<InstalledBundle, DownloadError>;
     // Hears a line for the user, on the caller's thread; the line of the large download grows by
     // how far it is ("… 12.3 of 30.1 MB (40%)").
-    using Progress = std::function<void(QString)>;
+    using Progress = std::function<void(Text)>;
 
     // `runner` and `clock` must outlive the object.
     TransportDownloader(PlatformProfile profile, ProcessRunner &runner, Clock &clock,

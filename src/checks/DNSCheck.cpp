@@ -95,12 +95,12 @@ DNSStatus statusAfter(const std::vector<DNSResolver> &leaks, const std::optional
     return current.isLeak() ? DNSStatus::unknown() : current;
 }
 
-QString stillLeakingText(const QStringList &summaries, bool isBlocked)
+Text stillLeakingText(const QStringList &summaries, bool isBlocked)
 {
-    const QString text = isBlocked
-        ? QStringLiteral("Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around "
-                         "Tor: %1. Strict mode's firewall blocks them.")
-        : QStringLiteral("Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around Tor: %1.");
+    const Text text = isBlocked
+        ? Text::tr("Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around "
+                   "Tor: %1. Strict mode's firewall blocks them.")
+        : Text::tr("Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around Tor: %1.");
     return text.arg(summaries.join(QStringLiteral("; ")));
 }
 

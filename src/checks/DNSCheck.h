@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Clock.h"
+#include "base/Text.h"
 #include "checks/DNSResolver.h"
 #include "checks/DNSStatus.h"
 
@@ -29,7 +30,7 @@ DNSStatus statusAfter(const std::vector<DNSResolver> &leaks, const std::optional
                       bool liveVerified, const DNSStatus &current);
 
 // What the user reads when the settings leak even after they were fixed.
-QString stillLeakingText(const QStringList &summaries, bool isBlocked);
+Text stillLeakingText(const QStringList &summaries, bool isBlocked);
 
 // A name that nobody has looked up before, under a domain that exists.
 QString probeName();

@@ -19,21 +19,21 @@ QString DNSStatus::name() const
     return QStringLiteral("unverified");
 }
 
-QString DNSStatus::text() const
+Text DNSStatus::text() const
 {
     switch (m_kind) {
     case Kind::leak:
-        return QStringLiteral("DNS can go around Tor via: ") + m_leaks.join(QStringLiteral("; "));
+        return Text::tr("DNS can go around Tor via: %1").arg(m_leaks.join(QStringLiteral("; ")));
     case Kind::unknown:
-        return QStringLiteral("DNS: not tested yet.");
+        return Text::tr("DNS: not tested yet.");
     case Kind::checking:
-        return QStringLiteral("DNS: testing…");
+        return Text::tr("DNS: testing…");
     case Kind::throughTor:
-        return QStringLiteral("DNS: a test lookup went through Tor.");
+        return Text::tr("DNS: a test lookup went through Tor.");
     case Kind::unverified:
         break;
     }
-    return QStringLiteral("DNS: settings point at Tor, but a test lookup couldn't be confirmed.");
+    return Text::tr("DNS: settings point at Tor, but a test lookup couldn't be confirmed.");
 }
 
 } // namespace veldmark

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Text.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -30,7 +32,7 @@ public:
     // The case's name: "leak", "throughTor" …
     QString name() const;
     // The sentence that the user reads.
-    QString text() const;
+    Text text() const;
 
     friend bool operator==(const DNSStatus &, const DNSStatus &) = default;
 

@@ -30,52 +30,52 @@ Danger worst(const SessionFacts &facts)
 }
 
 // What is being waited for. In strict mode the rules were seen to stand, else there is a worse danger.
-QString waiting(TrafficWatch::Stall stall, bool isStrict)
+Text waiting(TrafficWatch::Stall stall, bool isStrict)
 {
     using Stall = TrafficWatch::Stall;
     switch (stall) {
     case Stall::noNetwork:
-        return isStrict ? QStringLiteral("This computer has no network. Nothing gets out around Tor meanwhile.")
-                        : QStringLiteral("This computer has no network. Veldmark goes on when it is back.");
+        return isStrict ? Text::tr("This computer has no network. Nothing gets out around Tor meanwhile.")
+                        : Text::tr("This computer has no network. Veldmark goes on when it is back.");
     case Stall::noCircuit:
-        return isStrict ? QStringLiteral("Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile.")
-                        : QStringLiteral("Tor has no working circuit and keeps trying.");
+        return isStrict ? Text::tr("Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile.")
+                        : Text::tr("Tor has no working circuit and keeps trying.");
     case Stall::noAnswer:
-        return isStrict ? QStringLiteral("Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile.")
-                        : QStringLiteral("Tor gets no answer from the network and keeps trying.");
+        return isStrict ? Text::tr("Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile.")
+                        : Text::tr("Tor gets no answer from the network and keeps trying.");
     case Stall::vpn:
         break;
     }
-    return QStringLiteral("A VPN takes Tor's traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode.");
+    return Text::tr("A VPN takes Tor's traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode.");
 }
 
 Verdict inDanger(Danger danger, const SessionFacts &facts)
 {
     const QString symbol = QStringLiteral("exclamationmark.shield");
-    const QString attention = QStringLiteral("Needs Attention");
+    const Text attention = Text::tr("Needs Attention");
     const bool isStrict = facts.mode == RoutingMode::strict;
     switch (danger) {
     case Danger::killSwitchOpen:
-        return {Level::danger, danger, QStringLiteral("Kill Switch Open"), symbol,
-                QStringLiteral("Traffic may leave this computer directly")};
+        return {Level::danger, danger, Text::tr("Kill Switch Open"), symbol,
+                Text::tr("Traffic may leave this computer directly")};
     case Danger::dnsLeak:
-        return {Level::danger, danger, QStringLiteral("DNS Leak"), symbol,
-                isStrict && facts.isExposed ? QStringLiteral("Lookups can go around Tor, and your real address can be seen")
-                                            : QStringLiteral("Lookups can go around Tor")};
+        return {Level::danger, danger, Text::tr("DNS Leak"), symbol,
+                isStrict && facts.isExposed ? Text::tr("Lookups can go around Tor, and your real address can be seen")
+                                            : Text::tr("Lookups can go around Tor")};
     case Danger::exposed:
         return {Level::danger, danger, attention, symbol,
-                QStringLiteral("Your real address can be seen. Disconnect, or run the leak test again.")};
+                Text::tr("Your real address can be seen. Disconnect, or run the leak test again.")};
     case Danger::killSwitchUnknown:
         return {Level::warning, danger, attention, symbol,
-                QStringLiteral("It can't be told whether the kill switch stands. Disconnect and connect again.")};
+                Text::tr("It can't be told whether the kill switch stands. Disconnect and connect again.")};
     case Danger::stalled:
         return {Level::warning, danger,
-                facts.stall == TrafficWatch::Stall::noNetwork ? QStringLiteral("No Network") : QStringLiteral("Nothing Gets Through"), symbol,
+                facts.stall == TrafficWatch::Stall::noNetwork ? Text::tr("No Network") : Text::tr("Nothing Gets Through"), symbol,
                 waiting(*facts.stall, isStrict)};
     case Danger::exitNotConfirmed:
         return {Level::warning, danger, attention, symbol,
-                isStrict ? QStringLiteral("All traffic is locked to Tor, but the exit could not be confirmed")
-                         : QStringLiteral("Apps that use system proxy settings go through Tor, but the exit could not be confirmed")};
+                isStrict ? Text::tr("All traffic is locked to Tor, but the exit could not be confirmed")
+                         : Text::tr("Apps that use system proxy settings go through Tor, but the exit could not be confirmed")};
     case Danger::leftOver:
     case Danger::none:
         break;
@@ -91,19 +91,19 @@ Verdict Verdict::of(const SessionFacts &facts)
         return inDanger(found, facts);
     switch (facts.phase) {
     case ConnectionPhase::connecting:
-        return {Level::working, Danger::none, QStringLiteral("Connecting…"), QStringLiteral("shield.lefthalf.filled"), facts.detail};
+        return {Level::working, Danger::none, Text::tr("Connecting…"), QStringLiteral("shield.lefthalf.filled"), facts.detail};
     case ConnectionPhase::disconnecting:
-        return {Level::working, Danger::none, QStringLiteral("Disconnecting…"), QStringLiteral("shield.lefthalf.filled"), facts.detail};
+        return {Level::working, Danger::none, Text::tr("Disconnecting…"), QStringLiteral("shield.lefthalf.filled"), facts.detail};
     case ConnectionPhase::connected:
         if (facts.mode != RoutingMode::strict)
-            return {Level::info, Danger::none, QStringLiteral("Proxy Active"), QStringLiteral("lock.shield.fill"), facts.detail};
-        return {facts.torVerified == true ? Level::good : Level::working, Danger::none, QStringLiteral("Protected"),
+            return {Level::info, Danger::none, Text::tr("Proxy Active"), QStringLiteral("lock.shield.fill"), facts.detail};
+        return {facts.torVerified == true ? Level::good : Level::working, Danger::none, Text::tr("Protected"),
                 QStringLiteral("lock.shield.fill"), facts.detail};
     case ConnectionPhase::disconnected:
     case ConnectionPhase::stale:
         break;
     }
-    return {Level::neutral, Danger::none, QStringLiteral("Not Protected"), QStringLiteral("shield.slash"), facts.detail};
+    return {Level::neutral, Danger::none, Text::tr("Not Protected"), QStringLiteral("shield.slash"), facts.detail};
 }
 
 QString Verdict::levelName() const

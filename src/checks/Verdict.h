@@ -2,6 +2,7 @@
 
 #include "base/ConnectionPhase.h"
 #include "base/RoutingMode.h"
+#include "base/Text.h"
 #include "checks/KillSwitch.h"
 #include "checks/TrafficWatch.h"
 
@@ -19,7 +20,7 @@ struct SessionFacts {
     bool isExposed = false;                           // the last direct probe showed the user's own address
     bool isDNSLeaking = false;
     std::optional<bool> torVerified = {}; // absent: not checked yet
-    QString detail = {};                  // the line under the title where no danger is known
+    Text detail = {};                     // the line under the title where no danger is known
     std::optional<TrafficWatch::Stall> stall = {}; // absent: something gets through, as far as is known
 };
 
@@ -27,7 +28,7 @@ struct SessionFacts {
 // notifications, the command line and the published state come from here. A known danger comes before
 // everything else. `good` is only a strict session whose rules were seen in the kernel and whose exit was
 // confirmed, without a known leak; proxy mode is never called protected, since applications that ignore the
-// proxy settings are not covered. Texts are English.
+// proxy settings are not covered.
 struct Verdict {
     enum class Level { neutral, working, good, info, warning, danger };
     // The worst of what is known.
@@ -44,9 +45,9 @@ struct Verdict {
 
     Level level = Level::neutral;
     Danger danger = Danger::none;
-    QString title;
+    Text title;
     QString symbol;
-    QString detail;
+    Text detail;
 
     static Verdict of(const SessionFacts &facts);
     QString levelName() const; // "neutral", "working" …

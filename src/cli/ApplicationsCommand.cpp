@@ -63,7 +63,7 @@ QJsonArray applicationFindings(const std::vector<InstalledApplication> &installe
 QString Report::applications(const QJsonArray &findings)
 {
     if (findings.isEmpty())
-        return QStringLiteral("No applications are installed.");
+        return Text::tr("No applications are installed.").translated();
     qsizetype width = 0;
     for (const QJsonValue &entry : findings)
         width = std::max(width, shown(entry[nameKey].toString()).size());
@@ -72,16 +72,16 @@ QString Report::applications(const QJsonArray &findings)
         lines << QStringLiteral("%1 %2  %3%4").arg(
             entry[bypassedKey].toBool() ? QStringLiteral("*") : QStringLiteral(" "),
             shown(entry[nameKey].toString()).leftJustified(width), entry[pathKey].toString(),
-            entry[installedKey].toBool() ? QString() : QStringLiteral("  (not in the menu)"));
+            entry[installedKey].toBool() ? QString() : QStringLiteral("  ") + Text::tr("(not in the menu)").translated());
     return lines.join(u'\n');
 }
 
-Result<QString, QString> applicationPath(const QString &wanted, const std::vector<InstalledApplication> &installed)
+Result<QString, Text> applicationPath(const QString &wanted, const std::vector<InstalledApplication> &installed)
 {
     if (wanted.contains(u'/')) {
         const QFileInfo file(wanted);
         if (!file.isFile())
-            return Failure(QStringLiteral("There is no file \"%1\".").arg(shown(wanted)));
+            return Failure(Text::tr("There is no file \"%1\".").arg(shown(wanted)));
         return file.absoluteFilePath();
     }
     QStringList found;
@@ -90,14 +90,14 @@ Result<QString, QString> applicationPath(const QString &wanted, const std::vecto
             found << application.path;
     }
     if (found.isEmpty())
-        return Failure(QStringLiteral("There is no application \"%1\"; \"veldmarkctl apps\" lists them.").arg(shown(wanted)));
+        return Failure(Text::tr("There is no application \"%1\"; \"veldmarkctl apps\" lists them.").arg(shown(wanted)));
     if (found.size() > 1)
-        return Failure(QStringLiteral("\"%1\" may be any of: %2. Give the path.")
+        return Failure(Text::tr("\"%1\" may be any of: %2. Give the path.")
                            .arg(shown(wanted), found.join(QStringLiteral(", "))));
     return found.first();
 }
 
-Result<QString, QString> applicationPath(const QString &wanted)
+Result<QString, Text> applicationPath(const QString &wanted)
 {
     return applicationPath(wanted, wanted.contains(u'/') ? std::vector<InstalledApplication>() : installedApplications());
 }

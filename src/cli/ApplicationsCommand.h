@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "base/Text.h"
 #include "cli/Arguments.h"
 #include "platform/InstalledApplications.h"
 
@@ -21,8 +22,8 @@ QCoro::Task<ExitStatus> showApplications(Invocation invocation, PlatformProfile 
 
 // The absolute path that the user means: of an application by its name (letter case aside) or its
 // desktop entry's file name, with or without ".desktop"; or a path of an existing file. The error is one line.
-Result<QString, QString> applicationPath(const QString &wanted);
-Result<QString, QString> applicationPath(const QString &wanted, const std::vector<InstalledApplication> &installed);
+Result<QString, Text> applicationPath(const QString &wanted);
+Result<QString, Text> applicationPath(const QString &wanted, const std::vector<InstalledApplication> &installed);
 
 // Every installed application and every chosen one, by name:
 //

@@ -17,12 +17,12 @@ QString quoted(const QString &text)
     return u'"' + shown + u'"';
 }
 
-QString missing(const Verb &verb)
+Text missing(const Verb &verb)
 {
     if (!verb.missing.isEmpty())
         return verb.missing;
-    return verb.operands.size() == 1 ? QStringLiteral("%1 needs a key: veldmarkctl %1 KEY.").arg(verb.name)
-                                     : QStringLiteral("%1 needs a key and a value: veldmarkctl %1 KEY VALUE.").arg(verb.name);
+    return verb.operands.size() == 1 ? Text::tr("%1 needs a key: veldmarkctl %1 KEY.").arg(verb.name)
+                                     : Text::tr("%1 needs a key and a value: veldmarkctl %1 KEY VALUE.").arg(verb.name);
 }
 
 // A line of the usage text, or more.
@@ -38,18 +38,18 @@ QString usageOf(const Verb &verb)
         line += QStringLiteral(" [%1]").arg(option.name);
     const QString margin(column, u' ');
     line = line.size() < column ? line.leftJustified(column) : line + u'\n' + margin;
-    return line + QString(verb.help).replace(u'\n', u'\n' + margin) + u'\n';
+    return line + verb.help.translated().replace(u'\n', u'\n' + margin) + u'\n';
 }
 
 } // namespace
 
-Result<Invocation, QString> parseArguments(const QStringList &arguments)
+Result<Invocation, Text> parseArguments(const QStringList &arguments)
 {
     if (arguments.isEmpty())
-        return Failure(QStringLiteral("What should I do? \"veldmarkctl help\" lists the commands."));
+        return Failure(Text::tr("What should I do? \"veldmarkctl help\" lists the commands."));
     const Verb *const verb = verbTyped(arguments.first());
     if (!verb)
-        return Failure(QStringLiteral("Unknown command %1. \"veldmarkctl help\" lists the commands.")
+        return Failure(Text::tr("Unknown command %1. \"veldmarkctl help\" lists the commands.")
                            .arg(quoted(arguments.first())));
 
     Invocation invocation;
@@ -69,7 +69,7 @@ Result<Invocation, QString> parseArguments(const QStringList &arguments)
             continue;
         }
         if (std::none_of(verb->options.begin(), verb->options.end(), [&argument](const Verb::Option &option) { return option.name == argument; }))
-            return Failure(QStringLiteral("%1 has no option %2.").arg(arguments.first(), quoted(argument)));
+            return Failure(Text::tr("%1 has no option %2.").arg(arguments.first(), quoted(argument)));
         invocation.connectNow |= argument == QLatin1String("--connect");
         invocation.json |= argument == QLatin1String("--json");
         invocation.watch |= argument == QLatin1String("--watch");
@@ -85,7 +85,7 @@ Result<Invocation, QString> parseArguments(const QStringList &arguments)
             return Failure(missing(*verb));
     }
     if (operands.size() > verb->operands.size())
-        return Failure(QStringLiteral("%1 doesn't take %2.")
+        return Failure(Text::tr("%1 doesn't take %2.")
                            .arg(arguments.first(), quoted(operands.at(verb->operands.size()))));
     invocation.key = operands.value(0);
     invocation.value = operands.value(1);
@@ -94,13 +94,14 @@ Result<Invocation, QString> parseArguments(const QStringList &arguments)
 
 QString usageText()
 {
-    QString text = QStringLiteral("usage: veldmarkctl COMMAND\n\n");
+    QString text = Text::tr("usage: veldmarkctl COMMAND").translated() + QStringLiteral("\n\n");
     for (const Verb &verb : verbs()) {
         if (!verb.help.isEmpty())
             text += usageOf(verb);
     }
-    return text + QStringLiteral("\nExit status: 0 done, 1 failed (the reason is on standard error), 2 wrong usage,\n"
-                                 "3 Veldmark is not running, 4 Veldmark is already running.\n");
+    return text + u'\n'
+        + Text::tr("Exit status: 0 done, 1 failed (the reason is on standard error), 2 wrong usage,\n"
+                   "3 Veldmark is not running, 4 Veldmark is already running.").translated() + u'\n';
 }
 
 } // namespace veldmark

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "base/Text.h"
 #include "instance/Verbs.h"
 
 #include <QString>
@@ -31,7 +32,7 @@ enum class ExitStatus {
 };
 
 // Reads the arguments after the program's name. The error is one line.
-Result<Invocation, QString> parseArguments(const QStringList &arguments);
+Result<Invocation, Text> parseArguments(const QStringList &arguments);
 
 QString usageText();
 

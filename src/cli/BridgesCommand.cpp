@@ -95,13 +95,13 @@ QStringList problems(const QJsonObject &custom)
 {
     QStringList lines;
     for (const QJsonValue &entry : custom.value(QStringLiteral("invalid")).toArray())
-        lines << QStringLiteral("line %1 is not a bridge line: %2")
-                     .arg(entry.toObject().value(QStringLiteral("line")).toInt())
-                     .arg(shown(entry.toObject().value(QStringLiteral("text")).toString()));
+        lines << Text::tr("line %1 is not a bridge line: %2")
+                     .arg(entry.toObject().value(QStringLiteral("line")).toInt(), shown(entry.toObject().value(QStringLiteral("text")).toString()))
+                     .translated();
     const QJsonArray surplus = custom.value(QStringLiteral("surplus")).toArray();
     if (!surplus.isEmpty())
-        lines << QStringLiteral("%1 too many, from line %2 on; at most %3 can be used")
-                     .arg(surplus.size()).arg(surplus.first().toInt()).arg(BridgeLines::mostLines);
+        lines << Text::tr("%1 too many, from line %2 on; at most %3 can be used")
+                     .arg(surplus.size(), surplus.first().toInt(), BridgeLines::mostLines).translated();
     return lines;
 }
 
@@ -115,7 +115,7 @@ QStringList Report::bridgeProblems(const QString &text)
 QString Report::bridges(const QJsonObject &all)
 {
     const QJsonObject programs = all.value(QStringLiteral("programs")).toObject();
-    QString report = QStringLiteral("Programs");
+    QString report = Text::tr("Programs").translated();
     const std::pair<QString, QString> names[] = {
         {QStringLiteral("lyrebird"), QStringLiteral("lyrebird")},
         {QStringLiteral("snowflake"), QStringLiteral("snowflake-client")},
@@ -123,36 +123,35 @@ QString Report::bridges(const QJsonObject &all)
     for (const auto &[key, name] : names) {
         const QJsonObject program = programs.value(key).toObject();
         if (program.isEmpty()) {
-            report += row(name, QStringLiteral("not found"));
+            report += row(name, Text::tr("not found").translated());
             continue;
         }
         QStringList serves;
         for (const QJsonValue &transport : program.value(QStringLiteral("serves")).toArray())
             serves << transport.toString();
         report += row(name, program.value(QStringLiteral("path")).toString());
-        report += row(QString(), serves.isEmpty() ? QStringLiteral("doesn't say what it serves")
-                                                  : QStringLiteral("serves ") + serves.join(QStringLiteral(", ")));
+        report += row(QString(), (serves.isEmpty() ? Text::tr("doesn't say what it serves")
+                                                   : Text::tr("serves %1").arg(serves.join(QStringLiteral(", ")))).translated());
     }
 
     const QString source = all.value(QStringLiteral("source")).toString();
-    report += source.isEmpty() ? QStringLiteral("\nBuilt-in bridges") : QStringLiteral("\nBuilt-in bridges, from %1").arg(source);
+    report += u'\n' + (source.isEmpty() ? Text::tr("Built-in bridges") : Text::tr("Built-in bridges, from %1").arg(source)).translated();
     const QJsonObject builtin = all.value(QStringLiteral("builtin")).toObject();
     for (auto count = builtin.begin(); count != builtin.end(); ++count)
         report += row(shown(count.key()), QString::number(count.value().toInt()));
     if (builtin.isEmpty())
-        report += QStringLiteral("\n  none; get some with: veldmarkctl download-transports");
+        report += QStringLiteral("\n  ") + Text::tr("none; get some with: veldmarkctl download-transports").translated();
 
     const QJsonObject bundle = all.value(QStringLiteral("bundle")).toObject();
     const bool isSigned = bundle.value(QStringLiteral("verification")).toString() == u"signature";
     report += QStringLiteral("\nTor Expert Bundle\n  ");
-    report += bundle.isEmpty() ? QStringLiteral("not downloaded")
-                               : QStringLiteral("%1, %2").arg(
-                                     shown(bundle.value(QStringLiteral("version")).toString()),
-                                     isSigned ? QStringLiteral("signature verified")
-                                              : QStringLiteral("signature not verified"));
+    const Text verification = isSigned ? Text::tr("signature verified") : Text::tr("signature not verified");
+    report += bundle.isEmpty() ? Text::tr("not downloaded").translated()
+                               : QStringLiteral("%1, %2").arg(shown(bundle.value(QStringLiteral("version")).toString()), verification.translated());
 
     const QJsonObject custom = all.value(QStringLiteral("custom")).toObject();
-    report += QStringLiteral("\nYour own bridges\n  %1 valid").arg(custom.value(QStringLiteral("valid")).toInt());
+    report += u'\n' + Text::tr("Your own bridges").translated() + QStringLiteral("\n  ")
+        + Text::tr("%1 valid").arg(custom.value(QStringLiteral("valid")).toInt()).translated();
     for (const QString &problem : problems(custom))
         report += QStringLiteral("\n  ") + problem;
     return report;
@@ -193,17 +192,17 @@ QCoro::Task<ExitStatus> downloadTransportsHere(PlatformProfile profile)
     const auto line = std::make_shared<ProgressLine>(Console::isTerminal(), Console::width());
     QObject::connect(&controller.transportDownload, &Field::changed, &controller, [&controller, line] {
         if (!controller.canDownloadTransports()) // the last word is not progress
-            Console::draw(line->update(controller.transportDownload().value_or(QString())));
+            Console::draw(line->update(controller.transportDownload().value_or(Text()).translated()));
     });
     auto downloading = controller.downloadTransports();
     const bool isInstalled = co_await downloading;
     Console::draw(line->finish());
     if (!isInstalled) {
-        Console::printError(controller.transportDownload().value_or(QStringLiteral("Cancelled.")));
+        Console::printError(controller.transportDownload().value_or(Text::tr("Cancelled.")));
         co_return ExitStatus::failed;
     }
     Console::print(controller.transportDownload().value_or(
-        QStringLiteral("Installed Tor Expert Bundle %1, signature verified.")
+        Text::tr("Installed Tor Expert Bundle %1, signature verified.")
             .arg(TransportDownloader::installedVersion(profile).value_or(QString()))));
     co_return ExitStatus::done;
 }

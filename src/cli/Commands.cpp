@@ -22,7 +22,7 @@ namespace veldmark {
 
 namespace {
 
-const QString notRunning = QStringLiteral(
+const Text notRunning = Text::tr(
     "Veldmark isn't running. Start it with: veldmarkctl run --connect");
 
 QString compact(const QJsonValue &value)
@@ -42,6 +42,13 @@ QJsonObject request(const Invocation &invocation)
     return request;
 }
 
+// Programs read the state in English.
+QJsonObject forReader(const Invocation &invocation, const QJsonObject &state, const QJsonObject &texts)
+{
+    const bool isForProgram = invocation.json || invocation.verb == Verb::Id::get;
+    return isForProgram ? state : inUsersLanguage(state, texts);
+}
+
 // Prints one state the way the command wants it. False when it cannot: an unknown key.
 bool show(const Invocation &invocation, const QJsonObject &state)
 {
@@ -53,7 +60,7 @@ bool show(const Invocation &invocation, const QJsonObject &state)
     case Verb::Id::get: {
         const QJsonValue value = state.value(invocation.key);
         if (value.isUndefined()) {
-            Console::printError(QStringLiteral("There is no field \"%1\". Fields: %2.")
+            Console::printError(Text::tr("There is no field \"%1\". Fields: %2.")
                                     .arg(invocation.key, state.keys().join(QStringLiteral(", "))));
             return false;
         }
@@ -102,7 +109,8 @@ QCoro::Task<ExitStatus> askInstance(Invocation invocation, std::shared_ptr<Insta
     const auto last = std::make_shared<QJsonObject>();
     const auto progress = std::make_shared<ProgressLine>(Console::isTerminal(), Console::width());
     const auto problem = std::make_shared<QString>(); // as it was shown last
-    const std::function<void(const QJsonObject &)> onState = [invocation, last, progress, problem](const QJsonObject &state) {
+    const InstanceClient::OnState onState = [invocation, last, progress, problem](const QJsonObject &sent, const QJsonObject &texts) {
+        const QJsonObject state = forReader(invocation, sent, texts);
         *last = state;
         if (showsEveryState(invocation))
             show(invocation, state);
@@ -135,7 +143,7 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
 {
     TorController &controller = production->controller();
     if (invocation.verb != Verb::Id::status || invocation.json) { // the report says it as well
-        for (const QString &problem : controller.settingsProblems())
+        for (const Text &problem : controller.settingsProblems())
             Console::printError(problem);
     }
     if (invocation.verb == Verb::Id::set) {
@@ -146,8 +154,8 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
         }
         tellOfBridges(invocation);
         if (invocation.key == controller.terminalMode.name() && controller.terminalMode()) {
-            const QString hint = co_await controller.terminalHint();
-            Console::draw(noteLine(controller.terminalError().value_or(hint)));
+            const Text hint = co_await controller.terminalHint();
+            Console::draw(noteLine(controller.terminalError().value_or(hint).translated()));
         }
         co_return ExitStatus::done;
     }
@@ -162,14 +170,14 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
         if (controller.phase() != ConnectionPhase::disconnected) { // else there is nothing to do
             const auto ended = co_await controller.disconnect();
             if (!ended) {
-                Console::printError(ended.error().isEmpty() ? QStringLiteral("Cancelled.") : ended.error());
+                Console::printError(ended.error().isEmpty() ? Text::tr("Cancelled.") : ended.error());
                 co_return ExitStatus::failed;
             }
         }
     } else if (invocation.verb == Verb::Id::status || invocation.verb == Verb::Id::get) {
         co_await controller.locateTransports();
     }
-    co_return show(invocation, publishedState(controller)) ? ExitStatus::done : ExitStatus::usage;
+    co_return show(invocation, forReader(invocation, publishedState(controller), publishedTexts(controller))) ? ExitStatus::done : ExitStatus::usage;
 }
 
 // As root there is nobody to ask: the helper itself says whether there is a session to open the application beside,
@@ -184,7 +192,7 @@ QCoro::Task<ExitStatus> launchHere(QString path, std::shared_ptr<Production> pro
     co_return launched ? ExitStatus::done : ExitStatus::failed;
 }
 
-QCoro::Task<ExitStatus> refuse(QString reason = notRunning, ExitStatus status = ExitStatus::notRunning)
+QCoro::Task<ExitStatus> refuse(Text reason = notRunning, ExitStatus status = ExitStatus::notRunning)
 {
     Console::printError(reason);
     co_return status;

@@ -20,7 +20,7 @@ QStringList commands()
         if (!verb.help.isEmpty())
             lines << entry(verb.name, verb.summary());
     }
-    return lines << entry(QStringLiteral("help"), QStringLiteral("list the commands"));
+    return lines << entry(QStringLiteral("help"), Text::tr("list the commands").translated());
 }
 
 QStringList options(const QString &command)
@@ -28,7 +28,7 @@ QStringList options(const QString &command)
     QStringList lines;
     if (const Verb *const verb = verbTyped(command)) {
         for (const Verb::Option &option : verb->options)
-            lines << entry(option.name, option.help);
+            lines << entry(option.name, option.help.translated());
     }
     return lines;
 }
@@ -38,7 +38,7 @@ QStringList settings(const TorController &controller)
     QStringList lines;
     for (const Field *field : controller.fields()) {
         if (field->setting())
-            lines << entry(field->name(), field->setting()->help);
+            lines << entry(field->name(), field->setting()->help.translated());
     }
     return lines;
 }

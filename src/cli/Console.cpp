@@ -15,14 +15,14 @@ void write(FILE *stream, const QByteArray &bytes)
 }
 } // namespace
 
-void print(const QString &text)
+void print(const Text &text)
 {
-    write(stdout, text.toUtf8() + '\n');
+    write(stdout, text.translated().toUtf8() + '\n');
 }
 
-void printError(const QString &text)
+void printError(const Text &text)
 {
-    write(stderr, "veldmarkctl: " + text.toUtf8() + '\n');
+    write(stderr, "veldmarkctl: " + text.translated().toUtf8() + '\n');
 }
 
 void draw(const QString &text)

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QString>
+#include "base/Text.h"
 
 namespace veldmark::Console {
 
-// Whole lines on standard output, and messages on standard error. UTF-8, flushed at once.
-void print(const QString &text);
-void printError(const QString &text);
+// Whole lines on standard output, and messages on standard error, in the user's language. UTF-8, flushed at once.
+void print(const Text &text);
+void printError(const Text &text);
 
 // Text without a line end, for a line that is drawn over and over.
 void draw(const QString &text);

@@ -17,20 +17,40 @@ QJsonObject doctorFindings(const Findings &findings)
     for (const Finding &finding : findings)
         list.append(QJsonObject{{QStringLiteral("name"), finding.name},
                                 {QStringLiteral("level"), levelName(finding.level)},
-                                {QStringLiteral("text"), finding.text()},
+                                {QStringLiteral("text"), finding.text.english()},
                                 {QStringLiteral("command"), finding.command.isEmpty() ? QJsonValue() : QJsonValue(finding.command)}});
     return {{QStringLiteral("canConnect"), canConnect(findings)}, {QStringLiteral("findings"), list}};
 }
 
+namespace {
+
+Text levelWord(Finding::Level level)
+{
+    switch (level) {
+    case Finding::Level::good:
+        return Text::tr("good");
+    case Finding::Level::note:
+        return Text::tr("note");
+    case Finding::Level::unknown:
+        return Text::tr("unknown");
+    case Finding::Level::problem:
+        break;
+    }
+    return Text::tr("problem");
+}
+
+} // namespace
+
 QString Report::doctor(const Findings &findings)
 {
+    constexpr qsizetype column = 9;
     QStringList lines;
     for (const Finding &finding : findings) {
-        lines << levelName(finding.level).leftJustified(9) + finding.text();
+        lines << levelWord(finding.level).translated().leftJustified(column) + finding.text.translated();
         if (!finding.command.isEmpty())
-            lines << QString(9, u' ') + finding.command;
+            lines << QString(column, u' ') + finding.command;
     }
-    lines << (canConnect(findings) ? QStringLiteral("A connect can work.") : QStringLiteral("A connect can't work yet."));
+    lines << (canConnect(findings) ? Text::tr("A connect can work.") : Text::tr("A connect can't work yet.")).translated();
     return lines.join(u'\n');
 }
 
@@ -47,7 +67,7 @@ QCoro::Task<ExitStatus> showDoctor(Invocation invocation, PlatformProfile profil
                                    : Report::doctor(findings));
     if (canConnect(findings))
         co_return ExitStatus::done;
-    Console::printError(QStringLiteral("A connect can't work before each \"problem\" is mended."));
+    Console::printError(Text::tr("A connect can't work before each \"problem\" is mended."));
     co_return ExitStatus::failed;
 }
 

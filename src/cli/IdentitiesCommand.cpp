@@ -27,10 +27,10 @@ namespace {
 constexpr qint64 noteLimitBytes = 4 << 20;
 constexpr int readings = 20; // it may be written just then
 
-QString whyNone(const PlatformProfile &profile)
+Text whyNone(const PlatformProfile &profile)
 {
-    return profile.identitiesNote.isEmpty() ? QStringLiteral("Applications are not told apart on this system.")
-                                            : QStringLiteral("Applications are not separated now: they share circuits.");
+    return profile.identitiesNote.isEmpty() ? Text::tr("Applications are not told apart on this system.")
+                                            : Text::tr("Applications are not separated now: they share circuits.");
 }
 
 bool isMine(const Identities::Identity &identity)
@@ -38,7 +38,7 @@ bool isMine(const Identities::Identity &identity)
     return geteuid() == 0 || identity.user == geteuid();
 }
 
-ExitStatus fail(const QString &reason, ExitStatus status = ExitStatus::failed)
+ExitStatus fail(const Text &reason, ExitStatus status = ExitStatus::failed)
 {
     Console::printError(reason);
     return status;
@@ -76,12 +76,15 @@ private:
     bool m_isThere = false;
 };
 
-// Runs in the group: PATTERN FILE PROGRAM…
-const QString waitInGroup = QStringLiteral(
-    "pattern=$1 file=$2 tries=0; shift 2; "
-    "until grep -qx -- \"$pattern\" \"$file\"; do "
-    "tries=$((tries + 1)); [ $tries -lt 100 ] || { echo 'veldmarkctl: The program has not got an identity of its own, so it was not started.' >&2; exit 1; }; "
-    "sleep 0.05; done; exec \"$@\"");
+// Runs in the group: REASON PATTERN FILE PROGRAM…; the reason is said when it has no identity.
+const QString waitInGroup = QStringLiteral(R"(reason=$1 pattern=$2 file=$3 tries=0
+shift 3
+until grep -qx -- "$pattern" "$file"; do
+    tries=$((tries + 1))
+    [ $tries -lt 100 ] || { printf 'veldmarkctl: %s\n' "$reason" >&2; exit 1; }
+    sleep 0.05
+done
+exec "$@")");
 
 } // namespace
 
@@ -135,7 +138,7 @@ QCoro::Task<ExitStatus> showIdentities(Invocation invocation, PlatformProfile pr
         json.append(QJsonObject{{QStringLiteral("application"), identity.application}, {QStringLiteral("address"), identity.address},
                                 {QStringLiteral("user"), static_cast<qint64>(identity.user)}});
         lines << identity.application.leftJustified(width) + QStringLiteral("  ") + identity.address
-                + (geteuid() == 0 ? QStringLiteral("  user %1").arg(identity.user) : QString());
+                + (geteuid() == 0 ? QStringLiteral("  ") + Text::tr("user %1").arg(identity.user).translated() : QString());
     }
     if (invocation.json) {
         const QJsonObject all{{QStringLiteral("separated"), standing}, {QStringLiteral("identities"), json}};
@@ -144,7 +147,7 @@ QCoro::Task<ExitStatus> showIdentities(Invocation invocation, PlatformProfile pr
     }
     if (!standing)
         co_return fail(whyNone(profile));
-    Console::print(lines.isEmpty() ? QStringLiteral("No application has an identity of its own now.") : lines.join(u'\n'));
+    Console::print(lines.isEmpty() ? Text::tr("No application has an identity of its own now.") : Text(lines.join(u'\n')));
     co_return ExitStatus::done;
 }
 
@@ -161,7 +164,7 @@ QCoro::Task<ExitStatus> renewIdentity(Invocation invocation, PlatformProfile pro
     };
     const QString former = addressIn(*known);
     if (former.isEmpty())
-        co_return fail(QStringLiteral("No application of yours has that identity; \"veldmarkctl identities\" lists them."), ExitStatus::usage);
+        co_return fail(Text::tr("No application of yours has that identity; \"veldmarkctl identities\" lists them."), ExitStatus::usage);
     if (!Sending(profile.identitiesSocket).send("new " + invocation.key.toLatin1()))
         co_return fail(whyNone(profile));
     for (int waits = 0; waits < 100; ++waits) {
@@ -170,7 +173,7 @@ QCoro::Task<ExitStatus> renewIdentity(Invocation invocation, PlatformProfile pro
             co_return ExitStatus::done;
         QThread::msleep(20);
     }
-    co_return fail(QStringLiteral("The application has not got another identity."));
+    co_return fail(Text::tr("The application has not got another identity."));
 }
 
 QStringList runAsWords(const QString &name, const QString &start, uid_t user, const PlatformProfile &profile, const QStringList &program)
@@ -179,7 +182,8 @@ QStringList runAsWords(const QString &name, const QString &start, uid_t user, co
                        QStringLiteral("--collect"), QStringLiteral("--slice=app.slice"),
                        QStringLiteral("--unit=app-veldmark-%1-%2.scope").arg(name, start), QStringLiteral("--"), QStringLiteral("/bin/sh"),
                        QStringLiteral("-c"), waitInGroup, QStringLiteral("veldmarkctl"),
-                       QStringLiteral("%1 [0-9.]* as:%2").arg(user).arg(QString(name).replace(u'.', QStringLiteral("\\."))), profile.identitiesNote}
+                       Text::tr("The program has not got an identity of its own, so it was not started.").translated(),
+                       QStringLiteral(R"(%1 [0-9.]* as:%2)").arg(user).arg(QString(name).replace(u'.', QStringLiteral("\\."))), profile.identitiesNote}
         + program;
 }
 
@@ -187,7 +191,7 @@ QCoro::Task<ExitStatus> runAs(Invocation invocation, PlatformProfile profile)
 {
     static const QRegularExpression names(QStringLiteral("\\A[A-Za-z0-9_.]{1,40}\\z"));
     if (!names.match(invocation.key).hasMatch())
-        co_return fail(QStringLiteral("A name has up to 40 letters, digits, dots and underscores."), ExitStatus::usage);
+        co_return fail(Text::tr("A name has up to 40 letters, digits, dots and underscores."), ExitStatus::usage);
     const auto known = Identities::read(profile);
     if (!known || !known->standing)
         co_return fail(whyNone(profile));
@@ -200,8 +204,8 @@ QCoro::Task<ExitStatus> runAs(Invocation invocation, PlatformProfile profile)
         arguments.push_back(word.data());
     arguments.push_back(nullptr);
     execvp(arguments.front(), arguments.data());
-    co_return fail(errno == ENOENT ? QStringLiteral("The program systemd-run is missing, which makes groups for programs.")
-                                   : QStringLiteral("The program could not be started: %1.").arg(QString::fromLocal8Bit(std::strerror(errno))));
+    co_return fail(errno == ENOENT ? Text::tr("The program systemd-run is missing, which makes groups for programs.")
+                                   : Text::tr("The program could not be started: %1.").arg(QString::fromLocal8Bit(std::strerror(errno))));
 }
 
 } // namespace veldmark

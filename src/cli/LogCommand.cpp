@@ -52,7 +52,7 @@ bool explain(const TorLogFilter &filter, const TorLogStore &store)
     if (placeholder)
         Console::printError(placeholder->text.isEmpty()
                                 ? placeholder->title
-                                : placeholder->title + QStringLiteral(": ") + placeholder->text);
+                                : Text::joined({placeholder->title, placeholder->text}, QStringLiteral(": ")));
     return store.snapshot().kind() == TorLog::Snapshot::Kind::unreadable;
 }
 

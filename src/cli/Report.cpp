@@ -1,5 +1,7 @@
 #include "cli/Report.h"
 
+#include "base/Text.h"
+
 #include <QDateTime>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -10,9 +12,9 @@ namespace veldmark::Report {
 
 namespace {
 
-QString row(const char *name, const QString &text)
+QString row(const Text &name, const Text &text)
 {
-    return QStringLiteral("\n  %1%2").arg(QLatin1String(name), -12).arg(text);
+    return QStringLiteral("\n  ") + (name.translated() + u' ').leftJustified(12) + text.translated();
 }
 
 QString text(const QJsonObject &state, const char *key)
@@ -28,79 +30,79 @@ bool isClosed(const QJsonObject &state)
         && (rules == QLatin1String("standing") || rules == QLatin1String("putBack"));
 }
 
-QString modeText(const QJsonObject &state)
+Text modeText(const QJsonObject &state)
 {
     if (text(state, "activeMode") != QLatin1String("strict"))
-        return QStringLiteral("proxy: apps that ignore the system proxy are not covered");
+        return Text::tr("proxy: apps that ignore the system proxy are not covered");
     // Rules that stand are no proof where something was seen to get out all the same.
     const bool isHeld = isClosed(state) && text(state, "level") != QLatin1String("danger");
-    return isHeld ? QStringLiteral("strict: only Tor's traffic leaves") : QStringLiteral("strict");
+    return isHeld ? Text::tr("strict: only Tor's traffic leaves") : Text::tr("strict");
 }
 
-QString killSwitchText(const QJsonObject &state)
+Text killSwitchText(const QJsonObject &state)
 {
     const QString word = text(state, "killSwitch");
     const QString since = QDateTime::fromString(text(state, "killSwitchSince"), Qt::ISODate)
                               .toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
     if (word == QLatin1String("standing"))
-        return QStringLiteral("stands, since %1").arg(since);
+        return Text::tr("stands, since %1").arg(since);
     if (word == QLatin1String("putBack"))
-        return QStringLiteral("stands; put back at %1 after another program had removed it").arg(since);
+        return Text::tr("stands; put back at %1 after another program had removed it").arg(since);
     if (word == QLatin1String("open"))
-        return QStringLiteral("OPEN since %1: traffic may leave this computer directly").arg(since);
-    return QStringLiteral("isn't known to stand, since %1").arg(since);
+        return Text::tr("OPEN since %1: traffic may leave this computer directly").arg(since);
+    return Text::tr("isn't known to stand, since %1").arg(since);
 }
 
-QString exitText(const QJsonObject &state)
+Text exitText(const QJsonObject &state)
 {
     const QString address = text(state, "exitIP");
     const QJsonValue verified = state.value(QStringLiteral("torVerified"));
     if (verified.isNull())
-        return QStringLiteral("not checked yet");
+        return Text::tr("not checked yet");
     if (address.isEmpty())
-        return QStringLiteral("the check service didn't answer through Tor");
-    return verified.toBool() ? QStringLiteral("%1, a Tor exit").arg(address)
-                             : QStringLiteral("%1, NOT a Tor exit").arg(address);
+        return Text::tr("the check service didn't answer through Tor");
+    return verified.toBool() ? Text::tr("%1, a Tor exit").arg(address)
+                             : Text::tr("%1, NOT a Tor exit").arg(address);
 }
 
-QString directText(const QJsonObject &state)
+Text directText(const QJsonObject &state)
 {
     const QJsonValue leak = state.value(QStringLiteral("leakStatus"));
     if (leak.isObject())
-        return QStringLiteral("open; it shows the address %1")
+        return Text::tr("open; it shows the address %1")
             .arg(leak.toObject().value(QStringLiteral("exposed")).toString());
     const QString word = leak.toString();
     // Only the kill switch blocks: in proxy mode, silence is no protection.
     if (word == QLatin1String("blocked") && isClosed(state))
-        return QStringLiteral("blocked");
+        return Text::tr("blocked");
     if (word == QLatin1String("blocked"))
         return text(state, "activeMode") == QLatin1String("strict")
-            ? QStringLiteral("no answer, but the kill switch isn't known to close it")
-            : QStringLiteral("no answer, but proxy mode doesn't close it");
+            ? Text::tr("no answer, but the kill switch isn't known to close it")
+            : Text::tr("no answer, but proxy mode doesn't close it");
     if (word == QLatin1String("checking"))
-        return QStringLiteral("checking…");
+        return Text::tr("checking…");
     if (word == QLatin1String("inconclusive"))
-        return QStringLiteral("couldn't be told");
-    return QStringLiteral("not checked yet");
+        return Text::tr("couldn't be told");
+    return Text::tr("not checked yet");
 }
 
-QString dnsText(const QJsonObject &state)
+Text dnsText(const QJsonObject &state)
 {
     const QJsonValue dns = state.value(QStringLiteral("dnsStatus"));
     if (dns.isObject()) {
         QStringList leaks;
         for (const QJsonValue &leak : dns.toObject().value(QStringLiteral("leak")).toArray())
             leaks << leak.toString();
-        return QStringLiteral("can go around Tor via: ") + leaks.join(QStringLiteral("; "));
+        return Text::tr("can go around Tor via: %1").arg(leaks.join(QStringLiteral("; ")));
     }
     const QString word = dns.toString();
     if (word == QLatin1String("throughTor"))
-        return QStringLiteral("a test lookup went through Tor");
+        return Text::tr("a test lookup went through Tor");
     if (word == QLatin1String("checking"))
-        return QStringLiteral("testing…");
+        return Text::tr("testing…");
     if (word == QLatin1String("unverified"))
-        return QStringLiteral("settings point at Tor, but a test lookup couldn't be confirmed");
-    return QStringLiteral("not tested yet");
+        return Text::tr("settings point at Tor, but a test lookup couldn't be confirmed");
+    return Text::tr("not tested yet");
 }
 
 QString hopText(const QJsonObject &hop)
@@ -134,36 +136,36 @@ QString status(const QJsonObject &state)
     report += QStringLiteral("\n  ") + text(state, "statusDetail");
     const QString phase = text(state, "phase");
     if (phase == QLatin1String("connected")) {
-        report += row("Mode", modeText(state));
-        report += row("Exit", exitText(state));
+        report += row(Text::tr("Mode"), modeText(state));
+        report += row(Text::tr("Exit"), exitText(state));
         if (const QJsonValue latency = state.value(QStringLiteral("latencyMs")); !latency.isNull())
-            report += row("Latency", QStringLiteral("%1 ms through Tor").arg(latency.toInt()));
-        report += row("Direct path", directText(state));
-        report += row("DNS", dnsText(state));
-        report += row("Traffic", QStringLiteral("%1 received, %2 sent")
+            report += row(Text::tr("Latency"), Text::tr("%1 ms through Tor").arg(latency.toInt()));
+        report += row(Text::tr("Direct path"), directText(state));
+        report += row(Text::tr("DNS"), dnsText(state));
+        report += row(Text::tr("Traffic"), Text::tr("%1 received, %2 sent")
                                      .arg(bytes(state.value(QStringLiteral("bytesRead")).toDouble()),
                                           bytes(state.value(QStringLiteral("bytesWritten")).toDouble())));
         if (const QString bridge = text(state, "activeBridge"); !bridge.isEmpty())
-            report += row("Bridges", bridge);
+            report += row(Text::tr("Bridges"), bridge);
     } else if (phase == QLatin1String("connecting")) {
-        report += row("Progress", QStringLiteral("%1%").arg(
+        report += row(Text::tr("Progress"), QStringLiteral("%1%").arg(
                           qRound(state.value(QStringLiteral("bootstrapProgress")).toDouble() * 100)));
     } else if (phase == QLatin1String("stale")) {
         const bool isAnothers = state.value(QStringLiteral("otherSession")).isObject();
-        report += row("What to do", isAnothers ? QStringLiteral("nothing; veldmarkctl restore would end that session")
-                                               : QStringLiteral("veldmarkctl restore"));
+        report += row(Text::tr("What to do"), isAnothers ? Text::tr("nothing; veldmarkctl restore would end that session")
+                                               : Text(QStringLiteral("veldmarkctl restore")));
     }
     if (!text(state, "killSwitch").isEmpty())
-        report += row("Kill switch", killSwitchText(state));
+        report += row(Text::tr("Kill switch"), killSwitchText(state));
     const bool isTried = phase == QLatin1String("connecting") || phase == QLatin1String("stale");
     if (const QString problem = text(state, "bootstrapProblem"); isTried && !problem.isEmpty())
-        report += row("Cause", problem);
+        report += row(Text::tr("Cause"), problem);
     if (const QString error = text(state, "errorMessage"); !error.isEmpty())
-        report += row("Problem", error);
+        report += row(Text::tr("Problem"), error);
     if (const QString error = text(state, "terminalError"); !error.isEmpty())
-        report += row("Terminal", error);
+        report += row(Text::tr("Terminal"), error);
     for (const QJsonValue &problem : state.value(QStringLiteral("settingsProblems")).toArray())
-        report += row("Settings", problem.toString());
+        report += row(Text::tr("Settings"), problem.toString());
     return report;
 }
 
@@ -171,7 +173,7 @@ QString circuits(const QJsonObject &state)
 {
     const QJsonArray list = state.value(QStringLiteral("circuits")).toArray();
     if (list.isEmpty())
-        return QStringLiteral("No circuits yet.");
+        return Text::tr("No circuits yet.").translated();
     QStringList lines;
     for (const QJsonValue &entry : list) {
         const QJsonObject circuit = entry.toObject();

@@ -36,7 +36,7 @@ void RunCommand::start()
 QCoro::Task<void> RunCommand::begin()
 {
     const QPointer<QObject> self(&m_lifetime);
-    for (const QString &problem : m_controller.settingsProblems())
+    for (const Text &problem : m_controller.settingsProblems())
         m_lines.complain(problem);
     m_controller.detectStaleState();
     co_await m_controller.updatePrivilegedHelper();
@@ -53,10 +53,10 @@ QCoro::Task<void> RunCommand::begin()
     const bool isRefused = m_controller.phase() == ConnectionPhase::disconnected || m_controller.otherSession();
     if (m_connectNow && isRefused) {
         m_lines.complain(m_controller.errorMessage().value_or(
-            m_controller.otherSession() ? m_controller.statusDetail() : QStringLiteral("Cancelled.")));
+            m_controller.otherSession() ? m_controller.statusDetail() : Text::tr("Cancelled.")));
         finish(ExitStatus::failed);
     } else if (m_controller.phase() == ConnectionPhase::disconnected) {
-        m_lines.say(QStringLiteral("Ready. Connect with: veldmarkctl connect"));
+        m_lines.say(Text::tr("Ready. Connect with: veldmarkctl connect"));
     } else if (m_controller.phase() == ConnectionPhase::stale && !m_connectNow) {
         m_lines.showPhase();
     }
@@ -66,11 +66,11 @@ void RunCommand::onSignal(int number)
 {
     m_mustEnd |= number != SIGINT;
     if (m_withdrawal.isUnderWay()) {
-        m_lines.say(QStringLiteral("Still restoring your network, one moment…"));
+        m_lines.say(Text::tr("Still restoring your network, one moment…"));
         return;
     }
     if (m_controller.phase() == ConnectionPhase::connecting && !m_controller.canCancel())
-        m_lines.say(QStringLiteral("Stopping as soon as Tor has been started…"));
+        m_lines.say(Text::tr("Stopping as soon as Tor has been started…"));
     m_withdrawal.begin();
 }
 
@@ -80,14 +80,13 @@ void RunCommand::onWithdrawn(bool restored)
         finish(ExitStatus::done);
         return;
     }
-    m_lines.complain(m_controller.errorMessage().value_or(QStringLiteral("Cancelled.")));
+    m_lines.complain(m_controller.errorMessage().value_or(Text::tr("Cancelled.")));
     if (m_mustEnd) {
-        m_lines.complain(QStringLiteral("The network is still set up for Tor. Restore it with: ")
-                         + m_controller.profile().manualRestoreCommand);
+        m_lines.complain(Text::tr("The network is still set up for Tor. Restore it with: %1").arg(m_controller.profile().manualRestoreCommand));
         finish(ExitStatus::failed);
         return;
     }
-    m_lines.say(QStringLiteral("The network is still set up for Tor. Press Ctrl-C to try again."));
+    m_lines.say(Text::tr("The network is still set up for Tor. Press Ctrl-C to try again."));
 }
 
 void RunCommand::finish(ExitStatus status)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Text.h"
 #include "cli/Arguments.h"
 #include "cli/SessionLines.h"
 #include "controller/Production.h"

@@ -33,7 +33,7 @@ void SessionLines::finish()
 void SessionLines::showProgress()
 {
     if (m_controller.phase() == ConnectionPhase::connecting)
-        Console::draw(m_progress.update(m_controller.bootstrapProgress(), m_controller.statusDetail()));
+        Console::draw(m_progress.update(m_controller.bootstrapProgress(), m_controller.statusDetail().translated()));
 }
 
 void SessionLines::showProblem()
@@ -56,17 +56,17 @@ void SessionLines::showPhase()
         return;
     }
     if (phase == ConnectionPhase::connected && m_lastPhase == ConnectionPhase::connecting)
-        Console::draw(m_progress.update(1.0, QStringLiteral("Done")));
+        Console::draw(m_progress.update(1.0, Text::tr("Done").translated()));
     m_lastPhase = phase;
     QString report = phase == ConnectionPhase::connected || phase == ConnectionPhase::stale
-        ? Report::status(publishedState(m_controller))
+        ? Report::status(inUsersLanguage(publishedState(m_controller), publishedTexts(m_controller)))
         : verdictText();
     m_lastVerdict = verdictText();
     if (report == std::exchange(m_lastReport, report))
         return;
     say(report);
     if (phase == ConnectionPhase::connected)
-        say(QStringLiteral("Press Ctrl-C to disconnect."));
+        say(Text::tr("Press Ctrl-C to disconnect."));
 }
 
 // On a change of state alone: a program that removes the rules without pause is told once.
@@ -94,16 +94,16 @@ void SessionLines::showVerdict()
 QString SessionLines::verdictText() const
 {
     const Verdict verdict = m_controller.verdict();
-    return QStringLiteral("%1: %2").arg(verdict.title, verdict.detail);
+    return QStringLiteral("%1: %2").arg(verdict.title.translated(), verdict.detail.translated());
 }
 
-void SessionLines::say(const QString &text)
+void SessionLines::say(const Text &text)
 {
     finish();
     Console::print(text);
 }
 
-void SessionLines::complain(const QString &text)
+void SessionLines::complain(const Text &text)
 {
     finish();
     Console::printError(text);

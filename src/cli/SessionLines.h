@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/ConnectionPhase.h"
+#include "base/Text.h"
 #include "checks/KillSwitch.h"
 #include "cli/ProgressLine.h"
 
@@ -22,8 +23,8 @@ public:
     explicit SessionLines(const TorController &controller);
 
     // A line on standard output, or a message on standard error, below the progress line.
-    void say(const QString &text);
-    void complain(const QString &text);
+    void say(const Text &text);
+    void complain(const Text &text);
     // The session as it is now, unless it was the last thing to be said.
     void showPhase();
     // Ends the progress line.

@@ -1,5 +1,6 @@
 #include "base/PrivateMemory.h"
 #include "base/Resumption.h"
+#include "base/UsersLanguage.h"
 #include "cli/Commands.h"
 #include "cli/CompleteCommand.h"
 #include "cli/Console.h"
@@ -28,6 +29,7 @@ int main(int argc, char **argv)
     application.setApplicationName(QStringLiteral("veldmarkctl"));
     application.setApplicationVersion(QStringLiteral(VELDMARK_VERSION));
 
+    const UsersLanguage language;
     const auto invocation = parseArguments(application.arguments().mid(1));
     if (!invocation) {
         Console::printError(invocation.error());

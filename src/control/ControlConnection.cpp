@@ -17,7 +17,7 @@ constexpr int absentPolls = 100; // the kernel may know the other end a moment l
 ControlPortError lineBreakError()
 {
     return ControlPortError::malformed(
-        QStringLiteral("A command to Tor can't contain a line break or a NUL."));
+        Text::tr("A command to Tor can't contain a line break or a NUL."));
 }
 } // namespace
 

@@ -42,7 +42,7 @@ std::optional<ControlPortError> refusal(const QStringList &texts)
     if (std::all_of(texts.begin(), texts.end(), isSingleLine))
         return std::nullopt;
     return ControlPortError::malformed(
-        QStringLiteral("A command to Tor can't contain a line break or a NUL."));
+        Text::tr("A command to Tor can't contain a line break or a NUL."));
 }
 
 // Opens the session's connection, sends one command and gives its reply.

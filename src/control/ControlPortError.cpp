@@ -4,12 +4,12 @@ namespace veldmark {
 
 ControlPortError ControlPortError::notConnected()
 {
-    return {Kind::NotConnected, QStringLiteral("Not connected to Tor's control port.")};
+    return {Kind::NotConnected, Text::tr("Not connected to Tor's control port.")};
 }
 
 ControlPortError ControlPortError::closed()
 {
-    return {Kind::Closed, QStringLiteral("Tor closed the control connection.")};
+    return {Kind::Closed, Text::tr("Tor closed the control connection.")};
 }
 
 ControlPortError ControlPortError::tor(const QString &line)
@@ -22,24 +22,24 @@ ControlPortError ControlPortError::network(const QString &systemText)
     return {Kind::Network, systemText};
 }
 
-ControlPortError ControlPortError::malformed(const QString &sentence)
+ControlPortError ControlPortError::malformed(const Text &sentence)
 {
     return {Kind::Malformed, sentence};
 }
 
 ControlPortError ControlPortError::stranger()
 {
-    return {Kind::Stranger, QStringLiteral("Another program than Tor listens on Tor's control port.")};
+    return {Kind::Stranger, Text::tr("Another program than Tor listens on Tor's control port.")};
 }
 
 ControlPortError ControlPortError::timedOut()
 {
-    return {Kind::TimedOut, QStringLiteral("Tor didn't answer on its control port in time.")};
+    return {Kind::TimedOut, Text::tr("Tor didn't answer on its control port in time.")};
 }
 
-QString ControlPortError::description() const
+Text ControlPortError::description() const
 {
-    return m_kind == Kind::Tor ? QStringLiteral("Tor replied: ") + m_text : m_text;
+    return m_kind == Kind::Tor ? Text::tr("Tor replied: %1").arg(m_text) : m_text;
 }
 
 } // namespace veldmark

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include "base/Text.h"
 
 namespace veldmark {
 
@@ -21,23 +21,23 @@ public:
     static ControlPortError closed();
     static ControlPortError tor(const QString &line);
     static ControlPortError network(const QString &systemText);
-    static ControlPortError malformed(const QString &sentence);
+    static ControlPortError malformed(const Text &sentence);
     static ControlPortError stranger();
     static ControlPortError timedOut();
 
     Kind kind() const { return m_kind; }
     // For Kind::Tor: the final reply line, status code included, e.g. "552 Unrecognized key".
-    QString line() const { return m_kind == Kind::Tor ? m_text : QString(); }
+    QString line() const { return m_kind == Kind::Tor ? m_text.english() : QString(); }
     // The sentence that the user reads, usually after the caller's own "Couldn't …: ".
-    QString description() const;
+    Text description() const;
 
     friend bool operator==(const ControlPortError &, const ControlPortError &) = default;
 
 private:
-    ControlPortError(Kind kind, const QString &text) : m_kind(kind), m_text(text) {}
+    ControlPortError(Kind kind, const Text &text) : m_kind(kind), m_text(text) {}
 
     Kind m_kind;
-    QString m_text;
+    Text m_text;
 };
 
 } // namespace veldmark

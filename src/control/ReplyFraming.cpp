@@ -31,7 +31,7 @@ void ReplyFraming::feed(QByteArrayView bytes)
     m_buffer.append(bytes);
 }
 
-Result<std::optional<QString>, ControlPortError> ReplyFraming::fail(const QString &sentence)
+Result<std::optional<QString>, ControlPortError> ReplyFraming::fail(const Text &sentence)
 {
     m_error = ControlPortError::malformed(sentence);
     m_buffer = {};
@@ -43,7 +43,7 @@ Result<std::optional<QString>, ControlPortError> ReplyFraming::nextLine()
 {
     if (m_error)
         return Failure(*m_error);
-    const QString tooLong = QStringLiteral("Tor sent a line of more than 1 MiB on its control port.");
+    const Text tooLong = Text::tr("Tor sent a line of more than 1 MiB on its control port.");
     const QByteArrayView buffer = m_buffer;
     for (;;) {
         const qsizetype newline = buffer.indexOf('\n', m_scanned);
@@ -78,7 +78,7 @@ Result<std::optional<QStringList>, ControlPortError> ReplyFraming::nextReply()
         m_weight += m_start - before + lineOverheadBytes;
         if (m_weight > largestReplyBytes) {
             const auto failed = fail(
-                QStringLiteral("Tor sent a reply of more than 64 MiB on its control port."));
+                Text::tr("Tor sent a reply of more than 64 MiB on its control port."));
             return Failure(failed.error());
         }
         const QString text = *std::move(*line);

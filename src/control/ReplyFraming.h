@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "base/Text.h"
 #include "control/ControlPortError.h"
 
 #include <QByteArray>
@@ -35,7 +36,7 @@ public:
     Result<std::optional<QStringList>, ControlPortError> nextReply();
 
 private:
-    Result<std::optional<QString>, ControlPortError> fail(const QString &sentence);
+    Result<std::optional<QString>, ControlPortError> fail(const Text &sentence);
 
     QByteArray m_buffer;
     qsizetype m_start = 0;   // of what has not been cut into lines yet

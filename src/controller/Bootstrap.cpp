@@ -34,17 +34,17 @@ QString field(const QString &report, QStringView name)
 }
 
 // Tor's warning as a sentence; empty without one, and where Tor itself thinks nothing of it.
-QString warningIn(const QString &report)
+Text warningIn(const QString &report)
 {
     const QString warning = field(report, u"WARNING");
     if (warning.isEmpty() || field(report, u"RECOMMENDATION") == QLatin1String("ignore"))
         return {};
     if (field(report, u"TAG") == QLatin1String("conn_pt"))
-        return QStringLiteral("Tor can't reach the bridge program: %1.").arg(warning);
+        return Text::tr("Tor can't reach the bridge program: %1.").arg(warning);
     QStringList details = {field(report, u"REASON"), field(report, u"HOSTADDR")};
     details.removeAll(QString());
-    return details.isEmpty() ? QStringLiteral("Tor reports: %1.").arg(warning)
-                             : QStringLiteral("Tor reports: %1 (%2).").arg(warning, details.join(QStringLiteral(", ")));
+    return details.isEmpty() ? Text::tr("Tor reports: %1.").arg(warning)
+                             : Text::tr("Tor reports: %1 (%2).").arg(warning, details.join(QStringLiteral(", ")));
 }
 
 } // namespace
@@ -55,7 +55,7 @@ BootstrapStatus TorController::parseBootstrap(const QString &reply)
             field(reply, u"SUMMARY"), warningIn(reply)};
 }
 
-std::optional<QString> TorController::problemBehind(const BootstrapStatus &status,
+std::optional<Text> TorController::problemBehind(const BootstrapStatus &status,
                                                     std::chrono::nanoseconds waited) const
 {
     const bool usesPrograms =
@@ -70,21 +70,21 @@ std::optional<QString> TorController::problemBehind(const BootstrapStatus &statu
         // Tor itself sees nothing but silence.
         const auto route = m_services.route();
         if (!route)
-            return QStringLiteral("This computer has no network, so Tor can't connect.");
+            return Text::tr("This computer has no network, so Tor can't connect.");
         if (const QStringList others = OtherFirewalls::denying(m_services.profile); !others.isEmpty())
-            return QStringLiteral("Another firewall on this computer denies what goes out, so Tor can't connect: %1.")
+            return Text::tr("Another firewall on this computer denies what goes out, so Tor can't connect: %1.")
                 .arg(others.join(QStringLiteral(", ")));
         if (strictMode() && route->isVPN)
-            return QStringLiteral("A VPN takes Tor's traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode.");
+            return Text::tr("A VPN takes Tor's traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode.");
     }
     if (!status.warning.isEmpty())
         return status.warning;
     if (usesPrograms && status.progress == 0 && waited >= transportPatience)
-        return QStringLiteral("Tor is waiting for the bridge program, which hasn't said that it is ready.");
+        return Text::tr("Tor is waiting for the bridge program, which hasn't said that it is ready.");
     return std::nullopt;
 }
 
-QCoro::Task<Result<void, QString>> TorController::waitForBootstrap(Attempt attempt)
+QCoro::Task<Result<void, Text>> TorController::waitForBootstrap(Attempt attempt)
 {
     if (!m_controlPassword)
         co_return Failure(ControlPortError::notConnected().description());
@@ -93,12 +93,12 @@ QCoro::Task<Result<void, QString>> TorController::waitForBootstrap(Attempt attem
     const QStringList keys = {bootstrapKey};
     Clock &clock = m_services.clock;
     const auto deadline = clock.now() + bootstrapLimit;
-    std::optional<QString> lastError;
+    std::optional<Text> lastError;
     std::optional<Clock::TimePoint> firstAnswer;
     while (clock.now() < deadline) {
         const auto reply = co_await m_services.controlPort.getInfo(keys, password);
         if (!self || !isCurrent(attempt))
-            co_return Failure(QString()); // the user disconnected; nobody reads this
+            co_return Failure(Text()); // the user disconnected; nobody reads this
         if (reply) {
             const BootstrapStatus status = parseBootstrap(reply->value(bootstrapKey));
             bootstrapProgress = std::min(status.progress, 100) / 100.0;
@@ -115,7 +115,7 @@ QCoro::Task<Result<void, QString>> TorController::waitForBootstrap(Attempt attem
         }
         co_await clock.sleep(bootstrapPoll);
         if (!self || !isCurrent(attempt))
-            co_return Failure(QString());
+            co_return Failure(Text());
     }
     co_return Failure(TorError::bootstrapTimeout(lastError).description());
 }

@@ -61,13 +61,13 @@ void TorController::removeBypassApp(const QString &path)
     bypassApps.set(apps);
 }
 
-QCoro::Task<Result<void, QString>> TorController::launchBypassed(QString path)
+QCoro::Task<Result<void, Text>> TorController::launchBypassed(QString path)
 {
     if (!canLaunchBypassed())
-        co_return Failure(QStringLiteral("Connect in strict mode to open apps without Tor"));
+        co_return Failure(Text::tr("Connect in strict mode to open apps without Tor"));
     const QString application = QDir::cleanPath(path);
     if (m_launching.contains(application)) // its prompt is up
-        co_return Failure(displayedName(path) + QStringLiteral(" is already being opened."));
+        co_return Failure(Text::tr("%1 is already being opened.").arg(displayedName(path)));
     m_launching << application;
     const QPointer<TorController> self(this);
     auto launching = launchOnce(path);
@@ -77,7 +77,7 @@ QCoro::Task<Result<void, QString>> TorController::launchBypassed(QString path)
     co_return launched;
 }
 
-QCoro::Task<Result<void, QString>> TorController::launchOnce(QString path)
+QCoro::Task<Result<void, Text>> TorController::launchOnce(QString path)
 {
     const QPointer<TorController> self(this);
     RunningApplications &applications = m_services.applications;
@@ -91,7 +91,7 @@ QCoro::Task<Result<void, QString>> TorController::launchOnce(QString path)
             break;
         co_await m_services.clock.sleep(quitCheckInterval);
         if (!self || !canLaunchBypassed())
-            co_return Failure(QString()); // the session ended meanwhile
+            co_return Failure(Text()); // the session ended meanwhile
     }
 
     const QStringList arguments = {QStringLiteral("launch"), QStringLiteral("--uid"), QString::number(SessionOwner::callerOfHelper()),
@@ -100,9 +100,8 @@ QCoro::Task<Result<void, QString>> TorController::launchOnce(QString path)
     if (helper)
         co_return {};
     if (!self || helper.error().kind() == HelperError::Kind::Cancelled)
-        co_return Failure(QString());
-    const QString failure = QStringLiteral("Couldn't open ") + displayedName(path)
-        + QStringLiteral(" without Tor: ") + helper.error().description();
+        co_return Failure(Text());
+    const Text failure = Text::tr("Couldn't open %1 without Tor: %2").arg(displayedName(path), helper.error().description());
     errorMessage = failure;
     co_return Failure(failure);
 }

@@ -49,7 +49,7 @@ QCoro::Task<void> TorController::refreshCircuits()
         co_return; // what a later question was told is newer
     m_readCircuits = reading;
     if (!replies) {
-        circuitError = QStringLiteral("Couldn't read circuits: ") + replies.error().description();
+        circuitError = Text::tr("Couldn't read circuits: %1").arg(replies.error().description());
         co_return;
     }
     const auto block = [&replies](std::size_t index, const QString &key) {
@@ -131,7 +131,7 @@ QCoro::Task<void> TorController::newIdentity()
         co_return;
     if (!done)
         errorMessage =
-            QStringLiteral("Couldn't request a new identity: ") + done.error().description();
+            Text::tr("Couldn't request a new identity: %1").arg(done.error().description());
     checkExit();
 }
 
@@ -157,7 +157,7 @@ QCoro::Task<void> TorController::optimizeCircuits()
     isOptimizing = true;
     for (int round = 1; round <= optimizeAttempts; ++round) {
         optimizeStatus =
-            QStringLiteral("Testing speed (%1 of %2)…").arg(round).arg(optimizeAttempts);
+            Text::tr("Testing speed (%1 of %2)…").arg(round).arg(optimizeAttempts);
         const quint64 identity = m_identity;
         const TimedProbe timed = co_await timedViaTor();
         if (!self || !isCurrent(attempt))
@@ -170,8 +170,8 @@ QCoro::Task<void> TorController::optimizeCircuits()
             break;
         }
         optimizeStatus = timed.answer
-            ? QStringLiteral("Slow path (%1 ms), finding a faster one…").arg(elapsedMs)
-            : QStringLiteral("Path not responding, finding another…");
+            ? Text::tr("Slow path (%1 ms), finding a faster one…").arg(elapsedMs)
+            : Text::tr("Path not responding, finding another…");
         if (round == optimizeAttempts)
             break;
         forgetExit();

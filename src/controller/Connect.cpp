@@ -47,11 +47,11 @@ std::optional<QString> TorController::torPath() const
     return std::nullopt;
 }
 
-QString TorController::connectedDetail() const
+Text TorController::connectedDetail() const
 {
     return activeMode() == RoutingMode::strict
-        ? QStringLiteral("All traffic is locked to Tor")
-        : QStringLiteral("Apps that use system proxy settings go through Tor");
+        ? Text::tr("All traffic is locked to Tor")
+        : Text::tr("Apps that use system proxy settings go through Tor");
 }
 
 void TorController::resetSessionInfo()
@@ -75,7 +75,7 @@ void TorController::settleAfterFailure()
     canCancel = false;
     activeMode = markedMode(); // the helper may have changed it before it failed
     otherSession = SessionOwner::ofAnotherProcess(m_services.profile);
-    statusDetail = otherSession() ? leftOverDetail() : QStringLiteral("Your network is still set up for Tor");
+    statusDetail = otherSession() ? leftOverDetail() : Text::tr("Your network is still set up for Tor");
     // The banner says why it failed; what changes later is told. But a banner that tells of the rules, and stayed while
     // the prompt for a restore was shown, is corrected at once.
     const auto rules = judgedKillSwitch();
@@ -86,7 +86,7 @@ void TorController::settleAfterFailure()
     startKillSwitchWatch();
 }
 
-void TorController::failAttempt(const QString &message)
+void TorController::failAttempt(const Text &message)
 {
     errorMessage = message;
     settleAfterFailure();
@@ -100,19 +100,19 @@ void TorController::failAtHelper(const HelperError &error)
         failAttempt(error.description());
 }
 
-QCoro::Task<Result<QStringList, QString>> TorController::bridgeArguments(Attempt attempt,
+QCoro::Task<Result<QStringList, Text>> TorController::bridgeArguments(Attempt attempt,
                                                                          BridgeRequest request)
 {
     const QPointer<TorController> self(this);
     const BridgeProbe probe = m_services.bridgeProbe;
-    const QString before = statusDetail();
+    const Text before = statusDetail();
     const BridgeTools tools{
         m_services.locateTransports,
         [self, attempt, probe](QString host, quint16 port, std::chrono::milliseconds limit) {
             // Without the controller, what the probe needs may be gone as well.
             return self && self->isCurrent(attempt) ? probe(std::move(host), port, limit) : noAnswer();
         },
-        [self, attempt](const QString &text) {
+        [self, attempt](const Text &text) {
             if (self && self->isCurrent(attempt))
                 self->statusDetail = text;
         },
@@ -120,7 +120,7 @@ QCoro::Task<Result<QStringList, QString>> TorController::bridgeArguments(Attempt
     const quint64 search = ++m_transportSearch;
     const BridgePlan plan = co_await planBridges(request, tools);
     if (!self || !isCurrent(attempt))
-        co_return Failure(QString()); // nobody reads this
+        co_return Failure(Text()); // nobody reads this
     if (plan.transports)
         showTransports(*plan.transports, search);
     if (request.choice == BridgeChoice::off)
@@ -130,7 +130,7 @@ QCoro::Task<Result<QStringList, QString>> TorController::bridgeArguments(Attempt
     if (statusDetail() != before) { // whoever follows the attempt reads it before the next words take its place
         co_await m_services.clock.sleep(0ms);
         if (!self || !isCurrent(attempt))
-            co_return Failure(QString());
+            co_return Failure(Text());
     }
     co_return plan.arguments.map_error([](const BridgeError &error) { return error.description(); });
 }
@@ -140,7 +140,7 @@ QCoro::Task<Result<void, HelperError>> TorController::approvePrograms(Attempt at
     const QPointer<TorController> self(this);
     const auto missing = m_services.missingApprovals ? m_services.missingApprovals(words) : std::vector<ProgramApproval>();
     for (const ProgramApproval &program : missing) {
-        statusDetail = QStringLiteral("Waiting for an administrator to approve a program…");
+        statusDetail = Text::tr("Waiting for an administrator to approve a program…");
         const QStringList asked = program.words();
         const auto helper = co_await m_services.privileged.runWithPrompt(asked);
         if (!self || !isCurrent(attempt))
@@ -163,9 +163,9 @@ QCoro::Task<void> TorController::connect()
     }
     if (const auto other = otherSession()) { // whoever made it is told nothing when it is replaced
         errorMessage = other->isOwnUser()
-            ? QStringLiteral("Another Veldmark of yours is connected (process %1). Disconnect it, or restore the "
-                             "network, first.").arg(other->process)
-            : QStringLiteral("%1 is connected with Veldmark (process %2). That session must be ended first.")
+            ? Text::tr("Another Veldmark of yours is connected (process %1). Disconnect it, or restore the "
+                       "network, first.").arg(other->process)
+            : Text::tr("%1 is connected with Veldmark (process %2). That session must be ended first.")
                   .arg(other->userName(), QString::number(other->process));
         co_return;
     }
@@ -175,7 +175,7 @@ QCoro::Task<void> TorController::connect()
         co_return;
     }
     if (!ExitCountry::isValid(exitCountry())) {
-        errorMessage = QStringLiteral("Invalid exit country.");
+        errorMessage = Text::tr("Invalid exit country.");
         co_return;
     }
 
@@ -195,7 +195,7 @@ QCoro::Task<void> TorController::connect()
     bootstrapProgress = 0.0;
     bootstrapProblem = std::nullopt;
     resetSessionInfo();
-    statusDetail = QStringLiteral("Preparing Tor…");
+    statusDetail = Text::tr("Preparing Tor…");
     phase = ConnectionPhase::connecting;
 
     const auto bridges = co_await bridgeArguments(attempt, request);
@@ -232,7 +232,7 @@ QCoro::Task<void> TorController::connect()
     // Under the password-free rule the helper itself says whether it has to be asked for.
     if (isBlocked && arguments != m_sessionWords && !m_services.privileged.passwordlessInstalled())
         arguments[0] = QStringLiteral("replace");
-    statusDetail = QStringLiteral("Waiting for administrator approval…");
+    statusDetail = Text::tr("Waiting for administrator approval…");
     const auto helper = co_await m_services.privileged.runHelper(arguments);
     if (!self || !isCurrent(attempt))
         co_return;
@@ -251,16 +251,16 @@ QCoro::Task<void> TorController::connect()
     m_torStopped = false;
     m_knownKillSwitch = KillSwitch{KillSwitch::State::standing, 0, {}}; // what happened since the helper began is news
     startKillSwitchWatch();
-    statusDetail = QStringLiteral("Starting Tor…");
+    statusDetail = Text::tr("Starting Tor…");
     canCancel = true;
     const auto bootstrap = co_await waitForBootstrap(attempt);
     if (!self || !isCurrent(attempt))
         co_return;
     canCancel = false;
     if (!bootstrap) {
-        errorMessage = m_bootstrapFailure = bootstrap.error()
-            + QStringLiteral(" Your network is still pointed at Tor. Click Restore Network to undo.");
-        statusDetail = QStringLiteral("Tor didn't finish connecting");
+        errorMessage = m_bootstrapFailure =
+            Text::tr("%1 Your network is still pointed at Tor. Click Restore Network to undo.").arg(bootstrap.error());
+        statusDetail = Text::tr("Tor didn't finish connecting");
         phase = ConnectionPhase::stale;
         co_return;
     }

@@ -99,7 +99,7 @@ QCoro::Task<void> TorController::repairDNS(Attempt attempt)
         co_return;
     if (!helper) {
         if (helper.error().kind() != HelperError::Kind::Cancelled)
-            errorMessage = QStringLiteral("Couldn't fix DNS: ") + helper.error().description();
+            errorMessage = Text::tr("Couldn't fix DNS: %1").arg(helper.error().description());
         co_return;
     }
     lookAtKillSwitch();

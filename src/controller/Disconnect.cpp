@@ -19,7 +19,7 @@ bool TorController::isSessionMarkerPresent() const
     return QFile::exists(m_services.profile.sessionMarker);
 }
 
-QCoro::Task<Result<void, QString>> TorController::disconnect()
+QCoro::Task<Result<void, Text>> TorController::disconnect()
 {
     const auto meant = otherSession();
     const auto other = SessionOwner::ofAnotherProcess(m_services.profile);
@@ -33,7 +33,7 @@ QCoro::Task<Result<void, QString>> TorController::disconnect()
         || phase() == ConnectionPhase::stale
         || (phase() == ConnectionPhase::connecting && canCancel());
     if (!mayDisconnect)
-        co_return Failure(QString());
+        co_return Failure(Text());
 
     const QPointer<TorController> self(this);
     // What the session had still to find out. It is begun again if the session stays.
@@ -48,7 +48,7 @@ QCoro::Task<Result<void, QString>> TorController::disconnect()
     if (sessionWasUp)
         errorMessage = std::nullopt;
     canCancel = false;
-    statusDetail = QStringLiteral("Restoring your network settings…");
+    statusDetail = Text::tr("Restoring your network settings…");
     phase = ConnectionPhase::disconnecting;
     stopMonitoring();
     stopKillSwitchWatch(); // from here on the rules go on purpose
@@ -60,7 +60,7 @@ QCoro::Task<Result<void, QString>> TorController::disconnect()
         arguments << QStringLiteral("--process") << QString::number(meant ? meant->process : QCoreApplication::applicationPid());
     const auto helper = co_await m_services.privileged.runHelper(arguments);
     if (!self || !isCurrent(attempt))
-        co_return Failure(QString());
+        co_return Failure(Text());
     if (helper) {
         errorMessage = std::nullopt; // whatever it was, "the network is set up for Tor" is over
         endSession();
@@ -73,7 +73,7 @@ QCoro::Task<Result<void, QString>> TorController::disconnect()
         errorMessage = replacedText();
         co_return Failure(replacedText());
     }
-    QString reason;
+    Text reason;
     if (helper.error().kind() != HelperError::Kind::Cancelled) {
         reason = helper.error().description();
         errorMessage = reason;
@@ -126,7 +126,7 @@ void TorController::endSession()
     resetSessionInfo();
     bootstrapProgress = 0.0;
     bootstrapProblem = std::nullopt;
-    statusDetail = QStringLiteral("Your traffic is not going through Tor");
+    statusDetail = Text::tr("Your traffic is not going through Tor");
     phase = ConnectionPhase::disconnected;
 }
 
@@ -154,14 +154,14 @@ void TorController::detectStaleState()
     startKillSwitchWatch();
 }
 
-QString TorController::leftOverDetail() const
+Text TorController::leftOverDetail() const
 {
     if (!otherSession())
-        return QStringLiteral("Your network is still set up for Tor from an earlier session");
+        return Text::tr("Your network is still set up for Tor from an earlier session");
     return otherSession()->isOwnUser()
-        ? QStringLiteral("Your network is set up for Tor by another Veldmark of yours, process %1")
+        ? Text::tr("Your network is set up for Tor by another Veldmark of yours, process %1")
               .arg(otherSession()->process)
-        : QStringLiteral("Your network is set up for Tor by %1, whose Veldmark is process %2")
+        : Text::tr("Your network is set up for Tor by %1, whose Veldmark is process %2")
               .arg(otherSession()->userName(), QString::number(otherSession()->process));
 }
 
@@ -199,16 +199,16 @@ void TorController::giveUpTo(const std::optional<SessionOwner> &other)
     canCancel = false;
     showSessionOf(other);
     if (!other)
-        errorMessage = QStringLiteral("Another program has ended this session and begun one of its own. Disconnect to end that.");
+        errorMessage = Text::tr("Another program has ended this session and begun one of its own. Disconnect to end that.");
     phase = ConnectionPhase::stale;
     startKillSwitchWatch();
 }
 
-QString TorController::replacedText() const
+Text TorController::replacedText() const
 {
     return otherSession()->isOwnUser()
-        ? QStringLiteral("Another Veldmark of yours has begun a session since, so nothing was ended. Disconnect again to end it.")
-        : QStringLiteral("Another user's Veldmark has begun a session since, so nothing was ended. Disconnect again to end it.");
+        ? Text::tr("Another Veldmark of yours has begun a session since, so nothing was ended. Disconnect again to end it.")
+        : Text::tr("Another user's Veldmark has begun a session since, so nothing was ended. Disconnect again to end it.");
 }
 
 void TorController::showSessionOf(const std::optional<SessionOwner> &other)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Text.h"
+
 #include <QJsonValue>
 #include <QObject>
 #include <QStringList>
@@ -14,7 +16,7 @@ class SettingsStore;
 
 // What the program says of a setting of the user's, in lists and completions.
 struct SettingInfo {
-    QString help;            // a few English words
+    Text help;               // a few words
     bool isOfConnection = false; // a connection is made with it, so it holds until that ends
     QStringList values;      // all that it can be, where they are few
 };
@@ -28,6 +30,8 @@ public:
     // As other programs see it, and in the settings' file.
     QString name() const { return m_name; }
     virtual QJsonValue toJson() const = 0;
+    // The same as Text::toJson(), where it is a text; else null.
+    virtual QJsonValue textToJson() const = 0;
     // Absent: no setting, but what the program found out.
     const std::optional<SettingInfo> &setting() const { return m_setting; }
 
@@ -50,7 +54,7 @@ public:
     SettingsStore &store() const { return m_store; }
 
     // Shows what went wrong while a field was set.
-    virtual void showProblem(const QString &problem) = 0;
+    virtual void showProblem(const Text &problem) = 0;
 
 protected:
     FieldOwner(SettingsStore &store, QObject *parent) : QObject(parent), m_store(store) {}

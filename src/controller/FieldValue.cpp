@@ -32,11 +32,29 @@ std::optional<bool> switchFrom(const QString &word)
 } // namespace
 
 QJsonValue json(const QString &value) { return value; }
+QJsonValue json(const Text &value) { return value.english(); }
 QJsonValue json(bool value) { return value; }
 QJsonValue json(qint64 value) { return value; }
 QJsonValue json(double value) { return value; }
 QJsonValue json(quint64 value) { return static_cast<qint64>(value); }
 QJsonValue json(const QStringList &value) { return QJsonArray::fromStringList(value); }
+
+QJsonValue json(const QList<Text> &value)
+{
+    QJsonArray texts;
+    for (const Text &text : value)
+        texts.append(text.english());
+    return texts;
+}
+
+QJsonValue textJson(const QList<Text> &value)
+{
+    QJsonArray texts;
+    for (const Text &text : value)
+        texts.append(text.toJson());
+    return texts.isEmpty() ? QJsonValue(QJsonValue::Null) : texts;
+}
+
 QJsonValue json(BridgeChoice value) { return rawValue(value); }
 QJsonValue json(RoutingMode value) { return rawValue(value); }
 
@@ -134,39 +152,39 @@ QVariant stored(const QString &value) { return value; }
 QVariant stored(const QStringList &value) { return value; }
 QVariant stored(BridgeChoice value) { return rawValue(value); }
 
-Result<void, QString> parse(const QString &text, bool &value)
+Result<void, Text> parse(const QString &text, bool &value)
 {
     const auto found = switchFrom(text.trimmed().toLower());
     if (!found)
-        return Failure(QStringLiteral("\"%1\" is neither true nor false.").arg(inOneLine(text)));
+        return Failure(Text::tr("\"%1\" is neither true nor false.").arg(inOneLine(text)));
     value = *found;
     return {};
 }
 
-Result<void, QString> parse(const QString &text, QString &value)
+Result<void, Text> parse(const QString &text, QString &value)
 {
     value = text;
     return {};
 }
 
-Result<void, QString> parse(const QString &text, QStringList &value)
+Result<void, Text> parse(const QString &text, QStringList &value)
 {
     const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8());
     const QJsonArray array = document.array();
     const bool areStrings = std::all_of(array.begin(), array.end(), [](const QJsonValue &entry) { return entry.isString(); });
     if (!document.isArray() || !areStrings)
-        return Failure(QStringLiteral("\"%1\" is no JSON array of strings.").arg(inOneLine(text)));
+        return Failure(Text::tr("\"%1\" is no JSON array of strings.").arg(inOneLine(text)));
     value.clear();
     for (const QJsonValue &entry : array)
         value << entry.toString();
     return {};
 }
 
-Result<void, QString> parse(const QString &text, BridgeChoice &value)
+Result<void, Text> parse(const QString &text, BridgeChoice &value)
 {
     const auto choice = bridgeChoiceFromRawValue(text);
     if (!choice)
-        return Failure(QStringLiteral("\"%1\" is no bridge choice: off, obfs4, snowflake, meek or custom.").arg(inOneLine(text)));
+        return Failure(Text::tr("\"%1\" is no bridge choice: off, obfs4, snowflake, meek or custom.").arg(inOneLine(text)));
     value = *choice;
     return {};
 }

@@ -3,6 +3,7 @@
 #include "base/ConnectionPhase.h"
 #include "base/Result.h"
 #include "base/RoutingMode.h"
+#include "base/Text.h"
 #include "bridges/BridgeChoice.h"
 #include "checks/TrafficWatch.h"
 
@@ -27,11 +28,13 @@ struct SessionOwner;
 // An enumeration is its case name as a string; a case with a payload an object with that one key ({"exposed":
 // "203.0.113.7"}, {"leak": ["…"]}); an absent optional is null.
 QJsonValue json(const QString &value);
+QJsonValue json(const Text &value); // English
 QJsonValue json(bool value);
 QJsonValue json(qint64 value);
 QJsonValue json(quint64 value);
 QJsonValue json(double value);
 QJsonValue json(const QStringList &value);
+QJsonValue json(const QList<Text> &value); // English
 QJsonValue json(BridgeChoice value);
 QJsonValue json(RoutingMode value);
 QJsonValue json(ConnectionPhase value);
@@ -48,6 +51,13 @@ QJsonValue json(const std::optional<T> &value)
 {
     return value ? json(*value) : QJsonValue(QJsonValue::Null);
 }
+
+// As Text::toJson() where the value is a text, a list of those where it is a list; null where it is none.
+template <typename T>
+QJsonValue textJson(const T &) { return QJsonValue::Null; }
+inline QJsonValue textJson(const Text &value) { return value.toJson(); }
+QJsonValue textJson(const QList<Text> &value);
+inline QJsonValue textJson(const std::optional<Text> &value) { return value ? value->toJson() : QJsonValue(QJsonValue::Null); }
 
 // The types of settings. What is stored and is none of the type's values reads as `fallback`.
 bool readSetting(const SettingsStore &store, const QString &key, bool fallback);
@@ -67,10 +77,10 @@ QVariant stored(BridgeChoice value);
 
 // From the user's words: "true"/"false" (also on/off, yes/no, 1/0) for switches, a JSON array of strings for lists, the raw
 // value for choices. The error is a sentence; `value` is left as it was then.
-Result<void, QString> parse(const QString &text, bool &value);
-Result<void, QString> parse(const QString &text, QString &value);
-Result<void, QString> parse(const QString &text, QStringList &value);
-Result<void, QString> parse(const QString &text, BridgeChoice &value);
+Result<void, Text> parse(const QString &text, bool &value);
+Result<void, Text> parse(const QString &text, QString &value);
+Result<void, Text> parse(const QString &text, QStringList &value);
+Result<void, Text> parse(const QString &text, BridgeChoice &value);
 
 // All the words that parse() knows a value by, one each; empty where there are too many.
 QStringList possibleValues(bool);

@@ -80,7 +80,7 @@ void TorController::lookAtKillSwitch()
         errorMessage = std::nullopt;
 }
 
-std::optional<QString> TorController::killSwitchMessage() const
+std::optional<Text> TorController::killSwitchMessage() const
 {
     if (m_torStopped)
         return deathMessage();
@@ -88,43 +88,43 @@ std::optional<QString> TorController::killSwitchMessage() const
         return std::nullopt;
     switch (killSwitch() ? killSwitch()->state : State::standing) {
     case State::putBack:
-        return QStringLiteral("Another program removed Veldmark's firewall rules; they are back in place.");
+        return Text::tr("Another program removed Veldmark's firewall rules; they are back in place.");
     case State::open:
-        return QStringLiteral("Another program removed Veldmark's firewall rules and they could not be put back. Traffic "
-                              "may leave this computer directly. Disconnect and connect again.");
+        return Text::tr("Another program removed Veldmark's firewall rules and they could not be put back. Traffic "
+                        "may leave this computer directly. Disconnect and connect again.");
     case State::unknown:
-        return QStringLiteral("The watcher over Veldmark's firewall rules has stopped telling, so it isn't known whether "
-                              "the kill switch stands. Disconnect and connect again.");
+        return Text::tr("The watcher over Veldmark's firewall rules has stopped telling, so it isn't known whether "
+                        "the kill switch stands. Disconnect and connect again.");
     case State::standing:
         break;
     }
     return std::nullopt;
 }
 
-QString TorController::deathMessage() const
+Text TorController::deathMessage() const
 {
     if (activeMode() != RoutingMode::strict)
-        return QStringLiteral("Tor stopped running. Apps using the proxy can't connect until you reconnect "
-                              "or Restore Network.");
+        return Text::tr("Tor stopped running. Apps using the proxy can't connect until you reconnect "
+                        "or Restore Network.");
     const bool hasLeaked = leakStatus().isExposed() || dnsStatus().isLeak();
     switch (killSwitch() ? killSwitch()->state : State::unknown) {
     case State::standing:
         if (hasLeaked)
-            return QStringLiteral("Tor stopped running. The kill switch is still blocking traffic, but the last checks have seen some go "
-                                  "around Tor. Reconnect, or Restore Network to go back online.");
-        return QStringLiteral("Tor stopped running. The kill switch is still blocking traffic, so nothing "
-                              "leaked. Reconnect, or Restore Network to go back online.");
+            return Text::tr("Tor stopped running. The kill switch is still blocking traffic, but the last checks have seen some go "
+                            "around Tor. Reconnect, or Restore Network to go back online.");
+        return Text::tr("Tor stopped running. The kill switch is still blocking traffic, so nothing "
+                        "leaked. Reconnect, or Restore Network to go back online.");
     case State::putBack:
-        return QStringLiteral("Tor stopped running. The kill switch is blocking traffic again, but another program had "
-                              "removed its rules for a while. Reconnect, or Restore Network to go back online.");
+        return Text::tr("Tor stopped running. The kill switch is blocking traffic again, but another program had "
+                        "removed its rules for a while. Reconnect, or Restore Network to go back online.");
     case State::open:
-        return QStringLiteral("Tor stopped running, and the kill switch is open: another program removed its rules. Traffic "
-                              "may leave this computer directly. Reconnect, or Restore Network.");
+        return Text::tr("Tor stopped running, and the kill switch is open: another program removed its rules. Traffic "
+                        "may leave this computer directly. Reconnect, or Restore Network.");
     case State::unknown:
         break;
     }
-    return QStringLiteral("Tor stopped running, and it isn't known whether the kill switch is still blocking traffic. "
-                          "Reconnect, or Restore Network to go back online.");
+    return Text::tr("Tor stopped running, and it isn't known whether the kill switch is still blocking traffic. "
+                    "Reconnect, or Restore Network to go back online.");
 }
 
 void TorController::startKillSwitchWatch()

@@ -21,8 +21,8 @@ constexpr int ticksPerDNSCheck = 15;  // every 30 seconds
 constexpr int failuresUntilDead = 3;
 
 // Stays as long as it is so.
-const QString offlineText = QStringLiteral("Tor hasn't confirmed that it is on the network again, so nothing may get through. Veldmark goes on "
-                                           "telling it to; else disconnect and connect again.");
+const Text offlineText = Text::tr("Tor hasn't confirmed that it is on the network again, so nothing may get through. Veldmark goes on "
+                                  "telling it to; else disconnect and connect again.");
 const QString readKey = QStringLiteral("traffic/read");
 const QString writtenKey = QStringLiteral("traffic/written");
 const QString circuitKey = QStringLiteral("status/circuit-established");
@@ -42,7 +42,7 @@ TorController::Attempt TorController::startAttempt()
     return ++m_attempt;
 }
 
-std::optional<QString> TorController::failure() const
+std::optional<Text> TorController::failure() const
 {
     return errorMessage() == m_killSwitchMessage || errorMessage() == offlineText ? std::nullopt : errorMessage();
 }
@@ -146,13 +146,13 @@ void TorController::torDied()
     startAttempt(); // checks that are still running belong to a session that is over
     stopMonitoring();
     if (!isSessionMarkerPresent()) { // somebody has restored the network by hand
-        errorMessage = QStringLiteral("Tor stopped running, and your network is no longer set up for it.");
+        errorMessage = Text::tr("Tor stopped running, and your network is no longer set up for it.");
         endSession();
         return;
     }
     m_torStopped = true;
     lookAtKillSwitch(); // what is said of it now must be true now
-    statusDetail = QStringLiteral("Tor stopped running");
+    statusDetail = Text::tr("Tor stopped running");
     errorMessage = m_killSwitchMessage = deathMessage();
     phase = ConnectionPhase::stale;
     lookAtSession(); // perhaps Tor ended because another process's session has taken this one's place

@@ -37,10 +37,9 @@ QCoro::Task<void> TorController::installPasswordless()
     passwordlessInstalled = m_services.privileged.passwordlessInstalled();
     if (!helper) {
         if (helper.error().kind() != HelperError::Kind::Cancelled) // the user's own choice is no error
-            startupError = QStringLiteral("Couldn't set up passwordless mode: ")
-                + helper.error().description();
+            startupError = Text::tr("Couldn't set up passwordless mode: %1").arg(helper.error().description());
     } else if (!passwordlessInstalled()) {
-        startupError = QStringLiteral("Setup ran but the helper wasn't installed. Try again.");
+        startupError = Text::tr("Setup ran but the helper wasn't installed. Try again.");
     }
 }
 
@@ -57,8 +56,7 @@ QCoro::Task<void> TorController::removePasswordless()
     m_isSettingUpHelper = false;
     passwordlessInstalled = m_services.privileged.passwordlessInstalled();
     if (!helper && helper.error().kind() != HelperError::Kind::Cancelled)
-        startupError = QStringLiteral("Couldn't remove passwordless mode: ")
-            + helper.error().description();
+        startupError = Text::tr("Couldn't remove passwordless mode: %1").arg(helper.error().description());
 }
 
 QCoro::Task<void> TorController::updatePrivilegedHelper()

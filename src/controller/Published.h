@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Text.h"
 #include "controller/Field.h"
 #include "controller/FieldValue.h"
 #include "system/SettingsStore.h"
@@ -20,6 +21,7 @@ public:
 
     const T &operator()() const { return m_value; }
     QJsonValue toJson() const override { return json(m_value); }
+    QJsonValue textToJson() const override { return textJson(m_value); }
 
 protected:
     friend class TorController;
@@ -46,8 +48,8 @@ template <typename T>
 class Setting : public Published<T> {
 public:
     // `fallback` holds where the user has no value of their own.
-    Setting(FieldOwner *owner, const char *name, Scope scope, const char *help, std::optional<T> fallback = {})
-        : Published<T>(owner, name, SettingInfo{QString::fromUtf8(help), scope == Scope::connection, possibleValues(T())})
+    Setting(FieldOwner *owner, const char *name, Scope scope, Text help, std::optional<T> fallback = {})
+        : Published<T>(owner, name, SettingInfo{std::move(help), scope == Scope::connection, possibleValues(T())})
         , m_owner(*owner)
     {
         if (fallback)
@@ -55,11 +57,11 @@ public:
         this->m_value = readSetting(m_owner.store(), this->name(), fallback.value_or(T()));
     }
 
-    std::optional<QString> set(T value)
+    std::optional<Text> set(T value)
     {
         SettingsStore &store = m_owner.store();
         writeSetting(store, this->name(), value);
-        std::optional<QString> problem;
+        std::optional<Text> problem;
         while (const auto next = store.problem())
             problem = next;
         Published<T>::operator=(std::move(value));

@@ -9,6 +9,8 @@ namespace veldmark {
 
 namespace {
 
+const QString titleKey = QStringLiteral("title");
+
 // As setSetting(), where the setting is one of type T.
 template <typename T>
 std::optional<Result<void, SettingError>> trySetting(TorController &controller, Field *field, const QString &text)
@@ -43,14 +45,43 @@ QJsonObject publishedState(const TorController &controller)
         state.insert(controller.isOptimizing.name(), false);
     }
     const Verdict verdict = controller.verdict();
-    state.insert(controller.statusDetail.name(), verdict.detail); // a known danger comes before what is going on
-    state.insert(QStringLiteral("title"), verdict.title);
+    state.insert(controller.statusDetail.name(), json(verdict.detail)); // a known danger comes before what is going on
+    state.insert(titleKey, json(verdict.title));
     state.insert(QStringLiteral("menuBarSymbol"), verdict.symbol);
     state.insert(QStringLiteral("level"), verdict.levelName());
     // While the rules are taken down, nobody looks.
     const auto rules = controller.phase() == ConnectionPhase::disconnecting ? std::nullopt : controller.killSwitch();
     state.insert(controller.killSwitch.name(), json(rules));
     state.insert(QStringLiteral("killSwitchSince"), rules ? json(rules->since.toString(Qt::ISODate)) : QJsonValue(QJsonValue::Null));
+    return state;
+}
+
+QJsonObject publishedTexts(const TorController &controller)
+{
+    QJsonObject texts;
+    for (const Field *field : controller.fields()) {
+        if (const QJsonValue text = field->textToJson(); !text.isNull())
+            texts.insert(field->name(), text);
+    }
+    const Verdict verdict = controller.verdict();
+    texts.insert(controller.statusDetail.name(), verdict.detail.toJson());
+    texts.insert(titleKey, verdict.title.toJson());
+    return texts;
+}
+
+QJsonObject inUsersLanguage(QJsonObject state, const QJsonObject &texts)
+{
+    for (auto text = texts.begin(); text != texts.end(); ++text) {
+        const QJsonValue english = state.value(text.key()); // what the state keeps back stays so
+        if (english.isString()) {
+            state.insert(text.key(), Text::fromJson(text.value()).translated());
+        } else if (english.isArray()) {
+            QJsonArray translated;
+            for (const QJsonValue &one : text.value().toArray())
+                translated.append(Text::fromJson(one).translated());
+            state.insert(text.key(), translated);
+        }
+    }
     return state;
 }
 
@@ -73,7 +104,7 @@ Result<void, SettingError> setSetting(TorController &controller, const QString &
             return *tried;
     }
     return Failure(SettingError(SettingError::Kind::Refused,
-                                QStringLiteral("There is no setting \"%1\". Settings: %2.")
+                                Text::tr("There is no setting \"%1\". Settings: %2.")
                                     .arg(inOneLine(name), settingNames(controller).join(QStringLiteral(", ")))));
 }
 

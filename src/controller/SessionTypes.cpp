@@ -7,19 +7,19 @@ namespace veldmark {
 const std::vector<ExitCountry> &ExitCountry::all()
 {
     static const std::vector<ExitCountry> countries = {
-        {QString(), QStringLiteral("Any (recommended)")},
-        {QStringLiteral("us"), QStringLiteral("United States")},
-        {QStringLiteral("ca"), QStringLiteral("Canada")},
-        {QStringLiteral("gb"), QStringLiteral("United Kingdom")},
-        {QStringLiteral("de"), QStringLiteral("Germany")},
-        {QStringLiteral("nl"), QStringLiteral("Netherlands")},
-        {QStringLiteral("fr"), QStringLiteral("France")},
-        {QStringLiteral("se"), QStringLiteral("Sweden")},
-        {QStringLiteral("ch"), QStringLiteral("Switzerland")},
-        {QStringLiteral("fi"), QStringLiteral("Finland")},
-        {QStringLiteral("ro"), QStringLiteral("Romania")},
-        {QStringLiteral("jp"), QStringLiteral("Japan")},
-        {QStringLiteral("sg"), QStringLiteral("Singapore")},
+        {QString(), Text::tr("Any (recommended)")},
+        {QStringLiteral("us"), Text::tr("United States")},
+        {QStringLiteral("ca"), Text::tr("Canada")},
+        {QStringLiteral("gb"), Text::tr("United Kingdom")},
+        {QStringLiteral("de"), Text::tr("Germany")},
+        {QStringLiteral("nl"), Text::tr("Netherlands")},
+        {QStringLiteral("fr"), Text::tr("France")},
+        {QStringLiteral("se"), Text::tr("Sweden")},
+        {QStringLiteral("ch"), Text::tr("Switzerland")},
+        {QStringLiteral("fi"), Text::tr("Finland")},
+        {QStringLiteral("ro"), Text::tr("Romania")},
+        {QStringLiteral("jp"), Text::tr("Japan")},
+        {QStringLiteral("sg"), Text::tr("Singapore")},
     };
     return countries;
 }
@@ -32,12 +32,10 @@ bool ExitCountry::isValid(const QString &code)
                            [](QChar c) { return c >= u'a' && c <= u'z'; }));
 }
 
-TorError TorError::bootstrapTimeout(const std::optional<QString> &lastError)
+TorError TorError::bootstrapTimeout(const std::optional<Text> &lastError)
 {
-    QString text = QStringLiteral("Tor didn't finish connecting within 5 minutes.");
-    if (lastError)
-        text += QStringLiteral(" (%1)").arg(*lastError);
-    return TorError(text);
+    return TorError(lastError ? Text::tr("Tor didn't finish connecting within 5 minutes. (%1)").arg(*lastError)
+                              : Text::tr("Tor didn't finish connecting within 5 minutes."));
 }
 
 } // namespace veldmark

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Text.h"
+
 #include <QString>
 
 #include <optional>
@@ -10,7 +12,7 @@ namespace veldmark {
 // An exit country that the user can choose; its identity is `code`.
 struct ExitCountry {
     QString code; // two lower-case letters; empty = any
-    QString name;
+    Text name;
 
     bool operator==(const ExitCountry &other) const { return code == other.code; }
     // In the order of the picker.
@@ -23,13 +25,13 @@ struct ExitCountry {
 class TorError {
 public:
     // `lastError`: the description of the last control-port error met while waiting, if any.
-    static TorError bootstrapTimeout(const std::optional<QString> &lastError);
+    static TorError bootstrapTimeout(const std::optional<Text> &lastError);
 
-    QString description() const { return m_description; }
+    Text description() const { return m_description; }
 
 private:
-    explicit TorError(QString description) : m_description(std::move(description)) {}
-    QString m_description;
+    explicit TorError(Text description) : m_description(std::move(description)) {}
+    Text m_description;
 };
 
 } // namespace veldmark

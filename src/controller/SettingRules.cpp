@@ -8,7 +8,7 @@ namespace veldmark::SettingRules {
 
 namespace {
 
-auto refusal(const QString &description)
+auto refusal(const Text &description)
 {
     return Failure(SettingError(SettingError::Kind::Refused, description));
 }
@@ -25,19 +25,19 @@ Result<void, SettingError> store(const TorController &controller, Setting<T> &se
 
 } // namespace
 
-std::optional<QString> lock(const TorController &controller, const Field &setting)
+std::optional<Text> lock(const TorController &controller, const Field &setting)
 {
     if (!controller.optionsLocked() || !setting.setting()->isOfConnection)
         return std::nullopt;
-    return QStringLiteral("\"%1\" holds for the whole connection. Disconnect to change it.").arg(setting.name());
+    return Text::tr("\"%1\" holds for the whole connection. Disconnect to change it.").arg(setting.name());
 }
 
-std::optional<QString> torPathProblem(const QString &path)
+std::optional<Text> torPathProblem(const QString &path)
 {
     const QString place = path.trimmed();
     if (place.isEmpty() || place.startsWith(u'/'))
         return std::nullopt;
-    return QStringLiteral("\"%1\" is no place for Tor: give the whole path, such as /usr/bin/tor.").arg(inOneLine(place));
+    return Text::tr("\"%1\" is no place for Tor: give the whole path, such as /usr/bin/tor.").arg(inOneLine(place));
 }
 
 Result<void, SettingError> change(TorController &controller, Setting<bool> &setting, bool value)
@@ -59,8 +59,8 @@ Result<void, SettingError> change(TorController &controller, Setting<BridgeChoic
 Result<void, SettingError> change(TorController &controller, Setting<QString> &setting, const QString &value)
 {
     if (&setting == &controller.exitCountry && !ExitCountry::isValid(value))
-        return refusal(QStringLiteral("\"%1\" is no exit country: two lower-case letters such as \"de\", or nothing "
-                                      "for any.").arg(inOneLine(value)));
+        return refusal(Text::tr("\"%1\" is no exit country: two lower-case letters such as \"de\", or nothing "
+                                "for any.").arg(inOneLine(value)));
     if (&setting == &controller.customTorPath) {
         if (const auto problem = torPathProblem(value))
             return refusal(*problem);
@@ -74,7 +74,7 @@ Result<void, SettingError> change(TorController &controller, Setting<QStringList
         return controller.isApplication(path);
     });
     if (odd != value.end())
-        return refusal(QStringLiteral("\"%1\" is no application: an absolute path that ends in \"%2\".")
+        return refusal(Text::tr("\"%1\" is no application: an absolute path that ends in \"%2\".")
                            .arg(inOneLine(*odd), controller.profile().applicationSuffix));
     return store(controller, setting, controller.sortedByName(value));
 }

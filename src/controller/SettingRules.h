@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Text.h"
 #include "controller/PublishedState.h"
 #include "controller/TorController.h"
 
@@ -8,9 +9,9 @@
 namespace veldmark::SettingRules {
 
 // Why the setting cannot be changed now, a sentence; absent: it can be.
-std::optional<QString> lock(const TorController &controller, const Field &setting);
+std::optional<Text> lock(const TorController &controller, const Field &setting);
 // Why the text is no place of a tor, a sentence; absent: it may be one.
-std::optional<QString> torPathProblem(const QString &path);
+std::optional<Text> torPathProblem(const QString &path);
 
 // Sets a setting of `controller` where these rules allow it. A value that it has already is never refused.
 Result<void, SettingError> change(TorController &controller, Setting<bool> &setting, bool value);

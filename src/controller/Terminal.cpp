@@ -6,7 +6,7 @@
 
 namespace veldmark {
 
-std::optional<QString> TorController::setTerminalMode(bool on)
+std::optional<Text> TorController::setTerminalMode(bool on)
 {
     const auto problem = terminalMode.set(on);
     applyTerminalMode();
@@ -39,7 +39,7 @@ void TorController::setShellsActive(bool on)
 void TorController::showTerminalProblem(const Result<void, TerminalError> &installed)
 {
     if (!installed)
-        terminalError = QStringLiteral("Couldn't set up terminal mode: ") + installed.error().description();
+        terminalError = Text::tr("Couldn't set up terminal mode: %1").arg(installed.error().description());
 }
 
 QCoro::Task<void> TorController::installForSsh(quint64 run)
@@ -52,12 +52,12 @@ QCoro::Task<void> TorController::installForSsh(quint64 run)
     showTerminalProblem(m_services.terminal.install());
 }
 
-QCoro::Task<QString> TorController::terminalHint()
+QCoro::Task<Text> TorController::terminalHint()
 {
     const QPointer<TorController> self(this);
     auto asking = m_services.terminal.askForSocksCommand();
     co_await asking;
-    co_return self && m_services.terminal.knowsSocksCommand() ? m_services.terminal.sshHint() : QString();
+    co_return self && m_services.terminal.knowsSocksCommand() ? m_services.terminal.sshHint() : Text();
 }
 
 bool TorController::isTerminalInstalled() const
@@ -75,7 +75,7 @@ void TorController::removeTerminalIntegration()
     setTerminalMode(false);
     if (const auto removed = m_services.terminal.uninstall(); !removed)
         terminalError =
-            QStringLiteral("Couldn't remove terminal integration: ") + removed.error().description();
+            Text::tr("Couldn't remove terminal integration: %1").arg(removed.error().description());
 }
 
 } // namespace veldmark

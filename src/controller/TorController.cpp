@@ -25,7 +25,7 @@ TorController::~TorController()
 
 void TorController::readSettingsProblems()
 {
-    QStringList problems = settingsProblems();
+    QList<Text> problems = settingsProblems();
     while (const auto problem = store().problem())
         problems << *problem;
     settingsProblems = problems;

@@ -20,6 +20,7 @@
 #include "base/Result.h"
 #include "base/ResumeOnce.h"
 #include "base/RoutingMode.h"
+#include "base/Text.h"
 #include "system/HelperError.h"
 #include "system/ProgramApproval.h"
 #include "system/SessionMark.h"
@@ -51,7 +52,7 @@ struct TerminalError;
 struct BootstrapStatus {
     int progress = 0; // per cent
     QString summary;  // Tor's own words; empty when the report has none
-    QString warning;  // what is in Tor's way, a sentence; empty when Tor warns of nothing
+    Text warning;     // what is in Tor's way, a sentence; empty when Tor warns of nothing
 };
 
 // The one object that holds what the program knows: the user's settings, the session with Tor, and
@@ -101,33 +102,33 @@ public:
     ~TorController() override;
 
     // --- The user's settings; each `set` is stored at once. ---
-    Setting<bool> strictMode{this, "strictMode", Scope::connection, "the kill switch, else proxy mode", true};
-    Setting<bool> allowLocalNetwork{this, "allowLocalNetwork", Scope::connection, "strict mode lets the local network through", true};
-    Setting<bool> separateApps{this, "separateApps", Scope::connection, "each application has circuits of its own", true};
-    Setting<QString> exitCountry{this, "exitCountry", Scope::connection, "two lower-case letters, or nothing for any", QString()};
-    Setting<QString> customTorPath{this, "customTorPath", Scope::connection, "the tor to use, or nothing to search for it", QString()};
-    Setting<BridgeChoice> bridgeChoice{this, "bridgeChoice", Scope::connection, "which bridges", BridgeChoice::off};
-    Setting<QString> customBridges{this, "customBridges", Scope::connection, "your own bridge lines, as typed", QString()};
-    Setting<QStringList> bypassApps{this, "bypassApps", Scope::always, "paths of applications that may be opened without Tor"};
-    Setting<bool> autoConnect{this, "autoConnect", Scope::always, "connect when Veldmark starts"};
-    Setting<bool> optimizeSpeed{this, "optimizeSpeed", Scope::connection, "test bridges before connecting, look for a faster path afterwards"};
-    Setting<bool> terminalMode{this, "terminalMode", Scope::always, "command-line tools go through Tor while connected", false};
+    Setting<bool> strictMode{this, "strictMode", Scope::connection, Text::tr("the kill switch, else proxy mode"), true};
+    Setting<bool> allowLocalNetwork{this, "allowLocalNetwork", Scope::connection, Text::tr("strict mode lets the local network through"), true};
+    Setting<bool> separateApps{this, "separateApps", Scope::connection, Text::tr("each application has circuits of its own"), true};
+    Setting<QString> exitCountry{this, "exitCountry", Scope::connection, Text::tr("two lower-case letters, or nothing for any"), QString()};
+    Setting<QString> customTorPath{this, "customTorPath", Scope::connection, Text::tr("the tor to use, or nothing to search for it"), QString()};
+    Setting<BridgeChoice> bridgeChoice{this, "bridgeChoice", Scope::connection, Text::tr("which bridges"), BridgeChoice::off};
+    Setting<QString> customBridges{this, "customBridges", Scope::connection, Text::tr("your own bridge lines, as typed"), QString()};
+    Setting<QStringList> bypassApps{this, "bypassApps", Scope::always, Text::tr("paths of applications that may be opened without Tor")};
+    Setting<bool> autoConnect{this, "autoConnect", Scope::always, Text::tr("connect when Veldmark starts")};
+    Setting<bool> optimizeSpeed{this, "optimizeSpeed", Scope::connection, Text::tr("test bridges before connecting, look for a faster path afterwards")};
+    Setting<bool> terminalMode{this, "terminalMode", Scope::always, Text::tr("command-line tools go through Tor while connected"), false};
 
     // --- The session. ---
     Published<ConnectionPhase> phase{this, "phase", ConnectionPhase::disconnected};
     Published<std::optional<RoutingMode>> activeMode{this, "activeMode"}; // absent when no session
     Published<std::optional<BridgeChoice>> activeBridge{this, "activeBridge"};
     Published<double> bootstrapProgress{this, "bootstrapProgress"}; // 0…1
-    Published<QString> statusDetail{this, "statusDetail", QStringLiteral("Your traffic is not going through Tor")};     // the line under the title
+    Published<Text> statusDetail{this, "statusDetail", Text::tr("Your traffic is not going through Tor")};     // the line under the title
     // What keeps Tor from connecting, by its own report and log, in a sentence; absent when Tor knows
     // of nothing. Stays after a bootstrap that failed, until the next attempt or the restore.
-    Published<std::optional<QString>> bootstrapProblem{this, "bootstrapProblem"};
+    Published<std::optional<Text>> bootstrapProblem{this, "bootstrapProblem"};
     // Whose the session is that a stale phase shows, while another process that made it still runs.
     Published<std::optional<SessionOwner>> otherSession{this, "otherSession"};
     Published<bool> canCancel{this, "canCancel"};           // a connect attempt may be ended by disconnect()
     // The banner; absent = none. An operation that may set it takes back what stood there before,
     // except a restore that did not happen: then the reason for restoring is still true.
-    Published<std::optional<QString>> errorMessage{this, "errorMessage"};
+    Published<std::optional<Text>> errorMessage{this, "errorMessage"};
     Published<quint64> bytesRead{this, "bytesRead"};        // since Tor started
     Published<quint64> bytesWritten{this, "bytesWritten"};
     // Why nothing gets through Tor at the moment, although it counts as connected; absent while something does.
@@ -143,23 +144,23 @@ public:
     Published<DNSStatus> dnsStatus{this, "dnsStatus", DNSStatus::unknown()};
     Published<bool> isChecking{this, "isChecking"};
     Published<std::optional<qint64>> latencyMs{this, "latencyMs"}; // of a request through Tor, milliseconds
-    Published<std::optional<QString>> optimizeStatus{this, "optimizeStatus"};
+    Published<std::optional<Text>> optimizeStatus{this, "optimizeStatus"};
     Published<bool> isOptimizing{this, "isOptimizing"};
 
     // --- Circuits, transports, and the settings' own messages. ---
     Published<std::vector<CircuitInfo>> circuits{this, "circuits"};
-    Published<std::optional<QString>> circuitError{this, "circuitError"};
+    Published<std::optional<Text>> circuitError{this, "circuitError"};
     Published<PluggableTransports> transports{this, "transports"};
-    Published<std::optional<QString>> transportDownload{this, "transportDownload"};
+    Published<std::optional<Text>> transportDownload{this, "transportDownload"};
     Published<bool> passwordlessInstalled{this, "passwordlessInstalled"};
-    Published<std::optional<QString>> startupError{this, "startupError"};
-    Published<std::optional<QString>> terminalError{this, "terminalError"};
+    Published<std::optional<Text>> startupError{this, "startupError"};
+    Published<std::optional<Text>> terminalError{this, "terminalError"};
     // What is wrong with the settings' file, a sentence each, the oldest first; until its reader has dismissed it.
-    Published<QStringList> settingsProblems{this, "settingsProblems"};
+    Published<QList<Text>> settingsProblems{this, "settingsProblems"};
 
     // --- Derived from the fields. ---
     Verdict verdict() const; // how safe all this is; what every surface shows
-    QString title() const { return verdict().title; }
+    Text title() const { return verdict().title; }
     QString menuBarSymbol() const { return verdict().symbol; }
     bool optionsLocked() const;
     bool canDownloadTransports() const;
@@ -177,7 +178,7 @@ public:
     // the helper fails, a session that was up is so again as long as the marker says so too. The error is
     // a sentence; empty when the user dismissed the prompt, or when it was not accepted or not waited for. A session
     // by which another process has replaced this one's is not ended by the first call, which shows it instead.
-    QCoro::Task<Result<void, QString>> disconnect();
+    QCoro::Task<Result<void, Text>> disconnect();
     // At start-up, before anything shows state: finds a session left from an earlier run.
     void detectStaleState();
     // When another process may have made, replaced or ended the computer's session: shows what is so now. Does
@@ -199,16 +200,16 @@ public:
     void wake();
 
     // What the last operation that failed has said, without what is told of the kill switch and of Tor's own network.
-    std::optional<QString> failure() const;
+    std::optional<Text> failure() const;
     // What goes behind the banner: what kept Tor from connecting, where the banner says that it didn't.
-    std::optional<QString> problemBehindError() const
+    std::optional<Text> problemBehindError() const
     {
         return errorMessage() == m_bootstrapFailure ? bootstrapProblem() : std::nullopt;
     }
     // The user has read the banner.
     void dismissError() { errorMessage = std::nullopt; }
     // Shows what went wrong outside the controller as the banner.
-    void showProblem(const QString &problem) override { errorMessage = problem; }
+    void showProblem(const Text &problem) override { errorMessage = problem; }
     // Takes over what the settings' store has to tell.
     void readSettingsProblems();
     // The user has read the oldest of them.
@@ -235,7 +236,7 @@ public:
     // Does nothing unless `canLaunchBypassed()`, nor while the same application is being opened.
     // Running copies are asked to quit first. The error is a sentence; empty when the user dismissed
     // the prompt or the session ended meanwhile.
-    QCoro::Task<Result<void, QString>> launchBypassed(QString path);
+    QCoro::Task<Result<void, Text>> launchBypassed(QString path);
 
     // --- Operations: helper without a password, terminal. ---
     // Reinstalls the root-owned helper when the program brought a newer one.
@@ -243,11 +244,11 @@ public:
     // One of these two at a time; a call while one is under way does nothing.
     QCoro::Task<void> installPasswordless();
     QCoro::Task<void> removePasswordless();
-    std::optional<QString> setTerminalMode(bool on); // as Setting::set()
+    std::optional<Text> setTerminalMode(bool on); // as Setting::set()
     void removeTerminalIntegration();
     // What to install so that ssh goes through Tor in terminal mode; empty when it does. Programs are asked for it,
     // beside what else happens and once.
-    QCoro::Task<QString> terminalHint();
+    QCoro::Task<Text> terminalHint();
     // Whether the shells, and ssh, read terminal mode's files. Both read the user's files, so not for every redraw.
     bool isTerminalInstalled() const;
     bool isTerminalUsedBySsh() const;
@@ -264,7 +265,7 @@ private:
     // Has the administrator asked for each program that is not the system's own.
     QCoro::Task<Result<void, HelperError>> approvePrograms(Attempt attempt, QStringList words);
     void failAtHelper(const HelperError &error);
-    QCoro::Task<Result<QStringList, QString>> bridgeArguments(Attempt attempt, BridgeRequest request);
+    QCoro::Task<Result<QStringList, Text>> bridgeArguments(Attempt attempt, BridgeRequest request);
     // Makes every operation that is still under way an old one and clears what it left shown.
     Attempt startAttempt();
     bool isCurrent(Attempt attempt) const { return attempt == m_attempt; }
@@ -278,13 +279,13 @@ private:
     QCoro::Task<void> settleIn(Attempt attempt);
     // The mode that the session marker names; absent when it names none, or is not there.
     std::optional<RoutingMode> markedMode() const;
-    QString connectedDetail() const;
-    QString leftOverDetail() const;
-    void failAttempt(const QString &message);
+    Text connectedDetail() const;
+    Text leftOverDetail() const;
+    void failAttempt(const Text &message);
     // Bootstrap.cpp
-    QCoro::Task<Result<void, QString>> waitForBootstrap(Attempt attempt);
+    QCoro::Task<Result<void, Text>> waitForBootstrap(Attempt attempt);
     // `waited`: since Tor's first answer.
-    std::optional<QString> problemBehind(const BootstrapStatus &status, std::chrono::nanoseconds waited) const;
+    std::optional<Text> problemBehind(const BootstrapStatus &status, std::chrono::nanoseconds waited) const;
     // Monitoring.cpp
     void startMonitoring();
     void stopMonitoring();
@@ -293,7 +294,7 @@ private:
     void lookAtTraffic(std::optional<bool> hasCircuit);
     void torDied();
     void giveUpTo(const std::optional<SessionOwner> &other);
-    QString replacedText() const; // `otherSession` is there
+    Text replacedText() const; // `otherSession` is there
     void showSessionOf(const std::optional<SessionOwner> &other); // nobody's: one that was left over
     struct TimedProbe {
         ProbeResult answer;
@@ -310,8 +311,8 @@ private:
     void forgetKillSwitch();
     QCoro::Task<void> watchKillSwitch(quint64 run);
     std::optional<KillSwitch> judgedKillSwitch(); // asks the note and the marker
-    std::optional<QString> killSwitchMessage() const;
-    QString deathMessage() const;
+    std::optional<Text> killSwitchMessage() const;
+    Text deathMessage() const;
     // Asks for the exit alone, after Tor was told to take new circuits.
     QCoro::Task<void> checkExit();
     void forgetExit();
@@ -321,7 +322,7 @@ private:
     void endFixWaits();
     // BypassApps.cpp
     QString displayedName(const QString &path) const;
-    QCoro::Task<Result<void, QString>> launchOnce(QString path);
+    QCoro::Task<Result<void, Text>> launchOnce(QString path);
     // Circuits.cpp
     struct Resolution {
         std::vector<RelayInfo> relays;
@@ -360,9 +361,9 @@ private:
     std::vector<ResumeOnce<bool>> m_fixWaiters; // later calls of the same session
     quint64 m_killSwitchWatch = 0;            // the running watch
     std::optional<KillSwitch> m_knownKillSwitch; // as last told in this session
-    std::optional<QString> m_killSwitchMessage; // the banner that tells of it
+    std::optional<Text> m_killSwitchMessage; // the banner that tells of it
     Clock::TimePoint m_killSwitchSeen;        // when the watcher's note was last a fresh one
-    std::optional<QString> m_bootstrapFailure;  // the banner of a bootstrap that failed
+    std::optional<Text> m_bootstrapFailure;  // the banner of a bootstrap that failed
     bool m_torStopped = false;                // under this session
     // What the monitor knows of the session's network, also over a disconnect that was refused.
     struct NetworkKnowledge {

@@ -10,10 +10,10 @@ namespace veldmark {
 
 namespace {
 // The command that installs GnuPG, made like the one for tor: "brew install gnupg".
-QString gnupgHint(const QString &torHint)
+Text gnupgHint(const QString &torHint)
 {
     const qsizetype package = torHint.indexOf(QLatin1String(" tor"));
-    return package < 0 ? QStringLiteral("with ") + torHint : torHint.left(package) + QStringLiteral(" gnupg");
+    return package < 0 ? Text::tr("with your package manager") : Text(torHint.left(package) + QStringLiteral(" gnupg"));
 }
 } // namespace
 
@@ -29,7 +29,7 @@ void TorController::interruptDirectDownload()
 QCoro::Task<TransportDownloader::Outcome> TorController::fetchTransports()
 {
     const QPointer<TorController> self(this);
-    const TransportDownloader::Progress progress = [self](const QString &text) {
+    const TransportDownloader::Progress progress = [self](const Text &text) {
         if (self)
             self->transportDownload = text;
     };
@@ -43,7 +43,7 @@ QCoro::Task<TransportDownloader::Outcome> TorController::fetchTransports()
         m_downloadsDirectly = false;
         if (!std::exchange(m_downloadInterrupted, false) || outcome)
             co_return outcome;
-        transportDownload = QStringLiteral("The download begins again when Tor is connected…");
+        transportDownload = Text::tr("The download begins again when Tor is connected…");
         while (isChangingPhase()) {
             const ResumeOnce<bool> changed;
             m_downloadWait = changed;
@@ -51,7 +51,7 @@ QCoro::Task<TransportDownloader::Outcome> TorController::fetchTransports()
                                                 [changed] { changed.complete(true); });
             co_await changed;
             if (!self)
-                co_return Failure(DownloadError::other(QString())); // nobody reads this
+                co_return Failure(DownloadError::other(Text())); // nobody reads this
             QObject::disconnect(heard);
         }
         m_downloadWait.reset();
@@ -63,7 +63,7 @@ QCoro::Task<bool> TorController::downloadTransports()
     if (!canDownloadTransports() || !m_services.installTransports)
         co_return false;
     m_isDownloading = true;
-    transportDownload = QStringLiteral("Starting…");
+    transportDownload = Text::tr("Starting…");
 
     const QPointer<TorController> self(this);
     auto fetching = fetchTransports();
@@ -73,7 +73,7 @@ QCoro::Task<bool> TorController::downloadTransports()
     if (!outcome) {
         m_isDownloading = false;
         transportDownload =
-            QStringLiteral("Couldn't download bridge programs: ") + outcome.error().description();
+            Text::tr("Couldn't download bridge programs: %1").arg(outcome.error().description());
         co_return false;
     }
     auto locating = locateTransports();
@@ -83,8 +83,8 @@ QCoro::Task<bool> TorController::downloadTransports()
     m_isDownloading = false;
     transportDownload = outcome->isVerified
         ? std::nullopt
-        : std::optional(QStringLiteral("Bridge programs %1 installed over HTTPS. Install GnuPG (%2) and download "
-                                       "again to also verify the Tor Project's signature.")
+        : std::optional(Text::tr("Bridge programs %1 installed over HTTPS. Install GnuPG (%2) and download "
+                                 "again to also verify the Tor Project's signature.")
                             .arg(outcome->version, gnupgHint(m_services.profile.torInstallHint)));
     co_return true;
 }

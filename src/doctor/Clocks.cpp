@@ -1,6 +1,5 @@
 #include "doctor/Checks.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace veldmark::Doctor {
@@ -36,15 +35,13 @@ Findings clockFindings(const Machine &machine)
     }
     if (latest.isValid() && machine.now.secsTo(latest) > allowedSeconds)
         return {{clockName, Level::problem,
-                 QT_TRANSLATE_NOOP("Doctor", "The clock is behind: it shows %1, but the file %2 was written on %3. Tor needs a clock that is right "
-                                             "to within minutes."),
-                 {shown(machine.now), witness, shown(latest)}, setting}};
+                 Text::tr("The clock is behind: it shows %1, but the file %2 was written on %3. Tor needs a clock that is right "
+                          "to within minutes.").arg(shown(machine.now), witness, shown(latest)), setting}};
     if (machine.clockIsSet == true || machine.exists("/run/systemd/timesync/synchronized"))
-        return {{clockName, Level::good, QT_TRANSLATE_NOOP("Doctor", "The clock is set from the network. It shows %1."), {shown(machine.now)}, {}}};
+        return {{clockName, Level::good, Text::tr("The clock is set from the network. It shows %1.").arg(shown(machine.now)), {}}};
     return {{clockName, Level::unknown,
-             QT_TRANSLATE_NOOP("Doctor", "Whether the clock is right isn't known: nothing is seen to set it from the network. It shows %1. Tor needs it "
-                                         "right to within minutes."),
-             {shown(machine.now)}, setting}};
+             Text::tr("Whether the clock is right isn't known: nothing is seen to set it from the network. It shows %1. Tor needs it "
+                      "right to within minutes.").arg(shown(machine.now)), setting}};
 }
 
 } // namespace veldmark::Doctor

@@ -87,11 +87,11 @@ QCoro::Task<Findings> Examiner::examine()
     if (const QString nft = machine.program(QStringLiteral("nft")); machine.user == 0 && machine.isLinux() && !nft.isEmpty()) {
         auto asking = run(processes, nft, {QStringLiteral("list"), QStringLiteral("tables")});
         const auto answer = co_await asking;
-        machine.firewallComplaint = !answer ? QStringLiteral("nft doesn't answer.")
+        machine.firewallComplaint = !answer ? Text::tr("nft doesn't answer.")
             : answer->status == 0           ? QString()
                                             : answer->stderr.section(u'\n', 0, 0).left(200);
         if (answer && answer->status != 0 && machine.firewallComplaint->isEmpty())
-            machine.firewallComplaint = QStringLiteral("nft fails.");
+            machine.firewallComplaint = Text::tr("nft fails.");
     }
     co_return Doctor::all(machine);
 }

@@ -4,21 +4,6 @@
 
 namespace veldmark {
 
-QString Finding::filled(const QString &form, const QStringList &words)
-{
-    QString text;
-    for (qsizetype i = 0; i < form.size(); ++i) {
-        const int number = form[i] == u'%' && i + 1 < form.size() ? form[i + 1].digitValue() : -1;
-        if (number < 1 || number > words.size()) {
-            text += form[i];
-            continue;
-        }
-        text += words[number - 1];
-        ++i;
-    }
-    return text;
-}
-
 QString levelName(Finding::Level level)
 {
     switch (level) {

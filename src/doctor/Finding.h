@@ -1,7 +1,8 @@
 #pragma once
 
+#include "base/Text.h"
+
 #include <QString>
-#include <QStringList>
 
 #include <vector>
 
@@ -23,15 +24,9 @@ struct Finding {
 
     QString name;     // what was looked at: "tor", "ports" …; never translated
     Level level = Level::good;
-    const char *form = ""; // a sentence with %1…%9 for `words`; the translators' files have it in the context "Doctor"
-    QStringList words;
+    Text text;        // a sentence
     QString command;  // what a user types to mend it; empty: nothing, or nothing that is known
     Button button = Button::none;
-
-    // The sentence in English.
-    QString text() const { return filled(QString::fromUtf8(form), words); }
-    // `form` with each %1…%9 replaced by its word; a word is taken as it stands, also with a % in it.
-    static QString filled(const QString &form, const QStringList &words);
 
     friend bool operator==(const Finding &, const Finding &) = default;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Text.h"
 #include "bridges/BridgePlan.h"
 #include "platform/PlatformProfile.h"
 
@@ -35,7 +36,7 @@ struct Machine {
     // What the program said of its version, or nothing when it did not end well.
     std::optional<QString> torVersion;
     // As root alone: what `nft list tables` complained of, empty when it worked. Absent: not asked.
-    std::optional<QString> firewallComplaint;
+    std::optional<Text> firewallComplaint;
     std::function<std::optional<FileOwner>(const QString &path)> owner;
 
     bool isLinux() const { return profile.promptKind == PromptKind::PolicyKit; }

@@ -1,6 +1,5 @@
 #include "doctor/Checks.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -44,27 +43,25 @@ QString administrators(const Machine &machine)
 Finding polkit(const Machine &machine, Level otherwise)
 {
     if (!QFileInfo(machine.profile.promptProgram).isExecutable())
-        return {polkitName, otherwise, QT_TRANSLATE_NOOP("Doctor", "pkexec isn't installed, so no window can ask for the administrator's password."), {},
+        return {polkitName, otherwise, Text::tr("pkexec isn't installed, so no window can ask for the administrator's password."),
                 machine.installing(machine.profile.torInstallHint.startsWith(QLatin1String("sudo apt")) ? QStringLiteral("pkexec")
                                                                                                         : polkitName)};
     const auto processes = runningProcesses(machine);
     if (!runs(processes, QStringLiteral("polkitd")) && !machine.exists("/usr/share/dbus-1/system-services/org.freedesktop.PolicyKit1.service"))
-        return {polkitName, otherwise, QT_TRANSLATE_NOOP("Doctor", "polkit isn't installed, so no window can ask for the administrator's password."), {},
+        return {polkitName, otherwise, Text::tr("polkit isn't installed, so no window can ask for the administrator's password."),
                 machine.installing(machine.profile.torInstallHint.startsWith(QLatin1String("sudo apt")) ? QStringLiteral("polkitd")
                                                                                                         : polkitName)};
     if (!machine.hasDesktop)
         return {polkitName, otherwise,
-                QT_TRANSLATE_NOOP("Doctor", "There is no desktop here on which a window could ask for the administrator's password. Use sudo."),
-                {}, throughSudo};
+                Text::tr("There is no desktop here on which a window could ask for the administrator's password. Use sudo."), throughSudo};
     const bool hasAgent = std::any_of(processes.cbegin(), processes.cend(), [&machine](const RunningProcess &process) {
         return process.user == machine.user && isAgent(process.name);
     });
     if (!hasAgent)
         return {polkitName, otherwise == Level::problem ? Level::unknown : otherwise,
-                QT_TRANSLATE_NOOP("Doctor", "No program that is known to ask for polkit's passwords (an agent) runs in your session. Without one, use "
-                                            "sudo, or start an agent such as lxpolkit."),
-                {}, otherwise == Level::problem ? machine.installing(QStringLiteral("lxpolkit")) : throughSudo};
-    return {polkitName, Level::good, QT_TRANSLATE_NOOP("Doctor", "polkit is there, and a program that asks for its passwords runs in your session."), {}, {}};
+                Text::tr("No program that is known to ask for polkit's passwords (an agent) runs in your session. Without one, use "
+                         "sudo, or start an agent such as lxpolkit."), otherwise == Level::problem ? machine.installing(QStringLiteral("lxpolkit")) : throughSudo};
+    return {polkitName, Level::good, Text::tr("polkit is there, and a program that asks for its passwords runs in your session."), {}};
 }
 
 } // namespace
@@ -74,7 +71,7 @@ Findings passwordFindings(const Machine &machine)
     if (!machine.isLinux())
         return {};
     if (machine.user == 0)
-        return {{polkitName, Level::good, QT_TRANSLATE_NOOP("Doctor", "Veldmark runs as root here and asks for no password."), {}, {}}};
+        return {{polkitName, Level::good, Text::tr("Veldmark runs as root here and asks for no password."), {}}};
     const bool hasSudo = QFileInfo(machine.profile.sudo).isExecutable();
     const QString group = administrators(machine);
     const QString installing = machine.installing(sudoName);
@@ -82,17 +79,17 @@ Findings passwordFindings(const Machine &machine)
     const bool hasOtherWay = hasSudo || machine.isPasswordless();
     Findings findings;
     if (hasSudo && machine.isPasswordless())
-        findings.push_back({polkitName, Level::good, QT_TRANSLATE_NOOP("Doctor", "Connecting without a password is set up."), {}, {}});
+        findings.push_back({polkitName, Level::good, Text::tr("Connecting without a password is set up."), {}});
     else
         findings.push_back(polkit(machine, hasOtherWay ? Level::note : Level::problem));
     if (!hasSudo)
-        findings.push_back({sudoName, Level::note, QT_TRANSLATE_NOOP("Doctor", "sudo isn't installed. Connecting without a password needs it."), {},
+        findings.push_back({sudoName, Level::note, Text::tr("sudo isn't installed. Connecting without a password needs it."),
                             installing.isEmpty() ? QString() : QStringLiteral("su -c '%1'").arg(installing.mid(5))});
     else if (group.isEmpty())
-        findings.push_back({sudoName, Level::unknown, QT_TRANSLATE_NOOP("Doctor", "sudo is installed. Whether you may use it is known to root only."), {},
+        findings.push_back({sudoName, Level::unknown, Text::tr("sudo is installed. Whether you may use it is known to root only."),
                             QStringLiteral("sudo -v")});
     else
-        findings.push_back({sudoName, Level::good, QT_TRANSLATE_NOOP("Doctor", "sudo is installed, and you are in the group %1."), {group}, {}});
+        findings.push_back({sudoName, Level::good, Text::tr("sudo is installed, and you are in the group %1.").arg(group), {}});
     return findings;
 }
 

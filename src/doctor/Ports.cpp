@@ -1,6 +1,5 @@
 #include "doctor/Checks.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
@@ -107,29 +106,26 @@ Findings portFindings(const Machine &machine)
         const auto process = holderProcess(machine, processes, holder);
         if (!process) {
             findings.push_back({portsName, Level::problem,
-                                QT_TRANSLATE_NOOP("Doctor", "The port %1, which Tor needs, is held by a program of the account %2."),
-                                {port, machine.accountName(holder.user)},
+                                Text::tr("The port %1, which Tor needs, is held by a program of the account %2.").arg(port, machine.accountName(holder.user)),
                                 QStringLiteral("sudo ss -lpn sport = :%1").arg(port)});
         } else if (isSystemsService(*process)) {
             if (!paused.contains(process->unit))
                 findings.push_back({portsName, Level::note,
-                                    QT_TRANSLATE_NOOP("Doctor", "The system's own Tor service (%1) runs. Veldmark stops it while it is "
-                                                                "connected and starts it again afterwards."),
-                                    {process->unit}, {}});
+                                    Text::tr("The system's own Tor service (%1) runs. Veldmark stops it while it is "
+                                             "connected and starts it again afterwards.").arg(process->unit), {}});
             paused << process->unit;
         } else {
             const QString unit = process->unit;
             findings.push_back({portsName, Level::problem,
-                                QT_TRANSLATE_NOOP("Doctor", "The port %1, which Tor needs, is held by %2 (process %3, account %4)."),
-                                {port, process->name, QString::number(process->pid), machine.accountName(process->user)},
+                                Text::tr("The port %1, which Tor needs, is held by %2 (process %3, account %4).").arg(port, process->name, QString::number(process->pid), machine.accountName(process->user)),
                                 unit.isEmpty() || unit.startsWith(QLatin1String("user@")) ? QStringLiteral("sudo kill %1").arg(process->pid)
                                                                                           : QStringLiteral("sudo systemctl stop %1").arg(unit)});
         }
     }
     if (findings.empty() && isOurs)
-        findings.push_back({portsName, Level::good, QT_TRANSLATE_NOOP("Doctor", "Veldmark's own Tor holds the ports 9050, 9051 and 293."), {}, {}});
+        findings.push_back({portsName, Level::good, Text::tr("Veldmark's own Tor holds the ports 9050, 9051 and 293."), {}});
     else if (findings.empty())
-        findings.push_back({portsName, Level::good, QT_TRANSLATE_NOOP("Doctor", "The ports that Tor needs (9050, 9051 and 293) are free."), {}, {}});
+        findings.push_back({portsName, Level::good, Text::tr("The ports that Tor needs (9050, 9051 and 293) are free."), {}});
     return findings;
 }
 

@@ -1,6 +1,5 @@
 #include "doctor/Checks.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -62,21 +61,20 @@ Findings torFindings(const Machine &machine)
     const QString usual = QStringLiteral("veldmarkctl set customTorPath \"\"");
     if (!custom.isEmpty() && custom != tor)
         findings.push_back({torName, Level::note,
-                            QT_TRANSLATE_NOOP("Doctor", "The location of Tor in the settings, %1, is no program that can run. The usual "
-                                                        "places are searched instead."),
-                            {custom}, usual});
+                            Text::tr("The location of Tor in the settings, %1, is no program that can run. The usual "
+                                     "places are searched instead.").arg(custom), usual});
     if (tor.isEmpty()) {
-        findings.push_back({torName, Level::problem, QT_TRANSLATE_NOOP("Doctor", "Tor isn't installed."), {},
+        findings.push_back({torName, Level::problem, Text::tr("Tor isn't installed."),
                             machine.installing({}).isEmpty() ? QString() : machine.profile.torInstallHint});
         return findings;
     }
     const QString version = versionIn(machine.torVersion.value_or(QString()));
     if (version.isEmpty())
         findings.push_back({torName, Level::problem,
-                            QT_TRANSLATE_NOOP("Doctor", "%1 doesn't start, or isn't Tor: it doesn't tell its version."), {tor},
+                            Text::tr("%1 doesn't start, or isn't Tor: it doesn't tell its version.").arg(tor),
                             tor == custom ? usual : machine.installing(QStringLiteral("--reinstall tor"))});
     else // whether it takes the configuration, it is asked itself at each connect
-        findings.push_back({torName, Level::good, QT_TRANSLATE_NOOP("Doctor", "Tor %1 is installed: %2."), {version, tor}, {}});
+        findings.push_back({torName, Level::good, Text::tr("Tor %1 is installed: %2.").arg(version, tor), {}});
     return findings;
 }
 
@@ -91,11 +89,10 @@ Findings programFindings(const Machine &machine)
         if (!machine.program(name).isEmpty()
             || (name == QLatin1String("useradd") && machine.account(machine.profile.torAccount)))
             continue;
-        findings.push_back({programsName, Level::problem, QT_TRANSLATE_NOOP("Doctor", "The program %1 is missing. Veldmark's helper needs it."),
-                            {name}, machine.installing(QLatin1String(package))});
+        findings.push_back({programsName, Level::problem, Text::tr("The program %1 is missing. Veldmark's helper needs it.").arg(name), machine.installing(QLatin1String(package))});
     }
     if (findings.empty())
-        findings.push_back({programsName, Level::good, QT_TRANSLATE_NOOP("Doctor", "Every program that Veldmark's helper calls is installed."), {}, {}});
+        findings.push_back({programsName, Level::good, Text::tr("Every program that Veldmark's helper calls is installed."), {}});
     return findings;
 }
 
@@ -105,28 +102,25 @@ Findings helperFindings(const Machine &machine)
     const QString helper = machine.profile.bundledHelper();
     if (helper.isEmpty()) {
         findings.push_back({helperName, Level::problem,
-                            QT_TRANSLATE_NOOP("Doctor", "Veldmark's helper script is missing. Install Veldmark again."), {},
+                            Text::tr("Veldmark's helper script is missing. Install Veldmark again."),
                             machine.installing(QStringLiteral("--reinstall veldmark"))});
         return findings;
     }
     const auto writer = otherWriter(machine, helper);
     if (writer == uid_t(0))
         findings.push_back({helperName, Level::note,
-                            QT_TRANSLATE_NOOP("Doctor", "Veldmark's helper, %1, lies where others than root can write. They can change it, and "
-                                                        "with it what the administrator's password runs."),
-                            {helper}, QStringLiteral("./build.sh package")});
+                            Text::tr("Veldmark's helper, %1, lies where others than root can write. They can change it, and "
+                                     "with it what the administrator's password runs.").arg(helper), QStringLiteral("./build.sh package")});
     else if (writer)
         findings.push_back({helperName, Level::note,
-                            QT_TRANSLATE_NOOP("Doctor", "Veldmark's helper, %1, is not an installed one: the account %2 can change it, and "
-                                                        "with it what the administrator's password runs."),
-                            {helper, machine.accountName(*writer)}, QStringLiteral("./build.sh package")});
+                            Text::tr("Veldmark's helper, %1, is not an installed one: the account %2 can change it, and "
+                                     "with it what the administrator's password runs.").arg(helper, machine.accountName(*writer)), QStringLiteral("./build.sh package")});
     else
-        findings.push_back({helperName, Level::good, QT_TRANSLATE_NOOP("Doctor", "Veldmark's helper is installed, and only root can change it: %1."),
-                            {helper}, {}});
+        findings.push_back({helperName, Level::good, Text::tr("Veldmark's helper is installed, and only root can change it: %1.").arg(helper), {}});
     if (machine.isPasswordless() && Machine::readFile(machine.profile.installedHelper) != Machine::readFile(helper))
         findings.push_back({helperName, Level::note,
-                            QT_TRANSLATE_NOOP("Doctor", "The helper that runs without a password is not this version's. Set up connecting "
-                                                        "without a password again in Settings, General."), {},
+                            Text::tr("The helper that runs without a password is not this version's. Set up connecting "
+                                     "without a password again in Settings, General."),
                             QStringLiteral("sudo bash %1 install-privileged --user %2").arg(helper, machine.accountName(machine.user))});
     return findings;
 }
@@ -141,21 +135,18 @@ Findings bridgeFindings(const Machine &machine)
     if (machine.bridges.choice == BridgeChoice::off) {
         if (found.isEmpty())
             return {{bridgesName, Level::good,
-                     QT_TRANSLATE_NOOP("Doctor", "Bridges are off. Where Tor is blocked they need bridge programs, and none was found."), {},
+                     Text::tr("Bridges are off. Where Tor is blocked they need bridge programs, and none was found."),
                      download, Button::download}};
-        return {{bridgesName, Level::good, QT_TRANSLATE_NOOP("Doctor", "Bridges are off. Bridge programs were found: %1."),
-                 {found.join(QStringLiteral(", "))}, {}}};
+        return {{bridgesName, Level::good, Text::tr("Bridges are off. Bridge programs were found: %1.").arg(found.join(QStringLiteral(", "))), {}}};
     }
     const auto lines = selectedBridgeLines(machine.bridges, machine.transports);
     const auto arguments = lines ? bridgeArguments(*lines, machine.transports) : lines;
     if (!arguments) {
         const bool isTyped = machine.bridges.choice == BridgeChoice::custom && !lines;
-        return {{bridgesName, Level::problem, QT_TRANSLATE_NOOP("Doctor", "The chosen bridges can't be used. %1"),
-                 {arguments.error().description()},
+        return {{bridgesName, Level::problem, Text::tr("The chosen bridges can't be used. %1").arg(arguments.error().description()),
                  isTyped ? QStringLiteral("veldmarkctl set bridgeChoice off") : download, isTyped ? Button::none : Button::download}};
     }
-    return {{bridgesName, Level::good, QT_TRANSLATE_NOOP("Doctor", "The chosen bridges (%1) can be used: %2."),
-             {displayName(machine.bridges.choice), QString::number(lines->size())}, {}}};
+    return {{bridgesName, Level::good, Text::tr("The chosen bridges (%1) can be used: %2.").arg(displayName(machine.bridges.choice), QString::number(lines->size())), {}}};
 }
 
 } // namespace veldmark::Doctor

@@ -10,19 +10,19 @@ namespace veldmark::Handlers {
 
 namespace {
 
-auto refusal(const QString &description)
+auto refusal(const Text &description)
 {
     return Failure(InstanceError(description));
 }
 
-QString failure(const std::optional<QString> &told)
+Text failure(const std::optional<Text> &told)
 {
-    return told.value_or(QStringLiteral("Cancelled."));
+    return told.value_or(Text::tr("Cancelled."));
 }
 
-QString orCancelled(const QString &told)
+Text orCancelled(const Text &told)
 {
-    return told.isEmpty() ? QStringLiteral("Cancelled.") : told;
+    return told.isEmpty() ? Text::tr("Cancelled.") : told;
 }
 
 bool hasCircuit(const TorController &controller, const QString &id)
@@ -32,19 +32,24 @@ bool hasCircuit(const TorController &controller, const QString &id)
                        [&id](const CircuitInfo &circuit) { return circuit.id == id; });
 }
 
-QString connectFailure(const TorController &controller)
+Text connectFailure(const TorController &controller)
 {
-    const QString told = controller.otherSession() ? controller.errorMessage().value_or(controller.statusDetail())
+    const Text told = controller.otherSession() ? controller.errorMessage().value_or(controller.statusDetail())
                                                    : failure(controller.errorMessage());
     const auto problem = controller.problemBehindError();
-    return problem ? told + u' ' + *problem : told;
+    return problem ? Text::joined({told, *problem}) : told;
 }
 
 } // namespace
 
+QJsonObject stateMessage(const TorController &controller)
+{
+    return {{QStringLiteral("state"), publishedState(controller)}, {QStringLiteral("texts"), publishedTexts(controller)}};
+}
+
 QCoro::Task<Outcome> status(Call call)
 {
-    call.lines->write({{QStringLiteral("state"), publishedState(*call.controller)}});
+    call.lines->write(stateMessage(*call.controller));
     co_return {};
 }
 
@@ -64,7 +69,7 @@ QCoro::Task<Outcome> set(Call call)
     const QJsonValue key = call.request.value(QStringLiteral("key"));
     const QJsonValue value = call.request.value(QStringLiteral("value"));
     if (!key.isString() || !value.isString())
-        co_return refusal(QStringLiteral("\"set\" needs a \"key\" and a \"value\", both strings."));
+        co_return refusal(Text::tr("\"set\" needs a \"key\" and a \"value\", both strings."));
     const auto done = setSetting(*call.controller, key.toString(), value.toString());
     if (!done)
         co_return Failure(InstanceError(done.error().description(), done.error().kind() == SettingError::Kind::Refused));
@@ -75,7 +80,7 @@ QCoro::Task<Outcome> connect(Call call)
 {
     const auto controller = call.controller;
     if (controller->optionsLocked())
-        co_return refusal(QStringLiteral("Already connected, or on the way; \"veldmarkctl status\" says more."));
+        co_return refusal(Text::tr("Already connected, or on the way; \"veldmarkctl status\" says more."));
     co_await controller->connect();
     if (controller && controller->phase() != ConnectionPhase::connected)
         co_return refusal(connectFailure(*controller));
@@ -88,7 +93,7 @@ QCoro::Task<Outcome> disconnect(Call call)
     const bool underWay = controller->phase() == ConnectionPhase::disconnecting
         || (controller->phase() == ConnectionPhase::connecting && !controller->canCancel());
     if (underWay)
-        co_return refusal(QStringLiteral("Not now: %1").arg(controller->statusDetail()));
+        co_return refusal(Text::tr("Not now: %1").arg(controller->statusDetail()));
     if (controller->phase() == ConnectionPhase::disconnected && !controller->isSessionMarkerPresent())
         co_return {}; // there is nothing to do
     const auto ended = co_await controller->disconnect();
@@ -100,7 +105,7 @@ QCoro::Task<Outcome> disconnect(Call call)
 QCoro::Task<Outcome> check(Call call)
 {
     if (call.controller->isChecking())
-        co_return refusal(QStringLiteral("A check is already running."));
+        co_return refusal(Text::tr("A check is already running."));
     co_await call.controller->runChecks();
     co_return {};
 }
@@ -112,7 +117,7 @@ QCoro::Task<Outcome> fixDNS(Call call)
     if (controller && controller->failure())
         co_return refusal(*controller->failure());
     if (controller && controller->dnsStatus().isLeak())
-        co_return refusal(QStringLiteral("Cancelled."));
+        co_return refusal(Text::tr("Cancelled."));
     co_return {};
 }
 
@@ -135,10 +140,10 @@ QCoro::Task<Outcome> closeCircuit(Call call)
     if (controller->circuitError())
         co_return refusal(*controller->circuitError());
     if (!hasCircuit(*controller, id))
-        co_return refusal(QStringLiteral("There is no circuit \"%1\".").arg(id.left(40).simplified()));
+        co_return refusal(Text::tr("There is no circuit \"%1\".").arg(id.left(40).simplified()));
     co_await controller->newCircuit(id);
     if (controller && hasCircuit(*controller, id))
-        co_return refusal(QStringLiteral("Tor didn't close circuit %1.").arg(id));
+        co_return refusal(Text::tr("Tor didn't close circuit %1.").arg(id));
     co_return {};
 }
 
@@ -156,7 +161,7 @@ QCoro::Task<Outcome> launch(Call call)
     const auto controller = call.controller;
     const QString path = call.request.value(QStringLiteral("app")).toString();
     if (!path.startsWith(u'/'))
-        co_return refusal(QStringLiteral("\"launch\" needs an \"app\", an absolute path."));
+        co_return refusal(Text::tr("\"launch\" needs an \"app\", an absolute path."));
     auto launching = controller->launchBypassed(path);
     const auto launched = co_await launching;
     if (controller && !launched && controller->phase() == ConnectionPhase::connected)
@@ -168,7 +173,7 @@ QCoro::Task<Outcome> downloadTransports(Call call)
 {
     const auto controller = call.controller;
     if (!controller->canDownloadTransports())
-        co_return refusal(QStringLiteral("Not now: %1").arg(
+        co_return refusal(Text::tr("Not now: %1").arg(
             controller->transportDownload().value_or(controller->statusDetail())));
     auto downloading = controller->downloadTransports();
     const bool isInstalled = co_await downloading;

@@ -21,21 +21,23 @@ std::shared_ptr<InstanceClient> InstanceClient::connectTo(const PlatformProfile 
 }
 
 QCoro::Task<Result<void, InstanceError>>
-InstanceClient::run(QJsonObject request, std::function<void(const QJsonObject &)> onState)
+InstanceClient::run(QJsonObject request, OnState onState)
 {
     const auto lines = m_lines;
     lines->write(request);
     for (;;) {
         const auto answer = co_await lines->next();
         if (!answer)
-            co_return Failure(InstanceError(QStringLiteral("Veldmark stopped before it had answered.")));
+            co_return Failure(InstanceError(Text::tr("Veldmark stopped before it had answered.")));
         if (const QJsonValue state = answer->value(QStringLiteral("state")); state.isObject()) {
-            onState(state.toObject());
+            onState(state.toObject(), answer->value(QStringLiteral("texts")).toObject());
             continue;
         }
         if (answer->value(QStringLiteral("ok")).toBool())
             co_return {};
-        co_return Failure(InstanceError(answer->value(QStringLiteral("error")).toString(),
+        // An instance of an earlier version says it in English alone.
+        const QJsonValue text = answer->value(QStringLiteral("errorText"));
+        co_return Failure(InstanceError(Text::fromJson(text.isUndefined() ? answer->value(QStringLiteral("error")) : text),
                                         answer->value(QStringLiteral("usage")).toBool()));
     }
 }

@@ -42,14 +42,14 @@ std::optional<qint64> holderElsewhere(const PlatformProfile &profile)
     return std::nullopt;
 }
 
-QString alreadyRunning(qint64 pid)
+Text alreadyRunning(qint64 pid)
 {
-    return QStringLiteral("Veldmark is already running (process %1).").arg(pid);
+    return Text::tr("Veldmark is already running (process %1).").arg(pid);
 }
 
 } // namespace
 
-Result<std::shared_ptr<QLockFile>, QString> lockInstance(const PlatformProfile &profile)
+Result<std::shared_ptr<QLockFile>, Text> lockInstance(const PlatformProfile &profile)
 {
     const QString folder = QFileInfo(profile.controlSocket).path();
     if (!QFileInfo::exists(folder)) {
@@ -57,8 +57,8 @@ Result<std::shared_ptr<QLockFile>, QString> lockInstance(const PlatformProfile &
         ::mkdir(QFile::encodeName(folder).constData(), 0700);
     }
     if (!isPrivateFolder(folder))
-        return Failure(QStringLiteral("%1 must be a folder of your own with mode 0700: the control "
-                                      "socket goes there.").arg(folder));
+        return Failure(Text::tr("%1 must be a folder of your own with mode 0700: the control "
+                                "socket goes there.").arg(folder));
     if (const auto pid = holderElsewhere(profile))
         return Failure(alreadyRunning(*pid));
     auto lock = std::make_shared<QLockFile>(folder + QStringLiteral("/lock"));
@@ -78,7 +78,7 @@ Result<std::shared_ptr<QLockFile>, QString> lockInstance(const PlatformProfile &
             return lock;
     }
     if (lock->error() != QLockFile::LockFailedError)
-        return Failure(QStringLiteral("Couldn't write %1/lock.").arg(folder));
+        return Failure(Text::tr("Couldn't write %1/lock.").arg(folder));
     lock->getLockInfo(&pid, &host, &program);
     return Failure(alreadyRunning(pid));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "base/Text.h"
 
 #include <QLockFile>
 
@@ -14,6 +15,6 @@ struct PlatformProfile;
 // profile's control socket (0700) when it is missing. The error is one line: another instance
 // runs, or the folder is not the user's own. The lock is free again when the process ends,
 // however it ends.
-Result<std::shared_ptr<QLockFile>, QString> lockInstance(const PlatformProfile &profile);
+Result<std::shared_ptr<QLockFile>, Text> lockInstance(const PlatformProfile &profile);
 
 } // namespace veldmark

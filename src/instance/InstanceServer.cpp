@@ -1,7 +1,7 @@
 #include "instance/InstanceServer.h"
 
-#include "controller/PublishedState.h"
 #include "controller/TorController.h"
+#include "instance/Handlers.h"
 #include "instance/InstancePlace.h"
 #include "instance/JsonLines.h"
 #include "instance/Verbs.h"
@@ -21,10 +21,10 @@ namespace {
 
 const QString okKey = QStringLiteral("ok");
 const QString errorKey = QStringLiteral("error");
+const QString errorTextKey = QStringLiteral("errorText");
 const QString usageKey = QStringLiteral("usage");
-const QString stateKey = QStringLiteral("state");
 
-auto refusal(const QString &description)
+auto refusal(const Text &description)
 {
     return Failure(InstanceError(description));
 }
@@ -75,7 +75,7 @@ public:
     {
         m_behind = false;
         if (m_controller)
-            m_lines->write({{stateKey, publishedState(*m_controller)}});
+            m_lines->write(Handlers::stateMessage(*m_controller));
     }
 
 private Q_SLOTS:
@@ -106,7 +106,7 @@ private:
     bool m_behind = false; // a change waits until the other end has read
 };
 
-Result<std::unique_ptr<InstanceServer>, QString> InstanceServer::start(TorController &controller)
+Result<std::unique_ptr<InstanceServer>, Text> InstanceServer::start(TorController &controller)
 {
     const QString path = controller.profile().controlSocket;
     const auto lock = lockInstance(controller.profile());
@@ -118,7 +118,7 @@ Result<std::unique_ptr<InstanceServer>, QString> InstanceServer::start(TorContro
     QLocalServer::removeServer(path);
     server->m_server.setSocketOptions(QLocalServer::UserAccessOption);
     if (!server->m_server.listen(path))
-        return Failure(QStringLiteral("Couldn't listen on %1: %2.").arg(path, server->m_server.errorString()));
+        return Failure(Text::tr("Couldn't listen on %1: %2.").arg(path, server->m_server.errorString()));
     return server;
 }
 
@@ -155,14 +155,16 @@ QCoro::Task<void> InstanceServer::serve(std::shared_ptr<JsonLines> lines)
     const auto request = co_await lines->next();
     if (!self)
         co_return;
-    Result<void, InstanceError> done = refusal(QStringLiteral("A command is a JSON object on one line."));
+    Result<void, InstanceError> done = refusal(Text::tr("A command is a JSON object on one line."));
     if (request) {
         auto executing = execute(*request, lines);
         done = co_await executing;
     }
     QJsonObject answer{{okKey, done.has_value()}};
-    if (!done)
-        answer.insert(errorKey, done.error().description());
+    if (!done) {
+        answer.insert(errorKey, done.error().description().english());
+        answer.insert(errorTextKey, done.error().description().toJson());
+    }
     if (!done && done.error().isUsage())
         answer.insert(usageKey, true);
     lines->write(answer);
@@ -183,12 +185,12 @@ QCoro::Task<Result<void, InstanceError>> InstanceServer::execute(QJsonObject req
     }
     const Verb *const verb = verbRequested(command);
     if (!verb)
-        co_return refusal(QStringLiteral("Unknown command \"%1\".").arg(command.left(40).simplified()));
+        co_return refusal(Text::tr("Unknown command \"%1\".").arg(command.left(40).simplified()));
     std::optional<StateStream> stream;
     if (verb->streams)
         stream.emplace(m_controller, lines);
     if (verb->needsSession && controller->phase() != ConnectionPhase::connected)
-        co_return refusal(QStringLiteral("Not connected."));
+        co_return refusal(Text::tr("Not connected."));
     const Call call{controller, request, lines};
     auto handling = verb->handler(call);
     const Outcome done = co_await handling;
@@ -196,7 +198,7 @@ QCoro::Task<Result<void, InstanceError>> InstanceServer::execute(QJsonObject req
         co_return done;
     // What was asked of a session that ended meanwhile has no answer; the fields hold an earlier one.
     if (controller && verb->needsSession && controller->phase() != ConnectionPhase::connected)
-        co_return refusal(QStringLiteral("The session has ended: %1").arg(controller->statusDetail()));
+        co_return refusal(Text::tr("The session has ended: %1").arg(controller->statusDetail()));
     if (controller && stream)
         stream->sendNow(); // the last word, with everything that the command changed
     co_return {};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "base/Text.h"
 #include "instance/InstanceError.h"
 
 #include <QJsonObject>
@@ -36,7 +37,7 @@ class InstanceServer : public QObject {
 public:
     // Becomes the user's one instance: takes the lock beside the socket, then listens. The error
     // is one line: another instance runs, or the folder cannot be used.
-    static Result<std::unique_ptr<InstanceServer>, QString> start(TorController &controller);
+    static Result<std::unique_ptr<InstanceServer>, Text> start(TorController &controller);
     ~InstanceServer() override;
 
 Q_SIGNALS:

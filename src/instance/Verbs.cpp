@@ -13,78 +13,78 @@ namespace {
 std::vector<Verb> makeTable()
 {
     using Id = Verb::Id;
-    const Verb::Option json{QStringLiteral("--json"), QStringLiteral("as JSON")};
+    const Verb::Option json{QStringLiteral("--json"), Text::tr("as JSON")};
     const QString disconnect = QStringLiteral("disconnect");
     const QString status = QStringLiteral("status");
     return {
-        {.id = Id::run, .name = QStringLiteral("run"), .options = {{QStringLiteral("--connect"), QStringLiteral("connect at once")}},
-         .help = QStringLiteral("run Veldmark here, in the foreground; Ctrl-C disconnects")},
-        {.id = Id::status, .name = status, .options = {json, {QStringLiteral("--watch"), QStringLiteral("go on until Ctrl-C")}},
-         .help = QStringLiteral("how things stand; --watch goes on until Ctrl-C"),
+        {.id = Id::run, .name = QStringLiteral("run"), .options = {{QStringLiteral("--connect"), Text::tr("connect at once")}},
+         .help = Text::tr("run Veldmark here, in the foreground; Ctrl-C disconnects")},
+        {.id = Id::status, .name = status, .options = {json, {QStringLiteral("--watch"), Text::tr("go on until Ctrl-C")}},
+         .help = Text::tr("how things stand; --watch goes on until Ctrl-C"),
          .handler = Handlers::status},
         {.id = Id::connect, .name = QStringLiteral("connect"),
-         .help = QStringLiteral("connect the running instance to Tor"),
+         .help = Text::tr("connect the running instance to Tor"),
          .streams = true, .handler = Handlers::connect},
         {.id = Id::disconnect, .name = disconnect,
-         .help = QStringLiteral("restore the network and stop Tor"),
+         .help = Text::tr("restore the network and stop Tor"),
          .streams = true, .handler = Handlers::disconnect},
         {.id = Id::restore, .name = QStringLiteral("restore"),
-         .help = QStringLiteral("the same, also for what a crash left behind"),
+         .help = Text::tr("the same, also for what a crash left behind"),
          .command = disconnect},
         {.id = Id::check, .name = QStringLiteral("check"),
-         .help = QStringLiteral("check the exit address, the direct path and DNS now"),
+         .help = Text::tr("check the exit address, the direct path and DNS now"),
          .needsSession = true, .streams = true, .handler = Handlers::check},
         {.id = Id::fixDNS, .name = QStringLiteral("fix-dns"),
-         .help = QStringLiteral("point the system's DNS settings at Tor again"),
+         .help = Text::tr("point the system's DNS settings at Tor again"),
          .needsSession = true, .streams = true, .handler = Handlers::fixDNS},
         {.id = Id::circuits, .name = QStringLiteral("circuits"), .options = {json},
-         .help = QStringLiteral("Tor's circuits and the sites on them"),
+         .help = Text::tr("Tor's circuits and the sites on them"),
          .needsSession = true, .streams = true, .handler = Handlers::circuits},
         {.id = Id::closeCircuit, .name = QStringLiteral("close-circuit"), .operands = {QStringLiteral("ID")},
-         .help = QStringLiteral("close one; its sites get a fresh path on their next request"),
-         .missing = QStringLiteral("close-circuit needs a circuit's number; \"veldmarkctl circuits\" shows them."),
+         .help = Text::tr("close one; its sites get a fresh path on their next request"),
+         .missing = Text::tr("close-circuit needs a circuit's number; \"veldmarkctl circuits\" shows them."),
          .needsSession = true, .streams = true, .handler = Handlers::closeCircuit},
         {.id = Id::newIdentity, .name = QStringLiteral("new-identity"),
-         .help = QStringLiteral("new circuits for everything"),
+         .help = Text::tr("new circuits for everything"),
          .needsSession = true, .streams = true, .handler = Handlers::newIdentity},
         {.id = Id::log, .name = QStringLiteral("log"), 
-         .options = {{QStringLiteral("--follow"), QStringLiteral("go on until Ctrl-C")},
-                     {QStringLiteral("--problems"), QStringLiteral("warnings and errors only")}},
-         .help = QStringLiteral("Tor's log; --problems shows warnings and errors only")},
+         .options = {{QStringLiteral("--follow"), Text::tr("go on until Ctrl-C")},
+                     {QStringLiteral("--problems"), Text::tr("warnings and errors only")}},
+         .help = Text::tr("Tor's log; --problems shows warnings and errors only")},
         {.id = Id::bridges, .name = QStringLiteral("bridges"), .options = {json},
-         .help = QStringLiteral("the transport programs and built-in bridges that were found, and\n"
-                                "which of your own bridge lines are not valid")},
+         .help = Text::tr("the transport programs and built-in bridges that were found, and\n"
+                          "which of your own bridge lines are not valid")},
         {.id = Id::downloadTransports, .name = QStringLiteral("download-transports"),
-         .help = QStringLiteral("fetch the Tor Project's transport programs and built-in bridges"),
+         .help = Text::tr("fetch the Tor Project's transport programs and built-in bridges"),
          .streams = true, .handler = Handlers::downloadTransports},
         {.id = Id::apps, .name = QStringLiteral("apps"), .options = {json},
-         .help = QStringLiteral("the installed applications; * marks those in the setting \"bypassApps\"")},
+         .help = Text::tr("the installed applications; * marks those in the setting \"bypassApps\"")},
         {.id = Id::launch, .name = QStringLiteral("launch"), .operands = {QStringLiteral("APP")},
-         .help = QStringLiteral("open an application without Tor, with your own address; needs strict mode.\n"
-                                "APP is a name from \"apps\", the file name of its desktop entry, or the path\n"
-                                "of an entry or a program. Running copies are asked to quit first"),
-         .missing = QStringLiteral("launch needs an application; \"veldmarkctl apps\" lists them."),
+         .help = Text::tr("open an application without Tor, with your own address; needs strict mode.\n"
+                          "APP is a name from \"apps\", the file name of its desktop entry, or the path\n"
+                          "of an entry or a program. Running copies are asked to quit first"),
+         .missing = Text::tr("launch needs an application; \"veldmarkctl apps\" lists them."),
          .needsSession = true, .streams = true, .handler = Handlers::launch},
         {.id = Id::identities, .name = QStringLiteral("identities"), .options = {json},
-         .help = QStringLiteral("the applications that have circuits of their own, and the loopback address\n"
+         .help = Text::tr("the applications that have circuits of their own, and the loopback address\n"
                                 "by which Tor tells each from the others")},
         {.id = Id::renew, .name = QStringLiteral("renew"), .operands = {QStringLiteral("APP")},
-         .help = QStringLiteral("new circuits for one application, from its next connection on; APP is as\n"
+         .help = Text::tr("new circuits for one application, from its next connection on; APP is as\n"
                                 "\"identities\" names it"),
-         .missing = QStringLiteral("renew needs an application; \"veldmarkctl identities\" lists them.")},
+         .missing = Text::tr("renew needs an application; \"veldmarkctl identities\" lists them.")},
         {.id = Id::runAs, .name = QStringLiteral("run-as"), .operands = {QStringLiteral("NAME")},
-         .help = QStringLiteral("run a program (after --) with circuits of its own; a later run with the same\n"
+         .help = Text::tr("run a program (after --) with circuits of its own; a later run with the same\n"
                                 "name in the same session has the same ones"),
-         .missing = QStringLiteral("run-as needs a name and a program: veldmarkctl run-as NAME -- PROGRAM."),
+         .missing = Text::tr("run-as needs a name and a program: veldmarkctl run-as NAME -- PROGRAM."),
          .takesProgram = true},
         {.id = Id::doctor, .name = QStringLiteral("doctor"), .options = {json},
-         .help = QStringLiteral("look at this computer: what a connect needs, what is in its way, and what\n"
-                                "mends it. Changes nothing; ends with 0 when a connect can work")},
+         .help = Text::tr("look at this computer: what a connect needs, what is in its way, and what\n"
+                          "mends it. Changes nothing; ends with 0 when a connect can work")},
         {.id = Id::get, .name = QStringLiteral("get"), .operands = {QStringLiteral("KEY")},
-         .help = QStringLiteral("print a field of \"status --json\""),
+         .help = Text::tr("print a field of \"status --json\""),
          .command = status},
         {.id = Id::set, .name = QStringLiteral("set"), .operands = {QStringLiteral("KEY"), QStringLiteral("VALUE")},
-         .help = QStringLiteral("change a setting; most of them only while not connected"),
+         .help = Text::tr("change a setting; most of them only while not connected"),
          .handler = Handlers::set},
         {.id = Id::help, .name = QStringLiteral("help")},
         {.id = Id::help, .name = QStringLiteral("--help")},
@@ -108,7 +108,7 @@ const Verb *firstVerb(Matches matches)
 QString Verb::summary() const
 {
     static const QRegularExpression firstWords(QStringLiteral("^(.*?)(;|, (?:and|with|what)\\b|:|$)"));
-    return firstWords.match(QString(help).replace(u'\n', u' ')).captured(1);
+    return firstWords.match(help.translated().replace(u'\n', u' ')).captured(1);
 }
 
 const std::vector<Verb> &verbs()

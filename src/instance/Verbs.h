@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "base/Text.h"
 #include "instance/InstanceError.h"
 
 #include <QJsonObject>
@@ -36,7 +37,7 @@ struct Verb {
     };
     struct Option {
         QString name; // "--json"
-        QString help; // a few words
+        Text help;    // a few words
     };
     using Handler = QCoro::Task<Outcome> (*)(Call call);
 
@@ -44,8 +45,8 @@ struct Verb {
     QString name;                // as it is typed
     QStringList operands = {};   // as the usage text names them; in small letters, members of the request
     std::vector<Option> options = {};
-    QString help = {};           // English, one or more lines; empty: not told to users
-    QString missing = {};        // the sentence for an operand that is not there; empty: a usual one
+    Text help = {};              // one or more lines; empty: not told to users
+    Text missing = {};           // the sentence for an operand that is not there; empty: a usual one
     QString command = {};        // the socket's word, when it is another
     bool takesProgram = false;   // a program and its words follow the operands
     bool needsSession = false;   // refused by the instance unless it is connected
@@ -54,7 +55,7 @@ struct Verb {
 
     // What the socket calls it.
     QString requested() const { return command.isEmpty() ? name : command; }
-    // The help's first words, for a list.
+    // The help's first words in the user's language, for a list.
     QString summary() const;
 };
 

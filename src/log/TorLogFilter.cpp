@@ -54,47 +54,26 @@ std::optional<TorLogFilter::Placeholder> TorLogFilter::placeholder(
 {
     if (snapshot.kind() == TorLog::Snapshot::Kind::unreadable)
         return Placeholder{
-            QStringLiteral("Can't read Tor's log"),
-            QStringLiteral("The log files in %1 aren't readable by your account. Reconnect once with "
-                           "this version of Veldmark to fix their permissions.").arg(runDirectory)};
+            Text::tr("Can't read Tor's log"),
+            Text::tr("The log files in %1 aren't readable by your account. Reconnect once with "
+                     "this version of Veldmark to fix their permissions.").arg(runDirectory)};
     if (snapshot.kind() == TorLog::Snapshot::Kind::empty)
         return Placeholder{
-            QStringLiteral("No log yet"),
-            QStringLiteral("Connect, and Tor's messages appear here as it starts. If Tor fails to "
-                           "start, the reason shows up here.")};
+            Text::tr("No log yet"),
+            Text::tr("Connect, and Tor's messages appear here as it starts. If Tor fails to "
+                     "start, the reason shows up here.")};
     if (!shown.isEmpty())
         return std::nullopt;
     if (const QString wanted = search.trimmed(); !wanted.isEmpty())
-        return Placeholder{QStringLiteral("Nothing matches"),
-                           QStringLiteral("No lines contain “") + wanted + QStringLiteral("”")};
-    return Placeholder{QStringLiteral("No warnings or errors. Tor is happy."), QString()};
+        return Placeholder{Text::tr("Nothing matches"),
+                           Text::tr("No lines contain “%1”").arg(wanted)};
+    return Placeholder{Text::tr("No warnings or errors. Tor is happy."), Text()};
 }
 
 int TorLogFilter::problemCount(const TorLog::Snapshot &snapshot)
 {
     return static_cast<int>(std::count_if(snapshot.lines().begin(), snapshot.lines().end(),
                                           [](const TorLogLine &line) { return line.isProblem(); }));
-}
-
-QString TorLogFilter::problemsLabel(int problemCount)
-{
-    return problemCount == 0 ? QStringLiteral("Problems")
-                             : QStringLiteral("Problems (%1)").arg(problemCount);
-}
-
-QString TorLogFilter::subtitle(const TorLog::Snapshot &snapshot, const QString &noticesPath)
-{
-    switch (snapshot.kind()) {
-    case TorLog::Snapshot::Kind::unreadable:
-        return QStringLiteral("Can't read the log files");
-    case TorLog::Snapshot::Kind::empty:
-        return QStringLiteral("Tor writes here while it connects and runs");
-    case TorLog::Snapshot::Kind::lines:
-        break;
-    }
-    const qsizetype count = snapshot.lines().size();
-    return QString::number(count) + (count == 1 ? QStringLiteral(" line · ") : QStringLiteral(" lines · "))
-        + noticesPath;
 }
 
 QString TorLogFilter::copyText(const QList<TorLogLine> &shown)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Text.h"
 #include "log/TorLog.h"
 
 namespace veldmark {
@@ -11,8 +12,8 @@ struct TorLogFilter {
 
     // A sentence or two in place of lines.
     struct Placeholder {
-        QString title;
-        QString text; // may be empty
+        Text title;
+        Text text; // may be empty
         friend bool operator==(const Placeholder &, const Placeholder &) = default;
     };
 
@@ -25,10 +26,6 @@ struct TorLogFilter {
                                            const QString &runDirectory) const;
 
     static int problemCount(const TorLog::Snapshot &snapshot);
-    // "Problems" or "Problems (3)".
-    static QString problemsLabel(int problemCount);
-    // "12 lines · /path/of/notices.log", or why there are none.
-    static QString subtitle(const TorLog::Snapshot &snapshot, const QString &noticesPath);
     // The whole lines, joined with line feeds.
     static QString copyText(const QList<TorLogLine> &shown);
 };

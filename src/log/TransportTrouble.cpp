@@ -29,27 +29,27 @@ QString withEnd(const QString &sentence)
     return sentence.endsWith(u'.') || sentence.endsWith(u'!') ? sentence : sentence + u'.';
 }
 
-// "The bridge program lyrebird"
 QString programAt(const QString &path)
 {
-    return QStringLiteral("The bridge program ") + quoted(path.section(u'/', -1));
+    return quoted(path.section(u'/', -1));
 }
 
 // Collects while the lines go by.
 class Finding {
 public:
     void read(const TorLogLine &line);
-    std::optional<QString> sentence() const;
+    std::optional<Text> sentence() const;
 
 private:
     bool readEnd(const QString &message);
     bool readWords(const TorLogLine &line);
+    Text endSentence() const;
 
     int m_ends = 0;    // how often a program has ended
-    QString m_program; // that ended last: "The bridge program lyrebird"
-    QString m_status;  // " (exit status 1)", or empty when Tor doesn't tell
+    QString m_program; // that ended last: "lyrebird"
+    QString m_status;  // its exit status; empty when Tor doesn't tell
     QString m_words;   // that a program said before
-    QString m_trouble; // what is wrong when none has ended; the first counts, since it caused the rest
+    Text m_trouble;    // what is wrong when none has ended; the first counts, since it caused the rest
 };
 
 // A program that ended. Tor starts it again and again.
@@ -65,7 +65,7 @@ bool Finding::readEnd(const QString &message)
     ++m_ends;
     m_program = programAt(match.captured(1));
     const QString status = match.captured(2);
-    m_status = status.size() <= 3 ? QStringLiteral(" (exit status %1)").arg(status) : QString();
+    m_status = status.size() <= 3 ? status : QString();
     return true;
 }
 
@@ -78,7 +78,7 @@ bool Finding::readWords(const TorLogLine &line)
     if (const auto match = unknown.match(line.message); match.hasMatch()) {
         m_words = quoted(match.captured(1));
         if (m_trouble.isEmpty())
-            m_trouble = QStringLiteral("The bridge program printed something that Tor doesn't understand: \"%1\".")
+            m_trouble = Text::tr("The bridge program printed something that Tor doesn't understand: \"%1\".")
                             .arg(m_words);
         return true;
     }
@@ -86,7 +86,7 @@ bool Finding::readWords(const TorLogLine &line)
     if (!match.hasMatch() || !line.isProblem())
         return false;
     m_words = quoted(match.captured(2));
-    m_trouble = QStringLiteral("%1 reports: %2").arg(programAt(match.captured(1)), withEnd(m_words));
+    m_trouble = Text::tr("The bridge program %1 reports: %2").arg(programAt(match.captured(1)), withEnd(m_words));
     return true;
 }
 
@@ -103,21 +103,28 @@ void Finding::read(const TorLogLine &line)
         return; // says less than the line before it
     if (line.message.contains(QLatin1String("anaged proxy"))
         || line.message.contains(QLatin1String("no configured transport")))
-        m_trouble = QStringLiteral("Tor has trouble with the bridge program: ") + withEnd(quoted(line.message));
+        m_trouble = Text::tr("Tor has trouble with the bridge program: %1").arg(withEnd(quoted(line.message)));
 }
 
-std::optional<QString> Finding::sentence() const
+Text Finding::endSentence() const
+{
+    if (m_status.isEmpty())
+        return (m_ends == 1 ? Text::tr("The bridge program %1 ended unexpectedly.") : Text::tr("The bridge program %1 keeps ending.")).arg(m_program);
+    return (m_ends == 1 ? Text::tr("The bridge program %1 ended unexpectedly (exit status %2).")
+                        : Text::tr("The bridge program %1 keeps ending (exit status %2).")).arg(m_program, m_status);
+}
+
+std::optional<Text> Finding::sentence() const
 {
     if (m_ends == 0)
         return m_trouble.isEmpty() ? std::nullopt : std::optional(m_trouble);
-    const QString end = m_program
-        + (m_ends == 1 ? QStringLiteral(" ended unexpectedly") : QStringLiteral(" keeps ending")) + m_status + u'.';
-    return m_words.isEmpty() ? end : end + QStringLiteral(" It said: \"%1\".").arg(m_words);
+    const Text end = endSentence();
+    return m_words.isEmpty() ? end : Text::joined({end, Text::tr("It said: \"%1\".").arg(m_words)});
 }
 
 } // namespace
 
-std::optional<QString> transportTrouble(const QList<TorLogLine> &lines)
+std::optional<Text> transportTrouble(const QList<TorLogLine> &lines)
 {
     Finding finding;
     for (const TorLogLine &line : lines)

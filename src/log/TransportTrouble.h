@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Text.h"
 #include "log/TorLogLine.h"
 
 #include <optional>
@@ -10,6 +11,6 @@ namespace veldmark {
 // Nothing when there is no such line, and when Tor has got on since ("Bootstrapped N%").
 // `lines` are those of one start of Tor, in order. What a program itself has said is quoted in the
 // sentence, without characters that can't be shown and not longer than a line.
-std::optional<QString> transportTrouble(const QList<TorLogLine> &lines);
+std::optional<Text> transportTrouble(const QList<TorLogLine> &lines);
 
 } // namespace veldmark

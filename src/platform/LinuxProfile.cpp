@@ -63,15 +63,15 @@ PlatformProfile PlatformProfile::linux(const Places &places)
     QString osRelease = readText(at("/etc/os-release"));
     if (osRelease.isEmpty())
         osRelease = readText(at("/usr/lib/os-release"));
-    profile.computer = QStringLiteral("This computer");
-    profile.onComputer = QStringLiteral("on this computer");
+    profile.computer = Text::tr("This computer");
+    profile.onComputer = Text::tr("on this computer");
     profile.fileManager = QStringLiteral("the file manager");
     profile.torInstallHint = linuxInstallHint(osRelease);
     profile.torMissingText = profile.torInstallHint == unknownSystem
-        ? QStringLiteral("Tor isn't installed. Install it with your package manager or set its "
-                         "location in Settings.")
-        : QStringLiteral("Tor isn't installed. Install it with your package manager (%1) or set "
-                         "its location in Settings.").arg(profile.torInstallHint);
+        ? Text::tr("Tor isn't installed. Install it with your package manager or set its "
+                   "location in Settings.")
+        : Text::tr("Tor isn't installed. Install it with your package manager (%1) or set "
+                   "its location in Settings.").arg(profile.torInstallHint);
 
     profile.sessionMarker = at("/var/lib/veldmark/state/active");
     profile.sessionOwner = at("/var/lib/veldmark/state/owner");
@@ -101,7 +101,7 @@ PlatformProfile PlatformProfile::linux(const Places &places)
     profile.promptKind = PromptKind::PolicyKit;
     profile.promptProgram = at("/usr/bin/pkexec");
     profile.promptText =
-        QStringLiteral("Veldmark needs administrator access to manage Tor routing on this computer. The system's own Tor service, where it runs, is stopped meanwhile.");
+        Text::tr("Veldmark needs administrator access to manage Tor routing on this computer. The system's own Tor service, where it runs, is stopped meanwhile.");
 
     profile.torBrowserRoots = {
         {places.home + QStringLiteral("/.local/share/torbrowser/tbb/x86_64/tor-browser"),

@@ -11,12 +11,12 @@ PlatformProfile PlatformProfile::macos(const Places &places)
     profile.name = QStringLiteral("macos");
     profile.places = places;
 
-    profile.computer = QStringLiteral("This Mac");
-    profile.onComputer = QStringLiteral("on this Mac");
+    profile.computer = Text::tr("This Mac");
+    profile.onComputer = Text::tr("on this Mac");
     profile.fileManager = QStringLiteral("Finder");
     profile.torInstallHint = QStringLiteral("brew install tor");
-    profile.torMissingText = QStringLiteral("Tor isn't installed. Install it with Homebrew (brew "
-                                            "install tor) or set its location in Settings.");
+    profile.torMissingText = Text::tr("Tor isn't installed. Install it with Homebrew (brew "
+                                      "install tor) or set its location in Settings.");
     profile.manualRestoreCommand = QStringLiteral(
         "sudo bash /Applications/Veldmark.app/Contents/Resources/veldmark-helper.sh disconnect");
 
@@ -45,7 +45,7 @@ PlatformProfile PlatformProfile::macos(const Places &places)
     profile.promptKind = PromptKind::AppleScript;
     profile.promptProgram = at("/usr/bin/osascript");
     profile.promptText =
-        QStringLiteral("Veldmark needs administrator access to manage Tor routing on this Mac.");
+        Text::tr("Veldmark needs administrator access to manage Tor routing on this Mac.");
 
     profile.torBrowserRoots = {{at("/Applications/Tor Browser.app"), QStringLiteral("Tor Browser")}};
     profile.bundleDirectory = support + QStringLiteral("/TorExpertBundle");

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Text.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -43,11 +45,11 @@ struct PlatformProfile {
     Places places;
 
     // Texts.
-    QString computer;         // "This Mac" / "This computer"
-    QString onComputer;       // "on this Mac" / "on this computer"
+    Text computer;            // "This Mac" / "This computer"
+    Text onComputer;          // "on this Mac" / "on this computer"
     QString fileManager;      // "Finder" / "the file manager"
     QString torInstallHint;   // the command, or "your package manager"
-    QString torMissingText;   // a whole sentence for the error banner
+    Text torMissingText;      // a whole sentence for the error banner
     QString homePage;         // of Veldmark; empty while it has none, and then nothing links to it
     QString manualRestoreCommand; // what a user types when the program does not open
 
@@ -75,7 +77,7 @@ struct PlatformProfile {
     QString unzip;
     PromptKind promptKind;
     QString promptProgram;
-    QString promptText; // shown in the authorisation dialog where it can be set
+    Text promptText; // shown in the authorisation dialog where it can be set
 
     // Pluggable transports.
     std::vector<ProgramRoot> torBrowserRoots; // the first that exists is searched

@@ -103,7 +103,7 @@ QCoro::Task<Outcome> ChildProcessRunner::start(QString executable, QStringList a
         process->deleteLater();
     });
     QObject::connect(&m_lifetime, &QObject::destroyed, process, [ended] {
-        ended.complete(Failure(StartError(QStringLiteral("The program is quitting."))));
+        ended.complete(Failure(StartError(Text::tr("The program is quitting."))));
     });
     process->setInputChannelMode(input ? QProcess::ManagedInputChannel : QProcess::ForwardedInputChannel);
     if (stop)

@@ -2,17 +2,17 @@
 
 namespace veldmark {
 
-HelperError::HelperError(Kind kind, QString description)
+HelperError::HelperError(Kind kind, Text description)
     : m_kind(kind), m_description(std::move(description))
 {
 }
 
-HelperError HelperError::failed(QString message)
+HelperError HelperError::failed(Text message)
 {
     return {Kind::Failed, std::move(message)};
 }
 
-HelperError HelperError::unapproved(QString message)
+HelperError HelperError::unapproved(Text message)
 {
     return {Kind::Unapproved, std::move(message)};
 }
@@ -20,13 +20,13 @@ HelperError HelperError::unapproved(QString message)
 HelperError HelperError::missingHelper()
 {
     return {Kind::MissingHelper,
-            QStringLiteral("The helper script is missing from the app bundle. Rebuild the app with "
-                           "build.sh.")};
+            Text::tr("The helper script is missing from the app bundle. Rebuild the app with "
+                     "build.sh.")};
 }
 
 HelperError HelperError::cancelled()
 {
-    return {Kind::Cancelled, QStringLiteral("Cancelled.")};
+    return {Kind::Cancelled, Text::tr("Cancelled.")};
 }
 
 HelperError HelperError::notStarted(const StartError &error)

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "base/Text.h"
 #include "system/ProcessRunner.h"
-
-#include <QString>
 
 namespace veldmark {
 
@@ -17,21 +16,21 @@ public:
         NotStarted,    // the program that gives it its rights could not be started
     };
 
-    static HelperError failed(QString message); // message: already cleaned
-    static HelperError unapproved(QString message);
+    static HelperError failed(Text message); // message: already cleaned
+    static HelperError unapproved(Text message);
     static HelperError missingHelper();
     static HelperError cancelled();
     static HelperError notStarted(const StartError &error);
 
     Kind kind() const { return m_kind; }
     // The sentence that the user reads.
-    QString description() const { return m_description; }
+    Text description() const { return m_description; }
 
 private:
-    HelperError(Kind kind, QString description);
+    HelperError(Kind kind, Text description);
 
     Kind m_kind;
-    QString m_description;
+    Text m_description;
 };
 
 } // namespace veldmark

@@ -1,5 +1,7 @@
 #include "system/PrivilegedRunner.h"
 
+#include "system/HelperSentences.h"
+
 #include <QFile>
 #include <QRegularExpression>
 
@@ -74,18 +76,17 @@ QStringList approvable(QStringList arguments)
 }
 
 // What stands in the dialog where the program writes it: osascript's.
-QString promptText(const PlatformProfile &profile, const QStringList &arguments)
+Text promptText(const PlatformProfile &profile, const QStringList &arguments)
 {
     const QString verb = arguments.value(0);
     if (verb == QLatin1String("replace"))
-        return profile.promptText
-            + QStringLiteral(" The strict session that is running is replaced, and may protect you less.");
+        return Text::joined({profile.promptText, Text::tr("The strict session that is running is replaced, and may protect you less.")});
     if (verb != QLatin1String("approve"))
         return profile.promptText;
     const auto valueOf = [&arguments](const char *option) {
         return arguments.value(arguments.indexOf(QLatin1String(option)) + 1);
     };
-    return QStringLiteral("Veldmark wants to run %1 as a part of Tor. No package of the system brought it. Its SHA-256 is %2.")
+    return Text::tr("Veldmark wants to run %1 as a part of Tor. No package of the system brought it. Its SHA-256 is %2.")
         .arg(valueOf("--program"), valueOf("--sha256"));
 }
 
@@ -129,7 +130,7 @@ HelperError policyKitError(const ProcessResult &result, const QString &script)
     if (helperSpoke(result.stderr, script))
         return failure(result.stderr);
     if (result.stderr.startsWith(QLatin1String("Error getting authority:"))) {
-        return HelperError::failed(QStringLiteral(
+        return HelperError::failed(Text::tr(
             "Administrator access can't be asked for: polkit is not running on this system."));
     }
     if (result.status == 126)
@@ -141,19 +142,19 @@ HelperError policyKitError(const ProcessResult &result, const QString &script)
         if (says("Error executing command as another user: No authentication agent found")
             || says("Error creating textual authentication agent:")
             || says("Error registering local authentication agent:")) {
-            return HelperError::failed(QStringLiteral(
+            return HelperError::failed(Text::tr(
                 "Administrator access can't be asked for: no PolicyKit authentication agent is "
                 "running in this session."));
         }
         // pkexec's own agent on a terminal asks, but polkit then takes the answer only from an agent of the user's.
         if (says("No session for cookie")) {
-            return HelperError::failed(QStringLiteral(
+            return HelperError::failed(Text::tr(
                 "The password could not be checked: polkit takes none from this terminal. Run it with sudo."));
         }
         if (says("Error executing command as another user: Not authorized")
             || says("Error checking for authorization ")) {
             // polkit says the same of a wrong password and of an agent that ended without an answer.
-            return HelperError::failed(QStringLiteral("Administrator access was refused, or the agent that asks for the password gave no answer."));
+            return HelperError::failed(Text::tr("Administrator access was refused, or the agent that asks for the password gave no answer."));
         }
     }
     return failure(result.stderr);
@@ -280,7 +281,7 @@ PrivilegedRunner::prompt(std::shared_ptr<const Means> means, QStringList argumen
     if (means->profile.promptKind == PromptKind::AppleScript) {
         const QStringList words = QStringList{shell, *script} + arguments;
         const QStringList source = {QStringLiteral("-e"),
-                                    appleScriptSource(words, promptText(means->profile, arguments))};
+                                    appleScriptSource(words, promptText(means->profile, arguments).translated())};
         const auto run = co_await means->runner->run(means->profile.promptProgram, source);
         if (!run)
             co_return Failure(HelperError::notStarted(run.error()));
@@ -321,7 +322,7 @@ PrivilegedRunner::runAsRoot(std::shared_ptr<const Means> means, QString script, 
     co_return Failure(error);
 }
 
-QString PrivilegedRunner::cleanError(const QString &text)
+Text PrivilegedRunner::cleanError(const QString &text)
 {
     QString message = text.trimmed();
     static const QString heading = QStringLiteral("execution error: ");
@@ -333,8 +334,7 @@ QString PrivilegedRunner::cleanError(const QString &text)
     static const QString mark = QStringLiteral("ERROR: ");
     if (message.startsWith(mark))
         message.remove(0, mark.size());
-    return message.isEmpty() ? QStringLiteral("The helper failed without an error message.")
-                             : message;
+    return message.isEmpty() ? Text::tr("The helper failed without an error message.") : HelperSentences::recognised(message);
 }
 
 } // namespace veldmark

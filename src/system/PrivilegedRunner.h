@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Text.h"
 #include "platform/PlatformProfile.h"
 #include "system/HelperError.h"
 
@@ -55,7 +56,7 @@ public:
     runWithPrompt(QStringList arguments, std::optional<QString> script = std::nullopt);
 
     // The message within what a helper, or osascript around it, wrote on standard error.
-    static QString cleanError(const QString &text);
+    static Text cleanError(const QString &text);
 
 private:
     // What a run needs, however long it takes; `runner` is null once this object is gone.

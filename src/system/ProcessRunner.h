@@ -2,6 +2,7 @@
 
 #include "base/Result.h"
 #include "base/StopToken.h"
+#include "base/Text.h"
 
 #include <QString>
 #include <QStringList>
@@ -22,11 +23,11 @@ struct ProcessResult {
 // Why a program could not be started, in the system's words: "No such file or directory".
 class StartError {
 public:
-    explicit StartError(QString description) : m_description(std::move(description)) {}
-    QString description() const { return m_description; }
+    explicit StartError(Text description) : m_description(std::move(description)) {}
+    Text description() const { return m_description; }
 
 private:
-    QString m_description;
+    Text m_description;
 };
 
 // Runs other programs. Every outside program goes through this interface, so that a test can

@@ -122,7 +122,7 @@ void SettingsStore::registerDefaults(const QVariantMap &defaults)
     m_defaults.insert(defaults);
 }
 
-std::optional<QString> SettingsStore::problem()
+std::optional<Text> SettingsStore::problem()
 {
     if (m_problems.isEmpty())
         return std::nullopt;
@@ -142,12 +142,12 @@ bool SettingsStore::setAsideIfBroken()
     if (state == SettingsFileState::Intact || state == SettingsFileState::Missing)
         return true;
     if (const auto kept = setSettingsFileAside(m_path)) {
-        m_problems += QStringLiteral("The settings file couldn't be read. It was kept as %1, and a "
-                                     "new one is used.").arg(*kept);
+        m_problems += Text::tr("The settings file couldn't be read. It was kept as %1, and a "
+                               "new one is used.").arg(*kept);
         return true;
     }
-    m_problems += QStringLiteral("The settings file %1 can't be read or replaced. Changes to the "
-                                 "settings last until you quit.").arg(m_path);
+    m_problems += Text::tr("The settings file %1 can't be read or replaced. Changes to the "
+                           "settings last until you quit.").arg(m_path);
     m_memoryOnly = true;
     return false;
 }
@@ -160,8 +160,8 @@ void SettingsStore::write()
     if (written)
         m_unwritten.clear();
     else if (!m_failing && !m_memoryOnly)
-        m_problems += QStringLiteral("The settings couldn't be saved. Changes to them may last "
-                                     "only until you quit.");
+        m_problems += Text::tr("The settings couldn't be saved. Changes to them may last "
+                               "only until you quit.");
     m_failing = !written;
 }
 

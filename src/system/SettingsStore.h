@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Text.h"
 #include "platform/PlatformProfile.h"
 
 #include <QSet>
@@ -42,7 +43,7 @@ public:
 
     // What went wrong with the file, as one sentence for the user; each is given once. A write
     // that keeps failing is one problem until one has succeeded.
-    std::optional<QString> problem();
+    std::optional<Text> problem();
 
 private:
     void set(const QString &key, const QVariant &value);
@@ -57,7 +58,7 @@ private:
     QVariantMap m_values;                // what is set, as it was read or set here
     QSet<QString> m_unwritten;           // keys set or removed here that are not on disk yet
     QVariantMap m_defaults;
-    QStringList m_problems;
+    QList<Text> m_problems;
     bool m_failing = false; // the last write failed
 };
 

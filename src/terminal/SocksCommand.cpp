@@ -139,7 +139,7 @@ QCoro::Task<void> SocksSearch::ask()
         other.complete(found);
 }
 
-QString socksCommandHint(const PlatformProfile &profile)
+Text socksCommandHint(const PlatformProfile &profile)
 {
     struct Package {
         const char *installer;
@@ -151,12 +151,11 @@ QString socksCommandHint(const PlatformProfile &profile)
                                    Package{"sudo zypper install ", "netcat-openbsd"}}) {
         const QLatin1String installer(package.installer);
         if (profile.torInstallHint.startsWith(installer))
-            return QStringLiteral("ssh doesn't go through Tor yet: it needs a netcat that speaks "
-                                  "SOCKS. Install one with: %1%2")
-                .arg(installer, QLatin1String(package.name));
+            return Text::tr("ssh doesn't go through Tor yet: it needs a netcat that speaks SOCKS. Install one "
+                            "with: %1").arg(installer + QLatin1String(package.name));
     }
-    return QStringLiteral("ssh doesn't go through Tor yet: it needs a netcat that speaks SOCKS. "
-                          "Install the OpenBSD netcat or Ncat with your package manager.");
+    return Text::tr("ssh doesn't go through Tor yet: it needs a netcat that speaks SOCKS. "
+                    "Install the OpenBSD netcat or Ncat with your package manager.");
 }
 
 } // namespace veldmark

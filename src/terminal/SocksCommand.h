@@ -2,6 +2,7 @@
 
 #include "base/ResumeOnce.h"
 #include "base/StopToken.h"
+#include "base/Text.h"
 #include "platform/PlatformProfile.h"
 
 #include <QByteArray>
@@ -52,7 +53,7 @@ private:
 };
 
 // The sentence that tells the user what to install for ssh to go through Tor.
-QString socksCommandHint(const PlatformProfile &profile);
+Text socksCommandHint(const PlatformProfile &profile);
 
 // Whether the text that "-h" or "--help" makes a program print is that of an OpenBSD netcat or of
 // an Ncat that can do it.

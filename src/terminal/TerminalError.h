@@ -1,15 +1,15 @@
 #pragma once
 
-#include <QString>
+#include "base/Text.h"
 
 namespace veldmark {
 
 // Why a file of the user's could not be changed: one sentence that names the file, to be put behind
 // "Couldn't set up terminal mode: " or "Couldn't remove terminal integration: ".
 struct TerminalError {
-    QString text;
+    Text text;
 
-    QString description() const { return text; }
+    Text description() const { return text; }
     friend bool operator==(const TerminalError &, const TerminalError &) = default;
 };
 

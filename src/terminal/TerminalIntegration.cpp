@@ -39,7 +39,7 @@ Result<void, TerminalError> makeFolder(const QString &path)
     std::error_code error;
     std::filesystem::create_directories(asPath(path), error);
     if (error)
-        return Failure(TerminalError{QStringLiteral("%1 can't be created: %2.")
+        return Failure(TerminalError{Text::tr("%1 can't be created: %2.")
                                          .arg(path, qt_error_string(error.value()))});
     return {};
 }
@@ -154,7 +154,7 @@ Result<void, TerminalError> TerminalIntegration::uninstall() const
     std::filesystem::remove_all(asPath(m_profile.terminalDirectory), error); // a link: only itself
     if (error)
         return Failure(
-            TerminalError{QStringLiteral("%1 can't be removed: %2.")
+            TerminalError{Text::tr("%1 can't be removed: %2.")
                               .arg(m_profile.terminalDirectory, qt_error_string(error.value()))});
     return {};
 }
@@ -188,9 +188,9 @@ void TerminalIntegration::setActive(bool on) const
         writeOwnFile(own("active"), QByteArray(), plainMode);
 }
 
-QString TerminalIntegration::sshHint() const
+Text TerminalIntegration::sshHint() const
 {
-    return m_search->command() ? QString() : socksCommandHint(m_profile);
+    return m_search->command() ? Text() : socksCommandHint(m_profile);
 }
 
 Result<void, TerminalError> TerminalIntegration::addBlock(const QByteArray &body,

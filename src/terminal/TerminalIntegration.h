@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "base/Text.h"
 #include "platform/PlatformProfile.h"
 #include "terminal/MarkedBlock.h"
 #include "terminal/SocksCommand.h"
@@ -57,7 +58,7 @@ public:
     void setActive(bool on) const;
 
     // What to install so that ssh goes through Tor; empty when it does. Asks like install().
-    QString sshHint() const;
+    Text sshHint() const;
 
 private:
     // What install() put between the user's text and the block, by file, so that uninstall() can

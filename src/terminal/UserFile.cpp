@@ -15,18 +15,18 @@ namespace veldmark {
 
 namespace {
 
-tl::unexpected<TerminalError> failure(const QString &sentence, const QString &path)
+tl::unexpected<TerminalError> failure(const Text &sentence, const QString &path)
 {
     return Failure(TerminalError{sentence.arg(path)});
 }
 
-tl::unexpected<TerminalError> systemFailure(const QString &sentence, const QString &path, int error)
+tl::unexpected<TerminalError> systemFailure(const Text &sentence, const QString &path, int error)
 {
     return Failure(TerminalError{sentence.arg(path, qt_error_string(error))});
 }
 
-const QString cannotRead = QStringLiteral("%1 can't be read: %2.");
-const QString cannotWrite = QStringLiteral("%1 can't be written: %2.");
+const Text cannotRead = Text::tr("%1 can't be read: %2.");
+const Text cannotWrite = Text::tr("%1 can't be written: %2.");
 
 // Where a chain of links leads, whether or not there is something. Nothing is tidied out of the
 // path: ".." behind a link to a folder is for the kernel to resolve.
@@ -169,7 +169,7 @@ Result<UserFile, TerminalError> UserFile::read(const QString &path)
         return systemFailure(cannotRead, path, errno);
     }
     if (!S_ISREG(result.m_found->mode))
-        return failure(QStringLiteral("%1 is not a file."), path);
+        return failure(Text::tr("%1 is not a file."), path);
 
     QFile file(*target);
     if (!file.open(QIODevice::ReadOnly))
@@ -189,7 +189,7 @@ Result<void, TerminalError> UserFile::replace(const QByteArray &content, mode_t 
         // A new file could take the place of one that may not be written; the user has said no.
         if ((m_found->mode & S_IWUSR) == 0
             || ::access(QFile::encodeName(m_target).constData(), W_OK) != 0)
-            return failure(QStringLiteral("%1 is read-only."), m_path);
+            return failure(Text::tr("%1 is read-only."), m_path);
         access = {m_found->mode & 07777, true, Owner{m_found->owner, m_found->group}, true};
     }
     bool hasChanged = false;
@@ -198,9 +198,9 @@ Result<void, TerminalError> UserFile::replace(const QByteArray &content, mode_t 
         return !hasChanged;
     });
     if (hasChanged)
-        return failure(QStringLiteral("%1 was changed by another program just now."), m_path);
+        return failure(Text::tr("%1 was changed by another program just now."), m_path);
     if (step == Step::notOurs)
-        return failure(QStringLiteral("%1 belongs to another user or group."), m_path);
+        return failure(Text::tr("%1 belongs to another user or group."), m_path);
     if (step == Step::failed)
         return systemFailure(cannotWrite, m_path, errno);
     return {};

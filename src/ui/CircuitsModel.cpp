@@ -1,7 +1,7 @@
 #include "ui/CircuitsModel.h"
 
 #include "circuits/CircuitPalette.h"
-#include "ui/SessionTexts.h"
+#include "ui/Wording.h"
 
 #include <QLocale>
 #include <QSet>
@@ -51,7 +51,7 @@ CircuitsModel::CircuitsModel(Session &session, QObject *parent)
 
 QString CircuitsModel::computer() const
 {
-    return SessionTexts::translated(m_session.profile().computer);
+    return m_session.profile().computer.translated();
 }
 
 void CircuitsModel::setSeen(bool seen)
@@ -185,12 +185,12 @@ QString CircuitsModel::subtitle() const
 
 QString CircuitsModel::error() const
 {
-    return SessionTexts::translated(m_session.now().circuitError.value_or(QString()));
+    return shown(m_session.now().circuitError);
 }
 
 QString CircuitsModel::optimizeText() const
 {
-    return SessionTexts::translated(m_session.now().optimizeStatus.value_or(QString()));
+    return shown(m_session.now().optimizeStatus);
 }
 
 const CircuitInfo *CircuitsModel::followedCircuit() const

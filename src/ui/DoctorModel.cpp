@@ -3,7 +3,6 @@
 #include "ui/PanelModel.h"
 
 #include <QClipboard>
-#include <QCoreApplication>
 #include <QGuiApplication>
 
 #include <algorithm>
@@ -98,7 +97,7 @@ QVariant DoctorModel::data(const QModelIndex &index, int role) const
     const Finding &finding = m_findings[static_cast<std::size_t>(index.row())];
     switch (role) {
     case TextRole:
-        return Finding::filled(QCoreApplication::translate("Doctor", finding.form), finding.words);
+        return finding.text.translated();
     case ToneRole:
         return static_cast<int>(toneOf(finding.level));
     case SymbolRole:

@@ -1,7 +1,7 @@
 #include "ui/OptionsModel.h"
 
 #include "bridges/BridgeLines.h"
-#include "ui/SessionTexts.h"
+#include "ui/Wording.h"
 
 #include <algorithm>
 #include <utility>
@@ -82,7 +82,7 @@ QStringList OptionsModel::exitNames() const
 {
     QStringList names;
     for (const ExitChoice &exit : m_exits)
-        names << SessionTexts::translated(exit.name);
+        names << exit.name.translated();
     return names;
 }
 
@@ -186,7 +186,7 @@ bool OptionsModel::bridgeNoteIsWarning() const
 
 QString OptionsModel::downloadText() const
 {
-    return SessionTexts::translated(m_session.now().transportDownload.value_or(QString()));
+    return shown(m_session.now().transportDownload);
 }
 
 QString OptionsModel::bridgeCount(const QString &text) const
@@ -254,7 +254,7 @@ QString OptionsModel::applicationsExplanation() const
 
 QString OptionsModel::terminalError() const
 {
-    return SessionTexts::translated(m_session.now().terminalError.value_or(QString()));
+    return shown(m_session.now().terminalError);
 }
 
 QString OptionsModel::applicationName(const QString &path) const

@@ -1,7 +1,7 @@
 #include "ui/PanelModel.h"
 
 #include "ui/Amount.h"
-#include "ui/SessionTexts.h"
+#include "ui/Wording.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -64,7 +64,7 @@ bool PanelModel::connected() const
 
 bool PanelModel::lookupsLeak() const
 {
-    return connected() && m_session.now().lookups.kind == Lookups::Kind::leak;
+    return connected() && m_session.now().dns.isLeak();
 }
 
 bool PanelModel::throughBridge() const
@@ -111,12 +111,12 @@ QString PanelModel::symbol() const
 
 QString PanelModel::title() const
 {
-    return SessionTexts::translated(m_session.now().verdict().title);
+    return m_session.now().verdict().title.translated();
 }
 
 QString PanelModel::detail() const
 {
-    return SessionTexts::translated(m_session.now().verdict().detail);
+    return m_session.now().verdict().detail.translated();
 }
 
 QString PanelModel::powerLabel() const
@@ -182,7 +182,7 @@ QString PanelModel::pillText() const
 {
     const Snapshot &now = m_session.now();
     if (throughBridge())
-        return tr("Connected through %1 bridges").arg(SessionTexts::bridgeName(*now.activeBridge));
+        return tr("Connected through %1 bridges").arg(shownName(*now.activeBridge));
     if (now.activeMode)
         return *now.activeMode == RoutingMode::strict ? tr("Strict") : tr("Proxy");
     if (now.phase == Phase::stale)
@@ -221,7 +221,7 @@ QString PanelModel::waitingFor() const
 {
     const Snapshot &now = m_session.now();
     if (now.phase == Phase::connecting && now.bootstrapProblem)
-        return SessionTexts::translated(*now.bootstrapProblem);
+        return now.bootstrapProblem->translated();
     if (!m_still)
         return {};
     return now.bootstrapProgress > 0
@@ -283,7 +283,7 @@ QString PanelModel::leakHelp() const
     else if (leak.kind == Leak::Kind::exposed)
         traffic = tr("Apps that ignore proxy settings show your real IP (%1). Turn on Strict mode to "
                      "block them.").arg(leak.address);
-    return traffic + u'\n' + SessionTexts::lookups(connected() ? m_session.now().lookups : Lookups());
+    return traffic + u'\n' + (connected() ? m_session.now().dns : DNSStatus()).text().translated();
 }
 
 PanelModel::Tone PanelModel::leakTone() const
@@ -318,27 +318,27 @@ QString PanelModel::uploaded() const
 
 QString PanelModel::optimizeText() const
 {
-    return SessionTexts::translated(m_session.now().optimizeStatus.value_or(QString()));
+    return shown(m_session.now().optimizeStatus);
 }
 
 QStringList PanelModel::leakingResolvers() const
 {
-    return m_session.now().lookups.leaks.mid(0, shownResolvers);
+    return m_session.now().dns.leaks().mid(0, shownResolvers);
 }
 
 QString PanelModel::moreResolvers() const
 {
-    const qsizetype more = m_session.now().lookups.leaks.size() - shownResolvers;
+    const qsizetype more = m_session.now().dns.leaks().size() - shownResolvers;
     return more > 0 ? tr("%1 more").arg(more) : QString();
 }
 
 QString PanelModel::error() const
 {
     const Snapshot &now = m_session.now();
-    const QString error = SessionTexts::translated(now.errorMessage.value_or(QString()));
+    const QString error = shown(now.errorMessage);
     if (error.isEmpty() || now.phase != Phase::stale || !now.bootstrapProblem)
         return error;
-    return error + u' ' + SessionTexts::translated(*now.bootstrapProblem);
+    return error + u' ' + now.bootstrapProblem->translated();
 }
 
 bool PanelModel::torMissing() const
@@ -347,9 +347,14 @@ bool PanelModel::torMissing() const
     return !now.torPath && (now.phase == Phase::disconnected || now.phase == Phase::stale);
 }
 
+QString PanelModel::installHint() const
+{
+    return shownHint(m_session.profile().torInstallHint);
+}
+
 bool PanelModel::installHintIsCommand() const
 {
-    return SessionTexts::isCommand(installHint());
+    return isCommand(m_session.profile().torInstallHint);
 }
 
 void PanelModel::copy(const QString &text) const

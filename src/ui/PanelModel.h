@@ -106,7 +106,7 @@ public:
     QString error() const;
     DoctorModel *doctor() { return &m_doctor; }
     bool torMissing() const;
-    QString installHint() const { return m_session.profile().torInstallHint; }
+    QString installHint() const;
     bool installHintIsCommand() const;
 
     Q_INVOKABLE void pressPower();
@@ -137,7 +137,7 @@ private:
     double m_lastProgress = 0;
     std::optional<QString> m_exit; // whose country this is
     QString m_exitCountry;
-    QString m_lastDetail;
+    Text m_lastDetail;
 };
 
 } // namespace veldmark

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Text.h"
 #include "platform/PlatformProfile.h"
 #include "platform/InstalledApplications.h"
 #include "ui/Snapshot.h"
@@ -10,7 +11,7 @@ namespace veldmark {
 
 struct ExitChoice {
     QString code; // two lower-case letters; empty = any
-    QString name;
+    Text name;
 };
 
 // What view models read and call. The program's own implementation stands on TorController; tests

@@ -1,7 +1,7 @@
 #include "ui/SettingsModel.h"
 
 #include "bridges/TransportDownloader.h"
-#include "ui/SessionTexts.h"
+#include "ui/Wording.h"
 
 #include <QClipboard>
 #include <QFileInfo>
@@ -55,7 +55,7 @@ QString SettingsModel::torPlace() const
         return now().choices.customTorPath;
     return m_session.profile().name == QLatin1String("macos")
         ? tr("Homebrew: %1").arg(m_session.profile().torInstallHint)
-        : tr("Install it with %1").arg(m_session.profile().torInstallHint);
+        : tr("Install it with %1").arg(shownHint(m_session.profile().torInstallHint));
 }
 
 bool SettingsModel::torLocked() const
@@ -67,7 +67,7 @@ bool SettingsModel::torLocked() const
 QString SettingsModel::installCommand() const
 {
     const QString &hint = m_session.profile().torInstallHint;
-    return !torFound() && !torCustom() && SessionTexts::isCommand(hint) ? hint : QString();
+    return !torFound() && !torCustom() && isCommand(hint) ? hint : QString();
 }
 
 QUrl SettingsModel::torFolder() const
@@ -107,7 +107,7 @@ QString SettingsModel::bundleStatus() const
 
 QString SettingsModel::downloadText() const
 {
-    return SessionTexts::translated(now().transportDownload.value_or(QString()));
+    return shown(now().transportDownload);
 }
 
 QString SettingsModel::bundleTrust() const
@@ -144,12 +144,12 @@ QString SettingsModel::terminalTools() const
 
 QString SettingsModel::terminalError() const
 {
-    return SessionTexts::translated(now().terminalError.value_or(QString()));
+    return shown(now().terminalError);
 }
 
 QString SettingsModel::passwordlessError() const
 {
-    return SessionTexts::translated(now().startupError.value_or(QString()));
+    return shown(now().startupError);
 }
 
 QString SettingsModel::credits() const
@@ -167,7 +167,7 @@ QString SettingsModel::credits() const
 
 QString SettingsModel::onComputer() const
 {
-    return SessionTexts::translated(m_session.profile().onComputer);
+    return m_session.profile().onComputer.translated();
 }
 
 bool SettingsModel::canRestore() const

@@ -2,8 +2,10 @@
 
 #include "base/ConnectionPhase.h"
 #include "base/RoutingMode.h"
+#include "base/Text.h"
 #include "bridges/BridgeChoice.h"
 #include "bridges/PluggableTransports.h"
+#include "checks/DNSStatus.h"
 #include "checks/KillSwitch.h"
 #include "checks/Verdict.h"
 #include "circuits/CircuitInfo.h"
@@ -45,12 +47,6 @@ struct Leak {
     QString address; // of `exposed`, and of `checking` after it: the user's own, as the world saw it
 };
 
-struct Lookups {
-    enum class Kind { leak, unknown, checking, throughTor, unverified };
-    Kind kind = Kind::unknown;
-    QStringList leaks; // of `leak`: the resolvers' summaries
-};
-
 // Everything that views show, at one moment. A plain value; absent means not known.
 struct Snapshot {
     Choices choices;
@@ -59,11 +55,11 @@ struct Snapshot {
     std::optional<RoutingMode> activeMode;
     std::optional<BridgeChoice> activeBridge;
     double bootstrapProgress = 0; // 0…1
-    QString statusDetail = QStringLiteral("Your traffic is not going through Tor");
-    std::optional<QString> bootstrapProblem; // what keeps Tor from connecting
+    Text statusDetail = Text::tr("Your traffic is not going through Tor");
+    std::optional<Text> bootstrapProblem; // what keeps Tor from connecting
     bool isAnothers = false; // the session is another process's
     bool canCancel = false;
-    std::optional<QString> errorMessage;
+    std::optional<Text> errorMessage;
     quint64 bytesRead = 0; // since Tor started
     quint64 bytesWritten = 0;
 
@@ -72,20 +68,20 @@ struct Snapshot {
     std::optional<bool> torVerified;
     std::optional<TrafficWatch::Stall> stall;
     Leak leak;
-    Lookups lookups;
+    DNSStatus dns;
     bool isChecking = false;
     std::optional<qint64> latencyMs;
-    std::optional<QString> optimizeStatus;
+    std::optional<Text> optimizeStatus;
     bool isOptimizing = false;
 
     std::vector<CircuitInfo> circuits;
-    std::optional<QString> circuitError;
+    std::optional<Text> circuitError;
     PluggableTransports transports;
-    std::optional<QString> transportDownload; // progress or result
+    std::optional<Text> transportDownload; // progress or result
     bool canDownloadTransports = true;
     bool passwordlessInstalled = false;
-    std::optional<QString> startupError;
-    std::optional<QString> terminalError;
+    std::optional<Text> startupError;
+    std::optional<Text> terminalError;
     bool terminalInstalled = false; // the shell reads the integration's files
     bool terminalForSsh = false;    // and ssh does
 
@@ -103,7 +99,7 @@ struct Snapshot {
                             .mode = activeMode,
                             .killSwitch = killSwitch ? std::optional(killSwitch->state) : std::nullopt,
                             .isExposed = isExposed,
-                            .isDNSLeaking = lookups.kind == Lookups::Kind::leak,
+                            .isDNSLeaking = dns.isLeak(),
                             .torVerified = torVerified,
                             .detail = statusDetail,
                             .stall = stall});

@@ -10,23 +10,27 @@ set -o functrace
 . "$helper"
 : >"$changes"
 
+# What a change begins with.
+stepped_words=" mkdir mv rm rmdir chmod chown mount umount useradd kill timeout nft sync : networksetup pfctl exec launchctl perl dscl "
+
 # is_change COMMAND
 is_change() {
+  [[ $stepped_words == *" ${1%% *} "* ]] || return 1
   case $1 in
   "timeout -k 1 \"\$1\" head "*) return 1 ;; # take_output only reads, beside what it reads from
-  mkdir\ * | mv\ * | rm\ * | rmdir\ * | chmod\ * | chown\ * | mount\ * | umount\ * | useradd\ * | kill\ * | nft\ -f* | "nft delete "*) ;;
+  nft\ -f* | "nft delete "* | "sync -- \"\$1\"" | :\ \>*) ;;
   'networksetup "$@"'* | pfctl\ -q* | "exec pfctl"* | launchctl\ boot* | 'perl -e "$PUT"'* | dscl\ .\ -create*) ;;
-  timeout\ * | "sync -- \"\$1\"" | :\ \>*) ;;
-  *) return 1 ;;
+  nft* | sync* | :* | networksetup* | pfctl* | exec* | launchctl* | perl* | dscl*) return 1 ;;
   esac
 }
 
 # stop_after COMMAND LINES: notes a change; whether it is the one to end with. A line that comes again, in a loop, gets a number.
 stop_after() {
-  local line former number=0
+  local line former='' number=0
   line="$2 $1"
   line=${line//[[:cntrl:]]/ }
-  while IFS= read -r former; do [[ $former != *"$line #"* ]] || number=$((number + 1)); done <"$changes"
+  IFS= read -r -d '' former <"$changes" || true
+  while [[ $former == *"$line #"* ]]; do former=${former#*"$line #"} number=$((number + 1)); done
   line="$line #$number"
   printf '%s\n' "$line" >>"$changes"
   [[ $line == "$kill_after" ]]
@@ -38,7 +42,7 @@ at_edge() {
 }
 
 rm -f -- "$changes.marked"
-trap '
+stepped_text='
   if [[ -n $edge ]] && at_edge "$BASH_COMMAND"; then "$mark" || true; fi
   if is_change "$BASH_COMMAND" && stop_after "$BASH_COMMAND" "${FUNCNAME[*]} ${BASH_LINENO[*]}"; then
     # What becomes another program comes to its change after the kill of the rest.
@@ -46,5 +50,7 @@ trap '
     eval "$BASH_COMMAND" || true
     if at_edge "${BASH_COMMAND/#nft -f*/note_listing}"; then "$mark" || true; fi
     kill -KILL $$ $BASHPID
-  fi' DEBUG
+  fi'
+# Bash reads a trap anew before each command, so this one is short.
+trap '[[ "$stepped_words${edge%% *} " != *" ${BASH_COMMAND%% *} "* ]] || eval "$stepped_text"' DEBUG
 main "$@"

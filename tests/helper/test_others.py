@@ -54,6 +54,12 @@ class Others(HelperTest):
         also = ("table inet firewalld { chain filter_OUTPUT_POLICIES_pre { }; chain filter_OUT_policy_deny { } }\n")
         self.assertEqual(sorted(self.named(before + ufw + "\n" + also + firewalld)), ["firewalld", "ufw"])
 
+    def test_our_own_are_none_of_others(self):
+        self.machine.connect()
+        self.machine.connect()   # now ours are there as well, and deny
+        self.assertIn("policy drop", self.machine.shell("nft list chain inet veldmark output"))
+        self.assertEqual(self.machine.shell(f"cat {NOTE} 2>/dev/null || true"), "")
+
     def test_chains_without_an_end(self):
         """The kernel takes no chain that comes back to itself; a chain within many is judged no further than the kernel goes."""
         chains = "".join("chain c%d { }\n" % i for i in range(15))

@@ -38,8 +38,8 @@ class Wire:
             ip route add default via {probes.LAN}; ip -6 route add default via {probes.LAN6}
         """)
         self.listener = subprocess.Popen(
-            self.peer.command(["/usr/bin/python3", PROBES_PY, "listen"]), stdout=subprocess.PIPE, text=True)
-        assert self.listener.stdout.readline() == "ready\n"
+            self.peer.command(["/usr/bin/python3", PROBES_PY, "listen"]), stdout=subprocess.PIPE, bufsize=0)
+        assert self.listener.stdout.readline() == b"ready\n"
         self.lines, self.taken, self.more = [], 0, threading.Condition()
         self.reader = threading.Thread(target=self._read, daemon=True)
         self.reader.start()
@@ -48,14 +48,26 @@ class Wire:
                                "import socket; s = socket.create_server(('0.0.0.0', 1001), backlog=64); print('up', flush=True);\n"
                                "kept = []\nwhile True: kept.append(s.accept())"]), stdout=subprocess.PIPE, text=True)
         assert self.server.stdout.readline() == "up\n"
+        self.sender = machine.start(*ONE_PROCESSOR, "/usr/bin/python3", "-I", "-S", PROBES_PY, "serve", stdin=subprocess.PIPE,
+                                    stdout=subprocess.PIPE, text=True)
+        assert self.sender.stdout.readline() == "ready\n"
 
     def _read(self):
-        for line in self.listener.stdout:
+        rest = b""
+        while data := self.listener.stdout.read(1 << 16):
+            *lines, rest = (rest + data).split(b"\n")
             with self.more:
-                self.lines.append(line.strip())
+                self.lines += [line.decode() for line in lines]
                 self.more.notify_all()
 
+    def _send(self, uid, group, what):
+        line = f"{uid} {group or '-'} {what}\n"
+        self.sender.stdin.write(line)
+        self.sender.stdin.flush()
+        assert self.sender.stdout.readline() == line
+
     def close(self):
+        self.sender.communicate()
         for process in self.listener, self.server:
             process.kill()
             process.wait()
@@ -83,14 +95,12 @@ class Wire:
         """Sends what is let through in every state, a connection attempt of Tor's account, and returns the lines of
         the listener up to its arrival: packets of one link keep their order."""
         self.marks += 1
-        self.machine.run(*ONE_PROCESSOR, "/usr/bin/python3", "-I", "-S", "-c",
-                         f"import socket; s = socket.socket(); s.setblocking(False); s.connect_ex(('{probes.SENTINEL}', {self.marks}))",
-                         uid=int(self.machine.tor_uid), group=TOR_GROUP)
+        self._send(self.machine.tor_uid, TOR_GROUP, self.marks)
         return self.wait_for(lambda line: line == f"sentinel {self.marks}")[:-1]
 
     def arrivals(self, uid=0, group=None):
         self.mark()
-        self.machine.run("/usr/bin/python3", PROBES_PY, "send", uid=uid, group=group)
+        self._send(uid, group, "send")
         return set(self.mark()) - LINK
 
     def edge_program(self):

@@ -47,11 +47,11 @@ void print(const QString &line)
 
 QCoro::Task<void> install(TransportDownloader *downloader, bool throughTor)
 {
-    const TransportDownloader::Progress progress = &print;
+    const TransportDownloader::Progress progress = [](const Text &text) { print(text.english()); };
     auto installing = downloader->install(throughTor, progress);
     const TransportDownloader::Outcome outcome = co_await installing;
     print(outcome ? QStringLiteral("installed %1 %2").arg(outcome->version, outcome->isVerified ? QStringLiteral("signature") : QStringLiteral("https"))
-                  : QStringLiteral("failed: ") + outcome.error().description());
+                  : QStringLiteral("failed: ") + outcome.error().description().english());
     QCoreApplication::exit(outcome ? 0 : 1);
 }
 

@@ -52,6 +52,41 @@ class InAHome(unittest.TestCase):
         return set(re.search(r"Settings: (.*)\.", message).group(1).split(", "))
 
 
+class Language(InAHome):
+    """veldmarkctl speaks the user's language to people and English to programs."""
+
+    def setUp(self):
+        super().setUp()
+        self.environment["LANG"] = "de_DE.UTF-8"
+
+    def test_people_read_their_language(self):
+        self.assertTrue(self.ctl("status").stdout.startswith("Nicht geschützt\n"))
+        self.assertIn("Aufruf: veldmarkctl BEFEHL", self.ctl("help").stdout)
+        self.assertIn("Unbekannter Befehl", self.ctl("nothing").stderr)
+        self.assertIn("Veldmark läuft nicht.", self.ctl("connect").stderr)
+        self.environment["LANG"] = "C.UTF-8"
+        self.assertTrue(self.ctl("status").stdout.startswith("Not Protected\n"))
+
+    def test_programs_read_english(self):
+        self.assertEqual(json.loads(self.ctl("status", "--json").stdout)["title"], "Not Protected")
+        self.assertEqual(self.ctl("get", "title").stdout, "Not Protected\n")
+        for finding in json.loads(self.ctl("doctor", "--json").stdout)["findings"]:
+            self.assertNotRegex(finding["text"], "[äöüß]| ist ")
+
+    def test_an_instance_of_another_language_is_understood(self):
+        with subprocess.Popen([PROGRAMS / "veldmarkctl", "run"], env={**self.environment, "LANG": "C.UTF-8"},
+                              stdout=subprocess.PIPE, text=True) as instance:
+            try:
+                self.assertTrue(instance.stdout.readline().startswith("Ready."))
+                self.assertTrue(self.ctl("status").stdout.startswith("Nicht geschützt\n"))
+                self.assertEqual(self.ctl("new-identity").stderr, "veldmarkctl: Nicht verbunden.\n")
+                state = json.loads(self.ctl("status", "--json").stdout)
+                self.assertEqual(state["title"], "Not Protected")
+                self.assertNotIn("texts", state)
+            finally:
+                instance.terminate()
+
+
 class Questions(InAHome):
     def test_what_the_application_only_tells_needs_no_display(self):
         program = PROGRAMS / "veldmark"
@@ -204,7 +239,7 @@ class Metadata(InAHome):
 
     def test_the_prompt_for_connecting_is_the_programs_own_text(self):
         profile = (ROOT / "src/platform/LinuxProfile.cpp").read_text()
-        text = re.search(r'promptText =\s*QStringLiteral\("([^"]+)"\)', profile).group(1)
+        text = re.search(r'promptText =\s*Text::tr\("([^"]+)"\)', profile).group(1)
         messages = {action.get("id"): action.find("message").text
                     for action in tree.parse(PACKAGING / "org.veldmark.helper.policy").iter("action")}
         self.assertEqual(messages["org.veldmark.helper.connect"], text)

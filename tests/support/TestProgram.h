@@ -8,6 +8,8 @@
 //
 // A class per process: nothing of one test class lives on into another.
 
+#include "base/Text.h"
+
 #include <QCoreApplication>
 #include <QTest>
 #ifdef QT_WIDGETS_LIB
@@ -15,6 +17,16 @@
 #elif defined(QT_GUI_LIB)
 #include <QGuiApplication>
 #endif
+
+namespace veldmark {
+
+// What Qt Test says of a text that is not the wanted one.
+inline char *toString(const Text &text)
+{
+    return QTest::toString(text.english());
+}
+
+} // namespace veldmark
 
 namespace veldmark::test {
 

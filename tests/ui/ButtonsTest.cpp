@@ -47,7 +47,7 @@ QStringList stateOf(Stage &stage)
     QStringList state;
     for (const QString &part : choicesOf(stage.session.now().choices).split(QStringLiteral(", ")))
         state << part;
-    state << QStringLiteral("error %1").arg(stage.session.now().errorMessage.value_or(QString()).left(20))
+    state << QStringLiteral("error %1").arg(stage.session.now().errorMessage.value_or(QString()).english().left(20))
           << QStringLiteral("open at login %1").arg(stage.session.now().openAtLogin.value_or(false))
           << QStringLiteral("shown %1").arg(window->isVisible())
           << QStringLiteral("pane %1").arg(window->property("pane").toString())

@@ -299,7 +299,7 @@ private Q_SLOTS:
     {
         Stage stage;
         Snapshot snapshot = Scenes::protectedSession();
-        snapshot.lookups = {Lookups::Kind::leak, {QStringLiteral("192.168.1.1 on eth0")}};
+        snapshot.dns = DNSStatus::leak({QStringLiteral("192.168.1.1 on eth0")});
         stage.session.show(snapshot);
         QQuickWindow *window = stage.open(QStringLiteral("main/MainWindow.qml"), panel(stage));
         QVERIFY(window);

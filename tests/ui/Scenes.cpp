@@ -55,12 +55,12 @@ Snapshot protectedSession()
     s.torPath = QStringLiteral("/usr/bin/tor");
     s.phase = Phase::connected;
     s.activeMode = RoutingMode::strict;
-    s.statusDetail = QStringLiteral("All traffic is locked to Tor");
+    s.statusDetail = Text::tr("All traffic is locked to Tor");
     s.killSwitch = KillSwitch{KillSwitch::State::standing, 0, QDateTime::fromSecsSinceEpoch(1'800'000'000, Qt::UTC)};
     s.exitIP = QStringLiteral("203.0.113.10");
     s.torVerified = true;
     s.leak.kind = Leak::Kind::blocked;
-    s.lookups.kind = Lookups::Kind::throughTor;
+    s.dns = DNSStatus::throughTor();
     s.bytesRead = 48'213'004;
     s.bytesWritten = 3'100'480;
     s.circuits = circuits(6);
@@ -73,16 +73,14 @@ Findings findings()
 {
     using Level = Finding::Level;
     const auto text = [](const char *words) { return QString::fromUtf8(words); };
-    return {{text("tor"), Level::good, "Tor %1 is installed: %2.", {text("0.4.9.11"), text("/usr/bin/tor")}, {}},
-            {text("nftables"), Level::problem, "nftables isn't installed. Veldmark's firewall needs it.", {}, text("sudo apt install nftables")},
+    return {{text("tor"), Level::good, Text::tr("Tor %1 is installed: %2.").arg(text("0.4.9.11"), text("/usr/bin/tor")), {}},
+            {text("nftables"), Level::problem, Text::tr("nftables isn't installed. Veldmark's firewall needs it."), text("sudo apt install nftables")},
             {text("firewalls"), Level::note,
-             "Other programs set firewall rules here: %1. Veldmark leaves their rules alone. Rules that drop packets can block Tor.",
-             {text("firewalld, Docker")}, text("sudo nft list ruleset")},
+             Text::tr("Other programs set firewall rules here: %1. Veldmark leaves their rules alone. Rules that drop packets can block Tor.").arg(text("firewalld, Docker")), text("sudo nft list ruleset")},
             {text("clock"), Level::unknown,
-             "Whether the clock is right isn't known: nothing is seen to set it from the network. It shows %1. Tor needs it right to within minutes.",
-             {text("2026-11-22 01:00 UTC")}, text("sudo timedatectl set-ntp true")},
+             Text::tr("Whether the clock is right isn't known: nothing is seen to set it from the network. It shows %1. Tor needs it right to within minutes.").arg(text("2026-11-22 01:00 UTC")), text("sudo timedatectl set-ntp true")},
             {text("session"), Level::note,
-             "The network is still set up for Tor from an earlier session, and no Tor runs. Connect again, or restore the network.", {},
+             Text::tr("The network is still set up for Tor from an earlier session, and no Tor runs. Connect again, or restore the network."),
              text("veldmarkctl restore"), Finding::Button::restore}};
 }
 
@@ -103,10 +101,10 @@ std::vector<Scene> panel()
     s = idle;
     s.torPath.reset();
     add("disconnected-no-tor", s);
-    s.errorMessage = QStringLiteral("The settings couldn't be saved. Changes to them may last only until you quit.");
+    s.errorMessage = Text::tr("The settings couldn't be saved. Changes to them may last only until you quit.");
     add("disconnected-no-tor-error", s);
     s = idle;
-    s.errorMessage = QStringLiteral("Tor didn't finish connecting within 5 minutes. (Connection refused)");
+    s.errorMessage = Text::tr("Tor didn't finish connecting within 5 minutes. (%1)").arg(QStringLiteral("Connection refused"));
     add("disconnected-error", s);
     s = idle;
     s.choices.exitCountry = QStringLiteral("at");
@@ -115,7 +113,7 @@ std::vector<Scene> panel()
     s.transports.builtin = {{QStringLiteral("obfs4"), {QStringLiteral("obfs4 192.0.2.1:443 cert=a")}}};
     s.transports.source = QStringLiteral("Tor Browser");
     s.choices.terminalMode = true;
-    s.terminalError = QStringLiteral("Couldn't set up terminal mode: /home/user/.bashrc is read-only.");
+    s.terminalError = Text::tr("Couldn't set up terminal mode: %1").arg(Text::tr("%1 is read-only.").arg(QStringLiteral("/home/user/.bashrc")));
     add("disconnected-unlisted-country-terminal-error", s);
     s = idle;
     s.choices.bridgeChoice = BridgeChoice::custom;
@@ -124,14 +122,14 @@ std::vector<Scene> panel()
 
     s = idle;
     s.choices.bridgeChoice = BridgeChoice::obfs4;
-    s.errorMessage = QStringLiteral("obfs4 bridges need lyrebird, and it isn't on this computer. Click Download next to "
-                                    "Bridges to get it.");
+    s.errorMessage = Text::tr("obfs4 bridges need lyrebird, and it isn't on this computer. Click Download next to "
+                              "Bridges to get it.");
     add("disconnected-error-programs-missing", s);
 
     s = idle;
     s.phase = Phase::connecting;
     s.activeMode = RoutingMode::strict;
-    s.statusDetail = QStringLiteral("Waiting for administrator approval…");
+    s.statusDetail = Text::tr("Waiting for administrator approval…");
     add("connecting-approval", s);
     s.bootstrapProgress = 0.45;
     s.canCancel = true;
@@ -160,7 +158,7 @@ std::vector<Scene> panel()
     add("connected-strict-checking", s);
     s.isChecking = false;
     s.leak.kind = Leak::Kind::notTested;
-    s.lookups.kind = Lookups::Kind::unknown;
+    s.dns = DNSStatus::unknown();
     add("connected-strict-not-tested", s);
     s.torVerified = false;
     s.leak.kind = Leak::Kind::inconclusive;
@@ -174,7 +172,7 @@ std::vector<Scene> panel()
     add("connected-strict-vpn", s);
     s = protectedSession();
     s.leak.kind = Leak::Kind::inconclusive;
-    s.lookups.kind = Lookups::Kind::unverified;
+    s.dns = DNSStatus::unverified();
     add("connected-strict-inconclusive", s);
     s = protectedSession();
     s.leak = {Leak::Kind::exposed, QStringLiteral("198.51.100.23")};
@@ -182,27 +180,26 @@ std::vector<Scene> panel()
     s = protectedSession();
     s.killSwitch->state = KillSwitch::State::open;
     s.leak.kind = Leak::Kind::notTested;
-    s.errorMessage = QStringLiteral("Another program removed Veldmark's firewall rules and they could not be put back. Traffic "
-                                    "may leave this computer directly. Disconnect and connect again.");
+    s.errorMessage = Text::tr("Another program removed Veldmark's firewall rules and they could not be put back. Traffic "
+                              "may leave this computer directly. Disconnect and connect again.");
     add("connected-strict-open", s);
     s.killSwitch->state = KillSwitch::State::unknown;
-    s.errorMessage = QStringLiteral("The watcher over Veldmark's firewall rules has stopped telling, so it isn't known whether "
-                                    "the kill switch stands. Disconnect and connect again.");
+    s.errorMessage = Text::tr("The watcher over Veldmark's firewall rules has stopped telling, so it isn't known whether "
+                              "the kill switch stands. Disconnect and connect again.");
     add("connected-strict-unknown", s);
     s = protectedSession();
-    s.lookups = {Lookups::Kind::leak,
-                 {QStringLiteral("192.168.1.1 on eth0"), QStringLiteral("10.0.0.53, 10.0.0.54 for *.corp.example on tun0"),
-                  QStringLiteral("9.9.9.9 on wlan0"), QStringLiteral("fd00::1 on eth1"), QStringLiteral("fd00::2 on eth1")}};
+    s.dns = DNSStatus::leak({QStringLiteral("192.168.1.1 on eth0"), QStringLiteral("10.0.0.53, 10.0.0.54 for *.corp.example on tun0"),
+                  QStringLiteral("9.9.9.9 on wlan0"), QStringLiteral("fd00::1 on eth1"), QStringLiteral("fd00::2 on eth1")});
     add("connected-strict-dns-leak", s);
     s = protectedSession();
     s.killSwitch.reset();
     s.activeMode = RoutingMode::proxy;
     s.choices.strictMode = false;
-    s.statusDetail = QStringLiteral("Apps that use system proxy settings go through Tor");
+    s.statusDetail = Text::tr("Apps that use system proxy settings go through Tor");
     s.leak.kind = Leak::Kind::inconclusive;
     add("connected-proxy", s);
     s.leak.kind = Leak::Kind::checking;
-    s.lookups.kind = Lookups::Kind::checking;
+    s.dns = DNSStatus::checking();
     s.isChecking = true;
     s.torVerified.reset();
     s.exitIP.reset();
@@ -215,12 +212,12 @@ std::vector<Scene> panel()
     s.leak = {Leak::Kind::exposed, QStringLiteral("2001:db8:85a3:8d3:1319:8a2e:370:7348")};
     s.exitIP = QStringLiteral("2001:db8:ffff:ffff:ffff:8a2e:370:1234");
     add("connected-proxy-exposed-ipv6", s);
-    s.lookups = {Lookups::Kind::leak, {QStringLiteral("192.168.1.1 on eth0")}};
+    s.dns = DNSStatus::leak({QStringLiteral("192.168.1.1 on eth0")});
     add("connected-proxy-dns-leak", s);
 
     s = protectedSession();
     s.phase = Phase::disconnecting;
-    s.statusDetail = QStringLiteral("Restoring your network settings…");
+    s.statusDetail = Text::tr("Restoring your network settings…");
     s.bootstrapProgress = 1; // as Tor reported last
     add("disconnecting-strict", s);
     s.activeMode = RoutingMode::proxy;
@@ -231,27 +228,27 @@ std::vector<Scene> panel()
     s.phase = Phase::stale;
     s.activeMode = RoutingMode::strict;
     s.markerPresent = true;
-    s.statusDetail = QStringLiteral("Tor stopped running");
-    s.errorMessage = QStringLiteral("Tor stopped running. The kill switch is still blocking traffic, so nothing "
-                                    "leaked. Reconnect, or Restore Network to go back online.");
+    s.statusDetail = Text::tr("Tor stopped running");
+    s.errorMessage = Text::tr("Tor stopped running. The kill switch is still blocking traffic, so nothing "
+                              "leaked. Reconnect, or Restore Network to go back online.");
     add("stale-strict-tor-died", s);
     s.killSwitch = KillSwitch{KillSwitch::State::open, 1, QDateTime::fromSecsSinceEpoch(1'800'000'000, Qt::UTC)};
-    s.errorMessage = QStringLiteral("Tor stopped running, and the kill switch is open: another program removed its rules. Traffic "
-                                    "may leave this computer directly. Reconnect, or Restore Network.");
+    s.errorMessage = Text::tr("Tor stopped running, and the kill switch is open: another program removed its rules. Traffic "
+                              "may leave this computer directly. Reconnect, or Restore Network.");
     add("stale-strict-open", s);
     s.killSwitch.reset();
     s.activeMode = RoutingMode::proxy;
     s.choices.strictMode = false;
-    s.errorMessage = QStringLiteral("Tor stopped running. Apps using the proxy can't connect until you reconnect or "
-                                    "Restore Network.");
+    s.errorMessage = Text::tr("Tor stopped running. Apps using the proxy can't connect until you reconnect or "
+                              "Restore Network.");
     add("stale-proxy-tor-died", s);
     s.activeMode = RoutingMode::strict;
     s.choices.strictMode = true;
     s.errorMessage.reset();
-    s.statusDetail = QStringLiteral("Your network is still set up for Tor from an earlier session");
+    s.statusDetail = Text::tr("Your network is still set up for Tor from an earlier session");
     add("stale-strict", s);
     s.activeMode.reset();
-    s.statusDetail = QStringLiteral("Your network is still set up for Tor from an earlier session");
+    s.statusDetail = Text::tr("Your network is still set up for Tor from an earlier session");
     add("stale-proxy", s);
     s.activeMode = RoutingMode::strict;
     s.killSwitch = protectedSession().killSwitch;

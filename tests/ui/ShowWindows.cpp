@@ -52,7 +52,7 @@ void setUp(Stage &stage, bool connected)
     snapshot.choices.allowLocalNetwork = false;
     if (connected) {
         snapshot.circuits = Scenes::circuits(6);
-        snapshot.lookups = {Lookups::Kind::leak, {QStringLiteral("192.168.1.1 on eth0")}};
+        snapshot.dns = DNSStatus::leak({QStringLiteral("192.168.1.1 on eth0")});
         snapshot.errorMessage = QStringLiteral("Tor closed the control connection.");
         snapshot.markerPresent = true;
     }

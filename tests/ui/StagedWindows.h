@@ -45,7 +45,7 @@ inline std::vector<Shown> windows(Stage &stage)
 inline void prepare(Stage &stage)
 {
     Snapshot snapshot = Scenes::protectedSession();
-    snapshot.lookups = {Lookups::Kind::leak, {QStringLiteral("192.168.1.1 on eth0")}};
+    snapshot.dns = DNSStatus::leak({QStringLiteral("192.168.1.1 on eth0")});
     snapshot.errorMessage = QStringLiteral("Tor closed the control connection.");
     stage.session.show(snapshot);
     stage.log.show(LogFeed::State::lines, Scenes::log(20));

@@ -20,10 +20,10 @@ public:
 
     std::vector<ExitChoice> exitChoices() const override
     {
-        return {{{}, QStringLiteral("Any (recommended)")},
-                {QStringLiteral("us"), QStringLiteral("United States")},
-                {QStringLiteral("de"), QStringLiteral("Germany")},
-                {QStringLiteral("se"), QStringLiteral("Sweden")}};
+        return {{{}, Text::tr("Any (recommended)")},
+                {QStringLiteral("us"), Text::tr("United States")},
+                {QStringLiteral("de"), Text::tr("Germany")},
+                {QStringLiteral("se"), Text::tr("Sweden")}};
     }
     std::vector<InstalledApplication> installedApplications() const override
     {

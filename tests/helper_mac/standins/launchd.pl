@@ -16,7 +16,8 @@ sub become {
 
 # launchd answers before it has done what it was told: a job that ends is there until its process has gone, and is killed after its time.
 sub settle_jobs {
-    for my $key (grep { /^leaving / } keys %state) {
+    my @leaving = grep { /^leaving / } keys %state or return;
+    for my $key (@leaving) {
         my ($label) = $key =~ /^leaving (.*)/;
         my ($pid, $until) = split / /, $state{$key};
         if (alive($pid) && time() < $until) { next }

@@ -18,8 +18,24 @@ require '/mac/pf.pl';
 
 our ($name, $caller, $input, %state);   # of the call that is answered; launchd.pl and pf.pl use them as well
 
+# What is on disk is in %state already, unless somebody else has written the file since.
+my $known = '';
+sub state_file { join ' ', (Time::HiRes::stat('/mac/state'))[1, 7, 9] }
+
 sub load {
+    my $now = state_file();
+    return if $known ne '' && $now eq $known;
+    read_state();
+    $known = $now;
+}
+
+# Only what changed anything is written, so that looking on disturbs nobody.
+my $loaded = '';
+sub dump_state { join "\0", map { ($_, $state{$_}) } sort keys %state }
+
+sub read_state {
     %state = ();
+    $loaded = '';
     open(my $file, '<', '/mac/state') or return;
     while (my $line = <$file>) {
         chomp $line;
@@ -27,14 +43,12 @@ sub load {
         $value =~ s/\\(.)/$1 eq 'n' ? "\n" : $1 eq 't' ? "\t" : $1/ge;
         $state{$key} = $value;
     }
+    $loaded = dump_state();
 }
 
-# Only what changed anything is written, so that looking on disturbs nobody.
-my $loaded = '';
-sub dump_state { join "\0", map { ($_, $state{$_}) } sort keys %state }
-
 sub save {
-    return if dump_state() eq $loaded;
+    my $now = dump_state();
+    return if $now eq $loaded;
     open(my $file, '>', "/mac/state.new.$$") or die;
     for my $key (sort keys %state) {
         (my $value = $state{$key}) =~ s/([\\\n\t])/$1 eq "\n" ? '\\n' : $1 eq "\t" ? '\\t' : '\\\\'/ge;
@@ -42,6 +56,7 @@ sub save {
     }
     close $file;
     rename "/mac/state.new.$$", '/mac/state' or die;
+    ($loaded, $known) = ($now, state_file());
 }
 
 # How a call ends before its end, and what it becomes when another program takes its place: PATH, then its words.
@@ -267,6 +282,7 @@ sub answer {
             elsif (ref $@ && $@->{run}) { $run = $@->{run} }
             elsif (ref $@) { $status = $@->{status} }
             else { $error .= $@; $status = 70 }
+            $known = '' if dump_state() ne $loaded;   # given up half-way: what was not saved has not happened
         }
     }
     return $run ? "run\n" . join('', map { "$_\0" } @$run) : "$status " . length($out) . ' ' . length($error) . "\n$out$error";

@@ -80,7 +80,7 @@ def node_torrc(node: Node, identities: dict[str, tuple[str, str]], voting: bool 
         "RunAsDaemon 1",
         "NumCPUs 1",
         "AvoidDiskWrites 1",
-        # Each node packs, in four ways, the difference from each consensus that it has kept; there is a new one every ten seconds.
+        # Each node packs, in four ways, the difference from each consensus that it has kept; there is a new one every twenty seconds.
         "MaxConsensusAgeForDiffs 1 minutes",
         "SocksPort 0",
         f"Address {node.address}",
@@ -103,7 +103,8 @@ def _authority(node: Node) -> list[str]:
         "V3AuthoritativeDirectory 1",
         "TestingV3AuthInitialVoteDelay 2",
         "TestingV3AuthInitialDistDelay 2",
-        "V3AuthVotingInterval 10",
+        # The least that tor allows is 10. Each consensus costs every node some work; more would be long for a start whose first one fails.
+        "V3AuthVotingInterval 20",
         "V3AuthVoteDelay 2",
         "V3AuthDistDelay 2",
         "TestingMinExitFlagThreshold 0",

@@ -108,7 +108,7 @@ class TorNetwork:
         """Starts every node; `identities` as `make_keys` gives them.
 
         Authorities that vote before the relays have published agree on a network without relays, and vote again only
-        10 s later. So they begin to vote when each of them knows every relay.
+        20 s later. So they begin to vote when each of them knows every relay.
         """
         for node in at.NODES:
             torrc = tor_config.node_torrc(node, identities, voting=False)

@@ -181,11 +181,11 @@ private Q_SLOTS:
         QSignalSpy told(&alerts, &Alerts::told);
         Snapshot s = inPhase(Phase::connected);
         session.show(s);
-        s.lookups = {Lookups::Kind::leak, {QStringLiteral("192.168.1.1")}};
+        s.dns = DNSStatus::leak({QStringLiteral("192.168.1.1")});
         session.show(s);
         session.show(s);
         QCOMPARE(told.count(), 1);
-        s.lookups = {};
+        s.dns = {};
         session.show(s);
         s.leak = {Leak::Kind::exposed, QStringLiteral("198.51.100.1")};
         session.show(s);

@@ -74,7 +74,7 @@ private Q_SLOTS:
         Application second(computer.profile);
         const auto refused = second.start(true, true);
         QVERIFY(!refused);
-        QVERIFY2(refused.error().startsWith(u"Veldmark is already running"_s), qPrintable(refused.error()));
+        QVERIFY2(refused.error().english().startsWith(u"Veldmark is already running"_s), qPrintable(refused.error().english()));
         settle();
         QVERIFY(computer.verbs().isEmpty());
     }

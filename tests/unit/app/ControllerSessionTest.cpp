@@ -92,7 +92,7 @@ private Q_SLOTS:
         QVERIFY(bench.controller().exitIP()); // the controller keeps it
         const Snapshot &stale = session.now();
         QVERIFY(!stale.exitIP && !stale.torVerified && !stale.latencyMs && !stale.isChecking);
-        QVERIFY(stale.leak.kind == Leak::Kind::notTested && stale.lookups.kind == Lookups::Kind::unknown);
+        QVERIFY(stale.leak.kind == Leak::Kind::notTested && stale.dns == DNSStatus::unknown());
         QVERIFY(stale.circuits.empty() && stale.bytesRead == 0);
         QVERIFY(stale.errorMessage && stale.markerPresent && stale.activeMode == RoutingMode::strict);
     }
@@ -149,9 +149,9 @@ private Q_SLOTS:
         bench.restart();
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
         QVERIFY(session.now().errorMessage);
-        QVERIFY(session.now().errorMessage->contains(u".broken"_s));
+        QVERIFY(session.now().errorMessage->english().contains(u".broken"_s));
         const QJsonValue published = publishedState(bench.controller()).value(u"settingsProblems"_s);
-        QCOMPARE(published, QJsonValue(QJsonArray{*session.now().errorMessage})); // the command line sees it as well
+        QCOMPARE(published, QJsonValue(QJsonArray{session.now().errorMessage->english()})); // the command line sees it as well
         session.dismissError();
         follow(session);
         QVERIFY(!session.now().errorMessage);
@@ -233,7 +233,7 @@ private Q_SLOTS:
         session.store(choices);
         QVERIFY(until([&] { return session.now().terminalInstalled; }));
         QVERIFY(!session.now().terminalForSsh); // this computer has no netcat
-        QVERIFY(session.now().terminalError && session.now().terminalError->contains(u"netcat"_s));
+        QVERIFY(session.now().terminalError && session.now().terminalError->english().contains(u"netcat"_s));
         bench.writeFile(bench.profile.netcatCandidates.constFirst(),
                         "#!/bin/sh\necho '[-X proxy_protocol] [-x proxy_address[:port]]'\n", true);
         choices.terminalMode = false;
@@ -330,7 +330,7 @@ private Q_SLOTS:
         session.setOpenAtLogin(true);
         follow(session);
         QVERIFY(session.now().errorMessage);
-        QVERIFY(session.now().errorMessage->startsWith(QStringLiteral("Couldn't change the login-item setting: ")));
+        QVERIFY(session.now().errorMessage->english().startsWith(QStringLiteral("Couldn't change the login-item setting: ")));
         QCOMPARE(bench.controller().errorMessage(), session.now().errorMessage); // the command line sees it as well
         QCOMPARE(session.now().openAtLogin, std::optional(false));
     }
@@ -371,7 +371,7 @@ private Q_SLOTS:
         bench.writeFile(bench.profile.settingsFile, QByteArray("\0\xff=", 3));
         bench.restart();
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
-        const QString first = session.now().errorMessage.value();
+        const Text first = session.now().errorMessage.value();
         bench.removeTor();
         session.connectToTor();
         follow(session);
@@ -409,7 +409,7 @@ private Q_SLOTS:
         session.store(choices);
         follow(session);
         QVERIFY(session.now().choices.strictMode && session.now().choices.autoConnect);
-        QVERIFY(session.now().errorMessage.value().contains(u"Disconnect to change it."_s));
+        QVERIFY(session.now().errorMessage.value().english().contains(u"Disconnect to change it."_s));
         bench.disconnect();
         settle();
         session.store(choices);

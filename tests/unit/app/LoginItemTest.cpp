@@ -72,7 +72,7 @@ private Q_SLOTS:
         profile.autostartFile = folder.filePath(QStringLiteral("file/autostart/veldmark.desktop"));
         const auto done = LoginItem(profile).set(true);
         QVERIFY(!done);
-        QVERIFY(done.error().startsWith(QStringLiteral("Couldn't write ")));
+        QVERIFY(done.error().english().startsWith(QStringLiteral("Couldn't write ")));
         profile.autostartFile.clear();
         QVERIFY(!LoginItem(profile).set(true));
     }
@@ -89,9 +89,9 @@ private Q_SLOTS:
         QCOMPARE(QCoreApplication::translate("LoginItem", "x"), QStringLiteral("[x]"));
         const auto done = LoginItem(profile).set(true);
         QVERIFY(!done);
-        QVERIFY2(done.error().startsWith(QStringLiteral("Couldn't write ")), qPrintable(done.error()));
+        QVERIFY2(done.error().english().startsWith(QStringLiteral("Couldn't write ")), qPrintable(done.error().english()));
         profile.autostartFile.clear();
-        QCOMPARE(LoginItem(profile).set(true).error(), QStringLiteral("Login items can't be changed here."));
+        QCOMPARE(LoginItem(profile).set(true).error().english(), QStringLiteral("Login items can't be changed here."));
     }
 
     void anEntryThatIsSwitchedOffIsOff_data()

@@ -260,7 +260,7 @@ private Q_SLOTS:
             for (const std::optional<RoutingMode> mode : {std::optional<RoutingMode>(), std::optional(RoutingMode::strict), std::optional(RoutingMode::proxy)})
                 for (const std::optional<State> rules : {std::optional<State>(), std::optional(State::standing), std::optional(State::putBack), std::optional(State::open), std::optional(State::unknown)})
                     for (const Leak::Kind leak : {Leak::Kind::exposed, Leak::Kind::notTested, Leak::Kind::checking, Leak::Kind::blocked, Leak::Kind::inconclusive})
-                        for (const Lookups::Kind lookups : {Lookups::Kind::leak, Lookups::Kind::unknown, Lookups::Kind::throughTor})
+                        for (const DNSStatus &dns : {DNSStatus::leak({}), DNSStatus::unknown(), DNSStatus::throughTor()})
                             for (const std::optional<bool> verified : {std::optional<bool>(), std::optional(false), std::optional(true)}) {
                                 Snapshot s;
                                 s.phase = phase;
@@ -268,7 +268,7 @@ private Q_SLOTS:
                                 if (rules)
                                     s.killSwitch = KillSwitch{*rules, 0, {}};
                                 s.leak = {leak, leak == Leak::Kind::exposed ? u"198.51.100.23"_s : QString()};
-                                s.lookups.kind = lookups;
+                                s.dns = dns;
                                 s.torVerified = verified;
                                 s.statusDetail = u"All traffic is locked to Tor"_s;
                                 if (combinations % 3 == 1)
@@ -282,7 +282,7 @@ private Q_SLOTS:
                                 QCOMPARE(toneOf(panel), verdict.levelName());
                                 if (panel.leakText() == u"No leaks"_s || panel.leakHelp().contains(u"are blocked"_s))
                                     QVERIFY(mode == RoutingMode::strict && s.killSwitch && s.killSwitch->blocks());
-                                QCOMPARE(icon->toolTip(), u"Veldmark: "_s + verdict.title);
+                                QCOMPARE(icon->toolTip(), u"Veldmark: "_s + verdict.title.english());
                             }
         QCOMPARE(combinations, 5 * 3 * 5 * 5 * 3 * 3);
     }

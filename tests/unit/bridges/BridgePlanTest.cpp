@@ -51,7 +51,7 @@ struct Stage {
     {
         return {[this] { ++searches; return answer(transports); },
                 [this](QString host, quint16, std::chrono::milliseconds) { ++probes; return lastNumber(host); },
-                [this](QString text) { said.append(text); }};
+                [this](const Text &text) { said.append(text.english()); }};
     }
 };
 
@@ -297,7 +297,7 @@ private Q_SLOTS:
         Stage stage{found(QStringLiteral("l"))};
         stage.transports.builtin = {{QStringLiteral("snowflake"), {snowflake}}};
         const BridgePlan plan = planned({BridgeChoice::snowflake, QString(), false}, stage);
-        QVERIFY(plan.arguments.error().description().startsWith(QStringLiteral("Snowflake needs snowflake-client")));
+        QVERIFY(plan.arguments.error().description().english().startsWith(QStringLiteral("Snowflake needs snowflake-client")));
         QCOMPARE(*plan.lines, QStringList{snowflake});
         QCOMPARE(*plan.transports, stage.transports);
     }

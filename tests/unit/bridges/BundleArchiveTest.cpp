@@ -63,7 +63,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, names);
         QFETCH(QByteArray, details);
         QFETCH(QString, problem);
-        const QString found = listingProblem(names, details).value_or(QString());
+        const QString found = listingProblem(names, details).value_or(Text()).english();
         if (problem.isEmpty())
             QCOMPARE(found, QString());
         else

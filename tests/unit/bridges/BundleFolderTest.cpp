@@ -150,7 +150,7 @@ private Q_SLOTS:
         tree.file(QStringLiteral("data"), "a file where a folder should be");
         const auto claimed = BundleFolder::claim(tree.path(QStringLiteral("data/Bundle")));
         QVERIFY(!claimed);
-        QVERIFY2(claimed.error().startsWith(QStringLiteral("Couldn't make the folder ")), qPrintable(claimed.error()));
+        QVERIFY2(claimed.error().english().startsWith(QStringLiteral("Couldn't make the folder ")), qPrintable(claimed.error().english()));
     }
 
     void theOldBundleStaysWhenTheNewOneCannotTakeItsPlace()
@@ -165,7 +165,7 @@ private Q_SLOTS:
         QVERIFY(folder->fresh());
         const auto published = folder->publish(QStringLiteral("2.0"), true);
         QVERIFY(!published);
-        QVERIFY2(published.error().startsWith(QStringLiteral("Couldn't write ")), qPrintable(published.error()));
+        QVERIFY2(published.error().english().startsWith(QStringLiteral("Couldn't write ")), qPrintable(published.error().english()));
         QCOMPARE(tree.content(QStringLiteral("data/Bundle/content")), QByteArray("old"));
         QCOMPARE(everything(tree), QStringList({QStringLiteral(".Bundle.lock"), QStringLiteral("Bundle")}));
     }

@@ -143,7 +143,7 @@ protected:
     {
         m_progress.clear();
         const auto kept = std::make_shared<std::optional<Outcome>>();
-        const TransportDownloader::Progress progress = [this](const QString &text) { m_progress << text; };
+        const TransportDownloader::Progress progress = [this](const Text &text) { m_progress << text.english(); };
         keep(m_downloader->install(throughTor, progress), kept);
         return kept;
     }
@@ -159,7 +159,7 @@ protected:
     QString failure(bool throughTor = false)
     {
         const Outcome outcome = install(throughTor);
-        return outcome ? QStringLiteral("It was installed.") : outcome.error().description();
+        return outcome ? QStringLiteral("It was installed.") : outcome.error().description().english();
     }
 
     QByteArray installed(const char *name) const

@@ -146,7 +146,7 @@ private Q_SLOTS:
         SocksProxy proxy(m_service->port());
         makeDownloader(source(QStringLiteral("server.invalid"), proxy.port()));
         const Outcome outcome = install(true);
-        QVERIFY2(outcome, qPrintable(outcome ? QString() : outcome.error().description()));
+        QVERIFY2(outcome, qPrintable(outcome ? QString() : outcome.error().description().english()));
         QVERIFY(proxy.connections > 0);
         for (const int type : proxy.addressTypes)
             QCOMPARE(type, 3); // by name: this computer looks nothing up

@@ -67,8 +67,8 @@ private Q_SLOTS:
         QVERIFY(!outcome);
         QCOMPARE(outcome.error().kind(), Kind::badSignature);
         const QString prefix = QStringLiteral("The download's signature didn't verify, so it was discarded. ");
-        QVERIFY2(outcome.error().description().startsWith(prefix), qPrintable(outcome.error().description()));
-        QVERIFY(!outcome.error().description().contains(u'\n'));
+        QVERIFY2(outcome.error().description().english().startsWith(prefix), qPrintable(outcome.error().description().english()));
+        QVERIFY(!outcome.error().description().english().contains(u'\n'));
         QCOMPARE(mark(), QByteArray("former"));
         QCOMPARE(installed("VERSION"), QByteArray("13.5"));
     }
@@ -136,8 +136,8 @@ private Q_SLOTS:
         serveArchive(archive); // signed: the check comes on top
         const Outcome outcome = install();
         QVERIFY(!outcome);
-        QVERIFY2(outcome.error().description().startsWith(QStringLiteral("Couldn't unpack the download. ")),
-                 qPrintable(outcome.error().description()));
+        QVERIFY2(outcome.error().description().english().startsWith(QStringLiteral("Couldn't unpack the download. ")),
+                 qPrintable(outcome.error().description().english()));
         QCOMPARE(outcome.error().kind(), Kind::extractFailed);
         QCOMPARE(mark(), QByteArray("former"));
         QVERIFY(!QFileInfo::exists(QStringLiteral("/tmp/veldmark-test-escaped")));

@@ -43,7 +43,7 @@ QCoro::Task<void> run(QStringList lines, Probes *probes, std::optional<QStringLi
     const BridgeProbe probe = [probes](QString host, quint16 port, std::chrono::milliseconds limit) {
         return ask(probes, std::move(host), port, limit);
     };
-    auto test = fastestBridges(lines, probe, [probes](QString text) { probes->said.append(text); });
+    auto test = fastestBridges(lines, probe, [probes](const Text &text) { probes->said.append(text.english()); });
     const QStringList fastest = co_await test;
     *result = fastest;
 }

@@ -41,7 +41,7 @@ private Q_SLOTS:
         serve(path + ".asc", m_signature);
         makeDownloader(source());
         const Outcome outcome = install();
-        QVERIFY2(outcome, qPrintable(outcome ? QString() : outcome.error().description()));
+        QVERIFY2(outcome, qPrintable(outcome ? QString() : outcome.error().description().english()));
         QVERIFY(m_profile->bundleDirectory.endsWith(QStringLiteral("Library/Application Support/Veldmark/TorExpertBundle")));
         QCOMPARE(mark(), QByteArray("fourteen"));
         QCOMPARE(installed("VERIFIED"), QByteArray("signature"));
@@ -51,7 +51,7 @@ private Q_SLOTS:
     {
         putBundle();
         const Outcome outcome = install();
-        QVERIFY2(outcome, qPrintable(outcome ? QString() : outcome.error().description()));
+        QVERIFY2(outcome, qPrintable(outcome ? QString() : outcome.error().description().english()));
         QCOMPARE(outcome->version, QStringLiteral("14.0.4"));
         QVERIFY(outcome->isVerified);
         QCOMPARE(installed("VERSION"), QByteArray("14.0.4"));

@@ -272,7 +272,7 @@ private Q_SLOTS:
         int row = 0;
         for (const auto &c : cases) {
             const DNSStatus status = DNSCheck::statusAfter(c.leaks, c.live, c.liveVerified, c.current);
-            QVERIFY2(status == c.expected, qPrintable(QStringLiteral("row %1: %2").arg(row).arg(status.text())));
+            QVERIFY2(status == c.expected, qPrintable(QStringLiteral("row %1: %2").arg(row).arg(status.text().english())));
             ++row;
         }
     }

@@ -62,9 +62,9 @@ private Q_SLOTS:
             QCOMPARE(isDanger, verdict.symbol == u"exclamationmark.shield"_s);
             if (verdict.symbol == u"lock.shield.fill"_s)
                 QVERIFY(isConnected && !facts.isDNSLeaking && facts.torVerified != false && !facts.stall);
-            if (verdict.detail.contains(u"Nothing gets out around"_s)) // rules that stand are behind it
+            if (verdict.detail.english().contains(u"Nothing gets out around"_s)) // rules that stand are behind it
                 QVERIFY(isConnected && facts.mode == RoutingMode::strict && rulesStand && !facts.isExposed && !facts.isDNSLeaking);
-            if (verdict.detail.contains(u"locked to Tor"_s))
+            if (verdict.detail.english().contains(u"locked to Tor"_s))
                 QVERIFY(isConnected && facts.mode == RoutingMode::strict && rulesStand && !facts.isExposed && !facts.isDNSLeaking);
             if (isConnected && facts.mode == RoutingMode::strict && !isSafe) { // nothing of the ordinary line is left
                 QVERIFY(isDanger);
@@ -98,20 +98,20 @@ private Q_SLOTS:
                 return;
             switch (facts.phase) {
             case Phase::disconnected:
-                QCOMPARE(verdict.title + verdict.symbol, u"Not Protectedshield.slash"_s);
+                QCOMPARE(verdict.title.english() + verdict.symbol, u"Not Protectedshield.slash"_s);
                 break;
             case Phase::connecting:
-                QCOMPARE(verdict.title + verdict.symbol, u"Connecting…shield.lefthalf.filled"_s);
+                QCOMPARE(verdict.title.english() + verdict.symbol, u"Connecting…shield.lefthalf.filled"_s);
                 break;
             case Phase::connected:
                 QCOMPARE(verdict.title, facts.mode == RoutingMode::strict ? u"Protected"_s : u"Proxy Active"_s);
                 QCOMPARE(verdict.symbol, u"lock.shield.fill"_s);
                 break;
             case Phase::disconnecting:
-                QCOMPARE(verdict.title + verdict.symbol, u"Disconnecting…shield.lefthalf.filled"_s);
+                QCOMPARE(verdict.title.english() + verdict.symbol, u"Disconnecting…shield.lefthalf.filled"_s);
                 break;
             case Phase::stale:
-                QCOMPARE(verdict.title + verdict.symbol, u"Needs Attentionexclamationmark.shield"_s);
+                QCOMPARE(verdict.title.english() + verdict.symbol, u"Needs Attentionexclamationmark.shield"_s);
                 break;
             }
             QCOMPARE(verdict.detail, facts.detail);
@@ -164,7 +164,7 @@ private Q_SLOTS:
         facts.phase = Phase::stale;
         row("Tor is dead, and it is open", facts, u"danger"_s, u"Kill Switch Open"_s, u"Traffic may leave this computer directly"_s);
         facts = {Phase::connected, RoutingMode::proxy, std::nullopt, true, false, true, u"Apps that use system proxy settings go through Tor"_s};
-        row("proxy, where apps may go direct", facts, u"info"_s, u"Proxy Active"_s, facts.detail);
+        row("proxy, where apps may go direct", facts, u"info"_s, u"Proxy Active"_s, facts.detail.english());
         facts.torVerified = false;
         row("proxy, not confirmed", facts, u"warning"_s, u"Needs Attention"_s,
             u"Apps that use system proxy settings go through Tor, but the exit could not be confirmed"_s);
@@ -181,8 +181,8 @@ private Q_SLOTS:
         QFETCH(SessionFacts, facts);
         const Verdict verdict = Verdict::of(facts);
         QTEST(verdict.levelName(), "level");
-        QTEST(verdict.title, "title");
-        QTEST(verdict.detail, "detail");
+        QTEST(verdict.title.english(), "title");
+        QTEST(verdict.detail.english(), "detail");
     }
 };
 

@@ -43,9 +43,9 @@ private Q_SLOTS:
         QFETCH(QString, part);
         const auto parsed = parseArguments(arguments);
         QVERIFY(!parsed);
-        QVERIFY2(parsed.error().contains(part), qPrintable(parsed.error()));
-        QVERIFY(!parsed.error().contains(u'\n'));
-        QVERIFY(parsed.error().size() < 200);
+        QVERIFY2(parsed.error().english().contains(part), qPrintable(parsed.error().english()));
+        QVERIFY(!parsed.error().english().contains(u'\n'));
+        QVERIFY(parsed.error().english().size() < 200);
     }
 
     void readsOptionsInAnyOrder()

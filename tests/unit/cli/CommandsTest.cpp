@@ -177,7 +177,7 @@ private Q_SLOTS:
     {
         QFETCH(bool, running);
         Workbench bench;
-        Result<std::unique_ptr<InstanceServer>, QString> server;
+        Result<std::unique_ptr<InstanceServer>, Text> server;
         if (running) {
             server = InstanceServer::start(bench.controller());
             QVERIFY(server);

@@ -9,9 +9,9 @@ using namespace veldmark;
 class DoctorCommandTest : public QObject {
     Q_OBJECT
 
-    const Findings m_good{{QStringLiteral("tor"), Finding::Level::good, "Tor %1 is installed.", {QStringLiteral("0.4.7")}, {}}};
+    const Findings m_good{{QStringLiteral("tor"), Finding::Level::good, Text::tr("Tor %1 is installed.").arg(QStringLiteral("0.4.7")), {}}};
     const Findings m_bad{m_good.front(),
-                         {QStringLiteral("nftables"), Finding::Level::problem, "nftables isn't installed.", {}, QStringLiteral("sudo apt install nftables")}};
+                         {QStringLiteral("nftables"), Finding::Level::problem, Text::tr("nftables isn't installed."), QStringLiteral("sudo apt install nftables")}};
 
 private Q_SLOTS:
     void saysWhatIsThereAndWhatMendsIt()

@@ -69,7 +69,7 @@ private Q_SLOTS:
         ControlConnection connection(tor.port());
         const auto result = QCoro::waitFor(connection.open(QStringLiteral("wrong")));
         QCOMPARE(result.error().kind(), Kind::Tor);
-        QVERIFY(result.error().description().startsWith(
+        QVERIFY(result.error().description().english().startsWith(
             QStringLiteral("Tor replied: 515 Authentication failed")));
         QVERIFY(result.error().line().startsWith(QStringLiteral("515 ")));
     }

@@ -59,7 +59,7 @@ private Q_SLOTS:
             return QCoro::waitFor(port.getInfo({QStringLiteral("version")}, tor.password()));
         };
         const auto us = ask([] { return std::optional(::geteuid()); });
-        QVERIFY2(us, us ? "" : qPrintable(us.error().description()));
+        QVERIFY2(us, us ? "" : qPrintable(us.error().description().english()));
         const auto heard = tor.commands().size();
         QVERIFY(heard > 0);
         for (const std::optional<uid_t> other : {std::optional<uid_t>(::geteuid() + 1), std::optional<uid_t>()}) {

@@ -94,7 +94,7 @@ private Q_SLOTS:
             m_port.getInfo({QStringLiteral("version"), QStringLiteral("traffic/read"),
                             QStringLiteral("traffic/written"), QStringLiteral("status/bootstrap-phase")},
                            m_password));
-        QVERIFY2(values, values ? "" : qPrintable(values.error().description()));
+        QVERIFY2(values, values ? "" : qPrintable(values.error().description().english()));
         QCOMPARE(values->size(), 4);
         QVERIFY(values->value(QStringLiteral("version")).startsWith(u'0'));
         QCOMPARE(values->value(QStringLiteral("traffic/read")), QStringLiteral("0"));
@@ -109,7 +109,7 @@ private Q_SLOTS:
             m_port.getInfo({QStringLiteral("version")}, QStringLiteral("wrong")));
         QVERIFY(!values);
         QVERIFY2(values.error().line().startsWith(QStringLiteral("515 Authentication failed")),
-                 qPrintable(values.error().description()));
+                 qPrintable(values.error().description().english()));
     }
 
     void anUnknownKeyIsRefused()
@@ -117,8 +117,8 @@ private Q_SLOTS:
         const auto values = QCoro::waitFor(
             m_port.getInfo({QStringLiteral("no/such/key")}, m_password));
         QVERIFY(!values);
-        QVERIFY2(values.error().description().startsWith(QStringLiteral("Tor replied: 552 ")),
-                 qPrintable(values.error().description()));
+        QVERIFY2(values.error().description().english().startsWith(QStringLiteral("Tor replied: 552 ")),
+                 qPrintable(values.error().description().english()));
     }
 
     void aBatchReadsBlocksAndSurvivesARefusal()

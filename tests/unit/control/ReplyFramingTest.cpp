@@ -29,7 +29,7 @@ Framed frame(const QByteArray &stream, Sizes nextSize)
         for (;;) {
             const auto reply = framing.nextReply();
             if (!reply) {
-                framed.error = reply.error().description();
+                framed.error = reply.error().description().english();
                 break;
             }
             if (!*reply)

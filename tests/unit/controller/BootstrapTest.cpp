@@ -83,7 +83,7 @@ private Q_SLOTS:
     void readsWhatIsInTorsWay()
     {
         QFETCH(QString, reply);
-        QTEST(TorController::parseBootstrap(reply).warning, "warning");
+        QTEST(TorController::parseBootstrap(reply).warning.english(), "warning");
     }
 
     void showsWhatTorWarnsOfUntilItGetsOn()
@@ -365,7 +365,7 @@ private Q_SLOTS:
         bench.clock.advance(1s);
         QVERIFY(Workbench::finished(connecting));
         QVERIFY(bench.controller().phase() == Phase::stale);
-        QVERIFY(bench.controller().errorMessage()->contains(u" (Tor didn't answer on its control port in time.) "_s));
+        QVERIFY(bench.controller().errorMessage()->english().contains(u" (Tor didn't answer on its control port in time.) "_s));
     }
 
     void aDisconnectEndsTheWaitSilently_data()

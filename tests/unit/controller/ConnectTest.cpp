@@ -26,7 +26,7 @@ private Q_SLOTS:
         TorController &c = bench.controller();
         QStringList details;
         std::vector<Phase> phases;
-        QObject::connect(&c.statusDetail, &Field::changed, [&] { details << c.statusDetail(); });
+        QObject::connect(&c.statusDetail, &Field::changed, [&] { details << c.statusDetail().english(); });
         QObject::connect(&c.phase, &Field::changed, [&] { phases.push_back(c.phase()); });
         QVERIFY(bench.connect());
         QCOMPARE(details, QStringList({u"Preparing Tor…"_s, u"Waiting for administrator approval…"_s,
@@ -129,7 +129,7 @@ private Q_SLOTS:
         Workbench bench;
         QStringList details;
         QObject::connect(&bench.controller().statusDetail, &Field::changed,
-                         [&] { details << bench.controller().statusDetail(); });
+                         [&] { details << bench.controller().statusDetail().english(); });
         bench.controller().customBridges.set(u"192.0.2.1:443\n192.0.2.2:443"_s);
         bench.controller().bridgeChoice.set(BridgeChoice::custom);
         bench.controller().optimizeSpeed.set(true);

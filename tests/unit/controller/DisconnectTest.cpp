@@ -58,7 +58,7 @@ private Q_SLOTS:
         std::vector<Phase> phases;
         QStringList details;
         QObject::connect(&c.phase, &Field::changed, [&] { phases.push_back(c.phase()); });
-        QObject::connect(&c.statusDetail, &Field::changed, [&] { details << c.statusDetail(); });
+        QObject::connect(&c.statusDetail, &Field::changed, [&] { details << c.statusDetail().english(); });
         bench.disconnect();
         QVERIFY((phases == std::vector{Phase::disconnecting, Phase::disconnected}));
         QCOMPARE(details, QStringList({u"Restoring your network settings…"_s, u"Your traffic is not going through Tor"_s}));

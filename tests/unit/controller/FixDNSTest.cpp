@@ -61,7 +61,7 @@ private Q_SLOTS:
         const auto fixed = c.fixDNS();
         QVERIFY(Workbench::finished(fixed));
         QVERIFY(c.killSwitch()->state == KillSwitch::State::open && c.dnsStatus() == leak);
-        QVERIFY2(c.errorMessage().value().endsWith(u"10.8.0.1 for *.corp on utun2."_s), qPrintable(*c.errorMessage()));
+        QVERIFY2(c.errorMessage().value().english().endsWith(u"10.8.0.1 for *.corp on utun2."_s), qPrintable(c.errorMessage()->english()));
     }
 
     void fixingThatIsRefused_data()

@@ -140,7 +140,7 @@ private Q_SLOTS:
             QVERIFY(bench.tick());
             QCOMPARE(bench.commandCount("SETCONF DisableNetwork=0"), times);
             QVERIFY(!bench.controller().torVerified()); // nothing is claimed meanwhile
-            QVERIFY(bench.controller().errorMessage().value_or(QString()).contains(u"hasn't confirmed that it is on the network"_s));
+            QVERIFY(bench.controller().errorMessage().value_or(QString()).english().contains(u"hasn't confirmed that it is on the network"_s));
         }
         QCOMPARE(bench.commandCount("SETCONF DisableNetwork=1"), 1);
         bench.tor.reply("SETCONF DisableNetwork=0", "250 OK\r\n");
@@ -162,7 +162,7 @@ private Q_SLOTS:
         QVERIFY(bench.tick());
         bench.ownAddresses = {QHostAddress(u"198.51.100.7"_s)};
         QVERIFY(bench.tick());
-        QVERIFY(c.errorMessage().value_or(QString()).contains(u"hasn't confirmed that it is on the network"_s));
+        QVERIFY(c.errorMessage().value_or(Text()).english().contains(u"hasn't confirmed that it is on the network"_s));
         QVERIFY(!c.failure());
         c.showProblem(u"Something else."_s);
         QCOMPARE(c.failure().value_or(QString()), u"Something else."_s);
@@ -427,13 +427,13 @@ private Q_SLOTS:
         QVERIFY(bench.tick());
         bench.ownAddresses = {QHostAddress(u"198.51.100.7"_s)};
         QVERIFY(bench.tick());
-        QVERIFY(bench.controller().errorMessage().value_or(QString()).contains(u"hasn't confirmed that it is on the network"_s));
+        QVERIFY(bench.controller().errorMessage().value_or(QString()).english().contains(u"hasn't confirmed that it is on the network"_s));
         bench.cancelPrompt(u"disconnect"_s);
         bench.disconnect();
         QVERIFY(bench.controller().phase() == Phase::connected);
         QVERIFY(bench.tick());
         QCOMPARE(bench.commandCount("SETCONF DisableNetwork=0"), 2);
-        QVERIFY(bench.controller().errorMessage().value_or(QString()).contains(u"hasn't confirmed that it is on the network"_s));
+        QVERIFY(bench.controller().errorMessage().value_or(QString()).english().contains(u"hasn't confirmed that it is on the network"_s));
     }
 
     void whatHappensAtARefusedPromptIsNotMissed_data()

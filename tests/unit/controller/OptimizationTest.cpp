@@ -70,7 +70,7 @@ private Q_SLOTS:
         QVERIFY(bench.connect());
         QStringList texts;
         QObject::connect(&c.optimizeStatus, &Field::changed,
-                         [&] { texts << c.optimizeStatus().value_or(u"-"_s); });
+                         [&] { texts << c.optimizeStatus().value_or(u"-"_s).english(); });
         answerAfter(bench, 1500ms);
         const auto optimizing = c.optimizeCircuits();
         QVERIFY(c.isOptimizing());
@@ -102,7 +102,7 @@ private Q_SLOTS:
         answerAfter(bench, answers ? 1600ms : 100ms);
         QStringList texts;
         QObject::connect(&c.optimizeStatus, &Field::changed,
-                         [&] { texts << c.optimizeStatus().value_or(u"-"_s); });
+                         [&] { texts << c.optimizeStatus().value_or(u"-"_s).english(); });
         const int probes = bench.probe.torProbes;
         const auto optimizing = c.optimizeCircuits();
         for (int round = 1; round <= 4; ++round) {

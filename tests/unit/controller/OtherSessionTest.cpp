@@ -112,7 +112,7 @@ private Q_SLOTS:
         QVERIFY(!bench.connect());
         QVERIFY(c.phase() == Phase::stale);
         QVERIFY(bench.processes.calls.empty());
-        QVERIFY2(c.errorMessage().value_or(QString()).contains(u"process %1"_s.arg(other.process())), qPrintable(*c.errorMessage()));
+        QVERIFY2(c.errorMessage().value_or(QString()).english().contains(u"process %1"_s.arg(other.process())), qPrintable(c.errorMessage()->english()));
         other.end();
         QVERIFY(bench.connect());
         QVERIFY(!c.errorMessage());
@@ -128,7 +128,7 @@ private Q_SLOTS:
         bench.disconnect();
         QVERIFY(c.phase() == Phase::stale);
         QVERIFY(c.otherSession()); // and it is shown as before
-        QVERIFY(c.statusDetail().contains(u"daemon"_s));
+        QVERIFY(c.statusDetail().english().contains(u"daemon"_s));
         bench.letHelperWork();
         bench.disconnect();
         QVERIFY(c.phase() == Phase::disconnected);
@@ -183,7 +183,7 @@ private Q_SLOTS:
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 0);
         QVERIFY(bench.hasMarker());
         QVERIFY(c.phase() == Phase::stale && c.otherSession());
-        QVERIFY2(c.errorMessage().value_or(QString()).contains(u"Disconnect again"_s), qPrintable(c.errorMessage().value_or(QString())));
+        QVERIFY2(c.errorMessage().value_or(QString()).english().contains(u"Disconnect again"_s), qPrintable(c.errorMessage().value_or(QString()).english()));
         bench.disconnect(); // now it is meant
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 1);
         QVERIFY(c.phase() == Phase::disconnected);
@@ -265,7 +265,7 @@ private Q_SLOTS:
         QVERIFY(Workbench::finished(ending));
         QVERIFY(c.phase() == Phase::stale);
         QVERIFY(c.otherSession());
-        QVERIFY(c.errorMessage().value().startsWith(u"Another user's Veldmark has begun a session since"_s));
+        QVERIFY(c.errorMessage().value().english().startsWith(u"Another user's Veldmark has begun a session since"_s));
         QVERIFY(!c.exitIP() && !c.torVerified());
         bench.clock.advance(std::chrono::seconds(2)); // former loops wake once more
         settle();
@@ -311,7 +311,7 @@ private Q_SLOTS:
             QVERIFY(bench.tick());
         QVERIFY(until([&] { return c.otherSession().has_value(); }));
         QVERIFY(c.phase() == Phase::stale);
-        QVERIFY(c.statusDetail().contains(u"daemon"_s));
+        QVERIFY(c.statusDetail().english().contains(u"daemon"_s));
         QVERIFY(!c.errorMessage()); // it told of a kill switch that is another session's by now
     }
 
@@ -350,8 +350,8 @@ private Q_SLOTS:
             return;
         bench.noteRules("open", 1);
         bench.clock.advance(std::chrono::seconds(2));
-        QVERIFY(c.errorMessage().value().contains(u"firewall rules"_s));
-        QVERIFY(!c.errorMessage().value().contains(u"Tor stopped running"_s)); // its own runs
+        QVERIFY(c.errorMessage().value().english().contains(u"firewall rules"_s));
+        QVERIFY(!c.errorMessage().value().english().contains(u"Tor stopped running"_s)); // its own runs
     }
 
     void takesThePlaceOfALeftOverOne()

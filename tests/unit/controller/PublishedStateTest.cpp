@@ -5,9 +5,20 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTest>
+#include <QTranslator>
 
 using namespace Qt::StringLiterals;
 using namespace veldmark;
+
+namespace {
+
+class Shouting final : public QTranslator {
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *source, const char *, int) const override { return QString::fromUtf8(source).toUpper(); }
+};
+
+} // namespace
 
 class PublishedStateTest : public QObject {
     Q_OBJECT
@@ -78,6 +89,56 @@ private Q_SLOTS:
         QVERIFY(state.value(u"transports"_s).toObject().value(u"webtunnel"_s).isNull());
     }
 
+    void hasItsTextsForOtherLanguages()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        bench.failHelper(u"connect"_s, u"The journal cannot be written."_s);
+        bench.connect();
+        const QJsonObject state = publishedState(c);
+        const QJsonObject texts = publishedTexts(c);
+        QCOMPARE(texts.keys(), (QStringList{u"errorMessage"_s, u"statusDetail"_s, u"title"_s}));
+        for (const QString &key : texts.keys()) {
+            QVERIFY2(texts.value(key).isObject(), qPrintable(key)); // no words that nobody can translate
+            QCOMPARE(state.value(key), QJsonValue(Text::fromJson(texts.value(key)).english()));
+        }
+    }
+
+    void isInTheUsersLanguageForPeople()
+    {
+        Workbench bench;
+        const QJsonObject state = publishedState(bench.controller());
+        const QJsonObject texts = publishedTexts(bench.controller());
+        Shouting shouting;
+        QCoreApplication::installTranslator(&shouting);
+        const QJsonObject shown = inUsersLanguage(state, texts);
+        QCoreApplication::removeTranslator(&shouting);
+        QCOMPARE(shown.value(u"title"_s), QJsonValue(u"NOT PROTECTED"_s));
+        QCOMPARE(shown.value(u"phase"_s), state.value(u"phase"_s));
+        QCOMPARE(inUsersLanguage(state, texts), state); // in English again
+        QJsonObject kept = state;
+        kept.insert(u"title"_s, QJsonValue::Null);
+        QCOMPARE(inUsersLanguage(kept, texts), kept); // a text that the state holds back
+    }
+
+    void soAreItsListsOfTexts()
+    {
+        Workbench bench;
+        bench.writeFile(bench.profile.settingsFile, QByteArray("\0\xff=", 3)); // damaged
+        bench.restart();
+        const QJsonObject state = publishedState(bench.controller());
+        const QJsonArray english = state.value(u"settingsProblems"_s).toArray();
+        QCOMPARE(english.size(), 1);
+        Shouting shouting;
+        QCoreApplication::installTranslator(&shouting);
+        const QJsonObject shown = inUsersLanguage(state, publishedTexts(bench.controller()));
+        QCoreApplication::removeTranslator(&shouting);
+        const QJsonArray shouted = shown.value(u"settingsProblems"_s).toArray();
+        QCOMPARE(shouted.size(), 1);
+        QVERIFY(shouted != english);
+        QCOMPARE(shouted.at(0).toString().toUpper(), english.at(0).toString().toUpper());
+    }
+
     void neverHoldsThePassword()
     {
         Workbench bench;
@@ -143,7 +204,7 @@ private Q_SLOTS:
             return;
         }
         QVERIFY(set.error().kind() == SettingError::Kind::Refused);
-        const QString error = set.error().description();
+        const QString error = set.error().description().english();
         QVERIFY(!error.isEmpty() && error.size() < 400);
         QVERIFY2(!error.contains(u'\n') && !error.contains(u'\r'), qPrintable(error));
         QCOMPARE(publishedState(bench.controller()), before);
@@ -173,7 +234,7 @@ private Q_SLOTS:
         const auto set = setSetting(bench.controller(), u"exitCountry"_s, u"de"_s);
         QVERIFY(!set);
         QVERIFY(set.error().kind() == SettingError::Kind::NotDone);
-        QVERIFY2(set.error().description().contains(u"settings"_s), qPrintable(set.error().description()));
+        QVERIFY2(set.error().description().english().contains(u"settings"_s), qPrintable(set.error().description().english()));
         QCOMPARE(bench.controller().exitCountry(), u"de"_s);
     }
 
@@ -184,8 +245,8 @@ private Q_SLOTS:
         const auto set = setSetting(bench.controller(), u"terminalMode"_s, u"on"_s);
         QVERIFY(!set);
         QVERIFY(set.error().kind() == SettingError::Kind::NotDone);
-        QVERIFY2(set.error().description().startsWith(u"Couldn't set up terminal mode: "_s),
-                 qPrintable(set.error().description()));
+        QVERIFY2(set.error().description().english().startsWith(u"Couldn't set up terminal mode: "_s),
+                 qPrintable(set.error().description().english()));
         QVERIFY(bench.controller().terminalMode());
     }
 
@@ -217,7 +278,7 @@ private Q_SLOTS:
         const auto isRefused = [&] {
             const auto set = setSetting(c, name, text);
             return !set && set.error().kind() == SettingError::Kind::Refused
-                && set.error().description().contains(u"Disconnect to change it."_s)
+                && set.error().description().english().contains(u"Disconnect to change it."_s)
                 && publishedState(c).value(name) == before;
         };
         if (locked) {

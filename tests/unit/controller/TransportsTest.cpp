@@ -68,7 +68,7 @@ private Q_SLOTS:
         const auto task = c.downloadTransports();
         QVERIFY(Workbench::finished(task));
         QVERIFY(result(task));
-        QCOMPARE(c.transportDownload(), std::optional<QString>());
+        QCOMPARE(c.transportDownload(), std::optional<Text>());
         QCOMPARE(bench.searches, searches + 1);
         QCOMPARE(c.transports().lyrebird, std::optional(u"/new/lyrebird"_s));
         QVERIFY(c.canDownloadTransports());
@@ -133,7 +133,7 @@ private Q_SLOTS:
         TorController &c = bench.controller();
         QStringList seen;
         QObject::connect(&c.transportDownload, &Field::changed, &c,
-                         [&] { seen << c.transportDownload().value_or(u"(none)"_s); });
+                         [&] { seen << c.transportDownload().value_or(u"(none)"_s).english(); });
         downloader.lines = {u"Checking latest version…"_s, u"Downloading Tor 14.0.4 bridge programs… 1.0 of 2.0 MB (50%)"_s};
         const auto task = c.downloadTransports();
         QCOMPARE(seen, QStringList(u"Starting…"_s) + downloader.lines);

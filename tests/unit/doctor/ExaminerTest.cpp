@@ -25,7 +25,7 @@ private Q_SLOTS:
         auto examining = examiner.examine();
         QTRY_VERIFY(examining.isReady());
         const Findings findings = QCoro::waitFor(std::move(examining));
-        QCOMPARE(findings.front().text(), QStringLiteral("Tor 0.4.8.9 is installed: %1.").arg(m.at("/usr/bin/tor")));
+        QCOMPARE(findings.front().text, QStringLiteral("Tor 0.4.8.9 is installed: %1.").arg(m.at("/usr/bin/tor")));
         for (const ScriptedRunner::Call &call : processes.calls) {
             if (call.executable.endsWith(QStringLiteral("/tor")))
                 QCOMPARE(call.arguments, QStringList{QStringLiteral("--version")});
@@ -47,7 +47,7 @@ private Q_SLOTS:
         QTRY_VERIFY(examining.isReady());
         QStringList texts;
         for (const Finding &finding : QCoro::waitFor(std::move(examining)))
-            texts << finding.text();
+            texts << finding.text.english();
         QVERIFY2(texts.join(u'\n').contains(QStringLiteral("/opt/none/tor, is no program")), qPrintable(texts.join(u'\n')));
         QVERIFY2(texts.join(u'\n').contains(QStringLiteral("The chosen bridges can't be used")), qPrintable(texts.join(u'\n')));
     }

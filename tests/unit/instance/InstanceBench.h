@@ -35,7 +35,7 @@ struct Conversation {
         return until([this] { return answer.has_value(); });
     }
     bool succeeds() const { return ends() && answer->has_value(); }
-    QString error() const { return ends() && !*answer ? answer->error().description() : QString(); }
+    QString error() const { return ends() && !*answer ? answer->error().description().english() : QString(); }
     QString lastPhase() const
     {
         return states.empty() ? QString() : states.back().value(QStringLiteral("phase")).toString();
@@ -44,7 +44,7 @@ struct Conversation {
 private:
     static QCoro::Task<void> talk(std::shared_ptr<InstanceClient> client, QJsonObject request, std::shared_ptr<Heard> heard)
     {
-        const std::function<void(const QJsonObject &)> onState = [heard](const QJsonObject &state) {
+        const InstanceClient::OnState onState = [heard](const QJsonObject &state, const QJsonObject &) {
             heard->states.push_back(state);
         };
         auto running = client->run(request, onState);

@@ -184,7 +184,7 @@ private Q_SLOTS:
         instance.bench.noteRules("restored", 1);
         Conversation fixing(instance.bench, "fix-dns"); // it is told while the command runs
         QVERIFY2(fixing.succeeds(), qPrintable(fixing.error()));
-        QVERIFY(instance.bench.controller().errorMessage().value().contains(u"back in place"_s));
+        QVERIFY(instance.bench.controller().errorMessage().value().english().contains(u"back in place"_s));
     }
 
     void saysThatAConnectionWasReplaced()

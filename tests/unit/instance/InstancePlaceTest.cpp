@@ -139,7 +139,7 @@ private Q_SLOTS:
             QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-60), QFile::FileModificationTime));
         }
         const auto lock = lockInstance(place.profile);
-        QVERIFY2(lock, lock ? "" : qPrintable(lock.error()));
+        QVERIFY2(lock, lock ? "" : qPrintable(lock.error().english()));
         QVERIFY(!lockInstance(place.profile));
     }
 };

@@ -66,7 +66,7 @@ private Q_SLOTS:
         Instance instance;
         const auto second = InstanceServer::start(instance.bench.controller());
         QVERIFY(!second);
-        QVERIFY2(second.error().startsWith(u"Veldmark is already running"_s), qPrintable(second.error()));
+        QVERIFY2(second.error().english().startsWith(u"Veldmark is already running"_s), qPrintable(second.error().english()));
         Conversation status(instance.bench, "status"); // the first is not disturbed
         QVERIFY(status.succeeds());
         instance.server.reset();

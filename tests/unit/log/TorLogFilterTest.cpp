@@ -72,8 +72,6 @@ private Q_SLOTS:
     {
         QCOMPARE(TorLogFilter::problemCount(snapshot(sample)), 2);
         QCOMPARE(TorLogFilter::problemCount(TorLog::Snapshot()), 0);
-        QCOMPARE(TorLogFilter::problemsLabel(0), text("Problems"));
-        QCOMPARE(TorLogFilter::problemsLabel(2), text("Problems (2)"));
     }
 
     void saysWhyNothingIsShown()
@@ -81,7 +79,7 @@ private Q_SLOTS:
         const QString folder = text("/var/lib/%2/run");
         const auto words = [&](const TorLogFilter &filter, const TorLog::Snapshot &log) {
             const auto placeholder = filter.placeholder(log, filter.shown(log), folder);
-            return placeholder ? placeholder->title + u'|' + placeholder->text : QString();
+            return placeholder ? placeholder->title.english() + u'|' + placeholder->text.english() : QString();
         };
         QCOMPARE(words({}, TorLog::Snapshot::unreadable()),
                  text("Can't read Tor's log|The log files in /var/lib/%2/run aren't readable by your account. "
@@ -95,15 +93,6 @@ private Q_SLOTS:
         QCOMPARE(words({false, text(" x%1 ")}, calm), text("Nothing matches|No lines contain \u201cx%1\u201d"));
         QCOMPARE(words({true, text("x")}, calm), text("Nothing matches|No lines contain \u201cx\u201d"));
         QCOMPARE(words({true, text("  ")}, calm), text("No warnings or errors. Tor is happy.|"));
-    }
-
-    void namesTheFileAndTheCount()
-    {
-        const QString path = text("/run/notices.log");
-        QCOMPARE(TorLogFilter::subtitle(snapshot({text("a")}), path), text("1 line · /run/notices.log"));
-        QCOMPARE(TorLogFilter::subtitle(snapshot(sample), path), text("4 lines · /run/notices.log"));
-        QCOMPARE(TorLogFilter::subtitle(TorLog::Snapshot(), path), text("Tor writes here while it connects and runs"));
-        QCOMPARE(TorLogFilter::subtitle(TorLog::Snapshot::unreadable(), path), text("Can't read the log files"));
     }
 
     void copiesWholeLines()

@@ -35,10 +35,10 @@ QString table(const PlatformProfile &p)
     }
     const std::vector<std::pair<const char *, QString>> rows{
         {"name", p.name},
-        {"computer", list({p.computer, p.onComputer})},
+        {"computer", list({p.computer.english(), p.onComputer.english()})},
         {"fileManager", p.fileManager},
         {"torInstallHint", p.torInstallHint},
-        {"torMissingText", p.torMissingText},
+        {"torMissingText", p.torMissingText.english()},
         {"homePage", p.homePage},
         {"manualRestoreCommand", p.manualRestoreCommand},
         {"sessionMarker", p.sessionMarker},
@@ -58,7 +58,7 @@ QString table(const PlatformProfile &p)
         {"unzip", p.unzip},
         {"prompt", list({p.promptKind == PromptKind::PolicyKit ? QStringLiteral("PolicyKit") : QStringLiteral("AppleScript"),
                          p.promptProgram})},
-        {"promptText", p.promptText},
+        {"promptText", p.promptText.english()},
         {"torBrowserRoots", list(browsers)},
         {"bundle", list({p.bundleDirectory, p.bundleArchivePrefix})},
         {"applicationSuffix", p.applicationSuffix},

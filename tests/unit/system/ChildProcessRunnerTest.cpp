@@ -36,7 +36,7 @@ QString startErrorOf(const QString &executable, QStringList arguments = {})
 {
     ChildProcessRunner runner;
     const auto result = QCoro::waitFor(runner.run(executable, arguments));
-    return result ? QStringLiteral("(started)") : result.error().description();
+    return result ? QStringLiteral("(started)") : result.error().description().english();
 }
 
 // Ended; perhaps nobody has waited for it yet.

@@ -41,7 +41,7 @@ private Q_SLOTS:
         SettingsStore(home.profile).setBoolean(strict, true);
         home.write("two");
         SettingsStore store(home.profile);
-        QVERIFY(store.problem()->contains(home.broken() + QStringLiteral("-1")));
+        QVERIFY(store.problem()->english().contains(home.broken() + QStringLiteral("-1")));
         QCOMPARE(Home::read(home.broken()), QByteArray("one"));
         QCOMPARE(Home::read(home.broken() + QStringLiteral("-1")), QByteArray("two"));
     }

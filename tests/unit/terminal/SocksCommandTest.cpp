@@ -153,7 +153,7 @@ private Q_SLOTS:
         QFETCH(QString, end);
         const Home home;
         home.file(home.profile.places.root + QStringLiteral("/etc/os-release"), osRelease);
-        const QString hint = socksCommandHint(PlatformProfile::linux(home.profile.places));
+        const QString hint = socksCommandHint(PlatformProfile::linux(home.profile.places)).english();
         QVERIFY2(hint.endsWith(end), qPrintable(hint));
         QVERIFY(hint.startsWith(QStringLiteral("ssh doesn't go through Tor yet")));
     }

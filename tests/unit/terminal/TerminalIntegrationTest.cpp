@@ -29,7 +29,7 @@ TerminalIntegration terminal(const Home &home)
 
 QString failure(const Result<void, TerminalError> &result)
 {
-    return result ? QString() : result.error().description();
+    return result ? QString() : result.error().description().english();
 }
 
 } // namespace

@@ -13,7 +13,7 @@ using namespace veldmark;
 namespace {
 QString failure(const Result<void, TerminalError> &result)
 {
-    return result ? QString() : result.error().description();
+    return result ? QString() : result.error().description().english();
 }
 } // namespace
 

@@ -15,11 +15,11 @@ class DoctorModelTest : public QObject {
 
     static Findings some()
     {
-        return {{QStringLiteral("tor"), Finding::Level::good, "Tor %1 is installed: %2.", {QStringLiteral("0.4.7"), QStringLiteral("%1")}, {}},
-                {QStringLiteral("session"), Finding::Level::note, "The network is still set up.", {}, QStringLiteral("veldmarkctl restore"),
+        return {{QStringLiteral("tor"), Finding::Level::good, Text::tr("Tor %1 is installed: %2.").arg(QStringLiteral("0.4.7"), QStringLiteral("%1")), {}},
+                {QStringLiteral("session"), Finding::Level::note, Text::tr("The network is still set up."), QStringLiteral("veldmarkctl restore"),
                  Finding::Button::restore},
-                {QStringLiteral("clock"), Finding::Level::unknown, "The clock.", {}, QStringLiteral("sudo timedatectl set-ntp true")},
-                {QStringLiteral("bridges"), Finding::Level::problem, "No bridges.", {}, QStringLiteral("veldmarkctl download-transports"),
+                {QStringLiteral("clock"), Finding::Level::unknown, Text::tr("The clock."), QStringLiteral("sudo timedatectl set-ntp true")},
+                {QStringLiteral("bridges"), Finding::Level::problem, Text::tr("No bridges."), QStringLiteral("veldmarkctl download-transports"),
                  Finding::Button::download}};
     }
 
@@ -81,7 +81,7 @@ private Q_SLOTS:
         snapshot.bytesRead = 5;
         session.show(snapshot);
         QCOMPARE(reset.count(), 0);
-        snapshot.findings[0].words[0] = QStringLiteral("0.4.8");
+        snapshot.findings[0].text = Text::tr("Tor %1 is installed: %2.").arg(QStringLiteral("0.4.8"), QStringLiteral("%1"));
         session.show(snapshot);
         QCOMPARE(reset.count(), 1);
     }

@@ -63,7 +63,7 @@ private Q_SLOTS:
         s.errorMessage = QStringLiteral("Tor didn't finish connecting.");
         session.show(s);
         QCOMPARE(panel.waitingFor(), QString());
-        QCOMPARE(panel.error(), *s.errorMessage + u' ' + *s.bootstrapProblem);
+        QCOMPARE(panel.error(), s.errorMessage->english() + u' ' + s.bootstrapProblem->english());
         s.phase = Phase::disconnected;
         session.show(s);
         QCOMPARE(panel.error(), *s.errorMessage);
@@ -164,7 +164,7 @@ private Q_SLOTS:
         row("strict, exposed", s, Tone::Danger, "exclamationmark.shield", "Needs Attention",
             "Disconnect", true, "Click to disconnect");
         s = connected(RoutingMode::strict);
-        s.lookups = {Lookups::Kind::leak, {QStringLiteral("192.168.1.1")}};
+        s.dns = DNSStatus::leak({QStringLiteral("192.168.1.1")});
         row("strict, look-ups leak", s, Tone::Danger, "exclamationmark.shield", "DNS Leak",
             "Disconnect", true, "Click to disconnect");
         s = connected(RoutingMode::strict);
@@ -211,7 +211,7 @@ private Q_SLOTS:
         for (const Phase phase : {Phase::disconnected, Phase::connecting, Phase::connected, Phase::disconnecting, Phase::stale})
             for (const std::optional<RoutingMode> mode : {std::optional<RoutingMode>(), std::optional(RoutingMode::strict), std::optional(RoutingMode::proxy)})
                 for (const Leak::Kind leak : {Leak::Kind::exposed, Leak::Kind::notTested, Leak::Kind::checking, Leak::Kind::blocked, Leak::Kind::inconclusive})
-                    for (const Lookups::Kind lookups : {Lookups::Kind::leak, Lookups::Kind::unknown, Lookups::Kind::checking, Lookups::Kind::throughTor, Lookups::Kind::unverified})
+                    for (const DNSStatus &dns : {DNSStatus::leak({}), DNSStatus::unknown(), DNSStatus::checking(), DNSStatus::throughTor(), DNSStatus::unverified()})
                         for (const std::optional<bool> verified : {std::optional<bool>(), std::optional(false), std::optional(true)}) {
                             Snapshot s;
                             s.torPath = QStringLiteral("/usr/bin/tor");
@@ -219,12 +219,12 @@ private Q_SLOTS:
                             s.activeMode = mode;
                             s.killSwitch = KillSwitch{KillSwitch::State::standing, 0, {}};
                             s.leak = {leak, QStringLiteral("198.51.100.23")};
-                            s.lookups.kind = lookups;
+                            s.dns = dns;
                             s.torVerified = verified;
                             session.show(s);
                             ++combinations;
                             const bool strict = phase == Phase::connected && mode == RoutingMode::strict;
-                            const bool known = lookups == Lookups::Kind::leak || leak == Leak::Kind::exposed;
+                            const bool known = dns.isLeak() || leak == Leak::Kind::exposed;
                             if (panel.tone() == Tone::Good) {
                                 ++green;
                                 QVERIFY(strict && verified == true && !known);
@@ -232,13 +232,13 @@ private Q_SLOTS:
                             if (panel.title() == QLatin1String("Protected"))
                                 QVERIFY(strict && !known);
                             if (panel.symbol() == QLatin1String("lock.shield.fill"))
-                                QVERIFY(phase == Phase::connected && lookups != Lookups::Kind::leak);
-                            if (phase == Phase::connected && lookups == Lookups::Kind::leak)
+                                QVERIFY(phase == Phase::connected && !dns.isLeak());
+                            if (phase == Phase::connected && dns.isLeak())
                                 QCOMPARE(panel.tone(), Tone::Danger);
                             if (phase != Phase::connected && panel.pillText().startsWith(QLatin1String("Connected")))
                                 QFAIL("a bridge is said to be connected through");
                             if (panel.leakText() == QLatin1String("No leaks"))
-                                QVERIFY(leak == Leak::Kind::blocked && lookups != Lookups::Kind::leak);
+                                QVERIFY(leak == Leak::Kind::blocked && !dns.isLeak());
                             if (panel.verification() == QLatin1String("Verified"))
                                 QVERIFY(verified == true);
                         }
@@ -433,7 +433,7 @@ private Q_SLOTS:
         session.show(s);
         QTEST(panel.leakText(), "text");
         QCOMPARE(panel.leakHelp(), help + QStringLiteral("\nDNS: not tested yet."));
-        s.lookups = {Lookups::Kind::leak, {QStringLiteral("192.168.1.1 on en0")}};
+        s.dns = DNSStatus::leak({QStringLiteral("192.168.1.1 on en0")});
         session.show(s);
         QCOMPARE(panel.leakText(), QStringLiteral("DNS leak"));
         QCOMPARE(panel.leakHelp(), help + QStringLiteral("\nDNS can go around Tor via: 192.168.1.1 on en0"));
@@ -468,11 +468,11 @@ private Q_SLOTS:
         StandInSession session(profile);
         PanelModel panel(session);
         Snapshot s = connected(RoutingMode::proxy);
-        s.lookups = {Lookups::Kind::leak, {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}};
+        s.dns = DNSStatus::leak({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
         session.show(s);
         QCOMPARE(panel.leakingResolvers().size(), 3);
         QCOMPARE(panel.moreResolvers(), QString());
-        s.lookups.leaks << QStringLiteral("d") << QStringLiteral("e");
+        s.dns = DNSStatus::leak(s.dns.leaks() + QStringList{QStringLiteral("d"), QStringLiteral("e")});
         session.show(s);
         QCOMPARE(panel.leakingResolvers().size(), 3);
         QCOMPARE(panel.moreResolvers(), QStringLiteral("2 more"));

@@ -1,0 +1,14 @@
+#include "base/UsersLanguage.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+namespace veldmark {
+
+UsersLanguage::UsersLanguage()
+{
+    if (m_translator.load(QLocale(), QStringLiteral("veldmark"), QStringLiteral("_"), QStringLiteral(":/i18n")))
+        QCoreApplication::installTranslator(&m_translator);
+}
+
+} // namespace veldmark

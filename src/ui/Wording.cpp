@@ -1,0 +1,20 @@
+#include "ui/Wording.h"
+
+namespace veldmark {
+
+QString shownName(BridgeChoice choice)
+{
+    return choice == BridgeChoice::custom ? Text::tr("Custom").translated() : displayName(choice);
+}
+
+bool isCommand(const QString &installHint)
+{
+    return installHint.contains(QLatin1String("install ")) || installHint.contains(QLatin1String("pacman "));
+}
+
+QString shownHint(const QString &installHint)
+{
+    return isCommand(installHint) ? installHint : Text::tr("your package manager").translated();
+}
+
+} // namespace veldmark
