@@ -318,16 +318,16 @@ def download(lab: Lab, size: int, *options: str) -> str:
                          f"http://{at.WEB_HOSTS[0]}/bytes/{size}"], check=True, timeout=300).stdout
 
 
-def downloads(lab: Lab, product: Product, pairs: int = 8) -> None:
+def downloads(lab: Lab, product: Product, pairs: int = 12) -> None:
     """What an application has of it: bytes a second through Tor, with the rules and without, by turns. Tor makes its connections anew
     each time, since the rules let nothing go on that they have not seen begin."""
     hashed = lab.host.run(["tor", "--quiet", "--hash-password", "bench"], check=True).stdout.split()[-1]
     product.run_helper("connect", "--tor", "/usr/bin/tor", "--hash", hashed, "--strict", "1", "--lan", "0", check=True)
     lab.host.run(["pkill", "-KILL", "-f", "watcher[.]sh"], check=True)
-    rules = {"with": f"nft -f {RUN_FOLDER}/firewall.nft", "without": "nft delete table inet veldmark"}
+    rules = {"with": f"nft -f {RUN_FOLDER}/firewall.nft", "without": "nft add table inet veldmark; nft delete table inet veldmark"}
     speeds: dict[str, list[float]] = {"with": [], "without": []}
-    for _ in range(pairs):
-        for which, change in rules.items():
+    for pair in range(pairs):
+        for which, change in sorted(rules.items(), reverse=pair % 2 == 1):
             lab.host.run(["sh", "-c", change], check=True)
             for off in 1, 0:
                 lab.host.run(["/usr/bin/python3", "-c", CONTROL, f'AUTHENTICATE "bench"\r\nSETCONF DisableNetwork={off}\r\nQUIT\r\n'], check=True)

@@ -205,11 +205,13 @@ print_local_matches() {
   for range in ${LAN6//,/}; do printf '\t\tip6 daddr %s goto local_network\n' "$range"; done
 }
 
-# print_strict_rules TOR_UID USER_UID LAN UDP SERVERS4 SERVERS6 GROUP NEAR: nothing leaves but Tor's own traffic.
+# print_strict_rules TOR_UID USER_UID LAN UDP SERVERS4 SERVERS6 GROUP NEAR BRIDGES4 BRIDGES6: nothing leaves but Tor's own traffic.
 # LAN 1 opens the local network; UDP 1 lets Tor's account send UDP (snowflake); SERVERS4 and SERVERS6 are the
 # resolvers, joined by commas, that Tor's transports may ask, usually none; GROUP is the control group of the
 # applications without Tor, empty for none; NEAR 1 lets Tor reach the local network, where one of its bridges is.
-# What Tor answers a look-up does not leave: anybody can give one a sender elsewhere (IPV6_FREEBIND).
+# BRIDGES4 and BRIDGES6 are the bridges, "ADDRESS . PORT" joined by commas, where Tor needs nothing else: then whoever has taken Tor or
+# its control password over reaches nothing else either.
+# What Tor and its transports answer does not leave: anybody can ask with a sender elsewhere (IPV6_FREEBIND).
 # Only positive matches on the account: a packet without a socket matches neither "skuid X" nor "skuid != X".
 # What comes in for this computer's own address does so where route_localnet is on, and would reach Tor's ports from the
 # local network.
@@ -227,19 +229,27 @@ print_strict_rules() {
   [[ $3 != 1 ]] || print_local_chains
   print_text <<END
 	chain tors_account {
+		ct direction reply goto refused
 END
-  [[ -z $5 ]] || printf '\t\tip daddr { %s } udp dport 53 accept\n' "$5"
-  [[ -z $6 ]] || printf '\t\tip6 daddr { %s } udp dport 53 accept\n' "$6"
-  if [[ $3 != 1 && ${8-} != 1 ]]; then
-    # Whoever has taken Tor over gets no further than anybody else. An opening packet is enough to look at.
-    print_text <<END
+  if [[ -n ${9-}${10-} ]]; then
+    [[ -z ${9-} ]] || printf '\t\tip daddr . tcp dport { %s } accept\n' "$9"
+    [[ -z ${10-} ]] || printf '\t\tip6 daddr . tcp dport { %s } accept\n' "${10}"
+  else
+    [[ -z $5 ]] || printf '\t\tip daddr { %s } udp dport 53 accept\n' "$5"
+    [[ -z $6 ]] || printf '\t\tip6 daddr { %s } udp dport 53 accept\n' "$6"
+    if [[ $3 != 1 && ${8-} != 1 ]]; then
+      # Whoever has taken Tor over gets no further than anybody else. An opening packet is enough to look at.
+      print_text <<END
 		tcp flags & syn == 0 accept
 		ip daddr { $LAN4 } goto refused
 		ip6 daddr { $LAN6 } goto refused
 END
+    fi
+    printf '\t\tmeta l4proto tcp accept\n'
+    [[ $4 != 1 ]] || printf '\t\tmeta l4proto udp accept\n'
   fi
-  printf '\t\tmeta l4proto tcp accept\n'
-  [[ $4 != 1 ]] || printf '\t\tudp sport %s goto refused\n\t\tmeta l4proto udp accept\n' "$DNS_PORT"
+  # Its account is one of the system's: what is for those alone is not for Tor.
+  [[ $3 == 1 ]] || printf '\t\tgoto refused\n'
   print_text <<END
 	}
 	chain neighbours {
@@ -298,7 +308,7 @@ END
 # kill_switch_stands: asks the kernel; the marker alone may be from before a restart of the computer. Status 2 when it cannot be told.
 kill_switch_stands() {
   local output
-  if output=$(nft list chain inet "$TABLE" output 2>&1); then
+  if output=$(nft_without_groups list chain inet "$TABLE" output 2>&1); then
     [[ $output == *"policy drop;"* ]]
   elif [[ $output != *"No such file or directory"* ]]; then
     return 2
@@ -326,16 +336,6 @@ load_rules() {
   output=$(nft -f - 2>&1 <<<"$1") || die "The firewall rules were not accepted ($(first_line "$output"))."
 }
 
-# bridges_are_near: whether one of the bridges is on the local network, by its address or by that in its URL.
-bridges_are_near() {
-  local bridge
-  for bridge in ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"}; do
-    [[ ! $bridge =~ (^|[^0-9.])(10|192\.168|172\.(1[6-9]|2[0-9]|3[01])|169\.254)\.[0-9.]+ ]] || return 0
-    [[ ! $bridge =~ \[[Ff]([Ee][89AaBb]|[CcDd])[0-9A-Fa-f]*: ]] || return 0
-  done
-  return 1
-}
-
 # put_firewall MODE: keeps the text first, so that the rules can be put back by fix-dns.
 put_firewall() {
   local text udp=0 near=0 servers4='' servers6=''
@@ -343,11 +343,12 @@ put_firewall() {
   if [[ $1 == strict ]]; then
     [[ -z $USED_SNOWFLAKE ]] || udp=1
     ! bridges_are_near || near=1
+    list_bridges
     if transports_need_names; then
       servers4=$(list_servers 4 "$FORMER_RESOLVER")
       servers6=$(list_servers 6 "$FORMER_RESOLVER")
     fi
-    text=$(print_strict_rules "$TOR_UID" "$CALLER_UID" "$OPT_LAN" "$udp" "$servers4" "$servers6" "$EXEMPT_PATH" "$near")
+    text=$(print_strict_rules "$TOR_UID" "$CALLER_UID" "$OPT_LAN" "$udp" "$servers4" "$servers6" "$EXEMPT_PATH" "$near" "$BRIDGES4" "$BRIDGES6")
   else
     text=$(print_proxy_rules "$TOR_UID" "$CALLER_UID")
   fi
@@ -364,11 +365,17 @@ release_rules() { exec 7>&-; }
 note_listing() { read_listing "$TABLE" && keep_listing; }
 keep_listing() { write_file "$LISTED" 0600 root "$LISTING"$'\n'; }
 
+# nft_without_groups WORD...: lists without names of control groups. To find the name of one, nft looks at all that there are, and any user may
+# make so many that this takes minutes. In a mount namespace where it sees none, it prints their numbers.
+# shellcheck disable=SC2016,SC2089
+readonly WITHOUT_GROUPS='mount -t tmpfs none /sys/fs/cgroup && exec nft "$@"'
+nft_without_groups() { unshare --mount --propagation private sh -c "$WITHOUT_GROUPS" nft "$@"; }
+
 # read_listing TABLE: sets LISTING to how the kernel tells it, without counters, without what a set has taken up meanwhile, and
 # without blanks, which not every nft puts in the same places.
 LISTING=''
 read_listing() {
-  LISTING=$(nft -s -t list table inet "$1") || return 1
+  LISTING=$(nft_without_groups -s -t list table inet "$1") || return 1
   LISTING=${LISTING//[[:blank:]]/}
 }
 

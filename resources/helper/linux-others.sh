@@ -81,7 +81,7 @@ name_others() {
 # note_others: what cannot be read is not told.
 note_others() {
   local names
-  read_chains < <(timeout -k 1 5 nft -s -t list ruleset)
+  read_chains < <(timeout -k 1 5 unshare --mount --propagation private sh -c "$WITHOUT_GROUPS" nft -s -t list ruleset)
   names=$(name_others)
   rm -f -- "$OTHERS_NOTE"
   [[ -z $names ]] || write_file "$OTHERS_NOTE" 0644 root "$names"$'\n' || true

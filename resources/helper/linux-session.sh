@@ -143,7 +143,7 @@ undo_session() {
 # transaction, so that also a flushed kill switch stands again.
 linux_fix-dns() {
   (($# == 0)) || die "The verb fix-dns takes no options."
-  need_programs flock nft mount umount readlink stat sync
+  need_programs flock nft mount unshare umount readlink stat sync
   lift_limits
   take_lock
   trap finish EXIT

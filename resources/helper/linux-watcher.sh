@@ -78,7 +78,10 @@ print_unexempt() {
 
 # monitor PARENT KIND: becomes nft's monitor, which dies with its parent, also with one that has died before this could be arranged.
 # shellcheck disable=SC2016
-monitor() { exec setpriv --pdeathsig KILL sh -c '[ "$PPID" != "$1" ] || exec nft monitor "$2"' monitor "$1" "$2"; }
+monitor() {
+  exec setpriv --pdeathsig KILL unshare --mount --propagation private \
+    sh -c '[ "$PPID" != "$1" ] || { shift; '"$WITHOUT_GROUPS"'; }' monitor "$1" monitor "$2"
+}
 
 # monitor_rules: one for each kind of change that the listing tells, and none for the elements of sets, which come and go with
 # applications. The first is the others' parent.
@@ -159,10 +162,11 @@ watch_rules() {
 
 print_watcher() {
   printf 'set -uo pipefail\numask 077\nPATH=%s\nLC_ALL=C\nexport PATH LC_ALL\ncd /\n' "$PATH"
+  # shellcheck disable=SC2090
   declare -p TABLE RULES LISTED RULES_LOCK MARKER KILL_SWITCH_NOTE WATCH_SECONDS BEAT_SECONDS EXEMPT_NAME RUN_GROUP TOR_GROUP CGROUPS \
-    WORD MISSED SINCE NOTED JOURNAL TOR_ENTRY SOCKS_PORT CONTROL_PORT DNS_PORT
+    WITHOUT_GROUPS WORD MISSED SINCE NOTED JOURNAL TOR_ENTRY SOCKS_PORT CONTROL_PORT DNS_PORT
   printf 'STRUGGLES=0 LESSENED= LISTING= TREE= TOR_UID= VOUCHED= CHILDREN= START_TIME= BOOT= RECORDED_PID= JOURNAL_LINES=()\n'
-  declare -f read_marker put_in_place write_file note_rules hold_rules release_rules keep_listing rules_stand find_tree make_group make_groups read_listing copy_stands \
+  declare -f read_marker put_in_place write_file note_rules hold_rules release_rules keep_listing rules_stand find_tree make_group make_groups nft_without_groups read_listing copy_stands \
     print_unexempt relock monitor monitor_rules beat await_change port_sockets has_socket \
     journal_has journal_read read_lines read_boot start_time find_recorded read_children ports_are_tors watch_rules
   printf 'watch_rules\n'

@@ -279,26 +279,28 @@ class Hostile(HelperTest):
         self.assertTrue(self.has_late_cut())
 
     def test_what_tor_answers_does_not_leave(self):
-        """A look-up may come with any sender, who then gets Tor's answer, where Tor may send datagrams."""
+        """Neither a look-up's answer nor a bridge program's: what comes from this computer may bear any sender, who then gets the answer,
+        where Tor's account may send datagrams."""
         answer = ("import os, socket, sys, threading\nthreading.Thread(target=lambda: (sys.stdin.read(), os._exit(0)), daemon=True).start()\n"
-                  f"s = socket.socket(socket.AF_INET6, socket.SOCK_DGRAM); s.bind(('::1', {DNS_PORT})); print('up', flush=True)\n"
+                  "s = socket.socket(socket.AF_INET6, socket.SOCK_DGRAM); s.bind((sys.argv[1], int(sys.argv[2]))); print('up', flush=True)\n"
                   "while True:\n data, where = s.recvfrom(999)\n try: s.sendto(b'answer', where); print('sent', flush=True)\n except OSError: print('refused', flush=True)")
-        ask = (f"import socket\ns = socket.socket(socket.AF_INET6, socket.SOCK_DGRAM); s.setsockopt(socket.IPPROTO_IPV6, 78, 1); s.bind(('{probes.PUBLIC6}', 40404))\n"
-               f"s.sendto(b'q' * 30, ('::1', {DNS_PORT}))")   # 78: IPV6_FREEBIND
-        self.machine.connect(more=["--bridge", "snowflake 192.0.2.3:80", "--pt-snowflake", "/usr/bin/snowflake-client"])
-        tor = self.machine.start(*AS_TOR, "/usr/bin/python3", "-c", answer, group=TOR_GROUP, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
-        self.assertEqual(tor.stdout.readline(), "up\n")
-        try:
-            for said, seen in ("refused\n", False), ("sent\n", True):
-                if seen:
-                    self.machine.end_watcher()
-                    self.machine.shell("nft flush chain inet veldmark tors_account; nft add rule inet veldmark tors_account accept")
-                self.wire.mark()
-                self.machine.run("/usr/bin/python3", "-c", ask, uid=OTHER_UID)
-                self.assertEqual(tor.stdout.readline(), said)
-                self.assertEqual(f"other udp {probes.PUBLIC6} 40404" in self.wire.mark(), seen)
-        finally:
-            tor.communicate()
+        ask = (f"import socket, sys\ns = socket.socket(socket.AF_INET6, socket.SOCK_DGRAM); s.setsockopt(socket.IPPROTO_IPV6, 78, 1); s.bind(('{probes.PUBLIC6}', 40404))\n"
+               "s.sendto(b'q' * 30, (sys.argv[1], int(sys.argv[2])))")   # 78: IPV6_FREEBIND
+        for own, at, port in ("::1", "::1", DNS_PORT), ("::", "fd00:77::2", 6881):
+            self.machine.connect(more=["--bridge", "snowflake 192.0.2.3:80", "--pt-snowflake", "/usr/bin/snowflake-client"])
+            tor = self.machine.start(*AS_TOR, "/usr/bin/python3", "-c", answer, own, str(port), group=TOR_GROUP, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+            self.assertEqual(tor.stdout.readline(), "up\n")
+            try:
+                for said, seen in ("refused\n", False), ("sent\n", True):
+                    if seen:
+                        self.machine.end_watcher()
+                        self.machine.shell("nft flush chain inet veldmark tors_account; nft add rule inet veldmark tors_account accept")
+                    self.wire.mark()
+                    self.machine.run("/usr/bin/python3", "-c", ask, at, str(port), uid=OTHER_UID)
+                    self.assertEqual(tor.stdout.readline(), said)
+                    self.assertEqual(f"other udp {probes.PUBLIC6} 40404" in self.wire.mark(), seen)
+            finally:
+                tor.communicate()
 
     def test_tors_account_alone_passes_nothing(self):
         """A setuid file that it has left in an earlier session, say."""
@@ -325,12 +327,64 @@ class Hostile(HelperTest):
 
     def test_tor_reaches_the_local_network_for_a_bridge_there_alone(self):
         lan = {"lan-tcp", "lan-dns-tcp", "lan-dns-tls"}
-        self.machine.connect()
-        self.assertEqual(self.wire.arrivals(self.tor_uid, TOR_GROUP) & lan, set())
-        self.machine.connect(more=["--bridge", "203.0.113.7:443"])
-        self.assertEqual(self.wire.arrivals(self.tor_uid, TOR_GROUP) & lan, set())
-        self.machine.connect(more=["--bridge", "192.168.77.30:443"])
-        self.assertEqual(self.wire.arrivals(self.tor_uid, TOR_GROUP) & lan, lan)
+        for url, reached in (None, set()), ("https://203.0.113.7/", set()), ("https://192.168.77.30/", lan):
+            self.machine.connect(more=["--bridge", f"webtunnel 192.0.2.3:80 url={url}", "--pt-lyrebird", "/usr/bin/obfs4proxy"] if url else [])
+            self.assertEqual(self.wire.arrivals(self.tor_uid, TOR_GROUP) & lan, reached, url)
+
+    def test_over_bridges_tors_account_reaches_nothing_else(self):
+        """Whoever has the control password can name proxies, bridges and programs."""
+        bridges = [f"{probes.SENTINEL}:{self.wire.marks + number}" for number in range(1, 5)]   # what tells the end of a round
+        bridges += [f"obfs4 {probes.PUBLIC}:443 cert=a iat-mode=0", f"[{probes.PUBLIC6}]:1002", f"{probes.LAN}:1006"]
+        more = [word for bridge in bridges for word in ("--bridge", bridge)] + ["--pt-lyrebird", "/usr/bin/obfs4proxy"]
+        self.machine.connect(more=more)
+        self.assertEqual(self.wire.arrivals(self.tor_uid, TOR_GROUP), {"https", "tcp6", "lan-tcp"})
+        # Where the transport asks a front, or the administrator has put a proxy in between, it may be anybody.
+        self.machine.connect(more=[*more, "--bridge", "webtunnel 192.0.2.3:80 url=https://a.example/"])
+        self.assertLessEqual({"tcp", "https", "dns-tls"}, self.wire.arrivals(self.tor_uid, TOR_GROUP))
+        self.machine.shell("cp /etc/tor/torrc-defaults /run/defaults; echo 'HTTPSProxy 192.0.2.8:8' >>/etc/tor/torrc-defaults")
+        try:
+            self.machine.connect(more=more)
+            self.assertLessEqual({"tcp", "https", "dns-tls"}, self.wire.arrivals(self.tor_uid, TOR_GROUP))
+        finally:
+            self.machine.help("disconnect")
+            self.machine.shell("cat /run/defaults >/etc/tor/torrc-defaults; rm /run/defaults")
+        self.before = self.machine.snapshot()
+
+    # ---- The control port ----
+
+    def control(self, *lines, uid=USER_UID):
+        """Tor's replies, one for each line."""
+        talk = ("import socket, sys\nc = socket.create_connection(('127.0.0.1', 9051), 10); f = c.makefile('rw', newline='\\r\\n')\n"
+                "for line in sys.argv[1:]:\n f.write(line + '\\n'); f.flush(); reply = f.readline()\n while reply[3:4] == '-': print(reply.strip()); reply = f.readline()\n print(reply.strip())")
+        return self.machine.run("/usr/bin/python3", "-c", talk, *lines, uid=uid).stdout.splitlines()
+
+    def connect_with_password(self, *more):
+        hashed = self.machine.run(namespace.TOR, "--quiet", "--hash-password", "the word").stdout.strip()
+        self.machine.help("connect", "--tor", namespace.TOR, "--hash", hashed, "--strict", "1", "--lan", "0", *more, env={"PATH": os.environ["PATH"], "PKEXEC_UID": str(USER_UID)})
+
+    def test_without_the_password_the_control_port_does_nothing(self):
+        self.connect_with_password()
+        self.assertIn("250-AUTH METHODS=HASHEDPASSWORD", self.control("PROTOCOLINFO 1"))
+        for words in "AUTHENTICATE", 'AUTHENTICATE ""', 'AUTHENTICATE "another"', "GETINFO config-text", "SETCONF HTTPSProxy=192.0.2.8:8":
+            self.assertRegex(self.control(words)[-1], "^51[45] ")
+        self.assertEqual(self.control('AUTHENTICATE "the word"', "SETCONF HTTPSProxy=192.0.2.8:8"), ["250 OK", "250 OK"])
+        # Not even its hash is told, which could be tried out elsewhere.
+        for uid in USER_UID, OTHER_UID:
+            self.assertNotEqual(self.machine.run("cat", "/var/lib/veldmark/run/torrc", uid=uid, check=False).returncode, 0)
+
+    def test_without_bridges_the_password_runs_no_program(self):
+        """Tor takes the words, and starts nothing. It is let to the network, which leads nowhere here: else it starts none anyhow."""
+        words = ('AUTHENTICATE "the word"', f'SETCONF ClientTransportPlugin="obfs4 exec /usr/bin/touch {DATA}/ran" UseBridges=1 Bridge="obfs4 192.0.2.1:443"', "SETCONF DisableNetwork=0")
+        log = "/var/lib/veldmark/run/notices.log"
+        for more, runs in ([], False), (["--bridge", "obfs4 192.0.2.1:443 cert=a iat-mode=0", "--pt-lyrebird", "/usr/bin/obfs4proxy"], True):
+            self.connect_with_password(*more)
+            if not runs:
+                self.assertNotEqual(self.control(words[0], "SETCONF NoExec=0")[-1][:3], "250")
+            self.control(*words)
+            self.machine.shell(f"until [ -e {DATA}/ran ] || grep -q 'not compatible with NoExec mode' {log}; do sleep 0.01; done")
+            self.assertEqual(self.machine.shell(f"ls {DATA}/ran || true").strip() != "", runs)
+            self.machine.help("disconnect")
+            self.machine.shell(f"rm -f {DATA}/ran")
 
     # ---- What Tor's account leaves ----
 
@@ -492,9 +546,9 @@ class Hostile(HelperTest):
                " with socket.socket(family, kind) as s:\n  s.setsockopt(socket.SOL_SOCKET, socket.SO_BROADCAST, 1); s.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1)\n"
                "  s.bind(('', own))\n  try: s.sendto(b'?', to)\n  except PermissionError: pass")
 
-        def seen(uid):
+        def seen(uid, group=None):
             self.wire.mark()
-            self.machine.run("/usr/bin/python3", "-c", ask, uid=uid)
+            self.machine.run("/usr/bin/python3", "-c", ask, uid=uid, group=group)
             return sorted(line.split()[2] for line in self.wire.mark() if line.endswith((" 67", " 547")))
         self.machine.shell("sysctl -qw net.ipv4.ip_unprivileged_port_start=0; ip neigh replace fe80::1 lladdr 02:00:00:00:00:01 dev veth0")
         try:
@@ -504,6 +558,8 @@ class Hostile(HelperTest):
             self.assertEqual(seen(OTHER_UID), [])
             for uid in 0, 998:
                 self.assertEqual(seen(uid), everywhere)
+            self.assertLess(self.tor_uid, 1000)
+            self.assertEqual(seen(self.tor_uid, TOR_GROUP), [], "Tor's account is one of the system's, and asks for none")
         finally:
             self.machine.shell("sysctl -qw net.ipv4.ip_unprivileged_port_start=1024; ip neigh del fe80::1 dev veth0")
 

@@ -191,12 +191,27 @@ class Identities(HelperTest):
     def test_it_has_one_right_of_roots(self):
         self.connect()
         status = dict(line.split(":\t", 1) for line in self.machine.shell(f"cat /proc/{self.pid()}/status").splitlines() if ":\t" in line)
-        self.assertEqual(set(status["Uid"].split() + status["Gid"].split()), {"65534"})
+        self.assertEqual(set(status["Uid"].split() + status["Gid"].split()), {"65533"})
         self.assertEqual({int(status[key], 16) for key in ("CapInh", "CapPrm", "CapEff", "CapBnd", "CapAmb")}, {1 << 12})
         self.assertEqual((status["NoNewPrivs"], status["Groups"].strip()), ("1", ""))
         links = self.machine.shell(f"ls -l /proc/{self.pid()}/fd | grep -o '>.*'").splitlines()
         self.assertEqual(sorted(re.sub(r"\d+", "N", link) for link in links),
                          sorted(["> /dev/null"] * 2 + [f"> {STATE}", "> anon_inode:inotify"] + ["> socket:[N]"] * 3 + [link for link in map(lambda l: re.sub(r"\d+", "N", l), links) if "pipe" in link or "deleted" in link]))
+
+    def test_what_runs_as_nobody_does_not_stop_it(self):
+        """Other services run so."""
+        self.connect()
+        other = self.machine.start("setpriv", "--reuid=65534", "--regid=65534", "--clear-groups", "sh", "-c", "echo $$; exec sleep 1000", stdout=subprocess.PIPE, text=True)
+        nobodys = other.stdout.readline().strip()
+        try:
+            for pid, refused in (self.pid(), True), (nobodys, False):
+                for words in ["kill", "-STOP", pid], ["prlimit", "--fsize=0:0", "--pid", pid], ["renice", "19", "-p", pid], ["kill", "-KILL", pid]:
+                    self.assertEqual(self.machine.run(*words, uid=65534, check=False).returncode != 0, refused, words)
+        finally:
+            self.machine.run("kill", "-KILL", nobodys, check=False)
+            other.kill()   # what has entered for it stands still as it did
+            other.communicate()
+        self.mapped("app-mail-7.scope")
 
     def test_a_users_program_is_not_run(self):
         self.machine.shell(f"chown {USER_UID} {PLACE}/veldmark-identify")

@@ -18,6 +18,7 @@ CASES = {
     "strict-root": "print_strict_rules 991 0 0 0 '' '' ''",
     "identities": "print_identities 0 1000 65534",
     "strict-groups": "TOR_PATH=veldmark/tor; print_strict_rules 991 1000 0 1 '' '' veldmark-exempt 1",
+    "strict-bridges": "print_strict_rules 991 1000 0 0 '' '' '' '' '192.0.2.1 . 443' '2001:db8::1 . 9030'",
     "proxy": "print_proxy_rules 991 1000",
 }
 

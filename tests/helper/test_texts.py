@@ -66,14 +66,17 @@ class Rules(unittest.TestCase):
             account = re.search(r"chain tors_account {\n(.*?)\t}", text, re.DOTALL).group(1)
             return set(text.splitlines()), account.splitlines()
         plain, account = lines("0 0 '' ''")
-        self.assertEqual((account[0], account[-1]), ("\t\ttcp flags & syn == 0 accept", "\t\tmeta l4proto tcp accept"))
-        for arguments, added in (("0 1 '' ''", ["\t\tudp sport 293 goto refused", "\t\tmeta l4proto udp accept"]),
+        self.assertEqual(account[:2] + account[-2:], ["\t\tct direction reply goto refused", "\t\ttcp flags & syn == 0 accept",
+                                                      "\t\tmeta l4proto tcp accept", "\t\tgoto refused"])
+        for arguments, added in (("0 1 '' ''", ["\t\tmeta l4proto udp accept"]),
                                  ("0 0 192.0.2.1 2001:db8::1", ["\t\tip daddr { 192.0.2.1 } udp dport 53 accept",
                                                                "\t\tip6 daddr { 2001:db8::1 } udp dport 53 accept"])):
             more, account_more = lines(arguments)
             self.assertEqual(sorted(account_more), sorted(account + added))
             self.assertEqual(more - plain, set(added))
-        self.assertEqual(lines("0 0 '' '' '' 1")[1], ["\t\tmeta l4proto tcp accept"])
+        self.assertEqual(lines("0 0 '' '' '' 1")[1], [account[0], *account[-2:]])
+        self.assertEqual(lines("0 0 '' '' '' '' '192.0.2.1 . 443' '2001:db8::1 . 9'")[1],
+                         [account[0], "\t\tip daddr . tcp dport { 192.0.2.1 . 443 } accept", "\t\tip6 daddr . tcp dport { 2001:db8::1 . 9 } accept", account[-1]])
         opened = lines("1 0 '' ''")[0] - plain
         self.assertIn("\t\tip daddr 192.168.0.0/16 goto local_network", opened)
         self.assertIn("\t\tip6 daddr fc00::/7 goto local_network", opened)
@@ -88,6 +91,20 @@ class Rules(unittest.TestCase):
         for chain, refused in ("local_network", "tcp dport { 53,"), ("local_udp", "th dport { 53,"):
             body = re.search(rf"chain {chain} {{(.*?)\n\t}}", text, re.DOTALL).group(1)
             self.assertLess(body.index(refused), body.index("\t\taccept"))
+
+    BRIDGES = {   # the lines, and what Tor may send to; None for everybody
+        ("192.0.2.1:443",): "192.0.2.1 . 443|",
+        ("obfs4 192.0.2.1:444 ABC cert=a iat-mode=0", "[2001:db8::1]:9 ABC", "scramblesuit 192.0.2.2:1", "obfs3 192.0.2.3:65535"):
+            "192.0.2.1 . 444, 192.0.2.2 . 1, 192.0.2.3 . 65535|2001:db8::1 . 9",
+        ("192.0.2.1:443 " + "A" * 40 + " url=https://192.0.2.9:8/",): "192.0.2.1 . 443|",
+        (): None, ("192.0.2.1:443", "webtunnel 192.0.2.3:80 url=https://a.example/"): None, ("snowflake 192.0.2.3:80",): None,
+        ("meek_lite 192.0.2.3:80 url=https://a.example/",): None, ("192.0.2.1:443", "010.2.3.4:443"): None, ("256.1.1.1:443",): None, ("2001:db8::1:443",): None,
+        ("[::ffff:1.2.3.4]:443",): None, ("192.0.2.1:65536",): None, ("192.0.2.1:0",): None, ("192.0.2.1:0443",): None, ("obfs4x 192.0.2.1:443",): None}
+
+    def test_bridges_that_are_all_that_tor_needs(self):
+        for lines, wanted in self.BRIDGES.items():
+            words = " ".join(f"'{line}'" for line in lines)
+            self.assertEqual(call(f"OPT_BRIDGES=({words}); list_bridges; printf '%s|%s' \"$BRIDGES4\" \"$BRIDGES6\""), wanted or "|", lines)
 
     def test_one_transaction_replaces_the_table(self):
         for rules in call("print_strict_rules 99 0 0 0 '' ''"), call("print_proxy_rules 99 0"):

@@ -7,7 +7,7 @@ import time
 
 import namespace
 import probes
-from namespace import HelperTest
+from namespace import USER_UID, HelperTest
 from wire import LINK, Flood, Wire
 
 LIMIT = 5.0   # seconds from the change to the rules in force again
@@ -114,6 +114,27 @@ class Watcher(HelperTest):
         self.machine.shell("pkill -STOP -xf 'nft monitor [a-z]*'")   # and not what it looks with
         self.seconds_until_locked("nft flush ruleset")
         self.machine.shell("pkill -CONT -xf 'nft monitor [a-z]*'")
+
+    def test_groups_that_users_make_do_not_delay_it(self):
+        """Whoever asks nft for the rules with the names of control groups waits longer the more there are, and any user makes thousands
+        a second."""
+        self.machine.shell(f"chmod 755 /sys/fs/cgroup; mkdir /sys/fs/cgroup/user.slice; chown {USER_UID} /sys/fs/cgroup/user.slice")
+        try:
+            self.machine.run("/usr/bin/python3", "-c", "import os\nfor n in range(8000): os.mkdir('/sys/fs/cgroup/user.slice/%d' % n)", uid=USER_UID)
+            started = time.monotonic()
+            self.machine.shell("timeout 2 nft list table inet veldmark || test $? = 124")
+            self.assertGreater(time.monotonic() - started, 1, "names take long")
+            for number in 1, 2, 3:
+                started = time.monotonic()
+                self.machine.shell("nft flush ruleset; until nft list tables | grep -q veldmark; do sleep 0.01; done")
+                self.assertLess(time.monotonic() - started, LIMIT)
+                self.wait_note(f"restored {number}")   # the next is a change of its own
+            self.wait_look()
+            self.assertEqual(self.note(), "restored 3")
+            self.machine.help("fix-dns", timeout=LIMIT)
+        finally:
+            self.machine.help("disconnect")
+            self.machine.shell("cd /sys/fs/cgroup; find user.slice -depth -type d -exec rmdir {} +", timeout=120)
 
     def test_the_change_is_told(self):
         self.assertEqual(self.note(), "standing 0")

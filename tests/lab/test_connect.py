@@ -32,6 +32,21 @@ REAL_NFT = "/usr/local/sbin/real-nft"
 PROXY_DEATH = ("Tor stopped running. Apps using the proxy can't connect until you reconnect or Restore Network.")
 
 
+# Takes Tor's place at its control port and prints the first line that it gets, as Tor's account, then as nobody.
+LISTENERS = """import os, pwd, signal, socket, subprocess
+tor = pwd.getpwnam("_veldmark").pw_uid
+subprocess.run(["pkill", "-KILL", "-u", str(tor)])
+s = socket.socket(); s.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1)
+while True:
+    try: s.bind(("127.0.0.1", 9051)); break
+    except OSError: pass
+s.listen()
+for uid in tor, 65534:
+    os.seteuid(uid); c = s.accept()[0]; os.seteuid(0)
+    c.settimeout(30); print(c.makefile().readline().strip(), flush=True); c.close()
+"""
+
+
 class LabCase(unittest.TestCase):
     """One lab for all tests of a class; every test begins with default settings and must leave the host as it was. A class that
     itself leaves its lab as it was may share it: SHARED."""
@@ -332,6 +347,27 @@ class AnOrdinaryUser(LabCase):
             self.assertEqual((state["torVerified"], state["leakStatus"]), (True, "blocked"))
             log = self.product.run_verb("log", check=True).stdout  # the session's user may read Tor's log
             self.assertIn("Bootstrapped 100%", log)
+            self.assertEqual(session.interrupt(), 0, session.output)
+        self.assert_restored()
+
+    def test_the_password_is_nobody_elses_to_get(self):
+        """With the kill switch taken away, and somebody else in Tor's place: the first who takes a connection is of Tor's account, and gets
+        it, the second is not. Nor is it to be read from the program."""
+        self.as_root.run_helper("install-privileged", "--user", self.lab.host.user, check=True)
+        self.addCleanup(self.as_root.run_helper, "uninstall-privileged", check=True)
+        self.before = self.lab.host.snapshot()
+        with self.product.session() as session:
+            session.wait(is_probed)
+            read = "for pid in $(pgrep -u $(id -u) -x \"$0\"); do head -c 1 /proc/$pid/environ >/dev/null || exit 1; done"
+            for name, status in ("sleep", 0), ("veldmarkctl", 1):
+                with self.lab.host.popen(["sleep", "60"], user=self.lab.host.user) as sleeper:
+                    self.assertEqual(self.lab.host.run(["sh", "-c", read, name], user=self.lab.host.user).returncode, status, name)
+                    sleeper.kill()
+            self.lab.host.run(["/bin/sh", "-c", "pkill -STOP -f watcher[.]sh; nft delete table inet veldmark"], check=True)
+            heard = self.lab.host.run(["/usr/bin/python3", "-c", LISTENERS], check=True, timeout=60).stdout.splitlines()
+            self.lab.host.run(["pkill", "-CONT", "-f", "watcher[.]sh"], check=True)
+            self.assertRegex(heard[0], '^AUTHENTICATE "[0-9a-f]{64}"$')
+            self.assertEqual(heard[1:], [""])
             self.assertEqual(session.interrupt(), 0, session.output)
         self.assert_restored()
 

@@ -180,6 +180,12 @@ class BadCircumstances(DesktopCase):
     def as_root_run(self, *command):
         self.lab.host.run(command, check=True)
 
+    def test_nobody_reads_its_memory(self):
+        """Another program of the user's neither looks into it nor attaches to it: the control password is there."""
+        read = "for pid in $(pgrep -u $(id -u) -x \"$0\"); do head -c 1 /proc/$pid/environ >/dev/null || exit 1; done"
+        for name, status in ("openbox", 0), ("veldmark", 1):
+            self.assertEqual(self.lab.host.run(["sh", "-c", read, name], user=self.lab.host.user).returncode, status, name)
+
     def test_settings_that_cannot_be_saved_are_told_and_nothing_else_is_lost(self):
         config = f"/home/{self.lab.host.user}/.config"
         self.as_root_run("sh", "-c", f"rm -rf {config}; mkdir -m 555 {config}")

@@ -42,7 +42,7 @@ LOGIC = ("base", "platform", "system", "control", "bridges", "circuits", "checks
 # The helper's tests that touch a part; those of a part that is not here touch all.
 TOUCHED = {"core": "parts options privileged programs owner", "main": "parts options privileged owner programs",
            "session": "parts session watcher", "addresses": "texts firewall parts", "files": "parts session texts watcher programs", "linux-exempt": "launch firewall session",
-           "linux-loopback": "hostile", "linux-firewall": "rules texts firewall session watcher", "linux-owner": "owner", "linux-proxy": "proxy", "linux-resolved": "resolved",
+           "linux-loopback": "hostile", "linux-bridges": "texts firewall hostile", "linux-firewall": "rules texts firewall session watcher", "linux-owner": "owner", "linux-proxy": "proxy", "linux-resolved": "resolved",
            "linux-resolver": "session resolved texts", "linux-service": "service", "linux-session": "session watcher owner launch resolved",
            "linux-state": "options session programs owner privileged", "linux-tor": "session programs texts launch owner",
            "linux-watcher": "watcher session", "note": "parts session owner watcher", "options": "parts options texts programs",
