@@ -24,6 +24,8 @@ class Separate(LabCase):
         host = cls.lab.host
         cls.slice = f"{GROUPS}/user.slice/user-{host.uid}.slice"
         cls.apps = f"{cls.slice}/user@{host.uid}.service/app.slice"
+        # A pair of circuits that is linked later takes an application over from the circuit that it has.
+        host.write("/etc/tor/torrc-defaults", host.read("/etc/tor/torrc-defaults") + "ConfluxEnabled 0\n", mode=0o644)
         # As systemd lays them out: what is below the user's manager is the user's.
         host.run(["/bin/sh", "-c", f"chmod 755 {GROUPS}; mkdir -p {cls.slice}/session-2.scope {cls.apps}; chown -R alice {cls.slice}/user@*"], check=True)
 
@@ -40,11 +42,8 @@ class Separate(LabCase):
                                   group, *command], **options)
 
     def exits(self, name, times=3):
-        """The exits that the check service sees, one request after the other, once Tor has found a circuit to stay with: while it still
-        builds some, a later one may be better."""
-        script = (f"ask() {{ curl -sS --max-time 30 --proxy socks5h://127.0.0.1:9050 {at.CHECK_URL} || exit 1; }}\n"
-                  "same=0 last=; for i in $(seq 40); do now=$(ask) || exit 1; [ \"$now\" = \"$last\" ] && same=$((same + 1)) || same=0; last=$now; [ $same -lt 4 ] || break; done\n"
-                  f"for i in $(seq {times}); do ask; echo; done")
+        """The exits that the check service sees, one request after the other, once Tor has found a circuit to stay with."""
+        script = f"for i in 1 2 3 4; do curl -sS --max-time 30 --proxy socks5h://127.0.0.1:9050 {at.CHECK_URL} >/dev/null || exit 1; done; for i in $(seq {times}); do curl -sS --max-time 30 --proxy socks5h://127.0.0.1:9050 {at.CHECK_URL} || exit 1; echo; done"
         answers = self.inside(f"{self.apps}/{name}", "/bin/sh", "-c", script, check=True).stdout.splitlines()
         return {json.loads(answer)["IP"] for answer in answers if answer}
 
