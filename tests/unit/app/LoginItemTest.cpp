@@ -77,8 +77,8 @@ private Q_SLOTS:
         QVERIFY(!LoginItem(profile).set(true));
     }
 
-    // The published state is English; the window translates.
-    void whatIsWrongIsEnglishInEveryLanguage()
+    // English for the published state, the user's language for the window.
+    void whatIsWrongIsKnownInBothLanguages()
     {
         QTemporaryDir folder;
         PlatformProfile profile = PlatformProfile::linux(Places::below(folder.path()));
@@ -90,8 +90,11 @@ private Q_SLOTS:
         const auto done = LoginItem(profile).set(true);
         QVERIFY(!done);
         QVERIFY2(done.error().english().startsWith(QStringLiteral("Couldn't write ")), qPrintable(done.error().english()));
+        QVERIFY(done.error().translated().startsWith(QStringLiteral("[Couldn't write ")));
         profile.autostartFile.clear();
-        QCOMPARE(LoginItem(profile).set(true).error().english(), QStringLiteral("Login items can't be changed here."));
+        const auto refused = LoginItem(profile).set(true);
+        QCOMPARE(refused.error().english(), QStringLiteral("Login items can't be changed here."));
+        QCOMPARE(refused.error().translated(), QStringLiteral("[Login items can't be changed here.]"));
     }
 
     void anEntryThatIsSwitchedOffIsOff_data()
