@@ -143,6 +143,11 @@ class Arguments(InAFolder):
                     done = self.parse(**{option[2:].replace("-", "_"): value})
                     self.assertEqual((done.returncode, done.stderr), (1, f"ERROR: {says}\n"))
 
+    def test_bundle_must_be_an_absolute_path_and_need_not_be_there(self):
+        self.assertEqual(self.parse(bundle="/nonexistent", print_after='echo "$OPT_BUNDLE"').stdout, "/nonexistent\n")
+        done = self.parse(bundle="bundle.tar.gz")
+        self.assertEqual((done.returncode, done.stderr), (1, "ERROR: The path given with --bundle is not absolute.\n"))
+
     def test_each_needed_option_is_missed_by_name(self):
         for option in self.GOOD:
             done = self.parse(**{option[2:]: None})
@@ -150,7 +155,7 @@ class Arguments(InAFolder):
 
     def test_each_is_given_once_and_with_a_value(self):
         for option, value in (*self.GOOD.items(), ("--exit", "de"), ("--pt-lyrebird", "/usr/bin/true"), ("--pt-snowflake", "/usr/bin/true"),
-                              ("--pt-webtunnel", "/usr/bin/true")):
+                              ("--pt-webtunnel", "/usr/bin/true"), ("--bundle", "/nonexistent")):
             done = self.parse(option, value, option, value)
             self.assertEqual((done.returncode, done.stderr), (1, f"ERROR: The option {option} was given twice.\n"))
             for end in [option], [option, ""]:
