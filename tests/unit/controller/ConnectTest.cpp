@@ -298,11 +298,20 @@ private Q_SLOTS:
         QCOMPARE(bench.helperRunCount(u"approve"_s), 1);
         QVERIFY(!bench.lastHelperRun(u"connect"_s).contains(u"--bundle"_s));
         QCOMPARE(bench.helperRuns().back().constFirst(), u"connect"_s);
+        QCOMPARE(bench.helperRunCount(u"replace"_s), 0); // no strict session is lessened
         bench.disconnect();
 
         bench.cancelPrompt(u"approve"_s);
         QVERIFY(!bench.connect());
         QVERIFY(bench.controller().phase() == Phase::disconnected && !bench.controller().errorMessage());
+
+        // A helper of an earlier version, which runs without a password, does not know the option.
+        bench.letHelperWork();
+        bench.processes.answer = answer;
+        bench.writeFile(bench.profile.installedHelper, "an earlier one");
+        bench.writeFile(bench.profile.sudoersRule, "rule");
+        QVERIFY(bench.connect());
+        QVERIFY(!bench.lastHelperRun(u"connect"_s).contains(u"--bundle"_s));
     }
 
     void aSecondConnectIsIgnored()
