@@ -104,6 +104,9 @@ private Q_SLOTS:
         const QString kept = SignedBundle::archiveBelow(m_profile->bundleDirectory);
         QCOMPARE(m_tree->content(kept), archive);
         QVERIFY(!QFileInfo::exists(QFileInfo(kept).path() + QStringLiteral("/more")));
+        QVERIFY(QFile::remove(m_tree->path(QStringLiteral("usr/bin/gpgv"))));
+        QVERIFY(install());
+        QVERIFY(!QFileInfo::exists(QFileInfo(kept).path()));
     }
 
     void tellsHowItGoes()
