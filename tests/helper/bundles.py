@@ -13,13 +13,13 @@ JANUARY, FEBRUARY = "20260101T000000", "20260201T000000"   # when something is s
 class Signer:
     """A key of GnuPG's that only certifies, with a subkey that signs, as the Tor Browser Developers' is."""
 
-    def __init__(self, name):
+    def __init__(self, name, kind="ed25519"):
         self.home = tempfile.mkdtemp(prefix="key-", dir="/tmp")
         atexit.register(self.close)
-        self.gpg("--quick-gen-key", f"{name} <key@example.org>", "ed25519", "cert", "never")
+        self.gpg("--quick-gen-key", f"{name} <key@example.org>", kind, "cert", "never")
         lines = self.gpg("--with-colons", "--fingerprint").decode().splitlines()
         self.fingerprint = next(line.split(":")[9] for line in lines if line.startswith("fpr:"))
-        self.gpg("--quick-add-key", self.fingerprint, "ed25519", "sign", "never")
+        self.gpg("--quick-add-key", self.fingerprint, kind, "sign", "never")
         self.key = self.gpg("--export")
 
     def close(self):

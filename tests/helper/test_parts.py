@@ -115,6 +115,28 @@ class Note(InAFolder):
         self.assertGreater(os.stat(self.path("note")).st_mtime, 1000)
 
 
+class BundleVerdict(unittest.TestCase):
+    """What gpgv says of a bundle's signature, read without running it."""
+
+    SIGNER = "EF6E286DDA85EA2A4BA7DE684E2C6E8793298290"
+    GOOD = "[GNUPG:] VALIDSIG 0123456789012345678901234567890123456789 2026-01-01 1767225600 0 4 0 22 10 00 EF6E286DDA85EA2A4BA7DE684E2C6E8793298290"
+
+    def signed(self, *lines):
+        return run('read_verdict "$1" && printf %s "$BUNDLE_SIGNED"', "\n".join(lines)).stdout
+
+    def test_signers_verdict_counts(self):
+        self.assertEqual(self.signed("[GNUPG:] NEWSIG", "[GNUPG:] GOODSIG 0123 x", self.GOOD), "1767225600")
+        self.assertEqual(self.signed("[GNUPG:] NEWSIG", "[GNUPG:] EXPKEYSIG 0123 x", self.GOOD), "1767225600")
+
+    def test_no_other_verdict_counts(self):
+        for bad in (self.GOOD.replace(" 10 00 ", " 2 00 "), self.GOOD.replace(" 10 00 ", " 10 01 "), self.GOOD.replace("[GNUPG:] ", ""),
+                    self.GOOD.replace(self.SIGNER, "0" * 40), self.GOOD.replace("1767225600", "0"), self.GOOD.replace("1767225600", "a[$(id)]"),
+                    self.GOOD.replace("VALIDSIG", "GOODSIG"), self.GOOD.rsplit(" ", 1)[0], "gpgv: " + self.GOOD, ""):
+            with self.subTest(bad):
+                self.assertEqual(self.signed(bad), "")
+        self.assertEqual(self.signed("[GNUPG:] NEWSIG", "[GNUPG:] REVKEYSIG 0123 x", self.GOOD), "")
+
+
 class Arguments(InAFolder):
     """Which option it is that is refused, and that each of them is looked at."""
 
