@@ -20,7 +20,7 @@ BRIDGES4='' BRIDGES6=''
 list_bridges() {
   local bridge address port four='' six=''
   BRIDGES4='' BRIDGES6=''
-  [[ ! -s $TOR_DEFAULTS ]] || ! grep -qiE 'bridge|proxy' "$TOR_DEFAULTS" || return 0
+  [[ ! -s $TOR_DEFAULTS ]] || ! grep -qiE 'bridge|proxy|%include' "$TOR_DEFAULTS" || return 0
   for bridge in ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"}; do
     case $bridge in
     [a-z]*) [[ $bridge =~ ^(obfs4|obfs3|scramblesuit)\  ]] || return 0

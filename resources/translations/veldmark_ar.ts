@@ -1700,8 +1700,8 @@
         <translation>لا يتلقى Tor ردًا من الشبكة وهو يواصل المحاولة.</translation>
     </message>
     <message>
-        <source>Another program has ended this session and begun one of its own. Disconnect to end that.</source>
-        <translation>أنهى برنامج آخر هذه الجلسة وبدأ جلسة خاصة به. افصل الاتصال لإنهاء تلك الجلسة.</translation>
+        <source>Another program has ended this session and begun one of its own. Restore Network ends that one.</source>
+        <translation>أنهى برنامج آخر هذه الجلسة وبدأ جلسة خاصة به. «استعادة الشبكة» تنهي تلك الجلسة.</translation>
     </message>
     <message>
         <source>This computer has no network, so Tor can&apos;t connect.</source>

@@ -1700,8 +1700,8 @@
         <translation>Tor bekommt aus dem Netz keine Antwort und versucht es weiter.</translation>
     </message>
     <message>
-        <source>Another program has ended this session and begun one of its own. Disconnect to end that.</source>
-        <translation>Ein anderes Programm hat diese Sitzung beendet und eine eigene begonnen. Trennen Sie, um jene zu beenden.</translation>
+        <source>Another program has ended this session and begun one of its own. Restore Network ends that one.</source>
+        <translation>Ein anderes Programm hat diese Sitzung beendet und eine eigene begonnen. „Netzwerk wiederherstellen“ beendet jene.</translation>
     </message>
     <message>
         <source>This computer has no network, so Tor can&apos;t connect.</source>

@@ -1700,8 +1700,8 @@
         <translation>Tor no recibe respuesta de la red y lo sigue intentando.</translation>
     </message>
     <message>
-        <source>Another program has ended this session and begun one of its own. Disconnect to end that.</source>
-        <translation>Otro programa terminó esta sesión y comenzó una propia. Desconéctese para terminar esa.</translation>
+        <source>Another program has ended this session and begun one of its own. Restore Network ends that one.</source>
+        <translation>Otro programa terminó esta sesión y comenzó una propia. «Restaurar la red» termina esa.</translation>
     </message>
     <message>
         <source>This computer has no network, so Tor can&apos;t connect.</source>

@@ -1700,8 +1700,8 @@
         <translation>شبکه به Tor پاسخ نمی‌دهد و Tor همچنان تلاش می‌کند.</translation>
     </message>
     <message>
-        <source>Another program has ended this session and begun one of its own. Disconnect to end that.</source>
-        <translation>برنامهٔ دیگری این نشست را پایان داده و نشست خودش را آغاز کرده است. برای پایان دادن به آن نشست، اتصال را قطع کنید.</translation>
+        <source>Another program has ended this session and begun one of its own. Restore Network ends that one.</source>
+        <translation>برنامهٔ دیگری این نشست را پایان داده و نشست خودش را آغاز کرده است. «بازگرداندن شبکه» به آن نشست پایان می‌دهد.</translation>
     </message>
     <message>
         <source>This computer has no network, so Tor can&apos;t connect.</source>

@@ -1700,8 +1700,8 @@
         <translation>Tor ne reçoit aucune réponse du réseau et continue d’essayer.</translation>
     </message>
     <message>
-        <source>Another program has ended this session and begun one of its own. Disconnect to end that.</source>
-        <translation>Un autre programme a mis fin à cette session et en a commencé une autre. Déconnectez-vous pour mettre fin à cette dernière.</translation>
+        <source>Another program has ended this session and begun one of its own. Restore Network ends that one.</source>
+        <translation>Un autre programme a mis fin à cette session et en a commencé une autre. « Rétablir le réseau » met fin à cette dernière.</translation>
     </message>
     <message>
         <source>This computer has no network, so Tor can&apos;t connect.</source>

@@ -1700,8 +1700,8 @@
         <translation>O Tor não recebe resposta da rede e continua tentando.</translation>
     </message>
     <message>
-        <source>Another program has ended this session and begun one of its own. Disconnect to end that.</source>
-        <translation>Outro programa encerrou esta sessão e iniciou a dele. Desconecte para encerrar essa outra sessão.</translation>
+        <source>Another program has ended this session and begun one of its own. Restore Network ends that one.</source>
+        <translation>Outro programa encerrou esta sessão e iniciou a dele. “Restaurar rede” encerra essa outra sessão.</translation>
     </message>
     <message>
         <source>This computer has no network, so Tor can&apos;t connect.</source>

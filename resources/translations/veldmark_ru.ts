@@ -1700,8 +1700,8 @@
         <translation>Tor не получает ответа из сети и продолжает попытки.</translation>
     </message>
     <message>
-        <source>Another program has ended this session and begun one of its own. Disconnect to end that.</source>
-        <translation>Другая программа завершила этот сеанс и начала свой. Отключитесь, чтобы завершить тот сеанс.</translation>
+        <source>Another program has ended this session and begun one of its own. Restore Network ends that one.</source>
+        <translation>Другая программа завершила этот сеанс и начала свой. «Восстановить сеть» завершает тот сеанс.</translation>
     </message>
     <message>
         <source>This computer has no network, so Tor can&apos;t connect.</source>

@@ -1700,8 +1700,8 @@
         <translation>Tor ağdan yanıt alamıyor, denemeyi sürdürüyor.</translation>
     </message>
     <message>
-        <source>Another program has ended this session and begun one of its own. Disconnect to end that.</source>
-        <translation>Başka bir program bu oturumu sona erdirip kendi oturumunu başlattı. O oturumu sona erdirmek için bağlantıyı kesin.</translation>
+        <source>Another program has ended this session and begun one of its own. Restore Network ends that one.</source>
+        <translation>Başka bir program bu oturumu sona erdirip kendi oturumunu başlattı. “Ağı geri yükle” o oturumu sona erdirir.</translation>
     </message>
     <message>
         <source>This computer has no network, so Tor can&apos;t connect.</source>

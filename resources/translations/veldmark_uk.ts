@@ -1700,8 +1700,8 @@
         <translation>Tor не отримує відповіді з мережі й продовжує спроби.</translation>
     </message>
     <message>
-        <source>Another program has ended this session and begun one of its own. Disconnect to end that.</source>
-        <translation>Інша програма завершила цей сеанс і почала власний. Щоб завершити той, новий, від’єднайтеся.</translation>
+        <source>Another program has ended this session and begun one of its own. Restore Network ends that one.</source>
+        <translation>Інша програма завершила цей сеанс і почала власний. «Відновити мережу» завершує той, новий.</translation>
     </message>
     <message>
         <source>This computer has no network, so Tor can&apos;t connect.</source>

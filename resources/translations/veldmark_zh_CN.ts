@@ -1700,8 +1700,8 @@
         <translation>Tor 没有得到网络的应答，正在继续尝试。</translation>
     </message>
     <message>
-        <source>Another program has ended this session and begun one of its own. Disconnect to end that.</source>
-        <translation>另一个程序已结束此会话，并开始了它自己的会话。断开即可结束后者。</translation>
+        <source>Another program has ended this session and begun one of its own. Restore Network ends that one.</source>
+        <translation>另一个程序已结束此会话，并开始了它自己的会话。“恢复网络”会结束后者。</translation>
     </message>
     <message>
         <source>This computer has no network, so Tor can&apos;t connect.</source>

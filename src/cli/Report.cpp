@@ -138,7 +138,8 @@ QString status(const QJsonObject &state)
     if (phase == QLatin1String("connected")) {
         report += row(Text::tr("Mode"), modeText(state));
         report += row(Text::tr("Exit"), exitText(state));
-        if (const QJsonValue latency = state.value(QStringLiteral("latencyMs")); !latency.isNull())
+        const bool isStalled = state.value(QStringLiteral("stall")).isString(); // a time of before would promise too much
+        if (const QJsonValue latency = state.value(QStringLiteral("latencyMs")); latency.isDouble() && !isStalled)
             report += row(Text::tr("Latency"), Text::tr("%1 ms through Tor").arg(latency.toInt()));
         report += row(Text::tr("Direct path"), directText(state));
         report += row(Text::tr("DNS"), dnsText(state));

@@ -201,7 +201,7 @@ void TorController::giveUpTo(const std::optional<SessionOwner> &other)
     canCancel = false;
     showSessionOf(other);
     if (!other)
-        errorMessage = Text::tr("Another program has ended this session and begun one of its own. Disconnect to end that.");
+        errorMessage = Text::tr("Another program has ended this session and begun one of its own. Restore Network ends that one.");
     phase = ConnectionPhase::stale;
     startKillSwitchWatch();
 }

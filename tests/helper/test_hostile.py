@@ -341,13 +341,14 @@ class Hostile(HelperTest):
         # Where the transport asks a front, or the administrator has put a proxy in between, it may be anybody.
         self.machine.connect(more=[*more, "--bridge", "webtunnel 192.0.2.3:80 url=https://a.example/"])
         self.assertLessEqual({"tcp", "https", "dns-tls"}, self.wire.arrivals(self.tor_uid, TOR_GROUP))
-        self.machine.shell("cp /etc/tor/torrc-defaults /run/defaults; echo 'HTTPSProxy 192.0.2.8:8' >>/etc/tor/torrc-defaults")
-        try:
-            self.machine.connect(more=more)
-            self.assertLessEqual({"tcp", "https", "dns-tls"}, self.wire.arrivals(self.tor_uid, TOR_GROUP))
-        finally:
-            self.machine.help("disconnect")
-            self.machine.shell("cat /run/defaults >/etc/tor/torrc-defaults; rm /run/defaults")
+        for line in "HTTPSProxy 192.0.2.8:8", "%include /run/more":
+            self.machine.shell(f"cp /etc/tor/torrc-defaults /run/defaults; echo HTTPSProxy 192.0.2.8:8 >/run/more; echo '{line}' >>/etc/tor/torrc-defaults")
+            try:
+                self.machine.connect(more=more)
+                self.assertLessEqual({"tcp", "https", "dns-tls"}, self.wire.arrivals(self.tor_uid, TOR_GROUP), line)
+            finally:
+                self.machine.help("disconnect")
+                self.machine.shell("cat /run/defaults >/etc/tor/torrc-defaults; rm /run/defaults /run/more")
         self.before = self.machine.snapshot()
 
     # ---- The control port ----

@@ -100,8 +100,8 @@ def machine_state() -> dict[str, object]:
         "links": sorted(os.listdir("/sys/class/net")),
         "files": sorted(str(p) for folder in ("/tmp", "/run", "/var/tmp", "/home", "/root", "/etc", "/var/lib")
                         for p in Path(folder).glob("*veldlab-[!t]*")),
-        "passwd": Path("/etc/passwd").read_text(),
-        "resolver": Path("/etc/resolv.conf").read_text(),
+        "accounts": [line for line in Path("/etc/passwd").read_text().splitlines() if line.startswith(("alice:", "_veldmark:"))],
+        "resolver": "veldmark" in Path("/etc/resolv.conf").read_text().lower(),
     }
 
 

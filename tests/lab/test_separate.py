@@ -24,6 +24,8 @@ class Separate(LabCase):
         host = cls.lab.host
         cls.slice = f"{GROUPS}/user.slice/user-{host.uid}.slice"
         cls.apps = f"{cls.slice}/user@{host.uid}.service/app.slice"
+        # A pair of circuits that is linked later takes an application over from the circuit that it has.
+        host.write("/etc/tor/torrc-defaults", host.read("/etc/tor/torrc-defaults") + "ConfluxEnabled 0\n", mode=0o644)
         # As systemd lays them out: what is below the user's manager is the user's.
         host.run(["/bin/sh", "-c", f"chmod 755 {GROUPS}; mkdir -p {cls.slice}/session-2.scope {cls.apps}; chown -R alice {cls.slice}/user@*"], check=True)
 

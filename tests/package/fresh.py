@@ -250,7 +250,7 @@ def main() -> int:
     started = time.monotonic()
     try:
         verify(parser.parse_args())
-    except (Failed, Unprepared) as reason:
+    except (Failed, Unprepared, OSError, subprocess.CalledProcessError) as reason:
         Step.table()
         print(f"fresh-test: {reason}", file=sys.stderr)
         return 1

@@ -58,9 +58,12 @@ class LeakCase(unittest.TestCase):
     def connect(cls, lan=0, check=True):
         return cls.helper("connect", "--tor", "/usr/bin/tor", "--hash", HASH, "--strict", "1", "--lan", str(lan), check=check)
 
+    bridge = None   # address and port, in a session in which Tor reaches nothing else
+
     @classmethod
     def disconnect(cls):
         cls.helper("disconnect")
+        cls.bridge = None
 
     @contextlib.contextmanager
     def session(self, **options):
@@ -112,12 +115,13 @@ class LeakCase(unittest.TestCase):
         # What still asks for a neighbour's address would be overtaken; the kernel gives up by itself after three seconds.
         self.sh("while ip neigh show nud incomplete | grep -q .; do sleep 0.02; done", timeout=30)
         type(self).sentinels += 1
-        port = 1000 + self.sentinels
+        port = 20000 + self.sentinels   # the kernel gives others
+        address, at_port = self.bridge or (matrix.SENTINEL, 1000)
         self.host.run(["/bin/sh", "-c", '[ ! -d "$0" ] || echo 0 >"$0/cgroup.procs"; exec setpriv --reuid _veldmark --clear-groups "$@"', GROUPS[2],
-                       "/usr/bin/python3", "-c", "import socket; s = socket.socket(); s.setblocking(False);"
-                       f"s.connect_ex(('{matrix.SENTINEL}', {port}))"], cwd="/", check=True)
+                       "/usr/bin/python3", "-c", f"import socket; s = socket.socket(); s.bind(('', {port})); s.setblocking(False);"
+                       f"s.connect_ex(('{address}', {at_port}))"], cwd="/", check=True)
         for capture in seen.captures:
-            capture.wait_for(lambda p: p.dst == matrix.SENTINEL and p.dport == port)
+            capture.wait_for(lambda p: p.dst == address and p.sport == port)
 
     def run_probes(self, names, identities=EVERYBODY, within=True):
         with self.watched() as seen:

@@ -96,6 +96,8 @@ class HostileRows:
         self.sh(f'echo 0 >{attacks.GROUP}/cgroup.procs; PKEXEC_UID=$0 exec "$@"', str(self.host.uid), "/bin/bash", str(PROGRAMS / "veldmark-helper.sh"), "connect",
                 "--tor", "/usr/bin/tor", "--hash", HASH, "--strict", "1", "--lan", str(lan), *more)
         if bridges:   # until the bridge program serves
+            address, port = more[1].split()[1].rsplit(":", 1)
+            type(self).bridge = address, int(port)
             self.sh("until grep -c ' 0A .* '$(id -u _veldmark)' ' /proc/net/tcp | grep -q 3; do sleep 0.05; done", timeout=30)
 
     def without_defence(self, rows):

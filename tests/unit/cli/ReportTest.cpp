@@ -48,6 +48,13 @@ private Q_SLOTS:
         QVERIFY(!none.contains(QStringLiteral("a Tor exit")));
     }
 
+    // It was measured before.
+    void showsNoLatencyWhileNothingGetsThrough()
+    {
+        QVERIFY(Report::status(object(R"({"phase":"connected","latencyMs":182,"stall":null})")).contains(QStringLiteral("182 ms through Tor")));
+        QVERIFY(!Report::status(object(R"({"phase":"connected","latencyMs":182,"stall":"noCircuit"})")).contains(QStringLiteral("182 ms")));
+    }
+
     void showsWhatLeaks()
     {
         const QString report = Report::status(object(

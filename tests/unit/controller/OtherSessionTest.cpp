@@ -72,7 +72,7 @@ private Q_SLOTS:
         bench.clock.advance(std::chrono::seconds(1));
         QVERIFY(until([&] { return c.phase() == Phase::stale; }));
         QVERIFY(!c.otherSession());
-        QCOMPARE(c.errorMessage().value_or(QString()), u"Another program has ended this session and begun one of its own. Disconnect to end that."_s);
+        QCOMPARE(c.errorMessage().value_or(QString()), u"Another program has ended this session and begun one of its own. Restore Network ends that one."_s);
         QVERIFY(c.title() != u"Protected"_s);
     }
 

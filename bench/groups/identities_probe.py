@@ -4,6 +4,8 @@ program that sees groups come and go, while 50 come and 50 go each second, and a
 import os
 import subprocess
 
+from figures import hashed_password
+
 USER = "/sys/fs/cgroup/user.slice/user-1001.slice"
 APPS = f"{USER}/user@1001.service/app.slice"
 TABLE = "veldmark-identities"
@@ -26,7 +28,7 @@ def connection_seconds(host, group, many=200):
     return float(host.run(words, check=True).stdout)
 
 
-def connections(host, pairs=12):
+def connections(host, pairs):
     """Pairs of seconds for one connection, with the table and without it."""
     host.run(["/bin/sh", "-c", f"pkill -STOP -x veldmark-identi; nft list table inet {TABLE} >/run/table.nft"], check=True)
     found = []
@@ -47,7 +49,7 @@ def spent(host):
     return ticks / os.sysconf("SC_CLK_TCK")
 
 
-def coming_and_going(host, seconds=20):
+def coming_and_going(host, seconds):
     """Shares of one core while groups come and go, and while nothing does."""
     before = spent(host)
     host.run(["/usr/bin/python3", "-c", COMING, APPS, str(seconds)], check=True, timeout=seconds * 3)
@@ -58,14 +60,13 @@ def coming_and_going(host, seconds=20):
     return (busy - before) / seconds, (spent(host) - settled) / seconds
 
 
-def measure(lab, product):
+def measure(lab, product, rounds):
     host = lab.host
     host.run(["/bin/sh", "-c", f"mkdir -p {APPS}; cd {APPS}; for n in $(seq 0 199); do mkdir app-bench$n-1.scope; done"], check=True)
-    hashed = host.run(["tor", "--quiet", "--hash-password", "bench"], check=True).stdout.split()[-1]
-    product.run_helper("connect", "--tor", "/usr/bin/tor", "--hash", hashed, "--strict", "1", "--lan", "0", "--separate", "1", check=True)
+    product.run_helper("connect", "--tor", "/usr/bin/tor", "--hash", hashed_password(lab), "--strict", "1", "--lan", "0", "--separate", "1", check=True)
     host.run(["timeout", "20", "/bin/sh", "-c", "until [ $(grep -c bench /run/veldmark.identities) = 200 ]; do sleep 0.1; done"], check=True)
     try:
-        return connections(host), coming_and_going(host)
+        return connections(host, rounds.of(12)), coming_and_going(host, 2 if rounds.quick else 20)
     finally:
         product.run_helper("disconnect", check=True)
         host.run(["/bin/sh", "-c", "cd /sys/fs/cgroup/user.slice && find . -mindepth 1 -depth -type d -exec rmdir {} +; rmdir /sys/fs/cgroup/user.slice"])

@@ -1,0 +1,89 @@
+"""The kill switch: how long its rules take to load, and what they cost."""
+
+import subprocess
+
+from figures import RUN_FOLDER, Figures, Rounds, hashed_password, middle, spread
+
+# Sends for a second and prints what the other side took: bytes over one TCP stream, as fast as memory goes or at the pace of a
+# fast network card, or datagrams of 64 bytes.
+SINK = """
+import socket, sys
+if sys.argv[1] != "udp":
+    s = socket.create_server(("192.168.77.9", 7070)); print("up", flush=True); c = s.accept()[0]; total = 0
+    while (n := len(c.recv(1 << 20))): total += n
+else:
+    s = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.setsockopt(1, 33, 1 << 26); s.bind(("192.168.77.9", 7070)); print("up", flush=True); total = 0
+    while s.recv(100) != b"end": total += 1
+print(total, flush=True)
+"""
+# Prints the CPU time that the sending took, in seconds for each byte or datagram. In namespaces of one machine a packet's whole
+# way is walked on the sender's time, and unlike the throughput it does not depend on what else the machine does.
+SOURCE = """
+import resource, socket, struct, sys, time
+cpu = lambda: sum(resource.getrusage(resource.RUSAGE_SELF)[:2])
+sent = 0; start = cpu()
+if sys.argv[1] != "udp":
+    s = socket.create_connection(("192.168.77.9", 7070)); block = bytes(1 << 17)
+    if sys.argv[1] == "paced": s.setsockopt(socket.SOL_SOCKET, 47, struct.pack("Q", 1_250_000_000))   # SO_MAX_PACING_RATE, bytes a second
+    end = time.monotonic() + 1
+    while time.monotonic() < end: s.sendall(block); sent += len(block)
+    print((cpu() - start) / sent)
+    s.shutdown(socket.SHUT_WR); s.recv(1)   # what a closed socket still has to send is nobody's, and stopped
+else:
+    s = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.connect(("192.168.77.9", 7070)); block = bytes(64); end = time.monotonic() + 1
+    while time.monotonic() < end: s.send(block); sent += 1
+    print((cpu() - start) / sent)
+    try:
+        while True: s.send(b"end"); time.sleep(0.01)
+    except ConnectionRefusedError: pass   # it has heard, and gone
+"""
+# Tor's own traffic, and what passes the most rules: to a neighbour on the local network. With the least share that is wanted.
+PATHS = {
+    ("tcp", "_veldmark"): ("one TCP stream of Tor's, from memory to memory", None),
+    ("paced", "_veldmark"): ("… at the pace of 10 Gbit/s", 0.97),
+    ("tcp", "root"): ("one TCP stream to a neighbour", 0.97),
+    ("udp", "_veldmark"): ("64-byte datagrams of Tor's", 0.85),
+    ("udp", "root"): ("64-byte datagrams to a neighbour", 0.85),
+}
+# Somebody's ordinary firewall: it tracks connections, and lets everything pass.
+TRACKING = "table inet tracking { chain input { type filter hook input priority 0; policy accept; ct state established accept; }; }"
+
+
+def throughput(lab, kind: str, user: str) -> tuple[int, float]:
+    """What the other side took in about a second, and the sender's CPU time for one byte or datagram."""
+    sink = lab.lan.popen(["/usr/bin/python3", "-c", SINK, kind], stdout=subprocess.PIPE, text=True)
+    sink.stdout.readline()
+    enter = '[ "$1" = root ] || [ ! -d "$0" ] || echo 0 >"$0/cgroup.procs"; user=$1; shift; exec setpriv --reuid "$user" --clear-groups "$@"'
+    cost = lab.host.run(["/bin/sh", "-c", enter, "/sys/fs/cgroup/veldmark/tor", user, "/usr/bin/python3", "-c", SOURCE, kind], cwd="/", check=True).stdout
+    return int(sink.communicate(timeout=20)[0]), float(cost)
+
+
+def run_in_lab(figures: Figures, rounds: Rounds, lab, product) -> None:
+    # The one that every kernel permits. The machine's own may pace a stream by its estimates, which would be measured then.
+    lab.host.run(["sh", "-c", "echo reno >/proc/sys/net/ipv4/tcp_congestion_control"], check=True)
+    # With a transport that sends datagrams, so that Tor's account may.
+    words = ["connect", "--tor", "/usr/bin/tor", "--hash", hashed_password(lab), "--strict", "1", "--lan", "1", "--bridge", "snowflake 192.0.2.3:1",
+             "--pt-snowflake", "/usr/bin/snowflake-client"]
+    product.run_helper(*words, check=True)   # the account exists from here on
+    script = f"for i in $(seq {rounds.of(20)}); do start=${{EPOCHREALTIME/./}}; nft -f {RUN_FOLDER}/firewall.nft; echo $((${{EPOCHREALTIME/./}} - start)); done"
+    loads = [int(line) / 1000 for line in lab.host.run(["bash", "-c", script], check=True).stdout.split()]
+    product.run_helper("disconnect", check=True)
+    taken: dict[tuple, list[float]] = {path: [] for path in PATHS}
+    costs: dict[tuple, list[float]] = {path: [] for path in PATHS}
+    of_tracked: dict[tuple, list[float]] = {path: [] for path in PATHS}
+    for _ in range(rounds.of(8)):
+        without = {path: throughput(lab, *path) for path in PATHS}
+        lab.host.run(["nft", TRACKING], check=True)
+        tracked = {path: throughput(lab, *path) for path in PATHS}
+        lab.host.run(["nft", "delete table inet tracking"], check=True)
+        product.run_helper(*words, check=True)
+        for path in PATHS:
+            number, cost = throughput(lab, *path)
+            taken[path].append(number / without[path][0])
+            costs[path].append(without[path][1] / cost)
+            of_tracked[path].append(number / tracked[path][0])
+        product.run_helper("disconnect", check=True)
+    figures.add("kill switch: rules loaded", middle(loads), "ms", spread(loads), most=50)
+    for path, (name, least) in PATHS.items():
+        figures.add(f"{name}, share of without rules", middle(taken[path]), "", f"{spread(taken[path])}; by CPU time {middle(costs[path]):.2f}", least=least)
+        figures.add("  where connections were tracked already", middle(of_tracked[path]), "", spread(of_tracked[path]))
