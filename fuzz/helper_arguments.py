@@ -25,7 +25,7 @@ need_programs() { :; }
 find_launcher() { :; }
 take_lock() {
   printf 'OK\0%s\0' "$OPT_TOR" "$OPT_HASH" "$OPT_STRICT" "$OPT_LAN" "$OPT_SEPARATE" "$OPT_EXIT" "$OPT_LYREBIRD" "$OPT_SNOWFLAKE" \
-    "$OPT_WEBTUNNEL" "$OPT_USER" "$OPT_LAUNCH" "$OPT_UID" "$OPT_APP" "$OPT_PROGRAM" "$OPT_AS" "$OPT_SHA256" ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"}
+    "$OPT_WEBTUNNEL" "$OPT_BUNDLE" "$OPT_USER" "$OPT_LAUNCH" "$OPT_UID" "$OPT_APP" "$OPT_PROGRAM" "$OPT_AS" "$OPT_SHA256" ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"}
   if [[ -n $OPT_TOR ]]; then printf 'TORRC\0%s\0' "$(print_torrc 1)"; fi
   exit 42
 }
@@ -44,9 +44,9 @@ done
 """
 
 SINGLE = ["--tor", "--hash", "--strict", "--lan", "--separate", "--exit", "--pt-lyrebird", "--pt-snowflake", "--pt-webtunnel",
-          "--user", "--launch", "--uid", "--app", "--program", "--as", "--sha256"]
+          "--bundle", "--user", "--launch", "--uid", "--app", "--program", "--as", "--sha256"]
 ALLOWED = {
-    "connect": SINGLE[:9] + ["--bridge"], "replace": SINGLE[:9] + ["--bridge"], "approve": ["--program", "--as", "--sha256"],
+    "connect": SINGLE[:10] + ["--bridge"], "replace": SINGLE[:10] + ["--bridge"], "approve": ["--program", "--as", "--sha256"],
     "launch": ["--uid", "--app"], "install-privileged": ["--user", "--launch"],
     "disconnect": [], "fix-dns": [], "uninstall-privileged": [],
 }
@@ -65,7 +65,8 @@ GOOD = [
     [b"connect", b"--tor", b"/usr/bin/env", b"--hash", HASH, b"--strict", b"1", b"--lan", b"0",
      b"--bridge", b"snowflake 192.0.2.3:1 url=https://a/", b"--pt-snowflake", b"/usr/bin/env"],
     [b"connect", b"--tor", b"/usr/bin/env", b"--hash", HASH, b"--strict", b"1", b"--lan", b"0",
-     b"--bridge", b"webtunnel [2001:db8::2]:443 url=https://b/", b"--pt-webtunnel", b"/usr/bin/env"],
+     b"--bridge", b"webtunnel [2001:db8::2]:443 url=https://b/", b"--pt-webtunnel", b"/usr/bin/env",
+     b"--bundle", b"/nonexistent/bundle.tar.gz"],
     [b"launch", b"--uid", b"4242", b"--app", b"/usr/share/applications/a.desktop"],
     [b"install-privileged", b"--user", b"alice", b"--launch", b"/usr/bin/env"],
     [b"replace", b"--tor", b"/usr/bin/env", b"--hash", HASH, b"--strict", b"0", b"--lan", b"1"],
@@ -121,7 +122,7 @@ def fits_connect(options, bridges):
     programs = [options[name] for name in ("--tor", "--pt-lyrebird", "--pt-snowflake", "--pt-webtunnel") if name in options]
     if not (re.fullmatch(rb"16:[0-9A-F]{58}", options["--hash"]) and options["--strict"] in (b"0", b"1")
             and options["--lan"] in (b"0", b"1") and options.get("--separate", b"0") in (b"0", b"1") and re.fullmatch(rb"[a-z]{2}", options.get("--exit", b"xx"))
-            and all(map(is_program, programs))):
+            and all(map(is_program, programs)) and options.get("--bundle", b"/").startswith(b"/")):
         return False
     for bridge in bridges:
         if not BRIDGE.fullmatch(bridge) or re.search(rb'[#"\\]', bridge):

@@ -32,7 +32,7 @@ set(CPACK_DEBIAN_PACKAGE_DEPENDS
     "${qml_modules}, ca-certificates, ethtool, nftables, passwd, polkitd | policykit-1, pkexec | policykit-1, util-linux (>= 2.36)")
 # Without tor the program says what to install; it may also be one of the user's own.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
-    "tor, tor-geoipdb, sudo, gnupg, libglib2.0-bin, qt6-qpa-plugins, qt6-wayland, unzip")
+    "tor, tor-geoipdb, sudo, gnupg, gpgv, libglib2.0-bin, qt6-qpa-plugins, qt6-wayland, unzip")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS
     "obfs4proxy, snowflake-client, netcat-openbsd, fonts-noto-color-emoji, fonts-noto-core, fonts-wqy-microhei | fonts-noto-cjk, systemd-resolved")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA

@@ -3,6 +3,7 @@
 #
 #   veldmark-helper.sh connect --tor PATH --hash HASH --strict 0|1 --lan 0|1 [--separate 0|1] [--exit CC]
 #                      [--bridge LINE]... [--pt-lyrebird PATH] [--pt-snowflake PATH] [--pt-webtunnel PATH]
+#                      [--bundle ARCHIVE]
 #   veldmark-helper.sh replace …       connect, where that lessens what protects a strict session
 #   veldmark-helper.sh approve --program PATH --as tor|lyrebird|snowflake-client|webtunnel-client --sha256 DIGEST
 #   veldmark-helper.sh disconnect [--process PID]

@@ -8,7 +8,7 @@ usage="usage: join.sh linux|darwin OUTPUT"
 system=${1:?$usage} output=${2:?$usage}
 case $system in
 linux)
-  own=(linux-state linux-groups programs torrc linux-firewall linux-bridges linux-loopback linux-others linux-resolver linux-resolved linux-tor linux-service linux-proxy linux-exempt
+  own=(linux-state linux-groups programs linux-bundle torrc linux-firewall linux-bridges linux-loopback linux-others linux-resolver linux-resolved linux-tor linux-service linux-proxy linux-exempt
     linux-watcher linux-identify linux-owner linux-session)
   ;;
 darwin)

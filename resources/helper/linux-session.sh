@@ -27,6 +27,7 @@ linux_connect() {
   check_ports
   ready_folders
   ready_programs
+  clear_bundle
   read_resolver
   ready_torrc
 
@@ -71,6 +72,7 @@ linux_connect() {
     undo_entry "$EXEMPT_ENTRY" || true
   fi
   ON_FAILURE=
+  drop_replaced || true
 }
 
 # undo_entry NAME: puts back what the entry tells of and removes it. A torn entry tells nothing, and what can be
@@ -175,5 +177,6 @@ linux_disconnect() {
   fi
   spare_others
   spare_unmeant
+  [[ -z $JOURNAL_TRUSTED ]] || clear_bundle
   undo_session || die "$UNDONE"
 }

@@ -4,7 +4,7 @@
 
 OPT_TOR='' OPT_HASH='' OPT_STRICT='' OPT_LAN='' OPT_EXIT='' OPT_SEPARATE=''
 OPT_BRIDGES=()
-OPT_LYREBIRD='' OPT_SNOWFLAKE='' OPT_WEBTUNNEL=''
+OPT_LYREBIRD='' OPT_SNOWFLAKE='' OPT_WEBTUNNEL='' OPT_BUNDLE=''
 OPT_USER='' OPT_LAUNCH=''
 OPT_UID='' OPT_APP='' OPT_PROCESS=''
 OPT_PROGRAM='' OPT_AS='' OPT_SHA256=''
@@ -63,6 +63,7 @@ parse_options() {
     --pt-lyrebird) take OPT_LYREBIRD "$option" "$value" ;;
     --pt-snowflake) take OPT_SNOWFLAKE "$option" "$value" ;;
     --pt-webtunnel) take OPT_WEBTUNNEL "$option" "$value" ;;
+    --bundle) take OPT_BUNDLE "$option" "$value" ;;
     --user) take OPT_USER "$option" "$value" ;;
     --launch) take OPT_LAUNCH "$option" "$value" ;;
     --uid) take OPT_UID "$option" "$value" ;;
@@ -79,9 +80,12 @@ parse_options() {
   done
 }
 
+# check_path OPTION PATH
+check_path() { [[ $2 == /* ]] || die "The path given with $1 is not absolute."; }
+
 # check_program OPTION PATH
 check_program() {
-  [[ $2 == /* ]] || die "The path given with $1 is not absolute."
+  check_path "$1" "$2"
   [[ -f $2 && -x $2 ]] || die "The program given with $1 is not an executable file."
 }
 
@@ -93,7 +97,7 @@ check_bridge() {
 
 parse_connect() {
   local bridge
-  parse_options " --tor --hash --strict --lan --separate --exit --bridge --pt-lyrebird --pt-snowflake --pt-webtunnel " "$@"
+  parse_options " --tor --hash --strict --lan --separate --exit --bridge --pt-lyrebird --pt-snowflake --pt-webtunnel --bundle " "$@"
   [[ -n $OPT_TOR ]] || die "The option --tor is missing."
   [[ -n $OPT_HASH ]] || die "The option --hash is missing."
   [[ -n $OPT_STRICT ]] || die "The option --strict is missing."
@@ -110,6 +114,7 @@ parse_connect() {
   [[ -z $OPT_LYREBIRD ]] || check_program --pt-lyrebird "$OPT_LYREBIRD"
   [[ -z $OPT_SNOWFLAKE ]] || check_program --pt-snowflake "$OPT_SNOWFLAKE"
   [[ -z $OPT_WEBTUNNEL ]] || check_program --pt-webtunnel "$OPT_WEBTUNNEL"
+  [[ -z $OPT_BUNDLE ]] || check_path --bundle "$OPT_BUNDLE"   # whatever is there, or is not: without a signature it changes nothing
   choose_transports
 }
 

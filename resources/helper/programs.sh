@@ -1,7 +1,8 @@
 
 # ---- Which programs may run as Tor's account ---------------------------------------------------------------
-# Whatever runs as Tor's account passes the kill switch, so only two kinds run: the system's own programs of a known
-# name, and exact copies of what an administrator approved by the verb approve, whose prompt names path and digest.
+# Whatever runs as Tor's account passes the kill switch, so only these run: the system's own programs of a known
+# name, and exact copies of what an administrator approved by the verb approve, whose prompt names path and digest. On Linux
+# also copies of transports that the Tor Project has signed (linux-bundle.sh).
 # The system's own part brings PROGRAM_PLACES and on_own_mount.
 
 PROGRAM=''   # the result of ready_program
@@ -43,12 +44,12 @@ systems_own() {
 # open_to_all PATH: any account can reach and run it.
 open_to_all() { every_part "$1" '^[0-7]*[1357] '; }
 
-# print_file PATH: its content, opened as the caller, so that nobody reads through us what is not theirs.
+# print_file PATH [BYTES SECONDS]: its content, opened as the caller, so that nobody reads through us what is not theirs.
 print_file() {
   if [[ $CALLER_UID == 0 ]]; then
-    head -c "$MAX_PROGRAM_BYTES" -- "$1"
+    head -c "${2:-$MAX_PROGRAM_BYTES}" -- "$1"
   else
-    as_caller 10 head -c "$MAX_PROGRAM_BYTES" -- "$1"
+    as_caller "${3:-10}" head -c "${2:-$MAX_PROGRAM_BYTES}" -- "$1"
   fi
 }
 
@@ -88,9 +89,10 @@ ready_program() {
     if [[ $PROGRAM =~ ^[A-Za-z0-9._/+-]+$ ]] && open_to_all "$PROGRAM"; then return; fi
   fi
   copy_program "$PROGRAM"
-  if [[ ! -f $PROGRAMS/$DIGEST/$2 ]]; then
-    if [[ -z $owned ]]; then
+  if [[ ! -f $PROGRAMS/$DIGEST/$2 ]] || { [[ $SYSTEM == linux ]] && is_replaced "$DIGEST/$2"; }; then
+    if [[ -z $owned ]] && { [[ $SYSTEM != linux ]] || ! in_bundle "$PROGRAM" "$2"; }; then
       rm -f -- "$NEW_PROGRAM"
+      [[ $SYSTEM != linux ]] || clear_bundle
       unapproved "An administrator password is needed to approve $PROGRAM."
     fi
     keep_copy "$2"
@@ -120,6 +122,7 @@ any_approve() {
     die "The program $OPT_PROGRAM is not the one that was to be approved."
   fi
   keep_copy "$OPT_AS"
+  [[ $SYSTEM != linux ]] || forget_program "$DIGEST/$OPT_AS" || die "The folder $PROGRAMS cannot be written."
 }
 
 ready_programs() {

@@ -1,5 +1,7 @@
 #include "bridges/BundleFolder.h"
 
+#include "system/SignedBundle.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -180,6 +182,26 @@ Result<QString, Text> BundleFolder::fresh()
         return Failure(Text::tr("Couldn't make a folder beside %1: %2.").arg(m_folder, lastSystemError()));
     m_fresh = QFile::decodeName(name);
     return m_fresh;
+}
+
+void BundleFolder::forgetOrigin() const
+{
+    removeTree(QFileInfo(SignedBundle::archiveBelow(m_fresh)).path());
+}
+
+void BundleFolder::keepOrigin(const QString &archive, const QString &signature, const QString &key) const
+{
+    const QString kept = SignedBundle::archiveBelow(m_fresh);
+    const QString place = QFileInfo(kept).path();
+    forgetOrigin();
+    const bool isKept = QFileInfo(archive).size() <= SignedBundle::archiveLimitBytes
+        && QFileInfo(key).size() <= SignedBundle::keyLimitBytes && QFileInfo(signature).size() <= SignedBundle::keyLimitBytes
+        && ::mkdir(QFile::encodeName(place).constData(), 0700) == 0 && QFile::copy(archive, kept)
+        && QFile::copy(signature, SignedBundle::signatureOf(kept)) && QFile::copy(key, SignedBundle::keyOf(kept));
+    if (!isKept) { // then an administrator approves its programs
+        forgetOrigin();
+        qWarning("The archive of the bundle could not be kept");
+    }
 }
 
 Result<void, Text> BundleFolder::publish(const QString &version, bool isVerified, qint64 signedAt) const

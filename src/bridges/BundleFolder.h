@@ -49,6 +49,11 @@ public:
 
     // Makes an empty folder for a new bundle, on the same file system. Once.
     Result<QString, Text> fresh();
+    // Keeps copies of what the new bundle was unpacked from and of what vouches for it beside it, in a folder of the user's alone,
+    // for whoever verifies it again (SignedBundle); all three files or none. To be called after unpacking and before publish().
+    void keepOrigin(const QString &archive, const QString &signature, const QString &key) const;
+    // Instead: nothing of that name stays, were it the archive's own.
+    void forgetOrigin() const;
     // Writes the new bundle's record, puts the new bundle where the old one was and removes the old
     // one. signedAt: of a verified one, in seconds since 1970.
     Result<void, Text> publish(const QString &version, bool isVerified, qint64 signedAt = 0) const;

@@ -88,6 +88,19 @@ QCoro::Task<Result<qint64, DownloadError>> BundleTools::verify(std::shared_ptr<B
     co_return *signedAt;
 }
 
+QCoro::Task<void> BundleTools::exportKey(std::shared_ptr<BundleTools> tools, QString home, QString fingerprint, QString file)
+{
+    if (tools->m_isCancelled)
+        co_return;
+    const QStringList words = {QStringLiteral("--homedir"), home, QStringLiteral("--batch"), QStringLiteral("--quiet"),
+                               QStringLiteral("--output"), file, QStringLiteral("--export"), fingerprint};
+    tools->m_current = StopSource();
+    auto exporting = run(tools, tools->m_gpg, words, gnupgLimit, tools->m_current);
+    const Run exported = co_await exporting;
+    if (!exported || exported->status != 0)
+        QFile::remove(file);
+}
+
 QCoro::Task<Done> BundleTools::unpack(std::shared_ptr<BundleTools> tools, QString archive, QString folder)
 {
     if (tools->m_isCancelled)

@@ -45,6 +45,9 @@ public:
     // and private. An archive that fails is removed.
     static QCoro::Task<Result<qint64, DownloadError>> verify(std::shared_ptr<BundleTools> tools, QString home, QString key,
                                                              QString signature, QString archive, QString fingerprint);
+    // Writes the key with this fingerprint, which verify() has put into `home`, to `file`, in the form that gpgv reads. The file is missing
+    // where that fails.
+    static QCoro::Task<void> exportKey(std::shared_ptr<BundleTools> tools, QString home, QString fingerprint, QString file);
     static QCoro::Task<Result<void, DownloadError>> unpack(std::shared_ptr<BundleTools> tools, QString archive,
                                                            QString folder);
     // Ends the agent that GnuPG may have started for its folder `home`.
@@ -61,7 +64,7 @@ private:
     Clock &m_clock;
     const QString m_tar;
     const QString m_gpg;
-    StopSource m_current; // ends what verify() or unpack() has started
+    StopSource m_current; // ends what verify(), exportKey() or unpack() has started
     bool m_isCancelled = false;
 };
 

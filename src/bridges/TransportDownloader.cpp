@@ -6,6 +6,7 @@
 #include "bridges/BundleTools.h"
 #include "bridges/HTTPSSession.h"
 #include "bridges/ReleaseIndex.h"
+#include "system/SignedBundle.h"
 
 #include <QDir>
 #include <QFile>
@@ -302,7 +303,13 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_
 
     const InstalledBundle bundle{*version, hasGnuPG};
     using Published = Result<void, Text>;
-    const std::function<Published()> publish = [folder = job->folder, bundle, signedAt] {
+    const bool isKept = hasGnuPG && SignedBundle::isOfUse(means->profile);
+    const std::function<Published()> publish = [folder = job->folder, bundle, signedAt, isKept, archive,
+                                                signature = job->at("archive.tar.gz.asc"), key = job->at("key.gpg")] {
+        if (isKept)
+            folder->keepOrigin(archive, signature, key);
+        else
+            folder->forgetOrigin();
         return folder->publish(bundle.version, bundle.isVerified, signedAt);
     };
     auto publishing = elsewhere<Published>(publish);
@@ -338,6 +345,10 @@ QCoro::Task<Result<qint64, DownloadError>> TransportDownloader::verify(std::shar
             Text::tr("Couldn't make the folder %1: %2.").arg(home, qt_error_string(errno))));
     auto verifying = BundleTools::verify(job->tools, home, key, signature, archive, means->source.fingerprint);
     const Result<qint64, DownloadError> verified = co_await verifying;
+    if (verified && SignedBundle::isOfUse(means->profile)) {
+        auto exporting = BundleTools::exportKey(job->tools, home, means->source.fingerprint, job->at("key.gpg"));
+        co_await exporting;
+    }
     co_return verified;
 }
 

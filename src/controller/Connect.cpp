@@ -5,6 +5,7 @@
 #include "controller/SettingRules.h"
 #include "platform/PlatformProfile.h"
 #include "system/PrivilegedRunner.h"
+#include "system/SignedBundle.h"
 
 #include <QFileInfo>
 #include <QPointer>
@@ -29,6 +30,15 @@ QString flag(bool on)
 QCoro::Task<std::optional<ConnectTime>> noAnswer()
 {
     co_return std::nullopt;
+}
+
+// What lets root itself verify transports that an administrator would have to approve. A helper of an earlier version, which runs without a
+// password, does not know the option.
+QStringList bundleWords(const TorController::Services &services, const QStringList &words)
+{
+    if (!services.missingApprovals || services.privileged.privilegedHelperOutdated())
+        return {};
+    return SignedBundle::words(services.profile, services.missingApprovals(words));
 }
 
 } // namespace
@@ -139,7 +149,10 @@ QCoro::Task<Result<void, HelperError>> TorController::approvePrograms(Attempt at
 {
     const QPointer<TorController> self(this);
     const auto missing = m_services.missingApprovals ? m_services.missingApprovals(words) : std::vector<ProgramApproval>();
+    const bool isBundleGiven = words.contains(QLatin1String("--bundle")); // root verifies what it brings itself
     for (const ProgramApproval &program : missing) {
+        if (isBundleGiven && SignedBundle::brings(m_services.profile, program))
+            continue;
         statusDetail = Text::tr("Waiting for an administrator to approve a program…");
         const QStringList asked = program.words();
         const auto helper = co_await m_services.privileged.runWithPrompt(asked);
@@ -222,7 +235,9 @@ QCoro::Task<void> TorController::connect()
     if (!exit.isEmpty())
         arguments << QStringLiteral("--exit") << exit;
     arguments += *bridges;
-    const auto approved = co_await approvePrograms(attempt, arguments);
+    const QStringList bundle = bundleWords(m_services, arguments);
+    const QStringList first = arguments + bundle;
+    const auto approved = co_await approvePrograms(attempt, first);
     if (!self || !isCurrent(attempt))
         co_return;
     if (!approved) {
@@ -233,9 +248,24 @@ QCoro::Task<void> TorController::connect()
     if (isBlocked && arguments != m_sessionWords && !m_services.privileged.passwordlessInstalled())
         arguments[0] = QStringLiteral("replace");
     statusDetail = Text::tr("Waiting for administrator approval…");
-    const auto helper = co_await m_services.privileged.runHelper(arguments);
+    const QStringList asked = arguments + bundle;
+    auto helper = co_await m_services.privileged.runHelper(asked);
     if (!self || !isCurrent(attempt))
         co_return;
+    if (!helper && helper.error().kind() == HelperError::Kind::Unapproved && !bundle.isEmpty()) {
+        // Root does not find the program in a signed bundle, so that an administrator is asked for it by name.
+        const auto named = co_await approvePrograms(attempt, arguments);
+        if (!self || !isCurrent(attempt))
+            co_return;
+        if (!named) {
+            failAtHelper(named.error());
+            co_return;
+        }
+        statusDetail = Text::tr("Waiting for administrator approval…");
+        helper = co_await m_services.privileged.runHelper(arguments);
+        if (!self || !isCurrent(attempt))
+            co_return;
+    }
     if (!helper) {
         failAtHelper(helper.error());
         co_return;

@@ -67,10 +67,16 @@ QCoro::Task<Result<ProcessResult, StartError>> start(ProcessRunner *runner, QStr
     return words.input ? runner->runWithInput(program, all, *words.input) : runner->run(program, all);
 }
 
+// Whether the helper was to verify a bundle. Where it is refused an approval then, its caller knows what to ask for.
+bool bringsBundle(const QStringList &arguments)
+{
+    return arguments.contains(QLatin1String("--bundle"));
+}
+
 // What the dialog is to ask for where the helper has refused `arguments` without an approval.
 QStringList approvable(QStringList arguments)
 {
-    if (arguments.value(0) == QLatin1String("connect"))
+    if (arguments.value(0) == QLatin1String("connect") && !bringsBundle(arguments))
         arguments[0] = QStringLiteral("replace");
     return arguments;
 }
@@ -257,9 +263,11 @@ PrivilegedRunner::run(std::shared_ptr<const Means> means, QStringList arguments)
             co_return Failure(HelperError::notStarted(run.error()));
         if (run->status == 0)
             co_return run->stdout;
-        if (run->status == unapprovedStatus && helpersWords(run->stderr).startsWith(QLatin1String("ERROR: ")))
+        if (run->status == unapprovedStatus && helpersWords(run->stderr).startsWith(QLatin1String("ERROR: "))) {
+            if (bringsBundle(arguments))
+                co_return Failure(HelperError::unapproved(failure(run->stderr).description()));
             arguments = approvable(arguments);
-        else if (!sudoRefused(*run))
+        } else if (!sudoRefused(*run))
             co_return Failure(failure(run->stderr.isEmpty() ? run->stdout : run->stderr));
         if (!means->runner)
             co_return Failure(HelperError::cancelled());

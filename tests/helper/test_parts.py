@@ -115,6 +115,28 @@ class Note(InAFolder):
         self.assertGreater(os.stat(self.path("note")).st_mtime, 1000)
 
 
+class BundleVerdict(unittest.TestCase):
+    """What gpgv says of a bundle's signature, read without running it."""
+
+    SIGNER = "EF6E286DDA85EA2A4BA7DE684E2C6E8793298290"
+    GOOD = "[GNUPG:] VALIDSIG 0123456789012345678901234567890123456789 2026-01-01 1767225600 0 4 0 22 10 00 EF6E286DDA85EA2A4BA7DE684E2C6E8793298290"
+
+    def signed(self, *lines):
+        return run('read_verdict "$1" && printf %s "$BUNDLE_SIGNED"', "\n".join(lines)).stdout
+
+    def test_signers_verdict_counts(self):
+        self.assertEqual(self.signed("[GNUPG:] NEWSIG", "[GNUPG:] GOODSIG 0123 x", self.GOOD), "1767225600")
+        self.assertEqual(self.signed("[GNUPG:] NEWSIG", "[GNUPG:] EXPKEYSIG 0123 x", self.GOOD), "1767225600")
+
+    def test_no_other_verdict_counts(self):
+        for bad in (self.GOOD.replace(" 10 00 ", " 2 00 "), self.GOOD.replace(" 10 00 ", " 10 01 "), self.GOOD.replace("[GNUPG:] ", ""),
+                    self.GOOD.replace(self.SIGNER, "0" * 40), self.GOOD.replace("1767225600", "0"), self.GOOD.replace("1767225600", "a[$(id)]"),
+                    self.GOOD.replace("VALIDSIG", "GOODSIG"), self.GOOD.rsplit(" ", 1)[0], "gpgv: " + self.GOOD, ""):
+            with self.subTest(bad):
+                self.assertEqual(self.signed(bad), "")
+        self.assertEqual(self.signed("[GNUPG:] NEWSIG", "[GNUPG:] REVKEYSIG 0123 x", self.GOOD), "")
+
+
 class Arguments(InAFolder):
     """Which option it is that is refused, and that each of them is looked at."""
 
@@ -143,6 +165,11 @@ class Arguments(InAFolder):
                     done = self.parse(**{option[2:].replace("-", "_"): value})
                     self.assertEqual((done.returncode, done.stderr), (1, f"ERROR: {says}\n"))
 
+    def test_bundle_must_be_an_absolute_path_and_need_not_be_there(self):
+        self.assertEqual(self.parse(bundle="/nonexistent", print_after='echo "$OPT_BUNDLE"').stdout, "/nonexistent\n")
+        done = self.parse(bundle="bundle.tar.gz")
+        self.assertEqual((done.returncode, done.stderr), (1, "ERROR: The path given with --bundle is not absolute.\n"))
+
     def test_each_needed_option_is_missed_by_name(self):
         for option in self.GOOD:
             done = self.parse(**{option[2:]: None})
@@ -150,7 +177,7 @@ class Arguments(InAFolder):
 
     def test_each_is_given_once_and_with_a_value(self):
         for option, value in (*self.GOOD.items(), ("--exit", "de"), ("--pt-lyrebird", "/usr/bin/true"), ("--pt-snowflake", "/usr/bin/true"),
-                              ("--pt-webtunnel", "/usr/bin/true")):
+                              ("--pt-webtunnel", "/usr/bin/true"), ("--bundle", "/nonexistent")):
             done = self.parse(option, value, option, value)
             self.assertEqual((done.returncode, done.stderr), (1, f"ERROR: The option {option} was given twice.\n"))
             for end in [option], [option, ""]:

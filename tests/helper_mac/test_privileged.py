@@ -79,6 +79,17 @@ class Privileged(MacTest):
         self.machine.help(*words, env=UNDER_RULE)
         self.machine.help("disconnect")
 
+    def test_a_transport_of_the_users_needs_an_approval_with_a_bundle_too(self):
+        """A Mac has no gpgv, so that nobody verifies it; the option is known all the same."""
+        self.machine.shell("/usr/bin/install -o alice -m 0755 /usr/bin/obfs4proxy /home/alice/lyrebird; echo bundle >>/home/alice/lyrebird")
+        words = ["connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0", "--bridge", "obfs4 192.0.2.1:443 cert=a",
+                 "--pt-lyrebird", "/home/alice/lyrebird", "--bundle", "/home/alice/bundle.tar.gz"]
+        self.machine.help("install-privileged", "--user", "alice")
+        self.assertOneLine(self.by_rule(*words, check=False), "An administrator password is needed to approve")
+        self.machine.approve("/home/alice/lyrebird", "lyrebird")
+        self.by_rule(*words)
+        self.machine.help("disconnect")
+
     def test_rule_does_not_lessen_what_runs(self):
         words = ["connect", "--tor", "/usr/bin/tor", "--hash", HASH, "--strict", "1", "--lan", "0"]
         self.machine.help("install-privileged", "--user", "alice")

@@ -1,6 +1,7 @@
 #include "DownloadBench.h"
 #include "bridges/PluggableTransports.h"
 #include "support/TestProgram.h"
+#include "system/SignedBundle.h"
 
 #include <QRegularExpression>
 
@@ -67,6 +68,45 @@ private Q_SLOTS:
         const PluggableTransports found = PluggableTransports::locate(*m_profile, outcome->version);
         QCOMPARE(found.source, QStringLiteral("Tor Expert Bundle 14.0.4"));
         QVERIFY(found.lyrebird && found.lyrebird->startsWith(m_profile->bundleDirectory));
+    }
+
+    void keepsWhatRootCanVerifyItBy()
+    {
+        const QString gpgv = m_tree->path(QStringLiteral("usr/bin/gpgv"));
+        QVERIFY(QFile::link(QStringLiteral("/usr/bin/gpgv"), gpgv));
+        QVERIFY(install());
+        const QString kept = SignedBundle::archiveBelow(m_profile->bundleDirectory);
+        QCOMPARE(m_tree->content(kept), m_archive);
+        QCOMPARE(m_tree->content(SignedBundle::signatureOf(kept)), m_signature);
+        const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther | QFile::WriteOther
+            | QFile::ExeOther;
+        QVERIFY(!(QFile::permissions(QFileInfo(kept).path()) & others));
+        const QByteArray verdict = output(gpgv, {QStringLiteral("--status-fd"), QStringLiteral("1"), QStringLiteral("--keyring"),
+                                                 SignedBundle::keyOf(kept), SignedBundle::signatureOf(kept), kept});
+        QVERIFY(verdict.contains("VALIDSIG " + m_key->fingerprint().toLatin1()));
+
+        QVERIFY(QFile::remove(gpgv)); // then nobody could: the next one keeps nothing
+        QVERIFY(install());
+        QVERIFY(!QFileInfo::exists(QFileInfo(kept).path()));
+    }
+
+    void whatTheArchiveHasInThatPlaceIsNotKept()
+    {
+        QVERIFY(QFile::link(QStringLiteral("/usr/bin/gpgv"), m_tree->path(QStringLiteral("usr/bin/gpgv"))));
+        const ProgramTree tree;
+        tree.file(QStringLiteral("b/origin/bundle.tar.gz"), "the archive's own");
+        tree.file(QStringLiteral("b/origin/more"), "the archive's own");
+        output(QStringLiteral("/usr/bin/tar"), {QStringLiteral("-czf"), tree.path(QStringLiteral("a.tar.gz")),
+                                                QStringLiteral("-C"), tree.path(QStringLiteral("b")), QStringLiteral(".")});
+        const QByteArray archive = tree.content(QStringLiteral("a.tar.gz"));
+        serveArchive(archive);
+        QVERIFY(install());
+        const QString kept = SignedBundle::archiveBelow(m_profile->bundleDirectory);
+        QCOMPARE(m_tree->content(kept), archive);
+        QVERIFY(!QFileInfo::exists(QFileInfo(kept).path() + QStringLiteral("/more")));
+        QVERIFY(QFile::remove(m_tree->path(QStringLiteral("usr/bin/gpgv"))));
+        QVERIFY(install());
+        QVERIFY(!QFileInfo::exists(QFileInfo(kept).path()));
     }
 
     void tellsHowItGoes()

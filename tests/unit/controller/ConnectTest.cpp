@@ -1,7 +1,9 @@
 #include "base/TorPassword.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
+#include "system/SignedBundle.h"
 
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -267,6 +269,49 @@ private Q_SLOTS:
         QCOMPARE(bench.lastHelperRun(u"approve"_s),
                  QStringList({u"approve"_s, u"--program"_s, tor, u"--as"_s, u"tor"_s, u"--sha256"_s, u"abcd"_s}));
         QCOMPARE(bench.helperRuns().back().constFirst(), u"connect"_s);
+    }
+
+    void transportsOfASignedBundleAreRootsToVerify()
+    {
+        Workbench bench;
+        const QString archive = SignedBundle::archiveBelow(bench.profile.bundleDirectory);
+        const QString lyrebird = bench.profile.bundleDirectory + u"/tor/pluggable_transports/lyrebird"_s;
+        bench.writeFile(bench.profile.places.root + u"/usr/bin/gpgv"_s, "x", true);
+        for (const QString &path : {archive, SignedBundle::signatureOf(archive), SignedBundle::keyOf(archive), lyrebird})
+            bench.writeFile(path, "x");
+        bench.missingApprovals = [lyrebird](const QStringList &) {
+            return std::vector<ProgramApproval>{{QFileInfo(lyrebird).canonicalFilePath(), u"lyrebird"_s, u"abcd"_s}};
+        };
+        QVERIFY(bench.connect());
+        QCOMPARE(bench.helperRunCount(u"approve"_s), 0);
+        QCOMPARE(bench.lastHelperRun(u"connect"_s).mid(bench.lastHelperRun(u"connect"_s).size() - 2), QStringList({u"--bundle"_s, archive}));
+        bench.disconnect();
+
+        // Root does not believe it: the program is named to an administrator.
+        const auto answer = bench.processes.answer;
+        bench.processes.answer = [answer](const ScriptedRunner::Call &call) -> Result<ProcessResult, StartError> {
+            if (call.arguments.contains(u"--bundle"_s))
+                return ProcessResult{3, {}, u"ERROR: An administrator password is needed to approve it.\n"_s};
+            return answer(call);
+        };
+        QVERIFY(bench.connect());
+        QCOMPARE(bench.helperRunCount(u"approve"_s), 1);
+        QVERIFY(!bench.lastHelperRun(u"connect"_s).contains(u"--bundle"_s));
+        QCOMPARE(bench.helperRuns().back().constFirst(), u"connect"_s);
+        QCOMPARE(bench.helperRunCount(u"replace"_s), 0); // no strict session is lessened
+        bench.disconnect();
+
+        bench.cancelPrompt(u"approve"_s);
+        QVERIFY(!bench.connect());
+        QVERIFY(bench.controller().phase() == Phase::disconnected && !bench.controller().errorMessage());
+
+        // A helper of an earlier version, which runs without a password, does not know the option.
+        bench.letHelperWork();
+        bench.processes.answer = answer;
+        bench.writeFile(bench.profile.installedHelper, "an earlier one");
+        bench.writeFile(bench.profile.sudoersRule, "rule");
+        QVERIFY(bench.connect());
+        QVERIFY(!bench.lastHelperRun(u"connect"_s).contains(u"--bundle"_s));
     }
 
     void aSecondConnectIsIgnored()

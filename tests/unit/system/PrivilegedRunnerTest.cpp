@@ -251,6 +251,23 @@ private Q_SLOTS:
         QCOMPARE(refused.error().description(), QStringLiteral("An administrator password is needed."));
     }
 
+    // It says of which program an approval is missing, and the next dialog is to name that.
+    void aBundleThatIsNotBelievedIsTheCallersToAskFor()
+    {
+        StandIns system(true);
+        system.installPasswordless();
+        system.helper("exit 0");
+        system.sudo("echo 'ERROR: An administrator password is needed to approve /b.' >&2; exit 3");
+        system.dialog("echo prompted");
+        PrivilegedRunner runner = system.runner();
+        const QStringList words = {QStringLiteral("connect"), QStringLiteral("--bundle"), QStringLiteral("/b")};
+        const Outcome refused = run(runner, words);
+        QVERIFY(!refused);
+        QCOMPARE(refused.error().kind(), Kind::Unapproved);
+        QVERIFY(!system.argumentsOf(system.profile.promptProgram));
+        QCOMPARE(run(runner, {QStringLiteral("connect")}).value(), QStringLiteral("prompted\n"));
+    }
+
     void withoutTheRuleEveryRunPrompts()
     {
         StandIns system(false);
