@@ -18,6 +18,7 @@ usage: ./build.sh VERB
   tsan     the tests whose work crosses threads, under the thread sanitizer
   apple    what a Mac compiles, under clang and libc++: syntax and types only (./build.sh apple [PART OF A PATH...])
   coverage which lines of src/ the unit tests run
+  format   rewrites the sources that are not as clang-format and black write them
   mutate   small mistakes put into a clone of the last commit, one at a time, and which of them no test notices
            (./build.sh mutate [ROOM...] [--count N] [--seed S]; rooms are also qml, helper and helper_mac)
   fuzz     the fuzzers, an hour over all (--minutes M for another time)
@@ -275,6 +276,10 @@ fuzz)
     compile dev programs
     compile fuzz fuzzers
     exec /usr/bin/python3 fuzz/run.py "$@"
+    ;;
+format)
+    deps
+    exec /usr/bin/python3 tests/house/test_format.py --write
     ;;
 mutate)
     deps

@@ -1,5 +1,5 @@
-// The yardstick of the desktop figures: the least Qt Quick program with a tray icon and a window; --hidden shows
-// no window.
+// The yardstick of the desktop figures: the least Qt Quick program with a tray icon and a window;
+// --hidden shows no window.
 #include <QApplication>
 #include <QMenu>
 #include <QQmlComponent>
@@ -24,7 +24,8 @@ int main(int argc, char **argv)
         return QApplication::exec();
     QQmlComponent component(&engine);
     component.setData("import QtQuick\nWindow { width: 400; height: 700; visible: true\n"
-                      "Text { anchors.centerIn: parent; text: \"Hello\" } }", QUrl());
+                      "Text { anchors.centerIn: parent; text: \"Hello\" } }",
+                      QUrl());
     const std::unique_ptr<QObject> window(component.create());
     return window ? QApplication::exec() : 1;
 }

@@ -16,8 +16,10 @@ namespace {
 
 QString fingerprint(int relay)
 {
-    return QStringLiteral("%1%2").arg(relay * 2654435761u, 20, 16, QLatin1Char('0'))
-        .arg(relay, 20, 16, QLatin1Char('7')).toUpper();
+    return QStringLiteral("%1%2")
+        .arg(relay * 2654435761u, 20, 16, QLatin1Char('0'))
+        .arg(relay, 20, 16, QLatin1Char('7'))
+        .toUpper();
 }
 
 // A line as Tor 0.4.9 writes it, some 260 characters long.

@@ -1,5 +1,5 @@
-// How long the search for transport programs takes in the system laid out below FOLDER, once, as one line of JSON.
-// Usage: DiscoveryBench FOLDER. Build it with optimisation.
+// How long the search for transport programs takes in the system laid out below FOLDER, once, as
+// one line of JSON. Usage: DiscoveryBench FOLDER. Build it with optimisation.
 #include "bridges/PluggableTransports.h"
 
 #include <QFile>
@@ -15,7 +15,8 @@ int main(int argc, char **argv)
 {
     if (argc != 2)
         return 2;
-    const PlatformProfile profile = PlatformProfile::linux(Places::below(QFile::decodeName(argv[1])));
+    const PlatformProfile profile = PlatformProfile::linux(
+        Places::below(QFile::decodeName(argv[1])));
     const auto start = std::chrono::steady_clock::now();
     const PluggableTransports found = PluggableTransports::locate(profile);
     const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - start;

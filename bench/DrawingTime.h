@@ -7,7 +7,8 @@
 
 namespace veldmark {
 
-// Processor time of the calling thread, in milliseconds; other work on the machine does not lengthen it.
+// Processor time of the calling thread, in milliseconds; other work on the machine does not
+// lengthen it.
 inline double threadMilliseconds()
 {
     timespec now{};

@@ -51,7 +51,8 @@ double measure(const QByteArray &status)
             break;
         lines = std::move(*reply);
     }
-    const std::chrono::duration<double, std::milli> taken = std::chrono::steady_clock::now() - begin;
+    const std::chrono::duration<double, std::milli> taken = std::chrono::steady_clock::now()
+        - begin;
     if (!lines || lines->size() != circuits + 3) {
         std::fprintf(stderr, "the reply was not framed\n");
         std::exit(1);

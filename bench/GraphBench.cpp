@@ -1,7 +1,7 @@
-// How long the circuits window takes to draw, as one line of JSON: the graph alone and the whole window, at its
-// default size with the software renderer. Processor time of the drawing thread, which other work on the
-// machine does not lengthen as it does the time on the clock.
-// Usage: GraphBench [REPETITIONS] (default 25). Build it with optimisation.
+// How long the circuits window takes to draw, as one line of JSON: the graph alone and the whole
+// window, at its default size with the software renderer. Processor time of the drawing thread,
+// which other work on the machine does not lengthen as it does the time on the clock. Usage:
+// GraphBench [REPETITIONS] (default 25). Build it with optimisation.
 #include "DrawingTime.h"
 #include "Scenes.h"
 #include "Stage.h"
@@ -30,9 +30,11 @@ int main(int argc, char **argv)
         Snapshot snapshot = Scenes::protectedSession();
         snapshot.circuits = Scenes::circuits(count);
         stage.session.show(snapshot);
-        QQuickWindow *window = stage.open(QStringLiteral("circuits/CircuitsWindow.qml"),
-                                          {{QStringLiteral("model"), QVariant::fromValue(&stage.circuits)}});
-        auto *graph = window ? window->findChild<QQuickPaintedItem *>(QStringLiteral("graph")) : nullptr;
+        QQuickWindow *window = stage.open(
+            QStringLiteral("circuits/CircuitsWindow.qml"),
+            {{QStringLiteral("model"), QVariant::fromValue(&stage.circuits)}});
+        auto *graph = window ? window->findChild<QQuickPaintedItem *>(QStringLiteral("graph"))
+                             : nullptr;
         if (!graph)
             return 1;
         stage.picture();
@@ -40,17 +42,21 @@ int main(int argc, char **argv)
             stage.setDark(dark);
             stage.picture();
             QImage canvas(graph->size().toSize(), QImage::Format_ARGB32_Premultiplied);
-            const double drawn = drawingTimes(repetitions, [&](int) { // everything, each time
-                QPainter painter(&canvas);
-                graph->paint(&painter);
-            }).middle;
+            const double drawn = drawingTimes(repetitions,
+                                              [&](int) { // everything, each time
+                                                  QPainter painter(&canvas);
+                                                  graph->paint(&painter);
+                                              })
+                                     .middle;
             // Tor's list has changed: everything from the session's news to the window's pixels.
             const double frame = drawingTimes(repetitions, [&](int i) {
-                snapshot.circuits[0].sites = {QStringLiteral("site%1.example").arg(i)};
-                stage.session.show(snapshot);
-                window->grabWindow();
-            }).middle;
-            const QString key = QString::number(count) + (dark ? QStringLiteral("dark") : QStringLiteral("light"));
+                                     snapshot.circuits[0].sites = {
+                                         QStringLiteral("site%1.example").arg(i)};
+                                     stage.session.show(snapshot);
+                                     window->grabWindow();
+                                 }).middle;
+            const QString key = QString::number(count)
+                + (dark ? QStringLiteral("dark") : QStringLiteral("light"));
             result.insert(key + QStringLiteral("GraphMs"), drawn);
             result.insert(key + QStringLiteral("WindowMs"), frame);
         }

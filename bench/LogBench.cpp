@@ -1,6 +1,6 @@
-// Median times of reading, merging and parsing three log files of 1,000,000 bytes, for several kinds
-// of content, and of a poll that finds nothing new; as one line of JSON.
-// Usage: LogBench [REPETITIONS] (default 15). Build it with optimisation.
+// Median times of reading, merging and parsing three log files of 1,000,000 bytes, for several
+// kinds of content, and of a poll that finds nothing new; as one line of JSON. Usage: LogBench
+// [REPETITIONS] (default 15). Build it with optimisation.
 #include "MedianTime.h"
 #include "log/TorLog.h"
 
@@ -43,11 +43,14 @@ int main(int argc, char **argv)
         const char *name;
         std::function<QByteArray(int)> line;
     } kinds[] = {
-        {"torLines", [](int i) {
+        {"torLines",
+         [](int i) {
              return "Nov 16 00:41:07.123 [notice] Bootstrapped " + QByteArray::number(i % 100)
-                 + "% (loading_descriptors): Loading relay descriptors, circuit " + QByteArray::number(i);
+                 + "% (loading_descriptors): Loading relay descriptors, circuit "
+                 + QByteArray::number(i);
          }},
-        {"longTorLines", [](int i) {
+        {"longTorLines",
+         [](int i) {
              return "Nov 16 00:41:07.123 [notice] " + QByteArray::number(i) + QByteArray(970, 'x');
          }},
         {"longOtherLines", [](int i) { return QByteArray::number(i) + QByteArray(990, 'e'); }},
@@ -66,16 +69,21 @@ int main(int argc, char **argv)
         write(log.noticesPath(), content);
         write(log.launcherPath(), content);
         qsizetype lines = 0;
-        const double time = medianMilliseconds(repetitions, [&] { lines = log.read().lines().size(); });
+        const double time = medianMilliseconds(repetitions,
+                                               [&] { lines = log.read().lines().size(); });
         const QString name = QString::fromLatin1(kind.name);
         result.insert(name + QStringLiteral("MedianMs"), time);
         result.insert(name + QStringLiteral("Lines"), static_cast<qint64>(lines));
     }
     // All start-up lines are new: the whole of both files is compared.
-    write(log.startupPath(), repeated([](int i) { return "s" + QByteArray::number(i) + QByteArray(60, 's'); }));
-    write(log.noticesPath(), repeated([](int i) { return "n" + QByteArray::number(i) + QByteArray(990, 'n'); }));
-    write(log.launcherPath(), repeated([](int i) { return "l" + QByteArray::number(i) + QByteArray(990, 'l'); }));
-    result.insert(QStringLiteral("mergeMedianMs"), medianMilliseconds(repetitions, [&] { log.read(); }));
+    write(log.startupPath(),
+          repeated([](int i) { return "s" + QByteArray::number(i) + QByteArray(60, 's'); }));
+    write(log.noticesPath(),
+          repeated([](int i) { return "n" + QByteArray::number(i) + QByteArray(990, 'n'); }));
+    write(log.launcherPath(),
+          repeated([](int i) { return "l" + QByteArray::number(i) + QByteArray(990, 'l'); }));
+    result.insert(QStringLiteral("mergeMedianMs"),
+                  medianMilliseconds(repetitions, [&] { log.read(); }));
 
     QString signature;
     constexpr int polls = 1000;

@@ -1,6 +1,6 @@
-// How long the log window takes to draw with 3,000 lines, as one line of JSON: a line added while following, a
-// list replaced as a whole, and a scroll by a few lines. Processor time of the drawing thread.
-// Usage: LogWindowBench [REPETITIONS] (default 25). Build it with optimisation.
+// How long the log window takes to draw with 3,000 lines, as one line of JSON: a line added while
+// following, a list replaced as a whole, and a scroll by a few lines. Processor time of the drawing
+// thread. Usage: LogWindowBench [REPETITIONS] (default 25). Build it with optimisation.
 #include "DrawingTime.h"
 #include "Scenes.h"
 #include "Stage.h"
@@ -24,12 +24,11 @@ int main(int argc, char **argv)
     constexpr int lines = 3000;
     Stage stage;
     const QList<TorLogLine> all = Scenes::log(2 * lines + repetitions);
-    const auto some = [&all](int first) {
-        return all.mid(first, lines);
-    };
+    const auto some = [&all](int first) { return all.mid(first, lines); };
     stage.log.show(LogFeed::State::lines, some(0));
-    QQuickWindow *window = stage.open(QStringLiteral("log/LogWindow.qml"),
-                                      {{QStringLiteral("model"), QVariant::fromValue(&stage.lines)}});
+    QQuickWindow *window = stage.open(
+        QStringLiteral("log/LogWindow.qml"),
+        {{QStringLiteral("model"), QVariant::fromValue(&stage.lines)}});
     auto *list = window ? window->findChild<QQuickItem *>(QStringLiteral("lines")) : nullptr;
     if (!list)
         return 1;
@@ -74,9 +73,12 @@ int main(int argc, char **argv)
     const QJsonObject result{
         {QStringLiteral("bench"), QStringLiteral("log window")},
         {QStringLiteral("repetitions"), repetitions},
-        {QStringLiteral("addedMs"), added.middle},       {QStringLiteral("addedMostMs"), added.most},
-        {QStringLiteral("replacedMs"), replaced.middle}, {QStringLiteral("replacedMostMs"), replaced.most},
-        {QStringLiteral("scrolledMs"), scrolled.middle}, {QStringLiteral("scrolledMostMs"), scrolled.most},
+        {QStringLiteral("addedMs"), added.middle},
+        {QStringLiteral("addedMostMs"), added.most},
+        {QStringLiteral("replacedMs"), replaced.middle},
+        {QStringLiteral("replacedMostMs"), replaced.most},
+        {QStringLiteral("scrolledMs"), scrolled.middle},
+        {QStringLiteral("scrolledMostMs"), scrolled.most},
     };
     QTextStream(stdout) << QJsonDocument(result).toJson(QJsonDocument::Compact) << Qt::endl;
     return stage.warnings().isEmpty() ? 0 : 1;

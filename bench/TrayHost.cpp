@@ -1,5 +1,5 @@
-// A desktop's tray, as far as programs can tell: takes every icon and shows none. Prints "ready" once it stands on
-// the session bus, so that programs that start afterwards find it.
+// A desktop's tray, as far as programs can tell: takes every icon and shows none. Prints "ready"
+// once it stands on the session bus, so that programs that start afterwards find it.
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QTextStream>
@@ -17,7 +17,7 @@ public Q_SLOTS:
         m_items << service;
         Q_EMIT StatusNotifierItemRegistered(service);
     }
-    void RegisterStatusNotifierHost(const QString &) {}
+    void RegisterStatusNotifierHost(const QString &) { }
 
 Q_SIGNALS:
     void StatusNotifierItemRegistered(const QString &service);

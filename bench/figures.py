@@ -36,10 +36,14 @@ class Figures:
         self.missed: list[str] = []
         self._judges = judges
 
-    def add(self, name: str, value: float, unit: str = "", note: str = "", *, most: float | None = None, least: float | None = None) -> None:
+    def add(
+        self, name: str, value: float, unit: str = "", note: str = "", *, most: float | None = None, least: float | None = None
+    ) -> None:
         goal = f"at most {most:g}" if most is not None else f"at least {least:g}" if least is not None else ""
         met = (most is None or value <= most) and (least is None or value >= least)
-        self.rows.append({"name": name, "value": round(value, 3), "unit": unit, "goal": goal, "met": met if goal else None, "note": note})
+        self.rows.append(
+            {"name": name, "value": round(value, 3), "unit": unit, "goal": goal, "met": met if goal else None, "note": note}
+        )
         if goal and not met:
             self.missed.append(name)
         verdict = "" if not goal or not self._judges else "met" if met else "MISSED"

@@ -56,7 +56,9 @@ def main() -> int:
         parser.error(f"no group has \"{arguments.only}\" in its name; there are {', '.join(GROUPS)}")
     rounds = Rounds(QUICK_IDLE_SECONDS if arguments.quick else arguments.idle, arguments.quick)
     figures = Figures(judges=not arguments.quick)
-    print(f"{platform.machine()}, {os.cpu_count()} processors, {platform.system()} {platform.release()}, load {os.getloadavg()[0]:.1f}")
+    print(
+        f"{platform.machine()}, {os.cpu_count()} processors, {platform.system()} {platform.release()}, load {os.getloadavg()[0]:.1f}"
+    )
     try:
         for name in groups:
             print(name, flush=True)

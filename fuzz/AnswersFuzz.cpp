@@ -1,4 +1,5 @@
-// Short answers from elsewhere: the exit-check service, the root helper's complaints, and the arguments of veldmarkctl.
+// Short answers from elsewhere: the exit-check service, the root helper's complaints, and the
+// arguments of veldmarkctl.
 #include "fuzz/Require.h"
 
 #include "checks/IPCheck.h"
@@ -10,7 +11,8 @@ using namespace veldmark;
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray bytes = bytesOf(data, size);
-    if (const auto answer = IPCheck::fromJson(bytes)) { // shown to the user, so nothing but an address
+    // shown to the user, so nothing but an address
+    if (const auto answer = IPCheck::fromJson(bytes)) {
         REQUIRE(isPrintableWord(answer->ip) && answer->ip.size() <= 45);
         for (const QChar c : answer->ip)
             REQUIRE(c == u'.' || c == u':' || QStringLiteral("0123456789abcdefABCDEF").contains(c));

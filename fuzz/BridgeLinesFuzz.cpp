@@ -19,12 +19,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     }
     const ParsedBridgeLines parsed = BridgeLines::parse(text);
     REQUIRE(parsed.invalid.size() == static_cast<qsizetype>(parsed.invalidLineNumbers.size()));
-    // The keyword is taken off once; a second one, or one with a tab after it, stays as a transport of that name.
+    // The keyword is taken off once; a second one, or one with a tab after it, stays as a transport
+    // of that name.
     bool hasKeyword = false;
     for (const QString &line : parsed.lines) {
         const bool startsWithKeyword = line.startsWith(QStringLiteral("bridge "));
         hasKeyword = hasKeyword || startsWithKeyword;
-        REQUIRE(BridgeLines::isValid(line) && (startsWithKeyword || BridgeLines::normalised(line) == line));
+        REQUIRE(BridgeLines::isValid(line)
+                && (startsWithKeyword || BridgeLines::normalised(line) == line));
         for (const QString &word : line.split(u' '))
             REQUIRE(isPrintableWord(word));
         BridgeLines::transport(line);
@@ -40,7 +42,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     REQUIRE(custom.has_value() == (parsed.invalid.isEmpty() && !parsed.lines.isEmpty()));
 
     PluggableTransports transports;
-    transports.lyrebird = transports.snowflake = transports.webtunnel = QStringLiteral("/usr/bin/lyrebird");
+    transports.lyrebird = transports.snowflake = transports.webtunnel = QStringLiteral(
+        "/usr/bin/lyrebird");
     if (const auto arguments = bridgeArguments(parsed.lines, transports)) {
         for (const QString &argument : *arguments)
             REQUIRE(!argument.isEmpty() && !argument.contains(u'\n') && !argument.contains(u'\r'));

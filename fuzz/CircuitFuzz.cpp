@@ -22,7 +22,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     for (const CircuitInfo &circuit : table.circuits) {
         REQUIRE(!ids.contains(circuit.id) && !circuit.hops.empty());
         ids.insert(circuit.id);
-        REQUIRE(QSet<QString>(circuit.sites.begin(), circuit.sites.end()).size() == circuit.sites.size());
+        REQUIRE(QSet<QString>(circuit.sites.begin(), circuit.sites.end()).size()
+                == circuit.sites.size());
         circuit.toJson();
     }
     for (auto known = history.keyBegin(); known != history.keyEnd(); ++known)
@@ -30,7 +31,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     for (const RelayInfo &relay : table.unresolved)
         REQUIRE(isPrintableWord(relay.fingerprint)); // it is asked for in a command
     // Asking again with the same lines changes nothing.
-    REQUIRE(CircuitTable::assemble(circuitLines, streamLines, history, cache).circuits == table.circuits);
+    REQUIRE(CircuitTable::assemble(circuitLines, streamLines, history, cache).circuits
+            == table.circuits);
 
     const CircuitGraph graph = CircuitGraph::build(table.circuits);
     const GraphLayout layout(graph, QSizeF(800, 400));

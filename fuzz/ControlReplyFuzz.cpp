@@ -43,7 +43,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const Framed whole = framed(bytes, std::max<qsizetype>(bytes.size(), 1));
     REQUIRE(framed(bytes, 1 + data[0] % 16) == whole);
     for (const QStringList &reply : whole.replies) {
-        REQUIRE(!reply.isEmpty() && reply.constLast().size() >= 4 && reply.constLast().at(3) == u' ');
+        REQUIRE(!reply.isEmpty() && reply.constLast().size() >= 4
+                && reply.constLast().at(3) == u' ');
         ControlPort::getInfoValues(reply);
         for (const QString &line : ControlPort::dataBlock(QStringLiteral("circuit-status"), reply))
             REQUIRE(!line.contains(QStringLiteral("\r\n")));

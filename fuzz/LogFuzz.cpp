@@ -1,5 +1,5 @@
-// Tor's log: single lines against the pattern that they are documented to follow, and the merged files.
-// The files are parted by a byte 0xFF.
+// Tor's log: single lines against the pattern that they are documented to follow, and the merged
+// files. The files are parted by a byte 0xFF.
 #include "fuzz/Require.h"
 
 #include "log/TorLog.h"
@@ -58,7 +58,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     REQUIRE(snapshot.lines().size() <= TorLog::lineLimit);
     for (int i = 0; i < snapshot.lines().size(); ++i) {
         const TorLogLine &line = snapshot.lines()[i];
-        REQUIRE(line.id == i && !line.raw.isEmpty() && !line.raw.contains(u'\n') && !line.raw.contains(u'\r'));
+        REQUIRE(line.id == i && !line.raw.isEmpty() && !line.raw.contains(u'\n')
+                && !line.raw.contains(u'\r'));
     }
     TorLogFilter filter;
     filter.problemsOnly = true;

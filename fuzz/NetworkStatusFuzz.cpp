@@ -1,4 +1,5 @@
-// What Tor says about relays, countries and its own start. Addresses found here go into the next command to Tor.
+// What Tor says about relays, countries and its own start. Addresses found here go into the next
+// command to Tor.
 #include "fuzz/Require.h"
 
 #include "circuits/CircuitParser.h"
@@ -24,7 +25,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     }
     if (const auto time = CircuitParser::timeFormatter(lines.constFirst())) {
         REQUIRE(time->isValid());
-        REQUIRE(lines.constFirst().startsWith(time->toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss"))));
+        REQUIRE(
+            lines.constFirst().startsWith(time->toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss"))));
     }
     const BootstrapStatus status = TorController::parseBootstrap(text);
     REQUIRE(status.progress >= 0);

@@ -1,5 +1,5 @@
-// The local socket's requests, through a real socket into a whole controller, and veldmarkctl's arguments. The answer
-// is always JSON, and the last line of it says "ok".
+// The local socket's requests, through a real socket into a whole controller, and veldmarkctl's
+// arguments. The answer is always JSON, and the last line of it says "ok".
 #include "fuzz/Require.h"
 
 #include "instance/InstanceServer.h"
@@ -34,8 +34,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     QByteArray request = bytesOf(data, size);
     request.truncate(request.indexOf('\n') < 0 ? request.size() : request.indexOf('\n'));
     // These wait for the world, not for a reader.
-    const QString command =
-        QJsonDocument::fromJson(request).object().value(QStringLiteral("command")).toString();
+    const QString command
+        = QJsonDocument::fromJson(request).object().value(QStringLiteral("command")).toString();
     if (command == u"watch" || command == u"connect" || command == u"disconnect")
         return 0;
 

@@ -7,13 +7,14 @@
 #include <cstdio>
 #include <cstdlib>
 
-// A property that must hold whatever the input is. When it does not, libFuzzer keeps the input that broke it.
-#define REQUIRE(condition)                                                                                   \
-    do {                                                                                                     \
-        if (!(condition)) {                                                                                  \
-            std::fprintf(stderr, "%s:%d: not true: %s\n", __FILE__, __LINE__, #condition);                   \
-            std::abort();                                                                                    \
-        }                                                                                                    \
+// A property that must hold whatever the input is. When it does not, libFuzzer keeps the input that
+// broke it.
+#define REQUIRE(condition)                                                                         \
+    do {                                                                                           \
+        if (!(condition)) {                                                                        \
+            std::fprintf(stderr, "%s:%d: not true: %s\n", __FILE__, __LINE__, #condition);         \
+            std::abort();                                                                          \
+        }                                                                                          \
     } while (false)
 
 namespace veldmark {

@@ -1,4 +1,5 @@
-// The environment of another process, as the kernel shows it, of which veldmark-launch takes the session's variables.
+// The environment of another process, as the kernel shows it, of which veldmark-launch takes the
+// session's variables.
 #include "fuzz/Require.h"
 
 #include "launch/SessionEnvironment.h"

@@ -43,46 +43,212 @@ while IFS= read -r -d '' count; do
 done
 """
 
-SINGLE = ["--tor", "--hash", "--strict", "--lan", "--separate", "--exit", "--pt-lyrebird", "--pt-snowflake", "--pt-webtunnel",
-          "--bundle", "--user", "--launch", "--uid", "--app", "--program", "--as", "--sha256"]
+SINGLE = [
+    "--tor",
+    "--hash",
+    "--strict",
+    "--lan",
+    "--separate",
+    "--exit",
+    "--pt-lyrebird",
+    "--pt-snowflake",
+    "--pt-webtunnel",
+    "--bundle",
+    "--user",
+    "--launch",
+    "--uid",
+    "--app",
+    "--program",
+    "--as",
+    "--sha256",
+]
 ALLOWED = {
-    "connect": SINGLE[:10] + ["--bridge"], "replace": SINGLE[:10] + ["--bridge"], "approve": ["--program", "--as", "--sha256"],
-    "launch": ["--uid", "--app"], "install-privileged": ["--user", "--launch"],
-    "disconnect": [], "fix-dns": [], "uninstall-privileged": [],
+    "connect": SINGLE[:10] + ["--bridge"],
+    "replace": SINGLE[:10] + ["--bridge"],
+    "approve": ["--program", "--as", "--sha256"],
+    "launch": ["--uid", "--app"],
+    "install-privileged": ["--user", "--launch"],
+    "disconnect": [],
+    "fix-dns": [],
+    "uninstall-privileged": [],
 }
 BRIDGE = re.compile(rb"([a-z][a-z0-9_]* )?\[?[0-9A-Fa-f.:]+\]?:[0-9]+( [!-~]+)*")
-TORRC_KEYWORDS = {b"DataDirectory", b"Log", b"SocksPort", b"ControlPort", b"HashedControlPassword", b"CookieAuthentication",
-                  b"DNSPort", b"ClientOnly", b"AvoidDiskWrites", b"ExitNodes", b"StrictNodes", b"UseBridges", b"Bridge",
-                  b"ClientTransportPlugin", b"NoExec"}
+TORRC_KEYWORDS = {
+    b"DataDirectory",
+    b"Log",
+    b"SocksPort",
+    b"ControlPort",
+    b"HashedControlPassword",
+    b"CookieAuthentication",
+    b"DNSPort",
+    b"ClientOnly",
+    b"AvoidDiskWrites",
+    b"ExitNodes",
+    b"StrictNodes",
+    b"UseBridges",
+    b"Bridge",
+    b"ClientTransportPlugin",
+    b"NoExec",
+}
 HASH = b"16:" + b"0123456789ABCDEF" * 3 + b"0123456789"
 OBFS4 = b"obfs4 192.0.2.1:443 " + b"0" * 40 + b" cert=a/b+c iat-mode=0"
 
 GOOD = [
     [b"connect", b"--tor", b"/usr/bin/env", b"--hash", HASH, b"--strict", b"1", b"--lan", b"0"],
-    [b"connect", b"--tor", b"/usr/bin/env", b"--hash", HASH, b"--strict", b"0", b"--lan", b"1", b"--exit", b"de", b"--separate", b"1"],
-    [b"connect", b"--tor", b"/usr/bin/env", b"--hash", HASH, b"--strict", b"1", b"--lan", b"1", b"--bridge", OBFS4,
-     b"--bridge", b"[2001:db8::1]:443", b"--pt-lyrebird", b"/usr/bin/env"],
-    [b"connect", b"--tor", b"/usr/bin/env", b"--hash", HASH, b"--strict", b"1", b"--lan", b"0",
-     b"--bridge", b"snowflake 192.0.2.3:1 url=https://a/", b"--pt-snowflake", b"/usr/bin/env"],
-    [b"connect", b"--tor", b"/usr/bin/env", b"--hash", HASH, b"--strict", b"1", b"--lan", b"0",
-     b"--bridge", b"webtunnel [2001:db8::2]:443 url=https://b/", b"--pt-webtunnel", b"/usr/bin/env",
-     b"--bundle", b"/nonexistent/bundle.tar.gz"],
+    [
+        b"connect",
+        b"--tor",
+        b"/usr/bin/env",
+        b"--hash",
+        HASH,
+        b"--strict",
+        b"0",
+        b"--lan",
+        b"1",
+        b"--exit",
+        b"de",
+        b"--separate",
+        b"1",
+    ],
+    [
+        b"connect",
+        b"--tor",
+        b"/usr/bin/env",
+        b"--hash",
+        HASH,
+        b"--strict",
+        b"1",
+        b"--lan",
+        b"1",
+        b"--bridge",
+        OBFS4,
+        b"--bridge",
+        b"[2001:db8::1]:443",
+        b"--pt-lyrebird",
+        b"/usr/bin/env",
+    ],
+    [
+        b"connect",
+        b"--tor",
+        b"/usr/bin/env",
+        b"--hash",
+        HASH,
+        b"--strict",
+        b"1",
+        b"--lan",
+        b"0",
+        b"--bridge",
+        b"snowflake 192.0.2.3:1 url=https://a/",
+        b"--pt-snowflake",
+        b"/usr/bin/env",
+    ],
+    [
+        b"connect",
+        b"--tor",
+        b"/usr/bin/env",
+        b"--hash",
+        HASH,
+        b"--strict",
+        b"1",
+        b"--lan",
+        b"0",
+        b"--bridge",
+        b"webtunnel [2001:db8::2]:443 url=https://b/",
+        b"--pt-webtunnel",
+        b"/usr/bin/env",
+        b"--bundle",
+        b"/nonexistent/bundle.tar.gz",
+    ],
     [b"launch", b"--uid", b"4242", b"--app", b"/usr/share/applications/a.desktop"],
     [b"install-privileged", b"--user", b"alice", b"--launch", b"/usr/bin/env"],
     [b"replace", b"--tor", b"/usr/bin/env", b"--hash", HASH, b"--strict", b"0", b"--lan", b"1"],
     [b"approve", b"--program", b"/usr/bin/env", b"--as", b"lyrebird", b"--sha256", b"0123456789abcdef" * 4],
-    [b"disconnect"], [b"fix-dns"], [b"uninstall-privileged"],
+    [b"disconnect"],
+    [b"fix-dns"],
+    [b"uninstall-privileged"],
 ]
 HOSTILE = [
-    b"", b" ", b"-", b"--", b"--help", b"-c", b"$(touch pwned)", b"`touch pwned`", b"a[$(touch pwned)]", b"x;touch pwned",
-    b"'", b'"', b"\\", b"#", b"{de}", b"de}", b"DE", b"d", b"\n", b"\r", b"\t", b"\x1b[2J", b"\x7f", b"\xc2\x85", b"\xc2",
-    b"\xff\xfe", b"\xe2\x80\xa8", b"\xd9\xa1", b"0x1", b"01", b"2", b"1 ", b" 1", b"1\n", b"4294967295", b"-1", b"root",
-    b"/", b"//", b"/usr/bin", b"/dev/null", b"/etc/passwd", b"/nonexistent", b"usr/bin/env", b"/usr/bin/../bin/env",
-    b"/usr/bin/env\n", b"*", b"?", b"[a-z]", b"[", b"~", b"~root", b"!", b"a" * 5000, b"\xe2\x82\xac" * 1400, b"%s%n",
-    b"192.0.2.1:443", b"192.0.2.1:443 a#b", b"192.0.2.1:443  a", b"[::1]:1", b"]:1", b":1", b"obfs4 :1",
-    b"conjure 192.0.2.1:1", b"meek_lite 192.0.2.1:1 url=x", b"192.0.2.1:443\nExitNodes {xx}", b"BASH_ENV=x", b"OPT_TOR",
-    b"PATH", b"alice ALL=(ALL) NOPASSWD: ALL", b"alice$", b"a.b@c-d", b"CALLER_UID", b"IFS", b"--tor=/usr/bin/env",
-    b"--tor\n", b"--bridge --tor", b"\xc2\x80", b"\xc2\x9f", b"\xc2\xa0", b"\xc3\xa9",
+    b"",
+    b" ",
+    b"-",
+    b"--",
+    b"--help",
+    b"-c",
+    b"$(touch pwned)",
+    b"`touch pwned`",
+    b"a[$(touch pwned)]",
+    b"x;touch pwned",
+    b"'",
+    b'"',
+    b"\\",
+    b"#",
+    b"{de}",
+    b"de}",
+    b"DE",
+    b"d",
+    b"\n",
+    b"\r",
+    b"\t",
+    b"\x1b[2J",
+    b"\x7f",
+    b"\xc2\x85",
+    b"\xc2",
+    b"\xff\xfe",
+    b"\xe2\x80\xa8",
+    b"\xd9\xa1",
+    b"0x1",
+    b"01",
+    b"2",
+    b"1 ",
+    b" 1",
+    b"1\n",
+    b"4294967295",
+    b"-1",
+    b"root",
+    b"/",
+    b"//",
+    b"/usr/bin",
+    b"/dev/null",
+    b"/etc/passwd",
+    b"/nonexistent",
+    b"usr/bin/env",
+    b"/usr/bin/../bin/env",
+    b"/usr/bin/env\n",
+    b"*",
+    b"?",
+    b"[a-z]",
+    b"[",
+    b"~",
+    b"~root",
+    b"!",
+    b"a" * 5000,
+    b"\xe2\x82\xac" * 1400,
+    b"%s%n",
+    b"192.0.2.1:443",
+    b"192.0.2.1:443 a#b",
+    b"192.0.2.1:443  a",
+    b"[::1]:1",
+    b"]:1",
+    b":1",
+    b"obfs4 :1",
+    b"conjure 192.0.2.1:1",
+    b"meek_lite 192.0.2.1:1 url=x",
+    b"192.0.2.1:443\nExitNodes {xx}",
+    b"BASH_ENV=x",
+    b"OPT_TOR",
+    b"PATH",
+    b"alice ALL=(ALL) NOPASSWD: ALL",
+    b"alice$",
+    b"a.b@c-d",
+    b"CALLER_UID",
+    b"IFS",
+    b"--tor=/usr/bin/env",
+    b"--tor\n",
+    b"--bridge --tor",
+    b"\xc2\x80",
+    b"\xc2\x9f",
+    b"\xc2\xa0",
+    b"\xc3\xa9",
 ]
 
 
@@ -112,7 +278,13 @@ def understood(words):
             return None
         else:
             options[name] = value
-    fits = {"connect": fits_connect, "replace": fits_connect, "approve": fits_approve, "launch": fits_launch, "install-privileged": fits_install}.get(verb, lambda *_: True)
+    fits = {
+        "connect": fits_connect,
+        "replace": fits_connect,
+        "approve": fits_approve,
+        "launch": fits_launch,
+        "install-privileged": fits_install,
+    }.get(verb, lambda *_: True)
     return (options, bridges) if fits(options, bridges) else None
 
 
@@ -120,9 +292,15 @@ def fits_connect(options, bridges):
     if not {"--tor", "--hash", "--strict", "--lan"} <= options.keys() or len(bridges) > 100:
         return False
     programs = [options[name] for name in ("--tor", "--pt-lyrebird", "--pt-snowflake", "--pt-webtunnel") if name in options]
-    if not (re.fullmatch(rb"16:[0-9A-F]{58}", options["--hash"]) and options["--strict"] in (b"0", b"1")
-            and options["--lan"] in (b"0", b"1") and options.get("--separate", b"0") in (b"0", b"1") and re.fullmatch(rb"[a-z]{2}", options.get("--exit", b"xx"))
-            and all(map(is_program, programs)) and options.get("--bundle", b"/").startswith(b"/")):
+    if not (
+        re.fullmatch(rb"16:[0-9A-F]{58}", options["--hash"])
+        and options["--strict"] in (b"0", b"1")
+        and options["--lan"] in (b"0", b"1")
+        and options.get("--separate", b"0") in (b"0", b"1")
+        and re.fullmatch(rb"[a-z]{2}", options.get("--exit", b"xx"))
+        and all(map(is_program, programs))
+        and options.get("--bundle", b"/").startswith(b"/")
+    ):
         return False
     for bridge in bridges:
         if not BRIDGE.fullmatch(bridge) or re.search(rb'[#"\\]', bridge):
@@ -132,17 +310,25 @@ def fits_connect(options, bridges):
             continue
         if transport == b"webtunnel" and "--pt-webtunnel" in options:
             continue
-        needed = {b"obfs4": "--pt-lyrebird", b"meek_lite": "--pt-lyrebird", b"obfs3": "--pt-lyrebird",
-                  b"scramblesuit": "--pt-lyrebird", b"webtunnel": "--pt-lyrebird", b"snowflake": "--pt-snowflake"}
+        needed = {
+            b"obfs4": "--pt-lyrebird",
+            b"meek_lite": "--pt-lyrebird",
+            b"obfs3": "--pt-lyrebird",
+            b"scramblesuit": "--pt-lyrebird",
+            b"webtunnel": "--pt-lyrebird",
+            b"snowflake": "--pt-snowflake",
+        }
         if needed.get(transport) not in options:
             return False
     return True
 
 
 def fits_approve(options, _):
-    return (options.get("--as") in (b"tor", b"lyrebird", b"snowflake-client", b"webtunnel-client")
-            and re.fullmatch(rb"[0-9a-f]{64}", options.get("--sha256", b"")) is not None
-            and is_program(options.get("--program", b"")))
+    return (
+        options.get("--as") in (b"tor", b"lyrebird", b"snowflake-client", b"webtunnel-client")
+        and re.fullmatch(rb"[0-9a-f]{64}", options.get("--sha256", b"")) is not None
+        and is_program(options.get("--program", b""))
+    )
 
 
 def fits_launch(options, _):
@@ -150,8 +336,9 @@ def fits_launch(options, _):
 
 
 def fits_install(options, _):
-    return (re.fullmatch(rb"[A-Za-z0-9_][A-Za-z0-9_.@-]{0,63}\$?", options.get("--user", b"")) is not None
-            and ("--launch" not in options or is_program(options["--launch"])))
+    return re.fullmatch(rb"[A-Za-z0-9_][A-Za-z0-9_.@-]{0,63}\$?", options.get("--user", b"")) is not None and (
+        "--launch" not in options or is_program(options["--launch"])
+    )
 
 
 def mutated(words, chance):
@@ -191,7 +378,11 @@ class Parser:
         as_nobody = ["setpriv", "--reuid=65534", "--regid=65534", "--clear-groups", "--no-new-privs"]
         self.shell = subprocess.Popen(
             [*(as_nobody if os.geteuid() == 0 else []), "/bin/bash", "-p", "-c", DRIVER, "driver", helper],
-            stdin=subprocess.PIPE, stdout=subprocess.PIPE, cwd=folder, env={"PATH": "/usr/bin:/bin", "CANARY": canary})
+            stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE,
+            cwd=folder,
+            env={"PATH": "/usr/bin:/bin", "CANARY": canary},
+        )
         self.read = b""
 
     def ask(self, words):

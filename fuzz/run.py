@@ -29,8 +29,8 @@ SHORT_RUNS = {"RequestFuzz": 5000, "SettingsFuzz": 2000, "LogFuzz": 2000, "Bridg
 SHORT_DEFAULT = 20000
 SHORT_HELPER_CASES = 1500
 LARGEST_INPUT_BYTES = 4096
-IN_MEMORY = "/dev/shm" if os.access("/dev/shm", os.W_OK) else "/tmp"   # for the files that some inputs become
-INPUT_SECONDS = 10         # one that takes longer is a finding
+IN_MEMORY = "/dev/shm" if os.access("/dev/shm", os.W_OK) else "/tmp"  # for the files that some inputs become
+INPUT_SECONDS = 10  # one that takes longer is a finding
 # Qt keeps things between calls, which libFuzzer takes for a leak to be searched for after every such input; what is lost is
 # found by one search at the end. Freed memory is kept back in an amount that stays in the processor's reach.
 SANITIZER = "quarantine_size_mb=16"
@@ -53,29 +53,59 @@ def fuzz(name, runs=None, seconds=None):
     bound = [f"-runs={runs}", "-seed=1"] if runs else [f"-max_total_time={seconds}"]
     start = time.monotonic()
     done = subprocess.run(
-        [os.path.join(BUILD, "bin", name), *bound, f"-max_len={LARGEST_INPUT_BYTES}", f"-timeout={INPUT_SECONDS}",
-         "-detect_leaks=0", "-print_final_stats=1", f"-artifact_prefix={found}/{name}-", f"-dict={HERE}/words/{name}.txt", corpus,
-         os.path.join(HERE, "corpus", name)],
-        capture_output=True, text=True, errors="replace", check=False, env={**os.environ, "TMPDIR": IN_MEMORY, "ASAN_OPTIONS": SANITIZER})
+        [
+            os.path.join(BUILD, "bin", name),
+            *bound,
+            f"-max_len={LARGEST_INPUT_BYTES}",
+            f"-timeout={INPUT_SECONDS}",
+            "-detect_leaks=0",
+            "-print_final_stats=1",
+            f"-artifact_prefix={found}/{name}-",
+            f"-dict={HERE}/words/{name}.txt",
+            corpus,
+            os.path.join(HERE, "corpus", name),
+        ],
+        capture_output=True,
+        text=True,
+        errors="replace",
+        check=False,
+        env={**os.environ, "TMPDIR": IN_MEMORY, "ASAN_OPTIONS": SANITIZER},
+    )
     log = os.path.join(BUILD, f"{name}.log")
     with open(log, "w", encoding="utf-8") as file:
         file.write(done.stderr)
     executed = re.search(r"number_of_executed_units: (\d+)", done.stderr)
     edges = re.findall(r"cov: (\d+)", done.stderr)
-    return {"name": name, "inputs": int(executed[1]) if executed else 0, "seconds": round(time.monotonic() - start, 1),
-            "edges": int(edges[-1]) if edges else 0, "failed": done.returncode != 0, "log": os.path.normpath(log)}
+    return {
+        "name": name,
+        "inputs": int(executed[1]) if executed else 0,
+        "seconds": round(time.monotonic() - start, 1),
+        "edges": int(edges[-1]) if edges else 0,
+        "failed": done.returncode != 0,
+        "log": os.path.normpath(log),
+    }
 
 
 def helper(cases, seed):
     start = time.monotonic()
-    done = subprocess.run([sys.executable, os.path.join(HERE, "helper_arguments.py"), HELPER, "--cases", str(cases),
-                           "--seed", str(seed)], capture_output=True, text=True, check=False)
+    done = subprocess.run(
+        [sys.executable, os.path.join(HERE, "helper_arguments.py"), HELPER, "--cases", str(cases), "--seed", str(seed)],
+        capture_output=True,
+        text=True,
+        check=False,
+    )
     log = os.path.join(BUILD, "helper.log")
     os.makedirs(BUILD, exist_ok=True)
     with open(log, "w", encoding="utf-8") as file:
         file.write(done.stdout + done.stderr)
-    return {"name": "helper", "inputs": cases if done.returncode == 0 else 0, "edges": 0,
-            "seconds": round(time.monotonic() - start, 1), "failed": done.returncode != 0, "log": os.path.normpath(log)}
+    return {
+        "name": "helper",
+        "inputs": cases if done.returncode == 0 else 0,
+        "edges": 0,
+        "seconds": round(time.monotonic() - start, 1),
+        "failed": done.returncode != 0,
+        "log": os.path.normpath(log),
+    }
 
 
 def helper_for(seconds):

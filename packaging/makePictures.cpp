@@ -1,5 +1,6 @@
-// makePictures DRAWING.svg FOLDER PIXELS...: the drawing as FOLDER/PIXELS.png, for desktops that show no SVG. Runs while the
-// program is built. Exit status 1 with one line when a file cannot be read or written.
+// makePictures DRAWING.svg FOLDER PIXELS...: the drawing as FOLDER/PIXELS.png, for desktops that
+// show no SVG. Runs while the program is built. Exit status 1 with one line when a file cannot be
+// read or written.
 
 #include <QFile>
 #include <QImage>
@@ -32,7 +33,8 @@ int main(int argc, char **argv)
         painter.setRenderHint(QPainter::Antialiasing);
         drawing.render(&painter, QRectF(0, 0, pixels, pixels));
         painter.end();
-        if (!image.save(QStringLiteral("%1/%2.png").arg(QFile::decodeName(argv[2])).arg(pixels), "PNG"))
+        if (!image.save(QStringLiteral("%1/%2.png").arg(QFile::decodeName(argv[2])).arg(pixels),
+                        "PNG"))
             return fail(QStringLiteral("a picture cannot be written"));
     }
     return 0;

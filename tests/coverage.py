@@ -19,7 +19,7 @@ from pathlib import Path
 
 PROJECT = Path(__file__).resolve().parents[1]
 BUILD = PROJECT / "build" / "asan"
-GOAL = 90.0   # per cent
+GOAL = 90.0  # per cent
 LOGIC = ("base", "platform", "system", "control", "bridges", "circuits", "checks", "log", "terminal", "controller", "instance")
 
 
@@ -45,12 +45,16 @@ def unmarked_copy() -> Path:
 
 def line_counts() -> dict[str, dict[int, bool]]:
     """For each file of src/, the lines that hold code and whether they were run."""
-    done = subprocess.run(["gcovr", "--root", PROJECT, "--filter", f"{PROJECT}/src/", "--exclude-throw-branches", "--json", "-j", "2",
-                           "."], cwd=unmarked_copy(), capture_output=True, text=True, check=True)
+    done = subprocess.run(
+        ["gcovr", "--root", PROJECT, "--filter", f"{PROJECT}/src/", "--exclude-throw-branches", "--json", "-j", "2", "."],
+        cwd=unmarked_copy(),
+        capture_output=True,
+        text=True,
+        check=True,
+    )
     counts: dict[str, dict[int, bool]] = {}
     for file in json.loads(done.stdout)["files"]:
-        counts[file["file"]] = {line["line_number"]: line["count"] > 0
-                                for line in file["lines"] if not line["gcovr/noncode"]}
+        counts[file["file"]] = {line["line_number"]: line["count"] > 0 for line in file["lines"] if not line["gcovr/noncode"]}
     return {name: lines for name, lines in counts.items() if lines}
 
 

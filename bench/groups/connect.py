@@ -41,8 +41,10 @@ def note_phases(lines, moments: dict[str, float]) -> None:
 def time_bare_tor(lab, torrc: str) -> tuple[float, float]:
     """Seconds from its start to 100 %, and from SIGTERM to its end."""
     clean_start(lab)
-    script = (f"install -d -m 700 -o _veldmark {RUN_FOLDER}/tor/data && exec setpriv --reuid _veldmark --regid _veldmark --clear-groups "
-              f"--inh-caps=+net_bind_service --ambient-caps=+net_bind_service tor -f {torrc}")
+    script = (
+        f"install -d -m 700 -o _veldmark {RUN_FOLDER}/tor/data && exec setpriv --reuid _veldmark --regid _veldmark --clear-groups "
+        f"--inh-caps=+net_bind_service --ambient-caps=+net_bind_service tor -f {torrc}"
+    )
     started = time.monotonic()
     process = lab.host.popen(["bash", "-c", script], stdout=subprocess.PIPE, text=True)
     try:
@@ -68,7 +70,10 @@ def run_in_lab(figures: Figures, rounds: Rounds, lab, product) -> None:
     lab.host.run(["chmod", "755", "/root"], check=True)
     ours, theirs, ours_down, theirs_down = [], [], [], []
     for _ in range(rounds.of(8)):
-        for times, downs, (up, down) in ((theirs, theirs_down, time_bare_tor(lab, "/root/bare-torrc")), (ours, ours_down, time_session(lab, product))):
+        for times, downs, (up, down) in (
+            (theirs, theirs_down, time_bare_tor(lab, "/root/bare-torrc")),
+            (ours, ours_down, time_session(lab, product)),
+        ):
             times.append(up)
             downs.append(down)
     figures.add("bare tor with the same torrc, to 100%", middle(theirs), "s", spread(theirs))

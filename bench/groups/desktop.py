@@ -11,18 +11,37 @@ PROBE = Path(__file__).with_name("desktop_probe.py")
 def run(figures: Figures, rounds: Rounds) -> None:
     graph, log = measured("GraphBench"), measured("LogWindowBench")
     for count, most in (("30", 8), ("300", 30)):
-        figures.add(f"graph of {count} circuits redrawn (processor time)", graph[f"{count}lightGraphMs"], "ms",
-                    f"of {graph['repetitions']}; dark {graph[f'{count}darkGraphMs']:.2f}", most=most)
-        figures.add("  the whole window, after news from Tor", graph[f"{count}lightWindowMs"], "ms", f"dark {graph[f'{count}darkWindowMs']:.2f}")
+        figures.add(
+            f"graph of {count} circuits redrawn (processor time)",
+            graph[f"{count}lightGraphMs"],
+            "ms",
+            f"of {graph['repetitions']}; dark {graph[f'{count}darkGraphMs']:.2f}",
+            most=most,
+        )
+        figures.add(
+            "  the whole window, after news from Tor",
+            graph[f"{count}lightWindowMs"],
+            "ms",
+            f"dark {graph[f'{count}darkWindowMs']:.2f}",
+        )
     for name, words in (("added", "a line added"), ("replaced", "every line replaced"), ("scrolled", "scrolled")):
-        figures.add(f"log of 3,000 lines drawn, {words}", log[f"{name}Ms"], "ms", f"of {log['repetitions']}, at most {log[f'{name}MostMs']:.2f}",
-                    most=16)
+        figures.add(
+            f"log of 3,000 lines drawn, {words}",
+            log[f"{name}Ms"],
+            "ms",
+            f"of {log['repetitions']}, at most {log[f'{name}MostMs']:.2f}",
+            most=16,
+        )
 
 
 def run_in_lab(figures: Figures, rounds: Rounds, lab, product) -> None:
     pairs = rounds.of(8)
-    output = lab.host.run(["/usr/bin/python3", "-B", str(PROBE), str(PROGRAMS), str(BENCHES), str(pairs), str(rounds.idle_seconds)],
-                          env={"LANG": "C.UTF-8"}, check=True, timeout=rounds.idle_seconds + 600).stdout
+    output = lab.host.run(
+        ["/usr/bin/python3", "-B", str(PROBE), str(PROGRAMS), str(BENCHES), str(pairs), str(rounds.idle_seconds)],
+        env={"LANG": "C.UTF-8"},
+        check=True,
+        timeout=rounds.idle_seconds + 600,
+    ).stdout
     found = json.loads(output)
     frames, bare, ours = found["firstFrameMs"], found["idle"]["bare"], found["idle"]["veldmark"]
     figures.add("first frame of the bare tray program", middle(frames["bare"]), "ms", spread(frames["bare"]))

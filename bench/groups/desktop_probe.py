@@ -44,7 +44,7 @@ class Screen:
     def _lines(self) -> list[bytes]:
         """Some of its lines; a window of hundreds of pixels touches many."""
         start = len(self._bytes) - self.HEIGHT * self.STRIDE
-        return [self._bytes[start + y * self.STRIDE:start + (y + 1) * self.STRIDE] for y in range(12, self.HEIGHT, 48)]
+        return [self._bytes[start + y * self.STRIDE : start + (y + 1) * self.STRIDE] for y in range(12, self.HEIGHT, 48)]
 
     def is_empty(self) -> bool:
         return self._lines() == self._empty
@@ -72,8 +72,11 @@ def running(command: list[str], **options):
 def memory(pid: int) -> dict[str, float]:
     """Resident and proportional megabytes."""
     fields = dict(line.split(":", 1) for line in Path(f"/proc/{pid}/smaps_rollup").read_text().splitlines()[1:])
-    return {"rssMB": int(fields["Rss"].split()[0]) / 1000, "pssMB": int(fields["Pss"].split()[0]) / 1000,
-            "ownMB": int(fields["Private_Dirty"].split()[0]) / 1000}
+    return {
+        "rssMB": int(fields["Rss"].split()[0]) / 1000,
+        "pssMB": int(fields["Pss"].split()[0]) / 1000,
+        "ownMB": int(fields["Private_Dirty"].split()[0]) / 1000,
+    }
 
 
 def spent(pid: int) -> tuple[float, int]:
@@ -95,8 +98,10 @@ def idle(pids: dict[str, int], seconds: float) -> dict:
     result = {}
     for name, pid in pids.items():
         cpu, sleeps = spent(pid)
-        result[name] = memory(pid) | {"cpuPercent": 100 * (cpu - before[name][0]) / passed,
-                                      "wakesPerSecond": (sleeps - before[name][1]) / passed}
+        result[name] = memory(pid) | {
+            "cpuPercent": 100 * (cpu - before[name][0]) / passed,
+            "wakesPerSecond": (sleeps - before[name][1]) / passed,
+        }
     return result
 
 
@@ -112,12 +117,19 @@ def main() -> None:
     with contextlib.ExitStack() as stack:
         folder = stack.enter_context(tempfile.TemporaryDirectory())
         read, write = os.pipe()
-        stack.enter_context(running(["Xvfb", "-displayfd", str(write), "-screen", "0", "1024x768x24", "-fbdir", folder,
-                                     "-nolisten", "tcp"], pass_fds=[write], stderr=subprocess.DEVNULL))
+        stack.enter_context(
+            running(
+                ["Xvfb", "-displayfd", str(write), "-screen", "0", "1024x768x24", "-fbdir", folder, "-nolisten", "tcp"],
+                pass_fds=[write],
+                stderr=subprocess.DEVNULL,
+            )
+        )
         os.close(write)
         with os.fdopen(read) as display:
             os.environ["DISPLAY"] = ":" + display.readline().strip()
-        bus = stack.enter_context(running(["dbus-daemon", "--session", "--nofork", "--print-address=1"], stdout=subprocess.PIPE, text=True))
+        bus = stack.enter_context(
+            running(["dbus-daemon", "--session", "--nofork", "--print-address=1"], stdout=subprocess.PIPE, text=True)
+        )
         os.environ["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
         tray = stack.enter_context(running([f"{benches}/TrayHost"], stdout=subprocess.PIPE, text=True))
         if tray.stdout.readline().strip() != "ready":

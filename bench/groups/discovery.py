@@ -22,9 +22,14 @@ def run(figures: Figures, rounds: Rounds) -> None:
         transports.mkdir(parents=True)
         (transports / "lyrebird").write_text("#!/bin/sh\nexit 1\n")
         (transports / "lyrebird").chmod(0o755)
-        (transports / "pt_config.json").write_text(json.dumps({
-            "pluggableTransports": {"lyrebird": "ClientTransportPlugin obfs4,snowflake exec ${pt_path}lyrebird"},
-            "bridges": {"obfs4": ["obfs4 192.0.2.1:443 " + "0" * 40 + " cert=a iat-mode=0"]}}))
+        (transports / "pt_config.json").write_text(
+            json.dumps(
+                {
+                    "pluggableTransports": {"lyrebird": "ClientTransportPlugin obfs4,snowflake exec ${pt_path}lyrebird"},
+                    "bridges": {"obfs4": ["obfs4 192.0.2.1:443 " + "0" * 40 + " cert=a iat-mode=0"]},
+                }
+            )
+        )
         with (browser / "Browser/omni.ja").open("wb") as archive:
             archive.truncate(60_000_000)
         names = ["lyrebird", "snowflake-client", "webtunnel-client", "pt_config.json", "omni.ja"]
@@ -37,7 +42,7 @@ def run(figures: Figures, rounds: Rounds) -> None:
             located = measured("DiscoveryBench", place)
             if len(found.splitlines()) != 3 or located["kinds"] != 1:
                 raise RuntimeError("the two have not found the same")
-            if number:   # the first round warms the cache
+            if number:  # the first round warms the cache
                 theirs.append(took)
                 ours.append(located["milliseconds"])
     figures.add("transports found among 12,000 files", middle(ours), "ms", spread(ours))

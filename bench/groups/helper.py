@@ -18,7 +18,9 @@ done
 
 def run_in_lab(figures: Figures, rounds: Rounds, lab, product) -> None:
     arguments = ["connect", "--tor", "/usr/bin/tor", "--hash", hashed_password(lab), "--strict", "1", "--lan", "1"]
-    output = lab.host.run(["bash", "-c", SCRIPT, "bench", str(rounds.of(10)), product.helper, *arguments], check=True, timeout=120).stdout
+    output = lab.host.run(
+        ["bash", "-c", SCRIPT, "bench", str(rounds.of(10)), product.helper, *arguments], check=True, timeout=120
+    ).stdout
     times: dict[str, list[float]] = {"connect": [], "disconnect": []}
     for line in output.splitlines():
         verb, microseconds = line.split()

@@ -11,8 +11,10 @@ APPS = f"{USER}/user@1001.service/app.slice"
 TABLE = "veldmark-identities"
 
 # Opens and closes so many connections; the seconds for one.
-CONNECTIONS = ("import socket, sys, time\nstart = time.perf_counter()\nfor _ in range(int(sys.argv[1])):\n"
-               "    s = socket.create_connection(('127.0.0.1', 9050)); s.close()\nprint((time.perf_counter() - start) / int(sys.argv[1]))")
+CONNECTIONS = (
+    "import socket, sys, time\nstart = time.perf_counter()\nfor _ in range(int(sys.argv[1])):\n"
+    "    s = socket.create_connection(('127.0.0.1', 9050)); s.close()\nprint((time.perf_counter() - start) / int(sys.argv[1]))"
+)
 COMING = """if True:
     import os, sys, time
     start = time.monotonic()
@@ -44,7 +46,9 @@ def connections(host, pairs):
 
 def spent(host):
     """Seconds of processor time: of the program, and of those that listen to the rules."""
-    script = 'for name in veldmark-identi "nft"; do for pid in $(pgrep -x "$name"); do cut -d" " -f14,15 /proc/$pid/stat; done; done'
+    script = (
+        'for name in veldmark-identi "nft"; do for pid in $(pgrep -x "$name"); do cut -d" " -f14,15 /proc/$pid/stat; done; done'
+    )
     ticks = sum(int(word) for word in host.run(["/bin/sh", "-c", script], check=True).stdout.split())
     return ticks / os.sysconf("SC_CLK_TCK")
 
@@ -62,11 +66,35 @@ def coming_and_going(host, seconds):
 
 def measure(lab, product, rounds):
     host = lab.host
-    host.run(["/bin/sh", "-c", f"mkdir -p {APPS}; cd {APPS}; for n in $(seq 0 199); do mkdir app-bench$n-1.scope; done"], check=True)
-    product.run_helper("connect", "--tor", "/usr/bin/tor", "--hash", hashed_password(lab), "--strict", "1", "--lan", "0", "--separate", "1", check=True)
-    host.run(["timeout", "20", "/bin/sh", "-c", "until [ $(grep -c bench /run/veldmark.identities) = 200 ]; do sleep 0.1; done"], check=True)
+    host.run(
+        ["/bin/sh", "-c", f"mkdir -p {APPS}; cd {APPS}; for n in $(seq 0 199); do mkdir app-bench$n-1.scope; done"], check=True
+    )
+    product.run_helper(
+        "connect",
+        "--tor",
+        "/usr/bin/tor",
+        "--hash",
+        hashed_password(lab),
+        "--strict",
+        "1",
+        "--lan",
+        "0",
+        "--separate",
+        "1",
+        check=True,
+    )
+    host.run(
+        ["timeout", "20", "/bin/sh", "-c", "until [ $(grep -c bench /run/veldmark.identities) = 200 ]; do sleep 0.1; done"],
+        check=True,
+    )
     try:
         return connections(host, rounds.of(12)), coming_and_going(host, 2 if rounds.quick else 20)
     finally:
         product.run_helper("disconnect", check=True)
-        host.run(["/bin/sh", "-c", "cd /sys/fs/cgroup/user.slice && find . -mindepth 1 -depth -type d -exec rmdir {} +; rmdir /sys/fs/cgroup/user.slice"])
+        host.run(
+            [
+                "/bin/sh",
+                "-c",
+                "cd /sys/fs/cgroup/user.slice && find . -mindepth 1 -depth -type d -exec rmdir {} +; rmdir /sys/fs/cgroup/user.slice",
+            ]
+        )

@@ -54,7 +54,9 @@ def throughput(lab, kind: str, user: str) -> tuple[int, float]:
     sink = lab.lan.popen(["/usr/bin/python3", "-c", SINK, kind], stdout=subprocess.PIPE, text=True)
     sink.stdout.readline()
     enter = '[ "$1" = root ] || [ ! -d "$0" ] || echo 0 >"$0/cgroup.procs"; user=$1; shift; exec setpriv --reuid "$user" --clear-groups "$@"'
-    cost = lab.host.run(["/bin/sh", "-c", enter, "/sys/fs/cgroup/veldmark/tor", user, "/usr/bin/python3", "-c", SOURCE, kind], cwd="/", check=True).stdout
+    cost = lab.host.run(
+        ["/bin/sh", "-c", enter, "/sys/fs/cgroup/veldmark/tor", user, "/usr/bin/python3", "-c", SOURCE, kind], cwd="/", check=True
+    ).stdout
     return int(sink.communicate(timeout=20)[0]), float(cost)
 
 
@@ -62,9 +64,22 @@ def run_in_lab(figures: Figures, rounds: Rounds, lab, product) -> None:
     # The one that every kernel permits. The machine's own may pace a stream by its estimates, which would be measured then.
     lab.host.run(["sh", "-c", "echo reno >/proc/sys/net/ipv4/tcp_congestion_control"], check=True)
     # With a transport that sends datagrams, so that Tor's account may.
-    words = ["connect", "--tor", "/usr/bin/tor", "--hash", hashed_password(lab), "--strict", "1", "--lan", "1", "--bridge", "snowflake 192.0.2.3:1",
-             "--pt-snowflake", "/usr/bin/snowflake-client"]
-    product.run_helper(*words, check=True)   # the account exists from here on
+    words = [
+        "connect",
+        "--tor",
+        "/usr/bin/tor",
+        "--hash",
+        hashed_password(lab),
+        "--strict",
+        "1",
+        "--lan",
+        "1",
+        "--bridge",
+        "snowflake 192.0.2.3:1",
+        "--pt-snowflake",
+        "/usr/bin/snowflake-client",
+    ]
+    product.run_helper(*words, check=True)  # the account exists from here on
     script = f"for i in $(seq {rounds.of(20)}); do start=${{EPOCHREALTIME/./}}; nft -f {RUN_FOLDER}/firewall.nft; echo $((${{EPOCHREALTIME/./}} - start)); done"
     loads = [int(line) / 1000 for line in lab.host.run(["bash", "-c", script], check=True).stdout.split()]
     product.run_helper("disconnect", check=True)
@@ -85,5 +100,11 @@ def run_in_lab(figures: Figures, rounds: Rounds, lab, product) -> None:
         product.run_helper("disconnect", check=True)
     figures.add("kill switch: rules loaded", middle(loads), "ms", spread(loads), most=50)
     for path, (name, least) in PATHS.items():
-        figures.add(f"{name}, share of without rules", middle(taken[path]), "", f"{spread(taken[path])}; by CPU time {middle(costs[path]):.2f}", least=least)
+        figures.add(
+            f"{name}, share of without rules",
+            middle(taken[path]),
+            "",
+            f"{spread(taken[path])}; by CPU time {middle(costs[path]):.2f}",
+            least=least,
+        )
         figures.add("  where connections were tracked already", middle(of_tracked[path]), "", spread(of_tracked[path]))

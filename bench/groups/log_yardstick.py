@@ -11,8 +11,10 @@ PATTERN = re.compile(r"^([A-Z][a-z]{2} +\d{1,2} [0-9:.]+) \[(\w+)\] (.*)$")
 
 
 def log_file() -> bytes:
-    lines = (f"Nov 16 00:41:07.123 [notice] Bootstrapped {i % 100}% (loading_descriptors): Loading relay descriptors, circuit {i}\n"
-             for i in range(FILE_BYTES // 90))
+    lines = (
+        f"Nov 16 00:41:07.123 [notice] Bootstrapped {i % 100}% (loading_descriptors): Loading relay descriptors, circuit {i}\n"
+        for i in range(FILE_BYTES // 90)
+    )
     return "".join(lines).encode()[:FILE_BYTES]
 
 

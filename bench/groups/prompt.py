@@ -6,11 +6,15 @@ PROMPTS = 1000
 PLAIN_HOME = "/root/plain"
 # Read by an interactive shell line by line, so with a prompt and its hooks before each; prints when it began and
 # ended, the prompts counted, and whether the hook is there.
-PROMPT_SCRIPT = ('[ -z "${ZSH_VERSION:-}" ] || zmodload zsh/datetime\n'
-                 'count=0; start=$EPOCHREALTIME\n' + ":\n" * PROMPTS +
-                 'end=$EPOCHREALTIME; counted=$count\n'
-                 'type _veldmark_sync >/dev/null 2>&1 && hook=hook || hook=none\necho "=$start $end $counted $hook"\n')
-PROMPT_FILES = {"bash": (".bashrc", "PROMPT_COMMAND='count=$((count + 1))'\n"), "zsh": (".zshrc", "precmd() { count=$((count + 1)) }\n")}
+PROMPT_SCRIPT = (
+    '[ -z "${ZSH_VERSION:-}" ] || zmodload zsh/datetime\n'
+    "count=0; start=$EPOCHREALTIME\n" + ":\n" * PROMPTS + "end=$EPOCHREALTIME; counted=$count\n"
+    'type _veldmark_sync >/dev/null 2>&1 && hook=hook || hook=none\necho "=$start $end $counted $hook"\n'
+)
+PROMPT_FILES = {
+    "bash": (".bashrc", "PROMPT_COMMAND='count=$((count + 1))'\n"),
+    "zsh": (".zshrc", "precmd() { count=$((count + 1)) }\n"),
+}
 
 
 def time_prompts(lab, shell: str, home: str) -> float:

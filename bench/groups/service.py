@@ -9,8 +9,11 @@ PROBE = Path(__file__).with_name("service_probe.py")
 
 
 def run_in_lab(figures: Figures, rounds: Rounds, lab, product) -> None:
-    output = lab.host.run(["/usr/bin/python3", "-B", str(PROBE), str(PROGRAMS), str(rounds.idle_seconds)], check=True,
-                          timeout=rounds.idle_seconds + 300).stdout
+    output = lab.host.run(
+        ["/usr/bin/python3", "-B", str(PROBE), str(PROGRAMS), str(rounds.idle_seconds)],
+        check=True,
+        timeout=rounds.idle_seconds + 300,
+    ).stdout
     found = json.loads(output)
     nyx, ours = found["nyx"], found["run"]
     for one, what in ((nyx, "nyx, on a terminal"), (ours, "veldmarkctl run, connected")):

@@ -25,12 +25,14 @@ sys.path.insert(0, str(Path(__file__).resolve().parent))
 from desktop_probe import connected, idle, running, until  # noqa: E402
 
 CONTROL_PORT = 9151
-DRAWN_BYTES = 2000   # a terminal that has been sent this much shows the whole page
+DRAWN_BYTES = 2000  # a terminal that has been sent this much shows the whole page
 
 
 def bare_tor(folder: str) -> subprocess.Popen:
     torrc = Path(folder, "torrc")
-    torrc.write_text(f"DataDirectory {folder}/data\nSocksPort 9150\nControlPort {CONTROL_PORT}\nCookieAuthentication 1\nLog notice stdout\n")
+    torrc.write_text(
+        f"DataDirectory {folder}/data\nSocksPort 9150\nControlPort {CONTROL_PORT}\nCookieAuthentication 1\nLog notice stdout\n"
+    )
     process = subprocess.Popen(["tor", "-f", torrc], stdout=subprocess.PIPE, text=True)
     for line in process.stdout:
         if "Bootstrapped 100%" in line:

@@ -1,5 +1,6 @@
-// makeIcon DRAWING.svg ICON.icns: the application's icon for the Mac, the drawing in white on a rounded tile. Runs while
-// the program is built. Exit status 1 with one line when a file cannot be read or written.
+// makeIcon DRAWING.svg ICON.icns: the application's icon for the Mac, the drawing in white on a
+// rounded tile. Runs while the program is built. Exit status 1 with one line when a file cannot be
+// read or written.
 
 #include <QBuffer>
 #include <QFile>
@@ -14,14 +15,22 @@
 
 namespace {
 
-// An .icns file is a list of PNG pictures, each behind its kind. The kinds with "@2x" in their meaning (ic11 to ic14)
-// are the same pictures for displays of twice the density.
+// An .icns file is a list of PNG pictures, each behind its kind. The kinds with "@2x" in their
+// meaning (ic11 to ic14) are the same pictures for displays of twice the density.
 struct Kind {
     const char *name;
     int pixels;
 };
-constexpr std::array<Kind, 10> kinds = {{{"icp4", 16}, {"icp5", 32}, {"ic07", 128}, {"ic08", 256}, {"ic09", 512},
-                                         {"ic10", 1024}, {"ic11", 32}, {"ic12", 64}, {"ic13", 256}, {"ic14", 512}}};
+constexpr std::array<Kind, 10> kinds = {{{"icp4", 16},
+                                         {"icp5", 32},
+                                         {"ic07", 128},
+                                         {"ic08", 256},
+                                         {"ic09", 512},
+                                         {"ic10", 1024},
+                                         {"ic11", 32},
+                                         {"ic12", 64},
+                                         {"ic13", 256},
+                                         {"ic14", 512}}};
 
 // The tile and its margin as macOS draws its own: 824 of 1024 wide, a corner of 185.
 QImage picture(QSvgRenderer &drawing, int pixels)

@@ -2,11 +2,14 @@
 
 namespace veldmark {
 
-void becomeMenuBarProgram() {}
-void comeToFront() {}
-void whenLaunched(std::function<void(bool atLogin)> then) { then(false); }
-void whenReopened(std::function<void()>) {}
-void keepAwake(bool) {}
-void showNotice(const QString &, const QString &) {}
+void becomeMenuBarProgram() { }
+void comeToFront() { }
+void whenLaunched(std::function<void(bool atLogin)> then)
+{
+    then(false);
+}
+void whenReopened(std::function<void()>) { }
+void keepAwake(bool) { }
+void showNotice(const QString &, const QString &) { }
 
 } // namespace veldmark

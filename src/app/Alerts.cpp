@@ -25,15 +25,19 @@ void Alerts::look()
     // restored the network; then nothing is left over.
     // Where another process's session has come, what the banner says is about something else.
     const bool isReplaced = now.phase == Phase::stale && !now.hasTorStopped;
-    if (before == Phase::connected && (now.phase == Phase::stale || now.phase == Phase::disconnected))
+    if (before == Phase::connected
+        && (now.phase == Phase::stale || now.phase == Phase::disconnected))
         tell(isReplaced ? tr("Another session has replaced this one") : tr("Tor stopped running"),
-             (now.isAnothers ? now.statusDetail : now.errorMessage.value_or(now.statusDetail)).translated());
+             (now.isAnothers ? now.statusDetail : now.errorMessage.value_or(now.statusDetail))
+                 .translated());
     if (!now.killSwitch || now.killSwitch->blocks())
         m_wasWatched = now.killSwitch.has_value();
     if (const auto danger = now.verdict().danger; std::exchange(m_danger, danger) != danger)
         tellDanger(danger);
-    const bool isExposed = now.phase == Phase::connected && now.activeMode == RoutingMode::strict && now.isExposed();
-    if (!std::exchange(m_wasExposed, isExposed) && isExposed && m_danger == Verdict::Danger::dnsLeak)
+    const bool isExposed = now.phase == Phase::connected && now.activeMode == RoutingMode::strict
+        && now.isExposed();
+    if (!std::exchange(m_wasExposed, isExposed) && isExposed
+        && m_danger == Verdict::Danger::dnsLeak)
         tellDanger(Verdict::Danger::exposed); // the look-ups alone would be half of what is known
     tellPutBack(std::exchange(m_killSwitch, now.killSwitch));
 }
@@ -48,15 +52,17 @@ void Alerts::tellDanger(Verdict::Danger danger)
              tr("The kill switch is open. Open Veldmark, disconnect and connect again."));
         return;
     case Danger::exposed:
-        tell(tr("Traffic can leave around Tor"), tr("Your real address can be seen. Open Veldmark to see what to do."));
+        tell(tr("Traffic can leave around Tor"),
+             tr("Your real address can be seen. Open Veldmark to see what to do."));
         return;
     case Danger::dnsLeak:
         tell(tr("Lookups can go around Tor"), now.dns.text().translated());
         return;
     case Danger::killSwitchUnknown:
         if (std::exchange(m_wasWatched, false)) // perhaps a worse danger was told when that began
-            tell(tr("The kill switch is not watched"),
-                 tr("It can't be told whether it stands. Open Veldmark, disconnect and connect again."));
+            tell(
+                tr("The kill switch is not watched"),
+                tr("It can't be told whether it stands. Open Veldmark, disconnect and connect again."));
         return;
     case Danger::none:
     case Danger::stalled: // nothing is at risk, and whoever wants something of the network looks
@@ -79,7 +85,8 @@ void Alerts::tellPutBack(const std::optional<KillSwitch> &before)
     if (before == now.killSwitch || (!before && now.phase == Phase::stale))
         return;
     const bool wasPutBack = before && before->state == KillSwitch::State::putBack;
-    if (wasPutBack && m_putBackTold.isValid() && m_putBackTold.secsTo(now.killSwitch->since) < putBackPauseSeconds)
+    if (wasPutBack && m_putBackTold.isValid()
+        && m_putBackTold.secsTo(now.killSwitch->since) < putBackPauseSeconds)
         return;
     m_putBackTold = now.killSwitch->since;
     tell(tr("Firewall rules were removed"),
@@ -90,11 +97,12 @@ void Alerts::tell(const QString &title, const QString &text)
 {
     Q_EMIT told(title, text);
     const QString service = QStringLiteral("org.freedesktop.Notifications");
-    QDBusMessage call = QDBusMessage::createMethodCall(service, QStringLiteral("/org/freedesktop/Notifications"),
-                                                       service, QStringLiteral("Notify"));
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        service, QStringLiteral("/org/freedesktop/Notifications"), service,
+        QStringLiteral("Notify"));
     const QVariantMap urgent{{QStringLiteral("urgency"), QVariant::fromValue(uchar(2))}};
-    call << QStringLiteral("Veldmark") << uint(0) << QStringLiteral("veldmark") << title << text.toHtmlEscaped()
-         << QStringList() << urgent << -1;
+    call << QStringLiteral("Veldmark") << uint(0) << QStringLiteral("veldmark") << title
+         << text.toHtmlEscaped() << QStringList() << urgent << -1;
     QDBusConnection::sessionBus().send(call);
 }
 

@@ -5,8 +5,8 @@
 namespace veldmark {
 
 // Tells the desktop when protection is lost: Tor died, traffic or look-ups can leave around it,
-// somebody removed the firewall's rules. Each change of that state is told, not each time that it is
-// noticed, and never anything that the user has asked for. Main thread.
+// somebody removed the firewall's rules. Each change of that state is told, not each time that it
+// is noticed, and never anything that the user has asked for. Main thread.
 class Alerts : public QObject {
     Q_OBJECT
 
@@ -30,7 +30,8 @@ private:
     Verdict::Danger m_danger = Verdict::Danger::none;
     std::optional<KillSwitch> m_killSwitch;
     bool m_wasExposed = false;
-    bool m_wasWatched = false; // the rules were seen standing, and nobody was told of the contrary since
+    // the rules were seen standing, and nobody was told of the contrary since
+    bool m_wasWatched = false;
     QDateTime m_putBackTold; // when the rules were put back as told last
 };
 

@@ -15,30 +15,33 @@
 namespace veldmark {
 
 Application::Application(const PlatformProfile &profile)
-    : m_production(profile)
-    , m_session(m_production.controller(), m_production.settings(), m_production.applications())
-    , m_log(std::make_unique<FileLog>(m_production.controller().profile()))
-    , m_windows(m_session, *m_log, m_production.settings())
-    , m_guard(m_production.controller(), m_windows)
-    , m_alerts(m_session)
-    , m_departure(m_production.controller(), m_clock)
-    , m_shutdown(QDBusConnection::systemBus())
-    , m_trayHost(QDBusConnection::sessionBus(), m_clock)
+    : m_production(profile),
+      m_session(m_production.controller(), m_production.settings(), m_production.applications()),
+      m_log(std::make_unique<FileLog>(m_production.controller().profile())),
+      m_windows(m_session, *m_log, m_production.settings()),
+      m_guard(m_production.controller(), m_windows),
+      m_alerts(m_session),
+      m_departure(m_production.controller(), m_clock),
+      m_shutdown(QDBusConnection::systemBus()),
+      m_trayHost(QDBusConnection::sessionBus(), m_clock)
 {
     QObject::connect(&m_windows, &Windows::quitWanted, &m_guard, &QuitGuard::quit);
     QObject::connect(&m_windows, &Windows::mainClosed, this, &Application::onMainClosed);
-    QObject::connect(&m_guard, &QuitGuard::mayEnd, qApp, [] { QCoreApplication::exit(0); },
-                     Qt::QueuedConnection);
+    QObject::connect(
+        &m_guard, &QuitGuard::mayEnd, qApp, [] { QCoreApplication::exit(0); },
+        Qt::QueuedConnection);
     QObject::connect(&m_windows, &Windows::failed, this, [this](const QString &reason) {
         // Not a window of our own: those are what does not work.
-        QMessageBox::critical(nullptr, tr("Veldmark"),
-                              tr("A window could not be made. Your network is not affected; to restore it "
-                                 "without Veldmark, run:\n%1\n\n%2")
-                                  .arg(m_production.controller().profile().manualRestoreCommand, reason));
+        QMessageBox::critical(
+            nullptr, tr("Veldmark"),
+            tr("A window could not be made. Your network is not affected; to restore it "
+               "without Veldmark, run:\n%1\n\n%2")
+                .arg(m_production.controller().profile().manualRestoreCommand, reason));
     });
     QObject::connect(&m_alerts, &Alerts::told, this, showNotice);
-    QObject::connect(&m_production.controller().phase, &Field::changed, this,
-                     [this] { keepAwake(m_production.controller().phase() != ConnectionPhase::disconnected); });
+    QObject::connect(&m_production.controller().phase, &Field::changed, this, [this] {
+        keepAwake(m_production.controller().phase() != ConnectionPhase::disconnected);
+    });
     joinDeparture();
 }
 
@@ -48,7 +51,8 @@ void Application::joinDeparture()
     QObject::connect(&m_signals, &SignalWatcher::received, &m_departure, &Departure::onSignal);
     qApp->installEventFilter(this);
     QObject::connect(&m_shutdown, &ShutdownNotice::shuttingDown, &m_departure, &Departure::restore);
-    QObject::connect(&m_departure, &Departure::settled, &m_shutdown, [this] { m_shutdown.setDelaying(false); });
+    QObject::connect(&m_departure, &Departure::settled, &m_shutdown,
+                     [this] { m_shutdown.setDelaying(false); });
     QObject::connect(&m_production.controller().phase, &Field::changed, &m_shutdown, [this] {
         m_shutdown.setDelaying(m_production.controller().phase() != ConnectionPhase::disconnected);
     });
@@ -71,18 +75,23 @@ bool Application::eventFilter(QObject *watched, QEvent *event)
 void Application::leave(bool restored)
 {
     const TorController &controller = m_production.controller();
-    const bool left = !restored && controller.isSessionMarkerPresent() && !controller.otherSession();
+    const bool left = !restored && controller.isSessionMarkerPresent()
+        && !controller.otherSession();
     if (left) {
         QTextStream errors(stderr);
         if (const auto reason = controller.errorMessage())
             errors << "veldmark: " << reason->translated() << '\n';
         errors << "veldmark: "
-               << Text::tr("The network is still set up for Tor. Restore it with: %1").arg(controller.profile().manualRestoreCommand).translated()
+               << Text::tr("The network is still set up for Tor. Restore it with: %1")
+                      .arg(controller.profile().manualRestoreCommand)
+                      .translated()
                << '\n';
-        m_alerts.tell(tr("Your network is still set up for Tor"),
-                      tr("Veldmark was told to end and could not restore it. Open Veldmark again to do so."));
+        m_alerts.tell(
+            tr("Your network is still set up for Tor"),
+            tr("Veldmark was told to end and could not restore it. Open Veldmark again to do so."));
     }
-    QMetaObject::invokeMethod(qApp, [left] { QCoreApplication::exit(left ? 1 : 0); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        qApp, [left] { QCoreApplication::exit(left ? 1 : 0); }, Qt::QueuedConnection);
 }
 
 Result<void, Text> Application::start(bool hidden, bool connectNow)
@@ -127,7 +136,8 @@ void Application::onTrayHostChanged()
         return;
     m_tray = std::make_unique<Tray>(m_session);
     QObject::connect(m_tray.get(), &Tray::quitWanted, &m_guard, &QuitGuard::quit);
-    QObject::connect(m_tray.get(), &Tray::openWanted, this, [this] { m_windows.open(QStringLiteral("main")); });
+    QObject::connect(m_tray.get(), &Tray::openWanted, this,
+                     [this] { m_windows.open(QStringLiteral("main")); });
     QObject::connect(m_tray.get(), &Tray::panelWanted, this, [this] {
         // A Wayland window cannot say where it wants to be.
         if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
@@ -156,7 +166,8 @@ void Application::onMainClosed()
 void Application::tellHidden()
 {
     if (!std::exchange(m_isToldHidden, true))
-        m_alerts.tell(tr("Veldmark is still running"), tr("Open Veldmark again to see its window."));
+        m_alerts.tell(tr("Veldmark is still running"),
+                      tr("Open Veldmark again to see its window."));
 }
 
 } // namespace veldmark

@@ -25,12 +25,13 @@ class Application : public QObject {
 public:
     explicit Application(const PlatformProfile &profile);
 
-    // Becomes the user's one instance and shows itself, unless `hidden`; connects when `connectNow` or the user's
-    // settings say so. The error is one line.
+    // Becomes the user's one instance and shows itself, unless `hidden`; connects when `connectNow`
+    // or the user's settings say so. The error is one line.
     Result<void, Text> start(bool hidden, bool connectNow);
 
     const Windows &windows() const { return m_windows; }
-    const Tray *tray() const { return m_tray.get(); } // null until the desktop has had a place for it
+    // null until the desktop has had a place for it
+    const Tray *tray() const { return m_tray.get(); }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -58,7 +59,8 @@ private:
     TrayHost m_trayHost;
     std::unique_ptr<Tray> m_tray; // Qt brings the icon back by itself when the host does
     std::unique_ptr<InstanceServer> m_server;
-    bool m_isToldHidden = false; // that it runs without anything to see, since the tray's host last came or went
+    // that it runs without anything to see, since the tray's host last came or went
+    bool m_isToldHidden = false;
     QObject m_lifetime; // goes first, so that what the others' ends resume finds it gone
 };
 

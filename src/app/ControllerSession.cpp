@@ -33,10 +33,10 @@ Leak leakOf(const LeakStatus &status)
 
 ControllerSession::ControllerSession(TorController &controller, SettingsStore &settings,
                                      RunningApplications &applications)
-    : Session(controller.profile())
-    , m_controller(controller)
-    , m_applications(applications)
-    , m_examiner(controller.profile(), settings, m_processes)
+    : Session(controller.profile()),
+      m_controller(controller),
+      m_applications(applications),
+      m_examiner(controller.profile(), settings, m_processes)
 {
     for (const Field *field : controller.fields())
         QObject::connect(field, &Field::changed, this, &ControllerSession::schedule);
@@ -45,7 +45,8 @@ ControllerSession::ControllerSession(TorController &controller, SettingsStore &s
         if (m_controller.exitIP())
             refreshCircuits();
     });
-    for (const Field *field : std::initializer_list<const Field *>{&controller.terminalMode, &controller.terminalError, &controller.phase})
+    for (const Field *field : std::initializer_list<const Field *>{
+             &controller.terminalMode, &controller.terminalError, &controller.phase})
         QObject::connect(field, &Field::changed, this, [this] { m_terminalIsKnown = false; });
     read();
 }
@@ -63,15 +64,16 @@ void ControllerSession::read()
     m_scheduled = false;
     const TorController &c = m_controller;
     Snapshot next;
-    next.choices = {c.strictMode(),   c.allowLocalNetwork(), c.exitCountry(), c.customTorPath(),
-                    c.bridgeChoice(), c.customBridges(),     c.bypassApps(),  c.autoConnect(),
-                    c.optimizeSpeed(), c.terminalMode(), c.separateApps()};
+    next.choices = {c.strictMode(),    c.allowLocalNetwork(), c.exitCountry(), c.customTorPath(),
+                    c.bridgeChoice(),  c.customBridges(),     c.bypassApps(),  c.autoConnect(),
+                    c.optimizeSpeed(), c.terminalMode(),      c.separateApps()};
     next.phase = c.phase();
     next.activeMode = c.activeMode();
     next.activeBridge = c.activeBridge();
     next.bootstrapProgress = c.bootstrapProgress();
     next.statusDetail = c.statusDetail();
-    next.bootstrapProblem = next.phase == Phase::connecting ? c.bootstrapProblem() : c.problemBehindError();
+    next.bootstrapProblem = next.phase == Phase::connecting ? c.bootstrapProblem()
+                                                            : c.problemBehindError();
     next.isAnothers = c.otherSession().has_value();
     next.hasTorStopped = c.hasTorStopped();
     next.canCancel = c.canCancel();
@@ -248,7 +250,8 @@ void ControllerSession::dismissError()
     // Only what the user has seen; what stands behind it, or has come meanwhile, is shown next.
     if (m_controller.errorMessage() && m_controller.errorMessage() == m_now.errorMessage)
         m_controller.dismissError();
-    else if (!m_controller.settingsProblems().isEmpty() && m_controller.settingsProblems().constFirst() == m_now.errorMessage)
+    else if (!m_controller.settingsProblems().isEmpty()
+             && m_controller.settingsProblems().constFirst() == m_now.errorMessage)
         m_controller.dismissSettingsProblem();
     schedule();
 }
@@ -308,7 +311,8 @@ void ControllerSession::removeTerminalIntegration()
 void ControllerSession::setOpenAtLogin(bool on)
 {
     if (const auto done = LoginItem(profile()).set(on); !done)
-        m_controller.showProblem(Text::tr("Couldn't change the login-item setting: %1").arg(done.error()));
+        m_controller.showProblem(
+            Text::tr("Couldn't change the login-item setting: %1").arg(done.error()));
     schedule();
 }
 

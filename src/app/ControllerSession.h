@@ -20,11 +20,18 @@ class ControllerSession final : public Session {
 
 public:
     // All must outlive the session.
-    ControllerSession(TorController &controller, SettingsStore &settings, RunningApplications &applications);
+    ControllerSession(TorController &controller, SettingsStore &settings,
+                      RunningApplications &applications);
 
     std::vector<ExitChoice> exitChoices() const override;
-    std::vector<InstalledApplication> installedApplications() const override { return veldmark::installedApplications(); }
-    QString applicationName(const QString &path) const override { return m_applications.displayName(path); }
+    std::vector<InstalledApplication> installedApplications() const override
+    {
+        return veldmark::installedApplications();
+    }
+    QString applicationName(const QString &path) const override
+    {
+        return m_applications.displayName(path);
+    }
     void store(const Choices &choices) override;
     void connectToTor() override;
     void disconnectFromTor() override;
@@ -63,7 +70,7 @@ private:
     bool m_scheduled = false;
     bool m_isReadingCircuits = false;
     bool m_circuitsWanted = false; // once more after those that are being read
-    Text m_terminalHint;             // asked when terminal mode is switched on
+    Text m_terminalHint;           // asked when terminal mode is switched on
     bool m_terminalModeWasOn = false;
     bool m_terminalIsKnown = false; // the two below are true; they cost reading the user's files
     bool m_terminalInstalled = false;

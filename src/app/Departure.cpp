@@ -8,7 +8,9 @@
 
 namespace veldmark {
 
-Departure::Departure(TorController &controller, Clock &clock) : m_clock(clock), m_withdrawal(controller)
+Departure::Departure(TorController &controller, Clock &clock)
+    : m_clock(clock),
+      m_withdrawal(controller)
 {
     QObject::connect(&m_withdrawal, &Withdrawal::finished, this, &Departure::settle);
 }

@@ -73,20 +73,24 @@ void FileChooser::ask(const Question &question)
     qDBusRegisterMetaType<QList<PortalPattern>>();
     qDBusRegisterMetaType<PortalFilter>();
     qDBusRegisterMetaType<QList<PortalFilter>>();
-    // The answer is a signal of an object whose path is agreed on, so that it cannot come too early.
+    // The answer is a signal of an object whose path is agreed on, so that it cannot come too
+    // early.
     const QString token = QStringLiteral("veldmark%1").arg(m_asked);
     const QString sender = m_bus.baseService().mid(1).replace(u'.', u'_');
     listen(object + QStringLiteral("/request/%1/%2").arg(sender, token));
 
-    QVariantMap options{{QStringLiteral("handle_token"), token},
-                        {QStringLiteral("multiple"), question.several},
-                        {QStringLiteral("current_folder"), QFile::encodeName(question.folder) + '\0'}};
+    QVariantMap options{
+        {QStringLiteral("handle_token"), token},
+        {QStringLiteral("multiple"), question.several},
+        {QStringLiteral("current_folder"), QFile::encodeName(question.folder) + '\0'}};
     if (!question.filterPattern.isEmpty()) {
-        const PortalFilter filter{question.filterName, QList<PortalPattern>{PortalPattern{0, question.filterPattern}}};
+        const PortalFilter filter{question.filterName,
+                                  QList<PortalPattern>{PortalPattern{0, question.filterPattern}}};
         const QList<PortalFilter> filters{filter};
         options.insert(QStringLiteral("filters"), QVariant::fromValue(filters));
     }
-    QDBusMessage call = QDBusMessage::createMethodCall(service, object, interface, QStringLiteral("OpenFile"));
+    QDBusMessage call = QDBusMessage::createMethodCall(service, object, interface,
+                                                       QStringLiteral("OpenFile"));
     call << QString() << question.title << options;
     auto *answer = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
     QObject::connect(answer, &QDBusPendingCallWatcher::finished, this,
@@ -142,9 +146,11 @@ void FileChooser::askWithQt()
 {
     auto *dialog = new QFileDialog(nullptr, m_question.title, m_question.folder);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setFileMode(m_question.several ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
+    dialog->setFileMode(m_question.several ? QFileDialog::ExistingFiles
+                                           : QFileDialog::ExistingFile);
     if (!m_question.filterPattern.isEmpty())
-        dialog->setNameFilter(QStringLiteral("%1 (%2)").arg(m_question.filterName, m_question.filterPattern));
+        dialog->setNameFilter(
+            QStringLiteral("%1 (%2)").arg(m_question.filterName, m_question.filterPattern));
     QObject::connect(dialog, &QFileDialog::filesSelected, this, &FileChooser::chosen);
     dialog->open();
 }

@@ -18,11 +18,12 @@ public:
     struct Question {
         QString title = {};
         QString folder = {}; // where to begin
-        QString filterName = {}, filterPattern = {}; // "Applications", "*.desktop"; empty: every file
+        // "Applications", "*.desktop"; empty: every file
+        QString filterName = {}, filterPattern = {};
         bool several = false;
     };
 
-    explicit FileChooser(const QDBusConnection &bus) : m_bus(bus) {}
+    explicit FileChooser(const QDBusConnection &bus) : m_bus(bus) { }
 
     void ask(const Question &question);
 

@@ -25,8 +25,8 @@ void speak()
 {
     if (!words || !LastWords::isNetworkLeft(words->profile))
         return;
-    [[maybe_unused]] const auto written =
-        ::write(STDERR_FILENO, words->text.constData(), static_cast<size_t>(words->text.size()));
+    [[maybe_unused]] const auto written = ::write(STDERR_FILENO, words->text.constData(),
+                                                  static_cast<size_t>(words->text.size()));
 }
 
 } // namespace
@@ -40,17 +40,25 @@ QString LastWords::advice(const PlatformProfile &profile)
 {
     if (!isNetworkLeft(profile))
         return {};
-    return u'\n' + QCoreApplication::translate("main", "Your network is still set up for Tor. To restore it without Veldmark, run:\n%1")
-                        .arg(profile.manualRestoreCommand);
+    return u'\n'
+        + QCoreApplication::translate(
+              "main",
+              "Your network is still set up for Tor. To restore it without Veldmark, run:\n%1")
+              .arg(profile.manualRestoreCommand);
 }
 
 LastWords::LastWords(const PlatformProfile &profile)
 {
-    words = new Words{profile,
-                      "veldmark: "
-                          + Text::tr("Ended without its display. Your network is still set up for Tor: start Veldmark again, or "
-                                     "restore it with: %1").arg(profile.manualRestoreCommand).translated().toUtf8()
-                          + '\n'};
+    words = new Words{
+        profile,
+        "veldmark: "
+            + Text::tr(
+                  "Ended without its display. Your network is still set up for Tor: start Veldmark again, or "
+                  "restore it with: %1")
+                  .arg(profile.manualRestoreCommand)
+                  .translated()
+                  .toUtf8()
+            + '\n'};
     std::atexit(speak);
 }
 

@@ -35,7 +35,8 @@ bool LoginItem::isSet() const
         return false;
     // Both are ways in which desktops switch an entry off without removing it.
     const QByteArray text = file.read(entryLimitBytes);
-    return valueOf(text, "Hidden") != "true" && valueOf(text, "X-GNOME-Autostart-enabled") != "false";
+    return valueOf(text, "Hidden") != "true"
+        && valueOf(text, "X-GNOME-Autostart-enabled") != "false";
 }
 
 QString LoginItem::entry(const QString &executable)
@@ -65,8 +66,7 @@ Result<void, Text> LoginItem::set(bool on) const
     QSaveFile file(m_path);
     const QByteArray text = entry(QCoreApplication::applicationFilePath()).toUtf8();
     if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
-        return Failure(Text::tr("Couldn't write %1: %2")
-                           .arg(m_path, file.errorString()));
+        return Failure(Text::tr("Couldn't write %1: %2").arg(m_path, file.errorString()));
     return {};
 }
 

@@ -24,10 +24,13 @@
     (void)notification;
     NSAppleEventManager *const manager = [NSAppleEventManager sharedAppleEventManager];
     NSAppleEventDescriptor *const event = [manager currentAppleEvent];
-    const bool atLogin = [event eventID] == kAEOpenApplication
-        && [[event paramDescriptorForKeyword:keyAEPropData] enumCodeValue] == keyAELaunchedAsLogInItem;
+    const bool atLogin = [event eventID] == kAEOpenApplication &&
+        [[event paramDescriptorForKeyword:keyAEPropData] enumCodeValue] == keyAELaunchedAsLogInItem;
     // AppKit has set its own by now.
-    [manager setEventHandler:self andSelector:@selector(reopen:withReply:) forEventClass:kCoreEventClass andEventID:kAEReopenApplication];
+    [manager setEventHandler:self
+                 andSelector:@selector(reopen:withReply:)
+               forEventClass:kCoreEventClass
+                  andEventID:kAEReopenApplication];
     if (const auto then = std::exchange(launched, nullptr))
         then(atLogin);
 }
@@ -54,11 +57,13 @@ VeldmarkEvents *events()
 
 } // namespace
 
-// The bundle says the same in its Info.plist (LSUIElement); this is for the program in a build tree.
+// The bundle says the same in its Info.plist (LSUIElement); this is for the program in a build
+// tree.
 void becomeMenuBarProgram()
 {
     @autoreleasepool {
-        [[NSApplication sharedApplication] setActivationPolicy:NSApplicationActivationPolicyAccessory];
+        [[NSApplication sharedApplication]
+            setActivationPolicy:NSApplicationActivationPolicyAccessory];
     }
 }
 
@@ -73,10 +78,11 @@ void whenLaunched(std::function<void(bool atLogin)> then)
 {
     @autoreleasepool {
         events()->launched = std::move(then);
-        [[NSNotificationCenter defaultCenter] addObserver:events()
-                                                 selector:@selector(didLaunch:)
-                                                     name:NSApplicationDidFinishLaunchingNotification
-                                                   object:nil];
+        [[NSNotificationCenter defaultCenter]
+            addObserver:events()
+               selector:@selector(didLaunch:)
+                   name:NSApplicationDidFinishLaunchingNotification
+                 object:nil];
     }
 }
 
@@ -90,8 +96,9 @@ void keepAwake(bool on)
     static id activity = nil;
     @autoreleasepool {
         if (on && !activity) {
-            activity = [[[NSProcessInfo processInfo] beginActivityWithOptions:NSActivityUserInitiatedAllowingIdleSystemSleep
-                                                                       reason:@"Watches the connection to Tor"] retain];
+            activity = [[[NSProcessInfo processInfo]
+                beginActivityWithOptions:NSActivityUserInitiatedAllowingIdleSystemSleep
+                                  reason:@"Watches the connection to Tor"] retain];
         } else if (!on && activity) {
             [[NSProcessInfo processInfo] endActivity:activity];
             [activity release];
@@ -100,21 +107,26 @@ void keepAwake(bool on)
     }
 }
 
-// The system asks the user once whether notifications may be shown, and drops them where the answer is no.
+// The system asks the user once whether notifications may be shown, and drops them where the answer
+// is no.
 void showNotice(const QString &title, const QString &text)
 {
     @autoreleasepool {
-        UNUserNotificationCenter *const center = [UNUserNotificationCenter currentNotificationCenter];
-        UNMutableNotificationContent *const content = [[[UNMutableNotificationContent alloc] init] autorelease];
+        UNUserNotificationCenter *const center =
+            [UNUserNotificationCenter currentNotificationCenter];
+        UNMutableNotificationContent *const content = [[[UNMutableNotificationContent alloc] init]
+            autorelease];
         [content setTitle:[NSString stringWithUTF8String:title.toUtf8().constData()]];
         [content setBody:[NSString stringWithUTF8String:text.toUtf8().constData()]];
-        UNNotificationRequest *const request = [UNNotificationRequest requestWithIdentifier:[[NSUUID UUID] UUIDString]
-                                                                                    content:content
-                                                                                    trigger:nil];
+        UNNotificationRequest *const request = [UNNotificationRequest
+            requestWithIdentifier:[[NSUUID UUID] UUIDString]
+                          content:content
+                          trigger:nil];
         [center requestAuthorizationWithOptions:UNAuthorizationOptionAlert
                               completionHandler:^(BOOL granted, NSError *) {
                                   if (granted)
-                                      [center addNotificationRequest:request withCompletionHandler:nil];
+                                      [center addNotificationRequest:request
+                                               withCompletionHandler:nil];
                               }];
     }
 }

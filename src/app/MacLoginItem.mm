@@ -2,7 +2,8 @@
 
 #import <ServiceManagement/ServiceManagement.h>
 
-// The system's own list of login items is the truth; nothing is stored here. Needs macOS 13 and the program in its bundle.
+// The system's own list of login items is the truth; nothing is stored here. Needs macOS 13 and the
+// program in its bundle.
 namespace veldmark {
 
 bool LoginItem::isSet() const
@@ -18,11 +19,16 @@ Result<void, Text> LoginItem::set(bool on) const
         SMAppService *const service = [SMAppService mainAppService];
         if (on == isSet())
             return {};
-        // The system runs a bundle that came from the network from a place of its own, which is another one each time.
-        if (on && QString::fromUtf8([[[NSBundle mainBundle] bundlePath] UTF8String]).contains(QLatin1String("/AppTranslocation/")))
-            return Failure(Text::tr("Move Veldmark to the Applications folder and open it from there first."));
+        // The system runs a bundle that came from the network from a place of its own, which is
+        // another one each time.
+        if (on
+            && QString::fromUtf8([[[NSBundle mainBundle] bundlePath] UTF8String])
+                   .contains(QLatin1String("/AppTranslocation/")))
+            return Failure(
+                Text::tr("Move Veldmark to the Applications folder and open it from there first."));
         NSError *error = nil;
-        const BOOL done = on ? [service registerAndReturnError:&error] : [service unregisterAndReturnError:&error];
+        const BOOL done = on ? [service registerAndReturnError:&error]
+                             : [service unregisterAndReturnError:&error];
         if (done)
             return {};
         NSString *const reason = [error localizedDescription];

@@ -6,7 +6,9 @@
 
 namespace veldmark {
 
-QuitGuard::QuitGuard(TorController &controller, Windows &windows) : m_controller(controller), m_windows(windows)
+QuitGuard::QuitGuard(TorController &controller, Windows &windows)
+    : m_controller(controller),
+      m_windows(windows)
 {
     QObject::connect(&controller.killSwitch, &Field::changed, this, &QuitGuard::showWhetherClosed);
     QObject::connect(&controller.activeMode, &Field::changed, this, &QuitGuard::showWhetherClosed);
@@ -21,16 +23,19 @@ QuitGuard::~QuitGuard()
 void QuitGuard::quit()
 {
     m_controller.lookAtSession();
-    if (!m_controller.isSessionMarkerPresent() || m_controller.otherSession()) { // nothing of ours to lose or leave
+    // nothing of ours to lose or leave
+    if (!m_controller.isSessionMarkerPresent() || m_controller.otherSession()) {
         Q_EMIT mayEnd();
         return;
     }
     if (!m_dialog) {
-        m_dialog = m_windows.make(QStringLiteral("main/QuitDialog.qml"),
-                                  {{QStringLiteral("strict"), staysClosed()}, {QStringLiteral("busy"), false}});
+        m_dialog = m_windows.make(
+            QStringLiteral("main/QuitDialog.qml"),
+            {{QStringLiteral("strict"), staysClosed()}, {QStringLiteral("busy"), false}});
         if (!m_dialog)
             return; // the windows have said why; the network is not left to itself
-        QObject::connect(m_dialog.get(), SIGNAL(disconnectWanted()), this, SLOT(onDisconnectWanted()));
+        QObject::connect(m_dialog.get(), SIGNAL(disconnectWanted()), this,
+                         SLOT(onDisconnectWanted()));
         QObject::connect(m_dialog.get(), SIGNAL(quitWanted()), this, SLOT(onQuitWanted()));
         QObject::connect(m_dialog.get(), SIGNAL(cancelled()), this, SLOT(onCancelled()));
     }

@@ -43,7 +43,8 @@ private:
     Windows &m_windows;
     std::unique_ptr<QQuickWindow> m_dialog;
     bool m_quitAfterwards = false; // the disconnect that runs is to be followed by the end
-    std::optional<ResumeOnce<bool>> m_disconnectEnded; // of a disconnect that somebody else has begun
+    // of a disconnect that somebody else has begun
+    std::optional<ResumeOnce<bool>> m_disconnectEnded;
 };
 
 } // namespace veldmark

@@ -29,9 +29,10 @@ void ShutdownNotice::setDelaying(bool on)
     if (m_lock.isValid() || m_asked || !m_bus.isConnected())
         return;
     m_asked = true;
-    QDBusMessage call = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Inhibit"));
-    call << QStringLiteral("shutdown") << QStringLiteral("Veldmark") << tr("Restoring your network settings")
-         << QStringLiteral("delay");
+    QDBusMessage call = QDBusMessage::createMethodCall(service, path, interface,
+                                                       QStringLiteral("Inhibit"));
+    call << QStringLiteral("shutdown") << QStringLiteral("Veldmark")
+         << tr("Restoring your network settings") << QStringLiteral("delay");
     auto *answer = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
     QObject::connect(answer, &QDBusPendingCallWatcher::finished, this, &ShutdownNotice::onAnswer);
 }

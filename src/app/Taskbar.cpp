@@ -16,16 +16,20 @@ void leaveOutOfTaskbar(QWindow &window)
         return;
     // Xlib is there, since Qt's own part for X uses it.
     using InternAtom = unsigned long (*)(Display *, const char *, int);
-    using ChangeProperty = int (*)(Display *, unsigned long, unsigned long, unsigned long, int, int, const unsigned char *, int);
+    using ChangeProperty = int (*)(Display *, unsigned long, unsigned long, unsigned long, int, int,
+                                   const unsigned char *, int);
     static QLibrary library(QStringLiteral("X11"), 6);
     static const auto atom = reinterpret_cast<InternAtom>(library.resolve("XInternAtom"));
     static const auto change = reinterpret_cast<ChangeProperty>(library.resolve("XChangeProperty"));
     if (!atom || !change)
         return;
     constexpr unsigned long atomType = 4; // XA_ATOM
-    constexpr int append = 2;             // PropModeAppend: Qt's own words, of the window that is to stay on top, are kept, and Qt keeps this one
+    // PropModeAppend: Qt's own words, of the window that is to stay on top, are kept, and Qt keeps
+    // this one
+    constexpr int append = 2;
     Display *const display = x11->display();
-    const std::array words{atom(display, "_NET_WM_STATE_SKIP_TASKBAR", 0), atom(display, "_NET_WM_STATE_SKIP_PAGER", 0)};
+    const std::array words{atom(display, "_NET_WM_STATE_SKIP_TASKBAR", 0),
+                           atom(display, "_NET_WM_STATE_SKIP_PAGER", 0)};
     change(display, window.winId(), atom(display, "_NET_WM_STATE", 0), atomType, 32, append,
            reinterpret_cast<const unsigned char *>(words.data()), static_cast<int>(words.size()));
 #else

@@ -22,7 +22,8 @@ Tray::Place Tray::place()
 
 Tray::Tray(Session &session, Place where) : m_place(where), m_panel(session)
 {
-    QObject::connect(m_menu.addAction(tr("Open Veldmark")), &QAction::triggered, this, &Tray::openWanted);
+    QObject::connect(m_menu.addAction(tr("Open Veldmark")), &QAction::triggered, this,
+                     &Tray::openWanted);
     m_power = m_menu.addAction(QString());
     QObject::connect(m_power, &QAction::triggered, &m_panel, &PanelModel::pressPower);
     m_menu.addSeparator();
@@ -49,7 +50,8 @@ bool Tray::groundIsDark()
     if (qEnvironmentVariable("XDG_CURRENT_DESKTOP").contains(QLatin1String("GNOME")))
         return true;
     const QPalette palette = QGuiApplication::palette();
-    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+    return palette.color(QPalette::Window).lightness()
+        < palette.color(QPalette::WindowText).lightness();
 }
 
 namespace {
@@ -77,7 +79,8 @@ QIcon Tray::icon(const QString &symbol, bool onDark)
     const QColor light(0xf2, 0xf2, 0xf7), dark(0x1a, 0x1a, 0x22);
     QIcon icon;
     for (const int pixels : {16, 22, 24, 32, 44, 48, 64})
-        icon.addPixmap(QPixmap::fromImage(edged(symbol, pixels, onDark ? light : dark, onDark ? dark : light)));
+        icon.addPixmap(QPixmap::fromImage(
+            edged(symbol, pixels, onDark ? light : dark, onDark ? dark : light)));
     return icon;
 }
 
@@ -101,7 +104,8 @@ void Tray::update()
     const bool dark = groundIsDark();
     const QString wanted = m_panel.symbol() + (dark ? u'd' : u'l');
     if (std::exchange(m_shown, wanted) != wanted)
-        m_icon.setIcon(m_place == Place::menuBar ? mask(m_panel.symbol()) : icon(m_panel.symbol(), dark));
+        m_icon.setIcon(m_place == Place::menuBar ? mask(m_panel.symbol())
+                                                 : icon(m_panel.symbol(), dark));
     const QString tip = QStringLiteral("Veldmark: ") + m_panel.title();
     if (m_icon.toolTip() != tip)
         m_icon.setToolTip(tip);

@@ -9,13 +9,14 @@
 namespace veldmark {
 
 // The program's icon in the tray: a symbol that differs by shape with the session's state, drawn to
-// stand out from the tray's ground by its colour, or else (no panel tells its own) by its edge, and a menu for desktops whose tray shows nothing else.
+// stand out from the tray's ground by its colour, or else (no panel tells its own) by its edge, and
+// a menu for desktops whose tray shows nothing else.
 class Tray : public QObject {
     Q_OBJECT
 
 public:
-    // Where the icon stands: in a tray, or in the menu bar of a Mac, which colours it by itself and opens a menu that it
-    // knows of with every click.
+    // Where the icon stands: in a tray, or in the menu bar of a Mac, which colours it by itself and
+    // opens a menu that it knows of with every click.
     enum class Place { tray, menuBar };
     static Place place();
 

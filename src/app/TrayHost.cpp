@@ -25,7 +25,8 @@ bool onX11()
     return QGuiApplication::platformName() == QLatin1String("xcb");
 }
 
-// Whether a window of the X server's takes icons in. Xlib is there, since Qt's own part for X uses it.
+// Whether a window of the X server's takes icons in. Xlib is there, since Qt's own part for X uses
+// it.
 bool hasX11Tray()
 {
 #if QT_CONFIG(xcb)
@@ -36,8 +37,10 @@ bool hasX11Tray()
     using SelectionOwner = unsigned long (*)(Display *, unsigned long);
     static QLibrary library(QStringLiteral("X11"), 6);
     static const auto atom = reinterpret_cast<InternAtom>(library.resolve("XInternAtom"));
-    static const auto owner = reinterpret_cast<SelectionOwner>(library.resolve("XGetSelectionOwner"));
-    return atom && owner && owner(x11->display(), atom(x11->display(), "_NET_SYSTEM_TRAY_S0", 0)) != 0;
+    static const auto owner = reinterpret_cast<SelectionOwner>(
+        library.resolve("XGetSelectionOwner"));
+    return atom && owner
+        && owner(x11->display(), atom(x11->display(), "_NET_SYSTEM_TRAY_S0", 0)) != 0;
 #else
     return false;
 #endif
@@ -46,10 +49,13 @@ bool hasX11Tray()
 } // namespace
 
 TrayHost::TrayHost(const QDBusConnection &bus, Clock &clock)
-    : m_bus(bus), m_clock(clock), m_watcher(service, m_bus, QDBusServiceWatcher::WatchForOwnerChange)
+    : m_bus(bus),
+      m_clock(clock),
+      m_watcher(service, m_bus, QDBusServiceWatcher::WatchForOwnerChange)
 {
     QObject::connect(&m_watcher, &QDBusServiceWatcher::serviceRegistered, this, &TrayHost::ask);
-    QObject::connect(&m_watcher, &QDBusServiceWatcher::serviceUnregistered, this, [this] { set(false, m_onDisplay); });
+    QObject::connect(&m_watcher, &QDBusServiceWatcher::serviceUnregistered, this,
+                     [this] { set(false, m_onDisplay); });
     for (const char *change : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
         m_bus.connect(service, path, service, QString::fromLatin1(change), this, SLOT(ask()));
     m_display.setInterval(5s);
@@ -69,8 +75,8 @@ void TrayHost::ask()
 {
     if (!m_bus.isConnected())
         return;
-    QDBusMessage call = QDBusMessage::createMethodCall(service, path, QStringLiteral("org.freedesktop.DBus.Properties"),
-                                                       QStringLiteral("Get"));
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        service, path, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
     call << service << QStringLiteral("IsStatusNotifierHostRegistered");
     call.setAutoStartService(false);
     auto *answer = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);

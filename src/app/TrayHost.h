@@ -13,8 +13,9 @@ namespace veldmark {
 
 class Clock;
 
-// Whether the desktop has a place for tray icons. Its panel may start after this program, end, and come back. Qt asks once
-// and keeps the answer for good, so it must not be asked before there is such a place. Main thread.
+// Whether the desktop has a place for tray icons. Its panel may start after this program, end, and
+// come back. Qt asks once and keeps the answer for good, so it must not be asked before there is
+// such a place. Main thread.
 class TrayHost : public QObject {
     Q_OBJECT
 

@@ -30,7 +30,8 @@ WindowPlaces::WindowPlaces(SettingsStore &settings) : m_settings(settings)
         watch(screen);
     QObject::connect(qApp, &QGuiApplication::screenAdded, this, &WindowPlaces::watch);
     // Queued: Qt moves the windows of a screen that goes to another one first.
-    QObject::connect(qApp, &QGuiApplication::screenRemoved, this, &WindowPlaces::bringBack, Qt::QueuedConnection);
+    QObject::connect(qApp, &QGuiApplication::screenRemoved, this, &WindowPlaces::bringBack,
+                     Qt::QueuedConnection);
 }
 
 void WindowPlaces::watch(QScreen *screen)
@@ -53,7 +54,8 @@ void WindowPlaces::remember(const QString &name, QQuickWindow *window, Height he
     if (!stored)
         return;
     QRect place = *stored;
-    const int chosen = height == Height::ownedByContent ? m_settings.string(heightKey(name)).toInt() : 0;
+    const int chosen = height == Height::ownedByContent ? m_settings.string(heightKey(name)).toInt()
+                                                        : 0;
     if (height == Height::ownedByContent)
         place.setHeight(chosen > 0 ? chosen : window->height());
     place.setSize(place.size().expandedTo(window->minimumSize()).boundedTo(window->maximumSize()));
@@ -75,7 +77,8 @@ void WindowPlaces::keep(const QString &name, const QQuickWindow *window, Height 
     if (m_settings.string(key(name)) != now)
         m_settings.setString(key(name), now);
     const QString chosen = window->property("chosenHeight").toString();
-    if (height == Height::ownedByContent && chosen.toInt() > 0 && m_settings.string(heightKey(name)) != chosen)
+    if (height == Height::ownedByContent && chosen.toInt() > 0
+        && m_settings.string(heightKey(name)) != chosen)
         m_settings.setString(heightKey(name), chosen);
 }
 
@@ -100,9 +103,10 @@ QRect WindowPlaces::within(const QList<QRect> &screens, QRect place)
 {
     if (screens.isEmpty())
         return place;
-    const QRect &room = *std::max_element(screens.begin(), screens.end(), [&place](const QRect &a, const QRect &b) {
-        return area(a.intersected(place)) < area(b.intersected(place));
-    }); // the first of equals
+    const QRect &room = *std::max_element(
+        screens.begin(), screens.end(), [&place](const QRect &a, const QRect &b) {
+            return area(a.intersected(place)) < area(b.intersected(place));
+        }); // the first of equals
     place.setSize(place.size().boundedTo(room.size()));
     place.moveLeft(std::clamp(place.left(), room.left(), room.right() - place.width() + 1));
     place.moveTop(std::clamp(place.top(), room.top(), room.bottom() - place.height() + 1));
@@ -111,12 +115,17 @@ QRect WindowPlaces::within(const QList<QRect> &screens, QRect place)
 
 QString WindowPlaces::text(const QRect &place)
 {
-    return QStringLiteral("%1x%2+%3+%4").arg(place.width()).arg(place.height()).arg(place.x()).arg(place.y());
+    return QStringLiteral("%1x%2+%3+%4")
+        .arg(place.width())
+        .arg(place.height())
+        .arg(place.x())
+        .arg(place.y());
 }
 
 std::optional<QRect> WindowPlaces::parse(const QString &text)
 {
-    static const QRegularExpression form(QStringLiteral(R"(\A(\d{2,5})x(\d{2,5})\+(-?\d{1,5})\+(-?\d{1,5})\z)"));
+    static const QRegularExpression form(
+        QStringLiteral(R"(\A(\d{2,5})x(\d{2,5})\+(-?\d{1,5})\+(-?\d{1,5})\z)"));
     const auto match = form.match(text);
     if (!match.hasMatch())
         return std::nullopt;

@@ -17,31 +17,34 @@ namespace {
 
 WindowPlaces::Height heightOf(const QString &name)
 {
-    return name == QLatin1String("main") ? WindowPlaces::Height::ownedByContent : WindowPlaces::Height::remembered;
+    return name == QLatin1String("main") ? WindowPlaces::Height::ownedByContent
+                                         : WindowPlaces::Height::remembered;
 }
 
 } // namespace
 
 Windows::Windows(Session &session, LogFeed &log, SettingsStore &settings)
-    : m_session(session)
-    , m_panel(session)
-    , m_options(session)
-    , m_settings(session)
-    , m_circuits(session)
-    , m_log(log, session.profile())
-    , m_choices(session)
-    , m_places(settings)
-    , m_torChooser(QDBusConnection::sessionBus())
-    , m_entryChooser(QDBusConnection::sessionBus())
+    : m_session(session),
+      m_panel(session),
+      m_options(session),
+      m_settings(session),
+      m_circuits(session),
+      m_log(log, session.profile()),
+      m_choices(session),
+      m_places(settings),
+      m_torChooser(QDBusConnection::sessionBus()),
+      m_entryChooser(QDBusConnection::sessionBus())
 {
     prepareEngine(m_engine);
-    QObject::connect(&m_torChooser, &FileChooser::chosen, &m_settings, [this](const QStringList &files) {
-        m_settings.chooseTor(QUrl::fromLocalFile(files.first()));
-    });
-    QObject::connect(&m_entryChooser, &FileChooser::chosen, &m_session, [this](const QStringList &files) {
-        for (const QString &file : files)
-            m_session.addBypassApp(file);
-    });
+    QObject::connect(&m_torChooser, &FileChooser::chosen, &m_settings,
+                     [this](const QStringList &files) {
+                         m_settings.chooseTor(QUrl::fromLocalFile(files.first()));
+                     });
+    QObject::connect(&m_entryChooser, &FileChooser::chosen, &m_session,
+                     [this](const QStringList &files) {
+                         for (const QString &file : files)
+                             m_session.addBypassApp(file);
+                     });
 }
 
 Windows::~Windows()
@@ -56,7 +59,8 @@ Windows::~Windows()
 std::unique_ptr<QQuickWindow> Windows::make(const QString &file, const QVariantMap &properties)
 {
     QQmlComponent component(&m_engine, moduleFile(file));
-    QObject *made = component.isReady() ? component.createWithInitialProperties(properties) : nullptr;
+    QObject *made = component.isReady() ? component.createWithInitialProperties(properties)
+                                        : nullptr;
     auto *window = qobject_cast<QQuickWindow *>(made);
     if (!window) {
         delete made;
@@ -81,10 +85,13 @@ bool Windows::ensure(const QString &name)
     const std::map<QString, Recipe> recipes{
         {QStringLiteral("main"), {QStringLiteral("main/MainWindow.qml"), panel}},
         {QStringLiteral("panel"), {QStringLiteral("main/PanelPopup.qml"), panel}},
-        {QStringLiteral("circuits"), {QStringLiteral("circuits/CircuitsWindow.qml"), with(&m_circuits)}},
+        {QStringLiteral("circuits"),
+         {QStringLiteral("circuits/CircuitsWindow.qml"), with(&m_circuits)}},
         {QStringLiteral("log"), {QStringLiteral("log/LogWindow.qml"), with(&m_log)}},
-        {QStringLiteral("settings"), {QStringLiteral("settings/SettingsWindow.qml"), with(&m_settings)}},
-        {QStringLiteral("chooser"), {QStringLiteral("chooser/ChooserWindow.qml"), with(&m_choices)}},
+        {QStringLiteral("settings"),
+         {QStringLiteral("settings/SettingsWindow.qml"), with(&m_settings)}},
+        {QStringLiteral("chooser"),
+         {QStringLiteral("chooser/ChooserWindow.qml"), with(&m_choices)}},
     };
     const auto recipe = recipes.find(name);
     if (recipe == recipes.end())
@@ -128,11 +135,14 @@ void Windows::onHidden(const QString &name)
     if (name == QLatin1String("main") || name == QLatin1String("panel"))
         return;
     // Queued: the window is still in its own signal.
-    QMetaObject::invokeMethod(this, [this, name] {
-        const auto at = m_windows.find(name);
-        if (at != m_windows.end() && !at->second->isVisible())
-            m_windows.erase(at);
-    }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this,
+        [this, name] {
+            const auto at = m_windows.find(name);
+            if (at != m_windows.end() && !at->second->isVisible())
+                m_windows.erase(at);
+        },
+        Qt::QueuedConnection);
 }
 
 bool Windows::open(const QString &name)
@@ -182,12 +192,14 @@ QQuickWindow *Windows::find(const QString &name) const
 
 bool Windows::isAnyShown() const
 {
-    return std::any_of(m_windows.begin(), m_windows.end(), [](const auto &entry) { return entry.second->isVisible(); });
+    return std::any_of(m_windows.begin(), m_windows.end(),
+                       [](const auto &entry) { return entry.second->isVisible(); });
 }
 
 void Windows::chooseTor()
 {
-    m_torChooser.ask({.title = tr("Select the tor executable"), .folder = m_settings.torFolder().toLocalFile()});
+    m_torChooser.ask(
+        {.title = tr("Select the tor executable"), .folder = m_settings.torFolder().toLocalFile()});
 }
 
 void Windows::chooseApplications()
@@ -202,8 +214,9 @@ void Windows::chooseEntries()
 {
     const QString suffix = m_session.profile().applicationSuffix;
     m_entryChooser.ask({.title = tr("Choose apps that may skip Tor in strict mode"),
-                        .folder = suffix == QLatin1String(".app") ? QStringLiteral("/Applications")
-                                                                  : QStringLiteral("/usr/share/applications"),
+                        .folder = suffix == QLatin1String(".app")
+                            ? QStringLiteral("/Applications")
+                            : QStringLiteral("/usr/share/applications"),
                         .filterName = tr("Applications"),
                         .filterPattern = u'*' + suffix,
                         .several = true});

@@ -17,9 +17,10 @@
 
 namespace veldmark {
 
-// The program's windows by name: "main", "panel", "circuits", "log", "settings", "chooser". A window is made
-// when it is first wanted; all but "main" and "panel" go when they are closed, so that a program
-// that only sits in the tray stays small. Where they stood is remembered. Main thread.
+// The program's windows by name: "main", "panel", "circuits", "log", "settings", "chooser". A
+// window is made when it is first wanted; all but "main" and "panel" go when they are closed, so
+// that a program that only sits in the tray stays small. Where they stood is remembered. Main
+// thread.
 class Windows : public QObject {
     Q_OBJECT
 

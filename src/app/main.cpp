@@ -27,7 +27,8 @@ namespace {
 QCoro::Task<void> tellOther(std::shared_ptr<InstanceClient> client, QString command)
 {
     const QJsonObject request{{QStringLiteral("command"), command}};
-    const auto done = co_await client->run(request, [](const QJsonObject &, const QJsonObject &) {});
+    const auto done = co_await client->run(request,
+                                           [](const QJsonObject &, const QJsonObject &) {});
     if (!done)
         QTextStream(stderr) << "veldmark: " << done.error().description().translated() << '\n';
     QCoreApplication::exit(done ? 0 : 1);
@@ -46,8 +47,9 @@ public:
     void process() { m_parser.process(*QCoreApplication::instance()); }
     bool has(const QCommandLineOption &option) const { return m_parser.isSet(option); }
 
-    const QCommandLineOption hidden{QStringLiteral("hidden"),
-                                    QCoreApplication::translate("main", "Start without a window, as at login.")};
+    const QCommandLineOption hidden{
+        QStringLiteral("hidden"),
+        QCoreApplication::translate("main", "Start without a window, as at login.")};
     const QCommandLineOption connectNow{QStringLiteral("connect"),
                                         QCoreApplication::translate("main", "Connect at once.")};
 
@@ -64,7 +66,8 @@ void nameProgram()
 // Whether it only wants to be told something, which needs no display.
 bool isQuestion(int argc, char **argv)
 {
-    static constexpr std::array<std::string_view, 5> questions{"-h", "--help", "--help-all", "-v", "--version"};
+    static constexpr std::array<std::string_view, 5> questions{"-h", "--help", "--help-all", "-v",
+                                                               "--version"};
     return std::any_of(argv + 1, argv + argc, [](const char *word) {
         return std::find(questions.begin(), questions.end(), word) != questions.end();
     });
@@ -94,7 +97,8 @@ int main(int argc, char **argv)
     application.setDesktopFileName(QStringLiteral("veldmark"));
     application.setQuitOnLastWindowClosed(false);
     becomeMenuBarProgram();
-    application.setWindowIcon(QPixmap::fromImage(Symbols::image(QStringLiteral("veldmark"), 64, QColor(0x62, 0x36, 0xc9))));
+    application.setWindowIcon(QPixmap::fromImage(
+        Symbols::image(QStringLiteral("veldmark"), 64, QColor(0x62, 0x36, 0xc9))));
 
     const UsersLanguage language;
     QApplication::setLayoutDirection(language.direction());
@@ -105,7 +109,8 @@ int main(int argc, char **argv)
     if (const auto other = InstanceClient::connectTo(profile)) {
         if (line.has(line.hidden) && !line.has(line.connectNow))
             return 0; // it is there already
-        const QString command = line.has(line.connectNow) ? QStringLiteral("connect") : QStringLiteral("raise");
+        const QString command = line.has(line.connectNow) ? QStringLiteral("connect")
+                                                          : QStringLiteral("raise");
         QTimer::singleShot(0, &application, [other, command] { tellOther(other, command); });
         return QApplication::exec();
     }
@@ -113,9 +118,11 @@ int main(int argc, char **argv)
     const LastTurn lastTurn; // what still waits when the program ends goes after everything else
     const LastWords lastWords(profile);
     Application program(profile);
-    if (const auto started = program.start(line.has(line.hidden), line.has(line.connectNow)); !started) {
+    if (const auto started = program.start(line.has(line.hidden), line.has(line.connectNow));
+        !started) {
         QTextStream(stderr) << "veldmark: " << started.error().translated() << '\n';
-        QMessageBox::critical(nullptr, QStringLiteral("Veldmark"), started.error().translated() + LastWords::advice(profile));
+        QMessageBox::critical(nullptr, QStringLiteral("Veldmark"),
+                              started.error().translated() + LastWords::advice(profile));
         return 1;
     }
     return QApplication::exec();

@@ -13,7 +13,7 @@ struct SystemClock::Sleepers {
     std::list<ResumeOnce<std::monostate>> waits;
 };
 
-SystemClock::SystemClock() : m_sleepers(std::make_shared<Sleepers>()) {}
+SystemClock::SystemClock() : m_sleepers(std::make_shared<Sleepers>()) { }
 
 SystemClock::~SystemClock()
 {

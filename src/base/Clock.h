@@ -38,7 +38,8 @@ public:
 
 private:
     struct Sleepers;
-    const std::shared_ptr<Sleepers> m_sleepers; // each takes itself off the list, also after the clock's end
+    // each takes itself off the list, also after the clock's end
+    const std::shared_ptr<Sleepers> m_sleepers;
 };
 
 } // namespace veldmark

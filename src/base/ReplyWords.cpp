@@ -21,7 +21,8 @@ bool isOctal(QChar c)
     return c >= u'0' && c <= u'7';
 }
 
-// What stands between the marks, with Tor's escapes resolved: \n, \r, \t, \ooo, and \ before itself.
+// What stands between the marks, with Tor's escapes resolved: \n, \r, \t, \ooo, and \ before
+// itself.
 QString unescaped(QStringView text)
 {
     QString plain;
@@ -39,7 +40,10 @@ QString unescaped(QStringView text)
             --i;
             plain += QChar(code);
         } else {
-            plain += escaped == u'n' ? u'\n' : escaped == u'r' ? u'\r' : escaped == u't' ? u'\t' : escaped;
+            plain += escaped == u'n' ? u'\n'
+                : escaped == u'r'    ? u'\r'
+                : escaped == u't'    ? u'\t'
+                                     : escaped;
         }
     }
     return plain;

@@ -21,10 +21,9 @@ namespace veldmark {
 // `complete()`; it may therefore destroy the object whose signal completed it. `complete()` may
 // be called from any thread. One coroutine may await one ResumeOnce, once. Whoever makes one must
 // see to it that something completes it; a wait that nobody completes never ends.
-template <typename T>
-class ResumeOnce {
+template <typename T> class ResumeOnce {
 public:
-    ResumeOnce() : m_state(std::make_shared<State>()) {}
+    ResumeOnce() : m_state(std::make_shared<State>()) { }
 
     // True when this call ended the wait, false when an earlier one had.
     bool complete(T value) const
@@ -43,9 +42,9 @@ public:
         return true;
     }
 
-    // Resumes the waiter now if its wait has ended and the event loop has not got to it yet. For the
-    // destructor of what was waited for, after which the loop may never turn again. On the waiter's
-    // thread; the caller must bear what the waiter does, also that it destroys things.
+    // Resumes the waiter now if its wait has ended and the event loop has not got to it yet. For
+    // the destructor of what was waited for, after which the loop may never turn again. On the
+    // waiter's thread; the caller must bear what the waiter does, also that it destroys things.
     void deliver() const
     {
         QObject *posted = nullptr;
@@ -88,7 +87,8 @@ private:
         bool done = false;
         std::optional<T> value;
         std::unique_ptr<Resumption> resumption; // while somebody waits for an end that has not come
-        QObject *posted = nullptr;              // what it was sent to, from that end until the waiter runs
+        // what it was sent to, from that end until the waiter runs
+        QObject *posted = nullptr;
     };
     std::shared_ptr<State> m_state;
 };

@@ -16,7 +16,7 @@ constexpr QEvent::Type turn = QEvent::User; // a Waiter gets no other event of o
 
 class Waiter final : public QObject {
 public:
-    explicit Waiter(std::coroutine_handle<> waiter) : m_waiter(waiter) {}
+    explicit Waiter(std::coroutine_handle<> waiter) : m_waiter(waiter) { }
 
 protected:
     bool event(QEvent *event) override
@@ -34,7 +34,8 @@ private:
 } // namespace
 
 Resumption::Resumption(std::coroutine_handle<> waiter)
-    : QEvent(turn), m_receiver(std::make_unique<Waiter>(waiter))
+    : QEvent(turn),
+      m_receiver(std::make_unique<Waiter>(waiter))
 {
     ++alive;
 }

@@ -24,8 +24,8 @@ public:
     QObject *receiver() const { return m_receiver.get(); }
     // Resumes at once what was posted to `receiver`. On the thread of the coroutine.
     static void deliver(QObject *receiver);
-    // Resumes at once everything that was posted on this thread, what the global thread pool is busy with
-    // as well, and what comes of it in turn.
+    // Resumes at once everything that was posted on this thread, what the global thread pool is
+    // busy with as well, and what comes of it in turn.
     static void deliverAll();
     // How many coroutines wait, on all threads together. At a program's end none may.
     static int waiting();
@@ -35,8 +35,8 @@ private:
     bool m_isPosted = false;
 };
 
-// Declared before everything that waits and after the application: when all of that has gone and the event
-// loop turns no more, lets the coroutines that were waiting run to their ends.
+// Declared before everything that waits and after the application: when all of that has gone and
+// the event loop turns no more, lets the coroutines that were waiting run to their ends.
 class LastTurn {
 public:
     LastTurn() = default;

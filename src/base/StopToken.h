@@ -10,10 +10,12 @@ namespace veldmark {
 
 class StopCallback;
 
-// How one who waits asks another to end: the waiter keeps a StopSource, the other one gets its StopToken and looks at it or leaves a
-// StopCallback. Copies of a source or token mean the same request. Any thread may use them.
+// How one who waits asks another to end: the waiter keeps a StopSource, the other one gets its
+// StopToken and looks at it or leaves a StopCallback. Copies of a source or token mean the same
+// request. Any thread may use them.
 //
-// What of the standard's <stop_token> is used here, under its names, since Apple's standard library does not have that header.
+// What of the standard's <stop_token> is used here, under its names, since Apple's standard library
+// does not have that header.
 class StopToken {
 public:
     StopToken() = default; // of nobody who could ask
@@ -31,16 +33,18 @@ private:
         std::recursive_mutex lock;
         StopCallback *first = nullptr;
     };
-    explicit StopToken(std::shared_ptr<State> state) : m_state(std::move(state)) {}
+    explicit StopToken(std::shared_ptr<State> state) : m_state(std::move(state)) { }
 
     std::shared_ptr<State> m_state;
 };
 
-// Calls a function once, when the end is asked for, on the thread that asks; at once if it has been. Its destructor waits for a call that
-// is under way on another thread.
+// Calls a function once, when the end is asked for, on the thread that asks; at once if it has
+// been. Its destructor waits for a call that is under way on another thread.
 class StopCallback {
 public:
-    StopCallback(StopToken token, std::function<void()> call) : m_state(std::move(token.m_state)), m_call(std::move(call))
+    StopCallback(StopToken token, std::function<void()> call)
+        : m_state(std::move(token.m_state)),
+          m_call(std::move(call))
     {
         if (!m_state)
             return;
@@ -76,7 +80,7 @@ private:
 
 class StopSource {
 public:
-    StopSource() : m_state(std::make_shared<StopToken::State>()) {}
+    StopSource() : m_state(std::make_shared<StopToken::State>()) { }
 
     StopToken get_token() const { return StopToken(m_state); }
     bool stop_requested() const { return m_state->requested; }

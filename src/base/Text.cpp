@@ -35,7 +35,8 @@ QString translation(const QString &source, const QString &comment, int count)
 {
     const QByteArray disambiguation = comment.toUtf8();
     return QCoreApplication::translate("veldmark::Text", source.toUtf8().constData(),
-                                       comment.isEmpty() ? nullptr : disambiguation.constData(), count);
+                                       comment.isEmpty() ? nullptr : disambiguation.constData(),
+                                       count);
 }
 
 } // namespace

@@ -8,8 +8,9 @@
 
 namespace veldmark {
 
-// What a user reads, from where it is known to where it is shown: a sentence of ours with its arguments, or words that are nobody's to
-// translate (Tor's, the system's, a file's name). A QString becomes such words by itself; a sentence of ours is made by tr():
+// What a user reads, from where it is known to where it is shown: a sentence of ours with its
+// arguments, or words that are nobody's to translate (Tor's, the system's, a file's name). A
+// QString becomes such words by itself; a sentence of ours is made by tr():
 //
 //     Text::tr("Couldn't open %1 without Tor: %2").arg(name, error.description())
 //
@@ -17,16 +18,17 @@ namespace veldmark {
 class Text {
 public:
     Text() = default;
-    Text(const QString &words) : m_source(words) {}
+    Text(const QString &words) : m_source(words) { }
 
-    // As QObject::tr(): `source` is a literal with %1…%9 for arg(); with a `count` it has %n, and languages have forms for it.
+    // As QObject::tr(): `source` is a literal with %1…%9 for arg(); with a `count` it has %n, and
+    // languages have forms for it.
     static Text tr(const char *source, const char *comment = nullptr, int count = -1);
     // Several texts in one line.
     static Text joined(std::vector<Text> texts, const QString &separator = QStringLiteral(" "));
 
-    // Fills the next place holders; numbers, words and texts. An argument is taken as it stands, also with a % in it.
-    template <typename... Arguments>
-    Text arg(const Arguments &...arguments) const
+    // Fills the next place holders; numbers, words and texts. An argument is taken as it stands,
+    // also with a % in it.
+    template <typename... Arguments> Text arg(const Arguments &...arguments) const
     {
         Text filled(*this);
         (filled.m_parts.push_back(argument(arguments)), ...);
@@ -50,8 +52,7 @@ public:
 private:
     enum class Kind { words, sentence, joined };
 
-    template <typename T>
-    static Text argument(const T &value)
+    template <typename T> static Text argument(const T &value)
     {
         if constexpr (std::is_integral_v<T>)
             return Text(QString::number(value));

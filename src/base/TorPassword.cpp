@@ -3,7 +3,6 @@
 #include <QCryptographicHash>
 #include <QRandomGenerator>
 
-
 namespace veldmark {
 
 namespace {

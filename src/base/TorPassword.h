@@ -4,16 +4,17 @@
 
 namespace veldmark {
 
-// The control password of one session, and what Tor is told of it. The password itself never leaves this process but to
-// Tor: it stands on no command line. Any thread.
+// The control password of one session, and what Tor is told of it. The password itself never leaves
+// this process but to Tor: it stands on no command line. Any thread.
 struct TorPassword {
     QString clear; // 64 hexadecimal digits
     QString hash;  // for HashedControlPassword
 
     static TorPassword random();
 
-    // "16:" and the upper-case hexadecimal digits that `tor --hash-password` prints: OpenPGP's iterated and salted
-    // S2K (RFC 4880, 3.7.1.3) with SHA-1, over 65,536 bytes. `salt` has 8 bytes.
+    // "16:" and the upper-case hexadecimal digits that `tor --hash-password` prints: OpenPGP's
+    // iterated and salted S2K (RFC 4880, 3.7.1.3) with SHA-1, over 65,536 bytes. `salt` has 8
+    // bytes.
     static QString hashOf(const QByteArray &clear, const QByteArray &salt);
     static bool matches(const QByteArray &clear, const QString &hash);
 

@@ -5,11 +5,16 @@ namespace veldmark {
 QString rawValue(BridgeChoice choice)
 {
     switch (choice) {
-    case BridgeChoice::off: return QStringLiteral("off");
-    case BridgeChoice::obfs4: return QStringLiteral("obfs4");
-    case BridgeChoice::snowflake: return QStringLiteral("snowflake");
-    case BridgeChoice::meek: return QStringLiteral("meek");
-    case BridgeChoice::custom: return QStringLiteral("custom");
+    case BridgeChoice::off:
+        return QStringLiteral("off");
+    case BridgeChoice::obfs4:
+        return QStringLiteral("obfs4");
+    case BridgeChoice::snowflake:
+        return QStringLiteral("snowflake");
+    case BridgeChoice::meek:
+        return QStringLiteral("meek");
+    case BridgeChoice::custom:
+        return QStringLiteral("custom");
     }
     Q_UNREACHABLE();
 }
@@ -26,11 +31,16 @@ std::optional<BridgeChoice> bridgeChoiceFromRawValue(QStringView raw)
 QString displayName(BridgeChoice choice)
 {
     switch (choice) {
-    case BridgeChoice::off: return QStringLiteral("Off");
-    case BridgeChoice::obfs4: return QStringLiteral("obfs4");
-    case BridgeChoice::snowflake: return QStringLiteral("Snowflake");
-    case BridgeChoice::meek: return QStringLiteral("meek");
-    case BridgeChoice::custom: return QStringLiteral("Custom");
+    case BridgeChoice::off:
+        return QStringLiteral("Off");
+    case BridgeChoice::obfs4:
+        return QStringLiteral("obfs4");
+    case BridgeChoice::snowflake:
+        return QStringLiteral("Snowflake");
+    case BridgeChoice::meek:
+        return QStringLiteral("meek");
+    case BridgeChoice::custom:
+        return QStringLiteral("Custom");
     }
     Q_UNREACHABLE();
 }
@@ -38,12 +48,15 @@ QString displayName(BridgeChoice choice)
 QStringList builtinKeys(BridgeChoice choice)
 {
     switch (choice) {
-    case BridgeChoice::obfs4: return {QStringLiteral("obfs4")};
-    case BridgeChoice::snowflake: return {QStringLiteral("snowflake")};
+    case BridgeChoice::obfs4:
+        return {QStringLiteral("obfs4")};
+    case BridgeChoice::snowflake:
+        return {QStringLiteral("snowflake")};
     case BridgeChoice::meek:
         return {QStringLiteral("meek_lite"), QStringLiteral("meek"), QStringLiteral("meek-azure")};
     case BridgeChoice::off:
-    case BridgeChoice::custom: return {};
+    case BridgeChoice::custom:
+        return {};
     }
     Q_UNREACHABLE();
 }

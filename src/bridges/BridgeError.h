@@ -17,7 +17,7 @@ public:
     friend bool operator==(const BridgeError &, const BridgeError &) = default;
 
 private:
-    explicit BridgeError(Text text) : m_text(std::move(text)) {}
+    explicit BridgeError(Text text) : m_text(std::move(text)) { }
     Text m_text;
 };
 

@@ -173,14 +173,15 @@ Result<QStringList, BridgeError> custom(QStringView text)
 {
     ParsedBridgeLines parsed = parse(text);
     if (!parsed.invalid.isEmpty())
-        return Failure(BridgeError::unavailable(Text::tr(
-            "Some custom bridge lines aren't valid. Fix them under Bridges → Custom….")));
+        return Failure(BridgeError::unavailable(
+            Text::tr("Some custom bridge lines aren't valid. Fix them under Bridges → Custom….")));
     if (!parsed.surplusLineNumbers.empty())
         return Failure(BridgeError::unavailable(
-            Text::tr("At most %1 custom bridges can be used. Remove some under Bridges → Custom….").arg(mostLines)));
+            Text::tr("At most %1 custom bridges can be used. Remove some under Bridges → Custom….")
+                .arg(mostLines)));
     if (parsed.lines.isEmpty())
-        return Failure(BridgeError::unavailable(
-            Text::tr("Add at least one bridge under Bridges → Custom….")));
+        return Failure(
+            BridgeError::unavailable(Text::tr("Add at least one bridge under Bridges → Custom….")));
     return std::move(parsed.lines);
 }
 

@@ -13,14 +13,16 @@ const QString webtunnel = QStringLiteral("webtunnel");
 
 bool usesSnowflake(const QStringList &lines)
 {
-    return std::any_of(lines.begin(), lines.end(),
-                       [](const QString &line) { return BridgeLines::transport(line) == snowflake; });
+    return std::any_of(lines.begin(), lines.end(), [](const QString &line) {
+        return BridgeLines::transport(line) == snowflake;
+    });
 }
 
 bool holdsAll(const QStringList &lines, const QStringList &some)
 {
-    return !some.isEmpty()
-        && std::all_of(some.begin(), some.end(), [&lines](const QString &line) { return lines.contains(line); });
+    return !some.isEmpty() && std::all_of(some.begin(), some.end(), [&lines](const QString &line) {
+        return lines.contains(line);
+    });
 }
 } // namespace
 

@@ -20,7 +20,7 @@ namespace veldmark {
 // What the user has selected, as the settings hold it.
 struct BridgeRequest {
     BridgeChoice choice = BridgeChoice::off;
-    QString customBridges;     // as typed
+    QString customBridges;      // as typed
     bool optimizeSpeed = false; // keep only the fastest
     // A kill switch stands: it would refuse the probes, so none is made.
     bool isBlocked = false;

@@ -56,7 +56,8 @@ std::optional<QByteArray> listing(const QString &tar, const QString &option, con
     QProcessEnvironment environment;
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
     environment.insert(QStringLiteral("PATH"), QStringLiteral("/usr/bin:/bin")); // tar starts gzip
-    return childOutput(tar, {QStringLiteral("--numeric-owner"), option, archive}, environment, listingLimits);
+    return childOutput(tar, {QStringLiteral("--numeric-owner"), option, archive}, environment,
+                       listingLimits);
 }
 
 std::optional<Text> entryProblem(const fs::directory_entry &entry)

@@ -37,7 +37,7 @@ QString lastSystemError()
 // Whether something has this name, be it a link to nowhere.
 bool isThere(const QString &path)
 {
-    struct stat status {};
+    struct stat status { };
     return ::lstat(QFile::encodeName(path).constData(), &status) == 0;
 }
 
@@ -60,7 +60,8 @@ bool wrote(const QString &path, const QString &text)
 void writeThrough(const QString &folder)
 {
 #ifdef Q_OS_LINUX
-    const int fd = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int fd = ::open(QFile::encodeName(folder).constData(),
+                          O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (fd >= 0) {
         ::syncfs(fd);
         ::close(fd);
@@ -76,7 +77,7 @@ void writeThrough(const QString &folder)
 void removeTree(const QString &path)
 {
     const QByteArray name = QFile::encodeName(path);
-    struct stat status {};
+    struct stat status { };
     if (::lstat(name.constData(), &status) != 0)
         return;
     if (!S_ISDIR(status.st_mode)) {
@@ -84,8 +85,8 @@ void removeTree(const QString &path)
         return;
     }
     ::chmod(name.constData(), 0700);
-    const QStringList entries =
-        QDir(path).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    const QStringList entries = QDir(path).entryList(QDir::AllEntries | QDir::Hidden | QDir::System
+                                                     | QDir::NoDotAndDotDot);
     for (const QString &entry : entries)
         removeTree(path + u'/' + entry);
     ::rmdir(name.constData());
@@ -93,7 +94,8 @@ void removeTree(const QString &path)
 
 BundleRecord BundleRecord::read(const QString &folder)
 {
-    return {textOf(folder + QStringLiteral("/VERSION")), textOf(folder + QStringLiteral("/VERIFIED")),
+    return {textOf(folder + QStringLiteral("/VERSION")),
+            textOf(folder + QStringLiteral("/VERIFIED")),
             textOf(folder + QStringLiteral("/SIGNED"))};
 }
 
@@ -102,14 +104,17 @@ bool BundleFolder::exchange(const QString &one, const QString &other)
     const QByteArray first = QFile::encodeName(one);
     const QByteArray second = QFile::encodeName(other);
 #ifdef Q_OS_LINUX
-    return ::renameat2(AT_FDCWD, first.constData(), AT_FDCWD, second.constData(), RENAME_EXCHANGE) == 0;
+    return ::renameat2(AT_FDCWD, first.constData(), AT_FDCWD, second.constData(), RENAME_EXCHANGE)
+        == 0;
 #else
     return ::renamex_np(first.constData(), second.constData(), RENAME_SWAP) == 0;
 #endif
 }
 
 BundleFolder::BundleFolder(QString folder, Exchange exchange, int lock)
-    : m_folder(std::move(folder)), m_exchange(std::move(exchange)), m_lock(lock)
+    : m_folder(std::move(folder)),
+      m_exchange(std::move(exchange)),
+      m_lock(lock)
 {
 }
 
@@ -118,13 +123,15 @@ BundleFolder::~BundleFolder()
     ::close(m_lock);
 }
 
-Result<std::shared_ptr<BundleFolder>, Text> BundleFolder::claim(const QString &folder, Exchange exchange)
+Result<std::shared_ptr<BundleFolder>, Text> BundleFolder::claim(const QString &folder,
+                                                                Exchange exchange)
 {
     const QFileInfo place(folder);
     const QString parent = place.absolutePath();
     if (!QDir().mkpath(parent))
         return Failure(Text::tr("Couldn't make the folder %1: %2.").arg(parent, lastSystemError()));
-    const QString lockFile = parent + QStringLiteral("/.") + place.fileName() + QStringLiteral(".lock");
+    const QString lockFile = parent + QStringLiteral("/.") + place.fileName()
+        + QStringLiteral(".lock");
     const int lock = ::open(QFile::encodeName(lockFile).constData(),
                             O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
     if (lock < 0)
@@ -143,9 +150,11 @@ Result<std::shared_ptr<BundleFolder>, Text> BundleFolder::claim(const QString &f
 
 void BundleFolder::note(const QString &temporary) const
 {
-    const QByteArray line = temporary.isEmpty() ? QByteArray() : QFile::encodeName(temporary) + '\n';
+    const QByteArray line = temporary.isEmpty() ? QByteArray()
+                                                : QFile::encodeName(temporary) + '\n';
     // A note that cannot be written costs at most a folder that is left in /tmp.
-    if (::ftruncate(m_lock, 0) == 0 && ::pwrite(m_lock, line.constData(), static_cast<size_t>(line.size()), 0) < 0)
+    if (::ftruncate(m_lock, 0) == 0
+        && ::pwrite(m_lock, line.constData(), static_cast<size_t>(line.size()), 0) < 0)
         qWarning("The temporary folder could not be noted");
 }
 
@@ -166,8 +175,9 @@ void BundleFolder::recover() const
 void BundleFolder::removeUnfinished() const
 {
     const QFileInfo pattern(beside(".new-"));
-    const QStringList names = QDir(pattern.path()).entryList(
-        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    const QStringList names = QDir(pattern.path())
+                                  .entryList(QDir::AllEntries | QDir::Hidden | QDir::System
+                                             | QDir::NoDotAndDotDot);
     for (const QString &name : names) {
         if (name.startsWith(pattern.fileName()))
             removeTree(pattern.path() + u'/' + name);
@@ -179,7 +189,8 @@ Result<QString, Text> BundleFolder::fresh()
     QByteArray name = QFile::encodeName(beside(".new-XXXXXX"));
     // Tor's own account runs programs from here, whatever this user's umask is.
     if (::mkdtemp(name.data()) == nullptr || ::chmod(name.constData(), 0755) != 0)
-        return Failure(Text::tr("Couldn't make a folder beside %1: %2.").arg(m_folder, lastSystemError()));
+        return Failure(
+            Text::tr("Couldn't make a folder beside %1: %2.").arg(m_folder, lastSystemError()));
     m_fresh = QFile::decodeName(name);
     return m_fresh;
 }
@@ -189,22 +200,26 @@ void BundleFolder::forgetOrigin() const
     removeTree(QFileInfo(SignedBundle::archiveBelow(m_fresh)).path());
 }
 
-void BundleFolder::keepOrigin(const QString &archive, const QString &signature, const QString &key) const
+void BundleFolder::keepOrigin(const QString &archive, const QString &signature,
+                              const QString &key) const
 {
     const QString kept = SignedBundle::archiveBelow(m_fresh);
     const QString place = QFileInfo(kept).path();
     forgetOrigin();
     const bool isKept = QFileInfo(archive).size() <= SignedBundle::archiveLimitBytes
-        && QFileInfo(key).size() <= SignedBundle::keyLimitBytes && QFileInfo(signature).size() <= SignedBundle::keyLimitBytes
+        && QFileInfo(key).size() <= SignedBundle::keyLimitBytes
+        && QFileInfo(signature).size() <= SignedBundle::keyLimitBytes
         && ::mkdir(QFile::encodeName(place).constData(), 0700) == 0 && QFile::copy(archive, kept)
-        && QFile::copy(signature, SignedBundle::signatureOf(kept)) && QFile::copy(key, SignedBundle::keyOf(kept));
+        && QFile::copy(signature, SignedBundle::signatureOf(kept))
+        && QFile::copy(key, SignedBundle::keyOf(kept));
     if (!isKept) { // then an administrator approves its programs
         forgetOrigin();
         qWarning("The archive of the bundle could not be kept");
     }
 }
 
-Result<void, Text> BundleFolder::publish(const QString &version, bool isVerified, qint64 signedAt) const
+Result<void, Text> BundleFolder::publish(const QString &version, bool isVerified,
+                                         qint64 signedAt) const
 {
     const QString folder = m_fresh;
     const QString former = beside(".old");
@@ -216,7 +231,8 @@ Result<void, Text> BundleFolder::publish(const QString &version, bool isVerified
                   isVerified ? QStringLiteral("signature") : QStringLiteral("https")))
         return failed();
     removeTree(folder + QStringLiteral("/SIGNED")); // not the archive's own
-    if (isVerified && signedAt > 0 && !wrote(folder + QStringLiteral("/SIGNED"), QString::number(signedAt)))
+    if (isVerified && signedAt > 0
+        && !wrote(folder + QStringLiteral("/SIGNED"), QString::number(signedAt)))
         return failed();
     writeThrough(folder);
 

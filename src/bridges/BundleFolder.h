@@ -13,7 +13,8 @@
 // one of the two stands there whole. Blocking; any thread, one at a time.
 namespace veldmark {
 
-// What stands in an installed bundle's small text files, trimmed; nothing when there is no such file.
+// What stands in an installed bundle's small text files, trimmed; nothing when there is no such
+// file.
 struct BundleRecord {
     std::optional<QString> version;
     std::optional<QString> verification; // "signature" or "https"
@@ -24,8 +25,8 @@ struct BundleRecord {
 
 // The right to change a bundle's folder; one at a time on this computer. Lets go when destroyed, or
 // when the process ends in whatever way. Beside `folder` it uses hidden names that begin like it:
-// .NAME.lock, .NAME.old and .NAME.new-ABCDEF; the last is another one each time, so that an unpacking
-// program that has outlived its killed parent cannot write into it.
+// .NAME.lock, .NAME.old and .NAME.new-ABCDEF; the last is another one each time, so that an
+// unpacking program that has outlived its killed parent cannot write into it.
 class BundleFolder {
 public:
     // Lets two folders change places in one step. False where the file system cannot.
@@ -34,8 +35,8 @@ public:
 
     // Takes the right and clears up what a process that was killed has left: puts back a bundle
     // that had been taken away, and removes unfinished ones. The error is a sentence.
-    static Result<std::shared_ptr<BundleFolder>, Text> claim(const QString &folder,
-                                                               Exchange exchange = &BundleFolder::exchange);
+    static Result<std::shared_ptr<BundleFolder>, Text> claim(
+        const QString &folder, Exchange exchange = &BundleFolder::exchange);
     ~BundleFolder();
     BundleFolder(const BundleFolder &) = delete;
     BundleFolder &operator=(const BundleFolder &) = delete;
@@ -49,15 +50,17 @@ public:
 
     // Makes an empty folder for a new bundle, on the same file system. Once.
     Result<QString, Text> fresh();
-    // Keeps copies of what the new bundle was unpacked from and of what vouches for it beside it, in a folder of the user's alone,
-    // for whoever verifies it again (SignedBundle); all three files or none. To be called after unpacking and before publish().
+    // Keeps copies of what the new bundle was unpacked from and of what vouches for it beside it,
+    // in a folder of the user's alone, for whoever verifies it again (SignedBundle); all three
+    // files or none. To be called after unpacking and before publish().
     void keepOrigin(const QString &archive, const QString &signature, const QString &key) const;
     // Instead: nothing of that name stays, were it the archive's own.
     void forgetOrigin() const;
     // Writes the new bundle's record, puts the new bundle where the old one was and removes the old
     // one. signedAt: of a verified one, in seconds since 1970.
     Result<void, Text> publish(const QString &version, bool isVerified, qint64 signedAt = 0) const;
-    // The version that the new bundle brings itself, before publish() notes one; nothing when it does not.
+    // The version that the new bundle brings itself, before publish() notes one; nothing when it
+    // does not.
     std::optional<QString> freshVersion() const;
     // Removes a new bundle that is not to be published.
     void discard() const;

@@ -29,7 +29,10 @@ QCoro::Task<void> stopAfter(Clock *clock, std::chrono::milliseconds limit, StopS
 } // namespace
 
 BundleTools::BundleTools(QString tar, QString gpg, ProcessRunner *runner, Clock &clock)
-    : m_runner(runner), m_clock(clock), m_tar(std::move(tar)), m_gpg(std::move(gpg))
+    : m_runner(runner),
+      m_clock(clock),
+      m_tar(std::move(tar)),
+      m_gpg(std::move(gpg))
 {
 }
 
@@ -40,8 +43,8 @@ void BundleTools::cancel()
 }
 
 QCoro::Task<BundleTools::Run> BundleTools::run(std::shared_ptr<BundleTools> tools, QString program,
-                                               QStringList arguments, std::chrono::milliseconds limit,
-                                               StopSource current)
+                                               QStringList arguments,
+                                               std::chrono::milliseconds limit, StopSource current)
 {
     if (!tools->m_runner)
         co_return Failure(DownloadError::cancelled().description());
@@ -49,32 +52,42 @@ QCoro::Task<BundleTools::Run> BundleTools::run(std::shared_ptr<BundleTools> tool
     auto running = tools->m_runner->runUntil(program, arguments, current.get_token());
     const auto ended = co_await running;
     if (current.stop_requested())
-        co_return Failure(Text::tr("%1 didn't end within %2 minutes.")
-                              .arg(QFileInfo(program).fileName())
-                              .arg(std::chrono::duration_cast<std::chrono::minutes>(limit).count()));
+        co_return Failure(
+            Text::tr("%1 didn't end within %2 minutes.")
+                .arg(QFileInfo(program).fileName())
+                .arg(std::chrono::duration_cast<std::chrono::minutes>(limit).count()));
     if (!ended)
         co_return Failure(ended.error().description());
     co_return *ended;
 }
 
-QCoro::Task<Result<qint64, DownloadError>> BundleTools::verify(std::shared_ptr<BundleTools> tools, QString home, QString key,
-                                                               QString signature, QString archive, QString fingerprint)
+QCoro::Task<Result<qint64, DownloadError>> BundleTools::verify(std::shared_ptr<BundleTools> tools,
+                                                               QString home, QString key,
+                                                               QString signature, QString archive,
+                                                               QString fingerprint)
 {
     if (tools->m_isCancelled)
         co_return Failure(DownloadError::cancelled());
-    const QStringList import = {QStringLiteral("--homedir"), home, QStringLiteral("--batch"),
-                                QStringLiteral("--quiet"), QStringLiteral("--import"), key};
+    const QStringList import = {QStringLiteral("--homedir"), home,
+                                QStringLiteral("--batch"),   QStringLiteral("--quiet"),
+                                QStringLiteral("--import"),  key};
     tools->m_current = StopSource();
     auto importing = run(tools, tools->m_gpg, import, gnupgLimit, tools->m_current);
     const Run imported = co_await importing;
     if (tools->m_isCancelled)
         co_return Failure(DownloadError::cancelled());
     if (!imported || imported->status != 0)
-        co_return Failure(DownloadError::badSignature(Text::tr("Couldn't load the Tor Browser signing key. %1").arg(said(imported))));
+        co_return Failure(DownloadError::badSignature(
+            Text::tr("Couldn't load the Tor Browser signing key. %1").arg(said(imported))));
 
-    const QStringList check = {QStringLiteral("--homedir"), home, QStringLiteral("--batch"),
-                               QStringLiteral("--status-fd"), QStringLiteral("1"), QStringLiteral("--verify"),
-                               signature, archive};
+    const QStringList check = {QStringLiteral("--homedir"),
+                               home,
+                               QStringLiteral("--batch"),
+                               QStringLiteral("--status-fd"),
+                               QStringLiteral("1"),
+                               QStringLiteral("--verify"),
+                               signature,
+                               archive};
     tools->m_current = StopSource();
     auto checking = run(tools, tools->m_gpg, check, gnupgLimit, tools->m_current);
     const Run checked = co_await checking;
@@ -88,12 +101,14 @@ QCoro::Task<Result<qint64, DownloadError>> BundleTools::verify(std::shared_ptr<B
     co_return *signedAt;
 }
 
-QCoro::Task<void> BundleTools::exportKey(std::shared_ptr<BundleTools> tools, QString home, QString fingerprint, QString file)
+QCoro::Task<void> BundleTools::exportKey(std::shared_ptr<BundleTools> tools, QString home,
+                                         QString fingerprint, QString file)
 {
     if (tools->m_isCancelled)
         co_return;
-    const QStringList words = {QStringLiteral("--homedir"), home, QStringLiteral("--batch"), QStringLiteral("--quiet"),
-                               QStringLiteral("--output"), file, QStringLiteral("--export"), fingerprint};
+    const QStringList words = {
+        QStringLiteral("--homedir"), home, QStringLiteral("--batch"),  QStringLiteral("--quiet"),
+        QStringLiteral("--output"),  file, QStringLiteral("--export"), fingerprint};
     tools->m_current = StopSource();
     auto exporting = run(tools, tools->m_gpg, words, gnupgLimit, tools->m_current);
     const Run exported = co_await exporting;
@@ -101,13 +116,19 @@ QCoro::Task<void> BundleTools::exportKey(std::shared_ptr<BundleTools> tools, QSt
         QFile::remove(file);
 }
 
-QCoro::Task<Done> BundleTools::unpack(std::shared_ptr<BundleTools> tools, QString archive, QString folder)
+QCoro::Task<Done> BundleTools::unpack(std::shared_ptr<BundleTools> tools, QString archive,
+                                      QString folder)
 {
     if (tools->m_isCancelled)
         co_return Failure(DownloadError::cancelled());
-    // A process that is root must not take the archive's owners over: they are somebody else's here.
-    const QStringList extract = {QStringLiteral("-xzf"), archive, QStringLiteral("-C"), folder,
-                                 QStringLiteral("--no-same-owner"), QStringLiteral("--no-same-permissions")};
+    // A process that is root must not take the archive's owners over: they are somebody else's
+    // here.
+    const QStringList extract = {QStringLiteral("-xzf"),
+                                 archive,
+                                 QStringLiteral("-C"),
+                                 folder,
+                                 QStringLiteral("--no-same-owner"),
+                                 QStringLiteral("--no-same-permissions")};
     tools->m_current = StopSource();
     auto extracting = run(tools, tools->m_tar, extract, unpackLimit, tools->m_current);
     const Run extracted = co_await extracting;
@@ -123,7 +144,8 @@ QCoro::Task<void> BundleTools::endAgent(std::shared_ptr<BundleTools> tools, QStr
     if (tools->m_gpg.isEmpty() || !tools->m_runner || !QFileInfo::exists(home))
         co_return;
     const QString gpgconf = QFileInfo(tools->m_gpg).absolutePath() + QStringLiteral("/gpgconf");
-    const QStringList kill = {QStringLiteral("--homedir"), home, QStringLiteral("--kill"), QStringLiteral("all")};
+    const QStringList kill = {QStringLiteral("--homedir"), home, QStringLiteral("--kill"),
+                              QStringLiteral("all")};
     const StopSource uncancelled;
     auto killing = run(tools, gpgconf, kill, gnupgLimit, uncancelled);
     const Run killed = co_await killing;

@@ -12,7 +12,8 @@ namespace veldmark {
 
 namespace {
 
-// QProcess waits for nothing else beside its child, so whether that is still wanted is looked at this often.
+// QProcess waits for nothing else beside its child, so whether that is still wanted is looked at
+// this often.
 constexpr int turnMilliseconds = 25;
 
 // Only while the child has not been waited for: until then its number cannot belong to another.
@@ -46,7 +47,8 @@ std::optional<QByteArray> childOutput(const QString &program, const QStringList 
 
     const auto remaining = [&deadline, &limits] {
         const qint64 left = deadline.remainingTime();
-        return static_cast<int>(limits.ended.stop_possible() ? std::min<qint64>(left, turnMilliseconds) : left);
+        return static_cast<int>(
+            limits.ended.stop_possible() ? std::min<qint64>(left, turnMilliseconds) : left);
     };
     QByteArray output;
     for (;;) {

@@ -22,13 +22,15 @@ DownloadError DownloadError::http(int status, const Text &item)
 
 DownloadError DownloadError::badVersion()
 {
-    return {Kind::badVersion, Text::tr("Couldn't read the latest Tor version from torproject.org.")};
+    return {Kind::badVersion,
+            Text::tr("Couldn't read the latest Tor version from torproject.org.")};
 }
 
 DownloadError DownloadError::badSignature(const Text &detail)
 {
     return {Kind::badSignature,
-            Text::tr("The download's signature didn't verify, so it was discarded. %1").arg(oneLine(detail))};
+            Text::tr("The download's signature didn't verify, so it was discarded. %1")
+                .arg(oneLine(detail))};
 }
 
 DownloadError DownloadError::extractFailed(const Text &detail)
@@ -38,14 +40,17 @@ DownloadError DownloadError::extractFailed(const Text &detail)
 
 DownloadError DownloadError::olderVersion(const QString &announced, const QString &installed)
 {
-    return {Kind::rollback, Text::tr("Version %1 is offered, which is older than the installed %2. Nothing was changed.")
-                                .arg(announced, oneLine(installed))};
+    return {Kind::rollback,
+            Text::tr(
+                "Version %1 is offered, which is older than the installed %2. Nothing was changed.")
+                .arg(announced, oneLine(installed))};
 }
 
 DownloadError DownloadError::otherContent(const QString &announced)
 {
-    return {Kind::rollback,
-            Text::tr("What came as version %1 is another one, so it was discarded.").arg(announced)};
+    return {
+        Kind::rollback,
+        Text::tr("What came as version %1 is another one, so it was discarded.").arg(announced)};
 }
 
 DownloadError DownloadError::cancelled()

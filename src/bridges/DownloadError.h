@@ -33,7 +33,9 @@ public:
     Text description() const { return m_description; }
 
 private:
-    DownloadError(Kind kind, Text description) : m_kind(kind), m_description(std::move(description)) {}
+    DownloadError(Kind kind, Text description) : m_kind(kind), m_description(std::move(description))
+    {
+    }
 
     Kind m_kind;
     Text m_description;

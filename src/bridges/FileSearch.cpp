@@ -39,8 +39,8 @@ QStringList filesNamed(const QString &root, const QByteArrayList &names, const S
             continue;
         // Only this thread reads from this stream.
         while (const dirent *entry = ::readdir(directory.get())) {
-            const auto name =
-                QByteArray::fromRawData(entry->d_name, qsizetype(qstrlen(entry->d_name)));
+            const auto name = QByteArray::fromRawData(entry->d_name,
+                                                      qsizetype(qstrlen(entry->d_name)));
             if (name == "." || name == "..")
                 continue;
             if (entry->d_type == DT_DIR

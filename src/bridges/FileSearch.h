@@ -13,6 +13,7 @@ namespace veldmark {
 // Hidden folders count; links to folders are not followed, links to files are found. Whatever
 // cannot be read is left out. Reads each folder once and looks at no other file than those named.
 // Goes into no more folders once `ended` says so.
-QStringList filesNamed(const QString &root, const QByteArrayList &names, const StopToken &ended = {});
+QStringList filesNamed(const QString &root, const QByteArrayList &names,
+                       const StopToken &ended = {});
 
 } // namespace veldmark

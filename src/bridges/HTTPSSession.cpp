@@ -28,7 +28,7 @@ using Outcome = Result<QByteArray, DownloadError>;
 // resumed through the event loop; so the reply is never deleted inside one of its own signals.
 class HTTPSSession::Exchange : public QObject {
 public:
-    Exchange(Clock &clock, Fetch what) : m_clock(clock), m_what(std::move(what)) {}
+    Exchange(Clock &clock, Fetch what) : m_clock(clock), m_what(std::move(what)) { }
     ~Exchange() override { end(DownloadError::cancelled()); }
 
     void start(QNetworkAccessManager &access, const QNetworkRequest &request)
@@ -36,7 +36,8 @@ public:
         noteActivity();
         if (!m_what.file.isEmpty()) {
             m_file.setFileName(m_what.file);
-            if (!m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner)) {
+            if (!m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly,
+                             QFile::ReadOwner | QFile::WriteOwner)) {
                 endUnwritten();
                 return;
             }
@@ -121,7 +122,8 @@ private:
 
     void endTooLong()
     {
-        end(DownloadError::other(Text::tr("The server sent more than %1 can be.").arg(m_what.item)));
+        end(DownloadError::other(
+            Text::tr("The server sent more than %1 can be.").arg(m_what.item)));
     }
 
     void endUnwritten()
@@ -150,12 +152,14 @@ private:
 };
 
 HTTPSSession::HTTPSSession(Clock &clock, std::optional<quint16> socksPort, QSslConfiguration tls)
-    : m_clock(clock), m_tls(std::move(tls))
+    : m_clock(clock),
+      m_tls(std::move(tls))
 {
     QNetworkProxy proxy(QNetworkProxy::NoProxy);
     if (socksPort) {
         proxy = QNetworkProxy(QNetworkProxy::Socks5Proxy, QStringLiteral("127.0.0.1"), *socksPort);
-        proxy.setCapabilities(QNetworkProxy::TunnelingCapability | QNetworkProxy::HostNameLookupCapability);
+        proxy.setCapabilities(QNetworkProxy::TunnelingCapability
+                              | QNetworkProxy::HostNameLookupCapability);
     }
     m_access.setProxy(proxy);
     m_access.setRedirectPolicy(QNetworkRequest::NoLessSafeRedirectPolicy);
@@ -194,8 +198,8 @@ QCoro::Task<void> HTTPSSession::watchLimits(std::weak_ptr<Exchange> watched, Clo
     }
 }
 
-QCoro::Task<Result<QByteArray, DownloadError>> HTTPSSession::fetch(std::shared_ptr<HTTPSSession> session,
-                                                                   Fetch what)
+QCoro::Task<Result<QByteArray, DownloadError>> HTTPSSession::fetch(
+    std::shared_ptr<HTTPSSession> session, Fetch what)
 {
     if (session->m_isCancelled)
         co_return Failure(DownloadError::cancelled());
@@ -203,7 +207,8 @@ QCoro::Task<Result<QByteArray, DownloadError>> HTTPSSession::fetch(std::shared_p
     request.setMaximumRedirectsAllowed(redirectLimit);
 
     const auto exchange = std::make_shared<Exchange>(session->m_clock, what);
-    QObject::connect(&session->m_cancelling, &QObject::objectNameChanged, exchange.get(), &Exchange::cancel);
+    QObject::connect(&session->m_cancelling, &QObject::objectNameChanged, exchange.get(),
+                     &Exchange::cancel);
     exchange->start(session->m_access, request);
     watchLimits(exchange, &session->m_clock);
     const ResumeOnce<Outcome> answer = exchange->answer();

@@ -18,8 +18,8 @@ namespace veldmark {
 
 // One thing to fetch.
 struct Fetch {
-    QUrl url;     // https
-    Text item;    // what it is, for the message about a failure
+    QUrl url;  // https
+    Text item; // what it is, for the message about a failure
     qint64 limitBytes = 0;
     QString file; // where it goes; empty: it is given back
     // Hears the bytes so far and in all (-1 when the server does not say). Optional.
@@ -39,8 +39,8 @@ public:
     ~HTTPSSession();
 
     // The body, empty when it went to a file. What a failed fetch has written stays there.
-    static QCoro::Task<Result<QByteArray, DownloadError>> fetch(std::shared_ptr<HTTPSSession> session,
-                                                                Fetch what);
+    static QCoro::Task<Result<QByteArray, DownloadError>> fetch(
+        std::shared_ptr<HTTPSSession> session, Fetch what);
     // Ends the fetch that is under way, and every later one at its start.
     void cancel();
 

@@ -37,8 +37,7 @@ bool isRootsOwn(const QString &program)
     return false;
 }
 
-template <typename Use>
-void forEachLine(QByteArrayView output, Use use)
+template <typename Use> void forEachLine(QByteArrayView output, Use use)
 {
     while (!output.isEmpty()) {
         const qsizetype end = output.indexOf('\n');
@@ -73,7 +72,8 @@ bool isAnnouncementComplete(QByteArrayView output)
 }
 
 std::optional<QStringList> answeredTransports(const QString &program, const QStringList &asked,
-                                              std::chrono::milliseconds limit, const StopToken &ended)
+                                              std::chrono::milliseconds limit,
+                                              const StopToken &ended)
 {
     if (::geteuid() == 0 && !isRootsOwn(program))
         return std::nullopt;
@@ -92,9 +92,9 @@ std::optional<QStringList> answeredTransports(const QString &program, const QStr
     set("TOR_PT_EXIT_ON_STDIN_CLOSE", QStringLiteral("1"));
     set("TOR_PT_CLIENT_TRANSPORTS", asked.join(u','));
 
-    const std::optional<QByteArray> output =
-        childOutput(program, {}, environment, {limit, outputLimitBytes, ended},
-                    [](const QByteArray &soFar) { return isAnnouncementComplete(soFar); });
+    const std::optional<QByteArray> output = childOutput(
+        program, {}, environment, {limit, outputLimitBytes, ended},
+        [](const QByteArray &soFar) { return isAnnouncementComplete(soFar); });
     if (!output || !isAnnouncementComplete(*output))
         return std::nullopt;
     QStringList served = announcedTransports(*output);

@@ -40,7 +40,8 @@ QByteArray readFile(const QString &path)
     return content.size() > configurationLimitBytes ? QByteArray() : content;
 }
 
-std::optional<QMap<QString, QStringList>> bridgesOfArchive(const QString &unzip, const QString &archive,
+std::optional<QMap<QString, QStringList>> bridgesOfArchive(const QString &unzip,
+                                                           const QString &archive,
                                                            const StopToken &ended)
 {
     // Options of unzip that the user has set for himself would change what it prints.
@@ -60,7 +61,10 @@ std::optional<QMap<QString, QStringList>> bridgesOfArchive(const QString &unzip,
 class Search {
 public:
     Search(QString unzip, StopToken ended, TransportMemory &memory, bool mayAsk)
-        : m_unzip(std::move(unzip)), m_ended(std::move(ended)), m_memory(memory), m_mayAsk(mayAsk)
+        : m_unzip(std::move(unzip)),
+          m_ended(std::move(ended)),
+          m_memory(memory),
+          m_mayAsk(mayAsk)
     {
     }
 
@@ -70,9 +74,9 @@ public:
         QStringList archives;
         QStringList configurations;
         bool hasLyrebird = false;
-        const QStringList files =
-            filesNamed(root, {"lyrebird", "snowflake-client", "webtunnel-client", "pt_config.json",
-                              "omni.ja"}, m_ended);
+        const QStringList files = filesNamed(
+            root, {"lyrebird", "snowflake-client", "webtunnel-client", "pt_config.json", "omni.ja"},
+            m_ended);
         for (const QString &path : files) {
             const QStringView name = QStringView(path).sliced(path.lastIndexOf(u'/') + 1);
             if (name == u"lyrebird" && isProgram(path)) {
@@ -102,7 +106,8 @@ public:
 
         for (const QString &archive : archives) {
             if (m_found.builtin.isEmpty())
-                m_found.builtin = m_memory.bridges(archive, [&] { return bridgesOfArchive(m_unzip, archive, m_ended); });
+                m_found.builtin = m_memory.bridges(
+                    archive, [&] { return bridgesOfArchive(m_unzip, archive, m_ended); });
         }
         if (wasEmpty && !m_found.builtin.isEmpty())
             m_found.source = label;
@@ -131,7 +136,9 @@ private:
     {
         std::function<std::optional<QStringList>()> ask;
         if (m_mayAsk)
-            ask = [&] { return answeredTransports(program, {snowflakeTransport}, lyrebirdLimit, m_ended); };
+            ask = [&] {
+                return answeredTransports(program, {snowflakeTransport}, lyrebirdLimit, m_ended);
+            };
         return m_memory.served(program, ask);
     }
 
@@ -159,9 +166,9 @@ private:
 
 const QSet<QString> &PluggableTransports::lyrebirdTransports()
 {
-    static const QSet<QString> transports = {
-        QStringLiteral("obfs4"), QStringLiteral("meek_lite"), QStringLiteral("webtunnel"),
-        QStringLiteral("obfs3"), QStringLiteral("scramblesuit")};
+    static const QSet<QString> transports = {QStringLiteral("obfs4"), QStringLiteral("meek_lite"),
+                                             QStringLiteral("webtunnel"), QStringLiteral("obfs3"),
+                                             QStringLiteral("scramblesuit")};
     return transports;
 }
 
@@ -192,8 +199,8 @@ PluggableTransports PluggableTransports::locate(const PlatformProfile &profile,
     TransportMemory none;
     Search search(profile.unzip, ended, memory ? *memory : none, mayAsk);
     for (const ProgramRoot &root : profile.transportRoots()) {
-        const bool hasVersion =
-            root.path == profile.bundleDirectory && bundleVersion && !bundleVersion->isEmpty();
+        const bool hasVersion = root.path == profile.bundleDirectory && bundleVersion
+            && !bundleVersion->isEmpty();
         search.scan(root.path, hasVersion ? root.label + u' ' + *bundleVersion : root.label);
     }
     search.searchFolders(profile.transportDirectories);

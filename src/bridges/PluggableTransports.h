@@ -36,8 +36,8 @@ struct PluggableTransports {
 
     // The built-in lines for `obfs4`, `snowflake` or `meek`, or the sentence that says where to get
     // some. The first key of builtinKeys() that holds any decides; of lines that a bundle files
-    // under another name than their transport's, those of that transport count. At most as many as can
-    // be used at once.
+    // under another name than their transport's, those of that transport count. At most as many as
+    // can be used at once.
     Result<QStringList, BridgeError> builtinLines(BridgeChoice choice) const;
 
     // Searches afresh. Never fails: what cannot be read is not found.
@@ -57,12 +57,12 @@ struct PluggableTransports {
     // bounded in time and output. Any thread but the one that draws; see TransportSearch. Once
     // `ended` says so it returns in a moment, and what it returns is worth nothing.
     //
-    // With a `memory`, archives and programs that it knows are not asked again. With `mayAsk` false no
-    // program is started: lyrebird counts for snowflake when its place or the memory says so.
+    // With a `memory`, archives and programs that it knows are not asked again. With `mayAsk` false
+    // no program is started: lyrebird counts for snowflake when its place or the memory says so.
     static PluggableTransports locate(const PlatformProfile &profile,
                                       std::optional<QString> bundleVersion = std::nullopt,
-                                      const StopToken &ended = {}, TransportMemory *memory = nullptr,
-                                      bool mayAsk = true);
+                                      const StopToken &ended = {},
+                                      TransportMemory *memory = nullptr, bool mayAsk = true);
 
     friend bool operator==(const PluggableTransports &, const PluggableTransports &) = default;
 };

@@ -18,8 +18,8 @@ std::optional<QString> latestVersion(const QByteArray &json)
 {
     static const QRegularExpression pattern(
         QRegularExpression::anchoredPattern(QStringLiteral("[0-9]+(\\.[0-9]+)*[a-z0-9]*")));
-    const QString version =
-        QJsonDocument::fromJson(json).object().value(QStringLiteral("version")).toString();
+    const QString version
+        = QJsonDocument::fromJson(json).object().value(QStringLiteral("version")).toString();
     if (version.size() > versionLimit || !pattern.match(version).hasMatch())
         return std::nullopt;
     return version;
@@ -28,7 +28,8 @@ std::optional<QString> latestVersion(const QByteArray &json)
 bool isOlderVersion(const QString &version, const QString &other)
 {
     // Groups of digits, then what is left: nothing for a release.
-    static const QRegularExpression parts(QStringLiteral("^([0-9]+(?:\\.[0-9]+)*)([a-z]*)([0-9]*)"));
+    static const QRegularExpression parts(
+        QStringLiteral("^([0-9]+(?:\\.[0-9]+)*)([a-z]*)([0-9]*)"));
     const auto one = parts.match(version);
     const auto two = parts.match(other);
     if (!one.hasMatch() || !two.hasMatch())
@@ -79,7 +80,8 @@ Text progressText(qint64 receivedBytes, qint64 totalBytes)
         return Text::tr("%1 MB").arg(megabytes(receivedBytes));
     const qint64 percent = std::min(receivedBytes, totalBytes) * 100 / totalBytes;
     return Text::tr("%1 of %2 MB (%3%)")
-        .arg(megabytes(receivedBytes), megabytes(totalBytes)).arg(percent);
+        .arg(megabytes(receivedBytes), megabytes(totalBytes))
+        .arg(percent);
 }
 
 } // namespace veldmark

@@ -47,8 +47,8 @@ FastestSelection fastestSelection(const QStringList &lines,
         if (!std::binary_search(candidates.begin(), candidates.end(), i))
             selection.lines.append(lines[i]);
     }
-    selection.status = Text::tr("Using the %1 fastest of %2 bridges")
-                           .arg(answers.size()).arg(candidates.size());
+    selection.status
+        = Text::tr("Using the %1 fastest of %2 bridges").arg(answers.size()).arg(candidates.size());
     return selection;
 }
 

@@ -33,8 +33,7 @@ constexpr qint64 signatureLimitBytes = 256 * 1024;
 constexpr qint64 archiveLimitBytes = 256 * 1024 * 1024;
 
 // Runs what blocks on a thread of the pool.
-template <typename T>
-QCoro::Task<T> elsewhere(std::function<T()> work)
+template <typename T> QCoro::Task<T> elsewhere(std::function<T()> work)
 {
     const ResumeOnce<T> done;
     QThreadPool::globalInstance()->start([done, work] { done.complete(work()); });
@@ -52,8 +51,9 @@ bool isTemporaryName(const QString &path)
 {
     static const QRegularExpression pattern(
         QRegularExpression::anchoredPattern(QStringLiteral("/tmp/vmk-[0-9a-f-]{36}")));
-    struct stat status {};
-    return pattern.match(path).hasMatch() && ::lstat(QFile::encodeName(path).constData(), &status) == 0
+    struct stat status { };
+    return pattern.match(path).hasMatch()
+        && ::lstat(QFile::encodeName(path).constData(), &status) == 0
         && status.st_uid == ::geteuid();
 }
 
@@ -72,7 +72,8 @@ bool makePrivateFolder(const QString &path)
 class DownloadLine {
 public:
     DownloadLine(Text line, TransportDownloader::Progress progress)
-        : m_line(std::move(line)), m_progress(std::move(progress))
+        : m_line(std::move(line)),
+          m_progress(std::move(progress))
     {
     }
 
@@ -123,7 +124,8 @@ QString DownloadSource::signingKeyFingerprint()
 
 DownloadSource DownloadSource::torProject(const QString &fingerprint)
 {
-    return {QUrl(QStringLiteral("https://aus1.torproject.org/torbrowser/update_3/release/downloads.json")),
+    return {QUrl(QStringLiteral(
+                "https://aus1.torproject.org/torbrowser/update_3/release/downloads.json")),
             QUrl(QStringLiteral("https://dist.torproject.org/torbrowser/")),
             QUrl(QStringLiteral("https://keys.openpgp.org/vks/v1/by-fingerprint/") + fingerprint),
             fingerprint};
@@ -134,9 +136,10 @@ QUrl DownloadSource::archiveURL(const QString &version, const QString &archiveNa
     return QUrl(distributionURL.toString() + version + u'/' + archiveName);
 }
 
-TransportDownloader::TransportDownloader(PlatformProfile profile, ProcessRunner &runner, Clock &clock,
-                                         DownloadSource source)
-    : m_means(std::make_shared<Means>(Means{std::move(profile), &runner, &clock, std::move(source), {}, {}, false, false}))
+TransportDownloader::TransportDownloader(PlatformProfile profile, ProcessRunner &runner,
+                                         Clock &clock, DownloadSource source)
+    : m_means(std::make_shared<Means>(
+        Means{std::move(profile), &runner, &clock, std::move(source), {}, {}, false, false}))
 {
     // Puts a bundle back that an installation, killed in between its two steps, had taken away.
     if (!QFileInfo::exists(m_means->profile.bundleDirectory)
@@ -181,13 +184,15 @@ std::optional<QString> TransportDownloader::gpgPath(const PlatformProfile &profi
     return std::nullopt;
 }
 
-QCoro::Task<TransportDownloader::Outcome> TransportDownloader::install(bool throughTor, Progress progress)
+QCoro::Task<TransportDownloader::Outcome> TransportDownloader::install(bool throughTor,
+                                                                       Progress progress)
 {
     return run(m_means, throughTor, std::move(progress));
 }
 
-QCoro::Task<TransportDownloader::Outcome>
-TransportDownloader::run(std::shared_ptr<Means> means, bool throughTor, Progress progress)
+QCoro::Task<TransportDownloader::Outcome> TransportDownloader::run(std::shared_ptr<Means> means,
+                                                                   bool throughTor,
+                                                                   Progress progress)
 {
     if (means->isBusy)
         co_return Failure(DownloadError::other(Text::tr("Another download is under way.")));
@@ -211,9 +216,9 @@ TransportDownloader::run(std::shared_ptr<Means> means, bool throughTor, Progress
     job->folder = *folder;
     job->temporary = newTemporaryName();
     job->report = std::move(progress);
-    job->tools = std::make_shared<BundleTools>(means->profile.places.root + QStringLiteral("/usr/bin/tar"),
-                                               gpgPath(means->profile).value_or(QString()), means->runner,
-                                               *means->clock);
+    job->tools = std::make_shared<BundleTools>(
+        means->profile.places.root + QStringLiteral("/usr/bin/tar"),
+        gpgPath(means->profile).value_or(QString()), means->runner, *means->clock);
     means->tools = job->tools;
     if (means->isCancelled)
         job->tools->cancel();
@@ -222,7 +227,8 @@ TransportDownloader::run(std::shared_ptr<Means> means, bool throughTor, Progress
         co_await clearing;
     }
     job->folder->note(job->temporary);
-    const std::optional<quint16> proxy = throughTor ? std::optional(means->source.socksPort) : std::nullopt;
+    const std::optional<quint16> proxy = throughTor ? std::optional(means->source.socksPort)
+                                                    : std::nullopt;
 
     Outcome outcome = Failure(DownloadError::cancelled());
     if (means->runner && !means->isCancelled) {
@@ -261,11 +267,11 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_
         co_return Failure(DownloadError::olderVersion(*version, *former.version));
 
     if (!makePrivateFolder(job->temporary))
-        co_return Failure(DownloadError::other(
-            Text::tr("Couldn't make the folder %1: %2.").arg(job->temporary, qt_error_string(errno))));
+        co_return Failure(DownloadError::other(Text::tr("Couldn't make the folder %1: %2.")
+                                                   .arg(job->temporary, qt_error_string(errno))));
     const QString archive = job->at("archive.tar.gz");
-    const QUrl archiveURL =
-        source.archiveURL(*version, means->profile.bundleArchivePrefix + *version + QStringLiteral(".tar.gz"));
+    const QUrl archiveURL = source.archiveURL(
+        *version, means->profile.bundleArchivePrefix + *version + QStringLiteral(".tar.gz"));
     const Text line = Text::tr("Downloading Tor %1 bridge programs…").arg(*version);
     job->report(line);
     const Fetch large{archiveURL, Text::tr("the bridge programs"), archiveLimitBytes, archive,
@@ -304,8 +310,9 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_
     const InstalledBundle bundle{*version, hasGnuPG};
     using Published = Result<void, Text>;
     const bool isKept = hasGnuPG && SignedBundle::isOfUse(means->profile);
-    const std::function<Published()> publish = [folder = job->folder, bundle, signedAt, isKept, archive,
-                                                signature = job->at("archive.tar.gz.asc"), key = job->at("key.gpg")] {
+    const std::function<Published()> publish = [folder = job->folder, bundle, signedAt, isKept,
+                                                archive, signature = job->at("archive.tar.gz.asc"),
+                                                key = job->at("key.gpg")] {
         if (isKept)
             folder->keepOrigin(archive, signature, key);
         else
@@ -319,7 +326,8 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_
     co_return bundle;
 }
 
-QCoro::Task<Result<qint64, DownloadError>> TransportDownloader::verify(std::shared_ptr<Job> job, QString archive,
+QCoro::Task<Result<qint64, DownloadError>> TransportDownloader::verify(std::shared_ptr<Job> job,
+                                                                       QString archive,
                                                                        QUrl archiveURL)
 {
     const std::shared_ptr<Means> means = job->means;
@@ -343,10 +351,12 @@ QCoro::Task<Result<qint64, DownloadError>> TransportDownloader::verify(std::shar
     if (!makePrivateFolder(home))
         co_return Failure(DownloadError::other(
             Text::tr("Couldn't make the folder %1: %2.").arg(home, qt_error_string(errno))));
-    auto verifying = BundleTools::verify(job->tools, home, key, signature, archive, means->source.fingerprint);
+    auto verifying = BundleTools::verify(job->tools, home, key, signature, archive,
+                                         means->source.fingerprint);
     const Result<qint64, DownloadError> verified = co_await verifying;
     if (verified && SignedBundle::isOfUse(means->profile)) {
-        auto exporting = BundleTools::exportKey(job->tools, home, means->source.fingerprint, job->at("key.gpg"));
+        auto exporting = BundleTools::exportKey(job->tools, home, means->source.fingerprint,
+                                                job->at("key.gpg"));
         co_await exporting;
     }
     co_return verified;
@@ -355,7 +365,9 @@ QCoro::Task<Result<qint64, DownloadError>> TransportDownloader::verify(std::shar
 QCoro::Task<Done> TransportDownloader::unpack(std::shared_ptr<Job> job, QString archive)
 {
     using Problem = std::optional<Text>;
-    const std::function<Problem()> look = [tar = job->tools->tar(), archive] { return archiveProblem(tar, archive); };
+    const std::function<Problem()> look = [tar = job->tools->tar(), archive] {
+        return archiveProblem(tar, archive);
+    };
     auto looking = elsewhere<Problem>(look);
     const Problem hostile = co_await looking;
     if (hostile)
@@ -369,7 +381,9 @@ QCoro::Task<Done> TransportDownloader::unpack(std::shared_ptr<Job> job, QString 
     if (!extracted)
         co_return Failure(extracted.error());
 
-    const std::function<Problem()> settle = [unpacked = *folder] { return settleUnpacked(unpacked); };
+    const std::function<Problem()> settle = [unpacked = *folder] {
+        return settleUnpacked(unpacked);
+    };
     auto settling = elsewhere<Problem>(settle);
     const Problem odd = co_await settling;
     if (odd)

@@ -42,11 +42,11 @@ struct InstalledBundle {
     bool isVerified = false; // by its signature, not by HTTPS alone
 };
 
-// Fetches the Tor Project's current Tor Expert Bundle, checks its signature when GnuPG is there, and
-// installs it where PluggableTransports looks for it. The bundle that was there stays usable until
-// the new one stands in its place, whatever happens in between. It is never replaced by an older one: neither
-// one whose version is older, nor one that was signed before it, nor one that says itself that it is another
-// version than was announced.
+// Fetches the Tor Project's current Tor Expert Bundle, checks its signature when GnuPG is there,
+// and installs it where PluggableTransports looks for it. The bundle that was there stays usable
+// until the new one stands in its place, whatever happens in between. It is never replaced by an
+// older one: neither one whose version is older, nor one that was signed before it, nor one that
+// says itself that it is another version than was announced.
 //
 // Lives on the thread that owns the event loop. Whatever blocks is done on threads of the global
 // pool. Destroying it cancels what is under way.
@@ -80,11 +80,13 @@ public:
 private:
     struct Means;
     struct Job;
-    static QCoro::Task<Outcome> run(std::shared_ptr<Means> means, bool throughTor, Progress progress);
+    static QCoro::Task<Outcome> run(std::shared_ptr<Means> means, bool throughTor,
+                                    Progress progress);
     static QCoro::Task<Outcome> fill(std::shared_ptr<Job> job);
-    static QCoro::Task<Result<qint64, DownloadError>> verify(std::shared_ptr<Job> job, QString archive,
-                                                             QUrl archiveURL);
-    static QCoro::Task<Result<void, DownloadError>> unpack(std::shared_ptr<Job> job, QString archive);
+    static QCoro::Task<Result<qint64, DownloadError>> verify(std::shared_ptr<Job> job,
+                                                             QString archive, QUrl archiveURL);
+    static QCoro::Task<Result<void, DownloadError>> unpack(std::shared_ptr<Job> job,
+                                                           QString archive);
     static QCoro::Task<void> clearUp(std::shared_ptr<Job> job, QString temporary);
 
     std::shared_ptr<Means> m_means;

@@ -39,8 +39,8 @@ QMap<QString, QStringList> bridgesOfTransportConfiguration(const QByteArray &jso
 QStringList transportsOfPluginLines(const QByteArray &json, const QString &programName)
 {
     QStringList transports;
-    const QJsonObject lines =
-        QJsonDocument::fromJson(json).object().value(u"pluggableTransports").toObject();
+    const QJsonObject lines
+        = QJsonDocument::fromJson(json).object().value(u"pluggableTransports").toObject();
     for (const QJsonValue &value : lines) {
         const QStringList words = value.toString().simplified().split(u' ');
         if (words.size() < 4 || words[0] != u"ClientTransportPlugin" || words[2] != u"exec")

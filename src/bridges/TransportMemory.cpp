@@ -38,7 +38,8 @@ std::optional<Answer> TransportMemory::Store<Answer>::look(const QString &path, 
 }
 
 template <typename Answer>
-Answer TransportMemory::Store<Answer>::find(const QString &path, const std::function<std::optional<Answer>()> &ask)
+Answer TransportMemory::Store<Answer>::find(const QString &path,
+                                            const std::function<std::optional<Answer>()> &ask)
 {
     // Taken before the file is asked: one that is replaced meanwhile is asked again.
     const std::optional<Stamp> stamp = stampOf(path);
@@ -59,13 +60,14 @@ Answer TransportMemory::Store<Answer>::find(const QString &path, const std::func
     return *answer;
 }
 
-TransportMemory::Bridges TransportMemory::bridges(const QString &archive,
-                                                  const std::function<std::optional<Bridges>()> &read)
+TransportMemory::Bridges TransportMemory::bridges(
+    const QString &archive, const std::function<std::optional<Bridges>()> &read)
 {
     return m_archives.find(archive, read);
 }
 
-QStringList TransportMemory::served(const QString &program, const std::function<std::optional<QStringList>()> &ask)
+QStringList TransportMemory::served(const QString &program,
+                                    const std::function<std::optional<QStringList>()> &ask)
 {
     return m_programs.find(program, ask);
 }

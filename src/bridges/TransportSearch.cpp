@@ -4,10 +4,7 @@
 
 namespace veldmark {
 
-TransportSearch::TransportSearch(PlatformProfile profile)
-    : m_profile(std::move(profile))
-{
-}
+TransportSearch::TransportSearch(PlatformProfile profile) : m_profile(std::move(profile)) { }
 
 TransportSearch::~TransportSearch()
 {
@@ -24,23 +21,26 @@ QCoro::Task<PluggableTransports> TransportSearch::locate(std::optional<QString> 
     return search(std::move(bundleVersion), true);
 }
 
-QCoro::Task<PluggableTransports> TransportSearch::locateWithoutAsking(std::optional<QString> bundleVersion)
+QCoro::Task<PluggableTransports> TransportSearch::locateWithoutAsking(
+    std::optional<QString> bundleVersion)
 {
     return search(std::move(bundleVersion), false);
 }
 
-QCoro::Task<PluggableTransports> TransportSearch::search(std::optional<QString> bundleVersion, bool mayAsk)
+QCoro::Task<PluggableTransports> TransportSearch::search(std::optional<QString> bundleVersion,
+                                                         bool mayAsk)
 {
     const ResumeOnce<PluggableTransports> found;
     const std::shared_ptr<Waits> waits = m_waits;
     const auto wait = waits->insert(waits->end(), found);
     QThreadPool *const pool = QThreadPool::globalInstance();
-    pool->start([found, profile = m_profile, version = std::move(bundleVersion), ended = m_ended.get_token(),
-                 memory = m_memory, mayAsk, pool] {
+    pool->start([found, profile = m_profile, version = std::move(bundleVersion),
+                 ended = m_ended.get_token(), memory = m_memory, mayAsk, pool] {
         // One that waits for a program takes no thread from those that do not.
         if (mayAsk)
             pool->releaseThread();
-        const PluggableTransports transports = PluggableTransports::locate(profile, version, ended, memory.get(), mayAsk);
+        const PluggableTransports transports = PluggableTransports::locate(profile, version, ended,
+                                                                           memory.get(), mayAsk);
         if (mayAsk)
             pool->reserveThread();
         found.complete(transports);

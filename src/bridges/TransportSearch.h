@@ -24,12 +24,13 @@ public:
     ~TransportSearch();
     Q_DISABLE_COPY_MOVE(TransportSearch)
 
-    // PluggableTransports::locate(), which remembers what files and programs have answered. Several may
-    // be under way at once. Resumes the caller on its own thread.
+    // PluggableTransports::locate(), which remembers what files and programs have answered. Several
+    // may be under way at once. Resumes the caller on its own thread.
     QCoro::Task<PluggableTransports> locate(std::optional<QString> bundleVersion = std::nullopt);
-    // The same without starting a lyrebird that has not been asked yet. Never waits for one that is being
-    // asked.
-    QCoro::Task<PluggableTransports> locateWithoutAsking(std::optional<QString> bundleVersion = std::nullopt);
+    // The same without starting a lyrebird that has not been asked yet. Never waits for one that is
+    // being asked.
+    QCoro::Task<PluggableTransports> locateWithoutAsking(std::optional<QString> bundleVersion
+                                                         = std::nullopt);
 
 private:
     using Waits = std::list<ResumeOnce<PluggableTransports>>;
@@ -37,9 +38,11 @@ private:
     QCoro::Task<PluggableTransports> search(std::optional<QString> bundleVersion, bool mayAsk);
 
     const PlatformProfile m_profile;
-    const std::shared_ptr<TransportMemory> m_memory = std::make_shared<TransportMemory>(); // outlives this in searches
+    // outlives this in searches
+    const std::shared_ptr<TransportMemory> m_memory = std::make_shared<TransportMemory>();
     StopSource m_ended;
-    const std::shared_ptr<Waits> m_waits = std::make_shared<Waits>(); // outlives this in those who wait
+    // outlives this in those who wait
+    const std::shared_ptr<Waits> m_waits = std::make_shared<Waits>();
 };
 
 } // namespace veldmark

@@ -56,7 +56,8 @@ std::vector<DNSResolver> parse(QStringView text)
             inResolver = true;
             resolvers.emplace_back().scoped = scoped;
         } else if (const qsizetype colon = line.indexOf(u':'); inResolver && colon >= 0) {
-            readLine(line.first(colon).trimmed(), line.sliced(colon + 1).trimmed(), resolvers.back());
+            readLine(line.first(colon).trimmed(), line.sliced(colon + 1).trimmed(),
+                     resolvers.back());
         }
     }
     return resolvers;
@@ -70,7 +71,8 @@ std::vector<DNSResolver> leaks(const std::vector<DNSResolver> &resolvers)
         if (resolver.isMDNS || (resolver.domain && isLocalOrReverse(*resolver.domain)))
             continue;
         DNSResolver leak = resolver;
-        leak.nameservers.removeIf([](const QString &server) { return torResolvers().contains(server); });
+        leak.nameservers.removeIf(
+            [](const QString &server) { return torResolvers().contains(server); });
         if (leak.nameservers.isEmpty() || summaries.contains(leak.summary()))
             continue;
         summaries.insert(leak.summary());
@@ -98,9 +100,11 @@ DNSStatus statusAfter(const std::vector<DNSResolver> &leaks, const std::optional
 Text stillLeakingText(const QStringList &summaries, bool isBlocked)
 {
     const Text text = isBlocked
-        ? Text::tr("Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around "
-                   "Tor: %1. Strict mode's firewall blocks them.")
-        : Text::tr("Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around Tor: %1.");
+        ? Text::tr(
+            "Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around "
+            "Tor: %1. Strict mode's firewall blocks them.")
+        : Text::tr(
+            "Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around Tor: %1.");
     return text.arg(summaries.join(QStringLiteral("; ")));
 }
 

@@ -19,8 +19,8 @@ const QStringList &torResolvers();
 // Reads what `scutil --dns` prints. Both of its sections, in their order.
 std::vector<DNSResolver> parse(QStringView text);
 
-// The resolvers that can carry look-ups around Tor, reduced to their name servers that are not Tor's.
-// Local link names and reverse look-ups are no leak. Equal summaries are reported once.
+// The resolvers that can carry look-ups around Tor, reduced to their name servers that are not
+// Tor's. Local link names and reverse look-ups are no leak. Equal summaries are reported once.
 std::vector<DNSResolver> leaks(const std::vector<DNSResolver> &resolvers);
 
 // The status after a check: leaks in the settings come first, then the result of this check's live
@@ -45,13 +45,13 @@ QCoro::Task<bool> lookup(Clock &clock, QString host, std::chrono::milliseconds t
 
 // What the live test needs: `lookup` with a clock, and Tor's control port.
 using Lookup = std::function<QCoro::Task<bool>(QString host, std::chrono::milliseconds timeout)>;
-// Runs `work` while Tor reports the names that it is asked to resolve, for at most `duration`; gives
-// back these names, or nothing when Tor could not be listened to.
+// Runs `work` while Tor reports the names that it is asked to resolve, for at most `duration`;
+// gives back these names, or nothing when Tor could not be listened to.
 using CaptureResolves = std::function<QCoro::Task<std::optional<QStringList>>(
     std::chrono::milliseconds duration, std::function<QCoro::Task<void>()> work)>;
 
-// Looks up a fresh name and asks whether Tor saw exactly that: `throughTor` or `unverified`. What the
-// look-up itself says does not matter. What the two refer to must live until the task ends.
+// Looks up a fresh name and asks whether Tor saw exactly that: `throughTor` or `unverified`. What
+// the look-up itself says does not matter. What the two refer to must live until the task ends.
 QCoro::Task<DNSStatus> liveTest(CaptureResolves capture, Lookup lookup);
 
 } // namespace veldmark::DNSCheck

@@ -13,8 +13,8 @@ struct DNSResolver {
     std::optional<QString> domain; // used only for names below it; absent: for every name
     QStringList nameservers;       // addresses in canonical form, with a port where it is unusual
     std::optional<QString> interface; // asked through this network interface
-    bool scoped = false;           // used only for requests bound to its interface
-    bool isMDNS = false;           // local link names; no server is asked
+    bool scoped = false;              // used only for requests bound to its interface
+    bool isMDNS = false;              // local link names; no server is asked
 
     // "10.0.0.53, 10.0.0.54 for *.corp.example on utun3".
     QString summary() const;

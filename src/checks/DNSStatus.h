@@ -37,7 +37,7 @@ public:
     friend bool operator==(const DNSStatus &, const DNSStatus &) = default;
 
 private:
-    DNSStatus(Kind kind, QStringList leaks) : m_kind(kind), m_leaks(std::move(leaks)) {}
+    DNSStatus(Kind kind, QStringList leaks) : m_kind(kind), m_leaks(std::move(leaks)) { }
 
     Kind m_kind = Kind::unknown;
     QStringList m_leaks;

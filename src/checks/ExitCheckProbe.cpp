@@ -16,7 +16,7 @@ namespace veldmark {
 namespace {
 
 struct Limits {
-    std::chrono::milliseconds idle;  // without anything arriving
+    std::chrono::milliseconds idle; // without anything arriving
     std::chrono::milliseconds total;
 };
 constexpr Limits torLimits{30s, 45s};
@@ -34,10 +34,7 @@ public:
         m_access.setAutoDeleteReplies(false);
     }
 
-    ~Exchange() override
-    {
-        end(ProbeError::Kind::cancelled, QStringLiteral("Cancelled."));
-    }
+    ~Exchange() override { end(ProbeError::Kind::cancelled, QStringLiteral("Cancelled.")); }
 
     void start(const QNetworkRequest &request)
     {
@@ -161,7 +158,10 @@ QCoro::Task<ProbeResult> fetch(Clock *clock, QObject *owner, QNetworkRequest req
 } // namespace
 
 ExitCheckProbe::ExitCheckProbe(Clock &clock, QUrl url, quint16 socksPort, QSslConfiguration tls)
-    : m_clock(clock), m_url(std::move(url)), m_socksPort(socksPort), m_tls(std::move(tls))
+    : m_clock(clock),
+      m_url(std::move(url)),
+      m_socksPort(socksPort),
+      m_tls(std::move(tls))
 {
     if (!m_url.isValid() || m_url.scheme() != u"https")
         qFatal("The exit-check URL is not usable");

@@ -9,9 +9,9 @@
 
 namespace veldmark {
 
-// The real probe: one HTTPS GET per call, with nothing shared between calls — no connection, cookie,
-// cache, credential or TLS session. Redirects are not followed, certificates are always checked, and
-// the service's name is resolved by Tor in `viaTor()`, never by this computer.
+// The real probe: one HTTPS GET per call, with nothing shared between calls — no connection,
+// cookie, cache, credential or TLS session. Redirects are not followed, certificates are always
+// checked, and the service's name is resolved by Tor in `viaTor()`, never by this computer.
 //
 // Lives on the thread that owns the event loop. Probes that are under way when the object is
 // destroyed end as `cancelled`.

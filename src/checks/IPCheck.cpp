@@ -16,11 +16,13 @@ auto unusable(const QString &detail)
 
 constexpr qsizetype addressLimit = 45; // characters of the longest address
 
-// QHostAddress alone would also take what stands after a "%" or a NUL, and any number of leading zeros.
+// QHostAddress alone would also take what stands after a "%" or a NUL, and any number of leading
+// zeros.
 bool isAddress(const QString &text)
 {
     const bool isPlain = std::all_of(text.begin(), text.end(), [](QChar c) {
-        return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f') || (c >= u'A' && c <= u'F') || c == u'.' || c == u':';
+        return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f') || (c >= u'A' && c <= u'F')
+            || c == u'.' || c == u':';
     });
     return isPlain && text.size() <= addressLimit && !QHostAddress(text).isNull();
 }

@@ -15,8 +15,9 @@ struct ProbeError {
         transport,   // no connection, an interrupted one, or no proxy
         certificate, // TLS failed: untrusted, expired, for another host
         timedOut,
-        badResponse, // a status other than 200, more than the allowed size, or not the JSON asked for
-        cancelled,   // the probe object went away
+        // a status other than 200, more than the allowed size, or not the JSON asked for
+        badResponse,
+        cancelled, // the probe object went away
     };
     Kind kind;
     QString detail; // for the log; the system's text where there is one

@@ -20,7 +20,8 @@ struct KillSwitch {
     int missed = 0;  // how often the watcher has missed the rules
     QDateTime since; // when the state began, or began again; UTC
 
-    // Reads the watcher's note, "standing 0 1795307640" (or "restored", "open"). Absent when it is no such note.
+    // Reads the watcher's note, "standing 0 1795307640" (or "restored", "open"). Absent when it is
+    // no such note.
     static std::optional<KillSwitch> parse(const QByteArray &note);
     // Only what was seen to stand blocks.
     bool blocks() const { return state == State::standing || state == State::putBack; }

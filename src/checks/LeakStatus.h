@@ -18,22 +18,29 @@ public:
     static LeakStatus notTested() { return {Kind::notTested, {}}; }
     static LeakStatus checking() { return {Kind::checking, {}}; }
     // The same while it is not known that what was found before is over.
-    static LeakStatus checkingAfter(const LeakStatus &before) { return {Kind::checking, before.m_address}; }
+    static LeakStatus checkingAfter(const LeakStatus &before)
+    {
+        return {Kind::checking, before.m_address};
+    }
     static LeakStatus blocked() { return {Kind::blocked, {}}; }
     static LeakStatus inconclusive() { return {Kind::inconclusive, {}}; }
 
     Kind kind() const { return m_kind; }
-    // The user's own address, as the world saw it; empty unless `exposed`, or `checking` after that.
+    // The user's own address, as the world saw it; empty unless `exposed`, or `checking` after
+    // that.
     const QString &address() const { return m_address; }
     // The user's own address was seen, and no later test has said otherwise.
-    bool isExposed() const { return m_kind == Kind::exposed || (m_kind == Kind::checking && !m_address.isEmpty()); }
+    bool isExposed() const
+    {
+        return m_kind == Kind::exposed || (m_kind == Kind::checking && !m_address.isEmpty());
+    }
     // The case's name: "exposed", "notTested" …
     QString name() const;
 
     friend bool operator==(const LeakStatus &, const LeakStatus &) = default;
 
 private:
-    LeakStatus(Kind kind, QString address) : m_kind(kind), m_address(std::move(address)) {}
+    LeakStatus(Kind kind, QString address) : m_kind(kind), m_address(std::move(address)) { }
 
     Kind m_kind = Kind::notTested;
     QString m_address;
@@ -51,8 +58,9 @@ struct NetworkVerdict {
     // `elapsed` is how long the probe through Tor took. `mode` is the active routing mode, if any.
     //
     // The direct path counts as blocked when nothing answers on it while Tor's path works, or when
-    // in strict mode it comes out of a Tor exit as well. A direct request that got an unusable answer
-    // (a captive portal's certificate, an error page) proves that the path is open: inconclusive.
+    // in strict mode it comes out of a Tor exit as well. A direct request that got an unusable
+    // answer (a captive portal's certificate, an error page) proves that the path is open:
+    // inconclusive.
     static NetworkVerdict of(const ProbeResult &viaTor, std::chrono::milliseconds elapsed,
                              const ProbeResult &direct, std::optional<RoutingMode> mode);
 };

@@ -17,7 +17,8 @@ namespace {
 const QHostAddress farAway(QStringLiteral("192.0.2.1"));
 const QHostAddress farAway6(QStringLiteral("2001:db8::1"));
 
-// By which address of this computer's a datagram would leave; null without a route. Connecting a datagram socket sends nothing.
+// By which address of this computer's a datagram would leave; null without a route. Connecting a
+// datagram socket sends nothing.
 QHostAddress leavingBy(const QHostAddress &target)
 {
     sockaddr_storage address{};
@@ -62,8 +63,10 @@ std::optional<NetworkRoute> NetworkRoute::present()
         for (const QNetworkAddressEntry &entry : device.addressEntries()) {
             if (!entry.ip().isEqual(own, QHostAddress::TolerantConversion))
                 continue;
-            // WireGuard's device, a VPN program's, a tunnel of the kernel's. A Mac gives its own no type.
-            const bool isTunnel = device.type() == QNetworkInterface::Virtual || device.name().startsWith(QLatin1String("utun"))
+            // WireGuard's device, a VPN program's, a tunnel of the kernel's. A Mac gives its own no
+            // type.
+            const bool isTunnel = device.type() == QNetworkInterface::Virtual
+                || device.name().startsWith(QLatin1String("utun"))
                 || device.name().startsWith(QLatin1String("ipsec"));
             return NetworkRoute{device.name(), isTunnel};
         }

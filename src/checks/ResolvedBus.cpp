@@ -23,7 +23,7 @@ using Answer = ResumeOnce<std::optional<ResolvedState>>;
 // bus, and would make every other use of D-Bus on their thread wait too.
 class Conversation {
 public:
-    explicit Conversation(Answer answer) : m_answer(std::move(answer)), m_bus(connect()) {}
+    explicit Conversation(Answer answer) : m_answer(std::move(answer)), m_bus(connect()) { }
     ~Conversation()
     {
         const QString name = m_bus.name();
@@ -35,7 +35,8 @@ public:
 
     std::optional<ResolvedState> read() const
     {
-        const auto manager = properties(managerPath, QStringLiteral("org.freedesktop.resolve1.Manager"));
+        const auto manager = properties(managerPath,
+                                        QStringLiteral("org.freedesktop.resolve1.Manager"));
         if (!manager)
             return std::nullopt;
         ResolvedState state = ResolvedState::fromProperties(*manager);
@@ -43,8 +44,8 @@ public:
         for (const auto *entry = interfaces; entry && entry->if_index != 0; ++entry) {
             const auto link = linkProperties(static_cast<int>(entry->if_index));
             if (link)
-                state.links.push_back(ResolvedLink::fromProperties(
-                    QString::fromLocal8Bit(entry->if_name), *link));
+                state.links.push_back(
+                    ResolvedLink::fromProperties(QString::fromLocal8Bit(entry->if_name), *link));
         }
         if (interfaces)
             ::if_freenameindex(interfaces);
@@ -52,8 +53,8 @@ public:
     }
 
 private:
-    // Not by address: when the bus does not say hello, Qt drops such a connection in a way for which
-    // the D-Bus library ends the program.
+    // Not by address: when the bus does not say hello, Qt drops such a connection in a way for
+    // which the D-Bus library ends the program.
     static QDBusConnection connect()
     {
         static std::atomic<int> count = 0;
@@ -76,7 +77,8 @@ private:
 
     std::optional<QVariantMap> properties(const QString &path, const QString &interface) const
     {
-        const QDBusReply<QVariantMap> reply(call(path, QStringLiteral("org.freedesktop.DBus.Properties"),
+        const QDBusReply<QVariantMap> reply(call(path,
+                                                 QStringLiteral("org.freedesktop.DBus.Properties"),
                                                  QStringLiteral("GetAll"), {interface}));
         return reply.isValid() ? std::optional(reply.value()) : std::nullopt;
     }

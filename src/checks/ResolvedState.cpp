@@ -11,7 +11,7 @@ namespace {
 
 constexpr quint16 dnsPort = 53;
 constexpr quint16 torDNSPort = 293; // where our Tor answers look-ups
-constexpr quint64 dnsScope = 1;      // in a link's "ScopesMask"
+constexpr quint64 dnsScope = 1;     // in a link's "ScopesMask"
 
 // The elements of the array that `value` holds, each read by `readElement`. Anything else than
 // a D-Bus array of structures gives nothing.
@@ -102,7 +102,8 @@ QString ResolvedServer::text() const
     if (port == 0 || port == dnsPort || isTor)
         return host.toString();
     return (family == AF_INET6 ? QStringLiteral("[%1]:%2") : QStringLiteral("%1:%2"))
-        .arg(host.toString()).arg(port);
+        .arg(host.toString())
+        .arg(port);
 }
 
 ResolvedLink ResolvedLink::fromProperties(const QString &interface, const QVariantMap &properties)

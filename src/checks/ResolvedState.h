@@ -21,8 +21,8 @@ struct ResolvedServer {
     quint16 port = 0;   // 0: the usual one
     QString serverName;
 
-    // "10.8.0.3", "10.8.0.3:5353", "[2001:db8::3]:5353"; empty when there is no such address. Tor's own
-    // DNS port on the loopback is written as the loopback address alone.
+    // "10.8.0.3", "10.8.0.3:5353", "[2001:db8::3]:5353"; empty when there is no such address. Tor's
+    // own DNS port on the loopback is written as the loopback address alone.
     QString text() const;
     friend bool operator==(const ResolvedServer &, const ResolvedServer &) = default;
 };
@@ -41,12 +41,13 @@ struct ResolvedLink {
     bool isDefaultRoute = true; // gets names that belong to no link's domains
     bool isActive = true;       // is asked at all
 
-    // From the properties of an "org.freedesktop.resolve1.Link". Missing or odd ones are as if unset.
+    // From the properties of an "org.freedesktop.resolve1.Link". Missing or odd ones are as if
+    // unset.
     static ResolvedLink fromProperties(const QString &interface, const QVariantMap &properties);
 };
 
 struct ResolvedState {
-    std::vector<ResolvedServer> servers; // all that are set, of the system and of the links
+    std::vector<ResolvedServer> servers;         // all that are set, of the system and of the links
     std::vector<ResolvedServer> fallbackServers; // asked only when none is set
     std::vector<ResolvedLink> links;
 

@@ -15,11 +15,13 @@ namespace veldmark {
 
 namespace {
 
-// What may stand behind the "%" of an address: a network interface's name or number. It is shown to the user.
+// What may stand behind the "%" of an address: a network interface's name or number. It is shown to
+// the user.
 bool isScope(const QByteArray &text)
 {
     return !text.isEmpty() && text.size() < IFNAMSIZ
-        && std::all_of(text.begin(), text.end(), [](char c) { return c > ' ' && c <= '~' && c != '%' && c != '/'; });
+        && std::all_of(text.begin(), text.end(),
+                       [](char c) { return c > ' ' && c <= '~' && c != '%' && c != '/'; });
 }
 
 // IPv4 in every form that inet_aton takes ("127.1"), IPv6 with an optional scope; else empty.
@@ -81,16 +83,17 @@ ResolverFile ResolverFile::parse(const QByteArray &text)
 QByteArray ResolverFile::read(const QString &path)
 {
     // A pipe in the file's place must not stop the program.
-    const int descriptor =
-        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    const int descriptor = ::open(QFile::encodeName(path).constData(),
+                                  O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     if (descriptor < 0)
         return {};
     QFile file;
-    if (!file.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle)) {
+    if (!file.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered,
+                   QFile::AutoCloseHandle)) {
         ::close(descriptor);
         return {};
     }
-    struct stat status{};
+    struct stat status { };
     if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode))
         return {};
     return file.read(sizeLimitBytes);

@@ -45,7 +45,8 @@ std::vector<DNSResolver> joinResolvers(const ResolverFile &file,
             named += resolver.nameservers;
     }
     for (DNSResolver resolver : file.resolvers()) {
-        resolver.nameservers.removeIf([&named](const QString &server) { return named.contains(server); });
+        resolver.nameservers.removeIf(
+            [&named](const QString &server) { return named.contains(server); });
         if (!resolver.nameservers.isEmpty())
             joined.push_back(resolver);
     }
@@ -53,7 +54,8 @@ std::vector<DNSResolver> joinResolvers(const ResolverFile &file,
 }
 
 LinuxResolverSource::LinuxResolverSource(Clock &clock, QString resolverFile)
-    : m_resolverFile(std::move(resolverFile)), m_bus(clock)
+    : m_resolverFile(std::move(resolverFile)),
+      m_bus(clock)
 {
 }
 
@@ -67,7 +69,7 @@ QCoro::Task<std::vector<DNSResolver>> LinuxResolverSource::resolvers()
     co_return joinResolvers(file, resolved);
 }
 
-ScutilResolverSource::ScutilResolverSource(Run run) : m_run(std::move(run)) {}
+ScutilResolverSource::ScutilResolverSource(Run run) : m_run(std::move(run)) { }
 
 QCoro::Task<std::vector<DNSResolver>> ScutilResolverSource::resolvers()
 {

@@ -7,7 +7,8 @@
 
 namespace veldmark {
 
-// Where the system's name servers are read from. Never fails: settings that can't be read are empty.
+// Where the system's name servers are read from. Never fails: settings that can't be read are
+// empty.
 class ResolverSource {
 public:
     ResolverSource() = default;

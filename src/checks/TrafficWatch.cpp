@@ -11,7 +11,7 @@ constexpr auto answerPatience = 12s;
 constexpr auto circuitPatience = 10s; // new circuits, as after a new identity, take a moment
 // The smallest message between Tor and a relay is a cell; what an application asks of Tor is less.
 constexpr qint64 cellBytes = 500;
-constexpr int routelessLooks = 2;     // between two networks there is none
+constexpr int routelessLooks = 2; // between two networks there is none
 
 } // namespace
 

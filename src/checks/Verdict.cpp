@@ -11,7 +11,8 @@ Danger worst(const SessionFacts &facts)
 {
     const bool isConnected = facts.phase == ConnectionPhase::connected;
     const bool isStrict = isConnected && facts.mode == RoutingMode::strict;
-    const bool hasRules = facts.phase != ConnectionPhase::disconnected && facts.phase != ConnectionPhase::disconnecting;
+    const bool hasRules = facts.phase != ConnectionPhase::disconnected
+        && facts.phase != ConnectionPhase::disconnecting;
     if (hasRules && facts.killSwitch == KillSwitch::State::open)
         return Danger::killSwitchOpen;
     if (isConnected && facts.isDNSLeaking)
@@ -20,7 +21,8 @@ Danger worst(const SessionFacts &facts)
         return Danger::exposed;
     if (facts.phase == ConnectionPhase::stale)
         return Danger::leftOver;
-    if (isStrict && facts.killSwitch.value_or(KillSwitch::State::unknown) == KillSwitch::State::unknown)
+    if (isStrict
+        && facts.killSwitch.value_or(KillSwitch::State::unknown) == KillSwitch::State::unknown)
         return Danger::killSwitchUnknown;
     if (isConnected && facts.stall)
         return Danger::stalled;
@@ -29,24 +31,31 @@ Danger worst(const SessionFacts &facts)
     return Danger::none;
 }
 
-// What is being waited for. In strict mode the rules were seen to stand, else there is a worse danger.
+// What is being waited for. In strict mode the rules were seen to stand, else there is a worse
+// danger.
 Text waiting(TrafficWatch::Stall stall, bool isStrict)
 {
     using Stall = TrafficWatch::Stall;
     switch (stall) {
     case Stall::noNetwork:
-        return isStrict ? Text::tr("This computer has no network. Nothing gets out around Tor meanwhile.")
-                        : Text::tr("This computer has no network. Veldmark goes on when it is back.");
+        return isStrict
+            ? Text::tr("This computer has no network. Nothing gets out around Tor meanwhile.")
+            : Text::tr("This computer has no network. Veldmark goes on when it is back.");
     case Stall::noCircuit:
-        return isStrict ? Text::tr("Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile.")
-                        : Text::tr("Tor has no working circuit and keeps trying.");
+        return isStrict
+            ? Text::tr(
+                "Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile.")
+            : Text::tr("Tor has no working circuit and keeps trying.");
     case Stall::noAnswer:
-        return isStrict ? Text::tr("Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile.")
-                        : Text::tr("Tor gets no answer from the network and keeps trying.");
+        return isStrict
+            ? Text::tr(
+                "Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile.")
+            : Text::tr("Tor gets no answer from the network and keeps trying.");
     case Stall::vpn:
         break;
     }
-    return Text::tr("A VPN takes Tor's traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode.");
+    return Text::tr(
+        "A VPN takes Tor's traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode.");
 }
 
 Verdict inDanger(Danger danger, const SessionFacts &facts)
@@ -60,22 +69,29 @@ Verdict inDanger(Danger danger, const SessionFacts &facts)
                 Text::tr("Traffic may leave this computer directly")};
     case Danger::dnsLeak:
         return {Level::danger, danger, Text::tr("DNS Leak"), symbol,
-                isStrict && facts.isExposed ? Text::tr("Lookups can go around Tor, and your real address can be seen")
-                                            : Text::tr("Lookups can go around Tor")};
+                isStrict && facts.isExposed
+                    ? Text::tr("Lookups can go around Tor, and your real address can be seen")
+                    : Text::tr("Lookups can go around Tor")};
     case Danger::exposed:
         return {Level::danger, danger, attention, symbol,
                 Text::tr("Your real address can be seen. Disconnect, or run the leak test again.")};
     case Danger::killSwitchUnknown:
-        return {Level::warning, danger, attention, symbol,
-                Text::tr("It can't be told whether the kill switch stands. Disconnect and connect again.")};
+        return {
+            Level::warning, danger, attention, symbol,
+            Text::tr(
+                "It can't be told whether the kill switch stands. Disconnect and connect again.")};
     case Danger::stalled:
         return {Level::warning, danger,
-                facts.stall == TrafficWatch::Stall::noNetwork ? Text::tr("No Network") : Text::tr("Nothing Gets Through"), symbol,
-                waiting(*facts.stall, isStrict)};
+                facts.stall == TrafficWatch::Stall::noNetwork ? Text::tr("No Network")
+                                                              : Text::tr("Nothing Gets Through"),
+                symbol, waiting(*facts.stall, isStrict)};
     case Danger::exitNotConfirmed:
-        return {Level::warning, danger, attention, symbol,
-                isStrict ? Text::tr("All traffic is locked to Tor, but the exit could not be confirmed")
-                         : Text::tr("Apps that use system proxy settings go through Tor, but the exit could not be confirmed")};
+        return {
+            Level::warning, danger, attention, symbol,
+            isStrict
+                ? Text::tr("All traffic is locked to Tor, but the exit could not be confirmed")
+                : Text::tr(
+                    "Apps that use system proxy settings go through Tor, but the exit could not be confirmed")};
     case Danger::leftOver:
     case Danger::none:
         break;
@@ -91,19 +107,23 @@ Verdict Verdict::of(const SessionFacts &facts)
         return inDanger(found, facts);
     switch (facts.phase) {
     case ConnectionPhase::connecting:
-        return {Level::working, Danger::none, Text::tr("Connecting…"), QStringLiteral("shield.lefthalf.filled"), facts.detail};
+        return {Level::working, Danger::none, Text::tr("Connecting…"),
+                QStringLiteral("shield.lefthalf.filled"), facts.detail};
     case ConnectionPhase::disconnecting:
-        return {Level::working, Danger::none, Text::tr("Disconnecting…"), QStringLiteral("shield.lefthalf.filled"), facts.detail};
+        return {Level::working, Danger::none, Text::tr("Disconnecting…"),
+                QStringLiteral("shield.lefthalf.filled"), facts.detail};
     case ConnectionPhase::connected:
         if (facts.mode != RoutingMode::strict)
-            return {Level::info, Danger::none, Text::tr("Proxy Active"), QStringLiteral("lock.shield.fill"), facts.detail};
-        return {facts.torVerified == true ? Level::good : Level::working, Danger::none, Text::tr("Protected"),
-                QStringLiteral("lock.shield.fill"), facts.detail};
+            return {Level::info, Danger::none, Text::tr("Proxy Active"),
+                    QStringLiteral("lock.shield.fill"), facts.detail};
+        return {facts.torVerified == true ? Level::good : Level::working, Danger::none,
+                Text::tr("Protected"), QStringLiteral("lock.shield.fill"), facts.detail};
     case ConnectionPhase::disconnected:
     case ConnectionPhase::stale:
         break;
     }
-    return {Level::neutral, Danger::none, Text::tr("Not Protected"), QStringLiteral("shield.slash"), facts.detail};
+    return {Level::neutral, Danger::none, Text::tr("Not Protected"), QStringLiteral("shield.slash"),
+            facts.detail};
 }
 
 QString Verdict::levelName() const

@@ -17,18 +17,20 @@ struct SessionFacts {
     ConnectionPhase phase = ConnectionPhase::disconnected;
     std::optional<RoutingMode> mode = {};
     std::optional<KillSwitch::State> killSwitch = {}; // absent: nobody has looked, or there is none
-    bool isExposed = false;                           // the last direct probe showed the user's own address
+    // the last direct probe showed the user's own address
+    bool isExposed = false;
     bool isDNSLeaking = false;
     std::optional<bool> torVerified = {}; // absent: not checked yet
     Text detail = {};                     // the line under the title where no danger is known
-    std::optional<TrafficWatch::Stall> stall = {}; // absent: something gets through, as far as is known
+    // absent: something gets through, as far as is known
+    std::optional<TrafficWatch::Stall> stall = {};
 };
 
-// How safe the session is, in one place: title, symbol, line and colour of every window, the tray, the
-// notifications, the command line and the published state come from here. A known danger comes before
-// everything else. `good` is only a strict session whose rules were seen in the kernel and whose exit was
-// confirmed, without a known leak; proxy mode is never called protected, since applications that ignore the
-// proxy settings are not covered.
+// How safe the session is, in one place: title, symbol, line and colour of every window, the tray,
+// the notifications, the command line and the published state come from here. A known danger comes
+// before everything else. `good` is only a strict session whose rules were seen in the kernel and
+// whose exit was confirmed, without a known leak; proxy mode is never called protected, since
+// applications that ignore the proxy settings are not covered.
 struct Verdict {
     enum class Level { neutral, working, good, info, warning, danger };
     // The worst of what is known.

@@ -11,8 +11,8 @@ class GraphBuilder {
 public:
     explicit GraphBuilder(const QString &computerLabel)
     {
-        m_graph.nodes.push_back({QStringLiteral("mac"), 0, CircuitGraph::Kind::mac, std::nullopt,
-                                 computerLabel, {}});
+        m_graph.nodes.push_back(
+            {QStringLiteral("mac"), 0, CircuitGraph::Kind::mac, std::nullopt, computerLabel, {}});
     }
 
     void add(const CircuitInfo &circuit)
@@ -48,9 +48,8 @@ private:
         bool elsewhere = false;
         for (const auto &others : m_relays)
             elsewhere = elsewhere || others.contains(relay.fingerprint);
-        const QString id = elsewhere
-            ? relay.fingerprint + QStringLiteral("-column%1").arg(column)
-            : relay.fingerprint;
+        const QString id = elsewhere ? relay.fingerprint + QStringLiteral("-column%1").arg(column)
+                                     : relay.fingerprint;
         byColumn.insert(relay.fingerprint, m_graph.nodes.size());
         return append({id, column, CircuitGraph::Kind::relay, relay, relay.nickname, {}});
     }
@@ -61,13 +60,18 @@ private:
         if (known != m_sites.constEnd())
             return *known;
         m_sites.insert(site, m_graph.nodes.size());
-        return append({QStringLiteral("site-") + site, 4, CircuitGraph::Kind::site, std::nullopt, site, {}});
+        return append(
+            {QStringLiteral("site-") + site, 4, CircuitGraph::Kind::site, std::nullopt, site, {}});
     }
 
     size_t moreNode(qsizetype hidden)
     {
-        return append({QStringLiteral("more-") + m_circuitID, 4, CircuitGraph::Kind::more, std::nullopt,
-                       QStringLiteral("+%1 more").arg(hidden), {}});
+        return append({QStringLiteral("more-") + m_circuitID,
+                       4,
+                       CircuitGraph::Kind::more,
+                       std::nullopt,
+                       QStringLiteral("+%1 more").arg(hidden),
+                       {}});
     }
 
     size_t append(CircuitGraph::Node node)
@@ -95,8 +99,8 @@ private:
             if (m_graph.edges[i].from == fromID && m_graph.edges[i].to == toID)
                 return;
         }
-        m_graph.edges.push_back({m_circuitID + u'|' + fromID + u'|' + toID, fromID, toID,
-                                 m_circuitID});
+        m_graph.edges.push_back(
+            {m_circuitID + u'|' + fromID + u'|' + toID, fromID, toID, m_circuitID});
     }
 
     CircuitGraph m_graph;

@@ -8,9 +8,10 @@ namespace veldmark {
 // middle and exit relays (1 to 3), sites (4), and one path of edges per circuit.
 //
 // Every edge of a circuit with up to three hops leads to a higher column: a relay that is the
-// middle of one circuit and the exit of another is a node in each of the two columns. Of two hops the
-// second is the exit (column 3); a single hop is the entry and its sites hang on it; of more than
-// three, all between the first and the last stand in column 2. A circuit without hops is left out.
+// middle of one circuit and the exit of another is a node in each of the two columns. Of two hops
+// the second is the exit (column 3); a single hop is the entry and its sites hang on it; of more
+// than three, all between the first and the last stand in column 2. A circuit without hops is left
+// out.
 struct CircuitGraph {
     enum class Kind { mac, relay, site, more };
 
@@ -19,13 +20,13 @@ struct CircuitGraph {
         int column = 0;
         Kind kind = Kind::mac;
         std::optional<RelayInfo> relay; // of relay nodes
-        QString label; // the relay's nickname, the site's name, "+2 more"
+        QString label;                  // the relay's nickname, the site's name, "+2 more"
         QStringList circuitIDs; // of the circuits through this node, in their order, each once
         friend bool operator==(const Node &, const Node &) = default;
     };
 
     struct Edge {
-        QString id; // "circuit|from|to"
+        QString id;   // "circuit|from|to"
         QString from; // node ids
         QString to;
         QString circuitID;

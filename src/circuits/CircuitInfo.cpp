@@ -36,9 +36,9 @@ QJsonObject CircuitInfo::toJson() const
         {QStringLiteral("id"), id},
         {QStringLiteral("hops"), path},
         {QStringLiteral("purpose"), purpose},
-        {QStringLiteral("created"), created
-             ? QJsonValue(created->toUTC().toString(Qt::ISODateWithMs))
-             : QJsonValue(QJsonValue::Null)},
+        {QStringLiteral("created"),
+         created ? QJsonValue(created->toUTC().toString(Qt::ISODateWithMs))
+                 : QJsonValue(QJsonValue::Null)},
         {QStringLiteral("sites"), QJsonArray::fromStringList(sites)},
     };
     if (roundTrip)

@@ -17,9 +17,9 @@ namespace veldmark {
 
 // One relay on a circuit's path.
 struct RelayInfo {
-    QString fingerprint; // upper-case hexadecimal without "$"
-    QString nickname;    // the first eight characters of the fingerprint where Tor gives none
-    std::optional<QString> ip;      // absent until resolved, and where Tor knows none
+    QString fingerprint;       // upper-case hexadecimal without "$"
+    QString nickname;          // the first eight characters of the fingerprint where Tor gives none
+    std::optional<QString> ip; // absent until resolved, and where Tor knows none
     std::optional<QString> country; // two letters as Tor writes them, lower case
 
     friend bool operator==(const RelayInfo &, const RelayInfo &) = default;
@@ -32,17 +32,18 @@ size_t qHash(const RelayInfo &relay, size_t seed = 0);
 
 // One built circuit.
 struct CircuitInfo {
-    QString id;                  // Tor's circuit number, as text
-    std::vector<RelayInfo> hops; // the guard or bridge first, the exit last; never empty when parsed
+    QString id; // Tor's circuit number, as text
+    // the guard or bridge first, the exit last; never empty when parsed
+    std::vector<RelayInfo> hops;
     QString purpose; // "GENERAL", "CONFLUX" for a linked leg of a conflux set, or Tor's own word
     std::optional<QDateTime> created; // UTC, milliseconds
-    QStringList sites; // host names and addresses seen on this circuit, each once
+    QStringList sites;                // host names and addresses seen on this circuit, each once
 
     // What Tor says beyond the above.
     QString confluxID; // the legs of one conflux set have the same; empty on other circuits
     std::optional<std::chrono::microseconds> roundTrip; // measured by Tor on conflux legs
-    // The onion service that this circuit of the user's leads to, "….onion"; empty on other circuits. Its
-    // last relay is where the service meets it, not an exit.
+    // The onion service that this circuit of the user's leads to, "….onion"; empty on other
+    // circuits. Its last relay is where the service meets it, not an exit.
     QString onionService;
     bool isOneHopTunnel = false; // a directory fetch, no path for the user's traffic
     bool isInternal = false;     // for Tor's own ends; does not leave through an exit

@@ -73,13 +73,14 @@ void readBuildFlags(QStringView flags, CircuitInfo &circuit)
     }
 }
 
-// What the words behind the path say. Of two words with one key the first counts: what a program has
-// given Tor as its user name comes after what Tor says of the circuit.
+// What the words behind the path say. Of two words with one key the first counts: what a program
+// has given Tor as its user name comes after what Tor says of the circuit.
 class Fields {
 public:
     void read(QStringView rest)
     {
-        for (QStringView word = ReplyWords::next(rest); !word.isEmpty(); word = ReplyWords::next(rest))
+        for (QStringView word = ReplyWords::next(rest); !word.isEmpty();
+             word = ReplyWords::next(rest))
             for (std::size_t key = 0; key < std::size(keys); ++key)
                 take(key, word);
     }
@@ -88,7 +89,8 @@ public:
     {
         if (const auto purpose = value(Purpose)) {
             // Two linked legs carry traffic to one exit; an unlinked one does not yet.
-            circuit.purpose = *purpose == u"CONFLUX_LINKED" ? QStringLiteral("CONFLUX") : purpose->toString();
+            circuit.purpose = *purpose == u"CONFLUX_LINKED" ? QStringLiteral("CONFLUX")
+                                                            : purpose->toString();
         }
         if (const auto time = value(Created))
             circuit.created = timeFormatter(*time);
@@ -100,14 +102,16 @@ public:
         if (valid && microseconds >= 0)
             circuit.roundTrip = std::chrono::microseconds(microseconds);
         const QStringView service = value(Service).value_or(QStringView());
-        if (!service.isEmpty() && circuit.purpose == u"HS_CLIENT_REND" && value(ServiceState) == QStringView(u"HSCR_JOINED"))
+        if (!service.isEmpty() && circuit.purpose == u"HS_CLIENT_REND"
+            && value(ServiceState) == QStringView(u"HSCR_JOINED"))
             circuit.onionService = service.toString() + QStringLiteral(".onion");
     }
 
 private:
     enum Key { Purpose, Created, Flags, ConfluxID, RoundTrip, Service, ServiceState };
-    static constexpr QStringView keys[] = {u"PURPOSE=", u"TIME_CREATED=", u"BUILD_FLAGS=", u"CONFLUX_ID=",
-                                           u"CONFLUX_RTT=", u"REND_QUERY=", u"HS_STATE="};
+    static constexpr QStringView keys[] = {u"PURPOSE=",    u"TIME_CREATED=", u"BUILD_FLAGS=",
+                                           u"CONFLUX_ID=", u"CONFLUX_RTT=",  u"REND_QUERY=",
+                                           u"HS_STATE="};
 
     void take(std::size_t key, QStringView word)
     {
@@ -150,7 +154,8 @@ QString addressBeforePort(QStringView word)
         return {};
     const QStringView address = word.first(colon);
     if (address.startsWith(u'['))
-        return address.endsWith(u']') ? address.sliced(1, address.size() - 2).toString() : QString();
+        return address.endsWith(u']') ? address.sliced(1, address.size() - 2).toString()
+                                      : QString();
     return address.contains(u':') ? QString() : address.toString();
 }
 
@@ -226,7 +231,8 @@ std::optional<QString> ipOfBridge(QStringView fingerprint, const QStringList &br
         QStringView rest = line;
         QString address;
         bool found = false;
-        for (QStringView word = nextPiece(rest, u' '); !word.isEmpty(); word = nextPiece(rest, u' ')) {
+        for (QStringView word = nextPiece(rest, u' '); !word.isEmpty();
+             word = nextPiece(rest, u' ')) {
             const QStringView name = word.startsWith(u'$') ? word.sliced(1) : word;
             if (name.compare(fingerprint, Qt::CaseInsensitive) == 0)
                 found = true;

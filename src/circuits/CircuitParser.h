@@ -16,8 +16,8 @@ struct StreamInfo {
 };
 
 // A line of "circuit-status": "ID BUILT $FP~NICK,$FP~NICK… KEY=VALUE…". Only built circuits with a
-// path give one; `sites` is left empty, and the relays have neither address nor country. Values may be
-// quoted; of two words with one key the first counts.
+// path give one; `sites` is left empty, and the relays have neither address nor country. Values may
+// be quoted; of two words with one key the first counts.
 std::optional<CircuitInfo> circuit(QStringView line);
 
 // A line of "stream-status": "ID STATUS CIRCUIT TARGET KEY=VALUE…". A stream that is not attached

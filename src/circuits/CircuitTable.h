@@ -12,10 +12,10 @@ using RelayCache = QHash<QString, RelayInfo>;
 
 // One refresh of the circuit list, joined from Tor's two status blocks.
 struct CircuitTable {
-    // Circuits for the user's traffic, each id once: of purpose "GENERAL" or "CONFLUX", without one-hop
-    // directory fetches and Tor's internal ones; and those to the onion services that the user visits.
-    // Circuits with a site come first, then the newer before the older; a circuit without a creation
-    // time counts as oldest. Equals keep Tor's order.
+    // Circuits for the user's traffic, each id once: of purpose "GENERAL" or "CONFLUX", without
+    // one-hop directory fetches and Tor's internal ones; and those to the onion services that the
+    // user visits. Circuits with a site come first, then the newer before the older; a circuit
+    // without a creation time counts as oldest. Equals keep Tor's order.
     std::vector<CircuitInfo> circuits;
     // Relays of these circuits that the cache did not have, each once, in the order of the paths.
     // A relay whose fingerprint is not hexadecimal is left out: it cannot be asked for.

@@ -45,14 +45,16 @@ bool isNamed(const InstalledApplication &application, const QString &wanted)
 
 } // namespace
 
-QJsonArray applicationFindings(const std::vector<InstalledApplication> &installed, const QStringList &chosen,
+QJsonArray applicationFindings(const std::vector<InstalledApplication> &installed,
+                               const QStringList &chosen,
                                const std::function<QString(const QString &path)> &nameOf)
 {
     QJsonArray findings;
     QStringList missing = chosen;
     missing.removeDuplicates();
     for (const InstalledApplication &application : installed) {
-        findings.append(finding(application.path, application.name, chosen.contains(application.path), true));
+        findings.append(
+            finding(application.path, application.name, chosen.contains(application.path), true));
         missing.removeAll(application.path);
     }
     for (const QString &path : std::as_const(missing))
@@ -69,14 +71,18 @@ QString Report::applications(const QJsonArray &findings)
         width = std::max(width, shown(entry[nameKey].toString()).size());
     QStringList lines;
     for (const QJsonValue &entry : findings)
-        lines << QStringLiteral("%1 %2  %3%4").arg(
-            entry[bypassedKey].toBool() ? QStringLiteral("*") : QStringLiteral(" "),
-            shown(entry[nameKey].toString()).leftJustified(width), entry[pathKey].toString(),
-            entry[installedKey].toBool() ? QString() : QStringLiteral("  ") + Text::tr("(not in the menu)").translated());
+        lines << QStringLiteral("%1 %2  %3%4")
+                     .arg(entry[bypassedKey].toBool() ? QStringLiteral("*") : QStringLiteral(" "),
+                          shown(entry[nameKey].toString()).leftJustified(width),
+                          entry[pathKey].toString(),
+                          entry[installedKey].toBool()
+                              ? QString()
+                              : QStringLiteral("  ") + Text::tr("(not in the menu)").translated());
     return lines.join(u'\n');
 }
 
-Result<QString, Text> applicationPath(const QString &wanted, const std::vector<InstalledApplication> &installed)
+Result<QString, Text> applicationPath(const QString &wanted,
+                                      const std::vector<InstalledApplication> &installed)
 {
     if (wanted.contains(u'/')) {
         const QFileInfo file(wanted);
@@ -90,7 +96,8 @@ Result<QString, Text> applicationPath(const QString &wanted, const std::vector<I
             found << application.path;
     }
     if (found.isEmpty())
-        return Failure(Text::tr("There is no application \"%1\"; \"veldmarkctl apps\" lists them.").arg(shown(wanted)));
+        return Failure(Text::tr("There is no application \"%1\"; \"veldmarkctl apps\" lists them.")
+                           .arg(shown(wanted)));
     if (found.size() > 1)
         return Failure(Text::tr("\"%1\" may be any of: %2. Give the path.")
                            .arg(shown(wanted), found.join(QStringLiteral(", "))));
@@ -99,7 +106,9 @@ Result<QString, Text> applicationPath(const QString &wanted, const std::vector<I
 
 Result<QString, Text> applicationPath(const QString &wanted)
 {
-    return applicationPath(wanted, wanted.contains(u'/') ? std::vector<InstalledApplication>() : installedApplications());
+    return applicationPath(wanted,
+                           wanted.contains(u'/') ? std::vector<InstalledApplication>()
+                                                 : installedApplications());
 }
 
 QCoro::Task<ExitStatus> showApplications(Invocation invocation, PlatformProfile profile)
@@ -108,11 +117,12 @@ QCoro::Task<ExitStatus> showApplications(Invocation invocation, PlatformProfile 
     if (const auto problem = settings.problem())
         Console::printError(*problem);
     const auto applications = runningApplications();
-    const QJsonArray findings =
-        applicationFindings(installedApplications(), settings.stringList(QStringLiteral("bypassApps")),
-                            [&applications](const QString &path) { return applications->displayName(path); });
-    Console::print(invocation.json ? QString::fromUtf8(QJsonDocument(findings).toJson(QJsonDocument::Compact))
-                                   : Report::applications(findings));
+    const QJsonArray findings = applicationFindings(
+        installedApplications(), settings.stringList(QStringLiteral("bypassApps")),
+        [&applications](const QString &path) { return applications->displayName(path); });
+    Console::print(invocation.json
+                       ? QString::fromUtf8(QJsonDocument(findings).toJson(QJsonDocument::Compact))
+                       : Report::applications(findings));
     co_return ExitStatus::done;
 }
 

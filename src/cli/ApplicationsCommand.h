@@ -21,16 +21,19 @@ struct PlatformProfile;
 QCoro::Task<ExitStatus> showApplications(Invocation invocation, PlatformProfile profile);
 
 // The absolute path that the user means: of an application by its name (letter case aside) or its
-// desktop entry's file name, with or without ".desktop"; or a path of an existing file. The error is one line.
+// desktop entry's file name, with or without ".desktop"; or a path of an existing file. The error
+// is one line.
 Result<QString, Text> applicationPath(const QString &wanted);
-Result<QString, Text> applicationPath(const QString &wanted, const std::vector<InstalledApplication> &installed);
+Result<QString, Text> applicationPath(const QString &wanted,
+                                      const std::vector<InstalledApplication> &installed);
 
 // Every installed application and every chosen one, by name:
 //
 //     [{"path": …, "name": …, "bypassed": chosen, "installed": bool}]
 //
 // `nameOf` names chosen ones that are not installed (or hidden).
-QJsonArray applicationFindings(const std::vector<InstalledApplication> &installed, const QStringList &chosen,
+QJsonArray applicationFindings(const std::vector<InstalledApplication> &installed,
+                               const QStringList &chosen,
                                const std::function<QString(const QString &path)> &nameOf);
 
 namespace Report {

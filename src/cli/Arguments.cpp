@@ -21,8 +21,9 @@ Text missing(const Verb &verb)
 {
     if (!verb.missing.isEmpty())
         return verb.missing;
-    return verb.operands.size() == 1 ? Text::tr("%1 needs a key: veldmarkctl %1 KEY.").arg(verb.name)
-                                     : Text::tr("%1 needs a key and a value: veldmarkctl %1 KEY VALUE.").arg(verb.name);
+    return verb.operands.size() == 1
+        ? Text::tr("%1 needs a key: veldmarkctl %1 KEY.").arg(verb.name)
+        : Text::tr("%1 needs a key and a value: veldmarkctl %1 KEY VALUE.").arg(verb.name);
 }
 
 // A line of the usage text, or more.
@@ -68,8 +69,11 @@ Result<Invocation, Text> parseArguments(const QStringList &arguments)
             optionsEnded = true;
             continue;
         }
-        if (std::none_of(verb->options.begin(), verb->options.end(), [&argument](const Verb::Option &option) { return option.name == argument; }))
-            return Failure(Text::tr("%1 has no option %2.").arg(arguments.first(), quoted(argument)));
+        if (std::none_of(
+                verb->options.begin(), verb->options.end(),
+                [&argument](const Verb::Option &option) { return option.name == argument; }))
+            return Failure(
+                Text::tr("%1 has no option %2.").arg(arguments.first(), quoted(argument)));
         invocation.connectNow |= argument == QLatin1String("--connect");
         invocation.json |= argument == QLatin1String("--json");
         invocation.watch |= argument == QLatin1String("--watch");
@@ -100,8 +104,11 @@ QString usageText()
             text += usageOf(verb);
     }
     return text + u'\n'
-        + Text::tr("Exit status: 0 done, 1 failed (the reason is on standard error), 2 wrong usage,\n"
-                   "3 Veldmark is not running, 4 Veldmark is already running.").translated() + u'\n';
+        + Text::tr(
+              "Exit status: 0 done, 1 failed (the reason is on standard error), 2 wrong usage,\n"
+              "3 Veldmark is not running, 4 Veldmark is already running.")
+              .translated()
+        + u'\n';
 }
 
 } // namespace veldmark

@@ -17,9 +17,10 @@ struct Invocation {
     bool watch = false;      // status
     bool follow = false;     // log
     bool problems = false;   // log
-    QString key;             // the first operand: get, set; close-circuit's id; launch's application
-    QString value;           // the second: set
-    QStringList program;     // run-as: what is run, with its own words
+    // the first operand: get, set; close-circuit's id; launch's application
+    QString key;
+    QString value;       // the second: set
+    QStringList program; // run-as: what is run, with its own words
 };
 
 // What the process ends with.

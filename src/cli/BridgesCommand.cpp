@@ -22,8 +22,9 @@ namespace {
 // Everything that a program of a bundle may serve.
 QStringList knownTransports()
 {
-    return {QStringLiteral("obfs4"), QStringLiteral("meek_lite"), QStringLiteral("webtunnel"),
-            QStringLiteral("snowflake"), QStringLiteral("obfs3"), QStringLiteral("scramblesuit")};
+    return {QStringLiteral("obfs4"),     QStringLiteral("meek_lite"),
+            QStringLiteral("webtunnel"), QStringLiteral("snowflake"),
+            QStringLiteral("obfs3"),     QStringLiteral("scramblesuit")};
 }
 
 QJsonValue programFindings(const std::optional<QString> &path)
@@ -46,7 +47,8 @@ QJsonObject customFindings(const QString &text)
     QJsonArray surplus;
     for (const int number : parsed.surplusLineNumbers)
         surplus.append(number);
-    return {{QStringLiteral("valid"), parsed.lines.size()}, {QStringLiteral("invalid"), invalid},
+    return {{QStringLiteral("valid"), parsed.lines.size()},
+            {QStringLiteral("invalid"), invalid},
             {QStringLiteral("surplus"), surplus}};
 }
 
@@ -63,10 +65,10 @@ QJsonObject findings(const PlatformProfile &profile, const QString &customBridge
         {QStringLiteral("verification"),
          TransportDownloader::installedVerification(profile).value_or(QString())}};
     return {
-        {QStringLiteral("programs"), QJsonObject{
-            {QStringLiteral("lyrebird"), programFindings(found.lyrebird)},
-            {QStringLiteral("snowflake"), programFindings(found.snowflake)},
-            {QStringLiteral("webtunnel"), programFindings(found.webtunnel)}}},
+        {QStringLiteral("programs"),
+         QJsonObject{{QStringLiteral("lyrebird"), programFindings(found.lyrebird)},
+                     {QStringLiteral("snowflake"), programFindings(found.snowflake)},
+                     {QStringLiteral("webtunnel"), programFindings(found.webtunnel)}}},
         {QStringLiteral("builtin"), builtin},
         {QStringLiteral("source"), found.source},
         {QStringLiteral("bundle"), version ? QJsonValue(bundle) : QJsonValue::Null},
@@ -96,12 +98,14 @@ QStringList problems(const QJsonObject &custom)
     QStringList lines;
     for (const QJsonValue &entry : custom.value(QStringLiteral("invalid")).toArray())
         lines << Text::tr("line %1 is not a bridge line: %2")
-                     .arg(entry.toObject().value(QStringLiteral("line")).toInt(), shown(entry.toObject().value(QStringLiteral("text")).toString()))
+                     .arg(entry.toObject().value(QStringLiteral("line")).toInt(),
+                          shown(entry.toObject().value(QStringLiteral("text")).toString()))
                      .translated();
     const QJsonArray surplus = custom.value(QStringLiteral("surplus")).toArray();
     if (!surplus.isEmpty())
         lines << Text::tr("%1 too many, from line %2 on; at most %3 can be used")
-                     .arg(surplus.size(), surplus.first().toInt(), BridgeLines::mostLines).translated();
+                     .arg(surplus.size(), surplus.first().toInt(), BridgeLines::mostLines)
+                     .translated();
     return lines;
 }
 
@@ -130,24 +134,34 @@ QString Report::bridges(const QJsonObject &all)
         for (const QJsonValue &transport : program.value(QStringLiteral("serves")).toArray())
             serves << transport.toString();
         report += row(name, program.value(QStringLiteral("path")).toString());
-        report += row(QString(), (serves.isEmpty() ? Text::tr("doesn't say what it serves")
-                                                   : Text::tr("serves %1").arg(serves.join(QStringLiteral(", ")))).translated());
+        report += row(QString(),
+                      (serves.isEmpty()
+                           ? Text::tr("doesn't say what it serves")
+                           : Text::tr("serves %1").arg(serves.join(QStringLiteral(", "))))
+                          .translated());
     }
 
     const QString source = all.value(QStringLiteral("source")).toString();
-    report += u'\n' + (source.isEmpty() ? Text::tr("Built-in bridges") : Text::tr("Built-in bridges, from %1").arg(source)).translated();
+    report += u'\n'
+        + (source.isEmpty() ? Text::tr("Built-in bridges")
+                            : Text::tr("Built-in bridges, from %1").arg(source))
+              .translated();
     const QJsonObject builtin = all.value(QStringLiteral("builtin")).toObject();
     for (auto count = builtin.begin(); count != builtin.end(); ++count)
         report += row(shown(count.key()), QString::number(count.value().toInt()));
     if (builtin.isEmpty())
-        report += QStringLiteral("\n  ") + Text::tr("none; get some with: veldmarkctl download-transports").translated();
+        report += QStringLiteral("\n  ")
+            + Text::tr("none; get some with: veldmarkctl download-transports").translated();
 
     const QJsonObject bundle = all.value(QStringLiteral("bundle")).toObject();
     const bool isSigned = bundle.value(QStringLiteral("verification")).toString() == u"signature";
     report += QStringLiteral("\nTor Expert Bundle\n  ");
-    const Text verification = isSigned ? Text::tr("signature verified") : Text::tr("signature not verified");
-    report += bundle.isEmpty() ? Text::tr("not downloaded").translated()
-                               : QStringLiteral("%1, %2").arg(shown(bundle.value(QStringLiteral("version")).toString()), verification.translated());
+    const Text verification = isSigned ? Text::tr("signature verified")
+                                       : Text::tr("signature not verified");
+    report += bundle.isEmpty()
+        ? Text::tr("not downloaded").translated()
+        : QStringLiteral("%1, %2").arg(shown(bundle.value(QStringLiteral("version")).toString()),
+                                       verification.translated());
 
     const QJsonObject custom = all.value(QStringLiteral("custom")).toObject();
     report += u'\n' + Text::tr("Your own bridges").translated() + QStringLiteral("\n  ")
@@ -190,10 +204,12 @@ QCoro::Task<ExitStatus> downloadTransportsHere(PlatformProfile profile)
     QObject::connect(&signalWatcher, &SignalWatcher::received, &controller,
                      [raw = production.get()] { raw->downloader().cancel(); });
     const auto line = std::make_shared<ProgressLine>(Console::isTerminal(), Console::width());
-    QObject::connect(&controller.transportDownload, &Field::changed, &controller, [&controller, line] {
-        if (!controller.canDownloadTransports()) // the last word is not progress
-            Console::draw(line->update(controller.transportDownload().value_or(Text()).translated()));
-    });
+    QObject::connect(
+        &controller.transportDownload, &Field::changed, &controller, [&controller, line] {
+            if (!controller.canDownloadTransports()) // the last word is not progress
+                Console::draw(
+                    line->update(controller.transportDownload().value_or(Text()).translated()));
+        });
     auto downloading = controller.downloadTransports();
     const bool isInstalled = co_await downloading;
     Console::draw(line->finish());

@@ -43,7 +43,8 @@ QJsonObject request(const Invocation &invocation)
 }
 
 // Programs read the state in English.
-QJsonObject forReader(const Invocation &invocation, const QJsonObject &state, const QJsonObject &texts)
+QJsonObject forReader(const Invocation &invocation, const QJsonObject &state,
+                      const QJsonObject &texts)
 {
     const bool isForProgram = invocation.json || invocation.verb == Verb::Id::get;
     return isForProgram ? state : inUsersLanguage(state, texts);
@@ -81,7 +82,8 @@ bool showsEveryState(const Invocation &invocation)
 bool showsLastState(const Invocation &invocation)
 {
     return invocation.verb != Verb::Id::set && invocation.verb != Verb::Id::newIdentity
-        && invocation.verb != Verb::Id::closeCircuit && invocation.verb != Verb::Id::launch && invocation.verb != Verb::Id::downloadTransports;
+        && invocation.verb != Verb::Id::closeCircuit && invocation.verb != Verb::Id::launch
+        && invocation.verb != Verb::Id::downloadTransports;
 }
 
 // They are stored as they were typed; a connect would refuse them.
@@ -109,17 +111,19 @@ QCoro::Task<ExitStatus> askInstance(Invocation invocation, std::shared_ptr<Insta
     const auto last = std::make_shared<QJsonObject>();
     const auto progress = std::make_shared<ProgressLine>(Console::isTerminal(), Console::width());
     const auto problem = std::make_shared<QString>(); // as it was shown last
-    const InstanceClient::OnState onState = [invocation, last, progress, problem](const QJsonObject &sent, const QJsonObject &texts) {
-        const QJsonObject state = forReader(invocation, sent, texts);
-        *last = state;
-        if (showsEveryState(invocation))
-            show(invocation, state);
-        else if (invocation.verb == Verb::Id::connect
-                 && state.value(QStringLiteral("phase")) == QLatin1String("connecting"))
-            showConnecting(state, *progress, *problem);
-        else if (invocation.verb == Verb::Id::downloadTransports)
-            Console::draw(progress->update(state.value(QStringLiteral("transportDownload")).toString()));
-    };
+    const InstanceClient::OnState onState =
+        [invocation, last, progress, problem](const QJsonObject &sent, const QJsonObject &texts) {
+            const QJsonObject state = forReader(invocation, sent, texts);
+            *last = state;
+            if (showsEveryState(invocation))
+                show(invocation, state);
+            else if (invocation.verb == Verb::Id::connect
+                     && state.value(QStringLiteral("phase")) == QLatin1String("connecting"))
+                showConnecting(state, *progress, *problem);
+            else if (invocation.verb == Verb::Id::downloadTransports)
+                Console::draw(
+                    progress->update(state.value(QStringLiteral("transportDownload")).toString()));
+        };
     auto running = instance->run(request(invocation), onState);
     const auto answer = co_await running;
     Console::draw(progress->finish());
@@ -150,7 +154,8 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
         const auto set = setSetting(controller, invocation.key, invocation.value);
         if (!set) {
             Console::printError(set.error().description());
-            co_return set.error().kind() == SettingError::Kind::Refused ? ExitStatus::usage : ExitStatus::failed;
+            co_return set.error().kind() == SettingError::Kind::Refused ? ExitStatus::usage
+                                                                        : ExitStatus::failed;
         }
         tellOfBridges(invocation);
         if (invocation.key == controller.terminalMode.name() && controller.terminalMode()) {
@@ -170,22 +175,28 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
         if (controller.phase() != ConnectionPhase::disconnected) { // else there is nothing to do
             const auto ended = co_await controller.disconnect();
             if (!ended) {
-                Console::printError(ended.error().isEmpty() ? Text::tr("Cancelled.") : ended.error());
+                Console::printError(ended.error().isEmpty() ? Text::tr("Cancelled.")
+                                                            : ended.error());
                 co_return ExitStatus::failed;
             }
         }
     } else if (invocation.verb == Verb::Id::status || invocation.verb == Verb::Id::get) {
         co_await controller.locateTransports();
     }
-    co_return show(invocation, forReader(invocation, publishedState(controller), publishedTexts(controller))) ? ExitStatus::done : ExitStatus::usage;
+    co_return show(invocation,
+                   forReader(invocation, publishedState(controller), publishedTexts(controller)))
+        ? ExitStatus::done
+        : ExitStatus::usage;
 }
 
-// As root there is nobody to ask: the helper itself says whether there is a session to open the application beside,
-// whoever's it is. So it also works where no password can be asked for: `sudo veldmarkctl launch …`.
+// As root there is nobody to ask: the helper itself says whether there is a session to open the
+// application beside, whoever's it is. So it also works where no password can be asked for: `sudo
+// veldmarkctl launch …`.
 QCoro::Task<ExitStatus> launchHere(QString path, std::shared_ptr<Production> production)
 {
     const QStringList arguments = {QStringLiteral("launch"), QStringLiteral("--uid"),
-                                   QString::number(SessionOwner::callerOfHelper()), QStringLiteral("--app"), path};
+                                   QString::number(SessionOwner::callerOfHelper()),
+                                   QStringLiteral("--app"), path};
     const auto launched = co_await production->privileged().runHelper(arguments);
     if (!launched)
         Console::printError(launched.error().description());
@@ -236,7 +247,8 @@ QCoro::Task<ExitStatus> execute(Invocation invocation, PlatformProfile profile)
     case Verb::Id::downloadTransports:
         return downloadTransportsHere(profile);
     case Verb::Id::launch:
-        return geteuid() == 0 ? launchHere(invocation.key, std::make_shared<Production>(profile)) : refuse();
+        return geteuid() == 0 ? launchHere(invocation.key, std::make_shared<Production>(profile))
+                              : refuse();
     default:
         return refuse();
     }

@@ -4,7 +4,8 @@
 
 namespace veldmark::Console {
 
-// Whole lines on standard output, and messages on standard error, in the user's language. UTF-8, flushed at once.
+// Whole lines on standard output, and messages on standard error, in the user's language. UTF-8,
+// flushed at once.
 void print(const Text &text);
 void printError(const Text &text);
 

@@ -15,11 +15,14 @@ QJsonObject doctorFindings(const Findings &findings)
 {
     QJsonArray list;
     for (const Finding &finding : findings)
-        list.append(QJsonObject{{QStringLiteral("name"), finding.name},
-                                {QStringLiteral("level"), levelName(finding.level)},
-                                {QStringLiteral("text"), finding.text.english()},
-                                {QStringLiteral("command"), finding.command.isEmpty() ? QJsonValue() : QJsonValue(finding.command)}});
-    return {{QStringLiteral("canConnect"), canConnect(findings)}, {QStringLiteral("findings"), list}};
+        list.append(
+            QJsonObject{{QStringLiteral("name"), finding.name},
+                        {QStringLiteral("level"), levelName(finding.level)},
+                        {QStringLiteral("text"), finding.text.english()},
+                        {QStringLiteral("command"),
+                         finding.command.isEmpty() ? QJsonValue() : QJsonValue(finding.command)}});
+    return {{QStringLiteral("canConnect"), canConnect(findings)},
+            {QStringLiteral("findings"), list}};
 }
 
 namespace {
@@ -46,11 +49,14 @@ QString Report::doctor(const Findings &findings)
     constexpr qsizetype column = 9;
     QStringList lines;
     for (const Finding &finding : findings) {
-        lines << levelWord(finding.level).translated().leftJustified(column) + finding.text.translated();
+        lines << levelWord(finding.level).translated().leftJustified(column)
+                + finding.text.translated();
         if (!finding.command.isEmpty())
             lines << QString(column, u' ') + finding.command;
     }
-    lines << (canConnect(findings) ? Text::tr("A connect can work.") : Text::tr("A connect can't work yet.")).translated();
+    lines << (canConnect(findings) ? Text::tr("A connect can work.")
+                                   : Text::tr("A connect can't work yet."))
+                 .translated();
     return lines.join(u'\n');
 }
 
@@ -63,7 +69,8 @@ QCoro::Task<ExitStatus> showDoctor(Invocation invocation, PlatformProfile profil
     Examiner examiner(profile, settings, processes);
     auto examining = examiner.examine();
     const Findings findings = co_await examining;
-    Console::print(invocation.json ? QString::fromUtf8(QJsonDocument(doctorFindings(findings)).toJson(QJsonDocument::Compact))
+    Console::print(invocation.json ? QString::fromUtf8(
+                       QJsonDocument(doctorFindings(findings)).toJson(QJsonDocument::Compact))
                                    : Report::doctor(findings));
     if (canConnect(findings))
         co_return ExitStatus::done;

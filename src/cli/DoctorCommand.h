@@ -11,7 +11,8 @@ namespace veldmark {
 
 struct PlatformProfile;
 
-// `veldmarkctl doctor`: looks at this computer, with or without a running instance. Fails when a connect cannot work.
+// `veldmarkctl doctor`: looks at this computer, with or without a running instance. Fails when a
+// connect cannot work.
 QCoro::Task<ExitStatus> showDoctor(Invocation invocation, PlatformProfile profile);
 
 // {"canConnect": bool, "findings": [{"name": …, "level": …, "text": …, "command": … or null}]}
@@ -19,7 +20,8 @@ QJsonObject doctorFindings(const Findings &findings);
 
 namespace Report {
 
-// A line for each finding, below it what mends it, and a last line that says whether a connect can work.
+// A line for each finding, below it what mends it, and a last line that says whether a connect can
+// work.
 QString doctor(const Findings &findings);
 
 } // namespace Report

@@ -29,8 +29,9 @@ constexpr int readings = 20; // it may be written just then
 
 Text whyNone(const PlatformProfile &profile)
 {
-    return profile.identitiesNote.isEmpty() ? Text::tr("Applications are not told apart on this system.")
-                                            : Text::tr("Applications are not separated now: they share circuits.");
+    return profile.identitiesNote.isEmpty()
+        ? Text::tr("Applications are not told apart on this system.")
+        : Text::tr("Applications are not separated now: they share circuits.");
 }
 
 bool isMine(const Identities::Identity &identity)
@@ -47,8 +48,7 @@ ExitStatus fail(const Text &reason, ExitStatus status = ExitStatus::failed)
 // The socket of the program that gives identities.
 class Sending {
 public:
-    explicit Sending(const QString &path)
-        : m_socket(socket(AF_UNIX, SOCK_DGRAM, 0))
+    explicit Sending(const QString &path) : m_socket(socket(AF_UNIX, SOCK_DGRAM, 0))
     {
         sockaddr_un place{};
         place.sun_family = AF_UNIX;
@@ -56,7 +56,8 @@ public:
         if (m_socket < 0 || name.size() >= static_cast<qsizetype>(sizeof place.sun_path))
             return;
         std::memcpy(place.sun_path, name.constData(), static_cast<std::size_t>(name.size()));
-        m_isThere = ::connect(m_socket, reinterpret_cast<const sockaddr *>(&place), sizeof place) == 0;
+        m_isThere = ::connect(m_socket, reinterpret_cast<const sockaddr *>(&place), sizeof place)
+            == 0;
     }
     Sending(const Sending &) = delete;
     Sending &operator=(const Sending &) = delete;
@@ -68,7 +69,9 @@ public:
     bool isThere() const { return m_isThere; }
     bool send(const QByteArray &wish) const
     {
-        return m_isThere && ::send(m_socket, wish.constData(), static_cast<std::size_t>(wish.size()), 0) == wish.size();
+        return m_isThere
+            && ::send(m_socket, wish.constData(), static_cast<std::size_t>(wish.size()), 0)
+            == wish.size();
     }
 
 private:
@@ -91,18 +94,22 @@ exec "$@")");
 std::optional<Identities> Identities::parse(const QByteArray &text)
 {
     const QList<QByteArray> lines = text.split('\n');
-    if (lines.size() < 4 || !lines.constLast().isEmpty() || !lines.constFirst().startsWith("identities "))
+    if (lines.size() < 4 || !lines.constLast().isEmpty()
+        || !lines.constFirst().startsWith("identities "))
         return std::nullopt;
-    if (lines[lines.size() - 2] != "end " + lines.constFirst().mid(11) || (lines[1] != "standing" && lines[1] != "lost"))
+    if (lines[lines.size() - 2] != "end " + lines.constFirst().mid(11)
+        || (lines[1] != "standing" && lines[1] != "lost"))
         return std::nullopt;
     Identities found;
     found.standing = lines[1] == "standing";
-    static const QRegularExpression line(QStringLiteral("^([0-9]{1,10}) (127(?:\\.[0-9]{1,3}){3}) ([!-~]+)$"));
+    static const QRegularExpression line(
+        QStringLiteral("^([0-9]{1,10}) (127(?:\\.[0-9]{1,3}){3}) ([!-~]+)$"));
     for (const QByteArray &entry : lines.mid(2, lines.size() - 4)) {
         const auto words = line.match(QString::fromLatin1(entry));
         if (!words.hasMatch())
             return std::nullopt;
-        found.all.push_back({static_cast<uid_t>(words.captured(1).toULongLong()), words.captured(2), words.captured(3)});
+        found.all.push_back({static_cast<uid_t>(words.captured(1).toULongLong()), words.captured(2),
+                             words.captured(3)});
     }
     return found;
 }
@@ -135,19 +142,24 @@ QCoro::Task<ExitStatus> showIdentities(Invocation invocation, PlatformProfile pr
     for (const auto &identity : shown)
         width = std::max(width, identity.application.size());
     for (const auto &identity : shown) {
-        json.append(QJsonObject{{QStringLiteral("application"), identity.application}, {QStringLiteral("address"), identity.address},
+        json.append(QJsonObject{{QStringLiteral("application"), identity.application},
+                                {QStringLiteral("address"), identity.address},
                                 {QStringLiteral("user"), static_cast<qint64>(identity.user)}});
         lines << identity.application.leftJustified(width) + QStringLiteral("  ") + identity.address
-                + (geteuid() == 0 ? QStringLiteral("  ") + Text::tr("user %1").arg(identity.user).translated() : QString());
+                + (geteuid() == 0
+                       ? QStringLiteral("  ") + Text::tr("user %1").arg(identity.user).translated()
+                       : QString());
     }
     if (invocation.json) {
-        const QJsonObject all{{QStringLiteral("separated"), standing}, {QStringLiteral("identities"), json}};
+        const QJsonObject all{{QStringLiteral("separated"), standing},
+                              {QStringLiteral("identities"), json}};
         Console::print(QString::fromUtf8(QJsonDocument(all).toJson(QJsonDocument::Compact)));
         co_return ExitStatus::done;
     }
     if (!standing)
         co_return fail(whyNone(profile));
-    Console::print(lines.isEmpty() ? Text::tr("No application has an identity of its own now.") : Text(lines.join(u'\n')));
+    Console::print(lines.isEmpty() ? Text::tr("No application has an identity of its own now.")
+                                   : Text(lines.join(u'\n')));
     co_return ExitStatus::done;
 }
 
@@ -157,14 +169,19 @@ QCoro::Task<ExitStatus> renewIdentity(Invocation invocation, PlatformProfile pro
     if (!known || !known->standing)
         co_return fail(whyNone(profile));
     const auto addressIn = [&invocation](const Identities &identities) {
-        const auto found = std::find_if(identities.all.begin(), identities.all.end(), [&invocation](const Identities::Identity &identity) {
-            return identity.user == geteuid() && identity.application == invocation.key;
-        });
+        const auto found = std::find_if(identities.all.begin(), identities.all.end(),
+                                        [&invocation](const Identities::Identity &identity) {
+                                            return identity.user == geteuid()
+                                                && identity.application == invocation.key;
+                                        });
         return found == identities.all.end() ? QString() : found->address;
     };
     const QString former = addressIn(*known);
     if (former.isEmpty())
-        co_return fail(Text::tr("No application of yours has that identity; \"veldmarkctl identities\" lists them."), ExitStatus::usage);
+        co_return fail(
+            Text::tr(
+                "No application of yours has that identity; \"veldmarkctl identities\" lists them."),
+            ExitStatus::usage);
     if (!Sending(profile.identitiesSocket).send("new " + invocation.key.toLatin1()))
         co_return fail(whyNone(profile));
     for (int waits = 0; waits < 100; ++waits) {
@@ -176,36 +193,54 @@ QCoro::Task<ExitStatus> renewIdentity(Invocation invocation, PlatformProfile pro
     co_return fail(Text::tr("The application has not got another identity."));
 }
 
-QStringList runAsWords(const QString &name, const QString &start, uid_t user, const PlatformProfile &profile, const QStringList &program)
+QStringList runAsWords(const QString &name, const QString &start, uid_t user,
+                       const PlatformProfile &profile, const QStringList &program)
 {
-    return QStringList{QStringLiteral("systemd-run"), QStringLiteral("--user"), QStringLiteral("--scope"), QStringLiteral("--quiet"),
-                       QStringLiteral("--collect"), QStringLiteral("--slice=app.slice"),
-                       QStringLiteral("--unit=app-veldmark-%1-%2.scope").arg(name, start), QStringLiteral("--"), QStringLiteral("/bin/sh"),
-                       QStringLiteral("-c"), waitInGroup, QStringLiteral("veldmarkctl"),
-                       Text::tr("The program has not got an identity of its own, so it was not started.").translated(),
-                       QStringLiteral(R"(%1 [0-9.]* as:%2)").arg(user).arg(QString(name).replace(u'.', QStringLiteral("\\."))), profile.identitiesNote}
-        + program;
+    return QStringList{
+               QStringLiteral("systemd-run"),
+               QStringLiteral("--user"),
+               QStringLiteral("--scope"),
+               QStringLiteral("--quiet"),
+               QStringLiteral("--collect"),
+               QStringLiteral("--slice=app.slice"),
+               QStringLiteral("--unit=app-veldmark-%1-%2.scope").arg(name, start),
+               QStringLiteral("--"),
+               QStringLiteral("/bin/sh"),
+               QStringLiteral("-c"),
+               waitInGroup,
+               QStringLiteral("veldmarkctl"),
+               Text::tr("The program has not got an identity of its own, so it was not started.")
+                   .translated(),
+               QStringLiteral(R"(%1 [0-9.]* as:%2)")
+                   .arg(user)
+                   .arg(QString(name).replace(u'.', QStringLiteral("\\."))),
+               profile.identitiesNote}
+    + program;
 }
 
 QCoro::Task<ExitStatus> runAs(Invocation invocation, PlatformProfile profile)
 {
     static const QRegularExpression names(QStringLiteral("\\A[A-Za-z0-9_.]{1,40}\\z"));
     if (!names.match(invocation.key).hasMatch())
-        co_return fail(Text::tr("A name has up to 40 letters, digits, dots and underscores."), ExitStatus::usage);
+        co_return fail(Text::tr("A name has up to 40 letters, digits, dots and underscores."),
+                       ExitStatus::usage);
     const auto known = Identities::read(profile);
     if (!known || !known->standing)
         co_return fail(whyNone(profile));
     const QString start = QString::number(QRandomGenerator::system()->generate());
     std::vector<QByteArray> words;
-    for (const QString &word : runAsWords(invocation.key, start, geteuid(), profile, invocation.program))
+    for (const QString &word :
+         runAsWords(invocation.key, start, geteuid(), profile, invocation.program))
         words.push_back(QFile::encodeName(word));
     std::vector<char *> arguments;
     for (QByteArray &word : words)
         arguments.push_back(word.data());
     arguments.push_back(nullptr);
     execvp(arguments.front(), arguments.data());
-    co_return fail(errno == ENOENT ? Text::tr("The program systemd-run is missing, which makes groups for programs.")
-                                   : Text::tr("The program could not be started: %1.").arg(QString::fromLocal8Bit(std::strerror(errno))));
+    co_return fail(errno == ENOENT ? Text::tr(
+                       "The program systemd-run is missing, which makes groups for programs.")
+                                   : Text::tr("The program could not be started: %1.")
+                                         .arg(QString::fromLocal8Bit(std::strerror(errno))));
 }
 
 } // namespace veldmark

@@ -47,12 +47,13 @@ void print(const QList<TorLogLine> &lines)
 // Says why there is nothing to show. True when the files are there but closed to this user.
 bool explain(const TorLogFilter &filter, const TorLogStore &store)
 {
-    const auto placeholder =
-        filter.placeholder(store.snapshot(), filter.shown(store.snapshot()), store.log().runDirectory());
+    const auto placeholder = filter.placeholder(store.snapshot(), filter.shown(store.snapshot()),
+                                                store.log().runDirectory());
     if (placeholder)
-        Console::printError(placeholder->text.isEmpty()
-                                ? placeholder->title
-                                : Text::joined({placeholder->title, placeholder->text}, QStringLiteral(": ")));
+        Console::printError(
+            placeholder->text.isEmpty()
+                ? placeholder->title
+                : Text::joined({placeholder->title, placeholder->text}, QStringLiteral(": ")));
     return store.snapshot().kind() == TorLog::Snapshot::Kind::unreadable;
 }
 

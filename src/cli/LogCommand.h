@@ -19,14 +19,14 @@ QCoro::Task<ExitStatus> showLog(Invocation invocation, PlatformProfile profile);
 // `coloured`: errors red, warnings yellow, the time faint.
 QString logLineText(const TorLogLine &line, bool coloured);
 
-// The lines of `now` that were not in `before`, in order. The merged log is no file that only grows:
-// its beginning is cut, files rotate, and a start-up line goes when Tor logs it too.
+// The lines of `now` that were not in `before`, in order. The merged log is no file that only
+// grows: its beginning is cut, files rotate, and a start-up line goes when Tor logs it too.
 QList<TorLogLine> newLogLines(const QList<TorLogLine> &before, const QList<TorLogLine> &now);
 
 // What somebody who follows the log has not been shown yet.
 class LogFollower {
 public:
-    explicit LogFollower(QList<TorLogLine> shown) : m_shown(std::move(shown)) {}
+    explicit LogFollower(QList<TorLogLine> shown) : m_shown(std::move(shown)) { }
     // The new ones of `now`; they count as shown from then on.
     QList<TorLogLine> take(const QList<TorLogLine> &now)
     {

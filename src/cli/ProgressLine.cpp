@@ -24,7 +24,9 @@ QString ProgressLine::update(double progress, const QString &detail)
     const QString bar = QString(full, QChar(0x2588)) + QString(barCells - full, QChar(0x2591));
     m_open = true;
     return QStringLiteral("\r\x1b[K%1 %2%  %3")
-        .arg(bar).arg(percent, 3).arg(detail.left(std::max(0, m_columns - besideDetail)));
+        .arg(bar)
+        .arg(percent, 3)
+        .arg(detail.left(std::max(0, m_columns - besideDetail)));
 }
 
 QString ProgressLine::update(const QString &text)

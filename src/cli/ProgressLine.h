@@ -8,7 +8,7 @@ namespace veldmark {
 // Tor's own words), elsewhere a plain line for each change.
 class ProgressLine {
 public:
-    ProgressLine(bool terminal, int columns) : m_terminal(terminal), m_columns(columns) {}
+    ProgressLine(bool terminal, int columns) : m_terminal(terminal), m_columns(columns) { }
 
     // `progress` 0…1. Gives what is to be written now, empty when nothing has changed.
     QString update(double progress, const QString &detail);

@@ -14,7 +14,8 @@ namespace {
 
 QString row(const Text &name, const Text &text)
 {
-    return QStringLiteral("\n  ") + (name.translated() + u' ').leftJustified(12) + text.translated();
+    return QStringLiteral("\n  ") + (name.translated() + u' ').leftJustified(12)
+        + text.translated();
 }
 
 QString text(const QJsonObject &state, const char *key)
@@ -43,7 +44,8 @@ Text killSwitchText(const QJsonObject &state)
 {
     const QString word = text(state, "killSwitch");
     const QString since = QDateTime::fromString(text(state, "killSwitchSince"), Qt::ISODate)
-                              .toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+                              .toLocalTime()
+                              .toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
     if (word == QLatin1String("standing"))
         return Text::tr("stands, since %1").arg(since);
     if (word == QLatin1String("putBack"))
@@ -127,7 +129,9 @@ QString bytes(double count)
         count /= 1000;
         ++unit;
     }
-    return QStringLiteral("%1 %2").arg(count, 0, 'f', unit == 0 ? 0 : 1).arg(QLatin1String(units[unit]));
+    return QStringLiteral("%1 %2")
+        .arg(count, 0, 'f', unit == 0 ? 0 : 1)
+        .arg(QLatin1String(units[unit]));
 }
 
 QString status(const QJsonObject &state)
@@ -138,23 +142,28 @@ QString status(const QJsonObject &state)
     if (phase == QLatin1String("connected")) {
         report += row(Text::tr("Mode"), modeText(state));
         report += row(Text::tr("Exit"), exitText(state));
-        const bool isStalled = state.value(QStringLiteral("stall")).isString(); // a time of before would promise too much
-        if (const QJsonValue latency = state.value(QStringLiteral("latencyMs")); latency.isDouble() && !isStalled)
+        // a time of before would promise too much
+        const bool isStalled = state.value(QStringLiteral("stall")).isString();
+        if (const QJsonValue latency = state.value(QStringLiteral("latencyMs"));
+            latency.isDouble() && !isStalled)
             report += row(Text::tr("Latency"), Text::tr("%1 ms through Tor").arg(latency.toInt()));
         report += row(Text::tr("Direct path"), directText(state));
         report += row(Text::tr("DNS"), dnsText(state));
-        report += row(Text::tr("Traffic"), Text::tr("%1 received, %2 sent")
-                                     .arg(bytes(state.value(QStringLiteral("bytesRead")).toDouble()),
-                                          bytes(state.value(QStringLiteral("bytesWritten")).toDouble())));
+        report += row(Text::tr("Traffic"),
+                      Text::tr("%1 received, %2 sent")
+                          .arg(bytes(state.value(QStringLiteral("bytesRead")).toDouble()),
+                               bytes(state.value(QStringLiteral("bytesWritten")).toDouble())));
         if (const QString bridge = text(state, "activeBridge"); !bridge.isEmpty())
             report += row(Text::tr("Bridges"), bridge);
     } else if (phase == QLatin1String("connecting")) {
-        report += row(Text::tr("Progress"), QStringLiteral("%1%").arg(
-                          qRound(state.value(QStringLiteral("bootstrapProgress")).toDouble() * 100)));
+        report += row(Text::tr("Progress"),
+                      QStringLiteral("%1%").arg(qRound(
+                          state.value(QStringLiteral("bootstrapProgress")).toDouble() * 100)));
     } else if (phase == QLatin1String("stale")) {
         const bool isAnothers = state.value(QStringLiteral("otherSession")).isObject();
-        report += row(Text::tr("What to do"), isAnothers ? Text::tr("nothing; veldmarkctl restore would end that session")
-                                               : Text(QStringLiteral("veldmarkctl restore")));
+        report += row(Text::tr("What to do"),
+                      isAnothers ? Text::tr("nothing; veldmarkctl restore would end that session")
+                                 : Text(QStringLiteral("veldmarkctl restore")));
     }
     if (!text(state, "killSwitch").isEmpty())
         report += row(Text::tr("Kill switch"), killSwitchText(state));
@@ -181,9 +190,13 @@ QString circuits(const QJsonObject &state)
         QStringList path;
         for (const QJsonValue &hop : circuit.value(QStringLiteral("hops")).toArray())
             path << hopText(hop.toObject());
-        const QString purpose = text(circuit, "purpose"); // Tor's word for the way to an onion service is long
-        lines << QStringLiteral("%1  %2  %3").arg(text(circuit, "id"), 4)
-                     .arg(purpose == QLatin1String("HS_CLIENT_REND") ? QStringLiteral("ONION") : purpose, -8)
+        // Tor's word for the way to an onion service is long
+        const QString purpose = text(circuit, "purpose");
+        lines << QStringLiteral("%1  %2  %3")
+                     .arg(text(circuit, "id"), 4)
+                     .arg(purpose == QLatin1String("HS_CLIENT_REND") ? QStringLiteral("ONION")
+                                                                     : purpose,
+                          -8)
                      .arg(path.join(QStringLiteral(" → ")));
         QStringList sites;
         for (const QJsonValue &site : circuit.value(QStringLiteral("sites")).toArray())

@@ -7,12 +7,12 @@
 namespace veldmark {
 
 RunCommand::RunCommand(const PlatformProfile &profile, bool connectNow)
-    : m_production(profile)
-    , m_controller(m_production.controller())
-    , m_watch(m_controller)
-    , m_withdrawal(m_controller)
-    , m_connectNow(connectNow)
-    , m_lines(m_controller)
+    : m_production(profile),
+      m_controller(m_production.controller()),
+      m_watch(m_controller),
+      m_withdrawal(m_controller),
+      m_connectNow(connectNow),
+      m_lines(m_controller)
 {
     QObject::connect(&m_signals, &SignalWatcher::received, this, &RunCommand::onSignal);
     QObject::connect(&m_controller.phase, &Field::changed, this, [this] {
@@ -48,9 +48,11 @@ QCoro::Task<void> RunCommand::begin()
         co_await m_controller.connect();
     else
         co_await m_controller.autoConnectIfEnabled();
-    if (!self || m_withdrawal.isUnderWay() || m_restored) // somebody else has ended the attempt by a disconnect
+    // somebody else has ended the attempt by a disconnect
+    if (!self || m_withdrawal.isUnderWay() || m_restored)
         co_return;
-    const bool isRefused = m_controller.phase() == ConnectionPhase::disconnected || m_controller.otherSession();
+    const bool isRefused = m_controller.phase() == ConnectionPhase::disconnected
+        || m_controller.otherSession();
     if (m_connectNow && isRefused) {
         m_lines.complain(m_controller.errorMessage().value_or(
             m_controller.otherSession() ? m_controller.statusDetail() : Text::tr("Cancelled.")));
@@ -82,7 +84,8 @@ void RunCommand::onWithdrawn(bool restored)
     }
     m_lines.complain(m_controller.errorMessage().value_or(Text::tr("Cancelled.")));
     if (m_mustEnd) {
-        m_lines.complain(Text::tr("The network is still set up for Tor. Restore it with: %1").arg(m_controller.profile().manualRestoreCommand));
+        m_lines.complain(Text::tr("The network is still set up for Tor. Restore it with: %1")
+                             .arg(m_controller.profile().manualRestoreCommand));
         finish(ExitStatus::failed);
         return;
     }

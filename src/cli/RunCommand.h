@@ -45,8 +45,8 @@ private:
     SignalWatcher m_signals;
     SessionLines m_lines;
     bool m_restored = false; // a disconnect has begun since the start
-    bool m_mustEnd = false; // asked by somebody who won't ask again: SIGTERM, SIGHUP
-    QObject m_lifetime;     // goes first, so that what the others' ends resume finds it gone
+    bool m_mustEnd = false;  // asked by somebody who won't ask again: SIGTERM, SIGHUP
+    QObject m_lifetime;      // goes first, so that what the others' ends resume finds it gone
 };
 
 } // namespace veldmark

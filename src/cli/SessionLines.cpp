@@ -10,10 +10,12 @@
 namespace veldmark {
 
 SessionLines::SessionLines(const TorController &controller)
-    : m_controller(controller), m_progress(Console::isTerminal(), Console::width())
+    : m_controller(controller),
+      m_progress(Console::isTerminal(), Console::width())
 {
     // Queued: what is shown has been set as a whole.
-    const auto follow = [this](std::initializer_list<const Field *> fields, void (SessionLines::*show)()) {
+    const auto follow = [this](std::initializer_list<const Field *> fields,
+                               void (SessionLines::*show)()) {
         for (const Field *field : fields)
             QObject::connect(field, &Field::changed, this, show, Qt::QueuedConnection);
     };
@@ -22,7 +24,8 @@ SessionLines::SessionLines(const TorController &controller)
     follow({&c.bootstrapProblem}, &SessionLines::showProblem);
     follow({&c.phase, &c.isChecking}, &SessionLines::showPhase);
     follow({&c.killSwitch}, &SessionLines::showKillSwitch);
-    follow({&c.dnsStatus, &c.leakStatus, &c.torVerified, &c.otherSession, &c.stall}, &SessionLines::showVerdict);
+    follow({&c.dnsStatus, &c.leakStatus, &c.torVerified, &c.otherSession, &c.stall},
+           &SessionLines::showVerdict);
 }
 
 void SessionLines::finish()
@@ -33,7 +36,8 @@ void SessionLines::finish()
 void SessionLines::showProgress()
 {
     if (m_controller.phase() == ConnectionPhase::connecting)
-        Console::draw(m_progress.update(m_controller.bootstrapProgress(), m_controller.statusDetail().translated()));
+        Console::draw(m_progress.update(m_controller.bootstrapProgress(),
+                                        m_controller.statusDetail().translated()));
 }
 
 void SessionLines::showProblem()
@@ -59,7 +63,8 @@ void SessionLines::showPhase()
         Console::draw(m_progress.update(1.0, Text::tr("Done").translated()));
     m_lastPhase = phase;
     QString report = phase == ConnectionPhase::connected || phase == ConnectionPhase::stale
-        ? Report::status(inUsersLanguage(publishedState(m_controller), publishedTexts(m_controller)))
+        ? Report::status(
+            inUsersLanguage(publishedState(m_controller), publishedTexts(m_controller)))
         : verdictText();
     m_lastVerdict = verdictText();
     if (report == std::exchange(m_lastReport, report))

@@ -13,8 +13,9 @@ namespace veldmark {
 
 class TorController;
 
-// What `veldmarkctl run` prints of the session while it lives, each change once: the progress of a connect on a line that is
-// drawn over and over, reports and warnings on lines of their own. Main thread.
+// What `veldmarkctl run` prints of the session while it lives, each change once: the progress of a
+// connect on a line that is drawn over and over, reports and warnings on lines of their own. Main
+// thread.
 class SessionLines : public QObject {
     Q_OBJECT
 

@@ -45,16 +45,18 @@ int main(int argc, char **argv)
     }
 
     if (invocation->verb == Verb::Id::complete)
-        return static_cast<int>(showCompletions(*invocation, PlatformProfile::current(Places::fromEnvironment())));
+        return static_cast<int>(
+            showCompletions(*invocation, PlatformProfile::current(Places::fromEnvironment())));
 
     const LastTurn lastTurn; // what still waits when the program ends goes after everything else
     const PlatformProfile profile = PlatformProfile::current(Places::fromEnvironment());
     std::unique_ptr<RunCommand> run;
     if (invocation->verb == Verb::Id::run) {
         run = std::make_unique<RunCommand>(profile, invocation->connectNow);
-        QObject::connect(run.get(), &RunCommand::finished, &application,
-                         [](ExitStatus status) { QCoreApplication::exit(static_cast<int>(status)); },
-                         Qt::QueuedConnection);
+        QObject::connect(
+            run.get(), &RunCommand::finished, &application,
+            [](ExitStatus status) { QCoreApplication::exit(static_cast<int>(status)); },
+            Qt::QueuedConnection);
     }
     QTimer::singleShot(0, &application, [&run, &invocation, &profile] {
         if (run)

@@ -37,8 +37,11 @@ QCoro::Task<void> abortAfter(Clock *clock, std::chrono::milliseconds duration,
         connection->abort(reason);
 }
 
-ControlConnection::ControlConnection(quint16 port, const QHostAddress &host, std::optional<uid_t> torUser)
-    : m_host(host), m_port(port), m_torUser(torUser)
+ControlConnection::ControlConnection(quint16 port, const QHostAddress &host,
+                                     std::optional<uid_t> torUser)
+    : m_host(host),
+      m_port(port),
+      m_torUser(torUser)
 {
 }
 
@@ -99,7 +102,7 @@ QCoro::Task<Result<void, ControlPortError>> ControlConnection::open(QString pass
     if (m_failure)
         co_return Failure(*m_failure);
     m_socket.reset(new QTcpSocket);
-    m_socket->setProxy(QNetworkProxy::NoProxy); // the system's proxy may well be Tor itself
+    m_socket->setProxy(QNetworkProxy::NoProxy);     // the system's proxy may well be Tor itself
     m_socket->setReadBufferSize(largestChunkBytes); // more is left to the system to hold back
     connect(m_socket.get(), &QTcpSocket::connected, this, &ControlConnection::signalChange);
     connect(m_socket.get(), &QTcpSocket::readyRead, this, &ControlConnection::signalChange);
@@ -128,7 +131,8 @@ QCoro::Task<Result<void, ControlPortError>> ControlConnection::open(QString pass
     co_return Result<void, ControlPortError>{};
 }
 
-// What counts is who has this very connection, not who listens by now: a listener can make room for Tor.
+// What counts is who has this very connection, not who listens by now: a listener can make room for
+// Tor.
 QCoro::Task<Result<void, ControlPortError>> ControlConnection::proveTor()
 {
     for (int absent = 0;;) {
@@ -137,8 +141,9 @@ QCoro::Task<Result<void, ControlPortError>> ControlConnection::proveTor()
             co_return Result<void, ControlPortError>{};
         if (peer.kind == PeerAccount::Kind::Accepted
             || (peer.kind == PeerAccount::Kind::Absent && ++absent > absentPolls)) {
-            m_failure = m_socket->state() == QAbstractSocket::ConnectedState ? ControlPortError::stranger()
-                                                                             : ControlPortError::closed();
+            m_failure = m_socket->state() == QAbstractSocket::ConnectedState
+                ? ControlPortError::stranger()
+                : ControlPortError::closed();
             co_return Failure(*m_failure);
         }
         const Change change = nextChange();

@@ -83,7 +83,7 @@ private:
     const std::optional<uid_t> m_torUser;
     std::shared_ptr<ControlTraffic> m_traffic = std::make_shared<ControlTraffic>();
     std::unique_ptr<QTcpSocket> m_socket; // null before open() and after close()
-    std::optional<Change> m_change; // what the waiting task, if any, waits for
+    std::optional<Change> m_change;       // what the waiting task, if any, waits for
     std::optional<ControlPortError> m_failure;
     ReplyFraming m_framing;
 };

@@ -16,10 +16,11 @@ constexpr uid_t nobody = static_cast<uid_t>(-1); // no process can have it
 // What one operation holds for as long as it runs: its connection and the watch over its time.
 class Session {
 public:
-    Session(Clock &clock, quint16 port, const ControlPort::TorUser &torUser, const QObject &lifetime,
-            std::shared_ptr<ControlTraffic> traffic, Milliseconds limit)
+    Session(Clock &clock, quint16 port, const ControlPort::TorUser &torUser,
+            const QObject &lifetime, std::shared_ptr<ControlTraffic> traffic, Milliseconds limit)
         : m_connection(std::make_unique<ControlConnection>(
-              port, QHostAddress(QHostAddress::LocalHost), torUser ? std::optional(torUser().value_or(nobody)) : std::nullopt)),
+            port, QHostAddress(QHostAddress::LocalHost),
+            torUser ? std::optional(torUser().value_or(nobody)) : std::nullopt)),
           m_watched(std::make_shared<const std::monostate>())
     {
         ControlConnection *connection = m_connection.get();
@@ -69,16 +70,22 @@ QString hostOf(const QString &target)
 } // namespace
 
 ControlPort::ControlPort(Clock &clock, quint16 port, TorUser torUser)
-    : m_clock(clock), m_port(port), m_torUser(std::move(torUser)), m_traffic(std::make_shared<ControlTraffic>())
+    : m_clock(clock),
+      m_port(port),
+      m_torUser(std::move(torUser)),
+      m_traffic(std::make_shared<ControlTraffic>())
 {
 }
 
-ControlTraffic ControlPort::traffic() const { return *m_traffic; }
+ControlTraffic ControlPort::traffic() const
+{
+    return *m_traffic;
+}
 
 // The operations below may outlive their ControlPort, so none uses a member after its first wait.
 
-ControlPort::Outcome<ControlPort::Values>
-ControlPort::getInfo(QStringList keys, QString password, Milliseconds limit)
+ControlPort::Outcome<ControlPort::Values> ControlPort::getInfo(QStringList keys, QString password,
+                                                               Milliseconds limit)
 {
     const QString command = QStringLiteral("GETINFO ") + keys.join(u' ');
     if (const auto refused = refusal({command, password}))
@@ -102,8 +109,8 @@ ControlPort::Outcome<void> ControlPort::signal(QString name, QString password, M
     co_return Result<void, ControlPortError>{};
 }
 
-ControlPort::Outcome<std::vector<std::optional<ControlPort::Reply>>>
-ControlPort::batch(QStringList commands, QString password, Milliseconds limit)
+ControlPort::Outcome<std::vector<std::optional<ControlPort::Reply>>> ControlPort::batch(
+    QStringList commands, QString password, Milliseconds limit)
 {
     if (const auto refused = refusal(commands + QStringList(password)))
         co_return Failure(*refused);
@@ -124,8 +131,9 @@ ControlPort::batch(QStringList commands, QString password, Milliseconds limit)
     co_return replies;
 }
 
-ControlPort::Outcome<QStringList>
-ControlPort::captureResolves(QString password, Milliseconds duration, Work work, Milliseconds limit)
+ControlPort::Outcome<QStringList> ControlPort::captureResolves(QString password,
+                                                               Milliseconds duration, Work work,
+                                                               Milliseconds limit)
 {
     if (const auto refused = refusal({password}))
         co_return Failure(*refused);

@@ -40,14 +40,14 @@ public:
     using Values = QHash<QString, QString>;
     // Work that is run during a capture. It is asked to stop when the capture ends.
     using Work = std::function<QCoro::Task<void>(StopToken)>;
-    template <typename T>
-    using Outcome = QCoro::Task<Result<T, ControlPortError>>;
+    template <typename T> using Outcome = QCoro::Task<Result<T, ControlPortError>>;
 
     static constexpr quint16 defaultPort = 9051;
     static constexpr std::chrono::milliseconds defaultLimit{20'000};
 
-    // The account that Tor runs in, asked anew each time; the password goes to nobody else's process. Nothing: no
-    // process is trusted. Without the function, any is, as where the system does not tell.
+    // The account that Tor runs in, asked anew each time; the password goes to nobody else's
+    // process. Nothing: no process is trusted. Without the function, any is, as where the system
+    // does not tell.
     using TorUser = std::function<std::optional<uid_t>()>;
 
     explicit ControlPort(Clock &clock, quint16 port = defaultPort, TorUser torUser = {});
@@ -63,15 +63,15 @@ public:
 
     // Sends the commands one after the other on one connection. One element for each: its reply,
     // or nothing where Tor refused this command. The limit is for all of them together.
-    [[nodiscard]] Outcome<std::vector<std::optional<Reply>>>
-    batch(QStringList commands, QString password, std::chrono::milliseconds limit = defaultLimit);
+    [[nodiscard]] Outcome<std::vector<std::optional<Reply>>> batch(
+        QStringList commands, QString password, std::chrono::milliseconds limit = defaultLimit);
 
     // The names, in lower case and in the order of the events, that Tor is asked to resolve while
     // `work` runs, for `duration`. A name stands there once for each event (usually several). The
     // limit is for what comes before the capture. Fails only if the capture cannot begin.
-    [[nodiscard]] Outcome<QStringList>
-    captureResolves(QString password, std::chrono::milliseconds duration, Work work,
-                    std::chrono::milliseconds limit = defaultLimit);
+    [[nodiscard]] Outcome<QStringList> captureResolves(
+        QString password, std::chrono::milliseconds duration, Work work,
+        std::chrono::milliseconds limit = defaultLimit);
 
     // What all operations so far have sent to Tor and received.
     ControlTraffic traffic() const;
@@ -88,7 +88,7 @@ private:
     const quint16 m_port;
     const TorUser m_torUser;
     const std::shared_ptr<ControlTraffic> m_traffic; // shared with the operations under way
-    QObject m_lifetime; // its destroyed() ends the operations
+    QObject m_lifetime;                              // its destroyed() ends the operations
 };
 
 } // namespace veldmark

@@ -34,7 +34,7 @@ public:
     friend bool operator==(const ControlPortError &, const ControlPortError &) = default;
 
 private:
-    ControlPortError(Kind kind, const Text &text) : m_kind(kind), m_text(text) {}
+    ControlPortError(Kind kind, const Text &text) : m_kind(kind), m_text(text) { }
 
     Kind m_kind;
     Text m_text;

@@ -8,8 +8,8 @@
 
 namespace veldmark {
 
-// Whose program has accepted a connection on this computer, as the kernel tells: a password must not be sent to whatever
-// listens where Tor should.
+// Whose program has accepted a connection on this computer, as the kernel tells: a password must
+// not be sent to whatever listens where Tor should.
 struct PeerAccount {
     enum class Kind {
         Absent,   // there is no such connection (any more, or yet)
@@ -19,8 +19,8 @@ struct PeerAccount {
     Kind kind = Kind::Absent;
     uid_t user = 0;
 
-    // The end at 127.0.0.1:`port` of the connection that this process made from 127.0.0.1:`own`, in the text of
-    // /proc/net/tcp. Pure.
+    // The end at 127.0.0.1:`port` of the connection that this process made from 127.0.0.1:`own`, in
+    // the text of /proc/net/tcp. Pure.
     static PeerAccount in(const QByteArray &table, quint16 port, quint16 own);
     // The same, asked of the kernel now.
     static PeerAccount ask(quint16 port, quint16 own);

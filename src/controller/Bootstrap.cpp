@@ -20,7 +20,8 @@ namespace {
 
 constexpr auto bootstrapLimit = 300s;
 constexpr auto bootstrapPoll = 1s;
-// A transport program is ready within a second. Tor neither starts without it nor says that it waits.
+// A transport program is ready within a second. Tor neither starts without it nor says that it
+// waits.
 constexpr auto transportPatience = 10s;
 // The first relay answers within a second or two. Below this progress none has.
 constexpr auto relayPatience = 10s;
@@ -43,8 +44,9 @@ Text warningIn(const QString &report)
         return Text::tr("Tor can't reach the bridge program: %1.").arg(warning);
     QStringList details = {field(report, u"REASON"), field(report, u"HOSTADDR")};
     details.removeAll(QString());
-    return details.isEmpty() ? Text::tr("Tor reports: %1.").arg(warning)
-                             : Text::tr("Tor reports: %1 (%2).").arg(warning, details.join(QStringLiteral(", ")));
+    return details.isEmpty()
+        ? Text::tr("Tor reports: %1.").arg(warning)
+        : Text::tr("Tor reports: %1 (%2).").arg(warning, details.join(QStringLiteral(", ")));
 }
 
 } // namespace
@@ -56,11 +58,11 @@ BootstrapStatus TorController::parseBootstrap(const QString &reply)
 }
 
 std::optional<Text> TorController::problemBehind(const BootstrapStatus &status,
-                                                    std::chrono::nanoseconds waited) const
+                                                 std::chrono::nanoseconds waited) const
 {
-    const bool usesPrograms =
-        std::any_of(m_activeBridgeLines.begin(), m_activeBridgeLines.end(),
-                    [](const QString &line) { return BridgeLines::transport(line).has_value(); });
+    const bool usesPrograms = std::any_of(
+        m_activeBridgeLines.begin(), m_activeBridgeLines.end(),
+        [](const QString &line) { return BridgeLines::transport(line).has_value(); });
     if (usesPrograms && status.progress < 100) {
         // The log says more than the report, which doesn't know why a program can't be reached.
         if (const auto trouble = transportTrouble(TorLog(m_services.profile).read().lines()))
@@ -71,16 +73,20 @@ std::optional<Text> TorController::problemBehind(const BootstrapStatus &status,
         const auto route = m_services.route();
         if (!route)
             return Text::tr("This computer has no network, so Tor can't connect.");
-        if (const QStringList others = OtherFirewalls::denying(m_services.profile); !others.isEmpty())
-            return Text::tr("Another firewall on this computer denies what goes out, so Tor can't connect: %1.")
-                .arg(others.join(QStringLiteral(", ")));
+        if (const QStringList others = OtherFirewalls::denying(m_services.profile);
+            !others.isEmpty())
+            return Text::
+                tr("Another firewall on this computer denies what goes out, so Tor can't connect: %1.")
+                    .arg(others.join(QStringLiteral(", ")));
         if (strictMode() && route->isVPN)
-            return Text::tr("A VPN takes Tor's traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode.");
+            return Text::tr(
+                "A VPN takes Tor's traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode.");
     }
     if (!status.warning.isEmpty())
         return status.warning;
     if (usesPrograms && status.progress == 0 && waited >= transportPatience)
-        return Text::tr("Tor is waiting for the bridge program, which hasn't said that it is ready.");
+        return Text::tr(
+            "Tor is waiting for the bridge program, which hasn't said that it is ready.");
     return std::nullopt;
 }
 

@@ -38,10 +38,12 @@ QStringList TorController::sortedByName(QStringList applications) const
 {
     applications.removeDuplicates();
     const RunningApplications &names = m_services.applications;
-    std::stable_sort(applications.begin(), applications.end(), [&names](const QString &a, const QString &b) {
-        return QString::localeAwareCompare(names.displayName(a).toCaseFolded(),
-                                           names.displayName(b).toCaseFolded()) < 0;
-    });
+    std::stable_sort(applications.begin(), applications.end(),
+                     [&names](const QString &a, const QString &b) {
+                         return QString::localeAwareCompare(names.displayName(a).toCaseFolded(),
+                                                            names.displayName(b).toCaseFolded())
+                             < 0;
+                     });
     return applications;
 }
 
@@ -85,8 +87,9 @@ QCoro::Task<Result<void, Text>> TorController::launchOnce(QString path)
     for (const qint64 copy : copies)
         applications.askToQuit(copy);
     for (int check = 0; check < quitChecks; ++check) {
-        const bool ended = std::all_of(copies.begin(), copies.end(),
-                                       [&applications](qint64 copy) { return applications.hasEnded(copy); });
+        const bool ended = std::all_of(copies.begin(), copies.end(), [&applications](qint64 copy) {
+            return applications.hasEnded(copy);
+        });
         if (ended)
             break;
         co_await m_services.clock.sleep(quitCheckInterval);
@@ -94,14 +97,16 @@ QCoro::Task<Result<void, Text>> TorController::launchOnce(QString path)
             co_return Failure(Text()); // the session ended meanwhile
     }
 
-    const QStringList arguments = {QStringLiteral("launch"), QStringLiteral("--uid"), QString::number(SessionOwner::callerOfHelper()),
+    const QStringList arguments = {QStringLiteral("launch"), QStringLiteral("--uid"),
+                                   QString::number(SessionOwner::callerOfHelper()),
                                    QStringLiteral("--app"), path};
     const auto helper = co_await m_services.privileged.runHelper(arguments);
     if (helper)
         co_return {};
     if (!self || helper.error().kind() == HelperError::Kind::Cancelled)
         co_return Failure(Text());
-    const Text failure = Text::tr("Couldn't open %1 without Tor: %2").arg(displayedName(path), helper.error().description());
+    const Text failure = Text::tr("Couldn't open %1 without Tor: %2")
+                             .arg(displayedName(path), helper.error().description());
     errorMessage = failure;
     co_return Failure(failure);
 }

@@ -76,7 +76,8 @@ QCoro::Task<void> TorController::refreshCircuits()
     circuits = table.circuits;
 }
 
-QCoro::Task<TorController::Resolution> TorController::resolveRelays(std::vector<RelayInfo> relays, Attempt attempt)
+QCoro::Task<TorController::Resolution> TorController::resolveRelays(std::vector<RelayInfo> relays,
+                                                                    Attempt attempt)
 {
     const QPointer<TorController> self(this);
     const QString password = *m_controlPassword;
@@ -111,8 +112,8 @@ QCoro::Task<TorController::Resolution> TorController::resolveRelays(std::vector<
             continue;
         const auto &lines = countries->at(static_cast<std::size_t>(addresses.indexOf(*relay.ip)));
         if (lines)
-            relay.country = CircuitParser::country(ControlPort::dataBlock(
-                QStringLiteral("ip-to-country/") + *relay.ip, *lines));
+            relay.country = CircuitParser::country(
+                ControlPort::dataBlock(QStringLiteral("ip-to-country/") + *relay.ip, *lines));
     }
     co_return Resolution{relays, true};
 }
@@ -130,8 +131,8 @@ QCoro::Task<void> TorController::newIdentity()
     if (!self || !isCurrent(attempt))
         co_return;
     if (!done)
-        errorMessage =
-            Text::tr("Couldn't request a new identity: %1").arg(done.error().description());
+        errorMessage
+            = Text::tr("Couldn't request a new identity: %1").arg(done.error().description());
     checkExit();
 }
 
@@ -156,8 +157,7 @@ QCoro::Task<void> TorController::optimizeCircuits()
     const Attempt attempt = m_attempt;
     isOptimizing = true;
     for (int round = 1; round <= optimizeAttempts; ++round) {
-        optimizeStatus =
-            Text::tr("Testing speed (%1 of %2)…").arg(round).arg(optimizeAttempts);
+        optimizeStatus = Text::tr("Testing speed (%1 of %2)…").arg(round).arg(optimizeAttempts);
         const quint64 identity = m_identity;
         const TimedProbe timed = co_await timedViaTor();
         if (!self || !isCurrent(attempt))

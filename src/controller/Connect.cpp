@@ -32,8 +32,8 @@ QCoro::Task<std::optional<ConnectTime>> noAnswer()
     co_return std::nullopt;
 }
 
-// What lets root itself verify transports that an administrator would have to approve. A helper of an earlier version, which runs without a
-// password, does not know the option.
+// What lets root itself verify transports that an administrator would have to approve. A helper of
+// an earlier version, which runs without a password, does not know the option.
 QStringList bundleWords(const TorController::Services &services, const QStringList &words)
 {
     if (!services.missingApprovals || services.privileged.privilegedHelperOutdated())
@@ -85,9 +85,10 @@ void TorController::settleAfterFailure()
     canCancel = false;
     activeMode = markedMode(); // the helper may have changed it before it failed
     otherSession = SessionOwner::ofAnotherProcess(m_services.profile);
-    statusDetail = otherSession() ? leftOverDetail() : Text::tr("Your network is still set up for Tor");
-    // The banner says why it failed; what changes later is told. But a banner that tells of the rules, and stayed while
-    // the prompt for a restore was shown, is corrected at once.
+    statusDetail = otherSession() ? leftOverDetail()
+                                  : Text::tr("Your network is still set up for Tor");
+    // The banner says why it failed; what changes later is told. But a banner that tells of the
+    // rules, and stayed while the prompt for a restore was shown, is corrected at once.
     const auto rules = judgedKillSwitch();
     if (!m_killSwitchMessage || errorMessage() != m_killSwitchMessage)
         m_knownKillSwitch = rules;
@@ -111,7 +112,7 @@ void TorController::failAtHelper(const HelperError &error)
 }
 
 QCoro::Task<Result<QStringList, Text>> TorController::bridgeArguments(Attempt attempt,
-                                                                         BridgeRequest request)
+                                                                      BridgeRequest request)
 {
     const QPointer<TorController> self(this);
     const BridgeProbe probe = m_services.bridgeProbe;
@@ -120,7 +121,8 @@ QCoro::Task<Result<QStringList, Text>> TorController::bridgeArguments(Attempt at
         m_services.locateTransports,
         [self, attempt, probe](QString host, quint16 port, std::chrono::milliseconds limit) {
             // Without the controller, what the probe needs may be gone as well.
-            return self && self->isCurrent(attempt) ? probe(std::move(host), port, limit) : noAnswer();
+            return self && self->isCurrent(attempt) ? probe(std::move(host), port, limit)
+                                                    : noAnswer();
         },
         [self, attempt](const Text &text) {
             if (self && self->isCurrent(attempt))
@@ -137,19 +139,24 @@ QCoro::Task<Result<QStringList, Text>> TorController::bridgeArguments(Attempt at
         m_pendingBridgeLines.clear();
     else if (plan.lines)
         m_pendingBridgeLines = *plan.lines;
-    if (statusDetail() != before) { // whoever follows the attempt reads it before the next words take its place
+    // whoever follows the attempt reads it before the next words take its place
+    if (statusDetail() != before) {
         co_await m_services.clock.sleep(0ms);
         if (!self || !isCurrent(attempt))
             co_return Failure(Text());
     }
-    co_return plan.arguments.map_error([](const BridgeError &error) { return error.description(); });
+    co_return plan.arguments.map_error(
+        [](const BridgeError &error) { return error.description(); });
 }
 
-QCoro::Task<Result<void, HelperError>> TorController::approvePrograms(Attempt attempt, QStringList words)
+QCoro::Task<Result<void, HelperError>> TorController::approvePrograms(Attempt attempt,
+                                                                      QStringList words)
 {
     const QPointer<TorController> self(this);
-    const auto missing = m_services.missingApprovals ? m_services.missingApprovals(words) : std::vector<ProgramApproval>();
-    const bool isBundleGiven = words.contains(QLatin1String("--bundle")); // root verifies what it brings itself
+    const auto missing = m_services.missingApprovals ? m_services.missingApprovals(words)
+                                                     : std::vector<ProgramApproval>();
+    // root verifies what it brings itself
+    const bool isBundleGiven = words.contains(QLatin1String("--bundle"));
     for (const ProgramApproval &program : missing) {
         if (isBundleGiven && SignedBundle::brings(m_services.profile, program))
             continue;
@@ -176,9 +183,12 @@ QCoro::Task<void> TorController::connect()
     }
     if (const auto other = otherSession()) { // whoever made it is told nothing when it is replaced
         errorMessage = other->isOwnUser()
-            ? Text::tr("Another Veldmark of yours is connected (process %1). Disconnect it, or restore the "
-                       "network, first.").arg(other->process)
-            : Text::tr("%1 is connected with Veldmark (process %2). That session must be ended first.")
+            ? Text::tr(
+                  "Another Veldmark of yours is connected (process %1). Disconnect it, or restore the "
+                  "network, first.")
+                  .arg(other->process)
+            : Text::tr(
+                  "%1 is connected with Veldmark (process %2). That session must be ended first.")
                   .arg(other->userName(), QString::number(other->process));
         co_return;
     }
@@ -200,8 +210,10 @@ QCoro::Task<void> TorController::connect()
     const bool localNetwork = allowLocalNetwork();
     const bool separate = separateApps();
     const QString exit = exitCountry();
-    const bool isBlocked = markedMode() == RoutingMode::strict; // by a session that is still to be restored
-    const BridgeRequest request{bridgeChoice(), customBridges(), optimizeSpeed(), isBlocked, m_activeBridgeLines};
+    // by a session that is still to be restored
+    const bool isBlocked = markedMode() == RoutingMode::strict;
+    const BridgeRequest request{bridgeChoice(), customBridges(), optimizeSpeed(), isBlocked,
+                                m_activeBridgeLines};
     stopMonitoring();
     m_torStopped = false;
     forgetCircuits();
@@ -219,17 +231,23 @@ QCoro::Task<void> TorController::connect()
         co_return;
     }
 
-    // A strict session that is begun again, as after the end of Tor, keeps its password: with another one it would be
-    // another session, which nobody could have without an administrator's approval.
+    // A strict session that is begun again, as after the end of Tor, keeps its password: with
+    // another one it would be another session, which nobody could have without an administrator's
+    // approval.
     if (!isBlocked || !m_controlPassword || m_controlHash.isEmpty()) {
         const TorPassword password = TorPassword::random();
         m_controlPassword = password.clear;
         m_controlHash = password.hash;
     }
-    QStringList arguments = {QStringLiteral("connect"), QStringLiteral("--tor"), *tor,
-                             QStringLiteral("--hash"), m_controlHash,
-                             QStringLiteral("--strict"), flag(strict),
-                             QStringLiteral("--lan"), flag(localNetwork)};
+    QStringList arguments = {QStringLiteral("connect"),
+                             QStringLiteral("--tor"),
+                             *tor,
+                             QStringLiteral("--hash"),
+                             m_controlHash,
+                             QStringLiteral("--strict"),
+                             flag(strict),
+                             QStringLiteral("--lan"),
+                             flag(localNetwork)};
     if (!m_services.profile.identitiesNote.isEmpty())
         arguments << QStringLiteral("--separate") << flag(separate);
     if (!exit.isEmpty())
@@ -253,7 +271,8 @@ QCoro::Task<void> TorController::connect()
     if (!self || !isCurrent(attempt))
         co_return;
     if (!helper && helper.error().kind() == HelperError::Kind::Unapproved && !bundle.isEmpty()) {
-        // Root does not find the program in a signed bundle, so that an administrator is asked for it by name.
+        // Root does not find the program in a signed bundle, so that an administrator is asked for
+        // it by name.
         const auto named = co_await approvePrograms(attempt, arguments);
         if (!self || !isCurrent(attempt))
             co_return;
@@ -275,11 +294,12 @@ QCoro::Task<void> TorController::connect()
     m_sessionMark = SessionMark::present(m_services.profile);
 
     activeMode = strict ? RoutingMode::strict : RoutingMode::proxy;
-    activeBridge =
-        request.choice == BridgeChoice::off ? std::nullopt : std::optional(request.choice);
+    activeBridge = request.choice == BridgeChoice::off ? std::nullopt
+                                                       : std::optional(request.choice);
     m_activeBridgeLines = m_pendingBridgeLines;
     m_torStopped = false;
-    m_knownKillSwitch = KillSwitch{KillSwitch::State::standing, 0, {}}; // what happened since the helper began is news
+    // what happened since the helper began is news
+    m_knownKillSwitch = KillSwitch{KillSwitch::State::standing, 0, {}};
     startKillSwitchWatch();
     statusDetail = Text::tr("Starting Tor…");
     canCancel = true;
@@ -288,8 +308,9 @@ QCoro::Task<void> TorController::connect()
         co_return;
     canCancel = false;
     if (!bootstrap) {
-        errorMessage = m_bootstrapFailure =
-            Text::tr("%1 Your network is still pointed at Tor. Click Restore Network to undo.").arg(bootstrap.error());
+        errorMessage = m_bootstrapFailure
+            = Text::tr("%1 Your network is still pointed at Tor. Click Restore Network to undo.")
+                  .arg(bootstrap.error());
         statusDetail = Text::tr("Tor didn't finish connecting");
         phase = ConnectionPhase::stale;
         co_return;
@@ -315,7 +336,8 @@ QCoro::Task<void> TorController::settleIn(Attempt attempt)
     co_await runChecks();
     if (!self || !isCurrent(attempt))
         co_return;
-    if (phase() == ConnectionPhase::connected && optimizeSpeed() && (!latencyMs() || *latencyMs() >= slowPathMs))
+    if (phase() == ConnectionPhase::connected && optimizeSpeed()
+        && (!latencyMs() || *latencyMs() >= slowPathMs))
         co_await optimizeCircuits();
     if (self && isCurrent(attempt))
         m_isSettlingIn = false;

@@ -45,7 +45,8 @@ QCoro::Task<void> TorController::checkDNS(bool live)
                                         std::function<QCoro::Task<void>()> work) {
                     return captureResolves(controlPort, password, duration, std::move(work));
                 };
-            const DNSCheck::Lookup lookup = [clock](const QString &host, std::chrono::milliseconds timeout) {
+            const DNSCheck::Lookup lookup = [clock](const QString &host,
+                                                    std::chrono::milliseconds timeout) {
                 return DNSCheck::lookup(*clock, host, timeout);
             };
             auto testing = DNSCheck::liveTest(capture, lookup);
@@ -59,7 +60,8 @@ QCoro::Task<void> TorController::checkDNS(bool live)
     const auto resolvers = co_await m_services.resolvers.resolvers();
     if (!self || !isCurrent(attempt) || phase() != ConnectionPhase::connected)
         co_return;
-    dnsStatus = DNSCheck::statusAfter(DNSCheck::leaks(resolvers), liveResult, m_dnsLiveVerified, dnsStatus());
+    dnsStatus = DNSCheck::statusAfter(DNSCheck::leaks(resolvers), liveResult, m_dnsLiveVerified,
+                                      dnsStatus());
 }
 
 QCoro::Task<void> TorController::fixDNS()
@@ -67,7 +69,8 @@ QCoro::Task<void> TorController::fixDNS()
     if (phase() != ConnectionPhase::connected)
         co_return;
     const Attempt attempt = m_attempt;
-    if (m_fixedAttempt == attempt) { // the one under way does for this call as well, with one prompt
+    // the one under way does for this call as well, with one prompt
+    if (m_fixedAttempt == attempt) {
         const ResumeOnce<bool> ended;
         m_fixWaiters.push_back(ended);
         co_await ended;
@@ -106,7 +109,8 @@ QCoro::Task<void> TorController::repairDNS(Attempt attempt)
     co_await checkDNS(true);
     if (!self || !isCurrent(attempt) || !dnsStatus().isLeak())
         co_return;
-    errorMessage = DNSCheck::stillLeakingText(dnsStatus().leaks(), killSwitch() && killSwitch()->blocks());
+    errorMessage = DNSCheck::stillLeakingText(dnsStatus().leaks(),
+                                              killSwitch() && killSwitch()->blocks());
 }
 
 } // namespace veldmark

@@ -39,7 +39,8 @@ QCoro::Task<Result<void, Text>> TorController::disconnect()
     // What the session had still to find out. It is begun again if the session stays.
     const bool wasSettlingIn = m_isSettlingIn;
     const bool wasOptimizing = isOptimizing();
-    const bool wasChecking = isChecking() || !torVerified() || leakStatus().kind() == LeakStatus::Kind::notTested;
+    const bool wasChecking = isChecking() || !torVerified()
+        || leakStatus().kind() == LeakStatus::Kind::notTested;
     const bool wasTestingDNS = dnsStatus().kind() == DNSStatus::Kind::checking;
     const Attempt attempt = startAttempt(); // a connect that still waits for Tor ends silently
     // What a failure goes back to: only a session that was up is still up when the helper was
@@ -57,8 +58,10 @@ QCoro::Task<Result<void, Text>> TorController::disconnect()
 
     QStringList arguments = {QStringLiteral("disconnect")};
     // One of another version may not know the option.
-    if (!m_services.profile.sessionOwner.isEmpty() && !m_services.privileged.privilegedHelperOutdated())
-        arguments << QStringLiteral("--process") << QString::number(meant ? meant->process : QCoreApplication::applicationPid());
+    if (!m_services.profile.sessionOwner.isEmpty()
+        && !m_services.privileged.privilegedHelperOutdated())
+        arguments << QStringLiteral("--process")
+                  << QString::number(meant ? meant->process : QCoreApplication::applicationPid());
     const auto helper = co_await m_services.privileged.runHelper(arguments);
     if (!self || !isCurrent(attempt))
         co_return Failure(Text());
@@ -69,7 +72,8 @@ QCoro::Task<Result<void, Text>> TorController::disconnect()
     }
 
     // While the prompt was shown, perhaps.
-    if (const auto newer = SessionOwner::ofAnotherProcess(m_services.profile); newer && newer != meant) {
+    if (const auto newer = SessionOwner::ofAnotherProcess(m_services.profile);
+        newer && newer != meant) {
         giveUpTo(*newer);
         errorMessage = replacedText();
         co_return Failure(replacedText());
@@ -151,7 +155,8 @@ void TorController::detectStaleState()
     activeMode = markedMode();
     otherSession = SessionOwner::ofAnotherProcess(m_services.profile);
     statusDetail = leftOverDetail();
-    killSwitch = m_knownKillSwitch = judgedKillSwitch(); // what happened to an earlier session is no news
+    // what happened to an earlier session is no news
+    killSwitch = m_knownKillSwitch = judgedKillSwitch();
     phase = ConnectionPhase::stale;
     startKillSwitchWatch();
 }
@@ -171,12 +176,14 @@ void TorController::lookAtSession()
 {
     if (phase() == ConnectionPhase::disconnected && isSessionMarkerPresent())
         detectStaleState();
-    if (phase() == ConnectionPhase::connected || (phase() == ConnectionPhase::connecting && canCancel())) {
+    if (phase() == ConnectionPhase::connected
+        || (phase() == ConnectionPhase::connecting && canCancel())) {
         // One that somebody has begun by hand has no owner; its password is not ours all the same.
         const auto other = SessionOwner::ofAnotherProcess(m_services.profile);
         const auto mark = SessionMark::present(m_services.profile);
         // One of another mode is told by the kill switch, which is open then.
-        if (other || (mark && m_sessionMark && mark != m_sessionMark && markedMode() == activeMode()))
+        if (other
+            || (mark && m_sessionMark && mark != m_sessionMark && markedMode() == activeMode()))
             giveUpTo(other);
         return;
     }
@@ -188,12 +195,14 @@ void TorController::lookAtSession()
         return;
     }
     const auto other = SessionOwner::ofAnotherProcess(m_services.profile);
-    if (other == otherSession() && markedMode() == activeMode()) // nobody has changed it by hand either
+    // nobody has changed it by hand either
+    if (other == otherSession() && markedMode() == activeMode())
         return;
     showSessionOf(other);
 }
 
-// Another process has replaced this one's session: its Tor has ended, and its rules are the other's.
+// Another process has replaced this one's session: its Tor has ended, and its rules are the
+// other's.
 void TorController::giveUpTo(const std::optional<SessionOwner> &other)
 {
     startAttempt(); // checks that are still running belong to a session that is over
@@ -201,7 +210,8 @@ void TorController::giveUpTo(const std::optional<SessionOwner> &other)
     canCancel = false;
     showSessionOf(other);
     if (!other)
-        errorMessage = Text::tr("Another program has ended this session and begun one of its own. Restore Network ends that one.");
+        errorMessage = Text::tr(
+            "Another program has ended this session and begun one of its own. Restore Network ends that one.");
     phase = ConnectionPhase::stale;
     startKillSwitchWatch();
 }
@@ -209,8 +219,10 @@ void TorController::giveUpTo(const std::optional<SessionOwner> &other)
 Text TorController::replacedText() const
 {
     return otherSession()->isOwnUser()
-        ? Text::tr("Another Veldmark of yours has begun a session since, so nothing was ended. Disconnect again to end it.")
-        : Text::tr("Another user's Veldmark has begun a session since, so nothing was ended. Disconnect again to end it.");
+        ? Text::tr(
+            "Another Veldmark of yours has begun a session since, so nothing was ended. Disconnect again to end it.")
+        : Text::tr(
+            "Another user's Veldmark has begun a session since, so nothing was ended. Disconnect again to end it.");
 }
 
 void TorController::showSessionOf(const std::optional<SessionOwner> &other)

@@ -16,13 +16,13 @@ class SettingsStore;
 
 // What the program says of a setting of the user's, in lists and completions.
 struct SettingInfo {
-    Text help;               // a few words
+    Text help;                   // a few words
     bool isOfConnection = false; // a connection is made with it, so it holds until that ends
-    QStringList values;      // all that it can be, where they are few
+    QStringList values;          // all that it can be, where they are few
 };
 
-// A field that views observe. It registers itself with its owner, in the order of declaration; the published state, the
-// settings' names, observers and completions come from there. Main thread.
+// A field that views observe. It registers itself with its owner, in the order of declaration; the
+// published state, the settings' names, observers and completions come from there. Main thread.
 class Field : public QObject {
     Q_OBJECT
 
@@ -57,7 +57,7 @@ public:
     virtual void showProblem(const Text &problem) = 0;
 
 protected:
-    FieldOwner(SettingsStore &store, QObject *parent) : QObject(parent), m_store(store) {}
+    FieldOwner(SettingsStore &store, QObject *parent) : QObject(parent), m_store(store) { }
 
 private:
     friend class Field;

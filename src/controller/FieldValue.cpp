@@ -31,13 +31,34 @@ std::optional<bool> switchFrom(const QString &word)
 
 } // namespace
 
-QJsonValue json(const QString &value) { return value; }
-QJsonValue json(const Text &value) { return value.english(); }
-QJsonValue json(bool value) { return value; }
-QJsonValue json(qint64 value) { return value; }
-QJsonValue json(double value) { return value; }
-QJsonValue json(quint64 value) { return static_cast<qint64>(value); }
-QJsonValue json(const QStringList &value) { return QJsonArray::fromStringList(value); }
+QJsonValue json(const QString &value)
+{
+    return value;
+}
+QJsonValue json(const Text &value)
+{
+    return value.english();
+}
+QJsonValue json(bool value)
+{
+    return value;
+}
+QJsonValue json(qint64 value)
+{
+    return value;
+}
+QJsonValue json(double value)
+{
+    return value;
+}
+QJsonValue json(quint64 value)
+{
+    return static_cast<qint64>(value);
+}
+QJsonValue json(const QStringList &value)
+{
+    return QJsonArray::fromStringList(value);
+}
 
 QJsonValue json(const QList<Text> &value)
 {
@@ -55,8 +76,14 @@ QJsonValue textJson(const QList<Text> &value)
     return texts.isEmpty() ? QJsonValue(QJsonValue::Null) : texts;
 }
 
-QJsonValue json(BridgeChoice value) { return rawValue(value); }
-QJsonValue json(RoutingMode value) { return rawValue(value); }
+QJsonValue json(BridgeChoice value)
+{
+    return rawValue(value);
+}
+QJsonValue json(RoutingMode value)
+{
+    return rawValue(value);
+}
 
 QJsonValue json(const LeakStatus &value)
 {
@@ -88,12 +115,19 @@ QJsonValue json(const std::vector<CircuitInfo> &value)
 
 QJsonValue json(const SessionOwner &value)
 {
-    return QJsonObject{{QStringLiteral("user"), value.userName()}, {QStringLiteral("process"), value.process}};
+    return QJsonObject{{QStringLiteral("user"), value.userName()},
+                       {QStringLiteral("process"), value.process}};
 }
 
-QJsonValue json(const KillSwitch &value) { return value.name(); }
+QJsonValue json(const KillSwitch &value)
+{
+    return value.name();
+}
 
-QJsonValue json(TrafficWatch::Stall value) { return TrafficWatch::name(value); }
+QJsonValue json(TrafficWatch::Stall value)
+{
+    return TrafficWatch::name(value);
+}
 
 QJsonValue json(const PluggableTransports &value)
 {
@@ -147,10 +181,22 @@ void writeSetting(SettingsStore &store, const QString &key, BridgeChoice value)
     store.setString(key, rawValue(value));
 }
 
-QVariant stored(bool value) { return value; }
-QVariant stored(const QString &value) { return value; }
-QVariant stored(const QStringList &value) { return value; }
-QVariant stored(BridgeChoice value) { return rawValue(value); }
+QVariant stored(bool value)
+{
+    return value;
+}
+QVariant stored(const QString &value)
+{
+    return value;
+}
+QVariant stored(const QStringList &value)
+{
+    return value;
+}
+QVariant stored(BridgeChoice value)
+{
+    return rawValue(value);
+}
 
 Result<void, Text> parse(const QString &text, bool &value)
 {
@@ -171,7 +217,8 @@ Result<void, Text> parse(const QString &text, QStringList &value)
 {
     const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8());
     const QJsonArray array = document.array();
-    const bool areStrings = std::all_of(array.begin(), array.end(), [](const QJsonValue &entry) { return entry.isString(); });
+    const bool areStrings = std::all_of(array.begin(), array.end(),
+                                        [](const QJsonValue &entry) { return entry.isString(); });
     if (!document.isArray() || !areStrings)
         return Failure(Text::tr("\"%1\" is no JSON array of strings.").arg(inOneLine(text)));
     value.clear();
@@ -184,19 +231,32 @@ Result<void, Text> parse(const QString &text, BridgeChoice &value)
 {
     const auto choice = bridgeChoiceFromRawValue(text);
     if (!choice)
-        return Failure(Text::tr("\"%1\" is no bridge choice: off, obfs4, snowflake, meek or custom.").arg(inOneLine(text)));
+        return Failure(
+            Text::tr("\"%1\" is no bridge choice: off, obfs4, snowflake, meek or custom.")
+                .arg(inOneLine(text)));
     value = *choice;
     return {};
 }
 
-QStringList possibleValues(bool) { return {QStringLiteral("true"), QStringLiteral("false")}; }
-QStringList possibleValues(const QString &) { return {}; }
-QStringList possibleValues(const QStringList &) { return {}; }
+QStringList possibleValues(bool)
+{
+    return {QStringLiteral("true"), QStringLiteral("false")};
+}
+QStringList possibleValues(const QString &)
+{
+    return {};
+}
+QStringList possibleValues(const QStringList &)
+{
+    return {};
+}
 
 QStringList possibleValues(BridgeChoice)
 {
     QStringList values;
-    for (const BridgeChoice choice : {BridgeChoice::off, BridgeChoice::obfs4, BridgeChoice::snowflake, BridgeChoice::meek, BridgeChoice::custom})
+    for (const BridgeChoice choice :
+         {BridgeChoice::off, BridgeChoice::obfs4, BridgeChoice::snowflake, BridgeChoice::meek,
+          BridgeChoice::custom})
         values << rawValue(choice);
     return values;
 }

@@ -14,7 +14,8 @@
 #include <optional>
 #include <vector>
 
-// How the types of the controller's fields are written: as JSON, in the settings' file, and as the user's words.
+// How the types of the controller's fields are written: as JSON, in the settings' file, and as the
+// user's words.
 namespace veldmark {
 
 class DNSStatus;
@@ -25,8 +26,8 @@ struct KillSwitch;
 struct PluggableTransports;
 struct SessionOwner;
 
-// An enumeration is its case name as a string; a case with a payload an object with that one key ({"exposed":
-// "203.0.113.7"}, {"leak": ["…"]}); an absent optional is null.
+// An enumeration is its case name as a string; a case with a payload an object with that one key
+// ({"exposed": "203.0.113.7"}, {"leak": ["…"]}); an absent optional is null.
 QJsonValue json(const QString &value);
 QJsonValue json(const Text &value); // English
 QJsonValue json(bool value);
@@ -46,23 +47,32 @@ QJsonValue json(TrafficWatch::Stall value);
 QJsonValue json(const PluggableTransports &value);
 QJsonValue json(const std::vector<CircuitInfo> &value);
 
-template <typename T>
-QJsonValue json(const std::optional<T> &value)
+template <typename T> QJsonValue json(const std::optional<T> &value)
 {
     return value ? json(*value) : QJsonValue(QJsonValue::Null);
 }
 
-// As Text::toJson() where the value is a text, a list of those where it is a list; null where it is none.
-template <typename T>
-QJsonValue textJson(const T &) { return QJsonValue::Null; }
-inline QJsonValue textJson(const Text &value) { return value.toJson(); }
+// As Text::toJson() where the value is a text, a list of those where it is a list; null where it is
+// none.
+template <typename T> QJsonValue textJson(const T &)
+{
+    return QJsonValue::Null;
+}
+inline QJsonValue textJson(const Text &value)
+{
+    return value.toJson();
+}
 QJsonValue textJson(const QList<Text> &value);
-inline QJsonValue textJson(const std::optional<Text> &value) { return value ? value->toJson() : QJsonValue(QJsonValue::Null); }
+inline QJsonValue textJson(const std::optional<Text> &value)
+{
+    return value ? value->toJson() : QJsonValue(QJsonValue::Null);
+}
 
 // The types of settings. What is stored and is none of the type's values reads as `fallback`.
 bool readSetting(const SettingsStore &store, const QString &key, bool fallback);
 QString readSetting(const SettingsStore &store, const QString &key, const QString &fallback);
-QStringList readSetting(const SettingsStore &store, const QString &key, const QStringList &fallback);
+QStringList readSetting(const SettingsStore &store, const QString &key,
+                        const QStringList &fallback);
 BridgeChoice readSetting(const SettingsStore &store, const QString &key, BridgeChoice fallback);
 void writeSetting(SettingsStore &store, const QString &key, bool value);
 void writeSetting(SettingsStore &store, const QString &key, const QString &value);
@@ -75,8 +85,9 @@ QVariant stored(const QString &value);
 QVariant stored(const QStringList &value);
 QVariant stored(BridgeChoice value);
 
-// From the user's words: "true"/"false" (also on/off, yes/no, 1/0) for switches, a JSON array of strings for lists, the raw
-// value for choices. The error is a sentence; `value` is left as it was then.
+// From the user's words: "true"/"false" (also on/off, yes/no, 1/0) for switches, a JSON array of
+// strings for lists, the raw value for choices. The error is a sentence; `value` is left as it was
+// then.
 Result<void, Text> parse(const QString &text, bool &value);
 Result<void, Text> parse(const QString &text, QString &value);
 Result<void, Text> parse(const QString &text, QStringList &value);

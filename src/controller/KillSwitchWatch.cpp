@@ -16,8 +16,9 @@ using State = KillSwitch::State;
 
 constexpr auto lookInterval = 1s;
 constexpr qint64 noteLimitBytes = 64;
-// The watcher writes twice a second, so what stops telling shows within three seconds. The note's time is the system's clock, which
-// may be set, and stands still for nobody while the computer sleeps; so what was seen holds a little longer by our own clock.
+// The watcher writes twice a second, so what stops telling shows within three seconds. The note's
+// time is the system's clock, which may be set, and stands still for nobody while the computer
+// sleeps; so what was seen holds a little longer by our own clock.
 constexpr auto freshTime = 1s;
 constexpr auto graceTime = 1500ms;
 
@@ -26,7 +27,8 @@ std::optional<KillSwitch> freshNote(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
-    const std::chrono::milliseconds age(file.fileTime(QFileDevice::FileModificationTime).msecsTo(QDateTime::currentDateTimeUtc()));
+    const std::chrono::milliseconds age(
+        file.fileTime(QFileDevice::FileModificationTime).msecsTo(QDateTime::currentDateTimeUtc()));
     if (age < -freshTime || age > freshTime)
         return std::nullopt;
     return KillSwitch::parse(file.read(noteLimitBytes));
@@ -43,11 +45,14 @@ std::optional<KillSwitch> TorController::judgedKillSwitch()
 {
     const auto &before = killSwitch();
     const auto since = [&before](State state) {
-        return isOneOf(before, state) ? *before : KillSwitch{state, before ? before->missed : 0, QDateTime::currentDateTimeUtc()};
+        return isOneOf(before, state)
+            ? *before
+            : KillSwitch{state, before ? before->missed : 0, QDateTime::currentDateTimeUtc()};
     };
     if (markedMode() != RoutingMode::strict) {
         // Somebody has opened the network under a session that was strict.
-        const bool wasStrict = phase() == ConnectionPhase::connected && activeMode() == RoutingMode::strict;
+        const bool wasStrict = phase() == ConnectionPhase::connected
+            && activeMode() == RoutingMode::strict;
         return wasStrict ? std::optional(since(State::open)) : std::nullopt;
     }
     if (const auto note = freshNote(m_services.profile.killSwitchNote)) {
@@ -84,17 +89,21 @@ std::optional<Text> TorController::killSwitchMessage() const
 {
     if (m_torStopped)
         return deathMessage();
-    if (!isSessionMarkerPresent()) // somebody has restored the network on purpose; Tor's end will say so
+    // somebody has restored the network on purpose; Tor's end will say so
+    if (!isSessionMarkerPresent())
         return std::nullopt;
     switch (killSwitch() ? killSwitch()->state : State::standing) {
     case State::putBack:
-        return Text::tr("Another program removed Veldmark's firewall rules; they are back in place.");
+        return Text::tr(
+            "Another program removed Veldmark's firewall rules; they are back in place.");
     case State::open:
-        return Text::tr("Another program removed Veldmark's firewall rules and they could not be put back. Traffic "
-                        "may leave this computer directly. Disconnect and connect again.");
+        return Text::tr(
+            "Another program removed Veldmark's firewall rules and they could not be put back. Traffic "
+            "may leave this computer directly. Disconnect and connect again.");
     case State::unknown:
-        return Text::tr("The watcher over Veldmark's firewall rules has stopped telling, so it isn't known whether "
-                        "the kill switch stands. Disconnect and connect again.");
+        return Text::tr(
+            "The watcher over Veldmark's firewall rules has stopped telling, so it isn't known whether "
+            "the kill switch stands. Disconnect and connect again.");
     case State::standing:
         break;
     }
@@ -104,27 +113,33 @@ std::optional<Text> TorController::killSwitchMessage() const
 Text TorController::deathMessage() const
 {
     if (activeMode() != RoutingMode::strict)
-        return Text::tr("Tor stopped running. Apps using the proxy can't connect until you reconnect "
-                        "or Restore Network.");
+        return Text::tr(
+            "Tor stopped running. Apps using the proxy can't connect until you reconnect "
+            "or Restore Network.");
     const bool hasLeaked = leakStatus().isExposed() || dnsStatus().isLeak();
     switch (killSwitch() ? killSwitch()->state : State::unknown) {
     case State::standing:
         if (hasLeaked)
-            return Text::tr("Tor stopped running. The kill switch is still blocking traffic, but the last checks have seen some go "
-                            "around Tor. Reconnect, or Restore Network to go back online.");
-        return Text::tr("Tor stopped running. The kill switch is still blocking traffic, so nothing "
-                        "leaked. Reconnect, or Restore Network to go back online.");
+            return Text::tr(
+                "Tor stopped running. The kill switch is still blocking traffic, but the last checks have seen some go "
+                "around Tor. Reconnect, or Restore Network to go back online.");
+        return Text::tr(
+            "Tor stopped running. The kill switch is still blocking traffic, so nothing "
+            "leaked. Reconnect, or Restore Network to go back online.");
     case State::putBack:
-        return Text::tr("Tor stopped running. The kill switch is blocking traffic again, but another program had "
-                        "removed its rules for a while. Reconnect, or Restore Network to go back online.");
+        return Text::tr(
+            "Tor stopped running. The kill switch is blocking traffic again, but another program had "
+            "removed its rules for a while. Reconnect, or Restore Network to go back online.");
     case State::open:
-        return Text::tr("Tor stopped running, and the kill switch is open: another program removed its rules. Traffic "
-                        "may leave this computer directly. Reconnect, or Restore Network.");
+        return Text::tr(
+            "Tor stopped running, and the kill switch is open: another program removed its rules. Traffic "
+            "may leave this computer directly. Reconnect, or Restore Network.");
     case State::unknown:
         break;
     }
-    return Text::tr("Tor stopped running, and it isn't known whether the kill switch is still blocking traffic. "
-                    "Reconnect, or Restore Network to go back online.");
+    return Text::tr(
+        "Tor stopped running, and it isn't known whether the kill switch is still blocking traffic. "
+        "Reconnect, or Restore Network to go back online.");
 }
 
 void TorController::startKillSwitchWatch()
@@ -149,13 +164,16 @@ QCoro::Task<void> TorController::watchKillSwitch(quint64 run)
         co_await m_services.clock.sleep(lookInterval);
         if (!self || run != m_killSwitchWatch)
             co_return;
-        if (phase() == ConnectionPhase::stale && !isSessionMarkerPresent()) { // somebody has restored the network
+        // somebody has restored the network
+        if (phase() == ConnectionPhase::stale && !isSessionMarkerPresent()) {
             errorMessage = std::nullopt;
             endSession();
             co_return;
         }
-        // Somebody else has disconnected. Whoever answers at Tor's port now is no sign of a session.
-        if (phase() == ConnectionPhase::connected && activeMode() == RoutingMode::proxy && !isSessionMarkerPresent()) {
+        // Somebody else has disconnected. Whoever answers at Tor's port now is no sign of a
+        // session.
+        if (phase() == ConnectionPhase::connected && activeMode() == RoutingMode::proxy
+            && !isSessionMarkerPresent()) {
             torDied();
             co_return;
         }

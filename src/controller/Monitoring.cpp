@@ -21,8 +21,9 @@ constexpr int ticksPerDNSCheck = 15;  // every 30 seconds
 constexpr int failuresUntilDead = 3;
 
 // Stays as long as it is so.
-const Text offlineText = Text::tr("Tor hasn't confirmed that it is on the network again, so nothing may get through. Veldmark goes on "
-                                  "telling it to; else disconnect and connect again.");
+const Text offlineText = Text::tr(
+    "Tor hasn't confirmed that it is on the network again, so nothing may get through. Veldmark goes on "
+    "telling it to; else disconnect and connect again.");
 const QString readKey = QStringLiteral("traffic/read");
 const QString writtenKey = QStringLiteral("traffic/written");
 const QString circuitKey = QStringLiteral("status/circuit-established");
@@ -36,7 +37,8 @@ TorController::Attempt TorController::startAttempt()
     m_isSettlingIn = false;
     optimizeStatus = std::nullopt;
     if (leakStatus().kind() == LeakStatus::Kind::checking)
-        leakStatus = leakStatus().isExposed() ? LeakStatus::exposed(leakStatus().address()) : LeakStatus::notTested();
+        leakStatus = leakStatus().isExposed() ? LeakStatus::exposed(leakStatus().address())
+                                              : LeakStatus::notTested();
     if (dnsStatus().kind() == DNSStatus::Kind::checking)
         dnsStatus = DNSStatus::unknown();
     return ++m_attempt;
@@ -44,7 +46,8 @@ TorController::Attempt TorController::startAttempt()
 
 std::optional<Text> TorController::failure() const
 {
-    return errorMessage() == m_killSwitchMessage || errorMessage() == offlineText ? std::nullopt : errorMessage();
+    return errorMessage() == m_killSwitchMessage || errorMessage() == offlineText ? std::nullopt
+                                                                                  : errorMessage();
 }
 
 void TorController::startMonitoring()
@@ -63,12 +66,13 @@ void TorController::lookAtTraffic(std::optional<bool> hasCircuit)
     const auto route = m_services.route();
     const ControlTraffic own = m_services.controlPort.traffic();
     const bool wasStalled = stall().has_value();
-    stall = m_network.traffic.take({.at = m_services.clock.now(),
-                                    .read = qint64(bytesRead()) - own.sent,
-                                    .written = qint64(bytesWritten()) - own.received,
-                                    .hasCircuit = hasCircuit,
-                                    .hasRoute = route.has_value(),
-                                    .isInVPN = activeMode() == RoutingMode::strict && route && route->isVPN});
+    stall = m_network.traffic.take(
+        {.at = m_services.clock.now(),
+         .read = qint64(bytesRead()) - own.sent,
+         .written = qint64(bytesWritten()) - own.received,
+         .hasCircuit = hasCircuit,
+         .hasRoute = route.has_value(),
+         .isInVPN = activeMode() == RoutingMode::strict && route && route->isVPN});
     if (!wasStalled && stall())
         forgetExit(); // what was verified may be another one when traffic flows again
     if (wasStalled && !stall()) {
@@ -81,7 +85,8 @@ QCoro::Task<void> TorController::monitor(quint64 run)
 {
     const QPointer<TorController> self(this);
     const QStringList keys = {readKey, writtenKey, circuitKey};
-    // Tor closes what it has and begins anew. It would send into connections of an address that is gone for minutes.
+    // Tor closes what it has and begins anew. It would send into connections of an address that is
+    // gone for minutes.
     const QStringList goOn = {QStringLiteral("SETCONF DisableNetwork=0")};
     const QStringList beginAnew = QStringList{QStringLiteral("SETCONF DisableNetwork=1")} + goOn;
     quint64 tick = 0;
@@ -97,12 +102,14 @@ QCoro::Task<void> TorController::monitor(quint64 run)
         if (isStale || m_network.mayBeOffline) {
             if (isStale)
                 forgetExit(); // what was verified was another way out
-            const auto replies = co_await m_services.controlPort.batch(isStale ? beginAnew : goOn, *m_controlPassword, counterReadLimit);
+            const auto replies = co_await m_services.controlPort.batch(
+                isStale ? beginAnew : goOn, *m_controlPassword, counterReadLimit);
             if (!self || run != m_monitor)
                 co_return;
             m_network.mayBeOffline = !replies || !replies->back(); // no answer, or Tor's refusal
             if (m_network.mayBeOffline)
-                errorMessage = errorMessage().value_or(offlineText); // what else has failed is to be read first
+                // what else has failed is to be read first
+                errorMessage = errorMessage().value_or(offlineText);
             else if (errorMessage() == offlineText)
                 errorMessage = std::nullopt;
             if (!m_network.mayBeOffline && phase() == ConnectionPhase::connected && !isChecking())
@@ -113,8 +120,8 @@ QCoro::Task<void> TorController::monitor(quint64 run)
             if (!self || run != m_monitor)
                 co_return;
         }
-        const auto counters =
-            co_await m_services.controlPort.getInfo(keys, *m_controlPassword, counterReadLimit);
+        const auto counters = co_await m_services.controlPort.getInfo(keys, *m_controlPassword,
+                                                                      counterReadLimit);
         if (!self || run != m_monitor)
             co_return;
         if (counters) {
@@ -126,7 +133,9 @@ QCoro::Task<void> TorController::monitor(quint64 run)
                 bytesWritten = written;
             const QString established = counters->value(circuitKey);
             if (phase() == ConnectionPhase::connected)
-                lookAtTraffic(established.isEmpty() ? std::nullopt : std::optional(established != QLatin1String("0")));
+                lookAtTraffic(established.isEmpty()
+                                  ? std::nullopt
+                                  : std::optional(established != QLatin1String("0")));
         } else if (++failures >= failuresUntilDead && phase() == ConnectionPhase::connected) {
             torDied();
             co_return;
@@ -138,7 +147,8 @@ void TorController::wake()
 {
     if (phase() != ConnectionPhase::connected && phase() != ConnectionPhase::disconnecting)
         return;
-    m_network.hasSlept = true; // the loop makes Tor begin anew, and checks; also of a session that a refused disconnect leaves
+    // the loop makes Tor begin anew, and checks; also of a session that a refused disconnect leaves
+    m_network.hasSlept = true;
     forgetExit();
 }
 
@@ -147,7 +157,8 @@ void TorController::torDied()
     startAttempt(); // checks that are still running belong to a session that is over
     stopMonitoring();
     if (!isSessionMarkerPresent()) { // somebody has restored the network by hand
-        errorMessage = Text::tr("Tor stopped running, and your network is no longer set up for it.");
+        errorMessage = Text::tr(
+            "Tor stopped running, and your network is no longer set up for it.");
         endSession();
         return;
     }
@@ -156,7 +167,8 @@ void TorController::torDied()
     statusDetail = Text::tr("Tor stopped running");
     errorMessage = m_killSwitchMessage = deathMessage();
     phase = ConnectionPhase::stale;
-    lookAtSession(); // perhaps Tor ended because another process's session has taken this one's place
+    // perhaps Tor ended because another process's session has taken this one's place
+    lookAtSession();
 }
 
 QCoro::Task<TorController::TimedProbe> TorController::timedViaTor()
@@ -181,8 +193,8 @@ QCoro::Task<void> TorController::runChecks()
     lookAtKillSwitch();
     quint64 identity = m_identity;
     auto throughTor = timedViaTor();
-    // In strict mode both run side by side: nothing of the direct one leaves. In proxy mode it does, and the service is
-    // not to see the exit's address and the user's in the same moment.
+    // In strict mode both run side by side: nothing of the direct one leaves. In proxy mode it
+    // does, and the service is not to see the exit's address and the user's in the same moment.
     const bool together = activeMode() == RoutingMode::strict;
     TimedProbe tor{};
     if (!together) {
@@ -195,7 +207,7 @@ QCoro::Task<void> TorController::runChecks()
         tor = co_await throughTor;
     const ProbeResult direct = co_await aroundTor;
     if (!self || !isCurrent(attempt))
-        co_return; // the session ended meanwhile: what it had is no longer true
+        co_return;                   // the session ended meanwhile: what it had is no longer true
     while (identity != m_identity) { // new circuits meanwhile: that was the exit of the old ones
         identity = m_identity;
         const TimedProbe again = co_await timedViaTor();

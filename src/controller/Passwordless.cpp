@@ -26,7 +26,8 @@ QCoro::Task<void> TorController::installPasswordless()
         co_return; // its prompt is up
     const QPointer<TorController> self(this);
     startupError = std::nullopt;
-    QStringList arguments = {QStringLiteral("install-privileged"), QStringLiteral("--user"), loginName()};
+    QStringList arguments = {QStringLiteral("install-privileged"), QStringLiteral("--user"),
+                             loginName()};
     const QString &folder = m_services.profile.places.applicationDirectory;
     if (!folder.isEmpty())
         arguments << QStringLiteral("--launch") << folder + QStringLiteral("/veldmark-launch");
@@ -36,8 +37,10 @@ QCoro::Task<void> TorController::installPasswordless()
     m_isSettingUpHelper = false;
     passwordlessInstalled = m_services.privileged.passwordlessInstalled();
     if (!helper) {
-        if (helper.error().kind() != HelperError::Kind::Cancelled) // the user's own choice is no error
-            startupError = Text::tr("Couldn't set up passwordless mode: %1").arg(helper.error().description());
+        // the user's own choice is no error
+        if (helper.error().kind() != HelperError::Kind::Cancelled)
+            startupError = Text::tr("Couldn't set up passwordless mode: %1")
+                               .arg(helper.error().description());
     } else if (!passwordlessInstalled()) {
         startupError = Text::tr("Setup ran but the helper wasn't installed. Try again.");
     }
@@ -56,7 +59,8 @@ QCoro::Task<void> TorController::removePasswordless()
     m_isSettingUpHelper = false;
     passwordlessInstalled = m_services.privileged.passwordlessInstalled();
     if (!helper && helper.error().kind() != HelperError::Kind::Cancelled)
-        startupError = Text::tr("Couldn't remove passwordless mode: %1").arg(helper.error().description());
+        startupError
+            = Text::tr("Couldn't remove passwordless mode: %1").arg(helper.error().description());
 }
 
 QCoro::Task<void> TorController::updatePrivilegedHelper()

@@ -37,23 +37,24 @@ std::unique_ptr<ResolverSource> resolverSource(const PlatformProfile &profile, C
         return std::make_unique<LinuxResolverSource>(clock, profile.resolverFile);
     ProcessRunner *const runner = &processes;
     const QString scutil = profile.scutil;
-    return std::make_unique<ScutilResolverSource>([runner, scutil] { return readScutil(runner, scutil); });
+    return std::make_unique<ScutilResolverSource>(
+        [runner, scutil] { return readScutil(runner, scutil); });
 }
 
 } // namespace
 
 Production::Production(const PlatformProfile &profile)
-    : m_profile(profile)
-    , m_settings(m_profile)
-    , m_privileged(m_profile, m_processes)
-    , m_controlPort(m_clock, ControlPort::defaultPort, torUser(m_profile))
-    , m_probe(m_clock)
-    , m_resolvers(resolverSource(m_profile, m_clock, m_processes))
-    , m_terminal(m_profile, NetworkProbe::checkURL().toString())
-    , m_applications(runningApplications())
-    , m_downloader(m_profile, m_processes, m_clock)
-    , m_search(m_profile)
-    , m_controller(TorController::Services{
+    : m_profile(profile),
+      m_settings(m_profile),
+      m_privileged(m_profile, m_processes),
+      m_controlPort(m_clock, ControlPort::defaultPort, torUser(m_profile)),
+      m_probe(m_clock),
+      m_resolvers(resolverSource(m_profile, m_clock, m_processes)),
+      m_terminal(m_profile, NetworkProbe::checkURL().toString()),
+      m_applications(runningApplications()),
+      m_downloader(m_profile, m_processes, m_clock),
+      m_search(m_profile),
+      m_controller(TorController::Services{
           .profile = m_profile,
           .settings = m_settings,
           .clock = m_clock,
@@ -67,7 +68,8 @@ Production::Production(const PlatformProfile &profile)
           .locateTransports =
               [this] { return m_search.locate(TransportDownloader::installedVersion(m_profile)); },
           .bridgeProbe =
-              [clock = &m_clock](const QString &host, quint16 port, std::chrono::milliseconds limit) {
+              [clock = &m_clock](const QString &host, quint16 port,
+                                 std::chrono::milliseconds limit) {
                   return TCPProbe::connectTime(host, port, limit, clock);
               },
           .installTransports =
@@ -76,10 +78,14 @@ Production::Production(const PlatformProfile &profile)
               },
           .cancelTransports = [this] { m_downloader.cancel(); },
           .locateWithoutAsking =
-              [this] { return m_search.locateWithoutAsking(TransportDownloader::installedVersion(m_profile)); },
-          .missingApprovals = [this](const QStringList &words) { return ProgramApproval::missing(m_profile, words); },
-      })
-    , m_wake(QDBusConnection::systemBus())
+              [this] {
+                  return m_search.locateWithoutAsking(
+                      TransportDownloader::installedVersion(m_profile));
+              },
+          .missingApprovals
+          = [this](const QStringList &words) { return ProgramApproval::missing(m_profile, words); },
+      }),
+      m_wake(QDBusConnection::systemBus())
 {
     QObject::connect(&m_wake, &WakeNotice::awake, &m_controller, &TorController::wake);
 }

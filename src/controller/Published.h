@@ -14,10 +14,13 @@ class TorController;
 
 // A field of the controller that views observe: anyone reads it as `controller.phase()`, only the
 // controller assigns it. An assignment that changes the value emits changed().
-template <typename T>
-class Published : public Field {
+template <typename T> class Published : public Field {
 public:
-    Published(FieldOwner *owner, const char *name, T initial = {}) : Field(owner, name), m_value(std::move(initial)) {}
+    Published(FieldOwner *owner, const char *name, T initial = {})
+        : Field(owner, name),
+          m_value(std::move(initial))
+    {
+    }
 
     const T &operator()() const { return m_value; }
     QJsonValue toJson() const override { return json(m_value); }
@@ -25,7 +28,10 @@ public:
 
 protected:
     friend class TorController;
-    Published(FieldOwner *owner, const char *name, SettingInfo info) : Field(owner, name, std::move(info)) {}
+    Published(FieldOwner *owner, const char *name, SettingInfo info)
+        : Field(owner, name, std::move(info))
+    {
+    }
     Published &operator=(T value)
     {
         if (m_value == value)
@@ -41,16 +47,19 @@ protected:
 // Whether a setting can be changed while a connection stands.
 enum class Scope { always, connection };
 
-// A published field that the user owns, kept in the owner's store under its name: anyone may set it, and each `set` is on disk when it
-// returns, also when the value stays the same. What goes wrong with the file is what `set` returns,
-// one sentence, and is shown by the owner; the value holds all the same.
-template <typename T>
-class Setting : public Published<T> {
+// A published field that the user owns, kept in the owner's store under its name: anyone may set
+// it, and each `set` is on disk when it returns, also when the value stays the same. What goes
+// wrong with the file is what `set` returns, one sentence, and is shown by the owner; the value
+// holds all the same.
+template <typename T> class Setting : public Published<T> {
 public:
     // `fallback` holds where the user has no value of their own.
-    Setting(FieldOwner *owner, const char *name, Scope scope, Text help, std::optional<T> fallback = {})
-        : Published<T>(owner, name, SettingInfo{std::move(help), scope == Scope::connection, possibleValues(T())})
-        , m_owner(*owner)
+    Setting(FieldOwner *owner, const char *name, Scope scope, Text help,
+            std::optional<T> fallback = {})
+        : Published<T>(
+            owner, name,
+            SettingInfo{std::move(help), scope == Scope::connection, possibleValues(T())}),
+          m_owner(*owner)
     {
         if (fallback)
             m_owner.store().registerDefaults({{this->name(), stored(*fallback)}});

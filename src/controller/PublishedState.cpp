@@ -13,7 +13,8 @@ const QString titleKey = QStringLiteral("title");
 
 // As setSetting(), where the setting is one of type T.
 template <typename T>
-std::optional<Result<void, SettingError>> trySetting(TorController &controller, Field *field, const QString &text)
+std::optional<Result<void, SettingError>> trySetting(TorController &controller, Field *field,
+                                                     const QString &text)
 {
     auto *const setting = dynamic_cast<Setting<T> *>(field);
     if (!setting)
@@ -33,10 +34,12 @@ QJsonObject publishedState(const TorController &controller)
         state.insert(field->name(), field->toJson());
     // The results of checks are those of a session that is up.
     if (controller.phase() != ConnectionPhase::connected) {
-        for (const Field *field : std::initializer_list<const Field *>{&controller.exitIP, &controller.torVerified, &controller.latencyMs,
-                                                                       &controller.optimizeStatus, &controller.circuitError})
+        for (const Field *field : std::initializer_list<const Field *>{
+                 &controller.exitIP, &controller.torVerified, &controller.latencyMs,
+                 &controller.optimizeStatus, &controller.circuitError})
             state.insert(field->name(), QJsonValue(QJsonValue::Null));
-        for (const Field *field : std::initializer_list<const Field *>{&controller.bytesRead, &controller.bytesWritten})
+        for (const Field *field :
+             std::initializer_list<const Field *>{&controller.bytesRead, &controller.bytesWritten})
             state.insert(field->name(), 0);
         state.insert(controller.leakStatus.name(), json(LeakStatus::notTested()));
         state.insert(controller.dnsStatus.name(), json(DNSStatus::unknown()));
@@ -45,14 +48,18 @@ QJsonObject publishedState(const TorController &controller)
         state.insert(controller.isOptimizing.name(), false);
     }
     const Verdict verdict = controller.verdict();
-    state.insert(controller.statusDetail.name(), json(verdict.detail)); // a known danger comes before what is going on
+    // a known danger comes before what is going on
+    state.insert(controller.statusDetail.name(), json(verdict.detail));
     state.insert(titleKey, json(verdict.title));
     state.insert(QStringLiteral("menuBarSymbol"), verdict.symbol);
     state.insert(QStringLiteral("level"), verdict.levelName());
     // While the rules are taken down, nobody looks.
-    const auto rules = controller.phase() == ConnectionPhase::disconnecting ? std::nullopt : controller.killSwitch();
+    const auto rules = controller.phase() == ConnectionPhase::disconnecting
+        ? std::nullopt
+        : controller.killSwitch();
     state.insert(controller.killSwitch.name(), json(rules));
-    state.insert(QStringLiteral("killSwitchSince"), rules ? json(rules->since.toString(Qt::ISODate)) : QJsonValue(QJsonValue::Null));
+    state.insert(QStringLiteral("killSwitchSince"),
+                 rules ? json(rules->since.toString(Qt::ISODate)) : QJsonValue(QJsonValue::Null));
     return state;
 }
 
@@ -95,17 +102,21 @@ QStringList settingNames(const TorController &controller)
     return names;
 }
 
-Result<void, SettingError> setSetting(TorController &controller, const QString &name, const QString &text)
+Result<void, SettingError> setSetting(TorController &controller, const QString &name,
+                                      const QString &text)
 {
     Field *const field = controller.fieldNamed(name);
-    for (const auto &tried : {trySetting<bool>(controller, field, text), trySetting<QString>(controller, field, text),
-                              trySetting<QStringList>(controller, field, text), trySetting<BridgeChoice>(controller, field, text)}) {
+    for (const auto &tried :
+         {trySetting<bool>(controller, field, text), trySetting<QString>(controller, field, text),
+          trySetting<QStringList>(controller, field, text),
+          trySetting<BridgeChoice>(controller, field, text)}) {
         if (tried)
             return *tried;
     }
-    return Failure(SettingError(SettingError::Kind::Refused,
-                                Text::tr("There is no setting \"%1\". Settings: %2.")
-                                    .arg(inOneLine(name), settingNames(controller).join(QStringLiteral(", ")))));
+    return Failure(SettingError(
+        SettingError::Kind::Refused,
+        Text::tr("There is no setting \"%1\". Settings: %2.")
+            .arg(inOneLine(name), settingNames(controller).join(QStringLiteral(", ")))));
 }
 
 } // namespace veldmark

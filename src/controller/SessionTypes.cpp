@@ -27,15 +27,16 @@ const std::vector<ExitCountry> &ExitCountry::all()
 bool ExitCountry::isValid(const QString &code)
 {
     return code.isEmpty()
-        || (code.size() == 2
-            && std::all_of(code.cbegin(), code.cend(),
-                           [](QChar c) { return c >= u'a' && c <= u'z'; }));
+        || (code.size() == 2 && std::all_of(code.cbegin(), code.cend(), [](QChar c) {
+                return c >= u'a' && c <= u'z';
+            }));
 }
 
 TorError TorError::bootstrapTimeout(const std::optional<Text> &lastError)
 {
-    return TorError(lastError ? Text::tr("Tor didn't finish connecting within 5 minutes. (%1)").arg(*lastError)
-                              : Text::tr("Tor didn't finish connecting within 5 minutes."));
+    return TorError(
+        lastError ? Text::tr("Tor didn't finish connecting within 5 minutes. (%1)").arg(*lastError)
+                  : Text::tr("Tor didn't finish connecting within 5 minutes."));
 }
 
 } // namespace veldmark

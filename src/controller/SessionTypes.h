@@ -30,7 +30,7 @@ public:
     Text description() const { return m_description; }
 
 private:
-    explicit TorError(Text description) : m_description(std::move(description)) {}
+    explicit TorError(Text description) : m_description(std::move(description)) { }
     Text m_description;
 };
 

@@ -22,7 +22,8 @@ SessionWatch::SessionWatch(TorController &controller) : m_controller(controller)
     QObject::connect(&controller.otherSession, &Field::changed, this, &SessionWatch::watchOwner,
                      Qt::QueuedConnection);
     // What this one takes for the end of its own session may have been another's beginning.
-    QObject::connect(&controller.phase, &Field::changed, this, &SessionWatch::look, Qt::QueuedConnection);
+    QObject::connect(&controller.phase, &Field::changed, this, &SessionWatch::look,
+                     Qt::QueuedConnection);
     watchFolder();
     watchOwner();
 }
@@ -65,7 +66,8 @@ void SessionWatch::watchOwner()
 #if defined(Q_OS_LINUX) && defined(SYS_pidfd_open)
     if (!m_controller.otherSession())
         return;
-    m_process = static_cast<int>(::syscall(SYS_pidfd_open, m_controller.otherSession()->process, 0));
+    m_process = static_cast<int>(
+        ::syscall(SYS_pidfd_open, m_controller.otherSession()->process, 0));
     if (m_process < 0) { // it has gone just now, or the kernel is too old to tell
         QMetaObject::invokeMethod(this, &SessionWatch::look, Qt::QueuedConnection);
         return;

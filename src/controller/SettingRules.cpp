@@ -14,7 +14,8 @@ auto refusal(const Text &description)
 }
 
 template <typename T>
-Result<void, SettingError> store(const TorController &controller, Setting<T> &setting, const T &value)
+Result<void, SettingError> store(const TorController &controller, Setting<T> &setting,
+                                 const T &value)
 {
     if (const auto locked = lock(controller, setting); locked && setting() != value)
         return refusal(*locked);
@@ -29,7 +30,8 @@ std::optional<Text> lock(const TorController &controller, const Field &setting)
 {
     if (!controller.optionsLocked() || !setting.setting()->isOfConnection)
         return std::nullopt;
-    return Text::tr("\"%1\" holds for the whole connection. Disconnect to change it.").arg(setting.name());
+    return Text::tr("\"%1\" holds for the whole connection. Disconnect to change it.")
+        .arg(setting.name());
 }
 
 std::optional<Text> torPathProblem(const QString &path)
@@ -37,7 +39,8 @@ std::optional<Text> torPathProblem(const QString &path)
     const QString place = path.trimmed();
     if (place.isEmpty() || place.startsWith(u'/'))
         return std::nullopt;
-    return Text::tr("\"%1\" is no place for Tor: give the whole path, such as /usr/bin/tor.").arg(inOneLine(place));
+    return Text::tr("\"%1\" is no place for Tor: give the whole path, such as /usr/bin/tor.")
+        .arg(inOneLine(place));
 }
 
 Result<void, SettingError> change(TorController &controller, Setting<bool> &setting, bool value)
@@ -51,16 +54,20 @@ Result<void, SettingError> change(TorController &controller, Setting<bool> &sett
     return store(controller, setting, value);
 }
 
-Result<void, SettingError> change(TorController &controller, Setting<BridgeChoice> &setting, BridgeChoice value)
+Result<void, SettingError> change(TorController &controller, Setting<BridgeChoice> &setting,
+                                  BridgeChoice value)
 {
     return store(controller, setting, value);
 }
 
-Result<void, SettingError> change(TorController &controller, Setting<QString> &setting, const QString &value)
+Result<void, SettingError> change(TorController &controller, Setting<QString> &setting,
+                                  const QString &value)
 {
     if (&setting == &controller.exitCountry && !ExitCountry::isValid(value))
-        return refusal(Text::tr("\"%1\" is no exit country: two lower-case letters such as \"de\", or nothing "
-                                "for any.").arg(inOneLine(value)));
+        return refusal(
+            Text::tr("\"%1\" is no exit country: two lower-case letters such as \"de\", or nothing "
+                     "for any.")
+                .arg(inOneLine(value)));
     if (&setting == &controller.customTorPath) {
         if (const auto problem = torPathProblem(value))
             return refusal(*problem);
@@ -68,11 +75,12 @@ Result<void, SettingError> change(TorController &controller, Setting<QString> &s
     return store(controller, setting, value);
 }
 
-Result<void, SettingError> change(TorController &controller, Setting<QStringList> &setting, const QStringList &value)
+Result<void, SettingError> change(TorController &controller, Setting<QStringList> &setting,
+                                  const QStringList &value)
 {
-    const auto odd = std::find_if_not(value.begin(), value.end(), [&controller](const QString &path) {
-        return controller.isApplication(path);
-    });
+    const auto odd = std::find_if_not(
+        value.begin(), value.end(),
+        [&controller](const QString &path) { return controller.isApplication(path); });
     if (odd != value.end())
         return refusal(Text::tr("\"%1\" is no application: an absolute path that ends in \"%2\".")
                            .arg(inOneLine(*odd), controller.profile().applicationSuffix));

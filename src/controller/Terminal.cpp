@@ -28,7 +28,8 @@ void TorController::applyTerminalMode()
     setShellsActive(terminalMode() && phase() == ConnectionPhase::connected);
 }
 
-// Another process of this user's says for its own session whether the shells follow it, also where it isn't shown here.
+// Another process of this user's says for its own session whether the shells follow it, also where
+// it isn't shown here.
 void TorController::setShellsActive(bool on)
 {
     const auto other = SessionOwner::ofAnotherProcess(m_services.profile);
@@ -39,7 +40,8 @@ void TorController::setShellsActive(bool on)
 void TorController::showTerminalProblem(const Result<void, TerminalError> &installed)
 {
     if (!installed)
-        terminalError = Text::tr("Couldn't set up terminal mode: %1").arg(installed.error().description());
+        terminalError
+            = Text::tr("Couldn't set up terminal mode: %1").arg(installed.error().description());
 }
 
 QCoro::Task<void> TorController::installForSsh(quint64 run)
@@ -57,7 +59,8 @@ QCoro::Task<Text> TorController::terminalHint()
     const QPointer<TorController> self(this);
     auto asking = m_services.terminal.askForSocksCommand();
     co_await asking;
-    co_return self && m_services.terminal.knowsSocksCommand() ? m_services.terminal.sshHint() : Text();
+    co_return self &&m_services.terminal.knowsSocksCommand() ? m_services.terminal.sshHint()
+                                                             : Text();
 }
 
 bool TorController::isTerminalInstalled() const
@@ -74,8 +77,8 @@ void TorController::removeTerminalIntegration()
 {
     setTerminalMode(false);
     if (const auto removed = m_services.terminal.uninstall(); !removed)
-        terminalError =
-            Text::tr("Couldn't remove terminal integration: %1").arg(removed.error().description());
+        terminalError = Text::tr("Couldn't remove terminal integration: %1")
+                            .arg(removed.error().description());
 }
 
 } // namespace veldmark

@@ -8,8 +8,8 @@
 namespace veldmark {
 
 TorController::TorController(const Services &services, QObject *parent)
-    : FieldOwner(services.settings, parent)
-    , m_services(services)
+    : FieldOwner(services.settings, parent),
+      m_services(services)
 {
     passwordlessInstalled = services.privileged.passwordlessInstalled();
     readSettingsProblems();

@@ -6,9 +6,9 @@
 #include "bridges/TransportDownloader.h"
 #include "checks/DNSStatus.h"
 #include "checks/KillSwitch.h"
-#include "checks/OwnAddresses.h"
 #include "checks/LeakStatus.h"
 #include "checks/NetworkRoute.h"
+#include "checks/OwnAddresses.h"
 #include "checks/TrafficWatch.h"
 #include "checks/Verdict.h"
 #include "circuits/CircuitTable.h"
@@ -87,12 +87,13 @@ public:
             installTransports = {};
         // TransportDownloader::cancel().
         std::function<void()> cancelTransports = {};
-        // As locateTransports, without waiting for what programs say of themselves; for connect(). Without it
-        // locateTransports is used.
+        // As locateTransports, without waiting for what programs say of themselves; for connect().
+        // Without it locateTransports is used.
         std::function<QCoro::Task<PluggableTransports>()> locateWithoutAsking = {};
         std::function<QSet<QHostAddress>()> ownAddresses = OwnAddresses::present;
         std::function<std::optional<NetworkRoute>()> route = NetworkRoute::present;
-        // ProgramApproval::missing(), for the words of a connect. Without it nothing is ever to be approved.
+        // ProgramApproval::missing(), for the words of a connect. Without it nothing is ever to be
+        // approved.
         std::function<std::vector<ProgramApproval>(const QStringList &words)> missingApprovals = {};
     };
 
@@ -102,48 +103,69 @@ public:
     ~TorController() override;
 
     // --- The user's settings; each `set` is stored at once. ---
-    Setting<bool> strictMode{this, "strictMode", Scope::connection, Text::tr("the kill switch, else proxy mode"), true};
-    Setting<bool> allowLocalNetwork{this, "allowLocalNetwork", Scope::connection, Text::tr("strict mode lets the local network through"), true};
-    Setting<bool> separateApps{this, "separateApps", Scope::connection, Text::tr("each application has circuits of its own"), true};
-    Setting<QString> exitCountry{this, "exitCountry", Scope::connection, Text::tr("two lower-case letters, or nothing for any"), QString()};
-    Setting<QString> customTorPath{this, "customTorPath", Scope::connection, Text::tr("the tor to use, or nothing to search for it"), QString()};
-    Setting<BridgeChoice> bridgeChoice{this, "bridgeChoice", Scope::connection, Text::tr("which bridges"), BridgeChoice::off};
-    Setting<QString> customBridges{this, "customBridges", Scope::connection, Text::tr("your own bridge lines, as typed"), QString()};
-    Setting<QStringList> bypassApps{this, "bypassApps", Scope::always, Text::tr("paths of applications that may be opened without Tor")};
-    Setting<bool> autoConnect{this, "autoConnect", Scope::always, Text::tr("connect when Veldmark starts")};
-    Setting<bool> optimizeSpeed{this, "optimizeSpeed", Scope::connection, Text::tr("test bridges before connecting, look for a faster path afterwards")};
-    Setting<bool> terminalMode{this, "terminalMode", Scope::always, Text::tr("command-line tools go through Tor while connected"), false};
+    Setting<bool> strictMode{this, "strictMode", Scope::connection,
+                             Text::tr("the kill switch, else proxy mode"), true};
+    Setting<bool> allowLocalNetwork{this, "allowLocalNetwork", Scope::connection,
+                                    Text::tr("strict mode lets the local network through"), true};
+    Setting<bool> separateApps{this, "separateApps", Scope::connection,
+                               Text::tr("each application has circuits of its own"), true};
+    Setting<QString> exitCountry{this, "exitCountry", Scope::connection,
+                                 Text::tr("two lower-case letters, or nothing for any"), QString()};
+    Setting<QString> customTorPath{this, "customTorPath", Scope::connection,
+                                   Text::tr("the tor to use, or nothing to search for it"),
+                                   QString()};
+    Setting<BridgeChoice> bridgeChoice{this, "bridgeChoice", Scope::connection,
+                                       Text::tr("which bridges"), BridgeChoice::off};
+    Setting<QString> customBridges{this, "customBridges", Scope::connection,
+                                   Text::tr("your own bridge lines, as typed"), QString()};
+    Setting<QStringList> bypassApps{
+        this, "bypassApps", Scope::always,
+        Text::tr("paths of applications that may be opened without Tor")};
+    Setting<bool> autoConnect{this, "autoConnect", Scope::always,
+                              Text::tr("connect when Veldmark starts")};
+    Setting<bool> optimizeSpeed{
+        this, "optimizeSpeed", Scope::connection,
+        Text::tr("test bridges before connecting, look for a faster path afterwards")};
+    Setting<bool> terminalMode{this, "terminalMode", Scope::always,
+                               Text::tr("command-line tools go through Tor while connected"),
+                               false};
 
     // --- The session. ---
     Published<ConnectionPhase> phase{this, "phase", ConnectionPhase::disconnected};
     Published<std::optional<RoutingMode>> activeMode{this, "activeMode"}; // absent when no session
     Published<std::optional<BridgeChoice>> activeBridge{this, "activeBridge"};
     Published<double> bootstrapProgress{this, "bootstrapProgress"}; // 0…1
-    Published<Text> statusDetail{this, "statusDetail", Text::tr("Your traffic is not going through Tor")};     // the line under the title
-    // What keeps Tor from connecting, by its own report and log, in a sentence; absent when Tor knows
-    // of nothing. Stays after a bootstrap that failed, until the next attempt or the restore.
+    // the line under the title
+    Published<Text> statusDetail{this, "statusDetail",
+                                 Text::tr("Your traffic is not going through Tor")};
+    // What keeps Tor from connecting, by its own report and log, in a sentence; absent when Tor
+    // knows of nothing. Stays after a bootstrap that failed, until the next attempt or the restore.
     Published<std::optional<Text>> bootstrapProblem{this, "bootstrapProblem"};
     // Whose the session is that a stale phase shows, while another process that made it still runs.
     Published<std::optional<SessionOwner>> otherSession{this, "otherSession"};
-    Published<bool> canCancel{this, "canCancel"};           // a connect attempt may be ended by disconnect()
+    // a connect attempt may be ended by disconnect()
+    Published<bool> canCancel{this, "canCancel"};
     // The banner; absent = none. An operation that may set it takes back what stood there before,
     // except a restore that did not happen: then the reason for restoring is still true.
     Published<std::optional<Text>> errorMessage{this, "errorMessage"};
-    Published<quint64> bytesRead{this, "bytesRead"};        // since Tor started
+    Published<quint64> bytesRead{this, "bytesRead"}; // since Tor started
     Published<quint64> bytesWritten{this, "bytesWritten"};
-    // Why nothing gets through Tor at the moment, although it counts as connected; absent while something does.
+    // Why nothing gets through Tor at the moment, although it counts as connected; absent while
+    // something does.
     Published<std::optional<TrafficWatch::Stall>> stall{this, "stall"};
 
     // --- The checks. ---
-    // What the watcher over the rules has last seen in the kernel; absent without a strict session. Read in every
-    // phase but `disconnected` and `disconnecting`, also when Tor is dead, and before anything is said to be blocked.
+    // What the watcher over the rules has last seen in the kernel; absent without a strict session.
+    // Read in every phase but `disconnected` and `disconnecting`, also when Tor is dead, and before
+    // anything is said to be blocked.
     Published<std::optional<KillSwitch>> killSwitch{this, "killSwitch"};
     Published<std::optional<QString>> exitIP{this, "exitIP"};
     Published<std::optional<bool>> torVerified{this, "torVerified"}; // absent = not checked yet
     Published<LeakStatus> leakStatus{this, "leakStatus", LeakStatus::notTested()};
     Published<DNSStatus> dnsStatus{this, "dnsStatus", DNSStatus::unknown()};
     Published<bool> isChecking{this, "isChecking"};
-    Published<std::optional<qint64>> latencyMs{this, "latencyMs"}; // of a request through Tor, milliseconds
+    // of a request through Tor, milliseconds
+    Published<std::optional<qint64>> latencyMs{this, "latencyMs"};
     Published<std::optional<Text>> optimizeStatus{this, "optimizeStatus"};
     Published<bool> isOptimizing{this, "isOptimizing"};
 
@@ -155,7 +177,8 @@ public:
     Published<bool> passwordlessInstalled{this, "passwordlessInstalled"};
     Published<std::optional<Text>> startupError{this, "startupError"};
     Published<std::optional<Text>> terminalError{this, "terminalError"};
-    // What is wrong with the settings' file, a sentence each, the oldest first; until its reader has dismissed it.
+    // What is wrong with the settings' file, a sentence each, the oldest first; until its reader
+    // has dismissed it.
     Published<QList<Text>> settingsProblems{this, "settingsProblems"};
 
     // --- Derived from the fields. ---
@@ -175,14 +198,16 @@ public:
     // From `disconnected` or `stale` to `connected`; in any other phase does nothing.
     QCoro::Task<void> connect();
     // Restores the network. Accepted when connected, stale, or connecting with `canCancel`. When
-    // the helper fails, a session that was up is so again as long as the marker says so too. The error is
-    // a sentence; empty when the user dismissed the prompt, or when it was not accepted or not waited for. A session
-    // by which another process has replaced this one's is not ended by the first call, which shows it instead.
+    // the helper fails, a session that was up is so again as long as the marker says so too. The
+    // error is a sentence; empty when the user dismissed the prompt, or when it was not accepted or
+    // not waited for. A session by which another process has replaced this one's is not ended by
+    // the first call, which shows it instead.
     QCoro::Task<Result<void, Text>> disconnect();
     // At start-up, before anything shows state: finds a session left from an earlier run.
     void detectStaleState();
-    // When another process may have made, replaced or ended the computer's session: shows what is so now. Does
-    // nothing while a session of this object's is being made or goes, nor while its own stands unreplaced.
+    // When another process may have made, replaced or ended the computer's session: shows what is
+    // so now. Does nothing while a session of this object's is being made or goes, nor while its
+    // own stands unreplaced.
     void lookAtSession();
     // At start-up: connects when the user wants it, nothing is left over and tor is there.
     QCoro::Task<void> autoConnectIfEnabled();
@@ -196,15 +221,19 @@ public:
     QCoro::Task<void> newIdentity();
     QCoro::Task<void> newCircuit(QString id);
     QCoro::Task<void> optimizeCircuits();
-    // The computer was asleep: what was verified is no longer known, and Tor's connections may hang without a word.
+    // The computer was asleep: what was verified is no longer known, and Tor's connections may hang
+    // without a word.
     void wake();
 
-    // What the last operation that failed has said, without what is told of the kill switch and of Tor's own network.
+    // What the last operation that failed has said, without what is told of the kill switch and of
+    // Tor's own network.
     std::optional<Text> failure() const;
-    // What goes behind the banner: what kept Tor from connecting, where the banner says that it didn't.
+    // What goes behind the banner: what kept Tor from connecting, where the banner says that it
+    // didn't.
     std::optional<Text> problemBehindError() const
     {
-        return errorMessage() && errorMessage() == m_bootstrapFailure ? bootstrapProblem() : std::nullopt;
+        return errorMessage() && errorMessage() == m_bootstrapFailure ? bootstrapProblem()
+                                                                      : std::nullopt;
     }
     // Whether the session that a stale phase shows is this object's, and its Tor has ended.
     bool hasTorStopped() const { return m_torStopped; }
@@ -218,13 +247,14 @@ public:
     void dismissSettingsProblem() { settingsProblems = settingsProblems().mid(1); }
 
     // --- Operations: transports. ---
-    // Searches the computer afresh and sets `transports`, unless a search that began later has done so.
+    // Searches the computer afresh and sets `transports`, unless a search that began later has done
+    // so.
     QCoro::Task<void> locateTransports();
     // Fetches and installs the Tor Project's bundle of transport programs, through Tor while
     // connected. A connect() ends a direct download; it begins again when the connection stands or
-    // has failed. Does nothing unless canDownloadTransports(). `transportDownload` tells how it goes
-    // and keeps the last word until the next download; it is absent when all went well. True when a
-    // bundle was installed, whatever else there is to say about it.
+    // has failed. Does nothing unless canDownloadTransports(). `transportDownload` tells how it
+    // goes and keeps the last word until the next download; it is absent when all went well. True
+    // when a bundle was installed, whatever else there is to say about it.
     QCoro::Task<bool> downloadTransports();
 
     // --- Operations: applications without Tor; paths as `bypassApps` holds them. ---
@@ -236,8 +266,8 @@ public:
     void addBypassApp(const QString &path);
     void removeBypassApp(const QString &path);
     // Does nothing unless `canLaunchBypassed()`, nor while the same application is being opened.
-    // Running copies are asked to quit first. The error is a sentence; empty when the user dismissed
-    // the prompt or the session ended meanwhile.
+    // Running copies are asked to quit first. The error is a sentence; empty when the user
+    // dismissed the prompt or the session ended meanwhile.
     QCoro::Task<Result<void, Text>> launchBypassed(QString path);
 
     // --- Operations: helper without a password, terminal. ---
@@ -248,10 +278,11 @@ public:
     QCoro::Task<void> removePasswordless();
     std::optional<Text> setTerminalMode(bool on); // as Setting::set()
     void removeTerminalIntegration();
-    // What to install so that ssh goes through Tor in terminal mode; empty when it does. Programs are asked for it,
-    // beside what else happens and once.
+    // What to install so that ssh goes through Tor in terminal mode; empty when it does. Programs
+    // are asked for it, beside what else happens and once.
     QCoro::Task<Text> terminalHint();
-    // Whether the shells, and ssh, read terminal mode's files. Both read the user's files, so not for every redraw.
+    // Whether the shells, and ssh, read terminal mode's files. Both read the user's files, so not
+    // for every redraw.
     bool isTerminalInstalled() const;
     bool isTerminalUsedBySsh() const;
 
@@ -287,7 +318,8 @@ private:
     // Bootstrap.cpp
     QCoro::Task<Result<void, Text>> waitForBootstrap(Attempt attempt);
     // `waited`: since Tor's first answer.
-    std::optional<Text> problemBehind(const BootstrapStatus &status, std::chrono::nanoseconds waited) const;
+    std::optional<Text> problemBehind(const BootstrapStatus &status,
+                                      std::chrono::nanoseconds waited) const;
     // Monitoring.cpp
     void startMonitoring();
     void stopMonitoring();
@@ -297,7 +329,8 @@ private:
     void torDied();
     void giveUpTo(const std::optional<SessionOwner> &other);
     Text replacedText() const; // `otherSession` is there
-    void showSessionOf(const std::optional<SessionOwner> &other); // nobody's: one that was left over
+    // nobody's: one that was left over
+    void showSessionOf(const std::optional<SessionOwner> &other);
     struct TimedProbe {
         ProbeResult answer;
         std::chrono::milliseconds elapsed; // in both outcomes
@@ -307,7 +340,8 @@ private:
     void lookAtKillSwitch();
     // "Blocked" is the rules' doing, and nothing where they aren't known to stand.
     LeakStatus believable(const LeakStatus &found) const;
-    // Looks now and every two seconds until stopped or the session ends. What m_knownKillSwitch holds is no news.
+    // Looks now and every two seconds until stopped or the session ends. What m_knownKillSwitch
+    // holds is no news.
     void startKillSwitchWatch();
     void stopKillSwitchWatch() { ++m_killSwitchWatch; }
     void forgetKillSwitch();
@@ -346,44 +380,46 @@ private:
     QCoro::Task<void> installForSsh(quint64 run);
 
     Services m_services;
-    Attempt m_attempt = 0;  // the running connect or disconnect; older ones end silently
-    quint64 m_monitor = 0;  // the running monitor loop
+    Attempt m_attempt = 0;     // the running connect or disconnect; older ones end silently
+    quint64 m_monitor = 0;     // the running monitor loop
     quint64 m_terminalRun = 0; // how often terminal mode was applied
-    std::optional<QString> m_controlPassword; // of the running session; in memory only
-    QString m_controlHash;                    // what Tor was told of it
-    std::optional<SessionMark> m_sessionMark; // of the session that this object has made
-    QStringList m_sessionWords;               // what the helper was last asked for, and did
-    bool m_isDownloading = false;             // transports
-    bool m_downloadsDirectly = false;         // and not through Tor
-    bool m_downloadInterrupted = false;       // a connect has begun meanwhile
+    std::optional<QString> m_controlPassword;       // of the running session; in memory only
+    QString m_controlHash;                          // what Tor was told of it
+    std::optional<SessionMark> m_sessionMark;       // of the session that this object has made
+    QStringList m_sessionWords;                     // what the helper was last asked for, and did
+    bool m_isDownloading = false;                   // transports
+    bool m_downloadsDirectly = false;               // and not through Tor
+    bool m_downloadInterrupted = false;             // a connect has begun meanwhile
     std::optional<ResumeOnce<bool>> m_downloadWait; // for the end of that connect
-    quint64 m_transportSearch = 0;            // the last search that began
-    quint64 m_shownSearch = 0;                // the one that `transports` is of
-    std::optional<Attempt> m_fixedAttempt;    // whose fixDNS() is under way
-    std::vector<ResumeOnce<bool>> m_fixWaiters; // later calls of the same session
-    quint64 m_killSwitchWatch = 0;            // the running watch
-    std::optional<KillSwitch> m_knownKillSwitch; // as last told in this session
-    std::optional<Text> m_killSwitchMessage; // the banner that tells of it
-    Clock::TimePoint m_killSwitchSeen;        // when the watcher's note was last a fresh one
-    std::optional<Text> m_bootstrapFailure;  // the banner of a bootstrap that failed
-    bool m_torStopped = false;                // under this session
+    quint64 m_transportSearch = 0;                  // the last search that began
+    quint64 m_shownSearch = 0;                      // the one that `transports` is of
+    std::optional<Attempt> m_fixedAttempt;          // whose fixDNS() is under way
+    std::vector<ResumeOnce<bool>> m_fixWaiters;     // later calls of the same session
+    quint64 m_killSwitchWatch = 0;                  // the running watch
+    std::optional<KillSwitch> m_knownKillSwitch;    // as last told in this session
+    std::optional<Text> m_killSwitchMessage;        // the banner that tells of it
+    Clock::TimePoint m_killSwitchSeen;              // when the watcher's note was last a fresh one
+    std::optional<Text> m_bootstrapFailure;         // the banner of a bootstrap that failed
+    bool m_torStopped = false;                      // under this session
     // What the monitor knows of the session's network, also over a disconnect that was refused.
     struct NetworkKnowledge {
-        bool hasSlept = false;     // Tor is to begin anew
-        bool mayBeOffline = false; // Tor was told to leave the network, and has not confirmed that it is back
+        bool hasSlept = false; // Tor is to begin anew
+        // Tor was told to leave the network, and has not confirmed that it is back
+        bool mayBeOffline = false;
         OwnAddresses addresses;
         TrafficWatch traffic;
     } m_network;
-    bool m_dnsLiveVerified = false;           // a live DNS check passed in this session
-    bool m_isSettlingIn = false;              // settleIn() is under way
-    quint64 m_identity = 0;                   // counts the times that Tor was asked for new circuits
-    quint64 m_circuitReading = 0;             // the last refresh that began
-    quint64 m_readCircuits = 0;               // the newest whose answer has come
-    quint64 m_shownCircuits = 0;              // the one that `circuits` is of
-    bool m_isSettingUpHelper = false;         // password-free mode is being set up or removed
-    QStringList m_launching;                  // applications that are being opened without Tor
-    QStringList m_pendingBridgeLines;         // of the connection being set up
-    QStringList m_activeBridgeLines;          // of the running session
+    bool m_dnsLiveVerified = false; // a live DNS check passed in this session
+    bool m_isSettlingIn = false;    // settleIn() is under way
+    // counts the times that Tor was asked for new circuits
+    quint64 m_identity = 0;
+    quint64 m_circuitReading = 0;     // the last refresh that began
+    quint64 m_readCircuits = 0;       // the newest whose answer has come
+    quint64 m_shownCircuits = 0;      // the one that `circuits` is of
+    bool m_isSettingUpHelper = false; // password-free mode is being set up or removed
+    QStringList m_launching;          // applications that are being opened without Tor
+    QStringList m_pendingBridgeLines; // of the connection being set up
+    QStringList m_activeBridgeLines;  // of the running session
     RelayCache m_relayCache;
     SiteHistory m_siteHistory;
 };

@@ -13,7 +13,8 @@ namespace {
 Text gnupgHint(const QString &torHint)
 {
     const qsizetype package = torHint.indexOf(QLatin1String(" tor"));
-    return package < 0 ? Text::tr("with your package manager") : Text(torHint.left(package) + QStringLiteral(" gnupg"));
+    return package < 0 ? Text::tr("with your package manager")
+                       : Text(torHint.left(package) + QStringLiteral(" gnupg"));
 }
 } // namespace
 
@@ -72,8 +73,8 @@ QCoro::Task<bool> TorController::downloadTransports()
         co_return false;
     if (!outcome) {
         m_isDownloading = false;
-        transportDownload =
-            Text::tr("Couldn't download bridge programs: %1").arg(outcome.error().description());
+        transportDownload
+            = Text::tr("Couldn't download bridge programs: %1").arg(outcome.error().description());
         co_return false;
     }
     auto locating = locateTransports();
@@ -83,9 +84,10 @@ QCoro::Task<bool> TorController::downloadTransports()
     m_isDownloading = false;
     transportDownload = outcome->isVerified
         ? std::nullopt
-        : std::optional(Text::tr("Bridge programs %1 installed over HTTPS. Install GnuPG (%2) and download "
-                                 "again to also verify the Tor Project's signature.")
-                            .arg(outcome->version, gnupgHint(m_services.profile.torInstallHint)));
+        : std::optional(
+            Text::tr("Bridge programs %1 installed over HTTPS. Install GnuPG (%2) and download "
+                     "again to also verify the Tor Project's signature.")
+                .arg(outcome->version, gnupgHint(m_services.profile.torInstallHint)));
     co_return true;
 }
 

@@ -5,8 +5,8 @@
 
 namespace veldmark {
 
-// logind's word that the computer has been asleep and is awake again. Where there is no logind, nothing ever happens.
-// Main thread.
+// logind's word that the computer has been asleep and is awake again. Where there is no logind,
+// nothing ever happens. Main thread.
 class WakeNotice : public QObject {
     Q_OBJECT
 

@@ -9,7 +9,8 @@ namespace veldmark {
 Withdrawal::Withdrawal(TorController &controller) : m_controller(controller)
 {
     // Queued: what an operation sets, it has set as a whole by then.
-    for (const Field *field : std::initializer_list<const Field *>{&controller.phase, &controller.canCancel})
+    for (const Field *field :
+         std::initializer_list<const Field *>{&controller.phase, &controller.canCancel})
         QObject::connect(field, &Field::changed, this, &Withdrawal::proceed, Qt::QueuedConnection);
 }
 

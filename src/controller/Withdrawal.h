@@ -9,9 +9,9 @@ namespace veldmark {
 class TorController;
 
 // Takes the network out of Tor at the first moment at which that can be done: at once where the
-// controller can be told to disconnect, else when what it is busy with has got so far. For a program
-// that was told to end. What was left over from an earlier run is restored as well; a session of another
-// process that still runs is that one's. Main thread.
+// controller can be told to disconnect, else when what it is busy with has got so far. For a
+// program that was told to end. What was left over from an earlier run is restored as well; a
+// session of another process that still runs is that one's. Main thread.
 class Withdrawal : public QObject {
     Q_OBJECT
 
@@ -24,8 +24,8 @@ public:
     bool isUnderWay() const { return m_wanted; }
 
 Q_SIGNALS:
-    // Restored: nothing is left that is this program's to put back. Not restored: the controller's `errorMessage` says why, or the prompt was dismissed. It may be
-    // begun again.
+    // Restored: nothing is left that is this program's to put back. Not restored: the controller's
+    // `errorMessage` says why, or the prompt was dismissed. It may be begun again.
     void finished(bool restored);
 
 private:

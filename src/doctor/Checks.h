@@ -3,15 +3,17 @@
 #include "doctor/Finding.h"
 #include "doctor/Machine.h"
 
-// What is looked at, one function for each thing. They read files below the machine's root and nothing else.
+// What is looked at, one function for each thing. They read files below the machine's root and
+// nothing else.
 namespace veldmark::Doctor {
 
-Findings torFindings(const Machine &machine);      // Programs.cpp: tor, its version
-Findings programFindings(const Machine &machine);  // what else the helper calls
-Findings helperFindings(const Machine &machine);   // the helper: there, root's, up to date
-Findings bridgeFindings(const Machine &machine);   // the chosen bridges and the programs for them
-Findings portFindings(const Machine &machine);     // Ports.cpp: who holds the ports that Tor needs
-Findings firewallFindings(const Machine &machine); // Firewalls.cpp: nftables, other firewalls, control groups
+Findings torFindings(const Machine &machine);     // Programs.cpp: tor, its version
+Findings programFindings(const Machine &machine); // what else the helper calls
+Findings helperFindings(const Machine &machine);  // the helper: there, root's, up to date
+Findings bridgeFindings(const Machine &machine);  // the chosen bridges and the programs for them
+Findings portFindings(const Machine &machine);    // Ports.cpp: who holds the ports that Tor needs
+// Firewalls.cpp: nftables, other firewalls, control groups
+Findings firewallFindings(const Machine &machine);
 Findings passwordFindings(const Machine &machine); // Password.cpp: polkit and an agent, sudo
 Findings clockFindings(const Machine &machine);    // Clocks.cpp
 Findings lookupFindings(const Machine &machine);   // Session.cpp: who manages DNS

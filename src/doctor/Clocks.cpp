@@ -9,7 +9,8 @@ namespace {
 using Level = Finding::Level;
 
 const QString clockName = QStringLiteral("clock");
-constexpr qint64 allowedSeconds = 3600; // Tor fails beyond some hours; a file's own time may be a little off
+// Tor fails beyond some hours; a file's own time may be a little off
+constexpr qint64 allowedSeconds = 3600;
 
 QString shown(const QDateTime &time)
 {
@@ -18,11 +19,12 @@ QString shown(const QDateTime &time)
 
 } // namespace
 
-// Without the network nobody knows the time. Known is what it cannot be (earlier than a file that is there was written), and
-// whether something has set the clock.
+// Without the network nobody knows the time. Known is what it cannot be (earlier than a file that
+// is there was written), and whether something has set the clock.
 Findings clockFindings(const Machine &machine)
 {
-    const QString setting = machine.isLinux() ? QStringLiteral("sudo timedatectl set-ntp true") : QString();
+    const QString setting = machine.isLinux() ? QStringLiteral("sudo timedatectl set-ntp true")
+                                              : QString();
     QDateTime latest;
     QString witness;
     for (const QString &path : {machine.profile.bundledHelper(), machine.at("/var/lib/dpkg/status"),
@@ -34,14 +36,26 @@ Findings clockFindings(const Machine &machine)
         witness = path;
     }
     if (latest.isValid() && machine.now.secsTo(latest) > allowedSeconds)
-        return {{clockName, Level::problem,
-                 Text::tr("The clock is behind: it shows %1, but the file %2 was written on %3. Tor needs a clock that is right "
-                          "to within minutes.").arg(shown(machine.now), witness, shown(latest)), setting}};
+        return {
+            {clockName, Level::problem,
+             Text::tr(
+                 "The clock is behind: it shows %1, but the file %2 was written on %3. Tor needs a clock that is right "
+                 "to within minutes.")
+                 .arg(shown(machine.now), witness, shown(latest)),
+             setting}};
     if (machine.clockIsSet == true || machine.exists("/run/systemd/timesync/synchronized"))
-        return {{clockName, Level::good, Text::tr("The clock is set from the network. It shows %1.").arg(shown(machine.now)), {}}};
-    return {{clockName, Level::unknown,
-             Text::tr("Whether the clock is right isn't known: nothing is seen to set it from the network. It shows %1. Tor needs it "
-                      "right to within minutes.").arg(shown(machine.now)), setting}};
+        return {
+            {clockName,
+             Level::good,
+             Text::tr("The clock is set from the network. It shows %1.").arg(shown(machine.now)),
+             {}}};
+    return {
+        {clockName, Level::unknown,
+         Text::tr(
+             "Whether the clock is right isn't known: nothing is seen to set it from the network. It shows %1. Tor needs it "
+             "right to within minutes.")
+             .arg(shown(machine.now)),
+         setting}};
 }
 
 } // namespace veldmark::Doctor

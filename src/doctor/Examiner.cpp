@@ -29,7 +29,7 @@ std::optional<bool> clockIsSet()
 
 std::optional<FileOwner> ownerOf(const QString &path)
 {
-    struct stat info {};
+    struct stat info { };
     if (::lstat(QFile::encodeName(path).constData(), &info) != 0)
         return std::nullopt;
     return FileOwner{info.st_uid, S_ISLNK(info.st_mode) ? 0 : info.st_mode};
@@ -37,12 +37,17 @@ std::optional<FileOwner> ownerOf(const QString &path)
 
 } // namespace
 
-Examiner::Examiner(const PlatformProfile &profile, SettingsStore &settings, ProcessRunner &processes)
-    : m_profile(profile), m_settings(settings), m_processes(processes), m_search(std::make_shared<TransportSearch>(profile))
+Examiner::Examiner(const PlatformProfile &profile, SettingsStore &settings,
+                   ProcessRunner &processes)
+    : m_profile(profile),
+      m_settings(settings),
+      m_processes(processes),
+      m_search(std::make_shared<TransportSearch>(profile))
 {
 }
 
-QCoro::Task<std::optional<ProcessResult>> Examiner::run(ProcessRunner *processes, QString program, QStringList arguments)
+QCoro::Task<std::optional<ProcessResult>> Examiner::run(ProcessRunner *processes, QString program,
+                                                        QStringList arguments)
 {
     StopSource stop;
     QTimer limit;
@@ -61,10 +66,12 @@ QCoro::Task<Findings> Examiner::examine()
     Machine machine;
     machine.profile = m_profile;
     machine.customTor = m_settings.string(QStringLiteral("customTorPath"));
-    machine.bridges = {bridgeChoiceFromRawValue(m_settings.string(QStringLiteral("bridgeChoice"))).value_or(BridgeChoice::off),
+    machine.bridges = {bridgeChoiceFromRawValue(m_settings.string(QStringLiteral("bridgeChoice")))
+                           .value_or(BridgeChoice::off),
                        m_settings.string(QStringLiteral("customBridges")), false};
     machine.user = ::geteuid();
-    machine.hasDesktop = !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") || !machine.isLinux();
+    machine.hasDesktop = !qEnvironmentVariableIsEmpty("DISPLAY")
+        || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") || !machine.isLinux();
     machine.now = QDateTime::currentDateTimeUtc();
     machine.clockIsSet = clockIsSet();
     machine.owner = ownerOf;
@@ -84,7 +91,8 @@ QCoro::Task<Findings> Examiner::examine()
         if (answer && answer->status == 0)
             machine.torVersion = answer->stdout;
     }
-    if (const QString nft = machine.program(QStringLiteral("nft")); machine.user == 0 && machine.isLinux() && !nft.isEmpty()) {
+    if (const QString nft = machine.program(QStringLiteral("nft"));
+        machine.user == 0 && machine.isLinux() && !nft.isEmpty()) {
         auto asking = run(processes, nft, {QStringLiteral("list"), QStringLiteral("tables")});
         const auto answer = co_await asking;
         machine.firewallComplaint = !answer ? Text::tr("nft doesn't answer.")

@@ -13,18 +13,22 @@ namespace veldmark {
 class SettingsStore;
 struct Machine;
 
-// Looks at the computer that the program runs on. Main thread; it runs tor for its version, and as root nft for its tables, each for
-// five seconds at most, and searches for transports on another thread.
+// Looks at the computer that the program runs on. Main thread; it runs tor for its version, and as
+// root nft for its tables, each for five seconds at most, and searches for transports on another
+// thread.
 class Examiner {
 public:
-    // All must outlive it. Who still waits when it goes is resumed with no findings: look whether you are still wanted.
+    // All must outlive it. Who still waits when it goes is resumed with no findings: look whether
+    // you are still wanted.
     Examiner(const PlatformProfile &profile, SettingsStore &settings, ProcessRunner &processes);
 
     QCoro::Task<Findings> examine();
 
 private:
-    // The program's standard output and complaint; absent when it cannot be started, fails or takes too long.
-    static QCoro::Task<std::optional<ProcessResult>> run(ProcessRunner *processes, QString program, QStringList arguments);
+    // The program's standard output and complaint; absent when it cannot be started, fails or takes
+    // too long.
+    static QCoro::Task<std::optional<ProcessResult>> run(ProcessRunner *processes, QString program,
+                                                         QStringList arguments);
 
     const PlatformProfile m_profile;
     SettingsStore &m_settings;

@@ -21,8 +21,9 @@ QString levelName(Finding::Level level)
 
 bool canConnect(const Findings &findings)
 {
-    return std::none_of(findings.cbegin(), findings.cend(),
-                        [](const Finding &finding) { return finding.level == Finding::Level::problem; });
+    return std::none_of(findings.cbegin(), findings.cend(), [](const Finding &finding) {
+        return finding.level == Finding::Level::problem;
+    });
 }
 
 } // namespace veldmark

@@ -6,9 +6,10 @@
 
 #include <vector>
 
-// The room that looks at this computer and says what a connect needs, what is in its way, and what mends it. It reads only, asks
-// nobody on the network, and needs no root. Start here, then Machine (what is looked at), Checks.h (the findings, each a function of
-// a Machine) and Examiner (which looks at the real computer).
+// The room that looks at this computer and says what a connect needs, what is in its way, and what
+// mends it. It reads only, asks nobody on the network, and needs no root. Start here, then Machine
+// (what is looked at), Checks.h (the findings, each a function of a Machine) and Examiner (which
+// looks at the real computer).
 namespace veldmark {
 
 // One thing that was looked at. A plain value.
@@ -22,10 +23,10 @@ struct Finding {
     // The control of the window that mends it.
     enum class Button { none, restore, download };
 
-    QString name;     // what was looked at: "tor", "ports" …; never translated
+    QString name; // what was looked at: "tor", "ports" …; never translated
     Level level = Level::good;
-    Text text;        // a sentence
-    QString command;  // what a user types to mend it; empty: nothing, or nothing that is known
+    Text text;       // a sentence
+    QString command; // what a user types to mend it; empty: nothing, or nothing that is known
     Button button = Button::none;
 
     friend bool operator==(const Finding &, const Finding &) = default;

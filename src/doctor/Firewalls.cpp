@@ -21,9 +21,11 @@ struct Known {
     const char *name;
 };
 constexpr std::array known{
-    Known{"firewalld", "firewalld"},       Known{"dockerd", "Docker"},          Known{"libvirtd", "libvirt"},
-    Known{"virtnetworkd", "libvirt"},      Known{"opensnitchd", "OpenSnitch"},  Known{"portmaster-core", "Portmaster"},
-    Known{"mullvad-daemon", "Mullvad VPN"}, Known{"nordvpnd", "NordVPN"},       Known{"fail2ban-server", "Fail2ban"},
+    Known{"firewalld", "firewalld"},        Known{"dockerd", "Docker"},
+    Known{"libvirtd", "libvirt"},           Known{"virtnetworkd", "libvirt"},
+    Known{"opensnitchd", "OpenSnitch"},     Known{"portmaster-core", "Portmaster"},
+    Known{"mullvad-daemon", "Mullvad VPN"}, Known{"nordvpnd", "NordVPN"},
+    Known{"fail2ban-server", "Fail2ban"},
 };
 
 QString kernel(const Machine &machine)
@@ -53,21 +55,35 @@ std::optional<bool> kernelHasTables(const Machine &machine)
 Finding nftables(const Machine &machine)
 {
     if (machine.program(QStringLiteral("nft")).isEmpty())
-        return {nftablesName, Level::problem, Text::tr("nftables isn't installed. Veldmark's firewall needs it."),
+        return {nftablesName, Level::problem,
+                Text::tr("nftables isn't installed. Veldmark's firewall needs it."),
                 machine.installing(nftablesName)};
     if (machine.firewallComplaint)
         return machine.firewallComplaint->isEmpty()
-            ? Finding{nftablesName, Level::good, Text::tr("The system's firewall, nftables, can be used."), {}}
-            : Finding{nftablesName, Level::problem, Text::tr("The system's firewall can't be used: %1").arg(*machine.firewallComplaint), QStringLiteral("sudo modprobe nf_tables")};
+            ? Finding{nftablesName,
+                      Level::good,
+                      Text::tr("The system's firewall, nftables, can be used."),
+                      {}}
+            : Finding{
+                nftablesName, Level::problem,
+                Text::tr("The system's firewall can't be used: %1").arg(*machine.firewallComplaint),
+                QStringLiteral("sudo modprobe nf_tables")};
     const auto hasTables = kernelHasTables(machine);
     if (hasTables == false)
-        return {nftablesName, Level::problem,
-                Text::tr("The kernel that runs (%1) has no nftables. After an upgrade of the kernel, restart the computer.").arg(kernel(machine)), QStringLiteral("sudo reboot")};
+        return {
+            nftablesName, Level::problem,
+            Text::tr(
+                "The kernel that runs (%1) has no nftables. After an upgrade of the kernel, restart the computer.")
+                .arg(kernel(machine)),
+            QStringLiteral("sudo reboot")};
     if (!hasTables)
-        return {nftablesName, Level::unknown,
-                Text::tr("nftables is installed. Whether the kernel that runs can use it is known to root only."),
-                QStringLiteral("sudo nft list tables")};
-    return {nftablesName, Level::good, Text::tr("nftables is installed, and the kernel has it."), {}};
+        return {
+            nftablesName, Level::unknown,
+            Text::tr(
+                "nftables is installed. Whether the kernel that runs can use it is known to root only."),
+            QStringLiteral("sudo nft list tables")};
+    return {
+        nftablesName, Level::good, Text::tr("nftables is installed, and the kernel has it."), {}};
 }
 
 QStringList others(const Machine &machine)
@@ -79,7 +95,8 @@ QStringList others(const Machine &machine)
             names << QLatin1String(name);
     if (OtherFirewalls::isUfwOn(machine.profile))
         names << QStringLiteral("ufw");
-    if (QFileInfo(machine.at("/etc/systemd/system/sysinit.target.wants/nftables.service")).isSymLink()
+    if (QFileInfo(machine.at("/etc/systemd/system/sysinit.target.wants/nftables.service"))
+            .isSymLink()
         || machine.exists("/etc/systemd/system/sysinit.target.wants/nftables.service"))
         names << QStringLiteral("nftables.service");
     return names;
@@ -89,18 +106,32 @@ Finding controlGroups(const Machine &machine)
 {
     bool isThere = false;
     for (const QString &line : machine.read("/proc/self/mountinfo").split(u'\n'))
-        isThere |= line.contains(QLatin1String(" - cgroup2 ")) && line.section(u' ', 3, 3) == QLatin1String("/");
+        isThere |= line.contains(QLatin1String(" - cgroup2 "))
+            && line.section(u' ', 3, 3) == QLatin1String("/");
     if (!isThere)
-        return {groupsName, Level::note,
-                Text::tr("This system has no control groups of version 2, so no application can be opened without Tor, "
-                         "and the kill switch knows Tor by its account alone. Everything else works."), {}};
+        return {
+            groupsName,
+            Level::note,
+            Text::tr(
+                "This system has no control groups of version 2, so no application can be opened without Tor, "
+                "and the kill switch knows Tor by its account alone. Everything else works."),
+            {}};
     const QStringList version = kernel(machine).split(u'.');
     const int major = version.value(0).toInt(), minor = version.value(1).toInt();
     if (major > 0 && (major < 5 || (major == 5 && minor < 13)))
-        return {groupsName, Level::note,
-                Text::tr("The kernel (%1) is older than 5.13, so no application can be opened without Tor, "
-                         "and the kill switch knows Tor by its account alone. Everything else works.").arg(kernel(machine)), {}};
-    return {groupsName, Level::good, Text::tr("Applications can be opened without Tor: control groups of version 2 are there."), {}};
+        return {
+            groupsName,
+            Level::note,
+            Text::tr(
+                "The kernel (%1) is older than 5.13, so no application can be opened without Tor, "
+                "and the kill switch knows Tor by its account alone. Everything else works.")
+                .arg(kernel(machine)),
+            {}};
+    return {
+        groupsName,
+        Level::good,
+        Text::tr("Applications can be opened without Tor: control groups of version 2 are there."),
+        {}};
 }
 
 } // namespace
@@ -113,18 +144,30 @@ Findings firewallFindings(const Machine &machine)
     const QStringList names = others(machine);
     const QStringList denying = OtherFirewalls::denying(machine.profile);
     if (!denying.isEmpty())
-        findings.push_back({firewallsName, Level::unknown,
-                            Text::tr("Another firewall on this computer denies what goes out unless one of its rules allows it, "
-                                     "so Tor may not get through: %1.").arg(denying.join(QStringLiteral(", "))),
-                            denying.first() == QLatin1String("ufw") ? QStringLiteral("sudo ufw default allow outgoing")
-                                                                    : QStringLiteral("sudo nft list ruleset")});
+        findings.push_back(
+            {firewallsName, Level::unknown,
+             Text::tr(
+                 "Another firewall on this computer denies what goes out unless one of its rules allows it, "
+                 "so Tor may not get through: %1.")
+                 .arg(denying.join(QStringLiteral(", "))),
+             denying.first() == QLatin1String("ufw")
+                 ? QStringLiteral("sudo ufw default allow outgoing")
+                 : QStringLiteral("sudo nft list ruleset")});
     else if (names.isEmpty())
-        findings.push_back({firewallsName, Level::good,
-                            Text::tr("No other firewall that is known by name runs. The rules themselves are known to root only."), {}});
+        findings.push_back(
+            {firewallsName,
+             Level::good,
+             Text::tr(
+                 "No other firewall that is known by name runs. The rules themselves are known to root only."),
+             {}});
     else
-        findings.push_back({firewallsName, Level::note,
-                            Text::tr("Other programs set firewall rules here: %1. Veldmark leaves their rules alone. Rules "
-                                     "that drop packets can block Tor.").arg(names.join(QStringLiteral(", "))), QStringLiteral("sudo nft list ruleset")});
+        findings.push_back(
+            {firewallsName, Level::note,
+             Text::tr(
+                 "Other programs set firewall rules here: %1. Veldmark leaves their rules alone. Rules "
+                 "that drop packets can block Tor.")
+                 .arg(names.join(QStringLiteral(", "))),
+             QStringLiteral("sudo nft list ruleset")});
     findings.push_back(controlGroups(machine));
     return findings;
 }

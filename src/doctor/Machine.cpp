@@ -17,7 +17,8 @@ bool isProgram(const QString &path)
 }
 
 // The fields of the line of /etc/passwd for which `wanted` says so.
-QStringList passwdLine(const Machine &machine, const std::function<bool(const QStringList &)> &wanted)
+QStringList passwdLine(const Machine &machine,
+                       const std::function<bool(const QStringList &)> &wanted)
 {
     for (const QString &line : machine.read("/etc/passwd").split(u'\n')) {
         const QStringList fields = line.split(u':');
@@ -31,7 +32,8 @@ QString unitOf(const QString &groups)
 {
     for (const QString &line : groups.split(u'\n')) {
         // Version 2, or systemd's own hierarchy of version 1.
-        if (!line.startsWith(QLatin1String("0::")) && !line.contains(QLatin1String(":name=systemd:")))
+        if (!line.startsWith(QLatin1String("0::"))
+            && !line.contains(QLatin1String(":name=systemd:")))
             continue;
         for (const QString &part : line.section(u':', 2).split(u'/'))
             if (part.endsWith(QLatin1String(".service")))
@@ -76,7 +78,8 @@ QString Machine::tor() const
 
 QString Machine::installing(const QString &package) const
 {
-    for (const char *words : {"sudo apt install ", "sudo dnf install ", "sudo pacman -S ", "sudo zypper install ", "brew install "})
+    for (const char *words : {"sudo apt install ", "sudo dnf install ", "sudo pacman -S ",
+                              "sudo zypper install ", "brew install "})
         if (profile.torInstallHint.startsWith(QLatin1String(words)))
             return QLatin1String(words) + package;
     return {};
@@ -84,7 +87,8 @@ QString Machine::installing(const QString &package) const
 
 std::optional<uid_t> Machine::account(const QString &name) const
 {
-    const QStringList fields = passwdLine(*this, [&name](const QStringList &line) { return line[0] == name; });
+    const QStringList fields = passwdLine(
+        *this, [&name](const QStringList &line) { return line[0] == name; });
     bool isNumber = false;
     const uid_t number = fields.value(2).toUInt(&isNumber);
     return isNumber ? std::optional(number) : std::nullopt;
@@ -93,7 +97,9 @@ std::optional<uid_t> Machine::account(const QString &name) const
 QString Machine::accountName(uid_t wanted) const
 {
     const QString number = QString::number(wanted);
-    const QString name = passwdLine(*this, [&number](const QStringList &line) { return line[2] == number; }).value(0);
+    const QString name = passwdLine(*this, [&number](const QStringList &line) {
+                             return line[2] == number;
+                         }).value(0);
     return name.isEmpty() ? number : name;
 }
 
@@ -113,7 +119,8 @@ std::vector<RunningProcess> runningProcesses(const Machine &machine)
         const QString folder = proc + entry;
         if (!isNumber)
             continue;
-        for (const QString &line : Machine::readFile(folder + QStringLiteral("/status")).split(u'\n')) {
+        for (const QString &line :
+             Machine::readFile(folder + QStringLiteral("/status")).split(u'\n')) {
             const QStringList words = line.simplified().split(u' ');
             if (words.first() == QLatin1String("Name:"))
                 process.name = line.section(u':', 1).trimmed();
@@ -128,13 +135,15 @@ std::vector<RunningProcess> runningProcesses(const Machine &machine)
         if (!process.name.isEmpty())
             processes.push_back(process);
     }
-    std::sort(processes.begin(), processes.end(), [](const auto &a, const auto &b) { return a.pid < b.pid; });
+    std::sort(processes.begin(), processes.end(),
+              [](const auto &a, const auto &b) { return a.pid < b.pid; });
     return processes;
 }
 
 bool runs(const std::vector<RunningProcess> &processes, const QString &name)
 {
-    return std::any_of(processes.cbegin(), processes.cend(), [&name](const auto &process) { return process.name == name; });
+    return std::any_of(processes.cbegin(), processes.cend(),
+                       [&name](const auto &process) { return process.name == name; });
 }
 
 } // namespace veldmark

@@ -21,18 +21,19 @@ struct FileOwner {
     mode_t mode = 0;
 };
 
-// What is looked at: the files below the profile's root, /proc and /sys among them, and what cannot be read from files. A test lays
-// the files out in a temporary folder and fills in the rest.
+// What is looked at: the files below the profile's root, /proc and /sys among them, and what cannot
+// be read from files. A test lays the files out in a temporary folder and fills in the rest.
 struct Machine {
     PlatformProfile profile;
-    QString customTor;     // the settings' location of tor; empty: the usual places
-    BridgeRequest bridges; // the settings' choice
+    QString customTor;              // the settings' location of tor; empty: the usual places
+    BridgeRequest bridges;          // the settings' choice
     PluggableTransports transports; // what was found
 
     uid_t user = 0;          // who runs this program
     bool hasDesktop = false; // a display to ask for a password on
     QDateTime now;           // by the computer's clock
-    std::optional<bool> clockIsSet; // the kernel holds that the clock follows another one; absent: it doesn't tell
+    // the kernel holds that the clock follows another one; absent: it doesn't tell
+    std::optional<bool> clockIsSet;
     // What the program said of its version, or nothing when it did not end well.
     std::optional<QString> torVersion;
     // As root alone: what `nft list tables` complained of, empty when it worked. Absent: not asked.
@@ -61,9 +62,9 @@ struct Machine {
 // A process that /proc tells of.
 struct RunningProcess {
     qint64 pid = 0;
-    QString name;  // at most 15 characters; printable ones only
+    QString name; // at most 15 characters; printable ones only
     uid_t user = 0;
-    QString unit;  // systemd's unit, "tor@default.service", or empty
+    QString unit; // systemd's unit, "tor@default.service", or empty
 };
 
 std::vector<RunningProcess> runningProcesses(const Machine &machine);

@@ -18,10 +18,14 @@ const QString throughSudo = QStringLiteral("sudo veldmarkctl run --connect");
 bool isAgent(const QString &name)
 {
     static const QStringList agents{
-        QStringLiteral("gnome-shell"),     QStringLiteral("polkit-gnome-au"), QStringLiteral("polkit-kde-auth"), QStringLiteral("polkit-mate-aut"),
-        QStringLiteral("lxpolkit"),        QStringLiteral("lxqt-policykit-"), QStringLiteral("xfce-polkit"),     QStringLiteral("mate-polkit"),
-        QStringLiteral("cinnamon"),        QStringLiteral("budgie-polkit-d"), QStringLiteral("ukui-polkit"),     QStringLiteral("hyprpolkitagent"),
-        QStringLiteral("dde-polkit-agen"), QStringLiteral("phosh"),           QStringLiteral("soteria"),         QStringLiteral("cosmic-osd"),
+        QStringLiteral("gnome-shell"),     QStringLiteral("polkit-gnome-au"),
+        QStringLiteral("polkit-kde-auth"), QStringLiteral("polkit-mate-aut"),
+        QStringLiteral("lxpolkit"),        QStringLiteral("lxqt-policykit-"),
+        QStringLiteral("xfce-polkit"),     QStringLiteral("mate-polkit"),
+        QStringLiteral("cinnamon"),        QStringLiteral("budgie-polkit-d"),
+        QStringLiteral("ukui-polkit"),     QStringLiteral("hyprpolkitagent"),
+        QStringLiteral("dde-polkit-agen"), QStringLiteral("phosh"),
+        QStringLiteral("soteria"),         QStringLiteral("cosmic-osd"),
         QStringLiteral("pkttyagent"),      QStringLiteral("ts-polkitagent"),
     };
     return agents.contains(name);
@@ -33,7 +37,8 @@ QString administrators(const Machine &machine)
     const QString user = machine.accountName(machine.user);
     for (const QString &line : machine.read("/etc/group").split(u'\n')) {
         const QStringList fields = line.split(u':');
-        if ((fields[0] == QLatin1String("sudo") || fields[0] == QLatin1String("wheel") || fields[0] == QLatin1String("admin"))
+        if ((fields[0] == QLatin1String("sudo") || fields[0] == QLatin1String("wheel")
+             || fields[0] == QLatin1String("admin"))
             && fields.value(3).trimmed().split(u',').contains(user))
             return fields[0];
     }
@@ -43,25 +48,46 @@ QString administrators(const Machine &machine)
 Finding polkit(const Machine &machine, Level otherwise)
 {
     if (!QFileInfo(machine.profile.promptProgram).isExecutable())
-        return {polkitName, otherwise, Text::tr("pkexec isn't installed, so no window can ask for the administrator's password."),
-                machine.installing(machine.profile.torInstallHint.startsWith(QLatin1String("sudo apt")) ? QStringLiteral("pkexec")
-                                                                                                        : polkitName)};
+        return {
+            polkitName, otherwise,
+            Text::tr(
+                "pkexec isn't installed, so no window can ask for the administrator's password."),
+            machine.installing(machine.profile.torInstallHint.startsWith(QLatin1String("sudo apt"))
+                                   ? QStringLiteral("pkexec")
+                                   : polkitName)};
     const auto processes = runningProcesses(machine);
-    if (!runs(processes, QStringLiteral("polkitd")) && !machine.exists("/usr/share/dbus-1/system-services/org.freedesktop.PolicyKit1.service"))
-        return {polkitName, otherwise, Text::tr("polkit isn't installed, so no window can ask for the administrator's password."),
-                machine.installing(machine.profile.torInstallHint.startsWith(QLatin1String("sudo apt")) ? QStringLiteral("polkitd")
-                                                                                                        : polkitName)};
+    if (!runs(processes, QStringLiteral("polkitd"))
+        && !machine.exists("/usr/share/dbus-1/system-services/org.freedesktop.PolicyKit1.service"))
+        return {
+            polkitName, otherwise,
+            Text::tr(
+                "polkit isn't installed, so no window can ask for the administrator's password."),
+            machine.installing(machine.profile.torInstallHint.startsWith(QLatin1String("sudo apt"))
+                                   ? QStringLiteral("polkitd")
+                                   : polkitName)};
     if (!machine.hasDesktop)
-        return {polkitName, otherwise,
-                Text::tr("There is no desktop here on which a window could ask for the administrator's password. Use sudo."), throughSudo};
-    const bool hasAgent = std::any_of(processes.cbegin(), processes.cend(), [&machine](const RunningProcess &process) {
-        return process.user == machine.user && isAgent(process.name);
-    });
+        return {
+            polkitName, otherwise,
+            Text::tr(
+                "There is no desktop here on which a window could ask for the administrator's password. Use sudo."),
+            throughSudo};
+    const bool hasAgent = std::any_of(
+        processes.cbegin(), processes.cend(), [&machine](const RunningProcess &process) {
+            return process.user == machine.user && isAgent(process.name);
+        });
     if (!hasAgent)
-        return {polkitName, otherwise == Level::problem ? Level::unknown : otherwise,
-                Text::tr("No program that is known to ask for polkit's passwords (an agent) runs in your session. Without one, use "
-                         "sudo, or start an agent such as lxpolkit."), otherwise == Level::problem ? machine.installing(QStringLiteral("lxpolkit")) : throughSudo};
-    return {polkitName, Level::good, Text::tr("polkit is there, and a program that asks for its passwords runs in your session."), {}};
+        return {
+            polkitName, otherwise == Level::problem ? Level::unknown : otherwise,
+            Text::tr(
+                "No program that is known to ask for polkit's passwords (an agent) runs in your session. Without one, use "
+                "sudo, or start an agent such as lxpolkit."),
+            otherwise == Level::problem ? machine.installing(QStringLiteral("lxpolkit"))
+                                        : throughSudo};
+    return {polkitName,
+            Level::good,
+            Text::tr(
+                "polkit is there, and a program that asks for its passwords runs in your session."),
+            {}};
 }
 
 } // namespace
@@ -71,7 +97,10 @@ Findings passwordFindings(const Machine &machine)
     if (!machine.isLinux())
         return {};
     if (machine.user == 0)
-        return {{polkitName, Level::good, Text::tr("Veldmark runs as root here and asks for no password."), {}}};
+        return {{polkitName,
+                 Level::good,
+                 Text::tr("Veldmark runs as root here and asks for no password."),
+                 {}}};
     const bool hasSudo = QFileInfo(machine.profile.sudo).isExecutable();
     const QString group = administrators(machine);
     const QString installing = machine.installing(sudoName);
@@ -79,17 +108,26 @@ Findings passwordFindings(const Machine &machine)
     const bool hasOtherWay = hasSudo || machine.isPasswordless();
     Findings findings;
     if (hasSudo && machine.isPasswordless())
-        findings.push_back({polkitName, Level::good, Text::tr("Connecting without a password is set up."), {}});
+        findings.push_back(
+            {polkitName, Level::good, Text::tr("Connecting without a password is set up."), {}});
     else
         findings.push_back(polkit(machine, hasOtherWay ? Level::note : Level::problem));
     if (!hasSudo)
-        findings.push_back({sudoName, Level::note, Text::tr("sudo isn't installed. Connecting without a password needs it."),
-                            installing.isEmpty() ? QString() : QStringLiteral("su -c '%1'").arg(installing.mid(5))});
+        findings.push_back(
+            {sudoName, Level::note,
+             Text::tr("sudo isn't installed. Connecting without a password needs it."),
+             installing.isEmpty() ? QString()
+                                  : QStringLiteral("su -c '%1'").arg(installing.mid(5))});
     else if (group.isEmpty())
-        findings.push_back({sudoName, Level::unknown, Text::tr("sudo is installed. Whether you may use it is known to root only."),
-                            QStringLiteral("sudo -v")});
+        findings.push_back(
+            {sudoName, Level::unknown,
+             Text::tr("sudo is installed. Whether you may use it is known to root only."),
+             QStringLiteral("sudo -v")});
     else
-        findings.push_back({sudoName, Level::good, Text::tr("sudo is installed, and you are in the group %1.").arg(group), {}});
+        findings.push_back({sudoName,
+                            Level::good,
+                            Text::tr("sudo is installed, and you are in the group %1.").arg(group),
+                            {}});
     return findings;
 }
 

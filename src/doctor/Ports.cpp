@@ -18,7 +18,8 @@ struct Port {
     const char *table; // in which the kernel lists who listens
     const char *state; // of a listener there
 };
-constexpr std::array ports{Port{9050, "/proc/net/tcp", "0A"}, Port{9051, "/proc/net/tcp", "0A"}, Port{293, "/proc/net/udp", "07"}};
+constexpr std::array ports{Port{9050, "/proc/net/tcp", "0A"}, Port{9051, "/proc/net/tcp", "0A"},
+                           Port{293, "/proc/net/udp", "07"}};
 
 struct Holder {
     int port = 0;
@@ -31,14 +32,17 @@ std::vector<Holder> holders(const Machine &machine)
 {
     std::vector<Holder> found;
     for (const Port &port : ports) {
-        const QString suffix = QStringLiteral(":%1").arg(port.number, 4, 16, QLatin1Char('0')).toUpper();
+        const QString suffix
+            = QStringLiteral(":%1").arg(port.number, 4, 16, QLatin1Char('0')).toUpper();
         for (const QString &line : machine.read(port.table).split(u'\n')) {
             const QStringList words = line.simplified().split(u' ');
-            if (words.size() < 10 || words[3] != QLatin1String(port.state) || !words[1].endsWith(suffix))
+            if (words.size() < 10 || words[3] != QLatin1String(port.state)
+                || !words[1].endsWith(suffix))
                 continue;
             const QString address = words[1].chopped(suffix.size());
             // As a number of this processor: either order of the bytes.
-            if (address != QLatin1String("0100007F") && address != QLatin1String("7F000001") && address != QLatin1String("00000000"))
+            if (address != QLatin1String("0100007F") && address != QLatin1String("7F000001")
+                && address != QLatin1String("00000000"))
                 continue;
             found.push_back({port.number, words[7].toUInt(), words[9]});
         }
@@ -50,7 +54,8 @@ bool hasSocket(const Machine &machine, const RunningProcess &process, const QStr
 {
     const QDir folder(machine.at("/proc/%1/fd").arg(process.pid));
     const QString wanted = QStringLiteral("socket:[%1]").arg(socket);
-    for (const QString &entry : folder.entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)) {
+    for (const QString &entry :
+         folder.entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)) {
         if (QFile::symLinkTarget(folder.filePath(entry)).endsWith(wanted))
             return true;
     }
@@ -59,12 +64,16 @@ bool hasSocket(const Machine &machine, const RunningProcess &process, const QStr
 
 bool isSystemsService(const RunningProcess &process)
 {
-    return process.unit == QLatin1String("tor@default.service") || process.unit == QLatin1String("tor.service");
+    return process.unit == QLatin1String("tor@default.service")
+        || process.unit == QLatin1String("tor.service");
 }
 
-// The process with the socket. Another user's descriptors cannot be read: there the system's own Tor service is meant (its ports may
-// be root's, who has opened them), or a tor of that user's, or the user's only process.
-std::optional<RunningProcess> holderProcess(const Machine &machine, const std::vector<RunningProcess> &processes, const Holder &holder)
+// The process with the socket. Another user's descriptors cannot be read: there the system's own
+// Tor service is meant (its ports may be root's, who has opened them), or a tor of that user's, or
+// the user's only process.
+std::optional<RunningProcess> holderProcess(const Machine &machine,
+                                            const std::vector<RunningProcess> &processes,
+                                            const Holder &holder)
 {
     std::optional<RunningProcess> service, tor, only;
     int many = 0;
@@ -105,27 +114,44 @@ Findings portFindings(const Machine &machine)
         }
         const auto process = holderProcess(machine, processes, holder);
         if (!process) {
-            findings.push_back({portsName, Level::problem,
-                                Text::tr("The port %1, which Tor needs, is held by a program of the account %2.").arg(port, machine.accountName(holder.user)),
-                                QStringLiteral("sudo ss -lpn sport = :%1").arg(port)});
+            findings.push_back(
+                {portsName, Level::problem,
+                 Text::tr("The port %1, which Tor needs, is held by a program of the account %2.")
+                     .arg(port, machine.accountName(holder.user)),
+                 QStringLiteral("sudo ss -lpn sport = :%1").arg(port)});
         } else if (isSystemsService(*process)) {
             if (!paused.contains(process->unit))
-                findings.push_back({portsName, Level::note,
-                                    Text::tr("The system's own Tor service (%1) runs. Veldmark stops it while it is "
-                                             "connected and starts it again afterwards.").arg(process->unit), {}});
+                findings.push_back(
+                    {portsName,
+                     Level::note,
+                     Text::tr(
+                         "The system's own Tor service (%1) runs. Veldmark stops it while it is "
+                         "connected and starts it again afterwards.")
+                         .arg(process->unit),
+                     {}});
             paused << process->unit;
         } else {
             const QString unit = process->unit;
-            findings.push_back({portsName, Level::problem,
-                                Text::tr("The port %1, which Tor needs, is held by %2 (process %3, account %4).").arg(port, process->name, QString::number(process->pid), machine.accountName(process->user)),
-                                unit.isEmpty() || unit.startsWith(QLatin1String("user@")) ? QStringLiteral("sudo kill %1").arg(process->pid)
-                                                                                          : QStringLiteral("sudo systemctl stop %1").arg(unit)});
+            findings.push_back(
+                {portsName, Level::problem,
+                 Text::tr("The port %1, which Tor needs, is held by %2 (process %3, account %4).")
+                     .arg(port, process->name, QString::number(process->pid),
+                          machine.accountName(process->user)),
+                 unit.isEmpty() || unit.startsWith(QLatin1String("user@"))
+                     ? QStringLiteral("sudo kill %1").arg(process->pid)
+                     : QStringLiteral("sudo systemctl stop %1").arg(unit)});
         }
     }
     if (findings.empty() && isOurs)
-        findings.push_back({portsName, Level::good, Text::tr("Veldmark's own Tor holds the ports 9050, 9051 and 293."), {}});
+        findings.push_back({portsName,
+                            Level::good,
+                            Text::tr("Veldmark's own Tor holds the ports 9050, 9051 and 293."),
+                            {}});
     else if (findings.empty())
-        findings.push_back({portsName, Level::good, Text::tr("The ports that Tor needs (9050, 9051 and 293) are free."), {}});
+        findings.push_back({portsName,
+                            Level::good,
+                            Text::tr("The ports that Tor needs (9050, 9051 and 293) are free."),
+                            {}});
     return findings;
 }
 

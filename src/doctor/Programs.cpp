@@ -23,25 +23,30 @@ struct Needed {
     const char *package;
 };
 constexpr std::array needed{
-    Needed{"bash", "bash"},       Needed{"flock", "util-linux"},   Needed{"setpriv", "util-linux"}, Needed{"unshare", "util-linux"},
-    Needed{"setsid", "util-linux"}, Needed{"mount", "mount"},      Needed{"umount", "mount"},       Needed{"getent", "libc-bin"},
-    Needed{"stat", "coreutils"},  Needed{"sync", "coreutils"},     Needed{"timeout", "coreutils"},  Needed{"readlink", "coreutils"},
+    Needed{"bash", "bash"},           Needed{"flock", "util-linux"},
+    Needed{"setpriv", "util-linux"},  Needed{"unshare", "util-linux"},
+    Needed{"setsid", "util-linux"},   Needed{"mount", "mount"},
+    Needed{"umount", "mount"},        Needed{"getent", "libc-bin"},
+    Needed{"stat", "coreutils"},      Needed{"sync", "coreutils"},
+    Needed{"timeout", "coreutils"},   Needed{"readlink", "coreutils"},
     Needed{"sha256sum", "coreutils"}, Needed{"useradd", "passwd"},
 };
 
 // "Tor version 0.4.7.16." or "… (git-…)."
 QString versionIn(const QString &text)
 {
-    static const QRegularExpression form(QStringLiteral("Tor version (\\d+\\.\\d+\\.\\d+(?:\\.\\d+)?[A-Za-z0-9-]*)"));
+    static const QRegularExpression form(
+        QStringLiteral("Tor version (\\d+\\.\\d+\\.\\d+(?:\\.\\d+)?[A-Za-z0-9-]*)"));
     return form.match(text).captured(1);
 }
 
-// Whether somebody besides root could change a file or one of the folders above it, up to the root of the system: the account's
-// number, root's own for more than one.
+// Whether somebody besides root could change a file or one of the folders above it, up to the root
+// of the system: the account's number, root's own for more than one.
 std::optional<uid_t> otherWriter(const Machine &machine, const QString &path)
 {
     const QString root = machine.profile.places.root;
-    for (QString part = path; part.size() > root.size(); part = part.left(std::max(part.lastIndexOf(u'/'), qsizetype(0)))) {
+    for (QString part = path; part.size() > root.size();
+         part = part.left(std::max(part.lastIndexOf(u'/'), qsizetype(0)))) {
         const auto owner = machine.owner(part);
         if (!owner || (owner->mode & 022) != 0)
             return uid_t(0);
@@ -60,21 +65,28 @@ Findings torFindings(const Machine &machine)
     const QString custom = machine.customTor.trimmed();
     const QString usual = QStringLiteral("veldmarkctl set customTorPath \"\"");
     if (!custom.isEmpty() && custom != tor)
-        findings.push_back({torName, Level::note,
-                            Text::tr("The location of Tor in the settings, %1, is no program that can run. The usual "
-                                     "places are searched instead.").arg(custom), usual});
+        findings.push_back(
+            {torName, Level::note,
+             Text::tr(
+                 "The location of Tor in the settings, %1, is no program that can run. The usual "
+                 "places are searched instead.")
+                 .arg(custom),
+             usual});
     if (tor.isEmpty()) {
-        findings.push_back({torName, Level::problem, Text::tr("Tor isn't installed."),
-                            machine.installing({}).isEmpty() ? QString() : machine.profile.torInstallHint});
+        findings.push_back(
+            {torName, Level::problem, Text::tr("Tor isn't installed."),
+             machine.installing({}).isEmpty() ? QString() : machine.profile.torInstallHint});
         return findings;
     }
     const QString version = versionIn(machine.torVersion.value_or(QString()));
     if (version.isEmpty())
-        findings.push_back({torName, Level::problem,
-                            Text::tr("%1 doesn't start, or isn't Tor: it doesn't tell its version.").arg(tor),
-                            tor == custom ? usual : machine.installing(QStringLiteral("--reinstall tor"))});
+        findings.push_back(
+            {torName, Level::problem,
+             Text::tr("%1 doesn't start, or isn't Tor: it doesn't tell its version.").arg(tor),
+             tor == custom ? usual : machine.installing(QStringLiteral("--reinstall tor"))});
     else // whether it takes the configuration, it is asked itself at each connect
-        findings.push_back({torName, Level::good, Text::tr("Tor %1 is installed: %2.").arg(version, tor), {}});
+        findings.push_back(
+            {torName, Level::good, Text::tr("Tor %1 is installed: %2.").arg(version, tor), {}});
     return findings;
 }
 
@@ -89,10 +101,16 @@ Findings programFindings(const Machine &machine)
         if (!machine.program(name).isEmpty()
             || (name == QLatin1String("useradd") && machine.account(machine.profile.torAccount)))
             continue;
-        findings.push_back({programsName, Level::problem, Text::tr("The program %1 is missing. Veldmark's helper needs it.").arg(name), machine.installing(QLatin1String(package))});
+        findings.push_back(
+            {programsName, Level::problem,
+             Text::tr("The program %1 is missing. Veldmark's helper needs it.").arg(name),
+             machine.installing(QLatin1String(package))});
     }
     if (findings.empty())
-        findings.push_back({programsName, Level::good, Text::tr("Every program that Veldmark's helper calls is installed."), {}});
+        findings.push_back({programsName,
+                            Level::good,
+                            Text::tr("Every program that Veldmark's helper calls is installed."),
+                            {}});
     return findings;
 }
 
@@ -101,52 +119,84 @@ Findings helperFindings(const Machine &machine)
     Findings findings;
     const QString helper = machine.profile.bundledHelper();
     if (helper.isEmpty()) {
-        findings.push_back({helperName, Level::problem,
-                            Text::tr("Veldmark's helper script is missing. Install Veldmark again."),
-                            machine.installing(QStringLiteral("--reinstall veldmark"))});
+        findings.push_back(
+            {helperName, Level::problem,
+             Text::tr("Veldmark's helper script is missing. Install Veldmark again."),
+             machine.installing(QStringLiteral("--reinstall veldmark"))});
         return findings;
     }
     const auto writer = otherWriter(machine, helper);
     if (writer == uid_t(0))
-        findings.push_back({helperName, Level::note,
-                            Text::tr("Veldmark's helper, %1, lies where others than root can write. They can change it, and "
-                                     "with it what the administrator's password runs.").arg(helper), QStringLiteral("./build.sh package")});
+        findings.push_back(
+            {helperName, Level::note,
+             Text::tr(
+                 "Veldmark's helper, %1, lies where others than root can write. They can change it, and "
+                 "with it what the administrator's password runs.")
+                 .arg(helper),
+             QStringLiteral("./build.sh package")});
     else if (writer)
-        findings.push_back({helperName, Level::note,
-                            Text::tr("Veldmark's helper, %1, is not an installed one: the account %2 can change it, and "
-                                     "with it what the administrator's password runs.").arg(helper, machine.accountName(*writer)), QStringLiteral("./build.sh package")});
+        findings.push_back(
+            {helperName, Level::note,
+             Text::tr(
+                 "Veldmark's helper, %1, is not an installed one: the account %2 can change it, and "
+                 "with it what the administrator's password runs.")
+                 .arg(helper, machine.accountName(*writer)),
+             QStringLiteral("./build.sh package")});
     else
-        findings.push_back({helperName, Level::good, Text::tr("Veldmark's helper is installed, and only root can change it: %1.").arg(helper), {}});
-    if (machine.isPasswordless() && Machine::readFile(machine.profile.installedHelper) != Machine::readFile(helper))
-        findings.push_back({helperName, Level::note,
-                            Text::tr("The helper that runs without a password is not this version's. Set up connecting "
-                                     "without a password again in Settings, General."),
-                            QStringLiteral("sudo bash %1 install-privileged --user %2").arg(helper, machine.accountName(machine.user))});
+        findings.push_back(
+            {helperName,
+             Level::good,
+             Text::tr("Veldmark's helper is installed, and only root can change it: %1.")
+                 .arg(helper),
+             {}});
+    if (machine.isPasswordless()
+        && Machine::readFile(machine.profile.installedHelper) != Machine::readFile(helper))
+        findings.push_back(
+            {helperName, Level::note,
+             Text::tr(
+                 "The helper that runs without a password is not this version's. Set up connecting "
+                 "without a password again in Settings, General."),
+             QStringLiteral("sudo bash %1 install-privileged --user %2")
+                 .arg(helper, machine.accountName(machine.user))});
     return findings;
 }
 
 Findings bridgeFindings(const Machine &machine)
 {
     QStringList found;
-    for (const auto &path : {machine.transports.lyrebird, machine.transports.snowflake, machine.transports.webtunnel})
+    for (const auto &path :
+         {machine.transports.lyrebird, machine.transports.snowflake, machine.transports.webtunnel})
         if (path && !found.contains(*path))
             found << *path;
     const QString download = QStringLiteral("veldmarkctl download-transports");
     if (machine.bridges.choice == BridgeChoice::off) {
         if (found.isEmpty())
-            return {{bridgesName, Level::good,
-                     Text::tr("Bridges are off. Where Tor is blocked they need bridge programs, and none was found."),
-                     download, Button::download}};
-        return {{bridgesName, Level::good, Text::tr("Bridges are off. Bridge programs were found: %1.").arg(found.join(QStringLiteral(", "))), {}}};
+            return {
+                {bridgesName, Level::good,
+                 Text::tr(
+                     "Bridges are off. Where Tor is blocked they need bridge programs, and none was found."),
+                 download, Button::download}};
+        return {{bridgesName,
+                 Level::good,
+                 Text::tr("Bridges are off. Bridge programs were found: %1.")
+                     .arg(found.join(QStringLiteral(", "))),
+                 {}}};
     }
     const auto lines = selectedBridgeLines(machine.bridges, machine.transports);
     const auto arguments = lines ? bridgeArguments(*lines, machine.transports) : lines;
     if (!arguments) {
         const bool isTyped = machine.bridges.choice == BridgeChoice::custom && !lines;
-        return {{bridgesName, Level::problem, Text::tr("The chosen bridges can't be used. %1").arg(arguments.error().description()),
-                 isTyped ? QStringLiteral("veldmarkctl set bridgeChoice off") : download, isTyped ? Button::none : Button::download}};
+        return {
+            {bridgesName, Level::problem,
+             Text::tr("The chosen bridges can't be used. %1").arg(arguments.error().description()),
+             isTyped ? QStringLiteral("veldmarkctl set bridgeChoice off") : download,
+             isTyped ? Button::none : Button::download}};
     }
-    return {{bridgesName, Level::good, Text::tr("The chosen bridges (%1) can be used: %2.").arg(displayName(machine.bridges.choice), QString::number(lines->size())), {}}};
+    return {{bridgesName,
+             Level::good,
+             Text::tr("The chosen bridges (%1) can be used: %2.")
+                 .arg(displayName(machine.bridges.choice), QString::number(lines->size())),
+             {}}};
 }
 
 } // namespace veldmark::Doctor

@@ -12,8 +12,9 @@ namespace veldmark {
 
 namespace {
 
-// Of no account: "nobody" (65534) has other services' processes, which could stop this one, and use up what the kernel lets an account
-// watch. systemd gives the numbers from 65520 to 65533 to nobody.
+// Of no account: "nobody" (65534) has other services' processes, which could stop this one, and use
+// up what the kernel lets an account watch. systemd gives the numbers from 65520 to 65533 to
+// nobody.
 constexpr unsigned ownNumber = 65533;
 
 bool setRights(unsigned rights)
@@ -33,9 +34,11 @@ bool keepFirewallRightAlone()
         if (right != CAP_NET_ADMIN && prctl(PR_CAPBSET_DROP, right, 0, 0, 0) != 0)
             return false;
     }
-    return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 && prctl(PR_SET_KEEPCAPS, 1, 0, 0, 0) == 0 && setgroups(0, nullptr) == 0
-        && setresgid(ownNumber, ownNumber, ownNumber) == 0 && setresuid(ownNumber, ownNumber, ownNumber) == 0 && setRights(1U << CAP_NET_ADMIN)
-        && prctl(PR_CAP_AMBIENT, PR_CAP_AMBIENT_RAISE, CAP_NET_ADMIN, 0, 0) == 0 && prctl(PR_SET_DUMPABLE, 0, 0, 0, 0) == 0;
+    return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 && prctl(PR_SET_KEEPCAPS, 1, 0, 0, 0) == 0
+        && setgroups(0, nullptr) == 0 && setresgid(ownNumber, ownNumber, ownNumber) == 0
+        && setresuid(ownNumber, ownNumber, ownNumber) == 0 && setRights(1U << CAP_NET_ADMIN)
+        && prctl(PR_CAP_AMBIENT, PR_CAP_AMBIENT_RAISE, CAP_NET_ADMIN, 0, 0) == 0
+        && prctl(PR_SET_DUMPABLE, 0, 0, 0, 0) == 0;
 }
 
 } // namespace veldmark

@@ -9,8 +9,8 @@ namespace veldmark {
 // Owns a file descriptor; -1 is none.
 class Descriptor {
 public:
-    explicit Descriptor(int number = -1) : m_number(number) {}
-    Descriptor(Descriptor &&other) noexcept : m_number(std::exchange(other.m_number, -1)) {}
+    explicit Descriptor(int number = -1) : m_number(number) { }
+    Descriptor(Descriptor &&other) noexcept : m_number(std::exchange(other.m_number, -1)) { }
     Descriptor &operator=(Descriptor &&other) noexcept
     {
         std::swap(m_number, other.m_number);

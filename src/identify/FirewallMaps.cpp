@@ -18,13 +18,14 @@ namespace veldmark {
 
 namespace {
 
-constexpr std::size_t batchLimit = 400;  // changes in one transaction
-constexpr std::size_t tableAttribute = 1; // NFTA_TABLE_NAME, NFTA_CHAIN_TABLE, NFTA_RULE_TABLE, NFTA_SET_TABLE and the elements' are all 1
-static_assert(NFTA_TABLE_NAME == tableAttribute && NFTA_CHAIN_TABLE == tableAttribute && NFTA_RULE_TABLE == tableAttribute
-              && NFTA_SET_TABLE == tableAttribute && NFTA_SET_ELEM_LIST_TABLE == tableAttribute);
+constexpr std::size_t batchLimit = 400; // changes in one transaction
+// NFTA_TABLE_NAME, NFTA_CHAIN_TABLE, NFTA_RULE_TABLE, NFTA_SET_TABLE and the elements' are all 1
+constexpr std::size_t tableAttribute = 1;
+static_assert(NFTA_TABLE_NAME == tableAttribute && NFTA_CHAIN_TABLE == tableAttribute
+              && NFTA_RULE_TABLE == tableAttribute && NFTA_SET_TABLE == tableAttribute
+              && NFTA_SET_ELEM_LIST_TABLE == tableAttribute);
 
-template<typename T>
-std::string_view bytesOf(const T &value)
+template <typename T> std::string_view bytesOf(const T &value)
 {
     return {reinterpret_cast<const char *>(&value), sizeof value};
 }
@@ -51,7 +52,8 @@ std::string name(std::uint16_t type, const std::string &text)
     return attribute(type, std::string_view(text.c_str(), text.size() + 1));
 }
 
-std::string message(std::uint16_t type, std::uint16_t flags, std::uint8_t family, std::uint16_t resource, const std::string &attributes)
+std::string message(std::uint16_t type, std::uint16_t flags, std::uint8_t family,
+                    std::uint16_t resource, const std::string &attributes)
 {
     nlmsghdr head{};
     nfgenmsg about{};
@@ -85,9 +87,12 @@ std::string mapName(MapChange::Map map)
 std::string elementOf(const MapChange &change)
 {
     std::string inside;
-    const auto value = [](std::uint16_t type, std::string_view bytes) { return nest(type, attribute(NFTA_DATA_VALUE, bytes)); };
+    const auto value = [](std::uint16_t type, std::string_view bytes) {
+        return nest(type, attribute(NFTA_DATA_VALUE, bytes));
+    };
     const bool isAddress = change.map == MapChange::Map::addresses;
-    inside += isAddress ? value(NFTA_SET_ELEM_KEY, bytesOf(change.mark)) : value(NFTA_SET_ELEM_KEY, bytesOf(change.group));
+    inside += isAddress ? value(NFTA_SET_ELEM_KEY, bytesOf(change.mark))
+                        : value(NFTA_SET_ELEM_KEY, bytesOf(change.group));
     if (change.action == MapChange::Action::add) {
         const std::uint32_t address = htonl(change.mark);
         inside += value(NFTA_SET_ELEM_DATA, isAddress ? bytesOf(address) : bytesOf(change.mark));
@@ -107,8 +112,7 @@ Descriptor netlink(std::uint32_t groups)
 }
 
 // Calls `each` with every message that waits. False when some were lost.
-template<typename Each>
-bool receive(int socket, Each each)
+template <typename Each> bool receive(int socket, Each each)
 {
     alignas(nlmsghdr) std::array<char, 65536> buffer;
     for (;;) {
@@ -119,9 +123,11 @@ bool receive(int socket, Each each)
         while (at + sizeof(nlmsghdr) <= static_cast<std::size_t>(size)) {
             nlmsghdr head;
             std::memcpy(&head, buffer.data() + at, sizeof head);
-            if (head.nlmsg_len < sizeof head || head.nlmsg_len > static_cast<std::size_t>(size) - at)
+            if (head.nlmsg_len < sizeof head
+                || head.nlmsg_len > static_cast<std::size_t>(size) - at)
                 break;
-            each(head, std::string_view(buffer.data() + at + sizeof head, head.nlmsg_len - sizeof head));
+            each(head,
+                 std::string_view(buffer.data() + at + sizeof head, head.nlmsg_len - sizeof head));
             at += NLMSG_ALIGN(head.nlmsg_len);
         }
     }
@@ -146,20 +152,22 @@ std::string_view tableOf(std::string_view body)
 
 bool takesAway(std::uint16_t type)
 {
-    return type == command(NFT_MSG_DELTABLE) || type == command(NFT_MSG_DELCHAIN) || type == command(NFT_MSG_DELRULE)
-        || type == command(NFT_MSG_DELSET) || type == command(NFT_MSG_DELSETELEM);
+    return type == command(NFT_MSG_DELTABLE) || type == command(NFT_MSG_DELCHAIN)
+        || type == command(NFT_MSG_DELRULE) || type == command(NFT_MSG_DELSET)
+        || type == command(NFT_MSG_DELSETELEM);
 }
 
 } // namespace
 
 FirewallMaps::FirewallMaps(std::string table)
-    : m_table(std::move(table))
-    , m_commands(netlink(0))
-    , m_notices(netlink(1U << (NFNLGRP_NFTABLES - 1)))
+    : m_table(std::move(table)),
+      m_commands(netlink(0)),
+      m_notices(netlink(1U << (NFNLGRP_NFTABLES - 1)))
 {
     sockaddr_nl own{};
     socklen_t size = sizeof own;
-    if (m_commands && getsockname(m_commands.number(), reinterpret_cast<sockaddr *>(&own), &size) == 0)
+    if (m_commands
+        && getsockname(m_commands.number(), reinterpret_cast<sockaddr *>(&own), &size) == 0)
         m_port = own.nl_pid;
     const int room = 1 << 20;
     setsockopt(m_notices.number(), SOL_SOCKET, SO_RCVBUF, &room, sizeof room);
@@ -168,18 +176,20 @@ FirewallMaps::FirewallMaps(std::string table)
 // The kernel has done all of it, or refused, when it has taken the messages.
 bool FirewallMaps::send(const std::string &messages)
 {
-    const std::string batch = message(NFNL_MSG_BATCH_BEGIN, 0, AF_UNSPEC, NFNL_SUBSYS_NFTABLES, {}) + messages
-        + message(NFNL_MSG_BATCH_END, 0, AF_UNSPEC, NFNL_SUBSYS_NFTABLES, {});
-    if (::send(m_commands.number(), batch.data(), batch.size(), 0) != static_cast<ssize_t>(batch.size()))
+    const std::string batch = message(NFNL_MSG_BATCH_BEGIN, 0, AF_UNSPEC, NFNL_SUBSYS_NFTABLES, {})
+        + messages + message(NFNL_MSG_BATCH_END, 0, AF_UNSPEC, NFNL_SUBSYS_NFTABLES, {});
+    if (::send(m_commands.number(), batch.data(), batch.size(), 0)
+        != static_cast<ssize_t>(batch.size()))
         return false;
     bool taken = true;
-    const bool complete = receive(m_commands.number(), [&taken](const nlmsghdr &head, std::string_view body) {
-        nlmsgerr error{};
-        if (head.nlmsg_type != NLMSG_ERROR || body.size() < sizeof error)
-            return;
-        std::memcpy(&error, body.data(), sizeof error);
-        taken = taken && error.error == 0;
-    });
+    const bool complete = receive(
+        m_commands.number(), [&taken](const nlmsghdr &head, std::string_view body) {
+            nlmsgerr error{};
+            if (head.nlmsg_type != NLMSG_ERROR || body.size() < sizeof error)
+                return;
+            std::memcpy(&error, body.data(), sizeof error);
+            taken = taken && error.error == 0;
+        });
     return complete && taken;
 }
 
@@ -189,8 +199,11 @@ bool FirewallMaps::apply(const MapChanges &changes)
     std::size_t many = 0;
     for (const MapChange &change : changes) {
         const bool adds = change.action == MapChange::Action::add;
-        messages += message(command(adds ? NFT_MSG_NEWSETELEM : NFT_MSG_DELSETELEM), adds ? NLM_F_CREATE : 0, NFPROTO_INET, 0,
-                            name(NFTA_SET_ELEM_LIST_TABLE, m_table) + name(NFTA_SET_ELEM_LIST_SET, mapName(change.map)) + elementOf(change));
+        messages += message(command(adds ? NFT_MSG_NEWSETELEM : NFT_MSG_DELSETELEM),
+                            adds ? NLM_F_CREATE : 0, NFPROTO_INET, 0,
+                            name(NFTA_SET_ELEM_LIST_TABLE, m_table)
+                                + name(NFTA_SET_ELEM_LIST_SET, mapName(change.map))
+                                + elementOf(change));
         if (++many % batchLimit == 0 && !send(std::exchange(messages, std::string())))
             return false;
     }
@@ -208,9 +221,12 @@ void FirewallMaps::removeTable()
 bool FirewallMaps::takeLoss()
 {
     bool lost = false;
-    const bool complete = receive(m_notices.number(), [this, &lost](const nlmsghdr &head, std::string_view body) {
-        lost = lost || (takesAway(head.nlmsg_type) && head.nlmsg_pid != m_port && tableOf(body) == m_table);
-    });
+    const bool complete = receive(m_notices.number(),
+                                  [this, &lost](const nlmsghdr &head, std::string_view body) {
+                                      lost = lost
+                                          || (takesAway(head.nlmsg_type) && head.nlmsg_pid != m_port
+                                              && tableOf(body) == m_table);
+                                  });
     return lost || !complete;
 }
 

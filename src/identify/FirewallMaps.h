@@ -6,16 +6,18 @@
 #include <cstdint>
 #include <string>
 
-// Our table's maps in the kernel, changed over netlink: a program of nft's for each group would cost a hundred times as much.
+// Our table's maps in the kernel, changed over netlink: a program of nft's for each group would
+// cost a hundred times as much.
 namespace veldmark {
 
 class FirewallMaps {
 public:
-    // `table` is one of the family inet. Needs the right to change the firewall, here and at each change.
+    // `table` is one of the family inet. Needs the right to change the firewall, here and at each
+    // change.
     explicit FirewallMaps(std::string table);
 
-    // All of them in one transaction, or in several where they are very many. False when the kernel refuses: then the maps are not as
-    // they were left, and the table has to be made anew.
+    // All of them in one transaction, or in several where they are very many. False when the kernel
+    // refuses: then the maps are not as they were left, and the table has to be made anew.
     [[nodiscard]] bool apply(const MapChanges &changes);
     // Gone afterwards; it may have been gone before.
     void removeTable();

@@ -28,7 +28,8 @@ int hexValue(char c)
 
 bool isHex(std::string_view text)
 {
-    return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) { return hexValue(c) >= 0; });
+    return !text.empty()
+        && std::all_of(text.begin(), text.end(), [](char c) { return hexValue(c) >= 0; });
 }
 
 // systemd writes what a unit's name may not hold, and "-" inside of a word, as \xNN.
@@ -36,7 +37,8 @@ std::string unescaped(std::string_view text)
 {
     std::string plain;
     for (std::size_t at = 0; at < text.size(); ++at) {
-        if (text[at] == '\\' && at + 3 < text.size() && text[at + 1] == 'x' && hexValue(text[at + 2]) >= 0 && hexValue(text[at + 3]) >= 0) {
+        if (text[at] == '\\' && at + 3 < text.size() && text[at + 1] == 'x'
+            && hexValue(text[at + 2]) >= 0 && hexValue(text[at + 3]) >= 0) {
             plain += static_cast<char>(hexValue(text[at + 2]) * 16 + hexValue(text[at + 3]));
             at += 3;
         } else {
@@ -51,7 +53,8 @@ std::string printable(std::string_view text)
     constexpr std::string_view others = "._:@+-";
     std::string safe;
     for (const char c : text) {
-        if (isDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || others.find(c) != std::string_view::npos) {
+        if (isDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z')
+            || others.find(c) != std::string_view::npos) {
             safe += c;
         } else {
             const auto byte = static_cast<unsigned char>(c);
@@ -72,7 +75,8 @@ bool takeSuffix(std::string_view &text, std::string_view suffix)
 // A number, or eight and more hexadecimal digits: a word of an application's own hardly looks so.
 bool tellsStartsApart(std::string_view word)
 {
-    return (!word.empty() && std::all_of(word.begin(), word.end(), isDigit)) || (word.size() >= 8 && isHex(word));
+    return (!word.empty() && std::all_of(word.begin(), word.end(), isDigit))
+        || (word.size() >= 8 && isHex(word));
 }
 
 bool isUuid(std::string_view text)
@@ -161,7 +165,8 @@ std::string loginSessionOf(std::string_view group)
 {
     constexpr std::string_view start = "session-";
     std::string_view stem = group;
-    if (!takeSuffix(stem, ".scope") || stem.size() <= start.size() || stem.substr(0, start.size()) != start)
+    if (!takeSuffix(stem, ".scope") || stem.size() <= start.size()
+        || stem.substr(0, start.size()) != start)
         return {};
     return printable(stem);
 }

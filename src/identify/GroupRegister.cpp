@@ -14,7 +14,8 @@ MapChange::Map mapOf(Group::Kind kind)
     return kind == Group::Kind::session ? MapChange::Map::sessions : MapChange::Map::applications;
 }
 
-MapChange change(MapChange::Map map, MapChange::Action action, std::uint64_t group, std::uint32_t mark)
+MapChange change(MapChange::Map map, MapChange::Action action, std::uint64_t group,
+                 std::uint32_t mark)
 {
     MapChange made;
     made.map = map;
@@ -29,10 +30,7 @@ MapChange change(MapChange::Map map, MapChange::Action action, std::uint64_t gro
 using Map = MapChange::Map;
 using Action = MapChange::Action;
 
-GroupRegister::GroupRegister(std::uint32_t start)
-    : m_next(start % addressCount)
-{
-}
+GroupRegister::GroupRegister(std::uint32_t start) : m_next(start % addressCount) { }
 
 std::uint32_t GroupRegister::nextAddress()
 {
@@ -50,9 +48,11 @@ GroupRegister::Entry *GroupRegister::entryFor(const Key &key, MapChanges &change
         return &found->second;
     std::size_t many = 0;
     auto oldest = m_entries.end();
-    for (auto it = m_entries.lower_bound({key.first, std::string()}); it != m_entries.end() && it->first.first == key.first; ++it) {
+    for (auto it = m_entries.lower_bound({key.first, std::string()});
+         it != m_entries.end() && it->first.first == key.first; ++it) {
         ++many;
-        if (it->second.groups == 0 && (oldest == m_entries.end() || it->second.lastUse < oldest->second.lastUse))
+        if (it->second.groups == 0
+            && (oldest == m_entries.end() || it->second.lastUse < oldest->second.lastUse))
             oldest = it;
     }
     if (many >= identitiesPerUser) {
@@ -72,7 +72,8 @@ GroupRegister::Entry *GroupRegister::entryFor(const Key &key, MapChanges &change
 void GroupRegister::drop(std::map<Place, Known>::iterator known, MapChanges &changes)
 {
     Entry &entry = m_entries[known->second.key];
-    changes.push_back(change(mapOf(std::get<0>(known->first)), Action::remove, known->second.id, entry.address));
+    changes.push_back(
+        change(mapOf(std::get<0>(known->first)), Action::remove, known->second.id, entry.address));
     --entry.groups;
     entry.lastUse = ++m_uses;
     --m_groupCounts[std::get<1>(known->first)];
@@ -81,7 +82,8 @@ void GroupRegister::drop(std::map<Place, Known>::iterator known, MapChanges &cha
 
 void GroupRegister::add(const Group &group, MapChanges &changes)
 {
-    const std::string application = group.kind == Group::Kind::session ? loginSessionOf(group.name) : applicationOf(group.name);
+    const std::string application = group.kind == Group::Kind::session ? loginSessionOf(group.name)
+                                                                       : applicationOf(group.name);
     if (application.empty())
         return;
     if (const auto known = m_groups.find(group.place()); known != m_groups.end()) {
@@ -149,7 +151,8 @@ MapChanges GroupRegister::everything() const
     for (const auto &[address, key] : m_addresses)
         changes.push_back(change(Map::addresses, Action::add, 0, address));
     for (const auto &[place, known] : m_groups)
-        changes.push_back(change(mapOf(std::get<0>(place)), Action::add, known.id, m_entries.at(known.key).address));
+        changes.push_back(change(mapOf(std::get<0>(place)), Action::add, known.id,
+                                 m_entries.at(known.key).address));
     return changes;
 }
 

@@ -10,8 +10,8 @@
 
 #include <sys/types.h>
 
-// Which application has which address, and which control groups are that application's. No input or output: what the firewall's maps
-// have to learn comes back as changes. Single-threaded.
+// Which application has which address, and which control groups are that application's. No input or
+// output: what the firewall's maps have to learn comes back as changes. Single-threaded.
 namespace veldmark {
 
 // A group of the desktop's or of a login.
@@ -19,13 +19,14 @@ struct Group {
     enum class Kind { session, application };
     Kind kind = Kind::application;
     uid_t user = 0;
-    std::string name;    // of its folder
+    std::string name;     // of its folder
     std::uint64_t id = 0; // the kernel's
 
     [[nodiscard]] auto place() const { return std::tuple(kind, user, name); }
 };
 
-// For one element of a map: groups lead to marks, marks lead to addresses. A mark is the address, as a number.
+// For one element of a map: groups lead to marks, marks lead to addresses. A mark is the address,
+// as a number.
 struct MapChange {
     enum class Map { sessions, applications, addresses };
     enum class Action { add, remove };
@@ -48,19 +49,21 @@ public:
     static constexpr std::size_t groupsPerUser = 2000;
     static constexpr std::size_t identitiesPerUser = 1000;
 
-    // Addresses are given out one after the other, from firstAddress + start on, and no one twice before all were used: circuits of an
-    // application that has gone may live on for minutes.
-    static constexpr std::uint32_t firstAddress = 0x7f410000;   // 127.65.0.0
-    static constexpr std::uint32_t addressCount = 0x003f0000;   // up to 127.127.255.255
+    // Addresses are given out one after the other, from firstAddress + start on, and no one twice
+    // before all were used: circuits of an application that has gone may live on for minutes.
+    static constexpr std::uint32_t firstAddress = 0x7f410000; // 127.65.0.0
+    static constexpr std::uint32_t addressCount = 0x003f0000; // up to 127.127.255.255
     explicit GroupRegister(std::uint32_t start);
 
-    // A group that has come. One of that place that is there already and has another id has been missed going.
+    // A group that has come. One of that place that is there already and has another id has been
+    // missed going.
     void add(const Group &group, MapChanges &changes);
     // A group that has gone; its id is not needed.
     void remove(const Group &group, MapChanges &changes);
     // `groups` are all that there are.
     void replace(const std::vector<Group> &groups, MapChanges &changes);
-    // Another address for that application, or none when no group of it is there. Whether it had one.
+    // Another address for that application, or none when no group of it is there. Whether it had
+    // one.
     bool renew(uid_t user, const std::string &application, MapChanges &changes);
     // What has to be added to empty maps.
     [[nodiscard]] MapChanges everything() const;

@@ -24,9 +24,11 @@ struct CloseFolder {
 // The number between `start` and `end`, as systemd writes it: "user-1000.slice".
 std::optional<uid_t> userOf(std::string_view name, std::string_view start, std::string_view end)
 {
-    if (name.size() <= start.size() + end.size() || name.substr(0, start.size()) != start || name.substr(name.size() - end.size()) != end)
+    if (name.size() <= start.size() + end.size() || name.substr(0, start.size()) != start
+        || name.substr(name.size() - end.size()) != end)
         return std::nullopt;
-    const std::string_view digits = name.substr(start.size(), name.size() - start.size() - end.size());
+    const std::string_view digits = name.substr(start.size(),
+                                                name.size() - start.size() - end.size());
     if (digits.size() > 10 || (digits.size() > 1 && digits.front() == '0'))
         return std::nullopt;
     std::uint64_t number = 0;
@@ -42,10 +44,7 @@ std::optional<uid_t> userOf(std::string_view name, std::string_view start, std::
 
 } // namespace
 
-GroupTree::GroupTree(std::string root)
-    : m_root(std::move(root))
-{
-}
+GroupTree::GroupTree(std::string root) : m_root(std::move(root)) { }
 
 std::vector<Group> GroupTree::scan()
 {
@@ -59,7 +58,8 @@ std::vector<Group> GroupTree::scan()
 // The watch comes before the look: what comes in between is seen twice rather than never.
 void GroupTree::visit(Level level, uid_t user, const std::string &path, std::vector<Group> &found)
 {
-    const int watch = inotify_add_watch(m_inotify.number(), path.c_str(), IN_CREATE | IN_DELETE | IN_ONLYDIR | IN_DONT_FOLLOW);
+    const int watch = inotify_add_watch(m_inotify.number(), path.c_str(),
+                                        IN_CREATE | IN_DELETE | IN_ONLYDIR | IN_DONT_FOLLOW);
     if (watch < 0)
         return;
     const Folder folder{level, user, path};
@@ -98,7 +98,7 @@ void GroupTree::meet(const Folder &folder, const std::string &name, std::vector<
     } else if (folder.level == Level::manager && name == "app.slice") {
         visit(Level::applications, folder.user, path, found);
     } else if (auto group = groupAt(folder, name)) {
-        struct stat status {};
+        struct stat status { };
         // Its number is what the firewall compares.
         if (lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode)) {
             group->id = status.st_ino;

@@ -8,7 +8,8 @@
 #include <string>
 #include <vector>
 
-// The control groups of users' desktops and logins, watched by inotify. Reads names and numbers, nothing else.
+// The control groups of users' desktops and logins, watched by inotify. Reads names and numbers,
+// nothing else.
 namespace veldmark {
 
 class GroupTree {
@@ -26,7 +27,8 @@ public:
         bool came = false;
         Group group; // without an id when it has gone
     };
-    // What has happened since, without waiting; nothing when more has than the kernel could keep: then scan.
+    // What has happened since, without waiting; nothing when more has than the kernel could keep:
+    // then scan.
     [[nodiscard]] std::optional<std::vector<Event>> read();
 
 private:

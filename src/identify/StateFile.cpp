@@ -10,8 +10,8 @@ namespace {
 
 std::string dotted(std::uint32_t address)
 {
-    return std::to_string(address >> 24) + "." + std::to_string(address >> 16 & 255) + "." + std::to_string(address >> 8 & 255) + "."
-        + std::to_string(address & 255);
+    return std::to_string(address >> 24) + "." + std::to_string(address >> 16 & 255) + "."
+        + std::to_string(address >> 8 & 255) + "." + std::to_string(address & 255);
 }
 
 } // namespace
@@ -28,7 +28,8 @@ void StateFile::write(bool standing, const std::vector<Identity> &identities)
     const std::string count = std::to_string(++m_count) + "\n";
     std::string text = "identities " + count + (standing ? "standing\n" : "lost\n");
     for (const Identity &identity : identities)
-        text += std::to_string(identity.user) + " " + dotted(identity.address) + " " + identity.application + "\n";
+        text += std::to_string(identity.user) + " " + dotted(identity.address) + " "
+            + identity.application + "\n";
     text += "end " + count;
     // A disk that is full leaves a file without an end, which says so.
     if (ftruncate(m_file.number(), 0) == 0)

@@ -16,7 +16,8 @@ namespace veldmark {
 //     UID ADDRESS APPLICATION   for each that has a group just now
 //     end COUNT
 //
-// COUNT grows with each change. The file is written in place: who reads two different counts, or no end, reads again.
+// COUNT grows with each change. The file is written in place: who reads two different counts, or no
+// end, reads again.
 class StateFile {
 public:
     explicit StateFile(const std::string &path);

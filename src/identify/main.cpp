@@ -1,10 +1,12 @@
-// veldmark-identify TREE STATE SOCKET NFT: gives each application of the desktops on this computer a loopback address of its own, by
-// which Tor tells their connections apart.
+// veldmark-identify TREE STATE SOCKET NFT: gives each application of the desktops on this computer
+// a loopback address of its own, by which Tor tells their connections apart.
 //
-// The root helper runs it while a session lasts, with the rules of its table on standard input. It looks at the names of control
-// groups below TREE as they come and go, and keeps the maps from groups to addresses in the firewall. STATE is what it tells
-// everybody (StateFile.h). At SOCKET it takes datagrams "new APPLICATION", from the user whose application it is. NFT loads the rules.
-// From the beginning on it has no right of root's but that to change the firewall. It ends when it is told to.
+// The root helper runs it while a session lasts, with the rules of its table on standard input. It
+// looks at the names of control groups below TREE as they come and go, and keeps the maps from
+// groups to addresses in the firewall. STATE is what it tells everybody (StateFile.h). At SOCKET it
+// takes datagrams "new APPLICATION", from the user whose application it is. NFT loads the rules.
+// From the beginning on it has no right of root's but that to change the firewall. It ends when it
+// is told to.
 
 #include "identify/Confinement.h"
 #include "identify/FirewallMaps.h"
@@ -35,11 +37,14 @@ namespace {
 
 constexpr auto table = "veldmark-identities"; // as in the helper's rules
 constexpr std::size_t rulesLimit = 1 << 20;   // bytes
-constexpr std::size_t requestLimit = 1100;    // bytes; the longest name of a unit, with each byte as \xNN
+// bytes; the longest name of a unit, with each byte as \xNN
+constexpr std::size_t requestLimit = 1100;
 constexpr int requestsAtOnce = 16;
-constexpr int requestMilliseconds = 50; // so often at most requests are taken: nobody keeps us busy by them
-constexpr int roundMilliseconds = 2;   // so often at most the firewall is changed, however fast groups come
-constexpr int tellMilliseconds = 100;  // so often at most the state is written
+// so often at most requests are taken: nobody keeps us busy by them
+constexpr int requestMilliseconds = 50;
+// so often at most the firewall is changed, however fast groups come
+constexpr int roundMilliseconds = 2;
+constexpr int tellMilliseconds = 100; // so often at most the state is written
 constexpr int retryMilliseconds = 1000;
 constexpr int leaveMilliseconds = 1000; // how long groups that have gone may stay in the maps
 
@@ -70,7 +75,8 @@ Descriptor requestSocket(const std::string &path)
     unlink(path.c_str());
     Descriptor made(socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
     const int on = 1;
-    if (!made || bind(made.number(), reinterpret_cast<const sockaddr *>(&place), sizeof place) != 0 || chmod(path.c_str(), 0666) != 0
+    if (!made || bind(made.number(), reinterpret_cast<const sockaddr *>(&place), sizeof place) != 0
+        || chmod(path.c_str(), 0666) != 0
         || setsockopt(made.number(), SOL_SOCKET, SO_PASSCRED, &on, sizeof on) != 0)
         return Descriptor();
     return made;
@@ -78,8 +84,15 @@ Descriptor requestSocket(const std::string &path)
 
 class Identifier {
 public:
-    Identifier(const char *tree, const char *nft, std::string rules, StateFile &state, const Descriptor &requests, std::uint32_t start)
-        : m_nft(nft), m_rules(std::move(rules)), m_state(state), m_requests(requests), m_tree(tree), m_maps(table), m_register(start)
+    Identifier(const char *tree, const char *nft, std::string rules, StateFile &state,
+               const Descriptor &requests, std::uint32_t start)
+        : m_nft(nft),
+          m_rules(std::move(rules)),
+          m_state(state),
+          m_requests(requests),
+          m_tree(tree),
+          m_maps(table),
+          m_register(start)
     {
     }
 
@@ -109,8 +122,8 @@ private:
         m_register.replace(m_tree.scan(), forgotten);
     }
 
-    // What has come is told to the firewall at once. What has gone can wait for that, or for a while: nothing is ever sent from a group
-    // that has gone, nor does another get its number.
+    // What has come is told to the firewall at once. What has gone can wait for that, or for a
+    // while: nothing is ever sent from a group that has gone, nor does another get its number.
     void apply()
     {
         if (m_changes.size() > m_seenChanges) {
@@ -118,8 +131,12 @@ private:
             m_changedAt = m_seenChanges == 0 ? now() : m_changedAt;
             m_seenChanges = m_changes.size();
         }
-        const auto adds = [](const MapChange &change) { return change.action == MapChange::Action::add; };
-        if (m_changes.empty() || (now() < m_changedAt + leaveMilliseconds && std::none_of(m_changes.begin(), m_changes.end(), adds)))
+        const auto adds = [](const MapChange &change) {
+            return change.action == MapChange::Action::add;
+        };
+        if (m_changes.empty()
+            || (now() < m_changedAt + leaveMilliseconds
+                && std::none_of(m_changes.begin(), m_changes.end(), adds)))
             return;
         m_standing = m_standing && m_maps.apply(m_changes);
         forgetChanges();
@@ -152,10 +169,12 @@ private:
         posix_spawn_file_actions_init(&actions);
         posix_spawn_file_actions_adddup2(&actions, reading.number(), STDIN_FILENO);
         std::string words[] = {m_nft, "-f", "-"};
-        std::array<char *, 4> arguments = {words[0].data(), words[1].data(), words[2].data(), nullptr};
+        std::array<char *, 4> arguments = {words[0].data(), words[1].data(), words[2].data(),
+                                           nullptr};
         std::array<char *, 1> environment = {nullptr};
         pid_t child = 0;
-        const int failed = posix_spawn(&child, m_nft.c_str(), &actions, nullptr, arguments.data(), environment.data());
+        const int failed = posix_spawn(&child, m_nft.c_str(), &actions, nullptr, arguments.data(),
+                                       environment.data());
         posix_spawn_file_actions_destroy(&actions);
         if (failed != 0)
             return false;
@@ -187,7 +206,10 @@ private:
             until(m_requestsAt);
         if (!m_changes.empty())
             until(m_changedAt + leaveMilliseconds);
-        std::array<pollfd, 3> waited = {{{m_tree.descriptor(), POLLIN, 0}, {m_maps.descriptor(), POLLIN, 0}, {now() < m_requestsAt ? -1 : m_requests.number(), POLLIN, 0}}};
+        std::array<pollfd, 3> waited = {
+            {{m_tree.descriptor(), POLLIN, 0},
+             {m_maps.descriptor(), POLLIN, 0},
+             {now() < m_requestsAt ? -1 : m_requests.number(), POLLIN, 0}}};
         poll(waited.data(), waited.size(), timeout);
     }
 
@@ -225,8 +247,8 @@ private:
             const cmsghdr *head = CMSG_FIRSTHDR(&message);
             constexpr std::string_view word = "new ";
             const std::string_view request(text.data(), static_cast<std::size_t>(size));
-            if ((message.msg_flags & MSG_TRUNC) != 0 || !head || head->cmsg_level != SOL_SOCKET || head->cmsg_type != SCM_CREDENTIALS
-                || request.substr(0, word.size()) != word)
+            if ((message.msg_flags & MSG_TRUNC) != 0 || !head || head->cmsg_level != SOL_SOCKET
+                || head->cmsg_type != SCM_CREDENTIALS || request.substr(0, word.size()) != word)
                 continue;
             ucred sender{};
             std::memcpy(&sender, CMSG_DATA(head), sizeof sender);
@@ -279,7 +301,8 @@ int main(int argc, char **argv)
     const Descriptor requests = requestSocket(argv[3]);
     // In a session that follows at once, no application takes over another's address.
     std::uint32_t start = 0;
-    if (!state.isOpen() || !requests || getrandom(&start, sizeof start, 0) != sizeof start || !keepFirewallRightAlone())
+    if (!state.isOpen() || !requests || getrandom(&start, sizeof start, 0) != sizeof start
+        || !keepFirewallRightAlone())
         return 1;
     return Identifier(argv[1], argv[4], rules, state, requests, start).run();
 }

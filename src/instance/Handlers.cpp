@@ -34,8 +34,9 @@ bool hasCircuit(const TorController &controller, const QString &id)
 
 Text connectFailure(const TorController &controller)
 {
-    const Text told = controller.otherSession() ? controller.errorMessage().value_or(controller.statusDetail())
-                                                   : failure(controller.errorMessage());
+    const Text told = controller.otherSession()
+        ? controller.errorMessage().value_or(controller.statusDetail())
+        : failure(controller.errorMessage());
     const auto problem = controller.problemBehindError();
     return problem ? Text::joined({told, *problem}) : told;
 }
@@ -44,7 +45,8 @@ Text connectFailure(const TorController &controller)
 
 QJsonObject stateMessage(const TorController &controller)
 {
-    return {{QStringLiteral("state"), publishedState(controller)}, {QStringLiteral("texts"), publishedTexts(controller)}};
+    return {{QStringLiteral("state"), publishedState(controller)},
+            {QStringLiteral("texts"), publishedTexts(controller)}};
 }
 
 QCoro::Task<Outcome> status(Call call)
@@ -72,7 +74,8 @@ QCoro::Task<Outcome> set(Call call)
         co_return refusal(Text::tr("\"set\" needs a \"key\" and a \"value\", both strings."));
     const auto done = setSetting(*call.controller, key.toString(), value.toString());
     if (!done)
-        co_return Failure(InstanceError(done.error().description(), done.error().kind() == SettingError::Kind::Refused));
+        co_return Failure(InstanceError(done.error().description(),
+                                        done.error().kind() == SettingError::Kind::Refused));
     co_return {};
 }
 
@@ -80,7 +83,8 @@ QCoro::Task<Outcome> connect(Call call)
 {
     const auto controller = call.controller;
     if (controller->optionsLocked())
-        co_return refusal(Text::tr("Already connected, or on the way; \"veldmarkctl status\" says more."));
+        co_return refusal(
+            Text::tr("Already connected, or on the way; \"veldmarkctl status\" says more."));
     co_await controller->connect();
     if (controller && controller->phase() != ConnectionPhase::connected)
         co_return refusal(connectFailure(*controller));
@@ -94,7 +98,8 @@ QCoro::Task<Outcome> disconnect(Call call)
         || (controller->phase() == ConnectionPhase::connecting && !controller->canCancel());
     if (underWay)
         co_return refusal(Text::tr("Not now: %1").arg(controller->statusDetail()));
-    if (controller->phase() == ConnectionPhase::disconnected && !controller->isSessionMarkerPresent())
+    if (controller->phase() == ConnectionPhase::disconnected
+        && !controller->isSessionMarkerPresent())
         co_return {}; // there is nothing to do
     const auto ended = co_await controller->disconnect();
     if (!ended)
@@ -173,8 +178,9 @@ QCoro::Task<Outcome> downloadTransports(Call call)
 {
     const auto controller = call.controller;
     if (!controller->canDownloadTransports())
-        co_return refusal(Text::tr("Not now: %1").arg(
-            controller->transportDownload().value_or(controller->statusDetail())));
+        co_return refusal(
+            Text::tr("Not now: %1")
+                .arg(controller->transportDownload().value_or(controller->statusDetail())));
     auto downloading = controller->downloadTransports();
     const bool isInstalled = co_await downloading;
     if (controller && !isInstalled)

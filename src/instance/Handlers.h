@@ -2,7 +2,8 @@
 
 #include "instance/Verbs.h"
 
-// What the running instance does when it is asked; Verbs.cpp names them. Each resumes when the work is done. Main thread.
+// What the running instance does when it is asked; Verbs.cpp names them. Each resumes when the work
+// is done. Main thread.
 namespace veldmark::Handlers {
 
 // What a client hears of the state: in English, and its texts for another language.

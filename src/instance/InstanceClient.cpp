@@ -15,13 +15,13 @@ std::shared_ptr<InstanceClient> InstanceClient::connectTo(const PlatformProfile 
         auto socket = std::make_unique<QLocalSocket>();
         socket->connectToServer(place);
         if (socket->waitForConnected(connectLimitMs))
-            return std::shared_ptr<InstanceClient>(new InstanceClient(JsonLines::over(socket.release())));
+            return std::shared_ptr<InstanceClient>(
+                new InstanceClient(JsonLines::over(socket.release())));
     }
     return nullptr;
 }
 
-QCoro::Task<Result<void, InstanceError>>
-InstanceClient::run(QJsonObject request, OnState onState)
+QCoro::Task<Result<void, InstanceError>> InstanceClient::run(QJsonObject request, OnState onState)
 {
     const auto lines = m_lines;
     lines->write(request);
@@ -37,8 +37,9 @@ InstanceClient::run(QJsonObject request, OnState onState)
             co_return {};
         // An instance of an earlier version says it in English alone.
         const QJsonValue text = answer->value(QStringLiteral("errorText"));
-        co_return Failure(InstanceError(Text::fromJson(text.isUndefined() ? answer->value(QStringLiteral("error")) : text),
-                                        answer->value(QStringLiteral("usage")).toBool()));
+        co_return Failure(InstanceError(
+            Text::fromJson(text.isUndefined() ? answer->value(QStringLiteral("error")) : text),
+            answer->value(QStringLiteral("usage")).toBool()));
     }
 }
 

@@ -23,11 +23,12 @@ public:
 
     // Sends the command and waits for its end. `onState` hears every state that the instance sends
     // meanwhile. The error is the instance's own line, or that it has gone. Call it once.
-    using OnState = std::function<void(const QJsonObject &state, const QJsonObject &texts)>; // see PublishedState.h
+    // see PublishedState.h
+    using OnState = std::function<void(const QJsonObject &state, const QJsonObject &texts)>;
     QCoro::Task<Result<void, InstanceError>> run(QJsonObject request, OnState onState);
 
 private:
-    explicit InstanceClient(std::shared_ptr<JsonLines> lines) : m_lines(std::move(lines)) {}
+    explicit InstanceClient(std::shared_ptr<JsonLines> lines) : m_lines(std::move(lines)) { }
     std::shared_ptr<JsonLines> m_lines;
 };
 

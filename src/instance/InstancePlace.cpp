@@ -18,13 +18,13 @@ namespace {
 // A folder that only its owner can enter, and whose owner is this user.
 bool isPrivateFolder(const QString &folder)
 {
-    struct stat info {};
+    struct stat info { };
     return lstat(QFile::encodeName(folder).constData(), &info) == 0 && S_ISDIR(info.st_mode)
         && info.st_uid == geteuid() && (info.st_mode & 0077) == 0;
 }
 
-// The process of this user's that holds the lock of another place. A home that other computers share has their locks
-// as well; those are none of this computer's.
+// The process of this user's that holds the lock of another place. A home that other computers
+// share has their locks as well; those are none of this computer's.
 std::optional<qint64> holderElsewhere(const PlatformProfile &profile)
 {
     for (const QString &socket : profile.otherControlSockets) {
@@ -36,7 +36,8 @@ std::optional<qint64> holderElsewhere(const PlatformProfile &profile)
         qint64 pid = 0;
         QString host;
         QString program;
-        if (!lock.tryLock(0) && lock.getLockInfo(&pid, &host, &program) && host == QSysInfo::machineHostName())
+        if (!lock.tryLock(0) && lock.getLockInfo(&pid, &host, &program)
+            && host == QSysInfo::machineHostName())
             return pid;
     }
     return std::nullopt;
@@ -58,7 +59,8 @@ Result<std::shared_ptr<QLockFile>, Text> lockInstance(const PlatformProfile &pro
     }
     if (!isPrivateFolder(folder))
         return Failure(Text::tr("%1 must be a folder of your own with mode 0700: the control "
-                                "socket goes there.").arg(folder));
+                                "socket goes there.")
+                           .arg(folder));
     if (const auto pid = holderElsewhere(profile))
         return Failure(alreadyRunning(*pid));
     auto lock = std::make_shared<QLockFile>(folder + QStringLiteral("/lock"));

@@ -35,7 +35,9 @@ bool isOwnUserOrRoot(const QLocalSocket &socket)
 #ifdef Q_OS_LINUX
     ucred peer{};
     socklen_t size = sizeof peer;
-    if (getsockopt(static_cast<int>(socket.socketDescriptor()), SOL_SOCKET, SO_PEERCRED, &peer, &size) != 0)
+    if (getsockopt(static_cast<int>(socket.socketDescriptor()), SOL_SOCKET, SO_PEERCRED, &peer,
+                   &size)
+        != 0)
         return false;
     return peer.uid == geteuid() || peer.uid == 0;
 #else
@@ -56,7 +58,8 @@ class StateStream : public QObject {
 
 public:
     StateStream(TorController &controller, std::shared_ptr<JsonLines> lines)
-        : m_controller(&controller), m_lines(std::move(lines))
+        : m_controller(&controller),
+          m_lines(std::move(lines))
     {
         for (const Field *field : controller.fields())
             QObject::connect(field, &Field::changed, this, &StateStream::scheduleSend);
@@ -118,7 +121,8 @@ Result<std::unique_ptr<InstanceServer>, Text> InstanceServer::start(TorControlle
     QLocalServer::removeServer(path);
     server->m_server.setSocketOptions(QLocalServer::UserAccessOption);
     if (!server->m_server.listen(path))
-        return Failure(Text::tr("Couldn't listen on %1: %2.").arg(path, server->m_server.errorString()));
+        return Failure(
+            Text::tr("Couldn't listen on %1: %2.").arg(path, server->m_server.errorString()));
     return server;
 }
 
@@ -176,7 +180,8 @@ QCoro::Task<Result<void, InstanceError>> InstanceServer::execute(QJsonObject req
 {
     const QPointer<TorController> controller(&m_controller);
     const QString command = request.value(QStringLiteral("command")).toString();
-    // Another process may have changed what this one shows. What is to be ended is what was shown until now, and no other.
+    // Another process may have changed what this one shows. What is to be ended is what was shown
+    // until now, and no other.
     if (command != QLatin1String("disconnect") || !m_controller.isSessionMarkerPresent())
         m_controller.lookAtSession();
     if (command == QLatin1String("raise")) {
@@ -196,7 +201,8 @@ QCoro::Task<Result<void, InstanceError>> InstanceServer::execute(QJsonObject req
     const Outcome done = co_await handling;
     if (!done)
         co_return done;
-    // What was asked of a session that ended meanwhile has no answer; the fields hold an earlier one.
+    // What was asked of a session that ended meanwhile has no answer; the fields hold an earlier
+    // one.
     if (controller && verb->needsSession && controller->phase() != ConnectionPhase::connected)
         co_return refusal(Text::tr("The session has ended: %1").arg(controller->statusDetail()));
     if (controller && stream)

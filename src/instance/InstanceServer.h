@@ -21,7 +21,8 @@
 //     → {"command": "connect"}                      also "set" with "key" and "value", …
 //     ← {"state": {…every published field…}}        any number of these, as they change
 //     ← {"ok": true}   or   {"ok": false, "error": "one line"}     the last line of the answer;
-//                                                  "usage": true besides when the request itself was wrong
+//                                                  "usage": true besides when the request itself
+//                                                  was wrong
 //
 // A connection carries one command. A client that reads slowly misses states, never the last one;
 // one that goes away changes nothing about the command that it has given.
@@ -30,7 +31,8 @@ namespace veldmark {
 class JsonLines;
 class TorController;
 
-// Lives on the controller's thread, and must go before the controller. Its clients are cut off then.
+// Lives on the controller's thread, and must go before the controller. Its clients are cut off
+// then.
 class InstanceServer : public QObject {
     Q_OBJECT
 
@@ -48,7 +50,8 @@ private:
     explicit InstanceServer(TorController &controller);
     void accept();
     QCoro::Task<void> serve(std::shared_ptr<JsonLines> lines);
-    QCoro::Task<Result<void, InstanceError>> execute(QJsonObject request, std::shared_ptr<JsonLines> lines);
+    QCoro::Task<Result<void, InstanceError>> execute(QJsonObject request,
+                                                     std::shared_ptr<JsonLines> lines);
 
     TorController &m_controller;
     std::shared_ptr<QLockFile> m_lock;

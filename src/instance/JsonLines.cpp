@@ -26,7 +26,8 @@ JsonLines::JsonLines(QLocalSocket *socket) : m_socket(socket)
     QObject::connect(socket, &QLocalSocket::disconnected, this, &JsonLines::onDisconnected);
 }
 
-// The socket says that it has been disconnected when it is destroyed, and by then nobody may listen.
+// The socket says that it has been disconnected when it is destroyed, and by then nobody may
+// listen.
 JsonLines::~JsonLines()
 {
     m_socket->disconnect(this);
@@ -57,7 +58,8 @@ void JsonLines::read()
     }
 }
 
-// The socket calls itself open for a while after its end has gone, and complains when it is read then.
+// The socket calls itself open for a while after its end has gone, and complains when it is read
+// then.
 bool JsonLines::hasBytes() const
 {
     return m_socket->isOpen() && m_socket->bytesAvailable() > 0;

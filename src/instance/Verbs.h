@@ -22,17 +22,39 @@ class TorController;
 struct Call {
     QPointer<TorController> controller; // may go while the handler waits
     QJsonObject request;
-    std::shared_ptr<JsonLines> lines;   // to the client
+    std::shared_ptr<JsonLines> lines; // to the client
 };
 using Outcome = Result<void, InstanceError>;
 
-// One word that veldmarkctl, or the running instance's socket, understands. The table below is all that there is to
-// a word: arguments, usage text, completions, requests and the instance's answers are made from it.
+// One word that veldmarkctl, or the running instance's socket, understands. The table below is all
+// that there is to a word: arguments, usage text, completions, requests and the instance's answers
+// are made from it.
 struct Verb {
     enum class Id {
-        run, status, connect, disconnect, restore, check, fixDNS, circuits, closeCircuit, newIdentity,
-        log, bridges, downloadTransports, apps, launch, identities, renew, runAs, doctor, get, set,
-        help, version, complete,
+        run,
+        status,
+        connect,
+        disconnect,
+        restore,
+        check,
+        fixDNS,
+        circuits,
+        closeCircuit,
+        newIdentity,
+        log,
+        bridges,
+        downloadTransports,
+        apps,
+        launch,
+        identities,
+        renew,
+        runAs,
+        doctor,
+        get,
+        set,
+        help,
+        version,
+        complete,
         watch, // for the socket alone
     };
     struct Option {
@@ -42,16 +64,18 @@ struct Verb {
     using Handler = QCoro::Task<Outcome> (*)(Call call);
 
     Id id;
-    QString name;                // as it is typed
-    QStringList operands = {};   // as the usage text names them; in small letters, members of the request
+    QString name; // as it is typed
+    // as the usage text names them; in small letters, members of the request
+    QStringList operands = {};
     std::vector<Option> options = {};
-    Text help = {};              // one or more lines; empty: not told to users
-    Text missing = {};           // the sentence for an operand that is not there; empty: a usual one
-    QString command = {};        // the socket's word, when it is another
-    bool takesProgram = false;   // a program and its words follow the operands
-    bool needsSession = false;   // refused by the instance unless it is connected
-    bool streams = false;        // the client hears of every change until it ends
-    Handler handler = nullptr;   // in the running instance; absent: veldmarkctl does it by itself
+    Text help = {}; // one or more lines; empty: not told to users
+    // the sentence for an operand that is not there; empty: a usual one
+    Text missing = {};
+    QString command = {};      // the socket's word, when it is another
+    bool takesProgram = false; // a program and its words follow the operands
+    bool needsSession = false; // refused by the instance unless it is connected
+    bool streams = false;      // the client hears of every change until it ends
+    Handler handler = nullptr; // in the running instance; absent: veldmarkctl does it by itself
 
     // What the socket calls it.
     QString requested() const { return command.isEmpty() ? name : command; }
@@ -61,7 +85,7 @@ struct Verb {
 
 const std::vector<Verb> &verbs();
 const Verb &verbOf(Verb::Id id);
-const Verb *verbTyped(const QString &name);       // null: a user cannot type that
+const Verb *verbTyped(const QString &name);        // null: a user cannot type that
 const Verb *verbRequested(const QString &command); // null: the instance does not know that
 
 } // namespace veldmark

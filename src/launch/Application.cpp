@@ -31,12 +31,14 @@ std::string startEntry(const std::string &path)
     GError *error = nullptr;
     if (!g_key_file_load_from_file(file.get(), path.c_str(), G_KEY_FILE_NONE, &error))
         return sentence("The desktop entry cannot be read", error);
-    g_key_file_set_boolean(file.get(), G_KEY_FILE_DESKTOP_GROUP, G_KEY_FILE_DESKTOP_KEY_DBUS_ACTIVATABLE, FALSE);
-    const std::unique_ptr<GDesktopAppInfo, Release> info(g_desktop_app_info_new_from_keyfile(file.get()));
+    g_key_file_set_boolean(file.get(), G_KEY_FILE_DESKTOP_GROUP,
+                           G_KEY_FILE_DESKTOP_KEY_DBUS_ACTIVATABLE, FALSE);
+    const std::unique_ptr<GDesktopAppInfo, Release> info(
+        g_desktop_app_info_new_from_keyfile(file.get()));
     if (!info)
         return "The desktop entry names no program that is installed.";
-    // GIO's own mark, by which the copy is found when it is to be opened anew. An entry that was not read from a
-    // file by GIO itself does not get it.
+    // GIO's own mark, by which the copy is found when it is to be opened anew. An entry that was
+    // not read from a file by GIO itself does not get it.
     const std::unique_ptr<GAppLaunchContext, Release> context(g_app_launch_context_new());
     g_app_launch_context_setenv(context.get(), "GIO_LAUNCHED_DESKTOP_FILE", path.c_str());
     if (!g_app_info_launch(G_APP_INFO(info.get()), nullptr, context.get(), &error))
@@ -46,13 +48,15 @@ std::string startEntry(const std::string &path)
 
 std::string startProgram(const std::string &path)
 {
-    struct stat status {};
-    if (stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode) || access(path.c_str(), X_OK) != 0)
+    struct stat status { };
+    if (stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)
+        || access(path.c_str(), X_OK) != 0)
         return "There is no such application or program.";
     std::string program = path;
     char *words[] = {program.data(), nullptr};
     GError *error = nullptr;
-    if (!g_spawn_async(nullptr, words, nullptr, G_SPAWN_CHILD_INHERITS_STDIN, nullptr, nullptr, nullptr, &error))
+    if (!g_spawn_async(nullptr, words, nullptr, G_SPAWN_CHILD_INHERITS_STDIN, nullptr, nullptr,
+                       nullptr, &error))
         return sentence("The program could not be started", error);
     return {};
 }

@@ -28,7 +28,8 @@ std::string output(const std::array<const char *, 5> &words)
     std::string text;
     std::array<char, 256> piece;
     ssize_t size = 0;
-    while (child > 0 && (size = read(ends[0], piece.data(), piece.size())) > 0 && text.size() < limitBytes)
+    while (child > 0 && (size = read(ends[0], piece.data(), piece.size())) > 0
+           && text.size() < limitBytes)
         text.append(piece.data(), static_cast<std::size_t>(size));
     close(ends[0]);
     int status = -1;
@@ -42,11 +43,13 @@ std::string output(const std::array<const char *, 5> &words)
 std::string bundleProgram(const std::string &bundle)
 {
     const std::string list = bundle + "/Contents/Info.plist";
-    std::string name = output({"/usr/libexec/PlistBuddy", "-c", "Print :CFBundleExecutable", list.c_str(), nullptr});
+    std::string name = output(
+        {"/usr/libexec/PlistBuddy", "-c", "Print :CFBundleExecutable", list.c_str(), nullptr});
     while (!name.empty() && name.back() == '\n')
         name.pop_back();
     // A file of that very folder, nothing elsewhere.
-    if (name.empty() || name == "." || name == ".." || name.find_first_of("/\n") != std::string::npos)
+    if (name.empty() || name == "." || name == ".."
+        || name.find_first_of("/\n") != std::string::npos)
         return {};
     const std::string program = bundle + "/Contents/MacOS/" + name;
     return access(program.c_str(), X_OK) == 0 ? program : std::string();

@@ -55,7 +55,7 @@ std::string environmentOf(pid_t process)
 
 bool isOwn(const std::string &path, mode_t kind)
 {
-    struct stat status {};
+    struct stat status { };
     return lstat(path.c_str(), &status) == 0 && (status.st_mode & S_IFMT) == kind
         && status.st_uid == getuid();
 }
@@ -65,12 +65,14 @@ bool isOwn(const std::string &path, mode_t kind)
 bool isSessionVariable(std::string_view name)
 {
     static constexpr std::array names = {
-        std::string_view("DISPLAY"), std::string_view("WAYLAND_DISPLAY"), std::string_view("XAUTHORITY"),
-        std::string_view("DBUS_SESSION_BUS_ADDRESS"), std::string_view("DESKTOP_SESSION"),
-        std::string_view("GNOME_DESKTOP_SESSION_ID"), std::string_view("KDE_FULL_SESSION"),
-        std::string_view("KDE_SESSION_VERSION"), std::string_view("SESSION_MANAGER"),
-        std::string_view("LANG"), std::string_view("LANGUAGE"), std::string_view("TZ"),
-        std::string_view("GTK_IM_MODULE"), std::string_view("QT_IM_MODULE"), std::string_view("XMODIFIERS"),
+        std::string_view("DISPLAY"),          std::string_view("WAYLAND_DISPLAY"),
+        std::string_view("XAUTHORITY"),       std::string_view("DBUS_SESSION_BUS_ADDRESS"),
+        std::string_view("DESKTOP_SESSION"),  std::string_view("GNOME_DESKTOP_SESSION_ID"),
+        std::string_view("KDE_FULL_SESSION"), std::string_view("KDE_SESSION_VERSION"),
+        std::string_view("SESSION_MANAGER"),  std::string_view("LANG"),
+        std::string_view("LANGUAGE"),         std::string_view("TZ"),
+        std::string_view("GTK_IM_MODULE"),    std::string_view("QT_IM_MODULE"),
+        std::string_view("XMODIFIERS"),
     };
     return std::find(names.begin(), names.end(), name) != names.end() || name.substr(0, 4) == "XDG_"
         || name.substr(0, 3) == "LC_";

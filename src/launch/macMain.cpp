@@ -1,9 +1,9 @@
 // veldmark-launch --app PATH, on macOS: starts an application bundle for the user who asked for it.
 //
-// The root helper runs it in the user's login session, as that user already, with the group that the kill switch lets
-// pass: it never has any right of root's and refuses to. Launch services would start the application elsewhere and with
-// the user's own group, so its program is started directly. Exit status 0: started. 1: one line on standard error says
-// why not.
+// The root helper runs it in the user's login session, as that user already, with the group that
+// the kill switch lets pass: it never has any right of root's and refuses to. Launch services would
+// start the application elsewhere and with the user's own group, so its program is started
+// directly. Exit status 0: started. 1: one line on standard error says why not.
 
 #include "launch/BundleProgram.h"
 
@@ -27,7 +27,8 @@ int fail(const std::string &text)
     return 1;
 }
 
-// What a login session gives an application, from the account and the system, nothing from the helper.
+// What a login session gives an application, from the account and the system, nothing from the
+// helper.
 void takeEnvironment(const passwd &account)
 {
     std::string temporary;

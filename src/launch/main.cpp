@@ -1,7 +1,9 @@
-// veldmark-launch --app PATH: starts an application or a program in the desktop session of the user who asked for it.
+// veldmark-launch --app PATH: starts an application or a program in the desktop session of the user
+// who asked for it.
 //
-// The root helper runs it inside the control group that the kill switch lets pass, as that user already: it never has
-// any right of root's and refuses to. Exit status 0: started. 1: one line on standard error says why not.
+// The root helper runs it inside the control group that the kill switch lets pass, as that user
+// already: it never has any right of root's and refuses to. Exit status 0: started. 1: one line on
+// standard error says why not.
 
 #include "launch/Application.h"
 #include "launch/SessionEnvironment.h"
@@ -22,7 +24,8 @@ int fail(int errors, const std::string &text)
     return 1;
 }
 
-// The application gets no descriptor of the helper's: whoever reads our output would wait for its end.
+// The application gets no descriptor of the helper's: whoever reads our output would wait for its
+// end.
 bool closeOutputs()
 {
     const int nothing = open("/dev/null", O_RDWR | O_CLOEXEC);

@@ -22,13 +22,13 @@ bool statusOf(const QString &path, struct stat &status)
 // What is behind a folder that may not be entered counts as there.
 bool exists(const QString &path)
 {
-    struct stat status{};
+    struct stat status { };
     return statusOf(path, status) || errno == EACCES;
 }
 
 QString fileSignature(const QString &path)
 {
-    struct stat status{};
+    struct stat status { };
     if (!statusOf(path, status))
         return QStringLiteral("0:0.0");
 #ifdef Q_OS_MACOS
@@ -36,7 +36,9 @@ QString fileSignature(const QString &path)
 #else
     const timespec &modified = status.st_mtim;
 #endif
-    return QStringLiteral("%1:%2.%3").arg(status.st_size).arg(modified.tv_sec)
+    return QStringLiteral("%1:%2.%3")
+        .arg(status.st_size)
+        .arg(modified.tv_sec)
         .arg(modified.tv_nsec, 9, 10, QLatin1Char('0'));
 }
 
@@ -45,11 +47,11 @@ QString fileSignature(const QString &path)
 std::optional<QByteArray> readEnd(const QString &path)
 {
     // A pipe without a writer must not stop the program.
-    const int descriptor =
-        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    const int descriptor = ::open(QFile::encodeName(path).constData(),
+                                  O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     if (descriptor < 0)
         return std::nullopt;
-    struct stat status{};
+    struct stat status { };
     if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
         ::close(descriptor);
         return std::nullopt;
@@ -59,7 +61,8 @@ std::optional<QByteArray> readEnd(const QString &path)
     qsizetype filled = 0;
     while (filled < content.size()) {
         const ssize_t count = ::pread(descriptor, content.data() + filled,
-                                      static_cast<size_t>(content.size() - filled), offset + filled);
+                                      static_cast<size_t>(content.size() - filled),
+                                      offset + filled);
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)
@@ -77,13 +80,14 @@ std::optional<QByteArray> readEnd(const QString &path)
     return content;
 }
 
-// The last `most` lines of `content`, in their order: trimmed, without the empty ones. From the end,
-// since a file may have far more lines than are kept.
+// The last `most` lines of `content`, in their order: trimmed, without the empty ones. From the
+// end, since a file may have far more lines than are kept.
 QList<QByteArrayView> lastLines(QByteArrayView content, qsizetype most)
 {
     QList<QByteArrayView> lines;
     const auto appendPieces = [&lines, most](QByteArrayView text) {
-        // A carriage return breaks a line as well; hardly any line has one, so it is looked for last.
+        // A carriage return breaks a line as well; hardly any line has one, so it is looked for
+        // last.
         for (bool more = true; more && lines.size() < most;) {
             const qsizetype cut = text.lastIndexOf('\r');
             const QByteArrayView line = text.sliced(cut + 1).trimmed();
@@ -154,14 +158,14 @@ TorLog::Snapshot TorLog::read() const
     const auto startup = readEnd(startupPath());
     const auto launcher = readEnd(launcherPath());
     if (!notices && !startup && !launcher) {
-        const bool anyFile = exists(startupPath()) || exists(noticesPath()) || exists(launcherPath());
+        const bool anyFile = exists(startupPath()) || exists(noticesPath())
+            || exists(launcherPath());
         return anyFile ? Snapshot::unreadable() : Snapshot();
     }
 
     // The last lines count, so the groups are filled from the last one.
     const auto ofLauncher = lastLines(launcher.value_or(QByteArray()), lineLimit);
-    const auto ofNotices =
-        lastLines(notices.value_or(QByteArray()), lineLimit - ofLauncher.size());
+    const auto ofNotices = lastLines(notices.value_or(QByteArray()), lineLimit - ofLauncher.size());
     QList<QByteArrayView> ofStartup;
     const qsizetype room = lineLimit - ofLauncher.size() - ofNotices.size();
     if (room > 0) {

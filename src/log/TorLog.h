@@ -6,12 +6,13 @@
 namespace veldmark {
 
 // Reads the files that Tor's start, Tor itself and the service launcher write into the run
-// directory, and merges them into one list. The files are the only source. They may rotate, shrink or
-// be something else than files at any time; nothing here waits for any of them.
+// directory, and merges them into one list. The files are the only source. They may rotate, shrink
+// or be something else than files at any time; nothing here waits for any of them.
 class TorLog {
 public:
     static constexpr qint64 fileLimitBytes = 1000000; // only the end of a longer file is read
-    static constexpr int lineLimit = 3000;            // only the last lines of the merged list are kept
+    // only the last lines of the merged list are kept
+    static constexpr int lineLimit = 3000;
 
     class Snapshot {
     public:
@@ -21,7 +22,7 @@ public:
             unreadable, // there are files, but none can be opened
         };
 
-        Snapshot() = default; // empty
+        Snapshot() = default;                        // empty
         static Snapshot of(QList<TorLogLine> lines); // `empty` without lines
         static Snapshot unreadable();
 

@@ -50,13 +50,15 @@ QList<TorLogLine> TorLogFilter::shown(const TorLog::Snapshot &snapshot) const
 }
 
 std::optional<TorLogFilter::Placeholder> TorLogFilter::placeholder(
-    const TorLog::Snapshot &snapshot, const QList<TorLogLine> &shown, const QString &runDirectory) const
+    const TorLog::Snapshot &snapshot, const QList<TorLogLine> &shown,
+    const QString &runDirectory) const
 {
     if (snapshot.kind() == TorLog::Snapshot::Kind::unreadable)
         return Placeholder{
             Text::tr("Can't read Tor's log"),
             Text::tr("The log files in %1 aren't readable by your account. Reconnect once with "
-                     "this version of Veldmark to fix their permissions.").arg(runDirectory)};
+                     "this version of Veldmark to fix their permissions.")
+                .arg(runDirectory)};
     if (snapshot.kind() == TorLog::Snapshot::Kind::empty)
         return Placeholder{
             Text::tr("No log yet"),

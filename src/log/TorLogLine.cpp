@@ -10,8 +10,14 @@ bool isBetween(QChar c, char16_t first, char16_t last)
 {
     return c.unicode() >= first && c.unicode() <= last;
 }
-bool isDigit(QChar c) { return isBetween(c, u'0', u'9'); }
-bool isTimeCharacter(QChar c) { return isBetween(c, u'0', u':') || c == u'.'; }
+bool isDigit(QChar c)
+{
+    return isBetween(c, u'0', u'9');
+}
+bool isTimeCharacter(QChar c)
+{
+    return isBetween(c, u'0', u':') || c == u'.';
+}
 bool isWordCharacter(QChar c)
 {
     return isDigit(c) || isBetween(c, u'a', u'z') || isBetween(c, u'A', u'Z') || c == u'_';
@@ -21,11 +27,10 @@ bool isWordCharacter(QChar c)
 // the format can be read in two ways, so nothing is ever tried again.
 class Cursor {
 public:
-    explicit Cursor(QStringView text) : m_rest(text) {}
+    explicit Cursor(QStringView text) : m_rest(text) { }
 
     // Takes as many characters of the kind as there are, but no more than `most`.
-    template <typename IsWanted>
-    QStringView takeWhile(IsWanted isWanted, qsizetype most)
+    template <typename IsWanted> QStringView takeWhile(IsWanted isWanted, qsizetype most)
     {
         qsizetype length = 0;
         while (length < m_rest.size() && length < most && isWanted(m_rest[length]))
@@ -59,7 +64,8 @@ std::optional<Parts> match(QStringView line)
 {
     const qsizetype unlimited = line.size();
     Cursor cursor(line);
-    const bool isDate = cursor.takeWhile([](QChar c) { return isBetween(c, u'A', u'Z'); }, 1).size() == 1
+    const bool isDate = cursor.takeWhile([](QChar c) { return isBetween(c, u'A', u'Z'); }, 1).size()
+            == 1
         && cursor.takeWhile([](QChar c) { return isBetween(c, u'a', u'z'); }, 2).size() == 2
         && !cursor.takeWhile([](QChar c) { return c == u' '; }, unlimited).isEmpty()
         && !cursor.takeWhile(isDigit, 2).isEmpty() && cursor.take(u" ")
@@ -79,9 +85,11 @@ std::optional<Parts> match(QStringView line)
 
 TorLogLine::Level levelOfWord(QStringView word)
 {
-    const auto is = [word](QStringView name) { return word.compare(name, Qt::CaseInsensitive) == 0; };
-    return is(u"err") ? TorLogLine::Level::error
-        : is(u"warn") ? TorLogLine::Level::warning
+    const auto is = [word](QStringView name) {
+        return word.compare(name, Qt::CaseInsensitive) == 0;
+    };
+    return is(u"err")   ? TorLogLine::Level::error
+        : is(u"warn")   ? TorLogLine::Level::warning
         : is(u"notice") ? TorLogLine::Level::notice
                         : TorLogLine::Level::info;
 }
@@ -91,7 +99,8 @@ bool startsWith(QStringView text, QStringView keyword)
 {
     return text.size() >= keyword.size()
         && std::equal(keyword.begin(), keyword.end(), text.begin(), [](QChar wanted, QChar c) {
-               return c == wanted || (isBetween(c, u'A', u'Z') && c.unicode() + 32 == wanted.unicode());
+               return c == wanted
+                   || (isBetween(c, u'A', u'Z') && c.unicode() + 32 == wanted.unicode());
            });
 }
 
@@ -135,7 +144,8 @@ TorLogLine::Level guessLevel(QStringView line)
 TorLogLine TorLogLine::parse(const QString &line, int id)
 {
     if (const auto parts = match(line))
-        return {id, parts->time.toString(), levelOfWord(parts->level), parts->message.toString(), line};
+        return {id, parts->time.toString(), levelOfWord(parts->level), parts->message.toString(),
+                line};
     return {id, std::nullopt, guessLevel(line), line, line};
 }
 

@@ -5,8 +5,9 @@
 
 #include <optional>
 
-// The room of Tor's log: TorLog reads the files that Tor and its launcher write, TorLogStore watches
-// them, TorLogFilter picks what a window or a command shows, transportTrouble() what it says of bridge programs.
+// The room of Tor's log: TorLog reads the files that Tor and its launcher write, TorLogStore
+// watches them, TorLogFilter picks what a window or a command shows, transportTrouble() what it
+// says of bridge programs.
 namespace veldmark {
 
 // One line of the merged log.
@@ -15,7 +16,8 @@ struct TorLogLine {
     enum class Level { error = 0, warning = 1, notice = 2, info = 3 };
 
     int id = 0; // position in its snapshot
-    std::optional<QString> time; // as Tor writes it ("Nov 16 00:41:07.123"); absent in other formats
+    // as Tor writes it ("Nov 16 00:41:07.123"); absent in other formats
+    std::optional<QString> time;
     Level level = Level::info;
     QString message; // what follows the level; the whole line in other formats
     QString raw;     // the whole line

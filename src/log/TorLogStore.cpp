@@ -3,7 +3,8 @@
 namespace veldmark {
 
 TorLogStore::TorLogStore(TorLog log, QObject *parent, std::chrono::milliseconds interval)
-    : QObject(parent), m_log(std::move(log))
+    : QObject(parent),
+      m_log(std::move(log))
 {
     m_timer.setInterval(interval);
     connect(&m_timer, &QTimer::timeout, this, [this] { reload(false); });

@@ -17,7 +17,8 @@ QString quoted(const QString &words)
     if (shown.size() > quoteLimit)
         shown = shown.left(quoteLimit - 1) + u'…';
     for (QChar &c : shown) {
-        const bool breaksLine = c.category() == QChar::Separator_Line || c.category() == QChar::Separator_Paragraph;
+        const bool breaksLine = c.category() == QChar::Separator_Line
+            || c.category() == QChar::Separator_Paragraph;
         if (!c.isPrint() || breaksLine)
             c = u'?';
     }
@@ -49,14 +50,17 @@ private:
     QString m_program; // that ended last: "lyrebird"
     QString m_status;  // its exit status; empty when Tor doesn't tell
     QString m_words;   // that a program said before
-    Text m_trouble;    // what is wrong when none has ended; the first counts, since it caused the rest
+    // what is wrong when none has ended; the first counts, since it caused the rest
+    Text m_trouble;
 };
 
 // A program that ended. Tor starts it again and again.
 bool Finding::readEnd(const QString &message)
 {
     static const QRegularExpression ended(
-        QStringLiteral("^Managed proxy \"(.*)\" having PID \\d+ terminated with status code (\\d+)"), anyCharacter);
+        QStringLiteral(
+            "^Managed proxy \"(.*)\" having PID \\d+ terminated with status code (\\d+)"),
+        anyCharacter);
     const auto match = ended.match(message);
     if (!match.hasMatch())
         return false;
@@ -72,21 +76,25 @@ bool Finding::readEnd(const QString &message)
 // A program that says something: an error, in the way that Tor understands, or words of its own.
 bool Finding::readWords(const TorLogLine &line)
 {
-    static const QRegularExpression logged(QStringLiteral("^Managed proxy \"(.*?)\": (.+)$"), anyCharacter);
+    static const QRegularExpression logged(QStringLiteral("^Managed proxy \"(.*?)\": (.+)$"),
+                                           anyCharacter);
     static const QRegularExpression unknown(
         QStringLiteral("^Unknown line received by managed proxy \\((.*)\\)\\.?$"), anyCharacter);
     if (const auto match = unknown.match(line.message); match.hasMatch()) {
         m_words = quoted(match.captured(1));
         if (m_trouble.isEmpty())
-            m_trouble = Text::tr("The bridge program printed something that Tor doesn't understand: \"%1\".")
-                            .arg(m_words);
+            m_trouble
+                = Text::tr(
+                      "The bridge program printed something that Tor doesn't understand: \"%1\".")
+                      .arg(m_words);
         return true;
     }
     const auto match = logged.match(line.message);
     if (!match.hasMatch() || !line.isProblem())
         return false;
     m_words = quoted(match.captured(2));
-    m_trouble = Text::tr("The bridge program %1 reports: %2").arg(programAt(match.captured(1)), withEnd(m_words));
+    m_trouble = Text::tr("The bridge program %1 reports: %2")
+                    .arg(programAt(match.captured(1)), withEnd(m_words));
     return true;
 }
 
@@ -98,20 +106,25 @@ void Finding::read(const TorLogLine &line)
     }
     if (readEnd(line.message) || readWords(line) || !line.isProblem() || !m_trouble.isEmpty())
         return;
-    static const QRegularExpression died(QStringLiteral("^Managed proxy at '.*' died in state "), anyCharacter);
+    static const QRegularExpression died(QStringLiteral("^Managed proxy at '.*' died in state "),
+                                         anyCharacter);
     if (died.match(line.message).hasMatch())
         return; // says less than the line before it
     if (line.message.contains(QLatin1String("anaged proxy"))
         || line.message.contains(QLatin1String("no configured transport")))
-        m_trouble = Text::tr("Tor has trouble with the bridge program: %1").arg(withEnd(quoted(line.message)));
+        m_trouble = Text::tr("Tor has trouble with the bridge program: %1")
+                        .arg(withEnd(quoted(line.message)));
 }
 
 Text Finding::endSentence() const
 {
     if (m_status.isEmpty())
-        return (m_ends == 1 ? Text::tr("The bridge program %1 ended unexpectedly.") : Text::tr("The bridge program %1 keeps ending.")).arg(m_program);
+        return (m_ends == 1 ? Text::tr("The bridge program %1 ended unexpectedly.")
+                            : Text::tr("The bridge program %1 keeps ending."))
+            .arg(m_program);
     return (m_ends == 1 ? Text::tr("The bridge program %1 ended unexpectedly (exit status %2).")
-                        : Text::tr("The bridge program %1 keeps ending (exit status %2).")).arg(m_program, m_status);
+                        : Text::tr("The bridge program %1 keeps ending (exit status %2)."))
+        .arg(m_program, m_status);
 }
 
 std::optional<Text> Finding::sentence() const

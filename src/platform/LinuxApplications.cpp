@@ -31,20 +31,21 @@ QByteArray contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.read(readLimitBytes) : QByteArray();
 }
 
-// Whether programs of all kinds run by this one, so that its processes say nothing of whose they are.
+// Whether programs of all kinds run by this one, so that its processes say nothing of whose they
+// are.
 bool isInterpreter(const QString &program)
 {
-    static const QRegularExpression names(QRegularExpression::anchoredPattern(
-        QStringLiteral("(?:(?:ba|da|k|mk|pdk|z|fi|tc|c|ya|a)?sh|busybox|toybox|pwsh|env|bwrap|flatpak|snap"
-                       "|python|pypy|perl|ruby|jruby|lua|luajit|php|tclsh|wish|guile|gjs|gjs-console|node|nodejs|deno|bun|java"
-                       "|mono|mono-sgen|dotnet|wine|wine64|wine-preloader|wine64-preloader|R|Rscript|julia|racket|electron|qml"
-                       "|qmlscene|awk|gawk|mawk)-?[0-9.]*")));
+    static const QRegularExpression names(QRegularExpression::anchoredPattern(QStringLiteral(
+        "(?:(?:ba|da|k|mk|pdk|z|fi|tc|c|ya|a)?sh|busybox|toybox|pwsh|env|bwrap|flatpak|snap"
+        "|python|pypy|perl|ruby|jruby|lua|luajit|php|tclsh|wish|guile|gjs|gjs-console|node|nodejs|deno|bun|java"
+        "|mono|mono-sgen|dotnet|wine|wine64|wine-preloader|wine64-preloader|R|Rscript|julia|racket|electron|qml"
+        "|qmlscene|awk|gawk|mawk)-?[0-9.]*")));
     return names.match(QFileInfo(program).fileName()).hasMatch();
 }
 
-// The file that runs when the entry is started, links resolved. Empty when the entry's command has words of its own:
-// then the program may be an interpreter or a starter, which others of the user's applications run as well. Empty too
-// for an interpreter on its own.
+// The file that runs when the entry is started, links resolved. Empty when the entry's command has
+// words of its own: then the program may be an interpreter or a starter, which others of the user's
+// applications run as well. Empty too for an interpreter on its own.
 QString ownProgram(const Entry &entry)
 {
     const char *command = g_app_info_get_commandline(G_APP_INFO(entry.get()));
@@ -67,14 +68,16 @@ QString ownProgram(const Entry &entry)
     return program;
 }
 
-// Whether the last part of the process's control group is one that desktops make for this application:
-// "app-DESKTOP-ID-NUMBER.scope", "app-ID@NUMBER.service", with "-" in the ID written "\x2d".
+// Whether the last part of the process's control group is one that desktops make for this
+// application: "app-DESKTOP-ID-NUMBER.scope", "app-ID@NUMBER.service", with "-" in the ID written
+// "\x2d".
 bool isOwnGroup(const QByteArray &groups, const QString &id)
 {
     QString escaped = id;
     escaped.replace(u'-', QStringLiteral("\\x2d"));
-    const QRegularExpression own(QStringLiteral("/app-(?:[^/]+-)?%1(?:-[^-/]+\\.scope|@[^/]*\\.service|\\.service)$")
-                                     .arg(QRegularExpression::escape(escaped)));
+    const QRegularExpression own(
+        QStringLiteral("/app-(?:[^/]+-)?%1(?:-[^-/]+\\.scope|@[^/]*\\.service|\\.service)$")
+            .arg(QRegularExpression::escape(escaped)));
     for (const QByteArray &line : groups.split('\n')) {
         if (own.match(QString::fromUtf8(line)).hasMatch())
             return true;
@@ -84,7 +87,7 @@ bool isOwnGroup(const QByteArray &groups, const QString &id)
 
 class LinuxApplications final : public RunningApplications {
 public:
-    explicit LinuxApplications(QString processFolder) : m_processes(std::move(processFolder)) {}
+    explicit LinuxApplications(QString processFolder) : m_processes(std::move(processFolder)) { }
 
     QString displayName(const QString &path) const override
     {
@@ -122,7 +125,8 @@ public:
 
     bool hasEnded(qint64 process) const override
     {
-        const QByteArray state = contentOf(m_processes + u'/' + QString::number(process) + QStringLiteral("/stat"));
+        const QByteArray state = contentOf(m_processes + u'/' + QString::number(process)
+                                           + QStringLiteral("/stat"));
         const qsizetype end = state.lastIndexOf(')'); // the name before it may hold anything
         return end < 0 || state.mid(end + 2, 1) == "Z";
     }

@@ -29,9 +29,11 @@ std::vector<InstalledApplication> installedApplications()
     for (const GList *entry = entries; entry; entry = entry->next) {
         auto *const info = static_cast<GAppInfo *>(entry->data);
         const char *const path = G_IS_DESKTOP_APP_INFO(info)
-            ? g_desktop_app_info_get_filename(G_DESKTOP_APP_INFO(info)) : nullptr;
+            ? g_desktop_app_info_get_filename(G_DESKTOP_APP_INFO(info))
+            : nullptr;
         if (path && g_app_info_should_show(info))
-            applications.push_back({QFile::decodeName(path), QString::fromUtf8(g_app_info_get_display_name(info)),
+            applications.push_back({QFile::decodeName(path),
+                                    QString::fromUtf8(g_app_info_get_display_name(info)),
                                     iconOf(info)});
     }
     g_list_free_full(entries, g_object_unref);

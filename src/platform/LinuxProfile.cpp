@@ -33,10 +33,10 @@ const QString unknownSystem = QStringLiteral("your package manager");
 
 QString linuxInstallHint(const QString &osRelease)
 {
-    const QStringList names =
-        (osReleaseValue(osRelease, QStringLiteral("ID")) + u' '
-         + osReleaseValue(osRelease, QStringLiteral("ID_LIKE")))
-            .toLower().split(u' ', Qt::SkipEmptyParts);
+    const QStringList names = (osReleaseValue(osRelease, QStringLiteral("ID")) + u' '
+                               + osReleaseValue(osRelease, QStringLiteral("ID_LIKE")))
+                                  .toLower()
+                                  .split(u' ', Qt::SkipEmptyParts);
     for (const QString &name : names) {
         if (name == QLatin1String("debian") || name == QLatin1String("ubuntu"))
             return QStringLiteral("sudo apt install tor tor-geoipdb");
@@ -71,7 +71,8 @@ PlatformProfile PlatformProfile::linux(const Places &places)
         ? Text::tr("Tor isn't installed. Install it with your package manager or set its "
                    "location in Settings.")
         : Text::tr("Tor isn't installed. Install it with your package manager (%1) or set "
-                   "its location in Settings.").arg(profile.torInstallHint);
+                   "its location in Settings.")
+              .arg(profile.torInstallHint);
 
     profile.sessionMarker = at("/var/lib/veldmark/state/active");
     profile.sessionOwner = at("/var/lib/veldmark/state/owner");
@@ -90,7 +91,8 @@ PlatformProfile PlatformProfile::linux(const Places &places)
                                 at("/usr/share/veldmark/veldmark-helper.sh")};
     const QString helper = profile.bundledHelper();
     profile.manualRestoreCommand = QStringLiteral("sudo bash %1 disconnect")
-        .arg(helper.isEmpty() ? profile.helperCandidates.constLast() : helper);
+                                       .arg(helper.isEmpty() ? profile.helperCandidates.constLast()
+                                                             : helper);
 
     profile.torCandidates = {at("/usr/bin/tor"), at("/usr/local/bin/tor"), at("/usr/sbin/tor"),
                              at("/home/linuxbrew/.linuxbrew/bin/tor")};
@@ -100,8 +102,8 @@ PlatformProfile PlatformProfile::linux(const Places &places)
     profile.unzip = at("/usr/bin/unzip");
     profile.promptKind = PromptKind::PolicyKit;
     profile.promptProgram = at("/usr/bin/pkexec");
-    profile.promptText =
-        Text::tr("Veldmark needs administrator access to manage Tor routing on this computer. The system's own Tor service, where it runs, is stopped meanwhile.");
+    profile.promptText = Text::tr(
+        "Veldmark needs administrator access to manage Tor routing on this computer. The system's own Tor service, where it runs, is stopped meanwhile.");
 
     profile.torBrowserRoots = {
         {places.home + QStringLiteral("/.local/share/torbrowser/tbb/x86_64/tor-browser"),

@@ -9,7 +9,8 @@
 
 #include <unistd.h>
 
-// Compiled without automatic reference counting, as everything that is asked for here belongs to an autorelease pool.
+// Compiled without automatic reference counting, as everything that is asked for here belongs to an
+// autorelease pool.
 namespace veldmark {
 
 namespace {
@@ -41,9 +42,11 @@ public:
         std::vector<qint64> found;
         @autoreleasepool {
             const QString wanted = QDir::cleanPath(path);
-            for (NSRunningApplication *application in [[NSWorkspace sharedWorkspace] runningApplications]) {
+            for (NSRunningApplication *application in
+                 [[NSWorkspace sharedWorkspace] runningApplications]) {
                 const pid_t process = [application processIdentifier];
-                if (process == getpid() || process <= 0) // a process of its own may not have one yet
+                // a process of its own may not have one yet
+                if (process == getpid() || process <= 0)
                     continue;
                 NSString *bundle = [[[application bundleURL] URLByStandardizingPath] path];
                 if (QDir::cleanPath(text(bundle)) == wanted)
@@ -71,7 +74,8 @@ public:
 private:
     static NSRunningApplication *running(qint64 process)
     {
-        return [NSRunningApplication runningApplicationWithProcessIdentifier:static_cast<pid_t>(process)];
+        return [NSRunningApplication
+            runningApplicationWithProcessIdentifier:static_cast<pid_t>(process)];
     }
 };
 
@@ -85,10 +89,11 @@ std::unique_ptr<RunningApplications> runningApplications(const QString &)
 std::vector<InstalledApplication> installedApplications()
 {
     std::vector<InstalledApplication> applications;
-    for (const QString &folder : {QStringLiteral("/Applications"), QStringLiteral("/Applications/Utilities"),
-                                  QDir::homePath() + QStringLiteral("/Applications")}) {
-        const QStringList bundles =
-            QDir(folder).entryList({QStringLiteral("*.app")}, QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString &folder :
+         {QStringLiteral("/Applications"), QStringLiteral("/Applications/Utilities"),
+          QDir::homePath() + QStringLiteral("/Applications")}) {
+        const QStringList bundles = QDir(folder).entryList({QStringLiteral("*.app")},
+                                                           QDir::Dirs | QDir::NoDotAndDotDot);
         for (const QString &bundle : bundles) {
             const QString path = folder + u'/' + bundle;
             applications.push_back({path, nameOf(path), {}});

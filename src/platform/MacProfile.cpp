@@ -44,10 +44,11 @@ PlatformProfile PlatformProfile::macos(const Places &places)
     profile.unzip = at("/usr/bin/unzip");
     profile.promptKind = PromptKind::AppleScript;
     profile.promptProgram = at("/usr/bin/osascript");
-    profile.promptText =
-        Text::tr("Veldmark needs administrator access to manage Tor routing on this Mac.");
+    profile.promptText = Text::tr(
+        "Veldmark needs administrator access to manage Tor routing on this Mac.");
 
-    profile.torBrowserRoots = {{at("/Applications/Tor Browser.app"), QStringLiteral("Tor Browser")}};
+    profile.torBrowserRoots = {
+        {at("/Applications/Tor Browser.app"), QStringLiteral("Tor Browser")}};
     profile.bundleDirectory = support + QStringLiteral("/TorExpertBundle");
     profile.bundleArchivePrefix = QStringLiteral("tor-expert-bundle-macos-%1-").arg(places.machine);
 

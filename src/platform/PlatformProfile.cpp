@@ -23,12 +23,13 @@ QString machineName()
     return architecture == QLatin1String("arm64") ? QStringLiteral("aarch64") : architecture;
 }
 #ifndef Q_OS_MACOS
-// The variable is missing after su, in cron and in some SSH sessions, and after su it may be another user's. logind's folder
-// is the same one for all of a user's processes. A folder that is not there yet is made by who needs it.
+// The variable is missing after su, in cron and in some SSH sessions, and after su it may be
+// another user's. logind's folder is the same one for all of a user's processes. A folder that is
+// not there yet is made by who needs it.
 QString ownRuntimeDirectory()
 {
     const QString given = absoluteFromEnvironment("XDG_RUNTIME_DIR", QString());
-    struct stat info {};
+    struct stat info { };
     const auto isOwn = [&info](const QString &path) {
         return ::stat(QFile::encodeName(path).constData(), &info) == 0 && S_ISDIR(info.st_mode)
             && info.st_uid == geteuid();
@@ -45,10 +46,10 @@ Places Places::fromEnvironment()
 {
     Places places;
     places.home = QDir::homePath();
-    places.configHome =
-        absoluteFromEnvironment("XDG_CONFIG_HOME", places.home + QStringLiteral("/.config"));
-    places.dataHome =
-        absoluteFromEnvironment("XDG_DATA_HOME", places.home + QStringLiteral("/.local/share"));
+    places.configHome = absoluteFromEnvironment("XDG_CONFIG_HOME",
+                                                places.home + QStringLiteral("/.config"));
+    places.dataHome = absoluteFromEnvironment("XDG_DATA_HOME",
+                                              places.home + QStringLiteral("/.local/share"));
 #ifndef Q_OS_MACOS
     places.runtimeDirectory = ownRuntimeDirectory();
 #endif

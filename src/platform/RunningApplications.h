@@ -7,8 +7,9 @@
 
 namespace veldmark {
 
-// The user's applications: what they are called and which of their processes run. An application is known by a path,
-// of its desktop entry on Linux and of its bundle on macOS. Main thread; every call looks afresh and returns at once.
+// The user's applications: what they are called and which of their processes run. An application is
+// known by a path, of its desktop entry on Linux and of its bundle on macOS. Main thread; every
+// call looks afresh and returns at once.
 class RunningApplications {
 public:
     virtual ~RunningApplications() = default;
@@ -23,6 +24,7 @@ public:
 };
 
 // For the running system. `processFolder` is /proc but in tests.
-std::unique_ptr<RunningApplications> runningApplications(const QString &processFolder = QStringLiteral("/proc"));
+std::unique_ptr<RunningApplications> runningApplications(const QString &processFolder
+                                                         = QStringLiteral("/proc"));
 
 } // namespace veldmark

@@ -48,7 +48,8 @@ void killGroup(QProcess &process)
     process.kill(); // in case it has no group of its own yet
 }
 
-// What is left to finish when the program ends. Never destroyed, so that it is held to the last moment.
+// What is left to finish when the program ends. Never destroyed, so that it is held to the last
+// moment.
 QSet<QProcess *> &underWay()
 {
     static auto *const processes = new QSet<QProcess *>;
@@ -69,12 +70,14 @@ QCoro::Task<Outcome> ChildProcessRunner::run(QString executable, QStringList arg
     return start(std::move(executable), std::move(arguments), std::nullopt, std::nullopt);
 }
 
-QCoro::Task<Outcome> ChildProcessRunner::runWithInput(QString executable, QStringList arguments, QByteArray input)
+QCoro::Task<Outcome> ChildProcessRunner::runWithInput(QString executable, QStringList arguments,
+                                                      QByteArray input)
 {
     return start(std::move(executable), std::move(arguments), std::nullopt, std::move(input));
 }
 
-QCoro::Task<Outcome> ChildProcessRunner::runUntil(QString executable, QStringList arguments, StopToken stop)
+QCoro::Task<Outcome> ChildProcessRunner::runUntil(QString executable, QStringList arguments,
+                                                  StopToken stop)
 {
     return start(std::move(executable), std::move(arguments), std::move(stop), std::nullopt);
 }
@@ -97,15 +100,16 @@ QCoro::Task<Outcome> ChildProcessRunner::start(QString executable, QStringList a
     });
     QObject::connect(process, &QProcess::errorOccurred, process,
                      [process, ended](QProcess::ProcessError error) {
-        if (error != QProcess::FailedToStart)
-            return; // finished() follows
-        ended.complete(Failure(StartError(systemText(process->errorString()))));
-        process->deleteLater();
-    });
+                         if (error != QProcess::FailedToStart)
+                             return; // finished() follows
+                         ended.complete(Failure(StartError(systemText(process->errorString()))));
+                         process->deleteLater();
+                     });
     QObject::connect(&m_lifetime, &QObject::destroyed, process, [ended] {
         ended.complete(Failure(StartError(Text::tr("The program is quitting."))));
     });
-    process->setInputChannelMode(input ? QProcess::ManagedInputChannel : QProcess::ForwardedInputChannel);
+    process->setInputChannelMode(input ? QProcess::ManagedInputChannel
+                                       : QProcess::ForwardedInputChannel);
     if (stop)
         process->setChildProcessModifier([] { ::setsid(); });
     process->start(executable, arguments, input ? QIODevice::ReadWrite : QIODevice::ReadOnly);

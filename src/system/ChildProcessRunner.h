@@ -23,15 +23,17 @@ namespace veldmark {
 // the middle of changing the system finishes its work, and its output is still read.
 class ChildProcessRunner final : public ProcessRunner {
 public:
-    [[nodiscard]] QCoro::Task<Result<ProcessResult, StartError>>
-    run(QString executable, QStringList arguments) override;
-    [[nodiscard]] QCoro::Task<Result<ProcessResult, StartError>>
-    runWithInput(QString executable, QStringList arguments, QByteArray input) override;
-    [[nodiscard]] QCoro::Task<Result<ProcessResult, StartError>>
-    runUntil(QString executable, QStringList arguments, StopToken stop) override;
+    [[nodiscard]] QCoro::Task<Result<ProcessResult, StartError>> run(
+        QString executable, QStringList arguments) override;
+    [[nodiscard]] QCoro::Task<Result<ProcessResult, StartError>> runWithInput(
+        QString executable, QStringList arguments, QByteArray input) override;
+    [[nodiscard]] QCoro::Task<Result<ProcessResult, StartError>> runUntil(QString executable,
+                                                                          QStringList arguments,
+                                                                          StopToken stop) override;
 
 private:
-    // Without `stop` the child stays in this process's group and session, without `input` its input is ours.
+    // Without `stop` the child stays in this process's group and session, without `input` its input
+    // is ours.
     QCoro::Task<Result<ProcessResult, StartError>> start(QString executable, QStringList arguments,
                                                          std::optional<StopToken> stop,
                                                          std::optional<QByteArray> input);

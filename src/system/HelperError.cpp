@@ -3,7 +3,8 @@
 namespace veldmark {
 
 HelperError::HelperError(Kind kind, Text description)
-    : m_kind(kind), m_description(std::move(description))
+    : m_kind(kind),
+      m_description(std::move(description))
 {
 }
 

@@ -11,9 +11,10 @@ public:
     enum class Kind {
         Failed,        // it ran, or was refused the right to; the description says why
         MissingHelper, // there is no script to run
-        Unapproved,    // it needs an administrator's approval that it was not given; the description says of what
-        Cancelled,     // the user dismissed the authorisation dialog
-        NotStarted,    // the program that gives it its rights could not be started
+        // it needs an administrator's approval that it was not given; the description says of what
+        Unapproved,
+        Cancelled,  // the user dismissed the authorisation dialog
+        NotStarted, // the program that gives it its rights could not be started
     };
 
     static HelperError failed(Text message); // message: already cleaned

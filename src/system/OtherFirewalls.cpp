@@ -20,8 +20,10 @@ QString read(const QString &path)
 // Whether a line of `text`, which a shell reads, sets NAME to something that begins so.
 bool sets(const QString &text, const char *name, const char *value)
 {
-    const QRegularExpression line(QStringLiteral("^\\s*%1\\s*=\\s*[\"']?(%2)\\b").arg(QLatin1String(name), QLatin1String(value)),
-                                  QRegularExpression::MultilineOption | QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpression line(QStringLiteral("^\\s*%1\\s*=\\s*[\"']?(%2)\\b")
+                                      .arg(QLatin1String(name), QLatin1String(value)),
+                                  QRegularExpression::MultilineOption
+                                      | QRegularExpression::CaseInsensitiveOption);
     return line.match(text).hasMatch();
 }
 
@@ -45,7 +47,8 @@ QStringList denying(const PlatformProfile &profile)
     }
     const QString ufw = QStringLiteral("ufw");
     if (!names.contains(ufw) && isUfwOn(profile)
-        && sets(read(profile.places.root + QStringLiteral("/etc/default/ufw")), "DEFAULT_OUTPUT_POLICY", "DROP|REJECT"))
+        && sets(read(profile.places.root + QStringLiteral("/etc/default/ufw")),
+                "DEFAULT_OUTPUT_POLICY", "DROP|REJECT"))
         names << ufw;
     return names;
 }

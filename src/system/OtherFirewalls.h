@@ -6,11 +6,13 @@ namespace veldmark {
 
 struct PlatformProfile;
 
-// Firewalls of other programs on this computer that deny what goes out, so that Tor may not get through.
+// Firewalls of other programs on this computer that deny what goes out, so that Tor may not get
+// through.
 namespace OtherFirewalls {
 
-// Their names: "ufw", "firewalld", or a table of rules ("table ip filter"). From what everybody may read: the helper's note of what it
-// found at the connect whose session is there, and ufw's settings. Empty: none is known, which is no word that there is none.
+// Their names: "ufw", "firewalld", or a table of rules ("table ip filter"). From what everybody may
+// read: the helper's note of what it found at the connect whose session is there, and ufw's
+// settings. Empty: none is known, which is no word that there is none.
 QStringList denying(const PlatformProfile &profile);
 
 // Whether ufw is switched on, whatever it denies.

@@ -24,11 +24,13 @@ std::optional<QByteArray> contentOf(const QString &path)
     return content;
 }
 
-// From the helper's own line on, and without sudo's where the shell speaks for the helper. What stands before it are warnings of sudo (a host name that it cannot resolve), of
-// the shell or of a library, and no reason for anything.
+// From the helper's own line on, and without sudo's where the shell speaks for the helper. What
+// stands before it are warnings of sudo (a host name that it cannot resolve), of the shell or of a
+// library, and no reason for anything.
 QString helpersWords(const QString &errors)
 {
-    static const QRegularExpression line(QStringLiteral("^ERROR: "), QRegularExpression::MultilineOption);
+    static const QRegularExpression line(QStringLiteral("^ERROR: "),
+                                         QRegularExpression::MultilineOption);
     if (const auto match = line.match(errors); match.hasMatch())
         return errors.sliced(match.capturedStart());
     QStringList lines = errors.split(u'\n');
@@ -40,34 +42,39 @@ QString helpersWords(const QString &errors)
 // What the helper ends with when only an administrator's approval is missing.
 constexpr int unapprovedStatus = 3;
 
-// The words of a run: those that anybody may read on its command line, and what it reads from its input.
+// The words of a run: those that anybody may read on its command line, and what it reads from its
+// input.
 struct Words {
     QStringList shown;
     std::optional<QByteArray> input;
 };
 
-// The options of a connect tell bridges, exit and the hashed password. Those of the other verbs are what the
-// administrator is asked about, and stay where the dialog can show them.
+// The options of a connect tell bridges, exit and the hashed password. Those of the other verbs are
+// what the administrator is asked about, and stay where the dialog can show them.
 Words hidden(const QStringList &arguments)
 {
     const QString verb = arguments.value(0);
     const auto fitsALine = [](const QString &word) { // what does not is for the helper to refuse
-        return std::none_of(word.begin(), word.end(), [](QChar c) { return c < u' ' || c == QChar(0x7f); });
+        return std::none_of(word.begin(), word.end(),
+                            [](QChar c) { return c < u' ' || c == QChar(0x7f); });
     };
-    if ((verb != QLatin1String("connect") && verb != QLatin1String("replace")) || arguments.size() < 2
-        || !std::all_of(arguments.begin(), arguments.end(), fitsALine))
+    if ((verb != QLatin1String("connect") && verb != QLatin1String("replace"))
+        || arguments.size() < 2 || !std::all_of(arguments.begin(), arguments.end(), fitsALine))
         return {arguments, std::nullopt};
     const QString lines = arguments.mid(1).join(u'\n') + QLatin1String("\nend\n");
     return {{verb, QStringLiteral("-")}, lines.toUtf8()};
 }
 
-QCoro::Task<Result<ProcessResult, StartError>> start(ProcessRunner *runner, QString program, QStringList before, Words words)
+QCoro::Task<Result<ProcessResult, StartError>> start(ProcessRunner *runner, QString program,
+                                                     QStringList before, Words words)
 {
     const QStringList all = before + words.shown;
-    return words.input ? runner->runWithInput(program, all, *words.input) : runner->run(program, all);
+    return words.input ? runner->runWithInput(program, all, *words.input)
+                       : runner->run(program, all);
 }
 
-// Whether the helper was to verify a bundle. Where it is refused an approval then, its caller knows what to ask for.
+// Whether the helper was to verify a bundle. Where it is refused an approval then, its caller knows
+// what to ask for.
 bool bringsBundle(const QStringList &arguments)
 {
     return arguments.contains(QLatin1String("--bundle"));
@@ -86,14 +93,18 @@ Text promptText(const PlatformProfile &profile, const QStringList &arguments)
 {
     const QString verb = arguments.value(0);
     if (verb == QLatin1String("replace"))
-        return Text::joined({profile.promptText, Text::tr("The strict session that is running is replaced, and may protect you less.")});
+        return Text::joined(
+            {profile.promptText,
+             Text::tr(
+                 "The strict session that is running is replaced, and may protect you less.")});
     if (verb != QLatin1String("approve"))
         return profile.promptText;
     const auto valueOf = [&arguments](const char *option) {
         return arguments.value(arguments.indexOf(QLatin1String(option)) + 1);
     };
-    return Text::tr("Veldmark wants to run %1 as a part of Tor. No package of the system brought it. Its SHA-256 is %2.")
-        .arg(valueOf("--program"), valueOf("--sha256"));
+    return Text::
+        tr("Veldmark wants to run %1 as a part of Tor. No package of the system brought it. Its SHA-256 is %2.")
+            .arg(valueOf("--program"), valueOf("--sha256"));
 }
 
 HelperError failure(const QString &text)
@@ -152,15 +163,18 @@ HelperError policyKitError(const ProcessResult &result, const QString &script)
                 "Administrator access can't be asked for: no PolicyKit authentication agent is "
                 "running in this session."));
         }
-        // pkexec's own agent on a terminal asks, but polkit then takes the answer only from an agent of the user's.
+        // pkexec's own agent on a terminal asks, but polkit then takes the answer only from an
+        // agent of the user's.
         if (says("No session for cookie")) {
             return HelperError::failed(Text::tr(
                 "The password could not be checked: polkit takes none from this terminal. Run it with sudo."));
         }
         if (says("Error executing command as another user: Not authorized")
             || says("Error checking for authorization ")) {
-            // polkit says the same of a wrong password and of an agent that ended without an answer.
-            return HelperError::failed(Text::tr("Administrator access was refused, or the agent that asks for the password gave no answer."));
+            // polkit says the same of a wrong password and of an agent that ended without an
+            // answer.
+            return HelperError::failed(Text::tr(
+                "Administrator access was refused, or the agent that asks for the password gave no answer."));
         }
     }
     return failure(result.stderr);
@@ -185,8 +199,8 @@ QString appleScriptSource(const QStringList &words, const QString &promptText)
     QString text = promptText;
     for (QString *quotable : {&command, &text})
         quotable->replace(u'\\', QLatin1String("\\\\")).replace(u'"', QLatin1String("\\\""));
-    return QLatin1String("do shell script \"") + command + QLatin1String("\" with prompt \"")
-        + text + QLatin1String("\" with administrator privileges");
+    return QLatin1String("do shell script \"") + command + QLatin1String("\" with prompt \"") + text
+        + QLatin1String("\" with administrator privileges");
 }
 
 PrivilegedRunner::PrivilegedRunner(PlatformProfile profile, ProcessRunner &runner,
@@ -242,28 +256,29 @@ QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::runHelper(QStringList a
     return run(m_means, arguments);
 }
 
-QCoro::Task<PrivilegedRunner::Outcome>
-PrivilegedRunner::runWithPrompt(QStringList arguments, std::optional<QString> script)
+QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::runWithPrompt(
+    QStringList arguments, std::optional<QString> script)
 {
     return prompt(m_means, arguments, script);
 }
 
-QCoro::Task<PrivilegedRunner::Outcome>
-PrivilegedRunner::run(std::shared_ptr<const Means> means, QStringList arguments)
+QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::run(std::shared_ptr<const Means> means,
+                                                             QStringList arguments)
 {
-    const bool needsNobody =
-        means->isRoot && means->profile.promptKind == PromptKind::PolicyKit;
+    const bool needsNobody = means->isRoot && means->profile.promptKind == PromptKind::PolicyKit;
     if (!needsNobody && means->passwordlessInstalled()) {
         const QStringList before{QStringLiteral("-n"), means->profile.installedHelper};
         // A copy of another version may read nothing from its input.
-        const Words words = means->privilegedHelperOutdated() ? Words{arguments, std::nullopt} : hidden(arguments);
+        const Words words = means->privilegedHelperOutdated() ? Words{arguments, std::nullopt}
+                                                              : hidden(arguments);
         auto running = start(means->runner, means->profile.sudo, before, words);
         const auto run = co_await running;
         if (!run)
             co_return Failure(HelperError::notStarted(run.error()));
         if (run->status == 0)
             co_return run->stdout;
-        if (run->status == unapprovedStatus && helpersWords(run->stderr).startsWith(QLatin1String("ERROR: "))) {
+        if (run->status == unapprovedStatus
+            && helpersWords(run->stderr).startsWith(QLatin1String("ERROR: "))) {
             if (bringsBundle(arguments))
                 co_return Failure(HelperError::unapproved(failure(run->stderr).description()));
             arguments = approvable(arguments);
@@ -276,9 +291,9 @@ PrivilegedRunner::run(std::shared_ptr<const Means> means, QStringList arguments)
     co_return outcome;
 }
 
-QCoro::Task<PrivilegedRunner::Outcome>
-PrivilegedRunner::prompt(std::shared_ptr<const Means> means, QStringList arguments,
-                         std::optional<QString> script)
+QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::prompt(std::shared_ptr<const Means> means,
+                                                                QStringList arguments,
+                                                                std::optional<QString> script)
 {
     if (!script) {
         const Outcome shipped = means->bundledHelper();
@@ -288,8 +303,9 @@ PrivilegedRunner::prompt(std::shared_ptr<const Means> means, QStringList argumen
     }
     if (means->profile.promptKind == PromptKind::AppleScript) {
         const QStringList words = QStringList{shell, *script} + arguments;
-        const QStringList source = {QStringLiteral("-e"),
-                                    appleScriptSource(words, promptText(means->profile, arguments).translated())};
+        const QStringList source = {
+            QStringLiteral("-e"),
+            appleScriptSource(words, promptText(means->profile, arguments).translated())};
         const auto run = co_await means->runner->run(means->profile.promptProgram, source);
         if (!run)
             co_return Failure(HelperError::notStarted(run.error()));
@@ -303,18 +319,19 @@ PrivilegedRunner::prompt(std::shared_ptr<const Means> means, QStringList argumen
     const QString helper = *script;
     const Outcome outcome = co_await runAsRoot(means, helper, arguments);
     const QStringList more = approvable(arguments);
-    if (outcome || outcome.error().kind() != HelperError::Kind::Unapproved || more == arguments || !means->runner)
+    if (outcome || outcome.error().kind() != HelperError::Kind::Unapproved || more == arguments
+        || !means->runner)
         co_return outcome;
     // The dialog has not said that a strict session would be lessened; now it does.
     const Outcome approved = co_await runAsRoot(means, helper, more);
     co_return approved;
 }
 
-QCoro::Task<PrivilegedRunner::Outcome>
-PrivilegedRunner::runAsRoot(std::shared_ptr<const Means> means, QString script, QStringList arguments)
+QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::runAsRoot(
+    std::shared_ptr<const Means> means, QString script, QStringList arguments)
 {
-    // pkexec gets the script itself and no shell: the installed policy's actions, which say in the dialog what is
-    // wanted, belong to that path and the verb after it.
+    // pkexec gets the script itself and no shell: the installed policy's actions, which say in the
+    // dialog what is wanted, belong to that path and the verb after it.
     const QString program = means->isRoot ? shell : means->profile.promptProgram;
     const QStringList before{script};
     const Words words = hidden(arguments);
@@ -342,7 +359,8 @@ Text PrivilegedRunner::cleanError(const QString &text)
     static const QString mark = QStringLiteral("ERROR: ");
     if (message.startsWith(mark))
         message.remove(0, mark.size());
-    return message.isEmpty() ? Text::tr("The helper failed without an error message.") : HelperSentences::recognised(message);
+    return message.isEmpty() ? Text::tr("The helper failed without an error message.")
+                             : HelperSentences::recognised(message);
 }
 
 } // namespace veldmark

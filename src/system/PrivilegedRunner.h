@@ -19,15 +19,16 @@ namespace veldmark {
 // dialog (osascript or pkexec, as the profile says). On a PolicyKit system a process that is root
 // already needs neither and runs the shipped helper directly.
 //
-// pkexec is given the helper as the program to run, so the file must be executable. Where it is the installed one,
-// polkit's policy (packaging/org.veldmark.helper.policy) has an action for each verb, found by that path and the verb
-// as first argument; elsewhere the dialog is polkit's own.
+// pkexec is given the helper as the program to run, so the file must be executable. Where it is the
+// installed one, polkit's policy (packaging/org.veldmark.helper.policy) has an action for each
+// verb, found by that path and the verb as first argument; elsewhere the dialog is polkit's own.
 //
 // The helper reports a failure as one line on standard error, optionally after "ERROR: ", and a
 // status other than 0; that line, cleaned, is the error's description.
 //
-// The options of connect and replace go to the helper's standard input, where nobody else reads them, except through
-// osascript. A connect that would lessen a running strict session is refused by the helper; then replace asks.
+// The options of connect and replace go to the helper's standard input, where nobody else reads
+// them, except through osascript. A connect that would lessen a running strict session is refused
+// by the helper; then replace asks.
 //
 // Belongs to the main thread and must be destroyed before its ProcessRunner. A run that is under
 // way then is left to finish; its caller gets `cancelled`, at the latest when it ends.
@@ -52,8 +53,8 @@ public:
     // The normal entry for every verb: without a password if it can be, else with the dialog.
     [[nodiscard]] QCoro::Task<Outcome> runHelper(QStringList arguments);
     // Always through the dialog. script: the shipped helper when absent.
-    [[nodiscard]] QCoro::Task<Outcome>
-    runWithPrompt(QStringList arguments, std::optional<QString> script = std::nullopt);
+    [[nodiscard]] QCoro::Task<Outcome> runWithPrompt(QStringList arguments,
+                                                     std::optional<QString> script = std::nullopt);
 
     // The message within what a helper, or osascript around it, wrote on standard error.
     static Text cleanError(const QString &text);
@@ -72,7 +73,8 @@ private:
     static QCoro::Task<Outcome> run(std::shared_ptr<const Means> means, QStringList arguments);
     static QCoro::Task<Outcome> prompt(std::shared_ptr<const Means> means, QStringList arguments,
                                        std::optional<QString> script);
-    static QCoro::Task<Outcome> runAsRoot(std::shared_ptr<const Means> means, QString script, QStringList arguments);
+    static QCoro::Task<Outcome> runAsRoot(std::shared_ptr<const Means> means, QString script,
+                                          QStringList arguments);
 
     std::shared_ptr<Means> m_means;
 };

@@ -34,7 +34,7 @@ constexpr std::array<Role, 4> roles{{
 bool isRootsAlone(QString path)
 {
     for (;; path = QFileInfo(path).path()) {
-        struct stat about{};
+        struct stat about { };
         if (::lstat(QFile::encodeName(path).constData(), &about) != 0 || about.st_uid != 0
             || (about.st_mode & (S_IWGRP | S_IWOTH)) != 0)
             return false;
@@ -46,11 +46,14 @@ bool isRootsAlone(QString path)
 bool isSystems(const PlatformProfile &profile, const QString &path, const Role &role)
 {
     const QString file = QFileInfo(path).fileName();
-    const bool isNamed = std::any_of(role.files.begin(), role.files.end(),
-                                     [&file](const char *name) { return file == QLatin1String(name); });
+    const bool isNamed = std::any_of(
+        role.files.begin(), role.files.end(),
+        [&file](const char *name) { return file == QLatin1String(name); });
     const QString &root = profile.places.root;
-    struct statvfs system{};
-    return isNamed && (path.startsWith(root + QLatin1String("/usr/")) || path.startsWith(root + QLatin1String("/opt/")))
+    struct statvfs system { };
+    return isNamed
+        && (path.startsWith(root + QLatin1String("/usr/"))
+            || path.startsWith(root + QLatin1String("/opt/")))
         && isRootsAlone(path) && ::statvfs(QFile::encodeName(path).constData(), &system) == 0
         && (system.f_flag & ST_NOSUID) == 0; // as media are that a user has mounted
 }
@@ -68,11 +71,17 @@ QString digestOf(const QString &path)
 
 QStringList ProgramApproval::words() const
 {
-    return {QStringLiteral("approve"), QStringLiteral("--program"), path, QStringLiteral("--as"), role,
-            QStringLiteral("--sha256"), digest};
+    return {QStringLiteral("approve"),
+            QStringLiteral("--program"),
+            path,
+            QStringLiteral("--as"),
+            role,
+            QStringLiteral("--sha256"),
+            digest};
 }
 
-std::vector<ProgramApproval> ProgramApproval::missing(const PlatformProfile &profile, const QStringList &words)
+std::vector<ProgramApproval> ProgramApproval::missing(const PlatformProfile &profile,
+                                                      const QStringList &words)
 {
     std::vector<ProgramApproval> found;
     for (const Role &role : roles) {

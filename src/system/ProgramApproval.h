@@ -8,8 +8,9 @@ namespace veldmark {
 
 struct PlatformProfile;
 
-// A program that is to run as Tor's account although no package of the system brought it. The administrator is asked for
-// it by path and digest, as it was read before the prompt, and the helper runs nothing else in its place.
+// A program that is to run as Tor's account although no package of the system brought it. The
+// administrator is asked for it by path and digest, as it was read before the prompt, and the
+// helper runs nothing else in its place.
 struct ProgramApproval {
     QString path;
     QString role;   // the helper's word: "tor", "lyrebird", "snowflake-client", "webtunnel-client"
@@ -18,9 +19,10 @@ struct ProgramApproval {
     // What the helper is asked.
     QStringList words() const;
 
-    // Of the programs that a connect with these words names, those that an administrator has still to approve. Reads
-    // such a program whole: some ten milliseconds.
-    static std::vector<ProgramApproval> missing(const PlatformProfile &profile, const QStringList &words);
+    // Of the programs that a connect with these words names, those that an administrator has still
+    // to approve. Reads such a program whole: some ten milliseconds.
+    static std::vector<ProgramApproval> missing(const PlatformProfile &profile,
+                                                const QStringList &words);
 };
 
 } // namespace veldmark

@@ -8,8 +8,8 @@ namespace veldmark {
 
 struct PlatformProfile;
 
-// Which session the helper's marker tells of: every connect writes a new file. Two sessions that look the same, one after the
-// other, have two marks.
+// Which session the helper's marker tells of: every connect writes a new file. Two sessions that
+// look the same, one after the other, have two marks.
 struct SessionMark {
     quint64 file = 0;   // its number in the file system
     qint64 seconds = 0; // when it got that name, by the system's clock

@@ -39,7 +39,8 @@ bool isRunning(qint64 process, const QByteArray &start)
     const QByteArray stat = contentOf(QStringLiteral("/proc/%1/stat").arg(process), statLimitBytes);
     if (stat.isEmpty()) // where /proc hides other users' processes, only this can be told
         return ::kill(static_cast<pid_t>(process), 0) == 0 || errno == EPERM;
-    // The name, in round brackets, may hold anything; the state follows, and the start is 19 fields after that.
+    // The name, in round brackets, may hold anything; the state follows, and the start is 19 fields
+    // after that.
     const QList<QByteArray> fields = stat.mid(stat.lastIndexOf(')') + 2).split(' ');
     return fields.value(19) == start && fields.constFirst() != "Z" && fields.constFirst() != "X";
 }
@@ -71,10 +72,12 @@ std::optional<SessionOwner> SessionOwner::ofAnotherProcess(const PlatformProfile
     const QByteArray note = contentOf(profile.sessionOwner, noteLimitBytes);
     bool hasUser = false;
     bool hasProcess = false;
-    const SessionOwner owner{valueOf(note, "uid").toUInt(&hasUser), valueOf(note, "pid").toInt(&hasProcess)};
+    const SessionOwner owner{valueOf(note, "uid").toUInt(&hasUser),
+                             valueOf(note, "pid").toInt(&hasProcess)};
     if (!hasUser || !hasProcess || owner.process <= 0 || owner.process == ::getpid())
         return std::nullopt;
-    if (valueOf(note, "boot") != contentOf(QStringLiteral("/proc/sys/kernel/random/boot_id"), noteLimitBytes).trimmed())
+    if (valueOf(note, "boot")
+        != contentOf(QStringLiteral("/proc/sys/kernel/random/boot_id"), noteLimitBytes).trimmed())
         return std::nullopt;
     if (!isRunning(owner.process, valueOf(note, "start")))
         return std::nullopt;

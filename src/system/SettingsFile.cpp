@@ -22,12 +22,12 @@ namespace {
 constexpr qint64 largestFileBytes = 4 * 1024 * 1024;
 
 struct Line {
-    QByteArrayView said;      // without a comment at its end
-    qsizetype equalsAt = -1;  // the first equals sign that is neither quoted nor behind a backslash
+    QByteArrayView said;     // without a comment at its end
+    qsizetype equalsAt = -1; // the first equals sign that is neither quoted nor behind a backslash
 };
 
-// Read as QSettings reads it. Nothing when the line goes on: a quote that is left open, or a backslash at the end,
-// swallows the following line.
+// Read as QSettings reads it. Nothing when the line goes on: a quote that is left open, or a
+// backslash at the end, swallows the following line.
 std::optional<Line> readLine(QByteArrayView text)
 {
     Line line{text};
@@ -57,16 +57,19 @@ bool isIntactLine(QByteArrayView text)
     return line->said.isEmpty() || line->equalsAt > 0;
 }
 
-// What only shows when QSettings reads the file: a key with an empty part ("/a", "a//b"), which it would write under another
-// name, and half of a surrogate pair ("\xd800"), which it would write as another character. Its status is no judge: a file that
-// it has read before and that has not changed since gives no error a second time.
+// What only shows when QSettings reads the file: a key with an empty part ("/a", "a//b"), which it
+// would write under another name, and half of a surrogate pair ("\xd800"), which it would write as
+// another character. Its status is no judge: a file that it has read before and that has not
+// changed since gives no error a second time.
 bool isReadWhole(const QString &path)
 {
     const QSettings settings(path, QSettings::IniFormat);
     const QStringList keys = settings.allKeys();
-    return settings.status() == QSettings::NoError && std::all_of(keys.begin(), keys.end(), [&settings](const QString &key) {
-        return key.split(u'/', Qt::SkipEmptyParts).join(u'/') == key && settings.value(key).toStringList().join(u' ').isValidUtf16();
-    });
+    return settings.status() == QSettings::NoError
+        && std::all_of(keys.begin(), keys.end(), [&settings](const QString &key) {
+               return key.split(u'/', Qt::SkipEmptyParts).join(u'/') == key
+                   && settings.value(key).toStringList().join(u' ').isValidUtf16();
+           });
 }
 
 bool isWritable(const QString &path)
@@ -100,8 +103,7 @@ std::optional<QString> copyBeside(const QFileInfo &original)
     const int descriptor = ::mkstemp(name.data()); // mode 0600
     if (descriptor < 0)
         return std::nullopt;
-    const bool opened =
-        copy.open(descriptor, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle);
+    const bool opened = copy.open(descriptor, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle);
     const bool copied = opened && copy.write(content) == content.size() && copy.flush()
         && (!original.exists() || copy.setPermissions(original.permissions()));
     copy.close();
@@ -140,8 +142,8 @@ void keepDistinctTime(const QString &changed, const QFileInfo &original)
 // The renaming itself is on disk only when the folder is.
 void syncFolder(const QString &path)
 {
-    const int descriptor =
-        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int descriptor = ::open(QFile::encodeName(path).constData(),
+                                  O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor >= 0) {
         ::fsync(descriptor);
         ::close(descriptor);
@@ -154,7 +156,7 @@ SettingsFileState settingsFileState(const QString &path)
 {
     const QFileInfo info(path);
     // In a folder that may not be entered every file looks missing; errno tells the difference.
-    struct stat found {};
+    struct stat found { };
     if (::stat(QFile::encodeName(path).constData(), &found) != 0) {
         return errno == ENOENT || errno == ENOTDIR ? SettingsFileState::Missing
                                                    : SettingsFileState::Unreadable;
@@ -167,7 +169,8 @@ SettingsFileState settingsFileState(const QString &path)
     const QByteArray content = file.readAll();
     if (file.error() != QFile::NoError)
         return SettingsFileState::Unreadable;
-    return isIntactSettingsText(content) && isReadWhole(path) ? SettingsFileState::Intact : SettingsFileState::Damaged;
+    return isIntactSettingsText(content) && isReadWhole(path) ? SettingsFileState::Intact
+                                                              : SettingsFileState::Damaged;
 }
 
 bool isIntactSettingsText(const QByteArray &content)
@@ -230,7 +233,8 @@ bool rewriteSettingsFile(const QString &path, const QSet<QString> &keys, const Q
     if (writeKeys(*copy, keys, values)) {
         keepDistinctTime(*copy, target);
         if (::rename(QFile::encodeName(*copy).constData(),
-                     QFile::encodeName(target.filePath()).constData()) == 0) {
+                     QFile::encodeName(target.filePath()).constData())
+            == 0) {
             syncFolder(target.path());
             return true;
         }

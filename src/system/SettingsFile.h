@@ -9,11 +9,12 @@
 
 // The settings file as a file: whether it can be trusted, and how it is created and put out of the
 // way. Its content is QSettings' business, but QSettings reads damaged files without complaint
-// and writes over what it did not understand; so every file is judged here before QSettings sees it.
+// and writes over what it did not understand; so every file is judged here before QSettings sees
+// it.
 namespace veldmark {
 
 enum class SettingsFileState {
-    Missing,    // nothing there (or a link to nothing): a new one may be written
+    Missing, // nothing there (or a link to nothing): a new one may be written
     Intact,
     Damaged,    // not text, or text that is not "key=value" lines, sections and comments
     Unreadable, // no permission, a directory, a device, larger than 4 MiB
@@ -22,8 +23,8 @@ enum class SettingsFileState {
 SettingsFileState settingsFileState(const QString &path);
 
 // Whether `content` is something that QSettings reads back without loss: UTF-8 without control
-// characters and byte order mark, in which every line is empty, a comment behind ";", a "[section]" or "key=value" with
-// its quotes closed on the same line. Empty content is intact.
+// characters and byte order mark, in which every line is empty, a comment behind ";", a "[section]"
+// or "key=value" with its quotes closed on the same line. Empty content is intact.
 bool isIntactSettingsText(const QByteArray &content);
 
 // Renames the file or directory to "PATH.broken", or "PATH.broken-1" and so on where that is

@@ -143,11 +143,13 @@ bool SettingsStore::setAsideIfBroken()
         return true;
     if (const auto kept = setSettingsFileAside(m_path)) {
         m_problems += Text::tr("The settings file couldn't be read. It was kept as %1, and a "
-                               "new one is used.").arg(*kept);
+                               "new one is used.")
+                          .arg(*kept);
         return true;
     }
     m_problems += Text::tr("The settings file %1 can't be read or replaced. Changes to the "
-                           "settings last until you quit.").arg(m_path);
+                           "settings last until you quit.")
+                      .arg(m_path);
     m_memoryOnly = true;
     return false;
 }

@@ -37,14 +37,17 @@ bool SignedBundle::brings(const PlatformProfile &profile, const ProgramApproval 
         && QFileInfo(program.path).path() == folder + QStringLiteral("/tor/pluggable_transports");
 }
 
-QStringList SignedBundle::words(const PlatformProfile &profile, const std::vector<ProgramApproval> &missing)
+QStringList SignedBundle::words(const PlatformProfile &profile,
+                                const std::vector<ProgramApproval> &missing)
 {
     const QString archive = archiveBelow(profile.bundleDirectory);
     const QStringList files = {archive, signatureOf(archive), keyOf(archive)};
     const auto isThere = [](const QString &path) { return QFileInfo(path).isFile(); };
-    const auto isBrought = [&profile](const ProgramApproval &program) { return brings(profile, program); };
-    if (!isOfUse(profile)
-        || std::none_of(missing.begin(), missing.end(), isBrought) || !std::all_of(files.begin(), files.end(), isThere))
+    const auto isBrought = [&profile](const ProgramApproval &program) {
+        return brings(profile, program);
+    };
+    if (!isOfUse(profile) || std::none_of(missing.begin(), missing.end(), isBrought)
+        || !std::all_of(files.begin(), files.end(), isThere))
         return {};
     return {QStringLiteral("--bundle"), archive};
 }

@@ -15,7 +15,8 @@ namespace {
 
 constexpr qsizetype usageLimitBytes = 64 * 1024;
 
-// What a program prints about itself, on either channel; empty when it does not end within 2 s, or nobody wants to know.
+// What a program prints about itself, on either channel; empty when it does not end within 2 s, or
+// nobody wants to know.
 QByteArray usage(const QString &program, const QString &option, const StopToken &ended)
 {
     if (ended.stop_requested() || !QFileInfo(program).isExecutable())
@@ -73,7 +74,7 @@ std::optional<QString> socksCommand(const PlatformProfile &profile, const StopTo
     return std::nullopt;
 }
 
-SocksSearch::SocksSearch(PlatformProfile profile) : m_profile(std::move(profile)) {}
+SocksSearch::SocksSearch(PlatformProfile profile) : m_profile(std::move(profile)) { }
 
 SocksSearch::~SocksSearch()
 {
@@ -112,7 +113,8 @@ std::optional<QString> SocksSearch::command() const
         m_state->command = socksCommand(m_profile);
         m_state->signature = asked;
     }
-    return m_profile.netcat.isEmpty() && !signature().isEmpty() ? m_state->command : socksCommand(m_profile);
+    return m_profile.netcat.isEmpty() && !signature().isEmpty() ? m_state->command
+                                                                : socksCommand(m_profile);
 }
 
 QCoro::Task<void> SocksSearch::ask()
@@ -126,8 +128,9 @@ QCoro::Task<void> SocksSearch::ask()
     const StopToken ended = m_ended.get_token();
     const bool isFirst = !std::exchange(state->isRunning, true);
     if (isFirst)
-        QThreadPool::globalInstance()->start(
-            [answer, profile = m_profile, ended] { answer.complete(socksCommand(profile, ended)); });
+        QThreadPool::globalInstance()->start([answer, profile = m_profile, ended] {
+            answer.complete(socksCommand(profile, ended));
+        });
     const std::optional<QString> found = co_await answer;
     state->waits.erase(wait);
     if (!isFirst || ended.stop_requested()) // `this` may be gone
@@ -145,14 +148,16 @@ Text socksCommandHint(const PlatformProfile &profile)
         const char *installer;
         const char *name;
     };
-    for (const Package &package : {Package{"sudo apt install ", "netcat-openbsd"},
-                                   Package{"sudo dnf install ", "nmap-ncat"},
-                                   Package{"sudo pacman -S ", "openbsd-netcat"},
-                                   Package{"sudo zypper install ", "netcat-openbsd"}}) {
+    for (const Package &package :
+         {Package{"sudo apt install ", "netcat-openbsd"}, Package{"sudo dnf install ", "nmap-ncat"},
+          Package{"sudo pacman -S ", "openbsd-netcat"},
+          Package{"sudo zypper install ", "netcat-openbsd"}}) {
         const QLatin1String installer(package.installer);
         if (profile.torInstallHint.startsWith(installer))
-            return Text::tr("ssh doesn't go through Tor yet: it needs a netcat that speaks SOCKS. Install one "
-                            "with: %1").arg(installer + QLatin1String(package.name));
+            return Text::
+                tr("ssh doesn't go through Tor yet: it needs a netcat that speaks SOCKS. Install one "
+                   "with: %1")
+                    .arg(installer + QLatin1String(package.name));
     }
     return Text::tr("ssh doesn't go through Tor yet: it needs a netcat that speaks SOCKS. "
                     "Install the OpenBSD netcat or Ncat with your package manager.");

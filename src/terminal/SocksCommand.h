@@ -23,7 +23,8 @@ namespace veldmark {
 // as it takes to start them. Any thread; an end that is asked for ends it with nothing.
 std::optional<QString> socksCommand(const PlatformProfile &profile, const StopToken &ended = {});
 
-// Asks the programs on a thread of its own, and remembers the answer until one of their files changes. Main thread.
+// Asks the programs on a thread of its own, and remembers the answer until one of their files
+// changes. Main thread.
 class SocksSearch {
 public:
     explicit SocksSearch(PlatformProfile profile);
@@ -35,7 +36,8 @@ public:
     bool isKnown() const;
     // socksCommand(), as remembered; else it asks and remembers.
     std::optional<QString> command() const;
-    // Resumes when the answer is known. Calls that come while the programs are being asked share that run.
+    // Resumes when the answer is known. Calls that come while the programs are being asked share
+    // that run.
     QCoro::Task<void> ask();
 
 private:
@@ -49,7 +51,8 @@ private:
 
     const PlatformProfile m_profile;
     StopSource m_ended;
-    const std::shared_ptr<State> m_state = std::make_shared<State>(); // outlives this in those who wait
+    // outlives this in those who wait
+    const std::shared_ptr<State> m_state = std::make_shared<State>();
 };
 
 // The sentence that tells the user what to install for ssh to go through Tor.

@@ -25,8 +25,8 @@ constexpr mode_t plainMode = 0644;
 constexpr mode_t programMode = 0755;
 constexpr mode_t privateMode = 0600;
 
-const QByteArray shellBody =
-    "[ -f \"$HOME/.veldmark/shell.sh\" ] && . \"$HOME/.veldmark/shell.sh\"";
+const QByteArray shellBody
+    = "[ -f \"$HOME/.veldmark/shell.sh\" ] && . \"$HOME/.veldmark/shell.sh\"";
 const QByteArray sshBody = "Include ~/.veldmark/ssh_config";
 
 std::filesystem::path asPath(const QString &path)
@@ -39,22 +39,23 @@ Result<void, TerminalError> makeFolder(const QString &path)
     std::error_code error;
     std::filesystem::create_directories(asPath(path), error);
     if (error)
-        return Failure(TerminalError{Text::tr("%1 can't be created: %2.")
-                                         .arg(path, qt_error_string(error.value()))});
+        return Failure(TerminalError{
+            Text::tr("%1 can't be created: %2.").arg(path, qt_error_string(error.value()))});
     return {};
 }
 
 TerminalNames namesFor(const PlatformProfile &profile, const QString &exitCheckAddress)
 {
-    return {profile.terminalMaker, profile.sessionMarker, exitCheckAddress, profile.givesBackProxies};
+    return {profile.terminalMaker, profile.sessionMarker, exitCheckAddress,
+            profile.givesBackProxies};
 }
 
 } // namespace
 
 TerminalIntegration::TerminalIntegration(PlatformProfile profile, QString exitCheckAddress)
-    : m_profile(std::move(profile))
-    , m_exitCheckAddress(std::move(exitCheckAddress))
-    , m_search(std::make_shared<SocksSearch>(m_profile))
+    : m_profile(std::move(profile)),
+      m_exitCheckAddress(std::move(exitCheckAddress)),
+      m_search(std::make_shared<SocksSearch>(m_profile))
 {
 }
 
@@ -101,9 +102,11 @@ Result<void, TerminalError> TerminalIntegration::writeShellFiles() const
 Result<void, TerminalError> TerminalIntegration::writeSshFiles(const QString &command) const
 {
     const TerminalNames names = namesFor(m_profile, m_exitCheckAddress);
-    if (const auto written = writeOwnFile(own("ssh_config"), sshFile(names, command), plainMode); !written)
+    if (const auto written = writeOwnFile(own("ssh_config"), sshFile(names, command), plainMode);
+        !written)
         return written;
-    return writeOwnFile(own("bin/veldmark-active"), activeProgram(names), programMode, OwnMode::exact);
+    return writeOwnFile(own("bin/veldmark-active"), activeProgram(names), programMode,
+                        OwnMode::exact);
 }
 
 Result<void, TerminalError> TerminalIntegration::addShellBlocks() const
@@ -243,8 +246,9 @@ Result<void, TerminalError> TerminalIntegration::keep(const Separations &separat
 {
     QJsonObject files;
     for (const auto &[path, separation] : separations)
-        files.insert(path, QJsonObject{{QStringLiteral("lineBreak"), separation.lineBreak},
-                                       {QStringLiteral("emptyLine"), separation.emptyLine}});
+        files.insert(path,
+                     QJsonObject{{QStringLiteral("lineBreak"), separation.lineBreak},
+                                 {QStringLiteral("emptyLine"), separation.emptyLine}});
     return writeOwnFile(own("separators.json"), QJsonDocument(files).toJson(), plainMode);
 }
 

@@ -24,8 +24,9 @@ namespace veldmark {
 // On a Mac the files are ~/.zshrc and, where it exists, ~/.bash_profile; on Linux ~/.bashrc and,
 // where zsh is installed or the file exists, ~/.zshrc.
 //
-// Keeps no state but which program ssh can use. Everything blocks, but works on small files only, once it is known
-// what that program is; the main thread is fine. One process at a time. Copies share what they know.
+// Keeps no state but which program ssh can use. Everything blocks, but works on small files only,
+// once it is known what that program is; the main thread is fine. One process at a time. Copies
+// share what they know.
 class TerminalIntegration {
 public:
     // `exitCheckAddress` is what `torip` asks for the caller's address: a plain https address,
@@ -34,7 +35,8 @@ public:
 
     // Writes the files and adds the blocks; doing it again changes nothing. A failure ends it
     // where it stands and keeps what was written before. Where no program speaks SOCKS for ssh,
-    // what concerns ssh is left out, or taken away again: see sshHint(). Asks for that program, unless it is known.
+    // what concerns ssh is left out, or taken away again: see sshHint(). Asks for that program,
+    // unless it is known.
     Result<void, TerminalError> install() const;
     // The shells' part of it alone.
     Result<void, TerminalError> installForShells() const;

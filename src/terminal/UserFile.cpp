@@ -45,7 +45,7 @@ std::optional<QString> linkTarget(const QString &path)
 
 class Descriptor {
 public:
-    explicit Descriptor(int number) : m_number(number) {}
+    explicit Descriptor(int number) : m_number(number) { }
     ~Descriptor() { close(); }
     Descriptor(const Descriptor &) = delete;
     Descriptor &operator=(const Descriptor &) = delete;

@@ -11,7 +11,8 @@ namespace veldmark::Amount {
 Unit unitFor(quint64 bytes)
 {
     int unit = 0;
-    for (quint64 rest = bytes; rest >= 1000 && unit < static_cast<int>(Unit::terabytes); rest /= 1000)
+    for (quint64 rest = bytes; rest >= 1000 && unit < static_cast<int>(Unit::terabytes);
+         rest /= 1000)
         ++unit;
     return static_cast<Unit>(unit);
 }

@@ -10,7 +10,8 @@
 namespace veldmark {
 
 ApplicationChoices::ApplicationChoices(Session &session, QObject *parent)
-    : QAbstractListModel(parent), m_session(session)
+    : QAbstractListModel(parent),
+      m_session(session)
 {
     QObject::connect(&session, &Session::changed, this, [this] {
         if (!m_shown.empty())
@@ -37,9 +38,8 @@ QVariant ApplicationChoices::data(const QModelIndex &index, int role) const
     case NameRole:
         return application.name;
     case PictureRole:
-        return application.icon.isEmpty()
-            ? QString()
-            : QStringLiteral("image://application/")
+        return application.icon.isEmpty() ? QString()
+                                          : QStringLiteral("image://application/")
                 + QString::fromLatin1(QUrl::toPercentEncoding(application.icon));
     case ChosenRole:
         return m_session.now().choices.bypassApps.contains(application.path);
@@ -65,9 +65,11 @@ QString ApplicationChoices::emptyText() const
 void ApplicationChoices::refresh()
 {
     m_all = m_session.installedApplications();
-    std::stable_sort(m_all.begin(), m_all.end(), [](const InstalledApplication &a, const InstalledApplication &b) {
-        return QString::localeAwareCompare(a.name.toCaseFolded(), b.name.toCaseFolded()) < 0;
-    });
+    std::stable_sort(
+        m_all.begin(), m_all.end(),
+        [](const InstalledApplication &a, const InstalledApplication &b) {
+            return QString::localeAwareCompare(a.name.toCaseFolded(), b.name.toCaseFolded()) < 0;
+        });
     update();
 }
 

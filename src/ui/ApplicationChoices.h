@@ -22,7 +22,7 @@ public:
     enum Role {
         NameRole = Qt::UserRole + 1,
         PictureRole, // URL of the application's picture, as text; empty where it has none
-        ChosenRole // bool: it may skip Tor
+        ChosenRole   // bool: it may skip Tor
     };
 
     // `session` must outlive the model.
@@ -56,7 +56,7 @@ private:
 // Pictures of applications: "image://application/" and the icon's name or file, percent-encoded.
 class ApplicationIcons final : public QQuickImageProvider {
 public:
-    ApplicationIcons() : QQuickImageProvider(Image) {}
+    ApplicationIcons() : QQuickImageProvider(Image) { }
     QImage requestImage(const QString &id, QSize *size, const QSize &requestedSize) override;
 };
 

@@ -118,7 +118,8 @@ void CircuitGraphView::layOut()
         m_places.push_back(std::move(place));
     }
     // Strands between the same two nodes lie side by side, like the wires of a ribbon.
-    QHash<QString, std::pair<int, int>> ribbons; // how many there are, and how many have their place
+    // how many there are, and how many have their place
+    QHash<QString, std::pair<int, int>> ribbons;
     const auto ribbon = [](const CircuitGraph::Edge &edge) { return edge.from + u'|' + edge.to; };
     for (const CircuitGraph::Edge &edge : m_graph.edges)
         ++ribbons[ribbon(edge)].first;
@@ -144,7 +145,8 @@ void CircuitGraphView::light()
     if (standingOut) {
         m_followedOut = !followed.isEmpty();
         for (Circuit &circuit : m_circuits)
-            circuit.lit = m_followedOut ? circuit.id == followed : hovered->circuitIDs.contains(circuit.id);
+            circuit.lit = m_followedOut ? circuit.id == followed
+                                        : hovered->circuitIDs.contains(circuit.id);
     }
     for (size_t i = 0; i < m_places.size(); ++i)
         m_places[i].lit = m_graph.nodes[i].kind == CircuitGraph::Kind::mac
@@ -181,8 +183,9 @@ const CircuitGraph::Node *CircuitGraphView::nodeAt(QPointF point) const
 
 const CircuitGraph::Node *CircuitGraphView::hoveredNode() const
 {
-    const auto found = std::find_if(m_graph.nodes.begin(), m_graph.nodes.end(),
-                                    [this](const CircuitGraph::Node &node) { return node.id == m_hovered; });
+    const auto found = std::find_if(
+        m_graph.nodes.begin(), m_graph.nodes.end(),
+        [this](const CircuitGraph::Node &node) { return node.id == m_hovered; });
     return m_hovered.isEmpty() || found == m_graph.nodes.end() ? nullptr : &*found;
 }
 
@@ -273,7 +276,8 @@ void CircuitGraphView::drawGuides(QPainter &painter) const
         const double x = std::round(GraphLayout::columnAt(column, width()));
         painter.fillRect(QRectF(x, 34, 1, height() - 40), m_guide);
         painter.setPen(m_faintInk);
-        painter.drawText(QRectF(x - 70, 10, 140, 18), Qt::AlignCenter, titles[static_cast<size_t>(column)]);
+        painter.drawText(QRectF(x - 70, 10, 140, 18), Qt::AlignCenter,
+                         titles[static_cast<size_t>(column)]);
     }
 }
 
@@ -311,14 +315,18 @@ void CircuitGraphView::drawNode(QPainter &painter, double scale, size_t index)
     const CircuitGraph::Node &node = m_graph.nodes[index];
     const Place &place = m_places[index];
     const bool dense = m_rows[static_cast<size_t>(node.column)] < 2 * nodeRadius + 2;
-    const double radius = node.kind == Kind::mac ? computerRadius : dense ? denseRadius : nodeRadius;
+    const double radius = node.kind == Kind::mac ? computerRadius
+        : dense                                  ? denseRadius
+                                                 : nodeRadius;
     const QPointF center = place.at * scale;
     const bool hovered = node.id == m_hovered;
 
-    put(painter, m_pictures.disc(radius, 2, m_background, m_background), center); // hides the strands' ends
+    // hides the strands' ends
+    put(painter, m_pictures.disc(radius, 2, m_background, m_background), center);
     painter.setOpacity(opacity(place.lit || hovered, m_followedOut ? fadedNode : dimmedNode));
     const QColor ring = ringColor(place);
-    if (m_outline.alpha() > 0 && ring != m_faintInk && ring != m_ink) // light ground: a rim round the pale ring
+    // light ground: a rim round the pale ring
+    if (m_outline.alpha() > 0 && ring != m_faintInk && ring != m_ink)
         put(painter, m_pictures.disc(radius, hovered ? 4.4 : 3.4, m_outline, m_background), center);
     put(painter, m_pictures.disc(radius, hovered ? 3 : 2, ring, m_background), center);
     if (node.kind == Kind::mac) {
@@ -330,7 +338,9 @@ void CircuitGraphView::drawNode(QPainter &painter, double scale, size_t index)
     } else if (!dense && node.relay) {
         const QString country = node.relay->country.value_or(QStringLiteral("?"));
         const QString flag = m_drawFlags ? ColorScheme::flag(country) : QString();
-        put(painter, m_pictures.country(flag.isEmpty() ? country.toUpper() : flag, !flag.isEmpty(), m_ink), center);
+        put(painter,
+            m_pictures.country(flag.isEmpty() ? country.toUpper() : flag, !flag.isEmpty(), m_ink),
+            center);
     }
     drawLabel(painter, scale, index, place.at + QPointF(0, radius));
     painter.setOpacity(1);
@@ -340,13 +350,15 @@ void CircuitGraphView::drawLabel(QPainter &painter, double scale, size_t index, 
 {
     const CircuitGraph::Node &node = m_graph.nodes[index];
     const bool isComputer = node.kind == CircuitGraph::Kind::mac;
-    const bool wanted = node.id == m_hovered || (m_standingOut && m_followedOut && m_places[index].lit && !isComputer);
+    const bool wanted = node.id == m_hovered
+        || (m_standingOut && m_followedOut && m_places[index].lit && !isComputer);
     if (!isComputer && m_rows[static_cast<size_t>(node.column)] < labelRow && !wanted)
         return;
     const double room = width() * (isComputer ? 0.24 : node.column == 4 ? 0.2 : 0.19);
     const QImage &picture = m_pictures.label(node.label, room, m_ink, m_background);
     const double half = picture.width() / scale / 2;
-    const QPointF center(std::clamp(below.x(), half + 2, std::max(half + 2, width() - half - 2)), below.y() + 11);
+    const QPointF center(std::clamp(below.x(), half + 2, std::max(half + 2, width() - half - 2)),
+                         below.y() + 11);
     put(painter, picture, center * scale);
 }
 

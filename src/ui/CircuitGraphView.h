@@ -12,10 +12,11 @@
 
 namespace veldmark {
 
-// Draws the circuits from left to right: this computer, entries, middles, exits, sites. What is followed
-// stands out and the rest recedes; a click on a node follows the next circuit through it. While nothing is
-// followed, the circuits through the node under the pointer stand out. Labels never overlap: they are
-// shortened to their column, and left out where a column is too dense, except on what stands out.
+// Draws the circuits from left to right: this computer, entries, middles, exits, sites. What is
+// followed stands out and the rest recedes; a click on a node follows the next circuit through it.
+// While nothing is followed, the circuits through the node under the pointer stand out. Labels
+// never overlap: they are shortened to their column, and left out where a column is too dense,
+// except on what stands out.
 class CircuitGraphView : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -38,8 +39,8 @@ public:
     void setModel(CircuitsModel *model);
     QString hoveredHelp() const; // the help of the node under the pointer, or empty
     QPointF hoveredAt() const;
-    // Whether some circuits stand out from the rest, and how far they do by now: 0…1, moved by whoever
-    // wants it to happen gently.
+    // Whether some circuits stand out from the rest, and how far they do by now: 0…1, moved by
+    // whoever wants it to happen gently.
     bool standingOut() const { return m_standingOut; }
     double emphasis() const { return m_emphasis; }
     void setEmphasis(double emphasis);

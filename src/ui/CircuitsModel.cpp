@@ -19,7 +19,8 @@ constexpr auto refreshInterval = 3s; // while somebody looks
 
 QString milliseconds(std::chrono::microseconds time)
 {
-    return QLocale().toString(static_cast<qlonglong>((time.count() + 500) / 1000)) + QStringLiteral("\u00a0ms");
+    return QLocale().toString(static_cast<qlonglong>((time.count() + 500) / 1000))
+        + QStringLiteral("\u00a0ms");
 }
 
 QVariantMap step(const QString &symbol, const QString &country, const QString &role,
@@ -40,7 +41,9 @@ auto rowOf(std::vector<CircuitInfo> &rows, std::size_t from, const QString &id)
 } // namespace
 
 CircuitsModel::CircuitsModel(Session &session, QObject *parent)
-    : QAbstractListModel(parent), m_session(session), m_shown(session.now().circuits)
+    : QAbstractListModel(parent),
+      m_session(session),
+      m_shown(session.now().circuits)
 {
     m_wasConnected = connected();
     m_wasOptimizing = optimizing();
@@ -86,8 +89,8 @@ void CircuitsModel::update()
         refresh();
 }
 
-// Changes the rows into the session's circuits one by one: a list that is read anew would lose its place,
-// and the row that has the keyboard.
+// Changes the rows into the session's circuits one by one: a list that is read anew would lose its
+// place, and the row that has the keyboard.
 void CircuitsModel::showRows()
 {
     const std::vector<CircuitInfo> &next = circuits();
@@ -170,8 +173,11 @@ QVariant CircuitsModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> CircuitsModel::roleNames() const
 {
-    return {{IdRole, "circuitId"}, {TitleRole, "title"}, {DetailRole, "detail"},
-            {ColorRole, "tint"}, {FollowedRole, "isFollowed"}};
+    return {{IdRole, "circuitId"},
+            {TitleRole, "title"},
+            {DetailRole, "detail"},
+            {ColorRole, "tint"},
+            {FollowedRole, "isFollowed"}};
 }
 
 QString CircuitsModel::subtitle() const

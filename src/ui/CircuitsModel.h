@@ -11,8 +11,8 @@
 namespace veldmark {
 
 // The list of circuits, the one that is followed, and its path as steps. One row a circuit, in the
-// session's order, which is also the order of the palette. While it is seen the circuits are read again
-// every few seconds; rows come, go and move one by one, never all anew.
+// session's order, which is also the order of the palette. While it is seen the circuits are read
+// again every few seconds; rows come, go and move one by one, never all anew.
 class CircuitsModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -33,7 +33,7 @@ class CircuitsModel : public QAbstractListModel {
 public:
     enum Role {
         IdRole = Qt::UserRole + 1, // Tor's number of the circuit, text
-        TitleRole,   // "Circuit 12"
+        TitleRole,                 // "Circuit 12"
         DetailRole,  // the countries or nicknames of its relays, and the round-trip time
         ColorRole,   // QColor
         FollowedRole // bool
@@ -58,8 +58,8 @@ public:
     QString followed() const;
     Q_INVOKABLE void follow(const QString &id);
     int followedRow() const; // -1: none
-    // The path of the followed circuit, each step a map: symbol, country, role, title, detail, tint,
-    // last. Empty when none is followed.
+    // The path of the followed circuit, each step a map: symbol, country, role, title, detail,
+    // tint, last. Empty when none is followed.
     QVariantList steps() const;
 
     const std::vector<CircuitInfo> &circuits() const { return m_session.now().circuits; }

@@ -43,7 +43,8 @@ bool drawsFlags()
 
 ColorScheme::ColorScheme(QObject *parent) : QObject(parent)
 {
-    QObject::connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, &ColorScheme::changed);
+    QObject::connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this,
+                     &ColorScheme::changed);
     readPalette();
     qApp->installEventFilter(this);
     if (!QDBusConnection::sessionBus().isConnected())
@@ -55,7 +56,10 @@ ColorScheme::ColorScheme(QObject *parent) : QObject(parent)
     askPortal(QStringLiteral("org.gnome.desktop.interface"), animations);
 }
 
-bool ColorScheme::mirrored() { return QGuiApplication::isRightToLeft(); }
+bool ColorScheme::mirrored()
+{
+    return QGuiApplication::isRightToLeft();
+}
 
 bool ColorScheme::flagsDrawn() const
 {
@@ -90,7 +94,8 @@ void ColorScheme::askPortal(const QString &group, const QString &key)
     QDBusMessage call = QDBusMessage::createMethodCall(portal, portalPath, portalSettings,
                                                        QStringLiteral("Read"));
     call << group << key;
-    auto *watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);
+    auto *watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call),
+                                                this);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, key, watcher] {
         const QDBusPendingReply<QDBusVariant> reply = *watcher;
         if (!reply.isError())
@@ -99,7 +104,8 @@ void ColorScheme::askPortal(const QString &group, const QString &key)
     });
 }
 
-void ColorScheme::onSettingChanged(const QString &group, const QString &key, const QDBusVariant &value)
+void ColorScheme::onSettingChanged(const QString &group, const QString &key,
+                                   const QDBusVariant &value)
 {
     if (group == QLatin1String("org.freedesktop.appearance")
         || group == QLatin1String("org.gnome.desktop.interface"))
@@ -109,7 +115,8 @@ void ColorScheme::onSettingChanged(const QString &group, const QString &key, con
 void ColorScheme::take(const QString &key, const QVariant &value)
 {
     // Portals wrap the value a second time.
-    const QVariant plain = value.canConvert<QDBusVariant>() ? value.value<QDBusVariant>().variant() : value;
+    const QVariant plain = value.canConvert<QDBusVariant>() ? value.value<QDBusVariant>().variant()
+                                                            : value;
     if (m_forced)
         return;
     if (key == colorScheme && plain.toUInt() != 0) { // 0: no preference
@@ -129,7 +136,8 @@ void ColorScheme::readPalette()
     if (m_forced || m_portalDecides)
         return;
     const QPalette palette = QGuiApplication::palette();
-    m_dark = palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+    m_dark = palette.color(QPalette::Window).lightness()
+        < palette.color(QPalette::WindowText).lightness();
 }
 
 bool ColorScheme::eventFilter(QObject *watched, QEvent *event)

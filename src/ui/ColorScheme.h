@@ -1,16 +1,17 @@
 #pragma once
 
+#include <QDBusVariant>
 #include <QObject>
 #include <QQmlEngine>
-#include <QDBusVariant>
 #include <QVariant>
 
 #include <optional>
 
 namespace veldmark {
 
-// What the system prefers: dark or light, motion or less of it; and the direction of the user's language. Comes from the desktop portal where
-// one answers, else from the palette; follows changes of both. One per QML engine.
+// What the system prefers: dark or light, motion or less of it; and the direction of the user's
+// language. Comes from the desktop portal where one answers, else from the palette; follows changes
+// of both. One per QML engine.
 class ColorScheme : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -27,8 +28,8 @@ public:
     bool reducedMotion() const { return m_reducedMotion; }
     // Windows are laid out from the right.
     static bool mirrored();
-    // Whether the fonts here have pictures for the flags of countries. Looked up when first asked: it
-    // loads a large font, which the first window should not wait for.
+    // Whether the fonts here have pictures for the flags of countries. Looked up when first asked:
+    // it loads a large font, which the first window should not wait for.
     bool flagsDrawn() const;
     // Overrides what the system says, from now on.
     void force(bool dark, bool reducedMotion);

@@ -61,7 +61,9 @@ QString symbolOf(Level level)
 
 } // namespace
 
-DoctorModel::DoctorModel(Session &session, QObject *parent) : QAbstractListModel(parent), m_session(session)
+DoctorModel::DoctorModel(Session &session, QObject *parent)
+    : QAbstractListModel(parent),
+      m_session(session)
 {
     QObject::connect(&session, &Session::changed, this, &DoctorModel::update);
     update();
@@ -70,7 +72,9 @@ DoctorModel::DoctorModel(Session &session, QObject *parent) : QAbstractListModel
 void DoctorModel::update()
 {
     Findings next = m_session.now().findings;
-    std::stable_sort(next.begin(), next.end(), [](const Finding &a, const Finding &b) { return rank(a.level) < rank(b.level); });
+    std::stable_sort(next.begin(), next.end(), [](const Finding &a, const Finding &b) {
+        return rank(a.level) < rank(b.level);
+    });
     if (next != m_findings) {
         beginResetModel();
         m_findings = std::move(next);

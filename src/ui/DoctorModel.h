@@ -7,7 +7,8 @@
 
 namespace veldmark {
 
-// What was found when this computer was looked at: one finding a row, what keeps a connect from working first.
+// What was found when this computer was looked at: one finding a row, what keeps a connect from
+// working first.
 class DoctorModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -19,7 +20,7 @@ class DoctorModel : public QAbstractListModel {
 public:
     enum Role {
         TextRole = Qt::UserRole + 1,
-        ToneRole,    // PanelModel::Tone, as a number
+        ToneRole, // PanelModel::Tone, as a number
         SymbolRole,
         LevelRole,   // the finding's level in a word, for those who don't see the symbol
         CommandRole, // what to type; empty: nothing

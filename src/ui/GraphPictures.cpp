@@ -60,13 +60,15 @@ void GraphPictures::trim()
         m_pictures.clear();
 }
 
-const QImage &GraphPictures::kept(const QString &key, QSizeF size, const std::function<void(QPainter &)> &draw)
+const QImage &GraphPictures::kept(const QString &key, QSizeF size,
+                                  const std::function<void(QPainter &)> &draw)
 {
     const auto known = m_pictures.constFind(key);
     if (known != m_pictures.constEnd())
         return *known;
     QImage image(static_cast<int>(std::ceil(size.width() * m_scale)),
-                 static_cast<int>(std::ceil(size.height() * m_scale)), QImage::Format_ARGB32_Premultiplied);
+                 static_cast<int>(std::ceil(size.height() * m_scale)),
+                 QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     if (!image.isNull()) {
         QPainter painter(&image);
@@ -77,11 +79,12 @@ const QImage &GraphPictures::kept(const QString &key, QSizeF size, const std::fu
     return *m_pictures.insert(key, image);
 }
 
-const QImage &GraphPictures::disc(double radius, double ring, const QColor &ringColor, const QColor &fill)
+const QImage &GraphPictures::disc(double radius, double ring, const QColor &ringColor,
+                                  const QColor &fill)
 {
     const double size = 2 * radius + ring + 2;
-    return kept(named("disc", {number(radius), number(ring), number(ringColor), number(fill)}), {size, size},
-                [&](QPainter &painter) {
+    return kept(named("disc", {number(radius), number(ring), number(ringColor), number(fill)}),
+                {size, size}, [&](QPainter &painter) {
                     painter.setPen(QPen(ringColor, ring));
                     painter.setBrush(fill);
                     painter.drawEllipse(QPointF(size / 2, size / 2), radius, radius);
@@ -90,38 +93,43 @@ const QImage &GraphPictures::disc(double radius, double ring, const QColor &ring
 
 const QImage &GraphPictures::symbol(const QString &name, double size, const QColor &color)
 {
-    return kept(named("symbol", {name, number(size), number(color)}), {size, size}, [&](QPainter &painter) {
-        const int pixels = painter.device()->width();
-        painter.resetTransform();
-        painter.drawImage(0, 0, Symbols::image(name, pixels, color));
-    });
+    return kept(named("symbol", {name, number(size), number(color)}), {size, size},
+                [&](QPainter &painter) {
+                    const int pixels = painter.device()->width();
+                    painter.resetTransform();
+                    painter.drawImage(0, 0, Symbols::image(name, pixels, color));
+                });
 }
 
 const QImage &GraphPictures::country(const QString &text, bool emoji, const QColor &ink)
 {
     constexpr double size = 26;
-    return kept(named(emoji ? "flag" : "letters", {text, number(ink)}), {size, size}, [&](QPainter &painter) {
-        QFont font = m_font;
-        font.setPixelSize(emoji ? 17 : 11);
-        font.setWeight(emoji ? QFont::Normal : QFont::DemiBold);
-        // A line of text has its middle elsewhere than the flag or the capitals in it: draw aside, centre what came out.
-        const auto *target = static_cast<const QImage *>(painter.device());
-        QImage aside(target->size(), QImage::Format_ARGB32_Premultiplied);
-        aside.fill(Qt::transparent);
-        QPainter drawer(&aside);
-        drawer.scale(m_scale, m_scale);
-        drawer.setFont(font);
-        drawer.setPen(ink);
-        drawer.drawText(QRectF(0, 0, size, size), Qt::AlignCenter, text);
-        drawer.end();
-        const QRect bounds = inked(aside);
-        painter.resetTransform();
-        painter.drawImage(QPoint((target->width() - bounds.width()) / 2, (target->height() - bounds.height()) / 2),
-                          aside, bounds);
-    });
+    return kept(named(emoji ? "flag" : "letters", {text, number(ink)}), {size, size},
+                [&](QPainter &painter) {
+                    QFont font = m_font;
+                    font.setPixelSize(emoji ? 17 : 11);
+                    font.setWeight(emoji ? QFont::Normal : QFont::DemiBold);
+                    // A line of text has its middle elsewhere than the flag or the capitals in it:
+                    // draw aside, centre what came out.
+                    const auto *target = static_cast<const QImage *>(painter.device());
+                    QImage aside(target->size(), QImage::Format_ARGB32_Premultiplied);
+                    aside.fill(Qt::transparent);
+                    QPainter drawer(&aside);
+                    drawer.scale(m_scale, m_scale);
+                    drawer.setFont(font);
+                    drawer.setPen(ink);
+                    drawer.drawText(QRectF(0, 0, size, size), Qt::AlignCenter, text);
+                    drawer.end();
+                    const QRect bounds = inked(aside);
+                    painter.resetTransform();
+                    painter.drawImage(QPoint((target->width() - bounds.width()) / 2,
+                                             (target->height() - bounds.height()) / 2),
+                                      aside, bounds);
+                });
 }
 
-const QImage &GraphPictures::label(const QString &text, double room, const QColor &ink, const QColor &ground)
+const QImage &GraphPictures::label(const QString &text, double room, const QColor &ink,
+                                   const QColor &ground)
 {
     const QString key = named("label", {text, number(room), number(ink), number(ground)});
     const auto known = m_pictures.constFind(key);

@@ -10,14 +10,15 @@
 
 namespace veldmark {
 
-// The small pictures that the circuit graph is put together from: discs, symbols, countries and labels.
-// Each is drawn once and kept; a graph has hundreds of nodes but few kinds of them. Sizes are in
-// points, the pictures in pixels.
+// The small pictures that the circuit graph is put together from: discs, symbols, countries and
+// labels. Each is drawn once and kept; a graph has hundreds of nodes but few kinds of them. Sizes
+// are in points, the pictures in pixels.
 class GraphPictures {
 public:
     // Pixels per point, and the font of all texts. What was drawn for others is dropped.
     void prepare(double scale, const QFont &font);
-    // Drops pictures when there are more than a large graph needs (labels of circuits that are gone).
+    // Drops pictures when there are more than a large graph needs (labels of circuits that are
+    // gone).
     void trim();
 
     // A filled circle with a ring of the given width on its edge.
@@ -25,12 +26,13 @@ public:
     const QImage &symbol(const QString &name, double size, const QColor &color);
     // A flag as text, or a country's letters: `emoji` says which.
     const QImage &country(const QString &text, bool emoji, const QColor &ink);
-    // One line of text, shortened in its middle to at most `room`, with a rim in the colour of the ground
-    // so that it can be read above whatever it stands on.
+    // One line of text, shortened in its middle to at most `room`, with a rim in the colour of the
+    // ground so that it can be read above whatever it stands on.
     const QImage &label(const QString &text, double room, const QColor &ink, const QColor &ground);
 
 private:
-    const QImage &kept(const QString &key, QSizeF size, const std::function<void(QPainter &)> &draw);
+    const QImage &kept(const QString &key, QSizeF size,
+                       const std::function<void(QPainter &)> &draw);
 
     double m_scale = 1;
     QFont m_font;

@@ -6,7 +6,8 @@
 
 namespace veldmark {
 
-// Where the log window's lines come from. Follows the files between start() and stop(). Main thread.
+// Where the log window's lines come from. Follows the files between start() and stop(). Main
+// thread.
 class LogFeed : public QObject {
     Q_OBJECT
 

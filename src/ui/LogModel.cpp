@@ -28,7 +28,9 @@ bool isSame(const TorLogLine &a, const TorLogLine &b)
 } // namespace
 
 LogModel::LogModel(LogFeed &feed, const PlatformProfile &profile, QObject *parent)
-    : QAbstractListModel(parent), m_feed(feed), m_profile(profile)
+    : QAbstractListModel(parent),
+      m_feed(feed),
+      m_profile(profile)
 {
     QObject::connect(&feed, &LogFeed::changed, this, &LogModel::update);
     update();
@@ -47,20 +49,23 @@ void LogModel::update()
     const TorLog::Snapshot &log = m_feed.snapshot();
     m_problems = TorLogFilter::problemCount(log);
     QList<TorLogLine> next = m_filter.shown(log);
-    // A log grows at its end and is cut at its beginning: find where the new list continues the old.
-    const auto start = next.isEmpty() ? m_shown.cend()
-                                      : std::find_if(m_shown.cbegin(), m_shown.cend(), [&next](const TorLogLine &line) {
-                                            return isSame(line, next.constFirst());
-                                        });
+    // A log grows at its end and is cut at its beginning: find where the new list continues the
+    // old.
+    const auto start = next.isEmpty()
+        ? m_shown.cend()
+        : std::find_if(m_shown.cbegin(), m_shown.cend(),
+                       [&next](const TorLogLine &line) { return isSame(line, next.constFirst()); });
     const auto kept = m_shown.cend() - start;
-    if (kept > 0 && kept <= next.size() && std::equal(start, m_shown.cend(), next.cbegin(), isSame)) {
+    if (kept > 0 && kept <= next.size()
+        && std::equal(start, m_shown.cend(), next.cbegin(), isSame)) {
         if (const auto cut = start - m_shown.cbegin(); cut > 0) {
             beginRemoveRows({}, 0, static_cast<int>(cut) - 1);
             m_shown.remove(0, cut);
             endRemoveRows();
         }
         if (next.size() > m_shown.size()) {
-            beginInsertRows({}, static_cast<int>(m_shown.size()), static_cast<int>(next.size()) - 1);
+            beginInsertRows({}, static_cast<int>(m_shown.size()),
+                            static_cast<int>(next.size()) - 1);
             m_shown = std::move(next);
             endInsertRows();
         }
@@ -98,7 +103,10 @@ QVariant LogModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> LogModel::roleNames() const
 {
-    return {{TimeRole, "time"}, {MessageRole, "message"}, {LevelRole, "level"}, {Qt::DisplayRole, "raw"}};
+    return {{TimeRole, "time"},
+            {MessageRole, "message"},
+            {LevelRole, "level"},
+            {Qt::DisplayRole, "raw"}};
 }
 
 void LogModel::setSearch(const QString &text)
@@ -128,7 +136,8 @@ QString LogModel::subtitle() const
         break;
     }
     const auto count = static_cast<int>(m_feed.snapshot().lines().size());
-    return (count == 1 ? tr("1 line") : tr("%1 lines").arg(count)) + QStringLiteral(" · ") + fromTheLeft(noticesPath());
+    return (count == 1 ? tr("1 line") : tr("%1 lines").arg(count)) + QStringLiteral(" · ")
+        + fromTheLeft(noticesPath());
 }
 
 QString LogModel::problemsLabel() const
@@ -142,8 +151,9 @@ QString LogModel::emptySymbol() const
         return QStringLiteral("lock");
     if (m_feed.snapshot().kind() == LogFeed::State::empty)
         return QStringLiteral("doc.text");
-    return m_filter.search.trimmed().isEmpty() ? QStringLiteral("checkmark.circle.fill")
-                                        : QStringLiteral("line.3.horizontal.decrease.circle");
+    return m_filter.search.trimmed().isEmpty()
+        ? QStringLiteral("checkmark.circle.fill")
+        : QStringLiteral("line.3.horizontal.decrease.circle");
 }
 
 QString LogModel::emptyTitle() const
@@ -152,18 +162,23 @@ QString LogModel::emptyTitle() const
         return tr("Can't read Tor's log");
     if (m_feed.snapshot().kind() == LogFeed::State::empty)
         return tr("No log yet");
-    return m_filter.search.trimmed().isEmpty() ? tr("No warnings or errors. Tor is happy.") : tr("Nothing matches");
+    return m_filter.search.trimmed().isEmpty() ? tr("No warnings or errors. Tor is happy.")
+                                               : tr("Nothing matches");
 }
 
 QString LogModel::emptyText() const
 {
     if (m_feed.snapshot().kind() == LogFeed::State::unreadable)
         return tr("The log files in %1 aren't readable by your account. Reconnect once with this version "
-                  "of Veldmark to fix their permissions.").arg(m_profile.runDirectory);
+                  "of Veldmark to fix their permissions.")
+            .arg(m_profile.runDirectory);
     if (m_feed.snapshot().kind() == LogFeed::State::empty)
-        return tr("Connect, and Tor's messages appear here as it starts. If Tor fails to start, the reason "
-                  "shows up here.");
-    return m_filter.search.trimmed().isEmpty() ? QString() : tr("No lines contain “%1”").arg(m_filter.search.trimmed());
+        return tr(
+            "Connect, and Tor's messages appear here as it starts. If Tor fails to start, the reason "
+            "shows up here.");
+    return m_filter.search.trimmed().isEmpty()
+        ? QString()
+        : tr("No lines contain “%1”").arg(m_filter.search.trimmed());
 }
 
 QString LogModel::showHelp() const
@@ -197,7 +212,8 @@ void LogModel::reveal()
     setRevealProblem({});
     const QString path = QFile::exists(noticesPath()) ? noticesPath() : m_profile.runDirectory;
     if (!QFile::exists(path)) {
-        setRevealProblem(tr("There are no log files yet: Tor makes %1 when it is first started.").arg(path));
+        setRevealProblem(
+            tr("There are no log files yet: Tor makes %1 when it is first started.").arg(path));
         return;
     }
     const QDBusConnection bus = QDBusConnection::sessionBus();
@@ -206,7 +222,8 @@ void LogModel::reveal()
         return;
     }
     QDBusMessage call = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("/org/freedesktop/FileManager1"),
+        QStringLiteral("org.freedesktop.FileManager1"),
+        QStringLiteral("/org/freedesktop/FileManager1"),
         QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("ShowItems"));
     call << QStringList{QUrl::fromLocalFile(path).toString()} << QString();
     auto *answer = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
@@ -220,7 +237,8 @@ void LogModel::reveal()
 void LogModel::openFolder()
 {
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(m_profile.runDirectory)))
-        setRevealProblem(tr("No file manager could be opened. The log files are in %1.").arg(m_profile.runDirectory));
+        setRevealProblem(tr("No file manager could be opened. The log files are in %1.")
+                             .arg(m_profile.runDirectory));
 }
 
 } // namespace veldmark

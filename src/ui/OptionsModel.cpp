@@ -23,13 +23,17 @@ QString inLines(const std::vector<int> &numbers)
         list << QString::number(number);
     }
     const QString lines = list.join(QStringLiteral(", "));
-    return u' ' + (numbers.size() == 1 ? OptionsModel::tr("(line %1)").arg(lines) : OptionsModel::tr("(lines %1)").arg(lines));
+    return u' '
+        + (numbers.size() == 1 ? OptionsModel::tr("(line %1)").arg(lines)
+                               : OptionsModel::tr("(lines %1)").arg(lines));
 }
 
 } // namespace
 
 OptionsModel::OptionsModel(Session &session, QObject *parent)
-    : QObject(parent), m_session(session), m_exits(session.exitChoices())
+    : QObject(parent),
+      m_session(session),
+      m_exits(session.exitChoices())
 {
     QObject::connect(&session, &Session::changed, this, &OptionsModel::changed);
     QObject::connect(&session, &Session::launchFailed, this, [this](const QString &reason) {
@@ -47,7 +51,8 @@ bool OptionsModel::locked() const
 bool OptionsModel::strictMode() const
 {
     const Snapshot &now = m_session.now();
-    return now.phase == Phase::connected ? now.activeMode == RoutingMode::strict : choices().strictMode;
+    return now.phase == Phase::connected ? now.activeMode == RoutingMode::strict
+                                         : choices().strictMode;
 }
 
 void OptionsModel::setStrictMode(bool on)
@@ -112,7 +117,8 @@ QString OptionsModel::exitWarning() const
 {
     return choices().exitCountry.isEmpty()
         ? QString()
-        : tr("Choosing a country means fewer exit relays, so it's slower and you're easier to single out.");
+        : tr(
+            "Choosing a country means fewer exit relays, so it's slower and you're easier to single out.");
 }
 
 QStringList OptionsModel::bridgeNames() const
@@ -123,8 +129,8 @@ QStringList OptionsModel::bridgeNames() const
 
 int OptionsModel::bridgeIndex() const
 {
-    const auto found =
-        std::find(allBridgeChoices.begin(), allBridgeChoices.end(), choices().bridgeChoice);
+    const auto found = std::find(allBridgeChoices.begin(), allBridgeChoices.end(),
+                                 choices().bridgeChoice);
     return static_cast<int>(found - allBridgeChoices.begin());
 }
 
@@ -155,8 +161,9 @@ bool OptionsModel::transportMissing() const
         const auto transport = BridgeLines::transport(line);
         if (!transport)
             continue;
-        if (*transport == u"snowflake" ? !found.snowflake
-            : *transport == u"webtunnel" ? !found.webtunnel && !found.lyrebird : !found.lyrebird)
+        if (*transport == u"snowflake"       ? !found.snowflake
+                : *transport == u"webtunnel" ? !found.webtunnel && !found.lyrebird
+                                             : !found.lyrebird)
             return true;
     }
     return false;
@@ -202,12 +209,15 @@ QString OptionsModel::bridgeWarning(const QString &text) const
     const ParsedBridgeLines parsed = BridgeLines::parse(text);
     QStringList warnings;
     if (const auto invalid = static_cast<int>(parsed.invalid.size()); invalid > 0)
-        warnings << (invalid == 1 ? tr("1 line not recognized") : tr("%1 lines not recognized").arg(invalid))
+        warnings << (invalid == 1 ? tr("1 line not recognized")
+                                  : tr("%1 lines not recognized").arg(invalid))
                 + inLines(parsed.invalidLineNumbers);
-    if (std::any_of(parsed.invalid.begin(), parsed.invalid.end(), BridgeLines::hasForbiddenCharacter))
+    if (std::any_of(parsed.invalid.begin(), parsed.invalid.end(),
+                    BridgeLines::hasForbiddenCharacter))
         warnings << tr("A bridge line can't contain #, \" or \\.");
     if (!parsed.surplusLineNumbers.empty())
-        warnings << tr("At most %1 bridges can be used").arg(BridgeLines::mostLines) + inLines(parsed.surplusLineNumbers);
+        warnings << tr("At most %1 bridges can be used").arg(BridgeLines::mostLines)
+                + inLines(parsed.surplusLineNumbers);
     return warnings.join(u'\n');
 }
 
@@ -226,7 +236,8 @@ QString OptionsModel::applicationCount() const
 
 bool OptionsModel::canLaunchBypassed() const
 {
-    return m_session.now().phase == Phase::connected && m_session.now().activeMode == RoutingMode::strict;
+    return m_session.now().phase == Phase::connected
+        && m_session.now().activeMode == RoutingMode::strict;
 }
 
 void OptionsModel::launchBypassed(const QString &path)
@@ -244,12 +255,14 @@ void OptionsModel::forgetLaunchError()
 QString OptionsModel::applicationsExplanation() const
 {
     return m_session.profile().name == QLatin1String("macos")
-        ? tr("In strict mode, these apps can connect directly instead of through Tor, using your real IP address. "
-             "Everything else stays locked. Open them with <b>Open without Tor</b> (not from the Dock) so Veldmark "
-             "can tag them. A running copy is quit and reopened.")
-        : tr("In strict mode, these apps can connect directly instead of through Tor, using your real IP address. "
-             "Everything else stays locked. Open them with <b>Open without Tor</b> (not from the desktop's menu) so "
-             "Veldmark can tag them. A running copy is quit and reopened.");
+        ? tr(
+            "In strict mode, these apps can connect directly instead of through Tor, using your real IP address. "
+            "Everything else stays locked. Open them with <b>Open without Tor</b> (not from the Dock) so Veldmark "
+            "can tag them. A running copy is quit and reopened.")
+        : tr(
+            "In strict mode, these apps can connect directly instead of through Tor, using your real IP address. "
+            "Everything else stays locked. Open them with <b>Open without Tor</b> (not from the desktop's menu) so "
+            "Veldmark can tag them. A running copy is quit and reopened.");
 }
 
 QString OptionsModel::terminalError() const

@@ -14,7 +14,8 @@ class OptionsModel : public QObject {
 
     Q_PROPERTY(bool locked READ locked NOTIFY changed)
     Q_PROPERTY(bool strictMode READ strictMode WRITE setStrictMode NOTIFY changed)
-    Q_PROPERTY(bool allowLocalNetwork READ allowLocalNetwork WRITE setAllowLocalNetwork NOTIFY changed)
+    Q_PROPERTY(
+        bool allowLocalNetwork READ allowLocalNetwork WRITE setAllowLocalNetwork NOTIFY changed)
     Q_PROPERTY(bool optimizeSpeed READ optimizeSpeed WRITE setOptimizeSpeed NOTIFY changed)
     Q_PROPERTY(bool terminalMode READ terminalMode WRITE setTerminalMode NOTIFY changed)
     Q_PROPERTY(QStringList exitNames READ exitNames CONSTANT)
@@ -41,7 +42,7 @@ public:
     // `session` must outlive the model.
     explicit OptionsModel(Session &session, QObject *parent = nullptr);
 
-    bool locked() const; // the connection's options hold until it ends
+    bool locked() const;     // the connection's options hold until it ends
     bool strictMode() const; // while connected, what the session has
     bool allowLocalNetwork() const { return choices().allowLocalNetwork; }
     bool optimizeSpeed() const { return choices().optimizeSpeed; }
@@ -55,12 +56,13 @@ public:
     int exitIndex() const;
     void setExitIndex(int index);
     QString exitUnlisted() const; // the code of a country that is chosen without being in the list
-    QString exitWarning() const; // empty: no country is chosen
+    QString exitWarning() const;  // empty: no country is chosen
 
     QStringList bridgeNames() const;
     int bridgeIndex() const;
     void setBridgeIndex(int index);
-    QString bridgeNote() const; // what the choice lacks, or where its bridges come from; may be empty
+    // what the choice lacks, or where its bridges come from; may be empty
+    QString bridgeNote() const;
     bool bridgeNoteIsWarning() const;
     bool needsDownload() const;
     bool canDownload() const { return m_session.now().canDownloadTransports; }

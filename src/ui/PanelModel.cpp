@@ -12,7 +12,10 @@ namespace veldmark {
 
 using namespace std::chrono_literals;
 
-PanelModel::PanelModel(Session &session, QObject *parent) : QObject(parent), m_session(session), m_doctor(session)
+PanelModel::PanelModel(Session &session, QObject *parent)
+    : QObject(parent),
+      m_session(session),
+      m_doctor(session)
 {
     m_stillness.setSingleShot(true);
     m_stillness.setInterval(10s);
@@ -52,8 +55,8 @@ void PanelModel::rememberExitCountry()
     if (std::exchange(m_exit, exit) != exit)
         m_exitCountry.clear();
     for (const CircuitInfo &circuit : now.circuits)
-        if (exit && !circuit.hops.empty() && circuit.onionService.isEmpty() && circuit.hops.back().ip == exit
-            && circuit.hops.back().country)
+        if (exit && !circuit.hops.empty() && circuit.onionService.isEmpty()
+            && circuit.hops.back().ip == exit && circuit.hops.back().country)
             m_exitCountry = *circuit.hops.back().country;
 }
 
@@ -70,7 +73,8 @@ bool PanelModel::lookupsLeak() const
 bool PanelModel::throughBridge() const
 {
     const Snapshot &now = m_session.now();
-    return now.phase == Phase::connected && now.activeBridge && *now.activeBridge != BridgeChoice::off;
+    return now.phase == Phase::connected && now.activeBridge
+        && *now.activeBridge != BridgeChoice::off;
 }
 
 Leak PanelModel::knownLeak() const
@@ -78,7 +82,8 @@ Leak PanelModel::knownLeak() const
     return connected() ? m_session.now().leak : Leak();
 }
 
-// Only the kill switch blocks, and only where its rules were seen: elsewhere silence is no protection.
+// Only the kill switch blocks, and only where its rules were seen: elsewhere silence is no
+// protection.
 bool PanelModel::isClosed() const
 {
     const Snapshot &now = m_session.now();
@@ -162,7 +167,8 @@ bool PanelModel::busy() const
 
 double PanelModel::progress() const
 {
-    // The session keeps Tor's last report while it is taken down, which says nothing of how far that is.
+    // The session keeps Tor's last report while it is taken down, which says nothing of how far
+    // that is.
     const Snapshot &now = m_session.now();
     return now.phase == Phase::connecting ? now.bootstrapProgress : 0;
 }
@@ -195,7 +201,8 @@ QString PanelModel::pillSymbol() const
     const Snapshot &now = m_session.now();
     if (throughBridge())
         return QStringLiteral("point.3.connected.trianglepath.dotted");
-    const bool strict = now.activeMode ? *now.activeMode == RoutingMode::strict : now.choices.strictMode;
+    const bool strict = now.activeMode ? *now.activeMode == RoutingMode::strict
+                                       : now.choices.strictMode;
     return strict ? QStringLiteral("lock.fill") : QStringLiteral("arrow.triangle.branch");
 }
 
@@ -225,8 +232,9 @@ QString PanelModel::waitingFor() const
     if (!m_still)
         return {};
     return now.bootstrapProgress > 0
-        ? tr("Tor hasn't reported progress for a while. It is still trying; a slow or blocked network "
-             "is the usual reason.")
+        ? tr(
+            "Tor hasn't reported progress for a while. It is still trying; a slow or blocked network "
+            "is the usual reason.")
         : tr("Still waiting for Tor to start, or for your approval.");
 }
 
@@ -278,11 +286,15 @@ QString PanelModel::leakHelp() const
         traffic = tr("Direct connections that skip Tor are blocked");
     else if (leak.kind == Leak::Kind::blocked)
         traffic = m_session.now().activeMode == RoutingMode::strict
-            ? tr("A direct connection that skips Tor got no answer, but the kill switch isn't known to close that path")
-            : tr("A direct connection that skips Tor got no answer, but proxy mode doesn't close that path");
+            ? tr(
+                "A direct connection that skips Tor got no answer, but the kill switch isn't known to close that path")
+            : tr(
+                "A direct connection that skips Tor got no answer, but proxy mode doesn't close that path");
     else if (leak.kind == Leak::Kind::exposed)
-        traffic = tr("Apps that ignore proxy settings show your real IP (%1). Turn on Strict mode to "
-                     "block them.").arg(leak.address);
+        traffic
+            = tr("Apps that ignore proxy settings show your real IP (%1). Turn on Strict mode to "
+                 "block them.")
+                  .arg(leak.address);
     return traffic + u'\n' + (connected() ? m_session.now().dns : DNSStatus()).text().translated();
 }
 
@@ -313,7 +325,8 @@ QString PanelModel::downloaded() const
 QString PanelModel::uploaded() const
 {
     const Snapshot &now = m_session.now();
-    return Amount::text(now.bytesWritten, Amount::unitFor(std::max(now.bytesRead, now.bytesWritten)));
+    return Amount::text(now.bytesWritten,
+                        Amount::unitFor(std::max(now.bytesRead, now.bytesWritten)));
 }
 
 QString PanelModel::optimizeText() const

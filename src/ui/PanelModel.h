@@ -10,8 +10,8 @@
 namespace veldmark {
 
 // The panel's upper half: what stands in the hero, the connection card, the banners. Texts and
-// colours by meaning, all derived from the session's snapshot. How safe the session is, Verdict alone
-// decides.
+// colours by meaning, all derived from the session's snapshot. How safe the session is, Verdict
+// alone decides.
 class PanelModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -75,7 +75,7 @@ public:
     QString powerLabel() const;
     bool powerEnabled() const;
     bool busy() const;
-    double progress() const; // 0…1; 0 unless Tor is bootstrapping
+    double progress() const;  // 0…1; 0 unless Tor is bootstrapping
     QString pillText() const; // empty: no pill
     QString pillSymbol() const;
     QString endpoint() const { return QStringLiteral("SOCKS 127.0.0.1:9050"); }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "base/Text.h"
-#include "platform/PlatformProfile.h"
 #include "platform/InstalledApplications.h"
+#include "platform/PlatformProfile.h"
 #include "ui/Snapshot.h"
 
 #include <QObject>
@@ -23,7 +23,8 @@ class Session : public QObject {
 public:
     // `profile` must outlive the session.
     explicit Session(const PlatformProfile &profile, QObject *parent = nullptr)
-        : QObject(parent), m_profile(profile)
+        : QObject(parent),
+          m_profile(profile)
     {
     }
 
@@ -44,7 +45,8 @@ public:
     virtual void findFasterCircuits() = 0;
     virtual void refreshCircuits() = 0;
     virtual void dismissError() = 0;
-    // Reads again what other programs can change: tor, the session marker, the terminal's files, the login item.
+    // Reads again what other programs can change: tor, the session marker, the terminal's files,
+    // the login item.
     virtual void lookAgain() = 0;
     virtual void lookForTransports() = 0;
     virtual void examine() = 0; // this computer: what a connect needs of it

@@ -9,7 +9,9 @@
 
 namespace veldmark {
 
-SettingsModel::SettingsModel(Session &session, QObject *parent) : QObject(parent), m_session(session)
+SettingsModel::SettingsModel(Session &session, QObject *parent)
+    : QObject(parent),
+      m_session(session)
 {
     QObject::connect(&session, &Session::changed, this, &SettingsModel::changed);
 }
@@ -72,7 +74,8 @@ QString SettingsModel::installCommand() const
 
 QUrl SettingsModel::torFolder() const
 {
-    return QUrl::fromLocalFile(QFileInfo(m_session.profile().torCandidates.constFirst()).absolutePath());
+    return QUrl::fromLocalFile(
+        QFileInfo(m_session.profile().torCandidates.constFirst()).absolutePath());
 }
 
 void SettingsModel::chooseTor(const QUrl &file)
@@ -120,12 +123,14 @@ QString SettingsModel::bundleTrust() const
 QString SettingsModel::terminalExplanation() const
 {
     if (m_session.profile().name == QLatin1String("macos"))
-        return tr("Adds one line to ~/.zshrc (and ~/.bash_profile if you have one) and an Include line at "
-                  "the top of ~/.ssh/config. Its files live in ~/.veldmark. Nothing is routed unless "
-                  "Veldmark is connected with Terminal mode on.");
-    return tr("Adds one line to ~/.bashrc (and ~/.zshrc if you use zsh) and an Include line at the top of "
-              "~/.ssh/config. Its files live in ~/.veldmark. Nothing is routed unless Veldmark is "
-              "connected with Terminal mode on.");
+        return tr(
+            "Adds one line to ~/.zshrc (and ~/.bash_profile if you have one) and an Include line at "
+            "the top of ~/.ssh/config. Its files live in ~/.veldmark. Nothing is routed unless "
+            "Veldmark is connected with Terminal mode on.");
+    return tr(
+        "Adds one line to ~/.bashrc (and ~/.zshrc if you use zsh) and an Include line at the top of "
+        "~/.ssh/config. Its files live in ~/.veldmark. Nothing is routed unless Veldmark is "
+        "connected with Terminal mode on.");
 }
 
 QString SettingsModel::terminalStatus() const
@@ -138,8 +143,9 @@ QString SettingsModel::terminalStatus() const
 
 QString SettingsModel::terminalTools() const
 {
-    return m_session.profile().name == QLatin1String("macos") ? tr("curl, git, brew, pip, ssh and more use Tor")
-                                                              : tr("curl, git, pip, ssh and more use Tor");
+    return m_session.profile().name == QLatin1String("macos")
+        ? tr("curl, git, brew, pip, ssh and more use Tor")
+        : tr("curl, git, pip, ssh and more use Tor");
 }
 
 QString SettingsModel::terminalError() const
@@ -154,14 +160,17 @@ QString SettingsModel::passwordlessError() const
 
 QString SettingsModel::credits() const
 {
-    const QString start = tr("Veldmark is free software and independent of the Tor Project. It contains no Tor: it runs "
-                             "the tor that is installed here, and where bridges are used lyrebird, snowflake-client or "
-                             "webtunnel-client.");
+    const QString start = tr(
+        "Veldmark is free software and independent of the Tor Project. It contains no Tor: it runs "
+        "the tor that is installed here, and where bridges are used lyrebird, snowflake-client or "
+        "webtunnel-client.");
     const QString system = m_session.profile().name == QLatin1String("macos")
-        ? tr("It sets up the network with macOS's own programs, asks for the administrator with sudo, and checks "
-             "downloads with GnuPG where that is installed.")
-        : tr("It sets up the network with nftables, resolvectl and gsettings, asks for the administrator with polkit or "
-             "sudo, takes ssh through Tor with a netcat, and checks downloads with GnuPG where that is installed.");
+        ? tr(
+            "It sets up the network with macOS's own programs, asks for the administrator with sudo, and checks "
+            "downloads with GnuPG where that is installed.")
+        : tr(
+            "It sets up the network with nftables, resolvectl and gsettings, asks for the administrator with polkit or "
+            "sudo, takes ssh through Tor with a netcat, and checks downloads with GnuPG where that is installed.");
     return start + u' ' + system;
 }
 

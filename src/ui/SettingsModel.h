@@ -66,7 +66,8 @@ public:
     QString torStatus() const; // "Found", "Missing" (a custom one), "Not found" (anywhere)
     QString torPlace() const;
     bool torLocked() const; // a connection holds on to the tor that it has
-    QString installCommand() const; // what `torPlace` tells to run; empty when it tells something else
+    // what `torPlace` tells to run; empty when it tells something else
+    QString installCommand() const;
     bool torCustom() const { return !now().choices.customTorPath.isEmpty(); }
     QUrl torFolder() const; // where a chooser starts
     QString onComputer() const;

@@ -9,8 +9,8 @@ namespace veldmark {
 void Side::itemChange(ItemChange change, const ItemChangeData &data)
 {
     if (change == ItemChildAddedChange) {
-        for (const auto changed : {&QQuickItem::widthChanged, &QQuickItem::heightChanged,
-                                   &QQuickItem::visibleChanged})
+        for (const auto changed :
+             {&QQuickItem::widthChanged, &QQuickItem::heightChanged, &QQuickItem::visibleChanged})
             QObject::connect(data.item, changed, this, [this] { polish(); });
         polish();
     } else if (change == ItemChildRemovedChange) {

@@ -4,15 +4,15 @@
 
 namespace veldmark {
 
-// The controls at the end of a row: its visible children in the direction of reading, centred, as wide and
-// high as they want to be. It follows every change of their sizes.
+// The controls at the end of a row: its visible children in the direction of reading, centred, as
+// wide and high as they want to be. It follows every change of their sizes.
 class Side : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(double spacing MEMBER m_spacing CONSTANT)
 
 public:
-    explicit Side(QQuickItem *parent = nullptr) : QQuickItem(parent) {}
+    explicit Side(QQuickItem *parent = nullptr) : QQuickItem(parent) { }
 
 protected:
     void itemChange(ItemChange change, const ItemChangeData &data) override;

@@ -44,7 +44,8 @@ struct Choices {
 struct Leak {
     enum class Kind { exposed, notTested, checking, blocked, inconclusive };
     Kind kind = Kind::notTested;
-    QString address; // of `exposed`, and of `checking` after it: the user's own, as the world saw it
+    // of `exposed`, and of `checking` after it: the user's own, as the world saw it
+    QString address;
 };
 
 // Everything that views show, at one moment. A plain value; absent means not known.
@@ -57,7 +58,7 @@ struct Snapshot {
     double bootstrapProgress = 0; // 0…1
     Text statusDetail = Text::tr("Your traffic is not going through Tor");
     std::optional<Text> bootstrapProblem; // what keeps Tor from connecting
-    bool isAnothers = false; // the session is another process's
+    bool isAnothers = false;              // the session is another process's
     bool hasTorStopped = false; // Tor has ended under the session that a stale phase shows
     bool canCancel = false;
     std::optional<Text> errorMessage;
@@ -86,26 +87,28 @@ struct Snapshot {
     bool terminalInstalled = false; // the shell reads the integration's files
     bool terminalForSsh = false;    // and ssh does
 
-    std::optional<QString> torPath; // absent: there is no tor to run
-    bool markerPresent = false;     // the network is set up for Tor
-    Findings findings;              // of the last look at this computer
-    bool isExamining = false;       // it is being looked at
+    std::optional<QString> torPath;  // absent: there is no tor to run
+    bool markerPresent = false;      // the network is set up for Tor
+    Findings findings;               // of the last look at this computer
+    bool isExamining = false;        // it is being looked at
     std::optional<bool> openAtLogin; // absent: this build cannot change it
 
     bool isExposed() const
     {
-        return leak.kind == Leak::Kind::exposed || (leak.kind == Leak::Kind::checking && !leak.address.isEmpty());
+        return leak.kind == Leak::Kind::exposed
+            || (leak.kind == Leak::Kind::checking && !leak.address.isEmpty());
     }
     Verdict verdict() const
     {
-        return Verdict::of({.phase = phase,
-                            .mode = activeMode,
-                            .killSwitch = killSwitch ? std::optional(killSwitch->state) : std::nullopt,
-                            .isExposed = isExposed(),
-                            .isDNSLeaking = dns.isLeak(),
-                            .torVerified = torVerified,
-                            .detail = statusDetail,
-                            .stall = stall});
+        return Verdict::of(
+            {.phase = phase,
+             .mode = activeMode,
+             .killSwitch = killSwitch ? std::optional(killSwitch->state) : std::nullopt,
+             .isExposed = isExposed(),
+             .isDNSLeaking = dns.isLeak(),
+             .torVerified = torVerified,
+             .detail = statusDetail,
+             .stall = stall});
     }
 };
 

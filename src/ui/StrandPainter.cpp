@@ -8,9 +8,9 @@ namespace veldmark {
 
 namespace {
 
-// The curve is the cubic through (0, 0) and (1, 1) whose handles lie half-way: x(t) = 1.5 t - 1.5 t² + t³,
-// rise(t) = 3 t² - 2 t³, bulge(t) = 3 t (1 - t). Every strand is that curve stretched, so it is solved once
-// for evenly spaced x and kept, with its slopes.
+// The curve is the cubic through (0, 0) and (1, 1) whose handles lie half-way: x(t) = 1.5 t - 1.5
+// t² + t³, rise(t) = 3 t² - 2 t³, bulge(t) = 3 t (1 - t). Every strand is that curve stretched, so
+// it is solved once for evenly spaced x and kept, with its slopes.
 struct Shape {
     static constexpr int steps = 256;
     struct Point {
@@ -26,8 +26,8 @@ struct Shape {
             for (int round = 0; round < 8; ++round) // Newton; x(t) has a slope of at least 0.75
                 t -= (t * (1.5 + t * (t - 1.5)) - x) / (1.5 + t * (3 * t - 3));
             const double speed = 1.5 + t * (3 * t - 3);
-            points[static_cast<size_t>(i)] = {t * t * (3 - 2 * t), 3 * t * (1 - t), 6 * t * (1 - t) / speed,
-                                              (3 - 6 * t) / speed};
+            points[static_cast<size_t>(i)] = {t * t * (3 - 2 * t), 3 * t * (1 - t),
+                                              6 * t * (1 - t) / speed, (3 - 6 * t) / speed};
         }
     }
 };
@@ -51,11 +51,11 @@ double coverage(double half, double distance)
 } // namespace
 
 StrandPainter::StrandPainter(QImage &canvas, double scale)
-    : m_bits(canvas.bits())
-    , m_stride(canvas.bytesPerLine())
-    , m_width(canvas.width())
-    , m_height(canvas.height())
-    , m_scale(scale)
+    : m_bits(canvas.bits()),
+      m_stride(canvas.bytesPerLine()),
+      m_width(canvas.width()),
+      m_height(canvas.height()),
+      m_scale(scale)
 {
 }
 
@@ -84,7 +84,8 @@ void StrandPainter::draw(const Strand &strand)
         const auto &point = shape.points[static_cast<size_t>(std::lround(along * Shape::steps))];
         // Between the kept points the curve is its tangent.
         const double offset = along - std::round(along * Shape::steps) / Shape::steps;
-        const double slope = rise * point.riseSlope + bulge * point.bulgeSlope; // per length of the strand
+        // per length of the strand
+        const double slope = rise * point.riseSlope + bulge * point.bulgeSlope;
         const double y = top + rise * point.rise + bulge * point.bulge + slope * offset;
         const double steepness = slope / length;
         const double cosine = 1 / std::sqrt(1 + steepness * steepness);
@@ -97,7 +98,8 @@ void StrandPainter::draw(const Strand &strand)
             const double distance = std::abs(row + 0.5 - y) * cosine;
             quint32 value = *pixel;
             if (hasEdge)
-                value = mixed(value, edgeColor, static_cast<quint32>(edgeOpacity * coverage(outer, distance)));
+                value = mixed(value, edgeColor,
+                              static_cast<quint32>(edgeOpacity * coverage(outer, distance)));
             *pixel = mixed(value, color, static_cast<quint32>(opacity * coverage(half, distance)));
         }
     }

@@ -12,21 +12,23 @@ struct Strand {
     QPointF to;       // to the right of `from`
     double bulge = 0; // how far the curve's handles are moved down; the middle follows by 3/4 of it
     double width = 1;
-    QColor color; // its alpha counts
+    QColor color;    // its alpha counts
     double edge = 0; // width of the rim on either side; 0 = none
     QColor edgeColor;
 };
 
-// Draws strands straight into a picture's pixels, with smooth edges. A strand runs from left to right
-// and meets each column of pixels once, so that its place, slope and coverage there can be computed
-// directly: many times faster than stroking a path, which is what a graph of hundreds of curves needs.
+// Draws strands straight into a picture's pixels, with smooth edges. A strand runs from left to
+// right and meets each column of pixels once, so that its place, slope and coverage there can be
+// computed directly: many times faster than stroking a path, which is what a graph of hundreds of
+// curves needs.
 class StrandPainter {
 public:
     // `canvas` must outlive the painter and be Format_RGB32 or Format_ARGB32_Premultiplied; `scale`
     // is its pixels per point.
     StrandPainter(QImage &canvas, double scale);
 
-    // What lies outside of the canvas is left out; a strand that does not run to the right draws nothing.
+    // What lies outside of the canvas is left out; a strand that does not run to the right draws
+    // nothing.
     void draw(const Strand &strand);
 
 private:

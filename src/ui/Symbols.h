@@ -19,7 +19,7 @@ bool exists(const QString &name);
 // "image://symbol/NAME/#aarrggbb" for QML; the source size is the size in pixels.
 class SymbolProvider final : public QQuickImageProvider {
 public:
-    SymbolProvider() : QQuickImageProvider(QQuickImageProvider::Image) {}
+    SymbolProvider() : QQuickImageProvider(QQuickImageProvider::Image) { }
     QImage requestImage(const QString &id, QSize *size, const QSize &requestedSize) override;
 };
 

@@ -48,7 +48,8 @@ void TrafficPlot::paint(QPainter *painter)
         bool started = false; // a path with one point counts as empty
         for (const auto &sample : samples) {
             const double age = Seconds(last - sample.at) / Seconds(TrafficHistory::span);
-            const QPointF point(w * (1 - age), bottom - (bottom - lineWidth) * (sample.*rate / peak));
+            const QPointF point(w * (1 - age),
+                                bottom - (bottom - lineWidth) * (sample.*rate / peak));
             std::exchange(started, true) ? path.lineTo(point) : path.moveTo(point);
         }
         return path;
@@ -62,7 +63,8 @@ void TrafficPlot::paint(QPainter *painter)
     QColor fill = m_downColor;
     fill.setAlphaF(0.18F);
     painter->fillPath(area, fill);
-    painter->strokePath(down, QPen(m_downColor, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->strokePath(down,
+                        QPen(m_downColor, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter->strokePath(curve(&TrafficHistory::Sample::up),
                         QPen(m_upColor, lineWidth, Qt::DashLine, Qt::RoundCap, Qt::RoundJoin));
 }

@@ -13,7 +13,8 @@ namespace veldmark {
 class TrafficPlot : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(veldmark::TrafficHistory *history READ history WRITE setHistory NOTIFY historyChanged)
+    Q_PROPERTY(
+        veldmark::TrafficHistory *history READ history WRITE setHistory NOTIFY historyChanged)
     Q_PROPERTY(QColor downColor MEMBER m_downColor NOTIFY colorsChanged)
     Q_PROPERTY(QColor upColor MEMBER m_upColor NOTIFY colorsChanged)
     Q_PROPERTY(QColor gridColor MEMBER m_gridColor NOTIFY colorsChanged)

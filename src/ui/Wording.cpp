@@ -6,7 +6,8 @@ namespace veldmark {
 
 QString fromTheLeft(const QString &words)
 {
-    return QGuiApplication::isRightToLeft() ? QChar(0x2066) + words + QChar(0x2069) : words; // the two marks of an isolate
+    // the two marks of an isolate
+    return QGuiApplication::isRightToLeft() ? QChar(0x2066) + words + QChar(0x2069) : words;
 }
 
 QString shownName(BridgeChoice choice)
@@ -16,7 +17,8 @@ QString shownName(BridgeChoice choice)
 
 bool isCommand(const QString &installHint)
 {
-    return installHint.contains(QLatin1String("install ")) || installHint.contains(QLatin1String("pacman "));
+    return installHint.contains(QLatin1String("install "))
+        || installHint.contains(QLatin1String("pacman "));
 }
 
 QString shownHint(const QString &installHint)

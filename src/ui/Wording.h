@@ -9,8 +9,12 @@
 namespace veldmark {
 
 // In the user's language; empty without a text.
-inline QString shown(const std::optional<Text> &text) { return text ? text->translated() : QString(); }
-// A path or a command that stays in one piece, read from the left, where the words around it are read from the right.
+inline QString shown(const std::optional<Text> &text)
+{
+    return text ? text->translated() : QString();
+}
+// A path or a command that stays in one piece, read from the left, where the words around it are
+// read from the right.
 QString fromTheLeft(const QString &words);
 // The name of a bridge kind as the panel writes it: "obfs4", "Snowflake", "meek", "Custom".
 QString shownName(BridgeChoice choice);

@@ -7,7 +7,7 @@ import subprocess
 import tarfile
 import tempfile
 
-JANUARY, FEBRUARY = "20260101T000000", "20260201T000000"   # when something is signed
+JANUARY, FEBRUARY = "20260101T000000", "20260201T000000"  # when something is signed
 
 
 class Signer:
@@ -27,8 +27,25 @@ class Signer:
         shutil.rmtree(self.home, ignore_errors=True)
 
     def gpg(self, *words, stdin=b"", now="20250101T000000"):
-        done = subprocess.run(["gpg", "--homedir", self.home, "--batch", "--quiet", "--passphrase", "", "--pinentry-mode", "loopback",
-                               "--faked-system-time", now + "!", *words], input=stdin, capture_output=True, check=False)
+        done = subprocess.run(
+            [
+                "gpg",
+                "--homedir",
+                self.home,
+                "--batch",
+                "--quiet",
+                "--passphrase",
+                "",
+                "--pinentry-mode",
+                "loopback",
+                "--faked-system-time",
+                now + "!",
+                *words,
+            ],
+            input=stdin,
+            capture_output=True,
+            check=False,
+        )
         if done.returncode:
             raise AssertionError(done.stderr)
         return done.stdout
@@ -49,16 +66,16 @@ def packets(key):
     found, at = [], 0
     while at < len(key):
         tag = key[at]
-        assert tag & 0xc0 == 0x80 and tag & 3 < 2, tag
+        assert tag & 0xC0 == 0x80 and tag & 3 < 2, tag
         head = 2 + (tag & 3)
-        size = int.from_bytes(key[at + 1:at + head], "big")
-        found.append(((tag >> 2) & 15, key[at:at + head + size]))
+        size = int.from_bytes(key[at + 1 : at + head], "big")
+        found.append(((tag >> 2) & 15, key[at : at + head + size]))
         at += head + size
     return found
 
 
 def transport(mark):
-    return f"#!/bin/sh\n# {mark}\nexec /usr/bin/obfs4proxy \"$@\"\n".encode()
+    return f'#!/bin/sh\n# {mark}\nexec /usr/bin/obfs4proxy "$@"\n'.encode()
 
 
 def member(name, content=b"", kind=tarfile.REGTYPE, link=""):

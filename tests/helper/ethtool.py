@@ -21,7 +21,7 @@ def ask(device, request):
 def feature_names(device):
     number = struct.unpack_from("I", ask(device, struct.pack("IIQI", GSSET_INFO, 0, 1 << ETH_SS_FEATURES, 0)), 16)[0]
     text = ask(device, struct.pack("III", GSTRINGS, ETH_SS_FEATURES, number) + bytes(32 * number))[12:]
-    return [text[i * 32:(i + 1) * 32].split(b"\0")[0].decode() for i in range(number)]
+    return [text[i * 32 : (i + 1) * 32].split(b"\0")[0].decode() for i in range(number)]
 
 
 def main():

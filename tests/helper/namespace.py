@@ -20,9 +20,9 @@ PARTS = os.path.join(HERE, "..", "..", "resources", "helper")
 HASH = "16:" + "0123456789ABCDEF" * 3 + "0123456789"
 TOR = "/usr/bin/tor"
 USER_UID = 4242
-OTHER_UID = 4243   # bob's
+OTHER_UID = 4243  # bob's
 DNS_PORT = 293
-TOR_GROUP = "/sys/fs/cgroup/veldmark/tor"   # to be in it and Tor's account is what the rules know Tor by
+TOR_GROUP = "/sys/fs/cgroup/veldmark/tor"  # to be in it and Tor's account is what the rules know Tor by
 # What a program begins with that stands in for Tor at its port for look-ups. It is started with group=TOR_GROUP.
 AS_TOR = ("setpriv", "--reuid=_veldmark", "--clear-groups", "--inh-caps=+net_bind_service", "--ambient-caps=+net_bind_service")
 INSTALLED = "/usr/local/libexec/veldmark/veldmark-helper.sh"
@@ -60,15 +60,16 @@ echo 'bob:*:19000:0:99999:7:::' >>/etc/shadow
 install -d -o %(other)s -g %(other)s -m 0700 /home/bob
 install -d -o %(uid)s -g %(uid)s -m 0700 /home/alice /run/user/%(uid)s
 mkdir -p /run/sudo
-""" % {"uid": USER_UID, "other": OTHER_UID}
+""" % {
+    "uid": USER_UID,
+    "other": OTHER_UID,
+}
 
 
 def require_namespaces():
     """Ends the test program with status 77 where it cannot run."""
     if os.geteuid() == 0:
-        probe = subprocess.run(
-            ["unshare", "--net", "--mount", "--pid", "--fork", "true"], capture_output=True, check=False
-        )
+        probe = subprocess.run(["unshare", "--net", "--mount", "--pid", "--fork", "true"], capture_output=True, check=False)
         if probe.returncode == 0:
             return
     print("Network namespaces need root and a system that permits them: run this test with sudo.")
@@ -118,17 +119,39 @@ class Machine:
     """Use with `with`. run() and start() execute in it as root, or as another user by their `uid`."""
 
     SYSTEM = "linux"
-    SETUP = SETUP   # what makes it, a script that runs in the new namespaces
+    SETUP = SETUP  # what makes it, a script that runs in the new namespaces
 
     def __init__(self):
         self.helper = helper_path(self.SYSTEM)
         self.group = make_control_group()
-        self.sweeper = subprocess.Popen(["/usr/bin/python3", "-I", "-c", SWEEPER, self.group], stdin=subprocess.PIPE, start_new_session=True,
-                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.sweeper = subprocess.Popen(
+            ["/usr/bin/python3", "-I", "-c", SWEEPER, self.group],
+            stdin=subprocess.PIPE,
+            start_new_session=True,
+            stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL,
+        )
         self.init = subprocess.Popen(
-            [*self.in_group(), "setpriv", "--pdeathsig", "KILL",   # ends with the test, however that ends
-             "unshare", "--cgroup", "--net", "--mount", "--propagation", "private", "--pid", "--fork", "--kill-child",
-             "/bin/bash", "-c", self.SETUP + 'exec /usr/bin/python3 -c "$1"', "setup", INIT],
+            [
+                *self.in_group(),
+                "setpriv",
+                "--pdeathsig",
+                "KILL",  # ends with the test, however that ends
+                "unshare",
+                "--cgroup",
+                "--net",
+                "--mount",
+                "--propagation",
+                "private",
+                "--pid",
+                "--fork",
+                "--kill-child",
+                "/bin/bash",
+                "-c",
+                self.SETUP + 'exec /usr/bin/python3 -c "$1"',
+                "setup",
+                INIT,
+            ],
             stdout=subprocess.PIPE,
         )
         if self.init.stdout.read(5) != b"ready":
@@ -145,7 +168,7 @@ class Machine:
         self.close()
 
     def close(self):
-        self.init.kill()   # its child, the first process of the machine, dies with it
+        self.init.kill()  # its child, the first process of the machine, dies with it
         self.init.wait()
         self.sweeper.communicate()
         if self.sweeper.returncode != 0:
@@ -166,8 +189,14 @@ class Machine:
 
     def run(self, *words, uid=0, group=None, check=True, stdin=None, env=None, timeout=60):
         done = subprocess.run(
-            self.command(words, uid, **({"group": group} if group else {})), capture_output=True, text=True, input=stdin, check=False, timeout=timeout,
-            env=env if env is not None else {"PATH": os.environ["PATH"]}, errors="surrogateescape",
+            self.command(words, uid, **({"group": group} if group else {})),
+            capture_output=True,
+            text=True,
+            input=stdin,
+            check=False,
+            timeout=timeout,
+            env=env if env is not None else {"PATH": os.environ["PATH"]},
+            errors="surrogateescape",
             **({"stdin": subprocess.DEVNULL} if stdin is None else {}),
         )
         if check and done.returncode != 0:
@@ -198,13 +227,12 @@ class Machine:
 
     def approve(self, path, role="tor", **options):
         """Approves a program as the prompt does that names it."""
-        read = "import hashlib, sys; print(hashlib.sha256(open(sys.argv[1], 'rb').read()).hexdigest())"   # a Mac has no sha256sum
+        read = "import hashlib, sys; print(hashlib.sha256(open(sys.argv[1], 'rb').read()).hexdigest())"  # a Mac has no sha256sum
         digest = self.run("/usr/bin/python3", "-c", read, path).stdout.strip()
         return self.help("approve", "--program", path, "--as", role, "--sha256", digest, **options)
 
     def connect(self, strict=1, lan=0, more=(), **options):
-        return self.help("connect", "--tor", TOR, "--hash", HASH, "--strict", str(strict), "--lan", str(lan), *more,
-                         **options)
+        return self.help("connect", "--tor", TOR, "--hash", HASH, "--strict", str(strict), "--lan", str(lan), *more, **options)
 
     def ready_account(self):
         """Makes Tor's account, so that a snapshot before a first connect holds it."""
@@ -216,20 +244,27 @@ class Machine:
     def give_ethtool(self):
         """A stand-in, where there is none."""
         if not self.shell("command -v ethtool || true"):
-            self.shell("mkdir -p /mnt/sbin/upper /mnt/sbin/work; mount -t overlay -o lowerdir=/usr/sbin,upperdir=/mnt/sbin/upper,workdir=/mnt/sbin/work private /usr/sbin;"
-                       'install -m 0755 "$1" /usr/sbin/ethtool', os.path.join(HERE, "ethtool.py"))
+            self.shell(
+                "mkdir -p /mnt/sbin/upper /mnt/sbin/work; mount -t overlay -o lowerdir=/usr/sbin,upperdir=/mnt/sbin/upper,workdir=/mnt/sbin/work private /usr/sbin;"
+                'install -m 0755 "$1" /usr/sbin/ethtool',
+                os.path.join(HERE, "ethtool.py"),
+            )
 
     def tor_pids(self):
         return self.shell("pgrep -u _veldmark || true").split()
 
     def await_watcher(self):
         """The helper starts it and does not wait until it listens."""
-        self.shell("for kind in tables chains rules; do until pgrep -xf \"nft monitor $kind\" >/dev/null; do sleep 0.01; done; done")
+        self.shell('for kind in tables chains rules; do until pgrep -xf "nft monitor $kind" >/dev/null; do sleep 0.01; done; done')
 
     def watchers(self):
         """Their process ids. What one is just starting bears its name as well, in its session."""
         lines = [line.split(None, 2) for line in self.shell("ps -eo pid=,sid=,args=").splitlines()]
-        return [int(pid) for pid, session, words in lines if pid == session and words.startswith("/bin/bash -p -- ") and words.endswith("/watcher.sh")]
+        return [
+            int(pid)
+            for pid, session, words in lines
+            if pid == session and words.startswith("/bin/bash -p -- ") and words.endswith("/watcher.sh")
+        ]
 
     def end_watcher(self):
         """As a restart of the computer ends it."""
@@ -238,6 +273,7 @@ class Machine:
     def processes(self):
         """The command lines of what runs in the machine, sorted; not the dead that nobody has waited for, nor the
         watcher's looks at the rules and ports, which come and go."""
+
         def words(pid):
             with open(f"/proc/{pid}/cmdline", "rb") as file:
                 return file.read().replace(b"\0", b" ").decode(errors="replace")
@@ -255,7 +291,21 @@ class Machine:
                 if os.readlink(f"/proc/{pid}/ns/net") != own:
                     continue
                 line = words(pid)
-                if line and not is_look(pid, line) and not line.startswith(("nft -s -t list table ", "unshare --mount --propagation private sh -c mount ", "sh -c mount -t tmpfs none /sys/fs/cgroup ", "setpriv --pdeathsig KILL unshare ", "unshare --mount --propagation private sh -c [ ", "sh -c [ \"$PPID\" ", "flock -w 10 7 ")):
+                if (
+                    line
+                    and not is_look(pid, line)
+                    and not line.startswith(
+                        (
+                            "nft -s -t list table ",
+                            "unshare --mount --propagation private sh -c mount ",
+                            "sh -c mount -t tmpfs none /sys/fs/cgroup ",
+                            "setpriv --pdeathsig KILL unshare ",
+                            "unshare --mount --propagation private sh -c [ ",
+                            'sh -c [ "$PPID" ',
+                            "flock -w 10 7 ",
+                        )
+                    )
+                ):
                     lines.append(line.replace("\n", " ") + "\n")
             except OSError:
                 pass
@@ -263,7 +313,11 @@ class Machine:
 
     def snapshot(self):
         """What a session may change, as text: rules, resolver, mounts, processes, ports and the user's files."""
-        return "# processes\n" + "".join(self.processes()) + self.shell(r"""
+        return (
+            "# processes\n"
+            + "".join(self.processes())
+            + self.shell(
+                r"""
             echo "# rules";     nft list ruleset
             echo "# resolver";  stat -L -c '%F %a %u %g %s' /etc/resolv.conf; cat /etc/resolv.conf; readlink /etc/resolv.conf
             echo "# mounts";    cut -d' ' -f 4- /proc/self/mountinfo | sort
@@ -273,22 +327,39 @@ class Machine:
             echo "# etc";       find /etc /usr/local -newer /run/user -type f ! -path /etc/resolv.conf -exec md5sum {} + 2>/dev/null | sort -k2
             echo "# home";      find /home -printf '%p %y %m %U %l\n' | sort; find /home -type f -exec md5sum {} + | sort -k2
             echo "# session";   find /var/lib/veldmark/state /var/lib/veldmark/journal -mindepth 1 2>/dev/null | sort || true
-        """)
+        """
+            )
+        )
 
 
 class Peer:
     """Another network namespace, at the other end of a link of the machine's: device `near` there, `far` here."""
 
     def __init__(self, machine, near="veth0", far="veth1"):
-        self.init = subprocess.Popen(
-            ["unshare", "--net", "/usr/bin/python3", "-c", INIT], stdout=subprocess.PIPE
-        )
+        self.init = subprocess.Popen(["unshare", "--net", "/usr/bin/python3", "-c", INIT], stdout=subprocess.PIPE)
         if self.init.stdout.read(5) != b"ready":
             raise RuntimeError("the peer could not be set up")
         self.init.stdout.close()
         subprocess.run(
-            ["nsenter", "--target", str(machine.pid), "--net", "ip", "link", "add", near, "type", "veth",
-             "peer", "name", far, "netns", str(self.init.pid)], check=True)
+            [
+                "nsenter",
+                "--target",
+                str(machine.pid),
+                "--net",
+                "ip",
+                "link",
+                "add",
+                near,
+                "type",
+                "veth",
+                "peer",
+                "name",
+                far,
+                "netns",
+                str(self.init.pid),
+            ],
+            check=True,
+        )
 
     def command(self, words):
         return ["nsenter", "--target", str(self.init.pid), "--net", *words]

@@ -58,7 +58,7 @@ PROBES = {
 
 # Each ends with the call that sends it: nothing is left open, and no connection comes about.
 FLOOD = ("https", "tcp6", "udp", "udp6", "quic", "dns", "dns6", "ntp", "ping", "bound-udp", "lan-udp")
-FLOOD_PAUSE = 0.005   # seconds between two rounds
+FLOOD_PAUSE = 0.005  # seconds between two rounds
 
 
 def is6(address):
@@ -96,7 +96,7 @@ def send():
         try:
             send_probe(kind, address, port)
         except OSError:
-            pass   # refused on the spot; whether it got out is for the listener to say
+            pass  # refused on the spot; whether it got out is for the listener to say
 
 
 def become(uid, group):
@@ -111,7 +111,7 @@ def become(uid, group):
 
 def serve():
     """A process of its own for each, which costs a twentieth of an interpreter's start."""
-    target_of(SENTINEL, 0)   # loads what makes an address of a text
+    target_of(SENTINEL, 0)  # loads what makes an address of a text
     print("ready", flush=True)
     for line in sys.stdin:
         uid, group, what = line.split()
@@ -148,7 +148,7 @@ def flood():
                 try:
                     send_probe(*PROBES[name])
                 except OSError:
-                    pass   # refused on the spot
+                    pass  # refused on the spot
         if word:
             print(word, flush=True)
 
@@ -167,7 +167,7 @@ def seen(packet):
     protocol = struct.unpack("!H", packet[12:14])[0]
     body = packet[14:]
     if protocol == 0x0800:
-        number, payload = body[9], body[(body[0] & 15) * 4:]
+        number, payload = body[9], body[(body[0] & 15) * 4 :]
         address = socket.inet_ntop(socket.AF_INET, body[16:20])
     elif protocol == 0x86DD:
         number, payload = body[6], body[40:]
@@ -191,12 +191,12 @@ def seen(packet):
 
 def listen():
     with socket.socket(socket.AF_PACKET, socket.SOCK_RAW, socket.htons(3)) as wire:
-        wire.setsockopt(socket.SOL_SOCKET, 33, 64 << 20)   # SO_RCVBUFFORCE
+        wire.setsockopt(socket.SOL_SOCKET, 33, 64 << 20)  # SO_RCVBUFFORCE
         wire.bind(("veth1", 0))
         print("ready", flush=True)
         while True:
             lines = ""
-            for turn in range(100):   # what is there already is told at once with the first
+            for turn in range(100):  # what is there already is told at once with the first
                 try:
                     packet, about = wire.recvfrom(65535, socket.MSG_DONTWAIT if turn else 0)
                 except BlockingIOError:
@@ -214,7 +214,7 @@ def hold():
         dgram.send(b"probe")
         print("ready", flush=True)
         for _ in sys.stdin:
-            for old in stream, dgram, dgram:   # the first of the two may only report the answer to the one before
+            for old in stream, dgram, dgram:  # the first of the two may only report the answer to the one before
                 try:
                     old.send(b"more")
                 except OSError:

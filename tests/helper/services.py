@@ -13,9 +13,13 @@ import sys
 from namespace import USER_UID
 
 RUNTIME = f"/run/user/{USER_UID}"
-SESSION = {"PATH": os.environ["PATH"], "PKEXEC_UID": str(USER_UID)}   # of a helper that this user's prompt has started
-DESKTOP = {"PATH": os.environ["PATH"], "HOME": "/home/alice", "XDG_RUNTIME_DIR": RUNTIME,
-           "DBUS_SESSION_BUS_ADDRESS": f"unix:path={RUNTIME}/bus"}
+SESSION = {"PATH": os.environ["PATH"], "PKEXEC_UID": str(USER_UID)}  # of a helper that this user's prompt has started
+DESKTOP = {
+    "PATH": os.environ["PATH"],
+    "HOME": "/home/alice",
+    "XDG_RUNTIME_DIR": RUNTIME,
+    "DBUS_SESSION_BUS_ADDRESS": f"unix:path={RUNTIME}/bus",
+}
 
 ROOT = os.environ.get("VELDMARK_RESOLVED", "/")
 DAEMON = os.path.join(ROOT, "lib/systemd/systemd-resolved")
@@ -32,7 +36,9 @@ def start_session_bus(machine):
 
 def gnome_settings(machine):
     """What every program sees, and what is set."""
-    return as_user(machine, "gsettings list-recursively org.gnome.system.proxy | sort"), as_user(machine, "dconf dump /system/proxy/")
+    return as_user(machine, "gsettings list-recursively org.gnome.system.proxy | sort"), as_user(
+        machine, "dconf dump /system/proxy/"
+    )
 
 
 def require_resolved():
@@ -44,14 +50,18 @@ def require_resolved():
 
 def start_resolved(machine):
     """With two links that have an address each, w0 and w1; the system's resolver file is the daemon's."""
-    machine.shell("""
+    machine.shell(
+        """
         mount -t overlay -o "lowerdir=$1/usr/bin:/usr/bin" private /usr/bin
         grep -q ^systemd-resolve: /etc/passwd || { echo 'systemd-resolve:x:990:990::/:/usr/sbin/nologin' >>/etc/passwd; echo 'systemd-resolve:x:990:' >>/etc/group; }
         mkdir -p /run/dbus /run/systemd/resolve /etc/dbus-1/system.d; chown systemd-resolve:systemd-resolve /run/systemd/resolve
         cp "$2" /etc/dbus-1/system.d/; dbus-daemon --system --fork
         for n in 0 1; do ip link add w$n type veth peer name p$n; ip link set w$n up; ip link set p$n up; ip addr add 192.0.2.1$n/24 dev w$n; done
         ln -sf /run/systemd/resolve/stub-resolv.conf /etc/resolv.conf
-    """, ROOT.rstrip("/") or "", POLICY)
+    """,
+        ROOT.rstrip("/") or "",
+        POLICY,
+    )
     daemon = machine.start(DAEMON, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     machine.shell("until resolvectl dns >/dev/null 2>&1 && [ -s /etc/resolv.conf ]; do :; done")
     return daemon
@@ -59,18 +69,25 @@ def start_resolved(machine):
 
 def add_global_servers(machine, servers, more=""):
     """In the daemon's configuration, with a systemctl that can start it anew; after start_resolved() and add_systemctl()."""
-    machine.shell(r"""
+    machine.shell(
+        r"""
         cd /run/units; unit=systemd-resolved.service
         printf '#!/bin/sh\nexec %s\n' "$1" >$unit; printf '#!/bin/sh\nresolvectl dns >/dev/null 2>&1\n' >$unit.ready; chmod 755 $unit $unit.ready
         [ -e $unit.pid ] || pgrep -x systemd-resolve >$unit.pid
         printf '[Resolve]\nDNS=%s\n%s\n' "$2" "$3" >/etc/systemd/resolved.conf
         systemctl restart $unit
-    """, DAEMON, servers, more)
+    """,
+        DAEMON,
+        servers,
+        more,
+    )
 
 
 def give_links_servers(machine):
-    machine.shell("resolvectl dns w0 192.0.2.53 2001:db8::53 192.0.2.54:5353#dns.example; resolvectl domain w0 corp.example '~lan.example';"
-                  "resolvectl dnsovertls w0 opportunistic; resolvectl dns w1 ''")
+    machine.shell(
+        "resolvectl dns w0 192.0.2.53 2001:db8::53 192.0.2.54:5353#dns.example; resolvectl domain w0 corp.example '~lan.example';"
+        "resolvectl dnsovertls w0 opportunistic; resolvectl dns w1 ''"
+    )
 
 
 def resolved_settings(machine):
@@ -129,8 +146,11 @@ TOR_UNIT = "tor@default.service"
 
 
 def add_systemctl(machine):
-    machine.shell("mkdir -p -m 777 /run/units; printf %s \"$1\" >/run/units/systemctl; chmod 755 /run/units/systemctl;"
-                  "mount --bind /run/units/systemctl /usr/bin/systemctl", SYSTEMCTL)
+    machine.shell(
+        'mkdir -p -m 777 /run/units; printf %s "$1" >/run/units/systemctl; chmod 755 /run/units/systemctl;'
+        "mount --bind /run/units/systemctl /usr/bin/systemctl",
+        SYSTEMCTL,
+    )
 
 
 def start_tor_service(machine, unit=TOR_UNIT, ports=(9050, 9051)):

@@ -109,7 +109,7 @@ class Signed(BundleCase):
         self.assertEqual(self.machine.shell(f"stat -c '%a %u' {NOTE}"), "600 0\n")
         self.assertEqual(self.machine.shell(f"ls -d {NEW_BUNDLE} {PROGRAMS}/new 2>/dev/null || true"), "")
         self.machine.help("disconnect")
-        self.connect(more=())   # the copy is there
+        self.connect(more=())  # the copy is there
 
     def test_names_with_a_dot_before_them(self):
         program = transport("dot")
@@ -143,16 +143,27 @@ class Signed(BundleCase):
         with open(f"{self.other.home}/pubring.kbx", "rb") as file:
             keybox = file.read()
         for name, signature, ring in (
-                ("somebody else's", wrong, others), ("somebody else's, the signer's key", wrong, key),
-                ("somebody else's, both keys", wrong, key + others), ("somebody else's, both keys the other way", wrong, others + key),
-                ("the signer's, both keys", right, key + others), ("a subkey of somebody else's", wrong, key + foreign),
-                ("the same, not bound", wrong, key + theirs[at][1]), ("the same, with the signer's binding", wrong, key + theirs[at][1] + ours[-1][1]),
-                ("another form of keyring", wrong, keybox), ("of something else", self.signer.sign(b"something else"), key),
-                ("signed text", self.signer.sign(b"text", how="--sign"), key), ("clear-signed text", self.signer.sign(b"text", how="--clearsign"), key),
-                ("no signature", None, key), ("an empty one", b"", key), ("no key", right, None), ("an empty key", right, b""),
-                ("a key that was cut", right, key[:-1]), ("a key in letters", right, self.signer.gpg("--armor", "--export")),
-                ("status lines", f"[GNUPG:] VALIDSIG {self.signer.fingerprint}\n".encode(), key),
-                ("a signature too large", right + b"\n" * 300_000, key)):
+            ("somebody else's", wrong, others),
+            ("somebody else's, the signer's key", wrong, key),
+            ("somebody else's, both keys", wrong, key + others),
+            ("somebody else's, both keys the other way", wrong, others + key),
+            ("the signer's, both keys", right, key + others),
+            ("a subkey of somebody else's", wrong, key + foreign),
+            ("the same, not bound", wrong, key + theirs[at][1]),
+            ("the same, with the signer's binding", wrong, key + theirs[at][1] + ours[-1][1]),
+            ("another form of keyring", wrong, keybox),
+            ("of something else", self.signer.sign(b"something else"), key),
+            ("signed text", self.signer.sign(b"text", how="--sign"), key),
+            ("clear-signed text", self.signer.sign(b"text", how="--clearsign"), key),
+            ("no signature", None, key),
+            ("an empty one", b"", key),
+            ("no key", right, None),
+            ("an empty key", right, b""),
+            ("a key that was cut", right, key[:-1]),
+            ("a key in letters", right, self.signer.gpg("--armor", "--export")),
+            ("status lines", f"[GNUPG:] VALIDSIG {self.signer.fingerprint}\n".encode(), key),
+            ("a signature too large", right + b"\n" * 300_000, key),
+        ):
             with self.subTest(name):
                 self.bring(program, archive, signature=signature, key=ring)
                 self.assertAsked(self.connect(check=False))
@@ -160,7 +171,7 @@ class Signed(BundleCase):
         self.bring(program, archive[:-1] + b"x", signature=right)
         self.assertAsked(self.connect(check=False))
         self.bring(program, archive, signature=right)
-        self.connect()   # the control
+        self.connect()  # the control
 
     def helper_of(self, signer):
         """A helper that takes this signer's bundles."""
@@ -228,7 +239,7 @@ class Rollback(BundleCase):
         self.bring(old)
         self.assertEqual(self.digest(), former)
         self.assertAsked(self.connect(check=False))
-        self.bring(new, now=FEBRUARY)   # the same again
+        self.bring(new, now=FEBRUARY)  # the same again
         self.connect()
 
     def test_former_copy_is_dropped_once_another_session_runs_and_never_runs_meanwhile(self):
@@ -254,7 +265,7 @@ class Rollback(BundleCase):
         approved = f"./{self.digest()}/lyrebird"
         self.bring(transport("signed"))
         self.connect()
-        self.machine.approve(LYREBIRD, "lyrebird", env=PROMPT)   # by both
+        self.machine.approve(LYREBIRD, "lyrebird", env=PROMPT)  # by both
         both = f"./{self.digest()}/lyrebird"
         self.machine.help("disconnect")
         self.bring(transport("newer"), now=FEBRUARY)
@@ -281,26 +292,38 @@ class Hostile(BundleCase):
             bomb = bundle((zeros, file))
         crowd = bundle(*(member(f"tor/{number}\nx", b"") for number in range(20_000)), member("tor/a", b""))
         for name, archive in (
-                ("link", bundle(member(MEMBER, kind=tarfile.SYMTYPE, link=LYREBIRD))),
-                ("hard link", bundle(member(MEMBER, kind=tarfile.LNKTYPE, link=LYREBIRD))),
-                ("device", bundle(member(MEMBER, kind=tarfile.CHRTYPE))), ("pipe", bundle(member(MEMBER, kind=tarfile.FIFOTYPE))),
-                ("folder", bundle(member(MEMBER, kind=tarfile.DIRTYPE))), ("another place", bundle(member("lyrebird", program))),
-                ("upwards", bundle(member("../../../../../.." + escaped, program))), ("absolute", bundle(member(escaped, program))),
-                ("twice", bundle(member(MEMBER, program), member(MEMBER, program))), ("crowd", crowd), ("bomb", bomb),
-                ("cut", bundle(member(MEMBER, program))[:-20]), ("no archive", b"no archive")):
+            ("link", bundle(member(MEMBER, kind=tarfile.SYMTYPE, link=LYREBIRD))),
+            ("hard link", bundle(member(MEMBER, kind=tarfile.LNKTYPE, link=LYREBIRD))),
+            ("device", bundle(member(MEMBER, kind=tarfile.CHRTYPE))),
+            ("pipe", bundle(member(MEMBER, kind=tarfile.FIFOTYPE))),
+            ("folder", bundle(member(MEMBER, kind=tarfile.DIRTYPE))),
+            ("another place", bundle(member("lyrebird", program))),
+            ("upwards", bundle(member("../../../../../.." + escaped, program))),
+            ("absolute", bundle(member(escaped, program))),
+            ("twice", bundle(member(MEMBER, program), member(MEMBER, program))),
+            ("crowd", crowd),
+            ("bomb", bomb),
+            ("cut", bundle(member(MEMBER, program))[:-20]),
+            ("no archive", b"no archive"),
+        ):
             with self.subTest(name):
                 self.bring(program, archive)
                 self.assertAsked(self.connect(check=False))
                 self.assertEqual(self.copies(), [])
                 self.assertFalse(os.path.lexists(escaped))
-        self.bring(b"", bundle(member(MEMBER, kind=tarfile.SYMTYPE, link="x")))   # no content at all is no program
+        self.bring(b"", bundle(member(MEMBER, kind=tarfile.SYMTYPE, link="x")))  # no content at all is no program
         self.assertAsked(self.connect(check=False))
 
     def test_files_that_are_none(self):
         program = transport("one")
-        for name, script in (("ten gigabytes", 'rm "$1"; truncate -s 10G "$1"; chown alice "$1"'), ("pipe", 'rm "$1"; mkfifo -m 0666 "$1"'),
-                             ("endless", 'ln -sf /dev/zero "$1"'), ("root's", 'chown root "$1"; chmod 0600 "$1"'),
-                             ("link to root's", 'install -m 0600 "$1" /run/secret; ln -sf /run/secret "$1"'), ("link to nowhere", 'ln -sf /nonexistent "$1"')):
+        for name, script in (
+            ("ten gigabytes", 'rm "$1"; truncate -s 10G "$1"; chown alice "$1"'),
+            ("pipe", 'rm "$1"; mkfifo -m 0666 "$1"'),
+            ("endless", 'ln -sf /dev/zero "$1"'),
+            ("root's", 'chown root "$1"; chmod 0600 "$1"'),
+            ("link to root's", 'install -m 0600 "$1" /run/secret; ln -sf /run/secret "$1"'),
+            ("link to nowhere", 'ln -sf /nonexistent "$1"'),
+        ):
             for end in "", ".asc", ".key":
                 if name == "pipe" and end:
                     continue
@@ -332,8 +355,17 @@ class Hostile(BundleCase):
         self.replace_gpgv(f'#!/bin/sh\nsleep {seconds}\nexec {path}.real "$@"\n')
 
     def begin(self):
-        return self.machine.start("/bin/bash", namespace.INSTALLED, *self.WORDS, "--bundle", ARCHIVE, stdin=subprocess.DEVNULL,
-                                  stdout=subprocess.PIPE, stderr=subprocess.PIPE, env={"PATH": os.environ["PATH"], "SUDO_UID": str(USER_UID)})
+        return self.machine.start(
+            "/bin/bash",
+            namespace.INSTALLED,
+            *self.WORDS,
+            "--bundle",
+            ARCHIVE,
+            stdin=subprocess.DEVNULL,
+            stdout=subprocess.PIPE,
+            stderr=subprocess.PIPE,
+            env={"PATH": os.environ["PATH"], "SUDO_UID": str(USER_UID)},
+        )
 
     def test_archive_that_is_swapped_after_it_was_read(self):
         good, evil = transport("good"), transport("evil")
@@ -373,7 +405,7 @@ class Hostile(BundleCase):
         self.assertNotEqual(self.machine.shell(f"ls -d {NEW_BUNDLE}"), "")
         self.machine.help("disconnect")
         self.assertEqual(self.machine.shell(f"ls -d {NEW_BUNDLE} 2>/dev/null || true"), "")
-        self.assertLessEqual(set(self.copies()), {"./new"})   # what no run takes for approved
+        self.assertLessEqual(set(self.copies()), {"./new"})  # what no run takes for approved
         self.connect()
         self.assertEqual(len(self.copies()), 1)
 

@@ -21,8 +21,18 @@ class Callers(HelperTest):
         self.machine.help("disconnect")
 
     def begin(self, *words, **options):
-        return self.machine.start("/bin/sh", "-c", 'echo $$; exec /bin/bash "$0" "$@"', namespace.INSTALLED, *words, env={"PATH": os.environ["PATH"], "SUDO_UID": str(USER_UID)},
-                                  stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True, **options)
+        return self.machine.start(
+            "/bin/sh",
+            "-c",
+            'echo $$; exec /bin/bash "$0" "$@"',
+            namespace.INSTALLED,
+            *words,
+            env={"PATH": os.environ["PATH"], "SUDO_UID": str(USER_UID)},
+            stdin=subprocess.DEVNULL,
+            stdout=subprocess.PIPE,
+            text=True,
+            **options,
+        )
 
     def full_pipe(self):
         """A pipe that takes nothing more."""
@@ -45,7 +55,10 @@ class Callers(HelperTest):
     def await_lock(self, run):
         """Returns when a run has taken the lock and has let it go again."""
         pid = run.stdout.readline().strip()
-        self.machine.shell(f"held() {{ ls -l /proc/{pid}/fd | grep -q veldmark.lock; }}; until held; do :; done; while held; do sleep 0.01; done", timeout=30)
+        self.machine.shell(
+            f"held() {{ ls -l /proc/{pid}/fd | grep -q veldmark.lock; }}; until held; do :; done; while held; do sleep 0.01; done",
+            timeout=30,
+        )
 
     def test_who_does_not_read_what_it_says_keeps_no_lock(self):
         reading, writing = self.full_pipe()
@@ -59,7 +72,9 @@ class Callers(HelperTest):
         while not said.endswith(b".\n"):
             said += os.read(reading, 65536)
         self.assertEqual(run.wait(20), 3)
-        self.assertEqual(said.lstrip(b"x"), b"ERROR: An administrator password is needed to change the strict session that is running.\n")
+        self.assertEqual(
+            said.lstrip(b"x"), b"ERROR: An administrator password is needed to change the strict session that is running.\n"
+        )
 
     def test_what_it_says_of_a_failure_comes_after_all_is_undone(self):
         before = self.machine.snapshot()
@@ -71,7 +86,8 @@ class Callers(HelperTest):
 
         def left():
             return [line for line in self.machine.snapshot().splitlines() if "veldmark-helper.sh connect" not in line]
-        deadline = time.monotonic() + 20   # the groups go when the lock has gone
+
+        deadline = time.monotonic() + 20  # the groups go when the lock has gone
         while left() != before.splitlines() and time.monotonic() < deadline:
             pass
         self.assertEqual(left(), before.splitlines())
@@ -82,21 +98,27 @@ class Callers(HelperTest):
     def test_rules_that_cannot_be_looked_at_are_not_taken_for_gone(self):
         """As when no more processes can be started just then: else a strict session could be lessened."""
         self.machine.help_by_rule(*CONNECT)
-        self.machine.shell("cp /usr/sbin/nft /mnt/nft.true; printf '#!/bin/sh\\n[ \"$1 $2\" != \"list chain\" ] || kill -9 $$\\nexec /mnt/nft.true \"$@\"\\n' >/mnt/nft;"
-                           "chmod 755 /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft")
+        self.machine.shell(
+            'cp /usr/sbin/nft /mnt/nft.true; printf \'#!/bin/sh\\n[ "$1 $2" != "list chain" ] || kill -9 $$\\nexec /mnt/nft.true "$@"\\n\' >/mnt/nft;'
+            "chmod 755 /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft"
+        )
         try:
             for line in [*CONNECT[:-4], "--strict", "0", "--lan", "0"], CONNECT[:-1] + ["1"], CONNECT:
                 done = self.machine.help_by_rule(*line, check=False)
                 self.assertOneLine(done, "The firewall cannot be looked at")
-                self.assertEqual(self.machine.shell("cat /var/lib/veldmark/state/active; grep lan /var/lib/veldmark/asked"), "strict\nlan 0\n")
+                self.assertEqual(
+                    self.machine.shell("cat /var/lib/veldmark/state/active; grep lan /var/lib/veldmark/asked"), "strict\nlan 0\n"
+                )
         finally:
             self.machine.shell("umount /usr/sbin/nft")
         self.machine.help_by_rule(*CONNECT)
 
     def test_programs_of_others_get_no_descriptor_of_the_runs(self):
         """Whoever holds a lock's descriptor can keep the lock, or give it away."""
-        script = (". \"$1\"; exec 7>/run/seven 8>/run/eight 9>/run/nine; CALLER_UID=4242 CALLER_GID=4242 CALLER_HOME=/; cd /; as_caller 5 ls -l /proc/self/fd || echo $?;"
-                  "ls -l /proc/self/fd >&2")
+        script = (
+            '. "$1"; exec 7>/run/seven 8>/run/eight 9>/run/nine; CALLER_UID=4242 CALLER_GID=4242 CALLER_HOME=/; cd /; as_caller 5 ls -l /proc/self/fd || echo $?;'
+            "ls -l /proc/self/fd >&2"
+        )
         done = self.machine.run("/bin/bash", "-p", "-c", script, "shell", self.machine.helper)
         self.assertIn("0 -> ", done.stdout)
         for name in "seven", "eight", "nine":
@@ -105,9 +127,19 @@ class Callers(HelperTest):
 
     def test_timers_of_the_callers_are_not_taken_over(self):
         """One that may be late by a minute would let the watcher sleep."""
-        late = ("import ctypes, os, sys; ctypes.CDLL(None).prctl(29, ctypes.c_ulong(60 * 10 ** 9), 0, 0, 0); os.execv(sys.argv[1], sys.argv[1:])")
-        self.assertEqual(self.machine.run("/usr/bin/python3", "-c", late, "/bin/cat", "/proc/self/timerslack_ns").stdout, "60000000000\n")
-        self.machine.run("/usr/bin/python3", "-c", late, "/bin/bash", namespace.INSTALLED, *CONNECT, env={"PATH": os.environ["PATH"], "SUDO_UID": str(USER_UID)})
+        late = "import ctypes, os, sys; ctypes.CDLL(None).prctl(29, ctypes.c_ulong(60 * 10 ** 9), 0, 0, 0); os.execv(sys.argv[1], sys.argv[1:])"
+        self.assertEqual(
+            self.machine.run("/usr/bin/python3", "-c", late, "/bin/cat", "/proc/self/timerslack_ns").stdout, "60000000000\n"
+        )
+        self.machine.run(
+            "/usr/bin/python3",
+            "-c",
+            late,
+            "/bin/bash",
+            namespace.INSTALLED,
+            *CONNECT,
+            env={"PATH": os.environ["PATH"], "SUDO_UID": str(USER_UID)},
+        )
         [tor] = self.machine.tor_pids()
         [watcher] = self.machine.watchers()
         for pid in tor, watcher:

@@ -5,7 +5,7 @@ import os
 import namespace
 from namespace import HelperTest
 
-CYCLES = int(os.environ.get("VELDMARK_CYCLES", "20"))   # 200 take some minutes
+CYCLES = int(os.environ.get("VELDMARK_CYCLES", "20"))  # 200 take some minutes
 
 
 class Cycles(HelperTest):
@@ -19,11 +19,12 @@ class Cycles(HelperTest):
     def everything(self):
         """The snapshot, and what it does not look at: all our files, and how many descriptors the first process has."""
         return self.machine.snapshot() + self.machine.shell(
-            "find /var/lib/veldmark /run /tmp/veldmark* -not -path '*/run/tor/data/*' -printf '%p %y %m %U\\n' 2>/dev/null | sort; ls /proc/1/fd | wc -l")
+            "find /var/lib/veldmark /run /tmp/veldmark* -not -path '*/run/tor/data/*' -printf '%p %y %m %U\\n' 2>/dev/null | sort; ls /proc/1/fd | wc -l"
+        )
 
     def test_nothing_is_left(self):
         self.machine.connect()
-        self.machine.help("disconnect")   # logs and configuration of the last session stay
+        self.machine.help("disconnect")  # logs and configuration of the last session stay
         before = self.everything()
         for cycle in range(CYCLES):
             self.machine.connect(strict=int(cycle % 4 != 3), lan=cycle % 2)

@@ -54,7 +54,9 @@ class Firewall(HelperTest):
 
     def test_transports_may_ask_the_former_resolvers_and_no_others(self):
         self.machine.shell(f"echo 'nameserver {probes.LAN}' >/etc/resolv.conf")
-        self.machine.connect(strict=1, more=["--bridge", "meek_lite 192.0.2.1:80 url=https://a.example/", "--pt-lyrebird", "/usr/bin/obfs4proxy"])
+        self.machine.connect(
+            strict=1, more=["--bridge", "meek_lite 192.0.2.1:80 url=https://a.example/", "--pt-lyrebird", "/usr/bin/obfs4proxy"]
+        )
         seen = self.wire.arrivals(int(self.machine.tor_uid), TOR_GROUP)
         self.assertIn("lan-dns", seen)
         self.assertNotIn("dns", seen)
@@ -77,8 +79,9 @@ class Firewall(HelperTest):
     def test_connections_from_before_do_not_go_on(self):
         """Strict cuts both; proxy mode cuts the look-ups."""
         for strict in 1, 0:
-            holder = self.machine.start("/usr/bin/python3", PROBES_PY, "hold", stdin=subprocess.PIPE,
-                                        stdout=subprocess.PIPE, text=True)
+            holder = self.machine.start(
+                "/usr/bin/python3", PROBES_PY, "hold", stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True
+            )
             self.assertEqual(holder.stdout.readline(), "ready\n")
             self.wire.mark()
 
@@ -87,7 +90,8 @@ class Firewall(HelperTest):
                 holder.stdin.flush()
                 self.assertEqual(holder.stdout.readline(), "sent\n")
                 return set(self.wire.mark()) - LINK
-            self.assertEqual(use() & ALL, {"tcp", "dns"})   # and what the kernel sends by itself
+
+            self.assertEqual(use() & ALL, {"tcp", "dns"})  # and what the kernel sends by itself
             self.machine.connect(strict=strict)
             self.wire.mark()
             self.assertEqual(use() & ALL if not strict else use(), set() if strict else {"tcp"})
@@ -99,20 +103,34 @@ class Firewall(HelperTest):
         self.machine.connect(strict=1)
         self.wire.mark()
         stand_in = self.machine.start(
-            *AS_TOR, "/usr/bin/python3", "-c",
+            *AS_TOR,
+            "/usr/bin/python3",
+            "-c",
             f"import socket\ns = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.bind(('127.0.0.1', {DNS_PORT})); print('up', flush=True)\n"
-            "while True:\n d, a = s.recvfrom(99); s.sendto(b'answer to ' + d, a)\n if d == b'end of queries': break", group=TOR_GROUP, stdout=subprocess.PIPE, text=True)
+            "while True:\n d, a = s.recvfrom(99); s.sendto(b'answer to ' + d, a)\n if d == b'end of queries': break",
+            group=TOR_GROUP,
+            stdout=subprocess.PIPE,
+            text=True,
+        )
         self.assertEqual(stand_in.stdout.readline(), "up\n")
-        ask = ("import socket, sys\nfor a in sys.argv[1:]:\n s = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.settimeout(10)\n"
-               " s.sendto(b'end of queries' if a == 'end' else b'a whole query', ('127.0.0.1' if a == 'end' else a, 53)); print(s.recvfrom(99)[0].decode())")
-        said = self.machine.run("/usr/bin/python3", "-c", ask, "127.0.0.1", "127.0.0.53", probes.PUBLIC, probes.LAN, "end", uid=USER_UID).stdout
+        ask = (
+            "import socket, sys\nfor a in sys.argv[1:]:\n s = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.settimeout(10)\n"
+            " s.sendto(b'end of queries' if a == 'end' else b'a whole query', ('127.0.0.1' if a == 'end' else a, 53)); print(s.recvfrom(99)[0].decode())"
+        )
+        said = self.machine.run(
+            "/usr/bin/python3", "-c", ask, "127.0.0.1", "127.0.0.53", probes.PUBLIC, probes.LAN, "end", uid=USER_UID
+        ).stdout
         self.assertEqual(said, "answer to a whole query\n" * 4 + "answer to end of queries\n")
         stand_in.communicate()
         self.assertEqual(set(self.wire.mark()) - LINK, set())
 
     def control_port(self, uid):
-        return self.machine.run("/usr/bin/python3", "-c", "import socket; socket.create_connection(('127.0.0.1', 9051), 10)",
-                                uid=uid, check=False).returncode == 0
+        return (
+            self.machine.run(
+                "/usr/bin/python3", "-c", "import socket; socket.create_connection(('127.0.0.1', 9051), 10)", uid=uid, check=False
+            ).returncode
+            == 0
+        )
 
     def test_control_port_is_the_sessions_users_alone(self):
         for strict in 0, 1:
@@ -125,8 +143,16 @@ class Firewall(HelperTest):
     def test_firewall_is_not_opened_while_somebody_changes_it(self):
         """The watcher may be in the middle of putting the rules back: opening waits until it is done."""
         self.machine.connect(strict=1)
-        holder = self.machine.start("flock", "/run/veldmark.rules", "/bin/sh", "-c", "echo held; read word", stdin=subprocess.PIPE,
-                                    stdout=subprocess.PIPE, text=True)
+        holder = self.machine.start(
+            "flock",
+            "/run/veldmark.rules",
+            "/bin/sh",
+            "-c",
+            "echo held; read word",
+            stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE,
+            text=True,
+        )
         self.assertEqual(holder.stdout.readline(), "held\n")
         ending = self.machine.start("/bin/bash", self.machine.helper, "disconnect")
         while ending.poll() is None and not self.machine.shell("pgrep -xf 'flock -w 10 7' || true"):
@@ -139,20 +165,36 @@ class Firewall(HelperTest):
 
     def test_answers_come_in_and_what_others_began_does_not(self):
         """Also where the connection is older than the rules: only this side's own opening makes an answer of a packet."""
-        server = self.machine.start("/usr/bin/python3", "-c", """if True:
+        server = self.machine.start(
+            "/usr/bin/python3",
+            "-c",
+            """if True:
             import socket, sys
             server = socket.create_server(('192.168.77.2', 1002)); print('up', flush=True)
             taken, _ = server.accept(); print('taken', flush=True)
             for line in sys.stdin:
                 taken.settimeout(float(line))
                 try: print(taken.recv(1).decode(), flush=True)
-                except OSError: print('nothing', flush=True)""", stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+                except OSError: print('nothing', flush=True)""",
+            stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE,
+            text=True,
+        )
         self.addCleanup(server.communicate)
         self.assertEqual(server.stdout.readline(), "up\n")
-        self.machine.connect(strict=0)   # its rules have the kernel follow connections
-        outside = subprocess.Popen(self.wire.peer.command(["/usr/bin/python3", "-c",
-            "import socket, sys\ns = socket.create_connection(('192.168.77.2', 1002))\nfor word in sys.stdin: s.send(word[:1].encode()); print('sent', flush=True)"]),
-            stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        self.machine.connect(strict=0)  # its rules have the kernel follow connections
+        outside = subprocess.Popen(
+            self.wire.peer.command(
+                [
+                    "/usr/bin/python3",
+                    "-c",
+                    "import socket, sys\ns = socket.create_connection(('192.168.77.2', 1002))\nfor word in sys.stdin: s.send(word[:1].encode()); print('sent', flush=True)",
+                ]
+            ),
+            stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE,
+            text=True,
+        )
         self.addCleanup(outside.communicate)
         self.assertEqual(server.stdout.readline(), "taken\n")
 
@@ -163,12 +205,18 @@ class Firewall(HelperTest):
             server.stdin.write(f"{seconds}\n")
             server.stdin.flush()
             return server.stdout.readline().strip()
+
         self.assertEqual(arrives("a", 10), "a")
         self.machine.connect(strict=1)
         self.assertEqual(arrives("b", 0.5), "nothing")
         # Tor's own connections have their answers: the server of the other end accepts.
-        self.machine.run("/usr/bin/python3", "-c", f"import socket; socket.create_connection(('{probes.PUBLIC}', 1001), 10)",
-                         uid=int(self.machine.tor_uid), group=TOR_GROUP)
+        self.machine.run(
+            "/usr/bin/python3",
+            "-c",
+            f"import socket; socket.create_connection(('{probes.PUBLIC}', 1001), 10)",
+            uid=int(self.machine.tor_uid),
+            group=TOR_GROUP,
+        )
 
     def test_programs_on_this_computer_reach_each_other(self):
         """Over both kinds of addresses and on any port, a resolver's over TCP too; in both modes."""
@@ -213,16 +261,24 @@ class Firewall(HelperTest):
         """As of a container, which has a link of its own and is routed through the machine."""
         container = Peer(self.machine, "veth2", "veth3")
         self.addCleanup(container.close)
-        container.run("/bin/bash", "-c", "ip link set veth3 up; ip addr add 10.9.0.2/24 dev veth3; ip route add default via 10.9.0.1")
+        container.run(
+            "/bin/bash", "-c", "ip link set veth3 up; ip addr add 10.9.0.2/24 dev veth3; ip route add default via 10.9.0.1"
+        )
         self.machine.shell("ip link set veth2 up; ip addr add 10.9.0.1/24 dev veth2; sysctl -qw net.ipv4.ip_forward=1")
 
         def forwarded():
             self.wire.mark()
-            container.run("/usr/bin/python3", "-c", "import sys; sys.path.insert(0, sys.argv[1]); import probes\n"
-                          "for n in 'tcp', 'udp', 'dns', 'ping', 'lan-tcp', 'lan-udp', 'lan-dns', 'lan-dns-tcp', 'lan-mdns':\n"
-                          " probes.send_probe(*probes.PROBES[n])", namespace.HERE)
+            container.run(
+                "/usr/bin/python3",
+                "-c",
+                "import sys; sys.path.insert(0, sys.argv[1]); import probes\n"
+                "for n in 'tcp', 'udp', 'dns', 'ping', 'lan-tcp', 'lan-udp', 'lan-dns', 'lan-dns-tcp', 'lan-mdns':\n"
+                " probes.send_probe(*probes.PROBES[n])",
+                namespace.HERE,
+            )
 
             return set(self.wire.mark()) & ALL
+
         self.assertEqual(forwarded(), {"tcp", "udp", "dns", "ping", "lan-tcp", "lan-udp", "lan-dns", "lan-dns-tcp", "lan-mdns"})
         self.machine.connect(strict=1)
         self.assertEqual(forwarded(), set())
@@ -231,8 +287,12 @@ class Firewall(HelperTest):
 
     def test_nobody_gets_in(self):
         """A probe from outside gets no answer in strict mode, and one in the control run."""
-        knock = ["/usr/bin/python3", "-c", "import socket; s = socket.socket(); s.settimeout(float(__import__('sys').argv[1]));"
-                 "print(s.connect_ex(('192.168.77.2', 1)))"]
+        knock = [
+            "/usr/bin/python3",
+            "-c",
+            "import socket; s = socket.socket(); s.settimeout(float(__import__('sys').argv[1]));"
+            "print(s.connect_ex(('192.168.77.2', 1)))",
+        ]
         self.assertEqual(self.wire.peer.run(*knock, "10").strip(), "111")
         self.machine.connect(strict=1)
         self.assertEqual(self.wire.peer.run(*knock, "0.5").strip(), "11")

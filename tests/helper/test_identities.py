@@ -19,10 +19,12 @@ APPS = f"{USER}/user@{USER_UID}.service/app.slice"
 ACCOUNT = {USER_UID: "127.64.16.146", OTHER_UID: "127.64.16.147", 0: "127.64.0.0"}
 SHARED = "127.0.0.1"
 
-SERVER = ("import os, socket, sys, threading\nthreading.Thread(target=lambda: (sys.stdin.read(), os._exit(0)), daemon=True).start()\ns = socket.create_server(('127.0.0.1', 9050), backlog=64); print('up', flush=True)\n"
-          "while True:\n c, a = s.accept(); c.sendall(a[0].encode()); c.close()")
-ASK = ("import socket, sys\nfor _ in range(int(sys.argv[2])):\n c = socket.socket(); c.settimeout(10); c.bind((sys.argv[1], 0)); c.connect(('127.0.0.1', 9050)); print(c.recv(99).decode())")
-WISH = ("import socket, sys\ns = socket.socket(socket.AF_UNIX, socket.SOCK_DGRAM)\nfor w in sys.argv[1:]: s.sendto(w.encode('utf-8', 'surrogateescape'), '/run/veldmark.identify')")
+SERVER = (
+    "import os, socket, sys, threading\nthreading.Thread(target=lambda: (sys.stdin.read(), os._exit(0)), daemon=True).start()\ns = socket.create_server(('127.0.0.1', 9050), backlog=64); print('up', flush=True)\n"
+    "while True:\n c, a = s.accept(); c.sendall(a[0].encode()); c.close()"
+)
+ASK = "import socket, sys\nfor _ in range(int(sys.argv[2])):\n c = socket.socket(); c.settimeout(10); c.bind((sys.argv[1], 0)); c.connect(('127.0.0.1', 9050)); print(c.recv(99).decode())"
+WISH = "import socket, sys\ns = socket.socket(socket.AF_UNIX, socket.SOCK_DGRAM)\nfor w in sys.argv[1:]: s.sendto(w.encode('utf-8', 'surrogateescape'), '/run/veldmark.identify')"
 
 
 def program():
@@ -46,7 +48,9 @@ class Identities(HelperTest):
     def tearDownClass(cls):
         cls.wire.close()
         cls.server.communicate()
-        cls.machine.shell("cd /sys/fs/cgroup/user.slice; while ! find . -mindepth 1 -depth -type d -exec rmdir {} +; do sleep 0.01; done; rmdir /sys/fs/cgroup/user.slice")
+        cls.machine.shell(
+            "cd /sys/fs/cgroup/user.slice; while ! find . -mindepth 1 -depth -type d -exec rmdir {} +; do sleep 0.01; done; rmdir /sys/fs/cgroup/user.slice"
+        )
         super().tearDownClass()
 
     @classmethod
@@ -67,10 +71,27 @@ class Identities(HelperTest):
 
     def clear(self):
         """The folders of the applications that tests have made."""
-        self.machine.shell(f"cd {APPS}; while [ -n \"$(find . -mindepth 1 -type d)\" ]; do find . -mindepth 1 -depth -type d -exec rmdir {{}} + || sleep 0.01; done")
+        self.machine.shell(
+            f'cd {APPS}; while [ -n "$(find . -mindepth 1 -type d)" ]; do find . -mindepth 1 -depth -type d -exec rmdir {{}} + || sleep 0.01; done'
+        )
 
     def connect(self, separate="1", strict="1", **options):
-        self.machine.run("/bin/bash", INSTALLED, "connect", "--tor", TOR, "--hash", HASH, "--strict", strict, "--lan", "0", "--separate", separate, **options)
+        self.machine.run(
+            "/bin/bash",
+            INSTALLED,
+            "connect",
+            "--tor",
+            TOR,
+            "--hash",
+            HASH,
+            "--strict",
+            strict,
+            "--lan",
+            "0",
+            "--separate",
+            separate,
+            **options,
+        )
         if separate == "1":
             self.until(lambda: "\nstanding\n" in self.state())
 
@@ -88,7 +109,14 @@ class Identities(HelperTest):
 
     def application(self, *names):
         """Makes their groups, and waits until they are known."""
-        self.machine.run("/usr/bin/python3", "-c", "import os, sys\nfor n in sys.argv[2:]: os.mkdir(os.path.join(os.fsencode(sys.argv[1]), os.fsencode(n)))", APPS, *names, uid=USER_UID)
+        self.machine.run(
+            "/usr/bin/python3",
+            "-c",
+            "import os, sys\nfor n in sys.argv[2:]: os.mkdir(os.path.join(os.fsencode(sys.argv[1]), os.fsencode(n)))",
+            APPS,
+            *names,
+            uid=USER_UID,
+        )
 
     def mapped(self, *names):
         """The same, and waits until the firewall knows all of them."""
@@ -100,7 +128,11 @@ class Identities(HelperTest):
         return len(re.findall('" : 0x', self.machine.run("nft", "list", "map", "inet", TABLE, "applications").stdout))
 
     def seen(self, group=None, uid=USER_UID, source="0.0.0.0", times=1):
-        answers = set(self.machine.run("/usr/bin/python3", "-c", ASK, source, str(times), uid=uid, group=group and f"{APPS}/{group}").stdout.split())
+        answers = set(
+            self.machine.run(
+                "/usr/bin/python3", "-c", ASK, source, str(times), uid=uid, group=group and f"{APPS}/{group}"
+            ).stdout.split()
+        )
         self.assertEqual(len(answers), 1, answers)
         return answers.pop()
 
@@ -111,13 +143,23 @@ class Identities(HelperTest):
         for strict in "1", "0":
             self.connect(strict=strict)
             windows = ["app-gnome-org.example.Browser-12.scope", "app-gnome-org.example.Browser-13.scope"]
-            others = ["app-mail-7.scope", "app-flatpak-org.example.Mail-8.scope", "snap.chat.chat-0f0f0f0f-1111-2222-3333-444444444444.scope", "player.service"]
+            others = [
+                "app-mail-7.scope",
+                "app-flatpak-org.example.Mail-8.scope",
+                "snap.chat.chat-0f0f0f0f-1111-2222-3333-444444444444.scope",
+                "player.service",
+            ]
             self.mapped(*windows, *others)
             browser = self.seen(windows[0], times=50)
             self.assertEqual(browser, self.seen(windows[1]))
             self.machine.shell(f"mkdir {APPS}/{windows[0]}/inside")
             self.assertEqual(browser, self.seen(windows[0] + "/inside"))
-            addresses = [browser, *map(self.seen, others), self.seen("../../session-2.scope"), *(self.seen(uid=uid) for uid in ACCOUNT)]
+            addresses = [
+                browser,
+                *map(self.seen, others),
+                self.seen("../../session-2.scope"),
+                *(self.seen(uid=uid) for uid in ACCOUNT),
+            ]
             self.assertEqual(len(set(addresses)), len(addresses), addresses)
             self.assertEqual(addresses[-3:], list(ACCOUNT.values()))
             self.assertTrue(all(address.startswith("127.") for address in addresses))
@@ -147,7 +189,9 @@ class Identities(HelperTest):
         self.assertEqual(self.seen("app-mail-7.scope", source="127.0.0.9"), mail)
         # Whoever has no identity has the shared one. Without that rule the address would do.
         self.assertEqual(self.seen(uid=70000, source=mail), SHARED)
-        handle = re.search(r"snat ip to 127.0.0.1 # handle (\d+)", self.machine.run("nft", "-a", "list", "chain", "inet", TABLE, "address").stdout)[1]
+        handle = re.search(
+            r"snat ip to 127.0.0.1 # handle (\d+)", self.machine.run("nft", "-a", "list", "chain", "inet", TABLE, "address").stdout
+        )[1]
         self.machine.shell(f"kill -STOP {self.pid()}; nft delete rule inet {TABLE} address handle {handle}")
         self.assertEqual(self.seen(uid=70000, source=mail), mail)
 
@@ -155,7 +199,9 @@ class Identities(HelperTest):
         self.connect()
         self.mapped("app-mail-7.scope", "app-chat-8.scope")
         mail, chat = self.seen("app-mail-7.scope"), self.seen("app-chat-8.scope")
-        self.machine.run("/usr/bin/python3", "-c", WISH, "new mail", "new", "newmail", "new nobody", "new " + "x" * 5000, "\udcff", uid=OTHER_UID)
+        self.machine.run(
+            "/usr/bin/python3", "-c", WISH, "new mail", "new", "newmail", "new nobody", "new " + "x" * 5000, "\udcff", uid=OTHER_UID
+        )
         self.machine.run("/usr/bin/python3", "-c", WISH, "new chat", uid=USER_UID)
         self.until(lambda: self.seen("app-chat-8.scope") != chat)
         self.assertEqual(self.seen("app-mail-7.scope"), mail)
@@ -165,7 +211,17 @@ class Identities(HelperTest):
 
     def test_hostile_names_are_names(self):
         self.connect()
-        names = ["app-\\x0aend 1\\x0a-1.scope", "app-a b\r4242 127.0.0.1 mail-1.scope", "app-\udcff\udcfe-1.scope", "app--.scope", "app-" + "y" * 240 + "-1.scope", "$(reboot).service", "@.service", "app-\\x.slice", "app-app\\x2dapp\\x2dx.slice"]
+        names = [
+            "app-\\x0aend 1\\x0a-1.scope",
+            "app-a b\r4242 127.0.0.1 mail-1.scope",
+            "app-\udcff\udcfe-1.scope",
+            "app--.scope",
+            "app-" + "y" * 240 + "-1.scope",
+            "$(reboot).service",
+            "@.service",
+            "app-\\x.slice",
+            "app-app\\x2dapp\\x2dx.slice",
+        ]
         self.mapped(*names)
         self.until(lambda: re.search(r"\nend \d+\n\Z", self.state()) and len(self.state().splitlines()) == 3 + len(names) + 1)
         state = self.state().splitlines()
@@ -190,33 +246,59 @@ class Identities(HelperTest):
 
     def test_it_has_one_right_of_roots(self):
         self.connect()
-        status = dict(line.split(":\t", 1) for line in self.machine.shell(f"cat /proc/{self.pid()}/status").splitlines() if ":\t" in line)
+        status = dict(
+            line.split(":\t", 1) for line in self.machine.shell(f"cat /proc/{self.pid()}/status").splitlines() if ":\t" in line
+        )
         self.assertEqual(set(status["Uid"].split() + status["Gid"].split()), {"65533"})
         self.assertEqual({int(status[key], 16) for key in ("CapInh", "CapPrm", "CapEff", "CapBnd", "CapAmb")}, {1 << 12})
         self.assertEqual((status["NoNewPrivs"], status["Groups"].strip()), ("1", ""))
         links = self.machine.shell(f"ls -l /proc/{self.pid()}/fd | grep -o '>.*'").splitlines()
-        self.assertEqual(sorted(re.sub(r"\d+", "N", link) for link in links),
-                         sorted(["> /dev/null"] * 2 + [f"> {STATE}", "> anon_inode:inotify"] + ["> socket:[N]"] * 3 + [link for link in map(lambda l: re.sub(r"\d+", "N", l), links) if "pipe" in link or "deleted" in link]))
+        self.assertEqual(
+            sorted(re.sub(r"\d+", "N", link) for link in links),
+            sorted(
+                ["> /dev/null"] * 2
+                + [f"> {STATE}", "> anon_inode:inotify"]
+                + ["> socket:[N]"] * 3
+                + [link for link in map(lambda l: re.sub(r"\d+", "N", l), links) if "pipe" in link or "deleted" in link]
+            ),
+        )
 
     def test_what_runs_as_nobody_does_not_stop_it(self):
         """Other services run so."""
         self.connect()
-        other = self.machine.start("setpriv", "--reuid=65534", "--regid=65534", "--clear-groups", "sh", "-c", "echo $$; exec sleep 1000", stdout=subprocess.PIPE, text=True)
+        other = self.machine.start(
+            "setpriv",
+            "--reuid=65534",
+            "--regid=65534",
+            "--clear-groups",
+            "sh",
+            "-c",
+            "echo $$; exec sleep 1000",
+            stdout=subprocess.PIPE,
+            text=True,
+        )
         nobodys = other.stdout.readline().strip()
         try:
             for pid, refused in (self.pid(), True), (nobodys, False):
-                for words in ["kill", "-STOP", pid], ["prlimit", "--fsize=0:0", "--pid", pid], ["renice", "19", "-p", pid], ["kill", "-KILL", pid]:
+                for words in (
+                    ["kill", "-STOP", pid],
+                    ["prlimit", "--fsize=0:0", "--pid", pid],
+                    ["renice", "19", "-p", pid],
+                    ["kill", "-KILL", pid],
+                ):
                     self.assertEqual(self.machine.run(*words, uid=65534, check=False).returncode != 0, refused, words)
         finally:
             self.machine.run("kill", "-KILL", nobodys, check=False)
-            other.kill()   # what has entered for it stands still as it did
+            other.kill()  # what has entered for it stands still as it did
             other.communicate()
         self.mapped("app-mail-7.scope")
 
     def test_a_users_program_is_not_run(self):
         self.machine.shell(f"chown {USER_UID} {PLACE}/veldmark-identify")
         try:
-            self.machine.run("/bin/bash", INSTALLED, "connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0", "--separate", "1")
+            self.machine.run(
+                "/bin/bash", INSTALLED, "connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0", "--separate", "1"
+            )
             self.assertNotIn(TABLE, self.machine.run("nft", "list", "tables").stdout)
             self.assertEqual(self.machine.shell("pgrep -x veldmark-identi || echo none"), "none\n")
         finally:
@@ -241,7 +323,12 @@ class Identities(HelperTest):
         self.server.communicate()
         false = self.serve(OTHER_UID)
         try:
-            self.assertNotEqual(self.machine.run("/usr/bin/python3", "-c", ASK, "0.0.0.0", "1", uid=USER_UID, group=f"{APPS}/app-mail-7.scope", check=False).returncode, 0)
+            self.assertNotEqual(
+                self.machine.run(
+                    "/usr/bin/python3", "-c", ASK, "0.0.0.0", "1", uid=USER_UID, group=f"{APPS}/app-mail-7.scope", check=False
+                ).returncode,
+                0,
+            )
         finally:
             false.communicate()
             type(self).server = self.serve(int(self.machine.tor_uid))
@@ -252,7 +339,12 @@ class Identities(HelperTest):
         self.connect()
         self.mapped("app-mail-7.scope")
         mail = self.seen("app-mail-7.scope")
-        for flush in "flush ruleset", f"delete table inet {TABLE}", f"flush chain inet {TABLE} identify", f"flush map inet {TABLE} applications":
+        for flush in (
+            "flush ruleset",
+            f"delete table inet {TABLE}",
+            f"flush chain inet {TABLE} identify",
+            f"flush map inet {TABLE} applications",
+        ):
             self.machine.run("nft", flush)
             self.until(lambda: TABLE in self.machine.run("nft", "list", "tables").stdout and self.seen("app-mail-7.scope") == mail)
         self.assertIn("\nstanding\n", self.state())
@@ -283,11 +375,28 @@ class Identities(HelperTest):
         self.assertEqual(self.seen("app-mail-7.scope"), SHARED)
 
     def stepped(self, kill_after, *words):
-        return self.machine.run("env", "-i", f"PKEXEC_UID={USER_UID}", "/bin/bash", "-p", f"{PLACE}/stepped.sh", INSTALLED, "/run/changes", kill_after, "", "true", *words, check=False)
+        return self.machine.run(
+            "env",
+            "-i",
+            f"PKEXEC_UID={USER_UID}",
+            "/bin/bash",
+            "-p",
+            f"{PLACE}/stepped.sh",
+            INSTALLED,
+            "/run/changes",
+            kill_after,
+            "",
+            "true",
+            *words,
+            check=False,
+        )
 
     def test_killed_at_each_of_its_changes(self):
         """Of a connect, and of the disconnect after it."""
-        words = {"connect": ["connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0", "--separate", "1"], "disconnect": ["disconnect"]}
+        words = {
+            "connect": ["connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0", "--separate", "1"],
+            "disconnect": ["disconnect"],
+        }
         self.machine.shell('cp "$1" "$2"', os.path.join(namespace.HERE, "stepped.sh"), PLACE)
         tried = 0
         try:
@@ -296,7 +405,11 @@ class Identities(HelperTest):
                 if verb == "disconnect":
                     self.connect()
                 self.assertEqual(self.stepped("", *words[verb]).returncode, 0)
-                points = [line for line in self.machine.shell("cat /run/changes").splitlines() if "identif" in line or "identit" in line or "separate_app" in line]
+                points = [
+                    line
+                    for line in self.machine.shell("cat /run/changes").splitlines()
+                    if "identif" in line or "identit" in line or "separate_app" in line
+                ]
                 for point in points:
                     with self.subTest(f"{verb}: {point}"):
                         self.machine.help("disconnect")
@@ -306,7 +419,9 @@ class Identities(HelperTest):
                         self.assertIn(done.returncode, (-9, 137), f"this change was not reached: {done.stderr}")
                         self.machine.shell("flock /run/veldmark.lock true")
                         self.machine.help("disconnect")
-                        self.assertEqual(self.machine.shell("pgrep -x veldmark-identi || nft list tables; ls /var/lib/veldmark/journal"), "")
+                        self.assertEqual(
+                            self.machine.shell("pgrep -x veldmark-identi || nft list tables; ls /var/lib/veldmark/journal"), ""
+                        )
                         tried += 1
         finally:
             self.machine.shell(f"rm -f {PLACE}/stepped.sh /run/changes /run/changes.marked")
@@ -321,10 +436,11 @@ class Identities(HelperTest):
             # Each look is a process of nft's; the kernel counts processes.
             self.machine.shell("sleep 0.5")
             [watcher] = self.machine.watchers()
-            spent = "cut -d' ' -f16,17 /proc/%s/stat" % watcher   # of the children that it has waited for, in hundredths of a second
+            spent = "cut -d' ' -f16,17 /proc/%s/stat" % watcher  # of the children that it has waited for, in hundredths of a second
             before = sum(map(int, self.machine.shell(spent).split()))
             self.machine.shell(script)
             return sum(map(int, self.machine.shell(spent).split())) - before
+
         many = f"for i in $(seq 100); do mkdir {APPS}/app-a$i-1.scope; sleep 0.02; done; for i in $(seq 100); do rmdir {APPS}/app-a$i-1.scope; done"
         rules = "for i in $(seq 100); do nft add table inet other; nft delete table inet other; sleep 0.01; done"
         self.assertGreater(looks(rules), 3 * max(1, looks(many)))

@@ -14,8 +14,8 @@ from namespace import HASH, TOR, HelperTest
 from wire import EDGE, LINK, Flood, Wire
 
 STEPPED = os.path.join(namespace.HERE, "stepped.sh")
-EVERY = int(os.environ.get("VELDMARK_KILL_EVERY", "1"))           # 1: after each single change
-RANDOM_TRIALS = int(os.environ.get("VELDMARK_KILL_TRIALS", "6"))   # for each way through the helper
+EVERY = int(os.environ.get("VELDMARK_KILL_EVERY", "1"))  # 1: after each single change
+RANDOM_TRIALS = int(os.environ.get("VELDMARK_KILL_TRIALS", "6"))  # for each way through the helper
 BEFORE, AFTER = "before", "after"
 
 
@@ -40,8 +40,12 @@ class Kill(HelperTest):
     def set_up_services(cls):
         """What a session changes besides."""
         cls.machine.give_ethtool()
-        cls.machine.run("/bin/bash", "-c", "mkdir /home/alice/.config; printf '[Proxy Settings]\nProxyType=4\n' >/home/alice/.config/kioslaverc",
-                        uid=namespace.USER_UID)
+        cls.machine.run(
+            "/bin/bash",
+            "-c",
+            "mkdir /home/alice/.config; printf '[Proxy Settings]\nProxyType=4\n' >/home/alice/.config/kioslaverc",
+            uid=namespace.USER_UID,
+        )
 
     @classmethod
     def snapshot(cls):
@@ -58,8 +62,21 @@ class Kill(HelperTest):
         super().tearDownClass()
 
     def stepped(self, kill_after, edge, words):
-        return self.machine.run("env", "-i", f"PKEXEC_UID={namespace.USER_UID}", "/bin/bash", "-p", STEPPED, self.machine.helper,
-                                "/run/changes", kill_after, edge, self.edge_program, *words, check=False)
+        return self.machine.run(
+            "env",
+            "-i",
+            f"PKEXEC_UID={namespace.USER_UID}",
+            "/bin/bash",
+            "-p",
+            STEPPED,
+            self.machine.helper,
+            "/run/changes",
+            kill_after,
+            edge,
+            self.edge_program,
+            *words,
+            check=False,
+        )
 
     def connect(self, strict="1"):
         """As the user's session."""
@@ -73,8 +90,10 @@ class Kill(HelperTest):
     def state(self):
         """After a kill: the marker, whether the kill switch stands, whether rules are there, whether the resolver is switched."""
         # What the killed shell had started still holds the lock; the next run waits for it as well.
-        text = self.machine.shell("flock /run/veldmark.lock true; cat /var/lib/veldmark/state/active 2>/dev/null; echo; "
-                                  "nft list ruleset; cat /etc/resolv.conf")
+        text = self.machine.shell(
+            "flock /run/veldmark.lock true; cat /var/lib/veldmark/state/active 2>/dev/null; echo; "
+            "nft list ruleset; cat /etc/resolv.conf"
+        )
         return text.split("\n")[0], "policy drop" in text, "table inet" in text, "nameserver 127.0.0.1" in text
 
     def is_open(self):
@@ -96,7 +115,7 @@ class Kill(HelperTest):
             self.assert_restored()
             restored = True
         finally:
-            if not restored:   # what failed here is not to fail the next point as well
+            if not restored:  # what failed here is not to fail the next point as well
                 self.machine.help("disconnect", check=False)
                 self.flood.stop()
         return done
@@ -105,16 +124,16 @@ class Kill(HelperTest):
         self.flood.go()
         self.is_open()
         prepare()
-        if closed == BEFORE:   # else nothing is asked of what comes before the edge
+        if closed == BEFORE:  # else nothing is asked of what comes before the edge
             self.wire.mark()
         done = run(edge)
         state = self.state()
         seen = self.wire.mark()
         check(state)
         if closed == AFTER:
-            seen = seen[seen.index(EDGE):] if EDGE in seen else [] if not state[1] else self.fail("the rules stand without a mark")
+            seen = seen[seen.index(EDGE) :] if EDGE in seen else [] if not state[1] else self.fail("the rules stand without a mark")
         elif closed == BEFORE and EDGE in seen:
-            seen = seen[:seen.index(EDGE)]
+            seen = seen[: seen.index(EDGE)]
         elif closed == BEFORE:
             self.assertTrue(state[1])
         if closed:
@@ -133,13 +152,17 @@ class Kill(HelperTest):
                 # How many children a process has differs from run to run.
                 if '"$child" #' not in point:
                     self.assertIn(done.returncode, (-9, 137), f"this change was not reached: {done.stderr}")
-        print(f"{self.id().split('.', 1)[1]}: killed at {len(tried)} of {len(points)} points, {time.monotonic() - started:.0f} s", flush=True)
+        print(
+            f"{self.id().split('.', 1)[1]}: killed at {len(tried)} of {len(points)} points, {time.monotonic() - started:.0f} s",
+            flush=True,
+        )
         return len(points)
 
 
 class Strict(Kill):
     def test_connect(self):
         """Nothing is blocked before; from the lock on nothing leaves."""
+
         def check(state):
             marker, drop, table, resolver = state
             if not marker:
@@ -148,25 +171,40 @@ class Strict(Kill):
                 self.assertTrue(drop, "the resolver was switched before the kill switch stood")
             if self.machine.tor_pids():
                 self.assertTrue(drop, "Tor ran before the kill switch stood")
+
         self.assertGreater(self.every_point(lambda: None, connect_words("1"), check, "note_listing", AFTER), 30)
 
     def test_the_very_first_connect(self):
         """With none of our folders there. What it does later is the same as at any connect."""
-        self.every_point(lambda: self.machine.shell("rm -rf /var/lib/veldmark"), connect_words("1"),
-                         lambda state: self.assertFalse(any(state)), only=lambda point: "ready_folders" in point)
+        self.every_point(
+            lambda: self.machine.shell("rm -rf /var/lib/veldmark"),
+            connect_words("1"),
+            lambda state: self.assertFalse(any(state)),
+            only=lambda point: "ready_folders" in point,
+        )
 
     def test_fix_dns(self):
         def prepare():
             self.connect()
             self.machine.shell("umount /etc/resolv.conf")
-        self.assertGreater(self.every_point(prepare, ["fix-dns"], lambda state: self.assertEqual(state[:2], ("strict", True)), "", BEFORE), 4)
+
+        self.assertGreater(
+            self.every_point(prepare, ["fix-dns"], lambda state: self.assertEqual(state[:2], ("strict", True)), "", BEFORE), 4
+        )
 
     def test_fix_dns_with_a_dead_watcher(self):
         def prepare():
             self.connect()
             self.machine.end_watcher()
-        self.every_point(prepare, ["fix-dns"], lambda state: self.assertEqual(state[:2], ("strict", True)), "", BEFORE,
-                         only=lambda point: "watcher" in point)
+
+        self.every_point(
+            prepare,
+            ["fix-dns"],
+            lambda state: self.assertEqual(state[:2], ("strict", True)),
+            "",
+            BEFORE,
+            only=lambda point: "watcher" in point,
+        )
 
     def test_disconnect(self):
         def check(state):
@@ -175,6 +213,7 @@ class Strict(Kill):
                 self.assertTrue(drop, "the kill switch opened while Tor ran")
             if not marker:
                 self.assertFalse(drop)
+
         self.assertGreater(self.every_point(self.connect, ["disconnect"], check, "nft delete table", BEFORE), 15)
 
 
@@ -182,16 +221,22 @@ class StrictAgain(Kill):
     """While a strict session runs."""
 
     def test_connect_again(self):
-        self.assertGreater(self.every_point(self.connect, connect_words("1"),
-                                            lambda state: self.assertEqual(state[:2], ("strict", True)), "", BEFORE), 30)
+        self.assertGreater(
+            self.every_point(
+                self.connect, connect_words("1"), lambda state: self.assertEqual(state[:2], ("strict", True)), "", BEFORE
+            ),
+            30,
+        )
 
     def test_change_to_proxy_mode(self):
         def check(state):
             if not state[1]:
                 self.assertEqual(state[0], "proxy")
                 self.assertTrue(self.machine.tor_pids(), "the kill switch opened before the new Tor ran")
-        self.assertGreater(self.every_point(self.connect, ["replace", *connect_words("0")[1:]], check, "switch_firewall proxy", BEFORE),
-                           30)
+
+        self.assertGreater(
+            self.every_point(self.connect, ["replace", *connect_words("0")[1:]], check, "switch_firewall proxy", BEFORE), 30
+        )
 
 
 class Proxy(Kill):
@@ -204,6 +249,7 @@ class Proxy(Kill):
             self.assertFalse(drop)
             if not marker:
                 self.assertFalse(table or resolver)
+
         self.assertGreater(self.every_point(lambda: None, connect_words("0"), check), 30)
 
     def test_disconnect(self):
@@ -213,6 +259,7 @@ class Proxy(Kill):
         def prepare():
             self.connect_proxy()
             self.machine.shell("umount /etc/resolv.conf")
+
         self.assertGreater(self.every_point(prepare, ["fix-dns"], lambda state: self.assertEqual(state[:2], ("proxy", False))), 4)
 
     def test_change_to_strict_mode(self):
@@ -220,6 +267,7 @@ class Proxy(Kill):
             marker, drop, _, _ = state
             if drop:
                 self.assertEqual(marker, "strict")
+
         self.assertGreater(self.every_point(self.connect_proxy, connect_words("1"), check, "note_listing", AFTER), 30)
 
 
@@ -227,8 +275,17 @@ class RandomMoments(Kill):
     """The helper as it ships, killed at any time of its run."""
 
     def killed(self, words, seconds):
-        return self.machine.run("/bin/bash", "-c", 'env -i PKEXEC_UID="$1" /bin/bash "${@:3}" & pid=$!; sleep "$2"; kill -KILL $pid; wait $pid',
-                                "killed", str(namespace.USER_UID), f"{seconds:.4f}", self.machine.helper, *words, check=False)
+        return self.machine.run(
+            "/bin/bash",
+            "-c",
+            'env -i PKEXEC_UID="$1" /bin/bash "${@:3}" & pid=$!; sleep "$2"; kill -KILL $pid; wait $pid',
+            "killed",
+            str(namespace.USER_UID),
+            f"{seconds:.4f}",
+            self.machine.helper,
+            *words,
+            check=False,
+        )
 
     def trials(self, prepare, words, check, closed=None):
         seed = int(os.environ.get("VELDMARK_SEED") or time.time_ns() % 1000000)
@@ -244,7 +301,10 @@ class RandomMoments(Kill):
             with self.subTest(f"VELDMARK_SEED={seed}", trial=trial, seconds=seconds):
                 done = self.trial(prepare, lambda _, s=seconds: self.killed(words, s), check, "", closed)
                 killed += done.returncode == 137
-        print(f"{self.id().split('.', 1)[1]}: killed {killed} of {RANDOM_TRIALS} times within {whole:.2f} s, VELDMARK_SEED={seed}", flush=True)
+        print(
+            f"{self.id().split('.', 1)[1]}: killed {killed} of {RANDOM_TRIALS} times within {whole:.2f} s, VELDMARK_SEED={seed}",
+            flush=True,
+        )
 
     def test_connect(self):
         for strict in "1", "0":

@@ -18,8 +18,8 @@ from namespace import USER_UID
 from test_kill import AFTER, BEFORE, Kill, connect_words
 from wire import LINK
 
-SAMPLE = 1 if os.environ.get("VELDMARK_KILL_ALL") else 20   # one in so many of the other changes
-HELD = "/run/held"   # folder of a machine; see hold_call()
+SAMPLE = 1 if os.environ.get("VELDMARK_KILL_ALL") else 20  # one in so many of the other changes
+HELD = "/run/held"  # folder of a machine; see hold_call()
 
 # Stands before a program: notes the calls that have one of the words, and the one whose number is in the file "hold" waits, before
 # it does anything, until that file has gone.
@@ -37,8 +37,8 @@ exec ./program "$@"
 
 
 class Services(Kill):
-    OWN = ()     # functions whose changes are all tried
-    HOLDS = ()   # (program, words of the calls that change something)
+    OWN = ()  # functions whose changes are all tried
+    HOLDS = ()  # (program, words of the calls that change something)
 
     @classmethod
     def sample(cls, points):
@@ -49,8 +49,11 @@ class Services(Kill):
     @classmethod
     def set_up_holder(cls):
         path, words = cls.HOLDS
-        cls.machine.shell(f"mkdir -m 777 {HELD}; cp {path} {HELD}/program; printf %s \"$1\" >{HELD}/holder; chmod 755 {HELD}/holder;"
-                          f"mount --bind {HELD}/holder {path}", HOLDER % (HELD, words))
+        cls.machine.shell(
+            f'mkdir -m 777 {HELD}; cp {path} {HELD}/program; printf %s "$1" >{HELD}/holder; chmod 755 {HELD}/holder;'
+            f"mount --bind {HELD}/holder {path}",
+            HOLDER % (HELD, words),
+        )
 
     def hold_call(self, number):
         self.machine.shell(f"cd {HELD}; rm -f calls reached; (umask 0; : >calls); echo {number} >hold")
@@ -84,14 +87,20 @@ class Services(Kill):
                 prepare()
                 self.hold_call(call)
                 try:
-                    self.machine.shell('env -i PKEXEC_UID="$1" /bin/bash "${@:2}" >/dev/null 2>&1 & echo $! >/run/killed', str(USER_UID),
-                                       self.machine.helper, *words)
+                    self.machine.shell(
+                        'env -i PKEXEC_UID="$1" /bin/bash "${@:2}" >/dev/null 2>&1 & echo $! >/run/killed',
+                        str(USER_UID),
+                        self.machine.helper,
+                        *words,
+                    )
                     self.wait_for_file(f"{HELD}/reached")
                     self.machine.shell("kill -KILL $(cat /run/killed)")
                     self.wire.mark()
                     self.flood.round()
                     self.assertEqual(set(self.wire.mark()) - LINK, set())
-                    again = self.machine.start("/bin/bash", self.machine.helper, "disconnect", stdin=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True)
+                    again = self.machine.start(
+                        "/bin/bash", self.machine.helper, "disconnect", stdin=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True
+                    )
                     self.wait_until_it_waits(again)
                 finally:
                     self.let_go()
@@ -99,7 +108,9 @@ class Services(Kill):
                 self.is_open()
                 self.flood.stop()
                 self.assertEqual(self.snapshot(), self.before)
-        print(f"{self.id().split('.', 1)[1]}: killed in {calls} calls of {words[0]}, {time.monotonic() - started:.0f} s", flush=True)
+        print(
+            f"{self.id().split('.', 1)[1]}: killed in {calls} calls of {words[0]}, {time.monotonic() - started:.0f} s", flush=True
+        )
 
     def drops(self, state):
         self.assertEqual(state[:2], ("strict", True))
@@ -120,9 +131,11 @@ class Services(Kill):
         self.assertGreater(self.every_point(self.connect_strict, connect_words("1"), self.drops, "", BEFORE), 30)
 
     def test_disconnect(self):
-        self.assertGreater(self.every_point(self.connect_strict, ["disconnect"], lambda state: None, "nft delete table", BEFORE), 15)
+        self.assertGreater(
+            self.every_point(self.connect_strict, ["disconnect"], lambda state: None, "nft delete table", BEFORE), 15
+        )
 
-    CALLS = 3   # at least so many in a connect, and in a disconnect
+    CALLS = 3  # at least so many in a connect, and in a disconnect
 
     def test_in_the_midst_of_connect(self):
         self.killed_in_the_midst(lambda: None, connect_words("1"), self.CALLS)
@@ -139,22 +152,26 @@ class Gnome(Services):
     def set_up_services(cls):
         cls.set_up_holder()
         services.start_session_bus(cls.machine)
-        services.as_user(cls.machine, """gsettings set org.gnome.system.proxy mode auto
+        services.as_user(
+            cls.machine,
+            """gsettings set org.gnome.system.proxy mode auto
             gsettings set org.gnome.system.proxy autoconfig-url "http://a/'b' c"
             gsettings set org.gnome.system.proxy ignore-hosts "['a b', 'it\\'s', '*.corp']"
-            gsettings set org.gnome.system.proxy.http host proxy.corp; gsettings set org.gnome.system.proxy.socks port 1""")
+            gsettings set org.gnome.system.proxy.http host proxy.corp; gsettings set org.gnome.system.proxy.socks port 1""",
+        )
 
     @classmethod
     def snapshot(cls):
         """The file of dconf's that the settings are in is written anew at each change; what it holds is what counts."""
-        return "".join(line for line in super().snapshot().splitlines(True) if not line.endswith(" /home/alice/.config/dconf/user\n")) \
-            + "".join(services.gnome_settings(cls.machine))
+        return "".join(
+            line for line in super().snapshot().splitlines(True) if not line.endswith(" /home/alice/.config/dconf/user\n")
+        ) + "".join(services.gnome_settings(cls.machine))
 
 
 class TorService(Services):
     """The system's own Tor service."""
 
-    OWN = "service",
+    OWN = ("service",)
     HOLDS = "/usr/bin/systemctl", "stop start"
     CALLS = 1
 
@@ -170,7 +187,7 @@ class TorService(Services):
 
 
 class Resolved(Services):
-    OWN = "resolved",
+    OWN = ("resolved",)
     HOLDS = "/usr/bin/resolvectl", "dns dnsovertls dnssec"
 
     @classmethod
@@ -195,13 +212,16 @@ class Resolved(Services):
 
     def test_fix_dns(self):
         """After somebody has given links other servers, and taken our file away. Those servers come back, not the former ones."""
+
         def give_others():
             self.machine.shell("resolvectl dns w0 192.0.2.99; resolvectl dns w1 192.0.2.98")
+
         def prepare():
             self.give_links_servers()
             self.connect_strict()
             self.machine.shell("umount /etc/resolv.conf")
             give_others()
+
         former = self.before
         give_others()
         type(self).before = self.snapshot()
@@ -217,7 +237,7 @@ class Resolved(Services):
 class Global(Services):
     """systemd-resolved with servers of the whole system."""
 
-    OWN = "global",
+    OWN = ("global",)
     HOLDS = "/usr/bin/systemctl", "restart"
     CALLS = 1
 

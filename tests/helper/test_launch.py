@@ -35,12 +35,14 @@ class Launch(HelperTest):
         super().setUpClass()
         machine = cls.machine
         machine.shell("install -m 0755 /dev/stdin /usr/local/bin/probe; usermod -a -G users alice", stdin=PROBE)
-        machine.shell("mkdir -p /usr/local/share/applications; cat >/usr/local/share/applications/probe.desktop <<'END'\n"
-                      "[Desktop Entry]\nType=Application\nName=Probe\nExec=/usr/local/bin/probe --one %U \"two words\"\n"
-                      "DBusActivatable=true\nEND\n")
-        machine.shell("cp \"$1\" \"$2\" /usr/local/bin/", machine.helper, launcher())
+        machine.shell(
+            "mkdir -p /usr/local/share/applications; cat >/usr/local/share/applications/probe.desktop <<'END'\n"
+            '[Desktop Entry]\nType=Application\nName=Probe\nExec=/usr/local/bin/probe --one %U "two words"\n'
+            "DBusActivatable=true\nEND\n"
+        )
+        machine.shell('cp "$1" "$2" /usr/local/bin/', machine.helper, launcher())
         machine.install_copy()
-        machine.shell("cp \"$1\" \"${2%/*}\"", launcher(), INSTALLED)
+        machine.shell('cp "$1" "${2%/*}"', launcher(), INSTALLED)
 
     def setUp(self):
         self.before = self.machine.snapshot()
@@ -52,11 +54,32 @@ class Launch(HelperTest):
         self.assertEqual(self.machine.snapshot(), self.before)
 
     def connect(self, strict=1):
-        return self.machine.run("env", f"PKEXEC_UID={USER_UID}", "/bin/bash", self.machine.helper, "connect", "--tor", namespace.TOR,
-                                "--hash", namespace.HASH, "--strict", str(strict), "--lan", "0")
+        return self.machine.run(
+            "env",
+            f"PKEXEC_UID={USER_UID}",
+            "/bin/bash",
+            self.machine.helper,
+            "connect",
+            "--tor",
+            namespace.TOR,
+            "--hash",
+            namespace.HASH,
+            "--strict",
+            str(strict),
+            "--lan",
+            "0",
+        )
 
-    def launch(self, app, *more, uid=USER_UID, caller=f"PKEXEC_UID={USER_UID}", check=True, environment=(),
-               helper="/usr/local/bin/veldmark-helper.sh"):
+    def launch(
+        self,
+        app,
+        *more,
+        uid=USER_UID,
+        caller=f"PKEXEC_UID={USER_UID}",
+        check=True,
+        environment=(),
+        helper="/usr/local/bin/veldmark-helper.sh",
+    ):
         words = ["env", *environment, caller, "/bin/bash", helper, "launch", "--uid", str(uid), "--app", app, *more]
         return self.machine.run(*words, check=check)
 
@@ -99,17 +122,35 @@ class Launch(HelperTest):
     def test_the_session_of_the_program_that_asks_is_kept(self):
         """With real sudo between alice's process and root's; the wrapper reports her as pkexec does."""
         self.connect()
-        self.machine.shell("cat >/etc/sudoers.d/test; chmod 0440 /etc/sudoers.d/test",
-                           stdin="alice ALL=(root) NOPASSWD: /usr/local/bin/as-pkexec\n")
-        self.machine.shell("install -m 0755 /dev/stdin /usr/local/bin/as-pkexec",
-                           stdin=f"#!/bin/sh\nexec env -i PKEXEC_UID={USER_UID} /bin/bash /usr/local/bin/veldmark-helper.sh \"$@\"\n")
-        self.machine.run("env", "-i", "PATH=/usr/bin:/bin", "DISPLAY=:7", "WAYLAND_DISPLAY=wayland-7", "XDG_SESSION_TYPE=wayland",
-                         "DBUS_SESSION_BUS_ADDRESS=unix:path=/run/user/bus7", "LANG=de_DE.UTF-8", "ALL_PROXY=socks5h://127.0.0.1:9050",
-                         "LD_LIBRARY_PATH=/nowhere", "/bin/sh", "-c",
-                         f"sudo -n /usr/local/bin/as-pkexec launch --uid {USER_UID} --app /usr/local/bin/probe; exit $?", uid=USER_UID)
+        self.machine.shell(
+            "cat >/etc/sudoers.d/test; chmod 0440 /etc/sudoers.d/test",
+            stdin="alice ALL=(root) NOPASSWD: /usr/local/bin/as-pkexec\n",
+        )
+        self.machine.shell(
+            "install -m 0755 /dev/stdin /usr/local/bin/as-pkexec",
+            stdin=f'#!/bin/sh\nexec env -i PKEXEC_UID={USER_UID} /bin/bash /usr/local/bin/veldmark-helper.sh "$@"\n',
+        )
+        self.machine.run(
+            "env",
+            "-i",
+            "PATH=/usr/bin:/bin",
+            "DISPLAY=:7",
+            "WAYLAND_DISPLAY=wayland-7",
+            "XDG_SESSION_TYPE=wayland",
+            "DBUS_SESSION_BUS_ADDRESS=unix:path=/run/user/bus7",
+            "LANG=de_DE.UTF-8",
+            "ALL_PROXY=socks5h://127.0.0.1:9050",
+            "LD_LIBRARY_PATH=/nowhere",
+            "/bin/sh",
+            "-c",
+            f"sudo -n /usr/local/bin/as-pkexec launch --uid {USER_UID} --app /usr/local/bin/probe; exit $?",
+            uid=USER_UID,
+        )
         env = self.answer()["env"]
-        self.assertEqual((env["DISPLAY"], env["WAYLAND_DISPLAY"], env["XDG_SESSION_TYPE"], env["LANG"]),
-                         (":7", "wayland-7", "wayland", "de_DE.UTF-8"))
+        self.assertEqual(
+            (env["DISPLAY"], env["WAYLAND_DISPLAY"], env["XDG_SESSION_TYPE"], env["LANG"]),
+            (":7", "wayland-7", "wayland", "de_DE.UTF-8"),
+        )
         self.assertEqual(env["DBUS_SESSION_BUS_ADDRESS"], "unix:path=/run/user/bus7")
         self.assertNotIn("ALL_PROXY", env)
         self.assertNotIn("LD_LIBRARY_PATH", env)
@@ -122,12 +163,15 @@ class Launch(HelperTest):
 
     def test_launcher_holds_none_of_our_descriptors(self):
         """Whoever has the lock's can unlock it, and whoever keeps the message's open keeps us waiting."""
-        self.machine.shell("mkdir /usr/local/stand-in; cp /usr/local/bin/veldmark-helper.sh /usr/local/stand-in;"
-                           "cat >/usr/local/stand-in/veldmark-launch; chmod 755 /usr/local/stand-in/*", stdin="""#!/usr/bin/python3
+        self.machine.shell(
+            "mkdir /usr/local/stand-in; cp /usr/local/bin/veldmark-helper.sh /usr/local/stand-in;"
+            "cat >/usr/local/stand-in/veldmark-launch; chmod 755 /usr/local/stand-in/*",
+            stdin="""#!/usr/bin/python3
 import json, os
 held = {n: os.readlink(f"/proc/self/fd/{n}") for n in os.listdir("/proc/self/fd") if os.path.exists(f"/proc/self/fd/{n}")}
 json.dump(held, open("/home/alice/descriptors", "w"))
-""")
+""",
+        )
         self.connect()
         self.launch("/usr/local/bin/probe", helper="/usr/local/stand-in/veldmark-helper.sh")
         held = json.loads(self.machine.shell("cat /home/alice/descriptors; rm -r /home/alice/descriptors /usr/local/stand-in"))
@@ -135,13 +179,17 @@ json.dump(held, open("/home/alice/descriptors", "w"))
 
     def test_nothing_is_started_as_root(self):
         """The launcher refuses it as well; here one stands in that doesn't."""
-        self.machine.shell("mkdir /usr/local/stand-in; cp /usr/local/bin/veldmark-helper.sh /usr/local/stand-in;"
-                           "printf '#!/bin/sh\\nid -u >>/run/started\\n' >/usr/local/stand-in/veldmark-launch; chmod 755 /usr/local/stand-in/*;"
-                           "touch /run/started; chmod 666 /run/started")
+        self.machine.shell(
+            "mkdir /usr/local/stand-in; cp /usr/local/bin/veldmark-helper.sh /usr/local/stand-in;"
+            "printf '#!/bin/sh\\nid -u >>/run/started\\n' >/usr/local/stand-in/veldmark-launch; chmod 755 /usr/local/stand-in/*;"
+            "touch /run/started; chmod 666 /run/started"
+        )
         self.connect()
         stand_in = "/usr/local/stand-in/veldmark-helper.sh"
         self.launch("/usr/local/bin/probe", helper=stand_in)
-        self.assertOneLine(self.launch("/usr/local/bin/probe", uid=0, caller="A=1", helper=stand_in, check=False), "not opened as root")
+        self.assertOneLine(
+            self.launch("/usr/local/bin/probe", uid=0, caller="A=1", helper=stand_in, check=False), "not opened as root"
+        )
         self.assertEqual(self.machine.shell("cat /run/started; rm -r /run/started /usr/local/stand-in"), f"{USER_UID}\n")
 
     def test_refused(self):
@@ -156,8 +204,12 @@ json.dump(held, open("/home/alice/descriptors", "w"))
             "a folder": dict(app="/usr", words="no such application"),
             "no entry": dict(app="/usr/local/share/nothing.desktop", words="cannot be read"),
             "a link look-alike": dict(app="/usr/local/bin/-x", words="no such application"),
-            "password-free": dict(app="/usr/local/bin/probe", caller=f"SUDO_UID={USER_UID}", helper=INSTALLED, words="password is needed"),
-            "password-free for somebody else": dict(app="/usr/local/bin/probe", caller="SUDO_UID=1", helper=INSTALLED, words="for the user who asks only"),
+            "password-free": dict(
+                app="/usr/local/bin/probe", caller=f"SUDO_UID={USER_UID}", helper=INSTALLED, words="password is needed"
+            ),
+            "password-free for somebody else": dict(
+                app="/usr/local/bin/probe", caller="SUDO_UID=1", helper=INSTALLED, words="for the user who asks only"
+            ),
         }
         for name, case in cases.items():
             words = case.pop("words")
@@ -167,7 +219,10 @@ json.dump(held, open("/home/alice/descriptors", "w"))
 
     def test_what_only_root_can_read_is_not_read_for_the_user(self):
         self.connect()
-        self.machine.shell("install -m 0600 /dev/stdin /usr/local/share/secret.desktop", stdin="[Desktop Entry]\nName=x\nType=Application\nExec=true\n")
+        self.machine.shell(
+            "install -m 0600 /dev/stdin /usr/local/share/secret.desktop",
+            stdin="[Desktop Entry]\nName=x\nType=Application\nExec=true\n",
+        )
         self.assertOneLine(self.launch("/usr/local/share/secret.desktop", check=False), "cannot be read")
         self.machine.shell("rm /usr/local/share/secret.desktop")
 
@@ -177,7 +232,9 @@ json.dump(held, open("/home/alice/descriptors", "w"))
         self.assertOneLine(self.launch("/usr/local/bin/probe", check=False), "kill switch is not on")
 
     def test_what_still_runs_at_disconnect_goes_on_outside(self):
-        self.machine.shell("printf '#!/bin/sh\\nsleep 1000 & sleep 1001\\n' >/usr/local/bin/lasting; chmod 755 /usr/local/bin/lasting")
+        self.machine.shell(
+            "printf '#!/bin/sh\\nsleep 1000 & sleep 1001\\n' >/usr/local/bin/lasting; chmod 755 /usr/local/bin/lasting"
+        )
         self.connect()
         self.launch("/usr/local/bin/lasting")
         self.machine.shell("until [ $(wc -l </sys/fs/cgroup/veldmark-exempt/cgroup.procs) = 3 ]; do :; done")

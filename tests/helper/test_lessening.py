@@ -36,8 +36,13 @@ class Lessening(HelperTest):
         self.machine.help("disconnect")
 
     def state(self):
-        return self.machine.shell("cat /var/lib/veldmark/state/active /var/lib/veldmark/asked; md5sum </var/lib/veldmark/run/torrc;"
-                                  "ls /var/lib/veldmark/run /var/lib/veldmark/journal; nft list ruleset"), self.machine.tor_pids()
+        return (
+            self.machine.shell(
+                "cat /var/lib/veldmark/state/active /var/lib/veldmark/asked; md5sum </var/lib/veldmark/run/torrc;"
+                "ls /var/lib/veldmark/run /var/lib/veldmark/journal; nft list ruleset"
+            ),
+            self.machine.tor_pids(),
+        )
 
     def assertRefused(self, done, before):
         self.assertEqual((done.returncode, done.stderr), (3, NEEDED))
@@ -63,8 +68,12 @@ class Lessening(HelperTest):
     def test_rule_takes_bridges_of_a_session_neither_away_nor_others(self):
         self.machine.help_by_rule(*words(lan=1, more=BRIDGES))
         before = self.state()
-        others = [["--bridge", "192.0.2.9:443"], BRIDGES[:4] + ["--pt-lyrebird", "/usr/bin/obfs4proxy", "--bridge", "192.0.2.9:1"], [],
-                  BRIDGES[:1] + ["192.0.2.1:443 " + "0123456789" * 4] + BRIDGES[2:]]
+        others = [
+            ["--bridge", "192.0.2.9:443"],
+            BRIDGES[:4] + ["--pt-lyrebird", "/usr/bin/obfs4proxy", "--bridge", "192.0.2.9:1"],
+            [],
+            BRIDGES[:1] + ["192.0.2.1:443 " + "0123456789" * 4] + BRIDGES[2:],
+        ]
         for more in others:
             with self.subTest(more):
                 self.assertRefused(self.machine.help_by_rule(*words(lan=1, more=more), check=False), before)

@@ -9,15 +9,23 @@ import unittest
 
 import namespace
 
-OWNER = "import namespace\nwith namespace.Machine() as m: print(m.group, m.init.pid, flush=True); m.shell('sleep 1000', timeout=None)"
+OWNER = (
+    "import namespace\nwith namespace.Machine() as m: print(m.group, m.init.pid, flush=True); m.shell('sleep 1000', timeout=None)"
+)
 
 
 class Left(unittest.TestCase):
     def test_nothing_after_a_kill(self):
         for number in signal.SIGKILL, signal.SIGTERM, signal.SIGINT:
             with self.subTest(number):
-                owner = subprocess.Popen([sys.executable, "-B", "-c", OWNER], cwd=namespace.HERE, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
-                                         text=True, start_new_session=True)
+                owner = subprocess.Popen(
+                    [sys.executable, "-B", "-c", OWNER],
+                    cwd=namespace.HERE,
+                    stdout=subprocess.PIPE,
+                    stderr=subprocess.DEVNULL,
+                    text=True,
+                    start_new_session=True,
+                )
                 group, init = owner.stdout.readline().split()
                 self.assertTrue(os.path.isdir(group))
                 with open(f"/proc/{init}/stat", encoding="ascii") as stat:

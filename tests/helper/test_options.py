@@ -131,20 +131,53 @@ HOSTILE = {
 # Tor's own check would refuse some of them as well, but not each of them, and later: which refusal it is counts.
 BAD_BRIDGE = "A bridge line is not valid."
 SAYS = {
-    **{name: BAD_BRIDGE for name in (
-        "bridge with a host name", "bridge without a port", "bridge with a comment", "bridge with a quote", "bridge with a continuation",
-        "bridge with a continuation in its middle", "bridge with a continuation before another", "bridge with two blanks",
-        "bridge with a letter beyond ASCII", "transport in capitals")},
-    **{name: "The exit country is not a two-letter code." for name in (
-        "country of three letters", "country in capitals", "braces in the country", "country of one letter", "digits as the country")},
+    **{
+        name: BAD_BRIDGE
+        for name in (
+            "bridge with a host name",
+            "bridge without a port",
+            "bridge with a comment",
+            "bridge with a quote",
+            "bridge with a continuation",
+            "bridge with a continuation in its middle",
+            "bridge with a continuation before another",
+            "bridge with two blanks",
+            "bridge with a letter beyond ASCII",
+            "transport in capitals",
+        )
+    },
+    **{
+        name: "The exit country is not a two-letter code."
+        for name in (
+            "country of three letters",
+            "country in capitals",
+            "braces in the country",
+            "country of one letter",
+            "digits as the country",
+        )
+    },
     **{name: "The value of --strict must be 0 or 1." for name in ("strict 2", "strict yes", "strict 01", "arithmetic in strict")},
     "arithmetic in lan": "The value of --lan must be 0 or 1.",
     **{name: "The value of --separate must be 0 or 1." for name in ("separate yes", "separate arithmetic")},
     "lan 2": "The value of --lan must be 0 or 1.",
-    **{name: "The hashed control password is not valid." for name in ("short hash", "long hash", "hash in small letters", "plain password")},
-    **{name: "contains control characters." for name in (
-        "line end in tor", "hash with another line", "country with a line end", "bridge in two lines", "bridge with a carriage return",
-        "bridge with a tab", "bridge with DEL", "bridge with a C1 control", "bridge with an escape sequence")},
+    **{
+        name: "The hashed control password is not valid."
+        for name in ("short hash", "long hash", "hash in small letters", "plain password")
+    },
+    **{
+        name: "contains control characters."
+        for name in (
+            "line end in tor",
+            "hash with another line",
+            "country with a line end",
+            "bridge in two lines",
+            "bridge with a carriage return",
+            "bridge with a tab",
+            "bridge with DEL",
+            "bridge with a C1 control",
+            "bridge with an escape sequence",
+        )
+    },
     "too many bridges": "More than 100 bridges were given.",
     "overlong bridge": "The value of --bridge is too long.",
     "unsupported transport": "The conjure bridge type isn't supported yet.",
@@ -201,22 +234,32 @@ class Options(HelperTest):
         self.assertOneLine(done, "must run as root")
 
     def test_nothing_from_the_environment_counts(self):
-        self.machine.shell("mkdir -p /run/bin;"
-                           "printf '#!/bin/sh\ntouch /run/pwned\n' >/run/bin/nft; chmod +x /run/bin/nft")
+        self.machine.shell("mkdir -p /run/bin;" "printf '#!/bin/sh\ntouch /run/pwned\n' >/run/bin/nft; chmod +x /run/bin/nft")
         variables = {
-            "PATH": "/run/bin:/usr/bin:/bin", "IFS": "/", "SHELLOPTS": "xtrace", "PS4": "$(touch /run/pwned)",
-            "BASH_FUNC_exec%%": "() { touch /run/pwned; }", "BASH_FUNC_die%%": "() { touch /run/pwned; }",
-            "BASH_FUNC_nft%%": "() { touch /run/pwned; }", "OPT_TOR": "/run/bin/nft", "PROMPTED": "1", "CDPATH": "/run",
-            "OSTYPE": "darwin", "GCONV_PATH": "/run/bin", "LD_LIBRARY_PATH": "/run/bin", "TMPDIR": "/run/bin",
+            "PATH": "/run/bin:/usr/bin:/bin",
+            "IFS": "/",
+            "SHELLOPTS": "xtrace",
+            "PS4": "$(touch /run/pwned)",
+            "BASH_FUNC_exec%%": "() { touch /run/pwned; }",
+            "BASH_FUNC_die%%": "() { touch /run/pwned; }",
+            "BASH_FUNC_nft%%": "() { touch /run/pwned; }",
+            "OPT_TOR": "/run/bin/nft",
+            "PROMPTED": "1",
+            "CDPATH": "/run",
+            "OSTYPE": "darwin",
+            "GCONV_PATH": "/run/bin",
+            "LD_LIBRARY_PATH": "/run/bin",
+            "TMPDIR": "/run/bin",
         }
-        self.machine.run("/bin/bash", "-c", "nft", env=variables)   # an ordinary script does take it all
+        self.machine.run("/bin/bash", "-c", "nft", env=variables)  # an ordinary script does take it all
         self.machine.shell("rm /run/pwned")
         for start in ["/bin/bash"], []:
             self.machine.run(*start, self.machine.helper, *words(), env=variables)
             [pid] = self.machine.tor_pids()
-            self.assertEqual(sorted(name.split("=")[0] for name in
-                                    self.machine.shell(f"tr '\\0' '\\n' </proc/{pid}/environ").split()),
-                             ["HOME", "LC_ALL", "PATH", "PWD", "SHLVL"])
+            self.assertEqual(
+                sorted(name.split("=")[0] for name in self.machine.shell(f"tr '\\0' '\\n' </proc/{pid}/environ").split()),
+                ["HOME", "LC_ALL", "PATH", "PWD", "SHLVL"],
+            )
             self.machine.help("disconnect")
         self.assertEqual(self.machine.shell("ls /run | grep pwned || true"), "")
         self.machine.shell("rm -r /run/bin")
@@ -231,12 +274,15 @@ class Options(HelperTest):
 
     def test_closed_standard_streams(self):
         for stream in "0", "1", "2":
-            self.machine.shell(f"exec {stream}>&-; exec /bin/bash \"$@\"", self.machine.helper, *words())
+            self.machine.shell(f'exec {stream}>&-; exec /bin/bash "$@"', self.machine.helper, *words())
             self.machine.help("disconnect")
 
     def test_a_relative_path_of_the_helper(self):
-        self.machine.shell('cd "${1%/*}" && bash veldmark-helper.sh disconnect && bash -p veldmark-helper.sh disconnect '
-                           '&& ./veldmark-helper.sh disconnect', self.machine.helper)
+        self.machine.shell(
+            'cd "${1%/*}" && bash veldmark-helper.sh disconnect && bash -p veldmark-helper.sh disconnect '
+            "&& ./veldmark-helper.sh disconnect",
+            self.machine.helper,
+        )
 
 
 if __name__ == "__main__":

@@ -21,11 +21,15 @@ class Others(HelperTest):
         return self.machine.shell(f"cat {NOTE} 2>/dev/null || true", uid=namespace.USER_UID).splitlines()
 
     def test_no_rules_and_rules_that_let_out(self):
-        for rules in ("", IPTABLES % ("accept", "", ""), IPTABLES % ("accept", "tcp dport 25 drop; oifname \"x\" reject", ""),
-                      IPTABLES % ("drop", "jump own", "chain own { counter accept; }"),
-                      IPTABLES % ("accept", "jump own; accept; drop", "chain own { return; drop; }"),
-                      "table ip filter { chain INPUT { type filter hook input priority 0; policy drop; } chain own { drop; } }",
-                      "table ip6 filter { chain OUTPUT { type filter hook output priority 0; policy drop; } }"):
+        for rules in (
+            "",
+            IPTABLES % ("accept", "", ""),
+            IPTABLES % ("accept", 'tcp dport 25 drop; oifname "x" reject', ""),
+            IPTABLES % ("drop", "jump own", "chain own { counter accept; }"),
+            IPTABLES % ("accept", "jump own; accept; drop", "chain own { return; drop; }"),
+            "table ip filter { chain INPUT { type filter hook input priority 0; policy drop; } chain own { drop; } }",
+            "table ip6 filter { chain OUTPUT { type filter hook output priority 0; policy drop; } }",
+        ):
             self.assertEqual(self.named(rules), [], rules)
             self.machine.help("disconnect")
             self.machine.shell("nft flush ruleset")
@@ -38,25 +42,40 @@ class Others(HelperTest):
             self.machine.shell("nft flush ruleset")
 
     def test_a_last_rule_that_denies_in_a_chain_of_a_chain(self):
-        for verdict in "drop", "counter drop", "reject", "counter packets 3 bytes 180 reject with icmp type admin-prohibited", 'oifname != "lo" ct state new drop', 'log prefix "denied " level info ip protocol tcp counter reject with tcp reset':
+        for verdict in (
+            "drop",
+            "counter drop",
+            "reject",
+            "counter packets 3 bytes 180 reject with icmp type admin-prohibited",
+            'oifname != "lo" ct state new drop',
+            'log prefix "denied " level info ip protocol tcp counter reject with tcp reset',
+        ):
             chains = "chain own { oifname lo accept; tcp dport 22 accept; goto last; }\nchain last { %s; }" % verdict
-            self.assertEqual(self.named("table ip filter { chain own { }; chain last { }; }\n"
-                                        + IPTABLES % ("accept", "ct state established accept; jump own", chains)), ["table ip filter"], verdict)
+            self.assertEqual(
+                self.named(
+                    "table ip filter { chain own { }; chain last { }; }\n"
+                    + IPTABLES % ("accept", "ct state established accept; jump own", chains)
+                ),
+                ["table ip filter"],
+                verdict,
+            )
             self.machine.help("disconnect")
             self.machine.shell("nft flush ruleset")
 
     def test_ufw_and_firewalld_by_their_names(self):
         ufw = IPTABLES % ("drop", "jump ufw-before-output", "")
-        firewalld = ("table inet firewalld { chain filter_OUTPUT { type filter hook output priority filter + 10; policy accept; "
-                     "oifname lo accept; jump filter_OUTPUT_POLICIES_pre; }; chain filter_OUTPUT_POLICIES_pre { "
-                     "jump filter_OUT_policy_deny; }; chain filter_OUT_policy_deny { reject with icmpx admin-prohibited; } }")
+        firewalld = (
+            "table inet firewalld { chain filter_OUTPUT { type filter hook output priority filter + 10; policy accept; "
+            "oifname lo accept; jump filter_OUTPUT_POLICIES_pre; }; chain filter_OUTPUT_POLICIES_pre { "
+            "jump filter_OUT_policy_deny; }; chain filter_OUT_policy_deny { reject with icmpx admin-prohibited; } }"
+        )
         before = "table ip filter { chain ufw-before-output { oifname lo accept; } }\n"
-        also = ("table inet firewalld { chain filter_OUTPUT_POLICIES_pre { }; chain filter_OUT_policy_deny { } }\n")
+        also = "table inet firewalld { chain filter_OUTPUT_POLICIES_pre { }; chain filter_OUT_policy_deny { } }\n"
         self.assertEqual(sorted(self.named(before + ufw + "\n" + also + firewalld)), ["firewalld", "ufw"])
 
     def test_our_own_are_none_of_others(self):
         self.machine.connect()
-        self.machine.connect()   # now ours are there as well, and deny
+        self.machine.connect()  # now ours are there as well, and deny
         self.assertIn("policy drop", self.machine.shell("nft list chain inet veldmark output"))
         self.assertEqual(self.machine.shell(f"cat {NOTE} 2>/dev/null || true"), "")
 
@@ -64,7 +83,9 @@ class Others(HelperTest):
         """The kernel takes no chain that comes back to itself; a chain within many is judged no further than the kernel goes."""
         chains = "".join("chain c%d { }\n" % i for i in range(15))
         links = "".join("chain c%d { jump c%d; }\n" % (i, i + 1) for i in range(14)) + "chain c14 { oifname lo accept; drop; }\n"
-        self.assertEqual(self.named("table ip filter { %s }\n" % chains + IPTABLES % ("accept", "jump c0", links)), ["table ip filter"])
+        self.assertEqual(
+            self.named("table ip filter { %s }\n" % chains + IPTABLES % ("accept", "jump c0", links)), ["table ip filter"]
+        )
 
 
 if __name__ == "__main__":

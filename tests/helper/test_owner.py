@@ -25,8 +25,10 @@ class Owner(HelperTest):
         cls.machine.install_copy()
         for name in "veldmark", "veldmarkctl", "somebody":
             cls.machine.shell('install -m 0755 /dev/stdin "/usr/local/bin/$1"', name, stdin=PROGRAM)
-        cls.machine.shell("grep -q '^@includedir /etc/sudoers.d' /etc/sudoers || echo '@includedir /etc/sudoers.d' >>/etc/sudoers;"
-                          f"echo '#{USER_UID} ALL=(root) NOPASSWD:NOSETENV: {INSTALLED}' >/etc/sudoers.d/veldmark; chmod 0440 /etc/sudoers.d/veldmark")
+        cls.machine.shell(
+            "grep -q '^@includedir /etc/sudoers.d' /etc/sudoers || echo '@includedir /etc/sudoers.d' >>/etc/sudoers;"
+            f"echo '#{USER_UID} ALL=(root) NOPASSWD:NOSETENV: {INSTALLED}' >/etc/sudoers.d/veldmark; chmod 0440 /etc/sudoers.d/veldmark"
+        )
 
     def tearDown(self):
         self.machine.help("disconnect")
@@ -35,8 +37,16 @@ class Owner(HelperTest):
     def begin(self, name="veldmarkctl", *words, uid=0, env=None):
         """A program of that name with which somebody connects, and which goes on running."""
         words = words or ("/bin/bash", self.machine.helper)
-        program = self.machine.start(f"/usr/local/bin/{name}", *words, *CONNECT, uid=uid, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
-                                     text=True, env={"PATH": os.environ["PATH"], **(env or {"PKEXEC_UID": str(USER_UID)})})
+        program = self.machine.start(
+            f"/usr/local/bin/{name}",
+            *words,
+            *CONNECT,
+            uid=uid,
+            stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE,
+            text=True,
+            env={"PATH": os.environ["PATH"], **(env or {"PKEXEC_UID": str(USER_UID)})},
+        )
         self.addCleanup(program.communicate)
         self.assertEqual(program.stdout.readline(), "0\n")
         return program
@@ -68,14 +78,17 @@ class Owner(HelperTest):
     def test_who_connects_by_hand_is_noted_without_a_program(self):
         self.begin("somebody")
         self.assertEqual(self.note(), {"uid": str(USER_UID)})
-        self.machine.help_by_rule("disconnect", uid=OTHER_UID)   # nobody says that it is in use
+        self.machine.help_by_rule("disconnect", uid=OTHER_UID)  # nobody says that it is in use
 
     def test_owner_that_cannot_be_looked_at_is_not_taken_for_nobody(self):
         """As when a program of the helper's is ended just then, memory being short."""
         self.begin()
         folders = "/ /var /var/lib /var/lib/veldmark "
-        self.machine.shell("cp /usr/bin/stat /mnt/stat.true; printf '%s\\n' '#!/bin/sh' 'case $* in *\"'\"$1\"'\"*) echo >>/mnt/looks; [ $(wc -l </mnt/looks) != \"$(cat /mnt/fails)\" ] || kill -9 $$ ;; esac'"
-                           " 'exec /mnt/stat.true \"$@\"' >/mnt/stat; chmod 755 /mnt/stat; mount --bind /mnt/stat /usr/bin/stat", folders)
+        self.machine.shell(
+            "cp /usr/bin/stat /mnt/stat.true; printf '%s\\n' '#!/bin/sh' 'case $* in *\"'\"$1\"'\"*) echo >>/mnt/looks; [ $(wc -l </mnt/looks) != \"$(cat /mnt/fails)\" ] || kill -9 $$ ;; esac'"
+            " 'exec /mnt/stat.true \"$@\"' >/mnt/stat; chmod 755 /mnt/stat; mount --bind /mnt/stat /usr/bin/stat",
+            folders,
+        )
         try:
             for fails in 1, 2:
                 for words in ["disconnect"], CONNECT:
@@ -118,9 +131,12 @@ class Owner(HelperTest):
         pid = self.note()["pid"]
         self.machine.await_watcher()
         before = self.machine.snapshot(), self.note()
-        for value, words in ("1", f"Another program (process {pid}) has begun a session since. It was left alone."), \
-                            (pid + "0", f"Another program (process {pid}) has begun a session since. It was left alone."), \
-                            ("0", "The process id is not valid."), ("x[$(reboot)]", "The process id is not valid."):
+        for value, words in (
+            ("1", f"Another program (process {pid}) has begun a session since. It was left alone."),
+            (pid + "0", f"Another program (process {pid}) has begun a session since. It was left alone."),
+            ("0", "The process id is not valid."),
+            ("x[$(reboot)]", "The process id is not valid."),
+        ):
             done = self.machine.help("disconnect", "--process", value, check=False)
             self.assertEqual((done.returncode, done.stderr), (1, f"ERROR: {words}\n"))
         self.assertEqual((self.machine.snapshot(), self.note()), before)
@@ -128,7 +144,7 @@ class Owner(HelperTest):
         self.assertEqual(self.machine.shell("ls /var/lib/veldmark/state"), "")
         program.communicate()
         self.begin().communicate()
-        self.machine.help("disconnect", "--process", "1")   # what was left over is nobody's
+        self.machine.help("disconnect", "--process", "1")  # what was left over is nobody's
         self.assertEqual(self.machine.shell("ls /var/lib/veldmark/state"), "")
 
     def test_the_user_ends_the_own_session_from_elsewhere(self):

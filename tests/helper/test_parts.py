@@ -13,8 +13,15 @@ HELPER = namespace.helper_path()
 
 
 def run(script, *words, **environment):
-    return subprocess.run(["/bin/bash", "-p", "-c", f". {HELPER}; exec 8>&2; {script}", "test", *words], capture_output=True, text=True,
-                          errors="surrogateescape", check=False, timeout=60, env={**os.environ, **environment})
+    return subprocess.run(
+        ["/bin/bash", "-p", "-c", f". {HELPER}; exec 8>&2; {script}", "test", *words],
+        capture_output=True,
+        text=True,
+        errors="surrogateescape",
+        check=False,
+        timeout=60,
+        env={**os.environ, **environment},
+    )
 
 
 class InAFolder(unittest.TestCase):
@@ -52,7 +59,7 @@ class Files(InAFolder):
         self.assertFalse(os.path.islink(self.path("a")))
 
     def test_what_cannot_be_put_in_place_is_told_and_leaves_nothing(self):
-        os.makedirs(self.path("a/b"))   # a folder stands where the file belongs
+        os.makedirs(self.path("a/b"))  # a folder stands where the file belongs
         done = run('write_file "$1" 0644 root text || echo "status $?"', self.path("a"))
         self.assertIn("status 1", done.stdout)
         self.assertEqual(os.listdir(self.folder), ["a"])
@@ -61,7 +68,10 @@ class Files(InAFolder):
         self.assertRegex(done.stdout, r"noclobber\s+off")
 
     def read(self, text):
-        done = run('read_lines "$1" && echo 0 || echo "$?"; printf "%s\\n" ${JOURNAL_LINES[@]+"${JOURNAL_LINES[@]}"}', self.write("entry", text))
+        done = run(
+            'read_lines "$1" && echo 0 || echo "$?"; printf "%s\\n" ${JOURNAL_LINES[@]+"${JOURNAL_LINES[@]}"}',
+            self.write("entry", text),
+        )
         status, *lines = done.stdout.split("\n")[:-1]
         return int(status), [line for line in lines if line]
 
@@ -74,8 +84,10 @@ class Files(InAFolder):
         self.assertEqual(self.read("end\n"), (0, []))
 
     def test_the_first_value_of_a_key_counts_and_no_other_key_is_taken_for_it(self):
-        script = ('JOURNAL_LINES=("dns eth0 1.2.3.4" "dnssec eth0 no" "dns eth0 5.6.7.8" "bare");'
-                  'for key in "dns eth0" dnssec dn bare none; do journal_value "$key" && echo || echo "none"; done')
+        script = (
+            'JOURNAL_LINES=("dns eth0 1.2.3.4" "dnssec eth0 no" "dns eth0 5.6.7.8" "bare");'
+            'for key in "dns eth0" dnssec dn bare none; do journal_value "$key" && echo || echo "none"; done'
+        )
         self.assertEqual(run(script).stdout.split("\n")[:-1], ["eth0 1.2.3.4", "eth0 no", "none", "none", "none"])
 
 
@@ -89,21 +101,40 @@ class Note(InAFolder):
             self.helper = self.write("helper.sh", file.read().replace("readonly KILL_SWITCH_NOTE=", "KILL_SWITCH_NOTE="))
 
     def looks(self, script, *words):
-        return subprocess.run(["/bin/bash", "-p", "-c", f". {self.helper}; KILL_SWITCH_NOTE=$1; shift; {script}", "test", self.path("note"), *words],
-                              capture_output=True, text=True, check=True, timeout=60).stdout
+        return subprocess.run(
+            ["/bin/bash", "-p", "-c", f". {self.helper}; KILL_SWITCH_NOTE=$1; shift; {script}", "test", self.path("note"), *words],
+            capture_output=True,
+            text=True,
+            check=True,
+            timeout=60,
+        ).stdout
 
     def notes(self, *words):
         """The note after each of the looks, one a second."""
-        return self.looks('now=0; date() { echo "$now"; }; for word in "$@"; do now=$((now + 1)); note_rules "$word" || echo failed;'
-                          'cat -- "$KILL_SWITCH_NOTE"; done', *words).split("\n")[:-1]
+        return self.looks(
+            'now=0; date() { echo "$now"; }; for word in "$@"; do now=$((now + 1)); note_rules "$word" || echo failed;'
+            'cat -- "$KILL_SWITCH_NOTE"; done',
+            *words,
+        ).split("\n")[:-1]
 
     def test_standing_stays_since_it_stood(self):
         self.assertEqual(self.notes("standing", "standing", "standing"), ["standing 0 1"] * 3)
 
     def test_each_miss_is_counted_once_and_what_stands_again_was_put_back(self):
-        self.assertEqual(self.notes("standing", "open", "open", "standing", "standing", "restored", "standing", "open", "restored"),
-                         ["standing 0 1", "open 1 2", "open 1 2", "restored 1 4", "restored 1 4", "restored 2 6", "restored 2 6", "open 3 8",
-                          "restored 3 9"])
+        self.assertEqual(
+            self.notes("standing", "open", "open", "standing", "standing", "restored", "standing", "open", "restored"),
+            [
+                "standing 0 1",
+                "open 1 2",
+                "open 1 2",
+                "restored 1 4",
+                "restored 1 4",
+                "restored 2 6",
+                "restored 2 6",
+                "open 3 8",
+                "restored 3 9",
+            ],
+        )
 
     def test_a_note_that_somebody_removed_comes_back_and_all_may_read_it(self):
         self.looks('note_rules standing; rm -f -- "$KILL_SWITCH_NOTE"; note_rules standing')
@@ -129,9 +160,18 @@ class BundleVerdict(unittest.TestCase):
         self.assertEqual(self.signed("[GNUPG:] NEWSIG", "[GNUPG:] EXPKEYSIG 0123 x", self.GOOD), "1767225600")
 
     def test_no_other_verdict_counts(self):
-        for bad in (self.GOOD.replace(" 10 00 ", " 2 00 "), self.GOOD.replace(" 10 00 ", " 10 01 "), self.GOOD.replace("[GNUPG:] ", ""),
-                    self.GOOD.replace(self.SIGNER, "0" * 40), self.GOOD.replace("1767225600", "0"), self.GOOD.replace("1767225600", "a[$(id)]"),
-                    self.GOOD.replace("VALIDSIG", "GOODSIG"), self.GOOD.rsplit(" ", 1)[0], "gpgv: " + self.GOOD, ""):
+        for bad in (
+            self.GOOD.replace(" 10 00 ", " 2 00 "),
+            self.GOOD.replace(" 10 00 ", " 10 01 "),
+            self.GOOD.replace("[GNUPG:] ", ""),
+            self.GOOD.replace(self.SIGNER, "0" * 40),
+            self.GOOD.replace("1767225600", "0"),
+            self.GOOD.replace("1767225600", "a[$(id)]"),
+            self.GOOD.replace("VALIDSIG", "GOODSIG"),
+            self.GOOD.rsplit(" ", 1)[0],
+            "gpgv: " + self.GOOD,
+            "",
+        ):
             with self.subTest(bad):
                 self.assertEqual(self.signed(bad), "")
         self.assertEqual(self.signed("[GNUPG:] NEWSIG", "[GNUPG:] REVKEYSIG 0123 x", self.GOOD), "")
@@ -156,11 +196,13 @@ class Arguments(InAFolder):
         plain = self.write("plain", "")
         os.mkdir(self.path("folder"))
         for option in self.PROGRAMS:
-            for value, says in (("tor", f"The path given with {option} is not absolute."),
-                                ("./tor", f"The path given with {option} is not absolute."),
-                                ("/nonexistent", f"The program given with {option} is not an executable file."),
-                                (plain, f"The program given with {option} is not an executable file."),
-                                (self.path("folder"), f"The program given with {option} is not an executable file.")):
+            for value, says in (
+                ("tor", f"The path given with {option} is not absolute."),
+                ("./tor", f"The path given with {option} is not absolute."),
+                ("/nonexistent", f"The program given with {option} is not an executable file."),
+                (plain, f"The program given with {option} is not an executable file."),
+                (self.path("folder"), f"The program given with {option} is not an executable file."),
+            ):
                 with self.subTest(option=option, value=value):
                     done = self.parse(**{option[2:].replace("-", "_"): value})
                     self.assertEqual((done.returncode, done.stderr), (1, f"ERROR: {says}\n"))
@@ -176,8 +218,14 @@ class Arguments(InAFolder):
             self.assertEqual((done.returncode, done.stderr), (1, f"ERROR: The option {option} is missing.\n"))
 
     def test_each_is_given_once_and_with_a_value(self):
-        for option, value in (*self.GOOD.items(), ("--exit", "de"), ("--pt-lyrebird", "/usr/bin/true"), ("--pt-snowflake", "/usr/bin/true"),
-                              ("--pt-webtunnel", "/usr/bin/true"), ("--bundle", "/nonexistent")):
+        for option, value in (
+            *self.GOOD.items(),
+            ("--exit", "de"),
+            ("--pt-lyrebird", "/usr/bin/true"),
+            ("--pt-snowflake", "/usr/bin/true"),
+            ("--pt-webtunnel", "/usr/bin/true"),
+            ("--bundle", "/nonexistent"),
+        ):
             done = self.parse(option, value, option, value)
             self.assertEqual((done.returncode, done.stderr), (1, f"ERROR: The option {option} was given twice.\n"))
             for end in [option], [option, ""]:
@@ -194,13 +242,18 @@ class Arguments(InAFolder):
         self.assertEqual(self.parse("--bridge", longest).returncode, 0)
         self.assertIn("The value of --bridge is too long.", self.parse("--bridge", longest + "a").stderr)
         hundred = ["--bridge", "192.0.2.1:443"] * 100
-        self.assertEqual(self.parse(*hundred, print_after='((${#OPT_BRIDGES[@]} == 100))').returncode, 0)
+        self.assertEqual(self.parse(*hundred, print_after="((${#OPT_BRIDGES[@]} == 100))").returncode, 0)
         self.assertIn("More than 100 bridges", self.parse(*hundred, "--bridge", "192.0.2.1:443").stderr)
 
     def test_transports_need_their_programs(self):
-        for line, says in (("obfs4 192.0.2.1:1 x", "lyrebird"), ("meek_lite 192.0.2.1:1", "lyrebird"), ("obfs3 192.0.2.1:1", "lyrebird"),
-                           ("scramblesuit 192.0.2.1:1", "lyrebird"), ("webtunnel 192.0.2.1:1", "lyrebird"),
-                           ("snowflake 192.0.2.1:1", "snowflake-client")):
+        for line, says in (
+            ("obfs4 192.0.2.1:1 x", "lyrebird"),
+            ("meek_lite 192.0.2.1:1", "lyrebird"),
+            ("obfs3 192.0.2.1:1", "lyrebird"),
+            ("scramblesuit 192.0.2.1:1", "lyrebird"),
+            ("webtunnel 192.0.2.1:1", "lyrebird"),
+            ("snowflake 192.0.2.1:1", "snowflake-client"),
+        ):
             done = self.parse("--bridge", line)
             self.assertEqual((done.returncode, done.stderr), (1, f"ERROR: These bridges need {says}, which was not given.\n"))
 
@@ -208,11 +261,16 @@ class Arguments(InAFolder):
         programs = ["--pt-lyrebird", "/usr/bin/true", "--pt-snowflake", "/usr/bin/true"]
         web = ["--pt-webtunnel", "/usr/bin/true"]
         tell = 'transports_need_names && names=1 || names=0; echo "$USED_LYREBIRD|$USED_SNOWFLAKE|$USED_WEBTUNNEL|$names"'
-        for lines, more, wanted in ((["192.0.2.1:1"], [], "|||0"), (["obfs4 192.0.2.1:1"], [], "obfs4|||0"),
-                                    (["obfs4 192.0.2.1:1", "obfs4 192.0.2.2:1", "obfs3 192.0.2.1:1"], [], "obfs4,obfs3|||0"),
-                                    (["meek_lite 192.0.2.1:1"], [], "meek_lite|||1"), (["webtunnel 192.0.2.1:1"], [], "webtunnel|||1"),
-                                    (["obfs4 192.0.2.1:1", "webtunnel 192.0.2.1:1"], [], "obfs4,webtunnel|||1"),
-                                    (["webtunnel 192.0.2.1:1"], web, "||webtunnel|1"), (["snowflake 192.0.2.1:1"], [], "|snowflake||1")):
+        for lines, more, wanted in (
+            (["192.0.2.1:1"], [], "|||0"),
+            (["obfs4 192.0.2.1:1"], [], "obfs4|||0"),
+            (["obfs4 192.0.2.1:1", "obfs4 192.0.2.2:1", "obfs3 192.0.2.1:1"], [], "obfs4,obfs3|||0"),
+            (["meek_lite 192.0.2.1:1"], [], "meek_lite|||1"),
+            (["webtunnel 192.0.2.1:1"], [], "webtunnel|||1"),
+            (["obfs4 192.0.2.1:1", "webtunnel 192.0.2.1:1"], [], "obfs4,webtunnel|||1"),
+            (["webtunnel 192.0.2.1:1"], web, "||webtunnel|1"),
+            (["snowflake 192.0.2.1:1"], [], "|snowflake||1"),
+        ):
             done = self.parse(*programs, *more, *(word for line in lines for word in ("--bridge", line)), print_after=tell)
             self.assertEqual(done.stdout, wanted + "\n", lines)
 
@@ -224,25 +282,50 @@ class Environment(InAFolder):
         seen = self.path("seen")
         os.mkdir(seen)
         environment = {"PATH": os.environ["PATH"], "LD_DEBUG": "libs", "LD_DEBUG_OUTPUT": f"{seen}/by"}
-        subprocess.run(["/bin/bash", "-p", "-c", 'a=$(uname; :)'], env=environment, check=True, capture_output=True, timeout=60)
-        self.assertEqual(len(os.listdir(seen)), 2)   # the shell and uname
+        subprocess.run(["/bin/bash", "-p", "-c", "a=$(uname; :)"], env=environment, check=True, capture_output=True, timeout=60)
+        self.assertEqual(len(os.listdir(seen)), 2)  # the shell and uname
         for privileged in ["-p"], []:
             for name in os.listdir(seen):
                 os.unlink(os.path.join(seen, name))
-            done = subprocess.run(["/bin/bash", *privileged, HELPER, "no-verb"], env=environment, capture_output=True, text=True, check=False,
-                                  timeout=60)
+            done = subprocess.run(
+                ["/bin/bash", *privileged, HELPER, "no-verb"],
+                env=environment,
+                capture_output=True,
+                text=True,
+                check=False,
+                timeout=60,
+            )
             self.assertEqual((done.returncode, done.stderr), (1, "ERROR: The helper was not given a verb that it knows.\n"))
             self.assertEqual(len(os.listdir(seen)), 1)
 
 
 class Numbers(unittest.TestCase):
     def test_user_ids(self):
-        for text, good in {"0": True, "1": True, "4294967294": True, "4294967295": False, "9999999999": False, "01": False, "": False, "-1": False,
-                           "1 ": False, "x": False, "12345678901": False}.items():
+        for text, good in {
+            "0": True,
+            "1": True,
+            "4294967294": True,
+            "4294967295": False,
+            "9999999999": False,
+            "01": False,
+            "": False,
+            "-1": False,
+            "1 ": False,
+            "x": False,
+            "12345678901": False,
+        }.items():
             self.assertEqual(run('is_uid "$1"', text).returncode == 0, good, text)
 
     def test_control_characters(self):
-        for text, has in {"a b~": False, "a\tb": True, "\x7f": True, "é": False, "\u0080": True, "\u009f": True, "\u00a0": False}.items():
+        for text, has in {
+            "a b~": False,
+            "a\tb": True,
+            "\x7f": True,
+            "é": False,
+            "\u0080": True,
+            "\u009f": True,
+            "\u00a0": False,
+        }.items():
             self.assertEqual(run('has_controls "$1"', text, LC_ALL="C").returncode == 0, has, ascii(text))
 
     def test_programs_that_are_missing_are_named(self):

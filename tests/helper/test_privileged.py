@@ -38,8 +38,13 @@ class Privileged(HelperTest):
     def test_rule_lets_in_that_user_with_that_helper_alone(self):
         self.install()
         self.assertEqual(self.sudo(INSTALLED, "disconnect").returncode, 0)
-        for words in (["/bin/bash"], ["/bin/bash", INSTALLED, "disconnect"], ["/usr/bin/id"],
-                      ["BASH_ENV=/home/alice/x", INSTALLED, "disconnect"], ["-u", "_veldmark", INSTALLED, "disconnect"]):
+        for words in (
+            ["/bin/bash"],
+            ["/bin/bash", INSTALLED, "disconnect"],
+            ["/usr/bin/id"],
+            ["BASH_ENV=/home/alice/x", INSTALLED, "disconnect"],
+            ["-u", "_veldmark", INSTALLED, "disconnect"],
+        ):
             self.assertNotEqual(self.sudo(*words).returncode, 0, words)
         self.assertNotEqual(self.sudo(INSTALLED, "disconnect", uid=OTHER_UID).returncode, 0)
 
@@ -60,10 +65,15 @@ class Privileged(HelperTest):
 
     def upgrade(self):
         """The new version's files are there; now the package's own script, run by another administrator's sudo."""
-        self.machine.shell('mountpoint -q /usr/share || { mkdir -p /mnt/share/upper /mnt/share/work;'
-                           'mount -t overlay -o lowerdir=/usr/share,upperdir=/mnt/share/upper,workdir=/mnt/share/work private /usr/share; };'
-                           'install -D -m 0755 "$1" /usr/share/veldmark/veldmark-helper.sh', self.machine.helper)
-        return self.machine.run("/bin/sh", POSTINST, "configure", "0.1", env={"PATH": os.environ["PATH"], "SUDO_UID": str(OTHER_UID)})
+        self.machine.shell(
+            "mountpoint -q /usr/share || { mkdir -p /mnt/share/upper /mnt/share/work;"
+            "mount -t overlay -o lowerdir=/usr/share,upperdir=/mnt/share/upper,workdir=/mnt/share/work private /usr/share; };"
+            'install -D -m 0755 "$1" /usr/share/veldmark/veldmark-helper.sh',
+            self.machine.helper,
+        )
+        return self.machine.run(
+            "/bin/sh", POSTINST, "configure", "0.1", env={"PATH": os.environ["PATH"], "SUDO_UID": str(OTHER_UID)}
+        )
 
     def test_upgrade_renews_what_runs_without_a_password(self):
         self.install("--launch", "/usr/bin/true")
@@ -100,11 +110,15 @@ class Privileged(HelperTest):
     def test_users_own_right_to_sudo_approves_what_the_rule_does_not(self):
         """The real sudo: the same user, the same helper, another path."""
         self.install()
-        self.machine.shell("install -o alice -m 0755 /usr/bin/tor /home/alice/tor; cp \"$1\" /usr/local/helper.sh", self.machine.helper)
+        self.machine.shell(
+            'install -o alice -m 0755 /usr/bin/tor /home/alice/tor; cp "$1" /usr/local/helper.sh', self.machine.helper
+        )
         digest = self.machine.run("sha256sum", "/home/alice/tor").stdout.split()[0]
         words = ["approve", "--program", "/home/alice/tor", "--as", "tor", "--sha256", digest]
         self.assertNotEqual(self.sudo("/bin/bash", "/usr/local/helper.sh", *words).returncode, 0)
-        self.machine.shell("echo 'alice ALL=(root) NOPASSWD: /bin/bash /usr/local/helper.sh *' >/etc/sudoers.d/own; chmod 0440 /etc/sudoers.d/own")
+        self.machine.shell(
+            "echo 'alice ALL=(root) NOPASSWD: /bin/bash /usr/local/helper.sh *' >/etc/sudoers.d/own; chmod 0440 /etc/sudoers.d/own"
+        )
         try:
             self.assertOneLine(self.sudo(INSTALLED, *words), "password")
             done = self.sudo("/bin/bash", "/usr/local/helper.sh", *words)

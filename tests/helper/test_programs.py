@@ -6,8 +6,8 @@ import namespace
 from namespace import HASH, INSTALLED, TOR, HelperTest, USER_UID
 
 PROMPT = {"PATH": os.environ["PATH"], "PKEXEC_UID": str(USER_UID)}
-RULE = None   # the installed copy, by sudo's rule
-SUDO = {"PATH": os.environ["PATH"], "SUDO_UID": str(USER_UID)}   # another copy, by a right of the user's own
+RULE = None  # the installed copy, by sudo's rule
+SUDO = {"PATH": os.environ["PATH"], "SUDO_UID": str(USER_UID)}  # another copy, by a right of the user's own
 BRIDGE = "obfs4 192.0.2.1:443 0123456789012345678901234567890123456789 cert=a iat-mode=0"
 
 
@@ -18,7 +18,9 @@ class Programs(HelperTest):
         cls.machine.install_copy()
 
     def setUp(self):
-        self.machine.shell("rm -rf /home/alice/* /var/lib/veldmark/programs; install -o alice -g alice -m 0755 /usr/bin/tor /home/alice/tor")
+        self.machine.shell(
+            "rm -rf /home/alice/* /var/lib/veldmark/programs; install -o alice -g alice -m 0755 /usr/bin/tor /home/alice/tor"
+        )
 
     def tearDown(self):
         self.machine.help("disconnect")
@@ -58,7 +60,9 @@ class Programs(HelperTest):
     def test_what_was_swapped_before_the_approval_does_not_run(self):
         digest = self.machine.run("sha256sum", "/home/alice/tor").stdout.split()[0]
         self.machine.shell("echo >>/home/alice/tor")
-        done = self.machine.help("approve", "--program", "/home/alice/tor", "--as", "tor", "--sha256", digest, env=PROMPT, check=False)
+        done = self.machine.help(
+            "approve", "--program", "/home/alice/tor", "--as", "tor", "--sha256", digest, env=PROMPT, check=False
+        )
         self.assertOneLine(done, "not the one that was to be approved")
         self.assertEqual(self.machine.shell("ls /var/lib/veldmark/programs"), "")
 
@@ -83,14 +87,22 @@ class Programs(HelperTest):
                 done = self.connect(RULE, TOR, ["--bridge", BRIDGE, "--pt-lyrebird", program], check=False)
                 self.assertOneLine(done, "password")
         self.connect(RULE, TOR, ["--bridge", BRIDGE, "--pt-lyrebird", "/usr/bin/obfs4proxy"])
-        self.assertIn("\nClientTransportPlugin obfs4 exec /usr/bin/obfs4proxy\n", self.machine.shell("cat /var/lib/veldmark/run/torrc"))
+        self.assertIn(
+            "\nClientTransportPlugin obfs4 exec /usr/bin/obfs4proxy\n", self.machine.shell("cat /var/lib/veldmark/run/torrc")
+        )
 
     def test_roots_file_on_a_medium_that_a_user_mounted_is_the_users(self):
         """As the desktop mounts an image with whatever owners its maker chose; at a system's own place as well."""
         copy = "mkdir -p {0}; mount -t tmpfs -o mode=755{1} medium {0}; cp /usr/bin/tor {0}/tor"
-        for place, options, runs in (("/opt/medium", "", True), ("/opt/medium", ",nosuid,nodev", False),
-                                     ("/media/medium", "", False), ("/run/media/alice/x", ",nosuid,nodev", False), ("/mnt/medium", "", False),
-                                     ("/home/medium", "", False), ("/usr/local/medium", ",nosuid", False)):
+        for place, options, runs in (
+            ("/opt/medium", "", True),
+            ("/opt/medium", ",nosuid,nodev", False),
+            ("/media/medium", "", False),
+            ("/run/media/alice/x", ",nosuid,nodev", False),
+            ("/mnt/medium", "", False),
+            ("/home/medium", "", False),
+            ("/usr/local/medium", ",nosuid", False),
+        ):
             with self.subTest(place + options):
                 self.machine.shell(copy.format(place, options))
                 self.addCleanup(self.machine.shell, f"mountpoint -q {place} && umount -l {place} && rmdir {place} || true")
@@ -122,13 +134,23 @@ class Programs(HelperTest):
     def test_no_way_to_name_the_installed_copy_makes_the_rule_an_approval(self):
         words = ["connect", "--tor", "/home/alice/tor", "--hash", HASH, "--strict", "1", "--lan", "0"]
         folder = os.path.dirname(INSTALLED)
-        self.machine.shell(f"ln -sf {INSTALLED} /home/alice/veldmark-helper.sh; ln -f {INSTALLED} /usr/local/hard.sh;"
-                           f"install -m 0755 {INSTALLED} {folder}/being-replaced.sh")
-        for path in ("/home/alice/veldmark-helper.sh", "/usr/local/hard.sh", f"{folder}/../veldmark/veldmark-helper.sh",
-                     f"{folder}/being-replaced.sh", f"/proc/self/root{INSTALLED}"):
+        self.machine.shell(
+            f"ln -sf {INSTALLED} /home/alice/veldmark-helper.sh; ln -f {INSTALLED} /usr/local/hard.sh;"
+            f"install -m 0755 {INSTALLED} {folder}/being-replaced.sh"
+        )
+        for path in (
+            "/home/alice/veldmark-helper.sh",
+            "/usr/local/hard.sh",
+            f"{folder}/../veldmark/veldmark-helper.sh",
+            f"{folder}/being-replaced.sh",
+            f"/proc/self/root{INSTALLED}",
+        ):
             with self.subTest(path):
                 self.assertOneLine(self.machine.run("/bin/bash", path, *words, env=SUDO, check=False), "password")
-        self.assertOneLine(self.machine.shell_run('exec 20<"$1"; shift; exec /bin/bash -p /dev/fd/20 "$@"', INSTALLED, *words, env=SUDO), "password")
+        self.assertOneLine(
+            self.machine.shell_run('exec 20<"$1"; shift; exec /bin/bash -p /dev/fd/20 "$@"', INSTALLED, *words, env=SUDO),
+            "password",
+        )
         self.machine.shell(f"rm /usr/local/hard.sh {folder}/being-replaced.sh")
 
     def test_copy_that_is_removed_while_it_starts_is_not_taken_for_another(self):
@@ -138,11 +160,19 @@ class Programs(HelperTest):
         try:
             # Bash has it open; it is gone before the helper looks at its own name.
             for path in INSTALLED, "/usr/local/other.sh":
-                done = self.machine.shell_run('rm "$1"; path=$1; shift; exec /bin/bash -p -c \'source /usr/local/kept; main "$@"\' "$path" "$@"',
-                                              path, *words, env=SUDO)
+                done = self.machine.shell_run(
+                    'rm "$1"; path=$1; shift; exec /bin/bash -p -c \'source /usr/local/kept; main "$@"\' "$path" "$@"',
+                    path,
+                    *words,
+                    env=SUDO,
+                )
                 self.assertOneLine(done, "password")
-            done = self.machine.shell_run('exec 20</usr/local/kept; cp /usr/local/kept /usr/local/again; mv /usr/local/again /usr/local/kept;'
-                                          'exec /bin/bash -p /dev/fd/20 "$@"', *words, env=SUDO)
+            done = self.machine.shell_run(
+                "exec 20</usr/local/kept; cp /usr/local/kept /usr/local/again; mv /usr/local/again /usr/local/kept;"
+                'exec /bin/bash -p /dev/fd/20 "$@"',
+                *words,
+                env=SUDO,
+            )
             self.assertOneLine(done, "password")
         finally:
             self.machine.shell(f"mv /usr/local/kept {INSTALLED}")
@@ -179,7 +209,9 @@ class Programs(HelperTest):
         self.assertEqual(self.machine.shell("ls /var/lib/veldmark/programs"), "")
 
     def test_path_with_blanks_and_odd_characters(self):
-        self.machine.shell("mkdir \"/home/alice/my; tor's\"; chown alice \"/home/alice/my; tor's\"; mv /home/alice/tor \"/home/alice/my; tor's/tor\"")
+        self.machine.shell(
+            'mkdir "/home/alice/my; tor\'s"; chown alice "/home/alice/my; tor\'s"; mv /home/alice/tor "/home/alice/my; tor\'s/tor"'
+        )
         self.approve("/home/alice/my; tor's/tor")
         self.connect(PROMPT, "/home/alice/my; tor's/tor")
         self.assertRegex(self.running(), r"/programs/")
@@ -190,8 +222,10 @@ class Programs(HelperTest):
         self.assertOneLine(self.connect(RULE, TOR, more, check=False), "password")
         self.approve("/home/alice/lyre bird", "lyrebird")
         self.connect(PROMPT, TOR, more)
-        self.assertRegex(self.machine.shell("cat /var/lib/veldmark/run/torrc"),
-                         r"\nClientTransportPlugin obfs4 exec /var/lib/veldmark/programs/[0-9a-f]{64}/lyrebird\n")
+        self.assertRegex(
+            self.machine.shell("cat /var/lib/veldmark/run/torrc"),
+            r"\nClientTransportPlugin obfs4 exec /var/lib/veldmark/programs/[0-9a-f]{64}/lyrebird\n",
+        )
         self.machine.help("disconnect")
         self.connect(RULE, TOR, more)
 
@@ -202,7 +236,9 @@ class Programs(HelperTest):
 
     def test_nothing_of_the_users_ever_runs_as_root(self):
         """A 'tor' that tells who it is: run for the check of its configuration and to be Tor, as Tor's account alone."""
-        self.machine.shell("mkdir -m 1777 -p /run/told; rm -f /run/told/*; printf '#!/bin/sh\\nid -u >/run/told/$$\\n' >/home/alice/tor")
+        self.machine.shell(
+            "mkdir -m 1777 -p /run/told; rm -f /run/told/*; printf '#!/bin/sh\\nid -u >/run/told/$$\\n' >/home/alice/tor"
+        )
         self.approve()
         self.assertOneLine(self.connect(PROMPT, check=False), "Tor did not start")
         told = set(self.machine.shell("cat /run/told/*").split())

@@ -45,14 +45,16 @@ class Gnome(Desktop):
             self.assertEqual(self.settings(), before)
 
     def test_former_values_come_back(self):
-        self.as_user("""gsettings set org.gnome.system.proxy mode auto; gsettings set org.gnome.system.proxy autoconfig-url "http://a/'b' c"
+        self.as_user(
+            """gsettings set org.gnome.system.proxy mode auto; gsettings set org.gnome.system.proxy autoconfig-url "http://a/'b' c"
             gsettings set org.gnome.system.proxy ignore-hosts "['a b', 'it\\'s', '*.corp']"
-            gsettings set org.gnome.system.proxy.http host 'proxy.corp'; gsettings set org.gnome.system.proxy.socks port 1""")
+            gsettings set org.gnome.system.proxy.http host 'proxy.corp'; gsettings set org.gnome.system.proxy.socks port 1"""
+        )
         before = self.settings()
         self.connect()
         self.assertNotIn("proxy.corp", self.settings()[0])
         self.assertNotIn("corp", self.as_user("gsettings get org.gnome.system.proxy ignore-hosts"))
-        self.connect(strict=1, lan=1)   # a second connect does not take our own values for the user's
+        self.connect(strict=1, lan=1)  # a second connect does not take our own values for the user's
         self.assertIn("'192.168.0.0/16'", self.as_user("gsettings get org.gnome.system.proxy ignore-hosts"))
         self.disconnect()
         self.assertEqual(self.settings(), before)
@@ -72,14 +74,19 @@ class Gnome(Desktop):
 
     def stand_in(self, script):
         """From now on `script` is gsettings; the way back is its result."""
-        self.machine.shell("mkdir -p /mnt/stand-in; printf '#!/bin/sh\\n%s\\n' \"$1\" >/mnt/stand-in/gsettings; chmod +x /mnt/stand-in/gsettings;"
-                           "mount --bind /mnt/stand-in/gsettings /usr/bin/gsettings", script)
+        self.machine.shell(
+            "mkdir -p /mnt/stand-in; printf '#!/bin/sh\\n%s\\n' \"$1\" >/mnt/stand-in/gsettings; chmod +x /mnt/stand-in/gsettings;"
+            "mount --bind /mnt/stand-in/gsettings /usr/bin/gsettings",
+            script,
+        )
         return lambda: self.machine.shell("umount /usr/bin/gsettings; rm -r /mnt/stand-in")
 
     def test_settings_that_could_not_be_handed_back_are_left_alone(self):
         """Longer than an argument may be."""
         hosts = ", ".join(f"'h{number}.example'" for number in range(10000))
-        self.machine.run("dconf", "load", "/system/proxy/", uid=USER_UID, env=services.DESKTOP, stdin=f"[/]\nignore-hosts=[{hosts}]\n")
+        self.machine.run(
+            "dconf", "load", "/system/proxy/", uid=USER_UID, env=services.DESKTOP, stdin=f"[/]\nignore-hosts=[{hosts}]\n"
+        )
         before = self.settings()
         self.assertGreater(len(before[1]), 150000)
         self.connect(strict=1)
@@ -100,21 +107,27 @@ class Gnome(Desktop):
 
     def test_process_that_keeps_the_answer_open_is_not_waited_for(self):
         before = self.machine.snapshot()
-        restore = self.stand_in("case $1 in writable) setsid sleep 1000 & echo $! >>/run/user/4242/left; echo true ;; *) echo none ;; esac")
+        restore = self.stand_in(
+            "case $1 in writable) setsid sleep 1000 & echo $! >>/run/user/4242/left; echo true ;; *) echo none ;; esac"
+        )
         try:
             self.assertOneLine(self.connect(check=False, timeout=50), "proxy settings")
         finally:
             # The helper may have asked more than once, and who was killed is not gone at once.
-            self.machine.shell("for left in $(cat /run/user/4242/left); do kill $left; while kill -0 $left 2>/dev/null; do sleep 0.01; done; done; "
-                               "rm /run/user/4242/left")
+            self.machine.shell(
+                "for left in $(cat /run/user/4242/left); do kill $left; while kill -0 $left 2>/dev/null; do sleep 0.01; done; done; "
+                "rm /run/user/4242/left"
+            )
             restore()
         self.assertEqual(self.machine.snapshot(), before)
 
     def test_program_that_hangs_is_given_up(self):
         """In proxy mode a proxy that cannot be set is a failure, and everything goes back."""
         before = self.machine.snapshot()
-        self.machine.shell("mkdir /mnt/slow; printf '#!/bin/sh\\nexec sleep 1000\\n' >/mnt/slow/gsettings; chmod +x /mnt/slow/gsettings;"
-                           "mount --bind /mnt/slow/gsettings /usr/bin/gsettings")
+        self.machine.shell(
+            "mkdir /mnt/slow; printf '#!/bin/sh\\nexec sleep 1000\\n' >/mnt/slow/gsettings; chmod +x /mnt/slow/gsettings;"
+            "mount --bind /mnt/slow/gsettings /usr/bin/gsettings"
+        )
         try:
             self.assertOneLine(self.connect(check=False), "proxy settings")
         finally:
@@ -123,8 +136,10 @@ class Gnome(Desktop):
 
     def test_slow_program_is_waited_for(self):
         """On a computer with much to do each call takes its time; all of them together take longer than one may."""
-        self.as_user("gsettings set org.gnome.system.proxy mode auto; gsettings set org.gnome.system.proxy.http host proxy.corp;"
-                     "gsettings set org.gnome.system.proxy.socks host before; gsettings set org.gnome.system.proxy.socks port 1")
+        self.as_user(
+            "gsettings set org.gnome.system.proxy mode auto; gsettings set org.gnome.system.proxy.http host proxy.corp;"
+            "gsettings set org.gnome.system.proxy.socks host before; gsettings set org.gnome.system.proxy.socks port 1"
+        )
         before = self.settings()
         self.machine.shell("cp /usr/bin/gsettings /run/gsettings")
         restore = self.stand_in('sleep 0.5; exec /run/gsettings "$@"')

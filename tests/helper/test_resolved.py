@@ -98,9 +98,16 @@ class Resolved(HelperTest):
 
     def test_look_ups_of_links_come_to_tors_port(self):
         self.machine.connect()
-        stand_in = self.machine.start(*namespace.AS_TOR, "/usr/bin/python3", "-c",
+        stand_in = self.machine.start(
+            *namespace.AS_TOR,
+            "/usr/bin/python3",
+            "-c",
             "import socket\ns = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.bind(('127.0.0.1', 293)); print('up', flush=True)\n"
-            "print(s.recvfrom(999)[0])", group=namespace.TOR_GROUP, stdout=subprocess.PIPE, text=True)
+            "print(s.recvfrom(999)[0])",
+            group=namespace.TOR_GROUP,
+            stdout=subprocess.PIPE,
+            text=True,
+        )
         self.assertEqual(stand_in.stdout.readline(), "up\n")
         query = self.machine.start("resolvectl", "query", "probe.lan.example", stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self.assertIn("probe", stand_in.communicate()[0])
@@ -175,8 +182,10 @@ class Global(HelperTest):
         self.assertNotIn("restart", self.machine.shell("cat /run/units/said 2>/dev/null || true"))
 
     def test_the_users_own_drop_ins_stay(self):
-        self.machine.shell("mkdir -p /run/systemd/resolved.conf.d; printf '[Resolve]\nDNS=192.0.2.61\n' >/run/systemd/resolved.conf.d/my.conf;"
-                           "systemctl restart systemd-resolved.service")
+        self.machine.shell(
+            "mkdir -p /run/systemd/resolved.conf.d; printf '[Resolve]\nDNS=192.0.2.61\n' >/run/systemd/resolved.conf.d/my.conf;"
+            "systemctl restart systemd-resolved.service"
+        )
         before = self.state()
         self.machine.connect()
         self.assertOurs()
@@ -186,17 +195,22 @@ class Global(HelperTest):
 
     def test_a_restart_of_the_computer_has_removed_the_file(self):
         self.machine.connect()
-        self.machine.shell(f"rm -r {self.FILE.rpartition('/')[0]}; systemctl restart systemd-resolved.service; rm -f /run/units/said")
+        self.machine.shell(
+            f"rm -r {self.FILE.rpartition('/')[0]}; systemctl restart systemd-resolved.service; rm -f /run/units/said"
+        )
         self.machine.help("disconnect")
         self.assertIn(f"Global: {self.SERVERS}", self.servers())
         self.assertNotIn("restart", self.machine.shell("cat /run/units/said 2>/dev/null || true"))
 
     def test_network_manager_gives_the_links_their_servers_again(self):
         """It does so a moment after the daemon has come back."""
-        self.machine.shell(r"""
+        self.machine.shell(
+            r"""
             mkdir /run/NetworkManager; cd /run/units
             printf '#!/bin/bash\n(sleep 0.5; resolvectl dns w0 192.0.2.53; sleep 0.2; resolvectl dns w1 192.0.2.55; touch /run/units/pushed) &\nexec %s\n' "$1" >systemd-resolved.service
-        """, services.DAEMON)
+        """,
+            services.DAEMON,
+        )
         self.machine.connect()
         self.machine.shell("until [ -e /run/units/pushed ]; do sleep 0.01; done; rm /run/units/pushed")
         self.assertOurs()
@@ -214,7 +228,9 @@ class Global(HelperTest):
         self.machine.help("fix-dns")
         self.assertOurs()
         self.machine.shell("touch /run/units/systemd-resolved.service.stuck")
-        self.assertOneLine(self.machine.help("disconnect", check=False), "could not be put back. Try: systemctl restart systemd-resolved.service.")
+        self.assertOneLine(
+            self.machine.help("disconnect", check=False), "could not be put back. Try: systemctl restart systemd-resolved.service."
+        )
         self.machine.shell("rm /run/units/systemd-resolved.service.stuck")
         self.machine.help("disconnect")
         self.assertEqual(self.state(), self.before)

@@ -17,9 +17,12 @@ class Resolver(HelperTest):
     @classmethod
     def setUpClass(cls):
         super().setUpClass()
-        cls.machine.shell("mkdir -p /mnt/sbin/upper /mnt/sbin/work /run/NetworkManager\n"
-                          "mount -t overlay -o lowerdir=/usr/sbin,upperdir=/mnt/sbin/upper,workdir=/mnt/sbin/work private /usr/sbin\n"
-                          "printf %s \"$1\" >/usr/sbin/nmcli; chmod 755 /usr/sbin/nmcli", NMCLI)
+        cls.machine.shell(
+            "mkdir -p /mnt/sbin/upper /mnt/sbin/work /run/NetworkManager\n"
+            "mount -t overlay -o lowerdir=/usr/sbin,upperdir=/mnt/sbin/upper,workdir=/mnt/sbin/work private /usr/sbin\n"
+            'printf %s "$1" >/usr/sbin/nmcli; chmod 755 /usr/sbin/nmcli',
+            NMCLI,
+        )
 
     def setUp(self):
         self.machine.shell(f"rm -f /run/NetworkManager/*; printf %s '{FIRST}' | tee {COPY} >/etc/resolv.conf")

@@ -29,7 +29,9 @@ class Rules(unittest.TestCase):
     def test_each_text_is_as_it_was_meant(self):
         for name, call in CASES.items():
             with self.subTest(name):
-                text = subprocess.run(["/bin/bash", "-p", "-c", f". {HELPER}; {call}"], capture_output=True, text=True, check=True).stdout
+                text = subprocess.run(
+                    ["/bin/bash", "-p", "-c", f". {HELPER}; {call}"], capture_output=True, text=True, check=True
+                ).stdout
                 path = os.path.join(FOLDER, name + ".nft")
                 if os.environ.get("VELDMARK_WRITE_RULES"):
                     with open(path, "w", encoding="ascii") as file:

@@ -26,7 +26,9 @@ class Service(HelperTest):
     def tearDown(self):
         self.machine.shell("rm -f /run/units/*.stuck")
         self.machine.help("disconnect", check=False)
-        self.machine.shell("for unit in tor@default tor@other tor; do systemctl stop $unit.service; done; rm -f /run/units/tor* /run/units/said; ! pgrep -xa tor")
+        self.machine.shell(
+            "for unit in tor@default tor@other tor; do systemctl stop $unit.service; done; rm -f /run/units/tor* /run/units/said; ! pgrep -xa tor"
+        )
 
     def runs(self):
         return services.tor_service_runs(self.machine)
@@ -78,8 +80,10 @@ class Service(HelperTest):
         before = self.machine.snapshot()
         pid = self.machine.shell("cat /run/units/tor@other.service.pid").strip()
         for strict in 0, 1:
-            self.assertOneLine(self.machine.connect(strict=strict, check=False),
-                               f"The port 9050, which Tor needs, is held by tor (process {pid}). End that, then connect again.")
+            self.assertOneLine(
+                self.machine.connect(strict=strict, check=False),
+                f"The port 9050, which Tor needs, is held by tor (process {pid}). End that, then connect again.",
+            )
             self.assertEqual(self.machine.snapshot(), before)
 
     def test_a_service_that_holds_no_port_is_not_stopped_for_another_program(self):
@@ -110,15 +114,21 @@ class Service(HelperTest):
         self.assertEqual(self.machine.shell(f"cat {STATE}"), "strict\n")
 
     def test_what_a_program_calls_itself_is_made_printable(self):
-        self.machine.shell("systemctl stop tor@default.service; sed -i 's/b\"tor\"/b\"\\\\x1b[2J\\\\xffx\\\\n\"/' /run/units/tor@default.service;"
-                           "cd /run/units; mv tor@default.service tor@other.service; systemctl start tor@other.service")
+        self.machine.shell(
+            'systemctl stop tor@default.service; sed -i \'s/b"tor"/b"\\\\x1b[2J\\\\xffx\\\\n"/\' /run/units/tor@default.service;'
+            "cd /run/units; mv tor@default.service tor@other.service; systemctl start tor@other.service"
+        )
         self.assertOneLine(self.machine.connect(check=False), "is held by ?[2J?x (process ")
 
     def test_a_listener_on_another_address_is_in_nobodys_way(self):
         self.machine.shell("systemctl stop tor@default.service")
-        other = self.machine.start("/usr/bin/python3", "-c", "import socket, sys\ns = socket.socket(); s.bind(('127.0.0.2', 9050)); s.listen()\n"
-                                   "open('/run/units/up', 'w').close(); sys.stdin.read()",
-                                   stdin=subprocess.PIPE)
+        other = self.machine.start(
+            "/usr/bin/python3",
+            "-c",
+            "import socket, sys\ns = socket.socket(); s.bind(('127.0.0.2', 9050)); s.listen()\n"
+            "open('/run/units/up', 'w').close(); sys.stdin.read()",
+            stdin=subprocess.PIPE,
+        )
         self.machine.shell("until [ -e /run/units/up ]; do sleep 0.01; done")
         try:
             self.machine.connect()
@@ -130,7 +140,9 @@ class Service(HelperTest):
         self.machine.shell(f"touch /run/units/{TOR_UNIT}.stuck")
         self.assertOneLine(self.machine.connect(strict=0, check=False), f"({TOR_UNIT}) cannot be stopped")
         self.assertGivenBack()
-        self.assertOneLine(self.machine.connect(strict=1, check=False), "cannot be stopped. The network stays blocked until you disconnect.")
+        self.assertOneLine(
+            self.machine.connect(strict=1, check=False), "cannot be stopped. The network stays blocked until you disconnect."
+        )
         self.machine.shell(f"rm /run/units/{TOR_UNIT}.stuck")
         self.machine.help("disconnect")
         self.assertGivenBack()
@@ -138,7 +150,9 @@ class Service(HelperTest):
     def test_one_that_cannot_be_started_again_is_tried_again(self):
         self.connect_again()
         self.machine.shell(f"touch /run/units/{TOR_UNIT}.stuck")
-        self.assertOneLine(self.machine.help("disconnect", check=False), "could not be started again. Try: systemctl start tor@default.service.")
+        self.assertOneLine(
+            self.machine.help("disconnect", check=False), "could not be started again. Try: systemctl start tor@default.service."
+        )
         self.assertNotIn("table inet", self.machine.shell("nft list ruleset"))
         self.assertEqual(self.machine.shell(f"ls {STATE} 2>/dev/null || true"), "")
         self.machine.shell(f"rm /run/units/{TOR_UNIT}.stuck")
@@ -159,8 +173,10 @@ class Service(HelperTest):
 
     def test_no_other_service_is_started(self):
         self.connect_again()
-        self.machine.shell("cp /run/units/tor@default.service /run/units/tor@other.service;"
-                           f"sed -i 's/^unit .*/unit tor@other.service/' {ENTRY}; rm /run/units/said")
+        self.machine.shell(
+            "cp /run/units/tor@default.service /run/units/tor@other.service;"
+            f"sed -i 's/^unit .*/unit tor@other.service/' {ENTRY}; rm /run/units/said"
+        )
         self.machine.help("disconnect")
         self.assertNotIn("start", self.machine.shell("cat /run/units/said 2>/dev/null || true"))
 

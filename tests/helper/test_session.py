@@ -49,8 +49,12 @@ class Session(HelperTest):
             self.assertNotEqual(self.machine.run("cat", path, uid=4243, check=False).returncode, 0)
             # Neither may who shares the user's primary group, which on some systems is everybody.
             self.machine.run("setpriv", "--reuid=4243", f"--regid={namespace.USER_UID}", "--clear-groups", "true")
-            self.assertNotEqual(self.machine.run("setpriv", "--reuid=4243", f"--regid={namespace.USER_UID}", "--clear-groups", "cat", path,
-                                                 check=False).returncode, 0)
+            self.assertNotEqual(
+                self.machine.run(
+                    "setpriv", "--reuid=4243", f"--regid={namespace.USER_UID}", "--clear-groups", "cat", path, check=False
+                ).returncode,
+                0,
+            )
         self.assertIn("opening new log file", self.machine.shell("cat /var/lib/veldmark/run/notices.log"))
 
     def test_tor_has_no_rights_and_no_descriptor_of_ours(self):
@@ -58,7 +62,7 @@ class Session(HelperTest):
         [pid] = self.machine.tor_pids()
         status = self.machine.shell(f"cat /proc/{pid}/status")
         for field in "CapInh", "CapPrm", "CapEff", "CapBnd", "CapAmb":
-            self.assertRegex(status, rf"{field}:\s+0+400\n")   # CAP_NET_BIND_SERVICE, for the port for look-ups
+            self.assertRegex(status, rf"{field}:\s+0+400\n")  # CAP_NET_BIND_SERVICE, for the port for look-ups
         self.assertRegex(status, r"NoNewPrivs:\s+1\n")
         self.assertRegex(status, r"Groups:\s*\n")
         for kind in "mnt", "pid":
@@ -70,7 +74,7 @@ class Session(HelperTest):
         self.assertIn("flock ok", self.machine.shell("flock -n /run/veldmark.lock echo flock ok"))
 
     def test_tor_keeps_the_former_resolvers(self):
-        for _ in range(2):   # a second connect, over a switched resolver, too
+        for _ in range(2):  # a second connect, over a switched resolver, too
             self.machine.connect()
             [pid] = self.machine.tor_pids()
             self.assertEqual(self.machine.shell(f"cat /proc/{pid}/root/etc/resolv.conf"), "nameserver 192.0.2.53\n")
@@ -78,14 +82,24 @@ class Session(HelperTest):
     def test_tor_cannot_load_code_from_users_folders(self):
         self.machine.connect()
         [pid] = self.machine.tor_pids()
-        options = {line.split()[4]: line.split()[5] for line in
-                   self.machine.shell(f"cat /proc/{pid}/mountinfo").splitlines()}
+        options = {line.split()[4]: line.split()[5] for line in self.machine.shell(f"cat /proc/{pid}/mountinfo").splitlines()}
         for place in "/home", "/tmp", "/var/tmp", "/dev/shm":
             self.assertIn("noexec", options[place])
 
     def test_inherited_descriptors_do_not_reach_tor(self):
-        self.machine.shell("exec 3</etc/passwd 12</etc/group 37</etc/hosts; exec /bin/bash \"$@\"", self.machine.helper,
-                           "connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0")
+        self.machine.shell(
+            'exec 3</etc/passwd 12</etc/group 37</etc/hosts; exec /bin/bash "$@"',
+            self.machine.helper,
+            "connect",
+            "--tor",
+            TOR,
+            "--hash",
+            HASH,
+            "--strict",
+            "1",
+            "--lan",
+            "0",
+        )
         [pid] = self.machine.tor_pids()
         listing = self.machine.shell(f"ls -l /proc/{pid}/fd")
         for name in "/etc/passwd", "/etc/group", "/etc/hosts":
@@ -106,7 +120,7 @@ class Session(HelperTest):
         self.machine.connect(strict=0)
         self.assertEqual(self.marker(), "proxy\n")
         self.assertNotIn("policy drop", self.machine.run("nft", "list", "ruleset").stdout)
-        self.assertEqual(self.machine.shell(traces), "")   # what only a strict session has goes with it
+        self.assertEqual(self.machine.shell(traces), "")  # what only a strict session has goes with it
         self.machine.connect(strict=1)
         self.assertEqual(self.marker(), "strict\n")
         self.assertIn("policy drop", self.machine.run("nft", "list", "ruleset").stdout)
@@ -127,9 +141,12 @@ class Session(HelperTest):
     def take_port(self, port):
         """For IPv6 and IPv4 at once: whether such a one is in Tor's way only Tor finds out."""
         holder = self.machine.start(
-            "/usr/bin/python3", "-c",
+            "/usr/bin/python3",
+            "-c",
             f"import socket, sys; s = socket.create_server(('::', {port}), family=socket.AF_INET6, dualstack_ipv6=True); print('up', flush=True); sys.stdin.read()",
-            stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+            stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE,
+        )
         self.assertEqual(holder.stdout.readline(), b"up\n")
         self.addCleanup(holder.wait)
         self.addCleanup(holder.communicate)
@@ -187,7 +204,9 @@ class Session(HelperTest):
 
     def test_firewall_that_cannot_be_opened_keeps_the_marker(self):
         self.machine.connect(strict=1)
-        self.machine.shell("printf '#!/bin/sh\necho no >&2; exit 1\n' >/mnt/nft; chmod +x /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft")
+        self.machine.shell(
+            "printf '#!/bin/sh\necho no >&2; exit 1\n' >/mnt/nft; chmod +x /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft"
+        )
         try:
             self.assertOneLine(self.machine.help("disconnect", check=False), "firewall")
             self.assertEqual(self.marker(), "strict\n")
@@ -205,7 +224,7 @@ class Session(HelperTest):
         bystander = self.machine.start("sleep", "1000")
         self.addCleanup(bystander.wait)
         pid = self.machine.shell("until pgrep -x sleep; do :; done").strip()
-        self.machine.shell("kill -9 $(pgrep -u _veldmark); sed -i \"s/^pid .*/pid $1/\" /var/lib/veldmark/journal/20-tor", pid)
+        self.machine.shell('kill -9 $(pgrep -u _veldmark); sed -i "s/^pid .*/pid $1/" /var/lib/veldmark/journal/20-tor', pid)
         self.machine.help("disconnect")
         self.assertEqual(self.machine.shell("pgrep -x sleep").strip(), pid)
         self.machine.run("kill", pid)
@@ -220,9 +239,13 @@ class Session(HelperTest):
         self.machine.shell(f"sed -i 's/^boot .*/boot other/' {entry}")
         self.machine.help("disconnect")
         self.assertEqual(self.machine.tor_pids(), [tor])
-        self.machine.shell(f"printf 'pid %s\nstart %s\nboot %s\nend\n' $(ps -o ppid= -p $1) $(cut -d' ' -f22 /proc/$(ps -o ppid= -p $1 | tr -d ' ')/stat) $2 >{entry};"
-                           f"chmod 600 {entry}", tor, boot)
-        self.machine.help("disconnect")   # the same note of this run of the computer ends it
+        self.machine.shell(
+            f"printf 'pid %s\nstart %s\nboot %s\nend\n' $(ps -o ppid= -p $1) $(cut -d' ' -f22 /proc/$(ps -o ppid= -p $1 | tr -d ' ')/stat) $2 >{entry};"
+            f"chmod 600 {entry}",
+            tor,
+            boot,
+        )
+        self.machine.help("disconnect")  # the same note of this run of the computer ends it
         self.assertEqual(self.machine.tor_pids(), [])
 
     def test_folders_that_cannot_be_looked_at_stop_everything(self):
@@ -241,8 +264,10 @@ class Session(HelperTest):
     def test_disconnect_after_a_restart_of_the_computer(self):
         self.machine.connect()
         self.machine.end_watcher()
-        self.machine.shell("kill -9 $(pgrep -u _veldmark); umount /etc/resolv.conf; nft delete table inet veldmark;"
-                           "sed -i 's/^boot .*/boot other/' /var/lib/veldmark/journal/20-tor; rm /run/veldmark.lock")
+        self.machine.shell(
+            "kill -9 $(pgrep -u _veldmark); umount /etc/resolv.conf; nft delete table inet veldmark;"
+            "sed -i 's/^boot .*/boot other/' /var/lib/veldmark/journal/20-tor; rm /run/veldmark.lock"
+        )
         self.machine.help("disconnect")
         self.assertEqual(self.marker(), "")
 
@@ -261,17 +286,21 @@ class Session(HelperTest):
 
     def test_journal_that_others_could_write_is_not_believed(self):
         self.machine.connect()
-        self.machine.shell("chmod 0777 /var/lib/veldmark/journal; printf 'target /etc/hosts\ncreated 1\nend\n'"
-                           ">/var/lib/veldmark/journal/30-resolver")
+        self.machine.shell(
+            "chmod 0777 /var/lib/veldmark/journal; printf 'target /etc/hosts\ncreated 1\nend\n'"
+            ">/var/lib/veldmark/journal/30-resolver"
+        )
         self.machine.help("disconnect")
         self.machine.shell("test -e /etc/hosts; chmod 0700 /var/lib/veldmark/journal")
         self.machine.help("disconnect")
 
     def test_links_are_replaced_and_never_followed(self):
         """Where a link stands, a new file takes its place; a folder or a lock that is one is refused."""
-        self.machine.shell("echo mine >/run/mine; cd /var/lib/veldmark; for name in state/active state/active.new journal/10-firewall journal/20-tor.new"
-                           " run/torrc run/torrc.checked run/firewall.nft run/firewall.nft.new run/notices.log run/launcher.out run/tor-resolv.conf;"
-                           " do ln -sf /run/mine $name; done")
+        self.machine.shell(
+            "echo mine >/run/mine; cd /var/lib/veldmark; for name in state/active state/active.new journal/10-firewall journal/20-tor.new"
+            " run/torrc run/torrc.checked run/firewall.nft run/firewall.nft.new run/notices.log run/launcher.out run/tor-resolv.conf;"
+            " do ln -sf /run/mine $name; done"
+        )
         before = self.machine.shell("stat -c '%i %a %u %Y' /run/mine")
         self.machine.connect()
         self.assertEqual(self.marker(), "strict\n")
@@ -285,11 +314,15 @@ class Session(HelperTest):
 
     def test_file_that_is_no_resolver_file_is_not_shown_to_everybody(self):
         """A link in a folder of somebody else's may lead anywhere by the time that it is read."""
-        self.machine.shell("cp -a /etc/resolv.conf /run/former; printf 'root:secret:\\nnameserver 192.0.2.7\\noptions edns0' >/run/private;"
-                           "ln -sfn /run/private /etc/resolv.conf")
+        self.machine.shell(
+            "cp -a /etc/resolv.conf /run/former; printf 'root:secret:\\nnameserver 192.0.2.7\\noptions edns0' >/run/private;"
+            "ln -sfn /run/private /etc/resolv.conf"
+        )
         try:
             self.machine.connect()
-            self.assertEqual(self.machine.shell("cat /var/lib/veldmark/run/tor-resolv.conf"), "nameserver 192.0.2.7\noptions edns0\n")
+            self.assertEqual(
+                self.machine.shell("cat /var/lib/veldmark/run/tor-resolv.conf"), "nameserver 192.0.2.7\noptions edns0\n"
+            )
             self.machine.help("disconnect")
         finally:
             self.machine.shell("rm /etc/resolv.conf; mv /run/former /etc/resolv.conf")
@@ -321,8 +354,10 @@ class Session(HelperTest):
             self.machine.shell(f"chmod 0755 {folder}")
 
     def test_full_disk_changes_nothing(self):
-        self.machine.shell("mount -t tmpfs -o size=64k,mode=755 small /var/lib/veldmark;"
-                           "head -c 65536 /dev/zero >/var/lib/veldmark/filler || true")
+        self.machine.shell(
+            "mount -t tmpfs -o size=64k,mode=755 small /var/lib/veldmark;"
+            "head -c 65536 /dev/zero >/var/lib/veldmark/filler || true"
+        )
         done = self.machine.connect(check=False)
         rules = self.machine.run("nft", "list", "ruleset").stdout
         self.machine.shell("umount /var/lib/veldmark")
@@ -330,8 +365,10 @@ class Session(HelperTest):
         self.assertEqual(rules, "")
 
     def test_journal_that_cannot_be_written_changes_nothing(self):
-        self.machine.shell("rm -rf /var/lib/veldmark/journal; mkdir /mnt/j; mkdir -m 0700 /var/lib/veldmark/journal;"
-                           "mount -t tmpfs -o ro,mode=700 j /var/lib/veldmark/journal")
+        self.machine.shell(
+            "rm -rf /var/lib/veldmark/journal; mkdir /mnt/j; mkdir -m 0700 /var/lib/veldmark/journal;"
+            "mount -t tmpfs -o ro,mode=700 j /var/lib/veldmark/journal"
+        )
         done = self.machine.connect(check=False)
         self.machine.shell("umount /var/lib/veldmark/journal; rmdir /mnt/j")
         self.assertOneLine(done, "journal")
@@ -359,8 +396,21 @@ class Session(HelperTest):
         self.assertEqual(self.machine.shell("stat -c %i /var/lib/veldmark/run/tor/data"), first)
 
     def test_ctrl_c_does_not_stop_it_half_way(self):
-        run = self.machine.start("setsid", "/bin/bash", self.machine.helper, "connect", "--tor", TOR, "--hash", HASH,
-                                 "--strict", "1", "--lan", "0", stdin=subprocess.DEVNULL)
+        run = self.machine.start(
+            "setsid",
+            "/bin/bash",
+            self.machine.helper,
+            "connect",
+            "--tor",
+            TOR,
+            "--hash",
+            HASH,
+            "--strict",
+            "1",
+            "--lan",
+            "0",
+            stdin=subprocess.DEVNULL,
+        )
         marker = f"/proc/{self.machine.pid}/root{MARKER}"
         while run.poll() is None and not os.path.exists(marker):
             pass
@@ -392,7 +442,9 @@ class ResolverFile(HelperTest):
         self.assertEqual(self.machine.snapshot(), before)
 
     def test_link(self):
-        self.cycle("mkdir -p /run/resolver; echo 'nameserver 192.0.2.7' >'/run/resolver/a b'; ln -sf '/run/resolver/a b' /etc/resolv.conf")
+        self.cycle(
+            "mkdir -p /run/resolver; echo 'nameserver 192.0.2.7' >'/run/resolver/a b'; ln -sf '/run/resolver/a b' /etc/resolv.conf"
+        )
 
     def test_dangling_link(self):
         self.cycle("mkdir -p /run/none; ln -sf /run/none/file /etc/resolv.conf")
@@ -418,14 +470,20 @@ class ResolverFile(HelperTest):
         self.assertEqual(self.machine.shell("ls -d /run/nowhere || true"), "")
 
     def test_somebody_elses_mount_below_ours_stays(self):
-        self.cycle("rm -f /etc/resolv.conf; echo >/etc/resolv.conf; echo 'nameserver 192.0.2.8' >/run/theirs;"
-                   "mount --bind /run/theirs /etc/resolv.conf")
+        self.cycle(
+            "rm -f /etc/resolv.conf; echo >/etc/resolv.conf; echo 'nameserver 192.0.2.8' >/run/theirs;"
+            "mount --bind /run/theirs /etc/resolv.conf"
+        )
         self.machine.shell("umount /etc/resolv.conf")
 
     def test_local_resolver_is_passed_over_for_the_servers_that_it_asks(self):
-        self.machine.shell("rm -f /etc/resolv.conf; echo 'nameserver 127.0.0.53' >/etc/resolv.conf;"
-                           "mkdir -p /run/systemd/resolve; echo 'nameserver 192.0.2.9' >/run/systemd/resolve/resolv.conf")
-        self.machine.connect(more=["--bridge", "meek_lite 192.0.2.1:80 url=https://a.example/", "--pt-lyrebird", "/usr/bin/obfs4proxy"])
+        self.machine.shell(
+            "rm -f /etc/resolv.conf; echo 'nameserver 127.0.0.53' >/etc/resolv.conf;"
+            "mkdir -p /run/systemd/resolve; echo 'nameserver 192.0.2.9' >/run/systemd/resolve/resolv.conf"
+        )
+        self.machine.connect(
+            more=["--bridge", "meek_lite 192.0.2.1:80 url=https://a.example/", "--pt-lyrebird", "/usr/bin/obfs4proxy"]
+        )
         [tor] = [pid for pid in self.machine.tor_pids() if "tor" in self.machine.shell(f"cat /proc/{pid}/comm")][:1]
         self.assertEqual(self.machine.shell(f"cat /proc/{tor}/root/etc/resolv.conf"), "nameserver 192.0.2.9\n")
         self.assertRegex(self.machine.run("nft", "list", "ruleset").stdout, r"ip daddr 192\.0\.2\.9 udp dport 53 accept")

@@ -29,15 +29,17 @@ DNSPort 127.0.0.1:293
 """
 
     def test_plain(self):
-        self.assertEqual(call(f"OPT_HASH={HASH}; print_torrc 0"),
-                         self.HEAD + "ClientOnly 1\nAvoidDiskWrites 1\nNoExec 1\n")
+        self.assertEqual(call(f"OPT_HASH={HASH}; print_torrc 0"), self.HEAD + "ClientOnly 1\nAvoidDiskWrites 1\nNoExec 1\n")
 
     def test_everything(self):
         self.assertEqual(
-            call(f"OPT_HASH={HASH} OPT_EXIT=de OPT_LYREBIRD=/usr/bin/lyrebird OPT_SNOWFLAKE=/usr/bin/snowflake-client;"
-                 "OPT_BRIDGES=('192.0.2.1:1' 'obfs4 192.0.2.2:2 cert=a' 'webtunnel 192.0.2.3:3' 'snowflake [2001:db8::4]:4'"
-                 " 'obfs4 192.0.2.5:5'); choose_transports; print_torrc 1"),
-            self.HEAD + """DNSPort [::1]:293
+            call(
+                f"OPT_HASH={HASH} OPT_EXIT=de OPT_LYREBIRD=/usr/bin/lyrebird OPT_SNOWFLAKE=/usr/bin/snowflake-client;"
+                "OPT_BRIDGES=('192.0.2.1:1' 'obfs4 192.0.2.2:2 cert=a' 'webtunnel 192.0.2.3:3' 'snowflake [2001:db8::4]:4'"
+                " 'obfs4 192.0.2.5:5'); choose_transports; print_torrc 1"
+            ),
+            self.HEAD
+            + """DNSPort [::1]:293
 ClientOnly 1
 AvoidDiskWrites 1
 ExitNodes {de}
@@ -50,7 +52,8 @@ Bridge snowflake [2001:db8::4]:4
 Bridge obfs4 192.0.2.5:5
 ClientTransportPlugin obfs4,webtunnel exec /usr/bin/lyrebird
 ClientTransportPlugin snowflake exec /usr/bin/snowflake-client
-""")
+""",
+        )
 
     def test_webtunnel_client_serves_webtunnel_when_given(self):
         text = call("OPT_LYREBIRD=/l OPT_WEBTUNNEL=/w; OPT_BRIDGES=('webtunnel 192.0.2.3:3'); choose_transports; print_torrc 0")
@@ -65,26 +68,47 @@ class Rules(unittest.TestCase):
             self.assertEqual(re.findall(r"(.*) jump tors_account", text), ["\t\tmeta skuid 99"])
             account = re.search(r"chain tors_account {\n(.*?)\t}", text, re.DOTALL).group(1)
             return set(text.splitlines()), account.splitlines()
+
         plain, account = lines("0 0 '' ''")
-        self.assertEqual(account[:2] + account[-2:], ["\t\tct direction reply goto refused", "\t\ttcp flags & syn == 0 accept",
-                                                      "\t\tmeta l4proto tcp accept", "\t\tgoto refused"])
-        for arguments, added in (("0 1 '' ''", ["\t\tmeta l4proto udp accept"]),
-                                 ("0 0 192.0.2.1 2001:db8::1", ["\t\tip daddr { 192.0.2.1 } udp dport 53 accept",
-                                                               "\t\tip6 daddr { 2001:db8::1 } udp dport 53 accept"])):
+        self.assertEqual(
+            account[:2] + account[-2:],
+            [
+                "\t\tct direction reply goto refused",
+                "\t\ttcp flags & syn == 0 accept",
+                "\t\tmeta l4proto tcp accept",
+                "\t\tgoto refused",
+            ],
+        )
+        for arguments, added in (
+            ("0 1 '' ''", ["\t\tmeta l4proto udp accept"]),
+            (
+                "0 0 192.0.2.1 2001:db8::1",
+                ["\t\tip daddr { 192.0.2.1 } udp dport 53 accept", "\t\tip6 daddr { 2001:db8::1 } udp dport 53 accept"],
+            ),
+        ):
             more, account_more = lines(arguments)
             self.assertEqual(sorted(account_more), sorted(account + added))
             self.assertEqual(more - plain, set(added))
         self.assertEqual(lines("0 0 '' '' '' 1")[1], [account[0], *account[-2:]])
-        self.assertEqual(lines("0 0 '' '' '' '' '192.0.2.1 . 443' '2001:db8::1 . 9'")[1],
-                         [account[0], "\t\tip daddr . tcp dport { 192.0.2.1 . 443 } accept", "\t\tip6 daddr . tcp dport { 2001:db8::1 . 9 } accept", account[-1]])
+        self.assertEqual(
+            lines("0 0 '' '' '' '' '192.0.2.1 . 443' '2001:db8::1 . 9'")[1],
+            [
+                account[0],
+                "\t\tip daddr . tcp dport { 192.0.2.1 . 443 } accept",
+                "\t\tip6 daddr . tcp dport { 2001:db8::1 . 9 } accept",
+                account[-1],
+            ],
+        )
         opened = lines("1 0 '' ''")[0] - plain
         self.assertIn("\t\tip daddr 192.168.0.0/16 goto local_network", opened)
         self.assertIn("\t\tip6 daddr fc00::/7 goto local_network", opened)
 
     def test_the_local_network_is_the_private_ranges_alone(self):
         text = call("print_strict_rules 99 1000 1 0 '' ''")
-        self.assertEqual(re.findall(r"daddr (\S+) goto local_network", text),
-                         ["192.168.0.0/16", "10.0.0.0/8", "172.16.0.0/12", "169.254.0.0/16", "fe80::/10", "fc00::/7"])
+        self.assertEqual(
+            re.findall(r"daddr (\S+) goto local_network", text),
+            ["192.168.0.0/16", "10.0.0.0/8", "172.16.0.0/12", "169.254.0.0/16", "fe80::/10", "fc00::/7"],
+        )
 
     def test_refusals_come_before_the_local_network(self):
         text = call("print_strict_rules 99 1000 1 0 '' ''")
@@ -92,19 +116,35 @@ class Rules(unittest.TestCase):
             body = re.search(rf"chain {chain} {{(.*?)\n\t}}", text, re.DOTALL).group(1)
             self.assertLess(body.index(refused), body.index("\t\taccept"))
 
-    BRIDGES = {   # the lines, and what Tor may send to; None for everybody
+    BRIDGES = {  # the lines, and what Tor may send to; None for everybody
         ("192.0.2.1:443",): "192.0.2.1 . 443|",
-        ("obfs4 192.0.2.1:444 ABC cert=a iat-mode=0", "[2001:db8::1]:9 ABC", "scramblesuit 192.0.2.2:1", "obfs3 192.0.2.3:65535"):
-            "192.0.2.1 . 444, 192.0.2.2 . 1, 192.0.2.3 . 65535|2001:db8::1 . 9",
+        (
+            "obfs4 192.0.2.1:444 ABC cert=a iat-mode=0",
+            "[2001:db8::1]:9 ABC",
+            "scramblesuit 192.0.2.2:1",
+            "obfs3 192.0.2.3:65535",
+        ): "192.0.2.1 . 444, 192.0.2.2 . 1, 192.0.2.3 . 65535|2001:db8::1 . 9",
         ("192.0.2.1:443 " + "A" * 40 + " url=https://192.0.2.9:8/",): "192.0.2.1 . 443|",
-        (): None, ("192.0.2.1:443", "webtunnel 192.0.2.3:80 url=https://a.example/"): None, ("snowflake 192.0.2.3:80",): None,
-        ("meek_lite 192.0.2.3:80 url=https://a.example/",): None, ("192.0.2.1:443", "010.2.3.4:443"): None, ("256.1.1.1:443",): None, ("2001:db8::1:443",): None,
-        ("[::ffff:1.2.3.4]:443",): None, ("192.0.2.1:65536",): None, ("192.0.2.1:0",): None, ("192.0.2.1:0443",): None, ("obfs4x 192.0.2.1:443",): None}
+        (): None,
+        ("192.0.2.1:443", "webtunnel 192.0.2.3:80 url=https://a.example/"): None,
+        ("snowflake 192.0.2.3:80",): None,
+        ("meek_lite 192.0.2.3:80 url=https://a.example/",): None,
+        ("192.0.2.1:443", "010.2.3.4:443"): None,
+        ("256.1.1.1:443",): None,
+        ("2001:db8::1:443",): None,
+        ("[::ffff:1.2.3.4]:443",): None,
+        ("192.0.2.1:65536",): None,
+        ("192.0.2.1:0",): None,
+        ("192.0.2.1:0443",): None,
+        ("obfs4x 192.0.2.1:443",): None,
+    }
 
     def test_bridges_that_are_all_that_tor_needs(self):
         for lines, wanted in self.BRIDGES.items():
             words = " ".join(f"'{line}'" for line in lines)
-            self.assertEqual(call(f"OPT_BRIDGES=({words}); list_bridges; printf '%s|%s' \"$BRIDGES4\" \"$BRIDGES6\""), wanted or "|", lines)
+            self.assertEqual(
+                call(f'OPT_BRIDGES=({words}); list_bridges; printf \'%s|%s\' "$BRIDGES4" "$BRIDGES6"'), wanted or "|", lines
+            )
 
     def test_one_transaction_replaces_the_table(self):
         for rules in call("print_strict_rules 99 0 0 0 '' ''"), call("print_proxy_rules 99 0"):
@@ -115,11 +155,33 @@ class Rules(unittest.TestCase):
 
 
 class Resolver(unittest.TestCase):
-    SERVERS4 = {"192.0.2.1": "192.0.2.1", "127.0.0.53": "", "256.0.0.1": "", "1.2.3": "", "1.2.3.4.5": "", "a.b.c.d": "",
-                "010.2.3.4": "010.2.3.4", "1.2.3.4}": "", "0.0.0.0": ""}
-    SERVERS6 = {"2001:db8::1": "2001:db8::1", "::1": "", "fe80::1%eth0": "fe80::1", "1:2:3:4:5:6:7:8": "1:2:3:4:5:6:7:8",
-                "1:2:3:4:5:6:7": "", "1::2::3": "", ":::1": "", "12345::1": "", "g::1": "", "1:2:3:4:5:6:7:8:9": "", ":1::2": "",
-                "::": "", "::ffff:1.2.3.4": "", "1::": "1::"}
+    SERVERS4 = {
+        "192.0.2.1": "192.0.2.1",
+        "127.0.0.53": "",
+        "256.0.0.1": "",
+        "1.2.3": "",
+        "1.2.3.4.5": "",
+        "a.b.c.d": "",
+        "010.2.3.4": "010.2.3.4",
+        "1.2.3.4}": "",
+        "0.0.0.0": "",
+    }
+    SERVERS6 = {
+        "2001:db8::1": "2001:db8::1",
+        "::1": "",
+        "fe80::1%eth0": "fe80::1",
+        "1:2:3:4:5:6:7:8": "1:2:3:4:5:6:7:8",
+        "1:2:3:4:5:6:7": "",
+        "1::2::3": "",
+        ":::1": "",
+        "12345::1": "",
+        "g::1": "",
+        "1:2:3:4:5:6:7:8:9": "",
+        ":1::2": "",
+        "::": "",
+        "::ffff:1.2.3.4": "",
+        "1::": "1::",
+    }
 
     def test_servers_that_the_rules_can_hold(self):
         for family, table in ("4", self.SERVERS4), ("6", self.SERVERS6):
@@ -128,7 +190,9 @@ class Resolver(unittest.TestCase):
                     self.assertEqual(call(f"list_servers {family} 'nameserver {server}'"), wanted)
 
     def test_other_lines_are_passed_over(self):
-        text = "# nameserver 192.0.2.1\nsearch x\nnameserver 192.0.2.2 more\n\tnameserver 192.0.2.3\nnameserver 192.0.2.2\nnameserver"
+        text = (
+            "# nameserver 192.0.2.1\nsearch x\nnameserver 192.0.2.2 more\n\tnameserver 192.0.2.3\nnameserver 192.0.2.2\nnameserver"
+        )
         self.assertEqual(call(f"list_servers 4 '{text}'"), "192.0.2.2, 192.0.2.3")
 
     def test_ipv6_only_where_tor_listens(self):
@@ -138,15 +202,12 @@ class Resolver(unittest.TestCase):
 
 class Reasons(unittest.TestCase):
     CASES = {
-        "Nov 20 00:00:00.000 [warn] Failed to parse/validate config: Bad port\nNov 20 00:00:00.000 [err] Reading config failed--see warnings above.":
-            "Failed to parse/validate config: Bad port",
+        "Nov 20 00:00:00.000 [warn] Failed to parse/validate config: Bad port\nNov 20 00:00:00.000 [err] Reading config failed--see warnings above.": "Failed to parse/validate config: Bad port",
         "Nov 20 00:00:00.000 [warn] first\nNov 20 00:00:00.000 [err] second\nNov 20 00:00:00.000 [notice] third": "second",
         "Nov 20 00:00:00.000 [warn] Could not bind to 127.0.0.1:9050: Address already in use. Is Tor already running?\n"
         "Nov 20 00:00:00.000 [warn] Failed to parse/validate config: Failed to bind one of the listener ports.\n"
-        "Nov 20 00:00:00.000 [err] Reading config failed--see warnings above.":
-            "Could not bind to 127.0.0.1:9050: Address already in use.",
-        "Nov 20 00:00:00.000 [warn] Failed to parse/validate config: Failed to bind one of the listener ports.":
-            "Failed to parse/validate config: Failed to bind one of the listener ports.",
+        "Nov 20 00:00:00.000 [err] Reading config failed--see warnings above.": "Could not bind to 127.0.0.1:9050: Address already in use.",
+        "Nov 20 00:00:00.000 [warn] Failed to parse/validate config: Failed to bind one of the listener ports.": "Failed to parse/validate config: Failed to bind one of the listener ports.",
         "cannot execute binary file": "cannot execute binary file",
         "": "",
     }

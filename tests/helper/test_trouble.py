@@ -11,7 +11,7 @@ from wire import Wire
 
 STATE = "/var/lib/veldmark"
 OTHER_TOR = "/usr/local/other/tor"
-DISK = 256   # kilobytes; our own folder gets a file system of its own
+DISK = 256  # kilobytes; our own folder gets a file system of its own
 CLOSED = "The network stays blocked until you disconnect."
 # What a few bytes less than needed are, is for the file system to say: from nothing to enough for a whole connect.
 SPARE = (0, 4, 8, 12, 16, 24, 32, 48)
@@ -19,33 +19,57 @@ NOT_EXECUTABLE = "touch /mnt/empty; mount --bind /mnt/empty {0}"
 
 
 def fill(spare):
-    return (f"dd if=/dev/zero of={STATE}/spare bs=1k count={spare} 2>/dev/null; cat /dev/zero >{STATE}/filler 2>/dev/null; rm -f {STATE}/spare")
+    return f"dd if=/dev/zero of={STATE}/spare bs=1k count={spare} 2>/dev/null; cat /dev/zero >{STATE}/filler 2>/dev/null; rm -f {STATE}/spare"
 
 
 # name: (how it begins, how it ends, the tor that is asked for)
 TROUBLES = {f"a disk with {spare} kB left": (fill(spare), f"rm {STATE}/filler", TOR) for spare in SPARE} | {
     "a folder that is read-only": (f"mount --rbind {STATE} {STATE}; mount -o remount,bind,ro {STATE}", f"umount -l {STATE}", TOR),
-    "a state folder that is read-only": (f"mount --bind {STATE}/state {STATE}/state; mount -o remount,bind,ro {STATE}/state",
-                                         f"umount {STATE}/state", TOR),
-    "a journal that is read-only": (f"mount --bind {STATE}/journal {STATE}/journal; mount -o remount,bind,ro {STATE}/journal",
-                                    f"umount {STATE}/journal", TOR),
+    "a state folder that is read-only": (
+        f"mount --bind {STATE}/state {STATE}/state; mount -o remount,bind,ro {STATE}/state",
+        f"umount {STATE}/state",
+        TOR,
+    ),
+    "a journal that is read-only": (
+        f"mount --bind {STATE}/journal {STATE}/journal; mount -o remount,bind,ro {STATE}/journal",
+        f"umount {STATE}/journal",
+        TOR,
+    ),
     "no nft": (NOT_EXECUTABLE.format("/usr/sbin/nft"), "umount /usr/sbin/nft", TOR),
-    "an nft that fails": ("printf '#!/bin/sh\\necho broken >&2; exit 1\\n' >/mnt/nft; chmod +x /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft",
-                          "umount /usr/sbin/nft", TOR),
-    "an nft that is killed": ("printf '#!/bin/sh\\nkill -9 $$\\n' >/mnt/nft; chmod +x /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft",
-                              "umount /usr/sbin/nft", TOR),
-    "a stat that fails": ("printf '#!/bin/sh\\nexit 1\\n' >/mnt/stat; chmod +x /mnt/stat; mount --bind /mnt/stat /usr/bin/stat",
-                          "umount /usr/bin/stat", TOR),
+    "an nft that fails": (
+        "printf '#!/bin/sh\\necho broken >&2; exit 1\\n' >/mnt/nft; chmod +x /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft",
+        "umount /usr/sbin/nft",
+        TOR,
+    ),
+    "an nft that is killed": (
+        "printf '#!/bin/sh\\nkill -9 $$\\n' >/mnt/nft; chmod +x /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft",
+        "umount /usr/sbin/nft",
+        TOR,
+    ),
+    "a stat that fails": (
+        "printf '#!/bin/sh\\nexit 1\\n' >/mnt/stat; chmod +x /mnt/stat; mount --bind /mnt/stat /usr/bin/stat",
+        "umount /usr/bin/stat",
+        TOR,
+    ),
     "no flock": (NOT_EXECUTABLE.format("/usr/bin/flock"), "umount /usr/bin/flock", TOR),
     "no mount": (NOT_EXECUTABLE.format("/usr/bin/mount"), "umount /usr/bin/mount", TOR),
     "no tor": (f"mv {OTHER_TOR} {OTHER_TOR}.away", f"mv {OTHER_TOR}.away {OTHER_TOR}", OTHER_TOR),
     "a tor that is not executable": (f"chmod -x {OTHER_TOR}", f"chmod +x {OTHER_TOR}", OTHER_TOR),
-    "a tor that is a folder": (f"mv {OTHER_TOR} {OTHER_TOR}.away; mkdir {OTHER_TOR}", f"rmdir {OTHER_TOR}; mv {OTHER_TOR}.away {OTHER_TOR}", OTHER_TOR),
-    "a tor that is no program": (f"mv {OTHER_TOR} {OTHER_TOR}.away; head -c 99 /dev/zero >{OTHER_TOR}; chmod 755 {OTHER_TOR}",
-                                 f"mv -f {OTHER_TOR}.away {OTHER_TOR}", OTHER_TOR),
+    "a tor that is a folder": (
+        f"mv {OTHER_TOR} {OTHER_TOR}.away; mkdir {OTHER_TOR}",
+        f"rmdir {OTHER_TOR}; mv {OTHER_TOR}.away {OTHER_TOR}",
+        OTHER_TOR,
+    ),
+    "a tor that is no program": (
+        f"mv {OTHER_TOR} {OTHER_TOR}.away; head -c 99 /dev/zero >{OTHER_TOR}; chmod 755 {OTHER_TOR}",
+        f"mv -f {OTHER_TOR}.away {OTHER_TOR}",
+        OTHER_TOR,
+    ),
     "a tor that dies after its check": (
         f"mv {OTHER_TOR} {OTHER_TOR}.away; printf '#!/bin/sh\\ncase \"$*\" in *verify*) exit 0 ;; esac\\nexit 7\\n' >{OTHER_TOR}; chmod 755 {OTHER_TOR}",
-        f"mv -f {OTHER_TOR}.away {OTHER_TOR}", OTHER_TOR),
+        f"mv -f {OTHER_TOR}.away {OTHER_TOR}",
+        OTHER_TOR,
+    ),
 }
 SOME_ROOM = {f"a disk with {spare} kB left" for spare in SPARE[2:]}
 
@@ -60,8 +84,10 @@ class Trouble(HelperTest):
         # Tor's own data needs more room than the trouble is about.
         cls.machine.connect()
         cls.machine.help("disconnect")
-        cls.machine.shell(f"rm -rf {STATE}/run/tor/data; mkdir /run/data; chown _veldmark: /run/data; chmod 700 /run/data; mkdir -m 700 {STATE}/run/tor/data;"
-                          f"mount --bind /run/data {STATE}/run/tor/data")
+        cls.machine.shell(
+            f"rm -rf {STATE}/run/tor/data; mkdir /run/data; chown _veldmark: /run/data; chmod 700 /run/data; mkdir -m 700 {STATE}/run/tor/data;"
+            f"mount --bind /run/data {STATE}/run/tor/data"
+        )
         cls.before = cls.machine.snapshot()
         cls.cells = 0
 
@@ -72,19 +98,24 @@ class Trouble(HelperTest):
         super().tearDownClass()
 
     def words(self, verb, tor):
-        return {"connect": ["connect", "--tor", tor, "--hash", HASH, "--strict", "1", "--lan", "0"],
-                "connect in proxy mode": ["connect", "--tor", tor, "--hash", HASH, "--strict", "0", "--lan", "0"],
-                "fix-dns": ["fix-dns"], "disconnect": ["disconnect"]}[verb]
+        return {
+            "connect": ["connect", "--tor", tor, "--hash", HASH, "--strict", "1", "--lan", "0"],
+            "connect in proxy mode": ["connect", "--tor", tor, "--hash", HASH, "--strict", "0", "--lan", "0"],
+            "fix-dns": ["fix-dns"],
+            "disconnect": ["disconnect"],
+        }[verb]
 
     def test_process_that_keeps_tors_output_open_is_not_waited_for(self):
-        self.machine.shell(f"mv {OTHER_TOR} {OTHER_TOR}.away; printf '#!/bin/sh\\nsetsid sleep 1000 & echo $! >/run/data/left\\n' >{OTHER_TOR};"
-                           f"chmod 755 {OTHER_TOR}")
+        self.machine.shell(
+            f"mv {OTHER_TOR} {OTHER_TOR}.away; printf '#!/bin/sh\\nsetsid sleep 1000 & echo $! >/run/data/left\\n' >{OTHER_TOR};"
+            f"chmod 755 {OTHER_TOR}"
+        )
         try:
             done = self.machine.help(*self.words("connect in proxy mode", OTHER_TOR), check=False, timeout=50)
             self.assertOneLine(done, "Tor does not accept its configuration")
         finally:
             self.machine.shell(f"kill $(cat /run/data/left); rm /run/data/left; mv -f {OTHER_TOR}.away {OTHER_TOR}")
-        self.machine.help("disconnect")   # the control group could not go before that process
+        self.machine.help("disconnect")  # the control group could not go before that process
         self.assertEqual(self.machine.snapshot(), self.before)
 
     def test_folders_that_cannot_be_looked_at_are_not_taken_for_safe(self):
@@ -120,7 +151,7 @@ class Trouble(HelperTest):
         if done.returncode:
             self.assertOneLine(done)
             self.assertNotIn(": line ", done.stderr)
-            if CLOSED in done.stderr or session is None:   # else the former session goes on
+            if CLOSED in done.stderr or session is None:  # else the former session goes on
                 self.assertEqual(CLOSED in done.stderr, closed, done.stderr)
             if session == 1 and verb != "disconnect":
                 self.assertTrue(closed, done.stderr)
@@ -169,20 +200,35 @@ class Trouble(HelperTest):
 
     def together(self, verbs):
         """Runs them at once. Gives each run's status, message and seconds, and their numbers in the order in which they had the lock."""
-        self.machine.shell("""
+        self.machine.shell(
+            """
             cp /usr/bin/flock /run/real-flock; rm -f /run/order
             printf '%s\n' '#!/bin/sh' '/run/real-flock "$@" || exit' 'case "$*" in "-w 20 9") echo "$PPID" >>/run/order ;; esac' >/run/flock
-            chmod 755 /run/flock; mount --bind /run/flock /usr/bin/flock""")
+            chmod 755 /run/flock; mount --bind /run/flock /usr/bin/flock"""
+        )
         try:
             started = time.monotonic()
-            runs = [self.machine.start("/bin/sh", "-c", 'echo $$ >"/run/pid-$0"; exec /bin/bash "$@"', str(number), self.machine.helper,
-                                       *self.words(verb, TOR), stderr=subprocess.PIPE, stdin=subprocess.DEVNULL, text=True)
-                    for number, verb in enumerate(verbs)]
+            runs = [
+                self.machine.start(
+                    "/bin/sh",
+                    "-c",
+                    'echo $$ >"/run/pid-$0"; exec /bin/bash "$@"',
+                    str(number),
+                    self.machine.helper,
+                    *self.words(verb, TOR),
+                    stderr=subprocess.PIPE,
+                    stdin=subprocess.DEVNULL,
+                    text=True,
+                )
+                for number, verb in enumerate(verbs)
+            ]
             ended = [0.0] * len(runs)
+
             def wait(number):
                 message = runs[number].communicate()[1]
                 ended[number] = time.monotonic() - started
                 return runs[number].returncode, message
+
             with concurrent.futures.ThreadPoolExecutor(len(runs)) as threads:
                 results = list(threads.map(wait, range(len(runs))))
         finally:
@@ -226,7 +272,9 @@ class Trouble(HelperTest):
         self.assert_one_after_the_other(["connect", "connect in proxy mode"] * 10)
 
     def test_a_run_waits_no_longer_for_the_lock_than_it_should(self):
-        holder = self.machine.start("flock", "/run/veldmark.lock", "sh", "-c", "echo $$; exec sleep 60", stdout=subprocess.PIPE, text=True)
+        holder = self.machine.start(
+            "flock", "/run/veldmark.lock", "sh", "-c", "echo $$; exec sleep 60", stdout=subprocess.PIPE, text=True
+        )
         pid = holder.stdout.readline()
         try:
             started = time.monotonic()

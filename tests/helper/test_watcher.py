@@ -10,8 +10,8 @@ import probes
 from namespace import USER_UID, HelperTest
 from wire import LINK, Flood, Wire
 
-LIMIT = 5.0   # seconds from the change to the rules in force again
-NOTE = "/run/veldmark.watch"   # "WORD COUNT SINCE", as young as the watcher's last look
+LIMIT = 5.0  # seconds from the change to the rules in force again
+NOTE = "/run/veldmark.watch"  # "WORD COUNT SINCE", as young as the watcher's last look
 GROUP = "/sys/fs/cgroup/veldmark-exempt"
 
 CHANGES = {
@@ -68,7 +68,7 @@ class Watcher(HelperTest):
     def wait_look(self):
         """Until the watcher has looked once more."""
         beats, deadline = {os.stat(self.note_path).st_mtime_ns}, time.monotonic() + 2 * LIMIT
-        while len(beats) < 9:   # two a second, and a look after three seconds at the latest
+        while len(beats) < 9:  # two a second, and a look after three seconds at the latest
             self.assertLess(time.monotonic(), deadline, "it does not look")
             time.sleep(0.02)
             beats.add(os.stat(self.note_path).st_mtime_ns)
@@ -111,7 +111,7 @@ class Watcher(HelperTest):
             wire.close()
 
     def test_it_looks_also_when_the_kernel_tells_nothing(self):
-        self.machine.shell("pkill -STOP -xf 'nft monitor [a-z]*'")   # and not what it looks with
+        self.machine.shell("pkill -STOP -xf 'nft monitor [a-z]*'")  # and not what it looks with
         self.seconds_until_locked("nft flush ruleset")
         self.machine.shell("pkill -CONT -xf 'nft monitor [a-z]*'")
 
@@ -120,7 +120,12 @@ class Watcher(HelperTest):
         a second."""
         self.machine.shell(f"chmod 755 /sys/fs/cgroup; mkdir /sys/fs/cgroup/user.slice; chown {USER_UID} /sys/fs/cgroup/user.slice")
         try:
-            self.machine.run("/usr/bin/python3", "-c", "import os\nfor n in range(8000): os.mkdir('/sys/fs/cgroup/user.slice/%d' % n)", uid=USER_UID)
+            self.machine.run(
+                "/usr/bin/python3",
+                "-c",
+                "import os\nfor n in range(8000): os.mkdir('/sys/fs/cgroup/user.slice/%d' % n)",
+                uid=USER_UID,
+            )
             started = time.monotonic()
             self.machine.shell("timeout 2 nft list table inet veldmark || test $? = 124")
             self.assertGreater(time.monotonic() - started, 1, "names take long")
@@ -128,7 +133,7 @@ class Watcher(HelperTest):
                 started = time.monotonic()
                 self.machine.shell("nft flush ruleset; until nft list tables | grep -q veldmark; do sleep 0.01; done")
                 self.assertLess(time.monotonic() - started, LIMIT)
-                self.wait_note(f"restored {number}")   # the next is a change of its own
+                self.wait_note(f"restored {number}")  # the next is a change of its own
             self.wait_look()
             self.assertEqual(self.note(), "restored 3")
             self.machine.help("fix-dns", timeout=LIMIT)
@@ -141,13 +146,13 @@ class Watcher(HelperTest):
         self.seconds_until_locked("nft flush ruleset")
         self.wait_note("restored 1")
         self.wait_look()
-        self.assertEqual(self.note(), "restored 1")   # it stands since, and that is no second miss
+        self.assertEqual(self.note(), "restored 1")  # it stands since, and that is no second miss
         self.seconds_until_locked("nft delete table inet veldmark")
         self.wait_note("restored 2")
         self.assertEqual(self.machine.shell(f"stat -c '%a %u' {NOTE}"), "644 0\n")
 
     def test_its_note_is_as_young_as_its_last_look(self):
-        for _ in range(50):   # what the program takes for a sign of life
+        for _ in range(50):  # what the program takes for a sign of life
             self.assertLess(time.time() - os.stat(self.note_path).st_mtime, 1.5)
             time.sleep(0.1)
         self.machine.end_watcher()
@@ -156,17 +161,20 @@ class Watcher(HelperTest):
         self.assertEqual(os.stat(self.note_path).st_mtime_ns, before)
 
     def test_nothing_is_vouched_for_while_somebody_else_listens_at_tors_ports(self):
-        listen = ("import socket, sys; s = socket.create_server(('127.0.0.1', int(sys.argv[1]))) if sys.argv[1] != '293' else socket.socket(type=socket.SOCK_DGRAM)\n"
-                  "if sys.argv[1] == '293': s.bind(('127.0.0.1', 293))\nprint('up', flush=True); sys.stdin.read()")
+        listen = (
+            "import socket, sys; s = socket.create_server(('127.0.0.1', int(sys.argv[1]))) if sys.argv[1] != '293' else socket.socket(type=socket.SOCK_DGRAM)\n"
+            "if sys.argv[1] == '293': s.bind(('127.0.0.1', 293))\nprint('up', flush=True); sys.stdin.read()"
+        )
 
         def is_young():
-            return time.time() - os.stat(self.note_path).st_mtime < 1.5   # what the program takes for a sign of life
+            return time.time() - os.stat(self.note_path).st_mtime < 1.5  # what the program takes for a sign of life
 
         def becomes(young):
             deadline = time.monotonic() + 10
             while is_young() != young:
                 self.assertLess(time.monotonic(), deadline, f"young: {young}")
                 time.sleep(0.05)
+
         # Tor's own account is no proof: what counts is that it is this session's.
         tor = int(self.machine.shell("id -u _veldmark"))
         for port, uid in (9050, namespace.OTHER_UID), (9051, tor), (293, 0):
@@ -175,7 +183,9 @@ class Watcher(HelperTest):
                 for _ in range(40):
                     self.assertTrue(is_young(), "where nobody listens, nobody is in Tor's place")
                     time.sleep(0.1)
-                process = self.machine.start("/usr/bin/python3", "-c", listen, str(port), uid=uid, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+                process = self.machine.start(
+                    "/usr/bin/python3", "-c", listen, str(port), uid=uid, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True
+                )
                 self.addCleanup(process.kill)
                 self.assertEqual(process.stdout.readline(), "up\n")
                 becomes(young=False)
@@ -191,8 +201,10 @@ class Watcher(HelperTest):
         """The application asks then, perhaps before the watcher has looked."""
         self.machine.help("disconnect")
         self.assertFalse(os.path.exists(self.note_path))
-        self.machine.shell("cp /usr/bin/setsid /mnt/setsid; printf '#!/bin/sh\\ncase $* in *watcher.sh) sleep 60 ;; esac\\nexec /mnt/setsid \"$@\"\\n' "
-                           ">/mnt/late; chmod +x /mnt/late; mount --bind /mnt/late /usr/bin/setsid")
+        self.machine.shell(
+            "cp /usr/bin/setsid /mnt/setsid; printf '#!/bin/sh\\ncase $* in *watcher.sh) sleep 60 ;; esac\\nexec /mnt/setsid \"$@\"\\n' "
+            ">/mnt/late; chmod +x /mnt/late; mount --bind /mnt/late /usr/bin/setsid"
+        )
         try:
             self.machine.connect()
             self.assertEqual(self.note(), "standing 0")
@@ -209,7 +221,9 @@ class Watcher(HelperTest):
         # What a session before a restart has left: a marker and notes, but no rules and no watcher.
         self.machine.connect()
         self.machine.end_watcher()
-        self.machine.shell(f"nft delete table inet veldmark; echo 'restored 9 1' >{NOTE}; echo 'restored 9' >/var/lib/veldmark/state/relocked")
+        self.machine.shell(
+            f"nft delete table inet veldmark; echo 'restored 9 1' >{NOTE}; echo 'restored 9' >/var/lib/veldmark/state/relocked"
+        )
         self.machine.connect(strict=0)
         self.assertFalse(os.path.exists(self.note_path))
         self.machine.help("disconnect")
@@ -225,13 +239,15 @@ class Watcher(HelperTest):
         self.assertEqual(self.note(), "standing 0")
         with self.broken_nft():
             self.wait_note("open 1", 2 * LIMIT)
-            self.wait_look()   # it tries again, and that is the same miss
+            self.wait_look()  # it tries again, and that is the same miss
             self.wait_look()
             self.assertEqual(self.note(), "open 1")
         self.wait_note("restored 1", 2 * LIMIT)
 
     def test_rules_that_are_removed_as_fast_as_they_are_loaded_are_open(self):
-        self.machine.shell("rm -f /mnt/enough; (until [ -e /mnt/enough ]; do nft flush table inet veldmark; done) >/dev/null 2>&1 </dev/null &")
+        self.machine.shell(
+            "rm -f /mnt/enough; (until [ -e /mnt/enough ]; do nft flush table inet veldmark; done) >/dev/null 2>&1 </dev/null &"
+        )
         try:
             deadline = time.monotonic() + 2 * LIMIT
             while not self.note().startswith("open "):
@@ -248,17 +264,22 @@ class Watcher(HelperTest):
         """As after an upgrade of nft: neither an alarm nor loading without end."""
         for edit in ("s/ { 9050/  {  9050/", "s/priority filter/priority 0/"):
             with self.subTest(edit):
-                self.machine.shell("cp --remove-destination /usr/sbin/nft /mnt/real; : >/mnt/loads; printf '%s\\n' '#!/bin/sh' '[ \"$1\" != -f ] || echo >>/mnt/loads' "
-                                   "'case \"$*\" in *list*) /mnt/real \"$@\" | sed \"'\"$1\"'\" ;; *) exec /mnt/real \"$@\" ;; esac' >/mnt/nft;"
-                                   "chmod +x /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft", edit)
+                self.machine.shell(
+                    "cp --remove-destination /usr/sbin/nft /mnt/real; : >/mnt/loads; printf '%s\\n' '#!/bin/sh' '[ \"$1\" != -f ] || echo >>/mnt/loads' "
+                    '\'case "$*" in *list*) /mnt/real "$@" | sed "\'"$1"\'" ;; *) exec /mnt/real "$@" ;; esac\' >/mnt/nft;'
+                    "chmod +x /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft",
+                    edit,
+                )
                 try:
-                    self.machine.shell("/mnt/real add table ip other; /mnt/real delete table ip other")   # so that it looks
+                    self.machine.shell("/mnt/real add table ip other; /mnt/real delete table ip other")  # so that it looks
                     self.wait_look()
                     self.wait_look()
                     self.assertEqual(self.note(), "standing 0")
                     self.assertLess(len(self.machine.shell("cat /mnt/loads")), 4)
                 finally:
-                    self.machine.shell("umount -l /usr/sbin/nft; mv /mnt/nft /mnt/nft.former; rm /mnt/loads")   # the watcher may run it just now
+                    self.machine.shell(
+                        "umount -l /usr/sbin/nft; mv /mnt/nft /mnt/nft.former; rm /mnt/loads"
+                    )  # the watcher may run it just now
                 self.machine.help("disconnect")
                 self.machine.connect()
                 self.machine.await_watcher()
@@ -279,7 +300,7 @@ class Watcher(HelperTest):
             self.assertIn("policy drop", self.listing())
             self.assertNotIn("cgroupv2", self.listing())
             self.wait_look()
-            self.assertEqual(self.note(), "restored 1")   # what it has loaded then is what it compares with
+            self.assertEqual(self.note(), "restored 1")  # what it has loaded then is what it compares with
         finally:
             self.machine.shell("echo max >/sys/fs/cgroup/cgroup.max.descendants")
         self.assertIn("cgroupv2", self.rules)
@@ -292,8 +313,10 @@ class Watcher(HelperTest):
 
     def test_without_its_group_what_is_emptied_as_fast_as_it_is_loaded_is_open(self):
         """What is compared with is never what somebody has made of the rules."""
-        self.machine.shell(f"echo 0 >/sys/fs/cgroup/cgroup.max.descendants; rmdir {GROUP}; rm -f /mnt/enough;"
-                           "(until [ -e /mnt/enough ]; do nft flush table inet veldmark; done) >/dev/null 2>&1 </dev/null &")
+        self.machine.shell(
+            f"echo 0 >/sys/fs/cgroup/cgroup.max.descendants; rmdir {GROUP}; rm -f /mnt/enough;"
+            "(until [ -e /mnt/enough ]; do nft flush table inet veldmark; done) >/dev/null 2>&1 </dev/null &"
+        )
         deadline = time.monotonic() + 4 * LIMIT
         try:
             while not self.note().startswith("open "):
@@ -307,7 +330,7 @@ class Watcher(HelperTest):
             self.assertNotIn("cgroupv2", self.listing())
         finally:
             self.machine.shell("touch /mnt/enough; echo max >/sys/fs/cgroup/cgroup.max.descendants")
-        self.seconds_until_locked("nft flush ruleset")   # with the exemption again
+        self.seconds_until_locked("nft flush ruleset")  # with the exemption again
 
     def test_a_group_that_cannot_be_removed_keeps_nobody_from_proxy_mode(self):
         self.machine.shell(f"mkdir {GROUP}/somebodys")
@@ -341,36 +364,41 @@ class Watcher(HelperTest):
 
     def test_one_that_dies_while_its_monitor_starts_leaves_none(self):
         """The monitor's start is held until its watcher has gone; held in the same way behind a living one it comes."""
-        self.machine.shell("""mkdir -m 755 /run/held; cp /usr/bin/setpriv /run/held/program; cat >/run/held/setpriv <<'END'
+        self.machine.shell(
+            """mkdir -m 755 /run/held; cp /usr/bin/setpriv /run/held/program; cat >/run/held/setpriv <<'END'
 #!/bin/sh
 case "$*" in *nft*) : >/run/held/reached; while [ -e /run/held/hold ]; do sleep 0.01; done ;; esac
 exec /run/held/program "$@"
 END
-            chmod 755 /run/held/*; mount --bind /run/held/setpriv /usr/bin/setpriv""")
+            chmod 755 /run/held/*; mount --bind /run/held/setpriv /usr/bin/setpriv"""
+        )
         try:
             for dies in False, True:
                 self.machine.end_watcher()
-                self.machine.shell("cd /run/held; rm -f reached; : >hold; nft add table inet unrelated; nft delete table inet unrelated")
+                self.machine.shell(
+                    "cd /run/held; rm -f reached; : >hold; nft add table inet unrelated; nft delete table inet unrelated"
+                )
                 self.machine.help("fix-dns")
                 self.machine.shell("until [ -e /run/held/reached ]; do sleep 0.01; done")
-                watcher, = map(str, self.machine.watchers())
+                (watcher,) = map(str, self.machine.watchers())
                 held = self.machine.shell("pgrep -P $1 -f /usr/bin/setpriv", watcher).strip()
                 if dies:
                     self.machine.shell("kill -KILL $1; while [ -e /proc/$1 ]; do :; done", watcher)
                 self.machine.shell("rm /run/held/hold")
                 if dies:
-                    self.machine.shell("while [ -e /proc/$1 ] && [ \"$(cat /proc/$1/comm)\" != nft ]; do sleep 0.01; done", held)
+                    self.machine.shell('while [ -e /proc/$1 ] && [ "$(cat /proc/$1/comm)" != nft ]; do sleep 0.01; done', held)
                     self.assertEqual(self.machine.shell("pgrep -ax nft || true"), "")
                 else:
-                    self.machine.shell("until [ \"$(cat /proc/$1/comm)\" = nft ]; do sleep 0.01; done", held)
+                    self.machine.shell('until [ "$(cat /proc/$1/comm)" = nft ]; do sleep 0.01; done', held)
         finally:
             self.machine.shell("rm -f /run/held/hold; umount --lazy /usr/bin/setpriv; rm -r /run/held")
 
     def test_disconnecting_against_a_flusher_leaves_nothing(self):
         """The lock must not come back after the network was opened."""
         for _ in range(5):
-            flusher = self.machine.start("/bin/sh", "-c", "while [ ! -e /run/enough ]; do nft flush ruleset; done",
-                                         stderr=subprocess.DEVNULL)
+            flusher = self.machine.start(
+                "/bin/sh", "-c", "while [ ! -e /run/enough ]; do nft flush ruleset; done", stderr=subprocess.DEVNULL
+            )
             self.machine.help("disconnect")
             self.machine.shell("touch /run/enough")
             flusher.wait()
@@ -379,8 +407,10 @@ END
             self.machine.connect()
 
     def test_nothing_of_the_session_shows_in_its_command_line(self):
-        pid, = self.machine.watchers()
-        self.assertEqual(self.machine.shell(f"tr '\\0' ' ' </proc/{pid}/cmdline"), "/bin/bash -p -- /var/lib/veldmark/run/watcher.sh ")
+        (pid,) = self.machine.watchers()
+        self.assertEqual(
+            self.machine.shell(f"tr '\\0' ' ' </proc/{pid}/cmdline"), "/bin/bash -p -- /var/lib/veldmark/run/watcher.sh "
+        )
         self.assertNotIn("veldmark.lock", self.machine.shell(f"ls -l /proc/{pid}/fd"))
 
 

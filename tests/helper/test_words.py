@@ -6,7 +6,20 @@ import time
 import namespace
 from namespace import HASH, TOR, HelperTest
 
-WORDS = ["--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0", "--exit", "de", "--bridge", "192.0.2.1:443 " + "0123456789" * 4]
+WORDS = [
+    "--tor",
+    TOR,
+    "--hash",
+    HASH,
+    "--strict",
+    "1",
+    "--lan",
+    "0",
+    "--exit",
+    "de",
+    "--bridge",
+    "192.0.2.1:443 " + "0123456789" * 4,
+]
 
 
 def lines(words, end="end\n"):
@@ -27,8 +40,13 @@ class Words(HelperTest):
         """While the helper waits for its lock, with the same words on a command line to show that they could be seen."""
         holder = self.machine.start("flock", "/run/veldmark.lock", "sleep", "1000")
         import subprocess
-        runs = [self.machine.start("/bin/bash", self.machine.helper, "connect", *more, stdin=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
-                for more in ((), ("-",))]
+
+        runs = [
+            self.machine.start(
+                "/bin/bash", self.machine.helper, "connect", *more, stdin=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True
+            )
+            for more in ((), ("-",))
+        ]
         try:
             runs[1].stdin.write(lines(WORDS))
             runs[1].stdin.flush()
@@ -36,10 +54,12 @@ class Words(HelperTest):
             deadline = time.monotonic() + 20
             while int(self.machine.shell(find, uid=4243)) < 1:
                 self.assertLess(time.monotonic(), deadline)
-            seen = self.machine.start("/bin/bash", self.machine.helper, "connect", *WORDS, stdin=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            seen = self.machine.start(
+                "/bin/bash", self.machine.helper, "connect", *WORDS, stdin=subprocess.DEVNULL, stderr=subprocess.DEVNULL
+            )
             runs.append(seen)
             count = f"grep -lasF {HASH} /proc/[0-9]*/cmdline /proc/[0-9]*/environ | grep -vc self || true"
-            while int(self.machine.shell(count)) < 2:   # the grep itself and that run
+            while int(self.machine.shell(count)) < 2:  # the grep itself and that run
                 self.assertLess(time.monotonic(), deadline)
             seen.kill()
             seen.wait()
@@ -61,10 +81,16 @@ class Words(HelperTest):
 
     def test_hostile_words_are_refused_as_on_a_command_line(self):
         before = self.machine.snapshot()
-        for text, says in ((lines(["--verbose", "1"]), "does not know"), (lines(["--tor", "a" * 5000]), "too long"),
-                           (lines(["--hash", "$(touch /run/pwned)", *WORDS[4:8], "--tor", TOR]), "not valid"),
-                           (lines(["x"] * 400), "too many"), (lines(["--tor"]), "needs a value"), (lines([*WORDS, "-"]), "does not know"),
-                           (lines(["--tor", ""]), "needs a value"), (lines(["--tor", "/usr/bin/tor\r"]), "control characters")):
+        for text, says in (
+            (lines(["--verbose", "1"]), "does not know"),
+            (lines(["--tor", "a" * 5000]), "too long"),
+            (lines(["--hash", "$(touch /run/pwned)", *WORDS[4:8], "--tor", TOR]), "not valid"),
+            (lines(["x"] * 400), "too many"),
+            (lines(["--tor"]), "needs a value"),
+            (lines([*WORDS, "-"]), "does not know"),
+            (lines(["--tor", ""]), "needs a value"),
+            (lines(["--tor", "/usr/bin/tor\r"]), "control characters"),
+        ):
             with self.subTest(says):
                 self.assertOneLine(self.machine.help("connect", "-", stdin=text, check=False), says)
         self.assertEqual(self.machine.shell("ls /run/pwned 2>/dev/null || true"), "")
@@ -73,7 +99,9 @@ class Words(HelperTest):
     def test_other_verbs_take_them_too(self):
         self.machine.help("connect", "-", stdin=lines(WORDS[:8]))
         self.machine.help("disconnect", "-", stdin="end\n")
-        self.assertOneLine(self.machine.help("disconnect", "-", stdin="--force\nend\n", check=False), "option that it does not know")
+        self.assertOneLine(
+            self.machine.help("disconnect", "-", stdin="--force\nend\n", check=False), "option that it does not know"
+        )
 
 
 if __name__ == "__main__":

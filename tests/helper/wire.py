@@ -17,7 +17,7 @@ from namespace import TOR_GROUP, Peer
 PROBES_PY = os.path.join(namespace.HERE, "probes.py")
 # Seen when nothing blocks it, whatever the state.
 LINK = {"neighbour"}
-EDGE = "sentinel 1"   # sent by edge_program()
+EDGE = "sentinel 1"  # sent by edge_program()
 # What is sent on one processor reaches the peer in the order of sending.
 ONE_PROCESSOR = ("taskset", "--cpu-list", str(min(os.sched_getaffinity(0))))
 
@@ -27,29 +27,53 @@ class Wire:
         self.machine = machine
         self.peer = Peer(machine)
         self.marks = 2000
-        self.peer.run("/bin/bash", "-c", f"""
+        self.peer.run(
+            "/bin/bash",
+            "-c",
+            f"""
             ip link set lo up; ip link set veth1 up
             ip addr add {probes.LAN}/24 dev veth1; ip addr add {probes.LAN6}/64 dev veth1 nodad
             for a in {probes.PUBLIC} {probes.SENTINEL} 203.0.113.53; do ip addr add $a/32 dev lo; done
             ip addr add {probes.PUBLIC6}/128 dev lo
-        """)
-        machine.shell(f"""
+        """,
+        )
+        machine.shell(
+            f"""
             ip link set veth0 up; ip addr add 192.168.77.2/24 dev veth0; ip addr add fd00:77::2/64 dev veth0 nodad
             ip route add default via {probes.LAN}; ip -6 route add default via {probes.LAN6}
-        """)
+        """
+        )
         self.listener = subprocess.Popen(
-            self.peer.command(["/usr/bin/python3", PROBES_PY, "listen"]), stdout=subprocess.PIPE, bufsize=0)
+            self.peer.command(["/usr/bin/python3", PROBES_PY, "listen"]), stdout=subprocess.PIPE, bufsize=0
+        )
         assert self.listener.stdout.readline() == b"ready\n"
         self.lines, self.taken, self.more = [], 0, threading.Condition()
         self.reader = threading.Thread(target=self._read, daemon=True)
         self.reader.start()
         self.server = subprocess.Popen(
-            self.peer.command(["/usr/bin/python3", "-c",
-                               "import socket; s = socket.create_server(('0.0.0.0', 1001), backlog=64); print('up', flush=True);\n"
-                               "kept = []\nwhile True: kept.append(s.accept())"]), stdout=subprocess.PIPE, text=True)
+            self.peer.command(
+                [
+                    "/usr/bin/python3",
+                    "-c",
+                    "import socket; s = socket.create_server(('0.0.0.0', 1001), backlog=64); print('up', flush=True);\n"
+                    "kept = []\nwhile True: kept.append(s.accept())",
+                ]
+            ),
+            stdout=subprocess.PIPE,
+            text=True,
+        )
         assert self.server.stdout.readline() == "up\n"
-        self.sender = machine.start(*ONE_PROCESSOR, "/usr/bin/python3", "-I", "-S", PROBES_PY, "serve", stdin=subprocess.PIPE,
-                                    stdout=subprocess.PIPE, text=True)
+        self.sender = machine.start(
+            *ONE_PROCESSOR,
+            "/usr/bin/python3",
+            "-I",
+            "-S",
+            PROBES_PY,
+            "serve",
+            stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE,
+            text=True,
+        )
         assert self.sender.stdout.readline() == "ready\n"
 
     def _read(self):
@@ -85,7 +109,7 @@ class Wire:
                 while at < len(self.lines):
                     at += 1
                     if wanted(self.lines[at - 1]):
-                        found = self.lines[self.taken:at]
+                        found = self.lines[self.taken : at]
                         self.taken = at
                         return found
                 if not self.more.wait(deadline - time.monotonic()):
@@ -106,9 +130,11 @@ class Wire:
     def edge_program(self):
         """The path in the machine of a program of root's that sends EDGE."""
         path = "/run/edge"
-        self.machine.shell(f"printf '%s\\n' '#!/bin/sh' '[ ! -d {TOR_GROUP} ] || echo $$ >{TOR_GROUP}/cgroup.procs' \"$1\" >{path}; chmod 755 {path}",
-                           f"exec {' '.join(ONE_PROCESSOR)} setpriv --reuid {self.machine.tor_uid} --clear-groups "
-                           f"/bin/bash -c 'exec 3<>/dev/tcp/{probes.SENTINEL}/1' 2>/dev/null 8>&- 9>&-")
+        self.machine.shell(
+            f"printf '%s\\n' '#!/bin/sh' '[ ! -d {TOR_GROUP} ] || echo $$ >{TOR_GROUP}/cgroup.procs' \"$1\" >{path}; chmod 755 {path}",
+            f"exec {' '.join(ONE_PROCESSOR)} setpriv --reuid {self.machine.tor_uid} --clear-groups "
+            f"/bin/bash -c 'exec 3<>/dev/tcp/{probes.SENTINEL}/1' 2>/dev/null 8>&- 9>&-",
+        )
         return path
 
 
@@ -116,7 +142,9 @@ class Flood:
     """Root's probes without pause. Begins paused."""
 
     def __init__(self, machine):
-        self.process = machine.start(*ONE_PROCESSOR, "/usr/bin/python3", PROBES_PY, "flood", stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        self.process = machine.start(
+            *ONE_PROCESSOR, "/usr/bin/python3", PROBES_PY, "flood", stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True
+        )
         assert self.process.stdout.readline() == "ready\n"
 
     def _say(self, word):

@@ -17,9 +17,12 @@ sys.path.insert(0, os.path.join(HERE, "..", "helper"))
 import namespace  # noqa: E402
 from namespace import HASH, TOR, USER_UID, HelperTest, main  # noqa: E402,F401
 
-STAND_INS = ("uname sync mv killall ifconfig sysctl stat ls scutil dscacheutil dscl networksetup launchctl lsof "
-             "pfctl df mount").split()
-BSD = ("perl cat chmod chown cp date env grep head id ln mkdir mktemp readlink rm rmdir sed shasum sleep sort tail touch tr wc xargs").split()
+STAND_INS = (
+    "uname sync mv killall ifconfig sysctl stat ls scutil dscacheutil dscl networksetup launchctl lsof " "pfctl df mount"
+).split()
+BSD = (
+    "perl cat chmod chown cp date env grep head id ln mkdir mktemp readlink rm rmdir sed shasum sleep sort tail touch tr wc xargs"
+).split()
 ONLY_LINUX = "flock timeout setpriv unshare setsid getent sha256sum nft umount ip ss gsettings pkexec useradd".split()
 
 SETUP = """
@@ -51,13 +54,21 @@ mkdir -p home/alice && chown %(uid)s:%(uid)s home/alice && chmod 755 home home/a
 pivot_root . mnt
 /mac/gnu/umount -l /mnt
 cd /
-""" % {"linux": " ".join(ONLY_LINUX), "names": " ".join(STAND_INS + BSD), "uid": USER_UID}
+""" % {
+    "linux": " ".join(ONLY_LINUX),
+    "names": " ".join(STAND_INS + BSD),
+    "uid": USER_UID,
+}
 
-SERVICES = {   # what each has before; the second is of letters that need care
+SERVICES = {  # what each has before; the second is of letters that need care
     "Wi-Fi": {"dns": "192.0.2.53\n2001:db8::53", "bypass": "*.local\n169.254/16"},
     "Büro: USB 10/100 “LAN”": {
-        "web": "Yes\tproxy.example\t3128", "secureweb": "Yes\tproxy.example\t3128", "auto": "Yes\thttp://wpad.example/a.pac",
-        "discovery": "On", "socksfirewall": "Yes\t192.0.2.9\t1080"},
+        "web": "Yes\tproxy.example\t3128",
+        "secureweb": "Yes\tproxy.example\t3128",
+        "auto": "Yes\thttp://wpad.example/a.pac",
+        "discovery": "On",
+        "socksfirewall": "Yes\t192.0.2.9\t1080",
+    },
     "Thunderbolt Bridge": {},
     "*iPhone USB": {"dns": "192.0.2.99"},
 }
@@ -89,8 +100,20 @@ class Mac(namespace.Machine):
         source = self.helper
         self.helper = "/Applications/Veldmark.app/Contents/Resources/veldmark-helper.sh"
         self.place(source, self.helper)
-        subprocess.run(["cc", "-O1", "-static", "-Wall", "-Wextra", "-Werror", "-o", self.root + "/mac/program",
-                        os.path.join(HERE, "standins", "program.c")], check=True)
+        subprocess.run(
+            [
+                "cc",
+                "-O1",
+                "-static",
+                "-Wall",
+                "-Wextra",
+                "-Werror",
+                "-o",
+                self.root + "/mac/program",
+                os.path.join(HERE, "standins", "program.c"),
+            ],
+            check=True,
+        )
         for part in "server.pl", "launchd.pl", "pf.pl":
             self.place(os.path.join(HERE, "standins", part), "/mac/" + part)
         self.run("/mac/gnu/perl", "/mac/server.pl")
@@ -144,11 +167,18 @@ class Mac(namespace.Machine):
     def reset(self):
         """A Mac before its first connect."""
         state = {
-            "primary": "Wi-Fi", "boot": "11111111-2222-3333-4444-555555555555", "location": "Automatic", "console": str(USER_UID),
-            f"user {USER_UID}": f"alice {USER_UID} /home/alice", "user 0": "root 0 /var/root",
-            "services Automatic": "\n".join(SERVICES), **BEFORE_PF,
-            "record /Users/alice": "1", "record /Users/alice UniqueID": str(USER_UID),
-            "record /Users/daemon UniqueID": "350", "record /Groups/staff PrimaryGroupID": "20",
+            "primary": "Wi-Fi",
+            "boot": "11111111-2222-3333-4444-555555555555",
+            "location": "Automatic",
+            "console": str(USER_UID),
+            f"user {USER_UID}": f"alice {USER_UID} /home/alice",
+            "user 0": "root 0 /var/root",
+            "services Automatic": "\n".join(SERVICES),
+            **BEFORE_PF,
+            "record /Users/alice": "1",
+            "record /Users/alice UniqueID": str(USER_UID),
+            "record /Users/daemon UniqueID": "350",
+            "record /Groups/staff PrimaryGroupID": "20",
             "record /Groups/_somebody PrimaryGroupID": "351",
         }
         for name, values in SERVICES.items():
@@ -189,21 +219,38 @@ class Mac(namespace.Machine):
 
     def settings(self):
         """What a session may change and must put back. Accounts stay, and so do counters."""
-        state = {key: value for key, value in self.state.items()
-                 if not key.startswith(("record ", "settling ", "pf flushes", "pf last token", "dns flushed", "cache flushed"))}
+        state = {
+            key: value
+            for key, value in self.state.items()
+            if not key.startswith(("record ", "settling ", "pf flushes", "pf last token", "dns flushed", "cache flushed"))
+        }
         # A list that was empty and one that was never set are the same to networksetup.
-        state = {key: value for key, value in state.items()
-                 if not (key.startswith("service ") and value in ("", "No\t\t0", "No\t(null)", "Off"))}
-        files = self.shell(r"""
+        state = {
+            key: value
+            for key, value in state.items()
+            if not (key.startswith("service ") and value in ("", "No\t\t0", "No\t(null)", "Off"))
+        }
+        files = self.shell(
+            r"""
             find "/Library/Application Support/Veldmark/state" "/Library/Application Support/Veldmark/journal" -type f 2>/dev/null || true
             md5sum /private/etc/hosts; /mac/gnu/stat -c '%a %u %g' /private/etc/hosts
-            pgrep -x tor || true; pgrep -f /watcher[.]sh || true""")
+            pgrep -x tor || true; pgrep -f /watcher[.]sh || true"""
+        )
         return state, files
 
     def verdict(self, direction, proto="tcp", device="en0", **packet):
         """Whether pf lets a first packet pass, as its manual tells. packet: af, source, sport, to, port, user, group, kind."""
-        packet = {"af": "inet", "source": "198.51.100.7", "to": "203.0.113.5", "sport": "50000", "port": "443", "user": "501",
-                  "group": "20", "kind": "", **{key: str(value) for key, value in packet.items()}}
+        packet = {
+            "af": "inet",
+            "source": "198.51.100.7",
+            "to": "203.0.113.5",
+            "sport": "50000",
+            "port": "443",
+            "user": "501",
+            "group": "20",
+            "kind": "",
+            **{key: str(value) for key, value in packet.items()},
+        }
         state = self.state
         if state.get("pf enabled") != "1" or device in state.get("pf skip", "").split():
             return "pass"

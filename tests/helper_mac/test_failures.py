@@ -6,7 +6,7 @@ import os
 import mac
 from mac import HASH, TOR, MacTest
 
-TRIALS = int(os.environ.get("VELDMARK_FAILURE_TRIALS", "4"))   # for each way through the helper; 0: every call
+TRIALS = int(os.environ.get("VELDMARK_FAILURE_TRIALS", "4"))  # for each way through the helper; 0: every call
 MODES = "status", "quiet", "late"
 
 
@@ -50,8 +50,10 @@ class Failures(MacTest):
         return ["connect", "--tor", TOR, "--hash", HASH, "--strict", strict, "--lan", "0"]
 
     def switched(self):
-        return any(key.startswith("service ") and key.endswith(" dns") and value == "127.0.0.1"
-                   for key, value in self.machine.state.items())
+        return any(
+            key.startswith("service ") and key.endswith(" dns") and value == "127.0.0.1"
+            for key, value in self.machine.state.items()
+        )
 
     def test_connect_strict(self):
         def check(done):
@@ -59,6 +61,7 @@ class Failures(MacTest):
                 self.assertEqual(self.machine.verdict("out"), "block")
             if done.returncode == 0:
                 self.assertTrue(self.switched() and self.machine.tor())
+
         self.trials(lambda: None, self.connect_words("1"), check)
 
     def test_connect_proxy(self):
@@ -67,11 +70,13 @@ class Failures(MacTest):
                 self.assertRestored()
             else:
                 self.assertTrue(self.switched() and self.machine.tor())
+
         self.trials(lambda: None, self.connect_words("0"), check)
 
     def test_connect_strict_again(self):
         def check(_):
             self.assertEqual(self.machine.verdict("out"), "block")
+
         self.trials(self.machine.connect, self.connect_words("1"), check)
 
     def test_disconnect(self):
@@ -83,8 +88,11 @@ class Failures(MacTest):
                 self.assertEqual((now, files), self.before)
                 self.machine.reset()
             elif self.switched() or self.machine.tor():
-                self.assertIsNotNone(self.machine.read("/Library/Application Support/Veldmark/state/active"),
-                                     "the session's settings stand without its marker")
+                self.assertIsNotNone(
+                    self.machine.read("/Library/Application Support/Veldmark/state/active"),
+                    "the session's settings stand without its marker",
+                )
+
         self.trials(self.machine.connect, ["disconnect"], check)
 
 

@@ -7,7 +7,7 @@ import mac
 from mac import HASH, TOR, MacTest
 
 STEPPED = os.path.join(mac.HERE, "..", "helper", "stepped.sh")
-TRIALS = int(os.environ.get("VELDMARK_KILL_TRIALS", "6"))   # for each way through the helper
+TRIALS = int(os.environ.get("VELDMARK_KILL_TRIALS", "6"))  # for each way through the helper
 
 
 def connect_words(strict):
@@ -21,8 +21,20 @@ class Kill(MacTest):
         cls.machine.place(STEPPED, "/mac/stepped.sh")
 
     def stepped(self, kill_after, words):
-        return self.machine.run("env", "-i", "/bin/bash", "-p", "/mac/stepped.sh", self.machine.helper, "/mac/changes", kill_after, "", "",
-                                *words, check=False)
+        return self.machine.run(
+            "env",
+            "-i",
+            "/bin/bash",
+            "-p",
+            "/mac/stepped.sh",
+            self.machine.helper,
+            "/mac/changes",
+            kill_after,
+            "",
+            "",
+            *words,
+            check=False,
+        )
 
     def state(self):
         """After a kill: the marker, whether the kill switch stands, whether any service is switched, whether Tor runs."""
@@ -42,9 +54,9 @@ class Kill(MacTest):
         self.machine.help("disconnect")
         self.assertRestored()
         step = max(1, len(changes) // TRIALS) if TRIALS else 1
-        for change in changes[step // 2::step]:
+        for change in changes[step // 2 :: step]:
             with self.subTest(change=change):
-                self.machine.reset()   # without Tor's account as well
+                self.machine.reset()  # without Tor's account as well
                 prepare()
                 done = self.stepped(change, words)
                 self.assertIn(done.returncode % 256, (137, 247), done.stderr)
@@ -56,21 +68,25 @@ class Kill(MacTest):
         def check(marker, closed, switched, tor):
             self.assertTrue(marker or not (closed or switched or tor), "a change came before the marker")
             self.assertTrue(closed or not (switched or tor), "a service was switched or Tor ran before the kill switch stood")
+
         self.trials(lambda: None, connect_words("1"), check, 30)
 
     def test_connect_proxy(self):
         def check(marker, _, switched, tor):
             self.assertTrue(marker or not (switched or tor))
+
         self.trials(lambda: None, connect_words("0"), check, 30)
 
     def test_connect_strict_again(self):
         def check(marker, closed, *_):
             self.assertEqual((marker, closed), ("strict", True))
+
         self.trials(self.machine.connect, connect_words("1"), check, 30)
 
     def test_change_from_strict_to_proxy(self):
         def check(marker, closed, switched, tor):
             self.assertTrue(closed or (marker == "proxy" and switched and tor), "the kill switch opened before the new Tor served")
+
         self.trials(self.machine.connect, connect_words("0"), check, 30)
 
     def test_fix_dns(self):
@@ -80,12 +96,14 @@ class Kill(MacTest):
 
         def check(marker, closed, *_):
             self.assertEqual((marker, closed), ("strict", True))
+
         self.trials(prepare, ["fix-dns"], check, 3)
 
     def test_disconnect(self):
         def check(marker, closed, switched, tor):
             self.assertTrue(closed or not (switched or tor), "the kill switch opened before the rest was put back")
             self.assertTrue(marker or not closed)
+
         self.trials(self.machine.connect, ["disconnect"], check, 20)
 
 

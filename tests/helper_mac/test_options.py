@@ -34,17 +34,29 @@ class Options(MacTest):
     def test_odd_callers_are_refused(self):
         for name, variables in linux_options.UIDS.items():
             with self.subTest(name):
-                self.assertOneLine(self.machine.help(*linux_options.words(), env={"PATH": "/usr/bin:/bin", **variables}, check=False))
+                self.assertOneLine(
+                    self.machine.help(*linux_options.words(), env={"PATH": "/usr/bin:/bin", **variables}, check=False)
+                )
         self.assertRestored()
 
     def test_a_caller_who_is_not_root_is_refused(self):
         self.assertOneLine(self.machine.help("disconnect", uid=USER_UID, check=False), "must run as root")
 
     def test_nothing_from_the_environment_counts(self):
-        self.machine.shell("mkdir -p /run/bin; for name in pfctl perl stat; do printf '#!/bin/sh\ntouch /run/pwned\n' >/run/bin/$name;"
-                           "chmod +x /run/bin/$name; done")
-        variables = {"PATH": "/run/bin:/usr/bin:/bin", "PERL5OPT": "-Mpwned", "PERL5LIB": "/run/bin", "BASH_FUNC_pfctl%%": "() { touch /run/pwned; }",
-                     "SYSTEM": "linux", "CALLER_UID": "0", "DYLD_INSERT_LIBRARIES": "/run/bin/x", "IFS": "/"}
+        self.machine.shell(
+            "mkdir -p /run/bin; for name in pfctl perl stat; do printf '#!/bin/sh\ntouch /run/pwned\n' >/run/bin/$name;"
+            "chmod +x /run/bin/$name; done"
+        )
+        variables = {
+            "PATH": "/run/bin:/usr/bin:/bin",
+            "PERL5OPT": "-Mpwned",
+            "PERL5LIB": "/run/bin",
+            "BASH_FUNC_pfctl%%": "() { touch /run/pwned; }",
+            "SYSTEM": "linux",
+            "CALLER_UID": "0",
+            "DYLD_INSERT_LIBRARIES": "/run/bin/x",
+            "IFS": "/",
+        }
         self.machine.help(*linux_options.words(), env=variables)
         self.assertFalse(os.path.exists(self.machine.root + "/run/pwned"))
         self.machine.help("disconnect", env=variables)
@@ -65,14 +77,21 @@ class Options(MacTest):
         self.assertEqual(failed, ["FAILED  the network is there", "FAILED  the network is there again"], done.stdout + done.stderr)
         self.assertGreater(len([line for line in lines if line.startswith("ok ")]), 20)
         self.assertGreater(len([line for line in lines if line.startswith("answer ")]), 12)
-        self.assertEqual([line for line in lines if line.strip()], table.splitlines()[1:len(lines)])
+        self.assertEqual([line for line in lines if line.strip()], table.splitlines()[1 : len(lines)])
         self.machine.shell("rm /usr/local/bin/tor")
 
     def test_the_check_for_a_real_mac_puts_back_what_it_was_stopped_in(self):
         self.machine.place(os.path.join(mac.HERE, "real_mac.sh"), "/mac/real_mac.sh")
         self.machine.shell("cp /usr/bin/tor /usr/local/bin/tor; ln -sf /private/etc/hosts /etc/hosts")
-        running = self.machine.start("/bin/bash", "/mac/real_mac.sh", "--change-this-mac", self.machine.helper, stdout=subprocess.PIPE,
-                                     stderr=subprocess.DEVNULL, text=True)
+        running = self.machine.start(
+            "/bin/bash",
+            "/mac/real_mac.sh",
+            "--change-this-mac",
+            self.machine.helper,
+            stdout=subprocess.PIPE,
+            stderr=subprocess.DEVNULL,
+            text=True,
+        )
         for line in running.stdout:
             if line.startswith("ok      every service is switched"):
                 break
@@ -88,8 +107,10 @@ class Options(MacTest):
     def test_a_missing_program_is_named(self):
         self.machine.shell("mv /usr/bin/networksetup /mac/gnu/")
         try:
-            self.assertOneLine(self.machine.help("connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0", check=False),
-                               "networksetup is missing")
+            self.assertOneLine(
+                self.machine.help("connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0", check=False),
+                "networksetup is missing",
+            )
             self.assertEqual(self.machine.verdict("out"), "pass")
         finally:
             self.machine.shell("/mac/gnu/mv /mac/gnu/networksetup /usr/bin/")

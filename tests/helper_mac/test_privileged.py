@@ -17,15 +17,17 @@ die unless "@ARGV[0, 1]" eq "-c Print :CFBundleExecutable";
 my $text = do { local (@ARGV, $/) = $ARGV[2]; <> };
 $text =~ m{<key>CFBundleExecutable</key>\\s*<string>([^<]*)</string>} or die; print "$1\\n";
 """
-SHOW = "#!/bin/sh\n{ id -u; id -g; id -G; echo \"$@\"; env; } >/home/alice/launched\n"
+SHOW = '#!/bin/sh\n{ id -u; id -g; id -G; echo "$@"; env; } >/home/alice/launched\n'
 
 
 class Privileged(MacTest):
     def setUp(self):
         super().setUp()
-        self.machine.shell("mkdir -p /run/sudo /etc/sudoers.d; chmod 755 /etc/sudoers.d; rm -f /home/alice/*;"
-                           "grep -q '^@includedir /etc/sudoers.d' /etc/sudoers || echo '@includedir /etc/sudoers.d' >>/etc/sudoers;"
-                           "grep -q ^alice: /etc/shadow || echo 'alice:*:19000:0:99999:7:::' >>/etc/shadow")
+        self.machine.shell(
+            "mkdir -p /run/sudo /etc/sudoers.d; chmod 755 /etc/sudoers.d; rm -f /home/alice/*;"
+            "grep -q '^@includedir /etc/sudoers.d' /etc/sudoers || echo '@includedir /etc/sudoers.d' >>/etc/sudoers;"
+            "grep -q ^alice: /etc/shadow || echo 'alice:*:19000:0:99999:7:::' >>/etc/shadow"
+        )
 
     def tearDown(self):
         self.machine.help("uninstall-privileged")
@@ -65,7 +67,7 @@ class Privileged(MacTest):
         self.machine.help("install-privileged", "--user", "alice")
         self.assertOneLine(self.by_rule(*words, check=False), "password")
         self.assertRestored()
-        self.assertOneLine(self.machine.help(*words, check=False), "password")   # the prompt of a connect names no program
+        self.assertOneLine(self.machine.help(*words, check=False), "password")  # the prompt of a connect names no program
         self.machine.approve("/home/alice/tor")
         self.machine.help(*words)
         program = os.readlink(f"{self.machine.root}/proc/{self.machine.tor()}/exe")
@@ -75,15 +77,32 @@ class Privileged(MacTest):
         self.machine.help("disconnect")
         self.machine.shell("echo >>/home/alice/tor")
         self.assertOneLine(self.by_rule(*words, check=False), "password")
-        self.machine.approve("/home/alice/tor", env=UNDER_RULE)   # another copy, by a right of the user's own
+        self.machine.approve("/home/alice/tor", env=UNDER_RULE)  # another copy, by a right of the user's own
         self.machine.help(*words, env=UNDER_RULE)
         self.machine.help("disconnect")
 
     def test_a_transport_of_the_users_needs_an_approval_with_a_bundle_too(self):
         """A Mac has no gpgv, so that nobody verifies it; the option is known all the same."""
-        self.machine.shell("/usr/bin/install -o alice -m 0755 /usr/bin/obfs4proxy /home/alice/lyrebird; echo bundle >>/home/alice/lyrebird")
-        words = ["connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0", "--bridge", "obfs4 192.0.2.1:443 cert=a",
-                 "--pt-lyrebird", "/home/alice/lyrebird", "--bundle", "/home/alice/bundle.tar.gz"]
+        self.machine.shell(
+            "/usr/bin/install -o alice -m 0755 /usr/bin/obfs4proxy /home/alice/lyrebird; echo bundle >>/home/alice/lyrebird"
+        )
+        words = [
+            "connect",
+            "--tor",
+            TOR,
+            "--hash",
+            HASH,
+            "--strict",
+            "1",
+            "--lan",
+            "0",
+            "--bridge",
+            "obfs4 192.0.2.1:443 cert=a",
+            "--pt-lyrebird",
+            "/home/alice/lyrebird",
+            "--bundle",
+            "/home/alice/bundle.tar.gz",
+        ]
         self.machine.help("install-privileged", "--user", "alice")
         self.assertOneLine(self.by_rule(*words, check=False), "An administrator password is needed to approve")
         self.machine.approve("/home/alice/lyrebird", "lyrebird")
@@ -116,8 +135,10 @@ class Privileged(MacTest):
 
     def test_an_application_runs_as_the_user_in_the_exempt_group(self):
         self.machine.write("/Applications/Veldmark.app/Contents/MacOS-launch", SHOW)
-        self.machine.shell("mkdir -p /Applications/Veldmark.app/Contents/MacOS; mv -f /Applications/Veldmark.app/Contents/MacOS-launch "
-                           "/Applications/Veldmark.app/Contents/MacOS/veldmark-launch; chmod 755 /Applications/Veldmark.app/Contents/MacOS/veldmark-launch")
+        self.machine.shell(
+            "mkdir -p /Applications/Veldmark.app/Contents/MacOS; mv -f /Applications/Veldmark.app/Contents/MacOS-launch "
+            "/Applications/Veldmark.app/Contents/MacOS/veldmark-launch; chmod 755 /Applications/Veldmark.app/Contents/MacOS/veldmark-launch"
+        )
         words = ["launch", "--uid", str(USER_UID), "--app", "/Applications/Some “New”.app"]
         self.machine.connect()
         self.machine.help("install-privileged", "--user", "alice")
@@ -140,13 +161,21 @@ class Privileged(MacTest):
         m.place(REAL_LAUNCHER, "/Applications/Veldmark.app/Contents/MacOS/veldmark-launch")
         m.shell("mkdir -p /usr/libexec '/Applications/Some “New”.app/Contents/MacOS'")
         m.write("/usr/libexec/PlistBuddy", PLIST_BUDDY)
-        m.write("/Applications/Some “New”.app/Contents/MacOS/Some New", SHOW + "echo pid=$$ >>/home/alice/launched; exec sleep 1000\n")
+        m.write(
+            "/Applications/Some “New”.app/Contents/MacOS/Some New", SHOW + "echo pid=$$ >>/home/alice/launched; exec sleep 1000\n"
+        )
         m.shell("chmod 755 /usr/libexec/PlistBuddy /Applications/Some*/Contents/MacOS/*")
         words = ["launch", "--uid", str(USER_UID), "--app", "/Applications/Some “New”.app"]
         m.connect()
-        for name, wanted in ("Some New", ""), ("../../../../usr/bin/id", "There is no application"), ("Missing", "There is no application"):
+        for name, wanted in (
+            ("Some New", ""),
+            ("../../../../usr/bin/id", "There is no application"),
+            ("Missing", "There is no application"),
+        ):
             with self.subTest(name):
-                m.write("/Applications/Some “New”.app/Contents/Info.plist", f"<key>CFBundleExecutable</key>\n<string>{name}</string>\n")
+                m.write(
+                    "/Applications/Some “New”.app/Contents/Info.plist", f"<key>CFBundleExecutable</key>\n<string>{name}</string>\n"
+                )
                 done = m.help(*words, check=False)
                 if wanted:
                     self.assertOneLine(done, wanted)
@@ -160,8 +189,10 @@ class Privileged(MacTest):
         group = m.state["record /Groups/_veldmark_exempt PrimaryGroupID"]
         self.assertEqual(lines[:2], [str(USER_UID), group])
         values = dict(line.split("=", 1) for line in lines[4:] if "=" in line)
-        self.assertEqual({name: values[name] for name in ("HOME", "USER", "LOGNAME", "PATH")},
-                         {"HOME": "/home/alice", "USER": "alice", "LOGNAME": "alice", "PATH": "/usr/bin:/bin:/usr/sbin:/sbin"})
+        self.assertEqual(
+            {name: values[name] for name in ("HOME", "USER", "LOGNAME", "PATH")},
+            {"HOME": "/home/alice", "USER": "alice", "LOGNAME": "alice", "PATH": "/usr/bin:/bin:/usr/sbin:/sbin"},
+        )
         m.shell(f"kill {values['pid']}")
 
     def test_the_real_launcher_refuses_root(self):

@@ -22,80 +22,130 @@ class Leaks(MacTest):
         """What must never leave in strict mode, whoever sends it."""
         for user in USER_UID, 0, 65534:
             for af, source, to in ("inet", "198.51.100.7", PUBLIC), ("inet6", "2001:db8:1::7", "2001:db8::5"):
-                for proto, port in ("tcp", 443), ("tcp", 53), ("udp", 443), ("udp", 53), ("udp", 123), ("udp", 5353), ("icmp", 0), ("sctp", 9):
+                for proto, port in (
+                    ("tcp", 443),
+                    ("tcp", 53),
+                    ("udp", 443),
+                    ("udp", 53),
+                    ("udp", 123),
+                    ("udp", 5353),
+                    ("icmp", 0),
+                    ("sctp", 9),
+                ):
                     yield {"proto": proto, "af": af, "source": source, "to": to, "port": port, "user": user}
 
     def test_strict(self):
         probes = list(self.probes())
-        for probe in probes:   # first seen to leave when nothing blocks them
+        for probe in probes:  # first seen to leave when nothing blocks them
             self.assertEqual(self.machine.verdict("out", **probe), "pass")
         self.connected(strict=1)
         self.check([("block", "out", probe) for probe in probes])
-        self.check([
-            ("pass", "out", {"user": self.tor}),
-            ("pass", "out", {"user": self.tor, "af": "inet6", "source": "2001:db8:1::7", "to": "2001:db8::5"}),
-            ("block", "out", {"user": self.tor, "proto": "udp", "port": 53}),
-            ("block", "out", {"user": self.tor, "proto": "udp", "port": 443}),
-            ("block", "out", {"user": self.tor, "proto": "icmp"}),
-            ("block", "out", {"to": LAN}),
-            ("block", "out", {"to": LAN, "proto": "udp", "port": 5353}),
-            ("pass", "out", {"group": self.exempt}),
-            ("pass", "out", {"group": self.exempt, "proto": "udp"}),
-            ("block", "out", {"group": "20"}),
-            ("pass", "out", {"proto": "udp", "sport": 68, "port": 67, "to": "255.255.255.255"}),
-            ("pass", "out", {"proto": "udp", "sport": 68, "port": 67, "to": "192.168.1.1"}),
-            ("block", "out", {"proto": "udp", "sport": 68, "port": 67, "to": PUBLIC}),
-            ("block", "out", {"proto": "udp", "sport": 68, "port": 53, "to": "192.168.1.1"}),
-            ("pass", "out", {"proto": "icmp6", "af": "inet6", "source": "fe80::7", "to": "ff02::1:ff00:1", "kind": "neighbrsol"}),
-            ("block", "out", {"proto": "icmp6", "af": "inet6", "source": "fe80::7", "to": "2001:db8::5", "kind": "neighbrsol"}),
-            # Who did not report gets no solicitations from a switch that listens; the kernel puts the device's number into addresses.
-            *[("pass", "out", {"proto": "icmp6", "af": "inet6", "source": "fe80::7", "to": "ff02::16", "kind": kind}) for kind in ("listenrep", "143")],
-            ("block", "out", {"proto": "icmp6", "af": "inet6", "source": "fe80::7", "to": "ff05::16", "kind": "143"}),
-            *[("pass", "out", {"proto": "udp", "af": "inet6", "source": "fe80::7", "to": to, "sport": 546, "port": 547}) for to in ("ff02::1:2", "ff02:4::1:2")],
-            ("block", "out", {"proto": "udp", "af": "inet6", "source": "fe80::7", "to": "2001:db8::5", "sport": 546, "port": 547}),
-            ("block", "out", {"proto": "icmp6", "af": "inet6", "source": "fe80::7", "to": "ff02::1", "kind": "echoreq"}),
-            ("pass", "out", {"device": "lo0", "to": "127.0.0.1", "port": 9050}),
-            ("pass", "in", {"device": "lo0", "to": "127.0.0.1", "port": 9050}),
-            ("block", "in", {"source": PUBLIC, "to": "198.51.100.7", "port": 22}),
-            ("block", "in", {"source": LAN, "to": "192.168.1.7", "port": 22}),
-            ("block", "in", {"source": "192.168.64.2", "to": PUBLIC, "device": "bridge100"}),   # a virtual machine's
-            ("pass", "in", {"proto": "udp", "sport": 67, "port": 68, "source": "192.168.1.1", "to": "255.255.255.255"}),
-        ])
+        self.check(
+            [
+                ("pass", "out", {"user": self.tor}),
+                ("pass", "out", {"user": self.tor, "af": "inet6", "source": "2001:db8:1::7", "to": "2001:db8::5"}),
+                ("block", "out", {"user": self.tor, "proto": "udp", "port": 53}),
+                ("block", "out", {"user": self.tor, "proto": "udp", "port": 443}),
+                ("block", "out", {"user": self.tor, "proto": "icmp"}),
+                ("block", "out", {"to": LAN}),
+                ("block", "out", {"to": LAN, "proto": "udp", "port": 5353}),
+                ("pass", "out", {"group": self.exempt}),
+                ("pass", "out", {"group": self.exempt, "proto": "udp"}),
+                ("block", "out", {"group": "20"}),
+                ("pass", "out", {"proto": "udp", "sport": 68, "port": 67, "to": "255.255.255.255"}),
+                ("pass", "out", {"proto": "udp", "sport": 68, "port": 67, "to": "192.168.1.1"}),
+                ("block", "out", {"proto": "udp", "sport": 68, "port": 67, "to": PUBLIC}),
+                ("block", "out", {"proto": "udp", "sport": 68, "port": 53, "to": "192.168.1.1"}),
+                (
+                    "pass",
+                    "out",
+                    {"proto": "icmp6", "af": "inet6", "source": "fe80::7", "to": "ff02::1:ff00:1", "kind": "neighbrsol"},
+                ),
+                ("block", "out", {"proto": "icmp6", "af": "inet6", "source": "fe80::7", "to": "2001:db8::5", "kind": "neighbrsol"}),
+                # Who did not report gets no solicitations from a switch that listens; the kernel puts the device's number into addresses.
+                *[
+                    ("pass", "out", {"proto": "icmp6", "af": "inet6", "source": "fe80::7", "to": "ff02::16", "kind": kind})
+                    for kind in ("listenrep", "143")
+                ],
+                ("block", "out", {"proto": "icmp6", "af": "inet6", "source": "fe80::7", "to": "ff05::16", "kind": "143"}),
+                *[
+                    ("pass", "out", {"proto": "udp", "af": "inet6", "source": "fe80::7", "to": to, "sport": 546, "port": 547})
+                    for to in ("ff02::1:2", "ff02:4::1:2")
+                ],
+                (
+                    "block",
+                    "out",
+                    {"proto": "udp", "af": "inet6", "source": "fe80::7", "to": "2001:db8::5", "sport": 546, "port": 547},
+                ),
+                ("block", "out", {"proto": "icmp6", "af": "inet6", "source": "fe80::7", "to": "ff02::1", "kind": "echoreq"}),
+                ("pass", "out", {"device": "lo0", "to": "127.0.0.1", "port": 9050}),
+                ("pass", "in", {"device": "lo0", "to": "127.0.0.1", "port": 9050}),
+                ("block", "in", {"source": PUBLIC, "to": "198.51.100.7", "port": 22}),
+                ("block", "in", {"source": LAN, "to": "192.168.1.7", "port": 22}),
+                ("block", "in", {"source": "192.168.64.2", "to": PUBLIC, "device": "bridge100"}),  # a virtual machine's
+                ("pass", "in", {"proto": "udp", "sport": 67, "port": 68, "source": "192.168.1.1", "to": "255.255.255.255"}),
+            ]
+        )
 
     def test_strict_with_the_local_network(self):
         self.connected(strict=1, lan=1)
         self.check([("block", "out", probe) for probe in self.probes()])
-        self.check([
-            ("pass", "out", {"to": LAN}), ("pass", "in", {"source": LAN, "to": "192.168.1.7", "port": 22}),
-            ("pass", "out", {"to": "fd00::9", "af": "inet6", "source": "fd00::7"}),
-            ("block", "in", {"source": PUBLIC, "to": "192.168.1.7", "port": 22}),
-            ("block", "out", {"to": "224.0.0.251", "proto": "udp", "port": 5353}),
-            *[("block", "out", {"to": LAN, "proto": proto, "port": port}) for proto in ("tcp", "udp")
-              for port in (53, 137, 138, 139, 853, 5353, 5355)],
-            *[("block", "in", {"source": LAN, "to": PUBLIC, "proto": "udp", "port": port, "device": "bridge100"}) for port in (53, 853)],
-        ])
+        self.check(
+            [
+                ("pass", "out", {"to": LAN}),
+                ("pass", "in", {"source": LAN, "to": "192.168.1.7", "port": 22}),
+                ("pass", "out", {"to": "fd00::9", "af": "inet6", "source": "fd00::7"}),
+                ("block", "in", {"source": PUBLIC, "to": "192.168.1.7", "port": 22}),
+                ("block", "out", {"to": "224.0.0.251", "proto": "udp", "port": 5353}),
+                *[
+                    ("block", "out", {"to": LAN, "proto": proto, "port": port})
+                    for proto in ("tcp", "udp")
+                    for port in (53, 137, 138, 139, 853, 5353, 5355)
+                ],
+                *[
+                    ("block", "in", {"source": LAN, "to": PUBLIC, "proto": "udp", "port": port, "device": "bridge100"})
+                    for port in (53, 853)
+                ],
+            ]
+        )
 
     def test_snowflake_may_send_datagrams(self):
-        self.connected(strict=1, more=["--bridge", "snowflake 192.0.2.3:80 0123456789012345678901234567890123456789",
-                                       "--pt-snowflake", "/usr/bin/snowflake-client"])
+        self.connected(
+            strict=1,
+            more=[
+                "--bridge",
+                "snowflake 192.0.2.3:80 0123456789012345678901234567890123456789",
+                "--pt-snowflake",
+                "/usr/bin/snowflake-client",
+            ],
+        )
         self.check([("pass", "out", {"user": self.tor, "proto": "udp"}), ("block", "out", {"proto": "udp"})])
 
     def test_proxy(self):
         self.connected(strict=0)
-        self.check([
-            ("pass", "out", {}), ("pass", "out", {"proto": "udp"}), ("pass", "in", {"source": LAN, "to": "192.168.1.7"}),
-            ("block", "out", {"proto": "udp", "port": 53}), ("block", "out", {"proto": "tcp", "port": 53}),
-            ("pass", "out", {"proto": "udp", "port": 53, "user": self.tor}),
-            ("pass", "out", {"device": "lo0", "to": "127.0.0.1", "proto": "udp", "port": 53}),
-        ])
+        self.check(
+            [
+                ("pass", "out", {}),
+                ("pass", "out", {"proto": "udp"}),
+                ("pass", "in", {"source": LAN, "to": "192.168.1.7"}),
+                ("block", "out", {"proto": "udp", "port": 53}),
+                ("block", "out", {"proto": "tcp", "port": 53}),
+                ("pass", "out", {"proto": "udp", "port": 53, "user": self.tor}),
+                ("pass", "out", {"device": "lo0", "to": "127.0.0.1", "proto": "udp", "port": 53}),
+            ]
+        )
 
     def test_the_control_port_is_the_users_in_both_modes(self):
         for strict in 0, 1:
             self.connected(strict=strict)
             at = {"device": "lo0", "to": "127.0.0.1", "port": 9051}
-            self.check([*[("pass", "out", {**at, "user": user}) for user in (0, USER_UID, self.tor)],
-                        ("block", "out", {**at, "user": 65534}),
-                        ("block", "out", {**at, "user": 65534, "af": "inet6", "source": "::1", "to": "::1"})])
+            self.check(
+                [
+                    *[("pass", "out", {**at, "user": user}) for user in (0, USER_UID, self.tor)],
+                    ("block", "out", {**at, "user": 65534}),
+                    ("block", "out", {**at, "user": 65534, "af": "inet6", "source": "::1", "to": "::1"}),
+                ]
+            )
 
     def test_a_change_of_modes_is_never_open(self):
         """Each rule set is loaded whole; between two of them there is none that lets more out than both."""

@@ -29,7 +29,9 @@ class Session(MacTest):
                 for name in "Wi-Fi", BUREAU, "Thunderbolt Bridge":
                     self.assertSwitched(name)
                 state = self.machine.state
-                self.assertEqual(state["service Automatic/iPhone USB dns"], "192.0.2.99", "a service that is switched off was changed")
+                self.assertEqual(
+                    state["service Automatic/iPhone USB dns"], "192.0.2.99", "a service that is switched off was changed"
+                )
                 self.assertEqual(state["pf  filter"].splitlines()[1], 'anchor "veldmark" all')
                 self.assertEqual(len(state["pf tokens"].splitlines()), 2)
                 self.machine.shell(f"kill -0 {self.machine.tor()}")
@@ -45,7 +47,9 @@ class Session(MacTest):
         self.assertNotIn("\t0\t", status)
         names = {line.split("=")[0] for line in self.machine.shell(f"tr '\\0' '\\n' </proc/{pid}/environ").split()}
         self.assertEqual(names, {"HOME", "PATH", "LC_ALL"})
-        opened = [os.readlink(f"{self.machine.root}/proc/{pid}/fd/{name}") for name in os.listdir(f"{self.machine.root}/proc/{pid}/fd")]
+        opened = [
+            os.readlink(f"{self.machine.root}/proc/{pid}/fd/{name}") for name in os.listdir(f"{self.machine.root}/proc/{pid}/fd")
+        ]
         self.assertNotIn("veldmark.lock", " ".join(opened))
 
     def test_the_account_is_made_once_hidden_and_with_a_free_number(self):
@@ -136,7 +140,7 @@ class Session(MacTest):
     def test_fix_dns_puts_back_what_others_changed(self):
         self.machine.connect()
         wanted = self.machine.settings()
-        self.machine.end_watcher()   # it would be faster
+        self.machine.end_watcher()  # it would be faster
         state = self.machine.state
         state["service Automatic/Wi-Fi dns"] = "192.0.2.1"
         state[f"service Automatic/{BUREAU} web"] = "Yes\tproxy.example\t3128"
@@ -226,8 +230,11 @@ class Session(MacTest):
     def test_a_journal_that_others_could_write_is_not_believed(self):
         self.machine.connect()
         self.machine.shell('chmod 777 "/Library/Application Support/Veldmark/journal"')
-        self.machine.write(JOURNAL + "30-service-0", "service Wi-Fi\nlocation Automatic\nsocks No\nhost \nport 0\nweb No\nsecure No\n"
-                                                     "auto No\ndiscovery Off\ndns 198.51.100.66\nend\n")
+        self.machine.write(
+            JOURNAL + "30-service-0",
+            "service Wi-Fi\nlocation Automatic\nsocks No\nhost \nport 0\nweb No\nsecure No\n"
+            "auto No\ndiscovery Off\ndns 198.51.100.66\nend\n",
+        )
         self.machine.help("disconnect", check=False)
         self.assertNotIn("198.51.100.66", str(self.machine.state))
         self.assertEqual(self.machine.state["service Automatic/Wi-Fi dns"], "")
@@ -239,8 +246,9 @@ class Session(MacTest):
         state = self.machine.state
         state["acl /Library/Application Support/Veldmark"] = "user:alice allow add_file,delete_child"
         self.machine.state = state
-        self.assertOneLine(self.machine.help("connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0", check=False),
-                           "not safe")
+        self.assertOneLine(
+            self.machine.help("connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0", check=False), "not safe"
+        )
 
     def test_a_job_that_launchd_is_not_done_with_is_begun_again(self):
         """Right after the end of a job, bootstrap fails for a while, first with 37 and then with 5."""
@@ -256,7 +264,7 @@ class Session(MacTest):
         self.machine.help("disconnect")
         self.machine.write("/mac/calls", "")
         self.machine.connect()
-        self.assertGreaterEqual(len(self.machine.calls("launchctl list veldmark.tor")), 4)   # the first is before it is started
+        self.assertGreaterEqual(len(self.machine.calls("launchctl list veldmark.tor")), 4)  # the first is before it is started
 
     def test_a_service_that_cannot_be_set_does_not_end_the_connect(self):
         for what in "get", "set", "getset":
@@ -297,7 +305,10 @@ class Session(MacTest):
         self.machine.connect()
         for name in "/state/active", "/journal/10-firewall", "/journal/20-tor":
             path = "/Library/Application Support/Veldmark" + name
-            self.assertTrue([call for call in self.machine.calls("fullsync") if call.endswith(f"{path}.new {path} {path.rsplit('/', 1)[0]}")], name)
+            self.assertTrue(
+                [call for call in self.machine.calls("fullsync") if call.endswith(f"{path}.new {path} {path.rsplit('/', 1)[0]}")],
+                name,
+            )
         self.assertEqual(self.machine.calls("sync"), [])
 
     def test_without_perl_disconnect_puts_everything_back(self):
@@ -336,39 +347,69 @@ class Session(MacTest):
         self.assertRestored()
 
     def test_a_tor_that_cannot_start_says_why_and_proxy_mode_goes_back(self):
-        busy = self.machine.start("/usr/bin/perl", "-e", "use Socket; socket(S, 2, 1, 0); bind(S, sockaddr_in(9051, inet_aton('127.0.0.1')));"
-                                  "listen(S, 1); syswrite(STDOUT, 'x'); <STDIN>",
-                                  stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        busy = self.machine.start(
+            "/usr/bin/perl",
+            "-e",
+            "use Socket; socket(S, 2, 1, 0); bind(S, sockaddr_in(9051, inet_aton('127.0.0.1')));"
+            "listen(S, 1); syswrite(STDOUT, 'x'); <STDIN>",
+            stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE,
+        )
         try:
             self.assertEqual(busy.stdout.read(1), b"x")
             self.before = self.machine.settings()
-            self.assertOneLine(self.machine.help("connect", "--tor", TOR, "--hash", HASH, "--strict", "0", "--lan", "0", check=False),
-                               "Could not bind to 127.0.0.1:9051")
+            self.assertOneLine(
+                self.machine.help("connect", "--tor", TOR, "--hash", HASH, "--strict", "0", "--lan", "0", check=False),
+                "Could not bind to 127.0.0.1:9051",
+            )
             self.assertRestored()
             done = self.machine.help("connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0", check=False)
             self.assertOneLine(done, "The network stays blocked until you disconnect.")
             self.assertEqual(self.machine.verdict("out"), "block")
         finally:
-            busy.stdin.close()   # it ends by itself
+            busy.stdin.close()  # it ends by itself
             busy.wait()
             busy.stdout.close()
 
     def test_two_runs_at_once_wait_for_each_other(self):
-        runs = [self.machine.start("/bin/bash", self.machine.helper, "connect", "--tor", TOR, "--hash", HASH, "--strict", "1",
-                                   "--lan", "0", stdout=subprocess.DEVNULL) for _ in range(2)]
+        runs = [
+            self.machine.start(
+                "/bin/bash",
+                self.machine.helper,
+                "connect",
+                "--tor",
+                TOR,
+                "--hash",
+                HASH,
+                "--strict",
+                "1",
+                "--lan",
+                "0",
+                stdout=subprocess.DEVNULL,
+            )
+            for _ in range(2)
+        ]
         self.assertEqual([run.wait(60) for run in runs], [0, 0])
         self.machine.help("disconnect")
         self.assertRestored()
 
     def test_names_of_transports_stand_in_the_hosts_while_the_session_lasts(self):
-        self.machine.change(**{"host_front.example".replace("_", " "): "name: front.example\nip_address: 192.0.2.80 192.0.2.83\n\nname: front.example\nipv6_address: 2001:db8::80\n",
-                               "host_b.example".replace("_", " "): "name: b.example\nip_address: 192.0.2.81\nip_address: $(x)\n"})
+        self.machine.change(
+            **{
+                "host_front.example".replace(
+                    "_", " "
+                ): "name: front.example\nip_address: 192.0.2.80 192.0.2.83\n\nname: front.example\nipv6_address: 2001:db8::80\n",
+                "host_b.example".replace("_", " "): "name: b.example\nip_address: 192.0.2.81\nip_address: $(x)\n",
+            }
+        )
         bridge = "meek_lite 192.0.2.20:80 0123456789012345678901234567890123456789 url=https://b.example/x front=front.example"
         before = self.machine.read("/private/etc/hosts")
         self.machine.connect(more=["--bridge", bridge, "--pt-lyrebird", "/usr/bin/obfs4proxy"])
-        self.assertEqual(self.machine.read("/private/etc/hosts"),
-                         before + "\n# >>> veldmark >>>\n192.0.2.81 b.example\n192.0.2.80 front.example\n192.0.2.83 front.example\n"
-                                  "2001:db8::80 front.example\n# <<< veldmark <<<\n")
+        self.assertEqual(
+            self.machine.read("/private/etc/hosts"),
+            before + "\n# >>> veldmark >>>\n192.0.2.81 b.example\n192.0.2.80 front.example\n192.0.2.83 front.example\n"
+            "2001:db8::80 front.example\n# <<< veldmark <<<\n",
+        )
         self.machine.connect(more=["--bridge", bridge, "--pt-lyrebird", "/usr/bin/obfs4proxy"])
         self.machine.help("disconnect")
         state = self.machine.state

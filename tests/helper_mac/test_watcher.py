@@ -6,8 +6,8 @@ import time
 import mac
 from mac import MacTest
 
-NOTE = "/private/var/run/veldmark.watch"   # "WORD COUNT SINCE", as young as the watcher's last look
-LIMIT_SECONDS = 30   # on a busy machine; it looks every second
+NOTE = "/private/var/run/veldmark.watch"  # "WORD COUNT SINCE", as young as the watcher's last look
+LIMIT_SECONDS = 30  # on a busy machine; it looks every second
 
 
 class Watcher(MacTest):
@@ -48,7 +48,9 @@ class Watcher(MacTest):
                 state = self.machine.state
                 self.assertTrue(self.closed())
                 self.assertEqual(state["pf veldmark filter"], wanted)
-                self.assertEqual([line for line in state["pf  filter"].splitlines() if "scrub" not in line][0], 'anchor "veldmark" all')
+                self.assertEqual(
+                    [line for line in state["pf  filter"].splitlines() if "scrub" not in line][0], 'anchor "veldmark" all'
+                )
                 self.assertIn('rdr-anchor "veldmark" all', state["pf  nat"])
 
     def test_rules_that_do_not_read_back_are_no_kill_switch(self):
@@ -91,7 +93,7 @@ class Watcher(MacTest):
 
     def test_what_cannot_be_put_back_is_told_once_and_so_is_its_end(self):
         self.machine.connect()
-        self.assertEqual(self.note(), "standing 0")   # also before the first look
+        self.assertEqual(self.note(), "standing 0")  # also before the first look
         path = self.machine.root + NOTE
         pfctl = self.machine.root + "/usr/bin/pfctl"
         os.rename(pfctl, pfctl + ".away")
@@ -120,8 +122,12 @@ class Watcher(MacTest):
 
     def test_what_it_runs_is_roots_alone(self):
         self.machine.connect()
-        self.assertEqual(self.machine.shell("/mac/gnu/stat -c '%a %u' /private/var/db/veldmark/run/watcher.sh "
-                                            "/private/var/db/veldmark/run/watch.plist"), "600 0\n644 0\n")
+        self.assertEqual(
+            self.machine.shell(
+                "/mac/gnu/stat -c '%a %u' /private/var/db/veldmark/run/watcher.sh " "/private/var/db/veldmark/run/watch.plist"
+            ),
+            "600 0\n644 0\n",
+        )
 
 
 if __name__ == "__main__":

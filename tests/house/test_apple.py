@@ -23,14 +23,23 @@ BUILD = pathlib.Path(sys.argv[2])
 WANTED = sys.argv[3:] or ["system"]
 SYSTEM_HEADER = re.compile(r"^#include <[a-z_/0-9]+\.h>", re.MULTILINE)
 CLANG = shutil.which("clang++-16") or "clang++"
-MISSING = "stop_token", "syncstream", "malloc.h", "format_kind"   # of the library and of the system
+MISSING = "stop_token", "syncstream", "malloc.h", "format_kind"  # of the library and of the system
 # What only Linux's headers have, for the lines that a Mac compiles as well. (timex, st_mtim and the like are on both, or are told apart.)
-LINUX_WORDS = re.compile(r"\b(SOCK_CLOEXEC|SOCK_NONBLOCK|tcp_info|TCP_INFO|mallinfo2?|malloc_trim|pipe2|accept4|prctl|PR_[A-Z_]+|[gs]etres[ug]id|"
-                         r"O_PATH|O_TMPFILE|epoll_\w+|signalfd|eventfd|timerfd\w*|inotify_\w+|memfd_create|renameat2|SO_PEERCRED|ucred|"
-                         r"pidfd_\w+|SYS_\w+|MSG_NOSIGNAL|unshare|setns|statx|secure_getenv|PTRACE_\w+|execvpe|POLLRDHUP|gettid|close_range)\b(?![\"/])")
+LINUX_WORDS = re.compile(
+    r"\b(SOCK_CLOEXEC|SOCK_NONBLOCK|tcp_info|TCP_INFO|mallinfo2?|malloc_trim|pipe2|accept4|prctl|PR_[A-Z_]+|[gs]etres[ug]id|"
+    r"O_PATH|O_TMPFILE|epoll_\w+|signalfd|eventfd|timerfd\w*|inotify_\w+|memfd_create|renameat2|SO_PEERCRED|ucred|"
+    r"pidfd_\w+|SYS_\w+|MSG_NOSIGNAL|unshare|setns|statx|secure_getenv|PTRACE_\w+|execvpe|POLLRDHUP|gettid|close_range)\b(?![\"/])"
+)
 # Each has a Mac's in its place, or is a program for Linux alone.
-LINUX_ONLY = {"src/platform/LinuxApplications.cpp", "src/platform/LinuxInstalledApplications.cpp", "src/app/Activation.cpp",
-              "src/app/LoginItem.cpp", "src/launch/main.cpp", "src/launch/SessionEnvironment.cpp", "src/launch/Application.cpp"}
+LINUX_ONLY = {
+    "src/platform/LinuxApplications.cpp",
+    "src/platform/LinuxInstalledApplications.cpp",
+    "src/app/Activation.cpp",
+    "src/app/LoginItem.cpp",
+    "src/launch/main.cpp",
+    "src/launch/SessionEnvironment.cpp",
+    "src/launch/Application.cpp",
+}
 LINUX_ROOMS = ("src/identify/", "tests/unit/identify/")
 
 
@@ -63,7 +72,12 @@ def commands():
             name = str(path.relative_to(ROOT))
         except ValueError:
             continue
-        if not name.startswith(("src/", "tests/unit/", "tests/support/")) or name in LINUX_ONLY or name.startswith(LINUX_ROOMS) or path.suffix != ".cpp":
+        if (
+            not name.startswith(("src/", "tests/unit/", "tests/support/"))
+            or name in LINUX_ONLY
+            or name.startswith(LINUX_ROOMS)
+            or path.suffix != ".cpp"
+        ):
             continue
         sources.add(name)
         parts = iter(shlex.split(entry["command"]))
@@ -77,16 +91,32 @@ def commands():
 
 class Compiler:
     def __init__(self, folder, words):
-        self.words = [CLANG, "-stdlib=libc++", "-std=c++20", "-fPIC", "-fsyntax-only", "-Wall", "-Wextra", "-Wshadow", "-Werror",
-                      "-I", folder, *words]
+        self.words = [
+            CLANG,
+            "-stdlib=libc++",
+            "-std=c++20",
+            "-fPIC",
+            "-fsyntax-only",
+            "-Wall",
+            "-Wextra",
+            "-Wshadow",
+            "-Werror",
+            "-I",
+            folder,
+            *words,
+        ]
         for name in MISSING:
             pathlib.Path(folder, name).write_text(f'#error "<{name}> is not on a Mac"\n', encoding="ascii")
         common = next(BUILD.rglob("veldmark_precompiled_tests.dir/cmake_pch.hxx"), None)
         lines = common.read_text(encoding="utf-8").splitlines() if common else []
         header = pathlib.Path(folder, "common.h")
         header.write_text("".join(line + "\n" for line in lines if line.startswith("#include")), encoding="utf-8")
-        made = subprocess.run([word for word in self.words if word != "-fsyntax-only"] + ["-x", "c++-header", str(header), "-o", f"{header}.pch"],
-                              capture_output=True, text=True, check=False)
+        made = subprocess.run(
+            [word for word in self.words if word != "-fsyntax-only"] + ["-x", "c++-header", str(header), "-o", f"{header}.pch"],
+            capture_output=True,
+            text=True,
+            check=False,
+        )
         if made.returncode:
             raise RuntimeError(made.stderr[-4000:])
         self.common = f"{header}.pch"
@@ -109,8 +139,11 @@ class Apple(unittest.TestCase):
         cls.folder.cleanup()
 
     def test_what_a_mac_lacks_is_found(self):
-        for text, wanted in (("#include <stop_token>\n", "is not on a Mac"), ("#include <malloc.h>\n", "is not on a Mac"),
-                             ("#include <string>\nstd::string f() { return 1; }\n", "no viable conversion")):
+        for text, wanted in (
+            ("#include <stop_token>\n", "is not on a Mac"),
+            ("#include <malloc.h>\n", "is not on a Mac"),
+            ("#include <string>\nstd::string f() { return 1; }\n", "no viable conversion"),
+        ):
             path = pathlib.Path(self.folder.name, "wrong.cpp")
             path.write_text(text, encoding="ascii")
             self.assertIn(wanted, self.compiler.check(path, common=False))
@@ -118,13 +151,20 @@ class Apple(unittest.TestCase):
     def test_words_of_linux_alone_are_found(self):
         found = lambda text: [number for number, line in for_macs(text) if LINUX_WORDS.search(line)]  # noqa: E731
         self.assertEqual(found("pipe2(p, 0);\n#ifdef __linux__\npipe2(p, 0);\n#else\npipe2(p, 0);\n#endif\n// pipe2\n"), [1, 5])
-        self.assertEqual(found('#if !defined(__linux__) || defined(X)\nskip;\n#else\nprctl(PR_GET_DUMPABLE);\n#endif\nrun("unshare");\n'), [])
+        self.assertEqual(
+            found('#if !defined(__linux__) || defined(X)\nskip;\n#else\nprctl(PR_GET_DUMPABLE);\n#endif\nrun("unshare");\n'), []
+        )
 
     def test_no_source_uses_what_linux_alone_has(self):
         for folder in "src", "tests/unit", "tests/support":
             for path in sorted((ROOT / folder).rglob("*")):
                 name = str(path.relative_to(ROOT))
-                if path.suffix not in (".cpp", ".h", ".mm") or name in LINUX_ONLY or name.startswith(LINUX_ROOMS) or "/Linux" in name:
+                if (
+                    path.suffix not in (".cpp", ".h", ".mm")
+                    or name in LINUX_ONLY
+                    or name.startswith(LINUX_ROOMS)
+                    or "/Linux" in name
+                ):
                     continue
                 for number, line in for_macs(path.read_text(encoding="utf-8")):
                     with self.subTest(f"{name}:{number}"):
@@ -140,8 +180,14 @@ class Apple(unittest.TestCase):
         if WANTED in (["all"], ["system"]):
             self.assertGreater(len(sources), 250 if WANTED == ["all"] else 30)
         headers = pathlib.Path(self.folder.name, "headers.cpp")
-        headers.write_text("".join(f'#include "{path.relative_to(ROOT / "src")}"\n' for path in sorted((ROOT / "src").rglob("*.h")) if path.parent.name != "identify"),
-                           encoding="utf-8")
+        headers.write_text(
+            "".join(
+                f'#include "{path.relative_to(ROOT / "src")}"\n'
+                for path in sorted((ROOT / "src").rglob("*.h"))
+                if path.parent.name != "identify"
+            ),
+            encoding="utf-8",
+        )
         with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
             paths = [headers, *(ROOT / name for name in sources)]
             for path, said in zip(paths, pool.map(self.compiler.check, paths)):

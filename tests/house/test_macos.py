@@ -31,9 +31,27 @@ def gnustep():
 
 def check(path):
     """What the compiler says of the file's syntax and types; empty when nothing."""
-    words = ["clang++", "-x", "objective-c++", "-std=c++20", "-fsyntax-only", "-fobjc-runtime=gcc", "-fblocks", "-fPIC",
-             "-Wall", "-Wextra", "-Wshadow", "-Werror", "-DQT_NO_CAST_FROM_ASCII", "-DQT_NO_CAST_TO_ASCII", "-DQT_NO_KEYWORDS",
-             "-I", str(ROOT / "src"), "-include", str(APPLE / "missing.h")]
+    words = [
+        "clang++",
+        "-x",
+        "objective-c++",
+        "-std=c++20",
+        "-fsyntax-only",
+        "-fobjc-runtime=gcc",
+        "-fblocks",
+        "-fPIC",
+        "-Wall",
+        "-Wextra",
+        "-Wshadow",
+        "-Werror",
+        "-DQT_NO_CAST_FROM_ASCII",
+        "-DQT_NO_CAST_TO_ASCII",
+        "-DQT_NO_KEYWORDS",
+        "-I",
+        str(ROOT / "src"),
+        "-include",
+        str(APPLE / "missing.h"),
+    ]
     for folder in [gnustep(), str(APPLE), *sorted(map(str, pathlib.Path("/usr/lib/gcc").glob("*/*/include"))), *QT]:
         words += ["-isystem", folder]
     return subprocess.run([*words, str(path)], capture_output=True, text=True, check=False).stderr
@@ -93,13 +111,26 @@ class Bundle(unittest.TestCase):
         self.assertEqual(struct.unpack(">I", data[4:8])[0], len(data))
         sizes, at = {}, 8
         while at < len(data):
-            kind, length = data[at:at + 4].decode(), struct.unpack(">I", data[at + 4:at + 8])[0]
-            png = data[at + 8:at + length]
+            kind, length = data[at : at + 4].decode(), struct.unpack(">I", data[at + 4 : at + 8])[0]
+            png = data[at + 8 : at + length]
             self.assertEqual(png[:8], b"\x89PNG\r\n\x1a\n")
             sizes[kind] = struct.unpack(">II", png[16:24])
             at += length
-        self.assertEqual(sizes, {"icp4": (16, 16), "icp5": (32, 32), "ic07": (128, 128), "ic08": (256, 256), "ic09": (512, 512),
-                                 "ic10": (1024, 1024), "ic11": (32, 32), "ic12": (64, 64), "ic13": (256, 256), "ic14": (512, 512)})
+        self.assertEqual(
+            sizes,
+            {
+                "icp4": (16, 16),
+                "icp5": (32, 32),
+                "ic07": (128, 128),
+                "ic08": (256, 256),
+                "ic09": (512, 512),
+                "ic10": (1024, 1024),
+                "ic11": (32, 32),
+                "ic12": (64, 64),
+                "ic13": (256, 256),
+                "ic14": (512, 512),
+            },
+        )
 
 
 if __name__ == "__main__":

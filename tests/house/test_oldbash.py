@@ -54,9 +54,27 @@ def code(path):
 
 class OldBash(unittest.TestCase):
     def test_the_patterns_find_what_they_look_for(self):
-        for wrong in ("declare -A x", "local -n y=z", "mapfile -t a", "echo ${x,,}", "echo ${x^}", "a |& b", "exec {fd}>&-",
-                      "echo $BASHPID", "[[ -v x ]]", "read -r -t 0.1 x", "stat -c %u f", "mv -fT a b", "x=$(readlink -e f)",
-                      "flock -w 1 9", "cat /proc/self/stat", "${a[-1]}", "wait -n", r'[[ $x =~ a\ b ]]', r'[[ $x =~ \"a ]]'):
+        for wrong in (
+            "declare -A x",
+            "local -n y=z",
+            "mapfile -t a",
+            "echo ${x,,}",
+            "echo ${x^}",
+            "a |& b",
+            "exec {fd}>&-",
+            "echo $BASHPID",
+            "[[ -v x ]]",
+            "read -r -t 0.1 x",
+            "stat -c %u f",
+            "mv -fT a b",
+            "x=$(readlink -e f)",
+            "flock -w 1 9",
+            "cat /proc/self/stat",
+            "${a[-1]}",
+            "wait -n",
+            r"[[ $x =~ a\ b ]]",
+            r"[[ $x =~ \"a ]]",
+        ):
             self.assertTrue(any(re.search(pattern, wrong) for pattern in NEWER.values()), wrong)
 
     def test_every_part_of_the_macs_helper(self):

@@ -16,7 +16,7 @@ NAME = re.compile(r"`([\w/]+(?:\.py|Test))(?:: (\w+))?`")
 
 def main() -> int:
     project = Path(sys.argv[1])
-    files: dict[str, list[Path]] = {}   # of one name there may be several
+    files: dict[str, list[Path]] = {}  # of one name there may be several
     for folder, pattern in (("tests", "*.py"), ("fuzz", "*.py"), ("tests", "*Test.cpp")):
         for path in (project / folder).rglob(pattern):
             files.setdefault(path.name.removesuffix(".cpp"), []).append(path)
@@ -24,7 +24,7 @@ def main() -> int:
     missing, found = [], 0
     for file, test in NAME.findall(promises):
         named = file.split("/")
-        paths = [path for path in files.get(named[-1], []) if list(path.parts[-len(named):-1]) == named[:-1]]
+        paths = [path for path in files.get(named[-1], []) if list(path.parts[-len(named) : -1]) == named[:-1]]
         if not paths:
             missing.append(f"there is no {file}")
         elif len(paths) > 1:

@@ -1,12 +1,14 @@
-// Runs the real controller with the real helper and the real tor, on a clock that runs sixty times as fast (or as many
-// times as VELDMARK_SPEED says), so that the five-minute deadline of the bootstrap comes after five seconds. For the lab's
-// host only.
+// Runs the real controller with the real helper and the real tor, on a clock that runs sixty times
+// as fast (or as many times as VELDMARK_SPEED says), so that the five-minute deadline of the
+// bootstrap comes after five seconds. For the lab's host only.
 //
-//     FastForward connect         connects and prints the published state when the attempt has ended, as JSON
-//     FastForward wrong-password  the same, but tor is given the hash of another control password
-//     FastForward monitor HOURS   connects and stays so for that long by its clock, as somebody would who looks at circuits and
-//                                 the log and connects again whenever Tor has died; prints a line of JSON for each five
-//                                 minutes of its clock: what the process takes, and what it has seen
+//     FastForward connect         connects and prints the published state when the attempt has
+//     ended, as JSON FastForward wrong-password  the same, but tor is given the hash of another
+//     control password FastForward monitor HOURS   connects and stays so for that long by its
+//     clock, as somebody would who looks at circuits and
+//                                 the log and connects again whenever Tor has died; prints a line
+//                                 of JSON for each five minutes of its clock: what the process
+//                                 takes, and what it has seen
 //
 // Restores the network before it ends; exit status 1 when that failed.
 
@@ -21,10 +23,10 @@
 #include "controller/TorController.h"
 #include "log/TorLogStore.h"
 #include "platform/PlatformProfile.h"
+#include "platform/RunningApplications.h"
 #include "system/ChildProcessRunner.h"
 #include "system/PrivilegedRunner.h"
 #include "system/SettingsStore.h"
-#include "platform/RunningApplications.h"
 #include "terminal/TerminalIntegration.h"
 
 #include <QCoreApplication>
@@ -43,7 +45,9 @@ using namespace veldmark;
 
 namespace {
 
-const int speed = qEnvironmentVariableIsSet("VELDMARK_SPEED") ? qEnvironmentVariableIntValue("VELDMARK_SPEED") : 60;
+const int speed = qEnvironmentVariableIsSet("VELDMARK_SPEED")
+    ? qEnvironmentVariableIntValue("VELDMARK_SPEED")
+    : 60;
 
 class FastClock final : public Clock {
 public:
@@ -65,11 +69,14 @@ private:
 // Tells the helper the hash of another password.
 class WrongHash final : public ProcessRunner {
 public:
-    QCoro::Task<Result<ProcessResult, StartError>> run(QString executable, QStringList arguments) override
+    QCoro::Task<Result<ProcessResult, StartError>> run(QString executable,
+                                                       QStringList arguments) override
     {
         return m_runner.run(executable, arguments);
     }
-    QCoro::Task<Result<ProcessResult, StartError>> runWithInput(QString executable, QStringList arguments, QByteArray input) override
+    QCoro::Task<Result<ProcessResult, StartError>> runWithInput(QString executable,
+                                                                QStringList arguments,
+                                                                QByteArray input) override
     {
         QByteArrayList words = input.split('\n');
         if (const auto place = words.indexOf(QByteArray("--hash")); place >= 0)
@@ -91,7 +98,8 @@ QCoro::Task<void> attempt(TorController *controller)
     QCoreApplication::exit(controller->isSessionMarkerPresent() ? 1 : 0);
 }
 
-// Memory in KiB, resident and what of it the allocator has handed out; open descriptors and threads of this process.
+// Memory in KiB, resident and what of it the allocator has handed out; open descriptors and threads
+// of this process.
 QJsonObject taken()
 {
     const struct mallinfo2 heap = mallinfo2();
@@ -99,7 +107,10 @@ QJsonObject taken()
     const bool isOpen = file.open(QIODevice::ReadOnly);
     const qint64 pages = isOpen ? file.readAll().split(' ').value(1).toLongLong() : 0;
     const auto count = [](const char *folder) {
-        return static_cast<qint64>(QDir(QLatin1String(folder)).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size());
+        return static_cast<qint64>(
+            QDir(QLatin1String(folder))
+                .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)
+                .size());
     };
     return {{QStringLiteral("memoryKiB"), pages * sysconf(_SC_PAGESIZE) / 1024},
             {QStringLiteral("heapKiB"), static_cast<qint64>((heap.uordblks + heap.hblkhd) / 1024)},
@@ -114,10 +125,13 @@ struct Seen {
     qint64 refreshes = 0;
 };
 
-void printReading(const TorController &controller, const TorLogStore &log, const Seen &seen, Clock::TimePoint::duration since)
+void printReading(const TorController &controller, const TorLogStore &log, const Seen &seen,
+                  Clock::TimePoint::duration since)
 {
     QJsonObject line = taken();
-    line.insert(QStringLiteral("minutes"), static_cast<qint64>(std::chrono::duration_cast<std::chrono::minutes>(since).count()));
+    line.insert(
+        QStringLiteral("minutes"),
+        static_cast<qint64>(std::chrono::duration_cast<std::chrono::minutes>(since).count()));
     line.insert(QStringLiteral("deaths"), seen.deaths);
     line.insert(QStringLiteral("failures"), seen.failures);
     line.insert(QStringLiteral("refreshes"), seen.refreshes);
@@ -128,7 +142,8 @@ void printReading(const TorController &controller, const TorLogStore &log, const
     std::fflush(stdout);
 }
 
-QCoro::Task<void> monitor(TorController *controller, FastClock *clock, Seen *seen, Clock::TimePoint end)
+QCoro::Task<void> monitor(TorController *controller, FastClock *clock, Seen *seen,
+                          Clock::TimePoint end)
 {
     constexpr std::chrono::seconds turn(10); // of the fast clock
     co_await controller->connect();
@@ -190,7 +205,8 @@ int main(int argc, char **argv)
                 return TCPProbe::connectTime(host, port, limit, &systemClock);
             },
     });
-    // Not once in each second of the fast clock: reading a full log so often would leave no time for anything else.
+    // Not once in each second of the fast clock: reading a full log so often would leave no time
+    // for anything else.
     TorLogStore log(TorLog(profile), nullptr, TorLogStore::pollInterval * 10 / speed);
     Seen seen;
     QTimer readings;
@@ -199,8 +215,11 @@ int main(int argc, char **argv)
         log.start();
         const auto start = clock.now();
         const auto end = start
-            + std::chrono::duration_cast<Clock::TimePoint::duration>(std::chrono::duration<double, std::ratio<3600>>(arguments.value(2).toDouble()));
-        QObject::connect(&readings, &QTimer::timeout, &application, [&, start] { printReading(controller, log, seen, clock.now() - start); });
+            + std::chrono::duration_cast<Clock::TimePoint::duration>(
+                             std::chrono::duration<double, std::ratio<3600>>(
+                                 arguments.value(2).toDouble()));
+        QObject::connect(&readings, &QTimer::timeout, &application,
+                         [&, start] { printReading(controller, log, seen, clock.now() - start); });
         readings.start(std::chrono::milliseconds(std::chrono::minutes(5)) / speed);
         QTimer::singleShot(0, &application, [&, end] { monitor(&controller, &clock, &seen, end); });
     } else {

@@ -1,6 +1,7 @@
-// A library to be loaded into a program before all others (LD_PRELOAD): the program is killed, as by SIGKILL from outside,
-// right before the change of files whose number is in VELDMARK_FATAL_STEP; 1 is the first. A change is each making,
-// removing and renaming of a file or folder. Programs that it starts are left alone.
+// A library to be loaded into a program before all others (LD_PRELOAD): the program is killed, as
+// by SIGKILL from outside, right before the change of files whose number is in VELDMARK_FATAL_STEP;
+// 1 is the first. A change is each making, removing and renaming of a file or folder. Programs that
+// it starts are left alone.
 
 #include <atomic>
 #include <cstdarg>
@@ -28,8 +29,7 @@ void step()
         ::kill(::getpid(), SIGKILL);
 }
 
-template <typename Call>
-Call next(const char *name)
+template <typename Call> Call next(const char *name)
 {
     return reinterpret_cast<Call>(::dlsym(RTLD_NEXT, name));
 }
@@ -95,10 +95,12 @@ int rename(const char *from, const char *to) noexcept
     return next<int (*)(const char *, const char *)>("rename")(from, to);
 }
 
-int renameat2(int fromFolder, const char *from, int toFolder, const char *to, unsigned flags) noexcept
+int renameat2(int fromFolder, const char *from, int toFolder, const char *to,
+              unsigned flags) noexcept
 {
     step();
-    return next<int (*)(int, const char *, int, const char *, unsigned)>("renameat2")(fromFolder, from, toFolder, to, flags);
+    return next<int (*)(int, const char *, int, const char *, unsigned)>("renameat2")(
+        fromFolder, from, toFolder, to, flags);
 }
 
 } // extern "C"

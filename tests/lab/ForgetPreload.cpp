@@ -1,4 +1,5 @@
-// Preloaded beside another library, so that only the program itself has both and not what it starts.
+// Preloaded beside another library, so that only the program itself has both and not what it
+// starts.
 
 #include <cstdlib>
 

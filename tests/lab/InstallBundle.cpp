@@ -1,11 +1,11 @@
-// Runs the real downloader with its real addresses, for the lab's host only; the shipped program has no way to expect
-// another key than the Tor Project's.
+// Runs the real downloader with its real addresses, for the lab's host only; the shipped program
+// has no way to expect another key than the Tor Project's.
 //
 //     InstallBundle FINGERPRINT direct|tor [fast]
 //
-// Prints each progress line, then "installed VERSION signature|https" or "failed: " and why; exit status 1 then. With
-// "fast" its clock runs sixty times as fast, so that a time-out of a minute comes after a second. SIGKILL is the only
-// signal that it expects.
+// Prints each progress line, then "installed VERSION signature|https" or "failed: " and why; exit
+// status 1 then. With "fast" its clock runs sixty times as fast, so that a time-out of a minute
+// comes after a second. SIGKILL is the only signal that it expects.
 
 #include "base/Clock.h"
 #include "bridges/TransportDownloader.h"
@@ -23,7 +23,7 @@ namespace {
 
 class FastClock final : public Clock {
 public:
-    explicit FastClock(int speed) : m_speed(speed) {}
+    explicit FastClock(int speed) : m_speed(speed) { }
     TimePoint now() const override
     {
         return TimePoint(std::chrono::steady_clock::now().time_since_epoch() * m_speed);
@@ -50,7 +50,10 @@ QCoro::Task<void> install(TransportDownloader *downloader, bool throughTor)
     const TransportDownloader::Progress progress = [](const Text &text) { print(text.english()); };
     auto installing = downloader->install(throughTor, progress);
     const TransportDownloader::Outcome outcome = co_await installing;
-    print(outcome ? QStringLiteral("installed %1 %2").arg(outcome->version, outcome->isVerified ? QStringLiteral("signature") : QStringLiteral("https"))
+    print(outcome ? QStringLiteral("installed %1 %2")
+                        .arg(outcome->version,
+                             outcome->isVerified ? QStringLiteral("signature")
+                                                 : QStringLiteral("https"))
                   : QStringLiteral("failed: ") + outcome.error().description().english());
     QCoreApplication::exit(outcome ? 0 : 1);
 }
@@ -64,7 +67,9 @@ int main(int argc, char **argv)
     const PlatformProfile profile = PlatformProfile::linux(Places::fromEnvironment());
     FastClock clock(arguments.value(3) == u"fast" ? 60 : 1);
     ChildProcessRunner processes;
-    TransportDownloader downloader(profile, processes, clock, DownloadSource::torProject(arguments.value(1)));
-    QTimer::singleShot(0, &application, [&] { install(&downloader, arguments.value(2) == u"tor"); });
+    TransportDownloader downloader(profile, processes, clock,
+                                   DownloadSource::torProject(arguments.value(1)));
+    QTimer::singleShot(0, &application,
+                       [&] { install(&downloader, arguments.value(2) == u"tor"); });
     return QCoreApplication::exec();
 }

@@ -60,8 +60,11 @@ def moving(what):
         started = time.monotonic()
         while not over.wait(0.5 if sys.stdout.isatty() else 10):
             passed = f"{time.monotonic() - started:.0f} s"
-            print(f"\r  {DIM}{what()} {passed}{PLAIN}\033[K" if sys.stdout.isatty() else f"  {what()} {passed}", end="" if sys.stdout.isatty() else "\n",
-                  flush=True)
+            print(
+                f"\r  {DIM}{what()} {passed}{PLAIN}\033[K" if sys.stdout.isatty() else f"  {what()} {passed}",
+                end="" if sys.stdout.isatty() else "\n",
+                flush=True,
+            )
         if sys.stdout.isatty():
             print("\r\033[K", end="", flush=True)
 
@@ -92,15 +95,22 @@ def show_mode(lab: Lab, product: Product, mode: str, before: dict[str, str]) -> 
         heading(f"{mode.capitalize()} mode: what the world sees")
         exits = lab.tor.exits
         exit_ip = state["exitIP"] or "no answer"
-        judge("exit through Tor", f"{exit_ip} ({exits.get(exit_ip, '?').upper()}), verified by the check service: {state['torVerified']}",
-              state["torVerified"] is True and exit_ip in exits)
+        judge(
+            "exit through Tor",
+            f"{exit_ip} ({exits.get(exit_ip, '?').upper()}), verified by the check service: {state['torVerified']}",
+            state["torVerified"] is True and exit_ip in exits,
+        )
         direct = ask_check_service(lab, "--noproxy", "*", "-4")
         if mode == "strict":
             judge("a direct connection", direct, direct.startswith("refused"))
             judge("leak test", json.dumps(state["leakStatus"]), state["leakStatus"] == "blocked")
         else:
             judge("a direct connection", f"{direct} (proxy mode does not cover it, and says so)", at.HOST_ADDRESS in direct)
-            judge("leak test", json.dumps(state["leakStatus"]), isinstance(state["leakStatus"], dict) and "exposed" in state["leakStatus"])
+            judge(
+                "leak test",
+                json.dumps(state["leakStatus"]),
+                isinstance(state["leakStatus"], dict) and "exposed" in state["leakStatus"],
+            )
         through = ask_check_service(lab, "--proxy", "socks5h://127.0.0.1:9050")
         judge("a proxied connection", through, '"IsTor": true' in through)
         judge("names are looked up", json.dumps(state["dnsStatus"]), state["dnsStatus"] == "throughTor")
@@ -113,8 +123,11 @@ def show_mode(lab: Lab, product: Product, mode: str, before: dict[str, str]) -> 
         status = session.interrupt()
         judge("Ctrl-C restored after", f"{time.monotonic() - started:.1f} s, exit status {status}", status == 0)
     changed = difference(before, lab.host.snapshot())
-    judge("before and after", "they differ:" if changed else "equal: firewall, DNS, routes, mounts, listening ports, processes, files",
-          not changed)
+    judge(
+        "before and after",
+        "they differ:" if changed else "equal: firewall, DNS, routes, mounts, listening ports, processes, files",
+        not changed,
+    )
     if changed:
         print(changed)
 
@@ -127,8 +140,14 @@ def draw_windows() -> None:
     with moving(lambda: f"{len(list(folder.glob('*.png')))} pictures drawn,"):
         drawn = subprocess.run([PROJECT / "build/dev/tests/ui/veldmark-pictures", folder], capture_output=True, text=True)
     pictures = sorted(folder.glob("*.png"))
-    judge("drawn", f"{len(pictures)} pictures; open {folder.relative_to(PROJECT)}/index.html", drawn.returncode == 0 and len(pictures) > 0)
-    figures = "\n".join(f'<figure><img src="{one.name}" loading="lazy"><figcaption>{one.stem}</figcaption></figure>' for one in pictures)
+    judge(
+        "drawn",
+        f"{len(pictures)} pictures; open {folder.relative_to(PROJECT)}/index.html",
+        drawn.returncode == 0 and len(pictures) > 0,
+    )
+    figures = "\n".join(
+        f'<figure><img src="{one.name}" loading="lazy"><figcaption>{one.stem}</figcaption></figure>' for one in pictures
+    )
     (folder / "index.html").write_text(PAGE.format(figures=figures))
 
 
@@ -140,8 +159,11 @@ def show_network() -> None:
     with contextlib.ExitStack() as held:
         with moving(lambda: f"{steps[-1] if steps else 'beginning'},"):
             held.enter_context(lab)
-        say("up after", f"{lab.timings['total']:.1f} s: {len(at.AUTHORITIES)} authorities, {len(at.EXITS)} exits, "
-                        f"{len(at.MIDDLES)} middle nodes, {len(at.BRIDGES)} bridges")
+        say(
+            "up after",
+            f"{lab.timings['total']:.1f} s: {len(at.AUTHORITIES)} authorities, {len(at.EXITS)} exits, "
+            f"{len(at.MIDDLES)} middle nodes, {len(at.BRIDGES)} bridges",
+        )
         product = Product(lab, PROJECT / "build" / "bin")
         before = lab.host.snapshot()
         direct = ask_check_service(lab, "-4")

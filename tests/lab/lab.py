@@ -37,8 +37,7 @@ SKIPPED = 77
 def parser() -> argparse.ArgumentParser:
     top = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     verbs = top.add_subparsers(dest="verb", required=True)
-    made = {name: verbs.add_parser(name) for name in
-            ("check", "up", "run", "exec", "info", "behave", "node", "log", "selftest")}
+    made = {name: verbs.add_parser(name) for name in ("check", "up", "run", "exec", "info", "behave", "node", "log", "selftest")}
     for name in ("up", "run"):
         made[name].add_argument("--share", action="append", default=[], help="a folder that the host sees as it is")
         made[name].add_argument("--logs", default="", metavar="FOLDER", help="copy all logs there at the end")
@@ -47,8 +46,13 @@ def parser() -> argparse.ArgumentParser:
     for name in ("run", "exec"):
         made[name].add_argument("--user", default="root")
         made[name].add_argument("--cwd", default="", help="working folder; the account's home if not given")
-        made[name].add_argument("--env", action="append", default=[], metavar="NAME[=VALUE]",
-                                help="set a variable, or pass on the caller's; nothing else is passed on")
+        made[name].add_argument(
+            "--env",
+            action="append",
+            default=[],
+            metavar="NAME[=VALUE]",
+            help="set a variable, or pass on the caller's; nothing else is passed on",
+        )
         made[name].add_argument("command", nargs="+")
     made["exec"].add_argument("--in", dest="space", default="host", choices=at.SPACES)
     made["behave"].add_argument("service", choices=list(BEHAVIOURS))
@@ -83,10 +87,13 @@ def up(arguments) -> int:
     with Lab(share=arguments.share, logs=arguments.logs) as lab:
         print_timings(lab)
         this = f"sudo {sys.executable} {Path(__file__)}"
-        print(f"The lab {lab.id} is up. In another terminal:\n"
-              f"  {this} exec --user alice -- bash\n"
-              f"  {this} exec --user alice -- curl -s {at.CHECK_URL}\n"
-              f"  {this} info\nCtrl-C ends it.", flush=True)
+        print(
+            f"The lab {lab.id} is up. In another terminal:\n"
+            f"  {this} exec --user alice -- bash\n"
+            f"  {this} exec --user alice -- curl -s {at.CHECK_URL}\n"
+            f"  {this} info\nCtrl-C ends it.",
+            flush=True,
+        )
         signal.pause()
     return 0
 

@@ -37,12 +37,12 @@ from veldlab.product import Product, Session, difference, is_probed  # noqa: E40
 
 FAST_FORWARD = os.environ.get("VELDMARK_FAST_FORWARD", str(PROJECT / "build" / "dev" / "tests" / "FastForward"))
 KINDS = ("memoryKiB", "descriptors", "threads")
-HEAP = "heapKiB"     # what of the memory is in use, where the process says so itself
+HEAP = "heapKiB"  # what of the memory is in use, where the process says so itself
 # The allocator keeps some of what was freed, so memory may differ by this much; a leak of 10 KiB in each cycle or minute
 # would be far beyond it. Descriptors and threads may not differ.
 MEMORY_SLACK = 0.05
-WARM_UP = 0.1        # of the cycles
-COMPARED = 0.2       # of the readings, at both ends
+WARM_UP = 0.1  # of the cycles
+COMPARED = 0.2  # of the readings, at both ends
 FULL_LOG = {"logLines": 3000, "logBytes": 1000000}  # the limits of src/log/TorLog.h
 WINDOWS = ("Circuits", "Tor Log", "Settings")
 LEAST_READINGS = 10  # after the warm-up
@@ -110,8 +110,9 @@ def after_filling(readings: list[dict]) -> list[dict]:
 
 def connect_only(product: Product, session: Session) -> None:
     """Until it is connected. The checks go on, as they do when one disconnects early."""
-    verb = product.lab.host.popen([product.ctl, "connect"], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                                  stderr=subprocess.DEVNULL)
+    verb = product.lab.host.popen(
+        [product.ctl, "connect"], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL
+    )
     try:
         session.wait_phase("connected", 120)
     finally:
@@ -141,9 +142,12 @@ def cycles(lab: Lab, product: Product, count: int, minutes: float, chance: rando
                 print(f"  the time is over after {number + 1} cycles", flush=True)
                 break
             if (number + 1) % 50 == 0:
-                print(f"  {number + 1} cycles, {kills} with Tor killed, {time.monotonic() - started:.0f} s: {readings[-1]}", flush=True)
+                print(
+                    f"  {number + 1} cycles, {kills} with Tor killed, {time.monotonic() - started:.0f} s: {readings[-1]}",
+                    flush=True,
+                )
         session.interrupt()
-    problems = growth(readings[int(len(readings) * WARM_UP):])
+    problems = growth(readings[int(len(readings) * WARM_UP) :])
     lab.host.run(["rm", "-rf", "/root/.config/veldmark"], check=True)
     if left := difference(before, lab.host.snapshot()):
         problems.append("the host is not as it was: " + left)
@@ -162,8 +166,9 @@ def hours(lab: Lab, programs: Path, length: float, chance: random.Random) -> tup
 
     growing = lab.host.popen(["sh", "-c", GROW_LOG, "grow", "/var/lib/veldmark/run/notices.log"])
     readings = []
-    monitor = lab.host.popen([FAST_FORWARD, "monitor", str(length)], env={"VELDMARK_PROGRAMS": str(programs)},
-                             stdout=subprocess.PIPE, text=True)
+    monitor = lab.host.popen(
+        [FAST_FORWARD, "monitor", str(length)], env={"VELDMARK_PROGRAMS": str(programs)}, stdout=subprocess.PIPE, text=True
+    )
     disturber = threading.Thread(target=disturb)
     disturber.start()
     try:
@@ -214,11 +219,16 @@ def windows(lab: Lab, programs: Path, count: int, chance: random.Random) -> tupl
                     product.wait_state(is_probed)
             readings.append(taken(lab, Path(programs) / "veldmark"))
             if (number + 1) % 10 == 0:
-                print(f"  {number + 1} rounds, {kills} with Tor killed, {time.monotonic() - started:.0f} s: {readings[-1]}", flush=True)
+                print(
+                    f"  {number + 1} rounds, {kills} with Tor killed, {time.monotonic() - started:.0f} s: {readings[-1]}",
+                    flush=True,
+                )
         application.click("push button", "Disconnect")
         application.wait_for("heading", "Not Protected")
-    return (growth(readings[int(len(readings) * WARM_UP):]),
-            {"rounds": len(readings), "kills": kills, "seconds": round(time.monotonic() - started), "readings": readings})
+    return (
+        growth(readings[int(len(readings) * WARM_UP) :]),
+        {"rounds": len(readings), "kills": kills, "seconds": round(time.monotonic() - started), "readings": readings},
+    )
 
 
 def main() -> int:

@@ -31,13 +31,19 @@ class Applications(LabCase):
         host = cls.lab.host
         cls.product = Product(cls.lab, PROGRAMS, user=host.user)
         host.write("/usr/local/bin/sample-program", PROGRAM, mode=0o755)
-        host.write(ENTRY, "[Desktop Entry]\nType=Application\nName=Sample\nName[de]=Muster\n"
-                          "Exec=/usr/local/bin/sample-program --start\n")
-        host.write("/usr/local/share/applications/unseen.desktop",
-                   "[Desktop Entry]\nType=Application\nName=Unseen\nNoDisplay=true\nExec=/bin/true\n")
+        host.write(
+            ENTRY,
+            "[Desktop Entry]\nType=Application\nName=Sample\nName[de]=Muster\n" "Exec=/usr/local/bin/sample-program --start\n",
+        )
+        host.write(
+            "/usr/local/share/applications/unseen.desktop",
+            "[Desktop Entry]\nType=Application\nName=Unseen\nNoDisplay=true\nExec=/bin/true\n",
+        )
         # An administrator who says yes to every question.
-        host.start_polkit('polkit.addRule(function(action, subject) { if (subject.user == "alice" && '
-                          'action.id == "org.freedesktop.policykit.exec") return polkit.Result.YES; });')
+        host.start_polkit(
+            'polkit.addRule(function(action, subject) { if (subject.user == "alice" && '
+            'action.id == "org.freedesktop.policykit.exec") return polkit.Result.YES; });'
+        )
 
     def setUp(self):
         self.lab.host.run(["rm", "-rf", "/home/alice/.config/veldmark"], check=True)
@@ -115,8 +121,10 @@ class Applications(LabCase):
         self.assert_restored()
 
     def test_a_failure_is_one_line(self):
-        self.lab.host.write("/usr/local/share/applications/broken.desktop",
-                            "[Desktop Entry]\nType=Application\nName=Broken\nExec=/usr/local/bin/soon-gone\n")
+        self.lab.host.write(
+            "/usr/local/share/applications/broken.desktop",
+            "[Desktop Entry]\nType=Application\nName=Broken\nExec=/usr/local/bin/soon-gone\n",
+        )
         self.lab.host.write("/usr/local/bin/soon-gone", "#!/bin/sh\n", mode=0o755)
         self.addCleanup(self.lab.host.run, ["rm", "-f", "/usr/local/share/applications/broken.desktop"])
         with self.product.session() as session:
@@ -131,13 +139,15 @@ class Applications(LabCase):
         self.set("strictMode", "false")
         with self.product.session() as session:
             session.wait(is_probed)
-            self.assertEqual(self.refused("launch", "Sample"),
-                             (1, "veldmarkctl: Connect in strict mode to open apps without Tor\n"))
+            self.assertEqual(
+                self.refused("launch", "Sample"), (1, "veldmarkctl: Connect in strict mode to open apps without Tor\n")
+            )
             self.assertEqual(session.interrupt(), 0, session.output)
 
 
 if __name__ == "__main__":
     from veldlab import requirements
+
     reason = requirements.missing()
     if reason:
         print(f"skipped: {reason}")

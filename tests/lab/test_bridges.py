@@ -38,8 +38,11 @@ class Bridges(LabCase):
     @staticmethod
     def sent(packets):
         """What left the host; the router's own neighbour discovery on its link is not the host's."""
-        return [p for p in packets if p.out and p.family != "arp" and not p.src.startswith("fe80:")
-                and p.src != at.ROUTER_WORLD_ADDRESS6]
+        return [
+            p
+            for p in packets
+            if p.out and p.family != "arp" and not p.src.startswith("fe80:") and p.src != at.ROUTER_WORLD_ADDRESS6
+        ]
 
     def connect_by(self, bridge):
         """Connects, and asserts that the bridge is all that the host talks to."""
@@ -57,22 +60,36 @@ class Bridges(LabCase):
 
     def test_a_bridge_programs_port_is_no_tunnel_for_others(self):
         """Its port for Tor is open to see in /proc/net/tcp. Whoever could use it would reach a server of their own from the real address."""
-        ask = ("import socket, sys; s = socket.socket(); s.settimeout(float(sys.argv[2])); print(s.connect_ex(('127.0.0.1', int(sys.argv[1]))) or"
-               " (s.send(b'\\x05\\x01\\x02'), s.recv(2).hex())[1])")
+        ask = (
+            "import socket, sys; s = socket.socket(); s.settimeout(float(sys.argv[2])); print(s.connect_ex(('127.0.0.1', int(sys.argv[1]))) or"
+            " (s.send(b'\\x05\\x01\\x02'), s.recv(2).hex())[1])"
+        )
         self.use(self.lab.tor.bridge_line("obfs4"))
         with self.product.session() as session:
             session.wait(is_probed)
-            listening = self.lab.host.run(["/bin/sh", "-c", "awk -v u=$(id -u _veldmark) '$4 == \"0A\" && $8 == u {print $2}' /proc/net/tcp"]).stdout.split()
+            listening = self.lab.host.run(
+                ["/bin/sh", "-c", "awk -v u=$(id -u _veldmark) '$4 == \"0A\" && $8 == u {print $2}' /proc/net/tcp"]
+            ).stdout.split()
             ports = {int(line.split(":")[1], 16) for line in listening} - {9050, 9051}
             self.assertEqual(len(ports), 1, listening)
             [port] = ports
 
             def asked(user, seconds):
-                return self.lab.host.run(["/usr/bin/python3", "-c", ask, str(port), str(seconds)], user=user, cwd="/", check=True).stdout.strip()
+                return self.lab.host.run(
+                    ["/usr/bin/python3", "-c", ask, str(port), str(seconds)], user=user, cwd="/", check=True
+                ).stdout.strip()
+
             for user in "nobody", "root", "_veldmark":
                 self.assertEqual(asked(user, 1), "11", user)
-            self.lab.host.run(["/bin/sh", "-c", "pkill -STOP -f watcher[.]sh; nft flush chain inet veldmark answering; nft add rule inet veldmark answering accept"], check=True)
-            self.assertEqual(asked("nobody", 10), "0502")   # it speaks SOCKS with everybody
+            self.lab.host.run(
+                [
+                    "/bin/sh",
+                    "-c",
+                    "pkill -STOP -f watcher[.]sh; nft flush chain inet veldmark answering; nft add rule inet veldmark answering accept",
+                ],
+                check=True,
+            )
+            self.assertEqual(asked("nobody", 10), "0502")  # it speaks SOCKS with everybody
             self.lab.host.run(["pkill", "-CONT", "-f", "watcher[.]sh"], check=True)
             self.assertEqual(session.interrupt(), 0, session.output)
         self.assert_restored()
@@ -165,12 +182,16 @@ class Bridges(LabCase):
     USELESS = {
         "dies at its start": ("exit 1", r"The bridge program lyrebird keeps ending \(exit status 1\)\."),
         "dies later": (f"{READY}; sleep 2; exit 3", r"The bridge program lyrebird keeps ending \(exit status 3\)\."),
-        "prints garbage": ("printf 'GARBAGE\\n\\377\\n'; exec sleep 600",
-                           "The bridge program printed something that Tor doesn't understand: \"GARBAGE\"."),
+        "prints garbage": (
+            "printf 'GARBAGE\\n\\377\\n'; exec sleep 600",
+            'The bridge program printed something that Tor doesn\'t understand: "GARBAGE".',
+        ),
         "hangs": ("exec sleep 600", "Tor is waiting for the bridge program, which hasn't said that it is ready."),
         "never listens": (f"{READY}; exec sleep 600", "Tor can't reach the bridge program: Connection refused."),
-        "refuses": ("printf 'VERSION 1\\nCMETHOD-ERROR obfs4 no luck\\nCMETHODS DONE\\n'; exec sleep 600",
-                    r"Tor has trouble with the bridge program: .*method error\. \(obfs4 no luck\)\."),
+        "refuses": (
+            "printf 'VERSION 1\\nCMETHOD-ERROR obfs4 no luck\\nCMETHODS DONE\\n'; exec sleep 600",
+            r"Tor has trouble with the bridge program: .*method error\. \(obfs4 no luck\)\.",
+        ),
     }
 
     def forget_network(self):
@@ -212,8 +233,9 @@ class Bridges(LabCase):
             self.assertEqual(self.product.run_verb("disconnect").returncode, 0)
             self.forget_network()
             self.stand_in("exit 7")  # an update that went wrong
-            with self.lab.host.popen([self.product.ctl, "connect"], stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
-                                     text=True) as connect:
+            with self.lab.host.popen(
+                [self.product.ctl, "connect"], stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True
+            ) as connect:
                 told = r"The bridge program lyrebird keeps ending \(exit status 7\)\."
                 state = session.wait(lambda s: re.fullmatch(told, s["bootstrapProblem"] or ""))
                 self.assertEqual(state["phase"], "connecting")
@@ -296,6 +318,7 @@ class Bridges(LabCase):
 
 if __name__ == "__main__":
     from veldlab import requirements
+
     reason = requirements.missing()
     if reason:
         print(f"skipped: {reason}")

@@ -25,8 +25,10 @@ SKIPPED = 77
 def blocks() -> list[list[str]]:
     """The commands of each code block below the heading, without their comments."""
     part = (PROJECT / "README.md").read_text().split(HEADING)[1].split("\n## ")[0]
-    return [[line.split("    #")[0].rstrip() for line in block.strip().splitlines()]
-            for block in re.findall(r"```sh\n(.*?)```", part, re.DOTALL)]
+    return [
+        [line.split("    #")[0].rstrip() for line in block.strip().splitlines()]
+        for block in re.findall(r"```sh\n(.*?)```", part, re.DOTALL)
+    ]
 
 
 class ByHand(unittest.TestCase):
@@ -70,7 +72,7 @@ class ByHand(unittest.TestCase):
             result = self.lab.host.run(["dbus-run-session", "/bin/bash", "-c", command], user=user)
             self.assertEqual((command, result.returncode), (command, 0), result.stderr)
         self.assertTrue(self.direct())
-        deadline = time.monotonic() + 30   # the watcher looks every few seconds whether it is still wanted
+        deadline = time.monotonic() + 30  # the watcher looks every few seconds whether it is still wanted
         while self.lab.host.run(["pgrep", "-f", "/run/watcher[.]sh"]).returncode == 0:
             self.assertLess(time.monotonic(), deadline, "the watcher lives on")
             time.sleep(0.1)

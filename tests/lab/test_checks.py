@@ -175,7 +175,11 @@ class RealResolved(CheckCase):
         run = cls.lab.host.run
         run(["mount", "-t", "overlay", "-o", f"lowerdir={RESOLVED}/usr/bin:/usr/bin", "private", "/usr/bin"], check=True)
         policy = RESOLVED / "usr/share/dbus-1/system.d/org.freedesktop.resolve1.conf"
-        run(["bash", "-ec", """
+        run(
+            [
+                "bash",
+                "-ec",
+                """
             if ! grep -q ^systemd-resolve: /etc/passwd; then
                 echo 'systemd-resolve:x:990:990::/:/usr/sbin/nologin' >>/etc/passwd
                 echo 'systemd-resolve:x:990:' >>/etc/group
@@ -186,16 +190,31 @@ class RealResolved(CheckCase):
             # First: the daemon would take over another file's servers.
             ln -sf /run/systemd/resolve/stub-resolv.conf /etc/resolv.conf
             dbus-daemon --system --fork
-        """, "setup", str(policy)], check=True)
-        cls.daemon = cls.lab.host.popen([str(RESOLVED / "lib/systemd/systemd-resolved")],
-                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        """,
+                "setup",
+                str(policy),
+            ],
+            check=True,
+        )
+        cls.daemon = cls.lab.host.popen(
+            [str(RESOLVED / "lib/systemd/systemd-resolved")], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL
+        )
         cls.addClassCleanup(cls.daemon.wait)
         cls.addClassCleanup(cls.daemon.terminate)
-        run(["bash", "-ec", """
+        run(
+            [
+                "bash",
+                "-ec",
+                """
             until resolvectl dns >/dev/null 2>&1; do :; done
             until [ -s /etc/resolv.conf ]; do :; done
             resolvectl dns eth0 "$1"
-        """, "setup", at.DNS_ADDRESS], check=True)
+        """,
+                "setup",
+                at.DNS_ADDRESS,
+            ],
+            check=True,
+        )
 
     def servers(self):
         return self.lab.host.run(["resolvectl", "dns", "eth0"], check=True).stdout.partition("): ")[2].strip()
@@ -225,6 +244,7 @@ class RealResolved(CheckCase):
 
 if __name__ == "__main__":
     from veldlab import requirements
+
     reason = requirements.missing()
     if reason:
         print(f"skipped: {reason}")

@@ -117,14 +117,17 @@ class OnionServices(LabCase):
     def torrc(self, folder):
         """A member of the private network that offers its web server as an onion service."""
         network = self.lab.host.read("/etc/tor/torrc-defaults").splitlines()
-        return "\n".join([
-            *(line for line in network if not line.startswith("GeoIPFile ")),
-            f"DataDirectory {folder}/data",
-            f"HiddenServiceDir {folder}/service",
-            f"HiddenServicePort 80 {at.WEB_ADDRESS}:80",
-            "SocksPort 0",
-            f"Log info file {folder}/log",
-            ""])
+        return "\n".join(
+            [
+                *(line for line in network if not line.startswith("GeoIPFile ")),
+                f"DataDirectory {folder}/data",
+                f"HiddenServiceDir {folder}/service",
+                f"HiddenServicePort 80 {at.WEB_ADDRESS}:80",
+                "SocksPort 0",
+                f"Log info file {folder}/log",
+                "",
+            ]
+        )
 
     @contextlib.contextmanager
     def service(self):
@@ -133,7 +136,9 @@ class OnionServices(LabCase):
         place = self.lab.tor.space.path(folder)
         place.mkdir(mode=0o700)
         (place / "torrc").write_text(self.torrc(folder))
-        with self.lab.tor.space.popen(["tor", "-f", f"{folder}/torrc", "--defaults-torrc", f"{at.TOR_FOLDER}/empty", "--quiet"]) as tor:
+        with self.lab.tor.space.popen(
+            ["tor", "-f", f"{folder}/torrc", "--defaults-torrc", f"{at.TOR_FOLDER}/empty", "--quiet"]
+        ) as tor:
             try:
                 deadline = time.monotonic() + 120
                 log = place / "log"
@@ -172,11 +177,11 @@ class Speed(LabCase):
         with self.product.session(connect=False) as session:
             session.wait_phase("disconnected")
             with self.lab.netem(delay_ms=500):
-                connecting = self.enterContext(
-                    self.lab.host.popen([self.product.ctl, "connect"], stdout=-3, stderr=-3))
+                connecting = self.enterContext(self.lab.host.popen([self.product.ctl, "connect"], stdout=-3, stderr=-3))
                 state = session.wait(lambda s: (s["optimizeStatus"] or "").startswith("Slow path"), 120)
-                self.assertGreaterEqual(int(re.fullmatch(r"Slow path \((\d+) ms\), finding a faster one…",
-                                                         state["optimizeStatus"])[1]), SLOW_MS)
+                self.assertGreaterEqual(
+                    int(re.fullmatch(r"Slow path \((\d+) ms\), finding a faster one…", state["optimizeStatus"])[1]), SLOW_MS
+                )
                 self.assertGreaterEqual(state["latencyMs"], SLOW_MS)
             state = session.wait(lambda s: not s["isOptimizing"], 60)
             self.assertLess(state["latencyMs"], SLOW_MS)
@@ -190,8 +195,9 @@ class Speed(LabCase):
         with self.product.session() as session:  # leaves tor a network to start with
             session.wait_phase("connected")
         with self.lab.netem(delay_ms=100):  # 20 times as long on the fast clock
-            ended = self.lab.host.run([FAST_FORWARD, "connect"], check=True, timeout=120,
-                                      env={"VELDMARK_PROGRAMS": PROGRAMS, "VELDMARK_SPEED": 20})
+            ended = self.lab.host.run(
+                [FAST_FORWARD, "connect"], check=True, timeout=120, env={"VELDMARK_PROGRAMS": PROGRAMS, "VELDMARK_SPEED": 20}
+            )
         state = json.loads(ended.stdout)
         self.assertEqual(state["phase"], "connected")
         self.assertGreaterEqual(state["latencyMs"], SLOW_MS)
@@ -204,8 +210,9 @@ class Speed(LabCase):
         self.set("optimizeSpeed", "true")
         seen = []
         with self.product.session() as session:
-            state = session.wait(lambda s: seen.append(s["optimizeStatus"]) or
-                                 (s["phase"] == "connected" and not s["isChecking"] and s["exitIP"]))
+            state = session.wait(
+                lambda s: seen.append(s["optimizeStatus"]) or (s["phase"] == "connected" and not s["isChecking"] and s["exitIP"])
+            )
             self.assertLess(state["latencyMs"], SLOW_MS)
             self.assertEqual(set(seen), {None})
         self.assert_restored()
@@ -213,6 +220,7 @@ class Speed(LabCase):
 
 if __name__ == "__main__":
     from veldlab import requirements
+
     reason = requirements.missing()
     if reason:
         print(f"skipped: {reason}")

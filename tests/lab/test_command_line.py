@@ -28,8 +28,12 @@ class CommandLineTest(unittest.TestCase):
         return subprocess.run([at.PYTHON, SCRIPT, verb, "--lab", self.id, *arguments], capture_output=True, text=True)
 
     def test_exec_reaches_every_space(self):
-        addresses = (("host", at.HOST_ADDRESS), ("world", at.DNS_ADDRESS), ("router", at.ROUTER_LAN_ADDRESS),
-                     ("lan", at.LAN_ADDRESS))
+        addresses = (
+            ("host", at.HOST_ADDRESS),
+            ("world", at.DNS_ADDRESS),
+            ("router", at.ROUTER_LAN_ADDRESS),
+            ("lan", at.LAN_ADDRESS),
+        )
         for space, address in addresses:
             with self.subTest(space):
                 self.assertIn(address, self.lab("exec", "--in", space, "--", "ip", "address").stdout)
@@ -43,8 +47,9 @@ class CommandLineTest(unittest.TestCase):
 
     def test_exec_gives_a_terminal(self):
         command = f"{at.PYTHON} {SCRIPT} exec --lab {self.id} --user alice -- bash --norc -i"
-        done = subprocess.run(["script", "-qefc", command, "/dev/null"], input="tty; stty size; exit 3\n",
-                              capture_output=True, text=True, timeout=60)
+        done = subprocess.run(
+            ["script", "-qefc", command, "/dev/null"], input="tty; stty size; exit 3\n", capture_output=True, text=True, timeout=60
+        )
         self.assertEqual(done.returncode, 3, done.stdout)
         self.assertIn("/dev/pts/", done.stdout)
         self.assertNotIn("no job control", done.stdout)

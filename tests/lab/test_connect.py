@@ -24,12 +24,16 @@ MARKER = "/var/lib/veldmark/state/active"
 SETTINGS = "/root/.config/veldmark/veldmark.conf"
 SKIPPED = 77
 
-STRICT_DEATH = ("Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. "
-                "Reconnect, or Restore Network to go back online.")
-OPEN_DEATH = ("Tor stopped running, and the kill switch is open: another program removed its rules. Traffic may leave this "
-              "computer directly. Reconnect, or Restore Network.")
+STRICT_DEATH = (
+    "Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. "
+    "Reconnect, or Restore Network to go back online."
+)
+OPEN_DEATH = (
+    "Tor stopped running, and the kill switch is open: another program removed its rules. Traffic may leave this "
+    "computer directly. Reconnect, or Restore Network."
+)
 REAL_NFT = "/usr/local/sbin/real-nft"
-PROXY_DEATH = ("Tor stopped running. Apps using the proxy can't connect until you reconnect or Restore Network.")
+PROXY_DEATH = "Tor stopped running. Apps using the proxy can't connect until you reconnect or Restore Network."
 
 
 # Takes Tor's place at its control port and prints the first line that it gets, as Tor's account, then as nobody.
@@ -52,7 +56,7 @@ class LabCase(unittest.TestCase):
     itself leaves its lab as it was may share it: SHARED."""
 
     SHARED = False
-    _shared: Lab | None = None   # until the program ends
+    _shared: Lab | None = None  # until the program ends
 
     @classmethod
     def setUpClass(cls):
@@ -86,15 +90,26 @@ class LabCase(unittest.TestCase):
 
     def through_tor(self):
         result = self.lab.host.run(
-            ["curl", "-sS", "--max-time", "30", "--proxy", "socks5h://127.0.0.1:9050", at.CHECK_URL], check=True)
+            ["curl", "-sS", "--max-time", "30", "--proxy", "socks5h://127.0.0.1:9050", at.CHECK_URL], check=True
+        )
         return json.loads(result.stdout)
 
     @contextlib.contextmanager
     def download(self, host):
         """A slow download through Tor that lasts as long as the context."""
         with self.lab.host.popen(
-                ["curl", "-sS", "--limit-rate", "5k", "-o", "/dev/null", "--proxy", "socks5h://127.0.0.1:9050",
-                 f"http://{host}/bytes/10000000"]) as process:
+            [
+                "curl",
+                "-sS",
+                "--limit-rate",
+                "5k",
+                "-o",
+                "/dev/null",
+                "--proxy",
+                "socks5h://127.0.0.1:9050",
+                f"http://{host}/bytes/10000000",
+            ]
+        ) as process:
             try:
                 yield process
             finally:
@@ -180,8 +195,13 @@ class BothModes(LabCase):
                 session.wait_phase("connected")
                 session.interrupt()
             state = self.lab.host.read("/var/lib/veldmark/run/tor/data/state")
-            guards.append([line.split("rsa_id=")[1].split()[0] for line in state.splitlines()
-                           if line.startswith("Guard ") and "confirmed_on=" in line])
+            guards.append(
+                [
+                    line.split("rsa_id=")[1].split()[0]
+                    for line in state.splitlines()
+                    if line.startswith("Guard ") and "confirmed_on=" in line
+                ]
+            )
         self.assertTrue(guards[0])
         self.assertEqual(guards[0][0], guards[1][0])
 
@@ -310,9 +330,12 @@ class WhenThingsGoWrong(LabCase):
         self.assert_restored()
 
     def test_a_tor_that_cannot_start_says_why(self):
-        self.lab.host.write("/usr/local/broken/tor",
-                            "#!/bin/sh\ncase \" $* \" in *hash-password*) exec /usr/bin/tor \"$@\";; esac\n"
-                            "echo '[err] The clock says it is yesterday.'; exit 1\n", mode=0o755)
+        self.lab.host.write(
+            "/usr/local/broken/tor",
+            '#!/bin/sh\ncase " $* " in *hash-password*) exec /usr/bin/tor "$@";; esac\n'
+            "echo '[err] The clock says it is yesterday.'; exit 1\n",
+            mode=0o755,
+        )
         self.addCleanup(self.lab.host.run, ["rm", "-rf", "/usr/local/broken"])
         self.set("customTorPath", "/usr/local/broken/tor")
         with self.product.session() as session:
@@ -333,8 +356,9 @@ class AnOrdinaryUser(LabCase):
     def test_without_the_rule_and_without_polkit_one_line_says_so(self):
         result = self.product.run_verb("run", "--connect")
         self.assertEqual(result.returncode, 1)
-        self.assertEqual(result.stderr, "veldmarkctl: Administrator access can't be asked for: "
-                                        "polkit is not running on this system.\n")
+        self.assertEqual(
+            result.stderr, "veldmarkctl: Administrator access can't be asked for: " "polkit is not running on this system.\n"
+        )
         self.assert_restored()
 
     def test_with_the_rule_no_password_is_needed(self):
@@ -358,7 +382,7 @@ class AnOrdinaryUser(LabCase):
         self.before = self.lab.host.snapshot()
         with self.product.session() as session:
             session.wait(is_probed)
-            read = "for pid in $(pgrep -u $(id -u) -x \"$0\"); do head -c 1 /proc/$pid/environ >/dev/null || exit 1; done"
+            read = 'for pid in $(pgrep -u $(id -u) -x "$0"); do head -c 1 /proc/$pid/environ >/dev/null || exit 1; done'
             for name, status in ("sleep", 0), ("veldmarkctl", 1):
                 with self.lab.host.popen(["sleep", "60"], user=self.lab.host.user) as sleeper:
                     self.assertEqual(self.lab.host.run(["sh", "-c", read, name], user=self.lab.host.user).returncode, status, name)
@@ -384,8 +408,7 @@ class UnderTheLeakChecker(LabCase):
         forget = os.environ.get("VELDMARK_FORGET_PRELOAD", str(PROJECT / "build/dev/tests/ForgetPreload.so"))
         if checker is None:
             raise unittest.SkipTest("liblsan is not installed")
-        env = {"LD_PRELOAD": f"{checker} {forget}",
-               "LSAN_OPTIONS": f"suppressions={PROJECT}/tests/lsan.supp:print_suppressions=0"}
+        env = {"LD_PRELOAD": f"{checker} {forget}", "LSAN_OPTIONS": f"suppressions={PROJECT}/tests/lsan.supp:print_suppressions=0"}
         cls.product = Product(cls.lab, PROGRAMS, env=env)
 
     def end(self, session):
@@ -465,9 +488,19 @@ class OneInstanceAndBadInput(LabCase):
             self.assertEqual(result.stderr.count("\n"), 1)
 
     def test_bad_words_get_one_line_and_status_2(self):
-        for words in (["frobnicate"], ["get", "nothing"], ["set", "exitCountry", "DE"], ["set", "exitCountry", "deu"],
-                      ["set", "nothing", "1"], ["set", "strictMode", "perhaps"], ["set", "bridgeChoice", "ftp"],
-                      ["status", "--xml"], ["get"], ["set", "strictMode"], []):
+        for words in (
+            ["frobnicate"],
+            ["get", "nothing"],
+            ["set", "exitCountry", "DE"],
+            ["set", "exitCountry", "deu"],
+            ["set", "nothing", "1"],
+            ["set", "strictMode", "perhaps"],
+            ["set", "bridgeChoice", "ftp"],
+            ["status", "--xml"],
+            ["get"],
+            ["set", "strictMode"],
+            [],
+        ):
             result = self.product.run_verb(*words)
             self.assertEqual((words, result.returncode), (words, 2))
             self.assertEqual(result.stderr.count("\n"), 1, result.stderr)
@@ -490,11 +523,13 @@ class OneInstanceAndBadInput(LabCase):
 
     def test_status_prints_every_published_field(self):
         state = self.product.status()
-        for field in ("strictMode allowLocalNetwork separateApps exitCountry customTorPath bridgeChoice customBridges bypassApps autoConnect "
-                      "optimizeSpeed latencyMs optimizeStatus isOptimizing transports activeBridge terminalMode phase activeMode "
-                      "bootstrapProgress statusDetail exitIP torVerified leakStatus bytesRead bytesWritten isChecking canCancel "
-                      "errorMessage dnsStatus passwordlessInstalled startupError circuits circuitError transportDownload "
-                      "terminalError settingsProblems").split():
+        for field in (
+            "strictMode allowLocalNetwork separateApps exitCountry customTorPath bridgeChoice customBridges bypassApps autoConnect "
+            "optimizeSpeed latencyMs optimizeStatus isOptimizing transports activeBridge terminalMode phase activeMode "
+            "bootstrapProgress statusDetail exitIP torVerified leakStatus bytesRead bytesWritten isChecking canCancel "
+            "errorMessage dnsStatus passwordlessInstalled startupError circuits circuitError transportDownload "
+            "terminalError settingsProblems"
+        ).split():
             self.assertIn(field, state)
         self.assertEqual(state["leakStatus"], "notTested")
         self.assertIsNone(state["exitIP"])
@@ -503,6 +538,7 @@ class OneInstanceAndBadInput(LabCase):
 
 if __name__ == "__main__":
     from veldlab import requirements
+
     reason = requirements.missing()
     if reason:
         print(f"skipped: {reason}")

@@ -39,6 +39,7 @@ class Deadline(LabCase):
 
 if __name__ == "__main__":
     from veldlab import requirements
+
     reason = requirements.missing()
     if reason:
         print(f"skipped: {reason}")

@@ -119,8 +119,11 @@ class ByClicking(DesktopCase):
         with self.download(at.WEB_HOSTS[0]):
             self.window.wait_until(lambda: self.circuits_shown() - first)
             # The window and the command line say the same, though nobody has run "circuits". Not all rows need be in view.
-            self.window.wait_until(lambda: first != self.circuits_shown() <= {
-                f"Circuit {circuit['id']}" for circuit in self.product.status()["circuits"]})
+            self.window.wait_until(
+                lambda: first
+                != self.circuits_shown()
+                <= {f"Circuit {circuit['id']}" for circuit in self.product.status()["circuits"]}
+            )
         # It stays open and shows the next session too.
         self.kill_tor()
         self.window.wait_for("heading", "Needs Attention")
@@ -149,7 +152,7 @@ class ByClicking(DesktopCase):
             self.lab.host.run([REAL_NFT, "delete", "table", "inet", "veldmark"], check=True)
             self.window.wait_for("heading", "Kill Switch Open")
             self.desktop.wait_notification("Traffic can leave around Tor")
-            time.sleep(8)   # the watcher tries again at least twice
+            time.sleep(8)  # the watcher tries again at least twice
             self.assertEqual(len(self.desktop.notifications), 1)
             shown = [node["name"] for node in self.window.nodes()]
             self.assertFalse([name for name in shown if "locked to Tor" in name or name in ("No leaks", "Protected")], shown)
@@ -182,7 +185,7 @@ class BadCircumstances(DesktopCase):
 
     def test_nobody_reads_its_memory(self):
         """Another program of the user's neither looks into it nor attaches to it: the control password is there."""
-        read = "for pid in $(pgrep -u $(id -u) -x \"$0\"); do head -c 1 /proc/$pid/environ >/dev/null || exit 1; done"
+        read = 'for pid in $(pgrep -u $(id -u) -x "$0"); do head -c 1 /proc/$pid/environ >/dev/null || exit 1; done'
         for name, status in ("openbox", 0), ("veldmark", 1):
             self.assertEqual(self.lab.host.run(["sh", "-c", read, name], user=self.lab.host.user).returncode, status, name)
 
@@ -218,8 +221,9 @@ class BadCircumstances(DesktopCase):
     def test_the_windows_stand_where_they_were(self):
         self.window.click("push button", "Settings")
         frame = self.window.wait_for("frame", "Settings")
-        self.desktop.run(["xdotool", "search", "--name", "^Settings$", "windowmove", "300", "200",
-                          "windowsize", "800", "500"], check=True)
+        self.desktop.run(
+            ["xdotool", "search", "--name", "^Settings$", "windowmove", "300", "200", "windowsize", "800", "500"], check=True
+        )
         self.window.wait_until(lambda: self.size_of("Settings") == (800, 500))
         moved = self.window.wait_for("frame", "Settings")
         self.assertNotEqual((moved["x"], moved["y"]), (frame["x"], frame["y"]))
@@ -298,7 +302,9 @@ class ToldToEnd(DesktopCase):
     def test_the_second_signal_ends_at_once(self):
         self.connect()
         # Another run of the helper, as it seems to this one: it waits for the lock.
-        with self.lab.host.popen(["flock", "--no-fork", LOCK, "sh", "-c", "echo held; exec sleep 600"], stdout=-1, text=True) as holder:
+        with self.lab.host.popen(
+            ["flock", "--no-fork", LOCK, "sh", "-c", "echo held; exec sleep 600"], stdout=-1, text=True
+        ) as holder:
             try:
                 self.assertEqual(holder.stdout.readline(), "held\n")
                 self.window.signal(signal.SIGTERM)

@@ -48,15 +48,19 @@ class SigningKey:
         self.public = self.gpg("--armor", "--export")
 
     def gpg(self, *arguments, content=b""):
-        return subprocess.run(["gpg", "--homedir", self.home, "--batch", "--quiet", "--passphrase", "", "--pinentry-mode",
-                               "loopback", *arguments], input=content, check=True, capture_output=True).stdout
+        return subprocess.run(
+            ["gpg", "--homedir", self.home, "--batch", "--quiet", "--passphrase", "", "--pinentry-mode", "loopback", *arguments],
+            input=content,
+            check=True,
+            capture_output=True,
+        ).stdout
 
     def sign(self, content):
         return self.gpg("--armor", "--detach-sign", content=content)
 
     def close(self):
         subprocess.run(["gpgconf", "--homedir", self.home, "--kill", "all"], check=True)
-        subprocess.run(["rm", "-rf", "--", self.home], check=True)   # while the agent takes its own sockets away
+        subprocess.run(["rm", "-rf", "--", self.home], check=True)  # while the agent takes its own sockets away
 
 
 def archive(members, padding=0):
@@ -104,8 +108,14 @@ class Download(LabCase):
 
     def tearDown(self):
         # GnuPG's agent has been told to end; it may still be about to.
-        left = self.lab.host.run(["sh", "-c", "i=0; while pgrep gpg-agent >/dev/null && [ $i -lt 50 ]; do sleep 0.1; i=$((i + 1)); done; "
-                                  "ls -d /tmp/vmk-* 2>/dev/null; pgrep -a gpg-agent"]).stdout
+        left = self.lab.host.run(
+            [
+                "sh",
+                "-c",
+                "i=0; while pgrep gpg-agent >/dev/null && [ $i -lt 50 ]; do sleep 0.1; i=$((i + 1)); done; "
+                "ls -d /tmp/vmk-* 2>/dev/null; pgrep -a gpg-agent",
+            ]
+        ).stdout
         self.assertEqual(left, "", "left behind")
 
     def publish(self, host, path, content):
@@ -326,8 +336,12 @@ class Download(LabCase):
         for attempt in range(16):
             former, new = self.offer_newer()
             # Its number in the host's own process table comes first; then it becomes the downloader.
-            process = self.lab.host.popen(["sh", "-c", 'echo $$; exec "$@"', "sh", *self.command()],
-                                          stdout=subprocess.PIPE, stdin=subprocess.DEVNULL, text=True)
+            process = self.lab.host.popen(
+                ["sh", "-c", 'echo $$; exec "$@"', "sh", *self.command()],
+                stdout=subprocess.PIPE,
+                stdin=subprocess.DEVNULL,
+                text=True,
+            )
             with process:
                 number = process.stdout.readline().strip()
                 try:
@@ -347,18 +361,23 @@ class Download(LabCase):
 
     def test_a_bundle_installed_over_https_carries_the_connection(self):
         line = self.lab.tor.bridge_line("obfs4")
-        content = archive({
-            "tor/pluggable_transports/lyrebird": Path("/usr/bin/obfs4proxy").read_bytes(),
-            "tor/pluggable_transports/pt_config.json": json.dumps({"bridges": {"obfs4": [line]}}).encode()})
+        content = archive(
+            {
+                "tor/pluggable_transports/lyrebird": Path("/usr/bin/obfs4proxy").read_bytes(),
+                "tor/pluggable_transports/pt_config.json": json.dumps({"bridges": {"obfs4": [line]}}).encode(),
+            }
+        )
         self.offer("14.5", content)
         host = self.lab.host
         host.run(["mount", "--bind", "/dev/null", "/usr/bin/gpg"], check=True)  # as if it were not installed
         try:
             result = self.product.run_verb("download-transports")
             self.assertEqual(result.returncode, 0, result.stderr)
-            self.assertEqual(result.stdout.splitlines()[-1],
-                             "Bridge programs 14.5 installed over HTTPS. Install GnuPG (sudo apt install gnupg) and download "
-                             "again to also verify the Tor Project's signature.")
+            self.assertEqual(
+                result.stdout.splitlines()[-1],
+                "Bridge programs 14.5 installed over HTTPS. Install GnuPG (sudo apt install gnupg) and download "
+                "again to also verify the Tor Project's signature.",
+            )
             found = json.loads(self.product.run_verb("bridges", "--json", check=True).stdout)
             self.assertEqual(found["programs"]["lyrebird"]["path"], LYREBIRD)
             self.assertIn("obfs4", found["programs"]["lyrebird"]["serves"])
@@ -386,8 +405,13 @@ class Download(LabCase):
         self.put_former()
         self.offer("14.0", bundle("14"))
         self.answer(ARCHIVE_HOST, self.path("14.0"), bytes=1_000_000, hang=True)
-        process = self.lab.host.popen([self.product.ctl, "download-transports"], stdin=subprocess.DEVNULL,
-                                      stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+        process = self.lab.host.popen(
+            [self.product.ctl, "download-transports"],
+            stdin=subprocess.DEVNULL,
+            stdout=subprocess.PIPE,
+            stderr=subprocess.PIPE,
+            text=True,
+        )
         with process:
             while "1.0 of 3.0 MB" not in (line := process.stdout.readline()):
                 self.assertTrue(line, "it ended early")
@@ -399,6 +423,7 @@ class Download(LabCase):
 
 if __name__ == "__main__":
     from veldlab import requirements
+
     reason = requirements.missing()
     if reason:
         print(f"skipped: {reason}")

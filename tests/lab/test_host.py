@@ -23,12 +23,14 @@ class HostTest(unittest.TestCase):
     def setUpClass(cls):
         cls.shared = tempfile.TemporaryDirectory(prefix="veldlab-test-")
         cls.addClassCleanup(cls.shared.cleanup)
-        cls.built = tempfile.TemporaryDirectory(prefix="veldlab-test-")   # below /tmp, which the host has of its own
+        cls.built = tempfile.TemporaryDirectory(prefix="veldlab-test-")  # below /tmp, which the host has of its own
         cls.addClassCleanup(cls.built.cleanup)
         os.chmod(cls.built.name, 0o755)
         Path(cls.built.name, "veldmarkctl").write_text("#!/bin/sh\necho built\n")
         os.chmod(Path(cls.built.name, "veldmarkctl"), 0o755)
-        with unittest.mock.patch.dict(os.environ, {"VELDMARK_PROGRAMS": cls.built.name, "VELDMARK_SPEED": "20", "VELDMARK_NONE": "/tmp/none"}):
+        with unittest.mock.patch.dict(
+            os.environ, {"VELDMARK_PROGRAMS": cls.built.name, "VELDMARK_SPEED": "20", "VELDMARK_NONE": "/tmp/none"}
+        ):
             cls.lab = Lab(share=[cls.shared.name], consensus=False)
         cls.lab.up()
         cls.addClassCleanup(cls.lab.down)
@@ -38,9 +40,19 @@ class HostTest(unittest.TestCase):
         return self.host.run(["/bin/bash", "-c", script], **options)
 
     def test_changes_stay_inside(self):
-        for path in ("/etc/passwd", "/etc/resolv.conf", "/usr/local/bin/veldlab-x", "/usr/share/veldlab-x",
-                     "/opt/veldlab-x", "/root/veldlab-x", "/tmp/veldlab-x", "/var/lib/veldmark/veldlab-x",
-                     "/run/veldlab-x", "/home/veldlab-x", "/var/tmp/veldlab-x"):
+        for path in (
+            "/etc/passwd",
+            "/etc/resolv.conf",
+            "/usr/local/bin/veldlab-x",
+            "/usr/share/veldlab-x",
+            "/opt/veldlab-x",
+            "/root/veldlab-x",
+            "/tmp/veldlab-x",
+            "/var/lib/veldmark/veldlab-x",
+            "/run/veldlab-x",
+            "/home/veldlab-x",
+            "/var/tmp/veldlab-x",
+        ):
             with self.subTest(path):
                 before = Path(path).read_bytes() if os.path.exists(path) else None
                 self.sh(f"echo changed >> {path}.new; mv {path}.new {path}.put; mv {path}.put {path}.last", check=True)
@@ -69,8 +81,9 @@ class HostTest(unittest.TestCase):
         self.assertEqual(self.host.run([f"{self.built.name}/veldmarkctl"], user=self.host.user).stdout, "built\n")
 
     def test_alice_is_an_ordinary_user_of_the_host_only(self):
-        facts = self.sh("id -un; id -u; echo $HOME $USER $XDG_RUNTIME_DIR; pwd; stat -c %a:%U $HOME $XDG_RUNTIME_DIR",
-                        user="alice").stdout.split()
+        facts = self.sh(
+            "id -un; id -u; echo $HOME $USER $XDG_RUNTIME_DIR; pwd; stat -c %a:%U $HOME $XDG_RUNTIME_DIR", user="alice"
+        ).stdout.split()
         uid = str(self.host.uid)
         home, run = "/home/alice", f"/run/user/{uid}"
         self.assertEqual(facts, ["alice", uid, home, "alice", run, home, "700:alice", "700:alice"])
@@ -94,8 +107,10 @@ class HostTest(unittest.TestCase):
         self.assertNotEqual(self.sh("echo wrong | sudo -S -p '' id -u", user="alice").returncode, 0)
 
     def test_pkexec_obeys_a_rule(self):
-        self.host.start_polkit('polkit.addRule(function(action, subject) { if (subject.user == "alice" && '
-                               'action.lookup("program") == "/usr/bin/id") return polkit.Result.YES; });')
+        self.host.start_polkit(
+            'polkit.addRule(function(action, subject) { if (subject.user == "alice" && '
+            'action.lookup("program") == "/usr/bin/id") return polkit.Result.YES; });'
+        )
         self.addCleanup(self.sh, "pkill -x polkitd; pkill -x dbus-daemon")
         self.assertEqual(self.host.run(["pkexec", "/usr/bin/id", "-u"], user="alice").stdout, "0\n")
         self.assertEqual(self.host.run(["pkexec", "/bin/true"], user="alice", session=True).returncode, 127)
@@ -131,11 +146,13 @@ class HostTest(unittest.TestCase):
 
     def wait_until_gone(self, command: str) -> None:
         """The killed process itself may outlive its parent by a moment: waits for its end, bounded."""
-        script = ("import os, select, subprocess, sys\n"
-                  "found = subprocess.run(['pgrep', '-fx', sys.argv[1]], capture_output=True, text=True)\n"
-                  "for pid in found.stdout.split():\n"
-                  "    try: assert select.select([os.pidfd_open(int(pid))], [], [], 10)[0]\n"
-                  "    except ProcessLookupError: pass\n")
+        script = (
+            "import os, select, subprocess, sys\n"
+            "found = subprocess.run(['pgrep', '-fx', sys.argv[1]], capture_output=True, text=True)\n"
+            "for pid in found.stdout.split():\n"
+            "    try: assert select.select([os.pidfd_open(int(pid))], [], [], 10)[0]\n"
+            "    except ProcessLookupError: pass\n"
+        )
         self.host.run([at.PYTHON, "-c", script, command], check=True)
 
     def test_environment_is_fresh(self):
@@ -147,9 +164,11 @@ class HostTest(unittest.TestCase):
     def test_control_groups_are_its_own_and_nft_matches_them(self):
         self.assertEqual(self.sh("grep ^0: /proc/self/cgroup").stdout, "0::/\n")
         self.addCleanup(self.sh, "nft delete table inet labtest; rmdir /sys/fs/cgroup/exempt")
-        rules = ("table inet labtest {\nchain o {\ntype filter hook output priority 0\n"
-                 'ip daddr 203.0.113.37 socket cgroupv2 level 1 "exempt" counter accept\n'
-                 "ip daddr 203.0.113.37 reject\n}\n}\n")
+        rules = (
+            "table inet labtest {\nchain o {\ntype filter hook output priority 0\n"
+            'ip daddr 203.0.113.37 socket cgroupv2 level 1 "exempt" counter accept\n'
+            "ip daddr 203.0.113.37 reject\n}\n}\n"
+        )
         self.sh("mkdir /sys/fs/cgroup/exempt; nft -f -", input=rules, check=True)
         curl = "curl -s4 --max-time 10 http://www.example.test/"
         self.assertEqual(self.sh(f"echo $$ > /sys/fs/cgroup/exempt/cgroup.procs; exec {curl}").returncode, 0)
@@ -172,8 +191,10 @@ class HostTest(unittest.TestCase):
     def test_snapshots_show_every_kind_of_change(self):
         changes = {
             "nft": ("nft add table inet labsnap", "nft delete table inet labsnap"),
-            "resolv": ("cp -p /etc/resolv.conf /run/r; echo '#' >> /run/r; mount --bind /run/r /etc/resolv.conf",
-                       "umount /etc/resolv.conf; rm /run/r"),
+            "resolv": (
+                "cp -p /etc/resolv.conf /run/r; echo '#' >> /run/r; mount --bind /run/r /etc/resolv.conf",
+                "umount /etc/resolv.conf; rm /run/r",
+            ),
             "links": ("ip addr add 192.168.77.77/24 dev eth0", "ip addr del 192.168.77.77/24 dev eth0"),
             "routes": ("ip route add 10.0.0.0/8 via 192.168.77.9", "ip route del 10.0.0.0/8"),
             "mounts": ("mount -t tmpfs x /mnt", "umount /mnt"),
@@ -192,9 +213,11 @@ class HostTest(unittest.TestCase):
 
     def test_snapshots_show_processes_and_ports(self):
         before = self.host.snapshot()
-        listen = ("import socket, sys; t = socket.create_server(('127.0.0.1', 4711)); "
-                  "u = socket.socket(socket.AF_INET6, socket.SOCK_DGRAM); u.bind(('::', 4712)); "
-                  "print('y', flush=True); sys.stdin.read()")
+        listen = (
+            "import socket, sys; t = socket.create_server(('127.0.0.1', 4711)); "
+            "u = socket.socket(socket.AF_INET6, socket.SOCK_DGRAM); u.bind(('::', 4712)); "
+            "print('y', flush=True); sys.stdin.read()"
+        )
         with self.host.popen([at.PYTHON, "-c", listen], user="alice", stdin=-1, stdout=-1, text=True) as process:
             process.stdout.readline()
             changed = self.host.snapshot()
@@ -214,27 +237,32 @@ class HostTest(unittest.TestCase):
         self.assertEqual(sorted(results, key=int), [f"{n}\n" for n in range(20)])
 
     def test_captures_see_all_that_leaves_the_host(self):
-        send = ("import socket; s = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); "
-                "s.setsockopt(socket.IPPROTO_IP, socket.IP_MULTICAST_TTL, 1); s.sendto(b'x', ('224.0.0.251', 5353)); "
-                f"s.sendto(b'y', ('{at.DNS_ADDRESS}', 4444)); "
-                f"socket.socket(socket.AF_INET6, socket.SOCK_DGRAM).sendto(b'z', ('{at.DNS_ADDRESS6}', 4445))")
+        send = (
+            "import socket; s = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); "
+            "s.setsockopt(socket.IPPROTO_IP, socket.IP_MULTICAST_TTL, 1); s.sendto(b'x', ('224.0.0.251', 5353)); "
+            f"s.sendto(b'y', ('{at.DNS_ADDRESS}', 4444)); "
+            f"socket.socket(socket.AF_INET6, socket.SOCK_DGRAM).sendto(b'z', ('{at.DNS_ADDRESS6}', 4445))"
+        )
         with self.lab.capture("host") as near, self.lab.capture() as far:
             self.host.run([at.PYTHON, "-c", send], check=True)
             far.wait_for(lambda p: p.dport == 4445)
         seen = {(p.dst, p.dport) for p in near.packets if p.out}
         self.assertLessEqual({("224.0.0.251", 5353), (at.DNS_ADDRESS, 4444), (at.DNS_ADDRESS6, 4445)}, seen)
         passed = {(p.dst, p.dport) for p in far.packets if p.out and p.src in (at.HOST_ADDRESS, at.HOST_ADDRESS6)}
-        self.assertEqual(passed & {("224.0.0.251", 5353), (at.DNS_ADDRESS, 4444), (at.DNS_ADDRESS6, 4445)},
-                         {(at.DNS_ADDRESS, 4444), (at.DNS_ADDRESS6, 4445)})
+        self.assertEqual(
+            passed & {("224.0.0.251", 5353), (at.DNS_ADDRESS, 4444), (at.DNS_ADDRESS6, 4445)},
+            {(at.DNS_ADDRESS, 4444), (at.DNS_ADDRESS6, 4445)},
+        )
 
     def test_a_busy_capture_loses_nothing(self):
         """Counted against the router's own counter behind the forwarding, where nothing can be dropped any more."""
-        rules = ("table inet labcount {\nchain p {\ntype filter hook postrouting priority 300\n"
-                 "udp dport 4446 counter\n}\n}\n")
+        rules = "table inet labcount {\nchain p {\ntype filter hook postrouting priority 300\n" "udp dport 4446 counter\n}\n}\n"
         self.lab.router.run(["nft", "-f", "-"], input=rules, check=True)
         self.addCleanup(self.lab.router.run, ["nft", "delete", "table", "inet", "labcount"])
-        flood = ("import socket; s = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)\n"
-                 f"for n in range(20000): s.sendto(b'%d' % n, ('{at.DNS_ADDRESS}', 4446))")
+        flood = (
+            "import socket; s = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)\n"
+            f"for n in range(20000): s.sendto(b'%d' % n, ('{at.DNS_ADDRESS}', 4446))"
+        )
         with self.lab.capture() as capture:
             self.host.run([at.PYTHON, "-c", flood], check=True)
         counted = self.lab.router.run(["nft", "list", "table", "inet", "labcount"], check=True).stdout

@@ -57,7 +57,7 @@ class Keys(unittest.TestCase):
         node_keys.keep(NAMES, self.lab(), "old\n", self.build, NOW)
         self.assertEqual(self.take(NOW + 6 * DAY)[0], "old\n")
         self.assertEqual(self.take(NOW + 8 * DAY), (None, {}))
-        self.assertEqual(self.take(NOW - DAY), (None, {}))   # a clock that was set back
+        self.assertEqual(self.take(NOW - DAY), (None, {}))  # a clock that was set back
         node_keys.keep(NAMES, self.lab(), "new\n", self.build, NOW + 8 * DAY)
         self.assertEqual(self.take(NOW + 8 * DAY)[0], "new\n")
 
@@ -75,6 +75,7 @@ class Keys(unittest.TestCase):
 
     def test_one_makes_them_and_the_others_wait(self):
         making, most = [], []
+
         def start(number):
             if self.take()[0] is not None:
                 return
@@ -84,6 +85,7 @@ class Keys(unittest.TestCase):
                     most.append(len(making))
                     time.sleep(0.05)
                     node_keys.keep(NAMES, labs[number], f"{number}\n", self.build, NOW)
+
         labs = [self.lab(f"lab {number}") for number in range(4)]
         with ThreadPoolExecutor(4) as pool:
             list(pool.map(start, range(4)))
@@ -93,7 +95,7 @@ class Keys(unittest.TestCase):
 
     def test_half_a_set_is_none(self):
         node_keys.keep(NAMES, self.lab(), "half\n", self.build, NOW)
-        kept, = (self.build / "lab-keys").glob("*/")
+        (kept,) = (self.build / "lab-keys").glob("*/")
         (kept / "identities").unlink()
         self.assertEqual(self.take(), (None, {}))
 

@@ -47,7 +47,7 @@ class NetworkTest(unittest.TestCase):
                 answer = client.check()
             through_tor = [p for p in capture.packets if p.src in HOST_ADDRESSES]
             direct_check(self.lab)
-            direct = [p for p in capture.packets if p.src in HOST_ADDRESSES][len(through_tor):]
+            direct = [p for p in capture.packets if p.src in HOST_ADDRESSES][len(through_tor) :]
         self.assertIs(answer["IsTor"], True)
         self.assertIn(answer["IP"], at.EXIT_ADDRESSES)
         self.assertTrue(through_tor)
@@ -106,11 +106,13 @@ class NetworkTest(unittest.TestCase):
         self.assertIn((at.HOST_ADDRESS, "udp", "unknown.example.test", "AAAA"), logged)
 
     def test_names_are_answered_over_tcp(self):
-        ask = ("import socket, struct; "
-               "q = b'\\1\\2\\1\\0\\0\\1\\0\\0\\0\\0\\0\\0\\3www\\7example\\4test\\0\\0\\1\\0\\1'; "
-               f"s = socket.create_connection(('{at.DNS_ADDRESS}', 53), 10); s.sendall(struct.pack('!H', len(q)) + q); "
-               "n = struct.unpack('!H', s.recv(2, socket.MSG_WAITALL))[0]; a = s.recv(n, socket.MSG_WAITALL); "
-               "print(socket.inet_ntoa(a[-4:]))")
+        ask = (
+            "import socket, struct; "
+            "q = b'\\1\\2\\1\\0\\0\\1\\0\\0\\0\\0\\0\\0\\3www\\7example\\4test\\0\\0\\1\\0\\1'; "
+            f"s = socket.create_connection(('{at.DNS_ADDRESS}', 53), 10); s.sendall(struct.pack('!H', len(q)) + q); "
+            "n = struct.unpack('!H', s.recv(2, socket.MSG_WAITALL))[0]; a = s.recv(n, socket.MSG_WAITALL); "
+            "print(socket.inet_ntoa(a[-4:]))"
+        )
         done = self.lab.host.run([at.PYTHON, "-c", ask])
         self.assertEqual(done.stdout.strip(), at.WEB_ADDRESS, done.stderr)
         self.assertEqual(self.lab.world.dns_log()[-1]["transport"], "tcp")
@@ -174,10 +176,24 @@ class NetworkTest(unittest.TestCase):
 
     def test_nodes_take_the_key_of_their_connections_that_is_kept(self):
         address = next(node.address for node in at.EXITS if node.name == "exitde")
-        told = self.lab.spaces["world"].run(["/bin/sh", "-c", r"""
+        told = (
+            self.lab.spaces["world"]
+            .run(
+                [
+                    "/bin/sh",
+                    "-c",
+                    r"""
             openssl rsa -in "$1/exitde/keys/link-2048-1" -pubout 2>/dev/null
             openssl s_client -connect "$2" </dev/null 2>/dev/null | openssl x509 -noout -pubkey
-        """, "sh", at.TOR_FOLDER, f"{address}:{at.OR_PORT}"], check=True).stdout
+        """,
+                    "sh",
+                    at.TOR_FOLDER,
+                    f"{address}:{at.OR_PORT}",
+                ],
+                check=True,
+            )
+            .stdout
+        )
         kept, used = told.split("-----END PUBLIC KEY-----\n")[:2]
         self.assertIn("BEGIN PUBLIC KEY", used)
         # Without the library each node makes its own, at each start.

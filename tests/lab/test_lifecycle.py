@@ -98,8 +98,11 @@ def machine_state() -> dict[str, object]:
         "netns": subprocess.run(["ip", "netns"], capture_output=True, text=True).stdout,
         "mounts": [line.split(maxsplit=4)[4] for line in Path("/proc/self/mountinfo").read_text().splitlines()],
         "links": sorted(os.listdir("/sys/class/net")),
-        "files": sorted(str(p) for folder in ("/tmp", "/run", "/var/tmp", "/home", "/root", "/etc", "/var/lib")
-                        for p in Path(folder).glob("*veldlab-[!t]*")),
+        "files": sorted(
+            str(p)
+            for folder in ("/tmp", "/run", "/var/tmp", "/home", "/root", "/etc", "/var/lib")
+            for p in Path(folder).glob("*veldlab-[!t]*")
+        ),
         "accounts": [line for line in Path("/etc/passwd").read_text().splitlines() if line.startswith(("alice:", "_veldmark:"))],
         "resolver": "veldmark" in Path("/etc/resolv.conf").read_text().lower(),
     }
@@ -163,8 +166,9 @@ class LifecycleTest(unittest.TestCase):
         self.assertNotEqual(os.stat("/proc/self/ns/net").st_ino, os.stat(f"/proc/{os.getppid()}/ns/net").st_ino)
         with tempfile.TemporaryDirectory(prefix="veldmark-medium-") as place:
             # As by the machine's first process: where this test came from.
-            elsewhere = subprocess.run(["nsenter", "--target", str(os.getppid()), "--mount", "mount", "-t", "tmpfs", "medium", place],
-                                       check=False)
+            elsewhere = subprocess.run(
+                ["nsenter", "--target", str(os.getppid()), "--mount", "mount", "-t", "tmpfs", "medium", place], check=False
+            )
             self.assertEqual(elsewhere.returncode, 0)
             self.check_machine()
             subprocess.run(["nsenter", "--target", str(os.getppid()), "--mount", "umount", place], check=True)
@@ -175,8 +179,8 @@ class LifecycleTest(unittest.TestCase):
 
     def owner(self, after: str = "pass") -> tuple[subprocess.Popen, Traces]:
         process = subprocess.Popen(
-            [at.PYTHON, "-c", OWNER, after], stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
-            text=True)
+            [at.PYTHON, "-c", OWNER, after], stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True
+        )
         self.addCleanup(process.communicate)
         self.addCleanup(process.kill)
         lab_id = process.stdout.readline().strip()
@@ -284,7 +288,10 @@ class LifecycleTest(unittest.TestCase):
     def test_without_root_it_says_what_to_do(self):
         done = subprocess.run(
             ["setpriv", "--reuid", "65534", "--clear-groups", at.PYTHON, str(HERE / "lab.py"), "check"],
-            capture_output=True, text=True, cwd="/")
+            capture_output=True,
+            text=True,
+            cwd="/",
+        )
         self.assertEqual(done.returncode, 77, done.stderr)
         self.assertEqual(done.stdout.count("\n"), 1)
         self.assertIn("run with sudo", done.stdout)
@@ -292,13 +299,29 @@ class LifecycleTest(unittest.TestCase):
     def test_refused_namespaces_are_a_skip(self):
         done = subprocess.run(
             ["setpriv", "--bounding-set", "-sys_admin", at.PYTHON, str(HERE / "lab.py"), "run", "--", "true"],
-            capture_output=True, text=True)
+            capture_output=True,
+            text=True,
+        )
         self.assertEqual(done.returncode, 77, done.stderr)
         self.assertEqual(done.stderr.count("\n"), 1)
 
     def test_command_line_gives_the_commands_status(self):
         done = subprocess.run(
-            [at.PYTHON, str(HERE / "lab.py"), "run", "--user", "alice", "--env", "A=1", "--", "sh", "-c",
-             'test "$A" = 1 && test "$(id -un)" = alice && exit 9'], capture_output=True, text=True)
+            [
+                at.PYTHON,
+                str(HERE / "lab.py"),
+                "run",
+                "--user",
+                "alice",
+                "--env",
+                "A=1",
+                "--",
+                "sh",
+                "-c",
+                'test "$A" = 1 && test "$(id -un)" = alice && exit 9',
+            ],
+            capture_output=True,
+            text=True,
+        )
         self.assertEqual(done.returncode, 9, done.stderr)
         self.check_machine()

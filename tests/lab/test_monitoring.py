@@ -31,8 +31,10 @@ class Counters(LabCase):
     def test_they_move_with_the_traffic(self):
         session = self.connected()
         before = self.product.status()
-        self.lab.host.run(["curl", "-sS", "-o", "/dev/null", "--proxy", "socks5h://127.0.0.1:9050",
-                           f"http://{at.WEB_HOSTS[0]}/bytes/{AMOUNT}"], check=True)
+        self.lab.host.run(
+            ["curl", "-sS", "-o", "/dev/null", "--proxy", "socks5h://127.0.0.1:9050", f"http://{at.WEB_HOSTS[0]}/bytes/{AMOUNT}"],
+            check=True,
+        )
         after = session.wait(lambda s: s["bytesRead"] - before["bytesRead"] >= AMOUNT, 15)
         self.assertLess(after["bytesRead"] - before["bytesRead"], 3 * AMOUNT)
         self.assertGreater(after["bytesWritten"], before["bytesWritten"])
@@ -76,7 +78,7 @@ class KillSwitch(LabCase):
         self.assertRegex(report, r"\n  Kill switch +OPEN since ")
         for claim in "locked to Tor", "only Tor's traffic", "blocked", "nothing leaked", "blocking traffic":
             self.assertNotIn(claim, report)
-        self.assertIn(title, session.output)   # the running program has said it by itself
+        self.assertIn(title, session.output)  # the running program has said it by itself
 
     def test_an_open_one_is_never_called_closed(self):
         session = self.enterContext(self.product.session())
@@ -99,13 +101,13 @@ class KillSwitch(LabCase):
             self.assert_said_everywhere(session, *opened)
             note = self.lab.host.path("/run/veldmark.watch")
             tried = note.stat().st_mtime_ns
-            while note.stat().st_mtime_ns == tried:   # the watcher tries again, and so do we
+            while note.stat().st_mtime_ns == tried:  # the watcher tries again, and so do we
                 time.sleep(0.1)
             time.sleep(3)
             state = self.product.status()
             self.assertEqual((state["errorMessage"], state["killSwitchSince"]), (OPEN_DEATH, since))
             self.assertEqual(self.address_seen_directly(), at.HOST_ADDRESS)
-        state = session.wait(lambda s: s["killSwitch"] == "putBack", 30)   # still watched, though Tor is dead
+        state = session.wait(lambda s: s["killSwitch"] == "putBack", 30)  # still watched, though Tor is dead
         self.assertEqual(state["title"], "Needs Attention")
         self.assertIn("blocking traffic again", state["errorMessage"])
         self.assertIsNone(self.address_seen_directly())
@@ -121,7 +123,7 @@ class KillSwitch(LabCase):
         state = session.wait(lambda s: s["killSwitch"] == "unknown", 60)
         self.assertEqual((state["title"], state["level"]), ("Needs Attention", "warning"))
         self.assertNotIn("locked to Tor", state["statusDetail"])
-        self.product.run_verb("fix-dns", check=True)   # which starts another
+        self.product.run_verb("fix-dns", check=True)  # which starts another
         self.assertEqual(session.wait(lambda s: s["killSwitch"] == "standing" and not s["isChecking"], 30)["title"], "Protected")
 
     def test_proxy_mode_shows_nothing_of_a_strict_session_before_it(self):
@@ -134,7 +136,7 @@ class KillSwitch(LabCase):
         self.set("strictMode", "false")
         session = self.enterContext(self.product.session())
         state = session.wait(is_probed)
-        time.sleep(4)   # two looks
+        time.sleep(4)  # two looks
         state = self.product.status()
         self.assertEqual((state["title"], state["killSwitch"], state["errorMessage"]), ("Proxy Active", None, None))
         self.assertFalse(self.lab.host.path("/run/veldmark.watch").exists())
@@ -168,13 +170,18 @@ class Log(LabCase):
         every = self.product.run_verb("log", check=True).stdout.splitlines()
         problems = self.product.run_verb("log", "--problems", check=True).stdout.splitlines()
         self.assertEqual([line for line in problems if "[notice]" in line], [])
-        self.assertEqual([line for line in every if re.search(r"\[(warn|err)\]", line)],
-                         [line for line in problems if re.search(r"\[(warn|err)\]", line)])
+        self.assertEqual(
+            [line for line in every if re.search(r"\[(warn|err)\]", line)],
+            [line for line in problems if re.search(r"\[(warn|err)\]", line)],
+        )
 
     def test_a_tor_that_cannot_start_shows_its_reason(self):
-        self.lab.host.write("/usr/local/broken/tor",
-                            "#!/bin/sh\ncase \" $* \" in *hash-password*|*verify-config*) exec /usr/bin/tor \"$@\";; esac\n"
-                            "echo 'Nov 16 00:41:07.123 [err] The clock says it is yesterday.'; exit 1\n", mode=0o755)
+        self.lab.host.write(
+            "/usr/local/broken/tor",
+            '#!/bin/sh\ncase " $* " in *hash-password*|*verify-config*) exec /usr/bin/tor "$@";; esac\n'
+            "echo 'Nov 16 00:41:07.123 [err] The clock says it is yesterday.'; exit 1\n",
+            mode=0o755,
+        )
         self.addCleanup(self.lab.host.run, ["rm", "-f", "/usr/local/broken/tor"])
         self.set("customTorPath", "/usr/local/broken/tor")
         with self.product.session() as session:
@@ -218,6 +225,7 @@ class Log(LabCase):
 
 if __name__ == "__main__":
     from veldlab import requirements
+
     reason = requirements.missing()
     if reason:
         print(f"skipped: {reason}")

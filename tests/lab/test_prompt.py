@@ -28,8 +28,9 @@ AGENT = Path(__file__).resolve().parent / "veldlab" / "polkit_agent.py"
 POLICY = PROJECT / "packaging" / "org.veldmark.helper.policy"
 HELPER = "/usr/share/veldmark/veldmark-helper.sh"
 VERBS = ("connect", "replace", "approve", "disconnect", "fix-dns", "launch", "install-privileged", "uninstall-privileged")
-NO_AGENT = ("veldmarkctl: Administrator access can't be asked for: no PolicyKit authentication agent is running in this "
-            "session.\n")
+NO_AGENT = (
+    "veldmarkctl: Administrator access can't be asked for: no PolicyKit authentication agent is running in this " "session.\n"
+)
 SKIPPED = 77
 # The administrator is alice, who gives her own password, as the first user of a desktop does.
 RULES = 'polkit.addAdminRule(function(action, subject) { return ["unix-user:alice"]; });\n'
@@ -61,8 +62,9 @@ class Prompt(unittest.TestCase):
     def agent(self, process: int, answer: str):
         """Yields the list of what was asked, filled when the agent has ended."""
         asked: list[dict] = []
-        agent = self.lab.host.popen([at.PYTHON, AGENT, process, answer, self.lab.host.user], user=self.lab.host.user,
-                                    stdout=subprocess.PIPE, text=True)
+        agent = self.lab.host.popen(
+            [at.PYTHON, AGENT, process, answer, self.lab.host.user], user=self.lab.host.user, stdout=subprocess.PIPE, text=True
+        )
         try:
             self.assertEqual(agent.stdout.readline(), "ready\n")
             yield asked
@@ -87,12 +89,17 @@ class Prompt(unittest.TestCase):
                 session.wait(lambda s: s["phase"] == "connected" and s["torVerified"])
                 disconnect = self.product.run_verb("disconnect", timeout=60)
                 self.assertEqual(disconnect.returncode, 0, disconnect.stderr)
-            self.assertEqual([request["action"] for request in asked],
-                             ["org.veldmark.helper.connect", "org.veldmark.helper.disconnect"])
-            self.assertEqual([request["message"] for request in asked],
-                             ["Veldmark needs administrator access to manage Tor routing on this computer. "
-                              "The system's own Tor service, where it runs, is stopped meanwhile.",
-                              "Veldmark needs administrator access to stop Tor and restore this computer's network."])
+            self.assertEqual(
+                [request["action"] for request in asked], ["org.veldmark.helper.connect", "org.veldmark.helper.disconnect"]
+            )
+            self.assertEqual(
+                [request["message"] for request in asked],
+                [
+                    "Veldmark needs administrator access to manage Tor routing on this computer. "
+                    "The system's own Tor service, where it runs, is stopped meanwhile.",
+                    "Veldmark needs administrator access to stop Tor and restore this computer's network.",
+                ],
+            )
             self.assertEqual(asked[0]["identities"], [self.lab.host.uid])
             session.interrupt()
         self.assert_untouched()
@@ -112,8 +119,10 @@ class Prompt(unittest.TestCase):
         with self.session() as session:
             with self.agent(self.pid("veldmarkctl"), "refuse") as asked:
                 connect = self.product.run_verb("connect", timeout=60)
-                self.assertEqual((connect.returncode, connect.stderr),
-                                 (1, "veldmarkctl: Administrator access was refused, or the agent that asks for the password gave no answer.\n"))
+                self.assertEqual(
+                    (connect.returncode, connect.stderr),
+                    (1, "veldmarkctl: Administrator access was refused, or the agent that asks for the password gave no answer.\n"),
+                )
             self.assertGreaterEqual(len(asked), 1)
             session.interrupt()
         self.assert_untouched()
@@ -122,26 +131,36 @@ class Prompt(unittest.TestCase):
         with self.session() as session:
             connect = self.product.run_verb("connect", timeout=60)
             self.assertEqual((connect.returncode, connect.stderr), (1, NO_AGENT))
-            self.assertEqual(session.wait_phase("disconnected")["errorMessage"], NO_AGENT[len("veldmarkctl: "):-1])
+            self.assertEqual(session.wait_phase("disconnected")["errorMessage"], NO_AGENT[len("veldmarkctl: ") : -1])
             session.interrupt()
         self.assert_untouched()
 
     def test_polkits_own_agent_on_a_terminal_asks_there(self):
         with self.session() as session:
-            registered = "/home/alice/registered"   # pkttyagent closes it once polkit knows it
+            registered = "/home/alice/registered"  # pkttyagent closes it once polkit knows it
             self.lab.host.run(["mkfifo", registered], user=self.lab.host.user, check=True)
             command = f"exec pkttyagent --notify-fd 9 --process {self.pid('veldmarkctl')} 9>{registered}"
             terminal, inner = pty.openpty()
-            agent = self.lab.host.popen(["setsid", "--ctty", "--wait", "sh", "-c", command], user=self.lab.host.user,
-                                        stdin=inner, stdout=inner, stderr=inner)
+            agent = self.lab.host.popen(
+                ["setsid", "--ctty", "--wait", "sh", "-c", command],
+                user=self.lab.host.user,
+                stdin=inner,
+                stdout=inner,
+                stderr=inner,
+            )
             os.close(inner)
             try:
                 self.lab.host.run(["cat", registered], user=self.lab.host.user, check=True, timeout=20)
-                connect = self.lab.host.popen([self.product.ctl, "connect"], user=self.lab.host.user,
-                                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+                connect = self.lab.host.popen(
+                    [self.product.ctl, "connect"],
+                    user=self.lab.host.user,
+                    stdout=subprocess.PIPE,
+                    stderr=subprocess.STDOUT,
+                    text=True,
+                )
                 shown = b""
                 while b"Password: " not in shown:
-                    shown += os.read(terminal, 4096)   # fails when the agent has ended
+                    shown += os.read(terminal, 4096)  # fails when the agent has ended
                 self.assertIn(b"Veldmark needs administrator access to manage Tor routing on this computer.", shown)
                 # It drops what was typed before it has switched the echo off.
                 while termios.tcgetattr(terminal)[3] & termios.ECHO:
@@ -161,8 +180,13 @@ class Prompt(unittest.TestCase):
 
     def test_pkexecs_own_question_on_a_terminal_ends_with_a_sentence(self):
         terminal, inner = pty.openpty()
-        run = self.lab.host.popen(["setsid", "--ctty", "--wait", self.product.ctl, "run", "--connect"],
-                                  user=self.lab.host.user, stdin=inner, stdout=inner, stderr=inner)
+        run = self.lab.host.popen(
+            ["setsid", "--ctty", "--wait", self.product.ctl, "run", "--connect"],
+            user=self.lab.host.user,
+            stdin=inner,
+            stdout=inner,
+            stderr=inner,
+        )
         os.close(inner)
         shown = b""
         try:
@@ -172,14 +196,16 @@ class Prompt(unittest.TestCase):
             while termios.tcgetattr(terminal)[3] & termios.ECHO:
                 time.sleep(0.01)
             os.write(terminal, self.lab.host.user.encode() + b"\n")
-            with contextlib.suppress(OSError):   # how Linux tells that nobody has the other end open
+            with contextlib.suppress(OSError):  # how Linux tells that nobody has the other end open
                 while some := os.read(terminal, 4096):
                     shown += some
             self.assertEqual(run.wait(30), 1)
         finally:
             os.close(terminal)
-        self.assertIn("veldmarkctl: The password could not be checked: polkit takes none from this terminal. Run it "
-                      "with sudo.\r\n", shown.decode())
+        self.assertIn(
+            "veldmarkctl: The password could not be checked: polkit takes none from this terminal. Run it " "with sudo.\r\n",
+            shown.decode(),
+        )
         self.assert_untouched()
 
     def test_an_approval_is_not_kept_for_the_next_time(self):
@@ -188,16 +214,23 @@ class Prompt(unittest.TestCase):
                 for _ in range(2):
                     self.assertEqual(self.product.run_verb("connect", timeout=90).returncode, 0)
                     self.assertEqual(self.product.run_verb("disconnect", timeout=60).returncode, 0)
-            self.assertEqual([request["action"].rpartition(".")[2] for request in asked],
-                             ["connect", "disconnect", "connect", "disconnect"])
+            self.assertEqual(
+                [request["action"].rpartition(".")[2] for request in asked], ["connect", "disconnect", "connect", "disconnect"]
+            )
             session.interrupt()
         self.assert_untouched()
 
     def ask(self, *words: str) -> tuple[list[dict], int]:
         """What the agent is asked when alice runs these words through pkexec, and pkexec's status."""
-        shell = self.lab.host.popen(["/bin/sh", "-c", 'echo $$; read line; pkexec "$@"; exit $?', "sh", *words],
-                                    user=self.lab.host.user, session=True, stdin=subprocess.PIPE,
-                                    stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+        shell = self.lab.host.popen(
+            ["/bin/sh", "-c", 'echo $$; read line; pkexec "$@"; exit $?', "sh", *words],
+            user=self.lab.host.user,
+            session=True,
+            stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE,
+            stderr=subprocess.DEVNULL,
+            text=True,
+        )
         with self.agent(int(shell.stdout.readline()), "cancel") as asked:
             shell.communicate("\n", timeout=30)
         return asked, shell.returncode
@@ -211,8 +244,10 @@ class Prompt(unittest.TestCase):
 
     def test_the_prompt_shows_what_is_approved(self):
         digest = "0123456789abcdef" * 4
-        for words, shown in ((["approve", "--program", "/home/alice/my tor", "--as", "tor", "--sha256", digest], ("/home/alice/my tor", digest)),
-                             (["launch", "--uid", "4242", "--app", "/usr/bin/some-app"], ("/usr/bin/some-app",))):
+        for words, shown in (
+            (["approve", "--program", "/home/alice/my tor", "--as", "tor", "--sha256", digest], ("/home/alice/my tor", digest)),
+            (["launch", "--uid", "4242", "--app", "/usr/bin/some-app"], ("/usr/bin/some-app",)),
+        ):
             with self.subTest(words[0]):
                 asked, status = self.ask(HELPER, *words)
                 self.assertEqual(status, 126)
@@ -222,8 +257,14 @@ class Prompt(unittest.TestCase):
     def test_nothing_else_passes_for_the_helper(self):
         self.lab.host.write("/home/alice/veldmark-helper.sh", "#!/bin/sh\n", 0o755, self.lab.host.uid)
         self.lab.host.run(["ln", "-sf", HELPER, "/home/alice/link.sh"], user=self.lab.host.user, check=True)
-        for words in ([HELPER], [HELPER, "frobnicate"], [HELPER, "connectx"], ["/bin/bash", HELPER, "connect"],
-                      ["/home/alice/veldmark-helper.sh", "connect"], ["/home/alice/link.sh", "connect"]):
+        for words in (
+            [HELPER],
+            [HELPER, "frobnicate"],
+            [HELPER, "connectx"],
+            ["/bin/bash", HELPER, "connect"],
+            ["/home/alice/veldmark-helper.sh", "connect"],
+            ["/home/alice/link.sh", "connect"],
+        ):
             with self.subTest(words):
                 asked, status = self.ask(*words)
                 self.assertEqual((asked[0]["action"], status), ("org.freedesktop.policykit.exec", 126))

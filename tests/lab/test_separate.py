@@ -27,7 +27,14 @@ class Separate(LabCase):
         # A pair of circuits that is linked later takes an application over from the circuit that it has.
         host.write("/etc/tor/torrc-defaults", host.read("/etc/tor/torrc-defaults") + "ConfluxEnabled 0\n", mode=0o644)
         # As systemd lays them out: what is below the user's manager is the user's.
-        host.run(["/bin/sh", "-c", f"chmod 755 {GROUPS}; mkdir -p {cls.slice}/session-2.scope {cls.apps}; chown -R alice {cls.slice}/user@*"], check=True)
+        host.run(
+            [
+                "/bin/sh",
+                "-c",
+                f"chmod 755 {GROUPS}; mkdir -p {cls.slice}/session-2.scope {cls.apps}; chown -R alice {cls.slice}/user@*",
+            ],
+            check=True,
+        )
 
     def groups(self, *names):
         """Makes the groups of applications, as alice; they go at the end."""
@@ -35,11 +42,22 @@ class Separate(LabCase):
         self.lab.host.run(["/bin/sh", "-c", 'cd "$0" && mkdir -- "$@"', self.apps, *names], user="alice", check=True)
 
     def remove_groups(self):
-        self.lab.host.run(["/bin/sh", "-c", f"cd {self.apps}; while ! find . -mindepth 1 -depth -type d -exec rmdir {{}} +; do sleep 0.1; done"], check=True)
+        self.lab.host.run(
+            ["/bin/sh", "-c", f"cd {self.apps}; while ! find . -mindepth 1 -depth -type d -exec rmdir {{}} +; do sleep 0.1; done"],
+            check=True,
+        )
 
     def inside(self, group, *command, **options):
-        return self.lab.host.run(["/bin/sh", "-c", 'echo 0 >"$0/cgroup.procs" && exec setpriv --reuid alice --regid alice --clear-groups "$@"',
-                                  group, *command], **options)
+        return self.lab.host.run(
+            [
+                "/bin/sh",
+                "-c",
+                'echo 0 >"$0/cgroup.procs" && exec setpriv --reuid alice --regid alice --clear-groups "$@"',
+                group,
+                *command,
+            ],
+            **options,
+        )
 
     def exits(self, name, times=3):
         """The exits that the check service sees, one request after the other, once Tor has found a circuit to stay with."""
@@ -49,7 +67,9 @@ class Separate(LabCase):
 
     def known(self, count):
         """Waits until so many identities of alice's are told."""
-        script = f'until [ "$(grep -c "^{self.lab.host.uid} " {STATE})" = {count} ] && grep -qx standing {STATE}; do sleep 0.05; done'
+        script = (
+            f'until [ "$(grep -c "^{self.lab.host.uid} " {STATE})" = {count} ] && grep -qx standing {STATE}; do sleep 0.05; done'
+        )
         self.lab.host.run(["timeout", "20", "/bin/sh", "-c", script], check=True)
         return self.lab.host.read(STATE)
 
@@ -78,21 +98,23 @@ class Separate(LabCase):
         self.groups("app-one-1.scope", "app-two-1.scope")
         first, second = f"{self.apps}/app-one-1.scope", f"{self.apps}/app-two-1.scope"
         direct = ["curl", "-sS4", "--max-time", "5", "--noproxy", "*", at.CHECK_URL]
-        self.assertIn("IP", json.loads(self.inside(first, *direct, check=True).stdout))   # it gets out when nothing blocks it
-        move = ("import os, socket, sys, time\n"
-                "places = sys.argv[1:]; sockets = []\n"
-                "for round in range(40):\n"
-                "    open(places[round % len(places)] + '/cgroup.procs', 'w').write('0')\n"
-                "    for kind in socket.SOCK_STREAM, socket.SOCK_DGRAM:\n"
-                "        for source in '', '127.65.0.1':\n"
-                "            s = socket.socket(socket.AF_INET, kind); s.setblocking(False); sockets.append(s)\n"
-                "            try:\n"
-                "                if source: s.bind((source, 0))\n"
-                f"                s.connect(('{at.CHECK_ADDRESS}', 443)); s.send(b'x')\n"
-                "            except OSError: pass\n"
-                "    for s in sockets[-12:]:\n"
-                "        try: s.send(b'x')\n"
-                "        except OSError: pass\n")
+        self.assertIn("IP", json.loads(self.inside(first, *direct, check=True).stdout))  # it gets out when nothing blocks it
+        move = (
+            "import os, socket, sys, time\n"
+            "places = sys.argv[1:]; sockets = []\n"
+            "for round in range(40):\n"
+            "    open(places[round % len(places)] + '/cgroup.procs', 'w').write('0')\n"
+            "    for kind in socket.SOCK_STREAM, socket.SOCK_DGRAM:\n"
+            "        for source in '', '127.65.0.1':\n"
+            "            s = socket.socket(socket.AF_INET, kind); s.setblocking(False); sockets.append(s)\n"
+            "            try:\n"
+            "                if source: s.bind((source, 0))\n"
+            f"                s.connect(('{at.CHECK_ADDRESS}', 443)); s.send(b'x')\n"
+            "            except OSError: pass\n"
+            "    for s in sockets[-12:]:\n"
+            "        try: s.send(b'x')\n"
+            "        except OSError: pass\n"
+        )
         with self.product.session() as session:
             session.wait(is_probed)
             self.known(3)
@@ -101,7 +123,11 @@ class Separate(LabCase):
                     self.assertNotEqual(self.inside(group, *direct).returncode, 0)
                 # Root moves where a user may not.
                 self.lab.host.run(["python3", "-c", move, first, second, f"{self.slice}/session-2.scope", GROUPS], check=True)
-            sent = [p for p in capture.packets if p.out and p.family != "arp" and not p.src.startswith("fe80:") and p.dst not in at.RELAY_ADDRESSES]
+            sent = [
+                p
+                for p in capture.packets
+                if p.out and p.family != "arp" and not p.src.startswith("fe80:") and p.dst not in at.RELAY_ADDRESSES
+            ]
             self.assertEqual([(p.src, p.dst) for p in sent], [])
             self.assertEqual(self.product.status()["title"], "Protected")
             self.remove_groups()
@@ -111,6 +137,7 @@ class Separate(LabCase):
 
 if __name__ == "__main__":
     from veldlab import requirements
+
     reason = requirements.missing()
     if reason:
         print(reason)

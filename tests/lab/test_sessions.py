@@ -27,7 +27,9 @@ class Sessions(LabCase):
         cls.alice = Product(cls.lab, PROGRAMS, user=user)
         # As in cron or after su: no runtime folder is named. And one that nobody else looks into.
         cls.bare = Product(cls.lab, PROGRAMS, user=user, env={"XDG_RUNTIME_DIR": ""})
-        cls.apart = Product(cls.lab, PROGRAMS, user=user, env={"XDG_RUNTIME_DIR": "/tmp/apart", "XDG_DATA_HOME": "/home/alice/apart"})
+        cls.apart = Product(
+            cls.lab, PROGRAMS, user=user, env={"XDG_RUNTIME_DIR": "/tmp/apart", "XDG_DATA_HOME": "/home/alice/apart"}
+        )
         cls.root.run_helper("install-privileged", "--user", user, check=True)
 
     def setUp(self):
@@ -100,28 +102,45 @@ class Sessions(LabCase):
             self.assert_stands(session)
             self.assertEqual(self.root.run_verb("restore").returncode, 0)
             self.assertFalse(self.lab.host.path(MARKER).exists())
-            session.wait_phase("disconnected")   # and alice's own sees it
+            session.wait_phase("disconnected")  # and alice's own sees it
             self.assertEqual(session.interrupt(), 0)
 
     def test_sudo_where_no_password_can_be_asked_for(self):
         """As the program's message says: with a right of alice's own to run anything."""
-        self.lab.host.run(["/bin/sh", "-c", "echo 'alice ALL=(ALL) NOPASSWD: ALL' >/etc/sudoers.d/own; chmod 0440 /etc/sudoers.d/own;"
-                           "install -o alice -m 0755 /usr/bin/tor /home/alice/tor"], check=True)
+        self.lab.host.run(
+            [
+                "/bin/sh",
+                "-c",
+                "echo 'alice ALL=(ALL) NOPASSWD: ALL' >/etc/sudoers.d/own; chmod 0440 /etc/sudoers.d/own;"
+                "install -o alice -m 0755 /usr/bin/tor /home/alice/tor",
+            ],
+            check=True,
+        )
         self.addCleanup(self.lab.host.run, ["rm", "-f", "/etc/sudoers.d/own", "/home/alice/tor", "/home/alice/opened"])
         self.addCleanup(self.lab.host.run, ["rm", "-rf", "/root/.config/veldmark"])
 
         def sudo(*words):
             return self.lab.host.run(["sudo", "-n", self.root.ctl, *words], user="alice")
+
         self.assertEqual(sudo("set", "customTorPath", "/home/alice/tor").returncode, 0)
-        with self.lab.host.popen(["sudo", "-n", self.root.ctl, "run", "--connect"], user="alice", 
-                                 stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL) as running:
+        with self.lab.host.popen(
+            ["sudo", "-n", self.root.ctl, "run", "--connect"],
+            user="alice",
+            stdin=subprocess.DEVNULL,
+            stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL,
+        ) as running:
             self.root.wait_state(is_probed)
             program = self.lab.host.run(["/bin/sh", "-c", "readlink /proc/$(pgrep -u _veldmark | head -1)/exe"]).stdout
             self.assertRegex(program, r"^/var/lib/veldmark/programs/")
             self.lab.host.write("/usr/local/bin/opened", "#!/bin/sh\nid -un >/home/alice/opened\n", 0o755)
             self.assertEqual(sudo("launch", "/usr/local/bin/opened").returncode, 0)
-            self.assertEqual(self.lab.host.run(["/bin/sh", "-c", "until [ -s /home/alice/opened ]; do sleep 0.05; done; cat /home/alice/opened"]).stdout,
-                             "alice\n")
+            self.assertEqual(
+                self.lab.host.run(
+                    ["/bin/sh", "-c", "until [ -s /home/alice/opened ]; do sleep 0.05; done; cat /home/alice/opened"]
+                ).stdout,
+                "alice\n",
+            )
             self.assertEqual(sudo("restore").returncode, 0)
             running.terminate()
         self.assertFalse(self.lab.host.path(MARKER).exists())
@@ -129,6 +148,7 @@ class Sessions(LabCase):
 
 if __name__ == "__main__":
     from veldlab import requirements
+
     reason = requirements.missing()
     if reason:
         print(f"skipped: {reason}")

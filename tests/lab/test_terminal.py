@@ -236,8 +236,11 @@ class Programs(TerminalCase):
             subprocess.run(["ssh-keygen", "-q", "-t", "ed25519", "-N", "", "-f", key], check=True)
             cls.key, public = Path(key).read_text(), Path(f"{key}.pub").read_text()
             cls.repository = cls.make_repository(folder)
-            git_files = {f"repo.git/{path.relative_to(cls.repository)}": path.read_bytes()
-                         for path in cls.repository.rglob("*") if path.is_file()}
+            git_files = {
+                f"repo.git/{path.relative_to(cls.repository)}": path.read_bytes()
+                for path in cls.repository.rglob("*")
+                if path.is_file()
+            }
             cls.lab.world.add_site(SITE, git_files)
             cls.public = cls.enterClassContext(ssh_server.SshServer(cls.lab.world.space, at.WEB_ADDRESS, public))
             cls.private = cls.enterClassContext(ssh_server.SshServer(cls.lab.lan, at.LAN_ADDRESS, public))
@@ -247,9 +250,11 @@ class Programs(TerminalCase):
 
     @staticmethod
     def make_repository(folder):
-        script = ("git init -q work; cd work; git config user.name Lab; git config user.email lab@example.test; "
-                  "echo content >file; git add file; git commit -q -m First; cd ..; "
-                  "git clone -q --bare work repo.git; git -C repo.git update-server-info")
+        script = (
+            "git init -q work; cd work; git config user.name Lab; git config user.email lab@example.test; "
+            "echo content >file; git add file; git commit -q -m First; cd ..; "
+            "git clone -q --bare work repo.git; git -C repo.git update-server-info"
+        )
         subprocess.run(["bash", "-ec", script], cwd=folder, check=True, env=os.environ | {"HOME": folder})
         return Path(folder) / "repo.git"
 
@@ -322,6 +327,7 @@ class Programs(TerminalCase):
 
 if __name__ == "__main__":
     from veldlab import requirements
+
     reason = requirements.missing()
     if reason:
         print(f"skipped: {reason}")

@@ -51,8 +51,9 @@ def _run(log: Path, what: str, *words, chroot: Path | None = None) -> None:
     command = ([] if chroot is None else ["chroot", chroot]) + list(words)
     environment = os.environ | {"LANG": "C.UTF-8", "DEBIAN_FRONTEND": "noninteractive"}
     with open(log, "ab") as output:
-        done = subprocess.run(list(map(str, command)), stdout=output, stderr=output, stdin=subprocess.DEVNULL,
-                              env=environment, check=False)
+        done = subprocess.run(
+            list(map(str, command)), stdout=output, stderr=output, stdin=subprocess.DEVNULL, env=environment, check=False
+        )
     if done.returncode:
         raise Unprepared(f"{what} failed; see {log}")
 
@@ -66,8 +67,16 @@ def prepare(package: Path, say=print) -> Path:
     if not base.exists():
         say("Fetching a minimal Debian 12, once.")
         shutil.rmtree(new, ignore_errors=True)
-        _run(log, "Fetching a minimal Debian from its registry", "debootstrap", "--variant=minbase", f"--include={_FIRST}",
-             RELEASE, new, registry())
+        _run(
+            log,
+            "Fetching a minimal Debian from its registry",
+            "debootstrap",
+            "--variant=minbase",
+            f"--include={_FIRST}",
+            RELEASE,
+            new,
+            registry(),
+        )
         new.rename(base)
     _install(base, log, say)
     _fetch(base, package, log, say)
@@ -97,8 +106,9 @@ def _install(base: Path, log: Path, say) -> None:
 
 def _fetch(base: Path, package: Path, log: Path, say) -> None:
     """What the package depends on and recommends, into apt's own folder of the tree."""
-    needs = subprocess.run(["dpkg-deb", "--field", package, "Depends", "Recommends"], check=True,
-                           capture_output=True, text=True).stdout
+    needs = subprocess.run(
+        ["dpkg-deb", "--field", package, "Depends", "Recommends"], check=True, capture_output=True, text=True
+    ).stdout
     fetched = FOLDER / "fetched"
     if fetched.exists() and fetched.read_text() == needs:
         return
@@ -109,8 +119,16 @@ def _fetch(base: Path, package: Path, log: Path, say) -> None:
     shutil.copy(package, base / "tmp/package.deb")
     try:
         _run(log, "Asking Debian's registry", "apt-get", "update", chroot=base)
-        _run(log, "Fetching what the package depends on", "apt-get", "install", "--yes", "--download-only", "/tmp/package.deb",
-             chroot=base)
+        _run(
+            log,
+            "Fetching what the package depends on",
+            "apt-get",
+            "install",
+            "--yes",
+            "--download-only",
+            "/tmp/package.deb",
+            chroot=base,
+        )
     finally:
         (base / "tmp/package.deb").unlink()
         resolver.unlink()

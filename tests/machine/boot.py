@@ -24,7 +24,7 @@ from veldlab import topology as at
 from veldlab.space import Space
 
 NSPAWN = PROJECT / "build" / "nspawn"
-ROOM = "/run/machine"       # in the lab's first mount namespace
+ROOM = "/run/machine"  # in the lab's first mount namespace
 NETWORK = "machine"
 USER, UID = "alice", 1000
 HARDWARE = "52:54:00:00:77:02"
@@ -47,7 +47,7 @@ dns={at.DNS_ADDRESS6};
 """
 # udev does not run in a container, and without it NetworkManager leaves Ethernet devices of this kind alone.
 _MANAGED = "[device-eth0]\nmatch-device=interface-name:eth0\nmanaged=1\n[main]\nplugins=keyfile\nno-auto-default=*\n"
-_DNS = "[main]\ndns=default\nrc-manager=file\n"   # resolv.conf is NetworkManager's own, as where systemd-resolved is not installed
+_DNS = "[main]\ndns=default\nrc-manager=file\n"  # resolv.conf is NetworkManager's own, as where systemd-resolved is not installed
 _DISK = r"""
 set -eu
 mountpoint -q "$1" || { mkdir -p "$1"; mount -t tmpfs -o mode=755,size=8g machine "$1"; }
@@ -144,14 +144,34 @@ class Machine(contextlib.AbstractContextManager):
         started = time.monotonic()
         self._shell(self._world, _PLUG_IN, NETWORK, HARDWARE)
         nspawn = program()
-        command = [nspawn, "--directory", self.root, "--boot", f"--network-namespace-path=/run/netns/{NETWORK}",
-                   "--capability=CAP_NET_ADMIN,CAP_NET_RAW", "--register=no", "--keep-unit", "--settings=no", "--machine=debian",
-                   "--resolv-conf=off", *(["--bind=/dev/net/tun"] if Path("/dev/net/tun").exists() else []), "--timezone=off", "--link-journal=no", "--console=pipe", "--quiet",
-                   "--kill-signal=SIGRTMIN+4"]
+        command = [
+            nspawn,
+            "--directory",
+            self.root,
+            "--boot",
+            f"--network-namespace-path=/run/netns/{NETWORK}",
+            "--capability=CAP_NET_ADMIN,CAP_NET_RAW",
+            "--register=no",
+            "--keep-unit",
+            "--settings=no",
+            "--machine=debian",
+            "--resolv-conf=off",
+            *(["--bind=/dev/net/tun"] if Path("/dev/net/tun").exists() else []),
+            "--timezone=off",
+            "--link-journal=no",
+            "--console=pipe",
+            "--quiet",
+            "--kill-signal=SIGRTMIN+4",
+        ]
         self._process = self._world.popen(
-            command, env={"SYSTEMD_NSPAWN_UNIFIED_HIERARCHY": "1",
-                          "LD_LIBRARY_PATH": str(NSPAWN / "usr/lib/x86_64-linux-gnu/systemd")},
-            stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, errors="replace")
+            command,
+            env={"SYSTEMD_NSPAWN_UNIFIED_HIERARCHY": "1", "LD_LIBRARY_PATH": str(NSPAWN / "usr/lib/x86_64-linux-gnu/systemd")},
+            stdin=subprocess.DEVNULL,
+            stdout=subprocess.PIPE,
+            stderr=subprocess.STDOUT,
+            text=True,
+            errors="replace",
+        )
         self._reader = threading.Thread(target=self._read, args=(self._process.stdout,), daemon=True)
         self._reader.start()
         try:
@@ -182,8 +202,9 @@ class Machine(contextlib.AbstractContextManager):
         while waiting:
             pid = waiting.pop()
             with contextlib.suppress(OSError):
-                numbers = next(line.split()[1:] for line in Path(f"/proc/{pid}/status").read_text().splitlines()
-                               if line.startswith("NSpid:"))
+                numbers = next(
+                    line.split()[1:] for line in Path(f"/proc/{pid}/status").read_text().splitlines() if line.startswith("NSpid:")
+                )
                 if numbers[-1] == "1" and Path(f"/proc/{pid}/comm").read_text().strip() == "systemd":
                     return pid
                 waiting += map(int, Path(f"/proc/{pid}/task/{pid}/children").read_text().split())

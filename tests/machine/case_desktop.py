@@ -91,8 +91,21 @@ def languages_and_appearances(stage: Stage) -> None:
         for language in ("en_GB", "de_DE"):
             for dark in (False, True):
                 with Desktop(machine, "xfce", language) as desktop:
-                    desktop.run(["xfconf-query", "-c", "xsettings", "-p", "/Net/ThemeName", "-n", "-t", "string", "-s",
-                                 "Greybird-dark" if dark else "Greybird"], check=True)
+                    desktop.run(
+                        [
+                            "xfconf-query",
+                            "-c",
+                            "xsettings",
+                            "-p",
+                            "/Net/ThemeName",
+                            "-n",
+                            "-t",
+                            "string",
+                            "-s",
+                            "Greybird-dark" if dark else "Greybird",
+                        ],
+                        check=True,
+                    )
                     desktop.run(["setsid", "-f", "veldmark"], stdout=None, stderr=None, capture_output=False)
                     wait(lambda: "Veldmark" in desktop.windows(), 20, "no window")
                     desktop.look("disconnected")
@@ -145,10 +158,12 @@ def an_agent_that_ends(stage: Stage) -> None:
         desktop.run(["pkill", "-x", "polkit-mate-aut"], check=True)
         desktop.run(["swaymsg", "exec", "/usr/lib/policykit-1-gnome/polkit-gnome-authentication-agent-1"], check=True)
         wait(lambda: desktop.pids("polkit-gnome-au"), 10, "the other agent does not start")
-        time.sleep(2)   # no sign tells when it is ready to be asked
+        time.sleep(2)  # no sign tells when it is ready to be asked
         start(stage, desktop)
         desktop.click("veldmark", "push button", "Connect to Tor")
-        wait(lambda: not desktop.pids("polkit-gnome-au"), 30, "the agent shows its dialogue, so nothing can be said of one that ends")
+        wait(
+            lambda: not desktop.pids("polkit-gnome-au"), 30, "the agent shows its dialogue, so nothing can be said of one that ends"
+        )
         told = wait(lambda: state(machine, "alice")["errorMessage"], 30, "it says nothing")
         stage.picture(desktop, "sway-agent-ended")
         expect("gave no answer" in told, f"it says: {told}")

@@ -104,7 +104,11 @@ def _denies(stage: Stage, name: str, script: str, called: str) -> None:
             told = session.wait(lambda s: s["bootstrapProblem"] or s["errorMessage"], 30)
             words = told["bootstrapProblem"] or told["errorMessage"]
             expect("firewall" in words and called in words, f"it says: {words}")
-            found = [line for line in machine.run(["veldmarkctl", "doctor"], user=USER).stdout.splitlines() if "denies what goes out" in line]
+            found = [
+                line
+                for line in machine.run(["veldmarkctl", "doctor"], user=USER).stdout.splitlines()
+                if "denies what goes out" in line
+            ]
             expect(found and called in found[0], f"the doctor does not name {called}")
             session.interrupt()
         after = network(machine)

@@ -61,8 +61,10 @@ def purge_while_connected(stage: Stage) -> None:
             expect_whole(machine, before)
             given_back(machine, service)
             session.interrupt()
-        left = machine.shell("find / -xdev -iname '*veldmark*' ! -path '/var/lib/apt/*' ! -path '/var/cache/*' ! -path '/home/*' ! -path '/root/*'"
-                             " ! -path '/tmp/*' ! -path '/var/log/*' ! -path '/var/lib/dpkg/*' ! -name '*-lab-*'; getent passwd _veldmark; true").strip()
+        left = machine.shell(
+            "find / -xdev -iname '*veldmark*' ! -path '/var/lib/apt/*' ! -path '/var/cache/*' ! -path '/home/*' ! -path '/root/*'"
+            " ! -path '/tmp/*' ! -path '/var/log/*' ! -path '/var/lib/dpkg/*' ! -name '*-lab-*'; getent passwd _veldmark; true"
+        ).strip()
         expect(not left, f"purging leaves {left.split()}")
 
 

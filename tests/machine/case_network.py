@@ -5,7 +5,22 @@ import time
 
 from boot import USER, Machine
 from desktops import put
-from stage import Broken, CannotRun, Stage, connected, direct, end, expect, expect_whole, is_protected, network, product, through_tor, wait, watched
+from stage import (
+    Broken,
+    CannotRun,
+    Stage,
+    connected,
+    direct,
+    end,
+    expect,
+    expect_whole,
+    is_protected,
+    network,
+    product,
+    through_tor,
+    wait,
+    watched,
+)
 from veldlab import topology as at
 
 _OTHER_ADDRESS = "192.168.77.23"
@@ -23,9 +38,11 @@ def link_down_and_up(stage: Stage) -> None:
         with connected(machine) as session:
             with watched(stage):
                 _cable(stage, "down")
-                wait(lambda: "NO-CARRIER" in machine.shell("ip link show eth0"), 5, "the machine does not see that the cable is out")
+                wait(
+                    lambda: "NO-CARRIER" in machine.shell("ip link show eth0"), 5, "the machine does not see that the cable is out"
+                )
                 expect(not through_tor(machine, 3), "Tor works without a cable")
-                time.sleep(8)   # longer than NetworkManager waits before it gives the network up
+                time.sleep(8)  # longer than NetworkManager waits before it gives the network up
                 _cable(stage, "up")
                 started = time.monotonic()
                 wait(lambda: through_tor(machine), 60, "no traffic through Tor after the cable is back")
@@ -95,7 +112,10 @@ def _resolved(stage: Stage, name: str, config: str) -> None:
         machine.reboot()
         wait(lambda: machine.run(["getent", "hosts", "www.example.test"]).returncode == 0, 20, "systemd-resolved answers nothing")
         asked = machine.shell("resolvectl dns")
-        expect(at.DNS_ADDRESS in asked.splitlines()[0] if config else at.DNS_ADDRESS in asked, f"the set-up is not what it is to be: {asked}")
+        expect(
+            at.DNS_ADDRESS in asked.splitlines()[0] if config else at.DNS_ADDRESS in asked,
+            f"the set-up is not what it is to be: {asked}",
+        )
         before = network(machine) | {"resolvectl": asked}
         with connected(machine) as session:
             fix_dns(machine, session)
@@ -151,10 +171,12 @@ def _vpn(stage: Stage, machine: Machine):
 
     def keys() -> tuple[str, str]:
         private = machine.shell("wg genkey").strip()
-        return private, machine.shell("printf %s \"$1\" | wg pubkey", private).strip()
+        return private, machine.shell('printf %s "$1" | wg pubkey', private).strip()
 
     own, other = keys(), keys()
-    machine.shell("nmcli connection modify Home ipv6.dns '' ipv6.gateway '' ipv6.addresses '' ipv6.method disabled && nmcli connection up Home")
+    machine.shell(
+        "nmcli connection modify Home ipv6.dns '' ipv6.gateway '' ipv6.addresses '' ipv6.method disabled && nmcli connection up Home"
+    )
     made = stage.lab.router.run(["/bin/bash", "-c", _VPN_END, "vpn", tree, other[0], own[1]])
     if made.returncode:
         raise CannotRun(f"no tunnel device here: {(made.stderr.splitlines() or ['?'])[-1]}")
@@ -167,8 +189,10 @@ def _vpn(stage: Stage, machine: Machine):
 
 def _switch(machine: Machine, state: str) -> None:
     # The program stays, with what it was given for its output.
-    done = machine.run(["/bin/bash", "-c", "wg-quick \"$1\" wg0 </dev/null >/run/wg-quick.log 2>&1", "vpn", state],
-                       env={"WG_QUICK_USERSPACE_IMPLEMENTATION": "wireguard-go", "LOG_LEVEL": "error"})
+    done = machine.run(
+        ["/bin/bash", "-c", 'wg-quick "$1" wg0 </dev/null >/run/wg-quick.log 2>&1', "vpn", state],
+        env={"WG_QUICK_USERSPACE_IMPLEMENTATION": "wireguard-go", "LOG_LEVEL": "error"},
+    )
     expect(done.returncode == 0, f"wg-quick {state} failed: {machine.shell('tail -n 1 /run/wg-quick.log').strip()}")
 
 
@@ -187,7 +211,9 @@ def vpn_before(stage: Stage) -> None:
         with watched(stage), ctl.session() as session:
             started = time.monotonic()
             told = session.wait(lambda s: s["bootstrapProblem"] or s["phase"] == "connected", 60)
-            expect((told["bootstrapProblem"] or "").startswith(_IN_THE_WAY), f"it says {told['bootstrapProblem']!r}, {told['title']}")
+            expect(
+                (told["bootstrapProblem"] or "").startswith(_IN_THE_WAY), f"it says {told['bootstrapProblem']!r}, {told['title']}"
+            )
             stage.note = f"proxy mode goes through it; strict mode names it after {time.monotonic() - started:.0f} s"
             expect(not direct(machine), "the direct way is open")
             expect(session.interrupt() == 0, "it did not end well")

@@ -23,7 +23,9 @@ def commands(section: str) -> list[str]:
 def at_a_terminal(machine, line: str, env: dict[str, str] | None = None, timeout: float = 60):
     """What a terminal shows of a line that alice types; she answers sudo's and apt's questions."""
     install(machine)
-    return machine.run(["/usr/bin/python3", f"{TOOLS}/terminal.py", _PASSWORD, line], user=USER, env=env or {}, cwd="/home/alice", timeout=timeout)
+    return machine.run(
+        ["/usr/bin/python3", f"{TOOLS}/terminal.py", _PASSWORD, line], user=USER, env=env or {}, cwd="/home/alice", timeout=timeout
+    )
 
 
 def typed(desktop: Desktop, line: str, timeout: float = 60):
@@ -46,10 +48,13 @@ def readme(stage: Stage) -> None:
             expect_whole(machine, before)
             left_over(desktop)
             for line in by_hand:
-                typed(desktop, line)   # "may say that there is nothing to do"
+                typed(desktop, line)  # "may say that there is nothing to do"
             expect(machine.run(["test", "-e", MARKER]).returncode != 0, "the marker is still there")
             expect(direct(machine), "the commands do not open the network")
-            expect(machine.run(["timeout", "5", "getent", "hosts", "www.example.test"], user=USER).returncode == 0, "names are not looked up")
+            expect(
+                machine.run(["timeout", "5", "getent", "hosts", "www.example.test"], user=USER).returncode == 0,
+                "names are not looked up",
+            )
             stage.note = f"{1 + len(others) + 1 + len(by_hand)} commands"
 
 
@@ -64,7 +69,9 @@ def run_in_the_foreground(desktop: Desktop, line: str) -> None:
 def first_pages_command(desktop: Desktop, line: str) -> None:
     words = line.split()
     if words == ["veldmarkctl", "restore"]:
-        with desktop.machine.popen(["/bin/bash", "-c", line], user=USER, env=desktop.env, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True) as asked:
+        with desktop.machine.popen(
+            ["/bin/bash", "-c", line], user=USER, env=desktop.env, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True
+        ) as asked:
             desktop.wait_prompt()
             desktop.enter(_PASSWORD)
             expect(asked.wait(60) == 0, f"{line}: {asked.stderr.read().strip()}")
@@ -73,7 +80,7 @@ def first_pages_command(desktop: Desktop, line: str) -> None:
         line = f"timeout 3 {line}"
     done = typed(desktop, line)
     said = (done.stdout + done.stderr).strip()
-    if words[:2] == ["veldmarkctl", "launch"]:   # there is no such application here: it says so
+    if words[:2] == ["veldmarkctl", "launch"]:  # there is no such application here: it says so
         expect(done.returncode != 0 and words[2] in said, f"{line}: {said}")
     elif "--follow" in words:
         expect(done.returncode == 124 and said, f"{line}: {said}")
@@ -87,8 +94,15 @@ def left_over(desktop: Desktop) -> None:
     """A session whose program was killed."""
     machine = desktop.machine
     [line] = [line for line in re.findall(r"`(sudo veldmarkctl [^`]*)`", (PROJECT / "README.md").read_text()) if "run" in line][:1]
-    with machine.popen(["/usr/bin/python3", f"{TOOLS}/terminal.py", _PASSWORD, line], user=USER, env=desktop.env, cwd="/home/alice",
-                       stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL) as session:
+    with machine.popen(
+        ["/usr/bin/python3", f"{TOOLS}/terminal.py", _PASSWORD, line],
+        user=USER,
+        env=desktop.env,
+        cwd="/home/alice",
+        stdin=subprocess.DEVNULL,
+        stdout=subprocess.DEVNULL,
+        stderr=subprocess.DEVNULL,
+    ) as session:
         wait(lambda: is_protected(state(machine)), 90, f"{line} does not connect")
         machine.run(["pkill", "-KILL", "-x", "veldmarkctl"], check=True)
         session.wait()

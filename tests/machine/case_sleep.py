@@ -37,8 +37,16 @@ def _shifted_clock(machine, folder: Path) -> None:
 
 
 def _shift(machine, seconds: int) -> None:
-    machine.run(["/usr/bin/python3", "-c", "import struct,sys; open(sys.argv[1], 'r+b').write(struct.pack('=q', int(sys.argv[2])))",
-                 _SHIFT, str(seconds)], check=True)
+    machine.run(
+        [
+            "/usr/bin/python3",
+            "-c",
+            "import struct,sys; open(sys.argv[1], 'r+b').write(struct.pack('=q', int(sys.argv[2])))",
+            _SHIFT,
+            str(seconds),
+        ],
+        check=True,
+    )
     told = int(machine.shell("date +%s")) - time.time()
     expect(abs(told - seconds) < 5, f"the machine's clock is {told:.0f} s ahead instead of {seconds}")
 
@@ -91,12 +99,15 @@ def suspend_and_resume(stage: Stage) -> None:
                 expect(works or told["stall"], f"ten seconds after the resume nothing flows, and it says {told['title']}")
                 stage.note = f"through Tor {seconds:.0f} s after the resume" if works else f"after 10 s it says {told['title']}"
                 # The network itself may be slower than that.
-                wait(machine.is_online, 60, f"{stage.note}; NetworkManager does not bring the network back within a minute of the sleep")
+                wait(
+                    machine.is_online,
+                    60,
+                    f"{stage.note}; NetworkManager does not bring the network back within a minute of the sleep",
+                )
                 wait(lambda: through_tor(machine, 5), 30, "no traffic through Tor although the network is back")
                 stage.note += "" if works else f"; through Tor {time.monotonic() - resumed:.0f} s after it"
                 expect(not direct(machine), "the direct way is open")
             end(session, machine, before)
 
 
-CASES = {"suspend and resume, the cable out meanwhile": suspend_and_resume,
-         "the clock jumps": clock_jump}
+CASES = {"suspend and resume, the cable out meanwhile": suspend_and_resume, "the clock jumps": clock_jump}

@@ -6,8 +6,10 @@ _WHO = "systemctl is-active tor@default; systemctl is-enabled tor"
 
 
 def service_listens(machine) -> bool:
-    return "debian-tor" in machine.shell("pid=$(ss -Hltnp 'sport = 9050' | grep -o 'pid=[0-9]*' | head -n 1 | cut -d= -f2); "
-                                         "[ -z \"$pid\" ] || ps -o user= -p \"$pid\"")
+    return "debian-tor" in machine.shell(
+        "pid=$(ss -Hltnp 'sport = 9050' | grep -o 'pid=[0-9]*' | head -n 1 | cut -d= -f2); "
+        '[ -z "$pid" ] || ps -o user= -p "$pid"'
+    )
 
 
 def service_state(machine) -> str:

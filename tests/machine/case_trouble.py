@@ -21,7 +21,9 @@ def _trouble(machine: Machine) -> str:
         broken.append("no name")
     if not broken:
         return ""
-    looks = machine.shell("ip -br address; ip route; ls -l /etc/resolv.conf; grep -v '^#' /etc/resolv.conf; nft list tables; ls /var/lib/veldmark/state /run/veldmark 2>&1 || true")
+    looks = machine.shell(
+        "ip -br address; ip route; ls -l /etc/resolv.conf; grep -v '^#' /etc/resolv.conf; nft list tables; ls /var/lib/veldmark/state /run/veldmark 2>&1 || true"
+    )
     return ", ".join(broken) + ": " + "; ".join(looks.splitlines())
 
 
@@ -67,7 +69,9 @@ def power_cuts(stage: Stage) -> None:
             with session:
                 if number % 2:
                     session.wait(lambda s: s["phase"] == "connected", 90)
-                    disconnect = machine.popen(["/usr/bin/veldmarkctl", "disconnect"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+                    disconnect = machine.popen(
+                        ["/usr/bin/veldmarkctl", "disconnect"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL
+                    )
                     moment = chance.uniform(0, 1.5)
                 else:
                     disconnect, moment = None, chance.uniform(0, 6)

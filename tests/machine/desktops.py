@@ -34,8 +34,13 @@ TimeoutStopSec=20
 """
 _PAM = "auth required pam_permit.so\naccount required pam_unix.so\nsession required pam_unix.so\nsession required pam_systemd.so\n"
 _X11 = {"DISPLAY": ":7", "XDG_SESSION_TYPE": "x11", "QT_QPA_PLATFORM": "xcb"}
-_WAYLAND = {"XDG_SESSION_TYPE": "wayland", "WLR_BACKENDS": "headless", "WLR_LIBINPUT_NO_DEVICES": "1", "WLR_RENDERER": "pixman",
-            "WAYLAND_DISPLAY": "wayland-1"}
+_WAYLAND = {
+    "XDG_SESSION_TYPE": "wayland",
+    "WLR_BACKENDS": "headless",
+    "WLR_LIBINPUT_NO_DEVICES": "1",
+    "WLR_RENDERER": "pixman",
+    "WAYLAND_DISPLAY": "wayland-1",
+}
 _KINDS = {
     "xfce": _X11 | {"XDG_CURRENT_DESKTOP": "XFCE", "XDG_SESSION_DESKTOP": "xfce", "XFCE_PANEL_MIGRATE_DEFAULT": "1"},
     "lxqt": _X11 | {"XDG_CURRENT_DESKTOP": "LXQt", "XDG_SESSION_DESKTOP": "LXQt"},
@@ -43,7 +48,8 @@ _KINDS = {
 }
 _FILES = {
     "lxqt": {".config/lxqt/session.conf": "[General]\nwindow_manager=openbox\n"},
-    "sway": {".config/sway/config": """output HEADLESS-1 resolution 1280x800 background #2c4a5e solid_color
+    "sway": {
+        ".config/sway/config": """output HEADLESS-1 resolution 1280x800 background #2c4a5e solid_color
 default_border normal
 for_window [app_id=".*"] floating enable
 bindsym Mod4+d exec true
@@ -52,21 +58,30 @@ bar {
     swaybar_command waybar
 }
 """,
-             ".config/waybar/config": """{"modules-left": ["sway/workspaces"], "modules-right": ["network", "tray", "clock"],
-"tray": {"icon-size": 18, "spacing": 10}}"""},
+        ".config/waybar/config": """{"modules-left": ["sway/workspaces"], "modules-right": ["network", "tray", "clock"],
+"tray": {"icon-size": 18, "spacing": 10}}""",
+    },
 }
-_BAR = {"xfce": (0, 26), "sway": (0, 30), "lxqt": (769, 800)}   # rows of the panel with the tray
+_BAR = {"xfce": (0, 26), "sway": (0, 30), "lxqt": (769, 800)}  # rows of the panel with the tray
 _AGENT = {"sway": "polkit-mate-aut"}
 _PROMPT = {"xfce": "Authenticat", "sway": "Authenticat", "lxqt": "Authentication Required"}
-_READY = {"xfce": ("xfce4-panel", "xfdesktop", "polkit-gnome-au"), "lxqt": ("lxqt-panel", "lxqt-policykit-"), "sway": ("waybar", "polkit-mate-aut")}
+_READY = {
+    "xfce": ("xfce4-panel", "xfdesktop", "polkit-gnome-au"),
+    "lxqt": ("lxqt-panel", "lxqt-policykit-"),
+    "sway": ("waybar", "polkit-mate-aut"),
+}
 
 
 class Desktop(contextlib.AbstractContextManager):
     def __init__(self, machine: Machine, kind: str, language: str = "en_GB"):
         self.machine, self.kind = machine, kind
         self.env = _KINDS[kind] | {
-            "LANG": f"{language}.UTF-8", "XDG_SEAT": "seat0", "XDG_SESSION_CLASS": "user", "DBUS_SESSION_BUS_ADDRESS": "unix:path=/run/user/1000/bus",
-            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "XDG_RUNTIME_DIR": "/run/user/1000",
+            "LANG": f"{language}.UTF-8",
+            "XDG_SEAT": "seat0",
+            "XDG_SESSION_CLASS": "user",
+            "DBUS_SESSION_BUS_ADDRESS": "unix:path=/run/user/1000/bus",
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+            "XDG_RUNTIME_DIR": "/run/user/1000",
         }
 
     def __enter__(self) -> "Desktop":
@@ -77,8 +92,11 @@ class Desktop(contextlib.AbstractContextManager):
         for name, text in _FILES.get(self.kind, {}).items():
             put(machine, f"/home/{USER}/{name}", text)
         machine.run(["chown", "-R", f"{USER}:", f"/home/{USER}"], check=True)
-        put(machine, "/run/systemd/system/desktop.service",
-            _UNIT.format(user=USER, environment=environment, tools=TOOLS, kind=self.kind))
+        put(
+            machine,
+            "/run/systemd/system/desktop.service",
+            _UNIT.format(user=USER, environment=environment, tools=TOOLS, kind=self.kind),
+        )
         machine.run(["systemctl", "daemon-reload"], check=True)
         machine.run(["systemctl", "start", "desktop"], check=True)
         try:
@@ -134,7 +152,7 @@ class Desktop(contextlib.AbstractContextManager):
             self.wait(lambda: self._differs("menu", "found", 600, 700), 20, "the menu finds nothing")
             picture("lxqt-menu")
             self.run(["xdotool", "key", "Return"], check=True)
-        elif self.kind == "sway":    # it has no menu: what a launcher does
+        elif self.kind == "sway":  # it has no menu: what a launcher does
             self.run(["swaymsg", "exec", "veldmark"], check=True)
         self.wait(lambda: self.pids("veldmark"), 20, "the menu's entry starts nothing")
 
@@ -187,7 +205,7 @@ class Desktop(contextlib.AbstractContextManager):
     def wait_prompt(self) -> None:
         """The polkit agent's dialogue stands and takes what is typed."""
         self.wait(self.prompts, 30, "nobody asks for the password")
-        time.sleep(1)   # no sign tells when the dialogue has the keyboard
+        time.sleep(1)  # no sign tells when the dialogue has the keyboard
 
     def look(self, name: str) -> None:
         """Keeps a picture of the screen, without the pointer."""
@@ -195,8 +213,10 @@ class Desktop(contextlib.AbstractContextManager):
         self.run([*shot, f"/tmp/bar-{name}.png"], check=True)
 
     def _changes(self, one: str, other: str, top: int, bottom: int) -> list[list[int]]:
-        seen = self.run(["/usr/bin/python3", f"{TOOLS}/changed.py", f"/tmp/bar-{one}.png", f"/tmp/bar-{other}.png", str(top), str(bottom)],
-                        check=True)
+        seen = self.run(
+            ["/usr/bin/python3", f"{TOOLS}/changed.py", f"/tmp/bar-{one}.png", f"/tmp/bar-{other}.png", str(top), str(bottom)],
+            check=True,
+        )
         return json.loads(seen.stdout)
 
     def _differs(self, before: str, now: str, top: int, bottom: int) -> bool:
@@ -207,8 +227,11 @@ class Desktop(contextlib.AbstractContextManager):
     def tray_icon(self, one: str, other: str) -> tuple[int, int]:
         """The middle of the one thing in the panel that is as large as an icon and not the same in two pictures of the bar."""
         changes = self._changes(one, other, *_BAR[self.kind])
-        icons = [(left, above, right, below) for left, above, right, below in changes
-                 if 10 <= right - left <= 30 and 10 <= below - above <= 30 and left > 400]
+        icons = [
+            (left, above, right, below)
+            for left, above, right, below in changes
+            if 10 <= right - left <= 30 and 10 <= below - above <= 30 and left > 400
+        ]
         if len(icons) != 1:
             raise RuntimeError(f"the panel shows no icon that changes but {changes}")
         left, above, right, below = icons[0]
@@ -216,17 +239,33 @@ class Desktop(contextlib.AbstractContextManager):
 
     def contrast(self, picture: str, x: int, y: int, size: int = 24) -> int:
         """By how much what stands there differs from the ground around it, in a picture of look()'s; 0 to 255."""
-        return int(self.run(["/usr/bin/python3", f"{TOOLS}/contrast.py", f"/tmp/bar-{picture}.png", str(x), str(y), str(size)], check=True).stdout)
+        return int(
+            self.run(
+                ["/usr/bin/python3", f"{TOOLS}/contrast.py", f"/tmp/bar-{picture}.png", str(x), str(y), str(size)], check=True
+            ).stdout
+        )
 
     def taskbar_states(self, title: str) -> list[bool]:
         """On X11, for each window on show with this title: whether it asks to be left out of the taskbar."""
         ids = self.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"]).stdout.split()
-        return ["_NET_WM_STATE_SKIP_TASKBAR" in self.run(["xprop", "-id", window, "_NET_WM_STATE"], check=True).stdout for window in ids]
+        return [
+            "_NET_WM_STATE_SKIP_TASKBAR" in self.run(["xprop", "-id", window, "_NET_WM_STATE"], check=True).stdout for window in ids
+        ]
 
     def tray_items(self) -> list[str]:
         """Who has an icon in the tray, as its keeper on the bus tells."""
-        told = self.run(["busctl", "--user", "--json=short", "get-property", "org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher",
-                         "org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems"])
+        told = self.run(
+            [
+                "busctl",
+                "--user",
+                "--json=short",
+                "get-property",
+                "org.kde.StatusNotifierWatcher",
+                "/StatusNotifierWatcher",
+                "org.kde.StatusNotifierWatcher",
+                "RegisteredStatusNotifierItems",
+            ]
+        )
         return json.loads(told.stdout)["data"] if told.returncode == 0 else []
 
     # Doing ------------------------------------------------------------------------------------------------------------
@@ -238,11 +277,14 @@ class Desktop(contextlib.AbstractContextManager):
             self.run(["xdotool", "mousemove", str(x), str(y), "sleep", "0.2", "click", str(button)], check=True)
 
     def click(self, program: str, role: str, name: str, timeout: float = 40) -> None:
-        self.wait(lambda: "enabled" in (self.find(program, role, name) or {"states": []})["states"], timeout,
-                  f"no {role} {name!r} to press")
+        self.wait(
+            lambda: "enabled" in (self.find(program, role, name) or {"states": []})["states"],
+            timeout,
+            f"no {role} {name!r} to press",
+        )
         before = None
         while (node := self.wait_for(program, role, name)) and (before is None or (node["x"], node["y"]) != before):
-            before = node["x"], node["y"]   # until it has come to rest
+            before = node["x"], node["y"]  # until it has come to rest
         left, top = self._origin(program)
         self.click_at(left + node["x"] + node["width"] // 2, top + node["y"] + node["height"] // 2)
 
@@ -268,8 +310,12 @@ class Desktop(contextlib.AbstractContextManager):
 
 def put(machine: Machine, path: str, text: str | bytes, mode: int = 0o644) -> None:
     """A file of the running machine, also below what it has mounted."""
-    machine.run(["/bin/sh", "-c", 'mkdir -p "${1%/*}"; cat >"$1"; chmod "$2" "$1"', "sh", path, f"{mode:o}"],
-                input=text, text=isinstance(text, str), check=True)
+    machine.run(
+        ["/bin/sh", "-c", 'mkdir -p "${1%/*}"; cat >"$1"; chmod "$2" "$1"', "sh", path, f"{mode:o}"],
+        input=text,
+        text=isinstance(text, str),
+        check=True,
+    )
 
 
 def install(machine: Machine) -> None:

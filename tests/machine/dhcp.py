@@ -20,13 +20,31 @@ class Leases(contextlib.AbstractContextManager):
         self.__exit__()
         libraries = f"{self.base}/lib/x86_64-linux-gnu:{self.base}/usr/lib/x86_64-linux-gnu"
         self._process = self.lab.router.popen(
-            [f"{self.base}/lib64/ld-linux-x86-64.so.2", "--library-path", libraries, f"{self.base}/usr/sbin/dnsmasq",
-             "--keep-in-foreground", "--conf-file=/dev/null", "--user=root", "--pid-file=", "--port=0", "--interface=br0",
-             "--bind-interfaces", "--dhcp-authoritative", "--log-dhcp", "--log-facility=-",
-             f"--dhcp-leasefile={ROOM}/leases-{address}", f"--dhcp-range={address},{address},255.255.255.0,{seconds}",
-             f"--dhcp-host={HARDWARE},{address},{seconds}", f"--dhcp-option=option:router,{at.ROUTER_LAN_ADDRESS}",
-             f"--dhcp-option=option:dns-server,{resolver}"],
-            stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.STDOUT)
+            [
+                f"{self.base}/lib64/ld-linux-x86-64.so.2",
+                "--library-path",
+                libraries,
+                f"{self.base}/usr/sbin/dnsmasq",
+                "--keep-in-foreground",
+                "--conf-file=/dev/null",
+                "--user=root",
+                "--pid-file=",
+                "--port=0",
+                "--interface=br0",
+                "--bind-interfaces",
+                "--dhcp-authoritative",
+                "--log-dhcp",
+                "--log-facility=-",
+                f"--dhcp-leasefile={ROOM}/leases-{address}",
+                f"--dhcp-range={address},{address},255.255.255.0,{seconds}",
+                f"--dhcp-host={HARDWARE},{address},{seconds}",
+                f"--dhcp-option=option:router,{at.ROUTER_LAN_ADDRESS}",
+                f"--dhcp-option=option:dns-server,{resolver}",
+            ],
+            stdin=subprocess.DEVNULL,
+            stdout=subprocess.DEVNULL,
+            stderr=subprocess.STDOUT,
+        )
 
     def __exit__(self, *_) -> None:
         process, self._process = self._process, None

@@ -29,8 +29,16 @@ import case_trouble  # noqa: E402
 from stage import Broken, CannotRun, Stage  # noqa: E402
 
 SKIPPED = 77
-CASES = (case_desktop.CASES | case_tor.CASES | case_network.CASES | case_firewall.CASES | case_trouble.CASES | case_sleep.CASES
-         | case_install.CASES | case_readme.CASES)
+CASES = (
+    case_desktop.CASES
+    | case_tor.CASES
+    | case_network.CASES
+    | case_firewall.CASES
+    | case_trouble.CASES
+    | case_sleep.CASES
+    | case_install.CASES
+    | case_readme.CASES
+)
 
 
 def attempt(stage: Stage, name: str, case) -> tuple[str, str, float]:
@@ -80,8 +88,10 @@ def main() -> int:
     text = table(rows)
     (base.FOLDER / "table.md").write_text(text)
     failed = sum(result.startswith("FAILED") for _, result, _ in rows)
-    print(f"\n{text}\n{len(rows)} cases, {failed} failed, in {(time.monotonic() - started) / 60:.1f} minutes; "
-          f"pictures in {base.FOLDER}/pictures")
+    print(
+        f"\n{text}\n{len(rows)} cases, {failed} failed, in {(time.monotonic() - started) / 60:.1f} minutes; "
+        f"pictures in {base.FOLDER}/pictures"
+    )
     return 1 if failed else 0
 
 

@@ -42,9 +42,9 @@ class Stage:
     def __init__(self, lab, base: Path, package: Path):
         self.lab, self.base, self.package = lab, base, package
         self.leases = Leases(lab, base)
-        self.installed: list[str] = []      # layers with the package and Debian's tor, as apt has left them
+        self.installed: list[str] = []  # layers with the package and Debian's tor, as apt has left them
         self.folder = FOLDER
-        self.note = ""                      # a word for the table, of the case that runs
+        self.note = ""  # a word for the table, of the case that runs
 
     @contextlib.contextmanager
     def machine(self, name: str, tor_service: bool = False, prepare=None):
@@ -75,12 +75,15 @@ def direct(machine: Machine, address: str = at.WEB_ADDRESS) -> bool:
 
 def network(machine: Machine) -> dict[str, str]:
     """What a session changes and must give back."""
-    return {what: machine.shell(command) for what, command in {
-        "rules": "nft -s list ruleset",
-        "resolver": "readlink -f /etc/resolv.conf; grep -v '^#' /etc/resolv.conf",
-        "mounts": "cut -d' ' -f5 /proc/self/mountinfo | grep resolv || true",
-        "routes": "ip rule; ip -6 rule",
-    }.items()}
+    return {
+        what: machine.shell(command)
+        for what, command in {
+            "rules": "nft -s list ruleset",
+            "resolver": "readlink -f /etc/resolv.conf; grep -v '^#' /etc/resolv.conf",
+            "mounts": "cut -d' ' -f5 /proc/self/mountinfo | grep resolv || true",
+            "routes": "ip rule; ip -6 rule",
+        }.items()
+    }
 
 
 def expect_whole(machine: Machine, before: dict[str, str]) -> None:
@@ -101,8 +104,11 @@ def is_protected(s: dict) -> bool:
 
 def through_tor(machine: Machine, seconds: float = 15) -> bool:
     """Whether the exit check answers a program of alice's that asks through Tor, and sees an exit."""
-    asked = machine.run(["curl", "--silent", "--max-time", str(seconds), "--socks5-hostname", "127.0.0.1:9050", at.CHECK_URL],
-                        user=USER, timeout=seconds + 20)
+    asked = machine.run(
+        ["curl", "--silent", "--max-time", str(seconds), "--socks5-hostname", "127.0.0.1:9050", at.CHECK_URL],
+        user=USER,
+        timeout=seconds + 20,
+    )
     return asked.returncode == 0 and '"IsTor":true' in asked.stdout.replace(" ", "")
 
 

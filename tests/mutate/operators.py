@@ -10,28 +10,30 @@ from dataclasses import dataclass
 
 @dataclass(frozen=True)
 class Mutant:
-    line: int      # from 1
-    before: str    # the whole line, without its end
-    after: str     # what stands there instead; None in place of a line that goes
+    line: int  # from 1
+    before: str  # the whole line, without its end
+    after: str  # what stands there instead; None in place of a line that goes
     kind: str
 
     def apply(self, text: str) -> str:
         lines = text.split("\n")
         assert lines[self.line - 1] == self.before
-        lines[self.line - 1:self.line] = [] if self.after is None else [self.after]
+        lines[self.line - 1 : self.line] = [] if self.after is None else [self.after]
         return "\n".join(lines)
 
 
-TOKEN = re.compile(r'''R"\((?:.|\n)*?\)"|"(?:\\.|[^"\\\n])*"|(?<![0-9A-Za-z])u?'(?:\\.|[^'\\\n])*'|//[^\n]*|/\*(?:.|\n)*?\*/''')
+TOKEN = re.compile(r"""R"\((?:.|\n)*?\)"|"(?:\\.|[^"\\\n])*"|(?<![0-9A-Za-z])u?'(?:\\.|[^'\\\n])*'|//[^\n]*|/\*(?:.|\n)*?\*/""")
 
 
 def masked(text: str) -> str:
     """The text with blanks in place of literals and comments (quotes stay), so that every column keeps its number."""
+
     def blank(match):
         found = match.group()
         if found.startswith(("//", "/*")):
             return re.sub(r"[^\n]", " ", found)
         return found[0] + re.sub(r"[^\n]", " ", found[1:-1]) + found[-1]
+
     return TOKEN.sub(blank, text)
 
 
@@ -49,9 +51,30 @@ def balanced(text: str) -> bool:
     return all(text.count(a) == text.count(b) for a, b in ("()", "[]", "{}"))
 
 
-COMPARISONS = {"<": "<=", "<=": "<", ">": ">=", ">=": ">", "==": "!=", "!=": "==", "===": "!==", "!==": "===", "&&": "||", "||": "&&"}
-WORDS = {"true": "false", "false": "true", "min": "max", "max": "min", "startsWith": "endsWith", "endsWith": "startsWith",
-         "any_of": "all_of", "all_of": "any_of", "ms": "s", "s": "ms"}
+COMPARISONS = {
+    "<": "<=",
+    "<=": "<",
+    ">": ">=",
+    ">=": ">",
+    "==": "!=",
+    "!=": "==",
+    "===": "!==",
+    "!==": "===",
+    "&&": "||",
+    "||": "&&",
+}
+WORDS = {
+    "true": "false",
+    "false": "true",
+    "min": "max",
+    "max": "min",
+    "startsWith": "endsWith",
+    "endsWith": "startsWith",
+    "any_of": "all_of",
+    "all_of": "any_of",
+    "ms": "s",
+    "s": "ms",
+}
 
 
 def replaced(line: str, start: int, end: int, new: str) -> str:
@@ -76,7 +99,7 @@ def in_expressions(line: str, mask: str):
         start, end = match.end() - 1, closing(mask, match.end() - 1)
         if end > 0:
             start = mask.rfind("; ", start, end) + 1 or start
-            condition = line[start + 1:end].strip()
+            condition = line[start + 1 : end].strip()
             yield "condition negated", replaced(line, start + 1, end, (" " if mask[start] == ";" else "") + f"!({condition})")
 
 
@@ -106,10 +129,10 @@ def cpp_mutants(text: str):
                 other = names[(names.index(name) + 1) % len(names)]
                 yield Mutant(index + 1, line, replaced(line, *match.span(2), other), "constant swapped")
         former = next((m.strip() for m in reversed(masks[:index]) if m.strip()), "")
-        following = next((m for m in masks[index + 1:] if m.strip()), "")
+        following = next((m for m in masks[index + 1 :] if m.strip()), "")
         # A line that is a whole statement; the last "return" of a function is none that could be forgotten.
         if re.search(r"([;{}):]|\belse)$", former) and balanced(mask):
-            indent = line[:len(line) - len(line.lstrip())]
+            indent = line[: len(line) - len(line.lstrip())]
             if LEAVE.match(statement) and not following.startswith("}"):
                 yield Mutant(index + 1, line, indent + "{}", "early return dropped")
             elif CALL.match(statement):
@@ -137,14 +160,31 @@ def qml_mutants(text: str):
                 yield Mutant(index + 1, line, f"{match[1]}!({match[2]})", "binding negated")
 
 
-SHELL_TESTS = {"==": "!=", "!=": "==", "-z": "-n", "-n": "-z", "-eq": "-ne", "-ne": "-eq", "-lt": "-le", "-le": "-lt", "-gt": "-ge",
-               "-ge": "-gt", "<": "<=", "<=": "<", ">": ">=", ">=": ">", "=~": "=="}
+SHELL_TESTS = {
+    "==": "!=",
+    "!=": "==",
+    "-z": "-n",
+    "-n": "-z",
+    "-eq": "-ne",
+    "-ne": "-eq",
+    "-lt": "-le",
+    "-le": "-lt",
+    "-gt": "-ge",
+    "-ge": "-gt",
+    "<": "<=",
+    "<=": "<",
+    ">": ">=",
+    ">=": ">",
+    "=~": "==",
+}
 # A line that cannot be left out by itself, or means nothing alone.
-FRAME = re.compile(r"(if|then|elif|else|fi|for|while|until|do|done|case|esac|local|readonly|trap)\b|[{})(]|\S*\)( |$)|;;|[\w ]+\(\) \{")
+FRAME = re.compile(
+    r"(if|then|elif|else|fi|for|while|until|do|done|case|esac|local|readonly|trap)\b|[{})(]|\S*\)( |$)|;;|[\w ]+\(\) \{"
+)
 
 
 def shell_mutants(text: str):
-    ends = None   # the word that ends the text that we are in
+    ends = None  # the word that ends the text that we are in
     former = ""
     for index, line in enumerate(text.split("\n")):
         statement = line.strip()
@@ -188,13 +228,13 @@ def shell_mutants(text: str):
             yield made(replaced(line, *match.span(2), number), "number changed")
         whole = not re.search(r"(\\|\||&&|\{|\(|then|do)$", statement) and not re.search(r"(\\|\||&&)$", former)
         if line.startswith(" ") and whole and not FRAME.match(statement) and "<<" not in code:
-            yield made(line[:len(line) - len(line.lstrip())] + ":", "line dropped")
+            yield made(line[: len(line) - len(line.lstrip())] + ":", "line dropped")
         heredoc = re.search(r"<<-?['\"]?([A-Z]\w*)", code)
         ends, former = heredoc[1] if heredoc else None, statement
 
 
 def mutants(path: str, text: str) -> list[Mutant]:
-    made = {".cpp": cpp_mutants, ".qml": qml_mutants, ".sh": shell_mutants}[path[path.rindex("."):]](text)
+    made = {".cpp": cpp_mutants, ".qml": qml_mutants, ".sh": shell_mutants}[path[path.rindex(".") :]](text)
     found = {}
     for mutant in made:
         if mutant.after is None or mutant.after.strip() != mutant.before.strip():

@@ -33,27 +33,58 @@ import time
 from pathlib import Path
 
 sys.dont_write_bytecode = True
-import operators   # pylint: disable=wrong-import-position
+import operators  # pylint: disable=wrong-import-position
 
 HERE = Path(__file__).resolve().parent
 PROJECT = HERE.parents[1]
 ROOT = PROJECT / "build" / "mutate"
-LOGIC = ("base", "platform", "system", "control", "bridges", "circuits", "checks", "log", "terminal", "doctor", "controller", "instance")
+LOGIC = (
+    "base",
+    "platform",
+    "system",
+    "control",
+    "bridges",
+    "circuits",
+    "checks",
+    "log",
+    "terminal",
+    "doctor",
+    "controller",
+    "instance",
+)
 # The helper's tests that touch a part; those of a part that is not here touch all.
-TOUCHED = {"core": "parts options privileged programs owner", "main": "parts options privileged owner programs",
-           "session": "parts session watcher", "addresses": "texts firewall parts", "files": "parts session texts watcher programs", "linux-exempt": "launch firewall session",
-           "linux-loopback": "hostile", "linux-bridges": "texts firewall hostile", "linux-firewall": "rules texts firewall session watcher", "linux-owner": "owner", "linux-proxy": "proxy", "linux-resolved": "resolved",
-           "linux-resolver": "session resolved texts", "linux-service": "service", "linux-session": "session watcher owner launch resolved",
-           "linux-state": "options session programs owner privileged", "linux-tor": "session programs texts launch owner",
-           "linux-watcher": "watcher session", "note": "parts session owner watcher", "options": "parts options texts programs",
-           "privileged": "privileged programs", "programs": "programs launch privileged", "torrc": "texts session options"}
+TOUCHED = {
+    "core": "parts options privileged programs owner",
+    "main": "parts options privileged owner programs",
+    "session": "parts session watcher",
+    "addresses": "texts firewall parts",
+    "files": "parts session texts watcher programs",
+    "linux-exempt": "launch firewall session",
+    "linux-loopback": "hostile",
+    "linux-bridges": "texts firewall hostile",
+    "linux-firewall": "rules texts firewall session watcher",
+    "linux-owner": "owner",
+    "linux-proxy": "proxy",
+    "linux-resolved": "resolved",
+    "linux-resolver": "session resolved texts",
+    "linux-service": "service",
+    "linux-session": "session watcher owner launch resolved",
+    "linux-state": "options session programs owner privileged",
+    "linux-tor": "session programs texts launch owner",
+    "linux-watcher": "watcher session",
+    "note": "parts session owner watcher",
+    "options": "parts options texts programs",
+    "privileged": "privileged programs",
+    "programs": "programs launch privileged",
+    "torrc": "texts session options",
+}
 HELPERS = ("helper", "helper_mac")
 ROOMS = LOGIC + ("ui", "app", "cli", "qml") + HELPERS
 LONG = r"/(kill-|trouble|cycles|failures|kill$)"
-NO_HELPER = r"^helper/namespace$"   # tests what the tests stand on
+NO_HELPER = r"^helper/namespace$"  # tests what the tests stand on
 SKIPPED = "skipped"
 HANGS = "takes ten times as long"
-SLOWER = 10   # times the usual, and half a minute: hangs
+SLOWER = 10  # times the usual, and half a minute: hangs
 
 
 def link_lines() -> dict[str, set[str]]:
@@ -69,7 +100,9 @@ class Room:
 
     def __init__(self, name):
         self.name = name
-        self.users = sorted(room for room, linked in link_lines().items() if name in linked and (PROJECT / "tests/unit" / room).is_dir())
+        self.users = sorted(
+            room for room, linked in link_lines().items() if name in linked and (PROJECT / "tests/unit" / room).is_dir()
+        )
         if name in HELPERS:
             self.tests = [rf"^{name}/", "^helper_mac/" if name == "helper" else ""]
             self.targets = [["veldmark_helper", "veldmark-launch", "veldmark-launch-mac"]] * 2
@@ -84,8 +117,11 @@ class Room:
         if self.name == "qml":
             return sorted((top / "src/ui/qml").rglob("*.qml"))
         if self.name in HELPERS:
-            return sorted(file for file in (top / "resources/helper").glob("*.sh")
-                          if file.name != "join.sh" and file.name.startswith("darwin-") == (self.name == "helper_mac"))
+            return sorted(
+                file
+                for file in (top / "resources/helper").glob("*.sh")
+                if file.name != "join.sh" and file.name.startswith("darwin-") == (self.name == "helper_mac")
+            )
         return sorted(file for file in (top / "src" / self.name).glob("*.cpp") if not file.name.startswith("Mac"))
 
 
@@ -146,7 +182,11 @@ class Clone:
             if (PROJECT / "build" / unpacked).is_dir() and not (self.build.parent / unpacked).exists():
                 (self.build.parent / unpacked).symlink_to(PROJECT / "build" / unpacked)
         if not (self.build / "build.ninja").exists():
-            launcher = ["-DCMAKE_CXX_COMPILER_LAUNCHER=ccache"] if subprocess.run(["which", "ccache"], capture_output=True).returncode == 0 else []
+            launcher = (
+                ["-DCMAKE_CXX_COMPILER_LAUNCHER=ccache"]
+                if subprocess.run(["which", "ccache"], capture_output=True).returncode == 0
+                else []
+            )
             subprocess.run(["cmake", "--preset", "dev", *launcher], cwd=self.place, check=True, stdout=subprocess.DEVNULL)
         # CTest is asked before anything is compiled, and must know this commit's tests.
         status, said = self.compile(["build.ninja"])
@@ -155,19 +195,28 @@ class Clone:
 
     @staticmethod
     def git(place, *words):
-        return subprocess.run(["git", "-c", "safe.directory=*", *words], cwd=place, check=True, capture_output=True, text=True).stdout.strip()
+        return subprocess.run(
+            ["git", "-c", "safe.directory=*", *words], cwd=place, check=True, capture_output=True, text=True
+        ).stdout.strip()
 
     def compile(self, targets):
         """Status 0 when it compiles, and what was said."""
         environment = {"CCACHE_SLOPPINESS": "pch_defines,time_macros", **os.environ}
-        done = subprocess.run(["cmake", "--build", self.build, "-j2", "--target", *targets], env=environment,
-                              capture_output=True, text=True, errors="replace")
+        done = subprocess.run(
+            ["cmake", "--build", self.build, "-j2", "--target", *targets],
+            env=environment,
+            capture_output=True,
+            text=True,
+            errors="replace",
+        )
         return done.returncode, done.stdout + done.stderr
 
     def tests(self, pattern):
         if not pattern:
             return []
-        told = subprocess.run(["ctest", "--test-dir", self.build, "-R", pattern, "--show-only=json-v1"], capture_output=True, text=True, check=True)
+        told = subprocess.run(
+            ["ctest", "--test-dir", self.build, "-R", pattern, "--show-only=json-v1"], capture_output=True, text=True, check=True
+        )
         return [Test(test) for test in json.loads(told.stdout)["tests"]]
 
 
@@ -181,13 +230,21 @@ class Test:
         self.limit = float(properties.get("TIMEOUT", 1200))
 
     def run(self, clone, *case):
-        """"" when it passed, SKIPPED, else the case that failed, or how it did. Of one case alone when that is named."""
-        with subprocess.Popen([HERE / "walls.sh", *self.command, *case], cwd=clone.build, env={**os.environ, **self.environment},
-                              stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, errors="replace") as process:
+        """ "" when it passed, SKIPPED, else the case that failed, or how it did. Of one case alone when that is named."""
+        with subprocess.Popen(
+            [HERE / "walls.sh", *self.command, *case],
+            cwd=clone.build,
+            env={**os.environ, **self.environment},
+            stdin=subprocess.DEVNULL,
+            stdout=subprocess.PIPE,
+            stderr=subprocess.STDOUT,
+            text=True,
+            errors="replace",
+        ) as process:
             try:
                 output, _ = process.communicate(timeout=self.usual * SLOWER + 30 if self.usual else self.limit)
             except subprocess.TimeoutExpired:
-                process.kill()   # the walls fall with it, and whatever runs inside
+                process.kill()  # the walls fall with it, and whatever runs inside
                 process.communicate()
                 return HANGS
         if process.returncode == 125:
@@ -206,7 +263,11 @@ class Proved:
         self.clone, self.targets, self.groups = clone, room.targets, [None, None]
         self.ask_all = ask_all
         self.patterns, self.left_out = room.tests, NO_HELPER if ask_all else f"{NO_HELPER}|{LONG}"
-        parts = ("resources/helper", "tests/helper", "tests/helper_mac") if room.name in HELPERS else ("src", "tests/unit", "tests/support", "tests/ui")
+        parts = (
+            ("resources/helper", "tests/helper", "tests/helper_mac")
+            if room.name in HELPERS
+            else ("src", "tests/unit", "tests/support", "tests/ui")
+        )
         state = clone.git(PROJECT, "rev-parse", *(f"{clone.commit}:{part}" for part in parts))
         self.note = ROOT / f"times-{hashlib.sha256(state.encode()).hexdigest()[:12]}.json"
 
@@ -220,7 +281,8 @@ class Proved:
             if status:
                 sys.exit(said)
             self.groups[number] = [
-                test for test in self.clone.tests(self.patterns[number]) if not re.search(self.left_out, test.name)]
+                test for test in self.clone.tests(self.patterns[number]) if not re.search(self.left_out, test.name)
+            ]
         return self.groups[number]
 
     def require(self, tests):
@@ -299,11 +361,13 @@ def main():
     names = given.rooms or LOGIC
     aside = Aside((HERE / "aside.txt").read_text())
     if given.list:
-        for _, path, mutant in chosen([Room(name) for name in names], given.seed, PROJECT)[:given.count]:
+        for _, path, mutant in chosen([Room(name) for name in names], given.seed, PROJECT)[: given.count]:
             print(show(path, mutant), "\n    aside: " + aside.reason(path, mutant) if aside.reason(path, mutant) else "")
         return 0
     if any(place in map(str, PROJECT.parents) for place in ("/tmp", "/var/tmp", "/run")):
-        sys.exit("What stands behind the walls sees none of the computer's /tmp, /var/tmp and /run: run this from a checkout elsewhere.")
+        sys.exit(
+            "What stands behind the walls sees none of the computer's /tmp, /var/tmp and /run: run this from a checkout elsewhere."
+        )
     clone = Clone("helper" if set(names) <= set(HELPERS) else "code")
     note = ROOT / f"survivors-{'-'.join(given.rooms) or 'logic'}-{given.seed}.json"
     wanted = [tuple(entry) for entry in json.loads(note.read_text())] if given.again else None
@@ -324,9 +388,14 @@ def main():
         else:
             survivors.append((path, mutant))
         if by != "":
-            print(f"{noticed + len(survivors)}/{given.count} {'noticed by ' + by if by else 'SURVIVED'}: {show(path, mutant)}", flush=True)
+            print(
+                f"{noticed + len(survivors)}/{given.count} {'noticed by ' + by if by else 'SURVIVED'}: {show(path, mutant)}",
+                flush=True,
+            )
     note.write_text(json.dumps([(path, mutant.before, mutant.after) for path, mutant in survivors], indent=1))
-    print(f"\n{noticed} of {noticed + len(survivors)} noticed, {put_aside} set aside as equivalent, {refused} refused by the compiler or the shell")
+    print(
+        f"\n{noticed} of {noticed + len(survivors)} noticed, {put_aside} set aside as equivalent, {refused} refused by the compiler or the shell"
+    )
     if survivors:
         print("Survivors:")
         for path, mutant in survivors:

@@ -11,8 +11,11 @@ import run
 
 def made(path, text, *line):
     """What the mistakes make of the whole text, or of its lines from one to another (None: the line goes)."""
-    return {mutant.after if mutant.after is None else mutant.after.strip() for mutant in operators.mutants(path, text)
-            if not line or mutant.line == line[0]}
+    return {
+        mutant.after if mutant.after is None else mutant.after.strip()
+        for mutant in operators.mutants(path, text)
+        if not line or mutant.line == line[0]
+    }
 
 
 def kinds(path, text):
@@ -21,8 +24,10 @@ def kinds(path, text):
 
 class Cpp(unittest.TestCase):
     def test_a_condition_is_negated_and_its_parts_are_changed(self):
-        self.assertEqual(made("a.cpp", "    if (!a && b < 3)"), {
-            "if (!(!a && b < 3))", "if (a && b < 3)", "if (!a || b < 3)", "if (!a && b <= 3)", "if (!a && b < 4)"})
+        self.assertEqual(
+            made("a.cpp", "    if (!a && b < 3)"),
+            {"if (!(!a && b < 3))", "if (a && b < 3)", "if (!a || b < 3)", "if (!a && b <= 3)", "if (!a && b < 4)"},
+        )
 
     def test_a_condition_after_a_declaration_is_negated_without_it(self):
         self.assertIn("if (const auto n = f(x); !(n))", made("a.cpp", "    if (const auto n = f(x); n)"))
@@ -37,7 +42,9 @@ class Cpp(unittest.TestCase):
         self.assertNotIn("{}", made("a.cpp", text))
 
     def test_texts_and_comments_are_left_alone(self):
-        self.assertEqual(made("a.cpp", '    auto a = u"if (x && 1)"; // true && 2\n    /* 3 == 4\n   true */ auto c = u\'7\';'), set())
+        self.assertEqual(
+            made("a.cpp", "    auto a = u\"if (x && 1)\"; // true && 2\n    /* 3 == 4\n   true */ auto c = u'7';"), set()
+        )
         self.assertEqual(made("a.cpp", '    auto a = R"(if (1 < 2)\n true && 7)";'), set())
         self.assertEqual(made("a.cpp", "#if 1 == 2\nQ_ASSERT(1);"), set())
 
@@ -65,13 +72,20 @@ class Qml(unittest.TestCase):
 
 class Shell(unittest.TestCase):
     def test_what_guards_is_dropped(self):
-        self.assertIn("a b", made("a.sh", '  a b || return 1'))
-        self.assertIn('[[ $a == 1 ]]', made("a.sh", '  [[ $a == 1 ]] || die "No."'))
+        self.assertIn("a b", made("a.sh", "  a b || return 1"))
+        self.assertIn("[[ $a == 1 ]]", made("a.sh", '  [[ $a == 1 ]] || die "No."'))
 
     def test_tests_are_negated_and_changed(self):
-        found = made("a.sh", '  if [[ -z $a && $b == c ]]; then')
-        self.assertLessEqual({'if ! [[ -z $a && $b == c ]]; then', 'if [[ -n $a && $b == c ]]; then', 'if [[ -z $a && $b != c ]]; then',
-                              'if [[ -z $a || $b == c ]]; then'}, found)
+        found = made("a.sh", "  if [[ -z $a && $b == c ]]; then")
+        self.assertLessEqual(
+            {
+                "if ! [[ -z $a && $b == c ]]; then",
+                "if [[ -n $a && $b == c ]]; then",
+                "if [[ -z $a && $b != c ]]; then",
+                "if [[ -z $a || $b == c ]]; then",
+            },
+            found,
+        )
         self.assertIn("if ! f; then", made("a.sh", "  if f; then"))
         self.assertIn("if f; then", made("a.sh", "  if ! f; then"))
 
@@ -107,12 +121,14 @@ class Runs(unittest.TestCase):
             found = operators.mutants(str(file), text)
             for mutant in found[::20]:
                 before, after = text.split("\n"), mutant.apply(text).split("\n")
-                self.assertEqual(before[:mutant.line - 1], after[:mutant.line - 1])
-                self.assertEqual(before[mutant.line:], after[mutant.line - (mutant.after is None):])
+                self.assertEqual(before[: mutant.line - 1], after[: mutant.line - 1])
+                self.assertEqual(before[mutant.line :], after[mutant.line - (mutant.after is None) :])
                 self.assertNotEqual(text, mutant.apply(text))
 
     def test_what_is_set_aside_is_known_by_its_lines(self):
-        aside = run.Aside("# A comment.\nsrc/a.cpp\n- x = 1;\n+ x = 2;\nit is a hint only\n\nb.qml\n- spacing: 3\nnothing is beside it\n")
+        aside = run.Aside(
+            "# A comment.\nsrc/a.cpp\n- x = 1;\n+ x = 2;\nit is a hint only\n\nb.qml\n- spacing: 3\nnothing is beside it\n"
+        )
         self.assertEqual(aside.reason("src/a.cpp", operators.Mutant(7, "    x = 1;", "    x = 2;", "")), "it is a hint only")
         self.assertEqual(aside.reason("b.qml", operators.Mutant(1, "  spacing: 3", None, "")), "nothing is beside it")
         self.assertIsNone(aside.reason("src/a.cpp", operators.Mutant(7, "    x = 1;", "    x = 3;", "")))
@@ -121,13 +137,19 @@ class Runs(unittest.TestCase):
         known = run.Aside((run.HERE / "aside.txt").read_text()).known
         for path, before, after in known:
             text = (run.PROJECT / path).read_text()
-            found = {(mutant.before.strip(), mutant.after if mutant.after is None else mutant.after.strip())
-                     for mutant in operators.mutants(path, text)}
+            found = {
+                (mutant.before.strip(), mutant.after if mutant.after is None else mutant.after.strip())
+                for mutant in operators.mutants(path, text)
+            }
             self.assertIn((before, after), found, f"{path} has no such line any more: take it out of aside.txt")
 
     def test_the_walls_hold(self):
-        tried = run.subprocess.run([run.HERE / "walls.sh", "/bin/bash", "-c", f"touch /tmp/mine && ! touch {run.HERE}/mine && echo /proc/[0-9]*"],
-                                   capture_output=True, text=True, check=False)
+        tried = run.subprocess.run(
+            [run.HERE / "walls.sh", "/bin/bash", "-c", f"touch /tmp/mine && ! touch {run.HERE}/mine && echo /proc/[0-9]*"],
+            capture_output=True,
+            text=True,
+            check=False,
+        )
         if tried.returncode == 125 or "unshare" in tried.stderr:
             self.skipTest("no namespaces here")
         self.assertEqual(tried.returncode, 0, tried.stderr)

@@ -47,8 +47,9 @@ class Unprepared(Exception):
 def registry() -> str:
     """Where this machine's own apt gets Debian 12 from."""
     try:
-        targets = subprocess.run(["apt-get", "indextargets", "--format", "$(SITE) $(RELEASE)"], check=True,
-                                 capture_output=True, text=True).stdout
+        targets = subprocess.run(
+            ["apt-get", "indextargets", "--format", "$(SITE) $(RELEASE)"], check=True, capture_output=True, text=True
+        ).stdout
     except (OSError, subprocess.CalledProcessError):
         raise Unprepared("This machine has no apt that works, so there is no registry to make a Debian from.") from None
     for line in targets.splitlines():
@@ -60,8 +61,14 @@ def registry() -> str:
 
 def _do(log: Path, what: str, *words) -> None:
     with open(log, "ab") as output:
-        if subprocess.run(list(map(str, words)), stdout=output, stderr=output, stdin=subprocess.DEVNULL,
-                          env=os.environ | _ENVIRONMENT, check=False).returncode:
+        if subprocess.run(
+            list(map(str, words)),
+            stdout=output,
+            stderr=output,
+            stdin=subprocess.DEVNULL,
+            env=os.environ | _ENVIRONMENT,
+            check=False,
+        ).returncode:
             raise Unprepared(f"{what} failed; see {log}")
 
 
@@ -74,8 +81,15 @@ def minimal(folder: Path) -> Path:
         folder.mkdir(parents=True, exist_ok=True)
         shutil.rmtree(folder / "new", ignore_errors=True)
         print("Fetching a minimal Debian from its registry", flush=True)
-        _do(folder / "log", "Fetching a minimal Debian from its registry",
-            "debootstrap", "--variant=minbase", RELEASE, folder / "new", registry())
+        _do(
+            folder / "log",
+            "Fetching a minimal Debian from its registry",
+            "debootstrap",
+            "--variant=minbase",
+            RELEASE,
+            folder / "new",
+            registry(),
+        )
         (folder / "new").rename(base)
     return base
 
@@ -92,17 +106,27 @@ def prepare(folder: Path, package: Path) -> Path:
         (folder / "new/usr/sbin/policy-rc.d").write_text(_START_NOTHING)
         (folder / "new/usr/sbin/policy-rc.d").chmod(0o755)
         (folder / "new").rename(base)
-    needs = subprocess.run(["dpkg-deb", "--field", package, "Depends", "Recommends"], check=True,
-                           capture_output=True, text=True).stdout
-    fetched = folder / "fetched"   # what the packages that lie in the base were fetched for
+    needs = subprocess.run(
+        ["dpkg-deb", "--field", package, "Depends", "Recommends"], check=True, capture_output=True, text=True
+    ).stdout
+    fetched = folder / "fetched"  # what the packages that lie in the base were fetched for
     if fetched.exists() and fetched.read_text() == needs:
         return base
     shutil.copy("/etc/resolv.conf", base / "etc/resolv.conf")
     shutil.copy(package, base / "tmp/package.deb")
     try:
         _do(log, "Asking Debian's registry", "chroot", base, "apt-get", "update")
-        _do(log, "Fetching what the package depends on", "chroot", base,
-           "apt-get", "install", "--yes", "--download-only", "/tmp/package.deb")
+        _do(
+            log,
+            "Fetching what the package depends on",
+            "chroot",
+            base,
+            "apt-get",
+            "install",
+            "--yes",
+            "--download-only",
+            "/tmp/package.deb",
+        )
     finally:
         (base / "tmp/package.deb").unlink()
     fetched.write_text(needs)
@@ -160,7 +184,8 @@ class CleanDebian(contextlib.AbstractContextManager):
 
     def join_lab(self) -> None:
         """Makes tor a client of the lab, and trusts the lab's certificate authority, as the host does."""
-        self._host(r"""
+        self._host(
+            r"""
             set -eu
             mkdir -p "$1/etc/tor"
             cp /etc/tor/torrc-defaults "$1/etc/tor/"
@@ -172,4 +197,6 @@ class CleanDebian(contextlib.AbstractContextManager):
                 if [ "$(readlink "$link")" = veldmark-lab-ca.pem ]; then cp -P "$link" "$1/etc/ssl/certs/"; fi
             done
             cat /etc/ssl/certs/veldmark-lab-ca.pem >>"$1/etc/ssl/certs/ca-certificates.crt"
-        """, self.root)
+        """,
+            self.root,
+        )

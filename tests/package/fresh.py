@@ -41,8 +41,11 @@ VERBS = ("demo", "test", "package")
 SHORT = ("-LE", "^long$", "-E", "^(lab/(trouble|sessions|leakcheck)|helper/(kill-.*|trouble|cycles)|ui/(Buttons|WindowsFit-.*))$")
 # Each unit test, what judges the sources and the package, and of the suites that call further programs at least one each:
 # polkit and pkexec (prompt), gpg (download), ssh, zsh and git (terminal), nc and ping (lab), a desktop's (desktop), clang's (fuzz).
-QUICK = ("-R", "^(unit/.*|house/.*|package/(files|registry)|ui/(accessibility|qmllint|translation)|fuzz/LogFuzz|"
-         "helper/(namespace|launch|resolved)|lab/(lab|prompt|download|terminal|desktop))$")
+QUICK = (
+    "-R",
+    "^(unit/.*|house/.*|package/(files|registry)|ui/(accessibility|qmllint|translation)|fuzz/LogFuzz|"
+    "helper/(namespace|launch|resolved)|lab/(lab|prompt|download|terminal|desktop))$",
+)
 # Where ordinary users can read them, since tests run programs as one.
 PLACES = {"first": "/srv/veldmark", "second": "/srv/a stranger/veld mark"}
 
@@ -93,8 +96,9 @@ class Step:
 
 
 def own_git(*words: str) -> str:
-    return subprocess.run(["git", "-c", f"safe.directory={PROJECT}", "-C", PROJECT, *words], check=True, capture_output=True,
-                          text=True).stdout.strip()
+    return subprocess.run(
+        ["git", "-c", f"safe.directory={PROJECT}", "-C", PROJECT, *words], check=True, capture_output=True, text=True
+    ).stdout.strip()
 
 
 def compiler_cache() -> str:
@@ -138,9 +142,31 @@ class Stranger:
         variables = dict(environment or {})
         command = f"cd {shlex.quote(self.place)} && exec {shlex.join(words)}"
         return subprocess.run(
-            ["unshare", "--mount", "--propagation", "private", "--pid", "--fork", "--kill-child", "--uts", "/bin/sh", "-c", ENTER, "enter",
-             self.tree, self.archives, self.cache, *(f"{key}={value}" for key, value in variables.items()), "/bin/bash", "-c", command],
-            stdin=subprocess.DEVNULL, check=False, **options)
+            [
+                "unshare",
+                "--mount",
+                "--propagation",
+                "private",
+                "--pid",
+                "--fork",
+                "--kill-child",
+                "--uts",
+                "/bin/sh",
+                "-c",
+                ENTER,
+                "enter",
+                self.tree,
+                self.archives,
+                self.cache,
+                *(f"{key}={value}" for key, value in variables.items()),
+                "/bin/bash",
+                "-c",
+                command,
+            ],
+            stdin=subprocess.DEVNULL,
+            check=False,
+            **options,
+        )
 
     def verb(self, *words: str, environment: dict[str, str] | None = None) -> None:
         heading(f"./build.sh {' '.join(words)} in {self.place}")
@@ -148,7 +174,9 @@ class Stranger:
         status = self.run("./build.sh", *words, environment=environment).returncode
         step.end()
         if status != 0:
-            raise Failed(f"./build.sh {' '.join(words)} failed on a clean Debian (exit status {status}); its files are in {self.clone}")
+            raise Failed(
+                f"./build.sh {' '.join(words)} failed on a clean Debian (exit status {status}); its files are in {self.clone}"
+            )
 
 
 def processor_time() -> float:
@@ -171,7 +199,9 @@ def without(stranger: Stranger, package: str) -> None:
     """Takes the package out of the clone's list, as if it had been forgotten."""
     file = stranger.clone / "tools/deps.sh"
     lines = file.read_text().splitlines(keepends=True)
-    changed = [" ".join(word for word in line.split(" ") if word.strip() != package) if line.startswith("    ") else line for line in lines]
+    changed = [
+        " ".join(word for word in line.split(" ") if word.strip() != package) if line.startswith("    ") else line for line in lines
+    ]
     changed = [line if line.endswith("\n") else line + "\n" for line in changed]
     if changed == lines:
         raise Failed(f"{package} is not in the list of packages")
@@ -188,10 +218,17 @@ def digest(folder: Path) -> tuple[str, str]:
 def tomorrow(stranger: Stranger) -> dict[str, str]:
     """Variables that set the clock of whatever runs with them to the next day."""
     heading("tomorrow's clock for the second system")
-    if stranger.run("/bin/sh", "-c", "apt-get -qq update && apt-get -qq install -y --no-install-recommends faketime >/dev/null 2>&1").returncode:
+    if stranger.run(
+        "/bin/sh", "-c", "apt-get -qq update && apt-get -qq install -y --no-install-recommends faketime >/dev/null 2>&1"
+    ).returncode:
         raise Failed("the program that sets a clock for others cannot be installed")
     library = next((stranger.tree / "usr/lib").glob("*/faketime/libfaketime.so.1"))
-    variables = {"LD_PRELOAD": "/" + str(library.relative_to(stranger.tree)), "FAKETIME": "+1d", "NO_FAKE_STAT": "1", "FAKETIME_DONT_RESET": "1"}
+    variables = {
+        "LD_PRELOAD": "/" + str(library.relative_to(stranger.tree)),
+        "FAKETIME": "+1d",
+        "NO_FAKE_STAT": "1",
+        "FAKETIME_DONT_RESET": "1",
+    }
     told = stranger.run("date", "+%s", environment=variables, stdout=subprocess.PIPE, text=True).stdout.strip()
     if not told.isdigit() or int(told) < time.time() + 80000:
         raise Failed("the second system's clock did not take tomorrow's time")
@@ -227,7 +264,7 @@ def verify(arguments: argparse.Namespace) -> None:
     if arguments.without:
         without(stranger, arguments.without)
     strict = {"VELDMARK_NO_SKIPS": "1"}
-    if len(words) > 1 and words[0] == "test":   # some tests only
+    if len(words) > 1 and words[0] == "test":  # some tests only
         stranger.verb(*words, environment=strict)
         return
     for verb in words:
@@ -239,7 +276,9 @@ def verify(arguments: argparse.Namespace) -> None:
 
 
 def main() -> int:
-    parser = argparse.ArgumentParser(usage="./build.sh fresh-test [--short | --quick] [--without PACKAGE] [--cold] [--again] [VERB...]")
+    parser = argparse.ArgumentParser(
+        usage="./build.sh fresh-test [--short | --quick] [--without PACKAGE] [--cold] [--again] [VERB...]"
+    )
     share = parser.add_mutually_exclusive_group()
     share.add_argument("--short", action="store_true")
     share.add_argument("--quick", action="store_true")
@@ -255,7 +294,7 @@ def main() -> int:
         print(f"fresh-test: {reason}", file=sys.stderr)
         return 1
     Step.table()
-    for name in PLACES:   # what failed stays, to be looked at
+    for name in PLACES:  # what failed stays, to be looked at
         remove(WORK / name)
     print(f"\nfresh-test: everything went as it should, in {time.monotonic() - started:.0f} s", flush=True)
     return 0

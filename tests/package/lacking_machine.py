@@ -79,18 +79,43 @@ MAIN = "import random; random.seed(1); print('unsigned char filler[] = {%s};' % 
 
 def require() -> None:
     """Ends the test program with status 77 where such a machine cannot be made."""
-    trial = ("mount -t tmpfs x /mnt && mkdir /mnt/u /mnt/w /mnt/r && mount -t overlay -o lowerdir=/,upperdir=/mnt/u,workdir=/mnt/w x /mnt/r")
-    if os.geteuid() != 0 or subprocess.run(["unshare", "--net", "--mount", "--propagation", "private", "--pid", "--fork", "sh", "-c", trial],
-                                           capture_output=True, check=False).returncode:
-        print("skipped: a machine over this one's files needs root and a system that permits namespaces and overlays: run this test with sudo")
+    trial = "mount -t tmpfs x /mnt && mkdir /mnt/u /mnt/w /mnt/r && mount -t overlay -o lowerdir=/,upperdir=/mnt/u,workdir=/mnt/w x /mnt/r"
+    if (
+        os.geteuid() != 0
+        or subprocess.run(
+            ["unshare", "--net", "--mount", "--propagation", "private", "--pid", "--fork", "sh", "-c", trial],
+            capture_output=True,
+            check=False,
+        ).returncode
+    ):
+        print(
+            "skipped: a machine over this one's files needs root and a system that permits namespaces and overlays: run this test with sudo"
+        )
         sys.exit(77)
 
 
 class LackingMachine(contextlib.AbstractContextManager):
     def __init__(self):
         self.unshare = subprocess.Popen(
-            ["setpriv", "--pdeathsig", "KILL", "unshare", "--net", "--mount", "--propagation", "private", "--pid", "--fork", "--kill-child",
-             "/bin/sh", "-c", SETUP], stdout=subprocess.PIPE, text=True)
+            [
+                "setpriv",
+                "--pdeathsig",
+                "KILL",
+                "unshare",
+                "--net",
+                "--mount",
+                "--propagation",
+                "private",
+                "--pid",
+                "--fork",
+                "--kill-child",
+                "/bin/sh",
+                "-c",
+                SETUP,
+            ],
+            stdout=subprocess.PIPE,
+            text=True,
+        )
         if self.unshare.stdout.readline() != "ready\n":
             raise RuntimeError("the machine could not be set up")
         children = Path(f"/proc/{self.unshare.pid}/task/{self.unshare.pid}/children")
@@ -119,12 +144,35 @@ class LackingMachine(contextlib.AbstractContextManager):
     def _command(self, script: str, user: str) -> list[str]:
         who = ["setpriv", f"--reuid={user}", f"--regid={user}", "--init-groups", "--"] if user != "root" else []
         home = f"/home/{user}" if user != "root" else "/root"
-        return ["nsenter", f"--target={self.pid}", "--mount", "--net", "--pid", "--root", "--wd", "setpriv", "--pdeathsig", "KILL", *who,
-                "/usr/bin/env", "-i", f"HOME={home}", f"USER={user}", f"LOGNAME={user}", "LANG=C.UTF-8", "CCACHE_DIR=/mnt/cache/" + user,
-                "PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin", "/bin/bash", "-c", script]
+        return [
+            "nsenter",
+            f"--target={self.pid}",
+            "--mount",
+            "--net",
+            "--pid",
+            "--root",
+            "--wd",
+            "setpriv",
+            "--pdeathsig",
+            "KILL",
+            *who,
+            "/usr/bin/env",
+            "-i",
+            f"HOME={home}",
+            f"USER={user}",
+            f"LOGNAME={user}",
+            "LANG=C.UTF-8",
+            "CCACHE_DIR=/mnt/cache/" + user,
+            "PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin",
+            "/bin/bash",
+            "-c",
+            script,
+        ]
 
     def run(self, script: str, user: str = "root", check: bool = True) -> subprocess.CompletedProcess:
-        return subprocess.run(self._command(script, user), stdin=subprocess.DEVNULL, capture_output=True, text=True, check=check, timeout=120)
+        return subprocess.run(
+            self._command(script, user), stdin=subprocess.DEVNULL, capture_output=True, text=True, check=check, timeout=120
+        )
 
     def start(self, script: str) -> subprocess.Popen:
         """Something that goes on beside; returns once it has said a line."""
@@ -156,15 +204,19 @@ class LackingMachine(contextlib.AbstractContextManager):
 
     def fill_source(self) -> None:
         """A program that needs room to be compiled."""
-        self.run(f"cd {shlex.quote(CHECKOUT)} && {{ /usr/bin/python3 -c {shlex.quote(MAIN)}; echo 'int main() {{ return filler[1]; }}'; }} >main.cpp")
+        self.run(
+            f"cd {shlex.quote(CHECKOUT)} && {{ /usr/bin/python3 -c {shlex.quote(MAIN)}; echo 'int main() {{ return filler[1]; }}'; }} >main.cpp"
+        )
 
     def make_registry(self, postinst: str = "exit 0") -> None:
         """The registry's one package, of 3 MB, as files that start_registry serves."""
         with tempfile.TemporaryDirectory() as folder:
             tree = Path(folder, "tree")
             (tree / "DEBIAN").mkdir(parents=True)
-            (tree / "DEBIAN/control").write_text(f"Package: {PACKAGE}\nVersion: 1\nArchitecture: all\nMaintainer: Nobody <nobody@example.test>\n"
-                                                 "Description: a tool of the stranger\n")
+            (tree / "DEBIAN/control").write_text(
+                f"Package: {PACKAGE}\nVersion: 1\nArchitecture: all\nMaintainer: Nobody <nobody@example.test>\n"
+                "Description: a tool of the stranger\n"
+            )
             (tree / "DEBIAN/postinst").write_text(f"#!/bin/sh\n{postinst}\n")
             (tree / "DEBIAN/postinst").chmod(0o755)
             (tree / "usr/share").mkdir(parents=True)
@@ -173,17 +225,23 @@ class LackingMachine(contextlib.AbstractContextManager):
                 part.chmod(0o755)
             registry = self.path("/srv/registry")
             registry.mkdir(exist_ok=True)
-            subprocess.run(["dpkg-deb", "-Znone", "--root-owner-group", "--build", tree, registry / "tool.deb"], check=True, capture_output=True)
+            subprocess.run(
+                ["dpkg-deb", "-Znone", "--root-owner-group", "--build", tree, registry / "tool.deb"],
+                check=True,
+                capture_output=True,
+            )
         self.run("cd /srv/registry && dpkg-scanpackages --multiversion . >Packages 2>/dev/null")
 
     def connect(self) -> None:
         """A network in which the registry answers."""
         self.run("grep -q registry.test /etc/hosts || echo '127.0.0.1 registry.test' >>/etc/hosts")
-        self.start("cd /srv/registry && exec /usr/bin/python3 -uc 'import functools, http.server as h\n"
-                   "class Quiet(h.SimpleHTTPRequestHandler):\n    def log_message(self, *_): pass\n"
-                   # Whether a file is newer is a question of whole seconds: it is always sent.
-                   "    def send_head(self):\n        del self.headers[\"If-Modified-Since\"]\n        return super().send_head()\n"
-                   "server = h.ThreadingHTTPServer((\"127.0.0.1\", 8099), Quiet)\nprint()\nserver.serve_forever()'")
+        self.start(
+            "cd /srv/registry && exec /usr/bin/python3 -uc 'import functools, http.server as h\n"
+            "class Quiet(h.SimpleHTTPRequestHandler):\n    def log_message(self, *_): pass\n"
+            # Whether a file is newer is a question of whole seconds: it is always sent.
+            '    def send_head(self):\n        del self.headers["If-Modified-Since"]\n        return super().send_head()\n'
+            'server = h.ThreadingHTTPServer(("127.0.0.1", 8099), Quiet)\nprint()\nserver.serve_forever()\''
+        )
 
     def installed(self) -> bool:
         return self.run(f"dpkg-query -W -f '${{db:Status-Abbrev}}' {PACKAGE}", check=False).stdout.startswith("ii")

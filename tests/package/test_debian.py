@@ -48,12 +48,11 @@ while True:
 """
 
 # The rules as the kernel lists them, again and again, each time as one line.
-LOOK = 'while :; do nft -s list table inet veldmark 2>&1 | sha256sum; done'
+LOOK = "while :; do nft -s list table inet veldmark 2>&1 | sha256sum; done"
 
 
 class Case(unittest.TestCase):
     """One lab and one installation for all; each test has the installed system to itself, as it was just installed."""
-
 
     lab: Lab
     base: Path
@@ -154,8 +153,14 @@ class Installed(Case):
     def test_every_library_and_module_of_the_programs_is_there(self):
         for program in ("veldmark", "veldmarkctl", "veldmark-launch"):
             self.assertNotIn("not found", self.debian.shell(f"ldd /usr/bin/{program}"))
-        window = self.debian.popen(["veldmark"], user="alice", env={"QT_QPA_PLATFORM": "offscreen"},
-                                   stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+        window = self.debian.popen(
+            ["veldmark"],
+            user="alice",
+            env={"QT_QPA_PLATFORM": "offscreen"},
+            stdout=subprocess.PIPE,
+            stderr=subprocess.STDOUT,
+            text=True,
+        )
         try:
             product = Product(types.SimpleNamespace(host=self.debian), Path("/usr/bin"), user="alice")
             deadline = time.monotonic() + 30
@@ -179,13 +184,13 @@ class Installed(Case):
         self.assert_network_is_whole()
         self.assertEqual(self.debian.shell("find /etc -type f ! -name '*-' ! -name '.pwd.lock' | sort"), files)
 
-
     def test_the_application_connects_at_once_when_its_entry_says_so(self):
         self.debian.run([HELPER, "install-privileged", "--user", "alice"], check=True)
         product = Product(types.SimpleNamespace(host=self.debian), Path("/usr/bin"), user="alice")
         offscreen = {"QT_QPA_PLATFORM": "offscreen"}
-        window = self.debian.popen(["veldmark", "--connect"], user="alice", env=offscreen,
-                                   stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+        window = self.debian.popen(
+            ["veldmark", "--connect"], user="alice", env=offscreen, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True
+        )
         try:
             deadline = time.monotonic() + 90
             while json.loads(product.run_verb("status", "--json", check=True).stdout)["phase"] != "connected":
@@ -206,8 +211,11 @@ class Installed(Case):
 
     def test_another_tor_on_the_port_is_named(self):
         """As Debian's own service, which starts when tor is installed."""
-        other = self.debian.popen(["tor", "-f", "/none", "--ignore-missing-torrc", "--SocksPort", "9050", "--DataDirectory", "/tmp/other"],
-                                  stdout=subprocess.PIPE, text=True)
+        other = self.debian.popen(
+            ["tor", "-f", "/none", "--ignore-missing-torrc", "--SocksPort", "9050", "--DataDirectory", "/tmp/other"],
+            stdout=subprocess.PIPE,
+            text=True,
+        )
         try:
             self.assertTrue(any("Opened Socks listener" in line for line in other.stdout))
             with self.product.session() as session:
@@ -242,13 +250,16 @@ class Upgraded(Case):
                 self.assertGreater(len(looks), 5)
                 self.assertEqual(set(looks), {first.strip()})
                 self.assertEqual(self.rules(), rules)
-                print(f"upgrade: {seconds:.1f} s, {len(looks)} looks at the rules, 0 probes out "
-                      f"({self.probes_seen(before)} in half a second before)", file=sys.stderr)
+                print(
+                    f"upgrade: {seconds:.1f} s, {len(looks)} looks at the rules, 0 probes out "
+                    f"({self.probes_seen(before)} in half a second before)",
+                    file=sys.stderr,
+                )
                 self.assertIn("+later", self.dpkg("--status", "veldmark", check=True).stdout)
                 self.assertEqual(self.lab.host.run(["pgrep", "-x", "tor"], check=True).stdout, pids)
                 self.assertEqual(session.wait(lambda s: True)["phase"], "connected")
                 self.assertFalse(self.direct())
-                self.assertEqual(session.interrupt(), 0, session.output)   # with the later version's helper
+                self.assertEqual(session.interrupt(), 0, session.output)  # with the later version's helper
             self.assert_network_is_whole()
 
     def test_the_password_free_copy_is_known_to_be_outdated(self):
@@ -257,7 +268,7 @@ class Upgraded(Case):
         self.debian.run(["cmp", HELPER, copy], check=True)
         self.dpkg("--install", self.newer, check=True, timeout=120)
         self.assertNotEqual(self.debian.run(["cmp", HELPER, copy]).returncode, 0)
-        self.debian.run([copy, "disconnect"], check=True)   # and it still restores
+        self.debian.run([copy, "disconnect"], check=True)  # and it still restores
 
 
 class Removed(Case):
@@ -265,22 +276,30 @@ class Removed(Case):
         return self.debian.shell(
             "find / -xdev \\( -iname '*veldmark*' -o -user _veldmark \\) ! -path '/var/local/*' ! -path '/var/lib/dpkg/*'"
             " ! -path '/home/*' ! -path '/root/*' ! -name '*veldmark-lab-ca*' 2>/dev/null; true"
-            if "_veldmark" in self.debian.shell("cat /etc/passwd") else
-            "find / -xdev -iname '*veldmark*' ! -path '/var/local/*' ! -path '/var/lib/dpkg/*' ! -path '/home/*'"
-            " ! -path '/root/*' ! -name '*veldmark-lab-ca*'; ls -A /run | grep veldmark; true")
+            if "_veldmark" in self.debian.shell("cat /etc/passwd")
+            else "find / -xdev -iname '*veldmark*' ! -path '/var/local/*' ! -path '/var/lib/dpkg/*' ! -path '/home/*'"
+            " ! -path '/root/*' ! -name '*veldmark-lab-ca*'; ls -A /run | grep veldmark; true"
+        )
 
     def test_while_connected_the_network_is_restored_first(self):
         for strict in (True, False):
             with self.subTest(strict=strict), CleanDebian(
-                    self.lab, self.base, f"removed-{strict}", over=self.installed) as self.debian:
+                self.lab, self.base, f"removed-{strict}", over=self.installed
+            ) as self.debian:
                 self.debian.run([HELPER, "install-privileged", "--user", "alice"], check=True)
                 with self.connected(strict=strict) as session:
                     self.dpkg("--remove", "veldmark", check=True, timeout=120)
                     self.assert_network_is_whole()
-                    self.wait_for_word(session, "Not Protected")   # the running program has noticed
+                    self.wait_for_word(session, "Not Protected")  # the running program has noticed
                     session.interrupt()
-                for gone in ("/etc/sudoers.d/veldmark", "/usr/local/libexec/veldmark", "/usr/share/veldmark",
-                             "/var/lib/veldmark/run", "/var/lib/veldmark/programs", MARKER):
+                for gone in (
+                    "/etc/sudoers.d/veldmark",
+                    "/usr/local/libexec/veldmark",
+                    "/usr/share/veldmark",
+                    "/var/lib/veldmark/run",
+                    "/var/lib/veldmark/programs",
+                    MARKER,
+                ):
                     self.assertFalse(self.debian.path(gone).exists(), gone)
                 self.assertEqual(self.debian.shell("find / -xdev -user _veldmark"), "")
                 self.dpkg("--purge", "veldmark", check=True)

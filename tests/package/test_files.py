@@ -28,8 +28,13 @@ class InAHome(unittest.TestCase):
     def setUp(self):
         self.home = self.enterContext(tempfile.TemporaryDirectory())
         os.mkdir(f"{self.home}/run", 0o700)
-        self.environment = {"HOME": self.home, "PATH": f"{PROGRAMS}:{os.environ['PATH']}", "LANG": "C.UTF-8",
-                            "XDG_RUNTIME_DIR": f"{self.home}/run", "QT_QPA_PLATFORM": "offscreen"}
+        self.environment = {
+            "HOME": self.home,
+            "PATH": f"{PROGRAMS}:{os.environ['PATH']}",
+            "LANG": "C.UTF-8",
+            "XDG_RUNTIME_DIR": f"{self.home}/run",
+            "QT_QPA_PLATFORM": "offscreen",
+        }
 
     def ctl(self, *words):
         return run(PROGRAMS / "veldmarkctl", *words, env=self.environment)
@@ -74,8 +79,9 @@ class Language(InAHome):
             self.assertNotRegex(finding["text"], "[äöüß]| ist ")
 
     def test_an_instance_of_another_language_is_understood(self):
-        with subprocess.Popen([PROGRAMS / "veldmarkctl", "run"], env={**self.environment, "LANG": "C.UTF-8"},
-                              stdout=subprocess.PIPE, text=True) as instance:
+        with subprocess.Popen(
+            [PROGRAMS / "veldmarkctl", "run"], env={**self.environment, "LANG": "C.UTF-8"}, stdout=subprocess.PIPE, text=True
+        ) as instance:
             try:
                 self.assertTrue(instance.stdout.readline().startswith("Ready."))
                 self.assertTrue(self.ctl("status").stdout.startswith("Nicht geschützt\n"))
@@ -91,7 +97,7 @@ class Questions(InAHome):
     def test_what_the_application_only_tells_needs_no_display(self):
         program = PROGRAMS / "veldmark"
         nowhere = {name: value for name, value in self.environment.items() if name != "QT_QPA_PLATFORM"}
-        self.assertNotEqual(run(program, "--hidden", env=nowhere).returncode, 0)   # there is none
+        self.assertNotEqual(run(program, "--hidden", env=nowhere).returncode, 0)  # there is none
         for question, answer in (("--help", "--hidden"), ("-h", "--hidden"), ("--version", "veldmark "), ("-v", "veldmark ")):
             result = run(program, question, env=nowhere)
             self.assertEqual((result.returncode, result.stderr), (0, ""), question)
@@ -101,8 +107,10 @@ class Questions(InAHome):
 class Completion(InAHome):
     def complete(self, *words: str) -> set[str]:
         """What bash offers after these words, the last of which is being typed."""
-        script = (f'source "{PACKAGING}/completions/veldmarkctl.bash"; COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); '
-                  'case $1 in veldmarkctl) _veldmarkctl ;; veldmark) _veldmark ;; esac; printf "%s\\n" "${COMPREPLY[@]}"')
+        script = (
+            f'source "{PACKAGING}/completions/veldmarkctl.bash"; COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); '
+            'case $1 in veldmarkctl) _veldmarkctl ;; veldmark) _veldmark ;; esac; printf "%s\\n" "${COMPREPLY[@]}"'
+        )
         result = run("/bin/bash", "--norc", "-c", script, "bash", *words, env=self.environment)
         self.assertEqual(result.stderr, "")
         return set(result.stdout.split())
@@ -130,17 +138,26 @@ class Completion(InAHome):
 
     def test_bash_knows_the_options_of_the_application(self):
         shown = run(PROGRAMS / "veldmark", "--help", env=self.environment).stdout
-        options = set(re.findall(r"--[a-z]+", shown)) - {"--help-all"}   # Qt's own options are no part of it
+        options = set(re.findall(r"--[a-z]+", shown)) - {"--help-all"}  # Qt's own options are no part of it
         self.assertIn("--hidden", options)
         self.assertEqual(self.complete("veldmark", ""), options)
 
     def zsh(self, *words: str) -> set[str]:
         """What zsh offers, without the help: its own functions are replaced by such as print what they are given."""
-        script = ("_describe() { print -rl -- ${(P)@[-1]} }; _files() { print FILES }; _message() { }; service=veldmarkctl; "
-                  '_arguments() { if (( CURRENT == 2 )) { state=command } else { state=rest; words=("${(@)words[2,-1]}"); (( CURRENT -= 1 )) } }; '
-                  'words=("$@"); CURRENT=$#; source "$COMPLETION"')
-        result = run("zsh", "-f", "-c", script, "zsh", *words,
-                     env={**self.environment, "COMPLETION": str(PACKAGING / "completions" / "_veldmarkctl")})
+        script = (
+            "_describe() { print -rl -- ${(P)@[-1]} }; _files() { print FILES }; _message() { }; service=veldmarkctl; "
+            '_arguments() { if (( CURRENT == 2 )) { state=command } else { state=rest; words=("${(@)words[2,-1]}"); (( CURRENT -= 1 )) } }; '
+            'words=("$@"); CURRENT=$#; source "$COMPLETION"'
+        )
+        result = run(
+            "zsh",
+            "-f",
+            "-c",
+            script,
+            "zsh",
+            *words,
+            env={**self.environment, "COMPLETION": str(PACKAGING / "completions" / "_veldmarkctl")},
+        )
         self.assertEqual(result.stderr, "")
         return {line.split(":")[0] for line in result.stdout.split("\n") if line}
 
@@ -230,8 +247,10 @@ class Metadata(InAHome):
         cases = helper.split("\nmain() {\n")[-1].split("  case $VERB in\n")[1].split("  esac\n")[0]
         verbs = {verb for line in re.findall(r"(?m)^  ([a-z| -]+)\)", cases) for verb in line.split(" | ")}
         self.assertLessEqual({"connect", "disconnect", "launch", "install-privileged"}, verbs)
-        actions = {action.get("id"): {note.get("key").rpartition(".")[2]: note.text for note in action.iter("annotate")}
-                   for action in tree.parse(policy).iter("action")}
+        actions = {
+            action.get("id"): {note.get("key").rpartition(".")[2]: note.text for note in action.iter("annotate")}
+            for action in tree.parse(policy).iter("action")
+        }
         path = "/usr/share/veldmark/veldmark-helper.sh"
         self.assertEqual(actions, {f"org.veldmark.helper.{verb}": {"path": path, "argv1": verb} for verb in verbs})
         for kind in ("allow_any", "allow_inactive", "allow_active"):
@@ -240,8 +259,10 @@ class Metadata(InAHome):
     def test_the_prompt_for_connecting_is_the_programs_own_text(self):
         profile = (ROOT / "src/platform/LinuxProfile.cpp").read_text()
         text = re.search(r'promptText =\s*Text::tr\("([^"]+)"\)', profile).group(1)
-        messages = {action.get("id"): action.find("message").text
-                    for action in tree.parse(PACKAGING / "org.veldmark.helper.policy").iter("action")}
+        messages = {
+            action.get("id"): action.find("message").text
+            for action in tree.parse(PACKAGING / "org.veldmark.helper.policy").iter("action")
+        }
         self.assertEqual(messages["org.veldmark.helper.connect"], text)
 
     def test_the_pictures_can_be_drawn(self):

@@ -67,7 +67,20 @@ class Fresh(unittest.TestCase):
     def setUp(self):
         self.folder = Path(self.enterContext(tempfile.TemporaryDirectory()))
         self.base = self.folder / "cache/veldmark-fresh/minimal"
-        for place in ("proc", "sys", "dev", "run", "tmp", "mnt", "root", "srv", "etc", "usr/lib", "usr/bin", "var/cache/apt/archives"):
+        for place in (
+            "proc",
+            "sys",
+            "dev",
+            "run",
+            "tmp",
+            "mnt",
+            "root",
+            "srv",
+            "etc",
+            "usr/lib",
+            "usr/bin",
+            "var/cache/apt/archives",
+        ):
             (self.base / place).mkdir(parents=True)
         (self.base / "bin").symlink_to("usr/bin")
         for name in PROGRAMS:
@@ -75,7 +88,7 @@ class Fresh(unittest.TestCase):
         put(self.base / "clean", "")
         put(self.base / "usr/bin/date", DATE)
         put(self.base / "usr/bin/apt-get", APT)
-        put(self.folder / "path/debootstrap", "#!/bin/sh\nexit 1\n")   # the base is there already
+        put(self.folder / "path/debootstrap", "#!/bin/sh\nexit 1\n")  # the base is there already
         self.project = self.folder / "project"
         for name in ("fresh.py", "clean_debian.py"):
             put(self.project / "tests/package" / name, (HERE / name).read_text())
@@ -95,7 +108,11 @@ class Fresh(unittest.TestCase):
                 shutil.copy(word, target)
 
     def git(self, *words: str) -> None:
-        subprocess.run(["git", "-C", self.project, "-c", "user.name=x", "-c", "user.email=x@example.test", *words], check=True, capture_output=True)
+        subprocess.run(
+            ["git", "-C", self.project, "-c", "user.name=x", "-c", "user.email=x@example.test", *words],
+            check=True,
+            capture_output=True,
+        )
 
     def commit(self, *names: str) -> None:
         for name in names:
@@ -104,8 +121,13 @@ class Fresh(unittest.TestCase):
         self.git("commit", "--quiet", "--message", "x")
 
     def fresh(self, *words: str) -> subprocess.CompletedProcess:
-        return subprocess.run(["/usr/bin/python3", self.project / "tests/package/fresh.py", *words], capture_output=True, text=True, check=False,
-                              env=os.environ | {"XDG_CACHE_HOME": str(self.folder / "cache"), "PATH": f"{self.folder}/path:{os.environ['PATH']}"})
+        return subprocess.run(
+            ["/usr/bin/python3", self.project / "tests/package/fresh.py", *words],
+            capture_output=True,
+            text=True,
+            check=False,
+            env=os.environ | {"XDG_CACHE_HOME": str(self.folder / "cache"), "PATH": f"{self.folder}/path:{os.environ['PATH']}"},
+        )
 
     def fails(self, *words: str, line: str) -> str:
         result = self.fresh(*words)
@@ -116,18 +138,26 @@ class Fresh(unittest.TestCase):
     def test_all_three_commands_run_in_clean_systems_and_the_packages_are_compared(self):
         result = self.fresh()
         self.assertEqual(result.returncode, 0, result.stderr)
-        self.assertEqual([line for line in result.stdout.splitlines() if line.startswith("verb ")], [
-            "verb demo in /srv/veldmark, home /root, skips forbidden: no, cache off: no",
-            "verb test in /srv/veldmark, home /root, skips forbidden: 1, cache off: no",
-            "verb package in /srv/veldmark, home /root, skips forbidden: no, cache off: 1",
-            "verb package in /srv/a stranger/veld mark, home /root, skips forbidden: no, cache off: 1"])
-        self.assertEqual(len(set(line.split(" ")[-1] for line in result.stdout.splitlines() if "veldmark_1_all.deb" in line)), 1, result.stdout)
+        self.assertEqual(
+            [line for line in result.stdout.splitlines() if line.startswith("verb ")],
+            [
+                "verb demo in /srv/veldmark, home /root, skips forbidden: no, cache off: no",
+                "verb test in /srv/veldmark, home /root, skips forbidden: 1, cache off: no",
+                "verb package in /srv/veldmark, home /root, skips forbidden: no, cache off: 1",
+                "verb package in /srv/a stranger/veld mark, home /root, skips forbidden: no, cache off: 1",
+            ],
+        )
+        self.assertEqual(
+            len(set(line.split(" ")[-1] for line in result.stdout.splitlines() if "veldmark_1_all.deb" in line)), 1, result.stdout
+        )
         self.assertRegex(result.stdout, r"(?m)^fresh-test: +\d+ s +\d+ s  \./build\.sh test in /srv/veldmark$")
         self.assertFalse((self.project / "build/fresh/first").exists())
 
     def test_a_forgotten_package_fails_and_names_the_command(self):
         for package, verb in (("alpha", "demo"), ("beta", "test"), ("gamma", "package")):
-            self.fails("--without", package, line=rf"\./build\.sh {verb} failed on a clean Debian \(exit status 1\); its files are in ")
+            self.fails(
+                "--without", package, line=rf"\./build\.sh {verb} failed on a clean Debian \(exit status 1\); its files are in "
+            )
         self.fails("--without", "omega", line="omega is not in the list of packages")
 
     def test_a_skipped_test_fails(self):
@@ -145,14 +175,17 @@ class Fresh(unittest.TestCase):
 
     def test_what_is_committed_meanwhile_is_not_taken_for_a_difference(self):
         git = shutil.which("git")
-        put(self.folder / "path/git", f"""#!/bin/bash
+        put(
+            self.folder / "path/git",
+            f"""#!/bin/bash
 {git} "$@" || exit
 [[ " $* " != *" clone "* ]] || {{
     touch {self.project}/sloppy-folder
     {git} -C {self.project} add .
     {git} -C {self.project} -c user.name=x -c user.email=x@example.test commit --quiet --allow-empty -m x
 }}
-""")
+""",
+        )
         result = self.fresh("package")
         self.assertEqual(result.returncode, 0, result.stderr)
         self.assertTrue((self.project / "sloppy-folder").exists())
@@ -182,7 +215,9 @@ class Fresh(unittest.TestCase):
 
     def test_the_short_run_leaves_out_the_long_tests_and_nothing_else(self):
         verbs = [line.split(" in ")[0] for line in self.fresh("--short").stdout.splitlines() if line.startswith("verb ")]
-        self.assertEqual([verb.split(" -E ")[0] for verb in verbs], ["verb demo", "verb test -LE ^long$", "verb package", "verb package"])
+        self.assertEqual(
+            [verb.split(" -E ")[0] for verb in verbs], ["verb demo", "verb test -LE ^long$", "verb package", "verb package"]
+        )
         known = "".join((HERE.parent / suite / "CMakeLists.txt").read_text() for suite in ("lab", "helper", "ui"))
         left_out = re.findall(r"[A-Za-z]+", verbs[1].split(" -E ")[1].replace("kill-.*", "kill"))
         self.assertIn("sessions", left_out)
@@ -196,7 +231,9 @@ class Fresh(unittest.TestCase):
         self.assertIn("lab", [suite for suite, *_ in suites])
         for suite, several, one in suites:
             folder = HERE.parents[1] / "fuzz" if suite == "fuzz" else HERE.parent / suite
-            known = "".join(file.read_text() for file in folder.rglob("CMakeLists.txt")) + "".join(file.stem for file in folder.glob("*"))
+            known = "".join(file.read_text() for file in folder.rglob("CMakeLists.txt")) + "".join(
+                file.stem for file in folder.glob("*")
+            )
             for name in (several or one).split("|"):
                 self.assertIn(name.removesuffix(".*"), known, f"no test is called {suite}/{name} any more")
         self.assertEqual(self.fresh("--quick", "--short").returncode, 2)
@@ -217,8 +254,13 @@ class Skipped(unittest.TestCase):
             file = Path(folder, "junit.xml")
             file.write_text(f"<testsuite>{case}</testsuite>")
             environment = {name: value for name, value in os.environ.items() if name != "VELDMARK_NO_SKIPS"}
-            result = subprocess.run(["/usr/bin/python3", HERE.parent / "skipped.py", file], capture_output=True, text=True, check=False,
-                                    env=environment | ({"VELDMARK_NO_SKIPS": "1"} if forbidden else {}))
+            result = subprocess.run(
+                ["/usr/bin/python3", HERE.parent / "skipped.py", file],
+                capture_output=True,
+                text=True,
+                check=False,
+                env=environment | ({"VELDMARK_NO_SKIPS": "1"} if forbidden else {}),
+            )
             return result.returncode, result.stdout
 
     def test_a_skip_is_told_and_fails_where_none_may_be(self):
@@ -228,7 +270,12 @@ class Skipped(unittest.TestCase):
         self.assertEqual(self.judge(ran, True), (0, ""))
         python = '<testcase name="lab/y"><system-out>....s\nRan 5 tests in 2.000s\n\nOK (skipped=1)</system-out></testcase>'
         broken = '<testcase name="lab/y"><failure/><system-out>Ran 5 tests in 2.0s\n\nFAILED (failures=1, skipped=2)</system-out></testcase>'
-        for case, reason in ((whole, "no network here"), (part, "no tor here"), (python, "1 of its cases"), (broken, "2 of its cases")):
+        for case, reason in (
+            (whole, "no network here"),
+            (part, "no tor here"),
+            (python, "1 of its cases"),
+            (broken, "2 of its cases"),
+        ):
             for forbidden in (False, True):
                 status, output = self.judge(case, forbidden)
                 self.assertEqual(status, 1 if forbidden else 0, output)
@@ -236,7 +283,10 @@ class Skipped(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    if os.geteuid() != 0 or subprocess.run(["unshare", "--mount", "--pid", "--fork", "true"], capture_output=True, check=False).returncode:
+    if (
+        os.geteuid() != 0
+        or subprocess.run(["unshare", "--mount", "--pid", "--fork", "true"], capture_output=True, check=False).returncode
+    ):
         print("skipped: a clean system needs root and a system that permits namespaces: run this test with sudo")
         sys.exit(77)
     unittest.main()

@@ -22,13 +22,16 @@ class Registry(unittest.TestCase):
     def apt(self, lines: str, status: int = 0) -> None:
         """An apt-get that answers the one question that it may be asked."""
         program = self.folder / "apt-get"
-        program.write_text("#!/bin/sh\n[ \"$*\" = 'indextargets --format $(SITE) $(RELEASE)' ] || exit 99\n"
-                           f"printf '{lines}'\nexit {status}\n")
+        program.write_text(
+            "#!/bin/sh\n[ \"$*\" = 'indextargets --format $(SITE) $(RELEASE)' ] || exit 99\n" f"printf '{lines}'\nexit {status}\n"
+        )
         program.chmod(0o755)
 
     def test_the_first_source_of_debian_12_is_taken(self):
-        self.apt("https://tools.example.test/apt stable\\n\\nhttp://mirror.example.test/debian bookworm-updates\\n"
-                 "http://mirror.example.test/debian bookworm\\nhttp://second.example.test/debian bookworm\\n")
+        self.apt(
+            "https://tools.example.test/apt stable\\n\\nhttp://mirror.example.test/debian bookworm-updates\\n"
+            "http://mirror.example.test/debian bookworm\\nhttp://second.example.test/debian bookworm\\n"
+        )
         self.assertEqual(registry(), "http://mirror.example.test/debian")
 
     def test_without_one_it_is_said(self):

@@ -43,12 +43,14 @@ class Installing(Case):
         self.works("deps", user)
         self.assertTrue(self.machine.installed())
         self.assertFalse(self.machine.path("/usr/sbin/policy-rc.d").exists())
-        self.assertEqual(self.works("deps", user), "")   # nothing is missing any more
+        self.assertEqual(self.works("deps", user), "")  # nothing is missing any more
 
     def hold(self, lock: str, seconds: int = 600):
         """Another program that has this lock, as apt and dpkg take it."""
-        return self.machine.start(f"exec /usr/bin/python3 -uc 'import fcntl, time; held = open(\"{lock}\", \"w\");"
-                                  f"fcntl.lockf(held, fcntl.LOCK_EX); print(); time.sleep({seconds})'")
+        return self.machine.start(
+            f'exec /usr/bin/python3 -uc \'import fcntl, time; held = open("{lock}", "w");'
+            f"fcntl.lockf(held, fcntl.LOCK_EX); print(); time.sleep({seconds})'"
+        )
 
     def test_without_a_network(self):
         self.refused("deps", "Debian's registry cannot be reached: connect to the network and run this again")
@@ -72,7 +74,9 @@ class Installing(Case):
         self.machine.connect()
         for lock in ("/var/lib/dpkg/lock-frontend", "/var/lib/apt/lists/lock"):
             other = self.hold(lock)
-            self.refused("deps", "another program is installing packages: run this again when it has ended", variables="VELDMARK_APT_WAIT=1")
+            self.refused(
+                "deps", "another program is installing packages: run this again when it has ended", variables="VELDMARK_APT_WAIT=1"
+            )
             other.kill()
             other.wait()
         self.installs()
@@ -92,7 +96,7 @@ class Installing(Case):
         self.installs()
 
     def test_a_package_whose_own_script_was_interrupted(self):
-        self.machine.make_registry("test -e /srv/better || { sleep 0.1; kill -9 $PPID; }")   # dpkg is gone in the middle
+        self.machine.make_registry("test -e /srv/better || { sleep 0.1; kill -9 $PPID; }")  # dpkg is gone in the middle
         self.machine.connect()
         self.assertNotEqual(self.machine.build("deps").returncode, 0)
         self.assertFalse(self.machine.installed())
@@ -104,8 +108,11 @@ class Installing(Case):
     def test_a_package_that_the_registry_does_not_have(self):
         self.machine.connect()
         self.machine.run(f"sed -i s/{PACKAGE}/other-tool/ /srv/registry/Packages")
-        self.refused("deps", rf"a package is unknown to apt \(E: Unable to locate package {PACKAGE}\): "
-                             "only Debian 12 and its descendants have them all")
+        self.refused(
+            "deps",
+            rf"a package is unknown to apt \(E: Unable to locate package {PACKAGE}\): "
+            "only Debian 12 and its descendants have them all",
+        )
         self.machine.make_registry()
         self.installs()
 
@@ -134,7 +141,9 @@ class Compiling(Case):
 
     def test_a_checkout_of_another_user(self):
         self.machine.own("alice")
-        self.refused("build", "this folder cannot be written: copy the checkout to one of your own, or run this as its owner", user="bob")
+        self.refused(
+            "build", "this folder cannot be written: copy the checkout to one of your own, or run this as its owner", user="bob"
+        )
         self.works("build", "alice")
         self.refused("build", "build/ belongs to another user: remove it, or run this as that user", user="bob")
         self.machine.run(f"cp -r {QUOTED} /home/bob/mine && rm -rf /home/bob/mine/build && chown -R bob:bob /home/bob/mine")
@@ -150,15 +159,21 @@ class Compiling(Case):
 
     def test_a_demonstration_without_root(self):
         self.machine.own("alice")
-        self.refused("demo", r"the demonstration's network is made by root and sudo refused: run sudo \./build\.sh demo", user="alice")
-        self.assertFalse(self.compiled())   # it is said at once
+        self.refused(
+            "demo", r"the demonstration's network is made by root and sudo refused: run sudo \./build\.sh demo", user="alice"
+        )
+        self.assertFalse(self.compiled())  # it is said at once
         self.machine.run("rm -f /usr/bin/sudo /usr/local/bin/sudo")
-        self.refused("demo", r"the demonstration's network is made by root and there is no sudo: run \./build\.sh demo as root", user="alice")
+        self.refused(
+            "demo", r"the demonstration's network is made by root and there is no sudo: run \./build\.sh demo as root", user="alice"
+        )
 
     def test_a_demonstration_is_root_for_its_network_alone(self):
         self.machine.own("alice")
         self.machine.run("echo 'alice ALL=(ALL) NOPASSWD: ALL' >/etc/sudoers.d/alice")
-        self.machine.run(f"cd {QUOTED} && mkdir -p tests/lab && echo 'import os, sys; print(os.getuid(), *sys.argv[1:])' >tests/lab/demo.py")
+        self.machine.run(
+            f"cd {QUOTED} && mkdir -p tests/lab && echo 'import os, sys; print(os.getuid(), *sys.argv[1:])' >tests/lab/demo.py"
+        )
         self.assertRegex(self.works("demo", "alice"), r"\n0 network\n4242 pictures\n\Z")
         self.assertTrue(self.compiled())
         self.assertEqual(self.machine.path(f"{CHECKOUT}/build/dev/tool").stat().st_uid, 4242)
@@ -172,8 +187,10 @@ class Compiling(Case):
         self.assertEqual(self.machine.build("test house", variables="VELDMARK_NO_SKIPS=1").returncode, 1)
 
     def test_a_repository_that_git_finds_dubious(self):
-        self.machine.run(f"cd {QUOTED} && git init --quiet && git add . && GIT_COMMITTER_DATE='2020-02-02T02:02:02Z' "
-                         "git -c user.name=x -c user.email=x@example.test commit --quiet -m x")
+        self.machine.run(
+            f"cd {QUOTED} && git init --quiet && git add . && GIT_COMMITTER_DATE='2020-02-02T02:02:02Z' "
+            "git -c user.name=x -c user.email=x@example.test commit --quiet -m x"
+        )
         self.machine.own("alice")
         self.assertIn("dubious ownership", self.machine.run(f"git -C {QUOTED} log", check=False).stderr)
         self.machine.run("printf '#!/bin/sh\\n' >/usr/local/bin/lintian && chmod 755 /usr/local/bin/lintian")

@@ -9,9 +9,9 @@
 
 namespace veldmark {
 
-// A computer below a temporary folder whose helper, sudo, pkexec and tor are scripts, for tests of the real
-// thing with its real processes. The helper notes what it was called for, writes and removes the session
-// marker, and fails where it is told to; nothing else changes.
+// A computer below a temporary folder whose helper, sudo, pkexec and tor are scripts, for tests of
+// the real thing with its real processes. The helper notes what it was called for, writes and
+// removes the session marker, and fails where it is told to; nothing else changes.
 struct Computer {
     QTemporaryDir folder;
     const PlatformProfile profile = PlatformProfile::linux(Places::below(folder.path()));
@@ -20,7 +20,8 @@ struct Computer {
     {
         write(profile.helperCandidates.constFirst(), helperText(), true);
         write(profile.torCandidates.constFirst(),
-              "#!/bin/sh\necho 16:0123456789ABCDEF0123456789ABCDEF0123456789ABCDEF0123456789\n", true);
+              "#!/bin/sh\necho 16:0123456789ABCDEF0123456789ABCDEF0123456789ABCDEF0123456789\n",
+              true);
         write(profile.sudo, "#!/bin/sh\nshift\nexec /bin/bash \"$@\"\n", true);
         write(profile.promptProgram, "#!/bin/sh\nexec /bin/bash \"$@\"\n", true);
         QDir().mkpath(profile.places.home);
@@ -62,14 +63,15 @@ private:
     QString at(const char *path) const { return folder.path() + QLatin1String(path); }
     QByteArray helperText() const
     {
-        return QStringLiteral("#!/bin/bash\n"
-                              "echo \"$1\" >>'%1/verbs'\n"
-                              "if [ -s '%1/fail-'\"$1\" ]; then echo \"ERROR: $(cat '%1/fail-'\"$1\")\" >&2; exit 1; fi\n"
-                              "case $1 in\n"
-                              "connect) mkdir -p '%2'; echo strict >'%2/active' ;;\n"
-                              "disconnect) rm -f '%2/active' ;;\n"
-                              "install-privileged) cp \"$0\" '%3' ;;\n"
-                              "esac\n")
+        return QStringLiteral(
+                   "#!/bin/bash\n"
+                   "echo \"$1\" >>'%1/verbs'\n"
+                   "if [ -s '%1/fail-'\"$1\" ]; then echo \"ERROR: $(cat '%1/fail-'\"$1\")\" >&2; exit 1; fi\n"
+                   "case $1 in\n"
+                   "connect) mkdir -p '%2'; echo strict >'%2/active' ;;\n"
+                   "disconnect) rm -f '%2/active' ;;\n"
+                   "install-privileged) cp \"$0\" '%3' ;;\n"
+                   "esac\n")
             .arg(folder.path(), QFileInfo(profile.sessionMarker).path(), profile.installedHelper)
             .toUtf8();
     }

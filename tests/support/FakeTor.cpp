@@ -87,10 +87,14 @@ void FakeTor::accept()
         const auto client = m_clients.insert(m_clients.end(), Client{socket, {}, {}, {}});
         connect(socket, &QTcpSocket::readyRead, this, [this, client] { read(*client); });
         // Queued: a client may go while its commands are being answered.
-        connect(socket, &QTcpSocket::disconnected, this, [this, socket] {
-            if (std::erase_if(m_clients, [socket](const Client &c) { return c.socket == socket; }))
-                socket->deleteLater();
-        }, Qt::QueuedConnection);
+        connect(
+            socket, &QTcpSocket::disconnected, this,
+            [this, socket] {
+                if (std::erase_if(m_clients,
+                                  [socket](const Client &c) { return c.socket == socket; }))
+                    socket->deleteLater();
+            },
+            Qt::QueuedConnection);
     }
 }
 

@@ -65,7 +65,7 @@ private:
     struct Client {
         QTcpSocket *socket;
         QByteArray received;
-        QByteArray pending; // not yet sent while dribbling
+        QByteArray pending;          // not yet sent while dribbling
         QByteArrayList ignored = {}; // commands, in order
         bool subscribed = false;
         bool closing = false;

@@ -14,7 +14,8 @@ namespace veldmark {
 // A session that another process has made: a real process, and what the helper has written of it.
 class OtherSession {
 public:
-    explicit OtherSession(const PlatformProfile &profile, uid_t user = geteuid(), const QByteArray &mode = "strict\n")
+    explicit OtherSession(const PlatformProfile &profile, uid_t user = geteuid(),
+                          const QByteArray &mode = "strict\n")
         : m_profile(profile)
     {
         m_sleeper.start(QStringLiteral("/bin/sleep"), {QStringLiteral("1000")});
@@ -31,17 +32,22 @@ public:
         m_sleeper.kill();
         m_sleeper.waitForFinished();
     }
-    void note(qint64 process, const QByteArray &start, const QByteArray &boot, uid_t user = geteuid()) const
+    void note(qint64 process, const QByteArray &start, const QByteArray &boot,
+              uid_t user = geteuid()) const
     {
-        write(m_profile.sessionOwner, "uid " + QByteArray::number(user) + "\npid " + QByteArray::number(process)
-                                          + "\nstart " + start + "\nboot " + boot + "\nend\n");
+        write(m_profile.sessionOwner,
+              "uid " + QByteArray::number(user) + "\npid " + QByteArray::number(process)
+                  + "\nstart " + start + "\nboot " + boot + "\nend\n");
     }
     static QByteArray startOf(qint64 process)
     {
         const QByteArray stat = read(QStringLiteral("/proc/%1/stat").arg(process));
         return stat.mid(stat.lastIndexOf(')') + 2).split(' ').value(19);
     }
-    static QByteArray bootID() { return read(QStringLiteral("/proc/sys/kernel/random/boot_id")).trimmed(); }
+    static QByteArray bootID()
+    {
+        return read(QStringLiteral("/proc/sys/kernel/random/boot_id")).trimmed();
+    }
 
 private:
     static QByteArray read(const QString &path)

@@ -14,12 +14,14 @@ public:
     {
         QFile config(m_folder.filePath(QStringLiteral("bus.conf")));
         if (config.open(QIODevice::WriteOnly))
-            config.write("<busconfig><type>session</type><listen>unix:dir=" + QFile::encodeName(m_folder.path())
+            config.write("<busconfig><type>session</type><listen>unix:dir="
+                         + QFile::encodeName(m_folder.path())
                          + "</listen><policy context=\"default\"><allow send_destination=\"*\"/>"
                            "<allow receive_sender=\"*\"/><allow own=\"*\"/></policy></busconfig>");
         config.close();
-        m_daemon.start(QStringLiteral("dbus-daemon"), {QStringLiteral("--nofork"), QStringLiteral("--print-address"),
-                                                       QStringLiteral("--config-file=") + config.fileName()});
+        m_daemon.start(QStringLiteral("dbus-daemon"),
+                       {QStringLiteral("--nofork"), QStringLiteral("--print-address"),
+                        QStringLiteral("--config-file=") + config.fileName()});
         while (!m_address.endsWith(u'\n') && m_daemon.waitForReadyRead(30000))
             m_address += QString::fromUtf8(m_daemon.readAllStandardOutput());
         m_address = m_address.trimmed();
@@ -37,7 +39,8 @@ public:
     // A new connection each time.
     QDBusConnection connection()
     {
-        return QDBusConnection::connectToBus(m_address, QStringLiteral("test%1").arg(++m_connections));
+        return QDBusConnection::connectToBus(m_address,
+                                             QStringLiteral("test%1").arg(++m_connections));
     }
 
 private:

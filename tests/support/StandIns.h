@@ -30,7 +30,8 @@ public:
 
     ~ScriptedRunner() override { release(); }
 
-    QCoro::Task<Result<ProcessResult, StartError>> run(QString executable, QStringList arguments) override
+    QCoro::Task<Result<ProcessResult, StartError>> run(QString executable,
+                                                       QStringList arguments) override
     {
         const Call call{executable, arguments};
         calls.push_back(call);
@@ -44,7 +45,9 @@ public:
     }
 
     // A helper's call is noted as if its options stood on the command line.
-    QCoro::Task<Result<ProcessResult, StartError>> runWithInput(QString executable, QStringList arguments, QByteArray input) override
+    QCoro::Task<Result<ProcessResult, StartError>> runWithInput(QString executable,
+                                                                QStringList arguments,
+                                                                QByteArray input) override
     {
         QStringList words = QString::fromUtf8(input).split(u'\n');
         words.resize(words.indexOf(QStringLiteral("end")));
@@ -117,7 +120,8 @@ public:
     int readings = 0;
 };
 
-// Applications that have the names and copies that a test gives them; a copy ends when the test says so.
+// Applications that have the names and copies that a test gives them; a copy ends when the test
+// says so.
 class ScriptedApplications final : public RunningApplications {
 public:
     QString displayName(const QString &path) const override { return names.value(path, path); }

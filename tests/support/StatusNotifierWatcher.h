@@ -10,7 +10,9 @@ namespace veldmark {
 // Stands in for the desktop's keeper of tray icons, with or without a panel that shows them.
 class StatusNotifierWatcher final : public QDBusVirtualObject {
 public:
-    explicit StatusNotifierWatcher(const QDBusConnection &bus, bool hasHost = true) : m_bus(bus), m_hasHost(hasHost)
+    explicit StatusNotifierWatcher(const QDBusConnection &bus, bool hasHost = true)
+        : m_bus(bus),
+          m_hasHost(hasHost)
     {
         m_bus.registerVirtualObject(path(), this);
         m_bus.registerService(name());
@@ -24,8 +26,10 @@ public:
     void setHost(bool on)
     {
         m_hasHost = on;
-        m_bus.send(QDBusMessage::createSignal(path(), name(), on ? QStringLiteral("StatusNotifierHostRegistered")
-                                                                 : QStringLiteral("StatusNotifierHostUnregistered")));
+        m_bus.send(
+            QDBusMessage::createSignal(path(), name(),
+                                       on ? QStringLiteral("StatusNotifierHostRegistered")
+                                          : QStringLiteral("StatusNotifierHostUnregistered")));
     }
 
     QString introspect(const QString &) const override { return {}; }

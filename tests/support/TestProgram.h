@@ -1,8 +1,9 @@
 #pragma once
 
-// One test program for each room instead of one for each test class: linking and preparing more than a hundred programs took
-// longer than compiling them. A test source ends with one of the macros below in place of Qt's QTEST_MAIN; the program runs the
-// class that its first argument names, with the other arguments handed to Qt Test:
+// One test program for each room instead of one for each test class: linking and preparing more
+// than a hundred programs took longer than compiling them. A test source ends with one of the
+// macros below in place of Qt's QTEST_MAIN; the program runs the class that its first argument
+// names, with the other arguments handed to Qt Test:
 //
 //     test-controller ConnectTest [SLOT…]
 //
@@ -32,19 +33,17 @@ namespace veldmark::test {
 
 struct Registration {
     using Run = int (*)(int argc, char **argv);
-    Registration(const char *className, Run run);   // both live as long as the program
+    Registration(const char *className, Run run); // both live as long as the program
 };
 
 // Without an application object.
-template<class Test>
-int runBare(int argc, char **argv)
+template <class Test> int runBare(int argc, char **argv)
 {
     Test test;
     return QTest::qExec(&test, argc, argv);
 }
 
-template<class Test, class Application>
-int run(int argc, char **argv)
+template <class Test, class Application> int run(int argc, char **argv)
 {
     QTest::Internal::callInitMain<Test>();
     Application application(argc, argv);
@@ -59,9 +58,12 @@ using WindowedApplication = QGuiApplication;
 
 } // namespace veldmark::test
 
-#define VELDMARK_TEST(Class) \
-    static const veldmark::test::Registration registered##Class(#Class, veldmark::test::run<Class, QCoreApplication>);
-#define VELDMARK_WINDOWED_TEST(Class) \
-    static const veldmark::test::Registration registered##Class(#Class, veldmark::test::run<Class, veldmark::test::WindowedApplication>);
-#define VELDMARK_BARE_TEST(Class) \
-    static const veldmark::test::Registration registered##Class(#Class, veldmark::test::runBare<Class>);
+#define VELDMARK_TEST(Class)                                                                       \
+    static const veldmark::test::Registration registered##Class(                                   \
+        #Class, veldmark::test::run<Class, QCoreApplication>);
+#define VELDMARK_WINDOWED_TEST(Class)                                                              \
+    static const veldmark::test::Registration registered##Class(                                   \
+        #Class, veldmark::test::run<Class, veldmark::test::WindowedApplication>);
+#define VELDMARK_BARE_TEST(Class)                                                                  \
+    static const veldmark::test::Registration registered##Class(#Class,                            \
+                                                                veldmark::test::runBare<Class>);

@@ -26,14 +26,16 @@ PlatformProfile profileBelow(const QString &folder, Workbench::System system)
     if (system == Workbench::System::linux)
         return PlatformProfile::linux(places);
     PlatformProfile profile = PlatformProfile::macos(places);
-    profile.settingsFile = places.configHome + QStringLiteral("/settings.conf"); // not this computer's store
+    // not this computer's store
+    profile.settingsFile = places.configHome + QStringLiteral("/settings.conf");
     return profile;
 }
 
 // The words of a command line in which every word is in single quotes.
 QStringList unquoted(QString line)
 {
-    line.replace(QLatin1String("\\\""), QLatin1String("\"")).replace(QLatin1String("\\\\"), QLatin1String("\\"));
+    line.replace(QLatin1String("\\\""), QLatin1String("\""))
+        .replace(QLatin1String("\\\\"), QLatin1String("\\"));
     QStringList words;
     QString word;
     bool quoted = false;
@@ -60,7 +62,8 @@ QCoro::Task<TransportDownloader::Outcome> installed()
     co_return InstalledBundle{QStringLiteral("14.0.4"), true};
 }
 
-QCoro::Task<PluggableTransports> answered(PluggableTransports transports, std::function<QCoro::Task<void>()> before)
+QCoro::Task<PluggableTransports> answered(PluggableTransports transports,
+                                          std::function<QCoro::Task<void>()> before)
 {
     if (before)
         co_await before();
@@ -97,10 +100,10 @@ void Workbench::bothSystems()
 }
 
 Workbench::Workbench(System system)
-    : profile(profileBelow(folder.path(), system))
-    , terminal(profile, QStringLiteral("https://check.example/api/ip"))
-    , installTransports([](bool, TransportDownloader::Progress) { return installed(); })
-    , bridgeProbe([](QString, quint16, std::chrono::milliseconds) { return noAnswer(); })
+    : profile(profileBelow(folder.path(), system)),
+      terminal(profile, QStringLiteral("https://check.example/api/ip")),
+      installTransports([](bool, TransportDownloader::Progress) { return installed(); }),
+      bridgeProbe([](QString, quint16, std::chrono::milliseconds) { return noAnswer(); })
 {
     NameLookups::clear();
     QObject::connect(&m_watcher, &QTimer::timeout, &m_watcher, [this] { setNoteAge(0s); });
@@ -133,7 +136,8 @@ void Workbench::restart()
     controlPort = std::make_unique<ControlPort>(socketClock, tor.port());
     privileged = std::make_unique<PrivilegedRunner>(profile, processes, ordinaryUser);
     settings = std::make_unique<SettingsStore>(profile);
-    const decltype(installTransports) install = [this](bool throughTor, TransportDownloader::Progress progress) {
+    const decltype(installTransports) install = [this](bool throughTor,
+                                                       TransportDownloader::Progress progress) {
         return installTransports(throughTor, std::move(progress));
     };
     m_controller = std::make_unique<TorController>(TorController::Services{
@@ -147,23 +151,27 @@ void Workbench::restart()
         .resolvers = resolvers,
         .terminal = terminal,
         .applications = applications,
-        .locateTransports = [this] {
-            ++searches;
-            return answered(transports, beforeSearchAnswer);
-        },
-        .bridgeProbe = [this](QString host, quint16 port, std::chrono::milliseconds limit) {
-            return bridgeProbe(std::move(host), port, limit);
-        },
+        .locateTransports =
+            [this] {
+                ++searches;
+                return answered(transports, beforeSearchAnswer);
+            },
+        .bridgeProbe =
+            [this](QString host, quint16 port, std::chrono::milliseconds limit) {
+                return bridgeProbe(std::move(host), port, limit);
+            },
         .installTransports = withoutDownloader ? nullptr : install,
-        .cancelTransports = [this] {
-            if (cancelTransports)
-                cancelTransports();
-        },
+        .cancelTransports =
+            [this] {
+                if (cancelTransports)
+                    cancelTransports();
+            },
         .ownAddresses = [this] { return ownAddresses; },
         .route = [this] { return route; },
-        .missingApprovals = [this](const QStringList &words) {
-            return missingApprovals ? missingApprovals(words) : std::vector<ProgramApproval>();
-        },
+        .missingApprovals =
+            [this](const QStringList &words) {
+                return missingApprovals ? missingApprovals(words) : std::vector<ProgramApproval>();
+            },
     });
     settle();
 }
@@ -182,7 +190,8 @@ void Workbench::disconnect()
 
 bool Workbench::tick()
 {
-    // The monitor and the watch over the rules go to sleep anew; loops of earlier sessions wake only to end.
+    // The monitor and the watch over the rules go to sleep anew; loops of earlier sessions wake
+    // only to end.
     const auto goal = clock.totalSlept() + 2 * 2s;
     clock.advance(2s);
     return until([this, goal] {
@@ -217,25 +226,27 @@ std::vector<QStringList> Workbench::helperRuns() const
 QStringList Workbench::lastHelperRun(const QString &verb) const
 {
     const auto runs = helperRuns();
-    const auto run = std::find_if(runs.rbegin(), runs.rend(), [&verb](const QStringList &arguments) {
-        return arguments.constFirst() == verb;
-    });
+    const auto run = std::find_if(
+        runs.rbegin(), runs.rend(),
+        [&verb](const QStringList &arguments) { return arguments.constFirst() == verb; });
     return run == runs.rend() ? QStringList() : *run;
 }
 
 int Workbench::helperRunCount(const QString &verb) const
 {
     const auto runs = helperRuns();
-    return static_cast<int>(std::count_if(runs.begin(), runs.end(), [&verb](const QStringList &arguments) {
-        return arguments.constFirst() == verb;
-    }));
+    return static_cast<int>(
+        std::count_if(runs.begin(), runs.end(), [&verb](const QStringList &arguments) {
+            return arguments.constFirst() == verb;
+        }));
 }
 
 ProcessResult Workbench::refusal(const QString &message) const
 {
     return profile.promptKind == PromptKind::PolicyKit
         ? ProcessResult{1, {}, QStringLiteral("ERROR: %1\n").arg(message)}
-        : ProcessResult{1, {}, QStringLiteral("0:99: execution error: ERROR: %1 (1)\n").arg(message)};
+        : ProcessResult{
+            1, {}, QStringLiteral("0:99: execution error: ERROR: %1 (1)\n").arg(message)};
 }
 
 void Workbench::failHelper(const QString &verb, const QString &message)
@@ -246,7 +257,10 @@ void Workbench::failHelper(const QString &verb, const QString &message)
 void Workbench::cancelPrompt(const QString &verb)
 {
     m_refusals[verb] = profile.promptKind == PromptKind::PolicyKit
-        ? ProcessResult{126, {}, QStringLiteral("Error executing command as another user: Request dismissed\n")}
+        ? ProcessResult{126,
+                        {},
+                        QStringLiteral(
+                            "Error executing command as another user: Request dismissed\n")}
         : ProcessResult{1, {}, QStringLiteral("0:99: execution error: User canceled. (-128)\n")};
 }
 
@@ -268,7 +282,8 @@ Result<ProcessResult, StartError> Workbench::run(const ScriptedRunner::Call &cal
         return refused->second;
     if (verb == QLatin1String("connect") || verb == QLatin1String("replace")) {
         tor.setHash(arguments.at(arguments.indexOf(QStringLiteral("--hash")) + 1));
-        const bool strict = arguments.at(arguments.indexOf(QStringLiteral("--strict")) + 1) == QLatin1String("1");
+        const bool strict = arguments.at(arguments.indexOf(QStringLiteral("--strict")) + 1)
+            == QLatin1String("1");
         writeMarker(strict ? "strict\n" : "proxy\n");
         QFile::remove(profile.killSwitchNote);
         if (strict)
@@ -282,7 +297,8 @@ Result<ProcessResult, StartError> Workbench::run(const ScriptedRunner::Call &cal
 
 void Workbench::noteRules(const QByteArray &word, int missed, qint64 since)
 {
-    writeFile(profile.killSwitchNote, word + ' ' + QByteArray::number(missed) + ' ' + QByteArray::number(since) + '\n');
+    writeFile(profile.killSwitchNote,
+              word + ' ' + QByteArray::number(missed) + ' ' + QByteArray::number(since) + '\n');
     m_watcher.start(200ms);
 }
 
@@ -290,7 +306,8 @@ void Workbench::setNoteAge(std::chrono::seconds age)
 {
     QFile note(profile.killSwitchNote);
     if (note.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
-        note.setFileTime(QDateTime::currentDateTimeUtc().addSecs(-age.count()), QFileDevice::FileModificationTime);
+        note.setFileTime(QDateTime::currentDateTimeUtc().addSecs(-age.count()),
+                         QFileDevice::FileModificationTime);
 }
 
 void Workbench::killWatcher()
@@ -332,13 +349,16 @@ void Workbench::removeTor() const
 
 void Workbench::setBootstrap(const QByteArray &fields)
 {
-    tor.reply(bootstrapCommand, "250-status/bootstrap-phase=NOTICE BOOTSTRAP " + fields + "\r\n250 OK\r\n");
+    tor.reply(bootstrapCommand,
+              "250-status/bootstrap-phase=NOTICE BOOTSTRAP " + fields + "\r\n250 OK\r\n");
 }
 
 void Workbench::setCounters(const QByteArray &read, const QByteArray &written)
 {
-    tor.reply(countersCommand, "250-traffic/read=" + read + "\r\n250-traffic/written=" + written
-                  + "\r\n250-status/circuit-established=" + (hasCircuit ? "1" : "0") + "\r\n250 OK\r\n");
+    tor.reply(countersCommand,
+              "250-traffic/read=" + read + "\r\n250-traffic/written=" + written
+                  + "\r\n250-status/circuit-established=" + (hasCircuit ? "1" : "0")
+                  + "\r\n250 OK\r\n");
 }
 
 QByteArray Workbench::block(const QByteArray &key, const QByteArrayList &lines)

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "controller/TorController.h"
 #include "control/ControlPort.h"
+#include "controller/TorController.h"
 #include "platform/PlatformProfile.h"
 #include "support/FakeTor.h"
 #include "support/ManualClock.h"
@@ -26,8 +26,8 @@ void settle();
 
 // A whole controller in a computer of its own: the files of one of the systems below a temporary
 // folder, with a `tor` and a helper, real objects where they touch nothing else, and stand-ins for
-// programs, Tor, the network and time. What is not told otherwise goes well: the helper does what it
-// is asked (it writes and removes the session marker), Tor has bootstrapped at once, the probe
+// programs, Tor, the network and time. What is not told otherwise goes well: the helper does what
+// it is asked (it writes and removes the session marker), Tor has bootstrapped at once, the probe
 // through Tor answers and the direct one does not, the live DNS test cannot begin.
 //
 // Time passes when the test moves `clock`. The control port has `socketClock`, which a test moves
@@ -38,7 +38,8 @@ public:
     // The data of a test that runs on both systems: one column "system".
     static void bothSystems();
     static constexpr auto bootstrapCommand = "GETINFO status/bootstrap-phase";
-    static constexpr auto countersCommand = "GETINFO traffic/read traffic/written status/circuit-established";
+    static constexpr auto countersCommand
+        = "GETINFO traffic/read traffic/written status/circuit-established";
 
     explicit Workbench(System system = System::linux);
     ~Workbench();
@@ -54,8 +55,7 @@ public:
     // The same for disconnect(), whatever it leads to.
     void disconnect();
     // Waits for the end of an operation.
-    template <typename T>
-    static bool finished(const QCoro::Task<T> &task)
+    template <typename T> static bool finished(const QCoro::Task<T> &task)
     {
         return until([&task] { return task.isReady(); });
     }
@@ -67,7 +67,8 @@ public:
     std::vector<QStringList> helperRuns() const;
     QStringList lastHelperRun(const QString &verb) const;
     int helperRunCount(const QString &verb) const;
-    // What the helper answers to a verb from now on, instead of doing it; "connect" stands for "replace" as well.
+    // What the helper answers to a verb from now on, instead of doing it; "connect" stands for
+    // "replace" as well.
     void failHelper(const QString &verb, const QString &message);
     void cancelPrompt(const QString &verb);
     void letHelperWork() { m_refusals.clear(); }
@@ -76,16 +77,17 @@ public:
     // The password that Tor was last asked with.
     QString password() const { return tor.password(); }
 
-    // What the watcher over the firewall's rules has seen: "standing", "restored" or "open", how often the rules were
-    // missed, and when it began. It has "standing 0" once a strict session was set up, and goes on looking (its note
-    // stays young) until it is killed.
+    // What the watcher over the firewall's rules has seen: "standing", "restored" or "open", how
+    // often the rules were missed, and when it began. It has "standing 0" once a strict session was
+    // set up, and goes on looking (its note stays young) until it is killed.
     void noteRules(const QByteArray &word, int missed = 0, qint64 since = 1'800'000'000);
     void killWatcher();
 
     void writeMarker(const QByteArray &content);
     void removeMarker();
     bool hasMarker() const;
-    void writeFile(const QString &path, const QByteArray &content = {}, bool executable = false) const;
+    void writeFile(const QString &path, const QByteArray &content = {},
+                   bool executable = false) const;
     void removeTor() const;
 
     // Tor's answer to the bootstrap question: "PROGRESS=… TAG=… SUMMARY=…".
@@ -110,14 +112,16 @@ public:
     ScriptedResolvers resolvers;
     TerminalIntegration terminal;
     ScriptedApplications applications;
-    std::function<std::vector<ProgramApproval>(const QStringList &words)> missingApprovals; // none, unless set before a connect
-    PluggableTransports transports; // what a search finds
-    int searches = 0;               // for transports
+    // none, unless set before a connect
+    std::function<std::vector<ProgramApproval>(const QStringList &words)> missingApprovals;
+    PluggableTransports transports;                        // what a search finds
+    int searches = 0;                                      // for transports
     std::function<QCoro::Task<void>()> beforeSearchAnswer; // what is found is settled before it
-    bool withoutDownloader = false; // of the next restart()
-    std::function<void()> cancelTransports; // heard when a direct download is to end
+    bool withoutDownloader = false;                        // of the next restart()
+    std::function<void()> cancelTransports;                // heard when a direct download is to end
     // What a download comes to; well, unless this says otherwise.
-    std::function<QCoro::Task<TransportDownloader::Outcome>(bool throughTor, TransportDownloader::Progress progress)>
+    std::function<QCoro::Task<TransportDownloader::Outcome>(bool throughTor,
+                                                            TransportDownloader::Progress progress)>
         installTransports;
     // How long a bridge takes to answer; none answer unless this says so.
     BridgeProbe bridgeProbe;

@@ -34,8 +34,10 @@ def describe(node, depth=0):
         "states": sorted(state.value_nick for state in node.get_state_set().get_states()),
         "value": value_of(node),
         "text": text_of(node),
-        "x": place.x if place else 0, "y": place.y if place else 0,
-        "width": place.width if place else 0, "height": place.height if place else 0,
+        "x": place.x if place else 0,
+        "y": place.y if place else 0,
+        "width": place.width if place else 0,
+        "height": place.height if place else 0,
         "actions": [Atspi.Action.get_action_name(actions, i) for i in range(actions.get_n_actions())] if actions else [],
         "children": [] if depth > 60 else children(node, depth + 1),
     }
@@ -56,7 +58,7 @@ def children(node, depth):
 def main():
     wanted = int(sys.argv[1])
     desktop = Atspi.get_desktop(0)
-    windows = []   # a Qt program whose desktop theme uses GTK is there twice, once as each
+    windows = []  # a Qt program whose desktop theme uses GTK is there twice, once as each
     for i in range(desktop.get_child_count()):
         application = desktop.get_child_at_index(i)
         try:

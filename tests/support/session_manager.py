@@ -11,8 +11,18 @@ import sys
 
 ICE, SM = ctypes.CDLL("libICE.so.6"), ctypes.CDLL("libSM.so.6")
 P, I = ctypes.c_void_p, ctypes.c_int
-CALLBACKS = ("register_client", "interact_request", "interact_done", "save_yourself_request", "save_yourself_phase2_request",
-             "save_yourself_done", "close_connection", "set_properties", "delete_properties", "get_properties")
+CALLBACKS = (
+    "register_client",
+    "interact_request",
+    "interact_done",
+    "save_yourself_request",
+    "save_yourself_phase2_request",
+    "save_yourself_done",
+    "close_connection",
+    "set_properties",
+    "delete_properties",
+    "get_properties",
+)
 SAVE_BOTH, STYLE_ANY = 2, 2
 PENDING = 0
 
@@ -26,17 +36,29 @@ class Callbacks(ctypes.Structure):
 
 
 for name, result, arguments in (
-        ("SmsGenerateClientID", P, [P]), ("SmsRegisterClientReply", I, [P, P]),
-        ("SmsSaveYourself", None, [P, I, I, I, I]), ("SmsDie", None, [P]), ("SmsGetIceConnection", P, [P]),
-        ("SmsCleanUp", None, [P]), ("SmsSaveComplete", None, [P]),
-        ("SmsInitialize", I, [ctypes.c_char_p, ctypes.c_char_p, P, P, P, I, P])):
+    ("SmsGenerateClientID", P, [P]),
+    ("SmsRegisterClientReply", I, [P, P]),
+    ("SmsSaveYourself", None, [P, I, I, I, I]),
+    ("SmsDie", None, [P]),
+    ("SmsGetIceConnection", P, [P]),
+    ("SmsCleanUp", None, [P]),
+    ("SmsSaveComplete", None, [P]),
+    ("SmsInitialize", I, [ctypes.c_char_p, ctypes.c_char_p, P, P, P, I, P]),
+):
     function = getattr(SM, name)
     function.restype, function.argtypes = result, arguments
 for name, result, arguments in (
-        ("IceListenForConnections", I, [P, P, I, P]), ("IceGetListenConnectionNumber", I, [P]),
-        ("IceSetHostBasedAuthProc", None, [P, P]), ("IceComposeNetworkIdList", ctypes.c_char_p, [I, P]),
-        ("IceAcceptConnection", P, [P, P]), ("IceConnectionNumber", I, [P]), ("IceConnectionStatus", I, [P]),
-        ("IceProcessMessages", I, [P, P, P]), ("IceSetShutdownNegotiation", None, [P, I]), ("IceCloseConnection", I, [P])):
+    ("IceListenForConnections", I, [P, P, I, P]),
+    ("IceGetListenConnectionNumber", I, [P]),
+    ("IceSetHostBasedAuthProc", None, [P, P]),
+    ("IceComposeNetworkIdList", ctypes.c_char_p, [I, P]),
+    ("IceAcceptConnection", P, [P, P]),
+    ("IceConnectionNumber", I, [P]),
+    ("IceConnectionStatus", I, [P]),
+    ("IceProcessMessages", I, [P, P, P]),
+    ("IceSetShutdownNegotiation", None, [P, I]),
+    ("IceCloseConnection", I, [P]),
+):
     function = getattr(ICE, name)
     function.restype, function.argtypes = result, arguments
 

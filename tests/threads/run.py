@@ -24,21 +24,26 @@ REPORTED = 66  # the sanitizer's exit status
 def accesses(report: str) -> list[str]:
     """The stacks of what is said to race, without those that say where memory and threads come from."""
     stacks = re.split(r"\n\s*\n", report)
-    return [stack for stack in stacks if re.search(r"(read|write) of size|Mutex|Cycle", stack, re.IGNORECASE)
-            and not re.match(r"\s*(Mutex|Location|Thread|As if)", stack)]
+    return [
+        stack
+        for stack in stacks
+        if re.search(r"(read|write) of size|Mutex|Cycle", stack, re.IGNORECASE)
+        and not re.match(r"\s*(Mutex|Location|Thread|As if)", stack)
+    ]
 
 
 def is_ours(report: str) -> bool:
     def module_that_acts(stack: str) -> str:
         frames = re.findall(r"^\s+#\d+ .*\((\S+)\+0x[0-9a-f]+\)", stack, re.MULTILINE)
         return next((module for module in frames if not module.startswith("libtsan")), "")
+
     found = accesses(report)
     return not found or not all(re.match(r"lib(Qt6|dbus|glib|c\.)", Path(module_that_acts(stack)).name) for stack in found)
 
 
 def main() -> int:
     races = sys.argv[1] == "--races"
-    command = sys.argv[2 if races else 1:]
+    command = sys.argv[2 if races else 1 :]
     with tempfile.TemporaryDirectory() as folder:
         options = f"log_path={folder}/report:exitcode={REPORTED}:second_deadlock_stack=1:history_size=4"
         done = subprocess.run(command, cwd=PROJECT, env=os.environ | {"TSAN_OPTIONS": options}, check=False)

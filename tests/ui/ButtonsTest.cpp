@@ -11,7 +11,8 @@ namespace {
 
 QString textOf(const QQuickItem *item)
 {
-    return item->inherits("QQuickComboBox") ? item->property("name").toString() : item->property("text").toString();
+    return item->inherits("QQuickComboBox") ? item->property("name").toString()
+                                            : item->property("text").toString();
 }
 
 // What can be pressed, in the order in which it is found.
@@ -19,7 +20,8 @@ QList<QQuickItem *> controls(QQuickWindow *window)
 {
     QList<QQuickItem *> found;
     visit(window->contentItem(), [&found](QQuickItem *item) {
-        if ((item->inherits("QQuickAbstractButton") || item->inherits("QQuickComboBox")) && item->isEnabled())
+        if ((item->inherits("QQuickAbstractButton") || item->inherits("QQuickComboBox"))
+            && item->isEnabled())
             found << item;
     });
     // Behind a sheet nothing can be pressed.
@@ -35,9 +37,17 @@ QList<QQuickItem *> controls(QQuickWindow *window)
 
 QString choicesOf(const Choices &c)
 {
-    return QStringLiteral("strict %1, local %2, country %3, tor %4, bridges %5, lines %6, apps %7, auto %8, speed %9, terminal %10, separate %11")
-        .arg(c.strictMode).arg(c.allowLocalNetwork).arg(c.exitCountry, c.customTorPath, rawValue(c.bridgeChoice))
-        .arg(c.customBridges.size()).arg(c.bypassApps.join(u' ')).arg(c.autoConnect).arg(c.optimizeSpeed).arg(c.terminalMode).arg(c.separateApps);
+    return QStringLiteral(
+               "strict %1, local %2, country %3, tor %4, bridges %5, lines %6, apps %7, auto %8, speed %9, terminal %10, separate %11")
+        .arg(c.strictMode)
+        .arg(c.allowLocalNetwork)
+        .arg(c.exitCountry, c.customTorPath, rawValue(c.bridgeChoice))
+        .arg(c.customBridges.size())
+        .arg(c.bypassApps.join(u' '))
+        .arg(c.autoConnect)
+        .arg(c.optimizeSpeed)
+        .arg(c.terminalMode)
+        .arg(c.separateApps);
 }
 
 // The state that a button may change, a line for each part.
@@ -47,25 +57,30 @@ QStringList stateOf(Stage &stage)
     QStringList state;
     for (const QString &part : choicesOf(stage.session.now().choices).split(QStringLiteral(", ")))
         state << part;
-    state << QStringLiteral("error %1").arg(stage.session.now().errorMessage.value_or(QString()).english().left(20))
+    state << QStringLiteral("error %1")
+                 .arg(stage.session.now().errorMessage.value_or(QString()).english().left(20))
           << QStringLiteral("open at login %1").arg(stage.session.now().openAtLogin.value_or(false))
           << QStringLiteral("shown %1").arg(window->isVisible())
           << QStringLiteral("pane %1").arg(window->property("pane").toString())
           << QStringLiteral("followed %1").arg(stage.circuits.followed())
           << QStringLiteral("problems only %1").arg(stage.lines.problemsOnly())
           << QStringLiteral("log files %1").arg(stage.lines.revealProblem())
-          << QStringLiteral("clipboard %1").arg(QGuiApplication::clipboard()->text().section(u'\n', 0, 0));
+          << QStringLiteral("clipboard %1")
+                 .arg(QGuiApplication::clipboard()->text().section(u'\n', 0, 0));
     if (const auto *lines = window->findChild<QQuickItem *>(QStringLiteral("lines")))
         state << QStringLiteral("follow %1").arg(lines->property("follow").toBool());
     for (const char *name : {"applications", "bridges", "doctor"})
         if (const auto *sheet = window->findChild<QObject *>(QLatin1String(name)))
-            state << QStringLiteral("sheet %1 %2").arg(QLatin1String(name)).arg(sheet->property("visible").toBool());
+            state << QStringLiteral("sheet %1 %2")
+                         .arg(QLatin1String(name))
+                         .arg(sheet->property("visible").toBool());
     return state;
 }
 
 } // namespace
 
-// Every button of every window is pressed once, and what came of it is what it was when somebody last read it.
+// Every button of every window is pressed once, and what came of it is what it was when somebody
+// last read it.
 class ButtonsTest : public QObject {
     Q_OBJECT
 
@@ -83,9 +98,11 @@ private:
         std::vector<std::unique_ptr<QSignalSpy>> spies;
         const QMetaObject *own = window->metaObject();
         for (int i = QQuickWindow::staticMetaObject.methodCount(); i < own->methodCount(); ++i)
-            if (own->method(i).methodType() == QMetaMethod::Signal && own->method(i).name().endsWith("anted"))
+            if (own->method(i).methodType() == QMetaMethod::Signal
+                && own->method(i).name().endsWith("anted"))
                 spies.push_back(std::make_unique<QSignalSpy>(window, own->method(i)));
-        spies.push_back(std::make_unique<QSignalSpy>(window, QMetaMethod::fromSignal(&QWindow::visibleChanged)));
+        spies.push_back(std::make_unique<QSignalSpy>(
+            window, QMetaMethod::fromSignal(&QWindow::visibleChanged)));
         if (own->indexOfSignal("cancelled()") >= 0)
             spies.push_back(std::make_unique<QSignalSpy>(window, SIGNAL(cancelled())));
         const QStringList before = stateOf(stage);
@@ -93,14 +110,18 @@ private:
         opened.clear();
         if (item->inherits("QQuickComboBox")) {
             item->forceActiveFocus();
-            const bool isLast = item->property("currentIndex").toInt() == item->property("count").toInt() - 1;
+            const bool isLast = item->property("currentIndex").toInt()
+                == item->property("count").toInt() - 1;
             QTest::keyClick(window, isLast ? Qt::Key_Up : Qt::Key_Down);
         } else {
             for (QQuickItem *above = item->parentItem(); above; above = above->parentItem())
-                if (above->inherits("QQuickListView")) { // its last rows may lie below what it shows
-                    const double end = item->mapToItem(above, QPointF(0, item->height())).y() - above->height();
+                // its last rows may lie below what it shows
+                if (above->inherits("QQuickListView")) {
+                    const double end = item->mapToItem(above, QPointF(0, item->height())).y()
+                        - above->height();
                     if (end > 0)
-                        above->setProperty("contentY", above->property("contentY").toDouble() + end);
+                        above->setProperty("contentY",
+                                           above->property("contentY").toDouble() + end);
                 }
             const QPointF center = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
             QTest::mouseClick(window, Qt::LeftButton, {}, center.toPoint());
@@ -114,7 +135,8 @@ private:
         for (const auto &spy : spies)
             for (const QList<QVariant> &call : *spy)
                 if (!spy->signal().startsWith("visibleChanged"))
-                    came << QStringLiteral("tells ") + QString::fromLatin1(spy->signal()).section(u'(', 0, 0)
+                    came << QStringLiteral("tells ")
+                            + QString::fromLatin1(spy->signal()).section(u'(', 0, 0)
                             + (call.isEmpty() ? QString() : u' ' + call.first().toString());
         const QStringList after = stateOf(stage);
         for (qsizetype i = 0; i < before.size(); ++i)
@@ -147,9 +169,11 @@ private Q_SLOTS:
     {
         QFETCH(QString, kind);
         std::vector<WindowScene> scenes = everyScene();
-        std::erase_if(scenes, [&kind](const WindowScene &scene) { return kindOf(scene.name) != kind; });
+        std::erase_if(scenes,
+                      [&kind](const WindowScene &scene) { return kindOf(scene.name) != kind; });
         QString now;
-        QSet<QString> pressed; // a button that was pressed in an earlier state of the kind is not pressed again
+        // a button that was pressed in an earlier state of the kind is not pressed again
+        QSet<QString> pressed;
         for (const WindowScene &scene : scenes) {
             QString lines;
             QStringList texts;
@@ -168,8 +192,9 @@ private Q_SLOTS:
                 QGuiApplication::clipboard()->clear();
                 QVERIFY(openTall(scene, stage));
                 const QString came = press(stage, place);
-                QVERIFY2(!came.isEmpty() || isChosenAlready(text, scene.name),
-                         qPrintable(scene.name + QStringLiteral(": nothing comes of \"%1\"").arg(text)));
+                QVERIFY2(
+                    !came.isEmpty() || isChosenAlready(text, scene.name),
+                    qPrintable(scene.name + QStringLiteral(": nothing comes of \"%1\"").arg(text)));
                 lines += QStringLiteral("  (%1) %2\n").arg(text, came);
             }
             if (!lines.isEmpty())
@@ -181,10 +206,12 @@ private Q_SLOTS:
 private:
     static bool openTall(const WindowScene &scene, Stage &stage)
     {
-        stage.profile.runDirectory = QStringLiteral("/nowhere"); // so that the log's files cannot be shown
+        // so that the log's files cannot be shown
+        stage.profile.runDirectory = QStringLiteral("/nowhere");
         if (!scene.open(stage))
             return false;
-        stage.window()->resize(std::max(stage.window()->width(), 400), 1700); // nothing is scrolled away
+        // nothing is scrolled away
+        stage.window()->resize(std::max(stage.window()->width(), 400), 1700);
         stage.picture();
         return true;
     }
@@ -192,10 +219,12 @@ private:
     {
         std::vector<WindowScene> scenes;
         for (const Scenes::Scene &scene : Scenes::panel())
-            scenes.push_back({QStringLiteral("panel/") + scene.name, [session = scene.snapshot](Stage &stage) {
-                stage.session.show(session);
-                return stage.open(QStringLiteral("main/MainWindow.qml"), panelProperties(stage));
-            }});
+            scenes.push_back(
+                {QStringLiteral("panel/") + scene.name, [session = scene.snapshot](Stage &stage) {
+                     stage.session.show(session);
+                     return stage.open(QStringLiteral("main/MainWindow.qml"),
+                                       panelProperties(stage));
+                 }});
         for (const WindowScene &scene : windowScenes())
             scenes.push_back(scene);
         return scenes;
@@ -204,12 +233,15 @@ private:
     static QString kindOf(const QString &scene)
     {
         const QString window = scene.section(u'/', 0, 0).section(u' ', 0, 0);
-        return window == QLatin1String("panel") ? QStringLiteral("panel-") + scene.section(u'/', 1).section(u'-', 0, 1) : window;
+        return window == QLatin1String("panel")
+            ? QStringLiteral("panel-") + scene.section(u'/', 1).section(u'-', 0, 1)
+            : window;
     }
     // A tab or a choice that is the current one: pressing it changes nothing.
     static bool isChosenAlready(const QString &text, const QString &scene)
     {
-        return scene.startsWith(QStringLiteral("settings ") + text.toLower()) || text == QStringLiteral("Automatic");
+        return scene.startsWith(QStringLiteral("settings ") + text.toLower())
+            || text == QStringLiteral("Automatic");
     }
 };
 

@@ -57,14 +57,16 @@ class CircuitsWindowTest : public QObject {
     {
         const auto items = stage->window()->findChildren<QQuickItem *>();
         return std::any_of(items.begin(), items.end(), [&text](const QQuickItem *item) {
-            return item->isVisible() && item->inherits("QQuickText") && item->property("text").toString() == text;
+            return item->isVisible() && item->inherits("QQuickText")
+                && item->property("text").toString() == text;
         });
     }
     // The circuit's row in the list; null when it is not near what can be seen.
     QQuickItem *rowOf(QQuickItem *list, const QString &id) const
     {
-        const auto found = std::find_if(session.circuits.begin(), session.circuits.end(),
-                                        [&id](const CircuitInfo &circuit) { return circuit.id == id; });
+        const auto found = std::find_if(
+            session.circuits.begin(), session.circuits.end(),
+            [&id](const CircuitInfo &circuit) { return circuit.id == id; });
         QQuickItem *item = nullptr;
         QMetaObject::invokeMethod(list, "itemAtIndex", Q_RETURN_ARG(QQuickItem *, item),
                                   Q_ARG(int, static_cast<int>(found - session.circuits.begin())));
@@ -128,7 +130,8 @@ private Q_SLOTS:
         point(graph->mapToScene(QPointF(graph->width() * 0.6, 4)).toPoint());
         QCOMPARE(stage->picture(), followed);
         // Its circuit is closed: nothing is followed any more.
-        std::erase_if(session.circuits, [](const CircuitInfo &circuit) { return circuit.id == QLatin1String("15"); });
+        std::erase_if(session.circuits,
+                      [](const CircuitInfo &circuit) { return circuit.id == QLatin1String("15"); });
         stage->session.show(session);
         QVERIFY(!standsOut());
     }
@@ -143,7 +146,8 @@ private Q_SLOTS:
         QVERIFY(list);
         QTRY_VERIFY(list->property("contentY").toDouble() > 500);
         QQuickItem *item = nullptr;
-        QMetaObject::invokeMethod(list, "itemAtIndex", Q_RETURN_ARG(QQuickItem *, item), Q_ARG(int, 29));
+        QMetaObject::invokeMethod(list, "itemAtIndex", Q_RETURN_ARG(QQuickItem *, item),
+                                  Q_ARG(int, 29));
         QVERIFY(item);
         const QRectF place = item->mapRectToItem(list, QRectF(0, 0, item->width(), item->height()));
         QVERIFY(place.top() >= -1 && place.bottom() <= list->height() + 1);
@@ -184,12 +188,14 @@ private Q_SLOTS:
         CircuitInfo newer = session.circuits.front();
         newer.id = QStringLiteral("900");
         session.circuits.insert(session.circuits.begin(), newer);
-        std::erase_if(session.circuits, [](const CircuitInfo &circuit) { return circuit.id == QLatin1String("13"); });
+        std::erase_if(session.circuits,
+                      [](const CircuitInfo &circuit) { return circuit.id == QLatin1String("13"); });
         stage->session.show(session);
         stage->picture();
         QCOMPARE(rowOf(list, reading), row);
         QVERIFY(row->hasActiveFocus());
-        QVERIFY2(qAbs(row->mapToItem(list, QPointF()).y() - before) <= row->height(), "the list has moved");
+        QVERIFY2(qAbs(row->mapToItem(list, QPointF()).y() - before) <= row->height(),
+                 "the list has moved");
         QCOMPARE(stage->circuits.followed(), session.circuits[1].id);
     }
 
@@ -254,11 +260,15 @@ private Q_SLOTS:
         for (const int place : {0, 1}) {
             stage->circuits.follow(session.circuits[static_cast<std::size_t>(place)].id);
             stage->picture();
-            const QColor own = stage->circuits.data(stage->circuits.index(place), CircuitsModel::ColorRole).value<QColor>();
+            const QColor own = stage->circuits
+                                   .data(stage->circuits.index(place), CircuitsModel::ColorRole)
+                                   .value<QColor>();
             int lines = 0;
             visit(stage->window()->contentItem(), [&](QQuickItem *item) {
-                const QQuickItem *step = item->parentItem() ? item->parentItem()->parentItem() : nullptr;
-                if (!step || !QByteArray(step->metaObject()->className()).startsWith("PathStep") || item->width() != 4)
+                const QQuickItem *step = item->parentItem() ? item->parentItem()->parentItem()
+                                                            : nullptr;
+                if (!step || !QByteArray(step->metaObject()->className()).startsWith("PathStep")
+                    || item->width() != 4)
                     return;
                 ++lines;
                 QCOMPARE(item->property("color").value<QColor>(), own);

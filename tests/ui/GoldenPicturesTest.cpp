@@ -8,7 +8,8 @@
 
 using namespace veldmark;
 
-// Every state of the panel as it was when somebody last looked at it. VELDMARK_WRITE_GOLDEN=1 writes it anew.
+// Every state of the panel as it was when somebody last looked at it. VELDMARK_WRITE_GOLDEN=1
+// writes it anew.
 class GoldenPicturesTest : public QObject {
     Q_OBJECT
 
@@ -23,7 +24,8 @@ private Q_SLOTS:
         for (const Scenes::Scene &scene : Scenes::panel()) {
             stage.panel.traffic()->clear();
             stage.session.show(scene.snapshot);
-            QVERIFY(stage.open(QStringLiteral("main/MainWindow.qml"), windows(stage).front().properties));
+            QVERIFY(stage.open(QStringLiteral("main/MainWindow.qml"),
+                               windows(stage).front().properties));
             stage.picture();
             now += u'[' + scene.name + QStringLiteral("]\n");
             now += described(stage);
@@ -38,7 +40,8 @@ private Q_SLOTS:
         QTest::addColumn<bool>("dark");
         for (const Scenes::Scene &scene : Scenes::panel())
             for (const bool dark : {false, true})
-                QTest::addRow("%s-%s", qPrintable(scene.name), dark ? "dark" : "light") << scene.name << dark;
+                QTest::addRow("%s-%s", qPrintable(scene.name), dark ? "dark" : "light")
+                    << scene.name << dark;
     }
     void looksAsItDid()
     {
@@ -50,11 +53,15 @@ private Q_SLOTS:
             if (one.name == scene)
                 stage.session.show(one.snapshot);
         stage.panel.traffic()->clear();
-        QVERIFY(stage.open(QStringLiteral("main/MainWindow.qml"), windows(stage).front().properties));
+        QVERIFY(
+            stage.open(QStringLiteral("main/MainWindow.qml"), windows(stage).front().properties));
         stage.window()->resize(380, 700);
-        const QImage now = stage.picture().convertToFormat(QImage::Format_RGB32)
+        const QImage now = stage.picture()
+                               .convertToFormat(QImage::Format_RGB32)
                                .scaled(190, 350, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        const QString file = QStringLiteral(GOLDEN_DIR "/%1-%2.png").arg(scene, dark ? QStringLiteral("dark") : QStringLiteral("light"));
+        const QString file = QStringLiteral(GOLDEN_DIR "/%1-%2.png")
+                                 .arg(scene,
+                                      dark ? QStringLiteral("dark") : QStringLiteral("light"));
         if (qEnvironmentVariableIsSet("VELDMARK_WRITE_GOLDEN")) {
             QDir().mkpath(QStringLiteral(GOLDEN_DIR));
             QVERIFY(now.convertToFormat(QImage::Format_RGB888).save(file));
@@ -63,20 +70,24 @@ private Q_SLOTS:
         const QImage before = QImage(file).convertToFormat(QImage::Format_RGB32);
         QVERIFY2(!before.isNull(), qPrintable(file));
         QCOMPARE(now.size(), before.size());
-        // Half-size pictures forgive another font rasteriser; a moved or recoloured part they don't.
+        // Half-size pictures forgive another font rasteriser; a moved or recoloured part they
+        // don't.
         constexpr int sameColor = 40;
         int different = 0;
         for (int y = 0; y < now.height(); ++y) {
             for (int x = 0; x < now.width(); ++x) {
                 const QRgb a = now.pixel(x, y), b = before.pixel(x, y);
-                if (std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) + std::abs(qBlue(a) - qBlue(b)) > sameColor)
+                if (std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b))
+                        + std::abs(qBlue(a) - qBlue(b))
+                    > sameColor)
                     ++different;
             }
         }
         const double share = 100.0 * different / (now.width() * now.height());
         if (share > 2.0)
             now.save(QDir::temp().filePath(QStringLiteral("veldmark-now-%1.png").arg(scene)));
-        QVERIFY2(share <= 2.0, qPrintable(QStringLiteral("%1 % of the picture differs").arg(share)));
+        QVERIFY2(share <= 2.0,
+                 qPrintable(QStringLiteral("%1 % of the picture differs").arg(share)));
     }
 };
 

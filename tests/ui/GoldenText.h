@@ -21,13 +21,17 @@ inline QString described(QQuickItem *item)
     QString text = item->property("text").toString();
     if (!isControl(item)) {
         const bool isText = item->inherits("QQuickText") || item->inherits("QQuickTextEdit");
-        return isText && !text.isEmpty() ? QStringLiteral("  ") + text.replace(u'\n', u'/') + u'\n' : QString();
+        return isText && !text.isEmpty() ? QStringLiteral("  ") + text.replace(u'\n', u'/') + u'\n'
+                                         : QString();
     }
     if (item->inherits("QQuickComboBox"))
-        text = item->property("name").toString() + QStringLiteral(": ") + item->property("displayText").toString();
+        text = item->property("name").toString() + QStringLiteral(": ")
+            + item->property("displayText").toString();
     if (item->property("checkable").toBool() || item->inherits("QQuickSwitch"))
-        text += item->property("checked").toBool() ? QStringLiteral(": on") : QStringLiteral(": off");
-    return QStringLiteral("  (%1)%2\n").arg(text, item->isEnabled() ? QString() : QStringLiteral(" disabled"));
+        text += item->property("checked").toBool() ? QStringLiteral(": on")
+                                                   : QStringLiteral(": off");
+    return QStringLiteral("  (%1)%2\n")
+        .arg(text, item->isEnabled() ? QString() : QStringLiteral(" disabled"));
 }
 
 // Everything that the window on the stage says and offers.
@@ -38,7 +42,8 @@ inline QString described(Stage &stage)
     return text;
 }
 
-// `now` is what the file holds; a line in brackets names what follows. VELDMARK_WRITE_GOLDEN=1 writes the file anew.
+// `now` is what the file holds; a line in brackets names what follows. VELDMARK_WRITE_GOLDEN=1
+// writes the file anew.
 inline void expectGolden(const QString &path, const QString &now)
 {
     QFile file(path);
@@ -54,8 +59,11 @@ inline void expectGolden(const QString &path, const QString &now)
     for (qsizetype i = 0; i < std::max(before.size(), lines.size()); ++i) {
         if (lines.value(i).startsWith(u'['))
             scene = lines[i];
-        QVERIFY2(before.value(i) == lines.value(i),
-                 qPrintable(scene + QStringLiteral(": was \"%1\", is \"%2\"").arg(before.value(i), lines.value(i))));
+        QVERIFY2(
+            before.value(i) == lines.value(i),
+            qPrintable(
+                scene
+                + QStringLiteral(": was \"%1\", is \"%2\"").arg(before.value(i), lines.value(i))));
     }
 }
 

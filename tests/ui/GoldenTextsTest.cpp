@@ -5,7 +5,8 @@
 
 using namespace veldmark;
 
-// What every window but the panel says and offers, as it was when somebody last read it: one file for each kind.
+// What every window but the panel says and offers, as it was when somebody last read it: one file
+// for each kind.
 class GoldenTextsTest : public QObject {
     Q_OBJECT
 
@@ -32,12 +33,15 @@ private Q_SLOTS:
                 continue;
             Stage stage;
             QVERIFY(scene.open(stage));
-            stage.window()->resize(stage.window()->width(), std::max(stage.window()->height(), 900)); // lists show all
+            // lists show all
+            stage.window()->resize(stage.window()->width(),
+                                   std::max(stage.window()->height(), 900));
             stage.picture();
             const QString text = described(stage);
             QVERIFY2(!text.isEmpty(), qPrintable(scene.name));
             // There is neither on this system.
-            static const QRegularExpression foreign(QStringLiteral("\\b(Dock|brew|Homebrew|Finder|Mac|macOS)\\b"));
+            static const QRegularExpression foreign(
+                QStringLiteral("\\b(Dock|brew|Homebrew|Finder|Mac|macOS)\\b"));
             QVERIFY2(!text.contains(foreign), qPrintable(scene.name + QStringLiteral(": ") + text));
             now += u'[' + scene.name + QStringLiteral("]\n") + text + u'\n';
         }

@@ -11,7 +11,8 @@
 
 using namespace veldmark;
 
-// The windows by keyboard alone: where the focus is can be seen, and each control does what it says.
+// The windows by keyboard alone: where the focus is can be seen, and each control does what it
+// says.
 class KeyboardTest : public QObject {
     Q_OBJECT
 
@@ -20,8 +21,7 @@ class KeyboardTest : public QObject {
         return {{QStringLiteral("panelModel"), QVariant::fromValue(&stage.panel)},
                 {QStringLiteral("optionsModel"), QVariant::fromValue(&stage.options)}};
     }
-    template <typename Model>
-    static QVariantMap with(Model *model)
+    template <typename Model> static QVariantMap with(Model *model)
     {
         return {{QStringLiteral("model"), QVariant::fromValue(model)}};
     }
@@ -39,7 +39,8 @@ class KeyboardTest : public QObject {
 
     static QQuickItem *named(QQuickItem *item, const QString &text)
     {
-        if (item->isVisible() && item->property("text").toString() == text && item->inherits("QQuickAbstractButton"))
+        if (item->isVisible() && item->property("text").toString() == text
+            && item->inherits("QQuickAbstractButton"))
             return item;
         for (QQuickItem *child : item->childItems())
             if (QQuickItem *found = named(child, text))
@@ -58,10 +59,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("file");
         QTest::addColumn<bool>("dark");
-        for (const char *file : {"main/MainWindow.qml", "main/QuitDialog.qml", "circuits/CircuitsWindow.qml",
-                                 "log/LogWindow.qml", "settings/SettingsWindow.qml", "chooser/ChooserWindow.qml"})
+        for (const char *file :
+             {"main/MainWindow.qml", "main/QuitDialog.qml", "circuits/CircuitsWindow.qml",
+              "log/LogWindow.qml", "settings/SettingsWindow.qml", "chooser/ChooserWindow.qml"})
             for (const bool dark : {false, true})
-                QTest::addRow("%s %s", file, dark ? "dark" : "light") << QString::fromLatin1(file) << dark;
+                QTest::addRow("%s %s", file, dark ? "dark" : "light")
+                    << QString::fromLatin1(file) << dark;
     }
     void theFocusCanBeSeen()
     {
@@ -105,10 +108,12 @@ private Q_SLOTS:
                 break;
             if (!first)
                 first = focused;
-            const QRectF place = focused->mapRectToScene(QRectF(0, 0, focused->width(), focused->height()));
+            const QRectF place = focused->mapRectToScene(
+                QRectF(0, 0, focused->width(), focused->height()));
             QVERIFY2(difference(before, now, place) >= 20,
-                     qPrintable(QStringLiteral("%1 \"%2\"").arg(QLatin1String(focused->metaObject()->className()),
-                                                                focused->property("text").toString())));
+                     qPrintable(QStringLiteral("%1 \"%2\"")
+                                    .arg(QLatin1String(focused->metaObject()->className()),
+                                         focused->property("text").toString())));
             before = now;
             ++stops;
         }
@@ -118,9 +123,10 @@ private Q_SLOTS:
     void theSameKeysCloseAndQuitInEveryWindow_data()
     {
         QTest::addColumn<QString>("file");
-        for (const char *file : {"main/MainWindow.qml", "main/PanelPopup.qml", "main/QuitDialog.qml",
-                                 "circuits/CircuitsWindow.qml", "log/LogWindow.qml", "settings/SettingsWindow.qml",
-                                 "chooser/ChooserWindow.qml"})
+        for (const char *file :
+             {"main/MainWindow.qml", "main/PanelPopup.qml", "main/QuitDialog.qml",
+              "circuits/CircuitsWindow.qml", "log/LogWindow.qml", "settings/SettingsWindow.qml",
+              "chooser/ChooserWindow.qml"})
             QTest::newRow(file) << QString::fromLatin1(file);
     }
     void theSameKeysCloseAndQuitInEveryWindow()
@@ -145,12 +151,15 @@ private Q_SLOTS:
             window->requestActivate();
             return QTest::qWaitForWindowActive(window) ? window : nullptr;
         };
-        for (const QKeySequence &keys : {QKeySequence(Qt::CTRL | Qt::Key_W), QKeySequence(Qt::Key_Escape)}) {
+        for (const QKeySequence &keys :
+             {QKeySequence(Qt::CTRL | Qt::Key_W), QKeySequence(Qt::Key_Escape)}) {
             QQuickWindow *window = open();
             QVERIFY(window);
-            QSignalSpy closed(window, isQuestion ? SIGNAL(cancelled()) : SIGNAL(visibleChanged(bool)));
+            QSignalSpy closed(window,
+                              isQuestion ? SIGNAL(cancelled()) : SIGNAL(visibleChanged(bool)));
             QTest::keySequence(window, keys);
-            QVERIFY2(QTest::qWaitFor([&] { return closed.count() == 1; }), qPrintable(keys.toString()));
+            QVERIFY2(QTest::qWaitFor([&] { return closed.count() == 1; }),
+                     qPrintable(keys.toString()));
         }
         if (isQuestion)
             return; // it is the answer to the other one
@@ -175,7 +184,10 @@ private Q_SLOTS:
             auto *sheet = window->findChild<QObject *>(QLatin1String(name));
             QVERIFY(QMetaObject::invokeMethod(sheet, "open"));
             QVERIFY2(QTest::qWaitFor([&] { return sheet->property("opened").toBool(); }), name);
-            QVERIFY2(!window->findChild<QQuickItem *>(QStringLiteral("panel"))->property("escapes").toBool(), name);
+            QVERIFY2(!window->findChild<QQuickItem *>(QStringLiteral("panel"))
+                          ->property("escapes")
+                          .toBool(),
+                     name);
             QTest::keyClick(window, Qt::Key_Escape);
             QVERIFY2(QTest::qWaitFor([&] { return !sheet->property("visible").toBool(); }), name);
             QVERIFY2(window->isVisible(), name);
@@ -226,8 +238,9 @@ private Q_SLOTS:
         QQuickItem *automatic = named(window->contentItem(), QStringLiteral("Automatic"));
         QQuickItem *custom = named(window->contentItem(), QStringLiteral("Custom location"));
         const auto click = [window](const QQuickItem *item) {
-            QTest::mouseClick(window, Qt::LeftButton, {},
-                              item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint());
+            QTest::mouseClick(
+                window, Qt::LeftButton, {},
+                item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint());
         };
         click(custom); // and then Cancel
         QCOMPARE(wanted.count(), 1);
@@ -245,7 +258,8 @@ private Q_SLOTS:
     {
         Stage stage;
         stage.session.show(Snapshot());
-        QQuickWindow *window = stage.open(QStringLiteral("settings/SettingsWindow.qml"), with(&stage.settings));
+        QQuickWindow *window = stage.open(QStringLiteral("settings/SettingsWindow.qml"),
+                                          with(&stage.settings));
         QCOMPARE(stage.session.asked, QStringList());
         for (const int pane : {4, 3}) {
             window->setProperty("pane", pane);
@@ -258,12 +272,14 @@ private Q_SLOTS:
     {
         Stage stage;
         stage.session.show(Snapshot());
-        QQuickWindow *window = stage.open(QStringLiteral("chooser/ChooserWindow.qml"), with(&stage.choices));
+        QQuickWindow *window = stage.open(QStringLiteral("chooser/ChooserWindow.qml"),
+                                          with(&stage.choices));
         QVERIFY(window);
         window->requestActivate();
         QVERIFY(QTest::qWaitForWindowActive(window));
         stage.picture();
-        for (const Qt::Key key : {Qt::Key_L, Qt::Key_E, Qt::Key_T}) // the search has the focus from the start
+        // the search has the focus from the start
+        for (const Qt::Key key : {Qt::Key_L, Qt::Key_E, Qt::Key_T})
             QTest::keyClick(window, key);
         stage.picture();
         QCOMPARE(stage.choices.search().toLower(), QStringLiteral("let"));

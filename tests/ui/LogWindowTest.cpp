@@ -11,8 +11,8 @@
 
 using namespace veldmark;
 
-// The lines of the log as a reader meets them: at the end until he scrolls up, selectable across lines, and calm
-// while new lines arrive and old ones fall off.
+// The lines of the log as a reader meets them: at the end until he scrolls up, selectable across
+// lines, and calm while new lines arrive and old ones fall off.
 class LogWindowTest : public QObject {
     Q_OBJECT
 
@@ -43,8 +43,8 @@ class LogWindowTest : public QObject {
     {
         for (int i = 0; i < notches; ++i) {
             const QPointF at = inWindow(100, 100);
-            QWheelEvent event(at, stage->window()->mapToGlobal(at), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
-                              Qt::NoScrollPhase, false);
+            QWheelEvent event(at, stage->window()->mapToGlobal(at), {}, {0, 120}, Qt::NoButton,
+                              Qt::NoModifier, Qt::NoScrollPhase, false);
             QCoreApplication::sendEvent(stage->window(), &event);
         }
         stage->picture();
@@ -144,11 +144,13 @@ private Q_SLOTS:
         QTest::mouseRelease(stage->window(), Qt::LeftButton, {}, inWindow(290, 60));
         QTest::keyClick(stage->window(), Qt::Key_C, Qt::ControlModifier);
         const QString part = QGuiApplication::clipboard()->text();
-        QVERIFY2(part.size() >= 3 && part.size() < line.size() && line.contains(part), qPrintable(part));
+        QVERIFY2(part.size() >= 3 && part.size() < line.size() && line.contains(part),
+                 qPrintable(part));
         QTest::mouseDClick(stage->window(), Qt::LeftButton, {}, inWindow(200, 60));
         QTest::keyClick(stage->window(), Qt::Key_C, Qt::ControlModifier);
         const QString word = QGuiApplication::clipboard()->text();
-        QVERIFY2(!word.trimmed().isEmpty() && !word.trimmed().contains(u' ') && line.contains(word), qPrintable(word));
+        QVERIFY2(!word.trimmed().isEmpty() && !word.trimmed().contains(u' ') && line.contains(word),
+                 qPrintable(word));
         // A click selects its line again, and so does the keyboard.
         QTest::mouseClick(stage->window(), Qt::LeftButton, {}, inWindow(200, 160));
         QTest::keyClick(stage->window(), Qt::Key_C, Qt::ControlModifier);
@@ -162,16 +164,20 @@ private Q_SLOTS:
         const std::function<void(QQuickItem *)> look = [&](QQuickItem *item) {
             if (!item->isVisible())
                 return; // kept for later
-            if (auto *face = QAccessible::queryAccessibleInterface(item); face && face->role() == QAccessible::ListItem)
-                names << face->text(QAccessible::Name).section(u' ', 0, 0) + u'|' + face->text(QAccessible::Description);
+            if (auto *face = QAccessible::queryAccessibleInterface(item);
+                face && face->role() == QAccessible::ListItem)
+                names << face->text(QAccessible::Name).section(u' ', 0, 0) + u'|'
+                        + face->text(QAccessible::Description);
             for (QQuickItem *child : item->childItems())
                 look(child);
         };
         look(lines);
         names.sort();
-        QCOMPARE(names, QStringList({QStringLiteral("Error:|"), QStringLiteral("Nov|Notice"), QStringLiteral("Nov|Notice"),
-                                     QStringLiteral("Nov|Notice"), QStringLiteral("Nov|Notice"), QStringLiteral("Warning:|"),
-                                     QStringLiteral("|Information")}));
+        QCOMPARE(names,
+                 QStringList({QStringLiteral("Error:|"), QStringLiteral("Nov|Notice"),
+                              QStringLiteral("Nov|Notice"), QStringLiteral("Nov|Notice"),
+                              QStringLiteral("Nov|Notice"), QStringLiteral("Warning:|"),
+                              QStringLiteral("|Information")}));
     }
 
     void aNewWindowFiltersNothing()

@@ -1,4 +1,5 @@
-// Draws every state of every window into a folder: what ./build.sh demo leaves, and docs/screenshots.
+// Draws every state of every window into a folder: what ./build.sh demo leaves, and
+// docs/screenshots.
 #include "Scenes.h"
 #include "Stage.h"
 #include "ui/ColorScheme.h"
@@ -43,13 +44,15 @@ void drawPanel(Stage &stage, const QDir &folder, const QString &suffix, int widt
                 // A page now and then, and something larger towards the end.
                 const double pages = std::pow(std::sin(i * 0.41) * std::sin(i * 0.17 + 1), 4);
                 const double file = i > 38 ? 1 - std::exp((38 - i) / 4.0) : 0;
-                read += static_cast<quint64>(20'000 + 700'000 * pages + 500'000 * file * (0.85 + 0.15 * std::sin(i * 2.3)));
+                read += static_cast<quint64>(20'000 + 700'000 * pages
+                                             + 500'000 * file * (0.85 + 0.15 * std::sin(i * 2.3)));
                 stage.panel.traffic()->add(read, read / 6, start + std::chrono::seconds(2 * i));
             }
         }
-        QQuickWindow *window = stage.open(QStringLiteral("main/MainWindow.qml"),
-                                          {{QStringLiteral("panelModel"), QVariant::fromValue(&stage.panel)},
-                                           {QStringLiteral("optionsModel"), QVariant::fromValue(&stage.options)}});
+        QQuickWindow *window = stage.open(
+            QStringLiteral("main/MainWindow.qml"),
+            {{QStringLiteral("panelModel"), QVariant::fromValue(&stage.panel)},
+             {QStringLiteral("optionsModel"), QVariant::fromValue(&stage.options)}});
         if (!window) {
             failed = true;
             return;
@@ -65,23 +68,29 @@ void drawPanel(Stage &stage, const QDir &folder, const QString &suffix, int widt
 void drawSheets(Stage &stage, const QDir &folder, const QString &suffix)
 {
     Snapshot s = Scenes::protectedSession();
-    s.choices.customBridges = QStringLiteral("obfs4 192.0.2.7:443 0123456789ABCDEF0123456789ABCDEF01234567 cert=abc iat-mode=0\n"
-                                             "a line that is none\n");
+    s.choices.customBridges = QStringLiteral(
+        "obfs4 192.0.2.7:443 0123456789ABCDEF0123456789ABCDEF01234567 cert=abc iat-mode=0\n"
+        "a line that is none\n");
     for (const bool full : {false, true}) {
-        s.choices.bypassApps = full ? QStringList{QStringLiteral("/usr/share/applications/org.example.Game.desktop"),
-                                                  QStringLiteral("/usr/share/applications/org.example.VideoConference.desktop")}
-                                    : QStringList();
+        s.choices.bypassApps = full
+            ? QStringList{QStringLiteral("/usr/share/applications/org.example.Game.desktop"),
+                          QStringLiteral(
+                              "/usr/share/applications/org.example.VideoConference.desktop")}
+            : QStringList();
         s.findings = full ? Scenes::findings() : Findings();
         stage.session.show(s);
         for (const char *name : {"applications", "bridges", "doctor"}) {
-            QQuickWindow *window = stage.open(QStringLiteral("main/MainWindow.qml"),
-                                              {{QStringLiteral("panelModel"), QVariant::fromValue(&stage.panel)},
-                                               {QStringLiteral("optionsModel"), QVariant::fromValue(&stage.options)}});
+            QQuickWindow *window = stage.open(
+                QStringLiteral("main/MainWindow.qml"),
+                {{QStringLiteral("panelModel"), QVariant::fromValue(&stage.panel)},
+                 {QStringLiteral("optionsModel"), QVariant::fromValue(&stage.options)}});
             QObject *sheet = window ? window->findChild<QObject *>(QLatin1String(name)) : nullptr;
             failed |= !sheet || !QMetaObject::invokeMethod(sheet, "open");
             if (sheet && (full || name[0] == 'a'))
-                save(stage, folder, QStringLiteral("sheet-%1%2%3").arg(QLatin1String(name),
-                     full ? QString() : QStringLiteral("-empty"), suffix));
+                save(stage, folder,
+                     QStringLiteral("sheet-%1%2%3")
+                         .arg(QLatin1String(name), full ? QString() : QStringLiteral("-empty"),
+                              suffix));
         }
     }
 }
@@ -92,8 +101,9 @@ void drawOthers(Stage &stage, const QDir &folder, const QString &suffix)
     Snapshot session = Scenes::protectedSession();
     session.circuits = Scenes::circuits(30);
     stage.session.show(session);
-    QQuickWindow *window = stage.open(QStringLiteral("circuits/CircuitsWindow.qml"),
-                                      {{QStringLiteral("model"), QVariant::fromValue(&stage.circuits)}});
+    QQuickWindow *window = stage.open(
+        QStringLiteral("circuits/CircuitsWindow.qml"),
+        {{QStringLiteral("model"), QVariant::fromValue(&stage.circuits)}});
     if (!window)
         return;
     save(stage, folder, QStringLiteral("circuits-30") + suffix);
@@ -159,16 +169,20 @@ void drawWindows(Stage &stage, const QDir &folder, const QString &suffix)
             s.transports.source = QStringLiteral("Tor Browser");
             s.terminalInstalled = s.choices.terminalMode = true;
         } else {
-            s.startupError = QStringLiteral("The rule for sudo was refused: visudo reported a syntax error.");
+            s.startupError = QStringLiteral(
+                "The rule for sudo was refused: visudo reported a syntax error.");
         }
         stage.session.show(s);
         for (int pane = 0; pane < 6; ++pane) {
             QQuickWindow *window = stage.open(
                 QStringLiteral("settings/SettingsWindow.qml"),
-                {{QStringLiteral("model"), QVariant::fromValue(&stage.settings)}, {QStringLiteral("pane"), pane}});
+                {{QStringLiteral("model"), QVariant::fromValue(&stage.settings)},
+                 {QStringLiteral("pane"), pane}});
             if (window)
-                save(stage, folder, QStringLiteral("settings-%1%2%3").arg(pane + 1)
-                     .arg(rich ? QStringLiteral("-installed") : QString(), suffix));
+                save(stage, folder,
+                     QStringLiteral("settings-%1%2%3")
+                         .arg(pane + 1)
+                         .arg(rich ? QStringLiteral("-installed") : QString(), suffix));
             else
                 failed = true;
         }
@@ -178,18 +192,20 @@ void drawWindows(Stage &stage, const QDir &folder, const QString &suffix)
     save(stage, folder, QStringLiteral("quit") + suffix);
 }
 
-// The tray's icons on a light and a dark panel, in the sizes that panels ask for, and the smallest eight times
-// enlarged.
+// The tray's icons on a light and a dark panel, in the sizes that panels ask for, and the smallest
+// eight times enlarged.
 void drawTray(const QDir &folder)
 {
-    const QStringList symbols{QStringLiteral("shield.slash"), QStringLiteral("shield.lefthalf.filled"),
-                              QStringLiteral("lock.shield.fill"), QStringLiteral("exclamationmark.shield")};
+    const QStringList symbols{
+        QStringLiteral("shield.slash"), QStringLiteral("shield.lefthalf.filled"),
+        QStringLiteral("lock.shield.fill"), QStringLiteral("exclamationmark.shield")};
     QImage sheet(640, 420, QImage::Format_RGB32);
     QPainter painter(&sheet);
     for (const bool dark : {false, true}) {
         const QColor ink = dark ? QColor(0xf2, 0xf2, 0xf7) : QColor(0x1a, 0x1a, 0x22);
         const int top = dark ? 210 : 0;
-        painter.fillRect(0, top, 640, 210, dark ? QColor(0x22, 0x22, 0x26) : QColor(0xee, 0xee, 0xee));
+        painter.fillRect(0, top, 640, 210,
+                         dark ? QColor(0x22, 0x22, 0x26) : QColor(0xee, 0xee, 0xee));
         for (int i = 0; i < symbols.size(); ++i) {
             const QString &symbol = symbols[i];
             int x = 16 + i * 156;
@@ -197,7 +213,8 @@ void drawTray(const QDir &folder)
                 painter.drawImage(x, top + 16, Symbols::image(symbol, pixels, ink));
                 x += pixels + 10;
             }
-            painter.drawImage(16 + i * 156, top + 66, Symbols::image(symbol, 16, ink).scaled(128, 128));
+            painter.drawImage(16 + i * 156, top + 66,
+                              Symbols::image(symbol, 16, ink).scaled(128, 128));
         }
     }
     painter.end();

@@ -9,8 +9,9 @@ namespace {
 RelayInfo relay(int number)
 {
     static const std::array countries{"de", "nl", "se", "fr", "ch", "us", "fi", "ro"};
-    static const std::array names{"quietharbor", "Kastanie", "northwind7", "relaisparis", "alpenglow",
-                                  "DFRI42", "sammakko", "bucegi", "ForPrivacyNET", "tulip"};
+    static const std::array names{"quietharbor",   "Kastanie", "northwind7", "relaisparis",
+                                  "alpenglow",     "DFRI42",   "sammakko",   "bucegi",
+                                  "ForPrivacyNET", "tulip"};
     const auto index = static_cast<size_t>(number);
     RelayInfo relay;
     relay.fingerprint = QStringLiteral("%1").arg(number, 40, 16, QLatin1Char('0')).toUpper();
@@ -29,7 +30,8 @@ std::vector<CircuitInfo> circuits(int count)
     for (int i = 0; i < count; ++i) {
         CircuitInfo circuit;
         circuit.id = QString::number(11 + i);
-        circuit.hops = {relay(i % 3), relay(4 + (i * 7) % (8 + count / 2)), relay(3 + (i * 5) % (7 + count / 2))};
+        circuit.hops = {relay(i % 3), relay(4 + (i * 7) % (8 + count / 2)),
+                        relay(3 + (i * 5) % (7 + count / 2))};
         circuit.purpose = QStringLiteral("GENERAL");
         if (i < 2 && count > 1) {
             circuit.purpose = QStringLiteral("CONFLUX");
@@ -40,8 +42,10 @@ std::vector<CircuitInfo> circuits(int count)
         if (i % 2 == 0)
             circuit.sites << QStringLiteral("www.example.org");
         if (i == 2)
-            circuit.sites << QStringLiteral("static.images.example.net") << QStringLiteral("mail.example.com")
-                          << QStringLiteral("forum.example.org") << QStringLiteral("cdn.example.net");
+            circuit.sites << QStringLiteral("static.images.example.net")
+                          << QStringLiteral("mail.example.com")
+                          << QStringLiteral("forum.example.org")
+                          << QStringLiteral("cdn.example.net");
         list.push_back(circuit);
     }
     if (list.size() > 1)
@@ -56,7 +60,8 @@ Snapshot protectedSession()
     s.phase = Phase::connected;
     s.activeMode = RoutingMode::strict;
     s.statusDetail = Text::tr("All traffic is locked to Tor");
-    s.killSwitch = KillSwitch{KillSwitch::State::standing, 0, QDateTime::fromSecsSinceEpoch(1'800'000'000, Qt::UTC)};
+    s.killSwitch = KillSwitch{KillSwitch::State::standing, 0,
+                              QDateTime::fromSecsSinceEpoch(1'800'000'000, Qt::UTC)};
     s.exitIP = QStringLiteral("203.0.113.10");
     s.torVerified = true;
     s.leak.kind = Leak::Kind::blocked;
@@ -73,15 +78,28 @@ Findings findings()
 {
     using Level = Finding::Level;
     const auto text = [](const char *words) { return QString::fromUtf8(words); };
-    return {{text("tor"), Level::good, Text::tr("Tor %1 is installed: %2.").arg(text("0.4.9.11"), text("/usr/bin/tor")), {}},
-            {text("nftables"), Level::problem, Text::tr("nftables isn't installed. Veldmark's firewall needs it."), text("sudo apt install nftables")},
-            {text("firewalls"), Level::note,
-             Text::tr("Other programs set firewall rules here: %1. Veldmark leaves their rules alone. Rules that drop packets can block Tor.").arg(text("firewalld, Docker")), text("sudo nft list ruleset")},
-            {text("clock"), Level::unknown,
-             Text::tr("Whether the clock is right isn't known: nothing is seen to set it from the network. It shows %1. Tor needs it right to within minutes.").arg(text("2026-11-22 01:00 UTC")), text("sudo timedatectl set-ntp true")},
-            {text("session"), Level::note,
-             Text::tr("The network is still set up for Tor from an earlier session, and no Tor runs. Connect again, or restore the network."),
-             text("veldmarkctl restore"), Finding::Button::restore}};
+    return {
+        {text("tor"),
+         Level::good,
+         Text::tr("Tor %1 is installed: %2.").arg(text("0.4.9.11"), text("/usr/bin/tor")),
+         {}},
+        {text("nftables"), Level::problem,
+         Text::tr("nftables isn't installed. Veldmark's firewall needs it."),
+         text("sudo apt install nftables")},
+        {text("firewalls"), Level::note,
+         Text::tr(
+             "Other programs set firewall rules here: %1. Veldmark leaves their rules alone. Rules that drop packets can block Tor.")
+             .arg(text("firewalld, Docker")),
+         text("sudo nft list ruleset")},
+        {text("clock"), Level::unknown,
+         Text::tr(
+             "Whether the clock is right isn't known: nothing is seen to set it from the network. It shows %1. Tor needs it right to within minutes.")
+             .arg(text("2026-11-22 01:00 UTC")),
+         text("sudo timedatectl set-ntp true")},
+        {text("session"), Level::note,
+         Text::tr(
+             "The network is still set up for Tor from an earlier session, and no Tor runs. Connect again, or restore the network."),
+         text("veldmarkctl restore"), Finding::Button::restore}};
 }
 
 std::vector<Scene> panel()
@@ -101,19 +119,24 @@ std::vector<Scene> panel()
     s = idle;
     s.torPath.reset();
     add("disconnected-no-tor", s);
-    s.errorMessage = Text::tr("The settings couldn't be saved. Changes to them may last only until you quit.");
+    s.errorMessage = Text::tr(
+        "The settings couldn't be saved. Changes to them may last only until you quit.");
     add("disconnected-no-tor-error", s);
     s = idle;
-    s.errorMessage = Text::tr("Tor didn't finish connecting within 5 minutes. (%1)").arg(QStringLiteral("Connection refused"));
+    s.errorMessage = Text::tr("Tor didn't finish connecting within 5 minutes. (%1)")
+                         .arg(QStringLiteral("Connection refused"));
     add("disconnected-error", s);
     s = idle;
     s.choices.exitCountry = QStringLiteral("at");
     s.choices.bridgeChoice = BridgeChoice::obfs4;
     s.transports.lyrebird = QStringLiteral("/usr/bin/lyrebird");
-    s.transports.builtin = {{QStringLiteral("obfs4"), {QStringLiteral("obfs4 192.0.2.1:443 cert=a")}}};
+    s.transports.builtin = {
+        {QStringLiteral("obfs4"), {QStringLiteral("obfs4 192.0.2.1:443 cert=a")}}};
     s.transports.source = QStringLiteral("Tor Browser");
     s.choices.terminalMode = true;
-    s.terminalError = Text::tr("Couldn't set up terminal mode: %1").arg(Text::tr("%1 is read-only.").arg(QStringLiteral("/home/user/.bashrc")));
+    s.terminalError
+        = Text::tr("Couldn't set up terminal mode: %1")
+              .arg(Text::tr("%1 is read-only.").arg(QStringLiteral("/home/user/.bashrc")));
     add("disconnected-unlisted-country-terminal-error", s);
     s = idle;
     s.choices.bridgeChoice = BridgeChoice::custom;
@@ -122,8 +145,9 @@ std::vector<Scene> panel()
 
     s = idle;
     s.choices.bridgeChoice = BridgeChoice::obfs4;
-    s.errorMessage = Text::tr("obfs4 bridges need lyrebird, and it isn't on this computer. Click Download next to "
-                              "Bridges to get it.");
+    s.errorMessage = Text::tr(
+        "obfs4 bridges need lyrebird, and it isn't on this computer. Click Download next to "
+        "Bridges to get it.");
     add("disconnected-error-programs-missing", s);
 
     s = idle;
@@ -180,16 +204,20 @@ std::vector<Scene> panel()
     s = protectedSession();
     s.killSwitch->state = KillSwitch::State::open;
     s.leak.kind = Leak::Kind::notTested;
-    s.errorMessage = Text::tr("Another program removed Veldmark's firewall rules and they could not be put back. Traffic "
-                              "may leave this computer directly. Disconnect and connect again.");
+    s.errorMessage = Text::tr(
+        "Another program removed Veldmark's firewall rules and they could not be put back. Traffic "
+        "may leave this computer directly. Disconnect and connect again.");
     add("connected-strict-open", s);
     s.killSwitch->state = KillSwitch::State::unknown;
-    s.errorMessage = Text::tr("The watcher over Veldmark's firewall rules has stopped telling, so it isn't known whether "
-                              "the kill switch stands. Disconnect and connect again.");
+    s.errorMessage = Text::tr(
+        "The watcher over Veldmark's firewall rules has stopped telling, so it isn't known whether "
+        "the kill switch stands. Disconnect and connect again.");
     add("connected-strict-unknown", s);
     s = protectedSession();
-    s.dns = DNSStatus::leak({QStringLiteral("192.168.1.1 on eth0"), QStringLiteral("10.0.0.53, 10.0.0.54 for *.corp.example on tun0"),
-                  QStringLiteral("9.9.9.9 on wlan0"), QStringLiteral("fd00::1 on eth1"), QStringLiteral("fd00::2 on eth1")});
+    s.dns = DNSStatus::leak({QStringLiteral("192.168.1.1 on eth0"),
+                             QStringLiteral("10.0.0.53, 10.0.0.54 for *.corp.example on tun0"),
+                             QStringLiteral("9.9.9.9 on wlan0"), QStringLiteral("fd00::1 on eth1"),
+                             QStringLiteral("fd00::2 on eth1")});
     add("connected-strict-dns-leak", s);
     s = protectedSession();
     s.killSwitch.reset();
@@ -229,18 +257,22 @@ std::vector<Scene> panel()
     s.activeMode = RoutingMode::strict;
     s.markerPresent = true;
     s.statusDetail = Text::tr("Tor stopped running");
-    s.errorMessage = Text::tr("Tor stopped running. The kill switch is still blocking traffic, so nothing "
-                              "leaked. Reconnect, or Restore Network to go back online.");
+    s.errorMessage = Text::tr(
+        "Tor stopped running. The kill switch is still blocking traffic, so nothing "
+        "leaked. Reconnect, or Restore Network to go back online.");
     add("stale-strict-tor-died", s);
-    s.killSwitch = KillSwitch{KillSwitch::State::open, 1, QDateTime::fromSecsSinceEpoch(1'800'000'000, Qt::UTC)};
-    s.errorMessage = Text::tr("Tor stopped running, and the kill switch is open: another program removed its rules. Traffic "
-                              "may leave this computer directly. Reconnect, or Restore Network.");
+    s.killSwitch = KillSwitch{KillSwitch::State::open, 1,
+                              QDateTime::fromSecsSinceEpoch(1'800'000'000, Qt::UTC)};
+    s.errorMessage = Text::tr(
+        "Tor stopped running, and the kill switch is open: another program removed its rules. Traffic "
+        "may leave this computer directly. Reconnect, or Restore Network.");
     add("stale-strict-open", s);
     s.killSwitch.reset();
     s.activeMode = RoutingMode::proxy;
     s.choices.strictMode = false;
-    s.errorMessage = Text::tr("Tor stopped running. Apps using the proxy can't connect until you reconnect or "
-                              "Restore Network.");
+    s.errorMessage = Text::tr(
+        "Tor stopped running. Apps using the proxy can't connect until you reconnect or "
+        "Restore Network.");
     add("stale-proxy-tor-died", s);
     s.activeMode = RoutingMode::strict;
     s.choices.strictMode = true;
@@ -253,7 +285,8 @@ std::vector<Scene> panel()
     s.activeMode = RoutingMode::strict;
     s.killSwitch = protectedSession().killSwitch;
     s.isAnothers = true;
-    s.statusDetail = QStringLiteral("Your network is set up for Tor by alexandra, whose Veldmark is process 48213");
+    s.statusDetail = QStringLiteral(
+        "Your network is set up for Tor by alexandra, whose Veldmark is process 48213");
     add("stale-strict-another-user", s);
     return scenes;
 }
@@ -261,12 +294,16 @@ std::vector<Scene> panel()
 QList<TorLogLine> log(int count)
 {
     static const std::array<std::pair<TorLogLine::Level, const char *>, 7> texts{{
-        {TorLogLine::Level::notice, "Tor 0.4.7.16 running on Linux with Libevent 2.1.12-stable, OpenSSL 3.0.15"},
+        {TorLogLine::Level::notice,
+         "Tor 0.4.7.16 running on Linux with Libevent 2.1.12-stable, OpenSSL 3.0.15"},
         {TorLogLine::Level::notice, "Opened Socks listener connection (ready) on 127.0.0.1:9050"},
-        {TorLogLine::Level::notice, "Bootstrapped 45% (requesting_descriptors): Asking for relay descriptors"},
-        {TorLogLine::Level::warning, "Guard quietharbor ($0000000000000000000000000000000000000001) is failing more circuits than usual. Most likely this means the Tor network is overloaded. Success counts are 141/203."},
+        {TorLogLine::Level::notice,
+         "Bootstrapped 45% (requesting_descriptors): Asking for relay descriptors"},
+        {TorLogLine::Level::warning,
+         "Guard quietharbor ($0000000000000000000000000000000000000001) is failing more circuits than usual. Most likely this means the Tor network is overloaded. Success counts are 141/203."},
         {TorLogLine::Level::info, "launcher: tor started"},
-        {TorLogLine::Level::error, "Could not bind to 127.0.0.1:9051: Address already in use. Is Tor already running?"},
+        {TorLogLine::Level::error,
+         "Could not bind to 127.0.0.1:9051: Address already in use. Is Tor already running?"},
         {TorLogLine::Level::notice, "Bootstrapped 100% (done): Done"},
     }};
     QList<TorLogLine> lines;
@@ -277,7 +314,8 @@ QList<TorLogLine> log(int count)
         line.message = QString::fromUtf8(text);
         if (level != TorLogLine::Level::info)
             line.time = QStringLiteral("Nov 16 09:%1:%2.123")
-                            .arg(i / 60 % 60, 2, 10, QLatin1Char('0')).arg(i % 60, 2, 10, QLatin1Char('0'));
+                            .arg(i / 60 % 60, 2, 10, QLatin1Char('0'))
+                            .arg(i % 60, 2, 10, QLatin1Char('0'));
         line.raw = line.time.value_or(QString()) + u' ' + line.message + QString::number(i);
         lines << line;
     }

@@ -1,5 +1,6 @@
-// Shows the program's windows with a stand-in session, for tests that look at them from outside. Each line that it
-// reads names what to show in place of what was there; it answers "shown" or "failed". Ends with its input.
+// Shows the program's windows with a stand-in session, for tests that look at them from outside.
+// Each line that it reads names what to show in place of what was there; it answers "shown" or
+// "failed". Ends with its input.
 
 #include "Scenes.h"
 #include "Stage.h"
@@ -26,7 +27,9 @@ Window {
 
 QVariantMap propertiesOf(Stage &stage, const QString &name)
 {
-    const auto model = [](auto *m) { return QVariantMap{{QStringLiteral("model"), QVariant::fromValue(m)}}; };
+    const auto model = [](auto *m) {
+        return QVariantMap{{QStringLiteral("model"), QVariant::fromValue(m)}};
+    };
     if (name == QLatin1String("circuits/CircuitsWindow.qml"))
         return model(&stage.circuits);
     if (name == QLatin1String("log/LogWindow.qml"))

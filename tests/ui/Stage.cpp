@@ -17,15 +17,16 @@ PlatformProfile profileBelow(const QString &folder)
     PlatformProfile profile = PlatformProfile::linux(Places::below(folder));
     profile.torInstallHint = QStringLiteral("sudo apt install tor tor-geoipdb");
     profile.runDirectory = QStringLiteral("/var/lib/veldmark/run");
-    profile.manualRestoreCommand = QStringLiteral("sudo bash /usr/share/veldmark/veldmark-helper.sh disconnect");
+    profile.manualRestoreCommand = QStringLiteral(
+        "sudo bash /usr/share/veldmark/veldmark-helper.sh disconnect");
     return profile;
 }
 
-// Takes the module's files from the source tree instead of the program, so that a change to them can be looked
-// at without a compile: VELDMARK_QML=src/ui veldmark-pictures FOLDER.
+// Takes the module's files from the source tree instead of the program, so that a change to them
+// can be looked at without a compile: VELDMARK_QML=src/ui veldmark-pictures FOLDER.
 class SourceTree final : public QQmlAbstractUrlInterceptor {
 public:
-    explicit SourceTree(const QString &folder) : m_folder(QDir(folder).absolutePath()) {}
+    explicit SourceTree(const QString &folder) : m_folder(QDir(folder).absolutePath()) { }
     QUrl intercept(const QUrl &url, DataType type) override
     {
         const QString inside = QStringLiteral("qrc:/qt/qml/Veldmark/qml/");
@@ -42,30 +43,32 @@ private:
 } // namespace
 
 Stage::Stage()
-    : profile(profileBelow(folder.path()))
-    , session(profile)
-    , panel(session)
-    , options(session)
-    , settings(session)
-    , circuits(session)
-    , lines(log, profile)
-    , choices(session)
+    : profile(profileBelow(folder.path())),
+      session(profile),
+      panel(session),
+      options(session),
+      settings(session),
+      circuits(session),
+      lines(log, profile),
+      choices(session)
 {
     prepareEngine(engine);
     if (const QString sources = qEnvironmentVariable("VELDMARK_QML"); !sources.isEmpty()) {
         static SourceTree tree(sources);
         engine.addUrlInterceptor(&tree);
     }
-    QObject::connect(&engine, &QQmlEngine::warnings, &engine, [this](const QList<QQmlError> &errors) {
-        for (const QQmlError &error : errors)
-            m_warnings << error.toString();
-    });
+    QObject::connect(&engine, &QQmlEngine::warnings, &engine,
+                     [this](const QList<QQmlError> &errors) {
+                         for (const QQmlError &error : errors)
+                             m_warnings << error.toString();
+                     });
     setDark(false);
 }
 
 void Stage::setDark(bool dark, bool flags)
 {
-    auto *scheme = engine.singletonInstance<ColorScheme *>(qmlTypeId("Veldmark", 1, 0, "ColorScheme"));
+    auto *scheme = engine.singletonInstance<ColorScheme *>(
+        qmlTypeId("Veldmark", 1, 0, "ColorScheme"));
     scheme->setFlagsDrawn(flags);
     scheme->force(dark, true);
 }
@@ -74,7 +77,8 @@ QQuickWindow *Stage::open(const QString &file, QVariantMap properties)
 {
     m_window.reset();
     QQmlComponent component(&engine, moduleFile(file));
-    QObject *made = component.isReady() ? component.createWithInitialProperties(properties) : nullptr;
+    QObject *made = component.isReady() ? component.createWithInitialProperties(properties)
+                                        : nullptr;
     for (const QQmlError &error : component.errors())
         m_warnings << error.toString();
     show(qobject_cast<QQuickWindow *>(made));

@@ -28,7 +28,8 @@ public:
     // Shows a window of the caller's own in its place. False when it is null.
     bool show(QQuickWindow *window);
     QQuickWindow *window() { return m_window.get(); }
-    // `flags`: countries are shown by their flags, which not every machine's fonts have, and not by letters.
+    // `flags`: countries are shown by their flags, which not every machine's fonts have, and not by
+    // letters.
     void setDark(bool dark, bool flags = false);
     // The window's picture after everything has settled.
     QImage picture();

@@ -24,14 +24,17 @@ struct Shown {
 
 inline std::vector<Shown> windows(Stage &stage)
 {
-    const auto model = [](auto *m) { return QVariantMap{{QStringLiteral("model"), QVariant::fromValue(m)}}; };
+    const auto model = [](auto *m) {
+        return QVariantMap{{QStringLiteral("model"), QVariant::fromValue(m)}};
+    };
     const QVariantMap panel{{QStringLiteral("panelModel"), QVariant::fromValue(&stage.panel)},
                             {QStringLiteral("optionsModel"), QVariant::fromValue(&stage.options)}};
     std::vector<Shown> list{{"main", "main/MainWindow.qml", panel},
                             {"panel", "main/PanelPopup.qml", panel},
                             {"circuits", "circuits/CircuitsWindow.qml", model(&stage.circuits)},
                             {"log", "log/LogWindow.qml", model(&stage.lines)},
-                            {"quit", "main/QuitDialog.qml",
+                            {"quit",
+                             "main/QuitDialog.qml",
                              {{QStringLiteral("strict"), true}, {QStringLiteral("busy"), false}}}};
     for (int pane = 0; pane < 6; ++pane) {
         QVariantMap settings = model(&stage.settings);

@@ -10,7 +10,7 @@ namespace veldmark {
 // A session that shows what a test puts into it and writes down what it is asked to do.
 class StandInSession final : public Session {
 public:
-    explicit StandInSession(const PlatformProfile &profile) : Session(profile) {}
+    explicit StandInSession(const PlatformProfile &profile) : Session(profile) { }
 
     void show(const Snapshot &snapshot)
     {
@@ -27,9 +27,13 @@ public:
     }
     std::vector<InstalledApplication> installedApplications() const override
     {
-        return {{QStringLiteral("/usr/share/applications/letters.desktop"), QStringLiteral("Letters"), {}},
-                {QStringLiteral("/usr/share/applications/games.desktop"), QStringLiteral("Games"), QStringLiteral("no-such-icon")},
-                {QStringLiteral("/usr/share/applications/bake.desktop"), QStringLiteral("bake"), {}}};
+        return {
+            {QStringLiteral("/usr/share/applications/letters.desktop"),
+             QStringLiteral("Letters"),
+             {}},
+            {QStringLiteral("/usr/share/applications/games.desktop"), QStringLiteral("Games"),
+             QStringLiteral("no-such-icon")},
+            {QStringLiteral("/usr/share/applications/bake.desktop"), QStringLiteral("bake"), {}}};
     }
     QString applicationName(const QString &path) const override
     {
@@ -95,7 +99,8 @@ public:
 
     void show(State state, const QList<TorLogLine> &lines = {})
     {
-        m_snapshot = state == State::unreadable ? TorLog::Snapshot::unreadable() : TorLog::Snapshot::of(lines);
+        m_snapshot = state == State::unreadable ? TorLog::Snapshot::unreadable()
+                                                : TorLog::Snapshot::of(lines);
         Q_EMIT changed();
     }
 

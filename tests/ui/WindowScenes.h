@@ -24,8 +24,7 @@ inline QVariantMap panelProperties(Stage &stage)
             {QStringLiteral("optionsModel"), QVariant::fromValue(&stage.options)}};
 }
 
-template <typename Model>
-QVariantMap modelProperty(Model *model)
+template <typename Model> QVariantMap modelProperty(Model *model)
 {
     return {{QStringLiteral("model"), QVariant::fromValue(model)}};
 }
@@ -40,12 +39,14 @@ inline Snapshot idleSession()
 
 inline void addCircuitScenes(std::vector<WindowScene> &scenes)
 {
-    const auto circuits = [&scenes](const char *name, const Snapshot &session, const QString &followed = {}) {
+    const auto circuits = [&scenes](const char *name, const Snapshot &session,
+                                    const QString &followed = {}) {
         scenes.push_back({QLatin1String(name), [session, followed](Stage &stage) {
-            stage.session.show(session);
-            stage.circuits.follow(followed);
-            return stage.open(QStringLiteral("circuits/CircuitsWindow.qml"), modelProperty(&stage.circuits));
-        }});
+                              stage.session.show(session);
+                              stage.circuits.follow(followed);
+                              return stage.open(QStringLiteral("circuits/CircuitsWindow.qml"),
+                                                modelProperty(&stage.circuits));
+                          }});
     };
     Snapshot session = Scenes::protectedSession();
     circuits("circuits", session);
@@ -62,18 +63,23 @@ inline void addCircuitScenes(std::vector<WindowScene> &scenes)
 
 inline void addLogScenes(std::vector<WindowScene> &scenes)
 {
-    const auto log = [&scenes](const char *name, LogFeed::State state, int count, const std::function<void(LogModel &)> &then) {
+    const auto log = [&scenes](const char *name, LogFeed::State state, int count,
+                               const std::function<void(LogModel &)> &then) {
         scenes.push_back({QLatin1String(name), [=](Stage &stage) {
-            stage.log.show(state, Scenes::log(count));
-            QQuickWindow *window = stage.open(QStringLiteral("log/LogWindow.qml"), modelProperty(&stage.lines));
-            then(stage.lines);
-            return window;
-        }});
+                              stage.log.show(state, Scenes::log(count));
+                              QQuickWindow *window = stage.open(QStringLiteral("log/LogWindow.qml"),
+                                                                modelProperty(&stage.lines));
+                              then(stage.lines);
+                              return window;
+                          }});
     };
     log("log", LogFeed::State::lines, 7, [](LogModel &) {});
-    log("log/problems", LogFeed::State::lines, 7, [](LogModel &model) { model.setProblemsOnly(true); });
-    log("log/nothing matches", LogFeed::State::lines, 7, [](LogModel &model) { model.setSearch(QStringLiteral("nowhere")); });
-    log("log/no problems", LogFeed::State::lines, 1, [](LogModel &model) { model.setProblemsOnly(true); });
+    log("log/problems", LogFeed::State::lines, 7,
+        [](LogModel &model) { model.setProblemsOnly(true); });
+    log("log/nothing matches", LogFeed::State::lines, 7,
+        [](LogModel &model) { model.setSearch(QStringLiteral("nowhere")); });
+    log("log/no problems", LogFeed::State::lines, 1,
+        [](LogModel &model) { model.setProblemsOnly(true); });
     log("log/empty", LogFeed::State::empty, 0, [](LogModel &) {});
     log("log/unreadable", LogFeed::State::unreadable, 0, [](LogModel &) {});
 }
@@ -84,31 +90,36 @@ inline void addSettingsScenes(std::vector<WindowScene> &scenes)
     bare.torPath.reset();
     bare.openAtLogin.reset();
     Snapshot failed = idleSession();
-    failed.startupError = QStringLiteral("Couldn't set up passwordless mode: visudo reported a syntax error.");
-    failed.terminalError = QStringLiteral("ssh doesn't go through Tor yet: it needs a netcat that speaks SOCKS. Install one with: "
-                                          "sudo apt install netcat-openbsd");
+    failed.startupError = QStringLiteral(
+        "Couldn't set up passwordless mode: visudo reported a syntax error.");
+    failed.terminalError = QStringLiteral(
+        "ssh doesn't go through Tor yet: it needs a netcat that speaks SOCKS. Install one with: "
+        "sudo apt install netcat-openbsd");
     failed.choices.terminalMode = failed.terminalInstalled = true;
     failed.choices.customTorPath = QStringLiteral("/opt/tor/tor");
     failed.torPath.reset();
-    failed.transportDownload = QStringLiteral("Couldn't download bridge programs: Download of the list failed (HTTP 503).");
+    failed.transportDownload = QStringLiteral(
+        "Couldn't download bridge programs: Download of the list failed (HTTP 503).");
     Snapshot full = Scenes::protectedSession();
     full.passwordlessInstalled = true;
     full.choices.customTorPath = QStringLiteral("/usr/bin/tor");
     full.transports.lyrebird = QStringLiteral("/usr/bin/lyrebird");
     full.transports.source = QStringLiteral("Tor Browser");
     full.choices.terminalMode = full.terminalInstalled = full.terminalForSsh = true;
-    const std::array<std::pair<const char *, Snapshot>, 3> states{{{"bare", bare}, {"with errors", failed}, {"full", full}}};
+    const std::array<std::pair<const char *, Snapshot>, 3> states{
+        {{"bare", bare}, {"with errors", failed}, {"full", full}}};
     static constexpr std::array panes{"general", "tor", "bridges", "terminal", "recovery", "about"};
     for (int pane = 0; pane < static_cast<int>(panes.size()); ++pane) {
         for (const auto &[state, snapshot] : states) {
-            scenes.push_back({QStringLiteral("settings %1/%2").arg(QLatin1String(panes.at(static_cast<size_t>(pane))),
-                                                                   QLatin1String(state)),
-                              [pane, session = snapshot](Stage &stage) {
-                stage.session.show(session);
-                QVariantMap properties = modelProperty(&stage.settings);
-                properties.insert(QStringLiteral("pane"), pane);
-                return stage.open(QStringLiteral("settings/SettingsWindow.qml"), properties);
-            }});
+            scenes.push_back(
+                {QStringLiteral("settings %1/%2")
+                     .arg(QLatin1String(panes.at(static_cast<size_t>(pane))), QLatin1String(state)),
+                 [pane, session = snapshot](Stage &stage) {
+                     stage.session.show(session);
+                     QVariantMap properties = modelProperty(&stage.settings);
+                     properties.insert(QStringLiteral("pane"), pane);
+                     return stage.open(QStringLiteral("settings/SettingsWindow.qml"), properties);
+                 }});
         }
     }
 }
@@ -117,29 +128,34 @@ inline void addDialogScenes(std::vector<WindowScene> &scenes)
 {
     for (const bool strict : {true, false}) {
         for (const bool busy : {false, true}) {
-            scenes.push_back({QStringLiteral("quit/%1%2").arg(strict ? QStringLiteral("strict") : QStringLiteral("proxy"),
-                                                             busy ? QStringLiteral(", busy") : QString()),
+            scenes.push_back({QStringLiteral("quit/%1%2")
+                                  .arg(strict ? QStringLiteral("strict") : QStringLiteral("proxy"),
+                                       busy ? QStringLiteral(", busy") : QString()),
                               [strict, busy](Stage &stage) {
-                return stage.open(QStringLiteral("main/QuitDialog.qml"),
-                                  {{QStringLiteral("strict"), strict}, {QStringLiteral("busy"), busy}});
-            }});
+                                  return stage.open(QStringLiteral("main/QuitDialog.qml"),
+                                                    {{QStringLiteral("strict"), strict},
+                                                     {QStringLiteral("busy"), busy}});
+                              }});
         }
     }
-    const auto sheet = [&scenes](const char *name, const char *which, const Snapshot &session, const QString &failure = {}) {
+    const auto sheet = [&scenes](const char *name, const char *which, const Snapshot &session,
+                                 const QString &failure = {}) {
         scenes.push_back({QLatin1String(name), [=](Stage &stage) {
-            stage.session.show(session);
-            QQuickWindow *window = stage.open(QStringLiteral("main/MainWindow.qml"), panelProperties(stage));
-            openSheet(window, which);
-            if (!failure.isEmpty())
-                Q_EMIT stage.session.launchFailed(failure);
-            return window;
-        }});
+                              stage.session.show(session);
+                              QQuickWindow *window = stage.open(
+                                  QStringLiteral("main/MainWindow.qml"), panelProperties(stage));
+                              openSheet(window, which);
+                              if (!failure.isEmpty())
+                                  Q_EMIT stage.session.launchFailed(failure);
+                              return window;
+                          }});
     };
     sheet("applications/empty", "applications", idleSession());
     Snapshot chosen = Scenes::protectedSession();
     chosen.choices.bypassApps = {QStringLiteral("/usr/share/applications/games.desktop")};
     sheet("applications", "applications", chosen);
-    sheet("applications/failed", "applications", chosen, QStringLiteral("Couldn't open Games without Tor: It has no program."));
+    sheet("applications/failed", "applications", chosen,
+          QStringLiteral("Couldn't open Games without Tor: It has no program."));
     Snapshot apart = idleSession();
     apart.choices.bypassApps = chosen.choices.bypassApps;
     sheet("applications/disconnected", "applications", apart);
@@ -155,16 +171,19 @@ inline void addDialogScenes(std::vector<WindowScene> &scenes)
     sheet("doctor/looking", "doctor", failed);
 
     scenes.push_back({QStringLiteral("chooser"), [](Stage &stage) {
-        stage.session.show(idleSession());
-        return stage.open(QStringLiteral("chooser/ChooserWindow.qml"), modelProperty(&stage.choices));
-    }});
-    scenes.push_back({QStringLiteral("chooser/nothing"), [](Stage &stage) {
-        stage.session.show(idleSession());
-        QQuickWindow *window = stage.open(QStringLiteral("chooser/ChooserWindow.qml"), modelProperty(&stage.choices));
-        stage.picture(); // a window that comes forgets the search of the one before
-        stage.choices.setSearch(QStringLiteral("zzz"));
-        return window;
-    }});
+                          stage.session.show(idleSession());
+                          return stage.open(QStringLiteral("chooser/ChooserWindow.qml"),
+                                            modelProperty(&stage.choices));
+                      }});
+    scenes.push_back(
+        {QStringLiteral("chooser/nothing"), [](Stage &stage) {
+             stage.session.show(idleSession());
+             QQuickWindow *window = stage.open(QStringLiteral("chooser/ChooserWindow.qml"),
+                                               modelProperty(&stage.choices));
+             stage.picture(); // a window that comes forgets the search of the one before
+             stage.choices.setSearch(QStringLiteral("zzz"));
+             return window;
+         }});
 }
 
 inline std::vector<WindowScene> windowScenes()

@@ -19,7 +19,8 @@ public:
     bool isEmpty() const override { return false; }
     QString translate(const char *, const char *source, const char *, int) const override
     {
-        static const QString filler = QStringLiteral(" wordy enough for any language one can think of");
+        static const QString filler = QStringLiteral(
+            " wordy enough for any language one can think of");
         const QString text = QString::fromUtf8(source);
         return text + filler.left(std::max<qsizetype>(2, text.size() * 2 / 5));
     }
@@ -53,12 +54,15 @@ QList<Placed> texts(QQuickWindow *window)
 {
     QList<Placed> found;
     visit(window->contentItem(), [&found](QQuickItem *item) {
-        const QString text = item->property("text").toString().remove(QChar(0x2066)).remove(QChar(0x2069)); // marks that are not seen
+        // marks that are not seen
+        const QString text
+            = item->property("text").toString().remove(QChar(0x2066)).remove(QChar(0x2069));
         if (item->inherits("QQuickText") && !text.isEmpty() && !isReadFromTheLeft(item))
             found.append({text, item->mapRectToScene(QRectF(0, 0, item->width(), item->height()))});
     });
     std::sort(found.begin(), found.end(), [](const Placed &a, const Placed &b) {
-        return std::tuple(a.text, a.place.top(), a.place.height()) < std::tuple(b.text, b.place.top(), b.place.height());
+        return std::tuple(a.text, a.place.top(), a.place.height())
+            < std::tuple(b.text, b.place.top(), b.place.height());
     });
     return found;
 }
@@ -74,7 +78,8 @@ public:
 
 } // namespace
 
-// Every window loads and holds its texts, at any size that it may have and at other scales of the screen.
+// Every window loads and holds its texts, at any size that it may have and at other scales of the
+// screen.
 class WindowsFitTest : public QObject {
     Q_OBJECT
 
@@ -91,7 +96,8 @@ class WindowsFitTest : public QObject {
             const QString what = where + QStringLiteral(": ") + text;
             if (!elides) {
                 QVERIFY2(!item->property("truncated").toBool(), qPrintable(what));
-                QVERIFY2(item->property("contentWidth").toDouble() <= item->width() + 1, qPrintable(what));
+                QVERIFY2(item->property("contentWidth").toDouble() <= item->width() + 1,
+                         qPrintable(what));
             }
             QVERIFY2(place.left() >= -1 && place.right() <= width + 1, qPrintable(what));
             if (!isClipped(item))
@@ -135,7 +141,8 @@ private Q_SLOTS:
         Stage stage;
         for (const Scenes::Scene &scene : Scenes::panel()) {
             stage.session.show(scene.snapshot);
-            QVERIFY(stage.open(QStringLiteral("main/MainWindow.qml"), windows(stage).front().properties));
+            QVERIFY(stage.open(QStringLiteral("main/MainWindow.qml"),
+                               windows(stage).front().properties));
             stage.window()->resize(width, 768);
             stage.picture();
             expectWhole(stage, scene.name);
@@ -173,11 +180,17 @@ private Q_SLOTS:
             const QList<Placed> mirrored = texts(stage.window());
             QCOMPARE(mirrored.size(), usual.size());
             for (int i = 0; i < usual.size(); ++i) {
-                const QString what = QStringLiteral("%1: \"%2\" from %3 to %4, mirrored from %5 to %6 of %7")
-                                         .arg(QLatin1String(shown.name), usual[i].text).arg(usual[i].place.left()).arg(usual[i].place.right())
-                                         .arg(mirrored[i].place.left()).arg(mirrored[i].place.right()).arg(width);
+                const QString what = QStringLiteral(
+                                         "%1: \"%2\" from %3 to %4, mirrored from %5 to %6 of %7")
+                                         .arg(QLatin1String(shown.name), usual[i].text)
+                                         .arg(usual[i].place.left())
+                                         .arg(usual[i].place.right())
+                                         .arg(mirrored[i].place.left())
+                                         .arg(mirrored[i].place.right())
+                                         .arg(width);
                 QVERIFY2(mirrored[i].text == usual[i].text, qPrintable(what));
-                QVERIFY2(std::abs(mirrored[i].place.left() - (width - usual[i].place.right())) <= 2, qPrintable(what));
+                QVERIFY2(std::abs(mirrored[i].place.left() - (width - usual[i].place.right())) <= 2,
+                         qPrintable(what));
             }
         }
     }
@@ -185,7 +198,8 @@ private Q_SLOTS:
     void everyWindowHoldsEveryLanguage_data()
     {
         QTest::addColumn<QString>("file");
-        const QFileInfoList files = QDir(QStringLiteral(":/i18n")).entryInfoList({QStringLiteral("*.qm")});
+        const QFileInfoList files
+            = QDir(QStringLiteral(":/i18n")).entryInfoList({QStringLiteral("*.qm")});
         QVERIFY(!files.isEmpty());
         for (const QFileInfo &file : files)
             QTest::newRow(qPrintable(file.baseName())) << file.filePath();
@@ -202,7 +216,8 @@ private Q_SLOTS:
         Stage stage;
         for (const Scenes::Scene &scene : Scenes::panel()) {
             stage.session.show(scene.snapshot);
-            QVERIFY(stage.open(QStringLiteral("main/MainWindow.qml"), windows(stage).front().properties));
+            QVERIFY(stage.open(QStringLiteral("main/MainWindow.qml"),
+                               windows(stage).front().properties));
             stage.window()->resize(360, 768);
             stage.picture();
             expectWhole(stage, scene.name);
@@ -210,7 +225,8 @@ private Q_SLOTS:
         prepare(stage);
         for (const Shown &shown : windows(stage)) {
             QVERIFY(stage.open(QLatin1String(shown.file), shown.properties));
-            stage.window()->resize(std::max(360, stage.window()->minimumWidth()), std::max(420, stage.window()->minimumHeight()));
+            stage.window()->resize(std::max(360, stage.window()->minimumWidth()),
+                                   std::max(420, stage.window()->minimumHeight()));
             stage.picture();
             expectWhole(stage, QLatin1String(shown.file));
         }

@@ -16,7 +16,8 @@ double luminance(const QColor &color)
     const auto linear = [](double part) {
         return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
     };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
+        + 0.0722 * linear(color.blueF());
 }
 
 double contrast(const QColor &a, const QColor &b)
@@ -46,7 +47,8 @@ private Q_SLOTS:
         Stage stage;
         stage.setDark(dark);
         QQmlComponent component(&stage.engine);
-        component.setData("import QtQml\nimport Veldmark\nQtObject { property QtObject theme: Theme }", QUrl());
+        component.setData(
+            "import QtQml\nimport Veldmark\nQtObject { property QtObject theme: Theme }", QUrl());
         const std::unique_ptr<QObject> holder(component.create());
         QVERIFY2(holder, qPrintable(component.errorString()));
         auto *theme = holder->property("theme").value<QObject *>();
@@ -55,11 +57,12 @@ private Q_SLOTS:
             const QColor a = theme->property(fore).value<QColor>();
             const QColor b = theme->property(back).value<QColor>();
             QVERIFY2(a.isValid() && b.isValid(), fore);
-            const QByteArray what = QByteArray(fore) + " on " + back + ": " + QByteArray::number(contrast(a, b));
+            const QByteArray what = QByteArray(fore) + " on " + back + ": "
+                + QByteArray::number(contrast(a, b));
             QVERIFY2(contrast(a, b) >= least, what.constData());
         };
-        for (const char *ground : {"ground", "surface", "raised", "accentGround", "goodGround", "infoGround",
-                                   "warningGround", "dangerGround"})
+        for (const char *ground : {"ground", "surface", "raised", "accentGround", "goodGround",
+                                   "infoGround", "warningGround", "dangerGround"})
             for (const char *text : {"text", "quiet"})
                 expect(text, ground, 4.5);
         for (const char *tone : {"accent", "good", "info", "warning", "danger"}) {
@@ -87,7 +90,8 @@ private Q_SLOTS:
                     && !item->inherits("QQuickTextField"))
                     return;
                 QAccessibleInterface *face = QAccessible::queryAccessibleInterface(item);
-                const QByteArray what = QByteArray(shown.file) + " " + item->metaObject()->className();
+                const QByteArray what = QByteArray(shown.file) + " "
+                    + item->metaObject()->className();
                 QVERIFY2(face, what.constData());
                 QVERIFY2(!face->text(QAccessible::Name).isEmpty(), what.constData());
                 QVERIFY2(face->role() != QAccessible::NoRole && face->role() != QAccessible::Client,
@@ -114,17 +118,21 @@ private Q_SLOTS:
             QSet<QQuickItem *> wanted;
             visit(window->contentItem(), [&](QQuickItem *item) {
                 if ((item->inherits("QQuickAbstractButton") || item->inherits("QQuickComboBox")
-                     || item->inherits("QQuickTextField")) && item->isEnabled())
+                     || item->inherits("QQuickTextField"))
+                    && item->isEnabled())
                     wanted << item;
             });
-            for (qsizetype presses = wanted.size() * 3 + 10; presses > 0 && !wanted.isEmpty(); --presses) {
+            for (qsizetype presses = wanted.size() * 3 + 10; presses > 0 && !wanted.isEmpty();
+                 --presses) {
                 QTest::keyClick(window, Qt::Key_Tab);
                 wanted.remove(window->activeFocusItem());
             }
             for (QQuickItem *item : wanted)
-                QVERIFY2(wanted.isEmpty(), qPrintable(QStringLiteral("%1: %2 \"%3\"").arg(
-                    QLatin1String(shown.file), QLatin1String(item->metaObject()->className()),
-                    item->property("text").toString())));
+                QVERIFY2(wanted.isEmpty(),
+                         qPrintable(QStringLiteral("%1: %2 \"%3\"")
+                                        .arg(QLatin1String(shown.file),
+                                             QLatin1String(item->metaObject()->className()),
+                                             item->property("text").toString())));
         }
     }
 
@@ -132,7 +140,8 @@ private Q_SLOTS:
     {
         Stage stage;
         stage.session.show(Scenes::panel().front().snapshot);
-        QQuickWindow *window = stage.open(QStringLiteral("main/MainWindow.qml"), windows(stage).front().properties);
+        QQuickWindow *window = stage.open(QStringLiteral("main/MainWindow.qml"),
+                                          windows(stage).front().properties);
         window->requestActivate();
         QVERIFY(QTest::qWaitForWindowActive(window));
         stage.picture();
@@ -144,16 +153,19 @@ private Q_SLOTS:
     {
         Stage stage;
         stage.session.show(Scenes::panel().front().snapshot);
-        QQuickWindow *window = stage.open(QStringLiteral("main/MainWindow.qml"), windows(stage).front().properties);
+        QQuickWindow *window = stage.open(QStringLiteral("main/MainWindow.qml"),
+                                          windows(stage).front().properties);
         stage.picture();
         QQuickItem *strict = nullptr;
         visit(window->contentItem(), [&](QQuickItem *item) {
-            if (item->inherits("QQuickSwitch") && item->property("text") == QStringLiteral("Strict mode"))
+            if (item->inherits("QQuickSwitch")
+                && item->property("text") == QStringLiteral("Strict mode"))
                 strict = item;
         });
         QVERIFY(strict);
         const auto click = [&] {
-            const QPointF center = strict->mapToScene(QPointF(strict->width() / 2, strict->height() / 2));
+            const QPointF center = strict->mapToScene(
+                QPointF(strict->width() / 2, strict->height() / 2));
             QTest::mouseClick(window, Qt::LeftButton, {}, center.toPoint());
         };
         click();
@@ -176,19 +188,24 @@ private Q_SLOTS:
         failed.errorMessage = QStringLiteral("Tor closed the control connection.");
         failed.findings = Scenes::findings();
         stage.session.show(failed);
-        QQuickWindow *window = stage.open(QStringLiteral("main/MainWindow.qml"), windows(stage).front().properties);
+        QQuickWindow *window = stage.open(QStringLiteral("main/MainWindow.qml"),
+                                          windows(stage).front().properties);
         stage.picture();
         const auto shown = [&](const QString &text) {
             QQuickItem *found = nullptr;
             for (QQuickItem *root : {window->contentItem(), window->contentItem()->parentItem()})
                 if (root)
-                    visit(root, [&](QQuickItem *item) { found = item->property("text").toString() == text ? item : found; });
+                    visit(root, [&](QQuickItem *item) {
+                        found = item->property("text").toString() == text ? item : found;
+                    });
             return found;
         };
         QVERIFY(!shown(QStringLiteral("Look Again")));
         QQuickItem *cause = shown(QStringLiteral("Find the Cause"));
         QVERIFY(cause);
-        QTest::mouseClick(window, Qt::LeftButton, {}, cause->mapToScene(QPointF(cause->width() / 4, cause->height() / 2)).toPoint());
+        QTest::mouseClick(
+            window, Qt::LeftButton, {},
+            cause->mapToScene(QPointF(cause->width() / 4, cause->height() / 2)).toPoint());
         stage.picture();
         QCOMPARE(stage.session.asked, QStringList{QStringLiteral("examine")});
         QVERIFY(shown(QStringLiteral("Look Again")));
@@ -198,8 +215,9 @@ private Q_SLOTS:
     void escapeInTheQuitDialogHarmsNothing()
     {
         Stage stage;
-        QQuickWindow *window = stage.open(QStringLiteral("main/QuitDialog.qml"),
-                                          {{QStringLiteral("strict"), true}, {QStringLiteral("busy"), false}});
+        QQuickWindow *window = stage.open(
+            QStringLiteral("main/QuitDialog.qml"),
+            {{QStringLiteral("strict"), true}, {QStringLiteral("busy"), false}});
         QSignalSpy cancelled(window, SIGNAL(cancelled()));
         QSignalSpy quit(window, SIGNAL(quitWanted()));
         QSignalSpy disconnect(window, SIGNAL(disconnectWanted()));

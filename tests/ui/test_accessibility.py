@@ -19,14 +19,34 @@ SKIPPED = 77
 READER = pathlib.Path(__file__).resolve().parents[1] / "support" / "accessible.py"
 PYTHON = "/usr/bin/python3"
 
-CONTROLS = {"push button", "toggle button", "check box", "radio button", "combo box", "entry", "text", "password text",
-            "page tab", "list item", "link", "slider", "spin button", "menu item", "chart"}
+CONTROLS = {
+    "push button",
+    "toggle button",
+    "check box",
+    "radio button",
+    "combo box",
+    "entry",
+    "text",
+    "password text",
+    "page tab",
+    "list item",
+    "link",
+    "slider",
+    "spin button",
+    "menu item",
+    "chart",
+}
 NAMELESS = {"label", "filler", "panel", "layered pane", "scroll bar", "scroll pane", "viewport", "separator", "image"}
 STRANGE = {"unknown", "invalid", "redundant object", "extended"}
 
 WINDOWS = [
-    "main/MainWindow.qml", "main/MainWindow.qml disconnected", "main/PanelPopup.qml", "main/QuitDialog.qml",
-    "circuits/CircuitsWindow.qml", "log/LogWindow.qml", "chooser/ChooserWindow.qml",
+    "main/MainWindow.qml",
+    "main/MainWindow.qml disconnected",
+    "main/PanelPopup.qml",
+    "main/QuitDialog.qml",
+    "circuits/CircuitsWindow.qml",
+    "log/LogWindow.qml",
+    "chooser/ChooserWindow.qml",
     *(f"settings/SettingsWindow.qml pane={pane}" for pane in range(6)),
 ]
 
@@ -60,9 +80,18 @@ class Accessibility(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         cls.program = subprocess.Popen(
-            [SHOW_WINDOWS], stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True,
-            env=os.environ | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "QT_QPA_PLATFORM": "xcb",
-                              "QT_QUICK_BACKEND": "software", "LANG": "C.UTF-8"})
+            [SHOW_WINDOWS],
+            stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE,
+            text=True,
+            env=os.environ
+            | {
+                "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+                "QT_QPA_PLATFORM": "xcb",
+                "QT_QUICK_BACKEND": "software",
+                "LANG": "C.UTF-8",
+            },
+        )
         cls.addClassCleanup(cls.end)
 
     @classmethod
@@ -140,7 +169,20 @@ if __name__ == "__main__":
             print("skipped: run sudo apt install xvfb dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi")
             sys.exit(SKIPPED)
         os.environ["VELDMARK_DISPLAY_OF_ITS_OWN"] = "1"
-        sys.exit(subprocess.run(["dbus-run-session", "--", "xvfb-run", "--auto-servernum", "--server-args",
-                                 "-screen 0 1600x1200x24 -nolisten tcp", PYTHON, __file__, SHOW_WINDOWS,
-                                 *sys.argv[1:]]).returncode)
+        sys.exit(
+            subprocess.run(
+                [
+                    "dbus-run-session",
+                    "--",
+                    "xvfb-run",
+                    "--auto-servernum",
+                    "--server-args",
+                    "-screen 0 1600x1200x24 -nolisten tcp",
+                    PYTHON,
+                    __file__,
+                    SHOW_WINDOWS,
+                    *sys.argv[1:],
+                ]
+            ).returncode
+        )
     unittest.main(verbosity=2)

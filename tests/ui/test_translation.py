@@ -14,7 +14,19 @@ LUPDATE = sys.argv.pop(1)
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 SOURCES = ROOT / "src"
 FILES = sorted((ROOT / "resources" / "translations").glob("*.ts"))
-OPTIONS = ["-silent", "-extensions", "h,cpp,mm,qml", "-locations", "none", "-I", "src", "-disable-heuristic", "sametext", "-disable-heuristic", "similartext"]
+OPTIONS = [
+    "-silent",
+    "-extensions",
+    "h,cpp,mm,qml",
+    "-locations",
+    "none",
+    "-I",
+    "src",
+    "-disable-heuristic",
+    "sametext",
+    "-disable-heuristic",
+    "similartext",
+]
 
 
 def messages(path):
@@ -44,11 +56,15 @@ def joined(strings):
 # A string behind one of these is one of the translators'.
 TRANSLATED = re.compile(r'(?:\btr|\btranslate|QT_TRANSLATE_NOOP)\(\s*(?:"[^"]*",\s*)?$')
 # … and behind one of these it is for programs or programmers.
-FOR_PROGRAMS = re.compile(r"(?:qWarning|qFatal|QML_UNCREATABLE|says|contains|startsWith|QLatin1String|QRegularExpression \w+|installing)\("
-                          r"(?:QStringLiteral\(|QLatin1String\()?\s*$|[=(] ?u$|\{Package\{$|(?<!Text\()words : \{$|Known\{\"[a-z-]+\", $|reason:@$")
+FOR_PROGRAMS = re.compile(
+    r"(?:qWarning|qFatal|QML_UNCREATABLE|says|contains|startsWith|QLatin1String|QRegularExpression \w+|installing)\("
+    r"(?:QStringLiteral\(|QLatin1String\()?\s*$|[=(] ?u$|\{Package\{$|(?<!Text\()words : \{$|Known\{\"[a-z-]+\", $|reason:@$"
+)
 # Commands, paths, patterns, names and formats.
-NO_WORDS = re.compile(r"(?:sudo|veldmarkctl|brew|SETCONF|do shell script|Match exec|execution error:) |\./build|--| --|/|\^|# |\[Desktop|yyyy"
-                      r"|Tor version \(|(?:\\n)*Tor (?:Browser|Expert Bundle)|your package manager$|the file manager$|This Mac$|\" with ")
+NO_WORDS = re.compile(
+    r"(?:sudo|veldmarkctl|brew|SETCONF|do shell script|Match exec|execution error:) |\./build|--| --|/|\^|# |\[Desktop|yyyy"
+    r"|Tor version \(|(?:\\n)*Tor (?:Browser|Expert Bundle)|your package manager$|the file manager$|This Mac$|\" with "
+)
 # Whose sentences go to a log. (The programs of the rooms launch and identify know no translations: the helper calls them.)
 LOGGED = "checks/ExitCheckProbe.cpp", "checks/IPCheck.cpp"
 
@@ -58,9 +74,15 @@ def sentences(path):
     text = re.sub(r"(?m)^\s*#include.*$|(?<!:)//.*$", "", path.read_text())
     text = re.sub(r"'\\?\"'", "' '", re.sub(r'R"\(.*?\)"', '""', text, flags=re.DOTALL))
     for match in re.finditer(STRINGS, text):
-        words, before = joined(match.group(1)), text[max(0, match.start() - 80):match.start()]
-        if re.search(r"[A-Za-z]{2,}[ ,:;%]+[a-zA-Z%]", words) and " " in words and re.search("[a-z]{2}", words) \
-                and not TRANSLATED.search(before) and not FOR_PROGRAMS.search(before) and not NO_WORDS.match(words):
+        words, before = joined(match.group(1)), text[max(0, match.start() - 80) : match.start()]
+        if (
+            re.search(r"[A-Za-z]{2,}[ ,:;%]+[a-zA-Z%]", words)
+            and " " in words
+            and re.search("[a-z]{2}", words)
+            and not TRANSLATED.search(before)
+            and not FOR_PROGRAMS.search(before)
+            and not NO_WORDS.match(words)
+        ):
             yield words
 
 
@@ -99,7 +121,10 @@ class Helper(unittest.TestCase):
                 yield self.form(text, match.end()).strip()
             yield from re.findall(r":-((?:[A-Z][a-z]+|it) [^}\"$]*\.)\}", text)
             yield from (words.replace("%s", "%1") for words in re.findall(r"printf '(a program [^']*)'", text))
-            yield from (words.replace("%s (", "a program (").replace("%s", "%1") for words in re.findall(r"printf '(%s \(process %s\))'", text))
+            yield from (
+                words.replace("%s (", "a program (").replace("%s", "%1")
+                for words in re.findall(r"printf '(%s \(process %s\))'", text)
+            )
         for path in (SOURCES / "launch").glob("*.cpp"):
             text = path.read_text()
             yield from re.findall(r'(?:fail\((?:errors, )?|return )"([A-Z][^"]*\.)"', text)

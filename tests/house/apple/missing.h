@@ -1,4 +1,5 @@
-// What the free headers of AppKit lack of what is used, declared from Apple's public documentation, for the syntax check.
+// What the free headers of AppKit lack of what is used, declared from Apple's public documentation,
+// for the syntax check.
 #import <AppKit/AppKit.h>
 #import <AppKit/NSRunningApplication.h>
 #import <Foundation/NSAppleEventDescriptor.h>
@@ -19,7 +20,10 @@ typedef unsigned int AEEventClass, AEEventID, AEKeyword;
 @interface NSAppleEventManager (Missing)
 + (NSAppleEventManager *)sharedAppleEventManager;
 - (NSAppleEventDescriptor *)currentAppleEvent;
-- (void)setEventHandler:(id)handler andSelector:(SEL)selector forEventClass:(AEEventClass)eventClass andEventID:(AEEventID)eventID;
+- (void)setEventHandler:(id)handler
+            andSelector:(SEL)selector
+          forEventClass:(AEEventClass)eventClass
+             andEventID:(AEEventID)eventID;
 @end
 
 enum : AEEventClass { kCoreEventClass = 'aevt' };

@@ -12,9 +12,9 @@ import time
 
 TOR_PORTS = {9050, 9051}
 DNS_PORT = 293
-GROUP = "/sys/fs/cgroup/desktop"   # everybody may kill what is in it
+GROUP = "/sys/fs/cgroup/desktop"  # everybody may kill what is in it
 OWN_TOR = "/opt/own/tor"
-HASH = "16:" + "0123456789ABCDEF" * 3 + "0123456789"   # as in case.py, which this program cannot import
+HASH = "16:" + "0123456789ABCDEF" * 3 + "0123456789"  # as in case.py, which this program cannot import
 PROXY = ["--strict", "0", "--lan", "0"]
 
 
@@ -59,7 +59,11 @@ def beside_tor():
 
 def place():
     """Listens in Tor's place, where Tor is away; it is enough that it answers itself."""
-    for family, address, port in ((socket.AF_INET, "127.0.0.1", 9050), (socket.AF_INET, "127.0.0.1", 9051), (socket.AF_INET6, "::1", 9050)):
+    for family, address, port in (
+        (socket.AF_INET, "127.0.0.1", 9050),
+        (socket.AF_INET, "127.0.0.1", 9051),
+        (socket.AF_INET6, "::1", 9050),
+    ):
         with socket.create_server((address, port), family=family), socket.socket(family) as caller:
             caller.settimeout(0.5)
             if caller.connect_ex((address, port)) == 0:
@@ -89,7 +93,10 @@ def kill():
 
 
 def by_rule(*words):
-    return subprocess.run(["sudo", "-n", sys.argv[1], *words], capture_output=True, stdin=subprocess.DEVNULL, check=False).returncode == 0
+    return (
+        subprocess.run(["sudo", "-n", sys.argv[1], *words], capture_output=True, stdin=subprocess.DEVNULL, check=False).returncode
+        == 0
+    )
 
 
 def connect(*more, tor="/usr/bin/tor"):
@@ -109,11 +116,16 @@ ATTACKS = {
     "kill": (kill, "an end of the control group that it was begun in"),
     "proxy": (lambda: connect(*PROXY), "by the rule: proxy mode"),
     "lan": (lambda: connect("--strict", "1", "--lan", "1"), "by the rule: the local network"),
-    "interpreter": (lambda: connect(*PROXY, "--bridge", "obfs4 192.0.2.1:443 cert=a iat-mode=0", "--pt-lyrebird", "/opt/interpreter/program"),
-                    "by the rule: an interpreter as a bridge program"),
+    "interpreter": (
+        lambda: connect(*PROXY, "--bridge", "obfs4 192.0.2.1:443 cert=a iat-mode=0", "--pt-lyrebird", "/opt/interpreter/program"),
+        "by the rule: an interpreter as a bridge program",
+    ),
     "program": (lambda: connect(*PROXY, tor=OWN_TOR), "by the rule: a Tor of one's own"),
     "approval": (lambda: approve(), "by the rule: an approval of it"),
-    "launch": (lambda: by_rule("launch", "--uid", str(os.getuid()), "--app", "/bin/true"), "by the rule: an application without Tor"),
+    "launch": (
+        lambda: by_rule("launch", "--uid", str(os.getuid()), "--app", "/bin/true"),
+        "by the rule: an application without Tor",
+    ),
 }
 
 if __name__ == "__main__":

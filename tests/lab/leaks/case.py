@@ -17,7 +17,7 @@ from veldlab.product import Product
 PROGRAMS = Path(os.environ.get("VELDMARK_PROGRAMS", PROJECT / "build" / "bin"))
 SENDER = str(Path(__file__).resolve().with_name("sender.py"))
 HASH = "16:" + "0123456789ABCDEF" * 3 + "0123456789"
-GROUPS = {2: "/sys/fs/cgroup/veldmark/tor", 3: "/sys/fs/cgroup/veldmark-exempt"}   # which identity is in one
+GROUPS = {2: "/sys/fs/cgroup/veldmark/tor", 3: "/sys/fs/cgroup/veldmark-exempt"}  # which identity is in one
 EVERYBODY = range(len(matrix.IDENTITIES))
 
 
@@ -33,12 +33,14 @@ class LeakCase(unittest.TestCase):
         cls.host = cls.lab.host
         cls.matrix = Matrix()
         cls.addClassCleanup(lambda: print(f"\npackets seen when nothing blocks / in strict mode\n{cls.matrix}", flush=True))
-        world = ("ip route add blackhole 203.0.113.0/24; ip route add blackhole 2001:db8:cb::/64")
+        world = "ip route add blackhole 203.0.113.0/24; ip route add blackhole 2001:db8:cb::/64"
         cls.lab.spaces["world"].run(["sh", "-c", world], check=True)
-        cls.sh("echo '0 2147483647' >/proc/sys/net/ipv4/ping_group_range; echo 2 >/proc/sys/net/ipv4/conf/eth0/force_igmp_version;"
-               "echo 1 >/proc/sys/net/ipv6/conf/eth0/force_mld_version; echo 0 >/proc/sys/net/ipv4/icmp_ratelimit")
+        cls.sh(
+            "echo '0 2147483647' >/proc/sys/net/ipv4/ping_group_range; echo 2 >/proc/sys/net/ipv4/conf/eth0/force_igmp_version;"
+            "echo 1 >/proc/sys/net/ipv6/conf/eth0/force_mld_version; echo 0 >/proc/sys/net/ipv4/icmp_ratelimit"
+        )
         cls.connect()
-        cls.disconnect()   # the account that Tor runs under exists from here on
+        cls.disconnect()  # the account that Tor runs under exists from here on
         cls.sentinels = 0
 
     def setUp(self):
@@ -52,13 +54,15 @@ class LeakCase(unittest.TestCase):
 
     @classmethod
     def helper(cls, *words, check=True):
-        return cls.host.run(["env", f"PKEXEC_UID={cls.host.uid}", "/bin/bash", str(PROGRAMS / "veldmark-helper.sh"), *words], check=check)
+        return cls.host.run(
+            ["env", f"PKEXEC_UID={cls.host.uid}", "/bin/bash", str(PROGRAMS / "veldmark-helper.sh"), *words], check=check
+        )
 
     @classmethod
     def connect(cls, lan=0, check=True):
         return cls.helper("connect", "--tor", "/usr/bin/tor", "--hash", HASH, "--strict", "1", "--lan", str(lan), check=check)
 
-    bridge = None   # address and port, in a session in which Tor reaches nothing else
+    bridge = None  # address and port, in a session in which Tor reaches nothing else
 
     @classmethod
     def disconnect(cls):
@@ -76,7 +80,7 @@ class LeakCase(unittest.TestCase):
     def words(self, identity, *arguments, within=True):
         """(command, options) that runs sender.py as the identity; `within` its control group, if it has one."""
         command = ["/usr/bin/python3", "-B", SENDER, *map(str, arguments)]
-        if identity in GROUPS and within:   # in the group by the hand of root, as the helper does; without a session there is none
+        if identity in GROUPS and within:  # in the group by the hand of root, as the helper does; without a session there is none
             user = "_veldmark" if identity == 2 else str(self.host.uid)
             group = "_veldmark" if identity == 2 else str(self.host.uid)
             enter = '[ ! -d "$0" ] || echo 0 >"$0/cgroup.procs"; exec setpriv --reuid "$1" --regid "$2" --clear-groups -- /bin/sh -c \'cd /; exec "$@"\' sh "${@:3}"'
@@ -86,7 +90,9 @@ class LeakCase(unittest.TestCase):
 
     def start(self, identity, *arguments, within=True, **pipes):
         command, options = self.words(identity, *arguments, within=within)
-        return self.host.popen(command, **options, **({"stdout": subprocess.PIPE, "stderr": subprocess.STDOUT, "text": True} | pipes))
+        return self.host.popen(
+            command, **options, **({"stdout": subprocess.PIPE, "stderr": subprocess.STDOUT, "text": True} | pipes)
+        )
 
     def send(self, names, identities=EVERYBODY, within=True):
         """All identities at once; returns when everything has been sent."""
@@ -115,11 +121,22 @@ class LeakCase(unittest.TestCase):
         # What still asks for a neighbour's address would be overtaken; the kernel gives up by itself after three seconds.
         self.sh("while ip neigh show nud incomplete | grep -q .; do sleep 0.02; done", timeout=30)
         type(self).sentinels += 1
-        port = 20000 + self.sentinels   # the kernel gives others
+        port = 20000 + self.sentinels  # the kernel gives others
         address, at_port = self.bridge or (matrix.SENTINEL, 1000)
-        self.host.run(["/bin/sh", "-c", '[ ! -d "$0" ] || echo 0 >"$0/cgroup.procs"; exec setpriv --reuid _veldmark --clear-groups "$@"', GROUPS[2],
-                       "/usr/bin/python3", "-c", f"import socket; s = socket.socket(); s.bind(('', {port})); s.setblocking(False);"
-                       f"s.connect_ex(('{address}', {at_port}))"], cwd="/", check=True)
+        self.host.run(
+            [
+                "/bin/sh",
+                "-c",
+                '[ ! -d "$0" ] || echo 0 >"$0/cgroup.procs"; exec setpriv --reuid _veldmark --clear-groups "$@"',
+                GROUPS[2],
+                "/usr/bin/python3",
+                "-c",
+                f"import socket; s = socket.socket(); s.bind(('', {port})); s.setblocking(False);"
+                f"s.connect_ex(('{address}', {at_port}))",
+            ],
+            cwd="/",
+            check=True,
+        )
         for capture in seen.captures:
             capture.wait_for(lambda p: p.dst == address and p.sport == port)
 
@@ -140,7 +157,9 @@ class LeakCase(unittest.TestCase):
 
     def core(self, scenario, names=probes.CORE, phase="session", identities=EVERYBODY):
         """One row: the sum over ordinary probes for each identity. Tor's TCP goes out by right, so its row is for the rest."""
-        cells = self.matrix.row(scenario, [CLOSED if i < 3 and i in identities else OPEN if i in identities else ABSENT for i in EVERYBODY])
+        cells = self.matrix.row(
+            scenario, [CLOSED if i < 3 and i in identities else OPEN if i in identities else ABSENT for i in EVERYBODY]
+        )
         seen = self.run_probes(names, identities)
         counts = seen.counts()
         for (name, identity), number in counts.items():

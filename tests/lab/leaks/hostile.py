@@ -14,9 +14,9 @@ from leaks.matrix import CLOSED, Matrix
 
 ATTACKS = str(Path(__file__).resolve().with_name("attacks.py"))
 IDENTITIES = ("a program of the session's user", "a program of another account")
-INDICES = (6, 7)   # of their probes
+INDICES = (6, 7)  # of their probes
 INSTALLED = "/usr/local/libexec/veldmark/veldmark-helper.sh"
-ELSEWHERE = "/opt/own/veldmark-helper.sh"   # where sudo's rule is an administrator's word
+ELSEWHERE = "/opt/own/veldmark-helper.sh"  # where sudo's rule is an administrator's word
 RULE = "/etc/sudoers.d/veldmark"
 BY_RULE = ("proxy", "lan", "interpreter", "program", "approval", "launch")
 AWAY = "pkill -KILL -u _veldmark; while pgrep -u _veldmark; do sleep 0.01; done"
@@ -45,10 +45,12 @@ class HostileRows:
             self.assertEqual(table.broken(set(table.rows)), [])
 
     def prepare(self, stack):
-        self.sh(f"install -D -m 0755 {PROGRAMS}/veldmark-helper.sh {INSTALLED}; grep -q '^@includedir /etc/sudoers.d' /etc/sudoers ||"
-                " echo '@includedir /etc/sudoers.d' >>/etc/sudoers; mkdir -p /opt/own /opt/interpreter; cp /usr/bin/perl /opt/interpreter/program;"
-                f"cp /usr/bin/tor /opt/own/tor; chown {self.host.uid} /opt/own/tor; cp $(readlink -f /usr/bin/python3) /opt/own/left;"
-                f"chown _veldmark /opt/own/left; chmod 4755 /opt/own/left; cp {INSTALLED} {ELSEWHERE}; cp {PROGRAMS}/veldmark-launch /opt/own")
+        self.sh(
+            f"install -D -m 0755 {PROGRAMS}/veldmark-helper.sh {INSTALLED}; grep -q '^@includedir /etc/sudoers.d' /etc/sudoers ||"
+            " echo '@includedir /etc/sudoers.d' >>/etc/sudoers; mkdir -p /opt/own /opt/interpreter; cp /usr/bin/perl /opt/interpreter/program;"
+            f"cp /usr/bin/tor /opt/own/tor; chown {self.host.uid} /opt/own/tor; cp $(readlink -f /usr/bin/python3) /opt/own/left;"
+            f"chown _veldmark /opt/own/left; chmod 4755 /opt/own/left; cp {INSTALLED} {ELSEWHERE}; cp {PROGRAMS}/veldmark-launch /opt/own"
+        )
         stack.callback(self.sh, f"rm -rf /opt/own /opt/interpreter /usr/local/libexec/veldmark {RULE} /run/hostile")
         self.sh(f"mkdir {attacks.GROUP}; chmod 666 {attacks.GROUP}/cgroup.kill")
         stack.callback(self.sh, f"rmdir {attacks.GROUP}")
@@ -67,7 +69,9 @@ class HostileRows:
 
     def attack(self, rows, phase, *names, helper=INSTALLED, after=None):
         for column, user in enumerate(self.users):
-            done = self.host.run(["/usr/bin/python3", "-B", "/run/hostile/attacks.py", helper, *names], user=user, cwd="/", check=True)
+            done = self.host.run(
+                ["/usr/bin/python3", "-B", "/run/hostile/attacks.py", helper, *names], user=user, cwd="/", check=True
+            )
             for name in done.stdout.split():
                 cell = rows[attacks.ATTACKS[name][1]][column]
                 setattr(cell, phase, getattr(cell, phase) + 1)
@@ -78,9 +82,11 @@ class HostileRows:
         connect = "import socket; s = socket.socket(); s.setblocking(False); s.connect_ex(('{}', {}))"
         with self.watched() as seen:
             for index, user in zip(INDICES, self.users):
-                for command in (["/usr/bin/python3", "-B", SENDER, "send", str(index), *probes.CORE],
-                                ["/opt/own/left", "-c", connect.format(probes.public(index), 80)],
-                                ["/usr/bin/python3", "-c", connect.format("192.168.77.2", f"80{index}")]):
+                for command in (
+                    ["/usr/bin/python3", "-B", SENDER, "send", str(index), *probes.CORE],
+                    ["/opt/own/left", "-c", connect.format(probes.public(index), 80)],
+                    ["/usr/bin/python3", "-c", connect.format("192.168.77.2", f"80{index}")],
+                ):
                     self.host.run(command, user=user, cwd="/", check=True)
         for (name, index), number in seen.counts().items():
             if index in INDICES:
@@ -93,9 +99,23 @@ class HostileRows:
 
     def begin(self, bridges, lan):
         more = self.bridge_words() if bridges else []
-        self.sh(f'echo 0 >{attacks.GROUP}/cgroup.procs; PKEXEC_UID=$0 exec "$@"', str(self.host.uid), "/bin/bash", str(PROGRAMS / "veldmark-helper.sh"), "connect",
-                "--tor", "/usr/bin/tor", "--hash", HASH, "--strict", "1", "--lan", str(lan), *more)
-        if bridges:   # until the bridge program serves
+        self.sh(
+            f'echo 0 >{attacks.GROUP}/cgroup.procs; PKEXEC_UID=$0 exec "$@"',
+            str(self.host.uid),
+            "/bin/bash",
+            str(PROGRAMS / "veldmark-helper.sh"),
+            "connect",
+            "--tor",
+            "/usr/bin/tor",
+            "--hash",
+            HASH,
+            "--strict",
+            "1",
+            "--lan",
+            str(lan),
+            *more,
+        )
+        if bridges:  # until the bridge program serves
             address, port = more[1].split()[1].rsplit(":", 1)
             type(self).bridge = address, int(port)
             self.sh("until grep -c ' 0A .* '$(id -u _veldmark)' ' /proc/net/tcp | grep -q 3; do sleep 0.05; done", timeout=30)
@@ -119,8 +139,10 @@ class HostileRows:
         self.sh("rm -r /var/lib/veldmark/programs/*")
         self.allow(None)
         self.begin(True, 0)
-        self.sh("pkill -STOP -f watcher[.]sh; for c in answering opening; do nft flush chain inet veldmark $c; nft add rule inet veldmark $c accept; done;"
-                "sysctl -qw net.ipv4.ip_unprivileged_port_start=0")
+        self.sh(
+            "pkill -STOP -f watcher[.]sh; for c in answering opening; do nft flush chain inet veldmark $c; nft add rule inet veldmark $c accept; done;"
+            "sysctl -qw net.ipv4.ip_unprivileged_port_start=0"
+        )
         self.attack(rows, "control", "tunnel", "beside")
         self.sh(f"sysctl -qw net.ipv4.ip_unprivileged_port_start=1024; {AWAY}")
         self.attack(rows, "control", "place")
@@ -129,13 +151,14 @@ class HostileRows:
         def in_reach():
             self.helper("fix-dns")
             self.sh(f"pgrep -o -f watcher[.]sh >{attacks.GROUP}/cgroup.procs")
+
         in_reach()
         self.attack(rows, "control", "kill", after=in_reach)
         self.disconnect()
 
     def attacked_session(self, rows, bridges, free, lan):
         self.allow(INSTALLED if free else None)
-        self.attack(rows, "session", "interpreter", "program", "approval")   # no session keeps these out
+        self.attack(rows, "session", "interpreter", "program", "approval")  # no session keeps these out
         self.begin(bridges, lan)
         try:
             state = self.truth()
@@ -149,4 +172,6 @@ class HostileRows:
             self.disconnect()
 
     def truth(self):
-        return self.sh("cat /var/lib/veldmark/state/active; md5sum </var/lib/veldmark/asked; nft -s -t list table inet veldmark; pgrep -u _veldmark")
+        return self.sh(
+            "cat /var/lib/veldmark/state/active; md5sum </var/lib/veldmark/asked; nft -s -t list table inet veldmark; pgrep -u _veldmark"
+        )

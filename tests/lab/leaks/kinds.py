@@ -105,6 +105,7 @@ def in_user_namespace(action, *arguments):
     if child == 0:
         try:
             import ctypes
+
             uid = os.getuid()
             if ctypes.CDLL(None, use_errno=True).unshare(0x10000000) == 0:
                 with open("/proc/self/uid_map", "w", encoding="ascii") as numbers:

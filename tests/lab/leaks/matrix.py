@@ -11,10 +11,10 @@ from veldlab import topology as at
 
 IDENTITIES = ("nobody", "root", "Tor's account", "without Tor")
 CLOSED, OPEN, ABSENT = "closed", "open", "absent"
-SENTINEL = "203.0.113.90"   # as Tor's account: what was sent before it has arrived before it
+SENTINEL = "203.0.113.90"  # as Tor's account: what was sent before it has arrived before it
 
 _TCP = {"tcp", "tcp-bound", "tcp-lan", "mapped", "fastopen", "userns-tcp"}
-_KERNELS_OWN = {"igmp", "mld"}   # sent by the kernel, for no application
+_KERNELS_OWN = {"igmp", "mld"}  # sent by the kernel, for no application
 _HEADER = "scenario"
 
 
@@ -25,7 +25,7 @@ def promise(name: str, identity: int) -> str:
         return ABSENT
     if identity == 3 and how not in _KERNELS_OWN:
         return OPEN
-    if identity == 2 and how in _TCP:   # but not to private addresses; the neighbour's of IPv6 is a public one
+    if identity == 2 and how in _TCP:  # but not to private addresses; the neighbour's of IPv6 is a public one
         return CLOSED if how == "tcp-lan" and "IPv6" not in name else OPEN
     return CLOSED
 
@@ -34,9 +34,8 @@ def is_allowed(packet) -> bool:
     """The whole allow-list of what the host may send in strict mode besides the probes that are let out."""
     if packet.family == "arp":
         return True
-    if packet.proto == "icmp6":   # neighbour discovery
-        return packet.dst.startswith(("ff02::1:ff", "fe80::")) or packet.dst in (
-            "ff02::2", at.ROUTER_LAN_ADDRESS6, at.LAN_ADDRESS6)
+    if packet.proto == "icmp6":  # neighbour discovery
+        return packet.dst.startswith(("ff02::1:ff", "fe80::")) or packet.dst in ("ff02::2", at.ROUTER_LAN_ADDRESS6, at.LAN_ADDRESS6)
     if packet.proto == "tcp":
         return packet.dst in at.RELAY_ADDRESSES or packet.dst == SENTINEL
     return False
@@ -65,7 +64,7 @@ class Matrix:
     def __init__(self, identities=IDENTITIES):
         self.identities = identities
         self.rows: dict[str, list[Cell]] = {}
-        self.strangers: dict[str, list] = {}   # packets that are nobody's and not on the allow-list
+        self.strangers: dict[str, list] = {}  # packets that are nobody's and not on the allow-list
 
     def row(self, name: str, promises) -> list[Cell]:
         return self.rows.setdefault(name, [Cell(p) for p in promises])
@@ -78,8 +77,13 @@ class Matrix:
                 setattr(cell, phase, counts.get((name, identity), 0))
 
     def broken(self, names) -> list[str]:
-        return [f"{name}, {identity}: {cell}" for name, cells in self.rows.items() if name in names
-                for identity, cell in zip(self.identities, cells) if not cell.kept]
+        return [
+            f"{name}, {identity}: {cell}"
+            for name, cells in self.rows.items()
+            if name in names
+            for identity, cell in zip(self.identities, cells)
+            if not cell.kept
+        ]
 
     def __str__(self) -> str:
         lines = [[_HEADER, *self.identities]] + [[name, *map(str, cells)] for name, cells in self.rows.items()]

@@ -4,9 +4,9 @@ A packet is known by what is in its header: every identity has addresses (203.0.
 and multicast groups of its own, and every probe a port, protocol or address of its own. sender.py sends them.
 """
 
-REPEATS = 3   # of each probe
+REPEATS = 3  # of each probe
 NEIGHBOUR, NEIGHBOUR6, GATEWAY = "192.168.77.9", "2001:db8:77::9", "192.168.77.1"
-HELD_SERVER, HELD_TCP, HELD_UDP, HELD_DNS = "203.0.113.37", 41000, 41100, 41200   # source ports, + index
+HELD_SERVER, HELD_TCP, HELD_UDP, HELD_DNS = "203.0.113.37", 41000, 41100, 41200  # source ports, + index
 
 
 def public(index):
@@ -86,8 +86,16 @@ PROBES = {
 CORE = ("TCP", "TCP, IPv6", "UDP", "UDP, IPv6", "ICMP echo", "DNS", "DNS, IPv6")
 
 # Those that need root or a capability, and are not sent by the others.
-RAW = {"ICMP timestamp, raw", "raw IP, protocol 99", "raw IPv6, protocol 99", "GRE", "ESP", "SCTP, raw", "own IP header",
-       "forged DHCP to a public address"}
+RAW = {
+    "ICMP timestamp, raw",
+    "raw IP, protocol 99",
+    "raw IPv6, protocol 99",
+    "GRE",
+    "ESP",
+    "SCTP, raw",
+    "own IP header",
+    "forged DHCP to a public address",
+}
 
 _PINGS = {"ping": "icmp", "ping6": "icmp6", "userns-ping": "icmp"}
 _PROTOCOL_NAMES = {136: "136", 99: "99", 47: "47", 50: "50", 132: "sctp"}

@@ -26,7 +26,7 @@ def send(index, names):
             try:
                 kinds.send_probe(name, index)
             except OSError as error:
-                print(f"{name}: {error}", flush=True)   # refused on the spot; what got out is for the router to say
+                print(f"{name}: {error}", flush=True)  # refused on the spot; what got out is for the router to say
     children = []
     for name in slow:
         child = os.fork()
@@ -56,7 +56,11 @@ def flood(index, names):
 
 def hold(index):
     flows = []
-    for kind, base, port in ((socket.SOCK_STREAM, probes.HELD_TCP, 80), (socket.SOCK_DGRAM, probes.HELD_UDP, 20018), (socket.SOCK_DGRAM, probes.HELD_DNS, 53)):
+    for kind, base, port in (
+        (socket.SOCK_STREAM, probes.HELD_TCP, 80),
+        (socket.SOCK_DGRAM, probes.HELD_UDP, 20018),
+        (socket.SOCK_DGRAM, probes.HELD_DNS, 53),
+    ):
         flow = socket.socket(socket.AF_INET, kind)
         flow.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1)
         flow.bind(("0.0.0.0", base + index))
@@ -67,7 +71,7 @@ def hold(index):
     print("ready", flush=True)
     for _ in sys.stdin:
         for flow in flows:
-            for _ in range(2):   # the first of the two may only report the answer to the one before
+            for _ in range(2):  # the first of the two may only report the answer to the one before
                 try:
                     flow.send(b"GET / HTTP/1.1\r\n")
                 except OSError:

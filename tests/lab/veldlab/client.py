@@ -77,7 +77,8 @@ class TorClient:
         """curl over the SOCKS port, names resolved by Tor; the completed process."""
         proxy = f"127.0.0.1:{self._port}"
         return self._lab.host.run(
-            ["curl", "-sS", "--max-time", "60", "--socks5-hostname", proxy, *options, url], user="alice", timeout=90)
+            ["curl", "-sS", "--max-time", "60", "--socks5-hostname", proxy, *options, url], user="alice", timeout=90
+        )
 
     def check(self) -> dict:
         """The exit check's answer, over Tor. Raises ValueError when there is none."""

@@ -95,7 +95,9 @@ class Desktop(contextlib.ExitStack):
         """A new X server and its window manager; what runs on an earlier one stays there."""
         self.display = self._start(
             ["Xvfb", "-displayfd", "1", "-screen", "0", "1600x1000x24", "-nolisten", "tcp"],
-            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+            stdout=subprocess.PIPE,
+            stderr=subprocess.DEVNULL,
+        )
         self.env["DISPLAY"] = ":" + Lines(self.display.stdout).wait(bool)
         self.manager = self._start(["openbox", "--sm-disable"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self.run(["xdotool", "search", "--sync", "--maxdepth", "1", "--name", ".*"], check=True)
@@ -108,8 +110,7 @@ class Desktop(contextlib.ExitStack):
 
     def start_session_manager(self) -> "Service":
         """A session manager, tests/support/session_manager.py. Programs that are started from now on belong to its session."""
-        process = self._start([at.PYTHON, str(_SUPPORT / "session_manager.py")], stdin=subprocess.PIPE,
-                              stdout=subprocess.PIPE)
+        process = self._start([at.PYTHON, str(_SUPPORT / "session_manager.py")], stdin=subprocess.PIPE, stdout=subprocess.PIPE)
         manager = Service(process)
         self.env["SESSION_MANAGER"] = manager.lines.wait(bool)
         return manager
@@ -121,9 +122,13 @@ class Desktop(contextlib.ExitStack):
         self.lab.host.run(["mkdir", "-p", "/run/dbus"], check=True)
         bus = self._start(["dbus-daemon", "--system", "--nofork", "--nopidfile"], user="root")
         try:
-            self.lab.host.run(["sh", "-c", "until gdbus wait --system --timeout 20 org.freedesktop.DBus 2>/dev/null; do sleep 0.02; done"], check=True)
-            process = self._start([at.PYTHON, str(_SUPPORT / "login_manager.py")], user="root", stdin=subprocess.PIPE,
-                                  stdout=subprocess.PIPE)
+            self.lab.host.run(
+                ["sh", "-c", "until gdbus wait --system --timeout 20 org.freedesktop.DBus 2>/dev/null; do sleep 0.02; done"],
+                check=True,
+            )
+            process = self._start(
+                [at.PYTHON, str(_SUPPORT / "login_manager.py")], user="root", stdin=subprocess.PIPE, stdout=subprocess.PIPE
+            )
             service = Service(process)
             try:
                 service.lines.wait(lambda line: line == "ready")
@@ -187,8 +192,13 @@ class Application(contextlib.AbstractContextManager):
         # The shell's own id becomes the program's: other processes know it by the host's numbers.
         self.process = desktop.lab.host.popen(
             ["/bin/sh", "-c", 'echo "process $$" >&2; exec "$@"', "start", str(Path(programs) / "veldmark"), *arguments],
-            user=desktop.user, env=env, text=True, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-            stderr=subprocess.PIPE)
+            user=desktop.user,
+            env=env,
+            text=True,
+            stdin=subprocess.DEVNULL,
+            stdout=subprocess.DEVNULL,
+            stderr=subprocess.PIPE,
+        )
         self._errors = Lines(self.process.stderr)
         self.pid = int(self._errors.wait(lambda line: line.startswith("process ")).split()[1])
 
@@ -234,8 +244,9 @@ class Application(contextlib.AbstractContextManager):
             target = self.wait_for(role, name, max(0, deadline - time.monotonic()), "enabled")
             there = target["x"] + target["width"] // 2, target["y"] + target["height"] // 2
             if "active" not in target["window"]["states"]:
-                self.desktop.run(["xdotool", "search", "--onlyvisible", "--name", f"^{target['window']['name']}$",
-                                  "windowactivate"], check=True)
+                self.desktop.run(
+                    ["xdotool", "search", "--onlyvisible", "--name", f"^{target['window']['name']}$", "windowactivate"], check=True
+                )
             elif there == place:  # still where the pointer went: the window manager has placed it
                 self.desktop.run(["xdotool", "click", "1"], check=True)
                 return

@@ -32,9 +32,7 @@ _KINDS = {
     "cgroup": kernel.CLONE_NEWCGROUP,
     "mnt": kernel.CLONE_NEWNS,
 }
-_FORWARDED = [
-    signal.SIGTERM, signal.SIGINT, signal.SIGHUP, signal.SIGQUIT, signal.SIGUSR1, signal.SIGUSR2, signal.SIGWINCH
-]
+_FORWARDED = [signal.SIGTERM, signal.SIGINT, signal.SIGHUP, signal.SIGQUIT, signal.SIGUSR1, signal.SIGUSR2, signal.SIGWINCH]
 _SENT_BY_A_PROCESS = (0, -1, -6)  # si_code SI_USER, SI_QUEUE, SI_TKILL; a terminal's signals reach the command anyway
 
 

@@ -44,8 +44,13 @@ class Lab:
     is told the name of each step as it begins, on any thread.
     """
 
-    def __init__(self, share: Iterable[str | Path] = (), logs: str | Path = "", on_step: Callable[[str], None] | None = None,
-                 consensus: bool = True):
+    def __init__(
+        self,
+        share: Iterable[str | Path] = (),
+        logs: str | Path = "",
+        on_step: Callable[[str], None] | None = None,
+        consensus: bool = True,
+    ):
         self.share = [str(PROJECT), *_given_folders(), *map(str, share)]
         self.logs = logs
         self.on_step = on_step
@@ -130,8 +135,7 @@ class Lab:
     def _start_supervisor(self) -> None:
         arguments = [registry.new_id(), str(os.getpid()), json.dumps({"share": self.share})]
         self._supervisor = subprocess.Popen(
-            [at.PYTHON, "-B", str(_SUPERVISOR), *arguments],
-            stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True,
+            [at.PYTHON, "-B", str(_SUPERVISOR), *arguments], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True
         )
         line = self._supervisor.stdout.readline()
         answer = json.loads(line) if line else {"error": "its first process ended early"}

@@ -15,9 +15,7 @@ _FOLDER = "/run/netns"
 def _links() -> list[str]:
     """ip(8) commands, one per line, run in the named namespace before the colon."""
     prefix = 24, 64
-    lines = [
-        f"{space}: link set lo up" for space in at.SPACES
-    ] + [
+    lines = [f"{space}: link set lo up" for space in at.SPACES] + [
         "router: link add world0 type veth peer name eth0 netns world",
         "router: link add host0 type veth peer name eth0 netns host",
         "router: link add lan0 type veth peer name eth0 netns lan",

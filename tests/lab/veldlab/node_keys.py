@@ -15,13 +15,17 @@ from pathlib import Path
 
 _BUILD = Path(__file__).resolve().parents[3] / "build"
 _WEEK = 7 * 24 * 3600
-_LINES = "identities"   # what the maker printed; written last
+_LINES = "identities"  # what the maker printed; written last
 
 
 def _whole(kept: Path, names: list[str], now: float) -> bool:
     try:
         about = (kept / _LINES).stat()
-        return about.st_uid == os.geteuid() and 0 <= now - about.st_mtime < _WEEK and all((kept / name / "keys").is_dir() for name in names)
+        return (
+            about.st_uid == os.geteuid()
+            and 0 <= now - about.st_mtime < _WEEK
+            and all((kept / name / "keys").is_dir() for name in names)
+        )
     except OSError:
         return False
 
@@ -45,7 +49,7 @@ def one_at_a_time(build: Path = _BUILD):
     try:
         (build / "lab-keys").mkdir(mode=0o700, exist_ok=True)
         lock = os.open(build / "lab-keys" / "lock", os.O_RDWR | os.O_CREAT | os.O_CLOEXEC, 0o600)
-    except OSError:   # nothing can be kept here
+    except OSError:  # nothing can be kept here
         yield
         return
     try:
@@ -71,7 +75,7 @@ def keep(names: list[str], source: Path, lines: str, build: Path = _BUILD, now: 
             shutil.copytree(source / name / "keys", new / name / "keys")
         (new / _LINES).write_text(lines)
         os.utime(new / _LINES, (now, now))
-        new.rename(place / f"set-{int(now // _WEEK)}")   # fails where one stands already
+        new.rename(place / f"set-{int(now // _WEEK)}")  # fails where one stands already
     except OSError:
         shutil.rmtree(new, ignore_errors=True)
     for old in (folder for folder in place.glob("*") if folder.is_dir()):

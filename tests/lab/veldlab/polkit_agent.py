@@ -65,11 +65,18 @@ def main() -> None:
 
     interface = Gio.DBusNodeInfo.new_for_xml(_INTERFACE).interfaces[0]
     bus.register_object(_PATH, interface, on_call, None, None)
-    subject = ("unix-process", {"pid": GLib.Variant("u", process),
-                                "start-time": GLib.Variant("t", start_time(process))})
-    bus.call_sync("org.freedesktop.PolicyKit1", "/org/freedesktop/PolicyKit1/Authority",
-                  "org.freedesktop.PolicyKit1.Authority", "RegisterAuthenticationAgent",
-                  GLib.Variant("((sa{sv})ss)", (subject, "en_GB.UTF-8", _PATH)), None, Gio.DBusCallFlags.NONE, -1, None)
+    subject = ("unix-process", {"pid": GLib.Variant("u", process), "start-time": GLib.Variant("t", start_time(process))})
+    bus.call_sync(
+        "org.freedesktop.PolicyKit1",
+        "/org/freedesktop/PolicyKit1/Authority",
+        "org.freedesktop.PolicyKit1.Authority",
+        "RegisterAuthenticationAgent",
+        GLib.Variant("((sa{sv})ss)", (subject, "en_GB.UTF-8", _PATH)),
+        None,
+        Gio.DBusCallFlags.NONE,
+        -1,
+        None,
+    )
     print("ready", flush=True)
     GLib.MainLoop().run()
 

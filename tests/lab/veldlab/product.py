@@ -23,9 +23,11 @@ _ACCOUNTS = ("/etc/passwd", "/etc/group", "/etc/shadow", "/etc/gshadow")
 
 def difference(before: dict[str, str], after: dict[str, str]) -> str:
     """What a session left changed, as a diff; "" when nothing. The account that Tor runs under is made once and stays."""
+
     def without_accounts(state: dict[str, str]) -> dict[str, str]:
         lines = state["files"].splitlines()
         return state | {"files": "\n".join(line for line in lines if not line.startswith(_ACCOUNTS))}
+
     return snapshot.diff(without_accounts(before), without_accounts(after))
 
 
@@ -75,8 +77,14 @@ class Product:
         while time.monotonic() < deadline:
             look()
             # Following costs a busy machine far less than asking again and again.
-            with self.lab.host.popen([self.ctl, "status", "--json", "--watch"], user=self.user, env=self.env,
-                                     stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL) as following:
+            with self.lab.host.popen(
+                [self.ctl, "status", "--json", "--watch"],
+                user=self.user,
+                env=self.env,
+                stdin=subprocess.DEVNULL,
+                stdout=subprocess.PIPE,
+                stderr=subprocess.DEVNULL,
+            ) as following:
                 try:
                     for line in _lines(following.stdout.fileno(), deadline, look):
                         state = json.loads(line)
@@ -84,7 +92,7 @@ class Product:
                             return state
                 finally:
                     following.terminate()
-            time.sleep(0.1)   # no instance listens yet, or it has ended
+            time.sleep(0.1)  # no instance listens yet, or it has ended
         raise TimeoutError(f"not within {timeout:.0f} s; last state {json.dumps(state)[:2000]}")
 
     def session(self, connect: bool = True, echo=None) -> "Session":
@@ -99,8 +107,14 @@ class Session(contextlib.AbstractContextManager):
         self.product, self.lines = product, []
         self._echo = echo
         self.process = product.lab.host.popen(
-            [product.ctl, "run", *arguments], user=product.user, env=product.env,
-            stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+            [product.ctl, "run", *arguments],
+            user=product.user,
+            env=product.env,
+            stdin=subprocess.DEVNULL,
+            stdout=subprocess.PIPE,
+            stderr=subprocess.STDOUT,
+            text=True,
+        )
         self._reader = threading.Thread(target=self._read, daemon=True)
         self._reader.start()
 
@@ -116,6 +130,7 @@ class Session(contextlib.AbstractContextManager):
 
     def wait(self, condition, timeout: float = 60) -> dict:
         """The first published state for which `condition` holds, as the running instance tells it."""
+
         def look() -> None:
             if self.process.poll() is not None:
                 raise RuntimeError(f"veldmarkctl run ended with {self.process.returncode}\n{self.output}")

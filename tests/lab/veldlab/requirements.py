@@ -6,8 +6,14 @@ import subprocess
 import sys
 
 _PROGRAMS = {
-    "tor": "tor", "tor-gencert": "tor", "obfs4proxy": "obfs4proxy", "ip": "iproute2", "nft": "nftables",
-    "openssl": "openssl", "unshare": "util-linux", "curl": "curl",
+    "tor": "tor",
+    "tor-gencert": "tor",
+    "obfs4proxy": "obfs4proxy",
+    "ip": "iproute2",
+    "nft": "nftables",
+    "openssl": "openssl",
+    "unshare": "util-linux",
+    "curl": "curl",
 }
 # Everything a lab does that a container or a hardened kernel may refuse, tried in namespaces that vanish at once.
 _TRIAL = r"""
@@ -35,7 +41,9 @@ def missing() -> str:
         return f"Programs are missing: run sudo apt install {' '.join(packages)}"
     trial = subprocess.run(
         ["unshare", "--net", "--mount", "--pid", "--fork", "--ipc", "--uts", "--cgroup", "sh", "-s", str(os.getpid())],
-        input=_TRIAL, capture_output=True, text=True,
+        input=_TRIAL,
+        capture_output=True,
+        text=True,
     )
     if trial.returncode != 0:
         reason = (trial.stderr.strip().splitlines() or ["no reason given"])[-1]

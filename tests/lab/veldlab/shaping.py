@@ -13,10 +13,7 @@ from pathlib import Path
 
 from veldlab import topology as at
 
-_SOURCES = {
-    "host": (at.HOST_ADDRESS, at.HOST_ADDRESS6),
-    "lan": (at.LAN_ADDRESS, at.LAN_ADDRESS6),
-}
+_SOURCES = {"host": (at.HOST_ADDRESS, at.HOST_ADDRESS6), "lan": (at.LAN_ADDRESS, at.LAN_ADDRESS6)}
 _SHAPER = str(Path(__file__).resolve().with_name("shaper.py"))
 _numbers = itertools.count()
 
@@ -49,8 +46,7 @@ class Shaping:
                 [family, "from", network, "to", own, "iif", "world0"],
             ]
         self._process = router.popen(
-            [at.PYTHON, "-B", _SHAPER, self._device, str(delay_ms), str(loss)],
-            stdin=-1, stdout=-1, text=True,
+            [at.PYTHON, "-B", _SHAPER, self._device, str(delay_ms), str(loss)], stdin=-1, stdout=-1, text=True
         )
         try:
             if self._process.stdout.readline() != "ready\n":

@@ -33,8 +33,14 @@ class Shell(contextlib.AbstractContextManager):
         self._timeout = timeout
         self._master, slave = pty.openpty()
         # A terminal without any abilities: what comes back is what programs print.
-        self._process = lab.host.popen(["setsid", "--ctty", "--wait", *_WORDS[program]], user=user, env={"TERM": "dumb"},
-                                       stdin=slave, stdout=slave, stderr=slave)
+        self._process = lab.host.popen(
+            ["setsid", "--ctty", "--wait", *_WORDS[program]],
+            user=user,
+            env={"TERM": "dumb"},
+            stdin=slave,
+            stdout=slave,
+            stderr=slave,
+        )
         os.close(slave)
         self._seen = b""
         self._until_prompt()

@@ -116,14 +116,18 @@ def proxy(user: str) -> str:
     return "\n".join(lines) + "\n" + output("runuser", "-u", user, "--", "env", "-i", *home, *ask)
 
 
-print(json.dumps({
-    "nft": output("nft", "--stateless", "list", "ruleset"),
-    "resolv": resolver(),
-    "links": links(),
-    "routes": routes(),
-    "mounts": mounts(),
-    "listening": listening(),
-    "processes": processes(),
-    "cgroups": cgroups(),
-    "proxy": proxy(sys.argv[1]),
-}))
+print(
+    json.dumps(
+        {
+            "nft": output("nft", "--stateless", "list", "ruleset"),
+            "resolv": resolver(),
+            "links": links(),
+            "routes": routes(),
+            "mounts": mounts(),
+            "listening": listening(),
+            "processes": processes(),
+            "cgroups": cgroups(),
+            "proxy": proxy(sys.argv[1]),
+        }
+    )
+)

@@ -57,9 +57,7 @@ class Space:
         base = {"PATH": _ROOT_PATH if user == "root" else _USER_PATH, "LANG": "C.UTF-8"}
         if "TERM" in os.environ:
             base["TERM"] = os.environ["TERM"]
-        return subprocess.Popen(
-            self.command(argv, user=user, env=env, cwd=cwd, session=session), env=base, **options
-        )
+        return subprocess.Popen(self.command(argv, user=user, env=env, cwd=cwd, session=session), env=base, **options)
 
     def run(self, argv, *, input=None, timeout=60, check=False, text=True, capture_output=True, **options):
         """Like subprocess.run, with the output captured as text unless asked otherwise; `timeout` in seconds."""

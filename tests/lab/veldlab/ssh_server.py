@@ -19,7 +19,7 @@ ROOT = Path(os.environ.get("VELDMARK_SSHD", PROJECT / "build" / "sshd"))
 USER, UID = "keeper", 4321
 _NAME_FILES = {
     "passwd": f"root:x:0:0::/root:/bin/sh\n{USER}:x:{UID}:{UID}::{{home}}:/bin/bash\n"
-              "sshd:x:4322:4322::/run/sshd:/usr/sbin/nologin\n",
+    "sshd:x:4322:4322::/run/sshd:/usr/sbin/nologin\n",
     "group": f"root:x:0:\n{USER}:x:{UID}:\nsshd:x:4322:\n",
     "shadow": f"root:*:19000:0:99999:7:::\n{USER}:*:19000:0:99999:7:::\n",
 }
@@ -47,15 +47,22 @@ class SshServer(contextlib.AbstractContextManager):
         (self.folder / "key.pub").write_text(public_key)
         (self.folder / "config").write_text(
             f"ListenAddress {address}\nHostKey {inside}/host_key\nAuthorizedKeysFile {inside}/key.pub\nPidFile none\n"
-            "UsePAM no\nStrictModes no\nPasswordAuthentication no\nKbdInteractiveAuthentication no\nLogLevel VERBOSE\n")
+            "UsePAM no\nStrictModes no\nPasswordAuthentication no\nKbdInteractiveAuthentication no\nLogLevel VERBOSE\n"
+        )
         space.run(["ssh-keygen", "-q", "-t", "ed25519", "-N", "", "-f", f"{inside}/host_key"], check=True)
-        script = ('set -e; mkdir -p /run/sshd; chmod 755 /run/sshd; '
-                  f'for name in {" ".join(_NAME_FILES)}; do mount --bind "$1/$name" "/etc/$name"; done; '
-                  'exec env LD_LIBRARY_PATH="$3" "$2" -D -e -f "$1/config"')
+        script = (
+            "set -e; mkdir -p /run/sshd; chmod 755 /run/sshd; "
+            f'for name in {" ".join(_NAME_FILES)}; do mount --bind "$1/$name" "/etc/$name"; done; '
+            'exec env LD_LIBRARY_PATH="$3" "$2" -D -e -f "$1/config"'
+        )
         libraries = ":".join(str(folder) for folder in ROOT.glob("usr/lib/*-linux-gnu*"))
         self._process = space.popen(
             ["unshare", "--mount", "--propagation", "private", "/bin/sh", "-c", script, "sshd", inside, str(daemon()), libraries],
-            stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True)
+            stdin=subprocess.DEVNULL,
+            stdout=subprocess.DEVNULL,
+            stderr=subprocess.PIPE,
+            text=True,
+        )
         self._said = []
         for line in self._process.stderr:
             self._said.append(line)

@@ -78,13 +78,9 @@ class Node:
 
 AUTHORITIES = tuple(Node(f"auth{i}", "authority", f"203.0.113.{i}", "is") for i in (1, 2, 3))
 EXITS = tuple(
-    Node(f"exit{country}", "exit", f"203.0.113.{10 + i}", country)
-    for i, country in enumerate(("de", "us", "nl", "fr", "gb", "ch"))
+    Node(f"exit{country}", "exit", f"203.0.113.{10 + i}", country) for i, country in enumerate(("de", "us", "nl", "fr", "gb", "ch"))
 )
-MIDDLES = tuple(
-    Node(f"middle{country}", "middle", f"203.0.113.{20 + i}", country)
-    for i, country in enumerate(("se", "fi", "at"))
-)
+MIDDLES = tuple(Node(f"middle{country}", "middle", f"203.0.113.{20 + i}", country) for i, country in enumerate(("se", "fi", "at")))
 BRIDGES = (
     Node("bridgeobfs4", "bridge", "203.0.113.30", "no", "obfs4", "2001:db8:cb::30"),
     Node("bridgeplain", "bridge", "203.0.113.31", "dk", address6="2001:db8:cb::31"),

@@ -52,14 +52,9 @@ def client_lines(identities: dict[str, tuple[str, str]]) -> str:
 
 def fingerprint_torrc(node: Node) -> str:
     """Enough for `tor --list-fingerprint` to make the node's keys."""
-    return "\n".join([
-        f"DataDirectory {folder(node)}",
-        f"ORPort {at.OR_PORT}",
-        f"Nickname {node.name}",
-        "DisableNetwork 1",
-        "Log err stderr",
-        "",
-    ])
+    return "\n".join(
+        [f"DataDirectory {folder(node)}", f"ORPort {at.OR_PORT}", f"Nickname {node.name}", "DisableNetwork 1", "Log err stderr", ""]
+    )
 
 
 def folder(node: Node) -> str:

@@ -95,7 +95,7 @@ class TorNetwork:
 
     def _make_new_keys(self, names: list[str]) -> str:
         with node_keys.one_at_a_time():
-            lines = node_keys.take(names, self.folder)   # another lab has just made them
+            lines = node_keys.take(names, self.folder)  # another lab has just made them
             if lines is None:
                 for node in at.NODES:
                     (self.folder / node.name / "fingerprint.torrc").write_text(tor_config.fingerprint_torrc(node))
@@ -114,10 +114,14 @@ class TorNetwork:
             torrc = tor_config.node_torrc(node, identities, voting=False)
             (self.folder / node.name / "torrc").write_text(torrc)
         self.start()
-        self._wait(lambda: all(
-            self._published(authority) >= {node.name for node in at.AUTHORITIES + at.EXITS + at.MIDDLES}
-            for authority in at.AUTHORITIES
-        ), 60, "the relays have not published")
+        self._wait(
+            lambda: all(
+                self._published(authority) >= {node.name for node in at.AUTHORITIES + at.EXITS + at.MIDDLES}
+                for authority in at.AUTHORITIES
+            ),
+            60,
+            "the relays have not published",
+        )
         relays = [self._fingerprint(node) for node in at.AUTHORITIES + at.EXITS + at.MIDDLES]
         (self.folder / "bandwidths").write_text(tor_config.bandwidth_text(int(time.time()), relays))
         for node in at.AUTHORITIES:
@@ -160,15 +164,17 @@ class TorNetwork:
         The nodes must all be running.
         """
         wanted = {node.name for node in at.EXITS + at.MIDDLES}
-        self._wait(lambda: all(
-            wanted <= self._usable(self._consensus(node)) for node in at.AUTHORITIES
-        ), timeout, "no usable consensus")
+        self._wait(
+            lambda: all(wanted <= self._usable(self._consensus(node)) for node in at.AUTHORITIES), timeout, "no usable consensus"
+        )
 
     def wait_bridges(self, timeout: float = 60) -> None:
         """Returns when the bridges listen and hold a consensus, so that a client can get everything through them."""
-        self._wait(lambda: all(
-            self._usable(self._consensus(node)) and self._has_transport(node) for node in at.BRIDGES
-        ), timeout, "the bridges have no consensus")
+        self._wait(
+            lambda: all(self._usable(self._consensus(node)) and self._has_transport(node) for node in at.BRIDGES),
+            timeout,
+            "the bridges have no consensus",
+        )
 
     def _has_transport(self, node: Node) -> bool:
         """Whether the node's transport, if it has one, has listened since tor's last start."""
@@ -183,7 +189,7 @@ class TorNetwork:
         if not transport:
             return f"{address}:{at.OR_PORT} {fingerprint}"
         text = (self.folder / node.name / "pt_state/obfs4_bridgeline.txt").read_text()
-        arguments = text[text.index("cert="):].splitlines()[0]
+        arguments = text[text.index("cert=") :].splitlines()[0]
         return f"obfs4 {address}:{at.OBFS4_PORT} {fingerprint} {arguments}"
 
     def _consensus(self, node: Node) -> str:

@@ -138,10 +138,16 @@ class _Handler(http.server.BaseHTTPRequestHandler):
             self.wfile.write(_CHUNK[: body - start])
 
     def log_request_line(self) -> None:
-        self.server.log({
-            "service": self.server.service, "source": self.source, "method": self.command, "path": self.path,
-            "host": self.headers.get("Host", ""), "agent": self.headers.get("User-Agent", ""),
-        })
+        self.server.log(
+            {
+                "service": self.server.service,
+                "source": self.source,
+                "method": self.command,
+                "path": self.path,
+                "host": self.headers.get("Host", ""),
+                "agent": self.headers.get("User-Agent", ""),
+            }
+        )
 
     def do_GET(self) -> None:
         self.log_request_line()

@@ -38,16 +38,21 @@ class World:
         for folder in ("sites", "certificates"):
             (self.folder / folder).mkdir()
         web = list(at.WEB_HOSTS)
-        certificates.issue(self.space, f"{at.WORLD_FOLDER}/certificates", [
-            (at.CHECK_HOST, "ca", 20, [at.CHECK_HOST]),
-            ("expired", "ca", -1, [at.CHECK_HOST]),
-            ("wrong-host", "ca", 20, ["elsewhere.example.test"]),
-            ("untrusted", "foreign-ca", 20, [at.CHECK_HOST]),
-            ("web", "ca", 20, web),
-        ])
+        certificates.issue(
+            self.space,
+            f"{at.WORLD_FOLDER}/certificates",
+            [
+                (at.CHECK_HOST, "ca", 20, [at.CHECK_HOST]),
+                ("expired", "ca", -1, [at.CHECK_HOST]),
+                ("wrong-host", "ca", 20, ["elsewhere.example.test"]),
+                ("untrusted", "foreign-ca", 20, [at.CHECK_HOST]),
+                ("web", "ca", 20, web),
+            ],
+        )
         script = 'cd "$1"; (setsid "$2" -B "$3" 3>&1 >services.log 2>&1 </dev/null &) | head -c 1'
         started = self.space.run(
-            ["/bin/sh", "-c", script, "sh", at.WORLD_FOLDER, at.PYTHON, os.path.realpath(__file__)], timeout=30)
+            ["/bin/sh", "-c", script, "sh", at.WORLD_FOLDER, at.PYTHON, os.path.realpath(__file__)], timeout=30
+        )
         if started.stdout != "y":
             raise RuntimeError("the world's services did not start: " + (self.folder / "services.log").read_text())
 
@@ -114,8 +119,9 @@ def serve() -> None:
     servers = dns_server.NameService(f"{folder}/sites", dns_log, lambda: _behaviour("dns")).servers()
     for address in (at.CHECK_ADDRESS, at.CHECK_ADDRESS6):
         chain = web_server.Certificates(f"{folder}/certificates", at.CHECK_HOST)
-        servers.append(web_server.WebServer(
-            address, 443, web_server.CheckHandler, "check", web_log, lambda: _behaviour("check"), chain))
+        servers.append(
+            web_server.WebServer(address, 443, web_server.CheckHandler, "check", web_log, lambda: _behaviour("check"), chain)
+        )
     for address in (at.WEB_ADDRESS, at.WEB_ADDRESS6):
         chain = web_server.Certificates(f"{folder}/certificates", "web")
         servers.append(web_server.WebServer(address, 80, web_server.PageHandler, "web", web_log))

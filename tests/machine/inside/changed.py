@@ -15,8 +15,10 @@ from gi.repository import GdkPixbuf  # noqa: E402
 def rows(path, top, bottom):
     picture = GdkPixbuf.Pixbuf.new_from_file(path)
     pixels, stride, channels = picture.get_pixels(), picture.get_rowstride(), picture.get_n_channels()
-    return [[pixels[y * stride + x * channels : y * stride + x * channels + 3] for x in range(picture.get_width())]
-            for y in range(top, min(bottom, picture.get_height()))]
+    return [
+        [pixels[y * stride + x * channels : y * stride + x * channels + 3] for x in range(picture.get_width())]
+        for y in range(top, min(bottom, picture.get_height()))
+    ]
 
 
 def main():

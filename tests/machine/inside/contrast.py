@@ -21,7 +21,7 @@ def main():
     for y in range(max(0, middle_y - size // 2), min(picture.get_height(), middle_y + size // 2)):
         for x in range(max(0, middle_x - size // 2), min(picture.get_width(), middle_x + size // 2)):
             at = y * stride + x * channels
-            seen.append(sum(pixels[at:at + 3]) // 3)
+            seen.append(sum(pixels[at : at + 3]) // 3)
     ground = collections.Counter(seen).most_common(1)[0][0]
     print(max(abs(lightness - ground) for lightness in seen))
 

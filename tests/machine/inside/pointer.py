@@ -39,12 +39,12 @@ class Wayland:
                 target, word = struct.unpack_from("=II", self.rest)
                 if len(self.rest) < word >> 16:
                     break
-                body, self.rest = self.rest[8:word >> 16], self.rest[word >> 16:]
+                body, self.rest = self.rest[8 : word >> 16], self.rest[word >> 16 :]
                 if target == 1 and word & 0xFFFF == 0:
                     sys.exit(f"the compositor refuses: {body!r}")
                 if target == self.registry and word & 0xFFFF == 0:
                     name, length = struct.unpack_from("=II", body)
-                    self.names[body[8:8 + length - 1].decode()] = name
+                    self.names[body[8 : 8 + length - 1].decode()] = name
                 if target == callback:
                     return
 

@@ -18,7 +18,7 @@ def main():
     while True:
         try:
             shown = os.read(terminal, 4096)
-        except OSError:   # its other end is closed
+        except OSError:  # its other end is closed
             break
         if not shown:
             break

@@ -1,5 +1,5 @@
-#include "StandInSession.h"
 #include "app/Alerts.h"
+#include "StandInSession.h"
 #include "app/ControllerSession.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
@@ -56,11 +56,14 @@ private Q_SLOTS:
         Snapshot replaced = inPhase(Phase::stale);
         replaced.isAnothers = true;
         replaced.hasTorStopped = false;
-        replaced.errorMessage = QStringLiteral("The settings file couldn't be read."); // of something else
-        replaced.statusDetail = QStringLiteral("Your network is set up for Tor by bob, whose Veldmark is process 7");
+        // of something else
+        replaced.errorMessage = QStringLiteral("The settings file couldn't be read.");
+        replaced.statusDetail = QStringLiteral(
+            "Your network is set up for Tor by bob, whose Veldmark is process 7");
         session.show(replaced);
         QCOMPARE(told.count(), 1);
-        QCOMPARE(told.at(0).at(0).toString(), QStringLiteral("Another session has replaced this one"));
+        QCOMPARE(told.at(0).at(0).toString(),
+                 QStringLiteral("Another session has replaced this one"));
         QCOMPARE(told.at(0).at(1).toString(), replaced.statusDetail);
     }
 
@@ -72,14 +75,18 @@ private Q_SLOTS:
         Alerts alerts(session);
         QSignalSpy told(&alerts, &Alerts::told);
         QVERIFY(bench.connect());
-        QVERIFY(until([&] { return session.now().phase == Phase::connected && !session.now().isChecking; }));
+        QVERIFY(until(
+            [&] { return session.now().phase == Phase::connected && !session.now().isChecking; }));
         const QString marker = bench.profile.sessionMarker;
         bench.writeFile(marker + QStringLiteral(".new"), "strict\n");
-        QVERIFY(std::rename(QFile::encodeName(marker + QStringLiteral(".new")).constData(), QFile::encodeName(marker).constData()) == 0);
+        QVERIFY(std::rename(QFile::encodeName(marker + QStringLiteral(".new")).constData(),
+                            QFile::encodeName(marker).constData())
+                == 0);
         bench.clock.advance(std::chrono::seconds(1));
         QVERIFY(until([&] { return session.now().phase == Phase::stale; }));
         QCOMPARE(told.count(), 1);
-        QCOMPARE(told.at(0).at(0).toString(), QStringLiteral("Another session has replaced this one"));
+        QCOMPARE(told.at(0).at(0).toString(),
+                 QStringLiteral("Another session has replaced this one"));
     }
 
     void norIsTorsEndCalledAnotherSession()
@@ -105,7 +112,8 @@ private Q_SLOTS:
         QSignalSpy told(&alerts, &Alerts::told);
         session.show(inPhase(Phase::connected));
         Snapshot ended = inPhase(Phase::disconnected);
-        ended.errorMessage = QStringLiteral("Tor stopped running, and your network is no longer set up for it.");
+        ended.errorMessage = QStringLiteral(
+            "Tor stopped running, and your network is no longer set up for it.");
         session.show(ended);
         QCOMPARE(told.count(), 1);
         QCOMPARE(told.at(0).at(1).toString(), *ended.errorMessage);
@@ -211,8 +219,9 @@ private Q_SLOTS:
         StandInSession session(profile);
         Alerts alerts(session);
         QSignalSpy told(&alerts, &Alerts::told);
-        for (const Phase phase : {Phase::connecting, Phase::connected, Phase::disconnecting, Phase::connected,
-                                  Phase::disconnecting, Phase::disconnected, Phase::stale})
+        for (const Phase phase :
+             {Phase::connecting, Phase::connected, Phase::disconnecting, Phase::connected,
+              Phase::disconnecting, Phase::disconnected, Phase::stale})
             session.show(inPhase(phase));
         QCOMPARE(told.count(), 0);
     }

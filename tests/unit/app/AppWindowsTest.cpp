@@ -42,7 +42,9 @@ struct Taken {
 Taken taken()
 {
     const auto entries = [](const QString &folder) {
-        return QDir(folder).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size();
+        return QDir(folder)
+            .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)
+            .size();
     };
     Taken now{0, entries(u"/proc/self/fd"_s), entries(u"/proc/self/task"_s)};
 #if defined(__SANITIZE_ADDRESS__)
@@ -65,7 +67,8 @@ private Q_SLOTS:
     {
         Shown shown;
         QSignalSpy failed(shown.windows.get(), &Windows::failed);
-        for (const QString &name : {u"main"_s, u"circuits"_s, u"log"_s, u"settings"_s, u"chooser"_s}) {
+        for (const QString &name :
+             {u"main"_s, u"circuits"_s, u"log"_s, u"settings"_s, u"chooser"_s}) {
             QVERIFY2(shown.windows->open(name), qPrintable(name));
             QVERIFY(shown.windows->find(name)->isVisible());
             QVERIFY(!shown.windows->find(name)->title().isEmpty());
@@ -119,8 +122,10 @@ private Q_SLOTS:
     void theyHaveTheirSizesFromTheStart()
     {
         Shown shown;
-        for (const auto &[name, size] : {std::pair(u"circuits"_s, QSize(1000, 640)), {u"log"_s, QSize(900, 540)},
-                                         {u"settings"_s, QSize(760, 540)}, {u"chooser"_s, QSize(460, 560)}}) {
+        for (const auto &[name, size] : {std::pair(u"circuits"_s, QSize(1000, 640)),
+                                         {u"log"_s, QSize(900, 540)},
+                                         {u"settings"_s, QSize(760, 540)},
+                                         {u"chooser"_s, QSize(460, 560)}}) {
             QVERIFY(shown.windows->open(name));
             QCOMPARE(shown.windows->find(name)->size(), size);
         }
@@ -172,9 +177,11 @@ private Q_SLOTS:
         for (const auto &[name, shownRows] : {std::pair(u"log"_s, 20), {u"chooser"_s, 3}}) {
             QVERIFY(shown.windows->open(name));
             settle(); // Qt tells QML late that a window is visible
-            const auto *rows = shown.windows->find(name)->property("model").value<QAbstractItemModel *>();
+            const auto *rows
+                = shown.windows->find(name)->property("model").value<QAbstractItemModel *>();
             QCOMPARE(rows->rowCount(), shownRows);
-            shown.windows->find(name)->property("model").value<QObject *>()->setProperty("search", u"zzz"_s);
+            shown.windows->find(name)->property("model").value<QObject *>()->setProperty("search",
+                                                                                         u"zzz"_s);
             QCOMPARE(rows->rowCount(), 0);
             shown.windows->find(name)->close();
             QVERIFY(until([&] { return !shown.windows->find(name); }));
@@ -189,7 +196,8 @@ private Q_SLOTS:
         Shown shown;
         QSignalSpy quit(shown.windows.get(), &Windows::quitWanted);
         int windows = 0;
-        for (const QString &name : {u"main"_s, u"circuits"_s, u"log"_s, u"settings"_s, u"chooser"_s}) {
+        for (const QString &name :
+             {u"main"_s, u"circuits"_s, u"log"_s, u"settings"_s, u"chooser"_s}) {
             QVERIFY(shown.windows->open(name));
             QVERIFY(QMetaObject::invokeMethod(shown.windows->find(name), "quitWanted"));
             QCOMPARE(quit.count(), ++windows);
@@ -216,13 +224,15 @@ private Q_SLOTS:
         const auto round = [&] {
             for (const QString &name : names) {
                 shown.windows->open(name);
-                if (QQuickWindow *window = shown.windows->find(name); !window || window->grabWindow().isNull())
+                if (QQuickWindow *window = shown.windows->find(name);
+                    !window || window->grabWindow().isNull())
                     return false;
             }
             for (const QString &name : names)
                 shown.windows->find(name)->close();
             return until([&] {
-                return std::none_of(names.begin(), names.end(), [&](const QString &name) { return shown.windows->find(name); });
+                return std::none_of(names.begin(), names.end(),
+                                    [&](const QString &name) { return shown.windows->find(name); });
             });
         };
         const auto rounds = [&](int count) {
@@ -245,19 +255,24 @@ private Q_SLOTS:
         const Taken after = tidied();
         QCOMPARE(after.descriptors, before.descriptors);
         QCOMPARE(after.threads, before.threads);
-        QVERIFY2(after.heapBytes - before.heapBytes < limitBytes, qPrintable(QString::number(after.heapBytes - before.heapBytes)));
+        QVERIFY2(after.heapBytes - before.heapBytes < limitBytes,
+                 qPrintable(QString::number(after.heapBytes - before.heapBytes)));
 
         // That it would be seen: one small window kept in each round.
-        const auto kept = shown.windows->make(u"main/QuitDialog.qml"_s, {{u"strict"_s, true}, {u"busy"_s, false}});
+        const auto kept = shown.windows->make(u"main/QuitDialog.qml"_s,
+                                              {{u"strict"_s, true}, {u"busy"_s, false}});
         QVERIFY(kept);
         QVERIFY(tidied().heapBytes - after.heapBytes > limitBytes / measured);
-        qInfo("%lld bytes in %d rounds", static_cast<long long>(after.heapBytes - before.heapBytes), measured);
+        qInfo("%lld bytes in %d rounds", static_cast<long long>(after.heapBytes - before.heapBytes),
+              measured);
     }
 
     void transportsAreLookedForWhereTheyAreShown()
     {
         Shown shown;
-        const auto looked = [&shown] { return shown.session.asked.removeAll(u"lookForTransports"_s); };
+        const auto looked = [&shown] {
+            return shown.session.asked.removeAll(u"lookForTransports"_s);
+        };
         QVERIFY(shown.windows->open(u"circuits"_s));
         QCOMPARE(looked(), 0);
         QVERIFY(shown.windows->open(u"main"_s));
@@ -279,7 +294,7 @@ private Q_SLOTS:
         connected.phase = Phase::connected;
         const auto read = [&shown] { return shown.session.asked.removeAll(u"refreshCircuits"_s); };
         QVERIFY(shown.windows->open(u"circuits"_s)); // before the session
-        settle(); // Qt tells QML late that a window is visible
+        settle();                                    // Qt tells QML late that a window is visible
         QCOMPARE(read(), 0);
         shown.session.show(connected);
         QCOMPARE(read(), 1);

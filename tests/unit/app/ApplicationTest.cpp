@@ -10,7 +10,8 @@
 using namespace Qt::StringLiterals;
 using namespace veldmark;
 
-// The start of the desktop application, with the real processes that it starts; Tor is never reached.
+// The start of the desktop application, with the real processes that it starts; Tor is never
+// reached.
 class ApplicationTest : public QObject {
     Q_OBJECT
 private:
@@ -37,7 +38,9 @@ private Q_SLOTS:
         Application program(computer.profile);
         QVERIFY(program.start(true, !bySetting));
         QVERIFY(until([&] { return computer.verbs().size() >= 3; }));
-        QCOMPARE(computer.verbs(), QStringList({u"install-privileged"_s, u"approve"_s, u"connect"_s})); // its tor is the user's own
+        // its tor is the user's own
+        QCOMPARE(computer.verbs(),
+                 QStringList({u"install-privileged"_s, u"approve"_s, u"connect"_s}));
     }
 
     void withoutBeingToldItOnlyRenews()
@@ -74,7 +77,8 @@ private Q_SLOTS:
         Application second(computer.profile);
         const auto refused = second.start(true, true);
         QVERIFY(!refused);
-        QVERIFY2(refused.error().english().startsWith(u"Veldmark is already running"_s), qPrintable(refused.error().english()));
+        QVERIFY2(refused.error().english().startsWith(u"Veldmark is already running"_s),
+                 qPrintable(refused.error().english()));
         settle();
         QVERIFY(computer.verbs().isEmpty());
     }

@@ -71,7 +71,10 @@ private Q_SLOTS:
     {
         Workbench bench;
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
-        bench.tor.reply("GETINFO circuit-status", Workbench::block("circuit-status", {"5 BUILT $" + QByteArray(40, 'A') + "~one PURPOSE=GENERAL"}));
+        bench.tor.reply(
+            "GETINFO circuit-status",
+            Workbench::block("circuit-status",
+                             {"5 BUILT $" + QByteArray(40, 'A') + "~one PURPOSE=GENERAL"}));
         bench.tor.reply("GETINFO stream-status", Workbench::block("stream-status", {}));
         bench.setCounters("1000", "500");
         QVERIFY(bench.connect());
@@ -80,7 +83,8 @@ private Q_SLOTS:
         QVERIFY(Workbench::finished(refreshing));
         settle();
         const Snapshot connected = session.now(); // there is something to hide
-        QVERIFY(connected.phase == Phase::connected && connected.exitIP && connected.torVerified == true);
+        QVERIFY(connected.phase == Phase::connected && connected.exitIP
+                && connected.torVerified == true);
         QVERIFY(connected.leak.kind == Leak::Kind::blocked && connected.bytesRead == 1000);
         QCOMPARE(connected.circuits.size(), std::size_t(1));
 
@@ -94,7 +98,8 @@ private Q_SLOTS:
         QVERIFY(!stale.exitIP && !stale.torVerified && !stale.latencyMs && !stale.isChecking);
         QVERIFY(stale.leak.kind == Leak::Kind::notTested && stale.dns == DNSStatus::unknown());
         QVERIFY(stale.circuits.empty() && stale.bytesRead == 0);
-        QVERIFY(stale.errorMessage && stale.markerPresent && stale.activeMode == RoutingMode::strict);
+        QVERIFY(stale.errorMessage && stale.markerPresent
+                && stale.activeMode == RoutingMode::strict);
     }
 
     // No window asks for them, and the panel shows the exit's country all the same.
@@ -102,7 +107,10 @@ private Q_SLOTS:
     {
         Workbench bench;
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
-        bench.tor.reply("GETINFO circuit-status", Workbench::block("circuit-status", {"5 BUILT $" + QByteArray(40, 'A') + "~one PURPOSE=GENERAL"}));
+        bench.tor.reply(
+            "GETINFO circuit-status",
+            Workbench::block("circuit-status",
+                             {"5 BUILT $" + QByteArray(40, 'A') + "~one PURPOSE=GENERAL"}));
         bench.tor.reply("GETINFO stream-status", Workbench::block("stream-status", {}));
         QVERIFY(bench.connect());
         QVERIFY(until([&] { return session.now().exitIP.has_value(); }));
@@ -116,7 +124,10 @@ private Q_SLOTS:
         bench.tor.reply("GETINFO stream-status", Workbench::block("stream-status", {}));
         QVERIFY(bench.connect());
         settle();
-        bench.tor.reply("GETINFO circuit-status", Workbench::block("circuit-status", {"6 BUILT $" + QByteArray(40, 'B') + "~two PURPOSE=GENERAL"}));
+        bench.tor.reply(
+            "GETINFO circuit-status",
+            Workbench::block("circuit-status",
+                             {"6 BUILT $" + QByteArray(40, 'B') + "~two PURPOSE=GENERAL"}));
         session.newIdentity();
         QVERIFY(until([&] { return session.now().circuits.size() == 1; }));
         QCOMPARE(session.now().circuits.front().id, u"6"_s);
@@ -126,12 +137,17 @@ private Q_SLOTS:
     {
         Workbench bench;
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
-        bench.tor.reply("GETINFO circuit-status", Workbench::block("circuit-status", {"5 BUILT $" + QByteArray(40, 'A') + "~one PURPOSE=GENERAL"}));
+        bench.tor.reply(
+            "GETINFO circuit-status",
+            Workbench::block("circuit-status",
+                             {"5 BUILT $" + QByteArray(40, 'A') + "~one PURPOSE=GENERAL"}));
         bench.tor.reply("GETINFO stream-status", Workbench::block("stream-status", {}));
         QVERIFY(bench.connect());
         QVERIFY(until([&] { return session.now().circuits.size() == 1; }));
         settle();
-        const auto asked = [&bench] { return bench.tor.commands().count(u"GETINFO circuit-status"_s); };
+        const auto asked = [&bench] {
+            return bench.tor.commands().count(u"GETINFO circuit-status"_s);
+        };
         const auto before = asked();
         for (int i = 0; i < 20; ++i)
             session.refreshCircuits();
@@ -150,8 +166,10 @@ private Q_SLOTS:
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
         QVERIFY(session.now().errorMessage);
         QVERIFY(session.now().errorMessage->english().contains(u".broken"_s));
-        const QJsonValue published = publishedState(bench.controller()).value(u"settingsProblems"_s);
-        QCOMPARE(published, QJsonValue(QJsonArray{session.now().errorMessage->english()})); // the command line sees it as well
+        const QJsonValue published
+            = publishedState(bench.controller()).value(u"settingsProblems"_s);
+        // the command line sees it as well
+        QCOMPARE(published, QJsonValue(QJsonArray{session.now().errorMessage->english()}));
         session.dismissError();
         follow(session);
         QVERIFY(!session.now().errorMessage);
@@ -161,7 +179,8 @@ private Q_SLOTS:
     void aSettingsFileOfANewerVersionIsReadAndKept()
     {
         Workbench bench;
-        const QByteArray newer = "[General]\nbridgeChoice=quantum\nexitCountry=de\nformat=7\nstrictMode=sometimes\n\n[windows]\nmain=everywhere\n";
+        const QByteArray newer
+            = "[General]\nbridgeChoice=quantum\nexitCountry=de\nformat=7\nstrictMode=sometimes\n\n[windows]\nmain=everywhere\n";
         bench.writeFile(bench.profile.settingsFile, newer);
         bench.restart();
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
@@ -175,7 +194,8 @@ private Q_SLOTS:
         QFile file(bench.profile.settingsFile);
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray text = file.readAll();
-        for (const char *kept : {"bridgeChoice=quantum", "format=7", "strictMode=sometimes", "autoConnect=true"})
+        for (const char *kept :
+             {"bridgeChoice=quantum", "format=7", "strictMode=sometimes", "autoConnect=true"})
             QVERIFY2(text.contains(kept), text.constData());
     }
 
@@ -185,7 +205,10 @@ private Q_SLOTS:
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
         bench.writeMarker("strict\n");
         session.disconnectFromTor();
-        QVERIFY(until([&] { return bench.controller().phase() == ConnectionPhase::disconnected && !bench.hasMarker(); }));
+        QVERIFY(until([&] {
+            return bench.controller().phase() == ConnectionPhase::disconnected
+                && !bench.hasMarker();
+        }));
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 1);
     }
 
@@ -210,7 +233,9 @@ private Q_SLOTS:
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
         // The event loop runs meanwhile, and the snapshot may have followed already.
         const auto shows = [&session](KillSwitch::State state) {
-            return until([&] { return session.now().killSwitch && session.now().killSwitch->state == state; });
+            return until([&] {
+                return session.now().killSwitch && session.now().killSwitch->state == state;
+            });
         };
         QVERIFY(bench.connect());
         QVERIFY(shows(KillSwitch::State::standing));
@@ -224,7 +249,8 @@ private Q_SLOTS:
     {
         Workbench bench;
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
-        QVERIFY(QDir().mkpath(bench.profile.terminalDirectory)); // which says nothing of what is in it
+        // which says nothing of what is in it
+        QVERIFY(QDir().mkpath(bench.profile.terminalDirectory));
         session.lookAgain();
         follow(session);
         QVERIFY(!session.now().terminalInstalled);
@@ -233,7 +259,8 @@ private Q_SLOTS:
         session.store(choices);
         QVERIFY(until([&] { return session.now().terminalInstalled; }));
         QVERIFY(!session.now().terminalForSsh); // this computer has no netcat
-        QVERIFY(session.now().terminalError && session.now().terminalError->english().contains(u"netcat"_s));
+        QVERIFY(session.now().terminalError
+                && session.now().terminalError->english().contains(u"netcat"_s));
         bench.writeFile(bench.profile.netcatCandidates.constFirst(),
                         "#!/bin/sh\necho '[-X proxy_protocol] [-x proxy_address[:port]]'\n", true);
         choices.terminalMode = false;
@@ -262,7 +289,8 @@ private Q_SLOTS:
         QSignalSpy failed(&session, &Session::launchFailed);
         session.launchBypassed(u"/usr/share/applications/games.desktop"_s);
         QVERIFY(until([&] { return failed.count() == 1; }));
-        QVERIFY2(failed.at(0).at(0).toString().contains(u"it has no program"_s), qPrintable(failed.at(0).at(0).toString()));
+        QVERIFY2(failed.at(0).at(0).toString().contains(u"it has no program"_s),
+                 qPrintable(failed.at(0).at(0).toString()));
         bench.cancelPrompt(u"launch"_s);
         const int runs = bench.helperRunCount(u"launch"_s);
         session.launchBypassed(u"/usr/share/applications/games.desktop"_s);
@@ -288,14 +316,16 @@ private Q_SLOTS:
     {
         Workbench bench;
         const QString asked = bench.folder.filePath(u"asked"_s);
-        bench.writeFile(bench.profile.torCandidates.constFirst(), "#!/bin/sh\necho tor >>'" + asked.toUtf8() + "'\n", true);
+        bench.writeFile(bench.profile.torCandidates.constFirst(),
+                        "#!/bin/sh\necho tor >>'" + asked.toUtf8() + "'\n", true);
         const auto runs = [&asked] {
             QFile file(asked);
             return file.open(QIODevice::ReadOnly) ? file.readAll().count('\n') : 0;
         };
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
         QVERIFY(session.now().findings.empty());
-        QList<bool> shown{session.now().isExamining}; // it may end while the events of its beginning are handled
+        // it may end while the events of its beginning are handled
+        QList<bool> shown{session.now().isExamining};
         QObject::connect(&session, &Session::changed, this, [&] {
             if (shown.constLast() != session.now().isExamining)
                 shown << session.now().isExamining;
@@ -315,7 +345,8 @@ private Q_SLOTS:
     void goesWhileItLooksAtTheComputer()
     {
         Workbench bench;
-        auto session = std::make_unique<ControllerSession>(bench.controller(), *bench.settings, bench.applications);
+        auto session = std::make_unique<ControllerSession>(bench.controller(), *bench.settings,
+                                                           bench.applications);
         session->examine();
         session.reset();
         settle();
@@ -330,8 +361,10 @@ private Q_SLOTS:
         session.setOpenAtLogin(true);
         follow(session);
         QVERIFY(session.now().errorMessage);
-        QVERIFY(session.now().errorMessage->english().startsWith(QStringLiteral("Couldn't change the login-item setting: ")));
-        QCOMPARE(bench.controller().errorMessage(), session.now().errorMessage); // the command line sees it as well
+        QVERIFY(session.now().errorMessage->english().startsWith(
+            QStringLiteral("Couldn't change the login-item setting: ")));
+        // the command line sees it as well
+        QCOMPARE(bench.controller().errorMessage(), session.now().errorMessage);
         QCOMPARE(session.now().openAtLogin, std::optional(false));
     }
 
@@ -341,7 +374,8 @@ private Q_SLOTS:
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
         bench.setBootstrap("PROGRESS=1 WARNING=\"Connection refused\"");
         const auto connecting = bench.controller().connect();
-        QVERIFY(until([&] { return bench.controller().bootstrapProblem() && bench.clock.sleepers() == 2; }));
+        QVERIFY(until(
+            [&] { return bench.controller().bootstrapProblem() && bench.clock.sleepers() == 2; }));
         bench.clock.advance(std::chrono::minutes(5));
         QVERIFY(Workbench::finished(connecting));
         settle();
@@ -360,7 +394,8 @@ private Q_SLOTS:
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
         bench.setBootstrap("PROGRESS=1 WARNING=\"Connection refused\"");
         const auto connecting = bench.controller().connect();
-        QVERIFY(until([&] { return bench.controller().bootstrapProblem() && bench.clock.sleepers() == 2; }));
+        QVERIFY(until(
+            [&] { return bench.controller().bootstrapProblem() && bench.clock.sleepers() == 2; }));
         bench.cancelPrompt(u"disconnect"_s);
         bench.disconnect();
         bench.clock.advance(std::chrono::seconds(1));
@@ -394,7 +429,8 @@ private Q_SLOTS:
         bench.removeTor();
         session.connectToTor();
         follow(session);
-        QCOMPARE(session.now().errorMessage.value(), bench.profile.torMissingText); // in front of the first
+        // in front of the first
+        QCOMPARE(session.now().errorMessage.value(), bench.profile.torMissingText);
         session.dismissError();
         follow(session);
         QCOMPARE(session.now().errorMessage.value(), first);
@@ -428,7 +464,8 @@ private Q_SLOTS:
         session.store(choices);
         follow(session);
         QVERIFY(session.now().choices.strictMode && session.now().choices.autoConnect);
-        QVERIFY(session.now().errorMessage.value().english().contains(u"Disconnect to change it."_s));
+        QVERIFY(
+            session.now().errorMessage.value().english().contains(u"Disconnect to change it."_s));
         bench.disconnect();
         settle();
         session.store(choices);

@@ -16,7 +16,8 @@ namespace {
 
 enum class Helper { works, waits };
 
-// A program that is told to end. Where the helper waits, its disconnect goes on when the bench's processes are released.
+// A program that is told to end. Where the helper waits, its disconnect goes on when the bench's
+// processes are released.
 struct Leaving {
     Workbench bench;
     Departure departure{bench.controller(), bench.clock};
@@ -34,7 +35,8 @@ struct Leaving {
     }
     bool ends(bool restored) const
     {
-        return until([this] { return mayEnd.count() == 1; }) && mayEnd.at(0).at(0).toBool() == restored;
+        return until([this] { return mayEnd.count() == 1; })
+            && mayEnd.at(0).at(0).toBool() == restored;
     }
 };
 

@@ -60,7 +60,8 @@ public:
             if (::pipe(both) != 0)
                 return false;
             m_lock = both[0];
-            connection.send(message.createReply(QVariant::fromValue(QDBusUnixFileDescriptor(both[1]))));
+            connection.send(
+                message.createReply(QVariant::fromValue(QDBusUnixFileDescriptor(both[1]))));
             ::close(both[1]);
         } else {
             return false;
@@ -71,7 +72,8 @@ public:
     void shutDown()
     {
         QDBusMessage signal = QDBusMessage::createSignal(u"/org/freedesktop/login1"_s,
-                                                         u"org.freedesktop.login1.Manager"_s, u"PrepareForShutdown"_s);
+                                                         u"org.freedesktop.login1.Manager"_s,
+                                                         u"PrepareForShutdown"_s);
         m_bus.send(signal << true);
     }
     // A shutdown waits for the program.
@@ -89,8 +91,14 @@ public:
     QStringList notified;
 
 private:
-    static QStringList paths() { return {u"/org/freedesktop/Notifications"_s, u"/org/freedesktop/login1"_s}; }
-    static QStringList names() { return {u"org.freedesktop.Notifications"_s, u"org.freedesktop.login1"_s}; }
+    static QStringList paths()
+    {
+        return {u"/org/freedesktop/Notifications"_s, u"/org/freedesktop/login1"_s};
+    }
+    static QStringList names()
+    {
+        return {u"org.freedesktop.Notifications"_s, u"org.freedesktop.login1"_s};
+    }
 
     QDBusConnection m_bus;
     bool m_isThere = false;
@@ -106,17 +114,20 @@ struct Computer {
     {
         const Places places = Places::below(folder.path());
         write(places.applicationDirectory + u"/veldmark-helper.sh"_s,
-              "#!/bin/bash\necho \"$1\" >>'" + log().toUtf8() + "'\necho 'ERROR: not here' >&2\nexit 1\n");
+              "#!/bin/bash\necho \"$1\" >>'" + log().toUtf8()
+                  + "'\necho 'ERROR: not here' >&2\nexit 1\n");
         profile = PlatformProfile::linux(places);
-        write(profile.promptProgram, "#!/bin/sh\nexec /bin/bash \"$@\"\n"); // for those who are not root
+        // for those who are not root
+        write(profile.promptProgram, "#!/bin/sh\nexec /bin/bash \"$@\"\n");
         QDir().mkpath(places.runtimeDirectory);
     }
     QString log() const { return folder.filePath(u"verbs"_s); }
     QStringList verbs() const
     {
         QFile file(log());
-        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts)
-                                              : QStringList();
+        return file.open(QIODevice::ReadOnly)
+            ? QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts)
+            : QStringList();
     }
 };
 

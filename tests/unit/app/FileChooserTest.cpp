@@ -1,7 +1,7 @@
 #include "app/FileChooser.h"
 #include "support/SessionBus.h"
-#include "support/Workbench.h"
 #include "support/TestProgram.h"
+#include "support/Workbench.h"
 
 #include <QApplication>
 #include <QDBusMessage>
@@ -21,19 +21,22 @@ class Portal : public QObject {
 public:
     explicit Portal(const QDBusConnection &bus) : m_bus(bus)
     {
-        m_bus.registerObject(u"/org/freedesktop/portal/desktop"_s, this, QDBusConnection::ExportScriptableSlots);
+        m_bus.registerObject(u"/org/freedesktop/portal/desktop"_s, this,
+                             QDBusConnection::ExportScriptableSlots);
         m_bus.registerService(u"org.freedesktop.portal.Desktop"_s);
     }
 
     ~Portal() override
     {
-        m_bus.unregisterService(u"org.freedesktop.portal.Desktop"_s); // the connection outlives this object
+        // the connection outlives this object
+        m_bus.unregisterService(u"org.freedesktop.portal.Desktop"_s);
         m_bus.unregisterObject(u"/org/freedesktop/portal/desktop"_s);
     }
 
     void answer(uint response, const QStringList &uris)
     {
-        QDBusMessage signal = QDBusMessage::createSignal(request, u"org.freedesktop.portal.Request"_s, u"Response"_s);
+        QDBusMessage signal = QDBusMessage::createSignal(
+            request, u"org.freedesktop.portal.Request"_s, u"Response"_s);
         signal << response << QVariantMap{{u"uris"_s, uris}};
         m_bus.send(signal);
     }
@@ -44,8 +47,8 @@ public:
     bool old = false; // a portal that makes up the path of its request
 
 public Q_SLOTS:
-    Q_SCRIPTABLE QDBusObjectPath OpenFile(const QString &, const QString &wantedTitle, const QVariantMap &wanted,
-                                          const QDBusMessage &message)
+    Q_SCRIPTABLE QDBusObjectPath OpenFile(const QString &, const QString &wantedTitle,
+                                          const QVariantMap &wanted, const QDBusMessage &message)
     {
         title = wantedTitle;
         options = wanted;
@@ -66,7 +69,7 @@ class Echo : public QObject {
     Q_CLASSINFO("D-Bus Interface", "test.Echo")
 
 public Q_SLOTS:
-    Q_SCRIPTABLE void answer() {}
+    Q_SCRIPTABLE void answer() { }
 };
 
 namespace {
@@ -87,13 +90,14 @@ class FileChooserTest : public QObject {
 
     SessionBus bus;
 
-    // Everything that `from` has sent to `to` by now has been dealt with there, and what that sent has reached the bus.
+    // Everything that `from` has sent to `to` by now has been dealt with there, and what that sent
+    // has reached the bus.
     void assertDelivered(const QDBusConnection &from, QDBusConnection to)
     {
         Echo echo;
         QVERIFY(to.registerObject(u"/echo"_s, &echo, QDBusConnection::ExportScriptableSlots));
-        const QDBusPendingCall call = from.asyncCall(
-            QDBusMessage::createMethodCall(to.baseService(), u"/echo"_s, u"test.Echo"_s, u"answer"_s));
+        const QDBusPendingCall call = from.asyncCall(QDBusMessage::createMethodCall(
+            to.baseService(), u"/echo"_s, u"test.Echo"_s, u"answer"_s));
         QVERIFY(until([&] { return call.isFinished(); }));
         QVERIFY(!call.isError());
     }
@@ -115,17 +119,24 @@ private Q_SLOTS:
         portal.old = old;
         FileChooser chooser(application);
         QSignalSpy chosen(&chooser, &FileChooser::chosen);
-        chooser.ask({.title = u"Choose"_s, .folder = u"/usr/bin"_s, .filterName = u"Applications"_s,
-                     .filterPattern = u"*.desktop"_s, .several = true});
+        chooser.ask({.title = u"Choose"_s,
+                     .folder = u"/usr/bin"_s,
+                     .filterName = u"Applications"_s,
+                     .filterPattern = u"*.desktop"_s,
+                     .several = true});
         QVERIFY(until([&] { return !portal.request.isEmpty(); }));
         QCOMPARE(portal.title, u"Choose"_s);
         QCOMPARE(portal.options.value(u"multiple"_s).toBool(), true);
-        QCOMPARE(portal.options.value(u"current_folder"_s).toByteArray(), QByteArray("/usr/bin\0", 9));
+        QCOMPARE(portal.options.value(u"current_folder"_s).toByteArray(),
+                 QByteArray("/usr/bin\0", 9));
         QVERIFY(portal.options.contains(u"filters"_s));
-        assertDelivered(desktop, application); // a portal that makes up its path must be heard of before it answers
-        portal.answer(0, {u"file:///usr/share/applications/a%20b.desktop"_s, u"https://example.test/"_s});
+        // a portal that makes up its path must be heard of before it answers
+        assertDelivered(desktop, application);
+        portal.answer(
+            0, {u"file:///usr/share/applications/a%20b.desktop"_s, u"https://example.test/"_s});
         QVERIFY(until([&] { return chosen.count() == 1; }));
-        QCOMPARE(chosen.at(0).at(0).toStringList(), QStringList(u"/usr/share/applications/a b.desktop"_s));
+        QCOMPARE(chosen.at(0).at(0).toStringList(),
+                 QStringList(u"/usr/share/applications/a b.desktop"_s));
         QVERIFY(!qtDialog());
     }
 

@@ -12,7 +12,10 @@ using namespace veldmark;
 class FileLogTest : public QObject {
     Q_OBJECT
 
-    static QString notices(const Workbench &bench) { return bench.profile.runDirectory + u"/notices.log"_s; }
+    static QString notices(const Workbench &bench)
+    {
+        return bench.profile.runDirectory + u"/notices.log"_s;
+    }
 
 private Q_SLOTS:
     void isEmptyWithoutAFile()
@@ -27,9 +30,10 @@ private Q_SLOTS:
     void givesTheLinesWithTheirLevels()
     {
         Workbench bench;
-        bench.writeFile(notices(bench), "Nov 16 00:41:07.123 [notice] Bootstrapped 5%\n"
-                                        "Nov 16 00:41:08.000 [warn] Guard is down\n"
-                                        "Nov 16 00:41:09.000 [err] No more\n");
+        bench.writeFile(notices(bench),
+                        "Nov 16 00:41:07.123 [notice] Bootstrapped 5%\n"
+                        "Nov 16 00:41:08.000 [warn] Guard is down\n"
+                        "Nov 16 00:41:09.000 [err] No more\n");
         FileLog log(bench.profile);
         QSignalSpy changed(&log, &LogFeed::changed);
         log.start();
@@ -52,7 +56,8 @@ private Q_SLOTS:
         QSignalSpy changed(&log, &LogFeed::changed);
         log.start();
         QVERIFY(until([&] { return log.snapshot().lines().size() == 1; }));
-        bench.writeFile(notices(bench), "Nov 16 00:41:07.123 [notice] One\nNov 16 00:41:08.000 [notice] Two\n");
+        bench.writeFile(notices(bench),
+                        "Nov 16 00:41:07.123 [notice] One\nNov 16 00:41:08.000 [notice] Two\n");
         QVERIFY(until([&] { return log.snapshot().lines().size() == 2; }));
         log.stop();
         const qsizetype told = changed.count();

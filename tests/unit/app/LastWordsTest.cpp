@@ -15,7 +15,8 @@ using namespace veldmark;
 
 namespace {
 
-// What a process says that ends by exit(), as Qt ends it when the display goes; with `orderly`, at the end of main().
+// What a process says that ends by exit(), as Qt ends it when the display goes; with `orderly`, at
+// the end of main().
 QByteArray saidAtTheEnd(const PlatformProfile &profile, bool orderly = false)
 {
     int ends[2];
@@ -58,8 +59,11 @@ private Q_SLOTS:
         QVERIFY(LastWords::isNetworkLeft(computer.profile));
         const QByteArray command = computer.profile.manualRestoreCommand.toUtf8();
         const QByteArray said = saidAtTheEnd(computer.profile);
-        QVERIFY2(said.startsWith("veldmark: Ended without its display. ") && said.endsWith(command + '\n'), said.constData());
-        QVERIFY(LastWords::advice(computer.profile).endsWith(computer.profile.manualRestoreCommand));
+        QVERIFY2(said.startsWith("veldmark: Ended without its display. ")
+                     && said.endsWith(command + '\n'),
+                 said.constData());
+        QVERIFY(
+            LastWords::advice(computer.profile).endsWith(computer.profile.manualRestoreCommand));
         QCOMPARE(saidAtTheEnd(computer.profile, true), QByteArray());
     }
 

@@ -18,7 +18,10 @@ namespace {
 class Brackets final : public QTranslator {
 public:
     bool isEmpty() const override { return false; }
-    QString translate(const char *, const char *source, const char *, int) const override { return u'[' + QString::fromUtf8(source) + u']'; }
+    QString translate(const char *, const char *source, const char *, int) const override
+    {
+        return u'[' + QString::fromUtf8(source) + u']';
+    }
 };
 
 } // namespace
@@ -48,12 +51,16 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("exec");
-        QTest::newRow("plain") << QStringLiteral("/usr/bin/veldmark") << QStringLiteral("Exec=\"/usr/bin/veldmark\" --hidden");
-        QTest::newRow("blank") << QStringLiteral("/a b/veldmark") << QStringLiteral("Exec=\"/a b/veldmark\" --hidden");
-        QTest::newRow("per cent") << QStringLiteral("/50%/v") << QStringLiteral("Exec=\"/50%%/v\" --hidden");
-        QTest::newRow("dollar and quote") << QStringLiteral("/$a\"b/v")
-                                          << QStringLiteral("Exec=\"/\\\\$a\\\\\"b/v\" --hidden");
-        QTest::newRow("backslash") << QStringLiteral("/a\\b") << QStringLiteral("Exec=\"/a\\\\\\\\b\" --hidden");
+        QTest::newRow("plain") << QStringLiteral("/usr/bin/veldmark")
+                               << QStringLiteral("Exec=\"/usr/bin/veldmark\" --hidden");
+        QTest::newRow("blank") << QStringLiteral("/a b/veldmark")
+                               << QStringLiteral("Exec=\"/a b/veldmark\" --hidden");
+        QTest::newRow("per cent") << QStringLiteral("/50%/v")
+                                  << QStringLiteral("Exec=\"/50%%/v\" --hidden");
+        QTest::newRow("dollar and quote")
+            << QStringLiteral("/$a\"b/v") << QStringLiteral("Exec=\"/\\\\$a\\\\\"b/v\" --hidden");
+        QTest::newRow("backslash")
+            << QStringLiteral("/a\\b") << QStringLiteral("Exec=\"/a\\\\\\\\b\" --hidden");
     }
     void quotesTheProgramsPath()
     {
@@ -89,12 +96,14 @@ private Q_SLOTS:
         QCOMPARE(QCoreApplication::translate("LoginItem", "x"), QStringLiteral("[x]"));
         const auto done = LoginItem(profile).set(true);
         QVERIFY(!done);
-        QVERIFY2(done.error().english().startsWith(QStringLiteral("Couldn't write ")), qPrintable(done.error().english()));
+        QVERIFY2(done.error().english().startsWith(QStringLiteral("Couldn't write ")),
+                 qPrintable(done.error().english()));
         QVERIFY(done.error().translated().startsWith(QStringLiteral("[Couldn't write ")));
         profile.autostartFile.clear();
         const auto refused = LoginItem(profile).set(true);
         QCOMPARE(refused.error().english(), QStringLiteral("Login items can't be changed here."));
-        QCOMPARE(refused.error().translated(), QStringLiteral("[Login items can't be changed here.]"));
+        QCOMPARE(refused.error().translated(),
+                 QStringLiteral("[Login items can't be changed here.]"));
     }
 
     void anEntryThatIsSwitchedOffIsOff_data()
@@ -107,7 +116,8 @@ private Q_SLOTS:
         QTest::newRow("hidden") << head + "Hidden=true\n" << false;
         QTest::newRow("hidden, with blanks") << head + "  Hidden = true \r\n" << false;
         QTest::newRow("not enabled") << head + "X-GNOME-Autostart-enabled=false\n" << false;
-        QTest::newRow("both ways") << head + "Hidden=false\nX-GNOME-Autostart-enabled=false\n" << false;
+        QTest::newRow("both ways") << head + "Hidden=false\nX-GNOME-Autostart-enabled=false\n"
+                                   << false;
         QTest::newRow("another group") << head + "[Desktop Action x]\nHidden=true\n" << true;
         QTest::newRow("a longer key") << head + "NotHidden=true\n" << true;
         QTest::newRow("a comment") << head + "#Hidden=true\n" << true;

@@ -1,5 +1,5 @@
-#include "StandInSession.h"
 #include "app/QuitGuard.h"
+#include "StandInSession.h"
 #include "support/OtherSession.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
@@ -31,7 +31,10 @@ struct Guarded {
         return nullptr;
     }
     static bool answer(const char *signal) { return QMetaObject::invokeMethod(question(), signal); }
-    bool mainIsShown() const { return windows.find(u"main"_s) && windows.find(u"main"_s)->isVisible(); }
+    bool mainIsShown() const
+    {
+        return windows.find(u"main"_s) && windows.find(u"main"_s)->isVisible();
+    }
 };
 
 } // namespace
@@ -76,8 +79,12 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("rules");
         QTest::addColumn<bool>("strict");
         QTest::newRow("strict") << QByteArray("strict\n") << QByteArray("standing") << true;
-        QTest::newRow("strict, after a restart of the computer") << QByteArray("strict\n") << QByteArray() << false; // nobody has seen the rules
-        QTest::newRow("strict, with an open kill switch") << QByteArray("strict\n") << QByteArray("open") << false; // it does not stay on
+        // nobody has seen the rules
+        QTest::newRow("strict, after a restart of the computer")
+            << QByteArray("strict\n") << QByteArray() << false;
+        // it does not stay on
+        QTest::newRow("strict, with an open kill switch")
+            << QByteArray("strict\n") << QByteArray("open") << false;
         QTest::newRow("proxy") << QByteArray("proxy\n") << QByteArray() << false;
         QTest::newRow("unknown") << QByteArray("perhaps\n") << QByteArray() << false;
     }
@@ -155,7 +162,8 @@ private Q_SLOTS:
         QVERIFY(until([&] { return g.bench.processes.held() == 1; }));
         QVERIFY(Guarded::answer("cancelled"));
         g.bench.processes.release();
-        QVERIFY(until([&] { return g.bench.controller().phase() == ConnectionPhase::disconnected; }));
+        QVERIFY(
+            until([&] { return g.bench.controller().phase() == ConnectionPhase::disconnected; }));
         settle();
         QCOMPARE(g.mayEnd.count(), 0);
     }

@@ -13,7 +13,8 @@
 using namespace Qt::StringLiterals;
 using namespace veldmark;
 
-// Gives delay locks as logind does: the end of a pipe, whose other end tells when it has been let go.
+// Gives delay locks as logind does: the end of a pipe, whose other end tells when it has been let
+// go.
 class Login : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.login1.Manager")
@@ -21,7 +22,8 @@ class Login : public QObject {
 public:
     explicit Login(const QDBusConnection &bus) : m_bus(bus)
     {
-        m_bus.registerObject(u"/org/freedesktop/login1"_s, this, QDBusConnection::ExportScriptableSlots);
+        m_bus.registerObject(u"/org/freedesktop/login1"_s, this,
+                             QDBusConnection::ExportScriptableSlots);
         m_bus.registerService(u"org.freedesktop.login1"_s);
     }
     ~Login() override
@@ -35,7 +37,8 @@ public:
     void prepareForShutdown(bool begins)
     {
         QDBusMessage signal = QDBusMessage::createSignal(u"/org/freedesktop/login1"_s,
-                                                         u"org.freedesktop.login1.Manager"_s, u"PrepareForShutdown"_s);
+                                                         u"org.freedesktop.login1.Manager"_s,
+                                                         u"PrepareForShutdown"_s);
         signal << begins;
         m_bus.send(signal);
     }
@@ -50,8 +53,8 @@ public:
     QStringList asked;
 
 public Q_SLOTS:
-    Q_SCRIPTABLE QDBusUnixFileDescriptor Inhibit(const QString &what, const QString &who, const QString &,
-                                                 const QString &mode)
+    Q_SCRIPTABLE QDBusUnixFileDescriptor Inhibit(const QString &what, const QString &who,
+                                                 const QString &, const QString &mode)
     {
         asked << what + u' ' + who + u' ' + mode;
         int both[2];

@@ -35,7 +35,8 @@ struct Case {
     bool rulesStand() const { return note == "standing" || note == "restored"; }
     QString name() const
     {
-        return u"%1, note %2%3%4, exit %5%6"_s.arg(strict ? u"strict"_s : u"proxy"_s, QString::fromLatin1(note))
+        return u"%1, note %2%3%4, exit %5%6"_s
+            .arg(strict ? u"strict"_s : u"proxy"_s, QString::fromLatin1(note))
             .arg(exposed ? u", exposed"_s : QString(), leaking ? u", look-ups leak"_s : QString(),
                  verified ? (*verified ? u"confirmed"_s : u"other"_s) : u"silent"_s)
             .arg(torDies ? u", tor dies"_s : QString());
@@ -49,7 +50,8 @@ std::vector<Case> cases()
         for (const char *note : {"standing", "restored", "open", ""})
             for (const bool exposed : {false, true})
                 for (const bool leaking : {false, true})
-                    for (const std::optional<bool> verified : {std::optional<bool>(), std::optional(false), std::optional(true)})
+                    for (const std::optional<bool> verified :
+                         {std::optional<bool>(), std::optional(false), std::optional(true)})
                         for (const bool torDies : {false, true})
                             all.push_back({strict, note, exposed, leaking, verified, torDies});
     return all;
@@ -110,8 +112,8 @@ QString toneOf(const PanelModel &panel)
 
 } // namespace
 
-// One session, seen from everywhere: the published state, the command line's report, the panel, the tray
-// and the notifications say the same, and none of them more than was verified.
+// One session, seen from everywhere: the published state, the command line's report, the panel, the
+// tray and the notifications say the same, and none of them more than was verified.
 class SurfacesTest : public QObject {
     Q_OBJECT
 
@@ -139,15 +141,16 @@ private Q_SLOTS:
             QVERIFY2(panel.title() == title, name);
             QVERIFY2(bench.controller().title() == title, name);
             QVERIFY2(report.at(0) == title, name);
-            QVERIFY2(tray.findChild<QSystemTrayIcon *>()->toolTip() == u"Veldmark: "_s + title, name);
+            QVERIFY2(tray.findChild<QSystemTrayIcon *>()->toolTip() == u"Veldmark: "_s + title,
+                     name);
             QVERIFY2(panel.symbol() == state.value(u"menuBarSymbol"_s).toString(), name);
             QVERIFY2(toneOf(panel) == state.value(u"level"_s).toString(), name);
             QVERIFY2(panel.detail() == state.value(u"statusDetail"_s).toString(), name);
             QVERIFY2(report.at(1).trimmed() == panel.detail(), name);
 
             // Every word that is shown, and what has to be known for it.
-            QString words = report.join(u'\n') + panel.title() + panel.detail() + panel.leakText() + panel.leakHelp()
-                + panel.error();
+            QString words = report.join(u'\n') + panel.title() + panel.detail() + panel.leakText()
+                + panel.leakHelp() + panel.error();
             const bool isConnected = !one.torDies;
             const bool isLocked = one.strict && one.rulesStand();
             const bool isSafe = isConnected && isLocked && !one.leaking && one.verified == true
@@ -158,7 +161,8 @@ private Q_SLOTS:
             }
             const bool wasSeenOut = one.leaking || (one.strict && one.exposed);
             QVERIFY2(!words.contains(u"only Tor's traffic leaves"_s) || !wasSeenOut, name);
-            for (const QString &claim : {u"locked to Tor"_s, u"only Tor's traffic leaves"_s, u"blocking traffic, so nothing leaked"_s,
+            for (const QString &claim : {u"locked to Tor"_s, u"only Tor's traffic leaves"_s,
+                                         u"blocking traffic, so nothing leaked"_s,
                                          u"Direct path   blocked"_s, u"Direct path blocked"_s})
                 QVERIFY2(!words.contains(claim) || isLocked, name + ": " + claim.toUtf8());
             for (const QString &claim : {u"No leaks"_s, u"that skip Tor are blocked"_s})
@@ -173,15 +177,21 @@ private Q_SLOTS:
                         && notification.at(1).toString().startsWith(u"The kill switch is open."_s);
                 QVERIFY2(danger == 1, name);
             }
-            // The other dangers that stay are told once as well, and where nothing is wrong nothing is told.
+            // The other dangers that stay are told once as well, and where nothing is wrong nothing
+            // is told.
             const auto danger = bench.controller().verdict().danger;
-            const QString heading = danger == Verdict::Danger::dnsLeak ? u"Lookups can go around Tor"_s
-                : danger == Verdict::Danger::exposed                   ? u"Traffic can leave around Tor"_s
-                                                                       : QString();
-            const auto count = std::count_if(told.begin(), told.end(), [&heading](const auto &notification) { return notification.at(0).toString() == heading; });
+            const QString heading = danger == Verdict::Danger::dnsLeak
+                ? u"Lookups can go around Tor"_s
+                : danger == Verdict::Danger::exposed ? u"Traffic can leave around Tor"_s
+                                                     : QString();
+            const auto count = std::count_if(told.begin(), told.end(),
+                                             [&heading](const auto &notification) {
+                                                 return notification.at(0).toString() == heading;
+                                             });
             QVERIFY2(heading.isEmpty() || count == 1, name);
             ++dangers[danger];
-            const bool isWell = !one.exposed && !one.leaking && !one.torDies && (!one.strict || one.note == "standing");
+            const bool isWell = !one.exposed && !one.leaking && !one.torDies
+                && (!one.strict || one.note == "standing");
             QVERIFY2(!isWell || told.isEmpty(), name);
         }
         QVERIFY(isProtected > 0);
@@ -199,16 +209,22 @@ private Q_SLOTS:
             Tray tray(session);
             QStringList titles;
             const auto agree = [&] {
-                if (!until([&] { return session.now().phase == c.phase() && session.now().isAnothers == c.otherSession().has_value(); }))
+                if (!until([&] {
+                        return session.now().phase == c.phase()
+                            && session.now().isAnothers == c.otherSession().has_value();
+                    }))
                     return false;
                 settle();
                 const QJsonObject state = publishedState(c);
                 const QString title = state.value(u"title"_s).toString();
                 titles << title;
                 const QStringList report = Report::status(state).split(u'\n');
-                return panel.title() == title && report.at(0) == title && tray.findChild<QSystemTrayIcon *>()->toolTip() == u"Veldmark: "_s + title
-                    && panel.symbol() == state.value(u"menuBarSymbol"_s).toString() && toneOf(panel) == state.value(u"level"_s).toString()
-                    && panel.detail() == state.value(u"statusDetail"_s).toString() && report.at(1).trimmed() == panel.detail();
+                return panel.title() == title && report.at(0) == title
+                    && tray.findChild<QSystemTrayIcon *>()->toolTip() == u"Veldmark: "_s + title
+                    && panel.symbol() == state.value(u"menuBarSymbol"_s).toString()
+                    && toneOf(panel) == state.value(u"level"_s).toString()
+                    && panel.detail() == state.value(u"statusDetail"_s).toString()
+                    && report.at(1).trimmed() == panel.detail();
             };
             QVERIFY(agree());
             bench.setBootstrap("PROGRESS=5 SUMMARY=\"Connecting\"");
@@ -244,11 +260,14 @@ private Q_SLOTS:
             QVERIFY(agree());
             const QString up = open ? u"Kill Switch Open"_s : u"Protected"_s;
             const QString stale = open ? u"Kill Switch Open"_s : u"Needs Attention"_s;
-            QCOMPARE(titles, (QStringList{u"Not Protected"_s, open ? up : u"Connecting…"_s, up, u"Disconnecting…"_s, up, stale, stale}));
+            QCOMPARE(titles,
+                     (QStringList{u"Not Protected"_s, open ? up : u"Connecting…"_s, up,
+                                  u"Disconnecting…"_s, up, stale, stale}));
         }
     }
 
-    // What no session of the stand-in can be brought into: every combination of what the panel and the tray are given.
+    // What no session of the stand-in can be brought into: every combination of what the panel and
+    // the tray are given.
     void promiseNoMoreThanTheVerdict()
     {
         StandInSession session(profile);
@@ -256,18 +275,31 @@ private Q_SLOTS:
         Tray tray(session);
         auto *icon = tray.findChild<QSystemTrayIcon *>();
         int combinations = 0;
-        for (const Phase phase : {Phase::disconnected, Phase::connecting, Phase::connected, Phase::disconnecting, Phase::stale})
-            for (const std::optional<RoutingMode> mode : {std::optional<RoutingMode>(), std::optional(RoutingMode::strict), std::optional(RoutingMode::proxy)})
-                for (const std::optional<State> rules : {std::optional<State>(), std::optional(State::standing), std::optional(State::putBack), std::optional(State::open), std::optional(State::unknown)})
-                    for (const Leak::Kind leak : {Leak::Kind::exposed, Leak::Kind::notTested, Leak::Kind::checking, Leak::Kind::blocked, Leak::Kind::inconclusive})
-                        for (const DNSStatus &dns : {DNSStatus::leak({}), DNSStatus::unknown(), DNSStatus::throughTor()})
-                            for (const std::optional<bool> verified : {std::optional<bool>(), std::optional(false), std::optional(true)}) {
+        for (const Phase phase : {Phase::disconnected, Phase::connecting, Phase::connected,
+                                  Phase::disconnecting, Phase::stale})
+            for (const std::optional<RoutingMode> mode :
+                 {std::optional<RoutingMode>(), std::optional(RoutingMode::strict),
+                  std::optional(RoutingMode::proxy)})
+                for (const std::optional<State> rules :
+                     {std::optional<State>(), std::optional(State::standing),
+                      std::optional(State::putBack), std::optional(State::open),
+                      std::optional(State::unknown)})
+                    for (const Leak::Kind leak :
+                         {Leak::Kind::exposed, Leak::Kind::notTested, Leak::Kind::checking,
+                          Leak::Kind::blocked, Leak::Kind::inconclusive})
+                        for (const DNSStatus &dns :
+                             {DNSStatus::leak({}), DNSStatus::unknown(), DNSStatus::throughTor()})
+                            for (const std::optional<bool> verified :
+                                 {std::optional<bool>(), std::optional(false),
+                                  std::optional(true)}) {
                                 Snapshot s;
                                 s.phase = phase;
                                 s.activeMode = mode;
                                 if (rules)
                                     s.killSwitch = KillSwitch{*rules, 0, {}};
-                                s.leak = {leak, leak == Leak::Kind::exposed ? u"198.51.100.23"_s : QString()};
+                                s.leak = {leak,
+                                          leak == Leak::Kind::exposed ? u"198.51.100.23"_s
+                                                                      : QString()};
                                 s.dns = dns;
                                 s.torVerified = verified;
                                 s.statusDetail = u"All traffic is locked to Tor"_s;
@@ -280,9 +312,12 @@ private Q_SLOTS:
                                 QCOMPARE(panel.symbol(), verdict.symbol);
                                 QCOMPARE(panel.detail(), verdict.detail);
                                 QCOMPARE(toneOf(panel), verdict.levelName());
-                                if (panel.leakText() == u"No leaks"_s || panel.leakHelp().contains(u"are blocked"_s))
-                                    QVERIFY(mode == RoutingMode::strict && s.killSwitch && s.killSwitch->blocks());
-                                QCOMPARE(icon->toolTip(), u"Veldmark: "_s + verdict.title.english());
+                                if (panel.leakText() == u"No leaks"_s
+                                    || panel.leakHelp().contains(u"are blocked"_s))
+                                    QVERIFY(mode == RoutingMode::strict && s.killSwitch
+                                            && s.killSwitch->blocks());
+                                QCOMPARE(icon->toolTip(),
+                                         u"Veldmark: "_s + verdict.title.english());
                             }
         QCOMPARE(combinations, 5 * 3 * 5 * 5 * 3 * 3);
     }
@@ -290,10 +325,13 @@ private Q_SLOTS:
     // The report from any published state, also one that no session can be in.
     void theReportClaimsOnlyWhatThePublishedStateHolds()
     {
-        for (const char *phase : {"disconnected", "connecting", "connected", "disconnecting", "stale"})
+        for (const char *phase :
+             {"disconnected", "connecting", "connected", "disconnecting", "stale"})
             for (const char *mode : {"", "strict", "proxy"})
                 for (const char *rules : {"", "standing", "putBack", "open", "unknown"}) {
-                    QJsonObject state{{u"title"_s, u"T"_s}, {u"phase"_s, QLatin1String(phase)}, {u"leakStatus"_s, u"blocked"_s}};
+                    QJsonObject state{{u"title"_s, u"T"_s},
+                                      {u"phase"_s, QLatin1String(phase)},
+                                      {u"leakStatus"_s, u"blocked"_s}};
                     if (*mode)
                         state.insert(u"activeMode"_s, QLatin1String(mode));
                     if (*rules) {
@@ -301,14 +339,16 @@ private Q_SLOTS:
                         state.insert(u"killSwitchSince"_s, u"2027-01-15T08:00:00Z"_s);
                     }
                     const QString report = Report::status(state);
-                    const bool stands = QLatin1String(rules) == "standing"_L1 || QLatin1String(rules) == "putBack"_L1;
+                    const bool stands = QLatin1String(rules) == "standing"_L1
+                        || QLatin1String(rules) == "putBack"_L1;
                     if (report.contains(u"only Tor's traffic leaves"_s))
                         QVERIFY(QLatin1String(mode) == "strict"_L1 && stands);
                     if (report.contains(u"Direct path blocked"_s))
                         QVERIFY(QLatin1String(mode) == "strict"_L1 && stands);
                     QCOMPARE(report.contains(u"Kill switch stands"_s), stands);
                     QCOMPARE(report.contains(u"OPEN since"_s), QLatin1String(rules) == "open"_L1);
-                    QCOMPARE(report.contains(u"isn't known to stand"_s), QLatin1String(rules) == "unknown"_L1);
+                    QCOMPARE(report.contains(u"isn't known to stand"_s),
+                             QLatin1String(rules) == "unknown"_L1);
                 }
     }
 };

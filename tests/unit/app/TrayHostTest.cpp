@@ -4,7 +4,6 @@
 #include "support/StatusNotifierWatcher.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
-#include "support/TestProgram.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -40,7 +39,8 @@ private Q_SLOTS:
         QVERIFY(!host.isPresent());
         clock.advance(TrayHost::patience + 1s);
         QCOMPARE(missing.count(), 1);
-        StatusNotifierWatcher watcher(bus.connection(), false); // the keeper first, as some desktops start them
+        // the keeper first, as some desktops start them
+        StatusNotifierWatcher watcher(bus.connection(), false);
         QTest::qWait(50);
         QVERIFY(!host.isPresent());
         watcher.setHost(true);

@@ -1,5 +1,5 @@
-#include "StandInSession.h"
 #include "app/Tray.h"
+#include "StandInSession.h"
 #include "support/TestProgram.h"
 
 #include <QApplication>
@@ -29,8 +29,10 @@ private Q_SLOTS:
     void everyStateHasAnIconOfItsOwnShape()
     {
         QHash<QString, QImage> shapes;
-        for (const char *name : {"shield.slash", "shield.lefthalf.filled", "lock.shield.fill", "exclamationmark.shield"}) {
-            const QImage image = Tray::icon(QString::fromLatin1(name), true).pixmap(QSize(22, 22), 1.0).toImage();
+        for (const char *name : {"shield.slash", "shield.lefthalf.filled", "lock.shield.fill",
+                                 "exclamationmark.shield"}) {
+            const QImage image
+                = Tray::icon(QString::fromLatin1(name), true).pixmap(QSize(22, 22), 1.0).toImage();
             QVERIFY(!image.isNull());
             bool drawn = false;
             for (int y = 0; y < image.height(); ++y)
@@ -45,7 +47,9 @@ private Q_SLOTS:
 
     void aSymbolThatIsMissingIsNotInvisible()
     {
-        const QImage image = Tray::icon(QStringLiteral("no.such.symbol"), true).pixmap(QSize(22, 22), 1.0).toImage();
+        const QImage image = Tray::icon(QStringLiteral("no.such.symbol"), true)
+                                 .pixmap(QSize(22, 22), 1.0)
+                                 .toImage();
         int drawn = 0;
         for (int y = 0; y < image.height(); ++y)
             for (int x = 0; x < image.width(); ++x)
@@ -92,7 +96,9 @@ private Q_SLOTS:
     {
         // How much of what is drawn is light; the rest is its edge.
         const auto light = [](bool onDark) {
-            const QImage image = Tray::icon(QStringLiteral("lock.shield.fill"), onDark).pixmap(QSize(64, 64), 1.0).toImage();
+            const QImage image = Tray::icon(QStringLiteral("lock.shield.fill"), onDark)
+                                     .pixmap(QSize(64, 64), 1.0)
+                                     .toImage();
             double sum = 0, count = 0;
             for (int y = 0; y < image.height(); ++y) {
                 for (int x = 0; x < image.width(); ++x) {
@@ -113,7 +119,9 @@ private Q_SLOTS:
         // A dark icon on a dark panel, and a light one on a light panel.
         for (const bool onDark : {false, true}) {
             for (const int pixels : {16, 22, 24}) {
-                const QImage image = Tray::icon(QStringLiteral("lock.shield.fill"), onDark).pixmap(QSize(pixels, pixels), 1.0).toImage();
+                const QImage image = Tray::icon(QStringLiteral("lock.shield.fill"), onDark)
+                                         .pixmap(QSize(pixels, pixels), 1.0)
+                                         .toImage();
                 QImage panel(image.size(), QImage::Format_RGB32);
                 const int ground = onDark ? 245 : 20;
                 panel.fill(QColor(ground, ground, ground));
@@ -163,7 +171,8 @@ private Q_SLOTS:
     {
         StandInSession session(profile);
         Tray tray(session);
-        QSignalSpy panel(&tray, &Tray::panelWanted), open(&tray, &Tray::openWanted), quit(&tray, &Tray::quitWanted);
+        QSignalSpy panel(&tray, &Tray::panelWanted), open(&tray, &Tray::openWanted),
+            quit(&tray, &Tray::quitWanted);
         auto *icon = tray.findChild<QSystemTrayIcon *>();
         Q_EMIT icon->activated(QSystemTrayIcon::Trigger);
         QCOMPARE(panel.count(), 1);

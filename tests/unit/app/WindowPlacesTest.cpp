@@ -19,15 +19,23 @@ private Q_SLOTS:
         QTest::addColumn<QRect>("place");
         QTest::addColumn<QRect>("within");
         const QRect left(0, 0, 1920, 1040), right(1920, 0, 1280, 1024);
-        QTest::newRow("it fits") << QList<QRect>{left} << QRect(100, 100, 800, 600) << QRect(100, 100, 800, 600);
-        QTest::newRow("on the second screen") << QList<QRect>{left, right} << QRect(2000, 10, 800, 600) << QRect(2000, 10, 800, 600);
-        QTest::newRow("that screen has gone") << QList<QRect>{left} << QRect(2000, 10, 800, 600) << QRect(1120, 10, 800, 600);
-        QTest::newRow("above and left") << QList<QRect>{left} << QRect(-900, -50, 800, 600) << QRect(0, 0, 800, 600);
-        QTest::newRow("below") << QList<QRect>{left} << QRect(0, 1030, 800, 600) << QRect(0, 440, 800, 600);
+        QTest::newRow("it fits") << QList<QRect>{left} << QRect(100, 100, 800, 600)
+                                 << QRect(100, 100, 800, 600);
+        QTest::newRow("on the second screen")
+            << QList<QRect>{left, right} << QRect(2000, 10, 800, 600) << QRect(2000, 10, 800, 600);
+        QTest::newRow("that screen has gone")
+            << QList<QRect>{left} << QRect(2000, 10, 800, 600) << QRect(1120, 10, 800, 600);
+        QTest::newRow("above and left")
+            << QList<QRect>{left} << QRect(-900, -50, 800, 600) << QRect(0, 0, 800, 600);
+        QTest::newRow("below") << QList<QRect>{left} << QRect(0, 1030, 800, 600)
+                               << QRect(0, 440, 800, 600);
         QTest::newRow("too large") << QList<QRect>{right} << QRect(0, 0, 3000, 2000) << right;
-        QTest::newRow("between two") << QList<QRect>{left, right} << QRect(1900, 0, 400, 300) << QRect(1920, 0, 400, 300);
-        QTest::newRow("nowhere near") << QList<QRect>{right, left} << QRect(9000, 9000, 400, 300) << QRect(2800, 724, 400, 300);
-        QTest::newRow("no screen at all") << QList<QRect>() << QRect(5, 5, 400, 300) << QRect(5, 5, 400, 300);
+        QTest::newRow("between two")
+            << QList<QRect>{left, right} << QRect(1900, 0, 400, 300) << QRect(1920, 0, 400, 300);
+        QTest::newRow("nowhere near") << QList<QRect>{right, left} << QRect(9000, 9000, 400, 300)
+                                      << QRect(2800, 724, 400, 300);
+        QTest::newRow("no screen at all")
+            << QList<QRect>() << QRect(5, 5, 400, 300) << QRect(5, 5, 400, 300);
     }
     void movesAPlaceOntoAScreen()
     {
@@ -45,8 +53,8 @@ private Q_SLOTS:
 
     void takesNothingElse()
     {
-        for (const char *text : {"", "640x420", "640x420+1", "640x420+1+2+3", "0x0+1+2", "999999x420+1+2", "640x420+a+b",
-                                 "640x420+1+2\n", "-640x420+1+2"})
+        for (const char *text : {"", "640x420", "640x420+1", "640x420+1+2+3", "0x0+1+2",
+                                 "999999x420+1+2", "640x420+a+b", "640x420+1+2\n", "-640x420+1+2"})
             QVERIFY2(!WindowPlaces::parse(QString::fromLatin1(text)), text);
     }
 

@@ -1,7 +1,7 @@
 #include "base/Clock.h"
 
-#include "base/Resumption.h"
 #include "base/ResumeOnce.h"
+#include "base/Resumption.h"
 #include "support/TestProgram.h"
 
 #include <QElapsedTimer>

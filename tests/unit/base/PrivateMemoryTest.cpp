@@ -27,7 +27,8 @@ private Q_SLOTS:
         if (child == 0) {
             keepMemoryPrivate();
             rlimit limit{};
-            const bool done = ::prctl(PR_GET_DUMPABLE) == 0 && ::getrlimit(RLIMIT_CORE, &limit) == 0 && limit.rlim_cur == 0;
+            const bool done = ::prctl(PR_GET_DUMPABLE) == 0 && ::getrlimit(RLIMIT_CORE, &limit) == 0
+                && limit.rlim_cur == 0;
             ::_exit(done ? 0 : 1);
         }
         int status = -1;

@@ -20,9 +20,13 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("clear");
         QTest::addColumn<QByteArray>("salt");
         QTest::addColumn<QString>("hash");
-        QTest::newRow("secret") << "secret"_ba << "0e9492687e0a5c45"_ba
+        QTest::newRow("secret")
+            << "secret"_ba
+            << "0e9492687e0a5c45"_ba
             << u"16:0E9492687E0A5C45608684BD3E18F27E46246AB3A76B583FFDE1022BE0"_s;
-        QTest::newRow("012345") << "0123456789abcdef0123456789abcdef0123456789abcdef0123456789abcdef"_ba << "546060e6a9caa55d"_ba
+        QTest::newRow("012345")
+            << "0123456789abcdef0123456789abcdef0123456789abcdef0123456789abcdef"_ba
+            << "546060e6a9caa55d"_ba
             << u"16:546060E6A9CAA55D60F929AD9FBFC87A536074926C3833503527BE3989"_s;
     }
 
@@ -49,7 +53,8 @@ private Q_SLOTS:
             QVERIFY(hashing.waitForFinished());
             const QString hash = QString::fromLatin1(hashing.readAllStandardOutput()).trimmed();
             QVERIFY2(hash.size() == 61, qPrintable(hash));
-            QVERIFY2(TorPassword::matches(clear, hash), qPrintable(u"%1 bytes: %2"_s.arg(length).arg(hash)));
+            QVERIFY2(TorPassword::matches(clear, hash),
+                     qPrintable(u"%1 bytes: %2"_s.arg(length).arg(hash)));
         }
     }
 

@@ -16,12 +16,18 @@ private Q_SLOTS:
         QTest::addColumn<QString>("raw");
         QTest::addColumn<QString>("name");
         QTest::addColumn<QStringList>("keys");
-        QTest::newRow("off") << 0 << "off" << "Off" << QStringList();
-        QTest::newRow("obfs4") << 1 << "obfs4" << "obfs4" << QStringList{QStringLiteral("obfs4")};
-        QTest::newRow("snowflake") << 2 << "snowflake" << "Snowflake" << QStringList{QStringLiteral("snowflake")};
-        QTest::newRow("meek") << 3 << "meek" << "meek"
-                              << QStringList{QStringLiteral("meek_lite"), QStringLiteral("meek"), QStringLiteral("meek-azure")};
-        QTest::newRow("custom") << 4 << "custom" << "Custom" << QStringList();
+        QTest::newRow("off") << 0 << "off"
+                             << "Off" << QStringList();
+        QTest::newRow("obfs4") << 1 << "obfs4"
+                               << "obfs4" << QStringList{QStringLiteral("obfs4")};
+        QTest::newRow("snowflake") << 2 << "snowflake"
+                                   << "Snowflake" << QStringList{QStringLiteral("snowflake")};
+        QTest::newRow("meek") << 3 << "meek"
+                              << "meek"
+                              << QStringList{QStringLiteral("meek_lite"), QStringLiteral("meek"),
+                                             QStringLiteral("meek-azure")};
+        QTest::newRow("custom") << 4 << "custom"
+                                << "Custom" << QStringList();
     }
 
     void namesEachChoice()
@@ -40,15 +46,18 @@ private Q_SLOTS:
     void thereAreFiveAndTheyCanBeHashed()
     {
         QCOMPARE(allBridgeChoices.size(), 5u);
-        const std::unordered_set<BridgeChoice> set(allBridgeChoices.begin(), allBridgeChoices.end());
+        const std::unordered_set<BridgeChoice> set(allBridgeChoices.begin(),
+                                                   allBridgeChoices.end());
         QCOMPARE(set.size(), 5u);
     }
 
     void anyOtherWordIsNoChoice_data()
     {
         QTest::addColumn<QString>("raw");
-        for (const char *raw : {"", "Off", "OBFS4", "obfs4 ", " off", "meek_lite", "webtunnel", "0"})
-            QTest::newRow(qPrintable(QStringLiteral("<%1>").arg(QLatin1String(raw)))) << QString::fromLatin1(raw);
+        for (const char *raw :
+             {"", "Off", "OBFS4", "obfs4 ", " off", "meek_lite", "webtunnel", "0"})
+            QTest::newRow(qPrintable(QStringLiteral("<%1>").arg(QLatin1String(raw))))
+                << QString::fromLatin1(raw);
     }
 
     void anyOtherWordIsNoChoice()

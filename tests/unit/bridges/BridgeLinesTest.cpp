@@ -37,7 +37,8 @@ private Q_SLOTS:
         row("bracketed IPv6", "webtunnel [2001:db8::1]:443 FP url=https://example.org/x ver=0.0.1",
             "webtunnel [2001:db8::1]:443 FP url=https://example.org/x ver=0.0.1");
         row("bare IPv6", "2001:db8::1:443", "2001:db8::1:443");
-        row("snowflake", "snowflake 192.0.2.3:80 FP fingerprint=FP url=https://a.example/ front=b.example",
+        row("snowflake",
+            "snowflake 192.0.2.3:80 FP fingerprint=FP url=https://a.example/ front=b.example",
             "snowflake 192.0.2.3:80 FP fingerprint=FP url=https://a.example/ front=b.example");
         row("port too large", "192.0.2.1:99999", "192.0.2.1:99999");
         row("case of the rest is kept", "bridge 192.0.2.1:1 AbC", "192.0.2.1:1 AbC");
@@ -62,7 +63,9 @@ private Q_SLOTS:
         const auto row = [](const char *name, const QString &line, const QString &result) {
             QTest::newRow(name) << line << result;
         };
-        const auto same = [&row](const char *name, const char *line) { row(name, text(line), text(line)); };
+        const auto same = [&row](const char *name, const char *line) {
+            row(name, text(line), text(line));
+        };
         same("host name", "obfs4 example.org:443 FP");
         same("capital transport", "OBFS4 192.0.2.1:443 FP");
         same("no port", "192.0.2.1");
@@ -82,12 +85,17 @@ private Q_SLOTS:
         same("a quotation mark", "obfs4 192.0.2.1:443 cert=\"a\"");
         same("a backslash at the end", "192.0.2.1:443 FP\\");
         same("a backslash within", "obfs4 192.0.2.1:443 cert=a\\b");
-        row("NUL", QStringLiteral("192.0.2.1:443 a") + QChar(0), QStringLiteral("192.0.2.1:443 a") + QChar(0));
-        row("lone surrogate", QStringLiteral("192.0.2.1:443 ") + QChar(0xd800), QStringLiteral("192.0.2.1:443 ") + QChar(0xd800));
-        row("broken UTF-8", QString::fromUtf8("192.0.2.1:443 \xff\xfe"), QStringLiteral("192.0.2.1:443 ��"));
-        row("keyword is cut also here", text("Bridge obfs4 example.org:443"), text("obfs4 example.org:443"));
+        row("NUL", QStringLiteral("192.0.2.1:443 a") + QChar(0),
+            QStringLiteral("192.0.2.1:443 a") + QChar(0));
+        row("lone surrogate", QStringLiteral("192.0.2.1:443 ") + QChar(0xd800),
+            QStringLiteral("192.0.2.1:443 ") + QChar(0xd800));
+        row("broken UTF-8", QString::fromUtf8("192.0.2.1:443 \xff\xfe"),
+            QStringLiteral("192.0.2.1:443 ��"));
+        row("keyword is cut also here", text("Bridge obfs4 example.org:443"),
+            text("obfs4 example.org:443"));
         row("keyword alone", QStringLiteral("bridge"), QStringLiteral("bridge"));
-        row("option of another program", QStringLiteral("--bridge 192.0.2.1:443"), QStringLiteral("--bridge 192.0.2.1:443"));
+        row("option of another program", QStringLiteral("--bridge 192.0.2.1:443"),
+            QStringLiteral("--bridge 192.0.2.1:443"));
     }
 
     void rejectsOtherLines()
@@ -102,8 +110,10 @@ private Q_SLOTS:
     void skipsCommentsAndBlankLines_data()
     {
         QTest::addColumn<QString>("line");
-        for (const char *line : {"", "   ", "# obfs4 192.0.2.1:443", "   #x", "\t#", "bridge # x", "\u00a0", "bridge  "})
-            QTest::newRow(qPrintable(QStringLiteral("<%1>").arg(QString::fromUtf8(line)))) << QString::fromUtf8(line);
+        for (const char *line : {"", "   ", "# obfs4 192.0.2.1:443", "   #x", "\t#", "bridge # x",
+                                 "\u00a0", "bridge  "})
+            QTest::newRow(qPrintable(QStringLiteral("<%1>").arg(QString::fromUtf8(line))))
+                << QString::fromUtf8(line);
     }
 
     void skipsCommentsAndBlankLines()
@@ -131,19 +141,24 @@ private Q_SLOTS:
     {
         QFETCH(QString, lineBreak);
         const QString joined = QStringLiteral("192.0.2.1:1") + lineBreak + QStringLiteral("x")
-            + lineBreak + lineBreak + QStringLiteral("192.0.2.2:2") + lineBreak + QStringLiteral("y") + lineBreak;
+            + lineBreak + lineBreak + QStringLiteral("192.0.2.2:2") + lineBreak
+            + QStringLiteral("y") + lineBreak;
         const ParsedBridgeLines parsed = BridgeLines::parse(joined);
-        QCOMPARE(parsed.lines, QStringList({QStringLiteral("192.0.2.1:1"), QStringLiteral("192.0.2.2:2")}));
+        QCOMPARE(parsed.lines,
+                 QStringList({QStringLiteral("192.0.2.1:1"), QStringLiteral("192.0.2.2:2")}));
         QCOMPARE(parsed.invalid, QStringList({QStringLiteral("x"), QStringLiteral("y")}));
         QCOMPARE(parsed.invalidLineNumbers, std::vector<int>({2, 5}));
     }
 
     void keepsOrderAndRepetitions()
     {
-        const ParsedBridgeLines parsed = BridgeLines::parse(QStringLiteral(
-            "192.0.2.2:2\nbad one\n192.0.2.1:1\n192.0.2.2:2\nbad one\n"));
-        QCOMPARE(parsed.lines, QStringList({QStringLiteral("192.0.2.2:2"), QStringLiteral("192.0.2.1:1"), QStringLiteral("192.0.2.2:2")}));
-        QCOMPARE(parsed.invalid, QStringList({QStringLiteral("bad one"), QStringLiteral("bad one")}));
+        const ParsedBridgeLines parsed = BridgeLines::parse(
+            QStringLiteral("192.0.2.2:2\nbad one\n192.0.2.1:1\n192.0.2.2:2\nbad one\n"));
+        QCOMPARE(parsed.lines,
+                 QStringList({QStringLiteral("192.0.2.2:2"), QStringLiteral("192.0.2.1:1"),
+                              QStringLiteral("192.0.2.2:2")}));
+        QCOMPARE(parsed.invalid,
+                 QStringList({QStringLiteral("bad one"), QStringLiteral("bad one")}));
         QCOMPARE(parsed.invalidLineNumbers, std::vector<int>({2, 5}));
     }
 
@@ -165,7 +180,10 @@ private Q_SLOTS:
     {
         QString many;
         for (int i = 0; i < 100'000; ++i)
-            many += QStringLiteral("Bridge obfs4 192.0.2.%1:%2 %3 cert=abc iat-mode=0\r\n").arg(i % 256).arg(i % 65536).arg(fingerprint);
+            many += QStringLiteral("Bridge obfs4 192.0.2.%1:%2 %3 cert=abc iat-mode=0\r\n")
+                        .arg(i % 256)
+                        .arg(i % 65536)
+                        .arg(fingerprint);
         QElapsedTimer timer;
         timer.start();
         const ParsedBridgeLines parsed = BridgeLines::parse(many);
@@ -203,24 +221,36 @@ private Q_SLOTS:
         QCOMPARE(parsed.surplusLineNumbers, std::vector<int>({103, 105}));
         QCOMPARE(parsed.invalidLineNumbers, std::vector<int>({102}));
         text.remove(QStringLiteral("nonsense\n"));
-        QCOMPARE(BridgeLines::custom(text).error().description(),
-                 QStringLiteral("At most 100 custom bridges can be used. Remove some under Bridges → Custom…."));
+        QCOMPARE(
+            BridgeLines::custom(text).error().description(),
+            QStringLiteral(
+                "At most 100 custom bridges can be used. Remove some under Bridges → Custom…."));
     }
 
     void findsTheTransport_data()
     {
         QTest::addColumn<QString>("line");
         QTest::addColumn<QString>("transport");
-        QTest::newRow("obfs4") << "obfs4 192.0.2.1:443" << "obfs4";
-        QTest::newRow("webtunnel") << "webtunnel [2001:db8::1]:443" << "webtunnel";
-        QTest::newRow("alone") << "snowflake" << "snowflake";
-        QTest::newRow("blanks in front") << "   meek_lite 192.0.2.1:1" << "meek_lite";
-        QTest::newRow("plain") << "192.0.2.1:443 0123" << "";
-        QTest::newRow("empty") << "" << "";
-        QTest::newRow("blanks") << "   " << "";
-        QTest::newRow("capitals") << "Obfs4 192.0.2.1:443" << "";
-        QTest::newRow("hyphen") << "meek-azure 192.0.2.1:443" << "";
-        QTest::newRow("line break") << "obfs4\n 192.0.2.1:443" << "";
+        QTest::newRow("obfs4") << "obfs4 192.0.2.1:443"
+                               << "obfs4";
+        QTest::newRow("webtunnel") << "webtunnel [2001:db8::1]:443"
+                                   << "webtunnel";
+        QTest::newRow("alone") << "snowflake"
+                               << "snowflake";
+        QTest::newRow("blanks in front") << "   meek_lite 192.0.2.1:1"
+                                         << "meek_lite";
+        QTest::newRow("plain") << "192.0.2.1:443 0123"
+                               << "";
+        QTest::newRow("empty") << ""
+                               << "";
+        QTest::newRow("blanks") << "   "
+                                << "";
+        QTest::newRow("capitals") << "Obfs4 192.0.2.1:443"
+                                  << "";
+        QTest::newRow("hyphen") << "meek-azure 192.0.2.1:443"
+                                << "";
+        QTest::newRow("line break") << "obfs4\n 192.0.2.1:443"
+                                    << "";
     }
 
     void findsTheTransport()
@@ -235,27 +265,48 @@ private Q_SLOTS:
         QTest::addColumn<QString>("line");
         QTest::addColumn<QString>("host");
         QTest::addColumn<int>("port"); // -1: none
-        QTest::newRow("plain") << "192.0.2.1:443 0123" << "192.0.2.1" << 443;
-        QTest::newRow("second word") << "snowflake 192.0.2.3:80 0123 fingerprint=0123 url=https://a/ front=b" << "192.0.2.3" << 80;
-        QTest::newRow("brackets") << "webtunnel [2001:db8::1]:443 url=https://a/" << "2001:db8::1" << 443;
-        QTest::newRow("bare IPv6 gives up its last group") << "2001:db8::1:443" << "2001:db8::1" << 443;
-        QTest::newRow("arguments in front") << "x url=https://a:1/ 192.0.2.1:2" << "192.0.2.1" << 2;
-        QTest::newRow("largest port") << "192.0.2.1:65535" << "192.0.2.1" << 65535;
-        QTest::newRow("leading zeros") << "192.0.2.1:000443" << "192.0.2.1" << 443;
-        QTest::newRow("port zero") << "192.0.2.1:0" << "192.0.2.1" << 0;
-        QTest::newRow("no closing bracket") << "[2001:db8::1:443" << "[2001:db8::1" << 443;
-        QTest::newRow("port too large") << "192.0.2.1:99999" << "" << -1;
-        QTest::newRow("port of 65536") << "192.0.2.1:65536" << "" << -1;
-        QTest::newRow("port of many digits") << "192.0.2.1:4294967297" << "" << -1;
-        QTest::newRow("empty port") << "192.0.2.1:" << "" << -1;
-        QTest::newRow("signed port") << "192.0.2.1:+443" << "" << -1;
-        QTest::newRow("brackets, no port") << "[2001:db8::1]" << "" << -1;
-        QTest::newRow("brackets, empty port") << "[2001:db8::1]:" << "" << -1;
-        QTest::newRow("brackets, other text") << "[2001:db8::1]x443" << "" << -1;
-        QTest::newRow("no address") << "obfs4 cert=a:b" << "" << -1;
-        QTest::newRow("empty") << "" << "" << -1;
+        QTest::newRow("plain") << "192.0.2.1:443 0123"
+                               << "192.0.2.1" << 443;
+        QTest::newRow("second word")
+            << "snowflake 192.0.2.3:80 0123 fingerprint=0123 url=https://a/ front=b"
+            << "192.0.2.3" << 80;
+        QTest::newRow("brackets") << "webtunnel [2001:db8::1]:443 url=https://a/"
+                                  << "2001:db8::1" << 443;
+        QTest::newRow("bare IPv6 gives up its last group") << "2001:db8::1:443"
+                                                           << "2001:db8::1" << 443;
+        QTest::newRow("arguments in front") << "x url=https://a:1/ 192.0.2.1:2"
+                                            << "192.0.2.1" << 2;
+        QTest::newRow("largest port") << "192.0.2.1:65535"
+                                      << "192.0.2.1" << 65535;
+        QTest::newRow("leading zeros") << "192.0.2.1:000443"
+                                       << "192.0.2.1" << 443;
+        QTest::newRow("port zero") << "192.0.2.1:0"
+                                   << "192.0.2.1" << 0;
+        QTest::newRow("no closing bracket") << "[2001:db8::1:443"
+                                            << "[2001:db8::1" << 443;
+        QTest::newRow("port too large") << "192.0.2.1:99999"
+                                        << "" << -1;
+        QTest::newRow("port of 65536") << "192.0.2.1:65536"
+                                       << "" << -1;
+        QTest::newRow("port of many digits") << "192.0.2.1:4294967297"
+                                             << "" << -1;
+        QTest::newRow("empty port") << "192.0.2.1:"
+                                    << "" << -1;
+        QTest::newRow("signed port") << "192.0.2.1:+443"
+                                     << "" << -1;
+        QTest::newRow("brackets, no port") << "[2001:db8::1]"
+                                           << "" << -1;
+        QTest::newRow("brackets, empty port") << "[2001:db8::1]:"
+                                              << "" << -1;
+        QTest::newRow("brackets, other text") << "[2001:db8::1]x443"
+                                              << "" << -1;
+        QTest::newRow("no address") << "obfs4 cert=a:b"
+                                    << "" << -1;
+        QTest::newRow("empty") << ""
+                               << "" << -1;
         // The first such word decides, also when a later one would do.
-        QTest::newRow("first word with a colon") << "a:b 192.0.2.1:443" << "" << -1;
+        QTest::newRow("first word with a colon") << "a:b 192.0.2.1:443"
+                                                 << "" << -1;
     }
 
     void findsTheAddress()
@@ -275,9 +326,11 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("list");
         QTest::addColumn<QString>("error");
-        const QString invalid = QStringLiteral("Some custom bridge lines aren't valid. Fix them under Bridges → Custom….");
+        const QString invalid = QStringLiteral(
+            "Some custom bridge lines aren't valid. Fix them under Bridges → Custom….");
         const QString none = QStringLiteral("Add at least one bridge under Bridges → Custom….");
-        QTest::newRow("good") << "192.0.2.1:443\n# note\n" << "";
+        QTest::newRow("good") << "192.0.2.1:443\n# note\n"
+                              << "";
         QTest::newRow("one good, one bad") << "192.0.2.1:443\nexample.org:443" << invalid;
         QTest::newRow("only bad") << "example.org:443" << invalid;
         QTest::newRow("a mark of comments") << "192.0.2.1:443 #mine" << invalid;

@@ -49,8 +49,14 @@ struct Stage {
 
     BridgeTools tools()
     {
-        return {[this] { ++searches; return answer(transports); },
-                [this](QString host, quint16, std::chrono::milliseconds) { ++probes; return lastNumber(host); },
+        return {[this] {
+                    ++searches;
+                    return answer(transports);
+                },
+                [this](QString host, quint16, std::chrono::milliseconds) {
+                    ++probes;
+                    return lastNumber(host);
+                },
                 [this](const Text &text) { said.append(text.english()); }};
     }
 };
@@ -84,13 +90,20 @@ private Q_SLOTS:
         const QString l = QStringLiteral("--pt-lyrebird");
         const QString s = QStringLiteral("--pt-snowflake");
         QTest::newRow("plain") << QStringList{plain, plain} << "" << QStringList();
-        QTest::newRow("obfs4") << QStringList{obfs4, anotherObfs4} << "lsw" << QStringList{l, lyrebird};
+        QTest::newRow("obfs4") << QStringList{obfs4, anotherObfs4} << "lsw"
+                               << QStringList{l, lyrebird};
         QTest::newRow("meek") << QStringList{meek} << "l" << QStringList{l, lyrebird};
-        QTest::newRow("old ones") << QStringList{QStringLiteral("obfs3 192.0.2.1:1"), QStringLiteral("scramblesuit 192.0.2.1:1")} << "l" << QStringList{l, lyrebird};
-        QTest::newRow("snowflake before obfs4") << QStringList{snowflake, obfs4} << "lsw" << QStringList{l, lyrebird, s, snowflakeClient};
-        QTest::newRow("webtunnel with its client") << QStringList{webtunnel} << "lw" << QStringList{w, webtunnelClient};
-        QTest::newRow("webtunnel without it") << QStringList{webtunnel} << "l" << QStringList{l, lyrebird};
-        QTest::newRow("webtunnel and no lyrebird") << QStringList{webtunnel} << "w" << QStringList{w, webtunnelClient};
+        QTest::newRow("old ones") << QStringList{QStringLiteral("obfs3 192.0.2.1:1"),
+                                                 QStringLiteral("scramblesuit 192.0.2.1:1")}
+                                  << "l" << QStringList{l, lyrebird};
+        QTest::newRow("snowflake before obfs4") << QStringList{snowflake, obfs4} << "lsw"
+                                                << QStringList{l, lyrebird, s, snowflakeClient};
+        QTest::newRow("webtunnel with its client")
+            << QStringList{webtunnel} << "lw" << QStringList{w, webtunnelClient};
+        QTest::newRow("webtunnel without it")
+            << QStringList{webtunnel} << "l" << QStringList{l, lyrebird};
+        QTest::newRow("webtunnel and no lyrebird")
+            << QStringList{webtunnel} << "w" << QStringList{w, webtunnelClient};
         QTest::newRow("all") << QStringList{snowflake, plain, obfs4, webtunnel} << "lsw"
                              << QStringList{w, webtunnelClient, l, lyrebird, s, snowflakeClient};
         QTest::newRow("none") << QStringList() << "lsw" << QStringList();
@@ -114,18 +127,25 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("lines");
         QTest::addColumn<QString>("programs");
         QTest::addColumn<QString>("error");
-        const QString noLyrebird = QStringLiteral("These bridges need lyrebird, which comes with Tor Browser. Click Download next to Bridges to get it.");
-        const QString noSnowflake = QStringLiteral("Snowflake needs snowflake-client, which comes with Tor Browser. Click Download next to Bridges to get it.");
+        const QString noLyrebird = QStringLiteral(
+            "These bridges need lyrebird, which comes with Tor Browser. Click Download next to Bridges to get it.");
+        const QString noSnowflake = QStringLiteral(
+            "Snowflake needs snowflake-client, which comes with Tor Browser. Click Download next to Bridges to get it.");
         const QString conjure = QStringLiteral("conjure 192.0.2.1:1");
         const QString unsupported = QStringLiteral("The conjure bridge type isn't supported yet.");
         QTest::newRow("lyrebird") << QStringList{obfs4} << "sw" << noLyrebird;
         QTest::newRow("either for webtunnel") << QStringList{webtunnel} << "s" << noLyrebird;
-        QTest::newRow("lyrebird beside webtunnel") << QStringList{webtunnel, obfs4} << "w" << noLyrebird;
+        QTest::newRow("lyrebird beside webtunnel")
+            << QStringList{webtunnel, obfs4} << "w" << noLyrebird;
         QTest::newRow("snowflake") << QStringList{snowflake} << "lw" << noSnowflake;
         QTest::newRow("both") << QStringList{snowflake, obfs4} << "" << noLyrebird;
         QTest::newRow("unsupported") << QStringList{conjure} << "lsw" << unsupported;
-        QTest::newRow("unsupported comes first") << QStringList{obfs4, conjure} << "" << unsupported;
-        QTest::newRow("the first of the alphabet") << QStringList{QStringLiteral("dust 192.0.2.1:1"), conjure, QStringLiteral("fte 192.0.2.1:1")} << "" << unsupported;
+        QTest::newRow("unsupported comes first")
+            << QStringList{obfs4, conjure} << "" << unsupported;
+        QTest::newRow("the first of the alphabet")
+            << QStringList{QStringLiteral("dust 192.0.2.1:1"), conjure,
+                           QStringLiteral("fte 192.0.2.1:1")}
+            << "" << unsupported;
     }
 
     void saysWhatIsMissing()
@@ -151,19 +171,24 @@ private Q_SLOTS:
     void takesBuiltInBridges()
     {
         Stage stage{found(QStringLiteral("l"))};
-        stage.transports.builtin = {{QStringLiteral("meek_lite"), {meek}}, {QStringLiteral("obfs4"), {obfs4}}};
+        stage.transports.builtin = {{QStringLiteral("meek_lite"), {meek}},
+                                    {QStringLiteral("obfs4"), {obfs4}}};
         const BridgePlan plan = planned({BridgeChoice::meek, QString(), true}, stage);
         QCOMPARE(stage.searches, 1);
         QCOMPARE(*plan.transports, stage.transports);
         QCOMPARE(*plan.lines, QStringList{meek});
-        QCOMPARE(plan.arguments.value(), QStringList({QStringLiteral("--bridge"), meek, QStringLiteral("--pt-lyrebird"), lyrebird}));
+        QCOMPARE(plan.arguments.value(),
+                 QStringList({QStringLiteral("--bridge"), meek, QStringLiteral("--pt-lyrebird"),
+                              lyrebird}));
         QVERIFY(stage.said.isEmpty());
     }
 
     void takesTheUsersOwnLines()
     {
         Stage stage;
-        const BridgePlan plan = planned({BridgeChoice::custom, QStringLiteral("# mine\n Bridge  192.0.2.1:9001\tAA\n"), false}, stage);
+        const BridgePlan plan = planned(
+            {BridgeChoice::custom, QStringLiteral("# mine\n Bridge  192.0.2.1:9001\tAA\n"), false},
+            stage);
         QCOMPARE(*plan.lines, QStringList{plain});
         QCOMPARE(plan.arguments.value(), QStringList({QStringLiteral("--bridge"), plain}));
     }
@@ -182,7 +207,8 @@ private Q_SLOTS:
         QStringList lines = {snowflake};
         for (int i = 9; i > 0; --i)
             lines.append(QStringLiteral("obfs4 192.0.2.%1:443").arg(i));
-        const BridgePlan plan = planned({BridgeChoice::custom, lines.join(u'\n'), optimizeSpeed}, stage);
+        const BridgePlan plan = planned({BridgeChoice::custom, lines.join(u'\n'), optimizeSpeed},
+                                        stage);
         QStringList expected = lines;
         if (optimizeSpeed)
             expected = {lines[9], lines[8], lines[7], snowflake};
@@ -190,7 +216,10 @@ private Q_SLOTS:
         QCOMPARE(plan.arguments->count(QStringLiteral("--bridge")), expected.size());
         QCOMPARE(plan.arguments->at(1), expected.first());
         QCOMPARE(stage.probes, optimizeSpeed ? 9 : 0);
-        QCOMPARE(stage.said, optimizeSpeed ? QStringList({QStringLiteral("Testing 9 bridges…"), QStringLiteral("Using the 3 fastest of 9 bridges")}) : QStringList());
+        QCOMPARE(stage.said,
+                 optimizeSpeed ? QStringList({QStringLiteral("Testing 9 bridges…"),
+                                              QStringLiteral("Using the 3 fastest of 9 bridges")})
+                               : QStringList());
     }
 
     // A kill switch refuses the probes: every bridge would look dead.
@@ -200,8 +229,10 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("used");
         const QStringList all = {obfs4, plain, anotherObfs4};
         QTest::newRow("nothing is known") << QStringList() << all;
-        QTest::newRow("what was fastest before") << QStringList{anotherObfs4, obfs4} << QStringList{anotherObfs4, obfs4};
-        QTest::newRow("one of them has gone") << QStringList{anotherObfs4, QStringLiteral("obfs4 192.0.2.99:1")} << all;
+        QTest::newRow("what was fastest before")
+            << QStringList{anotherObfs4, obfs4} << QStringList{anotherObfs4, obfs4};
+        QTest::newRow("one of them has gone")
+            << QStringList{anotherObfs4, QStringLiteral("obfs4 192.0.2.99:1")} << all;
     }
 
     void behindAKillSwitchNoneIsTested()
@@ -274,9 +305,17 @@ private Q_SLOTS:
         QTest::addColumn<QString>("raw");
         QTest::addColumn<QString>("custom");
         QTest::addColumn<QString>("error");
-        QTest::newRow("invalid") << "custom" << "192.0.2.1:1\nexample.org:1" << "Some custom bridge lines aren't valid. Fix them under Bridges → Custom….";
-        QTest::newRow("empty") << "custom" << "" << "Add at least one bridge under Bridges → Custom….";
-        QTest::newRow("no built-in ones") << "snowflake" << "" << "Built-in Snowflake bridges come from Tor Browser. Click Download next to Bridges, install Tor Browser, or paste your own under Bridges → Custom….";
+        QTest::newRow("invalid")
+            << "custom"
+            << "192.0.2.1:1\nexample.org:1"
+            << "Some custom bridge lines aren't valid. Fix them under Bridges → Custom….";
+        QTest::newRow("empty") << "custom"
+                               << ""
+                               << "Add at least one bridge under Bridges → Custom….";
+        QTest::newRow("no built-in ones")
+            << "snowflake"
+            << ""
+            << "Built-in Snowflake bridges come from Tor Browser. Click Download next to Bridges, install Tor Browser, or paste your own under Bridges → Custom….";
     }
 
     void aBadSelectionHasNoLines()
@@ -297,7 +336,8 @@ private Q_SLOTS:
         Stage stage{found(QStringLiteral("l"))};
         stage.transports.builtin = {{QStringLiteral("snowflake"), {snowflake}}};
         const BridgePlan plan = planned({BridgeChoice::snowflake, QString(), false}, stage);
-        QVERIFY(plan.arguments.error().description().english().startsWith(QStringLiteral("Snowflake needs snowflake-client")));
+        QVERIFY(plan.arguments.error().description().english().startsWith(
+            QStringLiteral("Snowflake needs snowflake-client")));
         QCOMPARE(*plan.lines, QStringList{snowflake});
         QCOMPARE(*plan.transports, stage.transports);
     }

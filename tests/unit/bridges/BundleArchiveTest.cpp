@@ -20,42 +20,55 @@ private Q_SLOTS:
         const QByteArray link = "lrwxrwxrwx 0/0 0 1970-01-01 00:00 ";
         QTest::newRow("files and folders")
             << QByteArray("tor/\ntor/lyrebird\n")
-            << QByteArray("drwxr-xr-x 0/0 0 1970-01-01 00:00 tor/\n") + file + "tor/lyrebird\n" << "";
+            << QByteArray("drwxr-xr-x 0/0 0 1970-01-01 00:00 tor/\n") + file + "tor/lyrebird\n"
+            << "";
         QTest::newRow("as a Mac lists them")
-            << QByteArray("./tor/x y\n") << QByteArray("-rw-r--r--  0 0  0   12 Jan  1  1970 ./tor/x y\n") << "";
+            << QByteArray("./tor/x y\n")
+            << QByteArray("-rw-r--r--  0 0  0   12 Jan  1  1970 ./tor/x y\n") << "";
         QTest::newRow("a link to a neighbour")
-            << QByteArray("lib.so\n") << link + "lib.so -> lib.so.1\n" << "";
+            << QByteArray("lib.so\n") << link + "lib.so -> lib.so.1\n"
+            << "";
         QTest::newRow("a link with an arrow in its name")
-            << QByteArray("a -> b\n") << link + "a -> b -> ../x\n" << "The archive holds a link that leads elsewhere: a -> b";
-        QTest::newRow("an absolute path") << QByteArray("/etc/x\n") << file + "/etc/x\n"
-                                          << "The archive holds a path that leads elsewhere: /etc/x";
+            << QByteArray("a -> b\n") << link + "a -> b -> ../x\n"
+            << "The archive holds a link that leads elsewhere: a -> b";
+        QTest::newRow("an absolute path")
+            << QByteArray("/etc/x\n") << file + "/etc/x\n"
+            << "The archive holds a path that leads elsewhere: /etc/x";
         QTest::newRow("a path upwards") << QByteArray("a/../../x\n") << file + "a/../../x\n"
                                         << "The archive holds a path that leads elsewhere";
-        QTest::newRow("dots in a name") << QByteArray("a..b/..c\n") << file + "a..b/..c\n" << "";
+        QTest::newRow("dots in a name") << QByteArray("a..b/..c\n") << file + "a..b/..c\n"
+                                        << "";
         QTest::newRow("an absolute link") << QByteArray("a\n") << link + "a -> /etc\n"
                                           << "The archive holds a link that leads elsewhere";
         QTest::newRow("a link upwards") << QByteArray("a\n") << link + "a -> b/../..\n"
                                         << "The archive holds a link that leads elsewhere";
         QTest::newRow("a link to nothing") << QByteArray("a\n") << link + "a -> \n"
                                            << "The archive holds a link that leads elsewhere";
-        QTest::newRow("a hard link") << QByteArray("a\n") << QByteArray("hrw-r--r-- 0/0 0 1970-01-01 00:00 a link to b\n")
-                                     << "The archive holds a hard link";
-        QTest::newRow("a Mac's hard link") << QByteArray("a\n") << QByteArray("-rw-r--r--  0 0  0  0 Jan  1  1970 a link to b\n")
-                                           << "The archive holds a hard link";
-        QTest::newRow("a device") << QByteArray("a\n") << QByteArray("crw-r--r-- 0/0 1,3 1970-01-01 00:00 a\n")
+        QTest::newRow("a hard link")
+            << QByteArray("a\n") << QByteArray("hrw-r--r-- 0/0 0 1970-01-01 00:00 a link to b\n")
+            << "The archive holds a hard link";
+        QTest::newRow("a Mac's hard link")
+            << QByteArray("a\n") << QByteArray("-rw-r--r--  0 0  0  0 Jan  1  1970 a link to b\n")
+            << "The archive holds a hard link";
+        QTest::newRow("a device") << QByteArray("a\n")
+                                  << QByteArray("crw-r--r-- 0/0 1,3 1970-01-01 00:00 a\n")
                                   << "The archive holds what is neither file nor folder";
-        QTest::newRow("a pipe") << QByteArray("a\n") << QByteArray("prw-r--r-- 0/0 0 1970-01-01 00:00 a\n")
+        QTest::newRow("a pipe") << QByteArray("a\n")
+                                << QByteArray("prw-r--r-- 0/0 0 1970-01-01 00:00 a\n")
                                 << "The archive holds what is neither file nor folder";
         QTest::newRow("too large") << QByteArray("a\nb\n")
                                    << QByteArray("-rw-r--r-- 0/0 1999999999 1970-01-01 00:00 a\n"
                                                  "-rw-r--r-- 0/0 2 1970-01-01 00:00 b\n")
                                    << "The archive's content is too large.";
-        QTest::newRow("no size") << QByteArray("a\n") << QByteArray("-rw-r--r-- a\n") << "The archive's content is too large.";
+        QTest::newRow("no size") << QByteArray("a\n") << QByteArray("-rw-r--r-- a\n")
+                                 << "The archive's content is too large.";
         QTest::newRow("lists that differ") << QByteArray("a\n") << file + "a\n" + file + "b\n"
                                            << "The archive's list of files is not clear.";
-        QTest::newRow("too many") << QByteArray("a\n").repeated(20'001) << (file + "a\n").repeated(20'001)
+        QTest::newRow("too many") << QByteArray("a\n").repeated(20'001)
+                                  << (file + "a\n").repeated(20'001)
                                   << "The archive holds too many files.";
-        QTest::newRow("nothing") << QByteArray() << QByteArray() << "The archive is empty or no archive.";
+        QTest::newRow("nothing") << QByteArray() << QByteArray()
+                                 << "The archive is empty or no archive.";
     }
 
     void judgesAListing()
@@ -77,9 +90,11 @@ private Q_SLOTS:
         const QByteArray text = QFile::encodeName(tree.file(QStringLiteral("tor/readme"), "text"));
         QCOMPARE(::chmod(program.constData(), 06777), 0); // would run as whoever owns it
         QCOMPARE(::chmod(text.constData(), 0606), 0);
-        QCOMPARE(::symlink("lyrebird", QFile::encodeName(tree.path(QStringLiteral("tor/link"))).constData()), 0);
+        QCOMPARE(::symlink("lyrebird",
+                           QFile::encodeName(tree.path(QStringLiteral("tor/link"))).constData()),
+                 0);
         QCOMPARE(settleUnpacked(tree.root()).value_or(QString()), QString());
-        struct stat status {};
+        struct stat status { };
         ::stat(program.constData(), &status);
         QCOMPARE(status.st_mode & 07777U, 0755U);
         ::stat(text.constData(), &status);

@@ -25,7 +25,8 @@ public:
     {
         gpg({QStringLiteral("--quick-gen-key"), name + QStringLiteral(" <key@example.org>"),
              QStringLiteral("ed25519"), QStringLiteral("sign"), QStringLiteral("never")});
-        for (const QByteArray &line : gpg({QStringLiteral("--with-colons"), QStringLiteral("--fingerprint")}).split('\n')) {
+        for (const QByteArray &line :
+             gpg({QStringLiteral("--with-colons"), QStringLiteral("--fingerprint")}).split('\n')) {
             if (line.startsWith("fpr:") && m_fingerprint.isEmpty())
                 m_fingerprint = QString::fromLatin1(line.split(':').at(9));
         }
@@ -33,21 +34,28 @@ public:
     ~SigningKey()
     {
         output(QStringLiteral("/usr/bin/gpgconf"),
-               {QStringLiteral("--homedir"), m_home.path(), QStringLiteral("--kill"), QStringLiteral("all")});
+               {QStringLiteral("--homedir"), m_home.path(), QStringLiteral("--kill"),
+                QStringLiteral("all")});
     }
 
     QString fingerprint() const { return m_fingerprint; }
-    QByteArray publicKey() const { return gpg({QStringLiteral("--armor"), QStringLiteral("--export")}); }
+    QByteArray publicKey() const
+    {
+        return gpg({QStringLiteral("--armor"), QStringLiteral("--export")});
+    }
     // `how`: --detach-sign, --sign or --clearsign.
-    QByteArray sign(const QByteArray &content, const QString &how = QStringLiteral("--detach-sign")) const
+    QByteArray sign(const QByteArray &content,
+                    const QString &how = QStringLiteral("--detach-sign")) const
     {
         const QString file = m_files.file(QStringLiteral("content"), content);
-        return gpg({QStringLiteral("--armor"), how, QStringLiteral("--output"), QStringLiteral("-"), file});
+        return gpg({QStringLiteral("--armor"), how, QStringLiteral("--output"), QStringLiteral("-"),
+                    file});
     }
     // From now on publicKey() says that the key is revoked.
     void revoke() const
     {
-        const QString certificate = QStringLiteral("%1/openpgp-revocs.d/%2.rev").arg(m_home.path(), m_fingerprint);
+        const QString certificate
+            = QStringLiteral("%1/openpgp-revocs.d/%2.rev").arg(m_home.path(), m_fingerprint);
         QByteArray text = m_files.content(certificate);
         text.replace(":-----BEGIN", "-----BEGIN");
         gpg({QStringLiteral("--import"), m_files.file(QStringLiteral("revocation"), text)});
@@ -57,8 +65,9 @@ private:
     QByteArray gpg(const QStringList &arguments) const
     {
         return output(QStringLiteral("/usr/bin/gpg"),
-                      QStringList{QStringLiteral("--homedir"), m_home.path(), QStringLiteral("--batch"),
-                                  QStringLiteral("--quiet"), QStringLiteral("--passphrase"), QString(),
+                      QStringList{QStringLiteral("--homedir"), m_home.path(),
+                                  QStringLiteral("--batch"), QStringLiteral("--quiet"),
+                                  QStringLiteral("--passphrase"), QString(),
                                   QStringLiteral("--pinentry-mode"), QStringLiteral("loopback")}
                           + arguments);
     }
@@ -70,12 +79,14 @@ private:
 
 // The archive of a bundle whose lyrebird prints `mark`. `padding`: bytes that do not compress.
 // version: what the archive says itself that it is; empty, as the real one: nothing.
-inline QByteArray bundleArchive(const QByteArray &mark, qsizetype padding = 0, const QByteArray &version = {})
+inline QByteArray bundleArchive(const QByteArray &mark, qsizetype padding = 0,
+                                const QByteArray &version = {})
 {
     const ProgramTree tree;
     if (!version.isEmpty())
         tree.file(QStringLiteral("b/VERSION"), version);
-    tree.program(QStringLiteral("b/tor/pluggable_transports/lyrebird"), "#!/bin/sh\necho " + mark + '\n');
+    tree.program(QStringLiteral("b/tor/pluggable_transports/lyrebird"),
+                 "#!/bin/sh\necho " + mark + '\n');
     tree.file(QStringLiteral("b/tor/pluggable_transports/pt_config.json"),
               "{\"bridges\": {\"obfs4\": [\"obfs4 192.0.2.3:80 cert=A iat-mode=0\"]}}");
     QByteArray noise(padding, Qt::Uninitialized);
@@ -85,8 +96,9 @@ inline QByteArray bundleArchive(const QByteArray &mark, qsizetype padding = 0, c
         byte = static_cast<char>(state >> 24);
     }
     tree.file(QStringLiteral("b/data/geoip"), noise);
-    output(QStringLiteral("/usr/bin/tar"), {QStringLiteral("-czf"), tree.path(QStringLiteral("a.tar.gz")),
-                                            QStringLiteral("-C"), tree.path(QStringLiteral("b")), QStringLiteral(".")});
+    output(QStringLiteral("/usr/bin/tar"),
+           {QStringLiteral("-czf"), tree.path(QStringLiteral("a.tar.gz")), QStringLiteral("-C"),
+            tree.path(QStringLiteral("b")), QStringLiteral(".")});
     return tree.content(QStringLiteral("a.tar.gz"));
 }
 

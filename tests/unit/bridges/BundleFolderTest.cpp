@@ -20,10 +20,11 @@ bool noExchange(const QString &, const QString &)
 class BundleFolderTest : public QObject {
     Q_OBJECT
 
-    static std::shared_ptr<BundleFolder> claim(const ProgramTree &tree,
-                                               BundleFolder::Exchange exchange = &BundleFolder::exchange)
+    static std::shared_ptr<BundleFolder> claim(
+        const ProgramTree &tree, BundleFolder::Exchange exchange = &BundleFolder::exchange)
     {
-        auto claimed = BundleFolder::claim(tree.path(QStringLiteral("data/Bundle")), std::move(exchange));
+        auto claimed = BundleFolder::claim(tree.path(QStringLiteral("data/Bundle")),
+                                           std::move(exchange));
         return claimed ? *claimed : nullptr;
     }
 
@@ -56,7 +57,8 @@ private Q_SLOTS:
         const BundleRecord record = BundleRecord::read(tree.path(QStringLiteral("data/Bundle")));
         QCOMPARE(record.version, std::optional(QStringLiteral("2.0")));
         QCOMPARE(record.verification, std::optional(QStringLiteral("signature")));
-        QCOMPARE(everything(tree), QStringList({QStringLiteral(".Bundle.lock"), QStringLiteral("Bundle")}));
+        QCOMPARE(everything(tree),
+                 QStringList({QStringLiteral(".Bundle.lock"), QStringLiteral("Bundle")}));
     }
 
     void theRecordIsNeverWrittenThroughALink()
@@ -70,7 +72,8 @@ private Q_SLOTS:
         QVERIFY(folder->publish(QStringLiteral("1.0"), false));
         QCOMPARE(tree.content(other), QByteArray("mine"));
         QCOMPARE(tree.content(QStringLiteral("data/Bundle/VERSION")).trimmed(), QByteArray("1.0"));
-        QCOMPARE(tree.content(QStringLiteral("data/Bundle/VERIFIED")).trimmed(), QByteArray("https"));
+        QCOMPARE(tree.content(QStringLiteral("data/Bundle/VERIFIED")).trimmed(),
+                 QByteArray("https"));
     }
 
     void onlyOneHoldsTheRight()
@@ -92,7 +95,8 @@ private Q_SLOTS:
         tree.file(QStringLiteral("data/.Bundle.new-abcdef/VERSION"), "2.0");
         QVERIFY(claim(tree));
         QCOMPARE(tree.content(QStringLiteral("data/Bundle/VERSION")), QByteArray("1.0"));
-        QCOMPARE(everything(tree), QStringList({QStringLiteral(".Bundle.lock"), QStringLiteral("Bundle")}));
+        QCOMPARE(everything(tree),
+                 QStringList({QStringLiteral(".Bundle.lock"), QStringLiteral("Bundle")}));
     }
 
     void removesWhatWasLeftBesideAWholeBundle()
@@ -103,7 +107,8 @@ private Q_SLOTS:
         tree.file(QStringLiteral("data/.Bundle.new-abcdef/x"), "half");
         QVERIFY(claim(tree));
         QCOMPARE(tree.content(QStringLiteral("data/Bundle/VERSION")), QByteArray("2.0"));
-        QCOMPARE(everything(tree), QStringList({QStringLiteral(".Bundle.lock"), QStringLiteral("Bundle")}));
+        QCOMPARE(everything(tree),
+                 QStringList({QStringLiteral(".Bundle.lock"), QStringLiteral("Bundle")}));
     }
 
     void remembersATemporaryFolderForTheNextHolder()
@@ -121,7 +126,8 @@ private Q_SLOTS:
         const ProgramTree tree;
         tree.file(QStringLiteral("elsewhere/keep"), "keep");
         QVERIFY(QDir().mkpath(tree.path(QStringLiteral("data"))));
-        QVERIFY(QFile::link(tree.path(QStringLiteral("elsewhere")), tree.path(QStringLiteral("data/Bundle"))));
+        QVERIFY(QFile::link(tree.path(QStringLiteral("elsewhere")),
+                            tree.path(QStringLiteral("data/Bundle"))));
         const auto folder = claim(tree);
         const auto fresh = folder->fresh();
         tree.file(*fresh + QStringLiteral("/content"), "new");
@@ -135,9 +141,12 @@ private Q_SLOTS:
         const ProgramTree tree;
         tree.file(QStringLiteral("keep/file"), "keep");
         tree.file(QStringLiteral("gone/a/b/.hidden"), "x");
-        QVERIFY(QFile::link(tree.path(QStringLiteral("keep")), tree.path(QStringLiteral("gone/a/link"))));
-        QCOMPARE(::chmod(QFile::encodeName(tree.path(QStringLiteral("gone/a/b"))).constData(), 0), 0);
-        QCOMPARE(::chmod(QFile::encodeName(tree.path(QStringLiteral("gone/a"))).constData(), 0500), 0);
+        QVERIFY(QFile::link(tree.path(QStringLiteral("keep")),
+                            tree.path(QStringLiteral("gone/a/link"))));
+        QCOMPARE(::chmod(QFile::encodeName(tree.path(QStringLiteral("gone/a/b"))).constData(), 0),
+                 0);
+        QCOMPARE(::chmod(QFile::encodeName(tree.path(QStringLiteral("gone/a"))).constData(), 0500),
+                 0);
         removeTree(tree.path(QStringLiteral("gone")));
         QVERIFY(!QFileInfo::exists(tree.path(QStringLiteral("gone"))));
         QCOMPARE(tree.content(QStringLiteral("keep/file")), QByteArray("keep"));
@@ -150,7 +159,8 @@ private Q_SLOTS:
         tree.file(QStringLiteral("data"), "a file where a folder should be");
         const auto claimed = BundleFolder::claim(tree.path(QStringLiteral("data/Bundle")));
         QVERIFY(!claimed);
-        QVERIFY2(claimed.error().english().startsWith(QStringLiteral("Couldn't make the folder ")), qPrintable(claimed.error().english()));
+        QVERIFY2(claimed.error().english().startsWith(QStringLiteral("Couldn't make the folder ")),
+                 qPrintable(claimed.error().english()));
     }
 
     void theOldBundleStaysWhenTheNewOneCannotTakeItsPlace()
@@ -165,9 +175,11 @@ private Q_SLOTS:
         QVERIFY(folder->fresh());
         const auto published = folder->publish(QStringLiteral("2.0"), true);
         QVERIFY(!published);
-        QVERIFY2(published.error().english().startsWith(QStringLiteral("Couldn't write ")), qPrintable(published.error().english()));
+        QVERIFY2(published.error().english().startsWith(QStringLiteral("Couldn't write ")),
+                 qPrintable(published.error().english()));
         QCOMPARE(tree.content(QStringLiteral("data/Bundle/content")), QByteArray("old"));
-        QCOMPARE(everything(tree), QStringList({QStringLiteral(".Bundle.lock"), QStringLiteral("Bundle")}));
+        QCOMPARE(everything(tree),
+                 QStringList({QStringLiteral(".Bundle.lock"), QStringLiteral("Bundle")}));
     }
 };
 

@@ -15,7 +15,8 @@ namespace veldmark {
 
 inline const QByteArray indexPath = "/index.json";
 inline const QByteArray keyPath = "/key";
-inline const QByteArray archivePath = "/torbrowser/14.0.4/tor-expert-bundle-linux-x86_64-14.0.4.tar.gz";
+inline const QByteArray archivePath
+    = "/torbrowser/14.0.4/tor-expert-bundle-linux-x86_64-14.0.4.tar.gz";
 
 inline QCoro::Task<void> keep(QCoro::Task<TransportDownloader::Outcome> task,
                               std::shared_ptr<std::optional<TransportDownloader::Outcome>> kept)
@@ -44,8 +45,9 @@ inline QStringList agents()
     return found;
 }
 
-// A downloader with a server, a signing key and a system of its own: what the tests of TransportDownloader are made of. They look
-// at all of /tmp and of the running processes for what a download has left, so only one of them runs at a time.
+// A downloader with a server, a signing key and a system of its own: what the tests of
+// TransportDownloader are made of. They look at all of /tmp and of the running processes for what a
+// download has left, so only one of them runs at a time.
 class DownloadBench {
 protected:
     using Outcome = TransportDownloader::Outcome;
@@ -78,7 +80,8 @@ protected:
         m_answers.clear();
         m_service->respond = [this](QSslSocket *socket) {
             const QByteArray path = m_service->requests.last().split(' ').value(1);
-            const auto answer = m_answers.value(path, CheckService::answer("404 Not Found", "no such page"));
+            const auto answer = m_answers.value(
+                path, CheckService::answer("404 Not Found", "no such page"));
             answer(socket);
         };
         serveIndex("14.0.4");
@@ -119,7 +122,10 @@ protected:
         m_answers[path] = CheckService::answer(status, body);
     }
 
-    void serveIndex(const QByteArray &version) { serve(indexPath, "{\"version\": \"" + version + "\"}"); }
+    void serveIndex(const QByteArray &version)
+    {
+        serve(indexPath, "{\"version\": \"" + version + "\"}");
+    }
 
     void serveArchive(const QByteArray &archive)
     {
@@ -130,8 +136,12 @@ protected:
     DownloadSource source(const QString &host = QStringLiteral("localhost"), quint16 socksPort = 1)
     {
         const QString server = QStringLiteral("https://%1:%2").arg(host).arg(m_service->port());
-        return {QUrl(server + QString::fromLatin1(indexPath)), QUrl(server + QStringLiteral("/torbrowser/")),
-                QUrl(server + QString::fromLatin1(keyPath)), m_key->fingerprint(), socksPort, m_certificates->client()};
+        return {QUrl(server + QString::fromLatin1(indexPath)),
+                QUrl(server + QStringLiteral("/torbrowser/")),
+                QUrl(server + QString::fromLatin1(keyPath)),
+                m_key->fingerprint(),
+                socksPort,
+                m_certificates->client()};
     }
 
     void makeDownloader(const DownloadSource &from)
@@ -143,7 +153,9 @@ protected:
     {
         m_progress.clear();
         const auto kept = std::make_shared<std::optional<Outcome>>();
-        const TransportDownloader::Progress progress = [this](const Text &text) { m_progress << text.english(); };
+        const TransportDownloader::Progress progress = [this](const Text &text) {
+            m_progress << text.english();
+        };
         keep(m_downloader->install(throughTor, progress), kept);
         return kept;
     }
@@ -159,7 +171,8 @@ protected:
     QString failure(bool throughTor = false)
     {
         const Outcome outcome = install(throughTor);
-        return outcome ? QStringLiteral("It was installed.") : outcome.error().description().english();
+        return outcome ? QStringLiteral("It was installed.")
+                       : outcome.error().description().english();
     }
 
     QByteArray installed(const char *name) const
@@ -169,7 +182,8 @@ protected:
 
     QByteArray mark() const
     {
-        const QString program = m_profile->bundleDirectory + QStringLiteral("/tor/pluggable_transports/lyrebird");
+        const QString program = m_profile->bundleDirectory
+            + QStringLiteral("/tor/pluggable_transports/lyrebird");
         return QFileInfo::exists(program) ? output(program, {}).trimmed() : QByteArray();
     }
 
@@ -183,7 +197,8 @@ protected:
 
     void putBundle()
     {
-        m_tree->program(m_profile->bundleDirectory + QStringLiteral("/tor/pluggable_transports/lyrebird"),
+        m_tree->program(m_profile->bundleDirectory
+                            + QStringLiteral("/tor/pluggable_transports/lyrebird"),
                         "#!/bin/sh\necho former\n");
         m_tree->file(m_profile->bundleDirectory + QStringLiteral("/VERSION"), "13.5\n");
     }

@@ -12,20 +12,24 @@ InterruptibleApplication *application = nullptr;
 
 } // namespace
 
-// TransportDownloader: how it ends before it is done, at any moment, with the programs that it has started.
+// TransportDownloader: how it ends before it is done, at any moment, with the programs that it has
+// started.
 class DownloadEndTest : public QObject, DownloadBench {
     Q_OBJECT
 
-    // Puts a script in the program's place: it runs the real one, but hangs, with a child of its own, when its words
-    // hold `word`. Gives the file in which the process ids of the two then stand.
+    // Puts a script in the program's place: it runs the real one, but hangs, with a child of its
+    // own, when its words hold `word`. Gives the file in which the process ids of the two then
+    // stand.
     QString makeHang(const char *program, const char *word)
     {
         const QString name = QStringLiteral("usr/bin/") + QLatin1String(program);
         const QString pids = m_tree->path(QStringLiteral("hanging"));
         QFile::remove(m_tree->path(name));
-        m_tree->program(name, "#!/bin/sh\ncase \" $* \" in *' " + QByteArray(word) + " '*)\n  sleep 600 &\n  echo $$ $! >"
-                                  + pids.toUtf8() + ".new; mv " + pids.toUtf8() + ".new " + pids.toUtf8()
-                                  + "\n  wait ;;\nesac\nexec /usr/bin/" + program + " \"$@\"\n");
+        m_tree->program(name,
+                        "#!/bin/sh\ncase \" $* \" in *' " + QByteArray(word)
+                            + " '*)\n  sleep 600 &\n  echo $$ $! >" + pids.toUtf8() + ".new; mv "
+                            + pids.toUtf8() + ".new " + pids.toUtf8()
+                            + "\n  wait ;;\nesac\nexec /usr/bin/" + program + " \"$@\"\n");
         return pids;
     }
 
@@ -35,7 +39,8 @@ class DownloadEndTest : public QObject, DownloadBench {
         if (!stat.open(QIODevice::ReadOnly))
             return true;
         const QByteArray line = stat.readAll();
-        return line.mid(line.lastIndexOf(')') + 2, 1) == "Z"; // nobody waits for orphans where there is no init
+        // nobody waits for orphans where there is no init
+        return line.mid(line.lastIndexOf(')') + 2, 1) == "Z";
     }
 
 private Q_SLOTS:
@@ -65,14 +70,17 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("word");
         QTest::addColumn<int>("minutes");
         QTest::addColumn<QString>("message");
-        const QString signature = QStringLiteral("The download's signature didn't verify, so it was discarded. ");
+        const QString signature = QStringLiteral(
+            "The download's signature didn't verify, so it was discarded. ");
         QTest::newRow("import") << QByteArray("gpg") << QByteArray("--import") << 2
-                                << signature + QStringLiteral("Couldn't load the Tor Browser signing key. "
-                                                              "gpg didn't end within 2 minutes.");
+                                << signature
+                + QStringLiteral("Couldn't load the Tor Browser signing key. "
+                                 "gpg didn't end within 2 minutes.");
         QTest::newRow("verify") << QByteArray("gpg") << QByteArray("--verify") << 2
                                 << signature + QStringLiteral("gpg didn't end within 2 minutes.");
-        QTest::newRow("unpack") << QByteArray("tar") << QByteArray("-xzf") << 10
-                                << QStringLiteral("Couldn't unpack the download. tar didn't end within 10 minutes.");
+        QTest::newRow("unpack")
+            << QByteArray("tar") << QByteArray("-xzf") << 10
+            << QStringLiteral("Couldn't unpack the download. tar didn't end within 10 minutes.");
     }
 
     void givesUpOnAProgramThatHangs()
@@ -85,7 +93,8 @@ private Q_SLOTS:
         const QString file = makeHang(program.constData(), word.constData());
         const auto kept = begin();
         QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(file), 30'000);
-        const QByteArrayList processes = m_tree->content(QStringLiteral("hanging")).simplified().split(' ');
+        const QByteArrayList processes
+            = m_tree->content(QStringLiteral("hanging")).simplified().split(' ');
         m_clock->advance(std::chrono::minutes(minutes) - 1s);
         QCoreApplication::processEvents();
         QVERIFY(!kept->has_value() && !hasEnded(processes.at(0)) && !hasEnded(processes.at(1)));
@@ -106,7 +115,8 @@ private Q_SLOTS:
         const QString file = makeHang("tar", "-xzf");
         const auto kept = begin();
         QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(file), 30'000);
-        const QByteArrayList processes = m_tree->content(QStringLiteral("hanging")).simplified().split(' ');
+        const QByteArrayList processes
+            = m_tree->content(QStringLiteral("hanging")).simplified().split(' ');
         m_downloader->cancel();
         QTRY_VERIFY(kept->has_value());
         QCOMPARE((*kept)->error().description(), QStringLiteral("Cancelled."));
@@ -116,14 +126,18 @@ private Q_SLOTS:
 
     void nothingIsStartedOnceTheRunnerIsAboutToGo()
     {
-        const auto tools = std::make_shared<BundleTools>(QStringLiteral("/usr/bin/true"), QString(), m_runner.get(), *m_clock);
-        auto first = BundleTools::unpack(tools, QStringLiteral("/archive"), QStringLiteral("/folder"));
+        const auto tools = std::make_shared<BundleTools>(QStringLiteral("/usr/bin/true"), QString(),
+                                                         m_runner.get(), *m_clock);
+        auto first = BundleTools::unpack(tools, QStringLiteral("/archive"),
+                                         QStringLiteral("/folder"));
         QVERIFY(QCoro::waitFor(std::move(first)));
         tools->forget();
-        auto second = BundleTools::unpack(tools, QStringLiteral("/archive"), QStringLiteral("/folder"));
+        auto second = BundleTools::unpack(tools, QStringLiteral("/archive"),
+                                          QStringLiteral("/folder"));
         const auto ended = QCoro::waitFor(std::move(second));
         QVERIFY(!ended);
-        QCOMPARE(ended.error().description(), QStringLiteral("Couldn't unpack the download. Cancelled."));
+        QCOMPARE(ended.error().description(),
+                 QStringLiteral("Couldn't unpack the download. Cancelled."));
     }
 
     void mayBeDestroyedWhileAProgramRuns()
@@ -131,7 +145,8 @@ private Q_SLOTS:
         const QString file = makeHang("gpg", "--import");
         const auto kept = begin();
         QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(file), 30'000);
-        const QByteArrayList processes = m_tree->content(QStringLiteral("hanging")).simplified().split(' ');
+        const QByteArrayList processes
+            = m_tree->content(QStringLiteral("hanging")).simplified().split(' ');
         m_downloader.reset();
         QTRY_VERIFY(kept->has_value());
         QCOMPARE((*kept)->error().description(), QStringLiteral("Cancelled."));
@@ -148,17 +163,19 @@ private Q_SLOTS:
         QCOMPARE((*kept)->error().description(), QStringLiteral("Cancelled."));
     }
 
-    // Right after it was resumed, for each of its waits: the former bundle stands there or the new one, and nothing is left.
+    // Right after it was resumed, for each of its waits: the former bundle stands there or the new
+    // one, and nothing is left.
     void mayBeDestroyedAtEveryWait()
     {
         for (int wait = 1;; ++wait) {
             putBundle();
             makeDownloader(source());
             bool destroyed = false;
-            application->interrupt(wait, InterruptibleApplication::Moment::after, [this, &destroyed] {
-                destroyed = true;
-                m_downloader.reset();
-            });
+            application->interrupt(wait, InterruptibleApplication::Moment::after,
+                                   [this, &destroyed] {
+                                       destroyed = true;
+                                       m_downloader.reset();
+                                   });
             const auto kept = begin();
             QTRY_VERIFY_WITH_TIMEOUT(kept->has_value(), 30'000);
             application->leaveAlone();
@@ -180,6 +197,7 @@ static int runDownloadEndTest(int argc, char **argv)
     DownloadEndTest test;
     return QTest::qExec(&test, argc, argv);
 }
-static const veldmark::test::Registration registeredDownloadEndTest("DownloadEndTest", runDownloadEndTest);
+static const veldmark::test::Registration registeredDownloadEndTest("DownloadEndTest",
+                                                                    runDownloadEndTest);
 
 #include "DownloadEndTest.moc"

@@ -19,13 +19,20 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("path");
         QTest::addColumn<QByteArray>("status");
         QTest::addColumn<QString>("message");
-        QTest::newRow("archive") << archivePath << QByteArray("404 Not Found") << "Download of the bridge programs failed (HTTP 404).";
-        QTest::newRow("archive busy") << archivePath << QByteArray("503 Busy") << "Download of the bridge programs failed (HTTP 503).";
-        QTest::newRow("index") << indexPath << QByteArray("503 Busy") << "Download of the version index failed (HTTP 503).";
-        QTest::newRow("signature") << archivePath + ".asc" << QByteArray("404 Not Found") << "Download of signature failed (HTTP 404).";
-        QTest::newRow("key") << keyPath << QByteArray("404 Not Found") << "Download of signing key failed (HTTP 404).";
-        QTest::newRow("a part") << archivePath << QByteArray("206 Partial") << "Download of the bridge programs failed (HTTP 206).";
-        QTest::newRow("nothing to send") << archivePath << QByteArray("204 Empty") << "Download of the bridge programs failed (HTTP 204).";
+        QTest::newRow("archive") << archivePath << QByteArray("404 Not Found")
+                                 << "Download of the bridge programs failed (HTTP 404).";
+        QTest::newRow("archive busy") << archivePath << QByteArray("503 Busy")
+                                      << "Download of the bridge programs failed (HTTP 503).";
+        QTest::newRow("index") << indexPath << QByteArray("503 Busy")
+                               << "Download of the version index failed (HTTP 503).";
+        QTest::newRow("signature") << archivePath + ".asc" << QByteArray("404 Not Found")
+                                   << "Download of signature failed (HTTP 404).";
+        QTest::newRow("key") << keyPath << QByteArray("404 Not Found")
+                             << "Download of signing key failed (HTTP 404).";
+        QTest::newRow("a part") << archivePath << QByteArray("206 Partial")
+                                << "Download of the bridge programs failed (HTTP 206).";
+        QTest::newRow("nothing to send") << archivePath << QByteArray("204 Empty")
+                                         << "Download of the bridge programs failed (HTTP 204).";
     }
 
     void namesTheItemAndTheStatus()
@@ -55,7 +62,8 @@ private Q_SLOTS:
         QVERIFY(plain.listen(QHostAddress::LocalHost));
         const auto redirect = [this](const QString &target) {
             m_answers[archivePath] = [target](QSslSocket *socket) {
-                socket->write("HTTP/1.1 302 Found\r\nLocation: " + target.toLatin1() + "\r\nContent-Length: 0\r\n\r\n");
+                socket->write("HTTP/1.1 302 Found\r\nLocation: " + target.toLatin1()
+                              + "\r\nContent-Length: 0\r\n\r\n");
             };
         };
         serve("/moved", m_archive);
@@ -64,8 +72,11 @@ private Q_SLOTS:
         redirect(QStringLiteral("http://localhost:%1/moved").arg(plain.serverPort()));
         QCOMPARE(failure(), QStringLiteral("Download of the bridge programs failed (HTTP 302)."));
         QVERIFY(!plain.hasPendingConnections());
-        redirect(QStringLiteral("https://localhost:%1%2").arg(m_service->port()).arg(QString::fromLatin1(archivePath)));
-        QCOMPARE(failure(), QStringLiteral("Download of the bridge programs failed (HTTP 302).")); // in a circle
+        redirect(QStringLiteral("https://localhost:%1%2")
+                     .arg(m_service->port())
+                     .arg(QString::fromLatin1(archivePath)));
+        // in a circle
+        QCOMPARE(failure(), QStringLiteral("Download of the bridge programs failed (HTTP 302)."));
         redirect(QStringLiteral("file:///etc/passwd"));
         QCOMPARE(failure(), QStringLiteral("Download of the bridge programs failed (HTTP 302)."));
     }
@@ -84,10 +95,12 @@ private Q_SLOTS:
     {
         putBundle();
         m_answers[archivePath] = [this](QSslSocket *socket) {
-            socket->write("HTTP/1.1 200 OK\r\nContent-Length: 1000000\r\n\r\n" + m_archive.first(300'000));
+            socket->write("HTTP/1.1 200 OK\r\nContent-Length: 1000000\r\n\r\n"
+                          + m_archive.first(300'000));
         };
         const auto kept = begin();
-        QTRY_VERIFY_WITH_TIMEOUT(m_progress.last().contains(QStringLiteral("0.3 of 1.0 MB (30%)")), 10'000);
+        QTRY_VERIFY_WITH_TIMEOUT(m_progress.last().contains(QStringLiteral("0.3 of 1.0 MB (30%)")),
+                                 10'000);
         m_clock->advance(59s);
         QVERIFY(!kept->has_value());
         m_clock->advance(1s);
@@ -119,7 +132,8 @@ private Q_SLOTS:
     void noticesThatTheEndIsMissing()
     {
         m_answers[archivePath] = [this](QSslSocket *socket) {
-            socket->write("HTTP/1.1 200 OK\r\nContent-Length: 1000000\r\n\r\n" + m_archive.first(500'000));
+            socket->write("HTTP/1.1 200 OK\r\nContent-Length: 1000000\r\n\r\n"
+                          + m_archive.first(500'000));
             socket->disconnectFromHost();
         };
         const Outcome outcome = install();
@@ -133,9 +147,11 @@ private Q_SLOTS:
         m_answers[archivePath] = [](QSslSocket *socket) {
             socket->write("HTTP/1.1 200 OK\r\nContent-Length: 99999999999\r\n\r\nx");
         };
-        QCOMPARE(failure(), QStringLiteral("The server sent more than the bridge programs can be."));
+        QCOMPARE(failure(),
+                 QStringLiteral("The server sent more than the bridge programs can be."));
         serve(archivePath, m_archive);
-        m_answers[archivePath + ".asc"] = [](QSslSocket *socket) { // without saying how much it will be
+        // without saying how much it will be
+        m_answers[archivePath + ".asc"] = [](QSslSocket *socket) {
             socket->write("HTTP/1.1 200 OK\r\n\r\n" + QByteArray(400'000, 'x'));
         };
         QCOMPARE(failure(), QStringLiteral("The server sent more than signature can be."));
@@ -146,7 +162,8 @@ private Q_SLOTS:
         SocksProxy proxy(m_service->port());
         makeDownloader(source(QStringLiteral("server.invalid"), proxy.port()));
         const Outcome outcome = install(true);
-        QVERIFY2(outcome, qPrintable(outcome ? QString() : outcome.error().description().english()));
+        QVERIFY2(outcome,
+                 qPrintable(outcome ? QString() : outcome.error().description().english()));
         QVERIFY(proxy.connections > 0);
         for (const int type : proxy.addressTypes)
             QCOMPARE(type, 3); // by name: this computer looks nothing up

@@ -33,7 +33,8 @@ private Q_SLOTS:
     void takesTheFirstGnuPG()
     {
         const QString second = m_tree->program(QStringLiteral("usr/local/bin/gpg"));
-        QCOMPARE(TransportDownloader::gpgPath(*m_profile), std::optional(m_tree->path(QStringLiteral("usr/bin/gpg"))));
+        QCOMPARE(TransportDownloader::gpgPath(*m_profile),
+                 std::optional(m_tree->path(QStringLiteral("usr/bin/gpg"))));
         QFile::remove(m_tree->path(QStringLiteral("usr/bin/gpg")));
         QCOMPARE(TransportDownloader::gpgPath(*m_profile), std::optional(second));
     }
@@ -45,15 +46,18 @@ private Q_SLOTS:
         const SigningKey other(QStringLiteral("Other"));
         const QByteArray right = m_key->publicKey();
         QTest::newRow("another key, good signature") << other.publicKey() << other.sign(m_archive);
-        QTest::newRow("both keys, signature of the other") << right + other.publicKey() << other.sign(m_archive);
+        QTest::newRow("both keys, signature of the other")
+            << right + other.publicKey() << other.sign(m_archive);
         QTest::newRow("signature of an unknown key") << right << other.sign(m_archive);
         QTest::newRow("signature of something else") << right << m_key->sign("something else");
-        QTest::newRow("signed text instead of a signature") << right << m_key->sign("text", QStringLiteral("--sign"));
-        QTest::newRow("clear-signed text") << right << m_key->sign("text", QStringLiteral("--clearsign"));
+        QTest::newRow("signed text instead of a signature")
+            << right << m_key->sign("text", QStringLiteral("--sign"));
+        QTest::newRow("clear-signed text")
+            << right << m_key->sign("text", QStringLiteral("--clearsign"));
         QTest::newRow("no signature") << right << QByteArray("nothing\n");
         QTest::newRow("an empty file") << right << QByteArray();
-        QTest::newRow("status lines") << right
-                                      << "[GNUPG:] VALIDSIG " + m_key->fingerprint().toLatin1() + '\n';
+        QTest::newRow("status lines")
+            << right << "[GNUPG:] VALIDSIG " + m_key->fingerprint().toLatin1() + '\n';
     }
 
     void refusesWhatIsNotSignedByTheExpectedKey()
@@ -66,8 +70,10 @@ private Q_SLOTS:
         const Outcome outcome = install();
         QVERIFY(!outcome);
         QCOMPARE(outcome.error().kind(), Kind::badSignature);
-        const QString prefix = QStringLiteral("The download's signature didn't verify, so it was discarded. ");
-        QVERIFY2(outcome.error().description().english().startsWith(prefix), qPrintable(outcome.error().description().english()));
+        const QString prefix = QStringLiteral(
+            "The download's signature didn't verify, so it was discarded. ");
+        QVERIFY2(outcome.error().description().english().startsWith(prefix),
+                 qPrintable(outcome.error().description().english()));
         QVERIFY(!outcome.error().description().english().contains(u'\n'));
         QCOMPARE(mark(), QByteArray("former"));
         QCOMPARE(installed("VERSION"), QByteArray("13.5"));
@@ -93,8 +99,10 @@ private Q_SLOTS:
     {
         serve(keyPath, "no key\n");
         const QString text = failure();
-        QVERIFY2(text.startsWith(QStringLiteral("The download's signature didn't verify, so it was discarded. "
-                                                "Couldn't load the Tor Browser signing key. gpg: ")), qPrintable(text));
+        QVERIFY2(text.startsWith(
+                     QStringLiteral("The download's signature didn't verify, so it was discarded. "
+                                    "Couldn't load the Tor Browser signing key. gpg: ")),
+                 qPrintable(text));
         QVERIFY(!QFileInfo::exists(m_profile->bundleDirectory));
     }
 
@@ -105,8 +113,9 @@ private Q_SLOTS:
         tree.file(QStringLiteral("b/good"), "good");
         const auto made = [&tree](const QStringList &options) {
             output(QStringLiteral("/usr/bin/tar"),
-                   QStringList{QStringLiteral("-P"), QStringLiteral("-C"), tree.path(QStringLiteral("b")),
-                               QStringLiteral("-czf"), tree.path(QStringLiteral("a.tar.gz"))}
+                   QStringList{QStringLiteral("-P"), QStringLiteral("-C"),
+                               tree.path(QStringLiteral("b")), QStringLiteral("-czf"),
+                               tree.path(QStringLiteral("a.tar.gz"))}
                        + options + QStringList{QStringLiteral("good")});
             return tree.content(QStringLiteral("a.tar.gz"));
         };
@@ -136,14 +145,18 @@ private Q_SLOTS:
         serveArchive(archive); // signed: the check comes on top
         const Outcome outcome = install();
         QVERIFY(!outcome);
-        QVERIFY2(outcome.error().description().english().startsWith(QStringLiteral("Couldn't unpack the download. ")),
+        QVERIFY2(outcome.error().description().english().startsWith(
+                     QStringLiteral("Couldn't unpack the download. ")),
                  qPrintable(outcome.error().description().english()));
         QCOMPARE(outcome.error().kind(), Kind::extractFailed);
         QCOMPARE(mark(), QByteArray("former"));
         QVERIFY(!QFileInfo::exists(QStringLiteral("/tmp/veldmark-test-escaped")));
         const QFileInfo bundle(m_profile->bundleDirectory);
-        QCOMPARE(QDir(bundle.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot),
-                 QStringList({QStringLiteral(".TorExpertBundle.lock"), QStringLiteral("TorExpertBundle")}));
+        QCOMPARE(
+            QDir(bundle.path())
+                .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot),
+            QStringList(
+                {QStringLiteral(".TorExpertBundle.lock"), QStringLiteral("TorExpertBundle")}));
     }
 
     void refusesAVersionThatIsOlderThanTheInstalledOne_data()
@@ -168,8 +181,10 @@ private Q_SLOTS:
         if (!refused)
             return;
         QCOMPARE(outcome.error().kind(), Kind::rollback);
-        QCOMPARE(outcome.error().description(),
-                 QStringLiteral("Version 14.0.4 is offered, which is older than the installed 14.0.10. Nothing was changed."));
+        QCOMPARE(
+            outcome.error().description(),
+            QStringLiteral(
+                "Version 14.0.4 is offered, which is older than the installed 14.0.10. Nothing was changed."));
         QCOMPARE(paths(), QByteArrayList({indexPath})); // before anything is downloaded
     }
 
@@ -184,8 +199,9 @@ private Q_SLOTS:
         const Outcome outcome = install();
         QVERIFY(!outcome);
         QCOMPARE(outcome.error().kind(), Kind::rollback);
-        QCOMPARE(outcome.error().description(),
-                 QStringLiteral("What came as version 14.0.4 is another one, so it was discarded."));
+        QCOMPARE(
+            outcome.error().description(),
+            QStringLiteral("What came as version 14.0.4 is another one, so it was discarded."));
         QCOMPARE(mark(), QByteArray("fourteen"));
     }
 
@@ -209,7 +225,7 @@ private Q_SLOTS:
         QHash<QString, uint> modes;
         m_service->respond = [this, &modes](QSslSocket *socket) {
             for (const QString &name : temporaryFolders()) {
-                struct stat status {};
+                struct stat status { };
                 const QByteArray path = QFile::encodeName(QStringLiteral("/tmp/") + name);
                 if (!m_formerTemporaries.contains(name) && ::stat(path.constData(), &status) == 0)
                     modes.insert(name, status.st_mode & 07777);
@@ -227,13 +243,17 @@ private Q_SLOTS:
         // Instead of tar: writes down how it is called, then does it.
         const QString seen = m_tree->path(QStringLiteral("seen"));
         QFile::remove(m_tree->path(QStringLiteral("usr/bin/tar")));
-        m_tree->program(QStringLiteral("usr/bin/tar"), "#!/bin/sh\necho \"$*\" >>'" + seen.toUtf8() + "'\nexec /usr/bin/tar \"$@\"\n");
+        m_tree->program(QStringLiteral("usr/bin/tar"),
+                        "#!/bin/sh\necho \"$*\" >>'" + seen.toUtf8()
+                            + "'\nexec /usr/bin/tar \"$@\"\n");
         QVERIFY(install());
         const QByteArrayList calls = m_tree->content(QStringLiteral("seen")).trimmed().split('\n');
         QCOMPARE(calls.size(), 3); // two lists of what is in it, then the unpacking
         const QByteArrayList words = calls.last().split(' ');
         QCOMPARE(words.value(0), QByteArray("-xzf"));
-        QVERIFY2(words.value(1).startsWith("/tmp/vmk-") && words.value(1).endsWith("/archive.tar.gz"), words.value(1).constData());
+        QVERIFY2(words.value(1).startsWith("/tmp/vmk-")
+                     && words.value(1).endsWith("/archive.tar.gz"),
+                 words.value(1).constData());
         QCOMPARE(words.value(2), QByteArray("-C"));
         QVERIFY2(words.value(3).contains("/.TorExpertBundle.new-"), words.value(3).constData());
         QCOMPARE(words.mid(4), QByteArrayList({"--no-same-owner", "--no-same-permissions"}));

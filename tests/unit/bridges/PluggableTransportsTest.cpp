@@ -12,18 +12,18 @@ using namespace veldmark;
 
 namespace {
 
-const QByteArray obfs4Configuration =
-    R"({"bridges": {"obfs4": ["Bridge obfs4 192.0.2.1:443 AA", "obfs4 example.org:1"]}})";
+const QByteArray obfs4Configuration
+    = R"({"bridges": {"obfs4": ["Bridge obfs4 192.0.2.1:443 AA", "obfs4 example.org:1"]}})";
 const QStringList obfs4Lines = {QStringLiteral("obfs4 192.0.2.1:443 AA")};
 const QByteArray preferencesMember = "defaults/preferences/000-tor-browser.js";
-const QByteArray preferences =
-    "pref(\"extensions.torlauncher.default_bridge.obfs4.1\", \"obfs4 192.0.2.7:443 CC\");\n"
-    "pref(\"extensions.torlauncher.default_bridge.plain.1\", \"192.0.2.8:443 DD\");\n"
-    "pref(\"extensions.torlauncher.default_bridge.bad.1\", \"obfs4 example.org:443 DD\");\n";
+const QByteArray preferences
+    = "pref(\"extensions.torlauncher.default_bridge.obfs4.1\", \"obfs4 192.0.2.7:443 CC\");\n"
+      "pref(\"extensions.torlauncher.default_bridge.plain.1\", \"192.0.2.8:443 DD\");\n"
+      "pref(\"extensions.torlauncher.default_bridge.bad.1\", \"obfs4 example.org:443 DD\");\n";
 const QStringList preferencesLines = {QStringLiteral("obfs4 192.0.2.7:443 CC")};
 
-const QByteArray servesSnowflake =
-    "#!/bin/sh\necho CMETHOD snowflake socks5 127.0.0.1:1\necho CMETHODS DONE\n";
+const QByteArray servesSnowflake
+    = "#!/bin/sh\necho CMETHOD snowflake socks5 127.0.0.1:1\necho CMETHODS DONE\n";
 
 // One system's places below a temporary folder.
 struct System {
@@ -35,9 +35,15 @@ struct System {
         QFile::link(QStringLiteral("/usr/bin/unzip"), profile.unzip);
     }
 
-    QString browser(const QString &name) const { return profile.torBrowserRoots.back().path + u'/' + name; }
+    QString browser(const QString &name) const
+    {
+        return profile.torBrowserRoots.back().path + u'/' + name;
+    }
     QString bundle(const QString &name) const { return profile.bundleDirectory + u'/' + name; }
-    QString folder(int index, const QString &name) const { return profile.transportDirectories[index] + u'/' + name; }
+    QString folder(int index, const QString &name) const
+    {
+        return profile.transportDirectories[index] + u'/' + name;
+    }
     PluggableTransports locate() const { return PluggableTransports::locate(profile); }
 
     ProgramTree tree;
@@ -68,8 +74,9 @@ private Q_SLOTS:
         QVERIFY(!fresh.lyrebird && !fresh.snowflake && !fresh.webtunnel);
         QVERIFY(fresh.builtin.isEmpty() && fresh.source.isEmpty());
         QCOMPARE(PluggableTransports::lyrebirdTransports(),
-                 (QSet<QString>{QStringLiteral("obfs4"), QStringLiteral("meek_lite"), QStringLiteral("webtunnel"),
-                                QStringLiteral("obfs3"), QStringLiteral("scramblesuit")}));
+                 (QSet<QString>{QStringLiteral("obfs4"), QStringLiteral("meek_lite"),
+                                QStringLiteral("webtunnel"), QStringLiteral("obfs3"),
+                                QStringLiteral("scramblesuit")}));
     }
 
     void findsNothingOnAnEmptyComputer_data() { bothSystems(); }
@@ -90,13 +97,16 @@ private Q_SLOTS:
         PluggableTransports expected;
         expected.lyrebird = last;
         QCOMPARE(system.locate(), expected);
-        for (const auto &[index, name] : {std::pair(1, "lyrebird"), std::pair(0, "obfs4proxy"), std::pair(0, "lyrebird")}) {
+        for (const auto &[index, name] :
+             {std::pair(1, "lyrebird"), std::pair(0, "obfs4proxy"), std::pair(0, "lyrebird")}) {
             expected.lyrebird = system.tree.program(system.folder(index, QLatin1String(name)));
             QCOMPARE(system.locate(), expected);
         }
-        expected.snowflake = system.tree.program(system.folder(1, QStringLiteral("snowflake-client")));
+        expected.snowflake = system.tree.program(
+            system.folder(1, QStringLiteral("snowflake-client")));
         QCOMPARE(system.locate(), expected);
-        expected.snowflake = system.tree.program(system.folder(0, QStringLiteral("snowflake-client")));
+        expected.snowflake = system.tree.program(
+            system.folder(0, QStringLiteral("snowflake-client")));
         QCOMPARE(system.locate(), expected);
         // webtunnel-client is taken from bundles only.
         system.tree.program(system.folder(0, QStringLiteral("webtunnel-client")));
@@ -109,12 +119,15 @@ private Q_SLOTS:
         QFETCH(bool, isMac);
         const System system(isMac);
         for (const char *name : {"lyrebird", "snowflake-client", "webtunnel-client"}) {
-            system.tree.program(system.browser(QStringLiteral("Tor/.hidden/") + QLatin1String(name)));
-            system.tree.program(system.bundle(QStringLiteral("tor/pluggable_transports/") + QLatin1String(name)));
+            system.tree.program(
+                system.browser(QStringLiteral("Tor/.hidden/") + QLatin1String(name)));
+            system.tree.program(
+                system.bundle(QStringLiteral("tor/pluggable_transports/") + QLatin1String(name)));
             system.tree.program(system.folder(0, QLatin1String(name)));
         }
         const PluggableTransports found = system.locate();
-        QCOMPARE(*found.lyrebird, system.bundle(QStringLiteral("tor/pluggable_transports/lyrebird")));
+        QCOMPARE(*found.lyrebird,
+                 system.bundle(QStringLiteral("tor/pluggable_transports/lyrebird")));
         QCOMPARE(*found.snowflake, system.browser(QStringLiteral("Tor/.hidden/snowflake-client")));
         QCOMPARE(*found.webtunnel, system.browser(QStringLiteral("Tor/.hidden/webtunnel-client")));
     }
@@ -124,7 +137,8 @@ private Q_SLOTS:
         const System system(false);
         for (const char *name : {"b", "a", "c"}) {
             system.tree.program(system.bundle(QLatin1String(name) + QStringLiteral("/lyrebird")));
-            system.tree.program(system.bundle(QLatin1String(name) + QStringLiteral("/snowflake-client")));
+            system.tree.program(
+                system.bundle(QLatin1String(name) + QStringLiteral("/snowflake-client")));
         }
         QCOMPARE(*system.locate().lyrebird, system.bundle(QStringLiteral("c/lyrebird")));
         QCOMPARE(*system.locate().snowflake, system.bundle(QStringLiteral("a/snowflake-client")));
@@ -149,7 +163,8 @@ private Q_SLOTS:
         const System system(false);
         system.tree.program(QStringLiteral("other/lyrebird"));
         QDir().mkpath(system.bundle(QString()));
-        QFile::link(system.tree.path(QStringLiteral("other")), system.bundle(QStringLiteral("other")));
+        QFile::link(system.tree.path(QStringLiteral("other")),
+                    system.bundle(QStringLiteral("other")));
         QFile::link(system.bundle(QString()), system.bundle(QStringLiteral("round")));
         QCOMPARE(system.locate(), PluggableTransports());
     }
@@ -161,9 +176,12 @@ private Q_SLOTS:
         const System system(isMac);
         // A stand-in for unzip that leaves a trace.
         QFile::remove(system.profile.unzip);
-        system.tree.program(system.profile.unzip, "#!/bin/sh\n/usr/bin/touch " + system.tree.path(QStringLiteral("ran")).toUtf8()
-                                                      + "\nexec /usr/bin/unzip \"$@\"\n");
-        system.tree.file(system.browser(QStringLiteral("a/omni.ja")), zipArchive({{preferencesMember, preferences}}));
+        system.tree.program(system.profile.unzip,
+                            "#!/bin/sh\n/usr/bin/touch "
+                                + system.tree.path(QStringLiteral("ran")).toUtf8()
+                                + "\nexec /usr/bin/unzip \"$@\"\n");
+        system.tree.file(system.browser(QStringLiteral("a/omni.ja")),
+                         zipArchive({{preferencesMember, preferences}}));
         PluggableTransports found = system.locate();
         QVERIFY(QFile::remove(system.tree.path(QStringLiteral("ran"))));
         QCOMPARE(found.builtin.value(QStringLiteral("obfs4")), preferencesLines);
@@ -180,10 +198,14 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("archive");
         const QByteArray filler = QByteArray("0123456789").repeated(100'000);
-        QTest::newRow("stored") << zipArchive({{"other", filler}, {preferencesMember, preferences}});
-        QTest::newRow("deflated") << zipArchive({{"other", filler}, {preferencesMember, preferences, true}});
-        QTest::newRow("directory in front") << zipArchive({{"other", filler}, {preferencesMember, preferences, true}}, ZipLayout::directoryFirst);
-        QTest::newRow("broken UTF-8") << zipArchive({{preferencesMember, "// \xff\xfe\n" + preferences}});
+        QTest::newRow("stored") << zipArchive(
+            {{"other", filler}, {preferencesMember, preferences}});
+        QTest::newRow("deflated") << zipArchive(
+            {{"other", filler}, {preferencesMember, preferences, true}});
+        QTest::newRow("directory in front") << zipArchive(
+            {{"other", filler}, {preferencesMember, preferences, true}}, ZipLayout::directoryFirst);
+        QTest::newRow("broken UTF-8")
+            << zipArchive({{preferencesMember, "// \xff\xfe\n" + preferences}});
     }
 
     void readsEveryKindOfArchive()
@@ -191,13 +213,15 @@ private Q_SLOTS:
         QFETCH(QByteArray, archive);
         const System system(false);
         system.tree.file(system.browser(QStringLiteral("odd [name] *'\"$/omni.ja")), archive);
-        QCOMPARE(system.locate().builtin, (QMap<QString, QStringList>{{QStringLiteral("obfs4"), preferencesLines}}));
+        QCOMPARE(system.locate().builtin,
+                 (QMap<QString, QStringList>{{QStringLiteral("obfs4"), preferencesLines}}));
     }
 
     void brokenFilesYieldNothing()
     {
         const System system(false);
-        system.tree.file(system.browser(QStringLiteral("1/pt_config.json")), "{\"bridges\": {\"obfs4\": 1}}");
+        system.tree.file(system.browser(QStringLiteral("1/pt_config.json")),
+                         "{\"bridges\": {\"obfs4\": 1}}");
         system.tree.file(system.browser(QStringLiteral("2/pt_config.json")), QByteArray());
         system.tree.file(system.browser(QStringLiteral("1/omni.ja")), "PK\3\4 not a ZIP archive");
         system.tree.file(system.browser(QStringLiteral("2/omni.ja")), zipArchive({{"other", "x"}}));
@@ -205,7 +229,8 @@ private Q_SLOTS:
         QDir().mkpath(system.browser(QStringLiteral("3/pt_config.json")));
         QCOMPARE(system.locate(), PluggableTransports());
         // Files that say nothing do not stand in the way of those that do.
-        system.tree.file(system.browser(QStringLiteral("4/omni.ja")), zipArchive({{preferencesMember, preferences}}));
+        system.tree.file(system.browser(QStringLiteral("4/omni.ja")),
+                         zipArchive({{preferencesMember, preferences}}));
         QCOMPARE(system.locate().source, QStringLiteral("Tor Browser"));
         system.tree.file(system.browser(QStringLiteral("4/pt_config.json")), obfs4Configuration);
         QCOMPARE(system.locate().builtin.value(QStringLiteral("obfs4")), obfs4Lines);
@@ -222,12 +247,15 @@ private Q_SLOTS:
         const System system(isMac);
         system.tree.file(system.bundle(QStringLiteral("pt_config.json")), obfs4Configuration);
         QCOMPARE(system.locate().source, QStringLiteral("Tor Expert Bundle"));
-        QCOMPARE(PluggableTransports::locate(system.profile, QString()).source, QStringLiteral("Tor Expert Bundle"));
-        QCOMPARE(PluggableTransports::locate(system.profile, QStringLiteral("14.0.4")).source, QStringLiteral("Tor Expert Bundle 14.0.4"));
+        QCOMPARE(PluggableTransports::locate(system.profile, QString()).source,
+                 QStringLiteral("Tor Expert Bundle"));
+        QCOMPARE(PluggableTransports::locate(system.profile, QStringLiteral("14.0.4")).source,
+                 QStringLiteral("Tor Expert Bundle 14.0.4"));
         // The browser comes first, and its label has no version.
         system.tree.file(system.browser(QStringLiteral("pt_config.json")),
                          R"({"bridges": {"snowflake": ["snowflake 192.0.2.3:80 BB"]}})");
-        const PluggableTransports found = PluggableTransports::locate(system.profile, QStringLiteral("14.0.4"));
+        const PluggableTransports found = PluggableTransports::locate(system.profile,
+                                                                      QStringLiteral("14.0.4"));
         QCOMPARE(found.source, QStringLiteral("Tor Browser"));
         QCOMPARE(found.builtin.keys(), QStringList{QStringLiteral("snowflake")});
     }
@@ -238,14 +266,18 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("configuration");
         QTest::addColumn<QByteArray>("program");
         QTest::addColumn<bool>("serves");
-        const QByteArray says = R"({"pluggableTransports": {"lyrebird": "ClientTransportPlugin meek_lite,obfs4,snowflake,webtunnel exec ${pt_path}lyrebird"}})";
-        const QByteArray saysNot = R"({"pluggableTransports": {"lyrebird": "ClientTransportPlugin obfs4 exec ${pt_path}lyrebird", "s": "ClientTransportPlugin snowflake exec ${pt_path}snowflake-client"}})";
+        const QByteArray says
+            = R"({"pluggableTransports": {"lyrebird": "ClientTransportPlugin meek_lite,obfs4,snowflake,webtunnel exec ${pt_path}lyrebird"}})";
+        const QByteArray saysNot
+            = R"({"pluggableTransports": {"lyrebird": "ClientTransportPlugin obfs4 exec ${pt_path}lyrebird", "s": "ClientTransportPlugin snowflake exec ${pt_path}snowflake-client"}})";
         const QByteArray dead = "#!/bin/sh\nexit 1\n";
         for (const bool isMac : {false, true}) {
             const char *name = isMac ? "macos" : "linux";
             QTest::addRow("%s: the plugin line says so", name) << isMac << says << dead << true;
-            QTest::addRow("%s: it says so itself", name) << isMac << saysNot << servesSnowflake << true;
-            QTest::addRow("%s: no configuration", name) << isMac << QByteArray("{}") << servesSnowflake << true;
+            QTest::addRow("%s: it says so itself", name)
+                << isMac << saysNot << servesSnowflake << true;
+            QTest::addRow("%s: no configuration", name)
+                << isMac << QByteArray("{}") << servesSnowflake << true;
             QTest::addRow("%s: nobody says so", name) << isMac << saysNot << dead << false;
         }
     }
@@ -257,19 +289,22 @@ private Q_SLOTS:
         QFETCH(QByteArray, program);
         QFETCH(bool, serves);
         const System system(isMac);
-        const QString lyrebird = system.tree.program(system.bundle(QStringLiteral("pt/lyrebird")), program);
+        const QString lyrebird = system.tree.program(system.bundle(QStringLiteral("pt/lyrebird")),
+                                                     program);
         system.tree.file(system.bundle(QStringLiteral("pt/pt_config.json")), configuration);
         QCOMPARE(system.locate().snowflake, serves ? std::optional(lyrebird) : std::nullopt);
         // A program of its own is better, wherever it is.
-        const QString own = system.tree.program(system.folder(1, QStringLiteral("snowflake-client")));
+        const QString own = system.tree.program(
+            system.folder(1, QStringLiteral("snowflake-client")));
         QCOMPARE(*system.locate().snowflake, own);
     }
 
     void aPluginLineSpeaksOnlyForTheLyrebirdOfItsPlace()
     {
         const System system(false);
-        system.tree.file(system.browser(QStringLiteral("pt_config.json")),
-                         R"({"pluggableTransports": {"lyrebird": "ClientTransportPlugin snowflake exec ${pt_path}lyrebird"}})");
+        system.tree.file(
+            system.browser(QStringLiteral("pt_config.json")),
+            R"({"pluggableTransports": {"lyrebird": "ClientTransportPlugin snowflake exec ${pt_path}lyrebird"}})");
         system.tree.program(system.browser(QStringLiteral("lyrebird")));
         QVERIFY(system.locate().snowflake);
         system.tree.program(system.bundle(QStringLiteral("lyrebird")));
@@ -280,7 +315,8 @@ private Q_SLOTS:
     {
         const System system(false);
         const QString ran = system.tree.path(QStringLiteral("ran"));
-        system.tree.program(system.bundle(QStringLiteral("lyrebird")), "#!/bin/sh\n/usr/bin/touch " + ran.toUtf8() + "\n");
+        system.tree.program(system.bundle(QStringLiteral("lyrebird")),
+                            "#!/bin/sh\n/usr/bin/touch " + ran.toUtf8() + "\n");
         system.locate();
         QVERIFY(QFile::remove(ran));
         system.tree.program(system.bundle(QStringLiteral("snowflake-client")));
@@ -292,8 +328,10 @@ private Q_SLOTS:
     {
         const System system(false);
         const QString ran = system.tree.path(QStringLiteral("ran"));
-        const QByteArray counting = "#!/bin/sh\necho x >>" + ran.toUtf8() + "\necho CMETHOD snowflake socks5 127.0.0.1:1\necho CMETHODS DONE\n";
-        const QString lyrebird = system.tree.program(system.bundle(QStringLiteral("lyrebird")), counting);
+        const QByteArray counting = "#!/bin/sh\necho x >>" + ran.toUtf8()
+            + "\necho CMETHOD snowflake socks5 127.0.0.1:1\necho CMETHODS DONE\n";
+        const QString lyrebird = system.tree.program(system.bundle(QStringLiteral("lyrebird")),
+                                                     counting);
         TransportMemory memory;
         const auto locate = [&](bool mayAsk) {
             return PluggableTransports::locate(system.profile, std::nullopt, {}, &memory, mayAsk);
@@ -308,7 +346,8 @@ private Q_SLOTS:
         QCOMPARE(asked(), 1);
         // A newer one in its place, which serves it no more.
         QVERIFY(QFile::remove(lyrebird));
-        system.tree.program(lyrebird, "#!/bin/sh\necho x >>" + ran.toUtf8() + "\necho CMETHODS DONE\n");
+        system.tree.program(lyrebird,
+                            "#!/bin/sh\necho x >>" + ran.toUtf8() + "\necho CMETHODS DONE\n");
         QVERIFY(!locate(false).snowflake);
         QCOMPARE(asked(), 1);
         QVERIFY(!locate(true).snowflake);
@@ -322,10 +361,12 @@ private Q_SLOTS:
     {
         const System system(false);
         const QString ran = system.tree.path(QStringLiteral("ran"));
-        system.tree.program(system.bundle(QStringLiteral("lyrebird")), "#!/bin/sh\necho x >>" + ran.toUtf8() + "\nexit 1\n");
+        system.tree.program(system.bundle(QStringLiteral("lyrebird")),
+                            "#!/bin/sh\necho x >>" + ran.toUtf8() + "\nexit 1\n");
         TransportMemory memory;
         for (int times = 1; times <= 2; ++times) {
-            QVERIFY(!PluggableTransports::locate(system.profile, std::nullopt, {}, &memory).snowflake);
+            QVERIFY(
+                !PluggableTransports::locate(system.profile, std::nullopt, {}, &memory).snowflake);
             QCOMPARE(system.tree.content(ran).count('x'), times);
         }
     }
@@ -334,11 +375,16 @@ private Q_SLOTS:
     {
         const System system(false);
         PlatformProfile profile = system.profile;
-        profile.transportDirectories = {QStringLiteral("/usr/bin"), QStringLiteral("/usr/local/bin")};
-        QVERIFY2(QFile::exists(QStringLiteral("/usr/bin/obfs4proxy")), "needs the package obfs4proxy");
-        QVERIFY2(QFile::exists(QStringLiteral("/usr/bin/snowflake-client")), "needs the package snowflake-client");
-        QCOMPARE(*PluggableTransports::locate(profile).lyrebird, QStringLiteral("/usr/bin/obfs4proxy"));
-        QCOMPARE(*PluggableTransports::locate(profile).snowflake, QStringLiteral("/usr/bin/snowflake-client"));
+        profile.transportDirectories = {QStringLiteral("/usr/bin"),
+                                        QStringLiteral("/usr/local/bin")};
+        QVERIFY2(QFile::exists(QStringLiteral("/usr/bin/obfs4proxy")),
+                 "needs the package obfs4proxy");
+        QVERIFY2(QFile::exists(QStringLiteral("/usr/bin/snowflake-client")),
+                 "needs the package snowflake-client");
+        QCOMPARE(*PluggableTransports::locate(profile).lyrebird,
+                 QStringLiteral("/usr/bin/obfs4proxy"));
+        QCOMPARE(*PluggableTransports::locate(profile).snowflake,
+                 QStringLiteral("/usr/bin/snowflake-client"));
     }
 
     void findsItsWayThroughManyFiles()
@@ -346,11 +392,14 @@ private Q_SLOTS:
         const System system(false);
         for (int folder = 0; folder < 120; ++folder) {
             for (int file = 0; file < 100; ++file)
-                system.tree.file(system.browser(QStringLiteral("d%1/e/f%2").arg(folder).arg(file)), QByteArray());
+                system.tree.file(system.browser(QStringLiteral("d%1/e/f%2").arg(folder).arg(file)),
+                                 QByteArray());
         }
-        const QString lyrebird = system.tree.program(system.browser(QStringLiteral("d60/e/lyrebird")));
-        system.tree.file(system.browser(QStringLiteral("d70/omni.ja")),
-                         zipArchive({{"big", QByteArray(50'000'000, 'x')}, {preferencesMember, preferences}}));
+        const QString lyrebird = system.tree.program(
+            system.browser(QStringLiteral("d60/e/lyrebird")));
+        system.tree.file(
+            system.browser(QStringLiteral("d70/omni.ja")),
+            zipArchive({{"big", QByteArray(50'000'000, 'x')}, {preferencesMember, preferences}}));
         const PluggableTransports found = system.locate();
         QCOMPARE(*found.lyrebird, lyrebird);
         QCOMPARE(found.builtin.value(QStringLiteral("obfs4")), preferencesLines);
@@ -366,7 +415,8 @@ private Q_SLOTS:
         // Lines of another transport under such a name are no meek_lite bridges.
         found.builtin.insert(QStringLiteral("meek"), {QStringLiteral("meek 192.0.2.9:80")});
         QCOMPARE(*found.builtinLines(BridgeChoice::meek), QStringList{line});
-        found.builtin.insert(QStringLiteral("meek"), {QStringLiteral("meek 192.0.2.9:80"), another});
+        found.builtin.insert(QStringLiteral("meek"),
+                             {QStringLiteral("meek 192.0.2.9:80"), another});
         QCOMPARE(*found.builtinLines(BridgeChoice::meek), QStringList{another});
         found.builtin.insert(QStringLiteral("meek_lite"), {line, line});
         QCOMPARE(*found.builtinLines(BridgeChoice::meek), QStringList({line, line}));
@@ -376,9 +426,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("raw");
         QTest::addColumn<QString>("name");
-        QTest::newRow("obfs4") << "obfs4" << "obfs4";
-        QTest::newRow("snowflake") << "snowflake" << "Snowflake";
-        QTest::newRow("meek") << "meek" << "meek";
+        QTest::newRow("obfs4") << "obfs4"
+                               << "obfs4";
+        QTest::newRow("snowflake") << "snowflake"
+                                   << "Snowflake";
+        QTest::newRow("meek") << "meek"
+                              << "meek";
     }
 
     void saysWhereBuiltInBridgesComeFrom()
@@ -386,12 +439,16 @@ private Q_SLOTS:
         QFETCH(QString, raw);
         QFETCH(QString, name);
         PluggableTransports found;
-        found.builtin = {{QStringLiteral("webtunnel"), {QStringLiteral("webtunnel 192.0.2.1:1")}}, {raw, {}}};
+        found.builtin = {{QStringLiteral("webtunnel"), {QStringLiteral("webtunnel 192.0.2.1:1")}},
+                         {raw, {}}};
         const auto lines = found.builtinLines(*bridgeChoiceFromRawValue(raw));
         QVERIFY(!lines);
-        QCOMPARE(lines.error().description(),
-                 QStringLiteral("Built-in %1 bridges come from Tor Browser. Click Download next to Bridges, install Tor "
-                                "Browser, or paste your own under Bridges → Custom….").arg(name));
+        QCOMPARE(
+            lines.error().description(),
+            QStringLiteral(
+                "Built-in %1 bridges come from Tor Browser. Click Download next to Bridges, install Tor "
+                "Browser, or paste your own under Bridges → Custom….")
+                .arg(name));
     }
 };
 

@@ -11,7 +11,10 @@ namespace veldmark {
 // Files and programs below a temporary folder.
 class ProgramTree {
 public:
-    QString path(const QString &name) const { return QFileInfo(name).isAbsolute() ? name : m_folder.filePath(name); }
+    QString path(const QString &name) const
+    {
+        return QFileInfo(name).isAbsolute() ? name : m_folder.filePath(name);
+    }
     QString root() const { return m_folder.path(); }
 
     QString file(const QString &name, const QByteArray &content) const
@@ -26,7 +29,9 @@ public:
     QString program(const QString &name, const QByteArray &content = "#!/bin/sh\nexit 1\n") const
     {
         file(name, content);
-        QFile::setPermissions(path(name), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup | QFile::ExeGroup);
+        QFile::setPermissions(path(name),
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner
+                                  | QFile::ReadGroup | QFile::ExeGroup);
         return path(name);
     }
 

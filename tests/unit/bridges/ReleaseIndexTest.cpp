@@ -52,9 +52,11 @@ private Q_SLOTS:
         QTest::addColumn<QString>("status");
         QTest::addColumn<bool>("isValid");
         const QString valid = QStringLiteral("[GNUPG:] VALIDSIG ");
-        const QString bySubkey = valid + QStringLiteral("6131 2024-01-01 1704067200 0 4 0 1 10 00 ") + key;
+        const QString bySubkey = valid + QStringLiteral("6131 2024-01-01 1704067200 0 4 0 1 10 00 ")
+            + key;
         QTest::newRow("by the key") << valid + key + QStringLiteral(" 2024-01-01 0") << true;
-        QTest::newRow("by a subkey") << QStringLiteral("[GNUPG:] NEWSIG\n") + bySubkey + u'\n' << true;
+        QTest::newRow("by a subkey")
+            << QStringLiteral("[GNUPG:] NEWSIG\n") + bySubkey + u'\n' << true;
         QTest::newRow("a carriage return") << bySubkey + QStringLiteral("\r\n") << true;
         QTest::newRow("the second of two")
             << valid + QStringLiteral("0123\n[GNUPG:] NEWSIG\n") + bySubkey << true;
@@ -67,7 +69,9 @@ private Q_SLOTS:
         QTest::newRow("a revoked key")
             << QStringLiteral("[GNUPG:] NEWSIG\n[GNUPG:] REVKEYSIG 00 x\n") + bySubkey << false;
         QTest::newRow("after a revoked one")
-            << QStringLiteral("[GNUPG:] REVKEYSIG 00 x\n[GNUPG:] NEWSIG\n[GNUPG:] GOODSIG 00 x\n") + bySubkey << true;
+            << QStringLiteral("[GNUPG:] REVKEYSIG 00 x\n[GNUPG:] NEWSIG\n[GNUPG:] GOODSIG 00 x\n")
+                + bySubkey
+            << true;
         QTest::newRow("nothing") << QString() << false;
     }
 
@@ -80,23 +84,33 @@ private Q_SLOTS:
 
     void tellsWhenItWasSigned()
     {
-        const QString bySubkey = QStringLiteral("[GNUPG:] VALIDSIG 6131 2024-01-01 1704067200 0 4 0 1 10 00 ") + key;
+        const QString bySubkey
+            = QStringLiteral("[GNUPG:] VALIDSIG 6131 2024-01-01 1704067200 0 4 0 1 10 00 ") + key;
         QCOMPARE(signatureTime(bySubkey, key), std::optional<qint64>(1704067200));
-        QCOMPARE(signatureTime(QStringLiteral("[GNUPG:] VALIDSIG ") + key, key), std::optional<qint64>(0));
+        QCOMPARE(signatureTime(QStringLiteral("[GNUPG:] VALIDSIG ") + key, key),
+                 std::optional<qint64>(0));
     }
 
     void comparesVersions_data()
     {
         QTest::addColumn<QString>("older");
         QTest::addColumn<QString>("newer");
-        QTest::newRow("last group") << "14.0.4" << "14.0.5";
-        QTest::newRow("numbers, not letters") << "14.0.9" << "14.0.10";
-        QTest::newRow("first group") << "9.5.9" << "14.0";
-        QTest::newRow("one group more") << "14.0" << "14.0.1";
-        QTest::newRow("alpha and release") << "14.0a9" << "14.0";
-        QTest::newRow("two alphas") << "14.0a9" << "14.0a10";
-        QTest::newRow("alpha and beta") << "14.0a1" << "14.0b1";
-        QTest::newRow("release and the next alpha") << "14.0.4" << "14.5a1";
+        QTest::newRow("last group") << "14.0.4"
+                                    << "14.0.5";
+        QTest::newRow("numbers, not letters") << "14.0.9"
+                                              << "14.0.10";
+        QTest::newRow("first group") << "9.5.9"
+                                     << "14.0";
+        QTest::newRow("one group more") << "14.0"
+                                        << "14.0.1";
+        QTest::newRow("alpha and release") << "14.0a9"
+                                           << "14.0";
+        QTest::newRow("two alphas") << "14.0a9"
+                                    << "14.0a10";
+        QTest::newRow("alpha and beta") << "14.0a1"
+                                        << "14.0b1";
+        QTest::newRow("release and the next alpha") << "14.0.4"
+                                                    << "14.5a1";
     }
 
     void comparesVersions()

@@ -25,7 +25,10 @@ namespace {
 class SleeplessClock final : public Clock {
 public:
     TimePoint now() const override { return std::chrono::steady_clock::now(); }
-    QCoro::Task<void> sleep(std::chrono::milliseconds duration) override { return m_still.sleep(duration); }
+    QCoro::Task<void> sleep(std::chrono::milliseconds duration) override
+    {
+        return m_still.sleep(duration);
+    }
 
 private:
     ManualClock m_still;
@@ -36,25 +39,34 @@ struct Outcome {
     std::optional<ConnectTime> time;
 };
 
-QCoro::Task<void> probe(QString host, quint16 port, std::chrono::milliseconds limit, Clock *clock, Outcome *outcome)
+QCoro::Task<void> probe(QString host, quint16 port, std::chrono::milliseconds limit, Clock *clock,
+                        Outcome *outcome)
 {
-    const std::optional<ConnectTime> time = co_await TCPProbe::connectTime(host, port, limit, clock);
+    const std::optional<ConnectTime> time = co_await TCPProbe::connectTime(host, port, limit,
+                                                                           clock);
     outcome->time = time;
     outcome->isOver = true;
 }
 
 qsizetype openDescriptors()
 {
-    return QDir(QStringLiteral("/dev/fd")).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size();
+    return QDir(QStringLiteral("/dev/fd"))
+        .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)
+        .size();
 }
 
 class Descriptor {
 public:
-    explicit Descriptor(int number) : m_number(number) {}
-    ~Descriptor() { if (m_number >= 0) ::close(m_number); }
-    Descriptor(Descriptor &&other) noexcept : m_number(std::exchange(other.m_number, -1)) {}
+    explicit Descriptor(int number) : m_number(number) { }
+    ~Descriptor()
+    {
+        if (m_number >= 0)
+            ::close(m_number);
+    }
+    Descriptor(Descriptor &&other) noexcept : m_number(std::exchange(other.m_number, -1)) { }
     Descriptor &operator=(Descriptor &&) = delete;
     int number() const { return m_number; }
+
 private:
     int m_number;
 };
@@ -74,7 +86,8 @@ public:
         m_address.sin_family = AF_INET;
         m_address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
         socklen_t size = sizeof m_address;
-        if (::bind(m_socket.number(), generic(), size) != 0 || ::getsockname(m_socket.number(), generic(), &size) != 0)
+        if (::bind(m_socket.number(), generic(), size) != 0
+            || ::getsockname(m_socket.number(), generic(), &size) != 0)
             qFatal("no port");
     }
 
@@ -102,7 +115,10 @@ public:
 #endif
 
 private:
-    sockaddr *generic() { return reinterpret_cast<sockaddr *>(&m_address); }
+    sockaddr *generic()
+    {
+        return reinterpret_cast<sockaddr *>(&m_address);
+    }
     Descriptor m_socket;
     sockaddr_in m_address = {};
     std::vector<Descriptor> m_waiting;
@@ -212,7 +228,8 @@ private Q_SLOTS:
             tasks.push_back(probe(loopback, hanging.number(), bridgeProbeLimit, &clock, &outcome));
         QCOMPARE(openDescriptors(), before + 200);
         const auto areOver = [&outcomes] {
-            return std::all_of(outcomes.begin(), outcomes.end(), [](const Outcome &o) { return o.isOver && !o.time; });
+            return std::all_of(outcomes.begin(), outcomes.end(),
+                               [](const Outcome &o) { return o.isOver && !o.time; });
         };
         QTRY_VERIFY_WITH_TIMEOUT(areOver(), 10'000);
         QVERIFY2(timer.elapsed() >= 3000, qPrintable(QString::number(timer.elapsed())));
@@ -225,8 +242,10 @@ private Q_SLOTS:
     {
         QTcpServer proxy;
         QVERIFY(proxy.listen(QHostAddress::LocalHost));
-        QNetworkProxy::setApplicationProxy(QNetworkProxy(QNetworkProxy::Socks5Proxy, loopback, proxy.serverPort()));
-        const auto reset = qScopeGuard([] { QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy); });
+        QNetworkProxy::setApplicationProxy(
+            QNetworkProxy(QNetworkProxy::Socks5Proxy, loopback, proxy.serverPort()));
+        const auto reset = qScopeGuard(
+            [] { QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy); });
         // An address that no packet leaves for; those of the loopback interface never use a proxy.
         const QString nowhere = QStringLiteral("255.255.255.255");
         {

@@ -19,7 +19,8 @@ private Q_SLOTS:
     {
         const DownloadSource real = DownloadSource::torProject();
         QCOMPARE(real.fingerprint, QStringLiteral("EF6E286DDA85EA2A4BA7DE684E2C6E8793298290"));
-        QCOMPARE(real.versionURL.path(), QStringLiteral("/torbrowser/update_3/release/downloads.json"));
+        QCOMPARE(real.versionURL.path(),
+                 QStringLiteral("/torbrowser/update_3/release/downloads.json"));
         QCOMPARE(real.keyURL.path(),
                  QStringLiteral("/vks/v1/by-fingerprint/EF6E286DDA85EA2A4BA7DE684E2C6E8793298290"));
         const QUrl archive = real.archiveURL(QStringLiteral("14.0.4"), QStringLiteral("a.tar.gz"));
@@ -44,24 +45,30 @@ private Q_SLOTS:
         serve(path + ".asc", m_signature);
         makeDownloader(source());
         const Outcome outcome = install();
-        QVERIFY2(outcome, qPrintable(outcome ? QString() : outcome.error().description().english()));
-        QVERIFY(m_profile->bundleDirectory.endsWith(QStringLiteral("Library/Application Support/Veldmark/TorExpertBundle")));
+        QVERIFY2(outcome,
+                 qPrintable(outcome ? QString() : outcome.error().description().english()));
+        QVERIFY(m_profile->bundleDirectory.endsWith(
+            QStringLiteral("Library/Application Support/Veldmark/TorExpertBundle")));
         QCOMPARE(mark(), QByteArray("fourteen"));
         QCOMPARE(installed("VERIFIED"), QByteArray("signature"));
     }
 
     void installsWhatTheExpectedKeyHasSigned()
     {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral("^gpgconf"))); // it was there, and did what it should
+        // it was there, and did what it should
+        QTest::failOnWarning(QRegularExpression(QStringLiteral("^gpgconf")));
         putBundle();
         const Outcome outcome = install();
-        QVERIFY2(outcome, qPrintable(outcome ? QString() : outcome.error().description().english()));
+        QVERIFY2(outcome,
+                 qPrintable(outcome ? QString() : outcome.error().description().english()));
         QCOMPARE(outcome->version, QStringLiteral("14.0.4"));
         QVERIFY(outcome->isVerified);
         QCOMPARE(installed("VERSION"), QByteArray("14.0.4"));
         QCOMPARE(installed("VERIFIED"), QByteArray("signature"));
-        QCOMPARE(TransportDownloader::installedVersion(*m_profile), std::optional(QStringLiteral("14.0.4")));
-        QCOMPARE(TransportDownloader::installedVerification(*m_profile), std::optional(QStringLiteral("signature")));
+        QCOMPARE(TransportDownloader::installedVersion(*m_profile),
+                 std::optional(QStringLiteral("14.0.4")));
+        QCOMPARE(TransportDownloader::installedVerification(*m_profile),
+                 std::optional(QStringLiteral("signature")));
         QCOMPARE(mark(), QByteArray("fourteen"));
         QCOMPARE(paths(), QByteArrayList({indexPath, archivePath, archivePath + ".asc", keyPath}));
 
@@ -78,11 +85,13 @@ private Q_SLOTS:
         const QString kept = SignedBundle::archiveBelow(m_profile->bundleDirectory);
         QCOMPARE(m_tree->content(kept), m_archive);
         QCOMPARE(m_tree->content(SignedBundle::signatureOf(kept)), m_signature);
-        const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther | QFile::WriteOther
-            | QFile::ExeOther;
+        const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup
+            | QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
         QVERIFY(!(QFile::permissions(QFileInfo(kept).path()) & others));
-        const QByteArray verdict = output(gpgv, {QStringLiteral("--status-fd"), QStringLiteral("1"), QStringLiteral("--keyring"),
-                                                 SignedBundle::keyOf(kept), SignedBundle::signatureOf(kept), kept});
+        const QByteArray verdict = output(gpgv,
+                                          {QStringLiteral("--status-fd"), QStringLiteral("1"),
+                                           QStringLiteral("--keyring"), SignedBundle::keyOf(kept),
+                                           SignedBundle::signatureOf(kept), kept});
         QVERIFY(verdict.contains("VALIDSIG " + m_key->fingerprint().toLatin1()));
 
         QVERIFY(QFile::remove(gpgv)); // then nobody could: the next one keeps nothing
@@ -92,12 +101,14 @@ private Q_SLOTS:
 
     void whatTheArchiveHasInThatPlaceIsNotKept()
     {
-        QVERIFY(QFile::link(QStringLiteral("/usr/bin/gpgv"), m_tree->path(QStringLiteral("usr/bin/gpgv"))));
+        QVERIFY(QFile::link(QStringLiteral("/usr/bin/gpgv"),
+                            m_tree->path(QStringLiteral("usr/bin/gpgv"))));
         const ProgramTree tree;
         tree.file(QStringLiteral("b/origin/bundle.tar.gz"), "the archive's own");
         tree.file(QStringLiteral("b/origin/more"), "the archive's own");
-        output(QStringLiteral("/usr/bin/tar"), {QStringLiteral("-czf"), tree.path(QStringLiteral("a.tar.gz")),
-                                                QStringLiteral("-C"), tree.path(QStringLiteral("b")), QStringLiteral(".")});
+        output(QStringLiteral("/usr/bin/tar"),
+               {QStringLiteral("-czf"), tree.path(QStringLiteral("a.tar.gz")), QStringLiteral("-C"),
+                tree.path(QStringLiteral("b")), QStringLiteral(".")});
         const QByteArray archive = tree.content(QStringLiteral("a.tar.gz"));
         serveArchive(archive);
         QVERIFY(install());
@@ -115,20 +126,25 @@ private Q_SLOTS:
         const QString large = QStringLiteral("Downloading Tor 14.0.4 bridge programs…");
         QCOMPARE(m_progress.first(), QStringLiteral("Checking latest version…"));
         QCOMPARE(m_progress.at(1), large);
-        QVERIFY2(m_progress.contains(large + QStringLiteral(" 1.0 of 1.0 MB (100%)")), qPrintable(m_progress.join(u'\n')));
+        QVERIFY2(m_progress.contains(large + QStringLiteral(" 1.0 of 1.0 MB (100%)")),
+                 qPrintable(m_progress.join(u'\n')));
         QVERIFY(m_progress.size() <= 5 + 101);
         m_progress.removeIf([&large](const QString &line) { return line.startsWith(large); });
-        QCOMPARE(m_progress, QStringList({QStringLiteral("Checking latest version…"), QStringLiteral("Verifying signature…"),
-                                          QStringLiteral("Installing…")}));
+        QCOMPARE(
+            m_progress,
+            QStringList({QStringLiteral("Checking latest version…"),
+                         QStringLiteral("Verifying signature…"), QStringLiteral("Installing…")}));
     }
 
     void refusesAnIndexWithoutAVersion()
     {
         serveIndex("14.0 beta");
-        QCOMPARE(failure(), QStringLiteral("Couldn't read the latest Tor version from torproject.org."));
+        QCOMPARE(failure(),
+                 QStringLiteral("Couldn't read the latest Tor version from torproject.org."));
         QCOMPARE(paths(), QByteArrayList({indexPath}));
         serve(indexPath, "<html>");
-        QCOMPARE(failure(), QStringLiteral("Couldn't read the latest Tor version from torproject.org."));
+        QCOMPARE(failure(),
+                 QStringLiteral("Couldn't read the latest Tor version from torproject.org."));
         serveIndex("14.0a1");
         QCOMPARE(failure(), QStringLiteral("Download of the bridge programs failed (HTTP 404)."));
     }
@@ -147,10 +163,12 @@ private Q_SLOTS:
         const QString temporary = QStringLiteral("/tmp/vmk-00000000-0000-4000-8000-00000000000a");
         QVERIFY(QDir().mkpath(temporary + QStringLiteral("/g")));
         const QFileInfo bundle(m_profile->bundleDirectory);
-        m_tree->file(bundle.path() + QStringLiteral("/.TorExpertBundle.lock"), temporary.toUtf8() + '\n');
+        m_tree->file(bundle.path() + QStringLiteral("/.TorExpertBundle.lock"),
+                     temporary.toUtf8() + '\n');
         m_tree->file(bundle.path() + QStringLiteral("/.TorExpertBundle.old/VERSION"), "13.5");
         makeDownloader(source());
-        QCOMPARE(installed("VERSION"), QByteArray("13.5")); // back in its place before anything is downloaded
+        // back in its place before anything is downloaded
+        QCOMPARE(installed("VERSION"), QByteArray("13.5"));
         QVERIFY(install());
         QVERIFY(!QFileInfo::exists(temporary));
     }

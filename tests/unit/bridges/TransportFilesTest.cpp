@@ -11,33 +11,38 @@ class TransportFilesTest : public QObject {
 private Q_SLOTS:
     void readsTheBridgesOfAConfiguration()
     {
-        const Bridges bridges = bridgesOfTransportConfiguration("{\n"
+        const Bridges bridges = bridgesOfTransportConfiguration(
+            "{\n"
             "\"recommendedDefault\": \"obfs4\",\n"
             "\"bridges\": {\n"
             "\"obfs4\": [\"  Bridge  obfs4\\t192.0.2.1:443  AA \", \"obfs4 example.org:443 AA\", \"obfs4 192.0.2.2:443\"],\n"
             "\"meek-azure\": [\"meek_lite 192.0.2.3:80 BB url=https://a.example/\"],\n"
             "\"empty\": []\n"
             "}}");
-        QCOMPARE(bridges, (Bridges{
-            {QStringLiteral("obfs4"), {QStringLiteral("obfs4 192.0.2.1:443 AA"), QStringLiteral("obfs4 192.0.2.2:443")}},
-            {QStringLiteral("meek-azure"), {QStringLiteral("meek_lite 192.0.2.3:80 BB url=https://a.example/")}},
-            {QStringLiteral("empty"), {}}}));
+        QCOMPARE(bridges,
+                 (Bridges{{QStringLiteral("obfs4"),
+                           {QStringLiteral("obfs4 192.0.2.1:443 AA"),
+                            QStringLiteral("obfs4 192.0.2.2:443")}},
+                          {QStringLiteral("meek-azure"),
+                           {QStringLiteral("meek_lite 192.0.2.3:80 BB url=https://a.example/")}},
+                          {QStringLiteral("empty"), {}}}));
     }
 
     void anythingElseHasNoBridges_data()
     {
         QTest::addColumn<QByteArray>("json");
         const QByteArray deep = QByteArray("[").repeated(100'000);
-        for (const QByteArray &json : {
-                 QByteArray(), QByteArray("{"), QByteArray("[]"), QByteArray("\"x\""), QByteArray("{}"),
-                 QByteArray(R"({"bridges": []})"), QByteArray(R"({"bridges": "obfs4 192.0.2.1:1"})"),
-                 QByteArray(R"({"bridges": {"obfs4": "obfs4 192.0.2.1:1"}})"),
-                 QByteArray(R"({"bridges": {"obfs4": ["obfs4 192.0.2.1:1", 7]}})"),
-                 QByteArray(R"({"bridges": {"obfs4": ["obfs4 192.0.2.1:1"], "meek": null}})"),
-                 QByteArray(R"({"bridges": {"obfs4": ["obfs4 192.0.2.1:1\nRunAsDaemon 1"]}})"),
-                 QByteArray(R"({"bridges": {"obfs4": ["obfs4 192.0.2.1:1\n"]}})"),
-                 QByteArray(R"({"bridges": {"obfs4": ["obfs4 example.org:1"]}})"),
-                 QByteArray("\xff\xfe\x00", 3), deep})
+        for (const QByteArray &json :
+             {QByteArray(), QByteArray("{"), QByteArray("[]"), QByteArray("\"x\""),
+              QByteArray("{}"), QByteArray(R"({"bridges": []})"),
+              QByteArray(R"({"bridges": "obfs4 192.0.2.1:1"})"),
+              QByteArray(R"({"bridges": {"obfs4": "obfs4 192.0.2.1:1"}})"),
+              QByteArray(R"({"bridges": {"obfs4": ["obfs4 192.0.2.1:1", 7]}})"),
+              QByteArray(R"({"bridges": {"obfs4": ["obfs4 192.0.2.1:1"], "meek": null}})"),
+              QByteArray(R"({"bridges": {"obfs4": ["obfs4 192.0.2.1:1\nRunAsDaemon 1"]}})"),
+              QByteArray(R"({"bridges": {"obfs4": ["obfs4 192.0.2.1:1\n"]}})"),
+              QByteArray(R"({"bridges": {"obfs4": ["obfs4 example.org:1"]}})"),
+              QByteArray("\xff\xfe\x00", 3), deep})
             QTest::newRow(json.left(60).toPercentEncoding(" {}[]\":").constData()) << json;
     }
 
@@ -52,14 +57,28 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("lines");
         QTest::addColumn<QStringList>("transports");
         const QStringList both = {QStringLiteral("obfs4"), QStringLiteral("snowflake")};
-        QTest::newRow("lyrebird") << QByteArray(R"({"a": "ClientTransportPlugin obfs4,snowflake exec ${pt_path}lyrebird"})") << both;
-        QTest::newRow("with arguments") << QByteArray(R"({"a": "ClientTransportPlugin obfs4,snowflake exec /x/lyrebird -enableLogging"})") << both;
-        QTest::newRow("two lines") << QByteArray(R"({"a": "ClientTransportPlugin obfs4 exec ${pt_path}lyrebird", "b": "ClientTransportPlugin snowflake exec ${pt_path}lyrebird"})") << both;
-        QTest::newRow("another program") << QByteArray(R"({"a": "ClientTransportPlugin snowflake exec ${pt_path}snowflake-client"})") << QStringList();
-        QTest::newRow("longer name") << QByteArray(R"({"a": "ClientTransportPlugin snowflake exec ${pt_path}notlyrebird"})") << QStringList();
-        QTest::newRow("not exec") << QByteArray(R"({"a": "ClientTransportPlugin snowflake socks5 lyrebird"})") << QStringList();
-        QTest::newRow("short") << QByteArray(R"({"a": "ClientTransportPlugin snowflake exec"})") << QStringList();
-        QTest::newRow("not a text") << QByteArray(R"({"a": 7, "b": ["snowflake"]})") << QStringList();
+        QTest::newRow("lyrebird") << QByteArray(
+            R"({"a": "ClientTransportPlugin obfs4,snowflake exec ${pt_path}lyrebird"})")
+                                  << both;
+        QTest::newRow("with arguments") << QByteArray(
+            R"({"a": "ClientTransportPlugin obfs4,snowflake exec /x/lyrebird -enableLogging"})")
+                                        << both;
+        QTest::newRow("two lines") << QByteArray(
+            R"({"a": "ClientTransportPlugin obfs4 exec ${pt_path}lyrebird", "b": "ClientTransportPlugin snowflake exec ${pt_path}lyrebird"})")
+                                   << both;
+        QTest::newRow("another program") << QByteArray(
+            R"({"a": "ClientTransportPlugin snowflake exec ${pt_path}snowflake-client"})")
+                                         << QStringList();
+        QTest::newRow("longer name")
+            << QByteArray(R"({"a": "ClientTransportPlugin snowflake exec ${pt_path}notlyrebird"})")
+            << QStringList();
+        QTest::newRow("not exec") << QByteArray(
+            R"({"a": "ClientTransportPlugin snowflake socks5 lyrebird"})")
+                                  << QStringList();
+        QTest::newRow("short") << QByteArray(R"({"a": "ClientTransportPlugin snowflake exec"})")
+                               << QStringList();
+        QTest::newRow("not a text")
+            << QByteArray(R"({"a": 7, "b": ["snowflake"]})") << QStringList();
         QTest::newRow("not an object") << QByteArray("7") << QStringList();
     }
 
@@ -67,12 +86,15 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, lines);
         QFETCH(QStringList, transports);
-        QCOMPARE(transportsOfPluginLines("{\"pluggableTransports\": " + lines + "}", QStringLiteral("lyrebird")), transports);
+        QCOMPARE(transportsOfPluginLines("{\"pluggableTransports\": " + lines + "}",
+                                         QStringLiteral("lyrebird")),
+                 transports);
     }
 
     void readsTheBridgesOfPreferences()
     {
-        const Bridges bridges = bridgesOfPreferences(QStringLiteral("\n"
+        const Bridges bridges = bridgesOfPreferences(QStringLiteral(
+            "\n"
             "// pref(\"other\", \"obfs4 192.0.2.99:1\");\n"
             "pref(\"extensions.torlauncher.default_bridge_recommended_type\", \"obfs4\");\n"
             "pref(\"extensions.torlauncher.default_bridge.obfs4.1\", \"obfs4 192.0.2.1:443 AA cert=a\");\n"
@@ -85,9 +107,12 @@ private Q_SLOTS:
             "Log debug\");\n"
             "pref(\"extensions.torlauncher.default_bridge.\", \"obfs4 192.0.2.6:443\");\n"
             ""));
-        QCOMPARE(bridges, (Bridges{
-            {QStringLiteral("obfs4"), {QStringLiteral("obfs4 192.0.2.1:443 AA cert=a"), QStringLiteral("obfs4 192.0.2.3:443 CC")}},
-            {QStringLiteral("meek_lite"), {QStringLiteral("meek_lite 192.0.2.2:80 BB url=https://a.example/")}}}));
+        QCOMPARE(bridges,
+                 (Bridges{{QStringLiteral("obfs4"),
+                           {QStringLiteral("obfs4 192.0.2.1:443 AA cert=a"),
+                            QStringLiteral("obfs4 192.0.2.3:443 CC")}},
+                          {QStringLiteral("meek_lite"),
+                           {QStringLiteral("meek_lite 192.0.2.2:80 BB url=https://a.example/")}}}));
     }
 
     void otherTextHasNoPreferences()

@@ -5,9 +5,9 @@
 
 #include <QElapsedTimer>
 #include <QSemaphore>
+#include <QTest>
 #include <QThread>
 #include <QThreadPool>
-#include <QTest>
 
 #include <signal.h>
 
@@ -27,7 +27,8 @@ QCoro::Task<void> keep(QCoro::Task<PluggableTransports> search, Outcome *outcome
     *outcome = {found, QThread::currentThread()};
 }
 
-QCoro::Task<void> keepAndDestroy(QCoro::Task<PluggableTransports> search, std::unique_ptr<TransportSearch> *owner, Outcome *outcome)
+QCoro::Task<void> keepAndDestroy(QCoro::Task<PluggableTransports> search,
+                                 std::unique_ptr<TransportSearch> *owner, Outcome *outcome)
 {
     const PluggableTransports found = co_await search;
     owner->reset();
@@ -66,8 +67,9 @@ private:
 // Says that it runs, by its process id in `running`, and then nothing more for a minute.
 QByteArray silentProgram(const QString &running)
 {
-    return "#!/bin/sh\necho $$ >'" + QFile::encodeName(running) + ".new'\nmv '" + QFile::encodeName(running) + ".new' '"
-        + QFile::encodeName(running) + "'\nexec /bin/sleep 60\n";
+    return "#!/bin/sh\necho $$ >'" + QFile::encodeName(running) + ".new'\nmv '"
+        + QFile::encodeName(running) + ".new' '" + QFile::encodeName(running)
+        + "'\nexec /bin/sleep 60\n";
 }
 
 } // namespace
@@ -121,7 +123,8 @@ private Q_SLOTS:
         QElapsedTimer sinceThen;
         sinceThen.start();
         QVERIFY(QThreadPool::globalInstance()->waitForDone());
-        QVERIFY2(sinceThen.elapsed() < 4000, "it took as long as the program may take to answer, which is 5 s");
+        QVERIFY2(sinceThen.elapsed() < 4000,
+                 "it took as long as the program may take to answer, which is 5 s");
         QCOMPARE(::kill(process, 0), -1);
     }
 
@@ -154,8 +157,10 @@ private Q_SLOTS:
     {
         const System system;
         const QString ran = system.tree.path(QStringLiteral("ran"));
-        system.tree.program(system.bundle(QStringLiteral("lyrebird")),
-                            "#!/bin/sh\necho x >>" + QFile::encodeName(ran) + "\necho CMETHOD snowflake socks5 127.0.0.1:1\necho CMETHODS DONE\n");
+        system.tree.program(
+            system.bundle(QStringLiteral("lyrebird")),
+            "#!/bin/sh\necho x >>" + QFile::encodeName(ran)
+                + "\necho CMETHOD snowflake socks5 127.0.0.1:1\necho CMETHODS DONE\n");
         TransportSearch search(system.profile);
         Outcome first;
         Outcome second;
@@ -174,9 +179,11 @@ private Q_SLOTS:
             path += QStringLiteral("/d");
         system.tree.program(path + QStringLiteral("/webtunnel-client"));
         StopSource ended;
-        QVERIFY(PluggableTransports::locate(system.profile, std::nullopt, ended.get_token()).webtunnel);
+        QVERIFY(
+            PluggableTransports::locate(system.profile, std::nullopt, ended.get_token()).webtunnel);
         ended.request_stop();
-        QVERIFY(!PluggableTransports::locate(system.profile, std::nullopt, ended.get_token()).webtunnel);
+        QVERIFY(!PluggableTransports::locate(system.profile, std::nullopt, ended.get_token())
+                     .webtunnel);
     }
 
     void whatWasFoundButNotYetHandedOverIsHandedOverByItsDestruction()

@@ -22,8 +22,8 @@ TestCertificates::TestCertificates()
     run({QStringLiteral("req"), QStringLiteral("-x509"), QStringLiteral("-newkey"),
          QStringLiteral("ec"), QStringLiteral("-pkeyopt"), ec, QStringLiteral("-nodes"),
          QStringLiteral("-keyout"), path(QStringLiteral("ca.key")), QStringLiteral("-out"),
-         path(QStringLiteral("ca.pem")), QStringLiteral("-subj"), QStringLiteral("/CN=Test Authority"),
-         QStringLiteral("-days"), QStringLiteral("30")});
+         path(QStringLiteral("ca.pem")), QStringLiteral("-subj"),
+         QStringLiteral("/CN=Test Authority"), QStringLiteral("-days"), QStringLiteral("30")});
 }
 
 QSslConfiguration TestCertificates::server(const QString &hosts, int days)
@@ -34,15 +34,16 @@ QSslConfiguration TestCertificates::server(const QString &hosts, int days)
         qFatal("cannot write");
     extensions.write("subjectAltName=" + hosts.toLatin1() + '\n');
     extensions.close();
-    run({QStringLiteral("req"), QStringLiteral("-new"), QStringLiteral("-newkey"), QStringLiteral("ec"),
-         QStringLiteral("-pkeyopt"), ec, QStringLiteral("-nodes"), QStringLiteral("-keyout"),
-         path(name + QStringLiteral(".key")), QStringLiteral("-out"), path(name + QStringLiteral(".csr")),
-         QStringLiteral("-subj"), QStringLiteral("/CN=Test")});
+    run({QStringLiteral("req"), QStringLiteral("-new"), QStringLiteral("-newkey"),
+         QStringLiteral("ec"), QStringLiteral("-pkeyopt"), ec, QStringLiteral("-nodes"),
+         QStringLiteral("-keyout"), path(name + QStringLiteral(".key")), QStringLiteral("-out"),
+         path(name + QStringLiteral(".csr")), QStringLiteral("-subj"), QStringLiteral("/CN=Test")});
     run({QStringLiteral("x509"), QStringLiteral("-req"), QStringLiteral("-in"),
          path(name + QStringLiteral(".csr")), QStringLiteral("-CA"), path(QStringLiteral("ca.pem")),
-         QStringLiteral("-CAkey"), path(QStringLiteral("ca.key")), QStringLiteral("-CAcreateserial"),
-         QStringLiteral("-days"), QString::number(days), QStringLiteral("-extfile"),
-         extensions.fileName(), QStringLiteral("-out"), path(name + QStringLiteral(".pem"))});
+         QStringLiteral("-CAkey"), path(QStringLiteral("ca.key")),
+         QStringLiteral("-CAcreateserial"), QStringLiteral("-days"), QString::number(days),
+         QStringLiteral("-extfile"), extensions.fileName(), QStringLiteral("-out"),
+         path(name + QStringLiteral(".pem"))});
     return load(name);
 }
 
@@ -77,7 +78,8 @@ void TestCertificates::run(const QStringList &arguments) const
 QSslConfiguration TestCertificates::load(const QString &name) const
 {
     QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
-    configuration.setLocalCertificate(QSslCertificate(content(path(name + QStringLiteral(".pem")))));
+    configuration.setLocalCertificate(
+        QSslCertificate(content(path(name + QStringLiteral(".pem")))));
     configuration.setPrivateKey(QSslKey(content(path(name + QStringLiteral(".key"))), QSsl::Ec));
     configuration.setPeerVerifyMode(QSslSocket::VerifyNone);
     return configuration;
@@ -111,13 +113,14 @@ CheckService::CheckService(const QSslConfiguration &tls)
 CheckService::Respond CheckService::answer(const QByteArray &status, const QByteArray &body)
 {
     return [status, body](QSslSocket *socket) {
-        socket->write("HTTP/1.1 " + status + "\r\nContent-Type: application/json\r\nContent-Length: "
+        socket->write("HTTP/1.1 " + status
+                      + "\r\nContent-Type: application/json\r\nContent-Length: "
                       + QByteArray::number(body.size()) + "\r\n\r\n" + body);
     };
 }
 
 CheckService::Respond CheckService::goodAnswer(bool isTor, const QByteArray &ip)
 {
-    return answer("200 OK", "{\"IsTor\":" + QByteArray(isTor ? "true" : "false") + ",\"IP\":\"" + ip
-                                + "\"}");
+    return answer("200 OK",
+                  "{\"IsTor\":" + QByteArray(isTor ? "true" : "false") + ",\"IP\":\"" + ip + "\"}");
 }

@@ -17,7 +17,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-QString text(const char *utf8) { return QString::fromUtf8(utf8); }
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
 
 QStringList summaries(const std::vector<DNSResolver> &resolvers)
 {
@@ -87,7 +90,8 @@ QCoro::Task<void> keepLookup(QCoro::Task<bool> task, std::shared_ptr<std::option
     *kept = result;
 }
 
-QCoro::Task<void> keepStatus(QCoro::Task<DNSStatus> task, std::shared_ptr<std::optional<DNSStatus>> kept)
+QCoro::Task<void> keepStatus(QCoro::Task<DNSStatus> task,
+                             std::shared_ptr<std::optional<DNSStatus>> kept)
 {
     const DNSStatus result = co_await task;
     *kept = result;
@@ -112,8 +116,12 @@ private Q_SLOTS:
     {
         const auto resolvers = DNSCheck::parse(text(wifiAndVPN));
         QCOMPARE(resolvers.size(), 7u);
-        QCOMPARE(resolvers[0], (DNSResolver{std::nullopt, {text("192.168.178.1"), text("fd00::1")},
-                                            text("en0"), false, false}));
+        QCOMPARE(resolvers[0],
+                 (DNSResolver{std::nullopt,
+                              {text("192.168.178.1"), text("fd00::1")},
+                              text("en0"),
+                              false,
+                              false}));
         QCOMPARE(resolvers[1].domain, text("corp.example"));
         QCOMPARE(resolvers[1].nameservers, (QStringList{text("10.8.0.1"), text("127.0.0.1")}));
         QVERIFY(resolvers[2].isMDNS && resolvers[2].nameservers.isEmpty());
@@ -124,9 +132,10 @@ private Q_SLOTS:
 
     void findsTheLeaksOfAnOrdinaryMac()
     {
-        QCOMPARE(summaries(DNSCheck::leaks(DNSCheck::parse(text(wifiAndVPN)))),
-                 (QStringList{text("192.168.178.1, fd00::1 on en0"),
-                              text("10.8.0.1 for *.corp.example on utun3"), text("10.8.0.1 on utun3")}));
+        QCOMPARE(
+            summaries(DNSCheck::leaks(DNSCheck::parse(text(wifiAndVPN)))),
+            (QStringList{text("192.168.178.1, fd00::1 on en0"),
+                         text("10.8.0.1 for *.corp.example on utun3"), text("10.8.0.1 on utun3")}));
     }
 
     void readsOddLines_data()
@@ -138,14 +147,17 @@ private Q_SLOTS:
         };
         row("no interface in parentheses", "nameserver[0] : 1.2.3.4\nif_index : 4", "1.2.3.4");
         row("closing before opening", "nameserver[0] : 1.2.3.4\nif_index : ) (en0", "1.2.3.4");
-        row("nested parentheses", "nameserver[0] : 1.2.3.4\nif_index : 4 ((en0))", "1.2.3.4 on (en0");
+        row("nested parentheses", "nameserver[0] : 1.2.3.4\nif_index : 4 ((en0))",
+            "1.2.3.4 on (en0");
         row("no blanks", "nameserver[0]:1.2.3.4\nif_index:4(en0)", "1.2.3.4 on en0");
-        row("tabs and carriage returns", "\tnameserver[0]\t:\t1.2.3.4\r\n if_index : 4 (en0)\r", "1.2.3.4 on en0");
+        row("tabs and carriage returns", "\tnameserver[0]\t:\t1.2.3.4\r\n if_index : 4 (en0)\r",
+            "1.2.3.4 on en0");
         row("address with colons", "nameserver[0] : fe80::1%en0", "fe80::1%en0");
         row("search domains only", "search domain[0] : a.example", "");
         row("a key that begins like domain", "domainname : x\nnameserver[0] : 1.2.3.4", "1.2.3.4");
         row("line without a colon", "nameserver[0] 9.9.9.9\nnameserver[1] : 1.2.3.4", "1.2.3.4");
-        row("many servers", "nameserver[0] : 1.1.1.1\nnameserver[1] : 2.2.2.2\nnameserver[10] : 3.3.3.3\ndomain : d",
+        row("many servers",
+            "nameserver[0] : 1.1.1.1\nnameserver[1] : 2.2.2.2\nnameserver[10] : 3.3.3.3\ndomain : d",
             "1.1.1.1, 2.2.2.2, 3.3.3.3 for *.d");
     }
     void readsOddLines()
@@ -159,11 +171,12 @@ private Q_SLOTS:
     void linesBeforeTheFirstResolverAreIgnored()
     {
         QVERIFY(DNSCheck::parse(QString()).empty());
-        QVERIFY(DNSCheck::parse(text("No DNS configuration available\nnameserver[0] : 1.2.3.4\n")).empty());
+        QVERIFY(DNSCheck::parse(text("No DNS configuration available\nnameserver[0] : 1.2.3.4\n"))
+                    .empty());
         QVERIFY(DNSCheck::parse(text("DNS configuration\nnameserver[0] : 1.2.3.4\n")).empty());
         // A new section ends a resolver.
-        const auto resolvers = DNSCheck::parse(
-            text("resolver #1\nnameserver[0] : 1.1.1.1\nDNS configuration\nnameserver[1] : 2.2.2.2\n"));
+        const auto resolvers = DNSCheck::parse(text(
+            "resolver #1\nnameserver[0] : 1.1.1.1\nDNS configuration\nnameserver[1] : 2.2.2.2\n"));
         QCOMPARE(summaries(resolvers), QStringList{text("1.1.1.1")});
     }
 
@@ -171,27 +184,39 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("configuration");
         QTest::addColumn<QStringList>("expected");
-        const auto row = [](const char *name, const char *configuration, const QStringList &expected) {
+        const auto row = [](const char *name, const char *configuration,
+                            const QStringList &expected) {
             QTest::newRow(name) << text(configuration) << expected;
         };
-        row("Tor's addresses only", "resolver #1\nnameserver[0] : 127.0.0.1\nnameserver[1] : ::1\n", {});
+        row("Tor's addresses only", "resolver #1\nnameserver[0] : 127.0.0.1\nnameserver[1] : ::1\n",
+            {});
         row("default resolver", "resolver #1\nnameserver[0] : 192.168.1.1\nif_index : 15 (en0)\n",
             {text("192.168.1.1 on en0")});
-        row("local names by mDNS", "resolver #2\ndomain : local\noptions : mdns\nnameserver[0] : 1.2.3.4\n", {});
-        row("mDNS for another domain", "resolver #2\ndomain : x\noptions : mdns\nnameserver[0] : 1.2.3.4\n", {});
+        row("local names by mDNS",
+            "resolver #2\ndomain : local\noptions : mdns\nnameserver[0] : 1.2.3.4\n", {});
+        row("mDNS for another domain",
+            "resolver #2\ndomain : x\noptions : mdns\nnameserver[0] : 1.2.3.4\n", {});
         row("local without mDNS", "resolver #2\ndomain : local\nnameserver[0] : 1.2.3.4\n", {});
-        row("below local", "resolver #2\ndomain : a.local\nnameserver[0] : 1.2.3.4\n", {text("1.2.3.4 for *.a.local")});
-        row("reverse look-ups", "resolver #3\ndomain : 168.192.in-addr.arpa\nnameserver[0] : 1.2.3.4\n"
-            "resolver #4\ndomain : 8.e.f.ip6.arpa\nnameserver[0] : 1.2.3.4\n", {});
-        row("Tor's address is dropped", "resolver #1\ndomain : corp\nnameserver[0] : 127.0.0.1\n"
-            "nameserver[1] : 10.8.0.1\nif_index : 9 (utun2)\n", {text("10.8.0.1 for *.corp on utun2")});
-        row("both sections", "DNS configuration\nresolver #1\nnameserver[0] : 1.2.3.4\nif_index : 4 (en0)\n"
+        row("below local", "resolver #2\ndomain : a.local\nnameserver[0] : 1.2.3.4\n",
+            {text("1.2.3.4 for *.a.local")});
+        row("reverse look-ups",
+            "resolver #3\ndomain : 168.192.in-addr.arpa\nnameserver[0] : 1.2.3.4\n"
+            "resolver #4\ndomain : 8.e.f.ip6.arpa\nnameserver[0] : 1.2.3.4\n",
+            {});
+        row("Tor's address is dropped",
+            "resolver #1\ndomain : corp\nnameserver[0] : 127.0.0.1\n"
+            "nameserver[1] : 10.8.0.1\nif_index : 9 (utun2)\n",
+            {text("10.8.0.1 for *.corp on utun2")});
+        row("both sections",
+            "DNS configuration\nresolver #1\nnameserver[0] : 1.2.3.4\nif_index : 4 (en0)\n"
             "DNS configuration (for scoped queries)\nresolver #1\nnameserver[0] : 1.2.3.4\nif_index : 4 (en0)\n",
             {text("1.2.3.4 on en0")});
-        row("scoped only", "DNS configuration (for scoped queries)\nresolver #1\nnameserver[0] : 1.2.3.4\n",
+        row("scoped only",
+            "DNS configuration (for scoped queries)\nresolver #1\nnameserver[0] : 1.2.3.4\n",
             {text("1.2.3.4")});
         row("search domains only", "resolver #1\nsearch domain[0] : a.example\n", {});
-        row("another loopback address", "resolver #1\nnameserver[0] : 127.0.0.53\n", {text("127.0.0.53")});
+        row("another loopback address", "resolver #1\nnameserver[0] : 127.0.0.53\n",
+            {text("127.0.0.53")});
         row("nothing", "", {});
     }
     void findsLeaks()
@@ -203,10 +228,12 @@ private Q_SLOTS:
 
     void aLeakKeepsItsResolversOtherFields()
     {
-        const DNSResolver resolver{text("corp"), {text("::1"), text("10.8.0.1")}, text("tun0"), true, false};
+        const DNSResolver resolver{
+            text("corp"), {text("::1"), text("10.8.0.1")}, text("tun0"), true, false};
         const auto leaks = DNSCheck::leaks({resolver});
         QCOMPARE(leaks.size(), 1u);
-        QCOMPARE(leaks[0], (DNSResolver{text("corp"), {text("10.8.0.1")}, text("tun0"), true, false}));
+        QCOMPARE(leaks[0],
+                 (DNSResolver{text("corp"), {text("10.8.0.1")}, text("tun0"), true, false}));
     }
 
     void resolversCompareAndHashOverAllFields()
@@ -219,17 +246,35 @@ private Q_SLOTS:
         variants[4].scoped = true;
         variants[5].isMDNS = true;
         QCOMPARE(QSet<DNSResolver>(variants.begin(), variants.end()).size(), 6);
-        QCOMPARE((DNSResolver{text("corp.example"), {text("10.0.0.53"), text("10.0.0.54")}, text("utun3"), false, false}).summary(),
+        QCOMPARE((DNSResolver{text("corp.example"),
+                              {text("10.0.0.53"), text("10.0.0.54")},
+                              text("utun3"),
+                              false,
+                              false})
+                     .summary(),
                  text("10.0.0.53, 10.0.0.54 for *.corp.example on utun3"));
     }
 
     void randomTextIsReadWithoutHarm()
     {
         QRandomGenerator random(3);
-        const QStringList pieces{text("DNS configuration"), text("(for scoped queries)"), text("resolver #"),
-                                 text("nameserver[0]"), text(":"), text("if_index"), text("("), text(")"),
-                                 text("\n"), text(" "), text("\r"), text("options"), text("mdns"), text("domain"),
-                                 text("é"), QString(QChar(0xD800)), QString(QChar(0))};
+        const QStringList pieces{text("DNS configuration"),
+                                 text("(for scoped queries)"),
+                                 text("resolver #"),
+                                 text("nameserver[0]"),
+                                 text(":"),
+                                 text("if_index"),
+                                 text("("),
+                                 text(")"),
+                                 text("\n"),
+                                 text(" "),
+                                 text("\r"),
+                                 text("options"),
+                                 text("mdns"),
+                                 text("domain"),
+                                 text("é"),
+                                 QString(QChar(0xD800)),
+                                 QString(QChar(0))};
         for (int round = 0; round < 5000; ++round) {
             QString input;
             for (int i = random.bounded(60); i > 0; --i)
@@ -271,8 +316,11 @@ private Q_SLOTS:
         };
         int row = 0;
         for (const auto &c : cases) {
-            const DNSStatus status = DNSCheck::statusAfter(c.leaks, c.live, c.liveVerified, c.current);
-            QVERIFY2(status == c.expected, qPrintable(QStringLiteral("row %1: %2").arg(row).arg(status.text().english())));
+            const DNSStatus status = DNSCheck::statusAfter(c.leaks, c.live, c.liveVerified,
+                                                           c.current);
+            QVERIFY2(
+                status == c.expected,
+                qPrintable(QStringLiteral("row %1: %2").arg(row).arg(status.text().english())));
             ++row;
         }
     }
@@ -284,22 +332,28 @@ private Q_SLOTS:
         QCOMPARE(DNSStatus::throughTor().text(), text("DNS: a test lookup went through Tor."));
         QCOMPARE(DNSStatus::unverified().text(),
                  text("DNS: settings point at Tor, but a test lookup couldn't be confirmed."));
-        QCOMPARE(DNSStatus::leak({text("a"), text("b")}).text(), text("DNS can go around Tor via: a; b"));
-        QCOMPARE(DNSCheck::stillLeakingText({text("a")}, false),
-                 text("Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around Tor: a."));
-        QCOMPARE(DNSCheck::stillLeakingText({text("a"), text("%2 b")}, true),
-                 text("Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still "
-                      "point around Tor: a; %2 b. Strict mode's firewall blocks them."));
+        QCOMPARE(DNSStatus::leak({text("a"), text("b")}).text(),
+                 text("DNS can go around Tor via: a; b"));
+        QCOMPARE(
+            DNSCheck::stillLeakingText({text("a")}, false),
+            text(
+                "Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point around Tor: a."));
+        QCOMPARE(
+            DNSCheck::stillLeakingText({text("a"), text("%2 b")}, true),
+            text("Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still "
+                 "point around Tor: a; %2 b. Strict mode's firewall blocks them."));
         QVERIFY(DNSStatus::leak({text("a")}) != DNSStatus::leak({text("a"), text("a")}));
         QVERIFY(DNSStatus::leak({text("a")}) == DNSStatus::leak({text("a")}));
-        for (const DNSStatus &status : {DNSStatus::unknown(), DNSStatus::checking(), DNSStatus::throughTor(),
-                                        DNSStatus::unverified(), DNSStatus::leak({})})
+        for (const DNSStatus &status :
+             {DNSStatus::unknown(), DNSStatus::checking(), DNSStatus::throughTor(),
+              DNSStatus::unverified(), DNSStatus::leak({})})
             QVERIFY(!status.name().isEmpty());
     }
 
     void probeNamesAreFreshNamesBelowARealDomain()
     {
-        const QRegularExpression shape(text("^veldmark-check-[0-9a-f]{8}-[0-9a-f]{4}-[0-9a-f]{2}\\.torproject\\.org$"));
+        const QRegularExpression shape(
+            text("^veldmark-check-[0-9a-f]{8}-[0-9a-f]{4}-[0-9a-f]{2}\\.torproject\\.org$"));
         QSet<QString> names;
         for (int i = 0; i < 100; ++i) {
             const QString name = DNSCheck::probeName();
@@ -376,16 +430,17 @@ private Q_SLOTS:
             lookupLimit = limit;
             return failed();
         };
-        const DNSCheck::CaptureResolves capture = [&](std::chrono::milliseconds duration,
-                                                      const std::function<QCoro::Task<void>()> &work) {
-            capturedFor = duration;
-            if (!captures)
-                return captured(std::nullopt);
-            work();
-            QString names = seen;
-            names.replace(text("NAME"), asked).replace(text("UPPER"), asked.toUpper());
-            return captured(names.split(u' ', Qt::SkipEmptyParts));
-        };
+        const DNSCheck::CaptureResolves capture =
+            [&](std::chrono::milliseconds duration,
+                const std::function<QCoro::Task<void>()> &work) {
+                capturedFor = duration;
+                if (!captures)
+                    return captured(std::nullopt);
+                work();
+                QString names = seen;
+                names.replace(text("NAME"), asked).replace(text("UPPER"), asked.toUpper());
+                return captured(names.split(u' ', Qt::SkipEmptyParts));
+            };
         const auto status = std::make_shared<std::optional<DNSStatus>>();
         keepStatus(DNSCheck::liveTest(capture, lookup), status);
         QTRY_VERIFY(status->has_value());

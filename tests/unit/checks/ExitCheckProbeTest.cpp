@@ -18,9 +18,11 @@ using Kind = ProbeError::Kind;
 
 namespace {
 
-const QString everyHost = QStringLiteral("DNS:check.torproject.org,DNS:localhost,IP:127.0.0.1,IP:0.0.0.0");
+const QString everyHost = QStringLiteral(
+    "DNS:check.torproject.org,DNS:localhost,IP:127.0.0.1,IP:0.0.0.0");
 
-QCoro::Task<void> keep(QCoro::Task<ProbeResult> task, std::shared_ptr<std::optional<ProbeResult>> kept)
+QCoro::Task<void> keep(QCoro::Task<ProbeResult> task,
+                       std::shared_ptr<std::optional<ProbeResult>> kept)
 {
     const ProbeResult result = co_await task;
     *kept = result;
@@ -35,19 +37,23 @@ public:
     Kind failure() const { return result().error().kind; }
 
 private:
-    std::shared_ptr<std::optional<ProbeResult>> m_result = std::make_shared<std::optional<ProbeResult>>();
+    std::shared_ptr<std::optional<ProbeResult>> m_result
+        = std::make_shared<std::optional<ProbeResult>>();
 };
 
 // Counts how often the time was read, which a probe does whenever something arrives.
 class ObservedClock final : public Clock {
 public:
-    explicit ObservedClock(ManualClock &inner) : m_inner(inner) {}
+    explicit ObservedClock(ManualClock &inner) : m_inner(inner) { }
     TimePoint now() const override
     {
         ++readings;
         return m_inner.now();
     }
-    QCoro::Task<void> sleep(std::chrono::milliseconds duration) override { return m_inner.sleep(duration); }
+    QCoro::Task<void> sleep(std::chrono::milliseconds duration) override
+    {
+        return m_inner.sleep(duration);
+    }
     mutable int readings = 0;
 
 private:
@@ -77,7 +83,8 @@ class ExitCheckProbeTest : public QObject {
 
     std::unique_ptr<ExitCheckProbe> probe(quint16 socksPort = 1)
     {
-        return std::make_unique<ExitCheckProbe>(*m_clock, url(), socksPort, m_certificates->client());
+        return std::make_unique<ExitCheckProbe>(*m_clock, url(), socksPort,
+                                                m_certificates->client());
     }
 
 private Q_SLOTS:
@@ -98,7 +105,8 @@ private Q_SLOTS:
 
     void asksTheTorProjectsService()
     {
-        QCOMPARE(NetworkProbe::checkURL(), QUrl(QStringLiteral("https://check.torproject.org/api/ip")));
+        QCOMPARE(NetworkProbe::checkURL(),
+                 QUrl(QStringLiteral("https://check.torproject.org/api/ip")));
         QCOMPARE(ExitCheckProbe::torSocksPort, quint16(9050));
     }
 
@@ -107,7 +115,8 @@ private Q_SLOTS:
         const auto network = probe();
         const Probe direct(network->direct());
         QTRY_VERIFY(direct.isDone());
-        QVERIFY2(direct.result(), qPrintable(direct.result() ? QString() : direct.result().error().detail));
+        QVERIFY2(direct.result(),
+                 qPrintable(direct.result() ? QString() : direct.result().error().detail));
         QCOMPARE(*direct.result(), (IPCheck{false, QStringLiteral("192.0.2.8")}));
         QCOMPARE(m_service->requests.size(), 1);
         QVERIFY(m_service->requests[0].startsWith("GET /api/ip HTTP/1.1\r\n"));
@@ -134,7 +143,8 @@ private Q_SLOTS:
         QVERIFY(second.contains("\r\naccept-language: en\r\n"));
     }
 
-    // The name is one that this computer can't resolve: an answer proves that only the proxy saw it.
+    // The name is one that this computer can't resolve: an answer proves that only the proxy saw
+    // it.
     void torsProbeLeavesTheNameToTheProxy()
     {
         m_service = std::make_unique<CheckService>(
@@ -198,8 +208,8 @@ private Q_SLOTS:
         for (const bool fromSystem : {true, false}) {
             QNetworkProxyFactory::setUseSystemConfiguration(fromSystem);
             if (!fromSystem)
-                QNetworkProxy::setApplicationProxy(
-                    QNetworkProxy(QNetworkProxy::Socks5Proxy, QStringLiteral("127.0.0.1"), trap.port()));
+                QNetworkProxy::setApplicationProxy(QNetworkProxy(
+                    QNetworkProxy::Socks5Proxy, QStringLiteral("127.0.0.1"), trap.port()));
 
             // The trap works: an ordinary request falls into it.
             const int before = trap.connections;
@@ -221,23 +231,29 @@ private Q_SLOTS:
     void refusesBadAnswers_data()
     {
         QTest::addColumn<QByteArray>("response");
-        const auto row = [](const char *name, const QByteArray &response) { QTest::newRow(name) << response; };
+        const auto row = [](const char *name, const QByteArray &response) {
+            QTest::newRow(name) << response;
+        };
         const QByteArray good = R"({"IsTor":true,"IP":"203.0.113.7"})";
         const QByteArray length = "Content-Length: " + QByteArray::number(good.size()) + "\r\n";
         row("503 with valid JSON", "HTTP/1.1 503 Unavailable\r\n" + length + "\r\n" + good);
         row("201 with valid JSON", "HTTP/1.1 201 Created\r\n" + length + "\r\n" + good);
         row("204", "HTTP/1.1 204 No Content\r\n\r\n");
         row("redirect", "HTTP/1.1 302 Found\r\nLocation: /other\r\n" + length + "\r\n" + good);
-        row("asks for a password", "HTTP/1.1 401 No\r\nWWW-Authenticate: Basic realm=\"x\"\r\n" + length + "\r\n" + good);
+        row("asks for a password",
+            "HTTP/1.1 401 No\r\nWWW-Authenticate: Basic realm=\"x\"\r\n" + length + "\r\n" + good);
         row("garbage in place of JSON", "HTTP/1.1 200 OK\r\nContent-Length: 7\r\n\r\ngarbage");
-        row("wrong case of the key", "HTTP/1.1 200 OK\r\nContent-Length: 33\r\n\r\n{\"isTor\":true,\"IP\":\"203.0.113.7\"}");
+        row("wrong case of the key",
+            "HTTP/1.1 200 OK\r\nContent-Length: 33\r\n\r\n{\"isTor\":true,\"IP\":\"203.0.113.7\"}");
         row("half a body", "HTTP/1.1 200 OK\r\n" + length + "\r\n" + good.left(20));
-        row("a whole object that was announced longer", "HTTP/1.1 200 OK\r\nContent-Length: 500\r\n\r\n" + good);
+        row("a whole object that was announced longer",
+            "HTTP/1.1 200 OK\r\nContent-Length: 500\r\n\r\n" + good);
         row("empty body", "HTTP/1.1 200 OK\r\nContent-Length: 0\r\n\r\n");
         row("not HTTP", "SSH-2.0-OpenSSH_9.2\r\n\r\n");
         row("nothing, then closed", "");
         row("broken chunks", "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\nzzz\r\n{}\r\n");
-        row("too long", "HTTP/1.1 200 OK\r\nContent-Length: 70000\r\n\r\n" + good.leftJustified(70000));
+        row("too long",
+            "HTTP/1.1 200 OK\r\nContent-Length: 70000\r\n\r\n" + good.leftJustified(70000));
     }
     void refusesBadAnswers()
     {
@@ -404,7 +420,8 @@ private Q_SLOTS:
         QVERIFY(server.listen(QHostAddress::LocalHost));
         connect(&server, &QTcpServer::newConnection, &server, [&server] {
             QTcpSocket *const socket = server.nextPendingConnection();
-            connect(socket, &QTcpSocket::readyRead, socket, [socket] { // all of it: else it is a reset
+            // all of it: else it is a reset
+            connect(socket, &QTcpSocket::readyRead, socket, [socket] {
                 socket->readAll();
                 socket->disconnectFromHost();
             });
@@ -423,9 +440,11 @@ private Q_SLOTS:
     {
         m_service->respond = [this](QSslSocket *socket) {
             if (m_service->requests.last().startsWith("GET /other "))
-                CheckService::goodAnswer(true, "192.0.2.9")(socket); // following it would look like an answer
+                // following it would look like an answer
+                CheckService::goodAnswer(true, "192.0.2.9")(socket);
             else
-                socket->write("HTTP/1.1 302 Found\r\nLocation: /other\r\nContent-Length: 0\r\n\r\n");
+                socket->write(
+                    "HTTP/1.1 302 Found\r\nLocation: /other\r\nContent-Length: 0\r\n\r\n");
         };
         const auto network = probe();
         const Probe direct(network->direct());

@@ -24,12 +24,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("ip");
         QTest::newRow("a Tor exit") << json("{'IsTor': true, 'IP': '203.0.113.7'}") << true
                                     << QStringLiteral("203.0.113.7");
-        QTest::newRow("not Tor, IPv6") << json("{'IP':'2001:db8::1','IsTor':false}") << false
-                                       << QStringLiteral("2001:db8::1");
-        QTest::newRow("other keys") << json("{'IsTor':true,'x':[1,{'IP':2}],'IP':'203.0.113.7','isTor':1}")
-                                    << true << QStringLiteral("203.0.113.7");
-        QTest::newRow("white space round it") << QByteArray("\r\n {\"IsTor\":true,\"IP\":\"203.0.113.7\"}\n") << true
-                                              << QStringLiteral("203.0.113.7");
+        QTest::newRow("not Tor, IPv6")
+            << json("{'IP':'2001:db8::1','IsTor':false}") << false << QStringLiteral("2001:db8::1");
+        QTest::newRow("other keys")
+            << json("{'IsTor':true,'x':[1,{'IP':2}],'IP':'203.0.113.7','isTor':1}") << true
+            << QStringLiteral("203.0.113.7");
+        QTest::newRow("white space round it")
+            << QByteArray("\r\n {\"IsTor\":true,\"IP\":\"203.0.113.7\"}\n") << true
+            << QStringLiteral("203.0.113.7");
         QTest::newRow("as long as allowed")
             << json("{'IsTor':true,'IP':'203.0.113.7'}").leftJustified(IPCheck::sizeLimitBytes)
             << true << QStringLiteral("203.0.113.7");
@@ -47,7 +49,9 @@ private Q_SLOTS:
     void refusesEverythingElse_data()
     {
         QTest::addColumn<QByteArray>("body");
-        const auto row = [](const char *name, const char *body) { QTest::newRow(name) << json(body); };
+        const auto row = [](const char *name, const char *body) {
+            QTest::newRow(name) << json(body);
+        };
         row("empty", "");
         row("not JSON", "<html>503</html>");
         row("wrong case", "{'isTor':true,'IP':'203.0.113.7'}");
@@ -63,7 +67,8 @@ private Q_SLOTS:
         row("an empty address", "{'IsTor':true,'IP':''}");
         row("an address with something after it", "{'IsTor':true,'IP':'fe80::1%<b>eth0</b>'}");
         row("an address with a NUL in it", "{'IsTor':true,'IP':'203.0\\u0000113.7'}");
-        QTest::newRow("an address that is too long") << json(("{'IsTor':true,'IP':'" + QByteArray(46, '0') + "'}").constData());
+        QTest::newRow("an address that is too long")
+            << json(("{'IsTor':true,'IP':'" + QByteArray(46, '0') + "'}").constData());
         row("an array", "[{'IsTor':true,'IP':'203.0.113.7'}]");
         row("half", "{'IsTor':true,'IP':'203.0");
         row("two objects", "{'IsTor':true,'IP':'203.0.113.7'}{}");

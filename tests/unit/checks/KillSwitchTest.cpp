@@ -34,9 +34,10 @@ private Q_SLOTS:
     void believesNothingElse_data()
     {
         QTest::addColumn<QByteArray>("note");
-        for (const char *note : {"", "\n", "standing", "standing 0", "standing 0 x", "standing x 1", "standing -1 1", "standing 0 -1",
-                                 "standing 0 1 2", "Standing 0 1", "restored 1", "putBack 1 1", "unknown 0 1", "standing  0 1",
-                                 "standing 0 99999999999999999999"})
+        for (const char *note :
+             {"", "\n", "standing", "standing 0", "standing 0 x", "standing x 1", "standing -1 1",
+              "standing 0 -1", "standing 0 1 2", "Standing 0 1", "restored 1", "putBack 1 1",
+              "unknown 0 1", "standing  0 1", "standing 0 99999999999999999999"})
             QTest::newRow(qPrintable(QString::fromLatin1(note).simplified())) << QByteArray(note);
     }
 

@@ -7,8 +7,10 @@ using namespace veldmark;
 using namespace std::chrono_literals;
 
 namespace {
-const ProbeResult silent = Failure(ProbeError{ProbeError::Kind::timedOut, QStringLiteral("x"), false});
-const ProbeResult unusable = Failure(ProbeError{ProbeError::Kind::certificate, QStringLiteral("x"), true});
+const ProbeResult silent = Failure(
+    ProbeError{ProbeError::Kind::timedOut, QStringLiteral("x"), false});
+const ProbeResult unusable = Failure(
+    ProbeError{ProbeError::Kind::certificate, QStringLiteral("x"), true});
 const ProbeResult exitAddress = IPCheck{true, QStringLiteral("203.0.113.10")};
 const ProbeResult ownAddress = IPCheck{false, QStringLiteral("192.0.2.8")};
 const auto proxy = std::optional(RoutingMode::proxy);
@@ -34,15 +36,24 @@ private Q_SLOTS:
             {"Tor's address is no known exit", ownAddress, silent, strict, LeakStatus::blocked()},
             {"neither answers", silent, silent, strict, LeakStatus::inconclusive()},
             {"neither answers, proxy", silent, silent, proxy, LeakStatus::inconclusive()},
-            {"direct answers, strict", exitAddress, ownAddress, strict, LeakStatus::exposed(QStringLiteral("192.0.2.8"))},
-            {"direct answers, proxy", exitAddress, ownAddress, proxy, LeakStatus::exposed(QStringLiteral("192.0.2.8"))},
-            {"only direct answers", silent, ownAddress, none, LeakStatus::exposed(QStringLiteral("192.0.2.8"))},
-            {"direct through an exit, strict", exitAddress, exitAddress, strict, LeakStatus::blocked()},
-            {"direct through an exit, strict, no Tor answer", silent, exitAddress, strict, LeakStatus::blocked()},
-            {"direct through an exit, proxy", exitAddress, exitAddress, proxy, LeakStatus::inconclusive()},
-            {"direct through an exit, no mode", exitAddress, exitAddress, none, LeakStatus::inconclusive()},
-            {"a portal answers on the direct path", exitAddress, unusable, strict, LeakStatus::inconclusive()},
-            {"the service is broken for both", unusable, unusable, proxy, LeakStatus::inconclusive()},
+            {"direct answers, strict", exitAddress, ownAddress, strict,
+             LeakStatus::exposed(QStringLiteral("192.0.2.8"))},
+            {"direct answers, proxy", exitAddress, ownAddress, proxy,
+             LeakStatus::exposed(QStringLiteral("192.0.2.8"))},
+            {"only direct answers", silent, ownAddress, none,
+             LeakStatus::exposed(QStringLiteral("192.0.2.8"))},
+            {"direct through an exit, strict", exitAddress, exitAddress, strict,
+             LeakStatus::blocked()},
+            {"direct through an exit, strict, no Tor answer", silent, exitAddress, strict,
+             LeakStatus::blocked()},
+            {"direct through an exit, proxy", exitAddress, exitAddress, proxy,
+             LeakStatus::inconclusive()},
+            {"direct through an exit, no mode", exitAddress, exitAddress, none,
+             LeakStatus::inconclusive()},
+            {"a portal answers on the direct path", exitAddress, unusable, strict,
+             LeakStatus::inconclusive()},
+            {"the service is broken for both", unusable, unusable, proxy,
+             LeakStatus::inconclusive()},
         };
         for (const auto &c : cases) {
             const NetworkVerdict verdict = NetworkVerdict::of(c.tor, 100ms, c.direct, c.mode);
@@ -71,7 +82,8 @@ private Q_SLOTS:
     void statusesCompareWithTheirAddress()
     {
         QVERIFY(LeakStatus() == LeakStatus::notTested());
-        QVERIFY(LeakStatus::exposed(QStringLiteral("a")) != LeakStatus::exposed(QStringLiteral("b")));
+        QVERIFY(LeakStatus::exposed(QStringLiteral("a"))
+                != LeakStatus::exposed(QStringLiteral("b")));
         QVERIFY(LeakStatus::checking() != LeakStatus::blocked());
         QCOMPARE(LeakStatus::exposed(QStringLiteral("a")).address(), QStringLiteral("a"));
         QCOMPARE(LeakStatus::notTested().name(), QStringLiteral("notTested"));

@@ -39,11 +39,15 @@ private Q_SLOTS:
         QVERIFY(run(u"ip link set lo up"_s));
     }
 
-    void thereIsNoneToBeginWith() { QVERIFY(!NetworkRoute::present()); }
+    void thereIsNoneToBeginWith()
+    {
+        QVERIFY(!NetworkRoute::present());
+    }
 
     void aNeighbourIsNoWayOut()
     {
-        QVERIFY(run(u"ip link add eth7 type veth peer name other"_s) && run(u"ip link set eth7 up"_s) && run(u"ip link set other up"_s));
+        QVERIFY(run(u"ip link add eth7 type veth peer name other"_s)
+                && run(u"ip link set eth7 up"_s) && run(u"ip link set other up"_s));
         QVERIFY(run(u"ip address add 10.7.0.2/24 dev eth7"_s));
         QVERIFY(!NetworkRoute::present());
     }
@@ -62,7 +66,8 @@ private Q_SLOTS:
         if (!run(u"ip tuntap add dev wg7 mode tun"_s))
             QSKIP("this kernel has no tun devices");
         QVERIFY(run(u"ip link set wg7 up"_s) && run(u"ip address add 10.8.0.2/32 dev wg7"_s));
-        QVERIFY(run(u"ip route add default dev wg7 table 777"_s) && run(u"ip rule add not fwmark 0x9 table 777"_s));
+        QVERIFY(run(u"ip route add default dev wg7 table 777"_s)
+                && run(u"ip rule add not fwmark 0x9 table 777"_s));
         const auto route = NetworkRoute::present();
         QVERIFY(route);
         QCOMPARE(route->device, u"wg7"_s);
@@ -79,7 +84,8 @@ private Q_SLOTS:
 
     void overIPv6AsWell()
     {
-        QVERIFY(run(u"ip -6 address add 2001:db8:7::2/64 dev eth7 nodad"_s) && run(u"ip -6 route add default via 2001:db8:7::1"_s));
+        QVERIFY(run(u"ip -6 address add 2001:db8:7::2/64 dev eth7 nodad"_s)
+                && run(u"ip -6 route add default via 2001:db8:7::1"_s));
         const auto route = NetworkRoute::present();
         QVERIFY(route);
         QCOMPARE(route->device, u"eth7"_s);

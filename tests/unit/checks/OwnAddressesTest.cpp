@@ -53,7 +53,8 @@ private Q_SLOTS:
     void loopbackIsNone()
     {
         for (const QHostAddress &address : OwnAddresses::present())
-            QVERIFY2(!address.isLoopback() && !address.isLinkLocal(), qPrintable(address.toString()));
+            QVERIFY2(!address.isLoopback() && !address.isLinkLocal(),
+                     qPrintable(address.toString()));
     }
 };
 

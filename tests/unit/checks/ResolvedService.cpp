@@ -42,15 +42,18 @@ Q_DECLARE_METATYPE(Server)
 Q_DECLARE_METATYPE(ServerEx)
 Q_DECLARE_METATYPE(LinkDomain)
 
-#define MARSHAL(Type, fields)                                                                       \
-    QDBusArgument &operator<<(QDBusArgument &a, const Type &v)                                      \
-    {                                                                                               \
-        a.beginStructure();                                                                         \
-        fields;                                                                                     \
-        a.endStructure();                                                                           \
-        return a;                                                                                   \
-    }                                                                                               \
-    const QDBusArgument &operator>>(const QDBusArgument &a, Type &) { return a; }
+#define MARSHAL(Type, fields)                                                                      \
+    QDBusArgument &operator<<(QDBusArgument &a, const Type &v)                                     \
+    {                                                                                              \
+        a.beginStructure();                                                                        \
+        fields;                                                                                    \
+        a.endStructure();                                                                          \
+        return a;                                                                                  \
+    }                                                                                              \
+    const QDBusArgument &operator>>(const QDBusArgument &a, Type &)                                \
+    {                                                                                              \
+        return a;                                                                                  \
+    }
 MARSHAL(LinkServer, a << v.family << v.address)
 MARSHAL(LinkServerEx, a << v.family << v.address << v.port << v.name)
 MARSHAL(Server, a << v.index << v.family << v.address)
@@ -81,9 +84,10 @@ void PrivateBus::start()
     if (m_daemon.state() != QProcess::NotRunning)
         return;
     QFile::remove(m_folder.filePath(QStringLiteral("bus")));
-    m_daemon.start(QStringLiteral("dbus-daemon"),
-                   {QStringLiteral("--config-file=") + m_folder.filePath(QStringLiteral("bus.conf")),
-                    QStringLiteral("--nofork"), QStringLiteral("--print-address=1")});
+    m_daemon.start(
+        QStringLiteral("dbus-daemon"),
+        {QStringLiteral("--config-file=") + m_folder.filePath(QStringLiteral("bus.conf")),
+         QStringLiteral("--nofork"), QStringLiteral("--print-address=1")});
     while (!m_daemon.canReadLine()) {
         if (!m_daemon.waitForReadyRead())
             qFatal("dbus-daemon: %s", m_daemon.readAllStandardError().constData());
@@ -103,7 +107,8 @@ void PrivateBus::freeze()
 }
 
 ResolvedService::ResolvedService(const QString &busAddress)
-    : m_name(QStringLiteral("service")), m_connection(QDBusConnection::connectToBus(busAddress, m_name))
+    : m_name(QStringLiteral("service")),
+      m_connection(QDBusConnection::connectToBus(busAddress, m_name))
 {
     qDBusRegisterMetaType<QList<LinkServer>>();
     qDBusRegisterMetaType<QList<LinkServerEx>>();
@@ -132,14 +137,17 @@ QVariantMap ResolvedService::manager() const
     const QByteArray fallback = QByteArray::fromHex("01010101");
     const int lo = static_cast<int>(::if_nametoindex("lo"));
     QVariantMap map{
-        {QStringLiteral("DNS"), QVariant::fromValue(QList<Server>{{{AF_INET, router}, 0}, {{AF_INET6, vpn}, lo}})},
-        {QStringLiteral("FallbackDNS"), QVariant::fromValue(QList<Server>{{{AF_INET, fallback}, 0}})},
+        {QStringLiteral("DNS"),
+         QVariant::fromValue(QList<Server>{{{AF_INET, router}, 0}, {{AF_INET6, vpn}, lo}})},
+        {QStringLiteral("FallbackDNS"),
+         QVariant::fromValue(QList<Server>{{{AF_INET, fallback}, 0}})},
         {QStringLiteral("ResolvConfMode"), QStringLiteral("stub")},
     };
     if (withPorts) {
         map.insert(QStringLiteral("DNSEx"),
-                   QVariant::fromValue(QList<ServerEx>{{{{AF_INET, router}, 0, {}}, 0},
-                                                       {{{AF_INET6, vpn}, 853, QStringLiteral("dns.example")}, lo}}));
+                   QVariant::fromValue(QList<ServerEx>{
+                       {{{AF_INET, router}, 0, {}}, 0},
+                       {{{AF_INET6, vpn}, 853, QStringLiteral("dns.example")}, lo}}));
         map.insert(QStringLiteral("FallbackDNSEx"),
                    QVariant::fromValue(QList<ServerEx>{{{{AF_INET, fallback}, 0, {}}, 0}}));
     }
@@ -151,14 +159,16 @@ QVariantMap ResolvedService::link() const
     const QByteArray vpn = QByteArray::fromHex("20010db8000000000000000000000053");
     QVariantMap map{
         {QStringLiteral("DNS"), QVariant::fromValue(QList<LinkServer>{{AF_INET6, vpn}})},
-        {QStringLiteral("Domains"), QVariant::fromValue(QList<LinkDomain>{{QStringLiteral("corp.example"), false},
-                                                                          {QStringLiteral("int.example"), true}})},
+        {QStringLiteral("Domains"),
+         QVariant::fromValue(QList<LinkDomain>{{QStringLiteral("corp.example"), false},
+                                               {QStringLiteral("int.example"), true}})},
         {QStringLiteral("DefaultRoute"), false},
         {QStringLiteral("ScopesMask"), QVariant::fromValue<qulonglong>(3)},
     };
     if (withPorts)
         map.insert(QStringLiteral("DNSEx"),
-                   QVariant::fromValue(QList<LinkServerEx>{{{AF_INET6, vpn}, 853, QStringLiteral("dns.example")}}));
+                   QVariant::fromValue(
+                       QList<LinkServerEx>{{{AF_INET6, vpn}, 853, QStringLiteral("dns.example")}}));
     return map;
 }
 
@@ -172,10 +182,11 @@ bool ResolvedService::handleMessage(const QDBusMessage &message, const QDBusConn
     }
     if (message.member() == u"GetLink") {
         const int index = message.arguments().constFirst().toInt();
-        connection.send(index == static_cast<int>(::if_nametoindex("lo"))
-                            ? message.createReply(QVariant::fromValue(QDBusObjectPath(linkPath)))
-                            : message.createErrorReply(QStringLiteral("org.freedesktop.resolve1.NoSuchLink"),
-                                                       QStringLiteral("Link not known")));
+        connection.send(
+            index == static_cast<int>(::if_nametoindex("lo"))
+                ? message.createReply(QVariant::fromValue(QDBusObjectPath(linkPath)))
+                : message.createErrorReply(QStringLiteral("org.freedesktop.resolve1.NoSuchLink"),
+                                           QStringLiteral("Link not known")));
         return true;
     }
     if (message.member() == u"GetAll") {

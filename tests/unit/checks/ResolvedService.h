@@ -8,8 +8,8 @@
 
 #include <optional>
 
-// A message bus that takes the system bus's place in this process. One per process: the D-Bus library
-// looks for the system bus's address only once.
+// A message bus that takes the system bus's place in this process. One per process: the D-Bus
+// library looks for the system bus's address only once.
 class PrivateBus {
 public:
     PrivateBus();
@@ -38,8 +38,8 @@ public:
     bool withPorts = true; // the daemon is new enough for "DNSEx"
     int calls = 0;
 
-    void answerLate();               // what it was silent about
-    bool hasListener() const;        // whoever asked that is still on the bus
+    void answerLate();        // what it was silent about
+    bool hasListener() const; // whoever asked that is still on the bus
 
     QString introspect(const QString &) const override { return {}; }
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override;

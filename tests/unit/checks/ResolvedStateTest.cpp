@@ -10,7 +10,10 @@
 using namespace veldmark;
 
 namespace {
-QString text(const char *utf8) { return QString::fromUtf8(utf8); }
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
 
 ResolvedServer ipv4(const char *hex, int link = 0, quint16 port = 0)
 {
@@ -45,9 +48,16 @@ class ResolvedStateTest : public QObject {
                          ipv6("fe800000000000000000000000000001", 3), ipv4("0a080001", 2),
                          ipv4("0a080003", 2, 5353)};
         state.fallbackServers = {ipv4("01010101"), ipv6("26064700470000000000000000001111")};
-        state.links = {{text("tun7"), {ipv4("0a080001"), ipv4("0a080003", 0, 5353)},
-                        {{text("corp.example"), false}, {text("internal.example"), true}}, false, true},
-                       {text("eth7"), {ipv4("c0a84d01"), ipv6("fe800000000000000000000000000001")}, {}, true, true}};
+        state.links = {{text("tun7"),
+                        {ipv4("0a080001"), ipv4("0a080003", 0, 5353)},
+                        {{text("corp.example"), false}, {text("internal.example"), true}},
+                        false,
+                        true},
+                       {text("eth7"),
+                        {ipv4("c0a84d01"), ipv6("fe800000000000000000000000000001")},
+                        {},
+                        true,
+                        true}};
         return state;
     }
 
@@ -58,17 +68,23 @@ private Q_SLOTS:
         QTest::addColumn<QString>("expected");
         QTest::newRow("IPv4") << ipv4("c0a80101").text() << text("192.168.1.1");
         QTest::newRow("usual port") << ipv4("c0a80101", 0, 53).text() << text("192.168.1.1");
-        QTest::newRow("unusual port") << ipv4("c0a80101", 0, 5353).text() << text("192.168.1.1:5353");
-        QTest::newRow("IPv6") << ipv6("20010db8000000000000000000000053").text() << text("2001:db8::53");
+        QTest::newRow("unusual port")
+            << ipv4("c0a80101", 0, 5353).text() << text("192.168.1.1:5353");
+        QTest::newRow("IPv6") << ipv6("20010db8000000000000000000000053").text()
+                              << text("2001:db8::53");
         QTest::newRow("IPv6 with port") << ipv6("20010db8000000000000000000000053", 0, 853).text()
                                         << text("[2001:db8::53]:853");
         QTest::newRow("Tor's port") << ipv4("7f000001", 0, 293).text() << text("127.0.0.1");
         QTest::newRow("Tor's port, IPv6") << ipv6(loopback6, 0, 293).text() << text("::1");
-        QTest::newRow("Tor's port elsewhere") << ipv4("0a000001", 0, 293).text() << text("10.0.0.1:293");
-        QTest::newRow("another program on the loopback") << ipv4("7f000001", 0, 5353).text() << text("127.0.0.1:5353");
+        QTest::newRow("Tor's port elsewhere")
+            << ipv4("0a000001", 0, 293).text() << text("10.0.0.1:293");
+        QTest::newRow("another program on the loopback")
+            << ipv4("7f000001", 0, 5353).text() << text("127.0.0.1:5353");
         QTest::newRow("too short") << ipv4("7f0000").text() << QString();
-        QTest::newRow("wrong family") << ResolvedServer{0, AF_INET, QByteArray(16, 'x'), 0, {}}.text() << QString();
-        QTest::newRow("unknown family") << ResolvedServer{0, 99, QByteArray(4, 'x'), 0, {}}.text() << QString();
+        QTest::newRow("wrong family")
+            << ResolvedServer{0, AF_INET, QByteArray(16, 'x'), 0, {}}.text() << QString();
+        QTest::newRow("unknown family")
+            << ResolvedServer{0, 99, QByteArray(4, 'x'), 0, {}}.text() << QString();
     }
     void writesServersAsText()
     {
@@ -106,8 +122,11 @@ private Q_SLOTS:
     {
         ResolvedState state;
         state.servers = {ipv4("7f000001", 1), ipv6(loopback6, 1), ipv4("7f000001", 1, 293)};
-        state.links = {{text("eth7"), {ipv4("7f000001"), ipv6(loopback6), ipv4("7f000001", 0, 293)},
-                        {{text("."), true}}, true, true}};
+        state.links = {{text("eth7"),
+                        {ipv4("7f000001"), ipv6(loopback6), ipv4("7f000001", 0, 293)},
+                        {{text("."), true}},
+                        true,
+                        true}};
         QCOMPARE(summaries(state.resolvers()), text("127.0.0.1, ::1 on eth7"));
         QVERIFY(DNSCheck::leaks(state.resolvers()).empty());
     }
@@ -131,7 +150,9 @@ private Q_SLOTS:
 
     void propertiesOfOddTypesAreAsIfUnset()
     {
-        const QVariantMap odd{{text("DNS"), 5}, {text("DNSEx"), text("x")}, {text("Domains"), true},
+        const QVariantMap odd{{text("DNS"), 5},
+                              {text("DNSEx"), text("x")},
+                              {text("Domains"), true},
                               {text("FallbackDNSEx"), QVariant()}};
         const ResolvedState state = ResolvedState::fromProperties(odd);
         QVERIFY(state.servers.empty() && state.fallbackServers.empty());

@@ -11,7 +11,10 @@
 using namespace veldmark;
 
 namespace {
-QString text(const char *utf8) { return QString::fromUtf8(utf8); }
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
 } // namespace
 
 class ResolverFileTest : public QObject {
@@ -34,7 +37,8 @@ private Q_SLOTS:
         QCOMPARE(file.search, (QStringList{text("corp.example"), text("lan")}));
         QCOMPARE(file.options.join(u' '),
                  text("ndots:2 timeout:1 attempts:3 rotate edns0 trust-ad single-request-reopen"));
-        QCOMPARE(file.sortlist, (QStringList{text("130.155.160.0/255.255.240.0"), text("130.155.0.0")}));
+        QCOMPARE(file.sortlist,
+                 (QStringList{text("130.155.160.0/255.255.240.0"), text("130.155.0.0")}));
         const auto resolvers = file.resolvers();
         QCOMPARE(resolvers.size(), 1u);
         QCOMPARE(resolvers[0].summary(), text("192.168.1.1, fe80::1%eth0"));
@@ -50,8 +54,10 @@ private Q_SLOTS:
         };
         row("empty", "", "");
         row("no line end", "nameserver 1.2.3.4", "1.2.3.4");
-        row("line ends of another system", "nameserver 1.2.3.4\r\nnameserver 5.6.7.8\r\n", "1.2.3.4 5.6.7.8");
-        row("the first three", "nameserver 1.1.1.1\nnameserver 2.2.2.2\nnameserver 3.3.3.3\nnameserver 4.4.4.4\n",
+        row("line ends of another system", "nameserver 1.2.3.4\r\nnameserver 5.6.7.8\r\n",
+            "1.2.3.4 5.6.7.8");
+        row("the first three",
+            "nameserver 1.1.1.1\nnameserver 2.2.2.2\nnameserver 3.3.3.3\nnameserver 4.4.4.4\n",
             "1.1.1.1 2.2.2.2 3.3.3.3");
         row("the first three that are addresses",
             "nameserver x\nnameserver 1.1.1.1\nnameserver 999.1.1.1\nnameserver 2.2.2.2\nnameserver 3.3.3.3\n",
@@ -59,7 +65,8 @@ private Q_SLOTS:
         row("scopes that are none",
             "nameserver fe80::1%\nnameserver fe80::2%a%b\nnameserver fe80::3%0123456789abcdef\n",
             "fe80::1 fe80::2 fe80::3");
-        row("a scope that is no text", "nameserver fe80::1%\xff\x1b[2J\nnameserver fe80::2%e\xcc\x81\n", "fe80::1 fe80::2");
+        row("a scope that is no text",
+            "nameserver fe80::1%\xff\x1b[2J\nnameserver fe80::2%e\xcc\x81\n", "fe80::1 fe80::2");
         row("indented", " nameserver 1.2.3.4\n\tnameserver 1.2.3.4\n", "");
         row("commented", "#nameserver 1.2.3.4\n;nameserver 1.2.3.4\n# nameserver 1.2.3.4\n", "");
         row("other case", "Nameserver 1.2.3.4\nNAMESERVER 1.2.3.4\n", "");
@@ -69,14 +76,18 @@ private Q_SLOTS:
         row("more words", "nameserver 1.2.3.4 5.6.7.8 domain\n", "1.2.3.4");
         row("a name", "nameserver dns.example\n", "");
         row("short forms", "nameserver 127.1\nnameserver 0:0:0:0:0:0:0:1\n", "127.0.0.1 ::1");
-        row("IPv6", "nameserver 2001:DB8::53\nnameserver ::ffff:1.2.3.4\n", "2001:db8::53 ::ffff:1.2.3.4");
+        row("IPv6", "nameserver 2001:DB8::53\nnameserver ::ffff:1.2.3.4\n",
+            "2001:db8::53 ::ffff:1.2.3.4");
         row("scope by number", "nameserver fe80::1%3\n", "fe80::1%3");
         row("brackets and ports", "nameserver [::1]:53\nnameserver 1.2.3.4:53\n", "");
         row("search before and after", "search a b\nnameserver 1.2.3.4\nsearch c\n", "1.2.3.4");
         row("invalid UTF-8", "search \xff\xfe\nnameserver 1.2.3.4\n", "1.2.3.4");
-        row("NUL ends a line, as in the C library", QByteArray("nameserver 1.2.3.4\0\nnameserver 5.6.7.8\n", 39), "1.2.3.4 5.6.7.8");
-        row("an overlong line", "search " + QByteArray(500000, 'a') + "\nnameserver 1.2.3.4\n", "1.2.3.4");
-        row("an overlong address", "nameserver " + QByteArray(500000, '1') + "\nnameserver 1.2.3.4\n", "1.2.3.4");
+        row("NUL ends a line, as in the C library",
+            QByteArray("nameserver 1.2.3.4\0\nnameserver 5.6.7.8\n", 39), "1.2.3.4 5.6.7.8");
+        row("an overlong line", "search " + QByteArray(500000, 'a') + "\nnameserver 1.2.3.4\n",
+            "1.2.3.4");
+        row("an overlong address",
+            "nameserver " + QByteArray(500000, '1') + "\nnameserver 1.2.3.4\n", "1.2.3.4");
     }
     void readsServers()
     {
@@ -90,7 +101,8 @@ private Q_SLOTS:
     void theLastOfSearchAndDomainCounts()
     {
         QCOMPARE(ResolverFile::parse("search a b\ndomain c d\n").search, QStringList{text("c")});
-        QCOMPARE(ResolverFile::parse("domain c\nsearch a b\n").search, (QStringList{text("a"), text("b")}));
+        QCOMPARE(ResolverFile::parse("domain c\nsearch a b\n").search,
+                 (QStringList{text("a"), text("b")}));
         QCOMPARE(ResolverFile::parse("search a\nsearch\n").search, QStringList{text("a")});
     }
 
@@ -100,7 +112,8 @@ private Q_SLOTS:
         for (int round = 0; round < 3000; ++round) {
             QByteArray bytes;
             for (int i = random.bounded(20); i > 0; --i) {
-                bytes += random.bounded(2) ? QByteArray("\nnameserver ") : QByteArray("1.2:%a\t#\r");
+                bytes += random.bounded(2) ? QByteArray("\nnameserver ")
+                                           : QByteArray("1.2:%a\t#\r");
                 bytes += static_cast<char>(random.bounded(256));
             }
             QVERIFY(ResolverFile::parse(bytes).nameservers.size() <= ResolverFile::serverLimit);
@@ -123,7 +136,8 @@ private Q_SLOTS:
         QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
         const QString pipeLink = folder.filePath(text("pipe link"));
         QVERIFY(QFile::link(pipe, pipeLink));
-        for (const QString &path : {pipe, pipeLink, folder.path(), folder.filePath(text("none")), text("/dev/zero")})
+        for (const QString &path :
+             {pipe, pipeLink, folder.path(), folder.filePath(text("none")), text("/dev/zero")})
             QCOMPARE(ResolverFile::read(path), QByteArray());
     }
 

@@ -19,7 +19,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-QString text(const char *utf8) { return QString::fromUtf8(utf8); }
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
 
 QCoro::Task<void> keep(QCoro::Task<std::vector<DNSResolver>> task,
                        std::shared_ptr<std::optional<std::vector<DNSResolver>>> kept)
@@ -42,8 +45,8 @@ public:
     }
 
 private:
-    std::shared_ptr<std::optional<std::vector<DNSResolver>>> m_result =
-        std::make_shared<std::optional<std::vector<DNSResolver>>>();
+    std::shared_ptr<std::optional<std::vector<DNSResolver>>> m_result
+        = std::make_shared<std::optional<std::vector<DNSResolver>>>();
 };
 
 QString summaries(const std::vector<DNSResolver> &resolvers)
@@ -91,10 +94,7 @@ private Q_SLOTS:
         m_folder = std::make_unique<QTemporaryDir>();
     }
 
-    void cleanup()
-    {
-        m_clock.reset();
-    }
+    void cleanup() { m_clock.reset(); }
 
     void tellsWhetherTheDaemonServesTheFile()
     {
@@ -103,9 +103,12 @@ private Q_SLOTS:
         QVERIFY(resolvedServes(text("/run/systemd/resolve/stub-resolv.conf"), plain));
         QVERIFY(resolvedServes(text("/run/systemd/resolve/resolv.conf"), plain));
         QVERIFY(!resolvedServes(text("/run/NetworkManager/resolv.conf"), plain));
-        QVERIFY(resolvedServes(text("/etc/resolv.conf"), ResolverFile::parse("nameserver 127.0.0.53\n")));
-        QVERIFY(resolvedServes(text("/etc/resolv.conf"), ResolverFile::parse("nameserver 1.2.3.4\nnameserver 127.0.0.54\n")));
-        QVERIFY(!resolvedServes(text("/etc/resolv.conf"), ResolverFile::parse("nameserver 127.0.0.1\n")));
+        QVERIFY(resolvedServes(text("/etc/resolv.conf"),
+                               ResolverFile::parse("nameserver 127.0.0.53\n")));
+        QVERIFY(resolvedServes(text("/etc/resolv.conf"),
+                               ResolverFile::parse("nameserver 1.2.3.4\nnameserver 127.0.0.54\n")));
+        QVERIFY(!resolvedServes(text("/etc/resolv.conf"),
+                                ResolverFile::parse("nameserver 127.0.0.1\n")));
     }
 
     void joinsTheFileWithTheDaemonsServers()
@@ -116,8 +119,8 @@ private Q_SLOTS:
         QCOMPARE(summaries(joinResolvers(stub, state)), text("192.168.1.1"));
         // The daemon's own address is no resolver by itself, whether it answers or not.
         QCOMPARE(summaries(joinResolvers(stub, std::nullopt)), QString());
-        const ResolverFile mixed =
-            ResolverFile::parse("nameserver 127.0.0.53\nnameserver 192.168.1.1\nnameserver 8.8.8.8\n");
+        const ResolverFile mixed = ResolverFile::parse(
+            "nameserver 127.0.0.53\nnameserver 192.168.1.1\nnameserver 8.8.8.8\n");
         QCOMPARE(summaries(joinResolvers(mixed, state)), text("192.168.1.1; 8.8.8.8"));
         QCOMPARE(summaries(joinResolvers(mixed, std::nullopt)), text("192.168.1.1, 8.8.8.8"));
     }
@@ -154,7 +157,8 @@ private Q_SLOTS:
     void asksTheDaemonBehindALinkIntoItsFolder()
     {
         ResolvedService service(m_bus->address());
-        const QString target = write(text("run/systemd/resolve/resolv.conf"), "nameserver 192.168.77.1\nnameserver 9.9.9.9\n");
+        const QString target = write(text("run/systemd/resolve/resolv.conf"),
+                                     "nameserver 192.168.77.1\nnameserver 9.9.9.9\n");
         const QString link = m_folder->filePath(text("resolv.conf"));
         QVERIFY(QFile::link(target, link));
         LinuxResolverSource source(*m_clock, link);
@@ -175,13 +179,15 @@ private Q_SLOTS:
         LinuxResolverSource source(*m_clock, write(text("resolv.conf"), "nameserver 127.0.0.53\n"));
         const Reading reading(source);
         QTRY_VERIFY(reading.isDone());
-        QCOMPARE(reading.summaries(), text("192.168.77.1; 2001:db8::53 for *.corp.example on lo; "
-                                           "2001:db8::53 for *.int.example on lo"));
+        QCOMPARE(reading.summaries(),
+                 text("192.168.77.1; 2001:db8::53 for *.corp.example on lo; "
+                      "2001:db8::53 for *.int.example on lo"));
     }
 
     void withoutTheServiceTheFileIsAllThereIs()
     {
-        const QString path = write(text("resolv.conf"), "nameserver 127.0.0.53\nnameserver 10.0.0.1\n");
+        const QString path = write(text("resolv.conf"),
+                                   "nameserver 127.0.0.53\nnameserver 10.0.0.1\n");
         LinuxResolverSource source(*m_clock, path);
         const Reading reading(source);
         QTRY_VERIFY(reading.isDone());
@@ -197,7 +203,8 @@ private Q_SLOTS:
     {
         ResolvedService service(m_bus->address());
         service.isSilent = true;
-        LinuxResolverSource source(*m_clock, write(text("resolv.conf"), "nameserver 127.0.0.53\nnameserver 10.0.0.1\n"));
+        LinuxResolverSource source(
+            *m_clock, write(text("resolv.conf"), "nameserver 127.0.0.53\nnameserver 10.0.0.1\n"));
         const Reading reading(source);
         QTRY_COMPARE(service.calls, 1);
         m_clock->advance(ResolvedBus::limit - 1ms);
@@ -258,7 +265,8 @@ private Q_SLOTS:
     void readsWhatScutilPrints()
     {
         ScutilResolverSource source([] {
-            return printed(text("DNS configuration\nresolver #1\nnameserver[0] : 192.168.1.1\nif_index : 15 (en0)\n"));
+            return printed(text(
+                "DNS configuration\nresolver #1\nnameserver[0] : 192.168.1.1\nif_index : 15 (en0)\n"));
         });
         const Reading reading(source);
         QTRY_VERIFY(reading.isDone());

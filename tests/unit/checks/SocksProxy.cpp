@@ -51,11 +51,12 @@ void SocksProxy::read(QTcpSocket *client)
     }
     auto *service = new QTcpSocket(client);
     service->setProxy(QNetworkProxy::NoProxy);
-    connect(service, &QTcpSocket::connected, client, [client] {
-        client->write(QByteArray::fromHex("05000001000000000000"));
-    });
-    connect(client, &QTcpSocket::readyRead, service, [client, service] { service->write(client->readAll()); });
-    connect(service, &QTcpSocket::readyRead, client, [client, service] { client->write(service->readAll()); });
+    connect(service, &QTcpSocket::connected, client,
+            [client] { client->write(QByteArray::fromHex("05000001000000000000")); });
+    connect(client, &QTcpSocket::readyRead, service,
+            [client, service] { service->write(client->readAll()); });
+    connect(service, &QTcpSocket::readyRead, client,
+            [client, service] { client->write(service->readAll()); });
     connect(service, &QTcpSocket::disconnected, client, &QTcpSocket::disconnectFromHost);
     connect(client, &QTcpSocket::disconnected, service, &QTcpSocket::disconnectFromHost);
     service->connectToHost(QHostAddress::LocalHost, m_target);

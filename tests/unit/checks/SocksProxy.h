@@ -18,8 +18,8 @@ public:
     QList<QByteArray> hosts;   // as sent: the name or the address bytes
     QList<quint16> ports;
     int connections = 0;
-    bool isSilent = false;     // accepts, then says nothing
-    char reply = 0;            // of the request; 0 is success
+    bool isSilent = false; // accepts, then says nothing
+    char reply = 0;        // of the request; 0 is success
 
 private:
     void read(QTcpSocket *client);

@@ -10,15 +10,22 @@ using Look = TrafficWatch::Look;
 
 namespace {
 
-constexpr Clock::TimePoint at(std::chrono::seconds time) { return Clock::TimePoint(time); }
+constexpr Clock::TimePoint at(std::chrono::seconds time)
+{
+    return Clock::TimePoint(time);
+}
 
-// What is said when nothing is read from second 0 on, and something is sent every `every` seconds; looked at each 2 s until `last`.
+// What is said when nothing is read from second 0 on, and something is sent every `every` seconds;
+// looked at each 2 s until `last`.
 std::optional<Stall> unanswered(int every, int last, bool isInVPN = false)
 {
     TrafficWatch watch;
     std::optional<Stall> said;
     for (int second = 0; second <= last; second += 2)
-        said = watch.take({.at = at(std::chrono::seconds(second)), .read = 500, .written = 600 * qint64(second / every), .isInVPN = isInVPN});
+        said = watch.take({.at = at(std::chrono::seconds(second)),
+                           .read = 500,
+                           .written = 600 * qint64(second / every),
+                           .isInVPN = isInVPN});
     return said;
 }
 
@@ -32,10 +39,15 @@ private Q_SLOTS:
     {
         TrafficWatch watch;
         for (int second = 0; second < 60; second += 2) { // idle: neither
-            QVERIFY(!watch.take({.at = at(std::chrono::seconds(second)), .read = 10, .written = 10, .hasCircuit = true}));
+            QVERIFY(!watch.take({.at = at(std::chrono::seconds(second)),
+                                 .read = 10,
+                                 .written = 10,
+                                 .hasCircuit = true}));
         }
         for (int second = 60; second < 120; second += 2) // an upload: little comes
-            QVERIFY(!watch.take({.at = at(std::chrono::seconds(second)), .read = 10 + 600 * qint64(second / 10), .written = second * 1000}));
+            QVERIFY(!watch.take({.at = at(std::chrono::seconds(second)),
+                                 .read = 10 + 600 * qint64(second / 10),
+                                 .written = second * 1000}));
     }
 
     void whatIsSentWithoutAnAnswerIsSaidAfterTwelveSeconds()
@@ -52,7 +64,9 @@ private Q_SLOTS:
         TrafficWatch watch;
         std::optional<Stall> said;
         for (int second = 0; second <= 14; second += 2)
-            said = watch.take({.at = at(std::chrono::seconds(second)), .read = 30 * second, .written = 600 * second});
+            said = watch.take({.at = at(std::chrono::seconds(second)),
+                               .read = 30 * second,
+                               .written = 600 * second});
         QVERIFY(said == Stall::noAnswer);
     }
 
@@ -71,9 +85,13 @@ private Q_SLOTS:
     {
         TrafficWatch watch;
         for (int second = 0; second < 10; second += 2)
-            QVERIFY(!watch.take({.at = at(std::chrono::seconds(second)), .read = 1000 * qint64(second), .hasCircuit = false}));
-        QVERIFY(watch.take({.at = at(10s), .read = 10000, .hasCircuit = false}) == Stall::noCircuit);
-        QVERIFY(watch.take({.at = at(12s), .read = 12000, .hasCircuit = false, .isInVPN = true}) == Stall::vpn);
+            QVERIFY(!watch.take({.at = at(std::chrono::seconds(second)),
+                                 .read = 1000 * qint64(second),
+                                 .hasCircuit = false}));
+        QVERIFY(watch.take({.at = at(10s), .read = 10000, .hasCircuit = false})
+                == Stall::noCircuit);
+        QVERIFY(watch.take({.at = at(12s), .read = 12000, .hasCircuit = false, .isInVPN = true})
+                == Stall::vpn);
         QVERIFY(!watch.take({.at = at(14s), .read = 14000, .hasCircuit = true}));
         QVERIFY(!watch.take({.at = at(16s), .read = 16000, .hasCircuit = false})); // counted anew
     }
@@ -82,7 +100,8 @@ private Q_SLOTS:
     {
         TrafficWatch watch;
         for (int second = 0; second < 60; second += 2)
-            QVERIFY(!watch.take({.at = at(std::chrono::seconds(second)), .read = 1000 * qint64(second)}));
+            QVERIFY(!watch.take(
+                {.at = at(std::chrono::seconds(second)), .read = 1000 * qint64(second)}));
     }
 
     void withoutARouteItIsSaidAtTheSecondLook()
@@ -90,7 +109,8 @@ private Q_SLOTS:
         TrafficWatch watch;
         watch.take({.at = at(0s), .read = 1, .written = 1});
         QVERIFY(!watch.take({.at = at(2s), .read = 1, .written = 1, .hasRoute = false}));
-        QVERIFY(watch.take({.at = at(4s), .read = 1, .written = 2, .hasRoute = false}) == Stall::noNetwork);
+        QVERIFY(watch.take({.at = at(4s), .read = 1, .written = 2, .hasRoute = false})
+                == Stall::noNetwork);
         QVERIFY(!watch.take({.at = at(6s), .read = 1, .written = 2, .hasRoute = true}));
     }
 
@@ -98,7 +118,10 @@ private Q_SLOTS:
     {
         TrafficWatch watch;
         for (int second = 0; second < 20; second += 2)
-            QVERIFY(!watch.take({.at = at(std::chrono::seconds(second)), .read = 1000 * qint64(second), .written = 1, .hasRoute = false}));
+            QVERIFY(!watch.take({.at = at(std::chrono::seconds(second)),
+                                 .read = 1000 * qint64(second),
+                                 .written = 1,
+                                 .hasRoute = false}));
     }
 };
 

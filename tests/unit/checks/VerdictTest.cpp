@@ -18,19 +18,36 @@ namespace {
 // All there are.
 void forEachSession(const std::function<void(const SessionFacts &)> &look)
 {
-    for (const Phase phase : {Phase::disconnected, Phase::connecting, Phase::connected, Phase::disconnecting, Phase::stale})
-        for (const std::optional<RoutingMode> mode : {std::optional<RoutingMode>(), std::optional(RoutingMode::strict), std::optional(RoutingMode::proxy)})
-            for (const std::optional<State> rules : {std::optional<State>(), std::optional(State::standing), std::optional(State::putBack), std::optional(State::open), std::optional(State::unknown)})
+    for (const Phase phase : {Phase::disconnected, Phase::connecting, Phase::connected,
+                              Phase::disconnecting, Phase::stale})
+        for (const std::optional<RoutingMode> mode :
+             {std::optional<RoutingMode>(), std::optional(RoutingMode::strict),
+              std::optional(RoutingMode::proxy)})
+            for (const std::optional<State> rules :
+                 {std::optional<State>(), std::optional(State::standing),
+                  std::optional(State::putBack), std::optional(State::open),
+                  std::optional(State::unknown)})
                 for (const bool isExposed : {false, true})
                     for (const bool isDNSLeaking : {false, true})
-                        for (const std::optional<bool> verified : {std::optional<bool>(), std::optional(false), std::optional(true)})
-                            for (const std::optional<Stall> stall : {std::optional<Stall>(), std::optional(Stall::noNetwork), std::optional(Stall::noCircuit), std::optional(Stall::noAnswer), std::optional(Stall::vpn)})
-                                look({phase, mode, rules, isExposed, isDNSLeaking, verified, u"What is going on"_s, stall});
+                        for (const std::optional<bool> verified :
+                             {std::optional<bool>(), std::optional(false), std::optional(true)})
+                            for (const std::optional<Stall> stall :
+                                 {std::optional<Stall>(), std::optional(Stall::noNetwork),
+                                  std::optional(Stall::noCircuit), std::optional(Stall::noAnswer),
+                                  std::optional(Stall::vpn)})
+                                look({phase, mode, rules, isExposed, isDNSLeaking, verified,
+                                      u"What is going on"_s, stall});
 }
 
 SessionFacts strict()
 {
-    return {Phase::connected, RoutingMode::strict, State::standing, false, false, true, u"All traffic is locked to Tor"_s};
+    return {Phase::connected,
+            RoutingMode::strict,
+            State::standing,
+            false,
+            false,
+            true,
+            u"All traffic is locked to Tor"_s};
 }
 
 } // namespace
@@ -45,9 +62,11 @@ private Q_SLOTS:
             ++sessions;
             const Verdict verdict = Verdict::of(facts);
             const bool isConnected = facts.phase == Phase::connected;
-            const bool rulesStand = facts.killSwitch == State::standing || facts.killSwitch == State::putBack;
-            const bool isSafe = isConnected && facts.mode == RoutingMode::strict && rulesStand && !facts.isExposed
-                && !facts.isDNSLeaking && facts.torVerified != false && !facts.stall;
+            const bool rulesStand = facts.killSwitch == State::standing
+                || facts.killSwitch == State::putBack;
+            const bool isSafe = isConnected && facts.mode == RoutingMode::strict && rulesStand
+                && !facts.isExposed && !facts.isDNSLeaking && facts.torVerified != false
+                && !facts.stall;
             if (verdict.title == u"Protected"_s) {
                 ++protectedOnes;
                 QVERIFY(isSafe);
@@ -61,16 +80,22 @@ private Q_SLOTS:
             QCOMPARE(isDanger, verdict.level == Level::warning || verdict.level == Level::danger);
             QCOMPARE(isDanger, verdict.symbol == u"exclamationmark.shield"_s);
             if (verdict.symbol == u"lock.shield.fill"_s)
-                QVERIFY(isConnected && !facts.isDNSLeaking && facts.torVerified != false && !facts.stall);
-            if (verdict.detail.english().contains(u"Nothing gets out around"_s)) // rules that stand are behind it
-                QVERIFY(isConnected && facts.mode == RoutingMode::strict && rulesStand && !facts.isExposed && !facts.isDNSLeaking);
+                QVERIFY(isConnected && !facts.isDNSLeaking && facts.torVerified != false
+                        && !facts.stall);
+            // rules that stand are behind it
+            if (verdict.detail.english().contains(u"Nothing gets out around"_s))
+                QVERIFY(isConnected && facts.mode == RoutingMode::strict && rulesStand
+                        && !facts.isExposed && !facts.isDNSLeaking);
             if (verdict.detail.english().contains(u"locked to Tor"_s))
-                QVERIFY(isConnected && facts.mode == RoutingMode::strict && rulesStand && !facts.isExposed && !facts.isDNSLeaking);
-            if (isConnected && facts.mode == RoutingMode::strict && !isSafe) { // nothing of the ordinary line is left
+                QVERIFY(isConnected && facts.mode == RoutingMode::strict && rulesStand
+                        && !facts.isExposed && !facts.isDNSLeaking);
+            // nothing of the ordinary line is left
+            if (isConnected && facts.mode == RoutingMode::strict && !isSafe) {
                 QVERIFY(isDanger);
                 QVERIFY(verdict.detail != facts.detail);
             }
-            QVERIFY(!verdict.title.isEmpty() && !verdict.symbol.isEmpty() && !verdict.detail.isEmpty());
+            QVERIFY(!verdict.title.isEmpty() && !verdict.symbol.isEmpty()
+                    && !verdict.detail.isEmpty());
         });
         QCOMPARE(sessions, 5 * 3 * 5 * 2 * 2 * 3 * 5);
         QVERIFY(good > 0 && protectedOnes > good);
@@ -81,7 +106,8 @@ private Q_SLOTS:
         forEachSession([](const SessionFacts &facts) {
             if (facts.killSwitch != State::open)
                 return;
-            const bool isAskedFor = facts.phase == Phase::disconnected || facts.phase == Phase::disconnecting;
+            const bool isAskedFor = facts.phase == Phase::disconnected
+                || facts.phase == Phase::disconnecting;
             const Verdict verdict = Verdict::of(facts);
             QCOMPARE(verdict.danger == Danger::killSwitchOpen, !isAskedFor);
             QCOMPARE(verdict.title == u"Kill Switch Open"_s, !isAskedFor);
@@ -93,7 +119,8 @@ private Q_SLOTS:
     {
         forEachSession([](const SessionFacts &facts) {
             const Verdict verdict = Verdict::of(facts);
-            QCOMPARE(verdict.danger == Danger::leftOver, facts.phase == Phase::stale && facts.killSwitch != State::open);
+            QCOMPARE(verdict.danger == Danger::leftOver,
+                     facts.phase == Phase::stale && facts.killSwitch != State::open);
             if (verdict.danger != Danger::none && verdict.danger != Danger::leftOver)
                 return;
             switch (facts.phase) {
@@ -101,17 +128,21 @@ private Q_SLOTS:
                 QCOMPARE(verdict.title.english() + verdict.symbol, u"Not Protectedshield.slash"_s);
                 break;
             case Phase::connecting:
-                QCOMPARE(verdict.title.english() + verdict.symbol, u"Connecting…shield.lefthalf.filled"_s);
+                QCOMPARE(verdict.title.english() + verdict.symbol,
+                         u"Connecting…shield.lefthalf.filled"_s);
                 break;
             case Phase::connected:
-                QCOMPARE(verdict.title, facts.mode == RoutingMode::strict ? u"Protected"_s : u"Proxy Active"_s);
+                QCOMPARE(verdict.title,
+                         facts.mode == RoutingMode::strict ? u"Protected"_s : u"Proxy Active"_s);
                 QCOMPARE(verdict.symbol, u"lock.shield.fill"_s);
                 break;
             case Phase::disconnecting:
-                QCOMPARE(verdict.title.english() + verdict.symbol, u"Disconnecting…shield.lefthalf.filled"_s);
+                QCOMPARE(verdict.title.english() + verdict.symbol,
+                         u"Disconnecting…shield.lefthalf.filled"_s);
                 break;
             case Phase::stale:
-                QCOMPARE(verdict.title.english() + verdict.symbol, u"Needs Attentionexclamationmark.shield"_s);
+                QCOMPARE(verdict.title.english() + verdict.symbol,
+                         u"Needs Attentionexclamationmark.shield"_s);
                 break;
             }
             QCOMPARE(verdict.detail, facts.detail);
@@ -124,7 +155,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("level");
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("detail");
-        const auto row = [](const char *name, const SessionFacts &facts, const QString &level, const QString &title, const QString &detail) {
+        const auto row = [](const char *name, const SessionFacts &facts, const QString &level,
+                            const QString &title, const QString &detail) {
             QTest::newRow(name) << facts << level << title << detail;
         };
         SessionFacts facts = strict();
@@ -133,12 +165,14 @@ private Q_SLOTS:
         row("put back", facts, u"good"_s, u"Protected"_s, u"All traffic is locked to Tor"_s);
         facts = strict();
         facts.torVerified.reset();
-        row("not checked yet", facts, u"working"_s, u"Protected"_s, u"All traffic is locked to Tor"_s);
+        row("not checked yet", facts, u"working"_s, u"Protected"_s,
+            u"All traffic is locked to Tor"_s);
         facts.torVerified = false;
         row("not confirmed", facts, u"warning"_s, u"Needs Attention"_s,
             u"All traffic is locked to Tor, but the exit could not be confirmed"_s);
         facts.stall = Stall::noNetwork;
-        row("no network", facts, u"warning"_s, u"No Network"_s, u"This computer has no network. Nothing gets out around Tor meanwhile."_s);
+        row("no network", facts, u"warning"_s, u"No Network"_s,
+            u"This computer has no network. Nothing gets out around Tor meanwhile."_s);
         facts.stall = Stall::noCircuit;
         row("no circuit", facts, u"warning"_s, u"Nothing Gets Through"_s,
             u"Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile."_s);
@@ -158,22 +192,35 @@ private Q_SLOTS:
         row("exposed as well", facts, u"danger"_s, u"Needs Attention"_s,
             u"Your real address can be seen. Disconnect, or run the leak test again."_s);
         facts.isDNSLeaking = true;
-        row("look-ups leak as well", facts, u"danger"_s, u"DNS Leak"_s, u"Lookups can go around Tor, and your real address can be seen"_s);
+        row("look-ups leak as well", facts, u"danger"_s, u"DNS Leak"_s,
+            u"Lookups can go around Tor, and your real address can be seen"_s);
         facts.killSwitch = State::open;
-        row("open as well", facts, u"danger"_s, u"Kill Switch Open"_s, u"Traffic may leave this computer directly"_s);
+        row("open as well", facts, u"danger"_s, u"Kill Switch Open"_s,
+            u"Traffic may leave this computer directly"_s);
         facts.phase = Phase::stale;
-        row("Tor is dead, and it is open", facts, u"danger"_s, u"Kill Switch Open"_s, u"Traffic may leave this computer directly"_s);
-        facts = {Phase::connected, RoutingMode::proxy, std::nullopt, true, false, true, u"Apps that use system proxy settings go through Tor"_s};
-        row("proxy, where apps may go direct", facts, u"info"_s, u"Proxy Active"_s, facts.detail.english());
+        row("Tor is dead, and it is open", facts, u"danger"_s, u"Kill Switch Open"_s,
+            u"Traffic may leave this computer directly"_s);
+        facts = {Phase::connected,
+                 RoutingMode::proxy,
+                 std::nullopt,
+                 true,
+                 false,
+                 true,
+                 u"Apps that use system proxy settings go through Tor"_s};
+        row("proxy, where apps may go direct", facts, u"info"_s, u"Proxy Active"_s,
+            facts.detail.english());
         facts.torVerified = false;
         row("proxy, not confirmed", facts, u"warning"_s, u"Needs Attention"_s,
             u"Apps that use system proxy settings go through Tor, but the exit could not be confirmed"_s);
         facts.stall = Stall::noNetwork;
-        row("proxy, no network", facts, u"warning"_s, u"No Network"_s, u"This computer has no network. Veldmark goes on when it is back."_s);
+        row("proxy, no network", facts, u"warning"_s, u"No Network"_s,
+            u"This computer has no network. Veldmark goes on when it is back."_s);
         facts.isDNSLeaking = true;
-        row("proxy, look-ups leak", facts, u"danger"_s, u"DNS Leak"_s, u"Lookups can go around Tor"_s);
+        row("proxy, look-ups leak", facts, u"danger"_s, u"DNS Leak"_s,
+            u"Lookups can go around Tor"_s);
         row("nothing", {}, u"neutral"_s, u"Not Protected"_s, QString());
-        row("connecting", {.phase = Phase::connecting, .detail = u"Preparing Tor…"_s}, u"working"_s, u"Connecting…"_s, u"Preparing Tor…"_s);
+        row("connecting", {.phase = Phase::connecting, .detail = u"Preparing Tor…"_s}, u"working"_s,
+            u"Connecting…"_s, u"Preparing Tor…"_s);
     }
 
     void theWorstIsSaid()

@@ -10,7 +10,10 @@ using namespace veldmark;
 using Kind = CircuitGraph::Kind;
 
 namespace {
-QString text(const char *latin1) { return QString::fromLatin1(latin1); }
+QString text(const char *latin1)
+{
+    return QString::fromLatin1(latin1);
+}
 
 // "A B C" → a circuit through these relays.
 CircuitInfo circuit(const char *id, const char *path, const char *sites = "")
@@ -62,23 +65,27 @@ private Q_SLOTS:
         QCOMPARE(graph.nodes.front().label, text("This Mac"));
         QVERIFY(graph.edges.empty());
         const GraphLayout layout(graph, {1000, 400});
-        QCOMPARE(layout.positions.value(graph.nodes.front().id), QPointF(70, 46 + (400 - 64) / 2.0));
+        QCOMPARE(layout.positions.value(graph.nodes.front().id),
+                 QPointF(70, 46 + (400 - 64) / 2.0));
     }
 
     void theComputersNameIsGivenByTheCaller()
     {
-        QCOMPARE(CircuitGraph::build({}, text("This computer")).nodes.front().label, text("This computer"));
+        QCOMPARE(CircuitGraph::build({}, text("This computer")).nodes.front().label,
+                 text("This computer"));
     }
 
     void oneCircuitRunsFromLeftToRight()
     {
-        const CircuitGraph graph = CircuitGraph::build({circuit("7", "A B C", "x.example y.example")});
+        const CircuitGraph graph = CircuitGraph::build(
+            {circuit("7", "A B C", "x.example y.example")});
         QCOMPARE(nodes(graph, 1), QStringList{text("A")});
         QCOMPARE(nodes(graph, 2), QStringList{text("B")});
         QCOMPARE(nodes(graph, 3), QStringList{text("C")});
         QCOMPARE(nodes(graph, 4), (QStringList{text("site-x.example"), text("site-y.example")}));
-        QCOMPARE(edges(graph), (QStringList{text("7|mac|A"), text("7|A|B"), text("7|B|C"),
-                                            text("7|C|site-x.example"), text("7|C|site-y.example")}));
+        QCOMPARE(edges(graph),
+                 (QStringList{text("7|mac|A"), text("7|A|B"), text("7|B|C"),
+                              text("7|C|site-x.example"), text("7|C|site-y.example")}));
         QCOMPARE(graph.edges[1].from, text("A"));
         QCOMPARE(graph.edges[1].to, text("B"));
         QCOMPARE(graph.edges[1].circuitID, text("7"));
@@ -131,10 +138,12 @@ private Q_SLOTS:
 
     void aRelayInTwoRolesStandsInBothColumns()
     {
-        const CircuitGraph graph = CircuitGraph::build({circuit("1", "A B C"), circuit("2", "A C B")});
+        const CircuitGraph graph = CircuitGraph::build(
+            {circuit("1", "A B C"), circuit("2", "A C B")});
         QCOMPARE(nodes(graph, 2), (QStringList{text("B"), text("C-column2")}));
         QCOMPARE(nodes(graph, 3), (QStringList{text("C"), text("B-column3")}));
-        QCOMPARE(edges(graph).mid(3).join(u' '), text("2|mac|A 2|A|C-column2 2|C-column2|B-column3"));
+        QCOMPARE(edges(graph).mid(3).join(u' '),
+                 text("2|mac|A 2|A|C-column2 2|C-column2|B-column3"));
     }
 
     void otherThanThreeHopsFindTheirPlace()
@@ -172,8 +181,9 @@ private Q_SLOTS:
 
     void idsStayUniqueWhateverSitesAreCalled()
     {
-        const CircuitGraph graph = CircuitGraph::build({
-            circuit("1", "A B C", "mac A more-1 x y"), circuit("2", "A-COLUMN2 A C", "A-column2 site-A")});
+        const CircuitGraph graph = CircuitGraph::build(
+            {circuit("1", "A B C", "mac A more-1 x y"),
+             circuit("2", "A-COLUMN2 A C", "A-column2 site-A")});
         QSet<QString> unique;
         for (const CircuitGraph::Node &n : graph.nodes)
             unique.insert(n.id);
@@ -216,9 +226,10 @@ private Q_SLOTS:
     {
         std::vector<CircuitInfo> circuits;
         for (int i = 0; i < 1000; ++i)
-            circuits.push_back(circuit(qPrintable(QString::number(i)),
-                                       qPrintable(QStringLiteral("G%1 M%2 E%3").arg(i % 3).arg(i).arg(i % 40)),
-                                       "a b c d"));
+            circuits.push_back(
+                circuit(qPrintable(QString::number(i)),
+                        qPrintable(QStringLiteral("G%1 M%2 E%3").arg(i % 3).arg(i).arg(i % 40)),
+                        "a b c d"));
         const CircuitGraph graph = CircuitGraph::build(circuits);
         QSet<QString> unique;
         for (const CircuitGraph::Edge &edge : graph.edges)
@@ -232,7 +243,8 @@ private Q_SLOTS:
 
     void clicksOnASharedNodeGoRoundItsCircuits()
     {
-        const CircuitGraph graph = CircuitGraph::build({circuit("1", "A B C"), circuit("2", "A D E")});
+        const CircuitGraph graph = CircuitGraph::build(
+            {circuit("1", "A B C"), circuit("2", "A D E")});
         const CircuitGraph::Node &entry = node(graph, "A");
         QCOMPARE(CircuitGraph::select(entry, QString()), text("1"));
         QCOMPARE(CircuitGraph::select(entry, text("1")), text("2"));

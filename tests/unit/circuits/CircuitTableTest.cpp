@@ -39,26 +39,39 @@ private Q_SLOTS:
     void keepsOnlyCircuitsForTheUsersTraffic()
     {
         const CircuitTable table = assemble({
-            built("1"), built("2", nullptr, "PURPOSE=CONFLUX_LINKED CONFLUX_ID=AB"),
+            built("1"),
+            built("2", nullptr, "PURPOSE=CONFLUX_LINKED CONFLUX_ID=AB"),
             built("3", nullptr, "PURPOSE=CONFLUX_UNLINKED CONFLUX_ID=AB"),
-            built("4", nullptr, "PURPOSE=HS_VANGUARDS"), built("5", nullptr, "PURPOSE=MEASURE_TIMEOUT"),
+            built("4", nullptr, "PURPOSE=HS_VANGUARDS"),
+            built("5", nullptr, "PURPOSE=MEASURE_TIMEOUT"),
             QStringLiteral("6 BUILT $AA~a BUILD_FLAGS=ONEHOP_TUNNEL,IS_INTERNAL PURPOSE=GENERAL"),
-            QStringLiteral("7 EXTENDED $AA~a PURPOSE=GENERAL"), QStringLiteral("8 LAUNCHED"),
-            built("9", nullptr, "PURPOSE=CONFLUX"), QString(), QStringLiteral("junk"),
+            QStringLiteral("7 EXTENDED $AA~a PURPOSE=GENERAL"),
+            QStringLiteral("8 LAUNCHED"),
+            built("9", nullptr, "PURPOSE=CONFLUX"),
+            QString(),
+            QStringLiteral("junk"),
         });
-        QCOMPARE(ids(table), (QStringList{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("9")}));
+        QCOMPARE(ids(table),
+                 (QStringList{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("9")}));
     }
 
     void toOnionServicesOnlyTheVisitorsWayIsListed()
     {
-        const char *joined = "BUILD_FLAGS=IS_INTERNAL PURPOSE=HS_CLIENT_REND HS_STATE=HSCR_JOINED REND_QUERY=abc";
+        const char *joined
+            = "BUILD_FLAGS=IS_INTERNAL PURPOSE=HS_CLIENT_REND HS_STATE=HSCR_JOINED REND_QUERY=abc";
         SiteHistory history;
         const CircuitTable table = CircuitTable::assemble(
-            {built("1", nullptr, "BUILD_FLAGS=IS_INTERNAL,NEED_CAPACITY PURPOSE=GENERAL"), // made ahead, Tor's own
+            // made ahead, Tor's own
+            {built("1", nullptr, "BUILD_FLAGS=IS_INTERNAL,NEED_CAPACITY PURPOSE=GENERAL"),
              built("2", nullptr, joined),
-             built("3", nullptr, "BUILD_FLAGS=IS_INTERNAL PURPOSE=HS_CLIENT_REND HS_STATE=HSCR_ESTABLISHED_IDLE"),
-             built("4", nullptr, "BUILD_FLAGS=IS_INTERNAL PURPOSE=HS_CLIENT_INTRO HS_STATE=HSCI_DONE REND_QUERY=abc"),
-             built("5", nullptr, "BUILD_FLAGS=IS_INTERNAL PURPOSE=HS_SERVICE_REND HS_STATE=HSSR_JOINED REND_QUERY=own"),
+             built("3", nullptr,
+                   "BUILD_FLAGS=IS_INTERNAL PURPOSE=HS_CLIENT_REND HS_STATE=HSCR_ESTABLISHED_IDLE"),
+             built(
+                 "4", nullptr,
+                 "BUILD_FLAGS=IS_INTERNAL PURPOSE=HS_CLIENT_INTRO HS_STATE=HSCI_DONE REND_QUERY=abc"),
+             built(
+                 "5", nullptr,
+                 "BUILD_FLAGS=IS_INTERNAL PURPOSE=HS_SERVICE_REND HS_STATE=HSSR_JOINED REND_QUERY=own"),
              built("6", nullptr, "BUILD_FLAGS=IS_INTERNAL PURPOSE=HS_CLIENT_HSDIR"), built("7")},
             {QStringLiteral("12 SUCCEEDED 2 abc.onion:80")}, history, {});
         QCOMPARE(ids(table).join(u' '), QStringLiteral("2 7"));
@@ -79,17 +92,21 @@ private Q_SLOTS:
         const CircuitTable table = assemble(
             {built("1"), built("2", "09:00:00"), built("3", "10:00:00"), built("4", "08:00:00"),
              built("5", "10:00:00"), built("6"), built("7", "10:00:00.5"), built("8")},
-            {QStringLiteral("90 SUCCEEDED 4 example.org:443"), QStringLiteral("91 SUCCEEDED 8 b.example:80")});
+            {QStringLiteral("90 SUCCEEDED 4 example.org:443"),
+             QStringLiteral("91 SUCCEEDED 8 b.example:80")});
         QCOMPARE(ids(table).join(u' '), QStringLiteral("4 8 7 3 5 2 1 6"));
     }
 
     void joinsStreamsToTheirCircuits()
     {
-        const CircuitTable table = assemble(
-            {built("7")},
-            {QStringLiteral("12 SUCCEEDED 0 unattached:443"), QStringLiteral("13 SUCCEEDED 7 [2001:db8::1]:443"),
-             QStringLiteral("14 SUCCEEDED 7 a.example:80"), QStringLiteral("15 SUCCEEDED 7 a.example:443"),
-             QStringLiteral("16 SUCCEEDED 99 elsewhere:1"), QStringLiteral("17 SUCCEEDED 7 :443"), QStringLiteral("x")});
+        const CircuitTable table = assemble({built("7")},
+                                            {QStringLiteral("12 SUCCEEDED 0 unattached:443"),
+                                             QStringLiteral("13 SUCCEEDED 7 [2001:db8::1]:443"),
+                                             QStringLiteral("14 SUCCEEDED 7 a.example:80"),
+                                             QStringLiteral("15 SUCCEEDED 7 a.example:443"),
+                                             QStringLiteral("16 SUCCEEDED 99 elsewhere:1"),
+                                             QStringLiteral("17 SUCCEEDED 7 :443"),
+                                             QStringLiteral("x")});
         QCOMPARE(table.circuits.front().sites,
                  (QStringList{QStringLiteral("2001:db8::1"), QStringLiteral("a.example")}));
     }
@@ -111,9 +128,12 @@ private Q_SLOTS:
     void newSitesFollowTheEarlierOnes()
     {
         SiteHistory history;
-        CircuitTable::assemble({built("12")}, {QStringLiteral("1 X 12 a:1"), QStringLiteral("2 X 12 b:1")}, history, {});
+        CircuitTable::assemble({built("12")},
+                               {QStringLiteral("1 X 12 a:1"), QStringLiteral("2 X 12 b:1")},
+                               history, {});
         const CircuitTable table = CircuitTable::assemble(
-            {built("12")}, {QStringLiteral("3 X 12 c:1"), QStringLiteral("4 X 12 a:1")}, history, {});
+            {built("12")}, {QStringLiteral("3 X 12 c:1"), QStringLiteral("4 X 12 a:1")}, history,
+            {});
         QCOMPARE(table.circuits.front().sites.join(u' '), QStringLiteral("a b c"));
         QCOMPARE(history.value(QStringLiteral("12")).join(u' '), QStringLiteral("a b c"));
     }
@@ -134,7 +154,8 @@ private Q_SLOTS:
         QVERIFY(table.circuits[3].sites.isEmpty());
 
         // The leg that carried the stream is replaced by a new one.
-        table = CircuitTable::assemble({built("1", nullptr, set), built("5", nullptr, set)}, {}, history, {});
+        table = CircuitTable::assemble({built("1", nullptr, set), built("5", nullptr, set)}, {},
+                                       history, {});
         QCOMPARE(table.circuits[0].sites, site);
         QCOMPARE(table.circuits[1].sites, site);
     }
@@ -142,10 +163,12 @@ private Q_SLOTS:
     void takesAddressesFromTheCacheAndNamesTheMissing()
     {
         RelayCache cache;
-        cache.insert(QStringLiteral("BB"), {QStringLiteral("BB"), QStringLiteral("stale nickname"),
-                                            QStringLiteral("203.0.113.5"), QStringLiteral("de")});
-        const CircuitTable table = assemble(
-            {built("1"), QStringLiteral("2 BUILT $AA~a,$BB~b,$DD"), QStringLiteral("3 BUILT $x-y~z")}, {}, cache);
+        cache.insert(QStringLiteral("BB"),
+                     {QStringLiteral("BB"), QStringLiteral("stale nickname"),
+                      QStringLiteral("203.0.113.5"), QStringLiteral("de")});
+        const CircuitTable table = assemble({built("1"), QStringLiteral("2 BUILT $AA~a,$BB~b,$DD"),
+                                             QStringLiteral("3 BUILT $x-y~z")},
+                                            {}, cache);
         const RelayInfo &known = table.circuits.front().hops[1];
         QCOMPARE(known.nickname, QStringLiteral("b"));
         QCOMPARE(known.ip, QStringLiteral("203.0.113.5"));
@@ -157,7 +180,8 @@ private Q_SLOTS:
         QCOMPARE(missing.join(u' '), QStringLiteral("AA CC DD"));
 
         std::vector<CircuitInfo> circuits = table.circuits;
-        cache.insert(QStringLiteral("AA"), {QStringLiteral("AA"), {}, QStringLiteral("203.0.113.6"), {}});
+        cache.insert(QStringLiteral("AA"),
+                     {QStringLiteral("AA"), {}, QStringLiteral("203.0.113.6"), {}});
         CircuitTable::fillRelays(circuits, cache);
         QCOMPARE(circuits[0].hops[0].ip, QStringLiteral("203.0.113.6"));
         QVERIFY(!circuits[0].hops[0].country);

@@ -19,7 +19,10 @@ const std::vector<InstalledApplication> sample = {
     {u"/home/u/.local/share/applications/mail.desktop"_s, u"mail"_s, {}},
 };
 
-QString nameOf(const QString &path) { return u"name of "_s + path; }
+QString nameOf(const QString &path)
+{
+    return u"name of "_s + path;
+}
 
 } // namespace
 
@@ -28,13 +31,15 @@ class ApplicationsCommandTest : public QObject {
 private Q_SLOTS:
     void marksWhatTheUserHasChosen()
     {
-        const QJsonArray findings =
-            applicationFindings(sample, {sample[1].path, u"/gone.desktop"_s, u"/gone.desktop"_s}, nameOf);
-        QCOMPARE(QJsonDocument(findings).toJson(QJsonDocument::Compact),
-                 QByteArray(R"([{"bypassed":false,"installed":true,"name":"Alpha","path":"/usr/share/applications/alpha.desktop"},)"
-                            R"({"bypassed":true,"installed":true,"name":"Mail","path":"/usr/share/applications/org.example.Mail.desktop"},)"
-                            R"({"bypassed":false,"installed":true,"name":"mail","path":"/home/u/.local/share/applications/mail.desktop"},)"
-                            R"({"bypassed":true,"installed":false,"name":"name of /gone.desktop","path":"/gone.desktop"}])"));
+        const QJsonArray findings = applicationFindings(
+            sample, {sample[1].path, u"/gone.desktop"_s, u"/gone.desktop"_s}, nameOf);
+        QCOMPARE(
+            QJsonDocument(findings).toJson(QJsonDocument::Compact),
+            QByteArray(
+                R"([{"bypassed":false,"installed":true,"name":"Alpha","path":"/usr/share/applications/alpha.desktop"},)"
+                R"({"bypassed":true,"installed":true,"name":"Mail","path":"/usr/share/applications/org.example.Mail.desktop"},)"
+                R"({"bypassed":false,"installed":true,"name":"mail","path":"/home/u/.local/share/applications/mail.desktop"},)"
+                R"({"bypassed":true,"installed":false,"name":"name of /gone.desktop","path":"/gone.desktop"}])"));
         QCOMPARE(Report::applications(findings),
                  u"  Alpha                  /usr/share/applications/alpha.desktop\n"
                  "* Mail                   /usr/share/applications/org.example.Mail.desktop\n"
@@ -44,13 +49,14 @@ private Q_SLOTS:
 
     void saysWhenThereAreNone()
     {
-        QCOMPARE(Report::applications(applicationFindings({}, {}, nameOf)), u"No applications are installed."_s);
+        QCOMPARE(Report::applications(applicationFindings({}, {}, nameOf)),
+                 u"No applications are installed."_s);
     }
 
     void aNameStaysOneLine()
     {
-        const QString report = Report::applications(
-            applicationFindings({{u"/a.desktop"_s, u"a\nb\x1b[31m"_s + QString(1000, u'x'), {}}}, {}, nameOf));
+        const QString report = Report::applications(applicationFindings(
+            {{u"/a.desktop"_s, u"a\nb\x1b[31m"_s + QString(1000, u'x'), {}}}, {}, nameOf));
         QVERIFY(report.startsWith(u"  a?b?[31mxxx"_s));
         QVERIFY(!report.contains(u'\n') && report.size() < 100);
     }
@@ -84,7 +90,8 @@ private Q_SLOTS:
         const auto path = applicationPath(u"./a.desktop"_s, {});
         const auto bare = applicationPath(u"a.desktop"_s, {}); // without a slash it is a name
         QVERIFY(QDir::setCurrent(former));
-        QCOMPARE(path.value_or(QString()), QFileInfo(folder.path()).canonicalFilePath() + u"/a.desktop"_s);
+        QCOMPARE(path.value_or(QString()),
+                 QFileInfo(folder.path()).canonicalFilePath() + u"/a.desktop"_s);
         QVERIFY(!bare);
     }
 
@@ -94,9 +101,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("part");
         QTest::newRow("unknown") << u"nothing"_s << u"There is no application \"nothing\""_s;
         QTest::newRow("empty") << QString() << u"There is no application \"\""_s;
-        QTest::newRow("two of them") << u"Mail"_s << u"\"Mail\" may be any of: /usr/share/applications/org.example.Mail.desktop, "
-                                                     "/home/u/.local/share/applications/mail.desktop."_s;
-        QTest::newRow("no file") << u"/nowhere/a.desktop"_s << u"There is no file \"/nowhere/a.desktop\""_s;
+        QTest::newRow("two of them")
+            << u"Mail"_s
+            << u"\"Mail\" may be any of: /usr/share/applications/org.example.Mail.desktop, "
+               "/home/u/.local/share/applications/mail.desktop."_s;
+        QTest::newRow("no file") << u"/nowhere/a.desktop"_s
+                                 << u"There is no file \"/nowhere/a.desktop\""_s;
         QTest::newRow("a folder") << u"/usr"_s << u"There is no file"_s;
         QTest::newRow("line breaks") << u"a\nb\x1b"_s << u"\"a?b?\""_s;
         QTest::newRow("endless") << QString(100'000, u'x') << u"There is no application"_s;

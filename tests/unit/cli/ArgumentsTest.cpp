@@ -18,20 +18,25 @@ private Q_SLOTS:
         };
         QTest::newRow("nothing") << QStringList() << "What should I do";
         QTest::newRow("unknown verb") << words("frobnicate") << "Unknown command \"frobnicate\"";
-        QTest::newRow("unknown option") << words("status|--xml") << "status has no option \"--xml\"";
+        QTest::newRow("unknown option")
+            << words("status|--xml") << "status has no option \"--xml\"";
         QTest::newRow("option of another verb") << words("status|--follow") << "no option";
         QTest::newRow("get without key") << words("get") << "get needs a key";
         QTest::newRow("set without value") << words("set|exitCountry") << "needs a key and a value";
         QTest::newRow("too much") << words("connect|now") << "connect doesn't take \"now\"";
         QTest::newRow("get with two keys") << words("get|phase|title") << "doesn't take";
-        QTest::newRow("no circuit") << words("close-circuit") << "close-circuit needs a circuit's number";
+        QTest::newRow("no circuit")
+            << words("close-circuit") << "close-circuit needs a circuit's number";
         QTest::newRow("no application") << words("launch") << "launch needs an application";
         QTest::newRow("two applications") << words("launch|a|b") << "launch doesn't take \"b\"";
         QTest::newRow("apps with a name") << words("apps|a") << "apps doesn't take \"a\"";
         QTest::newRow("bridges with a word") << words("bridges|all") << "bridges doesn't take";
-        QTest::newRow("bridges that follow") << words("bridges|--follow") << "bridges has no option \"--follow\"";
-        QTest::newRow("an option of the download") << words("download-transports|--json") << "has no option";
-        QTest::newRow("an option of launch") << words("launch|--json|a") << "launch has no option \"--json\"";
+        QTest::newRow("bridges that follow")
+            << words("bridges|--follow") << "bridges has no option \"--follow\"";
+        QTest::newRow("an option of the download")
+            << words("download-transports|--json") << "has no option";
+        QTest::newRow("an option of launch")
+            << words("launch|--json|a") << "launch has no option \"--json\"";
         QTest::newRow("line break in a verb") << words("a\nb") << "Unknown command \"a b\"";
         QTest::newRow("escape in a verb") << words("\x1b[31m") << "Unknown command \"?[31m\"";
         QTest::newRow("endless verb") << QStringList(QString(100000, u'x')) << "Unknown command";
@@ -50,7 +55,8 @@ private Q_SLOTS:
 
     void readsOptionsInAnyOrder()
     {
-        const auto parsed = parseArguments({QStringLiteral("status"), QStringLiteral("--watch"), QStringLiteral("--json")});
+        const auto parsed = parseArguments(
+            {QStringLiteral("status"), QStringLiteral("--watch"), QStringLiteral("--json")});
         QVERIFY(parsed);
         QCOMPARE(parsed->verb, Id::status);
         QVERIFY(parsed->watch && parsed->json && !parsed->follow);
@@ -69,25 +75,30 @@ private Q_SLOTS:
         const auto launch = parseArguments({QStringLiteral("launch"), QStringLiteral("Two Words")});
         QVERIFY(launch && launch->verb == Id::launch);
         QCOMPARE(launch->key, QStringLiteral("Two Words"));
-        QCOMPARE(parseArguments({QStringLiteral("launch"), QStringLiteral("--"), QStringLiteral("--odd")})->key,
+        QCOMPARE(parseArguments(
+                     {QStringLiteral("launch"), QStringLiteral("--"), QStringLiteral("--odd")})
+                     ->key,
                  QStringLiteral("--odd"));
     }
 
     void aValueMayLookLikeAnOption()
     {
-        const auto parsed = parseArguments({QStringLiteral("set"), QStringLiteral("customTorPath"), QStringLiteral("--odd")});
+        const auto parsed = parseArguments(
+            {QStringLiteral("set"), QStringLiteral("customTorPath"), QStringLiteral("--odd")});
         QVERIFY(parsed);
         QCOMPARE(parsed->key, QStringLiteral("customTorPath"));
         QCOMPARE(parsed->value, QStringLiteral("--odd"));
-        const auto empty = parseArguments({QStringLiteral("set"), QStringLiteral("exitCountry"), QString()});
+        const auto empty = parseArguments(
+            {QStringLiteral("set"), QStringLiteral("exitCountry"), QString()});
         QVERIFY(empty);
         QCOMPARE(empty->value, QString());
     }
 
     void theUsageNamesEveryCommand()
     {
-        for (const char *verb : {"run", "status", "connect", "disconnect", "restore", "check", "fix-dns", "circuits", "close-circuit",
-                                 "new-identity", "log", "bridges", "download-transports", "apps", "launch", "get", "set"})
+        for (const char *verb : {"run", "status", "connect", "disconnect", "restore", "check",
+                                 "fix-dns", "circuits", "close-circuit", "new-identity", "log",
+                                 "bridges", "download-transports", "apps", "launch", "get", "set"})
             QVERIFY2(usageText().contains(QStringLiteral("\n  ") + QLatin1String(verb)), verb);
     }
 };

@@ -26,24 +26,26 @@ private Q_SLOTS:
             "builtin": {"obfs4": 10, "snowflake": 2}, "source": "Tor Expert Bundle 14.0.4",
             "bundle": {"version": "14.0.4", "verification": "signature"},
             "custom": {"valid": 2, "invalid": []}})"));
-        QCOMPARE(report, u"Programs\n"
-                         "  lyrebird          /b/lyrebird\n"
-                         "                    serves obfs4, meek_lite\n"
-                         "  snowflake-client  /usr/bin/snowflake-client\n"
-                         "                    doesn't say what it serves\n"
-                         "  webtunnel-client  not found\n"
-                         "Built-in bridges, from Tor Expert Bundle 14.0.4\n"
-                         "  obfs4             10\n"
-                         "  snowflake         2\n"
-                         "Tor Expert Bundle\n"
-                         "  14.0.4, signature verified\n"
-                         "Your own bridges\n"
-                         "  2 valid"_s);
+        QCOMPARE(report,
+                 u"Programs\n"
+                 "  lyrebird          /b/lyrebird\n"
+                 "                    serves obfs4, meek_lite\n"
+                 "  snowflake-client  /usr/bin/snowflake-client\n"
+                 "                    doesn't say what it serves\n"
+                 "  webtunnel-client  not found\n"
+                 "Built-in bridges, from Tor Expert Bundle 14.0.4\n"
+                 "  obfs4             10\n"
+                 "  snowflake         2\n"
+                 "Tor Expert Bundle\n"
+                 "  14.0.4, signature verified\n"
+                 "Your own bridges\n"
+                 "  2 valid"_s);
     }
 
     void saysWhatIsMissingAndHowToGetIt()
     {
-        QCOMPARE(Report::bridges(object(R"({"programs": {"lyrebird": null, "snowflake": null, "webtunnel": null},
+        QCOMPARE(Report::bridges(object(
+                     R"({"programs": {"lyrebird": null, "snowflake": null, "webtunnel": null},
                      "builtin": {}, "source": "", "bundle": null, "custom": {"valid": 0, "invalid": []}})")),
                  u"Programs\n"
                  "  lyrebird          not found\n"
@@ -69,7 +71,8 @@ private Q_SLOTS:
     {
         QFETCH(QString, verification);
         const QJsonObject bundle{{u"version"_s, u"14.0.4"_s}, {u"verification"_s, verification}};
-        QVERIFY(Report::bridges({{u"bundle"_s, bundle}}).contains(u"\n  14.0.4, signature not verified\n"_s));
+        QVERIFY(Report::bridges({{u"bundle"_s, bundle}})
+                    .contains(u"\n  14.0.4, signature not verified\n"_s));
     }
 
     void namesEachBadLineByItsNumber()
@@ -82,9 +85,10 @@ private Q_SLOTS:
 
     void aBadLineCannotSteerTheTerminal()
     {
-        const QJsonObject invalid{{u"line"_s, 1}, {u"text"_s, u"\x1b]0;x\x07"_s + QString(5000, u'y')}};
-        const QString report =
-            Report::bridges({{u"custom"_s, QJsonObject{{u"valid"_s, 0}, {u"invalid"_s, QJsonArray{invalid}}}}});
+        const QJsonObject invalid{{u"line"_s, 1},
+                                  {u"text"_s, u"\x1b]0;x\x07"_s + QString(5000, u'y')}};
+        const QString report = Report::bridges(
+            {{u"custom"_s, QJsonObject{{u"valid"_s, 0}, {u"invalid"_s, QJsonArray{invalid}}}}});
         QVERIFY(report.endsWith(u'…'));
         QVERIFY(report.contains(u"line 1 is not a bridge line: ?]0;x?yyy"_s));
         QVERIFY(report.size() < 400);

@@ -20,14 +20,16 @@ using Id = Verb::Id;
 
 namespace {
 
-QCoro::Task<void> take(Invocation invocation, PlatformProfile profile, std::shared_ptr<std::optional<ExitStatus>> ended)
+QCoro::Task<void> take(Invocation invocation, PlatformProfile profile,
+                       std::shared_ptr<std::optional<ExitStatus>> ended)
 {
     const ExitStatus status = co_await execute(invocation, profile);
     *ended = status;
 }
 
 // What a whole command comes to; nothing when it does not end.
-std::optional<ExitStatus> outcome(Id verb, const PlatformProfile &profile, const QString &key = {}, const QString &value = {})
+std::optional<ExitStatus> outcome(Id verb, const PlatformProfile &profile, const QString &key = {},
+                                  const QString &value = {})
 {
     Invocation invocation;
     invocation.verb = verb;
@@ -52,7 +54,8 @@ private Q_SLOTS:
         QVERIFY(outcome(Id::restore, computer.profile) == ExitStatus::done);
         QVERIFY(!computer.hasMarker());
         QCOMPARE(computer.verbs(), QStringList{u"disconnect"_s});
-        QVERIFY(outcome(Id::restore, computer.profile) == ExitStatus::done); // nothing to do is no error
+        // nothing to do is no error
+        QVERIFY(outcome(Id::restore, computer.profile) == ExitStatus::done);
         QCOMPARE(computer.verbs().size(), 1);
     }
 
@@ -116,7 +119,8 @@ private Q_SLOTS:
         const QString app = computer.folder.filePath(u"app.desktop"_s);
         Computer::write(app, "[Desktop Entry]\nType=Application\nName=A\nExec=true\n");
         const bool isRoot = geteuid() == 0;
-        QVERIFY(outcome(Id::launch, computer.profile, app) == (isRoot ? ExitStatus::done : ExitStatus::notRunning));
+        QVERIFY(outcome(Id::launch, computer.profile, app)
+                == (isRoot ? ExitStatus::done : ExitStatus::notRunning));
         QCOMPARE(computer.verbs(), isRoot ? QStringList{u"launch"_s} : QStringList());
         if (!isRoot)
             return;
@@ -134,7 +138,8 @@ private Q_SLOTS:
             static_cast<void>(outcome(Id::status, profile));
             return output.text();
         };
-        const QString told = u"\n  Settings    The settings file couldn't be read. It was kept as "_s;
+        const QString told
+            = u"\n  Settings    The settings file couldn't be read. It was kept as "_s;
         QCOMPARE(said(computer.profile).count(told), 1);
         QCOMPARE(said(computer.profile).count(told), 0);
 
@@ -188,11 +193,13 @@ private Q_SLOTS:
             return ended == ExitStatus::done ? errors.text() : u"it failed"_s;
         };
         QCOMPARE(said(u"192.0.2.1:443\n192.0.2.2:443"_s), QString());
-        QCOMPARE(said(u"192.0.2.1:443\nexample.org:443"_s), u"veldmarkctl: line 2 is not a bridge line: example.org:443\n"_s);
+        QCOMPARE(said(u"192.0.2.1:443\nexample.org:443"_s),
+                 u"veldmarkctl: line 2 is not a bridge line: example.org:443\n"_s);
         QString many;
         for (int i = 1; i <= 102; ++i)
             many += u"192.0.2.1:%1\n"_s.arg(i);
-        QCOMPARE(said(many), u"veldmarkctl: 2 too many, from line 101 on; at most 100 can be used\n"_s);
+        QCOMPARE(said(many),
+                 u"veldmarkctl: 2 too many, from line 101 on; at most 100 can be used\n"_s);
         if (running)
             server->reset();
         settle();

@@ -21,7 +21,8 @@ class IdentitiesCommandTest : public QObject {
 private Q_SLOTS:
     void readsWhatWasWrittenWhole()
     {
-        const auto known = Identities::parse("identities 7\nstanding\n1000 127.65.0.1 firefox\n1001 127.65.0.2 as:bank\\x2d\nend 7\n");
+        const auto known = Identities::parse(
+            "identities 7\nstanding\n1000 127.65.0.1 firefox\n1001 127.65.0.2 as:bank\\x2d\nend 7\n");
         QVERIFY(known && known->standing);
         QCOMPARE(known->all.size(), 2U);
         QCOMPARE(known->all[1].user, 1001U);
@@ -34,10 +35,13 @@ private Q_SLOTS:
     void refusesTheRest_data()
     {
         QTest::addColumn<QByteArray>("text");
-        for (const char *text : {"", "\n", "identities 1\nstanding\n", "identities 1\nstanding\nend 2\n", "identities 1\nother\nend 1\n",
-                                 "identities 1\nstanding\nend 1", "identities 1\nstanding\nx 127.0.0.1 a\nend 1\n",
-                                 "identities 1\nstanding\n1 10.0.0.1 a\nend 1\n", "identities 1\nstanding\n1 127.0.0.1 a b\nend 1\n",
-                                 "identities 1\nstanding\n1 127.0.0.1 a\x1b[2J\nend 1\n"})
+        for (const char *text :
+             {"", "\n", "identities 1\nstanding\n", "identities 1\nstanding\nend 2\n",
+              "identities 1\nother\nend 1\n", "identities 1\nstanding\nend 1",
+              "identities 1\nstanding\nx 127.0.0.1 a\nend 1\n",
+              "identities 1\nstanding\n1 10.0.0.1 a\nend 1\n",
+              "identities 1\nstanding\n1 127.0.0.1 a b\nend 1\n",
+              "identities 1\nstanding\n1 127.0.0.1 a\x1b[2J\nend 1\n"})
             QTest::newRow(text) << QByteArray(text);
     }
 
@@ -54,7 +58,8 @@ private Q_SLOTS:
         profile.identitiesNote = folder.filePath(QStringLiteral("note"));
         profile.identitiesSocket = folder.filePath(QStringLiteral("socket"));
         QFile file(profile.identitiesNote);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("identities 1\nstanding\nend 1\n") > 0);
+        QVERIFY(file.open(QIODevice::WriteOnly)
+                && file.write("identities 1\nstanding\nend 1\n") > 0);
         file.close();
         QVERIFY(!Identities::read(profile));
         const int serving = socket(AF_UNIX, SOCK_DGRAM, 0);
@@ -70,11 +75,16 @@ private Q_SLOTS:
 
     void aProgramIsParsedWithItsOwnWords()
     {
-        const auto asked = parseArguments({QStringLiteral("run-as"), QStringLiteral("bank"), QStringLiteral("--"), QStringLiteral("curl"),
+        const auto asked = parseArguments({QStringLiteral("run-as"), QStringLiteral("bank"),
+                                           QStringLiteral("--"), QStringLiteral("curl"),
                                            QStringLiteral("--json"), QStringLiteral("--")});
         QVERIFY(asked && asked->key == QStringLiteral("bank") && !asked->json);
-        QCOMPARE(asked->program, (QStringList{QStringLiteral("curl"), QStringLiteral("--json"), QStringLiteral("--")}));
-        for (const QStringList &words : {QStringList{}, {QStringLiteral("bank")}, {QStringLiteral("bank"), QStringLiteral("--")}})
+        QCOMPARE(
+            asked->program,
+            (QStringList{QStringLiteral("curl"), QStringLiteral("--json"), QStringLiteral("--")}));
+        for (const QStringList &words : {QStringList{},
+                                         {QStringLiteral("bank")},
+                                         {QStringLiteral("bank"), QStringLiteral("--")}})
             QVERIFY(!parseArguments(QStringList{QStringLiteral("run-as")} + words));
     }
 
@@ -83,16 +93,21 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         PlatformProfile profile;
         profile.identitiesNote = folder.filePath(QStringLiteral("note"));
-        QStringList words = runAsWords(QStringLiteral("my.bank"), QStringLiteral("12"), 1000, profile,
-                                       {QStringLiteral("/bin/echo"), QStringLiteral("started"), QStringLiteral("a  b")});
-        QCOMPARE(words.mid(0, 7).join(u' '), QStringLiteral("systemd-run --user --scope --quiet --collect --slice=app.slice --unit=app-veldmark-my.bank-12.scope"));
+        QStringList words = runAsWords(
+            QStringLiteral("my.bank"), QStringLiteral("12"), 1000, profile,
+            {QStringLiteral("/bin/echo"), QStringLiteral("started"), QStringLiteral("a  b")});
+        QCOMPARE(
+            words.mid(0, 7).join(u' '),
+            QStringLiteral(
+                "systemd-run --user --scope --quiet --collect --slice=app.slice --unit=app-veldmark-my.bank-12.scope"));
         words = words.mid(words.indexOf(QStringLiteral("--")) + 1);
         const auto write = [&profile](const char *line) {
             QFile file(profile.identitiesNote);
             QVERIFY(file.open(QIODevice::WriteOnly));
             file.write(line);
         };
-        write("1000 127.65.0.1 as:my-bank\n1001 127.65.0.1 as:my.bank\n1000 127.65.0.1 as:my.bank2\n");
+        write(
+            "1000 127.65.0.1 as:my-bank\n1001 127.65.0.1 as:my.bank\n1000 127.65.0.1 as:my.bank2\n");
         QProcess process;
         process.start(words.first(), words.mid(1));
         QVERIFY(!process.waitForFinished(400));

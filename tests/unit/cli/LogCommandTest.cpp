@@ -25,11 +25,13 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("line");
         QTest::addColumn<QString>("coloured");
-        QTest::newRow("warning") << "Nov 16 00:41:07.123 [warn] Guard is down"
-                                 << "\x1b[2mNov 16 00:41:07.123\x1b[0m\x1b[33m [warn] Guard is down\x1b[0m";
+        QTest::newRow("warning")
+            << "Nov 16 00:41:07.123 [warn] Guard is down"
+            << "\x1b[2mNov 16 00:41:07.123\x1b[0m\x1b[33m [warn] Guard is down\x1b[0m";
         QTest::newRow("notice") << "Nov 16 00:41:07.123 [notice] Done"
                                 << "\x1b[2mNov 16 00:41:07.123\x1b[0m [notice] Done";
-        QTest::newRow("error of another format") << "start failed" << "\x1b[31mstart failed\x1b[0m";
+        QTest::newRow("error of another format") << "start failed"
+                                                 << "\x1b[31mstart failed\x1b[0m";
     }
 
     void coloursByLevelOnlyWhenAsked()
@@ -44,7 +46,8 @@ private Q_SLOTS:
     void aTerminalIsNotGivenOrders()
     {
         const QString text = QStringLiteral("bad \x1b]0;title\x07 end é 😀");
-        QCOMPARE(logLineText(TorLogLine::parse(text, 0), false), QStringLiteral("bad ?]0;title? end é 😀"));
+        QCOMPARE(logLineText(TorLogLine::parse(text, 0), false),
+                 QStringLiteral("bad ?]0;title? end é 😀"));
     }
 
     void newLinesAreThoseThatWereNotThere_data()
@@ -52,7 +55,9 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("before");
         QTest::addColumn<QStringList>("now");
         QTest::addColumn<QStringList>("added");
-        const auto list = [](const char *text) { return QString::fromUtf8(text).split(u' ', Qt::SkipEmptyParts); };
+        const auto list = [](const char *text) {
+            return QString::fromUtf8(text).split(u' ', Qt::SkipEmptyParts);
+        };
         QTest::newRow("appended") << list("a b") << list("a b c d") << list("c d");
         QTest::newRow("nothing") << list("a b") << list("a b") << list("");
         QTest::newRow("the beginning was cut") << list("a b c") << list("b c d") << list("d");

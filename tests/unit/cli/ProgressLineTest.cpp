@@ -11,7 +11,8 @@ private Q_SLOTS:
     void writesAPlainLineForEachChange()
     {
         ProgressLine line(false, 80);
-        QCOMPARE(line.update(0.05, QStringLiteral("Connecting to a relay")), QStringLiteral("  5%  Connecting to a relay\n"));
+        QCOMPARE(line.update(0.05, QStringLiteral("Connecting to a relay")),
+                 QStringLiteral("  5%  Connecting to a relay\n"));
         QCOMPARE(line.update(0.05, QStringLiteral("Connecting to a relay")), QString());
         QCOMPARE(line.update(1.0, QStringLiteral("Done")), QStringLiteral("100%  Done\n"));
         QCOMPARE(line.finish(), QString());

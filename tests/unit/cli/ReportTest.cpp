@@ -51,8 +51,11 @@ private Q_SLOTS:
     // It was measured before.
     void showsNoLatencyWhileNothingGetsThrough()
     {
-        QVERIFY(Report::status(object(R"({"phase":"connected","latencyMs":182,"stall":null})")).contains(QStringLiteral("182 ms through Tor")));
-        QVERIFY(!Report::status(object(R"({"phase":"connected","latencyMs":182,"stall":"noCircuit"})")).contains(QStringLiteral("182 ms")));
+        QVERIFY(Report::status(object(R"({"phase":"connected","latencyMs":182,"stall":null})"))
+                    .contains(QStringLiteral("182 ms through Tor")));
+        QVERIFY(
+            !Report::status(object(R"({"phase":"connected","latencyMs":182,"stall":"noCircuit"})"))
+                 .contains(QStringLiteral("182 ms")));
     }
 
     void showsWhatLeaks()
@@ -68,15 +71,25 @@ private Q_SLOTS:
         QTest::addColumn<QString>("mode");
         QTest::addColumn<QString>("rules");
         QTest::addColumn<QString>("text");
-        const QString unknown = QStringLiteral("no answer, but the kill switch isn't known to close it");
+        const QString unknown = QStringLiteral(
+            "no answer, but the kill switch isn't known to close it");
         const QString proxy = QStringLiteral("no answer, but proxy mode doesn't close it");
-        QTest::newRow("standing") << "strict" << "standing" << "blocked";
-        QTest::newRow("put back") << "strict" << "putBack" << "blocked";
-        QTest::newRow("open") << "strict" << "open" << unknown;
-        QTest::newRow("unknown") << "strict" << "unknown" << unknown;
-        QTest::newRow("nothing") << "strict" << "" << unknown;
-        QTest::newRow("proxy") << "proxy" << "" << proxy;
-        QTest::newRow("proxy with rules") << "proxy" << "standing" << proxy;
+        QTest::newRow("standing") << "strict"
+                                  << "standing"
+                                  << "blocked";
+        QTest::newRow("put back") << "strict"
+                                  << "putBack"
+                                  << "blocked";
+        QTest::newRow("open") << "strict"
+                              << "open" << unknown;
+        QTest::newRow("unknown") << "strict"
+                                 << "unknown" << unknown;
+        QTest::newRow("nothing") << "strict"
+                                 << "" << unknown;
+        QTest::newRow("proxy") << "proxy"
+                               << "" << proxy;
+        QTest::newRow("proxy with rules") << "proxy"
+                                          << "standing" << proxy;
     }
 
     void saysBlockedOnlyWhereTheRulesWereSeen()
@@ -88,15 +101,19 @@ private Q_SLOTS:
         state.insert(QStringLiteral("activeMode"), mode);
         state.insert(QStringLiteral("killSwitch"), rules);
         const QString report = Report::status(state);
-        QVERIFY2(report.contains(QStringLiteral("\n  Direct path ") + text + QLatin1Char('\n')), qPrintable(report));
+        QVERIFY2(report.contains(QStringLiteral("\n  Direct path ") + text + QLatin1Char('\n')),
+                 qPrintable(report));
     }
 
     void claimsThatOnlyTorsTrafficLeavesWhereNothingElseWasSeen()
     {
         const QString claim = QStringLiteral("only Tor's traffic leaves");
-        QJsonObject state = object(R"({"phase":"connected","activeMode":"strict","killSwitch":"standing"})");
-        for (const auto &[level, isClaimed] : {std::pair{"good", true}, {"working", true}, {"warning", true}, {"danger", false}}) {
-            state.insert(QStringLiteral("level"), QLatin1String(level)); // a leak or an exposure is a danger
+        QJsonObject state = object(
+            R"({"phase":"connected","activeMode":"strict","killSwitch":"standing"})");
+        for (const auto &[level, isClaimed] :
+             {std::pair{"good", true}, {"working", true}, {"warning", true}, {"danger", false}}) {
+            // a leak or an exposure is a danger
+            state.insert(QStringLiteral("level"), QLatin1String(level));
             QVERIFY2(Report::status(state).contains(claim) == isClaimed, level);
         }
         state.insert(QStringLiteral("level"), QStringLiteral("good"));
@@ -106,9 +123,11 @@ private Q_SLOTS:
 
     void doesNotAdviseToEndAnothersSession()
     {
-        QVERIFY(Report::status(object(R"({"phase":"stale","otherSession":{"user":"bob","process":7}})")).contains(
-            QStringLiteral("nothing; veldmarkctl restore would end that session")));
-        QVERIFY(!Report::status(object(R"({"phase":"stale","otherSession":null})")).contains(QStringLiteral("nothing;")));
+        QVERIFY(
+            Report::status(object(R"({"phase":"stale","otherSession":{"user":"bob","process":7}})"))
+                .contains(QStringLiteral("nothing; veldmarkctl restore would end that session")));
+        QVERIFY(!Report::status(object(R"({"phase":"stale","otherSession":null})"))
+                     .contains(QStringLiteral("nothing;")));
     }
 
     void saysWhatIsWrong()
@@ -117,14 +136,18 @@ private Q_SLOTS:
             R"({"phase":"disconnected","errorMessage":"No tor.","terminalError":"No ~/.bashrc."})"));
         QVERIFY(report.contains(QStringLiteral("\n  Problem     No tor.")));
         QVERIFY(report.contains(QStringLiteral("\n  Terminal    No ~/.bashrc.")));
-        QVERIFY(!Report::status(object(R"({"phase":"disconnected"})")).contains(QStringLiteral("Terminal")));
-        const QString two = Report::status(object(R"({"phase":"connected","settingsProblems":["It was damaged.","It is full."]})"));
-        QVERIFY(two.endsWith(QStringLiteral("\n  Settings    It was damaged.\n  Settings    It is full.")));
+        QVERIFY(!Report::status(object(R"({"phase":"disconnected"})"))
+                     .contains(QStringLiteral("Terminal")));
+        const QString two = Report::status(object(
+            R"({"phase":"connected","settingsProblems":["It was damaged.","It is full."]})"));
+        QVERIFY(two.endsWith(
+            QStringLiteral("\n  Settings    It was damaged.\n  Settings    It is full.")));
     }
 
     void saysHowToRestoreAStaleNetwork()
     {
-        QVERIFY(Report::status(object(R"({"phase":"stale"})")).contains(QStringLiteral("veldmarkctl restore")));
+        QVERIFY(Report::status(object(R"({"phase":"stale"})"))
+                    .contains(QStringLiteral("veldmarkctl restore")));
     }
 
     void saysWhatKeepsTorFromConnecting()
@@ -135,8 +158,10 @@ private Q_SLOTS:
             state.insert(QStringLiteral("phase"), QLatin1String(phase));
             QVERIFY2(Report::status(state).contains(cause), phase);
         }
-        QVERIFY(!Report::status(object(R"({"phase":"connecting","bootstrapProblem":null})")).contains(QStringLiteral("Cause")));
-        QVERIFY(!Report::status(object(R"({"phase":"connected","bootstrapProblem":"Old."})")).contains(QStringLiteral("Cause")));
+        QVERIFY(!Report::status(object(R"({"phase":"connecting","bootstrapProblem":null})"))
+                     .contains(QStringLiteral("Cause")));
+        QVERIFY(!Report::status(object(R"({"phase":"connected","bootstrapProblem":"Old."})"))
+                     .contains(QStringLiteral("Cause")));
     }
 
     void drawsACircuitAsAPath()
@@ -144,9 +169,14 @@ private Q_SLOTS:
         const QString report = Report::circuits(object(
             R"({"circuits":[{"id":"7","purpose":"GENERAL","sites":["example.org"],"hops":[
                 {"nickname":"alpha","country":"de","ip":"192.0.2.1"},{"nickname":"beta","country":null,"ip":null}]}]})"));
-        QCOMPARE(report, QStringLiteral("   7  GENERAL   alpha (DE 192.0.2.1) → beta\n                → example.org"));
-        QVERIFY(Report::circuits(object(R"({"circuits":[{"id":"8","purpose":"HS_CLIENT_REND","sites":["a.onion"],"hops":[]}]})"))
-                    .startsWith(QStringLiteral("   8  ONION ")));
+        QCOMPARE(report,
+                 QStringLiteral(
+                     "   7  GENERAL   alpha (DE 192.0.2.1) → beta\n                → example.org"));
+        QVERIFY(
+            Report::circuits(
+                object(
+                    R"({"circuits":[{"id":"8","purpose":"HS_CLIENT_REND","sites":["a.onion"],"hops":[]}]})"))
+                .startsWith(QStringLiteral("   8  ONION ")));
         QCOMPARE(Report::circuits({}), QStringLiteral("No circuits yet."));
     }
 

@@ -22,8 +22,9 @@ namespace {
 
 InterruptibleApplication *application = nullptr;
 
-// A computer whose tor hashes passwords and never opens its control port, and whose helper writes and removes the marker.
-// The control port is the real one, where nobody listens, so that no session ever stands.
+// A computer whose tor hashes passwords and never opens its control port, and whose helper writes
+// and removes the marker. The control port is the real one, where nobody listens, so that no
+// session ever stands.
 struct Computer {
     QTemporaryDir folder;
     PlatformProfile profile = PlatformProfile::linux(Places::below(folder.path()));
@@ -33,9 +34,12 @@ struct Computer {
         const QByteArray marker = QFile::encodeName(profile.sessionMarker);
         write(profile.torCandidates.constFirst(), "#!/bin/sh\necho 16:0123456789ABCDEF\n");
         write(profile.helperCandidates.constFirst(),
-              "#!/bin/bash\ncase $1 in\nconnect) mkdir -p '" + QFile::encodeName(QFileInfo(profile.sessionMarker).path())
-                  + "' && echo strict >'" + marker + "' ;;\ndisconnect) rm -f '" + marker + "' ;;\nesac\n");
-        write(profile.promptProgram, "#!/bin/sh\nexec /bin/bash \"$@\"\n"); // not asked when root runs the test
+              "#!/bin/bash\ncase $1 in\nconnect) mkdir -p '"
+                  + QFile::encodeName(QFileInfo(profile.sessionMarker).path())
+                  + "' && echo strict >'" + marker + "' ;;\ndisconnect) rm -f '" + marker
+                  + "' ;;\nesac\n");
+        // not asked when root runs the test
+        write(profile.promptProgram, "#!/bin/sh\nexec /bin/bash \"$@\"\n");
         QDir().mkpath(profile.places.home);
         QDir().mkpath(profile.places.runtimeDirectory);
     }
@@ -81,8 +85,8 @@ private Q_SLOTS:
         QVERIFY(!computer.hasMarker());
     }
 
-    // However far it has got when the event loop ends, also without having been told before: nobody is left
-    // waiting, and nobody who is resumed then finds what has gone already.
+    // However far it has got when the event loop ends, also without having been told before: nobody
+    // is left waiting, and nobody who is resumed then finds what has gone already.
     void leavesNobodyWaiting_data()
     {
         QTest::addColumn<bool>("connects");
@@ -144,6 +148,7 @@ static int runRunCommandTest(int argc, char **argv)
     RunCommandTest test;
     return QTest::qExec(&test, argc, argv);
 }
-static const veldmark::test::Registration registeredRunCommandTest("RunCommandTest", runRunCommandTest);
+static const veldmark::test::Registration registeredRunCommandTest("RunCommandTest",
+                                                                   runRunCommandTest);
 
 #include "RunCommandTest.moc"

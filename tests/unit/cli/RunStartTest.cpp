@@ -25,15 +25,19 @@ private Q_SLOTS:
         RunCommand run(computer.profile, true);
         run.start();
         QVERIFY(until([&] { return computer.verbs().size() >= 3; }));
-        QCOMPARE(computer.verbs(), QStringList({u"install-privileged"_s, u"approve"_s, u"connect"_s})); // its tor is the user's own
-        QCOMPARE(Computer::read(computer.profile.installedHelper), Computer::read(computer.profile.bundledHelper()));
+        // its tor is the user's own
+        QCOMPARE(computer.verbs(),
+                 QStringList({u"install-privileged"_s, u"approve"_s, u"connect"_s}));
+        QCOMPARE(Computer::read(computer.profile.installedHelper),
+                 Computer::read(computer.profile.bundledHelper()));
     }
 
     void aHelperThatIsUpToDateIsLeftAlone()
     {
         Computer computer;
         computer.installOldHelper();
-        Computer::write(computer.profile.installedHelper, Computer::read(computer.profile.bundledHelper()), true);
+        Computer::write(computer.profile.installedHelper,
+                        Computer::read(computer.profile.bundledHelper()), true);
         RunCommand run(computer.profile, true);
         run.start();
         QVERIFY(until([&] { return computer.verbs().size() >= 2; }));
@@ -61,7 +65,8 @@ private Q_SLOTS:
         const Output output;
         RunCommand run(computer.profile, true);
         run.start();
-        QVERIFY2(until([&] { return output.text().contains(u"\n  Problem "_s); }), qPrintable(output.text()));
+        QVERIFY2(until([&] { return output.text().contains(u"\n  Problem "_s); }),
+                 qPrintable(output.text()));
         QCOMPARE(computer.verbs(), QStringList({u"install-privileged"_s}));
         QCOMPARE(output.text().count(u"\n  Problem "_s), 1);
     }
@@ -100,7 +105,9 @@ private Q_SLOTS:
             const Output output;
             RunCommand run(computer.profile, false);
             run.start();
-            const auto says = [&output](const QString &words) { return until([&] { return output.text().contains(words); }); };
+            const auto says = [&output](const QString &words) {
+                return until([&] { return output.text().contains(words); });
+            };
             static_cast<void>(says(u"from an earlier session"_s));
             atFirst = output.text();
             OtherSession other(computer.profile);
@@ -108,11 +115,14 @@ private Q_SLOTS:
             static_cast<void>(says(u"process %1"_s.arg(process)));
             taken = output.text().sliced(atFirst.size());
             other.end();
-            static_cast<void>(until([&] { return output.text().sliced(atFirst.size() + taken.size()).contains(u"earlier"_s); }));
+            static_cast<void>(until([&] {
+                return output.text().sliced(atFirst.size() + taken.size()).contains(u"earlier"_s);
+            }));
             leftOver = output.text().sliced(atFirst.size() + taken.size());
         }
         QCOMPARE(atFirst.count(u"from an earlier session"_s), 1);
-        QVERIFY2(taken.contains(u"by another Veldmark of yours, process %1"_s.arg(process)), qPrintable(taken));
+        QVERIFY2(taken.contains(u"by another Veldmark of yours, process %1"_s.arg(process)),
+                 qPrintable(taken));
         QVERIFY2(leftOver.contains(u"from an earlier session"_s), qPrintable(leftOver));
     }
 };

@@ -24,7 +24,10 @@ private Q_SLOTS:
         bench.probe.beforeTorAnswer = [answers] { return waitFor(answers); };
         const SessionLines lines(bench.controller());
         const auto connecting = bench.controller().connect();
-        QVERIFY(until([&] { return bench.controller().phase() == ConnectionPhase::connected && bench.controller().isChecking(); }));
+        QVERIFY(until([&] {
+            return bench.controller().phase() == ConnectionPhase::connected
+                && bench.controller().isChecking();
+        }));
         settle();
         bench.hold(u"disconnect"_s);
         QString said;
@@ -59,7 +62,8 @@ private Q_SLOTS:
             for (int tick = 0; tick < 7; ++tick)
                 QVERIFY(bench.tick());
             settle();
-            bench.route = NetworkRoute{u"eth0"_s, false}; // there is a network, and Tor has not noticed yet
+            // there is a network, and Tor has not noticed yet
+            bench.route = NetworkRoute{u"eth0"_s, false};
             QVERIFY(bench.tick());
             settle();
             said = output.text();
@@ -89,7 +93,9 @@ private Q_SLOTS:
                 settle();
                 said = output.text();
             }
-            QCOMPARE(said, u"Restoring your network settings…\nNot Protected: Your traffic is not going through Tor\n"_s);
+            QCOMPARE(
+                said,
+                u"Restoring your network settings…\nNot Protected: Your traffic is not going through Tor\n"_s);
         }
     }
 
@@ -151,7 +157,8 @@ private Q_SLOTS:
             warned = errors.text();
             said = output.text();
         }
-        QCOMPARE(warned, u"veldmarkctl: Kill Switch Open: Traffic may leave this computer directly\n"_s);
+        QCOMPARE(warned,
+                 u"veldmarkctl: Kill Switch Open: Traffic may leave this computer directly\n"_s);
         QVERIFY(said.contains(u"  5%  Connecting\n"_s));
         QVERIFY(!said.contains(u"Kill switch"_s));
     }

@@ -92,7 +92,8 @@ private Q_SLOTS:
         QCOMPARE(QCoro::waitFor(connection.send("x")).error(), ControlPortError::notConnected());
         Opened opened;
         opened.connection.close();
-        QCOMPARE(ask(opened.connection, "GETINFO version").error(), ControlPortError::notConnected());
+        QCOMPARE(ask(opened.connection, "GETINFO version").error(),
+                 ControlPortError::notConnected());
         QTRY_COMPARE(opened.tor.openConnections(), 0);
     }
 
@@ -115,7 +116,8 @@ private Q_SLOTS:
         opened.tor.reply("X", reply);
         const auto result = ask(opened.connection, "X");
         QCOMPARE(result.has_value(), success);
-        const QString last = QString::fromUtf8(reply).trimmed().split(QStringLiteral("\r\n")).last();
+        const QString last
+            = QString::fromUtf8(reply).trimmed().split(QStringLiteral("\r\n")).last();
         if (success)
             QCOMPARE(result->last(), last);
         else
@@ -320,15 +322,18 @@ private Q_SLOTS:
     void goesPastTheProgramsProxy()
     {
         FakeTor tor;
-        const auto restore = qScopeGuard([] { QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy); });
+        const auto restore = qScopeGuard(
+            [] { QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy); });
         QNetworkProxy::setApplicationProxy(
             QNetworkProxy(QNetworkProxy::Socks5Proxy, QStringLiteral("127.0.0.1"), tor.port()));
-        // Qt asks no proxy for "localhost" and its addresses anyway, unless the address is another one's that leads there.
+        // Qt asks no proxy for "localhost" and its addresses anyway, unless the address is another
+        // one's that leads there.
         const QHostAddress here(QStringLiteral("0.0.0.0"));
         QTcpSocket ordinary;
         ordinary.connectToHost(here, tor.port());
         QTRY_VERIFY(tor.connectionCount() == 1);
-        QVERIFY(ordinary.state() != QAbstractSocket::ConnectedState); // it talks SOCKS to what is none
+        // it talks SOCKS to what is none
+        QVERIFY(ordinary.state() != QAbstractSocket::ConnectedState);
         ControlConnection connection(tor.port(), here);
         QVERIFY(QCoro::waitFor(connection.open(tor.password())));
     }
@@ -341,7 +346,8 @@ private Q_SLOTS:
         const auto task = opened.connection.collectEvents(&clock, 5s);
         // Short lines: each takes more room in memory than its bytes.
         const QByteArray lines = QByteArray("650\r\n").repeated(10'000);
-        const qsizetype needed = ReplyFraming::largestReplyBytes / (3 + ReplyFraming::lineOverheadBytes);
+        const qsizetype needed = ReplyFraming::largestReplyBytes
+            / (3 + ReplyFraming::lineOverheadBytes);
         qsizetype sent = 0;
         for (; sent <= needed + 20'000 && !task.isReady(); sent += 10'000) {
             opened.tor.sendEvent(lines);

@@ -40,7 +40,8 @@ private Q_SLOTS:
         row("equals within the code only", text({"25=x", "2=0-ab", "=250 ", "250 OK"}), {});
         row("shortest line", text({"250=", "250-=", "250 OK"}), {{"", ""}});
         row("the last of two", text({"250-a=1", "250-a=2", "250 OK"}), {{"a", "2"}});
-        row("data block", text({"250+k=", "body", "12345=x", ".", "250 OK"}), {{"k", ""}, {"5", "x"}});
+        row("data block", text({"250+k=", "body", "12345=x", ".", "250 OK"}),
+            {{"k", ""}, {"5", "x"}});
         row("on the final line", text({"250 a=1"}), {{"a", "1"}});
         row("nothing", {}, {});
     }
@@ -61,7 +62,8 @@ private Q_SLOTS:
         row("an empty block", text({"250+k=", ".", "250 OK"}), {});
         row("unstuffed", text({"250+k=", "..x", "..", "...", ".x", ".", "250 OK"}),
             text({".x", ".", "..", ".x"}));
-        row("text on the first line", text({"250+k=zero", "one", ".", "250 OK"}), text({"zero", "one"}));
+        row("text on the first line", text({"250+k=zero", "one", ".", "250 OK"}),
+            text({"zero", "one"}));
         row("single line", text({"250-k=value", "250-k=other", "250 OK"}), text({"value"}));
         row("empty single line", text({"250-k=", "250 OK"}), {});
         row("single line before the block", text({"250-k=", "250+k=", "x", ".", "250 OK"}), {});
@@ -85,7 +87,8 @@ private Q_SLOTS:
         const auto row = [](const char *line, const QStringList &hosts) {
             QTest::newRow(line) << QString::fromUtf8(line) << hosts;
         };
-        row("650 STREAM 12 NEWRESOLVE 0 [2001:DB8::1]:0 PURPOSE=DNS_REQUEST", text({"2001:db8::1"}));
+        row("650 STREAM 12 NEWRESOLVE 0 [2001:DB8::1]:0 PURPOSE=DNS_REQUEST",
+            text({"2001:db8::1"}));
         row("650 STREAM 13 SUCCEEDED 5 MyHost:443 PURPOSE=DNS_REQUEST", text({"myhost"}));
         row("650 STREAM 13 NEW 0 MyHost PURPOSE=DNS_REQUEST", text({"myhost"}));
         row("650 STREAM 13 NEW 0 a:b:53 PURPOSE=DNS_REQUEST", text({"a:b"}));
@@ -94,7 +97,8 @@ private Q_SLOTS:
         row("650 STREAM 13 NEW 0 []:53 PURPOSE=DNS_REQUEST", text({""}));
         row("650 STREAM 13 NEW 0 a:53 PURPOSE=USER", {});
         row("650 STREAM 13 NEW 0 a:53 PURPOSE=USER SOCKS_USERNAME=\"x PURPOSE=DNS_REQUEST\"", {});
-        row("650 STREAM 13 NEW 0 a:53 SOCKS_USERNAME=\"x PURPOSE=USER\" PURPOSE=DNS_REQUEST", text({"a"}));
+        row("650 STREAM 13 NEW 0 a:53 SOCKS_USERNAME=\"x PURPOSE=USER\" PURPOSE=DNS_REQUEST",
+            text({"a"}));
         row("650 STREAM 13 NEW PURPOSE=DNS_REQUEST", {});
         row("650 CIRC 13 NEW 0 a:53 PURPOSE=DNS_REQUEST", {});
         row("650-STREAM 13 NEW 0 a:53 PURPOSE=DNS_REQUEST", {});

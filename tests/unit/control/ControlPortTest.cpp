@@ -44,9 +44,7 @@ QCoro::Task<void> emitEvents(FakeTor *tor, QByteArray events, std::shared_ptr<Wo
 
 ControlPort::Work workThatSends(FakeTor &tor, const QByteArray &events, std::shared_ptr<Work> work)
 {
-    return [&tor, events, work](StopToken stop) {
-        return emitEvents(&tor, events, work, stop);
-    };
+    return [&tor, events, work](StopToken stop) { return emitEvents(&tor, events, work, stop); };
 }
 
 } // namespace
@@ -69,8 +67,9 @@ private Q_SLOTS:
                     "250-traffic/read=1234\r\n250-traffic/written=567\r\n250 OK\r\n");
         const auto values = QCoro::waitFor(
             a.port.getInfo(text({"traffic/read", "traffic/written"}), a.tor.password()));
-        QCOMPARE(values.value(), ControlPort::Values({{QStringLiteral("traffic/read"), QStringLiteral("1234")},
-                                                      {QStringLiteral("traffic/written"), QStringLiteral("567")}}));
+        QCOMPARE(values.value(),
+                 ControlPort::Values({{QStringLiteral("traffic/read"), QStringLiteral("1234")},
+                                      {QStringLiteral("traffic/written"), QStringLiteral("567")}}));
         QCOMPARE(a.tor.connectionCount(), 1);
         QTRY_COMPARE(a.tor.openConnections(), 0);
     }
@@ -81,7 +80,8 @@ private Q_SLOTS:
         QVERIFY(QCoro::waitFor(a.port.signal(QStringLiteral("NEWNYM"), a.tor.password())));
         QCOMPARE(a.tor.commands().last(), QStringLiteral("SIGNAL NEWNYM"));
         a.tor.reply("SIGNAL NEWNYM", "552 Unrecognized signal code \"NEWNYM\"\r\n");
-        const auto refused = QCoro::waitFor(a.port.signal(QStringLiteral("NEWNYM"), a.tor.password()));
+        const auto refused = QCoro::waitFor(
+            a.port.signal(QStringLiteral("NEWNYM"), a.tor.password()));
         QCOMPARE(refused.error().description(),
                  QStringLiteral("Tor replied: 552 Unrecognized signal code \"NEWNYM\""));
         QTRY_COMPARE(a.tor.openConnections(), 0);
@@ -92,8 +92,8 @@ private Q_SLOTS:
         Asking a;
         a.tor.reply("A", "250-a=1\r\n250 OK\r\n");
         a.tor.reply("C", "250 OK\r\n");
-        const auto replies =
-            QCoro::waitFor(a.port.batch(text({"A", "B", "C"}), a.tor.password())).value();
+        const auto replies
+            = QCoro::waitFor(a.port.batch(text({"A", "B", "C"}), a.tor.password())).value();
         QCOMPARE(replies.size(), 3u);
         QCOMPARE(replies[0].value(), text({"250-a=1", "250 OK"}));
         QVERIFY(!replies[1]);
@@ -122,7 +122,8 @@ private Q_SLOTS:
     void failuresToConnectAreUnchanged()
     {
         Asking a;
-        QCOMPARE(QCoro::waitFor(a.port.getInfo({version}, QStringLiteral("wrong"))).error().kind(), Kind::Tor);
+        QCOMPARE(QCoro::waitFor(a.port.getInfo({version}, QStringLiteral("wrong"))).error().kind(),
+                 Kind::Tor);
         QTRY_COMPARE(a.tor.openConnections(), 0);
         a.tor.stopListening();
         const auto refused = QCoro::waitFor(a.port.getInfo({version}, a.tor.password()));
@@ -146,7 +147,8 @@ private Q_SLOTS:
         QVERIFY(isRefused(QCoro::waitFor(a.port.batch({version, bad}, password))));
         QVERIFY(isRefused(QCoro::waitFor(a.port.batch({version}, bad))));
         QVERIFY(isRefused(QCoro::waitFor(a.port.captureResolves(bad, 1s, {}))));
-        QVERIFY(QCoro::waitFor(a.port.signal(QStringLiteral("NEWNYM"), password))); // the next does connect
+        // the next does connect
+        QVERIFY(QCoro::waitFor(a.port.signal(QStringLiteral("NEWNYM"), password)));
         QCOMPARE(a.tor.connectionCount(), 1);
         QCOMPARE(a.tor.commands().size(), 2);
     }
@@ -157,10 +159,10 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("partial");
         QTest::newRow("authentication") << QByteArray("AUTHENTICATE \"secret\"") << QByteArray();
         QTest::newRow("a reply") << QByteArray("GETINFO version") << QByteArray();
-        QTest::newRow("the end of a reply") << QByteArray("GETINFO version")
-                                            << QByteArray("250-version=1\r\n250");
-        QTest::newRow("the end of a block") << QByteArray("GETINFO version")
-                                            << QByteArray("250+version=\r\n1\r\n250 OK\r\n");
+        QTest::newRow("the end of a reply")
+            << QByteArray("GETINFO version") << QByteArray("250-version=1\r\n250");
+        QTest::newRow("the end of a block")
+            << QByteArray("GETINFO version") << QByteArray("250+version=\r\n1\r\n250 OK\r\n");
     }
     void anAnswerThatDoesNotComeIsTimedOut()
     {
@@ -253,7 +255,8 @@ private Q_SLOTS:
     {
         Asking a;
         const auto work = std::make_shared<Work>();
-        auto task = a.port.captureResolves(a.tor.password(), 60s, workThatSends(a.tor, {}, work), 2s);
+        auto task = a.port.captureResolves(a.tor.password(), 60s, workThatSends(a.tor, {}, work),
+                                           2s);
         QTRY_VERIFY(work->started);
         a.clock.advance(59'999ms); // far beyond the limit
         QVERIFY(!task.isReady());

@@ -32,15 +32,15 @@ private Q_SLOTS:
 
     void readsTheKernelsTable()
     {
-        const QByteArray table =
-            "  sl  local_address rem_address   st tx_queue rx_queue tr tm->when retrnsmt   uid  timeout inode\n"
-            "   0: 0100007F:235B 00000000:0000 0A 00000000:00000000 00:00000000 00000000   117        0 34851 1 0 100 0 0 10 0\n"
-            "   1: 0100007F:235B 0100007F:C001 01 00000000:00000000 00:00000000 00000000   117        0 35001 1 0 20 4 30 10 -1\n"
-            "   2: 0100007F:235B 0100007F:C002 01 00000000:00000000 00:00000000 00000000     0        0 35002 1 0 20 4 30 10 -1\n"
-            "   3: 0100007F:235B 0100007F:C003 01 00000000:00000000 00:00000000 00000000     0        0 0 1 0 20 4 30 10 -1\n"
-            "   4: 0100007F:C005 0100007F:235B 01 00000000:00000000 00:00000000 00000000   117        0 35003 1 0 20 4 30 10 -1\n"
-            "   5: 0200007F:235B 0100007F:C006 01 00000000:00000000 00:00000000 00000000   117        0 35004 1 0 20 4 30 10 -1\n"
-            "   6: 0100007F:235B 0100007F:C007 01 00000000:00000000 00:";
+        const QByteArray table
+            = "  sl  local_address rem_address   st tx_queue rx_queue tr tm->when retrnsmt   uid  timeout inode\n"
+              "   0: 0100007F:235B 00000000:0000 0A 00000000:00000000 00:00000000 00000000   117        0 34851 1 0 100 0 0 10 0\n"
+              "   1: 0100007F:235B 0100007F:C001 01 00000000:00000000 00:00000000 00000000   117        0 35001 1 0 20 4 30 10 -1\n"
+              "   2: 0100007F:235B 0100007F:C002 01 00000000:00000000 00:00000000 00000000     0        0 35002 1 0 20 4 30 10 -1\n"
+              "   3: 0100007F:235B 0100007F:C003 01 00000000:00000000 00:00000000 00000000     0        0 0 1 0 20 4 30 10 -1\n"
+              "   4: 0100007F:C005 0100007F:235B 01 00000000:00000000 00:00000000 00000000   117        0 35003 1 0 20 4 30 10 -1\n"
+              "   5: 0200007F:235B 0100007F:C006 01 00000000:00000000 00:00000000 00000000   117        0 35004 1 0 20 4 30 10 -1\n"
+              "   6: 0100007F:235B 0100007F:C007 01 00000000:00000000 00:";
 #ifdef __BYTE_ORDER__
         if (__BYTE_ORDER__ != __ORDER_LITTLE_ENDIAN__)
             QSKIP("the table is a little-endian machine's");
@@ -62,11 +62,13 @@ private Q_SLOTS:
         QVERIFY2(us, us ? "" : qPrintable(us.error().description().english()));
         const auto heard = tor.commands().size();
         QVERIFY(heard > 0);
-        for (const std::optional<uid_t> other : {std::optional<uid_t>(::geteuid() + 1), std::optional<uid_t>()}) {
+        for (const std::optional<uid_t> other :
+             {std::optional<uid_t>(::geteuid() + 1), std::optional<uid_t>()}) {
             const auto stranger = ask([other] { return other; });
             QVERIFY(!stranger);
             QCOMPARE(stranger.error().kind(), ControlPortError::Kind::Stranger);
-            QCOMPARE(stranger.error().description(), QStringLiteral("Another program than Tor listens on Tor's control port."));
+            QCOMPARE(stranger.error().description(),
+                     QStringLiteral("Another program than Tor listens on Tor's control port."));
         }
         QCOMPARE(tor.commands().size(), heard);
     }

@@ -67,15 +67,18 @@ private Q_SLOTS:
         if (torProgram().isEmpty())
             QSKIP("tor is not installed");
         m_tor.setProcessChannelMode(QProcess::MergedChannels);
-        m_tor.start(torProgram(), QStringList{
-            QStringLiteral("-f"), file("torrc", {}), QStringLiteral("--defaults-torrc"), file("defaults", {}),
-            QStringLiteral("--DisableNetwork"), QStringLiteral("1"),
-            QStringLiteral("--SocksPort"), QStringLiteral("0"),
-            QStringLiteral("--ControlPort"), QStringLiteral("9051"),
-            QStringLiteral("--HashedControlPassword"), TorPassword::hashOf(m_password.toUtf8(), "saltsalt"),
-            QStringLiteral("--DataDirectory"), m_folder.filePath(QStringLiteral("data")),
-            QStringLiteral("--__OwningControllerProcess"), QString::number(QCoreApplication::applicationPid()),
-            QStringLiteral("--Log"), QStringLiteral("notice stdout")});
+        m_tor.start(
+            torProgram(),
+            QStringList{
+                QStringLiteral("-f"), file("torrc", {}), QStringLiteral("--defaults-torrc"),
+                file("defaults", {}), QStringLiteral("--DisableNetwork"), QStringLiteral("1"),
+                QStringLiteral("--SocksPort"), QStringLiteral("0"), QStringLiteral("--ControlPort"),
+                QStringLiteral("9051"), QStringLiteral("--HashedControlPassword"),
+                TorPassword::hashOf(m_password.toUtf8(), "saltsalt"),
+                QStringLiteral("--DataDirectory"), m_folder.filePath(QStringLiteral("data")),
+                QStringLiteral("--__OwningControllerProcess"),
+                QString::number(QCoreApplication::applicationPid()), QStringLiteral("--Log"),
+                QStringLiteral("notice stdout")});
         QByteArray log;
         QVERIFY(waitForText("Opened Control listener", &log));
     }
@@ -90,17 +93,18 @@ private Q_SLOTS:
 
     void theRightPasswordOpensIt()
     {
-        const auto values = QCoro::waitFor(
-            m_port.getInfo({QStringLiteral("version"), QStringLiteral("traffic/read"),
-                            QStringLiteral("traffic/written"), QStringLiteral("status/bootstrap-phase")},
-                           m_password));
+        const auto values = QCoro::waitFor(m_port.getInfo(
+            {QStringLiteral("version"), QStringLiteral("traffic/read"),
+             QStringLiteral("traffic/written"), QStringLiteral("status/bootstrap-phase")},
+            m_password));
         QVERIFY2(values, values ? "" : qPrintable(values.error().description().english()));
         QCOMPARE(values->size(), 4);
         QVERIFY(values->value(QStringLiteral("version")).startsWith(u'0'));
         QCOMPARE(values->value(QStringLiteral("traffic/read")), QStringLiteral("0"));
         QCOMPARE(values->value(QStringLiteral("traffic/written")), QStringLiteral("0"));
         QVERIFY(values->value(QStringLiteral("status/bootstrap-phase"))
-                    .startsWith(QStringLiteral("NOTICE BOOTSTRAP PROGRESS=0 TAG=starting SUMMARY=\"Starting\"")));
+                    .startsWith(QStringLiteral(
+                        "NOTICE BOOTSTRAP PROGRESS=0 TAG=starting SUMMARY=\"Starting\"")));
     }
 
     void aWrongPasswordIsRefused()
@@ -117,23 +121,26 @@ private Q_SLOTS:
         const auto values = QCoro::waitFor(
             m_port.getInfo({QStringLiteral("no/such/key")}, m_password));
         QVERIFY(!values);
-        QVERIFY2(values.error().description().english().startsWith(QStringLiteral("Tor replied: 552 ")),
-                 qPrintable(values.error().description().english()));
+        QVERIFY2(
+            values.error().description().english().startsWith(QStringLiteral("Tor replied: 552 ")),
+            qPrintable(values.error().description().english()));
     }
 
     void aBatchReadsBlocksAndSurvivesARefusal()
     {
         const auto replies = QCoro::waitFor(m_port.batch(
             {QStringLiteral("GETINFO circuit-status"), QStringLiteral("GETINFO no/such/key"),
-             QStringLiteral("GETINFO config/names"), QStringLiteral("CLOSECIRCUIT 999")}, m_password));
+             QStringLiteral("GETINFO config/names"), QStringLiteral("CLOSECIRCUIT 999")},
+            m_password));
         QVERIFY(replies);
         QCOMPARE(replies->size(), 4u);
         QVERIFY(replies->at(0));
-        QCOMPARE(ControlPort::dataBlock(QStringLiteral("circuit-status"), *replies->at(0)), QStringList());
+        QCOMPARE(ControlPort::dataBlock(QStringLiteral("circuit-status"), *replies->at(0)),
+                 QStringList());
         QVERIFY(!replies->at(1));
         QVERIFY(replies->at(2));
-        const QStringList names =
-            ControlPort::dataBlock(QStringLiteral("config/names"), *replies->at(2));
+        const QStringList names = ControlPort::dataBlock(QStringLiteral("config/names"),
+                                                         *replies->at(2));
         QVERIFY(names.size() > 100);
         QVERIFY(names.contains(QStringLiteral("DisableNetwork Boolean")));
         QVERIFY(!replies->at(3));
@@ -147,7 +154,8 @@ private Q_SLOTS:
         QVERIFY(replies);
         QCOMPARE(replies->size(), 50u);
         for (const auto &reply : *replies)
-            QVERIFY(ControlPort::dataBlock(key, *reply).contains(QStringLiteral("DisableNetwork 1")));
+            QVERIFY(
+                ControlPort::dataBlock(key, *reply).contains(QStringLiteral("DisableNetwork 1")));
     }
 
     void aCaptureSubscribesAndEnds()
@@ -189,7 +197,8 @@ private:
     QTemporaryDir m_folder;
     QProcess m_tor;
     ManualClock m_clock;
-    ControlPort m_port{m_clock, ControlPort::defaultPort, [] { return std::optional(::geteuid()); }};
+    ControlPort m_port{m_clock, ControlPort::defaultPort,
+                       [] { return std::optional(::geteuid()); }};
 };
 
 static int runRealTorTest(int argc, char **argv)

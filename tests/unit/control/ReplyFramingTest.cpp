@@ -17,8 +17,7 @@ struct Framed {
 };
 
 // Frames `stream`, fed in pieces whose sizes `nextSize` gives.
-template <typename Sizes>
-Framed frame(const QByteArray &stream, Sizes nextSize)
+template <typename Sizes> Framed frame(const QByteArray &stream, Sizes nextSize)
 {
     ReplyFraming framing;
     Framed framed;
@@ -64,7 +63,8 @@ std::vector<QByteArray> hostileStreams()
         "\n\n\r\n\r\r\n\r\n250 \r\n",
         QByteArray("250-\0\0=\0\r\n250 \0\r\n", 17),
         "250-name=\xff\xfe\xc3\r\n250 \xe2\x82\r\n",
-        "\xef\xbb\xbf" "250 hidden\r\n250 OK\r\n",
+        "\xef\xbb\xbf"
+        "250 hidden\r\n250 OK\r\n",
         "250+a=\r\n.\r\n250+b=\r\n. \r\n .\r\n...\r\n.\r\n250 OK\r\n",
         "250+endless=\r\nbody\r\nbody\r\n250 OK\r\n",
         "no line end at all",
@@ -82,17 +82,20 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("stream");
         QTest::addColumn<QList<QStringList>>("replies");
-        const auto row = [](const char *name, const QByteArray &stream, QList<QStringList> replies) {
+        const auto row = [](const char *name, const QByteArray &stream,
+                            QList<QStringList> replies) {
             QTest::newRow(name) << stream << replies;
         };
         row("one line", "250 OK\r\n", {text({"250 OK"})});
         row("nothing complete", "250 OK\r", {});
-        row("mid-reply lines", "250-a=1\r\n250-b=2\r\n250 OK\r\n", {text({"250-a=1", "250-b=2", "250 OK"})});
+        row("mid-reply lines", "250-a=1\r\n250-b=2\r\n250 OK\r\n",
+            {text({"250-a=1", "250-b=2", "250 OK"})});
         row("two replies", "250 OK\r\n552 no\r\n", {text({"250 OK"}), text({"552 no"})});
         row("bare line feed", "250-a\nb\r\n250 OK\r\n", {text({"250-a\nb", "250 OK"})});
         row("bare line feed after a blank", "250 a\nb\r\n", {text({"250 a\nb"})});
         row("bare carriage return", "250-a\rb\r\n250 OK\r\n", {text({"250-a\rb", "250 OK"})});
-        row("line that starts with a line feed", "\n250 OK\r\n250 OK\r\n", {text({"\n250 OK", "250 OK"})});
+        row("line that starts with a line feed", "\n250 OK\r\n250 OK\r\n",
+            {text({"\n250 OK", "250 OK"})});
         row("short lines", "\r\n25\r\n250\r\n250 OK\r\n", {text({"", "25", "250", "250 OK"})});
         row("fourth character alone", "250 \r\n", {text({"250 "})});
         row("data block", "250+k=\r\n250 OK\r\n5\r\n..x\r\n.\r\n250 OK\r\n",
@@ -105,7 +108,9 @@ private Q_SLOTS:
             {text({"250+a=", "xxx+", ".", "250 OK"})});
         row("no status code", "abc def\r\n", {text({"abc def"})});
         row("repaired", "250 \xff\r\n", {text({"250 \xef\xbf\xbd"})});
-        row("mark before the code", "\xef\xbb\xbf" "250 x\r\n250 OK\r\n", 
+        row("mark before the code",
+            "\xef\xbb\xbf"
+            "250 x\r\n250 OK\r\n",
             {{QChar(QChar::ByteOrderMark) + QStringLiteral("250 x"), QStringLiteral("250 OK")}});
         row("letters of two bytes", "\xc3\xa4\xc3\xb6\xc3\xbc OK\r\n", {text({"äöü OK"})});
     }
@@ -172,10 +177,13 @@ private Q_SLOTS:
         QFETCH(qsizetype, length);
         QFETCH(QByteArray, end);
         QFETCH(bool, accepted);
-        const QByteArray stream = "250 OK\r\n250 " + QByteArray(length - 4, 'x') + end + "250 OK\r\n";
+        const QByteArray stream = "250 OK\r\n250 " + QByteArray(length - 4, 'x') + end
+            + "250 OK\r\n";
         const Framed whole = frameWhole(stream);
         QCOMPARE(whole.replies.size(), accepted ? 3u : 1u);
-        QCOMPARE(whole.error, accepted ? QString()
+        QCOMPARE(whole.error,
+                 accepted
+                     ? QString()
                      : QStringLiteral("Tor sent a line of more than 1 MiB on its control port."));
         QVERIFY(frame(stream, [] { return 1; }) == whole);
         QVERIFY(frame(stream, [] { return 65'536; }) == whole);
@@ -191,7 +199,8 @@ private Q_SLOTS:
     void anEndlessReplyEndsAtTheLimit()
     {
         QFETCH(QByteArray, line);
-        const qsizetype allowed = (ReplyFraming::largestReplyBytes - 8 - ReplyFraming::lineOverheadBytes)
+        const qsizetype allowed = (ReplyFraming::largestReplyBytes - 8
+                                   - ReplyFraming::lineOverheadBytes)
             / (line.size() + ReplyFraming::lineOverheadBytes);
         ReplyFraming framing;
         framing.feed("250+a=\r\n");

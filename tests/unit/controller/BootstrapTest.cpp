@@ -31,21 +31,26 @@ private Q_SLOTS:
         QTest::addColumn<QString>("reply");
         QTest::addColumn<int>("progress");
         QTest::addColumn<QString>("summary");
-        QTest::newRow("documented form") << u"NOTICE BOOTSTRAP PROGRESS=85 TAG=ap_conn_done SUMMARY=\"Connected to a relay\""_s
-                                         << 85 << u"Connected to a relay"_s;
+        QTest::newRow("documented form")
+            << u"NOTICE BOOTSTRAP PROGRESS=85 TAG=ap_conn_done SUMMARY=\"Connected to a relay\""_s
+            << 85 << u"Connected to a relay"_s;
         QTest::newRow("empty") << QString() << 0 << QString();
-        QTest::newRow("no progress") << u"NOTICE BOOTSTRAP TAG=x SUMMARY=\"Hello\""_s << 0 << u"Hello"_s;
+        QTest::newRow("no progress")
+            << u"NOTICE BOOTSTRAP TAG=x SUMMARY=\"Hello\""_s << 0 << u"Hello"_s;
         QTest::newRow("no summary") << u"PROGRESS=10 TAG=x"_s << 10 << QString();
         QTest::newRow("empty summary") << u"PROGRESS=10 SUMMARY=\"\""_s << 10 << QString();
         QTest::newRow("unclosed summary") << u"PROGRESS=10 SUMMARY=\"abc"_s << 10 << QString();
-        QTest::newRow("too large") << u"PROGRESS=99999999999999999999 SUMMARY=\"a\""_s << 0 << u"a"_s;
+        QTest::newRow("too large")
+            << u"PROGRESS=99999999999999999999 SUMMARY=\"a\""_s << 0 << u"a"_s;
         QTest::newRow("negative") << u"PROGRESS=-5"_s << 0 << QString();
-        QTest::newRow("the first counts") << u"PROGRESS=1 PROGRESS=2 SUMMARY=\"a\" SUMMARY=\"b\""_s << 1 << u"a"_s;
-        QTest::newRow("warning fields") << u"WARN BOOTSTRAP PROGRESS=50 TAG=x SUMMARY=\"a\" WARNING=\"b\" COUNT=3"_s
-                                        << 50 << u"a"_s;
+        QTest::newRow("the first counts")
+            << u"PROGRESS=1 PROGRESS=2 SUMMARY=\"a\" SUMMARY=\"b\""_s << 1 << u"a"_s;
+        QTest::newRow("warning fields")
+            << u"WARN BOOTSTRAP PROGRESS=50 TAG=x SUMMARY=\"a\" WARNING=\"b\" COUNT=3"_s << 50
+            << u"a"_s;
         QTest::newRow("words within a string")
-            << u"NOTICE BOOTSTRAP SUMMARY=\"say \\\"PROGRESS=100 TAG=done\\\" twice\" PROGRESS=10"_s << 10
-            << u"say \"PROGRESS=100 TAG=done\" twice"_s;
+            << u"NOTICE BOOTSTRAP SUMMARY=\"say \\\"PROGRESS=100 TAG=done\\\" twice\" PROGRESS=10"_s
+            << 10 << u"say \"PROGRESS=100 TAG=done\" twice"_s;
         QTest::newRow("other digits") << u"PROGRESS=١٢"_s << 0 << QString();
     }
 
@@ -61,14 +66,18 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("reply");
         QTest::addColumn<QString>("warning");
-        const QString start = u"WARN BOOTSTRAP PROGRESS=5 TAG=conn SUMMARY=\"Connecting to a relay\" "_s;
-        QTest::newRow("nothing") << u"NOTICE BOOTSTRAP PROGRESS=85 TAG=x SUMMARY=\"Hello\""_s << QString();
+        const QString start
+            = u"WARN BOOTSTRAP PROGRESS=5 TAG=conn SUMMARY=\"Connecting to a relay\" "_s;
+        QTest::newRow("nothing") << u"NOTICE BOOTSTRAP PROGRESS=85 TAG=x SUMMARY=\"Hello\""_s
+                                 << QString();
         QTest::newRow("everything")
-            << start + u"WARNING=\"Connection refused\" REASON=CONNECTREFUSED COUNT=2 RECOMMENDATION=warn "
-                       "HOSTID=\"2FCF\" HOSTADDR=\"203.0.113.31:5000\""_s
+            << start
+                + u"WARNING=\"Connection refused\" REASON=CONNECTREFUSED COUNT=2 RECOMMENDATION=warn "
+                  "HOSTID=\"2FCF\" HOSTADDR=\"203.0.113.31:5000\""_s
             << u"Tor reports: Connection refused (CONNECTREFUSED, 203.0.113.31:5000)."_s;
-        QTest::newRow("no address") << start + u"WARNING=\"No route to host\" REASON=NOROUTE COUNT=1 RECOMMENDATION=warn"_s
-                                    << u"Tor reports: No route to host (NOROUTE)."_s;
+        QTest::newRow("no address")
+            << start + u"WARNING=\"No route to host\" REASON=NOROUTE COUNT=1 RECOMMENDATION=warn"_s
+            << u"Tor reports: No route to host (NOROUTE)."_s;
         QTest::newRow("words alone") << start + u"WARNING=\"b\""_s << u"Tor reports: b."_s;
         QTest::newRow("of no weight")
             << start + u"WARNING=\"DONE\" REASON=DONE COUNT=1 RECOMMENDATION=ignore"_s << QString();
@@ -90,12 +99,14 @@ private Q_SLOTS:
     {
         Workbench bench;
         TorController &c = bench.controller();
-        bench.setBootstrap("PROGRESS=5 TAG=conn SUMMARY=\"Connecting to a relay\" WARNING=\"Connection refused\" "
-                           "REASON=CONNECTREFUSED COUNT=1 RECOMMENDATION=warn");
+        bench.setBootstrap(
+            "PROGRESS=5 TAG=conn SUMMARY=\"Connecting to a relay\" WARNING=\"Connection refused\" "
+            "REASON=CONNECTREFUSED COUNT=1 RECOMMENDATION=warn");
         const auto connecting = c.connect();
         QVERIFY(waitsAfterPoll(bench, 1));
         QCOMPARE(c.statusDetail(), u"Connecting to a relay"_s); // Tor's summary, as ever
-        QCOMPARE(c.bootstrapProblem().value(), u"Tor reports: Connection refused (CONNECTREFUSED)."_s);
+        QCOMPARE(c.bootstrapProblem().value(),
+                 u"Tor reports: Connection refused (CONNECTREFUSED)."_s);
         QVERIFY(!c.errorMessage());
         bench.setBootstrap("PROGRESS=10 TAG=conn_done SUMMARY=\"Connected to a relay\"");
         bench.clock.advance(1s);
@@ -109,22 +120,26 @@ private Q_SLOTS:
         TorController &c = bench.controller();
         useObfs4(bench);
         const QString log = bench.profile.runDirectory + u"/notices.log"_s;
-        const QByteArray ended = "Nov 21 00:55:29.000 [warn] Managed proxy \"/x/lyrebird\" having PID 12 terminated "
-                                 "with status code 1\n";
+        const QByteArray ended
+            = "Nov 21 00:55:29.000 [warn] Managed proxy \"/x/lyrebird\" having PID 12 terminated "
+              "with status code 1\n";
         bench.writeFile(log, ended);
         bench.setBootstrap("PROGRESS=1 TAG=conn_pt SUMMARY=\"Connecting to pluggable transport\" "
                            "WARNING=\"Connection refused\" RECOMMENDATION=warn");
         const auto connecting = c.connect();
         QVERIFY(waitsAfterPoll(bench, 1));
-        QCOMPARE(c.bootstrapProblem().value(), u"The bridge program lyrebird ended unexpectedly (exit status 1)."_s);
+        QCOMPARE(c.bootstrapProblem().value(),
+                 u"The bridge program lyrebird ended unexpectedly (exit status 1)."_s);
         bench.writeFile(log, ended + ended);
         bench.clock.advance(1s);
         QVERIFY(waitsAfterPoll(bench, 2));
-        QCOMPARE(c.bootstrapProblem().value(), u"The bridge program lyrebird keeps ending (exit status 1)."_s);
+        QCOMPARE(c.bootstrapProblem().value(),
+                 u"The bridge program lyrebird keeps ending (exit status 1)."_s);
         bench.writeFile(log, {});
         bench.clock.advance(1s);
         QVERIFY(waitsAfterPoll(bench, 3));
-        QCOMPARE(c.bootstrapProblem().value(), u"Tor can't reach the bridge program: Connection refused."_s);
+        QCOMPARE(c.bootstrapProblem().value(),
+                 u"Tor can't reach the bridge program: Connection refused."_s);
         bench.setBootstrap("PROGRESS=100 TAG=done SUMMARY=\"Done\"");
         bench.clock.advance(1s);
         QVERIFY(Workbench::finished(connecting));
@@ -156,8 +171,11 @@ private Q_SLOTS:
         }
         bench.clock.advance(1s);
         QVERIFY(waitsAfterPoll(bench, 11));
-        QCOMPARE(c.bootstrapProblem().value_or(QString()),
-                 programs ? u"Tor is waiting for the bridge program, which hasn't said that it is ready."_s : QString());
+        QCOMPARE(
+            c.bootstrapProblem().value_or(QString()),
+            programs
+                ? u"Tor is waiting for the bridge program, which hasn't said that it is ready."_s
+                : QString());
         QCOMPARE(c.statusDetail(), u"Starting"_s);
     }
 
@@ -166,7 +184,8 @@ private Q_SLOTS:
         for (const int progress : {5, 10}) { // without a relay, and with one
             Workbench bench;
             TorController &c = bench.controller();
-            bench.setBootstrap("PROGRESS=" + QByteArray::number(progress) + " TAG=conn SUMMARY=\"Connecting to a relay\"");
+            bench.setBootstrap("PROGRESS=" + QByteArray::number(progress)
+                               + " TAG=conn SUMMARY=\"Connecting to a relay\"");
             const auto connecting = c.connect();
             QVERIFY(waitsAfterPoll(bench, 1));
             bench.writeFile(bench.profile.othersNote, "ufw\ntable ip filter\n");
@@ -177,9 +196,11 @@ private Q_SLOTS:
             }
             bench.clock.advance(1s);
             QVERIFY(waitsAfterPoll(bench, 11));
-            QCOMPARE(c.bootstrapProblem().value_or(QString()),
-                     progress < 10 ? u"Another firewall on this computer denies what goes out, so Tor can't connect: ufw, table ip filter."_s
-                                   : QString());
+            QCOMPARE(
+                c.bootstrapProblem().value_or(QString()),
+                progress < 10
+                    ? u"Another firewall on this computer denies what goes out, so Tor can't connect: ufw, table ip filter."_s
+                    : QString());
         }
     }
 
@@ -190,7 +211,8 @@ private Q_SLOTS:
             TorController &c = bench.controller();
             c.strictMode.set(strict);
             bench.route = std::move(route);
-            bench.setBootstrap("PROGRESS=" + QByteArray::number(progress) + " TAG=conn SUMMARY=\"Connecting to a relay\"");
+            bench.setBootstrap("PROGRESS=" + QByteArray::number(progress)
+                               + " TAG=conn SUMMARY=\"Connecting to a relay\"");
             const auto connecting = c.connect();
             waitsAfterPoll(bench, 1);
             bench.clock.advance(9s);
@@ -200,9 +222,12 @@ private Q_SLOTS:
             return isTooEarly || !isThere ? u"?"_s : c.bootstrapProblem().value_or(QString());
         };
         const NetworkRoute vpn{u"wg0"_s, true};
-        const QString inTheWay = u"A VPN takes Tor's traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode."_s;
-        QCOMPARE(told(std::nullopt, true, 5), u"This computer has no network, so Tor can't connect."_s);
-        QCOMPARE(told(std::nullopt, false, 5), u"This computer has no network, so Tor can't connect."_s);
+        const QString inTheWay
+            = u"A VPN takes Tor's traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode."_s;
+        QCOMPARE(told(std::nullopt, true, 5),
+                 u"This computer has no network, so Tor can't connect."_s);
+        QCOMPARE(told(std::nullopt, false, 5),
+                 u"This computer has no network, so Tor can't connect."_s);
         QCOMPARE(told(std::nullopt, true, 10), QString()); // a relay answers, by whatever way
         QCOMPARE(told(vpn, true, 5), inTheWay);
         QCOMPARE(told(vpn, false, 5), QString());
@@ -221,8 +246,9 @@ private Q_SLOTS:
         bench.clock.advance(300s);
         QVERIFY(Workbench::finished(connecting));
         QVERIFY(c.phase() == Phase::stale);
-        QCOMPARE(c.errorMessage().value(), u"Tor didn't finish connecting within 5 minutes. Your network is still pointed "
-                                           "at Tor. Click Restore Network to undo."_s);
+        QCOMPARE(c.errorMessage().value(),
+                 u"Tor didn't finish connecting within 5 minutes. Your network is still pointed "
+                 "at Tor. Click Restore Network to undo."_s);
         QCOMPARE(c.bootstrapProblem().value(), u"Tor reports: Connection refused."_s);
         bench.disconnect();
         QVERIFY(c.phase() == Phase::disconnected && !c.bootstrapProblem());
@@ -284,7 +310,8 @@ private Q_SLOTS:
         Workbench bench;
         QVERIFY(bench.connect());
         QCOMPARE(bench.clock.now(), Clock::TimePoint{});
-        QCOMPARE(bench.clock.totalSlept(), 3000ms); // the monitor's, and that of the watch over the rules
+        // the monitor's, and that of the watch over the rules
+        QCOMPARE(bench.clock.totalSlept(), 3000ms);
     }
 
     void progressNeverExceedsTheWhole()
@@ -312,7 +339,7 @@ private Q_SLOTS:
 
     void givesUpAfterFiveMinutes_data()
     {
-        QTest::addColumn<bool>("answers");  // until the end
+        QTest::addColumn<bool>("answers"); // until the end
         QTest::addColumn<QString>("reason");
         QTest::newRow("slow") << true << QString();
         QTest::newRow("refusing") << false << u" (Tor replied: 551 Internal error)"_s;
@@ -325,8 +352,10 @@ private Q_SLOTS:
         Workbench bench;
         TorController &c = bench.controller();
         const QByteArray refusal = "551 Internal error\r\n";
-        const QByteArray slow = "250-status/bootstrap-phase=NOTICE BOOTSTRAP PROGRESS=50\r\n250 OK\r\n";
-        bench.tor.reply(Workbench::bootstrapCommand, answers ? refusal : slow); // forgotten by the end
+        const QByteArray slow
+            = "250-status/bootstrap-phase=NOTICE BOOTSTRAP PROGRESS=50\r\n250 OK\r\n";
+        // forgotten by the end
+        bench.tor.reply(Workbench::bootstrapCommand, answers ? refusal : slow);
         const auto connecting = c.connect();
         QVERIFY(waitsAfterPoll(bench, 1));
         bench.tor.reply(Workbench::bootstrapCommand, answers ? slow : refusal);
@@ -340,9 +369,10 @@ private Q_SLOTS:
         QCOMPARE(bench.commandCount(Workbench::bootstrapCommand), 300);
         QVERIFY(c.phase() == Phase::stale && !c.canCancel());
         QCOMPARE(c.statusDetail(), u"Tor didn't finish connecting"_s);
-        QCOMPARE(c.errorMessage().value(),
-                 u"Tor didn't finish connecting within 5 minutes.%1 Your network is still pointed at Tor. "
-                 "Click Restore Network to undo."_s.arg(reason));
+        QCOMPARE(
+            c.errorMessage().value(),
+            u"Tor didn't finish connecting within 5 minutes.%1 Your network is still pointed at Tor. "
+            "Click Restore Network to undo."_s.arg(reason));
         QVERIFY(c.activeMode() == RoutingMode::strict); // the helper has switched it on
         QVERIFY(bench.hasMarker());
         QCOMPARE(bench.probe.torProbes, 0);
@@ -365,7 +395,8 @@ private Q_SLOTS:
         bench.clock.advance(1s);
         QVERIFY(Workbench::finished(connecting));
         QVERIFY(bench.controller().phase() == Phase::stale);
-        QVERIFY(bench.controller().errorMessage()->english().contains(u" (Tor didn't answer on its control port in time.) "_s));
+        QVERIFY(bench.controller().errorMessage()->english().contains(
+            u" (Tor didn't answer on its control port in time.) "_s));
     }
 
     void aDisconnectEndsTheWaitSilently_data()
@@ -411,7 +442,8 @@ private Q_SLOTS:
         QVERIFY(bench.hears(Workbench::bootstrapCommand, 2));
         bench.socketClock.advance(ControlPort::defaultLimit); // both questions end
         QVERIFY(Workbench::finished(first));
-        QVERIFY(until([&] { return bench.clock.sleepers() == 3; })); // two watches over the rules, the first of which ends
+        // two watches over the rules, the first of which ends
+        QVERIFY(until([&] { return bench.clock.sleepers() == 3; }));
         QVERIFY(c.phase() == Phase::connecting && c.canCancel());
         bench.clock.advance(1s);
         QVERIFY(bench.hears(Workbench::bootstrapCommand, 3));

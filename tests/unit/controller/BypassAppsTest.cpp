@@ -108,7 +108,8 @@ private Q_SLOTS:
         Workbench bench;
         QVERIFY(bench.connect());
         bench.applications.copies = {{zed, {7, 8}}};
-        const auto launching = bench.controller().launchBypassed(u"/usr/share//applications/a-zed.desktop"_s);
+        const auto launching = bench.controller().launchBypassed(
+            u"/usr/share//applications/a-zed.desktop"_s);
         QCOMPARE(bench.applications.asked, std::vector<qint64>({7, 8}));
         bench.applications.ended = {7};
         bench.clock.advance(100ms);
@@ -143,7 +144,8 @@ private Q_SLOTS:
         QVERIFY(bench.connect());
         bench.failHelper(u"launch"_s, u"No."_s);
         QVERIFY(Workbench::finished(bench.controller().launchBypassed(zed)));
-        QCOMPARE(bench.controller().errorMessage().value(), u"Couldn't open Zed without Tor: No."_s);
+        QCOMPARE(bench.controller().errorMessage().value(),
+                 u"Couldn't open Zed without Tor: No."_s);
     }
 
     void showsNothingWhenThePromptWasCancelled()

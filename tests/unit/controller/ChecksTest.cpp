@@ -29,14 +29,21 @@ private Q_SLOTS:
         QTest::addColumn<bool>("verified");
         QTest::addColumn<LeakStatus>("leak");
         const ProbeResult none = ScriptedProbe::nothing();
-        const ProbeResult exit = answer(true, u"203.0.113.10"_s), home = answer(false, u"198.51.100.7"_s);
+        const ProbeResult exit = answer(true, u"203.0.113.10"_s),
+                          home = answer(false, u"198.51.100.7"_s);
         QTest::newRow("blocked") << true << exit << none << true << LeakStatus::blocked();
-        QTest::newRow("no answer at all") << true << none << none << false << LeakStatus::inconclusive();
-        QTest::newRow("exposed, strict") << true << exit << home << true << LeakStatus::exposed(u"198.51.100.7"_s);
-        QTest::newRow("exposed, proxy") << false << exit << home << true << LeakStatus::exposed(u"198.51.100.7"_s);
-        QTest::newRow("exposed, Tor silent") << true << none << home << false << LeakStatus::exposed(u"198.51.100.7"_s);
-        QTest::newRow("direct through Tor, strict") << true << exit << exit << true << LeakStatus::blocked();
-        QTest::newRow("direct through Tor, proxy") << false << exit << exit << true << LeakStatus::inconclusive();
+        QTest::newRow("no answer at all")
+            << true << none << none << false << LeakStatus::inconclusive();
+        QTest::newRow("exposed, strict")
+            << true << exit << home << true << LeakStatus::exposed(u"198.51.100.7"_s);
+        QTest::newRow("exposed, proxy")
+            << false << exit << home << true << LeakStatus::exposed(u"198.51.100.7"_s);
+        QTest::newRow("exposed, Tor silent")
+            << true << none << home << false << LeakStatus::exposed(u"198.51.100.7"_s);
+        QTest::newRow("direct through Tor, strict")
+            << true << exit << exit << true << LeakStatus::blocked();
+        QTest::newRow("direct through Tor, proxy")
+            << false << exit << exit << true << LeakStatus::inconclusive();
         QTest::newRow("not a Tor exit") << true << home << none << false << LeakStatus::blocked();
     }
 
@@ -96,7 +103,8 @@ private Q_SLOTS:
         const auto checking = c.runChecks();
         QCOMPARE(bench.probe.torProbes, viaTor + 1);
         bench.clock.advance(600ms);
-        QCOMPARE(bench.probe.directProbes, direct); // the service does not see both addresses in one moment
+        // the service does not see both addresses in one moment
+        QCOMPARE(bench.probe.directProbes, direct);
         bench.clock.advance(100ms);
         QVERIFY(Workbench::finished(checking));
         QCOMPARE(bench.probe.directProbes, direct + 1);

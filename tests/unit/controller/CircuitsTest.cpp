@@ -18,9 +18,11 @@ QByteArray path()
     return '$' + guard + "~guard,$" + middle + "~middle,$" + exitRelay + "~exit";
 }
 
-QByteArray circuit(const QByteArray &id, const QByteArray &time = {}, const QByteArray &purpose = "GENERAL")
+QByteArray circuit(const QByteArray &id, const QByteArray &time = {},
+                   const QByteArray &purpose = "GENERAL")
 {
-    return id + " BUILT " + path() + " PURPOSE=" + purpose + (time.isEmpty() ? "" : " TIME_CREATED=2026-03-01T" + time);
+    return id + " BUILT " + path() + " PURPOSE=" + purpose
+        + (time.isEmpty() ? "" : " TIME_CREATED=2026-03-01T" + time);
 }
 
 QStringList ids(const TorController &controller)
@@ -36,7 +38,8 @@ QStringList ids(const TorController &controller)
 class CircuitsTest : public QObject {
     Q_OBJECT
 private:
-    static void answer(Workbench &bench, const QByteArrayList &circuits, const QByteArrayList &streams = {})
+    static void answer(Workbench &bench, const QByteArrayList &circuits,
+                       const QByteArrayList &streams = {})
     {
         bench.tor.reply("GETINFO circuit-status", Workbench::block("circuit-status", circuits));
         bench.tor.reply("GETINFO stream-status", Workbench::block("stream-status", streams));
@@ -66,7 +69,9 @@ private Q_SLOTS:
     {
         Workbench bench;
         QVERIFY(bench.connect());
-        answer(bench, {circuit("1"), circuit("2", "09:00:00"), circuit("3", "10:00:00"), circuit("4", "08:00:00")},
+        answer(bench,
+               {circuit("1"), circuit("2", "09:00:00"), circuit("3", "10:00:00"),
+                circuit("4", "08:00:00")},
                {"20 SUCCEEDED 4 example.org:443"});
         QVERIFY(refresh(bench));
         QCOMPARE(ids(bench.controller()), QStringList({u"4"_s, u"3"_s, u"2"_s, u"1"_s}));
@@ -77,7 +82,8 @@ private Q_SLOTS:
         Workbench bench;
         TorController &c = bench.controller();
         QVERIFY(bench.connect());
-        answer(bench, {circuit("12")}, {"20 SUCCEEDED 12 example.org:443", "21 SUCCEEDED 12 example.org:80"});
+        answer(bench, {circuit("12")},
+               {"20 SUCCEEDED 12 example.org:443", "21 SUCCEEDED 12 example.org:80"});
         QVERIFY(refresh(bench));
         QCOMPARE(c.circuits().front().sites, QStringList(u"example.org"_s));
         answer(bench, {circuit("12")});
@@ -129,15 +135,18 @@ private Q_SLOTS:
         TorController &c = bench.controller();
         QVERIFY(bench.connect());
         const QByteArray ns = "GETINFO ns/id/";
-        const auto status = [&ns, &bench](const QByteArray &fingerprint, const QByteArray &address) {
-            bench.tor.reply(ns + fingerprint,
-                            Workbench::block("ns/id/" + fingerprint,
-                                             {"r name AAAA BBBB 2026-03-01 10:00:00 " + address + " 9001 0"}));
+        const auto status = [&ns, &bench](const QByteArray &fingerprint,
+                                          const QByteArray &address) {
+            bench.tor.reply(
+                ns + fingerprint,
+                Workbench::block("ns/id/" + fingerprint,
+                                 {"r name AAAA BBBB 2026-03-01 10:00:00 " + address + " 9001 0"}));
         };
         status(middle, "192.0.2.2");
         status(exitRelay, "192.0.2.2"); // one address for two relays is asked for once
         bench.tor.reply(ns + guard, "552 Unrecognized key\r\n");
-        bench.tor.reply("GETINFO ip-to-country/192.0.2.2", "250-ip-to-country/192.0.2.2=de\r\n250 OK\r\n");
+        bench.tor.reply("GETINFO ip-to-country/192.0.2.2",
+                        "250-ip-to-country/192.0.2.2=de\r\n250 OK\r\n");
         answer(bench, {circuit("1"), circuit("2")});
         QVERIFY(refresh(bench));
         QVERIFY(!c.circuitError());
@@ -173,7 +182,8 @@ private Q_SLOTS:
         bench.tor.closeAfter("GETINFO stream-status");
         bench.tor.reply("GETINFO stream-status", "");
         QVERIFY(refresh(bench));
-        QCOMPARE(c.circuitError().value(), u"Couldn't read circuits: Tor closed the control connection."_s);
+        QCOMPARE(c.circuitError().value(),
+                 u"Couldn't read circuits: Tor closed the control connection."_s);
         QCOMPARE(ids(c), QStringList(u"1"_s));
         QVERIFY(!c.errorMessage()); // never the banner
     }
@@ -210,7 +220,9 @@ private Q_SLOTS:
         QVERIFY(bench.connect());
         answer(bench, {circuit("1")});
         const QByteArray question = "GETINFO ns/id/" + exitRelay;
-        bench.tor.reply(question, Workbench::block("ns/id/" + exitRelay, {"r n A B 2026-03-01 10:00:00 192.0.2.2 9001 0"}));
+        bench.tor.reply(question,
+                        Workbench::block("ns/id/" + exitRelay,
+                                         {"r n A B 2026-03-01 10:00:00 192.0.2.2 9001 0"}));
         bench.tor.ignore(question);
         const auto refreshing = bench.controller().refreshCircuits();
         QVERIFY(bench.hears(question.constData()));
@@ -239,7 +251,8 @@ private Q_SLOTS:
         bench.tor.replyOnce("SIGNAL NEWNYM", "552 Unrecognized signal\r\n");
         const auto refused = c.newIdentity();
         QVERIFY(Workbench::finished(refused));
-        QCOMPARE(c.errorMessage().value(), u"Couldn't request a new identity: Tor replied: 552 Unrecognized signal"_s);
+        QCOMPARE(c.errorMessage().value(),
+                 u"Couldn't request a new identity: Tor replied: 552 Unrecognized signal"_s);
         const auto granted = c.newIdentity();
         QVERIFY(Workbench::finished(granted));
         QVERIFY(!c.errorMessage());
@@ -303,7 +316,8 @@ private Q_SLOTS:
         const QByteArray question = "GETINFO ip-to-country/192.0.2.2";
         for (const QByteArray &relay : {guard, middle, exitRelay})
             bench.tor.reply("GETINFO ns/id/" + relay,
-                            Workbench::block("ns/id/" + relay, {"r n A B 2026-03-01 10:00:00 192.0.2.2 9001 0"}));
+                            Workbench::block("ns/id/" + relay,
+                                             {"r n A B 2026-03-01 10:00:00 192.0.2.2 9001 0"}));
         bench.tor.reply(question, "250-ip-to-country/192.0.2.2=de\r\n250 OK\r\n");
         bench.tor.ignore(question);
         answer(bench, {circuit("1")});

@@ -13,8 +13,8 @@ class ConnectFailureTest : public QObject {
 private:
     static bool isNormal(const TorController &c)
     {
-        return c.phase() == Phase::disconnected && !c.activeMode() && !c.activeBridge() && !c.canCancel()
-            && c.statusDetail() == u"Your traffic is not going through Tor"_s;
+        return c.phase() == Phase::disconnected && !c.activeMode() && !c.activeBridge()
+            && !c.canCancel() && c.statusDetail() == u"Your traffic is not going through Tor"_s;
     }
 
     static bool isLeftSetUp(const TorController &c)
@@ -29,11 +29,14 @@ private Q_SLOTS:
         QTest::addColumn<System>("system");
         QTest::addColumn<QByteArray>("osRelease");
         QTest::addColumn<QString>("message");
-        QTest::newRow("macos") << System::macos << QByteArray()
+        QTest::newRow("macos")
+            << System::macos << QByteArray()
             << u"Tor isn't installed. Install it with Homebrew (brew install tor) or set its location in Settings."_s;
-        QTest::newRow("linux") << System::linux << QByteArray()
+        QTest::newRow("linux")
+            << System::linux << QByteArray()
             << u"Tor isn't installed. Install it with your package manager or set its location in Settings."_s;
-        QTest::newRow("debian") << System::linux << QByteArray("ID=debian\n")
+        QTest::newRow("debian")
+            << System::linux << QByteArray("ID=debian\n")
             << u"Tor isn't installed. Install it with your package manager (sudo apt install tor tor-geoipdb) or "
                "set its location in Settings."_s;
     }
@@ -95,14 +98,17 @@ private Q_SLOTS:
         QTest::addColumn<BridgeChoice>("choice");
         QTest::addColumn<QString>("custom");
         QTest::addColumn<QString>("message");
-        QTest::newRow("none built in") << BridgeChoice::snowflake << QString()
+        QTest::newRow("none built in")
+            << BridgeChoice::snowflake << QString()
             << u"Built-in Snowflake bridges come from Tor Browser. Click Download next to Bridges, install Tor "
                "Browser, or paste your own under Bridges → Custom…."_s;
         QTest::newRow("none of one's own") << BridgeChoice::custom << QString()
-            << u"Add at least one bridge under Bridges → Custom…."_s;
-        QTest::newRow("invalid") << BridgeChoice::custom << u"nonsense"_s
+                                           << u"Add at least one bridge under Bridges → Custom…."_s;
+        QTest::newRow("invalid")
+            << BridgeChoice::custom << u"nonsense"_s
             << u"Some custom bridge lines aren't valid. Fix them under Bridges → Custom…."_s;
-        QTest::newRow("no program") << BridgeChoice::custom
+        QTest::newRow("no program")
+            << BridgeChoice::custom
             << u"obfs4 192.0.2.1:443 0123456789ABCDEF0123456789ABCDEF01234567 cert=abc iat-mode=0"_s
             << u"These bridges need lyrebird, which comes with Tor Browser. Click Download next to Bridges to get it."_s;
     }
@@ -165,7 +171,8 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("after");
         QTest::addColumn<QString>("mode"); // of the session that is left
         QTest::newRow("nothing before") << QByteArray() << QByteArray("strict\n") << u"strict"_s;
-        QTest::newRow("unchanged") << QByteArray("strict\n") << QByteArray("strict\n") << u"strict"_s;
+        QTest::newRow("unchanged")
+            << QByteArray("strict\n") << QByteArray("strict\n") << u"strict"_s;
         QTest::newRow("changed") << QByteArray("strict\n") << QByteArray("proxy\n") << u"proxy"_s;
         QTest::newRow("other word") << QByteArray("strict\n") << QByteArray("?") << QString();
         QTest::newRow("gone") << QByteArray("strict\n") << QByteArray() << QString();
@@ -203,8 +210,9 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(bench.profile.helperCandidates.constFirst()));
         QVERIFY(!bench.connect());
         QVERIFY(isNormal(bench.controller()));
-        QCOMPARE(bench.controller().errorMessage().value(),
-                 u"The helper script is missing from the app bundle. Rebuild the app with build.sh."_s);
+        QCOMPARE(
+            bench.controller().errorMessage().value(),
+            u"The helper script is missing from the app bundle. Rebuild the app with build.sh."_s);
     }
 
     void afterAFailureTerminalsGoTheNormalWay()
@@ -235,7 +243,6 @@ private Q_SLOTS:
         QCOMPARE(bench.helperRunCount(u"connect"_s), 1);
         QVERIFY(!c.torPath()); // the settings don't call one found that a connect refuses
     }
-
 };
 
 VELDMARK_TEST(ConnectFailureTest)

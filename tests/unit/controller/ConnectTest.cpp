@@ -15,8 +15,8 @@ using namespace veldmark;
 using System = Workbench::System;
 using Phase = ConnectionPhase;
 
-// How a connection is begun and what the helper is asked for. What Tor then says is BootstrapTest's,
-// what goes wrong ConnectFailureTest's.
+// How a connection is begun and what the helper is asked for. What Tor then says is
+// BootstrapTest's, what goes wrong ConnectFailureTest's.
 class ConnectTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -28,22 +28,26 @@ private Q_SLOTS:
         TorController &c = bench.controller();
         QStringList details;
         std::vector<Phase> phases;
-        QObject::connect(&c.statusDetail, &Field::changed, [&] { details << c.statusDetail().english(); });
+        QObject::connect(&c.statusDetail, &Field::changed,
+                         [&] { details << c.statusDetail().english(); });
         QObject::connect(&c.phase, &Field::changed, [&] { phases.push_back(c.phase()); });
         QVERIFY(bench.connect());
-        QCOMPARE(details, QStringList({u"Preparing Tor…"_s, u"Waiting for administrator approval…"_s,
-                                       u"Starting Tor…"_s, u"Done"_s, u"All traffic is locked to Tor"_s}));
+        QCOMPARE(details,
+                 QStringList({u"Preparing Tor…"_s, u"Waiting for administrator approval…"_s,
+                              u"Starting Tor…"_s, u"Done"_s, u"All traffic is locked to Tor"_s}));
         QVERIFY((phases == std::vector{Phase::connecting, Phase::connected}));
         QVERIFY(c.activeMode() == RoutingMode::strict);
         QVERIFY(!c.activeBridge() && !c.errorMessage() && !c.canCancel());
         QCOMPARE(c.bootstrapProgress(), 1.0);
         QVERIFY(bench.hasMarker());
-        QCOMPARE(bench.processes.calls.size(), std::size_t(1)); // Tor is not run to hash the password
+        // Tor is not run to hash the password
+        QCOMPARE(bench.processes.calls.size(), std::size_t(1));
         QCOMPARE(bench.processes.calls.front().executable, bench.profile.promptProgram);
         const QString hash = bench.lastHelperRun(u"connect"_s).value(4);
         QVERIFY(TorPassword::matches(bench.password().toUtf8(), hash));
         QStringList words = {u"connect"_s, u"--tor"_s, bench.profile.torCandidates.constFirst(),
-                             u"--hash"_s, hash, u"--strict"_s, u"1"_s, u"--lan"_s, u"1"_s};
+                             u"--hash"_s,  hash,       u"--strict"_s,
+                             u"1"_s,       u"--lan"_s, u"1"_s};
         if (!bench.profile.identitiesNote.isEmpty())
             words << u"--separate"_s << u"1"_s; // a Mac's helper tells no applications apart
         QCOMPARE(bench.lastHelperRun(u"connect"_s), words);
@@ -55,7 +59,8 @@ private Q_SLOTS:
         bench.controller().strictMode.set(false);
         QVERIFY(bench.connect());
         QVERIFY(bench.controller().activeMode() == RoutingMode::proxy);
-        QCOMPARE(bench.controller().statusDetail(), u"Apps that use system proxy settings go through Tor"_s);
+        QCOMPARE(bench.controller().statusDetail(),
+                 u"Apps that use system proxy settings go through Tor"_s);
     }
 
     void checksAndMonitorsOnceConnected()
@@ -65,7 +70,8 @@ private Q_SLOTS:
         QCOMPARE(bench.probe.torProbes, 1);
         QCOMPARE(bench.probe.directProbes, 1);
         QCOMPARE(bench.controller().exitIP().value(), u"203.0.113.10"_s);
-        QCOMPARE(bench.clock.sleepers(), std::size_t(2)); // the monitor, and the watch over the rules
+        // the monitor, and the watch over the rules
+        QCOMPARE(bench.clock.sleepers(), std::size_t(2));
         QVERIFY(bench.tick());
         QCOMPARE(bench.commandCount(Workbench::countersCommand), 1);
     }
@@ -89,11 +95,16 @@ private Q_SLOTS:
         QTest::addColumn<bool>("localNetwork");
         QTest::addColumn<QString>("exit");
         QTest::addColumn<QString>("options");
-        QTest::newRow("strict, local") << true << true << QString() << u"--strict 1 --lan 1 --separate 1"_s;
-        QTest::newRow("strict, not local") << true << false << QString() << u"--strict 1 --lan 0 --separate 1"_s;
-        QTest::newRow("proxy, local") << false << true << QString() << u"--strict 0 --lan 1 --separate 1"_s;
-        QTest::newRow("together") << true << true << QString() << u"--strict 1 --lan 1 --separate 0"_s;
-        QTest::newRow("exit") << true << false << u"de"_s << u"--strict 1 --lan 0 --separate 1 --exit de"_s;
+        QTest::newRow("strict, local")
+            << true << true << QString() << u"--strict 1 --lan 1 --separate 1"_s;
+        QTest::newRow("strict, not local")
+            << true << false << QString() << u"--strict 1 --lan 0 --separate 1"_s;
+        QTest::newRow("proxy, local")
+            << false << true << QString() << u"--strict 0 --lan 1 --separate 1"_s;
+        QTest::newRow("together") << true << true << QString()
+                                  << u"--strict 1 --lan 1 --separate 0"_s;
+        QTest::newRow("exit") << true << false << u"de"_s
+                              << u"--strict 1 --lan 0 --separate 1 --exit de"_s;
     }
 
     void helperOptionsFollowTheSettings()
@@ -105,7 +116,8 @@ private Q_SLOTS:
         bench.controller().strictMode.set(strict);
         bench.controller().allowLocalNetwork.set(localNetwork);
         bench.controller().exitCountry.set(exit);
-        bench.controller().separateApps.set(!QByteArray(QTest::currentDataTag()).startsWith("together"));
+        bench.controller().separateApps.set(
+            !QByteArray(QTest::currentDataTag()).startsWith("together"));
         QVERIFY(bench.connect());
         QTEST(bench.lastHelperRun(u"connect"_s).mid(5).join(u' '), "options");
     }
@@ -113,7 +125,8 @@ private Q_SLOTS:
     void bridgesComeAfterTheExitCountry()
     {
         Workbench bench;
-        const QString line = u"obfs4 192.0.2.1:443 0123456789ABCDEF0123456789ABCDEF01234567 cert=abc iat-mode=0"_s;
+        const QString line
+            = u"obfs4 192.0.2.1:443 0123456789ABCDEF0123456789ABCDEF01234567 cert=abc iat-mode=0"_s;
         bench.transports.builtin.insert(u"obfs4"_s, {line});
         bench.transports.lyrebird = u"/opt/it's \"lyre\\bird\""_s;
         bench.controller().bridgeChoice.set(BridgeChoice::obfs4);
@@ -123,7 +136,8 @@ private Q_SLOTS:
                  QStringList({u"--exit"_s, u"ch"_s, u"--bridge"_s, line, u"--pt-lyrebird"_s,
                               u"/opt/it's \"lyre\\bird\""_s}));
         QVERIFY(bench.controller().activeBridge() == BridgeChoice::obfs4);
-        QCOMPARE(bench.controller().transports().lyrebird, bench.transports.lyrebird); // searched afresh
+        // searched afresh
+        QCOMPARE(bench.controller().transports().lyrebird, bench.transports.lyrebird);
     }
 
     void testsTheBridgesFirstWhenAskedTo()
@@ -156,7 +170,8 @@ private Q_SLOTS:
         bench.processes.hold = nullptr;
         bench.processes.release();
         QVERIFY(Workbench::finished(connecting));
-        QCOMPARE(bench.lastHelperRun(u"connect"_s).mid(5).join(u' '), u"--strict 1 --lan 1 --separate 1 --exit de"_s);
+        QCOMPARE(bench.lastHelperRun(u"connect"_s).mid(5).join(u' '),
+                 u"--strict 1 --lan 1 --separate 1 --exit de"_s);
         QVERIFY(c.activeMode() == RoutingMode::strict);
         QVERIFY(!c.activeBridge());
     }
@@ -202,7 +217,8 @@ private Q_SLOTS:
         bench.writeFile(bench.folder.filePath(u"text"_s));
         const QString path = name.isEmpty() ? QString() : bench.folder.filePath(name);
         bench.controller().customTorPath.set(before + path + after);
-        QCOMPARE(bench.controller().torPath().value(), used ? path : bench.profile.torCandidates.constFirst());
+        QCOMPARE(bench.controller().torPath().value(),
+                 used ? path : bench.profile.torCandidates.constFirst());
     }
 
     void everyPasswordIsNewAndStaysHere()
@@ -243,7 +259,8 @@ private Q_SLOTS:
         bench.controller().allowLocalNetwork.set(false);
         QVERIFY(bench.connect()); // whose dialog says what it is
         QCOMPARE(bench.helperRunCount(u"connect"_s), 2);
-        QCOMPARE(bench.lastHelperRun(u"replace"_s).mid(5).join(u' '), u"--strict 1 --lan 0 --separate 1"_s);
+        QCOMPARE(bench.lastHelperRun(u"replace"_s).mid(5).join(u' '),
+                 u"--strict 1 --lan 0 --separate 1"_s);
         bench.disconnect();
         QVERIFY(bench.connect());
         QVERIFY(bench.lastHelperRun(u"connect"_s).at(4) != words.at(4));
@@ -259,7 +276,8 @@ private Q_SLOTS:
         bench.cancelPrompt(u"approve"_s);
         QVERIFY(!bench.connect());
         QCOMPARE(bench.helperRunCount(u"connect"_s), 0);
-        QVERIFY(bench.controller().phase() == Phase::disconnected && !bench.controller().errorMessage());
+        QVERIFY(bench.controller().phase() == Phase::disconnected
+                && !bench.controller().errorMessage());
         bench.failHelper(u"approve"_s, u"No."_s);
         QVERIFY(!bench.connect());
         QCOMPARE(bench.controller().errorMessage().value(), u"No."_s);
@@ -267,7 +285,8 @@ private Q_SLOTS:
         bench.letHelperWork();
         QVERIFY(bench.connect());
         QCOMPARE(bench.lastHelperRun(u"approve"_s),
-                 QStringList({u"approve"_s, u"--program"_s, tor, u"--as"_s, u"tor"_s, u"--sha256"_s, u"abcd"_s}));
+                 QStringList({u"approve"_s, u"--program"_s, tor, u"--as"_s, u"tor"_s, u"--sha256"_s,
+                              u"abcd"_s}));
         QCOMPARE(bench.helperRuns().back().constFirst(), u"connect"_s);
     }
 
@@ -275,23 +294,30 @@ private Q_SLOTS:
     {
         Workbench bench;
         const QString archive = SignedBundle::archiveBelow(bench.profile.bundleDirectory);
-        const QString lyrebird = bench.profile.bundleDirectory + u"/tor/pluggable_transports/lyrebird"_s;
+        const QString lyrebird = bench.profile.bundleDirectory
+            + u"/tor/pluggable_transports/lyrebird"_s;
         bench.writeFile(bench.profile.places.root + u"/usr/bin/gpgv"_s, "x", true);
-        for (const QString &path : {archive, SignedBundle::signatureOf(archive), SignedBundle::keyOf(archive), lyrebird})
+        for (const QString &path :
+             {archive, SignedBundle::signatureOf(archive), SignedBundle::keyOf(archive), lyrebird})
             bench.writeFile(path, "x");
         bench.missingApprovals = [lyrebird](const QStringList &) {
-            return std::vector<ProgramApproval>{{QFileInfo(lyrebird).canonicalFilePath(), u"lyrebird"_s, u"abcd"_s}};
+            return std::vector<ProgramApproval>{
+                {QFileInfo(lyrebird).canonicalFilePath(), u"lyrebird"_s, u"abcd"_s}};
         };
         QVERIFY(bench.connect());
         QCOMPARE(bench.helperRunCount(u"approve"_s), 0);
-        QCOMPARE(bench.lastHelperRun(u"connect"_s).mid(bench.lastHelperRun(u"connect"_s).size() - 2), QStringList({u"--bundle"_s, archive}));
+        QCOMPARE(
+            bench.lastHelperRun(u"connect"_s).mid(bench.lastHelperRun(u"connect"_s).size() - 2),
+            QStringList({u"--bundle"_s, archive}));
         bench.disconnect();
 
         // Root does not believe it: the program is named to an administrator.
         const auto answer = bench.processes.answer;
-        bench.processes.answer = [answer](const ScriptedRunner::Call &call) -> Result<ProcessResult, StartError> {
+        bench.processes.answer =
+            [answer](const ScriptedRunner::Call &call) -> Result<ProcessResult, StartError> {
             if (call.arguments.contains(u"--bundle"_s))
-                return ProcessResult{3, {}, u"ERROR: An administrator password is needed to approve it.\n"_s};
+                return ProcessResult{
+                    3, {}, u"ERROR: An administrator password is needed to approve it.\n"_s};
             return answer(call);
         };
         QVERIFY(bench.connect());
@@ -303,7 +329,8 @@ private Q_SLOTS:
 
         bench.cancelPrompt(u"approve"_s);
         QVERIFY(!bench.connect());
-        QVERIFY(bench.controller().phase() == Phase::disconnected && !bench.controller().errorMessage());
+        QVERIFY(bench.controller().phase() == Phase::disconnected
+                && !bench.controller().errorMessage());
 
         // A helper of an earlier version, which runs without a password, does not know the option.
         bench.letHelperWork();

@@ -70,11 +70,13 @@ private Q_SLOTS:
     void readingTheSettingsWritesNothing()
     {
         Workbench bench;
-        bench.writeFile(bench.profile.settingsFile, "terminalMode=true\nbridgeChoice=carrierPigeon\n");
+        bench.writeFile(bench.profile.settingsFile,
+                        "terminalMode=true\nbridgeChoice=carrierPigeon\n");
         bench.restart();
         QCOMPARE(bench.controller().terminalMode(), true);
         QVERIFY(!bench.terminal.isInstalled()); // setting it would install it
-        QCOMPARE(content(bench.profile.settingsFile), "terminalMode=true\nbridgeChoice=carrierPigeon\n");
+        QCOMPARE(content(bench.profile.settingsFile),
+                 "terminalMode=true\nbridgeChoice=carrierPigeon\n");
     }
 
     void aWordThatIsNoBridgeChoiceReadsAsOffUntilTheUserChooses()
@@ -151,19 +153,28 @@ private Q_SLOTS:
         QTest::addColumn<bool>("leak");
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("symbol");
-        const std::optional<RoutingMode> none, strict = RoutingMode::strict, proxy = RoutingMode::proxy;
+        const std::optional<RoutingMode> none, strict = RoutingMode::strict,
+                                               proxy = RoutingMode::proxy;
         const QString lock = u"lock.shield.fill"_s, mark = u"exclamationmark.shield"_s;
         const QString half = u"shield.lefthalf.filled"_s, slash = u"shield.slash"_s;
-        QTest::newRow("disconnected") << Phase::disconnected << none << false << u"Not Protected"_s << slash;
-        QTest::newRow("connecting") << Phase::connecting << none << false << u"Connecting…"_s << half;
-        QTest::newRow("connected, strict") << Phase::connected << strict << false << u"Protected"_s << lock;
-        QTest::newRow("connected, proxy") << Phase::connected << proxy << false << u"Proxy Active"_s << lock;
-        QTest::newRow("connected, no mode") << Phase::connected << none << false << u"Proxy Active"_s << lock;
-        QTest::newRow("leak, strict") << Phase::connected << strict << true << u"DNS Leak"_s << mark;
+        QTest::newRow("disconnected")
+            << Phase::disconnected << none << false << u"Not Protected"_s << slash;
+        QTest::newRow("connecting")
+            << Phase::connecting << none << false << u"Connecting…"_s << half;
+        QTest::newRow("connected, strict")
+            << Phase::connected << strict << false << u"Protected"_s << lock;
+        QTest::newRow("connected, proxy")
+            << Phase::connected << proxy << false << u"Proxy Active"_s << lock;
+        QTest::newRow("connected, no mode")
+            << Phase::connected << none << false << u"Proxy Active"_s << lock;
+        QTest::newRow("leak, strict")
+            << Phase::connected << strict << true << u"DNS Leak"_s << mark;
         QTest::newRow("leak, proxy") << Phase::connected << proxy << true << u"DNS Leak"_s << mark;
-        QTest::newRow("disconnecting") << Phase::disconnecting << strict << true << u"Disconnecting…"_s << half;
+        QTest::newRow("disconnecting")
+            << Phase::disconnecting << strict << true << u"Disconnecting…"_s << half;
         QTest::newRow("stale") << Phase::stale << strict << true << u"Needs Attention"_s << mark;
-        QTest::newRow("disconnected, old leak") << Phase::disconnected << none << true << u"Not Protected"_s << slash;
+        QTest::newRow("disconnected, old leak")
+            << Phase::disconnected << none << true << u"Not Protected"_s << slash;
     }
 
     void titleAndSymbol()
@@ -171,8 +182,11 @@ private Q_SLOTS:
         QFETCH(ConnectionPhase, phase);
         QFETCH(std::optional<RoutingMode>, mode);
         QFETCH(bool, leak);
-        const Verdict verdict = Verdict::of({.phase = phase, .mode = mode, .killSwitch = KillSwitch::State::standing,
-                                             .isDNSLeaking = leak, .torVerified = true});
+        const Verdict verdict = Verdict::of({.phase = phase,
+                                             .mode = mode,
+                                             .killSwitch = KillSwitch::State::standing,
+                                             .isDNSLeaking = leak,
+                                             .torVerified = true});
         QTEST(verdict.title.english(), "title");
         QTEST(verdict.symbol, "symbol");
     }
@@ -247,10 +261,11 @@ private Q_SLOTS:
             names << country.name.english();
         }
         QCOMPARE(codes.join(u' '), u" us ca gb de nl fr se ch fi ro jp sg"_s);
-        QCOMPARE(names, QStringList({u"Any (recommended)"_s, u"United States"_s, u"Canada"_s,
-                                     u"United Kingdom"_s, u"Germany"_s, u"Netherlands"_s, u"France"_s,
-                                     u"Sweden"_s, u"Switzerland"_s, u"Finland"_s, u"Romania"_s,
-                                     u"Japan"_s, u"Singapore"_s}));
+        QCOMPARE(names,
+                 QStringList({u"Any (recommended)"_s, u"United States"_s, u"Canada"_s,
+                              u"United Kingdom"_s, u"Germany"_s, u"Netherlands"_s, u"France"_s,
+                              u"Sweden"_s, u"Switzerland"_s, u"Finland"_s, u"Romania"_s, u"Japan"_s,
+                              u"Singapore"_s}));
     }
 
     void errorTexts()

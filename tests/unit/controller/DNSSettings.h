@@ -21,8 +21,9 @@ inline const std::vector<DNSResolver> throughTor = {
 // Two leaks, and how they are told.
 inline const std::vector<DNSResolver> leaking = {
     resolver({QStringLiteral("192.168.1.1")}, {}, QStringLiteral("en0")),
-    resolver({QStringLiteral("127.0.0.1"), QStringLiteral("10.8.0.1")}, QStringLiteral("corp"), QStringLiteral("utun2"))};
-inline const DNSStatus leak =
-    DNSStatus::leak({QStringLiteral("192.168.1.1 on en0"), QStringLiteral("10.8.0.1 for *.corp on utun2")});
+    resolver({QStringLiteral("127.0.0.1"), QStringLiteral("10.8.0.1")}, QStringLiteral("corp"),
+             QStringLiteral("utun2"))};
+inline const DNSStatus leak = DNSStatus::leak(
+    {QStringLiteral("192.168.1.1 on en0"), QStringLiteral("10.8.0.1 for *.corp on utun2")});
 
 } // namespace veldmark

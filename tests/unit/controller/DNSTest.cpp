@@ -22,8 +22,9 @@ private:
     // The name that the running live test has looked up.
     static QString lookedUp(int count)
     {
-        return until([count] { return NameLookups::hosts().size() >= count; }) ? NameLookups::hosts().constLast()
-                                                                                : QString();
+        return until([count] { return NameLookups::hosts().size() >= count; })
+            ? NameLookups::hosts().constLast()
+            : QString();
     }
 
     static void torSees(Workbench &bench, const QString &host)
@@ -55,7 +56,9 @@ private Q_SLOTS:
         const auto checking = c.checkDNS(true);
         QVERIFY(c.dnsStatus() == DNSStatus::checking());
         const QString host = lookedUp(1);
-        QVERIFY2(QRegularExpression(u"^veldmark-check-[0-9a-f-]{16}\\.torproject\\.org$"_s).match(host).hasMatch(),
+        QVERIFY2(QRegularExpression(u"^veldmark-check-[0-9a-f-]{16}\\.torproject\\.org$"_s)
+                     .match(host)
+                     .hasMatch(),
                  qPrintable(host));
         torSees(bench, host);
         QVERIFY(c.dnsStatus() == DNSStatus::checking()); // Tor is listened to until the end
@@ -232,7 +235,8 @@ private Q_SLOTS:
         bench.clock.advance(1s);
         QVERIFY(Workbench::finished(checking));
         QCOMPARE(c.dnsStatus().name(), reconnects ? u"unverified"_s : u"unknown"_s);
-        const auto later = c.checkDNS(false); // nor did the old test prove anything about this session
+        // nor did the old test prove anything about this session
+        const auto later = c.checkDNS(false);
         QVERIFY(Workbench::finished(later));
         QCOMPARE(c.dnsStatus().name(), reconnects ? u"unverified"_s : u"unknown"_s);
     }

@@ -20,8 +20,10 @@ private:
             for (const bool dismissed : {true, false}) {
                 const auto name = u"%1, %2, "_s.arg(strict ? u"strict"_s : u"proxy"_s,
                                                     dismissed ? u"dismissed"_s : u"failed"_s);
-                QTest::newRow(qPrintable(name + u"linux"_s)) << System::linux << strict << dismissed;
-                QTest::newRow(qPrintable(name + u"macos"_s)) << System::macos << strict << dismissed;
+                QTest::newRow(qPrintable(name + u"linux"_s))
+                    << System::linux << strict << dismissed;
+                QTest::newRow(qPrintable(name + u"macos"_s))
+                    << System::macos << strict << dismissed;
             }
         }
     }
@@ -47,23 +49,31 @@ private Q_SLOTS:
         Workbench bench(system);
         TorController &c = bench.controller();
         c.setTerminalMode(true);
-        bench.tor.reply("GETINFO circuit-status", Workbench::block("circuit-status", {"5 BUILT $" + QByteArray(40, 'A') + "~one PURPOSE=GENERAL"}));
+        bench.tor.reply(
+            "GETINFO circuit-status",
+            Workbench::block("circuit-status",
+                             {"5 BUILT $" + QByteArray(40, 'A') + "~one PURPOSE=GENERAL"}));
         bench.tor.reply("GETINFO stream-status", Workbench::block("stream-status", {}));
         QVERIFY(bench.connect());
         QVERIFY(bench.tick());
         const auto refreshing = c.refreshCircuits();
         QVERIFY(Workbench::finished(refreshing));
-        QVERIFY(c.circuits().size() == 1 && c.bytesRead() == 1000 && QFile::exists(activeFile(bench)));
+        QVERIFY(c.circuits().size() == 1 && c.bytesRead() == 1000
+                && QFile::exists(activeFile(bench)));
 
         std::vector<Phase> phases;
         QStringList details;
         QObject::connect(&c.phase, &Field::changed, [&] { phases.push_back(c.phase()); });
-        QObject::connect(&c.statusDetail, &Field::changed, [&] { details << c.statusDetail().english(); });
+        QObject::connect(&c.statusDetail, &Field::changed,
+                         [&] { details << c.statusDetail().english(); });
         bench.disconnect();
         QVERIFY((phases == std::vector{Phase::disconnecting, Phase::disconnected}));
-        QCOMPARE(details, QStringList({u"Restoring your network settings…"_s, u"Your traffic is not going through Tor"_s}));
+        QCOMPARE(details,
+                 QStringList({u"Restoring your network settings…"_s,
+                              u"Your traffic is not going through Tor"_s}));
         const QStringList told = bench.profile.sessionOwner.isEmpty()
-            ? QStringList() : QStringList{u"--process"_s, QString::number(QCoreApplication::applicationPid())};
+            ? QStringList()
+            : QStringList{u"--process"_s, QString::number(QCoreApplication::applicationPid())};
         QCOMPARE(bench.lastHelperRun(u"disconnect"_s), QStringList(u"disconnect"_s) + told);
         QVERIFY(!c.activeMode() && !c.activeBridge() && !c.errorMessage() && c.circuits().empty());
         QVERIFY(!c.exitIP() && !c.torVerified() && !c.latencyMs());
@@ -154,8 +164,9 @@ private Q_SLOTS:
         QVERIFY(Workbench::finished(disconnecting));
         QVERIFY(c.phase() == Phase::connected);
         QVERIFY(c.activeMode() == (strict ? RoutingMode::strict : RoutingMode::proxy));
-        QCOMPARE(c.statusDetail(), strict ? u"All traffic is locked to Tor"_s
-                                          : u"Apps that use system proxy settings go through Tor"_s);
+        QCOMPARE(c.statusDetail(),
+                 strict ? u"All traffic is locked to Tor"_s
+                        : u"Apps that use system proxy settings go through Tor"_s);
         QCOMPARE(c.errorMessage(), dismissed ? std::nullopt : std::optional(u"Could not."_s));
         QVERIFY(QFile::exists(activeFile(bench)));
         QVERIFY(c.exitIP()); // the session's results are still true
@@ -227,8 +238,9 @@ private Q_SLOTS:
             bench.removeMarker();
         bench.disconnect();
         QVERIFY(c.phase() == (marker ? Phase::stale : Phase::disconnected));
-        QCOMPARE(c.statusDetail(), marker ? u"Your network is still set up for Tor"_s
-                                          : u"Your traffic is not going through Tor"_s);
+        QCOMPARE(c.statusDetail(),
+                 marker ? u"Your network is still set up for Tor"_s
+                        : u"Your traffic is not going through Tor"_s);
         QCOMPARE(c.errorMessage(), dismissed ? std::nullopt : std::optional(u"Could not."_s));
         bench.setBootstrap("PROGRESS=100");
         bench.clock.advance(std::chrono::seconds(2));
@@ -240,7 +252,9 @@ private Q_SLOTS:
     {
         Workbench bench;
         TorController &c = bench.controller();
-        bench.probe.beforeTorAnswer = [&bench] { return bench.clock.sleep(std::chrono::seconds(1)); };
+        bench.probe.beforeTorAnswer = [&bench] {
+            return bench.clock.sleep(std::chrono::seconds(1));
+        };
         const auto connecting = c.connect();
         QVERIFY(until([&] { return c.isChecking(); }));
         QVERIFY(c.leakStatus() == LeakStatus::checking());
@@ -259,12 +273,16 @@ private Q_SLOTS:
         Workbench bench;
         TorController &c = bench.controller();
         bench.probe.torAnswer = IPCheck{true, u"198.51.100.1"_s};
-        bench.probe.beforeTorAnswer = [&bench] { return bench.clock.sleep(std::chrono::seconds(1)); };
+        bench.probe.beforeTorAnswer = [&bench] {
+            return bench.clock.sleep(std::chrono::seconds(1));
+        };
         const auto old = c.connect();
         QVERIFY(until([&] { return c.isChecking(); }));
         bench.disconnect();
         bench.probe.torAnswer = IPCheck{true, u"198.51.100.2"_s};
-        bench.probe.beforeTorAnswer = [&bench] { return bench.clock.sleep(std::chrono::seconds(5)); };
+        bench.probe.beforeTorAnswer = [&bench] {
+            return bench.clock.sleep(std::chrono::seconds(5));
+        };
         const auto fresh = c.connect();
         QVERIFY(until([&] { return c.isChecking(); }));
         bench.clock.advance(std::chrono::seconds(1));
@@ -292,12 +310,14 @@ private Q_SLOTS:
         c.optimizeSpeed.set(true);
         if (!first)
             QVERIFY(bench.connect());
-        int slow = first ? 2 : 1; // probes: that of the checks that are broken off, that of those that begin again
+        // probes: that of the checks that are broken off, that of those that begin again
+        int slow = first ? 2 : 1;
         bench.probe.beforeTorAnswer = [&bench, &slow] {
             return bench.clock.sleep(std::chrono::milliseconds(slow-- > 0 ? 1600 : 0));
         };
         const auto checking = first ? c.connect() : c.runChecks();
-        QVERIFY(until([&] { return c.isChecking() && bench.clock.sleepers() == 3; })); // monitor, watch and probe
+        // monitor, watch and probe
+        QVERIFY(until([&] { return c.isChecking() && bench.clock.sleepers() == 3; }));
         bench.cancelPrompt(u"disconnect"_s);
         bench.disconnect();
         QVERIFY(c.phase() == Phase::connected);
@@ -307,12 +327,14 @@ private Q_SLOTS:
             bench.clock.advance(std::chrono::milliseconds(200));
             settle();
         }
-        bench.clock.advance(std::chrono::milliseconds(1600)); // what was broken off is answered by now, and changes nothing
+        // what was broken off is answered by now, and changes nothing
+        bench.clock.advance(std::chrono::milliseconds(1600));
         QVERIFY(Workbench::finished(checking));
         QVERIFY(!c.isChecking() && !c.isOptimizing());
         QVERIFY(c.leakStatus() == LeakStatus::blocked());
         QCOMPARE(c.exitIP().value(), u"203.0.113.10"_s);
-        QCOMPARE(bench.probe.torProbes, probes + (first ? 1 : 0)); // the optimisation of the slow path
+        // the optimisation of the slow path
+        QCOMPARE(bench.probe.torProbes, probes + (first ? 1 : 0));
     }
 
     void aRefusalDuringTheOptimisationBeginsItAgain()
@@ -320,7 +342,9 @@ private Q_SLOTS:
         Workbench bench;
         TorController &c = bench.controller();
         QVERIFY(bench.connect());
-        bench.probe.beforeTorAnswer = [&bench] { return bench.clock.sleep(std::chrono::seconds(1)); };
+        bench.probe.beforeTorAnswer = [&bench] {
+            return bench.clock.sleep(std::chrono::seconds(1));
+        };
         const auto optimizing = c.optimizeCircuits();
         QVERIFY(c.isOptimizing());
         bench.cancelPrompt(u"disconnect"_s);
@@ -331,7 +355,6 @@ private Q_SLOTS:
         QCOMPARE(c.latencyMs().value(), qint64(1000));
         QVERIFY(Workbench::finished(optimizing));
     }
-
 };
 
 VELDMARK_TEST(DisconnectTest)

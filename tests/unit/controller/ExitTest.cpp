@@ -18,7 +18,9 @@ private Q_SLOTS:
         QCOMPARE(c.exitIP().value(), u"203.0.113.10"_s);
         QVERIFY(c.torVerified().value());
         bench.probe.torAnswer = IPCheck{true, u"203.0.113.20"_s};
-        bench.probe.beforeTorAnswer = [&bench] { return bench.clock.sleep(std::chrono::seconds(1)); };
+        bench.probe.beforeTorAnswer = [&bench] {
+            return bench.clock.sleep(std::chrono::seconds(1));
+        };
         const int direct = bench.probe.directProbes;
         const auto renewing = c.newIdentity();
         QVERIFY(!c.exitIP() && !c.torVerified());
@@ -29,7 +31,8 @@ private Q_SLOTS:
         QVERIFY(until([&] { return !c.isChecking(); }));
         QCOMPARE(c.exitIP().value(), u"203.0.113.20"_s);
         QVERIFY(c.torVerified().value());
-        QCOMPARE(bench.probe.directProbes, direct); // nobody is told the new exit and the real address at once
+        // nobody is told the new exit and the real address at once
+        QCOMPARE(bench.probe.directProbes, direct);
     }
 
     void checksUnderWayAskAgainAfterANewIdentity_data()
@@ -45,7 +48,9 @@ private Q_SLOTS:
         Workbench bench;
         TorController &c = bench.controller();
         QVERIFY(bench.connect());
-        bench.probe.beforeTorAnswer = [&bench] { return bench.clock.sleep(std::chrono::seconds(5)); };
+        bench.probe.beforeTorAnswer = [&bench] {
+            return bench.clock.sleep(std::chrono::seconds(5));
+        };
         if (whole)
             c.runChecks();
         else

@@ -18,12 +18,14 @@ private Q_SLOTS:
         QTest::addColumn<bool>("helps");
         QTest::addColumn<QString>("message");
         QTest::addColumn<bool>("strict");
-        const QString text = u"Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point "
-                             "around Tor: 192.168.1.1 on en0; 10.8.0.1 for *.corp on utun2. Strict mode's firewall "
-                             "blocks them."_s;
+        const QString text
+            = u"Some DNS settings come from outside Veldmark (a VPN or /etc/resolver) and still point "
+              "around Tor: 192.168.1.1 on en0; 10.8.0.1 for *.corp on utun2. Strict mode's firewall "
+              "blocks them."_s;
         QTest::newRow("helps") << System::linux << true << QString() << true;
         QTest::newRow("does not help") << System::linux << false << text << true;
-        QTest::newRow("does not help in proxy mode") << System::linux << false << text.section(u'.', 0, -3) + u'.' << false;
+        QTest::newRow("does not help in proxy mode")
+            << System::linux << false << text.section(u'.', 0, -3) + u'.' << false;
         QTest::newRow("helps (macos)") << System::macos << true << QString() << true;
         QTest::newRow("does not help (macos)") << System::macos << false << text << true;
     }
@@ -61,7 +63,8 @@ private Q_SLOTS:
         const auto fixed = c.fixDNS();
         QVERIFY(Workbench::finished(fixed));
         QVERIFY(c.killSwitch()->state == KillSwitch::State::open && c.dnsStatus() == leak);
-        QVERIFY2(c.errorMessage().value().english().endsWith(u"10.8.0.1 for *.corp on utun2."_s), qPrintable(c.errorMessage()->english()));
+        QVERIFY2(c.errorMessage().value().english().endsWith(u"10.8.0.1 for *.corp on utun2."_s),
+                 qPrintable(c.errorMessage()->english()));
     }
 
     void fixingThatIsRefused_data()
@@ -89,7 +92,8 @@ private Q_SLOTS:
             bench.failHelper(u"fix-dns"_s, u"No resolver."_s);
         const auto fixing = c.fixDNS();
         QVERIFY(Workbench::finished(fixing));
-        QCOMPARE(c.errorMessage().value_or(QString()), dismissed ? QString() : u"Couldn't fix DNS: No resolver."_s);
+        QCOMPARE(c.errorMessage().value_or(QString()),
+                 dismissed ? QString() : u"Couldn't fix DNS: No resolver."_s);
         QVERIFY(c.dnsStatus() == leak);
         QCOMPARE(bench.resolvers.readings, readings);
         bench.letHelperWork();
@@ -116,7 +120,8 @@ private Q_SLOTS:
         bench.resolvers.answer = throughTor;
         bench.processes.hold = nullptr;
         bench.processes.release();
-        QVERIFY(Workbench::finished(first) && Workbench::finished(second) && Workbench::finished(third));
+        QVERIFY(Workbench::finished(first) && Workbench::finished(second)
+                && Workbench::finished(third));
         QVERIFY(!c.dnsStatus().isLeak()); // the check that follows was awaited by all
         QCOMPARE(bench.helperRunCount(u"fix-dns"_s), 1);
         QVERIFY(Workbench::finished(c.fixDNS())); // and a later one runs again

@@ -14,13 +14,17 @@ using State = KillSwitch::State;
 
 namespace {
 
-const QString openText = u"Another program removed Veldmark's firewall rules and they could not be put back. Traffic "
-                         "may leave this computer directly. Disconnect and connect again."_s;
-const QString backText = u"Another program removed Veldmark's firewall rules; they are back in place."_s;
-const QString blockedDeath = u"Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. Reconnect, "
-                             "or Restore Network to go back online."_s;
-const QString openDeath = u"Tor stopped running, and the kill switch is open: another program removed its rules. Traffic "
-                          "may leave this computer directly. Reconnect, or Restore Network."_s;
+const QString openText
+    = u"Another program removed Veldmark's firewall rules and they could not be put back. Traffic "
+      "may leave this computer directly. Disconnect and connect again."_s;
+const QString backText
+    = u"Another program removed Veldmark's firewall rules; they are back in place."_s;
+const QString blockedDeath
+    = u"Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. Reconnect, "
+      "or Restore Network to go back online."_s;
+const QString openDeath
+    = u"Tor stopped running, and the kill switch is open: another program removed its rules. Traffic "
+      "may leave this computer directly. Reconnect, or Restore Network."_s;
 
 void killTor(Workbench &bench)
 {
@@ -37,7 +41,8 @@ State stateOf(const TorController &c)
 
 } // namespace
 
-// What the watcher over the rules has seen, and what is said of it while a session is up and when it is not.
+// What the watcher over the rules has seen, and what is said of it while a session is up and when
+// it is not.
 class KillSwitchWatchTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -192,7 +197,8 @@ private Q_SLOTS:
         const auto checking = c.runChecks();
         QVERIFY(Workbench::finished(checking));
         QCOMPARE(c.title(), u"Kill Switch Open"_s);
-        QVERIFY(c.leakStatus() != LeakStatus::blocked()); // nobody answered, but no rule was the reason
+        // nobody answered, but no rule was the reason
+        QVERIFY(c.leakStatus() != LeakStatus::blocked());
     }
 
     void aWatcherThatTellsNoMoreIsNotBelievedForLong()
@@ -203,7 +209,8 @@ private Q_SLOTS:
         QVERIFY(bench.tick());
         bench.killWatcher();
         bench.clock.advance(1s);
-        QVERIFY(c.killSwitch()->state == State::standing); // it was seen a moment ago: a computer that slept wakes up like this
+        // it was seen a moment ago: a computer that slept wakes up like this
+        QVERIFY(c.killSwitch()->state == State::standing);
         bench.clock.advance(1s);
         QVERIFY(c.killSwitch()->state == State::unknown);
         QCOMPARE(c.title(), u"Needs Attention"_s);
@@ -292,7 +299,8 @@ private Q_SLOTS:
         killTor(bench);
         QTEST(c.title().english(), "title");
         QCOMPARE(c.errorMessage().value() == blockedDeath, claimsBlocking);
-        QVERIFY(claimsBlocking || !c.errorMessage().value().english().contains(u"nothing leaked"_s));
+        QVERIFY(claimsBlocking
+                || !c.errorMessage().value().english().contains(u"nothing leaked"_s));
         QVERIFY(c.errorMessage().value().english().startsWith(u"Tor stopped running"_s));
         QCOMPARE(c.statusDetail(), u"Tor stopped running"_s);
     }
@@ -443,7 +451,8 @@ private Q_SLOTS:
         QVERIFY(bench.connect());
         QVERIFY(c.title() != u"Protected"_s);
         killTor(bench);
-        QVERIFY2(!c.errorMessage().value().english().contains(u"nothing leaked"_s), qPrintable(c.errorMessage().value().english()));
+        QVERIFY2(!c.errorMessage().value().english().contains(u"nothing leaked"_s),
+                 qPrintable(c.errorMessage().value().english()));
     }
 };
 

@@ -50,11 +50,13 @@ QCoro::Task<PluggableTransports> nothingFound()
 
 void showCircuit(Workbench &bench)
 {
-    bench.tor.reply("GETINFO circuit-status",
-                    Workbench::block("circuit-status", {"1 BUILT $" + relay + "~one PURPOSE=GENERAL"}));
+    bench.tor.reply(
+        "GETINFO circuit-status",
+        Workbench::block("circuit-status", {"1 BUILT $" + relay + "~one PURPOSE=GENERAL"}));
     bench.tor.reply("GETINFO stream-status", Workbench::block("stream-status", {}));
-    bench.tor.reply("GETINFO ns/id/" + relay,
-                    Workbench::block("ns/id/" + relay, {"r one A B 2026-03-01 10:00:00 192.0.2.2 9001 0"}));
+    bench.tor.reply(
+        "GETINFO ns/id/" + relay,
+        Workbench::block("ns/id/" + relay, {"r one A B 2026-03-01 10:00:00 192.0.2.2 9001 0"}));
 }
 
 struct Place {
@@ -65,42 +67,51 @@ struct Place {
 std::vector<Place> places()
 {
     return {
-        {"connect, testing bridges", [](Workbench &b) {
+        {"connect, testing bridges",
+         [](Workbench &b) {
              b.controller().bridgeChoice.set(BridgeChoice::custom);
              b.controller().customBridges.set(u"192.0.2.1:1\n192.0.2.2:2"_s);
              b.controller().optimizeSpeed.set(true);
-             b.bridgeProbe = [&b](QString, quint16, std::chrono::milliseconds) { return slowBridge(&b.clock); };
+             b.bridgeProbe = [&b](QString, quint16, std::chrono::milliseconds) {
+                 return slowBridge(&b.clock);
+             };
              b.controller().connect();
              return isAsleep(b, 2);
          }},
-        {"connect, at the prompt", [](Workbench &b) {
+        {"connect, at the prompt",
+         [](Workbench &b) {
              b.hold(u"connect"_s);
              b.controller().connect();
              return isHeld(b);
          }},
-        {"connect, asking Tor", [](Workbench &b) {
+        {"connect, asking Tor",
+         [](Workbench &b) {
              b.tor.ignore(Workbench::bootstrapCommand);
              b.controller().connect();
              return b.hears(Workbench::bootstrapCommand);
          }},
-        {"connect, between two questions", [](Workbench &b) {
+        {"connect, between two questions",
+         [](Workbench &b) {
              b.setBootstrap("PROGRESS=5");
              b.controller().connect();
              return isAsleep(b, 2);
          }},
-        {"connect, checking", [](Workbench &b) {
+        {"connect, checking",
+         [](Workbench &b) {
              slowProbe(b);
              b.controller().connect();
              return isAsleep(b, 3);
          }},
-        {"disconnect", [](Workbench &b) {
+        {"disconnect",
+         [](Workbench &b) {
              if (!b.connect())
                  return false;
              b.hold(u"disconnect"_s);
              b.controller().disconnect();
              return isHeld(b);
          }},
-        {"disconnect, to be refused", [](Workbench &b) {
+        {"disconnect, to be refused",
+         [](Workbench &b) {
              if (!b.connect())
                  return false;
              b.cancelPrompt(u"disconnect"_s);
@@ -108,14 +119,16 @@ std::vector<Place> places()
              b.controller().disconnect();
              return isHeld(b);
          }},
-        {"runChecks, direct probe", [](Workbench &b) {
+        {"runChecks, direct probe",
+         [](Workbench &b) {
              if (!b.connect())
                  return false;
              b.probe.beforeDirectAnswer = [&b] { return b.clock.sleep(1s); };
              b.controller().runChecks();
              return isAsleep(b, 3);
          }},
-        {"runChecks, live test begins", [](Workbench &b) {
+        {"runChecks, live test begins",
+         [](Workbench &b) {
              if (!b.connect())
                  return false;
              const int before = b.commandCount("SETEVENTS STREAM");
@@ -123,7 +136,8 @@ std::vector<Place> places()
              b.controller().runChecks();
              return b.hears("SETEVENTS STREAM", before + 1);
          }},
-        {"checkDNS, listening to Tor", [](Workbench &b) {
+        {"checkDNS, listening to Tor",
+         [](Workbench &b) {
              if (!b.connect())
                  return false;
              b.tor.reply("SETEVENTS STREAM", "250 OK\r\n");
@@ -131,28 +145,32 @@ std::vector<Place> places()
              b.controller().checkDNS(true);
              return until([] { return !NameLookups::hosts().isEmpty(); });
          }},
-        {"checkDNS, reading the settings", [](Workbench &b) {
+        {"checkDNS, reading the settings",
+         [](Workbench &b) {
              if (!b.connect())
                  return false;
              b.resolvers.beforeAnswer = [&b] { return b.clock.sleep(1s); };
              b.controller().checkDNS(false);
              return isAsleep(b, 3);
          }},
-        {"fixDNS", [](Workbench &b) {
+        {"fixDNS",
+         [](Workbench &b) {
              if (!b.connect())
                  return false;
              b.hold(u"fix-dns"_s);
              b.controller().fixDNS();
              return isHeld(b);
          }},
-        {"refreshCircuits", [](Workbench &b) {
+        {"refreshCircuits",
+         [](Workbench &b) {
              if (!b.connect())
                  return false;
              b.tor.ignore("GETINFO circuit-status");
              b.controller().refreshCircuits();
              return b.hears("GETINFO circuit-status");
          }},
-        {"refreshCircuits, asking for relays", [](Workbench &b) {
+        {"refreshCircuits, asking for relays",
+         [](Workbench &b) {
              if (!b.connect())
                  return false;
              showCircuit(b);
@@ -160,7 +178,8 @@ std::vector<Place> places()
              b.controller().refreshCircuits();
              return b.hears(("GETINFO ns/id/" + relay).constData());
          }},
-        {"refreshCircuits, asking for countries", [](Workbench &b) {
+        {"refreshCircuits, asking for countries",
+         [](Workbench &b) {
              if (!b.connect())
                  return false;
              showCircuit(b);
@@ -168,28 +187,32 @@ std::vector<Place> places()
              b.controller().refreshCircuits();
              return b.hears("GETINFO ip-to-country/192.0.2.2");
          }},
-        {"newIdentity", [](Workbench &b) {
+        {"newIdentity",
+         [](Workbench &b) {
              if (!b.connect())
                  return false;
              b.tor.ignore("SIGNAL NEWNYM");
              b.controller().newIdentity();
              return b.hears("SIGNAL NEWNYM");
          }},
-        {"newCircuit", [](Workbench &b) {
+        {"newCircuit",
+         [](Workbench &b) {
              if (!b.connect())
                  return false;
              b.tor.ignore("CLOSECIRCUIT 1");
              b.controller().newCircuit(u"1"_s);
              return b.hears("CLOSECIRCUIT 1");
          }},
-        {"optimizeCircuits, probing", [](Workbench &b) {
+        {"optimizeCircuits, probing",
+         [](Workbench &b) {
              if (!b.connect())
                  return false;
              slowProbe(b);
              b.controller().optimizeCircuits();
              return isAsleep(b, 3);
          }},
-        {"optimizeCircuits, asking for new paths", [](Workbench &b) {
+        {"optimizeCircuits, asking for new paths",
+         [](Workbench &b) {
              if (!b.connect())
                  return false;
              b.probe.torAnswer = ScriptedProbe::nothing();
@@ -197,7 +220,8 @@ std::vector<Place> places()
              b.controller().optimizeCircuits();
              return b.hears("SIGNAL NEWNYM");
          }},
-        {"optimizeCircuits, in a pause", [](Workbench &b) {
+        {"optimizeCircuits, in a pause",
+         [](Workbench &b) {
              if (!b.connect())
                  return false;
              b.probe.torAnswer = ScriptedProbe::nothing();
@@ -205,14 +229,16 @@ std::vector<Place> places()
              return isAsleep(b, 3);
          }},
         {"monitor, asleep", [](Workbench &b) { return b.connect(); }},
-        {"monitor, asking Tor", [](Workbench &b) {
+        {"monitor, asking Tor",
+         [](Workbench &b) {
              if (!b.connect())
                  return false;
              b.tor.ignore(Workbench::countersCommand);
              b.clock.advance(2s);
              return b.hears(Workbench::countersCommand);
          }},
-        {"monitor, reading the settings", [](Workbench &b) {
+        {"monitor, reading the settings",
+         [](Workbench &b) {
              if (!b.connect())
                  return false;
              for (int tick = 1; tick < 15; ++tick) {
@@ -224,12 +250,14 @@ std::vector<Place> places()
              b.clock.advance(2s);
              return until([&b, readings] { return b.resolvers.readings > readings; });
          }},
-        {"installPasswordless", [](Workbench &b) {
+        {"installPasswordless",
+         [](Workbench &b) {
              b.hold(u"install-privileged"_s);
              b.controller().installPasswordless();
              return isHeld(b);
          }},
-        {"removePasswordless", [](Workbench &b) {
+        {"removePasswordless",
+         [](Workbench &b) {
              b.hold(u"uninstall-privileged"_s);
              b.controller().removePasswordless();
              return isHeld(b);
@@ -306,7 +334,8 @@ private Q_SLOTS:
     void orAtAnyTurnOfTheLoop_data()
     {
         QTest::addColumn<QString>("operation");
-        for (const char *name : {"connect", "refreshCircuits", "runChecks", "optimizeCircuits", "newCircuit"})
+        for (const char *name :
+             {"connect", "refreshCircuits", "runChecks", "optimizeCircuits", "newCircuit"})
             QTest::newRow(name) << QString::fromLatin1(name);
     }
 
@@ -317,7 +346,8 @@ private Q_SLOTS:
             Workbench bench;
             TorController &c = bench.controller();
             showCircuit(bench);
-            bench.tor.reply("GETINFO ip-to-country/192.0.2.2", "250-ip-to-country/192.0.2.2=de\r\n250 OK\r\n");
+            bench.tor.reply("GETINFO ip-to-country/192.0.2.2",
+                            "250-ip-to-country/192.0.2.2=de\r\n250 OK\r\n");
             if (operation != u"connect"_s)
                 QVERIFY(bench.connect());
             if (operation == u"connect"_s)

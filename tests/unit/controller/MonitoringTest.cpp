@@ -145,7 +145,8 @@ private Q_SLOTS:
             QVERIFY(bench.tick());
             QCOMPARE(bench.commandCount("SETCONF DisableNetwork=0"), times);
             QVERIFY(!bench.controller().torVerified()); // nothing is claimed meanwhile
-            QVERIFY(bench.controller().errorMessage().value_or(QString()).english().contains(u"hasn't confirmed that it is on the network"_s));
+            QVERIFY(bench.controller().errorMessage().value_or(QString()).english().contains(
+                u"hasn't confirmed that it is on the network"_s));
         }
         QCOMPARE(bench.commandCount("SETCONF DisableNetwork=1"), 1);
         bench.tor.reply("SETCONF DisableNetwork=0", "250 OK\r\n");
@@ -167,7 +168,8 @@ private Q_SLOTS:
         QVERIFY(bench.tick());
         bench.ownAddresses = {QHostAddress(u"198.51.100.7"_s)};
         QVERIFY(bench.tick());
-        QVERIFY(c.errorMessage().value_or(Text()).english().contains(u"hasn't confirmed that it is on the network"_s));
+        QVERIFY(c.errorMessage().value_or(Text()).english().contains(
+            u"hasn't confirmed that it is on the network"_s));
         QVERIFY(!c.failure());
         c.showProblem(u"Something else."_s);
         QCOMPARE(c.failure().value_or(QString()), u"Something else."_s);
@@ -180,10 +182,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<bool>("strict");
         QTest::addColumn<QString>("message");
-        QTest::newRow("strict") << true
+        QTest::newRow("strict")
+            << true
             << u"Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. Reconnect, "
                "or Restore Network to go back online."_s;
-        QTest::newRow("proxy") << false
+        QTest::newRow("proxy")
+            << false
             << u"Tor stopped running. Apps using the proxy can't connect until you reconnect or Restore Network."_s;
     }
 
@@ -208,7 +212,8 @@ private Q_SLOTS:
         QVERIFY(c.activeMode() == (strict ? RoutingMode::strict : RoutingMode::proxy));
         QVERIFY(bench.hasMarker()); // nothing is torn down
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 0);
-        QCOMPARE(bench.clock.sleepers(), std::size_t(1)); // the loop has ended, the watch over the rules goes on
+        // the loop has ended, the watch over the rules goes on
+        QCOMPARE(bench.clock.sleepers(), std::size_t(1));
     }
 
     void oneSuccessStartsTheCountAgain()
@@ -258,7 +263,8 @@ private Q_SLOTS:
             QVERIFY(bench.tick());
         QVERIFY(c.phase() == Phase::disconnected);
         QCOMPARE(c.statusDetail(), u"Your traffic is not going through Tor"_s);
-        QCOMPARE(c.errorMessage().value(), u"Tor stopped running, and your network is no longer set up for it."_s);
+        QCOMPARE(c.errorMessage().value(),
+                 u"Tor stopped running, and your network is no longer set up for it."_s);
         QVERIFY(!c.activeMode() && !c.exitIP());
     }
 
@@ -279,7 +285,8 @@ private Q_SLOTS:
         QVERIFY(bench.tick());
         QCOMPARE(bench.commandCount(off), 1);
         QCOMPARE(bench.commandCount(on), 1);
-        QVERIFY(until([&] { return c.torVerified().value_or(false) && c.exitIP(); })); // asked afresh
+        // asked afresh
+        QVERIFY(until([&] { return c.torVerified().value_or(false) && c.exitIP(); }));
         QVERIFY(bench.tick());
         QCOMPARE(bench.commandCount(off), 1);
         bench.disconnect();
@@ -341,7 +348,8 @@ private Q_SLOTS:
         QCOMPARE(bench.resolvers.readings, before + 1);
         QVERIFY(bench.controller().dnsStatus() == DNSStatus::leak({u"192.168.1.1 on en0"_s}));
         QCOMPARE(bench.commandCount("SETEVENTS STREAM"), live); // no live test
-        QCOMPARE(bench.commandCount(Workbench::countersCommand), 15); // the counters are read as well
+        // the counters are read as well
+        QCOMPARE(bench.commandCount(Workbench::countersCommand), 15);
         for (int tick = 1; tick < 15; ++tick)
             QVERIFY(bench.tick());
         QCOMPARE(bench.resolvers.readings, before + 1);
@@ -410,7 +418,8 @@ private Q_SLOTS:
         bench.tor.stopListening();
         for (int failure = 0; failure < 3; ++failure) {
             bench.clock.advance(2s);
-            QVERIFY(until([&] { return bench.clock.sleepers() == 3 || c.phase() == Phase::stale; }));
+            QVERIFY(
+                until([&] { return bench.clock.sleepers() == 3 || c.phase() == Phase::stale; }));
         }
         QVERIFY(c.phase() == Phase::stale);
         QVERIFY(!c.isChecking());
@@ -432,13 +441,15 @@ private Q_SLOTS:
         QVERIFY(bench.tick());
         bench.ownAddresses = {QHostAddress(u"198.51.100.7"_s)};
         QVERIFY(bench.tick());
-        QVERIFY(bench.controller().errorMessage().value_or(QString()).english().contains(u"hasn't confirmed that it is on the network"_s));
+        QVERIFY(bench.controller().errorMessage().value_or(QString()).english().contains(
+            u"hasn't confirmed that it is on the network"_s));
         bench.cancelPrompt(u"disconnect"_s);
         bench.disconnect();
         QVERIFY(bench.controller().phase() == Phase::connected);
         QVERIFY(bench.tick());
         QCOMPARE(bench.commandCount("SETCONF DisableNetwork=0"), 2);
-        QVERIFY(bench.controller().errorMessage().value_or(QString()).english().contains(u"hasn't confirmed that it is on the network"_s));
+        QVERIFY(bench.controller().errorMessage().value_or(QString()).english().contains(
+            u"hasn't confirmed that it is on the network"_s));
     }
 
     // Nothing got through before the prompt, and nothing does after it.
@@ -479,7 +490,9 @@ private Q_SLOTS:
         QVERIFY(c.stall().has_value());
         const ResumeOnce<bool> answer;
         bench.probe.torAnswer = ScriptedProbe::nothing();
-        bench.probe.beforeDirectAnswer = [answer]() -> QCoro::Task<void> { return waitFor(answer); };
+        bench.probe.beforeDirectAnswer = [answer]() -> QCoro::Task<void> {
+            return waitFor(answer);
+        };
         const auto checking = c.runChecks();
         QVERIFY(c.isChecking());
         bench.probe.torAnswer = IPCheck{true, u"203.0.113.9"_s};

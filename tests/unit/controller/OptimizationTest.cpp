@@ -55,7 +55,7 @@ private Q_SLOTS:
             bench.probe.torAnswer = ScriptedProbe::nothing();
         const auto connecting = c.connect();
         QVERIFY(until([&] { return bench.clock.sleepers() == 3; })); // monitor, watch and probe
-        bench.probe.beforeTorAnswer = nullptr; // the next one is fast
+        bench.probe.beforeTorAnswer = nullptr;                       // the next one is fast
         bench.clock.advance(std::chrono::milliseconds(milliseconds));
         run(bench, connecting);
         QVERIFY(connecting.isReady());
@@ -111,7 +111,8 @@ private Q_SLOTS:
             if (round == 4)
                 break;
             QVERIFY(bench.hears("SIGNAL NEWNYM", round));
-            QVERIFY(until([&] { return bench.clock.sleepers() == 3; })); // monitor, watch, the pause
+            // monitor, watch, the pause
+            QVERIFY(until([&] { return bench.clock.sleepers() == 3; }));
             bench.clock.advance(9999ms);
             settle();
             QVERIFY(c.isOptimizing());
@@ -220,7 +221,6 @@ private Q_SLOTS:
         QVERIFY(c.torVerified() == false); // asked, and not answered
         QCOMPARE(c.title(), u"Needs Attention"_s);
     }
-
 };
 
 VELDMARK_TEST(OptimizationTest)

@@ -1,7 +1,7 @@
+#include "support/OtherSession.h"
 #include "controller/PublishedState.h"
 #include "controller/SessionWatch.h"
 #include "controller/Withdrawal.h"
-#include "support/OtherSession.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 
@@ -20,8 +20,8 @@ constexpr uid_t daemonUser = 1; // every system's
 const QString leftOver = u"Your network is still set up for Tor from an earlier session"_s;
 } // namespace
 
-// The session of another process, of the same user or another: it is shown as what it is, and neither replaced nor ended
-// without having been asked to.
+// The session of another process, of the same user or another: it is shown as what it is, and
+// neither replaced nor ended without having been asked to.
 class OtherSessionTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -35,8 +35,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<uint>("user");
         QTest::addColumn<QString>("detail");
-        QTest::newRow("own user") << geteuid() << u"Your network is set up for Tor by another Veldmark of yours, process %1"_s;
-        QTest::newRow("another user") << daemonUser << u"Your network is set up for Tor by daemon, whose Veldmark is process %1"_s;
+        QTest::newRow("own user")
+            << geteuid()
+            << u"Your network is set up for Tor by another Veldmark of yours, process %1"_s;
+        QTest::newRow("another user")
+            << daemonUser
+            << u"Your network is set up for Tor by daemon, whose Veldmark is process %1"_s;
     }
 
     void isShownAsWhose()
@@ -55,7 +59,8 @@ private Q_SLOTS:
         QCOMPARE(published.value(u"process"_s).toInteger(), other.process());
     }
 
-    // Under the password-free rule a program of the user's can do that in a moment; nobody is the owner then.
+    // Under the password-free rule a program of the user's can do that in a moment; nobody is the
+    // owner then.
     void oneBegunByHandInPlaceOfOursIsNotTakenForOurs()
     {
         Workbench bench;
@@ -68,11 +73,14 @@ private Q_SLOTS:
         const QByteArray content = marker.readAll();
         bench.writeFile(bench.profile.sessionMarker + u".new"_s, content);
         QVERIFY(std::rename(QFile::encodeName(bench.profile.sessionMarker + u".new"_s).constData(),
-                            QFile::encodeName(bench.profile.sessionMarker).constData()) == 0);
+                            QFile::encodeName(bench.profile.sessionMarker).constData())
+                == 0);
         bench.clock.advance(std::chrono::seconds(1));
         QVERIFY(until([&] { return c.phase() == Phase::stale; }));
         QVERIFY(!c.otherSession());
-        QCOMPARE(c.errorMessage().value_or(QString()), u"Another program has ended this session and begun one of its own. Restore Network ends that one."_s);
+        QCOMPARE(
+            c.errorMessage().value_or(QString()),
+            u"Another program has ended this session and begun one of its own. Restore Network ends that one."_s);
         QVERIFY(c.title() != u"Protected"_s);
     }
 
@@ -112,7 +120,9 @@ private Q_SLOTS:
         QVERIFY(!bench.connect());
         QVERIFY(c.phase() == Phase::stale);
         QVERIFY(bench.processes.calls.empty());
-        QVERIFY2(c.errorMessage().value_or(QString()).english().contains(u"process %1"_s.arg(other.process())), qPrintable(c.errorMessage()->english()));
+        QVERIFY2(c.errorMessage().value_or(QString()).english().contains(
+                     u"process %1"_s.arg(other.process())),
+                 qPrintable(c.errorMessage()->english()));
         other.end();
         QVERIFY(bench.connect());
         QVERIFY(!c.errorMessage());
@@ -160,7 +170,8 @@ private Q_SLOTS:
     {
         Workbench bench;
         QVERIFY(bench.connect());
-        OtherSession other(bench.profile, daemonUser); // by an administrator's word; this one has not seen it yet
+        // by an administrator's word; this one has not seen it yet
+        OtherSession other(bench.profile, daemonUser);
         Withdrawal withdrawal(bench.controller());
         QSignalSpy finished(&withdrawal, &Withdrawal::finished);
         withdrawal.begin();
@@ -183,7 +194,8 @@ private Q_SLOTS:
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 0);
         QVERIFY(bench.hasMarker());
         QVERIFY(c.phase() == Phase::stale && c.otherSession());
-        QVERIFY2(c.errorMessage().value_or(QString()).english().contains(u"Disconnect again"_s), qPrintable(c.errorMessage().value_or(QString()).english()));
+        QVERIFY2(c.errorMessage().value_or(QString()).english().contains(u"Disconnect again"_s),
+                 qPrintable(c.errorMessage().value_or(QString()).english()));
         bench.disconnect(); // now it is meant
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 1);
         QVERIFY(c.phase() == Phase::disconnected);
@@ -196,7 +208,8 @@ private Q_SLOTS:
         QVERIFY(bench.connect());
         SessionWatch watch(c);
         OtherSession other(bench.profile, daemonUser);
-        QVERIFY(until([&] { return c.phase() == Phase::stale; })); // before any tick of the monitor's
+        // before any tick of the monitor's
+        QVERIFY(until([&] { return c.phase() == Phase::stale; }));
         QVERIFY(c.otherSession() && !c.exitIP() && !c.torVerified());
     }
 
@@ -222,7 +235,8 @@ private Q_SLOTS:
         Workbench bench;
         OtherSession other(bench.profile);
         bench.terminal.setActive(true);
-        bench.controller().setTerminalMode(true); // as "veldmarkctl set" does, which looks at no session
+        // as "veldmarkctl set" does, which looks at no session
+        bench.controller().setTerminalMode(true);
         bench.controller().setTerminalMode(false);
         QVERIFY(QFile::exists(bench.profile.terminalDirectory + u"/active"_s));
     }
@@ -234,11 +248,13 @@ private Q_SLOTS:
         QVERIFY(bench.connect());
         bench.disconnect();
         const QString own = QString::number(QCoreApplication::applicationPid());
-        QCOMPARE(bench.lastHelperRun(u"disconnect"_s), (QStringList{u"disconnect"_s, u"--process"_s, own}));
+        QCOMPARE(bench.lastHelperRun(u"disconnect"_s),
+                 (QStringList{u"disconnect"_s, u"--process"_s, own}));
         OtherSession other(bench.profile);
         c.lookAtSession();
         bench.disconnect();
-        QCOMPARE(bench.lastHelperRun(u"disconnect"_s), (QStringList{u"disconnect"_s, u"--process"_s, QString::number(other.process())}));
+        QCOMPARE(bench.lastHelperRun(u"disconnect"_s),
+                 (QStringList{u"disconnect"_s, u"--process"_s, QString::number(other.process())}));
     }
 
     void aHelperOfAFormerVersionIsNotGivenTheOption()
@@ -259,13 +275,16 @@ private Q_SLOTS:
         bench.hold(u"disconnect"_s);
         const auto ending = c.disconnect();
         QVERIFY(until([&] { return bench.processes.held() == 1; }));
-        bench.failHelper(u"disconnect"_s, u"Another program (process 7) has begun a session since. It was left alone."_s);
+        bench.failHelper(
+            u"disconnect"_s,
+            u"Another program (process 7) has begun a session since. It was left alone."_s);
         OtherSession other(bench.profile, daemonUser);
         bench.processes.release();
         QVERIFY(Workbench::finished(ending));
         QVERIFY(c.phase() == Phase::stale);
         QVERIFY(c.otherSession());
-        QVERIFY(c.errorMessage().value().english().startsWith(u"Another user's Veldmark has begun a session since"_s));
+        QVERIFY(c.errorMessage().value().english().startsWith(
+            u"Another user's Veldmark has begun a session since"_s));
         QVERIFY(!c.exitIP() && !c.torVerified());
         bench.clock.advance(std::chrono::seconds(2)); // former loops wake once more
         settle();
@@ -330,7 +349,8 @@ private Q_SLOTS:
         QVERIFY(bench.connect());
         QVERIFY(bench.tick());
         QVERIFY(c.exitIP() && c.torVerified() && c.bytesRead() > 0 && c.killSwitch());
-        const QByteArray circuit = "1 BUILT $" + QByteArray(40, 'A') + "~guard,$" + QByteArray(40, 'B') + "~exit PURPOSE=GENERAL";
+        const QByteArray circuit = "1 BUILT $" + QByteArray(40, 'A') + "~guard,$"
+            + QByteArray(40, 'B') + "~exit PURPOSE=GENERAL";
         bench.tor.reply("GETINFO circuit-status", Workbench::block("circuit-status", {circuit}));
         bench.tor.reply("GETINFO stream-status", Workbench::block("stream-status", {}));
         const auto reading = c.refreshCircuits();
@@ -351,7 +371,8 @@ private Q_SLOTS:
         bench.noteRules("open", 1);
         bench.clock.advance(std::chrono::seconds(2));
         QVERIFY(c.errorMessage().value().english().contains(u"firewall rules"_s));
-        QVERIFY(!c.errorMessage().value().english().contains(u"Tor stopped running"_s)); // its own runs
+        // its own runs
+        QVERIFY(!c.errorMessage().value().english().contains(u"Tor stopped running"_s));
     }
 
     void takesThePlaceOfALeftOverOne()

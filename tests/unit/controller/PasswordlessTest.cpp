@@ -25,10 +25,12 @@ private:
         const auto answer = bench.processes.answer;
         bench.processes.answer = [&bench, answer](const ScriptedRunner::Call &call) {
             const auto result = answer(call);
-            if (result && result->status == 0 && call.arguments.join(u' ').contains(u"uninstall-privileged"_s)) {
+            if (result && result->status == 0
+                && call.arguments.join(u' ').contains(u"uninstall-privileged"_s)) {
                 QFile::remove(bench.profile.installedHelper);
                 QFile::remove(bench.profile.sudoersRule);
-            } else if (result && result->status == 0 && call.arguments.join(u' ').contains(u"install-privileged"_s)) {
+            } else if (result && result->status == 0
+                       && call.arguments.join(u' ').contains(u"install-privileged"_s)) {
                 install(bench);
             }
             return result;
@@ -49,8 +51,9 @@ private Q_SLOTS:
         QVERIFY(!bench.controller().startupError());
         QCOMPARE(bench.processes.calls.back().executable, bench.profile.promptProgram);
         QCOMPARE(bench.lastHelperRun(u"install-privileged"_s),
-                 QStringList({u"install-privileged"_s, u"--user"_s, QString::fromLocal8Bit(getpwuid(geteuid())->pw_name),
-                              u"--launch"_s, bench.profile.places.applicationDirectory + u"/veldmark-launch"_s}));
+                 QStringList({u"install-privileged"_s, u"--user"_s,
+                              QString::fromLocal8Bit(getpwuid(geteuid())->pw_name), u"--launch"_s,
+                              bench.profile.places.applicationDirectory + u"/veldmark-launch"_s}));
     }
 
     void alwaysAsksForSettingItUp()
@@ -115,7 +118,8 @@ private Q_SLOTS:
         QVERIFY(!bench.controller().passwordlessInstalled());
         QVERIFY(!bench.controller().startupError());
         QCOMPARE(bench.processes.calls.back().executable, bench.profile.sudo);
-        QCOMPARE(bench.lastHelperRun(u"uninstall-privileged"_s), QStringList(u"uninstall-privileged"_s));
+        QCOMPARE(bench.lastHelperRun(u"uninstall-privileged"_s),
+                 QStringList(u"uninstall-privileged"_s));
     }
 
     void saysWhyItCouldNotBeTakenAway()
@@ -127,7 +131,8 @@ private Q_SLOTS:
         const auto removing = bench.controller().removePasswordless();
         QVERIFY(Workbench::finished(removing));
         QVERIFY(bench.controller().passwordlessInstalled());
-        QCOMPARE(bench.controller().startupError().value(), u"Couldn't remove passwordless mode: Read-only."_s);
+        QCOMPARE(bench.controller().startupError().value(),
+                 u"Couldn't remove passwordless mode: Read-only."_s);
     }
 
     void aRuleThatDoesNotMatchFallsBackToThePrompt_data() { Workbench::bothSystems(); }
@@ -137,7 +142,8 @@ private Q_SLOTS:
         Workbench bench(system);
         install(bench);
         const auto answer = bench.processes.answer;
-        bench.processes.answer = [&](const ScriptedRunner::Call &call) -> Result<ProcessResult, StartError> {
+        bench.processes.answer =
+            [&](const ScriptedRunner::Call &call) -> Result<ProcessResult, StartError> {
             if (call.executable == bench.profile.sudo)
                 return ProcessResult{1, {}, u"sudo: a Password is required\n"_s};
             return answer(call);
@@ -206,7 +212,6 @@ private Q_SLOTS:
         QCOMPARE(bench.helperRunCount(u"uninstall-privileged"_s), 1);
         QVERIFY(!c.passwordlessInstalled());
     }
-
 };
 
 VELDMARK_TEST(PasswordlessTest)

@@ -15,7 +15,10 @@ namespace {
 class Shouting final : public QTranslator {
 public:
     bool isEmpty() const override { return false; }
-    QString translate(const char *, const char *source, const char *, int) const override { return QString::fromUtf8(source).toUpper(); }
+    QString translate(const char *, const char *source, const char *, int) const override
+    {
+        return QString::fromUtf8(source).toUpper();
+    }
 };
 
 } // namespace
@@ -26,19 +29,23 @@ private Q_SLOTS:
     void everyPublishedFieldIsThereUnderItsName()
     {
         Workbench bench;
-        const QStringList fields = u"strictMode allowLocalNetwork separateApps exitCountry customTorPath bridgeChoice customBridges "
-            "bypassApps autoConnect optimizeSpeed latencyMs optimizeStatus isOptimizing transports activeBridge "
-            "terminalMode phase activeMode bootstrapProgress statusDetail bootstrapProblem killSwitch killSwitchSince exitIP torVerified leakStatus "
-            "bytesRead bytesWritten stall isChecking otherSession canCancel errorMessage dnsStatus passwordlessInstalled startupError circuits "
-            "circuitError transportDownload terminalError settingsProblems title menuBarSymbol level"_s.split(u' ');
+        const QStringList fields
+            = u"strictMode allowLocalNetwork separateApps exitCountry customTorPath bridgeChoice customBridges "
+              "bypassApps autoConnect optimizeSpeed latencyMs optimizeStatus isOptimizing transports activeBridge "
+              "terminalMode phase activeMode bootstrapProgress statusDetail bootstrapProblem killSwitch killSwitchSince exitIP torVerified leakStatus "
+              "bytesRead bytesWritten stall isChecking otherSession canCancel errorMessage dnsStatus passwordlessInstalled startupError circuits "
+              "circuitError transportDownload terminalError settingsProblems title menuBarSymbol level"_s
+                  .split(u' ');
         const QJsonObject state = publishedState(bench.controller());
         for (const QString &field : fields)
             QVERIFY2(state.contains(field), qPrintable(field));
         QCOMPARE(state.size(), fields.size());
         // And each is a field that says when it changes.
-        const QStringList derived = {u"title"_s, u"menuBarSymbol"_s, u"level"_s, u"killSwitchSince"_s};
+        const QStringList derived = {u"title"_s, u"menuBarSymbol"_s, u"level"_s,
+                                     u"killSwitchSince"_s};
         for (const QString &field : fields)
-            QVERIFY2(derived.contains(field) != (bench.controller().fieldNamed(field) != nullptr), qPrintable(field));
+            QVERIFY2(derived.contains(field) != (bench.controller().fieldNamed(field) != nullptr),
+                     qPrintable(field));
     }
 
     void withoutASession()
@@ -52,7 +59,8 @@ private Q_SLOTS:
         QCOMPARE(state.value(u"strictMode"_s), QJsonValue(true));
         QCOMPARE(state.value(u"bypassApps"_s), QJsonValue(QJsonArray()));
         QCOMPARE(state.value(u"bytesRead"_s), QJsonValue(0));
-        for (const char *absent : {"activeMode", "activeBridge", "killSwitch", "killSwitchSince", "exitIP", "torVerified", "latencyMs", "errorMessage"})
+        for (const char *absent : {"activeMode", "activeBridge", "killSwitch", "killSwitchSince",
+                                   "exitIP", "torVerified", "latencyMs", "errorMessage"})
             QVERIFY2(state.value(QLatin1String(absent)).isNull(), absent);
     }
 
@@ -80,12 +88,16 @@ private Q_SLOTS:
         QCOMPARE(state.value(u"killSwitchSince"_s), QJsonValue(u"2027-01-15T08:00:00Z"_s));
         QCOMPARE(state.value(u"level"_s), QJsonValue(u"danger"_s));
         QCOMPARE(state.value(u"menuBarSymbol"_s), QJsonValue(u"exclamationmark.shield"_s));
-        QCOMPARE(state.value(u"statusDetail"_s), QJsonValue(u"Lookups can go around Tor, and your real address can be seen"_s));
-        QCOMPARE(state.value(u"leakStatus"_s), QJsonValue(QJsonObject{{u"exposed"_s, u"198.51.100.7"_s}}));
-        QCOMPARE(state.value(u"dnsStatus"_s), QJsonValue(QJsonObject{{u"leak"_s, QJsonArray{u"192.168.1.1"_s}}}));
+        QCOMPARE(state.value(u"statusDetail"_s),
+                 QJsonValue(u"Lookups can go around Tor, and your real address can be seen"_s));
+        QCOMPARE(state.value(u"leakStatus"_s),
+                 QJsonValue(QJsonObject{{u"exposed"_s, u"198.51.100.7"_s}}));
+        QCOMPARE(state.value(u"dnsStatus"_s),
+                 QJsonValue(QJsonObject{{u"leak"_s, QJsonArray{u"192.168.1.1"_s}}}));
         QCOMPARE(state.value(u"torVerified"_s), QJsonValue(true));
         QCOMPARE(state.value(u"bytesRead"_s).toInteger(), qint64(9007199254740993));
-        QCOMPARE(state.value(u"transports"_s).toObject().value(u"lyrebird"_s), QJsonValue(u"/opt/lyrebird"_s));
+        QCOMPARE(state.value(u"transports"_s).toObject().value(u"lyrebird"_s),
+                 QJsonValue(u"/opt/lyrebird"_s));
         QVERIFY(state.value(u"transports"_s).toObject().value(u"webtunnel"_s).isNull());
     }
 
@@ -99,7 +111,8 @@ private Q_SLOTS:
         const QJsonObject texts = publishedTexts(c);
         QCOMPARE(texts.keys(), (QStringList{u"errorMessage"_s, u"statusDetail"_s, u"title"_s}));
         for (const QString &key : texts.keys()) {
-            QVERIFY2(texts.value(key).isObject(), qPrintable(key)); // no words that nobody can translate
+            // no words that nobody can translate
+            QVERIFY2(texts.value(key).isObject(), qPrintable(key));
             QCOMPARE(state.value(key), QJsonValue(Text::fromJson(texts.value(key)).english()));
         }
     }
@@ -153,10 +166,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QJsonValue>("value"); // undefined: refused
         const QJsonValue refused(QJsonValue::Undefined);
-        for (const char *name : {"strictMode", "allowLocalNetwork", "separateApps", "autoConnect", "optimizeSpeed", "terminalMode"}) {
-            QTest::addRow("%s on", name) << QString::fromLatin1(name) << u"on"_s << QJsonValue(true);
-            QTest::addRow("%s off", name) << QString::fromLatin1(name) << u" FALSE "_s << QJsonValue(false);
-            QTest::addRow("%s yes", name) << QString::fromLatin1(name) << u"yes"_s << QJsonValue(true);
+        for (const char *name : {"strictMode", "allowLocalNetwork", "separateApps", "autoConnect",
+                                 "optimizeSpeed", "terminalMode"}) {
+            QTest::addRow("%s on", name)
+                << QString::fromLatin1(name) << u"on"_s << QJsonValue(true);
+            QTest::addRow("%s off", name)
+                << QString::fromLatin1(name) << u" FALSE "_s << QJsonValue(false);
+            QTest::addRow("%s yes", name)
+                << QString::fromLatin1(name) << u"yes"_s << QJsonValue(true);
             QTest::addRow("%s 0", name) << QString::fromLatin1(name) << u"0"_s << QJsonValue(false);
             QTest::addRow("%s empty", name) << QString::fromLatin1(name) << QString() << refused;
             QTest::addRow("%s other", name) << QString::fromLatin1(name) << u"2"_s << refused;
@@ -168,15 +185,20 @@ private Q_SLOTS:
         QTest::newRow("bridge") << u"bridgeChoice"_s << u"meek"_s << QJsonValue(u"meek"_s);
         QTest::newRow("no bridge") << u"bridgeChoice"_s << u"Meek"_s << refused;
         QTest::newRow("path") << u"customTorPath"_s << u"/opt/tor"_s << QJsonValue(u"/opt/tor"_s);
-        QTest::newRow("path with blanks around") << u"customTorPath"_s << u" /opt/tor "_s << QJsonValue(u" /opt/tor "_s);
+        QTest::newRow("path with blanks around")
+            << u"customTorPath"_s << u" /opt/tor "_s << QJsonValue(u" /opt/tor "_s);
         QTest::newRow("no path") << u"customTorPath"_s << QString() << QJsonValue(QString());
         QTest::newRow("relative path") << u"customTorPath"_s << u"bin/tor"_s << refused;
         QTest::newRow("bare name") << u"customTorPath"_s << u"tor"_s << refused;
         QTest::newRow("bridges") << u"customBridges"_s << u"a\nb"_s << QJsonValue(u"a\nb"_s);
-        QTest::newRow("list") << u"bypassApps"_s << u"[\"/b.desktop\", \"/a.desktop\", \"/b.desktop\"]"_s
-                              << QJsonValue(QJsonArray{u"/a.desktop"_s, u"/b.desktop"_s}); // sorted, each once
-        QTest::newRow("list with a program") << u"bypassApps"_s << u"[\"/a.desktop\", \"/usr/bin/b\"]"_s << refused;
-        QTest::newRow("list with a relative path") << u"bypassApps"_s << u"[\"a.desktop\"]"_s << refused;
+        QTest::newRow("list") << u"bypassApps"_s
+                              << u"[\"/b.desktop\", \"/a.desktop\", \"/b.desktop\"]"_s
+                              // sorted, each once
+                              << QJsonValue(QJsonArray{u"/a.desktop"_s, u"/b.desktop"_s});
+        QTest::newRow("list with a program")
+            << u"bypassApps"_s << u"[\"/a.desktop\", \"/usr/bin/b\"]"_s << refused;
+        QTest::newRow("list with a relative path")
+            << u"bypassApps"_s << u"[\"a.desktop\"]"_s << refused;
         QTest::newRow("empty list") << u"bypassApps"_s << u"[]"_s << QJsonValue(QJsonArray());
         QTest::newRow("no list") << u"bypassApps"_s << u"/a"_s << refused;
         QTest::newRow("list of numbers") << u"bypassApps"_s << u"[1]"_s << refused;
@@ -218,8 +240,9 @@ private Q_SLOTS:
         for (const QString &name : names) {
             const QJsonValue value = state.value(name);
             QVERIFY2(!value.isUndefined(), qPrintable(name));
-            const QString text = value.isArray() ? u"[]"_s : value.isBool() ? (value.toBool() ? u"true"_s : u"false"_s)
-                                                                            : value.toString();
+            const QString text = value.isArray() ? u"[]"_s
+                : value.isBool()                 ? (value.toBool() ? u"true"_s : u"false"_s)
+                                                 : value.toString();
             QVERIFY2(setSetting(bench.controller(), name, text), qPrintable(name));
         }
         QCOMPARE(names.size(), 11);
@@ -234,7 +257,8 @@ private Q_SLOTS:
         const auto set = setSetting(bench.controller(), u"exitCountry"_s, u"de"_s);
         QVERIFY(!set);
         QVERIFY(set.error().kind() == SettingError::Kind::NotDone);
-        QVERIFY2(set.error().description().english().contains(u"settings"_s), qPrintable(set.error().description().english()));
+        QVERIFY2(set.error().description().english().contains(u"settings"_s),
+                 qPrintable(set.error().description().english()));
         QCOMPARE(bench.controller().exitCountry(), u"de"_s);
     }
 
@@ -245,8 +269,9 @@ private Q_SLOTS:
         const auto set = setSetting(bench.controller(), u"terminalMode"_s, u"on"_s);
         QVERIFY(!set);
         QVERIFY(set.error().kind() == SettingError::Kind::NotDone);
-        QVERIFY2(set.error().description().english().startsWith(u"Couldn't set up terminal mode: "_s),
-                 qPrintable(set.error().description().english()));
+        QVERIFY2(
+            set.error().description().english().startsWith(u"Couldn't set up terminal mode: "_s),
+            qPrintable(set.error().description().english()));
         QVERIFY(bench.controller().terminalMode());
     }
 
@@ -290,7 +315,8 @@ private Q_SLOTS:
             bench.processes.release();
             QVERIFY(Workbench::finished(connecting));
             QVERIFY(isRefused());
-            const QString same = before.isBool() ? (before.toBool() ? u"on"_s : u"off"_s) : before.toString();
+            const QString same = before.isBool() ? (before.toBool() ? u"on"_s : u"off"_s)
+                                                 : before.toString();
             QVERIFY(setSetting(c, name, same)); // nothing changes
             bench.disconnect();
         } else {
@@ -300,18 +326,21 @@ private Q_SLOTS:
         QVERIFY(publishedState(c).value(name) != before);
     }
 
-
     // As in the windows: what was found out about a session is not true of what is left of it.
     void nothingOfADeadSessionIsClaimed()
     {
         Workbench bench;
-        bench.tor.reply("GETINFO circuit-status", Workbench::block("circuit-status", {"5 BUILT $" + QByteArray(40, 'A') + "~one PURPOSE=GENERAL"}));
+        bench.tor.reply(
+            "GETINFO circuit-status",
+            Workbench::block("circuit-status",
+                             {"5 BUILT $" + QByteArray(40, 'A') + "~one PURPOSE=GENERAL"}));
         bench.tor.reply("GETINFO stream-status", Workbench::block("stream-status", {}));
         QVERIFY(bench.connect());
         QVERIFY(Workbench::finished(bench.controller().refreshCircuits()));
         QVERIFY(bench.tick());
         const QJsonObject before = publishedState(bench.controller());
-        QVERIFY(before.value(u"torVerified"_s).toBool() && !before.value(u"circuits"_s).toArray().isEmpty());
+        QVERIFY(before.value(u"torVerified"_s).toBool()
+                && !before.value(u"circuits"_s).toArray().isEmpty());
         bench.tor.stopListening();
         for (int tick = 0; tick < 3; ++tick)
             QVERIFY(bench.tick());

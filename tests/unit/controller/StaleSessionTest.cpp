@@ -32,7 +32,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("mode");
         const auto add = [](const char *name, const QByteArray &content, const QString &mode) {
             QTest::newRow(name) << System::linux << content << mode;
-            QTest::newRow(qPrintable(QLatin1String(name) + u" (macos)"_s)) << System::macos << content << mode;
+            QTest::newRow(qPrintable(QLatin1String(name) + u" (macos)"_s))
+                << System::macos << content << mode;
         };
         add("strict with a line end", "strict\n", u"strict"_s);
         add("proxy", "proxy", u"proxy"_s);
@@ -56,7 +57,8 @@ private Q_SLOTS:
         const TorController &c = bench.controller();
         QVERIFY(c.phase() == Phase::stale);
         QVERIFY(c.activeMode() == routingModeFromRawValue(mode));
-        QCOMPARE(c.statusDetail(), u"Your network is still set up for Tor from an earlier session"_s);
+        QCOMPARE(c.statusDetail(),
+                 u"Your network is still set up for Tor from an earlier session"_s);
         QVERIFY(c.isSessionMarkerPresent());
         QVERIFY(bench.processes.calls.empty() && bench.tor.commands().isEmpty());
     }
@@ -64,7 +66,8 @@ private Q_SLOTS:
     void aMarkerThatCannotBeReadCountsAsEmpty()
     {
         Workbench bench;
-        QVERIFY(QDir().mkpath(bench.profile.sessionMarker)); // a folder: no user can read it as text
+        // a folder: no user can read it as text
+        QVERIFY(QDir().mkpath(bench.profile.sessionMarker));
         bench.controller().detectStaleState();
         QVERIFY(bench.controller().phase() == Phase::stale);
         QVERIFY(!bench.controller().activeMode());
@@ -180,11 +183,15 @@ private Q_SLOTS:
             bench.removeMarker();
         bench.disconnect();
         QVERIFY(c.phase() == (markerStays ? Phase::stale : Phase::disconnected));
-        QCOMPARE(c.statusDetail(), markerStays ? u"Your network is still set up for Tor"_s
-                                               : u"Your traffic is not going through Tor"_s);
-        QVERIFY(c.activeMode() == (markerStays ? routingModeFromRawValue(QString::fromLatin1(word)) : std::nullopt));
+        QCOMPARE(c.statusDetail(),
+                 markerStays ? u"Your network is still set up for Tor"_s
+                             : u"Your traffic is not going through Tor"_s);
+        QVERIFY(
+            c.activeMode()
+            == (markerStays ? routingModeFromRawValue(QString::fromLatin1(word)) : std::nullopt));
         QCOMPARE(c.errorMessage(), dismissed ? std::nullopt : std::optional(u"Could not."_s));
-        QCOMPARE(bench.clock.sleepers(), std::size_t(markerStays ? 2 : 1)); // only the rules are watched; an old watch wakes once more
+        // only the rules are watched; an old watch wakes once more
+        QCOMPARE(bench.clock.sleepers(), std::size_t(markerStays ? 2 : 1));
     }
 
     void connectsByItselfOnlyWhen_data()
@@ -215,7 +222,10 @@ private Q_SLOTS:
         c.detectStaleState();
         const auto starting = c.autoConnectIfEnabled();
         QVERIFY(Workbench::finished(starting));
-        QVERIFY(c.phase() == (connects ? Phase::connected : marker ? Phase::stale : Phase::disconnected));
+        QVERIFY(c.phase()
+                == (connects     ? Phase::connected
+                        : marker ? Phase::stale
+                                 : Phase::disconnected));
         QVERIFY(!c.errorMessage());
         QCOMPARE(bench.helperRunCount(u"connect"_s), connects ? 1 : 0);
     }

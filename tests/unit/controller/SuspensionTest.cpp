@@ -1,6 +1,6 @@
 #include "support/Interruption.h"
-#include "support/Workbench.h"
 #include "support/TestProgram.h"
+#include "support/Workbench.h"
 
 #include <QTest>
 
@@ -24,7 +24,8 @@ QCoro::Task<std::optional<ConnectTime>> slowBridge(ManualClock *clock)
     co_return ConnectTime(1s);
 }
 
-QCoro::Task<TransportDownloader::Outcome> slowInstall(ManualClock *clock, TransportDownloader::Progress progress)
+QCoro::Task<TransportDownloader::Outcome> slowInstall(ManualClock *clock,
+                                                      TransportDownloader::Progress progress)
 {
     progress(u"Downloading…"_s);
     co_await clock->sleep(1s);
@@ -33,8 +34,7 @@ QCoro::Task<TransportDownloader::Outcome> slowInstall(ManualClock *clock, Transp
 }
 
 // The operation alone, whatever it answers.
-template<typename T>
-QCoro::Task<void> inWords(QCoro::Task<T> task)
+template <typename T> QCoro::Task<void> inWords(QCoro::Task<T> task)
 {
     co_await task;
 }
@@ -59,27 +59,34 @@ void slowDown(Workbench &bench)
     bench.probe.beforeTorAnswer = [&bench] { return pause(&bench.clock); };
     bench.probe.beforeDirectAnswer = [&bench] { return pause(&bench.clock); };
     bench.resolvers.beforeAnswer = [&bench] { return pause(&bench.clock); };
-    bench.tor.reply("GETINFO circuit-status",
-                    Workbench::block("circuit-status", {"1 BUILT $" + relay + "~one PURPOSE=GENERAL"}));
+    bench.tor.reply(
+        "GETINFO circuit-status",
+        Workbench::block("circuit-status", {"1 BUILT $" + relay + "~one PURPOSE=GENERAL"}));
     bench.tor.reply("GETINFO stream-status", Workbench::block("stream-status", {}));
-    bench.tor.reply("GETINFO ns/id/" + relay,
-                    Workbench::block("ns/id/" + relay, {"r one A B 2026-03-01 10:00:00 192.0.2.2 9001 0"}));
-    bench.tor.reply("GETINFO ip-to-country/192.0.2.2", "250-ip-to-country/192.0.2.2=de\r\n250 OK\r\n");
+    bench.tor.reply(
+        "GETINFO ns/id/" + relay,
+        Workbench::block("ns/id/" + relay, {"r one A B 2026-03-01 10:00:00 192.0.2.2 9001 0"}));
+    bench.tor.reply("GETINFO ip-to-country/192.0.2.2",
+                    "250-ip-to-country/192.0.2.2=de\r\n250 OK\r\n");
 }
 
 struct Operation {
     const char *name;
     bool isConnected; // begins in a session
     std::function<QCoro::Task<void>(Workbench &bench)> begin;
-    int leastWaits;                           // fewer would mean that nothing was tried
+    int leastWaits;                             // fewer would mean that nothing was tried
     std::function<bool(Workbench &)> succeeded; // when nobody interrupts it
 };
 
 std::vector<Operation> operations()
 {
     const auto always = [](Workbench &) { return true; };
-    const auto isConnected = [](Workbench &b) { return b.controller().phase() == ConnectionPhase::connected; };
-    const auto isDisconnected = [](Workbench &b) { return b.controller().phase() == ConnectionPhase::disconnected; };
+    const auto isConnected = [](Workbench &b) {
+        return b.controller().phase() == ConnectionPhase::connected;
+    };
+    const auto isDisconnected = [](Workbench &b) {
+        return b.controller().phase() == ConnectionPhase::disconnected;
+    };
     return {
         {"connect", false, [](Workbench &b) { return b.controller().connect(); }, 4, isConnected},
         {"connect with the fastest bridge", false,
@@ -87,13 +94,17 @@ std::vector<Operation> operations()
              b.controller().bridgeChoice.set(BridgeChoice::custom);
              b.controller().customBridges.set(u"192.0.2.1:1\n192.0.2.2:2"_s);
              b.controller().optimizeSpeed.set(true);
-             b.bridgeProbe = [&b](QString, quint16, std::chrono::milliseconds) { return slowBridge(&b.clock); };
+             b.bridgeProbe = [&b](QString, quint16, std::chrono::milliseconds) {
+                 return slowBridge(&b.clock);
+             };
              return b.controller().connect();
          },
          6, isConnected},
         {"connect to a tor that takes its time", false,
          [](Workbench &b) {
-             b.tor.replyOnce(Workbench::bootstrapCommand, "250-status/bootstrap-phase=NOTICE BOOTSTRAP PROGRESS=5\r\n250 OK\r\n");
+             b.tor.replyOnce(
+                 Workbench::bootstrapCommand,
+                 "250-status/bootstrap-phase=NOTICE BOOTSTRAP PROGRESS=5\r\n250 OK\r\n");
              b.tor.replyOnce(Workbench::bootstrapCommand, "551 Not yet\r\n");
              return b.controller().connect();
          },
@@ -133,7 +144,9 @@ std::vector<Operation> operations()
          },
          1, isDisconnected},
         {"runChecks", true, [](Workbench &b) { return b.controller().runChecks(); }, 4,
-         [](Workbench &b) { return b.controller().torVerified() == true && !b.controller().isChecking(); }},
+         [](Workbench &b) {
+             return b.controller().torVerified() == true && !b.controller().isChecking();
+         }},
         {"checkDNS", true,
          [](Workbench &b) {
              hearLookups(b);
@@ -153,7 +166,8 @@ std::vector<Operation> operations()
                  && b.controller().circuits().front().hops.front().country == u"de";
          }},
         {"newIdentity", true, [](Workbench &b) { return b.controller().newIdentity(); }, 2, always},
-        {"newCircuit", true, [](Workbench &b) { return b.controller().newCircuit(u"1"_s); }, 8, always},
+        {"newCircuit", true, [](Workbench &b) { return b.controller().newCircuit(u"1"_s); }, 8,
+         always},
         {"optimizeCircuits", true,
          [](Workbench &b) {
              b.probe.torAnswer = ScriptedProbe::nothing();
@@ -193,16 +207,18 @@ std::vector<Operation> operations()
 
 InterruptibleApplication *application = nullptr;
 
-// Lets the operation go on, and time pass for it, until it has ended or was interrupted. `listened`: how often Tor had been
-// asked to tell its events when it began.
-bool goOn(Workbench &bench, const QCoro::Task<void> &task, const bool &interrupted, qsizetype listened)
+// Lets the operation go on, and time pass for it, until it has ended or was interrupted.
+// `listened`: how often Tor had been asked to tell its events when it began.
+bool goOn(Workbench &bench, const QCoro::Task<void> &task, const bool &interrupted,
+          qsizetype listened)
 {
     return until([&] {
         if (!interrupted && !task.isReady()) {
             if (bench.processes.held() > 0)
                 bench.processes.release();
             bench.clock.advance(1s);
-            // The control port listens by its own clock; its other waits are for sockets, which need none.
+            // The control port listens by its own clock; its other waits are for sockets, which
+            // need none.
             if (bench.tor.commands().count(listening) > listened)
                 bench.socketClock.advance(1s);
         }
@@ -212,9 +228,9 @@ bool goOn(Workbench &bench, const QCoro::Task<void> &task, const bool &interrupt
 
 } // namespace
 
-// For each operation and each of its waits: the controller goes right before the coroutine is resumed, with what it was
-// given, or right after that, alone. Whatever then comes to an end finds nothing left to do. Most of what could go wrong
-// only a sanitizer sees.
+// For each operation and each of its waits: the controller goes right before the coroutine is
+// resumed, with what it was given, or right after that, alone. Whatever then comes to an end finds
+// nothing left to do. Most of what could go wrong only a sanitizer sees.
 class SuspensionTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -318,6 +334,7 @@ static int runSuspensionTest(int argc, char **argv)
     SuspensionTest test;
     return QTest::qExec(&test, argc, argv);
 }
-static const veldmark::test::Registration registeredSuspensionTest("SuspensionTest", runSuspensionTest);
+static const veldmark::test::Registration registeredSuspensionTest("SuspensionTest",
+                                                                   runSuspensionTest);
 
 #include "SuspensionTest.moc"

@@ -1,6 +1,5 @@
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
-#include "support/TestProgram.h"
 
 #include <QFile>
 #include <QTest>
@@ -8,7 +7,8 @@
 using namespace Qt::StringLiterals;
 using namespace veldmark;
 
-// Terminal mode as the controller applies it, on a computer whose netcat takes its time to say what it can do.
+// Terminal mode as the controller applies it, on a computer whose netcat takes its time to say what
+// it can do.
 class TerminalModeTest : public QObject {
     Q_OBJECT
 
@@ -16,10 +16,15 @@ class TerminalModeTest : public QObject {
     static void putSlowNetcat(const Workbench &bench)
     {
         bench.writeFile(bench.profile.netcatCandidates.constFirst(),
-                        "#!/bin/sh\nwhile [ ! -e '" + go(bench).toUtf8() + "' ]; do sleep 0.01; done\n"
-                        "echo '[-X proxy_protocol] [-x proxy_address[:port]]'\n", true);
+                        "#!/bin/sh\nwhile [ ! -e '" + go(bench).toUtf8()
+                            + "' ]; do sleep 0.01; done\n"
+                              "echo '[-X proxy_protocol] [-x proxy_address[:port]]'\n",
+                        true);
     }
-    static bool isActive(const Workbench &bench) { return QFile::exists(bench.profile.terminalDirectory + u"/active"_s); }
+    static bool isActive(const Workbench &bench)
+    {
+        return QFile::exists(bench.profile.terminalDirectory + u"/active"_s);
+    }
 
 private Q_SLOTS:
     void theShellsNeedNotWaitForWhatSshCanUse()
@@ -72,7 +77,8 @@ private Q_SLOTS:
         bench.writeFile(bench.profile.sshDirectory); // a file where the folder should be
         bench.writeFile(go(bench));
         QVERIFY(until([&] { return bench.controller().terminalError().has_value(); }));
-        QVERIFY(bench.controller().terminalError()->english().startsWith(u"Couldn't set up terminal mode: "_s));
+        QVERIFY(bench.controller().terminalError()->english().startsWith(
+            u"Couldn't set up terminal mode: "_s));
         QVERIFY(bench.controller().isTerminalInstalled());
     }
 };

@@ -16,8 +16,8 @@ const Outcome unverified = InstalledBundle{u"14.0.4"_s, false};
 // A downloader that says what it is told to say, and ends when it is let go.
 struct Downloader {
     Outcome outcome = verified;
-    QStringList lines; // its progress
-    std::vector<bool> throughTor; // of each call
+    QStringList lines;                    // its progress
+    std::vector<bool> throughTor;         // of each call
     std::optional<ResumeOnce<bool>> gate; // none: it ends at once
     TransportDownloader::Progress lastProgress;
 
@@ -80,9 +80,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("hint"); // that installs tor
         QTest::addColumn<QString>("command");
         QTest::newRow("mac") << System::macos << u"brew install tor"_s << u"brew install gnupg"_s;
-        QTest::newRow("debian") << System::linux << u"sudo apt install tor tor-geoipdb"_s << u"sudo apt install gnupg"_s;
-        QTest::newRow("fedora") << System::linux << u"sudo dnf install tor"_s << u"sudo dnf install gnupg"_s;
-        QTest::newRow("elsewhere") << System::linux << u"your package manager"_s << u"with your package manager"_s;
+        QTest::newRow("debian") << System::linux << u"sudo apt install tor tor-geoipdb"_s
+                                << u"sudo apt install gnupg"_s;
+        QTest::newRow("fedora") << System::linux << u"sudo dnf install tor"_s
+                                << u"sudo dnf install gnupg"_s;
+        QTest::newRow("elsewhere")
+            << System::linux << u"your package manager"_s << u"with your package manager"_s;
     }
 
     void anUnverifiedOneSaysHowToVerify()
@@ -98,9 +101,10 @@ private Q_SLOTS:
         const auto task = bench.controller().downloadTransports();
         QVERIFY(Workbench::finished(task));
         QVERIFY(result(task)); // it is installed all the same
-        QCOMPARE(bench.controller().transportDownload().value(),
-                 u"Bridge programs 14.0.4 installed over HTTPS. Install GnuPG (%1) and download again to also verify the "
-                 "Tor Project's signature."_s.arg(command));
+        QCOMPARE(
+            bench.controller().transportDownload().value(),
+            u"Bridge programs 14.0.4 installed over HTTPS. Install GnuPG (%1) and download again to also verify the "
+            "Tor Project's signature."_s.arg(command));
         QVERIFY(bench.controller().canDownloadTransports());
     }
 
@@ -115,7 +119,8 @@ private Q_SLOTS:
         const auto task = c.downloadTransports();
         QVERIFY(Workbench::finished(task));
         QVERIFY(!result(task));
-        QCOMPARE(c.transportDownload().value(), u"Couldn't download bridge programs: No route to host."_s);
+        QCOMPARE(c.transportDownload().value(),
+                 u"Couldn't download bridge programs: No route to host."_s);
         QCOMPARE(bench.searches, searches); // nothing new to find
         QVERIFY(c.canDownloadTransports());
 
@@ -134,7 +139,8 @@ private Q_SLOTS:
         QStringList seen;
         QObject::connect(&c.transportDownload, &Field::changed, &c,
                          [&] { seen << c.transportDownload().value_or(u"(none)"_s).english(); });
-        downloader.lines = {u"Checking latest version…"_s, u"Downloading Tor 14.0.4 bridge programs… 1.0 of 2.0 MB (50%)"_s};
+        downloader.lines = {u"Checking latest version…"_s,
+                            u"Downloading Tor 14.0.4 bridge programs… 1.0 of 2.0 MB (50%)"_s};
         const auto task = c.downloadTransports();
         QCOMPARE(seen, QStringList(u"Starting…"_s) + downloader.lines);
         QVERIFY(!c.canDownloadTransports());
@@ -253,8 +259,10 @@ private Q_SLOTS:
         QCOMPARE(cancels, 1);
         QVERIFY(until([&] { return bench.processes.held() == 1; }));
         settle();
-        QCOMPARE(downloader.throughTor.size(), std::size_t(1)); // nothing goes on while Tor is on its way
-        QCOMPARE(c.transportDownload().value(), u"The download begins again when Tor is connected…"_s);
+        // nothing goes on while Tor is on its way
+        QCOMPARE(downloader.throughTor.size(), std::size_t(1));
+        QCOMPARE(c.transportDownload().value(),
+                 u"The download begins again when Tor is connected…"_s);
         QVERIFY(!c.canDownloadTransports());
         downloader.outcome = verified;
         bench.processes.hold = nullptr;
@@ -320,7 +328,6 @@ private Q_SLOTS:
         QVERIFY(Workbench::finished(first));
         QCOMPARE(c.transports().lyrebird, std::optional(u"/new/lyrebird"_s));
     }
-
 };
 
 VELDMARK_TEST(TransportsTest)

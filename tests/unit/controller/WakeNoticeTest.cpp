@@ -21,7 +21,8 @@ class WakeNoticeTest : public QObject {
     // As logind says it before a sleep and after it.
     void prepareForSleep(bool begins)
     {
-        QDBusMessage signal = QDBusMessage::createSignal(u"/org/freedesktop/login1"_s, u"org.freedesktop.login1.Manager"_s,
+        QDBusMessage signal = QDBusMessage::createSignal(u"/org/freedesktop/login1"_s,
+                                                         u"org.freedesktop.login1.Manager"_s,
                                                          u"PrepareForSleep"_s);
         signal << begins;
         login->send(signal);

@@ -2,8 +2,8 @@
 
 #include "doctor/Examiner.h"
 #include "support/StandIns.h"
-#include "system/SettingsStore.h"
 #include "support/TestProgram.h"
+#include "system/SettingsStore.h"
 
 #include <QTest>
 
@@ -19,18 +19,24 @@ private Q_SLOTS:
         SettingsStore settings(m.profile());
         ScriptedRunner processes;
         processes.answer = [](const ScriptedRunner::Call &call) {
-            return ProcessResult{0, call.executable.endsWith(QStringLiteral("/tor")) ? QStringLiteral("Tor version 0.4.8.9.\n") : QString(), {}};
+            return ProcessResult{0,
+                                 call.executable.endsWith(QStringLiteral("/tor"))
+                                     ? QStringLiteral("Tor version 0.4.8.9.\n")
+                                     : QString(),
+                                 {}};
         };
         Examiner examiner(m.profile(), settings, processes);
         auto examining = examiner.examine();
         QTRY_VERIFY(examining.isReady());
         const Findings findings = QCoro::waitFor(std::move(examining));
-        QCOMPARE(findings.front().text, QStringLiteral("Tor 0.4.8.9 is installed: %1.").arg(m.at("/usr/bin/tor")));
+        QCOMPARE(findings.front().text,
+                 QStringLiteral("Tor 0.4.8.9 is installed: %1.").arg(m.at("/usr/bin/tor")));
         for (const ScriptedRunner::Call &call : processes.calls) {
             if (call.executable.endsWith(QStringLiteral("/tor")))
                 QCOMPARE(call.arguments, QStringList{QStringLiteral("--version")});
             else // as root
-                QCOMPARE(call.arguments, (QStringList{QStringLiteral("list"), QStringLiteral("tables")}));
+                QCOMPARE(call.arguments,
+                         (QStringList{QStringLiteral("list"), QStringLiteral("tables")}));
         }
         QVERIFY(!processes.calls.empty());
     }
@@ -48,8 +54,10 @@ private Q_SLOTS:
         QStringList texts;
         for (const Finding &finding : QCoro::waitFor(std::move(examining)))
             texts << finding.text.english();
-        QVERIFY2(texts.join(u'\n').contains(QStringLiteral("/opt/none/tor, is no program")), qPrintable(texts.join(u'\n')));
-        QVERIFY2(texts.join(u'\n').contains(QStringLiteral("The chosen bridges can't be used")), qPrintable(texts.join(u'\n')));
+        QVERIFY2(texts.join(u'\n').contains(QStringLiteral("/opt/none/tor, is no program")),
+                 qPrintable(texts.join(u'\n')));
+        QVERIFY2(texts.join(u'\n').contains(QStringLiteral("The chosen bridges can't be used")),
+                 qPrintable(texts.join(u'\n')));
     }
 
     void aTorThatFailsHasNoVersion()
@@ -57,7 +65,10 @@ private Q_SLOTS:
         TestMachine m;
         SettingsStore settings(m.profile());
         ScriptedRunner processes;
-        processes.answer = [](const ScriptedRunner::Call &) { return ProcessResult{1, QStringLiteral("Tor version 0.4.8.9.\n"), QStringLiteral("no\nway")}; };
+        processes.answer = [](const ScriptedRunner::Call &) {
+            return ProcessResult{1, QStringLiteral("Tor version 0.4.8.9.\n"),
+                                 QStringLiteral("no\nway")};
+        };
         Examiner examiner(m.profile(), settings, processes);
         auto examining = examiner.examine();
         QTRY_VERIFY(examining.isReady());

@@ -9,7 +9,8 @@
 
 namespace veldmark {
 
-// A Linux computer on which a connect works, in a temporary folder; a test takes away or adds what it is about.
+// A Linux computer on which a connect works, in a temporary folder; a test takes away or adds what
+// it is about.
 class TestMachine {
 public:
     static constexpr uid_t alice = 4242;
@@ -21,21 +22,26 @@ public:
         machine.hasDesktop = true;
         machine.now = QDateTime::currentDateTimeUtc();
         machine.clockIsSet = true;
-        machine.torVersion = QStringLiteral("Tor version 0.4.7.16.\nThis build of Tor is covered by …");
+        machine.torVersion = QStringLiteral(
+            "Tor version 0.4.7.16.\nThis build of Tor is covered by …");
         machine.owner = [](const QString &) { return FileOwner{0, 0755}; };
 
         write("/etc/os-release", "ID=debian\n");
         machine.profile = profile();
-        for (const char *name : {"tor", "nft", "pkexec", "sudo", "bash", "flock", "setpriv", "unshare", "setsid", "mount", "umount", "getent",
-                                 "stat", "sync", "timeout", "readlink", "sha256sum", "useradd"})
+        for (const char *name : {"tor", "nft", "pkexec", "sudo", "bash", "flock", "setpriv",
+                                 "unshare", "setsid", "mount", "umount", "getent", "stat", "sync",
+                                 "timeout", "readlink", "sha256sum", "useradd"})
             program(QByteArray("/usr/bin/") + name);
         program("/usr/share/veldmark/veldmark-helper.sh");
-        write("/etc/passwd", "root:x:0:0::/root:/bin/bash\ndebian-tor:x:108:116::/var/lib/tor:/bin/false\n"
-                             "alice:x:4242:4242::/home/user:/bin/bash\nbob:x:4343:4343::/home/bob:/bin/bash\n_veldmark:x:990:990::/:/bin/false\n");
+        write(
+            "/etc/passwd",
+            "root:x:0:0::/root:/bin/bash\ndebian-tor:x:108:116::/var/lib/tor:/bin/false\n"
+            "alice:x:4242:4242::/home/user:/bin/bash\nbob:x:4343:4343::/home/bob:/bin/bash\n_veldmark:x:990:990::/:/bin/false\n");
         write("/etc/group", "root:x:0:\nsudo:x:27:bob,alice\n");
         write("/sys/module/nf_tables/refcnt", "1\n");
         write("/proc/sys/kernel/osrelease", "6.1.0-18-amd64\n");
-        write("/proc/self/mountinfo", "30 23 0:26 / /sys/fs/cgroup rw,nosuid - cgroup2 cgroup2 rw\n");
+        write("/proc/self/mountinfo",
+              "30 23 0:26 / /sys/fs/cgroup rw,nosuid - cgroup2 cgroup2 rw\n");
         write("/etc/resolv.conf", "nameserver 192.0.2.53\n");
         listens("/proc/net/tcp", {});
         listens("/proc/net/udp", {});
@@ -54,7 +60,9 @@ public:
     void program(const QByteArray &path, const QByteArray &content = "#!/bin/sh\n") const
     {
         write(path, content);
-        QFile::setPermissions(at(path), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
+        QFile::setPermissions(at(path),
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner
+                                  | QFile::ReadOther | QFile::ExeOther);
     }
     void remove(const QByteArray &path) const
     {
@@ -67,8 +75,12 @@ public:
     {
         const QByteArray folder = "/proc/" + QByteArray::number(pid);
         const QByteArray id = QByteArray::number(user);
-        write(folder + "/status", "Name:\t" + name + "\nUmask:\t0022\nUid:\t" + id + "\t" + id + "\t" + id + "\t" + id + "\n");
-        write(folder + "/cgroup", unit.isEmpty() ? "0::/user.slice/user-4242.slice/session-2.scope\n" : "0::/system.slice/" + unit + "\n");
+        write(folder + "/status",
+              "Name:\t" + name + "\nUmask:\t0022\nUid:\t" + id + "\t" + id + "\t" + id + "\t" + id
+                  + "\n");
+        write(folder + "/cgroup",
+              unit.isEmpty() ? "0::/user.slice/user-4242.slice/session-2.scope\n"
+                             : "0::/system.slice/" + unit + "\n");
     }
 
     struct Listener {
@@ -80,10 +92,13 @@ public:
     };
     void listens(const QByteArray &table, const std::vector<Listener> &listeners) const
     {
-        QByteArray text = "  sl  local_address rem_address   st tx_queue rx_queue tr tm->when retrnsmt   uid  timeout inode\n";
+        QByteArray text
+            = "  sl  local_address rem_address   st tx_queue rx_queue tr tm->when retrnsmt   uid  timeout inode\n";
         for (const Listener &one : listeners)
-            text += "   0: " + one.address + ':' + QByteArray::number(one.port, 16).toUpper().rightJustified(4, '0') + " 00000000:0000 " + one.state
-                + " 00000000:00000000 00:00000000 00000000 " + QByteArray::number(one.user).rightJustified(5) + "        0 "
+            text += "   0: " + one.address + ':'
+                + QByteArray::number(one.port, 16).toUpper().rightJustified(4, '0')
+                + " 00000000:0000 " + one.state + " 00000000:00000000 00:00000000 00000000 "
+                + QByteArray::number(one.user).rightJustified(5) + "        0 "
                 + QByteArray::number(one.socket) + " 1 0000000000000000 100 0 0 10 0\n";
         write(table, text);
     }
@@ -95,7 +110,10 @@ public:
     }
 
     QString at(const QByteArray &path) const { return m_folder.path() + QString::fromUtf8(path); }
-    PlatformProfile profile() const { return PlatformProfile::linux(Places::below(m_folder.path())); }
+    PlatformProfile profile() const
+    {
+        return PlatformProfile::linux(Places::below(m_folder.path()));
+    }
 
 private:
     QTemporaryDir m_folder;

@@ -14,7 +14,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("group");
         QTest::addColumn<QByteArray>("application");
-        const auto row = [](const char *group, const char *application) { QTest::newRow(group) << QByteArray(group) << QByteArray(application); };
+        const auto row = [](const char *group, const char *application) {
+            QTest::newRow(group) << QByteArray(group) << QByteArray(application);
+        };
         row("app-gnome-firefox-12345.scope", "firefox");
         row("app-gnome-org.gnome.Epiphany-12345.scope", "org.gnome.Epiphany");
         row("app-gnome-google\\x2dchrome-77.scope", "google-chrome");
@@ -29,8 +31,10 @@ private Q_SLOTS:
         row("app-firefox.service", "firefox");
         row("app-decade.scope", "decade");
         row("app-gnome-decade-1.scope", "decade");
-        row("snap.firefox.firefox-0f0f0f0f-1111-2222-3333-444444444444.scope", "snap.firefox.firefox");
-        row("snap.firefox.firefox.0f0f0f0f-1111-2222-3333-444444444444.scope", "snap.firefox.firefox");
+        row("snap.firefox.firefox-0f0f0f0f-1111-2222-3333-444444444444.scope",
+            "snap.firefox.firefox");
+        row("snap.firefox.firefox.0f0f0f0f-1111-2222-3333-444444444444.scope",
+            "snap.firefox.firefox");
         row("app-veldmark-bank-99.scope", "as:bank");
         row("app-veldmark-my\\x2dbank-99.scope", "as:my-bank");
         row("gnome-terminal-server.service", "gnome-terminal-server");
@@ -57,7 +61,8 @@ private Q_SLOTS:
     {
         QCOMPARE(loginSessionOf("session-2.scope"), std::string("session-2"));
         QCOMPARE(loginSessionOf("session-c1.scope"), std::string("session-c1"));
-        for (const char *other : {"session-.scope", "session-2.service", "user@1000.service", "app-session-2.scope", ""})
+        for (const char *other : {"session-.scope", "session-2.service", "user@1000.service",
+                                  "app-session-2.scope", ""})
             QCOMPARE(loginSessionOf(other), std::string());
     }
 };

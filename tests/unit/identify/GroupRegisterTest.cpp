@@ -23,9 +23,12 @@ struct Maps {
         for (const MapChange &change : changes) {
             const bool adds = change.action == MapChange::Action::add;
             if (change.map == Map::addresses)
-                refused = refused || (adds ? !addresses.insert(change.mark).second : addresses.erase(change.mark) == 0);
+                refused = refused
+                    || (adds ? !addresses.insert(change.mark).second
+                             : addresses.erase(change.mark) == 0);
             else if (adds)
-                refused = refused || !marks.emplace(std::pair(change.map, change.group), change.mark).second;
+                refused = refused
+                    || !marks.emplace(std::pair(change.map, change.group), change.mark).second;
             else
                 refused = refused || marks.erase({change.map, change.group}) == 0;
         }
@@ -51,8 +54,7 @@ class GroupRegisterTest : public QObject {
 
     Maps m_maps;
 
-    template<typename Change>
-    void with(Change change)
+    template <typename Change> void with(Change change)
     {
         MapChanges changes;
         change(changes);
@@ -108,7 +110,8 @@ private Q_SLOTS:
         QCOMPARE(m_maps.of(2), m_maps.of(1));
         QCOMPARE(m_maps.of(3), mail);
         QCOMPARE(m_maps.addresses.size(), 2U);
-        for (const auto &[user, name] : {std::pair<uid_t, std::string>(1001, "web"), {1000, "nothing"}, {1000, ""}}) {
+        for (const auto &[user, name] :
+             {std::pair<uid_t, std::string>(1001, "web"), {1000, "nothing"}, {1000, ""}}) {
             with([&](MapChanges &c) { renewed = known.renew(user, name, c); });
             QVERIFY(!renewed);
         }
@@ -160,7 +163,9 @@ private Q_SLOTS:
             known.add(group("app-web-1.scope", 1), c);
         });
         // One has gone and come again, one has gone, one has come.
-        with([&](MapChanges &c) { known.replace({group("app-web-1.scope", 11), group("app-chat-1.scope", 12)}, c); });
+        with([&](MapChanges &c) {
+            known.replace({group("app-web-1.scope", 11), group("app-chat-1.scope", 12)}, c);
+        });
         QVERIFY(m_maps.of(11) != 0 && m_maps.of(12) != 0 && m_maps.of(1) == 0 && m_maps.of(2) == 0);
         Maps anew;
         anew.take(known.everything());

@@ -8,7 +8,8 @@
 
 namespace veldmark {
 
-// One command given by a client, and what came of it. It may go before the client has had its answer.
+// One command given by a client, and what came of it. It may go before the client has had its
+// answer.
 struct Conversation {
     using Answer = Result<void, InstanceError>;
     struct Heard {
@@ -21,7 +22,8 @@ struct Conversation {
     std::vector<QJsonObject> &states = heard->states;
     std::optional<Answer> &answer = heard->answer;
 
-    Conversation(const Workbench &bench, const QJsonObject &request) : client(InstanceClient::connectTo(bench.profile))
+    Conversation(const Workbench &bench, const QJsonObject &request)
+        : client(InstanceClient::connectTo(bench.profile))
     {
         if (client)
             talk(client, request, heard);
@@ -35,16 +37,21 @@ struct Conversation {
         return until([this] { return answer.has_value(); });
     }
     bool succeeds() const { return ends() && answer->has_value(); }
-    QString error() const { return ends() && !*answer ? answer->error().description().english() : QString(); }
+    QString error() const
+    {
+        return ends() && !*answer ? answer->error().description().english() : QString();
+    }
     QString lastPhase() const
     {
         return states.empty() ? QString() : states.back().value(QStringLiteral("phase")).toString();
     }
 
 private:
-    static QCoro::Task<void> talk(std::shared_ptr<InstanceClient> client, QJsonObject request, std::shared_ptr<Heard> heard)
+    static QCoro::Task<void> talk(std::shared_ptr<InstanceClient> client, QJsonObject request,
+                                  std::shared_ptr<Heard> heard)
     {
-        const InstanceClient::OnState onState = [heard](const QJsonObject &state, const QJsonObject &) {
+        const InstanceClient::OnState onState = [heard](const QJsonObject &state,
+                                                        const QJsonObject &) {
             heard->states.push_back(state);
         };
         auto running = client->run(request, onState);

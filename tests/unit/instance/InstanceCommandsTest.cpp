@@ -84,10 +84,15 @@ private Q_SLOTS:
         Instance instance;
         instance.bench.setBootstrap("PROGRESS=1 WARNING=\"Connection refused\"");
         Conversation failing(instance.bench, "connect");
-        QVERIFY(until([&] { return instance.bench.controller().bootstrapProblem() && instance.bench.clock.sleepers() == 2; }));
+        QVERIFY(until([&] {
+            return instance.bench.controller().bootstrapProblem()
+                && instance.bench.clock.sleepers() == 2;
+        }));
         instance.bench.clock.advance(std::chrono::minutes(5));
-        QCOMPARE(failing.error(), u"Tor didn't finish connecting within 5 minutes. Your network is still pointed at Tor. "
-                                  "Click Restore Network to undo. Tor reports: Connection refused."_s);
+        QCOMPARE(
+            failing.error(),
+            u"Tor didn't finish connecting within 5 minutes. Your network is still pointed at Tor. "
+            "Click Restore Network to undo. Tor reports: Connection refused."_s);
     }
 
     void saysWhyTheNetworkWasNotRestored()
@@ -156,8 +161,9 @@ private Q_SLOTS:
         QVERIFY(instance.bench.connect());
         OtherSession other(instance.bench.profile);
         Conversation disconnecting(instance.bench, "disconnect");
-        QCOMPARE(disconnecting.error(), u"Another Veldmark of yours has begun a session since, so nothing was ended. "
-                                        "Disconnect again to end it."_s);
+        QCOMPARE(disconnecting.error(),
+                 u"Another Veldmark of yours has begun a session since, so nothing was ended. "
+                 "Disconnect again to end it."_s);
         QCOMPARE(instance.bench.helperRunCount(u"disconnect"_s), 0);
         QVERIFY(instance.bench.hasMarker());
         Conversation again(instance.bench, "disconnect");
@@ -184,7 +190,8 @@ private Q_SLOTS:
         instance.bench.noteRules("restored", 1);
         Conversation fixing(instance.bench, "fix-dns"); // it is told while the command runs
         QVERIFY2(fixing.succeeds(), qPrintable(fixing.error()));
-        QVERIFY(instance.bench.controller().errorMessage().value().english().contains(u"back in place"_s));
+        QVERIFY(instance.bench.controller().errorMessage().value().english().contains(
+            u"back in place"_s));
     }
 
     void saysThatAConnectionWasReplaced()
@@ -197,7 +204,9 @@ private Q_SLOTS:
         Conversation looking(instance.bench, "status");
         QVERIFY(looking.succeeds());
         instance.bench.clock.advance(1s);
-        QVERIFY2(connecting.error().contains(u"another Veldmark of yours, process %1"_s.arg(other.process())), qPrintable(connecting.error()));
+        QVERIFY2(connecting.error().contains(
+                     u"another Veldmark of yours, process %1"_s.arg(other.process())),
+                 qPrintable(connecting.error()));
     }
 
     void tellsOfASessionThatSomebodyElseHasMadeSince()
@@ -207,9 +216,15 @@ private Q_SLOTS:
         Conversation status(instance.bench, "status");
         QVERIFY(status.succeeds());
         QCOMPARE(status.lastPhase(), u"stale"_s);
-        QCOMPARE(status.states.back().value(u"otherSession"_s).toObject().value(u"process"_s).toInteger(), other.process());
+        QCOMPARE(status.states.back()
+                     .value(u"otherSession"_s)
+                     .toObject()
+                     .value(u"process"_s)
+                     .toInteger(),
+                 other.process());
         Conversation connecting(instance.bench, "connect");
-        QVERIFY2(connecting.error().contains(QString::number(other.process())), qPrintable(connecting.error()));
+        QVERIFY2(connecting.error().contains(QString::number(other.process())),
+                 qPrintable(connecting.error()));
         QVERIFY(instance.bench.processes.calls.empty());
         other.end();
         instance.bench.removeMarker();
@@ -282,8 +297,10 @@ private Q_SLOTS:
     void setsASetting()
     {
         Instance instance;
-        Conversation setting(instance.bench, QJsonObject{{u"command"_s, u"set"_s}, {u"key"_s, u"exitCountry"_s},
-                                                         {u"value"_s, u"de"_s}});
+        Conversation setting(instance.bench,
+                             QJsonObject{{u"command"_s, u"set"_s},
+                                         {u"key"_s, u"exitCountry"_s},
+                                         {u"value"_s, u"de"_s}});
         QVERIFY(setting.succeeds());
         QCOMPARE(instance.bench.controller().exitCountry(), u"de"_s);
     }
@@ -291,13 +308,18 @@ private Q_SLOTS:
     void tellsARefusedSettingFromOneThatWasNotSaved()
     {
         Instance instance;
-        Conversation refused(instance.bench, QJsonObject{{u"command"_s, u"set"_s}, {u"key"_s, u"exitCountry"_s},
-                                                         {u"value"_s, u"DE"_s}});
+        Conversation refused(instance.bench,
+                             QJsonObject{{u"command"_s, u"set"_s},
+                                         {u"key"_s, u"exitCountry"_s},
+                                         {u"value"_s, u"DE"_s}});
         QVERIFY(refused.error().contains(u"no exit country"_s));
         QVERIFY(refused.answer->error().isUsage());
-        QVERIFY(QDir().mkpath(instance.bench.profile.settingsFile)); // a folder where the file should be
-        Conversation unsaved(instance.bench, QJsonObject{{u"command"_s, u"set"_s}, {u"key"_s, u"exitCountry"_s},
-                                                         {u"value"_s, u"de"_s}});
+        // a folder where the file should be
+        QVERIFY(QDir().mkpath(instance.bench.profile.settingsFile));
+        Conversation unsaved(instance.bench,
+                             QJsonObject{{u"command"_s, u"set"_s},
+                                         {u"key"_s, u"exitCountry"_s},
+                                         {u"value"_s, u"de"_s}});
         QVERIFY(!unsaved.error().isEmpty());
         QVERIFY(!unsaved.answer->error().isUsage());
         QCOMPARE(instance.bench.controller().exitCountry(), u"de"_s);
@@ -306,18 +328,22 @@ private Q_SLOTS:
     void opensAnApplicationWithoutTor()
     {
         Instance instance;
-        const QJsonObject launch{{u"command"_s, u"launch"_s}, {u"app"_s, u"/usr/share/applications/a.desktop"_s}};
+        const QJsonObject launch{{u"command"_s, u"launch"_s},
+                                 {u"app"_s, u"/usr/share/applications/a.desktop"_s}};
         QCOMPARE(Conversation(instance.bench, launch).error(), u"Not connected."_s);
         QVERIFY(instance.bench.connect());
         QVERIFY(Conversation(instance.bench, launch).succeeds());
-        QCOMPARE(instance.bench.lastHelperRun(u"launch"_s).last(), u"/usr/share/applications/a.desktop"_s);
+        QCOMPARE(instance.bench.lastHelperRun(u"launch"_s).last(),
+                 u"/usr/share/applications/a.desktop"_s);
         for (const QJsonValue &app : {QJsonValue(u"a.desktop"_s), QJsonValue(), QJsonValue(7)}) {
             const QJsonObject relative{{u"command"_s, u"launch"_s}, {u"app"_s, app}};
-            QCOMPARE(Conversation(instance.bench, relative).error(), u"\"launch\" needs an \"app\", an absolute path."_s);
+            QCOMPARE(Conversation(instance.bench, relative).error(),
+                     u"\"launch\" needs an \"app\", an absolute path."_s);
         }
         instance.bench.applications.names = {{u"/usr/share/applications/a.desktop"_s, u"Ay"_s}};
         instance.bench.failHelper(u"launch"_s, u"No."_s);
-        QCOMPARE(Conversation(instance.bench, launch).error(), u"Couldn't open Ay without Tor: No."_s);
+        QCOMPARE(Conversation(instance.bench, launch).error(),
+                 u"Couldn't open Ay without Tor: No."_s);
         instance.bench.cancelPrompt(u"launch"_s);
         QCOMPARE(Conversation(instance.bench, launch).error(), u"Cancelled."_s);
         QCOMPARE(instance.bench.helperRunCount(u"launch"_s), 3);
@@ -328,8 +354,10 @@ private Q_SLOTS:
         Instance instance;
         instance.bench.controller().strictMode.set(false);
         QVERIFY(instance.bench.connect());
-        const QJsonObject launch{{u"command"_s, u"launch"_s}, {u"app"_s, u"/usr/share/applications/a.desktop"_s}};
-        QCOMPARE(Conversation(instance.bench, launch).error(), u"Connect in strict mode to open apps without Tor"_s);
+        const QJsonObject launch{{u"command"_s, u"launch"_s},
+                                 {u"app"_s, u"/usr/share/applications/a.desktop"_s}};
+        QCOMPARE(Conversation(instance.bench, launch).error(),
+                 u"Connect in strict mode to open apps without Tor"_s);
         QCOMPARE(instance.bench.helperRunCount(u"launch"_s), 0);
     }
 };

@@ -23,7 +23,8 @@ private:
         QString home() const { return QFileInfo(profile.controlSocket).path(); }
         bool make(mode_t mode) const
         {
-            return QDir().mkpath(home()) && ::chmod(QFile::encodeName(home()).constData(), mode) == 0;
+            return QDir().mkpath(home())
+                && ::chmod(QFile::encodeName(home()).constData(), mode) == 0;
         }
     };
 
@@ -43,7 +44,7 @@ private Q_SLOTS:
         const auto lock = lockInstance(place.profile);
         ::umask(before);
         QVERIFY(lock);
-        struct stat info {};
+        struct stat info { };
         QCOMPARE(::stat(QFile::encodeName(place.home()).constData(), &info), 0);
         QCOMPARE(info.st_mode & 07777, mode_t(0700));
     }
@@ -55,7 +56,9 @@ private Q_SLOTS:
         QVERIFY(first);
         const auto second = lockInstance(place.profile);
         QVERIFY(!second);
-        QCOMPARE(second.error(), u"Veldmark is already running (process %1)."_s.arg(QCoreApplication::applicationPid()));
+        QCOMPARE(
+            second.error(),
+            u"Veldmark is already running (process %1)."_s.arg(QCoreApplication::applicationPid()));
         first->reset();
         QVERIFY(lockInstance(place.profile));
     }
@@ -70,7 +73,9 @@ private Q_SLOTS:
         QVERIFY(first);
         const auto second = lockInstance(place.profile);
         QVERIFY(!second);
-        QCOMPARE(second.error(), u"Veldmark is already running (process %1)."_s.arg(QCoreApplication::applicationPid()));
+        QCOMPARE(
+            second.error(),
+            u"Veldmark is already running (process %1)."_s.arg(QCoreApplication::applicationPid()));
         first->reset();
         QVERIFY(lockInstance(place.profile));
         QVERIFY(lockInstance(elsewhere)); // looking has left no lock behind
@@ -91,8 +96,10 @@ private Q_SLOTS:
         QVERIFY(place.make(static_cast<mode_t>(mode)));
         const auto lock = lockInstance(place.profile);
         QVERIFY(!lock);
-        QCOMPARE(lock.error(),
-                 u"%1 must be a folder of your own with mode 0700: the control socket goes there."_s.arg(place.home()));
+        QCOMPARE(
+            lock.error(),
+            u"%1 must be a folder of your own with mode 0700: the control socket goes there."_s.arg(
+                place.home()));
         QVERIFY(place.make(0700));
         QVERIFY(lockInstance(place.profile));
     }
@@ -135,8 +142,10 @@ private Q_SLOTS:
             QVERIFY(QFileInfo(path).size() > 0);
         } else {
             QFile file(path);
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush());
-            QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-60), QFile::FileModificationTime));
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size()
+                    && file.flush());
+            QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-60),
+                                     QFile::FileModificationTime));
         }
         const auto lock = lockInstance(place.profile);
         QVERIFY2(lock, lock ? "" : qPrintable(lock.error().english()));

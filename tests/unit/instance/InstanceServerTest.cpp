@@ -51,7 +51,8 @@ private Q_SLOTS:
         QFETCH(System, system);
         Instance instance(system);
         QVERIFY(instance.server);
-        struct stat folder {}, socket {};
+        struct stat folder {
+        }, socket{};
         const QString path = instance.bench.profile.controlSocket;
         QCOMPARE(::stat(QFile::encodeName(QFileInfo(path).path()).constData(), &folder), 0);
         QCOMPARE(folder.st_mode & 07777, mode_t(0700));
@@ -67,7 +68,8 @@ private Q_SLOTS:
         Instance instance;
         const auto second = InstanceServer::start(instance.bench.controller());
         QVERIFY(!second);
-        QVERIFY2(second.error().english().startsWith(u"Veldmark is already running"_s), qPrintable(second.error().english()));
+        QVERIFY2(second.error().english().startsWith(u"Veldmark is already running"_s),
+                 qPrintable(second.error().english()));
         Conversation status(instance.bench, "status"); // the first is not disturbed
         QVERIFY(status.succeeds());
         instance.server.reset();
@@ -107,7 +109,8 @@ private Q_SLOTS:
             char answer[64];
             ::signal(SIGPIPE, SIG_IGN);
             if (::setreuid(user, user) != 0
-                || ::connect(end, reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0)
+                || ::connect(end, reinterpret_cast<const sockaddr *>(&address), sizeof address)
+                    != 0)
                 ::_exit(100);
             // Whoever is refused may find the other end closed before the request is sent.
             if (::send(end, request, sizeof request - 1, 0) < 0)
@@ -170,19 +173,31 @@ private Q_SLOTS:
         QTest::newRow("array") << QByteArray("[\"connect\"]\n") << noObject;
         QTest::newRow("empty line") << QByteArray("\n") << noObject;
         QTest::newRow("no text") << QByteArray("\xff\x00\xfe\n", 4) << noObject;
-        QTest::newRow("HTTP") << QByteArray("POST / HTTP/1.1\r\nHost: x\r\n\r\n{\"command\":\"connect\"}\n") << noObject;
+        QTest::newRow("HTTP") << QByteArray(
+            "POST / HTTP/1.1\r\nHost: x\r\n\r\n{\"command\":\"connect\"}\n")
+                              << noObject;
         QTest::newRow("no command") << QByteArray("{}\n") << u"Unknown command \"\"."_s;
-        QTest::newRow("no text as command") << QByteArray("{\"command\":[\"connect\"]}\n") << u"Unknown command \"\"."_s;
-        QTest::newRow("other command") << QByteArray("{\"command\":\"fly\"}\n") << u"Unknown command \"fly\"."_s;
-        QTest::newRow("capitals") << QByteArray("{\"command\":\"Connect\"}\n") << u"Unknown command \"Connect\"."_s;
+        QTest::newRow("no text as command")
+            << QByteArray("{\"command\":[\"connect\"]}\n") << u"Unknown command \"\"."_s;
+        QTest::newRow("other command")
+            << QByteArray("{\"command\":\"fly\"}\n") << u"Unknown command \"fly\"."_s;
+        QTest::newRow("capitals") << QByteArray("{\"command\":\"Connect\"}\n")
+                                  << u"Unknown command \"Connect\"."_s;
         QTest::newRow("lines") << QByteArray("{\"command\":\"a\\nb\\r\\u0000c\"}\n") << QString();
         QTest::newRow("long") << "{\"command\":\"" + QByteArray(10000, 'x') + "\"}\n"
                               << u"Unknown command \"%1\"."_s.arg(QString(40, u'x'));
         QTest::newRow("set nothing") << QByteArray("{\"command\":\"set\"}\n") << notSet;
-        QTest::newRow("set without value") << QByteArray("{\"command\":\"set\",\"key\":\"customTorPath\"}\n") << notSet;
-        QTest::newRow("set a number") << QByteArray("{\"command\":\"set\",\"key\":\"customTorPath\",\"value\":5}\n") << notSet;
-        QTest::newRow("set null") << QByteArray("{\"command\":\"set\",\"key\":\"customTorPath\",\"value\":null}\n") << notSet;
-        QTest::newRow("set the phase") << QByteArray("{\"command\":\"set\",\"key\":\"phase\",\"value\":\"connected\"}\n") << QString();
+        QTest::newRow("set without value")
+            << QByteArray("{\"command\":\"set\",\"key\":\"customTorPath\"}\n") << notSet;
+        QTest::newRow("set a number")
+            << QByteArray("{\"command\":\"set\",\"key\":\"customTorPath\",\"value\":5}\n")
+            << notSet;
+        QTest::newRow("set null") << QByteArray(
+            "{\"command\":\"set\",\"key\":\"customTorPath\",\"value\":null}\n")
+                                  << notSet;
+        QTest::newRow("set the phase")
+            << QByteArray("{\"command\":\"set\",\"key\":\"phase\",\"value\":\"connected\"}\n")
+            << QString();
     }
 
     void badRequests()
@@ -214,7 +229,8 @@ private Q_SLOTS:
         const QByteArray chunk(256 * 1024, 'x');
         qint64 written = 0;
         QVERIFY(until([&] {
-            while (socket.state() == QLocalSocket::ConnectedState && socket.bytesToWrite() < chunk.size())
+            while (socket.state() == QLocalSocket::ConnectedState
+                   && socket.bytesToWrite() < chunk.size())
                 written += socket.write(chunk);
             return socket.state() == QLocalSocket::UnconnectedState;
         }));
@@ -277,7 +293,8 @@ private Q_SLOTS:
         QVERIFY(until([&] { return socket.bytesAvailable() > 0; }));
         constexpr int changes = 60;
         for (int i = 1; i <= changes; ++i) {
-            instance.bench.controller().customBridges.set(QString(100'000, u'x') + QString::number(i));
+            instance.bench.controller().customBridges.set(QString(100'000, u'x')
+                                                          + QString::number(i));
             settle();
         }
         QByteArray received;
@@ -338,7 +355,8 @@ private Q_SLOTS:
         Conversation watching(instance.bench, "watch");
         instance.bench.hold(u"connect"_s);
         Conversation connecting(instance.bench, "connect");
-        QVERIFY(until([&] { return instance.bench.processes.held() == 1 && !watching.states.empty(); }));
+        QVERIFY(until(
+            [&] { return instance.bench.processes.held() == 1 && !watching.states.empty(); }));
         instance.server.reset();
         const QString gone = u"Veldmark stopped before it had answered."_s;
         QCOMPARE(watching.error(), gone);
@@ -353,7 +371,9 @@ private Q_SLOTS:
     {
         Instance instance;
         QVERIFY(instance.bench.connect());
-        const auto questions = [&] { return instance.bench.tor.commands().count(u"GETINFO circuit-status"_s); };
+        const auto questions = [&] {
+            return instance.bench.tor.commands().count(u"GETINFO circuit-status"_s);
+        };
         instance.bench.tor.ignore("GETINFO circuit-status");
         const auto before = questions();
         Conversation closing(instance.bench, "close-circuit");

@@ -69,7 +69,8 @@ private Q_SLOTS:
         constexpr int count = 20000; // more than all the buffers on the way hold
         Pair pair;
         for (int n = 0; n < count; ++n)
-            pair.other.write("{\"n\":" + QByteArray::number(n) + ",\"text\":\"xxxxxxxxxxxxxxxxxxxx\"}\n");
+            pair.other.write("{\"n\":" + QByteArray::number(n)
+                             + ",\"text\":\"xxxxxxxxxxxxxxxxxxxx\"}\n");
         if (closes)
             pair.other.disconnectFromServer();
         settle();
@@ -90,7 +91,8 @@ private Q_SLOTS:
         QTest::newRow("two objects") << QByteArray("{}{}\n");
         QTest::newRow("bytes that are no text") << QByteArray("\xff\xfe\x00\x80\n", 5);
         QTest::newRow("deep nesting") << QByteArray(100000, '[') + '\n';
-        QTest::newRow("an endless line") << QByteArray(JsonLines::lineLimitBytes + 1024 * 1024, 'x');
+        QTest::newRow("an endless line")
+            << QByteArray(JsonLines::lineLimitBytes + 1024 * 1024, 'x');
     }
 
     void endsWith()

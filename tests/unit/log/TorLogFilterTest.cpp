@@ -8,7 +8,10 @@
 using namespace veldmark;
 
 namespace {
-QString text(const char *utf8) { return QString::fromUtf8(utf8); }
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
 
 TorLog::Snapshot snapshot(const QStringList &raws)
 {
@@ -18,8 +21,9 @@ TorLog::Snapshot snapshot(const QStringList &raws)
     return TorLog::Snapshot::of(lines);
 }
 
-const QStringList sample{text("Nov 16 00:41:07.123 [notice] Bootstrapped 5%"), text("Nov 16 00:41:08.123 [warn] Guard is down"),
-                         text("an error"), text("Straße")};
+const QStringList sample{text("Nov 16 00:41:07.123 [notice] Bootstrapped 5%"),
+                         text("Nov 16 00:41:08.123 [warn] Guard is down"), text("an error"),
+                         text("Straße")};
 
 QString shownIDs(const TorLogFilter &filter, const TorLog::Snapshot &log)
 {
@@ -79,19 +83,25 @@ private Q_SLOTS:
         const QString folder = text("/var/lib/%2/run");
         const auto words = [&](const TorLogFilter &filter, const TorLog::Snapshot &log) {
             const auto placeholder = filter.placeholder(log, filter.shown(log), folder);
-            return placeholder ? placeholder->title.english() + u'|' + placeholder->text.english() : QString();
+            return placeholder ? placeholder->title.english() + u'|' + placeholder->text.english()
+                               : QString();
         };
-        QCOMPARE(words({}, TorLog::Snapshot::unreadable()),
-                 text("Can't read Tor's log|The log files in /var/lib/%2/run aren't readable by your account. "
-                      "Reconnect once with this version of Veldmark to fix their permissions."));
-        QCOMPARE(words({true, text("x")}, TorLog::Snapshot()),
-                 text("No log yet|Connect, and Tor's messages appear here as it starts. If Tor fails to "
-                      "start, the reason shows up here."));
+        QCOMPARE(
+            words({}, TorLog::Snapshot::unreadable()),
+            text(
+                "Can't read Tor's log|The log files in /var/lib/%2/run aren't readable by your account. "
+                "Reconnect once with this version of Veldmark to fix their permissions."));
+        QCOMPARE(
+            words({true, text("x")}, TorLog::Snapshot()),
+            text("No log yet|Connect, and Tor's messages appear here as it starts. If Tor fails to "
+                 "start, the reason shows up here."));
         const TorLog::Snapshot calm = snapshot({text("all is well")});
         QCOMPARE(words({}, calm), QString());
         QCOMPARE(words({true, {}}, calm), text("No warnings or errors. Tor is happy.|"));
-        QCOMPARE(words({false, text(" x%1 ")}, calm), text("Nothing matches|No lines contain \u201cx%1\u201d"));
-        QCOMPARE(words({true, text("x")}, calm), text("Nothing matches|No lines contain \u201cx\u201d"));
+        QCOMPARE(words({false, text(" x%1 ")}, calm),
+                 text("Nothing matches|No lines contain \u201cx%1\u201d"));
+        QCOMPARE(words({true, text("x")}, calm),
+                 text("Nothing matches|No lines contain \u201cx\u201d"));
         QCOMPARE(words({true, text("  ")}, calm), text("No warnings or errors. Tor is happy.|"));
     }
 

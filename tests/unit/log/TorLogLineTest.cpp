@@ -10,7 +10,10 @@ using Level = TorLogLine::Level;
 
 namespace {
 
-QString text(const char *utf8) { return QString::fromUtf8(utf8); }
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
 
 // The same reading by way of the pattern itself.
 TorLogLine byPattern(const QString &line, int id)
@@ -21,15 +24,17 @@ TorLogLine byPattern(const QString &line, int id)
     if (match.hasMatch()) {
         const QString word = match.captured(2).toLower();
         const Level level = word == u"err" ? Level::error
-            : word == u"warn" ? Level::warning
-            : word == u"notice" ? Level::notice
-                                : Level::info;
+            : word == u"warn"              ? Level::warning
+            : word == u"notice"            ? Level::notice
+                                           : Level::info;
         return {id, match.captured(1), level, match.captured(3), line};
     }
     const QString lower = line.toLower();
     const bool isError = lower.contains(u"error") || lower.contains(u"failed")
         || lower.contains(u"could not") || lower.contains(u"last exit code = 1");
-    const Level level = isError ? Level::error : lower.contains(u"warn") ? Level::warning : Level::info;
+    const Level level = isError   ? Level::error
+        : lower.contains(u"warn") ? Level::warning
+                                  : Level::info;
     return {id, std::nullopt, level, line, line};
 }
 
@@ -45,13 +50,17 @@ private Q_SLOTS:
         QTest::addColumn<int>("level");
         QTest::addColumn<QString>("message");
         const auto row = [](const char *line, const char *time, Level level, const char *message) {
-            QTest::newRow(line) << text(line) << text(time) << static_cast<int>(level) << text(message);
+            QTest::newRow(line) << text(line) << text(time) << static_cast<int>(level)
+                                << text(message);
         };
-        row("Nov 16 00:41:07.123 [warn] Guard is down", "Nov 16 00:41:07.123", Level::warning, "Guard is down");
+        row("Nov 16 00:41:07.123 [warn] Guard is down", "Nov 16 00:41:07.123", Level::warning,
+            "Guard is down");
         row("Nov  6 09:01:02.000 [notice] Bootstrapped 100% (done): Done", "Nov  6 09:01:02.000",
             Level::notice, "Bootstrapped 100% (done): Done");
-        row("Nov 16 00:41:07 [err] Reading config failed", "Nov 16 00:41:07", Level::error, "Reading config failed");
-        row("Nov 16 00:41:07.123 [debug] error in a message", "Nov 16 00:41:07.123", Level::info, "error in a message");
+        row("Nov 16 00:41:07 [err] Reading config failed", "Nov 16 00:41:07", Level::error,
+            "Reading config failed");
+        row("Nov 16 00:41:07.123 [debug] error in a message", "Nov 16 00:41:07.123", Level::info,
+            "error in a message");
         row("Nov 16 00:41:07.123 [info] x", "Nov 16 00:41:07.123", Level::info, "x");
         row("Nov 16 00:41:07.123 [WARN] x", "Nov 16 00:41:07.123", Level::warning, "x");
         row("Nov 16 00:41:07.123 [a_1] ", "Nov 16 00:41:07.123", Level::info, "");
@@ -111,12 +120,23 @@ private Q_SLOTS:
     void readsExactlyWhatThePatternReads()
     {
         QRandomGenerator random(1607);
-        const QStringList pieces{text("Nov"), text("Jan"), text(" "), text("  "), text("6"), text("16"), text("123"),
-                                 text("00:41:07"), text("."), text(" ["), text("["), text("]"), text("] "),
-                                 text("warn"), text("notice"), text("ERR"), text("error"), text("fail"),
-                                 text("failed"), text("could"), text(" not"), text("last exit code = "), text("1"),
-                                 text("x"), text("A"), text("b"), text("_"), text("é"), text("Ü"), text("\t"),
-                                 text("😀"), text("W"), text("٣")};
+        const QStringList pieces{text("Nov"),    text("Jan"),
+                                 text(" "),      text("  "),
+                                 text("6"),      text("16"),
+                                 text("123"),    text("00:41:07"),
+                                 text("."),      text(" ["),
+                                 text("["),      text("]"),
+                                 text("] "),     text("warn"),
+                                 text("notice"), text("ERR"),
+                                 text("error"),  text("fail"),
+                                 text("failed"), text("could"),
+                                 text(" not"),   text("last exit code = "),
+                                 text("1"),      text("x"),
+                                 text("A"),      text("b"),
+                                 text("_"),      text("é"),
+                                 text("Ü"),      text("\t"),
+                                 text("😀"),      text("W"),
+                                 text("٣")};
         int matched = 0;
         for (int round = 0; round < 200000; ++round) {
             // Half of the lines start out right, so that the far end of the pattern is reached.

@@ -26,7 +26,8 @@ class TorLogStoreTest : public QObject {
     void write(const QByteArray &content)
     {
         QFile file(m_store->log().noticesPath());
-        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(content) != content.size())
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)
+            || file.write(content) != content.size())
             qFatal("cannot write");
     }
 
@@ -34,7 +35,9 @@ class TorLogStoreTest : public QObject {
     void setTime(time_t seconds)
     {
         const timespec times[2] = {{seconds, 0}, {seconds, 0}};
-        QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(m_store->log().noticesPath()).constData(), times, 0), 0);
+        QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(m_store->log().noticesPath()).constData(),
+                             times, 0),
+                 0);
     }
 
     QString only() const
@@ -127,10 +130,7 @@ private Q_SLOTS:
         QCOMPARE(only(), QStringLiteral("three"));
     }
 
-    void looksEverySecondByDefault()
-    {
-        QCOMPARE(TorLogStore::pollInterval, 1000ms);
-    }
+    void looksEverySecondByDefault() { QCOMPARE(TorLogStore::pollInterval, 1000ms); }
 };
 
 VELDMARK_TEST(TorLogStoreTest)

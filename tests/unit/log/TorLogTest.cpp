@@ -19,7 +19,10 @@ using namespace veldmark;
 using Kind = TorLog::Snapshot::Kind;
 
 namespace {
-QString text(const char *utf8) { return QString::fromUtf8(utf8); }
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
 
 QStringList raws(const TorLog::Snapshot &snapshot)
 {
@@ -39,7 +42,8 @@ class TorLogTest : public QObject {
     void write(const QString &path, const QByteArray &content)
     {
         QFile file(path);
-        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(content) != content.size())
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)
+            || file.write(content) != content.size())
             qFatal("cannot write %s", qPrintable(path));
     }
 
@@ -79,12 +83,15 @@ private Q_SLOTS:
     void mergesTheThreeFiles()
     {
         write(m_log->startupPath(), "only at start\n  shared  \nalso only at start\nshared two");
-        write(m_log->noticesPath(), "shared\nNov 16 00:41:07.123 [warn] Guard is down\r\n\n shared two\nshared\n");
+        write(m_log->noticesPath(),
+              "shared\nNov 16 00:41:07.123 [warn] Guard is down\r\n\n shared two\nshared\n");
         write(m_log->launcherPath(), "shared\nstarted\n");
         const TorLog::Snapshot snapshot = m_log->read();
-        QCOMPARE(raws(snapshot), (QStringList{text("only at start"), text("also only at start"), text("shared"),
-                                              text("Nov 16 00:41:07.123 [warn] Guard is down"), text("shared two"),
-                                              text("shared"), text("launcher: shared"), text("launcher: started")}));
+        QCOMPARE(
+            raws(snapshot),
+            (QStringList{text("only at start"), text("also only at start"), text("shared"),
+                         text("Nov 16 00:41:07.123 [warn] Guard is down"), text("shared two"),
+                         text("shared"), text("launcher: shared"), text("launcher: started")}));
         for (int i = 0; i < snapshot.lines().size(); ++i)
             QCOMPARE(snapshot.lines()[i].id, i);
         QCOMPARE(snapshot.lines()[3].time, text("Nov 16 00:41:07.123"));
@@ -110,7 +117,8 @@ private Q_SLOTS:
         QFETCH(int, notices);
         QFETCH(int, launcher);
         QStringList all;
-        const auto fill = [&](const QString &path, int count, const QString &name, const QString &prefix) {
+        const auto fill = [&](const QString &path, int count, const QString &name,
+                              const QString &prefix) {
             QByteArray content;
             for (int i = 0; i < count; ++i) {
                 const QString line = QStringLiteral("%1 %2").arg(name).arg(i);
@@ -206,7 +214,8 @@ private Q_SLOTS:
 
         QCOMPARE(::seteuid(0), 0);
         write(m_log->startupPath(), "open to all\n");
-        QVERIFY(QFile::setPermissions(m_log->startupPath(), QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
+        QVERIFY(QFile::setPermissions(m_log->startupPath(),
+                                      QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
         QCOMPARE(::seteuid(65534), 0);
         QCOMPARE(raws(m_log->read()), QStringList{text("open to all")});
 
@@ -219,7 +228,8 @@ private Q_SLOTS:
     void whatIsNoFileIsUnreadableAndNeverWaitedFor_data()
     {
         QTest::addColumn<QString>("kind");
-        for (const char *kind : {"folder", "pipe", "link to a pipe", "link to a folder", "endless device"})
+        for (const char *kind :
+             {"folder", "pipe", "link to a pipe", "link to a folder", "endless device"})
             QTest::newRow(kind) << text(kind);
     }
     void whatIsNoFileIsUnreadableAndNeverWaitedFor()
@@ -270,7 +280,9 @@ private Q_SLOTS:
         QCOMPARE(m_log->signature(), text("0:0.0|0:0.0|0:0.0"));
         write(m_log->noticesPath(), "12345");
         const timespec times[2] = {{0, 0}, {1700000000, 25}};
-        QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(m_log->noticesPath()).constData(), times, 0), 0);
+        QCOMPARE(
+            ::utimensat(AT_FDCWD, QFile::encodeName(m_log->noticesPath()).constData(), times, 0),
+            0);
         QCOMPARE(m_log->signature(), text("0:0.0|5:1700000000.000000025|0:0.0"));
     }
 
@@ -278,7 +290,8 @@ private Q_SLOTS:
     {
         QRandomGenerator random(99);
         for (int round = 0; round < 100; ++round) {
-            for (const QString &path : {m_log->startupPath(), m_log->noticesPath(), m_log->launcherPath()}) {
+            for (const QString &path :
+                 {m_log->startupPath(), m_log->noticesPath(), m_log->launcherPath()}) {
                 QByteArray bytes(random.bounded(5000), Qt::Uninitialized);
                 for (char &byte : bytes)
                     byte = static_cast<char>(random.bounded(256));

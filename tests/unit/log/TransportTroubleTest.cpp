@@ -9,12 +9,16 @@ using namespace veldmark;
 namespace {
 
 const QString pt = u"/var/lib/veldmark/programs/0a1b/lyrebird"_s;
-const QString ended = u"[warn] Managed proxy \"%1\" having PID 13 terminated with status code 1"_s.arg(pt);
+const QString ended
+    = u"[warn] Managed proxy \"%1\" having PID 13 terminated with status code 1"_s.arg(pt);
 const QString died = u"[warn] Managed proxy at '%1' died in state Launched"_s.arg(pt);
-const QString killedByTor = u"[warn] Managed proxy \"N/A\" having PID 40 terminated with status code 18446744073709551615"_s;
-const QString givenUp =
-    u"[warn] Managed proxy at '%1' failed the configuration protocol and will be destroyed."_s.arg(pt);
-const QString noTransport = u"[warn] Can't use bridge at [scrubbed]: there is no configured transport called \"obfs4\"."_s;
+const QString killedByTor
+    = u"[warn] Managed proxy \"N/A\" having PID 40 terminated with status code 18446744073709551615"_s;
+const QString givenUp
+    = u"[warn] Managed proxy at '%1' failed the configuration protocol and will be destroyed."_s
+          .arg(pt);
+const QString noTransport
+    = u"[warn] Can't use bridge at [scrubbed]: there is no configured transport called \"obfs4\"."_s;
 const QString garbage = u"[notice] Unknown line received by managed proxy (GARBAGE)."_s;
 const QString movesOn = u"[notice] Bootstrapped 10% (conn_done): Connected to a relay"_s;
 
@@ -22,7 +26,8 @@ std::optional<Text> trouble(const QStringList &messages)
 {
     QList<TorLogLine> lines;
     for (const QString &message : messages)
-        lines.append(TorLogLine::parse(u"Nov 21 00:55:29.000 "_s + message, static_cast<int>(lines.size())));
+        lines.append(
+            TorLogLine::parse(u"Nov 21 00:55:29.000 "_s + message, static_cast<int>(lines.size())));
     return transportTrouble(lines);
 }
 
@@ -36,10 +41,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<QStringList>("log");
         QTest::addColumn<QString>("sentence");
-        QTest::newRow("ended once") << QStringList{ended, died}
-                                    << u"The bridge program lyrebird ended unexpectedly (exit status 1)."_s;
-        QTest::newRow("again and again") << QStringList{ended, died, ended, ended}
-                                         << u"The bridge program lyrebird keeps ending (exit status 1)."_s;
+        QTest::newRow("ended once")
+            << QStringList{ended, died}
+            << u"The bridge program lyrebird ended unexpectedly (exit status 1)."_s;
+        QTest::newRow("again and again")
+            << QStringList{ended, died, ended, ended}
+            << u"The bridge program lyrebird keeps ending (exit status 1)."_s;
         QTest::newRow("killed by a signal")
             << QStringList{QString(ended).replace(u"code 1"_s, u"code 18446744073709551615"_s)}
             << u"The bridge program lyrebird ended unexpectedly."_s;
@@ -63,14 +70,16 @@ private Q_SLOTS:
             << u"Tor has trouble with the bridge program: Client managed proxy encountered a method error. "
                "(obfs4 no luck today)."_s;
         QTest::newRow("another protocol")
-            << QStringList{u"[warn] Managed proxy could not pick a configuration protocol version."_s, givenUp,
-                           killedByTor, noTransport}
+            << QStringList{u"[warn] Managed proxy could not pick a configuration protocol version."_s,
+                           givenUp, killedByTor, noTransport}
             << u"Tor has trouble with the bridge program: Managed proxy could not pick a configuration protocol version."_s;
-        QTest::newRow("ended by Tor") << QStringList{givenUp, killedByTor}
-                                      << u"Tor has trouble with the bridge program: Managed proxy at '%1' failed the "
-                                         "configuration protocol and will be destroyed."_s.arg(pt);
-        QTest::newRow("after Tor had got on") << QStringList{ended, movesOn, ended}
-                                              << u"The bridge program lyrebird ended unexpectedly (exit status 1)."_s;
+        QTest::newRow("ended by Tor")
+            << QStringList{givenUp, killedByTor}
+            << u"Tor has trouble with the bridge program: Managed proxy at '%1' failed the "
+               "configuration protocol and will be destroyed."_s.arg(pt);
+        QTest::newRow("after Tor had got on")
+            << QStringList{ended, movesOn, ended}
+            << u"The bridge program lyrebird ended unexpectedly (exit status 1)."_s;
     }
 
     void tellsWhatIsWrong()
@@ -85,8 +94,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<QStringList>("log");
         QTest::newRow("no line") << QStringList();
-        QTest::newRow("ordinary lines") << QStringList{u"[notice] Delaying directory fetches: No running bridges"_s,
-                                                       u"[warn] Your Guard is failing."_s};
+        QTest::newRow("ordinary lines")
+            << QStringList{u"[notice] Delaying directory fetches: No running bridges"_s,
+                           u"[warn] Your Guard is failing."_s};
         QTest::newRow("Tor has got on since") << QStringList{ended, ended, movesOn};
         QTest::newRow("a program's own notice")
             << QStringList{u"[notice] Managed proxy \"%1\": offer created"_s.arg(pt)};
@@ -102,8 +112,12 @@ private Q_SLOTS:
 
     void aProgramsWordsStayOneShortLine()
     {
-        const QString words = QString::fromUtf8("\x1b[31mred\tand\xE2\x80\xA8") + QString(4000, u'x');
-        const QString sentence = trouble({u"[notice] Unknown line received by managed proxy (%1)."_s.arg(words)}).value_or(Text()).english();
+        const QString words = QString::fromUtf8("\x1b[31mred\tand\xE2\x80\xA8")
+            + QString(4000, u'x');
+        const QString sentence
+            = trouble({u"[notice] Unknown line received by managed proxy (%1)."_s.arg(words)})
+                  .value_or(Text())
+                  .english();
         QVERIFY(sentence.contains(u"\"?[31mred?and?xxx"_s));
         QVERIFY2(sentence.size() < 220, qPrintable(sentence));
         for (const QChar c : sentence)

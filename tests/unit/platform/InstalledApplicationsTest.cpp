@@ -13,7 +13,8 @@ using namespace veldmark;
 
 namespace {
 
-QTemporaryDir *folder = nullptr; // outlives every look: the desktop's folders are read from the environment once
+// outlives every look: the desktop's folders are read from the environment once
+QTemporaryDir *folder = nullptr;
 
 QString write(const QString &name, const QByteArray &content)
 {
@@ -40,25 +41,30 @@ public:
         folder = new QTemporaryDir;
         qputenv("XDG_DATA_HOME", QFile::encodeName(folder->filePath(u"home"_s)));
         qputenv("XDG_DATA_DIRS",
-                QFile::encodeName(folder->filePath(u"local"_s)) + ':' + QFile::encodeName(folder->filePath(u"system"_s)));
+                QFile::encodeName(folder->filePath(u"local"_s)) + ':'
+                    + QFile::encodeName(folder->filePath(u"system"_s)));
         qputenv("XDG_CURRENT_DESKTOP", "Sample");
         qputenv("LANGUAGE", "de");
         write(u"system/applications/zebra.desktop"_s, entry("zebra"));
-        write(u"system/applications/alpha.desktop"_s, entry("Calculator", "Name[de]=Alpha\nIcon=calc\n"));
-        write(u"system/applications/sub/Beta.desktop"_s, entry("beta", "Icon=/opt/beta.png\nTerminal=true\n"));
+        write(u"system/applications/alpha.desktop"_s,
+              entry("Calculator", "Name[de]=Alpha\nIcon=calc\n"));
+        write(u"system/applications/sub/Beta.desktop"_s,
+              entry("beta", "Icon=/opt/beta.png\nTerminal=true\n"));
         write(u"system/applications/shadowed.desktop"_s, entry("The system's"));
         write(u"local/applications/shadowed.desktop"_s, entry("The administrator's"));
         write(u"home/applications/shadowed.desktop"_s, entry("The user's"));
         write(u"system/applications/taken-away.desktop"_s, entry("Taken away"));
         write(u"home/applications/taken-away.desktop"_s, entry("Taken away", "Hidden=true\n"));
         write(u"system/applications/invisible.desktop"_s, entry("Invisible", "NoDisplay=true\n"));
-        write(u"system/applications/elsewhere.desktop"_s, entry("Elsewhere", "OnlyShowIn=Other;\n"));
+        write(u"system/applications/elsewhere.desktop"_s,
+              entry("Elsewhere", "OnlyShowIn=Other;\n"));
         write(u"system/applications/here.desktop"_s, entry("Here", "OnlyShowIn=Other;Sample;\n"));
         write(u"system/applications/not-here.desktop"_s, entry("Not here", "NotShowIn=Sample;\n"));
         write(u"system/applications/gone.desktop"_s, entry("Gone", "TryExec=/nowhere/program\n"));
         write(u"system/applications/no-program.desktop"_s,
               "[Desktop Entry]\nType=Application\nName=No program\nExec=/nowhere/program\n");
-        write(u"system/applications/link.desktop"_s, "[Desktop Entry]\nType=Link\nName=Link\nURL=https://example.org\n");
+        write(u"system/applications/link.desktop"_s,
+              "[Desktop Entry]\nType=Link\nName=Link\nURL=https://example.org\n");
         write(u"system/applications/broken.desktop"_s, "\xff\xfe[Desktop");
         write(u"system/applications/notes.txt"_s, entry("No entry"));
     }
@@ -72,10 +78,14 @@ private Q_SLOTS:
             names << application.name;
             paths << QDir(folder->path()).relativeFilePath(application.path);
         }
-        QCOMPARE(names, QStringList({u"Alpha"_s, u"beta"_s, u"Here"_s, u"The user's"_s, u"zebra"_s}));
-        QCOMPARE(paths, QStringList({u"system/applications/alpha.desktop"_s, u"system/applications/sub/Beta.desktop"_s,
-                                     u"system/applications/here.desktop"_s, u"home/applications/shadowed.desktop"_s,
-                                     u"system/applications/zebra.desktop"_s}));
+        QCOMPARE(names,
+                 QStringList({u"Alpha"_s, u"beta"_s, u"Here"_s, u"The user's"_s, u"zebra"_s}));
+        QCOMPARE(paths,
+                 QStringList({u"system/applications/alpha.desktop"_s,
+                              u"system/applications/sub/Beta.desktop"_s,
+                              u"system/applications/here.desktop"_s,
+                              u"home/applications/shadowed.desktop"_s,
+                              u"system/applications/zebra.desktop"_s}));
     }
 
     void knowsTheirIcons()

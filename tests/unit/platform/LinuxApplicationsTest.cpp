@@ -23,9 +23,11 @@ namespace {
 // A process that runs until it is ended; at the latest when this goes.
 class Running {
 public:
-    Running(const QString &program, const QStringList &arguments, const QProcessEnvironment &environment = {})
+    Running(const QString &program, const QStringList &arguments,
+            const QProcessEnvironment &environment = {})
     {
-        m_process.setProcessEnvironment(environment.isEmpty() ? QProcessEnvironment::systemEnvironment() : environment);
+        m_process.setProcessEnvironment(
+            environment.isEmpty() ? QProcessEnvironment::systemEnvironment() : environment);
         m_process.start(program, arguments);
         if (!m_process.waitForStarted())
             qFatal("%s: %s", qPrintable(program), qPrintable(m_process.errorString()));
@@ -53,7 +55,8 @@ private:
 
 } // namespace
 
-// Real entries, real processes; only control groups, which an ordinary user cannot make, are written by hand.
+// Real entries, real processes; only control groups, which an ordinary user cannot make, are
+// written by hand.
 class LinuxApplicationsTest : public QObject {
     Q_OBJECT
 
@@ -76,14 +79,16 @@ class LinuxApplicationsTest : public QObject {
     QString entry(const QString &name, const QString &command, const QByteArray &more = {}) const
     {
         return write(name + u".desktop"_s,
-                     "[Desktop Entry]\nType=Application\nName=Sample\nExec=" + command.toUtf8() + '\n' + more);
+                     "[Desktop Entry]\nType=Application\nName=Sample\nExec=" + command.toUtf8()
+                         + '\n' + more);
     }
 
     // A program that is nobody else's: a copy of the shell.
     QString ownShell() const
     {
         const QString copy = path(u"sample-program"_s);
-        if (!QFileInfo::exists(copy) && !QFile::copy(QFileInfo(u"/bin/sh"_s).canonicalFilePath(), copy))
+        if (!QFileInfo::exists(copy)
+            && !QFile::copy(QFileInfo(u"/bin/sh"_s).canonicalFilePath(), copy))
             qFatal("cannot copy the shell");
         return QFileInfo(copy).canonicalFilePath();
     }
@@ -118,8 +123,9 @@ private Q_SLOTS:
     void namesAreInTheUsersLanguage()
     {
         QFETCH(QByteArray, language);
-        const QString file = entry(u"calculator"_s, u"/bin/true"_s,
-                                   "Name[de]=Rechner\nName[pt]=Calculadora\nName[pt_BR]=Calculadora brasileira\n");
+        const QString file = entry(
+            u"calculator"_s, u"/bin/true"_s,
+            "Name[de]=Rechner\nName[pt]=Calculadora\nName[pt_BR]=Calculadora brasileira\n");
         QFile content(file);
         QVERIFY(content.open(QIODevice::ReadWrite));
         const QByteArray text = content.readAll().replace("Name=Sample", "Name=Calculator");
@@ -131,7 +137,8 @@ private Q_SLOTS:
 
     void theFullNameIsPreferred()
     {
-        QCOMPARE(m_applications->displayName(entry(u"a"_s, u"/bin/true"_s, "X-GNOME-FullName=Sample of Samples\n")),
+        QCOMPARE(m_applications->displayName(
+                     entry(u"a"_s, u"/bin/true"_s, "X-GNOME-FullName=Sample of Samples\n")),
                  u"Sample of Samples"_s);
     }
 
@@ -140,8 +147,10 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("content");
         QTest::newRow("nothing") << QByteArray();
         QTest::newRow("no entry") << QByteArray("hello\n");
-        QTest::newRow("no program") << QByteArray("[Desktop Entry]\nType=Application\nName=Other\nExec=/nowhere/program\n");
-        QTest::newRow("a link") << QByteArray("[Desktop Entry]\nType=Link\nName=Other\nURL=https://example.org\n");
+        QTest::newRow("no program")
+            << QByteArray("[Desktop Entry]\nType=Application\nName=Other\nExec=/nowhere/program\n");
+        QTest::newRow("a link") << QByteArray(
+            "[Desktop Entry]\nType=Link\nName=Other\nURL=https://example.org\n");
     }
 
     void whatIsNoEntryIsNamedAfterItsFile()
@@ -152,7 +161,8 @@ private Q_SLOTS:
 
     void aFileThatIsGoneIsNamedAfterItself()
     {
-        QCOMPARE(m_applications->displayName(u"/nowhere/org.example.App.desktop"_s), u"org.example.App"_s);
+        QCOMPARE(m_applications->displayName(u"/nowhere/org.example.App.desktop"_s),
+                 u"org.example.App"_s);
         QCOMPARE(m_applications->displayName(u"/usr/bin/program"_s), u"program"_s);
         QCOMPARE(m_applications->displayName(QString()), QString());
     }
@@ -189,9 +199,11 @@ private Q_SLOTS:
         const QString file = entry(u"sample"_s, u"/opt/wrapper start"_s);
         QProcessEnvironment marked = QProcessEnvironment::systemEnvironment();
         marked.insert(u"GIO_LAUNCHED_DESKTOP_FILE"_s, file);
-        const QString program = write(u"wrapper"_s, "#!/bin/sh\n"
-                                                    "GIO_LAUNCHED_DESKTOP_FILE_PID=$$ exec /bin/sh -c "
-                                                    "'/bin/sh -c \"echo \\$\\$; read answer\"; :'\n", true);
+        const QString program = write(u"wrapper"_s,
+                                      "#!/bin/sh\n"
+                                      "GIO_LAUNCHED_DESKTOP_FILE_PID=$$ exec /bin/sh -c "
+                                      "'/bin/sh -c \"echo \\$\\$; read answer\"; :'\n",
+                                      true);
         Running copy(program, {}, marked);
         const qint64 child = copy.line().toLongLong(); // it has inherited both marks
         QVERIFY(child > 1 && child != copy.id());
@@ -204,11 +216,14 @@ private Q_SLOTS:
     void aCopyThatGIOHasLaunchedIsFound()
     {
         const QString pidFile = path(u"pid"_s);
-        const QString program = write(u"program"_s, "#!/bin/sh\necho $$ >'" + pidFile.toUtf8() + ".new'\nmv '"
-                                                        + pidFile.toUtf8() + ".new' '" + pidFile.toUtf8()
-                                                        + "'\nexec sleep 600\n", true);
+        const QString program = write(u"program"_s,
+                                      "#!/bin/sh\necho $$ >'" + pidFile.toUtf8() + ".new'\nmv '"
+                                          + pidFile.toUtf8() + ".new' '" + pidFile.toUtf8()
+                                          + "'\nexec sleep 600\n",
+                                      true);
         const QString file = entry(u"sample"_s, program + u" start"_s);
-        GDesktopAppInfo *const info = g_desktop_app_info_new_from_filename(QFile::encodeName(file).constData());
+        GDesktopAppInfo *const info = g_desktop_app_info_new_from_filename(
+            QFile::encodeName(file).constData());
         QVERIFY(info);
         QVERIFY(g_app_info_launch(G_APP_INFO(info), nullptr, nullptr, nullptr));
         g_object_unref(info);
@@ -231,13 +246,22 @@ private Q_SLOTS:
         const QByteArray slice = "0::/user.slice/user-1000.slice/user@1000.service/app.slice/";
         QTest::newRow("gnome") << slice + "app-gnome-org.example.My\\x2dApp-4711.scope\n" << true;
         QTest::newRow("kde") << slice + "app-org.example.My\\x2dApp@0a1b2c.service\n" << true;
-        QTest::newRow("autostarted") << slice + "app-org.example.My\\x2dApp@autostart.service\n" << true;
+        QTest::newRow("autostarted") << slice + "app-org.example.My\\x2dApp@autostart.service\n"
+                                     << true;
         QTest::newRow("without a number") << slice + "app-org.example.My\\x2dApp.service\n" << true;
-        QTest::newRow("among others") << "1:name=systemd:/\n" + slice + "app-gnome-org.example.My\\x2dApp-1.scope\n" << true;
-        QTest::newRow("a longer name") << slice + "app-org.example.My\\x2dAppendix@1.service\n" << false;
-        QTest::newRow("the end of another name") << slice + "app-my.org.example.My\\x2dApp@1.service\n" << false;
-        QTest::newRow("not escaped") << slice + "app-gnome-org.example.My-App-4711.scope\n" << false;
-        QTest::newRow("a group below") << slice + "app-gnome-org.example.My\\x2dApp-4711.scope/tab-1\n" << false;
+        QTest::newRow("among others")
+            << "1:name=systemd:/\n" + slice + "app-gnome-org.example.My\\x2dApp-1.scope\n"
+            << true;
+        QTest::newRow("a longer name") << slice + "app-org.example.My\\x2dAppendix@1.service\n"
+                                       << false;
+        QTest::newRow("the end of another name")
+            << slice + "app-my.org.example.My\\x2dApp@1.service\n"
+            << false;
+        QTest::newRow("not escaped") << slice + "app-gnome-org.example.My-App-4711.scope\n"
+                                     << false;
+        QTest::newRow("a group below")
+            << slice + "app-gnome-org.example.My\\x2dApp-4711.scope/tab-1\n"
+            << false;
         QTest::newRow("dots are dots") << slice + "app-orgXexample.My\\x2dApp@1.service\n" << false;
         QTest::newRow("another service") << slice + "dbus.service\n" << false;
         QTest::newRow("nothing") << QByteArray() << false;
@@ -250,7 +274,8 @@ private Q_SLOTS:
         write(u"proc/4711/cgroup"_s, groups);
         write(u"proc/self/cgroup"_s, groups); // is no process of its own
         m_applications = runningApplications(path(u"proc"_s));
-        const auto copies = m_applications->copiesOf(u"/usr/share/applications/org.example.My-App.desktop"_s);
+        const auto copies = m_applications->copiesOf(
+            u"/usr/share/applications/org.example.My-App.desktop"_s);
         QCOMPARE(copies, found ? std::vector<qint64>{4711} : std::vector<qint64>());
     }
 
@@ -268,10 +293,12 @@ private Q_SLOTS:
         QFETCH(qsizetype, before);
         QFETCH(bool, found);
         const QString file = entry(u"sample"_s, u"/opt/wrapper start"_s);
-        write(u"proc/4711/environ"_s, "A=" + QByteArray(before, 'x') + '\0' + "GIO_LAUNCHED_DESKTOP_FILE=" + QFile::encodeName(file) + '\0'
-                                          + "GIO_LAUNCHED_DESKTOP_FILE_PID=4711" + '\0');
+        write(u"proc/4711/environ"_s,
+              "A=" + QByteArray(before, 'x') + '\0' + "GIO_LAUNCHED_DESKTOP_FILE="
+                  + QFile::encodeName(file) + '\0' + "GIO_LAUNCHED_DESKTOP_FILE_PID=4711" + '\0');
         m_applications = runningApplications(path(u"proc"_s));
-        QCOMPARE(m_applications->copiesOf(file), found ? std::vector<qint64>{4711} : std::vector<qint64>());
+        QCOMPARE(m_applications->copiesOf(file),
+                 found ? std::vector<qint64>{4711} : std::vector<qint64>());
     }
 
     void thisProgramIsNotItsOwnCopy()
@@ -294,7 +321,9 @@ private Q_SLOTS:
         const QStringList script = {u"-c"_s, u"echo ready; read answer"_s};
         Running mine(shell, script);
         Running theirs(u"/usr/bin/setpriv"_s,
-                       QStringList{u"--reuid"_s, u"65534"_s, u"--regid"_s, u"65534"_s, u"--clear-groups"_s, shell} + script);
+                       QStringList{u"--reuid"_s, u"65534"_s, u"--regid"_s, u"65534"_s,
+                                   u"--clear-groups"_s, shell}
+                           + script);
         QCOMPARE(mine.line(), QByteArray("ready"));
         QCOMPARE(theirs.line(), QByteArray("ready"));
         QVERIFY(isFound(file, mine.id()));
@@ -303,15 +332,21 @@ private Q_SLOTS:
 
     void quittingIsAskedForAndMayBeDeclined()
     {
-        Running polite(ownShell(), {u"-c"_s, u"trap 'echo asked; exit 0' TERM; echo ready; while :; do sleep 0.01; done"_s});
-        Running stubborn(ownShell(), {u"-c"_s, u"trap 'echo asked' TERM; echo ready; while :; do sleep 0.01; done"_s});
+        Running polite(
+            ownShell(),
+            {u"-c"_s,
+             u"trap 'echo asked; exit 0' TERM; echo ready; while :; do sleep 0.01; done"_s});
+        Running stubborn(
+            ownShell(),
+            {u"-c"_s, u"trap 'echo asked' TERM; echo ready; while :; do sleep 0.01; done"_s});
         QCOMPARE(polite.line(), QByteArray("ready"));
         QCOMPARE(stubborn.line(), QByteArray("ready"));
         QVERIFY(!m_applications->hasEnded(polite.id()) && !m_applications->hasEnded(stubborn.id()));
         m_applications->askToQuit(polite.id());
         m_applications->askToQuit(stubborn.id());
         const qint64 process = polite.id();
-        // Without the event loop nobody waits for the child: ended, it is still in the process table.
+        // Without the event loop nobody waits for the child: ended, it is still in the process
+        // table.
         for (int round = 0; round < 1000 && !m_applications->hasEnded(process); ++round)
             ::usleep(10'000);
         QVERIFY(m_applications->hasEnded(process));
@@ -339,7 +374,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("command");
         QTest::addColumn<QString>("program");
         QTest::newRow("python") << u"python3"_s << u"/usr/bin/python3"_s;
-        QTest::newRow("python, with a place for files") << u"/usr/bin/python3 %F"_s << u"/usr/bin/python3"_s;
+        QTest::newRow("python, with a place for files")
+            << u"/usr/bin/python3 %F"_s << u"/usr/bin/python3"_s;
         QTest::newRow("shell") << u"bash"_s << u"/bin/bash"_s;
         QTest::newRow("perl") << u"perl"_s << u"/usr/bin/perl"_s;
     }
@@ -360,7 +396,8 @@ private Q_SLOTS:
         QProcessEnvironment marked = QProcessEnvironment::systemEnvironment();
         marked.insert(u"GIO_LAUNCHED_DESKTOP_FILE"_s, file);
         const QString launch = u"GIO_LAUNCHED_DESKTOP_FILE_PID=$$ exec %1 \"$@\""_s.arg(program);
-        Running copy(u"/bin/sh"_s, QStringList{u"-c"_s, launch, u"sh"_s} + waiting.value(program), marked);
+        Running copy(u"/bin/sh"_s, QStringList{u"-c"_s, launch, u"sh"_s} + waiting.value(program),
+                     marked);
         QCOMPARE(copy.line(), QByteArray("ready"));
         QVERIFY(isFound(file, copy.id()));
     }

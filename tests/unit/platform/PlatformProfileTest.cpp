@@ -21,7 +21,10 @@ void write(const QString &path, const QByteArray &content)
     file.write(content);
 }
 
-Places home() { return Places::below(QStringLiteral("/nowhere")); }
+Places home()
+{
+    return Places::below(QStringLiteral("/nowhere"));
+}
 
 // All that a profile says, a line for each thing.
 QString table(const PlatformProfile &p)
@@ -56,18 +59,26 @@ QString table(const PlatformProfile &p)
         {"gnupgCandidates", list(p.gnupgCandidates)},
         {"sudo", p.sudo},
         {"unzip", p.unzip},
-        {"prompt", list({p.promptKind == PromptKind::PolicyKit ? QStringLiteral("PolicyKit") : QStringLiteral("AppleScript"),
-                         p.promptProgram})},
+        {"prompt",
+         list({p.promptKind == PromptKind::PolicyKit ? QStringLiteral("PolicyKit")
+                                                     : QStringLiteral("AppleScript"),
+               p.promptProgram})},
         {"promptText", p.promptText.english()},
         {"torBrowserRoots", list(browsers)},
         {"bundle", list({p.bundleDirectory, p.bundleArchivePrefix})},
         {"applicationSuffix", p.applicationSuffix},
         {"settingsFile", p.settingsFile},
         {"autostartFile", p.autostartFile},
-        {"shellFiles", list(p.shellFilesAlways) + QStringLiteral("; where it exists ") + list(p.shellFilesIfPresent)},
-        {"terminal", list({p.terminalDirectory, p.terminalMaker}) + QStringLiteral(", gives back proxies %1").arg(p.givesBackProxies)},
+        {"shellFiles",
+         list(p.shellFilesAlways) + QStringLiteral("; where it exists ")
+             + list(p.shellFilesIfPresent)},
+        {"terminal",
+         list({p.terminalDirectory, p.terminalMaker})
+             + QStringLiteral(", gives back proxies %1").arg(p.givesBackProxies)},
         {"sshDirectory", p.sshDirectory},
-        {"netcat", p.netcat + QStringLiteral("; ") + list(p.netcatCandidates) + QStringLiteral("; ") + p.ncat},
+        {"netcat",
+         p.netcat + QStringLiteral("; ") + list(p.netcatCandidates) + QStringLiteral("; ")
+             + p.ncat},
         {"resolverFile", p.resolverFile},
         {"quitCanBeRefused", QString::number(p.quitCanBeRefused)},
         {"scutil", p.scutil},
@@ -91,10 +102,14 @@ private Q_SLOTS:
         const QString other = QStringLiteral("your package manager");
         QTest::newRow("debian") << "NAME=\"Debian GNU/Linux\"\nID=debian\n" << apt;
         QTest::newRow("mint") << "ID=linuxmint\nID_LIKE=\"ubuntu debian\"\n" << apt;
-        QTest::newRow("fedora") << "ID=fedora\n" << "sudo dnf install tor";
-        QTest::newRow("rocky") << "ID=\"rocky\"\nID_LIKE=\"rhel centos fedora\"" << "sudo dnf install tor";
-        QTest::newRow("manjaro") << "ID=manjaro\nID_LIKE=arch\n" << "sudo pacman -S tor";
-        QTest::newRow("tumbleweed") << "ID='opensuse-tumbleweed'\nID_LIKE='opensuse suse'" << "sudo zypper install tor";
+        QTest::newRow("fedora") << "ID=fedora\n"
+                                << "sudo dnf install tor";
+        QTest::newRow("rocky") << "ID=\"rocky\"\nID_LIKE=\"rhel centos fedora\""
+                               << "sudo dnf install tor";
+        QTest::newRow("manjaro") << "ID=manjaro\nID_LIKE=arch\n"
+                                 << "sudo pacman -S tor";
+        QTest::newRow("tumbleweed") << "ID='opensuse-tumbleweed'\nID_LIKE='opensuse suse'"
+                                    << "sudo zypper install tor";
         QTest::newRow("unknown") << "ID=plan9\n" << other;
         QTest::newRow("similar key") << "VERSION_ID=debian\nBUG_ID=debian\n" << other;
         QTest::newRow("empty") << "" << other;
@@ -111,16 +126,27 @@ private Q_SLOTS:
     void everySystemPathLiesBelowTheRoot()
     {
         const Places places = Places::below(QStringLiteral("/tmp/elsewhere"));
-        for (const PlatformProfile &p : {PlatformProfile::linux(places), PlatformProfile::macos(places)}) {
-            QStringList paths = {p.sessionMarker, p.installedHelper, p.sudoersRule, p.runDirectory,
-                                 p.sudo, p.unzip, p.promptProgram, p.bundleDirectory,
-                                 p.terminalDirectory, p.sshDirectory, p.resolverFile, p.controlSocket};
+        for (const PlatformProfile &p :
+             {PlatformProfile::linux(places), PlatformProfile::macos(places)}) {
+            QStringList paths = {p.sessionMarker,
+                                 p.installedHelper,
+                                 p.sudoersRule,
+                                 p.runDirectory,
+                                 p.sudo,
+                                 p.unzip,
+                                 p.promptProgram,
+                                 p.bundleDirectory,
+                                 p.terminalDirectory,
+                                 p.sshDirectory,
+                                 p.resolverFile,
+                                 p.controlSocket};
             paths += p.torCandidates + p.transportDirectories + p.gnupgCandidates
                 + p.shellFilesAlways + p.shellFilesIfPresent + p.helperCandidates;
             for (const ProgramRoot &root : p.torBrowserRoots)
                 paths += root.path;
             for (const QString &path : paths)
-                QVERIFY2(path.startsWith(QLatin1String("/tmp/elsewhere/")), qPrintable(p.name + path));
+                QVERIFY2(path.startsWith(QLatin1String("/tmp/elsewhere/")),
+                         qPrintable(p.name + path));
         }
     }
 
@@ -214,8 +240,10 @@ controlSocket: ~/Library/Application Support/Veldmark/run/control
         Places places = Places::below(QStringLiteral("/nowhere"));
         for (const char *machine : {"x86_64", "aarch64"}) {
             places.machine = QLatin1String(machine);
-            for (const PlatformProfile &profile : {PlatformProfile::linux(places), PlatformProfile::macos(places)})
-                QVERIFY2(profile.bundleArchivePrefix.endsWith(u'-' + places.machine + u'-'), qPrintable(profile.bundleArchivePrefix));
+            for (const PlatformProfile &profile :
+                 {PlatformProfile::linux(places), PlatformProfile::macos(places)})
+                QVERIFY2(profile.bundleArchivePrefix.endsWith(u'-' + places.machine + u'-'),
+                         qPrintable(profile.bundleArchivePrefix));
         }
     }
 
@@ -225,7 +253,8 @@ controlSocket: ~/Library/Application Support/Veldmark/run/control
         utsname system{};
         QCOMPARE(::uname(&system), 0);
         const QString machine = QString::fromLatin1(system.machine);
-        QCOMPARE(Places::fromEnvironment().machine, machine == QLatin1String("arm64") ? QStringLiteral("aarch64") : machine);
+        QCOMPARE(Places::fromEnvironment().machine,
+                 machine == QLatin1String("arm64") ? QStringLiteral("aarch64") : machine);
     }
 
     void aRelativeFolderOfTheEnvironmentIsIgnored()
@@ -233,7 +262,8 @@ controlSocket: ~/Library/Application Support/Veldmark/run/control
         for (const char *variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
             qputenv(variable, "/absolute");
         Places places = Places::fromEnvironment();
-        QCOMPARE(places.configHome + places.dataHome + places.runtimeDirectory, QStringLiteral("/absolute/absolute/absolute"));
+        QCOMPARE(places.configHome + places.dataHome + places.runtimeDirectory,
+                 QStringLiteral("/absolute/absolute/absolute"));
         for (const char *variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
             qputenv(variable, "relative");
         places = Places::fromEnvironment();
@@ -253,9 +283,11 @@ controlSocket: ~/Library/Application Support/Veldmark/run/control
         const QString missing = own.filePath(QStringLiteral("missing"));
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(missing));
         QCOMPARE(Places::fromEnvironment().runtimeDirectory, missing);
-        // Without the variable, and where su has left another user's, logind's is taken if it is there.
+        // Without the variable, and where su has left another user's, logind's is taken if it is
+        // there.
         const QFileInfo logind(QStringLiteral("/run/user/%1").arg(geteuid()));
-        const QString usual = logind.isDir() && logind.ownerId() == geteuid() ? logind.filePath() : QString();
+        const QString usual = logind.isDir() && logind.ownerId() == geteuid() ? logind.filePath()
+                                                                              : QString();
         for (const char *given : {"", "relative"}) {
             qputenv("XDG_RUNTIME_DIR", given);
             QCOMPARE(Places::fromEnvironment().runtimeDirectory, usual);
@@ -284,9 +316,15 @@ controlSocket: ~/Library/Application Support/Veldmark/run/control
     void theMacIsNamedAsSuch()
     {
         const auto mac = PlatformProfile::macos(Places{});
-        QCOMPARE(mac.sessionMarker, QStringLiteral("/Library/Application Support/Veldmark/state/active"));
-        QCOMPARE(mac.torMissingText, QStringLiteral("Tor isn't installed. Install it with Homebrew (brew install tor) or set its location in Settings."));
-        QCOMPARE(mac.promptText, QStringLiteral("Veldmark needs administrator access to manage Tor routing on this Mac."));
+        QCOMPARE(mac.sessionMarker,
+                 QStringLiteral("/Library/Application Support/Veldmark/state/active"));
+        QCOMPARE(
+            mac.torMissingText,
+            QStringLiteral(
+                "Tor isn't installed. Install it with Homebrew (brew install tor) or set its location in Settings."));
+        QCOMPARE(mac.promptText,
+                 QStringLiteral(
+                     "Veldmark needs administrator access to manage Tor routing on this Mac."));
         QCOMPARE(mac.torCandidates.first(), QStringLiteral("/opt/homebrew/bin/tor"));
     }
 
@@ -295,14 +333,18 @@ controlSocket: ~/Library/Application Support/Veldmark/run/control
         QTemporaryDir folder;
         write(folder.filePath(QStringLiteral("etc/os-release")), "ID=debian\n");
         const auto profile = PlatformProfile::linux(Places::below(folder.path()));
-        QCOMPARE(profile.torMissingText, QStringLiteral("Tor isn't installed. Install it with your package manager (sudo apt install tor tor-geoipdb) or set its location in Settings."));
+        QCOMPARE(
+            profile.torMissingText,
+            QStringLiteral(
+                "Tor isn't installed. Install it with your package manager (sudo apt install tor tor-geoipdb) or set its location in Settings."));
     }
 
     void theHelperBesideTheProgramWins()
     {
         QTemporaryDir folder;
         const QString beside = folder.filePath(QStringLiteral("app/veldmark-helper.sh"));
-        const QString installed = folder.filePath(QStringLiteral("usr/share/veldmark/veldmark-helper.sh"));
+        const QString installed = folder.filePath(
+            QStringLiteral("usr/share/veldmark/veldmark-helper.sh"));
         const auto profile = PlatformProfile::linux(Places::below(folder.path()));
         QCOMPARE(profile.bundledHelper(), QString());
         write(installed, "#");
@@ -317,9 +359,11 @@ controlSocket: ~/Library/Application Support/Veldmark/run/control
         const auto profile = PlatformProfile::linux(Places::below(folder.path()));
         QCOMPARE(profile.transportRoots().size(), 1u);
         QDir().mkpath(folder.filePath(QStringLiteral("opt/tor-browser")));
-        QCOMPARE(profile.transportRoots().front().path, folder.filePath(QStringLiteral("opt/tor-browser")));
+        QCOMPARE(profile.transportRoots().front().path,
+                 folder.filePath(QStringLiteral("opt/tor-browser")));
         QDir().mkpath(folder.filePath(QStringLiteral("home/user/tor-browser")));
-        QCOMPARE(profile.transportRoots().front().path, folder.filePath(QStringLiteral("home/user/tor-browser")));
+        QCOMPARE(profile.transportRoots().front().path,
+                 folder.filePath(QStringLiteral("home/user/tor-browser")));
         QCOMPARE(profile.transportRoots().back().path, profile.bundleDirectory);
     }
 
@@ -327,9 +371,11 @@ controlSocket: ~/Library/Application Support/Veldmark/run/control
     {
         QTemporaryDir folder;
         const Places places = Places::below(folder.path());
-        QVERIFY(!PlatformProfile::linux(places).shellFilesAlways.contains(places.home + QStringLiteral("/.zshrc")));
+        QVERIFY(!PlatformProfile::linux(places).shellFilesAlways.contains(
+            places.home + QStringLiteral("/.zshrc")));
         write(folder.filePath(QStringLiteral("usr/bin/zsh")), "");
-        QVERIFY(PlatformProfile::linux(places).shellFilesAlways.contains(places.home + QStringLiteral("/.zshrc")));
+        QVERIFY(PlatformProfile::linux(places).shellFilesAlways.contains(
+            places.home + QStringLiteral("/.zshrc")));
     }
 
     void onlyWholePathsOfTheEnvironmentCount_data()

@@ -21,8 +21,10 @@ const QString sh = QStringLiteral("/bin/sh");
 QCoro::Task<Result<ProcessResult, StartError>> start(ProcessRunner &runner, const char *script,
                                                      QStringList arguments = {})
 {
-    return runner.run(sh, QStringList{QStringLiteral("-c"), QString::fromUtf8(script),
-                                      QStringLiteral("sh")} + arguments);
+    return runner.run(
+        sh,
+        QStringList{QStringLiteral("-c"), QString::fromUtf8(script), QStringLiteral("sh")}
+            + arguments);
 }
 
 // The result of a script that starts; fails the test by throwing when it does not.
@@ -108,9 +110,12 @@ private Q_SLOTS:
 
     void argumentsArriveUnchanged()
     {
-        const QStringList hostile = {QString::fromUtf8(""), QStringLiteral("a b"),
-                                     QStringLiteral("'\"\\$HOME`id`"), QStringLiteral("*\n\t;&|"),
-                                     QString::fromUtf8("Grüße 漢字"), QStringLiteral("--flag")};
+        const QStringList hostile = {QString::fromUtf8(""),
+                                     QStringLiteral("a b"),
+                                     QStringLiteral("'\"\\$HOME`id`"),
+                                     QStringLiteral("*\n\t;&|"),
+                                     QString::fromUtf8("Grüße 漢字"),
+                                     QStringLiteral("--flag")};
         const ProcessResult result = resultOf("for a; do printf '%s|' \"$a\"; done", hostile);
         QCOMPARE(result.stdout, hostile.join(u'|') + u'|');
     }
@@ -118,8 +123,8 @@ private Q_SLOTS:
     void invalidUtf8IsRepaired()
     {
         const ProcessResult result = resultOf("printf 'a\\377b'; printf '\\303' >&2");
-        QCOMPARE(result.stdout, QStringLiteral("a") + QChar(QChar::ReplacementCharacter)
-                     + QStringLiteral("b"));
+        QCOMPARE(result.stdout,
+                 QStringLiteral("a") + QChar(QChar::ReplacementCharacter) + QStringLiteral("b"));
         QCOMPARE(result.stderr, QString(QChar(QChar::ReplacementCharacter)));
     }
 
@@ -140,21 +145,23 @@ private Q_SLOTS:
         qputenv("VELDMARK_TEST", "from outside");
         const ProcessResult result = resultOf("printf '%s|' \"$VELDMARK_TEST\"; pwd -P");
         qunsetenv("VELDMARK_TEST");
-        QCOMPARE(result.stdout, QStringLiteral("from outside|%1\n").arg(QDir::current().canonicalPath()));
+        QCOMPARE(result.stdout,
+                 QStringLiteral("from outside|%1\n").arg(QDir::current().canonicalPath()));
     }
 
     void standardInputIsThisProcesssOwn()
     {
-        struct stat own {};
+        struct stat own { };
         QCOMPARE(::fstat(0, &own), 0);
-        const ProcessResult result = resultOf("stat -L -c %i /dev/stdin || stat -L -f %i /dev/stdin");
+        const ProcessResult result = resultOf(
+            "stat -L -c %i /dev/stdin || stat -L -f %i /dev/stdin");
         QCOMPARE(result.stdout.trimmed(), QString::number(own.st_ino));
     }
 
     void aProcessLeftBehindWithThePipesDoesNotProlongTheRun()
     {
-        const ProcessResult result =
-            resultOf("sleep 600 & head -c 60000 /dev/zero | tr '\\0' x; echo; echo $!");
+        const ProcessResult result = resultOf(
+            "sleep 600 & head -c 60000 /dev/zero | tr '\\0' x; echo; echo $!");
         const QStringList lines = result.stdout.split(u'\n');
         QCOMPARE(lines.size(), 3);
         QCOMPARE(lines.at(0).size(), 60'000);
@@ -198,9 +205,12 @@ private Q_SLOTS:
         QTemporaryDir folder;
         ChildProcessRunner runner;
         StopSource stop;
-        auto task = runner.runUntil(QStringLiteral("/bin/sh"),
-                                    {QStringLiteral("-c"), QStringLiteral("cd \"$1\"; sleep 600 & echo $! >new; mv new child; wait"),
-                                     QStringLiteral("sh"), folder.path()}, stop.get_token());
+        auto task = runner.runUntil(
+            QStringLiteral("/bin/sh"),
+            {QStringLiteral("-c"),
+             QStringLiteral("cd \"$1\"; sleep 600 & echo $! >new; mv new child; wait"),
+             QStringLiteral("sh"), folder.path()},
+            stop.get_token());
         const QString file = folder.filePath(QStringLiteral("child"));
         QTRY_VERIFY(QFile::exists(file));
         QFile content(file);
@@ -219,7 +229,8 @@ private Q_SLOTS:
         ChildProcessRunner runner;
         StopSource stop;
         stop.request_stop();
-        auto task = runner.runUntil(QStringLiteral("/bin/sleep"), {QStringLiteral("600")}, stop.get_token());
+        auto task = runner.runUntil(QStringLiteral("/bin/sleep"), {QStringLiteral("600")},
+                                    stop.get_token());
         QTRY_VERIFY(task.isReady());
         QCOMPARE(QCoro::waitFor(std::move(task))->status, SIGKILL);
     }
@@ -228,7 +239,8 @@ private Q_SLOTS:
     {
         ChildProcessRunner runner;
         StopSource stop;
-        auto task = runner.runUntil(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), QStringLiteral("echo out; exit 3")},
+        auto task = runner.runUntil(QStringLiteral("/bin/sh"),
+                                    {QStringLiteral("-c"), QStringLiteral("echo out; exit 3")},
                                     stop.get_token());
         QTRY_VERIFY(task.isReady());
         stop.request_stop();
@@ -243,11 +255,14 @@ private Q_SLOTS:
         const StopSource stop;
         auto task = runner.runUntil(QStringLiteral("/nowhere/program"), {}, stop.get_token());
         QTRY_VERIFY(task.isReady());
-        QCOMPARE(QCoro::waitFor(std::move(task)).error().description(), QStringLiteral("No such file or directory"));
-        auto session = runner.runUntil(QStringLiteral("/bin/sh"),
-                                       {QStringLiteral("-c"), QStringLiteral("ps -o sid= -p $$; echo $$")}, stop.get_token());
+        QCOMPARE(QCoro::waitFor(std::move(task)).error().description(),
+                 QStringLiteral("No such file or directory"));
+        auto session = runner.runUntil(
+            QStringLiteral("/bin/sh"),
+            {QStringLiteral("-c"), QStringLiteral("ps -o sid= -p $$; echo $$")}, stop.get_token());
         QTRY_VERIFY(session.isReady());
-        const QStringList lines = QCoro::waitFor(std::move(session))->stdout.simplified().split(u' ');
+        const QStringList lines
+            = QCoro::waitFor(std::move(session))->stdout.simplified().split(u' ');
         QCOMPARE(lines.value(0), lines.value(1)); // it leads a session of its own
     }
 
@@ -256,13 +271,16 @@ private Q_SLOTS:
         QTemporaryDir folder;
         ChildProcessRunner runner;
         {
-            auto dropped = start(runner, "echo $$ >\"$1/new\"; mv \"$1/new\" \"$1/finished\"", {folder.path()});
+            auto dropped = start(runner, "echo $$ >\"$1/new\"; mv \"$1/new\" \"$1/finished\"",
+                                 {folder.path()});
         }
         QFile finished(folder.filePath(QStringLiteral("finished")));
         QTRY_VERIFY(finished.exists());
-        // Until the child has been waited for, and what was made for it has gone: nothing else ends this program's loop.
+        // Until the child has been waited for, and what was made for it has gone: nothing else ends
+        // this program's loop.
         QVERIFY(finished.open(QIODevice::ReadOnly));
-        const QString child = QStringLiteral("/proc/") + QString::fromLatin1(finished.readAll().trimmed());
+        const QString child = QStringLiteral("/proc/")
+            + QString::fromLatin1(finished.readAll().trimmed());
         QTRY_VERIFY(!QFile::exists(child));
         QTest::qWait(0);
     }

@@ -11,9 +11,12 @@ inline PrivilegedRunner::Outcome run(PrivilegedRunner &runner, QStringList argum
 }
 
 inline const QStringList verb = {QStringLiteral("disconnect")};
-inline const QStringList hostileArguments = {
-    QStringLiteral("connect"), QStringLiteral("--tor"), QStringLiteral("/Users/o'neill/\"x\"\\tor"),
-    QString::fromUtf8(""), QStringLiteral("a b\nc"), QStringLiteral("$HOME `id` \\\\ \\\" '' !"),
-    QString::fromUtf8("Brücke")};
+inline const QStringList hostileArguments = {QStringLiteral("connect"),
+                                             QStringLiteral("--tor"),
+                                             QStringLiteral("/Users/o'neill/\"x\"\\tor"),
+                                             QString::fromUtf8(""),
+                                             QStringLiteral("a b\nc"),
+                                             QStringLiteral("$HOME `id` \\\\ \\\" '' !"),
+                                             QString::fromUtf8("Brücke")};
 
 } // namespace veldmark

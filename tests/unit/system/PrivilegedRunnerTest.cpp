@@ -21,7 +21,9 @@ public:
         const ProcessResult result = co_await wait;
         co_return result;
     }
-    QCoro::Task<Result<ProcessResult, StartError>> runWithInput(QString executable, QStringList arguments, QByteArray) override
+    QCoro::Task<Result<ProcessResult, StartError>> runWithInput(QString executable,
+                                                                QStringList arguments,
+                                                                QByteArray) override
     {
         return run(executable, arguments);
     }
@@ -107,7 +109,8 @@ private Q_SLOTS:
         PrivilegedRunner runner = system.runner();
         QCOMPARE(run(runner, hostileArguments).value(), QStringLiteral("done\n"));
         QCOMPARE(system.argumentsOf(system.profile.sudo).value(),
-                 QStringList({QStringLiteral("-n"), system.profile.installedHelper}) + hostileArguments);
+                 QStringList({QStringLiteral("-n"), system.profile.installedHelper})
+                     + hostileArguments);
     }
 
     void aSudoThatWantsAPasswordFallsBackToTheDialog_data()
@@ -137,7 +140,8 @@ private Q_SLOTS:
         PrivilegedRunner runner = system.runner();
         QCOMPARE(run(runner, verb).value(), QStringLiteral("prompted\n"));
         QVERIFY(system.argumentsOf(system.profile.sudo));
-        QCOMPARE(system.argumentsOf(system.profile.promptProgram)->last().contains(verb.first()), true);
+        QCOMPARE(system.argumentsOf(system.profile.promptProgram)->last().contains(verb.first()),
+                 true);
     }
 
     void anyOtherFailureOfSudoIsTheHelpersMessage_data()
@@ -147,25 +151,26 @@ private Q_SLOTS:
         QTest::newRow("on standard error")
             << QByteArray("echo out; echo 'ERROR: nftables is missing' >&2; exit 1")
             << QStringLiteral("nftables is missing");
-        QTest::newRow("on standard output") << QByteArray("echo 'ERROR: only here'; exit 2")
-                                            << QStringLiteral("only here");
+        QTest::newRow("on standard output")
+            << QByteArray("echo 'ERROR: only here'; exit 2") << QStringLiteral("only here");
         QTest::newRow("silent") << QByteArray("exit 1")
                                 << QStringLiteral("The helper failed without an error message.");
-        QTest::newRow("after warnings of sudo")
-            << QByteArray("echo 'sudo: unable to resolve host here: Name or service not known' >&2; "
-                          "echo 'sudo: a plug-in is broken' >&2; echo 'ERROR: nftables is missing' >&2; exit 1")
-            << QStringLiteral("nftables is missing");
-        QTest::newRow("after a warning of the shell")
-            << QByteArray("echo 'bash: warning: setlocale: cannot change locale' >&2; echo 'ERROR: no tor' >&2; exit 1")
-            << QStringLiteral("no tor");
-        QTest::newRow("the shell's own, after a warning of sudo")
-            << QByteArray("echo 'sudo: unable to resolve host here' >&2; echo 'helper: line 7: nope' >&2; exit 1")
-            << QStringLiteral("helper: line 7: nope");
-        QTest::newRow("speaks of a password")
-            << QByteArray("echo 'sudo: unable to resolve host here' >&2; echo 'ERROR: No password hash.' >&2; exit 1")
-            << QStringLiteral("No password hash.");
-        QTest::newRow("capitals of the terminal") << QByteArray("echo 'no A TERMINAL' >&2; exit 1")
-                                                  << QStringLiteral("no A TERMINAL");
+        QTest::newRow("after warnings of sudo") << QByteArray(
+            "echo 'sudo: unable to resolve host here: Name or service not known' >&2; "
+            "echo 'sudo: a plug-in is broken' >&2; echo 'ERROR: nftables is missing' >&2; exit 1")
+                                                << QStringLiteral("nftables is missing");
+        QTest::newRow("after a warning of the shell") << QByteArray(
+            "echo 'bash: warning: setlocale: cannot change locale' >&2; echo 'ERROR: no tor' >&2; exit 1")
+                                                      << QStringLiteral("no tor");
+        QTest::newRow("the shell's own, after a warning of sudo") << QByteArray(
+            "echo 'sudo: unable to resolve host here' >&2; echo 'helper: line 7: nope' >&2; exit 1")
+                                                                  << QStringLiteral(
+                                                                         "helper: line 7: nope");
+        QTest::newRow("speaks of a password") << QByteArray(
+            "echo 'sudo: unable to resolve host here' >&2; echo 'ERROR: No password hash.' >&2; exit 1")
+                                              << QStringLiteral("No password hash.");
+        QTest::newRow("capitals of the terminal")
+            << QByteArray("echo 'no A TERMINAL' >&2; exit 1") << QStringLiteral("no A TERMINAL");
     }
 
     void anyOtherFailureOfSudoIsTheHelpersMessage()
@@ -187,33 +192,39 @@ private Q_SLOTS:
     // Bridges, exit and hash are nobody else's to read; what the dialog is to show stays on it.
     void optionsOfAConnectStandOnNoCommandLine()
     {
-        const QStringList words = {QStringLiteral("connect"), QStringLiteral("--hash"), QStringLiteral("16:AB"),
-                                   QStringLiteral("--exit"), QString::fromUtf8("é")};
+        const QStringList words = {QStringLiteral("connect"), QStringLiteral("--hash"),
+                                   QStringLiteral("16:AB"), QStringLiteral("--exit"),
+                                   QString::fromUtf8("é")};
         const QString input = QString::fromUtf8("--hash\n16:AB\n--exit\né\nend\n");
         StandIns system(true);
         system.dialog("cat");
         system.helper("cat");
         PrivilegedRunner runner = system.runner();
         QCOMPARE(run(runner, words).value(), input);
-        QCOMPARE(system.argumentsOf(system.profile.promptProgram).value(),
-                 QStringList({system.helperPath(), QStringLiteral("connect"), QStringLiteral("-")}));
+        QCOMPARE(
+            system.argumentsOf(system.profile.promptProgram).value(),
+            QStringList({system.helperPath(), QStringLiteral("connect"), QStringLiteral("-")}));
         PrivilegedRunner root = system.runner(0);
         QCOMPARE(run(root, words).value(), input);
-        QCOMPARE(system.argumentsOf(system.helperPath()).value(), QStringList({QStringLiteral("connect"), QStringLiteral("-")}));
+        QCOMPARE(system.argumentsOf(system.helperPath()).value(),
+                 QStringList({QStringLiteral("connect"), QStringLiteral("-")}));
 
         QFile helper(system.helperPath());
         QVERIFY(helper.open(QIODevice::ReadOnly));
         system.installPasswordless(helper.readAll());
         system.sudo("cat");
         QCOMPARE(run(runner, words).value(), input);
-        QCOMPARE(system.argumentsOf(system.profile.sudo)->mid(2), QStringList({QStringLiteral("connect"), QStringLiteral("-")}));
+        QCOMPARE(system.argumentsOf(system.profile.sudo)->mid(2),
+                 QStringList({QStringLiteral("connect"), QStringLiteral("-")}));
         system.installPasswordless("a copy of another version");
         QVERIFY(run(runner, words));
         QCOMPARE(system.argumentsOf(system.profile.sudo)->mid(2), words);
 
-        const QStringList launch = {QStringLiteral("launch"), QStringLiteral("--app"), QStringLiteral("/x")};
+        const QStringList launch = {QStringLiteral("launch"), QStringLiteral("--app"),
+                                    QStringLiteral("/x")};
         QVERIFY(QCoro::waitFor(runner.runWithPrompt(launch)));
-        QCOMPARE(system.argumentsOf(system.profile.promptProgram).value(), QStringList(system.helperPath()) + launch);
+        QCOMPARE(system.argumentsOf(system.profile.promptProgram).value(),
+                 QStringList(system.helperPath()) + launch);
     }
 
     void whatTheRuleDoesNotCoverIsAskedFor_data()
@@ -235,7 +246,8 @@ private Q_SLOTS:
         system.dialog("echo prompted");
         PrivilegedRunner runner = system.runner();
         QCOMPARE(run(runner, {asked}).value(), QStringLiteral("prompted\n"));
-        QCOMPARE(system.argumentsOf(system.profile.promptProgram).value(), QStringList({system.helperPath(), verb}));
+        QCOMPARE(system.argumentsOf(system.profile.promptProgram).value(),
+                 QStringList({system.helperPath(), verb}));
     }
 
     // The dialog of connect has not said that a session would be lessened.
@@ -243,12 +255,14 @@ private Q_SLOTS:
     {
         StandIns system(true);
         system.helper("exit 0");
-        system.dialog("[ \"$2\" = replace ] && echo done && exit 0; echo 'ERROR: An administrator password is needed.' >&2; exit 3");
+        system.dialog(
+            "[ \"$2\" = replace ] && echo done && exit 0; echo 'ERROR: An administrator password is needed.' >&2; exit 3");
         PrivilegedRunner runner = system.runner();
         QCOMPARE(run(runner, {QStringLiteral("connect")}).value(), QStringLiteral("done\n"));
         const Outcome refused = run(runner, {QStringLiteral("fix-dns")});
         QCOMPARE(refused.error().kind(), Kind::Unapproved);
-        QCOMPARE(refused.error().description(), QStringLiteral("An administrator password is needed."));
+        QCOMPARE(refused.error().description(),
+                 QStringLiteral("An administrator password is needed."));
     }
 
     // It says of which program an approval is missing, and the next dialog is to name that.
@@ -260,7 +274,8 @@ private Q_SLOTS:
         system.sudo("echo 'ERROR: An administrator password is needed to approve /b.' >&2; exit 3");
         system.dialog("echo prompted");
         PrivilegedRunner runner = system.runner();
-        const QStringList words = {QStringLiteral("connect"), QStringLiteral("--bundle"), QStringLiteral("/b")};
+        const QStringList words = {QStringLiteral("connect"), QStringLiteral("--bundle"),
+                                   QStringLiteral("/b")};
         const Outcome refused = run(runner, words);
         QVERIFY(!refused);
         QCOMPARE(refused.error().kind(), Kind::Unapproved);

@@ -21,12 +21,15 @@ private Q_SLOTS:
         const QString path = folder.filePath(u"home/user/obfs"_s);
         write(path, "abc");
         QVERIFY(QFile::link(path, folder.filePath(u"link"_s)));
-        const QStringList words = {u"connect"_s, u"--tor"_s, u"/nonexistent"_s, u"--pt-lyrebird"_s, folder.filePath(u"link"_s)};
+        const QStringList words = {u"connect"_s, u"--tor"_s, u"/nonexistent"_s, u"--pt-lyrebird"_s,
+                                   folder.filePath(u"link"_s)};
         const auto missing = ProgramApproval::missing(profile, words);
         QCOMPARE(missing.size(), std::size_t(1));
-        const QString digest = u"ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad"_s;
-        QCOMPARE(missing.front().words(), QStringList({u"approve"_s, u"--program"_s, QFileInfo(path).canonicalFilePath(),
-                                                       u"--as"_s, u"lyrebird"_s, u"--sha256"_s, digest}));
+        const QString digest
+            = u"ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad"_s;
+        QCOMPARE(missing.front().words(),
+                 QStringList({u"approve"_s, u"--program"_s, QFileInfo(path).canonicalFilePath(),
+                              u"--as"_s, u"lyrebird"_s, u"--sha256"_s, digest}));
         write(profile.approvedPrograms + u'/' + digest + u"/tor"_s, "abc"); // in another role
         QCOMPARE(ProgramApproval::missing(profile, words).size(), std::size_t(1));
         write(profile.approvedPrograms + u'/' + digest + u"/lyrebird"_s, "abc");

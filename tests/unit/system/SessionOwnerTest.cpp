@@ -15,7 +15,10 @@ private:
     struct Place {
         QTemporaryDir folder;
         PlatformProfile profile = PlatformProfile::linux(Places::below(folder.path()));
-        std::optional<SessionOwner> owner() const { return SessionOwner::ofAnotherProcess(profile); }
+        std::optional<SessionOwner> owner() const
+        {
+            return SessionOwner::ofAnotherProcess(profile);
+        }
     };
 
 private Q_SLOTS:
@@ -58,8 +61,9 @@ private Q_SLOTS:
         OtherSession other(place.profile);
         const QByteArray start = OtherSession::startOf(other.process());
         const QByteArray boot = OtherSession::bootID();
-        for (const auto &[wrongStart, wrongBoot] : {std::pair(start + '1', boot), std::pair(QByteArray(), boot),
-                                                    std::pair(start, QByteArray("other")), std::pair(start, QByteArray())}) {
+        for (const auto &[wrongStart, wrongBoot] :
+             {std::pair(start + '1', boot), std::pair(QByteArray(), boot),
+              std::pair(start, QByteArray("other")), std::pair(start, QByteArray())}) {
             other.note(other.process(), wrongStart, wrongBoot);
             QVERIFY(!place.owner());
         }
@@ -73,8 +77,10 @@ private Q_SLOTS:
         QTest::newRow("empty") << QByteArray();
         QTest::newRow("the user alone") << QByteArray("uid 0\nend\n");
         QTest::newRow("no numbers") << QByteArray("uid x\npid y\nstart 1\nboot z\nend\n");
-        QTest::newRow("every process") << "uid 0\npid -1\nstart 1\nboot " + OtherSession::bootID() + "\nend\n";
-        QTest::newRow("this group") << "uid 0\npid 0\nstart 1\nboot " + OtherSession::bootID() + "\nend\n";
+        QTest::newRow("every process")
+            << "uid 0\npid -1\nstart 1\nboot " + OtherSession::bootID() + "\nend\n";
+        QTest::newRow("this group")
+            << "uid 0\npid 0\nstart 1\nboot " + OtherSession::bootID() + "\nend\n";
         QTest::newRow("no text") << QByteArray("\0\xff\0", 3);
         QTest::newRow("endless") << QByteArray(1024 * 1024, 'u');
     }
@@ -94,9 +100,11 @@ private Q_SLOTS:
     {
         Place place;
         OtherSession other(place.profile);
-        QVERIFY(QFile::rename(place.profile.sessionMarker, place.profile.sessionMarker + u"-away"_s));
+        QVERIFY(
+            QFile::rename(place.profile.sessionMarker, place.profile.sessionMarker + u"-away"_s));
         QVERIFY(!place.owner());
-        QVERIFY(QFile::rename(place.profile.sessionMarker + u"-away"_s, place.profile.sessionMarker));
+        QVERIFY(
+            QFile::rename(place.profile.sessionMarker + u"-away"_s, place.profile.sessionMarker));
         QVERIFY(place.owner());
         QVERIFY(QFile::remove(place.profile.sessionOwner));
         QVERIFY(!place.owner());

@@ -35,12 +35,21 @@ private Q_SLOTS:
         row("escaped quote", "a=\"x\\\"y\"\n", true);
         row("quote within a comment", "a=1 ; it's \" open\n", true);
         row("empty value", "a=\n", true);
-        row("umlauts", "a=Gr\xc3\xbc\xc3\x9f" "e\n", true);
+        row("umlauts",
+            "a=Gr\xc3\xbc\xc3\x9f"
+            "e\n",
+            true);
         row("control character", "a=x\x01\n", false);
         row("nul", QByteArray("a=1\n\0b=2\n", 9), false);
         row("all nuls", QByteArray(4096, '\0'), false);
-        row("latin-1", "a=Gr\xfc\xdf" "e\n", false);
-        row("binary", "\x7f" "ELF\x02\x01", false);
+        row("latin-1",
+            "a=Gr\xfc\xdf"
+            "e\n",
+            false);
+        row("binary",
+            "\x7f"
+            "ELF\x02\x01",
+            false);
         row("no equals sign", "[General]\nstrictM", false);
         row("no key", "=true\n", false);
         row("open section", "[General\na=1\n", false);
@@ -95,10 +104,12 @@ private Q_SLOTS:
         file.close();
         // The second time QSettings has what it read the first time.
         for (int time = 0; time < 2; ++time)
-            QCOMPARE(settingsFileState(file.fileName()), intact ? SettingsFileState::Intact : SettingsFileState::Damaged);
+            QCOMPARE(settingsFileState(file.fileName()),
+                     intact ? SettingsFileState::Intact : SettingsFileState::Damaged);
     }
 
-    // As where somebody has started the program without its standard input: the new file is descriptor 0.
+    // As where somebody has started the program without its standard input: the new file is
+    // descriptor 0.
     void isWrittenWithoutAStandardInput()
     {
         QTemporaryDir folder;
@@ -148,7 +159,7 @@ private Q_SLOTS:
         QFile first(path + QStringLiteral(".broken"));
         QVERIFY(first.open(QIODevice::ReadOnly));
         QCOMPARE(first.readAll(), QByteArray(".broken")); // later ones did not replace it
-        QVERIFY(!setSettingsFileAside(path)); // nothing there
+        QVERIFY(!setSettingsFileAside(path));             // nothing there
     }
 };
 

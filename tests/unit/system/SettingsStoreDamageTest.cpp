@@ -1,5 +1,5 @@
-#include "unit/system/TemporaryHome.h"
 #include "support/TestProgram.h"
+#include "unit/system/TemporaryHome.h"
 
 #include <QTest>
 
@@ -25,7 +25,11 @@ private Q_SLOTS:
         home.write(content);
         SettingsStore store(home.profile);
         QCOMPARE(store.boolean(strict), false);
-        QCOMPARE(store.problem().value(), QStringLiteral("The settings file couldn't be read. It was kept as %1, and a new one is used.").arg(home.broken()));
+        QCOMPARE(
+            store.problem().value(),
+            QStringLiteral(
+                "The settings file couldn't be read. It was kept as %1, and a new one is used.")
+                .arg(home.broken()));
         QVERIFY(!store.problem()); // once
         QCOMPARE(Home::read(home.broken()), content);
         store.setBoolean(strict, true);
@@ -95,7 +99,7 @@ private Q_SLOTS:
             QVERIFY(store.problem());
             store.setBoolean(strict, true);
             QCOMPARE(store.boolean(strict), true); // in memory
-            QVERIFY(!store.problem()); // said already
+            QVERIFY(!store.problem());             // said already
             QCOMPARE(::chmod(qPrintable(home.folder()), 0700), 0);
             store.setString(key, QStringLiteral("x"));
         }
@@ -123,7 +127,10 @@ private Q_SLOTS:
         SettingsStore store(home.profile);
         QVERIFY(!store.problem()); // nothing was lost yet
         store.setBoolean(strict, true);
-        QCOMPARE(store.problem().value(), QStringLiteral("The settings couldn't be saved. Changes to them may last only until you quit."));
+        QCOMPARE(
+            store.problem().value(),
+            QStringLiteral(
+                "The settings couldn't be saved. Changes to them may last only until you quit."));
         store.setString(key, QStringLiteral("x"));
         QVERIFY(!store.problem());
         QCOMPARE(store.boolean(strict), true);

@@ -1,5 +1,5 @@
-#include "unit/system/TemporaryHome.h"
 #include "support/TestProgram.h"
+#include "unit/system/TemporaryHome.h"
 
 #include <QTest>
 
@@ -65,13 +65,15 @@ private Q_SLOTS:
         row("section", "[General]");
         row("unicode", "Grüße 漢字 🧅");
         row("boolean text", "true");
-        row("bridge", "obfs4 192.0.2.1:443 0123456789ABCDEF0123456789ABCDEF01234567 cert=a+b/c= iat-mode=0");
+        row("bridge",
+            "obfs4 192.0.2.1:443 0123456789ABCDEF0123456789ABCDEF01234567 cert=a+b/c= iat-mode=0");
     }
     void anyTextSurvivesARoundTrip()
     {
         QFETCH(QString, text);
         const QString other = QStringLiteral("other");
-        const QStringList one = {text}, two = {text, QStringLiteral("x")}, three = {text, text, text};
+        const QStringList one = {text}, two = {text, QStringLiteral("x")},
+                          three = {text, text, text};
         for (const QStringList &list : {one, two, three}) {
             Home home;
             {
@@ -113,7 +115,8 @@ private Q_SLOTS:
     void aValueOfTheWrongTypeIsTheDefaultAndStays()
     {
         Home home;
-        home.write("[General]\nstrictMode=banana\naKey=a, b\nlist=@Variant(\\0\\0\\0\\x2\\0\\0\\0\\x5)\nmixed=one, @Size(1 2)\n");
+        home.write(
+            "[General]\nstrictMode=banana\naKey=a, b\nlist=@Variant(\\0\\0\\0\\x2\\0\\0\\0\\x5)\nmixed=one, @Size(1 2)\n");
         SettingsStore store(home.profile);
         store.registerDefaults({{strict, true}, {key, QStringLiteral("one")}});
         QCOMPARE(store.boolean(strict), true);
@@ -150,7 +153,8 @@ private Q_SLOTS:
     void keysOfANewerVersionStay()
     {
         Home home;
-        home.write("[%General]\nx=1\n\n[General]\nfuture=@Invalid()\nlater=\"a, b\"\n\n[New]\ndeep\\er=2\n");
+        home.write(
+            "[%General]\nx=1\n\n[General]\nfuture=@Invalid()\nlater=\"a, b\"\n\n[New]\ndeep\\er=2\n");
         {
             SettingsStore store(home.profile);
             store.setBoolean(strict, true);
@@ -218,7 +222,8 @@ private Q_SLOTS:
             again.registerDefaults({{strict, true}});
             QCOMPARE(again.boolean(strict), false);
         }
-        QVERIFY(QFile::exists(home.profile.places.root + QStringLiteral("/veldmark/veldmark.conf")));
+        QVERIFY(
+            QFile::exists(home.profile.places.root + QStringLiteral("/veldmark/veldmark.conf")));
     }
 };
 

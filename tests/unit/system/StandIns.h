@@ -37,8 +37,9 @@ public:
     {
         const QByteArray record = recordOf(path).toUtf8();
         write(path, "#!/bin/bash\nprintf '%s\\0' \"$@\" > '" + record + "'\n" + then + "\n");
-        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner
-                                        | QFile::ReadOther | QFile::ExeOther);
+        QFile::setPermissions(path,
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner
+                                  | QFile::ReadOther | QFile::ExeOther);
     }
 
     void sudo(const QByteArray &then) const { program(profile.sudo, then); }

@@ -53,10 +53,13 @@ public:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
     }
     QByteArray content() const { return read(path()); }
-    QStringList files() const { return QDir(folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot); }
+    QStringList files() const
+    {
+        return QDir(folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
     int mode(const QString &at) const
     {
-        struct stat info {};
+        struct stat info { };
         return ::stat(qPrintable(at), &info) == 0 ? static_cast<int>(info.st_mode & 07777) : -1;
     }
 

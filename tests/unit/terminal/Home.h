@@ -18,12 +18,12 @@ inline const QString exitCheck = QStringLiteral("https://check.example/api/ip");
 // A home and one system's files below a temporary folder.
 class Home {
 public:
-    explicit Home(bool isMac = false)
-        : m_places(Places::below(m_folder.path()))
+    explicit Home(bool isMac = false) : m_places(Places::below(m_folder.path()))
     {
         QDir().mkpath(m_places.home);
         file(m_places.root + QStringLiteral("/usr/bin/zsh"), QByteArray());
-        QFile::link(QStringLiteral("/bin/nc.openbsd"), m_places.root + QStringLiteral("/usr/bin/nc"));
+        QFile::link(QStringLiteral("/bin/nc.openbsd"),
+                    m_places.root + QStringLiteral("/usr/bin/nc"));
         profile = isMac ? PlatformProfile::macos(m_places) : PlatformProfile::linux(m_places);
     }
 
@@ -52,13 +52,20 @@ public:
     mode_t mode(const QString &name) const
     {
         struct stat status = {};
-        return ::stat(QFile::encodeName(path(name)).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
+        return ::stat(QFile::encodeName(path(name)).constData(), &status) == 0
+            ? status.st_mode & 07777
+            : 0;
     }
 
-    bool has(const QString &name) const { return QFileInfo(path(name)).exists() || QFileInfo(path(name)).isSymLink(); }
+    bool has(const QString &name) const
+    {
+        return QFileInfo(path(name)).exists() || QFileInfo(path(name)).isSymLink();
+    }
     QStringList names(const QString &folder) const
     {
-        return QDir(path(folder)).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+        return QDir(path(folder))
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                       QDir::Name);
     }
 
     PlatformProfile profile;
@@ -75,8 +82,8 @@ struct Ended {
 };
 
 // Runs a program to its end; an empty environment but for what is given.
-inline Ended run(const QString &program, const QStringList &arguments, const QProcessEnvironment &environment = {},
-                 const QByteArray &input = {})
+inline Ended run(const QString &program, const QStringList &arguments,
+                 const QProcessEnvironment &environment = {}, const QByteArray &input = {})
 {
     QProcess process;
     process.setProcessEnvironment(environment);

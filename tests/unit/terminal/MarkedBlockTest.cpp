@@ -22,18 +22,24 @@ class MarkedBlockTest : public QObject {
         QTest::addColumn<QByteArray>("prepended");
         QTest::newRow("empty") << QByteArray() << block << block;
         QTest::newRow("one line") << QByteArray("a\n") << "a\n\n" + block << block + "\na\n";
-        QTest::newRow("without a final line break") << QByteArray("a") << "a\n\n" + block << block + "\na";
-        QTest::newRow("CR LF") << QByteArray("a\r\nb\r\n") << "a\r\nb\r\n\n" + block << block + "\na\r\nb\r\n";
-        QTest::newRow("CR LF, none at the end") << QByteArray("a\r\nb") << "a\r\nb\n\n" + block << block + "\na\r\nb";
-        QTest::newRow("line breaks only") << QByteArray("\n\n") << "\n\n\n" + block << block + "\n\n\n";
+        QTest::newRow("without a final line break")
+            << QByteArray("a") << "a\n\n" + block << block + "\na";
+        QTest::newRow("CR LF") << QByteArray("a\r\nb\r\n") << "a\r\nb\r\n\n" + block
+                               << block + "\na\r\nb\r\n";
+        QTest::newRow("CR LF, none at the end")
+            << QByteArray("a\r\nb") << "a\r\nb\n\n" + block << block + "\na\r\nb";
+        QTest::newRow("line breaks only")
+            << QByteArray("\n\n") << "\n\n\n" + block << block + "\n\n\n";
         QTest::newRow("a lone CR") << QByteArray("a\r") << "a\r\n\n" + block << block + "\na\r";
-        QTest::newRow("no UTF-8") << QByteArray("\xff\xfe\0\x80", 4) << QByteArray("\xff\xfe\0\x80\n\n", 6) + block
+        QTest::newRow("no UTF-8") << QByteArray("\xff\xfe\0\x80", 4)
+                                  << QByteArray("\xff\xfe\0\x80\n\n", 6) + block
                                   << block + QByteArray("\n\xff\xfe\0\x80", 5);
-        for (const QByteArray &mention : {QByteArray("echo '# >>> veldmark >>>'"), QByteArray("# # >>> veldmark >>>"),
-                                          QByteArray("  # >>> veldmark >>>"), QByteArray("# >>> veldmark >>> old"),
-                                          QByteArray("# >>> veldmark >>>\rx"), QByteArray("# <<< veldmark <<<")})
-            QTest::newRow("a marker that is none: " + mention.toPercentEncoding(" #<>'"))
-                << mention + '\n' << mention + "\n\n" + block << block + '\n' + mention + '\n';
+        for (const QByteArray &mention :
+             {QByteArray("echo '# >>> veldmark >>>'"), QByteArray("# # >>> veldmark >>>"),
+              QByteArray("  # >>> veldmark >>>"), QByteArray("# >>> veldmark >>> old"),
+              QByteArray("# >>> veldmark >>>\rx"), QByteArray("# <<< veldmark <<<")})
+            QTest::newRow("a marker that is none: " + mention.toPercentEncoding(" #<>'")) << mention
+                    + '\n' << mention + "\n\n" + block << block + '\n' + mention + '\n';
     }
 
 private Q_SLOTS:
@@ -67,8 +73,10 @@ private Q_SLOTS:
         QTest::newRow("no block") << QByteArray("a\n\nb\n\n");
         QTest::newRow("no end") << QByteArray("a\n\n# >>> veldmark >>>\nbody\nb\n");
         QTest::newRow("no start") << QByteArray("a\n\nbody\n# <<< veldmark <<<\nb\n");
-        QTest::newRow("end before start") << QByteArray("# <<< veldmark <<<\n# >>> veldmark >>>\nb\n");
-        QTest::newRow("end in a longer line") << QByteArray("# >>> veldmark >>>\nx # <<< veldmark <<<\n");
+        QTest::newRow("end before start")
+            << QByteArray("# <<< veldmark <<<\n# >>> veldmark >>>\nb\n");
+        QTest::newRow("end in a longer line")
+            << QByteArray("# >>> veldmark >>>\nx # <<< veldmark <<<\n");
     }
 
     void leavesAloneWhatHasNoWholeBlock()
@@ -85,18 +93,27 @@ private Q_SLOTS:
         QTest::addColumn<bool>("lineBreak");
         QTest::addColumn<bool>("emptyLine");
         const QByteArray crlf = QByteArray(block).replace("\n", "\r\n");
-        QTest::newRow("nothing is ours") << "a\n\n" + block << QByteArray("a\n\n") << false << false;
-        QTest::newRow("the empty line is ours") << "a\n\n" + block << QByteArray("a\n") << false << true;
+        QTest::newRow("nothing is ours")
+            << "a\n\n" + block << QByteArray("a\n\n") << false << false;
+        QTest::newRow("the empty line is ours")
+            << "a\n\n" + block << QByteArray("a\n") << false << true;
         QTest::newRow("the line break too") << "a\n\n" + block << QByteArray("a") << true << true;
         // What another program has added since must not be joined to the user's last line.
-        QTest::newRow("text follows") << "a\n\n" + block + "b\n" << QByteArray("a\nb\n") << true << true;
-        QTest::newRow("the user has taken the empty line") << "a\n" + block << QByteArray("a\n") << true << true;
-        QTest::newRow("no line break at the end") << "a\n\n" + block.chopped(1) << QByteArray("a\n") << false << true;
-        QTest::newRow("all in CR LF since") << "a\r\n\r\n" + crlf << QByteArray("a\r\n") << false << true;
-        QTest::newRow("all in CR LF, none before") << "a\r\n\r\n" + crlf << QByteArray("a") << true << true;
-        QTest::newRow("CR at the very end") << "a\n\n" + block.chopped(1) + '\r' << QByteArray("a\n\r") << false << true;
-        QTest::newRow("a start without end before it") << "# >>> veldmark >>>\nmine\n\n" + block
-                                                       << QByteArray("# >>> veldmark >>>\nmine\n") << false << true;
+        QTest::newRow("text follows") << "a\n\n" + block + "b\n"
+                                      << QByteArray("a\nb\n") << true << true;
+        QTest::newRow("the user has taken the empty line")
+            << "a\n" + block << QByteArray("a\n") << true << true;
+        QTest::newRow("no line break at the end")
+            << "a\n\n" + block.chopped(1) << QByteArray("a\n") << false << true;
+        QTest::newRow("all in CR LF since")
+            << "a\r\n\r\n" + crlf << QByteArray("a\r\n") << false << true;
+        QTest::newRow("all in CR LF, none before")
+            << "a\r\n\r\n" + crlf << QByteArray("a") << true << true;
+        QTest::newRow("CR at the very end")
+            << "a\n\n" + block.chopped(1) + '\r' << QByteArray("a\n\r") << false << true;
+        QTest::newRow("a start without end before it")
+            << "# >>> veldmark >>>\nmine\n\n" + block << QByteArray("# >>> veldmark >>>\nmine\n")
+            << false << true;
         QTest::newRow("only the first of two") << block + block << block << false << false;
         QTest::newRow("an empty line alone") << "\n" + block << QByteArray("\n") << true << true;
     }
@@ -112,10 +129,13 @@ private Q_SLOTS:
 
     void removesTheEmptyLineBelowABlockAtTheTop()
     {
-        QCOMPARE(MarkedBlock::removed(block + "\na", Position::atStart, {false, true}), QByteArray("a"));
-        QCOMPARE(MarkedBlock::removed(block + "\n\na", Position::atStart, {false, true}), QByteArray("\na"));
+        QCOMPARE(MarkedBlock::removed(block + "\na", Position::atStart, {false, true}),
+                 QByteArray("a"));
+        QCOMPARE(MarkedBlock::removed(block + "\n\na", Position::atStart, {false, true}),
+                 QByteArray("\na"));
         QCOMPARE(MarkedBlock::removed(block + "\na", Position::atStart, {}), QByteArray("\na"));
-        QCOMPARE(MarkedBlock::removed(block + "a", Position::atStart, {false, true}), QByteArray("a"));
+        QCOMPARE(MarkedBlock::removed(block + "a", Position::atStart, {false, true}),
+                 QByteArray("a"));
     }
 
     void tenMegabytesAreNothingSpecial()

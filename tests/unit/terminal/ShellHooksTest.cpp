@@ -13,7 +13,7 @@ namespace {
 // interactive shell, one after the other: before each it shows a prompt and so runs its hooks. `on`
 // and `off` in a script connect and disconnect.
 struct Shell {
-    explicit Shell(bool isMac = false) : home(isMac) {}
+    explicit Shell(bool isMac = false) : home(isMac) { }
 
     void install() const
     {
@@ -25,8 +25,8 @@ struct Shell {
     }
 
     // What the script prints on lines that begin with "=".
-    QStringList type(const QString &shell, const QByteArray &script, QProcessEnvironment environment = {},
-                     const QStringList &options = {})
+    QStringList type(const QString &shell, const QByteArray &script,
+                     QProcessEnvironment environment = {}, const QStringList &options = {})
     {
         environment.insert(QStringLiteral("HOME"), home.path(QString()));
         environment.insert(QStringLiteral("PATH"), QStringLiteral("/usr/bin:/bin"));
@@ -36,12 +36,17 @@ struct Shell {
             environment.insert(QStringLiteral("ZDOTDIR"), home.path(QString()));
         QByteArray typed;
         for (const QByteArray &line : script.split('\n')) {
-            typed += line == "on" ? QByteArray(": > \"$MARKER\"") : line == "off" ? QByteArray("rm -f \"$MARKER\"") : line;
+            typed += line == "on" ? QByteArray(": > \"$MARKER\"")
+                : line == "off"   ? QByteArray("rm -f \"$MARKER\"")
+                                  : line;
             typed += '\n';
         }
         // zsh reads the computer's own start-up files first; they are no part of this.
-        const QStringList noGlobals = shell == u"zsh" ? QStringList{QStringLiteral("-d")} : QStringList();
-        const Ended ended = run(QStringLiteral("/usr/bin/") + shell, noGlobals + options + QStringList{QStringLiteral("-i")}, environment, typed);
+        const QStringList noGlobals = shell == u"zsh" ? QStringList{QStringLiteral("-d")}
+                                                      : QStringList();
+        const Ended ended = run(QStringLiteral("/usr/bin/") + shell,
+                                noGlobals + options + QStringList{QStringLiteral("-i")},
+                                environment, typed);
         errors = ended.errors;
         QStringList said;
         for (const QByteArray &line : ended.output.split('\n')) {
@@ -57,8 +62,11 @@ struct Shell {
 
 const QString proxy = QStringLiteral("socks5h://127.0.0.1:9050");
 const QString direct = QStringLiteral("localhost,127.0.0.1,::1");
-const QByteArray all = "echo \"=$ALL_PROXY|$all_proxy|$HTTP_PROXY|$http_proxy|$HTTPS_PROXY|$https_proxy|$NO_PROXY|$no_proxy|$VELDMARK_ACTIVE\"";
-const QString allOn = QStringList{proxy, proxy, proxy, proxy, proxy, proxy, direct, direct, QStringLiteral("1")}.join(u'|');
+const QByteArray all
+    = "echo \"=$ALL_PROXY|$all_proxy|$HTTP_PROXY|$http_proxy|$HTTPS_PROXY|$https_proxy|$NO_PROXY|$no_proxy|$VELDMARK_ACTIVE\"";
+const QString allOn
+    = QStringList{proxy, proxy, proxy, proxy, proxy, proxy, direct, direct, QStringLiteral("1")}
+          .join(u'|');
 const QString allOff = QStringLiteral("||||||||");
 
 QProcessEnvironment with(const QString &name, const QString &value)
@@ -85,9 +93,11 @@ class ShellHooksTest : public QObject {
     }
 
     // On the Mac a bash that is no login shell reads none of the files; it gets the block's line.
-    static void prepare(Shell &shell, const QString &program, bool isMac, const QByteArray &own = {})
+    static void prepare(Shell &shell, const QString &program, bool isMac,
+                        const QByteArray &own = {})
     {
-        shell.home.file(program == u"zsh" ? QStringLiteral(".zshrc") : QStringLiteral(".bashrc"), own);
+        shell.home.file(program == u"zsh" ? QStringLiteral(".zshrc") : QStringLiteral(".bashrc"),
+                        own);
         shell.install();
         if (isMac && program == u"bash")
             shell.home.file(QStringLiteral(".bashrc"), own + "\n. \"$HOME/.veldmark/shell.sh\"\n");
@@ -107,10 +117,12 @@ private Q_SLOTS:
         QFETCH(bool, isMac);
         Shell s(isMac);
         prepare(s, shell, isMac);
-        const QByteArray script = all + "\non\n" + all + "\n" + all + "\nenv | sed -n 's/^ALL_PROXY=/=/p'\noff\n" + all
-            + "\nenv | sed -n 's/^[A-Za-z]*_PROXY=/=left /p; s/^_*VELDMARK[A-Z_a-z]*=/=left /p'\non\n" + all
-            + "\nrm \"$HOME/.veldmark/active\"\n" + all;
-        QCOMPARE(s.type(shell, script), QStringList({allOff, allOn, allOn, proxy, allOff, allOn, allOff}));
+        const QByteArray script = all + "\non\n" + all + "\n" + all
+            + "\nenv | sed -n 's/^ALL_PROXY=/=/p'\noff\n" + all
+            + "\nenv | sed -n 's/^[A-Za-z]*_PROXY=/=left /p; s/^_*VELDMARK[A-Z_a-z]*=/=left /p'\non\n"
+            + all + "\nrm \"$HOME/.veldmark/active\"\n" + all;
+        QCOMPARE(s.type(shell, script),
+                 QStringList({allOff, allOn, allOn, proxy, allOff, allOn, allOff}));
     }
 
     void aShellOpenedDuringTheSessionHasItAtOnce_data() { shells(); }
@@ -135,13 +147,16 @@ private Q_SLOTS:
     {
         QFETCH(QString, shell);
         Shell s;
-        prepare(s, shell, false, "export no_proxy='a b' HTTP_PROXY='http://u:p$x\"'\\''*`@h:1/ ;é' https_proxy=\n");
-        const QByteArray show = "echo \"=$ALL_PROXY|$HTTP_PROXY|$no_proxy|${https_proxy-unset}|${http_proxy-unset}\"";
+        prepare(s, shell, false,
+                "export no_proxy='a b' HTTP_PROXY='http://u:p$x\"'\\''*`@h:1/ ;é' https_proxy=\n");
+        const QByteArray show
+            = "echo \"=$ALL_PROXY|$HTTP_PROXY|$no_proxy|${https_proxy-unset}|${http_proxy-unset}\"";
         const QString mine = QStringLiteral("socks5://mine:1|http://u:p$x\"'*`@h:1/ ;é|a b||unset");
         const QString ours = QStringList{proxy, proxy, direct, proxy, proxy}.join(u'|');
-        const QByteArray script = show + "\non\n" + show + "\noff\n" + show + "\non\n" + show + "\noff\n" + show
-            + "\nenv | sed -n 's/^VELDMARK.*/=left &/p'";
-        QCOMPARE(s.type(shell, script, with(QStringLiteral("ALL_PROXY"), QStringLiteral("socks5://mine:1"))),
+        const QByteArray script = show + "\non\n" + show + "\noff\n" + show + "\non\n" + show
+            + "\noff\n" + show + "\nenv | sed -n 's/^VELDMARK.*/=left &/p'";
+        QCOMPARE(s.type(shell, script,
+                        with(QStringLiteral("ALL_PROXY"), QStringLiteral("socks5://mine:1"))),
                  QStringList({mine, ours, mine, ours, mine}));
     }
 
@@ -151,9 +166,13 @@ private Q_SLOTS:
         QFETCH(QString, shell);
         Shell s;
         prepare(s, shell, false, "export http_proxy=before\n");
-        const QByteArray show = "echo \"=${HTTP_PROXY-unset}|${http_proxy-unset}|${ALL_PROXY-unset}\"";
-        const QByteArray script = "on\nexport HTTP_PROXY=new http_proxy=newer; unset ALL_PROXY\n" + show + "\noff\n" + show;
-        QCOMPARE(s.type(shell, script), QStringList({QStringLiteral("new|newer|unset"), QStringLiteral("new|newer|unset")}));
+        const QByteArray show
+            = "echo \"=${HTTP_PROXY-unset}|${http_proxy-unset}|${ALL_PROXY-unset}\"";
+        const QByteArray script = "on\nexport HTTP_PROXY=new http_proxy=newer; unset ALL_PROXY\n"
+            + show + "\noff\n" + show;
+        QCOMPARE(
+            s.type(shell, script),
+            QStringList({QStringLiteral("new|newer|unset"), QStringLiteral("new|newer|unset")}));
     }
 
     void aShellWithinGivesBackTheVariablesToo_data() { theUsersVariablesComeBack_data(); }
@@ -163,9 +182,11 @@ private Q_SLOTS:
         Shell s;
         prepare(s, shell, false, "[ -n \"${INNER:-}\" ] || export HTTP_PROXY=mine\n");
         const QByteArray inner = shell == u"zsh" ? QByteArray("zsh -d -i") : QByteArray("bash -i");
-        const QByteArray script = "on\nINNER=1 " + inner + " <<'END'\necho \"=$HTTP_PROXY\"\nrm -f \"$MARKER\"\necho \"=$HTTP_PROXY $ALL_PROXY\"\nEND\n"
-            "echo \"=$HTTP_PROXY $ALL_PROXY\"";
-        QCOMPARE(s.type(shell, script), QStringList({proxy, QStringLiteral("mine "), QStringLiteral("mine ")}));
+        const QByteArray script = "on\nINNER=1 " + inner
+            + " <<'END'\necho \"=$HTTP_PROXY\"\nrm -f \"$MARKER\"\necho \"=$HTTP_PROXY $ALL_PROXY\"\nEND\n"
+              "echo \"=$HTTP_PROXY $ALL_PROXY\"";
+        QCOMPARE(s.type(shell, script),
+                 QStringList({proxy, QStringLiteral("mine "), QStringLiteral("mine ")}));
     }
 
     void theUsersPromptCommandsSurvive_data()
@@ -175,9 +196,15 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("said"); // at the first prompt
         for (const bool isMac : {false, true}) {
             const char *name = isMac ? "macos" : "linux";
-            QTest::addRow("text, %s", name) << isMac << QByteArray("PROMPT_COMMAND='echo =one; echo =two'\n") << QStringList{QStringLiteral("one"), QStringLiteral("two")};
-            QTest::addRow("list, %s", name) << isMac << QByteArray("PROMPT_COMMAND=('echo =one' 'echo =two')\n") << QStringList{QStringLiteral("one"), QStringLiteral("two")};
-            QTest::addRow("list without a first, %s", name) << isMac << QByteArray("PROMPT_COMMAND=([3]='echo =one')\n") << QStringList{QStringLiteral("one")};
+            QTest::addRow("text, %s", name)
+                << isMac << QByteArray("PROMPT_COMMAND='echo =one; echo =two'\n")
+                << QStringList{QStringLiteral("one"), QStringLiteral("two")};
+            QTest::addRow("list, %s", name)
+                << isMac << QByteArray("PROMPT_COMMAND=('echo =one' 'echo =two')\n")
+                << QStringList{QStringLiteral("one"), QStringLiteral("two")};
+            QTest::addRow("list without a first, %s", name)
+                << isMac << QByteArray("PROMPT_COMMAND=([3]='echo =one')\n")
+                << QStringList{QStringLiteral("one")};
             QTest::addRow("none, %s", name) << isMac << QByteArray() << QStringList();
         }
     }
@@ -190,7 +217,8 @@ private Q_SLOTS:
         Shell s(isMac);
         prepare(s, QStringLiteral("bash"), isMac, own);
         // Read twice, the file hooks itself in once.
-        const QByteArray script = ". \"$HOME/.veldmark/shell.sh\"\necho \"=hooks $(declare -p PROMPT_COMMAND | grep -o _veldmark_sync | wc -l)\"\non\necho \"=$ALL_PROXY\"";
+        const QByteArray script
+            = ". \"$HOME/.veldmark/shell.sh\"\necho \"=hooks $(declare -p PROMPT_COMMAND | grep -o _veldmark_sync | wc -l)\"\non\necho \"=$ALL_PROXY\"";
         const QStringList seen = s.type(QStringLiteral("bash"), script);
         QStringList expected = said + said;
         expected += QStringLiteral("hooks 1");
@@ -205,14 +233,16 @@ private Q_SLOTS:
         Shell s;
         prepare(s, QStringLiteral("zsh"), false, "precmd() { echo \"=own\" }\n");
         QCOMPARE(s.type(QStringLiteral("zsh"), "on\necho \"=$ALL_PROXY\""),
-                 QStringList({QStringLiteral("own"), QStringLiteral("own"), proxy, QStringLiteral("own")}));
+                 QStringList(
+                     {QStringLiteral("own"), QStringLiteral("own"), proxy, QStringLiteral("own")}));
     }
 
     void thePromptStillKnowsTheLastStatus()
     {
         Shell s;
         prepare(s, QStringLiteral("bash"), false, "PROMPT_COMMAND='echo \"=$?\"'\n");
-        QCOMPARE(s.type(QStringLiteral("bash"), "(exit 7)\n(exit 3); on\n(exit 9)").last(), QStringLiteral("9"));
+        QCOMPARE(s.type(QStringLiteral("bash"), "(exit 7)\n(exit 3); on\n(exit 9)").last(),
+                 QStringLiteral("9"));
         Shell z;
         prepare(z, QStringLiteral("zsh"), false, "precmd() { echo \"=$?\" }\n");
         QVERIFY(z.type(QStringLiteral("zsh"), "(exit 7)").contains(QStringLiteral("7")));
@@ -225,7 +255,8 @@ private Q_SLOTS:
         QTest::newRow("bash, unset variables") << "bash" << QByteArray("set -u\n");
         QTest::newRow("zsh, unset variables") << "zsh" << QByteArray("setopt no_unset\n");
         QTest::newRow("zsh, new globals") << "zsh" << QByteArray("setopt warn_create_global\n");
-        QTest::newRow("zsh, arrays as in ksh") << "zsh" << QByteArray("setopt ksh_arrays sh_word_split\n");
+        QTest::newRow("zsh, arrays as in ksh")
+            << "zsh" << QByteArray("setopt ksh_arrays sh_word_split\n");
         QTest::newRow("bash, as POSIX has it") << "bash" << QByteArray("set -o posix\n");
     }
 
@@ -236,7 +267,8 @@ private Q_SLOTS:
         Shell s;
         prepare(s, shell, false, own);
         const QByteArray show = "echo \"=${ALL_PROXY-unset}\"";
-        QCOMPARE(s.type(shell, "on\n" + show + "\noff\n" + show), QStringList({proxy, QStringLiteral("unset")}));
+        QCOMPARE(s.type(shell, "on\n" + show + "\noff\n" + show),
+                 QStringList({proxy, QStringLiteral("unset")}));
         QVERIFY2(!s.errors.contains("_veldmark"), s.errors.constData());
     }
 
@@ -252,14 +284,16 @@ private Q_SLOTS:
         QFETCH(bool, isMac);
         Shell s(isMac);
         s.install();
-        const QByteArray script = "set -eu\n. \"$HOME/.veldmark/shell.sh\"\necho \"=${ALL_PROXY-unset} ${PROMPT_COMMAND-unset}\"\n: > \"$MARKER\"\n"
-                                  "_veldmark_sync\necho \"=$ALL_PROXY\"\nrm \"$MARKER\"\n_veldmark_sync\necho \"=${ALL_PROXY-unset}\"\n";
+        const QByteArray script
+            = "set -eu\n. \"$HOME/.veldmark/shell.sh\"\necho \"=${ALL_PROXY-unset} ${PROMPT_COMMAND-unset}\"\n: > \"$MARKER\"\n"
+              "_veldmark_sync\necho \"=$ALL_PROXY\"\nrm \"$MARKER\"\n_veldmark_sync\necho \"=${ALL_PROXY-unset}\"\n";
         s.home.file(QStringLiteral("script"), script);
         QProcessEnvironment environment = with(QStringLiteral("HOME"), s.home.path(QString()));
         environment.insert(QStringLiteral("MARKER"), s.home.profile.sessionMarker);
         environment.insert(QStringLiteral("PATH"), QStringLiteral("/usr/bin:/bin"));
         for (const char *shell : {"dash", "bash"}) {
-            const Ended ended = run(QStringLiteral("/usr/bin/") + QLatin1String(shell), {s.home.path(QStringLiteral("script"))}, environment);
+            const Ended ended = run(QStringLiteral("/usr/bin/") + QLatin1String(shell),
+                                    {s.home.path(QStringLiteral("script"))}, environment);
             QCOMPARE(ended.errors, QByteArray());
             QCOMPARE(ended.status, 0);
             const QByteArray prompt = QByteArray(shell) == "bash" ? "_veldmark_sync" : "unset";
@@ -289,14 +323,19 @@ private Q_SLOTS:
         environment.insert(QStringLiteral("SHELL"), QStringLiteral("/bin/sh"));
         // ssh looks for "~" in the account, not in the environment, so it is given the file itself.
         const auto command = [&] {
-            const Ended ended = run(ssh, {QStringLiteral("-G"), QStringLiteral("-F"), s.home.path(QStringLiteral(".veldmark/ssh_config")), host}, environment);
+            const Ended ended = run(ssh,
+                                    {QStringLiteral("-G"), QStringLiteral("-F"),
+                                     s.home.path(QStringLiteral(".veldmark/ssh_config")), host},
+                                    environment);
             return ended.status == 0 ? ended.output : "failed: " + ended.errors;
         };
         QVERIFY2(!command().contains("proxycommand"), command().constData());
         s.home.file(s.home.profile.sessionMarker, "strict");
         const QByteArray now = command();
         QVERIFY2(now.contains("hostname "), now.constData());
-        QCOMPARE(now.contains("proxycommand " + s.home.profile.places.root.toUtf8() + "/usr/bin/nc -X 5 -x 127.0.0.1:9050"), throughTor);
+        QCOMPARE(now.contains("proxycommand " + s.home.profile.places.root.toUtf8()
+                              + "/usr/bin/nc -X 5 -x 127.0.0.1:9050"),
+                 throughTor);
     }
 };
 

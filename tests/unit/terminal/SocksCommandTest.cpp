@@ -8,8 +8,10 @@
 using namespace veldmark;
 
 namespace {
-const QByteArray openbsd = "OpenBSD netcat\nusage: nc [-46CD] [-W recvlimit]\n\t  [-w timeout] [-X proxy_protocol] [-x proxy_address[:port]]\n";
-const QByteArray ncat = "Ncat 7.93\n      --proxy <addr[:port]>  Specify address\n      --proxy-type <type>  Specify type\n      --proxy-dns <type>  Specify where\n";
+const QByteArray openbsd
+    = "OpenBSD netcat\nusage: nc [-46CD] [-W recvlimit]\n\t  [-w timeout] [-X proxy_protocol] [-x proxy_address[:port]]\n";
+const QByteArray ncat
+    = "Ncat 7.93\n      --proxy <addr[:port]>  Specify address\n      --proxy-type <type>  Specify type\n      --proxy-dns <type>  Specify where\n";
 
 QByteArray program(const QByteArray &usage, const QByteArray &end = "exit 1")
 {
@@ -26,17 +28,21 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("openbsdNc");
         QTest::addColumn<QByteArray>("ncatProgram");
         QTest::addColumn<QString>("command"); // below the root
-        const QByteArray traditional = "[v1.10-47]\nconnect to somewhere: nc [-options] hostname port\n";
+        const QByteArray traditional
+            = "[v1.10-47]\nconnect to somewhere: nc [-options] hostname port\n";
         const QByteArray oldNcat = "Ncat 7.70\n      --proxy-type <type>\n";
         const QString netcat = QStringLiteral("/usr/bin/nc -X 5 -x 127.0.0.1:9050 %h %p");
         const QString other = QStringLiteral("/usr/bin/nc.openbsd -X 5 -x 127.0.0.1:9050 %h %p");
-        const QString ncatCommand = QStringLiteral("/usr/bin/ncat --proxy 127.0.0.1:9050 --proxy-type socks5 --proxy-dns remote %h %p");
+        const QString ncatCommand = QStringLiteral(
+            "/usr/bin/ncat --proxy 127.0.0.1:9050 --proxy-type socks5 --proxy-dns remote %h %p");
         QTest::newRow("nc") << openbsd << openbsd << ncat << netcat;
         QTest::newRow("another nc") << traditional << openbsd << ncat << other;
         QTest::newRow("ncat") << traditional << QByteArray() << ncat << ncatCommand;
         QTest::newRow("nc is ncat") << ncat << QByteArray() << ncat << ncatCommand;
-        QTest::newRow("ncat that looks names up itself") << QByteArray() << QByteArray() << oldNcat << QString();
-        QTest::newRow("traditional only") << traditional << QByteArray() << QByteArray() << QString();
+        QTest::newRow("ncat that looks names up itself")
+            << QByteArray() << QByteArray() << oldNcat << QString();
+        QTest::newRow("traditional only")
+            << traditional << QByteArray() << QByteArray() << QString();
         QTest::newRow("none") << QByteArray() << QByteArray() << QByteArray() << QString();
     }
 
@@ -49,7 +55,8 @@ private Q_SLOTS:
         const Home home;
         const QString folder = home.profile.places.root + QStringLiteral("/usr/bin/");
         QFile::remove(folder + QStringLiteral("nc"));
-        for (const auto &[name, usage] : {std::pair("nc", nc), std::pair("nc.openbsd", openbsdNc), std::pair("ncat", ncatProgram)}) {
+        for (const auto &[name, usage] : {std::pair("nc", nc), std::pair("nc.openbsd", openbsdNc),
+                                          std::pair("ncat", ncatProgram)}) {
             if (!usage.isEmpty())
                 home.file(folder + QLatin1String(name), program(usage), 0755);
         }
@@ -64,7 +71,8 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("content");
         QTest::newRow("hangs") << program(openbsd, "exec sleep 1000");
         QTest::newRow("prints without end") << program(openbsd, "exec cat /dev/zero");
-        QTest::newRow("is none") << QByteArray("\x7f" "ELFnot");
+        QTest::newRow("is none") << QByteArray("\x7f"
+                                               "ELFnot");
     }
 
     void programsThatMisbehaveAreNotTaken()
@@ -85,11 +93,12 @@ private Q_SLOTS:
         SocksSearch search(home.profile);
         QVERIFY(search.isKnown()); // there is nobody to ask
         const QString asked = folder + QStringLiteral("asked"), go = folder + QStringLiteral("go");
-        const QByteArray wait = "echo x >>'" + asked.toUtf8() + "'\nwhile [ ! -e '" + go.toUtf8() + "' ]; do sleep 0.01; done";
+        const QByteArray wait = "echo x >>'" + asked.toUtf8() + "'\nwhile [ ! -e '" + go.toUtf8()
+            + "' ]; do sleep 0.01; done";
         home.file(folder + QStringLiteral("nc"), program(openbsd, wait), 0755);
         QVERIFY(!search.isKnown());
         const auto first = search.ask();
-        const auto second = search.ask(); // shares that run
+        const auto second = search.ask();               // shares that run
         QVERIFY(!first.isReady() && !second.isReady()); // and this thread goes on
         QTRY_VERIFY(QFile::exists(asked));
         home.file(go, {});
@@ -143,7 +152,8 @@ private Q_SLOTS:
         QTest::newRow("debian") << QByteArray("ID=debian\n") << "sudo apt install netcat-openbsd";
         QTest::newRow("fedora") << QByteArray("ID=fedora\n") << "sudo dnf install nmap-ncat";
         QTest::newRow("arch") << QByteArray("ID=arch\n") << "sudo pacman -S openbsd-netcat";
-        QTest::newRow("suse") << QByteArray("ID_LIKE=suse\n") << "sudo zypper install netcat-openbsd";
+        QTest::newRow("suse") << QByteArray("ID_LIKE=suse\n")
+                              << "sudo zypper install netcat-openbsd";
         QTest::newRow("unknown") << QByteArray("ID=plan9\n") << "with your package manager.";
     }
 
@@ -153,7 +163,8 @@ private Q_SLOTS:
         QFETCH(QString, end);
         const Home home;
         home.file(home.profile.places.root + QStringLiteral("/etc/os-release"), osRelease);
-        const QString hint = socksCommandHint(PlatformProfile::linux(home.profile.places)).english();
+        const QString hint
+            = socksCommandHint(PlatformProfile::linux(home.profile.places)).english();
         QVERIFY2(hint.endsWith(end), qPrintable(hint));
         QVERIFY(hint.startsWith(QStringLiteral("ssh doesn't go through Tor yet")));
     }

@@ -9,8 +9,11 @@ using namespace veldmark;
 
 namespace {
 
-const TerminalNames mac{QStringLiteral("Veldmark.app"), QStringLiteral("/Library/Application Support/Veldmark/state/active"), exitCheck, false};
-const TerminalNames linux_{QStringLiteral("Veldmark"), QStringLiteral("/var/lib/veldmark/state/active"), exitCheck, true};
+const TerminalNames mac{QStringLiteral("Veldmark.app"),
+                        QStringLiteral("/Library/Application Support/Veldmark/state/active"),
+                        exitCheck, false};
+const TerminalNames linux_{QStringLiteral("Veldmark"),
+                           QStringLiteral("/var/lib/veldmark/state/active"), exitCheck, true};
 const QString netcat = QStringLiteral("/usr/bin/nc -X 5 -x 127.0.0.1:9050 %h %p");
 
 const char *const macShellFile[] = {
@@ -72,8 +75,11 @@ private Q_SLOTS:
     void theOtherSystemsShellFileSharesAllButTheVariables()
     {
         const QList<QByteArray> lines = shellFile(linux_).split('\n');
-        QCOMPARE(lines.first(), QByteArray("# Veldmark terminal mode. Managed by Veldmark; safe to leave in place."));
-        QVERIFY(lines.contains("  [ -f \"$HOME/.veldmark/active\" ] && [ -f \"/var/lib/veldmark/state/active\" ]"));
+        QCOMPARE(
+            lines.first(),
+            QByteArray("# Veldmark terminal mode. Managed by Veldmark; safe to leave in place."));
+        QVERIFY(lines.contains(
+            "  [ -f \"$HOME/.veldmark/active\" ] && [ -f \"/var/lib/veldmark/state/active\" ]"));
         for (qsizetype i = 23; i < 40; ++i) // from torip on
             QCOMPARE(lines[lines.size() - 40 + i], QByteArray(macShellFile[i]));
         for (const QByteArray &line : lines)
@@ -82,25 +88,27 @@ private Q_SLOTS:
 
     void theSshFileSendsThroughTheProgram()
     {
-        QCOMPARE(sshFile(mac, netcat), QByteArray(
-            "# Veldmark terminal mode. Managed by Veldmark.app; safe to leave in place.\n"
-            "# While Veldmark is connected with Terminal mode on, ssh goes through Tor.\n"
-            "Match exec \"$HOME/.veldmark/bin/veldmark-active %h\"\n"
-            "    ProxyCommand /usr/bin/nc -X 5 -x 127.0.0.1:9050 %h %p"));
+        QCOMPARE(sshFile(mac, netcat),
+                 QByteArray(
+                     "# Veldmark terminal mode. Managed by Veldmark.app; safe to leave in place.\n"
+                     "# While Veldmark is connected with Terminal mode on, ssh goes through Tor.\n"
+                     "Match exec \"$HOME/.veldmark/bin/veldmark-active %h\"\n"
+                     "    ProxyCommand /usr/bin/nc -X 5 -x 127.0.0.1:9050 %h %p"));
     }
 
     void theTestProgramIsWordForWord()
     {
-        QCOMPARE(activeProgram(mac), QByteArray(
-            "#!/bin/sh\n"
-            "# Exit 0 when ssh to host $1 should go through Tor.\n"
-            "[ -f \"$HOME/.veldmark/active\" ] || exit 1\n"
-            "[ -f \"/Library/Application Support/Veldmark/state/active\" ] || exit 1\n"
-            "case \"$1\" in\n"
-            "  localhost|127.*|::1|10.*|192.168.*|169.254.*|*.local) exit 1 ;;\n"
-            "  172.1[6-9].*|172.2[0-9].*|172.3[01].*) exit 1 ;;\n"
-            "esac\n"
-            "exit 0"));
+        QCOMPARE(
+            activeProgram(mac),
+            QByteArray("#!/bin/sh\n"
+                       "# Exit 0 when ssh to host $1 should go through Tor.\n"
+                       "[ -f \"$HOME/.veldmark/active\" ] || exit 1\n"
+                       "[ -f \"/Library/Application Support/Veldmark/state/active\" ] || exit 1\n"
+                       "case \"$1\" in\n"
+                       "  localhost|127.*|::1|10.*|192.168.*|169.254.*|*.local) exit 1 ;;\n"
+                       "  172.1[6-9].*|172.2[0-9].*|172.3[01].*) exit 1 ;;\n"
+                       "esac\n"
+                       "exit 0"));
     }
 
     void shellcheckFindsNothing_data()
@@ -108,9 +116,12 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<QString>("shell");
         for (const char *shell : {"sh", "dash", "bash", "ksh"}) {
-            QTest::addRow("macos shell.sh as %s", shell) << shellFile(mac) << QString::fromLatin1(shell);
-            QTest::addRow("linux shell.sh as %s", shell) << shellFile(linux_) << QString::fromLatin1(shell);
-            QTest::addRow("veldmark-active as %s", shell) << activeProgram(linux_) << QString::fromLatin1(shell);
+            QTest::addRow("macos shell.sh as %s", shell)
+                << shellFile(mac) << QString::fromLatin1(shell);
+            QTest::addRow("linux shell.sh as %s", shell)
+                << shellFile(linux_) << QString::fromLatin1(shell);
+            QTest::addRow("veldmark-active as %s", shell)
+                << activeProgram(linux_) << QString::fromLatin1(shell);
         }
     }
 
@@ -120,7 +131,8 @@ private Q_SLOTS:
         QFETCH(QString, shell);
         const QString shellcheck = QStringLiteral("/usr/bin/shellcheck");
         QVERIFY2(QFile::exists(shellcheck), "needs the package shellcheck");
-        const QStringList arguments = {QStringLiteral("--norc"), QStringLiteral("-s"), shell, QStringLiteral("-")};
+        const QStringList arguments = {QStringLiteral("--norc"), QStringLiteral("-s"), shell,
+                                       QStringLiteral("-")};
         const QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         QVERIFY(run(shellcheck, arguments, environment, content + "\nx=$(echo $y)\n").status != 0);
         const Ended clean = run(shellcheck, arguments, environment, content + '\n');
@@ -131,11 +143,13 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("host");
         QTest::addColumn<int>("status");
-        for (const char *host : {"example.org", "192.0.2.1", "172.15.0.1", "172.32.0.1", "11.0.0.1", "2001:db8::1",
-                                 "local", "localhost.example.org", "192.169.0.1", "a.locale", "-h", "$(exit 1)", "", "*"})
+        for (const char *host : {"example.org", "192.0.2.1", "172.15.0.1", "172.32.0.1", "11.0.0.1",
+                                 "2001:db8::1", "local", "localhost.example.org", "192.169.0.1",
+                                 "a.locale", "-h", "$(exit 1)", "", "*"})
             QTest::newRow(host) << QByteArray(host) << 0;
-        for (const char *host : {"localhost", "127.0.0.1", "127.1.2.3", "::1", "10.0.0.1", "192.168.77.9", "169.254.1.1",
-                                 "printer.local", "172.16.0.1", "172.20.1.5", "172.29.0.1", "172.31.255.255"})
+        for (const char *host : {"localhost", "127.0.0.1", "127.1.2.3", "::1", "10.0.0.1",
+                                 "192.168.77.9", "169.254.1.1", "printer.local", "172.16.0.1",
+                                 "172.20.1.5", "172.29.0.1", "172.31.255.255"})
             QTest::newRow(host) << QByteArray(host) << 1;
     }
 
@@ -149,7 +163,9 @@ private Q_SLOTS:
         home.file(program, activeProgram({QString(), session, QString()}), 0755);
         QProcessEnvironment environment;
         environment.insert(QStringLiteral("HOME"), home.path(QString()));
-        const auto decide = [&] { return run(program, {QString::fromLatin1(host)}, environment).status; };
+        const auto decide = [&] {
+            return run(program, {QString::fromLatin1(host)}, environment).status;
+        };
         QCOMPARE(decide(), 1);
         home.file(session, QByteArray("strict"));
         QCOMPARE(decide(), 1);

@@ -11,10 +11,12 @@ using namespace veldmark;
 
 namespace {
 
-const QByteArray shellBlock = "# >>> veldmark >>>\n"
-                              "[ -f \"$HOME/.veldmark/shell.sh\" ] && . \"$HOME/.veldmark/shell.sh\"\n"
-                              "# <<< veldmark <<<\n";
-const QByteArray sshBlock = "# >>> veldmark >>>\nInclude ~/.veldmark/ssh_config\n# <<< veldmark <<<\n";
+const QByteArray shellBlock
+    = "# >>> veldmark >>>\n"
+      "[ -f \"$HOME/.veldmark/shell.sh\" ] && . \"$HOME/.veldmark/shell.sh\"\n"
+      "# <<< veldmark <<<\n";
+const QByteArray sshBlock
+    = "# >>> veldmark >>>\nInclude ~/.veldmark/ssh_config\n# <<< veldmark <<<\n";
 
 const QString zshrc = QStringLiteral(".zshrc");
 const QString bashrc = QStringLiteral(".bashrc");
@@ -47,7 +49,8 @@ class TerminalIntegrationTest : public QObject {
 private Q_SLOTS:
     void initTestCase()
     {
-        QVERIFY2(QFile::exists(QStringLiteral("/bin/nc.openbsd")), "needs the package netcat-openbsd");
+        QVERIFY2(QFile::exists(QStringLiteral("/bin/nc.openbsd")),
+                 "needs the package netcat-openbsd");
         ::umask(022);
     }
 
@@ -68,9 +71,13 @@ private Q_SLOTS:
         QVERIFY(!home.has(bashProfile));
         QCOMPARE(home.has(bashrc), !isMac);
         QVERIFY(!home.has(active));
-        QVERIFY(home.content(QStringLiteral(".veldmark/shell.sh")).contains(home.profile.sessionMarker.toUtf8()));
-        QVERIFY(home.content(QStringLiteral(".veldmark/ssh_config")).contains("ProxyCommand " + home.profile.places.root.toUtf8() + "/usr/bin/nc -X 5"));
-        QCOMPARE(home.content(QStringLiteral(".veldmark/shell.sh")).contains("Veldmark.app"), isMac);
+        QVERIFY(home.content(QStringLiteral(".veldmark/shell.sh"))
+                    .contains(home.profile.sessionMarker.toUtf8()));
+        QVERIFY(home.content(QStringLiteral(".veldmark/ssh_config"))
+                    .contains("ProxyCommand " + home.profile.places.root.toUtf8()
+                              + "/usr/bin/nc -X 5"));
+        QCOMPARE(home.content(QStringLiteral(".veldmark/shell.sh")).contains("Veldmark.app"),
+                 isMac);
         QCOMPARE(terminal(home).sshHint(), QString());
         QVERIFY(terminal(home).isUsedBySsh());
     }
@@ -108,14 +115,20 @@ private Q_SLOTS:
         QTest::addColumn<int>("cycles");
         for (const bool isMac : {false, true}) {
             const char *name = isMac ? "macos" : "linux";
-            QTest::addRow("%s: lines", name) << isMac << QByteArray("export A=1\n\n\nexport B=2\n") << 100;
-            QTest::addRow("%s: no line break at the end", name) << isMac << QByteArray("export A=1") << 100;
+            QTest::addRow("%s: lines", name)
+                << isMac << QByteArray("export A=1\n\n\nexport B=2\n") << 100;
+            QTest::addRow("%s: no line break at the end", name)
+                << isMac << QByteArray("export A=1") << 100;
             QTest::addRow("%s: empty", name) << isMac << QByteArray() << 2;
-            QTest::addRow("%s: empty lines at the end", name) << isMac << QByteArray("a\n\n\n") << 2;
+            QTest::addRow("%s: empty lines at the end", name)
+                << isMac << QByteArray("a\n\n\n") << 2;
             QTest::addRow("%s: CR LF", name) << isMac << QByteArray("a\r\nb\r\n") << 2;
-            QTest::addRow("%s: no UTF-8", name) << isMac << QByteArray("\xff\xfe caf\xe9\n\0\n", 10) << 2;
-            QTest::addRow("%s: a marker in a comment", name) << isMac << QByteArray("# about # >>> veldmark >>>\n") << 2;
-            QTest::addRow("%s: 10 MB", name) << isMac << QByteArray("x=1 # line\n").repeated(1'000'000) << 2;
+            QTest::addRow("%s: no UTF-8", name)
+                << isMac << QByteArray("\xff\xfe caf\xe9\n\0\n", 10) << 2;
+            QTest::addRow("%s: a marker in a comment", name)
+                << isMac << QByteArray("# about # >>> veldmark >>>\n") << 2;
+            QTest::addRow("%s: 10 MB", name)
+                << isMac << QByteArray("x=1 # line\n").repeated(1'000'000) << 2;
         }
     }
 
@@ -134,7 +147,8 @@ private Q_SLOTS:
             QCOMPARE(home.content(zshrc).count("\n# <<< veldmark <<<\n"), 1);
             QCOMPARE(home.content(sshConfig).count("\n# <<< veldmark <<<\n"), 1);
             QVERIFY(home.content(zshrc).endsWith(shellBlock));
-            QVERIFY(home.content(sshConfig).startsWith(text.isEmpty() ? sshBlock : sshBlock + '\n'));
+            QVERIFY(
+                home.content(sshConfig).startsWith(text.isEmpty() ? sshBlock : sshBlock + '\n'));
             QCOMPARE(failure(terminal(home).uninstall()), QString());
             QVERIFY(!home.has(QStringLiteral(".veldmark")));
         }
@@ -142,7 +156,8 @@ private Q_SLOTS:
         QVERIFY(home.content(sshConfig) == text);
         QCOMPARE(home.mode(zshrc), mode_t(0644));
         QCOMPARE(home.mode(sshConfig), mode_t(0640));
-        QCOMPARE(home.names(QStringLiteral(".ssh")), QStringList{QStringLiteral("config")}); // nothing left over
+        // nothing left over
+        QCOMPARE(home.names(QStringLiteral(".ssh")), QStringList{QStringLiteral("config")});
     }
 
     void whatTheUserAddsMeanwhileIsKept()
@@ -215,7 +230,8 @@ private Q_SLOTS:
         const Home home;
         home.file(zshrc, "a\n", 0444);
         home.file(bashrc, "b\n");
-        QCOMPARE(failure(terminal(home).install()), home.path(zshrc) + QStringLiteral(" is read-only."));
+        QCOMPARE(failure(terminal(home).install()),
+                 home.path(zshrc) + QStringLiteral(" is read-only."));
         QCOMPARE(home.content(zshrc), QByteArray("a\n"));
         QCOMPARE(home.content(bashrc), QByteArray("b\n"));
         // The files written before stay, and the rest follows once the obstacle is gone.
@@ -224,7 +240,8 @@ private Q_SLOTS:
         QVERIFY(terminal(home).install());
         QVERIFY(terminal(home).isInstalled());
         ::chmod(QFile::encodeName(home.path(zshrc)).constData(), 0444);
-        QCOMPARE(failure(terminal(home).uninstall()), home.path(zshrc) + QStringLiteral(" is read-only."));
+        QCOMPARE(failure(terminal(home).uninstall()),
+                 home.path(zshrc) + QStringLiteral(" is read-only."));
         QVERIFY(home.has(QStringLiteral(".veldmark/shell.sh")));
     }
 
@@ -232,12 +249,15 @@ private Q_SLOTS:
     {
         const Home home;
         home.file(QStringLiteral(".veldmark"), "a file");
-        QVERIFY(failure(terminal(home).install()).startsWith(home.path(QStringLiteral(".veldmark/bin")) + QStringLiteral(" can't be created: ")));
+        QVERIFY(failure(terminal(home).install())
+                    .startsWith(home.path(QStringLiteral(".veldmark/bin"))
+                                + QStringLiteral(" can't be created: ")));
         QCOMPARE(home.names(QString()), QStringList{QStringLiteral(".veldmark")});
         terminal(home).setActive(true); // does nothing, quietly
         QVERIFY(QFile::remove(home.path(QStringLiteral(".veldmark"))));
         QDir().mkpath(home.path(bashrc));
-        QCOMPARE(failure(terminal(home).install()), home.path(bashrc) + QStringLiteral(" is not a file."));
+        QCOMPARE(failure(terminal(home).install()),
+                 home.path(bashrc) + QStringLiteral(" is not a file."));
         QVERIFY(terminal(home).uninstall());
     }
 

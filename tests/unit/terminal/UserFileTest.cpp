@@ -64,7 +64,8 @@ private Q_SLOTS:
         const Home home;
         home.file(QStringLiteral("f"), "old", 0666);
         const QByteArray folder = QFile::encodeName(home.path(QString()));
-        for (QByteArray above = folder; above.size() > 5; above = above.first(above.lastIndexOf('/')))
+        for (QByteArray above = folder; above.size() > 5;
+             above = above.first(above.lastIndexOf('/')))
             QCOMPARE(::chmod(above.constData(), 0777), 0);
         const pid_t child = ::fork();
         if (child == 0) {
@@ -86,7 +87,8 @@ private Q_SLOTS:
         const Home home;
         home.file(QStringLiteral("f"), "old", 0444);
         const auto file = UserFile::read(home.path(QStringLiteral("f")));
-        QCOMPARE(failure(file->replace("new", 0600)), home.path(QStringLiteral("f")) + QStringLiteral(" is read-only."));
+        QCOMPARE(failure(file->replace("new", 0600)),
+                 home.path(QStringLiteral("f")) + QStringLiteral(" is read-only."));
         QCOMPARE(home.content(QStringLiteral("f")), QByteArray("old"));
         QVERIFY(file->replace("old", 0600)); // nothing to write
     }
@@ -95,10 +97,14 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("target"); // of .zshrc
         QTest::addColumn<QString>("file");
-        QTest::newRow("relative") << "dotfiles/zshrc" << "dotfiles/zshrc";
-        QTest::newRow("chain") << "dotfiles/link" << "dotfiles/zshrc";
-        QTest::newRow("through a linked folder and back") << "linked/../other" << "deep/other";
-        QTest::newRow("to nothing yet") << "dotfiles/new" << "dotfiles/new";
+        QTest::newRow("relative") << "dotfiles/zshrc"
+                                  << "dotfiles/zshrc";
+        QTest::newRow("chain") << "dotfiles/link"
+                               << "dotfiles/zshrc";
+        QTest::newRow("through a linked folder and back") << "linked/../other"
+                                                          << "deep/other";
+        QTest::newRow("to nothing yet") << "dotfiles/new"
+                                        << "dotfiles/new";
     }
 
     void linksStayLinks()
@@ -111,14 +117,16 @@ private Q_SLOTS:
         home.file(QStringLiteral("deep/down/x"), "old");
         home.file(QStringLiteral("deep/other"), "old");
         const auto makeLink = [](const QString &to, const QString &at) {
-            return ::symlink(QFile::encodeName(to).constData(), QFile::encodeName(at).constData()) == 0;
+            return ::symlink(QFile::encodeName(to).constData(), QFile::encodeName(at).constData())
+                == 0;
         };
         QVERIFY(makeLink(QStringLiteral("zshrc"), home.path(QStringLiteral("dotfiles/link"))));
         QVERIFY(makeLink(QStringLiteral("deep/down"), home.path(QStringLiteral("linked"))));
         QVERIFY(makeLink(target, link));
         const auto read = UserFile::read(link);
         QVERIFY(read);
-        QCOMPARE(read->content(), file.endsWith(QStringLiteral("new")) ? QByteArray() : QByteArray("old"));
+        QCOMPARE(read->content(),
+                 file.endsWith(QStringLiteral("new")) ? QByteArray() : QByteArray("old"));
         QVERIFY(read->replace("new", 0644));
         QVERIFY(QFileInfo(link).isSymLink());
         QVERIFY(!QFileInfo(home.path(file)).isSymLink());
@@ -131,10 +139,14 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("kind");
         QTest::addColumn<QString>("message");
-        QTest::newRow("folder") << "folder" << "%1 is not a file.";
-        QTest::newRow("pipe") << "pipe" << "%1 is not a file.";
-        QTest::newRow("circle") << "circle" << "%1 can't be read: Too many levels of symbolic links.";
-        QTest::newRow("file as a folder") << "file/x" << "%1 can't be read: Not a directory.";
+        QTest::newRow("folder") << "folder"
+                                << "%1 is not a file.";
+        QTest::newRow("pipe") << "pipe"
+                              << "%1 is not a file.";
+        QTest::newRow("circle") << "circle"
+                                << "%1 can't be read: Too many levels of symbolic links.";
+        QTest::newRow("file as a folder") << "file/x"
+                                          << "%1 can't be read: Not a directory.";
     }
 
     void whatIsNoFileIsNotRead()
@@ -144,7 +156,8 @@ private Q_SLOTS:
         const Home home;
         home.file(QStringLiteral("file"), "old");
         QDir().mkpath(home.path(QStringLiteral("folder")));
-        QCOMPARE(::mkfifo(QFile::encodeName(home.path(QStringLiteral("pipe"))).constData(), 0600), 0);
+        QCOMPARE(::mkfifo(QFile::encodeName(home.path(QStringLiteral("pipe"))).constData(), 0600),
+                 0);
         QFile::link(home.path(QStringLiteral("circle")), home.path(QStringLiteral("circle")));
         const auto file = UserFile::read(home.path(kind));
         QVERIFY(!file);
@@ -157,7 +170,8 @@ private Q_SLOTS:
         const auto file = UserFile::read(home.path(QStringLiteral("none/f")));
         QVERIFY(file);
         QCOMPARE(failure(file->replace("x", 0600)),
-                 home.path(QStringLiteral("none/f")) + QStringLiteral(" can't be written: No such file or directory."));
+                 home.path(QStringLiteral("none/f"))
+                     + QStringLiteral(" can't be written: No such file or directory."));
     }
 
     void whatAnotherProgramWroteMeanwhileIsKept_data()
@@ -176,7 +190,8 @@ private Q_SLOTS:
         const auto file = UserFile::read(home.path(QStringLiteral("f")));
         home.file(QStringLiteral("f"), "theirs");
         QCOMPARE(failure(file->replace("ours", 0600)),
-                 home.path(QStringLiteral("f")) + QStringLiteral(" was changed by another program just now."));
+                 home.path(QStringLiteral("f"))
+                     + QStringLiteral(" was changed by another program just now."));
         QCOMPARE(home.content(QStringLiteral("f")), QByteArray("theirs"));
         QCOMPARE(home.names(QString()), QStringList{QStringLiteral("f")});
     }
@@ -236,7 +251,8 @@ private Q_SLOTS:
         // A second name for the old file shows whether it is still the one in place.
         const QString own = home.path(QStringLiteral("own"));
         const QString second = home.path(QStringLiteral("second"));
-        QCOMPARE(::link(QFile::encodeName(own).constData(), QFile::encodeName(second).constData()), 0);
+        QCOMPARE(::link(QFile::encodeName(own).constData(), QFile::encodeName(second).constData()),
+                 0);
         QVERIFY(writeOwnFile(own, "mine", 0755, OwnMode::exact));
         QCOMPARE(home.content(QStringLiteral("own")), QByteArray("mine"));
         QCOMPARE(home.mode(QStringLiteral("own")), mode_t(0755));

@@ -21,8 +21,8 @@ private Q_SLOTS:
         QTest::newRow("a kilobyte") << quint64(1000) << QStringLiteral("1.0\u00a0kB");
         QTest::newRow("megabytes") << quint64(48'213'004) << QStringLiteral("48.2\u00a0MB");
         QTest::newRow("gigabytes") << quint64(1'500'000'000) << QStringLiteral("1.5\u00a0GB");
-        QTest::newRow("beyond the last unit") << quint64(7'000'000'000'000'000)
-                                              << QStringLiteral("7,000.0\u00a0TB");
+        QTest::newRow("beyond the last unit")
+            << quint64(7'000'000'000'000'000) << QStringLiteral("7,000.0\u00a0TB");
     }
     void choosesTheLargestUnitThatHoldsOne()
     {

@@ -1,5 +1,5 @@
-#include "StandInSession.h"
 #include "ui/ApplicationChoices.h"
+#include "StandInSession.h"
 #include "support/TestProgram.h"
 
 #include <QSignalSpy>
@@ -36,7 +36,9 @@ private Q_SLOTS:
         ApplicationChoices choices(session);
         QCOMPARE(choices.rowCount(), 0); // until somebody wants to see them
         choices.refresh();
-        QCOMPARE(names(choices), QStringList({QStringLiteral("bake"), QStringLiteral("Games"), QStringLiteral("Letters")}));
+        QCOMPARE(names(choices),
+                 QStringList(
+                     {QStringLiteral("bake"), QStringLiteral("Games"), QStringLiteral("Letters")}));
     }
 
     void aSearchLeavesThoseWithThatInTheirName()
@@ -62,7 +64,8 @@ private Q_SLOTS:
         const QModelIndex row = choices.index(0);
         QCOMPARE(choices.data(row, ApplicationChoices::ChosenRole).toBool(), false);
         choices.toggle(0);
-        QCOMPARE(session.now().choices.bypassApps, QStringList(QStringLiteral("/usr/share/applications/letters.desktop")));
+        QCOMPARE(session.now().choices.bypassApps,
+                 QStringList(QStringLiteral("/usr/share/applications/letters.desktop")));
         QCOMPARE(choices.data(row, ApplicationChoices::ChosenRole).toBool(), true);
         choices.toggle(0);
         QVERIFY(session.now().choices.bypassApps.isEmpty());
@@ -96,7 +99,8 @@ private Q_SLOTS:
         QVERIFY(red.save(file));
         ApplicationIcons icons;
         QSize size;
-        const QImage image = icons.requestImage(QString::fromLatin1(QUrl::toPercentEncoding(file)), &size, QSize(28, 28));
+        const QImage image = icons.requestImage(QString::fromLatin1(QUrl::toPercentEncoding(file)),
+                                                &size, QSize(28, 28));
         QCOMPARE(size, QSize(28, 28));
         QCOMPARE(image.pixelColor(14, 14), QColor(Qt::red));
     }
@@ -109,9 +113,11 @@ private Q_SLOTS:
         broken.write("no picture");
         broken.close();
         ApplicationIcons icons;
-        for (const QString &icon : {QStringLiteral("no-such-icon-anywhere"), QStringLiteral("/no/such/file.png"), broken.fileName()}) {
+        for (const QString &icon : {QStringLiteral("no-such-icon-anywhere"),
+                                    QStringLiteral("/no/such/file.png"), broken.fileName()}) {
             QSize size;
-            QVERIFY2(drawnPixels(icons.requestImage(icon, &size, QSize(28, 28))) > 20, qPrintable(icon));
+            QVERIFY2(drawnPixels(icons.requestImage(icon, &size, QSize(28, 28))) > 20,
+                     qPrintable(icon));
         }
     }
 };

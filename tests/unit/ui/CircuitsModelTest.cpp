@@ -1,5 +1,5 @@
-#include "StandInSession.h"
 #include "ui/CircuitsModel.h"
+#include "StandInSession.h"
 #include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
@@ -17,8 +17,8 @@ CircuitInfo circuit(const char *id)
     c.id = QString::fromLatin1(id);
     c.purpose = QStringLiteral("GENERAL");
     for (const char *name : {"first", "second", "third"})
-        c.hops.push_back({QString::fromLatin1(name), QString::fromLatin1(name), QStringLiteral("192.0.2.7"),
-                          QStringLiteral("de")});
+        c.hops.push_back({QString::fromLatin1(name), QString::fromLatin1(name),
+                          QStringLiteral("192.0.2.7"), QStringLiteral("de")});
     return c;
 }
 
@@ -60,18 +60,22 @@ private Q_SLOTS:
         const CircuitsModel model(session);
         QCOMPARE(model.subtitle(), QStringLiteral("Not connected"));
         session.show(connectedWith({circuit("1")}));
-        QCOMPARE(model.subtitle(), QStringLiteral("1 active path · click a relay or site to follow it"));
+        QCOMPARE(model.subtitle(),
+                 QStringLiteral("1 active path · click a relay or site to follow it"));
         session.show(connectedWith({circuit("1"), circuit("2")}));
-        QCOMPARE(model.subtitle(), QStringLiteral("2 active paths · click a relay or site to follow it"));
+        QCOMPARE(model.subtitle(),
+                 QStringLiteral("2 active paths · click a relay or site to follow it"));
         session.show(connectedWith({}));
-        QCOMPARE(model.subtitle(), QStringLiteral("0 active paths · click a relay or site to follow it"));
+        QCOMPARE(model.subtitle(),
+                 QStringLiteral("0 active paths · click a relay or site to follow it"));
     }
 
     void followsACircuitWhileItExists()
     {
         StandInSession session(profile);
         CircuitsModel model(session);
-        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QAbstractItemModelTester tester(&model,
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
         session.show(connectedWith({circuit("1"), circuit("2")}));
         model.follow(QStringLiteral("2"));
         QCOMPARE(model.followed(), QStringLiteral("2"));
@@ -92,7 +96,8 @@ private Q_SLOTS:
         QSignalSpy told(&model, &QAbstractItemModel::dataChanged);
         model.follow(QStringLiteral("2"));
         QCOMPARE(told.count(), 1);
-        QVERIFY(told.at(0).at(0).toModelIndex().row() <= 1 && told.at(0).at(1).toModelIndex().row() >= 1);
+        QVERIFY(told.at(0).at(0).toModelIndex().row() <= 1
+                && told.at(0).at(1).toModelIndex().row() >= 1);
         QVERIFY(told.at(0).at(2).value<QList<int>>().contains(CircuitsModel::FollowedRole));
         model.follow(QStringLiteral("2"));
         QCOMPARE(told.count(), 1);
@@ -122,7 +127,8 @@ private Q_SLOTS:
         QTest::newRow("a newer one") << QStringLiteral("1 2 3") << QStringLiteral("4 1 2 3");
         QTest::newRow("a closed one") << QStringLiteral("1 2 3") << QStringLiteral("1 3");
         QTest::newRow("one gets a site") << QStringLiteral("1 2 3") << QStringLiteral("3 1 2");
-        QTest::newRow("all at once") << QStringLiteral("1 2 3 4 5 6") << QStringLiteral("9 6 2 8 4 7");
+        QTest::newRow("all at once")
+            << QStringLiteral("1 2 3 4 5 6") << QStringLiteral("9 6 2 8 4 7");
         QTest::newRow("turned round") << QStringLiteral("1 2 3 4") << QStringLiteral("4 3 2 1");
         QTest::newRow("others") << QStringLiteral("1 2 3") << QStringLiteral("4 5");
         QTest::newRow("none") << QStringLiteral("1 2 3") << QString();
@@ -133,18 +139,21 @@ private Q_SLOTS:
         QFETCH(QString, after);
         StandInSession session(profile);
         CircuitsModel model(session);
-        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QAbstractItemModelTester tester(&model,
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
         session.show(connectedWith(circuits(before)));
         QList<std::pair<QPersistentModelIndex, QString>> rows;
         for (int row = 0; row < model.rowCount(); ++row)
-            rows.append({model.index(row), model.data(model.index(row), CircuitsModel::IdRole).toString()});
+            rows.append(
+                {model.index(row), model.data(model.index(row), CircuitsModel::IdRole).toString()});
         QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
         QSignalSpy told(&model, &QAbstractItemModel::dataChanged);
         session.show(connectedWith(circuits(after)));
         QStringList shown;
         for (int row = 0; row < model.rowCount(); ++row) {
             shown << model.data(model.index(row), CircuitsModel::IdRole).toString();
-            QCOMPARE(model.data(model.index(row), CircuitsModel::ColorRole).value<QColor>(), CircuitsModel::paletteColor(static_cast<std::size_t>(row)));
+            QCOMPARE(model.data(model.index(row), CircuitsModel::ColorRole).value<QColor>(),
+                     CircuitsModel::paletteColor(static_cast<std::size_t>(row)));
         }
         QCOMPARE(shown.join(u' '), after);
         QCOMPARE(resets.count(), 0);
@@ -164,7 +173,9 @@ private Q_SLOTS:
         CircuitsModel model(session);
         auto *ticks = model.findChild<QTimer *>();
         QVERIFY(ticks && ticks->interval() >= 1000 && ticks->interval() <= 5000);
-        const auto read = [&session] { return session.asked.count(QStringLiteral("refreshCircuits")); };
+        const auto read = [&session] {
+            return session.asked.count(QStringLiteral("refreshCircuits"));
+        };
         session.show(connectedWith({}));
         QCOMPARE(read(), 0);
         QVERIFY(!ticks->isActive());
@@ -198,7 +209,8 @@ private Q_SLOTS:
         const auto place = [](std::optional<QString> ip, std::optional<QString> country) {
             return CircuitsModel::placeOf({QStringLiteral("A"), QStringLiteral("a"), ip, country});
         };
-        QCOMPARE(place(QStringLiteral("192.0.2.7"), QStringLiteral("de")), QStringLiteral("DE · 192.0.2.7"));
+        QCOMPARE(place(QStringLiteral("192.0.2.7"), QStringLiteral("de")),
+                 QStringLiteral("DE · 192.0.2.7"));
         QCOMPARE(place(QStringLiteral("192.0.2.7"), {}), QStringLiteral("Unknown · 192.0.2.7"));
         QCOMPARE(place({}, QStringLiteral("de")), QStringLiteral("DE · Unknown"));
         QCOMPARE(place({}, {}), QStringLiteral("Unknown"));
@@ -228,14 +240,20 @@ private Q_SLOTS:
         leg.purpose = QStringLiteral("CONFLUX");
         leg.roundTrip = std::chrono::microseconds(182'600);
         session.show(connectedWith({circuit("1"), leg}));
-        QVERIFY(!model.data(model.index(0), CircuitsModel::DetailRole).toString().contains(QLatin1String("ms")));
-        QVERIFY(model.data(model.index(1), CircuitsModel::DetailRole).toString().endsWith(QStringLiteral("183\u00a0ms")));
+        QVERIFY(!model.data(model.index(0), CircuitsModel::DetailRole)
+                     .toString()
+                     .contains(QLatin1String("ms")));
+        QVERIFY(model.data(model.index(1), CircuitsModel::DetailRole)
+                    .toString()
+                    .endsWith(QStringLiteral("183\u00a0ms")));
         model.follow(QStringLiteral("1"));
         QCOMPARE(model.followedRow(), 0);
         QCOMPARE(model.purpose(), QString());
         model.follow(QStringLiteral("3"));
         QCOMPARE(model.followedRow(), 1);
-        QCOMPARE(model.purpose(), QStringLiteral("Round trip: 183\u00a0ms\nOne of several linked legs to the same exit"));
+        QCOMPARE(
+            model.purpose(),
+            QStringLiteral("Round trip: 183\u00a0ms\nOne of several linked legs to the same exit"));
         model.follow({});
         QCOMPARE(model.followedRow(), -1);
     }
@@ -245,17 +263,21 @@ private Q_SLOTS:
         StandInSession session(profile);
         CircuitsModel model(session);
         CircuitInfo c = circuit("7");
-        c.sites = {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"), QStringLiteral("d"), QStringLiteral("e")};
+        c.sites = {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"),
+                   QStringLiteral("d"), QStringLiteral("e")};
         Snapshot s = connectedWith({c});
         session.show(s);
         model.follow(QStringLiteral("7"));
-        QCOMPARE(values(model, "role"), QStringList({QString(), QStringLiteral("Entry"), QStringLiteral("Middle"),
-                                                     QStringLiteral("Exit"), QString()}));
+        QCOMPARE(values(model, "role"),
+                 QStringList({QString(), QStringLiteral("Entry"), QStringLiteral("Middle"),
+                              QStringLiteral("Exit"), QString()}));
         QCOMPARE(values(model, "title").constFirst(), QStringLiteral("This computer"));
-        QCOMPARE(values(model, "detail").constFirst(), QStringLiteral("Only the entry sees your IP"));
+        QCOMPARE(values(model, "detail").constFirst(),
+                 QStringLiteral("Only the entry sees your IP"));
         QCOMPARE(values(model, "detail").constLast(), QStringLiteral("a, b, c, +2 more"));
         for (const QVariant &step : model.steps())
-            QCOMPARE(step.toMap().value(QStringLiteral("tint")).value<QColor>(), CircuitsModel::paletteColor(0));
+            QCOMPARE(step.toMap().value(QStringLiteral("tint")).value<QColor>(),
+                     CircuitsModel::paletteColor(0));
         s.activeBridge = BridgeChoice::obfs4;
         session.show(s);
         QCOMPARE(values(model, "role").at(1), QStringLiteral("Bridge"));

@@ -1,5 +1,5 @@
-#include "StandInSession.h"
 #include "ui/DoctorModel.h"
+#include "StandInSession.h"
 #include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
@@ -15,12 +15,18 @@ class DoctorModelTest : public QObject {
 
     static Findings some()
     {
-        return {{QStringLiteral("tor"), Finding::Level::good, Text::tr("Tor %1 is installed: %2.").arg(QStringLiteral("0.4.7"), QStringLiteral("%1")), {}},
-                {QStringLiteral("session"), Finding::Level::note, Text::tr("The network is still set up."), QStringLiteral("veldmarkctl restore"),
+        return {{QStringLiteral("tor"),
+                 Finding::Level::good,
+                 Text::tr("Tor %1 is installed: %2.")
+                     .arg(QStringLiteral("0.4.7"), QStringLiteral("%1")),
+                 {}},
+                {QStringLiteral("session"), Finding::Level::note,
+                 Text::tr("The network is still set up."), QStringLiteral("veldmarkctl restore"),
                  Finding::Button::restore},
-                {QStringLiteral("clock"), Finding::Level::unknown, Text::tr("The clock."), QStringLiteral("sudo timedatectl set-ntp true")},
-                {QStringLiteral("bridges"), Finding::Level::problem, Text::tr("No bridges."), QStringLiteral("veldmarkctl download-transports"),
-                 Finding::Button::download}};
+                {QStringLiteral("clock"), Finding::Level::unknown, Text::tr("The clock."),
+                 QStringLiteral("sudo timedatectl set-ntp true")},
+                {QStringLiteral("bridges"), Finding::Level::problem, Text::tr("No bridges."),
+                 QStringLiteral("veldmarkctl download-transports"), Finding::Button::download}};
     }
 
 private Q_SLOTS:
@@ -28,7 +34,8 @@ private Q_SLOTS:
     {
         StandInSession session(profile);
         DoctorModel model(session);
-        const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        const QAbstractItemModelTester tester(
+            &model, QAbstractItemModelTester::FailureReportingMode::QtTest);
         QCOMPARE(model.rowCount(), 0);
         QCOMPARE(model.verdict(), QStringLiteral("Nothing was found out."));
         Snapshot snapshot;
@@ -46,15 +53,24 @@ private Q_SLOTS:
             commands << model.index(row).data(DoctorModel::CommandRole).toString();
             buttons << model.index(row).data(DoctorModel::ButtonRole).toString();
         }
-        QCOMPARE(texts, (QStringList{QStringLiteral("No bridges."), QStringLiteral("The clock."), QStringLiteral("The network is still set up."),
-                                     QStringLiteral("Tor 0.4.7 is installed: %1.")}));
-        QCOMPARE(levels, (QStringList{QStringLiteral("Problem"), QStringLiteral("Not known"), QStringLiteral("Note"), QStringLiteral("In order")}));
-        QCOMPARE(commands, (QStringList{{}, QStringLiteral("sudo timedatectl set-ntp true"), {}, {}}));
-        QCOMPARE(buttons, (QStringList{QStringLiteral("Download"), {}, QStringLiteral("Restore Network"), {}}));
-        QCOMPARE(model.verdict(), QStringLiteral("Veldmark can't connect before each problem is mended."));
+        QCOMPARE(texts,
+                 (QStringList{QStringLiteral("No bridges."), QStringLiteral("The clock."),
+                              QStringLiteral("The network is still set up."),
+                              QStringLiteral("Tor 0.4.7 is installed: %1.")}));
+        QCOMPARE(levels,
+                 (QStringList{QStringLiteral("Problem"), QStringLiteral("Not known"),
+                              QStringLiteral("Note"), QStringLiteral("In order")}));
+        QCOMPARE(commands,
+                 (QStringList{{}, QStringLiteral("sudo timedatectl set-ntp true"), {}, {}}));
+        QCOMPARE(
+            buttons,
+            (QStringList{QStringLiteral("Download"), {}, QStringLiteral("Restore Network"), {}}));
+        QCOMPARE(model.verdict(),
+                 QStringLiteral("Veldmark can't connect before each problem is mended."));
         snapshot.findings.pop_back();
         session.show(snapshot);
-        QCOMPARE(model.verdict(), QStringLiteral("Nothing was found that keeps Veldmark from connecting."));
+        QCOMPARE(model.verdict(),
+                 QStringLiteral("Nothing was found that keeps Veldmark from connecting."));
     }
 
     void pressesWhatMendsIt()
@@ -67,7 +83,9 @@ private Q_SLOTS:
         for (const int row : {-1, 0, 1, 2, 3, 4})
             model.press(row);
         model.examine();
-        QCOMPARE(session.asked, (QStringList{QStringLiteral("downloadTransports"), QStringLiteral("disconnect"), QStringLiteral("examine")}));
+        QCOMPARE(session.asked,
+                 (QStringList{QStringLiteral("downloadTransports"), QStringLiteral("disconnect"),
+                              QStringLiteral("examine")}));
     }
 
     void keepsItsRowsWhileNothingNewIsFound()
@@ -81,7 +99,8 @@ private Q_SLOTS:
         snapshot.bytesRead = 5;
         session.show(snapshot);
         QCOMPARE(reset.count(), 0);
-        snapshot.findings[0].text = Text::tr("Tor %1 is installed: %2.").arg(QStringLiteral("0.4.8"), QStringLiteral("%1"));
+        snapshot.findings[0].text = Text::tr("Tor %1 is installed: %2.")
+                                        .arg(QStringLiteral("0.4.8"), QStringLiteral("%1"));
         session.show(snapshot);
         QCOMPARE(reset.count(), 1);
     }

@@ -1,5 +1,5 @@
-#include "StandInSession.h"
 #include "ui/LogModel.h"
+#include "StandInSession.h"
 #include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
@@ -17,7 +17,8 @@ namespace {
 
 TorLogLine line(TorLogLine::Level level, const char *text)
 {
-    return {0, QStringLiteral("Nov 16 00:41:07.123"), level, QString::fromUtf8(text), QString::fromUtf8(text)};
+    return {0, QStringLiteral("Nov 16 00:41:07.123"), level, QString::fromUtf8(text),
+            QString::fromUtf8(text)};
 }
 
 QList<TorLogLine> numbered(int from, int to)
@@ -40,7 +41,8 @@ public Q_SLOTS:
     void openFolder(const QUrl &url) { opened << url.toLocalFile(); }
 
 private Q_SLOTS:
-    void initTestCase() { qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere/bus"); } // nobody is there
+    // nobody is there
+    void initTestCase() { qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere/bus"); }
     void init() { profile.runDirectory = QStringLiteral("/run/tor"); }
 
     void saysHowManyLinesThereAre()
@@ -61,7 +63,8 @@ private Q_SLOTS:
         StandInLog log;
         LogModel model(log, profile);
         QCOMPARE(model.emptyTitle(), QStringLiteral("No log yet"));
-        log.show(LogFeed::State::lines, {line(TorLogLine::Level::notice, "Done"), line(TorLogLine::Level::info, "x")});
+        log.show(LogFeed::State::lines,
+                 {line(TorLogLine::Level::notice, "Done"), line(TorLogLine::Level::info, "x")});
         QCOMPARE(model.problemsLabel(), QStringLiteral("Problems"));
         model.setProblemsOnly(true);
         QVERIFY(!model.hasRows());
@@ -72,7 +75,8 @@ private Q_SLOTS:
         model.setProblemsOnly(false);
         model.setSearch(QStringLiteral("dONE"));
         QCOMPARE(model.rowCount(), 1);
-        log.show(LogFeed::State::lines, {line(TorLogLine::Level::warning, "a"), line(TorLogLine::Level::error, "b")});
+        log.show(LogFeed::State::lines,
+                 {line(TorLogLine::Level::warning, "a"), line(TorLogLine::Level::error, "b")});
         QCOMPARE(model.problemsLabel(), QStringLiteral("Problems (2)"));
     }
 
@@ -101,7 +105,8 @@ private Q_SLOTS:
     {
         StandInLog log;
         LogModel model(log, profile);
-        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QAbstractItemModelTester tester(&model,
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
         log.show(LogFeed::State::lines, numbered(0, 100));
         QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
         QSignalSpy inserts(&model, &QAbstractItemModel::rowsInserted);
@@ -124,7 +129,9 @@ private Q_SLOTS:
     {
         const QLocale before;
         StandInLog log;
-        log.show(LogFeed::State::lines, {line(TorLogLine::Level::notice, "BAĞLANTI hazır"), line(TorLogLine::Level::notice, "other")});
+        log.show(LogFeed::State::lines,
+                 {line(TorLogLine::Level::notice, "BAĞLANTI hazır"),
+                  line(TorLogLine::Level::notice, "other")});
         QLocale::setDefault(QLocale(QLocale::Turkish));
         LogModel turkish(log, profile);
         turkish.setSearch(QStringLiteral("bağlantı"));
@@ -160,11 +167,13 @@ private Q_SLOTS:
         LogModel model(log, profile);
         QSignalSpy changed(&model, &LogModel::changed);
         model.reveal();
-        QVERIFY2(model.revealProblem().contains(profile.runDirectory), qPrintable(model.revealProblem()));
+        QVERIFY2(model.revealProblem().contains(profile.runDirectory),
+                 qPrintable(model.revealProblem()));
         QCOMPARE(changed.count(), 1);
         QVERIFY(QDir().mkpath(profile.runDirectory));
         model.reveal(); // there is no bus, and this platform opens nothing
-        QVERIFY2(model.revealProblem().startsWith(QStringLiteral("No file manager")), qPrintable(model.revealProblem()));
+        QVERIFY2(model.revealProblem().startsWith(QStringLiteral("No file manager")),
+                 qPrintable(model.revealProblem()));
 
         // Where the desktop opens folders, that is what happens.
         QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openFolder");

@@ -1,5 +1,5 @@
-#include "StandInSession.h"
 #include "ui/OptionsModel.h"
+#include "StandInSession.h"
 #include "support/TestProgram.h"
 
 #include <QSignalSpy>
@@ -19,8 +19,10 @@ private Q_SLOTS:
         StandInSession session(profile);
         OptionsModel options(session);
         Snapshot s;
-        for (const auto &[phase, locked] : {std::pair{Phase::disconnected, false}, {Phase::connecting, true},
-                                            {Phase::connected, true}, {Phase::disconnecting, true},
+        for (const auto &[phase, locked] : {std::pair{Phase::disconnected, false},
+                                            {Phase::connecting, true},
+                                            {Phase::connected, true},
+                                            {Phase::disconnecting, true},
                                             {Phase::stale, false}}) {
             s.phase = phase;
             session.show(s);
@@ -56,9 +58,10 @@ private Q_SLOTS:
         OptionsModel options(session);
         QCOMPARE(options.exitWarning(), QString());
         options.setExitIndex(1);
-        QCOMPARE(options.exitWarning(),
-                 QStringLiteral("Choosing a country means fewer exit relays, so it's slower and you're "
-                                "easier to single out."));
+        QCOMPARE(
+            options.exitWarning(),
+            QStringLiteral("Choosing a country means fewer exit relays, so it's slower and you're "
+                           "easier to single out."));
     }
 
     void saysWhatBridgesNeed()
@@ -74,7 +77,8 @@ private Q_SLOTS:
         QCOMPARE(options.bridgeNote(), QStringLiteral("Needs bridge programs: click Download"));
         QVERIFY(options.needsDownload());
         s.transports.lyrebird = QStringLiteral("/usr/bin/lyrebird");
-        s.transports.builtin = {{QStringLiteral("obfs4"), {QStringLiteral("obfs4 192.0.2.1:443 cert=a")}}};
+        s.transports.builtin = {
+            {QStringLiteral("obfs4"), {QStringLiteral("obfs4 192.0.2.1:443 cert=a")}}};
         s.transports.source = QStringLiteral("Tor Browser");
         session.show(s);
         QVERIFY(!options.needsDownload());
@@ -91,11 +95,20 @@ private Q_SLOTS:
         QTest::addColumn<QString>("program"); // the one that makes it work; empty: none is needed
         const QString key = QStringLiteral(" 0123456789ABCDEF0123456789ABCDEF01234567");
         QTest::newRow("plain") << QStringLiteral("192.0.2.1:443") << QString();
-        QTest::newRow("obfs4") << QStringLiteral("obfs4 192.0.2.1:443") + key + QStringLiteral(" cert=abc iat-mode=0") << QStringLiteral("lyrebird");
-        QTest::newRow("after a plain one") << QStringLiteral("192.0.2.9:443\nobfs4 192.0.2.1:443") + key + QStringLiteral(" cert=abc iat-mode=0") << QStringLiteral("lyrebird");
-        QTest::newRow("snowflake") << QStringLiteral("snowflake 192.0.2.1:443") + key << QStringLiteral("snowflake");
-        QTest::newRow("webtunnel") << QStringLiteral("webtunnel 192.0.2.1:443") + key + QStringLiteral(" url=https://a.example/b") << QStringLiteral("webtunnel");
-        QTest::newRow("webtunnel by lyrebird") << QStringLiteral("webtunnel 192.0.2.1:443") + key + QStringLiteral(" url=https://a.example/b") << QStringLiteral("lyrebird");
+        QTest::newRow("obfs4") << QStringLiteral("obfs4 192.0.2.1:443") + key
+                + QStringLiteral(" cert=abc iat-mode=0")
+                               << QStringLiteral("lyrebird");
+        QTest::newRow("after a plain one") << QStringLiteral("192.0.2.9:443\nobfs4 192.0.2.1:443")
+                + key + QStringLiteral(" cert=abc iat-mode=0")
+                                           << QStringLiteral("lyrebird");
+        QTest::newRow("snowflake")
+            << QStringLiteral("snowflake 192.0.2.1:443") + key << QStringLiteral("snowflake");
+        QTest::newRow("webtunnel") << QStringLiteral("webtunnel 192.0.2.1:443") + key
+                + QStringLiteral(" url=https://a.example/b")
+                                   << QStringLiteral("webtunnel");
+        QTest::newRow("webtunnel by lyrebird") << QStringLiteral("webtunnel 192.0.2.1:443") + key
+                + QStringLiteral(" url=https://a.example/b")
+                                               << QStringLiteral("lyrebird");
     }
     void saysWhichProgramsTheUsersOwnBridgesNeed()
     {
@@ -108,14 +121,18 @@ private Q_SLOTS:
         s.choices.customBridges = line;
         session.show(s);
         QCOMPARE(options.needsDownload(), !program.isEmpty());
-        for (const auto &[name, field] : {std::pair(QStringLiteral("lyrebird"), &PluggableTransports::lyrebird),
-                                          {QStringLiteral("snowflake"), &PluggableTransports::snowflake},
-                                          {QStringLiteral("webtunnel"), &PluggableTransports::webtunnel}}) {
+        for (const auto &[name, field] :
+             {std::pair(QStringLiteral("lyrebird"), &PluggableTransports::lyrebird),
+              {QStringLiteral("snowflake"), &PluggableTransports::snowflake},
+              {QStringLiteral("webtunnel"), &PluggableTransports::webtunnel}}) {
             Snapshot with = s;
             with.transports.*field = QStringLiteral("/usr/bin/it");
             session.show(with);
-            const bool helps = name == program || (name == QLatin1String("lyrebird") && line.startsWith(QLatin1String("webtunnel")))
-                || (name == QLatin1String("webtunnel") && line.startsWith(QLatin1String("webtunnel")));
+            const bool helps = name == program
+                || (name == QLatin1String("lyrebird")
+                    && line.startsWith(QLatin1String("webtunnel")))
+                || (name == QLatin1String("webtunnel")
+                    && line.startsWith(QLatin1String("webtunnel")));
             QCOMPARE(options.needsDownload(), !program.isEmpty() && !helps);
         }
     }
@@ -124,9 +141,10 @@ private Q_SLOTS:
     {
         StandInSession session(profile);
         OptionsModel options(session);
-        for (const auto &[choice, field] : {std::pair(BridgeChoice::obfs4, &PluggableTransports::lyrebird),
-                                            {BridgeChoice::meek, &PluggableTransports::lyrebird},
-                                            {BridgeChoice::snowflake, &PluggableTransports::snowflake}}) {
+        for (const auto &[choice, field] :
+             {std::pair(BridgeChoice::obfs4, &PluggableTransports::lyrebird),
+              {BridgeChoice::meek, &PluggableTransports::lyrebird},
+              {BridgeChoice::snowflake, &PluggableTransports::snowflake}}) {
             for (const bool program : {false, true}) {
                 for (const bool lines : {false, true}) {
                     Snapshot s;
@@ -134,11 +152,14 @@ private Q_SLOTS:
                     if (program)
                         s.transports.*field = QStringLiteral("/usr/bin/it");
                     if (lines)
-                        for (const char *key : {"obfs4", "meek", "meek-azure", "meek_lite", "snowflake"})
-                            s.transports.builtin.insert(QString::fromLatin1(key), QStringList{QStringLiteral("a line")});
+                        for (const char *key :
+                             {"obfs4", "meek", "meek-azure", "meek_lite", "snowflake"})
+                            s.transports.builtin.insert(QString::fromLatin1(key),
+                                                        QStringList{QStringLiteral("a line")});
                     session.show(s);
                     QVERIFY2(options.needsDownload() == !(program && lines),
-                             qPrintable(rawValue(choice) + QString::number(program) + QString::number(lines)));
+                             qPrintable(rawValue(choice) + QString::number(program)
+                                        + QString::number(lines)));
                 }
             }
         }
@@ -165,9 +186,11 @@ private Q_SLOTS:
         StandInSession session(profile);
         OptionsModel options(session);
         QSignalSpy changed(&options, &OptionsModel::changed);
-        Q_EMIT session.launchFailed(QStringLiteral("Couldn't open Games without Tor: It has no program."));
+        Q_EMIT session.launchFailed(
+            QStringLiteral("Couldn't open Games without Tor: It has no program."));
         QCOMPARE(changed.count(), 1);
-        QCOMPARE(options.launchError(), QStringLiteral("Couldn't open Games without Tor: It has no program."));
+        QCOMPARE(options.launchError(),
+                 QStringLiteral("Couldn't open Games without Tor: It has no program."));
         options.launchBypassed(QStringLiteral("/usr/share/applications/games.desktop"));
         QCOMPARE(options.launchError(), QString());
         QCOMPARE(changed.count(), 2);
@@ -182,18 +205,26 @@ private Q_SLOTS:
         QTest::addColumn<QString>("programs"); // that are there
         QTest::addColumn<bool>("needed");
         const QString plain = QStringLiteral("192.0.2.1:443\n");
-        const auto line = [](const char *transport) { return QString::fromLatin1(transport) + QStringLiteral(" 192.0.2.2:443\n"); };
+        const auto line = [](const char *transport) {
+            return QString::fromLatin1(transport) + QStringLiteral(" 192.0.2.2:443\n");
+        };
         QTest::newRow("plain") << plain << QString() << false;
         QTest::newRow("obfs4") << line("obfs4") << QString() << true;
         QTest::newRow("obfs4, served") << line("obfs4") << QStringLiteral("lyrebird") << false;
-        QTest::newRow("obfs4, by no other") << line("obfs4") << QStringLiteral("snowflake webtunnel") << true;
+        QTest::newRow("obfs4, by no other")
+            << line("obfs4") << QStringLiteral("snowflake webtunnel") << true;
         QTest::newRow("a plain one before it") << plain + line("obfs4") << QString() << true;
-        QTest::newRow("snowflake") << line("snowflake") << QStringLiteral("lyrebird webtunnel") << true;
-        QTest::newRow("snowflake, served") << line("snowflake") << QStringLiteral("snowflake") << false;
+        QTest::newRow("snowflake")
+            << line("snowflake") << QStringLiteral("lyrebird webtunnel") << true;
+        QTest::newRow("snowflake, served")
+            << line("snowflake") << QStringLiteral("snowflake") << false;
         QTest::newRow("webtunnel") << line("webtunnel") << QStringLiteral("snowflake") << true;
-        QTest::newRow("webtunnel, served") << line("webtunnel") << QStringLiteral("webtunnel") << false;
-        QTest::newRow("webtunnel, by lyrebird") << line("webtunnel") << QStringLiteral("lyrebird") << false;
-        QTest::newRow("one of two") << line("snowflake") + line("obfs4") << QStringLiteral("snowflake") << true;
+        QTest::newRow("webtunnel, served")
+            << line("webtunnel") << QStringLiteral("webtunnel") << false;
+        QTest::newRow("webtunnel, by lyrebird")
+            << line("webtunnel") << QStringLiteral("lyrebird") << false;
+        QTest::newRow("one of two")
+            << line("snowflake") + line("obfs4") << QStringLiteral("snowflake") << true;
     }
     void ownBridgesNeedTheProgramsOfTheirTransports()
     {
@@ -205,7 +236,9 @@ private Q_SLOTS:
         s.choices.bridgeChoice = BridgeChoice::custom;
         s.choices.customBridges = lines;
         const auto program = [&programs](const char *name) {
-            return programs.contains(QLatin1String(name)) ? std::optional(QStringLiteral("/usr/bin/") + QLatin1String(name)) : std::nullopt;
+            return programs.contains(QLatin1String(name))
+                ? std::optional(QStringLiteral("/usr/bin/") + QLatin1String(name))
+                : std::nullopt;
         };
         s.transports.lyrebird = program("lyrebird");
         s.transports.snowflake = program("snowflake");
@@ -220,7 +253,8 @@ private Q_SLOTS:
         StandInSession session(profile);
         const OptionsModel options(session);
         QCOMPARE(options.bridgeWarning(QStringLiteral("192.0.2.1:443\n# note\n")), QString());
-        QCOMPARE(options.bridgeWarning(QStringLiteral("nonsense")), QStringLiteral("1 line not recognized (line 1)"));
+        QCOMPARE(options.bridgeWarning(QStringLiteral("nonsense")),
+                 QStringLiteral("1 line not recognized (line 1)"));
         QCOMPARE(options.bridgeWarning(QStringLiteral("nonsense\nmore\n192.0.2.1:443")),
                  QStringLiteral("2 lines not recognized (lines 1, 2)"));
         QCOMPARE(options.bridgeWarning(QStringLiteral("192.0.2.1:443\na\nb\nc\nd\ne\nf\n")),
@@ -233,8 +267,9 @@ private Q_SLOTS:
         const OptionsModel options(session);
         const QString reason = QStringLiteral("\nA bridge line can't contain #, \" or \\.");
         for (const char *line : {"192.0.2.1:443 #a", "192.0.2.1:443 \"a\"", "192.0.2.1:443 a\\"})
-            QCOMPARE(options.bridgeWarning(QStringLiteral("192.0.2.1:1\n") + QString::fromLatin1(line)),
-                     QStringLiteral("1 line not recognized (line 2)") + reason);
+            QCOMPARE(
+                options.bridgeWarning(QStringLiteral("192.0.2.1:1\n") + QString::fromLatin1(line)),
+                QStringLiteral("1 line not recognized (line 2)") + reason);
         QVERIFY(!options.bridgeWarning(QStringLiteral("nonsense")).contains(reason));
     }
 
@@ -243,7 +278,8 @@ private Q_SLOTS:
         StandInSession session(profile);
         const OptionsModel options(session);
         QCOMPARE(options.bridgeCount(QStringLiteral("# none\nnonsense")), QString());
-        QCOMPARE(options.bridgeCount(QStringLiteral("192.0.2.1:443\nnonsense")), QStringLiteral("1 bridge recognized"));
+        QCOMPARE(options.bridgeCount(QStringLiteral("192.0.2.1:443\nnonsense")),
+                 QStringLiteral("1 bridge recognized"));
         QString text;
         for (int i = 1; i <= 100; ++i)
             text += QStringLiteral("192.0.2.1:%1\n").arg(i);
@@ -251,7 +287,8 @@ private Q_SLOTS:
         QCOMPARE(options.bridgeWarning(text), QString());
         text += QStringLiteral("192.0.2.2:1\n");
         QCOMPARE(options.bridgeCount(text), QStringLiteral("100 bridges recognized"));
-        QCOMPARE(options.bridgeWarning(text), QStringLiteral("At most 100 bridges can be used (line 101)"));
+        QCOMPARE(options.bridgeWarning(text),
+                 QStringLiteral("At most 100 bridges can be used (line 101)"));
     }
 
     void showsTheApplicationsThatTheSessionHas()

@@ -1,5 +1,5 @@
-#include "StandInSession.h"
 #include "ui/PanelModel.h"
+#include "StandInSession.h"
 #include "support/TestProgram.h"
 
 #include <QTest>
@@ -102,8 +102,11 @@ private Q_SLOTS:
         PanelModel panel(session);
         Snapshot s = idle();
         s.bootstrapProgress = 0.4;
-        for (const auto &[phase, shown] : {std::pair(Phase::disconnected, 0.0), {Phase::connecting, 0.4}, {Phase::connected, 0.0},
-                                           {Phase::disconnecting, 0.0}, {Phase::stale, 0.0}}) {
+        for (const auto &[phase, shown] : {std::pair(Phase::disconnected, 0.0),
+                                           {Phase::connecting, 0.4},
+                                           {Phase::connected, 0.0},
+                                           {Phase::disconnecting, 0.0},
+                                           {Phase::stale, 0.0}}) {
             s.phase = phase;
             session.show(s);
             QCOMPARE(panel.progress(), shown);
@@ -134,28 +137,31 @@ private Q_SLOTS:
         QTest::addColumn<bool>("enabled");
         QTest::addColumn<QString>("footnote");
         const auto row = [](const char *name, const Snapshot &s, Tone tone, const char *symbol,
-                            const char *title, const char *label, bool enabled, const char *footnote) {
-            QTest::newRow(name) << s << tone << QString::fromUtf8(symbol) << QString::fromUtf8(title)
-                                << QString::fromUtf8(label) << enabled << QString::fromUtf8(footnote);
+                            const char *title, const char *label, bool enabled,
+                            const char *footnote) {
+            QTest::newRow(name) << s << tone << QString::fromUtf8(symbol)
+                                << QString::fromUtf8(title) << QString::fromUtf8(label) << enabled
+                                << QString::fromUtf8(footnote);
         };
         Snapshot s = idle();
-        row("disconnected", s, Tone::Neutral, "shield.slash", "Not Protected", "Connect to Tor", true,
-            "Click to connect");
+        row("disconnected", s, Tone::Neutral, "shield.slash", "Not Protected", "Connect to Tor",
+            true, "Click to connect");
         s.torPath.reset();
         row("no tor", s, Tone::Neutral, "shield.slash", "Not Protected", "Connect to Tor", false,
             "Install Tor to get started");
         s = idle();
         s.phase = Phase::connecting;
-        row("connecting, not to be cancelled", s, Tone::Accent, "shield.lefthalf.filled", "Connecting…",
-            "Cancel", false, "");
+        row("connecting, not to be cancelled", s, Tone::Accent, "shield.lefthalf.filled",
+            "Connecting…", "Cancel", false, "");
         s.canCancel = true;
-        row("connecting", s, Tone::Accent, "shield.lefthalf.filled", "Connecting…", "Cancel", true, "");
+        row("connecting", s, Tone::Accent, "shield.lefthalf.filled", "Connecting…", "Cancel", true,
+            "");
         s = connected(RoutingMode::strict);
         row("strict, verified", s, Tone::Good, "lock.shield.fill", "Protected", "Disconnect", true,
             "Click to disconnect");
         s.torVerified.reset();
-        row("strict, not checked yet", s, Tone::Accent, "lock.shield.fill", "Protected", "Disconnect",
-            true, "Click to disconnect");
+        row("strict, not checked yet", s, Tone::Accent, "lock.shield.fill", "Protected",
+            "Disconnect", true, "Click to disconnect");
         s.torVerified = false;
         row("strict, not confirmed", s, Tone::Warning, "exclamationmark.shield", "Needs Attention",
             "Disconnect", true, "Click to disconnect");
@@ -169,11 +175,11 @@ private Q_SLOTS:
             "Disconnect", true, "Click to disconnect");
         s = connected(RoutingMode::strict);
         s.killSwitch->state = KillSwitch::State::open;
-        row("strict, open", s, Tone::Danger, "exclamationmark.shield", "Kill Switch Open", "Disconnect", true,
-            "Click to disconnect");
+        row("strict, open", s, Tone::Danger, "exclamationmark.shield", "Kill Switch Open",
+            "Disconnect", true, "Click to disconnect");
         s.killSwitch.reset();
-        row("strict, nobody has looked", s, Tone::Warning, "exclamationmark.shield", "Needs Attention", "Disconnect", true,
-            "Click to disconnect");
+        row("strict, nobody has looked", s, Tone::Warning, "exclamationmark.shield",
+            "Needs Attention", "Disconnect", true, "Click to disconnect");
         s = connected(RoutingMode::proxy);
         row("proxy", s, Tone::Info, "lock.shield.fill", "Proxy Active", "Disconnect", true,
             "Click to disconnect");
@@ -181,10 +187,12 @@ private Q_SLOTS:
         row("connected in no known mode", s, Tone::Info, "lock.shield.fill", "Proxy Active",
             "Disconnect", true, "Click to disconnect");
         s.phase = Phase::disconnecting;
-        row("disconnecting", s, Tone::Accent, "shield.lefthalf.filled", "Disconnecting…", "", false, "");
+        row("disconnecting", s, Tone::Accent, "shield.lefthalf.filled", "Disconnecting…", "", false,
+            "");
         s = idle();
         s.phase = Phase::stale;
-        row("stale", s, Tone::Warning, "exclamationmark.shield", "Needs Attention", "Reconnect", true, "");
+        row("stale", s, Tone::Warning, "exclamationmark.shield", "Needs Attention", "Reconnect",
+            true, "");
     }
     void showsEachState()
     {
@@ -208,11 +216,19 @@ private Q_SLOTS:
         PanelModel panel(session);
         int combinations = 0;
         int green = 0;
-        for (const Phase phase : {Phase::disconnected, Phase::connecting, Phase::connected, Phase::disconnecting, Phase::stale})
-            for (const std::optional<RoutingMode> mode : {std::optional<RoutingMode>(), std::optional(RoutingMode::strict), std::optional(RoutingMode::proxy)})
-                for (const Leak::Kind leak : {Leak::Kind::exposed, Leak::Kind::notTested, Leak::Kind::checking, Leak::Kind::blocked, Leak::Kind::inconclusive})
-                    for (const DNSStatus &dns : {DNSStatus::leak({}), DNSStatus::unknown(), DNSStatus::checking(), DNSStatus::throughTor(), DNSStatus::unverified()})
-                        for (const std::optional<bool> verified : {std::optional<bool>(), std::optional(false), std::optional(true)}) {
+        for (const Phase phase : {Phase::disconnected, Phase::connecting, Phase::connected,
+                                  Phase::disconnecting, Phase::stale})
+            for (const std::optional<RoutingMode> mode :
+                 {std::optional<RoutingMode>(), std::optional(RoutingMode::strict),
+                  std::optional(RoutingMode::proxy)})
+                for (const Leak::Kind leak :
+                     {Leak::Kind::exposed, Leak::Kind::notTested, Leak::Kind::checking,
+                      Leak::Kind::blocked, Leak::Kind::inconclusive})
+                    for (const DNSStatus &dns :
+                         {DNSStatus::leak({}), DNSStatus::unknown(), DNSStatus::checking(),
+                          DNSStatus::throughTor(), DNSStatus::unverified()})
+                        for (const std::optional<bool> verified :
+                             {std::optional<bool>(), std::optional(false), std::optional(true)}) {
                             Snapshot s;
                             s.torPath = QStringLiteral("/usr/bin/tor");
                             s.phase = phase;
@@ -223,7 +239,8 @@ private Q_SLOTS:
                             s.torVerified = verified;
                             session.show(s);
                             ++combinations;
-                            const bool strict = phase == Phase::connected && mode == RoutingMode::strict;
+                            const bool strict = phase == Phase::connected
+                                && mode == RoutingMode::strict;
                             const bool known = dns.isLeak() || leak == Leak::Kind::exposed;
                             if (panel.tone() == Tone::Good) {
                                 ++green;
@@ -235,7 +252,8 @@ private Q_SLOTS:
                                 QVERIFY(phase == Phase::connected && !dns.isLeak());
                             if (phase == Phase::connected && dns.isLeak())
                                 QCOMPARE(panel.tone(), Tone::Danger);
-                            if (phase != Phase::connected && panel.pillText().startsWith(QLatin1String("Connected")))
+                            if (phase != Phase::connected
+                                && panel.pillText().startsWith(QLatin1String("Connected")))
                                 QFAIL("a bridge is said to be connected through");
                             if (panel.leakText() == QLatin1String("No leaks"))
                                 QVERIFY(leak == Leak::Kind::blocked && !dns.isLeak());
@@ -277,7 +295,8 @@ private Q_SLOTS:
         PanelModel panel(session);
         Snapshot s = connected(RoutingMode::strict);
         session.show(s);
-        panel.traffic()->add(s.bytesRead + 1'000'000, s.bytesWritten, std::chrono::steady_clock::now() + std::chrono::seconds(2));
+        panel.traffic()->add(s.bytesRead + 1'000'000, s.bytesWritten,
+                             std::chrono::steady_clock::now() + std::chrono::seconds(2));
         QVERIFY(!panel.traffic()->samples().empty());
         s.phase = Phase::disconnected;
         session.show(s);
@@ -292,8 +311,10 @@ private Q_SLOTS:
         s.exitIP = QStringLiteral("192.0.2.44");
         CircuitInfo circuit;
         circuit.id = QStringLiteral("7");
-        circuit.hops = {{QStringLiteral("AA"), QStringLiteral("a"), QStringLiteral("192.0.2.43"), QStringLiteral("fr")},
-                        {QStringLiteral("BB"), QStringLiteral("b"), QStringLiteral("192.0.2.44"), QStringLiteral("de")}};
+        circuit.hops = {{QStringLiteral("AA"), QStringLiteral("a"), QStringLiteral("192.0.2.43"),
+                         QStringLiteral("fr")},
+                        {QStringLiteral("BB"), QStringLiteral("b"), QStringLiteral("192.0.2.44"),
+                         QStringLiteral("de")}};
         CircuitInfo onion = circuit;
         onion.onionService = QStringLiteral("abc.onion");
         s.circuits = {onion}; // its last relay lets nothing out
@@ -376,7 +397,8 @@ private Q_SLOTS:
                                            {BridgeChoice::custom, "Custom"}}) {
             s.activeBridge = choice;
             session.show(s);
-            QCOMPARE(panel.pillText(), QStringLiteral("Connected through %1 bridges").arg(QLatin1String(name)));
+            QCOMPARE(panel.pillText(),
+                     QStringLiteral("Connected through %1 bridges").arg(QLatin1String(name)));
         }
         s.phase = Phase::connecting; // nobody is connected through anything yet
         session.show(s);
@@ -410,17 +432,20 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("help");
         const QString tries = QStringLiteral("Tries a direct connection that skips Tor");
-        const auto row = [](const char *name, Leak::Kind kind, const QString &text, const QString &help) {
+        const auto row = [](const char *name, Leak::Kind kind, const QString &text,
+                            const QString &help) {
             QTest::newRow(name) << static_cast<int>(kind) << text << help;
         };
         row("not tested", Leak::Kind::notTested, QStringLiteral("Not tested"), tries);
         row("testing", Leak::Kind::checking, QStringLiteral("Testing…"), tries);
         row("inconclusive", Leak::Kind::inconclusive, QStringLiteral("Inconclusive"), tries);
         row("blocked", Leak::Kind::blocked, QStringLiteral("No answer"),
-            QStringLiteral("A direct connection that skips Tor got no answer, but proxy mode doesn't close that path"));
+            QStringLiteral(
+                "A direct connection that skips Tor got no answer, but proxy mode doesn't close that path"));
         row("exposed", Leak::Kind::exposed, QStringLiteral("Exposed: 198.51.100.1"),
-            QStringLiteral("Apps that ignore proxy settings show your real IP (198.51.100.1). Turn on "
-                           "Strict mode to block them."));
+            QStringLiteral(
+                "Apps that ignore proxy settings show your real IP (198.51.100.1). Turn on "
+                "Strict mode to block them."));
     }
     void describesLeaks()
     {
@@ -436,7 +461,8 @@ private Q_SLOTS:
         s.dns = DNSStatus::leak({QStringLiteral("192.168.1.1 on en0")});
         session.show(s);
         QCOMPARE(panel.leakText(), QStringLiteral("DNS leak"));
-        QCOMPARE(panel.leakHelp(), help + QStringLiteral("\nDNS can go around Tor via: 192.168.1.1 on en0"));
+        QCOMPARE(panel.leakHelp(),
+                 help + QStringLiteral("\nDNS can go around Tor via: 192.168.1.1 on en0"));
     }
 
     void saysNoLeaksOnlyWhereTheRulesWereSeen()
@@ -449,7 +475,8 @@ private Q_SLOTS:
             session.show(s);
             QCOMPARE(panel.leakText(), QStringLiteral("No leaks"));
             QCOMPARE(panel.leakTone(), PanelModel::Tone::Good);
-            QVERIFY(panel.leakHelp().startsWith(QStringLiteral("Direct connections that skip Tor are blocked\n")));
+            QVERIFY(panel.leakHelp().startsWith(
+                QStringLiteral("Direct connections that skip Tor are blocked\n")));
         }
         for (const auto state : {KillSwitch::State::open, KillSwitch::State::unknown}) {
             s.killSwitch->state = state;
@@ -472,7 +499,8 @@ private Q_SLOTS:
         session.show(s);
         QCOMPARE(panel.leakingResolvers().size(), 3);
         QCOMPARE(panel.moreResolvers(), QString());
-        s.dns = DNSStatus::leak(s.dns.leaks() + QStringList{QStringLiteral("d"), QStringLiteral("e")});
+        s.dns = DNSStatus::leak(s.dns.leaks()
+                                + QStringList{QStringLiteral("d"), QStringLiteral("e")});
         session.show(s);
         QCOMPARE(panel.leakingResolvers().size(), 3);
         QCOMPARE(panel.moreResolvers(), QStringLiteral("2 more"));

@@ -1,5 +1,5 @@
-#include "StandInSession.h"
 #include "ui/SettingsModel.h"
+#include "StandInSession.h"
 #include "support/TestProgram.h"
 
 #include <QDir>
@@ -60,18 +60,22 @@ private Q_SLOTS:
         write(profile.bundleDirectory + QStringLiteral("/VERIFIED"), "https");
         QCOMPARE(settings.bundleStatus(), QStringLiteral("Version 14.0.4 loaded"));
         write(profile.bundleDirectory + QStringLiteral("/VERIFIED"), "signature\n");
-        QCOMPARE(settings.bundleStatus(), QStringLiteral("Version 14.0.4 loaded · signature verified"));
+        QCOMPARE(settings.bundleStatus(),
+                 QStringLiteral("Version 14.0.4 loaded · signature verified"));
     }
 
     void claimsACheckOfTheSignatureOnlyWhereGnuPGIs()
     {
         StandInSession session(profile);
         const SettingsModel settings(session);
-        QVERIFY2(settings.bundleTrust().contains(QStringLiteral("isn't checked")), qPrintable(settings.bundleTrust()));
+        QVERIFY2(settings.bundleTrust().contains(QStringLiteral("isn't checked")),
+                 qPrintable(settings.bundleTrust()));
         const QString gpg = profile.gnupgCandidates.constFirst() + QStringLiteral("/gpg");
         write(gpg, "#!/bin/sh\n");
         QFile::setPermissions(gpg, QFile::ReadOwner | QFile::ExeOwner);
-        QCOMPARE(settings.bundleTrust(), QStringLiteral("Fetched over HTTPS and checked against the Tor Project's signature."));
+        QCOMPARE(
+            settings.bundleTrust(),
+            QStringLiteral("Fetched over HTTPS and checked against the Tor Project's signature."));
     }
 
     void tellsShellsAndSshApart()
@@ -83,10 +87,12 @@ private Q_SLOTS:
         QCOMPARE(settings.terminalStatus(), QStringLiteral("Not installed"));
         s.terminalInstalled = true;
         session.show(s);
-        QCOMPARE(settings.terminalStatus(), QStringLiteral("Installed in your shell; SSH doesn't use it"));
+        QCOMPARE(settings.terminalStatus(),
+                 QStringLiteral("Installed in your shell; SSH doesn't use it"));
         s.terminalForSsh = true;
         session.show(s);
-        QCOMPARE(settings.terminalStatus(), QStringLiteral("Installed in your shell and SSH config"));
+        QCOMPARE(settings.terminalStatus(),
+                 QStringLiteral("Installed in your shell and SSH config"));
     }
 
     void namesWhatEachSystemHas()
@@ -140,8 +146,10 @@ private Q_SLOTS:
         StandInSession session(profile);
         SettingsModel settings(session);
         Snapshot s;
-        for (const auto &[phase, locked] : {std::pair{Phase::disconnected, false}, {Phase::connecting, true},
-                                            {Phase::connected, true}, {Phase::disconnecting, true},
+        for (const auto &[phase, locked] : {std::pair{Phase::disconnected, false},
+                                            {Phase::connecting, true},
+                                            {Phase::connected, true},
+                                            {Phase::disconnecting, true},
                                             {Phase::stale, false}}) {
             s.phase = phase;
             session.show(s);

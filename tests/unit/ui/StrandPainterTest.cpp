@@ -33,9 +33,11 @@ QImage stroked(const Strand &what)
     painter.setRenderHint(QPainter::Antialiasing);
     const double reach = (what.to.x() - what.from.x()) / 2;
     QPainterPath path(what.from);
-    path.cubicTo(what.from + QPointF(reach, what.bulge), what.to + QPointF(-reach, what.bulge), what.to);
+    path.cubicTo(what.from + QPointF(reach, what.bulge), what.to + QPointF(-reach, what.bulge),
+                 what.to);
     if (what.edge > 0)
-        painter.strokePath(path, QPen(what.edgeColor, what.width + 2 * what.edge, Qt::SolidLine, Qt::FlatCap));
+        painter.strokePath(
+            path, QPen(what.edgeColor, what.width + 2 * what.edge, Qt::SolidLine, Qt::FlatCap));
     painter.strokePath(path, QPen(what.color, what.width, Qt::SolidLine, Qt::FlatCap));
     return image;
 }
@@ -74,7 +76,8 @@ private Q_SLOTS:
         QFETCH(double, bulge);
         QFETCH(double, width);
         QFETCH(double, edge);
-        const Strand one{{20, 100}, to, bulge, width, QColor(0x30, 0x30, 0x30), edge, QColor(Qt::black)};
+        const Strand one{{20, 100},        to, bulge, width, QColor(0x30, 0x30, 0x30), edge,
+                         QColor(Qt::black)};
         const QImage ours = strand(one);
         const QImage theirs = stroked(one);
         QVERIFY(ink(theirs) > 50); // there is something to compare

@@ -1,4 +1,5 @@
-// The part of Apple's UserNotifications that is used, declared from its public documentation, for the syntax check.
+// The part of Apple's UserNotifications that is used, declared from its public documentation, for
+// the syntax check.
 #import <Foundation/Foundation.h>
 
 typedef NS_ENUM(NSUInteger, UNAuthorizationOptions) { UNAuthorizationOptionAlert = 1 << 2 };
@@ -12,10 +13,14 @@ typedef NS_ENUM(NSUInteger, UNAuthorizationOptions) { UNAuthorizationOptionAlert
 @interface UNNotificationTrigger : NSObject
 @end
 @interface UNNotificationRequest : NSObject
-+ (instancetype)requestWithIdentifier:(NSString *)identifier content:(UNNotificationContent *)content trigger:(UNNotificationTrigger *)trigger;
++ (instancetype)requestWithIdentifier:(NSString *)identifier
+                              content:(UNNotificationContent *)content
+                              trigger:(UNNotificationTrigger *)trigger;
 @end
 @interface UNUserNotificationCenter : NSObject
 + (UNUserNotificationCenter *)currentNotificationCenter;
-- (void)requestAuthorizationWithOptions:(UNAuthorizationOptions)options completionHandler:(void (^)(BOOL granted, NSError *error))handler;
-- (void)addNotificationRequest:(UNNotificationRequest *)request withCompletionHandler:(void (^)(NSError *error))handler;
+- (void)requestAuthorizationWithOptions:(UNAuthorizationOptions)options
+                      completionHandler:(void (^)(BOOL granted, NSError *error))handler;
+- (void)addNotificationRequest:(UNNotificationRequest *)request
+         withCompletionHandler:(void (^)(NSError *error))handler;
 @end
