@@ -85,7 +85,7 @@ compile() {
     # A compiler cache is used where there is one, also for what is compiled with precompiled headers, and from another checkout.
     export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros} CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
     ! command -v ccache >/dev/null || options=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
-    [[ -z ${VELDMARK_PLAIN:-} ]] || options+=(-DVELDMARK_PRECOMPILE=OFF)
+    [[ -z ${VELDMARK_PLAIN:-} ]] || options+=(-DVELDMARK_PRECOMPILE=OFF -DVELDMARK_UNITY=OFF)
     # Presets are read only when they are asked for: again after a change of them.
     if [[ ! -f build/$preset/build.ninja || CMakePresets.json -nt build/$preset/configured ]]; then
         busy "Configuring" "$log" cmake --preset "$preset" ${options[@]+"${options[@]}"} || {

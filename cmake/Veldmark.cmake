@@ -59,16 +59,30 @@ function(veldmark_precompiled target kind)
     endif()
 endfunction()
 
-# veldmark_library(ROOM SOURCES a.cpp… ROOMS lower-room… LINK other-library…)
-# One room: a static library whose headers are included as "room/Header.h".
+# A room's sources compiled ten at a time: nearly all of a source's time goes to the headers that it reads. Debian's own build, the
+# archive's and the sanitizers' compile each by itself.
+option(VELDMARK_UNITY "Compile a room's sources together" OFF)
+function(veldmark_together target)
+    if(VELDMARK_UNITY)
+        set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 10)
+        # A source that is included counts as a header, which may have no type of an unnamed namespace in a coroutine.
+        target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+    endif()
+endfunction()
+
+# veldmark_library(ROOM SOURCES a.cpp… ALONE a.cpp… ROOMS lower-room… LINK other-library…)
+# One room: a static library whose headers are included as "room/Header.h". ALONE: those of its sources with a name in an unnamed
+# namespace that another source of the room has too, so that they are not compiled together.
 function(veldmark_library room)
-    cmake_parse_arguments(arg "" "" "SOURCES;ROOMS;LINK" ${ARGN})
+    cmake_parse_arguments(arg "" "" "SOURCES;ALONE;ROOMS;LINK" ${ARGN})
+    set_source_files_properties(${arg_ALONE} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
     add_library(veldmark_${room} STATIC ${arg_SOURCES})
     target_include_directories(veldmark_${room} PUBLIC "${CMAKE_SOURCE_DIR}/src")
     list(TRANSFORM arg_ROOMS PREPEND veldmark_)
     target_link_libraries(veldmark_${room}
         PUBLIC veldmark_options ${arg_ROOMS} ${arg_LINK} Qt6::Core)
     veldmark_precompiled(veldmark_${room} rooms)
+    veldmark_together(veldmark_${room})
 endfunction()
 
 # veldmark_translated(PROGRAM)
@@ -85,11 +99,12 @@ endfunction()
 set(VELDMARK_BUSY_PLACES 3)
 set(VELDMARK_HALF_PLACES 2)
 
-# veldmark_test(room/NameTest ROOMS room… LINK library… SOURCES extra.cpp…)
+# veldmark_test(room/NameTest [ALONE] ROOMS room… LINK library… SOURCES extra.cpp…)
 # The Qt Test class of tests/unit/room/NameTest.cpp, in the room's one test program test-room, known to CTest as
-# unit/room/NameTest. support/TestProgram.h says how a class gets into the program.
+# unit/room/NameTest. support/TestProgram.h says how a class gets into the program. ALONE: a name in its unnamed namespace is another
+# test's of the room too, so that they are not compiled together.
 function(veldmark_test path)
-    cmake_parse_arguments(arg "" "" "ROOMS;LINK;SOURCES" ${ARGN})
+    cmake_parse_arguments(arg "ALONE" "" "ROOMS;LINK;SOURCES" ${ARGN})
     get_filename_component(name ${path} NAME)
     get_filename_component(room ${path} DIRECTORY)
     set(program test-${room})
@@ -104,6 +119,10 @@ function(veldmark_test path)
         else()
             veldmark_precompiled(${program} tests)
         endif()
+        veldmark_together(${program})
+    endif()
+    if(arg_ALONE)
+        set_source_files_properties("${CMAKE_SOURCE_DIR}/tests/unit/${path}.cpp" PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
     endif()
     list(TRANSFORM arg_ROOMS PREPEND veldmark_)
     target_sources(${program} PRIVATE "${CMAKE_SOURCE_DIR}/tests/unit/${path}.cpp" ${arg_SOURCES})

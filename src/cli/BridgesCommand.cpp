@@ -82,7 +82,7 @@ QString row(const QString &name, const QString &text)
 }
 
 // A text from a file or a settings line, fit for a terminal.
-QString shown(const QString &text)
+QString shortened(const QString &text)
 {
     QString line = text.left(60);
     for (QChar &c : line) {
@@ -99,7 +99,7 @@ QStringList problems(const QJsonObject &custom)
     for (const QJsonValue &entry : custom.value(QStringLiteral("invalid")).toArray())
         lines << Text::tr("line %1 is not a bridge line: %2")
                      .arg(entry.toObject().value(QStringLiteral("line")).toInt(),
-                          shown(entry.toObject().value(QStringLiteral("text")).toString()))
+                          shortened(entry.toObject().value(QStringLiteral("text")).toString()))
                      .translated();
     const QJsonArray surplus = custom.value(QStringLiteral("surplus")).toArray();
     if (!surplus.isEmpty())
@@ -148,7 +148,7 @@ QString Report::bridges(const QJsonObject &all)
               .translated();
     const QJsonObject builtin = all.value(QStringLiteral("builtin")).toObject();
     for (auto count = builtin.begin(); count != builtin.end(); ++count)
-        report += row(shown(count.key()), QString::number(count.value().toInt()));
+        report += row(shortened(count.key()), QString::number(count.value().toInt()));
     if (builtin.isEmpty())
         report += QStringLiteral("\n  ")
             + Text::tr("none; get some with: veldmarkctl download-transports").translated();
@@ -158,10 +158,10 @@ QString Report::bridges(const QJsonObject &all)
     report += QStringLiteral("\nTor Expert Bundle\n  ");
     const Text verification = isSigned ? Text::tr("signature verified")
                                        : Text::tr("signature not verified");
-    report += bundle.isEmpty()
-        ? Text::tr("not downloaded").translated()
-        : QStringLiteral("%1, %2").arg(shown(bundle.value(QStringLiteral("version")).toString()),
-                                       verification.translated());
+    report += bundle.isEmpty() ? Text::tr("not downloaded").translated()
+                               : QStringLiteral("%1, %2").arg(
+                                   shortened(bundle.value(QStringLiteral("version")).toString()),
+                                   verification.translated());
 
     const QJsonObject custom = all.value(QStringLiteral("custom")).toObject();
     report += u'\n' + Text::tr("Your own bridges").translated() + QStringLiteral("\n  ")

@@ -26,7 +26,7 @@ const Text offlineText = Text::tr(
     "telling it to; else disconnect and connect again.");
 const QString readKey = QStringLiteral("traffic/read");
 const QString writtenKey = QStringLiteral("traffic/written");
-const QString circuitKey = QStringLiteral("status/circuit-established");
+const QString establishedKey = QStringLiteral("status/circuit-established");
 
 } // namespace
 
@@ -84,7 +84,7 @@ void TorController::lookAtTraffic(std::optional<bool> hasCircuit)
 QCoro::Task<void> TorController::monitor(quint64 run)
 {
     const QPointer<TorController> self(this);
-    const QStringList keys = {readKey, writtenKey, circuitKey};
+    const QStringList keys = {readKey, writtenKey, establishedKey};
     // Tor closes what it has and begins anew. It would send into connections of an address that is
     // gone for minutes.
     const QStringList goOn = {QStringLiteral("SETCONF DisableNetwork=0")};
@@ -131,7 +131,7 @@ QCoro::Task<void> TorController::monitor(quint64 run)
                 bytesRead = read;
             if (const quint64 written = counters->value(writtenKey).toULongLong(&valid); valid)
                 bytesWritten = written;
-            const QString established = counters->value(circuitKey);
+            const QString established = counters->value(establishedKey);
             if (phase() == ConnectionPhase::connected)
                 lookAtTraffic(established.isEmpty()
                                   ? std::nullopt

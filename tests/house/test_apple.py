@@ -67,19 +67,15 @@ def commands():
     """The sources, and the words that all of them are compiled with."""
     sources, words = set(), []
     for entry in json.loads((BUILD / "compile_commands.json").read_text(encoding="utf-8")):
-        path = pathlib.Path(entry["file"])
-        try:
-            name = str(path.relative_to(ROOT))
-        except ValueError:
+        compiled = pathlib.Path(entry["file"])
+        together = compiled.parent.name == "Unity"
+        paths = map(pathlib.Path, re.findall(r'#include "(.+)"', compiled.read_text())) if together else [compiled]
+        names = {str(path.relative_to(ROOT)) for path in paths if path.is_relative_to(ROOT) and path.suffix == ".cpp"}
+        names = {name for name in names if name.startswith(("src/", "tests/unit/", "tests/support/"))}
+        names = {name for name in names if name not in LINUX_ONLY and not name.startswith(LINUX_ROOMS)}
+        if not names:
             continue
-        if (
-            not name.startswith(("src/", "tests/unit/", "tests/support/"))
-            or name in LINUX_ONLY
-            or name.startswith(LINUX_ROOMS)
-            or path.suffix != ".cpp"
-        ):
-            continue
-        sources.add(name)
+        sources |= names
         parts = iter(shlex.split(entry["command"]))
         for word in parts:
             if word == "-isystem":

@@ -187,7 +187,12 @@ class Clone:
                 if subprocess.run(["which", "ccache"], capture_output=True).returncode == 0
                 else []
             )
-            subprocess.run(["cmake", "--preset", "dev", *launcher], cwd=self.place, check=True, stdout=subprocess.DEVNULL)
+            subprocess.run(
+                ["cmake", "--preset", "dev", "-DVELDMARK_UNITY=OFF", *launcher],
+                cwd=self.place,
+                check=True,
+                stdout=subprocess.DEVNULL,
+            )
         # CTest is asked before anything is compiled, and must know this commit's tests.
         status, said = self.compile(["build.ninja"])
         if status:
