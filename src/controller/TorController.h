@@ -95,6 +95,8 @@ public:
         // ProgramApproval::missing(), for the words of a connect. Without it nothing is ever to be
         // approved.
         std::function<std::vector<ProgramApproval>(const QStringList &words)> missingApprovals = {};
+        // ProgramApproval::named(), likewise.
+        std::function<std::vector<ProgramApproval>(const QStringList &words)> namedPrograms = {};
     };
 
     // Registers the settings' defaults, reads the settings, and starts looking for transports
@@ -295,8 +297,14 @@ private:
     static constexpr qint64 slowPathMs = 1501;
 
     // Connect.cpp
-    // Has the administrator asked for each program that is not the system's own.
-    QCoro::Task<Result<void, HelperError>> approvePrograms(Attempt attempt, QStringList words);
+    // Has the administrator asked for each of these programs.
+    QCoro::Task<Result<void, HelperError>> approve(Attempt attempt,
+                                                   std::vector<ProgramApproval> programs);
+    std::vector<ProgramApproval> unapproved(const QStringList &words) const;
+    std::vector<ProgramApproval> namedPrograms(const QStringList &words) const;
+    // Runs the helper's connect with what root needs for the programs in these words. Nobody reads
+    // the answer once the attempt is an old one.
+    QCoro::Task<Result<void, HelperError>> runConnect(Attempt attempt, QStringList words);
     void failAtHelper(const HelperError &error);
     QCoro::Task<Result<QStringList, Text>> bridgeArguments(Attempt attempt, BridgeRequest request);
     // Makes every operation that is still under way an old one and clears what it left shown.
