@@ -179,6 +179,9 @@ public:
     Published<bool> passwordlessInstalled{this, "passwordlessInstalled"};
     Published<std::optional<Text>> startupError{this, "startupError"};
     Published<std::optional<Text>> terminalError{this, "terminalError"};
+    // What to install so that ssh goes through Tor in terminal mode; absent when it does, when the
+    // mode is off, and while programs are still being asked.
+    Published<std::optional<Text>> terminalHint{this, "terminalHint"};
     // What is wrong with the settings' file, a sentence each, the oldest first; until its reader
     // has dismissed it.
     Published<QList<Text>> settingsProblems{this, "settingsProblems"};
@@ -280,9 +283,9 @@ public:
     QCoro::Task<void> removePasswordless();
     std::optional<Text> setTerminalMode(bool on); // as Setting::set()
     void removeTerminalIntegration();
-    // What to install so that ssh goes through Tor in terminal mode; empty when it does. Programs
-    // are asked for it, beside what else happens and once.
-    QCoro::Task<Text> terminalHint();
+    // Resumes when `terminalHint` is known. Programs are asked for it, beside what else happens and
+    // once.
+    QCoro::Task<void> askTerminalHint();
     // Whether the shells, and ssh, read terminal mode's files. Both read the user's files, so not
     // for every redraw.
     bool isTerminalInstalled() const;
