@@ -3751,6 +3751,10 @@ name in the same session has the same ones</source>
         <source>The value of --separate must be 0 or 1.</source>
         <translation>يجب أن تكون قيمة ⁨--separate⁩ إما 0 أو 1.</translation>
     </message>
+    <message>
+        <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
+        <translation>لم تأتِ بـ ⁨%1⁩ أي حزمة من حزم النظام. يُطلب من مسؤول أن يوافق عليه عند الاتصال التالي.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3751,6 +3751,10 @@ hat es in derselben Sitzung später dieselben</translation>
         <source>The value of --separate must be 0 or 1.</source>
         <translation>Der Wert von --separate muss 0 oder 1 sein.</translation>
     </message>
+    <message>
+        <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
+        <translation>Kein Paket des Systems hat %1 gebracht. Beim nächsten Verbinden wird ein Administrator um seine Zustimmung dazu gebeten.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3751,6 +3751,10 @@ el mismo nombre en la misma sesión, tiene los mismos</translation>
         <source>The value of --separate must be 0 or 1.</source>
         <translation>El valor de --separate debe ser 0 o 1.</translation>
     </message>
+    <message>
+        <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
+        <translation>%1 no procede de ningún paquete del sistema. En la próxima conexión se pide a un administrador que lo apruebe.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3751,6 +3751,10 @@ name in the same session has the same ones</source>
         <source>The value of --separate must be 0 or 1.</source>
         <translation>مقدار ⁨--separate⁩ باید 0 یا 1 باشد.</translation>
     </message>
+    <message>
+        <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
+        <translation>هیچ‌یک از بسته‌های سیستم ⁨%1⁩ را نیاورده است. در اتصال بعدی از مدیر سیستم خواسته می‌شود آن را تأیید کند.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

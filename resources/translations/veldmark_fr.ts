@@ -3751,6 +3751,10 @@ le même nom dans la même session donne les mêmes circuits</translation>
         <source>The value of --separate must be 0 or 1.</source>
         <translation>La valeur de --separate doit être 0 ou 1.</translation>
     </message>
+    <message>
+        <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
+        <translation>%1 ne provient d’aucun paquet du système. À la prochaine connexion, un administrateur est invité à l’approuver.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

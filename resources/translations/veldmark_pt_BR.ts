@@ -3751,6 +3751,10 @@ o mesmo nome na mesma sessão usa os mesmos circuitos</translation>
         <source>The value of --separate must be 0 or 1.</source>
         <translation>O valor de --separate deve ser 0 ou 1.</translation>
     </message>
+    <message>
+        <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
+        <translation>%1 não veio de nenhum pacote do sistema. Na próxima conexão, pede-se a um administrador que o aprove.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

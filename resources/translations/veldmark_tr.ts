@@ -3751,6 +3751,10 @@ aynı adla yapılan sonraki çalıştırma aynı devreleri kullanır</translatio
         <source>The value of --separate must be 0 or 1.</source>
         <translation>--separate değeri 0 ya da 1 olmalı.</translation>
     </message>
+    <message>
+        <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
+        <translation>%1 sistemin hiçbir paketinden gelmiyor. Bir sonraki bağlantıda bir yöneticiden onu onaylaması istenir.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

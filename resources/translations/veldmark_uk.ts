@@ -3751,6 +3751,10 @@ name in the same session has the same ones</source>
         <source>The value of --separate must be 0 or 1.</source>
         <translation>Значенням --separate має бути 0 або 1.</translation>
     </message>
+    <message>
+        <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
+        <translation>%1 не походить із жодного пакунка системи. Під час наступного з’єднання адміністратора попросять це схвалити.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

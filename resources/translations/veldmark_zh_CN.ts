@@ -3751,6 +3751,10 @@ name in the same session has the same ones</source>
         <source>The value of --separate must be 0 or 1.</source>
         <translation>--separate 的值必须是 0 或 1。</translation>
     </message>
+    <message>
+        <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
+        <translation>%1 不属于系统的任何软件包。下次连接时会请管理员批准它。</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -104,8 +104,8 @@ void ControllerSession::read()
     next.startupError = c.startupError();
     followTerminalMode();
     next.terminalError = c.terminalError();
-    if (!next.terminalError && !m_terminalHint.isEmpty())
-        next.terminalError = m_terminalHint;
+    if (!next.terminalError)
+        next.terminalError = c.terminalHint();
     next.terminalInstalled = m_terminalInstalled;
     next.terminalForSsh = m_terminalForSsh;
     next.torPath = c.torPath();
@@ -120,25 +120,20 @@ void ControllerSession::read()
 void ControllerSession::followTerminalMode()
 {
     const bool isOn = m_controller.terminalMode();
-    if (isOn != std::exchange(m_terminalModeWasOn, isOn)) {
-        m_terminalHint = {};
-        if (isOn)
-            askTerminalHint();
-    }
+    if (isOn != std::exchange(m_terminalModeWasOn, isOn) && isOn)
+        lookOnceSshIsKnown();
     if (!std::exchange(m_terminalIsKnown, true)) {
         m_terminalInstalled = m_controller.isTerminalInstalled();
         m_terminalForSsh = m_terminalInstalled && m_controller.isTerminalUsedBySsh();
     }
 }
 
-QCoro::Task<void> ControllerSession::askTerminalHint()
+QCoro::Task<void> ControllerSession::lookOnceSshIsKnown()
 {
     const QPointer<ControllerSession> self(this);
-    const Text hint = co_await m_controller.terminalHint();
-    if (!self || !m_controller.terminalMode())
-        co_return;
-    m_terminalHint = hint;
-    lookAgain(); // what concerns ssh is installed by now
+    co_await m_controller.askTerminalHint();
+    if (self)
+        lookAgain(); // what concerns ssh is installed by now
 }
 
 std::vector<ExitChoice> ControllerSession::exitChoices() const

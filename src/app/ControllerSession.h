@@ -61,7 +61,7 @@ private:
     QCoro::Task<void> readCircuits();
     QCoro::Task<void> takeNewIdentity();
     void followTerminalMode();
-    QCoro::Task<void> askTerminalHint();
+    QCoro::Task<void> lookOnceSshIsKnown();
     QCoro::Task<void> launch(QString application);
     QCoro::Task<void> look();
 
@@ -70,7 +70,6 @@ private:
     bool m_scheduled = false;
     bool m_isReadingCircuits = false;
     bool m_circuitsWanted = false; // once more after those that are being read
-    Text m_terminalHint;           // asked when terminal mode is switched on
     bool m_terminalModeWasOn = false;
     bool m_terminalIsKnown = false; // the two below are true; they cost reading the user's files
     bool m_terminalInstalled = false;

@@ -190,6 +190,15 @@ QCoro::Task<ExitStatus> showBridges(Invocation invocation, PlatformProfile profi
     co_return allValid ? ExitStatus::done : ExitStatus::failed;
 }
 
+QString downloadedText(const PlatformProfile &profile, const QString &told)
+{
+    return told.isEmpty()
+        ? Text::tr("Installed Tor Expert Bundle %1, signature verified.")
+              .arg(TransportDownloader::installedVersion(profile).value_or(QString()))
+              .translated()
+        : told;
+}
+
 QCoro::Task<ExitStatus> downloadTransportsHere(PlatformProfile profile)
 {
     const auto lock = lockInstance(profile); // nobody connects meanwhile: this goes direct
@@ -217,9 +226,8 @@ QCoro::Task<ExitStatus> downloadTransportsHere(PlatformProfile profile)
         Console::printError(controller.transportDownload().value_or(Text::tr("Cancelled.")));
         co_return ExitStatus::failed;
     }
-    Console::print(controller.transportDownload().value_or(
-        Text::tr("Installed Tor Expert Bundle %1, signature verified.")
-            .arg(TransportDownloader::installedVersion(profile).value_or(QString()))));
+    Console::print(
+        downloadedText(profile, controller.transportDownload().value_or(Text()).translated()));
     co_return ExitStatus::done;
 }
 

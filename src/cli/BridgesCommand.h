@@ -16,6 +16,9 @@ struct PluggableTransports;
 // Fails when a custom line is not valid.
 QCoro::Task<ExitStatus> showBridges(Invocation invocation, PlatformProfile profile);
 
+// What a download that went well comes to; `told`: what the controller has to say of it, if
+// anything.
+QString downloadedText(const PlatformProfile &profile, const QString &told);
 // `veldmarkctl download-transports` where no instance runs. Ctrl-C ends it and leaves nothing half
 // done.
 QCoro::Task<ExitStatus> downloadTransportsHere(PlatformProfile profile);

@@ -95,6 +95,15 @@ void tellOfBridges(const Invocation &invocation)
         Console::printError(problem);
 }
 
+// What came of terminal mode, where not all is well: in the windows it stands beside the switch.
+void tellOfTerminal(const Invocation &invocation, const QJsonObject &state)
+{
+    if (invocation.verb != Verb::Id::set || invocation.key != QLatin1String("terminalMode"))
+        return;
+    if (const QString told = Report::terminal(state); !told.isEmpty())
+        Console::print(told);
+}
+
 void showConnecting(const QJsonObject &state, ProgressLine &progress, QString &shownProblem)
 {
     Console::draw(progress.update(state.value(QStringLiteral("bootstrapProgress")).toDouble(),
@@ -106,7 +115,8 @@ void showConnecting(const QJsonObject &state, ProgressLine &progress, QString &s
     Console::print(problem);
 }
 
-QCoro::Task<ExitStatus> askInstance(Invocation invocation, std::shared_ptr<InstanceClient> instance)
+QCoro::Task<ExitStatus> askInstance(Invocation invocation, PlatformProfile profile,
+                                    std::shared_ptr<InstanceClient> instance)
 {
     const auto last = std::make_shared<QJsonObject>();
     const auto progress = std::make_shared<ProgressLine>(Console::isTerminal(), Console::width());
@@ -132,14 +142,16 @@ QCoro::Task<ExitStatus> askInstance(Invocation invocation, std::shared_ptr<Insta
         co_return answer.error().isUsage() ? ExitStatus::usage : ExitStatus::failed;
     }
     tellOfBridges(invocation);
+    tellOfTerminal(invocation, *last);
+    if (invocation.verb == Verb::Id::downloadTransports) {
+        // Drawn already as the last line of the progress, unless that has cut it off.
+        const QString told = last->value(QStringLiteral("transportDownload")).toString();
+        if (told.isEmpty() || (Console::isTerminal() && told.size() >= Console::width()))
+            Console::print(downloadedText(profile, told));
+    }
     if (showsEveryState(invocation) || !showsLastState(invocation))
         co_return ExitStatus::done;
     co_return show(invocation, *last) ? ExitStatus::done : ExitStatus::usage;
-}
-
-QString noteLine(const QString &text)
-{
-    return text.isEmpty() ? QString() : text + u'\n';
 }
 
 // What can be done without a running instance, by a controller that lives for this one command.
@@ -159,8 +171,10 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
         }
         tellOfBridges(invocation);
         if (invocation.key == controller.terminalMode.name() && controller.terminalMode()) {
-            const Text hint = co_await controller.terminalHint();
-            Console::draw(noteLine(controller.terminalError().value_or(hint).translated()));
+            co_await controller.askTerminalHint();
+            tellOfTerminal(
+                invocation,
+                forReader(invocation, publishedState(controller), publishedTexts(controller)));
         }
         co_return ExitStatus::done;
     }
@@ -181,7 +195,9 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
             }
         }
     } else if (invocation.verb == Verb::Id::status || invocation.verb == Verb::Id::get) {
+        const auto asking = controller.askTerminalHint();
         co_await controller.locateTransports();
+        co_await asking;
     }
     co_return show(invocation,
                    forReader(invocation, publishedState(controller), publishedTexts(controller)))
@@ -234,7 +250,7 @@ QCoro::Task<ExitStatus> execute(Invocation invocation, PlatformProfile profile)
         invocation.key = *path;
     }
     if (const auto instance = InstanceClient::connectTo(profile))
-        return askInstance(invocation, instance);
+        return askInstance(invocation, profile, instance);
     switch (invocation.verb) {
     case Verb::Id::status:
     case Verb::Id::get:

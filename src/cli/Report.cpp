@@ -172,11 +172,17 @@ QString status(const QJsonObject &state)
         report += row(Text::tr("Cause"), problem);
     if (const QString error = text(state, "errorMessage"); !error.isEmpty())
         report += row(Text::tr("Problem"), error);
-    if (const QString error = text(state, "terminalError"); !error.isEmpty())
-        report += row(Text::tr("Terminal"), error);
+    if (const QString told = terminal(state); !told.isEmpty())
+        report += row(Text::tr("Terminal"), told);
     for (const QJsonValue &problem : state.value(QStringLiteral("settingsProblems")).toArray())
         report += row(Text::tr("Settings"), problem.toString());
     return report;
+}
+
+QString terminal(const QJsonObject &state)
+{
+    const QString error = text(state, "terminalError");
+    return error.isEmpty() ? text(state, "terminalHint") : error;
 }
 
 QString circuits(const QJsonObject &state)

@@ -9,6 +9,8 @@ namespace veldmark::Report {
 
 QString status(const QJsonObject &state);
 QString circuits(const QJsonObject &state);
+// What is wrong with terminal mode, or what ssh still lacks for it; empty when all is well.
+QString terminal(const QJsonObject &state);
 
 // A value of the state as `get` prints it: text as it is, "true"/"false", numbers, nothing for an
 // absent value, JSON for the rest.

@@ -149,17 +149,23 @@ QCoro::Task<Result<QStringList, Text>> TorController::bridgeArguments(Attempt at
         [](const BridgeError &error) { return error.description(); });
 }
 
-QCoro::Task<Result<void, HelperError>> TorController::approvePrograms(Attempt attempt,
-                                                                      QStringList words)
+std::vector<ProgramApproval> TorController::unapproved(const QStringList &words) const
+{
+    return m_services.missingApprovals ? m_services.missingApprovals(words)
+                                       : std::vector<ProgramApproval>();
+}
+
+std::vector<ProgramApproval> TorController::namedPrograms(const QStringList &words) const
+{
+    return m_services.namedPrograms ? m_services.namedPrograms(words)
+                                    : std::vector<ProgramApproval>();
+}
+
+QCoro::Task<Result<void, HelperError>> TorController::approve(Attempt attempt,
+                                                              std::vector<ProgramApproval> programs)
 {
     const QPointer<TorController> self(this);
-    const auto missing = m_services.missingApprovals ? m_services.missingApprovals(words)
-                                                     : std::vector<ProgramApproval>();
-    // root verifies what it brings itself
-    const bool isBundleGiven = words.contains(QLatin1String("--bundle"));
-    for (const ProgramApproval &program : missing) {
-        if (isBundleGiven && SignedBundle::brings(m_services.profile, program))
-            continue;
+    for (const ProgramApproval &program : programs) {
         statusDetail = Text::tr("Waiting for an administrator to approve a program…");
         const QStringList asked = program.words();
         const auto helper = co_await m_services.privileged.runWithPrompt(asked);
@@ -169,6 +175,39 @@ QCoro::Task<Result<void, HelperError>> TorController::approvePrograms(Attempt at
             co_return Failure(helper.error());
     }
     co_return Result<void, HelperError>{};
+}
+
+QCoro::Task<Result<void, HelperError>> TorController::runConnect(Attempt attempt, QStringList words)
+{
+    const QPointer<TorController> self(this);
+    QStringList bundle = bundleWords(m_services, words);
+    std::vector<ProgramApproval> programs = unapproved(words);
+    if (!bundle.isEmpty()) // root verifies what it brings itself
+        std::erase_if(programs, [this](const ProgramApproval &program) {
+            return SignedBundle::brings(m_services.profile, program);
+        });
+    for (bool isByName = false;;) {
+        auto approving = approve(attempt, programs);
+        const auto approved = co_await approving;
+        if (!self || !isCurrent(attempt) || !approved)
+            co_return approved;
+        statusDetail = Text::tr("Waiting for administrator approval…");
+        const QStringList asked = words + bundle;
+        const auto helper = co_await m_services.privileged.runHelper(asked);
+        if (!self || !isCurrent(attempt))
+            co_return Failure(HelperError::cancelled()); // nobody reads this
+        if (helper)
+            co_return Result<void, HelperError>{};
+        if (helper.error().kind() != HelperError::Kind::Unapproved || isByName)
+            co_return Failure(helper.error());
+        // Root does not find a program in the signed bundle, so that an administrator is asked for
+        // it by name; or it has a copy of it, but one that a newer bundle has replaced.
+        isByName = bundle.isEmpty();
+        bundle.clear();
+        programs = isByName ? namedPrograms(words) : unapproved(words);
+        if (isByName && programs.empty())
+            co_return Failure(helper.error());
+    }
 }
 
 QCoro::Task<void> TorController::connect()
@@ -253,38 +292,13 @@ QCoro::Task<void> TorController::connect()
     if (!exit.isEmpty())
         arguments << QStringLiteral("--exit") << exit;
     arguments += *bridges;
-    const QStringList bundle = bundleWords(m_services, arguments);
-    const QStringList first = arguments + bundle;
-    const auto approved = co_await approvePrograms(attempt, first);
-    if (!self || !isCurrent(attempt))
-        co_return;
-    if (!approved) {
-        failAtHelper(approved.error());
-        co_return;
-    }
     // Under the password-free rule the helper itself says whether it has to be asked for.
     if (isBlocked && arguments != m_sessionWords && !m_services.privileged.passwordlessInstalled())
         arguments[0] = QStringLiteral("replace");
-    statusDetail = Text::tr("Waiting for administrator approval…");
-    const QStringList asked = arguments + bundle;
-    auto helper = co_await m_services.privileged.runHelper(asked);
+    auto running = runConnect(attempt, arguments);
+    const auto helper = co_await running;
     if (!self || !isCurrent(attempt))
         co_return;
-    if (!helper && helper.error().kind() == HelperError::Kind::Unapproved && !bundle.isEmpty()) {
-        // Root does not find the program in a signed bundle, so that an administrator is asked for
-        // it by name.
-        const auto named = co_await approvePrograms(attempt, arguments);
-        if (!self || !isCurrent(attempt))
-            co_return;
-        if (!named) {
-            failAtHelper(named.error());
-            co_return;
-        }
-        statusDetail = Text::tr("Waiting for administrator approval…");
-        helper = co_await m_services.privileged.runHelper(arguments);
-        if (!self || !isCurrent(attempt))
-            co_return;
-    }
     if (!helper) {
         failAtHelper(helper.error());
         co_return;

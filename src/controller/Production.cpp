@@ -84,6 +84,8 @@ Production::Production(const PlatformProfile &profile)
               },
           .missingApprovals
           = [this](const QStringList &words) { return ProgramApproval::missing(m_profile, words); },
+          .namedPrograms =
+              [this](const QStringList &words) { return ProgramApproval::named(m_profile, words); },
       }),
       m_wake(QDBusConnection::systemBus())
 {

@@ -7,6 +7,7 @@
 
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace veldmark {
 
@@ -49,8 +50,8 @@ enum class Scope { always, connection };
 
 // A published field that the user owns, kept in the owner's store under its name: anyone may set
 // it, and each `set` is on disk when it returns, also when the value stays the same. What goes
-// wrong with the file is what `set` returns, one sentence, and is shown by the owner; the value
-// holds all the same.
+// wrong with the file is what `set` returns, one sentence or more, and is shown by the owner; the
+// value holds all the same.
 template <typename T> class Setting : public Published<T> {
 public:
     // `fallback` holds where the user has no value of their own.
@@ -70,13 +71,15 @@ public:
     {
         SettingsStore &store = m_owner.store();
         writeSetting(store, this->name(), value);
-        std::optional<Text> problem;
+        std::vector<Text> problems; // a damaged file may be kept, and no new one be written
         while (const auto next = store.problem())
-            problem = next;
+            problems.push_back(*next);
         Published<T>::operator=(std::move(value));
-        if (problem)
-            m_owner.showProblem(*problem);
-        return problem;
+        if (problems.empty())
+            return std::nullopt;
+        const Text all = Text::joined(problems);
+        m_owner.showProblem(all);
+        return all;
     }
 
 private:

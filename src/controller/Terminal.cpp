@@ -25,6 +25,7 @@ void TorController::applyTerminalMode()
         if (!isKnown && !terminalError())
             installForSsh(m_terminalRun);
     }
+    askTerminalHint();
     setShellsActive(terminalMode() && phase() == ConnectionPhase::connected);
 }
 
@@ -54,13 +55,17 @@ QCoro::Task<void> TorController::installForSsh(quint64 run)
     showTerminalProblem(m_services.terminal.install());
 }
 
-QCoro::Task<Text> TorController::terminalHint()
+QCoro::Task<void> TorController::askTerminalHint()
 {
     const QPointer<TorController> self(this);
-    auto asking = m_services.terminal.askForSocksCommand();
-    co_await asking;
-    co_return self &&m_services.terminal.knowsSocksCommand() ? m_services.terminal.sshHint()
-                                                             : Text();
+    if (terminalMode()) {
+        auto asking = m_services.terminal.askForSocksCommand();
+        co_await asking;
+        if (!self || (terminalMode() && !m_services.terminal.knowsSocksCommand()))
+            co_return;
+    }
+    const Text hint = terminalMode() ? m_services.terminal.sshHint() : Text();
+    terminalHint = hint.isEmpty() ? std::nullopt : std::optional(hint);
 }
 
 bool TorController::isTerminalInstalled() const

@@ -14,6 +14,7 @@ TorController::TorController(const Services &services, QObject *parent)
     passwordlessInstalled = services.privileged.passwordlessInstalled();
     readSettingsProblems();
     locateTransports();
+    askTerminalHint();
 }
 
 TorController::~TorController()

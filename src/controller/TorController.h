@@ -95,6 +95,8 @@ public:
         // ProgramApproval::missing(), for the words of a connect. Without it nothing is ever to be
         // approved.
         std::function<std::vector<ProgramApproval>(const QStringList &words)> missingApprovals = {};
+        // ProgramApproval::named(), likewise.
+        std::function<std::vector<ProgramApproval>(const QStringList &words)> namedPrograms = {};
     };
 
     // Registers the settings' defaults, reads the settings, and starts looking for transports
@@ -177,6 +179,9 @@ public:
     Published<bool> passwordlessInstalled{this, "passwordlessInstalled"};
     Published<std::optional<Text>> startupError{this, "startupError"};
     Published<std::optional<Text>> terminalError{this, "terminalError"};
+    // What to install so that ssh goes through Tor in terminal mode; absent when it does, when the
+    // mode is off, and while programs are still being asked.
+    Published<std::optional<Text>> terminalHint{this, "terminalHint"};
     // What is wrong with the settings' file, a sentence each, the oldest first; until its reader
     // has dismissed it.
     Published<QList<Text>> settingsProblems{this, "settingsProblems"};
@@ -278,9 +283,9 @@ public:
     QCoro::Task<void> removePasswordless();
     std::optional<Text> setTerminalMode(bool on); // as Setting::set()
     void removeTerminalIntegration();
-    // What to install so that ssh goes through Tor in terminal mode; empty when it does. Programs
-    // are asked for it, beside what else happens and once.
-    QCoro::Task<Text> terminalHint();
+    // Resumes when `terminalHint` is known. Programs are asked for it, beside what else happens and
+    // once.
+    QCoro::Task<void> askTerminalHint();
     // Whether the shells, and ssh, read terminal mode's files. Both read the user's files, so not
     // for every redraw.
     bool isTerminalInstalled() const;
@@ -295,8 +300,14 @@ private:
     static constexpr qint64 slowPathMs = 1501;
 
     // Connect.cpp
-    // Has the administrator asked for each program that is not the system's own.
-    QCoro::Task<Result<void, HelperError>> approvePrograms(Attempt attempt, QStringList words);
+    // Has the administrator asked for each of these programs.
+    QCoro::Task<Result<void, HelperError>> approve(Attempt attempt,
+                                                   std::vector<ProgramApproval> programs);
+    std::vector<ProgramApproval> unapproved(const QStringList &words) const;
+    std::vector<ProgramApproval> namedPrograms(const QStringList &words) const;
+    // Runs the helper's connect with what root needs for the programs in these words. Nobody reads
+    // the answer once the attempt is an old one.
+    QCoro::Task<Result<void, HelperError>> runConnect(Attempt attempt, QStringList words);
     void failAtHelper(const HelperError &error);
     QCoro::Task<Result<QStringList, Text>> bridgeArguments(Attempt attempt, BridgeRequest request);
     // Makes every operation that is still under way an old one and clears what it left shown.

@@ -1,4 +1,6 @@
 #include "doctor/Checks.h"
+#include "system/ProgramApproval.h"
+#include "system/SignedBundle.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -54,6 +56,29 @@ std::optional<uid_t> otherWriter(const Machine &machine, const QString &path)
             return owner->user;
     }
     return std::nullopt;
+}
+
+// Whether the helper that runs without a password is another version's.
+bool isHelperOutdated(const Machine &machine)
+{
+    return machine.isPasswordless()
+        && Machine::readFile(machine.profile.installedHelper)
+        != Machine::readFile(machine.profile.bundledHelper());
+}
+
+// The programs for which a connect asks an administrator.
+std::vector<ProgramApproval> unapproved(const Machine &machine, const QStringList &arguments)
+{
+    if (machine.user == 0) // root needs to ask nobody
+        return {};
+    auto programs = ProgramApproval::missing(machine.profile, arguments);
+    const bool isVerified = !isHelperOutdated(machine)
+        && !SignedBundle::words(machine.profile, programs).isEmpty();
+    if (isVerified)
+        std::erase_if(programs, [&machine](const ProgramApproval &program) {
+            return SignedBundle::brings(machine.profile, program);
+        });
+    return programs;
 }
 
 } // namespace
@@ -149,8 +174,7 @@ Findings helperFindings(const Machine &machine)
              Text::tr("Veldmark's helper is installed, and only root can change it: %1.")
                  .arg(helper),
              {}});
-    if (machine.isPasswordless()
-        && Machine::readFile(machine.profile.installedHelper) != Machine::readFile(helper))
+    if (isHelperOutdated(machine))
         findings.push_back(
             {helperName, Level::note,
              Text::tr(
@@ -192,11 +216,20 @@ Findings bridgeFindings(const Machine &machine)
              isTyped ? QStringLiteral("veldmarkctl set bridgeChoice off") : download,
              isTyped ? Button::none : Button::download}};
     }
-    return {{bridgesName,
-             Level::good,
-             Text::tr("The chosen bridges (%1) can be used: %2.")
-                 .arg(displayName(machine.bridges.choice), QString::number(lines->size())),
-             {}}};
+    Findings findings{
+        {bridgesName,
+         Level::good,
+         Text::tr("The chosen bridges (%1) can be used: %2.")
+             .arg(displayName(machine.bridges.choice), QString::number(lines->size())),
+         {}}};
+    for (const ProgramApproval &program : unapproved(machine, *arguments))
+        findings.push_back({bridgesName,
+                            Level::note,
+                            Text::tr("No package of the system brought %1. An administrator is "
+                                     "asked to approve it at the next connect.")
+                                .arg(program.path),
+                            {}});
+    return findings;
 }
 
 } // namespace veldmark::Doctor

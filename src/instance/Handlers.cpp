@@ -76,6 +76,13 @@ QCoro::Task<Outcome> set(Call call)
     if (!done)
         co_return Failure(InstanceError(done.error().description(),
                                         done.error().kind() == SettingError::Kind::Refused));
+    if (key.toString() == call.controller->terminalMode.name()) {
+        // Whoever has switched it on is told what ssh lacks.
+        const auto controller = call.controller;
+        co_await controller->askTerminalHint();
+        if (controller)
+            call.lines->write(stateMessage(*controller));
+    }
     co_return {};
 }
 

@@ -67,7 +67,7 @@ public:
         sendNow();
     }
 
-    // The other end never misses the last state, also when a command fails.
+    // The last word, with everything that the command has changed, also when it has failed.
     ~StateStream() override
     {
         if (m_scheduled || m_behind)
@@ -205,8 +205,6 @@ QCoro::Task<Result<void, InstanceError>> InstanceServer::execute(QJsonObject req
     // one.
     if (controller && verb->needsSession && controller->phase() != ConnectionPhase::connected)
         co_return refusal(Text::tr("The session has ended: %1").arg(controller->statusDetail()));
-    if (controller && stream)
-        stream->sendNow(); // the last word, with everything that the command changed
     co_return {};
 }
 

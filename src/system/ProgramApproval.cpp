@@ -80,8 +80,8 @@ QStringList ProgramApproval::words() const
             digest};
 }
 
-std::vector<ProgramApproval> ProgramApproval::missing(const PlatformProfile &profile,
-                                                      const QStringList &words)
+std::vector<ProgramApproval> ProgramApproval::named(const PlatformProfile &profile,
+                                                    const QStringList &words)
 {
     std::vector<ProgramApproval> found;
     for (const Role &role : roles) {
@@ -92,11 +92,20 @@ std::vector<ProgramApproval> ProgramApproval::missing(const PlatformProfile &pro
         if (path.isEmpty() || isSystems(profile, path, role))
             continue;
         const QString digest = digestOf(path);
-        const QString name = QLatin1String(role.name);
-        const QString copy = profile.approvedPrograms + u'/' + digest + u'/' + name;
-        if (!digest.isEmpty() && !QFileInfo::exists(copy))
-            found.push_back({path, name, digest});
+        if (!digest.isEmpty())
+            found.push_back({path, QLatin1String(role.name), digest});
     }
+    return found;
+}
+
+std::vector<ProgramApproval> ProgramApproval::missing(const PlatformProfile &profile,
+                                                      const QStringList &words)
+{
+    std::vector<ProgramApproval> found = named(profile, words);
+    std::erase_if(found, [&profile](const ProgramApproval &program) {
+        return QFileInfo::exists(profile.approvedPrograms + u'/' + program.digest + u'/'
+                                 + program.role);
+    });
     return found;
 }
 

@@ -23,6 +23,10 @@ struct ProgramApproval {
     // to approve. Reads such a program whole: some ten milliseconds.
     static std::vector<ProgramApproval> missing(const PlatformProfile &profile,
                                                 const QStringList &words);
+    // All of them that are not the system's own, also those of which root has a copy: the helper
+    // runs no copy of a bundle that a newer one has replaced, and only root knows which those are.
+    static std::vector<ProgramApproval> named(const PlatformProfile &profile,
+                                              const QStringList &words);
 };
 
 } // namespace veldmark

@@ -94,16 +94,15 @@ QString SettingsModel::bridgeSource() const
 
 QString SettingsModel::bundleVersion() const
 {
-    QFile file(m_session.profile().bundleDirectory + QStringLiteral("/VERSION"));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.read(64)).trimmed() : QString();
+    return TransportDownloader::installedVersion(m_session.profile()).value_or(QString());
 }
 
 QString SettingsModel::bundleStatus() const
 {
     if (!bundleLoaded())
         return tr("Not downloaded");
-    QFile how(m_session.profile().bundleDirectory + QStringLiteral("/VERIFIED"));
-    const bool verified = how.open(QIODevice::ReadOnly) && how.read(64).trimmed() == "signature";
+    const bool verified = TransportDownloader::installedVerification(m_session.profile())
+        == QLatin1String("signature");
     const QString loaded = tr("Version %1 loaded").arg(bundleVersion());
     return verified ? loaded + QStringLiteral(" · ") + tr("signature verified") : loaded;
 }

@@ -528,7 +528,7 @@ class OneInstanceAndBadInput(LabCase):
             "optimizeSpeed latencyMs optimizeStatus isOptimizing transports activeBridge terminalMode phase activeMode "
             "bootstrapProgress statusDetail exitIP torVerified leakStatus bytesRead bytesWritten isChecking canCancel "
             "errorMessage dnsStatus passwordlessInstalled startupError circuits circuitError transportDownload "
-            "terminalError settingsProblems"
+            "terminalError terminalHint settingsProblems"
         ).split():
             self.assertIn(field, state)
         self.assertEqual(state["leakStatus"], "notTested")

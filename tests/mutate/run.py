@@ -61,6 +61,7 @@ TOUCHED = {
     "files": "parts session texts watcher programs",
     "linux-exempt": "launch firewall session",
     "linux-loopback": "hostile",
+    "linux-bundle": "bundle programs parts options",
     "linux-bridges": "texts firewall hostile",
     "linux-firewall": "rules texts firewall session watcher",
     "linux-owner": "owner",

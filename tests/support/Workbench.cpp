@@ -172,6 +172,10 @@ void Workbench::restart()
             [this](const QStringList &words) {
                 return missingApprovals ? missingApprovals(words) : std::vector<ProgramApproval>();
             },
+        .namedPrograms =
+            [this](const QStringList &words) {
+                return namedPrograms ? namedPrograms(words) : std::vector<ProgramApproval>();
+            },
     });
     settle();
 }

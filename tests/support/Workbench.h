@@ -114,6 +114,7 @@ public:
     ScriptedApplications applications;
     // none, unless set before a connect
     std::function<std::vector<ProgramApproval>(const QStringList &words)> missingApprovals;
+    std::function<std::vector<ProgramApproval>(const QStringList &words)> namedPrograms;
     PluggableTransports transports;                        // what a search finds
     int searches = 0;                                      // for transports
     std::function<QCoro::Task<void>()> beforeSearchAnswer; // what is found is settled before it

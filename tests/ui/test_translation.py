@@ -127,14 +127,14 @@ class Helper(unittest.TestCase):
             )
         for path in (SOURCES / "launch").glob("*.cpp"):
             text = path.read_text()
-            yield from re.findall(r'(?:fail\((?:errors, )?|return )"([A-Z][^"]*\.)"', text)
+            yield from re.findall(r'(?:fail\(\s*(?:errors,\s*)?|return\s+)"([A-Z][^"]*\.)"', text)
             yield from (words + "%1." for words in re.findall(r'fail\("([^"]*)" \+ \w+ \+ "\."\)', text))
             for start in re.findall(r'return sentence\("([^"]*)"', text):
                 yield from (start + ".", start + " (%1).")
 
     def test_each_sentence_is_known(self):
         source = (SOURCES / "system" / "HelperSentences.cpp").read_text()
-        known = {joined(strings) for strings in re.findall(r'QT_TRANSLATE_NOOP\("veldmark::Text", ' + STRINGS + r"\)", source)}
+        known = {joined(strings) for strings in re.findall(r'QT_TRANSLATE_NOOP\(\s*"veldmark::Text",\s*' + STRINGS + r"\)", source)}
         said = {form for form in self.said() if not re.fullmatch(r"(?:%\d)+", form)}
         self.assertGreater(len(said), 120)
         self.assertEqual(sorted(said - known), [])

@@ -41,6 +41,11 @@ std::optional<ExitStatus> outcome(Id verb, const PlatformProfile &profile, const
     return *ended;
 }
 
+QCoro::Task<TransportDownloader::Outcome> unverified()
+{
+    co_return InstalledBundle{u"14.0.4"_s, false};
+}
+
 } // namespace
 
 // Whole commands, with the real processes that they start.
@@ -169,6 +174,67 @@ private Q_SLOTS:
             QVERIFY(said().startsWith(u"veldmarkctl: The settings file couldn't be read."_s));
             QCOMPARE(said(), QString());
         }
+    }
+
+    void whatSshLacksForTerminalModeIsTold_data()
+    {
+        QTest::addColumn<bool>("running");
+        QTest::newRow("without an instance") << false;
+        QTest::newRow("through a running one") << true;
+    }
+
+    void whatSshLacksForTerminalModeIsTold()
+    {
+        QFETCH(bool, running);
+        Workbench bench; // without a netcat
+        Result<std::unique_ptr<InstanceServer>, Text> server;
+        if (running) {
+            server = InstanceServer::start(bench.controller());
+            QVERIFY(server);
+        }
+        const auto said = [&bench](Id verb, const QString &value = {}) {
+            const Output output;
+            const auto ended = outcome(verb, bench.profile, u"terminalMode"_s, value);
+            return ended == ExitStatus::done ? output.text() : u"it failed"_s;
+        };
+        const QString hint
+            = u"ssh doesn't go through Tor yet: it needs a netcat that speaks SOCKS."_s;
+        const QString row = u"\n  Terminal    "_s + hint;
+        QVERIFY(!said(Id::status).contains(hint));
+        QVERIFY(said(Id::set, u"true"_s).startsWith(hint));
+        const QString status = said(Id::status);
+        QVERIFY2(status.contains(row), qPrintable(status));
+        QCOMPARE(said(Id::set, u"false"_s), QString());
+        QVERIFY(!said(Id::status).contains(hint));
+        bench.writeFile(bench.profile.netcatCandidates.constFirst(),
+                        "#!/bin/sh\necho '[-X proxy_protocol] [-x proxy_address[:port]]'\n", true);
+        QCOMPARE(said(Id::set, u"true"_s), QString());
+        QVERIFY(!said(Id::status).contains(u"Terminal"_s));
+        if (running)
+            server->reset();
+        settle();
+    }
+
+    void aDownloadThroughARunningInstanceEndsWithItsOutcome()
+    {
+        Workbench bench;
+        auto server = InstanceServer::start(bench.controller());
+        QVERIFY(server);
+        bench.writeFile(bench.profile.bundleDirectory + u"/VERSION"_s, "14.0.4\n");
+        const auto said = [&bench] {
+            const Output output;
+            const auto ended = outcome(Id::downloadTransports, bench.profile);
+            return ended == ExitStatus::done ? output.text() : u"it failed"_s;
+        };
+        const QString verified = said();
+        QVERIFY2(verified.endsWith(u"Installed Tor Expert Bundle 14.0.4, signature verified.\n"_s),
+                 qPrintable(verified));
+        bench.installTransports = [](bool, TransportDownloader::Progress) { return unverified(); };
+        const QString text = said();
+        QVERIFY2(!text.contains(u"signature verified"_s), qPrintable(text));
+        QCOMPARE(text.count(u"Bridge programs 14.0.4 installed over HTTPS."_s), 1);
+        server->reset();
+        settle();
     }
 
     void bridgesThatCannotBeUsedAreNamedWhereTheyAreTyped_data()

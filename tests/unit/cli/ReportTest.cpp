@@ -138,6 +138,13 @@ private Q_SLOTS:
         QVERIFY(report.contains(QStringLiteral("\n  Terminal    No ~/.bashrc.")));
         QVERIFY(!Report::status(object(R"({"phase":"disconnected"})"))
                      .contains(QStringLiteral("Terminal")));
+        QVERIFY(
+            Report::status(object(R"({"phase":"connected","terminalHint":"Install a netcat."})"))
+                .contains(QStringLiteral("\n  Terminal    Install a netcat.")));
+        const QString both = Report::status(object(
+            R"({"phase":"connected","terminalError":"No file.","terminalHint":"Install a netcat."})"));
+        QVERIFY(both.contains(QStringLiteral("\n  Terminal    No file."))
+                && !both.contains(QStringLiteral("netcat")));
         const QString two = Report::status(object(
             R"({"phase":"connected","settingsProblems":["It was damaged.","It is full."]})"));
         QVERIFY(two.endsWith(

@@ -1,5 +1,6 @@
 #include "cli/RunCommand.h"
 
+#include "instance/InstancePlace.h"
 #include "support/Computer.h"
 #include "support/OtherSession.h"
 #include "support/Output.h"
@@ -79,6 +80,23 @@ private Q_SLOTS:
         RunCommand run(computer.profile, false);
         run.start();
         QCOMPARE(errors.text().count(u"veldmarkctl: The settings file couldn't be read."_s), 1);
+    }
+
+    void endsWhereOneRunsAlready()
+    {
+        Computer computer;
+        const auto lock = lockInstance(computer.profile);
+        QVERIFY(lock);
+        const Output errors(stderr);
+        RunCommand run(computer.profile, true);
+        QSignalSpy finished(&run, &RunCommand::finished);
+        run.start();
+        QCOMPARE(finished.count(), 1); // at once
+        QVERIFY(finished.at(0).at(0).value<ExitStatus>() == ExitStatus::alreadyRunning);
+        QCOMPARE(errors.text(),
+                 u"veldmarkctl: "_s + lockInstance(computer.profile).error().english() + u'\n');
+        settle();
+        QVERIFY(computer.verbs().isEmpty());
     }
 
     void endsWhereAnotherProcessIsConnected()

@@ -290,6 +290,55 @@ private Q_SLOTS:
         QCOMPARE(bench.helperRuns().back().constFirst(), u"connect"_s);
     }
 
+    void aCopyThatRootDoesNotRunAnyMoreIsApprovedByName()
+    {
+        Workbench bench;
+        const QString tor = bench.profile.torCandidates.constFirst();
+        bool isApproved = false;
+        const auto answer = bench.processes.answer;
+        bench.processes.answer =
+            [answer,
+             &isApproved](const ScriptedRunner::Call &call) -> Result<ProcessResult, StartError> {
+            isApproved = isApproved || call.arguments.contains(u"approve"_s);
+            if (!isApproved)
+                return ProcessResult{
+                    3, {}, u"ERROR: An administrator password is needed to approve it.\n"_s};
+            return answer(call);
+        };
+        QVERIFY(!bench.connect()); // nothing to approve: the helper's word is the last
+        QVERIFY(bench.controller().errorMessage()->english().contains(u"approve it"_s));
+        bench.namedPrograms = [](const QStringList &words) {
+            return std::vector<ProgramApproval>{{words.at(2), u"tor"_s, u"abcd"_s}};
+        };
+        QVERIFY(bench.connect());
+        QCOMPARE(bench.lastHelperRun(u"approve"_s),
+                 QStringList({u"approve"_s, u"--program"_s, tor, u"--as"_s, u"tor"_s, u"--sha256"_s,
+                              u"abcd"_s}));
+        bench.disconnect();
+        bench.cancelPrompt(u"approve"_s);
+        isApproved = false;
+        QVERIFY(!bench.connect());
+        QVERIFY(!bench.controller().errorMessage()); // the user's own choice
+    }
+
+    void aRefusalIsNotAskedForWithoutEnd()
+    {
+        Workbench bench;
+        bench.namedPrograms = [](const QStringList &words) {
+            return std::vector<ProgramApproval>{{words.at(2), u"tor"_s, u"abcd"_s}};
+        };
+        const auto answer = bench.processes.answer;
+        bench.processes.answer =
+            [answer](const ScriptedRunner::Call &call) -> Result<ProcessResult, StartError> {
+            if (!call.arguments.contains(u"approve"_s))
+                return ProcessResult{3, {}, u"ERROR: An administrator password is needed.\n"_s};
+            return answer(call);
+        };
+        QVERIFY(!bench.connect());
+        QCOMPARE(bench.helperRunCount(u"approve"_s), 1);
+        QVERIFY(bench.controller().errorMessage());
+    }
+
     void transportsOfASignedBundleAreRootsToVerify()
     {
         Workbench bench;

@@ -275,6 +275,22 @@ private Q_SLOTS:
         QCOMPARE(TorError::bootstrapTimeout(u"why"_s).description(),
                  u"Tor didn't finish connecting within 5 minutes. (why)"_s);
     }
+
+    // The file is damaged while the program runs: each time it is kept under another name.
+    void aSettingTellsAllThatIsWrongWithItsFile()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        bench.writeFile(bench.profile.settingsFile, QByteArray("\0\xff=", 3));
+        bench.settings->setString(u"windows/main"_s, u"400x600+0+0"_s); // and nobody reads why
+        bench.writeFile(bench.profile.settingsFile, QByteArray("\1\xff=", 3));
+        const auto told = c.autoConnect.set(true);
+        QVERIFY(told);
+        for (const QString &name : {u".broken,"_s, u".broken-1,"_s})
+            QCOMPARE(told->english().count(bench.profile.settingsFile + name), 1);
+        QCOMPARE(c.errorMessage().value(), *told);
+        QVERIFY(!c.autoConnect.set(true)); // once
+    }
 };
 
 VELDMARK_TEST(ControllerStateTest)

@@ -171,6 +171,61 @@ private Q_SLOTS:
         }
     }
 
+    // What was known of the session before is news of the next one.
+    void whatASecondSessionFindsAsItWasIsToldAgain_data()
+    {
+        QTest::addColumn<QByteArray>("word");
+        QTest::addColumn<QString>("told");
+        QTest::newRow("open") << QByteArray("open") << openText;
+        QTest::newRow("put back") << QByteArray("restored") << backText;
+        QTest::newRow("nobody tells") << QByteArray() << QString();
+    }
+
+    void whatASecondSessionFindsAsItWasIsToldAgain()
+    {
+        QFETCH(QByteArray, word);
+        QFETCH(QString, told);
+        Workbench bench;
+        TorController &c = bench.controller();
+        const auto find = [&bench, word] {
+            bench.noteRules(word.isEmpty() ? "standing" : word, 1); // the very same note
+            if (word.isEmpty())
+                bench.killWatcher();
+        };
+        bench.writeMarker("strict\n");
+        find();
+        c.detectStaleState();
+        const auto before = c.killSwitch();
+        QVERIFY(before && !c.errorMessage()); // of an earlier session: no news
+        const auto answer = bench.processes.answer;
+        bench.processes.answer = [answer, find](const ScriptedRunner::Call &call) {
+            const auto done = answer(call);
+            find(); // as soon as the helper is done
+            return done;
+        };
+        QVERIFY(bench.connect());
+        QVERIFY(c.killSwitch() == before);
+        QVERIFY2(c.errorMessage(), "nothing was told");
+        const QString text = c.errorMessage()->english();
+        QVERIFY2(told.isEmpty() ? text.contains(u"has stopped telling"_s) : text == told,
+                 qPrintable(text));
+    }
+
+    void torsEndOfAnEarlierSessionIsNoWordOnTheNext()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        killTor(bench);
+        QVERIFY(c.hasTorStopped());
+        bench.tor.listen();
+        QVERIFY(bench.connect());
+        QVERIFY(!c.hasTorStopped() && !c.errorMessage());
+        bench.noteRules("open", 3);
+        QVERIFY(bench.tick());
+        QCOMPARE(c.errorMessage().value(), openText);
+    }
+
     void whatHappensWhileTorStartsIsToldToo()
     {
         Workbench bench;

@@ -34,7 +34,7 @@ private Q_SLOTS:
               "bypassApps autoConnect optimizeSpeed latencyMs optimizeStatus isOptimizing transports activeBridge "
               "terminalMode phase activeMode bootstrapProgress statusDetail bootstrapProblem killSwitch killSwitchSince exitIP torVerified leakStatus "
               "bytesRead bytesWritten stall isChecking otherSession canCancel errorMessage dnsStatus passwordlessInstalled startupError circuits "
-              "circuitError transportDownload terminalError settingsProblems title menuBarSymbol level"_s
+              "circuitError transportDownload terminalError terminalHint settingsProblems title menuBarSymbol level"_s
                   .split(u' ');
         const QJsonObject state = publishedState(bench.controller());
         for (const QString &field : fields)

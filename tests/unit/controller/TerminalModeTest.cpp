@@ -1,7 +1,9 @@
+#include "controller/PublishedState.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 
 #include <QFile>
+#include <QJsonObject>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -36,12 +38,55 @@ private Q_SLOTS:
         QVERIFY(bench.controller().isTerminalInstalled()); // at once
         QVERIFY(isActive(bench));
         QVERIFY(!bench.controller().isTerminalUsedBySsh());
-        const auto hint = bench.controller().terminalHint();
+        const auto hint = bench.controller().askTerminalHint();
         QVERIFY(!hint.isReady());
         bench.writeFile(go(bench));
         QVERIFY(until([&] { return bench.controller().isTerminalUsedBySsh(); }));
         QVERIFY(Workbench::finished(hint));
         QVERIFY(!bench.controller().terminalError());
+    }
+
+    void whatSshLacksIsKnownWhileTheModeIsOn()
+    {
+        Workbench bench;
+        QVERIFY(!bench.controller().terminalHint()); // the mode is off
+        bench.controller().setTerminalMode(true);
+        QVERIFY(bench.controller().terminalHint()); // there is no netcat at all
+        QVERIFY(bench.controller().terminalHint()->english().contains(u"netcat"_s));
+        QCOMPARE(publishedState(bench.controller()).value(u"terminalHint"_s).toString(),
+                 bench.controller().terminalHint()->english());
+        bench.controller().setTerminalMode(false);
+        QVERIFY(!bench.controller().terminalHint());
+        bench.controller().setTerminalMode(true);
+        QVERIFY(bench.controller().terminalHint());
+        bench.restart(); // the mode is on from the start
+        QVERIFY(bench.controller().terminalHint());
+        putSlowNetcat(bench);
+        bench.writeFile(go(bench));
+        bench.restart();
+        QVERIFY(until([&] { return bench.terminal.knowsSocksCommand(); }));
+        const auto asked = bench.controller().askTerminalHint();
+        QVERIFY(Workbench::finished(asked));
+        QVERIFY(!bench.controller().terminalHint());
+    }
+
+    void aHintThatComesWhenTheModeIsOffAgainIsNotShown()
+    {
+        Workbench bench;
+        bench.writeFile(bench.profile.netcatCandidates.constFirst(),
+                        "#!/bin/sh\nwhile [ ! -e '" + go(bench).toUtf8()
+                            + "' ]; do sleep 0.01; done\necho 'no SOCKS here'\n",
+                        true);
+        bench.controller().setTerminalMode(true);
+        const auto asked = bench.controller().askTerminalHint();
+        QVERIFY(!asked.isReady());
+        bench.controller().setTerminalMode(false);
+        bench.writeFile(go(bench));
+        QVERIFY(Workbench::finished(asked));
+        settle();
+        QVERIFY(!bench.controller().terminalHint());
+        bench.controller().setTerminalMode(true);
+        QVERIFY(bench.controller().terminalHint()); // which could be shown
     }
 
     void whatIsSwitchedOffMeanwhileIsNotInstalled()

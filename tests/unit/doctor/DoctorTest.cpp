@@ -8,6 +8,8 @@ using Level = Finding::Level;
 
 namespace {
 
+constexpr auto bundleFolder = "home/user/.local/share/veldmark/TorExpertBundle";
+
 // What is done to a computer on which a connect works, and what is to be found then.
 struct Case {
     const char *title;
@@ -22,6 +24,26 @@ void addHolder(TestMachine &m, const QByteArray &name, uid_t user, const QByteAr
 {
     m.listens("/proc/net/tcp", {{"0100007F", 9050, user, 7001}});
     m.process(812, name, user, unit);
+}
+
+// obfs4 bridges whose program lies in a downloaded bundle, with or without what root verifies it
+// by.
+void useBundle(TestMachine &m, bool isKept)
+{
+    const QByteArray folder = QByteArray("/") + bundleFolder;
+    const QByteArray lyrebird = folder + "/tor/pluggable_transports/lyrebird";
+    m.program(lyrebird);
+    m.program("/usr/bin/gpgv");
+    if (isKept) {
+        for (const char *name : {"", ".asc", ".key"})
+            m.write(folder + "/origin/bundle.tar.gz" + name, "x");
+    }
+    m.machine.transports.lyrebird = m.at(lyrebird);
+    m.machine.bridges = {
+        BridgeChoice::custom,
+        QStringLiteral(
+            "obfs4 192.0.2.7:443 0123456789ABCDEF0123456789ABCDEF01234567 cert=x iat-mode=0"),
+        false};
 }
 
 const std::vector<Case> &cases()
@@ -326,6 +348,8 @@ const std::vector<Case> &cases()
                  QStringLiteral("192.0.2.7:443 0123456789ABCDEF0123456789ABCDEF01234567"), false};
          },
          "bridges", Level::good, "(Custom) can be used: 1.", nullptr},
+        {"a bridge program of the user's", [](TestMachine &m) { useBundle(m, false); }, "bridges",
+         Level::note, "lyrebird. An administrator is asked to approve it", nullptr},
         {"an earlier session",
          [](TestMachine &m) { m.write("/var/lib/veldmark/state/active", "strict\n"); }, "session",
          Level::note, "from an earlier session, and no Tor runs", "veldmarkctl restore"},
@@ -447,6 +471,27 @@ private Q_SLOTS:
         QCOMPARE(
             problems,
             QStringLiteral("bridges clock helper nftables polkit ports programs tor").split(u' '));
+    }
+
+    void noAdministratorIsAskedForWhatRootVerifies()
+    {
+        for (const bool isKept : {false, true}) {
+            TestMachine m;
+            useBundle(m, isKept);
+            const Findings findings = Doctor::bridgeFindings(m.machine);
+            QCOMPARE(findings.size(), std::size_t(isKept ? 1 : 2));
+            QVERIFY(findings.front().level == Level::good);
+        }
+        TestMachine m;
+        useBundle(m, true);
+        // The helper that runs without a password doesn't know of bundles.
+        const PlatformProfile &profile = m.machine.profile;
+        m.write(profile.sudoersRule.mid(profile.places.root.size()).toUtf8(), "rule");
+        m.write(profile.installedHelper.mid(profile.places.root.size()).toUtf8(), "another");
+        QVERIFY(m.machine.isPasswordless());
+        QCOMPARE(Doctor::bridgeFindings(m.machine).size(), std::size_t(2));
+        m.machine.user = 0; // who needs to ask nobody
+        QCOMPARE(Doctor::bridgeFindings(m.machine).size(), std::size_t(1));
     }
 
     void aListenerElsewhereIsInNobodysWay()

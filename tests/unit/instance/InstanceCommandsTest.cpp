@@ -74,9 +74,14 @@ private Q_SLOTS:
         instance.bench.failHelper(u"connect"_s, u"Tor could not be started."_s);
         Conversation failing(instance.bench, "connect");
         QCOMPARE(failing.error(), u"Tor could not be started."_s);
+        // the last state is told as well, however short it was
+        QCOMPARE(failing.lastPhase(), u"disconnected"_s);
+        QCOMPARE(failing.states.back().value(u"errorMessage"_s).toString(), failing.error());
         instance.bench.cancelPrompt(u"connect"_s);
         Conversation dismissed(instance.bench, "connect");
         QCOMPARE(dismissed.error(), u"Cancelled."_s);
+        // which whoever asked reads in a language of his own
+        QVERIFY(!dismissed.answer->error().description().isWords());
     }
 
     void saysWhatKeptTorFromConnecting()

@@ -34,6 +34,9 @@ private Q_SLOTS:
         QCOMPARE(ProgramApproval::missing(profile, words).size(), std::size_t(1));
         write(profile.approvedPrograms + u'/' + digest + u"/lyrebird"_s, "abc");
         QVERIFY(ProgramApproval::missing(profile, words).empty());
+        const auto named = ProgramApproval::named(profile, words); // also with its copy
+        QCOMPARE(named.size(), std::size_t(1));
+        QCOMPARE(named.front().words(), missing.front().words());
     }
 
     void asksForNoProgramOfTheSystems()
