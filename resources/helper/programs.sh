@@ -72,6 +72,7 @@ copy_program() {
   print_file "$1" >"$NEW_PROGRAM" && DIGEST=$(print_sum <"$NEW_PROGRAM") && DIGEST=${DIGEST%% *} &&
     [[ $DIGEST =~ ^[0-9a-f]{64}$ ]] && return 0
   rm -f -- "$NEW_PROGRAM"
+  [[ $SYSTEM != linux ]] || clear_bundle   # that another program was looked for in
   die "The program $1 cannot be copied."
 }
 

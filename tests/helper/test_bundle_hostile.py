@@ -174,6 +174,14 @@ class Hostile(BundleCase):
         self.assertIn(b"An administrator password is needed", output[1])
         self.assertEqual(self.copies(), [])
 
+    def test_nothing_is_left_where_another_program_cannot_be_read(self):
+        self.bring(transport("one"))
+        other = "/home/alice/b/webtunnel-client"
+        self.machine.shell(f"install -m 0711 /usr/bin/true {other}")
+        more = ("--bridge", "webtunnel 192.0.2.3:80 url=https://a.example/", "--pt-webtunnel", other, "--bundle", ARCHIVE)
+        self.assertOneLine(self.connect(more=more, check=False), f"The program {other} cannot be copied.")
+        self.assertEqual(len(self.copies()), 1, "the bundle was looked at, and nothing else is there")
+
     def test_gpgv_that_was_taken_over_leaves_nothing_running(self):
         self.bring(transport("one"))
         self.replace_gpgv("#!/bin/sh\ntrap '' TERM\nsetsid sleep 1111 &\nexec setsid sleep 1111\n")
