@@ -10,19 +10,21 @@ readonly BUNDLE=$PROGRAMS/bundle.new   # 0750; archive, signature and key, while
 readonly BUNDLE_NOTE=$BASE/bundle      # 0600; when the newest bundle was signed, and which copies came from one
 readonly MAX_BUNDLE_BYTES=100000000
 readonly MAX_KEY_BYTES=262144
-readonly NOBODY=65534
+readonly NO_ACCOUNT=65532   # "nobody" (65534) has other services' processes, which could have gpgv and tar say what they like
 
 BUNDLE_STATE=''    # "signed" or "refused", once this run has looked
 BUNDLE_SIGNED=''   # when it was signed, in seconds since 1970
 
-# as_nobody SECONDS COMMAND...: without rights, network, processes of others and a descriptor of ours; it writes to standard output alone.
-as_nobody() {
+# as_no_account SECONDS COMMAND...: without rights, network, processes of others and a descriptor of ours; it writes to standard output alone.
+# The first process of its namespace is root's: whatever the command starts, and wherever that goes, ends with it.
+as_no_account() {
   local seconds=$1
   shift
   # shellcheck disable=SC2016
   timeout -k 1 "$seconds" /bin/sh -c 'exec 7>&- 9>&-; ulimit -c 0 && ulimit -f 0 && ulimit -v 2000000 && ulimit -t "$0" && exec "$@"' "$seconds" \
-    unshare --net --ipc --pid --fork env -i --default-signal PATH="$PATH" LC_ALL=C HOME=/nonexistent \
-    setpriv --reuid "$NOBODY" --regid "$NOBODY" --clear-groups --no-new-privs --bounding-set=-all --inh-caps=-all \
+    unshare --net --ipc --pid --fork --kill-child /bin/sh -c '"$@"; exit "$?"' first \
+    env -i --default-signal PATH="$PATH" LC_ALL=C HOME=/nonexistent \
+    setpriv --reuid "$NO_ACCOUNT" --regid "$NO_ACCOUNT" --clear-groups --no-new-privs --bounding-set=-all --inh-caps=-all \
     --ambient-caps=-all "$@" 8>&-
 }
 
@@ -34,7 +36,7 @@ clear_bundle() { [[ ! -e $BUNDLE && ! -L $BUNDLE ]] || rm -rf -- "$BUNDLE"; }
 copy_to_bundle() {
   local size
   print_file "$1" "$(($3 + 1))" "$4" >"$BUNDLE/$2" && size=$(stat -c %s -- "$BUNDLE/$2") && ((size > 0 && size <= $3)) &&
-    chown -- "0:$NOBODY" "$BUNDLE/$2" && chmod -- 0640 "$BUNDLE/$2"
+    chown -- "0:$NO_ACCOUNT" "$BUNDLE/$2" && chmod -- 0640 "$BUNDLE/$2"
 }
 
 # holds_signers_key FILE: whether it is BUNDLE_SIGNER's key with its names, subkeys and signatures, and nothing besides: gpgv trusts every
@@ -155,10 +157,10 @@ verify_bundle() {
   local verdict noted status=0
   in_path gpgv && in_path tar && in_path gzip || return 1
   clear_bundle
-  mkdir -m 0750 -- "$BUNDLE" && chown -- "0:$NOBODY" "$BUNDLE" || return 1
+  mkdir -m 0750 -- "$BUNDLE" && chown -- "0:$NO_ACCOUNT" "$BUNDLE" || return 1
   copy_to_bundle "$OPT_BUNDLE.key" key "$MAX_KEY_BYTES" 2 && holds_signers_key "$BUNDLE/key" || return 1
   copy_to_bundle "$OPT_BUNDLE.asc" signature "$MAX_KEY_BYTES" 2 && copy_to_bundle "$OPT_BUNDLE" archive "$MAX_BUNDLE_BYTES" 5 || return 1
-  verdict=$(as_nobody 10 gpgv --homedir /nonexistent --status-fd 1 --keyring "$BUNDLE/key" -- "$BUNDLE/signature" "$BUNDLE/archive" \
+  verdict=$(as_no_account 10 gpgv --homedir /nonexistent --status-fd 1 --keyring "$BUNDLE/key" -- "$BUNDLE/signature" "$BUNDLE/archive" \
     </dev/null | take_output 12 65536) || true   # its status is also another where a key is out of date
   read_verdict "$verdict" || return 1
   read_bundle_note || status=$?
@@ -179,7 +181,7 @@ in_bundle() {
   [[ $BUNDLE_STATE == signed ]] || return 1
   for folder in tor ./tor; do
     # A member that tar could not give whole is none.
-    sum=$(as_nobody 10 tar -xzOf - -- "$folder/pluggable_transports/$name" <"$BUNDLE/archive" |
+    sum=$(as_no_account 10 tar -xzOf - -- "$folder/pluggable_transports/$name" <"$BUNDLE/archive" |
       take_output 12 "$MAX_PROGRAM_BYTES" | print_sum) || continue
     [[ ${sum%% *} != "$DIGEST" ]] || { note_program "$DIGEST/$2" && return 0; }
   done

@@ -63,19 +63,28 @@ leave_caller() {
   taskset --cpu-list --pid "$(</sys/devices/system/cpu/possible)" "$$" >/dev/null || true
   find_tree || return 0
   HOME_GROUP=$(own_group)
-  for round in 1 2 3 4 5; do
+  [[ -w $TREE ]] || return 0
+  for ((round = 0; round < MOVE_ROUNDS; round++)); do
     make_group "$RUN_GROUP" || true
     ! enter_group "$TREE/$RUN_GROUP" || return 0
   done
 }
 
-# end_run: the last of a run that leaves no session. The lock goes first: from here on the caller may stop us.
+# end_run: the last of a run that leaves no session. The locks go before we return to the caller's group, where the caller may stop us
+# for as long as they like. Tor's group goes while we have ours: it may be the next session's afterwards.
 end_run() {
+  local round
   [[ -n $TREE && ! -e $MARKER ]] || return 0
-  exec 9>&-
+  [[ -z $HAS_LOCK ]] || rmdir -- "$TREE/$TOR_GROUP" || true
+  exec 7>&- 9>&-
   enter_group "${HOME_GROUP:-$TREE}" || enter_group "$TREE" || true
-  rmdir -- "$TREE/$TOR_GROUP"
-  rmdir -- "$TREE/$RUN_GROUP"
+  # What we have started and not waited for is still in there; another run removes the group itself.
+  for ((round = 0; round < MOVE_ROUNDS; round++)); do
+    ! rmdir -- "$TREE/$RUN_GROUP" || return 0
+    read_children "$$"
+    [[ -n $CHILDREN ]] || return 0
+    sleep 0.02
+  done
 } 2>/dev/null
 
 # rules_can_name PATH LEVEL: whether the kernel finds the group of a socket. Before 5.13 none does; in a container, where the tree

@@ -44,11 +44,9 @@ port_sockets() {
 
 # has_socket PID SOCKET: whether the process has it open.
 has_socket() {
-  local line
-  while IFS= read -r line; do
-    [[ $line != "socket $2" ]] || return 0
-  done < <(stat -L -c '%F %i' -- "/proc/$1/fd"/* || true)
-  return 1
+  local files
+  files=$(stat -L -c '%F %i' -- "/proc/$1/fd"/* || true)
+  [[ $'\n'$files$'\n' == *$'\n'"socket $2"$'\n'* ]]
 }
 
 # service_with SOCKET: prints which of SERVICES has it, by its main process.

@@ -27,6 +27,7 @@ CALLER_NAME='' CALLER_GID='' CALLER_HOME=''
 # a kill of this shell may leave behind, so that the next run waits for them. Nothing that runs as another user
 # gets it: whoever holds the descriptor can unlock it.
 # Ctrl-C and a closed terminal must not leave the network half-way.
+HAS_LOCK=''
 take_lock() {
   trap '' INT TERM HUP QUIT PIPE TSTP
   cd /
@@ -36,6 +37,7 @@ take_lock() {
   [[ ! -L $LOCK ]] || die "The lock file $LOCK is a link, so nothing was done."
   { exec 9>>"$LOCK"; } || die "The lock file $LOCK cannot be opened."
   flock -w "$LOCK_SECONDS" 9 || die "Another run of the helper is still working. Try again in a moment."
+  HAS_LOCK=1
 }
 
 # lift_limits: limits of the caller's shell must not end the watcher or Tor later on, nor this run half-way. What cannot be

@@ -44,12 +44,15 @@ systems_own() {
 # open_to_all PATH: any account can reach and run it.
 open_to_all() { every_part "$1" '^[0-7]*[1357] '; }
 
-# print_file PATH [BYTES SECONDS]: its content, opened as the caller, so that nobody reads through us what is not theirs.
+# print_file PATH [BYTES SECONDS]: its content, opened as the caller, so that nobody reads through us what is not theirs. Any program of
+# the caller's can take the reader's descriptors over. So the reader has a pipe and never the file that we write: else the content
+# could be changed after it was looked at.
 print_file() {
+  local bytes=${2:-$MAX_PROGRAM_BYTES} seconds=${3:-10}
   if [[ $CALLER_UID == 0 ]]; then
-    head -c "${2:-$MAX_PROGRAM_BYTES}" -- "$1"
+    head -c "$bytes" -- "$1"
   else
-    as_caller "${3:-10}" head -c "${2:-$MAX_PROGRAM_BYTES}" -- "$1"
+    as_caller "$seconds" head -c "$bytes" -- "$1" | take_output $((seconds + 2)) "$bytes"
   fi
 }
 
@@ -69,6 +72,7 @@ copy_program() {
   print_file "$1" >"$NEW_PROGRAM" && DIGEST=$(print_sum <"$NEW_PROGRAM") && DIGEST=${DIGEST%% *} &&
     [[ $DIGEST =~ ^[0-9a-f]{64}$ ]] && return 0
   rm -f -- "$NEW_PROGRAM"
+  [[ $SYSTEM != linux ]] || clear_bundle   # that another program was looked for in
   die "The program $1 cannot be copied."
 }
 

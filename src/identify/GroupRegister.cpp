@@ -42,6 +42,11 @@ std::uint32_t GroupRegister::nextAddress()
     }
 }
 
+std::size_t GroupRegister::share(std::size_t most, std::size_t inAll)
+{
+    return inAll < crowd ? most : inAll < mostInAll ? shareInACrowd : 0;
+}
+
 GroupRegister::Entry *GroupRegister::entryFor(const Key &key, MapChanges &changes)
 {
     if (const auto found = m_entries.find(key); found != m_entries.end())
@@ -55,7 +60,7 @@ GroupRegister::Entry *GroupRegister::entryFor(const Key &key, MapChanges &change
             && (oldest == m_entries.end() || it->second.lastUse < oldest->second.lastUse))
             oldest = it;
     }
-    if (many >= identitiesPerUser) {
+    if (many >= share(identitiesPerUser, m_entries.size())) {
         if (oldest == m_entries.end())
             return nullptr;
         changes.push_back(change(Map::addresses, Action::remove, 0, oldest->second.address));
@@ -91,7 +96,7 @@ void GroupRegister::add(const Group &group, MapChanges &changes)
             return;
         drop(known, changes);
     }
-    if (m_groupCounts[group.user] >= groupsPerUser)
+    if (m_groupCounts[group.user] >= share(groupsPerUser, m_groups.size()))
         return;
     const Key key(group.user, application);
     Entry *entry = entryFor(key, changes);

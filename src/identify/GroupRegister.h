@@ -48,6 +48,11 @@ public:
     // What one user can make us keep. Whoever has more shares the account's address with the rest.
     static constexpr std::size_t groupsPerUser = 2000;
     static constexpr std::size_t identitiesPerUser = 1000;
+    // The firewall's maps have 65,536 places each. Where users together have filled so many, each
+    // has this share at most: several can't fill what the others need.
+    static constexpr std::size_t crowd = 30000;
+    static constexpr std::size_t shareInACrowd = 100;
+    static constexpr std::size_t mostInAll = 60000; // accounts have addresses as well
 
     // Addresses are given out one after the other, from firstAddress + start on, and no one twice
     // before all were used: circuits of an application that has gone may live on for minutes.
@@ -82,6 +87,8 @@ private:
         std::size_t groups = 0;
         std::uint64_t lastUse = 0;
     };
+    // How many of what there are `inAll` one user may have, who could have `most`.
+    static std::size_t share(std::size_t most, std::size_t inAll);
     std::uint32_t nextAddress();
     Entry *entryFor(const Key &key, MapChanges &changes);
     void drop(std::map<Place, Known>::iterator known, MapChanges &changes);

@@ -1,5 +1,9 @@
 #include "identify/StateFile.h"
 
+#include <algorithm>
+#include <map>
+#include <set>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -23,17 +27,36 @@ StateFile::StateFile(const std::string &path)
         m_file = Descriptor();
 }
 
+std::string StateFile::text(std::uint64_t count, bool standing,
+                            const std::vector<Identity> &identities)
+{
+    std::set<uid_t> users;
+    for (const Identity &identity : identities)
+        users.insert(identity.user);
+    const std::size_t share = std::min(shareLimit,
+                                       linesLimit / std::max<std::size_t>(users.size(), 1));
+
+    const std::string number = std::to_string(count) + "\n";
+    std::string text = "identities " + number + (standing ? "standing\n" : "lost\n");
+    std::map<uid_t, std::size_t> taken;
+    for (const Identity &identity : identities) {
+        const std::string line = std::to_string(identity.user) + " " + dotted(identity.address)
+            + " " + identity.application + "\n";
+        std::size_t &bytes = taken[identity.user];
+        if (bytes + line.size() > share)
+            continue;
+        bytes += line.size();
+        text += line;
+    }
+    return text + "end " + number;
+}
+
 void StateFile::write(bool standing, const std::vector<Identity> &identities)
 {
-    const std::string count = std::to_string(++m_count) + "\n";
-    std::string text = "identities " + count + (standing ? "standing\n" : "lost\n");
-    for (const Identity &identity : identities)
-        text += std::to_string(identity.user) + " " + dotted(identity.address) + " "
-            + identity.application + "\n";
-    text += "end " + count;
+    const std::string words = text(++m_count, standing, identities);
     // A disk that is full leaves a file without an end, which says so.
     if (ftruncate(m_file.number(), 0) == 0)
-        static_cast<void>(pwrite(m_file.number(), text.data(), text.size(), 0) < 0);
+        static_cast<void>(pwrite(m_file.number(), words.data(), words.size(), 0) < 0);
 }
 
 } // namespace veldmark

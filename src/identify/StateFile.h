@@ -3,6 +3,7 @@
 #include "identify/Descriptor.h"
 #include "identify/GroupRegister.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -20,6 +21,16 @@ namespace veldmark {
 // end, reads again.
 class StateFile {
 public:
+    // Bytes of lines. Users choose the names in them: what is beyond a user's share is left out, so
+    // that everybody's file stays one that is read. Where there are more users than full shares,
+    // each has the same part of the whole. veldmarkctl reads 4 MiB.
+    static constexpr std::size_t shareLimit = 128 << 10;
+    static constexpr std::size_t linesLimit = 3 << 20;
+
+    // `identities` by user.
+    [[nodiscard]] static std::string text(std::uint64_t count, bool standing,
+                                          const std::vector<Identity> &identities);
+
     explicit StateFile(const std::string &path);
 
     [[nodiscard]] bool isOpen() const { return static_cast<bool>(m_file); }

@@ -13,13 +13,13 @@ JANUARY, FEBRUARY = "20260101T000000", "20260201T000000"  # when something is si
 class Signer:
     """A key of GnuPG's that only certifies, with a subkey that signs, as the Tor Browser Developers' is."""
 
-    def __init__(self, name, kind="ed25519"):
+    def __init__(self, name, kind="ed25519", made="20250101T000000"):
         self.home = tempfile.mkdtemp(prefix="key-", dir="/tmp")
         atexit.register(self.close)
-        self.gpg("--quick-gen-key", f"{name} <key@example.org>", kind, "cert", "never")
+        self.gpg("--quick-gen-key", f"{name} <key@example.org>", kind, "cert", "never", now=made)
         lines = self.gpg("--with-colons", "--fingerprint").decode().splitlines()
         self.fingerprint = next(line.split(":")[9] for line in lines if line.startswith("fpr:"))
-        self.gpg("--quick-add-key", self.fingerprint, kind, "sign", "never")
+        self.gpg("--quick-add-key", self.fingerprint, kind, "sign", "never", now=made)
         self.key = self.gpg("--export")
 
     def close(self):
@@ -52,6 +52,12 @@ class Signer:
 
     def sign(self, content, now=JANUARY, how="--detach-sign"):
         return self.gpg("--armor", how, stdin=content, now=now)
+
+    def expire(self):
+        """The key says that it and its subkeys go out of date soon after JANUARY, which is past."""
+        for which in [], ["*"]:
+            self.gpg("--quick-set-expire", self.fingerprint, "20260301T000000", *which, now=JANUARY)
+        return self.gpg("--export")
 
     def revoke(self):
         """From now on the key says that it is revoked."""

@@ -1,99 +1,9 @@
-"""A transport runs unasked where the Tor Project has signed the archive that it came from, as root has seen itself, and in no other case.
-
-The signer is a key of this test's; the helper is a copy with that key's fingerprint in the place of the Tor Browser Developers'."""
-
-import concurrent.futures
-import os
-import subprocess
-import tarfile
-import tempfile
-import time
+"""A transport runs unasked where the Tor Project has signed the archive that it came from, as root has seen itself, and in no other case."""
 
 import namespace
-from bundles import FEBRUARY, JANUARY, Signer, bundle, member, packets, transport
-from namespace import HASH, TOR, HelperTest, USER_UID
-
-FINGERPRINT = "EF6E286DDA85EA2A4BA7DE684E2C6E8793298290"
-BRIDGE = "obfs4 192.0.2.1:443 0123456789012345678901234567890123456789 cert=a iat-mode=0"
-PROMPT = {"PATH": os.environ["PATH"], "PKEXEC_UID": str(USER_UID)}
-MEMBER = "tor/pluggable_transports/lyrebird"
-ARCHIVE = "/home/alice/b/bundle.tar.gz"
-LYREBIRD = "/home/alice/b/lyrebird"
-PROGRAMS = "/var/lib/veldmark/programs"
-NOTE = "/var/lib/veldmark/bundle"
-NEW_BUNDLE = PROGRAMS + "/bundle.new"
-
-
-class BundleCase(HelperTest):
-    @classmethod
-    def setUpClass(cls):
-        super().setUpClass()
-        cls.signer, cls.other = Signer("Signer"), Signer("Other")
-        cls.folder = tempfile.TemporaryDirectory(prefix="veldmark-bundle-")
-        cls.addClassCleanup(cls.folder.cleanup)
-        with open(cls.machine.helper, encoding="utf-8") as file:
-            text = file.read()
-        assert text.count(FINGERPRINT) == 1
-        cls.machine.helper = f"{cls.folder.name}/veldmark-helper.sh"
-        with open(cls.machine.helper, "w", encoding="utf-8") as file:
-            file.write(text.replace(FINGERPRINT, cls.signer.fingerprint))
-        os.chmod(cls.machine.helper, 0o755)
-        os.chmod(cls.folder.name, 0o755)
-        cls.machine.install_copy()
-
-    def setUp(self):
-        self.machine.shell(f"rm -rf /home/alice/* {PROGRAMS} {NOTE}; install -d -o alice -g alice -m 0700 /home/alice/b")
-
-    def tearDown(self):
-        self.machine.help("disconnect")
-        self.assertEqual(self.machine.shell(f"ls -d {NEW_BUNDLE} {PROGRAMS}/new 2>/dev/null || true"), "")
-
-    def put(self, path, content):
-        """A file of alice's; None for none."""
-        self.machine.shell('rm -rf "$1"', path)
-        if content is not None:
-            with tempfile.NamedTemporaryFile(dir=self.folder.name) as file:
-                file.write(content)
-                file.flush()
-                self.machine.shell('install -o alice -g alice -m 0700 "$1" "$2"', file.name, path)
-
-    def bring(self, program, archive=None, now=JANUARY, **other):
-        """Program and bundle of alice's, as the downloader leaves them. `signature` and `key`: in the place of the signer's."""
-        if archive is None:
-            archive = bundle(member(MEMBER, program))
-        self.put(LYREBIRD, program)
-        self.put(ARCHIVE, archive)
-        self.put(ARCHIVE + ".asc", other.get("signature", self.signer.sign(archive, now)))
-        self.put(ARCHIVE + ".key", other.get("key", self.signer.key))
-
-    WORDS = ("connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0", "--bridge", BRIDGE, "--pt-lyrebird", LYREBIRD)
-
-    def connect(self, more=("--bundle", ARCHIVE), **options):
-        """By the password-free rule, which approves nothing."""
-        return self.machine.help_by_rule(*self.WORDS, *more, **options)
-
-    def assertAsked(self, done):
-        self.assertOneLine(done, f"An administrator password is needed to approve {LYREBIRD}.")
-        self.assertEqual(done.returncode, 3)
-        self.assertEqual(self.machine.shell(f"ls -d {NEW_BUNDLE} {PROGRAMS}/new 2>/dev/null || true"), "")
-
-    def copies(self):
-        return self.machine.shell(f"cd {PROGRAMS} && find . -type f | sort").split()
-
-    def digest(self):
-        return self.machine.run("sha256sum", LYREBIRD).stdout.split()[0]
-
-    def note(self):
-        return self.machine.shell(f"cat {NOTE}").splitlines()
-
-    def replace_gpgv(self, script):
-        """Somebody else's gpgv, until the end of the test."""
-        path = f"{self.folder.name}/gpgv"
-        with open(path, "w", encoding="ascii") as file:
-            file.write(script)
-        os.chmod(path, 0o755 if script else 0o644)
-        self.machine.shell('cp /usr/bin/gpgv "$1.real"; mount --bind "$1" /usr/bin/gpgv', path)
-        self.addCleanup(self.machine.shell, "umount -l /usr/bin/gpgv")
+from bundlecase import ARCHIVE, LYREBIRD, MEMBER, NEW_BUNDLE, NOTE, PROGRAMS, PROMPT, BundleCase
+from bundles import FEBRUARY, Signer, bundle, member, packets, transport
+from namespace import TOR
 
 
 class Signed(BundleCase):
@@ -173,15 +83,6 @@ class Signed(BundleCase):
         self.bring(program, archive, signature=right)
         self.connect()  # the control
 
-    def helper_of(self, signer):
-        """A helper that takes this signer's bundles."""
-        with open(self.machine.helper, encoding="utf-8") as file:
-            text = file.read()
-        path = f"{self.folder.name}/{signer.fingerprint}.sh"
-        with open(path, "w", encoding="utf-8") as file:
-            file.write(text.replace(self.signer.fingerprint, signer.fingerprint))
-        return path
-
     def test_a_key_of_the_real_ones_kind(self):
         """RSA, whose packets have a length of two bytes."""
         signer = Signer("Long", "rsa4096")
@@ -203,6 +104,23 @@ class Signed(BundleCase):
             done = self.machine.run("/bin/bash", path, *self.WORDS, "--bundle", ARCHIVE, env=PROMPT, check=False)
             self.assertEqual(done.returncode, 0 if runs else 3, done.stderr)
             self.machine.help("disconnect")
+
+    def test_a_clock_that_is_wrong_lets_nothing_in(self):
+        """To it the key is made in the future."""
+        late = Signer("Late", made="20900101T000000")
+        program = transport("late")
+        archive = bundle(member(MEMBER, program))
+        self.bring(program, archive, signature=late.sign(archive, "20900201T000000"), key=late.key)
+        done = self.machine.run("/bin/bash", self.helper_of(late), *self.WORDS, "--bundle", ARCHIVE, env=PROMPT, check=False)
+        self.assertEqual(done.returncode, 3, done.stderr)
+
+    def test_what_was_signed_before_the_key_went_out_of_date_counts(self):
+        """A bundle does not go bad: subkeys change every two years."""
+        former = Signer("Former")
+        program = transport("former")
+        archive = bundle(member(MEMBER, program))
+        self.bring(program, archive, signature=former.sign(archive), key=former.expire())
+        self.machine.run("/bin/bash", self.helper_of(former), *self.WORDS, "--bundle", ARCHIVE, env=PROMPT)
 
     def test_prompt_of_a_connect_is_enough_too(self):
         """It asks for no more than the connect, and names no program."""
@@ -278,143 +196,6 @@ class Rollback(BundleCase):
             with self.subTest(text):
                 self.machine.shell(f"mkdir -p -m 0755 /var/lib/veldmark; printf '%s\\n' \"$1\" >{NOTE}", text)
                 self.assertAsked(self.connect(check=False))
-
-
-class Hostile(BundleCase):
-    def test_archives_with_odd_members_put_nothing_anywhere(self):
-        """Signed, since no other archive is ever opened."""
-        program = transport("one")
-        escaped = "/tmp/veldmark-bundle-escaped"
-        zeros = tarfile.TarInfo(MEMBER)
-        zeros.size = 400_000_000
-        with tempfile.TemporaryFile() as file:
-            file.truncate(zeros.size)
-            bomb = bundle((zeros, file))
-        crowd = bundle(*(member(f"tor/{number}\nx", b"") for number in range(20_000)), member("tor/a", b""))
-        for name, archive in (
-            ("link", bundle(member(MEMBER, kind=tarfile.SYMTYPE, link=LYREBIRD))),
-            ("hard link", bundle(member(MEMBER, kind=tarfile.LNKTYPE, link=LYREBIRD))),
-            ("device", bundle(member(MEMBER, kind=tarfile.CHRTYPE))),
-            ("pipe", bundle(member(MEMBER, kind=tarfile.FIFOTYPE))),
-            ("folder", bundle(member(MEMBER, kind=tarfile.DIRTYPE))),
-            ("another place", bundle(member("lyrebird", program))),
-            ("upwards", bundle(member("../../../../../.." + escaped, program))),
-            ("absolute", bundle(member(escaped, program))),
-            ("twice", bundle(member(MEMBER, program), member(MEMBER, program))),
-            ("crowd", crowd),
-            ("bomb", bomb),
-            ("cut", bundle(member(MEMBER, program))[:-20]),
-            ("no archive", b"no archive"),
-        ):
-            with self.subTest(name):
-                self.bring(program, archive)
-                self.assertAsked(self.connect(check=False))
-                self.assertEqual(self.copies(), [])
-                self.assertFalse(os.path.lexists(escaped))
-        self.bring(b"", bundle(member(MEMBER, kind=tarfile.SYMTYPE, link="x")))  # no content at all is no program
-        self.assertAsked(self.connect(check=False))
-
-    def test_files_that_are_none(self):
-        program = transport("one")
-        for name, script in (
-            ("ten gigabytes", 'rm "$1"; truncate -s 10G "$1"; chown alice "$1"'),
-            ("pipe", 'rm "$1"; mkfifo -m 0666 "$1"'),
-            ("endless", 'ln -sf /dev/zero "$1"'),
-            ("root's", 'chown root "$1"; chmod 0600 "$1"'),
-            ("link to root's", 'install -m 0600 "$1" /run/secret; ln -sf /run/secret "$1"'),
-            ("link to nowhere", 'ln -sf /nonexistent "$1"'),
-        ):
-            for end in "", ".asc", ".key":
-                if name == "pipe" and end:
-                    continue
-                with self.subTest(name + end):
-                    self.bring(program)
-                    self.machine.shell(script, ARCHIVE + end)
-                    began = time.monotonic()
-                    self.assertAsked(self.connect(check=False))
-                    self.assertLess(time.monotonic() - began, 20)
-
-    def test_full_disk(self):
-        program = transport("one")
-        noise = os.urandom(400_000)
-        self.bring(program, bundle(member(MEMBER, program), member("data", noise)))
-        self.machine.shell(f"mkdir -p -m 0755 {PROGRAMS}; mount -t tmpfs -o size=128k,mode=755 full {PROGRAMS}")
-        try:
-            self.assertAsked(self.connect(check=False))
-        finally:
-            self.machine.shell(f"umount -l {PROGRAMS}")
-        self.connect()
-
-    def wait_for_gpgv(self):
-        """The process id of what slow_gpgv() waits with."""
-        return self.machine.shell("until pgrep -u 65534 -x sleep; do sleep 0.01; done", timeout=30).split()[0]
-
-    def slow_gpgv(self, seconds):
-        """The real one, after a while."""
-        path = f"{self.folder.name}/gpgv"
-        self.replace_gpgv(f'#!/bin/sh\nsleep {seconds}\nexec {path}.real "$@"\n')
-
-    def begin(self):
-        return self.machine.start(
-            "/bin/bash",
-            namespace.INSTALLED,
-            *self.WORDS,
-            "--bundle",
-            ARCHIVE,
-            stdin=subprocess.DEVNULL,
-            stdout=subprocess.PIPE,
-            stderr=subprocess.PIPE,
-            env={"PATH": os.environ["PATH"], "SUDO_UID": str(USER_UID)},
-        )
-
-    def test_archive_that_is_swapped_after_it_was_read(self):
-        good, evil = transport("good"), transport("evil")
-        self.bring(good)
-        self.slow_gpgv(3)
-        with self.begin() as run:
-            self.wait_for_gpgv()
-            self.put(LYREBIRD, evil)
-            self.put(ARCHIVE, bundle(member(MEMBER, evil)))
-            self.assertEqual(run.communicate(timeout=60), (b"", b""))
-        self.assertEqual(len(self.copies()), 1)
-        self.assertEqual(self.machine.shell(f"cat {PROGRAMS}/*/lyrebird"), good.decode())
-
-    def test_gpgv_has_no_rights_no_network_and_writes_nothing(self):
-        self.bring(transport("one"))
-        self.slow_gpgv(5)
-        with self.begin() as run:
-            pid = self.wait_for_gpgv()
-            status = dict(line.split(":", 1) for line in self.machine.shell(f"cat /proc/{pid}/status").splitlines())
-            self.assertEqual(set(status["Uid"].split() + status["Gid"].split()), {"65534"})
-            self.assertEqual(status["Groups"].split(), [])
-            self.assertEqual({status[name].strip() for name in ("CapInh", "CapPrm", "CapEff", "CapBnd", "CapAmb")}, {"0" * 16})
-            self.assertEqual(status["NoNewPrivs"].strip(), "1")
-            for kind in "net", "ipc", "pid":
-                self.assertNotEqual(*self.machine.shell(f"readlink /proc/{pid}/ns/{kind} /proc/self/ns/{kind}").split())
-            self.assertRegex(self.machine.shell(f"cat /proc/{pid}/limits"), r"Max file size +0 +0 ")
-            self.assertNotIn("veldmark.lock", self.machine.shell(f"ls -l /proc/{pid}/fd"))
-            self.assertEqual(run.communicate(timeout=60), (b"", b""))
-
-    def test_killed_while_it_looks(self):
-        self.bring(transport("one"))
-        self.slow_gpgv(3)
-        run = self.begin()
-        self.wait_for_gpgv()
-        self.machine.shell("kill -9 $(pgrep -o -f 'veldmark-helper[.]sh connect')")
-        run.communicate(timeout=60)
-        self.assertNotEqual(self.machine.shell(f"ls -d {NEW_BUNDLE}"), "")
-        self.machine.help("disconnect")
-        self.assertEqual(self.machine.shell(f"ls -d {NEW_BUNDLE} 2>/dev/null || true"), "")
-        self.assertLessEqual(set(self.copies()), {"./new"})  # what no run takes for approved
-        self.connect()
-        self.assertEqual(len(self.copies()), 1)
-
-    def test_several_at_once(self):
-        self.bring(transport("one"))
-        with concurrent.futures.ThreadPoolExecutor(3) as pool:
-            runs = list(pool.map(lambda _: self.connect(check=False), range(3)))
-        self.assertEqual([(run.returncode, run.stderr) for run in runs], [(0, "")] * 3)
-        self.assertEqual(len(self.copies()), 1)
 
 
 if __name__ == "__main__":

@@ -2,6 +2,7 @@
 stand-ins with real processes and ports."""
 
 import subprocess
+import time
 
 import namespace
 import services
@@ -85,6 +86,31 @@ class Service(HelperTest):
                 f"The port 9050, which Tor needs, is held by tor (process {pid}). End that, then connect again.",
             )
             self.assertEqual(self.machine.snapshot(), before)
+
+    def test_a_refused_connect_leaves_no_control_group(self):
+        """Also where what it has looked with ends late."""
+        self.machine.shell("systemctl stop tor@default.service")
+        services.start_tor_service(self.machine, "tor@other.service")
+        pid = self.machine.shell("cat /run/units/tor@other.service.pid").strip()
+        for name, late in ("stat", f'*"/proc/{pid}/fd"*'), ("sort", "*"):
+            with self.subTest(name):
+                path = f"/run/slow/{name}"
+                self.machine.shell(
+                    'mkdir -p /run/slow; cp -L "/usr/bin/$1" "$2.real";'
+                    """printf '#!/bin/bash\\n%s.real "$@"; status=$?\\ncase "$*" in %s) exec >&-; sleep 0.5 ;; esac\\nexit $status\\n' "$2" "$3" >"$2";"""
+                    'chmod 755 "$2"; mount --bind "$2" "/usr/bin/$1"',
+                    name,
+                    path,
+                    late,
+                )
+                try:
+                    began = time.monotonic()
+                    self.assertOneLine(self.machine.connect(check=False), "The port 9050, which Tor needs, is held by")
+                    self.assertGreater(time.monotonic() - began, 0.5, "nothing was late")
+                    self.assertEqual(self.machine.shell("find /sys/fs/cgroup -name 'veldmark*'"), "")
+                finally:
+                    self.machine.shell("umount /usr/bin/$1", name)
+        self.machine.shell("rm -r /run/slow")
 
     def test_a_service_that_holds_no_port_is_not_stopped_for_another_program(self):
         self.machine.shell("systemctl stop tor@default.service")

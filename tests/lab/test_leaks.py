@@ -17,6 +17,7 @@ from leaks import matrix, probes  # noqa: E402
 from leaks.case import EVERYBODY, HASH, PROGRAMS, SENDER, LeakCase, Seen  # noqa: E402
 from leaks.hostile import HostileRows  # noqa: E402
 from leaks.matrix import ABSENT, CLOSED, OPEN  # noqa: E402
+from leaks.swapped import SwappedRow  # noqa: E402
 from veldlab import topology as at  # noqa: E402
 from veldlab.lab import PROJECT  # noqa: E402
 
@@ -34,7 +35,7 @@ NEVER_LAN = (
 )
 
 
-class Leaks(HostileRows, LeakCase):
+class Leaks(HostileRows, SwappedRow, LeakCase):
     def test_1_every_kind_of_packet(self):
         self.matrix.add_kinds(self.run_probes(list(probes.PROBES)).counts(), "control")
         with self.session():
@@ -448,6 +449,10 @@ class Leaks(HostileRows, LeakCase):
     def test_e_programs_without_roots_rights(self):
         """Of the session's user and of another account: what they try against the session itself."""
         self.hostile_rows()
+
+    def test_f_a_bridge_program_that_is_swapped_after_it_was_verified(self):
+        """By a program of the session's user, which nobody has to be asked for."""
+        self.swapped_row()
 
 
 if __name__ == "__main__":

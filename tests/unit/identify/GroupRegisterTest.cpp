@@ -154,6 +154,29 @@ private Q_SLOTS:
         QCOMPARE(m_maps.marks.size(), 1U);
     }
 
+    void severalUsersFillNothingThatOthersNeed()
+    {
+        GroupRegister known(7);
+        std::uint64_t id = 0;
+        with([&](MapChanges &c) {
+            for (uid_t user = 1000; user < 1060; ++user) {
+                for (int n = 0; n < 1200; ++n)
+                    known.add(group("app-x" + std::to_string(n) + "-1.scope", ++id, user), c);
+            }
+        });
+        QVERIFY(m_maps.marks.size() > GroupRegister::crowd); // they are many
+        with([&](MapChanges &c) { known.add(group("app-web-1.scope", 900000, 2000), c); });
+        QVERIFY(m_maps.of(900000) != 0);
+        with([&](MapChanges &c) {
+            for (uid_t user = 3000; user < 4000; ++user) {
+                for (int n = 0; n < 200; ++n)
+                    known.add(group("app-y" + std::to_string(n) + "-1.scope", ++id, user), c);
+            }
+        });
+        constexpr std::size_t places = 65536; // of each map
+        QVERIFY(m_maps.marks.size() < places && m_maps.addresses.size() < places);
+    }
+
     void whatWasMissedIsMadeUpFor()
     {
         GroupRegister known(0);

@@ -1,0 +1,195 @@
+"""Tor's account, as code that runs there may use it, over bridges too, and what the control port's password lets do."""
+
+import os
+
+import namespace
+import probes
+from hostile import HostileTest
+from namespace import OTHER_UID, TOR_GROUP, USER_UID
+
+DATA = "/var/lib/veldmark/run/tor/data"
+
+
+class Account(HostileTest):
+    def test_tors_account_alone_passes_nothing(self):
+        """A setuid file that it has left in an earlier session, say."""
+        self.machine.connect()
+        self.assertIn("https", self.wire.arrivals(self.tor_uid, TOR_GROUP))
+        self.assertEqual(self.wire.arrivals(self.tor_uid), set())
+        self.assertNotEqual(
+            self.machine.run("/bin/sh", "-c", f"echo 0 >{TOR_GROUP}/cgroup.procs", uid=self.tor_uid, check=False).returncode, 0
+        )
+        self.machine.help("disconnect")
+        self.assertIn("https", self.wire.arrivals(self.tor_uid))
+
+    def test_without_such_groups_it_is_the_account_alone(self):
+        self.machine.shell("umount /sys/fs/cgroup")
+        try:
+            self.machine.connect()
+            self.assertNotIn("cgroupv2", self.machine.run("nft", "list", "ruleset").stdout)
+            self.assertIn("https", self.wire.arrivals(self.tor_uid))
+            port, end = self.serve(0, uid=self.tor_uid)
+            self.assertFalse(self.reach(port, uid=OTHER_UID))
+            end()
+            self.assertEqual(self.asked(self.ASK, ("tor", "127.0.0.1", self.tor_uid, None))[1], ["tor 30"] * 3)
+            self.machine.help("disconnect")
+        finally:
+            self.machine.shell("mount -t cgroup2 private /sys/fs/cgroup")
+
+    def test_tor_reaches_the_local_network_for_a_bridge_there_alone(self):
+        lan = {"lan-tcp", "lan-dns-tcp", "lan-dns-tls"}
+        for url, reached in (None, set()), ("https://203.0.113.7/", set()), ("https://192.168.77.30/", lan):
+            self.machine.connect(
+                more=["--bridge", f"webtunnel 192.0.2.3:80 url={url}", "--pt-lyrebird", "/usr/bin/obfs4proxy"] if url else []
+            )
+            self.assertEqual(self.wire.arrivals(self.tor_uid, TOR_GROUP) & lan, reached, url)
+
+    def test_over_bridges_tors_account_reaches_nothing_else(self):
+        """Whoever has the control password can name proxies, bridges and programs."""
+        bridges = [f"{probes.SENTINEL}:{self.wire.marks + number}" for number in range(1, 5)]  # what tells the end of a round
+        bridges += [f"obfs4 {probes.PUBLIC}:443 cert=a iat-mode=0", f"[{probes.PUBLIC6}]:1002", f"{probes.LAN}:1006"]
+        more = [word for bridge in bridges for word in ("--bridge", bridge)] + ["--pt-lyrebird", "/usr/bin/obfs4proxy"]
+        self.machine.connect(more=more)
+        self.assertEqual(self.wire.arrivals(self.tor_uid, TOR_GROUP), {"https", "tcp6", "lan-tcp"})
+        # Where the transport asks a front, or the administrator has put a proxy in between, it may be anybody.
+        self.machine.connect(more=[*more, "--bridge", "webtunnel 192.0.2.3:80 url=https://a.example/"])
+        self.assertLessEqual({"tcp", "https", "dns-tls"}, self.wire.arrivals(self.tor_uid, TOR_GROUP))
+        for line in "HTTPSProxy 192.0.2.8:8", "%include /run/more":
+            self.machine.shell(
+                f"cp /etc/tor/torrc-defaults /run/defaults; echo HTTPSProxy 192.0.2.8:8 >/run/more; echo '{line}' >>/etc/tor/torrc-defaults"
+            )
+            try:
+                self.machine.connect(more=more)
+                self.assertLessEqual({"tcp", "https", "dns-tls"}, self.wire.arrivals(self.tor_uid, TOR_GROUP), line)
+            finally:
+                self.machine.help("disconnect")
+                self.machine.shell("cat /run/defaults >/etc/tor/torrc-defaults; rm /run/defaults /run/more")
+        self.before = self.machine.snapshot()
+
+    def control(self, *lines, uid=USER_UID):
+        """Tor's replies, one for each line."""
+        talk = (
+            "import socket, sys\nc = socket.create_connection(('127.0.0.1', 9051), 10); f = c.makefile('rw', newline='\\r\\n')\n"
+            "for line in sys.argv[1:]:\n f.write(line + '\\n'); f.flush(); reply = f.readline()\n while reply[3:4] == '-': print(reply.strip()); reply = f.readline()\n print(reply.strip())"
+        )
+        return self.machine.run("/usr/bin/python3", "-c", talk, *lines, uid=uid).stdout.splitlines()
+
+    def connect_with_password(self, *more):
+        hashed = self.machine.run(namespace.TOR, "--quiet", "--hash-password", "the word").stdout.strip()
+        self.machine.help(
+            "connect",
+            "--tor",
+            namespace.TOR,
+            "--hash",
+            hashed,
+            "--strict",
+            "1",
+            "--lan",
+            "0",
+            *more,
+            env={"PATH": os.environ["PATH"], "PKEXEC_UID": str(USER_UID)},
+        )
+
+    def test_without_the_password_the_control_port_does_nothing(self):
+        self.connect_with_password()
+        self.assertIn("250-AUTH METHODS=HASHEDPASSWORD", self.control("PROTOCOLINFO 1"))
+        for words in (
+            "AUTHENTICATE",
+            'AUTHENTICATE ""',
+            'AUTHENTICATE "another"',
+            "GETINFO config-text",
+            "SETCONF HTTPSProxy=192.0.2.8:8",
+        ):
+            self.assertRegex(self.control(words)[-1], "^51[45] ")
+        self.assertEqual(self.control('AUTHENTICATE "the word"', "SETCONF HTTPSProxy=192.0.2.8:8"), ["250 OK", "250 OK"])
+        # Not even its hash is told, which could be tried out elsewhere.
+        for uid in USER_UID, OTHER_UID:
+            self.assertNotEqual(self.machine.run("cat", "/var/lib/veldmark/run/torrc", uid=uid, check=False).returncode, 0)
+
+    def test_without_bridges_the_password_runs_no_program(self):
+        """Tor takes the words, and starts nothing. It is let to the network, which leads nowhere here: else it starts none anyhow."""
+        words = (
+            'AUTHENTICATE "the word"',
+            f'SETCONF ClientTransportPlugin="obfs4 exec /usr/bin/touch {DATA}/ran" UseBridges=1 Bridge="obfs4 192.0.2.1:443"',
+            "SETCONF DisableNetwork=0",
+        )
+        log = "/var/lib/veldmark/run/notices.log"
+        for more, runs in ([], False), (
+            ["--bridge", "obfs4 192.0.2.1:443 cert=a iat-mode=0", "--pt-lyrebird", "/usr/bin/obfs4proxy"],
+            True,
+        ):
+            self.connect_with_password(*more)
+            if not runs:
+                self.assertNotEqual(self.control(words[0], "SETCONF NoExec=0")[-1][:3], "250")
+            self.control(*words)
+            self.machine.shell(f"until [ -e {DATA}/ran ] || grep -q 'not compatible with NoExec mode' {log}; do sleep 0.01; done")
+            self.assertEqual(self.machine.shell(f"ls {DATA}/ran || true").strip() != "", runs)
+            self.machine.help("disconnect")
+            self.machine.shell(f"rm -f {DATA}/ran")
+
+    def as_tor_within(self, script):
+        """In Tor's own mounts, as code of its account would run there."""
+        [pid] = self.machine.tor_pids()
+        return self.machine.run(
+            "nsenter",
+            "--target",
+            pid,
+            "--mount",
+            "setpriv",
+            "--reuid",
+            "_veldmark",
+            "--regid",
+            "_veldmark",
+            "--clear-groups",
+            "/bin/sh",
+            "-c",
+            script,
+            check=False,
+        )
+
+    def test_tors_account_leaves_nothing_that_others_can_run(self):
+        self.machine.shell("mkdir -m 1777 /run/everybodys /home/everybodys; cp /usr/bin/id /run/id")
+        places = ["/run/everybodys", "/home/everybodys", "/tmp", "/var/tmp", "/dev/shm", DATA]
+        self.machine.shell(
+            "setpriv --reuid _veldmark --clear-groups /bin/sh -c 'cp /run/id /run/everybodys/control; chmod 4755 /run/everybodys/control'"
+        )
+        self.assertIn(f"euid={self.tor_uid}", self.machine.run("/run/everybodys/control", uid=OTHER_UID).stdout)
+        self.machine.shell("rm /run/everybodys/control")
+        self.machine.connect()
+        for place in places:
+            self.as_tor_within(f"cp /run/id {place}/left; chmod 4755 {place}/left; chmod 755 {DATA}")
+            done = self.machine.run("/bin/sh", "-c", f"{place}/left", uid=OTHER_UID, check=False)
+            self.assertNotEqual(done.returncode, 0, f"{place}: {done.stdout}")
+        self.assertEqual(
+            self.machine.shell(f"find {' '.join(places)} -name left -perm -4000"), f"{DATA}/left\n"
+        )  # it could write there
+        self.assertNotIn("euid", self.as_tor_within(f"{DATA}/left").stdout)
+        self.machine.help("disconnect")
+        self.assertNotEqual(self.machine.run("/bin/sh", "-c", f"{DATA}/left", uid=OTHER_UID, check=False).returncode, 0)
+        self.machine.shell(f"rm -r /run/everybodys /home/everybodys /run/id {DATA}/left; chmod 700 {DATA}")
+
+    def test_what_is_unmounted_is_not_kept_by_tor(self):
+        self.machine.shell("mkdir /opt/stick; mount -t tmpfs earlier /opt/stick; mount --make-rshared /")
+        try:
+            self.machine.connect()
+            [pid] = self.machine.tor_pids()
+
+            def mounted():
+                return self.machine.shell(f"grep -c ' /opt/stick ' /proc/{pid}/mountinfo || true").strip()
+
+            self.assertEqual(mounted(), "1")
+            self.machine.shell("umount /opt/stick")
+            self.assertEqual(mounted(), "0")
+        finally:
+            self.machine.shell("mountpoint -q /opt/stick && umount /opt/stick; rmdir /opt/stick; mount --make-rprivate /")
+
+    def test_the_data_folder_of_an_earlier_version_is_taken_over(self):
+        self.machine.shell(
+            f"mv {DATA} /var/lib/veldmark/run/data; rmdir {os.path.dirname(DATA)}; touch /var/lib/veldmark/run/data/guards"
+        )
+        self.machine.connect()
+        self.machine.shell(f"test -e {DATA}/guards; rm {DATA}/guards; test ! -e /var/lib/veldmark/run/data")
+
+
+if __name__ == "__main__":
+    namespace.main()

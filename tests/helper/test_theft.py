@@ -1,0 +1,62 @@
+"""Programs of the user's own that take over what the helper runs as that user, to change what root has copied afterwards. As long as
+such a program keeps what it has taken, the run has no end of the file and refuses it."""
+
+import hashlib
+import os
+import subprocess
+
+import namespace
+from namespace import INSTALLED, USER_UID, HelperTest
+from thief import Thief
+
+PROMPT = {"PATH": os.environ["PATH"], "PKEXEC_UID": str(USER_UID)}
+PATH, GOOD = "/home/alice/program", "/home/alice/good"
+RULE = "/etc/sudoers.d/veldmark"
+LAUNCHER = os.path.join(os.path.dirname(INSTALLED), "veldmark-launch")
+
+
+class Theft(HelperTest):
+    def run_against(self, *words):
+        """The helper, which reads PATH as the user. The file is there, and good, until the run waits for the lock; afterwards it comes
+        slowly, as from a medium of the user's. The run, what the thief gets of it, and what it can do with that once the run has ended.
+        """
+        self.machine.shell(f"rm -f {PATH} {GOOD}; install -o alice -m 0755 /usr/bin/true {PATH}; install -o alice {PATH} {GOOD}")
+        holder = self.machine.start(
+            "flock",
+            "/run/veldmark.lock",
+            "/bin/sh",
+            "-c",
+            "echo held; read word",
+            stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE,
+            text=True,
+        )
+        self.assertEqual(holder.stdout.readline(), "held\n")
+        run = self.machine.start("/bin/bash", self.machine.helper, *words, env=PROMPT, stderr=subprocess.PIPE, text=True)
+        self.machine.shell("until pgrep -xf 'flock -w 20 9'; do sleep 0.01; done", timeout=30)
+        self.machine.shell(f"rm {PATH}; mkfifo -m 0700 {PATH}; chown alice {PATH}")
+        thief = Thief(self.machine, USER_UID, "head", pipe=PATH, file=GOOD)
+        self.addCleanup(thief.close)
+        holder.communicate("go on\n")
+        got = thief.says()
+        said = run.communicate(timeout=60)[1]
+        return said, got, thief.write("#!/bin/sh")
+
+    def test_approved_copy_is_not_changed_afterwards(self):
+        with open("/usr/bin/true", "rb") as file:
+            digest = hashlib.sha256(file.read()).hexdigest()
+        said, *thiefs = self.run_against("approve", "--program", PATH, "--as", "tor", "--sha256", digest)
+        self.assertEqual(thiefs, ["a pipe", "Broken pipe"])
+        self.assertEqual(said, f"ERROR: The program {PATH} cannot be copied.\n")
+        self.assertEqual(self.machine.shell("ls /var/lib/veldmark/programs"), "")
+
+    def test_what_runs_without_a_password_is_not_changed_afterwards(self):
+        self.addCleanup(self.machine.help, "uninstall-privileged")
+        said, *thiefs = self.run_against("install-privileged", "--user", "alice", "--launch", PATH)
+        self.assertEqual(thiefs, ["a pipe", "Broken pipe"])
+        self.assertEqual(said, f"ERROR: The launcher could not be copied to {os.path.dirname(LAUNCHER)}.\n")
+        self.assertEqual(self.machine.shell(f"ls {LAUNCHER}* {RULE} 2>/dev/null || true"), "")
+
+
+if __name__ == "__main__":
+    namespace.main()

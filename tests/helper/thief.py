@@ -1,0 +1,88 @@
+"""A program that takes the output of another process over, as any program may with another of its own account."""
+
+import subprocess
+
+NOBODY = 65534
+
+# UID COMMAND PIPE FILE: takes standard output of the process COMMAND that runs as UID over and prints what that is, or why not. Where
+# a pipe is given, it is that process which reads PIPE, and gets FILE by it. Then, for each line of input, "write TEXT" or "copy
+# FILE", that goes to what was taken, from its beginning on, which is let go then; prints "written" or why not.
+THIEF = """
+import ctypes, os, signal, stat, sys
+uid, command, pipe, file = int(sys.argv[1]), sys.argv[2].encode(), sys.argv[3].encode(), sys.argv[4]
+call = ctypes.CDLL(None, use_errno=True).syscall
+PIDFD_OPEN, PIDFD_GETFD = 434, 438
+
+def victims():
+    for pid in filter(str.isdigit, os.listdir('/proc')):
+        try:
+            words = open(f'/proc/{pid}/cmdline', 'rb').read().split(b'\\0')
+            if os.stat(f'/proc/{pid}').st_uid == uid and words[0].endswith(command) and (not pipe or pipe in words):
+                yield int(pid)
+        except OSError:
+            pass
+
+print('waits', flush=True)
+found = []
+while not found:
+    found = list(victims())
+number = call(PIDFD_GETFD, call(PIDFD_OPEN, found[0], 0), 1, 0)
+if number < 0:
+    print(os.strerror(ctypes.get_errno()), flush=True)
+else:
+    print('a file' if stat.S_ISREG(os.fstat(number).st_mode) else 'a pipe', flush=True)
+if pipe:
+    with open(pipe, 'wb') as out:
+        out.write(open(file, 'rb').read())
+signal.signal(signal.SIGPIPE, signal.SIG_IGN)
+for line in sys.stdin:
+    word, rest = line.split(' ', 1)
+    data = rest.encode() if word == 'write' else open(rest.strip(), 'rb').read()
+    try:
+        if stat.S_ISREG(os.fstat(number).st_mode):
+            os.ftruncate(number, 0)
+            os.lseek(number, 0, os.SEEK_SET)
+        os.write(number, data)
+        os.close(number)
+        print('written', flush=True)
+    except OSError as error:
+        print(error.strerror, flush=True)
+"""
+
+
+class Thief:
+    """Runs as `uid` and is after the process `command` of the account `victim`, its own unless another is named."""
+
+    def __init__(self, machine, uid, command, victim=None, pipe="", file=""):
+        self.process = machine.start(
+            "/usr/bin/python3",
+            "-c",
+            THIEF,
+            str(uid if victim is None else victim),
+            command,
+            pipe,
+            file,
+            uid=uid,
+            stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE,
+            text=True,
+        )
+        assert self.says() == "waits"
+
+    def says(self):
+        return self.process.stdout.readline().strip()
+
+    def _order(self, line):
+        self.process.stdin.write(line + "\n")
+        self.process.stdin.flush()
+        return self.says()
+
+    def write(self, text):
+        return self._order("write " + text)
+
+    def copy(self, file):
+        return self._order("copy " + file)
+
+    def close(self):
+        self.process.kill()
+        self.process.communicate()
