@@ -185,6 +185,32 @@ dist() {
     printf 'build/%s\n' "$name.tar.gz"
 }
 
+# needs_root WHAT: said before anything is compiled for it.
+needs_root() {
+    [[ $EUID -eq 0 ]] || die "$1 by root: run sudo ./build.sh $verb"
+}
+
+# closed_folder: prints the folder above this one that other users cannot enter, if there is one. The tests and the private
+# network run programs of this tree as users of their own.
+closed_folder() {
+    local folder=$PWD mode
+    while :; do
+        mode=$(stat -c %a -- "$folder")
+        if (((8#$mode & 1) == 0)); then
+            printf '%s' "$folder"
+            return
+        fi
+        [[ $folder != / ]] || return 0
+        folder=$(dirname -- "$folder")
+    done
+}
+
+needs_open_folder() {
+    local closed
+    closed=$(closed_folder)
+    [[ -z $closed ]] || die "other users cannot enter $closed, and programs are run as some: move the checkout to a folder such as /srv"
+}
+
 verb=${1:-}
 [[ $# -eq 0 ]] || shift
 case $verb in
@@ -199,6 +225,7 @@ demo)
         command -v sudo >/dev/null || die "the demonstration's network is made by root and there is no sudo: run ./build.sh demo as root"
         sudo -v 2>/dev/null || die "the demonstration's network is made by root and sudo refused: run sudo ./build.sh demo"
     fi
+    needs_open_folder
     deps programs
     compile dev programs veldmark-pictures
     [[ $EUID -ne 0 ]] || exec /usr/bin/python3 tests/lab/demo.py
@@ -206,6 +233,8 @@ demo)
     exec /usr/bin/python3 tests/lab/demo.py pictures
     ;;
 test)
+    # Unit tests alone run as whoever calls.
+    [[ $# -gt 0 && $1 != -* && ! " $* " =~ \ (helper|helper_mac|lab|ui|package|mutate)\  ]] || needs_open_folder
     deps
     names=()
     while [[ $# -gt 0 && $1 != -* ]]; do
@@ -232,6 +261,7 @@ test)
     exit "$status"
     ;;
 fresh-test)
+    needs_root "a clean Debian is made"
     deps
     exec /usr/bin/python3 tests/package/fresh.py "$@"
     ;;
@@ -255,11 +285,14 @@ tsan)
     ;;
 package) package ;;
 package-test)
+    needs_root "a clean Debian is entered"
+    needs_open_folder
     deps
     package
     exec /usr/bin/python3 tests/package/test_debian.py build/veldmark_*.deb "$@"
     ;;
 machine-test)
+    needs_root "a machine is booted"
     deps
     package
     unpack nspawn usr/bin/systemd-nspawn systemd-container libsystemd-shared
@@ -287,6 +320,7 @@ mutate)
     exec nice /usr/bin/python3 tests/mutate/run.py "$@"
     ;;
 soak)
+    needs_open_folder
     deps
     compile dev suite-lab
     exec /usr/bin/python3 tests/lab/soak.py "$@"
