@@ -3751,6 +3751,14 @@ name in the same session has the same ones</source>
         <source>The value of --separate must be 0 or 1.</source>
         <translation>يجب أن تكون قيمة ⁨--separate⁩ إما 0 أو 1.</translation>
     </message>
+    <message>
+        <source>Whether a connect can work isn&apos;t known.</source>
+        <translation>لا يُعرف هل يمكن إجراء اتصال.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <translation>يمنع جدار حماية آخر على هذا الحاسوب الاتصالات الصادرة، ولا تسمح أي من قواعده بشيء، لذا لا يمكن أن يمر Tor: %1.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3751,6 +3751,14 @@ hat es in derselben Sitzung später dieselben</translation>
         <source>The value of --separate must be 0 or 1.</source>
         <translation>Der Wert von --separate muss 0 oder 1 sein.</translation>
     </message>
+    <message>
+        <source>Whether a connect can work isn&apos;t known.</source>
+        <translation>Ob eine Verbindung möglich ist, ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <translation>Eine andere Firewall auf diesem Computer verwehrt ausgehende Verbindungen, und keine ihrer Regeln erlaubt eine; Tor kommt daher nicht durch: %1.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3751,6 +3751,14 @@ name in the same session has the same ones</source>
         <source>The value of --separate must be 0 or 1.</source>
         <translation>مقدار ⁨--separate⁩ باید 0 یا 1 باشد.</translation>
     </message>
+    <message>
+        <source>Whether a connect can work isn&apos;t known.</source>
+        <translation>معلوم نیست بتوان وصل شد یا نه.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <translation>دیوار آتش دیگری در این رایانه جلوی ترافیک خروجی را می‌گیرد و هیچ‌یک از قاعده‌هایش چیزی را مجاز نمی‌کند، پس Tor نمی‌تواند رد شود: ⁨%1⁩.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

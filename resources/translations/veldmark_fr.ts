@@ -3751,6 +3751,14 @@ le même nom dans la même session donne les mêmes circuits</translation>
         <source>The value of --separate must be 0 or 1.</source>
         <translation>La valeur de --separate doit être 0 ou 1.</translation>
     </message>
+    <message>
+        <source>Whether a connect can work isn&apos;t known.</source>
+        <translation>On ne sait pas si une connexion est possible.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <translation>Un autre pare-feu de cet ordinateur refuse les connexions sortantes et aucune de ses règles n’en autorise, Tor ne peut donc pas passer : %1.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3751,6 +3751,14 @@ o mesmo nome na mesma sessão usa os mesmos circuitos</translation>
         <source>The value of --separate must be 0 or 1.</source>
         <translation>O valor de --separate deve ser 0 ou 1.</translation>
     </message>
+    <message>
+        <source>Whether a connect can work isn&apos;t known.</source>
+        <translation>Não se sabe se é possível conectar.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <translation>Outro firewall neste computador bloqueia as conexões para fora e nenhuma regra dele permite nada, então o Tor não consegue passar: %1.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3751,6 +3751,14 @@ name in the same session has the same ones</source>
         <source>The value of --separate must be 0 or 1.</source>
         <translation>Значение --separate должно быть 0 или 1.</translation>
     </message>
+    <message>
+        <source>Whether a connect can work isn&apos;t known.</source>
+        <translation>Неизвестно, возможно ли подключение.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <translation>Другой брандмауэр на этом компьютере запрещает исходящие соединения, и ни одно из его правил ничего не разрешает, поэтому Tor не может пройти: %1.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

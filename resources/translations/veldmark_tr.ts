@@ -3751,6 +3751,14 @@ aynı adla yapılan sonraki çalıştırma aynı devreleri kullanır</translatio
         <source>The value of --separate must be 0 or 1.</source>
         <translation>--separate değeri 0 ya da 1 olmalı.</translation>
     </message>
+    <message>
+        <source>Whether a connect can work isn&apos;t known.</source>
+        <translation>Bağlantının kurulup kurulamayacağı bilinmiyor.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <translation>Bu bilgisayardaki başka bir güvenlik duvarı dışarı çıkanı reddediyor ve hiçbir kuralı bir şeye izin vermiyor; bu yüzden Tor geçemiyor: %1.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

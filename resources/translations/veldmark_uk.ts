@@ -3751,6 +3751,14 @@ name in the same session has the same ones</source>
         <source>The value of --separate must be 0 or 1.</source>
         <translation>Значенням --separate має бути 0 або 1.</translation>
     </message>
+    <message>
+        <source>Whether a connect can work isn&apos;t known.</source>
+        <translation>Невідомо, чи можливе під’єднання.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <translation>Інший брандмауер на цьому комп’ютері забороняє вихідні з’єднання, і жодне з його правил нічого не дозволяє, тому Tor не може пройти: %1.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3751,6 +3751,14 @@ name in the same session has the same ones</source>
         <source>The value of --separate must be 0 or 1.</source>
         <translation>--separate 的值必须是 0 或 1。</translation>
     </message>
+    <message>
+        <source>Whether a connect can work isn&apos;t known.</source>
+        <translation>无法确定能否连接。</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <translation>本机上的另一个防火墙禁止出站流量，且没有任何规则放行，因此 Tor 无法通过：%1。</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>
