@@ -185,6 +185,22 @@ dist() {
     printf 'build/%s\n' "$name.tar.gz"
 }
 
+# needs_root WHAT: said before anything is compiled for it.
+needs_root() {
+    [[ $EUID -eq 0 ]] || die "$1 by root: run sudo ./build.sh $verb"
+}
+
+# needs_open_folder: root's tests run programs of this tree as users of their own, who cannot enter /root, say.
+needs_open_folder() {
+    local folder=$PWD
+    while :; do
+        (((8#$(stat -c %a -- "$folder") & 1) == 1)) ||
+            die "other users cannot enter $folder, and tests run programs as some: move the checkout to a folder such as /srv"
+        [[ $folder != / ]] || return 0
+        folder=$(dirname -- "$folder")
+    done
+}
+
 verb=${1:-}
 [[ $# -eq 0 ]] || shift
 case $verb in
@@ -206,6 +222,8 @@ demo)
     exec /usr/bin/python3 tests/lab/demo.py pictures
     ;;
 test)
+    # Most unit tests run as whoever calls, and so does everything that is not root's.
+    [[ $EUID -ne 0 || ($# -gt 0 && $1 != -* && ! " $* " =~ \ (helper|helper_mac|lab|ui|package|mutate)\ ) ]] || needs_open_folder
     deps
     names=()
     while [[ $# -gt 0 && $1 != -* ]]; do
@@ -232,6 +250,7 @@ test)
     exit "$status"
     ;;
 fresh-test)
+    needs_root "a clean Debian is made"
     deps
     exec /usr/bin/python3 tests/package/fresh.py "$@"
     ;;
@@ -255,11 +274,13 @@ tsan)
     ;;
 package) package ;;
 package-test)
+    needs_root "a clean Debian is entered"
     deps
     package
     exec /usr/bin/python3 tests/package/test_debian.py build/veldmark_*.deb "$@"
     ;;
 machine-test)
+    needs_root "a machine is booted"
     deps
     package
     unpack nspawn usr/bin/systemd-nspawn systemd-container libsystemd-shared

@@ -46,14 +46,19 @@ busy() {
     return "$status"
 }
 
+# has_room KB: whether that much is left for temporary files.
+has_room() {
+    (($(df --output=avail -k "${TMPDIR:-/tmp}" | tail -n 1) >= $1))
+}
+
 # What is wrong with this machine, in one line that says what to do, from the log of a step that failed; nothing when the log
 # tells of none of these.
 explain_failure() {
     local log=$1
+    local full="${TMPDIR:-/tmp} is full: make room there, or set TMPDIR to a folder with 1 GB, and run this again"
     if grep -qE 'No space left on device|have enough free space' "$log"; then
-        if grep -qE '/tmp/[^ ]*: No space left|error writing to /tmp|cannot create temporary' "$log" ||
-            (($(df --output=avail -k "${TMPDIR:-/tmp}" | tail -n 1) < 51200)); then
-            printf '%s is full: make room there, or set TMPDIR to a folder with 1 GB, and run this again' "${TMPDIR:-/tmp}"
+        if grep -qE '/tmp/[^ ]*: No space left|error writing to /tmp|cannot create temporary' "$log" || ! has_room 51200; then
+            printf '%s' "$full"
         else
             printf 'the disk is full: make room (a full build takes 3 GB) and run this again'
         fi
@@ -69,5 +74,7 @@ explain_failure() {
     elif grep -qE 'Permission denied' "$log"; then
         printf 'a file may not be written (%s): this checkout, or its build folder, belongs to another user' \
             "$(grep -m 1 -E 'Permission denied' "$log" | cut -c1-120)"
+    elif ! has_room 1024; then
+        printf '%s' "$full" # where the log is, which then lacks what was said
     fi
 }

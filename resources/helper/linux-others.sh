@@ -1,11 +1,12 @@
 
 # ---- Linux: other firewalls --------------------------------------------------------------------------------
-# Rules of others can keep Tor from going out, and only root can read them. What a connect finds is noted for the application,
-# which names it when Tor gets nowhere. Nothing of theirs is changed.
+# Rules of others can keep Tor from going out, and only root can read them. What a connect finds, and the watcher of a strict session
+# after each change, is noted for the application, which names it when Tor gets nowhere. Nothing of theirs is changed.
 
 readonly OTHERS_NOTE=/run/veldmark.others   # 0644; a name per line: ufw, firewalld, or "table FAMILY NAME"
 
 # What stands before a verdict and holds for all that Tor opens.
+# shellcheck disable=SC2089
 readonly ALWAYS='^(counter( packets [0-9]+ bytes [0-9]+)?|oif(name)? != "lo"|ct state new|meta l4proto tcp|ip protocol tcp|meta nfproto ipv4|log( (prefix|level|flags|group|snaplen) ("[^"]*"|[a-z0-9]+))*) (.+)$'
 
 CHAINS=() CHAIN_RULES=()   # "FAMILY TABLE CHAIN", and its rules without a condition, one per line
@@ -22,6 +23,8 @@ read_chains() {
         family=${BASH_REMATCH[1]} table=${BASH_REMATCH[2]}
     elif [[ -z $table ]]; then
       continue
+    elif [[ $line == "flags "*dormant* ]]; then
+      table=''   # takes no part in anything
     elif [[ $line =~ ^chain\ ([A-Za-z0-9_./-]+)\ \{ ]]; then
       CHAINS[count]="$family $table ${BASH_REMATCH[1]}" CHAIN_RULES[count]=''
       count=$((count + 1))
@@ -83,6 +86,9 @@ note_others() {
   local names
   read_chains < <(timeout -k 1 5 unshare --mount --propagation private sh -c "$WITHOUT_GROUPS" nft -s -t list ruleset)
   names=$(name_others)
-  rm -f -- "$OTHERS_NOTE"
-  [[ -z $names ]] || write_file "$OTHERS_NOTE" 0644 root "$names"$'\n' || true
+  if [[ -z $names ]]; then
+    rm -f -- "$OTHERS_NOTE"
+  else
+    write_file "$OTHERS_NOTE" 0644 root "$names"$'\n' || true
+  fi
 }

@@ -10,6 +10,7 @@ readonly WATCHER=$RUN/watcher.sh          # 0600
 readonly KILL_SWITCH_NOTE=/run/veldmark.watch   # 0644; note.sh says what it holds
 readonly WATCH_SECONDS=3                  # a look without any word from the kernel
 readonly BEAT_SECONDS=0.5                 # how often the note is written, so that a watcher that was stopped is missed at once
+readonly OTHERS_SECONDS=5                 # between two looks at the rules of others, which may be many and change often
 
 # rules_stand: whether the kernel holds our table as it was loaded.
 rules_stand() {
@@ -104,7 +105,10 @@ await_change() {
     status=0
     IFS= read -r -t "$BEAT_SECONDS" -u 4 _ || status=$?
     beat || true
-    ((status != 0)) || break
+    if ((status == 0)); then
+      CHANGED=1
+      break
+    fi
     ((status > 128)) || return 1
   done
   # One look for all that came at once.
@@ -138,6 +142,15 @@ ports_are_tors() {
   return 1
 }
 
+# watch_others: what rules of others deny, when some have changed. Beside the looks at ours, which must not wait for it.
+CHANGED='' OTHERS_DUE=0
+watch_others() {
+  [[ -n $CHANGED ]] && ((SECONDS >= OTHERS_DUE)) || return 0
+  [[ -z $(jobs -rp) ]] || return 0
+  CHANGED='' OTHERS_DUE=$((SECONDS + OTHERS_SECONDS))
+  note_others 4<&- &
+}
+
 # Where somebody else listens in Tor's place, nothing is vouched for: the note is left to grow old.
 watch_rules() {
   local again
@@ -149,6 +162,7 @@ watch_rules() {
       beat || true   # on a busy computer the rest takes its time
       if ports_are_tors; then note_rules standing || true; else NOTED=''; fi
     fi
+    watch_others || true
     await_change || {
       # Look on, and ask again.
       for ((again = 0; again < 2 * WATCH_SECONDS; again++)); do
@@ -164,11 +178,12 @@ print_watcher() {
   printf 'set -uo pipefail\numask 077\nPATH=%s\nLC_ALL=C\nexport PATH LC_ALL\ncd /\n' "$PATH"
   # shellcheck disable=SC2090
   declare -p TABLE RULES LISTED RULES_LOCK MARKER KILL_SWITCH_NOTE WATCH_SECONDS BEAT_SECONDS EXEMPT_NAME RUN_GROUP TOR_GROUP CGROUPS \
-    WITHOUT_GROUPS WORD MISSED SINCE NOTED JOURNAL TOR_ENTRY SOCKS_PORT CONTROL_PORT DNS_PORT
-  printf 'STRUGGLES=0 LESSENED= LISTING= TREE= TOR_UID= VOUCHED= CHILDREN= START_TIME= BOOT= RECORDED_PID= JOURNAL_LINES=()\n'
+    OTHERS_NOTE OTHERS_SECONDS ALWAYS WITHOUT_GROUPS WORD MISSED SINCE NOTED JOURNAL TOR_ENTRY SOCKS_PORT CONTROL_PORT DNS_PORT
+  printf 'CHANGED= OTHERS_DUE=0 CHAINS=() CHAIN_RULES=() JUDGED= STRUGGLES=0 LESSENED= LISTING= TREE= TOR_UID= VOUCHED= CHILDREN= START_TIME= BOOT= RECORDED_PID= JOURNAL_LINES=()\n'
   declare -f read_marker put_in_place write_file note_rules hold_rules release_rules keep_listing rules_stand find_tree make_group make_groups nft_without_groups read_listing copy_stands \
     print_unexempt relock monitor monitor_rules beat await_change port_sockets has_socket \
-    journal_has journal_read read_lines read_boot start_time find_recorded read_children ports_are_tors watch_rules
+    journal_has journal_read read_lines read_boot start_time find_recorded read_children ports_are_tors read_chains judge_chain name_others \
+    note_others watch_others watch_rules
   printf 'watch_rules\n'
 }
 

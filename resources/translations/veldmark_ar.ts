@@ -3755,6 +3755,14 @@ name in the same session has the same ones</source>
         <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
         <translation>لم تأتِ بـ ⁨%1⁩ أي حزمة من حزم النظام. يُطلب من مسؤول أن يوافق عليه عند الاتصال التالي.</translation>
     </message>
+    <message>
+        <source>Whether a connect can work isn&apos;t known.</source>
+        <translation>لا يُعرف هل يمكن إجراء اتصال.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <translation>يمنع جدار حماية آخر على هذا الحاسوب الاتصالات الصادرة، ولا تسمح أي من قواعده بشيء، لذا لا يمكن أن يمر Tor: %1.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

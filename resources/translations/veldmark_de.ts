@@ -3755,6 +3755,14 @@ hat es in derselben Sitzung später dieselben</translation>
         <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
         <translation>Kein Paket des Systems hat %1 gebracht. Beim nächsten Verbinden wird ein Administrator um seine Zustimmung dazu gebeten.</translation>
     </message>
+    <message>
+        <source>Whether a connect can work isn&apos;t known.</source>
+        <translation>Ob eine Verbindung möglich ist, ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <translation>Eine andere Firewall auf diesem Computer verwehrt ausgehende Verbindungen, und keine ihrer Regeln erlaubt eine; Tor kommt daher nicht durch: %1.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3755,6 +3755,14 @@ el mismo nombre en la misma sesión, tiene los mismos</translation>
         <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
         <translation>%1 no procede de ningún paquete del sistema. En la próxima conexión se pide a un administrador que lo apruebe.</translation>
     </message>
+    <message>
+        <source>Whether a connect can work isn&apos;t known.</source>
+        <translation>No se sabe si la conexión es posible.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <translation>Otro cortafuegos de este equipo impide las conexiones salientes y ninguna de sus reglas permite nada, así que Tor no puede pasar: %1.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

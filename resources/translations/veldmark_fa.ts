@@ -3755,6 +3755,14 @@ name in the same session has the same ones</source>
         <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
         <translation>هیچ‌یک از بسته‌های سیستم ⁨%1⁩ را نیاورده است. در اتصال بعدی از مدیر سیستم خواسته می‌شود آن را تأیید کند.</translation>
     </message>
+    <message>
+        <source>Whether a connect can work isn&apos;t known.</source>
+        <translation>معلوم نیست بتوان وصل شد یا نه.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <translation>دیوار آتش دیگری در این رایانه جلوی ترافیک خروجی را می‌گیرد و هیچ‌یک از قاعده‌هایش چیزی را مجاز نمی‌کند، پس Tor نمی‌تواند رد شود: ⁨%1⁩.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3755,6 +3755,14 @@ le même nom dans la même session donne les mêmes circuits</translation>
         <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
         <translation>%1 ne provient d’aucun paquet du système. À la prochaine connexion, un administrateur est invité à l’approuver.</translation>
     </message>
+    <message>
+        <source>Whether a connect can work isn&apos;t known.</source>
+        <translation>On ne sait pas si une connexion est possible.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <translation>Un autre pare-feu de cet ordinateur refuse les connexions sortantes et aucune de ses règles n’en autorise, Tor ne peut donc pas passer : %1.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3755,6 +3755,14 @@ o mesmo nome na mesma sessão usa os mesmos circuitos</translation>
         <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
         <translation>%1 não veio de nenhum pacote do sistema. Na próxima conexão, pede-se a um administrador que o aprove.</translation>
     </message>
+    <message>
+        <source>Whether a connect can work isn&apos;t known.</source>
+        <translation>Não se sabe se é possível conectar.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <translation>Outro firewall neste computador bloqueia as conexões para fora e nenhuma regra dele permite nada, então o Tor não consegue passar: %1.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

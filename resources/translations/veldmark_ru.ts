@@ -3755,6 +3755,14 @@ name in the same session has the same ones</source>
         <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
         <translation>%1 не входит ни в один пакет системы. При следующем подключении администратора попросят его одобрить.</translation>
     </message>
+    <message>
+        <source>Whether a connect can work isn&apos;t known.</source>
+        <translation>Неизвестно, возможно ли подключение.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <translation>Другой брандмауэр на этом компьютере запрещает исходящие соединения, и ни одно из его правил ничего не разрешает, поэтому Tor не может пройти: %1.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

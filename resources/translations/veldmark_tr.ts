@@ -3755,6 +3755,14 @@ aynı adla yapılan sonraki çalıştırma aynı devreleri kullanır</translatio
         <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
         <translation>%1 sistemin hiçbir paketinden gelmiyor. Bir sonraki bağlantıda bir yöneticiden onu onaylaması istenir.</translation>
     </message>
+    <message>
+        <source>Whether a connect can work isn&apos;t known.</source>
+        <translation>Bağlantının kurulup kurulamayacağı bilinmiyor.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <translation>Bu bilgisayardaki başka bir güvenlik duvarı dışarı çıkanı reddediyor ve hiçbir kuralı bir şeye izin vermiyor; bu yüzden Tor geçemiyor: %1.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

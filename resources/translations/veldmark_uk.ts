@@ -3755,6 +3755,14 @@ name in the same session has the same ones</source>
         <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
         <translation>%1 не походить із жодного пакунка системи. Під час наступного з’єднання адміністратора попросять це схвалити.</translation>
     </message>
+    <message>
+        <source>Whether a connect can work isn&apos;t known.</source>
+        <translation>Невідомо, чи можливе під’єднання.</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <translation>Інший брандмауер на цьому комп’ютері забороняє вихідні з’єднання, і жодне з його правил нічого не дозволяє, тому Tor не може пройти: %1.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

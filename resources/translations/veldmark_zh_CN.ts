@@ -3755,6 +3755,14 @@ name in the same session has the same ones</source>
         <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
         <translation>%1 不属于系统的任何软件包。下次连接时会请管理员批准它。</translation>
     </message>
+    <message>
+        <source>Whether a connect can work isn&apos;t known.</source>
+        <translation>无法确定能否连接。</translation>
+    </message>
+    <message>
+        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <translation>本机上的另一个防火墙禁止出站流量，且没有任何规则放行，因此 Tor 无法通过：%1。</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

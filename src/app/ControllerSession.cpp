@@ -88,6 +88,7 @@ void ControllerSession::read()
         next.exitIP = c.exitIP();
         next.torVerified = c.torVerified();
         next.stall = c.stall();
+        next.firewalls = c.denyingFirewalls();
         next.leak = leakOf(c.leakStatus());
         next.dns = c.dnsStatus();
         next.isChecking = c.isChecking();

@@ -41,16 +41,15 @@ template <typename T> QCoro::Task<T> elsewhere(std::function<T()> work)
     co_return result;
 }
 
-// A short path: GnuPG's agent makes sockets in its home, whose names may have about 100 characters.
-QString newTemporaryName()
+QString newTemporaryName(const QString &root)
 {
-    return QStringLiteral("/tmp/vmk-") + QUuid::createUuid().toString(QUuid::WithoutBraces);
+    return root + QStringLiteral("/vmk-") + QUuid::createUuid().toString(QUuid::WithoutBraces);
 }
 
-bool isTemporaryName(const QString &path)
+bool isTemporaryName(const QString &root, const QString &path)
 {
-    static const QRegularExpression pattern(
-        QRegularExpression::anchoredPattern(QStringLiteral("/tmp/vmk-[0-9a-f-]{36}")));
+    const QRegularExpression pattern(QRegularExpression::anchoredPattern(
+        QRegularExpression::escape(root) + QStringLiteral("/vmk-[0-9a-f-]{36}")));
     struct stat status { };
     return pattern.match(path).hasMatch()
         && ::lstat(QFile::encodeName(path).constData(), &status) == 0
@@ -214,7 +213,7 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::run(std::shared_p
     const auto job = std::make_shared<Job>();
     job->means = means;
     job->folder = *folder;
-    job->temporary = newTemporaryName();
+    job->temporary = newTemporaryName(means->source.temporaryRoot);
     job->report = std::move(progress);
     job->tools = std::make_shared<BundleTools>(
         means->profile.places.root + QStringLiteral("/usr/bin/tar"),
@@ -222,7 +221,7 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::run(std::shared_p
     means->tools = job->tools;
     if (means->isCancelled)
         job->tools->cancel();
-    if (isTemporaryName(job->folder->forgotten())) {
+    if (isTemporaryName(means->source.temporaryRoot, job->folder->forgotten())) {
         auto clearing = clearUp(job, job->folder->forgotten());
         co_await clearing;
     }

@@ -33,6 +33,9 @@ struct DownloadSource {
     QString fingerprint;
     quint16 socksPort = 9050; // Tor's, on 127.0.0.1
     QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+    // The folder of the temporary folders. A short path: GnuPG's agent makes sockets in its home,
+    // whose names may have about 100 characters.
+    QString temporaryRoot = QStringLiteral("/tmp");
 
     QUrl archiveURL(const QString &version, const QString &archiveName) const;
 };

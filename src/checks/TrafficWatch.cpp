@@ -50,6 +50,8 @@ QString TrafficWatch::name(Stall stall)
         return QStringLiteral("noCircuit");
     case Stall::noAnswer:
         return QStringLiteral("noAnswer");
+    case Stall::firewall:
+        return QStringLiteral("firewall");
     case Stall::vpn:
         break;
     }

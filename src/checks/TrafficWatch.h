@@ -20,6 +20,9 @@ public:
         // noCircuit or noAnswer, and what Tor sends goes into a VPN that strict mode does not let
         // out
         vpn,
+        // noCircuit or noAnswer, and a firewall of somebody else's is known to deny what goes out;
+        // who asks the watch finds that out
+        firewall,
     };
 
     struct Look {

@@ -33,10 +33,10 @@ Danger worst(const SessionFacts &facts)
 
 // What is being waited for. In strict mode the rules were seen to stand, else there is a worse
 // danger.
-Text waiting(TrafficWatch::Stall stall, bool isStrict)
+Text waiting(const SessionFacts &facts, bool isStrict)
 {
     using Stall = TrafficWatch::Stall;
-    switch (stall) {
+    switch (*facts.stall) {
     case Stall::noNetwork:
         return isStrict
             ? Text::tr("This computer has no network. Nothing gets out around Tor meanwhile.")
@@ -51,6 +51,10 @@ Text waiting(TrafficWatch::Stall stall, bool isStrict)
             ? Text::tr(
                 "Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile.")
             : Text::tr("Tor gets no answer from the network and keeps trying.");
+    case Stall::firewall:
+        return Text::
+            tr("Another firewall on this computer denies what goes out, so Tor can't connect: %1.")
+                .arg(facts.firewalls.join(QStringLiteral(", ")));
     case Stall::vpn:
         break;
     }
@@ -84,7 +88,7 @@ Verdict inDanger(Danger danger, const SessionFacts &facts)
         return {Level::warning, danger,
                 facts.stall == TrafficWatch::Stall::noNetwork ? Text::tr("No Network")
                                                               : Text::tr("Nothing Gets Through"),
-                symbol, waiting(*facts.stall, isStrict)};
+                symbol, waiting(facts, isStrict)};
     case Danger::exitNotConfirmed:
         return {
             Level::warning, danger, attention, symbol,

@@ -7,6 +7,7 @@
 #include "checks/TrafficWatch.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -24,6 +25,7 @@ struct SessionFacts {
     Text detail = {};                     // the line under the title where no danger is known
     // absent: something gets through, as far as is known
     std::optional<TrafficWatch::Stall> stall = {};
+    QStringList firewalls = {}; // of Stall::firewall, by name
 };
 
 // How safe the session is, in one place: title, symbol, line and colour of every window, the tray,

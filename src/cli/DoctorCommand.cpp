@@ -21,7 +21,8 @@ QJsonObject doctorFindings(const Findings &findings)
                         {QStringLiteral("text"), finding.text.english()},
                         {QStringLiteral("command"),
                          finding.command.isEmpty() ? QJsonValue() : QJsonValue(finding.command)}});
-    return {{QStringLiteral("canConnect"), canConnect(findings)},
+    const auto can = canConnect(findings);
+    return {{QStringLiteral("canConnect"), can ? QJsonValue(*can) : QJsonValue()},
             {QStringLiteral("findings"), list}};
 }
 
@@ -54,8 +55,10 @@ QString Report::doctor(const Findings &findings)
         if (!finding.command.isEmpty())
             lines << QString(column, u' ') + finding.command;
     }
-    lines << (canConnect(findings) ? Text::tr("A connect can work.")
-                                   : Text::tr("A connect can't work yet."))
+    const auto can = canConnect(findings);
+    lines << (!can       ? Text::tr("Whether a connect can work isn't known.")
+                  : *can ? Text::tr("A connect can work.")
+                         : Text::tr("A connect can't work yet."))
                  .translated();
     return lines.join(u'\n');
 }
@@ -72,9 +75,14 @@ QCoro::Task<ExitStatus> showDoctor(Invocation invocation, PlatformProfile profil
     Console::print(invocation.json ? QString::fromUtf8(
                        QJsonDocument(doctorFindings(findings)).toJson(QJsonDocument::Compact))
                                    : Report::doctor(findings));
-    if (canConnect(findings))
+    const auto can = canConnect(findings);
+    if (can == true)
         co_return ExitStatus::done;
-    Console::printError(Text::tr("A connect can't work before each \"problem\" is mended."));
+    if (can == false)
+        Console::printError(Text::tr("A connect can't work before each \"problem\" is mended."));
+    for (const Finding &finding : findings)
+        if (!can && finding.mayBlock)
+            Console::printError(finding.text);
     co_return ExitStatus::failed;
 }
 

@@ -11,11 +11,12 @@ namespace veldmark {
 
 struct PlatformProfile;
 
-// `veldmarkctl doctor`: looks at this computer, with or without a running instance. Fails when a
-// connect cannot work.
+// `veldmarkctl doctor`: looks at this computer, with or without a running instance. Fails unless a
+// connect can work, as far as anybody but the network can tell.
 QCoro::Task<ExitStatus> showDoctor(Invocation invocation, PlatformProfile profile);
 
-// {"canConnect": bool, "findings": [{"name": …, "level": …, "text": …, "command": … or null}]}
+// {"canConnect": bool, or null where that can't be told,
+//  "findings": [{"name": …, "level": …, "text": …, "command": … or null}]}
 QJsonObject doctorFindings(const Findings &findings);
 
 namespace Report {

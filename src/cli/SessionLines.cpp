@@ -24,7 +24,8 @@ SessionLines::SessionLines(const TorController &controller)
     follow({&c.bootstrapProblem}, &SessionLines::showProblem);
     follow({&c.phase, &c.isChecking}, &SessionLines::showPhase);
     follow({&c.killSwitch}, &SessionLines::showKillSwitch);
-    follow({&c.dnsStatus, &c.leakStatus, &c.torVerified, &c.otherSession, &c.stall},
+    follow({&c.dnsStatus, &c.leakStatus, &c.torVerified, &c.otherSession, &c.stall,
+            &c.denyingFirewalls},
            &SessionLines::showVerdict);
 }
 

@@ -4,6 +4,7 @@
 #include "bridges/BridgePlan.h"
 #include "controller/SettingRules.h"
 #include "platform/PlatformProfile.h"
+#include "system/OtherFirewalls.h"
 #include "system/PrivilegedRunner.h"
 #include "system/SignedBundle.h"
 
@@ -339,6 +340,7 @@ QCoro::Task<void> TorController::connect()
     applyTerminalMode();
     m_network = {};
     m_network.addresses.haveMoved(m_services.ownAddresses());
+    m_network.passed = OtherFirewalls::denying(m_services.profile);
     startMonitoring();
     co_await settleIn(attempt);
 }

@@ -47,6 +47,7 @@ QCoro::Task<Result<void, Text>> TorController::disconnect()
     // refused. A half-made connection and a left-over one are judged by the marker.
     const bool sessionWasUp = phase() == ConnectionPhase::connected;
     const auto stalled = stall();
+    const QStringList firewalls = denyingFirewalls();
     if (sessionWasUp)
         errorMessage = std::nullopt;
     canCancel = false;
@@ -90,6 +91,7 @@ QCoro::Task<Result<void, Text>> TorController::disconnect()
         co_return Failure(reason);
     }
     statusDetail = connectedDetail();
+    denyingFirewalls = firewalls;
     stall = stalled; // until the next look
     phase = ConnectionPhase::connected;
     if (!self || !isCurrent(attempt) || phase() != ConnectionPhase::connected)

@@ -4,6 +4,7 @@
 #include "checks/NetworkProbe.h"
 #include "control/ControlConnection.h"
 #include "control/ControlPort.h"
+#include "system/OtherFirewalls.h"
 
 #include <QPointer>
 
@@ -58,6 +59,7 @@ void TorController::startMonitoring()
 void TorController::stopMonitoring()
 {
     ++m_monitor;
+    denyingFirewalls = QStringList();
     stall = std::nullopt;
 }
 
@@ -66,13 +68,22 @@ void TorController::lookAtTraffic(std::optional<bool> hasCircuit)
     const auto route = m_services.route();
     const ControlTraffic own = m_services.controlPort.traffic();
     const bool wasStalled = stall().has_value();
-    stall = m_network.traffic.take(
+    std::optional<TrafficWatch::Stall> found = m_network.traffic.take(
         {.at = m_services.clock.now(),
          .read = qint64(bytesRead()) - own.sent,
          .written = qint64(bytesWritten()) - own.received,
          .hasCircuit = hasCircuit,
          .hasRoute = route.has_value(),
          .isInVPN = activeMode() == RoutingMode::strict && route && route->isVPN});
+    // Asked only now: who is answered is not denied.
+    QStringList others = found && found != TrafficWatch::Stall::noNetwork
+        ? OtherFirewalls::denying(m_services.profile)
+        : QStringList();
+    others.removeIf([this](const QString &name) { return m_network.passed.contains(name); });
+    if (!others.isEmpty())
+        found = TrafficWatch::Stall::firewall;
+    denyingFirewalls = others;
+    stall = found;
     if (!wasStalled && stall())
         forgetExit(); // what was verified may be another one when traffic flows again
     if (wasStalled && !stall()) {

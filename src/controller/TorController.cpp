@@ -42,7 +42,8 @@ Verdict TorController::verdict() const
                         .isDNSLeaking = dnsStatus().isLeak(),
                         .torVerified = torVerified(),
                         .detail = statusDetail(),
-                        .stall = stall()});
+                        .stall = stall(),
+                        .firewalls = denyingFirewalls()});
 }
 
 bool TorController::optionsLocked() const

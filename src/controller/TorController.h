@@ -155,6 +155,8 @@ public:
     // Why nothing gets through Tor at the moment, although it counts as connected; absent while
     // something does.
     Published<std::optional<TrafficWatch::Stall>> stall{this, "stall"};
+    // Of the stall "firewall": the names of those that deny what goes out; else empty.
+    Published<QStringList> denyingFirewalls{this, "denyingFirewalls"};
 
     // --- The checks. ---
     // What the watcher over the rules has last seen in the kernel; absent without a strict session.
@@ -419,6 +421,7 @@ private:
         bool mayBeOffline = false;
         OwnAddresses addresses;
         TrafficWatch traffic;
+        QStringList passed; // firewalls of others through which Tor has connected all the same
     } m_network;
     bool m_dnsLiveVerified = false; // a live DNS check passed in this session
     bool m_isSettlingIn = false;    // settleIn() is under way

@@ -8,7 +8,6 @@
 
 #include <sys/stat.h>
 #include <sys/timex.h>
-#include <unistd.h>
 
 namespace veldmark {
 
@@ -38,10 +37,11 @@ std::optional<FileOwner> ownerOf(const QString &path)
 } // namespace
 
 Examiner::Examiner(const PlatformProfile &profile, SettingsStore &settings,
-                   ProcessRunner &processes)
+                   ProcessRunner &processes, uid_t user)
     : m_profile(profile),
       m_settings(settings),
       m_processes(processes),
+      m_user(user),
       m_search(std::make_shared<TransportSearch>(profile))
 {
 }
@@ -69,7 +69,7 @@ QCoro::Task<Findings> Examiner::examine()
     machine.bridges = {bridgeChoiceFromRawValue(m_settings.string(QStringLiteral("bridgeChoice")))
                            .value_or(BridgeChoice::off),
                        m_settings.string(QStringLiteral("customBridges")), false};
-    machine.user = ::geteuid();
+    machine.user = m_user;
     machine.hasDesktop = !qEnvironmentVariableIsEmpty("DISPLAY")
         || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") || !machine.isLinux();
     machine.now = QDateTime::currentDateTimeUtc();

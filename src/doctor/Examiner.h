@@ -8,6 +8,8 @@
 
 #include <memory>
 
+#include <unistd.h>
+
 namespace veldmark {
 
 class SettingsStore;
@@ -19,8 +21,9 @@ struct Machine;
 class Examiner {
 public:
     // All must outlive it. Who still waits when it goes is resumed with no findings: look whether
-    // you are still wanted.
-    Examiner(const PlatformProfile &profile, SettingsStore &settings, ProcessRunner &processes);
+    // you are still wanted. `user` runs this program.
+    Examiner(const PlatformProfile &profile, SettingsStore &settings, ProcessRunner &processes,
+             uid_t user = ::geteuid());
 
     QCoro::Task<Findings> examine();
 
@@ -33,6 +36,7 @@ private:
     const PlatformProfile m_profile;
     SettingsStore &m_settings;
     ProcessRunner &m_processes;
+    const uid_t m_user;
     std::shared_ptr<TransportSearch> m_search;
 };
 

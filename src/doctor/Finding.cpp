@@ -19,11 +19,16 @@ QString levelName(Finding::Level level)
     return QStringLiteral("problem");
 }
 
-bool canConnect(const Findings &findings)
+std::optional<bool> canConnect(const Findings &findings)
 {
-    return std::none_of(findings.cbegin(), findings.cend(), [](const Finding &finding) {
-        return finding.level == Finding::Level::problem;
-    });
+    const auto isAny = [&findings](const auto &wanted) {
+        return std::any_of(findings.cbegin(), findings.cend(), wanted);
+    };
+    if (isAny([](const Finding &finding) { return finding.level == Finding::Level::problem; }))
+        return false;
+    if (isAny([](const Finding &finding) { return finding.mayBlock; }))
+        return std::nullopt;
+    return true;
 }
 
 } // namespace veldmark

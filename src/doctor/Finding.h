@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 // The room that looks at this computer and says what a connect needs, what is in its way, and what
@@ -28,6 +29,8 @@ struct Finding {
     Text text;       // a sentence
     QString command; // what a user types to mend it; empty: nothing, or nothing that is known
     Button button = Button::none;
+    // Of what is unknown: when it is as feared, no connect gets through.
+    bool mayBlock = false;
 
     friend bool operator==(const Finding &, const Finding &) = default;
 };
@@ -37,7 +40,8 @@ using Findings = std::vector<Finding>;
 // "good", "note", "unknown", "problem".
 QString levelName(Finding::Level level);
 
-// Whether a connect can work: there is no problem among them.
-bool canConnect(const Findings &findings);
+// Whether a connect can work: not with a problem among them; absent where one of them may block it
+// and that can't be told.
+std::optional<bool> canConnect(const Findings &findings);
 
 } // namespace veldmark

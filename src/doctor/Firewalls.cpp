@@ -142,17 +142,26 @@ Findings firewallFindings(const Machine &machine)
         return {};
     Findings findings{nftables(machine)};
     const QStringList names = others(machine);
+    const QString ufw = QStringLiteral("ufw");
     const QStringList denying = OtherFirewalls::denying(machine.profile);
-    if (!denying.isEmpty())
+    if (denying.contains(ufw) && OtherFirewalls::isUfwWithoutAWayOut(machine.profile))
+        findings.push_back(
+            {firewallsName, Level::problem,
+             Text::tr(
+                 "Another firewall on this computer denies what goes out, and none of its rules allows anything, "
+                 "so Tor can't get through: %1.")
+                 .arg(ufw),
+             QStringLiteral("sudo ufw default allow outgoing")});
+    else if (!denying.isEmpty())
         findings.push_back(
             {firewallsName, Level::unknown,
              Text::tr(
                  "Another firewall on this computer denies what goes out unless one of its rules allows it, "
                  "so Tor may not get through: %1.")
                  .arg(denying.join(QStringLiteral(", "))),
-             denying.first() == QLatin1String("ufw")
-                 ? QStringLiteral("sudo ufw default allow outgoing")
-                 : QStringLiteral("sudo nft list ruleset")});
+             denying.first() == ufw ? QStringLiteral("sudo ufw default allow outgoing")
+                                    : QStringLiteral("sudo nft list ruleset"),
+             Finding::Button::none, true});
     else if (names.isEmpty())
         findings.push_back(
             {firewallsName,

@@ -34,6 +34,24 @@ bool isUfwOn(const PlatformProfile &profile)
     return sets(read(profile.places.root + QStringLiteral("/etc/ufw/ufw.conf")), "ENABLED", "yes");
 }
 
+bool isUfwWithoutAWayOut(const PlatformProfile &profile)
+{
+    static const QRegularExpression rule(QStringLiteral("^\\s*-[AI] ufw6?-[a-z]+-output "));
+    // What lets out nothing new: back to this computer, answers, and messages about the network.
+    static const QRegularExpression harmless(QStringLiteral(
+        " -o lo | (RELATED,)?ESTABLISHED |-p (icmp|icmpv6|ipv6-icmp) | -j (DROP|REJECT|RETURN|LOG)"));
+    for (const char *name : {"before", "user", "after", "before6", "user6", "after6"}) {
+        QFile file(profile.places.root
+                   + QStringLiteral("/etc/ufw/%1.rules").arg(QLatin1String(name)));
+        if (!file.open(QIODevice::ReadOnly) || file.size() > limit)
+            return false;
+        for (const QString &line : QString::fromUtf8(file.readAll()).split(u'\n'))
+            if (line.contains(rule) && !line.contains(harmless))
+                return false;
+    }
+    return true;
+}
+
 QStringList denying(const PlatformProfile &profile)
 {
     if (profile.promptKind != PromptKind::PolicyKit)

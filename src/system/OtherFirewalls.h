@@ -18,6 +18,10 @@ QStringList denying(const PlatformProfile &profile);
 // Whether ufw is switched on, whatever it denies.
 bool isUfwOn(const PlatformProfile &profile);
 
+// Whether none of ufw's rules lets a new connection out, as far as they are its own kinds of lines.
+// False where they can't be read, as by anybody but root.
+bool isUfwWithoutAWayOut(const PlatformProfile &profile);
+
 } // namespace OtherFirewalls
 
 } // namespace veldmark

@@ -141,8 +141,11 @@ QString DoctorModel::verdict() const
         return tr("Looking at this computer…");
     if (m_findings.empty())
         return tr("Nothing was found out.");
-    return canConnect(m_findings) ? tr("Nothing was found that keeps Veldmark from connecting.")
-                                  : tr("Veldmark can't connect before each problem is mended.");
+    const auto can = canConnect(m_findings);
+    if (!can)
+        return Text::tr("Whether a connect can work isn't known.").translated();
+    return *can ? tr("Nothing was found that keeps Veldmark from connecting.")
+                : tr("Veldmark can't connect before each problem is mended.");
 }
 
 void DoctorModel::press(int row)

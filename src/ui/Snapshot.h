@@ -69,6 +69,7 @@ struct Snapshot {
     std::optional<QString> exitIP;
     std::optional<bool> torVerified;
     std::optional<TrafficWatch::Stall> stall;
+    QStringList firewalls; // of the stall, where they are its reason
     Leak leak;
     DNSStatus dns;
     bool isChecking = false;
@@ -108,7 +109,8 @@ struct Snapshot {
              .isDNSLeaking = dns.isLeak(),
              .torVerified = torVerified,
              .detail = statusDetail,
-             .stall = stall});
+             .stall = stall,
+             .firewalls = firewalls});
     }
 };
 

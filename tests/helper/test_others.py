@@ -1,5 +1,7 @@
 """Other firewalls that keep Tor from going out are named in a note that everybody can read."""
 
+import time
+
 import namespace
 from namespace import HelperTest
 
@@ -72,6 +74,31 @@ class Others(HelperTest):
         before = "table ip filter { chain ufw-before-output { oifname lo accept; } }\n"
         also = "table inet firewalld { chain filter_OUTPUT_POLICIES_pre { }; chain filter_OUT_policy_deny { } }\n"
         self.assertEqual(sorted(self.named(before + ufw + "\n" + also + firewalld)), ["firewalld", "ufw"])
+
+    def wait_note(self, names):
+        read = f"cat {NOTE} 2>/dev/null || true"
+        deadline = time.monotonic() + 20  # the watcher looks five seconds after its last look at others' rules at the latest
+        while (found := self.machine.shell(read, uid=namespace.USER_UID).splitlines()) != names:
+            self.assertLess(time.monotonic(), deadline, (names, found))
+            time.sleep(0.1)
+
+    def test_what_begins_to_deny_during_a_session_is_noted_until_it_stops(self):
+        self.machine.connect()
+        self.machine.await_watcher()
+        self.assertEqual(self.machine.shell(f"cat {NOTE} 2>/dev/null || true"), "")
+        self.machine.shell(
+            "nft add table ip filter; nft add chain ip filter OUTPUT '{ type filter hook output priority 0; policy drop; }'"
+        )
+        self.machine.shell("nft add rule ip filter OUTPUT oifname lo accept")
+        self.wait_note(["table ip filter"])
+        self.machine.shell(
+            "nft add table inet second; nft add chain inet second out '{ type filter hook output priority 1; policy drop; }'"
+        )
+        self.wait_note(["table ip filter", "table inet second"])
+        self.machine.shell("nft add table ip filter '{ flags dormant; }'")
+        self.wait_note(["table inet second"])
+        self.machine.shell("nft delete table inet second")
+        self.wait_note([])
 
     def test_our_own_are_none_of_others(self):
         self.machine.connect()

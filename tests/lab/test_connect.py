@@ -408,7 +408,11 @@ class UnderTheLeakChecker(LabCase):
         forget = os.environ.get("VELDMARK_FORGET_PRELOAD", str(PROJECT / "build/dev/tests/ForgetPreload.so"))
         if checker is None:
             raise unittest.SkipTest("liblsan is not installed")
-        env = {"LD_PRELOAD": f"{checker} {forget}", "LSAN_OPTIONS": f"suppressions={PROJECT}/tests/lsan.supp:print_suppressions=0"}
+        env = {
+            "LD_PRELOAD": cls.lab.host.preload(checker, forget),
+            # As blanks part the options, the file's path has its quotes.
+            "LSAN_OPTIONS": f"suppressions='{PROJECT}/tests/lsan.supp':print_suppressions=0",
+        }
         cls.product = Product(cls.lab, PROGRAMS, env=env)
 
     def end(self, session):

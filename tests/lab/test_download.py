@@ -315,7 +315,9 @@ class Download(LabCase):
         found = set()
         for step in itertools.count(1):
             former, new = self.offer_newer()
-            result = self.lab.host.run(self.command(), env={"LD_PRELOAD": FATAL_STEP, "VELDMARK_FATAL_STEP": str(step)})
+            result = self.lab.host.run(
+                self.command(), env={"LD_PRELOAD": self.lab.host.preload(FATAL_STEP), "VELDMARK_FATAL_STEP": str(step)}
+            )
             if result.returncode == 0:
                 break
             self.assertEqual(result.returncode, -signal.SIGKILL, f"step {step}: {result.stdout}{result.stderr}")

@@ -2,6 +2,7 @@
 
 import json
 import os
+import shutil
 import signal
 import subprocess
 import tempfile
@@ -35,6 +36,14 @@ class HostTest(unittest.TestCase):
         cls.lab.up()
         cls.addClassCleanup(cls.lab.down)
         cls.host = cls.lab.host
+
+    def test_a_library_is_loaded_from_a_folder_with_blanks(self):
+        library = Path(self.shared.name, "a b: c", "any library.so")
+        library.parent.mkdir()
+        shutil.copy(next(Path("/usr/lib").glob("*/libresolv.so.2")), library)
+        maps = ["cat", "/proc/self/maps"]
+        self.assertNotIn(str(library), self.host.run(maps, env={"LD_PRELOAD": str(library)}).stdout)
+        self.assertIn(str(library), self.host.run(maps, env={"LD_PRELOAD": self.host.preload(library)}).stdout)
 
     def sh(self, script: str, **options):
         return self.host.run(["/bin/bash", "-c", script], **options)

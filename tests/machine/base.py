@@ -14,6 +14,7 @@ PROJECT = Path(__file__).resolve().parents[2]
 sys.path[:0] = [str(PROJECT / "tests" / "package"), str(PROJECT / "tests" / "lab")]
 
 from clean_debian import RELEASE, Unprepared, registry  # noqa: E402
+from moving import Moving  # noqa: E402
 
 FOLDER = PROJECT / "build" / "machine"
 # What boots it; what wants to be there before the first boot.
@@ -50,7 +51,7 @@ rm -f /etc/resolv.conf /etc/machine-id
 def _run(log: Path, what: str, *words, chroot: Path | None = None) -> None:
     command = ([] if chroot is None else ["chroot", chroot]) + list(words)
     environment = os.environ | {"LANG": "C.UTF-8", "DEBIAN_FRONTEND": "noninteractive"}
-    with open(log, "ab") as output:
+    with open(log, "ab") as output, Moving(what):
         done = subprocess.run(
             list(map(str, command)), stdout=output, stderr=output, stdin=subprocess.DEVNULL, env=environment, check=False
         )

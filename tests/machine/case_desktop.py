@@ -84,8 +84,17 @@ def lxqt(stage: Stage) -> None:
     from_the_menu_to_connected_and_back(stage, "lxqt")
 
 
+_TITLES = {"en_GB": ("Not Protected", "Protected"), "de_DE": ("Nicht geschützt", "Geschützt")}
+
+
+def expect_appearance(desktop: Desktop, picture: str, title: str, dark: bool) -> None:
+    """The window says this on a ground that is as dark as the desktop's."""
+    found = desktop.lightness(picture, "veldmark", "heading", title)
+    expect(found < 90 if dark else found > 165, f"the window's ground is {found} of 255 on a {'dark' if dark else 'light'} desktop")
+
+
 def languages_and_appearances(stage: Stage) -> None:
-    """Pictures of the protected state on Xfce, with the panel under the tray icon."""
+    """What the window says and how light it is; pictures of the protected state on Xfce, with the panel under the tray icon."""
     with stage.machine("pictures") as machine:
         machine.run([HELPER, "install-privileged", "--user", "alice"], check=True)
         for language in ("en_GB", "de_DE"):
@@ -108,10 +117,15 @@ def languages_and_appearances(stage: Stage) -> None:
                     )
                     desktop.run(["setsid", "-f", "veldmark"], stdout=None, stderr=None, capture_output=False)
                     wait(lambda: "Veldmark" in desktop.windows(), 20, "no window")
+                    before, after = _TITLES[language]
+                    desktop.wait_for("veldmark", "heading", before)
                     desktop.look("disconnected")
+                    expect_appearance(desktop, "disconnected", before, dark)
                     desktop.run(["veldmarkctl", "connect"], check=True, timeout=90)
                     wait(lambda: is_protected(state(machine, "alice")), 60, "it does not connect")
+                    desktop.wait_for("veldmark", "heading", after)
                     desktop.look("protected")
+                    expect_appearance(desktop, "protected", after, dark)
                     desktop.click_at(*desktop.tray_icon("disconnected", "protected"))
                     wait(lambda: desktop.windows().count("Veldmark") == 2, 10, "the click on the tray icon shows nothing")
                     stage.picture(desktop, f"xfce-{language[:2]}-{'dark' if dark else 'light'}")

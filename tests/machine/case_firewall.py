@@ -1,5 +1,7 @@
 """Other firewalls, there before the session or started during it: it connects, nothing leaks, they are as they were."""
 
+import time
+
 from boot import USER
 from stage import Stage, connected, direct, end, expect, network, product, state, through_tor, watched
 
@@ -104,15 +106,51 @@ def _denies(stage: Stage, name: str, script: str, called: str) -> None:
             told = session.wait(lambda s: s["bootstrapProblem"] or s["errorMessage"], 30)
             words = told["bootstrapProblem"] or told["errorMessage"]
             expect("firewall" in words and called in words, f"it says: {words}")
-            found = [
-                line
-                for line in machine.run(["veldmarkctl", "doctor"], user=USER).stdout.splitlines()
-                if "denies what goes out" in line
-            ]
-            expect(found and called in found[0], f"the doctor does not name {called}")
+            for user in (USER, "root"):
+                asked = machine.run(["veldmarkctl", "doctor"], user=user)
+                found = [line for line in asked.stdout.splitlines() if "denies what goes out" in line]
+                expect(found and called in found[0], f"the doctor does not name {called}")
+                expect(asked.returncode == 1, f"the doctor ends with {asked.returncode} although nothing gets out")
             session.interrupt()
         after = network(machine)
         expect(after == before, "the network is not as before")
+
+
+_CUT = """
+nft add table inet cut
+nft add chain inet cut forward '{ type filter hook forward priority -10; }'
+nft add rule inet cut forward iifname br0 meta l4proto tcp reject with tcp reset
+sleep 15
+nft delete table inet cut
+"""
+
+
+def _cut_connections(stage: Stage) -> None:
+    """What the machine has open to the world is ended from outside; a new one would be possible at once."""
+    stage.lab.router.run(["/bin/sh", "-ec", _CUT], check=True)
+
+
+def _begins_to_deny(stage: Stage, name: str, script: str, called: str) -> None:
+    """Named as well when it comes during a session; connections that Tor has are cut, as they end by themselves some time."""
+    with stage.machine(f"{name}-begins-to-deny") as machine:
+        with connected(machine) as session:
+            with watched(stage):
+                machine.shell(f"set -e; {script}", timeout=60)
+                _cut_connections(stage)
+                started = time.monotonic()
+                told = session.wait(lambda s: s["stall"] == "firewall", 90)
+                stage.note = f"named after {time.monotonic() - started:.0f} s"
+                expect(called in told["statusDetail"], f"it says: {told['title']}, {told['statusDetail']}")
+                expect(not direct(machine), "the direct way is open")
+            expect(session.interrupt() == 0, "it did not end well")
+
+
+def ufw_that_begins_to_deny(stage: Stage) -> None:
+    _begins_to_deny(stage, "ufw", "ufw default deny outgoing && ufw --force enable", "ufw")
+
+
+def chain_that_begins_to_deny(stage: Stage) -> None:
+    _begins_to_deny(stage, "docker", _DOCKER + _CHAIN_DENIES, "table ip filter")
 
 
 def ufw_that_denies_what_goes_out(stage: Stage) -> None:
@@ -134,6 +172,8 @@ CASES = {
     "ufw switched on during the session": ufw_during,
     "Docker's rules before": docker_before,
     "Docker's rules during the session": docker_during,
+    "ufw begins to deny during the session: it is named": ufw_that_begins_to_deny,
+    "a chain begins to deny during the session: it is named": chain_that_begins_to_deny,
     "ufw denies what goes out: it is named": ufw_that_denies_what_goes_out,
     "firewalld denies what goes out: it is named": firewalld_that_denies_what_goes_out,
     "Docker's rules, and a chain that denies: it is named": docker_beside_a_chain_that_denies,

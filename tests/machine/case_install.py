@@ -2,8 +2,8 @@
 
 from boot import Machine
 from case_readme import at_a_terminal, commands
-from case_tor import service_listens, service_state
-from stage import Stage, connected, expect, expect_whole, network, wait
+from case_tor import given_back, service_listens, with_service
+from stage import Stage, connected, expect, expect_whole, network
 from veldlab import topology as at
 
 
@@ -26,17 +26,6 @@ def install(stage: Stage) -> None:
         machine.power_off()
         stage.installed = machine.disk
         machine.keep()
-
-
-def with_service(machine: Machine) -> tuple[dict[str, str], str]:
-    """How the machine is while Debian's own tor service runs, which a session takes the port from."""
-    wait(lambda: service_listens(machine), 20, "Debian's tor service does not listen")
-    return network(machine), service_state(machine)
-
-
-def given_back(machine: Machine, service: str) -> None:
-    wait(lambda: service_listens(machine), 20, "Debian's tor service was not given back")
-    wait(lambda: service_state(machine) == service, 20, "the service is not as before")
 
 
 def remove_while_connected(stage: Stage) -> None:

@@ -6,8 +6,9 @@ import time
 
 from base import PROJECT
 from boot import USER
+from case_tor import given_back, service_listens, with_service
 from desktops import TOOLS, Desktop, install
-from stage import MARKER, Broken, Stage, direct, expect, expect_whole, is_protected, network, state, wait
+from stage import MARKER, Broken, Stage, direct, expect, expect_whole, is_protected, state, wait
 
 _PASSWORD = "alice"
 
@@ -18,6 +19,12 @@ def commands(section: str) -> list[str]:
     part = re.search(rf"(?ms)^## {re.escape(section)}\n(.*?)(?=^## |\Z)", text).group(1)
     lines = "\n".join(re.findall(r"(?ms)^```sh\n(.*?)^```", part)).splitlines()
     return [re.sub(r"\s+#.*", "", line) for line in lines if line.strip()]
+
+
+def inline(start: str) -> str:
+    """The one command in a sentence that begins so."""
+    [command] = set(re.findall(rf"`({re.escape(start)}[^`]*)`", (PROJECT / "README.md").read_text()))
+    return command
 
 
 def at_a_terminal(machine, line: str, env: dict[str, str] | None = None, timeout: float = 60):
@@ -34,18 +41,20 @@ def typed(desktop: Desktop, line: str, timeout: float = 60):
 
 def readme(stage: Stage) -> None:
     with stage.machine("readme", tor_service=True) as machine:
+        before, service = with_service(machine)
         with Desktop(machine, "sway") as desktop:
-            before = network(machine)
             first, *others = commands("First connect")
             run_in_the_foreground(desktop, first)
             for line in others:
                 first_pages_command(desktop, line)
             expect_whole(machine, before)
+            given_back(machine, service)
             way_back, *by_hand = commands("Getting the network back without the program")
             left_over(desktop)
             done = typed(desktop, way_back)
             expect(done.returncode == 0, f"{way_back}: {done.stdout.strip()}")
             expect_whole(machine, before)
+            given_back(machine, service)
             left_over(desktop)
             for line in by_hand:
                 typed(desktop, line)  # "may say that there is nothing to do"
@@ -55,7 +64,16 @@ def readme(stage: Stage) -> None:
                 machine.run(["timeout", "5", "getent", "hosts", "www.example.test"], user=USER).returncode == 0,
                 "names are not looked up",
             )
-            stage.note = f"{1 + len(others) + 1 + len(by_hand)} commands"
+            for line in (inline("sudo systemctl start tor"), inline("sudo apt remove")):
+                if "remove" in line:
+                    left_over(desktop)  # "also while connected"
+                    expect(not service_listens(machine), "Debian's tor service still has the port")
+                done = typed(desktop, line, timeout=120)
+                expect(done.returncode == 0, f"{line}: {done.stdout.strip()}")
+                given_back(machine, service)
+            expect_whole(machine, before)
+            expect(machine.run(["test", "-e", "/usr/bin/veldmarkctl"]).returncode != 0, "the package is still there")
+            stage.note = f"{1 + len(others) + 1 + len(by_hand) + 2} commands"
 
 
 def run_in_the_foreground(desktop: Desktop, line: str) -> None:

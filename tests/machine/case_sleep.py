@@ -85,12 +85,12 @@ def suspend_and_resume(stage: Stage) -> None:
                 time.sleep(20)
                 told = state(machine)
                 expect(told["stall"] == "noNetwork", f"without a cable it says {told['title']}, {told['stall']}")
+                resumed = time.monotonic()
                 machine.run(["rm", "/run/asleep"], check=True)
                 # A card is ready a moment after the resume. NetworkManager does not look at links of this kind, which have no card,
                 # that come up before it has heard that the sleep is over.
                 wait(lambda: machine.shell("nmcli -t -f STATE general").strip() != "asleep", 10, "NetworkManager does not wake")
                 stage.lab.router.run(["ip", "link", "set", "machine0", "up"], check=True)
-                resumed = time.monotonic()
                 works = told = None
                 while time.monotonic() < resumed + 10 and not works:
                     works = through_tor(machine, 2)

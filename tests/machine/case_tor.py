@@ -1,5 +1,6 @@
 """Debian's own tor service runs, as it does after apt install tor, and holds the port."""
 
+from boot import Machine
 from stage import Stage, connected, end, expect, expect_whole, network, product, state, wait
 
 _WHO = "systemctl is-active tor@default; systemctl is-enabled tor"
@@ -14,6 +15,17 @@ def service_listens(machine) -> bool:
 
 def service_state(machine) -> str:
     return machine.run(["sh", "-c", _WHO]).stdout
+
+
+def with_service(machine: Machine) -> tuple[dict[str, str], str]:
+    """How the machine is while Debian's own tor service runs, which a session takes the port from."""
+    wait(lambda: service_listens(machine), 20, "Debian's tor service does not listen")
+    return network(machine), service_state(machine)
+
+
+def given_back(machine: Machine, service: str) -> None:
+    wait(lambda: service_listens(machine), 20, "Debian's tor service was not given back")
+    wait(lambda: service_state(machine) == service, 20, "the service is not as before")
 
 
 def debians_tor(stage: Stage) -> None:

@@ -245,6 +245,14 @@ class Desktop(contextlib.AbstractContextManager):
             ).stdout
         )
 
+    def lightness(self, picture: str, program: str, role: str, name: str) -> int:
+        """Of the ground on which the program shows this, in a picture of look()'s; 0 is black, 255 white."""
+        node = self.wait_for(program, role, name)
+        left, top = self._origin(program)
+        place = (left + node["x"], top + node["y"], node["width"], node["height"])
+        told = self.run(["/usr/bin/python3", f"{TOOLS}/lightness.py", f"/tmp/bar-{picture}.png", *map(str, place)], check=True)
+        return int(told.stdout)
+
     def taskbar_states(self, title: str) -> list[bool]:
         """On X11, for each window on show with this title: whether it asks to be left out of the taskbar."""
         ids = self.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"]).stdout.split()

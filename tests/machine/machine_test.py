@@ -3,9 +3,11 @@
 
     machine_test.py PACKAGE.deb [WORD...]    the cases whose names have one of the words; all when there is none
 
-Prints a table, also left in build/machine/table.md beside the pictures. Status 77, and why in one line, where it cannot run.
+Prints a table, also left in build/machine/table.md beside the pictures. Status 77, and why in one line, where it cannot run; 1 when a
+case failed; 2 when one could not be tried, so that nobody takes that for a pass.
 """
 
+import os
 import sys
 import time
 import traceback
@@ -15,6 +17,7 @@ sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
 import base  # noqa: E402
+from base import Moving  # noqa: E402
 from boot import program  # noqa: E402
 from veldlab.lab import Lab, LabUnavailable  # noqa: E402
 
@@ -28,7 +31,7 @@ import case_tor  # noqa: E402
 import case_trouble  # noqa: E402
 from stage import Broken, CannotRun, Stage  # noqa: E402
 
-SKIPPED = 77
+FAILED, UNTRIED, SKIPPED = 1, 2, 77
 CASES = (
     case_desktop.CASES
     | case_tor.CASES
@@ -41,14 +44,18 @@ CASES = (
 )
 
 
+_CANNOT = "cannot run here"
+
+
 def attempt(stage: Stage, name: str, case) -> tuple[str, str, float]:
     stage.note = ""
     started = time.monotonic()
     try:
-        case(stage)
+        with Moving(name):
+            case(stage)
         result = "passed" + (f": {stage.note}" if stage.note else "")
     except CannotRun as reason:
-        result = f"cannot run here: {reason}"
+        result = f"{_CANNOT}: {reason}"
     except Broken as reason:
         traceback.print_exc()
         result = f"FAILED: {reason}"
@@ -66,13 +73,17 @@ def table(rows: list[tuple[str, str, float]]) -> str:
 
 
 def main() -> int:
+    if os.geteuid() != 0:
+        print("The machine test cannot run here: a machine is booted by root; run sudo ./build.sh machine-test")
+        return SKIPPED
     package, words = Path(sys.argv[1]).resolve(), [word.lower() for word in sys.argv[2:]]
     lab = Lab()
     try:
         program()
         tree = base.prepare(package, lambda line: print(line, flush=True))
         started = time.monotonic()
-        lab.up()
+        with Moving("Starting the private Tor network"):
+            lab.up()
     except (base.Unprepared, LabUnavailable) as reason:
         print(f"The machine test cannot run here: {reason}")
         return SKIPPED
@@ -88,11 +99,12 @@ def main() -> int:
     text = table(rows)
     (base.FOLDER / "table.md").write_text(text)
     failed = sum(result.startswith("FAILED") for _, result, _ in rows)
+    untried = sum(result.startswith(_CANNOT) for _, result, _ in rows)
     print(
-        f"\n{text}\n{len(rows)} cases, {failed} failed, in {(time.monotonic() - started) / 60:.1f} minutes; "
-        f"pictures in {base.FOLDER}/pictures"
+        f"\n{text}\n{len(rows)} cases, {failed} failed, {untried} could not be tried here, "
+        f"in {(time.monotonic() - started) / 60:.1f} minutes; pictures in {base.FOLDER}/pictures"
     )
-    return 1 if failed else 0
+    return FAILED if failed else UNTRIED if untried else 0
 
 
 if __name__ == "__main__":

@@ -1,7 +1,10 @@
 """The mistakes that are put into the code: what is made of a line, and what is left alone."""
 
+import os
 import sys
+import tempfile
 import unittest
+import unittest.mock
 from pathlib import Path
 
 sys.dont_write_bytecode = True
@@ -142,6 +145,30 @@ class Runs(unittest.TestCase):
                 for mutant in operators.mutants(path, text)
             }
             self.assertIn((before, after), found, f"{path} has no such line any more: take it out of aside.txt")
+
+    def test_a_checkout_of_another_user_is_cloned(self):
+        if os.geteuid() != 0:
+            self.skipTest("only root gives files to somebody else")
+        folder = Path(self.enterContext(tempfile.TemporaryDirectory()))
+        project = folder / "a checkout"
+        project.mkdir()
+        (project / "CMakeLists.txt").write_text("cmake_minimum_required(VERSION 3.25)\nproject(Small LANGUAGES NONE)\n")
+        (project / "CMakePresets.json").write_text(
+            '{"version": 6, "configurePresets": [{"name": "dev", "generator": "Ninja", "binaryDir": "${sourceDir}/build/dev"}]}'
+        )
+        git = ["git", "-C", project, "-c", "user.name=x", "-c", "user.email=x@example.test"]
+        for words in (["init", "--quiet"], ["add", "."], ["commit", "--quiet", "--message", "x"]):
+            run.subprocess.run(git + words, check=True)
+        commit = run.subprocess.run(git + ["rev-parse", "HEAD"], check=True, capture_output=True, text=True).stdout.strip()
+        run.subprocess.run(["chown", "-R", "4242:4242", project], check=True)
+        told = run.subprocess.run(git + ["log"], capture_output=True, text=True, check=False)
+        self.assertIn("dubious ownership", told.stderr)
+        with unittest.mock.patch.multiple(run, PROJECT=project, ROOT=folder / "mutate"):
+            for _ in range(2):  # the second time there is a clone
+                clone = run.Clone("code")
+                self.assertEqual(clone.commit, commit)
+                self.assertTrue((clone.place / "CMakeLists.txt").exists())
+                clone.lock.close()
 
     def test_the_walls_hold(self):
         tried = run.subprocess.run(

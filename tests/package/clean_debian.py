@@ -12,7 +12,12 @@ import contextlib
 import os
 import shutil
 import subprocess
+import sys
 from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parent))
+
+from moving import Moving  # noqa: E402
 
 RELEASE = "bookworm"
 USER, UID = "alice", 1000
@@ -60,7 +65,7 @@ def registry() -> str:
 
 
 def _do(log: Path, what: str, *words) -> None:
-    with open(log, "ab") as output:
+    with open(log, "ab") as output, Moving(what):
         if subprocess.run(
             list(map(str, words)),
             stdout=output,

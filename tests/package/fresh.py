@@ -33,6 +33,7 @@ sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
 from clean_debian import Unprepared, minimal  # noqa: E402
+from moving import Moving  # noqa: E402
 
 PROJECT = Path(__file__).resolve().parents[2]
 WORK = PROJECT / "build" / "fresh"
@@ -75,6 +76,10 @@ exec /usr/bin/env -i HOME=/root USER=root LOGNAME=root LANG=C.UTF-8 \
 """
 
 
+# A clone and a fetch ask the repository by a program of their own, which does not hear that its owner may be another user.
+ASKED = "--upload-pack=git -c safe.directory='*' upload-pack"
+
+
 class Failed(Exception):
     """One line for the user."""
 
@@ -97,7 +102,7 @@ class Step:
 
 def own_git(*words: str) -> str:
     return subprocess.run(
-        ["git", "-c", f"safe.directory={PROJECT}", "-C", PROJECT, *words], check=True, capture_output=True, text=True
+        ["git", "-c", "safe.directory=*", "-C", PROJECT, *words], check=True, capture_output=True, text=True
     ).stdout.strip()
 
 
@@ -125,15 +130,17 @@ class Stranger:
         if again:
             if not (self.clone / ".git").exists():
                 raise Failed("there is no run that failed; leave out --again")
-            subprocess.run(["git", "-C", self.clone, "fetch", "--quiet", PROJECT, "HEAD"], check=True)
+            subprocess.run(["git", "-C", self.clone, "fetch", "--quiet", ASKED, PROJECT, "HEAD"], check=True)
             subprocess.run(["git", "-C", self.clone, "reset", "--quiet", "--hard", commit], check=True)
             return
         remove(self.tree)
-        subprocess.run(["cp", "-a", "--reflink=auto", base, self.tree], check=True)
+        with Moving("Copying the minimal Debian"):
+            subprocess.run(["cp", "-a", "--reflink=auto", base, self.tree], check=True)
         for file in ("resolv.conf", "hosts"):
             shutil.copy(f"/etc/{file}", self.tree / "etc" / file)
         self.clone.parent.mkdir(parents=True, exist_ok=True)
-        own_git("clone", "--quiet", "--no-hardlinks", str(PROJECT), str(self.clone))
+        with Moving("Cloning the last commit"):
+            own_git("clone", "--quiet", "--no-hardlinks", ASKED, str(PROJECT), str(self.clone))
         # Both systems get the same one, whatever is committed meanwhile.
         subprocess.run(["git", "-C", self.clone, "-c", "advice.detachedHead=false", "checkout", "--quiet", commit], check=True)
 
@@ -188,7 +195,8 @@ def processor_time() -> float:
 def remove(tree: Path) -> None:
     # Nothing of the machine is mounted in it any more: mounts were made in namespaces that have ended.
     if tree.exists():
-        subprocess.run(["rm", "-rf", "--one-file-system", tree], check=True)
+        with Moving("Removing a former system"):
+            subprocess.run(["rm", "-rf", "--one-file-system", tree], check=True)
 
 
 def heading(text: str) -> None:
@@ -218,9 +226,11 @@ def digest(folder: Path) -> tuple[str, str]:
 def tomorrow(stranger: Stranger) -> dict[str, str]:
     """Variables that set the clock of whatever runs with them to the next day."""
     heading("tomorrow's clock for the second system")
-    if stranger.run(
-        "/bin/sh", "-c", "apt-get -qq update && apt-get -qq install -y --no-install-recommends faketime >/dev/null 2>&1"
-    ).returncode:
+    with Moving("Installing the program that sets a clock for others"):
+        installed = stranger.run(
+            "/bin/sh", "-c", "apt-get -qq update && apt-get -qq install -y --no-install-recommends faketime >/dev/null 2>&1"
+        )
+    if installed.returncode:
         raise Failed("the program that sets a clock for others cannot be installed")
     library = next((stranger.tree / "usr/lib").glob("*/faketime/libfaketime.so.1"))
     variables = {

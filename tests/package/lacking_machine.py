@@ -56,6 +56,7 @@ CMAKE = """
 cmake_minimum_required(VERSION 3.25)
 project(Stranger VERSION 1.0 LANGUAGES CXX DESCRIPTION "one small program")
 add_executable(tool main.cpp)
+add_executable(judge main.cpp)
 add_custom_target(programs DEPENDS tool)
 add_custom_target(veldmark-pictures)
 enable_testing()

@@ -21,6 +21,7 @@ sys.path[:0] = [str(HERE), str(HERE.parent / "lab")]
 
 from clean_debian import CleanDebian, Unprepared, prepare  # noqa: E402
 from later_package import HELPER, newer  # noqa: E402
+from moving import Moving  # noqa: E402
 from veldlab import topology as at  # noqa: E402
 from veldlab.lab import PROJECT, Lab, LabUnavailable  # noqa: E402
 from veldlab.product import Product  # noqa: E402
@@ -66,7 +67,8 @@ class Case(unittest.TestCase):
             debian.put(PACKAGE, "/var/local/veldmark.deb")
             debian.put(newer(PACKAGE, Path(folder)), Case.newer)
             started = time.monotonic()
-            result = debian.run(["apt-get", "install", "--yes", "/var/local/veldmark.deb"], timeout=600)
+            with Moving("Installing the package"):
+                result = debian.run(["apt-get", "install", "--yes", "/var/local/veldmark.deb"], timeout=600)
             if result.returncode:
                 raise AssertionError(f"{result.stdout}{result.stderr}")
             print(f"installed with all that it depends on in {time.monotonic() - started:.0f} s", file=sys.stderr)
@@ -74,6 +76,7 @@ class Case(unittest.TestCase):
         return debian
 
     def setUp(self):
+        self.enterContext(Moving(self.id().removeprefix("__main__.")))
         self.debian = self.enterContext(CleanDebian(self.lab, self.base, f"test-{self.id()}", over=self.installed))
         self.product = Product(types.SimpleNamespace(host=self.debian), Path("/usr/bin"))
         self.assertEqual(self.rules(), "", "another test has left rules behind")

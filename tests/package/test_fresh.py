@@ -90,7 +90,7 @@ class Fresh(unittest.TestCase):
         put(self.base / "usr/bin/apt-get", APT)
         put(self.folder / "path/debootstrap", "#!/bin/sh\nexit 1\n")  # the base is there already
         self.project = self.folder / "project"
-        for name in ("fresh.py", "clean_debian.py"):
+        for name in ("fresh.py", "clean_debian.py", "moving.py"):
             put(self.project / "tests/package" / name, (HERE / name).read_text())
         put(self.project / "build.sh", BUILD)
         put(self.project / "tools/deps.sh", DEPS)
@@ -206,6 +206,29 @@ class Fresh(unittest.TestCase):
         self.commit()
         self.assertEqual(self.fresh("--again", "test").returncode, 0)
         self.assertFalse(kept.exists())
+
+    def test_a_checkout_of_another_user_is_cloned(self):
+        subprocess.run(["chown", "-R", "4242:4242", self.project], check=True)
+        told = subprocess.run(["git", "-C", self.project, "log"], capture_output=True, text=True, check=False)
+        self.assertIn("dubious ownership", told.stderr)
+        result = self.fresh("package")
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.fails("--without", "beta", "test", line=r"\./build\.sh test failed")
+        result = self.fresh("--again", "test")  # with the list as it was committed
+        self.assertEqual(result.returncode, 0, result.stderr)
+
+    def test_what_takes_its_time_shows_that_it_moves(self):
+        for program, shown in (("cp", "Copying the minimal Debian"), ("git", "Cloning the last commit")):
+            put(
+                self.folder / "path" / program,
+                f'#!/bin/bash\n[[ $1 != -a && " $* " != *" clone "* ]] || sleep 3\nexec {shutil.which(program)} "$@"\n',
+            )
+            result = self.fresh("demo")
+            self.assertEqual(result.returncode, 0, result.stderr)
+            self.assertIn(f"{shown}: 2 s\n", result.stdout)
+        shutil.rmtree(self.base)
+        put(self.folder / "path/debootstrap", "#!/bin/sh\nsleep 3\nexit 1\n")
+        self.assertIn("Fetching a minimal Debian from its registry: 2 s\n", self.fresh("demo").stdout)
 
     def test_only_what_is_committed_is_tried(self):
         put(self.project / "a-skip", "")

@@ -1,7 +1,10 @@
 #!/usr/bin/python3
 """./build.sh on a machine that lacks something ends in one line that says what to do, and a second run goes on where it stopped."""
 
+import re
+import shlex
 import shutil
+import subprocess
 import sys
 import unittest
 from pathlib import Path
@@ -51,6 +54,21 @@ class Installing(Case):
             f'exec /usr/bin/python3 -uc \'import fcntl, time; held = open("{lock}", "w");'
             f"fcntl.lockf(held, fcntl.LOCK_EX); print(); time.sleep({seconds})'"
         )
+
+    def test_installing_shows_that_it_moves(self):
+        self.machine.connect()
+        shown = re.findall(r"(?m)^Installing packages, percent: (\d+) of 100$", self.works("deps"))
+        self.assertGreater(len(shown), 2)
+        self.assertEqual([int(percent) for percent in shown], sorted(map(int, shown)))
+        self.assertLessEqual(len(shown), 11)
+
+    def test_a_full_folder_for_temporary_files(self):
+        self.machine.connect()
+        self.machine.run("mount -t tmpfs -o mode=1777,size=64k small /tmp; head -c 1M /dev/zero >/tmp/filler 2>/dev/null || true")
+        self.refused("deps", r"/tmp is full: make room there, or set TMPDIR to a folder with 1 GB, and run this again")
+        self.machine.run("umount /tmp")
+        self.works("deps")
+        self.assertTrue(self.machine.installed())
 
     def test_without_a_network(self):
         self.refused("deps", "Debian's registry cannot be reached: connect to the network and run this again")
@@ -131,6 +149,47 @@ class Compiling(Case):
         self.works("build")
         self.assertTrue(self.compiled())
 
+    def test_compiling_shows_that_it_moves(self):
+        self.assertRegex(self.works("build"), r"(?m)\ACompiling: 1 of 2\nCompiling: 2 of 2\n\Z")
+        self.machine.run(f"rm -r {QUOTED}/build")
+        self.machine.run(f"cd {QUOTED} && script -qec './build.sh build' /srv/shown")
+        self.assertIn(b"\rCompiling: 1 of 2 \rCompiling: 2 of 2 ", self.machine.path("/srv/shown").read_bytes())
+
+    def test_run_and_demo_compile_the_programs_alone(self):
+        self.machine.run(
+            f"cd {QUOTED} && mkdir -p tests/lab build/bin && echo 'print(1)' >tests/lab/demo.py && "
+            "printf '#!/bin/sh\\necho ran \"$@\"\\n' >build/bin/veldmarkctl && chmod 755 build/bin/veldmarkctl"
+        )
+        judge = self.machine.path(f"{CHECKOUT}/build/dev/judge")
+        self.assertRegex(self.works("run --connect"), r"\nran --connect\n\Z")
+        self.assertTrue(self.compiled())
+        self.machine.run(f"rm -r {QUOTED}/build/dev")
+        self.assertRegex(self.works("demo"), r"\n1\n\Z")
+        self.assertTrue(self.compiled())
+        self.assertFalse(judge.exists())
+        self.machine.run(f"cmake --build {QUOTED}/build/dev")  # there is more to compile
+        self.assertTrue(judge.exists())
+
+    def test_what_takes_root_says_so_before_it_compiles(self):
+        self.machine.own("alice")
+        for verb, what in (
+            ("machine-test", "a machine is booted"),
+            ("package-test", "a clean Debian is entered"),
+            ("fresh-test", "a clean Debian is made"),
+        ):
+            self.refused(verb, rf"{what} by root: run sudo \./build\.sh {verb}", user="alice")
+        self.assertFalse(self.machine.path(f"{CHECKOUT}/build").exists())
+
+    def test_a_checkout_that_other_users_cannot_enter(self):
+        self.machine.run("chmod 700 '/srv/a stranger'")
+        for verb in ("test", "test house lab", "test -R x"):
+            self.refused(
+                verb,
+                "other users cannot enter /srv/a stranger, and tests run programs as some: move the checkout to a folder such as /srv",
+            )
+        self.assertFalse(self.machine.path(f"{CHECKOUT}/build").exists())
+        self.works("build")
+
     def test_a_small_folder_for_temporary_files(self):
         self.machine.fill_source()
         self.machine.run("mount -t tmpfs -o mode=1777,size=200k small /tmp")
@@ -197,6 +256,35 @@ class Compiling(Case):
         self.assertIn("build/veldmark_1.0_", self.works("package"))
         listed = self.machine.run(f"dpkg-deb --contents {QUOTED}/build/veldmark_*.deb").stdout
         self.assertRegex(listed, r"2020-02-02 02:02 \./usr/bin/tool\n")
+
+
+class Showing(unittest.TestCase):
+    """tools/progress.sh by itself."""
+
+    def shown(self, script: str, terminal: bool = False) -> str:
+        command = ["/bin/bash", "-c", f"source {shlex.quote(str(PROJECT))}/tools/progress.sh; {script}"]
+        if terminal:
+            command = ["script", "-qec", shlex.join(command), "/dev/null"]
+        told = subprocess.run(command, stdin=subprocess.DEVNULL, capture_output=True, check=True, timeout=60).stdout
+        return told.decode().replace("\r\n", "\n")
+
+    STEPS = "for i in {1..50}; do echo \"[$i/50] Building\"; echo 'a warning'; done | progress Compiling"
+
+    def test_a_reader_gets_a_line_each_tenth(self):
+        self.assertEqual(
+            self.shown(self.STEPS).splitlines(), [f"Compiling: {step} of 50" for step in (1, 5, 10, 15, 20, 25, 30, 35, 40, 45, 50)]
+        )
+
+    def test_a_terminal_gets_one_line_that_changes(self):
+        told = self.shown(self.STEPS, terminal=True)
+        self.assertEqual(told.split("\r")[1:-1], [f"Compiling: {step} of 50 " for step in range(1, 51)])
+        self.assertNotIn("\n", told)
+
+    def test_what_cannot_count_its_steps_shows_the_seconds(self):
+        self.assertEqual(self.shown("busy Packing /dev/null sleep 2.6"), "Packing: 2 s\n")
+        self.assertEqual(self.shown("busy Packing /dev/null sleep 0.3"), "")
+        self.assertIn("\rPacking: 2 s ", self.shown("busy Packing /dev/null sleep 2.6", terminal=True))
+        self.assertEqual(self.shown("busy Packing /dev/null false || echo $?"), "1\n")
 
 
 if __name__ == "__main__":

@@ -7,6 +7,7 @@ the lab ends. Threads: any.
 
 import json
 import os
+import re
 import subprocess
 from pathlib import Path
 
@@ -35,6 +36,14 @@ class Space:
     def path(self, inside: str) -> Path:
         """Where the caller finds an absolute path of this space. Absolute links in it lead to the machine's files."""
         return self.root / inside.lstrip("/")
+
+    def preload(self, *libraries: str | Path) -> str:
+        """LD_PRELOAD for these, wherever they lie: the dynamic loader takes a path apart at blanks and knows no quotes."""
+        links = []
+        for library in map(str, libraries):
+            links.append("/run/preload-" + re.sub(r"[\s:]", "-", os.path.basename(library)))
+            self.run(["ln", "-sfn", library, links[-1]], check=True)
+        return " ".join(links)
 
     def command(self, argv, *, user="root", env=None, cwd="", session=False) -> list[str]:
         """The argument list that runs `argv` here, for callers that start processes themselves."""

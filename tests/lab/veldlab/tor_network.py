@@ -32,9 +32,11 @@ for pid in $pids; do wait "$pid"; done
 """
 
 # Arguments: a folder, a library or nothing, then names of nodes. Each tor goes to the background once it has its keys and its ports.
-# The library, KeptLinkKeys.cpp, gives it the key for its connections that make_keys has made.
+# The library, KeptLinkKeys.cpp, gives it the key for its connections that make_keys has made. It may lie below a folder with blanks, at
+# which the dynamic loader would take its path apart.
 _START = r"""
 set -u; cd "$1"; library=$2; shift 2
+[ -z "$library" ] || { ln -sf "$library" kept-link-keys.so; library=$PWD/kept-link-keys.so; }
 for node; do
     LD_PRELOAD=$library VELDLAB_LINK_KEYS=$PWD/$node/keys tor -f "$node/torrc" --defaults-torrc empty --quiet </dev/null >"$node/start" 2>&1 &
     eval "pid_$node=$!"

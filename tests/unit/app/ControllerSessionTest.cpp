@@ -405,6 +405,22 @@ private Q_SLOTS:
         QVERIFY(!session.now().bootstrapProblem);
     }
 
+    void theWindowsNameTheFirewallThatLetsNothingThroughAsTheControllerDoes()
+    {
+        Workbench bench;
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        QVERIFY(bench.connect());
+        QVERIFY(bench.tick());
+        bench.writeFile(bench.profile.othersNote, "ufw\n");
+        bench.hasCircuit = false;
+        bench.setCounters("1000", "200");
+        for (int tick = 0; tick < 6; ++tick)
+            QVERIFY(bench.tick());
+        settle();
+        QVERIFY(session.now().verdict().detail.english().endsWith(u": ufw."_s));
+        QCOMPARE(session.now().verdict(), bench.controller().verdict());
+    }
+
     void everyFieldThatChangesIsShown()
     {
         Workbench bench;

@@ -197,6 +197,19 @@ private Q_SLOTS:
         QVERIFY(!isMainShown(application));
     }
 
+    void aTrayThatWasFoundBeforeTheStartIsUsed()
+    {
+        const StatusNotifierWatcher tray(bus.connection());
+        const Computer computer;
+        Application application(computer.profile);
+        // Asked after the application has, so answered after it.
+        SystemClock clock;
+        const TrayHost host(QDBusConnection::sessionBus(), clock);
+        QTRY_VERIFY(host.isPresent());
+        QVERIFY(application.start(true, false));
+        QVERIFY(application.tray());
+    }
+
     void aPlainStartShowsTheWindowAtOnce()
     {
         const Computer computer;

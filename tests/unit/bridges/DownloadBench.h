@@ -7,6 +7,7 @@
 #include "support/ManualClock.h"
 #include "system/ChildProcessRunner.h"
 
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
@@ -25,29 +26,9 @@ inline QCoro::Task<void> keep(QCoro::Task<TransportDownloader::Outcome> task,
     *kept = outcome;
 }
 
-inline QStringList temporaryFolders()
-{
-    return QDir(QStringLiteral("/tmp")).entryList({QStringLiteral("vmk-*")}, QDir::Dirs);
-}
-
-// Command lines of processes that still work in one of our temporary folders.
-inline QStringList agents()
-{
-    QStringList found;
-    for (const QString &number : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs)) {
-        QFile file(QStringLiteral("/proc/%1/cmdline").arg(number));
-        if (number.front().isDigit() && file.open(QIODevice::ReadOnly)) {
-            const QByteArray line = file.readAll();
-            if (line.contains("/tmp/vmk-"))
-                found << QString::fromUtf8(line).replace(QChar(u'\0'), u' ');
-        }
-    }
-    return found;
-}
-
-// A downloader with a server, a signing key and a system of its own: what the tests of
-// TransportDownloader are made of. They look at all of /tmp and of the running processes for what a
-// download has left, so only one of them runs at a time.
+// A downloader with a server, a signing key, a system and a folder for temporary folders of its
+// own: what the tests of TransportDownloader are made of. What other programs have in /tmp is
+// theirs.
 class DownloadBench {
 protected:
     using Outcome = TransportDownloader::Outcome;
@@ -65,7 +46,7 @@ protected:
     // Before and after each test.
     void prepare()
     {
-        m_formerTemporaries = temporaryFolders();
+        m_temporaries = std::make_unique<QTemporaryDir>(QStringLiteral("/tmp/d-XXXXXX"));
         m_tree = std::make_unique<ProgramTree>();
         for (const char *name : {"usr/bin/tar", "usr/bin/gpg", "usr/bin/gpgconf"}) {
             QDir().mkpath(m_tree->path(QStringLiteral("usr/bin")));
@@ -96,8 +77,29 @@ protected:
         m_clock.reset();
         m_service.reset();
         m_runner.reset();
-        QCOMPARE(temporaryFolders(), m_formerTemporaries);
+        QCOMPARE(temporaryFolders(), QStringList());
         QCOMPARE(agents(), QStringList());
+    }
+
+    QString temporaryRoot() const { return m_temporaries->path(); }
+    QStringList temporaryFolders() const
+    {
+        return QDir(temporaryRoot())
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+    // Command lines of processes that still work there.
+    QStringList agents() const
+    {
+        QStringList found;
+        for (const QString &number : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs)) {
+            QFile file(QStringLiteral("/proc/%1/cmdline").arg(number));
+            if (number.front().isDigit() && file.open(QIODevice::ReadOnly)) {
+                const QByteArray line = file.readAll();
+                if (line.contains(QFile::encodeName(temporaryRoot())))
+                    found << QString::fromUtf8(line).replace(QChar(u'\0'), u' ');
+            }
+        }
+        return found;
     }
 
     std::unique_ptr<TestCertificates> m_certificates;
@@ -115,7 +117,7 @@ protected:
     std::unique_ptr<TransportDownloader> m_downloader;
     QMap<QByteArray, CheckService::Respond> m_answers; // by path
     QStringList m_progress;
-    QStringList m_formerTemporaries;
+    std::unique_ptr<QTemporaryDir> m_temporaries;
 
     void serve(const QByteArray &path, const QByteArray &body, const QByteArray &status = "200 OK")
     {
@@ -141,7 +143,8 @@ protected:
                 QUrl(server + QString::fromLatin1(keyPath)),
                 m_key->fingerprint(),
                 socksPort,
-                m_certificates->client()};
+                m_certificates->client(),
+                temporaryRoot()};
     }
 
     void makeDownloader(const DownloadSource &from)

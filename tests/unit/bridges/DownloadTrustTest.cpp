@@ -226,8 +226,8 @@ private Q_SLOTS:
         m_service->respond = [this, &modes](QSslSocket *socket) {
             for (const QString &name : temporaryFolders()) {
                 struct stat status { };
-                const QByteArray path = QFile::encodeName(QStringLiteral("/tmp/") + name);
-                if (!m_formerTemporaries.contains(name) && ::stat(path.constData(), &status) == 0)
+                const QByteArray path = QFile::encodeName(temporaryRoot() + u'/' + name);
+                if (::stat(path.constData(), &status) == 0)
                     modes.insert(name, status.st_mode & 07777);
             }
             const QByteArray path = m_service->requests.last().split(' ').value(1);
@@ -251,7 +251,7 @@ private Q_SLOTS:
         QCOMPARE(calls.size(), 3); // two lists of what is in it, then the unpacking
         const QByteArrayList words = calls.last().split(' ');
         QCOMPARE(words.value(0), QByteArray("-xzf"));
-        QVERIFY2(words.value(1).startsWith("/tmp/vmk-")
+        QVERIFY2(words.value(1).startsWith(QFile::encodeName(temporaryRoot()) + "/vmk-")
                      && words.value(1).endsWith("/archive.tar.gz"),
                  words.value(1).constData());
         QCOMPARE(words.value(2), QByteArray("-C"));

@@ -160,7 +160,8 @@ private Q_SLOTS:
 
     void clearsUpAfterOneThatWasKilled()
     {
-        const QString temporary = QStringLiteral("/tmp/vmk-00000000-0000-4000-8000-00000000000a");
+        const QString temporary = temporaryRoot()
+            + QStringLiteral("/vmk-00000000-0000-4000-8000-00000000000a");
         QVERIFY(QDir().mkpath(temporary + QStringLiteral("/g")));
         const QFileInfo bundle(m_profile->bundleDirectory);
         m_tree->file(bundle.path() + QStringLiteral("/.TorExpertBundle.lock"),
@@ -171,6 +172,21 @@ private Q_SLOTS:
         QCOMPARE(installed("VERSION"), QByteArray("13.5"));
         QVERIFY(install());
         QVERIFY(!QFileInfo::exists(temporary));
+    }
+
+    void theRealOnesTemporaryFoldersAreInTmp()
+    {
+        QCOMPARE(DownloadSource::torProject().temporaryRoot, QStringLiteral("/tmp"));
+    }
+
+    // Another user's downloads, or another test's.
+    void whatOthersHaveInTmpIsNoneOfItsOwn()
+    {
+        QTemporaryDir others(QStringLiteral("/tmp/vmk-XXXXXX"));
+        QVERIFY(others.isValid());
+        QVERIFY(install());
+        QVERIFY(QFileInfo::exists(others.path()));
+        QCOMPARE(temporaryFolders(), QStringList());
     }
 
     void removesNoFolderThatCannotBeItsOwn()

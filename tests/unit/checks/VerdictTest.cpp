@@ -34,9 +34,16 @@ void forEachSession(const std::function<void(const SessionFacts &)> &look)
                             for (const std::optional<Stall> stall :
                                  {std::optional<Stall>(), std::optional(Stall::noNetwork),
                                   std::optional(Stall::noCircuit), std::optional(Stall::noAnswer),
-                                  std::optional(Stall::vpn)})
-                                look({phase, mode, rules, isExposed, isDNSLeaking, verified,
-                                      u"What is going on"_s, stall});
+                                  std::optional(Stall::vpn), std::optional(Stall::firewall)})
+                                look({phase,
+                                      mode,
+                                      rules,
+                                      isExposed,
+                                      isDNSLeaking,
+                                      verified,
+                                      u"What is going on"_s,
+                                      stall,
+                                      {u"ufw"_s}});
 }
 
 SessionFacts strict()
@@ -97,7 +104,7 @@ private Q_SLOTS:
             QVERIFY(!verdict.title.isEmpty() && !verdict.symbol.isEmpty()
                     && !verdict.detail.isEmpty());
         });
-        QCOMPARE(sessions, 5 * 3 * 5 * 2 * 2 * 3 * 5);
+        QCOMPARE(sessions, 5 * 3 * 5 * 2 * 2 * 3 * 6);
         QVERIFY(good > 0 && protectedOnes > good);
     }
 
@@ -179,6 +186,10 @@ private Q_SLOTS:
         facts.stall = Stall::vpn;
         row("a VPN in the way", facts, u"warning"_s, u"Nothing Gets Through"_s,
             u"A VPN takes Tor's traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode."_s);
+        facts.stall = Stall::firewall;
+        facts.firewalls = QStringList{u"ufw"_s, u"table ip filter"_s};
+        row("another firewall in the way", facts, u"warning"_s, u"Nothing Gets Through"_s,
+            u"Another firewall on this computer denies what goes out, so Tor can't connect: ufw, table ip filter."_s);
         facts.stall = Stall::noAnswer;
         row("no answer", facts, u"warning"_s, u"Nothing Gets Through"_s,
             u"Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile."_s);

@@ -1,4 +1,6 @@
 #include "cli/DoctorCommand.h"
+#include "../doctor/TestMachine.h"
+#include "support/Output.h"
 #include "support/TestProgram.h"
 
 #include <QJsonArray>
@@ -17,6 +19,26 @@ class DoctorCommandTest : public QObject {
                          {QStringLiteral("nftables"), Finding::Level::problem,
                           Text::tr("nftables isn't installed."),
                           QStringLiteral("sudo apt install nftables")}};
+
+    const Findings m_doubtful{m_good.front(),
+                              {QStringLiteral("firewalls"),
+                               Finding::Level::unknown,
+                               Text::tr("It may let nothing out."),
+                               {},
+                               Finding::Button::none,
+                               true}};
+    QString m_told;
+
+    ExitStatus ended(const TestMachine &machine, bool json)
+    {
+        Invocation invocation;
+        invocation.verb = Verb::Id::doctor;
+        invocation.json = json;
+        const Output output;
+        const ExitStatus status = QCoro::waitFor(showDoctor(invocation, machine.profile()));
+        m_told = output.text();
+        return status;
+    }
 
 private Q_SLOTS:
     void saysWhatIsThereAndWhatMendsIt()
@@ -43,6 +65,39 @@ private Q_SLOTS:
         const QJsonObject good = doctorFindings(m_good);
         QCOMPARE(good[QStringLiteral("canConnect")], QJsonValue(true));
         QVERIFY(good[QStringLiteral("findings")][0][QStringLiteral("command")].isNull());
+        QVERIFY(doctorFindings(m_doubtful)[QStringLiteral("canConnect")].isNull());
+    }
+
+    void saysWhatCannotBeTold()
+    {
+        QVERIFY(Report::doctor(m_doubtful)
+                    .endsWith(QStringLiteral("\nWhether a connect can work isn't known.")));
+    }
+
+    void endsWithWhetherAConnectCanWork_data()
+    {
+        QTest::addColumn<bool>("json");
+        QTest::newRow("for people") << false;
+        QTest::newRow("for programs") << true;
+    }
+
+    // On a whole computer, with its real processes.
+    void endsWithWhetherAConnectCanWork()
+    {
+        QFETCH(bool, json);
+        TestMachine m;
+        m.program("/usr/bin/tor", "#!/bin/sh\necho 'Tor version 0.4.8.9.'\n");
+        QCOMPARE(ended(m, json), ExitStatus::done);
+        m.write("/etc/ufw/ufw.conf", "ENABLED=yes\n");
+        m.write("/etc/default/ufw", "DEFAULT_OUTPUT_POLICY=\"DROP\"\n");
+        QCOMPARE(ended(m, json), ExitStatus::failed); // its rules are not known
+        QVERIFY2(m_told.contains(QStringLiteral("so Tor may not get through: ufw.")),
+                 qPrintable(m_told));
+        m.write("/etc/ufw/ufw.conf", "ENABLED=no\n");
+        QCOMPARE(ended(m, json), ExitStatus::done);
+        m.remove("/usr/bin/tor");
+        QCOMPARE(ended(m, json), ExitStatus::failed);
+        QVERIFY2(m_told.contains(QStringLiteral("Tor isn't installed.")), qPrintable(m_told));
     }
 };
 

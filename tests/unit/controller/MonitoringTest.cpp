@@ -1,3 +1,4 @@
+#include "controller/PublishedState.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 
@@ -113,6 +114,55 @@ private Q_SLOTS:
         QVERIFY(bench.connect());
         QVERIFY(bench.tick());
         QVERIFY(!bench.controller().stall()); // another session begins without knowledge
+    }
+
+    void aFirewallThatBeginsToDenyIsNamedAsLongAsNothingGetsThrough()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        bench.route = NetworkRoute{u"dev0"_s, true}; // and a VPN, of which is known less
+        QVERIFY(bench.connect());
+        QVERIFY(bench.tick());
+        bench.writeFile(bench.profile.othersNote, "ufw\ntable ip filter\n");
+        QVERIFY(bench.tick());
+        QVERIFY(!c.stall() && c.denyingFirewalls().isEmpty()); // Tor's connections may last
+        bench.hasCircuit = false;
+        bench.setCounters("1000", "200");
+        for (int tick = 0; tick < 6; ++tick)
+            QVERIFY(bench.tick());
+        QVERIFY(c.stall() == TrafficWatch::Stall::firewall);
+        const QString told
+            = u"Another firewall on this computer denies what goes out, so Tor can't connect: ufw, table ip filter."_s;
+        QCOMPARE(c.verdict().detail, told);
+        QCOMPARE(publishedState(c)[u"statusDetail"_s].toString(), told);
+        QCOMPARE(publishedState(c)[u"stall"_s].toString(), u"firewall"_s);
+        // one of them goes
+        bench.writeFile(bench.profile.othersNote, "ufw\n");
+        QVERIFY(bench.tick());
+        QCOMPARE(c.denyingFirewalls(), QStringList{u"ufw"_s});
+        // what was known outlives a disconnect that was refused
+        bench.cancelPrompt(u"disconnect"_s);
+        bench.disconnect();
+        QVERIFY(c.phase() == Phase::connected);
+        QVERIFY(c.verdict().detail.english().endsWith(u": ufw."_s));
+        bench.hasCircuit = true;
+        bench.setCounters("9000", "200");
+        QVERIFY(bench.tick());
+        QVERIFY(!c.stall() && c.denyingFirewalls().isEmpty());
+    }
+
+    void aFirewallThatHasLetTorConnectIsNotBlamed()
+    {
+        Workbench bench;
+        bench.writeFile(bench.profile.othersNote, "ufw\n");
+        QVERIFY(bench.connect());
+        QVERIFY(bench.tick());
+        bench.hasCircuit = false;
+        bench.setCounters("1000", "200");
+        for (int tick = 0; tick < 6; ++tick)
+            QVERIFY(bench.tick());
+        QVERIFY(bench.controller().stall() == TrafficWatch::Stall::noCircuit);
+        QVERIFY(bench.controller().denyingFirewalls().isEmpty());
     }
 
     void torBeginsAnewWhenTheAddressHasChanged()

@@ -33,7 +33,7 @@ private Q_SLOTS:
             = u"strictMode allowLocalNetwork separateApps exitCountry customTorPath bridgeChoice customBridges "
               "bypassApps autoConnect optimizeSpeed latencyMs optimizeStatus isOptimizing transports activeBridge "
               "terminalMode phase activeMode bootstrapProgress statusDetail bootstrapProblem killSwitch killSwitchSince exitIP torVerified leakStatus "
-              "bytesRead bytesWritten stall isChecking otherSession canCancel errorMessage dnsStatus passwordlessInstalled startupError circuits "
+              "bytesRead bytesWritten stall denyingFirewalls isChecking otherSession canCancel errorMessage dnsStatus passwordlessInstalled startupError circuits "
               "circuitError transportDownload terminalError terminalHint settingsProblems title menuBarSymbol level"_s
                   .split(u' ');
         const QJsonObject state = publishedState(bench.controller());

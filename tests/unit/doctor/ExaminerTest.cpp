@@ -75,6 +75,68 @@ private Q_SLOTS:
         QVERIFY(QCoro::waitFor(std::move(examining)).front().level == Finding::Level::problem);
     }
 
+    void asRootItAsksNftWhetherItWorks_data()
+    {
+        QTest::addColumn<int>("status"); // below 0: it cannot be started
+        QTest::addColumn<QString>("complaint");
+        QTest::addColumn<QString>("told");
+        QTest::newRow("it works") << 0 << QString()
+                                  << QStringLiteral(
+                                         "The system's firewall, nftables, can be used.");
+        QTest::newRow("it says what is wrong")
+            << 1 << QStringLiteral("Operation not supported\nand more\n")
+            << QStringLiteral("The system's firewall can't be used: Operation not supported");
+        QTest::newRow("it says nothing")
+            << 1 << QString() << QStringLiteral("The system's firewall can't be used: nft fails.");
+        QTest::newRow("it gives no answer")
+            << -1 << QString()
+            << QStringLiteral("The system's firewall can't be used: nft doesn't answer.");
+    }
+
+    void asRootItAsksNftWhetherItWorks()
+    {
+        QFETCH(int, status);
+        QFETCH(QString, complaint);
+        QFETCH(QString, told);
+        TestMachine m;
+        SettingsStore settings(m.profile());
+        ScriptedRunner processes;
+        processes.answer =
+            [&](const ScriptedRunner::Call &call) -> Result<ProcessResult, StartError> {
+            if (!call.executable.endsWith(QStringLiteral("/nft")))
+                return ProcessResult{0, QStringLiteral("Tor version 0.4.8.9.\n"), {}};
+            if (status < 0)
+                return Failure(StartError(Text(QStringLiteral("No such file or directory"))));
+            return ProcessResult{status, {}, complaint};
+        };
+        Examiner examiner(m.profile(), settings, processes, 0);
+        auto examining = examiner.examine();
+        QTRY_VERIFY(examining.isReady());
+        QStringList texts;
+        for (const Finding &finding : QCoro::waitFor(std::move(examining))) {
+            if (finding.name != QStringLiteral("nftables"))
+                continue;
+            texts << finding.text.english();
+            QCOMPARE(finding.level == Finding::Level::problem, status != 0);
+        }
+        QCOMPARE(texts, QStringList(told));
+    }
+
+    void anOrdinaryUserDoesNotAskNft()
+    {
+        TestMachine m;
+        SettingsStore settings(m.profile());
+        ScriptedRunner processes;
+        Examiner examiner(m.profile(), settings, processes, TestMachine::alice);
+        auto examining = examiner.examine();
+        QTRY_VERIFY(examining.isReady());
+        QVERIFY(!QCoro::waitFor(std::move(examining)).empty());
+        QVERIFY(
+            std::none_of(processes.calls.cbegin(), processes.calls.cend(), [](const auto &call) {
+                return call.executable.endsWith(QStringLiteral("/nft"));
+            }));
+    }
+
     void goesWhileItIsWaitedFor()
     {
         TestMachine m;

@@ -71,6 +71,9 @@ private Q_SLOTS:
         session.show(snapshot);
         QCOMPARE(model.verdict(),
                  QStringLiteral("Nothing was found that keeps Veldmark from connecting."));
+        snapshot.findings.front().mayBlock = true;
+        session.show(snapshot);
+        QCOMPARE(model.verdict(), QStringLiteral("Whether a connect can work isn't known."));
     }
 
     void pressesWhatMendsIt()

@@ -1,0 +1,152 @@
+#!/usr/bin/python3
+"""machine-test's own judgement: what it says where it cannot run, and what becomes of a case that failed or could not be tried.
+
+The machines, the network and the cases are stand-ins; machine_test.py is the real one.
+"""
+
+import contextlib
+import io
+import sys
+import tempfile
+import time
+import unittest
+import unittest.mock
+from pathlib import Path
+
+sys.dont_write_bytecode = True
+TESTS = Path(__file__).resolve().parents[1]
+sys.path[:0] = [str(TESTS / "machine"), str(TESTS / "lab")]
+
+import boot  # noqa: E402
+import machine_test  # noqa: E402
+from base import Unprepared  # noqa: E402
+from stage import CannotRun, expect  # noqa: E402
+from veldlab.lab import LabUnavailable  # noqa: E402
+
+
+class FakeLab:
+    refusal = ""
+    downs = 0
+
+    def up(self):
+        if self.refusal:
+            raise LabUnavailable(self.refusal)
+
+    def down(self):
+        FakeLab.downs += 1
+
+
+class FakeStage(contextlib.AbstractContextManager):
+    def __init__(self, *_):
+        self.leases, self.note = self, ""
+
+    def __exit__(self, *_):
+        pass
+
+
+def passes(stage):
+    stage.note = "in no time"
+
+
+def is_broken(_):
+    expect(False, "the network does not work")
+
+
+def cannot(_):
+    raise CannotRun("no tunnel device here")
+
+
+def crashes(_):
+    raise KeyError("state")
+
+
+def slow(_):
+    time.sleep(2.5)
+
+
+class Judgement(unittest.TestCase):
+    def setUp(self):
+        folder = Path(self.enterContext(tempfile.TemporaryDirectory()))
+        FakeLab.refusal, FakeLab.downs = "", 0
+        self.patch(machine_test, Lab=FakeLab, Stage=FakeStage, program=lambda: Path("/nspawn"))
+        self.patch(machine_test.base, FOLDER=folder, prepare=lambda package, say: folder)
+        self.patch(machine_test.case_install, install=passes)
+        self.patch(machine_test.os, geteuid=lambda: 0)
+        self.folder = folder
+
+    def patch(self, thing, **values):
+        self.enterContext(unittest.mock.patch.multiple(thing, **values))
+
+    def run_main(self, cases=None, *words) -> tuple[int, str]:
+        self.patch(machine_test, CASES=cases or {"one": passes})
+        with (
+            unittest.mock.patch.object(sys, "argv", ["machine_test.py", "x.deb", *words]),
+            contextlib.redirect_stdout(io.StringIO()) as told,
+            contextlib.redirect_stderr(io.StringIO()),
+        ):
+            status = machine_test.main()
+        return status, told.getvalue()
+
+    def refuses(self, line):
+        status, told = self.run_main()
+        self.assertEqual(status, 77)
+        self.assertRegex(told, rf"\AThe machine test cannot run here: {line}\n\Z")
+
+    def test_root_is_asked_for_before_anything_else(self):
+        def prepare(*_):
+            self.fail("it prepares something before it says that it needs root")
+
+        self.patch(machine_test.base, prepare=prepare)
+        self.patch(machine_test.os, geteuid=lambda: 1000)
+        self.refuses(r"a machine is booted by root; run sudo \./build\.sh machine-test")
+
+    def test_what_is_missing_is_said_in_a_line(self):
+        FakeLab.refusal = "This system permits no namespaces."
+        self.refuses(r"This system permits no namespaces\.")
+
+        def no_registry(*_):
+            raise Unprepared("The apt sources of this machine name no registry of Debian 12 (bookworm).")
+
+        self.patch(machine_test.base, prepare=no_registry)
+        self.refuses(r"The apt sources of this machine name no registry of Debian 12 \(bookworm\)\.")
+        self.patch(machine_test, program=boot.program)
+        self.patch(boot, NSPAWN=self.folder)
+        with unittest.mock.patch.object(boot.Path, "exists", lambda _: False):
+            self.refuses("systemd-nspawn is missing: ./build.sh machine-test fetches it, or run sudo apt install systemd-container")
+
+    def test_the_base_names_what_it_lacks(self):
+        base = machine_test.base
+        with unittest.mock.patch.object(base.shutil, "which", lambda _: None):
+            with self.assertRaisesRegex(Unprepared, r"^debootstrap is not installed; \./build\.sh deps does it$"):
+                REAL_PREPARE(Path("x.deb"), lambda _: None)
+
+    def test_each_result_has_its_row_and_its_status(self):
+        good, broken, odd, untried = ({"a case": case} for case in (passes, is_broken, crashes, cannot))
+        for cases, status, row in (
+            (good, 0, "passed: in no time"),
+            (broken, 1, "FAILED: the network does not work"),
+            (odd, 1, "FAILED: KeyError: 'state'"),
+            (untried, 2, "cannot run here: no tunnel device here"),
+            ({"b": cannot, "a case": is_broken}, 1, "FAILED: the network does not work"),
+        ):
+            found, told = self.run_main(cases)
+            self.assertEqual(found, status, told)
+            self.assertIn(f"| a case | {row} | 0 |\n", (self.folder / "table.md").read_text())
+            self.assertRegex(
+                told, rf"{len(cases) + 1} cases, {int(status == 1)} failed, {int(cannot in cases.values())} could not be tried here"
+            )
+        self.assertEqual(FakeLab.downs, 5)
+
+    def test_only_the_cases_with_one_of_the_words_run(self):
+        _, told = self.run_main({"Xfce: one": passes, "sway: two": is_broken}, "xfce", "lxqt")
+        self.assertIn("Xfce: one: passed", told)
+        self.assertNotIn("sway", told)
+
+    def test_a_case_shows_that_it_moves(self):
+        self.assertIn("slow: 2 s\nslow: passed (", self.run_main({"slow": slow})[1])
+
+
+REAL_PREPARE = machine_test.base.prepare
+
+if __name__ == "__main__":
+    unittest.main()
