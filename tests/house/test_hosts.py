@@ -22,7 +22,7 @@ RESERVED = re.compile(r"(?:^|\.)(?:test|example|invalid|localhost|example\.(?:or
 KNOWN = {
     "tests/lab/veldlab/lab.py": {"check.torproject.org"},
     "tests/helper/test_proxy.py": {"proxy.corp"},
-    "tests/helper/test_hostile.py": {"192.168.77.30"},
+    "tests/helper/test_account.py": {"192.168.77.30"},
     "tests/helper_mac/real_mac.sh": {"1.1.1.1"},  # on a Mac, by hand: that it is refused
     "tests/package/test_files.py": {"www.w3.org"},  # a name space of XML
 }
