@@ -148,7 +148,10 @@ watch_others() {
   [[ -n $CHANGED ]] && ((SECONDS >= OTHERS_DUE)) || return 0
   [[ -z $(jobs -rp) ]] || return 0
   CHANGED='' OTHERS_DUE=$((SECONDS + OTHERS_SECONDS))
-  note_others 4<&- &
+  {
+    note_others
+    [[ $(read_marker) == strict ]] || rm -f -- "$OTHERS_NOTE"   # the session has ended meanwhile
+  } 4<&- &
 }
 
 # Where somebody else listens in Tor's place, nothing is vouched for: the note is left to grow old.

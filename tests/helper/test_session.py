@@ -312,6 +312,13 @@ class Session(HelperTest):
             self.assertOneLine(self.machine.connect(check=False), refusal)
             self.machine.shell('rm "$1"; mv "$1.away" "$1"', path)
 
+    def test_half_written_notes_go_with_the_session(self):
+        self.machine.connect()
+        notes = "/run/veldmark.others.new /var/lib/veldmark/journal/20-tor.new"
+        self.machine.shell(f"touch {notes}")
+        self.machine.help("disconnect")
+        self.assertEqual(self.machine.shell(f"ls {notes} 2>/dev/null || true"), "")
+
     def test_file_that_is_no_resolver_file_is_not_shown_to_everybody(self):
         """A link in a folder of somebody else's may lead anywhere by the time that it is read."""
         self.machine.shell(
