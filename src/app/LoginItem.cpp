@@ -57,7 +57,7 @@ Result<void, Text> LoginItem::set(bool on) const
     if (m_path.isEmpty())
         return Failure(Text::tr("Login items can't be changed here."));
     if (on == isSet())
-        return {}; // also an entry that somebody has changed to their liking
+        return {}; // keeps an entry that the user has edited
     if (!on) {
         if (!QFile::remove(m_path))
             return Failure(Text::tr("Couldn't remove %1.").arg(m_path));
