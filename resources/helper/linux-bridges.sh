@@ -1,5 +1,5 @@
 
-# ---- Linux: what bridges mean for the firewall -------------------------------------------------------------
+# ---- Linux: the bridges and the firewall -------------------------------------------------------------------
 
 readonly TOR_DEFAULTS=/etc/tor/torrc-defaults   # the administrator's file, which Tor reads before the helper's
 

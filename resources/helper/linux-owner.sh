@@ -1,5 +1,5 @@
 
-# ---- Linux: whose session it is ----------------------------------------------------------------------------
+# ---- Linux: the session's owner ----------------------------------------------------------------------------
 # Beside the marker the helper notes the session's owner: the user, and the program that asked for the session if it is one of Veldmark's.
 # The file is readable for all users, so that every instance on the computer can tell a session in use from a left-over one.
 

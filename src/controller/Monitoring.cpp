@@ -17,7 +17,7 @@ namespace veldmark {
 namespace {
 
 constexpr auto monitorInterval = 2s;
-constexpr auto counterReadLimit = 3s; // a stopped tor must not block the loop
+constexpr auto counterReadLimit = 3s; // a stopped, not dead, tor must not block the loop
 constexpr int ticksPerDNSCheck = 15;  // every 30 seconds
 constexpr int failuresUntilDead = 3;
 

@@ -21,7 +21,7 @@
 //     → {"command": "connect"}                      also "set" with "key" and "value", …
 //     ← {"state": {…every published field…}}        any number of these, as they change
 //     ← {"ok": true}   or   {"ok": false, "error": "one line"}     the last line of the answer;
-//                                                  "usage": true besides when the request itself
+//                                                  with "usage": true when the request itself
 //                                                  was wrong
 //
 // A connection carries one command. A client that reads slowly misses states, but not the last one.
