@@ -1,9 +1,9 @@
 
-# ---- Linux: what bridges mean for the firewall -------------------------------------------------------------
+# ---- Linux: the bridges and the firewall -------------------------------------------------------------------
 
-readonly TOR_DEFAULTS=/etc/tor/torrc-defaults   # the administrator's, which Tor reads beneath ours
+readonly TOR_DEFAULTS=/etc/tor/torrc-defaults   # the administrator's file, which Tor reads before the helper's
 
-# bridges_are_near: whether one of the bridges is on the local network, by its address or by that in its URL.
+# bridges_are_near: whether one of the bridges is on the local network, by its address or by the address in its URL.
 bridges_are_near() {
   local bridge
   for bridge in ${OPT_BRIDGES[@]+"${OPT_BRIDGES[@]}"}; do
@@ -13,9 +13,9 @@ bridges_are_near() {
   return 1
 }
 
-# list_bridges: sets BRIDGES4 and BRIDGES6 to "ADDRESS . PORT, …" of the bridges where Tor sends to nobody else: they are plain or of a
-# transport that goes to the address in the line, each address is one that the rules can hold, and the administrator's defaults
-# bring neither a bridge nor a proxy. Else both are empty.
+# list_bridges: sets BRIDGES4 and BRIDGES6 to "ADDRESS . PORT, …" of the bridges, if Tor sends only to them. That is so when every bridge is
+# plain or has a transport that goes to the address in the line, when the rules can hold each address, and when the administrator's defaults
+# add neither a bridge nor a proxy. Otherwise both are empty.
 BRIDGES4='' BRIDGES6=''
 list_bridges() {
   local bridge address port four='' six=''

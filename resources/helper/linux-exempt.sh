@@ -1,15 +1,15 @@
 
-# ---- Linux: applications that go past Tor ------------------------------------------------------------------
-# They run in a control group of their own, directly below the root of the cgroup v2 tree, which only root can put
-# processes into. The firewall lets out what a socket made there sends. Children stay in it. It exists before the
-# rules that name it and goes at disconnect.
+# ---- Linux: applications that bypass Tor -------------------------------------------------------------------
+# They run in their own control group, directly below the root of the cgroup v2 tree. Only root can put processes into it. The firewall
+# accepts packets of sockets made in the group. Children stay in it. The group is made before the rules that name it and removed at
+# disconnect.
 
 readonly EXEMPT_ENTRY=12-exempt
 readonly EXEMPT_NAME=veldmark-exempt
 readonly LAUNCHER_SECONDS=20
 
-EXEMPT_FOLDER=''   # the group's folder; empty where the system has no such groups
-EXEMPT_PATH=''     # the same below $CGROUPS; empty when the rules must not name it
+EXEMPT_FOLDER=''   # the group's folder; empty on a system without cgroup v2
+EXEMPT_PATH=''     # the folder's path below $CGROUPS; empty when the rules must not name it
 
 # find_exempt: sets EXEMPT_FOLDER.
 find_exempt() {
@@ -18,8 +18,8 @@ find_exempt() {
   EXEMPT_FOLDER=$TREE/$EXEMPT_NAME
 }
 
-# make_exempt: makes the group unless it is there, and sets EXEMPT_PATH; empty where there can be none, and then
-# nothing is exempt.
+# make_exempt: makes the group if it is missing, and sets EXEMPT_PATH. It is empty when the group cannot be made; then no application
+# bypasses Tor.
 make_exempt() {
   EXEMPT_PATH=''
   { find_exempt && make_group "$EXEMPT_NAME"; } || return 0
@@ -34,7 +34,7 @@ ready_exempt() {
   make_exempt
 }
 
-# undo_exempt: what still runs there goes on in the caller's group. The network is the user's business by then.
+# undo_exempt: moves the group's remaining processes to the caller's group, where they go on. They need no bypass after the session.
 undo_exempt() {
   local round pid home
   find_exempt && [[ -d $EXEMPT_FOLDER ]] || return 0
@@ -51,8 +51,8 @@ undo_exempt() {
   return 1
 }
 
-# find_launcher: sets LAUNCHER to the program that reads the application's entry. It runs with the caller's rights
-# only, so it does not matter who may change it.
+# find_launcher: sets LAUNCHER to the program that reads the application's entry. It runs with the caller's rights only, so it need not be
+# protected from changes.
 LAUNCHER=''
 find_launcher() {
   local path
@@ -63,8 +63,8 @@ find_launcher() {
   return 1
 }
 
-# Runs as root in the new mount namespace: RESOLVERS TARGET COMMAND... COMMAND gives up root. Names are looked up by
-# the resolvers as they were before the switch.
+# Runs as root in the new mount namespace: RESOLVERS TARGET COMMAND... COMMAND gives up root. DNS lookups use the resolvers from before the
+# switch.
 # shellcheck disable=SC2016
 readonly BESIDE='
 set -eu
@@ -76,7 +76,7 @@ done
 exec "$@"
 '
 
-# run_launcher PATH: runs in a subshell that becomes the launcher: into the group, then groups, group, user.
+# run_launcher PATH: becomes the launcher, in a subshell: enters the control group, then sets group, groups and user.
 run_launcher() {
   local groups
   groups=$(id -G -- "$CALLER_NAME") && [[ $groups =~ ^[0-9\ ]+$ ]] || return 1
@@ -89,8 +89,8 @@ run_launcher() {
     env -i "$LAUNCHER" --app "$1"
 }
 
-# linux_launch: the application as the caller and nobody else. A prompt is needed each time, also under the
-# password-free rule: else any program of the user's could leave unseen while the kill switch is said to stand.
+# linux_launch: opens the application as the caller only. It needs a prompt each time, even in password-free mode: otherwise any program of
+# the user's could bypass Tor unnoticed while the kill switch is reported as on.
 linux_launch() {
   local words
   parse_options " --uid --app " "$@"

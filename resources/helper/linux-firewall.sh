@@ -1,40 +1,38 @@
 
 # ---- Linux: firewall ---------------------------------------------------------------------------------------
-# One table of our own, replaced as a whole in one transaction, so that there is no moment without rules.
+# The helper has one table, replaced as a whole in one transaction, so that there is no moment without rules.
 
 readonly TABLE=veldmark
-readonly RULES=$RUN/firewall.nft   # 0600; the rules in force, for putting them back when somebody flushed them
-readonly LISTED=$RUN/firewall.listed       # 0600; the same as the kernel lists them
-readonly RULES_LOCK=/run/veldmark.rules    # whoever changes the rules holds it; the watcher has no other lock
+readonly RULES=$RUN/firewall.nft   # 0600; the rules in force, to load them again after a flush
+readonly LISTED=$RUN/firewall.listed       # 0600; the rules as the kernel lists them
+readonly RULES_LOCK=/run/veldmark.rules    # held while rules change; the watcher has no other lock
 
-# The local network is these ranges and never what a route says: a hostile network that announces public
-# addresses as its own gains nothing.
+# The local network is these ranges, whatever the routes say. A hostile network that announces public addresses as its own gains nothing.
 readonly LAN4="192.168.0.0/16, 10.0.0.0/8, 172.16.0.0/12, 169.254.0.0/16"
 readonly LAN6="fe80::/10, fc00::/7"
 
-# print_table_head: replaces whatever table of ours there is. The first line is there so that the second succeeds.
+# print_table_head: replaces the helper's table. The first line makes the second one succeed without a table.
 print_table_head() {
   printf 'table inet %s\ndelete table inet %s\ntable inet %s {\n' "$TABLE" "$TABLE" "$TABLE"
 }
 
-# tors_key TOR_UID: what a packet of Tor's is known by. The account alone would do for whoever finds a file that Tor's account
-# has left with the setuid bit on; into the group comes nobody. Where there are no such groups it is the account alone.
+# tors_key TOR_UID: the match for Tor's packets. The account alone would also match a user who runs a setuid file left by Tor's account;
+# only root can put processes into the group. Without such groups the account alone is the match.
 tors_key() {
   [[ -z $TOR_PATH ]] || printf 'socket cgroupv2 level 2 "%s" ' "$TOR_PATH"
   printf 'meta skuid %s' "$1"
 }
 
-# print_exempt GROUP: lets out what applications that are started without Tor send of their own accord; what they answer could go to any
-# sender that somebody on this computer has made up. Nothing when GROUP is empty.
+# print_exempt GROUP: accepts the connections that bypass applications open. Their replies are not accepted: a local process could forge the
+# sender and direct a reply to any address. Prints nothing when GROUP is empty.
 print_exempt() {
   [[ -z $1 ]] || printf '\t\tsocket cgroupv2 level 1 "%s" ct direction original accept\n' "$1"
 }
 
-# print_redirect TOR_UID GROUP KEEP LAN: every look-up over UDP goes to Tor, whichever server it was meant for. A redirected
-# packet of a socket that is bound to a network device would leave by that device, so the last chain, which sees
-# the true device, keeps what is meant for this computer on this computer. It asks first what is cheapest to know: only
-# a redirected packet can have come past the output chain on such a way. KEEP is the mode: in strict mode what others
-# redirect stays here as well, unless LAN is 1 and it goes to the local network.
+# print_redirect TOR_UID GROUP KEEP LAN: redirects every DNS lookup over UDP to Tor, whatever its server. A redirected packet of a socket
+# that is bound to a network device would leave by that device. So the last chain, which sees the true device, keeps packets for this
+# computer on it. Its first match is cheap: only a redirected packet can have passed the output chain that way. KEEP is the mode: in strict
+# mode the chain also keeps what other programs' rules redirect, unless LAN is 1 and it goes to the local network.
 print_redirect() {
   print_text <<END
 	chain redirect_dns {
@@ -50,8 +48,8 @@ END
 		ip6 daddr ::1 oif != "lo" drop
 END
   if [[ $3 == strict ]]; then
-    # A port mapping of somebody else's, from an address of this computer's to one outside: the output chain has seen a packet
-    # that stays here, and this is where it shows that it leaves.
+    # Another program may map a port from an address of this computer to one outside. The output chain sees such a packet as local; only
+    # here it is seen to leave.
     printf '\t\toif "lo" accept\n'
     [[ $4 != 1 ]] || print_text <<END
 		meta l4proto { tcp, udp } th dport { 53, 137, 138, 139, 853, 5353, 5355 } drop
@@ -69,22 +67,22 @@ END
 END
 }
 
-# print_side_chains TOR_UID USER_UID GROUP: where the output chain sends what needs a closer look.
-# loopback: what stays on this computer. Only packets that open a connection, or answer that, are looked at more closely: later ones
-# may belong to a socket that its program has closed already.
-# from_loopback, look_ups: who has got a socket beside Tor's at the port for look-ups gets none: here it shows whose socket a datagram
-# would reach. One too short for its own header (12 bytes after the 8 of UDP) ends some versions of Tor. It is refused, so that
-# applications fail at once where Tor is away.
-# looked_up: nor does anybody but Tor answer from there.
-# opening: Tor's own connections to its transports are remembered; whoever has the same ports later is somebody else. Nobody opens one
-# from Tor's ports: two openings that meet are a connection, so a false listener would not have to answer.
+# print_side_chains TOR_UID USER_UID GROUP: the chains for packets that the output and input chains examine further.
+# loopback: packets that stay on this computer. Only packets that open a connection, or answer an opening, are examined: later ones may
+# belong to a socket that its program has already closed.
+# from_loopback, look_ups: a socket that shares the DNS port with Tor's receives no datagram: on input the rule sees which socket a datagram
+# would reach. This needs Tor's group. A datagram shorter than a DNS header (12 bytes after the 8 of UDP) ends some versions of Tor, so it
+# is dropped. Other lookups that do not reach Tor are refused, so that applications fail at once when Tor is not running.
+# looked_up: only Tor answers from its DNS port.
+# opening: remembers Tor's own connections to its transports; a later socket with the same ports is not Tor's. No program may open a
+# connection from Tor's ports: two simultaneous openings make a connection, so a false listener would not need to answer.
 # control_port: only root, the session's user and Tor may open Tor's control port.
-# answering: nobody but Tor answers at Tor's ports, else a false listener gets the control password and what others ask while Tor is
-# away. And a transport answers Tor alone, else everybody could use it as a tunnel to a server of their own, from the real
-# address. At [::1], which "localhost" means as well, Tor itself does not listen. An answer of a flooded listener (a SYN cookie) belongs to no socket and passes for nobody's.
-# redirected: what is meant for this computer, but was on its way out until its address was changed; after that the packet still
-# carries the device that it was to leave by.
-# refused: so that applications fail at once.
+# answering: only Tor answers at Tor's ports. Otherwise a false listener would get the control password and the applications' requests while
+# Tor is not running. A transport answers only Tor. Otherwise any user could use it as a tunnel to their own server, from the real address.
+# Tor does not listen at [::1], which "localhost" means as well. The answer of a flooded listener (a SYN cookie) belongs to no socket, so it
+# is refused.
+# redirected: packets for this computer that were to leave it before their address was changed; they still carry that device.
+# refused: rejects, so that applications fail at once.
 print_side_chains() {
   local users="0, $1" ports="ip saddr 127.0.0.1 tcp sport { $SOCKS_PORT, $CONTROL_PORT }"
   local beside="ip6 saddr ::1 tcp sport { $SOCKS_PORT, $CONTROL_PORT }"
@@ -155,9 +153,9 @@ END
 END
 }
 
-# print_proxy_rules TOR_UID USER_UID: everything may leave, but names are looked up through Tor. What could not be
-# redirected (connections older than the rules, DNS over TCP or TLS) is refused. What is bound to this computer's own address is
-# reached from this computer alone, also where route_localnet is on.
+# print_proxy_rules TOR_UID USER_UID: all traffic may leave, but DNS lookups go through Tor. DNS that cannot be redirected (connections
+# older than the rules, DNS over TCP or TLS) is refused. Services at 127.0.0.0/8 and ::1 are reached from this computer only, even with
+# route_localnet on.
 print_proxy_rules() {
   print_table_head
   print_redirect "$1" '' proxy 0
@@ -181,8 +179,8 @@ print_proxy_rules() {
 END
 }
 
-# print_local_chains: the local network but for names, whoever answers them. `th` is the header of the protocol that the
-# rule before has settled.
+# print_local_chains: accepts the local network except name lookups and their answers. `th` is the header of the protocol that the rule
+# before has matched.
 print_local_chains() {
   print_text <<END
 	chain local_network {
@@ -198,30 +196,27 @@ print_local_chains() {
 END
 }
 
-# print_local_matches: one rule for each range. A packet's way past them costs less than one look into a set of ranges.
+# print_local_matches: one rule for each range. Passing them costs a packet less than one lookup in a set of ranges.
 print_local_matches() {
   local range
   for range in ${LAN4//,/}; do printf '\t\tip daddr %s goto local_network\n' "$range"; done
   for range in ${LAN6//,/}; do printf '\t\tip6 daddr %s goto local_network\n' "$range"; done
 }
 
-# print_strict_rules TOR_UID USER_UID LAN UDP SERVERS4 SERVERS6 GROUP NEAR BRIDGES4 BRIDGES6: nothing leaves but Tor's own traffic.
-# LAN 1 opens the local network; UDP 1 lets Tor's account send UDP (snowflake); SERVERS4 and SERVERS6 are the
-# resolvers, joined by commas, that Tor's transports may ask, usually none; GROUP is the control group of the
-# applications without Tor, empty for none; NEAR 1 lets Tor reach the local network, where one of its bridges is.
-# BRIDGES4 and BRIDGES6 are the bridges, "ADDRESS . PORT" joined by commas, where Tor needs nothing else: then whoever has taken Tor or
-# its control password over reaches nothing else either.
-# What Tor and its transports answer does not leave: anybody can ask with a sender elsewhere (IPV6_FREEBIND).
-# Only positive matches on the account: a packet without a socket matches neither "skuid X" nor "skuid != X".
-# What comes in for this computer's own address does so where route_localnet is on, and would reach Tor's ports from the
-# local network.
-# No "established" on output: connections from before the kill switch must not go on. Nor is Tor's traffic kept from
-# connection tracking, which would be cheaper: firewalls of other people's that let answers in by their state would
-# drop what is not tracked.
-# Addresses are asked for by root or an account of the system's (below 1000), also where the ports below 1024 are open to everybody.
-# neighbours: the kernel's own packets belong to nobody; what a program makes up is no neighbour discovery, it could go anywhere.
-# The order is by how many packets take the way; each expression that a packet passes costs it some 10 ns, and asking
-# for its account some 80, so that is asked once.
+# print_strict_rules TOR_UID USER_UID LAN UDP SERVERS4 SERVERS6 GROUP NEAR BRIDGES4 BRIDGES6: only Tor's own traffic leaves. LAN 1 opens the
+# local network. UDP 1 lets Tor's account send UDP (snowflake). SERVERS4 and SERVERS6 are the resolvers, joined by commas, that Tor's
+# transports may ask, usually none. GROUP is the control group of the applications that bypass Tor, empty for none. NEAR 1 lets Tor reach
+# the local network, where one of its bridges is. BRIDGES4 and BRIDGES6 are the bridges, "ADDRESS . PORT" joined by commas, if Tor needs no
+# other address: then an attacker who controls Tor or its control password reaches no other address either.
+# Replies of Tor and its transports do not leave: a local process could ask with a forged sender outside (IPV6_FREEBIND).
+# The rules match accounts only positively: a packet without a socket matches neither "skuid X" nor "skuid != X".
+# With route_localnet on, packets for 127.0.0.0/8 come in from the local network and would reach Tor's ports.
+# There is no "established" on output: connections from before the kill switch must not go on. Tor's traffic stays under connection
+# tracking, although leaving it out would be cheaper: other firewalls that accept answers by their state would drop untracked packets.
+# Only root and system accounts (below 1000) may send DHCP requests, even where every user may bind ports below 1024.
+# neighbours: the kernel's own packets belong to no account; a packet that a program makes is no neighbour discovery and could go anywhere.
+# The rules are ordered by the number of packets that reach them. Each expression costs a packet about 10 ns, and a match on the account
+# about 80 ns, so that is matched once.
 print_strict_rules() {
   print_table_head
   print_redirect "$1" "${7-}" strict "$3"
@@ -238,7 +233,7 @@ END
     [[ -z $5 ]] || printf '\t\tip daddr { %s } udp dport 53 accept\n' "$5"
     [[ -z $6 ]] || printf '\t\tip6 daddr { %s } udp dport 53 accept\n' "$6"
     if [[ $3 != 1 && ${8-} != 1 ]]; then
-      # Whoever has taken Tor over gets no further than anybody else. An opening packet is enough to look at.
+      # An attacker who controls Tor does not reach the local network either. Matching the opening packet is enough.
       print_text <<END
 		tcp flags & syn == 0 accept
 		ip daddr { $LAN4 } goto refused
@@ -248,7 +243,7 @@ END
     printf '\t\tmeta l4proto tcp accept\n'
     [[ $4 != 1 ]] || printf '\t\tmeta l4proto udp accept\n'
   fi
-  # Its account is one of the system's: what is for those alone is not for Tor.
+  # Tor's account is a system account, but the rules below for system accounts are not for Tor.
   [[ $3 == 1 ]] || printf '\t\tgoto refused\n'
   print_text <<END
 	}
@@ -305,7 +300,8 @@ END
   printf '\t}\n}\n'
 }
 
-# kill_switch_stands: asks the kernel; the marker alone may be from before a restart of the computer. Status 2 when it cannot be told.
+# kill_switch_stands: asks the kernel, since the marker may be older than the computer's last start. Status 2 when the kernel cannot be
+# asked.
 kill_switch_stands() {
   local output
   if output=$(nft_without_groups list chain inet "$TABLE" output 2>&1); then
@@ -317,26 +313,26 @@ kill_switch_stands() {
   fi
 }
 
-# check_firewall: the system's firewall can be used at all, which is to be known before anything is changed.
+# check_firewall: checks that the system's firewall can be used, before anything is changed.
 check_firewall() {
   local output
   output=$(nft list tables 2>&1) || die "The system's firewall cannot be used ($(first_line "$output"))."
 }
 
-# first_line TEXT: of what a program said, for a message of ours.
+# first_line TEXT: the first line of a program's output, for a message of the helper.
 first_line() {
   local line=${1%%$'\n'*}
   line=${line//[[:cntrl:]]/ }
   printf '%s' "${line:-nft ended without a message}"
 }
 
-# load_rules TEXT: all of it or nothing; the former rules stay when it fails.
+# load_rules TEXT: loads all of it or nothing; the former rules stay after a failure.
 load_rules() {
   local output
   output=$(nft -f - 2>&1 <<<"$1") || die "The firewall rules were not accepted ($(first_line "$output"))."
 }
 
-# put_firewall MODE: keeps the text first, so that the rules can be put back by fix-dns.
+# put_firewall MODE: stores the text first, so that fix-dns can load the rules again.
 put_firewall() {
   local text udp=0 near=0 servers4='' servers6=''
   ready_groups
@@ -357,22 +353,22 @@ put_firewall() {
   note_listing || die "The file $LISTED cannot be written."
 }
 
-# hold_rules / release_rules: descriptor 7. The programs started meanwhile keep the lock also when this shell is killed.
+# hold_rules / release_rules: the lock on descriptor 7. Programs started meanwhile keep the lock even when this shell is killed.
 hold_rules() { { exec 7>>"$RULES_LOCK"; } && flock -w 10 7; }
 release_rules() { exec 7>&-; }
 
-# note_listing: what the watcher compares with. keep_listing: the listing that was read.
+# note_listing: stores the listing that the watcher compares with. keep_listing: stores the listing that was read.
 note_listing() { read_listing "$TABLE" && keep_listing; }
 keep_listing() { write_file "$LISTED" 0600 root "$LISTING"$'\n'; }
 
-# nft_without_groups WORD...: lists without names of control groups. To find the name of one, nft looks at all that there are, and any user may
-# make so many that this takes minutes. In a mount namespace where it sees none, it prints their numbers.
+# nft_without_groups WORD...: lists without names of control groups. To find a name, nft searches all groups, and any user may make so many
+# that this takes minutes. In a mount namespace without groups nft prints their numbers.
 # shellcheck disable=SC2016,SC2089
 readonly WITHOUT_GROUPS='mount -t tmpfs none /sys/fs/cgroup && exec nft "$@"'
 nft_without_groups() { unshare --mount --propagation private sh -c "$WITHOUT_GROUPS" nft "$@"; }
 
-# read_listing TABLE: sets LISTING to how the kernel tells it, without counters, without what a set has taken up meanwhile, and
-# without blanks, which not every nft puts in the same places.
+# read_listing TABLE: sets LISTING to the kernel's listing, without counters, without elements that a set has added meanwhile, and without
+# blanks, which differ between versions of nft.
 LISTING=''
 read_listing() {
   LISTING=$(nft_without_groups -s -t list table inet "$1") || return 1
@@ -381,10 +377,10 @@ read_listing() {
 
 undo_firewall() {
   local output
-  # Held to the end of the run, when the marker has gone as well.
+  # Held until the end of the run, when the marker is gone, too.
   hold_rules || { UNDONE="The firewall could not be opened, because somebody is changing it."; return 1; }
   output=$(nft delete table inet "$TABLE" 2>&1) && return 0
-  # Not being there is what was wanted.
+  # A missing table is what was wanted.
   [[ $output == *"No such file or directory"* ]] && return 0
   UNDONE="The firewall could not be opened ($(first_line "$output"))."
   return 1

@@ -1,19 +1,19 @@
 
-# ---- Linux: control groups of root's -----------------------------------------------------------------------
-# What is started from a desktop stays in a control group that its user may freeze and kill. So each run of the helper leaves it
-# for one of ours, and with it the watcher and Tor. Tor has one of its own besides: to be in it, which is root's to say, and to run as
-# Tor's account is together the key to the firewall. Nobody but root puts processes into any of them.
+# ---- Linux: the helper's control groups --------------------------------------------------------------------
+# A program started from a desktop stays in a control group that its user may freeze and kill. So each run of the helper moves to the
+# helper's own group, and the watcher and Tor with it. Tor has a group of its own below that: the firewall recognises Tor by this group
+# together with Tor's account. Only root can put processes into these groups.
 
-readonly CGROUPS=/sys/fs/cgroup   # below it nft looks for a group by name
-readonly RUN_GROUP=veldmark       # the helper's runs and the watcher
-readonly TOR_GROUP=veldmark/tor   # Tor and its transports
+readonly CGROUPS=/sys/fs/cgroup   # nft looks for a group's name below it
+readonly RUN_GROUP=veldmark       # for the helper's runs and the watcher
+readonly TOR_GROUP=veldmark/tor   # for Tor and its transports
 readonly MOVE_ROUNDS=50           # processes may fork while they are moved out
 
-TREE=''       # where the groups are mounted; empty where the system has none of version 2
-TOR_PATH=''   # Tor's group below $CGROUPS; empty where the rules cannot name it: then the account alone is the key
-HOME_GROUP='' # the folder of the group that the caller has started us in
+TREE=''       # where the groups are mounted; empty on a system without cgroup v2
+TOR_PATH=''   # Tor's group below $CGROUPS; empty when the rules cannot name it: then they match the account alone
+HOME_GROUP='' # the folder of the group in which the caller started this run
 
-# find_tree: sets TREE. The tree's own root must be mounted, so that our groups are of the first level.
+# find_tree: sets TREE. The tree's own root must be mounted, so that the helper's groups are of the first level.
 find_tree() {
   local text line root point
   TREE=''
@@ -27,22 +27,22 @@ find_tree() {
   [[ -n $TREE ]]
 }
 
-# make_group NAME: unless it is there.
+# make_group NAME: makes the group if it is missing.
 make_group() {
   find_tree || return 1
   [[ -d $TREE/$1 ]] || mkdir -m 0755 -- "$TREE/$1"
 }
 
-# make_groups: all that rules may name.
+# make_groups: makes all groups that the rules may name.
 make_groups() {
   local name
   for name in "$RUN_GROUP" "$TOR_GROUP" "$EXEMPT_NAME"; do make_group "$name" || true; done
 }
 
-# enter_group FOLDER: the shell that runs this, and what it starts from then on.
+# enter_group FOLDER: moves the shell that runs this, and so the programs that it starts later.
 enter_group() { printf '0\n' >"$1/cgroup.procs"; }
 
-# own_group: prints the folder of the group that this run is in; the tree's root when that is one of ours.
+# own_group: prints the folder of this run's group; the tree's root when the group is one of the helper's.
 own_group() {
   local line path=/
   while IFS= read -r line; do
@@ -52,13 +52,13 @@ own_group() {
   printf '%s' "$TREE$path"
 }
 
-# leave_caller: before the lock is taken, so that nobody but root can make us stop while we have it. Another run that ends just
-# now may remove the group between two of these steps. Nor does the caller say on which processors we run, how we share them and the disk, how late our
-# timers may be and who dies first when memory is short.
+# leave_caller: called before the lock is taken, so that only root can stop this run while it holds the lock. Another run that ends at the
+# same time may remove the group between two of these steps. It also resets what the caller may have set: processors, shares of processor
+# and disk, timer slack, and the priority when memory runs out.
 leave_caller() {
   local round
   printf '0\n' >/proc/self/oom_score_adj || true
-  printf '50000\n' >/proc/self/timerslack_ns || true   # nanoseconds, as the kernel begins with
+  printf '50000\n' >/proc/self/timerslack_ns || true   # nanoseconds, the kernel's default
   { chrt --other --pid 0 "$$" && renice -n 0 -p "$$" && ionice --class none --pid "$$"; } >/dev/null || true
   taskset --cpu-list --pid "$(</sys/devices/system/cpu/possible)" "$$" >/dev/null || true
   find_tree || return 0
@@ -70,15 +70,15 @@ leave_caller() {
   done
 }
 
-# end_run: the last of a run that leaves no session. The locks go before we return to the caller's group, where the caller may stop us
-# for as long as they like. Tor's group goes while we have ours: it may be the next session's afterwards.
+# end_run: the last step of a run that leaves no session. The locks are released before this run returns to the caller's group, where the
+# caller may stop it for any time. Tor's group is removed while the lock is held: afterwards it may be the next session's.
 end_run() {
   local round
   [[ -n $TREE && ! -e $MARKER ]] || return 0
   [[ -z $HAS_LOCK ]] || rmdir -- "$TREE/$TOR_GROUP" || true
   exec 7>&- 9>&-
   enter_group "${HOME_GROUP:-$TREE}" || enter_group "$TREE" || true
-  # What we have started and not waited for is still in there; another run removes the group itself.
+  # Child processes that were not waited for are still in the group; otherwise another run removes it.
   for ((round = 0; round < MOVE_ROUNDS; round++)); do
     ! rmdir -- "$TREE/$RUN_GROUP" || return 0
     read_children "$$"
@@ -87,8 +87,8 @@ end_run() {
   done
 } 2>/dev/null
 
-# rules_can_name PATH LEVEL: whether the kernel finds the group of a socket. Before 5.13 none does; in a container, where the tree
-# begins in the middle of another, none counts the levels right before 6.12.
+# rules_can_name PATH LEVEL: whether the kernel finds the group of a socket. No kernel before 5.13 does. In a container, whose tree begins
+# below the root of another one, no kernel before 6.12 counts the levels correctly.
 rules_can_name() {
   local major minor rest
   if [[ $(stat -L -c %i -- /proc/self/ns/cgroup) != 4026531835 ]]; then

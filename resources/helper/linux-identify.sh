@@ -1,18 +1,18 @@
 
 # ---- Linux: an identity for each application ---------------------------------------------------------------
-# Tor keeps connections of different addresses on different circuits. So a table of its own gives what opens a connection to Tor's
-# SOCKS port a source address within 127.0.0.0/8: by the control group that the desktop has made for an application, else by the
-# login session, else by the account. It lets nothing out and in: the kill switch is another table, which does not know of it. The
-# program veldmark-identify loads it, sees groups come and go, and keeps its maps; it has given up root before it reads their names.
+# Tor keeps connections from different addresses on different circuits. So a separate table gives each connection to Tor's SOCKS port a
+# source address within 127.0.0.0/8: by the control group that the desktop has made for the application, else by the login session, else by
+# the account. This table accepts and blocks nothing; the kill switch is another table and independent of it. The program veldmark-identify
+# loads the table, follows new and removed groups, and keeps its maps. It gives up root before it reads their names.
 
 readonly IDENTIFIER_ENTRY=17-identifier
 readonly IDENTITIES_ENTRY=16-identities
 readonly IDENTITIES=veldmark-identities
-readonly IDENTITIES_STATE=/run/veldmark.identities   # 0644; what veldmark-identify tells everybody
-readonly IDENTIFY_SOCKET=/run/veldmark.identify      # 0666; where it takes wishes for another address
+readonly IDENTITIES_STATE=/run/veldmark.identities   # 0644; the state that veldmark-identify publishes
+readonly IDENTIFY_SOCKET=/run/veldmark.identify      # 0666; takes requests for another address
 
-# print_identities UID...: the accounts' addresses are 127.64.0.0 and their number; of those that have none, and of an application that
-# is seen too late, the connection keeps 127.0.0.1. Whoever chooses a source address does not choose an identity by it.
+# print_identities UID...: an account's address is 127.64.0.0 plus its number. A connection keeps 127.0.0.1 when its account has no address,
+# or when its application is seen too late. A program that binds another source address does not choose an identity by it.
 print_identities() {
   local uid mark accounts='' addresses=''
   for uid in "$@"; do
@@ -57,7 +57,7 @@ table inet $IDENTITIES {
 END
 }
 
-# list_accounts: the numbers of this system's accounts, as far as they have an address.
+# list_accounts: the numbers of this system's accounts that can have an address.
 list_accounts() {
   local rest uid seen=' '
   while IFS=: read -r rest rest uid rest; do
@@ -67,8 +67,8 @@ list_accounts() {
   printf '%s' "${seen# }"
 }
 
-# find_identifier: sets IDENTIFIER to the program, free of links, which only root can change. Users' copies do not run: it has a right
-# of root's.
+# find_identifier: sets IDENTIFIER to the program's path without links, which only root can change. A user's copy must not run: the program
+# gets a right of root's.
 IDENTIFIER=''
 find_identifier() {
   local path
@@ -84,8 +84,8 @@ launch_identifier() {
   exec env -i --default-signal PATH="$PATH" LC_ALL=C setsid "$IDENTIFIER" "$TREE" "$IDENTITIES_STATE" "$IDENTIFY_SOCKET" "$1"
 }
 
-# separate_applications: for a session that begins, or in which the program has been ended. Where the system cannot do it nothing is
-# changed, and all connections share what they shared before.
+# separate_applications: for a session that begins, or whose identifier has ended. A system that cannot do it stays unchanged, and all
+# connections share circuits as before.
 separate_applications() {
   local accounts nft text
   undo_entry "$IDENTIFIER_ENTRY" || return 0
@@ -99,13 +99,13 @@ separate_applications() {
   launch_identifier "$nft" <<<"$text" >/dev/null 2>&1 &
 }
 
-# own_group_name: a group that is there, below the place where nft looks.
+# own_group_name: an existing group, below the folder where nft looks.
 own_group_name() {
   local path=$TREE/$RUN_GROUP
   printf '%s' "${path#"$CGROUPS"/}"
 }
 
-# kill_stray_identifier: without a record, whatever runs under that name in the helper's own group, where only root puts processes.
+# kill_stray_identifier: without a record, kills every process with that name in the helper's own group, where only root puts processes.
 kill_stray_identifier() {
   local pid word
   find_tree || return 0
@@ -116,7 +116,7 @@ kill_stray_identifier() {
   done <"$TREE/$RUN_GROUP/cgroup.procs" || true
 }
 
-# identifier_runs: whether the program of the journal is alive.
+# identifier_runs: whether the process in the journal is alive.
 identifier_runs() { journal_read "$IDENTIFIER_ENTRY" && find_recorded; }
 
 undo_identifier() {

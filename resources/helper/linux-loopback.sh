@@ -1,15 +1,15 @@
 
 # ---- Linux: the loopback device ----------------------------------------------------------------------------
-# A datagram that is sent with UDP_SEGMENT crosses the loopback device whole, and becomes many short ones where no rule sees them; look-ups
-# that are too short end some versions of Tor. Without this feature of the device the kernel cuts it before, and the rules see each. Where
-# ethtool is missing the device stays as it is.
+# A datagram sent with UDP_SEGMENT crosses the loopback device in one piece and is split afterwards, where no rule sees the parts. A DNS
+# lookup that is too short ends some versions of Tor. Without this device feature the kernel splits the datagram before, and the rules see
+# each part. Without ethtool the device stays unchanged.
 
 readonly LOOPBACK_ENTRY=13-loopback
 readonly LATE_CUT=tx-udp-segmentation
 
 ask_ethtool() { timeout -k 1 5 ethtool "$@" </dev/null; }
 
-# put_loopback: fails where the device keeps the feature.
+# put_loopback: fails when the device keeps the feature.
 put_loopback() {
   local features
   command -v ethtool >/dev/null || return 0

@@ -1,30 +1,30 @@
 
 # ---- Linux: other firewalls --------------------------------------------------------------------------------
-# Rules of others can keep Tor from going out, and only root can read them. What a connect finds, and the watcher of a strict session
-# after each change, is noted for the application, which names it when Tor gets nowhere. Nothing of theirs is changed.
+# Other firewalls' rules can keep Tor from going out, and only root can read them. A connect, and the watcher of a strict session after each
+# change, note what they find. The application names it when Tor gets nowhere. The helper never changes these rules.
 
 readonly OTHERS_NOTE=/run/veldmark.others   # 0644; a name per line: ufw, firewalld, or "table FAMILY NAME"
 
-# What stands before a verdict and holds for all that Tor opens.
+# The matches before a verdict that hold for all connections that Tor opens.
 # shellcheck disable=SC2089
 readonly ALWAYS='^(counter( packets [0-9]+ bytes [0-9]+)?|oif(name)? != "lo"|ct state new|meta l4proto tcp|ip protocol tcp|meta nfproto ipv4|log( (prefix|level|flags|group|snaplen) ("[^"]*"|[a-z0-9]+))*) (.+)$'
 
 CHAINS=() CHAIN_RULES=()   # "FAMILY TABLE CHAIN", and its rules without a condition, one per line
 
-# read_chains: reads a listing of the rules from standard input, but for our own table.
+# read_chains: reads a listing of the rules from standard input, except the helper's own table.
 read_chains() {
   local line family='' table='' count=0
   CHAINS=() CHAIN_RULES=()
   while IFS= read -r line; do
     line=${line#"${line%%[!$'\t ']*}"}
     if [[ $line == "table "* ]]; then
-      table=''   # what follows is passed over, our own as well
+      table=''   # skip what follows, also in the helper's own table
       [[ $line == "table inet $TABLE {"* || ! $line =~ ^table\ (ip|inet)\ ([A-Za-z0-9_./-]+)\ \{ ]] ||
         family=${BASH_REMATCH[1]} table=${BASH_REMATCH[2]}
     elif [[ -z $table ]]; then
       continue
     elif [[ $line == "flags "*dormant* ]]; then
-      table=''   # takes no part in anything
+      table=''   # a dormant table has no effect
     elif [[ $line =~ ^chain\ ([A-Za-z0-9_./-]+)\ \{ ]]; then
       CHAINS[count]="$family $table ${BASH_REMATCH[1]}" CHAIN_RULES[count]=''
       count=$((count + 1))
@@ -39,8 +39,8 @@ read_chains() {
   done
 }
 
-# judge_chain "FAMILY TABLE" CHAIN DEPTH: sets JUDGED to what becomes of a packet that no condition of a rule holds for: deny,
-# accept, or nothing when the chain does not say. The kernel allows sixteen chains one within another.
+# judge_chain "FAMILY TABLE" CHAIN DEPTH: sets JUDGED to the verdict on a packet that matches no rule with a condition: deny, accept, or
+# nothing when the chain gives none. The kernel allows sixteen nested chains.
 judge_chain() {
   local rules='' policy='' line i
   JUDGED=''
@@ -64,7 +64,7 @@ judge_chain() {
   JUDGED=${JUDGED:-$policy}
 }
 
-# name_others: prints who denies what goes out, by the listing that was read.
+# name_others: prints the firewalls that deny outgoing traffic, from the listing that was read.
 name_others() {
   local i place chain named=$'\n' name
   for ((i = 0; i < ${#CHAINS[@]}; i++)); do
@@ -81,7 +81,7 @@ name_others() {
   done
 }
 
-# note_others: what cannot be read is not told.
+# note_others: when the rules cannot be read, no firewall is named.
 note_others() {
   local names
   read_chains < <(timeout -k 1 5 unshare --mount --propagation private sh -c "$WITHOUT_GROUPS" nft -s -t list ruleset)

@@ -1,13 +1,12 @@
 
-# ---- Linux: whose session it is ----------------------------------------------------------------------------
-# Beside the marker stands who made the session: the user, and the program that asked for it, while that program is one of
-# Veldmark's own. Everybody may read it, so that every instance on the computer can tell a session that somebody is using
-# from one that was left over.
+# ---- Linux: the session's owner ----------------------------------------------------------------------------
+# Beside the marker the helper notes the session's owner: the user, and the program that asked for the session if it is one of Veldmark's.
+# The file is readable for all users, so that every instance on the computer can tell a session in use from a left-over one.
 
 readonly OWNER=$STATE/owner   # 0644; lines "uid UID", "pid PID", "start TICKS", "boot ID", "end"; the middle three may be missing
 
-# asking_process: prints the process id of Veldmark's program that had this run started, directly or by sudo or pkexec; nothing
-# when it was anybody else, as a person at a shell. A program that only has the name harms nobody but its own user.
+# asking_process: prints the process id of Veldmark's program that started this run, directly or by sudo or pkexec; nothing for any other
+# caller, such as a shell. A program that only has the name can harm only its own user.
 asking_process() {
   local pid=$PPID step key value name parent
   for ((step = 0; step < 5; step++)); do
@@ -26,7 +25,7 @@ asking_process() {
   done
 }
 
-# note_owner: before the marker, so that there is never a session whose owner is not known.
+# note_owner: called before the marker is written, so that no session is without an owner.
 note_owner() {
   local pid text="uid $CALLER_UID"
   pid=$(asking_process)
@@ -37,7 +36,7 @@ note_owner() {
   write_file "$OWNER" 0644 root "$text"$'\nend\n' || die "The file $OWNER cannot be written."
 }
 
-# live_owner: sets OWNER_UID and OWNER_PID to the user and the program of the session, while the program that asked for it runs; 1 when it does not.
+# live_owner: sets OWNER_UID and OWNER_PID to the session's user and program while the program that asked for it runs; otherwise status 1.
 OWNER_UID='' OWNER_PID=''
 live_owner() {
   OWNER_UID='' OWNER_PID=''
@@ -46,7 +45,7 @@ live_owner() {
   OWNER_UID=$(journal_value uid) && is_uid "$OWNER_UID"
 }
 
-# spare_others: a session that another user is using is ended, or replaced, only where an administrator approves that very run.
+# spare_others: another user's session in use is ended, or replaced, only when an administrator approves that very run.
 spare_others() {
   local name
   [[ -z $PROMPTED ]] && safe_folders && live_owner && [[ $OWNER_UID != "$CALLER_UID" ]] || return 0
@@ -54,7 +53,7 @@ spare_others() {
   die "Veldmark is in use by ${name%%:*}. An administrator password is needed to end that session."
 }
 
-# spare_unmeant: who asks may name the program whose session is to be ended. Another program's is left alone: it has come since.
+# spare_unmeant: the caller may name the program whose session is to be ended. A session of another program is newer and is left alone.
 spare_unmeant() {
   [[ -n $OPT_PROCESS ]] && safe_folders && live_owner && [[ $OWNER_PID != "$OPT_PROCESS" ]] || return 0
   die "Another program (process $OWNER_PID) has begun a session since. It was left alone."

@@ -1,18 +1,18 @@
 
 # ---- Linux: system proxy -----------------------------------------------------------------------------------
-# GNOME's settings and KDE's kioslaverc, whichever the session's user has. Everything is done as that user, in
-# bounded time; what those programs print is data that goes back to them and nowhere else.
+# GNOME's settings and KDE's kioslaverc, whichever the session's user has. All of it runs as that user, with time limits. The output of
+# those programs is data that is only given back to them.
 
 readonly GNOME_ENTRY=40-gnome
 readonly KDE_ENTRY=50-kde
-readonly ANSWER=$RUN/answer   # 0600; what a program of the user's printed
+readonly ANSWER=$RUN/answer   # 0600; the output of a user's program
 readonly ANSWER_BYTES=262144
-readonly SESSION_SECONDS=5    # a script that runs a program or two, and each program of a longer one
-readonly SESSION_LIMIT=15     # a script that runs a program for each setting; less than others wait for the lock
-readonly MAX_SETTING=65536    # bytes; a longer one could not be handed back in an argument
+readonly SESSION_SECONDS=5    # for a script that runs one or two programs, and for each program of a longer one
+readonly SESSION_LIMIT=15     # for a script that runs a program for each setting; shorter than the wait for the lock
+readonly MAX_SETTING=65536    # bytes; a longer setting could not be passed back in an argument
 
-# The user's own exceptions would go past Tor, so only this computer itself is excepted, and with LAN 1 the local
-# network. The first line is the one that switches the rest on.
+# The user's own exceptions would go around Tor, so the only exceptions are this computer itself and, with LAN 1, the local network. The
+# first line is the one that switches the proxy on.
 # print_gnome_values LAN: "SCHEMA KEY VALUE" lines.
 print_gnome_values() {
   local lan=''
@@ -43,19 +43,19 @@ ReversedException=false
 END
 }
 
-# Scripts for sh that run as the user. Status 3: this user has no such desktop.
+# Scripts for sh that run as the user. Status 3: the user has no such desktop.
 # shellcheck disable=SC2016
 readonly GNOME_READ='
 [ -S "$XDG_RUNTIME_DIR/bus" ] && command -v gsettings >/dev/null || exit 3
 [ "$(gsettings writable org.gnome.system.proxy mode)" = true ] || exit 3
 exec gsettings list-recursively org.gnome.system.proxy'
 
-# The beginning of scripts with many programs: one that hangs is given up as early as in a short script, and programs that are
-# only slow are not. Each stays in the group of processes that ends together.
+# The beginning of scripts with many programs. A program that hangs is ended as early as in a short script, while slow programs are not.
+# Each stays in the process group that is ended together.
 readonly IN_STEPS="
 step() { timeout --foreground -k 1 $SESSION_SECONDS \"\$@\"; }"
 
-# Arguments: "SCHEMA KEY VALUE" each. The mode comes last, when the rest is in place.
+# Arguments: "SCHEMA KEY VALUE" each. The mode is set last, when the other values are in place.
 # shellcheck disable=SC2016
 readonly GNOME_SET="$IN_STEPS"'
 for line; do
@@ -63,7 +63,7 @@ for line; do
   step gsettings set "$schema" "${line%% *}" "${line#* }" || exit 1
 done'
 
-# Back to not being set, unless that is another value than before. Works without a session of the user as well.
+# Resets each key, and sets it when its former value was not the default. Works without the user's session bus, too.
 # shellcheck disable=SC2016
 readonly GNOME_RESTORE="$IN_STEPS"'
 if [ ! -S "$XDG_RUNTIME_DIR/bus" ] && [ -z "$INNER" ]; then
@@ -96,7 +96,7 @@ else
   exit 3
 fi'
 
-# From standard input into the file, or with "absent" as the argument, the file away.
+# Writes standard input to the file, or removes the file when the argument is "absent".
 # shellcheck disable=SC2016
 readonly KDE_WRITE='
 file=$HOME/.config/kioslaverc
@@ -111,8 +111,8 @@ if [ -S "$XDG_RUNTIME_DIR/bus" ] && command -v dbus-send >/dev/null; then
   dbus-send --session --type=signal /KIO/Scheduler org.kde.KIO.Scheduler.reparseSlaveConfiguration string: || true
 fi'
 
-# as_session SCRIPT [ARGUMENT...]: runs it as the user of the session; what it prints goes to $ANSWER. No more than would be
-# read: else it could fill the disk. Whoever keeps the pipe open is not waited for.
+# as_session SCRIPT [ARGUMENT...]: runs it as the session's user; its output goes to $ANSWER, up to ANSWER_BYTES, so that it cannot fill the
+# disk. A program that keeps the pipe open is not waited for.
 as_session() {
   local script=$1 seconds=$SESSION_SECONDS
   shift
@@ -123,7 +123,7 @@ as_session() {
     take_output $((seconds + 2)) "$ANSWER_BYTES" >"$ANSWER"
 }
 
-# be_session_user UID: makes UID, of a journal entry, the one that as_session acts for.
+# be_session_user UID: makes the UID of a journal entry the user that as_session runs as.
 be_session_user() {
   is_uid "$1" && [[ $1 != 0 ]] || return 1
   CALLER_UID=$1 CALLER_NAME=''
@@ -131,10 +131,10 @@ be_session_user() {
   [[ -n $CALLER_NAME ]]
 }
 
-# put_proxy: in proxy mode a desktop whose proxy cannot be set is a failure, since nothing else protects there.
+# put_proxy: in proxy mode a desktop without a working proxy setting is a failure, since nothing else protects it.
 put_proxy() {
   local entry user=$CALLER_UID
-  # Settings of another user, from a session that is being replaced, go back first.
+  # Settings of another user, from a session that is being replaced, are restored first.
   for entry in "$GNOME_ENTRY" "$KDE_ENTRY"; do
     if journal_read "$entry" && [[ $(journal_value uid) != "$user" ]]; then
       undo_entry "$entry" || true
@@ -153,7 +153,7 @@ put_gnome() {
   as_session "$GNOME_READ" </dev/null || status=$?
   ((status != 3)) || return 0
   ((status == 0)) || return 1
-  # What is cut off, or cannot be handed back, is better left alone.
+  # An answer that is cut off or cannot be passed back is not used.
   [[ $(stat -c %s -- "$ANSWER") -lt $ANSWER_BYTES ]] || return 1
   while IFS= read -r line; do
     ((${#line} <= MAX_SETTING)) || return 1
@@ -177,7 +177,7 @@ undo_gnome() {
     [[ $line != "was "* ]] || was[${#was[@]}]=${line#was }
   done
   ((${#was[@]})) || return 0
-  # A user who is gone needs nothing back.
+  # A deleted user has no settings to restore.
   be_session_user "$(journal_value uid)" || return 0
   as_session "$GNOME_RESTORE" "${was[@]}" </dev/null && return 0
   UNDONE="The network is open again, but the desktop's proxy settings could not be put back."
@@ -201,7 +201,7 @@ print_kde_group() {
       ;;
     "["*) inside='' ;;
     esac
-    # A key may carry a flag, as in ProxyType[$e].
+    # A key may have a flag, as in ProxyType[$e].
     if [[ -n $inside && $line == *=* ]]; then
       local key=${line%%=*}
       [[ $keys != *" ${key%%\[*} "* ]] || continue
@@ -246,13 +246,13 @@ read_kde() {
   esac
 }
 
-# kde_text CODED: prints the content, with an x after it that keeps the last line end.
+# kde_text CODED: prints the content, followed by an x that keeps the last newline.
 kde_text() {
   [[ $1 == absent ]] || base64 -d <<<"$1" | tr -d '\0'
   printf x
 }
 
-# kde_ours CODED LAN: prints what we make of that content, with an x after it.
+# kde_ours CODED LAN: prints the helper's version of that content, followed by an x.
 kde_ours() {
   local line lines=() text
   while IFS= read -r line; do
@@ -274,8 +274,8 @@ put_kde() {
   printf '%s' "${text%x}" | as_session "$KDE_WRITE" file
 }
 
-# undo_kde: the former file, byte for byte, unless the user has changed other settings in it meanwhile; then only
-# our keys go back.
+# undo_kde: restores the former file byte for byte. If the user has changed other settings in it meanwhile, only the helper's keys are
+# restored.
 undo_kde() {
   local former now text line lines=()
   former=$(journal_value file) || return 0

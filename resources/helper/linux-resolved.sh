@@ -1,7 +1,7 @@
 
 # ---- Linux: systemd-resolved -------------------------------------------------------------------------------
-# Where it serves the look-ups, each network link has servers of its own, and the system may have some. The firewall redirects
-# what is sent to them all the same; here they are named as what they are, so that the settings that everybody reads are true.
+# Where systemd-resolved serves DNS lookups, each network link has its own servers, and the system may have some. The firewall redirects
+# lookups to them anyway. The helper enters Tor's server there as well, so that the settings show the real server.
 
 readonly RESOLVED_ENTRY=31-resolved
 readonly RESOLVED_SERVER=127.0.0.1
@@ -21,7 +21,7 @@ print_links() {
   done < <(ask_resolved "$1")
 }
 
-# put_resolved: status 1 when a link could not be switched.
+# put_resolved: status 1 when a link could not be changed.
 put_resolved() {
   local line link kind values former links='' kept=() status=0
   has_resolved || return 0
@@ -30,8 +30,8 @@ put_resolved() {
   done < <(print_links dns)
   [[ -n $links ]] || return 0
 
-  # What an earlier connect noted stays, but for links that somebody has given other servers since; a setting of those
-  # that is still as we made it is noted as it was before.
+  # The note of an earlier connect stays, except for links whose servers were changed since. A setting of those links that still has the
+  # helper's value is noted with its former value.
   journal_read "$RESOLVED_ENTRY" || JOURNAL_LINES=()
   for line in ${JOURNAL_LINES[@]+"${JOURNAL_LINES[@]}"}; do
     read -r kind link _ <<<"$line"
@@ -45,7 +45,7 @@ put_resolved() {
   done < <(print_links dns; print_links dnsovertls; print_links dnssec)
   journal_put "$RESOLVED_ENTRY" "${kept[@]}" || die "The journal cannot be written."
 
-  # Tor's port speaks neither TLS nor DNSSEC.
+  # Tor's DNS port supports neither TLS nor DNSSEC.
   for link in $links; do
     { ask_resolved dns "$link" "$RESOLVED_SERVER" && ask_resolved dnsovertls "$link" no &&
       ask_resolved dnssec "$link" no; } >/dev/null || status=1
@@ -53,9 +53,9 @@ put_resolved() {
   return "$status"
 }
 
-# undo_resolved: only what is still as we made it; whatever else there is, is newer than we are. A link that was given
-# other servers meanwhile has its other settings from before all the same: else it would go on without DNSSEC or TLS. The
-# server goes last, so that a run that was cut short finds it still.
+# undo_resolved: restores only settings that still have the helper's value; other values are newer. A link with newer servers gets its other
+# former settings back all the same: otherwise it would go on without DNSSEC or TLS. The server is restored last, so that a run after an
+# interrupted one still finds it.
 undo_resolved() {
   local line kind link values ours=' ' status=0 pass
   ((${#JOURNAL_LINES[@]})) && has_resolved || return 0
@@ -78,19 +78,19 @@ undo_resolved() {
   return 1
 }
 
-# The system's own servers stand in the daemon's configuration. A file of ours in /run, which a restart of the computer removes,
-# replaces them; the daemon reads it when it starts anew. It keeps the links' settings over that.
+# The system's own servers are in the daemon's configuration. The helper's file in /run, which a restart of the computer removes, replaces
+# them. The daemon reads it when it restarts, and keeps the links' settings.
 
 readonly GLOBAL_ENTRY=32-resolved-global
 readonly GLOBAL_FILE=/run/systemd/resolved.conf.d/zz-veldmark.conf
 readonly RESOLVED_UNIT=systemd-resolved.service
 
-# Tor's port speaks neither TLS nor DNSSEC. The empty line takes away what was set before.
+# Tor's DNS port supports neither TLS nor DNSSEC. The empty line clears the servers set before.
 print_global() {
   printf '# Veldmark: names are looked up through Tor.\n[Resolve]\nDNS=\nDNS=%s\nDNSOverTLS=no\nDNSSEC=no\n' "$RESOLVED_SERVER"
 }
 
-# global_servers: prints the system's own servers as the daemon tells them.
+# global_servers: prints the system's own servers as the daemon reports them.
 global_servers() {
   local line
   while IFS= read -r line; do
@@ -98,16 +98,16 @@ global_servers() {
   done < <(ask_resolved dns)
 }
 
-# is_our_server SERVERS: nothing but our own; the daemon may name it twice, once for the resolver file.
+# is_our_server SERVERS: whether the helper's server is the only one; the daemon may list it twice, once for the resolver file.
 is_our_server() { [[ $1 =~ ^127\.0\.0\.1(\ 127\.0\.0\.1)*$ ]]; }
 
-# restart_resolved: the daemon is told to start anew, however often it was before.
+# restart_resolved: restarts the daemon, however often it was restarted before.
 restart_resolved() {
   ask_systemd 5 reset-failed -- "$RESOLVED_UNIT" >/dev/null || true
   ask_systemd 20 restart -- "$RESOLVED_UNIT" >/dev/null
 }
 
-# put_global: status 1 when the system's servers could not be switched.
+# put_global: status 1 when the system's servers could not be changed.
 put_global() {
   local servers folder=${GLOBAL_FILE%/*} poll
   has_resolved && command -v systemctl >/dev/null || return 0
@@ -122,7 +122,7 @@ put_global() {
   fi
   [[ -d $folder ]] || mkdir -m 0755 -- "$folder" || return 1
   write_file "$GLOBAL_FILE" 0644 root "$(print_global)"$'\n' && restart_resolved || return 1
-  # NetworkManager hands a daemon that has started anew the links' servers once more.
+  # NetworkManager sets the links' servers again after the daemon has restarted.
   if [[ -d /run/NetworkManager ]]; then
     for ((poll = 0; poll < 20; poll++)); do
       put_resolved || true
@@ -132,7 +132,7 @@ put_global() {
   is_our_server "$(global_servers)"
 }
 
-# undo_global: the daemon is started anew only where it still asks us.
+# undo_global: restarts the daemon only if it still uses the helper's server.
 undo_global() {
   ((${#JOURNAL_LINES[@]})) || [[ -e $GLOBAL_FILE ]] || return 0
   rm -f -- "$GLOBAL_FILE" "$GLOBAL_FILE.new" || true

@@ -1,26 +1,26 @@
 
 # ---- Linux: DNS --------------------------------------------------------------------------------------------
-# A file of ours is mounted over the system's resolver file, so that a restart of the computer always brings back
-# the user's own. The firewall redirects the look-ups to Tor's port.
+# The helper mounts its own file over the system's resolver file, so that a restart of the computer always restores the user's. The firewall
+# redirects DNS lookups to Tor's port.
 
 readonly RESOLVER=/etc/resolv.conf
-readonly OUR_RESOLVER=$RUN/veldmark-resolv.conf   # 0644; its name tells our mount from anybody else's
-readonly TOR_RESOLVER=$RUN/tor-resolv.conf        # 0644; what Tor and its transports see: the resolvers as before
+readonly OUR_RESOLVER=$RUN/veldmark-resolv.conf   # 0644; its name identifies the helper's mount
+readonly TOR_RESOLVER=$RUN/tor-resolv.conf        # 0644; the former resolvers, for Tor and its transports
 readonly RESOLVER_ENTRY=30-resolver
-readonly MANAGERS_COPY=/run/NetworkManager/resolv.conf   # what NetworkManager would have in $RESOLVER at this moment
+readonly MANAGERS_COPY=/run/NetworkManager/resolv.conf   # what NetworkManager would write to $RESOLVER now
 
-FORMER_RESOLVER=''   # text of the resolver file without our mount
+FORMER_RESOLVER=''   # text of the resolver file without the helper's mount
 RESOLVER_TARGET=''   # the file behind $RESOLVER; empty when there is none and none can be made
 
-# Tor answers one question after the other over circuits; give it time before asking again.
+# Tor answers lookups one after the other over circuits, so the timeout is long.
 print_resolver() {
   printf '# Veldmark: names are looked up through Tor.\nnameserver 127.0.0.1\n'
   [[ $1 != 1 ]] || printf 'nameserver ::1\n'
   printf 'options timeout:10 attempts:2\n'
 }
 
-# find_mounts: sets OUR_MOUNTS to the mount points of our resolver file, one per line, the latest last. Most computers have many
-# mounts and none of ours.
+# find_mounts: sets OUR_MOUNTS to the mount points of the helper's resolver file, one per line, the latest last. Most computers have many
+# mounts and none of these.
 OUR_MOUNTS=''
 find_mounts() {
   local text root point rest
@@ -37,7 +37,7 @@ find_mounts() {
   done <<<"$text"
 }
 
-# list_servers 4|6 TEXT: the name servers of a resolver file that are not this computer, joined by ", ".
+# list_servers 4|6 TEXT: the name servers in a resolver file that are not this computer, joined by ", ".
 list_servers() {
   local word server rest list=''
   while read -r word server rest; do
@@ -52,8 +52,8 @@ list_servers() {
   printf '%s' "$list"
 }
 
-# print_settings TEXT: the lines of a resolver file that are settings. What is kept can be read by everybody, and somebody who
-# can change where $RESOLVER leads could have had another file read here.
+# print_settings TEXT: the lines of a resolver file that are settings. The stored text is readable for all users, and a user who can change
+# the target of $RESOLVER could have had another file read here.
 print_settings() {
   local line
   while IFS= read -r line || [[ -n $line ]]; do
@@ -61,8 +61,8 @@ print_settings() {
   done <<<"$1"
 }
 
-# read_resolver: sets RESOLVER_TARGET and FORMER_RESOLVER. When the resolver on this computer itself is the only
-# one (it would ask by way of Tor), the servers that it asks take its place.
+# read_resolver: sets RESOLVER_TARGET and FORMER_RESOLVER. When the only resolver is on this computer itself (it would ask through Tor), it
+# is replaced by the servers that it uses.
 read_resolver() {
   local file servers
   FORMER_RESOLVER='' RESOLVER_TARGET=''
@@ -86,7 +86,7 @@ read_resolver() {
   FORMER_RESOLVER=$(print_settings "$FORMER_RESOLVER")
 }
 
-# put_resolver: mounts our file, unless it is in place.
+# put_resolver: mounts the helper's file if it is not mounted.
 put_resolver() {
   local text ipv6=0
   [[ -n $RESOLVER_TARGET ]] || return 0
@@ -115,7 +115,7 @@ put_resolver() {
   mount --bind -- "$OUR_RESOLVER" "$RESOLVER_TARGET" 2>/dev/null || die "The DNS settings cannot be changed."
 }
 
-# unmount_resolver: takes away every mount of our file, wherever it is.
+# unmount_resolver: removes every mount of the helper's file, anywhere.
 unmount_resolver() {
   local point
   for _ in 1 2 3; do
@@ -130,14 +130,14 @@ unmount_resolver() {
   return 1
 }
 
-# is_managers FILE: whether NetworkManager has written it, as it is now.
+# is_managers FILE: whether NetworkManager has written it in its present form.
 is_managers() {
   [[ -f $1 && -f $MANAGERS_COPY ]] && { [[ $1 -ef $MANAGERS_COPY ]] || [[ $(<"$1") == "$(<"$MANAGERS_COPY")" ]]; }
 }
 
-# renew_resolver: NetworkManager could not write its file while ours was mounted over it. Where the network has given other
-# name servers since, it is asked to write it now; a file that somebody else has written stays as it is, and so does this one while
-# NetworkManager has no server to write, as between two networks: it writes by itself when it has.
+# renew_resolver: NetworkManager could not write its file while the helper's was mounted over it. If the network has assigned other name
+# servers since, NetworkManager is asked to write it now. A file written by another program stays as it is. So does this file while
+# NetworkManager has no server to write, as between two networks: it writes the file itself later.
 renew_resolver() {
   local target
   [[ $(journal_value writer) == NetworkManager ]] && target=$(journal_value target) && [[ -f $MANAGERS_COPY ]] || return 0

@@ -1,8 +1,8 @@
 
 # ---- Linux: the system's own Tor service -------------------------------------------------------------------
-# Debian starts one when tor is installed. It holds the ports that our Tor needs, so it is stopped while a session lasts, behind the
-# kill switch in strict mode, and started again at the end. Only a service of these names is, and only when its own main process
-# is what holds a port. Whatever else holds one is named, and nothing is changed.
+# Debian starts a Tor service when tor is installed. It holds the ports that Veldmark's Tor needs. So the helper stops it for the session,
+# behind the kill switch in strict mode, and starts it again at the end. It stops only services with these names, and only if their own main
+# process holds a port. Any other holder of a port is named in the error, and nothing is changed.
 
 readonly SERVICE_ENTRY=18-service
 readonly SERVICES="tor@default.service tor.service"
@@ -15,7 +15,7 @@ ask_systemd() {
   timeout -k 1 "$seconds" systemctl --no-pager --no-ask-password "$@" </dev/null
 }
 
-# port_sockets: "PORT UID SOCKET" for each socket of another account's that keeps Tor from a port of its on 127.0.0.1.
+# port_sockets: "PORT UID SOCKET" for each socket of another account that occupies one of Tor's ports on 127.0.0.1.
 port_sockets() {
   local table listens socks control names port address state uid socket rest
   printf -v socks '%04X' "$SOCKS_PORT"
@@ -27,7 +27,7 @@ port_sockets() {
     while read -r rest address rest state rest rest rest uid rest socket rest; do
       [[ $state == "$listens" && $uid != "$TOR_UID" && $socket =~ ^[1-9][0-9]*$ ]] || continue
       case $address in
-      # 127.0.0.1 as a number of this processor, either order of the bytes, and every address.
+      # 127.0.0.1 as a number in either byte order, and the address that means all addresses.
       0100007F:* | 7F000001:* | 00000000:*) ;;
       *) continue ;;
       esac
@@ -42,14 +42,14 @@ port_sockets() {
   done
 }
 
-# has_socket PID SOCKET: whether the process has it open.
+# has_socket PID SOCKET: whether the process has the socket open.
 has_socket() {
   local files
   files=$(stat -L -c '%F %i' -- "/proc/$1/fd"/* || true)
   [[ $'\n'$files$'\n' == *$'\n'"socket $2"$'\n'* ]]
 }
 
-# service_with SOCKET: prints which of SERVICES has it, by its main process.
+# service_with SOCKET: prints the service of SERVICES whose main process has the socket.
 service_with() {
   local unit pid
   command -v systemctl >/dev/null || return 0
@@ -62,13 +62,13 @@ service_with() {
   done
 }
 
-# name_holder SOCKET UID: who has it, for a message.
+# name_holder SOCKET UID: names the process that has the socket, for a message.
 name_holder() {
   local folder name
   for folder in /proc/[1-9]*; do
     has_socket "${folder#/proc/}" "$1" || continue
     { IFS= read -r name <"$folder/comm"; } 2>/dev/null || name=
-    # Anybody can call a process anything.
+    # A process may have any name.
     name=${name//[^ -~]/?}
     printf '%s (process %s)' "${name:-a program}" "${folder#/proc/}"
     return
@@ -76,7 +76,7 @@ name_holder() {
   printf 'a program of the account with the id %s' "$2"
 }
 
-# check_ports: sets TAKEN to the services that hold a port of Tor's. Fails, before anything is changed, when somebody else does.
+# check_ports: sets TAKEN to the services that hold a port of Tor's. Fails, before anything is changed, when another process holds one.
 TAKEN=''
 check_ports() {
   local port uid socket unit
@@ -88,7 +88,7 @@ check_ports() {
   done < <(port_sockets | sort -n)
 }
 
-# stop_services: what an earlier connect has noted since the computer's start stays noted.
+# stop_services: keeps what an earlier connect has noted since the computer's start.
 stop_services() {
   local unit line noted=()
   check_ports
@@ -107,8 +107,8 @@ stop_services() {
   done
 }
 
-# undo_service: starts what was stopped, unless the computer has been started anew since or the service is no longer there. That
-# it has begun to start is all that is waited for.
+# undo_service: starts the stopped services, unless the computer was restarted meanwhile or a service no longer exists. It does not wait
+# until they have started.
 undo_service() {
   local line unit state status=0
   [[ $(journal_value boot) == "$(boot_id)" ]] || return 0

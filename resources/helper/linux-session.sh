@@ -4,7 +4,7 @@
 readonly FIREWALL_ENTRY=10-firewall
 readonly ENTRIES="$KDE_ENTRY $GNOME_ENTRY $GLOBAL_ENTRY $RESOLVED_ENTRY $RESOLVER_ENTRY $TOR_ENTRY $IDENTIFIER_ENTRY $IDENTITIES_ENTRY $SERVICE_ENTRY $WATCHER_ENTRY $EXEMPT_ENTRY $LOOPBACK_ENTRY $FIREWALL_ENTRY"   # in the order of undoing
 
-# switch_firewall MODE: marker and rules belong together, the marker first.
+# switch_firewall MODE: sets the marker, then the rules, under one lock.
 switch_firewall() {
   hold_rules || die "Somebody else is changing the firewall. Try again in a moment."
   put_marker "$1"
@@ -31,7 +31,7 @@ linux_connect() {
   read_resolver
   ready_torrc
 
-  # From here on the network changes. A strict session in force stays so until its successor stands.
+  # From here on the network changes. A strict session in force stays until its successor is in force.
   former=$(read_marker)
   if [[ $former == strict ]]; then
     kill_switch_stands || status=$?
@@ -62,11 +62,11 @@ linux_connect() {
   separate_applications "$OPT_SEPARATE"
   start_tor
   put_resolver
-  put_resolved || true   # the firewall redirects what it asks
+  put_resolved || true   # the firewall redirects its lookups anyway
   put_global || true
   put_proxy
   if [[ $mode == proxy ]]; then
-    # Also what is left of a strict session whose rules have gone: its watcher and its note.
+    # Also removes the remains of a strict session without rules: its watcher and its note.
     undo_entry "$WATCHER_ENTRY" || true
     [[ $former != strict ]] || switch_firewall proxy
     undo_entry "$EXEMPT_ENTRY" || true
@@ -75,9 +75,9 @@ linux_connect() {
   drop_replaced || true
 }
 
-# undo_entry NAME: puts back what the entry tells of and removes it. A torn entry tells nothing, and what can be
-# put back without it is put back. Status 1 with UNDONE set when something could not be put back and the entry stays;
-# 2, likewise, when the entry was torn and is gone.
+# undo_entry NAME: restores what the entry records and removes the entry. A torn entry records nothing; then only what needs no record is
+# restored. Status 1 with UNDONE set when something could not be restored and the entry stays; 2 with UNDONE set when the entry was torn and
+# is removed.
 undo_entry() {
   local name=$1 status=0
   JOURNAL_LINES=()
@@ -118,7 +118,7 @@ undo_entry() {
 
 JOURNAL_TRUSTED=1
 
-# undo_session: everything, backwards, the firewall last; goes on when a step fails. Keeps the first reason.
+# undo_session: restores everything in reverse order, the firewall last, and goes on when a step fails. Reports the first reason.
 undo_session() {
   local name status reason='' least='' open=1
   for name in $ENTRIES; do
@@ -126,10 +126,11 @@ undo_session() {
     undo_entry "$name" || status=$?
     case $status,$name in
     0,*) ;;
-    *,"$IDENTITIES_ENTRY") least=$UNDONE ;;   # what keeps the network closed is worth more
+    *,"$IDENTITIES_ENTRY") least=$UNDONE ;;   # a reason that keeps the network closed is reported first
     *) reason=${reason:-${UNDONE:-The former network settings could not all be restored.}} ;;
     esac
-    # The desktop's settings, the service, the identities, the group and the loopback device are not the network: they are tried again by the next run.
+    # The desktop's settings, the service, the identities, the group and the loopback device do not block the network. The next run tries
+    # them again.
     [[ $status != 1 || " $KDE_ENTRY $GNOME_ENTRY $SERVICE_ENTRY $IDENTITIES_ENTRY $EXEMPT_ENTRY $LOOPBACK_ENTRY " == *" $name "* ]] || open=''
   done
   [[ -z $open ]] || rm -f -- "$MARKER" "$ASKED" "$OWNER" "$RULES" "$LISTED" "$OTHERS_NOTE"
@@ -141,8 +142,8 @@ undo_session() {
   [[ -z $reason ]]
 }
 
-# linux_fix-dns: puts back what somebody changed under a running session: the mount, and the rules, in one
-# transaction, so that also a flushed kill switch stands again.
+# linux_fix-dns: restores what was changed from outside during a session: the mount, and the rules in one transaction, so that a flushed
+# kill switch is in force again.
 linux_fix-dns() {
   (($# == 0)) || die "The verb fix-dns takes no options."
   need_programs flock nft mount unshare umount readlink stat sync
@@ -172,7 +173,7 @@ linux_disconnect() {
   take_lock
   trap finish EXIT
   if [[ -e $BASE || -L $BASE ]]; then
-    # What others could write is no record of ours.
+    # Files in folders that other users could write are not trusted.
     safe_folders || JOURNAL_TRUSTED=
   fi
   spare_others

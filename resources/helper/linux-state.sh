@@ -4,29 +4,28 @@
 readonly BASE=/var/lib/veldmark
 readonly STATE=$BASE/state        # 0755; holds the session marker
 readonly MARKER=$STATE/active     # 0644; "strict" or "proxy": the network is set up for Tor
-readonly JOURNAL=$BASE/journal    # 0700; what was there before each change, one file per change
+readonly JOURNAL=$BASE/journal    # 0700; the state before each change, one file per change
 readonly RUN=$BASE/run            # 0755; Tor's configuration, data and logs
-readonly TOR_PLACE=$RUN/tor        # 0710, root and Tor's group: nobody else reaches what Tor's account leaves in
-readonly DATA=$TOR_PLACE/data     # 0700, Tor's account; kept between sessions so that entry guards are
+readonly TOR_PLACE=$RUN/tor        # 0710, root and Tor's group: other users cannot reach files of Tor's account
+readonly DATA=$TOR_PLACE/data     # 0700, Tor's account; kept between sessions, and the entry guards with it
 readonly PROGRAMS=$BASE/programs  # 0755; approved copies, SHA-256/NAME
-readonly ASKED=$BASE/asked        # 0600; what the running session was asked for
+readonly ASKED=$BASE/asked        # 0600; the options of the running session
 readonly PROGRAM_PLACES='^/(usr|opt)/.'
 readonly LOCK=/run/veldmark.lock
 readonly LOCK_SECONDS=20
 readonly INSTALLED=/usr/local/libexec/veldmark
-readonly SUDO_DRAFT=/run/veldmark.sudoers   # 0440; checked here first
+readonly SUDO_DRAFT=/run/veldmark.sudoers   # 0440; checked here before it is installed
 
-# Below 1024, so that nobody but root and Tor can bind there beside it and get what others ask.
+# Below 1024, so that only root and Tor can bind the port, share it and receive lookups.
 readonly DNS_PORT=293
 
 readonly TOR_ACCOUNT=_veldmark
 TOR_UID='' TOR_GID=''
 CALLER_NAME='' CALLER_GID='' CALLER_HOME=''
 
-# take_lock: one helper at a time. Descriptor 9 stays open for the whole run, and in those children of root that
-# a kill of this shell may leave behind, so that the next run waits for them. Nothing that runs as another user
-# gets it: whoever holds the descriptor can unlock it.
-# Ctrl-C and a closed terminal must not leave the network half-way.
+# take_lock: one helper at a time. Descriptor 9 stays open for the whole run, and in the children of root that a killed run may leave
+# behind, so that the next run waits for them. No process of another user gets the descriptor, since its holder can unlock it. Ctrl-C and a
+# closed terminal must not leave the network half changed.
 HAS_LOCK=''
 take_lock() {
   trap '' INT TERM HUP QUIT PIPE TSTP
@@ -40,8 +39,8 @@ take_lock() {
   HAS_LOCK=1
 }
 
-# lift_limits: limits of the caller's shell must not end the watcher or Tor later on, nor this run half-way. What cannot be
-# lifted stays.
+# lift_limits: the limits of the caller's shell must not end the watcher or Tor later, or this run half-way. A limit that cannot be lifted
+# stays.
 lift_limits() {
   local kind
   for kind in f t v d m u i; do ulimit -"$kind" unlimited || ulimit -S"$kind" hard || true; done
@@ -49,13 +48,12 @@ lift_limits() {
   [[ ! $(ulimit -s) =~ ^[0-9]{1,3}$ ]] || ulimit -Ss 8192 || ulimit -s 8192 || true
 }
 
-# folder_is_safe "MODE UID TYPE": a real folder of root's that nobody else can write.
+# folder_is_safe "MODE UID TYPE": a real folder of root's that other users cannot write.
 folder_is_safe() {
   [[ $1 =~ ^[0-7]*[0145][0145]\ 0\ directory$ ]]
 }
 
-# folders_are_safe: true when nobody but root could have put anything into our folders; status 2 when that cannot be told.
-# Changes nothing.
+# folders_are_safe: whether only root could write to the helper's folders; status 2 when that cannot be found out. Changes nothing.
 folders_are_safe() {
   local path line lines=0
   for path in "$BASE" "$STATE" "$JOURNAL" "$RUN"; do
@@ -68,7 +66,7 @@ folders_are_safe() {
   ((lines == 7)) || return 2
 }
 
-# safe_folders: likewise; a run that cannot tell ends here.
+# safe_folders: like folders_are_safe, but ends the run when that cannot be found out.
 safe_folders() {
   local status=0
   folders_are_safe || status=$?
@@ -97,12 +95,12 @@ ready_folders() {
   ready_data_folder
 }
 
-# Tor refuses a data folder of somebody else's; one left by a former account cannot be used any more.
+# Tor refuses a data folder of another account, and a former account's folder cannot be used any more.
 ready_data_folder() {
   if [[ $(stat -c '%u %g %a %F' -- "$TOR_PLACE") != "0 $TOR_GID 710 directory" ]]; then
     rm -rf -- "$TOR_PLACE"
     { mkdir -m 0710 -- "$TOR_PLACE" && chown -- "0:$TOR_GID" "$TOR_PLACE"; } || die "The folder $TOR_PLACE cannot be created."
-    [[ ! -d $RUN/data || -L $RUN/data ]] || mv -T -- "$RUN/data" "$DATA" || true   # where it was in earlier versions
+    [[ ! -d $RUN/data || -L $RUN/data ]] || mv -T -- "$RUN/data" "$DATA" || true   # its place in earlier versions
   fi
   if [[ -e $DATA || -L $DATA ]] &&
     [[ $(stat -c '%u %F' -- "$DATA") != "$TOR_UID directory" ]]; then
@@ -135,12 +133,12 @@ ready_account() {
   [[ $TOR_UID != 0 && $TOR_UID != "$CALLER_UID" ]] || die "The account $TOR_ACCOUNT must be one of its own."
 }
 
-# as_tor / as_caller SECONDS COMMAND...: with that account's rights only, no way to gain more, a clean environment,
-# default signal handling, no descriptor of ours, and killed when it takes longer. `timeout`, which is root's, keeps the
-# lock: when this shell is killed, the next run must not begin while the command still changes things.
+# as_tor / as_caller SECONDS COMMAND...: runs it with that account's rights only, without a way to gain more, in a clean environment, with
+# default signal handling, without the helper's descriptors, and kills it after SECONDS. `timeout` is root's and keeps the lock: when this
+# shell is killed, the next run must not begin while the command still changes things.
 as_account() {
   local uid=$1 gid=$2 groups=$3 home=$4 seconds=$5 group=''
-  [[ $uid != "$CALLER_UID" ]] || group=$HOME_GROUP   # a user's own programs are of the user's group
+  [[ $uid != "$CALLER_UID" ]] || group=$HOME_GROUP   # the user's own programs run in the user's group
   shift 5
   # shellcheck disable=SC2016
   timeout -k 1 "$seconds" /bin/sh -c 'exec 7>&- 9>&-; [ -z "$0" ] || printf "0\n" >"$0/cgroup.procs"; exec "$@"' "$group" \
@@ -151,22 +149,22 @@ as_account() {
 as_tor() { as_account "$TOR_UID" "$TOR_GID" --clear-groups "$DATA" "$@"; }
 as_caller() { as_account "$CALLER_UID" "$CALLER_GID" --init-groups "$CALLER_HOME" "$@"; }
 
-# take_output SECONDS BYTES: so much of standard input at most; who keeps it open any longer is not waited for.
+# take_output SECONDS BYTES: passes on at most BYTES of standard input, and does not wait longer than SECONDS for its end.
 take_output() { timeout -k 1 "$1" head -c "$2"; }
 
 # ---- Primitives of the shared parts ----
 
-# put_in_place NEW TARGET: NEW replaces TARGET, in the same folder; on disk when it returns 0.
+# put_in_place NEW TARGET: NEW replaces TARGET, in the same folder. It is on disk when this returns 0.
 put_in_place() { sync -- "$1" && mv -fT -- "$1" "$2" && sync -- "${2%/*}"; }
 
-# print_modes PATH...: "MODE UID KIND" for each, a line each; fails when one is missing. Links are not followed.
+# print_modes PATH...: prints "MODE UID KIND", one line for each; fails when one is missing. Links are not followed.
 print_modes() { stat -c '%a %u %F' -- "$@"; }
 
-# real_path PATH: free of links; fails when it does not exist.
+# real_path PATH: prints the path without links; fails when it does not exist.
 real_path() { readlink -e -- "$1"; }
 
-# on_own_mount PATH: whether the file system that PATH, root's alone, lies on was mounted for programs of the system. What
-# users may mount (a medium on the desktop, FUSE, fstab's "user") is always without setuid programs.
+# on_own_mount PATH: whether PATH, which only root can change, is on a file system mounted for the system's programs. A file system that
+# users may mount (a medium on the desktop, FUSE, fstab's "user") never allows setuid programs.
 on_own_mount() {
   local file key value id='' text options rest kind
   { exec {file}<"$1"; } || return 1
@@ -186,7 +184,7 @@ on_own_mount() {
 # print_sum: the SHA-256 of standard input.
 print_sum() { sha256sum; }
 
-# make_installed: the folder of the copy that runs without a password.
+# make_installed: makes the folder of the copy that runs without a password.
 make_installed() {
   local folder
   for folder in /usr/local /usr/local/libexec "$INSTALLED"; do

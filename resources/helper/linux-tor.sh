@@ -1,18 +1,18 @@
 
 # ---- Linux: running Tor ------------------------------------------------------------------------------------
-# Tor runs as its own account, with no right of root's but that to the port for look-ups, in a control group and in mount and process
-# namespaces of its own: it keeps the resolvers as they were before the switch, cannot load code from places that users write, leaves
-# nothing behind that others could run, and its transports die with it. It is known by process id and start time, never by name.
+# Tor runs as its own account, with one right of root's, that to bind the DNS port, in a control group and in mount and process namespaces
+# of its own. It keeps the resolvers from before the switch, cannot load code from places that users can write, leaves no program behind
+# that others could run, and its transports end with it. The helper identifies it by process id and start time, never by name.
 
 readonly TOR_ENTRY=20-tor
-readonly START_OUT=$RUN/start.out  # what Tor prints before its log stands
-readonly LAUNCHER_OUT=$RUN/launcher.out   # what the programs that lead up to Tor print
-readonly START_POLLS=500   # of about 20 ms: Tor opens its control port within 10 s or it failed
-readonly STOP_POLLS=200    # of about 20 ms: Tor has about 4 s to end by itself
+readonly START_OUT=$RUN/start.out  # Tor's output before its log exists
+readonly LAUNCHER_OUT=$RUN/launcher.out   # output of the programs that start Tor
+readonly START_POLLS=500   # of about 20 ms: Tor opens its control port within 10 s, or it has failed
+readonly STOP_POLLS=200    # of about 20 ms: Tor has about 4 s to end
 
-# Runs as root in the new namespaces: RESOLVERS TARGET DATA LOG COMMAND... COMMAND gives up root. What Tor's account may write is its
-# data, its log and three places in memory that nobody else sees; everything else can only be read, so that it leaves no program for a
-# later session or for others. What is mounted later comes in and goes again, since the mounts are slaves of the system's.
+# Runs as root in the new namespaces: RESOLVERS TARGET DATA LOG COMMAND... COMMAND gives up root. Tor's account may write its data, its log
+# and three places in memory that are visible to no other process. All other files are read-only, so it leaves no program for a later
+# session or for other users. Later mounts and unmounts of the system appear here, too, since the mounts are its slaves.
 # shellcheck disable=SC2016
 readonly INSIDE='
 set -eu
@@ -42,13 +42,13 @@ done <<<"$(</proc/self/mountinfo)"
 exec "$@"
 '
 
-# start_time PID: sets START_TIME to the process's start in clock ticks since boot; 1 when it is gone or dead.
+# start_time PID: sets START_TIME to the process's start in clock ticks since boot; status 1 when it has ended.
 START_TIME=''
 start_time() {
   local line
   START_TIME=
   { IFS= read -r line <"/proc/$1/stat"; } 2>/dev/null || return 1
-  # The name, in round brackets, may hold anything.
+  # The name, in round brackets, may contain any character.
   line=${line##*) }
   # shellcheck disable=SC2086
   set -- $line
@@ -64,7 +64,7 @@ has_ipv6_loopback() {
   return 1
 }
 
-# boot_id: tells one run of the computer from the next. read_boot sets BOOT to it.
+# boot_id: identifies the present run of the computer. read_boot sets BOOT to it.
 BOOT=''
 read_boot() {
   BOOT=unknown
@@ -75,8 +75,8 @@ boot_id() {
   printf '%s' "$BOOT"
 }
 
-# become_recorded ENTRY: for the background halves that turn into a process which outlives this run. It writes its own journal
-# entry and lets go of every descriptor only then, the lock above all, so that there is never one that no later run knows of.
+# become_recorded ENTRY: for background halves that turn into a process which outlives this run. It writes its own journal entry, and only
+# then closes every descriptor, above all the lock, so that a later run always finds a record of it.
 become_recorded() {
   local pid line fd
   IFS= read -r line </proc/self/stat
@@ -88,13 +88,13 @@ become_recorded() {
   }
   for fd in /proc/self/fd/*; do
     fd=${fd##*/}
-    # Bash's own, of the script, closes by itself.
+    # Bash closes its own descriptor of the script by itself.
     if ((fd > 2 && fd != 255)); then exec {fd}>&-; fi
   done
 }
 
-# find_recorded: sets RECORDED_PID to the process id of the entry that was read; 1 when that very process no longer runs. It is asked
-# again and again while a process ends, so it starts none.
+# find_recorded: sets RECORDED_PID to the process id in the entry that was read; status 1 when that very process no longer runs. It is
+# called repeatedly while a process ends, so it starts no program.
 RECORDED_PID=''
 find_recorded() {
   local line pid='' start='' boot=''
@@ -133,8 +133,8 @@ tor_listens() {
   return 1
 }
 
-# ready_logs: empties the log files. Tor writes them by its group, the session's user alone may read them: the user's own
-# group may be everybody's.
+# ready_logs: empties the log files. Tor writes them through its group; only the session's user may read them, not the user's group, which
+# may include everybody.
 ready_logs() {
   rm -f -- "$NOTICES" "$START_OUT" "$LAUNCHER_OUT" &&
     : >"$NOTICES" && : >"$START_OUT" && : >"$LAUNCHER_OUT" &&
@@ -148,7 +148,7 @@ tor_failure() {
   printf '%s' "${reason:-it ended without a message.}"
 }
 
-# start_tor: returns once Tor listens on its control port.
+# start_tor: returns once Tor listens at its control port.
 start_tor() {
   local launcher poll
   write_file "$TOR_RESOLVER" 0644 root "$FORMER_RESOLVER"$'\n' || die "The file $TOR_RESOLVER cannot be written."
@@ -157,7 +157,7 @@ start_tor() {
   launch_tor </dev/null >>"$START_OUT" 2>>"$LAUNCHER_OUT" &
   launcher=$!
   for ((poll = 0; poll < START_POLLS; poll++)); do
-    # It opens all its ports before it fails for one of them.
+    # Tor opens all its ports before it fails because of one of them.
     if tor_listens && [[ $(head -qc 65536 -- "$START_OUT" "$NOTICES" | tr -d '\0') != *"Could not bind to"* ]]; then
       return
     fi
@@ -167,14 +167,14 @@ start_tor() {
   die "Tor did not open its control port in time."
 }
 
-# read_children PID: sets CHILDREN to the process ids of its children.
+# read_children PID: sets CHILDREN to the process ids of the process's children.
 CHILDREN=''
 read_children() {
   CHILDREN=''
   { IFS= read -r CHILDREN <"/proc/$1/task/$1/children"; } || true
 }
 
-# kill_stray_tor: without a record, whatever runs as Tor's account in this network is ours.
+# kill_stray_tor: without a record, kills every process of Tor's account in this network namespace.
 kill_stray_tor() {
   local folder owner
   read_accounts
@@ -187,14 +187,14 @@ kill_stray_tor() {
   done
 }
 
-# undo_tor: ends the Tor of the entry that was read, if it is that very process and still runs.
+# undo_tor: ends the Tor of the entry that was read, if that very process still runs.
 undo_tor() {
   local pid child poll
   find_recorded || return 0
   pid=$RECORDED_PID
   for ((poll = 0; poll < STOP_POLLS; poll++)); do
     find_recorded || return 0
-    # Tor is the launcher's child. While it sets up it hears nothing, so ask again.
+    # Tor is the launcher's child. It ignores signals while it starts, so the signal is repeated.
     if ((poll % 5 == 0)); then
       read_children "$pid"
       for child in $CHILDREN; do
@@ -207,7 +207,7 @@ undo_tor() {
   for child in $CHILDREN "$pid"; do
     kill -KILL "$child" || true
   done
-  # Tor holds its ports until it has gone, which may be after the launcher.
+  # Tor keeps its ports until it has ended, which may be after the launcher.
   for child in $CHILDREN; do
     for ((poll = 0; poll < 50; poll++)); do
       [[ -d /proc/$child ]] || break
@@ -220,7 +220,7 @@ undo_tor() {
   }
 }
 
-# recorded_lives: whether the process of the entry that was read is still there after a while.
+# recorded_lives: whether the process of the entry that was read still runs after a while.
 recorded_lives() {
   local poll
   for ((poll = 0; poll < STOP_POLLS; poll++)); do

@@ -1,40 +1,39 @@
 
 # ---- Linux: the watcher over the firewall ------------------------------------------------------------------
-# While a strict session lasts, a process of root's waits for the kernel's word that rules have changed. When ours are
-# not as they were loaded, it loads them again and leaves a note for the application. It outlives the application and
-# the helper's run, and ends at disconnect. What it runs is written into our own folder, so that it depends on no file
-# that anybody else could have changed since.
+# During a strict session a process of root's waits for the kernel to report changes of rules. When the helper's rules are not as they were
+# loaded, it loads them again and leaves a note for the application. It outlives the application and the helper's run, and ends at
+# disconnect. Its script is written into the helper's folder, so that it depends on no file that another program could have changed since.
 
 readonly WATCHER_ENTRY=15-watcher
 readonly WATCHER=$RUN/watcher.sh          # 0600
 readonly KILL_SWITCH_NOTE=/run/veldmark.watch   # 0644; note.sh says what it holds
-readonly WATCH_SECONDS=3                  # a look without any word from the kernel
-readonly BEAT_SECONDS=0.5                 # how often the note is written, so that a watcher that was stopped is missed at once
-readonly OTHERS_SECONDS=5                 # between two looks at the rules of others, which may be many and change often
+readonly WATCH_SECONDS=3                  # seconds between two looks when the kernel reports nothing
+readonly BEAT_SECONDS=0.5                 # how often the note is written, so that a stopped watcher is missed at once
+readonly OTHERS_SECONDS=5                 # between two looks at other firewalls' rules, which may be many and change often
 
-# rules_stand: whether the kernel holds our table as it was loaded.
+# rules_stand: whether the kernel has the helper's table as it was loaded.
 rules_stand() {
   read_listing "$TABLE" && [[ $LISTING == "$(<"$LISTED")" ]]
 }
 
-# relock: the rules again, unless a run of the helper has changed or opened them meanwhile. The same text gives the same
-# listing, so that is noted anew only when it was another text: somebody is changing rules just now, and what is noted
-# then could be his.
-STRUGGLES=0   # how often in a row the rules did not stand as soon as they were loaded
-LESSENED=''   # 1 while the rules without their exemption are loaded
+# relock: loads the rules again, unless a run of the helper has changed or removed them meanwhile. The same text gives the same listing, so
+# the listing is stored again only when a dormant copy of the loaded text confirms it (copy_stands): another program may be changing the
+# rules at this moment.
+STRUGGLES=0   # how often in a row the rules were not in place right after loading
+LESSENED=''   # 1 while the rules are loaded without their bypass
 relock() {
   local word=restored text
   hold_rules || return 0
   if [[ $(read_marker) == strict ]] && ! rules_stand; then
     text=$(<"$RULES")
-    make_groups   # the rules name them, and they may be gone
+    make_groups   # the rules name them, and they may have been removed
     if nft -f - <<<"$text"; then
       if [[ -n $LESSENED ]]; then
         if copy_stands "$text" && keep_listing; then LESSENED=''; else word=open; fi
       elif ! rules_stand; then
-        # Either nft words the same rules in another way now, or somebody changes them as fast as we do.
+        # Either nft now lists the same rules differently, or another program changes them as fast as the watcher does.
         if ! copy_stands "$text"; then
-          STRUGGLES=$((STRUGGLES + 1)) word=open   # whatever was loaded, it does not stand
+          STRUGGLES=$((STRUGGLES + 1)) word=open   # the loaded rules are not in place
         elif keep_listing; then
           word=standing
         fi
@@ -43,7 +42,7 @@ relock() {
         STRUGGLES=0
       fi
     elif nft -f - <<<"$(print_unexempt "$text")"; then
-      # Without its group the exemption cannot be loaded; the lock can.
+      # Without its group the bypass rule cannot be loaded, but the other rules can.
       LESSENED=1
       { copy_stands "$(print_unexempt "$text")" && keep_listing; } || word=open
     else
@@ -54,8 +53,8 @@ relock() {
   release_rules
 }
 
-# copy_stands TEXT: whether the kernel's listing is that of the rules, by a copy of them that takes no part in anything. LISTING is then
-# that listing; one that is read afterwards may already be another.
+# copy_stands TEXT: whether the kernel's listing is that of TEXT, by comparison with a dormant copy of TEXT. LISTING is then that listing; a
+# listing read later may already differ.
 copy_stands() {
   local copy=$TABLE-copy now text
   read_listing "$TABLE" || return 1
@@ -69,7 +68,7 @@ copy_stands() {
   LISTING=$now
 }
 
-# print_unexempt TEXT: the rules without those that name the exempt group.
+# print_unexempt TEXT: the rules without those that name a control group.
 print_unexempt() {
   local line
   while IFS= read -r line; do
@@ -77,14 +76,14 @@ print_unexempt() {
   done <<<"$1"
 }
 
-# monitor PARENT KIND: becomes nft's monitor, which dies with its parent, also with one that has died before this could be arranged.
+# monitor PARENT KIND: becomes nft's monitor. It ends with its parent, even when the parent ended before this was set up.
 # shellcheck disable=SC2016
 monitor() {
   exec setpriv --pdeathsig KILL unshare --mount --propagation private \
     sh -c '[ "$PPID" != "$1" ] || { shift; '"$WITHOUT_GROUPS"'; }' monitor "$1" monitor "$2"
 }
 
-# monitor_rules: one for each kind of change that the listing tells, and none for the elements of sets, which come and go with
+# monitor_rules: one monitor for each kind of change that the listing shows, and none for the elements of sets, which change with the
 # applications. The first is the others' parent.
 monitor_rules() {
   local first=$BASHPID
@@ -93,12 +92,12 @@ monitor_rules() {
   monitor "$$" rules
 }
 
-# beat: the note once more as it is, in place, by this shell alone. On descriptor 3, since `declare -f` prints 1<> as <>.
+# beat: writes the unchanged note again, in place, by this shell alone. On descriptor 3, since `declare -f` prints 1<> as <>.
 beat() {
   [[ -z $NOTED || ! -f $KILL_SWITCH_NOTE ]] || printf '%s\n' "$NOTED" 3<>"$KILL_SWITCH_NOTE" >&3
 }
 
-# await_change: until the kernel has told something, or a look is due. Status 1 when the kernel tells nothing any more.
+# await_change: waits until the kernel reports a change or a look is due. Status 1 when the kernel reports nothing any more.
 await_change() {
   local status many until=$((SECONDS + WATCH_SECONDS))
   while ((SECONDS < until)); do
@@ -111,14 +110,14 @@ await_change() {
     fi
     ((status > 128)) || return 1
   done
-  # One look for all that came at once.
+  # One look serves all changes reported together.
   for ((many = 0; many < 1000; many++)); do
     IFS= read -r -t 0.001 -u 4 _ || break
   done
 }
 
-# ports_are_tors: whether nobody but Tor of this session listens at Tor's ports; nobody at all will do. Who was found to be Tor is
-# not asked again. A Tor that ends just now is looked at twice.
+# ports_are_tors: whether only this session's Tor listens at Tor's ports; also when no process does. Sockets once found to be Tor's are not
+# checked again. The check is repeated once, for a Tor that is ending.
 VOUCHED=''
 ports_are_tors() {
   local round sockets line child strange
@@ -142,7 +141,8 @@ ports_are_tors() {
   return 1
 }
 
-# watch_others: what rules of others deny, when some have changed. Beside the looks at ours, which must not wait for it.
+# watch_others: notes what other firewalls deny, after a change of theirs. In the background, since the looks at the helper's rules must not
+# wait for it.
 CHANGED='' OTHERS_DUE=0
 watch_others() {
   [[ -n $CHANGED ]] && ((SECONDS >= OTHERS_DUE)) || return 0
@@ -154,7 +154,7 @@ watch_others() {
   } 4<&- &
 }
 
-# Where somebody else listens in Tor's place, nothing is vouched for: the note is left to grow old.
+# When another process listens in Tor's place, the note is not renewed and so becomes stale.
 watch_rules() {
   local again
   exec 4< <(monitor_rules)
@@ -162,12 +162,12 @@ watch_rules() {
     if ! rules_stand; then
       relock
     else
-      beat || true   # on a busy computer the rest takes its time
+      beat || true   # on a busy computer the check below takes its time
       if ports_are_tors; then note_rules standing || true; else NOTED=''; fi
     fi
     watch_others || true
     await_change || {
-      # Look on, and ask again.
+      # Keep looking, then start the monitors again.
       for ((again = 0; again < 2 * WATCH_SECONDS; again++)); do
         sleep "$BEAT_SECONDS"
         beat || true
@@ -192,19 +192,19 @@ print_watcher() {
 
 launch_watcher() {
   become_recorded "$WATCHER_ENTRY"
-  printf -- '-1000\n' >/proc/self/oom_score_adj || true   # the last to go where memory is short
+  printf -- '-1000\n' >/proc/self/oom_score_adj || true   # the last process to be ended when memory runs out
   exec env -i --default-signal PATH="$PATH" LC_ALL=C setsid /bin/bash -p -- "$WATCHER"
 }
 
 start_watcher() {
   undo_entry "$WATCHER_ENTRY" || true
-  # The application asks as soon as we have ended, perhaps before the watcher has looked.
+  # The application looks as soon as this run has ended, perhaps before the watcher does.
   ! rules_stand || note_rules standing || true
   write_file "$WATCHER" 0600 root "$(print_watcher)"$'\n' || die "The file $WATCHER cannot be written."
   launch_watcher </dev/null >/dev/null 2>&1 &
 }
 
-# kill_stray_watcher: without a record, root's process of that very command in this network is ours.
+# kill_stray_watcher: without a record, kills root's processes with that very command in this network namespace.
 kill_stray_watcher() {
   local folder word words
   for folder in /proc/[1-9]*; do
@@ -217,7 +217,7 @@ kill_stray_watcher() {
   done
 }
 
-# await_standstill PID: for half a second at most, until a process that was told to stop has done so.
+# await_standstill PID: waits up to half a second until a stopped process stands still.
 await_standstill() {
   local poll line
   for ((poll = 0; poll < 50; poll++)); do
@@ -227,12 +227,12 @@ await_standstill() {
   done
 }
 
-# end_recorded: kills the process of the entry that was read, which never waits for us, and what it has started.
+# end_recorded: kills the process of the entry that was read, which never waits for the helper, and its children.
 end_recorded() {
   local pid child all
   find_recorded || return 0
   pid=$RECORDED_PID
-  # A child that it is just starting would be missed; what stands still starts none.
+  # A child that it is just starting would be missed; a stopped process starts none.
   kill -STOP "$pid" || true
   await_standstill "$pid"
   read_children "$pid"
@@ -249,14 +249,14 @@ end_recorded() {
   for child in $all; do await_standstill "$child"; done
 }
 
-# undo_watcher: a change of rules that it was in the middle of keeps the rules' lock, so that the firewall opens after that.
+# undo_watcher: a watcher that is just changing rules holds the rules' lock, so the firewall is opened after that.
 undo_watcher() {
   rm -f -- "$WATCHER"
   end_recorded
-  # A copy of the rules that it was comparing with just then.
+  # Remove the copy of the rules that it may have been comparing.
   nft -f - <<<"delete table inet $TABLE-copy" >/dev/null 2>&1 || true
-  rm -f -- "$KILL_SWITCH_NOTE"   # it writes no other any more
+  rm -f -- "$KILL_SWITCH_NOTE"   # the watcher writes no new one
 }
 
-# watcher_runs: whether the watcher of the journal is alive.
+# watcher_runs: whether the process in the journal is alive.
 watcher_runs() { journal_read "$WATCHER_ENTRY" && find_recorded; }

@@ -8,7 +8,7 @@
 namespace veldmark {
 
 namespace {
-// A program that removes the rules again and again is told of once in so long.
+// At most one notification per minute when another program removes the rules repeatedly.
 constexpr qint64 putBackPauseSeconds = 60;
 } // namespace
 
@@ -21,9 +21,10 @@ void Alerts::look()
 {
     const Snapshot &now = m_session.now();
     const Phase before = std::exchange(m_phase, now.phase);
-    // What the user asks for goes by way of `disconnecting`. Tor may die after somebody else has
-    // restored the network; then nothing is left over.
-    // Where another process's session has come, what the banner says is about something else.
+    // A disconnect by the user passes through `disconnecting`, so neither change below is the
+    // user's. Tor may also die after another process has restored the network; then the phase is
+    // `disconnected`. When another process's session has replaced this one, the banner is about
+    // something else.
     const bool isReplaced = now.phase == Phase::stale && !now.hasTorStopped;
     if (before == Phase::connected
         && (now.phase == Phase::stale || now.phase == Phase::disconnected))
@@ -38,7 +39,7 @@ void Alerts::look()
         && now.isExposed();
     if (!std::exchange(m_wasExposed, isExposed) && isExposed
         && m_danger == Verdict::Danger::dnsLeak)
-        tellDanger(Verdict::Danger::exposed); // the look-ups alone would be half of what is known
+        tellDanger(Verdict::Danger::exposed); // the DNS alert alone told only half of it
     tellPutBack(std::exchange(m_killSwitch, now.killSwitch));
 }
 
@@ -59,13 +60,14 @@ void Alerts::tellDanger(Verdict::Danger danger)
         tell(tr("Lookups can go around Tor"), now.dns.text().translated());
         return;
     case Danger::killSwitchUnknown:
-        if (std::exchange(m_wasWatched, false)) // perhaps a worse danger was told when that began
+        // a worse danger may have been told when the rules became unknown
+        if (std::exchange(m_wasWatched, false))
             tell(
                 tr("The kill switch is not watched"),
                 tr("It can't be told whether it stands. Open Veldmark, disconnect and connect again."));
         return;
     case Danger::none:
-    case Danger::stalled: // nothing is at risk, and whoever wants something of the network looks
+    case Danger::stalled: // no traffic is at risk, and the user notices the missing network
     case Danger::exitNotConfirmed:
     case Danger::leftOver:
         return;
@@ -81,7 +83,7 @@ void Alerts::tellPutBack(const std::optional<KillSwitch> &before)
             m_putBackTold = {};
         return;
     }
-    // What happened to a session before we saw it is no news.
+    // What happened before this object first saw the session is not told.
     if (before == now.killSwitch || (!before && now.phase == Phase::stale))
         return;
     const bool wasPutBack = before && before->state == KillSwitch::State::putBack;

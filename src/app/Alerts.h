@@ -4,9 +4,9 @@
 
 namespace veldmark {
 
-// Tells the desktop when protection is lost: Tor died, traffic or look-ups can leave around it,
-// somebody removed the firewall's rules. Each change of that state is told, not each time that it
-// is noticed, and never anything that the user has asked for. Main thread.
+// Notifies the desktop when protection is lost: Tor died, traffic or DNS lookups can leave around
+// it, or another program removed the firewall's rules. Each change of state is told once. What the
+// user has asked for is never told. Main thread.
 class Alerts : public QObject {
     Q_OBJECT
 
@@ -30,9 +30,9 @@ private:
     Verdict::Danger m_danger = Verdict::Danger::none;
     std::optional<KillSwitch> m_killSwitch;
     bool m_wasExposed = false;
-    // the rules were seen standing, and nobody was told of the contrary since
+    // The rules were seen in place, and no notification has said otherwise since.
     bool m_wasWatched = false;
-    QDateTime m_putBackTold; // when the rules were put back as told last
+    QDateTime m_putBackTold; // when the rules were put back, as last told
 };
 
 } // namespace veldmark

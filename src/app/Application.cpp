@@ -31,7 +31,7 @@ Application::Application(const PlatformProfile &profile)
         &m_guard, &QuitGuard::mayEnd, qApp, [] { QCoreApplication::exit(0); },
         Qt::QueuedConnection);
     QObject::connect(&m_windows, &Windows::failed, this, [this](const QString &reason) {
-        // Not a window of our own: those are what does not work.
+        // A message box of Qt's, since the program's own windows are what failed.
         QMessageBox::critical(
             nullptr, tr("Veldmark"),
             tr("A window could not be made. Your network is not affected; to restore it "
@@ -60,8 +60,8 @@ void Application::joinDeparture()
 
 bool Application::eventFilter(QObject *watched, QEvent *event)
 {
-    // Nothing here asks Qt to quit: this is the desktop's word. (The request to save what is open,
-    // which comes before, may belong to a logout that is called off, or to none.)
+    // Nothing in this program asks Qt to quit, so the desktop did. (Qt's earlier request to save
+    // open documents is ignored: the logout may still be cancelled, or there may be none.)
     if (watched != qApp || event->type() != QEvent::Quit)
         return QObject::eventFilter(watched, event);
     event->ignore();
@@ -139,7 +139,7 @@ void Application::onTrayHostChanged()
     QObject::connect(m_tray.get(), &Tray::openWanted, this,
                      [this] { m_windows.open(QStringLiteral("main")); });
     QObject::connect(m_tray.get(), &Tray::panelWanted, this, [this] {
-        // A Wayland window cannot say where it wants to be.
+        // A Wayland client cannot place its windows.
         if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
             m_windows.open(QStringLiteral("main"));
         else
@@ -152,9 +152,9 @@ void Application::onTrayHostMissing()
     if (m_windows.isAnyShown())
         return;
     if (m_windows.find(QStringLiteral("main")))
-        tellHidden(); // its user has closed it
+        tellHidden(); // the user has closed the window
     else
-        m_windows.open(QStringLiteral("main")); // nothing would be there to see or to use
+        m_windows.open(QStringLiteral("main")); // else the program could not be seen or used
 }
 
 void Application::onMainClosed()

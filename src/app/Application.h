@@ -17,20 +17,20 @@
 
 namespace veldmark {
 
-// The running desktop application: builds everything once, starts the session, and joins windows,
-// tray, quit guard and the ways in which it can be told to end. Main thread.
+// The running desktop application: builds all parts once, starts the session, and connects windows,
+// tray, quit guard and the requests to end. Main thread.
 class Application : public QObject {
     Q_OBJECT
 
 public:
     explicit Application(const PlatformProfile &profile);
 
-    // Becomes the user's one instance and shows itself, unless `hidden`; connects when `connectNow`
-    // or the user's settings say so. The error is one line.
+    // Becomes the user's one instance and opens the main window, unless `hidden`. Connects when
+    // `connectNow` or the user's settings say so. The error is one line.
     Result<void, Text> start(bool hidden, bool connectNow);
 
     const Windows &windows() const { return m_windows; }
-    // null until the desktop has had a place for it
+    // Null until the desktop has had a tray.
     const Tray *tray() const { return m_tray.get(); }
 
 protected:
@@ -57,11 +57,12 @@ private:
     SignalWatcher m_signals;
     ShutdownNotice m_shutdown;
     TrayHost m_trayHost;
-    std::unique_ptr<Tray> m_tray; // Qt brings the icon back by itself when the host does
+    std::unique_ptr<Tray> m_tray; // Qt restores the icon by itself when the tray's host returns
     std::unique_ptr<InstanceServer> m_server;
-    // that it runs without anything to see, since the tray's host last came or went
+    // The user was told, since the tray's host last came or went, that the program runs unseen.
     bool m_isToldHidden = false;
-    QObject m_lifetime; // goes first, so that what the others' ends resume finds it gone
+    // destroyed first: a coroutine that the other members' destructors resume finds it gone
+    QObject m_lifetime;
 };
 
 } // namespace veldmark

@@ -40,7 +40,7 @@ ControllerSession::ControllerSession(TorController &controller, SettingsStore &s
 {
     for (const Field *field : controller.fields())
         QObject::connect(field, &Field::changed, this, &ControllerSession::schedule);
-    // The exit's country is known from the circuits, also while no window shows them.
+    // The circuits tell the exit's country. It is needed even while no window shows them.
     QObject::connect(&controller.exitIP, &Field::changed, this, [this] {
         if (m_controller.exitIP())
             refreshCircuits();
@@ -60,7 +60,7 @@ void ControllerSession::schedule()
 
 void ControllerSession::read()
 {
-    m_controller.readSettingsProblems(); // what the windows' places were refused, too
+    m_controller.readSettingsProblems(); // includes what the windows' places failed to store
     m_scheduled = false;
     const TorController &c = m_controller;
     Snapshot next;
@@ -81,7 +81,7 @@ void ControllerSession::read()
     if (!next.errorMessage && !c.settingsProblems().isEmpty())
         next.errorMessage = c.settingsProblems().constFirst();
     next.killSwitch = c.killSwitch();
-    // What was found out about a session is not true of what is left of it.
+    // Check results are valid only while connected.
     if (next.phase == Phase::connected) {
         next.bytesRead = c.bytesRead();
         next.bytesWritten = c.bytesWritten();
@@ -134,7 +134,7 @@ QCoro::Task<void> ControllerSession::lookOnceSshIsKnown()
     const QPointer<ControllerSession> self(this);
     co_await m_controller.askTerminalHint();
     if (self)
-        lookAgain(); // what concerns ssh is installed by now
+        lookAgain(); // the integration with ssh is installed by now
 }
 
 std::vector<ExitChoice> ControllerSession::exitChoices() const
@@ -177,7 +177,7 @@ void ControllerSession::connectToTor()
 void ControllerSession::disconnectFromTor()
 {
     if (!m_controller.isSessionMarkerPresent())
-        m_controller.lookAtSession(); // somebody else has restored the network
+        m_controller.lookAtSession(); // another process has restored the network
     m_controller.disconnect();
 }
 
@@ -227,7 +227,7 @@ void ControllerSession::refreshCircuits()
         readCircuits();
 }
 
-// One reading at a time: a Tor that does not answer is not asked by one more every few seconds.
+// One reading at a time, so that requests do not pile up on a Tor that does not answer.
 QCoro::Task<void> ControllerSession::readCircuits()
 {
     const QPointer<ControllerSession> self(this);
@@ -243,7 +243,7 @@ QCoro::Task<void> ControllerSession::readCircuits()
 
 void ControllerSession::dismissError()
 {
-    // Only what the user has seen; what stands behind it, or has come meanwhile, is shown next.
+    // Dismisses only the message that the user has seen. The next message is shown afterwards.
     if (m_controller.errorMessage() && m_controller.errorMessage() == m_now.errorMessage)
         m_controller.dismissError();
     else if (!m_controller.settingsProblems().isEmpty()
@@ -255,7 +255,7 @@ void ControllerSession::dismissError()
 void ControllerSession::lookAgain()
 {
     m_terminalIsKnown = false;
-    schedule(); // the next snapshot looks
+    schedule(); // the next snapshot reads the files
 }
 
 void ControllerSession::lookForTransports()

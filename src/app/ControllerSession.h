@@ -14,7 +14,7 @@ namespace veldmark {
 class TorController;
 
 // The session that views see, on top of the controller. Reads the controller's fields once after
-// any number of them have changed, and hands intents on as the controller's operations.
+// any number of them have changed, and passes intents on as the controller's operations.
 class ControllerSession final : public Session {
     Q_OBJECT
 
@@ -69,15 +69,16 @@ private:
     RunningApplications &m_applications;
     bool m_scheduled = false;
     bool m_isReadingCircuits = false;
-    bool m_circuitsWanted = false; // once more after those that are being read
+    bool m_circuitsWanted = false; // read once more after the reading under way
     bool m_terminalModeWasOn = false;
-    bool m_terminalIsKnown = false; // the two below are true; they cost reading the user's files
+    // the two flags below are current; finding them reads the user's files
+    bool m_terminalIsKnown = false;
     bool m_terminalInstalled = false;
     bool m_terminalForSsh = false;
     Findings m_findings;
     bool m_isExamining = false;
-    ChildProcessRunner m_processes; // of the examiner
-    Examiner m_examiner;            // the last: who waits for it is resumed when it goes
+    ChildProcessRunner m_processes; // for the examiner
+    Examiner m_examiner;            // the last member: its destruction resumes its waiting callers
 };
 
 } // namespace veldmark

@@ -34,7 +34,7 @@ void Departure::restore()
     if (m_patient)
         return;
     m_patient = true;
-    m_withdrawal.begin(); // goes on where an earlier one was not waited for any longer
+    m_withdrawal.begin(); // continues an earlier run that was no longer waited for
     losePatience(++m_run);
 }
 

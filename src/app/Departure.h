@@ -10,26 +10,27 @@ namespace veldmark {
 
 class Clock;
 
-// How the program leaves when it is told to from outside: by a signal, by the end of the desktop's
-// session or of the computer's day. The network is restored first and nobody is asked, except for
-// the password where the helper needs one. That takes `patience` at most; then the program leaves
-// the network as it is, and its next start shows that. Main thread.
+// Ends the program on signals, logout or shutdown. Restores the network first, without asking the
+// user, except for the password where the helper needs one. Waits `patience` at most. After that
+// the program leaves the network as it is, and its next start shows the left-over session. Main
+// thread.
 class Departure : public QObject {
     Q_OBJECT
 
 public:
-    // Longer than the helper waits for another run of itself.
+    // Longer than the helper waits for another helper process.
     static constexpr std::chrono::seconds patience{25};
 
     // Both must outlive the object.
     Departure(TorController &controller, Clock &clock);
 
-    // Restores, then mayEnd(). The second SIGTERM or SIGINT lets the program end at once. SIGHUP is
-    // never a second one: systemd sends it together with SIGTERM, and a terminal twice.
+    // Restores, then mayEnd(). A second SIGTERM or SIGINT lets the program end at once. SIGHUP
+    // never counts as a second signal: systemd sends it together with SIGTERM, and a terminal sends
+    // it twice.
     void onSignal(int number);
-    // Restores, then mayEnd(): the desktop's session is over.
+    // Restores, then mayEnd(). The desktop's session is over.
     void leave();
-    // Restores, then settled(). Whether the program ends is for others to say.
+    // Restores, then settled(). The caller decides whether the program ends.
     void restore();
 
 Q_SIGNALS:
@@ -42,9 +43,9 @@ private:
 
     Clock &m_clock;
     Withdrawal m_withdrawal;
-    quint64 m_run = 0;      // so that an old wait does not end a new one
+    quint64 m_run = 0;      // identifies the current wait, so that an old one does not end it
     bool m_patient = false; // a wait is under way
-    int m_insistence = 0;   // how often SIGTERM or SIGINT came
+    int m_insistence = 0;   // number of SIGTERM and SIGINT received
     bool m_leaving = false;
 };
 

@@ -8,7 +8,7 @@
 #include <QFileDialog>
 #include <QUrl>
 
-// The portal's filter, (sa(us)): a name, and patterns of which kind 0 are shell wildcards.
+// The portal's filter, (sa(us)): a name, and patterns. Patterns of kind 0 are shell wildcards.
 struct PortalPattern {
     uint kind = 0;
     QString pattern;
@@ -73,8 +73,8 @@ void FileChooser::ask(const Question &question)
     qDBusRegisterMetaType<QList<PortalPattern>>();
     qDBusRegisterMetaType<PortalFilter>();
     qDBusRegisterMetaType<QList<PortalFilter>>();
-    // The answer is a signal of an object whose path is agreed on, so that it cannot come too
-    // early.
+    // The answer is a signal of an object whose path the caller chooses. Listening before the call
+    // makes sure that no answer is missed.
     const QString token = QStringLiteral("veldmark%1").arg(m_asked);
     const QString sender = m_bus.baseService().mid(1).replace(u'.', u'_');
     listen(object + QStringLiteral("/request/%1/%2").arg(sender, token));
@@ -104,11 +104,11 @@ void FileChooser::ask(const Question &question)
 void FileChooser::onAnswer(const QDBusPendingCall &call)
 {
     const QDBusPendingReply<QDBusObjectPath> reply = call;
-    if (reply.isError()) { // there is no portal, or it has no dialogue
+    if (reply.isError()) { // there is no portal, or it has no file dialogue
         stopListening();
         askWithQt();
     } else if (!m_request.isEmpty() && reply.value().path() != m_request) {
-        listen(reply.value().path()); // portals older than the agreement
+        listen(reply.value().path()); // older portals choose the path themselves
     }
 }
 
@@ -131,7 +131,7 @@ void FileChooser::stopListening()
 void FileChooser::onResponse(uint response, const QVariantMap &results, const QDBusMessage &message)
 {
     if (message.path() != m_request)
-        return; // of an earlier question; it was under way when this one was asked
+        return; // the answer to an earlier question
     stopListening();
     QStringList files;
     for (const QString &uri : results.value(QStringLiteral("uris")).toStringList()) {

@@ -8,17 +8,17 @@
 
 namespace veldmark {
 
-// Asks for files with the desktop's own dialogue: by way of its portal where one answers, else with
-// Qt's. One question at a time; a new one takes the place of an open one, whose answer is then
-// ignored. Main thread.
+// Asks for files with the desktop's own dialogue: through its portal where there is one, else with
+// Qt's. One question at a time. A new question replaces an open one, whose answer is then ignored.
+// Main thread.
 class FileChooser : public QObject {
     Q_OBJECT
 
 public:
     struct Question {
         QString title = {};
-        QString folder = {}; // where to begin
-        // "Applications", "*.desktop"; empty: every file
+        QString folder = {}; // where the dialogue starts
+        // For example "Applications" and "*.desktop". Empty: every file.
         QString filterName = {}, filterPattern = {};
         bool several = false;
     };
@@ -28,7 +28,7 @@ public:
     void ask(const Question &question);
 
 Q_SIGNALS:
-    void chosen(const QStringList &files); // absolute paths; nothing is said when the user cancels
+    void chosen(const QStringList &files); // absolute paths; not emitted when the user cancels
 
 private Q_SLOTS:
     void onResponse(uint response, const QVariantMap &results, const QDBusMessage &message);
@@ -41,7 +41,7 @@ private:
 
     QDBusConnection m_bus;
     Question m_question;
-    QString m_request; // the portal's object for the open question
+    QString m_request; // path of the portal's object for the open question
     quint64 m_asked = 0;
 };
 

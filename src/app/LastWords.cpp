@@ -14,7 +14,7 @@ namespace veldmark {
 
 namespace {
 
-// Made early and never destroyed: at exit nothing else can be relied on.
+// Made early and not freed by exit(), which may run when little else still works.
 struct Words {
     PlatformProfile profile;
     QByteArray text;

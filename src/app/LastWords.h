@@ -6,19 +6,17 @@ namespace veldmark {
 
 struct PlatformProfile;
 
-// What the program says on standard error when the process is ended behind its back: Qt calls
-// exit() when the display goes. While the network is set up for Tor it stays so then, with the kill
-// switch closed, as after a crash; the next start shows it. Exists for as long as main() does,
-// once.
+// Prints recovery instructions when Qt calls exit() itself, as it does when the display goes away.
+// If the network is set up for Tor then, it stays so with the kill switch closed, as after a crash,
+// and the next start shows it. main() owns the one object, for its whole run.
 class LastWords {
 public:
     explicit LastWords(const PlatformProfile &profile);
-    ~LastWords(); // an orderly end, which has nothing to add
-    // Whether the network is set up for Tor, and not by another process that runs, whose it is to
-    // restore.
+    ~LastWords(); // an orderly end: prints nothing
+    // Whether the network is set up for Tor by a session that is not another running process's.
     static bool isNetworkLeft(const PlatformProfile &profile);
-    // What a start that fails says besides, on lines of its own; empty unless isNetworkLeft(): it
-    // was perhaps meant to restore.
+    // Recovery instructions to add, on lines of their own, when a start fails: the user may have
+    // wanted to restore the network. Empty unless isNetworkLeft().
     static QString advice(const PlatformProfile &profile);
     LastWords(const LastWords &) = delete;
     LastWords &operator=(const LastWords &) = delete;

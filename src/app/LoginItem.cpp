@@ -11,7 +11,7 @@ namespace {
 
 constexpr qint64 entryLimitBytes = 64 * 1024;
 
-// The value of a key in the entry's own group; empty when there is none.
+// The value of a key in the "[Desktop Entry]" group; empty when there is none.
 QByteArray valueOf(const QByteArray &entry, const QByteArray &key)
 {
     bool isOwnGroup = false;
@@ -33,7 +33,7 @@ bool LoginItem::isSet() const
     QFile file(m_path);
     if (m_path.isEmpty() || !file.open(QIODevice::ReadOnly))
         return false;
-    // Both are ways in which desktops switch an entry off without removing it.
+    // Desktops use both keys to switch an entry off without removing it.
     const QByteArray text = file.read(entryLimitBytes);
     return valueOf(text, "Hidden") != "true"
         && valueOf(text, "X-GNOME-Autostart-enabled") != "false";
@@ -41,7 +41,8 @@ bool LoginItem::isSet() const
 
 QString LoginItem::entry(const QString &executable)
 {
-    // Two layers: the quoting of Exec, whose backslashes the key file's format halves first.
+    // Two layers of quoting: Exec has its own, and the key file's format halves the backslashes
+    // first.
     QString quoted = executable;
     for (const QChar special : {u'\\', u'"', u'`', u'$'})
         quoted.replace(special, QStringLiteral("\\") + special);
@@ -56,7 +57,7 @@ Result<void, Text> LoginItem::set(bool on) const
     if (m_path.isEmpty())
         return Failure(Text::tr("Login items can't be changed here."));
     if (on == isSet())
-        return {}; // also an entry that somebody has changed to their liking
+        return {}; // keeps an entry that the user has edited
     if (!on) {
         if (!QFile::remove(m_path))
             return Failure(Text::tr("Couldn't remove %1.").arg(m_path));

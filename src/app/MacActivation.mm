@@ -5,7 +5,7 @@
 
 #include <utility>
 
-// Compiled without automatic reference counting. What is made here lives as long as the program.
+// Compiled without automatic reference counting. The objects made here live as long as the program.
 
 @interface VeldmarkEvents : NSObject {
 @public
@@ -18,7 +18,7 @@
 
 @implementation VeldmarkEvents
 
-// The event that started the program is the current one now, and only now.
+// The event that started the program is the current one only during this call.
 - (void)didLaunch:(NSNotification *)notification
 {
     (void)notification;
@@ -26,7 +26,7 @@
     NSAppleEventDescriptor *const event = [manager currentAppleEvent];
     const bool atLogin = [event eventID] == kAEOpenApplication &&
         [[event paramDescriptorForKeyword:keyAEPropData] enumCodeValue] == keyAELaunchedAsLogInItem;
-    // AppKit has set its own by now.
+    // AppKit has installed its own handler by now, so this one replaces it.
     [manager setEventHandler:self
                  andSelector:@selector(reopen:withReply:)
                forEventClass:kCoreEventClass
@@ -57,7 +57,7 @@ VeldmarkEvents *events()
 
 } // namespace
 
-// The bundle says the same in its Info.plist (LSUIElement); this is for the program in a build
+// The bundle's Info.plist says the same (LSUIElement). This call serves the program in a build
 // tree.
 void becomeMenuBarProgram()
 {
@@ -107,8 +107,8 @@ void keepAwake(bool on)
     }
 }
 
-// The system asks the user once whether notifications may be shown, and drops them where the answer
-// is no.
+// The system asks the user once whether the program may show notifications, and drops them if the
+// user refuses.
 void showNotice(const QString &title, const QString &text)
 {
     @autoreleasepool {

@@ -2,8 +2,8 @@
 
 #import <ServiceManagement/ServiceManagement.h>
 
-// The system's own list of login items is the truth; nothing is stored here. Needs macOS 13 and the
-// program in its bundle.
+// The system keeps the list of login items; nothing is stored here. Needs macOS 13 and the program
+// in its bundle.
 namespace veldmark {
 
 bool LoginItem::isSet() const
@@ -19,8 +19,7 @@ Result<void, Text> LoginItem::set(bool on) const
         SMAppService *const service = [SMAppService mainAppService];
         if (on == isSet())
             return {};
-        // The system runs a bundle that came from the network from a place of its own, which is
-        // another one each time.
+        // The system runs a downloaded bundle from a random path that changes at each start.
         if (on
             && QString::fromUtf8([[[NSBundle mainBundle] bundlePath] UTF8String])
                    .contains(QLatin1String("/AppTranslocation/")))

@@ -23,7 +23,7 @@ QuitGuard::~QuitGuard()
 void QuitGuard::quit()
 {
     m_controller.lookAtSession();
-    // nothing of ours to lose or leave
+    // This process has no session to lose or leave.
     if (!m_controller.isSessionMarkerPresent() || m_controller.otherSession()) {
         Q_EMIT mayEnd();
         return;
@@ -33,7 +33,7 @@ void QuitGuard::quit()
             QStringLiteral("main/QuitDialog.qml"),
             {{QStringLiteral("strict"), staysClosed()}, {QStringLiteral("busy"), false}});
         if (!m_dialog)
-            return; // the windows have said why; the network is not left to itself
+            return; // the windows have shown the reason; the program stays, to guard the network
         QObject::connect(m_dialog.get(), SIGNAL(disconnectWanted()), this,
                          SLOT(onDisconnectWanted()));
         QObject::connect(m_dialog.get(), SIGNAL(quitWanted()), this, SLOT(onQuitWanted()));
@@ -44,7 +44,7 @@ void QuitGuard::quit()
     m_dialog->requestActivate();
 }
 
-// What the question says of the kill switch: it stays on only where it is known to be on.
+// Whether the dialogue may say that the kill switch stays on: only when it is known to be on.
 bool QuitGuard::staysClosed() const
 {
     const auto &rules = m_controller.killSwitch();
@@ -63,7 +63,8 @@ void QuitGuard::closeDialog()
         return;
     m_dialog->disconnect(this);
     m_dialog->hide();
-    m_dialog.release()->deleteLater(); // it may be in one of its own signals
+    // deleted later, since the dialogue may be inside one of its own signals
+    m_dialog.release()->deleteLater();
 }
 
 void QuitGuard::onQuitWanted()
@@ -86,7 +87,7 @@ QCoro::Task<void> QuitGuard::disconnectAndQuit()
     if (m_dialog)
         m_dialog->setProperty("busy", true);
     const QPointer<QuitGuard> self(this);
-    if (m_controller.phase() == ConnectionPhase::disconnecting) { // somebody has begun it already
+    if (m_controller.phase() == ConnectionPhase::disconnecting) { // another caller has begun it
         const ResumeOnce<bool> ended;
         m_disconnectEnded = ended;
         const auto heard = QObject::connect(&m_controller.phase, &Field::changed, this,
@@ -111,7 +112,7 @@ void QuitGuard::finish()
     if (wanted && !m_controller.isSessionMarkerPresent())
         Q_EMIT mayEnd();
     else if (wanted)
-        m_windows.open(QStringLiteral("main")); // its banner says why
+        m_windows.open(QStringLiteral("main")); // its banner shows the reason
 }
 
 } // namespace veldmark

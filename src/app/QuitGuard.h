@@ -11,8 +11,8 @@ namespace veldmark {
 
 class TorController;
 
-// Decides whether the program may end: at once while no session marker exists, else only after the
-// user has been asked. Main thread.
+// Decides whether the program may end: at once while no session marker exists, otherwise only after
+// the user has answered a dialogue. Main thread.
 class QuitGuard : public QObject {
     Q_OBJECT
 
@@ -42,8 +42,8 @@ private:
     TorController &m_controller;
     Windows &m_windows;
     std::unique_ptr<QQuickWindow> m_dialog;
-    bool m_quitAfterwards = false; // the disconnect that runs is to be followed by the end
-    // of a disconnect that somebody else has begun
+    bool m_quitAfterwards = false; // quit when the running disconnect has succeeded
+    // Waits for a disconnect that another caller has begun.
     std::optional<ResumeOnce<bool>> m_disconnectEnded;
 };
 

@@ -7,20 +7,20 @@
 
 namespace veldmark {
 
-// logind's word that the computer is about to shut down, and its delay lock, which holds that back
-// for a few seconds (five, where nobody has set another time). Where there is no logind, nothing
-// ever happens. Main thread.
+// Hears from logind that the computer is about to shut down, and holds logind's delay lock, which
+// delays the shutdown for a few seconds (five by default). Without logind it does nothing. Main
+// thread.
 class ShutdownNotice : public QObject {
     Q_OBJECT
 
 public:
     explicit ShutdownNotice(const QDBusConnection &bus);
 
-    // Whether a shutdown is to wait for this program. Asks logind; returns at once.
+    // Holds or releases the delay lock. Asks logind asynchronously.
     void setDelaying(bool on);
 
 Q_SIGNALS:
-    // Whoever hears it calls setDelaying(false) when he is done.
+    // The receiver calls setDelaying(false) when its work is done.
     void shuttingDown();
 
 private Q_SLOTS:
@@ -31,8 +31,8 @@ private:
 
     QDBusConnection m_bus;
     bool m_wanted = false;
-    bool m_asked = false;           // an answer is on its way
-    QDBusUnixFileDescriptor m_lock; // closing it lets go
+    bool m_asked = false;           // a request to logind is under way
+    QDBusUnixFileDescriptor m_lock; // closing it releases the lock
 };
 
 } // namespace veldmark

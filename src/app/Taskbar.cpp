@@ -14,7 +14,7 @@ void leaveOutOfTaskbar(QWindow &window)
     const auto *x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
     if (QGuiApplication::platformName() != QLatin1String("xcb") || !x11 || !x11->display())
         return;
-    // Xlib is there, since Qt's own part for X uses it.
+    // Xlib is loaded, since Qt's X platform plugin uses it.
     using InternAtom = unsigned long (*)(Display *, const char *, int);
     using ChangeProperty = int (*)(Display *, unsigned long, unsigned long, unsigned long, int, int,
                                    const unsigned char *, int);
@@ -24,8 +24,8 @@ void leaveOutOfTaskbar(QWindow &window)
     if (!atom || !change)
         return;
     constexpr unsigned long atomType = 4; // XA_ATOM
-    // PropModeAppend: Qt's own words, of the window that is to stay on top, are kept, and Qt keeps
-    // this one
+    // PropModeAppend keeps the states that Qt has set (the window stays on top). Qt keeps this
+    // state, too.
     constexpr int append = 2;
     Display *const display = x11->display();
     const std::array words{atom(display, "_NET_WM_STATE_SKIP_TASKBAR", 0),

@@ -4,8 +4,8 @@ class QWindow;
 
 namespace veldmark {
 
-// Asks the desktop not to list `window`, which is not on show, in its taskbar. Where the display is
-// no X server it does nothing: Wayland has no such word.
+// Asks the desktop to leave `window`, which is not shown yet, out of its taskbar. Does nothing
+// without an X server: Wayland has no such request.
 void leaveOutOfTaskbar(QWindow &window);
 
 } // namespace veldmark

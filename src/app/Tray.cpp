@@ -46,7 +46,8 @@ void Tray::onActivated(QSystemTrayIcon::ActivationReason reason)
 
 bool Tray::groundIsDark()
 {
-    // GNOME's panel is dark in both of its appearances; elsewhere the panel follows the palette.
+    // GNOME's panel is dark in its light appearance, too. On other desktops the panel follows the
+    // palette.
     if (qEnvironmentVariable("XDG_CURRENT_DESKTOP").contains(QLatin1String("GNOME")))
         return true;
     const QPalette palette = QGuiApplication::palette();
@@ -56,7 +57,7 @@ bool Tray::groundIsDark()
 
 namespace {
 
-// The symbol with a thin edge in the other colour all around.
+// Draws the symbol with a thin edge in the other colour.
 QImage edged(const QString &symbol, int pixels, const QColor &ink, const QColor &edge)
 {
     const int width = std::max(1, pixels / 20);

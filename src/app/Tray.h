@@ -8,26 +8,26 @@
 
 namespace veldmark {
 
-// The program's icon in the tray: a symbol that differs by shape with the session's state, drawn to
-// stand out from the tray's ground by its colour, or else (no panel tells its own) by its edge, and
-// a menu for desktops whose tray shows nothing else.
+// The program's icon in the tray, and its menu. The symbol's shape tells the session's state. The
+// icon contrasts with the panel by its colour or, as no panel tells its own colour, by its edge.
+// The menu serves desktops whose tray shows nothing else.
 class Tray : public QObject {
     Q_OBJECT
 
 public:
-    // Where the icon stands: in a tray, or in the menu bar of a Mac, which colours it by itself and
-    // opens a menu that it knows of with every click.
+    // Where the icon is: in a tray, or in the menu bar of a Mac. The menu bar colours the icon
+    // itself and opens the menu with every click.
     enum class Place { tray, menuBar };
     static Place place();
 
-    // `session` must outlive the tray. Not before TrayHost tells of a host.
+    // `session` must outlive the tray. Construct it only after TrayHost reports a host.
     explicit Tray(Session &session, Place where = place());
 
-    QRect anchor() const; // where the icon is, as far as the desktop tells
+    QRect anchor() const; // the icon's place, as far as the desktop tells it
 
-    // Every size in which trays ask for it.
+    // The icon in every size that trays ask for.
     static QIcon icon(const QString &symbol, bool onDark);
-    // A shape alone, for a place that colours it.
+    // The shape alone, for a place that colours it.
     static QIcon mask(const QString &symbol);
 
 Q_SIGNALS:
@@ -46,7 +46,7 @@ private:
     QMenu m_menu;
     QSystemTrayIcon m_icon{this};
     QAction *m_power = nullptr;
-    QString m_shown; // symbol and ground of the icon in place
+    QString m_shown; // symbol and background of the current icon
 };
 
 } // namespace veldmark

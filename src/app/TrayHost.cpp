@@ -25,8 +25,8 @@ bool onX11()
     return QGuiApplication::platformName() == QLatin1String("xcb");
 }
 
-// Whether a window of the X server's takes icons in. Xlib is there, since Qt's own part for X uses
-// it.
+// Whether the X server has a window that takes tray icons. Xlib is loaded, since Qt's X platform
+// plugin uses it.
 bool hasX11Tray()
 {
 #if QT_CONFIG(xcb)
@@ -64,7 +64,8 @@ TrayHost::TrayHost(const QDBusConnection &bus, Clock &clock)
         m_onDisplay = hasX11Tray();
         m_display.start();
     } else if (!m_bus.isConnected()) {
-        m_onDisplay = QSystemTrayIcon::isSystemTrayAvailable(); // a system with a place of its own
+        // a system with its own place for icons
+        m_onDisplay = QSystemTrayIcon::isSystemTrayAvailable();
     }
     ask();
     if (!isPresent())

@@ -29,7 +29,7 @@ WindowPlaces::WindowPlaces(SettingsStore &settings) : m_settings(settings)
     for (QScreen *screen : QGuiApplication::screens())
         watch(screen);
     QObject::connect(qApp, &QGuiApplication::screenAdded, this, &WindowPlaces::watch);
-    // Queued: Qt moves the windows of a screen that goes to another one first.
+    // Queued: when a screen goes, Qt first moves its windows to another screen.
     QObject::connect(qApp, &QGuiApplication::screenRemoved, this, &WindowPlaces::bringBack,
                      Qt::QueuedConnection);
 }
@@ -44,7 +44,7 @@ QList<QRect> WindowPlaces::usableAreas()
 {
     QList<QRect> areas;
     for (const QScreen *screen : QGuiApplication::screens())
-        areas << screen->availableGeometry(); // the primary one is the first
+        areas << screen->availableGeometry(); // the primary screen is first
     return areas;
 }
 
@@ -72,7 +72,7 @@ void WindowPlaces::remember(const QString &name, QQuickWindow *window, Height he
 void WindowPlaces::keep(const QString &name, const QQuickWindow *window, Height height)
 {
     if (window->windowStates() & (Qt::WindowMaximized | Qt::WindowFullScreen | Qt::WindowMinimized))
-        return; // not a place that anybody chose for it
+        return; // the user has not chosen this place
     const QString now = text(QRect(window->framePosition(), window->size()));
     if (m_settings.string(key(name)) != now)
         m_settings.setString(key(name), now);
@@ -106,7 +106,7 @@ QRect WindowPlaces::within(const QList<QRect> &screens, QRect place)
     const QRect &room = *std::max_element(
         screens.begin(), screens.end(), [&place](const QRect &a, const QRect &b) {
             return area(a.intersected(place)) < area(b.intersected(place));
-        }); // the first of equals
+        }); // the first of equal ones
     place.setSize(place.size().boundedTo(room.size()));
     place.moveLeft(std::clamp(place.left(), room.left(), room.right() - place.width() + 1));
     place.moveTop(std::clamp(place.top(), room.top(), room.bottom() - place.height() + 1));

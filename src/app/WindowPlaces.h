@@ -11,24 +11,25 @@ namespace veldmark {
 
 class SettingsStore;
 
-// Remembers how large each window was and where it stood, frame included, and keeps windows on the
-// screens that there are. Where programs cannot place their windows (Wayland) only sizes count.
-// Main thread.
+// Remembers size and position of each window, frame included, and keeps windows on the present
+// screens. Where programs cannot place their windows (Wayland), only sizes count. Main thread.
 class WindowPlaces : public QObject {
     Q_OBJECT
 
 public:
-    // What a window does with the height that it is given. One whose content decides has the
-    // property `chosenHeight`, which its user's own height is, or 0; only that one is remembered.
+    // How a window's height is decided. `ownedByContent`: by its content, and only the height that
+    // the user has chosen is remembered, from the property `chosenHeight` (0 when the user has
+    // chosen none).
     enum class Height { remembered, ownedByContent };
 
     // `settings` must outlive the object; the windows need not.
     explicit WindowPlaces(SettingsStore &settings);
 
-    // To be called before the window is shown. Puts it where it was when keep() was last called,
-    // or leaves it to the window manager.
+    // Called before the window is shown. Restores the place that keep() last stored, or leaves the
+    // place to the window manager.
     void remember(const QString &name, QQuickWindow *window, Height height = Height::remembered);
-    // The window is about to go: its place is kept on disk. Only of a window that was remembered.
+    // Called before the window goes. Stores its place on disk. Only for windows passed to
+    // remember().
     void keep(const QString &name, const QQuickWindow *window, Height height = Height::remembered);
 
     // `place` moved, and shrunk if it must be, so that it lies within one of `screens` (their
@@ -39,7 +40,7 @@ public:
 
 private:
     void watch(QScreen *screen);
-    void bringBack(); // what the screens that are left do not show
+    void bringBack(); // windows outside the remaining screens
     static QList<QRect> usableAreas();
     static QString key(const QString &name) { return QStringLiteral("windows/") + name; }
     static QString heightKey(const QString &name) { return key(name) + QStringLiteral("Height"); }

@@ -50,7 +50,7 @@ Windows::Windows(Session &session, LogFeed &log, SettingsStore &settings)
 Windows::~Windows()
 {
     for (const auto &[name, window] : m_windows) {
-        window->disconnect(this); // that they go now is nobody's doing
+        window->disconnect(this); // closing by the destructor is not the user's
         if (window->isVisible())
             keepPlace(name, window.get());
     }
@@ -112,7 +112,7 @@ bool Windows::ensure(const QString &name)
         QObject::connect(shown, SIGNAL(torChooserWanted()), this, SLOT(chooseTor()));
     if (name == QLatin1String("chooser"))
         QObject::connect(shown, SIGNAL(fileWanted()), this, SLOT(chooseEntries()));
-    if (name != QLatin1String("panel")) // which stands where the tray is
+    if (name != QLatin1String("panel")) // the panel's place is at the tray
         m_places.remember(name, shown, heightOf(name));
     QObject::connect(shown, &QWindow::visibleChanged, this, [this, name](bool visible) {
         if (!visible)
@@ -129,7 +129,7 @@ void Windows::keepPlace(const QString &name, const QQuickWindow *window)
 
 void Windows::onHidden(const QString &name)
 {
-    keepPlace(name, m_windows[name].get()); // Qt tells before the window loses its place
+    keepPlace(name, m_windows[name].get()); // Qt emits this before the window loses its place
     if (name == QLatin1String("main"))
         Q_EMIT mainClosed();
     if (name == QLatin1String("main") || name == QLatin1String("panel"))
@@ -150,7 +150,7 @@ bool Windows::open(const QString &name)
     if (!ensure(name))
         return false;
     if (name == QLatin1String("main"))
-        m_session.lookForTransports(); // its options tell what bridges need
+        m_session.lookForTransports(); // its options show what the bridges need
     QQuickWindow *window = m_windows[name].get();
     window->show();
     window->raise();
@@ -177,7 +177,7 @@ void Windows::togglePanel(const QRect &anchor)
     const int bottom = std::max(room.top(), room.bottom() - panel->height() - 8);
     panel->setPosition(std::clamp(anchor.center().x() - panel->width() / 2, room.left(), right),
                        std::clamp(anchor.bottom() + 4, room.top(), bottom));
-    leaveOutOfTaskbar(*panel); // each time: what a window asked for is forgotten when it is hidden
+    leaveOutOfTaskbar(*panel); // each time, since hiding the window clears the request
     panel->show();
     panel->raise();
     panel->requestActivate();

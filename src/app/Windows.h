@@ -18,9 +18,8 @@
 namespace veldmark {
 
 // The program's windows by name: "main", "panel", "circuits", "log", "settings", "chooser". A
-// window is made when it is first wanted; all but "main" and "panel" go when they are closed, so
-// that a program that only sits in the tray stays small. Where they stood is remembered. Main
-// thread.
+// window is made when it is first wanted. All but "main" and "panel" are destroyed when closed, so
+// that the program uses little memory in the tray. Their places are remembered. Main thread.
 class Windows : public QObject {
     Q_OBJECT
 
@@ -29,13 +28,13 @@ public:
     Windows(Session &session, LogFeed &log, SettingsStore &settings);
     ~Windows() override;
 
-    // Shows and raises the window. False when it cannot be made; failed() tells why.
+    // Shows and raises the window. False when it cannot be made; failed() gives the reason.
     bool open(const QString &name);
     // Shows the panel at `anchor` (the tray's icon, screen coordinates), or hides it when shown.
     void togglePanel(const QRect &anchor);
     QQuickWindow *find(const QString &name) const;
     bool isAnyShown() const;
-    // A window for a question of the program's own; null when it cannot be made.
+    // A window for one of the program's own questions; null when it cannot be made.
     std::unique_ptr<QQuickWindow> make(const QString &file, const QVariantMap &properties);
 
 Q_SIGNALS:
@@ -65,7 +64,7 @@ private:
     FileChooser m_torChooser;
     FileChooser m_entryChooser;
     QQmlApplicationEngine m_engine;
-    std::map<QString, std::unique_ptr<QQuickWindow>> m_windows; // before the engine goes
+    std::map<QString, std::unique_ptr<QQuickWindow>> m_windows; // destroyed before the engine
 };
 
 } // namespace veldmark

@@ -23,7 +23,7 @@ using namespace veldmark;
 
 namespace {
 
-// Hands the running instance what this second start was for. `command`: "raise" or "connect".
+// Tells the running instance why it was started a second time. `command`: "raise" or "connect".
 QCoro::Task<void> tellOther(std::shared_ptr<InstanceClient> client, QString command)
 {
     const QJsonObject request{{QStringLiteral("command"), command}};
@@ -34,7 +34,7 @@ QCoro::Task<void> tellOther(std::shared_ptr<InstanceClient> client, QString comm
     QCoreApplication::exit(done ? 0 : 1);
 }
 
-// What the command line may say.
+// The command line's options.
 class CommandLine {
 public:
     CommandLine()
@@ -43,7 +43,7 @@ public:
         m_parser.addHelpOption();
         m_parser.addVersionOption();
     }
-    // Ends the program where that answers it.
+    // Ends the program when the command line only asks for an answer.
     void process() { m_parser.process(*QCoreApplication::instance()); }
     bool has(const QCommandLineOption &option) const { return m_parser.isSet(option); }
 
@@ -63,7 +63,7 @@ void nameProgram()
     QCoreApplication::setApplicationVersion(QStringLiteral(VELDMARK_VERSION));
 }
 
-// Whether it only wants to be told something, which needs no display.
+// Whether the command line only asks for information, which needs no display.
 bool isQuestion(int argc, char **argv)
 {
     static constexpr std::array<std::string_view, 5> questions{"-h", "--help", "--help-all", "-v",
@@ -89,7 +89,7 @@ int main(int argc, char **argv)
     keepMemoryPrivate();
     if (isQuestion(argc, argv))
         return answer(argc, argv);
-    // Nothing here needs a GPU, and its drivers cost more memory than the whole program.
+    // The program needs no GPU. GPU drivers use more memory than the whole program.
     if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND"))
         qputenv("QT_QUICK_BACKEND", "software");
     QApplication application(argc, argv);
@@ -108,14 +108,14 @@ int main(int argc, char **argv)
     const PlatformProfile profile = PlatformProfile::current(Places::fromEnvironment());
     if (const auto other = InstanceClient::connectTo(profile)) {
         if (line.has(line.hidden) && !line.has(line.connectNow))
-            return 0; // it is there already
+            return 0; // the instance already runs
         const QString command = line.has(line.connectNow) ? QStringLiteral("connect")
                                                           : QStringLiteral("raise");
         QTimer::singleShot(0, &application, [other, command] { tellOther(other, command); });
         return QApplication::exec();
     }
 
-    const LastTurn lastTurn; // what still waits when the program ends goes after everything else
+    const LastTurn lastTurn; // goes last: lets the coroutines that still wait run to their ends
     const LastWords lastWords(profile);
     Application program(profile);
     if (const auto started = program.start(line.has(line.hidden), line.has(line.connectNow));

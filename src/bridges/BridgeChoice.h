@@ -8,32 +8,32 @@
 
 namespace veldmark {
 
-// Which bridges the user wants Tor to enter the network through.
+// Which bridges Tor uses, as the user chooses.
 enum class BridgeChoice {
-    off,       // none: Tor connects directly
+    off,       // no bridge: Tor connects directly
     obfs4,     // built-in obfs4 bridges, served by lyrebird
     snowflake, // built-in Snowflake bridges
     meek,      // built-in meek bridges, whose transport is called meek_lite
-    custom,    // the lines that the user has pasted
+    custom,    // the lines that the user has entered
 };
 
-// In the order in which a selector lists them.
+// In a selector's order.
 inline constexpr std::array allBridgeChoices = {BridgeChoice::off, BridgeChoice::obfs4,
                                                 BridgeChoice::snowflake, BridgeChoice::meek,
                                                 BridgeChoice::custom};
 
-// What the settings store; never translated.
+// The value in the settings; never translated.
 QString rawValue(BridgeChoice choice);
-// Nothing unless `raw` is exactly one of the five raw values.
+// Absent unless `raw` is exactly one of the five raw values.
 std::optional<BridgeChoice> bridgeChoiceFromRawValue(QStringView raw);
 
 // The name in messages: "Off", "obfs4", "Snowflake", "meek", "Custom".
 QString displayName(BridgeChoice choice);
 
 // The keys under which PluggableTransports::builtin may hold the bridges of this choice, in the
-// order of search; empty for `off` and `custom`. The first is also the name of the transport that
-// those bridges use. meek has more than one because newer bundles file its bridges under "meek"
-// or "meek-azure".
+// order of search; empty for `off` and `custom`. The first key is also the name of the transport
+// that those bridges use. meek has several keys, because newer bundles list its bridges under
+// "meek" or "meek-azure".
 QStringList builtinKeys(BridgeChoice choice);
 
 } // namespace veldmark

@@ -6,8 +6,8 @@
 
 namespace veldmark {
 
-// Why the chosen bridges cannot be used. There is one kind, `unavailable`; its text is the whole
-// sentence that the user reads and is shown as it stands.
+// Why the chosen bridges cannot be used. The only kind is `unavailable`. Its text is the whole
+// sentence, shown to the user unchanged.
 class BridgeError {
 public:
     static BridgeError unavailable(Text text) { return BridgeError(std::move(text)); }

@@ -8,8 +8,8 @@ namespace veldmark::BridgeLines {
 
 namespace {
 
-// [transport ]address:port[ argument…]. Possessive groups and \z: no line, however long, makes the
-// match backtrack or outgrow its stack, and a line break at the end is not overlooked.
+// [transport ]address:port[ argument…]. Possessive groups keep long lines from backtracking or
+// overflowing the stack; \z rejects a line break at the end.
 const QRegularExpression &linePattern()
 {
     static const QRegularExpression pattern = [] {
@@ -84,7 +84,7 @@ QString normalised(QStringView line)
 
     QString words;
     words.reserve(rest.size());
-    bool isWordPending = false; // a blank is due before the next character
+    bool isWordPending = false; // insert a blank before the next character
     for (const QChar c : rest) {
         if (c == u' ' || c == u'\t') {
             isWordPending = !words.isEmpty();

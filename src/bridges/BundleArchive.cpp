@@ -14,7 +14,7 @@ namespace veldmark {
 
 namespace {
 
-// A bundle has some dozen members and 100 MB.
+// A bundle has about a dozen members and 100 MB.
 const ChildLimits listingLimits{180s, 8 * 1024 * 1024};
 constexpr qsizetype memberLimit = 20'000;
 constexpr qint64 unpackedLimitBytes = 2'000'000'000;
@@ -25,7 +25,7 @@ Text refusal(const Text &what, QByteArrayView name)
         .arg(what, QString::fromUtf8(name.first(std::min<qsizetype>(name.size(), 200))));
 }
 
-// A path that stays below the folder it starts from.
+// Whether the path stays below its starting folder.
 bool leadsDownwards(QByteArrayView path)
 {
     if (path.isEmpty() || path.startsWith('/'))
@@ -34,7 +34,7 @@ bool leadsDownwards(QByteArrayView path)
     return !parts.contains("..");
 }
 
-// In "-tv" the size is the third field where owner and group are one ("0/0"), else the fifth.
+// In "-tv" the size is the third field when owner and group are one field ("0/0"), else the fifth.
 std::optional<qint64> sizeIn(const QByteArray &details)
 {
     const QByteArrayList fields = details.left(300).simplified().split(' ');

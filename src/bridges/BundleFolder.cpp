@@ -34,7 +34,7 @@ QString lastSystemError()
     return qt_error_string(errno);
 }
 
-// Whether something has this name, be it a link to nowhere.
+// Whether the name exists, even as a dangling link.
 bool isThere(const QString &path)
 {
     struct stat status { };
@@ -46,7 +46,7 @@ bool moved(const QString &from, const QString &to)
     return ::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
 }
 
-// The archive may have a member of that name, of whatever kind.
+// Removes what the name holds first: the archive may have a member of that name, of any kind.
 bool wrote(const QString &path, const QString &text)
 {
     removeTree(path);
@@ -56,7 +56,7 @@ bool wrote(const QString &path, const QString &text)
         && file.flush();
 }
 
-// A new bundle is on the disk before the old one goes.
+// Writes the new bundle to the disk before the old one is removed.
 void writeThrough(const QString &folder)
 {
 #ifdef Q_OS_LINUX
@@ -152,7 +152,7 @@ void BundleFolder::note(const QString &temporary) const
 {
     const QByteArray line = temporary.isEmpty() ? QByteArray()
                                                 : QFile::encodeName(temporary) + '\n';
-    // A note that cannot be written costs at most a folder that is left in /tmp.
+    // If the note cannot be written, a folder in /tmp may stay behind, nothing else.
     if (::ftruncate(m_lock, 0) == 0
         && ::pwrite(m_lock, line.constData(), static_cast<size_t>(line.size()), 0) < 0)
         qWarning("The temporary folder could not be noted");
@@ -187,7 +187,7 @@ void BundleFolder::removeUnfinished() const
 Result<QString, Text> BundleFolder::fresh()
 {
     QByteArray name = QFile::encodeName(beside(".new-XXXXXX"));
-    // Tor's own account runs programs from here, whatever this user's umask is.
+    // Tor's own account runs programs from here, so the mode must not depend on the user's umask.
     if (::mkdtemp(name.data()) == nullptr || ::chmod(name.constData(), 0755) != 0)
         return Failure(
             Text::tr("Couldn't make a folder beside %1: %2.").arg(m_folder, lastSystemError()));
@@ -212,7 +212,7 @@ void BundleFolder::keepOrigin(const QString &archive, const QString &signature,
         && ::mkdir(QFile::encodeName(place).constData(), 0700) == 0 && QFile::copy(archive, kept)
         && QFile::copy(signature, SignedBundle::signatureOf(kept))
         && QFile::copy(key, SignedBundle::keyOf(kept));
-    if (!isKept) { // then an administrator approves its programs
+    if (!isKept) { // an administrator then approves its programs
         forgetOrigin();
         qWarning("The archive of the bundle could not be kept");
     }
@@ -230,7 +230,7 @@ Result<void, Text> BundleFolder::publish(const QString &version, bool isVerified
         || !wrote(folder + QStringLiteral("/VERIFIED"),
                   isVerified ? QStringLiteral("signature") : QStringLiteral("https")))
         return failed();
-    removeTree(folder + QStringLiteral("/SIGNED")); // not the archive's own
+    removeTree(folder + QStringLiteral("/SIGNED")); // the archive's own member, if any
     if (isVerified && signedAt > 0
         && !wrote(folder + QStringLiteral("/SIGNED"), QString::number(signedAt)))
         return failed();
@@ -240,9 +240,9 @@ Result<void, Text> BundleFolder::publish(const QString &version, bool isVerified
         if (!moved(folder, m_folder))
             return failed();
     } else if (m_exchange(folder, m_folder)) {
-        removeTree(folder); // the old one
+        removeTree(folder); // now holds the old bundle
     } else {
-        // Two steps; whoever comes next finishes them should this process be killed in between.
+        // Two steps. The next claim() finishes them if this process is killed in between.
         if (!moved(m_folder, former))
             return failed();
         if (!moved(folder, m_folder)) {

@@ -13,13 +13,13 @@ namespace {
 
 using Done = Result<void, DownloadError>;
 
-// What a program that failed has to say, or why it did not run.
+// The failed program's error output, or why it did not run.
 Text said(const Result<ProcessResult, Text> &run)
 {
     return run ? Text(run->stderr.simplified()) : run.error();
 }
 
-// Touches nothing but the source afterwards, so the task may be dropped.
+// Uses only the source after the wait, so the task may be dropped.
 QCoro::Task<void> stopAfter(Clock *clock, std::chrono::milliseconds limit, StopSource source)
 {
     co_await clock->sleep(limit);
@@ -121,8 +121,8 @@ QCoro::Task<Done> BundleTools::unpack(std::shared_ptr<BundleTools> tools, QStrin
 {
     if (tools->m_isCancelled)
         co_return Failure(DownloadError::cancelled());
-    // A process that is root must not take the archive's owners over: they are somebody else's
-    // here.
+    // When this process is root, tar must not apply the archive's owners: those ids belong to other
+    // accounts here.
     const QStringList extract = {QStringLiteral("-xzf"),
                                  archive,
                                  QStringLiteral("-C"),

@@ -20,47 +20,47 @@ class Clock;
 class ProcessRunner;
 struct ProcessResult;
 
-// The outside programs of one installation: GnuPG and tar. Each is killed, with what it has
-// started, when its time is over by the clock. Belongs to the thread of the event loop; a run under
-// way keeps the object, so that it is always held by a shared pointer.
+// Runs the external programs of one installation: GnuPG and tar. Each is killed, with its children,
+// when its time limit by the clock is over. Belongs to the thread of the event loop. A run keeps
+// the object alive, so the object is always held by a shared pointer.
 class BundleTools {
 public:
     static constexpr std::chrono::minutes gnupgLimit{2};
     static constexpr std::chrono::minutes unpackLimit{10};
 
-    // Paths of the programs; `gpg` is empty when there is none. `runner` must live until forget();
-    // without one nothing is ever started. `clock` must live as long.
+    // The programs' paths; `gpg` is empty when GnuPG is missing. `runner` must live until forget();
+    // without one no program is started. `clock` must live as long.
     BundleTools(QString tar, QString gpg, ProcessRunner *runner, Clock &clock);
 
     const QString &tar() const { return m_tar; }
     bool hasGnuPG() const { return !m_gpg.isEmpty(); }
 
-    // What runs is killed, and nothing but endAgent() is started any more; the errors say
+    // Kills the running program. After it only endAgent() starts a program, and the errors say
     // "Cancelled.".
     void cancel();
-    // The runner is about to go: nothing is started any more.
+    // The runner is about to be destroyed: no program is started any more.
     void forget() { m_runner = nullptr; }
 
-    // Whether the file `signature` is of the file `archive`, made by the key with this fingerprint,
-    // which the file `key` holds; when it was made, as signatureTime() tells. `home`: GnuPG's own
-    // folder, empty and private. An archive that fails is removed.
+    // Checks that the file `signature` signs the file `archive`, made by the key with this
+    // fingerprint in the file `key`. Returns the time of the signature, as from signatureTime().
+    // `home`: GnuPG's own folder, empty and private. An archive that fails is removed.
     static QCoro::Task<Result<qint64, DownloadError>> verify(std::shared_ptr<BundleTools> tools,
                                                              QString home, QString key,
                                                              QString signature, QString archive,
                                                              QString fingerprint);
-    // Writes the key with this fingerprint, which verify() has put into `home`, to `file`, in the
-    // form that gpgv reads. The file is missing where that fails.
+    // Writes the key with this fingerprint, which verify() has imported into `home`, to `file`, in
+    // the form that gpgv reads. `file` is missing after a failure.
     static QCoro::Task<void> exportKey(std::shared_ptr<BundleTools> tools, QString home,
                                        QString fingerprint, QString file);
     static QCoro::Task<Result<void, DownloadError>> unpack(std::shared_ptr<BundleTools> tools,
                                                            QString archive, QString folder);
-    // Ends the agent that GnuPG may have started for its folder `home`.
+    // Stops the agent that GnuPG may have started for its folder `home`.
     static QCoro::Task<void> endAgent(std::shared_ptr<BundleTools> tools, QString home);
 
 private:
-    // The program's result, or why there is none, in a sentence.
+    // The program's result, or a sentence that says why there is none.
     using Run = Result<ProcessResult, Text>;
-    // cancel() ends the program only when it is told how by `current`.
+    // cancel() stops the program only when `current` is m_current.
     static QCoro::Task<Run> run(std::shared_ptr<BundleTools> tools, QString program,
                                 QStringList arguments, std::chrono::milliseconds limit,
                                 StopSource current);
@@ -69,7 +69,7 @@ private:
     Clock &m_clock;
     const QString m_tar;
     const QString m_gpg;
-    StopSource m_current; // ends what verify(), exportKey() or unpack() has started
+    StopSource m_current; // stops the program of verify(), exportKey() or unpack()
     bool m_isCancelled = false;
 };
 

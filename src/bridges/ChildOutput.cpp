@@ -12,11 +12,11 @@ namespace veldmark {
 
 namespace {
 
-// QProcess waits for nothing else beside its child, so whether that is still wanted is looked at
-// this often.
+// While QProcess waits, it cannot hear a stop request. So the wait is interrupted this often to
+// check.
 constexpr int turnMilliseconds = 25;
 
-// Only while the child has not been waited for: until then its number cannot belong to another.
+// Kills the group only while the child is not reaped: until then its id cannot be reused.
 void end(QProcess &process)
 {
     if (process.state() == QProcess::NotRunning)
@@ -62,7 +62,7 @@ std::optional<QByteArray> childOutput(const QString &program, const QStringList 
         }
         if (deadline.hasExpired() || limits.ended.stop_requested())
             break;
-        // A child that has closed its output and runs on is waited for, not polled.
+        // Waits for a child that has closed its output and runs on, instead of polling it.
         if (!process.waitForReadyRead(remaining()))
             process.waitForFinished(remaining());
     }

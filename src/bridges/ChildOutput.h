@@ -17,14 +17,14 @@ namespace veldmark {
 struct ChildLimits {
     std::chrono::milliseconds time;
     qsizetype outputBytes;
-    StopToken ended = {}; // nobody wants the output any more
+    StopToken ended = {}; // requested when the output is no longer wanted
 };
 
-// Runs a program with an empty standard input that stays open, reads its standard output until it
-// closes, or until `isEnough` says so, and ends it with every process of its group. Standard error
-// goes nowhere. It has no terminal, so it cannot ask the user anything.
-// Nothing when it cannot be started, or went past a limit, or is not wanted any more. Its exit
-// status is not looked at. Blocks; any thread but the one that draws.
+// Runs a program and reads its standard output until the program ends or `isEnough` is true. A
+// program that still runs is then killed with every process of its group. Its standard input is
+// empty and stays open, its standard error is discarded, and it has no terminal, so it cannot ask
+// the user. Absent when the program cannot be started, exceeds a limit, or is no longer wanted. The
+// exit status is ignored. Blocks; any thread but the main one.
 std::optional<QByteArray> childOutput(const QString &program, const QStringList &arguments,
                                       const QProcessEnvironment &environment, ChildLimits limits,
                                       const std::function<bool(const QByteArray &)> &isEnough = {});

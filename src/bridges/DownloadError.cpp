@@ -3,7 +3,7 @@
 namespace veldmark {
 
 namespace {
-// What a program wrote on standard error, as a part of one line.
+// A program's error output, made fit for one line.
 Text oneLine(const Text &text)
 {
     if (!text.isWords())

@@ -6,20 +6,20 @@
 
 namespace veldmark {
 
-// Why the transports' programs could not be downloaded and installed. The description is the
-// sentence that the user reads.
+// Why the transport programs could not be downloaded and installed. The description is the sentence
+// for the user.
 class DownloadError {
 public:
     enum class Kind {
-        http,          // the server answered with another status than success
-        badVersion,    // the index does not name a version
-        badSignature,  // the archive is not what the Tor Project signed
-        extractFailed, // the archive cannot be unpacked, or must not be
-        rollback,      // it is older than what is installed, or not what was announced
-        other,         // the network, the disk, or the user: in their own words
+        http,          // the server's status was no success
+        badVersion,    // the index names no valid version
+        badSignature,  // the Tor Project's signature could not be verified
+        extractFailed, // the archive cannot or must not be unpacked
+        rollback,      // older than the installed bundle, or not the announced version
+        other,         // network, disk, or the user's cancel; the description says which
     };
 
-    // item: what was asked for, as in "Download of the archive failed".
+    // item: what was requested, as in "Download of the archive failed".
     static DownloadError http(int status, const Text &item);
     static DownloadError badVersion();
     static DownloadError badSignature(const Text &detail);

@@ -37,7 +37,7 @@ QStringList filesNamed(const QString &root, const QByteArrayList &names, const S
             ::opendir((top + '/' + folder).constData()));
         if (!directory)
             continue;
-        // Only this thread reads from this stream.
+        // The stream is used by this thread only.
         while (const dirent *entry = ::readdir(directory.get())) {
             const auto name = QByteArray::fromRawData(entry->d_name,
                                                       qsizetype(qstrlen(entry->d_name)));

@@ -24,8 +24,8 @@ using Outcome = Result<QByteArray, DownloadError>;
 
 } // namespace
 
-// One request and what became of it. Owned by the coroutine that waits for the answer, which is
-// resumed through the event loop; so the reply is never deleted inside one of its own signals.
+// One request and its outcome. Owned by the coroutine that waits for the answer. That coroutine is
+// resumed through the event loop, so the reply is never deleted inside one of its own signals.
 class HTTPSSession::Exchange : public QObject {
 public:
     Exchange(Clock &clock, Fetch what) : m_clock(clock), m_what(std::move(what)) { }
@@ -65,7 +65,7 @@ private:
         return m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     }
 
-    // -1 when the server does not say.
+    // -1 when the server does not tell the size.
     qint64 total() const
     {
         const QVariant length = m_reply->header(QNetworkRequest::ContentLengthHeader);
@@ -76,12 +76,12 @@ private:
     {
         noteActivity();
         if (status() != success)
-            return; // an error page: readEnd() reports it
+            return; // an error page, which readEnd() reports
         if (total() > m_what.limitBytes) {
             endTooLong();
             return;
         }
-        // One byte beyond the limit tells "too long" from "just fits".
+        // Reading one byte more than the limit detects a body that is too long.
         const QByteArray part = m_reply->read(m_what.limitBytes + 1 - m_received);
         m_received += part.size();
         if (m_received > m_what.limitBytes) {
@@ -136,7 +136,7 @@ private:
 
     void finish(Outcome outcome)
     {
-        // Its deletion, soon, aborts what is still under way.
+        // The exchange is soon destroyed, which aborts the reply.
         if (m_answer.complete(std::move(outcome)) && m_reply)
             m_reply->disconnect(this);
     }
@@ -174,8 +174,8 @@ void HTTPSSession::cancel()
     m_cancelling.setObjectName(QStringLiteral("cancelled"));
 }
 
-// Looks at the exchange again before each use: it is gone when the answer came in time, and then
-// the clock may be gone too.
+// Checks that the exchange still exists before each use. It is gone when the answer came in time,
+// and then the clock may be gone, too.
 QCoro::Task<void> HTTPSSession::watchLimits(std::weak_ptr<Exchange> watched, Clock *clock)
 {
     const Clock::TimePoint lastMoment = clock->now() + totalLimit;
@@ -190,7 +190,7 @@ QCoro::Task<void> HTTPSSession::watchLimits(std::weak_ptr<Exchange> watched, Clo
             co_return;
         now = clock->now();
         deadline = std::min(lastMoment, exchange->lastActivity() + idleLimit);
-        // Woken too early: the clock is being destroyed.
+        // Resumed too early: the clock is being destroyed.
         if (deadline <= now || now < wakeUp) {
             exchange->timeOut();
             co_return;

@@ -15,9 +15,9 @@ namespace {
 
 constexpr qsizetype outputLimitBytes = 64 * 1024;
 
-// Whether nobody but root can put another program in place of this one: it and every folder above
-// it belong to root and to nobody else's pen. A folder whose entries only their owners may replace
-// (the sticky bit, as on /tmp) will do.
+// Whether only root can replace this program: it and every folder above it belong to root and are
+// writable by nobody else. A folder with the sticky bit, such as /tmp, is accepted, since only
+// owners may replace its entries.
 bool isRootsOwn(const QString &program)
 {
     QString path = QFileInfo(program).canonicalFilePath();
@@ -42,7 +42,7 @@ template <typename Use> void forEachLine(QByteArrayView output, Use use)
     while (!output.isEmpty()) {
         const qsizetype end = output.indexOf('\n');
         if (end < 0)
-            return; // not whole yet
+            return; // the line is incomplete
         use(output.first(end).trimmed());
         output = output.sliced(end + 1);
     }

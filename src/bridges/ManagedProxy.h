@@ -9,30 +9,30 @@
 #include <chrono>
 #include <optional>
 
-// What a transport program says about itself when it is started the way Tor starts it.
+// Asks a transport program what it serves, by starting it the way Tor starts it.
 namespace veldmark {
 
-// The transports among `asked` that `program` serves as a client. It is started as a managed proxy
-// with a state folder of its own, says which listeners it has opened, and is killed; no bridge is
-// contacted. Empty when it cannot be started, ends early, prints something else or has not finished
-// within `limit`, or by the time that `ended` says that nobody asks any more. Blocks for up to that
-// long; any thread but the one that draws.
+// The transports among `asked` that `program` serves as a client. The program is started as a
+// managed proxy with its own state folder, reports the listeners that it opened, and is killed. No
+// bridge is contacted. Empty when it cannot be started, ends early, prints something else or has
+// not finished within `limit`, or when `ended` is requested first. Blocks for up to `limit`; any
+// thread but the main one.
 //
-// A process that is root runs it only when nobody but root can change the program or a folder
-// above it; otherwise the answer is empty.
+// As root, this function runs the program only when nobody but root can change it or a folder above
+// it; otherwise the answer is empty.
 QStringList servedTransports(const QString &program, const QStringList &asked,
                              std::chrono::milliseconds limit = std::chrono::seconds(5),
                              const StopToken &ended = {});
-// The same, and tells a program that serves none of them from one that gave no whole answer:
-// absent.
+// Like servedTransports(), but absent when the program gave no complete answer, and empty when it
+// serves none of them.
 std::optional<QStringList> answeredTransports(const QString &program, const QStringList &asked,
                                               std::chrono::milliseconds limit,
                                               const StopToken &ended);
 
-// The transports whose listener the output of a managed proxy announces ("CMETHOD name version
-// address"), in its order; ones that it reports an error for are not among them.
+// The transports whose listeners a managed proxy's output announces ("CMETHOD name version
+// address"), in its order. Transports with a reported error are left out.
 QStringList announcedTransports(QByteArrayView output);
-// Whether the output is complete: the proxy has announced the last listener or given up.
+// Whether the output is complete: the proxy has announced its last listener or given up.
 bool isAnnouncementComplete(QByteArrayView output);
 
 } // namespace veldmark

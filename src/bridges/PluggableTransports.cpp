@@ -30,7 +30,7 @@ bool isProgram(const QString &path)
     return file.isFile() && file.isExecutable();
 }
 
-// Empty when there is no such file, or none of a sensible size. Never opens a pipe or a device.
+// Empty when the file is missing or too large. Never opens a pipe or a device.
 QByteArray readFile(const QString &path)
 {
     QFile file(path);
@@ -44,7 +44,7 @@ std::optional<QMap<QString, QStringList>> bridgesOfArchive(const QString &unzip,
                                                            const QString &archive,
                                                            const StopToken &ended)
 {
-    // Options of unzip that the user has set for himself would change what it prints.
+    // The user's own UNZIP options would change the output.
     QProcessEnvironment environment;
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
     const std::optional<QByteArray> preferences = childOutput(
@@ -56,8 +56,8 @@ std::optional<QMap<QString, QStringList>> bridgesOfArchive(const QString &unzip,
     return bridgesOfPreferences(QString::fromUtf8(*preferences));
 }
 
-// One search over all places. Knows besides what it has found whether the place of the lyrebird
-// that counts says that it serves snowflake.
+// One search of all places. Also knows whether the pt_config.json beside the chosen lyrebird says
+// that it serves snowflake.
 class Search {
 public:
     Search(QString unzip, StopToken ended, TransportMemory &memory, bool mayAsk)
@@ -113,7 +113,7 @@ public:
             m_found.source = label;
     }
 
-    // Programs that belong to no bundle.
+    // Searches folders with programs that belong to no bundle.
     void searchFolders(const QStringList &folders)
     {
         if (!m_found.lyrebird)

@@ -27,7 +27,7 @@ std::optional<QString> latestVersion(const QByteArray &json)
 
 bool isOlderVersion(const QString &version, const QString &other)
 {
-    // Groups of digits, then what is left: nothing for a release.
+    // Groups of digits, then a suffix, which a release does not have.
     static const QRegularExpression parts(
         QStringLiteral("^([0-9]+(?:\\.[0-9]+)*)([a-z]*)([0-9]*)"));
     const auto one = parts.match(version);
@@ -51,7 +51,7 @@ bool isOlderVersion(const QString &version, const QString &other)
 
 std::optional<qint64> signatureTime(const QString &statusLines, const QString &fingerprint)
 {
-    constexpr qsizetype timeField = 3; // after the keyword, the key that signed and the day
+    constexpr qsizetype timeField = 3; // after the keyword, the signing key and the date
     bool isRevoked = false;
     for (const QString &line : statusLines.split(u'\n')) {
         if (!line.startsWith(statusPrefix))
@@ -60,7 +60,7 @@ std::optional<qint64> signatureTime(const QString &statusLines, const QString &f
         for (QString &field : fields)
             field = field.trimmed();
         const QString keyword = fields.value(0);
-        // For each signature gpg first says how good it is, then VALIDSIG.
+        // For each signature gpg first reports its status, then VALIDSIG.
         if (keyword == u"NEWSIG" || keyword == u"GOODSIG")
             isRevoked = false;
         else if (keyword == u"REVKEYSIG")

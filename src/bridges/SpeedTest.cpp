@@ -60,8 +60,8 @@ QCoro::Task<QStringList> fastestBridges(QStringList lines, BridgeProbe probe,
         co_return lines;
     status(Text::tr("Testing %1 bridges…").arg(candidates.size()));
 
-    // Tasks run from the moment they are made, so all probes are under way before the first is
-    // awaited. A candidate without an address has no time.
+    // A task runs as soon as it is made, so all probes run before the first is awaited. A candidate
+    // without an address has no time.
     std::vector<std::optional<ConnectTime>> times(candidates.size());
     std::vector<std::pair<std::size_t, QCoro::Task<std::optional<ConnectTime>>>> probes;
     for (std::size_t i = 0; i < candidates.size(); ++i) {

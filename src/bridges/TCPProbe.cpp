@@ -12,7 +12,7 @@ namespace veldmark::TCPProbe {
 
 namespace {
 
-using Outcome = std::optional<Clock::TimePoint>; // when the connection stood
+using Outcome = std::optional<Clock::TimePoint>; // when the connection was established
 
 QCoro::Task<void> endAfter(std::chrono::milliseconds limit, Clock *clock, ResumeOnce<Outcome> ended)
 {

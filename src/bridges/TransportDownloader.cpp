@@ -26,13 +26,13 @@ namespace {
 
 using Done = Result<void, DownloadError>;
 
-// Several times what each of them is today.
+// Several times the present size of each.
 constexpr qint64 indexLimitBytes = 8 * 1024 * 1024;
 constexpr qint64 keyLimitBytes = 4 * 1024 * 1024;
 constexpr qint64 signatureLimitBytes = 256 * 1024;
 constexpr qint64 archiveLimitBytes = 256 * 1024 * 1024;
 
-// Runs what blocks on a thread of the pool.
+// Runs blocking work on a thread of the pool.
 template <typename T> QCoro::Task<T> elsewhere(std::function<T()> work)
 {
     const ResumeOnce<T> done;
@@ -66,8 +66,8 @@ bool makePrivateFolder(const QString &path)
     return ::mkdir(QFile::encodeName(path).constData(), 0700) == 0;
 }
 
-// Adds how far the large download is to its line, once for each per cent, or each megabyte where
-// the size is not known.
+// Adds the progress of the large download to its status line, once for each per cent, or for each
+// megabyte when the size is unknown.
 class DownloadLine {
 public:
     DownloadLine(Text line, TransportDownloader::Progress progress)
@@ -92,19 +92,19 @@ private:
 
 } // namespace
 
-// What an installation needs, however long it takes.
+// The state that an installation uses; it may outlive the downloader.
 struct TransportDownloader::Means {
     PlatformProfile profile;
     ProcessRunner *runner; // null once the downloader is gone
     Clock *clock;
     DownloadSource source;
-    std::weak_ptr<HTTPSSession> session; // of the installation that is under way
-    std::weak_ptr<BundleTools> tools;    // likewise
+    std::weak_ptr<HTTPSSession> session; // of the running installation
+    std::weak_ptr<BundleTools> tools;    // of the running installation
     bool isCancelled = false;
     bool isBusy = false;
 };
 
-// One installation under way.
+// One running installation.
 struct TransportDownloader::Job {
     std::shared_ptr<Means> means;
     std::shared_ptr<BundleFolder> folder;
@@ -140,7 +140,7 @@ TransportDownloader::TransportDownloader(PlatformProfile profile, ProcessRunner 
     : m_means(std::make_shared<Means>(
         Means{std::move(profile), &runner, &clock, std::move(source), {}, {}, false, false}))
 {
-    // Puts a bundle back that an installation, killed in between its two steps, had taken away.
+    // Restores a bundle that a killed installation had moved away between its two steps.
     if (!QFileInfo::exists(m_means->profile.bundleDirectory)
         && QFileInfo::exists(QFileInfo(m_means->profile.bundleDirectory).absolutePath()))
         BundleFolder::claim(m_means->profile.bundleDirectory);
@@ -236,7 +236,7 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::run(std::shared_p
         auto filling = fill(job);
         outcome = co_await filling;
         job->session.reset();
-        if (!outcome && means->isCancelled) // whatever it was that noticed first
+        if (!outcome && means->isCancelled) // whichever step noticed the cancel first
             outcome = Failure(DownloadError::cancelled());
     }
     auto clearing = clearUp(job, job->temporary);
@@ -260,7 +260,7 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_
     const std::optional<QString> version = latestVersion(*listed);
     if (!version)
         co_return Failure(DownloadError::badVersion());
-    // An old bundle, with what was mended since, is as well signed as a new one.
+    // An old bundle, with defects fixed since, has a valid signature, too.
     const BundleRecord former = BundleRecord::read(means->profile.bundleDirectory);
     if (former.version && isOlderVersion(*version, *former.version))
         co_return Failure(DownloadError::olderVersion(*version, *former.version));
@@ -288,7 +288,7 @@ QCoro::Task<TransportDownloader::Outcome> TransportDownloader::fill(std::shared_
         if (!verified)
             co_return Failure(verified.error());
         signedAt = *verified;
-        // The signature is of the content alone: it does not tell under which name that is served.
+        // The signature covers the content, not the name under which the server offers it.
         if (former.signedAt && signedAt < former.signedAt->toLongLong())
             co_return Failure(DownloadError::otherContent(*version));
     }
@@ -390,7 +390,7 @@ QCoro::Task<Done> TransportDownloader::unpack(std::shared_ptr<Job> job, QString 
     co_return {};
 }
 
-// Ends the agent that GnuPG may have started in a temporary folder, then removes the folder and an
+// Stops the agent that GnuPG may have started in a temporary folder, then removes the folder and an
 // unfinished bundle.
 QCoro::Task<void> TransportDownloader::clearUp(std::shared_ptr<Job> job, QString temporary)
 {

@@ -19,22 +19,22 @@ namespace veldmark {
 
 class ProcessRunner;
 
-// Where the bundle comes from and who must have signed it.
+// Where the bundle comes from and which key must have signed it.
 struct DownloadSource {
-    // Of the Tor Browser Developers, in upper case.
+    // The Tor Browser Developers' key, in upper case.
     static QString signingKeyFingerprint();
 
-    // The real one. `fingerprint` is for tests with a key of their own.
+    // The real source. Tests pass the `fingerprint` of their own key.
     static DownloadSource torProject(const QString &fingerprint = signingKeyFingerprint());
 
     QUrl versionURL;      // the index of the release channel
-    QUrl distributionURL; // of the folder that holds one folder per version
+    QUrl distributionURL; // the folder that holds one folder per version
     QUrl keyURL;
     QString fingerprint;
     quint16 socksPort = 9050; // Tor's, on 127.0.0.1
     QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
-    // The folder of the temporary folders. A short path: GnuPG's agent makes sockets in its home,
-    // whose names may have about 100 characters.
+    // Where temporary folders are made. The path is short: GnuPG's agent makes sockets in its home,
+    // whose paths are limited to about 100 characters.
     QString temporaryRoot = QStringLiteral("/tmp");
 
     QUrl archiveURL(const QString &version, const QString &archiveName) const;
@@ -45,19 +45,19 @@ struct InstalledBundle {
     bool isVerified = false; // by its signature, not by HTTPS alone
 };
 
-// Fetches the Tor Project's current Tor Expert Bundle, checks its signature when GnuPG is there,
-// and installs it where PluggableTransports looks for it. The bundle that was there stays usable
-// until the new one stands in its place, whatever happens in between. It is never replaced by an
-// older one: neither one whose version is older, nor one that was signed before it, nor one that
-// says itself that it is another version than was announced.
+// Downloads the Tor Project's current Tor Expert Bundle, checks its signature when GnuPG is
+// installed, and installs it where PluggableTransports looks for it. The old bundle stays usable
+// until the new one is in its place, even after a failure or a kill. A bundle is never replaced by
+// one with an older version, with an older signature, or whose own version differs from the
+// announced one.
 //
-// Lives on the thread that owns the event loop. Whatever blocks is done on threads of the global
-// pool. Destroying it cancels what is under way.
+// Lives on the thread that owns the event loop. Blocking work runs on threads of the global pool.
+// The destructor cancels a running installation.
 class TransportDownloader {
 public:
     using Outcome = Result<InstalledBundle, DownloadError>;
-    // Hears a line for the user, on the caller's thread; the line of the large download grows by
-    // how far it is ("… 12.3 of 30.1 MB (40%)").
+    // Receives a status line for the user, on the caller's thread. The large download's line
+    // includes its progress ("… 12.3 of 30.1 MB (40%)").
     using Progress = std::function<void(Text)>;
 
     // `runner` and `clock` must outlive the object.
@@ -67,17 +67,17 @@ public:
     TransportDownloader(const TransportDownloader &) = delete;
     TransportDownloader &operator=(const TransportDownloader &) = delete;
 
-    // The whole procedure. throughTor: every request goes through Tor's SOCKS port; else none does.
-    // One at a time for each user; a second one fails at once. Nothing of its own is left in the
-    // temporary folder, and no GnuPG agent.
+    // The whole procedure. throughTor: every request goes through Tor's SOCKS port; otherwise none
+    // does. One at a time for each user; a second call fails at once. Leaves no file of its own in
+    // the temporary folder, and no GnuPG agent.
     QCoro::Task<Outcome> install(bool throughTor, Progress progress);
-    // Makes an install() that is under way fail soon with "Cancelled.", having cleared up.
+    // Makes a running install() fail soon with "Cancelled.", after it has cleaned up.
     void cancel();
 
-    // What stands in the installed bundle's files; nothing where there is none.
+    // The contents of the installed bundle's files; absent without a bundle.
     static std::optional<QString> installedVersion(const PlatformProfile &profile);
     static std::optional<QString> installedVerification(const PlatformProfile &profile);
-    // GnuPG's program: the first that can be executed.
+    // GnuPG's program: the first executable candidate.
     static std::optional<QString> gpgPath(const PlatformProfile &profile);
 
 private:

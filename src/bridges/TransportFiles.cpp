@@ -32,7 +32,7 @@ QMap<QString, QStringList> bridgesOfTransportConfiguration(const QByteArray &jso
         }
         hasLine = hasLine || !kept.isEmpty();
     }
-    // A file that lists no usable bridge must not stand in the way of another source.
+    // A file without a usable bridge must not hide another source.
     return hasLine ? result : QMap<QString, QStringList>();
 }
 

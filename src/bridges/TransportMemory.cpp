@@ -41,7 +41,7 @@ template <typename Answer>
 Answer TransportMemory::Store<Answer>::find(const QString &path,
                                             const std::function<std::optional<Answer>()> &ask)
 {
-    // Taken before the file is asked: one that is replaced meanwhile is asked again.
+    // Taken before the question: if the file is replaced during it, the next caller asks again.
     const std::optional<Stamp> stamp = stampOf(path);
     if (!stamp)
         return {};
@@ -50,7 +50,7 @@ Answer TransportMemory::Store<Answer>::find(const QString &path,
     if (!ask)
         return {};
     const std::lock_guard turn(asking);
-    if (const auto answer = look(path, *stamp)) // of whoever asked before
+    if (const auto answer = look(path, *stamp)) // from the caller that asked before
         return *answer;
     const std::optional<Answer> answer = ask();
     if (!answer)

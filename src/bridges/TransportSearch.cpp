@@ -9,7 +9,7 @@ TransportSearch::TransportSearch(PlatformProfile profile) : m_profile(std::move(
 TransportSearch::~TransportSearch()
 {
     m_ended.request_stop();
-    const Waits waits = *m_waits; // each takes itself off the list
+    const Waits waits = *m_waits; // a copy, since each wait removes itself from the list
     for (const ResumeOnce<PluggableTransports> &wait : waits) {
         wait.complete({});
         wait.deliver();
@@ -36,7 +36,7 @@ QCoro::Task<PluggableTransports> TransportSearch::search(std::optional<QString> 
     QThreadPool *const pool = QThreadPool::globalInstance();
     pool->start([found, profile = m_profile, version = std::move(bundleVersion),
                  ended = m_ended.get_token(), memory = m_memory, mayAsk, pool] {
-        // One that waits for a program takes no thread from those that do not.
+        // A search that waits for a program does not count against the pool's threads.
         if (mayAsk)
             pool->releaseThread();
         const PluggableTransports transports = PluggableTransports::locate(profile, version, ended,
@@ -46,7 +46,7 @@ QCoro::Task<PluggableTransports> TransportSearch::search(std::optional<QString> 
         found.complete(transports);
     });
     PluggableTransports transports = co_await found;
-    waits->erase(wait); // not `this`, which may be gone
+    waits->erase(wait); // not `this`, which may have been destroyed
     co_return transports;
 }
 

@@ -14,18 +14,18 @@
 
 namespace veldmark {
 
-// Searches for transport programs beside what else happens, on threads of the global pool. Its
-// destruction ends the searches that are under way, so that a program need not wait for one that
-// nobody wants any more, and leaves none of its waiters behind. Main thread.
+// Searches for transport programs in the background, on threads of the global pool. The destructor
+// stops running searches, so that the program's end need not wait for them, and resumes every
+// waiting caller. Main thread.
 class TransportSearch {
 public:
     explicit TransportSearch(PlatformProfile profile);
-    // Whoever still waits is resumed here, with nothing found: look whether you are still wanted.
+    // Resumes waiting callers with an empty result; each must check whether it is still wanted.
     ~TransportSearch();
     Q_DISABLE_COPY_MOVE(TransportSearch)
 
-    // PluggableTransports::locate(), which remembers what files and programs have answered. Several
-    // may be under way at once. Resumes the caller on its own thread.
+    // PluggableTransports::locate() with a memory of what files and programs have answered. Several
+    // searches may run at once. Resumes the caller on its own thread.
     QCoro::Task<PluggableTransports> locate(std::optional<QString> bundleVersion = std::nullopt);
     // The same without starting a lyrebird that has not been asked yet. Never waits for one that is
     // being asked.
@@ -38,10 +38,10 @@ private:
     QCoro::Task<PluggableTransports> search(std::optional<QString> bundleVersion, bool mayAsk);
 
     const PlatformProfile m_profile;
-    // outlives this in searches
+    // Shared with searches, which may outlive this object.
     const std::shared_ptr<TransportMemory> m_memory = std::make_shared<TransportMemory>();
     StopSource m_ended;
-    // outlives this in those who wait
+    // Shared with waiting callers, which may outlive this object.
     const std::shared_ptr<Waits> m_waits = std::make_shared<Waits>();
 };
 

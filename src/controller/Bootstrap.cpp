@@ -20,10 +20,10 @@ namespace {
 
 constexpr auto bootstrapLimit = 300s;
 constexpr auto bootstrapPoll = 1s;
-// A transport program is ready within a second. Tor neither starts without it nor says that it
-// waits.
+// A transport program is ready within a second. Tor does not start without it, and does not report
+// that it waits for it.
 constexpr auto transportPatience = 10s;
-// The first relay answers within a second or two. Below this progress none has.
+// The first relay answers within a second or two. Below this progress no relay has answered.
 constexpr auto relayPatience = 10s;
 constexpr int relayReached = 10;
 
@@ -34,7 +34,8 @@ QString field(const QString &report, QStringView name)
     return ReplyWords::value(report, name).value_or(QString());
 }
 
-// Tor's warning as a sentence; empty without one, and where Tor itself thinks nothing of it.
+// Tor's warning as a sentence; empty without a warning, and when Tor itself recommends to ignore
+// it.
 Text warningIn(const QString &report)
 {
     const QString warning = field(report, u"WARNING");
@@ -64,12 +65,12 @@ std::optional<Text> TorController::problemBehind(const BootstrapStatus &status,
         m_activeBridgeLines.begin(), m_activeBridgeLines.end(),
         [](const QString &line) { return BridgeLines::transport(line).has_value(); });
     if (usesPrograms && status.progress < 100) {
-        // The log says more than the report, which doesn't know why a program can't be reached.
+        // The report does not know why a transport program can't be reached; the log does.
         if (const auto trouble = transportTrouble(TorLog(m_services.profile).read().lines()))
             return trouble;
     }
     if (status.progress < relayReached && waited >= relayPatience) {
-        // Tor itself sees nothing but silence.
+        // Tor itself reports no reason here.
         const auto route = m_services.route();
         if (!route)
             return Text::tr("This computer has no network, so Tor can't connect.");
@@ -104,7 +105,7 @@ QCoro::Task<Result<void, Text>> TorController::waitForBootstrap(Attempt attempt)
     while (clock.now() < deadline) {
         const auto reply = co_await m_services.controlPort.getInfo(keys, password);
         if (!self || !isCurrent(attempt))
-            co_return Failure(Text()); // the user disconnected; nobody reads this
+            co_return Failure(Text()); // the user disconnected; the result is unused
         if (reply) {
             const BootstrapStatus status = parseBootstrap(reply->value(bootstrapKey));
             bootstrapProgress = std::min(status.progress, 100) / 100.0;

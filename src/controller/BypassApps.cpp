@@ -68,7 +68,7 @@ QCoro::Task<Result<void, Text>> TorController::launchBypassed(QString path)
     if (!canLaunchBypassed())
         co_return Failure(Text::tr("Connect in strict mode to open apps without Tor"));
     const QString application = QDir::cleanPath(path);
-    if (m_launching.contains(application)) // its prompt is up
+    if (m_launching.contains(application)) // the password prompt is shown
         co_return Failure(Text::tr("%1 is already being opened.").arg(displayedName(path)));
     m_launching << application;
     const QPointer<TorController> self(this);

@@ -26,7 +26,7 @@ QString getInfoCommand(const QString &key)
     return QStringLiteral("GETINFO ") + key;
 }
 
-// A circuit id of Tor's: digits only, so that nothing else can reach the control port.
+// A circuit id of Tor's has only digits. Anything else must not reach the control port.
 bool isCircuitID(const QString &id)
 {
     return !id.isEmpty()
@@ -46,7 +46,7 @@ QCoro::Task<void> TorController::refreshCircuits()
     const QStringList commands = {getInfoCommand(circuitKey), getInfoCommand(streamKey)};
     const auto replies = co_await m_services.controlPort.batch(commands, password);
     if (!self || !isCurrent(attempt) || reading < m_readCircuits)
-        co_return; // what a later question was told is newer
+        co_return; // a later request has already been answered
     m_readCircuits = reading;
     if (!replies) {
         circuitError = Text::tr("Couldn't read circuits: %1").arg(replies.error().description());
@@ -125,7 +125,7 @@ QCoro::Task<void> TorController::newIdentity()
     const QPointer<TorController> self(this);
     const Attempt attempt = m_attempt;
     errorMessage = std::nullopt;
-    forgetExit(); // also where no answer comes, Tor may have done it
+    forgetExit(); // without an answer, too: Tor may have taken new circuits
     auto asking = m_services.controlPort.signal(newCircuitsSignal, *m_controlPassword);
     const auto done = co_await asking;
     if (!self || !isCurrent(attempt))
@@ -161,9 +161,9 @@ QCoro::Task<void> TorController::optimizeCircuits()
         const quint64 identity = m_identity;
         const TimedProbe timed = co_await timedViaTor();
         if (!self || !isCurrent(attempt))
-            co_return; // the next attempt has cleared what this one showed
+            co_return; // the next attempt has cleared the fields that this one set
         if ((timed.answer || round == optimizeAttempts) && identity == m_identity)
-            showExit(timed.answer); // no answer to the last is one, too
+            showExit(timed.answer); // no answer to the last attempt is a result, too
         const qint64 elapsedMs = timed.elapsed.count();
         if (timed.answer && elapsedMs < slowPathMs) {
             latencyMs = elapsedMs;

@@ -33,8 +33,9 @@ QCoro::Task<std::optional<ConnectTime>> noAnswer()
     co_return std::nullopt;
 }
 
-// What lets root itself verify transports that an administrator would have to approve. A helper of
-// an earlier version, which runs without a password, does not know the option.
+// The options that let root itself verify transport programs, which an administrator would
+// otherwise have to approve. An outdated helper, installed for password-free mode, does not know
+// them.
 QStringList bundleWords(const TorController::Services &services, const QStringList &words)
 {
     if (!services.missingApprovals || services.privileged.privilegedHelperOutdated())
@@ -48,7 +49,7 @@ std::optional<QString> TorController::torPath() const
 {
     const QString custom = customTorPath().trimmed();
     if (SettingRules::torPathProblem(custom))
-        return std::nullopt; // a connect refuses it, so no other is found instead
+        return std::nullopt; // connect() refuses this path, so no other tor is used instead
     if (!custom.isEmpty() && isExecutableFile(custom))
         return custom;
     for (const QString &candidate : m_services.profile.torCandidates) {
@@ -84,12 +85,12 @@ void TorController::settleAfterFailure()
         return;
     }
     canCancel = false;
-    activeMode = markedMode(); // the helper may have changed it before it failed
+    activeMode = markedMode(); // the helper may have changed the mode before it failed
     otherSession = SessionOwner::ofAnotherProcess(m_services.profile);
     statusDetail = otherSession() ? leftOverDetail()
                                   : Text::tr("Your network is still set up for Tor");
-    // The banner says why it failed; what changes later is told. But a banner that tells of the
-    // rules, and stayed while the prompt for a restore was shown, is corrected at once.
+    // The banner says why the operation failed; later changes of the rules are told. A banner about
+    // the rules that stayed during the prompt for a restore is corrected at once.
     const auto rules = judgedKillSwitch();
     if (!m_killSwitchMessage || errorMessage() != m_killSwitchMessage)
         m_knownKillSwitch = rules;
@@ -121,7 +122,7 @@ QCoro::Task<Result<QStringList, Text>> TorController::bridgeArguments(Attempt at
     const BridgeTools tools{
         m_services.locateTransports,
         [self, attempt, probe](QString host, quint16 port, std::chrono::milliseconds limit) {
-            // Without the controller, what the probe needs may be gone as well.
+            // Without the controller the probe's own objects may be gone, too.
             return self && self->isCurrent(attempt) ? probe(std::move(host), port, limit)
                                                     : noAnswer();
         },
@@ -133,14 +134,14 @@ QCoro::Task<Result<QStringList, Text>> TorController::bridgeArguments(Attempt at
     const quint64 search = ++m_transportSearch;
     const BridgePlan plan = co_await planBridges(request, tools);
     if (!self || !isCurrent(attempt))
-        co_return Failure(Text()); // nobody reads this
+        co_return Failure(Text()); // the result is unused
     if (plan.transports)
         showTransports(*plan.transports, search);
     if (request.choice == BridgeChoice::off)
         m_pendingBridgeLines.clear();
     else if (plan.lines)
         m_pendingBridgeLines = *plan.lines;
-    // whoever follows the attempt reads it before the next words take its place
+    // The user and other clients see this status before the next one replaces it.
     if (statusDetail() != before) {
         co_await m_services.clock.sleep(0ms);
         if (!self || !isCurrent(attempt))
@@ -171,7 +172,7 @@ QCoro::Task<Result<void, HelperError>> TorController::approve(Attempt attempt,
         const QStringList asked = program.words();
         const auto helper = co_await m_services.privileged.runWithPrompt(asked);
         if (!self || !isCurrent(attempt))
-            co_return Failure(HelperError::cancelled()); // nobody reads this
+            co_return Failure(HelperError::cancelled()); // the result is unused
         if (!helper)
             co_return Failure(helper.error());
     }
@@ -183,7 +184,7 @@ QCoro::Task<Result<void, HelperError>> TorController::runConnect(Attempt attempt
     const QPointer<TorController> self(this);
     QStringList bundle = bundleWords(m_services, words);
     std::vector<ProgramApproval> programs = unapproved(words);
-    if (!bundle.isEmpty()) // root verifies what it brings itself
+    if (!bundle.isEmpty()) // root verifies the bundle's programs itself
         std::erase_if(programs, [this](const ProgramApproval &program) {
             return SignedBundle::brings(m_services.profile, program);
         });
@@ -196,13 +197,14 @@ QCoro::Task<Result<void, HelperError>> TorController::runConnect(Attempt attempt
         const QStringList asked = words + bundle;
         const auto helper = co_await m_services.privileged.runHelper(asked);
         if (!self || !isCurrent(attempt))
-            co_return Failure(HelperError::cancelled()); // nobody reads this
+            co_return Failure(HelperError::cancelled()); // the result is unused
         if (helper)
             co_return Result<void, HelperError>{};
         if (helper.error().kind() != HelperError::Kind::Unapproved || isByName)
             co_return Failure(helper.error());
-        // Root does not find a program in the signed bundle, so that an administrator is asked for
-        // it by name; or it has a copy of it, but one that a newer bundle has replaced.
+        // The helper refused an unapproved program. With a bundle, root did not find the program in
+        // it: the administrator approves what is missing. Without one, root has a copy that a newer
+        // bundle has replaced: the administrator approves the programs by name.
         isByName = bundle.isEmpty();
         bundle.clear();
         programs = isByName ? namedPrograms(words) : unapproved(words);
@@ -221,7 +223,8 @@ QCoro::Task<void> TorController::connect()
         errorMessage = *problem;
         co_return;
     }
-    if (const auto other = otherSession()) { // whoever made it is told nothing when it is replaced
+    // that session's user would not be told of its replacement
+    if (const auto other = otherSession()) {
         errorMessage = other->isOwnUser()
             ? Text::tr(
                   "Another Veldmark of yours is connected (process %1). Disconnect it, or restore the "
@@ -245,12 +248,12 @@ QCoro::Task<void> TorController::connect()
     const QPointer<TorController> self(this);
     const Attempt attempt = startAttempt();
     interruptDirectDownload();
-    // What is asked for here is what the helper gets, though the settings may change meanwhile.
+    // The helper gets the settings as they are now; they may change during the awaits below.
     const bool strict = strictMode();
     const bool localNetwork = allowLocalNetwork();
     const bool separate = separateApps();
     const QString exit = exitCountry();
-    // by a session that is still to be restored
+    // A left-over strict session still blocks traffic.
     const bool isBlocked = markedMode() == RoutingMode::strict;
     const BridgeRequest request{bridgeChoice(), customBridges(), optimizeSpeed(), isBlocked,
                                 m_activeBridgeLines};
@@ -271,9 +274,8 @@ QCoro::Task<void> TorController::connect()
         co_return;
     }
 
-    // A strict session that is begun again, as after the end of Tor, keeps its password: with
-    // another one it would be another session, which nobody could have without an administrator's
-    // approval.
+    // A strict session that is resumed, for example after Tor has died, keeps its password. Another
+    // password would make it another session, which needs an administrator's approval.
     if (!isBlocked || !m_controlPassword || m_controlHash.isEmpty()) {
         const TorPassword password = TorPassword::random();
         m_controlPassword = password.clear;
@@ -293,7 +295,7 @@ QCoro::Task<void> TorController::connect()
     if (!exit.isEmpty())
         arguments << QStringLiteral("--exit") << exit;
     arguments += *bridges;
-    // Under the password-free rule the helper itself says whether it has to be asked for.
+    // In password-free mode the helper itself decides whether it needs approval.
     if (isBlocked && arguments != m_sessionWords && !m_services.privileged.passwordlessInstalled())
         arguments[0] = QStringLiteral("replace");
     auto running = runConnect(attempt, arguments);
@@ -313,7 +315,7 @@ QCoro::Task<void> TorController::connect()
                                                        : std::optional(request.choice);
     m_activeBridgeLines = m_pendingBridgeLines;
     m_torStopped = false;
-    // what happened since the helper began is news
+    // Changes since the helper began are told.
     m_knownKillSwitch = KillSwitch{KillSwitch::State::standing, 0, {}};
     startKillSwitchWatch();
     statusDetail = Text::tr("Starting Tor…");
@@ -336,7 +338,7 @@ QCoro::Task<void> TorController::connect()
     statusDetail = connectedDetail();
     phase = ConnectionPhase::connected;
     if (!self || !isCurrent(attempt))
-        co_return; // whoever heard of it has disconnected at once
+        co_return; // an observer of `phase` has disconnected at once
     applyTerminalMode();
     m_network = {};
     m_network.addresses.haveMoved(m_services.ownAddresses());

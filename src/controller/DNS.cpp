@@ -13,7 +13,7 @@ namespace veldmark {
 
 namespace {
 
-// The live test's ears, over the session's control port.
+// Captures what the live test resolves, over the session's control port.
 QCoro::Task<std::optional<QStringList>> captureResolves(ControlPort *controlPort, QString password,
                                                         std::chrono::milliseconds duration,
                                                         std::function<QCoro::Task<void>()> work)
@@ -34,7 +34,7 @@ QCoro::Task<void> TorController::checkDNS(bool live)
     const Attempt attempt = m_attempt;
     std::optional<DNSStatus> liveResult;
     if (live) {
-        if (!dnsStatus().isLeak()) // a leak stays on screen while it is tested again
+        if (!dnsStatus().isLeak()) // a leak stays shown while it is tested again
             dnsStatus = DNSStatus::checking();
         if (m_controlPassword) {
             ControlPort *const controlPort = &m_services.controlPort;
@@ -69,7 +69,7 @@ QCoro::Task<void> TorController::fixDNS()
     if (phase() != ConnectionPhase::connected)
         co_return;
     const Attempt attempt = m_attempt;
-    // the one under way does for this call as well, with one prompt
+    // The run under way serves this call, too, with one prompt.
     if (m_fixedAttempt == attempt) {
         const ResumeOnce<bool> ended;
         m_fixWaiters.push_back(ended);

@@ -25,7 +25,7 @@ QCoro::Task<Result<void, Text>> TorController::disconnect()
     const auto other = SessionOwner::ofAnotherProcess(m_services.profile);
     if (phase() == ConnectionPhase::disconnected || (other && other != meant))
         lookAtSession();
-    if (otherSession() && otherSession() != meant) { // not the one that the user wanted to end
+    if (otherSession() && otherSession() != meant) { // not the session that the user wanted to end
         errorMessage = replacedText();
         co_return Failure(replacedText());
     }
@@ -36,15 +36,15 @@ QCoro::Task<Result<void, Text>> TorController::disconnect()
         co_return Failure(Text());
 
     const QPointer<TorController> self(this);
-    // What the session had still to find out. It is begun again if the session stays.
+    // The checks that the session had not finished. They are restarted if the session stays.
     const bool wasSettlingIn = m_isSettlingIn;
     const bool wasOptimizing = isOptimizing();
     const bool wasChecking = isChecking() || !torVerified()
         || leakStatus().kind() == LeakStatus::Kind::notTested;
     const bool wasTestingDNS = dnsStatus().kind() == DNSStatus::Kind::checking;
-    const Attempt attempt = startAttempt(); // a connect that still waits for Tor ends silently
-    // What a failure goes back to: only a session that was up is still up when the helper was
-    // refused. A half-made connection and a left-over one are judged by the marker.
+    const Attempt attempt = startAttempt(); // a connect that waits for Tor ends silently
+    // The state to return to after a failure. Only a session that was up stays up when the helper
+    // refuses. The marker decides for an unfinished connection or a left-over session.
     const bool sessionWasUp = phase() == ConnectionPhase::connected;
     const auto stalled = stall();
     const QStringList firewalls = denyingFirewalls();
@@ -54,11 +54,11 @@ QCoro::Task<Result<void, Text>> TorController::disconnect()
     statusDetail = Text::tr("Restoring your network settings…");
     phase = ConnectionPhase::disconnecting;
     stopMonitoring();
-    stopKillSwitchWatch(); // from here on the rules go on purpose
+    stopKillSwitchWatch(); // the helper removes the rules from here on
     setShellsActive(false);
 
     QStringList arguments = {QStringLiteral("disconnect")};
-    // One of another version may not know the option.
+    // A helper of another version may not know the option.
     if (!m_services.profile.sessionOwner.isEmpty()
         && !m_services.privileged.privilegedHelperOutdated())
         arguments << QStringLiteral("--process")
@@ -67,12 +67,13 @@ QCoro::Task<Result<void, Text>> TorController::disconnect()
     if (!self || !isCurrent(attempt))
         co_return Failure(Text());
     if (helper) {
-        errorMessage = std::nullopt; // whatever it was, "the network is set up for Tor" is over
+        // the session is over, and so is whatever the banner said of it
+        errorMessage = std::nullopt;
         endSession();
         co_return {};
     }
 
-    // While the prompt was shown, perhaps.
+    // Another session may have begun while the prompt was shown.
     if (const auto newer = SessionOwner::ofAnotherProcess(m_services.profile);
         newer && newer != meant) {
         giveUpTo(*newer);
@@ -84,15 +85,15 @@ QCoro::Task<Result<void, Text>> TorController::disconnect()
         reason = helper.error().description();
         errorMessage = reason;
     }
-    // Without the marker the helper has opened the network before it failed: nothing is locked to
-    // Tor any more, whatever this session was.
+    // Without the marker, the helper opened the network before it failed. Then nothing is locked to
+    // Tor any more, even if the session was up.
     if (!sessionWasUp || !isSessionMarkerPresent()) {
         settleAfterFailure();
         co_return Failure(reason);
     }
     statusDetail = connectedDetail();
     denyingFirewalls = firewalls;
-    stall = stalled; // until the next look
+    stall = stalled; // until the monitor's next look
     phase = ConnectionPhase::connected;
     if (!self || !isCurrent(attempt) || phase() != ConnectionPhase::connected)
         co_return Failure(reason);
@@ -157,7 +158,7 @@ void TorController::detectStaleState()
     activeMode = markedMode();
     otherSession = SessionOwner::ofAnotherProcess(m_services.profile);
     statusDetail = leftOverDetail();
-    // what happened to an earlier session is no news
+    // What happened to an earlier session is not told.
     killSwitch = m_knownKillSwitch = judgedKillSwitch();
     phase = ConnectionPhase::stale;
     startKillSwitchWatch();
@@ -180,10 +181,10 @@ void TorController::lookAtSession()
         detectStaleState();
     if (phase() == ConnectionPhase::connected
         || (phase() == ConnectionPhase::connecting && canCancel())) {
-        // One that somebody has begun by hand has no owner; its password is not ours all the same.
+        // A session begun by hand has no owner, but its password differs from this session's.
         const auto other = SessionOwner::ofAnotherProcess(m_services.profile);
         const auto mark = SessionMark::present(m_services.profile);
-        // One of another mode is told by the kill switch, which is open then.
+        // The kill switch reports a session of another mode: it is open then.
         if (other
             || (mark && m_sessionMark && mark != m_sessionMark && markedMode() == activeMode()))
             giveUpTo(other);
@@ -197,17 +198,17 @@ void TorController::lookAtSession()
         return;
     }
     const auto other = SessionOwner::ofAnotherProcess(m_services.profile);
-    // nobody has changed it by hand either
+    // Nor has the session been changed by hand.
     if (other == otherSession() && markedMode() == activeMode())
         return;
     showSessionOf(other);
 }
 
-// Another process has replaced this one's session: its Tor has ended, and its rules are the
-// other's.
+// Another process has replaced this process's session. Its Tor has ended, and the rules belong to
+// the other session.
 void TorController::giveUpTo(const std::optional<SessionOwner> &other)
 {
-    startAttempt(); // checks that are still running belong to a session that is over
+    startAttempt(); // running checks belong to a session that is over
     stopMonitoring();
     canCancel = false;
     showSessionOf(other);
@@ -230,7 +231,7 @@ Text TorController::replacedText() const
 void TorController::showSessionOf(const std::optional<SessionOwner> &other)
 {
     otherSession = other;
-    // What is shown was about another session, and so was what is known.
+    // What is shown and known was about another session.
     m_killSwitchMessage = std::nullopt;
     errorMessage = std::nullopt;
     m_torStopped = false;

@@ -14,25 +14,26 @@ namespace veldmark {
 class FieldOwner;
 class SettingsStore;
 
-// What the program says of a setting of the user's, in lists and completions.
+// Describes one of the user's settings, for lists and completions.
 struct SettingInfo {
     Text help;                   // a few words
-    bool isOfConnection = false; // a connection is made with it, so it holds until that ends
-    QStringList values;          // all that it can be, where they are few
+    bool isOfConnection = false; // used to make a connection, so locked until that ends
+    QStringList values;          // all possible values, when they are few
 };
 
-// A field that views observe. It registers itself with its owner, in the order of declaration; the
-// published state, the settings' names, observers and completions come from there. Main thread.
+// A field that views observe. It registers itself with its owner, in the order of declaration. The
+// published state, the settings' names, observers and completions are made from that list. Main
+// thread.
 class Field : public QObject {
     Q_OBJECT
 
 public:
-    // As other programs see it, and in the settings' file.
+    // The name in the published state and in the settings' file.
     QString name() const { return m_name; }
     virtual QJsonValue toJson() const = 0;
-    // The same as Text::toJson(), where it is a text; else null.
+    // Like Text::toJson() for a text; else null.
     virtual QJsonValue textToJson() const = 0;
-    // Absent: no setting, but what the program found out.
+    // Absent for a field that is not a setting.
     const std::optional<SettingInfo> &setting() const { return m_setting; }
 
 Q_SIGNALS:
@@ -53,7 +54,7 @@ public:
     Field *fieldNamed(const QString &name) const; // null: there is none
     SettingsStore &store() const { return m_store; }
 
-    // Shows what went wrong while a field was set.
+    // Shows what failed while a field was set.
     virtual void showProblem(const Text &problem) = 0;
 
 protected:

@@ -17,7 +17,7 @@ namespace veldmark {
 
 namespace {
 
-// Each word that a switch is known by, and what it means.
+// The value of each word for a switch.
 std::optional<bool> switchFrom(const QString &word)
 {
     static const QStringList on = {QStringLiteral("true"), QStringLiteral("on"),

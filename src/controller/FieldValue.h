@@ -26,8 +26,8 @@ struct KillSwitch;
 struct PluggableTransports;
 struct SessionOwner;
 
-// An enumeration is its case name as a string; a case with a payload an object with that one key
-// ({"exposed": "203.0.113.7"}, {"leak": ["…"]}); an absent optional is null.
+// An enumeration is its case name as a string. A case with a payload is an object with that one key
+// ({"exposed": "203.0.113.7"}, {"leak": ["…"]}). An absent optional is null.
 QJsonValue json(const QString &value);
 QJsonValue json(const Text &value); // English
 QJsonValue json(bool value);
@@ -52,8 +52,7 @@ template <typename T> QJsonValue json(const std::optional<T> &value)
     return value ? json(*value) : QJsonValue(QJsonValue::Null);
 }
 
-// As Text::toJson() where the value is a text, a list of those where it is a list; null where it is
-// none.
+// Like Text::toJson() for a text, a list of those for a list of texts, else null.
 template <typename T> QJsonValue textJson(const T &)
 {
     return QJsonValue::Null;
@@ -68,7 +67,7 @@ inline QJsonValue textJson(const std::optional<Text> &value)
     return value ? value->toJson() : QJsonValue(QJsonValue::Null);
 }
 
-// The types of settings. What is stored and is none of the type's values reads as `fallback`.
+// Reads settings. A stored value that is not valid for the type reads as `fallback`.
 bool readSetting(const SettingsStore &store, const QString &key, bool fallback);
 QString readSetting(const SettingsStore &store, const QString &key, const QString &fallback);
 QStringList readSetting(const SettingsStore &store, const QString &key,
@@ -79,27 +78,27 @@ void writeSetting(SettingsStore &store, const QString &key, const QString &value
 void writeSetting(SettingsStore &store, const QString &key, const QStringList &value);
 void writeSetting(SettingsStore &store, const QString &key, BridgeChoice value);
 
-// As the store holds it.
+// The value as the store holds it.
 QVariant stored(bool value);
 QVariant stored(const QString &value);
 QVariant stored(const QStringList &value);
 QVariant stored(BridgeChoice value);
 
-// From the user's words: "true"/"false" (also on/off, yes/no, 1/0) for switches, a JSON array of
-// strings for lists, the raw value for choices. The error is a sentence; `value` is left as it was
-// then.
+// Parses the user's words: "true"/"false" (also on/off, yes/no, 1/0) for switches, a JSON array of
+// strings for lists, the raw value for choices. The error is a sentence and leaves `value`
+// unchanged.
 Result<void, Text> parse(const QString &text, bool &value);
 Result<void, Text> parse(const QString &text, QString &value);
 Result<void, Text> parse(const QString &text, QStringList &value);
 Result<void, Text> parse(const QString &text, BridgeChoice &value);
 
-// All the words that parse() knows a value by, one each; empty where there are too many.
+// All words that parse() accepts, one for each value; empty when there are too many.
 QStringList possibleValues(bool);
 QStringList possibleValues(const QString &);
 QStringList possibleValues(const QStringList &);
 QStringList possibleValues(BridgeChoice);
 
-// The user's words within a message of one line.
+// The user's words, for a message of one line.
 QString inOneLine(const QString &text);
 
 } // namespace veldmark

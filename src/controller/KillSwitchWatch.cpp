@@ -16,9 +16,9 @@ using State = KillSwitch::State;
 
 constexpr auto lookInterval = 1s;
 constexpr qint64 noteLimitBytes = 64;
-// The watcher writes twice a second, so what stops telling shows within three seconds. The note's
-// time is the system's clock, which may be set, and stands still for nobody while the computer
-// sleeps; so what was seen holds a little longer by our own clock.
+// The watcher writes twice a second, so a dead watcher shows within three seconds. The note's age
+// is measured with the system's clock, which may be set and which runs on during sleep. So the last
+// fresh note stays valid a little longer by the program's own clock.
 constexpr auto freshTime = 1s;
 constexpr auto graceTime = 1500ms;
 
@@ -50,7 +50,7 @@ std::optional<KillSwitch> TorController::judgedKillSwitch()
             : KillSwitch{state, before ? before->missed : 0, QDateTime::currentDateTimeUtc()};
     };
     if (markedMode() != RoutingMode::strict) {
-        // Somebody has opened the network under a session that was strict.
+        // The network was opened from outside under a strict session.
         const bool wasStrict = phase() == ConnectionPhase::connected
             && activeMode() == RoutingMode::strict;
         return wasStrict ? std::optional(since(State::open)) : std::nullopt;
@@ -59,7 +59,7 @@ std::optional<KillSwitch> TorController::judgedKillSwitch()
         m_killSwitchSeen = m_services.clock.now();
         return note;
     }
-    // What was open stays open until somebody has seen it closed.
+    // An open kill switch counts as open until the watcher reports it closed.
     const bool isRecent = before && m_services.clock.now() - m_killSwitchSeen < graceTime;
     return isRecent || isOneOf(before, State::open) ? before : std::optional(since(State::unknown));
 }
@@ -89,7 +89,7 @@ std::optional<Text> TorController::killSwitchMessage() const
 {
     if (m_torStopped)
         return deathMessage();
-    // somebody has restored the network on purpose; Tor's end will say so
+    // The network was restored from outside on purpose; torDied() tells it.
     if (!isSessionMarkerPresent())
         return std::nullopt;
     switch (killSwitch() ? killSwitch()->state : State::standing) {
@@ -164,21 +164,20 @@ QCoro::Task<void> TorController::watchKillSwitch(quint64 run)
         co_await m_services.clock.sleep(lookInterval);
         if (!self || run != m_killSwitchWatch)
             co_return;
-        // somebody has restored the network
+        // Another process has restored the network.
         if (phase() == ConnectionPhase::stale && !isSessionMarkerPresent()) {
             errorMessage = std::nullopt;
             endSession();
             co_return;
         }
-        // Somebody else has disconnected. Whoever answers at Tor's port now is no sign of a
-        // session.
+        // Another process has disconnected. An answer at Tor's port no longer proves this session.
         if (phase() == ConnectionPhase::connected && activeMode() == RoutingMode::proxy
             && !isSessionMarkerPresent()) {
             torDied();
             co_return;
         }
         if (phase() == ConnectionPhase::connected && isSessionMarkerPresent())
-            lookAtSession(); // perhaps it is another session's
+            lookAtSession(); // the marker may be another session's
         if (!self || run != m_killSwitchWatch)
             co_return;
         lookAtKillSwitch();

@@ -17,11 +17,11 @@ namespace veldmark {
 namespace {
 
 constexpr auto monitorInterval = 2s;
-constexpr auto counterReadLimit = 3s; // a tor that is stopped, not dead, must not stop the loop
+constexpr auto counterReadLimit = 3s; // a stopped, not dead, tor must not block the loop
 constexpr int ticksPerDNSCheck = 15;  // every 30 seconds
 constexpr int failuresUntilDead = 3;
 
-// Stays as long as it is so.
+// The banner while this state lasts.
 const Text offlineText = Text::tr(
     "Tor hasn't confirmed that it is on the network again, so nothing may get through. Veldmark goes on "
     "telling it to; else disconnect and connect again.");
@@ -75,7 +75,7 @@ void TorController::lookAtTraffic(std::optional<bool> hasCircuit)
          .hasCircuit = hasCircuit,
          .hasRoute = route.has_value(),
          .isInVPN = activeMode() == RoutingMode::strict && route && route->isVPN});
-    // Asked only now: who is answered is not denied.
+    // Read only now: while traffic gets through, no firewall denies it.
     QStringList others = found && found != TrafficWatch::Stall::noNetwork
         ? OtherFirewalls::denying(m_services.profile)
         : QStringList();
@@ -85,9 +85,9 @@ void TorController::lookAtTraffic(std::optional<bool> hasCircuit)
     denyingFirewalls = others;
     stall = found;
     if (!wasStalled && stall())
-        forgetExit(); // what was verified may be another one when traffic flows again
+        forgetExit(); // another exit may be in use when traffic flows again
     if (wasStalled && !stall()) {
-        forgetExit(); // checks that are under way have asked while nothing got through
+        forgetExit(); // running checks have asked while nothing got through
         runChecks();
     }
 }
@@ -96,8 +96,8 @@ QCoro::Task<void> TorController::monitor(quint64 run)
 {
     const QPointer<TorController> self(this);
     const QStringList keys = {readKey, writtenKey, establishedKey};
-    // Tor closes what it has and begins anew. It would send into connections of an address that is
-    // gone for minutes.
+    // Tor closes its connections and opens new ones. Otherwise it would use connections of a lost
+    // address for minutes.
     const QStringList goOn = {QStringLiteral("SETCONF DisableNetwork=0")};
     const QStringList beginAnew = QStringList{QStringLiteral("SETCONF DisableNetwork=1")} + goOn;
     quint64 tick = 0;
@@ -112,14 +112,14 @@ QCoro::Task<void> TorController::monitor(quint64 run)
         const bool isStale = std::exchange(m_network.hasSlept, false) || hasMoved;
         if (isStale || m_network.mayBeOffline) {
             if (isStale)
-                forgetExit(); // what was verified was another way out
+                forgetExit(); // the verified exit belonged to the old connections
             const auto replies = co_await m_services.controlPort.batch(
                 isStale ? beginAnew : goOn, *m_controlPassword, counterReadLimit);
             if (!self || run != m_monitor)
                 co_return;
-            m_network.mayBeOffline = !replies || !replies->back(); // no answer, or Tor's refusal
+            m_network.mayBeOffline = !replies || !replies->back(); // no answer, or Tor refused
             if (m_network.mayBeOffline)
-                // what else has failed is to be read first
+                // An earlier error stays shown first.
                 errorMessage = errorMessage().value_or(offlineText);
             else if (errorMessage() == offlineText)
                 errorMessage = std::nullopt;
@@ -158,27 +158,28 @@ void TorController::wake()
 {
     if (phase() != ConnectionPhase::connected && phase() != ConnectionPhase::disconnecting)
         return;
-    // the loop makes Tor begin anew, and checks; also of a session that a refused disconnect leaves
+    // The monitor then restarts Tor's network and runs the checks, also when a refused disconnect
+    // leaves the session up.
     m_network.hasSlept = true;
     forgetExit();
 }
 
 void TorController::torDied()
 {
-    startAttempt(); // checks that are still running belong to a session that is over
+    startAttempt(); // running checks belong to a session that is over
     stopMonitoring();
-    if (!isSessionMarkerPresent()) { // somebody has restored the network by hand
+    if (!isSessionMarkerPresent()) { // the network was restored from outside
         errorMessage = Text::tr(
             "Tor stopped running, and your network is no longer set up for it.");
         endSession();
         return;
     }
     m_torStopped = true;
-    lookAtKillSwitch(); // what is said of it now must be true now
+    lookAtKillSwitch(); // the message below must describe the rules as they are now
     statusDetail = Text::tr("Tor stopped running");
     errorMessage = m_killSwitchMessage = deathMessage();
     phase = ConnectionPhase::stale;
-    // perhaps Tor ended because another process's session has taken this one's place
+    // Tor may have ended because another process's session has replaced this one.
     lookAtSession();
 }
 
@@ -187,7 +188,7 @@ QCoro::Task<TorController::TimedProbe> TorController::timedViaTor()
     const QPointer<TorController> self(this);
     const auto start = m_services.clock.now();
     const auto answer = co_await m_services.probe.viaTor();
-    if (!self) // and perhaps no clock either; nobody reads this
+    if (!self) // the clock may be gone, too; the result is unused
         co_return TimedProbe{answer, 0ms};
     const auto elapsed = m_services.clock.now() - start;
     co_return TimedProbe{answer, std::chrono::duration_cast<std::chrono::milliseconds>(elapsed)};
@@ -204,8 +205,9 @@ QCoro::Task<void> TorController::runChecks()
     lookAtKillSwitch();
     quint64 identity = m_identity;
     auto throughTor = timedViaTor();
-    // In strict mode both run side by side: nothing of the direct one leaves. In proxy mode it
-    // does, and the service is not to see the exit's address and the user's in the same moment.
+    // In strict mode both requests run at once, since the direct one cannot leave the computer. In
+    // proxy mode it leaves, and the service must not see the exit's address and the user's at the
+    // same moment.
     const bool together = activeMode() == RoutingMode::strict;
     TimedProbe tor{};
     if (!together) {
@@ -218,8 +220,8 @@ QCoro::Task<void> TorController::runChecks()
         tor = co_await throughTor;
     const ProbeResult direct = co_await aroundTor;
     if (!self || !isCurrent(attempt))
-        co_return;                   // the session ended meanwhile: what it had is no longer true
-    while (identity != m_identity) { // new circuits meanwhile: that was the exit of the old ones
+        co_return;                   // the session ended meanwhile: its results are stale
+    while (identity != m_identity) { // new circuits meanwhile: the answer was of the old exit
         identity = m_identity;
         const TimedProbe again = co_await timedViaTor();
         if (!self || !isCurrent(attempt))
@@ -230,13 +232,13 @@ QCoro::Task<void> TorController::runChecks()
     latencyMs = verdict.latencyMs;
     exitIP = verdict.exitIP;
     torVerified = verdict.torVerified;
-    lookAtKillSwitch(); // without the rules, silence is not their doing
+    lookAtKillSwitch(); // when the rules are gone, silence does not prove blocking
     leakStatus = believable(verdict.leakStatus);
     co_await checkDNS(true);
     if (!self || !isCurrent(attempt))
         co_return;
     isChecking = false;
-    if (identity != m_identity) // new circuits while the DNS test ran
+    if (identity != m_identity) // new circuits during the DNS test
         checkExit();
 }
 
@@ -250,7 +252,7 @@ void TorController::forgetExit()
 QCoro::Task<void> TorController::checkExit()
 {
     if (phase() != ConnectionPhase::connected || isChecking())
-        co_return; // the checks that are under way ask once more by themselves
+        co_return; // the running checks ask again by themselves
     const QPointer<TorController> self(this);
     const Attempt attempt = m_attempt;
     isChecking = true;

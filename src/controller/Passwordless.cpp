@@ -23,7 +23,7 @@ QString loginName()
 QCoro::Task<void> TorController::installPasswordless()
 {
     if (std::exchange(m_isSettingUpHelper, true))
-        co_return; // its prompt is up
+        co_return; // the password prompt is shown
     const QPointer<TorController> self(this);
     startupError = std::nullopt;
     QStringList arguments = {QStringLiteral("install-privileged"), QStringLiteral("--user"),
@@ -37,7 +37,7 @@ QCoro::Task<void> TorController::installPasswordless()
     m_isSettingUpHelper = false;
     passwordlessInstalled = m_services.privileged.passwordlessInstalled();
     if (!helper) {
-        // the user's own choice is no error
+        // The user's own cancel is no error.
         if (helper.error().kind() != HelperError::Kind::Cancelled)
             startupError = Text::tr("Couldn't set up passwordless mode: %1")
                                .arg(helper.error().description());

@@ -19,7 +19,8 @@ QCoro::Task<QString> readScutil(ProcessRunner *processes, QString scutil)
     co_return run ? run->stdout : QString();
 }
 
-// The account is root's to make. On a Mac the system does not tell users whose a connection is.
+// The account that Tor must run under; only root can create it. On a Mac the system does not tell
+// users which account owns a connection.
 ControlPort::TorUser torUser(const PlatformProfile &profile)
 {
     if (profile.name != QLatin1String("linux"))

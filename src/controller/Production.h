@@ -19,8 +19,8 @@
 
 namespace veldmark {
 
-// The one place that builds the real thing: a controller with everything that it needs, for the
-// system that `profile` describes. Main thread.
+// The one place that builds the real controller with all its services, for the system that
+// `profile` describes. Main thread.
 class Production {
 public:
     explicit Production(const PlatformProfile &profile);
@@ -32,7 +32,7 @@ public:
     TransportDownloader &downloader() { return m_downloader; }
 
 private:
-    // In the order of construction; what hears of sleep goes first, then the controller.
+    // In the order of construction. The wake notice is destroyed first, then the controller.
     const PlatformProfile m_profile;
     SystemClock m_clock;
     SettingsStore m_settings;

@@ -13,8 +13,8 @@ namespace veldmark {
 
 class TorController;
 
-// A field of the controller that views observe: anyone reads it as `controller.phase()`, only the
-// controller assigns it. An assignment that changes the value emits changed().
+// A field of the controller that views observe. Any caller reads it as `controller.phase()`; only
+// the controller assigns it. An assignment that changes the value emits changed().
 template <typename T> class Published : public Field {
 public:
     Published(FieldOwner *owner, const char *name, T initial = {})
@@ -45,16 +45,16 @@ protected:
     T m_value{};
 };
 
-// Whether a setting can be changed while a connection stands.
+// Whether a setting can be changed while connected.
 enum class Scope { always, connection };
 
-// A published field that the user owns, kept in the owner's store under its name: anyone may set
-// it, and each `set` is on disk when it returns, also when the value stays the same. What goes
-// wrong with the file is what `set` returns, one sentence or more, and is shown by the owner; the
-// value holds all the same.
+// A published field that the user owns, kept in the owner's store under its name. Any caller may
+// set it. The file is written before `set` returns, even when the value stays the same. Problems
+// with the file are what `set` returns, one sentence or more, and the owner shows them; the value
+// holds all the same.
 template <typename T> class Setting : public Published<T> {
 public:
-    // `fallback` holds where the user has no value of their own.
+    // `fallback` is used when the user has not set a value.
     Setting(FieldOwner *owner, const char *name, Scope scope, Text help,
             std::optional<T> fallback = {})
         : Published<T>(
@@ -71,7 +71,7 @@ public:
     {
         SettingsStore &store = m_owner.store();
         writeSetting(store, this->name(), value);
-        std::vector<Text> problems; // a damaged file may be kept, and no new one be written
+        std::vector<Text> problems; // the store may keep a damaged file and fail to write a new one
         while (const auto next = store.problem())
             problems.push_back(*next);
         Published<T>::operator=(std::move(value));

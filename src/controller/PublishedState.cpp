@@ -11,7 +11,7 @@ namespace {
 
 const QString titleKey = QStringLiteral("title");
 
-// As setSetting(), where the setting is one of type T.
+// Like setSetting(), for a setting of type T.
 template <typename T>
 std::optional<Result<void, SettingError>> trySetting(TorController &controller, Field *field,
                                                      const QString &text)
@@ -32,7 +32,7 @@ QJsonObject publishedState(const TorController &controller)
     QJsonObject state;
     for (const Field *field : controller.fields())
         state.insert(field->name(), field->toJson());
-    // The results of checks are those of a session that is up.
+    // Check results are valid only while connected.
     if (controller.phase() != ConnectionPhase::connected) {
         for (const Field *field : std::initializer_list<const Field *>{
                  &controller.exitIP, &controller.torVerified, &controller.latencyMs,
@@ -48,12 +48,12 @@ QJsonObject publishedState(const TorController &controller)
         state.insert(controller.isOptimizing.name(), false);
     }
     const Verdict verdict = controller.verdict();
-    // a known danger comes before what is going on
+    // A known danger replaces the progress line.
     state.insert(controller.statusDetail.name(), json(verdict.detail));
     state.insert(titleKey, json(verdict.title));
     state.insert(QStringLiteral("menuBarSymbol"), verdict.symbol);
     state.insert(QStringLiteral("level"), verdict.levelName());
-    // While the rules are taken down, nobody looks.
+    // The rules are not watched while the helper takes them down.
     const auto rules = controller.phase() == ConnectionPhase::disconnecting
         ? std::nullopt
         : controller.killSwitch();
@@ -79,7 +79,7 @@ QJsonObject publishedTexts(const TorController &controller)
 QJsonObject inUsersLanguage(QJsonObject state, const QJsonObject &texts)
 {
     for (auto text = texts.begin(); text != texts.end(); ++text) {
-        const QJsonValue english = state.value(text.key()); // what the state keeps back stays so
+        const QJsonValue english = state.value(text.key()); // what the state leaves out stays out
         if (english.isString()) {
             state.insert(text.key(), Text::fromJson(text.value()).translated());
         } else if (english.isArray()) {

@@ -11,28 +11,27 @@ namespace veldmark {
 
 class TorController;
 
-// The controller's fields as other programs see them: `veldmarkctl status --json`, the local
-// socket, scripts.
+// The controller's fields for other programs: `veldmarkctl status --json`, the local socket,
+// scripts.
 
-// Every published field under its name. And the verdict: "title", "menuBarSymbol", "level", and
-// "statusDetail" as far as a known danger is not said instead; "killSwitchSince" goes with
-// "killSwitch".
+// Every published field under its name. The verdict adds "title", "menuBarSymbol" and "level", and
+// replaces "statusDetail" by a known danger. "killSwitchSince" goes with "killSwitch".
 QJsonObject publishedState(const TorController &controller);
 
-// The texts among them, each as Text::toJson(): the state has them in English.
+// The state's texts, each as Text::toJson(). The state itself has them in English.
 QJsonObject publishedTexts(const TorController &controller);
 // `state` with its texts in this program's language, for people.
 QJsonObject inUsersLanguage(QJsonObject state, const QJsonObject &texts);
 
-// The fields that a user may set, by name.
+// The names of the fields that a user may set.
 QStringList settingNames(const TorController &controller);
 
-// Why setSetting() is not content.
+// Why setSetting() failed.
 class SettingError {
 public:
     enum class Kind {
-        Refused, // no such setting, none of its values, or not while connected; nothing has changed
-        NotDone, // the setting holds, but could not be saved or not be carried out
+        Refused, // no such setting or value, or locked while connected; nothing has changed
+        NotDone, // the setting holds, but could not be saved or carried out
     };
     SettingError(Kind kind, Text description) : m_kind(kind), m_description(std::move(description))
     {
@@ -46,7 +45,7 @@ private:
     Text m_description;
 };
 
-// Sets the setting `name` from the user's words, as parse() in FieldValue.h knows them.
+// Sets the setting `name` from the user's words, in the form of parse() in FieldValue.h.
 Result<void, SettingError> setSetting(TorController &controller, const QString &name,
                                       const QString &text);
 

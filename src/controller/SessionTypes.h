@@ -15,16 +15,16 @@ struct ExitCountry {
     Text name;
 
     bool operator==(const ExitCountry &other) const { return code == other.code; }
-    // In the order of the picker.
+    // In the picker's order.
     static const std::vector<ExitCountry> &all();
-    // Empty (any country), or exactly two lower-case letters.
+    // Whether `code` is empty (any country) or exactly two lower-case letters.
     static bool isValid(const QString &code);
 };
 
-// What can go wrong in the connect sequence itself.
+// Errors of the connect sequence itself.
 class TorError {
 public:
-    // `lastError`: the description of the last control-port error met while waiting, if any.
+    // `lastError`: the description of the last control-port error during the wait, if any.
     static TorError bootstrapTimeout(const std::optional<Text> &lastError);
 
     Text description() const { return m_description; }

@@ -21,7 +21,7 @@ SessionWatch::SessionWatch(TorController &controller) : m_controller(controller)
                      Qt::QueuedConnection);
     QObject::connect(&controller.otherSession, &Field::changed, this, &SessionWatch::watchOwner,
                      Qt::QueuedConnection);
-    // What this one takes for the end of its own session may have been another's beginning.
+    // The end of this process's session may be the beginning of another one.
     QObject::connect(&controller.phase, &Field::changed, this, &SessionWatch::look,
                      Qt::QueuedConnection);
     watchFolder();
@@ -41,10 +41,10 @@ void SessionWatch::look()
     m_controller.lookAtSession();
 }
 
-// The marker's folder, or as long as it is missing the nearest one above it.
+// Watches the marker's folder or, while that is missing, the nearest existing folder above it.
 void SessionWatch::watchFolder()
 {
-    for (;;) { // once more after each: the next one below may have come meanwhile
+    for (;;) { // repeats, since the next folder below may have appeared meanwhile
         QString folder = QFileInfo(m_controller.profile().sessionMarker).path();
         while (!QFileInfo::exists(folder) && folder.size() > 1)
             folder = QFileInfo(folder).path();
@@ -54,7 +54,7 @@ void SessionWatch::watchFolder()
         if (!former.isEmpty())
             m_folders.removePaths(former);
         if (!m_folders.addPath(folder))
-            return; // the commands of this instance look for themselves
+            return; // this instance's commands look at the session themselves
     }
 }
 
@@ -68,13 +68,13 @@ void SessionWatch::watchOwner()
         return;
     m_process = static_cast<int>(
         ::syscall(SYS_pidfd_open, m_controller.otherSession()->process, 0));
-    if (m_process < 0) { // it has gone just now, or the kernel is too old to tell
+    if (m_process < 0) { // the process has just ended, or the kernel is too old
         QMetaObject::invokeMethod(this, &SessionWatch::look, Qt::QueuedConnection);
         return;
     }
     m_owner = std::make_unique<QSocketNotifier>(m_process, QSocketNotifier::Read);
     QObject::connect(m_owner.get(), &QSocketNotifier::activated, this, [this] {
-        m_owner->setEnabled(false); // it has ended for good
+        m_owner->setEnabled(false); // the process has ended
         QMetaObject::invokeMethod(this, &SessionWatch::look, Qt::QueuedConnection);
     });
 #endif

@@ -11,9 +11,9 @@ namespace veldmark {
 
 class TorController;
 
-// Has the controller look at the computer's session whenever another process may have changed it:
-// when something happens where the helper keeps its marker, and when the program ends whose session
-// is shown. Main thread.
+// Makes the controller look at the computer's session whenever another process may have changed it:
+// when the folder of the helper's marker changes, and when the process that owns the shown session
+// ends. Main thread.
 class SessionWatch : public QObject {
     Q_OBJECT
 

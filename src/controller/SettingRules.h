@@ -4,16 +4,16 @@
 #include "controller/PublishedState.h"
 #include "controller/TorController.h"
 
-// What a user may set and when: one rule for every way in, the windows as well as the command line
-// and the local socket. What a connection is made with holds until it ends. Main thread.
+// What a user may set and when. The rules hold for the windows, the command line and the local
+// socket alike. The settings that make a connection are locked until it ends. Main thread.
 namespace veldmark::SettingRules {
 
-// Why the setting cannot be changed now, a sentence; absent: it can be.
+// Why the setting cannot be changed now, as a sentence; absent when it can.
 std::optional<Text> lock(const TorController &controller, const Field &setting);
-// Why the text is no place of a tor, a sentence; absent: it may be one.
+// Why the text cannot be the path of a tor, as a sentence; absent when it can.
 std::optional<Text> torPathProblem(const QString &path);
 
-// Sets a setting of `controller` where these rules allow it. A value that it has already is never
+// Sets a setting of `controller` if these rules allow it. Setting the present value again is never
 // refused.
 Result<void, SettingError> change(TorController &controller, Setting<bool> &setting, bool value);
 Result<void, SettingError> change(TorController &controller, Setting<QString> &setting,

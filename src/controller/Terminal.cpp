@@ -19,7 +19,7 @@ void TorController::applyTerminalMode()
     terminalError = std::nullopt;
     ++m_terminalRun;
     if (terminalMode()) {
-        // To know what ssh can use, programs have to be asked; the shells need not wait for that.
+        // Finding what ssh can use starts programs. The shells do not wait for that.
         const bool isKnown = terminal.knowsSocksCommand();
         showTerminalProblem(isKnown ? terminal.install() : terminal.installForShells());
         if (!isKnown && !terminalError())
@@ -29,8 +29,8 @@ void TorController::applyTerminalMode()
     setShellsActive(terminalMode() && phase() == ConnectionPhase::connected);
 }
 
-// Another process of this user's says for its own session whether the shells follow it, also where
-// it isn't shown here.
+// Another process of the same user decides for its own session whether the shells follow it, even
+// when this process does not show that session.
 void TorController::setShellsActive(bool on)
 {
     const auto other = SessionOwner::ofAnotherProcess(m_services.profile);

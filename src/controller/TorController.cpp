@@ -70,7 +70,7 @@ QCoro::Task<void> TorController::locateTransports()
 void TorController::showTransports(const PluggableTransports &found, quint64 search)
 {
     if (search < m_shownSearch)
-        return; // a search that began later has seen the newer files
+        return; // a search that began later has seen newer files
     m_shownSearch = search;
     transports = found;
 }

@@ -48,26 +48,26 @@ class TerminalIntegration;
 struct PlatformProfile;
 struct TerminalError;
 
-// A bootstrap report of Tor's, as much of it as is shown.
+// The parts of Tor's bootstrap report that are shown.
 struct BootstrapStatus {
     int progress = 0; // per cent
     QString summary;  // Tor's own words; empty when the report has none
-    Text warning;     // what is in Tor's way, a sentence; empty when Tor warns of nothing
+    Text warning;     // why Tor is stuck, a sentence; empty without a warning
 };
 
-// The one object that holds what the program knows: the user's settings, the session with Tor, and
-// the results of the checks. Views read its fields and call its operations; only the operations
-// write state. It lives, and is used, on the main thread alone.
+// The one object that holds the program's knowledge: the user's settings, the session with Tor, and
+// the results of the checks. Views read its fields and call its operations. Only the operations
+// write state. It lives on the main thread and is used there only.
 //
 // The operations are coroutines that suspend while they wait; each has its own source file
-// (Connect.cpp, Disconnect.cpp, Monitoring.cpp, …). They report through the fields, never by a
-// result. Whether the network is set up for Tor is not this object's memory to tell but the
-// helper's session marker: `isSessionMarkerPresent()`.
+// (Connect.cpp, Disconnect.cpp, Monitoring.cpp, …). They report through the fields; a few return a
+// result as well. The helper's session marker, not this object, says whether the network is set up
+// for Tor: `isSessionMarkerPresent()`.
 class TorController : public FieldOwner {
     Q_OBJECT
 
 public:
-    // What the controller needs from outside. Everything must outlive the controller.
+    // What the controller needs from other rooms. Every object must outlive the controller.
     struct Services {
         const PlatformProfile &profile;
         SettingsStore &settings;
@@ -81,26 +81,26 @@ public:
         RunningApplications &applications;
         std::function<QCoro::Task<PluggableTransports>()> locateTransports;
         BridgeProbe bridgeProbe;
-        // TransportDownloader::install(); without it downloadTransports() does nothing.
+        // TransportDownloader::install(). Without it downloadTransports() does nothing.
         std::function<QCoro::Task<TransportDownloader::Outcome>(
             bool throughTor, TransportDownloader::Progress progress)>
             installTransports = {};
         // TransportDownloader::cancel().
         std::function<void()> cancelTransports = {};
-        // As locateTransports, without waiting for what programs say of themselves; for connect().
-        // Without it locateTransports is used.
+        // Like locateTransports, without starting programs to ask them; for connect(). Without it
+        // locateTransports is used.
         std::function<QCoro::Task<PluggableTransports>()> locateWithoutAsking = {};
         std::function<QSet<QHostAddress>()> ownAddresses = OwnAddresses::present;
         std::function<std::optional<NetworkRoute>()> route = NetworkRoute::present;
-        // ProgramApproval::missing(), for the words of a connect. Without it nothing is ever to be
-        // approved.
+        // ProgramApproval::missing(), for the words of a connect. Without it nothing needs
+        // approval.
         std::function<std::vector<ProgramApproval>(const QStringList &words)> missingApprovals = {};
-        // ProgramApproval::named(), likewise.
+        // ProgramApproval::named(), for the same words.
         std::function<std::vector<ProgramApproval>(const QStringList &words)> namedPrograms = {};
     };
 
-    // Registers the settings' defaults, reads the settings, and starts looking for transports
-    // (off the main thread; `transports` is set when they are found).
+    // Registers the settings' defaults, reads the settings, and starts looking for transports off
+    // the main thread, which sets `transports`.
     explicit TorController(const Services &services, QObject *parent = nullptr);
     ~TorController() override;
 
@@ -134,41 +134,41 @@ public:
 
     // --- The session. ---
     Published<ConnectionPhase> phase{this, "phase", ConnectionPhase::disconnected};
-    Published<std::optional<RoutingMode>> activeMode{this, "activeMode"}; // absent when no session
+    // absent without a session
+    Published<std::optional<RoutingMode>> activeMode{this, "activeMode"};
     Published<std::optional<BridgeChoice>> activeBridge{this, "activeBridge"};
     Published<double> bootstrapProgress{this, "bootstrapProgress"}; // 0…1
-    // the line under the title
+    // The line under the title.
     Published<Text> statusDetail{this, "statusDetail",
                                  Text::tr("Your traffic is not going through Tor")};
-    // What keeps Tor from connecting, by its own report and log, in a sentence; absent when Tor
-    // knows of nothing. Stays after a bootstrap that failed, until the next attempt or the restore.
+    // Why the bootstrap is stuck, a sentence from Tor's report and log. It clears on progress and
+    // survives a failure until the next attempt or the restore.
     Published<std::optional<Text>> bootstrapProblem{this, "bootstrapProblem"};
-    // Whose the session is that a stale phase shows, while another process that made it still runs.
+    // The owner of the session that a stale phase shows, while that other process runs.
     Published<std::optional<SessionOwner>> otherSession{this, "otherSession"};
-    // a connect attempt may be ended by disconnect()
+    // disconnect() may end the connect attempt.
     Published<bool> canCancel{this, "canCancel"};
-    // The banner; absent = none. An operation that may set it takes back what stood there before,
-    // except a restore that did not happen: then the reason for restoring is still true.
+    // The banner; absent = none. Operations clear it first, except disconnect() when no session was
+    // up.
     Published<std::optional<Text>> errorMessage{this, "errorMessage"};
     Published<quint64> bytesRead{this, "bytesRead"}; // since Tor started
     Published<quint64> bytesWritten{this, "bytesWritten"};
-    // Why nothing gets through Tor at the moment, although it counts as connected; absent while
-    // something does.
+    // Why nothing gets through Tor although the phase is `connected`; absent while traffic flows.
     Published<std::optional<TrafficWatch::Stall>> stall{this, "stall"};
-    // Of the stall "firewall": the names of those that deny what goes out; else empty.
+    // For the stall "firewall": the names of the firewalls that deny outgoing traffic; else empty.
     Published<QStringList> denyingFirewalls{this, "denyingFirewalls"};
 
     // --- The checks. ---
-    // What the watcher over the rules has last seen in the kernel; absent without a strict session.
-    // Read in every phase but `disconnected` and `disconnecting`, also when Tor is dead, and before
-    // anything is said to be blocked.
+    // The state of the rules in the kernel as the watcher last reported it; absent without a strict
+    // session. Read in every phase but `disconnected` and `disconnecting`, even when Tor is dead,
+    // and before traffic is said to be blocked.
     Published<std::optional<KillSwitch>> killSwitch{this, "killSwitch"};
     Published<std::optional<QString>> exitIP{this, "exitIP"};
     Published<std::optional<bool>> torVerified{this, "torVerified"}; // absent = not checked yet
     Published<LeakStatus> leakStatus{this, "leakStatus", LeakStatus::notTested()};
     Published<DNSStatus> dnsStatus{this, "dnsStatus", DNSStatus::unknown()};
     Published<bool> isChecking{this, "isChecking"};
-    // of a request through Tor, milliseconds
+    // Of a request through Tor, in milliseconds.
     Published<std::optional<qint64>> latencyMs{this, "latencyMs"};
     Published<std::optional<Text>> optimizeStatus{this, "optimizeStatus"};
     Published<bool> isOptimizing{this, "isOptimizing"};
@@ -181,23 +181,23 @@ public:
     Published<bool> passwordlessInstalled{this, "passwordlessInstalled"};
     Published<std::optional<Text>> startupError{this, "startupError"};
     Published<std::optional<Text>> terminalError{this, "terminalError"};
-    // What to install so that ssh goes through Tor in terminal mode; absent when it does, when the
-    // mode is off, and while programs are still being asked.
+    // What to install so that ssh goes through Tor in terminal mode; absent when ssh does, when the
+    // mode is off, and while programs are being asked.
     Published<std::optional<Text>> terminalHint{this, "terminalHint"};
-    // What is wrong with the settings' file, a sentence each, the oldest first; until its reader
-    // has dismissed it.
+    // What is wrong with the settings' file, a sentence each, oldest first, until the user
+    // dismisses it.
     Published<QList<Text>> settingsProblems{this, "settingsProblems"};
 
     // --- Derived from the fields. ---
-    Verdict verdict() const; // how safe all this is; what every surface shows
+    Verdict verdict() const; // how safe the session is; every surface shows it
     Text title() const { return verdict().title; }
     QString menuBarSymbol() const { return verdict().symbol; }
     bool optionsLocked() const;
     bool canDownloadTransports() const;
     bool canLaunchBypassed() const;
     bool isSessionMarkerPresent() const;
-    // The executable to use: the custom path, then the standard places; absent when none is
-    // executable. Asks the file system.
+    // The tor to use: the custom path, else the first executable standard place; absent when none
+    // is executable. Reads the file system.
     std::optional<QString> torPath() const;
     const PlatformProfile &profile() const { return m_services.profile; }
 
@@ -205,71 +205,71 @@ public:
     // From `disconnected` or `stale` to `connected`; in any other phase does nothing.
     QCoro::Task<void> connect();
     // Restores the network. Accepted when connected, stale, or connecting with `canCancel`. When
-    // the helper fails, a session that was up is so again as long as the marker says so too. The
-    // error is a sentence; empty when the user dismissed the prompt, or when it was not accepted or
-    // not waited for. A session by which another process has replaced this one's is not ended by
-    // the first call, which shows it instead.
+    // the helper fails, a session that was up stays up as long as the marker exists. The error is a
+    // sentence; empty when the user dismissed the prompt, when the call was not accepted, or when a
+    // later operation replaced it. If another process's session has replaced this one's, the first
+    // call shows that session and does not end it.
     QCoro::Task<Result<void, Text>> disconnect();
-    // At start-up, before anything shows state: finds a session left from an earlier run.
+    // At start-up, before any view shows state: finds a session left over from an earlier run.
     void detectStaleState();
-    // When another process may have made, replaced or ended the computer's session: shows what is
-    // so now. Does nothing while a session of this object's is being made or goes, nor while its
-    // own stands unreplaced.
+    // Shows the computer's session as it is now. Called when another process may have begun,
+    // replaced or ended one. Does nothing while this object sets up a session (until `canCancel`)
+    // or restores the network, nor while its own session is in place.
     void lookAtSession();
-    // At start-up: connects when the user wants it, nothing is left over and tor is there.
+    // At start-up: connects when the user wants it, no session is left over and tor exists.
     QCoro::Task<void> autoConnectIfEnabled();
 
     // --- Operations: checks and circuits; each does nothing unless connected. ---
     QCoro::Task<void> runChecks();
     QCoro::Task<void> checkDNS(bool live);
-    // Calls that come while one is under way share its run, and its prompt.
+    // Calls made during a run share that run and its prompt.
     QCoro::Task<void> fixDNS();
     QCoro::Task<void> refreshCircuits();
     QCoro::Task<void> newIdentity();
     QCoro::Task<void> newCircuit(QString id);
     QCoro::Task<void> optimizeCircuits();
-    // The computer was asleep: what was verified is no longer known, and Tor's connections may hang
-    // without a word.
+    // Called after the computer has slept: the exit is no longer verified, and Tor's connections
+    // may hang.
     void wake();
 
-    // What the last operation that failed has said, without what is told of the kill switch and of
-    // Tor's own network.
+    // The last failed operation's message, without messages about the kill switch and Tor's own
+    // network.
     std::optional<Text> failure() const;
-    // What goes behind the banner: what kept Tor from connecting, where the banner says that it
-    // didn't.
+    // The reason to show with the banner: why Tor did not connect, when the banner reports a failed
+    // bootstrap.
     std::optional<Text> problemBehindError() const
     {
         return errorMessage() && errorMessage() == m_bootstrapFailure ? bootstrapProblem()
                                                                       : std::nullopt;
     }
-    // Whether the session that a stale phase shows is this object's, and its Tor has ended.
+    // Whether a stale phase shows this object's session, whose Tor has ended.
     bool hasTorStopped() const { return m_torStopped; }
-    // The user has read the banner.
+    // Called when the user dismisses the banner.
     void dismissError() { errorMessage = std::nullopt; }
-    // Shows what went wrong outside the controller as the banner.
+    // Shows a problem from outside the controller as the banner.
     void showProblem(const Text &problem) override { errorMessage = problem; }
-    // Takes over what the settings' store has to tell.
+    // Takes new problems from the settings' store.
     void readSettingsProblems();
-    // The user has read the oldest of them.
+    // Called when the user dismisses the oldest problem.
     void dismissSettingsProblem() { settingsProblems = settingsProblems().mid(1); }
 
     // --- Operations: transports. ---
-    // Searches the computer afresh and sets `transports`, unless a search that began later has done
-    // so.
+    // Searches the computer again and sets `transports`, unless a search that began later has
+    // already set it.
     QCoro::Task<void> locateTransports();
-    // Fetches and installs the Tor Project's bundle of transport programs, through Tor while
-    // connected. A connect() ends a direct download; it begins again when the connection stands or
-    // has failed. Does nothing unless canDownloadTransports(). `transportDownload` tells how it
-    // goes and keeps the last word until the next download; it is absent when all went well. True
-    // when a bundle was installed, whatever else there is to say about it.
+    // Downloads and installs the Tor Project's bundle of transport programs, through Tor while
+    // connected. A connect() interrupts a direct download, which starts again when the connection
+    // is up or has failed. Does nothing unless canDownloadTransports(). `transportDownload` shows
+    // the progress and keeps the last message until the next download; it is absent after a success
+    // without remarks. True when a bundle was installed, whatever else is reported.
     QCoro::Task<bool> downloadTransports();
 
-    // --- Operations: applications without Tor; paths as `bypassApps` holds them. ---
-    // Whether it can be one: an absolute path that ends like this system's applications.
+    // --- Operations: applications that bypass Tor; paths as `bypassApps` holds them. ---
+    // Whether it may be listed: an absolute path with this system's ending for applications.
     bool isApplication(const QString &path) const;
-    // The order of `bypassApps`: by displayed name, each once.
+    // Sorted by displayed name, without duplicates: the order of `bypassApps`.
     QStringList sortedByName(QStringList applications) const;
-    // Ignores what is no application of this system, and what is listed already.
+    // Ignores a path that is no application of this system or is already listed.
     void addBypassApp(const QString &path);
     void removeBypassApp(const QString &path);
     // Does nothing unless `canLaunchBypassed()`, nor while the same application is being opened.
@@ -278,22 +278,21 @@ public:
     QCoro::Task<Result<void, Text>> launchBypassed(QString path);
 
     // --- Operations: helper without a password, terminal. ---
-    // Reinstalls the root-owned helper when the program brought a newer one.
+    // Reinstalls the root-owned helper when the program contains a newer one.
     QCoro::Task<void> updatePrivilegedHelper();
-    // One of these two at a time; a call while one is under way does nothing.
+    // One of these two runs at a time; a call during a run does nothing.
     QCoro::Task<void> installPasswordless();
     QCoro::Task<void> removePasswordless();
-    std::optional<Text> setTerminalMode(bool on); // as Setting::set()
+    std::optional<Text> setTerminalMode(bool on); // like Setting::set()
     void removeTerminalIntegration();
-    // Resumes when `terminalHint` is known. Programs are asked for it, beside what else happens and
-    // once.
+    // Resumes when `terminalHint` is known. The programs are asked once, in the background.
     QCoro::Task<void> askTerminalHint();
-    // Whether the shells, and ssh, read terminal mode's files. Both read the user's files, so not
-    // for every redraw.
+    // Whether the shells, and ssh, read terminal mode's files. Both functions read the user's
+    // files, so do not call them on every redraw.
     bool isTerminalInstalled() const;
     bool isTerminalUsedBySsh() const;
 
-    // Reads the value of Tor's "status/bootstrap-phase".
+    // Parses the value of Tor's "status/bootstrap-phase".
     static BootstrapStatus parseBootstrap(const QString &reply);
 
 private:
@@ -302,67 +301,68 @@ private:
     static constexpr qint64 slowPathMs = 1501;
 
     // Connect.cpp
-    // Has the administrator asked for each of these programs.
+    // Asks the administrator to approve each of these programs.
     QCoro::Task<Result<void, HelperError>> approve(Attempt attempt,
                                                    std::vector<ProgramApproval> programs);
     std::vector<ProgramApproval> unapproved(const QStringList &words) const;
     std::vector<ProgramApproval> namedPrograms(const QStringList &words) const;
-    // Runs the helper's connect with what root needs for the programs in these words. Nobody reads
-    // the answer once the attempt is an old one.
+    // Runs the helper's connect with the approvals that root needs for the programs in these words.
+    // The result is unused once the attempt is old.
     QCoro::Task<Result<void, HelperError>> runConnect(Attempt attempt, QStringList words);
     void failAtHelper(const HelperError &error);
     QCoro::Task<Result<QStringList, Text>> bridgeArguments(Attempt attempt, BridgeRequest request);
-    // Makes every operation that is still under way an old one and clears what it left shown.
+    // Makes every running operation an old one and clears the fields that it left set.
     Attempt startAttempt();
     bool isCurrent(Attempt attempt) const { return attempt == m_attempt; }
     void resetSessionInfo();
-    // Empties what is known about circuits: the next Tor counts its circuits from 1 again.
+    // Forgets the circuits: the next Tor numbers its circuits from 1 again.
     void forgetCircuits();
-    // Everything of the session goes, and the phase becomes `disconnected`.
+    // Clears everything about the session and sets the phase `disconnected`.
     void endSession();
     void settleAfterFailure();
-    // What follows a connect: the checks, and the optimisation of a slow path where it is wanted.
+    // Runs after a connect: the checks, then the optimisation of a slow path when the user wants
+    // it.
     QCoro::Task<void> settleIn(Attempt attempt);
-    // The mode that the session marker names; absent when it names none, or is not there.
+    // The mode that the session marker names; absent when there is none.
     std::optional<RoutingMode> markedMode() const;
     Text connectedDetail() const;
     Text leftOverDetail() const;
     void failAttempt(const Text &message);
     // Bootstrap.cpp
     QCoro::Task<Result<void, Text>> waitForBootstrap(Attempt attempt);
-    // `waited`: since Tor's first answer.
+    // `waited`: time since Tor's first answer.
     std::optional<Text> problemBehind(const BootstrapStatus &status,
                                       std::chrono::nanoseconds waited) const;
     // Monitoring.cpp
     void startMonitoring();
     void stopMonitoring();
     QCoro::Task<void> monitor(quint64 run);
-    // What the counters and Tor's word on its circuits say of the traffic.
+    // Judges the traffic by the counters and by Tor's report on its circuits.
     void lookAtTraffic(std::optional<bool> hasCircuit);
     void torDied();
     void giveUpTo(const std::optional<SessionOwner> &other);
-    Text replacedText() const; // `otherSession` is there
-    // nobody's: one that was left over
+    Text replacedText() const; // needs `otherSession`
+    // Absent owner: a left-over session.
     void showSessionOf(const std::optional<SessionOwner> &other);
     struct TimedProbe {
         ProbeResult answer;
-        std::chrono::milliseconds elapsed; // in both outcomes
+        std::chrono::milliseconds elapsed; // also without an answer
     };
     QCoro::Task<TimedProbe> timedViaTor();
     // KillSwitchWatch.cpp
     void lookAtKillSwitch();
-    // "Blocked" is the rules' doing, and nothing where they aren't known to stand.
+    // Replaces "blocked" by "not tested" when the rules are not known to block.
     LeakStatus believable(const LeakStatus &found) const;
-    // Looks now and every two seconds until stopped or the session ends. What m_knownKillSwitch
-    // holds is no news.
+    // Looks now and every second until stopped or the session ends. The state in m_knownKillSwitch
+    // is not told.
     void startKillSwitchWatch();
     void stopKillSwitchWatch() { ++m_killSwitchWatch; }
     void forgetKillSwitch();
     QCoro::Task<void> watchKillSwitch(quint64 run);
-    std::optional<KillSwitch> judgedKillSwitch(); // asks the note and the marker
+    std::optional<KillSwitch> judgedKillSwitch(); // reads the watcher's note and the marker
     std::optional<Text> killSwitchMessage() const;
     Text deathMessage() const;
-    // Asks for the exit alone, after Tor was told to take new circuits.
+    // Asks for the exit alone, after Tor was told to use new circuits.
     QCoro::Task<void> checkExit();
     void forgetExit();
     void showExit(const ProbeResult &answer);
@@ -395,43 +395,43 @@ private:
     Services m_services;
     Attempt m_attempt = 0;     // the running connect or disconnect; older ones end silently
     quint64 m_monitor = 0;     // the running monitor loop
-    quint64 m_terminalRun = 0; // how often terminal mode was applied
-    std::optional<QString> m_controlPassword;       // of the running session; in memory only
-    QString m_controlHash;                          // what Tor was told of it
-    std::optional<SessionMark> m_sessionMark;       // of the session that this object has made
-    QStringList m_sessionWords;                     // what the helper was last asked for, and did
+    quint64 m_terminalRun = 0; // the run that last applied terminal mode
+    std::optional<QString> m_controlPassword;       // of the running session; only in memory
+    QString m_controlHash;                          // the hash that Tor got of it
+    std::optional<SessionMark> m_sessionMark;       // of this object's session
+    QStringList m_sessionWords;                     // of the helper's last successful connect
     bool m_isDownloading = false;                   // transports
-    bool m_downloadsDirectly = false;               // and not through Tor
-    bool m_downloadInterrupted = false;             // a connect has begun meanwhile
+    bool m_downloadsDirectly = false;               // not through Tor
+    bool m_downloadInterrupted = false;             // by a connect
     std::optional<ResumeOnce<bool>> m_downloadWait; // for the end of that connect
     quint64 m_transportSearch = 0;                  // the last search that began
-    quint64 m_shownSearch = 0;                      // the one that `transports` is of
-    std::optional<Attempt> m_fixedAttempt;          // whose fixDNS() is under way
+    quint64 m_shownSearch = 0;                      // the search that `transports` is from
+    std::optional<Attempt> m_fixedAttempt;          // the attempt whose fixDNS() runs
     std::vector<ResumeOnce<bool>> m_fixWaiters;     // later calls of the same session
     quint64 m_killSwitchWatch = 0;                  // the running watch
     std::optional<KillSwitch> m_knownKillSwitch;    // as last told in this session
-    std::optional<Text> m_killSwitchMessage;        // the banner that tells of it
-    Clock::TimePoint m_killSwitchSeen;              // when the watcher's note was last a fresh one
-    std::optional<Text> m_bootstrapFailure;         // the banner of a bootstrap that failed
-    bool m_torStopped = false;                      // under this session
-    // What the monitor knows of the session's network, also over a disconnect that was refused.
+    std::optional<Text> m_killSwitchMessage;        // the banner about it
+    Clock::TimePoint m_killSwitchSeen;              // when the watcher's note was last fresh
+    std::optional<Text> m_bootstrapFailure;         // the banner of a failed bootstrap
+    bool m_torStopped = false;                      // in this session
+    // What the monitor knows of the session's network. Kept when a disconnect is refused.
     struct NetworkKnowledge {
-        bool hasSlept = false; // Tor is to begin anew
-        // Tor was told to leave the network, and has not confirmed that it is back
+        bool hasSlept = false; // Tor is to reopen its connections
+        // Tor was told to close its network and has not confirmed that it is back.
         bool mayBeOffline = false;
         OwnAddresses addresses;
         TrafficWatch traffic;
-        QStringList passed; // firewalls of others through which Tor has connected all the same
+        QStringList passed; // firewalls that let Tor connect nevertheless
     } m_network;
     bool m_dnsLiveVerified = false; // a live DNS check passed in this session
     bool m_isSettlingIn = false;    // settleIn() is under way
-    // counts the times that Tor was asked for new circuits
+    // Counts the requests for new circuits and the other losses of the known exit.
     quint64 m_identity = 0;
     quint64 m_circuitReading = 0;     // the last refresh that began
-    quint64 m_readCircuits = 0;       // the newest whose answer has come
-    quint64 m_shownCircuits = 0;      // the one that `circuits` is of
+    quint64 m_readCircuits = 0;       // the newest refresh that was answered
+    quint64 m_shownCircuits = 0;      // the refresh that `circuits` is from
     bool m_isSettingUpHelper = false; // password-free mode is being set up or removed
-    QStringList m_launching;          // applications that are being opened without Tor
+    QStringList m_launching;          // applications that are being opened to bypass Tor
     QStringList m_pendingBridgeLines; // of the connection being set up
     QStringList m_activeBridgeLines;  // of the running session
     RelayCache m_relayCache;

@@ -9,7 +9,7 @@
 namespace veldmark {
 
 namespace {
-// The command that installs GnuPG, made like the one for tor: "brew install gnupg".
+// The command that installs GnuPG, derived from the command for tor: "brew install gnupg".
 Text gnupgHint(const QString &torHint)
 {
     const qsizetype package = torHint.indexOf(QLatin1String(" tor"));
@@ -18,7 +18,7 @@ Text gnupgHint(const QString &torHint)
 }
 } // namespace
 
-// What goes on around Tor after the user has asked for Tor would say who connects.
+// Traffic around Tor after the user has asked for Tor would reveal who connects.
 void TorController::interruptDirectDownload()
 {
     if (!m_downloadsDirectly || !m_services.cancelTransports)
@@ -52,7 +52,7 @@ QCoro::Task<TransportDownloader::Outcome> TorController::fetchTransports()
                                                 [changed] { changed.complete(true); });
             co_await changed;
             if (!self)
-                co_return Failure(DownloadError::other(Text())); // nobody reads this
+                co_return Failure(DownloadError::other(Text())); // the result is unused
             QObject::disconnect(heard);
         }
         m_downloadWait.reset();

@@ -5,8 +5,8 @@
 
 namespace veldmark {
 
-// logind's word that the computer has been asleep and is awake again. Where there is no logind,
-// nothing ever happens. Main thread.
+// Hears from logind that the computer has slept and is awake again. Without logind it does nothing.
+// Main thread.
 class WakeNotice : public QObject {
     Q_OBJECT
 

@@ -8,7 +8,7 @@ namespace veldmark {
 
 Withdrawal::Withdrawal(TorController &controller) : m_controller(controller)
 {
-    // Queued: what an operation sets, it has set as a whole by then.
+    // Queued: by then the operation has set all its fields.
     for (const Field *field :
          std::initializer_list<const Field *>{&controller.phase, &controller.canCancel})
         QObject::connect(field, &Field::changed, this, &Withdrawal::proceed, Qt::QueuedConnection);
@@ -30,7 +30,7 @@ void Withdrawal::proceed()
     const bool busy = phase == ConnectionPhase::disconnecting
         || (phase == ConnectionPhase::connecting && !m_controller.canCancel());
     if (busy)
-        return; // the next change comes back here
+        return; // the next change of phase calls again
     if (isDone())
         finish();
     else
@@ -41,7 +41,7 @@ QCoro::Task<void> Withdrawal::disconnect()
 {
     const QPointer<Withdrawal> self(this);
     m_disconnecting = true;
-    m_controller.dismissError(); // what stands there afterwards is about this
+    m_controller.dismissError(); // a later banner is about this disconnect
     co_await m_controller.disconnect();
     if (!self)
         co_return;
@@ -55,7 +55,7 @@ void Withdrawal::finish()
     Q_EMIT finished(isDone());
 }
 
-// Also where this program's session was replaced by another process's without its knowing yet.
+// Also true when another process has replaced this session and this process has not noticed yet.
 bool Withdrawal::isDone() const
 {
     return m_controller.phase() == ConnectionPhase::disconnected

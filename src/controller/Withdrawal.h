@@ -8,10 +8,9 @@ namespace veldmark {
 
 class TorController;
 
-// Takes the network out of Tor at the first moment at which that can be done: at once where the
-// controller can be told to disconnect, else when what it is busy with has got so far. For a
-// program that was told to end. What was left over from an earlier run is restored as well; a
-// session of another process that still runs is that one's. Main thread.
+// Restores the network for a program that was told to end. Disconnects now, or as soon as the
+// current operation allows it. A session left over from an earlier run is restored, too. A session
+// of another running process is left alone. Main thread.
 class Withdrawal : public QObject {
     Q_OBJECT
 
@@ -19,13 +18,14 @@ public:
     // `controller` must outlive the object.
     explicit Withdrawal(TorController &controller);
 
-    // Does nothing while one is under way. finished() follows, never from within this call.
+    // Does nothing while a withdrawal is under way. finished() follows, never from within this
+    // call.
     void begin();
     bool isUnderWay() const { return m_wanted; }
 
 Q_SIGNALS:
-    // Restored: nothing is left that is this program's to put back. Not restored: the controller's
-    // `errorMessage` says why, or the prompt was dismissed. It may be begun again.
+    // Restored: this program has nothing left to restore. Not restored: the controller's
+    // `errorMessage` says why, or the user dismissed the prompt. begin() may be called again.
     void finished(bool restored);
 
 private:

@@ -58,7 +58,7 @@ QCoro::Task<Outcome> status(Call call)
 QCoro::Task<Outcome> watch(Call call)
 {
     const auto lines = call.lines;
-    for (bool isThere = true; isThere;) { // it has nothing more to say
+    for (bool isThere = true; isThere;) { // until the client's input has ended
         auto reading = lines->next();
         const auto object = co_await reading;
         isThere = object.has_value();
@@ -77,7 +77,7 @@ QCoro::Task<Outcome> set(Call call)
         co_return Failure(InstanceError(done.error().description(),
                                         done.error().kind() == SettingError::Kind::Refused));
     if (key.toString() == call.controller->terminalMode.name()) {
-        // Whoever has switched it on is told what ssh lacks.
+        // The client that switches terminal mode on is told what ssh lacks.
         const auto controller = call.controller;
         co_await controller->askTerminalHint();
         if (controller)
@@ -107,7 +107,7 @@ QCoro::Task<Outcome> disconnect(Call call)
         co_return refusal(Text::tr("Not now: %1").arg(controller->statusDetail()));
     if (controller->phase() == ConnectionPhase::disconnected
         && !controller->isSessionMarkerPresent())
-        co_return {}; // there is nothing to do
+        co_return {}; // the network is not set up for Tor
     const auto ended = co_await controller->disconnect();
     if (!ended)
         co_return refusal(orCancelled(ended.error()));

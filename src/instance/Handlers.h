@@ -2,15 +2,15 @@
 
 #include "instance/Verbs.h"
 
-// What the running instance does when it is asked; Verbs.cpp names them. Each resumes when the work
-// is done. Main thread.
+// The running instance's commands, named in Verbs.cpp. Each coroutine resumes when its work is
+// done. Main thread.
 namespace veldmark::Handlers {
 
-// What a client hears of the state: in English, and its texts for another language.
+// The state as a client receives it: in English, with its texts for translation.
 QJsonObject stateMessage(const TorController &controller);
 
 QCoro::Task<Outcome> status(Call call);
-QCoro::Task<Outcome> watch(Call call); // until the other end goes
+QCoro::Task<Outcome> watch(Call call); // until the client disconnects
 QCoro::Task<Outcome> set(Call call);
 QCoro::Task<Outcome> connect(Call call);
 QCoro::Task<Outcome> disconnect(Call call);

@@ -6,7 +6,7 @@
 namespace veldmark {
 
 namespace {
-constexpr int connectLimitMs = 2000; // a local socket answers at once or not at all
+constexpr int connectLimitMs = 2000; // a local socket answers at once or never
 } // namespace
 
 std::shared_ptr<InstanceClient> InstanceClient::connectTo(const PlatformProfile &profile)
@@ -35,7 +35,7 @@ QCoro::Task<Result<void, InstanceError>> InstanceClient::run(QJsonObject request
         }
         if (answer->value(QStringLiteral("ok")).toBool())
             co_return {};
-        // An instance of an earlier version says it in English alone.
+        // An instance of an earlier version sends the error in English only.
         const QJsonValue text = answer->value(QStringLiteral("errorText"));
         co_return Failure(InstanceError(
             Text::fromJson(text.isUndefined() ? answer->value(QStringLiteral("error")) : text),

@@ -15,15 +15,16 @@ namespace veldmark {
 class JsonLines;
 struct PlatformProfile;
 
-// One command to the running instance. Lives on the thread whose event loop runs it.
+// Sends one command to the running instance. Lives on the thread of its event loop.
 class InstanceClient {
 public:
-    // Connects to the socket; nothing when no instance of this user's answers there.
+    // Connects to the socket; null when no instance of this user answers.
     static std::shared_ptr<InstanceClient> connectTo(const PlatformProfile &profile);
 
-    // Sends the command and waits for its end. `onState` hears every state that the instance sends
-    // meanwhile. The error is the instance's own line, or that it has gone. Call it once.
-    // see PublishedState.h
+    // Sends the command and waits for the end of the answer. `onState` receives every state that
+    // the instance sends meanwhile. The error is the instance's own line, or says that the instance
+    // has gone. Call it once.
+    // See PublishedState.h.
     using OnState = std::function<void(const QJsonObject &state, const QJsonObject &texts)>;
     QCoro::Task<Result<void, InstanceError>> run(QJsonObject request, OnState onState);
 

@@ -6,7 +6,7 @@
 
 namespace veldmark {
 
-// Why the running instance did not do what it was asked.
+// Why the running instance did not carry out a command.
 class InstanceError {
 public:
     explicit InstanceError(Text description, bool isUsage = false)
@@ -16,8 +16,7 @@ public:
     }
 
     Text description() const { return m_description; } // one line
-    // The request itself was wrong (a setting or a value that does not exist): asking again is no
-    // use.
+    // The request itself is wrong (an unknown setting or value), so repeating it is useless.
     bool isUsage() const { return m_isUsage; }
 
 private:

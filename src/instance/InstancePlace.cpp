@@ -15,7 +15,7 @@ namespace veldmark {
 
 namespace {
 
-// A folder that only its owner can enter, and whose owner is this user.
+// Whether the folder belongs to this user and only this user can enter it.
 bool isPrivateFolder(const QString &folder)
 {
     struct stat info { };
@@ -23,8 +23,8 @@ bool isPrivateFolder(const QString &folder)
         && info.st_uid == geteuid() && (info.st_mode & 0077) == 0;
 }
 
-// The process of this user's that holds the lock of another place. A home that other computers
-// share has their locks as well; those are none of this computer's.
+// The process of this user that holds the lock of another place. A home shared with other computers
+// holds their locks, too; those are ignored.
 std::optional<qint64> holderElsewhere(const PlatformProfile &profile)
 {
     for (const QString &socket : profile.otherControlSockets) {
@@ -64,15 +64,15 @@ Result<std::shared_ptr<QLockFile>, Text> lockInstance(const PlatformProfile &pro
     if (const auto pid = holderElsewhere(profile))
         return Failure(alreadyRunning(*pid));
     auto lock = std::make_shared<QLockFile>(folder + QStringLiteral("/lock"));
-    lock->setStaleLockTime(0); // held for as long as the process lives, never stale by age
+    lock->setStaleLockTime(0); // valid for the life of the process, never stale by age
     if (lock->tryLock(0))
         return lock;
     qint64 pid = 0;
     QString host;
     QString program;
     if (lock->error() == QLockFile::LockFailedError && !lock->getLockInfo(&pid, &host, &program)) {
-        // It says nothing: a crash came between its creation and its first byte. Removing it by age
-        // is safe, since whoever holds it has a lock of the system's on it as well.
+        // The lock file is empty: its writer crashed between creating and filling it. Removing it
+        // by age is safe, since a living holder also holds a lock of the system's on the file.
         lock->setStaleLockTime(1);
         const bool locked = lock->tryLock(0);
         lock->setStaleLockTime(0);

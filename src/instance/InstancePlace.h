@@ -11,10 +11,9 @@ namespace veldmark {
 
 struct PlatformProfile;
 
-// Takes the lock that makes this process the user's one instance, creating the folder of the
-// profile's control socket (0700) when it is missing. The error is one line: another instance
-// runs, or the folder is not the user's own. The lock is free again when the process ends,
-// however it ends.
+// Takes the lock that makes this process the user's one instance, and creates the folder of the
+// profile's control socket (0700) when it is missing. The error is one line: another instance runs,
+// or the folder is not the user's own. The lock is released when the process ends in any way.
 Result<std::shared_ptr<QLockFile>, Text> lockInstance(const PlatformProfile &profile);
 
 } // namespace veldmark

@@ -29,7 +29,7 @@ auto refusal(const Text &description)
     return Failure(InstanceError(description));
 }
 
-// The folder keeps other users out; this keeps them out also where its mode was changed.
+// The folder's mode keeps other users out; this check does so even when the mode was changed.
 bool isOwnUserOrRoot(const QLocalSocket &socket)
 {
 #ifdef Q_OS_LINUX
@@ -51,8 +51,8 @@ bool isOwnUserOrRoot(const QLocalSocket &socket)
 
 } // namespace
 
-// Sends the state over one connection whenever it has changed, at most once per turn of the event
-// loop, however many fields changed in it, and not before the other end has taken the last one.
+// Sends the state over one connection after changes, at most once per turn of the event loop, and
+// not before the client has read the last state.
 class StateStream : public QObject {
     Q_OBJECT
 
@@ -67,7 +67,7 @@ public:
         sendNow();
     }
 
-    // The last word, with everything that the command has changed, also when it has failed.
+    // Sends the final state, with all the command's changes, even after a failure.
     ~StateStream() override
     {
         if (m_scheduled || m_behind)
@@ -106,7 +106,7 @@ private:
     QPointer<TorController> m_controller;
     std::shared_ptr<JsonLines> m_lines;
     bool m_scheduled = false;
-    bool m_behind = false; // a change waits until the other end has read
+    bool m_behind = false; // a change waits until the client has read the last state
 };
 
 Result<std::unique_ptr<InstanceServer>, Text> InstanceServer::start(TorController &controller)
@@ -117,7 +117,7 @@ Result<std::unique_ptr<InstanceServer>, Text> InstanceServer::start(TorControlle
         return Failure(lock.error());
     std::unique_ptr<InstanceServer> server(new InstanceServer(controller));
     server->m_lock = *lock;
-    // With the lock ours, a socket that is still there belongs to a program that has crashed.
+    // This process holds the lock, so an existing socket belongs to a crashed instance.
     QLocalServer::removeServer(path);
     server->m_server.setSocketOptions(QLocalServer::UserAccessOption);
     if (!server->m_server.listen(path))
@@ -180,8 +180,8 @@ QCoro::Task<Result<void, InstanceError>> InstanceServer::execute(QJsonObject req
 {
     const QPointer<TorController> controller(&m_controller);
     const QString command = request.value(QStringLiteral("command")).toString();
-    // Another process may have changed what this one shows. What is to be ended is what was shown
-    // until now, and no other.
+    // Another process may have changed the session. A disconnect ends only the session that was
+    // shown until now, so the new one is not looked up first.
     if (command != QLatin1String("disconnect") || !m_controller.isSessionMarkerPresent())
         m_controller.lookAtSession();
     if (command == QLatin1String("raise")) {
@@ -201,8 +201,7 @@ QCoro::Task<Result<void, InstanceError>> InstanceServer::execute(QJsonObject req
     const Outcome done = co_await handling;
     if (!done)
         co_return done;
-    // What was asked of a session that ended meanwhile has no answer; the fields hold an earlier
-    // one.
+    // The session ended meanwhile; the fields are stale.
     if (controller && verb->needsSession && controller->phase() != ConnectionPhase::connected)
         co_return refusal(Text::tr("The session has ended: %1").arg(controller->statusDetail()));
     co_return {};

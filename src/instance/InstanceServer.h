@@ -14,25 +14,25 @@
 #include <memory>
 #include <vector>
 
-// The room of the one running program: InstanceServer is how it takes commands, InstanceClient how
-// another process gives them. They speak JSON, one object a line, over a local socket in a folder
-// that only the user can enter.
+// The socket of the running program: InstanceServer receives commands, InstanceClient sends them
+// from another process. They exchange JSON, one object a line, over a local socket in a folder that
+// only the user can enter.
 //
 //     → {"command": "connect"}                      also "set" with "key" and "value", …
 //     ← {"state": {…every published field…}}        any number of these, as they change
 //     ← {"ok": true}   or   {"ok": false, "error": "one line"}     the last line of the answer;
-//                                                  "usage": true besides when the request itself
+//                                                  with "usage": true when the request itself
 //                                                  was wrong
 //
-// A connection carries one command. A client that reads slowly misses states, never the last one;
-// one that goes away changes nothing about the command that it has given.
+// A connection carries one command. A client that reads slowly misses states, but not the last one.
+// A client that disconnects does not stop its command.
 namespace veldmark {
 
 class JsonLines;
 class TorController;
 
-// Lives on the controller's thread, and must go before the controller. Its clients are cut off
-// then.
+// Lives on the controller's thread, and must be destroyed before the controller. The destructor
+// disconnects the clients.
 class InstanceServer : public QObject {
     Q_OBJECT
 
@@ -43,7 +43,7 @@ public:
     ~InstanceServer() override;
 
 Q_SIGNALS:
-    // Somebody started the program a second time and wants to see it.
+    // The user started the program a second time.
     void raiseRequested();
 
 private:

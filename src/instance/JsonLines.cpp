@@ -5,7 +5,7 @@
 namespace veldmark {
 
 namespace {
-// An end that talks faster than it is listened to waits in its own buffers, not in ours.
+// Limits what is read ahead: the excess of a fast sender waits in the socket's buffers.
 constexpr qint64 chunkBytes = 64 * 1024;
 constexpr std::size_t readyLimit = 64;
 } // namespace
@@ -13,7 +13,7 @@ constexpr std::size_t readyLimit = 64;
 std::shared_ptr<JsonLines> JsonLines::over(QLocalSocket *socket)
 {
     std::shared_ptr<JsonLines> lines(new JsonLines(socket));
-    lines->read(); // what came before anybody listened
+    lines->read(); // reads what arrived before the signals were connected
     return lines;
 }
 
@@ -26,14 +26,13 @@ JsonLines::JsonLines(QLocalSocket *socket) : m_socket(socket)
     QObject::connect(socket, &QLocalSocket::disconnected, this, &JsonLines::onDisconnected);
 }
 
-// The socket says that it has been disconnected when it is destroyed, and by then nobody may
-// listen.
+// A socket emits disconnected() when it is destroyed; this object must not receive that.
 JsonLines::~JsonLines()
 {
     m_socket->disconnect(this);
 }
 
-// Takes as many lines as there is room for; next() comes back for the others.
+// Takes as many lines as there is room for; next() calls again for the others.
 void JsonLines::read()
 {
     while (!m_ended && m_ready.size() < readyLimit) {
@@ -58,8 +57,7 @@ void JsonLines::read()
     }
 }
 
-// The socket calls itself open for a while after its end has gone, and complains when it is read
-// then.
+// A closed socket counts as open for a while, and prints a warning when it is read then.
 bool JsonLines::hasBytes() const
 {
     return m_socket->isOpen() && m_socket->bytesAvailable() > 0;
@@ -75,14 +73,14 @@ void JsonLines::end()
 void JsonLines::onDisconnected()
 {
     if (!m_gone && hasBytes())
-        m_buffer += m_socket->readAll(); // no more than the socket's own buffer holds
+        m_buffer += m_socket->readAll(); // limited by the socket's own buffer
     m_gone = true;
     read();
     if (m_finished)
         m_finished->complete(true);
 }
 
-// Hands an object, or the end, to whoever waits, or keeps the object for the next wait.
+// Passes an object, or the end, to the waiting caller, or stores the object for the next wait.
 void JsonLines::give(const std::optional<QJsonObject> &object)
 {
     if (m_waiter) {
@@ -95,7 +93,7 @@ void JsonLines::give(const std::optional<QJsonObject> &object)
 
 QCoro::Task<std::optional<QJsonObject>> JsonLines::next()
 {
-    const auto self = shared_from_this(); // lives as long as the wait
+    const auto self = shared_from_this(); // keeps this object during the wait
     if (!m_ready.empty()) {
         const QJsonObject object = m_ready.front();
         m_ready.pop_front();
@@ -120,7 +118,8 @@ void JsonLines::write(const QJsonObject &object)
 
 QCoro::Task<void> JsonLines::finish()
 {
-    const auto self = shared_from_this(); // so do the bytes that wait
+    // keeps this object, and its unsent bytes, during the wait
+    const auto self = shared_from_this();
     m_socket->disconnectFromServer();
     if (m_socket->state() == QLocalSocket::UnconnectedState)
         co_return;

@@ -18,17 +18,16 @@ namespace veldmark {
 class JsonLines;
 class TorController;
 
-// What the running instance is asked for, and how it ends.
+// A request to the running instance, and its outcome.
 struct Call {
-    QPointer<TorController> controller; // may go while the handler waits
+    QPointer<TorController> controller; // may be destroyed while the handler waits
     QJsonObject request;
-    std::shared_ptr<JsonLines> lines; // to the client
+    std::shared_ptr<JsonLines> lines; // the client's connection
 };
 using Outcome = Result<void, InstanceError>;
 
-// One word that veldmarkctl, or the running instance's socket, understands. The table below is all
-// that there is to a word: arguments, usage text, completions, requests and the instance's answers
-// are made from it.
+// A command of veldmarkctl or of the running instance's socket. The table below defines each:
+// arguments, usage text, completions, requests and the instance's answers are made from it.
 struct Verb {
     enum class Id {
         run,
@@ -55,7 +54,7 @@ struct Verb {
         help,
         version,
         complete,
-        watch, // for the socket alone
+        watch, // only for the socket
     };
     struct Option {
         QString name; // "--json"
@@ -64,20 +63,20 @@ struct Verb {
     using Handler = QCoro::Task<Outcome> (*)(Call call);
 
     Id id;
-    QString name; // as it is typed
-    // as the usage text names them; in small letters, members of the request
+    QString name; // as the user types it
+    // As the usage text names them. Those in small letters are members of the request.
     QStringList operands = {};
     std::vector<Option> options = {};
-    Text help = {}; // one or more lines; empty: not told to users
-    // the sentence for an operand that is not there; empty: a usual one
+    Text help = {}; // one or more lines; empty: hidden from users
+    // The error for a missing operand; empty: the default one.
     Text missing = {};
-    QString command = {};      // the socket's word, when it is another
+    QString command = {};      // the socket's word, when it differs
     bool takesProgram = false; // a program and its words follow the operands
     bool needsSession = false; // refused by the instance unless it is connected
-    bool streams = false;      // the client hears of every change until it ends
-    Handler handler = nullptr; // in the running instance; absent: veldmarkctl does it by itself
+    bool streams = false;      // the client receives every change until it ends
+    Handler handler = nullptr; // in the running instance; null: veldmarkctl does the work
 
-    // What the socket calls it.
+    // The command's name on the socket.
     QString requested() const { return command.isEmpty() ? name : command; }
     // The help's first words in the user's language, for a list.
     QString summary() const;
@@ -85,7 +84,7 @@ struct Verb {
 
 const std::vector<Verb> &verbs();
 const Verb &verbOf(Verb::Id id);
-const Verb *verbTyped(const QString &name);        // null: a user cannot type that
-const Verb *verbRequested(const QString &command); // null: the instance does not know that
+const Verb *verbTyped(const QString &name);        // null: no command for users
+const Verb *verbRequested(const QString &command); // null: unknown to the instance
 
 } // namespace veldmark

@@ -103,7 +103,7 @@ QImage ApplicationIcons::requestImage(const QString &id, QSize *size, const QSiz
     const int pixels = requestedSize.width() > 0 ? requestedSize.width() : 32;
     const QIcon found = icon.startsWith(u'/') ? QIcon(icon) : QIcon::fromTheme(icon);
     QImage image = found.pixmap(QSize(pixels, pixels), 1.0).toImage();
-    if (image.isNull()) // not installed, or damaged: no hole in the list
+    if (image.isNull()) // missing or damaged: a generic symbol fills the place
         image = Symbols::image(QStringLiteral("square.grid.2x2"), pixels, QColor(0x80, 0x80, 0x90));
     *size = image.size();
     return image;

@@ -8,8 +8,8 @@
 
 namespace veldmark {
 
-// The installed applications from which those that may skip Tor are chosen: one a row, by name, as
-// far as the search lets it through.
+// The installed applications, from which the user chooses those that may bypass Tor. One
+// application a row, by name, filtered by the search.
 class ApplicationChoices : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -21,8 +21,8 @@ class ApplicationChoices : public QAbstractListModel {
 public:
     enum Role {
         NameRole = Qt::UserRole + 1,
-        PictureRole, // URL of the application's picture, as text; empty where it has none
-        ChosenRole   // bool: it may skip Tor
+        PictureRole, // URL of the application's picture, as text; empty without one
+        ChosenRole   // bool: the application may bypass Tor
     };
 
     // `session` must outlive the model.
@@ -36,9 +36,9 @@ public:
     void setSearch(const QString &text);
     QString emptyText() const; // why there are no rows
 
-    // Looks at what is installed now.
+    // Reads the installed applications again.
     Q_INVOKABLE void refresh();
-    // Chooses the row's application, or gives it up. Nothing for a row that there is not.
+    // Chooses the row's application, or removes it from the chosen ones. Ignores an unknown row.
     Q_INVOKABLE void toggle(int row);
 
 Q_SIGNALS:
@@ -50,10 +50,11 @@ private:
     Session &m_session;
     QString m_search;
     std::vector<InstalledApplication> m_all; // by name
-    std::vector<std::size_t> m_shown;        // places in m_all
+    std::vector<std::size_t> m_shown;        // indexes into m_all
 };
 
-// Pictures of applications: "image://application/" and the icon's name or file, percent-encoded.
+// Pictures of applications: "image://application/" followed by the icon's name or file,
+// percent-encoded.
 class ApplicationIcons final : public QQuickImageProvider {
 public:
     ApplicationIcons() : QQuickImageProvider(Image) { }

@@ -21,12 +21,12 @@ namespace {
 constexpr double computerRadius = 18;
 constexpr double nodeRadius = 13;
 constexpr double denseRadius = 7;
-constexpr double labelRow = 34; // rows closer than this have no room for a label below the node
+constexpr double labelRow = 34; // closer rows have no room for a label below the node
 constexpr double clickRadius = 20;
-constexpr double wireDistance = 4; // of handles; strands lie at most 3/4 of it apart
+constexpr double wireDistance = 4; // between handles; strands are at most 3/4 of it apart
 constexpr double ribbonWidth = 28;
 
-// How visible the rest stays beside a followed circuit, and beside those under the pointer.
+// The opacity of what does not stand out, beside a followed circuit and beside hovered ones.
 constexpr double fadedStrand = 0.14;
 constexpr double fadedNode = 0.3;
 constexpr double dimmedStrand = 0.3;
@@ -85,7 +85,7 @@ void CircuitGraphView::rebuild()
         QHash<QString, int> legs;
         for (size_t i = 0; i < m_drawn.size(); ++i) {
             m_circuits.push_back({m_drawn[i].id, CircuitsModel::paletteColor(i), 0, false});
-            // The legs of one conflux set are strands that part and meet again at the exit.
+            // The legs of one conflux set are strands that separate and join again at the exit.
             if (!m_drawn[i].confluxID.isEmpty())
                 m_circuits.back().bulge = legs[m_drawn[i].confluxID]++ % 2 == 0 ? -7.0 : 7.0;
         }
@@ -93,7 +93,7 @@ void CircuitGraphView::rebuild()
         layOut();
     }
     light();
-    Q_EMIT hoveredChanged(); // it may be elsewhere, or gone
+    Q_EMIT hoveredChanged(); // the hovered node may have moved or disappeared
     update();
 }
 
@@ -117,8 +117,8 @@ void CircuitGraphView::layOut()
         last[column] = place.at.y();
         m_places.push_back(std::move(place));
     }
-    // Strands between the same two nodes lie side by side, like the wires of a ribbon.
-    // how many there are, and how many have their place
+    // Strands between the same two nodes run side by side, like the wires of a ribbon. The pair
+    // counts all strands of a ribbon and those already placed.
     QHash<QString, std::pair<int, int>> ribbons;
     const auto ribbon = [](const CircuitGraph::Edge &edge) { return edge.from + u'|' + edge.to; };
     for (const CircuitGraph::Edge &edge : m_graph.edges)
@@ -141,7 +141,7 @@ void CircuitGraphView::light()
     if (hovered && hovered->circuitIDs.isEmpty())
         hovered = nullptr;
     const bool standingOut = !followed.isEmpty() || hovered;
-    // When nothing stands out any more, what did so recedes from where it is.
+    // When nothing stands out any more, the last circuits fade from where they are.
     if (standingOut) {
         m_followedOut = !followed.isEmpty();
         for (Circuit &circuit : m_circuits)
@@ -163,7 +163,7 @@ void CircuitGraphView::geometryChange(const QRectF &now, const QRectF &before)
     QQuickPaintedItem::geometryChange(now, before);
     layOut();
     light();
-    Q_EMIT hoveredChanged(); // the node is elsewhere now
+    Q_EMIT hoveredChanged(); // the hovered node has moved
     update();
 }
 
@@ -200,7 +200,7 @@ void CircuitGraphView::setHovered(const QString &id)
     update();
 }
 
-// A pointer may come in right on a node and stay there.
+// The pointer may enter the view on a node and stay there.
 void CircuitGraphView::hoverEnterEvent(QHoverEvent *event)
 {
     hoverMoveEvent(event);
@@ -269,7 +269,7 @@ void CircuitGraphView::drawGuides(QPainter &painter) const
     const std::array titles{QString(), tr("ENTRY"), tr("MIDDLE"), tr("EXIT"), tr("SITES")};
     QFont font = painter.font();
     font.setPixelSize(11);
-    if (!QGuiApplication::isRightToLeft()) // letters that are joined stay so
+    if (!QGuiApplication::isRightToLeft()) // letter spacing would break joined letters
         font.setLetterSpacing(QFont::AbsoluteSpacing, 1);
     painter.setFont(font);
     for (int column = 0; column < GraphLayout::columns; ++column) {
@@ -294,13 +294,13 @@ void CircuitGraphView::drawStrands(QPainter &painter, double scale, bool lit)
         strand.edgeColor.setAlphaF(m_outline.alphaF() * static_cast<float>(visible));
         if (lit)
             strand.width += 1.4 * m_emphasis;
-        if (m_outline.alpha() > 0) // light ground: the pale colours need an edge
+        if (m_outline.alpha() > 0) // on a light ground the pale colours need an edge
             strand.edge = 0.7;
         if (link.to.x() - link.from.x() > 1) {
             strands->draw(strand);
             continue;
         }
-        // Between two relays of one column: a bow beside it.
+        // A bow connects two relays of one column.
         QPainterPath bow(link.from);
         bow.quadTo(link.from + QPointF(40, (link.to.y() - link.from.y()) / 2), link.to);
         painter.setOpacity(visible);
@@ -321,11 +321,11 @@ void CircuitGraphView::drawNode(QPainter &painter, double scale, size_t index)
     const QPointF center = place.at * scale;
     const bool hovered = node.id == m_hovered;
 
-    // hides the strands' ends
+    // Hides the ends of the strands.
     put(painter, m_pictures.disc(radius, 2, m_background, m_background), center);
     painter.setOpacity(opacity(place.lit || hovered, m_followedOut ? fadedNode : dimmedNode));
     const QColor ring = ringColor(place);
-    // light ground: a rim round the pale ring
+    // On a light ground the pale ring gets a rim.
     if (m_outline.alpha() > 0 && ring != m_faintInk && ring != m_ink)
         put(painter, m_pictures.disc(radius, hovered ? 4.4 : 3.4, m_outline, m_background), center);
     put(painter, m_pictures.disc(radius, hovered ? 3 : 2, ring, m_background), center);
@@ -364,7 +364,7 @@ void CircuitGraphView::drawLabel(QPainter &painter, double scale, size_t index, 
 
 void CircuitGraphView::paint(QPainter *painter)
 {
-    if (!m_model) { // what is painted counts as opaque
+    if (!m_model) { // the item is opaque, so it must paint its background
         painter->fillRect(boundingRect(), m_background);
         return;
     }
@@ -384,7 +384,7 @@ void CircuitGraphView::paint(QPainter *painter)
         for (const bool lit : {false, true})
             drawStrands(inner, scale, lit);
         inner.resetTransform();
-        // What stands out lies on top of the rest, and the node under the pointer above all.
+        // What stands out is drawn above the rest, and the hovered node above all.
         for (const bool lit : {false, true})
             for (size_t i = 0; i < m_places.size(); ++i)
                 if ((m_places[i].lit && m_emphasis > 0) == lit && m_graph.nodes[i].id != m_hovered)

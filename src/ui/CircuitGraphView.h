@@ -12,11 +12,11 @@
 
 namespace veldmark {
 
-// Draws the circuits from left to right: this computer, entries, middles, exits, sites. What is
-// followed stands out and the rest recedes; a click on a node follows the next circuit through it.
-// While nothing is followed, the circuits through the node under the pointer stand out. Labels
-// never overlap: they are shortened to their column, and left out where a column is too dense,
-// except on what stands out.
+// Draws the circuits from left to right: this computer, entries, middles, exits, sites. The
+// followed circuit stands out and the rest fades; a click on a node follows the next circuit
+// through it. While no circuit is followed, the circuits through the hovered node stand out. Labels
+// never overlap: they are shortened to their column, and left out in dense columns, except for what
+// stands out.
 class CircuitGraphView : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -37,10 +37,10 @@ public:
 
     CircuitsModel *model() const { return m_model; }
     void setModel(CircuitsModel *model);
-    QString hoveredHelp() const; // the help of the node under the pointer, or empty
+    QString hoveredHelp() const; // the help of the hovered node, or empty
     QPointF hoveredAt() const;
-    // Whether some circuits stand out from the rest, and how far they do by now: 0…1, moved by
-    // whoever wants it to happen gently.
+    // Whether some circuits stand out from the rest, and how far at present: 0…1. QML animates the
+    // emphasis.
     bool standingOut() const { return m_standingOut; }
     double emphasis() const { return m_emphasis; }
     void setEmphasis(double emphasis);
@@ -64,8 +64,8 @@ private:
     struct Circuit {
         QString id;
         QColor color;
-        double bulge = 0; // points by which its strands bend away from the straight way
-        bool lit = false; // it stands out
+        double bulge = 0; // points by which its strands bend from the straight line
+        bool lit = false; // the circuit stands out
     };
     struct Link {
         QPointF from;
@@ -73,7 +73,7 @@ private:
         size_t circuit = 0; // index into m_circuits
         double bulge = 0;   // points
     };
-    struct Place { // of the node with the same index in the graph
+    struct Place { // the node with the same index in the graph
         QPointF at;
         std::vector<size_t> circuits;
         bool lit = false;
@@ -81,7 +81,7 @@ private:
 
     void rebuild();
     void layOut();
-    void light(); // decides what stands out
+    void light(); // decides which circuits and nodes stand out
     const CircuitGraph::Node *nodeAt(QPointF point) const;
     const CircuitGraph::Node *hoveredNode() const;
     void setHovered(const QString &id);
@@ -93,15 +93,15 @@ private:
     QColor ringColor(const Place &place) const;
 
     QPointer<CircuitsModel> m_model;
-    std::vector<CircuitInfo> m_drawn; // what the graph was built from
+    std::vector<CircuitInfo> m_drawn; // the circuits that the graph was built from
     CircuitGraph m_graph;
     std::vector<Circuit> m_circuits;
     std::vector<Place> m_places;
     std::vector<Link> m_links;
-    std::array<double, 5> m_rows{}; // the distance of a column's nodes
+    std::array<double, 5> m_rows{}; // the smallest distance between the nodes of each column
     QString m_hovered;              // node id
     bool m_standingOut = false;
-    bool m_followedOut = false; // what stands out, or did last, does so because it is followed
+    bool m_followedOut = false; // the circuits that stand out, or did last, are followed
     double m_emphasis = 0;
     QImage m_canvas;
     GraphPictures m_pictures;

@@ -15,7 +15,7 @@ namespace veldmark {
 
 namespace {
 
-constexpr auto refreshInterval = 3s; // while somebody looks
+constexpr auto refreshInterval = 3s; // while the list is seen
 
 QString milliseconds(std::chrono::microseconds time)
 {
@@ -80,7 +80,7 @@ void CircuitsModel::refresh()
 void CircuitsModel::update()
 {
     if (!connected())
-        m_followed.clear(); // the next session's circuit of that number is another one
+        m_followed.clear(); // the number means another circuit in the next session
     const bool begins = !std::exchange(m_wasConnected, connected()) && connected();
     const bool isOptimized = std::exchange(m_wasOptimizing, optimizing()) && !optimizing();
     showRows();
@@ -89,8 +89,8 @@ void CircuitsModel::update()
         refresh();
 }
 
-// Changes the rows into the session's circuits one by one: a list that is read anew would lose its
-// place, and the row that has the keyboard.
+// Changes the rows one by one into the session's circuits. A reset would lose the scroll position
+// and the row with the keyboard focus.
 void CircuitsModel::showRows()
 {
     const std::vector<CircuitInfo> &next = circuits();
@@ -125,7 +125,7 @@ void CircuitsModel::showRows()
     }
     while (m_shown.size() > next.size())
         remove(m_shown.size() - 1);
-    if (!m_shown.empty()) // a row's colour goes by its place
+    if (!m_shown.empty()) // a row's colour depends on its position
         Q_EMIT dataChanged(index(0), index(rowCount() - 1));
 }
 

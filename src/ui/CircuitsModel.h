@@ -10,9 +10,9 @@
 
 namespace veldmark {
 
-// The list of circuits, the one that is followed, and its path as steps. One row a circuit, in the
-// session's order, which is also the order of the palette. While it is seen the circuits are read
-// again every few seconds; rows come, go and move one by one, never all anew.
+// The list of circuits, the followed one, and its path as steps. One row a circuit, in the
+// session's order, which is also the order of the palette. While the list is seen, the circuits are
+// read again every few seconds. Rows are inserted, removed and moved one by one.
 class CircuitsModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -32,7 +32,7 @@ class CircuitsModel : public QAbstractListModel {
 
 public:
     enum Role {
-        IdRole = Qt::UserRole + 1, // Tor's number of the circuit, text
+        IdRole = Qt::UserRole + 1, // Tor's number of the circuit, as text
         TitleRole,                 // "Circuit 12"
         DetailRole,  // the countries or nicknames of its relays, and the round-trip time
         ColorRole,   // QColor
@@ -54,12 +54,13 @@ public:
     bool empty() const { return circuits().empty(); }
     QString purpose() const;
 
-    // The followed circuit's number; empty when none is, or when it or its session is gone.
+    // The followed circuit's number; empty when no circuit is followed, or when the circuit or its
+    // session has ended.
     QString followed() const;
     Q_INVOKABLE void follow(const QString &id);
     int followedRow() const; // -1: none
     // The path of the followed circuit, each step a map: symbol, country, role, title, detail,
-    // tint, last. Empty when none is followed.
+    // tint, last. Empty when no circuit is followed.
     QVariantList steps() const;
 
     const std::vector<CircuitInfo> &circuits() const { return m_session.now().circuits; }
@@ -71,10 +72,10 @@ public:
     void refresh();
 
     bool seen() const { return m_seen; }
-    void setSeen(bool seen); // somebody can see the list
+    void setSeen(bool seen); // whether the user can see the list
 
     static QColor paletteColor(std::size_t index);
-    // "DE · 192.0.2.7"; "Unknown" for what is not known.
+    // "DE · 192.0.2.7"; "Unknown" for an unknown part.
     static QString placeOf(const RelayInfo &relay);
 
 Q_SIGNALS:
@@ -86,7 +87,7 @@ private:
     const CircuitInfo *followedCircuit() const;
 
     Session &m_session;
-    std::vector<CircuitInfo> m_shown; // what the rows were last made from
+    std::vector<CircuitInfo> m_shown; // the circuits of the present rows
     QString m_followed;
     QTimer m_ticks{this};
     bool m_seen = false;

@@ -21,7 +21,7 @@ const QString portalSettings = QStringLiteral("org.freedesktop.portal.Settings")
 const QString colorScheme = QStringLiteral("color-scheme");
 const QString animations = QStringLiteral("enable-animations");
 
-// A font with flags shapes a pair of letters into one picture.
+// A font with flags shapes the pair of letters into one glyph.
 bool drawsFlags()
 {
     QTextLayout layout(ColorScheme::flag(QStringLiteral("se")), QFont());
@@ -114,7 +114,7 @@ void ColorScheme::onSettingChanged(const QString &group, const QString &key,
 
 void ColorScheme::take(const QString &key, const QVariant &value)
 {
-    // Portals wrap the value a second time.
+    // Portals wrap the value in a second variant.
     const QVariant plain = value.canConvert<QDBusVariant>() ? value.value<QDBusVariant>().variant()
                                                             : value;
     if (m_forced)

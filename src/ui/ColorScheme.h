@@ -9,8 +9,8 @@
 
 namespace veldmark {
 
-// What the system prefers: dark or light, motion or less of it; and the direction of the user's
-// language. Comes from the desktop portal where one answers, else from the palette; follows changes
+// The system's preferences: dark or light, full or reduced motion; and the direction of the user's
+// language. Read from the desktop portal where there is one, else from the palette. Follows changes
 // of both. One per QML engine.
 class ColorScheme : public QObject {
     Q_OBJECT
@@ -26,16 +26,16 @@ public:
 
     bool dark() const { return m_dark; }
     bool reducedMotion() const { return m_reducedMotion; }
-    // Windows are laid out from the right.
+    // Whether windows are laid out from right to left.
     static bool mirrored();
-    // Whether the fonts here have pictures for the flags of countries. Looked up when first asked:
-    // it loads a large font, which the first window should not wait for.
+    // Whether the fonts have pictures of the countries' flags. Found on the first call, which loads
+    // a large font; the first window must not wait for that.
     bool flagsDrawn() const;
-    // Overrides what the system says, from now on.
+    // Overrides the system's preferences from now on.
     void force(bool dark, bool reducedMotion);
     void setFlagsDrawn(bool drawn) { m_flagsDrawn = drawn; }
 
-    // The flag of a country of two letters, as text.
+    // The flag of a country with a two-letter code, as text.
     Q_INVOKABLE static QString flag(const QString &country);
 
 Q_SIGNALS:
@@ -55,7 +55,7 @@ private Q_SLOTS:
 private:
     bool m_dark = false;
     bool m_reducedMotion = false;
-    mutable std::optional<bool> m_flagsDrawn; // absent until asked
+    mutable std::optional<bool> m_flagsDrawn; // absent before the first call
     bool m_forced = false;
     bool m_portalDecides = false;
 };

@@ -13,7 +13,7 @@ namespace {
 
 using Level = Finding::Level;
 
-// Problems first, what is good last; else as they were found.
+// Sorts problems first and good findings last, otherwise in the order found.
 int rank(Level level)
 {
     switch (level) {
@@ -118,7 +118,7 @@ QVariant DoctorModel::data(const QModelIndex &index, int role) const
             break;
         }
         return tr("In order");
-    case CommandRole: // a button does the same with less effort
+    case CommandRole: // a button does the same more easily
         return finding.button == Finding::Button::none ? finding.command : QString();
     case ButtonRole:
         switch (finding.button) {

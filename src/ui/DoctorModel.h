@@ -7,8 +7,7 @@
 
 namespace veldmark {
 
-// What was found when this computer was looked at: one finding a row, what keeps a connect from
-// working first.
+// The findings of the examination of this computer: one a row, those that prevent a connect first.
 class DoctorModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -22,9 +21,9 @@ public:
         TextRole = Qt::UserRole + 1,
         ToneRole, // PanelModel::Tone, as a number
         SymbolRole,
-        LevelRole,   // the finding's level in a word, for those who don't see the symbol
-        CommandRole, // what to type; empty: nothing
-        ButtonRole,  // the text of a button that mends it; empty: there is none
+        LevelRole,   // the finding's level as a word, for users who don't see the symbol
+        CommandRole, // a command to type; may be empty
+        ButtonRole,  // the text of the button that fixes it; empty: no button
     };
 
     // `session` must outlive the model.
@@ -35,10 +34,10 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
     bool busy() const { return m_session.now().isExamining; }
-    QString verdict() const; // in one sentence
+    QString verdict() const; // the result in one sentence
 
     Q_INVOKABLE void examine() { m_session.examine(); }
-    // Presses the row's button. Nothing for a row that there is not, or has none.
+    // Presses the row's button. Ignores an unknown row and a row without a button.
     Q_INVOKABLE void press(int row);
     Q_INVOKABLE void copy(const QString &text) const;
 
@@ -49,7 +48,7 @@ private:
     void update();
 
     Session &m_session;
-    Findings m_findings; // as shown
+    Findings m_findings; // the shown findings
 };
 
 } // namespace veldmark

@@ -22,7 +22,7 @@ QString named(const char *kind, std::initializer_list<QString> parts)
     return key;
 }
 
-// Where anything has been drawn.
+// The bounds of the drawn pixels.
 QRect inked(const QImage &image)
 {
     QRect bounds;
@@ -109,8 +109,8 @@ const QImage &GraphPictures::country(const QString &text, bool emoji, const QCol
                     QFont font = m_font;
                     font.setPixelSize(emoji ? 17 : 11);
                     font.setWeight(emoji ? QFont::Normal : QFont::DemiBold);
-                    // A line of text has its middle elsewhere than the flag or the capitals in it:
-                    // draw aside, centre what came out.
+                    // The middle of a text line is not the middle of the flag or the capitals in
+                    // it. So draw into a second image and centre the drawn pixels.
                     const auto *target = static_cast<const QImage *>(painter.device());
                     QImage aside(target->size(), QImage::Format_ARGB32_Premultiplied);
                     aside.fill(Qt::transparent);

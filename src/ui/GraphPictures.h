@@ -10,24 +10,23 @@
 
 namespace veldmark {
 
-// The small pictures that the circuit graph is put together from: discs, symbols, countries and
-// labels. Each is drawn once and kept; a graph has hundreds of nodes but few kinds of them. Sizes
-// are in points, the pictures in pixels.
+// The small pictures that make up the circuit graph: discs, symbols, countries and labels. Each is
+// drawn once and cached; a graph has hundreds of nodes but few kinds of them. Sizes are in points,
+// the pictures in pixels.
 class GraphPictures {
 public:
-    // Pixels per point, and the font of all texts. What was drawn for others is dropped.
+    // Sets the pixels per point and the font of all texts. Drops pictures made for other values.
     void prepare(double scale, const QFont &font);
-    // Drops pictures when there are more than a large graph needs (labels of circuits that are
-    // gone).
+    // Drops all pictures when there are more than a large graph needs (labels of closed circuits).
     void trim();
 
     // A filled circle with a ring of the given width on its edge.
     const QImage &disc(double radius, double ring, const QColor &ringColor, const QColor &fill);
     const QImage &symbol(const QString &name, double size, const QColor &color);
-    // A flag as text, or a country's letters: `emoji` says which.
+    // A country's flag as text, or its letters; `emoji` tells which.
     const QImage &country(const QString &text, bool emoji, const QColor &ink);
     // One line of text, shortened in its middle to at most `room`, with a rim in the colour of the
-    // ground so that it can be read above whatever it stands on.
+    // ground so that it is readable above other drawings.
     const QImage &label(const QString &text, double room, const QColor &ink, const QColor &ground);
 
 private:

@@ -6,8 +6,7 @@
 
 namespace veldmark {
 
-// Where the log window's lines come from. Follows the files between start() and stop(). Main
-// thread.
+// The source of the log window's lines. Follows the files between start() and stop(). Main thread.
 class LogFeed : public QObject {
     Q_OBJECT
 

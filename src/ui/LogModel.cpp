@@ -19,7 +19,7 @@ namespace veldmark {
 
 namespace {
 
-// The same line, wherever it stands in the log.
+// Whether the lines are equal, regardless of their position in the log.
 bool isSame(const TorLogLine &a, const TorLogLine &b)
 {
     return a.raw == b.raw && a.level == b.level;
@@ -49,8 +49,8 @@ void LogModel::update()
     const TorLog::Snapshot &log = m_feed.snapshot();
     m_problems = TorLogFilter::problemCount(log);
     QList<TorLogLine> next = m_filter.shown(log);
-    // A log grows at its end and is cut at its beginning: find where the new list continues the
-    // old.
+    // A log grows at its end and is cut at its beginning. Find where the new list continues the old
+    // one.
     const auto start = next.isEmpty()
         ? m_shown.cend()
         : std::find_if(m_shown.cbegin(), m_shown.cend(),
@@ -217,7 +217,7 @@ void LogModel::reveal()
         return;
     }
     const QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected()) { // a call on no bus never ends
+    if (!bus.isConnected()) { // a call without a bus never returns an answer
         openFolder();
         return;
     }

@@ -9,9 +9,9 @@
 
 namespace veldmark {
 
-// The log window: the lines that its filter lets through, one a row, and what is said in their
-// place when there are none. Rows that grow at the end or fall off the beginning move as such, so
-// that a reader keeps his place.
+// The log window: the lines that pass its filter, one a row, and the text shown when there are
+// none. New rows are inserted at the end and old ones removed at the beginning, so that the reader
+// keeps the position.
 class LogModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -52,13 +52,13 @@ public:
     QString emptyText() const;
     QString showHelp() const;
 
-    // A new window: nothing is filtered. Until it closes the files are followed.
+    // Opens a new window without a filter. The files are followed until it closes.
     Q_INVOKABLE void open();
     Q_INVOKABLE void close() { m_feed.stop(); }
-    // Puts the raw lines from `first` to `last` (rows) on the clipboard; all of them by default.
+    // Copies the raw lines of the rows `first` to `last` to the clipboard; all rows by default.
     Q_INVOKABLE void copy(int first = 0, int last = -1) const;
     Q_INVOKABLE void copyText(const QString &text) const; // a part of a line
-    // Shows the log files in the file manager; `revealProblem` says why that did not work.
+    // Shows the log files in the file manager; `revealProblem` says why that failed.
     Q_INVOKABLE void reveal();
     QString revealProblem() const { return m_revealProblem; }
 

@@ -7,9 +7,9 @@ class QQmlEngine;
 
 namespace veldmark {
 
-// Teaches an engine the program's QML module, its symbols included.
+// Registers the program's QML module and its symbols with an engine.
 void prepareEngine(QQmlEngine &engine);
-// Where a file of the module lives: "main/MainWindow.qml".
+// The URL of a file of the module, for example "main/MainWindow.qml".
 QUrl moduleFile(const QString &file);
 
 } // namespace veldmark

@@ -6,7 +6,7 @@
 
 namespace veldmark {
 
-// The panel's lower half: the options and the two sheets that open from it.
+// The panel's lower half: the options and their two sheets.
 class OptionsModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -42,8 +42,8 @@ public:
     // `session` must outlive the model.
     explicit OptionsModel(Session &session, QObject *parent = nullptr);
 
-    bool locked() const;     // the connection's options hold until it ends
-    bool strictMode() const; // while connected, what the session has
+    bool locked() const;     // the connection's options are locked while it lasts
+    bool strictMode() const; // while connected, the session's mode
     bool allowLocalNetwork() const { return choices().allowLocalNetwork; }
     bool optimizeSpeed() const { return choices().optimizeSpeed; }
     bool terminalMode() const { return choices().terminalMode; }
@@ -55,13 +55,13 @@ public:
     QStringList exitNames() const;
     int exitIndex() const;
     void setExitIndex(int index);
-    QString exitUnlisted() const; // the code of a country that is chosen without being in the list
-    QString exitWarning() const;  // empty: no country is chosen
+    QString exitUnlisted() const; // the code of a chosen country that is not in the list
+    QString exitWarning() const;  // empty without a chosen country
 
     QStringList bridgeNames() const;
     int bridgeIndex() const;
     void setBridgeIndex(int index);
-    // what the choice lacks, or where its bridges come from; may be empty
+    // What the choice lacks, or where its bridges come from; may be empty.
     QString bridgeNote() const;
     bool bridgeNoteIsWarning() const;
     bool needsDownload() const;
@@ -71,7 +71,7 @@ public:
     QString customBridges() const { return choices().customBridges; }
     // "3 bridges recognized", or empty.
     Q_INVOKABLE QString bridgeCount(const QString &text) const;
-    // What of `text` cannot be used, and in which lines; empty when all can.
+    // What of `text` cannot be used, and in which lines; empty when every line can.
     Q_INVOKABLE QString bridgeWarning(const QString &text) const;
     Q_INVOKABLE void saveCustomBridges(const QString &text);
     Q_INVOKABLE void download() { m_session.downloadTransports(); }

@@ -47,7 +47,8 @@ void PanelModel::update()
     Q_EMIT changed();
 }
 
-// The circuit that the address was checked over does not last, the address does.
+// Remembers the exit's country, since the circuit of the check may close while the address stays
+// valid.
 void PanelModel::rememberExitCountry()
 {
     const Snapshot &now = m_session.now();
@@ -82,8 +83,8 @@ Leak PanelModel::knownLeak() const
     return connected() ? m_session.now().leak : Leak();
 }
 
-// Only the kill switch blocks, and only where its rules were seen: elsewhere silence is no
-// protection.
+// Only the kill switch blocks, and only while its rules are known to be in place. Otherwise missing
+// traffic proves nothing.
 bool PanelModel::isClosed() const
 {
     const Snapshot &now = m_session.now();
@@ -147,7 +148,7 @@ bool PanelModel::powerEnabled() const
     switch (now.phase) {
     case Phase::disconnected:
         return now.torPath.has_value();
-    case Phase::stale: // another process's session is never replaced, only ended
+    case Phase::stale: // another process's session is only ended, never replaced
         return now.torPath.has_value() && !now.isAnothers;
     case Phase::connecting:
         return now.canCancel;
@@ -167,8 +168,8 @@ bool PanelModel::busy() const
 
 double PanelModel::progress() const
 {
-    // The session keeps Tor's last report while it is taken down, which says nothing of how far
-    // that is.
+    // While the session is taken down it keeps Tor's last report, which is not the progress of
+    // that.
     const Snapshot &now = m_session.now();
     return now.phase == Phase::connecting ? now.bootstrapProgress : 0;
 }

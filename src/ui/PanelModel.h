@@ -9,9 +9,8 @@
 
 namespace veldmark {
 
-// The panel's upper half: what stands in the hero, the connection card, the banners. Texts and
-// colours by meaning, all derived from the session's snapshot. How safe the session is, Verdict
-// alone decides.
+// The panel's upper half: hero, connection card and banners. Texts and colours by meaning, all
+// derived from the session's snapshot. Only Verdict decides how safe the session is.
 class PanelModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -62,7 +61,7 @@ public:
     enum class Tone { Neutral, Accent, Good, Info, Warning, Danger };
     Q_ENUM(Tone)
 
-    // The DNS card names this many resolvers; the rest is counted.
+    // The DNS card names this many resolvers and counts the rest.
     static constexpr qsizetype shownResolvers = 3;
 
     // `session` must outlive the model.
@@ -81,7 +80,7 @@ public:
     QString endpoint() const { return QStringLiteral("SOCKS 127.0.0.1:9050"); }
     QString footnote() const;
     bool canRestore() const;
-    QString waitingFor() const; // empty unless nothing has moved for ten seconds
+    QString waitingFor() const; // empty unless there was no progress for ten seconds
     bool connected() const;
 
     QString exitAddress() const;
@@ -99,7 +98,7 @@ public:
     bool checking() const { return m_session.now().isChecking; }
     QString optimizeText() const;
 
-    bool lookupsLeak() const; // in the session that runs
+    bool lookupsLeak() const; // in the running session
     QStringList leakingResolvers() const;
     QString moreResolvers() const;
 
@@ -125,17 +124,17 @@ Q_SIGNALS:
 private:
     void update();
     void rememberExitCountry();
-    Leak knownLeak() const; // what was found out about the session that runs
+    Leak knownLeak() const; // the running session's result
     bool isClosed() const;
     bool throughBridge() const;
 
     Session &m_session;
     TrafficHistory m_traffic;
     DoctorModel m_doctor;
-    QTimer m_stillness{this}; // runs out when the connection attempt has not moved
+    QTimer m_stillness{this}; // fires when the connection attempt makes no progress
     bool m_still = false;
     double m_lastProgress = 0;
-    std::optional<QString> m_exit; // whose country this is
+    std::optional<QString> m_exit; // the exit that m_exitCountry belongs to
     QString m_exitCountry;
     Text m_lastDetail;
 };

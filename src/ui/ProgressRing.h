@@ -5,8 +5,8 @@
 
 namespace veldmark {
 
-// The ring round the power button: a track, and an arc from the top of `value` (0…1) of the circle,
-// turned by `turn` (0…1), which QML moves for waits whose length nobody knows.
+// The ring round the power button: a track, and an arc from the top over `value` (0…1) of the
+// circle, rotated by `turn` (0…1). QML animates `turn` during waits of unknown length.
 class ProgressRing : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT

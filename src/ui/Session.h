@@ -14,9 +14,9 @@ struct ExitChoice {
     Text name;
 };
 
-// What view models read and call. The program's own implementation stands on TorController; tests
-// and pictures use one that they fill by hand. Main thread. Intents return at once; what comes of
-// them is seen in the next snapshot.
+// What view models read and call. The program's implementation uses TorController; tests and
+// pictures use one that they fill themselves. Main thread. Intents return at once; the next
+// snapshots show their results.
 class Session : public QObject {
     Q_OBJECT
 
@@ -31,7 +31,7 @@ public:
     const Snapshot &now() const { return m_now; }
     const PlatformProfile &profile() const { return m_profile; }
     virtual std::vector<ExitChoice> exitChoices() const = 0;
-    virtual std::vector<InstalledApplication> installedApplications() const = 0; // as there are now
+    virtual std::vector<InstalledApplication> installedApplications() const = 0; // the present ones
     virtual QString applicationName(const QString &path) const = 0;
 
     virtual void store(const Choices &choices) = 0;
@@ -45,11 +45,11 @@ public:
     virtual void findFasterCircuits() = 0;
     virtual void refreshCircuits() = 0;
     virtual void dismissError() = 0;
-    // Reads again what other programs can change: tor, the session marker, the terminal's files,
+    // Reads again what other programs may change: tor, the session marker, the terminal's files,
     // the login item.
     virtual void lookAgain() = 0;
     virtual void lookForTransports() = 0;
-    virtual void examine() = 0; // this computer: what a connect needs of it
+    virtual void examine() = 0; // checks what a connect needs on this computer
     virtual void downloadTransports() = 0;
     virtual void installPasswordless() = 0;
     virtual void removePasswordless() = 0;
@@ -60,9 +60,9 @@ public:
     virtual void launchBypassed(const QString &application) = 0;
 
 Q_SIGNALS:
-    // Once for any number of fields that changed together.
+    // Emitted once for any number of fields that changed together.
     void changed();
-    // launchBypassed() came to nothing; a sentence in the user's language.
+    // launchBypassed() failed; a sentence in the user's language.
     void launchFailed(const QString &reason);
 
 protected:

@@ -7,7 +7,7 @@
 
 namespace veldmark {
 
-// What the six panes of the settings window show and do.
+// The contents and actions of the settings window's six panes.
 class SettingsModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -63,29 +63,29 @@ public:
     QString passwordlessError() const;
 
     bool torFound() const { return now().torPath.has_value(); }
-    QString torStatus() const; // "Found", "Missing" (a custom one), "Not found" (anywhere)
+    QString torStatus() const; // "Found", "Missing" (a custom one), "Not found" (none)
     QString torPlace() const;
-    bool torLocked() const; // a connection holds on to the tor that it has
-    // what `torPlace` tells to run; empty when it tells something else
+    bool torLocked() const; // a session keeps its tor
+    // The command that `torPlace` tells the user to run; empty when it names none.
     QString installCommand() const;
     bool torCustom() const { return !now().choices.customTorPath.isEmpty(); }
-    QUrl torFolder() const; // where a chooser starts
+    QUrl torFolder() const; // where the file chooser starts
     QString onComputer() const;
 
     bool separateApps() const { return now().choices.separateApps; }
     void setSeparateApps(bool on);
-    bool canSeparateApps() const; // the system tells applications apart
+    bool canSeparateApps() const; // whether the system can separate applications
 
     bool lyrebird() const { return now().transports.lyrebird.has_value(); }
     bool snowflake() const { return now().transports.snowflake.has_value(); }
     bool webtunnel() const { return now().transports.webtunnel.has_value(); }
     QString bridgeSource() const;
-    QString bundleVersion() const; // empty: none was downloaded
+    QString bundleVersion() const; // empty without a downloaded bundle
     bool bundleLoaded() const { return !bundleVersion().isEmpty(); }
     QString bundleStatus() const;
     bool canDownload() const { return now().canDownloadTransports; }
     QString downloadText() const;
-    QString bundleTrust() const; // how a download is checked, with the programs that are here
+    QString bundleTrust() const; // how a download is verified with the present programs
 
     bool terminalMode() const { return now().choices.terminalMode; }
     void setTerminalMode(bool on);
@@ -98,7 +98,7 @@ public:
     bool changesActive() const { return now().markerPresent; }
     bool canRestore() const;
     QString restoreCommand() const { return m_session.profile().manualRestoreCommand; }
-    QString homePage() const { return m_session.profile().homePage; } // empty: there is none
+    QString homePage() const { return m_session.profile().homePage; } // empty without one
     QString credits() const;
     QString version() const { return tr("Version %1").arg(QStringLiteral(VELDMARK_VERSION)); }
 
@@ -109,7 +109,7 @@ public:
     Q_INVOKABLE void download() { m_session.downloadTransports(); }
     Q_INVOKABLE void removeTerminalIntegration() { m_session.removeTerminalIntegration(); }
     Q_INVOKABLE void restore() { m_session.disconnectFromTor(); }
-    // What a pane shows may have been changed by other programs since it was last open.
+    // Reads again what other programs may have changed since the pane was last open.
     Q_INVOKABLE void lookAgain() { m_session.lookAgain(); }
     Q_INVOKABLE void copy(const QString &text) const;
 

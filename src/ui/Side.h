@@ -4,8 +4,8 @@
 
 namespace veldmark {
 
-// The controls at the end of a row: its visible children in the direction of reading, centred, as
-// wide and high as they want to be. It follows every change of their sizes.
+// The controls at the end of a row: its visible children in reading direction, vertically centred,
+// in their own sizes. It follows every change of their sizes.
 class Side : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT

@@ -17,21 +17,21 @@
 #include <optional>
 #include <vector>
 
-// The room of what is seen: view models turn a Snapshot of the session into texts, colours by
-// meaning and enabled states; QML below qml/ lays them out and calls intents. Start here, then
-// Session, PanelModel and qml/panel/Panel.qml.
+// View models turn a Snapshot of the session into texts, colours by meaning and enabled states. QML
+// below qml/ lays them out and calls intents. Start here, then read Session, PanelModel and
+// qml/panel/Panel.qml.
 namespace veldmark {
 
 using Phase = ConnectionPhase;
 
-// What the user has chosen; a view changes a copy and hands it to Session::store().
+// The user's choices. A view changes a copy and passes it to Session::store().
 struct Choices {
     bool strictMode = true;
     bool allowLocalNetwork = true;
     QString exitCountry;   // two lower-case letters; empty = any
     QString customTorPath; // empty = search the standard places
     BridgeChoice bridgeChoice = BridgeChoice::off;
-    QString customBridges; // as typed
+    QString customBridges; // as the user entered them
     QStringList bypassApps;
     bool autoConnect = false;
     bool optimizeSpeed = false;
@@ -44,11 +44,11 @@ struct Choices {
 struct Leak {
     enum class Kind { exposed, notTested, checking, blocked, inconclusive };
     Kind kind = Kind::notTested;
-    // of `exposed`, and of `checking` after it: the user's own, as the world saw it
+    // For `exposed`, and for `checking` after it: the user's own address, as the service saw it.
     QString address;
 };
 
-// Everything that views show, at one moment. A plain value; absent means not known.
+// Everything that views show, at one moment. A plain value; absent means unknown.
 struct Snapshot {
     Choices choices;
 
@@ -57,9 +57,9 @@ struct Snapshot {
     std::optional<BridgeChoice> activeBridge;
     double bootstrapProgress = 0; // 0…1
     Text statusDetail = Text::tr("Your traffic is not going through Tor");
-    std::optional<Text> bootstrapProblem; // what keeps Tor from connecting
-    bool isAnothers = false;              // the session is another process's
-    bool hasTorStopped = false; // Tor has ended under the session that a stale phase shows
+    std::optional<Text> bootstrapProblem; // why the bootstrap is stuck
+    bool isAnothers = false;              // the session belongs to another process
+    bool hasTorStopped = false;           // the session of a stale phase has lost its Tor
     bool canCancel = false;
     std::optional<Text> errorMessage;
     quint64 bytesRead = 0; // since Tor started
@@ -69,7 +69,7 @@ struct Snapshot {
     std::optional<QString> exitIP;
     std::optional<bool> torVerified;
     std::optional<TrafficWatch::Stall> stall;
-    QStringList firewalls; // of the stall, where they are its reason
+    QStringList firewalls; // those that cause the stall
     Leak leak;
     DNSStatus dns;
     bool isChecking = false;
@@ -86,12 +86,12 @@ struct Snapshot {
     std::optional<Text> startupError;
     std::optional<Text> terminalError;
     bool terminalInstalled = false; // the shell reads the integration's files
-    bool terminalForSsh = false;    // and ssh does
+    bool terminalForSsh = false;    // ssh does, too
 
-    std::optional<QString> torPath;  // absent: there is no tor to run
+    std::optional<QString> torPath;  // absent: no tor was found
     bool markerPresent = false;      // the network is set up for Tor
-    Findings findings;               // of the last look at this computer
-    bool isExamining = false;        // it is being looked at
+    Findings findings;               // of the last examination
+    bool isExamining = false;        // an examination is running
     std::optional<bool> openAtLogin; // absent: this build cannot change it
 
     bool isExposed() const

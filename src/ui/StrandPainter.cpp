@@ -8,9 +8,9 @@ namespace veldmark {
 
 namespace {
 
-// The curve is the cubic through (0, 0) and (1, 1) whose handles lie half-way: x(t) = 1.5 t - 1.5
-// t² + t³, rise(t) = 3 t² - 2 t³, bulge(t) = 3 t (1 - t). Every strand is that curve stretched, so
-// it is solved once for evenly spaced x and kept, with its slopes.
+// The curve is the cubic through (0, 0) and (1, 1) with its handles half-way: x(t) = 1.5 t - 1.5 t²
+// + t³, rise(t) = 3 t² - 2 t³, bulge(t) = 3 t (1 - t). Every strand is this curve, stretched. So it
+// is solved once for evenly spaced x and stored with its slopes.
 struct Shape {
     static constexpr int steps = 256;
     struct Point {
@@ -32,7 +32,7 @@ struct Shape {
     }
 };
 
-// `share` of `color` over `below`, of 256; both lanes of a word at once.
+// Mixes `share` of 256 parts of `color` over `below`, in both lanes of a word at once.
 quint32 mixed(quint32 below, quint32 color, quint32 share)
 {
     constexpr quint32 lanes = 0x00ff00ff;
@@ -42,7 +42,7 @@ quint32 mixed(quint32 below, quint32 color, quint32 share)
     return (low & lanes) | (high & ~lanes);
 }
 
-// How much of a pixel is covered whose centre is `distance` from the middle of a line.
+// The coverage of a pixel whose centre is `distance` from the middle of a line.
 double coverage(double half, double distance)
 {
     return std::clamp(half + 0.5 - distance, 0.0, 1.0);
@@ -82,9 +82,9 @@ void StrandPainter::draw(const Strand &strand)
     for (int x = first; x <= last; ++x) {
         const double along = std::clamp((x + 0.5 - left) / length, 0.0, 1.0);
         const auto &point = shape.points[static_cast<size_t>(std::lround(along * Shape::steps))];
-        // Between the kept points the curve is its tangent.
+        // Between the stored points the tangent replaces the curve.
         const double offset = along - std::round(along * Shape::steps) / Shape::steps;
-        // per length of the strand
+        // Per unit of the strand's length.
         const double slope = rise * point.riseSlope + bulge * point.bulgeSlope;
         const double y = top + rise * point.rise + bulge * point.bulge + slope * offset;
         const double steepness = slope / length;

@@ -10,16 +10,16 @@ namespace veldmark {
 struct Strand {
     QPointF from;
     QPointF to;       // to the right of `from`
-    double bulge = 0; // how far the curve's handles are moved down; the middle follows by 3/4 of it
+    double bulge = 0; // how far the curve's handles are moved down; the middle moves by 3/4 of it
     double width = 1;
     QColor color;    // its alpha counts
     double edge = 0; // width of the rim on either side; 0 = none
     QColor edgeColor;
 };
 
-// Draws strands straight into a picture's pixels, with smooth edges. A strand runs from left to
-// right and meets each column of pixels once, so that its place, slope and coverage there can be
-// computed directly: many times faster than stroking a path, which is what a graph of hundreds of
+// Draws strands directly into an image's pixels, with smooth edges. A strand runs from left to
+// right and crosses each column of pixels once, so its position, slope and coverage there are
+// computed directly. That is many times faster than stroking a path, as a graph of hundreds of
 // curves needs.
 class StrandPainter {
 public:
@@ -27,8 +27,7 @@ public:
     // is its pixels per point.
     StrandPainter(QImage &canvas, double scale);
 
-    // What lies outside of the canvas is left out; a strand that does not run to the right draws
-    // nothing.
+    // Parts outside the canvas are left out. A strand that does not run to the right is not drawn.
     void draw(const Strand &strand);
 
 private:

@@ -34,7 +34,7 @@ QImage Symbols::image(const QString &name, int pixels, const QColor &color)
         painter.setPen(QPen(Qt::black, pixels / 12.0));
         painter.drawRect(QRectF(pixels * 0.2, pixels * 0.2, pixels * 0.6, pixels * 0.6));
     }
-    // The drawings are black; their shape is what counts.
+    // The drawings are black; only their shape is used.
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(image.rect(), color);
     return image;

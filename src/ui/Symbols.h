@@ -9,8 +9,8 @@ namespace veldmark {
 // The program's symbols: SVG drawings in one colour, by name ("lock.shield.fill").
 namespace Symbols {
 
-// The symbol as a square of `pixels`, in `color`. A name that does not exist gives a plain frame,
-// so that a missing drawing is seen and does no harm.
+// The symbol as a square of `pixels`, in `color`. An unknown name gives a plain frame, so that a
+// missing drawing is visible and harmless.
 QImage image(const QString &name, int pixels, const QColor &color);
 bool exists(const QString &name);
 

@@ -8,7 +8,7 @@
 
 namespace veldmark {
 
-// The traffic of the last two minutes, as rates between the counters' readings.
+// The traffic of the last two minutes, as rates between readings of the counters.
 class TrafficHistory : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -20,14 +20,15 @@ public:
 
     struct Sample {
         TimePoint at;
-        double down; // bytes per second since the sample before
+        double down; // bytes per second since the previous sample
         double up;
     };
 
     using QObject::QObject;
 
-    // Readings of counters that only grow. A counter that shrinks (a new Tor) starts afresh.
-    // Readings that tell nothing new within a second are left out.
+    // Takes a reading of counters that only grow. A counter that shrinks (a new Tor) starts a new
+    // history. A reading less than 0.2 s after the last one, or unchanged within a second, is left
+    // out.
     void add(quint64 bytesRead, quint64 bytesWritten,
              TimePoint at = std::chrono::steady_clock::now());
     void clear();

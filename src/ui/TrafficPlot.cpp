@@ -39,13 +39,13 @@ void TrafficPlot::paint(QPainter *painter)
 
     using Seconds = std::chrono::duration<double>;
     const auto &samples = m_history->samples();
-    double peak = 1024; // a quiet connection is drawn as quiet
+    double peak = 1024; // bytes per second; keeps small traffic small
     for (const auto &sample : samples)
         peak = std::max({peak, sample.down, sample.up});
     const auto last = samples.back().at;
     const auto curve = [&](double TrafficHistory::Sample::*rate) {
         QPainterPath path;
-        bool started = false; // a path with one point counts as empty
+        bool started = false; // isEmpty() is true for a path with one point
         for (const auto &sample : samples) {
             const double age = Seconds(last - sample.at) / Seconds(TrafficHistory::span);
             const QPointF point(w * (1 - age),

@@ -8,8 +8,9 @@
 
 namespace veldmark {
 
-// Two curves over the last two minutes: received filled, sent as a line. Their common scale is the
-// highest rate shown. Redraws when the history changes, and only while visible.
+// Two curves over the last two minutes: received data filled, sent data as a line. Their common
+// scale is the highest rate shown, at least 1024 bytes per second. Redraws when the history
+// changes, and only while visible.
 class TrafficPlot : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT

@@ -6,7 +6,7 @@ namespace veldmark {
 
 QString fromTheLeft(const QString &words)
 {
-    // the two marks of an isolate
+    // The two characters enclose an isolate.
     return QGuiApplication::isRightToLeft() ? QChar(0x2066) + words + QChar(0x2069) : words;
 }
 

@@ -5,20 +5,19 @@
 
 #include <optional>
 
-// How view models word what they show.
+// The wording of what view models show.
 namespace veldmark {
 
-// In the user's language; empty without a text.
+// The text in the user's language; empty without a text.
 inline QString shown(const std::optional<Text> &text)
 {
     return text ? text->translated() : QString();
 }
-// A path or a command that stays in one piece, read from the left, where the words around it are
-// read from the right.
+// Keeps a path or a command together, read from the left, inside text that is read from the right.
 QString fromTheLeft(const QString &words);
-// The name of a bridge kind as the panel writes it: "obfs4", "Snowflake", "meek", "Custom".
+// The panel's name of a bridge kind: "obfs4", "Snowflake", "meek", "Custom".
 QString shownName(BridgeChoice choice);
-// Whether a profile's hint of how to install a program is a command, and not a place to look.
+// Whether a profile's hint for installing a program is a command rather than a place to look.
 bool isCommand(const QString &installHint);
 // The hint within a sentence: "Install it with …".
 QString shownHint(const QString &installHint);

@@ -2,8 +2,8 @@ pragma Singleton
 import QtQuick
 import Veldmark
 
-// Colours, spacing and type of every window, light and dark. Every text colour has at least 4.5:1
-// against each ground that it stands on, every symbol and control edge 3:1; a test computes it.
+// Colours, spacing and type of every window, light and dark. Every text colour has a contrast of at least 4.5:1 against each of its
+// grounds, every symbol and control edge 3:1; a test computes it.
 QtObject {
     readonly property bool dark: ColorScheme.dark
     readonly property bool mirrored: ColorScheme.mirrored
@@ -25,7 +25,7 @@ QtObject {
     readonly property color danger: dark ? "#ff958c" : "#b0231c"
     readonly property color onTone: dark ? "#15151b" : "#ffffff" // on a filled tone
 
-    // Grounds of cards that carry a meaning.
+    // Grounds of cards with a meaning.
     readonly property color accentGround: dark ? "#2a2542" : "#eee9fb"
     readonly property color goodGround: dark ? "#17332a" : "#e0f3e8"
     readonly property color infoGround: dark ? "#1b2c47" : "#e3eefc"

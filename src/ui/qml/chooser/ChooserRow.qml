@@ -2,22 +2,22 @@ import QtQuick
 import QtQuick.Templates as T
 import Veldmark
 
-// One application with its picture; a click says whether it may skip Tor.
+// An application with its picture; a click decides whether it may bypass Tor.
 T.CheckDelegate {
     id: row
     required property int index
     required property string name
-    required property string picture // a URL; empty where it has none
+    required property string picture // a URL; empty without a picture
     required property bool chosen
     property bool focused: false
     signal wanted()
 
     height: Math.max(44, label.implicitHeight + 16)
     text: name
-    checkable: false // it follows what was stored
+    checkable: false // `checked` follows the stored choice
     checked: chosen
     hoverEnabled: true
-    focusPolicy: Qt.NoFocus // the list has it
+    focusPolicy: Qt.NoFocus // the list has the focus
     Accessible.role: Accessible.CheckBox
     Accessible.name: name
     Accessible.checkable: true

@@ -4,11 +4,11 @@ import QtQuick.Templates as T
 import QtQuick.Window
 import Veldmark
 
-// The installed applications, to say which of them may skip Tor in strict mode.
+// The installed applications, where the user chooses those that may bypass Tor in strict mode.
 Window {
     id: window
     required property ApplicationChoices model
-    signal fileWanted() // an entry that is not among them
+    signal fileWanted() // for an application that is not listed
     signal quitWanted()
 
     title: qsTr("App exceptions")
@@ -21,7 +21,7 @@ Window {
     color: Theme.ground
     onVisibleChanged: if (visible) {
         search.clear()
-        model.search = "" // of the window before
+        model.search = "" // from the previous window
         model.refresh()
         search.forceActiveFocus()
     }
@@ -63,7 +63,7 @@ Window {
                     focused: list.activeFocus && ListView.isCurrentItem
                     onWanted: window.model.toggle(index)
                 }
-                // A list that was made anew has no current row, and the keyboard would be nowhere.
+                // A reset list has no current row and would lose the keyboard focus.
                 onActiveFocusChanged: if (activeFocus && currentIndex < 0 && count > 0) currentIndex = 0
                 Keys.onSpacePressed: window.model.toggle(currentIndex)
                 Keys.onReturnPressed: window.model.toggle(currentIndex)

@@ -3,7 +3,7 @@ import QtQuick.Layouts
 import QtQuick.Templates as T
 import Veldmark
 
-// All the circuits, and the path of the one that is followed.
+// The list of circuits, and the path of the followed one.
 Rectangle {
     id: sidebar
     required property CircuitsModel model
@@ -32,13 +32,13 @@ Rectangle {
             boundsBehavior: Flickable.StopAtBounds
             T.ScrollBar.vertical: ScrollBar {}
             model: sidebar.model
-            // The followed one comes into view, also when it was chosen in the graph or its path needs room;
-            // not when it only gets another row, since the list is then where somebody has scrolled it.
+            // The followed row scrolls into view, also when it was chosen in the graph or when its path shortens the list. It does not when
+            // only its row number changes, since that would undo the user's scrolling.
             readonly property string followed: sidebar.model.followed
             onFollowedChanged: settled.restart()
             onHeightChanged: settled.restart()
             Timer {
-                id: settled // the list has its new height
+                id: settled // fires once the list has its new height
                 interval: 0
                 onTriggered: if (list.followed !== "") list.positionViewAtIndex(sidebar.model.followedRow, ListView.Contain)
             }
@@ -60,7 +60,7 @@ Rectangle {
                 Accessible.selected: isFollowed
                 Accessible.description: detail
                 onClicked: sidebar.model.follow(isFollowed ? "" : circuitId)
-                // The list hands the keyboard to its current row whenever rows come and go.
+                // The list moves the focus to its current row whenever rows are inserted or removed.
                 onActiveFocusChanged: if (activeFocus) list.currentIndex = index
                 contentItem: Item {
                     Rectangle {

@@ -17,7 +17,7 @@ Window {
     minimumHeight: 420
     color: Theme.ground
 
-    // The circuits are read again as long as somebody can see them.
+    // The circuits are read again while the window is visible.
     readonly property bool seen: visible && visibility !== Window.Minimized
     onSeenChanged: model.seen = seen
     Component.onDestruction: model.seen = false

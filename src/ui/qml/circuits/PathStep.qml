@@ -2,10 +2,10 @@ import QtQuick
 import QtQuick.Layouts
 import Veldmark
 
-// One stop on the followed circuit's path, joined with the next by a line in the circuit's colour.
+// A step of the followed circuit's path, joined to the next by a line in the circuit's colour.
 RowLayout {
     id: step
-    required property string symbol  // of the computer and the sites
+    required property string symbol  // of the computer and of sites
     required property string country // of a relay
     required property string role
     required property string title

@@ -1,7 +1,7 @@
 import QtQuick
 import Veldmark
 
-// What must be read first: a sentence and the one next step.
+// An important message: a sentence and the next step.
 Rectangle {
     id: banner
     required property string text

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Veldmark
 
-// A group of things that belong together, under an optional heading.
+// A group of related items, under an optional heading.
 ColumnLayout {
     id: card
     property string title

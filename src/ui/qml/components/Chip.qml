@@ -1,7 +1,7 @@
 import QtQuick
 import Veldmark
 
-// A small fact on a rounded ground, with a symbol where one is given.
+// A short fact on a rounded ground, with an optional symbol.
 Rectangle {
     id: chip
     required property string text

@@ -2,11 +2,11 @@ import QtQuick
 import QtQuick.Templates as T
 import Veldmark
 
-// One of several, from a list that drops down.
+// A choice of one entry from a drop-down list.
 T.ComboBox {
     id: box
     required property string name // for screen readers
-    property string unlisted // shown while none of the list is chosen
+    property string unlisted // shown while no entry of the list is chosen
 
     implicitWidth: Math.min(190, label.implicitWidth + 44)
     implicitHeight: Theme.control
@@ -15,7 +15,7 @@ T.ComboBox {
     rightPadding: mirrored ? 12 : 32
     displayText: currentIndex < 0 ? unlisted : currentText
     Accessible.name: name
-    Accessible.description: displayText // what is chosen; the control itself does not tell
+    Accessible.description: displayText // the chosen entry, which the control itself does not announce
 
     contentItem: Text {
         id: label

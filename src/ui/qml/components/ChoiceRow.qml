@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Veldmark
 
-// A title with a choice beside it, and below both what it is for and what is to be said of the choice.
+// A title with a choice beside it, and below both the explanation and a note about the choice.
 Column {
     id: row
     required property string title

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Veldmark
 
-// A command to copy.
+// A command with a button that copies it.
 Rectangle {
     id: field
     required property string text

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Veldmark
 
-// What is said where there is nothing to show.
+// The message in place of an empty list.
 ColumnLayout {
     id: state
     required property string symbol

@@ -1,7 +1,7 @@
 import QtQuick
 import Veldmark
 
-// Text as wide as its words, up to a limit at which it wraps.
+// Text as wide as its words, which wraps at a maximum width.
 Text {
     id: fitted
     property double maximumWidth: 1000

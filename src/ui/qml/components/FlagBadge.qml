@@ -1,10 +1,10 @@
 import QtQuick
 import Veldmark
 
-// A country: its flag where the fonts have one, else its two letters.
+// A country: its flag if the fonts have one, else its two letters.
 Item {
     id: badge
-    required property string country // two letters; anything else is shown as unknown
+    required property string country // two letters; any other text is shown as unknown
     readonly property string flag: country !== "" && ColorScheme.flagsDrawn ? ColorScheme.flag(country) : ""
 
     implicitWidth: 26

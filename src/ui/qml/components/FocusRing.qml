@@ -1,7 +1,7 @@
 import QtQuick
 import Veldmark
 
-// Shows where the keyboard is.
+// Shows the keyboard focus.
 Rectangle {
     property bool shown: false
 

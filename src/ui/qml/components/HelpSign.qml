@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Veldmark
 
-// A symbol that says something to who points at it or comes to it with the keyboard. There is nothing to press.
+// A symbol that shows its help when the pointer or the keyboard focus reaches it. It cannot be pressed.
 T.Control {
     id: sign
     required property string symbol

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Veldmark
 
-// The help of a control, for the mouse and for the keyboard. Put it into the control as an item.
+// A control's help, for the mouse and the keyboard. Place it inside the control.
 Item {
     id: hint
     required property T.Control control

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Veldmark
 
-// A button that is only a symbol; its text is its name and its help.
+// A button with only a symbol; its text is its name and its help.
 T.Button {
     id: button
     required property string symbol

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Veldmark
 
-// A quiet button in the colour of the accent.
+// A flat button in the accent colour.
 T.Button {
     id: button
     property string symbol

@@ -3,7 +3,7 @@ import QtQuick.Layouts
 import QtQuick.Templates as T
 import Veldmark
 
-// A whole row that opens something.
+// A whole row that opens a page or window.
 T.Button {
     id: button
     required property string title

@@ -3,14 +3,14 @@ import QtQuick.Window
 import QtQuick.Templates as T
 import Veldmark
 
-// The one thing to press: a disc in the colour of the session's state, with Tor's own progress as a
-// ring round it while it connects, and a turning arc where nobody knows how long it takes.
+// The power button: a disc in the colour of the session's state, surrounded by a ring. The ring shows Tor's progress while it connects, and
+// a turning arc during a wait of unknown length.
 T.Button {
     id: button
     required property int tone
     required property bool busy
     required property double progress // 0…1
-    // The ring that has filled stays round the button while what was promised has been seen to hold.
+    // The full ring stays while the checks confirm the session.
     readonly property bool closed: !busy && (tone === PanelModel.Good || tone === PanelModel.Info)
 
     implicitWidth: 140

@@ -2,14 +2,14 @@ import QtQuick
 import QtQuick.Templates as T
 import Veldmark
 
-// A button with words, and a symbol before them where one is given.
+// A button with a text and an optional symbol before it.
 T.Button {
     id: button
     property string symbol
     property string help
-    property bool primary: false // filled with the tone: the one next step
+    property bool primary: false // filled with the tone: the recommended next step
     property color tone: Theme.accent
-    property color fill: Theme.raised // when it is not the primary one; a card with a colour of its own wants another
+    property color fill: Theme.raised // when it is not primary; a coloured card sets another
     property int symbolSize: 16
 
     property int maximumWidth: 300

@@ -15,7 +15,7 @@ T.TextField {
     verticalAlignment: Text.AlignVCenter
     selectByMouse: true
     Accessible.name: placeholderText
-    // Escape empties it first; only then does it close the window.
+    // Escape first empties the field; the next one closes the window.
     Keys.onShortcutOverride: event => event.accepted = event.key === Qt.Key_Escape && text !== ""
     Keys.onEscapePressed: event => {
         event.accepted = text !== ""

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Veldmark
 
-// One of a few, all of them seen.
+// A choice of one of a few visible options.
 Rectangle {
     id: control
     required property var names // list of strings
@@ -28,7 +28,7 @@ Rectangle {
                 required property string modelData
                 text: modelData
                 checked: index === control.current
-                autoExclusive: false // one is chosen by `current` alone, which a click need not change
+                autoExclusive: false // only `current` decides; a click need not change it
                 Accessible.name: text
                 implicitWidth: label.implicitWidth + 24
                 implicitHeight: Theme.control - 4

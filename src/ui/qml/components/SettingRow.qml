@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Veldmark
 
-// A symbol, a title with an optional line below it, and whatever control is put into it.
+// A symbol, a title with an optional line below it, and a control.
 Item {
     id: row
     required property string title

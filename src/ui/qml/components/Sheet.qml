@@ -3,7 +3,7 @@ import QtQuick.Layouts
 import QtQuick.Templates as T
 import Veldmark
 
-// A dialogue inside its window, over everything else. Escape closes it and changes nothing.
+// A dialogue inside its window, above the rest. Escape closes it without a change.
 T.Popup {
     id: sheet
     required property string title

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Veldmark
 
-// On or off. `on` is the truth; the control never keeps a state of its own.
+// A switch that shows `on` and keeps no state of its own.
 T.Switch {
     id: control
     required property bool on

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Veldmark
 
-// A symbol above its word: the actions that stand in a row.
+// A button with a symbol above its word, for a row of actions.
 T.Button {
     id: button
     required property string symbol

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Veldmark
 
-// A button that stays down. `on` is the truth.
+// A button that stays pressed while `on`.
 T.Button {
     id: button
     required property bool on

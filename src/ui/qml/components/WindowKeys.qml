@@ -1,10 +1,10 @@
 import QtQuick
 import Veldmark
 
-// What the same keys do in every window: Ctrl+W and Escape close it, Ctrl+Q asks to quit.
+// The keys that every window has: Ctrl+W and Escape close it, Ctrl+Q asks to quit.
 Item {
     id: keys
-    property bool escapes: true // Escape belongs to nothing inside the window at the moment
+    property bool escapes: true // no item inside the window uses Escape now
     signal closeWanted()
     signal quitWanted()
 

@@ -1,11 +1,11 @@
 import QtQuick
 import Veldmark
 
-// Text. Wraps rather than being cut.
+// Text that wraps and is never cut.
 Text {
     font.pixelSize: Theme.bodySize
     color: Theme.text
-    horizontalAlignment: Text.AlignLeft // the start of the row, whatever the language of the words
+    horizontalAlignment: Text.AlignLeft // the start of the row, in any language
     wrapMode: Text.Wrap
     textFormat: Text.PlainText
     Accessible.role: Accessible.StaticText

@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Veldmark
 
-// The lines. Dragging within one, or a double click, selects its text; dragging over several, or Shift with the arrow
-// keys, selects whole lines. Ctrl-C copies what is selected. Following ends when the reader scrolls up and begins again at the end.
+// The log's lines. Dragging within a line, or a double click, selects its text; dragging over several, or Shift with the arrow keys,
+// selects whole lines. Ctrl-C copies the selection. Following ends when the reader scrolls up and starts again at the end.
 ListView {
     id: list
     required property LogModel log
@@ -12,7 +12,7 @@ ListView {
     property int head: -1
     readonly property int firstSelected: Math.min(anchor, head)
     readonly property int lastSelected: Math.max(anchor, head)
-    property int textRow: -1 // the row of whose text a part is selected, or -1
+    property int textRow: -1 // the row with a partial text selection, or -1
     readonly property string selectedText: textRow >= 0 ? (itemAtIndex(textRow) as LogRow)?.selectedText ?? "" : ""
 
     clip: true
@@ -29,7 +29,7 @@ ListView {
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Tor Log")
 
-    // Rows are wrapped, so that their heights change with the width and are known only once they are made.
+    // Rows wrap their text, so their heights depend on the width and are known only after their creation.
     onCountChanged: {
         if (follow)
             positionViewAtEnd()
@@ -47,7 +47,7 @@ ListView {
     }
     Timer { id: settled; interval: 0; onTriggered: list.positionViewAtEnd() }
 
-    // What is selected stays so when older lines fall off the beginning; another list begins without a selection.
+    // The selection stays when older lines are removed at the beginning; another list starts without one.
     Connections {
         target: list.log
         function onRowsRemoved(parent, first, last) {
@@ -113,12 +113,12 @@ ListView {
     }
     MouseArea {
         id: area
-        property double dragged: 0 // how far above or below the lines the pointer holds a selection
+        property double dragged: 0 // how far above or below the list the pointer drags a selection
         anchors { fill: parent; rightMargin: bar.visible ? bar.width : 0 }
         cursorShape: Qt.IBeamCursor
         preventStealing: true
         function rowAt(y: double): int { return list.indexAt(10, list.contentY + Math.max(0, Math.min(list.height - 1, y))) }
-        // The place in the row that lies there.
+        // The position inside the row.
         function inRow(row: int, mouse: point): point {
             const item = list.itemAtIndex(row)
             return item ? mapToItem(item, mouse.x, mouse.y) : Qt.point(0, 0)
@@ -127,7 +127,7 @@ ListView {
             const at = inRow(row, mouse)
             return (list.itemAtIndex(row) as LogRow)?.characterAt(at.x, at.y) ?? 0
         }
-        property int pressedAt: 0 // the character
+        property int pressedAt: 0 // the character's index
         onPressed: mouse => {
             list.forceActiveFocus()
             list.dropText()

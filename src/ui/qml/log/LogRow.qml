@@ -12,7 +12,7 @@ Rectangle {
     readonly property string selectedText: words.selectedText
     readonly property bool problem: level === LogModel.Error || level === LogModel.Warning
 
-    // The character of the message at a place in the row, and what is selected of the message.
+    // The character of the message at a position in the row.
     function characterAt(x: double, y: double): int { return words.positionAt(x - words.x, y - words.y) }
     function selectCharacters(from: int, to: int) { words.select(from, to) }
     function selectWordAt(x: double, y: double) {
@@ -28,7 +28,7 @@ Rectangle {
          : level === LogModel.Error ? Theme.dangerGround
          : level === LogModel.Warning ? Theme.warningGround : "transparent"
     Accessible.role: Accessible.ListItem
-    // The colour's meaning comes first, as the eye sees it.
+    // The level comes first, as its colour does for the eye.
     readonly property string levelName: level === LogModel.Error ? qsTr("Error") : level === LogModel.Warning ? qsTr("Warning")
                                       : level === LogModel.Notice ? qsTr("Notice") : qsTr("Information")
     Accessible.name: (problem ? levelName + ": " : "") + time + " " + message

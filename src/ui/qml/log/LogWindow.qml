@@ -102,7 +102,7 @@ Window {
             }
             FocusRing {
                 anchors.margins: 1
-                shown: lines.activeFocus && lines.head < 0 // then no line shows where the keyboard is
+                shown: lines.activeFocus && lines.head < 0 // no line shows the focus then
             }
             EmptyState {
                 anchors.centerIn: parent

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Window
 import Veldmark
 
-// The window "main": the panel, and the way in where there is no tray.
+// The window "main": the panel, and the only access without a tray.
 Window {
     id: window
     required property PanelModel panelModel
@@ -15,10 +15,10 @@ Window {
     LayoutMirroring.enabled: Theme.mirrored
     LayoutMirroring.childrenInherit: true
     width: 400
-    // As tall as its content, until its user makes it as tall as he likes.
+    // As tall as its content, until the user resizes it.
     readonly property int contentHeight: Math.max(minimumHeight, Math.min(panel.wantedHeight, 768, Screen.desktopAvailableHeight - 48))
-    property int chosenHeight: 0 // 0: none
-    property var ownHeights: ({}) // those that the content has had: a window manager may tell of them late
+    property int chosenHeight: 0 // 0: not chosen
+    property var ownHeights: ({}) // the content's previous heights: a window manager may report them late
     onContentHeightChanged: ownHeights[contentHeight] = true
     onHeightChanged: {
         if (visible && visibility === Window.Windowed && !ownHeights[height])

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Window
 import Veldmark
 
-// The panel below the tray's icon. Goes when another window is used, or with Escape.
+// The panel at the tray's icon. It closes when another window becomes active, or with Escape.
 Window {
     id: window
     required property PanelModel panelModel

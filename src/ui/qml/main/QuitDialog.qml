@@ -3,10 +3,10 @@ import QtQuick.Window
 import QtQuick.Layouts
 import Veldmark
 
-// Asked before the program ends while the network is routed through Tor.
+// Shown before the program quits while the network is routed through Tor.
 Window {
     id: window
-    required property bool strict // the kill switch is what stays on
+    required property bool strict // the kill switch stays on
     required property bool busy   // the disconnect is under way
     signal disconnectWanted()
     signal quitWanted()

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Veldmark
 
-// What was checked about the connection, and the traffic.
+// The results of the checks, and the traffic.
 Card {
     id: card
     required property PanelModel model
@@ -20,7 +20,7 @@ Card {
         TextMetrics { id: measure; font: address.font; text: address.text }
         TextEdit {
             id: address
-            // Not its implicit width: that follows the wrapping, which follows the width.
+            // Not the implicit width: that depends on the wrapping, which depends on the width.
             width: Math.min(Math.ceil(measure.advanceWidth) + 4, card.width * 0.5)
             horizontalAlignment: TextEdit.AlignRight
             text: card.model.exitAddress

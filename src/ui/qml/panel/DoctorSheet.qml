@@ -3,7 +3,7 @@ import QtQuick.Layouts
 import QtQuick.Templates as T
 import Veldmark
 
-// What a connect needs of this computer, what is in its way, and what mends it.
+// What a connect needs on this computer, what prevents it, and how to fix that.
 Sheet {
     id: sheet
     required property DoctorModel model

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Veldmark
 
-// A fact with its value. Where it has help, the row takes the focus so that the help can be read.
+// A fact with its value. A row with help takes the focus, so that the help can be read.
 T.Control {
     id: fact
     required property string title

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Veldmark
 
-// The state of the connection, seen at a glance, and the button that changes it.
+// The connection's state, and the button that changes it.
 Rectangle {
     id: hero
     required property PanelModel model

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Veldmark
 
-// Look-ups that can go around Tor, and what to do about it.
+// DNS lookups that can go around Tor, and what to do about it.
 Card {
     id: card
     required property PanelModel model

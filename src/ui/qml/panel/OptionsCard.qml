@@ -2,11 +2,11 @@ import QtQuick
 import QtQuick.Layouts
 import Veldmark
 
-// The options of the connection. Those that hold for a whole connection are locked while it lasts.
+// The connection's options. Those of a whole connection are locked while it lasts.
 Card {
     id: card
     required property OptionsModel model
-    readonly property bool choosing: exits.open || bridges.open // a list is open, which Escape closes
+    readonly property bool choosing: exits.open || bridges.open // a list is open; Escape closes it
     signal bridgesWanted()
     signal applicationsWanted()
 

@@ -2,14 +2,13 @@ import QtQuick
 import QtQuick.Layouts
 import Veldmark
 
-// The whole panel, as the tray's popup and as the main window show it. Scrolls when it is taller
-// than its window.
+// The whole panel, shown by the tray's popup and by the main window. Scrolls when it is taller than its window.
 Rectangle {
     id: panel
     required property PanelModel model
     required property OptionsModel options
     readonly property int wantedHeight: column.implicitHeight + 2 * area.margin + footer.implicitHeight + 16
-    readonly property bool escapes: !doctor.visible && !bridges.visible && !applications.visible && !card.choosing // Escape is nobody's
+    readonly property bool escapes: !doctor.visible && !bridges.visible && !applications.visible && !card.choosing // no item uses Escape
     signal windowWanted(string name) // "circuits", "log", "settings"
     signal chooserWanted()
     signal quitWanted()

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Veldmark
 
-// Why something in this group did not work.
+// The reason for a failure in this group.
 RowLayout {
     property alias text: words.text
     Layout.fillWidth: true

@@ -40,7 +40,7 @@ Window {
         spacing: 0
         Rectangle {
             Layout.fillHeight: true
-            // Wide enough for the longest name in any language, within reason.
+            // Wide enough for the longest name in the user's language, within limits.
             readonly property double longest: window.panes.reduce((most, pane) => Math.max(most, measure.advanceWidth(pane.title)), 0)
             implicitWidth: Math.min(250, Math.max(188, Math.ceil(longest) + 70))
             color: Theme.surface
@@ -59,7 +59,7 @@ Window {
                         width: parent.width
                         height: Math.max(36, label.implicitHeight + 14)
                         text: modelData.title
-                        checkable: false // it follows the pane
+                        checkable: false // `checked` follows the shown pane
                         checked: window.pane === index
                         hoverEnabled: true
                         Accessible.selectable: true
