@@ -18,8 +18,8 @@ const QStringList &torResolvers();
 // Parses the output of `scutil --dns`: both sections, in their order.
 std::vector<DNSResolver> parse(QStringView text);
 
-// The resolvers that can carry look-ups around Tor, reduced to their name servers that are not
-// Tor's. Local link names and reverse look-ups are no leak. Equal summaries are reported once.
+// The resolvers that can carry lookups around Tor, without their name servers that are Tor's. Local
+// link names and reverse lookups are no leak. Equal summaries are reported once.
 std::vector<DNSResolver> leaks(const std::vector<DNSResolver> &resolvers);
 
 // The status after a check. Leaks in the settings come first, then the result of this check's live

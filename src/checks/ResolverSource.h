@@ -22,9 +22,9 @@ public:
 // run folder, or names one of its addresses. `target` is the file's real path.
 bool resolvedServes(const QString &target, const ResolverFile &file);
 
-// Joins what the file says with what systemd-resolved says (nothing when it does not serve the file
-// or does not answer). Resolved's own addresses in the file are no resolvers: who they pass the
-// question on to is what counts. Servers that only the file names come last.
+// Joins the file's servers with systemd-resolved's (absent when it does not serve the file or does
+// not answer). Resolved's own addresses in the file are dropped, because its upstream servers count
+// instead. Servers that only the file names come last.
 std::vector<DNSResolver> joinResolvers(const ResolverFile &file,
                                        const std::optional<ResolvedState> &resolved);
 
