@@ -68,7 +68,7 @@ std::optional<QByteArray> readEnd(const QString &path)
         if (count < 0)
             filled = 0; // half a file would look like a whole one
         if (count <= 0)
-            break; // it shrank, or can't be read
+            break; // the file shrank, or can't be read
         filled += count;
     }
     ::close(descriptor);

@@ -109,7 +109,7 @@ void Finding::read(const TorLogLine &line)
     static const QRegularExpression died(QStringLiteral("^Managed proxy at '.*' died in state "),
                                          anyCharacter);
     if (died.match(line.message).hasMatch())
-        return; // says less than the line before it
+        return; // less specific than the line before it
     if (line.message.contains(QLatin1String("anaged proxy"))
         || line.message.contains(QLatin1String("no configured transport")))
         m_trouble = Text::tr("Tor has trouble with the bridge program: %1")

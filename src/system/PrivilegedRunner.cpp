@@ -53,7 +53,7 @@ struct Words {
 Words hidden(const QStringList &arguments)
 {
     const QString verb = arguments.value(0);
-    const auto fitsALine = [](const QString &word) { // what does not is for the helper to refuse
+    const auto fitsALine = [](const QString &word) { // the helper refuses words that do not fit
         return std::none_of(word.begin(), word.end(),
                             [](QChar c) { return c < u' ' || c == QChar(0x7f); });
     };
