@@ -5,7 +5,7 @@
 #include <QByteArray>
 #include <QString>
 
-// The folder that verifies the program's claims: which address the internet sees (NetworkProbe),
+// The room that verifies the program's claims: which address the internet sees (NetworkProbe),
 // and whether lookups can bypass Tor (DNSCheck, ResolverSource).
 namespace veldmark {
 

@@ -10,7 +10,7 @@
 #include <optional>
 #include <vector>
 
-// The folder of Tor's circuits: these records, CircuitParser, which makes them from Tor's replies,
+// The room of Tor's circuits: these records, CircuitParser, which makes them from Tor's replies,
 // CircuitTable, which joins one refresh into a list, and CircuitGraph with GraphLayout, which lay
 // the list out as a graph. Everything here is a value or a pure function; nothing connects to Tor.
 namespace veldmark {

@@ -7,7 +7,7 @@
 #include <optional>
 #include <vector>
 
-// The folder that examines this computer: what a connect needs, what blocks it, and the remedy. It
+// The room that examines this computer: what a connect needs, what blocks it, and the remedy. It
 // only reads, sends nothing to the network and needs no root. Start here, then read Machine (the
 // examined data), Checks.h (the findings, each a function of a Machine) and Examiner (for the real
 // computer).

@@ -5,7 +5,7 @@
 
 #include <optional>
 
-// The folder of Tor's log: TorLog reads the files that Tor and its launcher write, TorLogStore
+// The room of Tor's log: TorLog reads the files that Tor and its launcher write, TorLogStore
 // watches them, TorLogFilter selects the lines for a window or a command, and transportTrouble()
 // reports problems of transport programs.
 namespace veldmark {
