@@ -150,7 +150,7 @@ enable_firewall() {
   journal_put "$FIREWALL_ENTRY" "boot $boot" "token $token" || die "The journal cannot be written."
 }
 
-# kill_states: ends connections from before a change.
+# kill_states: removes all of pf's states, so that connections from before a change end.
 kill_states() { pfctl -q -F states; }
 
 # kill_switch_stands: queries the kernel; the marker alone may be from before a restart of the computer. Status 2:

@@ -11,8 +11,8 @@ readonly LAN4="10.0.0.0/8, 172.16.0.0/12, 192.168.0.0/16, 169.254.0.0/16"
 readonly LAN6="fe80::/10, fc00::/7"
 readonly LOOKUP_PORTS="53, 137, 138, 139, 853, 5353, 5355"
 
-# print_rules_head TOR_UID USER_UID: redirects the system's DNS lookups at this computer to Tor's port. Tor's
-# control port is open only for root, the session's user and Tor.
+# print_rules_head TOR_UID USER_UID: DNS lookups that the system sends to this computer are redirected to Tor's
+# port. Tor's control port is open only for root, the session's user and Tor.
 print_rules_head() {
   local users="0, $1"
   [[ $2 == 0 ]] || users="$users, $2"

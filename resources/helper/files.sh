@@ -2,8 +2,8 @@
 # ---- Files and the journal ---------------------------------------------------------------------------------
 # The system's own part defines put_in_place, print_modes, real_path and print_sum.
 
-# write_file TARGET MODE OWNER TEXT: all or nothing, on disk when it returns 0. OWNER is "root" or UID:GID. Only
-# root may own TARGET's folder.
+# write_file TARGET MODE OWNER TEXT: all or nothing, on disk when it returns 0. OWNER is "root" or UID:GID.
+# TARGET's folder must belong to root.
 write_file() {
   local new=$1.new status=0
   [[ ! -e $new && ! -L $new ]] || rm -f -- "$new" || return 1

@@ -206,8 +206,9 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
         : ExitStatus::usage;
 }
 
-// For root: the helper itself finds the session, whichever user owns it. It also works where no
-// password prompt is possible: `sudo veldmarkctl launch …`.
+// For root: no approval is needed, and the helper itself checks that a strict session is in force,
+// whichever user owns it. So it also works where no password prompt is possible: `sudo veldmarkctl
+// launch …`.
 QCoro::Task<ExitStatus> launchHere(QString path, std::shared_ptr<Production> production)
 {
     const QStringList arguments = {QStringLiteral("launch"), QStringLiteral("--uid"),

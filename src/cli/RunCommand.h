@@ -47,7 +47,7 @@ private:
     bool m_restored = false; // a disconnect has begun since the start
     bool m_mustEnd = false;  // SIGTERM or SIGHUP, whose sender does not ask again
     // declared last and so destroyed first: coroutines that the other members' destructors resume
-    // find it gone
+    // can check it
     QObject m_lifetime;
 };
 

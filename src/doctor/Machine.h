@@ -30,7 +30,7 @@ struct Machine {
     PluggableTransports transports; // the transports found
 
     uid_t user = 0;          // the account of this process
-    bool hasDesktop = false; // a display to ask for a password on
+    bool hasDesktop = false; // a display that can show a password dialog
     QDateTime now;           // according to the computer's clock
     // whether the kernel counts the clock as synchronised; absent: unknown
     std::optional<bool> clockIsSet;

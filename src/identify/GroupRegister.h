@@ -49,7 +49,8 @@ public:
     static constexpr std::size_t groupsPerUser = 2000;
     static constexpr std::size_t identitiesPerUser = 1000;
     // The firewall's maps have 65,536 places each. From `crowd` entries of all users together, each
-    // user gets at most this share, so that several users can't fill the places that others need.
+    // user gets at most `shareInACrowd`, so that several users can't fill the places that others
+    // need.
     static constexpr std::size_t crowd = 30000;
     static constexpr std::size_t shareInACrowd = 100;
     static constexpr std::size_t mostInAll = 60000; // account addresses need places too

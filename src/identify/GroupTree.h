@@ -25,7 +25,7 @@ public:
 
     struct Event {
         bool came = false;
-        Group group; // without an id when it has gone
+        Group group; // without an id when the group was removed
     };
     // The events since the last call, without waiting. Absent when the kernel has lost some: the
     // caller then calls scan().

@@ -55,7 +55,7 @@ bool isSystems(const PlatformProfile &profile, const QString &path, const Role &
         && (path.startsWith(root + QLatin1String("/usr/"))
             || path.startsWith(root + QLatin1String("/opt/")))
         && isRootsAlone(path) && ::statvfs(QFile::encodeName(path).constData(), &system) == 0
-        && (system.f_flag & ST_NOSUID) == 0; // as media are that a user has mounted
+        && (system.f_flag & ST_NOSUID) == 0; // user-mounted media have ST_NOSUID
 }
 
 QString digestOf(const QString &path)

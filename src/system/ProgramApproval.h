@@ -13,7 +13,7 @@ struct PlatformProfile;
 struct ProgramApproval {
     QString path;
     QString role;   // the helper's word: "tor", "lyrebird", "snowflake-client", "webtunnel-client"
-    QString digest; // SHA-256, in small hexadecimal digits
+    QString digest; // SHA-256, in lower-case hexadecimal digits
 
     // The words of the request to the helper.
     QStringList words() const;
