@@ -9,7 +9,8 @@
 
 #include <qcorotask.h>
 
-// may define stdout and stderr as macros; included here so that every file sees the same names
+// Included here because it may define stdout and stderr as macros: so every file sees the same
+// names.
 #include <cstdio>
 
 namespace veldmark {
