@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The one entry to Veldmark's source tree. Each verb first does what it needs of the earlier ones.
+# The one entry to Veldmark's source tree. Each verb first runs the earlier steps that it needs.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 
@@ -50,9 +50,9 @@ fetch_unpacked() {
     for package in *.deb; do dpkg -x "$package" unpacked || return; done
 }
 
-# unpack FOLDER PROGRAM PACKAGE...: fetches packages whose programs the tests run in namespaces. Installing
-# them would change this machine (systemd-resolved takes over its resolver, the SSH server would start) or bring
-# much that nobody needs (the headers of GNUstep), so they are only unpacked, into build/FOLDER.
+# unpack FOLDER PROGRAM PACKAGE...: fetches packages whose programs the tests run in namespaces. Installed, they would change this
+# computer (systemd-resolved takes over its resolver, the SSH server would start) or bring large unneeded packages (the headers of
+# GNUstep), so they are only unpacked, into build/FOLDER.
 unpack() {
     local target=build/$1 program=$2 folder
     local -a packages=("${@:3}")
@@ -82,11 +82,11 @@ compile() {
     for target in "$@"; do targets+=(--target "$target"); done
     mkdir -p build 2>/dev/null || die "this folder cannot be written: copy the checkout to one of your own, or run this as its owner"
     (: >"$log") 2>/dev/null || die "build/ belongs to another user: remove it, or run this as that user"
-    # A compiler cache is used where there is one, also for what is compiled with precompiled headers, and from another checkout.
+    # Uses a compiler cache if installed, also for sources with precompiled headers, and across checkouts.
     export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros} CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
     ! command -v ccache >/dev/null || options=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
     [[ -z ${VELDMARK_PLAIN:-} ]] || options+=(-DVELDMARK_PRECOMPILE=OFF -DVELDMARK_UNITY=OFF)
-    # Presets are read only when they are asked for: again after a change of them.
+    # CMake reads a preset only on request: configure again after a change of the file.
     if [[ ! -f build/$preset/build.ninja || CMakePresets.json -nt build/$preset/configured ]]; then
         busy "Configuring" "$log" cmake --preset "$preset" ${options[@]+"${options[@]}"} || {
             reason=$(explain_failure "$log")
@@ -109,7 +109,7 @@ build() {
     compile dev programs
 }
 
-# test_targets NAME...: what a run of these tests alone has to compile. A name is a room ("controller") or a suite ("lab").
+# test_targets NAME...: prints the targets that these tests need. A name is a room ("controller") or a suite ("lab").
 test_targets() {
     local name
     for name in "$@"; do
@@ -123,12 +123,12 @@ test_targets() {
     done
 }
 
-# git, also in a checkout that belongs to another user.
+# Runs git, also in a checkout that belongs to another user.
 own_git() {
     git -c safe.directory="$PWD" "$@"
 }
 
-# When the sources were last changed, in seconds since 1970: the commit's time, in a source archive that of its newest file.
+# The time of the sources, in seconds since 1970: the commit's, in a source archive that of its newest file.
 source_date() {
     own_git log -1 --format=%ct 2>/dev/null || find . -path ./build -prune -o -type f -printf '%Ts\n' | sort -n | tail -n 1
 }
@@ -137,11 +137,11 @@ pack() {
     (cd "$1" && cpack -G DEB)
 }
 
-# The Debian package of the release build, checked by lintian; an error of its fails.
+# Makes the Debian package of the release build. lintian checks it; an error fails.
 package() {
     deps package
-    # Times in the archive, and in the resources inside the programs, are the commit's: the same commit gives the same bytes
-    # anywhere and on any day.
+    # Times in the archive, and in the resources inside the programs, are the commit's: the same commit always gives the same
+    # bytes.
     SOURCE_DATE_EPOCH=$(source_date)
     export SOURCE_DATE_EPOCH QT_RCC_SOURCE_DATE_OVERRIDE=$SOURCE_DATE_EPOCH
     compile release
@@ -159,11 +159,11 @@ package() {
 
 build_archive() {
     cd "$1" || return
-    # Each source alone, so that none is without a header that it uses.
+    # Compiles each source alone, so that a missing include is found.
     VELDMARK_PLAIN=1 "${@:2}" ./build.sh package
 }
 
-# Sources of the last commit, and a build of exactly these where there is no network.
+# Packs the sources of the last commit, and builds exactly these where there is no network.
 dist() {
     deps
     local version name folder
@@ -185,12 +185,12 @@ dist() {
     printf 'build/%s\n' "$name.tar.gz"
 }
 
-# needs_root WHAT: said before anything is compiled for it.
+# needs_root WHAT: called before anything is compiled.
 needs_root() {
     [[ $EUID -eq 0 ]] || die "$1 by root: run sudo ./build.sh $verb"
 }
 
-# needs_open_folder: root's tests run programs of this tree as users of their own, who cannot enter /root, say.
+# needs_open_folder: root's tests run programs of this tree as other users, who cannot enter a folder such as /root.
 needs_open_folder() {
     local folder=$PWD
     while :; do
@@ -222,7 +222,7 @@ demo)
     exec /usr/bin/python3 tests/lab/demo.py pictures
     ;;
 test)
-    # Most unit tests run as whoever calls, and so does everything that is not root's.
+    # Most unit tests run as the calling user, and so do the tests that do not need root.
     [[ $EUID -ne 0 || ($# -gt 0 && $1 != -* && ! " $* " =~ \ (helper|helper_mac|lab|ui|package|mutate)\ ) ]] || needs_open_folder
     deps
     names=()
@@ -243,8 +243,8 @@ test)
     fi
     unpack_services
     status=0
-    # Three places for each of two processors; cmake/Veldmark.cmake says how many a test takes.
-    # All that a test says is kept, since what it has skipped may stand at the end.
+    # Three places for each of two processors; cmake/Veldmark.cmake sets how many a test takes. The whole output of a test is
+    # kept, since its skips may be at the end.
     ctest --preset dev --parallel 6 --output-junit ../test/junit.xml --test-output-size-passed 100000000 "$@" || status=$?
     /usr/bin/python3 tests/skipped.py build/test/junit.xml || status=$?
     exit "$status"
@@ -257,7 +257,7 @@ fresh-test)
 asan)
     deps
     compile asan
-    # Counts of an earlier build would be complained about on the standard error of programs whose output is tested.
+    # The programs would report the counts of an earlier build on standard error, which tests check.
     find build/asan -name '*.gcda' -delete
     ctest --preset asan "$@"
     ;;

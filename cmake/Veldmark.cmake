@@ -1,14 +1,14 @@
-# Small functions that every room uses, so that a room's own CMakeLists.txt is a list of its files.
+# Small functions for all rooms, so that a room's own CMakeLists.txt is a list of its files.
 
 add_library(veldmark_options INTERFACE)
-# Some libraries ask for this; a precompiled header serves only sources that are compiled alike.
+# Some libraries need this; a precompiled header serves only sources that are compiled with the same options.
 target_compile_options(veldmark_options INTERFACE -pthread)
 target_compile_options(veldmark_options INTERFACE -Wall -Wextra -Wconversion -Wshadow)
 target_compile_definitions(veldmark_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS
     VELDMARK_VERSION="${PROJECT_VERSION}")
 if(CMAKE_BUILD_TYPE STREQUAL "Release")
-    # Where it was built is nobody's business, and the same commit gives the same bytes in every folder.
+    # Removes the build folder's path, so that the same commit gives the same bytes in every folder.
     target_compile_options(veldmark_options INTERFACE "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.")
 endif()
 if(VELDMARK_STRICT)
@@ -20,7 +20,7 @@ if(VELDMARK_SANITIZE)
     target_link_options(veldmark_options INTERFACE -fsanitize=${VELDMARK_SANITIZE})
     target_compile_definitions(veldmark_options INTERFACE VELDMARK_SANITIZED)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
-        # What this check puts before each function does not go together with coroutines.
+        # The code that this check puts before each function is not compatible with coroutines.
         target_compile_options(veldmark_options INTERFACE -fno-sanitize=function)
     endif()
     target_compile_definitions(veldmark_options INTERFACE _GLIBCXX_ASSERTIONS)
@@ -30,8 +30,8 @@ if(VELDMARK_COVERAGE)
     target_link_options(veldmark_options INTERFACE --coverage)
 endif()
 
-# What nearly every source reads of Qt and of the standard library, compiled once for all rooms, and once for the tests.
-# A source still includes what it uses: ./build.sh dist compiles its archive without this.
+# Headers of Qt and of the standard library that nearly every source includes, compiled once for all rooms, and once for the
+# tests. A source still includes what it uses: ./build.sh dist compiles its archive without this.
 option(VELDMARK_PRECOMPILE "Compile common headers once" OFF)
 set(veldmark_common_headers <algorithm> <chrono> <functional> <memory> <optional> <vector> <tl/expected.hpp> <qcorotask.h>
     <QByteArray> <QDir> <QFile> <QFileInfo> <QJsonArray> <QJsonDocument> <QJsonObject> <QObject> <QPointer> <QProcess>
@@ -59,20 +59,20 @@ function(veldmark_precompiled target kind)
     endif()
 endfunction()
 
-# A room's sources compiled ten at a time: nearly all of a source's time goes to the headers that it reads. Debian's own build, the
-# archive's and the sanitizers' compile each by itself.
+# Compiles a room's sources ten at a time: nearly all of a source's compile time is spent on its headers. Debian's own build, the
+# archive's and the sanitizers' compile each source by itself.
 option(VELDMARK_UNITY "Compile a room's sources together" OFF)
 function(veldmark_together target)
     if(VELDMARK_UNITY)
         set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 10)
-        # A source that is included counts as a header, which may have no type of an unnamed namespace in a coroutine.
+        # An included source counts as a header, where a coroutine may use no type of an unnamed namespace.
         target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
     endif()
 endfunction()
 
 # veldmark_library(ROOM SOURCES a.cpp… ALONE a.cpp… ROOMS lower-room… LINK other-library…)
-# One room: a static library whose headers are included as "room/Header.h". ALONE: those of its sources with a name in an unnamed
-# namespace that another source of the room has too, so that they are not compiled together.
+# One room: a static library whose headers are included as "room/Header.h". ALONE: sources with a name in an unnamed namespace
+# that another source of the room also has, so that they are not compiled together.
 function(veldmark_library room)
     cmake_parse_arguments(arg "" "" "SOURCES;ALONE;ROOMS;LINK" ${ARGN})
     set_source_files_properties(${arg_ALONE} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
@@ -94,15 +94,15 @@ function(veldmark_translated program)
 endfunction()
 
 # ./build.sh test gives CTest six places for two processors: three for each. A test that computes keeps a processor busy and takes
-# three (BUSY); a test of the root helper waits about half of its time, for programs and for Tor, and takes two (HALF); a lab, which
-# mostly waits for Tor, takes one. docs/performance.md has the figures.
+# three (BUSY). A test of the root helper waits about half of its time, for programs and for Tor, and takes two (HALF). A lab
+# test, which mostly waits for Tor, takes one. docs/performance.md has the figures.
 set(VELDMARK_BUSY_PLACES 3)
 set(VELDMARK_HALF_PLACES 2)
 
 # veldmark_test(room/NameTest [ALONE] ROOMS room… LINK library… SOURCES extra.cpp…)
-# The Qt Test class of tests/unit/room/NameTest.cpp, in the room's one test program test-room, known to CTest as
-# unit/room/NameTest. support/TestProgram.h says how a class gets into the program. ALONE: a name in its unnamed namespace is another
-# test's of the room too, so that they are not compiled together.
+# The Qt Test class of tests/unit/room/NameTest.cpp, in the room's only test program test-room, known to CTest as
+# unit/room/NameTest. support/TestProgram.h describes how a class gets into the program. ALONE: another test of the room has the
+# same name in its unnamed namespace, so that they are not compiled together.
 function(veldmark_test path)
     cmake_parse_arguments(arg "ALONE" "" "ROOMS;LINK;SOURCES" ${ARGN})
     get_filename_component(name ${path} NAME)
@@ -114,7 +114,7 @@ function(veldmark_test path)
         target_link_libraries(${program} PRIVATE veldmark_support veldmark_test_program veldmark_test_options Qt6::Test)
         set_target_properties(${program} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
         if(room MATCHES "^(ui|app)$")
-            # Qt Test's headers hold more where there are windows.
+            # Qt Test's headers contain more with Qt Gui.
             veldmark_precompiled(${program} tests OWN)
         else()
             veldmark_precompiled(${program} tests)
@@ -132,9 +132,9 @@ function(veldmark_test path)
 endfunction()
 
 # veldmark_script_test(NAME [BUSY|HALF] [LONG] [COST seconds] [SCRIPT name] [ARGUMENTS word…])
-# The folder's own test_NAME.py or SCRIPT.py, known to CTest as FOLDER/NAME; status 77 is a skip. COST: about how long it takes,
-# since what takes long is better begun early. LONG: takes minutes and needs no program that the others do not, so that the short
-# run on a clean Debian leaves it out. What the tests of a folder have in common it sets at its end.
+# The folder's own test_NAME.py or SCRIPT.py, known to CTest as FOLDER/NAME; status 77 is a skip. COST: approximate duration in
+# seconds, so that long tests start early. LONG: takes minutes and needs no program that the others do not, so that the short run
+# on a clean Debian leaves it out. A folder sets the common properties of its tests at its end.
 function(veldmark_script_test name)
     cmake_parse_arguments(arg "BUSY;HALF;LONG" "COST;SCRIPT" "ARGUMENTS" ${ARGN})
     get_filename_component(folder "${CMAKE_CURRENT_SOURCE_DIR}" NAME)

@@ -1,13 +1,13 @@
 # Sourced by build.sh: the Debian packages that its verbs need, and how they are installed.
 # shellcheck shell=bash
 
-# What compiles the programs.
+# For compiling the programs.
 compiling_packages=(
     g++ cmake ninja-build pkg-config ccache
     libglib2.0-dev qt6-base-dev qt6-declarative-dev libgl-dev qcoro-qt6-dev libexpected-dev
     qt6-svg-dev qt6-tools-dev qt6-l10n-tools qt6-declarative-dev-tools
 )
-# What the programs call, and what the private Tor network of the demonstration is made of.
+# For the programs at run time, and for the private Tor network of the demonstration.
 running_packages=(
     qml6-module-qtquick
     qml6-module-qtquick-templates qml6-module-qtquick-window qml6-module-qtquick-layouts
@@ -17,11 +17,11 @@ running_packages=(
     python3 openssl ca-certificates curl
     libglib2.0-bin dconf-cli dconf-gsettings-backend gsettings-desktop-schemas dbus dbus-daemon
 )
-# What makes and judges the Debian package.
+# For making and checking the Debian package.
 packaging_packages=(
     git dpkg-dev lintian
 )
-# What the other verbs need besides: tests, sanitizers, fuzzers, benchmarks.
+# For the other verbs: tests, sanitizers, fuzzers, benchmarks.
 development_packages=(
     pkexec polkitd gnupg
     tcpdump shellcheck clang-format black unzip netcat-openbsd openssh-client iputils-ping zsh dash
@@ -39,12 +39,12 @@ missing_packages() {
     done
 }
 
-# The lines that apt writes on its status descriptor, as "[percent/100]".
+# Prints apt's progress from its status descriptor, as "[percent/100]".
 apt_percent() {
     awk -F: '/^(dl|pm)status:/ { part = $1 == "dlstatus" ? $3 * 0.4 : 40 + $3 * 0.6; printf "[%d/100]\n", part; fflush() }'
 }
 
-# asks_again SECONDS COMMAND...: apt-get's update, once more each second while another program holds the lists.
+# asks_again SECONDS COMMAND...: runs apt-get's update, once more each second while another program holds the lists.
 asks_again() {
     local deadline=$((SECONDS + $1)) output status
     shift
@@ -58,8 +58,8 @@ asks_again() {
     return "$status"
 }
 
-# install_packages NAME...: Debian starts a service when its package is installed. Nothing here wants a running tor, and a tor
-# that starts by itself would talk to the public network: dpkg is told to start nothing meanwhile.
+# install_packages NAME...: Debian starts a service when its package is installed. No verb needs a running tor, and such a tor
+# would connect to the public network: dpkg starts no service meanwhile.
 install_packages() {
     local -a root=()
     if [[ $EUID -ne 0 ]]; then
@@ -69,17 +69,17 @@ install_packages() {
     fi
     local log
     log=$(mktemp 2>/dev/null) || die "$(explain_failure <(echo "${TMPDIR:-/tmp}/x: No space left on device"))"
-    # Seconds for another program that installs packages to end.
+    # Seconds to wait for another program that installs packages.
     local policy=/usr/sbin/policy-rc.d status=0 wait=${VELDMARK_APT_WAIT:-60}
     if [[ ! -e $policy ]]; then
-        # Also when this is ended in the middle: a machine that starts no service any more would be a bad surprise.
+        # Removed also after an interruption: otherwise this computer would start no service any more.
         # shellcheck disable=SC2064
         trap "${root[*]} rm -f $policy" EXIT
         printf '#!/bin/sh\nexit 101\n' | "${root[@]}" tee "$policy" >/dev/null
         "${root[@]}" chmod 755 "$policy"
     fi
     local -a apt=("${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -o "DPkg::Lock::Timeout=$wait")
-    # What an earlier run was stopped in.
+    # Completes an interrupted earlier run.
     [[ -z $(dpkg --audit 2>/dev/null) ]] ||
         busy "Finishing an interrupted installation" "$log" "${root[@]}" env DEBIAN_FRONTEND=noninteractive dpkg --configure -a || true
     if busy "Asking Debian's registry" "$log" asks_again "$wait" "${apt[@]}" update &&
@@ -102,8 +102,8 @@ install_packages() {
     rm -f "$log"
 }
 
-# deps [compiling|programs|package]: installs what is missing of the packages of all verbs, or only of those for compiling the
-# programs, for running and showing them as well, or for packing them.
+# deps [compiling|programs|package]: installs the missing packages of all verbs, or only those for compiling the programs, for
+# running and showing them too, or for packaging them.
 deps() {
     local -a wanted=("${compiling_packages[@]}") missing=()
     case ${1:-} in

@@ -1,8 +1,8 @@
-# Sourced by build.sh: what takes longer than two seconds shows that it moves.
+# Sourced by build.sh: shows the progress of steps that take longer than two seconds.
 # shellcheck shell=bash
 
-# progress WHAT: copies lines with "[done/total]" or "done/total" at their start to a display. On a terminal that is one line
-# that changes, otherwise one line for each tenth. Everything else is swallowed: the caller keeps it in a log.
+# progress WHAT: shows the progress of lines with "[done/total]" or "done/total" at their start. On a terminal that is one line
+# that changes, otherwise one line for each tenth. It prints nothing else: the caller keeps the rest in a log.
 progress() {
     local what=$1 line finished total tenth=-1 shown=
     while IFS= read -r line; do
@@ -20,14 +20,14 @@ progress() {
     [[ -z $shown ]] || printf '\r\033[K'
 }
 
-# busy WHAT LOG COMMAND...: runs a command that cannot count its steps, its output added to LOG. A terminal sees the seconds pass,
-# another reader a line after two seconds and one each half minute. The status is the command's.
+# busy WHAT LOG COMMAND...: runs a command that cannot count its steps, and appends its output to LOG. A terminal shows the
+# seconds; otherwise a line is printed after two seconds and one each half minute. The status is the command's.
 busy() {
     local what=$1 log=$2 started=$SECONDS passed told=0 status=0 child
     shift 2
     "$@" >>"$log" 2>&1 &
     child=$!
-    # A command in the background does not hear Ctrl-C.
+    # A background command does not get Ctrl-C.
     # shellcheck disable=SC2064
     trap "kill $child 2>/dev/null; exit 130" INT TERM
     while kill -0 "$child" 2>/dev/null; do
@@ -46,13 +46,13 @@ busy() {
     return "$status"
 }
 
-# has_room KB: whether that much is left for temporary files.
+# has_room KB: whether that much space is left for temporary files.
 has_room() {
     (($(df --output=avail -k "${TMPDIR:-/tmp}" | tail -n 1) >= $1))
 }
 
-# What is wrong with this machine, in one line that says what to do, from the log of a step that failed; nothing when the log
-# tells of none of these.
+# explain_failure LOG: prints what is wrong with this computer and the remedy in one line, from the log of a failed step; nothing
+# when the log has none of these errors.
 explain_failure() {
     local log=$1
     local full="${TMPDIR:-/tmp} is full: make room there, or set TMPDIR to a folder with 1 GB, and run this again"
@@ -75,6 +75,6 @@ explain_failure() {
         printf 'a file may not be written (%s): this checkout, or its build folder, belongs to another user' \
             "$(grep -m 1 -E 'Permission denied' "$log" | cut -c1-120)"
     elif ! has_room 1024; then
-        printf '%s' "$full" # where the log is, which then lacks what was said
+        printf '%s' "$full" # the log is there too, and then lacks the message
     fi
 }

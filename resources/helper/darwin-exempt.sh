@@ -1,25 +1,25 @@
 
-# ---- macOS: applications that go past Tor ------------------------------------------------------------------
-# They run as the user with a group of their own, which nobody is a member of, so that only root can start something
-# in it. The firewall lets out what sockets made with that group send. Children keep it.
+# ---- macOS: applications that bypass Tor -------------------------------------------------------------------
+# They run as the user with a separate group. It has no members, so only root can start a program in it. The
+# firewall lets out the traffic of sockets that were created with that group. Child processes keep it.
 
 readonly EXEMPT_GROUP=_veldmark_exempt
 readonly LAUNCHER_SECONDS=20
 
 EXEMPT_GID=''   # empty when the rules must not name it
 
-# ready_exempt: makes the group unless it is there. Without it nothing is exempt.
+# ready_exempt: creates the group if it is missing. Without the group no application bypasses Tor.
 ready_exempt() {
   EXEMPT_GID=$(ready_group "$EXEMPT_GROUP" "Applications without Tor") || EXEMPT_GID=''
   if ! is_uid "${EXEMPT_GID:-x}" || [[ $EXEMPT_GID == 0 || $EXEMPT_GID == "$TOR_GID" ]]; then
     EXEMPT_GID=''
   fi
-  # A member could enter it without us.
+  # A member could enter the group without the helper.
   [[ -z $(record_value "/Groups/$EXEMPT_GROUP" GroupMembership) ]] || EXEMPT_GID=''
 }
 
-# find_launcher: sets LAUNCHER to the program that starts the application. It runs with the caller's rights only, so
-# it does not matter who may change it.
+# find_launcher: sets LAUNCHER to the program that starts the application. It runs only with the caller's rights,
+# so it does not matter who can change it.
 LAUNCHER=''
 find_launcher() {
   local path
@@ -30,7 +30,7 @@ find_launcher() {
   return 1
 }
 
-# run_launcher PATH: in the caller's login session, where windows can be opened.
+# run_launcher PATH: runs it in the caller's login session, which can open windows.
 run_launcher() {
   local groups
   groups=$(caller_groups) || return 1
@@ -39,8 +39,8 @@ run_launcher() {
     "$LAUNCHER" --app "$1" 8>&- 9>&-
 }
 
-# darwin_launch: the application as the caller and nobody else. A prompt is needed each time, also under the
-# password-free rule: else any program of the user's could leave unseen while the kill switch is said to stand.
+# darwin_launch: starts the application as the caller and no other user. Every start needs a prompt, also under the
+# password-free rule: otherwise any program of the user could leave unseen while the kill switch counts as active.
 darwin_launch() {
   local words
   parse_options " --uid --app " "$@"

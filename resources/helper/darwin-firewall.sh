@@ -1,28 +1,30 @@
 
 # ---- macOS: firewall ---------------------------------------------------------------------------------------
-# pf: our rules stand in an anchor of our own, replaced as a whole in one transaction. The main rules get a line that
-# refers to it. A token keeps pf on for us and is given back; what others hold stays theirs.
+# pf: the helper's rules are in an anchor of their own, replaced as a whole in one transaction. The main rules get
+# a line that refers to the anchor. A token keeps pf enabled and is released at the end; tokens of other programs
+# stay.
 
 readonly FIREWALL_ENTRY=10-firewall
-readonly RULES=$RUN/firewall.pf       # 0600; the rules in force, for putting them back when somebody flushed them
-readonly LISTED=$RUN/firewall.listed  # 0600; the same as pf lists them
-readonly RULES_LOCK=/private/var/db/veldmark.rules   # whoever changes the rules holds it; the watcher has no other lock
+readonly RULES=$RUN/firewall.pf       # 0600; the rules in force, for restoring them after a flush
+readonly LISTED=$RUN/firewall.listed  # 0600; the same rules as pf lists them
+readonly RULES_LOCK=/private/var/db/veldmark.rules   # held during every change of the rules; the watcher has no other lock
 
 # hold_rules / release_rules: descriptor 7.
 hold_rules() { { exec 7>>"$RULES_LOCK"; } && perl -e "$HOLD" 7 10; }
 release_rules() { exec 7>&-; }
 
-# list_rules: what our anchor holds.
+# list_rules: the rules in the helper's anchor.
 list_rules() { pfctl -a "$ANCHOR" -s nat && pfctl -a "$ANCHOR" -s rules; }
 
-# note_listing: what the watcher compares with. The same text gives the same listing, so it is noted when the text is
-# new, never when the watcher loads it again: then somebody is changing rules, and his would be taken for ours.
+# note_listing: writes the listing that the watcher compares with. The same text gives the same listing, so the
+# listing is written only for a new text. The watcher does not write it when it loads the rules again: another
+# program is changing rules then, and its rules could be taken for the helper's.
 note_listing() {
   local text
   text=$(list_rules) && write_file "$LISTED" 0600 root "$text"$'\n'
 }
 
-# pf_words: the first line that pfctl had to say, without what it says each time.
+# pf_words: the first line of pfctl's error output, without its constant messages.
 pf_words() {
   local line
   while IFS= read -r line; do
@@ -37,15 +39,16 @@ pf_words() {
   done <<<"$1"
 }
 
-# load_rules TEXT: all of it or nothing; the former rules stay when it fails.
+# load_rules TEXT: all or nothing; the former rules stay on failure.
 load_rules() {
   local output
   output=$(pfctl -q -a "$ANCHOR" -f - 2>&1 <<<"$1") ||
     die "The firewall rules were not accepted ($(pf_words "$output"))."
 }
 
-# list_filter: the main rules for packets, as they are written: normalising, then dummynet, then filtering. Loading filter rules replaces
-# those of dummynet as well, which "-s rules" does not show. Where pfctl does not know them there are none.
+# list_filter: the main rules for packets in the order of pf.conf: normalising, then dummynet, then filtering.
+# Loading filter rules also replaces the dummynet rules, which "-s rules" does not show. A pfctl that does not know
+# dummynet has none.
 list_filter() {
   local rules line dummynet
   rules=$(pfctl -s rules) || return 1
@@ -55,7 +58,8 @@ list_filter() {
   while IFS= read -r line; do [[ $line == *scrub* ]] || printf '%s\n' "$line"; done <<<"$rules"
 }
 
-# skipped_devices: prints the network devices that the main rules leave out ("set skip on"). No rule of any anchor holds there.
+# skipped_devices: prints the network devices that the main rules leave out ("set skip on"). No anchor's rules
+# apply there.
 skipped_devices() {
   local listing line
   listing=$(pfctl -v -s Interfaces) || return 1
@@ -64,8 +68,8 @@ skipped_devices() {
   done <<<"$listing"
 }
 
-# put_reference: has the main rules ask our anchor first. They are read and written by pfctl, each kind for itself, and
-# never through a pipe: were the writing end killed, pfctl would load the half that it got.
+# put_reference: makes the main rules evaluate the helper's anchor first. pfctl reads and writes them, each kind
+# separately, and never through a pipe: if the writing end were killed, pfctl would load the half that it got.
 put_reference() {
   local filter nat output
   { filter=$(list_filter) && nat=$(pfctl -s nat); } || die "The firewall's main rules cannot be read."
@@ -74,7 +78,7 @@ put_reference() {
     output=$(pfctl -q -N -f - 2>&1 <<<"$nat") ||
       die "The firewall's main rules cannot be changed ($(pf_words "$output"))."
   fi
-  # Somebody may have put theirs before ours since.
+  # Another program may have put its rules before the anchor since.
   if [[ $(print_referring filter "$filter") != "$(print_normal "$filter")" ]]; then
     filter=$(print_referring filter "$filter")
     output=$(pfctl -q -R -f - 2>&1 <<<"$filter") ||
@@ -82,7 +86,8 @@ put_reference() {
   fi
 }
 
-# print_normal TEXT: main rules with the line of our anchor as we write it; pfctl prints a word more.
+# print_normal TEXT: the main rules with the anchor's line as the helper writes it; pfctl prints an additional
+# word.
 print_normal() {
   local line
   while IFS= read -r line; do
@@ -91,7 +96,7 @@ print_normal() {
   done <<<"$1"
 }
 
-# take_back_reference: status 1 when the main rules still name us.
+# take_back_reference: status 1 when the main rules still name the anchor.
 take_back_reference() {
   local filter nat
   filter=$(list_filter) && nat=$(pfctl -s nat) || return 1
@@ -107,8 +112,8 @@ take_back_reference() {
 
 readonly TOKEN_LINE='Token : ([0-9]+)'
 
-# held_token: prints the token of the entry that was read, if pf still knows it. A run that was killed before it could
-# note its token has noted the process that took it. Status 2: that cannot be told.
+# held_token: prints the token of the current entry, if pf still knows it. A run that was killed before it could
+# record its token has recorded the process that took it. Status 2: unknown.
 held_token() {
   local token enabler pid name held rest boot listing
   boot=$(boot_id) || return 2
@@ -126,13 +131,14 @@ held_token() {
   done <<<"$listing"
 }
 
-# enable_firewall: keeps pf on until the token is given back.
+# enable_firewall: keeps pf enabled until the token is released.
 enable_firewall() {
   local output token boot
   journal_read "$FIREWALL_ENTRY" || true
   { boot=$(boot_id) && token=$(held_token); } || die "The firewall's state cannot be read."
   if [[ -z $token ]]; then
-    # In bash 3.2 a subshell learns its process id from a child only. It is pfctl's too, which it becomes.
+    # In bash 3.2 a subshell learns its process id only from a child. pfctl has the same id, because the subshell
+    # becomes pfctl.
     # shellcheck disable=SC2016
     output=$(
       pid=$(exec sh -c 'echo "$PPID"') &&
@@ -144,18 +150,19 @@ enable_firewall() {
   journal_put "$FIREWALL_ENTRY" "boot $boot" "token $token" || die "The journal cannot be written."
 }
 
-# kill_states: connections from before a change must not go on.
+# kill_states: removes all of pf's states, so that connections from before a change end.
 kill_states() { pfctl -q -F states; }
 
-# kill_switch_stands: asks the kernel; the marker alone may be from before a restart of the computer. Status 2: it
-# did not tell.
+# kill_switch_stands: queries the kernel; the marker alone may be from before a restart of the computer. Status 2:
+# the kernel gave no answer.
 kill_switch_stands() {
   local info main rules skipped
   info=$(pfctl -s info) && main=$(pfctl -s rules) && rules=$(pfctl -a "$ANCHOR" -s rules) && skipped=$(skipped_devices) || return 2
   [[ -z $skipped && $info == *"Status: Enabled"* && $main == *"anchor \"$ANCHOR\""* && $rules == *"block return out quick all"* ]]
 }
 
-# put_firewall MODE: marker, rules, reference, pf itself, old connections, in this order. The text is kept first.
+# put_firewall MODE: marker, rules, reference, pf itself, old connections, in this order. The rules' text is saved
+# first.
 put_firewall() {
   local text udp=0
   if [[ $1 == strict ]]; then
@@ -172,7 +179,7 @@ put_firewall() {
   release_rules
 }
 
-# put_rules TEXT: whoever calls it holds the rules.
+# put_rules TEXT: the caller holds the lock on the rules.
 put_rules() {
   local skipped
   skipped=$(skipped_devices) || die "The firewall's devices cannot be read."
@@ -183,10 +190,11 @@ put_rules() {
   kill_states || die "The firewall cannot end the connections from before."
 }
 
-# undo_firewall: empty rules open the network; the rest is tidying. Status 3: it is open, but the entry must stay.
+# undo_firewall: empty rules open the network; the other steps only clean up. Status 3: the network is open, but
+# the entry must stay.
 undo_firewall() {
   local output token
-  # Held to the end of the run, when the marker has gone as well.
+  # Held to the end of the run, when the marker is removed too.
   if command -v perl >/dev/null && ! hold_rules; then
     UNDONE="The firewall could not be opened, because somebody is changing it."
     return 1

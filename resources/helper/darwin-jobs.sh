@@ -1,14 +1,15 @@
 
-# ---- macOS: jobs of launchd's ------------------------------------------------------------------------------
-# A job is known by its label and lies in our own folder, so that nothing starts after a restart of the computer.
+# ---- macOS: launchd jobs -----------------------------------------------------------------------------------
+# A label identifies a job. Its file is in the helper's own folder, so that no job starts after a restart of the
+# computer.
 
-readonly BUSY_POLLS=20     # of about 0.1 s: for launchd to be done with the former job
-readonly STOP_POLLS=100    # of about 0.1 s: launchd kills what has not ended after its time
+readonly BUSY_POLLS=20     # of about 0.1 s: until launchd has removed the former job
+readonly STOP_POLLS=100    # of about 0.1 s: launchd kills a process that exceeds its time to end
 
 readonly JOB_PROCESS='"PID" = ([0-9]+);'
 
-# print_job LABEL WORD...: the description of a job that runs the words, of safe characters only, as soon as it is loaded.
-# Standard input: its other keys.
+# print_job LABEL WORD...: the description of a job that runs the words, which have only safe characters, as soon
+# as it is loaded. Standard input: its other keys.
 print_job() {
   local word
   cat <<END
@@ -36,8 +37,8 @@ END
 END
 }
 
-# job_process LABEL: prints the process id of a job; nothing when it is loaded but does not run. Status 1: not loaded;
-# 2: launchd did not tell.
+# job_process LABEL: prints the process id of a job; nothing when it is loaded but does not run. Status 1: not
+# loaded; 2: launchd gave no answer.
 job_process() {
   local output status=0
   output=$(launchctl list "$1" 2>&1) || status=$?
@@ -48,11 +49,11 @@ job_process() {
   [[ ! $output =~ $JOB_PROCESS ]] || printf '%s' "${BASH_REMATCH[1]}"
 }
 
-# start_job LABEL FILE: says on standard error why not. Right after the end of a job of that label launchd answers for a while that
-# the operation is in progress (37), or with a plain error (5).
+# start_job LABEL FILE: prints the reason of a failure on standard error. Right after the end of a job with that
+# label launchd reports for a while that the operation is in progress (37), or a general error (5).
 start_job() {
   local poll status
-  launchctl enable "system/$1" || true   # somebody may have disabled it for good
+  launchctl enable "system/$1" || true   # it may have been disabled permanently
   for ((poll = 0; poll < BUSY_POLLS; poll++)); do
     status=0
     launchctl bootstrap system "$2" || status=$?
@@ -62,14 +63,14 @@ start_job() {
   return "$status"
 }
 
-# stop_job LABEL: status 1 when it is still there after some time.
+# stop_job LABEL: status 1 when it still exists after the time limit.
 stop_job() {
   local poll status
   for ((poll = 0; poll < STOP_POLLS; poll++)); do
     status=0
     job_process "$1" >/dev/null || status=$?
     ((status != 1)) || return 0
-    # It comes back before a slow job has gone.
+    # bootout may return before a slow job has ended.
     if ((poll % 50 == 0)); then
       launchctl bootout "system/$1" || true
     else

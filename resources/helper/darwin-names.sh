@@ -1,8 +1,8 @@
 
 # ---- macOS: names that transports need ---------------------------------------------------------------------
-# Some transports look up a host before Tor has a circuit. The system's look-ups go to Tor by then, and on a Mac a
-# process cannot be given other name servers, so these few names are looked up before the switch and stand in the
-# system's list of hosts while the session lasts.
+# Some transports look up a host before Tor has a circuit. DNS already goes to Tor then, and on macOS a single
+# process cannot have other name servers. So the helper looks up these few names before the switch, and keeps them
+# in the system's list of hosts during the session.
 
 readonly NAMES_ENTRY=25-names
 readonly HOSTS=/private/etc/hosts
@@ -34,7 +34,7 @@ print_names() {
   done
 }
 
-# own_hosts: prints what our block of the list of hosts holds.
+# own_hosts: prints the helper's block of the list of hosts.
 own_hosts() {
   local line inside=''
   while IFS= read -r line || [[ -n $line ]]; do
@@ -46,7 +46,7 @@ own_hosts() {
   done <"$HOSTS"
 }
 
-# read_names: sets NAMES_TEXT. A name that is not found keeps what a session under way knows of it.
+# read_names: sets NAMES_TEXT. A name that is not found keeps its address from the running session.
 read_names() {
   local name line address addresses found known count=0
   NAMES_TEXT=''
@@ -74,8 +74,8 @@ read_names() {
   done < <(print_names)
 }
 
-# hosts_text: sets HOSTS_TEXT to the list of hosts with our block taken out, byte for byte; a line end that was put
-# before the block goes with it.
+# hosts_text: sets HOSTS_TEXT to the list of hosts without the helper's block, byte for byte; a line end that was
+# added before the block is removed with it.
 HOSTS_TEXT=''
 hosts_text() {
   local text begin=$HOSTS_BEGIN$'\n' end=$HOSTS_END$'\n' joined
@@ -94,7 +94,7 @@ hosts_text() {
 
 write_hosts() { write_file "$HOSTS" 0644 root "$1"; }
 
-# put_names: replaces our block.
+# put_names: replaces the helper's block.
 put_names() {
   local joined=0
   undo_entry "$NAMES_ENTRY" || true
@@ -107,7 +107,7 @@ put_names() {
   write_hosts "$HOSTS_TEXT$HOSTS_BEGIN"$'\n'"$NAMES_TEXT$HOSTS_END"$'\n' || die "The file $HOSTS cannot be written."
 }
 
-# undo_names: nothing is written where no block of ours stands.
+# undo_names: writes nothing when the file has no block of the helper.
 undo_names() {
   [[ -f $HOSTS ]] && grep -qxF -- "$HOSTS_BEGIN" "$HOSTS" || return 0
   hosts_text && write_hosts "$HOSTS_TEXT" && return 0

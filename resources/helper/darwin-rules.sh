@@ -1,18 +1,18 @@
 
 # ---- macOS: firewall rules ---------------------------------------------------------------------------------
-# What goes into our anchor. Our anchor is asked before everybody else's and every rule that decides is "quick", so
-# that nobody's later "pass" opens what is closed here.
+# The content of the helper's anchor. pf evaluates it before all other anchors, and every deciding rule is "quick",
+# so that no later "pass" opens what is closed here.
 
 readonly ANCHOR=veldmark
 
-# The local network is these ranges and never what a route says: a hostile network that announces public
+# The local network is always these ranges, independent of routes: a hostile network that announces public
 # addresses as its own gains nothing.
 readonly LAN4="10.0.0.0/8, 172.16.0.0/12, 192.168.0.0/16, 169.254.0.0/16"
 readonly LAN6="fe80::/10, fc00::/7"
 readonly LOOKUP_PORTS="53, 137, 138, 139, 853, 5353, 5355"
 
-# print_rules_head TOR_UID USER_UID: look-ups that the system sends to this computer reach Tor's port. Tor's control
-# port opens for root, the session's user and Tor only.
+# print_rules_head TOR_UID USER_UID: DNS lookups that the system sends to this computer are redirected to Tor's
+# port. Tor's control port is open only for root, the session's user and Tor.
 print_rules_head() {
   local users="0, $1"
   [[ $2 == 0 ]] || users="$users, $2"
@@ -24,7 +24,7 @@ pass quick on lo0 all no state
 END
 }
 
-# print_proxy_rules TOR_UID USER_UID: everything may leave, but look-ups that go past Tor are refused.
+# print_proxy_rules TOR_UID USER_UID: everything may leave, but DNS lookups that bypass Tor are refused.
 print_proxy_rules() {
   print_rules_head "$1" "$2"
   cat <<END
@@ -33,10 +33,11 @@ block return out quick proto { tcp, udp } from any to any port 53
 END
 }
 
-# print_strict_rules TOR_UID USER_UID LAN UDP GROUP: nothing leaves but Tor's own traffic, and what a network wants to be joined: leases, and
-# neighbours, which switches pass on to whoever has reported (MLD; 143 is the report of its second version). The kernel writes a device's
-# number into link-local addresses, ff02::1:2 is ff02:4::1:2 there, hence whole ranges. LAN 1 opens the local
-# network; UDP 1 lets Tor's account send UDP (snowflake); GROUP is the group of the applications without Tor.
+# print_strict_rules TOR_UID USER_UID LAN UDP GROUP: only Tor's own traffic leaves, and the messages needed to join
+# a network: leases, and neighbours, which switches pass on to computers that have reported (MLD; 143 is the report
+# of its second version). The kernel writes a device's number into link-local addresses (ff02::1:2 is ff02:4::1:2
+# there), hence whole ranges. LAN 1 opens the local network; UDP 1 lets Tor's account send UDP (snowflake); GROUP
+# is the group of the applications that bypass Tor.
 print_strict_rules() {
   print_rules_head "$1" "$2"
   printf 'pass out quick proto tcp from any to any user %s flags S/SA keep state\n' "$1"
@@ -67,8 +68,8 @@ block drop in quick all
 END
 }
 
-# print_referring KIND TEXT: the main rules of one kind, "filter" or "nat", as pfctl printed them, with our anchor
-# before everybody else's. Normalising and dummynet come before filtering.
+# print_referring KIND TEXT: the main rules of one kind, "filter" or "nat", as pfctl printed them, with the
+# helper's anchor before all others. Normalising and dummynet come before filtering.
 print_referring() {
   local line put=''
   if [[ $1 == nat ]]; then
@@ -86,7 +87,7 @@ print_referring() {
   [[ -n $put ]] || printf 'anchor "%s"\n' "$ANCHOR"
 }
 
-# print_without TEXT: main rules without our anchor.
+# print_without TEXT: the main rules without the helper's anchor.
 print_without() {
   local line
   while IFS= read -r line; do

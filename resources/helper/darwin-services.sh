@@ -1,19 +1,19 @@
 
 # ---- macOS: DNS and proxy of the network services ----------------------------------------------------------
-# Every active service asks this computer for names and sends what it can through Tor's SOCKS port. What each had
-# before is in a journal entry of its own, and goes back as it was. networksetup is slow and says much of what goes
-# wrong on standard output with status 0, so what it was told is read again.
+# Every active service uses this computer as its name server and Tor's SOCKS port as its proxy. A separate journal
+# entry keeps the former settings of each, and they are restored exactly. networksetup is slow, and reports many
+# errors on standard output with status 0, so its settings are read again after writing.
 
 readonly SERVICE_ENTRY=30-service   # a number follows, one file per service
 readonly MAX_SERVICES=64
 readonly OUR_DNS=127.0.0.1 OUR_HOST=127.0.0.1
 
-# ask VERB [SERVICE]: sets its caller's text to the answer. Status 1 when the answer is a refusal, which may come with
-# status 0.
+# ask VERB [SERVICE]: sets the caller's variable `text` to the answer. Status 1 when the answer is a refusal, which
+# may come with status 0.
 ask() { text=$(networksetup "$@") && [[ $text != *"** Error"* && $text != *"not a recognized"* ]]; }
 
-# read_services all|active: sets SERVICES to the names; all includes those that are switched off. Status 1 when they
-# cannot be told, which is not the same as there being none.
+# read_services all|active: sets SERVICES to the names; all includes disabled services. Status 1 when they cannot
+# be read, which differs from an empty list.
 SERVICES=()
 read_services() {
   local line text
@@ -39,13 +39,14 @@ has_service() {
   return 1
 }
 
-# current_location: prints the name of the network location. Status 1 when it cannot be told.
+# current_location: prints the name of the network location. Status 1 when it is unknown.
 current_location() {
   local text
   ask -getcurrentlocation && [[ -n $text ]] && printf '%s' "$text"
 }
 
-# read_list TEXT: sets LIST to the lines of an answer; to none when the answer is a sentence that there are none.
+# read_list TEXT: sets LIST to the lines of an answer; to an empty list when the answer is a sentence that there
+# are none.
 LIST=()
 read_list() {
   local line
@@ -58,7 +59,7 @@ read_list() {
   done <<<"$1"
 }
 
-# value_of TEXT KEY: prints what follows "KEY: " in an answer.
+# value_of TEXT KEY: prints the text after "KEY: " in an answer.
 value_of() {
   local line
   while IFS= read -r line; do
@@ -72,7 +73,7 @@ value_of() {
   return 1
 }
 
-# read_service NAME: sets what a service has now. Status 1 when that cannot be told.
+# read_service NAME: reads the present settings of a service. Status 1 when they are unknown.
 HAS_DNS=() HAS_BYPASS=() HAS_SOCKS='' HAS_HOST='' HAS_PORT='' HAS_WEB='' HAS_SECURE='' HAS_AUTO='' HAS_DISCOVERY=''
 read_service() {
   local text line
@@ -98,8 +99,9 @@ is_ours() {
     $HAS_PORT == "$SOCKS_PORT" ]]
 }
 
-# note_service NAME LOCATION: the journal entry of what was read, unless the service has one. Without an entry our own
-# settings are what a lost session left; then what a service has when it is new is noted.
+# note_service NAME LOCATION: writes a journal entry of the settings just read, unless the service has one. Without
+# an entry, the helper's own settings are left from a lost session; then the defaults of a new service are
+# recorded.
 note_service() {
   local number name line lines
   for ((number = 0; number < MAX_SERVICES; number++)); do
@@ -118,22 +120,23 @@ note_service() {
   journal_put "$name" "${lines[@]}"
 }
 
-# The user's own exceptions would go past Tor, so only this computer itself is excepted, and with LAN 1 the local
-# network as far as the list of exceptions can tell it.
+# The user's own exceptions would bypass Tor, so only this computer itself is excepted and, with LAN 1, the local
+# network as far as the list of exceptions can express it.
 OUR_BYPASS=()
 choose_bypass() {
   OUR_BYPASS=(localhost 127.0.0.1 ::1)
   [[ $1 != 1 ]] || OUR_BYPASS=(localhost 127.0.0.1 ::1 '*.local' 10/8 172.16/12 192.168/16 169.254/16)
 }
 
-# net WORD...: networksetup, quiet; remembers that something was changed.
+# net WORD...: networksetup without output; records that a setting was changed.
 CHANGED=''
 net() {
   CHANGED=1
   networksetup "$@" >/dev/null
 }
 
-# set_service NAME: from what it has to what we want. Other proxies would come before Tor's, so they are switched off.
+# set_service NAME: changes the present settings to the helper's. Other proxies would take precedence over Tor's,
+# so they are switched off.
 set_service() {
   CHANGED=''
   if ! [[ ${#HAS_DNS[@]} == 1 && ${HAS_DNS[0]-} == "$OUR_DNS" ]]; then
@@ -154,7 +157,7 @@ set_service() {
     [[ $HAS_WEB$HAS_SECURE$HAS_AUTO != *Yes* && $HAS_DISCOVERY != On ]]
 }
 
-# primary_service: prints the name of the service that the default route goes through; nothing where there is none.
+# primary_service: prints the name of the service of the default route; nothing without one.
 primary_service() {
   local key value id='' rest
   while read -r key rest value; do
@@ -166,8 +169,8 @@ primary_service() {
   done < <(scutil <<<"show Setup:/Network/Service/$id" || true)
 }
 
-# put_services LAN: journal and switch every active service, also one that came since. A service that cannot be read or set, as those of a
-# VPN or of the company's may be, is left as it is, unless traffic goes through it now, or there is no other.
+# put_services LAN: records and switches every active service, also a new one. A service that cannot be read or
+# set, such as a VPN's or a managed one, stays unchanged, unless it carries the traffic now, or there is no other.
 put_services() {
   local name location reason='' primary put=0
   choose_bypass "$1"
@@ -191,7 +194,7 @@ put_services() {
   flush_names
 }
 
-# flush_names: forgets what was looked up before.
+# flush_names: clears the DNS caches.
 flush_names() {
   dscacheutil -flushcache || true
   killall -HUP mDNSResponder || true
@@ -199,8 +202,8 @@ flush_names() {
 
 on_off() { if [[ $1 == Yes || $1 == On ]]; then printf on; else printf off; fi; }
 
-# is_as_noted: whether the service that was read is as the entry that was read tells. Uses its caller's dns, bypass, host and state. A host
-# that was empty and cannot be emptied again does nothing while the proxy is off.
+# is_as_noted: whether the settings just read equal the current entry. Uses the caller's dns, bypass, host and
+# state. An empty host that cannot be made empty again has no effect while the proxy is off.
 is_as_noted() {
   [[ $HAS_SOCKS == "$state" && (-z $host || $HAS_HOST == "$host") ]] &&
     [[ ${HAS_DNS[*]-} == "${dns[*]-}" && ${HAS_BYPASS[*]-} == "${bypass[*]-}" ]] &&
@@ -208,7 +211,8 @@ is_as_noted() {
     [[ $HAS_AUTO == "$(journal_value auto)" && $HAS_DISCOVERY == "$(journal_value discovery)" ]]
 }
 
-# restore_service NAME: what the entry that was read tells of. Nothing is written to one that never took our settings.
+# restore_service NAME: restores the settings of the current entry. Writes nothing to a service that never got the
+# helper's settings.
 restore_service() {
   local -a dns bypass
   local line host port state
@@ -244,9 +248,9 @@ restore_service() {
   read_service "$1" && is_as_noted
 }
 
-CURRENT_LOCATION='' SERVICES_READ=0   # what undo_services has asked for all of them
+CURRENT_LOCATION='' SERVICES_READ=0   # read once by undo_services for all entries
 
-# undo_service: status 1: not all of it could be put back. 3: it cannot be put back now, but the network is open.
+# undo_service: status 1: not everything could be restored. 3: it cannot be restored now, but the network is open.
 undo_service() {
   local name location
   name=$(journal_value service) || return 0
@@ -260,7 +264,7 @@ undo_service() {
     return 3
   fi
   if ((SERVICES_READ)); then
-    # One that is gone took its settings with it; one with another name is found below.
+    # A removed service has no settings any more; a renamed one is found below.
     has_service "$name" || return 0
     restore_service "$name" && return 0
   fi
@@ -268,15 +272,15 @@ undo_service() {
   return 1
 }
 
-# undo_services NOTED: every entry; then whatever still has exactly our settings, which are of no use without Tor: a
-# service that was given another name, or whose entry was lost. Nothing is looked at where nothing of ours was noted:
-# NOTED is empty and there is no entry.
+# undo_services NOTED: undoes every entry. Then it clears every service that still has exactly the helper's
+# settings, which are useless without Tor: a renamed service, or one whose entry was lost. Reads nothing when the
+# helper has recorded nothing: NOTED is empty and there is no entry.
 undo_services() {
   local path reason='' status worst=0 noted=$1
   CURRENT_LOCATION='' SERVICES_READ=0
   for path in "$JOURNAL/$SERVICE_ENTRY"-[0-9]*; do
     [[ -e $path && $path != *.new ]] || continue
-    # Asked once: networksetup is slow, and the program waits for us at its end.
+    # Read only once: networksetup is slow, and the program waits for the helper at its end.
     [[ -n $CURRENT_LOCATION ]] || CURRENT_LOCATION=$(current_location) || CURRENT_LOCATION=''
     ((SERVICES_READ)) || { read_services all && SERVICES_READ=1; } || true
     noted=1 status=0 UNDONE=''
@@ -287,7 +291,7 @@ undo_services() {
     fi
   done
   if [[ -n $noted ]]; then
-    # While an entry is left, its service is not ours to guess about.
+    # While an entry is left, its service must not be guessed about.
     ((worst == 1 || worst == 3)) || sweep_services
     flush_names
   fi
@@ -299,7 +303,7 @@ sweep_services() {
   local name
   read_services all || return 0
   for name in ${SERVICES[@]+"${SERVICES[@]}"}; do
-    # The first of seven questions answers most.
+    # The first of seven queries decides most cases.
     [[ $(networksetup -getdnsservers "$name" || true) == "$OUR_DNS" ]] || continue
     if read_service "$name" && is_ours; then
       net -setsocksfirewallproxy "$name" '' '' off || true

@@ -15,7 +15,7 @@ darwin_connect() {
   ready_torrc
   boot=$(boot_id) || die "The firewall's state cannot be read."
 
-  # From here on the network changes. A strict session in force stays so until its successor stands.
+  # From here on the network changes. A running strict session stays in force until its successor is active.
   former=$(read_marker)
   if [[ $former == strict ]]; then
     kill_switch_stands || status=$?
@@ -43,7 +43,7 @@ darwin_connect() {
   start_tor
   put_services "$OPT_LAN"
   if [[ $mode == proxy ]]; then
-    # Also what is left of a strict session whose rules have gone: its watcher and its note.
+    # Also removes the rest of a strict session whose rules are gone: its watcher and its note.
     undo_entry "$WATCHER_ENTRY" || die "$UNDONE"
     [[ $former != strict ]] || put_firewall proxy
   fi
@@ -52,9 +52,9 @@ darwin_connect() {
 
 JOURNAL_TRUSTED=1
 
-# undo_entry NAME: puts back what the entry tells of and removes it. A torn entry tells nothing, and what can be
-# put back without it is put back. Status 1 with UNDONE set when something could not be put back and the entry stays;
-# 3, likewise, when that does not keep the network from being open; 2 when the entry was torn and is gone.
+# undo_entry NAME: restores the settings of an entry and removes it. A torn entry contains nothing usable; then
+# only what needs no entry is restored. Status 1 with UNDONE set when something could not be restored and the entry
+# stays; 3, likewise, when the network is open all the same; 2 when the entry was torn and is removed.
 undo_entry() {
   local name=$1 status=0 done=0
   JOURNAL_LINES=()
@@ -77,7 +77,8 @@ undo_entry() {
   fi
 }
 
-# undo_session: everything, backwards, the firewall last; goes on when a step fails. Keeps the first reason.
+# undo_session: undoes everything in reverse order, the firewall last; continues after a failed step. Keeps the
+# first reason.
 undo_session() {
   local name status=0 reason='' open=1 noted=''
   [[ ! -e $MARKER ]] || noted=1
@@ -97,8 +98,8 @@ undo_session() {
   [[ -z $reason ]]
 }
 
-# darwin_fix-dns: puts back what somebody changed under a running session: the services' settings, also of services
-# that came since, and the rules, so that also a flushed kill switch stands again.
+# darwin_fix-dns: restores settings that were changed during a running session: those of the services, also of new
+# ones, and the rules, so that a flushed kill switch is active again.
 darwin_fix-dns() {
   (($# == 0)) || die "The verb fix-dns takes no options."
   need_programs perl pfctl networksetup dscacheutil sysctl stat
@@ -115,7 +116,7 @@ darwin_fix-dns() {
   put_services "$(session_lan)"
 }
 
-# session_lan: whether the session lets the local network through, as its proxy exceptions have it.
+# session_lan: whether the session opens the local network, according to its rules.
 session_lan() {
   if [[ -f $RULES && $(<"$RULES") == *"pass out quick inet from any to { 10.0.0.0/8"* ]]; then printf 1; else printf 0; fi
 }
@@ -124,10 +125,10 @@ darwin_disconnect() {
   local status=0
   parse_disconnect "$@"
   need_programs pfctl networksetup launchctl
-  # A lock less is better than a network that nobody can restore.
+  # A missing lock is better than a network that cannot be restored.
   if command -v perl >/dev/null; then take_lock; fi
   trap finish EXIT
-  # What others could write is no record of ours.
+  # A file that others could write is not a trusted record.
   if [[ -e $JOURNAL || -L $JOURNAL ]]; then
     safe_folders / /Library "/Library/Application Support" "$BASE" "$JOURNAL" || status=$?
     ((status != 2)) || die "The notes of what to restore cannot be read."

@@ -1,39 +1,39 @@
 
 # ---- macOS: folders, lock, accounts ------------------------------------------------------------------------
-# Everything here and in the other parts keeps to the bash 3.2, the BSD tools and the perl that macOS has.
+# All parts for macOS use only the bash 3.2, BSD tools and perl of macOS.
 
 readonly DNS_PORT=9053
-end_run() { :; }   # nothing of a run outlives it
+end_run() { :; }   # no process of a run outlives it
 readonly BASE="/Library/Application Support/Veldmark"
 readonly STATE=$BASE/state        # 0755; holds the session marker
 readonly MARKER=$STATE/active     # 0644; "strict" or "proxy": the network is set up for Tor
-readonly JOURNAL=$BASE/journal    # 0700; what was there before each change, one file per change
+readonly JOURNAL=$BASE/journal    # 0700; the settings before each change, one file per change
 readonly INSTALLED=$BASE/bin      # 0755; the copy that runs without a password
 readonly TOR_BASE=/private/var/db/veldmark   # 0755
 readonly RUN=/var/db/veldmark/run            # 0755; Tor's configuration, data and logs; /var is a link
 readonly DATA=$RUN/data                      # 0700, Tor's account; kept between sessions so that entry guards are
 readonly PROGRAMS=/var/db/veldmark/programs  # 0755; approved copies, SHA-256/NAME
-readonly ASKED=$BASE/asked        # 0600; what the running session was asked for
+readonly ASKED=$BASE/asked        # 0600; the options of the running session
 readonly PROGRAM_PLACES='^/(usr|opt)/.'
 readonly LOCK=/private/var/db/veldmark.lock
 readonly LOCK_SECONDS=20
-readonly SUDO_DRAFT=/private/var/db/veldmark.sudoers   # 0440; checked here first
+readonly SUDO_DRAFT=/private/var/db/veldmark.sudoers   # 0440; the rule is checked here first
 
 readonly TOR_ACCOUNT=_veldmark
 readonly FIRST_ID=350 LAST_ID=499   # below 500 accounts are hidden; the system's own end before 350
 TOR_UID='' TOR_GID=''
 CALLER_NAME='' CALLER_GID='' CALLER_HOME=''
 
-# DESCRIPTOR SECONDS: the lock belongs to the open file, which is this shell's as well, so it outlives perl.
+# DESCRIPTOR SECONDS: the lock belongs to the open file description, which this shell shares, so it outlives perl.
 # shellcheck disable=SC2016
 readonly HOLD='
 open(my $lock, q(>&=), shift) or exit 1;
 my $end = time() + shift;
 until (flock($lock, 6)) { exit 1 if time() > $end; select(undef, undef, undef, 0.02); }'
 
-# take_lock: one helper at a time. Descriptor 9 stays open for the whole run, and in those children of root that
-# a kill of this shell may leave behind, so that the next run waits for them.
-# Ctrl-C and a closed terminal must not leave the network half-way.
+# take_lock: one helper at a time. Descriptor 9 stays open for the whole run, also in root's children that survive
+# a kill of this shell, so that the next run waits for them. Ctrl-C and a closed terminal must not leave the
+# network half-way.
 take_lock() {
   trap '' INT TERM HUP QUIT PIPE TSTP
   cd /
@@ -42,8 +42,8 @@ take_lock() {
   perl -e "$HOLD" 9 "$LOCK_SECONDS" || die "Another run of the helper is still working. Try again in a moment."
 }
 
-# find_caller: the administrator prompt of macOS runs us as root and does not say for whom. Then it is for the user who
-# sits at the screen; for root itself where nobody does.
+# find_caller: the administrator prompt of macOS runs the helper as root and does not report the user. Then the
+# caller is the user at the screen; without one, root itself.
 find_caller() {
   local key value rest
   [[ -n $PROMPTED && $CALLER_UID == 0 ]] || return 0
@@ -52,24 +52,24 @@ find_caller() {
   done < <(scutil <<<"show State:/Users/ConsoleUser" || true)
 }
 
-# boot_id: tells one run of the computer from the next.
+# boot_id: identifies one run of the computer.
 boot_id() {
   local id
   id=$(sysctl -n kern.bootsessionuuid) && [[ -n $id ]] || return 1
   printf '%s' "$id"
 }
 
-# Patterns with blanks and quotes stand in variables: bash 3.2 reads them differently in place.
+# Patterns with blanks and quotes are in variables: bash 3.2 parses them differently in place.
 readonly SAFE_FOLDER='^[0-7]*[0145][0145] 0 Directory$'
 readonly ALLOWING='^ *[0-9]+: .* allow '
 
-# folder_is_safe "MODE UID KIND": a real folder of root's that nobody else can write.
+# folder_is_safe "MODE UID KIND": a real folder owned by root that no other account can write.
 folder_is_safe() {
   [[ $1 =~ $SAFE_FOLDER ]]
 }
 
-# safe_folders PATH...: 1 when one is not safe, by its mode or by an access list that lets somebody do something;
-# 2 when that cannot be told.
+# safe_folders PATH...: status 1 when one is not safe, by its mode or by an access list that allows something; 2
+# when unknown.
 safe_folders() {
   local line modes lists
   modes=$(print_modes "$@") && lists=$(ls -lde -- "$@") || return 2
@@ -81,7 +81,7 @@ safe_folders() {
   done <<<"$lists"
 }
 
-# folders_are_safe: true when nobody but root could have put anything into our folders. Changes nothing.
+# folders_are_safe: true when only root could have put files into the helper's folders. Changes nothing.
 folders_are_safe() {
   safe_folders / /Library "/Library/Application Support" "$BASE" "$STATE" "$JOURNAL" /private /private/var \
     /private/var/db "$TOR_BASE" "$TOR_BASE/run"
@@ -100,7 +100,7 @@ ready_folders() {
   ready_data_folder
 }
 
-# Tor refuses a data folder of somebody else's; one left by a former account cannot be used any more.
+# Tor refuses a data folder of another account; one left by a former account is useless.
 ready_data_folder() {
   if [[ -e $DATA || -L $DATA ]] && [[ $(print_modes "$DATA") != *" $TOR_UID Directory" ]]; then
     rm -rf -- "$DATA"
@@ -144,13 +144,13 @@ free_id() {
   return 1
 }
 
-# put_record RECORD KEY VALUE: unless it is so.
+# put_record RECORD KEY VALUE: writes the value unless it is already set.
 put_record() {
   [[ $(record_value "$1" "$2") == "$3" ]] || dscl . -create "$1" "$2" "$3"
 }
 
-# ready_group NAME TEXT: makes a group without members and prints its number. Each step may be the one that an
-# earlier run was killed at.
+# ready_group NAME TEXT: creates a group without members and prints its number. An earlier run may have been killed
+# at any of the steps.
 ready_group() {
   local id
   id=$(record_value "/Groups/$1" PrimaryGroupID)
@@ -178,7 +178,7 @@ make_account() {
   gid=$(ready_group "$TOR_ACCOUNT" "Tor for Veldmark") || return 1
   uid=$TOR_UID
   [[ -n $uid ]] || uid=$(free_id) || return 1
-  # The number comes last: an account that has one is whole.
+  # The number comes last: an account with a number is complete.
   put_record "$user" RealName "Tor for Veldmark" && put_record "$user" Password '*' &&
     put_record "$user" UserShell /usr/bin/false && put_record "$user" NFSHomeDirectory /var/empty &&
     put_record "$user" IsHidden 1 && put_record "$user" PrimaryGroupID "$gid" && put_record "$user" UniqueID "$uid"
@@ -195,7 +195,8 @@ ready_account() {
   [[ $TOR_UID != 0 && $TOR_UID != "$CALLER_UID" ]] || die "The account $TOR_ACCOUNT must be one of its own."
 }
 
-# SECONDS UID GID GROUPS COMMAND...: gives up root for good, and is killed when it takes longer; 0 seconds: never.
+# SECONDS UID GID GROUPS COMMAND...: gives up root permanently. The command is killed after SECONDS; 0 means no
+# limit.
 # shellcheck disable=SC2016
 readonly BECOME='
 use POSIX ();
@@ -209,7 +210,8 @@ alarm $seconds;
 exec { $ARGV[0] } @ARGV;
 exit 127;'
 
-# as_tor / as_caller SECONDS COMMAND...: with that account's rights only, a clean environment, no descriptor of ours.
+# as_tor / as_caller SECONDS COMMAND...: runs with that account's rights only, a clean environment, and none of the
+# helper's descriptors.
 as_account() {
   local uid=$1 gid=$2 groups=$3 home=$4 seconds=$5
   shift 5
@@ -221,7 +223,8 @@ as_tor() {
   as_account "$TOR_UID" "$TOR_GID" "$TOR_GID" "$DATA" "$seconds" "$@"
 }
 
-# take_output SECONDS BYTES: so much of standard input at most; who keeps it open any longer is not waited for.
+# take_output SECONDS BYTES: reads at most BYTES of standard input; does not wait for a writer that keeps it open
+# longer.
 take_output() { perl -e 'alarm shift; exec { $ARGV[0] } @ARGV' "$1" head -c "$2"; }
 
 # The kernel keeps at most 16 groups, the first of which is the effective one.
@@ -242,8 +245,8 @@ as_caller() {
 
 # ---- Primitives of the shared parts ----
 
-# NEW TARGET FOLDER: sync(2) and fsync(2) of macOS end when the drive has the data, which may still lose it with the power; F_FULLFSYNC
-# (51) also has the drive write it. Not every file system knows that.
+# NEW TARGET FOLDER: sync(2) and fsync(2) of macOS return when the drive has the data, which a power cut may still
+# lose; F_FULLFSYNC (51) also makes the drive write it. Not every file system supports it.
 # shellcheck disable=SC2016,SC2089
 readonly PUT='
 my ($new, $target, $folder) = @ARGV;
@@ -253,7 +256,8 @@ for my $path ($new, $folder) {
   rename($new, $target) or exit 1 if $path eq $new;
 }'
 
-# put_in_place NEW TARGET: NEW replaces TARGET, in the same folder; on disk when it returns 0. A network is restored without perl, too.
+# put_in_place NEW TARGET: NEW replaces TARGET, in the same folder; on disk when it returns 0. Works without perl
+# too, so that a network can always be restored.
 put_in_place() {
   [[ ! -d $2 || -L $2 ]] || return 1
   if command -v perl >/dev/null; then
@@ -263,14 +267,15 @@ put_in_place() {
   fi
 }
 
-# print_modes PATH...: "MODE UID KIND" for each, a line each; fails when one is missing. Links are not followed,
-# but for one at the end with a "/" after it.
+# print_modes PATH...: "MODE UID KIND" for each, one line each; fails when one is missing. Links are not followed,
+# except a last link with a "/" after it.
 print_modes() { stat -f '%Lp %u %HT' -- "$@"; }
 
-# real_path PATH: free of links; fails when it does not exist.
+# real_path PATH: the path without links; fails when it does not exist.
 real_path() { [[ -e $1 ]] && readlink -f -- "$1"; }
 
-# on_own_mount PATH: volumes that users attach appear below /Volumes, and are mounted without setuid programs elsewhere.
+# on_own_mount PATH: volumes that users attach appear below /Volumes; elsewhere they are mounted without setuid
+# programs.
 on_own_mount() {
   local volume line
   volume=$(df -P -- "$1" | tail -n 1) && volume=/${volume#*% */} || return 1

@@ -1,14 +1,15 @@
 
 # ---- macOS: running Tor ------------------------------------------------------------------------------------
-# Tor is a job of launchd's, in the account _veldmark and with its process group, so its transports die with it. It is
-# known by its label. Its description lies in our own folder, so that nothing starts after a restart of the computer.
+# Tor is a launchd job, in the account _veldmark and with its process group, so its transports end with it. Its
+# label identifies it. Its description is in the helper's own folder, so that it does not start after a restart of
+# the computer.
 
 readonly TOR_ENTRY=20-tor
 readonly TOR_LABEL=veldmark.tor
 readonly TOR_JOB=$RUN/tor.plist           # 0644
-readonly LAUNCHD_OUT=$RUN/launchd.out     # what Tor prints before its log stands
-readonly SPAWN_POLLS=20    # likewise: launchd has a process for it by then
-readonly START_POLLS=100   # of about 0.1 s: Tor opens its control port within 10 s or it failed
+readonly LAUNCHD_OUT=$RUN/launchd.out     # Tor's output before it opens its log
+readonly SPAWN_POLLS=20    # of about 0.1 s: launchd has a process for it by then
+readonly START_POLLS=100   # of about 0.1 s: Tor opens its control port within 10 s or has failed
 
 print_tor_job() {
   print_job "$TOR_LABEL" "$OPT_TOR" -f "$TORRC" <<END
@@ -46,8 +47,8 @@ tor_listens() {
   held=$(lsof -nP -a -p "$1" -iTCP:"$CONTROL_PORT" -sTCP:LISTEN -t) && [[ $held == "$1" ]]
 }
 
-# ready_logs: empties the log files. Tor writes them by its group, the session's user alone may read them: the user's own
-# group may be everybody's.
+# ready_logs: empties the log files. Tor writes them through its group, and only the session's user may read them:
+# the user's own group may include all users.
 ready_logs() {
   rm -f -- "$NOTICES" "$LAUNCHD_OUT" && : >"$NOTICES" && : >"$LAUNCHD_OUT" &&
     chown -- "$CALLER_UID:$TOR_GID" "$NOTICES" "$LAUNCHD_OUT" && chmod -- 0460 "$NOTICES" "$LAUNCHD_OUT"
@@ -74,7 +75,7 @@ start_tor() {
     status=0
     process=$(job_process "$TOR_LABEL") || status=$?
     ((status != 1)) || die "Tor did not start: $(tor_failure)"
-    # It opens all its ports before it fails for one of them.
+    # Tor opens all its ports before it fails because of one of them.
     if [[ -n $process ]]; then
       had=1
       if tor_listens "$process" && [[ $(<"$LAUNCHD_OUT")$(<"$NOTICES") != *"Could not bind to"* ]]; then
@@ -88,7 +89,7 @@ start_tor() {
   die "Tor did not open its control port in time."
 }
 
-# undo_tor: needs no note, because launchd knows the job by its label.
+# undo_tor: needs no record, because launchd knows the job by its label.
 undo_tor() {
   stop_job "$TOR_LABEL" && rm -f -- "$TOR_JOB" && return 0
   UNDONE="Tor could not be stopped."

@@ -1,18 +1,18 @@
 
 # ---- macOS: the watcher over the firewall ------------------------------------------------------------------
-# Other programs load the main rules anew as a matter of course, and then nothing refers to ours. While a strict session
-# lasts, a job of root's looks every second or two, puts back what is missing and leaves a note for the application.
-# launchd starts it again when somebody ends it. It ends at disconnect. What it runs is written into our own folder, so
-# that it depends on no file that anybody else could have changed since.
+# Other programs routinely reload the main rules, which removes the reference to the helper's anchor. During a
+# strict session a root job checks every second or two, restores missing rules and writes a note for the
+# application. launchd restarts the job when it is killed. It ends at disconnect. Its script is written into the
+# helper's own folder, so that it depends on no file that another account could have changed since.
 
 readonly WATCHER_ENTRY=15-watcher
 readonly WATCH_LABEL=veldmark.watch
 readonly WATCH_JOB=$RUN/watch.plist       # 0644
 readonly WATCHER=$RUN/watcher.sh          # 0600
-readonly KILL_SWITCH_NOTE=/private/var/run/veldmark.watch   # 0644; note.sh says what it holds
-readonly WATCH_SECONDS=1                  # pf does not tell of changes
+readonly KILL_SWITCH_NOTE=/private/var/run/veldmark.watch   # 0644; note.sh describes its content
+readonly WATCH_SECONDS=1                  # pf does not report changes
 
-# rules_stand: pf is on, asks our anchor first, and holds it as it was loaded.
+# rules_stand: whether pf is enabled, evaluates the helper's anchor first, and holds its rules unchanged.
 rules_stand() {
   local info filter nat now skipped
   info=$(pfctl -s info) && filter=$(list_filter) && nat=$(pfctl -s nat) && now=$(list_rules) && skipped=$(skipped_devices) || return 1
@@ -20,12 +20,12 @@ rules_stand() {
     [[ $(print_referring filter "$filter") == "$(print_normal "$filter")" ]]
 }
 
-# relock: all of it again, unless a run of the helper has changed or opened it meanwhile.
+# relock: loads everything again, unless a run of the helper has changed or opened the rules meanwhile.
 relock() {
   local word=restored
   hold_rules || return 0
   if [[ $(read_marker) == strict ]] && ! rules_stand; then
-    # In a shell of its own, which die() ends.
+    # In a subshell, which die() ends.
     (put_rules "$(<"$RULES")") || word=open
     note_rules "$word" || true
   fi
@@ -55,7 +55,7 @@ print_watcher() {
   printf 'watch_rules\nexit 0\n'
 }
 
-# print_watch_job: begun again unless it ended by itself, at the end of the session.
+# print_watch_job: launchd restarts it unless it ended by itself, at the end of the session.
 print_watch_job() {
   print_job "$WATCH_LABEL" /bin/bash -p -- "$WATCHER" <<END
 	<key>KeepAlive</key>
@@ -68,18 +68,18 @@ print_watch_job() {
 END
 }
 
-# start_watcher: what does not read back as it was loaded is no kill switch, and would be loaded again every second.
+# start_watcher: rules that read back differently are no kill switch, and would be loaded again every second.
 start_watcher() {
   undo_entry "$WATCHER_ENTRY" || true
   { kill_switch_stands && rules_stand; } || die "The firewall does not hold the rules that were loaded."
-  # The application asks as soon as we have ended, perhaps before the watcher has looked.
+  # The application reads the note as soon as the helper has ended, perhaps before the watcher's first check.
   note_rules standing || true
   { write_file "$WATCHER" 0600 root "$(print_watcher)"$'\n' && write_file "$WATCH_JOB" 0644 root "$(print_watch_job)"$'\n' &&
     journal_put "$WATCHER_ENTRY" "label $WATCH_LABEL"; } || die "The file $WATCHER cannot be written."
   start_job "$WATCH_LABEL" "$WATCH_JOB" || die "The watcher over the firewall could not be started."
 }
 
-# undo_watcher: a change of rules that it was in the middle of is done again, or undone, after it.
+# undo_watcher: a change of the rules that it interrupts is completed or undone afterwards.
 undo_watcher() {
   stop_job "$WATCH_LABEL" && rm -f -- "$WATCHER" "$WATCH_JOB" "$KILL_SWITCH_NOTE" && return 0
   UNDONE="The watcher over the firewall could not be stopped."

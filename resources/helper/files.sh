@@ -1,9 +1,9 @@
 
 # ---- Files and the journal ---------------------------------------------------------------------------------
-# The system's own part brings put_in_place, print_modes, real_path and print_sum.
+# The system's own part defines put_in_place, print_modes, real_path and print_sum.
 
 # write_file TARGET MODE OWNER TEXT: all or nothing, on disk when it returns 0. OWNER is "root" or UID:GID.
-# TARGET's folder must be root's.
+# TARGET's folder must belong to root.
 write_file() {
   local new=$1.new status=0
   [[ ! -e $new && ! -L $new ]] || rm -f -- "$new" || return 1
@@ -18,8 +18,8 @@ write_file() {
   return 1
 }
 
-# One file per change, named NN-KIND in the order of the changes; undoing goes backwards. Lines of "KEY VALUE",
-# the last one "end", so that a torn file is known.
+# One file per change, named NN-KIND in the order of the changes; undoing runs in reverse. Lines of "KEY VALUE",
+# the last one "end", so that a torn file is detected.
 
 JOURNAL_LINES=()
 
@@ -40,7 +40,7 @@ journal_read() {
   read_lines "$JOURNAL/$1"
 }
 
-# read_lines FILE: likewise, of a file that is there.
+# read_lines FILE: likewise, for an existing file.
 read_lines() {
   local line last=''
   JOURNAL_LINES=()
@@ -51,7 +51,7 @@ read_lines() {
   [[ $last == end ]] || return 2
 }
 
-# journal_value KEY: prints the value of the first such line of the entry that was read.
+# journal_value KEY: prints the value of the first such line of the current entry.
 journal_value() {
   local line
   for line in ${JOURNAL_LINES[@]+"${JOURNAL_LINES[@]}"}; do

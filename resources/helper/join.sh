@@ -1,6 +1,6 @@
 #!/bin/bash
-# join.sh SYSTEM OUTPUT: joins the parts of the root helper for SYSTEM, linux or darwin, into the one file that ships
-# there. Same parts, same bytes. What does not start with a system's name is in both.
+# join.sh SYSTEM OUTPUT: joins the parts of the root helper for SYSTEM, linux or darwin, into the one file that
+# ships there. The same parts give the same bytes. Parts without a system's name at the start are in both.
 set -euo pipefail
 export LC_ALL=C
 here=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")" && pwd)

@@ -28,7 +28,7 @@ main() {
   esac
 }
 
-# Read whole before anything runs, so that a change of the file meanwhile changes nothing.
+# bash reads all of this before it runs anything, so that a change of the file meanwhile has no effect.
 if [[ ${BASH_SOURCE[0]} == "$0" ]]; then
   main "$@"
   exit

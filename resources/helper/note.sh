@@ -1,20 +1,20 @@
 
-# ---- What the watcher tells the application ----------------------------------------------------------------
-# The system's own part brings KILL_SWITCH_NOTE, a file that everybody may read, in a folder that a restart of the
-# computer empties. It holds "WORD COUNT SINCE": standing (the kernel holds the rules as they were loaded), restored
-# (they were missing and are back) or open (they are missing and could not be put back); how often they were missed;
-# since when, in seconds since 1970. The file's own time is that of the watcher's last sign of life, which looks again every
-# few seconds at the latest; so what is old tells nothing.
+# ---- The watcher's note for the application ----------------------------------------------------------------
+# The system's own part defines KILL_SWITCH_NOTE, a file that every user can read, in a folder that a restart of
+# the computer empties. It contains "WORD COUNT SINCE". WORD: standing (the kernel holds the rules as they were
+# loaded), restored (they were missing and are back) or open (they are missing and could not be restored). COUNT:
+# how often they were missing. SINCE: seconds since 1970. The file's own time is that of the watcher's last check.
+# The watcher checks at least every few seconds, so an old note means nothing.
 
 WORD='' MISSED=0 SINCE=0 NOTED=''
 
-# note_rules WORD: what a look has found: standing, restored or open.
+# note_rules WORD: records the result of a check: standing, restored or open.
 note_rules() {
   local text word=$1
   case $WORD,$word in
-  open,standing) word=restored ;;       # somebody else has put them back
-  restored,standing) word=restored ;;   # and there they stand
-  open,*) ;;                            # still the same miss
+  open,standing) word=restored ;;       # another program has restored them
+  restored,standing) word=restored ;;   # still restored
+  open,*) ;;                            # still the same loss
   *,restored | *,open) MISSED=$((MISSED + 1)) WORD='' ;;
   esac
   if [[ $word != "$WORD" ]]; then

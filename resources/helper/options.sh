@@ -1,6 +1,6 @@
 
 # ---- Options -----------------------------------------------------------------------------------------------
-# Every value is checked against one strict pattern before anything is touched.
+# Every value is checked against one strict pattern before any change.
 
 OPT_TOR='' OPT_HASH='' OPT_STRICT='' OPT_LAN='' OPT_EXIT='' OPT_SEPARATE=''
 OPT_BRIDGES=()
@@ -14,8 +14,8 @@ readonly MAX_VALUE=4096   # bytes
 readonly MAX_WORDS=300
 readonly BRIDGE_PATTERN='^([a-z][a-z0-9_]* )?\[?[0-9A-Fa-f.:]+\]?:[0-9]+( [!-~]+)*$'
 
-# read_words: sets WORDS to the lines of standard input, up to a last one that is "end", so that words that were cut short
-# are none. Options come this way where nobody else is to see them on a command line.
+# read_words: sets WORDS to the lines of standard input, up to a last line "end"; truncated input gives no words.
+# Options come this way when no other user may see them on a command line.
 WORDS=()
 read_words() {
   local line words=0 status=0
@@ -89,8 +89,8 @@ check_program() {
   [[ -f $2 && -x $2 ]] || die "The program given with $1 is not an executable file."
 }
 
-# The characters refused here have a meaning of their own in Tor's configuration file: # starts a comment,
-# " a quoted value, and \ at the end continues the line.
+# The characters refused here have a special meaning in Tor's configuration file: # starts a comment, " a quoted
+# value, and \ at the end continues the line.
 check_bridge() {
   [[ $1 =~ $BRIDGE_PATTERN && $1 != *[\#\"\\]* ]] || die "A bridge line is not valid."
 }
@@ -114,11 +114,11 @@ parse_connect() {
   [[ -z $OPT_LYREBIRD ]] || check_program --pt-lyrebird "$OPT_LYREBIRD"
   [[ -z $OPT_SNOWFLAKE ]] || check_program --pt-snowflake "$OPT_SNOWFLAKE"
   [[ -z $OPT_WEBTUNNEL ]] || check_program --pt-webtunnel "$OPT_WEBTUNNEL"
-  [[ -z $OPT_BUNDLE ]] || check_path --bundle "$OPT_BUNDLE"   # whatever is there, or is not: without a signature it changes nothing
+  [[ -z $OPT_BUNDLE ]] || check_path --bundle "$OPT_BUNDLE"   # any path: without a valid signature it changes nothing
   choose_transports
 }
 
-# Which transports the bridge lines use, and which program serves each: lists joined by commas.
+# The transports of the bridge lines, by the program that serves each: lists joined by commas.
 USED_LYREBIRD='' USED_SNOWFLAKE='' USED_WEBTUNNEL=''
 
 choose_transports() {

@@ -1,14 +1,14 @@
 
 # ---- Running without a password prompt ---------------------------------------------------------------------
 # A root-owned copy of this helper, and a sudo rule that lets one user run exactly that copy. The copy runs no
-# program of the user's without an approval, so the rule gives no other power than the helper's verbs.
+# program of the user without an approval, so the rule gives no power beyond the helper's verbs.
 
 # The system's own part sets INSTALLED, the folder, and SUDO_DRAFT, where the rule is checked first.
 readonly INSTALLED_HELPER=$INSTALLED/veldmark-helper.sh
 readonly INSTALLED_LAUNCHER=$INSTALLED/veldmark-launch
 readonly SUDO_RULE=/etc/sudoers.d/veldmark   # 0440
 
-# print_sudo_rule UID: by number, so that no name has a meaning of its own in the rule.
+# print_sudo_rule UID: the rule for a number, so that a user name cannot have a special meaning in it.
 print_sudo_rule() {
   local helper=${INSTALLED_HELPER// /\\ }
   cat <<END
@@ -35,7 +35,7 @@ any_install-privileged() {
   parse_options " --user --launch " "$@"
   [[ $OPT_USER =~ ^[A-Za-z0-9_][A-Za-z0-9_.@-]{0,63}\$?$ ]] || die "The user name is not valid."
   [[ -z $OPT_LAUNCH ]] || check_program --launch "$OPT_LAUNCH"
-  # The rule itself must not be able to change what the rule lets in.
+  # The rule itself must not be able to change which program it allows.
   [[ -n $PROMPTED ]] || die "An administrator password is needed to set this up."
   command -v visudo >/dev/null || die "sudo is not installed on this system."
   take_lock

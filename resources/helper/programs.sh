@@ -1,9 +1,9 @@
 
-# ---- Which programs may run as Tor's account ---------------------------------------------------------------
-# Whatever runs as Tor's account passes the kill switch, so only these run: the system's own programs of a known
-# name, and exact copies of what an administrator approved by the verb approve, whose prompt names path and digest. On Linux
-# also copies of transports that the Tor Project has signed (linux-bundle.sh).
-# The system's own part brings PROGRAM_PLACES and on_own_mount.
+# ---- Programs that may run in Tor's account ----------------------------------------------------------------
+# Every program in Tor's account passes the kill switch, so only these run: the system's own programs with a known
+# name, and exact copies of programs that an administrator approved with the verb approve, whose prompt names path
+# and digest. On Linux also copies of transports that the Tor Project has signed (linux-bundle.sh).
+# The system's own part defines PROGRAM_PLACES and on_own_mount.
 
 PROGRAM=''   # the result of ready_program
 
@@ -22,10 +22,11 @@ every_part() {
   done < <(print_modes "${paths[@]}" || printf 'missing\n')
 }
 
-# root_owned PATH: PATH, free of links, and every folder above it are root's to change alone.
+# root_owned PATH: only root can change PATH, free of links, and every folder above it.
 root_owned() { every_part "$1" '^[0-7]*[0145][0145] 0 '; }
 
-# name_fits ROLE NAME: an interpreter, or a program that starts others, is root's too, so only these names go unasked.
+# name_fits ROLE NAME: root also owns interpreters and programs that start others, so only these names run without
+# approval.
 name_fits() {
   case $1:$2 in
   tor:tor | lyrebird:lyrebird | lyrebird:obfs4proxy | lyrebird:meek-client) ;;
@@ -35,18 +36,18 @@ name_fits() {
   esac
 }
 
-# systems_own PATH ROLE: whether PATH, free of links, is a program that nobody has to be asked for. A file of root's on
-# a medium that a user mounted is none: whoever made the medium chose its owner.
+# systems_own PATH ROLE: whether PATH, free of links, is a program that needs no approval. A file owned by root on
+# a medium that a user mounted does not count: the creator of the medium chose its owner.
 systems_own() {
   [[ $1 =~ $PROGRAM_PLACES ]] && name_fits "$2" "${1##*/}" && root_owned "$1" && on_own_mount "$1"
 }
 
-# open_to_all PATH: any account can reach and run it.
+# open_to_all PATH: whether every account can reach and run it.
 open_to_all() { every_part "$1" '^[0-7]*[1357] '; }
 
-# print_file PATH [BYTES SECONDS]: its content, opened as the caller, so that nobody reads through us what is not theirs. Any program of
-# the caller's can take the reader's descriptors over. So the reader has a pipe and never the file that we write: else the content
-# could be changed after it was looked at.
+# print_file PATH [BYTES SECONDS]: its content, opened as the caller, so that the caller reads no foreign file
+# through the helper. Any program of the caller can take over the reader's descriptors. So the reader gets a pipe
+# and never the file that the helper writes: otherwise the content could change after the check.
 print_file() {
   local bytes=${2:-$MAX_PROGRAM_BYTES} seconds=${3:-10}
   if [[ $CALLER_UID == 0 ]]; then
@@ -56,13 +57,13 @@ print_file() {
   fi
 }
 
-# find_program PATH: sets PROGRAM to it, free of links.
+# find_program PATH: sets PROGRAM to the path without links.
 find_program() {
   PROGRAM=$(real_path "$1" && printf x) || die "The program $1 cannot be found."
   PROGRAM=${PROGRAM%$'\n'x}
 }
 
-# copy_program PATH: leaves its content, as it is now, in $NEW_PROGRAM and its digest in DIGEST.
+# copy_program PATH: puts its present content into $NEW_PROGRAM and its digest into DIGEST.
 DIGEST=''
 copy_program() {
   rm -f -- "$NEW_PROGRAM"
@@ -72,19 +73,19 @@ copy_program() {
   print_file "$1" >"$NEW_PROGRAM" && DIGEST=$(print_sum <"$NEW_PROGRAM") && DIGEST=${DIGEST%% *} &&
     [[ $DIGEST =~ ^[0-9a-f]{64}$ ]] && return 0
   rm -f -- "$NEW_PROGRAM"
-  [[ $SYSTEM != linux ]] || clear_bundle   # that another program was looked for in
+  [[ $SYSTEM != linux ]] || clear_bundle   # left from the search for another program
   die "The program $1 cannot be copied."
 }
 
-# keep_copy ROLE: puts what copy_program has left where it may be run from.
+# keep_copy ROLE: moves the file of copy_program to the folder of the runnable copies.
 keep_copy() {
   [[ -d $PROGRAMS/$DIGEST ]] || mkdir -m 0755 -- "$PROGRAMS/$DIGEST" || die "The folder $PROGRAMS cannot be written."
   { chmod -- 0755 "$NEW_PROGRAM" && put_in_place "$NEW_PROGRAM" "$PROGRAMS/$DIGEST/$1"; } ||
     die "The copy of the program cannot be put into $PROGRAMS."
 }
 
-# ready_program PATH ROLE: sets PROGRAM to what may be run for PATH, a path of safe characters only, which Tor's
-# configuration can hold unquoted.
+# ready_program PATH ROLE: sets PROGRAM to the file that may run for PATH. Its path has only safe characters, which
+# Tor's configuration accepts unquoted.
 ready_program() {
   local owned=''
   find_program "$1"
@@ -105,8 +106,8 @@ ready_program() {
   PROGRAM=$PROGRAMS/$DIGEST/$2
 }
 
-# any_approve: from now on a program of the user's may run as Tor's account, in that one role and with that very content,
-# which was read, and named with its path and digest, before anybody was asked.
+# any_approve: from now on a program of the user may run in Tor's account, only in that role and with exactly that
+# content. The content was read, and the prompt named its path and digest, before the administrator's answer.
 any_approve() {
   parse_options " --program --as --sha256 " "$@"
   [[ -n $OPT_PROGRAM ]] || die "The option --program is missing."

@@ -1,12 +1,11 @@
 
-# ---- What connect and disconnect share on every system -----------------------------------------------------
-# The system's own part brings undo_session, end_run and MARKER.
+# ---- Connect and disconnect on every system ----------------------------------------------------------------
+# The system's own part defines undo_session, end_run and MARKER.
 
-ON_FAILURE=''   # "undo" while a failure must put everything back; empty before the first change and where the
-                # kill switch stays closed
+ON_FAILURE=''   # "undo" while a failure must undo everything; empty before the first change and while the kill switch stays on
 UNDONE=''       # why an undo_... function failed
 
-# in_path NAME: whether there is such a program, which can be run.
+# in_path NAME: whether there is such a program, and it can run.
 in_path() {
   local folder IFS=:
   for folder in $PATH; do
@@ -22,7 +21,7 @@ need_programs() {
   done
 }
 
-# finish: runs at every exit, so that a failed run has said why and leaves no half-made session.
+# finish: runs at every exit, so that a failed run prints its reason and leaves no half-made session.
 finish() {
   local status=$?
   trap - EXIT
@@ -49,7 +48,8 @@ read_marker() {
   printf '%s' "$word"
 }
 
-# parse_disconnect WORD...: the program whose session is meant may be named. On a Mac no owner is noted, so nobody's is refused.
+# parse_disconnect WORD...: the caller may name the session's program. On macOS no owner is recorded, so none is
+# refused.
 parse_disconnect() {
   parse_options " --process " "$@"
   [[ -z $OPT_PROCESS || $OPT_PROCESS =~ ^[1-9][0-9]{0,9}$ ]] || die "The process id is not valid."
@@ -59,11 +59,11 @@ put_marker() {
   write_file "$MARKER" 0644 root "$1"$'\n' || die "The session marker cannot be written."
 }
 
-# ---- What a strict session was asked for -------------------------------------------------------------------
-# A strict session may be ended without a password where the rule says so. Without one it is not lessened while it
-# runs: no proxy mode, no open local network, no other password, exit, bridges or programs.
+# ---- The options of a strict session -----------------------------------------------------------------------
+# The password-free rule allows a disconnect of a strict session. It does not allow a connect that weakens the
+# running session: no proxy mode, no open local network, no other password, exit, bridges or programs.
 
-# print_asked LAN: the checked options, programs as they will run.
+# print_asked LAN: the checked options, programs with the paths that will run.
 print_asked() {
   printf '%s\n' "lan $1" "hash $OPT_HASH" "exit $OPT_EXIT" "tor $OPT_TOR" "separate ${OPT_SEPARATE:-0}"
   printf '%s\n' "lyrebird $USED_LYREBIRD $OPT_LYREBIRD" "snowflake $USED_SNOWFLAKE $OPT_SNOWFLAKE" \
@@ -72,7 +72,7 @@ print_asked() {
 
 note_asked() { write_file "$ASKED" 0600 root "$(print_asked "$OPT_LAN")"$'\n' || die "The file $ASKED cannot be written."; }
 
-# lessens: whether what is asked for now is anything but the running session again, or that with a closed local network.
+# lessens: whether the request differs from the running session by more than a closed local network.
 lessens() {
   local asked=''
   [[ $OPT_STRICT == 1 && -f $ASKED && ! -L $ASKED ]] && asked=$(<"$ASKED") || return 0
@@ -80,8 +80,8 @@ lessens() {
   [[ $OPT_LAN != 0 || $asked != "$(print_asked 1)" ]]
 }
 
-# guard_session: for a connect while a strict session runs. The dialog of connect does not say that it would be lessened;
-# that of replace does. Who ran us by hand has said it all.
+# guard_session: for a connect during a strict session. The dialog of connect does not say that the session would
+# be weakened; that of replace does. A caller who ran the helper by hand has typed all options.
 guard_session() {
   [[ -n $PROMPTED && (-z $BY_DIALOG || $VERB == replace) ]] || ! lessens || {
     rm -f -- "$TORRC.checked"

@@ -1,8 +1,8 @@
 
 # ---- Tor's configuration -----------------------------------------------------------------------------------
 
-readonly SOCKS_PORT=9050 CONTROL_PORT=9051   # DNS_PORT is the system's own part's
-readonly TORRC=$RUN/torrc          # root:_veldmark 0640; /etc/tor/torrc-defaults is read beneath it
+readonly SOCKS_PORT=9050 CONTROL_PORT=9051   # the system's own part sets DNS_PORT
+readonly TORRC=$RUN/torrc          # root:_veldmark 0640; Tor reads /etc/tor/torrc-defaults before it
 readonly NOTICES=$RUN/notices.log  # Tor's log
 
 # print_torrc IPV6_LOOPBACK: from the checked options.
@@ -33,16 +33,17 @@ END
   [[ -n $USED_LYREBIRD$USED_SNOWFLAKE$USED_WEBTUNNEL ]] || printf 'NoExec 1\n'
 }
 
-# tor_reason TEXT: prints Tor's own reason, the last problem in its output; else the last line; nothing if empty.
+# tor_reason TEXT: prints Tor's own reason: the last problem in its output, otherwise the last line; nothing if
+# empty.
 tor_reason() {
   local line reason='' last=''
   while IFS= read -r line; do
     line=${line//[[:cntrl:]]/}
-    line=${line%" Is Tor already running?"}   # a message is a sentence, no question
+    line=${line%" Is Tor already running?"}   # the message is a statement
     [[ -z $line ]] || last=$line
     case $line in
     *"Reading config failed"*) ;;
-    *"Failed to bind one of the listener ports"*) reason=${reason:-${line#*"] "}} ;;   # which one was said before
+    *"Failed to bind one of the listener ports"*) reason=${reason:-${line#*"] "}} ;;   # an earlier line names the port
     *"[warn] "*) reason=${line#*"[warn] "} ;;
     *"[err] "*) reason=${line#*"[err] "} ;;
     esac
@@ -51,7 +52,8 @@ tor_reason() {
   printf '%s' "${reason:0:300}"
 }
 
-# ready_torrc: has_ipv6_loopback and take_output are the system's own part's. Writes the configuration beside the one in use and has Tor itself check it.
+# ready_torrc: writes the configuration beside the current one, and Tor checks it. The system's own part defines
+# has_ipv6_loopback and take_output.
 ready_torrc() {
   local text output ipv6=0
   ! has_ipv6_loopback || ipv6=1

@@ -36,7 +36,7 @@ QCoro::Task<void> SystemClock::sleep(std::chrono::milliseconds duration)
     const auto sleeper = sleepers->waits.insert(sleepers->waits.end(), elapsed);
     QTimer::singleShot(duration, Qt::PreciseTimer, [elapsed] { elapsed.complete({}); });
     co_await elapsed;
-    sleepers->waits.erase(sleeper); // not `this`, which may be gone
+    sleepers->waits.erase(sleeper); // not `this`, which may be destroyed
 }
 
 } // namespace veldmark

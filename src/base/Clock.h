@@ -7,9 +7,9 @@
 
 namespace veldmark {
 
-// Where everything that waits gets its time from, so that a test of a five-minute deadline takes
-// no time: production uses SystemClock, tests a clock that they move by hand.
-// All functions belong to the thread that owns the event loop on which the caller runs.
+// The source of time for everything that waits. Production uses SystemClock. Tests use a clock that
+// they move by hand, so a test of a five-minute deadline takes no time.
+// Call every function on the thread that owns the caller's event loop.
 class Clock {
 public:
     using TimePoint = std::chrono::steady_clock::time_point;
@@ -19,15 +19,15 @@ public:
     Clock(const Clock &) = delete;
     Clock &operator=(const Clock &) = delete;
 
-    // Monotonic; only differences have a meaning.
+    // Monotonic; only differences are meaningful.
     virtual TimePoint now() const = 0;
 
-    // Resumes after `duration`, through the event loop. A sleep cannot be cancelled: look after it
-    // whether you are still wanted.
+    // Resumes after `duration`, through the event loop. A sleep cannot be cancelled: after it, the
+    // caller checks whether its work is still wanted.
     virtual QCoro::Task<void> sleep(std::chrono::milliseconds duration) = 0;
 };
 
-// Real time. Its destruction wakes everybody at once.
+// Real time. The destructor ends all sleeps at once.
 class SystemClock final : public Clock {
 public:
     SystemClock();
@@ -38,7 +38,7 @@ public:
 
 private:
     struct Sleepers;
-    // each takes itself off the list, also after the clock's end
+    // each sleeper removes itself, also after the clock is destroyed
     const std::shared_ptr<Sleepers> m_sleepers;
 };
 

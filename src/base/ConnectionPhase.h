@@ -5,7 +5,7 @@
 namespace veldmark {
 Q_NAMESPACE
 
-// Where the session stands. Changes only through TorController's operations.
+// The phase of the session. Only TorController's operations change it.
 enum class ConnectionPhase {
     disconnected,  // no session; the network is in its normal state
     connecting,    // helper approval, Tor's start, bootstrap

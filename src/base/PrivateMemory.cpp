@@ -15,7 +15,7 @@ void keepMemoryPrivate()
 #ifndef VELDMARK_SANITIZED
     rlimit limit{};
     if (::getrlimit(RLIMIT_CORE, &limit) == 0) {
-        limit.rlim_cur = 0; // what is started may raise it again
+        limit.rlim_cur = 0; // only the soft limit; a child process may raise it again
         ::setrlimit(RLIMIT_CORE, &limit);
     }
 #ifdef __linux__

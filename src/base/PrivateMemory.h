@@ -2,9 +2,9 @@
 
 namespace veldmark {
 
-// From here on no other program of the same user can read this process's memory, where the control
-// password is, by attaching to it or by a core dump. What the process starts is as it was. Does
-// nothing under a sanitizer, whose search for leaks attaches to the process.
+// After this call no other program of the same user can read this process's memory, which holds the
+// control password, through a debugger or a core dump. Child processes are not affected. Does
+// nothing in a sanitizer build, because the leak sanitizer attaches to the process.
 void keepMemoryPrivate();
 
 } // namespace veldmark

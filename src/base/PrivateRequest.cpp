@@ -14,7 +14,7 @@ QNetworkRequest privateRequest(const QUrl &url, QSslConfiguration tls)
     request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
-    // Qt would tell the server the user's language, and unpack what it sends.
+    // By default Qt sends the user's language and accepts compressed answers.
     request.setRawHeader("Accept-Language", "en");
     request.setRawHeader("Accept-Encoding", "identity");
     return request;

@@ -7,10 +7,9 @@ class QUrl;
 
 namespace veldmark {
 
-// A GET request that tells the server as little about the user as it can: no cookies, no stored
-// logins, no language but English, and one protocol version. Nothing is asked for in packed form,
-// so a small answer cannot swell; the server's certificate is always verified against `tls`.
-// Any thread.
+// A GET request that tells the server as little about the user as possible: no cookies, no stored
+// logins, English as the only language, one protocol version. It requests no compression, so a
+// small answer cannot grow. The server's certificate is always verified against `tls`. Any thread.
 QNetworkRequest privateRequest(const QUrl &url, QSslConfiguration tls);
 
 } // namespace veldmark

@@ -4,7 +4,7 @@ namespace veldmark::ReplyWords {
 
 namespace {
 
-// The place of the mark that closes the string opened at `open`; -1 without one.
+// The index of the mark that closes the string opened at `open`; -1 without one.
 qsizetype closingMark(QStringView text, qsizetype open)
 {
     for (qsizetype i = open + 1; i < text.size(); ++i) {
@@ -21,8 +21,8 @@ bool isOctal(QChar c)
     return c >= u'0' && c <= u'7';
 }
 
-// What stands between the marks, with Tor's escapes resolved: \n, \r, \t, \ooo, and \ before
-// itself.
+// The text between the marks, with Tor's escapes resolved: \n, \r, \t, \ooo, and \ before any other
+// character, also itself.
 QString unescaped(QStringView text)
 {
     QString plain;

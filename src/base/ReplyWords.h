@@ -5,17 +5,17 @@
 
 #include <optional>
 
-// The words of a line that Tor writes: positional ones, then KEY=VALUE. A value in quotation marks
-// may hold blanks and anything else, also what looks like another key; programs that use Tor choose
-// some of these values. Pure functions; nothing fails.
+// Splits a line from Tor into words: positional words, then KEY=VALUE. A quoted value may contain
+// blanks and any other character, also text that looks like another key. Programs that use Tor
+// choose some of these values. Pure functions; none fails.
 namespace veldmark::ReplyWords {
 
-// Cuts the next word off `rest`; empty at the end. A quoted value belongs to its word, up to its
-// closing mark; one that is not closed takes all that follows.
+// Cuts the next word off `rest`; empty at the end. A quoted value belongs to its word, up to the
+// closing mark. Without a closing mark the word is the rest of the line.
 QStringView next(QStringView &rest);
 
-// The value of the first word KEY=VALUE of `line`, without its quotation marks and escapes. Absent
-// without such a word, and where its quotation mark is not closed.
+// The value of the first word KEY=VALUE in `line`, without quotation marks and escapes. Absent
+// without such a word, and when the closing mark is missing.
 std::optional<QString> value(QStringView line, QStringView key);
 
 } // namespace veldmark::ReplyWords

@@ -4,8 +4,8 @@
 
 namespace veldmark {
 
-// What an operation that can fail in an expected way gives back: its value, or one of its
-// subsystem's errors. Error types have a `description()` that is the sentence a user reads.
+// The result of an operation that can fail: its value, or its subsystem's error. Every error type
+// has a `description()`, the sentence that the user reads.
 template <typename T, typename E> using Result = tl::expected<T, E>;
 
 // The failing branch: `return Failure(ControlPortError::closed());`

@@ -8,24 +8,24 @@
 
 namespace veldmark {
 
-// The meeting point of one waiting coroutine with the callbacks that can end its wait (a reply, a
-// time-out, a lost connection, the destruction of the sender). The first `complete()` wins; every
-// later one does nothing. Copies share the same state, so a callback may outlive the waiter.
+// Connects one waiting coroutine with the callbacks that can end its wait (a reply, a time-out, a
+// lost connection, the destruction of the sender). The first `complete()` wins; later calls do
+// nothing. Copies share one state, so a callback may outlive the waiter.
 //
 //     ResumeOnce<bool> ready;
 //     connect(socket, &QTcpSocket::connected, this, [ready] { ready.complete(true); });
 //     connect(socket, &QTcpSocket::errorOccurred, this, [ready] { ready.complete(false); });
 //     const bool connected = co_await ready;
 //
-// The waiter is resumed through the event loop of the thread that awaited, never inside
-// `complete()`; it may therefore destroy the object whose signal completed it. `complete()` may
-// be called from any thread. One coroutine may await one ResumeOnce, once. Whoever makes one must
-// see to it that something completes it; a wait that nobody completes never ends.
+// The waiter resumes through the event loop of the thread that awaited, never inside `complete()`.
+// The waiter may therefore destroy the object whose signal completed the wait. Any thread may call
+// `complete()`. One coroutine may await one ResumeOnce, once. The creator must make sure that
+// something completes the wait: otherwise it never ends.
 template <typename T> class ResumeOnce {
 public:
     ResumeOnce() : m_state(std::make_shared<State>()) { }
 
-    // True when this call ended the wait, false when an earlier one had.
+    // True when this call ended the wait, false when an earlier call did.
     bool complete(T value) const
     {
         const std::lock_guard guard(m_state->lock);
@@ -33,8 +33,8 @@ public:
             return false;
         m_state->done = true;
         m_state->value.emplace(std::move(value));
-        // Posted before the lock is given up, so that deliver() finds it. When there is none,
-        // nobody waits yet, and the waiter will find the value ready.
+        // Posted under the lock, so that deliver() finds it. Without a resumption no coroutine
+        // waits yet, and the later waiter finds the value ready.
         if (m_state->resumption) {
             m_state->posted = m_state->resumption->receiver();
             Resumption::post(std::move(m_state->resumption));
@@ -42,9 +42,9 @@ public:
         return true;
     }
 
-    // Resumes the waiter now if its wait has ended and the event loop has not got to it yet. For
-    // the destructor of what was waited for, after which the loop may never turn again. On the
-    // waiter's thread; the caller must bear what the waiter does, also that it destroys things.
+    // Resumes the waiter now if its wait has ended and the event loop has not resumed it yet. For
+    // the destructor of the object waited for, after which the loop may not run again. Call it on
+    // the waiter's thread. The waiter runs inside this call and may destroy the caller.
     void deliver() const
     {
         QObject *posted = nullptr;
@@ -86,8 +86,8 @@ private:
         std::mutex lock;
         bool done = false;
         std::optional<T> value;
-        std::unique_ptr<Resumption> resumption; // while somebody waits for an end that has not come
-        // what it was sent to, from that end until the waiter runs
+        std::unique_ptr<Resumption> resumption; // while a coroutine waits
+        // the receiver of the posted resumption, until the waiter runs
         QObject *posted = nullptr;
     };
     std::shared_ptr<State> m_state;

@@ -10,9 +10,9 @@ namespace veldmark {
 namespace {
 
 std::atomic<int> alive = 0;
-std::atomic<int> pending = 0; // of them: posted and not delivered yet
+std::atomic<int> pending = 0; // of these: posted, not delivered
 
-constexpr QEvent::Type turn = QEvent::User; // a Waiter gets no other event of ours
+constexpr QEvent::Type turn = QEvent::User; // a Waiter gets no other event from the program
 
 class Waiter final : public QObject {
 public:
@@ -67,7 +67,7 @@ int Resumption::waiting()
 
 void Resumption::deliverAll()
 {
-    constexpr int mostTurns = 1000; // nothing goes on for ever; a program must end
+    constexpr int mostTurns = 1000; // a limit, so that the program always ends
     for (int turns = 0; turns < mostTurns; ++turns) {
         QThreadPool::globalInstance()->waitForDone();
         if (pending == 0)

@@ -8,26 +8,26 @@
 
 namespace veldmark {
 
-// The event that lets a suspended coroutine go on, through the event loop of the thread that made
-// it. Owns what it is sent to, and Qt destroys it after its delivery, on that thread: whoever posts
-// it from another thread makes no part of it and keeps none.
+// The event that resumes a suspended coroutine through the event loop of the thread that created
+// the event. It owns its receiver. Qt destroys the event after delivery, on that thread; a thread
+// that posts it from elsewhere must not keep a reference.
 class Resumption final : public QEvent {
 public:
     explicit Resumption(std::coroutine_handle<> waiter);
     ~Resumption() override;
     Q_DISABLE_COPY_MOVE(Resumption)
 
-    // Any thread, once. The coroutine is resumed when the event loop comes to it, or by deliver().
+    // Any thread, once. The event loop or deliver() resumes the coroutine.
     static void post(std::unique_ptr<Resumption> resumption);
 
-    // Names it until the coroutine runs.
+    // Identifies the resumption until the coroutine runs.
     QObject *receiver() const { return m_receiver.get(); }
-    // Resumes at once what was posted to `receiver`. On the thread of the coroutine.
+    // Resumes at once the coroutine posted to `receiver`. Call it on the coroutine's thread.
     static void deliver(QObject *receiver);
-    // Resumes at once everything that was posted on this thread, what the global thread pool is
-    // busy with as well, and what comes of it in turn.
+    // Resumes at once every coroutine posted on this thread. Waits for the global thread pool
+    // first, and repeats for what these coroutines post in turn.
     static void deliverAll();
-    // How many coroutines wait, on all threads together. At a program's end none may.
+    // The number of waiting coroutines on all threads. It must be 0 at the end of the program.
     static int waiting();
 
 private:
@@ -35,8 +35,8 @@ private:
     bool m_isPosted = false;
 };
 
-// Declared before everything that waits and after the application: when all of that has gone and
-// the event loop turns no more, lets the coroutines that were waiting run to their ends.
+// Declared after the application and before every object with a coroutine. Its destructor runs
+// last, when the event loop has ended, and lets the waiting coroutines run to their ends.
 class LastTurn {
 public:
     LastTurn() = default;

@@ -10,15 +10,15 @@ namespace veldmark {
 
 class StopCallback;
 
-// How one who waits asks another to end: the waiter keeps a StopSource, the other one gets its
-// StopToken and looks at it or leaves a StopCallback. Copies of a source or token mean the same
+// A caller's request to end an operation. The caller keeps a StopSource; the operation gets its
+// StopToken and polls it or registers a StopCallback. Copies of a source or token share one
 // request. Any thread may use them.
 //
-// What of the standard's <stop_token> is used here, under its names, since Apple's standard library
+// The needed part of the standard's <stop_token>, under the same names: Apple's standard library
 // does not have that header.
 class StopToken {
 public:
-    StopToken() = default; // of nobody who could ask
+    StopToken() = default; // without a source; never requested
 
     bool stop_possible() const { return m_state != nullptr; }
     bool stop_requested() const { return m_state && m_state->requested; }
@@ -29,7 +29,7 @@ private:
 
     struct State {
         std::atomic<bool> requested = false;
-        // Recursive, since a callback may end the one that it belongs to.
+        // Recursive, since a callback may destroy its own StopCallback.
         std::recursive_mutex lock;
         StopCallback *first = nullptr;
     };
@@ -38,8 +38,8 @@ private:
     std::shared_ptr<State> m_state;
 };
 
-// Calls a function once, when the end is asked for, on the thread that asks; at once if it has
-// been. Its destructor waits for a call that is under way on another thread.
+// Calls a function once, when the stop is requested, on the requesting thread; at once if it was
+// requested before. The destructor waits for a call that is running on another thread.
 class StopCallback {
 public:
     StopCallback(StopToken token, std::function<void()> call)
@@ -85,7 +85,7 @@ public:
     StopToken get_token() const { return StopToken(m_state); }
     bool stop_requested() const { return m_state->requested; }
 
-    // False when it had been asked for before.
+    // False when the stop was requested before.
     bool request_stop()
     {
         const auto state = m_state; // a callback may destroy this source
@@ -94,7 +94,8 @@ public:
             return false;
         while (StopCallback *callback = state->first) {
             state->first = callback->m_next;
-            const std::function<void()> call = callback->m_call; // which may destroy its callback
+            // the call may destroy its callback
+            const std::function<void()> call = callback->m_call;
             call();
         }
         return true;

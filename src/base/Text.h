@@ -8,26 +8,25 @@
 
 namespace veldmark {
 
-// What a user reads, from where it is known to where it is shown: a sentence of ours with its
-// arguments, or words that are nobody's to translate (Tor's, the system's, a file's name). A
-// QString becomes such words by itself; a sentence of ours is made by tr():
+// A text for the user, translated only where it is shown: a translatable sentence with its
+// arguments, or words that are not translated (from Tor or the system, or a file name). A QString
+// converts to such words; tr() makes a sentence:
 //
 //     Text::tr("Couldn't open %1 without Tor: %2").arg(name, error.description())
 //
-// lupdate finds it there and lists it in the context "veldmark::Text". A plain value; any thread.
+// lupdate finds it and lists it in the context "veldmark::Text". A plain value; any thread.
 class Text {
 public:
     Text() = default;
     Text(const QString &words) : m_source(words) { }
 
-    // As QObject::tr(): `source` is a literal with %1…%9 for arg(); with a `count` it has %n, and
-    // languages have forms for it.
+    // Like QObject::tr(): `source` is a literal with %1…%9 for arg(). With a `count` it has %n, and
+    // translations have plural forms.
     static Text tr(const char *source, const char *comment = nullptr, int count = -1);
     // Several texts in one line.
     static Text joined(std::vector<Text> texts, const QString &separator = QStringLiteral(" "));
 
-    // Fills the next place holders; numbers, words and texts. An argument is taken as it stands,
-    // also with a % in it.
+    // Fills the next place holders with numbers, words or texts. A % in an argument has no meaning.
     template <typename... Arguments> Text arg(const Arguments &...arguments) const
     {
         Text filled(*this);
@@ -38,15 +37,16 @@ public:
     QString english() const { return rendered(false); }
     // In the language of the installed translator; English without one.
     QString translated() const { return rendered(true); }
-    // Nothing of it is ours to translate.
+    // No part of it is translated.
     bool isWords() const { return m_kind == Kind::words; }
     bool isEmpty() const { return m_kind == Kind::words && m_source.isEmpty(); }
 
-    // For another process, which may have another language: words are a string, all else an object.
+    // For another process, which may use another language. Words become a string, all else an
+    // object.
     QJsonValue toJson() const;
     static Text fromJson(const QJsonValue &value);
 
-    // Who reads English cannot tell them apart.
+    // Equal when the English texts are equal.
     friend bool operator==(const Text &a, const Text &b) { return a.english() == b.english(); }
 
 private:
@@ -62,8 +62,8 @@ private:
     QString rendered(bool isTranslated) const;
 
     Kind m_kind = Kind::words;
-    QString m_source;  // the words, the sentence, or what stands between the parts
-    QString m_comment; // what tells it from the same sentence elsewhere
+    QString m_source;  // the words, the sentence, or the separator
+    QString m_comment; // tells it from the same sentence with another meaning
     int m_count = -1;
     std::vector<Text> m_parts;
 };

@@ -33,7 +33,7 @@ QString TorPassword::hashOf(const QByteArray &clear, const QByteArray &salt)
 {
     const QByteArray round = salt + clear;
     QCryptographicHash hash(QCryptographicHash::Sha1);
-    qsizetype left = hashedBytes; // Tor, unlike the RFC, takes no more of a longer password
+    qsizetype left = hashedBytes; // Tor uses no more of a longer password, unlike the RFC
     for (; left >= round.size(); left -= round.size())
         hash.addData(round);
     hash.addData(round.first(left));

@@ -4,8 +4,8 @@
 
 namespace veldmark {
 
-// The control password of one session, and what Tor is told of it. The password itself never leaves
-// this process but to Tor: it stands on no command line. Any thread.
+// The control password of one session, and the hash that Tor gets. This process sends the password
+// only to Tor and never puts it on a command line. Any thread.
 struct TorPassword {
     QString clear; // 64 hexadecimal digits
     QString hash;  // for HashedControlPassword

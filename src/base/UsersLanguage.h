@@ -4,13 +4,13 @@
 
 namespace veldmark {
 
-// As long as it lives the program speaks the user's language, where there is a translation, and
-// else English. Made behind the application object and before anything is said; the program has the
-// translations from veldmark_translated() in its CMake.
+// During its lifetime the program uses the user's language if there is a translation, otherwise
+// English. Create it after the application object and before the first text. veldmark_translated()
+// in CMake adds the translations to the program.
 class UsersLanguage {
 public:
     UsersLanguage();
-    // In which windows are laid out.
+    // The layout direction of windows.
     Qt::LayoutDirection direction() const { return m_direction; }
 
 private:

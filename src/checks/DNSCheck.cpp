@@ -7,7 +7,7 @@ namespace veldmark::DNSCheck {
 
 namespace {
 
-// The text between the first "(" and a ")" after it: "15 (en0)" → "en0".
+// The text between the first "(" and the next ")": "15 (en0)" → "en0".
 std::optional<QString> inParentheses(QStringView value)
 {
     const qsizetype open = value.indexOf(u'(');
@@ -45,7 +45,7 @@ const QStringList &torResolvers()
 std::vector<DNSResolver> parse(QStringView text)
 {
     std::vector<DNSResolver> resolvers;
-    bool inResolver = false; // the last of the list is still being read
+    bool inResolver = false; // the parser is inside the last resolver of the list
     bool scoped = false;
     for (const QStringView untrimmed : text.tokenize(u'\n')) {
         const QStringView line = untrimmed.trimmed();
@@ -110,7 +110,8 @@ Text stillLeakingText(const QStringList &summaries, bool isBlocked)
 
 QString probeName()
 {
-    // The Tor Project's own domain: Tor's exit really asks for the name, and no stranger learns it.
+    // The Tor Project's own domain: Tor's exit really looks up the name, and no third party learns
+    // it.
     return QStringLiteral("veldmark-check-%1.torproject.org")
         .arg(QUuid::createUuid().toString(QUuid::WithoutBraces).left(16).toLower());
 }

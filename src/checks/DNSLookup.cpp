@@ -21,7 +21,7 @@ QCoro::Task<void> lookUpAndForget(Lookup lookup, QString host, std::chrono::mill
 bool resolveBySystem(const QByteArray &host)
 {
     if (host.contains('\0'))
-        return false; // the C function would ask for what stands before it
+        return false; // the C function would use only the text before it
     addrinfo hints{};
     hints.ai_socktype = SOCK_STREAM; // one entry per address instead of one per socket type
     addrinfo *addresses = nullptr;
@@ -47,7 +47,7 @@ QCoro::Task<DNSStatus> liveTest(CaptureResolves capture, Lookup lookup)
     const std::function<QCoro::Task<void>()> work = [lookup, name] {
         return lookUpAndForget(lookup, name, 5s);
     };
-    // Tor is listened to a little longer than the look-up may take.
+    // The capture lasts a little longer than the lookup may take.
     auto capturing = capture(6s, work);
     const std::optional<QStringList> seen = co_await capturing;
     co_return seen && seen->contains(name) ? DNSStatus::throughTor() : DNSStatus::unverified();

@@ -8,13 +8,13 @@
 
 namespace veldmark {
 
-// One entry of the system's DNS configuration, whichever way the system keeps it.
+// One entry of the system's DNS configuration, in a form common to all systems.
 struct DNSResolver {
-    std::optional<QString> domain; // used only for names below it; absent: for every name
-    QStringList nameservers;       // addresses in canonical form, with a port where it is unusual
-    std::optional<QString> interface; // asked through this network interface
+    std::optional<QString> domain;    // used only for names in it; absent: for every name
+    QStringList nameservers;          // addresses in canonical form, with an unusual port
+    std::optional<QString> interface; // reached through this network interface
     bool scoped = false;              // used only for requests bound to its interface
-    bool isMDNS = false;              // local link names; no server is asked
+    bool isMDNS = false;              // local link names; no server gets them
 
     // "10.0.0.53, 10.0.0.54 for *.corp.example on utun3".
     QString summary() const;

@@ -7,15 +7,15 @@
 
 namespace veldmark {
 
-// What is known about where look-ups go.
+// What is known about the way of DNS lookups.
 class DNSStatus {
 public:
     enum class Kind {
-        leak,       // resolvers can be reached around Tor
+        leak,       // lookups can bypass Tor
         unknown,    // not tested yet
         checking,   // a live test is running
-        throughTor, // Tor saw a test look-up
-        unverified, // no leak in the settings, but Tor was not seen to get the test look-up
+        throughTor, // Tor reported a test lookup
+        unverified, // no leak in the settings, but Tor did not report the test lookup
     };
 
     DNSStatus() = default; // unknown

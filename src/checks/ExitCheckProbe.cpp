@@ -16,15 +16,15 @@ namespace veldmark {
 namespace {
 
 struct Limits {
-    std::chrono::milliseconds idle; // without anything arriving
+    std::chrono::milliseconds idle; // without any data
     std::chrono::milliseconds total;
 };
 constexpr Limits torLimits{30s, 45s};
-// Much shorter: a direct request that is blocked should say so soon.
+// Much shorter, so that a blocked direct request ends soon.
 constexpr Limits directLimits{8s, 10s};
 
-// One request and what became of it. Owned by the coroutine that waits for the answer, which is
-// resumed through the event loop; so the reply is never deleted inside one of its own signals.
+// One request and its result. The coroutine that waits for the answer owns it. The coroutine
+// resumes through the event loop, so the reply is never deleted inside one of its own signals.
 class Exchange : public QObject {
 public:
     Exchange(Clock &clock, const QNetworkProxy &proxy) : m_clock(clock)
@@ -89,7 +89,7 @@ private:
             m_reached = true;
             end(ProbeError::Kind::certificate, m_reply->errorString());
         } else if (error != QNetworkReply::NoError) {
-            // A connection that was made and then closed was a connection.
+            // A connection that the server closed had reached the server.
             m_reached = m_reached || error == QNetworkReply::RemoteHostClosedError;
             end(ProbeError::Kind::transport, m_reply->errorString());
         } else {
@@ -104,22 +104,23 @@ private:
 
     void finish(ProbeResult result)
     {
-        // Its deletion, soon, aborts what is still under way.
+        // The exchange is deleted soon, which aborts the reply if it is still running.
         if (m_answer.complete(std::move(result)) && m_reply)
             m_reply->disconnect(this);
     }
 
     Clock &m_clock;
     QNetworkAccessManager m_access;
-    std::unique_ptr<QNetworkReply> m_reply; // goes before its manager
+    std::unique_ptr<QNetworkReply> m_reply; // destroyed before its manager
     ResumeOnce<ProbeResult> m_answer;
     QByteArray m_body;
     Clock::TimePoint m_lastActivity;
     bool m_reached = false;
 };
 
-// Ends `exchange` when it stays silent or takes too long. Looks at the exchange again before each
-// use: it is gone when the answer came in time, and then the clock may be gone too.
+// Ends `exchange` when no data arrives or the request takes too long. Checks before each use
+// whether the exchange still exists: after an answer in time it is gone, and the clock may be gone
+// too.
 QCoro::Task<void> watchLimits(std::weak_ptr<Exchange> watched, Clock *clock, Limits limits)
 {
     const Clock::TimePoint lastMoment = clock->now() + limits.total;

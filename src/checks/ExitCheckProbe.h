@@ -9,17 +9,16 @@
 
 namespace veldmark {
 
-// The real probe: one HTTPS GET per call, with nothing shared between calls — no connection,
-// cookie, cache, credential or TLS session. Redirects are not followed, certificates are always
-// checked, and the service's name is resolved by Tor in `viaTor()`, never by this computer.
+// The real probe: one HTTPS GET per call. Calls share no connection, cookie, cache, credential or
+// TLS session. Redirects are not followed, and certificates are always verified. In `viaTor()` Tor
+// resolves the service's name, never this computer.
 //
-// Lives on the thread that owns the event loop. Probes that are under way when the object is
-// destroyed end as `cancelled`.
+// Lives on the thread that owns the event loop. The destructor ends running probes as `cancelled`.
 class ExitCheckProbe final : public NetworkProbe {
 public:
     static constexpr quint16 torSocksPort = 9050;
 
-    // `clock` must outlive the object. The rest is for tests against a service of their own.
+    // `clock` must outlive the object. The other parameters are for tests with their own service.
     explicit ExitCheckProbe(Clock &clock, QUrl url = checkURL(), quint16 socksPort = torSocksPort,
                             QSslConfiguration tls = QSslConfiguration::defaultConfiguration());
 
@@ -31,7 +30,7 @@ private:
     const QUrl m_url;
     const quint16 m_socksPort;
     QSslConfiguration m_tls;
-    QObject m_lifetime; // its destruction ends what is under way
+    QObject m_lifetime; // its destruction ends running probes
 };
 
 } // namespace veldmark

@@ -14,10 +14,9 @@ auto unusable(const QString &detail)
     return Failure(ProbeError{ProbeError::Kind::badResponse, detail, true});
 }
 
-constexpr qsizetype addressLimit = 45; // characters of the longest address
+constexpr qsizetype addressLimit = 45; // length of the longest address
 
-// QHostAddress alone would also take what stands after a "%" or a NUL, and any number of leading
-// zeros.
+// QHostAddress alone would also accept text after a "%" or a NUL, and any number of leading zeros.
 bool isAddress(const QString &text)
 {
     const bool isPlain = std::all_of(text.begin(), text.end(), [](QChar c) {
@@ -41,7 +40,7 @@ Result<IPCheck, ProbeError> IPCheck::fromJson(const QByteArray &body)
     const QJsonValue ip = object.value(QStringLiteral("IP"));
     if (!isTor.isBool() || !ip.isString())
         return unusable(QStringLiteral("The answer has no \"IsTor\" and \"IP\"."));
-    // The address is shown to the user; nothing else may come in by this door.
+    // The user sees the address, so no other text may pass.
     if (!isAddress(ip.toString()))
         return unusable(QStringLiteral("The answer's \"IP\" is no address."));
     return IPCheck{isTor.toBool(), ip.toString()};

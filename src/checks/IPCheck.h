@@ -5,24 +5,24 @@
 #include <QByteArray>
 #include <QString>
 
-// The room that verifies what the program claims: which address the world sees (NetworkProbe), and
-// whether look-ups can leave around Tor (DNSCheck, ResolverSource).
+// The room that verifies the program's claims: which address the internet sees (NetworkProbe),
+// and whether lookups can bypass Tor (DNSCheck, ResolverSource).
 namespace veldmark {
 
-// Why a probe has no answer. Never shown to the user; the controller turns it into "no answer".
+// Why a probe has no answer. The user never sees it; the controller reports "no answer".
 struct ProbeError {
     enum class Kind {
         transport,   // no connection, an interrupted one, or no proxy
         certificate, // TLS failed: untrusted, expired, for another host
         timedOut,
-        // a status other than 200, more than the allowed size, or not the JSON asked for
+        // a status other than 200, too long an answer, or not the expected JSON
         badResponse,
-        cancelled, // the probe object went away
+        cancelled, // the probe object was destroyed
     };
     Kind kind;
-    QString detail; // for the log; the system's text where there is one
-    // Something on the other side of the path answered, whatever it said. Then the path is open,
-    // even though nobody knows what address was seen.
+    QString detail; // for the log; the system's text if there is one
+    // A server at the other end answered, whatever the answer. The path is then open, although the
+    // address that the server saw is unknown.
     bool reachedNetwork = false;
 
     QString description() const { return detail; }
@@ -31,16 +31,16 @@ struct ProbeError {
 
 // The exit-check service's answer.
 struct IPCheck {
-    bool isTor = false; // the asking address is a Tor exit
-    QString ip;         // the asking address
+    bool isTor = false; // the request came from a Tor exit
+    QString ip;         // the address that the request came from
 
     friend bool operator==(const IPCheck &, const IPCheck &) = default;
 
-    // A body is never more than this many bytes; a real one has about fifty.
+    // The limit for a body; a real one has about fifty bytes.
     static constexpr qsizetype sizeLimitBytes = 64 * 1024;
 
-    // A JSON object with "IsTor" (true or false) and "IP" (text that is an IP address), in exactly
-    // this spelling; other keys are ignored. Everything else is `badResponse`.
+    // A JSON object with "IsTor" (true or false) and "IP" (an IP address as text), in exactly this
+    // spelling; other keys are ignored. Everything else is `badResponse`.
     static Result<IPCheck, ProbeError> fromJson(const QByteArray &body);
 };
 

@@ -7,23 +7,24 @@
 
 namespace veldmark {
 
-// Whether the kernel holds the rules of a strict session, as the helper's watcher has last told it.
+// Whether the kernel holds the rules of a strict session, according to the helper's watcher.
 struct KillSwitch {
     enum class State {
-        standing, // as they were loaded, since the session began
-        putBack,  // they stand; another program had removed them, and traffic could leave meanwhile
-        open,     // they are missing or changed, and the watcher could not put them back
-        unknown,  // nobody has looked for a while, so nothing is claimed
+        standing, // unchanged since the session began
+        // present again; another program had removed them, and traffic could leave meanwhile
+        putBack,
+        open,    // missing or changed, and the watcher could not restore them
+        unknown, // no recent report, so the program claims nothing
     };
 
     State state = State::unknown;
-    int missed = 0;  // how often the watcher has missed the rules
+    int missed = 0;  // how often the watcher found the rules missing or changed
     QDateTime since; // when the state began, or began again; UTC
 
-    // Reads the watcher's note, "standing 0 1795307640" (or "restored", "open"). Absent when it is
-    // no such note.
+    // Parses the watcher's note, "standing 0 1795307640" (or "restored", "open"). Absent for any
+    // other text.
     static std::optional<KillSwitch> parse(const QByteArray &note);
-    // Only what was seen to stand blocks.
+    // True only when the rules were last seen in the kernel.
     bool blocks() const { return state == State::standing || state == State::putBack; }
     QString name() const; // "standing", "putBack", "open", "unknown"
 

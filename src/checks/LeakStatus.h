@@ -8,7 +8,7 @@
 
 namespace veldmark {
 
-// The verdict on the direct path, the one that skips Tor.
+// The verdict on the direct path, which bypasses Tor.
 class LeakStatus {
 public:
     enum class Kind { exposed, notTested, checking, blocked, inconclusive };
@@ -17,7 +17,7 @@ public:
     static LeakStatus exposed(QString address) { return {Kind::exposed, std::move(address)}; }
     static LeakStatus notTested() { return {Kind::notTested, {}}; }
     static LeakStatus checking() { return {Kind::checking, {}}; }
-    // The same while it is not known that what was found before is over.
+    // `checking` that keeps the exposed address, since the earlier result may still hold.
     static LeakStatus checkingAfter(const LeakStatus &before)
     {
         return {Kind::checking, before.m_address};
@@ -26,10 +26,10 @@ public:
     static LeakStatus inconclusive() { return {Kind::inconclusive, {}}; }
 
     Kind kind() const { return m_kind; }
-    // The user's own address, as the world saw it; empty unless `exposed`, or `checking` after
-    // that.
+    // The user's own address, as the service saw it. Empty unless `exposed`, or `checking` after
+    // `exposed`.
     const QString &address() const { return m_address; }
-    // The user's own address was seen, and no later test has said otherwise.
+    // A test saw the user's own address, and no later test has contradicted it.
     bool isExposed() const
     {
         return m_kind == Kind::exposed || (m_kind == Kind::checking && !m_address.isEmpty());
@@ -46,7 +46,7 @@ private:
     QString m_address;
 };
 
-// What two probes, made side by side, say together.
+// The result of two simultaneous probes.
 struct NetworkVerdict {
     std::optional<qint64> latencyMs; // of the probe through Tor; absent when it failed
     std::optional<QString> exitIP;
@@ -55,12 +55,12 @@ struct NetworkVerdict {
 
     friend bool operator==(const NetworkVerdict &, const NetworkVerdict &) = default;
 
-    // `elapsed` is how long the probe through Tor took. `mode` is the active routing mode, if any.
+    // `elapsed` is the duration of the probe through Tor. `mode` is the active routing mode, if
+    // any.
     //
     // The direct path counts as blocked when nothing answers on it while Tor's path works, or when
-    // in strict mode it comes out of a Tor exit as well. A direct request that got an unusable
-    // answer (a captive portal's certificate, an error page) proves that the path is open:
-    // inconclusive.
+    // in strict mode it also leaves through a Tor exit. A direct request with an unusable answer (a
+    // captive portal's certificate, an error page) proves that the path is open: `inconclusive`.
     static NetworkVerdict of(const ProbeResult &viaTor, std::chrono::milliseconds elapsed,
                              const ProbeResult &direct, std::optional<RoutingMode> mode);
 };

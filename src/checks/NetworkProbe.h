@@ -8,8 +8,8 @@
 
 namespace veldmark {
 
-// Asks the Tor Project's exit-check service which address it sees. Two probes may run side by
-// side. ExitCheckProbe is the real one; the controller's tests give their own.
+// Asks the Tor Project's exit-check service which address it sees. Two probes may run at the same
+// time. ExitCheckProbe is the real one; the controller's tests have their own.
 class NetworkProbe {
 public:
     NetworkProbe() = default;
@@ -17,12 +17,12 @@ public:
     NetworkProbe(const NetworkProbe &) = delete;
     NetworkProbe &operator=(const NetworkProbe &) = delete;
 
-    // Where the service lives; its host is named to the user.
+    // The service's URL; the user reads its host name.
     static QUrl checkURL() { return QUrl(QStringLiteral("https://check.torproject.org/api/ip")); }
 
     // Through Tor's SOCKS port. Fails within 45 seconds.
     virtual QCoro::Task<ProbeResult> viaTor() = 0;
-    // On the plain network path, past every proxy. Fails within 10 seconds.
+    // On the plain network path, without any proxy. Fails within 10 seconds.
     virtual QCoro::Task<ProbeResult> direct() = 0;
 };
 

@@ -13,12 +13,12 @@ namespace veldmark {
 
 namespace {
 
-// Addresses for documents: routed like any other far one, and nobody's.
+// Addresses reserved for documentation: routed like any far address, and not in use.
 const QHostAddress farAway(QStringLiteral("192.0.2.1"));
 const QHostAddress farAway6(QStringLiteral("2001:db8::1"));
 
-// By which address of this computer's a datagram would leave; null without a route. Connecting a
-// datagram socket sends nothing.
+// The local address of a datagram to `target`; null without a route. Connecting a datagram socket
+// sends nothing.
 QHostAddress leavingBy(const QHostAddress &target)
 {
     sockaddr_storage address{};
@@ -63,8 +63,8 @@ std::optional<NetworkRoute> NetworkRoute::present()
         for (const QNetworkAddressEntry &entry : device.addressEntries()) {
             if (!entry.ip().isEqual(own, QHostAddress::TolerantConversion))
                 continue;
-            // WireGuard's device, a VPN program's, a tunnel of the kernel's. A Mac gives its own no
-            // type.
+            // A WireGuard device, a VPN program's, or a tunnel of the kernel's. macOS gives its
+            // tunnels no type of their own.
             const bool isTunnel = device.type() == QNetworkInterface::Virtual
                 || device.name().startsWith(QLatin1String("utun"))
                 || device.name().startsWith(QLatin1String("ipsec"));

@@ -6,14 +6,13 @@
 
 namespace veldmark {
 
-// The way that a packet to a far address would take from this computer now. Nothing is sent.
+// The route from this computer to a far address at this moment. Sends nothing.
 struct NetworkRoute {
-    QString device; // "eth0", "wg0"; empty when it could not be told
-    // a tunnel: what goes in leaves the computer in packets of another program's, or of the
-    // kernel's
+    QString device; // "eth0", "wg0"; empty when unknown
+    // a tunnel: traffic leaves the computer in packets of another program or of the kernel
     bool isVPN = false;
 
-    // Absent when there is no route, over IPv4 or IPv6. Any thread.
+    // Absent when there is no route over IPv4 or IPv6. Any thread.
     static std::optional<NetworkRoute> present();
 };
 

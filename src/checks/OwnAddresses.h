@@ -5,17 +5,16 @@
 
 namespace veldmark {
 
-// The addresses by which this computer reaches others, looked at from time to time. A connection
-// belongs to the address that it was made from: when that is gone, nobody is told, and whoever
-// holds the connection waits for minutes.
+// Follows the computer's own network addresses. A connection is bound to its local address. When
+// that address disappears, the program gets no error and waits for minutes.
 class OwnAddresses {
 public:
-    // `now`: those that there are at this look. Whether connections have to be made anew: since the
-    // last look for which this was true (or since the first), one of the addresses has gone, and
-    // now there is one to go out by.
+    // `now` is the current set of addresses. True when connections must be made anew: an address
+    // has disappeared since the last call that returned true (or since the first call), and `now`
+    // is not empty.
     bool haveMoved(const QSet<QHostAddress> &now);
 
-    // The system's, without loopback and link-local ones, by which nothing far away is reached.
+    // The system's addresses, without loopback and link-local ones, which reach nothing far away.
     static QSet<QHostAddress> present();
 
 private:

@@ -19,8 +19,8 @@ const QString managerPath = QStringLiteral("/org/freedesktop/resolve1");
 
 using Answer = ResumeOnce<std::optional<ResolvedState>>;
 
-// Everything here runs on the reading's own thread: even connecting and disconnecting wait for the
-// bus, and would make every other use of D-Bus on their thread wait too.
+// Runs only on the reading's own thread: even connecting and disconnecting wait for the bus, and
+// would block all other D-Bus use on their thread.
 class Conversation {
 public:
     explicit Conversation(Answer answer) : m_answer(std::move(answer)), m_bus(connect()) { }
@@ -53,8 +53,8 @@ public:
     }
 
 private:
-    // Not by address: when the bus does not say hello, Qt drops such a connection in a way for
-    // which the D-Bus library ends the program.
+    // Not by address: when the bus does not answer the hello message, Qt drops such a connection in
+    // a way for which the D-Bus library aborts the program.
     static QDBusConnection connect()
     {
         static std::atomic<int> count = 0;
@@ -65,7 +65,7 @@ private:
     QDBusMessage call(const QString &path, const QString &interface, const QString &member,
                       const QVariantList &arguments) const
     {
-        // Nobody waits any more: the remaining questions would keep the thread for nothing.
+        // The wait is over: more requests would only keep the thread busy.
         if (m_answer.isDone() || !m_bus.isConnected())
             return {};
         QDBusMessage message = QDBusMessage::createMethodCall(
@@ -83,7 +83,7 @@ private:
         return reply.isValid() ? std::optional(reply.value()) : std::nullopt;
     }
 
-    // Nothing for an interface that resolved doesn't manage, such as the loopback.
+    // Absent for an interface that resolved doesn't manage, such as the loopback.
     std::optional<QVariantMap> linkProperties(int index) const
     {
         const QDBusReply<QDBusObjectPath> path(

@@ -5,17 +5,17 @@
 
 namespace veldmark {
 
-// Asks systemd-resolved for its settings over the system bus. Starts no service: a daemon that is
-// not running does not resolve anything. Nothing blocks the calling thread, also not a dead bus.
+// Reads systemd-resolved's settings from the system bus. Starts no service: a daemon that is not
+// running resolves nothing. Never blocks the calling thread, even when the bus hangs.
 class ResolvedBus {
 public:
-    // One reading takes no longer than this.
+    // The time limit of one reading.
     static constexpr std::chrono::milliseconds limit{3000};
 
     // `clock` must outlive the object and its readings.
     explicit ResolvedBus(Clock &clock) : m_clock(clock) { }
 
-    // Nothing when there is no bus, no such service, or no complete answer in time.
+    // Absent when there is no bus or no such service, or no complete answer in time.
     QCoro::Task<std::optional<ResolvedState>> read();
 
 private:

@@ -10,11 +10,11 @@ namespace veldmark {
 namespace {
 
 constexpr quint16 dnsPort = 53;
-constexpr quint16 torDNSPort = 293; // where our Tor answers look-ups
+constexpr quint16 torDNSPort = 293; // the DNS port of the session's Tor
 constexpr quint64 dnsScope = 1;     // in a link's "ScopesMask"
 
-// The elements of the array that `value` holds, each read by `readElement`. Anything else than
-// a D-Bus array of structures gives nothing.
+// The elements of the array in `value`, each read by `readElement`. Any value but a D-Bus array of
+// structures gives none.
 template <typename T, typename ReadElement>
 std::vector<T> readArray(const QVariant &value, const QString &signature, ReadElement readElement)
 {
@@ -34,7 +34,7 @@ std::vector<T> readArray(const QVariant &value, const QString &signature, ReadEl
     return list;
 }
 
-// `name` is "DNS" or "FallbackDNS"; the form with ports is preferred, older daemons lack it.
+// `name` is "DNS" or "FallbackDNS". Prefers the property with ports, which older daemons lack.
 std::vector<ResolvedServer> readServers(const QVariantMap &properties, const QString &name,
                                         bool withLink)
 {
@@ -136,8 +136,8 @@ std::vector<DNSResolver> ResolvedState::resolvers() const
             ofLinks.insert(server);
     }
 
-    // The index does not tell the system's servers from a link's: a loopback address shows the
-    // loopback's, a link-local one its own. Whatever no link lists is the system's.
+    // The index does not distinguish the system's servers from a link's: a loopback address has the
+    // loopback's index, a link-local one its link's. A server that no link lists is the system's.
     DNSResolver everywhere;
     for (const ResolvedServer &server : servers.empty() ? fallbackServers : servers) {
         const QString text = server.text();

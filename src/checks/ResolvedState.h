@@ -9,20 +9,20 @@
 
 namespace veldmark {
 
-// What systemd-resolved says about itself on the system bus, and what it means. The shapes are
-// those of the bus; ResolvedBus fetches them.
+// systemd-resolved's settings on the system bus, and their meaning. The types follow those of the
+// bus; ResolvedBus reads them.
 
-// An entry of the manager's "DNSEx" property, a(iiayqs), and of "DNS", a(iiay), without the last
-// two. A link's own property has the same without the index.
+// An entry of the manager's "DNSEx" property, a(iiayqs), or of "DNS", a(iiay), which lacks the last
+// two fields. A link's own property lacks the index.
 struct ResolvedServer {
-    int linkIndex = 0; // of a link or, for some addresses of the whole system, not 0 either
+    int linkIndex = 0; // the link's index; not 0 for some system-wide addresses either
     int family = 0;
     QByteArray address; // 4 or 16 bytes, network order
-    quint16 port = 0;   // 0: the usual one
+    quint16 port = 0;   // 0: port 53
     QString serverName;
 
-    // "10.8.0.3", "10.8.0.3:5353", "[2001:db8::3]:5353"; empty when there is no such address. Tor's
-    // own DNS port on the loopback is written as the loopback address alone.
+    // "10.8.0.3", "10.8.0.3:5353", "[2001:db8::3]:5353"; empty for an invalid address. Tor's own
+    // DNS port on the loopback becomes the loopback address alone.
     QString text() const;
     friend bool operator==(const ResolvedServer &, const ResolvedServer &) = default;
 };
@@ -38,20 +38,20 @@ struct ResolvedLink {
     QString interface;
     std::vector<ResolvedServer> servers;
     std::vector<ResolvedDomain> domains;
-    bool isDefaultRoute = true; // gets names that belong to no link's domains
-    bool isActive = true;       // is asked at all
+    bool isDefaultRoute = true; // gets the names that match no link's domains
+    bool isActive = true;       // resolved uses this link
 
-    // From the properties of an "org.freedesktop.resolve1.Link". Missing or odd ones are as if
-    // unset.
+    // From the properties of an "org.freedesktop.resolve1.Link". Missing or invalid properties
+    // count as unset.
     static ResolvedLink fromProperties(const QString &interface, const QVariantMap &properties);
 };
 
 struct ResolvedState {
-    std::vector<ResolvedServer> servers;         // all that are set, of the system and of the links
-    std::vector<ResolvedServer> fallbackServers; // asked only when none is set
+    std::vector<ResolvedServer> servers;         // all servers, of the system and of the links
+    std::vector<ResolvedServer> fallbackServers; // used only when `servers` is empty
     std::vector<ResolvedLink> links;
 
-    // From the properties of "org.freedesktop.resolve1.Manager"; the links are added by the caller.
+    // From the properties of "org.freedesktop.resolve1.Manager"; the caller adds the links.
     static ResolvedState fromProperties(const QVariantMap &properties);
 
     // The system's servers first (for every name, no interface), then each link's: for every name

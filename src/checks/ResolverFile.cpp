@@ -15,8 +15,8 @@ namespace veldmark {
 
 namespace {
 
-// What may stand behind the "%" of an address: a network interface's name or number. It is shown to
-// the user.
+// Whether `text` is valid after the "%" of an address: a network interface's name or number. The
+// user sees it.
 bool isScope(const QByteArray &text)
 {
     return !text.isEmpty() && text.size() < IFNAMSIZ
@@ -24,7 +24,8 @@ bool isScope(const QByteArray &text)
                        [](char c) { return c > ' ' && c <= '~' && c != '%' && c != '/'; });
 }
 
-// IPv4 in every form that inet_aton takes ("127.1"), IPv6 with an optional scope; else empty.
+// IPv4 in every form that inet_aton accepts ("127.1"), IPv6 with an optional scope; otherwise
+// empty.
 QString canonicalAddress(const QByteArray &word)
 {
     in_addr ipv4;
@@ -36,7 +37,7 @@ QString canonicalAddress(const QByteArray &word)
     if (::inet_pton(AF_INET6, address6.constData(), &ipv6) != 1)
         return {};
     QHostAddress address(reinterpret_cast<const quint8 *>(&ipv6));
-    // The C library asks the server also when it can make nothing of the scope.
+    // The C library uses the server even when the scope is invalid.
     if (const QByteArray scope = percent < 0 ? QByteArray() : word.mid(percent + 1); isScope(scope))
         address.setScopeId(QString::fromLatin1(scope));
     return address.toString();
@@ -58,7 +59,7 @@ ResolverFile ResolverFile::parse(const QByteArray &text)
     for (const QByteArray &line : text.split('\n')) {
         if (line.isEmpty() || line.front() == ' ' || line.front() == '\t')
             continue;
-        // Comments need no look of their own: no keyword starts with their characters.
+        // Comments need no special case: no keyword starts with their characters.
         QList<QByteArray> words = line.simplified().split(' ');
         const QByteArray keyword = words.takeFirst();
         if (words.isEmpty())
@@ -82,7 +83,7 @@ ResolverFile ResolverFile::parse(const QByteArray &text)
 
 QByteArray ResolverFile::read(const QString &path)
 {
-    // A pipe in the file's place must not stop the program.
+    // A pipe in place of the file must not block the program.
     const int descriptor = ::open(QFile::encodeName(path).constData(),
                                   O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     if (descriptor < 0)

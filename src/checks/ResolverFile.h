@@ -10,9 +10,9 @@ namespace veldmark {
 
 // /etc/resolv.conf as the C library reads it.
 struct ResolverFile {
-    // The C library asks no more servers than this; further ones are ignored.
+    // The C library uses at most this many servers and ignores the rest.
     static constexpr qsizetype serverLimit = 3;
-    // More of a file is not read.
+    // The limit for reading a file.
     static constexpr qsizetype sizeLimitBytes = 1024 * 1024;
 
     // Canonical addresses, with the scope of a link-local one: "fe80::1%eth0".
@@ -23,13 +23,13 @@ struct ResolverFile {
 
     friend bool operator==(const ResolverFile &, const ResolverFile &) = default;
 
-    // A keyword counts only at the start of a line and before white space; lines that start with
-    // "#" or ";" are comments; what follows a server's address is ignored, an address that is none
-    // is skipped. A carriage return counts as white space: one C library skips such a line, others
-    // take it, and a leak must not be missed.
+    // A keyword counts only at the start of a line and before white space. Lines that start with
+    // "#" or ";" are comments. Text after a server's address is ignored; an invalid address is
+    // skipped. A carriage return counts as white space: one C library skips such a line and others
+    // accept it, and the program must not miss a leak.
     static ResolverFile parse(const QByteArray &text);
 
-    // Empty when there is no such file, it can't be read, or it is no regular file.
+    // Empty when the file does not exist, can't be read, or is not a regular file.
     static QByteArray read(const QString &path);
 
     // At most one resolver, for every name. None without servers: the C library then asks this

@@ -11,7 +11,7 @@ namespace {
 
 const QStringList resolvedAddresses{QStringLiteral("127.0.0.53"), QStringLiteral("127.0.0.54")};
 
-// Follows links also when what they point to is gone.
+// Resolves links, also a link whose target does not exist.
 QString whereItIs(const QString &path)
 {
     const QFileInfo info(path);

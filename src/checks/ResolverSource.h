@@ -7,8 +7,7 @@
 
 namespace veldmark {
 
-// Where the system's name servers are read from. Never fails: settings that can't be read are
-// empty.
+// The source of the system's name servers. Never fails: unreadable settings are empty.
 class ResolverSource {
 public:
     ResolverSource() = default;
@@ -19,17 +18,17 @@ public:
     virtual QCoro::Task<std::vector<DNSResolver>> resolvers() = 0;
 };
 
-// True when look-ups that follow the resolver file end at systemd-resolved: the file lies in its
-// run folder, or names one of its addresses. `target` is where the file really is.
+// True when systemd-resolved answers lookups that follow the resolver file: the file lies in its
+// run folder, or names one of its addresses. `target` is the file's real path.
 bool resolvedServes(const QString &target, const ResolverFile &file);
 
-// Joins what the file says with what systemd-resolved says (nothing when it does not serve the file
-// or does not answer). Resolved's own addresses in the file are no resolvers: who they pass the
-// question on to is what counts. Servers that only the file names come last.
+// Joins the file's servers with systemd-resolved's (absent when it does not serve the file or does
+// not answer). Resolved's own addresses in the file are dropped, because its upstream servers count
+// instead. Servers that only the file names come last.
 std::vector<DNSResolver> joinResolvers(const ResolverFile &file,
                                        const std::optional<ResolvedState> &resolved);
 
-// Linux: systemd-resolved when it serves the resolver file, else the file.
+// Linux: systemd-resolved when it serves the resolver file, otherwise the file.
 class LinuxResolverSource final : public ResolverSource {
 public:
     // `clock` must outlive the object and its readings.
@@ -42,10 +41,10 @@ private:
     ResolvedBus m_bus;
 };
 
-// macOS: what `scutil --dns` prints.
+// macOS: the output of `scutil --dns`.
 class ScutilResolverSource final : public ResolverSource {
 public:
-    // Runs the program and gives back its standard output; empty when it can't be run.
+    // Runs the program and returns its standard output; empty when it can't run.
     using Run = std::function<QCoro::Task<QString>()>;
     explicit ScutilResolverSource(Run run);
 

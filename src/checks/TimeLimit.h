@@ -5,8 +5,8 @@
 
 namespace veldmark {
 
-// Completes `wait` with `value` when `duration` has passed. Touches neither the clock nor anything
-// else of the caller afterwards, so the task may be dropped.
+// Completes `wait` with `value` after `duration`. Afterwards it uses neither the clock nor any
+// other object of the caller, so the caller may drop the task.
 template <typename T>
 QCoro::Task<void> completeAfter(Clock *clock, std::chrono::milliseconds duration,
                                 ResumeOnce<T> wait, T value)

@@ -6,12 +6,13 @@ namespace veldmark {
 
 namespace {
 
-// An idle connection to a relay carries padding both ways, at the latest every 9.5 s.
+// An idle connection to a relay carries padding in both directions, at least every 9.5 s.
 constexpr auto answerPatience = 12s;
-constexpr auto circuitPatience = 10s; // new circuits, as after a new identity, take a moment
-// The smallest message between Tor and a relay is a cell; what an application asks of Tor is less.
+constexpr auto circuitPatience = 10s; // new circuits, as after a new identity, take time
+// The smallest message between Tor and a relay is a cell; an application's request to Tor is
+// smaller.
 constexpr qint64 cellBytes = 500;
-constexpr int routelessLooks = 2; // between two networks there is none
+constexpr int routelessLooks = 2; // between two networks there is briefly no route
 
 } // namespace
 
@@ -29,7 +30,8 @@ std::optional<TrafficWatch::Stall> TrafficWatch::take(const Look &look)
         m_circuitless = std::nullopt;
     else if (!m_circuitless)
         m_circuitless = look.at;
-    // Cells that come are a way, whatever the routes say: a bridge may be in the local network.
+    // Incoming cells prove a route, whatever the routing table says: a bridge may be in the local
+    // network.
     m_routeless = look.hasRoute || hasRead ? 0 : m_routeless + 1;
 
     if (m_routeless >= routelessLooks)

@@ -31,8 +31,8 @@ Danger worst(const SessionFacts &facts)
     return Danger::none;
 }
 
-// What is being waited for. In strict mode the rules were seen to stand, else there is a worse
-// danger.
+// The text for a stall. In strict mode the rules are in the kernel here, because otherwise a worse
+// danger comes first.
 Text waiting(const SessionFacts &facts, bool isStrict)
 {
     using Stall = TrafficWatch::Stall;

@@ -13,33 +13,33 @@
 
 namespace veldmark {
 
-// What is known of a session, as far as it decides how safe it is.
+// The facts about a session that decide how safe it is.
 struct SessionFacts {
     ConnectionPhase phase = ConnectionPhase::disconnected;
     std::optional<RoutingMode> mode = {};
-    std::optional<KillSwitch::State> killSwitch = {}; // absent: nobody has looked, or there is none
+    std::optional<KillSwitch::State> killSwitch = {}; // absent: no report, or no kill switch
     // the last direct probe showed the user's own address
     bool isExposed = false;
     bool isDNSLeaking = false;
     std::optional<bool> torVerified = {}; // absent: not checked yet
-    Text detail = {};                     // the line under the title where no danger is known
-    // absent: something gets through, as far as is known
+    Text detail = {};                     // the line under the title when there is no danger
+    // absent: traffic gets through, as far as known
     std::optional<TrafficWatch::Stall> stall = {};
-    QStringList firewalls = {}; // of Stall::firewall, by name
+    QStringList firewalls = {}; // for Stall::firewall: names of the firewalls
 };
 
-// How safe the session is, in one place: title, symbol, line and colour of every window, the tray,
-// the notifications, the command line and the published state come from here. A known danger comes
-// before everything else. `good` is only a strict session whose rules were seen in the kernel and
-// whose exit was confirmed, without a known leak; proxy mode is never called protected, since
-// applications that ignore the proxy settings are not covered.
+// How safe the session is. Title, symbol, line and colour of every window, the tray, the
+// notifications, the command line and the published state come from here. A known danger comes
+// first. `good` requires a strict session whose rules were seen in the kernel, a confirmed exit and
+// no known leak. Proxy mode is never called protected, because applications that ignore the proxy
+// settings are not covered.
 struct Verdict {
     enum class Level { neutral, working, good, info, warning, danger };
-    // The worst of what is known.
+    // The worst known danger.
     enum class Danger {
         none,
         exitNotConfirmed,
-        stalled, // nothing gets through Tor
+        stalled, // no traffic gets through Tor
         killSwitchUnknown,
         leftOver, // the network is still set up for Tor, without a session
         exposed,  // in strict mode

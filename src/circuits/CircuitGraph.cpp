@@ -6,7 +6,7 @@ namespace veldmark {
 
 namespace {
 
-// Builds one graph; nodes are found again by their key.
+// Builds one graph; finds existing nodes by their key.
 class GraphBuilder {
 public:
     explicit GraphBuilder(const QString &computerLabel)
@@ -38,7 +38,7 @@ public:
     CircuitGraph take() { return std::move(m_graph); }
 
 private:
-    // Fingerprints are upper case; the lower-case letters in every other id keep them apart.
+    // Fingerprints are upper case; lower-case letters in every other id prevent collisions.
     size_t relayNode(const RelayInfo &relay, int column)
     {
         auto &byColumn = m_relays[column - 1];
@@ -88,7 +88,7 @@ private:
         return index;
     }
 
-    // A path that comes back to a relay has its link only once, and none from a node to itself.
+    // A path that returns to a relay has each link only once, and none from a node to itself.
     void connect(size_t from, size_t to)
     {
         if (from == to)

@@ -4,13 +4,13 @@
 
 namespace veldmark {
 
-// The circuits as a picture's structure, from left to right: this computer (column 0), entry,
-// middle and exit relays (1 to 3), sites (4), and one path of edges per circuit.
+// The circuits as a graph, from left to right: this computer (column 0), entry, middle and exit
+// relays (1 to 3), sites (4), and one path of edges per circuit.
 //
 // Every edge of a circuit with up to three hops leads to a higher column: a relay that is the
-// middle of one circuit and the exit of another is a node in each of the two columns. Of two hops
-// the second is the exit (column 3); a single hop is the entry and its sites hang on it; of more
-// than three, all between the first and the last stand in column 2. A circuit without hops is left
+// middle of one circuit and the exit of another has a node in both columns. The second of two hops
+// is the exit (column 3). A single hop is the entry, with its sites attached to it. With more than
+// three hops, all between the first and the last are in column 2. A circuit without hops is left
 // out.
 struct CircuitGraph {
     enum class Kind { mac, relay, site, more };
@@ -21,7 +21,7 @@ struct CircuitGraph {
         Kind kind = Kind::mac;
         std::optional<RelayInfo> relay; // of relay nodes
         QString label;                  // the relay's nickname, the site's name, "+2 more"
-        QStringList circuitIDs; // of the circuits through this node, in their order, each once
+        QStringList circuitIDs;         // the circuits through this node, in order, each once
         friend bool operator==(const Node &, const Node &) = default;
     };
 
@@ -33,7 +33,7 @@ struct CircuitGraph {
         friend bool operator==(const Edge &, const Edge &) = default;
     };
 
-    // A circuit shows this many sites; what is beyond them is one `more` node of its own.
+    // The number of sites shown per circuit; one `more` node stands for the rest.
     static constexpr qsizetype shownSites = 3;
 
     std::vector<Node> nodes; // in the order in which they first appear
@@ -41,12 +41,12 @@ struct CircuitGraph {
 
     friend bool operator==(const CircuitGraph &, const CircuitGraph &) = default;
 
-    // `computerLabel` is what the system calls the computer ("This Mac", "This computer").
+    // `computerLabel` is the system's word for the computer ("This Mac", "This computer").
     static CircuitGraph build(const std::vector<CircuitInfo> &circuits,
                               const QString &computerLabel = QStringLiteral("This Mac"));
 
     // The circuit to follow after a click on `node` while `followed` (may be empty) is followed:
-    // the next one through the node, so that clicks on a shared node go round. Nothing when no
+    // the next circuit through the node, so that clicks on a shared node cycle. Nothing when no
     // circuit goes through it.
     static std::optional<QString> select(const Node &node, const QString &followed);
 };

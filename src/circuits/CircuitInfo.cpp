@@ -21,7 +21,7 @@ QJsonObject RelayInfo::toJson() const
 
 size_t qHash(const RelayInfo &relay, size_t seed)
 {
-    // An absent text must not equal an empty one, hence has_value() beside the value.
+    // An absent text must not equal an empty one, hence has_value() as well.
     return qHashMulti(seed, relay.fingerprint, relay.nickname, relay.ip.has_value(),
                       relay.ip.value_or(QString()), relay.country.has_value(),
                       relay.country.value_or(QString()));

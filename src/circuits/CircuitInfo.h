@@ -10,16 +10,16 @@
 #include <optional>
 #include <vector>
 
-// The room of Tor's circuits: these records, CircuitParser that makes them from Tor's replies,
-// CircuitTable that joins one refresh into a list, and CircuitGraph with GraphLayout that turn the
-// list into a picture. Everything here is a value or a pure function; nothing talks to Tor.
+// The room of Tor's circuits: these records, CircuitParser, which makes them from Tor's replies,
+// CircuitTable, which joins one refresh into a list, and CircuitGraph with GraphLayout, which lay
+// the list out as a graph. Everything here is a value or a pure function; nothing connects to Tor.
 namespace veldmark {
 
 // One relay on a circuit's path.
 struct RelayInfo {
     QString fingerprint;       // upper-case hexadecimal without "$"
-    QString nickname;          // the first eight characters of the fingerprint where Tor gives none
-    std::optional<QString> ip; // absent until resolved, and where Tor knows none
+    QString nickname;          // the first eight characters of the fingerprint when Tor gives none
+    std::optional<QString> ip; // absent until resolved, and when Tor knows none
     std::optional<QString> country; // two letters as Tor writes them, lower case
 
     friend bool operator==(const RelayInfo &, const RelayInfo &) = default;
@@ -39,19 +39,19 @@ struct CircuitInfo {
     std::optional<QDateTime> created; // UTC, milliseconds
     QStringList sites;                // host names and addresses seen on this circuit, each once
 
-    // What Tor says beyond the above.
-    QString confluxID; // the legs of one conflux set have the same; empty on other circuits
+    // Further facts from Tor.
+    QString confluxID; // equal for the legs of one conflux set; empty on other circuits
     std::optional<std::chrono::microseconds> roundTrip; // measured by Tor on conflux legs
-    // The onion service that this circuit of the user's leads to, "….onion"; empty on other
-    // circuits. Its last relay is where the service meets it, not an exit.
+    // The onion service that this user's circuit leads to, "….onion"; empty on other circuits. The
+    // circuit's last relay is the rendezvous point, not an exit.
     QString onionService;
-    bool isOneHopTunnel = false; // a directory fetch, no path for the user's traffic
-    bool isInternal = false;     // for Tor's own ends; does not leave through an exit
+    bool isOneHopTunnel = false; // a directory fetch, not a path for the user's traffic
+    bool isInternal = false;     // for Tor's own purposes; does not leave through an exit
 
     friend bool operator==(const CircuitInfo &, const CircuitInfo &) = default;
 
-    // Keys id, hops, purpose, created (ISO 8601 in UTC with milliseconds, or null), sites; and
-    // "rtt" in microseconds only where Tor has measured one.
+    // Keys id, hops, purpose, created (ISO 8601 in UTC with milliseconds, or null), sites. "rtt" in
+    // microseconds only when Tor has measured it.
     QJsonObject toJson() const;
 };
 

@@ -5,7 +5,7 @@
 
 namespace veldmark {
 
-// The colours in which circuits are drawn: sRGB, opaque, components from 0 to 1.
+// The colours of circuits: sRGB, opaque, components from 0 to 1.
 struct CircuitPalette {
     struct Color {
         double red;
@@ -25,7 +25,7 @@ struct CircuitPalette {
         {0.86, 0.52, 0.96},
     }};
 
-    // The colour of the circuit at `index` of the list; the ninth has the first one's again.
+    // The colour of the circuit at `index` of the list; the colours repeat from the ninth on.
     static constexpr Color color(std::size_t index) { return colors[index % colors.size()]; }
 };
 

@@ -73,8 +73,8 @@ void readBuildFlags(QStringView flags, CircuitInfo &circuit)
     }
 }
 
-// What the words behind the path say. Of two words with one key the first counts: what a program
-// has given Tor as its user name comes after what Tor says of the circuit.
+// The values after the path. The first of two words with the same key counts: a SOCKS user name,
+// which a program chooses, comes after Tor's own words.
 class Fields {
 public:
     void read(QStringView rest)
@@ -130,7 +130,7 @@ bool isIPv4(QStringView text)
         const qsizetype dot = text.indexOf(u'.');
         const QStringView part = dot < 0 ? text : text.first(dot);
         if (part.isEmpty() || part.size() > 3 || (part.size() > 1 && part.front() == u'0'))
-            return false; // what has a leading zero is octal to some
+            return false; // some parsers read a leading zero as octal
         const int value = digits(part, 0, part.size());
         if (value < 0 || value > 255)
             return false;
@@ -142,8 +142,8 @@ bool isIPv4(QStringView text)
     return false;
 }
 
-// The address part of "ADDRESS:PORT" or "[ADDRESS]:PORT"; empty when `word` is something else,
-// such as a transport's name or an argument.
+// The address part of "ADDRESS:PORT" or "[ADDRESS]:PORT"; empty for any other word, such as a
+// transport's name or an argument.
 QString addressBeforePort(QStringView word)
 {
     const qsizetype colon = word.lastIndexOf(u':');
@@ -217,7 +217,7 @@ std::optional<QString> ipFromNetworkStatus(const QStringList &lines)
         QStringView piece;
         for (int i = 0; i < 7; ++i)
             piece = nextPiece(rest, u' ');
-        // The address goes into the next command to Tor, so nothing else may pass as one.
+        // The address goes into the next command to Tor, so no other text may pass.
         return isIPv4(piece) ? std::optional(piece.toString()) : std::nullopt;
     }
     return std::nullopt;
@@ -285,7 +285,7 @@ std::optional<QDateTime> timeFormatter(QStringView text)
             unit /= 10;
         }
     }
-    // -1, for what is not a number, makes an invalid date or time; but there is a year -1.
+    // -1, from a text that is not a number, makes the date or time invalid; but the year -1 exists.
     const int year = digits(text, 0, 4);
     const QDate date(year, digits(text, 5, 2), digits(text, 8, 2));
     const QTime time(digits(text, 11, 2), digits(text, 14, 2), digits(text, 17, 2), milliseconds);

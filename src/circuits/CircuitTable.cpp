@@ -33,14 +33,14 @@ std::vector<CircuitInfo> keptCircuits(const QStringList &lines)
     return kept;
 }
 
-// What shares one list of sites: a whole conflux set, or a single circuit. Circuit numbers are
-// digits and hold no blank, so the two kinds cannot meet.
+// The key of a shared list of sites: a whole conflux set, or a single circuit. Circuit numbers are
+// digits without blanks, so the two kinds cannot collide.
 QString sharingKey(const CircuitInfo &circuit)
 {
     return circuit.confluxID.isEmpty() ? circuit.id : QStringLiteral("set ") + circuit.confluxID;
 }
 
-// An ordered list of sites without duplicates; a busy circuit may have thousands.
+// An ordered list of sites without duplicates. A busy circuit may have thousands, hence the set.
 struct Sites {
     QStringList names;
     QSet<QString> known;

@@ -21,7 +21,7 @@ GraphLayout::GraphLayout(const CircuitGraph &graph, QSizeF size)
     for (const CircuitGraph::Node &node : graph.nodes)
         ++count[static_cast<size_t>(node.column)];
 
-    // A window that is lower than the margins puts every node of a column in one place.
+    // In a window lower than the margins all nodes of a column are at one position.
     const double band = std::max(size.height() - top - bottom, 0.0);
     std::array<double, columns> row{};
     std::array<double, columns> next{}; // y of the column's next node

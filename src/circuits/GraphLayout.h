@@ -8,9 +8,9 @@
 
 namespace veldmark {
 
-// Where the nodes of a graph are drawn in an area of `size` (points; the origin is the top left).
-// Columns stand at fixed fractions of the width; the nodes of a column share the height between
-// 46 points from the top and 18 from the bottom, in rows of at most 64, centred.
+// The positions of a graph's nodes in an area of `size` (points; the origin is the top left).
+// Columns are at fixed fractions of the width. The nodes of a column share the height between 46
+// points from the top and 18 from the bottom, in rows of at most 64, centred.
 struct GraphLayout {
     QHash<QString, QPointF> positions; // node id → its centre
 

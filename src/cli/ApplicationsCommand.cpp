@@ -25,7 +25,7 @@ QJsonObject finding(const QString &path, const QString &name, bool isChosen, boo
     return {{pathKey, path}, {nameKey, name}, {bypassedKey, isChosen}, {installedKey, isInstalled}};
 }
 
-// A text from a file or the user, fit for one line.
+// A text from a file or the user, made safe for one line.
 QString shown(const QString &text)
 {
     QString line = text.left(60);

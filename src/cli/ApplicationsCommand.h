@@ -16,22 +16,22 @@ namespace veldmark {
 
 struct PlatformProfile;
 
-// `veldmarkctl apps`: the installed applications, and which of them the user has chosen to open
-// without Tor. Needs no running instance: the choice is in the settings.
+// `veldmarkctl apps`: the installed applications, and those that bypass Tor. Needs no running
+// instance, because the choice is in the settings.
 QCoro::Task<ExitStatus> showApplications(Invocation invocation, PlatformProfile profile);
 
-// The absolute path that the user means: of an application by its name (letter case aside) or its
-// desktop entry's file name, with or without ".desktop"; or a path of an existing file. The error
-// is one line.
+// The absolute path for `wanted`: the name of an application (case-insensitive), the file name of
+// its desktop entry with or without ".desktop", or a path of an existing file. The error is one
+// line.
 Result<QString, Text> applicationPath(const QString &wanted);
 Result<QString, Text> applicationPath(const QString &wanted,
                                       const std::vector<InstalledApplication> &installed);
 
-// Every installed application and every chosen one, by name:
+// Every installed application and every chosen one, sorted by name:
 //
 //     [{"path": …, "name": …, "bypassed": chosen, "installed": bool}]
 //
-// `nameOf` names chosen ones that are not installed (or hidden).
+// `nameOf` names the chosen applications that are not installed (or hidden).
 QJsonArray applicationFindings(const std::vector<InstalledApplication> &installed,
                                const QStringList &chosen,
                                const std::function<QString(const QString &path)> &nameOf);

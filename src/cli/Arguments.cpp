@@ -6,7 +6,7 @@ namespace veldmark {
 
 namespace {
 
-// What a user typed, fit for one line of a message.
+// The user's text, made safe for one line of a message.
 QString quoted(const QString &text)
 {
     QString shown = text.left(60).simplified();
@@ -26,7 +26,7 @@ Text missing(const Verb &verb)
         : Text::tr("%1 needs a key and a value: veldmarkctl %1 KEY VALUE.").arg(verb.name);
 }
 
-// A line of the usage text, or more.
+// The command's part of the usage text.
 QString usageOf(const Verb &verb)
 {
     constexpr int column = 28;

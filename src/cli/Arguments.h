@@ -9,7 +9,7 @@
 
 namespace veldmark {
 
-// What one call of veldmarkctl asks for.
+// One call of veldmarkctl.
 struct Invocation {
     Verb::Id verb = Verb::Id::help;
     bool connectNow = false; // run --connect
@@ -20,19 +20,19 @@ struct Invocation {
     // the first operand: get, set; close-circuit's id; launch's application
     QString key;
     QString value;       // the second: set
-    QStringList program; // run-as: what is run, with its own words
+    QStringList program; // run-as: the program with its own arguments
 };
 
-// What the process ends with.
+// The exit status of the process.
 enum class ExitStatus {
     done = 0,
     failed = 1,         // the reason is on standard error, in one line
     usage = 2,          // unknown verb, option, key or value
     notRunning = 3,     // the command needs a running instance
-    alreadyRunning = 4, // run: another instance of this user's is there, or its place is taken
+    alreadyRunning = 4, // run: another instance of this user runs, or its socket is taken
 };
 
-// Reads the arguments after the program's name. The error is one line.
+// Parses the arguments after the program's name. The error is one line.
 Result<Invocation, Text> parseArguments(const QStringList &arguments);
 
 QString usageText();

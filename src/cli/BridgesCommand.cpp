@@ -19,7 +19,7 @@ namespace veldmark {
 
 namespace {
 
-// Everything that a program of a bundle may serve.
+// All transports that a program of a bundle may serve.
 QStringList knownTransports()
 {
     return {QStringLiteral("obfs4"),     QStringLiteral("meek_lite"),
@@ -81,7 +81,7 @@ QString row(const QString &name, const QString &text)
     return QStringLiteral("\n  %1%2").arg(name, -18).arg(text);
 }
 
-// A text from a file or a settings line, fit for a terminal.
+// A text from a file or a settings line, made safe for a terminal.
 QString shortened(const QString &text)
 {
     QString line = text.left(60);
@@ -92,7 +92,7 @@ QString shortened(const QString &text)
     return text.size() > line.size() ? line + u'…' : line;
 }
 
-// What of the user's own bridges can't be used, a line each.
+// The invalid lines of the user's own bridges, one text each.
 QStringList problems(const QJsonObject &custom)
 {
     QStringList lines;
@@ -201,7 +201,7 @@ QString downloadedText(const PlatformProfile &profile, const QString &told)
 
 QCoro::Task<ExitStatus> downloadTransportsHere(PlatformProfile profile)
 {
-    const auto lock = lockInstance(profile); // nobody connects meanwhile: this goes direct
+    const auto lock = lockInstance(profile); // no connect meanwhile: the download bypasses Tor
     if (!lock) {
         Console::printError(lock.error());
         co_return ExitStatus::alreadyRunning;
@@ -215,7 +215,7 @@ QCoro::Task<ExitStatus> downloadTransportsHere(PlatformProfile profile)
     const auto line = std::make_shared<ProgressLine>(Console::isTerminal(), Console::width());
     QObject::connect(
         &controller.transportDownload, &Field::changed, &controller, [&controller, line] {
-            if (!controller.canDownloadTransports()) // the last word is not progress
+            if (!controller.canDownloadTransports()) // the final message is not progress
                 Console::draw(
                     line->update(controller.transportDownload().value_or(Text()).translated()));
         });

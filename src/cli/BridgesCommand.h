@@ -11,28 +11,27 @@ namespace veldmark {
 struct PlatformProfile;
 struct PluggableTransports;
 
-// `veldmarkctl bridges`: what was found, where, what each program serves, and whether the stored
-// custom lines are valid. Needs no running instance; it starts each program for a moment to ask it.
-// Fails when a custom line is not valid.
+// `veldmarkctl bridges`: the transport programs with their paths and transports, and whether the
+// stored custom lines are valid. Needs no running instance; it starts each program briefly to query
+// it. Fails when a custom line is not valid.
 QCoro::Task<ExitStatus> showBridges(Invocation invocation, PlatformProfile profile);
 
-// What a download that went well comes to; `told`: what the controller has to say of it, if
-// anything.
+// The text after a successful download; `told` is the controller's message, if any.
 QString downloadedText(const PlatformProfile &profile, const QString &told);
-// `veldmarkctl download-transports` where no instance runs. Ctrl-C ends it and leaves nothing half
-// done.
+// `veldmarkctl download-transports` without a running instance. Ctrl-C ends it and leaves no
+// partial installation.
 QCoro::Task<ExitStatus> downloadTransportsHere(PlatformProfile profile);
 
 namespace Report {
 
-// What the command shows, from what it gathers:
+// The output of the command, from its findings:
 //
 //     {"programs": {NAME: {"path": …, "serves": [transport…]} or null},
 //      "builtin": {transport: count}, "source": label,
 //      "bundle": {"version": …, "verification": "signature" or "https"} or null,
 //      "custom": {"valid": count, "invalid": [{"line": number, "text": …}]}}
 QString bridges(const QJsonObject &findings);
-// What of the user's own lines can't be used, as that command says it; empty when all can.
+// The invalid lines of the user's own bridges, in that command's words; empty when all are valid.
 QStringList bridgeProblems(const QString &text);
 
 } // namespace Report

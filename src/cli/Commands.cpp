@@ -42,7 +42,7 @@ QJsonObject request(const Invocation &invocation)
     return request;
 }
 
-// Programs read the state in English.
+// A program reads the state in English, the user in their own language.
 QJsonObject forReader(const Invocation &invocation, const QJsonObject &state,
                       const QJsonObject &texts)
 {
@@ -50,7 +50,7 @@ QJsonObject forReader(const Invocation &invocation, const QJsonObject &state,
     return isForProgram ? state : inUsersLanguage(state, texts);
 }
 
-// Prints one state the way the command wants it. False when it cannot: an unknown key.
+// Prints one state in the command's format. False for an unknown key.
 bool show(const Invocation &invocation, const QJsonObject &state)
 {
     switch (invocation.verb) {
@@ -86,7 +86,7 @@ bool showsLastState(const Invocation &invocation)
         && invocation.verb != Verb::Id::downloadTransports;
 }
 
-// They are stored as they were typed; a connect would refuse them.
+// Prints invalid bridge lines. The setting stores them unchanged; a connect refuses them.
 void tellOfBridges(const Invocation &invocation)
 {
     if (invocation.verb != Verb::Id::set || invocation.key != QLatin1String("customBridges"))
@@ -95,7 +95,7 @@ void tellOfBridges(const Invocation &invocation)
         Console::printError(problem);
 }
 
-// What came of terminal mode, where not all is well: in the windows it stands beside the switch.
+// Prints a problem with terminal mode; the windows show it beside the switch.
 void tellOfTerminal(const Invocation &invocation, const QJsonObject &state)
 {
     if (invocation.verb != Verb::Id::set || invocation.key != QLatin1String("terminalMode"))
@@ -120,7 +120,7 @@ QCoro::Task<ExitStatus> askInstance(Invocation invocation, PlatformProfile profi
 {
     const auto last = std::make_shared<QJsonObject>();
     const auto progress = std::make_shared<ProgressLine>(Console::isTerminal(), Console::width());
-    const auto problem = std::make_shared<QString>(); // as it was shown last
+    const auto problem = std::make_shared<QString>(); // the last one shown
     const InstanceClient::OnState onState =
         [invocation, last, progress, problem](const QJsonObject &sent, const QJsonObject &texts) {
             const QJsonObject state = forReader(invocation, sent, texts);
@@ -144,7 +144,7 @@ QCoro::Task<ExitStatus> askInstance(Invocation invocation, PlatformProfile profi
     tellOfBridges(invocation);
     tellOfTerminal(invocation, *last);
     if (invocation.verb == Verb::Id::downloadTransports) {
-        // Drawn already as the last line of the progress, unless that has cut it off.
+        // The progress line shows it already, unless it was cut off there.
         const QString told = last->value(QStringLiteral("transportDownload")).toString();
         if (told.isEmpty() || (Console::isTerminal() && told.size() >= Console::width()))
             Console::print(downloadedText(profile, told));
@@ -154,11 +154,11 @@ QCoro::Task<ExitStatus> askInstance(Invocation invocation, PlatformProfile profi
     co_return show(invocation, *last) ? ExitStatus::done : ExitStatus::usage;
 }
 
-// What can be done without a running instance, by a controller that lives for this one command.
+// Executes the command without a running instance, with a controller of its own.
 QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production> production)
 {
     TorController &controller = production->controller();
-    if (invocation.verb != Verb::Id::status || invocation.json) { // the report says it as well
+    if (invocation.verb != Verb::Id::status || invocation.json) { // the report has it too
         for (const Text &problem : controller.settingsProblems())
             Console::printError(problem);
     }
@@ -181,12 +181,13 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
 
     controller.detectStaleState();
     if (invocation.verb == Verb::Id::disconnect || invocation.verb == Verb::Id::restore) {
-        const auto lock = lockInstance(controller.profile()); // nobody starts meanwhile
+        const auto lock = lockInstance(controller.profile()); // no other process starts meanwhile
         if (!lock) {
             Console::printError(lock.error());
             co_return ExitStatus::alreadyRunning;
         }
-        if (controller.phase() != ConnectionPhase::disconnected) { // else there is nothing to do
+        // otherwise there is nothing to restore
+        if (controller.phase() != ConnectionPhase::disconnected) {
             const auto ended = co_await controller.disconnect();
             if (!ended) {
                 Console::printError(ended.error().isEmpty() ? Text::tr("Cancelled.")
@@ -205,9 +206,9 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
         : ExitStatus::usage;
 }
 
-// As root there is nobody to ask: the helper itself says whether there is a session to open the
-// application beside, whoever's it is. So it also works where no password can be asked for: `sudo
-// veldmarkctl launch …`.
+// For root: no approval is needed, and the helper itself checks that a strict session is in force,
+// whichever user owns it. So it also works where no password prompt is possible: `sudo veldmarkctl
+// launch …`.
 QCoro::Task<ExitStatus> launchHere(QString path, std::shared_ptr<Production> production)
 {
     const QStringList arguments = {QStringLiteral("launch"), QStringLiteral("--uid"),

@@ -9,9 +9,9 @@ namespace veldmark {
 class InstanceClient;
 struct PlatformProfile;
 
-// Every command but `run`: given to the running instance where there is one, else done here as far
-// as that makes sense (status, settings, the log, and restoring the network). Prints what there is
-// to print and resumes with what the process is to end with.
+// Executes every command but `run`. The running instance executes it if there is one; otherwise
+// this process does, as far as possible (status, settings, the log, and restoring the network).
+// Prints the output and resumes with the exit status.
 QCoro::Task<ExitStatus> execute(Invocation invocation, PlatformProfile profile);
 
 } // namespace veldmark

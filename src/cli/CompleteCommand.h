@@ -6,9 +6,9 @@ namespace veldmark {
 
 struct PlatformProfile;
 
-// What the shells' completions ask for, one "WORD:HELP" on each line: `complete commands`,
-// `complete options COMMAND`, `complete fields`, `complete settings`, `complete values SETTING`.
-// Nothing for what is not known.
+// The data for the shells' completions, one "WORD:HELP" per line: `complete commands`, `complete
+// options COMMAND`, `complete fields`, `complete settings`, `complete values SETTING`. Prints
+// nothing for an unknown word.
 ExitStatus showCompletions(const Invocation &invocation, const PlatformProfile &profile);
 
 } // namespace veldmark

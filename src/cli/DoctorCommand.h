@@ -11,18 +11,17 @@ namespace veldmark {
 
 struct PlatformProfile;
 
-// `veldmarkctl doctor`: looks at this computer, with or without a running instance. Fails unless a
-// connect can work, as far as anybody but the network can tell.
+// `veldmarkctl doctor`: examines this computer, with or without a running instance. Fails unless a
+// connect can work, as far as that is known without the network.
 QCoro::Task<ExitStatus> showDoctor(Invocation invocation, PlatformProfile profile);
 
-// {"canConnect": bool, or null where that can't be told,
+// {"canConnect": bool, or null when unknown,
 //  "findings": [{"name": …, "level": …, "text": …, "command": … or null}]}
 QJsonObject doctorFindings(const Findings &findings);
 
 namespace Report {
 
-// A line for each finding, below it what mends it, and a last line that says whether a connect can
-// work.
+// One line per finding, its remedy below it, and a last line that says whether a connect can work.
 QString doctor(const Findings &findings);
 
 } // namespace Report

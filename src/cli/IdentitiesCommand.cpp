@@ -25,7 +25,7 @@ namespace veldmark {
 namespace {
 
 constexpr qint64 noteLimitBytes = 4 << 20;
-constexpr int readings = 20; // it may be written just then
+constexpr int readings = 20; // the program may be writing it at that moment
 
 Text whyNone(const PlatformProfile &profile)
 {
@@ -45,7 +45,7 @@ ExitStatus fail(const Text &reason, ExitStatus status = ExitStatus::failed)
     return status;
 }
 
-// The socket of the program that gives identities.
+// The socket of the identity program.
 class Sending {
 public:
     explicit Sending(const QString &path) : m_socket(socket(AF_UNIX, SOCK_DGRAM, 0))
@@ -79,7 +79,8 @@ private:
     bool m_isThere = false;
 };
 
-// Runs in the group: REASON PATTERN FILE PROGRAM…; the reason is said when it has no identity.
+// The script that runs in the group: REASON PATTERN FILE PROGRAM…. Prints the reason when it gets
+// no identity.
 const QString waitInGroup = QStringLiteral(R"(reason=$1 pattern=$2 file=$3 tries=0
 shift 3
 until grep -qx -- "$pattern" "$file"; do

@@ -15,7 +15,7 @@ namespace veldmark {
 
 struct PlatformProfile;
 
-// What the helper's program tells of applications and their addresses, in the file that the profile
+// The identity program's list of applications and their addresses, in the file that the profile
 // names.
 struct Identities {
     struct Identity {
@@ -27,24 +27,24 @@ struct Identities {
     bool standing = false; // the firewall's table is there
     std::vector<Identity> all;
 
-    // Absent when there is no such file, none that was written whole, or nobody at the socket: a
-    // program that was killed cannot take its file along.
+    // Absent when the file does not exist or is incomplete, or no process listens on the socket: a
+    // killed program leaves its file behind.
     static std::optional<Identities> read(const PlatformProfile &profile);
     static std::optional<Identities> parse(const QByteArray &text);
 };
 
-// `veldmarkctl identities`: this user's, for root everybody's.
+// `veldmarkctl identities`: this user's identities; for root those of all users.
 QCoro::Task<ExitStatus> showIdentities(Invocation invocation, PlatformProfile profile);
 
-// `veldmarkctl renew APP`: another address for it.
+// `veldmarkctl renew APP`: gives the application another address.
 QCoro::Task<ExitStatus> renewIdentity(Invocation invocation, PlatformProfile profile);
 
-// `veldmarkctl run-as NAME -- PROGRAM…`: becomes the program, in a group of its own; returns only
-// when it cannot.
+// `veldmarkctl run-as NAME -- PROGRAM…`: replaces this process with the program, in its own group.
+// Returns only on failure.
 QCoro::Task<ExitStatus> runAs(Invocation invocation, PlatformProfile profile);
 
-// What runAs() becomes. Waits in the new group until its identity is known, so that the program has
-// no other one.
+// The command line that runAs() executes. It waits in the new group until its identity is known, so
+// that the program never has another identity.
 QStringList runAsWords(const QString &name, const QString &start, uid_t user,
                        const PlatformProfile &profile, const QStringList &program);
 

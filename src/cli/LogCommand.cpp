@@ -44,7 +44,7 @@ void print(const QList<TorLogLine> &lines)
         Console::print(texts.join(u'\n'));
 }
 
-// Says why there is nothing to show. True when the files are there but closed to this user.
+// Prints why there is nothing to show. True when the files exist but this user can't read them.
 bool explain(const TorLogFilter &filter, const TorLogStore &store)
 {
     const auto placeholder = filter.placeholder(store.snapshot(), filter.shown(store.snapshot()),
@@ -64,7 +64,7 @@ QString logLineText(const TorLogLine &line, bool coloured)
     const QString text = harmless(line.raw);
     if (!coloured)
         return text;
-    const qsizetype timeEnd = line.time ? line.time->size() : 0; // the line begins with it
+    const qsizetype timeEnd = line.time ? line.time->size() : 0; // the text begins with the time
     if (timeEnd == 0)
         return inColour(text, line.level);
     return faint + text.left(timeEnd) + plain + inColour(text.mid(timeEnd), line.level);
@@ -72,7 +72,7 @@ QString logLineText(const TorLogLine &line, bool coloured)
 
 QList<TorLogLine> newLogLines(const QList<TorLogLine> &before, const QList<TorLogLine> &now)
 {
-    QHash<QString, int> known; // how often each stood there
+    QHash<QString, int> known; // how often each line occurred
     for (const TorLogLine &line : before)
         ++known[line.raw];
     QList<TorLogLine> added;

@@ -23,7 +23,7 @@ QString text(const QJsonObject &state, const char *key)
     return state.value(QLatin1String(key)).toString();
 }
 
-// Whether the rules were seen to be there.
+// Whether the rules were seen in the kernel.
 bool isClosed(const QJsonObject &state)
 {
     const QString rules = text(state, "killSwitch");
@@ -35,7 +35,7 @@ Text modeText(const QJsonObject &state)
 {
     if (text(state, "activeMode") != QLatin1String("strict"))
         return Text::tr("proxy: apps that ignore the system proxy are not covered");
-    // Rules that stand are no proof where something was seen to get out all the same.
+    // Rules in the kernel are no proof when a check has seen traffic leave.
     const bool isHeld = isClosed(state) && text(state, "level") != QLatin1String("danger");
     return isHeld ? Text::tr("strict: only Tor's traffic leaves") : Text::tr("strict");
 }
@@ -74,7 +74,8 @@ Text directText(const QJsonObject &state)
         return Text::tr("open; it shows the address %1")
             .arg(leak.toObject().value(QStringLiteral("exposed")).toString());
     const QString word = leak.toString();
-    // Only the kill switch blocks: in proxy mode, silence is no protection.
+    // Only the kill switch blocks: in proxy mode a direct probe without an answer proves no
+    // protection.
     if (word == QLatin1String("blocked") && isClosed(state))
         return Text::tr("blocked");
     if (word == QLatin1String("blocked"))
@@ -142,7 +143,7 @@ QString status(const QJsonObject &state)
     if (phase == QLatin1String("connected")) {
         report += row(Text::tr("Mode"), modeText(state));
         report += row(Text::tr("Exit"), exitText(state));
-        // a time of before would promise too much
+        // an earlier time would promise too much
         const bool isStalled = state.value(QStringLiteral("stall")).isString();
         if (const QJsonValue latency = state.value(QStringLiteral("latencyMs"));
             latency.isDouble() && !isStalled)
@@ -196,7 +197,7 @@ QString circuits(const QJsonObject &state)
         QStringList path;
         for (const QJsonValue &hop : circuit.value(QStringLiteral("hops")).toArray())
             path << hopText(hop.toObject());
-        // Tor's word for the way to an onion service is long
+        // Tor's word for a circuit to an onion service is long.
         const QString purpose = text(circuit, "purpose");
         lines << QStringLiteral("%1  %2  %3")
                      .arg(text(circuit, "id"), 4)

@@ -48,7 +48,7 @@ QCoro::Task<void> RunCommand::begin()
         co_await m_controller.connect();
     else
         co_await m_controller.autoConnectIfEnabled();
-    // somebody else has ended the attempt by a disconnect
+    // a disconnect by another caller has ended the attempt
     if (!self || m_withdrawal.isUnderWay() || m_restored)
         co_return;
     const bool isRefused = m_controller.phase() == ConnectionPhase::disconnected
@@ -60,7 +60,7 @@ QCoro::Task<void> RunCommand::begin()
     } else if (m_controller.phase() == ConnectionPhase::disconnected) {
         m_lines.say(Text::tr("Ready. Connect with: veldmarkctl connect"));
     } else if (m_controller.phase() == ConnectionPhase::stale) {
-        m_lines.showPhase(); // a connect that was refused says why in the banner alone
+        m_lines.showPhase(); // only the banner has the reason of a refused connect
     }
 }
 

@@ -15,16 +15,16 @@
 
 namespace veldmark {
 
-// `veldmarkctl run`: the program without a window, in the foreground, until a signal asks it to
-// restore the network and end. Prints what a person wants to follow. Ending is never half-way: a
-// signal that comes while the helper works is heeded when it has finished.
+// `veldmarkctl run`: the program without a window, in the foreground. Prints the progress of the
+// session. A signal makes it restore the network and end. It never ends half-way: a signal during
+// the helper's work takes effect when the helper has finished.
 class RunCommand : public QObject {
     Q_OBJECT
 
 public:
     RunCommand(const PlatformProfile &profile, bool connectNow);
 
-    // Starts; `finished` follows, perhaps at once.
+    // Starts; emits `finished` later, or at once.
     void start();
 
 Q_SIGNALS:
@@ -45,8 +45,10 @@ private:
     SignalWatcher m_signals;
     SessionLines m_lines;
     bool m_restored = false; // a disconnect has begun since the start
-    bool m_mustEnd = false;  // asked by somebody who won't ask again: SIGTERM, SIGHUP
-    QObject m_lifetime;      // goes first, so that what the others' ends resume finds it gone
+    bool m_mustEnd = false;  // SIGTERM or SIGHUP, whose sender does not ask again
+    // declared last and so destroyed first: coroutines that the other members' destructors resume
+    // can check it
+    QObject m_lifetime;
 };
 
 } // namespace veldmark

@@ -13,7 +13,7 @@ SessionLines::SessionLines(const TorController &controller)
     : m_controller(controller),
       m_progress(Console::isTerminal(), Console::width())
 {
-    // Queued: what is shown has been set as a whole.
+    // Queued: all fields of one change are set before the output.
     const auto follow = [this](std::initializer_list<const Field *> fields,
                                void (SessionLines::*show)()) {
         for (const Field *field : fields)
@@ -53,10 +53,11 @@ void SessionLines::showPhase()
     if (phase == ConnectionPhase::connecting || m_controller.isChecking()) {
         if (phase == ConnectionPhase::connecting)
             m_lastPhase = phase;
-        return; // the progress line speaks, or the answers are on their way
+        return; // the progress line shows it, or the checks still run
     }
     if (phase == ConnectionPhase::disconnecting) {
-        if (std::exchange(m_lastPhase, phase) != phase) // checks that end with it come here as well
+        // checks that end with the session also call this
+        if (std::exchange(m_lastPhase, phase) != phase)
             say(m_controller.statusDetail());
         return;
     }
@@ -75,7 +76,7 @@ void SessionLines::showPhase()
         say(Text::tr("Press Ctrl-C to disconnect."));
 }
 
-// On a change of state alone: a program that removes the rules without pause is told once.
+// Only on a change of state: a program that removes the rules again and again is reported once.
 void SessionLines::showKillSwitch()
 {
     const auto &rules = m_controller.killSwitch();
@@ -88,7 +89,8 @@ void SessionLines::showKillSwitch()
         showPhase();
 }
 
-// What the checks find between the phases, and what becomes of another process's session.
+// Prints results of the checks while the phase stays the same, and changes of another process's
+// session.
 void SessionLines::showVerdict()
 {
     const ConnectionPhase phase = m_controller.phase();

@@ -13,9 +13,8 @@ namespace veldmark {
 
 class TorController;
 
-// What `veldmarkctl run` prints of the session while it lives, each change once: the progress of a
-// connect on a line that is drawn over and over, reports and warnings on lines of their own. Main
-// thread.
+// Prints the session for `veldmarkctl run`, each change once: the progress of a connect on a
+// redrawn line, reports and warnings on separate lines. Main thread.
 class SessionLines : public QObject {
     Q_OBJECT
 
@@ -23,10 +22,10 @@ public:
     // `controller` must outlive the object.
     explicit SessionLines(const TorController &controller);
 
-    // A line on standard output, or a message on standard error, below the progress line.
+    // Prints a line on standard output, or a message on standard error, below the progress line.
     void say(const Text &text);
     void complain(const Text &text);
-    // The session as it is now, unless it was the last thing to be said.
+    // Prints the current state of the session, unless it equals the last report.
     void showPhase();
     // Ends the progress line.
     void finish();

@@ -48,7 +48,8 @@ int main(int argc, char **argv)
         return static_cast<int>(
             showCompletions(*invocation, PlatformProfile::current(Places::fromEnvironment())));
 
-    const LastTurn lastTurn; // what still waits when the program ends goes after everything else
+    // resumes the remaining coroutines after all other objects are destroyed
+    const LastTurn lastTurn;
     const PlatformProfile profile = PlatformProfile::current(Places::fromEnvironment());
     std::unique_ptr<RunCommand> run;
     if (invocation->verb == Verb::Id::run) {

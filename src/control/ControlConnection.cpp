@@ -12,7 +12,8 @@ namespace veldmark {
 namespace {
 constexpr qint64 largestChunkBytes = 65'536;
 constexpr std::chrono::milliseconds acceptPoll{5};
-constexpr int absentPolls = 100; // the kernel may know the other end a moment later than ours
+// the kernel's table may show the other end a moment later than this one
+constexpr int absentPolls = 100;
 
 ControlPortError lineBreakError()
 {
@@ -72,8 +73,8 @@ void ControlConnection::abort(const ControlPortError &reason)
     close();
 }
 
-// The socket's signals only wake the waiting task, which then looks at the socket's state. So the
-// order in which they come does not matter, nor how many.
+// The socket's signals only wake the waiting task, which then checks the socket's state. Their
+// order and number do not matter.
 ControlConnection::Change ControlConnection::nextChange()
 {
     m_change.emplace();
@@ -102,8 +103,8 @@ QCoro::Task<Result<void, ControlPortError>> ControlConnection::open(QString pass
     if (m_failure)
         co_return Failure(*m_failure);
     m_socket.reset(new QTcpSocket);
-    m_socket->setProxy(QNetworkProxy::NoProxy);     // the system's proxy may well be Tor itself
-    m_socket->setReadBufferSize(largestChunkBytes); // more is left to the system to hold back
+    m_socket->setProxy(QNetworkProxy::NoProxy);     // the system's proxy may be Tor itself
+    m_socket->setReadBufferSize(largestChunkBytes); // the system holds back the rest
     connect(m_socket.get(), &QTcpSocket::connected, this, &ControlConnection::signalChange);
     connect(m_socket.get(), &QTcpSocket::readyRead, this, &ControlConnection::signalChange);
     connect(m_socket.get(), &QTcpSocket::bytesWritten, this, &ControlConnection::signalChange);
@@ -131,8 +132,8 @@ QCoro::Task<Result<void, ControlPortError>> ControlConnection::open(QString pass
     co_return Result<void, ControlPortError>{};
 }
 
-// What counts is who has this very connection, not who listens by now: a listener can make room for
-// Tor.
+// The account that accepted this connection counts, not the account that listens now: a listener
+// can make room for Tor.
 QCoro::Task<Result<void, ControlPortError>> ControlConnection::proveTor()
 {
     for (int absent = 0;;) {
@@ -192,7 +193,7 @@ QCoro::Task<Result<void, ControlPortError>> ControlConnection::send(QByteArray b
     m_traffic->sent += bytes.size();
     while (m_socket->bytesToWrite() > 0) {
         if (m_socket->state() == QAbstractSocket::UnconnectedState)
-            break; // receive() tells why, after what had arrived before
+            break; // receive() returns the remaining bytes and then the reason
         const Change change = nextChange();
         co_await change;
         if (const auto stop = interruption())

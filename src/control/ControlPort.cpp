@@ -13,7 +13,7 @@ using Milliseconds = std::chrono::milliseconds;
 
 constexpr uid_t nobody = static_cast<uid_t>(-1); // no process can have it
 
-// What one operation holds for as long as it runs: its connection and the watch over its time.
+// The resources of one operation while it runs: its connection and its time limit.
 class Session {
 public:
     Session(Clock &clock, quint16 port, const ControlPort::TorUser &torUser,
@@ -46,7 +46,7 @@ std::optional<ControlPortError> refusal(const QStringList &texts)
         Text::tr("A command to Tor can't contain a line break or a NUL."));
 }
 
-// Opens the session's connection, sends one command and gives its reply.
+// Opens the session's connection, sends one command and returns its reply.
 QCoro::Task<Result<QStringList, ControlPortError>> ask(const Session *session, QString password,
                                                        QString command)
 {
@@ -142,7 +142,7 @@ ControlPort::Outcome<QStringList> ControlPort::captureResolves(QString password,
     const auto subscribed = co_await ask(&session, password, QStringLiteral("SETEVENTS STREAM"));
     if (!subscribed)
         co_return Failure(subscribed.error());
-    // The port is still there, or else the connection would have been aborted; so is the clock.
+    // The port still exists, or the connection would be aborted; so the clock still exists.
     session.liftLimit();
 
     StopSource stop;

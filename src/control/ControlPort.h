@@ -20,40 +20,40 @@ namespace veldmark {
 
 struct ControlTraffic;
 
-// Asks Tor over its control port. Every operation opens a connection of its own to 127.0.0.1,
-// authenticates with the plain control password, and closes the connection in every outcome;
-// operations that run at once share nothing. There is no connection that lasts. Start here, then
-// ControlConnection (one connection) and ReplyFraming (bytes to replies).
+// Sends requests to Tor over its control port. Every operation opens its own connection to
+// 127.0.0.1, authenticates with the plain control password, and closes the connection in every
+// outcome. Concurrent operations share nothing, and no connection is permanent. Start here, then
+// read ControlConnection (one connection) and ReplyFraming (bytes to replies).
 //
-// Every operation has a time limit, after which it fails with timedOut. The limit is told by the
-// clock; a test that moves its own clock in leaps gives the port a second one that stands still,
-// since a real socket cannot keep up with it.
+// Every operation has a time limit, after which it fails with timedOut. The clock measures the
+// limit. A test that moves its own clock in leaps gives the port a second clock that stands still,
+// since a real socket cannot follow the leaps.
 //
-// Belongs to one thread. Destroying it ends the operations under way with the error closed; the
-// clock must outlive it.
+// Belongs to one thread. The destructor ends running operations with the error closed. The clock
+// must outlive the object.
 //
-// Commands and passwords with a line break or a NUL are refused (malformed) before anything is
-// sent: they would smuggle a second command in.
+// Commands and passwords with a line break or a NUL fail (malformed) before anything is sent: they
+// would inject a second command.
 class ControlPort {
 public:
     using Reply = QStringList; // all the lines of one reply, in order, without line ends
     using Values = QHash<QString, QString>;
-    // Work that is run during a capture. It is asked to stop when the capture ends.
+    // Work that runs during a capture. The end of the capture requests it to stop.
     using Work = std::function<QCoro::Task<void>(StopToken)>;
     template <typename T> using Outcome = QCoro::Task<Result<T, ControlPortError>>;
 
     static constexpr quint16 defaultPort = 9051;
     static constexpr std::chrono::milliseconds defaultLimit{20'000};
 
-    // The account that Tor runs in, asked anew each time; the password goes to nobody else's
-    // process. Nothing: no process is trusted. Without the function, any is, as where the system
-    // does not tell.
+    // The account that Tor runs in, queried for each operation. Only a process of that account gets
+    // the password. An absent result trusts no process. Without the function every process is
+    // trusted, as on a system that does not report the account.
     using TorUser = std::function<std::optional<uid_t>()>;
 
     explicit ControlPort(Clock &clock, quint16 port = defaultPort, TorUser torUser = {});
 
-    // "GETINFO key key…". A key whose value is a data block has an empty value here; ask for such
-    // keys with batch() and dataBlock().
+    // "GETINFO key key…". The value of a key with a data block is empty here; use batch() and
+    // dataBlock() for such keys.
     [[nodiscard]] Outcome<Values> getInfo(QStringList keys, QString password,
                                           std::chrono::milliseconds limit = defaultLimit);
 
@@ -61,33 +61,33 @@ public:
     [[nodiscard]] Outcome<void> signal(QString name, QString password,
                                        std::chrono::milliseconds limit = defaultLimit);
 
-    // Sends the commands one after the other on one connection. One element for each: its reply,
-    // or nothing where Tor refused this command. The limit is for all of them together.
+    // Sends the commands one after the other on one connection. Returns one element per command:
+    // its reply, or nothing when Tor refused the command. The limit is for all commands together.
     [[nodiscard]] Outcome<std::vector<std::optional<Reply>>> batch(
         QStringList commands, QString password, std::chrono::milliseconds limit = defaultLimit);
 
-    // The names, in lower case and in the order of the events, that Tor is asked to resolve while
-    // `work` runs, for `duration`. A name stands there once for each event (usually several). The
-    // limit is for what comes before the capture. Fails only if the capture cannot begin.
+    // The names that Tor is asked to resolve while `work` runs, for `duration`: in lower case, in
+    // the order of the events. A name appears once per event (usually several times). `limit` is
+    // for the steps before the capture. Fails only if the capture cannot begin.
     [[nodiscard]] Outcome<QStringList> captureResolves(
         QString password, std::chrono::milliseconds duration, Work work,
         std::chrono::milliseconds limit = defaultLimit);
 
-    // What all operations so far have sent to Tor and received.
+    // The traffic of all operations so far.
     ControlTraffic traffic() const;
 
-    // The lines of one key's value within a reply, dots unstuffed; empty when it is not there.
+    // The lines of one key's value in a reply, with dots unstuffed; empty when the key is missing.
     static QStringList dataBlock(const QString &key, const Reply &lines);
     // Key and value of every "250-key=value" line of a reply; the last of equal keys counts.
     static Values getInfoValues(const Reply &lines);
-    // The names within the stream events among `lines` that are DNS requests.
+    // The names in those stream events among `lines` that are DNS requests.
     static QStringList resolvedHosts(const QStringList &lines);
 
 private:
     Clock &m_clock;
     const quint16 m_port;
     const TorUser m_torUser;
-    const std::shared_ptr<ControlTraffic> m_traffic; // shared with the operations under way
+    const std::shared_ptr<ControlTraffic> m_traffic; // shared with the running operations
     QObject m_lifetime;                              // its destroyed() ends the operations
 };
 

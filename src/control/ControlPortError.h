@@ -4,16 +4,16 @@
 
 namespace veldmark {
 
-// Why Tor could not be asked, or did not do what it was asked, over its control port.
+// Why a request over Tor's control port failed.
 class ControlPortError {
 public:
     enum class Kind {
-        NotConnected, // the connection was never opened, or has been closed on this side
-        Closed,       // Tor, or whoever owns this end, closed the connection during the call
-        Tor,          // Tor refused; line() is its answer
+        NotConnected, // the connection was never opened, or this side has closed it
+        Closed,       // Tor or the connection's owner closed the connection during the call
+        Tor,          // Tor refused; line() is its reply
         Network,      // the socket failed; the description is the system's text
-        Malformed,    // something that must not be sent, or that Tor would never send
-        Stranger,     // another program than Tor listens there; it was told nothing
+        Malformed,    // a command that must not be sent, or data that Tor never sends
+        Stranger,     // another program than Tor listens there; it got no password
         TimedOut,     // the call's time limit passed
     };
 
@@ -28,7 +28,7 @@ public:
     Kind kind() const { return m_kind; }
     // For Kind::Tor: the final reply line, status code included, e.g. "552 Unrecognized key".
     QString line() const { return m_kind == Kind::Tor ? m_text.english() : QString(); }
-    // The sentence that the user reads, usually after the caller's own "Couldn't …: ".
+    // The sentence for the user, usually after the caller's own "Couldn't …: ".
     Text description() const;
 
     friend bool operator==(const ControlPortError &, const ControlPortError &) = default;

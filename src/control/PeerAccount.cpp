@@ -10,7 +10,7 @@ namespace veldmark {
 
 namespace {
 
-// 127.0.0.1 as the kernel prints it: the number in this machine's order of bytes.
+// 127.0.0.1 as the kernel prints it: the number in this computer's byte order.
 QByteArray localEnd(quint16 port)
 {
     const char address[] = {127, 0, 0, 1};
@@ -36,7 +36,7 @@ PeerAccount PeerAccount::in(const QByteArray &table, quint16 port, quint16 own)
     const uid_t user = fields.value(4).toUInt(&isNumber);
     if (!isNumber || fields.size() < 7)
         return {};
-    if (fields.value(6) == "0") // no process has it yet, and then the account says nothing
+    if (fields.value(6) == "0") // no process has accepted it yet, so the account means nothing
         return {Kind::Waiting, 0};
     return {Kind::Accepted, user};
 }

@@ -9,7 +9,7 @@ namespace {
 QString decoded(QByteArrayView bytes)
 {
     QString text = QString::fromUtf8(bytes);
-    // fromUtf8() takes a byte order mark for no part of the text, which would move the columns.
+    // fromUtf8() drops a byte order mark, which would shift the columns.
     if (bytes.startsWith("\xef\xbb\xbf"))
         text.prepend(QChar(QChar::ByteOrderMark));
     return text;
@@ -21,8 +21,8 @@ void ReplyFraming::feed(QByteArrayView bytes)
 {
     if (m_error)
         return;
-    // What has been cut off is dropped only when it is the larger half, so that each byte is
-    // moved no more than once on average.
+    // Drops split-off bytes only when they are the larger half, so that each byte moves no more
+    // than once on average.
     if (m_start > m_buffer.size() / 2) {
         m_buffer.remove(0, m_start);
         m_scanned -= m_start;
@@ -59,7 +59,7 @@ Result<std::optional<QString>, ControlPortError> ReplyFraming::nextLine()
         return decoded(line);
     }
     m_scanned = buffer.size();
-    // A trailing CR may turn out to be the first half of the line's end.
+    // A trailing CR may be the first half of the line's end.
     const qsizetype pending = buffer.size() - m_start - (buffer.endsWith('\r') ? 1 : 0);
     if (pending > largestLineBytes)
         return fail(tooLong);

@@ -11,38 +11,39 @@
 
 namespace veldmark {
 
-// Cuts the bytes that Tor sends into lines, and lines into replies. Pure: no socket, no time.
-// However the bytes are divided over calls of feed(), the same lines, replies and errors come out.
+// Splits Tor's bytes into lines, and lines into replies. Pure: no socket, no time. The division of
+// the bytes over calls of feed() does not change the lines, replies and errors.
 //
-// A line ends with CR LF, nothing else. It is decoded as UTF-8 with invalid sequences repaired.
-// A reply ends with the first line whose fourth character is a blank ("250 OK"), where lines of
-// a data block ("250+key=", …, ".") do not count. All its lines are kept, "." and final included.
+// Only CR LF ends a line. Lines are decoded as UTF-8, with invalid sequences repaired.
+// A reply ends with the first line whose fourth character is a blank ("250 OK"), outside data
+// blocks ("250+key=", …, "."). The reply has all its lines, also "." and the final one.
 //
-// Memory is bounded: beyond the limits below next…() fails, from then on always with this error.
+// Memory is bounded: beyond the limits below next…() fails, and every later call fails with the
+// same error.
 class ReplyFraming {
 public:
     // A line, without its end.
     static constexpr qsizetype largestLineBytes = 1024 * 1024;
-    // All the lines of a reply, where each counts as its bytes and lineOverheadBytes more, which
-    // is about what it takes in memory: without that, empty lines would take 12 times as much.
+    // The limit for all lines of a reply. Each line counts as its bytes plus lineOverheadBytes,
+    // about its real memory use: without the overhead, empty lines would take 12 times as much.
     static constexpr qsizetype largestReplyBytes = 64 * 1024 * 1024;
     static constexpr qsizetype lineOverheadBytes = 64;
 
     void feed(QByteArrayView bytes);
 
-    // The next line, or nothing until more bytes are fed.
+    // The next line, or nothing until feed() gets more bytes.
     Result<std::optional<QString>, ControlPortError> nextLine();
-    // The next whole reply, likewise. Lines taken by nextLine() are no part of one.
+    // The next whole reply, or nothing until then. Lines taken by nextLine() belong to no reply.
     Result<std::optional<QStringList>, ControlPortError> nextReply();
 
 private:
     Result<std::optional<QString>, ControlPortError> fail(const Text &sentence);
 
     QByteArray m_buffer;
-    qsizetype m_start = 0;   // of what has not been cut into lines yet
-    qsizetype m_scanned = 0; // up to here there is no line end after m_start
+    qsizetype m_start = 0;   // start of the bytes not yet split into lines
+    qsizetype m_scanned = 0; // no line ends between m_start and here
 
-    QStringList m_lines; // of the reply under way
+    QStringList m_lines; // of the current reply
     qsizetype m_weight = 0;
     bool m_inDataBlock = false;
     std::optional<ControlPortError> m_error;

@@ -9,7 +9,7 @@ namespace {
 using Level = Finding::Level;
 
 const QString clockName = QStringLiteral("clock");
-// Tor fails beyond some hours; a file's own time may be a little off
+// Tor fails when the clock is wrong by some hours; a file's own time may be slightly off
 constexpr qint64 allowedSeconds = 3600;
 
 QString shown(const QDateTime &time)
@@ -19,8 +19,8 @@ QString shown(const QDateTime &time)
 
 } // namespace
 
-// Without the network nobody knows the time. Known is what it cannot be (earlier than a file that
-// is there was written), and whether something has set the clock.
+// Without the network the real time is unknown. Known is that it is later than the time of every
+// existing file, and whether a service has set the clock.
 Findings clockFindings(const Machine &machine)
 {
     const QString setting = machine.isLinux() ? QStringLiteral("sudo timedatectl set-ntp true")

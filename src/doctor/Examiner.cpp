@@ -20,7 +20,7 @@ constexpr auto programLimit = 5s;
 std::optional<bool> clockIsSet()
 {
     timex state{};
-    const int answer = ::ntp_adjtime(&state); // asks, with no mode set
+    const int answer = ::ntp_adjtime(&state); // reads only, with no mode set
     if (answer < 0)
         return std::nullopt;
     return answer != TIME_ERROR && (state.status & STA_UNSYNC) == 0;
@@ -76,7 +76,7 @@ QCoro::Task<Findings> Examiner::examine()
     machine.clockIsSet = clockIsSet();
     machine.owner = ownerOf;
 
-    // Nothing of this object is used after the first wait.
+    // No member is used after the first wait.
     ProcessRunner *const processes = &m_processes;
     const std::weak_ptr<TransportSearch> wanted = m_search;
     auto searching = m_search->locate();

@@ -15,21 +15,22 @@ namespace veldmark {
 class SettingsStore;
 struct Machine;
 
-// Looks at the computer that the program runs on. Main thread; it runs tor for its version, and as
-// root nft for its tables, each for five seconds at most, and searches for transports on another
+// Examines the computer that the program runs on. Main thread. It runs tor for its version and, as
+// root, nft for its tables, each for at most five seconds. It searches for transports on another
 // thread.
 class Examiner {
 public:
-    // All must outlive it. Who still waits when it goes is resumed with no findings: look whether
-    // you are still wanted. `user` runs this program.
+    // All parameters must outlive the object. After its destruction a waiting examine() resumes
+    // with no findings; the caller checks whether its own object still exists. `user` is the
+    // account of this process.
     Examiner(const PlatformProfile &profile, SettingsStore &settings, ProcessRunner &processes,
              uid_t user = ::geteuid());
 
     QCoro::Task<Findings> examine();
 
 private:
-    // The program's standard output and complaint; absent when it cannot be started, fails or takes
-    // too long.
+    // The program's standard output and standard error; absent when it can't start, fails or
+    // exceeds the time limit.
     static QCoro::Task<std::optional<ProcessResult>> run(ProcessRunner *processes, QString program,
                                                          QStringList arguments);
 

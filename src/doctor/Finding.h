@@ -7,29 +7,29 @@
 #include <optional>
 #include <vector>
 
-// The room that looks at this computer and says what a connect needs, what is in its way, and what
-// mends it. It reads only, asks nobody on the network, and needs no root. Start here, then Machine
-// (what is looked at), Checks.h (the findings, each a function of a Machine) and Examiner (which
-// looks at the real computer).
+// The room that examines this computer: what a connect needs, what blocks it, and the remedy. It
+// only reads, sends nothing to the network and needs no root. Start here, then read Machine (the
+// examined data), Checks.h (the findings, each a function of a Machine) and Examiner (for the real
+// computer).
 namespace veldmark {
 
-// One thing that was looked at. A plain value.
+// The result for one examined subject. A plain value.
 struct Finding {
     enum class Level {
-        good,    // as a connect needs it
-        note,    // a connect works; this is worth knowing
-        unknown, // could not be told
-        problem, // a connect cannot work before this is mended
+        good,    // a connect can use it
+        note,    // a connect works; the user should know this
+        unknown, // not known
+        problem, // a connect cannot work before the user fixes this
     };
-    // The control of the window that mends it.
+    // The window's control that fixes it.
     enum class Button { none, restore, download };
 
-    QString name; // what was looked at: "tor", "ports" …; never translated
+    QString name; // the subject: "tor", "ports" …; never translated
     Level level = Level::good;
     Text text;       // a sentence
-    QString command; // what a user types to mend it; empty: nothing, or nothing that is known
+    QString command; // the command that fixes it; empty: none, or none known
     Button button = Button::none;
-    // Of what is unknown: when it is as feared, no connect gets through.
+    // For an unknown finding: in the bad case no connect works.
     bool mayBlock = false;
 
     friend bool operator==(const Finding &, const Finding &) = default;
@@ -40,8 +40,8 @@ using Findings = std::vector<Finding>;
 // "good", "note", "unknown", "problem".
 QString levelName(Finding::Level level);
 
-// Whether a connect can work: not with a problem among them; absent where one of them may block it
-// and that can't be told.
+// Whether a connect can work: false with a problem among the findings, absent when an unknown
+// finding may block it.
 std::optional<bool> canConnect(const Findings &findings);
 
 } // namespace veldmark

@@ -15,7 +15,7 @@ const QString nftablesName = QStringLiteral("nftables");
 const QString firewallsName = QStringLiteral("firewalls");
 const QString groupsName = QStringLiteral("cgroups");
 
-// Known by the names of their processes.
+// Firewalls, known by the names of their processes.
 struct Known {
     const char *process;
     const char *name;
@@ -33,7 +33,7 @@ QString kernel(const Machine &machine)
     return machine.read("/proc/sys/kernel/osrelease").trimmed();
 }
 
-// Whether the kernel has nf_tables; absent: that cannot be seen.
+// Whether the kernel has nf_tables; absent: unknown.
 std::optional<bool> kernelHasTables(const Machine &machine)
 {
     if (machine.exists("/sys/module/nf_tables"))

@@ -16,7 +16,7 @@ bool isProgram(const QString &path)
     return file.isFile() && file.isExecutable();
 }
 
-// The fields of the line of /etc/passwd for which `wanted` says so.
+// The fields of the first line of /etc/passwd that `wanted` accepts.
 QStringList passwdLine(const Machine &machine,
                        const std::function<bool(const QStringList &)> &wanted)
 {
@@ -31,7 +31,7 @@ QStringList passwdLine(const Machine &machine,
 QString unitOf(const QString &groups)
 {
     for (const QString &line : groups.split(u'\n')) {
-        // Version 2, or systemd's own hierarchy of version 1.
+        // cgroup version 2, or systemd's own hierarchy of version 1.
         if (!line.startsWith(QLatin1String("0::"))
             && !line.contains(QLatin1String(":name=systemd:")))
             continue;
@@ -127,7 +127,7 @@ std::vector<RunningProcess> runningProcesses(const Machine &machine)
             else if (words.first() == QLatin1String("Uid:"))
                 process.user = words.value(1).toUInt();
         }
-        // Anybody can call a process anything.
+        // A process may have any name.
         for (QChar &c : process.name)
             if (!c.isPrint())
                 c = u'?';

@@ -15,28 +15,28 @@
 
 namespace veldmark {
 
-// Who owns a file and who may write it.
+// The owner of a file and its permissions.
 struct FileOwner {
     uid_t user = 0;
     mode_t mode = 0;
 };
 
-// What is looked at: the files below the profile's root, /proc and /sys among them, and what cannot
-// be read from files. A test lays the files out in a temporary folder and fills in the rest.
+// The examined data: the files below the profile's root, also /proc and /sys, and facts that files
+// do not tell. A test creates the files in a temporary folder and sets the other fields.
 struct Machine {
     PlatformProfile profile;
-    QString customTor;              // the settings' location of tor; empty: the usual places
-    BridgeRequest bridges;          // the settings' choice
-    PluggableTransports transports; // what was found
+    QString customTor;              // the location of tor in the settings; empty: the usual places
+    BridgeRequest bridges;          // the choice in the settings
+    PluggableTransports transports; // the transports found
 
-    uid_t user = 0;          // who runs this program
-    bool hasDesktop = false; // a display to ask for a password on
-    QDateTime now;           // by the computer's clock
-    // the kernel holds that the clock follows another one; absent: it doesn't tell
+    uid_t user = 0;          // the account of this process
+    bool hasDesktop = false; // a display that can show a password dialog
+    QDateTime now;           // according to the computer's clock
+    // whether the kernel counts the clock as synchronised; absent: unknown
     std::optional<bool> clockIsSet;
-    // What the program said of its version, or nothing when it did not end well.
+    // The output of tor's version option; absent when tor failed.
     std::optional<QString> torVersion;
-    // As root alone: what `nft list tables` complained of, empty when it worked. Absent: not asked.
+    // Only as root: the error of `nft list tables`, empty without one. Absent: not run.
     std::optional<Text> firewallComplaint;
     std::function<std::optional<FileOwner>(const QString &path)> owner;
 
@@ -47,19 +47,19 @@ struct Machine {
     // The first 256 kB; empty when it cannot be read.
     static QString readFile(const QString &path);
 
-    // The path of a program of the system's, or empty.
+    // The path of a system program, or empty.
     QString program(const QString &name) const;
     // The tor that a connect would run, or empty.
     QString tor() const;
-    // The command that installs a package on this distribution; empty where that is not known.
+    // The command that installs a package on this distribution; empty when unknown.
     QString installing(const QString &package) const;
-    // The number of an account, and the name of one.
+    // The number of an account, and its name.
     std::optional<uid_t> account(const QString &name) const;
     QString accountName(uid_t user) const;
     bool isPasswordless() const;
 };
 
-// A process that /proc tells of.
+// A process according to /proc.
 struct RunningProcess {
     qint64 pid = 0;
     QString name; // at most 15 characters; printable ones only

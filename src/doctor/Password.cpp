@@ -14,7 +14,7 @@ const QString polkitName = QStringLiteral("polkit");
 const QString sudoName = QStringLiteral("sudo");
 const QString throughSudo = QStringLiteral("sudo veldmarkctl run --connect");
 
-// Processes of a session that show polkit's dialog; /proc keeps 15 characters of a name.
+// Processes of a desktop session that show polkit's dialog; /proc keeps 15 characters of a name.
 bool isAgent(const QString &name)
 {
     static const QStringList agents{
@@ -31,7 +31,7 @@ bool isAgent(const QString &name)
     return agents.contains(name);
 }
 
-// The first group of administrators that the user is in, or empty.
+// The first administrators' group that the user belongs to, or empty.
 QString administrators(const Machine &machine)
 {
     const QString user = machine.accountName(machine.user);
@@ -104,7 +104,7 @@ Findings passwordFindings(const Machine &machine)
     const bool hasSudo = QFileInfo(machine.profile.sudo).isExecutable();
     const QString group = administrators(machine);
     const QString installing = machine.installing(sudoName);
-    // What is missing matters only where nothing else can make root of the user.
+    // A missing program matters only when there is no other way to root rights.
     const bool hasOtherWay = hasSudo || machine.isPasswordless();
     Findings findings;
     if (hasSudo && machine.isPasswordless())

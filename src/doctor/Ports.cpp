@@ -15,8 +15,8 @@ const QString portsName = QStringLiteral("ports");
 
 struct Port {
     int number;
-    const char *table; // in which the kernel lists who listens
-    const char *state; // of a listener there
+    const char *table; // the kernel's table of listeners
+    const char *state; // of a listener in that table
 };
 constexpr std::array ports{Port{9050, "/proc/net/tcp", "0A"}, Port{9051, "/proc/net/tcp", "0A"},
                            Port{293, "/proc/net/udp", "07"}};
@@ -24,10 +24,10 @@ constexpr std::array ports{Port{9050, "/proc/net/tcp", "0A"}, Port{9051, "/proc/
 struct Holder {
     int port = 0;
     uid_t user = 0;
-    QString socket; // its number
+    QString socket; // the socket's number
 };
 
-// Those that keep Tor from its address on this computer: who listens on it, or on every address.
+// The sockets that block Tor's address on this computer: listeners on it, or on every address.
 std::vector<Holder> holders(const Machine &machine)
 {
     std::vector<Holder> found;
@@ -40,7 +40,7 @@ std::vector<Holder> holders(const Machine &machine)
                 || !words[1].endsWith(suffix))
                 continue;
             const QString address = words[1].chopped(suffix.size());
-            // As a number of this processor: either order of the bytes.
+            // The address as a number, in either byte order.
             if (address != QLatin1String("0100007F") && address != QLatin1String("7F000001")
                 && address != QLatin1String("00000000"))
                 continue;
@@ -68,9 +68,9 @@ bool isSystemsService(const RunningProcess &process)
         || process.unit == QLatin1String("tor.service");
 }
 
-// The process with the socket. Another user's descriptors cannot be read: there the system's own
-// Tor service is meant (its ports may be root's, who has opened them), or a tor of that user's, or
-// the user's only process.
+// The process that owns the socket. Another user's descriptors are not readable. In that case it is
+// the system's own Tor service (root may have opened its ports), or a tor of that user, or that
+// user's only process.
 std::optional<RunningProcess> holderProcess(const Machine &machine,
                                             const std::vector<RunningProcess> &processes,
                                             const Holder &holder)
@@ -104,7 +104,7 @@ Findings portFindings(const Machine &machine)
     const std::vector<Holder> held = holders(machine);
     const auto ours = machine.account(machine.profile.torAccount);
     const auto processes = held.empty() ? std::vector<RunningProcess>() : runningProcesses(machine);
-    QStringList paused; // units that have been spoken of
+    QStringList paused; // units already reported
     bool isOurs = false;
     for (const Holder &holder : held) {
         const QString port = QString::number(holder.port);

@@ -19,7 +19,7 @@ const QString programsName = QStringLiteral("programs");
 const QString helperName = QStringLiteral("helper");
 const QString bridgesName = QStringLiteral("bridges");
 
-// What the helper calls, and the package that brings it where that is not always there.
+// A program that the helper calls, and its package unless every system has it.
 struct Needed {
     const char *program;
     const char *package;
@@ -42,8 +42,9 @@ QString versionIn(const QString &text)
     return form.match(text).captured(1);
 }
 
-// Whether somebody besides root could change a file or one of the folders above it, up to the root
-// of the system: the account's number, root's own for more than one.
+// An account besides root that can change the file or a folder above it, up to the system's root. 0
+// when a group or every user can write one of them, or an owner is unknown. Absent when only root
+// can.
 std::optional<uid_t> otherWriter(const Machine &machine, const QString &path)
 {
     const QString root = machine.profile.places.root;
@@ -58,7 +59,7 @@ std::optional<uid_t> otherWriter(const Machine &machine, const QString &path)
     return std::nullopt;
 }
 
-// Whether the helper that runs without a password is another version's.
+// Whether the installed helper, which runs without a password, differs from the shipped one.
 bool isHelperOutdated(const Machine &machine)
 {
     return machine.isPasswordless()
@@ -66,10 +67,10 @@ bool isHelperOutdated(const Machine &machine)
         != Machine::readFile(machine.profile.bundledHelper());
 }
 
-// The programs for which a connect asks an administrator.
+// The programs for which a connect needs an administrator's approval.
 std::vector<ProgramApproval> unapproved(const Machine &machine, const QStringList &arguments)
 {
-    if (machine.user == 0) // root needs to ask nobody
+    if (machine.user == 0) // root needs no approval
         return {};
     auto programs = ProgramApproval::missing(machine.profile, arguments);
     const bool isVerified = !isHelperOutdated(machine)
@@ -109,7 +110,7 @@ Findings torFindings(const Machine &machine)
             {torName, Level::problem,
              Text::tr("%1 doesn't start, or isn't Tor: it doesn't tell its version.").arg(tor),
              tor == custom ? usual : machine.installing(QStringLiteral("--reinstall tor"))});
-    else // whether it takes the configuration, it is asked itself at each connect
+    else // each connect asks tor itself whether it accepts the configuration
         findings.push_back(
             {torName, Level::good, Text::tr("Tor %1 is installed: %2.").arg(version, tor), {}});
     return findings;
@@ -122,7 +123,7 @@ Findings programFindings(const Machine &machine)
     Findings findings;
     for (const auto &[program, package] : needed) {
         const QString name = QLatin1String(program);
-        // The account may be there already.
+        // The account may exist already.
         if (!machine.program(name).isEmpty()
             || (name == QLatin1String("useradd") && machine.account(machine.profile.torAccount)))
             continue;

@@ -16,7 +16,7 @@ using Button = Finding::Button;
 const QString dnsName = QStringLiteral("dns");
 const QString sessionName = QStringLiteral("session");
 
-// A name server of the resolver file that begins with `start`.
+// Whether the resolver file has a name server that begins with `start`.
 bool asks(const QString &text, const char *start)
 {
     const QStringList lines = text.split(u'\n');
@@ -36,7 +36,7 @@ Finding managedBy(const QString &name)
         {}};
 }
 
-// The process of Tor's account that has the name, or 0.
+// The process id of a tor that runs in Tor's account, or 0.
 qint64 ourTor(const Machine &machine)
 {
     const auto account = machine.account(machine.profile.torAccount);
@@ -53,7 +53,7 @@ bool isStrict(const Machine &machine)
     return Machine::readFile(machine.profile.sessionMarker).trimmed() == QLatin1String("strict");
 }
 
-// The watcher's note is as young as its last word. A look at the computer takes a moment itself.
+// The note's time is that of the watcher's last report. The examination itself takes a moment.
 bool isWatched(const Machine &machine)
 {
     constexpr qint64 freshSeconds = 15;

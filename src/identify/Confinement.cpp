@@ -12,9 +12,9 @@ namespace veldmark {
 
 namespace {
 
-// Of no account: "nobody" (65534) has other services' processes, which could stop this one, and use
-// up what the kernel lets an account watch. systemd gives the numbers from 65520 to 65533 to
-// nobody.
+// A number without an account. Other services run as "nobody" (65534); their processes could stop
+// this one, and use up the account's inotify watches. systemd assigns the numbers from 65520 to
+// 65533 to no account.
 constexpr unsigned ownNumber = 65533;
 
 bool setRights(unsigned rights)

@@ -2,8 +2,8 @@
 
 namespace veldmark {
 
-// From root to an account that owns nothing, with the right to change the firewall alone, also in
-// programs that it starts; no other right can be had again. False when any of it fails.
+// Changes from root to an account that owns nothing. The process and its child programs keep only
+// the right to change the firewall, and can't regain any other. False when a step fails.
 [[nodiscard]] bool keepFirewallRightAlone();
 
 } // namespace veldmark

@@ -6,7 +6,7 @@
 
 namespace veldmark {
 
-// Owns a file descriptor; -1 is none.
+// Owns a file descriptor; -1 means none.
 class Descriptor {
 public:
     explicit Descriptor(int number = -1) : m_number(number) { }

@@ -111,7 +111,7 @@ Descriptor netlink(std::uint32_t groups)
     return made;
 }
 
-// Calls `each` with every message that waits. False when some were lost.
+// Calls `each` with every waiting message. False when messages were lost.
 template <typename Each> bool receive(int socket, Each each)
 {
     alignas(nlmsghdr) std::array<char, 65536> buffer;
@@ -173,7 +173,7 @@ FirewallMaps::FirewallMaps(std::string table)
     setsockopt(m_notices.number(), SOL_SOCKET, SO_RCVBUF, &room, sizeof room);
 }
 
-// The kernel has done all of it, or refused, when it has taken the messages.
+// When the kernel has read the messages, it has applied all of them or refused.
 bool FirewallMaps::send(const std::string &messages)
 {
     const std::string batch = message(NFNL_MSG_BATCH_BEGIN, 0, AF_UNSPEC, NFNL_SUBSYS_NFTABLES, {})
@@ -212,7 +212,7 @@ bool FirewallMaps::apply(const MapChanges &changes)
 
 void FirewallMaps::removeTable()
 {
-    // A table that is not there would be an error; one that is made first is not.
+    // Deleting a missing table is an error; creating it first prevents that.
     const std::string named = name(NFTA_TABLE_NAME, m_table);
     static_cast<void>(send(message(command(NFT_MSG_NEWTABLE), NLM_F_CREATE, NFPROTO_INET, 0, named)
                            + message(command(NFT_MSG_DELTABLE), 0, NFPROTO_INET, 0, named)));

@@ -6,25 +6,25 @@
 #include <cstdint>
 #include <string>
 
-// Our table's maps in the kernel, changed over netlink: a program of nft's for each group would
-// cost a hundred times as much.
+// The maps of the identities' table in the kernel, changed over netlink: one run of nft for each
+// group would cost a hundred times as much.
 namespace veldmark {
 
 class FirewallMaps {
 public:
-    // `table` is one of the family inet. Needs the right to change the firewall, here and at each
-    // change.
+    // `table` is of the family inet. The constructor and each change need the right to change the
+    // firewall.
     explicit FirewallMaps(std::string table);
 
-    // All of them in one transaction, or in several where they are very many. False when the kernel
-    // refuses: then the maps are not as they were left, and the table has to be made anew.
+    // Applies all changes in one transaction, or in several when they are very many. False when the
+    // kernel refuses: the maps are then unknown, and the table must be loaded again.
     [[nodiscard]] bool apply(const MapChanges &changes);
-    // Gone afterwards; it may have been gone before.
+    // Removes the table; it need not exist.
     void removeTable();
 
-    // Readable when somebody has changed some rules; -1 when the kernel does not tell.
+    // Readable when a process has changed rules; -1 when the kernel does not report it.
     [[nodiscard]] int descriptor() const { return m_notices.number(); }
-    // Whether anything of the table has been taken away since the last time, by anybody but us.
+    // Whether another process has removed a part of the table since the last call.
     [[nodiscard]] bool takeLoss();
 
 private:

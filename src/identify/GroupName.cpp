@@ -32,7 +32,7 @@ bool isHex(std::string_view text)
         && std::all_of(text.begin(), text.end(), [](char c) { return hexValue(c) >= 0; });
 }
 
-// systemd writes what a unit's name may not hold, and "-" inside of a word, as \xNN.
+// systemd writes bytes that a unit's name may not have, and "-" inside a word, as \xNN.
 std::string unescaped(std::string_view text)
 {
     std::string plain;
@@ -72,7 +72,8 @@ bool takeSuffix(std::string_view &text, std::string_view suffix)
     return true;
 }
 
-// A number, or eight and more hexadecimal digits: a word of an application's own hardly looks so.
+// A number, or at least eight hexadecimal digits: part of an application's id hardly looks like
+// that.
 bool tellsStartsApart(std::string_view word)
 {
     return (!word.empty() && std::all_of(word.begin(), word.end(), isDigit))
@@ -103,7 +104,7 @@ std::string ofSnap(std::string_view stem)
     return unescaped(stem);
 }
 
-// "dbus-:1.2-org.example.Name": the name that the bus has started the program for.
+// "dbus-:1.2-org.example.Name": the bus name that the bus has started the program for.
 std::string_view ofBus(std::string_view stem)
 {
     const std::size_t dash = stem.find('-', std::string_view("dbus-").size());
@@ -112,7 +113,7 @@ std::string_view ofBus(std::string_view stem)
 
 std::string ofStem(std::string_view stem, int depth);
 
-// "app[-LAUNCHER]-ID[-START]", where neither has a "-" that is not escaped.
+// "app[-LAUNCHER]-ID[-START]"; LAUNCHER and ID have no unescaped "-".
 std::string ofApplication(std::string_view stem, int depth)
 {
     std::vector<std::string_view> words;
@@ -133,7 +134,7 @@ std::string ofApplication(std::string_view stem, int depth)
         id += (id.empty() ? "" : "-") + unescaped(word);
     if (named)
         return "as:" + id;
-    // The slice of a service that has instances is named for the whole service.
+    // The slice of a service with instances has the name of the whole service.
     return depth > 0 ? id : ofStem(id, depth + 1);
 }
 

@@ -10,11 +10,11 @@
 
 #include <sys/types.h>
 
-// Which application has which address, and which control groups are that application's. No input or
-// output: what the firewall's maps have to learn comes back as changes. Single-threaded.
+// The address of each application, and the control groups of each application. No input or output:
+// the changes for the firewall's maps are returned. Single-threaded.
 namespace veldmark {
 
-// A group of the desktop's or of a login.
+// A group of a desktop or a login session.
 struct Group {
     enum class Kind { session, application };
     Kind kind = Kind::application;
@@ -25,8 +25,8 @@ struct Group {
     [[nodiscard]] auto place() const { return std::tuple(kind, user, name); }
 };
 
-// For one element of a map: groups lead to marks, marks lead to addresses. A mark is the address,
-// as a number.
+// One element of a map: groups lead to marks, marks lead to addresses. A mark is the address as a
+// number.
 struct MapChange {
     enum class Map { sessions, applications, addresses };
     enum class Action { add, remove };
@@ -45,34 +45,33 @@ struct Identity {
 
 class GroupRegister {
 public:
-    // What one user can make us keep. Whoever has more shares the account's address with the rest.
+    // Limits per user. Groups and applications beyond them share the account's address.
     static constexpr std::size_t groupsPerUser = 2000;
     static constexpr std::size_t identitiesPerUser = 1000;
-    // The firewall's maps have 65,536 places each. Where users together have filled so many, each
-    // has this share at most: several can't fill what the others need.
+    // The firewall's maps have 65,536 places each. From `crowd` entries of all users together, each
+    // user gets at most `shareInACrowd`, so that several users can't fill the places that others
+    // need.
     static constexpr std::size_t crowd = 30000;
     static constexpr std::size_t shareInACrowd = 100;
-    static constexpr std::size_t mostInAll = 60000; // accounts have addresses as well
+    static constexpr std::size_t mostInAll = 60000; // account addresses need places too
 
-    // Addresses are given out one after the other, from firstAddress + start on, and no one twice
-    // before all were used: circuits of an application that has gone may live on for minutes.
+    // Addresses are given out in order, from firstAddress + start. No address repeats before all
+    // were used: circuits of an ended application may live on for minutes.
     static constexpr std::uint32_t firstAddress = 0x7f410000; // 127.65.0.0
     static constexpr std::uint32_t addressCount = 0x003f0000; // up to 127.127.255.255
     explicit GroupRegister(std::uint32_t start);
 
-    // A group that has come. One of that place that is there already and has another id has been
-    // missed going.
+    // Adds a new group. A known group of the same place with another id has been removed unnoticed.
     void add(const Group &group, MapChanges &changes);
-    // A group that has gone; its id is not needed.
+    // Removes a group; its id is not needed.
     void remove(const Group &group, MapChanges &changes);
-    // `groups` are all that there are.
+    // Replaces all known groups by `groups`.
     void replace(const std::vector<Group> &groups, MapChanges &changes);
-    // Another address for that application, or none when no group of it is there. Whether it had
-    // one.
+    // Gives the application another address, or none when it has no group. True when it had one.
     bool renew(uid_t user, const std::string &application, MapChanges &changes);
-    // What has to be added to empty maps.
+    // The changes that fill empty maps.
     [[nodiscard]] MapChanges everything() const;
-    // Those of which a group is there, by user and id.
+    // The identities with at least one group, by user and id.
     [[nodiscard]] std::vector<Identity> identities() const;
 
 private:
@@ -87,7 +86,8 @@ private:
         std::size_t groups = 0;
         std::uint64_t lastUse = 0;
     };
-    // How many of what there are `inAll` one user may have, who could have `most`.
+    // The number of entries one user may have: `most`, or less when all users together have many
+    // (`inAll`).
     static std::size_t share(std::size_t most, std::size_t inAll);
     std::uint32_t nextAddress();
     Entry *entryFor(const Key &key, MapChanges &changes);

@@ -15,13 +15,13 @@ namespace veldmark {
 
 namespace {
 
-constexpr std::size_t roundLimit = 4096; // events that are taken at once
+constexpr std::size_t roundLimit = 4096; // events read at once
 
 struct CloseFolder {
     void operator()(DIR *folder) const { closedir(folder); }
 };
 
-// The number between `start` and `end`, as systemd writes it: "user-1000.slice".
+// The number between `start` and `end` in a name such as "user-1000.slice".
 std::optional<uid_t> userOf(std::string_view name, std::string_view start, std::string_view end)
 {
     if (name.size() <= start.size() + end.size() || name.substr(0, start.size()) != start
@@ -55,7 +55,7 @@ std::vector<Group> GroupTree::scan()
     return found;
 }
 
-// The watch comes before the look: what comes in between is seen twice rather than never.
+// Adds the watch before it reads the folder: a group created in between is seen twice, not missed.
 void GroupTree::visit(Level level, uid_t user, const std::string &path, std::vector<Group> &found)
 {
     const int watch = inotify_add_watch(m_inotify.number(), path.c_str(),
@@ -99,7 +99,7 @@ void GroupTree::meet(const Folder &folder, const std::string &name, std::vector<
         visit(Level::applications, folder.user, path, found);
     } else if (auto group = groupAt(folder, name)) {
         struct stat status { };
-        // Its number is what the firewall compares.
+        // The firewall compares the inode number.
         if (lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode)) {
             group->id = status.st_ino;
             found.push_back(*group);

@@ -8,27 +8,27 @@
 #include <string>
 #include <vector>
 
-// The control groups of users' desktops and logins, watched by inotify. Reads names and numbers,
-// nothing else.
+// Watches the control groups of users' desktops and logins with inotify. Reads only names and
+// numbers.
 namespace veldmark {
 
 class GroupTree {
 public:
-    // `root` is where the tree of version 2 is mounted.
+    // `root` is the mount point of the version 2 tree.
     explicit GroupTree(std::string root);
 
-    // Readable when something has happened; -1 when the kernel gives no watch.
+    // Readable when there are events; -1 when the kernel gives no watch.
     [[nodiscard]] int descriptor() const { return m_inotify.number(); }
 
-    // All that there are now, and watches for those to come.
+    // Returns all present groups and watches for new ones.
     [[nodiscard]] std::vector<Group> scan();
 
     struct Event {
         bool came = false;
-        Group group; // without an id when it has gone
+        Group group; // without an id when the group was removed
     };
-    // What has happened since, without waiting; nothing when more has than the kernel could keep:
-    // then scan.
+    // The events since the last call, without waiting. Absent when the kernel has lost some: the
+    // caller then calls scan().
     [[nodiscard]] std::optional<std::vector<Event>> read();
 
 private:

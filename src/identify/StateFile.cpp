@@ -54,7 +54,7 @@ std::string StateFile::text(std::uint64_t count, bool standing,
 void StateFile::write(bool standing, const std::vector<Identity> &identities)
 {
     const std::string words = text(++m_count, standing, identities);
-    // A disk that is full leaves a file without an end, which says so.
+    // On a full disk the file has no end line, and readers notice that.
     if (ftruncate(m_file.number(), 0) == 0)
         static_cast<void>(pwrite(m_file.number(), words.data(), words.size(), 0) < 0);
 }

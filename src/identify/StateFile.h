@@ -10,20 +10,20 @@
 
 namespace veldmark {
 
-// What everybody may read of the identities. Lines:
+// The identities, readable by every user. Lines:
 //
 //     identities COUNT
 //     standing | lost           whether the table of the firewall is there
 //     UID ADDRESS APPLICATION   for each that has a group just now
 //     end COUNT
 //
-// COUNT grows with each change. The file is written in place: who reads two different counts, or no
-// end, reads again.
+// COUNT grows with each change. The file is written in place: a reader that finds two different
+// counts, or no end, reads again.
 class StateFile {
 public:
-    // Bytes of lines. Users choose the names in them: what is beyond a user's share is left out, so
-    // that everybody's file stays one that is read. Where there are more users than full shares,
-    // each has the same part of the whole. veldmarkctl reads 4 MiB.
+    // Limits for the lines, in bytes. Users choose the names in them: a user's lines beyond the
+    // share are left out, so that the file stays readable for all. With more users than full
+    // shares, each gets an equal part of the whole. veldmarkctl reads 4 MiB.
     static constexpr std::size_t shareLimit = 128 << 10;
     static constexpr std::size_t linesLimit = 3 << 20;
 

@@ -1,12 +1,11 @@
-// veldmark-identify TREE STATE SOCKET NFT: gives each application of the desktops on this computer
-// a loopback address of its own, by which Tor tells their connections apart.
+// veldmark-identify TREE STATE SOCKET NFT: gives each desktop application on this computer its own
+// loopback address, by which Tor separates their connections.
 //
-// The root helper runs it while a session lasts, with the rules of its table on standard input. It
-// looks at the names of control groups below TREE as they come and go, and keeps the maps from
-// groups to addresses in the firewall. STATE is what it tells everybody (StateFile.h). At SOCKET it
-// takes datagrams "new APPLICATION", from the user whose application it is. NFT loads the rules.
-// From the beginning on it has no right of root's but that to change the firewall. It ends when it
-// is told to.
+// The root helper runs it during a session, with the rules of its table on standard input. It
+// follows the names of the control groups below TREE, and keeps the firewall's maps from groups to
+// addresses current. It writes STATE, which every user may read (StateFile.h). At SOCKET it
+// receives datagrams "new APPLICATION" from the application's user. NFT loads the rules. From the
+// start it keeps only root's right to change the firewall. It ends on a signal.
 
 #include "identify/Confinement.h"
 #include "identify/FirewallMaps.h"
@@ -40,13 +39,13 @@ constexpr std::size_t rulesLimit = 1 << 20;   // bytes
 // bytes; the longest name of a unit, with each byte as \xNN
 constexpr std::size_t requestLimit = 1100;
 constexpr int requestsAtOnce = 16;
-// so often at most requests are taken: nobody keeps us busy by them
+// requests are read at most this often, so that no user can keep the program busy
 constexpr int requestMilliseconds = 50;
-// so often at most the firewall is changed, however fast groups come
+// the firewall is changed at most this often, however fast groups come
 constexpr int roundMilliseconds = 2;
-constexpr int tellMilliseconds = 100; // so often at most the state is written
+constexpr int tellMilliseconds = 100; // the state is written at most this often
 constexpr int retryMilliseconds = 1000;
-constexpr int leaveMilliseconds = 1000; // how long groups that have gone may stay in the maps
+constexpr int leaveMilliseconds = 1000; // how long removed groups may stay in the maps
 
 std::string readAll(int descriptor)
 {
@@ -122,8 +121,8 @@ private:
         m_register.replace(m_tree.scan(), forgotten);
     }
 
-    // What has come is told to the firewall at once. What has gone can wait for that, or for a
-    // while: nothing is ever sent from a group that has gone, nor does another get its number.
+    // New groups go to the firewall at once. Removed groups can wait for that, or for
+    // `leaveMilliseconds`: a removed group sends nothing, and no other group gets its number.
     void apply()
     {
         if (m_changes.size() > m_seenChanges) {
@@ -148,7 +147,7 @@ private:
         m_seenChanges = 0;
     }
 
-    // The table anew, with all that is known.
+    // Loads the table again, with all known groups.
     bool build()
     {
         m_untold = true;
@@ -273,7 +272,7 @@ private:
     GroupTree m_tree;
     FirewallMaps m_maps;
     GroupRegister m_register;
-    MapChanges m_changes; // that the firewall does not know yet
+    MapChanges m_changes; // not yet in the firewall
     std::size_t m_seenChanges = 0;
     std::int64_t m_changedAt = 0;
     bool m_standing = false;
@@ -295,11 +294,12 @@ int main(int argc, char **argv)
         return 2;
     }
     umask(022);
-    std::signal(SIGPIPE, SIG_IGN); // a program of nft's that ends early
+    std::signal(SIGPIPE, SIG_IGN); // nft may end early
     const std::string rules = readAll(STDIN_FILENO);
     StateFile state(argv[2]);
     const Descriptor requests = requestSocket(argv[3]);
-    // In a session that follows at once, no application takes over another's address.
+    // Starts at a random address, so that no application of the next session gets a former address
+    // of another application.
     std::uint32_t start = 0;
     if (!state.isOpen() || !requests || getrandom(&start, sizeof start, 0) != sizeof start
         || !keepFirewallRightAlone())

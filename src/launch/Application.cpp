@@ -37,8 +37,8 @@ std::string startEntry(const std::string &path)
         g_desktop_app_info_new_from_keyfile(file.get()));
     if (!info)
         return "The desktop entry names no program that is installed.";
-    // GIO's own mark, by which the copy is found when it is to be opened anew. An entry that was
-    // not read from a file by GIO itself does not get it.
+    // GIO's own variable for the entry's path, by which Veldmark finds a running copy. GIO sets it
+    // only for an entry that it read from a file itself.
     const std::unique_ptr<GAppLaunchContext, Release> context(g_app_launch_context_new());
     g_app_launch_context_setenv(context.get(), "GIO_LAUNCHED_DESKTOP_FILE", path.c_str());
     if (!g_app_info_launch(G_APP_INFO(info.get()), nullptr, context.get(), &error))

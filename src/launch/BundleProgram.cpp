@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t limitBytes = 1024;
 
-// What a program prints, empty when it fails. Its complaints go nowhere.
+// A program's standard output, empty when it fails. Its standard error is discarded.
 std::string output(const std::array<const char *, 5> &words)
 {
     int ends[2];
@@ -47,7 +47,7 @@ std::string bundleProgram(const std::string &bundle)
         {"/usr/libexec/PlistBuddy", "-c", "Print :CFBundleExecutable", list.c_str(), nullptr});
     while (!name.empty() && name.back() == '\n')
         name.pop_back();
-    // A file of that very folder, nothing elsewhere.
+    // A file of that folder only.
     if (name.empty() || name == "." || name == ".."
         || name.find_first_of("/\n") != std::string::npos)
         return {};

@@ -4,8 +4,8 @@
 
 namespace veldmark {
 
-// The file of an application bundle that runs: what its Info.plist names (macOS's PlistBuddy reads
-// it), below Contents/MacOS. Empty when the bundle names none, or one that is not there.
+// The executable of an application bundle: the name in its Info.plist (read by macOS's PlistBuddy),
+// below Contents/MacOS. Empty when the bundle names none, or a missing file.
 std::string bundleProgram(const std::string &bundle);
 
 } // namespace veldmark

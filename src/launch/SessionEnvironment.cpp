@@ -17,7 +17,7 @@ namespace veldmark {
 namespace {
 
 constexpr std::size_t environmentLimitBytes = 1 << 20;
-constexpr int generationLimit = 16; // from here to the program that asked there are two to five
+constexpr int generationLimit = 16; // from here to the calling program there are two to five
 
 struct ProcessFacts {
     uid_t user = 0;

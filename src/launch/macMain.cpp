@@ -1,9 +1,9 @@
-// veldmark-launch --app PATH, on macOS: starts an application bundle for the user who asked for it.
+// veldmark-launch --app PATH, on macOS: starts an application bundle for the user who requested it.
 //
-// The root helper runs it in the user's login session, as that user already, with the group that
-// the kill switch lets pass: it never has any right of root's and refuses to. Launch services would
-// start the application elsewhere and with the user's own group, so its program is started
-// directly. Exit status 0: started. 1: one line on standard error says why not.
+// The root helper runs it in the user's login session, already as that user, with the group that
+// the kill switch lets pass. It refuses to run with any of root's rights. Launch Services would
+// start the application elsewhere and with the user's own group, so this program starts its
+// executable directly. Exit status 0: started. 1: one line on standard error has the reason.
 
 #include "launch/BundleProgram.h"
 
@@ -27,8 +27,8 @@ int fail(const std::string &text)
     return 1;
 }
 
-// What a login session gives an application, from the account and the system, nothing from the
-// helper.
+// Sets the variables that a login session gives an application. They come from the account and the
+// system, not from the helper.
 void takeEnvironment(const passwd &account)
 {
     std::string temporary;
@@ -74,14 +74,14 @@ int main(int argc, char **argv)
     if (chdir(account->pw_dir) != 0 && chdir("/") != 0)
         return fail("The home folder cannot be entered.");
 
-    // The pipe closes when the application runs, and tells when it does not.
+    // The pipe closes when the application runs, and carries an error otherwise.
     int ends[2];
     if (pipe(ends) != 0 || fcntl(ends[1], F_SETFD, FD_CLOEXEC) != 0)
         return fail("The application could not be started.");
     const pid_t child = fork();
     if (child == 0) {
         close(ends[0]);
-        setsid(); // the application outlives the terminal that it may have been asked from
+        setsid(); // the application outlives the terminal of the calling command
         const int nothing = open("/dev/null", O_RDWR);
         if (nothing >= 0 && dup2(nothing, 0) == 0 && dup2(nothing, 1) == 1 && dup2(nothing, 2) == 2)
             execl(program.c_str(), program.c_str(), static_cast<char *>(nullptr));

@@ -1,9 +1,9 @@
 // veldmark-launch --app PATH: starts an application or a program in the desktop session of the user
-// who asked for it.
+// who requested it.
 //
-// The root helper runs it inside the control group that the kill switch lets pass, as that user
-// already: it never has any right of root's and refuses to. Exit status 0: started. 1: one line on
-// standard error says why not.
+// The root helper runs it inside the control group that the kill switch lets pass, already as that
+// user. It refuses to run with any of root's rights. Exit status 0: started. 1: one line on
+// standard error has the reason.
 
 #include "launch/Application.h"
 #include "launch/SessionEnvironment.h"
@@ -24,8 +24,8 @@ int fail(int errors, const std::string &text)
     return 1;
 }
 
-// The application gets no descriptor of the helper's: whoever reads our output would wait for its
-// end.
+// The application gets none of the helper's descriptors: a reader of the helper's output would
+// otherwise wait for the application's end.
 bool closeOutputs()
 {
     const int nothing = open("/dev/null", O_RDWR | O_CLOEXEC);
@@ -49,7 +49,7 @@ int main(int argc, char **argv)
     const char *home = getenv("HOME");
     if ((!home || chdir(home) != 0) && chdir("/") != 0)
         return fail(errors, "The home folder cannot be entered.");
-    setsid(); // the application outlives the terminal that it may have been asked from
+    setsid(); // the application outlives the terminal of the calling command
     if (!closeOutputs())
         return fail(errors, "The application could not be started.");
     const std::string problem = veldmark::startApplication(argv[2]);

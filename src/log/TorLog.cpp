@@ -19,7 +19,7 @@ bool statusOf(const QString &path, struct stat &status)
     return ::stat(QFile::encodeName(path).constData(), &status) == 0;
 }
 
-// What is behind a folder that may not be entered counts as there.
+// A file in a folder that can't be entered counts as existing.
 bool exists(const QString &path)
 {
     struct stat status { };
@@ -42,11 +42,11 @@ QString fileSignature(const QString &path)
         .arg(modified.tv_nsec, 9, 10, QLatin1Char('0'));
 }
 
-// The end of a file, cut after a line feed when its beginning is left out. Nothing when it can't be
+// The end of a file, cut after a line feed when its beginning is left out. Absent when it can't be
 // opened; empty when it can't be read.
 std::optional<QByteArray> readEnd(const QString &path)
 {
-    // A pipe without a writer must not stop the program.
+    // A pipe without a writer must not block the program.
     const int descriptor = ::open(QFile::encodeName(path).constData(),
                                   O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     if (descriptor < 0)
@@ -66,9 +66,9 @@ std::optional<QByteArray> readEnd(const QString &path)
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)
-            filled = 0; // half a file would pass for a whole one
+            filled = 0; // half a file would look like a whole one
         if (count <= 0)
-            break; // it shrank, or can't be read
+            break; // the file shrank, or can't be read
         filled += count;
     }
     ::close(descriptor);
@@ -80,14 +80,13 @@ std::optional<QByteArray> readEnd(const QString &path)
     return content;
 }
 
-// The last `most` lines of `content`, in their order: trimmed, without the empty ones. From the
-// end, since a file may have far more lines than are kept.
+// The last `most` lines of `content`, in their order: trimmed, without empty ones. It searches from
+// the end, since a file may have far more lines than needed.
 QList<QByteArrayView> lastLines(QByteArrayView content, qsizetype most)
 {
     QList<QByteArrayView> lines;
     const auto appendPieces = [&lines, most](QByteArrayView text) {
-        // A carriage return breaks a line as well; hardly any line has one, so it is looked for
-        // last.
+        // A carriage return also ends a line. Few lines have one, so it is searched last.
         for (bool more = true; more && lines.size() < most;) {
             const qsizetype cut = text.lastIndexOf('\r');
             const QByteArrayView line = text.sliced(cut + 1).trimmed();
@@ -163,13 +162,13 @@ TorLog::Snapshot TorLog::read() const
         return anyFile ? Snapshot::unreadable() : Snapshot();
     }
 
-    // The last lines count, so the groups are filled from the last one.
+    // The last lines are kept, so the groups are filled from the last one.
     const auto ofLauncher = lastLines(launcher.value_or(QByteArray()), lineLimit);
     const auto ofNotices = lastLines(notices.value_or(QByteArray()), lineLimit - ofLauncher.size());
     QList<QByteArrayView> ofStartup;
     const qsizetype room = lineLimit - ofLauncher.size() - ofNotices.size();
     if (room > 0) {
-        // There is room, so `ofNotices` is all of Tor's log.
+        // With room left, `ofNotices` is all of Tor's log.
         const QSet<QByteArrayView> logged(ofNotices.begin(), ofNotices.end());
         ofStartup = lastLines(startup.value_or(QByteArray()), fileLimitBytes);
         ofStartup.removeIf([&logged](QByteArrayView line) { return logged.contains(line); });

@@ -7,7 +7,7 @@ namespace veldmark {
 
 // Reads the files that Tor's start, Tor itself and the service launcher write into the run
 // directory, and merges them into one list. The files are the only source. They may rotate, shrink
-// or be something else than files at any time; nothing here waits for any of them.
+// or not be regular files at any time; no call here blocks on them.
 class TorLog {
 public:
     static constexpr qint64 fileLimitBytes = 1000000; // only the end of a longer file is read
@@ -18,8 +18,8 @@ public:
     public:
         enum class Kind {
             lines,      // at least one
-            empty,      // no file, or no line in any
-            unreadable, // there are files, but none can be opened
+            empty,      // no file, or no line in any file
+            unreadable, // files exist, but none can be opened
         };
 
         Snapshot() = default;                        // empty
@@ -39,16 +39,16 @@ public:
     explicit TorLog(const PlatformProfile &profile);
 
     const QString &runDirectory() const { return m_runDirectory; }
-    QString startupPath() const;  // what Tor printed while starting
+    QString startupPath() const;  // Tor's output while it starts
     QString noticesPath() const;  // Tor's own log
-    QString launcherPath() const; // what the service launcher captured
+    QString launcherPath() const; // the output that the service launcher captured
 
-    // Changes when the size or the modification time of a file does. Three stat calls, no more.
+    // Changes when the size or the modification time of a file changes. Costs three stat calls.
     QString signature() const;
 
     // Start-up lines that Tor did not also log, then Tor's log, then the launcher's lines with its
-    // prefix. Invalid UTF-8 is replaced; white space round a line and empty lines are dropped. What
-    // exists without being a regular file counts as a file that can't be opened.
+    // prefix. Invalid UTF-8 is replaced; surrounding white space and empty lines are dropped. A
+    // path that is not a regular file counts as a file that can't be opened.
     Snapshot read() const;
 
 private:

@@ -8,8 +8,8 @@ namespace veldmark {
 
 namespace {
 
-// Compares as the user's language does. Only these three have letters of their own rules; elsewhere
-// the general folding gives the same without making a copy of every line.
+// Compares by the rules of the user's language. Only these three languages have their own case
+// rules. For the others, general case folding gives the same result without a copy of every line.
 class Search {
 public:
     explicit Search(const QString &text) : m_text(text)

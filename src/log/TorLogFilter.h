@@ -5,28 +5,28 @@
 
 namespace veldmark {
 
-// What is shown of a log, and the words round it.
+// The filter for the visible lines of a log, and the texts around them.
 struct TorLogFilter {
     bool problemsOnly = false; // errors and warnings
-    QString search;            // blanks round it don't count; letter case doesn't either
+    QString search;            // surrounding blanks and letter case do not count
 
-    // A sentence or two in place of lines.
+    // A sentence or two in place of the lines.
     struct Placeholder {
         Text title;
         Text text; // may be empty
         friend bool operator==(const Placeholder &, const Placeholder &) = default;
     };
 
-    // The lines that pass, in order.
+    // The matching lines, in order.
     QList<TorLogLine> shown(const TorLog::Snapshot &snapshot) const;
 
-    // Why there is nothing to show; nothing when `shown` is not empty.
+    // The reason for an empty list; absent when `shown` is not empty.
     std::optional<Placeholder> placeholder(const TorLog::Snapshot &snapshot,
                                            const QList<TorLogLine> &shown,
                                            const QString &runDirectory) const;
 
     static int problemCount(const TorLog::Snapshot &snapshot);
-    // The whole lines, joined with line feeds.
+    // The complete lines, joined with line feeds.
     static QString copyText(const QList<TorLogLine> &shown);
 };
 

@@ -23,13 +23,13 @@ bool isWordCharacter(QChar c)
     return isDigit(c) || isBetween(c, u'a', u'z') || isBetween(c, u'A', u'Z') || c == u'_';
 }
 
-// Walks over a line by hand: a compiled pattern takes ten times as long for a full log. No part of
-// the format can be read in two ways, so nothing is ever tried again.
+// Parses a line by hand: a compiled pattern takes ten times as long for a full log. The format is
+// unambiguous, so there is no backtracking.
 class Cursor {
 public:
     explicit Cursor(QStringView text) : m_rest(text) { }
 
-    // Takes as many characters of the kind as there are, but no more than `most`.
+    // Takes as many characters of the kind as possible, at most `most`.
     template <typename IsWanted> QStringView takeWhile(IsWanted isWanted, qsizetype most)
     {
         qsizetype length = 0;
@@ -94,7 +94,7 @@ TorLogLine::Level levelOfWord(QStringView word)
                         : TorLogLine::Level::info;
 }
 
-// `keyword` is in lower case ASCII; a letter of the text matches in either case.
+// `keyword` is lower case ASCII; letters of the text match in either case.
 bool startsWith(QStringView text, QStringView keyword)
 {
     return text.size() >= keyword.size()
@@ -104,7 +104,7 @@ bool startsWith(QStringView text, QStringView keyword)
            });
 }
 
-// One pass over the line for all the words. Two letters tell which of them may start somewhere.
+// Searches for all words in one pass. Two letters select the candidates at each place.
 TorLogLine::Level guessLevel(QStringView line)
 {
     constexpr auto pair = [](char16_t first, char16_t second) {

@@ -24,7 +24,7 @@ void TorLogStore::stop()
 
 void TorLogStore::reload(bool force)
 {
-    // Taken before the reading: what is written in between shows at the next look.
+    // Taken before the reading: a write in between shows at the next poll.
     const QString signature = m_log.signature();
     if (!force && signature == m_signature)
         return;

@@ -7,8 +7,8 @@
 
 namespace veldmark {
 
-// A live view of the log, owned by whoever shows it. Lives on a thread with an event loop; reading,
-// a few milliseconds at most, is done there.
+// A live view of the log; each viewer owns one. Lives on a thread with an event loop and reads
+// there, for at most a few milliseconds.
 class TorLogStore : public QObject {
     Q_OBJECT
 public:
@@ -20,14 +20,14 @@ public:
     const TorLog &log() const { return m_log; }
     const TorLog::Snapshot &snapshot() const { return m_snapshot; }
 
-    // Reads at once and then looks for changes, until stop() or destruction.
+    // Reads at once and then polls for changes, until stop() or destruction.
     void start();
     void stop();
-    // Reads when a file's size or time has changed since the last reading, or when forced.
+    // Reads when a file's size or time has changed since the last reading, or when `force` is set.
     void reload(bool force);
 
 Q_SIGNALS:
-    // The snapshot differs from the one before.
+    // The snapshot differs from the previous one.
     void changed();
 
 private:

@@ -7,10 +7,10 @@ namespace veldmark {
 namespace {
 
 constexpr qsizetype quoteLimit = 120;
-// What a program prints may hold any character.
+// A program's output may contain any character.
 constexpr auto anyCharacter = QRegularExpression::DotMatchesEverythingOption;
 
-// Somebody else's words within a sentence.
+// Another program's words in a sentence.
 QString quoted(const QString &words)
 {
     QString shown = words.trimmed();
@@ -35,7 +35,7 @@ QString programAt(const QString &path)
     return quoted(path.section(u'/', -1));
 }
 
-// Collects while the lines go by.
+// Collects facts while it reads the lines.
 class Finding {
 public:
     void read(const TorLogLine &line);
@@ -47,14 +47,14 @@ private:
     Text endSentence() const;
 
     int m_ends = 0;    // how often a program has ended
-    QString m_program; // that ended last: "lyrebird"
-    QString m_status;  // its exit status; empty when Tor doesn't tell
-    QString m_words;   // that a program said before
-    // what is wrong when none has ended; the first counts, since it caused the rest
+    QString m_program; // the last one that ended: "lyrebird"
+    QString m_status;  // its exit status; empty when Tor doesn't report it
+    QString m_words;   // a program's message before its end
+    // the problem when no program has ended; the first one, since it caused the others
     Text m_trouble;
 };
 
-// A program that ended. Tor starts it again and again.
+// A line about a program that ended. Tor starts it again and again.
 bool Finding::readEnd(const QString &message)
 {
     static const QRegularExpression ended(
@@ -65,7 +65,7 @@ bool Finding::readEnd(const QString &message)
     if (!match.hasMatch())
         return false;
     if (match.captured(1) == QLatin1String("N/A"))
-        return true; // Tor ended it itself, for the reason in an earlier line
+        return true; // Tor ended it, for the reason in an earlier line
     ++m_ends;
     m_program = programAt(match.captured(1));
     const QString status = match.captured(2);
@@ -73,7 +73,7 @@ bool Finding::readEnd(const QString &message)
     return true;
 }
 
-// A program that says something: an error, in the way that Tor understands, or words of its own.
+// A line with a program's message: an error in the form that Tor understands, or free text.
 bool Finding::readWords(const TorLogLine &line)
 {
     static const QRegularExpression logged(QStringLiteral("^Managed proxy \"(.*?)\": (.+)$"),
@@ -109,7 +109,7 @@ void Finding::read(const TorLogLine &line)
     static const QRegularExpression died(QStringLiteral("^Managed proxy at '.*' died in state "),
                                          anyCharacter);
     if (died.match(line.message).hasMatch())
-        return; // says less than the line before it
+        return; // less specific than the line before it
     if (line.message.contains(QLatin1String("anaged proxy"))
         || line.message.contains(QLatin1String("no configured transport")))
         m_trouble = Text::tr("Tor has trouble with the bridge program: %1")

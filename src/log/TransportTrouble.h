@@ -7,10 +7,10 @@
 
 namespace veldmark {
 
-// What Tor's log says about transport programs that don't do their work: a sentence for the user.
-// Nothing when there is no such line, and when Tor has got on since ("Bootstrapped N%").
-// `lines` are those of one start of Tor, in order. What a program itself has said is quoted in the
-// sentence, without characters that can't be shown and not longer than a line.
+// A sentence for the user about transport programs that fail, according to Tor's log. Absent
+// without such a line, and when Tor has made progress since ("Bootstrapped N%"). `lines` are those
+// of one start of Tor, in order. The sentence quotes the program's own message, without unprintable
+// characters and at most one line long.
 std::optional<Text> transportTrouble(const QList<TorLogLine> &lines);
 
 } // namespace veldmark

@@ -31,8 +31,8 @@ QByteArray contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.read(readLimitBytes) : QByteArray();
 }
 
-// Whether programs of all kinds run by this one, so that its processes say nothing of whose they
-// are.
+// Whether this program runs other programs, so that a process of it does not identify an
+// application.
 bool isInterpreter(const QString &program)
 {
     static const QRegularExpression names(QRegularExpression::anchoredPattern(QStringLiteral(
@@ -43,9 +43,9 @@ bool isInterpreter(const QString &program)
     return names.match(QFileInfo(program).fileName()).hasMatch();
 }
 
-// The file that runs when the entry is started, links resolved. Empty when the entry's command has
-// words of its own: then the program may be an interpreter or a starter, which others of the user's
-// applications run as well. Empty too for an interpreter on its own.
+// The executable that the entry starts, with links resolved. Empty when the entry's command has
+// arguments: the program may then be an interpreter or a launcher, which other applications of the
+// user use as well. Also empty for an interpreter alone.
 QString ownProgram(const Entry &entry)
 {
     const char *command = g_app_info_get_commandline(G_APP_INFO(entry.get()));
@@ -68,7 +68,7 @@ QString ownProgram(const Entry &entry)
     return program;
 }
 
-// Whether the last part of the process's control group is one that desktops make for this
+// Whether the last part of the process's control group is one that desktops create for this
 // application: "app-DESKTOP-ID-NUMBER.scope", "app-ID@NUMBER.service", with "-" in the ID written
 // "\x2d".
 bool isOwnGroup(const QByteArray &groups, const QString &id)
@@ -110,7 +110,7 @@ public:
             if (!isNumber || process == getpid() || QFileInfo(folder).ownerId() != getuid())
                 continue;
             const auto variables = contentOf(folder + QStringLiteral("/environ")).split('\0');
-            // Children inherit the first of the two; the second tells the application itself.
+            // Children inherit the first of the two; the second identifies the application itself.
             const bool wasLaunched = variables.contains(launched)
                 && variables.contains("GIO_LAUNCHED_DESKTOP_FILE_PID=" + name.toLatin1());
             const QString executable = QFile::symLinkTarget(folder + QStringLiteral("/exe"));
@@ -127,7 +127,8 @@ public:
     {
         const QByteArray state = contentOf(m_processes + u'/' + QString::number(process)
                                            + QStringLiteral("/stat"));
-        const qsizetype end = state.lastIndexOf(')'); // the name before it may hold anything
+        // the name before it may contain any character
+        const qsizetype end = state.lastIndexOf(')');
         return end < 0 || state.mid(end + 2, 1) == "Z";
     }
 

@@ -13,7 +13,7 @@ namespace {
 
 QString iconOf(GAppInfo *info)
 {
-    GIcon *const icon = g_app_info_get_icon(info); // the entry keeps it
+    GIcon *const icon = g_app_info_get_icon(info); // owned by the entry
     if (!icon)
         return {};
     const std::unique_ptr<gchar, decltype(&g_free)> text(g_icon_to_string(icon), &g_free);

@@ -133,9 +133,9 @@ PlatformProfile PlatformProfile::linux(const Places &places)
     profile.ncat = at("/usr/bin/ncat");
     profile.sshDirectory = places.home + QStringLiteral("/.ssh");
     profile.resolverFile = at("/etc/resolv.conf");
-    // Without a runtime folder (a root shell, an SSH session without logind) the socket goes into
-    // a folder below the home that only the user can enter. The instance may have been started when
-    // there was one, and this process when there is none, or the other way round.
+    // Without a runtime folder (a root shell, an SSH session without logind) the socket is in a
+    // folder below the home that only the user can enter. The instance may have had a runtime
+    // folder when this process has none, or the other way round.
     profile.controlSocket = places.dataHome + QStringLiteral("/veldmark/run/control");
     if (!places.runtimeDirectory.isEmpty()) {
         profile.otherControlSockets = {profile.controlSocket};

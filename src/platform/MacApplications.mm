@@ -9,7 +9,7 @@
 
 #include <unistd.h>
 
-// Compiled without automatic reference counting, as everything that is asked for here belongs to an
+// Compiled without automatic reference counting: every object requested here belongs to an
 // autorelease pool.
 namespace veldmark {
 
@@ -45,7 +45,7 @@ public:
             for (NSRunningApplication *application in
                  [[NSWorkspace sharedWorkspace] runningApplications]) {
                 const pid_t process = [application processIdentifier];
-                // a process of its own may not have one yet
+                // a new process may have no id yet
                 if (process == getpid() || process <= 0)
                     continue;
                 NSString *bundle = [[[application bundleURL] URLByStandardizingPath] path];

@@ -56,7 +56,7 @@ PlatformProfile PlatformProfile::macos(const Places &places)
     profile.shellFilesIfPresent = {places.home + QStringLiteral("/.bash_profile")};
     profile.terminalDirectory = places.home + QStringLiteral("/.veldmark");
     profile.terminalMaker = QStringLiteral("Veldmark.app");
-    profile.givesBackProxies = false; // the file has always been without
+    profile.givesBackProxies = false; // the file never did
     profile.quitCanBeRefused = true;
     profile.netcat = at("/usr/bin/nc");
     profile.sshDirectory = places.home + QStringLiteral("/.ssh");

@@ -23,9 +23,9 @@ QString machineName()
     return architecture == QLatin1String("arm64") ? QStringLiteral("aarch64") : architecture;
 }
 #ifndef Q_OS_MACOS
-// The variable is missing after su, in cron and in some SSH sessions, and after su it may be
-// another user's. logind's folder is the same one for all of a user's processes. A folder that is
-// not there yet is made by who needs it.
+// The variable is missing after su, in cron and in some SSH sessions; after su it may be another
+// user's. All processes of a user share logind's folder. A missing folder is created by the code
+// that needs it.
 QString ownRuntimeDirectory()
 {
     const QString given = absoluteFromEnvironment("XDG_RUNTIME_DIR", QString());

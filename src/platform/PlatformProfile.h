@@ -7,19 +7,19 @@
 
 #include <vector>
 
-// Where the two systems that Veldmark runs on differ: paths, texts and program lists, as plain
-// data. Both profiles are compiled and tested everywhere; no other code asks which system it is on.
-// Start here, then LinuxProfile.cpp and MacProfile.cpp, which are tables.
+// The differences between the two systems that Veldmark runs on: paths, texts and program lists, as
+// plain data. Both profiles are compiled and tested everywhere; no other code tests for the system.
+// Start here, then read LinuxProfile.cpp and MacProfile.cpp, which are tables.
 namespace veldmark {
 
-// The places that the paths of a profile are built from. Tests lay out either system's files below
-// a temporary folder by giving `root` and `home`; production takes `fromEnvironment()`.
+// The folders that a profile's paths are built from. Tests create either system's files below a
+// temporary folder and set `root` and `home`; production uses `fromEnvironment()`.
 struct Places {
     QString root;       // put before every absolute path of the system; empty in production
     QString home;       // the user's home folder
     QString configHome; // $XDG_CONFIG_HOME, default ~/.config
     QString dataHome;   // $XDG_DATA_HOME, default ~/.local/share
-    // the user's, of $XDG_RUNTIME_DIR or the system's; empty where there is none
+    // the user's own, from $XDG_RUNTIME_DIR or the system's default; empty if there is none
     QString runtimeDirectory;
     QString applicationDirectory; // the folder of the running program's executable
     QString machine;              // "x86_64" or "aarch64", for the name of the bundle archive
@@ -51,23 +51,24 @@ struct PlatformProfile {
     QString fileManager;    // "Finder" / "the file manager"
     QString torInstallHint; // the command, or "your package manager"
     Text torMissingText;    // a whole sentence for the error banner
-    QString homePage;       // of Veldmark; empty while it has none, and then nothing links to it
-    QString manualRestoreCommand; // what a user types when the program does not open
+    QString homePage;       // of Veldmark; empty while there is none, and then no link appears
+    QString manualRestoreCommand; // for the user when the program does not open
 
-    // The helper and what it leaves behind.
+    // The helper and its files.
     // exists while the network is set up for Tor; holds "proxy" or "strict"
     QString sessionMarker;
-    // beside the marker: who made the session; empty where no helper notes it
+    // beside the marker: the session's owner; empty where no helper writes it
     QString sessionOwner;
-    // who else denies what goes out, as the helper has found it, see OtherFirewalls; gone after a
-    // restart
+    // other firewalls that deny outgoing traffic, according to the helper, see OtherFirewalls;
+    // removed by a restart of the computer
     QString othersNote;
-    // what the watcher has last seen of the firewall's rules, see KillSwitch; gone after a restart
+    // the watcher's last report on the firewall's rules, see KillSwitch; removed by a restart of
+    // the computer
     QString killSwitchNote;
-    // which application has which address, see Identities; empty where applications cannot be told
-    // apart
+    // the address of each application, see Identities; empty where the system cannot separate
+    // applications
     QString identitiesNote;
-    QString identitiesSocket; // where another address is asked for
+    QString identitiesSocket; // takes requests for another address
     QString installedHelper;  // the root-owned copy for use without a password
     QString sudoersRule;
     QString runDirectory;     // Tor's logs; see launcherOutput
@@ -77,7 +78,7 @@ struct PlatformProfile {
     QString torAccount;
     QStringList helperCandidates; // the shipped helper: the first that exists
 
-    // Programs, each list in the order of preference.
+    // Programs, each list in order of preference.
     QStringList torCandidates;
     QStringList transportDirectories;
     QStringList gnupgCandidates;
@@ -100,16 +101,16 @@ struct PlatformProfile {
     QStringList shellFilesIfPresent; // … only where the file exists
     QString terminalDirectory;       // ~/.veldmark
     QString sshDirectory;            // ~/.ssh
-    QString terminalMaker;           // named in those files as who looks after them
+    QString terminalMaker;           // named in those files as the program that maintains them
     bool givesBackProxies;           // the shell file saves and restores the user's own proxies
-    QString netcat;                  // known to speak SOCKS; empty: the candidates are asked
+    QString netcat;                  // known to support SOCKS; empty: the candidates are tested
     QStringList netcatCandidates;
-    QString ncat;          // asked when no netcat will do; empty: not asked
+    QString ncat;          // used when no netcat supports it; empty: not used
     QString resolverFile;  // /etc/resolv.conf
-    bool quitCanBeRefused; // the system asks a program whether it may end; elsewhere it is told
+    bool quitCanBeRefused; // the system asks a program before it ends; other systems only notify it
     QString scutil;        // empty where resolvers are not read from it
     QString controlSocket; // local socket on which a running instance takes commands
-    // where the same user's instance listens that was started in other circumstances
+    // the socket of an instance of the same user that was started with another environment
     QStringList otherControlSockets;
 
     static PlatformProfile linux(const Places &places);
@@ -119,7 +120,7 @@ struct PlatformProfile {
 
     // The first candidate that exists, or empty.
     QString bundledHelper() const;
-    // The roots that hold transports, in the order of search: Tor Browser, then the bundle.
+    // The roots that hold transports, in search order: Tor Browser, then the bundle.
     // The bundle's label has no version.
     std::vector<ProgramRoot> transportRoots() const;
 };

@@ -26,8 +26,8 @@ QString systemText(const QString &errorString)
     return errorString.startsWith(call) ? errorString.mid(call.size()) : errorString;
 }
 
-// What the system would refuse or cut short is refused before anything is started. A bare name
-// would be looked up in PATH, which is not ours to trust.
+// Refuses input that the system would reject or truncate before anything starts. A bare name would
+// be searched in PATH, which is not trusted.
 std::optional<StartError> refusal(const QString &executable, const QStringList &arguments)
 {
     if (!executable.startsWith(u'/'))
@@ -38,7 +38,7 @@ std::optional<StartError> refusal(const QString &executable, const QStringList &
     return std::nullopt;
 }
 
-// Only while the child has not been waited for: until then its number cannot belong to another.
+// Only before the child has been waited for: until then no other process can get its number.
 void killGroup(QProcess &process)
 {
     const auto pid = static_cast<pid_t>(process.processId());
@@ -48,8 +48,8 @@ void killGroup(QProcess &process)
     process.kill(); // in case it has no group of its own yet
 }
 
-// What is left to finish when the program ends. Never destroyed, so that it is held to the last
-// moment.
+// The processes still running when the program ends. Never destroyed, so that it stays valid until
+// then.
 QSet<QProcess *> &underWay()
 {
     static auto *const processes = new QSet<QProcess *>;
@@ -58,7 +58,7 @@ QSet<QProcess *> &underWay()
 
 Outcome outcomeOf(QProcess &process)
 {
-    // For a child that was ended by a signal QProcess keeps the signal's number as exit code.
+    // For a child ended by a signal QProcess has the signal's number as exit code.
     return ProcessResult{process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
                          QString::fromUtf8(process.readAllStandardError())};
 }
@@ -89,7 +89,7 @@ QCoro::Task<Outcome> ChildProcessRunner::start(QString executable, QStringList a
     if (const auto refused = refusal(executable, arguments))
         co_return Failure(*refused);
 
-    // Nobody owns the process object but itself: QProcess kills its child when it is destroyed.
+    // The process object owns itself: QProcess kills its child when it is destroyed.
     auto *process = new QProcess;
     underWay().insert(process);
     QObject::connect(process, &QObject::destroyed, [process] { underWay().remove(process); });
@@ -115,7 +115,7 @@ QCoro::Task<Outcome> ChildProcessRunner::start(QString executable, QStringList a
     process->start(executable, arguments, input ? QIODevice::ReadWrite : QIODevice::ReadOnly);
     if (input) {
         process->write(*input);
-        process->closeWriteChannel(); // once all of it is written
+        process->closeWriteChannel(); // after all of it is written
     }
 
     std::optional<StopCallback> onStop;

@@ -8,19 +8,18 @@
 
 namespace veldmark {
 
-// Runs real programs as children of this process, asynchronously, on the event loop of the thread
-// that owns it.
+// Runs real programs as child processes, asynchronously, on the event loop of its own thread.
 //
 // The child inherits environment, working directory and standard input unchanged. Both output
-// streams are read while it runs, so that no amount on either makes it stall.
+// streams are read while it runs, so that much output never blocks it.
 //
-// A run ends when the child itself has exited and all that stood in its pipes by then has been
-// read. A process that the child leaves behind with the pipes open does not prolong the run; what
-// it writes later is not collected, and finds the pipe closed. Whatever is meant to live on (a
-// daemon) must therefore redirect its output, as daemons do.
+// A run ends when the child has exited and all output in its pipes at that time has been read. A
+// process that the child leaves behind with open pipes does not prolong the run; its later output
+// is not collected, and it finds the pipe closed. A process that must live on (a daemon) must
+// therefore redirect its output, as daemons do.
 //
-// Destroying the runner ends every wait with a StartError, but kills nothing: a child that is in
-// the middle of changing the system finishes its work, and its output is still read.
+// The destructor ends every wait with a StartError, but kills no child: a child that is changing
+// the system finishes its work, and its output is still read.
 class ChildProcessRunner final : public ProcessRunner {
 public:
     [[nodiscard]] QCoro::Task<Result<ProcessResult, StartError>> run(
@@ -32,8 +31,8 @@ public:
                                                                           StopToken stop) override;
 
 private:
-    // Without `stop` the child stays in this process's group and session, without `input` its input
-    // is ours.
+    // Without `stop` the child stays in this process's group and session. Without `input` it gets
+    // this process's standard input.
     QCoro::Task<Result<ProcessResult, StartError>> start(QString executable, QStringList arguments,
                                                          std::optional<StopToken> stop,
                                                          std::optional<QByteArray> input);

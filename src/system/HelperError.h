@@ -5,16 +5,16 @@
 
 namespace veldmark {
 
-// Why the helper did not do what it was asked.
+// Why the helper failed.
 class HelperError {
 public:
     enum class Kind {
-        Failed,        // it ran, or was refused the right to; the description says why
-        MissingHelper, // there is no script to run
-        // it needs an administrator's approval that it was not given; the description says of what
+        Failed,        // it ran and failed, or had no right to run; the description has the reason
+        MissingHelper, // there is no helper script
+        // it needs an administrator's approval; the description names the subject
         Unapproved,
         Cancelled,  // the user dismissed the authorisation dialog
-        NotStarted, // the program that gives it its rights could not be started
+        NotStarted, // the program that gives it root rights could not be started
     };
 
     static HelperError failed(Text message); // message: already cleaned
@@ -24,7 +24,7 @@ public:
     static HelperError notStarted(const StartError &error);
 
     Kind kind() const { return m_kind; }
-    // The sentence that the user reads.
+    // The sentence for the user.
     Text description() const { return m_description; }
 
 private:

@@ -9,7 +9,7 @@ namespace veldmark::HelperSentences {
 
 namespace {
 
-// In the order of the alphabet.
+// Sorted alphabetically.
 constexpr const char *sources[] = {
     QT_TRANSLATE_NOOP("veldmark::Text", "A bridge line is not valid."),
     QT_TRANSLATE_NOOP(
@@ -217,7 +217,7 @@ constexpr const char *sources[] = {
     QT_TRANSLATE_NOOP("veldmark::Text", "sudo is not installed on this system."),
 };
 
-// What the helper puts behind a sentence where the kill switch stays on.
+// The helper's addition to a sentence when the kill switch stays on.
 constexpr const char *staysClosed = QT_TRANSLATE_NOOP(
     "veldmark::Text", "The network stays blocked until you disconnect.");
 
@@ -227,7 +227,7 @@ struct Form {
     QRegularExpression pattern;
 };
 
-// Where two forms fit, the one with more words of its own is meant.
+// When two forms match, the one with more fixed characters counts.
 const std::vector<Form> &forms()
 {
     static const std::vector<Form> made = [] {

@@ -2,13 +2,13 @@
 
 #include "base/Text.h"
 
-// What the root helper says, and the launcher that it starts. They are programs of their own and
-// print English lines; this is the one place that knows a sentence by its words. The list is
-// compared with the programs' sources by a test.
+// The sentences of the root helper and of the launcher that it starts. These separate programs
+// print English lines; only this file recognises a sentence by its words. A test compares the list
+// with the programs' sources.
 namespace veldmark::HelperSentences {
 
-// The line as a text. What is not on the list (Tor's reason within a sentence, a shell's complaint)
-// stays as it is. Pure.
+// The line as a translatable text. Parts that are not in the list (Tor's reason within a sentence,
+// a shell's error) stay unchanged. Pure.
 Text recognised(const QString &line);
 
 } // namespace veldmark::HelperSentences

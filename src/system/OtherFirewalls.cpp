@@ -17,7 +17,7 @@ QString read(const QString &path)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.read(limit)) : QString();
 }
 
-// Whether a line of `text`, which a shell reads, sets NAME to something that begins so.
+// Whether a line of `text`, a shell file, sets `name` to a value that begins with `value`.
 bool sets(const QString &text, const char *name, const char *value)
 {
     const QRegularExpression line(QStringLiteral("^\\s*%1\\s*=\\s*[\"']?(%2)\\b")
@@ -37,7 +37,7 @@ bool isUfwOn(const PlatformProfile &profile)
 bool isUfwWithoutAWayOut(const PlatformProfile &profile)
 {
     static const QRegularExpression rule(QStringLiteral("^\\s*-[AI] ufw6?-[a-z]+-output "));
-    // What lets out nothing new: back to this computer, answers, and messages about the network.
+    // Rules that let out nothing new: to this computer, answers, and network control messages.
     static const QRegularExpression harmless(QStringLiteral(
         " -o lo | (RELATED,)?ESTABLISHED |-p (icmp|icmpv6|ipv6-icmp) | -j (DROP|REJECT|RETURN|LOG)"));
     for (const char *name : {"before", "user", "after", "before6", "user6", "after6"}) {

@@ -24,9 +24,9 @@ std::optional<QByteArray> contentOf(const QString &path)
     return content;
 }
 
-// From the helper's own line on, and without sudo's where the shell speaks for the helper. What
-// stands before it are warnings of sudo (a host name that it cannot resolve), of the shell or of a
-// library, and no reason for anything.
+// The text from the helper's own line on, without sudo's lines when the shell reports an error of
+// the helper. Earlier lines are warnings of sudo (an unknown host name), of the shell or of a
+// library, and not the reason of a failure.
 QString helpersWords(const QString &errors)
 {
     static const QRegularExpression line(QStringLiteral("^ERROR: "),
@@ -39,22 +39,21 @@ QString helpersWords(const QString &errors)
     return others.trimmed().isEmpty() ? errors : others;
 }
 
-// What the helper ends with when only an administrator's approval is missing.
+// The helper's status when only an administrator's approval is missing.
 constexpr int unapprovedStatus = 3;
 
-// The words of a run: those that anybody may read on its command line, and what it reads from its
-// input.
+// The words of a run: those on its command line, which every user can read, and its standard input.
 struct Words {
     QStringList shown;
     std::optional<QByteArray> input;
 };
 
-// The options of a connect tell bridges, exit and the hashed password. Those of the other verbs are
-// what the administrator is asked about, and stay where the dialog can show them.
+// The options of a connect contain bridges, exit and the hashed password. Those of the other verbs
+// are the subject of the administrator's approval, and stay where the dialog can show them.
 Words hidden(const QStringList &arguments)
 {
     const QString verb = arguments.value(0);
-    const auto fitsALine = [](const QString &word) { // what does not is for the helper to refuse
+    const auto fitsALine = [](const QString &word) { // the helper refuses words that do not fit
         return std::none_of(word.begin(), word.end(),
                             [](QChar c) { return c < u' ' || c == QChar(0x7f); });
     };
@@ -73,14 +72,14 @@ QCoro::Task<Result<ProcessResult, StartError>> start(ProcessRunner *runner, QStr
                        : runner->run(program, all);
 }
 
-// Whether the helper was to verify a bundle. Where it is refused an approval then, its caller knows
-// what to ask for.
+// Whether the helper had a bundle to verify. When it then refuses for lack of an approval, its
+// caller knows what to ask for.
 bool bringsBundle(const QStringList &arguments)
 {
     return arguments.contains(QLatin1String("--bundle"));
 }
 
-// What the dialog is to ask for where the helper has refused `arguments` without an approval.
+// The arguments for the dialog after the helper has refused `arguments` without an approval.
 QStringList approvable(QStringList arguments)
 {
     if (arguments.value(0) == QLatin1String("connect") && !bringsBundle(arguments))
@@ -88,7 +87,7 @@ QStringList approvable(QStringList arguments)
     return arguments;
 }
 
-// What stands in the dialog where the program writes it: osascript's.
+// The text of the dialog when the program sets it: osascript's.
 Text promptText(const PlatformProfile &profile, const QStringList &arguments)
 {
     const QString verb = arguments.value(0);
@@ -112,7 +111,7 @@ HelperError failure(const QString &text)
     return HelperError::failed(PrivilegedRunner::cleanError(helpersWords(text)));
 }
 
-// Whether every line is sudo's own. It translates its complaints, but not its name before them.
+// Whether every line is sudo's own. sudo translates its messages, but not its name before them.
 bool onlySudoSpoke(const QString &errors)
 {
     const QStringList lines = errors.split(u'\n', Qt::SkipEmptyParts);
@@ -121,16 +120,16 @@ bool onlySudoSpoke(const QString &errors)
     });
 }
 
-// With -n sudo never asks: it complains of a password or a terminal that it would need.
+// With -n sudo never asks: it reports that it needs a password or a terminal.
 bool sudoRefused(const ProcessResult &result)
 {
     if (helpersWords(result.stderr).startsWith(QLatin1String("ERROR: ")))
-        return false; // whatever it says, and whatever sudo warned of before
+        return false; // the helper ran, whatever sudo warned of before
     return result.stderr.toLower().contains(QLatin1String("password"))
         || result.stderr.contains(QLatin1String("a terminal")) || onlySudoSpoke(result.stderr);
 }
 
-// Whether the helper itself, or the shell on its behalf ("SCRIPT: line 7: …"), wrote an error.
+// Whether the helper itself, or the shell for it ("SCRIPT: line 7: …"), printed an error.
 bool helperSpoke(const QString &errors, const QString &script)
 {
     for (const QString &line : errors.split(u'\n')) {
@@ -140,8 +139,9 @@ bool helperSpoke(const QString &errors, const QString &script)
     return false;
 }
 
-// pkexec passes the helper's own status on and has 126 and 127 for itself, but so has a shell
-// for a program that it cannot run. pkexec's texts (they are never translated) tell who spoke.
+// pkexec passes on the helper's own status and uses 126 and 127 itself. A shell also uses these for
+// a program that it cannot run. pkexec's texts, which are never translated, show which program
+// reported the error.
 HelperError policyKitError(const ProcessResult &result, const QString &script)
 {
     if (helperSpoke(result.stderr, script))
@@ -163,15 +163,15 @@ HelperError policyKitError(const ProcessResult &result, const QString &script)
                 "Administrator access can't be asked for: no PolicyKit authentication agent is "
                 "running in this session."));
         }
-        // pkexec's own agent on a terminal asks, but polkit then takes the answer only from an
-        // agent of the user's.
+        // pkexec's own agent asks on a terminal, but polkit then accepts the answer only from an
+        // agent of the user.
         if (says("No session for cookie")) {
             return HelperError::failed(Text::tr(
                 "The password could not be checked: polkit takes none from this terminal. Run it with sudo."));
         }
         if (says("Error executing command as another user: Not authorized")
             || says("Error checking for authorization ")) {
-            // polkit says the same of a wrong password and of an agent that ended without an
+            // polkit reports the same for a wrong password and for an agent that ended without an
             // answer.
             return HelperError::failed(Text::tr(
                 "Administrator access was refused, or the agent that asks for the password gave no answer."));
@@ -195,7 +195,7 @@ QString appleScriptSource(const QStringList &words, const QString &promptText)
     for (const QString &word : words)
         quoted += shellQuoted(word);
     QString command = quoted.join(u' ');
-    // Backslashes first, so that those added for the quotes are not doubled.
+    // Backslashes first, so that the backslashes added for the quotes are not doubled.
     QString text = promptText;
     for (QString *quotable : {&command, &text})
         quotable->replace(u'\\', QLatin1String("\\\\")).replace(u'"', QLatin1String("\\\""));
@@ -242,7 +242,7 @@ bool PrivilegedRunner::Means::privilegedHelperOutdated() const
     const Outcome shipped = bundledHelper();
     if (!passwordlessInstalled() || !shipped)
         return false;
-    // Two files that cannot be read count as equal, one that can and one that cannot as different.
+    // Two unreadable files count as equal, a readable and an unreadable one as different.
     return contentOf(*shipped) != contentOf(profile.installedHelper);
 }
 
@@ -268,7 +268,7 @@ QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::run(std::shared_ptr<con
     const bool needsNobody = means->isRoot && means->profile.promptKind == PromptKind::PolicyKit;
     if (!needsNobody && means->passwordlessInstalled()) {
         const QStringList before{QStringLiteral("-n"), means->profile.installedHelper};
-        // A copy of another version may read nothing from its input.
+        // A copy of another version may not read its standard input.
         const Words words = means->privilegedHelperOutdated() ? Words{arguments, std::nullopt}
                                                               : hidden(arguments);
         auto running = start(means->runner, means->profile.sudo, before, words);
@@ -311,7 +311,7 @@ QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::prompt(std::shared_ptr<
             co_return Failure(HelperError::notStarted(run.error()));
         if (run->status == 0)
             co_return run->stdout;
-        // The number of the error that osascript reports for a dismissed dialog.
+        // The error number that osascript reports for a dismissed dialog.
         if (run->stderr.contains(QLatin1String("(-128)")))
             co_return Failure(HelperError::cancelled());
         co_return Failure(failure(run->stderr));
@@ -322,7 +322,7 @@ QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::prompt(std::shared_ptr<
     if (outcome || outcome.error().kind() != HelperError::Kind::Unapproved || more == arguments
         || !means->runner)
         co_return outcome;
-    // The dialog has not said that a strict session would be lessened; now it does.
+    // The first dialog did not say that a strict session would be weakened; this one does.
     const Outcome approved = co_await runAsRoot(means, helper, more);
     co_return approved;
 }
@@ -330,8 +330,8 @@ QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::prompt(std::shared_ptr<
 QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::runAsRoot(
     std::shared_ptr<const Means> means, QString script, QStringList arguments)
 {
-    // pkexec gets the script itself and no shell: the installed policy's actions, which say in the
-    // dialog what is wanted, belong to that path and the verb after it.
+    // pkexec gets the script itself and no shell: the installed policy's actions, whose texts the
+    // dialog shows, match that path and the verb after it.
     const QString program = means->isRoot ? shell : means->profile.promptProgram;
     const QStringList before{script};
     const Words words = hidden(arguments);

@@ -14,53 +14,53 @@
 
 namespace veldmark {
 
-// Runs the root helper. It has two ways: without a password, through sudo, when the user has had
-// the root-owned copy and its sudoers rule installed; and through the system's authorisation
-// dialog (osascript or pkexec, as the profile says). On a PolicyKit system a process that is root
-// already needs neither and runs the shipped helper directly.
+// Runs the root helper in one of two ways. Without a password, through sudo, when the root-owned
+// copy and its sudoers rule are installed. Otherwise through the system's authorisation dialog
+// (osascript or pkexec, according to the profile). On a PolicyKit system a process that is root
+// runs the shipped helper directly.
 //
-// pkexec is given the helper as the program to run, so the file must be executable. Where it is the
-// installed one, polkit's policy (packaging/org.veldmark.helper.policy) has an action for each
-// verb, found by that path and the verb as first argument; elsewhere the dialog is polkit's own.
+// pkexec runs the helper as its program, so the file must be executable. For the installed helper,
+// polkit's policy (packaging/org.veldmark.helper.policy) has one action per verb, found by that
+// path and the verb as first argument. For any other path polkit shows its own dialog.
 //
 // The helper reports a failure as one line on standard error, optionally after "ERROR: ", and a
-// status other than 0; that line, cleaned, is the error's description.
+// status other than 0. That line, cleaned, is the error's description.
 //
-// The options of connect and replace go to the helper's standard input, where nobody else reads
-// them, except through osascript. A connect that would lessen a running strict session is refused
-// by the helper; then replace asks.
+// The options of connect and replace go to the helper's standard input, where no other process can
+// read them, except through osascript. The helper refuses a connect that would weaken a running
+// strict session; then `replace` asks for approval.
 //
-// Belongs to the main thread and must be destroyed before its ProcessRunner. A run that is under
-// way then is left to finish; its caller gets `cancelled`, at the latest when it ends.
+// Belongs to the main thread and must be destroyed before its ProcessRunner. A current run then
+// continues to its end; its caller gets `cancelled`, at the latest at that end.
 class PrivilegedRunner {
 public:
     using Outcome = Result<QString, HelperError>; // standard output
 
-    // effectiveUser: what decides whether this process is root.
+    // effectiveUser: the account that decides whether this process is root.
     PrivilegedRunner(PlatformProfile profile, ProcessRunner &runner,
                      uid_t effectiveUser = ::geteuid());
     ~PrivilegedRunner();
     PrivilegedRunner(const PrivilegedRunner &) = delete;
     PrivilegedRunner &operator=(const PrivilegedRunner &) = delete;
 
-    // Whether both the root-owned copy and its rule exist. Looked up afresh each time.
+    // Whether both the root-owned copy and its rule exist. Checked at every call.
     bool passwordlessInstalled() const;
-    // Whether the installed copy is not, byte for byte, the helper that this version ships.
+    // Whether the installed copy differs from the helper that this version ships.
     bool privilegedHelperOutdated() const;
     // The path of the shipped helper, or missingHelper.
     Outcome bundledHelper() const;
 
-    // The normal entry for every verb: without a password if it can be, else with the dialog.
+    // The normal call for every verb: without a password if possible, otherwise with the dialog.
     [[nodiscard]] QCoro::Task<Outcome> runHelper(QStringList arguments);
     // Always through the dialog. script: the shipped helper when absent.
     [[nodiscard]] QCoro::Task<Outcome> runWithPrompt(QStringList arguments,
                                                      std::optional<QString> script = std::nullopt);
 
-    // The message within what a helper, or osascript around it, wrote on standard error.
+    // The message in the standard error of the helper, or of osascript around it.
     static Text cleanError(const QString &text);
 
 private:
-    // What a run needs, however long it takes; `runner` is null once this object is gone.
+    // The data of a run, valid until its end; `runner` becomes null when this object is destroyed.
     struct Means {
         PlatformProfile profile;
         ProcessRunner *runner;
@@ -79,10 +79,10 @@ private:
     std::shared_ptr<Means> m_means;
 };
 
-// `word` as one word of a POSIX shell command line.
+// `word` quoted as one word of a POSIX shell command line.
 QString shellQuoted(const QString &word);
-// The AppleScript program that runs `words` in a shell with administrator privileges after a
-// dialog that shows `promptText`.
+// The AppleScript program that shows a dialog with `promptText` and then runs `words` in a shell
+// with administrator privileges.
 QString appleScriptSource(const QStringList &words, const QString &promptText);
 
 } // namespace veldmark

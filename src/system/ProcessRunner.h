@@ -9,14 +9,16 @@
 
 #include <qcorotask.h>
 
-#include <cstdio> // may define stdout and stderr as macros: so every user sees the same names
+// Included here because it may define stdout and stderr as macros: so every file sees the same
+// names.
+#include <cstdio>
 
 namespace veldmark {
 
-// The outcome of one run of a program that did start.
+// The outcome of one run of a program that started.
 struct ProcessResult {
     int status = 0; // the exit code, or the number of the signal that ended the program
-    QString stdout; // everything it wrote there; UTF-8 with invalid sequences repaired
+    QString stdout; // all its output; UTF-8 with invalid sequences repaired
     QString stderr;
 };
 
@@ -30,8 +32,8 @@ private:
     Text m_description;
 };
 
-// Runs other programs. Every outside program goes through this interface, so that a test can
-// answer in their place; production uses ChildProcessRunner.
+// Runs other programs. Every outside program runs through this interface, so that a test can
+// replace it; production uses ChildProcessRunner.
 class ProcessRunner {
 public:
     ProcessRunner() = default;
@@ -39,22 +41,22 @@ public:
     ProcessRunner(const ProcessRunner &) = delete;
     ProcessRunner &operator=(const ProcessRunner &) = delete;
 
-    // Runs `executable` (an absolute path) with `arguments`, one per element, with no shell in
-    // between, and resumes when it has ended. A status other than 0 is no error here. There is no
-    // time limit: a caller that needs one imposes it. Several runs may be under way at once.
+    // Runs `executable` (an absolute path) with `arguments`, one per element, without a shell, and
+    // resumes when it has ended. A status other than 0 is no error here. There is no time limit: a
+    // caller that needs one imposes it. Several runs may happen at once.
     [[nodiscard]] virtual QCoro::Task<Result<ProcessResult, StartError>> run(QString executable,
                                                                              QStringList arguments)
         = 0;
 
-    // The same, with `input` on its standard input, which then ends. run() leaves it this process's
-    // own.
+    // The same, with `input` as its complete standard input. In run() the program inherits this
+    // process's standard input.
     [[nodiscard]] virtual QCoro::Task<Result<ProcessResult, StartError>> runWithInput(
         QString executable, QStringList arguments, QByteArray input)
         = 0;
 
-    // The same, but when `stop` is requested, on the thread that runs the event loop, the program
-    // and every process that it has started are killed; the run has then ended by that signal. The
-    // program has no terminal. What stands here is for stand-ins, whose programs end by themselves.
+    // The same, but a request to `stop`, on the event loop's thread, kills the program and every
+    // process that it has started. The run then ends by that signal. The program has no terminal.
+    // This default is for tests, whose programs end by themselves.
     [[nodiscard]] virtual QCoro::Task<Result<ProcessResult, StartError>> runUntil(
         QString executable, QStringList arguments, StopToken stop)
     {

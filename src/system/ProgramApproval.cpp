@@ -19,10 +19,10 @@ namespace {
 struct Role {
     const char *option;
     const char *name;
-    std::array<const char *, 3> files; // what the system's own programs for it are called
+    std::array<const char *, 3> files; // file names of the system's own programs for it
 };
 
-// As the helper has them, which decides (resources/helper/programs.sh).
+// The same table as the helper's, which decides (resources/helper/programs.sh).
 constexpr std::array<Role, 4> roles{{
     {"--tor", "tor", {"tor", "tor", "tor"}},
     {"--pt-lyrebird", "lyrebird", {"lyrebird", "obfs4proxy", "meek-client"}},
@@ -30,7 +30,7 @@ constexpr std::array<Role, 4> roles{{
     {"--pt-webtunnel", "webtunnel-client", {"webtunnel-client", "webtunnel", "lyrebird"}},
 }};
 
-// Root's alone to change, with every folder above it.
+// Whether only root can change the file and every folder above it.
 bool isRootsAlone(QString path)
 {
     for (;; path = QFileInfo(path).path()) {
@@ -55,7 +55,7 @@ bool isSystems(const PlatformProfile &profile, const QString &path, const Role &
         && (path.startsWith(root + QLatin1String("/usr/"))
             || path.startsWith(root + QLatin1String("/opt/")))
         && isRootsAlone(path) && ::statvfs(QFile::encodeName(path).constData(), &system) == 0
-        && (system.f_flag & ST_NOSUID) == 0; // as media are that a user has mounted
+        && (system.f_flag & ST_NOSUID) == 0; // user-mounted media have ST_NOSUID
 }
 
 QString digestOf(const QString &path)

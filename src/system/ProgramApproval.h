@@ -8,23 +8,23 @@ namespace veldmark {
 
 struct PlatformProfile;
 
-// A program that is to run as Tor's account although no package of the system brought it. The
-// administrator is asked for it by path and digest, as it was read before the prompt, and the
-// helper runs nothing else in its place.
+// A program that runs in Tor's account although no system package installed it. The administrator
+// approves its path and digest, read before the prompt. The helper runs no other file in its place.
 struct ProgramApproval {
     QString path;
     QString role;   // the helper's word: "tor", "lyrebird", "snowflake-client", "webtunnel-client"
-    QString digest; // SHA-256, in small hexadecimal digits
+    QString digest; // SHA-256, in lower-case hexadecimal digits
 
-    // What the helper is asked.
+    // The words of the request to the helper.
     QStringList words() const;
 
-    // Of the programs that a connect with these words names, those that an administrator has still
-    // to approve. Reads such a program whole: some ten milliseconds.
+    // The programs named in a connect's `words` that an administrator must still approve. Reads
+    // each of them completely, in some ten milliseconds.
     static std::vector<ProgramApproval> missing(const PlatformProfile &profile,
                                                 const QStringList &words);
-    // All of them that are not the system's own, also those of which root has a copy: the helper
-    // runs no copy of a bundle that a newer one has replaced, and only root knows which those are.
+    // All of them that are not the system's own, also those of which root has a copy. The helper
+    // runs no copy from a bundle that a newer one has replaced, and only root knows which copies
+    // those are.
     static std::vector<ProgramApproval> named(const PlatformProfile &profile,
                                               const QStringList &words);
 };

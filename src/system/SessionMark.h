@@ -8,11 +8,11 @@ namespace veldmark {
 
 struct PlatformProfile;
 
-// Which session the helper's marker tells of: every connect writes a new file. Two sessions that
-// look the same, one after the other, have two marks.
+// Identifies the session of the helper's marker: every connect writes a new file. Two successive
+// sessions with the same content have two different marks.
 struct SessionMark {
-    quint64 file = 0;   // its number in the file system
-    qint64 seconds = 0; // when it got that name, by the system's clock
+    quint64 file = 0;   // its inode number
+    qint64 seconds = 0; // when it got that name, according to the computer's clock
     qint64 nanoseconds = 0;
 
     // Absent without a session.

@@ -23,7 +23,7 @@ QByteArray contentOf(const QString &path, qint64 limit)
     return file.open(QIODevice::ReadOnly) ? file.read(limit) : QByteArray();
 }
 
-// The value of the line "KEY VALUE". Empty when there is none.
+// The value of the line "KEY VALUE". Empty without such a line.
 QByteArray valueOf(const QByteArray &note, const QByteArray &key)
 {
     for (const QByteArray &line : note.split('\n')) {
@@ -33,14 +33,14 @@ QByteArray valueOf(const QByteArray &note, const QByteArray &key)
     return {};
 }
 
-// Whether that very process runs, by its start in clock ticks since boot.
+// Whether the same process still runs, identified by its start in clock ticks since boot.
 bool isRunning(qint64 process, const QByteArray &start)
 {
     const QByteArray stat = contentOf(QStringLiteral("/proc/%1/stat").arg(process), statLimitBytes);
-    if (stat.isEmpty()) // where /proc hides other users' processes, only this can be told
+    if (stat.isEmpty()) // /proc may hide other users' processes; then only the existence is known
         return ::kill(static_cast<pid_t>(process), 0) == 0 || errno == EPERM;
-    // The name, in round brackets, may hold anything; the state follows, and the start is 19 fields
-    // after that.
+    // The name, in round brackets, may contain any character; the state follows it, and the start
+    // is 19 fields after that.
     const QList<QByteArray> fields = stat.mid(stat.lastIndexOf(')') + 2).split(' ');
     return fields.value(19) == start && fields.constFirst() != "Z" && fields.constFirst() != "X";
 }

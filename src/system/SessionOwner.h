@@ -10,22 +10,21 @@ namespace veldmark {
 
 struct PlatformProfile;
 
-// Who made the session that the helper's marker tells of: the user, and the program that asked for
-// it.
+// The owner of the session of the helper's marker: the user, and the program that requested it.
 struct SessionOwner {
     uid_t user = 0;
     qint64 process = 0;
 
     friend bool operator==(const SessionOwner &, const SessionOwner &) = default;
     bool isOwnUser() const { return user == callerOfHelper(); }
-    QString userName() const; // or the number, where the user has no name
+    QString userName() const; // or the number, when the user has no name
 
-    // Whom the helper takes for its caller when this process runs it: this process's user, and for
-    // root whoever has become root by sudo or pkexec.
+    // The user that the helper regards as its caller when this process runs it: this process's
+    // user, or for root the user who became root through sudo or pkexec.
     static uid_t callerOfHelper();
-    // The owner of the session of another process than this one, while that process runs. Nothing
-    // where there is no session, where it was left over, or where no helper has noted it (on a
-    // Mac). A process id that another process has by now does not count.
+    // The owner of another process's session, while that process runs. Absent without a session,
+    // for a leftover session, and when no helper has noted the owner (on macOS). A process id that
+    // now belongs to a different process does not count.
     static std::optional<SessionOwner> ofAnotherProcess(const PlatformProfile &profile);
 };
 

@@ -23,11 +23,11 @@ constexpr qint64 largestFileBytes = 4 * 1024 * 1024;
 
 struct Line {
     QByteArrayView said;     // without a comment at its end
-    qsizetype equalsAt = -1; // the first equals sign that is neither quoted nor behind a backslash
+    qsizetype equalsAt = -1; // the first equals sign that is neither quoted nor after a backslash
 };
 
-// Read as QSettings reads it. Nothing when the line goes on: a quote that is left open, or a
-// backslash at the end, swallows the following line.
+// Parses a line as QSettings does. Absent when the line continues: after an open quote or a
+// backslash at the end QSettings appends the next line.
 std::optional<Line> readLine(QByteArrayView text)
 {
     Line line{text};
@@ -57,10 +57,10 @@ bool isIntactLine(QByteArrayView text)
     return line->said.isEmpty() || line->equalsAt > 0;
 }
 
-// What only shows when QSettings reads the file: a key with an empty part ("/a", "a//b"), which it
-// would write under another name, and half of a surrogate pair ("\xd800"), which it would write as
-// another character. Its status is no judge: a file that it has read before and that has not
-// changed since gives no error a second time.
+// Finds errors that show only when QSettings reads the file: a key with an empty part ("/a",
+// "a//b"), which QSettings would write under another name, and half of a surrogate pair ("\xd800"),
+// which it would write as another character. QSettings' status is not reliable: for a file that it
+// has read before and that is unchanged, it reports no error a second time.
 bool isReadWhole(const QString &path)
 {
     const QSettings settings(path, QSettings::IniFormat);
@@ -77,7 +77,7 @@ bool isWritable(const QString &path)
     return QFile(path).open(QIODevice::ReadWrite | QIODevice::ExistingOnly);
 }
 
-// Folders of the user's own are nobody else's to read.
+// Only the user may read their own folders.
 bool makeFolder(const QString &path)
 {
     if (QFileInfo(path).isDir())
@@ -88,7 +88,7 @@ bool makeFolder(const QString &path)
     return ::mkdir(QFile::encodeName(path).constData(), 0700) == 0 || errno == EEXIST;
 }
 
-// A copy of `original` (empty where that is missing) under a new name in the same folder.
+// A copy of `original` (empty when that is missing) under a new name in the same folder.
 std::optional<QString> copyBeside(const QFileInfo &original)
 {
     QByteArray content;
@@ -127,8 +127,8 @@ bool writeKeys(const QString &path, const QSet<QString> &keys, const QVariantMap
     return settings.status() == QSettings::NoError;
 }
 
-// QSettings tells a changed file by its size and its time of change in milliseconds, which is
-// coarser than two quick writes.
+// QSettings detects a changed file by its size and its modification time in milliseconds, which may
+// be equal for two quick writes.
 void keepDistinctTime(const QString &changed, const QFileInfo &original)
 {
     const QDateTime before = original.lastModified();
@@ -139,7 +139,7 @@ void keepDistinctTime(const QString &changed, const QFileInfo &original)
     }
 }
 
-// The renaming itself is on disk only when the folder is.
+// The rename is on disk only after the folder is synced.
 void syncFolder(const QString &path)
 {
     const int descriptor = ::open(QFile::encodeName(path).constData(),
@@ -155,7 +155,7 @@ void syncFolder(const QString &path)
 SettingsFileState settingsFileState(const QString &path)
 {
     const QFileInfo info(path);
-    // In a folder that may not be entered every file looks missing; errno tells the difference.
+    // In a folder that can't be entered every file looks missing; errno shows the difference.
     struct stat found { };
     if (::stat(QFile::encodeName(path).constData(), &found) != 0) {
         return errno == ENOENT || errno == ENOTDIR ? SettingsFileState::Missing
@@ -180,7 +180,7 @@ bool isIntactSettingsText(const QByteArray &content)
         if ((byte < 0x20 && c != '\n' && c != '\r' && c != '\t') || byte == 0x7f)
             return false;
     }
-    // QSettings takes a byte order mark for a line without sense, or for the beginning of a key.
+    // QSettings reads a byte order mark as an invalid line, or as the beginning of a key.
     if (content.startsWith("\xef\xbb\xbf") || QString::fromUtf8(content).toUtf8() != content)
         return false;
     QByteArray text = content;
@@ -200,7 +200,7 @@ std::optional<QString> setSettingsFileAside(const QString &path)
         const QFileInfo taken(name);
         if (taken.exists() || taken.isSymLink())
             continue;
-        // Not QFile::rename: that copies what it cannot rename, and takes no directories.
+        // Not QFile::rename: it copies a file that it cannot rename, and accepts no directories.
         std::error_code error;
         std::filesystem::rename(QFile::encodeName(path).toStdString(),
                                 QFile::encodeName(name).toStdString(), error);
@@ -218,9 +218,9 @@ QVariantMap readSettingsFile(const QString &path)
     return values;
 }
 
-// The work is done on a copy beside the file that is then renamed over it. Given the file itself,
-// QSettings would keep what it failed to write and write it at some later time, over whatever the
-// file is by then; and it would make new files readable for everybody.
+// Writes a copy beside the file and renames it over the file. If QSettings had the file itself, it
+// would keep values that it failed to write and write them at a later time, over the file's content
+// of that time. It would also make new files readable for every user.
 bool rewriteSettingsFile(const QString &path, const QSet<QString> &keys, const QVariantMap &values)
 {
     const QFileInfo link(path);

@@ -8,7 +8,7 @@ namespace veldmark {
 
 namespace {
 
-// QSettings gives text for what it read from a file and typed values for what was set since.
+// QSettings returns text for values read from a file, and typed values for those set since.
 std::optional<bool> asBoolean(const QVariant &value)
 {
     if (value.typeId() == QMetaType::Bool)
@@ -30,7 +30,8 @@ std::optional<QString> asString(const QVariant &value)
     return std::nullopt;
 }
 
-// A file cannot tell a list of one from a string, and has "@Invalid()" for a list of none.
+// A file cannot distinguish a list of one element from a string, and has "@Invalid()" for an empty
+// list.
 std::optional<QStringList> asStringList(const QVariant &value)
 {
     if (!value.isValid())
@@ -71,7 +72,7 @@ SettingsStore::SettingsStore(const PlatformProfile &profile) : m_path(profile.se
         m_system = std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope,
                                                QStringLiteral("veldmark"),
                                                QStringLiteral("veldmark"));
-        m_system->setFallbacksEnabled(false); // this program's and this user's values only
+        m_system->setFallbacksEnabled(false); // only values of this program and this user
         for (const QString &key : m_system->allKeys())
             m_values.insert(key, m_system->value(key));
     } else if (setAsideIfBroken()) {
@@ -101,7 +102,7 @@ void SettingsStore::setBoolean(const QString &key, bool value)
 
 void SettingsStore::setString(const QString &key, const QString &value)
 {
-    // A null string would be stored as if it were no value at all.
+    // A null string would be stored as a missing value.
     set(key, value.isNull() ? QStringLiteral("") : value);
 }
 
@@ -157,7 +158,7 @@ bool SettingsStore::setAsideIfBroken()
 void SettingsStore::write()
 {
     if (m_memoryOnly)
-        return; // said already
+        return; // reported already
     const bool written = m_system ? writeSystemStore() : writeFile();
     if (written)
         m_unwritten.clear();
@@ -169,7 +170,7 @@ void SettingsStore::write()
 
 bool SettingsStore::writeFile()
 {
-    // The file may have been damaged, or removed, since it was read.
+    // The file may have been damaged or removed since the last reading.
     if (!setAsideIfBroken())
         return false;
     if (settingsFileState(m_path) == SettingsFileState::Missing) {

@@ -11,13 +11,13 @@ namespace veldmark {
 namespace {
 
 constexpr std::array watched = {SIGINT, SIGTERM, SIGHUP};
-std::array<int, 2> pipeEnds = {-1, -1}; // a handler can only reach what is global
+std::array<int, 2> pipeEnds = {-1, -1}; // a signal handler can use only globals
 
 void handle(int number)
 {
     const int error = errno;
     const auto byte = static_cast<unsigned char>(number);
-    // A full pipe loses the signal, but then the reader has plenty of them to read.
+    // A full pipe loses the signal, but the reader then has many others to read.
     [[maybe_unused]] const auto written = ::write(pipeEnds[1], &byte, 1);
     errno = error;
 }

@@ -7,8 +7,8 @@
 
 namespace veldmark {
 
-// Turns SIGINT, SIGTERM and SIGHUP into a Qt signal on the thread that made the watcher. While it
-// lives none of them ends the process. One at a time per process.
+// Turns SIGINT, SIGTERM and SIGHUP into a Qt signal on the thread that created the watcher. During
+// its lifetime none of them ends the process. At most one per process.
 class SignalWatcher : public QObject {
     Q_OBJECT
 

@@ -7,7 +7,7 @@ namespace {
 const QByteArray startMarker = "# >>> veldmark >>>";
 const QByteArray endMarker = "# <<< veldmark <<<";
 
-// The length of the line break at `at`: 2 for CR LF, 1 for LF, else 0.
+// The length of the line break at `at`: 2 for CR LF, 1 for LF, otherwise 0.
 qsizetype lineBreakLength(const QByteArray &text, qsizetype at)
 {
     const QByteArrayView rest = QByteArrayView(text).sliced(at);
@@ -57,7 +57,7 @@ QByteArray removed(const QByteArray &text, Position position, Separation separat
     const qsizetype endLine = firstStart < 0 ? -1 : findLine(text, endMarker, firstStart);
     if (endLine < 0)
         return text;
-    // A start whose end is missing may stand before a whole block. What is between is the user's.
+    // A start marker without an end may precede a complete block. The text between is the user's.
     qsizetype start = firstStart;
     for (qsizetype next = start; next >= 0 && next < endLine;
          next = findLine(text, startMarker, next + 1))
@@ -72,7 +72,8 @@ QByteArray removed(const QByteArray &text, Position position, Separation separat
     QByteArray before = text.first(start);
     const QByteArray after = text.sliced(end);
     if (separation.emptyLine && position == Position::atEnd) {
-        // Ours are LF, unless the whole file has been turned into CR LF since.
+        // The program's line breaks are LF, unless the whole file has been converted to CR LF
+        // since.
         const bool isCrLf = before.endsWith("\n\r\n");
         const qsizetype ours = isCrLf ? 2 : 1;
         if (isCrLf || before.endsWith("\n\n")) {

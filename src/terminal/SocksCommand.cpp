@@ -15,8 +15,8 @@ namespace {
 
 constexpr qsizetype usageLimitBytes = 64 * 1024;
 
-// What a program prints about itself, on either channel; empty when it does not end within 2 s, or
-// nobody wants to know.
+// The program's output, on either stream; empty when it does not end within 2 s, or after a stop
+// request.
 QByteArray usage(const QString &program, const QString &option, const StopToken &ended)
 {
     if (ended.stop_requested() || !QFileInfo(program).isExecutable())
@@ -55,7 +55,7 @@ bool isSocksNetcat(const QByteArray &usage)
 
 bool isSocksNcat(const QByteArray &usage)
 {
-    // One that cannot be told to send names to the proxy looks them up by itself, in the open.
+    // A program that cannot send names to the proxy makes its own DNS lookups, which bypass Tor.
     return usage.contains("--proxy-type") && usage.contains("--proxy-dns");
 }
 
@@ -79,7 +79,7 @@ SocksSearch::SocksSearch(PlatformProfile profile) : m_profile(std::move(profile)
 SocksSearch::~SocksSearch()
 {
     m_ended.request_stop();
-    const auto waits = m_state->waits; // each takes itself off the list
+    const auto waits = m_state->waits; // each waiter removes itself from the list
     for (const auto &wait : waits) {
         wait.complete(std::nullopt);
         wait.deliver();
@@ -133,7 +133,7 @@ QCoro::Task<void> SocksSearch::ask()
         });
     const std::optional<QString> found = co_await answer;
     state->waits.erase(wait);
-    if (!isFirst || ended.stop_requested()) // `this` may be gone
+    if (!isFirst || ended.stop_requested()) // `this` may be destroyed
         co_return;
     state->isRunning = false;
     state->command = found;

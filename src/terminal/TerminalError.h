@@ -4,7 +4,7 @@
 
 namespace veldmark {
 
-// Why a file of the user's could not be changed: one sentence that names the file, to be put behind
+// Why a file of the user could not be changed: one sentence that names the file. It follows
 // "Couldn't set up terminal mode: " or "Couldn't remove terminal integration: ".
 struct TerminalError {
     Text text;

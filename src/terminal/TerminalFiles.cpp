@@ -11,7 +11,7 @@ QByteArray joined(const QStringList &lines)
     return lines.join(u'\n').toUtf8();
 }
 
-// Line by line, so that each can be compared with what a terminal shows.
+// Split into lines, so that each can be compared with a terminal's output.
 QStringList lines(const char *text)
 {
     return QString::fromUtf8(text).split(u'\n');
@@ -41,10 +41,10 @@ constexpr const char *plainSync = R"(_veldmark_sync() {
   fi
 })";
 
-// The same, but what the user had before comes back, and what the user has changed since stays. The
-// kept values are exported, so that a shell started during the session can give them back too.
-// Leaves $? as it was, for prompts that show it. The variables exist before the functions use them:
-// zsh can be told to complain about ones that a function creates.
+// The same, but it restores the user's earlier values and keeps values that the user has changed
+// since. The saved values are exported, so that a shell started during the session can restore them
+// too. Keeps $? for prompts that show it. The variables exist before the functions use them: zsh
+// can be set to warn about variables that a function creates.
 constexpr const char *carefulSync = R"(_veldmark_name='' _veldmark_ours='' _veldmark_now=''
 
 _veldmark_keep() {

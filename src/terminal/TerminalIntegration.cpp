@@ -20,7 +20,7 @@ namespace {
 using MarkedBlock::Position;
 using MarkedBlock::Separation;
 
-// Never more, whatever the umask: ssh refuses a configuration that the group can write.
+// At most this, whatever the umask: ssh refuses a configuration that the group can write.
 constexpr mode_t plainMode = 0644;
 constexpr mode_t programMode = 0755;
 constexpr mode_t privateMode = 0600;
@@ -71,7 +71,7 @@ QString TerminalIntegration::sshConfiguration() const
 
 Result<void, TerminalError> TerminalIntegration::install() const
 {
-    // Our own files first: what the user's files then name is there.
+    // The program's own files first, so that they exist when the user's files name them.
     const std::optional<QString> command = m_search->command();
     if (const auto written = writeShellFiles(); !written)
         return written;
@@ -130,8 +130,8 @@ Result<void, TerminalError> TerminalIntegration::addSshBlock() const
             return made;
         ::chmod(QFile::encodeName(m_profile.sshDirectory).constData(), 0700);
     }
-    // At the top: ssh takes the first value it finds, and an Include below a host section would
-    // count for that host only.
+    // At the top: ssh uses the first value it finds, and an Include below a host section would
+    // apply to that host only.
     return addBlock(sshBody, sshConfiguration(), Position::atStart, privateMode);
 }
 
@@ -154,7 +154,8 @@ Result<void, TerminalError> TerminalIntegration::uninstall() const
     if (const auto removed = removeBlock(sshConfiguration(), Position::atStart); !removed)
         return removed;
     std::error_code error;
-    std::filesystem::remove_all(asPath(m_profile.terminalDirectory), error); // a link: only itself
+    // of a link only the link itself
+    std::filesystem::remove_all(asPath(m_profile.terminalDirectory), error);
     if (error)
         return Failure(
             TerminalError{Text::tr("%1 can't be removed: %2.")
@@ -216,7 +217,7 @@ Result<void, TerminalError> TerminalIntegration::addBlock(const QByteArray &body
 Result<void, TerminalError> TerminalIntegration::removeBlock(const QString &path,
                                                              Position position) const
 {
-    // A block that cannot be read away does no harm: without ~/.veldmark it does nothing.
+    // A block in an unreadable file does no harm: without ~/.veldmark it does nothing.
     const Result<UserFile, TerminalError> file = UserFile::read(path);
     if (!file || !file->exists())
         return {};

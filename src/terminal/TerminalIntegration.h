@@ -15,56 +15,58 @@
 
 namespace veldmark {
 
-// Terminal mode: makes command-line tools go through Tor while the computer is connected, without
-// any privilege. It keeps a shell file, an SSH configuration and a small test program in
-// ~/.veldmark, hooks them into the user's start-up files and SSH configuration with one marked
-// block each, and switches them with a marker file. The installed files look at that marker and
-// at the session's own each time they run, so after a crash they fall back by themselves.
+// Terminal mode: command-line tools use Tor while the computer is connected, without any privilege.
+// It keeps a shell file, an SSH configuration and a small test program in ~/.veldmark, adds one
+// marked block each to the user's start-up files and SSH configuration, and enables them with a
+// marker file. The installed files check that marker and the session's own at every run, so after a
+// crash they disable themselves.
 //
-// On a Mac the files are ~/.zshrc and, where it exists, ~/.bash_profile; on Linux ~/.bashrc and,
-// where zsh is installed or the file exists, ~/.zshrc.
+// On macOS the files are ~/.zshrc and, if it exists, ~/.bash_profile. On Linux they are ~/.bashrc
+// and, if zsh is installed or the file exists, ~/.zshrc.
 //
-// Keeps no state but which program ssh can use. Everything blocks, but works on small files only,
-// once it is known what that program is; the main thread is fine. One process at a time. Copies
-// share what they know.
+// Its only state is the program that ssh can use; copies share it. Every call blocks, but once that
+// program is known it works only on small files, so the main thread may call it. One process at a
+// time.
 class TerminalIntegration {
 public:
-    // `exitCheckAddress` is what `torip` asks for the caller's address: a plain https address,
-    // without any character that means something to a shell.
+    // `exitCheckAddress` is the address that `torip` queries for the caller's address: a plain
+    // https address, without characters that are special to a shell.
     TerminalIntegration(PlatformProfile profile, QString exitCheckAddress);
 
-    // Writes the files and adds the blocks; doing it again changes nothing. A failure ends it
-    // where it stands and keeps what was written before. Where no program speaks SOCKS for ssh,
-    // what concerns ssh is left out, or taken away again: see sshHint(). Asks for that program,
-    // unless it is known.
+    // Writes the files and adds the blocks; a repeated call changes nothing. It ends at the first
+    // failure and keeps the files written before. When no program supports SOCKS for ssh, the parts
+    // for ssh are left out or removed: see sshHint(). Queries the programs unless the answer is
+    // known.
     Result<void, TerminalError> install() const;
-    // The shells' part of it alone.
+    // Only the part for shells.
     Result<void, TerminalError> installForShells() const;
 
-    // Whether it is known which program ssh can use, if any.
+    // Whether the program for ssh, if any, is known.
     bool knowsSocksCommand() const { return m_search->isKnown(); }
     // Resumes when it is known.
     QCoro::Task<void> askForSocksCommand() const { return m_search->ask(); }
 
-    // Removes the marker, the blocks and ~/.veldmark; the user's files are byte for byte what they
-    // were, apart from what the user has changed since. A file that install() created stays, empty.
+    // Removes the marker, the blocks and ~/.veldmark. The user's files are then byte for byte as
+    // before, apart from the user's later changes. A file that install() created stays, empty.
     Result<void, TerminalError> uninstall() const;
 
-    // Whether the shell file exists and a start-up file that always gets the block has it.
+    // Whether the shell file exists, and a start-up file that always gets the block has it.
     bool isInstalled() const;
 
-    // Whether ssh's configuration leads to ours.
+    // Whether ssh's configuration includes Veldmark's.
     bool isUsedBySsh() const;
 
-    // Creates or removes the marker. Never fails: without it nothing goes through Tor.
+    // Creates or removes the marker. Never fails: without the marker the tools do not use Tor.
     void setActive(bool on) const;
 
-    // What to install so that ssh goes through Tor; empty when it does. Asks like install().
+    // What to install so that ssh uses Tor; empty when it does. Queries the programs like
+    // install().
     Text sshHint() const;
 
 private:
-    // What install() put between the user's text and the block, by file, so that uninstall() can
-    // tell its own line breaks from the user's. Kept in ~/.veldmark and written before the file.
+    // The bytes that install() put between the user's text and the block, by file, so that
+    // uninstall() can tell them from the user's own line breaks. Kept in ~/.veldmark and written
+    // before the file.
     using Separations = std::map<QString, MarkedBlock::Separation>;
     Separations separations() const;
     Result<void, TerminalError> keep(const Separations &separations) const;

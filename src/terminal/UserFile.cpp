@@ -28,15 +28,15 @@ tl::unexpected<TerminalError> systemFailure(const Text &sentence, const QString 
 const Text cannotRead = Text::tr("%1 can't be read: %2.");
 const Text cannotWrite = Text::tr("%1 can't be written: %2.");
 
-// Where a chain of links leads, whether or not there is something. Nothing is tidied out of the
-// path: ".." behind a link to a folder is for the kernel to resolve.
+// The target of a chain of links, whether or not it exists. The path is not normalised: the kernel
+// resolves ".." after a link to a folder.
 std::optional<QString> linkTarget(const QString &path)
 {
     std::filesystem::path place(QFile::encodeName(path).toStdString());
-    for (int links = 0; links < 40; ++links) { // as many as the kernel follows
+    for (int links = 0; links < 40; ++links) { // the kernel's limit
         std::error_code error;
         const std::filesystem::path next = std::filesystem::read_symlink(place, error);
-        if (error) // no link
+        if (error) // not a link
             return QFile::decodeName(QByteArray::fromStdString(place.string()));
         place = place.parent_path() / next;
     }
@@ -74,12 +74,13 @@ struct Owner {
 
 struct Access {
     mode_t mode;
-    bool isExact; // otherwise the user's umask takes from it
+    bool isExact; // otherwise the user's umask applies
     std::optional<Owner> owner;
-    bool isDurable; // outlives a power cut
+    bool isDurable; // survives a power cut
 };
 
-// A new, empty file beside `place`, which begins to carry its name; its path is put into `fresh`.
+// Creates a new, empty file beside `place` with a name derived from it, and puts its path into
+// `fresh`.
 int createBeside(const QByteArray &place, mode_t mode, QByteArray &fresh)
 {
     const qsizetype slash = place.lastIndexOf('/');
@@ -97,8 +98,8 @@ int createBeside(const QByteArray &place, mode_t mode, QByteArray &fresh)
 
 enum class Step { done, notOurs, failed };
 
-// Puts a new file in the place of `target`. `isStillWanted` is asked last of all; errno tells why a
-// step failed.
+// Replaces `target` by a new file. `isStillWanted` is called last; errno has the reason of a failed
+// step.
 template <typename IsStillWanted>
 Step putInPlace(const QString &target, const QByteArray &content, const Access &access,
                 IsStillWanted isStillWanted)
@@ -126,8 +127,8 @@ Step putInPlace(const QString &target, const QByteArray &content, const Access &
         return giveUp(Step::failed);
     if (!access.isDurable)
         return Step::done;
-    // The new name outlives a power cut only once the folder is written; the content is safe
-    // either way.
+    // The new name survives a power cut only after the folder is synced; the content is safe either
+    // way.
     const QByteArray folder = place.first(place.lastIndexOf('/') + 1);
     const Descriptor directory(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (directory.number() >= 0)
@@ -186,7 +187,7 @@ Result<void, TerminalError> UserFile::replace(const QByteArray &content, mode_t 
         return {};
     Access access{newMode, false, std::nullopt, true};
     if (m_found) {
-        // A new file could take the place of one that may not be written; the user has said no.
+        // A rename could replace a read-only file; the user has forbidden that.
         if ((m_found->mode & S_IWUSR) == 0
             || ::access(QFile::encodeName(m_target).constData(), W_OK) != 0)
             return failure(Text::tr("%1 is read-only."), m_path);

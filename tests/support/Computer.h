@@ -10,8 +10,8 @@
 namespace veldmark {
 
 // A computer below a temporary folder whose helper, sudo, pkexec and tor are scripts, for tests of
-// the real thing with its real processes. The helper notes what it was called for, writes and
-// removes the session marker, and fails where it is told to; nothing else changes.
+// the real program with real processes. The helper records its verbs, writes and removes the
+// session marker, and fails on request; it changes nothing else.
 struct Computer {
     QTemporaryDir folder;
     const PlatformProfile profile = PlatformProfile::linux(Places::below(folder.path()));
@@ -26,12 +26,12 @@ struct Computer {
         write(profile.promptProgram, "#!/bin/sh\nexec /bin/bash \"$@\"\n", true);
         QDir().mkpath(profile.places.home);
     }
-    // The verbs that the helper was called with, in their order.
+    // The verbs of the helper's calls, in order.
     QStringList verbs() const
     {
         return QString::fromUtf8(read(at("/verbs"))).split(u'\n', Qt::SkipEmptyParts);
     }
-    // The root-owned copy as a former version has left it.
+    // The root-owned copy of a former version.
     void installOldHelper() const
     {
         write(profile.installedHelper, helperText() + "# of a former version\n", true);
@@ -39,7 +39,7 @@ struct Computer {
     }
     bool hasMarker() const { return QFile::exists(profile.sessionMarker); }
     void writeMarker() const { write(profile.sessionMarker, "strict\n"); }
-    // From now on the verb fails for this reason; an empty one lets it work again.
+    // From now on the verb fails for this reason; an empty reason lets it work again.
     void fail(const char *verb, const QByteArray &reason) const
     {
         write(at("/fail-") + QLatin1String(verb), reason);

@@ -86,7 +86,7 @@ void FakeTor::accept()
         socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
         const auto client = m_clients.insert(m_clients.end(), Client{socket, {}, {}, {}});
         connect(socket, &QTcpSocket::readyRead, this, [this, client] { read(*client); });
-        // Queued: a client may go while its commands are being answered.
+        // Queued: a client may disconnect while its commands are being answered.
         connect(
             socket, &QTcpSocket::disconnected, this,
             [this, socket] {
@@ -159,10 +159,10 @@ void FakeTor::send(Client &client, const QByteArray &bytes)
     }
     client.socket->write(bytes);
     if (client.closing)
-        client.socket->disconnectFromHost(); // after what has been written
+        client.socket->disconnectFromHost(); // after the bytes already written
 }
 
-// One byte for each client that has any left; another turn while there are such.
+// Sends one byte to each client that has any left, and repeats while there are such clients.
 void FakeTor::dribble()
 {
     bool more = false;

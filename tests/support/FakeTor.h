@@ -11,15 +11,15 @@ class QTcpSocket;
 
 namespace veldmark {
 
-// A control port on a free port of 127.0.0.1 that speaks just enough of Tor's protocol for the
-// program's own client, and misbehaves on request. It runs on the event loop of the test.
+// A control port on a free port of 127.0.0.1 that supports as much of Tor's protocol as the
+// program's own client needs, and misbehaves on request. It runs on the event loop of the test.
 //
 //     FakeTor tor;
 //     tor.reply("GETINFO version", "250-version=0.4.8\r\n250 OK\r\n");
 //     ControlPort port(clock, tor.port());
 //
-// Without a script, AUTHENTICATE is judged by the password, SETEVENTS and SIGNAL are accepted and
-// anything else is answered "510 Unrecognized command".
+// Without a script, AUTHENTICATE checks the password, SETEVENTS and SIGNAL succeed, and the answer
+// to any other command is "510 Unrecognized command".
 class FakeTor : public QObject {
 public:
     FakeTor();
@@ -28,37 +28,37 @@ public:
     quint16 port() const { return m_port; }
     QString password() const { return m_password; }
     void setPassword(const QString &password) { m_password = password; }
-    // Any password of that hash is right from now on; password() is the last that was.
+    // From now on any password of that hash is right; password() is the last right one.
     void setHash(const QString &hash) { m_hash = hash; }
 
-    // The bytes that answer `command` (the whole line) from now on.
+    // The answer to `command` (the whole line) from now on.
     void reply(const QByteArray &command, const QByteArray &bytes);
-    // The bytes that answer it the next time it has no earlier such answer left.
+    // The answer to one later occurrence, after all earlier answers of this kind.
     void replyOnce(const QByteArray &command, const QByteArray &bytes);
-    // The connection is closed when the answer, if there is one, has been sent.
+    // The connection closes after the answer, if there is one.
     void closeAfter(const QByteArray &command) { m_closing += command; }
-    // The command is taken and not answered before answerIgnored().
+    // The command stays unanswered until answerIgnored().
     void ignore(const QByteArray &command) { m_ignored += command; }
-    // Answers what ignore() has left unanswered on connections that are still open.
+    // Answers the commands of ignore() on connections that are still open.
     void answerIgnored();
     // As ignore(), for all commands.
     void setSilent(bool silent) { m_silent = silent; }
-    // Every byte in a packet of its own, each in its own turn of the event loop.
+    // Sends every byte in a packet of its own, each in its own turn of the event loop.
     void setDribbling(bool dribbling) { m_dribbling = dribbling; }
 
     // Sends the bytes on every open connection that has sent a SETEVENTS.
     void sendEvent(const QByteArray &bytes);
-    // Ends all the connections, after what has been sent.
+    // Ends all connections, after the bytes already sent.
     void hangUp();
-    // Ends all the connections at once.
+    // Ends all connections at once.
     void disconnectAll();
-    // Ends them and refuses new ones; listen() takes the same port again.
+    // Ends all connections and refuses new ones; listen() opens the same port again.
     void stopListening();
     void listen();
 
     int connectionCount() const { return m_connectionCount; } // ever accepted
     int openConnections() const { return static_cast<int>(m_clients.size()); }
-    // Every command received, in order, AUTHENTICATE included.
+    // Every command received, in order, also AUTHENTICATE.
     QStringList commands() const { return m_commands; }
 
 private:
@@ -81,7 +81,7 @@ private:
     QTcpServer m_server;
     quint16 m_port = 0;
     QString m_password = QStringLiteral("secret");
-    QString m_hash; // empty: m_password alone is right
+    QString m_hash; // empty: only m_password is right
     std::list<Client> m_clients;
     QHash<QByteArray, QByteArray> m_replies;
     QHash<QByteArray, QByteArrayList> m_repliesOnce;

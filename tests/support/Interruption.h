@@ -6,19 +6,19 @@
 
 namespace veldmark {
 
-// An application that lets a test act at the n-th time a coroutine is resumed. Every wait of the
-// program ends in a ResumeOnce, and every ResumeOnce resumes through an event of its own; these
-// events are what is counted, on this thread.
+// An application in which a test can act at the n-th resumption of a coroutine. Every wait of the
+// program ends in a ResumeOnce, and every ResumeOnce resumes through an event of its own. The
+// application counts these events on this thread.
 class InterruptibleApplication : public QCoreApplication {
 public:
     using QCoreApplication::QCoreApplication;
 
     enum class Moment { before, after };
 
-    // From now on counts; at the n-th resumption, from 1, does `act` right before or after it. The
-    // coroutine that was to be resumed is not when its wait has gone by then.
+    // Starts to count; at the n-th resumption, from 1, calls `act` right before or after it. The
+    // coroutine is not resumed when its wait no longer exists by then.
     void interrupt(int resumption, Moment moment, std::function<void()> act);
-    // Counts no longer and does nothing more.
+    // Stops counting and acting.
     void leaveAlone() { m_act = nullptr; }
     // Since interrupt().
     int resumptions() const { return m_resumptions; }

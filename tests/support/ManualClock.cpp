@@ -6,7 +6,7 @@
 namespace veldmark {
 
 namespace {
-// Lets everything that is ready run: resumptions go through the event loop.
+// Processes all ready events: coroutines resume through the event loop.
 void settle()
 {
     for (int round = 0; round < 20; ++round)
@@ -28,7 +28,7 @@ QCoro::Task<void> ManualClock::sleep(std::chrono::milliseconds duration)
     m_totalSlept += duration;
     const ResumeOnce<std::monostate> elapsed;
     m_sleepers.emplace(m_now + duration, elapsed);
-    if (duration.count() <= 0) // a turn of the event loop, for which nobody moves the clock
+    if (duration.count() <= 0) // one turn of the event loop, without a move of the clock
         QTimer::singleShot(0, qApp, [elapsed] { elapsed.complete({}); });
     co_await elapsed;
 }

@@ -9,20 +9,20 @@
 namespace veldmark {
 
 // A clock that stands still until the test moves it. Sleepers wake in the order of their wake-up
-// times; a sleeper that sleeps again within the same `advance` is woken again when its time comes.
+// times. A sleeper that sleeps again within the same `advance` is woken again when its time comes.
 class ManualClock final : public Clock {
 public:
     ManualClock() = default;
-    // Wakes everybody, so that no waiting coroutine outlives the test.
+    // Wakes all sleepers, so that no waiting coroutine outlives the test.
     ~ManualClock() override;
 
     TimePoint now() const override { return m_now; }
     QCoro::Task<void> sleep(std::chrono::milliseconds duration) override;
 
-    // Moves time forward and lets the woken coroutines run (processes events in between).
+    // Moves time forward and runs the woken coroutines (processes events in between).
     void advance(std::chrono::milliseconds duration);
     std::size_t sleepers() const { return m_sleepers.size(); }
-    // Sum of all the sleeps ever asked for.
+    // The sum of all requested sleeps.
     std::chrono::milliseconds totalSlept() const { return m_totalSlept; }
 
 private:

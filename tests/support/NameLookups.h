@@ -2,11 +2,11 @@
 
 #include <QStringList>
 
-// A program that links this file's source has it in place of the system's resolver: getaddrinfo()
-// finds nothing, asks nobody, and keeps what it was asked. So no test ever sends a look-up out.
+// Replaces the system's resolver in a program that links this file's source: getaddrinfo() finds
+// nothing, sends nothing, and records its hosts. So no test ever sends a DNS lookup.
 namespace veldmark::NameLookups {
 
-// Every host asked for since clear(), in order. Any thread.
+// Every host looked up since clear(), in order. Any thread.
 QStringList hosts();
 void clear();
 

@@ -11,7 +11,7 @@
 
 namespace veldmark {
 
-// A session that another process has made: a real process, and what the helper has written of it.
+// A session of another process: a real process, and the helper's files about it.
 class OtherSession {
 public:
     explicit OtherSession(const PlatformProfile &profile, uid_t user = geteuid(),
@@ -26,7 +26,7 @@ public:
     ~OtherSession() { end(); }
 
     qint64 process() const { return m_sleeper.processId(); }
-    // The process ends; what it has left behind stays.
+    // The process ends; its files stay.
     void end()
     {
         m_sleeper.kill();

@@ -9,7 +9,7 @@
 
 namespace veldmark {
 
-// What the program writes on standard output, or on standard error, while this lives.
+// Captures the program's standard output, or standard error, during its lifetime.
 class Output {
 public:
     explicit Output(FILE *stream = stdout) : m_stream(stream), m_before(::dup(fileno(stream)))

@@ -7,7 +7,7 @@
 
 namespace veldmark {
 
-// A message bus of the test's own, on which nothing runs but what the test puts there.
+// A message bus for one test, with only the test's own services.
 class SessionBus {
 public:
     SessionBus()
@@ -36,7 +36,7 @@ public:
 
     bool isRunning() const { return m_address.startsWith(QLatin1String("unix:")); }
     QByteArray address() const { return m_address.toUtf8(); }
-    // A new connection each time.
+    // A new connection at each call.
     QDBusConnection connection()
     {
         return QDBusConnection::connectToBus(m_address,

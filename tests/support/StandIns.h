@@ -15,10 +15,10 @@
 #include <optional>
 #include <vector>
 
-// Small implementations of the program's own interfaces that answer as a test tells them.
+// Small implementations of the program's own interfaces with answers set by the test.
 namespace veldmark {
 
-// Runs nothing: `answer` decides what each call gives. A call for which `hold` is set waits until
+// Runs nothing: `answer` gives the result of each call. A call for which `hold` is true waits until
 // `release()`.
 class ScriptedRunner final : public ProcessRunner {
 public:
@@ -44,7 +44,7 @@ public:
         co_return now(call);
     }
 
-    // A helper's call is noted as if its options stood on the command line.
+    // Records a helper's call as if its options were on the command line.
     QCoro::Task<Result<ProcessResult, StartError>> runWithInput(QString executable,
                                                                 QStringList arguments,
                                                                 QByteArray input) override
@@ -76,7 +76,7 @@ private:
 
 class ScriptedProbe final : public NetworkProbe {
 public:
-    // What they answer is decided when they are asked.
+    // The answer is fixed at the time of the request.
     QCoro::Task<ProbeResult> viaTor() override
     {
         ++torProbes;
@@ -120,8 +120,7 @@ public:
     int readings = 0;
 };
 
-// Applications that have the names and copies that a test gives them; a copy ends when the test
-// says so.
+// Applications with the names and copies that a test sets; a copy ends when the test says so.
 class ScriptedApplications final : public RunningApplications {
 public:
     QString displayName(const QString &path) const override { return names.value(path, path); }

@@ -7,7 +7,7 @@
 
 namespace veldmark {
 
-// Stands in for the desktop's keeper of tray icons, with or without a panel that shows them.
+// Replaces the desktop's service for tray icons, with or without a panel that shows them.
 class StatusNotifierWatcher final : public QDBusVirtualObject {
 public:
     explicit StatusNotifierWatcher(const QDBusConnection &bus, bool hasHost = true)

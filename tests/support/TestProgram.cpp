@@ -33,7 +33,7 @@ int main(int argc, char **argv)
     if (argc > 1) {
         for (const Entry &entry : entries()) {
             if (std::strcmp(argv[1], entry.className) == 0) {
-                // The class name goes, the program's own name stays first.
+                // Removes the class name; the program's own name stays first.
                 argv[1] = argv[0];
                 return entry.run(argc - 1, argv + 1);
             }

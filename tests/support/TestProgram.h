@@ -2,12 +2,12 @@
 
 // One test program for each room instead of one for each test class: linking and preparing more
 // than a hundred programs took longer than compiling them. A test source ends with one of the
-// macros below in place of Qt's QTEST_MAIN; the program runs the class that its first argument
-// names, with the other arguments handed to Qt Test:
+// macros below instead of Qt's QTEST_MAIN. The program runs the class named by its first argument,
+// and passes the other arguments to Qt Test:
 //
 //     test-controller ConnectTest [SLOT…]
 //
-// A class per process: nothing of one test class lives on into another.
+// A class per process: no state of one test class reaches another.
 
 #include "base/Text.h"
 
@@ -21,7 +21,7 @@
 
 namespace veldmark {
 
-// What Qt Test says of a text that is not the wanted one.
+// The text in a failure report of Qt Test.
 inline char *toString(const Text &text)
 {
     return QTest::toString(text.english());

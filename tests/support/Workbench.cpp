@@ -117,7 +117,7 @@ Workbench::Workbench(System system)
     restart();
 }
 
-// The controller goes first, then whatever still waits is let go while all it touches is alive.
+// Destroys the controller first, then resumes the waiting coroutines while all their objects exist.
 Workbench::~Workbench()
 {
     end();
@@ -194,7 +194,7 @@ void Workbench::disconnect()
 
 bool Workbench::tick()
 {
-    // The monitor and the watch over the rules go to sleep anew; loops of earlier sessions wake
+    // The monitor and the watch over the rules start a new sleep; loops of earlier sessions wake
     // only to end.
     const auto goal = clock.totalSlept() + 2 * 2s;
     clock.advance(2s);

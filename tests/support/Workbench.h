@@ -19,19 +19,19 @@
 
 namespace veldmark {
 
-// Lets everything that is ready run, until `condition` holds. False after ten seconds.
+// Processes events until `condition` holds. False after ten seconds.
 bool until(const std::function<bool()> &condition);
-// Lets everything that is ready run.
+// Processes all events that are ready.
 void settle();
 
-// A whole controller in a computer of its own: the files of one of the systems below a temporary
-// folder, with a `tor` and a helper, real objects where they touch nothing else, and stand-ins for
-// programs, Tor, the network and time. What is not told otherwise goes well: the helper does what
-// it is asked (it writes and removes the session marker), Tor has bootstrapped at once, the probe
-// through Tor answers and the direct one does not, the live DNS test cannot begin.
+// A whole controller in its own computer: the files of one of the systems below a temporary folder,
+// with a `tor` and a helper, real objects if they affect nothing else, and replacements for
+// programs, Tor, the network and time. By default everything succeeds: the helper executes its
+// verbs (it writes and removes the session marker), Tor has bootstrapped at once, the probe through
+// Tor answers and the direct one does not. The live DNS test cannot begin.
 //
 // Time passes when the test moves `clock`. The control port has `socketClock`, which a test moves
-// only to let its time limits pass: a real socket cannot keep up with leaps.
+// only to let its time limits pass: a real socket cannot follow leaps.
 class Workbench {
 public:
     enum class System { linux, macos };
@@ -47,39 +47,38 @@ public:
     TorController &controller() { return *m_controller; }
     // The program ends and starts again: new settings store, new controller.
     void restart();
-    // The program ends: the controller goes, then everything that was made for it.
+    // The program ends: destroys the controller, then the objects made for it.
     void end() { m_controller.reset(); }
 
-    // Connects and waits until connect() has finished. True when it led to `connected`.
+    // Connects and waits until connect() has finished. True when the phase is then `connected`.
     bool connect();
-    // The same for disconnect(), whatever it leads to.
+    // The same for disconnect(), with any result.
     void disconnect();
     // Waits for the end of an operation.
     template <typename T> static bool finished(const QCoro::Task<T> &task)
     {
         return until([&task] { return task.isReady(); });
     }
-    // One turn of the monitor: two seconds, and what it then does. False when it does not come to
-    // an end.
+    // One turn of the monitor: two seconds, and its work. False when the work does not end.
     bool tick();
 
     // The arguments of every run of the helper, verb first.
     std::vector<QStringList> helperRuns() const;
     QStringList lastHelperRun(const QString &verb) const;
     int helperRunCount(const QString &verb) const;
-    // What the helper answers to a verb from now on, instead of doing it; "connect" stands for
-    // "replace" as well.
+    // The helper's answer to a verb from now on, instead of the verb's effect; "connect" also
+    // stands for "replace".
     void failHelper(const QString &verb, const QString &message);
     void cancelPrompt(const QString &verb);
     void letHelperWork() { m_refusals.clear(); }
     // The helper does not end before processes.release().
     void hold(const QString &verb);
-    // The password that Tor was last asked with.
+    // The password of the last request to Tor.
     QString password() const { return tor.password(); }
 
-    // What the watcher over the firewall's rules has seen: "standing", "restored" or "open", how
-    // often the rules were missed, and when it began. It has "standing 0" once a strict session was
-    // set up, and goes on looking (its note stays young) until it is killed.
+    // The watcher's report on the firewall's rules: "standing", "restored" or "open", how often the
+    // rules were missing, and when the state began. The watcher reports "standing 0" after the
+    // setup of a strict session, and keeps its note recent until it is killed.
     void noteRules(const QByteArray &word, int missed = 0, qint64 since = 1'800'000'000);
     void killWatcher();
 
@@ -90,13 +89,13 @@ public:
                    bool executable = false) const;
     void removeTor() const;
 
-    // Tor's answer to the bootstrap question: "PROGRESS=… TAG=… SUMMARY=…".
+    // Tor's answer to the bootstrap query: "PROGRESS=… TAG=… SUMMARY=…".
     void setBootstrap(const QByteArray &fields);
     void setCounters(const QByteArray &read, const QByteArray &written);
     // "250+key=", lines, ".", "250 OK".
     static QByteArray block(const QByteArray &key, const QByteArrayList &lines);
     int commandCount(const char *command) const;
-    // Tor's control port hears a command within the time.
+    // Whether Tor's control port gets a command in time.
     bool hears(const char *command, int times = 1);
 
     QTemporaryDir folder;
@@ -115,16 +114,16 @@ public:
     // none, unless set before a connect
     std::function<std::vector<ProgramApproval>(const QStringList &words)> missingApprovals;
     std::function<std::vector<ProgramApproval>(const QStringList &words)> namedPrograms;
-    PluggableTransports transports;                        // what a search finds
+    PluggableTransports transports;                        // the result of a search
     int searches = 0;                                      // for transports
-    std::function<QCoro::Task<void>()> beforeSearchAnswer; // what is found is settled before it
+    std::function<QCoro::Task<void>()> beforeSearchAnswer; // the result is fixed before it
     bool withoutDownloader = false;                        // of the next restart()
-    std::function<void()> cancelTransports;                // heard when a direct download is to end
-    // What a download comes to; well, unless this says otherwise.
+    std::function<void()> cancelTransports;                // called when a direct download must end
+    // The result of a download; success by default.
     std::function<QCoro::Task<TransportDownloader::Outcome>(bool throughTor,
                                                             TransportDownloader::Progress progress)>
         installTransports;
-    // How long a bridge takes to answer; none answer unless this says so.
+    // The time that a bridge takes to answer; by default none answers.
     BridgeProbe bridgeProbe;
     std::optional<NetworkRoute> route = NetworkRoute{QStringLiteral("eth0"), false};
     bool hasCircuit = true; // of the next setCounters()
@@ -132,13 +131,13 @@ public:
 
 private:
     Result<ProcessResult, StartError> run(const ScriptedRunner::Call &call);
-    // Empty when the call is no run of the helper.
+    // Empty when the call does not run the helper.
     QStringList helperArguments(const ScriptedRunner::Call &call) const;
     void setNoteAge(std::chrono::seconds age);
     ProcessResult refusal(const QString &message) const;
 
     std::map<QString, ProcessResult> m_refusals;
-    QTimer m_watcher; // its looks, in real time like the note's
+    QTimer m_watcher; // its checks, in real time like the note's
     std::unique_ptr<TorController> m_controller;
 };
 

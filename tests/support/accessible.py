@@ -51,14 +51,14 @@ def children(node, depth):
             try:
                 found.append(describe(child, depth))
             except GLib.Error:
-                continue  # it went while it was looked at
+                continue  # it disappeared during the query
     return found
 
 
 def main():
     wanted = int(sys.argv[1])
     desktop = Atspi.get_desktop(0)
-    windows = []  # a Qt program whose desktop theme uses GTK is there twice, once as each
+    windows = []  # a Qt program whose desktop theme uses GTK appears twice, once for each toolkit
     for i in range(desktop.get_child_count()):
         application = desktop.get_child_at_index(i)
         try:

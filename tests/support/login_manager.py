@@ -20,7 +20,7 @@ class Manager(dbus.service.Object):
     @dbus.service.method(f"{NAME}.Manager", in_signature="ssss", out_signature="h")
     def Inhibit(self, what, who, why, mode):
         read, write = os.pipe()
-        lock = dbus.types.UnixFd(write)  # a copy of its own
+        lock = dbus.types.UnixFd(write)  # duplicates the descriptor
         os.close(write)
         GLib.io_add_watch(read, GLib.IO_HUP, self.released)
         say("held" if (what, mode) == ("shutdown", "delay") else f"unexpected {what} {mode}")

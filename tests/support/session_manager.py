@@ -122,7 +122,7 @@ def let_in(host):
 
 @ctypes.CFUNCTYPE(None, P)
 def io_error(connection):
-    gone.add(connection)  # libICE would end this process
+    gone.add(connection)  # otherwise libICE ends this process
     say("closed")
 
 
