@@ -258,7 +258,7 @@ class Metadata(InAHome):
 
     def test_the_prompt_for_connecting_is_the_programs_own_text(self):
         profile = (ROOT / "src/platform/LinuxProfile.cpp").read_text()
-        text = re.search(r'promptText =\s*Text::tr\("([^"]+)"\)', profile).group(1)
+        text = re.search(r'promptText\s*=\s*Text::\s*tr\(\s*"([^"]+)"\)', profile).group(1)
         messages = {
             action.get("id"): action.find("message").text
             for action in tree.parse(PACKAGING / "org.veldmark.helper.policy").iter("action")
