@@ -1,4 +1,4 @@
-// The yardstick of the desktop figures: the least Qt Quick program with a tray icon and a window;
+// The yardstick of the desktop figures: a minimal Qt Quick program with a tray icon and a window;
 // --hidden shows no window.
 #include <QApplication>
 #include <QMenu>

@@ -1,5 +1,5 @@
-// How long the search for transport programs takes in the system laid out below FOLDER, once, as
-// one line of JSON. Usage: DiscoveryBench FOLDER. Build it with optimisation.
+// The time of one search for transport programs in the system below FOLDER, as one line of JSON.
+// Usage: DiscoveryBench FOLDER. Build it with optimisation.
 #include "bridges/PluggableTransports.h"
 
 #include <QFile>

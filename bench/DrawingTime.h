@@ -7,8 +7,7 @@
 
 namespace veldmark {
 
-// Processor time of the calling thread, in milliseconds; other work on the machine does not
-// lengthen it.
+// The processor time of the calling thread, in milliseconds, which other programs do not change.
 inline double threadMilliseconds()
 {
     timespec now{};
@@ -22,7 +21,7 @@ struct DrawingTimes {
     double most;
 };
 
-// How long `work` takes, over `repetitions` runs of it, each with its number.
+// The time of `work` over `repetitions` runs; each run gets its number.
 inline DrawingTimes drawingTimes(int repetitions, const std::function<void(int)> &work)
 {
     std::vector<double> times;

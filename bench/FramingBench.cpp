@@ -1,4 +1,4 @@
-// How long it takes to cut a circuit status of 10,000 circuits, as Tor sends it, into lines.
+// The time to cut Tor's status of 10,000 circuits into lines.
 //
 //     FramingBench [REPETITIONS]
 //
@@ -38,7 +38,7 @@ QByteArray circuitStatus()
     return status + ".\r\n250 OK\r\n";
 }
 
-// Milliseconds for one reply; ends the program when the reply does not come out whole.
+// Milliseconds for one reply; ends the program when the reply is incomplete.
 double measure(const QByteArray &status)
 {
     const auto begin = std::chrono::steady_clock::now();

@@ -1,6 +1,6 @@
-// How long the circuits window takes to draw, as one line of JSON: the graph alone and the whole
-// window, at its default size with the software renderer. Processor time of the drawing thread,
-// which other work on the machine does not lengthen as it does the time on the clock. Usage:
+// The time to draw the circuits window, as one line of JSON: the graph alone and the whole window,
+// at its default size with the software renderer. It is the processor time of the drawing thread,
+// which other programs change less than wall time. Usage:
 // GraphBench [REPETITIONS] (default 25). Build it with optimisation.
 #include "DrawingTime.h"
 #include "Scenes.h"
@@ -48,7 +48,7 @@ int main(int argc, char **argv)
                                                   graph->paint(&painter);
                                               })
                                      .middle;
-            // Tor's list has changed: everything from the session's news to the window's pixels.
+            // Tor's list has changed: everything from the session's change to the window's pixels.
             const double frame = drawingTimes(repetitions, [&](int i) {
                                      snapshot.circuits[0].sites = {
                                          QStringLiteral("site%1.example").arg(i)};

@@ -1,5 +1,5 @@
-// How long the log window takes to draw with 3,000 lines, as one line of JSON: a line added while
-// following, a list replaced as a whole, and a scroll by a few lines. Processor time of the drawing
+// The time to draw the log window with 3,000 lines, as one line of JSON: a new line while
+// following, a new list, and a scroll by a few lines. It is the processor time of the drawing
 // thread. Usage: LogWindowBench [REPETITIONS] (default 25). Build it with optimisation.
 #include "DrawingTime.h"
 #include "Scenes.h"
@@ -34,7 +34,7 @@ int main(int argc, char **argv)
         return 1;
     stage.picture();
 
-    // A frame: what follows from the news is done by the event loop, then it is drawn.
+    // A frame: the event loop handles the change, then the window is drawn.
     const auto draw = [&] {
         QCoreApplication::processEvents();
         window->grabWindow();

@@ -7,7 +7,7 @@
 
 namespace veldmark {
 
-// The median of how long `work` takes, in milliseconds of wall time, over `repetitions` runs of it.
+// The median wall time of `work`, in milliseconds, over `repetitions` runs.
 inline double medianMilliseconds(int repetitions, const std::function<void()> &work)
 {
     std::vector<double> times;

@@ -1,5 +1,5 @@
-// A desktop's tray, as far as programs can tell: takes every icon and shows none. Prints "ready"
-// once it stands on the session bus, so that programs that start afterwards find it.
+// A desktop's tray for programs: accepts every icon and shows none. Prints "ready" once it is on
+// the session bus, so that later programs find it.
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QTextStream>

@@ -1,4 +1,4 @@
-"""What the groups share: a figure with its goal, how often it is measured, and the machine that it is measured on."""
+"""Shared by the groups: a figure with its goal, the number of measurements, and the machine."""
 
 import dataclasses
 import json
@@ -9,7 +9,9 @@ from pathlib import Path
 
 sys.dont_write_bytecode = True
 PROJECT = Path(__file__).resolve().parents[1]
-sys.path.insert(0, str(PROJECT / "tests" / "lab"))
+sys.path[:0] = [str(PROJECT / "tests" / "lab"), str(PROJECT / "tools")]
+
+from moving import say  # noqa: E402
 
 PROGRAMS = PROJECT / "build" / "bin"
 BENCHES = PROJECT / "build" / "dev" / "bench"
@@ -18,7 +20,7 @@ RUN_FOLDER = "/var/lib/veldmark/run"
 
 @dataclasses.dataclass
 class Rounds:
-    """How often things are measured. A quick run tries that everything works; its figures mean nothing."""
+    """The numbers of measurements. A quick run only checks that everything works; its figures mean nothing."""
 
     idle_seconds: float
     quick: bool
@@ -28,8 +30,8 @@ class Rounds:
 
 
 class Figures:
-    """The table, printed row by row. A goal is the most or the least that a value may be; a value without one is a yardstick, or tells how
-    another came about."""
+    """The table, printed row by row. A goal is a maximum or a minimum. A value without a goal is a yardstick, or explains another
+    value."""
 
     def __init__(self, judges: bool):
         self.rows: list[dict] = []
@@ -47,7 +49,7 @@ class Figures:
         if goal and not met:
             self.missed.append(name)
         verdict = "" if not goal or not self._judges else "met" if met else "MISSED"
-        print(f"  {name:<58}{value:>9.2f} {unit:<5} {goal:<15} {verdict:<7} {note}".rstrip(), flush=True)
+        say(f"  {name:<58}{value:>9.2f} {unit:<5} {goal:<15} {verdict:<7} {note}".rstrip())
 
 
 def middle(values: list[float]) -> float:
@@ -59,7 +61,7 @@ def spread(values: list[float]) -> str:
 
 
 def measured(program: str, *arguments: str) -> dict:
-    """What one of the C++ benchmarks says."""
+    """The output of a C++ benchmark."""
     return json.loads(subprocess.run([BENCHES / program, *arguments], capture_output=True, text=True, check=True).stdout)
 
 

@@ -1,19 +1,19 @@
 #!/usr/bin/python3
-"""Prints the benchmarks as a table, or with --json as one JSON object. `--only WORD` runs the groups whose name holds WORD.
+"""Prints the benchmarks as a table, or with --json as one JSON object. `--only WORD` runs the groups whose name contains WORD.
 
     parsing     framing and reading circuit-status lines against python3-stem, the log against a short Python program, interleaved
     helper      the helper's connect and disconnect in strict mode
-    killswitch  how long the rules take to load, and what they cost, against none, interleaved
+    killswitch  the time to load the rules, and their cost compared with none, interleaved
     download    SOCKS downloads through Tor with the kill switch and without, interleaved
-    identities  what separate applications cost a connection, with and without, interleaved; the program that watches groups
-    prompt      what terminal mode's hook adds to a shell's prompt
-    desktop     redrawing the windows; first frame, memory and processor time of the application beside a bare tray program
+    identities  the cost of separate applications for a connection, interleaved; the program that watches groups
+    prompt      the time that terminal mode's hook adds to a shell's prompt
+    desktop     redrawing the windows; first frame, memory and processor time of the application against a bare tray program
     connect     from the call of connect() to connected, and disconnect, against a bare tor with the same torrc, interleaved
     discovery   the search for transport programs in a folder of 12,000 files against find, interleaved
-    service     memory, processor time and wake-ups of veldmarkctl run, connected, beside nyx
+    service     memory, processor time and wake-ups of veldmarkctl run, connected, against nyx
 
-A group that needs Tor has a private Tor network of its own, which ends with it. Everything runs on this machine and in its own network
-namespaces. Exit status 77 where namespaces are not permitted. --quick measures everything once, to try that it works.
+A group that needs Tor has a private Tor network, which ends with it. Everything runs on this machine in its own network namespaces.
+Exit status 77 where namespaces are not permitted. --quick measures everything once, to check that it works.
 """
 
 import argparse
@@ -28,6 +28,7 @@ sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
 from figures import PROGRAMS, Figures, Rounds  # noqa: E402  (it says where the lab's modules are)
+from moving import Moving  # noqa: E402
 from veldlab.lab import Lab, LabUnavailable  # noqa: E402
 from veldlab.product import Product  # noqa: E402
 
@@ -62,7 +63,8 @@ def main() -> int:
     try:
         for name in groups:
             print(name, flush=True)
-            run_group(name, figures, rounds)
+            with Moving(name):
+                run_group(name, figures, rounds)
     except LabUnavailable as error:
         print(error, file=sys.stderr)
         return 77

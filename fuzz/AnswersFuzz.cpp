@@ -1,5 +1,5 @@
-// Short answers from elsewhere: the exit-check service, the root helper's complaints, and the
-// arguments of veldmarkctl.
+// Short texts from outside: the exit-check service's answer, the root helper's errors, and
+// veldmarkctl's arguments.
 #include "fuzz/Require.h"
 
 #include "checks/IPCheck.h"
@@ -11,7 +11,7 @@ using namespace veldmark;
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray bytes = bytesOf(data, size);
-    // shown to the user, so nothing but an address
+    // shown to the user, so it must be an address
     if (const auto answer = IPCheck::fromJson(bytes)) {
         REQUIRE(isPrintableWord(answer->ip) && answer->ip.size() <= 45);
         for (const QChar c : answer->ip)
@@ -20,7 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const QString text = QString::fromUtf8(bytes);
     PrivilegedRunner::cleanError(text);
 
-    // One word of the shell that runs what osascript is told, whatever the word holds.
+    // Any text stays one word of the shell command for osascript.
     const QString quoted = shellQuoted(text);
     REQUIRE(QString(quoted).replace(QStringLiteral("'\\''"), QString()).count(u'\'') == 2);
 

@@ -1,4 +1,4 @@
-// Bridge lines as they are pasted, in any UTF-16, and what the root helper gets of them.
+// Pasted bridge lines, in any UTF-16, and the root helper's arguments for them.
 #include "fuzz/Require.h"
 
 #include "bridges/BridgeLines.h"
@@ -13,13 +13,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     if (size == 0)
         return 0;
     QString text = textOf(data + 1, size - 1);
-    if (data[0] % 4 == 0) { // a text field can hold half a surrogate pair, which UTF-8 cannot
+    if (data[0] % 4 == 0) { // a text field can contain half a surrogate pair, which UTF-8 cannot
         text.resize(static_cast<qsizetype>((size - 1) / 2));
         std::memcpy(text.data(), data + 1, static_cast<std::size_t>(text.size()) * 2);
     }
     const ParsedBridgeLines parsed = BridgeLines::parse(text);
     REQUIRE(parsed.invalid.size() == static_cast<qsizetype>(parsed.invalidLineNumbers.size()));
-    // The keyword is taken off once; a second one, or one with a tab after it, stays as a transport
+    // The keyword is removed once. A second one, or one with a tab after it, stays as a transport
     // of that name.
     bool hasKeyword = false;
     for (const QString &line : parsed.lines) {
@@ -36,7 +36,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         REQUIRE(!line.isEmpty() && !BridgeLines::isValid(line));
         BridgeLines::address(line);
     }
-    // What was valid stays so when it is read again.
+    // A valid line stays valid when it is read again.
     REQUIRE(hasKeyword || BridgeLines::parse(parsed.lines.join(u'\n')).lines == parsed.lines);
     const auto custom = BridgeLines::custom(text);
     REQUIRE(custom.has_value() == (parsed.invalid.isEmpty() && !parsed.lines.isEmpty()));

@@ -29,8 +29,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     for (auto known = history.keyBegin(); known != history.keyEnd(); ++known)
         REQUIRE(ids.contains(*known));
     for (const RelayInfo &relay : table.unresolved)
-        REQUIRE(isPrintableWord(relay.fingerprint)); // it is asked for in a command
-    // Asking again with the same lines changes nothing.
+        REQUIRE(isPrintableWord(relay.fingerprint)); // it becomes a part of a command
+    // Another refresh with the same lines changes nothing.
     REQUIRE(CircuitTable::assemble(circuitLines, streamLines, history, cache).circuits
             == table.circuits);
 

@@ -1,4 +1,4 @@
-// What Tor sends on its control port: bytes to lines and replies, replies to values.
+// Tor's output on its control port: bytes to lines and replies, replies to values.
 #include "fuzz/Require.h"
 
 #include "control/ControlPort.h"

@@ -1,5 +1,5 @@
-// What a download depends on: the release index, GnuPG's verdict, tar's listing, a transport
-// program's own word. tar's second listing follows an empty line.
+// The input of a download: the release index, GnuPG's verdict, tar's listing, a transport program's
+// own output. tar's second listing follows an empty line.
 #include "fuzz/Require.h"
 
 #include "bridges/BundleArchive.h"

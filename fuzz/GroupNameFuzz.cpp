@@ -1,4 +1,4 @@
-// Names of control groups, which any user makes, and the firewall's maps that follow from them.
+// Names of control groups, which any user can make, and the firewall's maps for them.
 #include "fuzz/Require.h"
 
 #include "identify/GroupName.h"

@@ -1,5 +1,5 @@
-// Tor's log: single lines against the pattern that they are documented to follow, and the merged
-// files. The files are parted by a byte 0xFF.
+// Tor's log: single lines against the documented pattern, and the merged files. A byte 0xFF
+// separates the files.
 #include "fuzz/Require.h"
 
 #include "log/TorLog.h"

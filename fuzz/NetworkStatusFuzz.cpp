@@ -1,4 +1,4 @@
-// What Tor says about relays, countries and its own start. Addresses found here go into the next
+// Tor's replies about relays, countries and its own start. Addresses from here go into the next
 // command to Tor.
 #include "fuzz/Require.h"
 
@@ -30,6 +30,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     }
     const BootstrapStatus status = TorController::parseBootstrap(text);
     REQUIRE(status.progress >= 0);
-    REQUIRE(status.summary.size() <= text.size()); // a quoted string may hold quotes of its own
+    REQUIRE(status.summary.size() <= text.size()); // a quoted string may contain escaped quotes
     return 0;
 }

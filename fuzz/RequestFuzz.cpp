@@ -25,7 +25,7 @@ Program *program = nullptr;
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     static QCoreApplication application(*argc, *argv);
-    program = new Program; // as long as the process
+    program = new Program; // lives as long as the process
     return 0;
 }
 
@@ -33,7 +33,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 {
     QByteArray request = bytesOf(data, size);
     request.truncate(request.indexOf('\n') < 0 ? request.size() : request.indexOf('\n'));
-    // These wait for the world, not for a reader.
+    // These wait for the network, not for a reader.
     const QString command
         = QJsonDocument::fromJson(request).object().value(QStringLiteral("command")).toString();
     if (command == u"watch" || command == u"connect" || command == u"disconnect")

@@ -7,8 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-// A property that must hold whatever the input is. When it does not, libFuzzer keeps the input that
-// broke it.
+// A property that must hold for every input. Otherwise libFuzzer keeps the input that broke it.
 #define REQUIRE(condition)                                                                         \
     do {                                                                                           \
         if (!(condition)) {                                                                        \

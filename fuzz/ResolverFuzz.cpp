@@ -1,4 +1,4 @@
-// The system's resolvers, as scutil and /etc/resolv.conf give them.
+// The system's resolvers, from scutil and /etc/resolv.conf.
 #include "fuzz/Require.h"
 
 #include "checks/DNSCheck.h"

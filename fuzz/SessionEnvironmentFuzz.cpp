@@ -1,5 +1,5 @@
-// The environment of another process, as the kernel shows it, of which veldmark-launch takes the
-// session's variables.
+// The environment of another process, as the kernel shows it. veldmark-launch takes the session's
+// variables from it.
 #include "fuzz/Require.h"
 
 #include "launch/SessionEnvironment.h"

@@ -1,5 +1,5 @@
-// The settings file: whatever it holds, the store starts; one that counts as intact is one to
-// QSettings, too, and loses nothing when a value is changed; one that does not is put aside whole.
+// The settings file: the store starts with any content. An intact file is valid for QSettings, too,
+// and loses nothing when a value is changed. A damaged file is kept as a whole under another name.
 #include "fuzz/Require.h"
 
 #include "system/SettingsFile.h"
@@ -40,8 +40,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const QByteArray bytes = bytesOf(data, size);
     static const QTemporaryDir folder(QDir::tempPath() + QStringLiteral("/veldmark-fuzz-XXXXXX"));
     static PlatformProfile profile = PlatformProfile::linux(Places::below(folder.path()));
-    // A name for each input: QSettings takes two files of one name, size and time for one, and
-    // inputs come in quick succession.
+    // Each input gets its own name: QSettings takes two files of the same name, size and time for
+    // the same, and inputs come in quick succession.
     static quint64 number = 0;
     const QString path = folder.filePath(QString::number(++number));
     const QString aside = path + QStringLiteral(".broken");

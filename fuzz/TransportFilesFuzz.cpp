@@ -1,4 +1,4 @@
-// pt_config.json and Tor Browser's preferences: only valid bridge lines may come out.
+// pt_config.json and Tor Browser's preferences: the result may contain only valid bridge lines.
 #include "fuzz/Require.h"
 
 #include "bridges/BridgeLines.h"

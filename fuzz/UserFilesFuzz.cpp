@@ -1,4 +1,4 @@
-// The block in the user's shell and SSH files: taking it out again gives back every byte.
+// The block in the user's shell and SSH files: its removal restores every byte.
 #include "fuzz/Require.h"
 
 #include "terminal/MarkedBlock.h"

@@ -1,12 +1,11 @@
 #!/usr/bin/python3
-"""Throws mutated arguments at the root helper's own parser and compares each verdict with a second, independent one.
+"""Gives mutated arguments to the root helper's own parser and compares each verdict with a second, independent one.
 
 usage: helper_arguments.py HELPER [--cases N] [--seed N]
 
-The helper is read into a shell of its own, as nobody, in an empty folder; its verbs run up to the point where they would
-take the lock, which is before they touch anything, and say there what they have understood. So each case either is refused
-with one line, or is accepted with exactly the values that were given, each of them fit for Tor's configuration, a firewall
-rule or a file name. Nothing that stands in a value may ever run: the folder stays empty.
+A shell of its own, as nobody and in an empty folder, reads the helper. The verbs run up to the lock, before they touch anything,
+and print the parsed values. Each case is either refused with one line, or accepted with exactly the given values, each of them fit
+for Tor's configuration, a firewall rule or a file name. No text in a value may ever run: the folder stays empty.
 """
 
 import argparse
@@ -261,7 +260,7 @@ def is_program(path):
 
 
 def understood(words):
-    """What the helper must make of `words`: options by name and the bridges, or None where it must refuse."""
+    """The expected reading of `words`: options by name and the bridges, or None where the helper must refuse."""
     if not words or words[0].decode("latin-1") not in ALLOWED:
         return None
     verb, rest = words[0].decode("latin-1"), words[1:]
@@ -342,7 +341,7 @@ def fits_install(options, _):
 
 
 def mutated(words, chance):
-    """`words` with one to three changes; sometimes none, so that accepting is tried as well."""
+    """`words` with one to three changes; sometimes none, so that acceptance is tested as well."""
     words = list(words)
     for _ in range(chance.choice([0, 1, 1, 1, 2, 3])):
         kind = chance.randrange(8)
@@ -402,7 +401,7 @@ class Parser:
 
 
 def problem(words, fields):
-    """What is wrong with the helper's verdict on `words`; empty when nothing is."""
+    """The error in the helper's verdict on `words`; empty without one."""
     wanted = understood(words)
     status = fields[fields.index(b"STATUS") + 1]
     refusal = fields[fields.index(b"REFUSAL") + 1]
@@ -426,7 +425,7 @@ def problem(words, fields):
 
 
 def shows_what_runs(helper):
-    """Whether a value that does run is seen in the folder, so that an empty folder means something."""
+    """Whether a value that runs leaves a file in the folder, so that an empty folder proves something."""
     with tempfile.TemporaryDirectory() as folder:
         os.chmod(folder, 0o777)
         parser = Parser(helper, folder, canary="touch pwned")

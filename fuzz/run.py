@@ -3,12 +3,12 @@
 
 usage: fuzz/run.py [--short | --minutes M] [NAME...]
 
---short    a fixed number of inputs for each, always the same ones: what `./build.sh test` does
+--short    a fixed number of inputs for each, always the same ones; `./build.sh test` does this
 --minutes  this long over all targets together (default 60), each with an equal share and a seed of its own
 NAME       only these, such as BridgeLinesFuzz or helper
 
-Each fuzzer starts from fuzz/corpus/NAME, which it does not change; what it finds goes to build/fuzz/corpus/NAME, and an
-input that broke it to build/fuzz/found/. Prints a table and writes build/fuzz/report.json. Exit status 1 when any broke.
+Each fuzzer starts from fuzz/corpus/NAME, which it does not change. New inputs go to build/fuzz/corpus/NAME, and an input that broke
+it to build/fuzz/found/. Prints a table and writes build/fuzz/report.json. Exit status 1 when a fuzzer failed.
 """
 
 import argparse
@@ -21,6 +21,11 @@ import sys
 import time
 
 HERE = os.path.dirname(os.path.abspath(__file__))
+sys.dont_write_bytecode = True
+sys.path.insert(0, os.path.join(HERE, "..", "tools"))
+
+from moving import Moving  # noqa: E402
+
 BUILD = os.path.join(HERE, "..", "build", "fuzz")
 HELPER = os.path.join(HERE, "..", "build", "bin", "veldmark-helper.sh")
 
@@ -29,10 +34,10 @@ SHORT_RUNS = {"RequestFuzz": 5000, "SettingsFuzz": 2000, "LogFuzz": 2000, "Bridg
 SHORT_DEFAULT = 20000
 SHORT_HELPER_CASES = 1500
 LARGEST_INPUT_BYTES = 4096
-IN_MEMORY = "/dev/shm" if os.access("/dev/shm", os.W_OK) else "/tmp"  # for the files that some inputs become
-INPUT_SECONDS = 10  # one that takes longer is a finding
-# Qt keeps things between calls, which libFuzzer takes for a leak to be searched for after every such input; what is lost is
-# found by one search at the end. Freed memory is kept back in an amount that stays in the processor's reach.
+IN_MEMORY = "/dev/shm" if os.access("/dev/shm", os.W_OK) else "/tmp"  # for fuzzers that write inputs to files
+INPUT_SECONDS = 10  # an input that takes longer is a finding
+# Qt keeps objects between calls, which libFuzzer takes for a leak and searches for after every such input; one search at the end
+# finds real leaks. The sanitizer's quarantine of freed memory is small enough for the processor's cache.
 SANITIZER = "quarantine_size_mb=16"
 
 
@@ -44,7 +49,7 @@ def targets():
 def fuzz(name, runs=None, seconds=None):
     """One fuzzer's figures."""
     found = os.path.join(BUILD, "found")
-    # libFuzzer adds to its first folder. A short run begins with nothing but the committed inputs, so it is always the same.
+    # libFuzzer adds to its first folder. A short run begins with only the committed inputs, so it is always the same.
     corpus = os.path.join(BUILD, "scratch" if runs else "corpus", name)
     if runs and os.path.isdir(corpus):
         shutil.rmtree(corpus)
@@ -109,7 +114,7 @@ def helper(cases, seed):
 
 
 def helper_for(seconds):
-    """As many rounds as fit, each with a seed of its own."""
+    """Runs as many rounds as fit, each with a seed of its own."""
     total = {"name": "helper", "inputs": 0, "edges": 0, "seconds": 0.0, "failed": False, "log": ""}
     start = time.monotonic()
     seed = int(time.time())
@@ -140,12 +145,13 @@ def main():
     reports = []
     print(f"{'':28}{'inputs':>12}{'seconds':>10}{'edges':>8}")
     for name in names:
-        if name == "helper":
-            report = helper(SHORT_HELPER_CASES, 1) if given.short else helper_for(share)
-        elif given.short:
-            report = fuzz(name, runs=SHORT_RUNS.get(name, SHORT_DEFAULT))
-        else:
-            report = fuzz(name, seconds=share)
+        with Moving(name):
+            if name == "helper":
+                report = helper(SHORT_HELPER_CASES, 1) if given.short else helper_for(share)
+            elif given.short:
+                report = fuzz(name, runs=SHORT_RUNS.get(name, SHORT_DEFAULT))
+            else:
+                report = fuzz(name, seconds=share)
         reports.append(report)
         verdict = f"  BROKEN, see {report['log']}" if report["failed"] else ""
         print(f"{name:28}{report['inputs']:12,}{report['seconds']:10}{report['edges']:8}{verdict}", flush=True)

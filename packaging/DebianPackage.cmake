@@ -16,9 +16,9 @@ brings it back. In strict mode a firewall lets nothing leave the computer but
 Tor's own traffic, from before Tor has started until you disconnect; in proxy
 mode the system's proxy settings point at Tor.
 .
-It checks the exit address as the world sees it, the direct path and where
-names are looked up, knows bridges and exit countries, and shows Tor's
-circuits and log. veldmark is the desktop application, veldmarkctl the same
+It checks the exit address as the world sees it, the direct path and
+DNS, supports bridges and exit countries, and shows Tor's circuits and
+log. veldmark is the desktop application, veldmarkctl the same
 for terminals, scripts and servers.
 .
 It contains no Tor: it uses the tor that is installed.")

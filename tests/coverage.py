@@ -18,6 +18,11 @@ import sys
 from pathlib import Path
 
 PROJECT = Path(__file__).resolve().parents[1]
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(PROJECT / "tools"))
+
+from moving import Moving  # noqa: E402
+
 BUILD = PROJECT / "build" / "asan"
 GOAL = 90.0  # per cent
 LOGIC = ("base", "platform", "system", "control", "bridges", "circuits", "checks", "log", "terminal", "controller", "instance")
@@ -69,7 +74,8 @@ def main() -> int:
     parser.add_argument("--json", metavar="FILE")
     given = parser.parse_args()
     passed = given.no_run or run_tests()
-    files = line_counts()
+    with Moving("Counting the lines that were run"):
+        files = line_counts()
     rooms: dict[str, list[bool]] = {}
     for name, lines in files.items():
         rooms.setdefault(name.split("/")[1], []).extend(lines.values())

@@ -64,7 +64,7 @@ explain_failure() {
         fi
     elif grep -qE 'Could not get lock|is another process using it|Unable to acquire the dpkg frontend lock' "$log"; then
         printf 'another program is installing packages: run this again when it has ended'
-    elif grep -qE 'Temporary failure resolving|Could not resolve|Could not connect|Connection failed|Unable to connect|Network is unreachable' "$log"; then
+    elif grep -qE 'Temporary failure resolving|Could not resolve|Could not connect|Connection failed|Unable to connect|Network is unreachable|Failed getting release file' "$log"; then
         printf "Debian's registry cannot be reached: connect to the network and run this again"
     elif grep -qE 'Unable to locate package|has no installation candidate' "$log"; then
         printf 'a package is unknown to apt (%s): only Debian 12 and its descendants have them all' \

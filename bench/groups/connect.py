@@ -1,4 +1,4 @@
-"""From the call of connect() to connected, and back, beside a bare tor."""
+"""The time of connect() and disconnect, compared with a bare tor."""
 
 import json
 import subprocess
@@ -9,14 +9,14 @@ from figures import RUN_FOLDER, Figures, Rounds, middle, spread
 
 
 def clean_start(lab) -> None:
-    """Both sides begin without a cached consensus or guards."""
+    """Removes the cached consensus and guards of both sides."""
     lab.host.run(["rm", "-rf", f"{RUN_FOLDER}/tor/data"], check=True)
 
 
 def time_session(lab, product) -> tuple[float, float]:
-    """Seconds from the call of connect() to connected, and those that disconnect takes."""
+    """The seconds from the call of connect() to connected, and the seconds of the disconnect."""
     clean_start(lab)
-    moments: dict[str, float] = {}  # when each phase was first seen by somebody who watches the instance
+    moments: dict[str, float] = {}  # when an observer of the instance first saw each phase
     with product.session(connect=False) as session:
         session.wait_phase("disconnected")
         watch = lab.host.popen([product.ctl, "status", "--watch", "--json"], stdout=subprocess.PIPE, text=True)
@@ -39,7 +39,7 @@ def note_phases(lines, moments: dict[str, float]) -> None:
 
 
 def time_bare_tor(lab, torrc: str) -> tuple[float, float]:
-    """Seconds from its start to 100 %, and from SIGTERM to its end."""
+    """The seconds from its start to 100 %, and from SIGTERM to its end."""
     clean_start(lab)
     script = (
         f"install -d -m 700 -o _veldmark {RUN_FOLDER}/tor/data && exec setpriv --reuid _veldmark --regid _veldmark --clear-groups "

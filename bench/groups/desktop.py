@@ -1,4 +1,4 @@
-"""The windows, and the application beside a bare tray program."""
+"""The windows, and the application compared with a bare tray program."""
 
 import json
 from pathlib import Path

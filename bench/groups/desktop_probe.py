@@ -17,7 +17,7 @@ import tempfile
 import time
 from pathlib import Path
 
-PATIENCE = 120  # seconds for anything to happen; a figure never includes waiting for more
+PATIENCE = 120  # the limit in seconds for any change; no figure includes further waiting
 
 
 def until(what: str, condition, pause: float = 0.05):
@@ -30,7 +30,7 @@ def until(what: str, condition, pause: float = 0.05):
 
 
 class Screen:
-    """The X server's picture, which it keeps in a file."""
+    """The X server's picture, which is in a file."""
 
     WIDTH, HEIGHT, STRIDE = 1024, 768, 1024 * 4
 
@@ -42,7 +42,7 @@ class Screen:
         self._empty = self._lines()
 
     def _lines(self) -> list[bytes]:
-        """Some of its lines; a window of hundreds of pixels touches many."""
+        """A sample of its lines; a window of hundreds of pixels changes many of them."""
         start = len(self._bytes) - self.HEIGHT * self.STRIDE
         return [self._bytes[start + y * self.STRIDE : start + (y + 1) * self.STRIDE] for y in range(12, self.HEIGHT, 48)]
 
@@ -80,7 +80,7 @@ def memory(pid: int) -> dict[str, float]:
 
 
 def spent(pid: int) -> tuple[float, int]:
-    """Seconds of processor time, and how often its threads have gone to sleep."""
+    """The seconds of processor time, and the number of its threads' sleeps."""
     nanoseconds = sleeps = 0
     for task in Path(f"/proc/{pid}/task").iterdir():
         nanoseconds += int((task / "schedstat").read_text().split()[0])
@@ -138,7 +138,7 @@ def main() -> None:
 
         subprocess.run([ctl, "set", "autoConnect", "false"], check=True, stdout=subprocess.DEVNULL)
         for program in (bare, veldmark):
-            first_frame(screen, [program])  # from a warm cache, as the yardstick is
+            first_frame(screen, [program])  # from a warm cache, like the yardstick
         frames = {"bare": [], "veldmark": []}
         for _ in range(pairs):
             frames["bare"].append(first_frame(screen, [bare]))

@@ -2,7 +2,7 @@
 
 from figures import Figures, Rounds, hashed_password, middle, spread
 
-# One process of the host runs them all, so that no start of a process is measured that is not theirs.
+# One process of the host runs them all, so that no other process's start is measured.
 SCRIPT = """
 rounds=$1
 shift

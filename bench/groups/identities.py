@@ -1,4 +1,4 @@
-"""What separate applications cost."""
+"""The cost of separate applications."""
 
 from figures import Figures, Rounds, middle, spread
 from groups.identities_probe import measure

@@ -1,5 +1,5 @@
-"""What separate applications cost: a connection to Tor's SOCKS port with the table and without, by turns, among 200 identities; and the
-program that sees groups come and go, while 50 come and 50 go each second, and at rest."""
+"""The cost of separate applications: a connection to Tor's SOCKS port with the table and without, by turns, among 200 identities;
+and the program that watches groups, with 50 new and 50 removed groups a second, and idle."""
 
 import os
 import subprocess
@@ -10,7 +10,7 @@ USER = "/sys/fs/cgroup/user.slice/user-1001.slice"
 APPS = f"{USER}/user@1001.service/app.slice"
 TABLE = "veldmark-identities"
 
-# Opens and closes so many connections; the seconds for one.
+# Opens and closes this many connections; prints the seconds for one.
 CONNECTIONS = (
     "import socket, sys, time\nstart = time.perf_counter()\nfor _ in range(int(sys.argv[1])):\n"
     "    s = socket.create_connection(('127.0.0.1', 9050)); s.close()\nprint((time.perf_counter() - start) / int(sys.argv[1]))"
@@ -45,7 +45,7 @@ def connections(host, pairs):
 
 
 def spent(host):
-    """Seconds of processor time: of the program, and of those that listen to the rules."""
+    """The seconds of processor time of the program and of the listeners to the rules."""
     script = (
         'for name in veldmark-identi "nft"; do for pid in $(pgrep -x "$name"); do cut -d" " -f14,15 /proc/$pid/stat; done; done'
     )
@@ -54,7 +54,7 @@ def spent(host):
 
 
 def coming_and_going(host, seconds):
-    """Shares of one core while groups come and go, and while nothing does."""
+    """The shares of one core while groups come and go, and while idle."""
     before = spent(host)
     host.run(["/usr/bin/python3", "-c", COMING, APPS, str(seconds)], check=True, timeout=seconds * 3)
     busy = spent(host)

@@ -1,11 +1,11 @@
-"""The kill switch: how long its rules take to load, and what they cost."""
+"""The kill switch: the time to load its rules, and their cost for packets."""
 
 import subprocess
 
 from figures import RUN_FOLDER, Figures, Rounds, hashed_password, middle, spread
 
-# Sends for a second and prints what the other side took: bytes over one TCP stream, as fast as memory goes or at the pace of a
-# fast network card, or datagrams of 64 bytes.
+# Sends for a second and prints what the other side received: bytes over one TCP stream, at memory speed or at the rate of a fast
+# network card, or datagrams of 64 bytes.
 SINK = """
 import socket, sys
 if sys.argv[1] != "udp":
@@ -16,8 +16,8 @@ else:
     while s.recv(100) != b"end": total += 1
 print(total, flush=True)
 """
-# Prints the CPU time that the sending took, in seconds for each byte or datagram. In namespaces of one machine a packet's whole
-# way is walked on the sender's time, and unlike the throughput it does not depend on what else the machine does.
+# Prints the sender's CPU time, in seconds for each byte or datagram. In namespaces of one machine the sender's time includes a
+# packet's whole path. Unlike the throughput, it does not depend on the machine's other work.
 SOURCE = """
 import resource, socket, struct, sys, time
 cpu = lambda: sum(resource.getrusage(resource.RUSAGE_SELF)[:2])
@@ -37,7 +37,7 @@ else:
         while True: s.send(b"end"); time.sleep(0.01)
     except ConnectionRefusedError: pass   # it has heard, and gone
 """
-# Tor's own traffic, and what passes the most rules: to a neighbour on the local network. With the least share that is wanted.
+# Tor's own traffic, and the traffic that passes the most rules: to a neighbour on the local network. Each with its minimum share.
 PATHS = {
     ("tcp", "_veldmark"): ("one TCP stream of Tor's, from memory to memory", None),
     ("paced", "_veldmark"): ("… at the pace of 10 Gbit/s", 0.97),
@@ -45,12 +45,12 @@ PATHS = {
     ("udp", "_veldmark"): ("64-byte datagrams of Tor's", 0.85),
     ("udp", "root"): ("64-byte datagrams to a neighbour", 0.85),
 }
-# Somebody's ordinary firewall: it tracks connections, and lets everything pass.
+# An ordinary firewall: it tracks connections and accepts everything.
 TRACKING = "table inet tracking { chain input { type filter hook input priority 0; policy accept; ct state established accept; }; }"
 
 
 def throughput(lab, kind: str, user: str) -> tuple[int, float]:
-    """What the other side took in about a second, and the sender's CPU time for one byte or datagram."""
+    """What the other side received in about a second, and the sender's CPU time for one byte or datagram."""
     sink = lab.lan.popen(["/usr/bin/python3", "-c", SINK, kind], stdout=subprocess.PIPE, text=True)
     sink.stdout.readline()
     enter = '[ "$1" = root ] || [ ! -d "$0" ] || echo 0 >"$0/cgroup.procs"; user=$1; shift; exec setpriv --reuid "$user" --clear-groups "$@"'
@@ -61,9 +61,9 @@ def throughput(lab, kind: str, user: str) -> tuple[int, float]:
 
 
 def run_in_lab(figures: Figures, rounds: Rounds, lab, product) -> None:
-    # The one that every kernel permits. The machine's own may pace a stream by its estimates, which would be measured then.
+    # A congestion control that every kernel permits. The machine's own may pace a stream, which would change the figure.
     lab.host.run(["sh", "-c", "echo reno >/proc/sys/net/ipv4/tcp_congestion_control"], check=True)
-    # With a transport that sends datagrams, so that Tor's account may.
+    # A transport that sends datagrams, so that Tor's account may send them.
     words = [
         "connect",
         "--tor",
@@ -79,7 +79,7 @@ def run_in_lab(figures: Figures, rounds: Rounds, lab, product) -> None:
         "--pt-snowflake",
         "/usr/bin/snowflake-client",
     ]
-    product.run_helper(*words, check=True)  # the account exists from here on
+    product.run_helper(*words, check=True)  # Tor's account exists from here on
     script = f"for i in $(seq {rounds.of(20)}); do start=${{EPOCHREALTIME/./}}; nft -f {RUN_FOLDER}/firewall.nft; echo $((${{EPOCHREALTIME/./}} - start)); done"
     loads = [int(line) / 1000 for line in lab.host.run(["bash", "-c", script], check=True).stdout.split()]
     product.run_helper("disconnect", check=True)

@@ -1,5 +1,5 @@
-"""Reads three files of Tor's log the way a short Python program would, for comparison with our own reader: split into lines, the
-start-up lines that are also in Tor's log left out, the last 3,000 taken apart with the pattern of Tor's lines.
+"""Reads three files of Tor's log in a short Python program, for comparison with Veldmark's reader: splits them into lines, drops
+the start-up lines that are also in Tor's log, and parses the last 3,000 with the pattern of Tor's lines.
 """
 
 import re

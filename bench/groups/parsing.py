@@ -1,4 +1,4 @@
-"""Tor's replies and its log, read by us and by others."""
+"""Reading Tor's replies and log, by Veldmark and by other programs."""
 
 import tempfile
 import time
@@ -12,7 +12,7 @@ FIXED_STEPS = 20_000
 
 
 def fixed_computation() -> float:
-    """Milliseconds for a computation that is the same on every machine: small objects, made and looked up."""
+    """The milliseconds of a fixed computation, the same on every machine: making and finding small objects."""
     start = time.perf_counter()
     relays = {f"relay{number}": [number] for number in range(FIXED_STEPS)}
     assert sum(relays[f"relay{number}"][0] for number in range(FIXED_STEPS)) == FIXED_STEPS * (FIXED_STEPS - 1) // 2

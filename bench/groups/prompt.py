@@ -4,8 +4,8 @@ from figures import Figures, Rounds, middle, spread
 
 PROMPTS = 1000
 PLAIN_HOME = "/root/plain"
-# Read by an interactive shell line by line, so with a prompt and its hooks before each; prints when it began and
-# ended, the prompts counted, and whether the hook is there.
+# An interactive shell reads this line by line, with a prompt and its hooks before each line. It prints its start and end, the
+# number of prompts, and whether the hook exists.
 PROMPT_SCRIPT = (
     '[ -z "${ZSH_VERSION:-}" ] || zmodload zsh/datetime\n'
     "count=0; start=$EPOCHREALTIME\n" + ":\n" * PROMPTS + "end=$EPOCHREALTIME; counted=$count\n"

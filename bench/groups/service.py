@@ -1,4 +1,4 @@
-"""What the service takes while nothing happens."""
+"""The resources of the idle service."""
 
 import json
 from pathlib import Path

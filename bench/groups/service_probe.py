@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""What `veldmarkctl run` and nyx take while each watches a Tor that does nothing; prints one JSON object.
+"""Measures the resources of `veldmarkctl run` and nyx while each watches an idle Tor; prints one JSON object.
 
     service_probe.py PROGRAMS SECONDS
 
@@ -25,7 +25,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parent))
 from desktop_probe import connected, idle, running, until  # noqa: E402
 
 CONTROL_PORT = 9151
-DRAWN_BYTES = 2000  # a terminal that has been sent this much shows the whole page
+DRAWN_BYTES = 2000  # after this much output the terminal shows the whole page
 
 
 def bare_tor(folder: str) -> subprocess.Popen:
@@ -41,7 +41,7 @@ def bare_tor(folder: str) -> subprocess.Popen:
 
 
 class Terminal:
-    """A program on a terminal of its own, whose output is read and counted."""
+    """A program on a terminal of its own; its output is read and counted."""
 
     def __init__(self, words: list[str]):
         self.pid, self._end = pty.fork()

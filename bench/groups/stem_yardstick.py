@@ -1,4 +1,4 @@
-"""Reads 10,000 circuit-status lines with python3-stem, a well-kept control library, for comparison with our own reader.
+"""Reads 10,000 circuit-status lines with python3-stem, a maintained control library, for comparison with Veldmark's reader.
 
 The lines are like those of the C++ benchmarks: three hops with nicknames, build flags, purpose and time, about 200 bytes each.
 """
@@ -20,7 +20,7 @@ def circuit_lines() -> list[str]:
 
 
 def read_with_stem() -> float:
-    """Seconds that stem needs to turn the reply into its circuit events."""
+    """The seconds that stem needs to parse the reply into circuit events."""
     from stem.response import ControlMessage, convert  # noqa: F401, PLC0415
 
     lines = circuit_lines()

@@ -16,10 +16,21 @@
 #
 # Runs as root, through the administrator prompt or a sudo rule. Exit status 0 means success. Any other status
 # comes with one line on standard error: "ERROR: " and a sentence for the user. Status 3: only an administrator's
-# approval of the same verb is missing.
+# approval of the same verb is missing. Status 4: only the approval of a program (the verb approve) is missing.
 #
-# This file is joined from parts; the head of each part describes its content. Functions named print_... are pure:
-# they write generated text to standard output and change nothing.
+# This file is joined from parts, in this order; the head of each describes its content:
+#   core, options, files, note, addresses       messages and the caller, the words of the verbs, files, what Veldmark says
+#   session, launch                             lock, marker and failures; opening an application that bypasses Tor
+#   state, groups, programs, bundle, torrc      folders, accounts and journal; control groups; what may run as Tor
+#   firewall, rules, bridges, loopback, others  the kill switch, transports' ports, the loopback device, other firewalls
+#   resolver, resolved, names                   DNS
+#   jobs, tor, service                          Tor, and Debian's own tor service
+#   proxy, gnome, kde, services                 the desktop's proxy settings; macOS's network services
+#   bypass, identify                            applications that bypass Tor; circuits of their own for each application
+#   watcher, owner                              the process that keeps the rules in force; whose session it is
+#   session, privileged, main                   connect and disconnect; password-free mode; which verb runs
+# put_KIND sets a part of the session up after it has noted the former state in the journal entry NUMBER-KIND, and
+# undo_KIND restores that. Functions named print_... are pure: they write text to standard output and change nothing.
 
 # Started as "bash FILE", without -p, bash has imported functions and BASH_ENV from the caller's environment. In
 # POSIX mode such a function cannot replace `exec`, so start again with only the caller's uid.
@@ -73,10 +84,10 @@ die() {
   exit 1
 }
 
-# unapproved TEXT: the same, when only an administrator's approval is missing.
+# unapproved TEXT [STATUS]: the same, when only an administrator's approval is missing.
 unapproved() {
   say "$1$STAYS_CLOSED"
-  exit 3
+  exit "${2:-3}"
 }
 
 # print_text: prints standard input. Rules consist of many pieces, and cat would cost a process for each.

@@ -167,11 +167,11 @@ put_firewall() {
   local text udp=0
   if [[ $1 == strict ]]; then
     [[ -z $USED_SNOWFLAKE ]] || udp=1
-    text=$(print_strict_rules "$TOR_UID" "$CALLER_UID" "$OPT_LAN" "$udp" "$EXEMPT_GID")
+    text=$(print_strict_rules "$TOR_UID" "$CALLER_UID" "$OPT_LAN" "$udp" "$BYPASS_GID")
   else
     text=$(print_proxy_rules "$TOR_UID" "$CALLER_UID")
   fi
-  hold_rules || die "Somebody else is changing the firewall. Try again in a moment."
+  hold_rules || die "Another program is changing the firewall. Try again in a moment."
   put_marker "$1"
   write_file "$RULES" 0600 root "$text"$'\n' || die "The file $RULES cannot be written."
   put_rules "$text"
@@ -187,7 +187,7 @@ put_rules() {
   load_rules "$1"
   put_reference
   enable_firewall
-  kill_states || die "The firewall cannot end the connections from before."
+  kill_states || die "The firewall cannot end the earlier connections."
 }
 
 # undo_firewall: empty rules open the network; the other steps only clean up. Status 3: the network is open, but
@@ -196,11 +196,11 @@ undo_firewall() {
   local output token
   # Held to the end of the run, when the marker is removed too.
   if command -v perl >/dev/null && ! hold_rules; then
-    UNDONE="The firewall could not be opened, because somebody is changing it."
+    UNDONE="The kill switch could not be switched off, because another program is changing the firewall."
     return 1
   fi
   if ! output=$(pfctl -q -a "$ANCHOR" -f - 2>&1 </dev/null); then
-    UNDONE="The firewall could not be opened ($(pf_words "$output"))."
+    UNDONE="The kill switch could not be switched off ($(pf_words "$output"))."
     return 1
   fi
   kill_states || true

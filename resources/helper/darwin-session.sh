@@ -29,18 +29,18 @@ darwin_connect() {
   fi
   journal_has "$FIREWALL_ENTRY" || journal_put "$FIREWALL_ENTRY" "boot $boot" || die "The journal cannot be written."
   note_asked
-  [[ $mode != strict ]] || ready_exempt
+  [[ $mode != strict ]] || put_bypass
   if [[ $former != strict || $mode == strict ]]; then
     put_firewall "$mode"
   fi
   if [[ $mode == strict ]]; then
-    start_watcher
+    put_watcher
     ON_FAILURE=
     STAYS_CLOSED=" The network stays blocked until you disconnect."
   fi
   undo_entry "$TOR_ENTRY" || ! journal_has "$TOR_ENTRY" || die "$UNDONE"
   put_names
-  start_tor
+  put_tor
   put_services "$OPT_LAN"
   if [[ $mode == proxy ]]; then
     # Also removes the rest of a strict session whose rules are gone: its watcher and its note.
@@ -52,23 +52,18 @@ darwin_connect() {
 
 JOURNAL_TRUSTED=1
 
-# undo_entry NAME: restores the settings of an entry and removes it. A torn entry contains nothing usable; then
+# undo_entry NAME: restores what the entry NUMBER-KIND records, by undo_KIND, and removes it. A torn entry contains nothing usable; then
 # only what needs no entry is restored. Status 1 with UNDONE set when something could not be restored and the entry
 # stays; 3, likewise, when the network is open all the same; 2 when the entry was torn and is removed.
 undo_entry() {
-  local name=$1 status=0 done=0
+  local name=$1 kind=${1#*-} status=0 done=0
+  kind=${kind%%-*}   # each service has an entry of its own: 30-service-NUMBER
   JOURNAL_LINES=()
   if [[ -n $JOURNAL_TRUSTED ]]; then
     journal_read "$name" || status=$?
   fi
   ((status != 2)) || JOURNAL_LINES=()
-  case $name in
-  "$SERVICE_ENTRY"-*) undo_service ;;
-  "$NAMES_ENTRY") undo_names ;;
-  "$TOR_ENTRY") undo_tor ;;
-  "$WATCHER_ENTRY") undo_watcher ;;
-  "$FIREWALL_ENTRY") undo_firewall ;;
-  esac || done=$?
+  "undo_$kind" || done=$?
   ((done == 0)) || return "$done"
   journal_drop "$name"
   if ((status == 2)); then
@@ -107,12 +102,12 @@ darwin_fix-dns() {
   trap finish EXIT
   { [[ -f $MARKER ]] && folders_are_safe; } || die "Veldmark is not connected, so the DNS settings were left alone."
   if [[ -f $RULES ]]; then
-    hold_rules || die "Somebody else is changing the firewall. Try again in a moment."
+    hold_rules || die "Another program is changing the firewall. Try again in a moment."
     put_rules "$(<"$RULES")"
     [[ -f $LISTED ]] || note_listing || die "The file $LISTED cannot be written."
     release_rules
   fi
-  [[ $(read_marker) != strict ]] || job_process "$WATCH_LABEL" >/dev/null || start_watcher
+  [[ $(read_marker) != strict ]] || job_process "$WATCH_LABEL" >/dev/null || put_watcher
   put_services "$(session_lan)"
 }
 

@@ -60,8 +60,8 @@ tor_failure() {
   printf '%s' "${reason:-it ended without a message.}"
 }
 
-# start_tor: returns once Tor listens on its control port.
-start_tor() {
+# put_tor: returns once Tor listens on its control port.
+put_tor() {
   local process poll output status had=''
   put_in_place "$TORRC.checked" "$TORRC" || die "The file $TORRC cannot be written."
   ready_logs || die "Tor's log files cannot be made."

@@ -68,20 +68,20 @@ print_watch_job() {
 END
 }
 
-# start_watcher: rules that read back differently are no kill switch, and would be loaded again every second.
-start_watcher() {
+# put_watcher: rules that read back differently are no kill switch, and would be loaded again every second.
+put_watcher() {
   undo_entry "$WATCHER_ENTRY" || true
   { kill_switch_stands && rules_stand; } || die "The firewall does not hold the rules that were loaded."
   # The application reads the note as soon as the helper has ended, perhaps before the watcher's first check.
   note_rules standing || true
   { write_file "$WATCHER" 0600 root "$(print_watcher)"$'\n' && write_file "$WATCH_JOB" 0644 root "$(print_watch_job)"$'\n' &&
     journal_put "$WATCHER_ENTRY" "label $WATCH_LABEL"; } || die "The file $WATCHER cannot be written."
-  start_job "$WATCH_LABEL" "$WATCH_JOB" || die "The watcher over the firewall could not be started."
+  start_job "$WATCH_LABEL" "$WATCH_JOB" || die "The watcher of the firewall rules could not be started."
 }
 
 # undo_watcher: a change of the rules that it interrupts is completed or undone afterwards.
 undo_watcher() {
   stop_job "$WATCH_LABEL" && rm -f -- "$WATCHER" "$WATCH_JOB" "$KILL_SWITCH_NOTE" && return 0
-  UNDONE="The watcher over the firewall could not be stopped."
+  UNDONE="The watcher of the firewall rules could not be stopped."
   return 1
 }

@@ -8,12 +8,12 @@ usage="usage: join.sh linux|darwin OUTPUT"
 system=${1:?$usage} output=${2:?$usage}
 case $system in
 linux)
-  own=(linux-state linux-groups programs linux-bundle torrc linux-firewall linux-bridges linux-loopback linux-others linux-resolver linux-resolved linux-tor linux-service linux-proxy linux-exempt
+  own=(linux-state linux-groups programs linux-bundle torrc linux-firewall linux-bridges linux-loopback linux-others linux-resolver linux-resolved linux-tor linux-service linux-proxy linux-gnome linux-kde linux-bypass
     linux-watcher linux-identify linux-owner linux-session)
   ;;
 darwin)
   own=(darwin-state programs torrc darwin-rules darwin-firewall darwin-jobs darwin-tor darwin-watcher
-    darwin-names darwin-services darwin-exempt darwin-session)
+    darwin-names darwin-services darwin-bypass darwin-session)
   ;;
 *)
   printf '%s\n' "$usage" >&2
@@ -25,7 +25,7 @@ trap 'rm -f -- "$new"' EXIT
 {
   cat -- "$here/core.sh"
   printf '\nreadonly SYSTEM=%s   # what this file was joined for\n' "$system"
-  for part in options files note addresses session "${own[@]}" privileged main; do
+  for part in options files note addresses session launch "${own[@]}" privileged main; do
     cat -- "$here/$part.sh"
   done
 } >"$new"

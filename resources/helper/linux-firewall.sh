@@ -23,9 +23,9 @@ tors_key() {
   printf 'meta skuid %s' "$1"
 }
 
-# print_exempt GROUP: accepts the connections that bypass applications open. Their replies are not accepted: a local process could forge the
+# print_bypass GROUP: accepts the connections that bypass applications open. Their replies are not accepted: a local process could forge the
 # sender and direct a reply to any address. Prints nothing when GROUP is empty.
-print_exempt() {
+print_bypass() {
   [[ -z $1 ]] || printf '\t\tsocket cgroupv2 level 1 "%s" ct direction original accept\n' "$1"
 }
 
@@ -39,7 +39,7 @@ print_redirect() {
 		type nat hook output priority -100; policy accept;
 		$(tors_key "$1") accept
 END
-  print_exempt "$2"
+  print_bypass "$2"
   print_text <<END
 		udp dport 53 redirect to :$DNS_PORT
 	}
@@ -145,7 +145,7 @@ END
 	}
 	chain refused {
 END
-  print_exempt "$3"
+  print_bypass "$3"
   print_text <<END
 		meta l4proto tcp reject with tcp reset
 		reject with icmpx type admin-prohibited
@@ -344,7 +344,7 @@ put_firewall() {
       servers4=$(list_servers 4 "$FORMER_RESOLVER")
       servers6=$(list_servers 6 "$FORMER_RESOLVER")
     fi
-    text=$(print_strict_rules "$TOR_UID" "$CALLER_UID" "$OPT_LAN" "$udp" "$servers4" "$servers6" "$EXEMPT_PATH" "$near" "$BRIDGES4" "$BRIDGES6")
+    text=$(print_strict_rules "$TOR_UID" "$CALLER_UID" "$OPT_LAN" "$udp" "$servers4" "$servers6" "$BYPASS_PATH" "$near" "$BRIDGES4" "$BRIDGES6")
   else
     text=$(print_proxy_rules "$TOR_UID" "$CALLER_UID")
   fi
@@ -378,10 +378,10 @@ read_listing() {
 undo_firewall() {
   local output
   # Held until the end of the run, when the marker is gone, too.
-  hold_rules || { UNDONE="The firewall could not be opened, because somebody is changing it."; return 1; }
+  hold_rules || { UNDONE="The kill switch could not be switched off, because another program is changing the firewall."; return 1; }
   output=$(nft delete table inet "$TABLE" 2>&1) && return 0
   # A missing table is what was wanted.
   [[ $output == *"No such file or directory"* ]] && return 0
-  UNDONE="The firewall could not be opened ($(first_line "$output"))."
+  UNDONE="The kill switch could not be switched off ($(first_line "$output"))."
   return 1
 }

@@ -12,6 +12,7 @@ readonly MOVE_ROUNDS=50           # processes may fork while they are moved out
 TREE=''       # where the groups are mounted; empty on a system without cgroup v2
 TOR_PATH=''   # Tor's group below $CGROUPS; empty when the rules cannot name it: then they match the account alone
 HOME_GROUP='' # the folder of the group in which the caller started this run
+UNGROUPED=''  # 1 when this run is still in the caller's group, although there are groups
 
 # find_tree: sets TREE. The tree's own root must be mounted, so that the helper's groups are of the first level.
 find_tree() {
@@ -36,7 +37,7 @@ make_group() {
 # make_groups: makes all groups that the rules may name.
 make_groups() {
   local name
-  for name in "$RUN_GROUP" "$TOR_GROUP" "$EXEMPT_NAME"; do make_group "$name" || true; done
+  for name in "$RUN_GROUP" "$TOR_GROUP" "$BYPASS_NAME"; do make_group "$name" || true; done
 }
 
 # enter_group FOLDER: moves the shell that runs this, and so the programs that it starts later.
@@ -64,10 +65,33 @@ leave_caller() {
   find_tree || return 0
   HOME_GROUP=$(own_group)
   [[ -w $TREE ]] || return 0
+  UNGROUPED=1
   for ((round = 0; round < MOVE_ROUNDS; round++)); do
     make_group "$RUN_GROUP" || true
-    ! enter_group "$TREE/$RUN_GROUP" || return 0
+    ! enter_group "$TREE/$RUN_GROUP" || { UNGROUPED='' && return 0; }
   done
+}
+
+# need_groups: a user may make so many groups that the kernel makes no more. Then a session would be in the caller's group, where the caller
+# may end it, and the account alone would be the key to the firewall.
+need_groups() { [[ -z $UNGROUPED ]] || die "The control group for Tor cannot be made."; }
+
+# renew_group: makes Tor's group anew where a session begins. A socket belongs for ever to the group in which it was made, so what the Tor
+# of an earlier session has handed to another program passes nothing any more. A Tor that is left waits for its end in the helper's own
+# group. A connect upon a strict session keeps the group: a run that is killed between the group and the rules would cut Tor off.
+renew_group() {
+  local round pid
+  [[ -n $TREE && -w $TREE ]] || return 0
+  for ((round = 0; round < MOVE_ROUNDS; round++)); do
+    [[ -d $TREE/$TOR_GROUP ]] || break
+    ((round < 10)) || printf '1\n' >"$TREE/$TOR_GROUP/cgroup.kill" || true   # something in there starts processes without end
+    while read -r pid; do
+      printf '%s\n' "$pid" >"$TREE/$RUN_GROUP/cgroup.procs" || true
+    done <"$TREE/$TOR_GROUP/cgroup.procs"
+    ! rmdir -- "$TREE/$TOR_GROUP" || break
+    ((round < 5)) || sleep 0.02
+  done
+  { [[ ! -d $TREE/$TOR_GROUP ]] && make_group "$TOR_GROUP"; } || die "The control group for Tor cannot be made."
 }
 
 # end_run: the last step of a run that leaves no session. The locks are released before this run returns to the caller's group, where the
@@ -92,7 +116,8 @@ end_run() {
 rules_can_name() {
   local major minor rest
   if [[ $(stat -L -c %i -- /proc/self/ns/cgroup) != 4026531835 ]]; then
-    IFS=.- read -r major minor rest < <(uname -r)
+    # Not `uname -r`, which a caller can have report another version (UNAME26).
+    IFS=.- read -r major minor rest </proc/sys/kernel/osrelease
     [[ $major =~ ^[0-9]+$ && $minor =~ ^[0-9]+$ ]] && ((major > 6 || major == 6 && minor >= 12)) || return 1
   fi
   nft -c -f - <<<"table inet $TABLE-check { chain output { socket cgroupv2 level $2 \"$1\" accept; }; }"

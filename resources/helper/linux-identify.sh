@@ -79,14 +79,15 @@ find_identifier() {
   return 1
 }
 
-launch_identifier() {
+# put_identifier NFT: becomes the identifier, in a process of its own.
+put_identifier() {
   become_recorded "$IDENTIFIER_ENTRY"
   exec env -i --default-signal PATH="$PATH" LC_ALL=C setsid "$IDENTIFIER" "$TREE" "$IDENTITIES_STATE" "$IDENTIFY_SOCKET" "$1"
 }
 
-# separate_applications: for a session that begins, or whose identifier has ended. A system that cannot do it stays unchanged, and all
+# put_identities: for a session that begins, or whose identifier has ended. A system that cannot do it stays unchanged, and all
 # connections share circuits as before.
-separate_applications() {
+put_identities() {
   local accounts nft text
   undo_entry "$IDENTIFIER_ENTRY" || return 0
   undo_entry "$IDENTITIES_ENTRY" || return 0
@@ -96,7 +97,7 @@ separate_applications() {
   # shellcheck disable=SC2086
   text=$(print_identities $accounts)
   journal_put "$IDENTITIES_ENTRY" "table $IDENTITIES" || die "The journal cannot be written."
-  launch_identifier "$nft" <<<"$text" >/dev/null 2>&1 &
+  put_identifier "$nft" <<<"$text" >/dev/null 2>&1 &
 }
 
 # own_group_name: an existing group, below the folder where nft looks.

@@ -50,11 +50,11 @@ spare_others() {
   local name
   [[ -z $PROMPTED ]] && safe_folders && live_owner && [[ $OWNER_UID != "$CALLER_UID" ]] || return 0
   name=$(getent passwd "$OWNER_UID") || name="the user $OWNER_UID"
-  die "Veldmark is in use by ${name%%:*}. An administrator password is needed to end that session."
+  unapproved "Veldmark is in use by ${name%%:*}. An administrator password is needed to end that session."
 }
 
 # spare_unmeant: the caller may name the program whose session is to be ended. A session of another program is newer and is left alone.
 spare_unmeant() {
   [[ -n $OPT_PROCESS ]] && safe_folders && live_owner && [[ $OWNER_PID != "$OPT_PROCESS" ]] || return 0
-  die "Another program (process $OWNER_PID) has begun a session since. It was left alone."
+  die "Another program (process $OWNER_PID) has started a session meanwhile. That session was left alone."
 }

@@ -81,7 +81,7 @@ undo_resolved() {
 # The system's own servers are in the daemon's configuration. The helper's file in /run, which a restart of the computer removes, replaces
 # them. The daemon reads it when it restarts, and keeps the links' settings.
 
-readonly GLOBAL_ENTRY=32-resolved-global
+readonly GLOBAL_ENTRY=32-global
 readonly GLOBAL_FILE=/run/systemd/resolved.conf.d/zz-veldmark.conf
 readonly RESOLVED_UNIT=systemd-resolved.service
 

@@ -15,31 +15,24 @@ ask_systemd() {
   timeout -k 1 "$seconds" systemctl --no-pager --no-ask-password "$@" </dev/null
 }
 
-# port_sockets: "PORT UID SOCKET" for each socket of another account that occupies one of Tor's ports on 127.0.0.1.
+# port_sockets: "PORT UID SOCKET" for each socket of another account that occupies one of Tor's ports on 127.0.0.1. Any user may open so
+# many sockets that the shell would read for many seconds, so grep reads the lists. 0A is a listening TCP socket, 07 an unconnected UDP one;
+# 127.0.0.1 is a number in either byte order, and eight zeros mean all addresses.
 port_sockets() {
-  local table listens socks control names port address state uid socket rest
+  local socks control names port address uid socket rest
   printf -v socks '%04X' "$SOCKS_PORT"
   printf -v control '%04X' "$CONTROL_PORT"
   printf -v names '%04X' "$DNS_PORT"
-  for table in tcp udp; do
-    listens=0A
-    [[ $table == tcp ]] || listens=07
-    while read -r rest address rest state rest rest rest uid rest socket rest; do
-      [[ $state == "$listens" && $uid != "$TOR_UID" && $socket =~ ^[1-9][0-9]*$ ]] || continue
-      case $address in
-      # 127.0.0.1 as a number in either byte order, and the address that means all addresses.
-      0100007F:* | 7F000001:* | 00000000:*) ;;
-      *) continue ;;
-      esac
-      case $table-${address#*:} in
-      tcp-"$socks") port=$SOCKS_PORT ;;
-      tcp-"$control") port=$CONTROL_PORT ;;
-      udp-"$names") port=$DNS_PORT ;;
-      *) continue ;;
-      esac
-      printf '%s %s %s\n' "$port" "$uid" "$socket"
-    done <"/proc/net/$table"
-  done
+  while read -r rest address rest rest rest rest rest uid rest socket rest; do
+    [[ $uid != "$TOR_UID" && $socket =~ ^[1-9][0-9]*$ ]] || continue
+    case ${address#*:} in
+    "$socks") port=$SOCKS_PORT ;;
+    "$control") port=$CONTROL_PORT ;;
+    *) port=$DNS_PORT ;;
+    esac
+    printf '%s %s %s\n' "$port" "$uid" "$socket"
+  done < <(grep -hE ": (0100007F|7F000001|00000000):(($socks|$control) [0-9A-F]+:[0-9A-F]+ 0A|$names [0-9A-F]+:[0-9A-F]+ 07) " \
+    /proc/net/tcp /proc/net/udp || true)
 }
 
 # has_socket PID SOCKET: whether the process has the socket open.
@@ -83,13 +76,13 @@ check_ports() {
   TAKEN=''
   while read -r port uid socket; do
     unit=$(service_with "$socket")
-    [[ -n $unit ]] || die "The port $port, which Tor needs, is held by $(name_holder "$socket" "$uid"). End that, then connect again."
+    [[ -n $unit ]] || die "The port $port, which Tor needs, is held by $(name_holder "$socket" "$uid"). End that program, then connect again."
     [[ " $TAKEN " == *" $unit "* ]] || TAKEN="${TAKEN:+$TAKEN }$unit"
   done < <(port_sockets | sort -n)
 }
 
-# stop_services: keeps what an earlier connect has noted since the computer's start.
-stop_services() {
+# put_service: keeps what an earlier connect has noted since the computer's start.
+put_service() {
   local unit line noted=()
   check_ports
   [[ -n $TAKEN ]] || return 0

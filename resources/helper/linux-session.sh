@@ -2,11 +2,12 @@
 # ---- Linux: connect and disconnect -------------------------------------------------------------------------
 
 readonly FIREWALL_ENTRY=10-firewall
-readonly ENTRIES="$KDE_ENTRY $GNOME_ENTRY $GLOBAL_ENTRY $RESOLVED_ENTRY $RESOLVER_ENTRY $TOR_ENTRY $IDENTIFIER_ENTRY $IDENTITIES_ENTRY $SERVICE_ENTRY $WATCHER_ENTRY $EXEMPT_ENTRY $LOOPBACK_ENTRY $FIREWALL_ENTRY"   # in the order of undoing
+readonly ENTRIES="$KDE_ENTRY $GNOME_ENTRY $GLOBAL_ENTRY $RESOLVED_ENTRY $RESOLVER_ENTRY $TOR_ENTRY $IDENTIFIER_ENTRY $IDENTITIES_ENTRY $SERVICE_ENTRY $WATCHER_ENTRY $BYPASS_ENTRY $LOOPBACK_ENTRY $FIREWALL_ENTRY"   # in the order of undoing
 
-# switch_firewall MODE: sets the marker, then the rules, under one lock.
+# switch_firewall MODE [NEW]: sets the marker, then the rules, under one lock. With NEW, a session begins, and Tor gets a new group.
 switch_firewall() {
-  hold_rules || die "Somebody else is changing the firewall. Try again in a moment."
+  hold_rules || die "Another program is changing the firewall. Try again in a moment."
+  [[ -z ${2-} ]] || renew_group
   put_marker "$1"
   put_firewall "$1"
   release_rules
@@ -20,6 +21,7 @@ linux_connect() {
   lift_limits
   take_lock
   trap finish EXIT
+  need_groups
   spare_others
   check_firewall
   note_others
@@ -35,7 +37,7 @@ linux_connect() {
   former=$(read_marker)
   if [[ $former == strict ]]; then
     kill_switch_stands || status=$?
-    ((status != 2)) || die "The firewall cannot be looked at, so nothing was done."
+    ((status != 2)) || die "The firewall rules cannot be read, so nothing was done."
     ((status == 0)) || former=''
   fi
   if [[ $former == strict ]]; then
@@ -47,20 +49,20 @@ linux_connect() {
   journal_has "$FIREWALL_ENTRY" || journal_put "$FIREWALL_ENTRY" "table $TABLE" || die "The journal cannot be written."
   note_owner
   note_asked
-  [[ $mode != strict ]] || ready_exempt
+  [[ $mode != strict ]] || put_bypass
   if [[ $former != strict || $mode == strict ]]; then
-    switch_firewall "$mode"
+    if [[ $former == strict ]]; then switch_firewall "$mode"; else switch_firewall "$mode" new; fi
   fi
   put_loopback || true
   if [[ $mode == strict ]]; then
-    start_watcher
+    put_watcher
     ON_FAILURE=
     STAYS_CLOSED=" The network stays blocked until you disconnect."
   fi
   undo_entry "$TOR_ENTRY" || ! journal_has "$TOR_ENTRY" || die "$UNDONE"
-  stop_services
-  separate_applications "$OPT_SEPARATE"
-  start_tor
+  put_service
+  put_identities "$OPT_SEPARATE"
+  put_tor
   put_resolver
   put_resolved || true   # the firewall redirects its lookups anyway
   put_global || true
@@ -69,49 +71,29 @@ linux_connect() {
     # Also removes the remains of a strict session without rules: its watcher and its note.
     undo_entry "$WATCHER_ENTRY" || true
     [[ $former != strict ]] || switch_firewall proxy
-    undo_entry "$EXEMPT_ENTRY" || true
+    undo_entry "$BYPASS_ENTRY" || true
   fi
   ON_FAILURE=
   drop_replaced || true
 }
 
-# undo_entry NAME: restores what the entry records and removes the entry. A torn entry records nothing; then only what needs no record is
+# undo_entry NAME: restores what the entry NUMBER-KIND records, by undo_KIND, and removes the entry. A torn entry records nothing; then only what needs no record is
 # restored. Status 1 with UNDONE set when something could not be restored and the entry stays; 2 with UNDONE set when the entry was torn and
 # is removed.
 undo_entry() {
-  local name=$1 status=0
+  local name=$1 kind=${1#*-} status=0
   JOURNAL_LINES=()
   if [[ -n $JOURNAL_TRUSTED ]]; then
     journal_read "$name" || status=$?
   fi
   ((status != 2)) || JOURNAL_LINES=()
-  if [[ $name == "$TOR_ENTRY" ]] && [[ $status == 2 || -z $JOURNAL_TRUSTED ]]; then
-    kill_stray_tor
+  if [[ $status == 2 || -z $JOURNAL_TRUSTED ]]; then
+    case $kind in tor | watcher | identifier) "kill_stray_$kind" ;; esac
   fi
-  if [[ $name == "$WATCHER_ENTRY" ]] && [[ $status == 2 || -z $JOURNAL_TRUSTED ]]; then
-    kill_stray_watcher
-  fi
-  if [[ $name == "$IDENTIFIER_ENTRY" ]] && [[ $status == 2 || -z $JOURNAL_TRUSTED ]]; then
-    kill_stray_identifier
-  fi
-  case $name in
-  "$KDE_ENTRY") undo_kde ;;
-  "$GNOME_ENTRY") undo_gnome ;;
-  "$GLOBAL_ENTRY") undo_global ;;
-  "$RESOLVED_ENTRY") undo_resolved ;;
-  "$RESOLVER_ENTRY") undo_resolver ;;
-  "$TOR_ENTRY") undo_tor ;;
-  "$IDENTIFIER_ENTRY") undo_identifier ;;
-  "$IDENTITIES_ENTRY") undo_identities ;;
-  "$SERVICE_ENTRY") undo_service ;;
-  "$WATCHER_ENTRY") undo_watcher ;;
-  "$EXEMPT_ENTRY") undo_exempt ;;
-  "$LOOPBACK_ENTRY") undo_loopback ;;
-  "$FIREWALL_ENTRY") undo_firewall ;;
-  esac || return 1
+  "undo_$kind" || return 1
   journal_drop "$name"
   if ((status == 2)); then
-    UNDONE="A note of what to restore was damaged (${name#*-}). The network is open again; check your proxy settings."
+    UNDONE="A note of what to restore was damaged ($kind). The network is open again; check your proxy settings."
     return 2
   fi
 }
@@ -131,7 +113,7 @@ undo_session() {
     esac
     # The desktop's settings, the service, the identities, the group and the loopback device do not block the network. The next run tries
     # them again.
-    [[ $status != 1 || " $KDE_ENTRY $GNOME_ENTRY $SERVICE_ENTRY $IDENTITIES_ENTRY $EXEMPT_ENTRY $LOOPBACK_ENTRY " == *" $name "* ]] || open=''
+    [[ $status != 1 || " $KDE_ENTRY $GNOME_ENTRY $SERVICE_ENTRY $IDENTITIES_ENTRY $BYPASS_ENTRY $LOOPBACK_ENTRY " == *" $name "* ]] || open=''
   done
   [[ -z $open ]] || rm -f -- "$MARKER" "$ASKED" "$OWNER" "$RULES" "$LISTED" "$OTHERS_NOTE"
   rm -f -- "$MARKER.new" "$ASKED.new" "$OWNER.new" "$RULES.new" "$LISTED.new" "$WATCHER" "$WATCHER.new" "$KILL_SWITCH_NOTE" "$KILL_SWITCH_NOTE.new" "$OTHERS_NOTE.new" "$STATE/relocked" "$TORRC.checked" "$JOURNAL"/*.new
@@ -152,15 +134,15 @@ linux_fix-dns() {
   trap finish EXIT
   { [[ -f $MARKER ]] && safe_folders; } || die "Veldmark is not connected, so the DNS settings were left alone."
   if [[ -f $RULES ]]; then
-    hold_rules || die "Somebody else is changing the firewall. Try again in a moment."
+    hold_rules || die "Another program is changing the firewall. Try again in a moment."
     make_groups
     load_rules "$(<"$RULES")"
     note_listing || die "The file $LISTED cannot be written."
     release_rules
   fi
   put_loopback || true
-  [[ $(read_marker) != strict ]] || watcher_runs || start_watcher
-  ! journal_has "$IDENTITIES_ENTRY" || identifier_runs || separate_applications 1
+  [[ $(read_marker) != strict ]] || watcher_runs || put_watcher
+  ! journal_has "$IDENTITIES_ENTRY" || identifier_runs || put_identities 1
   read_resolver
   put_resolver
   { put_resolved && put_global; } || die "The DNS servers of systemd-resolved cannot be changed."

@@ -70,7 +70,7 @@ folders_are_safe() {
 safe_folders() {
   local status=0
   folders_are_safe || status=$?
-  ((status != 2)) || die "The folders below $BASE cannot be looked at, so nothing was done."
+  ((status != 2)) || die "The folders below $BASE cannot be read, so nothing was done."
   return "$status"
 }
 
@@ -91,7 +91,7 @@ ready_folders() {
     esac
     [[ ${line%% *} == "$want" ]] || chmod "$want" -- "$path" || die "The folder $path cannot be changed."
   done < <(stat -c '%n:%a %u %F' -- / /var /var/lib "$BASE" "$STATE" "$JOURNAL" "$RUN" "$PROGRAMS")
-  ((lines == 8)) || die "The folders below $BASE cannot be looked at."
+  ((lines == 8)) || die "The folders below $BASE cannot be read."
   ready_data_folder
 }
 

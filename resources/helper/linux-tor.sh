@@ -13,6 +13,8 @@ readonly STOP_POLLS=200    # of about 20 ms: Tor has about 4 s to end
 # Runs as root in the new namespaces: RESOLVERS TARGET DATA LOG COMMAND... COMMAND gives up root. Tor's account may write its data, its log
 # and three places in memory that are visible to no other process. All other files are read-only, so it leaves no program for a later
 # session or for other users. Later mounts and unmounts of the system appear here, too, since the mounts are its slaves.
+# No file grows beyond 100 MB: Tor writes a line to its log for wrong requests at its ports, and any program may send such without end. Tor
+# goes on without its log then.
 # shellcheck disable=SC2016
 readonly INSIDE='
 set -eu
@@ -33,12 +35,14 @@ mount --bind "$log" "$log"
 while read -r _ _ _ _ point flags _; do
   case $point in
   "$data" | "$log" | /tmp | /var/tmp | /dev | /dev/* | /proc | /proc/* | /sys | /sys/*) continue ;;
+  /home/* | /run/user/* | /media/* | /mnt/*) continue ;;   # hidden by the mounts above
   esac
   printf -v point "%b" "$point"
   case $flags in
   rw*) mount -o "remount,bind,ro${flags#rw},nosuid" "$point" || : ;;
   esac
 done <<<"$(</proc/self/mountinfo)"
+ulimit -f 102400
 exec "$@"
 '
 
@@ -125,12 +129,9 @@ launch_tor() {
 
 # tor_listens: whether Tor's account has opened the control port.
 tor_listens() {
-  local rest address state uid port
+  local port
   printf -v port '%04X' "$CONTROL_PORT"
-  while read -r rest address rest state rest rest rest uid rest; do
-    [[ $address != *":$port" || $state != 0A || $uid != "$TOR_UID" ]] || return 0
-  done </proc/net/tcp
-  return 1
+  grep -qE ": [0-9A-F]+:$port [0-9A-F]+:[0-9A-F]+ 0A [0-9A-F:]+ [0-9A-F:]+ [0-9A-F]+ +$TOR_UID " /proc/net/tcp
 }
 
 # ready_logs: empties the log files. Tor writes them through its group; only the session's user may read them, not the user's group, which
@@ -148,8 +149,8 @@ tor_failure() {
   printf '%s' "${reason:-it ended without a message.}"
 }
 
-# start_tor: returns once Tor listens at its control port.
-start_tor() {
+# put_tor: returns once Tor listens at its control port.
+put_tor() {
   local launcher poll
   write_file "$TOR_RESOLVER" 0644 root "$FORMER_RESOLVER"$'\n' || die "The file $TOR_RESOLVER cannot be written."
   mv -fT -- "$TORRC.checked" "$TORRC" || die "The file $TORRC cannot be written."

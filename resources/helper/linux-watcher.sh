@@ -41,10 +41,10 @@ relock() {
       else
         STRUGGLES=0
       fi
-    elif nft -f - <<<"$(print_unexempt "$text")"; then
+    elif nft -f - <<<"$(print_not_bypassing "$text")"; then
       # Without its group the bypass rule cannot be loaded, but the other rules can.
       LESSENED=1
-      { copy_stands "$(print_unexempt "$text")" && keep_listing; } || word=open
+      { copy_stands "$(print_not_bypassing "$text")" && keep_listing; } || word=open
     else
       word=open
     fi
@@ -68,8 +68,8 @@ copy_stands() {
   LISTING=$now
 }
 
-# print_unexempt TEXT: the rules without those that name a control group.
-print_unexempt() {
+# print_not_bypassing TEXT: the rules without those that name a control group.
+print_not_bypassing() {
   local line
   while IFS= read -r line; do
     [[ $line == *"socket cgroupv2"* ]] || printf '%s\n' "$line"
@@ -180,11 +180,11 @@ watch_rules() {
 print_watcher() {
   printf 'set -uo pipefail\numask 077\nPATH=%s\nLC_ALL=C\nexport PATH LC_ALL\ncd /\n' "$PATH"
   # shellcheck disable=SC2090
-  declare -p TABLE RULES LISTED RULES_LOCK MARKER KILL_SWITCH_NOTE WATCH_SECONDS BEAT_SECONDS EXEMPT_NAME RUN_GROUP TOR_GROUP CGROUPS \
+  declare -p TABLE RULES LISTED RULES_LOCK MARKER KILL_SWITCH_NOTE WATCH_SECONDS BEAT_SECONDS BYPASS_NAME RUN_GROUP TOR_GROUP CGROUPS \
     OTHERS_NOTE OTHERS_SECONDS ALWAYS WITHOUT_GROUPS WORD MISSED SINCE NOTED JOURNAL TOR_ENTRY SOCKS_PORT CONTROL_PORT DNS_PORT
   printf 'CHANGED= OTHERS_DUE=0 CHAINS=() CHAIN_RULES=() JUDGED= STRUGGLES=0 LESSENED= LISTING= TREE= TOR_UID= VOUCHED= CHILDREN= START_TIME= BOOT= RECORDED_PID= JOURNAL_LINES=()\n'
   declare -f read_marker put_in_place write_file note_rules hold_rules release_rules keep_listing rules_stand find_tree make_group make_groups nft_without_groups read_listing copy_stands \
-    print_unexempt relock monitor monitor_rules beat await_change port_sockets has_socket \
+    print_not_bypassing relock monitor monitor_rules beat await_change port_sockets has_socket \
     journal_has journal_read read_lines read_boot start_time find_recorded read_children ports_are_tors read_chains judge_chain name_others \
     note_others watch_others watch_rules
   printf 'watch_rules\n'
@@ -196,7 +196,7 @@ launch_watcher() {
   exec env -i --default-signal PATH="$PATH" LC_ALL=C setsid /bin/bash -p -- "$WATCHER"
 }
 
-start_watcher() {
+put_watcher() {
   undo_entry "$WATCHER_ENTRY" || true
   # The application looks as soon as this run has ended, perhaps before the watcher does.
   ! rules_stand || note_rules standing || true

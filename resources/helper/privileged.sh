@@ -42,7 +42,7 @@ any_install-privileged() {
   trap finish EXIT
   { uid=$(id -u -- "$OPT_USER") && is_uid "$uid"; } || die "The user $OPT_USER is not known on this system."
   [[ $uid != 0 ]] || die "The user root needs no password for the helper."
-  [[ $CALLER_UID == 0 || $CALLER_UID == "$uid" ]] || die "Only the user who asks can be let in."
+  [[ $CALLER_UID == 0 || $CALLER_UID == "$uid" ]] || die "Passwordless mode can be set up only for the user who asks."
   read_accounts
   root_owned /etc/sudoers.d || die "The folder /etc/sudoers.d is missing or not safe."
   make_installed

@@ -63,7 +63,8 @@ find_program() {
   PROGRAM=${PROGRAM%$'\n'x}
 }
 
-# copy_program PATH: puts its present content into $NEW_PROGRAM and its digest into DIGEST.
+# copy_program PATH NAME: puts its present content into $NEW_PROGRAM and its digest into DIGEST. NAME is the path as the caller gave it, for
+# messages: root also resolves links that the caller may not read, such as /proc/PID/exe.
 DIGEST=''
 copy_program() {
   rm -f -- "$NEW_PROGRAM"
@@ -74,7 +75,7 @@ copy_program() {
     [[ $DIGEST =~ ^[0-9a-f]{64}$ ]] && return 0
   rm -f -- "$NEW_PROGRAM"
   [[ $SYSTEM != linux ]] || clear_bundle   # left from the search for another program
-  die "The program $1 cannot be copied."
+  die "The program $2 cannot be copied."
 }
 
 # keep_copy ROLE: moves the file of copy_program to the folder of the runnable copies.
@@ -93,12 +94,12 @@ ready_program() {
     owned=1
     if [[ $PROGRAM =~ ^[A-Za-z0-9._/+-]+$ ]] && open_to_all "$PROGRAM"; then return; fi
   fi
-  copy_program "$PROGRAM"
+  copy_program "$PROGRAM" "$1"
   if [[ ! -f $PROGRAMS/$DIGEST/$2 ]] || { [[ $SYSTEM == linux ]] && is_replaced "$DIGEST/$2"; }; then
     if [[ -z $owned ]] && { [[ $SYSTEM != linux ]] || ! in_bundle "$PROGRAM" "$2"; }; then
       rm -f -- "$NEW_PROGRAM"
       [[ $SYSTEM != linux ]] || clear_bundle
-      unapproved "An administrator password is needed to approve $PROGRAM."
+      unapproved "An administrator password is needed to approve $PROGRAM." 4
     fi
     keep_copy "$2"
   fi
@@ -121,10 +122,10 @@ any_approve() {
   ready_account
   ready_folders
   find_program "$OPT_PROGRAM"
-  copy_program "$PROGRAM"
+  copy_program "$PROGRAM" "$OPT_PROGRAM"
   if [[ $DIGEST != "$OPT_SHA256" ]]; then
     rm -f -- "$NEW_PROGRAM"
-    die "The program $OPT_PROGRAM is not the one that was to be approved."
+    die "The SHA-256 of the program $OPT_PROGRAM is not the one to approve."
   fi
   keep_copy "$OPT_AS"
   [[ $SYSTEM != linux ]] || forget_program "$DIGEST/$OPT_AS" || die "The folder $PROGRAMS cannot be written."

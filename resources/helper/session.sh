@@ -85,6 +85,6 @@ lessens() {
 guard_session() {
   [[ -n $PROMPTED && (-z $BY_DIALOG || $VERB == replace) ]] || ! lessens || {
     rm -f -- "$TORRC.checked"
-    unapproved "An administrator password is needed to change the strict session that is running."
+    unapproved "An administrator password is needed to change the running strict session."
   }
 }

@@ -544,7 +544,7 @@
         <translation>البحث عن السبب</translation>
     </message>
     <message>
-        <source>Looks at this computer: what a connection needs, what is in its way, and what mends it</source>
+        <source>Checks what a connection needs on this computer, what blocks it and how to fix it</source>
         <translation>يفحص هذا الحاسوب: ما يحتاج إليه الاتصال وما يعيقه وما يصلحه</translation>
     </message>
     <message>
@@ -769,7 +769,7 @@
         <translation>لكل تطبيق دوائر خاصة به</translation>
     </message>
     <message>
-        <source>Sites cannot tell by the exit address that two applications are yours. Applications are told apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with all of their login session or account.</source>
+        <source>Sites cannot tell by the exit address that two applications are yours. Veldmark tells applications apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with the rest of their login session or account.</source>
         <translation>لا تستطيع المواقع أن تعرف من عنوان الخروج أن تطبيقين هما لك. يُميَّز بين التطبيقات حيث يبدأ سطح المكتب كلًّا منها في مجموعة تحكم خاصة به، كما يفعل GNOME وKDE. أما البرامج الأخرى فتشارك دوائرها مع كل ما في جلسة دخولها أو حسابها.</translation>
     </message>
 </context>
@@ -821,7 +821,7 @@
         <translation>أزال برنامج آخر قواعد جدار الحماية الخاصة بـ Veldmark؛ وقد أُعيدت إلى مكانها.</translation>
     </message>
     <message>
-        <source>The kill switch is open. Open Veldmark, disconnect and connect again.</source>
+        <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
         <translation>مفتاح القطع بلا مفعول. افتح Veldmark وافصل الاتصال ثم اتصل من جديد.</translation>
     </message>
     <message>
@@ -829,7 +829,7 @@
         <translation>مفتاح القطع غير مُراقَب</translation>
     </message>
     <message>
-        <source>It can&apos;t be told whether it stands. Open Veldmark, disconnect and connect again.</source>
+        <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Open Veldmark, disconnect and connect again.</source>
         <translation>لا يُعرف هل مفتاح القطع ساري المفعول. افتح Veldmark وافصل الاتصال ثم اتصل من جديد.</translation>
     </message>
 </context>
@@ -840,7 +840,7 @@
         <translation>Veldmark</translation>
     </message>
     <message>
-        <source>A window could not be made. Your network is not affected; to restore it without Veldmark, run:
+        <source>Veldmark could not open a window. Your network is not affected. To restore it without Veldmark, run:
 %1
 
 %2</source>
@@ -862,7 +862,7 @@
         <translation>ما زالت شبكتك مُعدّة لـ Tor</translation>
     </message>
     <message>
-        <source>Veldmark was told to end and could not restore it. Open Veldmark again to do so.</source>
+        <source>Veldmark had to close and could not restore the network. Open Veldmark again to restore it.</source>
         <translation>طُلب من Veldmark أن ينتهي ولم يستطع استعادة الشبكة. افتح Veldmark مرة أخرى لاستعادتها.</translation>
     </message>
 </context>
@@ -939,7 +939,7 @@
         <translation> · انقر مرحّلًا أو موقعًا لتتبّعه</translation>
     </message>
     <message>
-        <source>Leads to an onion service, which meets it at its last relay</source>
+        <source>Leads to an onion service. The last relay is the meeting point.</source>
         <translation>تؤدي إلى خدمة onion تلتقي بها عند مرحّلها الأخير</translation>
     </message>
     <message>
@@ -998,7 +998,7 @@
         <translation>ملاحظة</translation>
     </message>
     <message>
-        <source>In order</source>
+        <source>OK</source>
         <translation>سليم</translation>
     </message>
     <message>
@@ -1014,15 +1014,15 @@
         <translation>جارٍ فحص هذا الحاسوب…</translation>
     </message>
     <message>
-        <source>Nothing was found out.</source>
+        <source>The check gave no result.</source>
         <translation>لم يُتوصَّل إلى شيء.</translation>
     </message>
     <message>
-        <source>Nothing was found that keeps Veldmark from connecting.</source>
+        <source>No problem was found that keeps Veldmark from connecting.</source>
         <translation>لم يُعثر على ما يمنع Veldmark من الاتصال.</translation>
     </message>
     <message>
-        <source>Veldmark can&apos;t connect before each problem is mended.</source>
+        <source>Veldmark can&apos;t connect until each problem is fixed.</source>
         <translation>لا يستطيع Veldmark الاتصال قبل إصلاح كل المشكلات.</translation>
     </message>
 </context>
@@ -1089,7 +1089,7 @@
         <translation>عرض ملفات السجل في مدير الملفات</translation>
     </message>
     <message>
-        <source>There are no log files yet: Tor makes %1 when it is first started.</source>
+        <source>There are no log files yet. Tor creates %1 when it first starts.</source>
         <translation>لا توجد ملفات سجل بعد: ينشئ Tor ⁨%1⁩ عند تشغيله أول مرة.</translation>
     </message>
     <message>
@@ -1173,11 +1173,11 @@
     </message>
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the Dock) so Veldmark can tag them. A running copy is quit and reopened.</source>
-        <translation>في الوضع الصارم، تستطيع هذه التطبيقات الاتصال مباشرة بدل المرور عبر Tor، مستخدمةً عنوان IP الحقيقي لك. ويبقى كل ما عداها مقفلًا. افتحها بزر &lt;b&gt;فتح بدون Tor&lt;/b&gt; (لا من Dock) كي يستطيع Veldmark وسمها. إذا كانت نسخة منها تعمل فستُغلق ويُعاد فتحها.</translation>
+        <translation>في الوضع الصارم، تستطيع هذه التطبيقات الاتصال مباشرة بدل المرور عبر Tor، مستخدمةً عنوان IP الحقيقي لك. ويبقى كل ما عداها محصورًا في Tor. افتحها بزر &lt;b&gt;فتح بدون Tor&lt;/b&gt; (لا من Dock) كي يستطيع Veldmark وسمها. إذا كانت نسخة منها تعمل فستُغلق ويُعاد فتحها.</translation>
     </message>
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the desktop&apos;s menu) so Veldmark can tag them. A running copy is quit and reopened.</source>
-        <translation>في الوضع الصارم، تستطيع هذه التطبيقات الاتصال مباشرة بدل المرور عبر Tor، مستخدمةً عنوان IP الحقيقي لك. ويبقى كل ما عداها مقفلًا. افتحها بزر &lt;b&gt;فتح بدون Tor&lt;/b&gt; (لا من قائمة سطح المكتب) كي يستطيع Veldmark وسمها. إذا كانت نسخة منها تعمل فستُغلق ويُعاد فتحها.</translation>
+        <translation>في الوضع الصارم، تستطيع هذه التطبيقات الاتصال مباشرة بدل المرور عبر Tor، مستخدمةً عنوان IP الحقيقي لك. ويبقى كل ما عداها محصورًا في Tor. افتحها بزر &lt;b&gt;فتح بدون Tor&lt;/b&gt; (لا من قائمة سطح المكتب) كي يستطيع Veldmark وسمها. إذا كانت نسخة منها تعمل فستُغلق ويُعاد فتحها.</translation>
     </message>
 </context>
 <context>
@@ -1187,11 +1187,11 @@
         <translation>لا رد</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but the kill switch isn&apos;t known to close that path</source>
+        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>لم يتلقَّ الاتصال المباشر المتجاوز لـ Tor ردًا، لكن لا يُعرف هل يسد مفتاح القطع هذا المسار</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t close that path</source>
+        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>لم يتلقَّ الاتصال المباشر المتجاوز لـ Tor ردًا، لكن وضع الوكيل لا يسد هذا المسار</translation>
     </message>
     <message>
@@ -1408,7 +1408,7 @@
 <context>
     <name>veldmark::Text</name>
     <message>
-        <source>Tor hasn&apos;t confirmed that it is on the network again, so nothing may get through. Veldmark goes on telling it to; else disconnect and connect again.</source>
+        <source>Tor hasn&apos;t confirmed that it uses the network again, so traffic may not get through. Veldmark keeps telling Tor to. If this lasts, disconnect and connect again.</source>
         <translation>لم يؤكد Tor أنه عاد إلى الشبكة، لذا قد لا يمر شيء. يواصل Veldmark مطالبته بذلك؛ فإن لم ينجح فافصل الاتصال ثم اتصل من جديد.</translation>
     </message>
     <message>
@@ -1416,7 +1416,7 @@
         <translation>الإصدار المعروض %1 أقدم من الإصدار المثبت %2. لم يُغيَّر شيء.</translation>
     </message>
     <message>
-        <source>What came as version %1 is another one, so it was discarded.</source>
+        <source>The download of version %1 contains another version, so it was discarded.</source>
         <translation>ما وصل على أنه الإصدار %1 هو إصدار آخر، لذا استُبعد.</translation>
     </message>
     <message>
@@ -1424,11 +1424,11 @@
         <translation>يبدأ التنزيل من جديد عندما يتصل Tor…</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no place for Tor: give the whole path, such as /usr/bin/tor.</source>
+        <source>&quot;%1&quot; is not a location of Tor. Give an absolute path, such as /usr/bin/tor.</source>
         <translation>«⁨%1⁩» ليس مكانًا صالحًا لبرنامج Tor: أعطِ المسار كاملًا، مثل ⁨/usr/bin/tor⁩.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; holds for the whole connection. Disconnect to change it.</source>
+        <source>&quot;%1&quot; can&apos;t be changed during a connection. Disconnect to change it.</source>
         <translation>الإعداد «%1» يسري على الاتصال كله. افصل الاتصال لتغييره.</translation>
     </message>
     <message>
@@ -1485,11 +1485,11 @@
     </message>
     <message>
         <source>Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. Reconnect, or Restore Network to go back online.</source>
-        <translation>توقف Tor عن العمل. ما زال مفتاح القطع يحجب حركة البيانات، فلم يتسرب شيء. أعد الاتصال، أو استعِد الشبكة للعودة إلى الإنترنت.</translation>
+        <translation>توقف Tor عن العمل. ما زال مفتاح القطع يحجب حركة البيانات، فلم يتسرب شيء. أعد الاتصال، أو استعِد الشبكة للعودة إلى الإنترنت بدون Tor.</translation>
     </message>
     <message>
-        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks have seen some go around Tor. Reconnect, or Restore Network to go back online.</source>
-        <translation>توقف Tor عن العمل. ما زال مفتاح القطع يحجب حركة البيانات، لكن آخر الفحوص رصدت بيانات تمر خارج Tor. أعد الاتصال، أو استعِد الشبكة للعودة إلى الإنترنت.</translation>
+        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks saw traffic go around Tor. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>توقف Tor عن العمل. ما زال مفتاح القطع يحجب حركة البيانات، لكن آخر الفحوص رصدت بيانات تمر خارج Tor. أعد الاتصال، أو استعِد الشبكة للعودة إلى الإنترنت بدون Tor.</translation>
     </message>
     <message>
         <source>Tor stopped running. Apps using the proxy can&apos;t connect until you reconnect or Restore Network.</source>
@@ -1592,19 +1592,19 @@
         <translation>توقف Tor عن العمل، ولم تعد شبكتك مُعدّة له.</translation>
     </message>
     <message>
-        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go back online.</source>
-        <translation>توقف Tor عن العمل. عاد مفتاح القطع يحجب حركة البيانات، لكن برنامجًا آخر كان قد أزال قواعده لفترة. أعد الاتصال، أو استعِد الشبكة للعودة إلى الإنترنت.</translation>
+        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>توقف Tor عن العمل. عاد مفتاح القطع يحجب حركة البيانات، لكن برنامجًا آخر كان قد أزال قواعده لفترة. أعد الاتصال، أو استعِد الشبكة للعودة إلى الإنترنت بدون Tor.</translation>
     </message>
     <message>
-        <source>Tor stopped running, and the kill switch is open: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
+        <source>Tor stopped running, and the kill switch doesn&apos;t block traffic: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
         <translation>توقف Tor عن العمل، ومفتاح القطع بلا مفعول: أزال برنامج آخر قواعده. قد تخرج البيانات من هذا الحاسوب مباشرة. أعد الاتصال، أو استعِد الشبكة.</translation>
     </message>
     <message>
-        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go back online.</source>
-        <translation>توقف Tor عن العمل، ولا يُعرف هل ما زال مفتاح القطع يحجب حركة البيانات. أعد الاتصال، أو استعِد الشبكة للعودة إلى الإنترنت.</translation>
+        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>توقف Tor عن العمل، ولا يُعرف هل ما زال مفتاح القطع يحجب حركة البيانات. أعد الاتصال، أو استعِد الشبكة للعودة إلى الإنترنت بدون Tor.</translation>
     </message>
     <message>
-        <source>The watcher over Veldmark&apos;s firewall rules has stopped telling, so it isn&apos;t known whether the kill switch stands. Disconnect and connect again.</source>
+        <source>The watcher of Veldmark&apos;s firewall rules has stopped reporting, so it isn&apos;t known whether the kill switch blocks traffic. Disconnect and connect again.</source>
         <translation>توقف مراقب قواعد جدار الحماية الخاصة بـ Veldmark عن الإبلاغ، فلا يُعرف هل مفتاح القطع ساري المفعول. افصل الاتصال ثم اتصل من جديد.</translation>
     </message>
     <message>
@@ -1636,7 +1636,7 @@
         <translation>تسريب DNS</translation>
     </message>
     <message>
-        <source>Kill Switch Open</source>
+        <source>Kill Switch Failed</source>
         <translation>مفتاح القطع بلا مفعول</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>يمكن رؤية عنوانك الحقيقي. افصل الاتصال، أو أعد فحص التسريب.</translation>
     </message>
     <message>
-        <source>It can&apos;t be told whether the kill switch stands. Disconnect and connect again.</source>
+        <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Disconnect and connect again.</source>
         <translation>لا يُعرف هل مفتاح القطع ساري المفعول. افصل الاتصال ثم اتصل من جديد.</translation>
     </message>
     <message>
@@ -1676,7 +1676,7 @@
         <translation>لا شيء يمر</translation>
     </message>
     <message>
-        <source>This computer has no network. Nothing gets out around Tor meanwhile.</source>
+        <source>This computer has no network. Traffic around Tor stays blocked.</source>
         <translation>هذا الحاسوب بلا شبكة. ولا يمر شيء خارج Tor في هذه الأثناء.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>هذا الحاسوب بلا شبكة. يتابع Veldmark عمله عند عودتها.</translation>
     </message>
     <message>
-        <source>Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile.</source>
+        <source>Tor has no working circuit and keeps trying. Traffic around Tor stays blocked.</source>
         <translation>ليس لدى Tor دائرة عاملة وهو يواصل المحاولة. ولا يمر شيء خارجه في هذه الأثناء.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>ليس لدى Tor دائرة عاملة وهو يواصل المحاولة.</translation>
     </message>
     <message>
-        <source>Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile.</source>
+        <source>Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked.</source>
         <translation>لا يتلقى Tor ردًا من الشبكة وهو يواصل المحاولة. ولا يمر شيء خارجه في هذه الأثناء.</translation>
     </message>
     <message>
@@ -1700,7 +1700,7 @@
         <translation>لا يتلقى Tor ردًا من الشبكة وهو يواصل المحاولة.</translation>
     </message>
     <message>
-        <source>Another program has ended this session and begun one of its own. Restore Network ends that one.</source>
+        <source>Another program has ended this session and started its own. Restore Network ends that session.</source>
         <translation>أنهى برنامج آخر هذه الجلسة وبدأ جلسة خاصة به. «استعادة الشبكة» تنهي تلك الجلسة.</translation>
     </message>
     <message>
@@ -1752,7 +1752,7 @@
         <translation>رُفضت صلاحيات مدير النظام، أو لم يردّ البرنامج الذي يطلب كلمة السر.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out, so Tor can&apos;t connect: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic, so Tor can&apos;t connect: %1.</source>
         <translation>يمنع جدار حماية آخر على هذا الحاسوب الاتصالات الصادرة، لذا لا يستطيع Tor الاتصال: %1.</translation>
     </message>
     <message>
@@ -1808,11 +1808,11 @@
         <translation>تعذر فتح %1 بدون Tor: %2</translation>
     </message>
     <message>
-        <source>Another Veldmark of yours has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <source>Another Veldmark of yours has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
         <translation>بدأت نسخة أخرى من Veldmark لديك جلسة منذ ذلك الحين، لذا لم يُنهَ شيء. افصل الاتصال مرة أخرى لإنهائها.</translation>
     </message>
     <message>
-        <source>Another user&apos;s Veldmark has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <source>Another user&apos;s Veldmark has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
         <translation>بدأت نسخة Veldmark لمستخدم آخر جلسة منذ ذلك الحين، لذا لم يُنهَ شيء. افصل الاتصال مرة أخرى لإنهائها.</translation>
     </message>
     <message>
@@ -1888,7 +1888,7 @@
         <translation>لم يُعطِ الخادم ردًا بـ HTTP.</translation>
     </message>
     <message>
-        <source>The connection was lost before the end.</source>
+        <source>The connection was lost before the download ended.</source>
         <translation>انقطع الاتصال قبل النهاية.</translation>
     </message>
     <message>
@@ -1900,7 +1900,7 @@
         <translation>أغلق Tor اتصال التحكم.</translation>
     </message>
     <message>
-        <source>Another program than Tor listens on Tor&apos;s control port.</source>
+        <source>A program other than Tor listens on Tor&apos;s control port.</source>
         <translation>برنامج آخر غير Tor يستمع على منفذ التحكم في Tor.</translation>
     </message>
     <message>
@@ -1928,7 +1928,7 @@
         <translation>لا يمكن طلب صلاحيات مدير النظام: لا يعمل أي عميل مصادقة لـ PolicyKit في هذه الجلسة.</translation>
     </message>
     <message>
-        <source>The password could not be checked: polkit takes none from this terminal. Run it with sudo.</source>
+        <source>The password could not be checked: polkit accepts no password from this terminal. Run the command with sudo.</source>
         <translation>تعذر التحقق من كلمة السر: لا يقبل polkit كلمة سر من هذه الطرفية. شغّل الأمر باستخدام sudo.</translation>
     </message>
     <message>
@@ -2032,7 +2032,7 @@
         <translation>يجري فتح %1 بالفعل.</translation>
     </message>
     <message>
-        <source>A session is open, and its kill switch isn&apos;t closed: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
+        <source>A session is open, and its kill switch doesn&apos;t block traffic: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
         <translation>هناك جلسة قائمة، ومفتاح القطع فيها بلا مفعول: لم يستطع مراقبه إعادة القواعد. قد تخرج البيانات من هذا الحاسوب مباشرة. استعِد الشبكة، ثم اتصل من جديد.</translation>
     </message>
     <message>
@@ -2044,7 +2044,7 @@
         <translation>تُضبط الساعة من الشبكة. وهي تشير إلى ⁨%1⁩.</translation>
     </message>
     <message>
-        <source>Whether the clock is right isn&apos;t known: nothing is seen to set it from the network. It shows %1. Tor needs it right to within minutes.</source>
+        <source>It isn&apos;t known whether the clock is right: no time service seems to set it. It shows %1. Tor needs it right to within minutes.</source>
         <translation>لا يُعرف هل الساعة صحيحة: لا يظهر ما يضبطها من الشبكة. وهي تشير إلى ⁨%1⁩. يحتاج Tor إلى ألا يتجاوز خطؤها بضع دقائق.</translation>
     </message>
     <message>
@@ -2060,11 +2060,11 @@
         <translation>لا يمكن استخدام جدار حماية النظام: %1</translation>
     </message>
     <message>
-        <source>The kernel that runs (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
+        <source>The running kernel (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
         <translation>النواة العاملة (%1) بدون nftables. أعد تشغيل الحاسوب بعد ترقية النواة.</translation>
     </message>
     <message>
-        <source>nftables is installed. Whether the kernel that runs can use it is known to root only.</source>
+        <source>nftables is installed. Only root can tell whether the running kernel can use it.</source>
         <translation>حزمة nftables مثبتة. ولا يعلم إلا root هل تستطيع النواة العاملة استخدامها.</translation>
     </message>
     <message>
@@ -2084,11 +2084,11 @@
         <translation>يمكن فتح تطبيقات بدون Tor: مجموعات التحكم من الإصدار 2 موجودة.</translation>
     </message>
     <message>
-        <source>No other firewall that is known by name runs. The rules themselves are known to root only.</source>
+        <source>No other firewall that Veldmark knows runs. Only root can read the rules themselves.</source>
         <translation>لا يعمل أي جدار حماية آخر معروف بالاسم. أما القواعد نفسها فلا يعلمها إلا root.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out unless one of its rules allows it, so Tor may not get through: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic that its rules don&apos;t allow, so Tor may not get through: %1.</source>
         <translation>يمنع جدار حماية آخر على هذا الحاسوب كل اتصال صادر لا تسمح به إحدى قواعده، لذا قد لا يمر Tor: %1.</translation>
     </message>
     <message>
@@ -2108,11 +2108,11 @@
         <translation>لا يوجد هنا سطح مكتب تُطلب فيه كلمة سر مدير النظام بنافذة. استخدم sudo.</translation>
     </message>
     <message>
-        <source>No program that is known to ask for polkit&apos;s passwords (an agent) runs in your session. Without one, use sudo, or start an agent such as lxpolkit.</source>
+        <source>No known polkit agent, the program that asks for the password, runs in your session. Use sudo, or start an agent such as lxpolkit.</source>
         <translation>لا يعمل في جلستك أي برنامج معروف يطلب كلمات سر polkit (عميل مصادقة). بدونه استخدم sudo، أو شغّل عميلًا مثل lxpolkit.</translation>
     </message>
     <message>
-        <source>polkit is there, and a program that asks for its passwords runs in your session.</source>
+        <source>polkit is installed, and an agent that asks for the password runs in your session.</source>
         <translation>برنامج polkit موجود، ويعمل في جلستك برنامج يطلب كلمات سره.</translation>
     </message>
     <message>
@@ -2120,15 +2120,15 @@
         <translation>يعمل Veldmark هنا بحساب root ولا يطلب كلمة سر.</translation>
     </message>
     <message>
-        <source>Connecting without a password is set up.</source>
-        <translation>الاتصال بلا كلمة سر مُعدّ.</translation>
+        <source>Passwordless mode is set up.</source>
+        <translation>الوضع بلا كلمة سر مُعدّ.</translation>
     </message>
     <message>
-        <source>sudo isn&apos;t installed. Connecting without a password needs it.</source>
-        <translation>برنامج sudo غير مثبت. يحتاج إليه الاتصال بلا كلمة سر.</translation>
+        <source>sudo isn&apos;t installed. Passwordless mode needs it.</source>
+        <translation>برنامج sudo غير مثبت. يحتاج إليه الوضع بلا كلمة سر.</translation>
     </message>
     <message>
-        <source>sudo is installed. Whether you may use it is known to root only.</source>
+        <source>sudo is installed. Only root can tell whether you may use it.</source>
         <translation>برنامج sudo مثبت. ولا يعلم إلا root هل يُسمح لك باستخدامه.</translation>
     </message>
     <message>
@@ -2156,7 +2156,7 @@
         <translation>المنافذ التي يحتاج إليها Tor (9050 و9051 و293) متاحة.</translation>
     </message>
     <message>
-        <source>The location of Tor in the settings, %1, is no program that can run. The usual places are searched instead.</source>
+        <source>The location of Tor in the settings, %1, is not an executable program. Veldmark searches the usual places instead.</source>
         <translation>مكان Tor المحدد في الإعدادات، ⁨%1⁩، ليس برنامجًا قابلًا للتشغيل. يجري البحث في الأماكن المعتادة بدلًا منه.</translation>
     </message>
     <message>
@@ -2164,7 +2164,7 @@
         <translation>برنامج Tor غير مثبت.</translation>
     </message>
     <message>
-        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it doesn&apos;t tell its version.</source>
+        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it prints no version.</source>
         <translation>البرنامج ⁨%1⁩ لا يبدأ أو ليس Tor: لا يذكر إصداره.</translation>
     </message>
     <message>
@@ -2184,11 +2184,11 @@
         <translation>سكربت برنامج Veldmark المساعد مفقود. ثبّت Veldmark من جديد.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper, %1, lies where others than root can write. They can change it, and with it what the administrator&apos;s password runs.</source>
+        <source>Accounts other than root can change Veldmark&apos;s helper, %1, and with it what the administrator&apos;s password runs.</source>
         <translation>برنامج Veldmark المساعد، ⁨%1⁩، موجود حيث يستطيع غير root الكتابة. ويستطيع هؤلاء تغييره، فيتغير معه ما يُشغَّل بكلمة سر مدير النظام.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper, %1, is not an installed one: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
+        <source>Veldmark&apos;s helper, %1, is not installed: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
         <translation>برنامج Veldmark المساعد، ⁨%1⁩، ليس نسخة مثبتة: يستطيع الحساب %2 تغييره، فيتغير معه ما يُشغَّل بكلمة سر مدير النظام.</translation>
     </message>
     <message>
@@ -2196,11 +2196,11 @@
         <translation>برنامج Veldmark المساعد مثبت، ولا يستطيع تغييره إلا root: ⁨%1⁩.</translation>
     </message>
     <message>
-        <source>The helper that runs without a password is not this version&apos;s. Set up connecting without a password again in Settings, General.</source>
-        <translation>البرنامج المساعد الذي يعمل بلا كلمة سر ليس من هذا الإصدار. أعد إعداد الاتصال بلا كلمة سر في الإعدادات، قسم «عام».</translation>
+        <source>The helper of passwordless mode belongs to another version. Set up passwordless mode again in Settings, General.</source>
+        <translation>البرنامج المساعد للوضع بلا كلمة سر ليس من هذا الإصدار. أعد إعداد الوضع بلا كلمة سر في الإعدادات، قسم «عام».</translation>
     </message>
     <message>
-        <source>Bridges are off. Where Tor is blocked they need bridge programs, and none was found.</source>
+        <source>Bridges are off. Bridges need bridge programs where Tor is blocked, and none was found.</source>
         <translation>الجسور معطّلة. حيث يكون Tor محجوبًا تحتاج الجسور إلى برامج جسور، ولم يُعثر على أي منها.</translation>
     </message>
     <message>
@@ -2216,19 +2216,19 @@
         <translation>يمكن استخدام الجسور المختارة (%1): %2.</translation>
     </message>
     <message>
-        <source>Names are looked up as %1 says. Veldmark switches that over and back.</source>
+        <source>%1 manages DNS. Veldmark changes that while connected and restores it afterwards.</source>
         <translation>تُستعلم الأسماء كما يحدد ⁨%1⁩. يغيّر Veldmark ذلك ثم يعيده.</translation>
     </message>
     <message>
-        <source>%1 is Veldmark&apos;s. It names Tor as the name server.</source>
+        <source>Veldmark wrote %1. It points DNS at Tor.</source>
         <translation>الملف ⁨%1⁩ من Veldmark. خادم الأسماء المذكور فيه هو Tor.</translation>
     </message>
     <message>
-        <source>There is no file %1, so names may not be looked up at all.</source>
+        <source>The file %1 is missing, so DNS may not work at all.</source>
         <translation>لا يوجد ملف ⁨%1⁩، لذا قد لا تُستعلم الأسماء إطلاقًا.</translation>
     </message>
     <message>
-        <source>Names are looked up by a resolver on this computer. Veldmark switches that over and back.</source>
+        <source>A resolver on this computer answers DNS. Veldmark changes that while connected and restores it afterwards.</source>
         <translation>يُجري استعلامات الأسماء برنامج resolver على هذا الحاسوب. يغيّر Veldmark ذلك ثم يعيده.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>هناك جلسة قائمة: الشبكة مُعدّة لـ Tor، وTor يعمل.</translation>
     </message>
     <message>
-        <source>The network is set up for Tor. Whether Tor still runs isn&apos;t known here.</source>
+        <source>The network is set up for Tor. It isn&apos;t known whether Tor still runs.</source>
         <translation>الشبكة مُعدّة لـ Tor. ولا يُعرف هنا هل ما زال Tor يعمل.</translation>
     </message>
     <message>
@@ -2252,8 +2252,8 @@
         <translation>ما زالت الشبكة مُعدّة لـ Tor من جلسة سابقة، ولا يعمل أي Tor. اتصل من جديد، أو استعِد الشبكة.</translation>
     </message>
     <message>
-        <source>A session is open, and it isn&apos;t known whether its kill switch stands: nobody watches over the rules. Restore the network, and connect again.</source>
-        <translation>هناك جلسة قائمة، ولا يُعرف هل مفتاح القطع فيها ساري المفعول: لا أحد يراقب القواعد. استعِد الشبكة، ثم اتصل من جديد.</translation>
+        <source>A session is open, and it isn&apos;t known whether its kill switch blocks traffic: no watcher watches the rules. Restore the network, and connect again.</source>
+        <translation>هناك جلسة قائمة، ولا يُعرف هل مفتاح القطع فيها ساري المفعول: لا مراقب يراقب القواعد. استعِد الشبكة، ثم اتصل من جديد.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -2268,7 +2268,7 @@
         <translation>%1 من %2 ميغابايت (%3%)</translation>
     </message>
     <message>
-        <source>Veldmark needs administrator access to manage Tor routing on this computer. The system&apos;s own Tor service, where it runs, is stopped meanwhile.</source>
+        <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
         <translation>يحتاج Veldmark إلى صلاحيات مدير النظام لإدارة التوجيه عبر Tor على هذا الحاسوب. تُوقَف خدمة Tor الخاصة بالنظام في هذه الأثناء إن كانت تعمل.</translation>
     </message>
     <message>
@@ -2276,7 +2276,7 @@
         <translation>يحتاج Veldmark إلى صلاحيات مدير النظام لإدارة التوجيه عبر Tor على جهاز Mac هذا.</translation>
     </message>
     <message>
-        <source>The archive holds %1: %2</source>
+        <source>The archive contains %1: %2</source>
         <translation>يحتوي الأرشيف %1: ⁨%2⁩</translation>
     </message>
     <message>
@@ -2288,7 +2288,7 @@
         <translation>رابطًا صلبًا</translation>
     </message>
     <message>
-        <source>what is neither file nor folder</source>
+        <source>an entry that is neither a file nor a folder</source>
         <translation>ما ليس ملفًا ولا مجلدًا</translation>
     </message>
     <message>
@@ -2296,15 +2296,15 @@
         <translation>مسارًا يؤدي إلى مكان آخر</translation>
     </message>
     <message>
-        <source>The archive is empty or no archive.</source>
+        <source>The file is empty or not an archive.</source>
         <translation>الأرشيف فارغ أو ليس أرشيفًا.</translation>
     </message>
     <message>
-        <source>The archive&apos;s list of files is not clear.</source>
+        <source>The archive&apos;s list of files is ambiguous.</source>
         <translation>قائمة ملفات الأرشيف غير واضحة.</translation>
     </message>
     <message>
-        <source>The archive holds too many files.</source>
+        <source>The archive contains too many files.</source>
         <translation>يحتوي الأرشيف ملفات أكثر مما ينبغي.</translation>
     </message>
     <message>
@@ -2392,7 +2392,7 @@
         <translation>يحتاج %1 إلى مفتاح وقيمة: veldmarkctl %1 KEY VALUE.</translation>
     </message>
     <message>
-        <source>What should I do? &quot;veldmarkctl help&quot; lists the commands.</source>
+        <source>A command is missing. &quot;veldmarkctl help&quot; lists the commands.</source>
         <translation>ما المطلوب؟ يسرد «veldmarkctl help» الأوامر.</translation>
     </message>
     <message>
@@ -2434,7 +2434,7 @@
         <translation>غير موجود</translation>
     </message>
     <message>
-        <source>doesn&apos;t say what it serves</source>
+        <source>doesn&apos;t say which transports it serves</source>
         <translation>لا يذكر ما يوفره</translation>
     </message>
     <message>
@@ -2514,7 +2514,7 @@
         <translation>لا يمكن إجراء اتصال بعد.</translation>
     </message>
     <message>
-        <source>A connect can&apos;t work before each &quot;problem&quot; is mended.</source>
+        <source>A connect can&apos;t work until each &quot;problem&quot; is fixed.</source>
         <translation>لا يمكن إجراء اتصال قبل إصلاح كل ما وُسم «مشكلة».</translation>
     </message>
     <message>
@@ -2530,19 +2530,19 @@
         <translation>صارم</translation>
     </message>
     <message>
-        <source>stands, since %1</source>
+        <source>blocks traffic, since %1</source>
         <translation>ساري المفعول، منذ ⁨%1⁩</translation>
     </message>
     <message>
-        <source>stands; put back at %1 after another program had removed it</source>
+        <source>blocks traffic; put back at %1 after another program had removed it</source>
         <translation>ساري المفعول؛ أُعيد في ⁨%1⁩ بعد أن أزاله برنامج آخر</translation>
     </message>
     <message>
-        <source>OPEN since %1: traffic may leave this computer directly</source>
+        <source>NOT BLOCKING since %1: traffic may leave this computer directly</source>
         <translation>بلا مفعول منذ ⁨%1⁩: قد تخرج البيانات من هذا الحاسوب مباشرة</translation>
     </message>
     <message>
-        <source>isn&apos;t known to stand, since %1</source>
+        <source>isn&apos;t known to block traffic, since %1</source>
         <translation>منذ ⁨%1⁩ لا يُعرف هل هو ساري المفعول</translation>
     </message>
     <message>
@@ -2570,11 +2570,11 @@
         <translation>محجوب</translation>
     </message>
     <message>
-        <source>no answer, but the kill switch isn&apos;t known to close it</source>
+        <source>no answer, but it isn&apos;t known whether the kill switch blocks it</source>
         <translation>لا رد، لكن لا يُعرف هل يسده مفتاح القطع</translation>
     </message>
     <message>
-        <source>no answer, but proxy mode doesn&apos;t close it</source>
+        <source>no answer, but proxy mode doesn&apos;t block it</source>
         <translation>لا رد، لكن وضع الوكيل لا يسده</translation>
     </message>
     <message>
@@ -2582,7 +2582,7 @@
         <translation>جارٍ الفحص…</translation>
     </message>
     <message>
-        <source>couldn&apos;t be told</source>
+        <source>inconclusive</source>
         <translation>تعذرت معرفته</translation>
     </message>
     <message>
@@ -2718,11 +2718,11 @@
         <translation>القيمة «%1» ليست true ولا false.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no JSON array of strings.</source>
+        <source>&quot;%1&quot; is not a JSON array of strings.</source>
         <translation>القيمة «⁨%1⁩» ليست مصفوفة JSON من السلاسل النصية.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no bridge choice: off, obfs4, snowflake, meek or custom.</source>
+        <source>&quot;%1&quot; is not a bridge choice: off, obfs4, snowflake, meek or custom.</source>
         <translation>القيمة «%1» ليست من خيارات الجسور: off أو obfs4 أو snowflake أو meek أو custom.</translation>
     </message>
     <message>
@@ -2734,15 +2734,15 @@
         <translation>لم يُكمل Tor الاتصال خلال 5 دقائق. (%1)</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
+        <source>&quot;%1&quot; is not an exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
         <translation>القيمة «%1» ليست بلد خروج: حرفان صغيران مثل «de»، أو لا شيء لأي بلد.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no application: an absolute path that ends in &quot;%2&quot;.</source>
+        <source>&quot;%1&quot; is not an application: an absolute path that ends in &quot;%2&quot;.</source>
         <translation>القيمة «⁨%1⁩» ليست تطبيقًا: المطلوب مسار مطلق ينتهي بـ «⁨%2⁩».</translation>
     </message>
     <message>
-        <source>the kill switch, else proxy mode</source>
+        <source>strict mode with the kill switch, else proxy mode</source>
         <translation>مفتاح القطع، وإلا فوضع الوكيل</translation>
     </message>
     <message>
@@ -2754,7 +2754,7 @@
         <translation>حرفان صغيران، أو لا شيء لأي بلد</translation>
     </message>
     <message>
-        <source>the tor to use, or nothing to search for it</source>
+        <source>the path of the tor to use, or nothing to search for tor</source>
         <translation>برنامج tor المستخدم، أو لا شيء للبحث عنه</translation>
     </message>
     <message>
@@ -2794,7 +2794,7 @@
         <translation>يحتاج «set» إلى «key» و«value»، وكلاهما سلسلة نصية.</translation>
     </message>
     <message>
-        <source>Already connected, or on the way; &quot;veldmarkctl status&quot; says more.</source>
+        <source>Already connected or connecting; &quot;veldmarkctl status&quot; says more.</source>
         <translation>متصل بالفعل، أو قيد الاتصال؛ يذكر «veldmarkctl status» المزيد.</translation>
     </message>
     <message>
@@ -2870,7 +2870,7 @@
         <translation>الاستمرار حتى Ctrl-C</translation>
     </message>
     <message>
-        <source>how things stand; --watch goes on until Ctrl-C</source>
+        <source>print the connection&apos;s state; --watch goes on until Ctrl-C</source>
         <translation>الحالة الراهنة؛ ⁨--watch⁩ يستمر حتى Ctrl-C</translation>
     </message>
     <message>
@@ -2882,7 +2882,7 @@
         <translation>استعادة الشبكة وإيقاف Tor</translation>
     </message>
     <message>
-        <source>the same, also for what a crash left behind</source>
+        <source>restore the network and stop Tor, also after a crash</source>
         <translation>الشيء نفسه، ويشمل أيضًا ما خلّفه انهيار البرنامج</translation>
     </message>
     <message>
@@ -2898,7 +2898,7 @@
         <translation>دوائر Tor ومواقعها</translation>
     </message>
     <message>
-        <source>close one; its sites get a fresh path on their next request</source>
+        <source>close a circuit; its sites get a fresh path on their next request</source>
         <translation>إغلاق دائرة؛ تحصل مواقعها على مسار جديد عند طلبها التالي</translation>
     </message>
     <message>
@@ -2944,8 +2944,8 @@ of an entry or a program. Running copies are asked to quit first</source>
         <translation>يحتاج launch إلى تطبيق؛ يسرد «veldmarkctl apps» التطبيقات.</translation>
     </message>
     <message>
-        <source>look at this computer: what a connect needs, what is in its way, and what
-mends it. Changes nothing; ends with 0 when a connect can work</source>
+        <source>check what a connect needs on this computer, what blocks it and how to fix
+it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>فحص هذا الحاسوب: ما يحتاج إليه الاتصال وما يعيقه وما يصلحه.
 لا يغيّر شيئًا؛ رمز الإنهاء 0 إذا كان الاتصال ممكنًا</translation>
     </message>
@@ -3014,11 +3014,11 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>يجري إنهاء البرنامج.</translation>
     </message>
     <message>
-        <source>The strict session that is running is replaced, and may protect you less.</source>
+        <source>Veldmark replaces the running strict session. The new session may protect you less.</source>
         <translation>تحل جلسة أخرى محل الجلسة الصارمة العاملة، وقد تقلّ حمايتك.</translation>
     </message>
     <message>
-        <source>Veldmark wants to run %1 as a part of Tor. No package of the system brought it. Its SHA-256 is %2.</source>
+        <source>Veldmark wants to run %1 as a part of Tor. No package of the system installed it. Its SHA-256 is %2.</source>
         <translation>يريد Veldmark تشغيل ⁨%1⁩ بوصفه جزءًا من Tor. لم تأتِ به أي حزمة من حزم النظام. مجموع SHA-256 له هو ⁨%2⁩.</translation>
     </message>
     <message>
@@ -3070,7 +3070,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>تلزم كلمة سر مدير النظام للموافقة على %1.</translation>
     </message>
     <message>
-        <source>An administrator password is needed to change the strict session that is running.</source>
+        <source>An administrator password is needed to change the running strict session.</source>
         <translation>تلزم كلمة سر مدير النظام لتغيير الجلسة الصارمة العاملة.</translation>
     </message>
     <message>
@@ -3082,7 +3082,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>تلزم كلمة سر مدير النظام لهذا الإعداد.</translation>
     </message>
     <message>
-        <source>Another program (process %1) has begun a session since. It was left alone.</source>
+        <source>Another program (process %1) has started a session meanwhile. That session was left alone.</source>
         <translation>بدأ برنامج آخر (العملية %1) جلسة منذ ذلك الحين. لم تُمسّ تلك الجلسة.</translation>
     </message>
     <message>
@@ -3094,7 +3094,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>لا تُفتح التطبيقات بحساب root.</translation>
     </message>
     <message>
-        <source>Applications can be opened for the user who asks only.</source>
+        <source>The helper opens applications only for the user who asks.</source>
         <translation>لا يمكن فتح التطبيقات إلا للمستخدم الذي يطلب ذلك.</translation>
     </message>
     <message>
@@ -3106,12 +3106,12 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>عدد الجسور المعطاة يتجاوز %1.</translation>
     </message>
     <message>
-        <source>Only the user who asks can be let in.</source>
+        <source>Passwordless mode can be set up only for the user who asks.</source>
         <translation>لا يمكن منح الإذن إلا للمستخدم الذي يطلبه.</translation>
     </message>
     <message>
-        <source>Somebody else is changing the firewall. Try again in a moment.</source>
-        <translation>يغيّر طرف آخر جدار الحماية الآن. حاول مرة أخرى بعد لحظات.</translation>
+        <source>Another program is changing the firewall. Try again in a moment.</source>
+        <translation>يغيّر برنامج آخر جدار الحماية الآن. حاول مرة أخرى بعد لحظات.</translation>
     </message>
     <message>
         <source>The DNS servers of systemd-resolved cannot be changed.</source>
@@ -3144,6 +3144,10 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
     <message>
         <source>The caller&apos;s user id is not a number.</source>
         <translation>معرّف المستخدم الطالب ليس رقمًا.</translation>
+    </message>
+    <message>
+        <source>The control group for Tor cannot be made.</source>
+        <translation>تعذر إنشاء مجموعة التحكم الخاصة بـ Tor.</translation>
     </message>
     <message>
         <source>The control group of the applications without Tor could not be removed.</source>
@@ -3186,7 +3190,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>لا يمكن إزالة الملفات في ⁨%1⁩.</translation>
     </message>
     <message>
-        <source>The firewall cannot be looked at, so nothing was done.</source>
+        <source>The firewall rules cannot be read, so nothing was done.</source>
         <translation>لا يمكن فحص جدار الحماية، لذا لم يُفعل شيء.</translation>
     </message>
     <message>
@@ -3194,16 +3198,16 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>لا يمكن تفعيل جدار الحماية (%1).</translation>
     </message>
     <message>
-        <source>The firewall cannot end the connections from before.</source>
+        <source>The firewall cannot end the earlier connections.</source>
         <translation>لا يستطيع جدار الحماية إنهاء الاتصالات السابقة.</translation>
     </message>
     <message>
-        <source>The firewall could not be opened (%1).</source>
-        <translation>تعذر رفع الحجب في جدار الحماية (%1).</translation>
+        <source>The kill switch could not be switched off (%1).</source>
+        <translation>تعذر إيقاف مفتاح القطع (⁨%1⁩).</translation>
     </message>
     <message>
-        <source>The firewall could not be opened, because somebody is changing it.</source>
-        <translation>تعذر رفع الحجب في جدار الحماية، لأن طرفًا آخر يغيّره.</translation>
+        <source>The kill switch could not be switched off, because another program is changing the firewall.</source>
+        <translation>تعذر إيقاف مفتاح القطع، لأن برنامجًا آخر يغيّر جدار الحماية.</translation>
     </message>
     <message>
         <source>The firewall does not hold the rules that were loaded.</source>
@@ -3266,11 +3270,11 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>المجلدات التي تعلو مجلد Veldmark غير آمنة: يجب ألا يملكها أو يكتب فيها أحد غير root.</translation>
     </message>
     <message>
-        <source>The folders below %1 cannot be looked at, so nothing was done.</source>
+        <source>The folders below %1 cannot be read, so nothing was done.</source>
         <translation>لا يمكن فحص المجلدات تحت ⁨%1⁩، لذا لم يُفعل شيء.</translation>
     </message>
     <message>
-        <source>The folders below %1 cannot be looked at.</source>
+        <source>The folders below %1 cannot be read.</source>
         <translation>لا يمكن فحص المجلدات تحت ⁨%1⁩.</translation>
     </message>
     <message>
@@ -3306,8 +3310,8 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>لا يمكن كتابة دفتر التغييرات.</translation>
     </message>
     <message>
-        <source>The kill switch is not on, so there is nothing to open the application past.</source>
-        <translation>مفتاح القطع غير مفعّل، فلا حاجة إلى فتح التطبيق متجاوزًا له.</translation>
+        <source>The kill switch is not on, so no application needs to bypass it.</source>
+        <translation>مفتاح القطع غير مفعّل، فلا يحتاج أي تطبيق إلى تجاوزه.</translation>
     </message>
     <message>
         <source>The launcher could not be copied to %1.</source>
@@ -3422,7 +3426,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>المسار المعطى مع ⁨--app⁩ لا يدل على تطبيق.</translation>
     </message>
     <message>
-        <source>The port %1, which Tor needs, is held by %2. End that, then connect again.</source>
+        <source>The port %1, which Tor needs, is held by %2. End that program, then connect again.</source>
         <translation>المنفذ %1 الذي يحتاج إليه Tor يحجزه %2. أنهِ ذلك، ثم اتصل من جديد.</translation>
     </message>
     <message>
@@ -3450,7 +3454,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>البرنامج %1 مفقود على هذا النظام.</translation>
     </message>
     <message>
-        <source>The program %1 is not the one that was to be approved.</source>
+        <source>The SHA-256 of the program %1 is not the one to approve.</source>
         <translation>البرنامج ⁨%1⁩ ليس البرنامج الذي كان يُراد الموافقة عليه.</translation>
     </message>
     <message>
@@ -3538,11 +3542,11 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>الأمر uninstall-privileged لا يقبل خيارات.</translation>
     </message>
     <message>
-        <source>The watcher over the firewall could not be started.</source>
+        <source>The watcher of the firewall rules could not be started.</source>
         <translation>تعذر تشغيل مراقب جدار الحماية.</translation>
     </message>
     <message>
-        <source>The watcher over the firewall could not be stopped.</source>
+        <source>The watcher of the firewall rules could not be stopped.</source>
         <translation>تعذر إيقاف مراقب جدار الحماية.</translation>
     </message>
     <message>
@@ -3658,7 +3662,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>يفشل nft.</translation>
     </message>
     <message>
-        <source>Ended without its display. Your network is still set up for Tor: start Veldmark again, or restore it with: %1</source>
+        <source>Ended because the display is gone. Your network is still set up for Tor: start Veldmark again, or restore the network with: %1</source>
         <translation>انتهى البرنامج بعد فقدان شاشة العرض. ما زالت شبكتك مُعدّة لـ Tor: شغّل Veldmark من جديد، أو استعِدها بالأمر: %1</translation>
     </message>
     <message>
@@ -3670,7 +3674,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>رُفع الحجب عن الشبكة، لكن تعذرت إعادة إعداد جهاز loopback كما كان. جرّب: ethtool -K lo %1 on.</translation>
     </message>
     <message>
-        <source>Applications are not told apart on this system.</source>
+        <source>This system can&apos;t tell applications apart.</source>
         <translation>لا يُميَّز بين التطبيقات على هذا النظام.</translation>
     </message>
     <message>
@@ -3690,11 +3694,11 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>ليست هذه الهوية لأي تطبيق من تطبيقاتك؛ يسرد «veldmarkctl identities» الهويات.</translation>
     </message>
     <message>
-        <source>The application has not got another identity.</source>
+        <source>The application did not get a new identity.</source>
         <translation>لم يحصل التطبيق على هوية أخرى.</translation>
     </message>
     <message>
-        <source>The program has not got an identity of its own, so it was not started.</source>
+        <source>The program did not get an identity of its own, so it was not started.</source>
         <translation>لم يحصل البرنامج على هوية خاصة به، لذا لم يُشغَّل.</translation>
     </message>
     <message>
@@ -3702,7 +3706,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>لا يتجاوز الاسم 40 محرفًا من الحروف والأرقام والنقاط والشرطات السفلية.</translation>
     </message>
     <message>
-        <source>The program systemd-run is missing, which makes groups for programs.</source>
+        <source>The program systemd-run is missing. Veldmark needs it to make a group for a program.</source>
         <translation>البرنامج systemd-run مفقود، وهو الذي ينشئ مجموعات البرامج.</translation>
     </message>
     <message>
@@ -3752,15 +3756,15 @@ name in the same session has the same ones</source>
         <translation>يجب أن تكون قيمة ⁨--separate⁩ إما 0 أو 1.</translation>
     </message>
     <message>
-        <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
+        <source>No package of the system installed %1. The next connect asks an administrator to approve it.</source>
         <translation>لم تأتِ بـ ⁨%1⁩ أي حزمة من حزم النظام. يُطلب من مسؤول أن يوافق عليه عند الاتصال التالي.</translation>
     </message>
     <message>
-        <source>Whether a connect can work isn&apos;t known.</source>
+        <source>It isn&apos;t known whether a connect can work.</source>
         <translation>لا يُعرف هل يمكن إجراء اتصال.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
         <translation>يمنع جدار حماية آخر على هذا الحاسوب الاتصالات الصادرة، ولا تسمح أي من قواعده بشيء، لذا لا يمكن أن يمر Tor: %1.</translation>
     </message>
 </context>

@@ -544,7 +544,7 @@
         <translation>Ursache finden</translation>
     </message>
     <message>
-        <source>Looks at this computer: what a connection needs, what is in its way, and what mends it</source>
+        <source>Checks what a connection needs on this computer, what blocks it and how to fix it</source>
         <translation>Untersucht diesen Computer: was eine Verbindung braucht, was ihr im Weg steht und was das behebt</translation>
     </message>
     <message>
@@ -769,7 +769,7 @@
         <translation>Jede Anwendung hat eigene Kanäle</translation>
     </message>
     <message>
-        <source>Sites cannot tell by the exit address that two applications are yours. Applications are told apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with all of their login session or account.</source>
+        <source>Sites cannot tell by the exit address that two applications are yours. Veldmark tells applications apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with the rest of their login session or account.</source>
         <translation>Seiten erkennen nicht an der Ausgangsadresse, dass zwei Anwendungen Ihre sind. Anwendungen werden unterschieden, wo die Arbeitsumgebung jede in einer eigenen Kontrollgruppe startet, wie GNOME und KDE. Andere Programme teilen sich Kanäle mit ihrer ganzen Anmeldesitzung oder ihrem Konto.</translation>
     </message>
 </context>
@@ -821,16 +821,16 @@
         <translation>Ein anderes Programm hat Veldmarks Firewall-Regeln entfernt; sie stehen wieder.</translation>
     </message>
     <message>
-        <source>The kill switch is open. Open Veldmark, disconnect and connect again.</source>
-        <translation>Der Notschalter ist offen. Öffnen Sie Veldmark, trennen Sie und verbinden Sie neu.</translation>
+        <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
+        <translation>Der Notschalter sperrt nicht. Öffnen Sie Veldmark, trennen Sie und verbinden Sie neu.</translation>
     </message>
     <message>
         <source>The kill switch is not watched</source>
         <translation>Der Notschalter wird nicht überwacht</translation>
     </message>
     <message>
-        <source>It can&apos;t be told whether it stands. Open Veldmark, disconnect and connect again.</source>
-        <translation>Es lässt sich nicht sagen, ob er steht. Öffnen Sie Veldmark, trennen Sie und verbinden Sie neu.</translation>
+        <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Open Veldmark, disconnect and connect again.</source>
+        <translation>Es ist nicht bekannt, ob der Notschalter sperrt. Öffnen Sie Veldmark, trennen Sie und verbinden Sie neu.</translation>
     </message>
 </context>
 <context>
@@ -840,7 +840,7 @@
         <translation>Veldmark</translation>
     </message>
     <message>
-        <source>A window could not be made. Your network is not affected; to restore it without Veldmark, run:
+        <source>Veldmark could not open a window. Your network is not affected. To restore it without Veldmark, run:
 %1
 
 %2</source>
@@ -862,7 +862,7 @@
         <translation>Ihr Netzwerk ist noch für Tor eingerichtet</translation>
     </message>
     <message>
-        <source>Veldmark was told to end and could not restore it. Open Veldmark again to do so.</source>
+        <source>Veldmark had to close and could not restore the network. Open Veldmark again to restore it.</source>
         <translation>Veldmark sollte enden und konnte es nicht wiederherstellen. Öffnen Sie Veldmark erneut, um das zu tun.</translation>
     </message>
 </context>
@@ -939,7 +939,7 @@
         <translation> · klicken Sie ein Relais oder Ziel an, um ihm zu folgen</translation>
     </message>
     <message>
-        <source>Leads to an onion service, which meets it at its last relay</source>
+        <source>Leads to an onion service. The last relay is the meeting point.</source>
         <translation>Führt zu einem Onion-Dienst, der ihm an seinem letzten Relais begegnet</translation>
     </message>
     <message>
@@ -998,7 +998,7 @@
         <translation>Hinweis</translation>
     </message>
     <message>
-        <source>In order</source>
+        <source>OK</source>
         <translation>In Ordnung</translation>
     </message>
     <message>
@@ -1014,15 +1014,15 @@
         <translation>Dieser Computer wird untersucht…</translation>
     </message>
     <message>
-        <source>Nothing was found out.</source>
+        <source>The check gave no result.</source>
         <translation>Es wurde nichts herausgefunden.</translation>
     </message>
     <message>
-        <source>Nothing was found that keeps Veldmark from connecting.</source>
+        <source>No problem was found that keeps Veldmark from connecting.</source>
         <translation>Es wurde nichts gefunden, das Veldmark am Verbinden hindert.</translation>
     </message>
     <message>
-        <source>Veldmark can&apos;t connect before each problem is mended.</source>
+        <source>Veldmark can&apos;t connect until each problem is fixed.</source>
         <translation>Veldmark kann sich nicht verbinden, bevor jedes Problem behoben ist.</translation>
     </message>
 </context>
@@ -1089,7 +1089,7 @@
         <translation>Zeigt die Protokolldateien in der Dateiverwaltung</translation>
     </message>
     <message>
-        <source>There are no log files yet: Tor makes %1 when it is first started.</source>
+        <source>There are no log files yet. Tor creates %1 when it first starts.</source>
         <translation>Es gibt noch keine Protokolldateien: Tor legt %1 beim ersten Start an.</translation>
     </message>
     <message>
@@ -1173,11 +1173,11 @@
     </message>
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the Dock) so Veldmark can tag them. A running copy is quit and reopened.</source>
-        <translation>Im strikten Modus dürfen sich diese Apps direkt statt durch Tor verbinden, mit Ihrer echten IP-Adresse. Alles andere bleibt gesperrt. Öffnen Sie sie mit &lt;b&gt;Ohne Tor öffnen&lt;/b&gt; (nicht aus dem Dock), damit Veldmark sie kennzeichnen kann. Eine laufende Kopie wird beendet und neu geöffnet.</translation>
+        <translation>Im strikten Modus dürfen sich diese Apps direkt statt durch Tor verbinden, mit Ihrer echten IP-Adresse. Alles andere geht weiterhin nur durch Tor. Öffnen Sie sie mit &lt;b&gt;Ohne Tor öffnen&lt;/b&gt; (nicht aus dem Dock), damit Veldmark sie kennzeichnen kann. Eine laufende Kopie wird beendet und neu geöffnet.</translation>
     </message>
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the desktop&apos;s menu) so Veldmark can tag them. A running copy is quit and reopened.</source>
-        <translation>Im strikten Modus dürfen sich diese Apps direkt statt durch Tor verbinden, mit Ihrer echten IP-Adresse. Alles andere bleibt gesperrt. Öffnen Sie sie mit &lt;b&gt;Ohne Tor öffnen&lt;/b&gt; (nicht aus dem Menü der Arbeitsumgebung), damit Veldmark sie kennzeichnen kann. Eine laufende Kopie wird beendet und neu geöffnet.</translation>
+        <translation>Im strikten Modus dürfen sich diese Apps direkt statt durch Tor verbinden, mit Ihrer echten IP-Adresse. Alles andere geht weiterhin nur durch Tor. Öffnen Sie sie mit &lt;b&gt;Ohne Tor öffnen&lt;/b&gt; (nicht aus dem Menü der Arbeitsumgebung), damit Veldmark sie kennzeichnen kann. Eine laufende Kopie wird beendet und neu geöffnet.</translation>
     </message>
 </context>
 <context>
@@ -1187,12 +1187,12 @@
         <translation>Keine Antwort</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but the kill switch isn&apos;t known to close that path</source>
-        <translation>Eine direkte Verbindung an Tor vorbei blieb ohne Antwort, aber es ist nicht bekannt, ob der Notschalter diesen Weg schließt</translation>
+        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
+        <translation>Eine direkte Verbindung an Tor vorbei blieb ohne Antwort, aber es ist nicht bekannt, ob der Notschalter solche Verbindungen sperrt</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t close that path</source>
-        <translation>Eine direkte Verbindung an Tor vorbei blieb ohne Antwort, aber der Proxy-Modus schließt diesen Weg nicht</translation>
+        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
+        <translation>Eine direkte Verbindung an Tor vorbei blieb ohne Antwort, aber der Proxy-Modus sperrt solche Verbindungen nicht</translation>
     </message>
     <message>
         <source>Connect to Tor</source>
@@ -1408,7 +1408,7 @@
 <context>
     <name>veldmark::Text</name>
     <message>
-        <source>Tor hasn&apos;t confirmed that it is on the network again, so nothing may get through. Veldmark goes on telling it to; else disconnect and connect again.</source>
+        <source>Tor hasn&apos;t confirmed that it uses the network again, so traffic may not get through. Veldmark keeps telling Tor to. If this lasts, disconnect and connect again.</source>
         <translation>Tor hat nicht bestätigt, dass es wieder im Netzwerk ist; womöglich kommt nichts durch. Veldmark fordert es weiter dazu auf; trennen Sie sonst, und verbinden Sie neu.</translation>
     </message>
     <message>
@@ -1416,7 +1416,7 @@
         <translation>Angeboten wird Version %1, die älter ist als die installierte %2. Nichts wurde geändert.</translation>
     </message>
     <message>
-        <source>What came as version %1 is another one, so it was discarded.</source>
+        <source>The download of version %1 contains another version, so it was discarded.</source>
         <translation>Was als Version %1 kam, ist eine andere und wurde verworfen.</translation>
     </message>
     <message>
@@ -1424,11 +1424,11 @@
         <translation>Der Download beginnt von vorn, wenn Tor verbunden ist …</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no place for Tor: give the whole path, such as /usr/bin/tor.</source>
+        <source>&quot;%1&quot; is not a location of Tor. Give an absolute path, such as /usr/bin/tor.</source>
         <translation>„%1“ ist kein Ort für Tor: Geben Sie den ganzen Pfad an, etwa /usr/bin/tor.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; holds for the whole connection. Disconnect to change it.</source>
+        <source>&quot;%1&quot; can&apos;t be changed during a connection. Disconnect to change it.</source>
         <translation>„%1“ gilt für die ganze Verbindung. Zum Ändern trennen.</translation>
     </message>
     <message>
@@ -1485,11 +1485,11 @@
     </message>
     <message>
         <source>Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor läuft nicht mehr. Der Notschalter sperrt weiter, also ist nichts nach außen gelangt. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um online zu gehen.</translation>
+        <translation>Tor läuft nicht mehr. Der Notschalter sperrt weiter, also ist nichts nach außen gelangt. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um ohne Tor online zu gehen.</translation>
     </message>
     <message>
-        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks have seen some go around Tor. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor läuft nicht mehr. Der Notschalter sperrt weiter, aber die letzten Prüfungen haben Verkehr an Tor vorbei gesehen. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um online zu gehen.</translation>
+        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks saw traffic go around Tor. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>Tor läuft nicht mehr. Der Notschalter sperrt weiter, aber die letzten Prüfungen haben Verkehr an Tor vorbei gesehen. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um ohne Tor online zu gehen.</translation>
     </message>
     <message>
         <source>Tor stopped running. Apps using the proxy can&apos;t connect until you reconnect or Restore Network.</source>
@@ -1592,19 +1592,19 @@
         <translation>Tor läuft nicht mehr, und Ihr Netzwerk ist nicht mehr dafür eingerichtet.</translation>
     </message>
     <message>
-        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor läuft nicht mehr. Der Notschalter sperrt wieder, aber ein anderes Programm hatte seine Regeln eine Zeit lang entfernt. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um online zu gehen.</translation>
+        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>Tor läuft nicht mehr. Der Notschalter sperrt wieder, aber ein anderes Programm hatte seine Regeln eine Zeit lang entfernt. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um ohne Tor online zu gehen.</translation>
     </message>
     <message>
-        <source>Tor stopped running, and the kill switch is open: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
-        <translation>Tor läuft nicht mehr, und der Notschalter ist offen: Ein anderes Programm hat seine Regeln entfernt. Daten können diesen Computer direkt verlassen. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her.</translation>
+        <source>Tor stopped running, and the kill switch doesn&apos;t block traffic: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
+        <translation>Tor läuft nicht mehr, und der Notschalter sperrt nicht: Ein anderes Programm hat seine Regeln entfernt. Daten können diesen Computer direkt verlassen. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her.</translation>
     </message>
     <message>
-        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor läuft nicht mehr, und es ist nicht bekannt, ob der Notschalter noch sperrt. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um online zu gehen.</translation>
+        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>Tor läuft nicht mehr, und es ist nicht bekannt, ob der Notschalter noch sperrt. Verbinden Sie neu, oder stellen Sie das Netzwerk wieder her, um ohne Tor online zu gehen.</translation>
     </message>
     <message>
-        <source>The watcher over Veldmark&apos;s firewall rules has stopped telling, so it isn&apos;t known whether the kill switch stands. Disconnect and connect again.</source>
+        <source>The watcher of Veldmark&apos;s firewall rules has stopped reporting, so it isn&apos;t known whether the kill switch blocks traffic. Disconnect and connect again.</source>
         <translation>Der Wächter über Veldmarks Firewall-Regeln meldet sich nicht mehr, also ist nicht bekannt, ob der Notschalter steht. Trennen Sie und verbinden Sie neu.</translation>
     </message>
     <message>
@@ -1636,8 +1636,8 @@
         <translation>DNS-Leck</translation>
     </message>
     <message>
-        <source>Kill Switch Open</source>
-        <translation>Notschalter offen</translation>
+        <source>Kill Switch Failed</source>
+        <translation>Notschalter sperrt nicht</translation>
     </message>
     <message>
         <source>Traffic may leave this computer directly</source>
@@ -1656,8 +1656,8 @@
         <translation>Ihre echte Adresse ist sichtbar. Trennen Sie, oder wiederholen Sie den Lecktest.</translation>
     </message>
     <message>
-        <source>It can&apos;t be told whether the kill switch stands. Disconnect and connect again.</source>
-        <translation>Es lässt sich nicht sagen, ob der Notschalter steht. Trennen Sie und verbinden Sie neu.</translation>
+        <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Disconnect and connect again.</source>
+        <translation>Es ist nicht bekannt, ob der Notschalter sperrt. Trennen Sie und verbinden Sie neu.</translation>
     </message>
     <message>
         <source>All traffic is locked to Tor, but the exit could not be confirmed</source>
@@ -1676,7 +1676,7 @@
         <translation>Nichts kommt durch</translation>
     </message>
     <message>
-        <source>This computer has no network. Nothing gets out around Tor meanwhile.</source>
+        <source>This computer has no network. Traffic around Tor stays blocked.</source>
         <translation>Dieser Rechner hat kein Netz. Solange gelangt nichts an Tor vorbei nach draußen.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>Dieser Rechner hat kein Netz. Veldmark macht weiter, sobald es wieder da ist.</translation>
     </message>
     <message>
-        <source>Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile.</source>
+        <source>Tor has no working circuit and keeps trying. Traffic around Tor stays blocked.</source>
         <translation>Tor hat keinen funktionierenden Kanal und versucht es weiter. Solange gelangt nichts daran vorbei nach draußen.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>Tor hat keinen funktionierenden Kanal und versucht es weiter.</translation>
     </message>
     <message>
-        <source>Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile.</source>
+        <source>Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked.</source>
         <translation>Tor bekommt aus dem Netz keine Antwort und versucht es weiter. Solange gelangt nichts daran vorbei nach draußen.</translation>
     </message>
     <message>
@@ -1700,7 +1700,7 @@
         <translation>Tor bekommt aus dem Netz keine Antwort und versucht es weiter.</translation>
     </message>
     <message>
-        <source>Another program has ended this session and begun one of its own. Restore Network ends that one.</source>
+        <source>Another program has ended this session and started its own. Restore Network ends that session.</source>
         <translation>Ein anderes Programm hat diese Sitzung beendet und eine eigene begonnen. „Netzwerk wiederherstellen“ beendet jene.</translation>
     </message>
     <message>
@@ -1752,7 +1752,7 @@
         <translation>Der Administratorzugriff wurde verweigert, oder der Agent, der nach dem Passwort fragt, gab keine Antwort.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out, so Tor can&apos;t connect: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic, so Tor can&apos;t connect: %1.</source>
         <translation>Eine andere Firewall auf diesem Computer verwehrt ausgehende Verbindungen, daher kann Tor sich nicht verbinden: %1.</translation>
     </message>
     <message>
@@ -1808,11 +1808,11 @@
         <translation>%1 konnte nicht ohne Tor geöffnet werden: %2</translation>
     </message>
     <message>
-        <source>Another Veldmark of yours has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <source>Another Veldmark of yours has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
         <translation>Ein anderes Veldmark von Ihnen hat inzwischen eine Sitzung begonnen; es wurde nichts beendet. Trennen Sie noch einmal, um sie zu beenden.</translation>
     </message>
     <message>
-        <source>Another user&apos;s Veldmark has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <source>Another user&apos;s Veldmark has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
         <translation>Das Veldmark eines anderen Benutzers hat inzwischen eine Sitzung begonnen; es wurde nichts beendet. Trennen Sie noch einmal, um sie zu beenden.</translation>
     </message>
     <message>
@@ -1849,11 +1849,11 @@
     </message>
     <message>
         <source>Couldn&apos;t set up passwordless mode: %1</source>
-        <translation>Der Modus ohne Passwort konnte nicht eingerichtet werden: %1</translation>
+        <translation>Der Betrieb ohne Passwort konnte nicht eingerichtet werden: %1</translation>
     </message>
     <message>
         <source>Couldn&apos;t remove passwordless mode: %1</source>
-        <translation>Der Modus ohne Passwort konnte nicht entfernt werden: %1</translation>
+        <translation>Der Betrieb ohne Passwort konnte nicht entfernt werden: %1</translation>
     </message>
     <message>
         <source>ssh doesn&apos;t go through Tor yet: it needs a netcat that speaks SOCKS. Install one with: %1</source>
@@ -1888,7 +1888,7 @@
         <translation>Der Server hat nicht mit HTTP geantwortet.</translation>
     </message>
     <message>
-        <source>The connection was lost before the end.</source>
+        <source>The connection was lost before the download ended.</source>
         <translation>Die Verbindung ist vor dem Ende abgerissen.</translation>
     </message>
     <message>
@@ -1900,7 +1900,7 @@
         <translation>Tor hat die Steuerverbindung beendet.</translation>
     </message>
     <message>
-        <source>Another program than Tor listens on Tor&apos;s control port.</source>
+        <source>A program other than Tor listens on Tor&apos;s control port.</source>
         <translation>An Tors Steuerport lauscht ein anderes Programm als Tor.</translation>
     </message>
     <message>
@@ -1928,7 +1928,7 @@
         <translation>Nach den Rechten eines Administrators kann nicht gefragt werden: In dieser Sitzung läuft kein PolicyKit-Agent.</translation>
     </message>
     <message>
-        <source>The password could not be checked: polkit takes none from this terminal. Run it with sudo.</source>
+        <source>The password could not be checked: polkit accepts no password from this terminal. Run the command with sudo.</source>
         <translation>Das Passwort konnte nicht geprüft werden: polkit nimmt von diesem Terminal keines an. Nehmen Sie sudo.</translation>
     </message>
     <message>
@@ -2032,8 +2032,8 @@
         <translation>%1 wird schon geöffnet.</translation>
     </message>
     <message>
-        <source>A session is open, and its kill switch isn&apos;t closed: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
-        <translation>Eine Sitzung ist offen, und ihr Notschalter ist nicht geschlossen: Ihr Wächter konnte die Regeln nicht wiederherstellen. Daten können diesen Computer direkt verlassen. Stellen Sie das Netzwerk wieder her, und verbinden Sie neu.</translation>
+        <source>A session is open, and its kill switch doesn&apos;t block traffic: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
+        <translation>Eine Sitzung ist offen, und ihr Notschalter sperrt nicht: Ihr Wächter konnte die Regeln nicht wiederherstellen. Daten können diesen Computer direkt verlassen. Stellen Sie das Netzwerk wieder her, und verbinden Sie neu.</translation>
     </message>
     <message>
         <source>The clock is behind: it shows %1, but the file %2 was written on %3. Tor needs a clock that is right to within minutes.</source>
@@ -2044,7 +2044,7 @@
         <translation>Die Uhr wird über das Netz gestellt. Sie zeigt %1.</translation>
     </message>
     <message>
-        <source>Whether the clock is right isn&apos;t known: nothing is seen to set it from the network. It shows %1. Tor needs it right to within minutes.</source>
+        <source>It isn&apos;t known whether the clock is right: no time service seems to set it. It shows %1. Tor needs it right to within minutes.</source>
         <translation>Ob die Uhr richtig geht, ist nicht bekannt: Nichts ist zu sehen, das sie über das Netz stellt. Sie zeigt %1. Tor braucht sie auf Minuten genau.</translation>
     </message>
     <message>
@@ -2060,11 +2060,11 @@
         <translation>Die Firewall des Systems lässt sich nicht benutzen: %1</translation>
     </message>
     <message>
-        <source>The kernel that runs (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
+        <source>The running kernel (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
         <translation>Der laufende Kernel (%1) hat kein nftables. Starten Sie nach einer Aktualisierung des Kernels den Computer neu.</translation>
     </message>
     <message>
-        <source>nftables is installed. Whether the kernel that runs can use it is known to root only.</source>
+        <source>nftables is installed. Only root can tell whether the running kernel can use it.</source>
         <translation>nftables ist installiert. Ob der laufende Kernel es nutzen kann, weiß nur root.</translation>
     </message>
     <message>
@@ -2084,11 +2084,11 @@
         <translation>Anwendungen lassen sich ohne Tor öffnen: Kontrollgruppen der Version 2 sind da.</translation>
     </message>
     <message>
-        <source>No other firewall that is known by name runs. The rules themselves are known to root only.</source>
+        <source>No other firewall that Veldmark knows runs. Only root can read the rules themselves.</source>
         <translation>Keine andere dem Namen nach bekannte Firewall läuft. Die Regeln selbst kennt nur root.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out unless one of its rules allows it, so Tor may not get through: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic that its rules don&apos;t allow, so Tor may not get through: %1.</source>
         <translation>Eine andere Firewall auf diesem Computer verwehrt ausgehende Verbindungen, die keine ihrer Regeln erlaubt; Tor kommt womöglich nicht durch: %1.</translation>
     </message>
     <message>
@@ -2108,11 +2108,11 @@
         <translation>Hier ist keine Arbeitsfläche, auf der ein Fenster nach dem Administratorpasswort fragen könnte. Benutzen Sie sudo.</translation>
     </message>
     <message>
-        <source>No program that is known to ask for polkit&apos;s passwords (an agent) runs in your session. Without one, use sudo, or start an agent such as lxpolkit.</source>
+        <source>No known polkit agent, the program that asks for the password, runs in your session. Use sudo, or start an agent such as lxpolkit.</source>
         <translation>In Ihrer Sitzung läuft kein bekanntes Programm, das nach polkits Passwörtern fragt (ein Agent). Benutzen Sie ohne einen solchen sudo oder starten Sie einen Agenten wie lxpolkit.</translation>
     </message>
     <message>
-        <source>polkit is there, and a program that asks for its passwords runs in your session.</source>
+        <source>polkit is installed, and an agent that asks for the password runs in your session.</source>
         <translation>polkit ist da, und in Ihrer Sitzung läuft ein Programm, das nach seinen Passwörtern fragt.</translation>
     </message>
     <message>
@@ -2120,15 +2120,15 @@
         <translation>Veldmark läuft hier als root und fragt nach keinem Passwort.</translation>
     </message>
     <message>
-        <source>Connecting without a password is set up.</source>
-        <translation>Das Verbinden ohne Passwort ist eingerichtet.</translation>
+        <source>Passwordless mode is set up.</source>
+        <translation>Der Betrieb ohne Passwort ist eingerichtet.</translation>
     </message>
     <message>
-        <source>sudo isn&apos;t installed. Connecting without a password needs it.</source>
-        <translation>sudo ist nicht installiert. Das Verbinden ohne Passwort braucht es.</translation>
+        <source>sudo isn&apos;t installed. Passwordless mode needs it.</source>
+        <translation>sudo ist nicht installiert. Der Betrieb ohne Passwort braucht es.</translation>
     </message>
     <message>
-        <source>sudo is installed. Whether you may use it is known to root only.</source>
+        <source>sudo is installed. Only root can tell whether you may use it.</source>
         <translation>sudo ist installiert. Ob Sie es benutzen dürfen, weiß nur root.</translation>
     </message>
     <message>
@@ -2156,7 +2156,7 @@
         <translation>Die Ports, die Tor braucht (9050, 9051 und 293), sind frei.</translation>
     </message>
     <message>
-        <source>The location of Tor in the settings, %1, is no program that can run. The usual places are searched instead.</source>
+        <source>The location of Tor in the settings, %1, is not an executable program. Veldmark searches the usual places instead.</source>
         <translation>Der Ort von Tor in den Einstellungen, %1, ist kein ausführbares Programm. Stattdessen wird an den üblichen Orten gesucht.</translation>
     </message>
     <message>
@@ -2164,7 +2164,7 @@
         <translation>Tor ist nicht installiert.</translation>
     </message>
     <message>
-        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it doesn&apos;t tell its version.</source>
+        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it prints no version.</source>
         <translation>%1 startet nicht oder ist nicht Tor: Es nennt seine Version nicht.</translation>
     </message>
     <message>
@@ -2184,11 +2184,11 @@
         <translation>Veldmarks Helferskript fehlt. Installieren Sie Veldmark neu.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper, %1, lies where others than root can write. They can change it, and with it what the administrator&apos;s password runs.</source>
+        <source>Accounts other than root can change Veldmark&apos;s helper, %1, and with it what the administrator&apos;s password runs.</source>
         <translation>Veldmarks Helfer, %1, liegt, wo außer root noch andere schreiben können. Sie können ihn ändern und damit auch, was das Administratorpasswort ausführt.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper, %1, is not an installed one: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
+        <source>Veldmark&apos;s helper, %1, is not installed: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
         <translation>Veldmarks Helfer, %1, ist kein installierter: Das Konto %2 kann ihn ändern und damit auch, was das Administratorpasswort ausführt.</translation>
     </message>
     <message>
@@ -2196,11 +2196,11 @@
         <translation>Veldmarks Helfer ist installiert, und nur root kann ihn ändern: %1.</translation>
     </message>
     <message>
-        <source>The helper that runs without a password is not this version&apos;s. Set up connecting without a password again in Settings, General.</source>
-        <translation>Der Helfer, der ohne Passwort läuft, gehört nicht zu dieser Version. Richten Sie das Verbinden ohne Passwort in den Einstellungen unter Allgemein neu ein.</translation>
+        <source>The helper of passwordless mode belongs to another version. Set up passwordless mode again in Settings, General.</source>
+        <translation>Der Helfer des Betriebs ohne Passwort gehört zu einer anderen Version. Richten Sie den Betrieb ohne Passwort in den Einstellungen unter Allgemein neu ein.</translation>
     </message>
     <message>
-        <source>Bridges are off. Where Tor is blocked they need bridge programs, and none was found.</source>
+        <source>Bridges are off. Bridges need bridge programs where Tor is blocked, and none was found.</source>
         <translation>Brücken sind aus. Wo Tor gesperrt ist, brauchen sie Brückenprogramme, und es wurde keines gefunden.</translation>
     </message>
     <message>
@@ -2216,19 +2216,19 @@
         <translation>Die gewählten Brücken (%1) lassen sich benutzen: %2.</translation>
     </message>
     <message>
-        <source>Names are looked up as %1 says. Veldmark switches that over and back.</source>
+        <source>%1 manages DNS. Veldmark changes that while connected and restores it afterwards.</source>
         <translation>Namen werden aufgelöst, wie %1 es vorgibt. Veldmark stellt das um und zurück.</translation>
     </message>
     <message>
-        <source>%1 is Veldmark&apos;s. It names Tor as the name server.</source>
+        <source>Veldmark wrote %1. It points DNS at Tor.</source>
         <translation>%1 ist von Veldmark. Als Nameserver steht dort Tor.</translation>
     </message>
     <message>
-        <source>There is no file %1, so names may not be looked up at all.</source>
+        <source>The file %1 is missing, so DNS may not work at all.</source>
         <translation>Es gibt keine Datei %1, daher werden Namen vielleicht gar nicht aufgelöst.</translation>
     </message>
     <message>
-        <source>Names are looked up by a resolver on this computer. Veldmark switches that over and back.</source>
+        <source>A resolver on this computer answers DNS. Veldmark changes that while connected and restores it afterwards.</source>
         <translation>Namen löst ein Resolver auf diesem Computer auf. Veldmark stellt das um und zurück.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>Eine Sitzung ist offen: Das Netzwerk ist für Tor eingerichtet, und Tor läuft.</translation>
     </message>
     <message>
-        <source>The network is set up for Tor. Whether Tor still runs isn&apos;t known here.</source>
+        <source>The network is set up for Tor. It isn&apos;t known whether Tor still runs.</source>
         <translation>Das Netzwerk ist für Tor eingerichtet. Ob Tor noch läuft, ist hier nicht bekannt.</translation>
     </message>
     <message>
@@ -2252,8 +2252,8 @@
         <translation>Das Netzwerk ist noch von einer früheren Sitzung für Tor eingerichtet, und es läuft kein Tor. Verbinden Sie sich wieder oder stellen Sie das Netzwerk wieder her.</translation>
     </message>
     <message>
-        <source>A session is open, and it isn&apos;t known whether its kill switch stands: nobody watches over the rules. Restore the network, and connect again.</source>
-        <translation>Eine Sitzung ist offen, und ob ihr Notschalter geschlossen ist, ist nicht bekannt: Niemand wacht über die Regeln. Stellen Sie das Netzwerk wieder her, und verbinden Sie neu.</translation>
+        <source>A session is open, and it isn&apos;t known whether its kill switch blocks traffic: no watcher watches the rules. Restore the network, and connect again.</source>
+        <translation>Eine Sitzung ist offen, und ob ihr Notschalter sperrt, ist nicht bekannt: Kein Wächter beobachtet die Regeln. Stellen Sie das Netzwerk wieder her, und verbinden Sie neu.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -2268,7 +2268,7 @@
         <translation>%1 von %2 MB (%3 %)</translation>
     </message>
     <message>
-        <source>Veldmark needs administrator access to manage Tor routing on this computer. The system&apos;s own Tor service, where it runs, is stopped meanwhile.</source>
+        <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
         <translation>Veldmark braucht die Rechte eines Administrators, um den Weg durch Tor auf diesem Computer zu verwalten. Der Tor-Dienst des Systems wird solange angehalten, wenn er läuft.</translation>
     </message>
     <message>
@@ -2276,7 +2276,7 @@
         <translation>Veldmark braucht die Rechte eines Administrators, um den Weg durch Tor auf diesem Mac zu verwalten.</translation>
     </message>
     <message>
-        <source>The archive holds %1: %2</source>
+        <source>The archive contains %1: %2</source>
         <translation>Im Archiv ist %1: %2</translation>
     </message>
     <message>
@@ -2288,7 +2288,7 @@
         <translation>ein harter Verweis</translation>
     </message>
     <message>
-        <source>what is neither file nor folder</source>
+        <source>an entry that is neither a file nor a folder</source>
         <translation>etwas, das weder Datei noch Ordner ist</translation>
     </message>
     <message>
@@ -2296,15 +2296,15 @@
         <translation>ein Pfad, der nach außerhalb führt</translation>
     </message>
     <message>
-        <source>The archive is empty or no archive.</source>
+        <source>The file is empty or not an archive.</source>
         <translation>Das Archiv ist leer oder gar kein Archiv.</translation>
     </message>
     <message>
-        <source>The archive&apos;s list of files is not clear.</source>
+        <source>The archive&apos;s list of files is ambiguous.</source>
         <translation>Das Inhaltsverzeichnis des Archivs ist nicht eindeutig.</translation>
     </message>
     <message>
-        <source>The archive holds too many files.</source>
+        <source>The archive contains too many files.</source>
         <translation>Im Archiv sind zu viele Dateien.</translation>
     </message>
     <message>
@@ -2392,7 +2392,7 @@
         <translation>%1 braucht einen Schlüssel und einen Wert: veldmarkctl %1 KEY VALUE.</translation>
     </message>
     <message>
-        <source>What should I do? &quot;veldmarkctl help&quot; lists the commands.</source>
+        <source>A command is missing. &quot;veldmarkctl help&quot; lists the commands.</source>
         <translation>Was soll geschehen? „veldmarkctl help“ zählt die Befehle auf.</translation>
     </message>
     <message>
@@ -2434,7 +2434,7 @@
         <translation>nicht gefunden</translation>
     </message>
     <message>
-        <source>doesn&apos;t say what it serves</source>
+        <source>doesn&apos;t say which transports it serves</source>
         <translation>sagt nicht, was es bietet</translation>
     </message>
     <message>
@@ -2514,7 +2514,7 @@
         <translation>Eine Verbindung ist noch nicht möglich.</translation>
     </message>
     <message>
-        <source>A connect can&apos;t work before each &quot;problem&quot; is mended.</source>
+        <source>A connect can&apos;t work until each &quot;problem&quot; is fixed.</source>
         <translation>Eine Verbindung ist erst möglich, wenn jedes „Problem“ behoben ist.</translation>
     </message>
     <message>
@@ -2530,20 +2530,20 @@
         <translation>strikt</translation>
     </message>
     <message>
-        <source>stands, since %1</source>
-        <translation>steht, seit %1</translation>
+        <source>blocks traffic, since %1</source>
+        <translation>sperrt, seit %1</translation>
     </message>
     <message>
-        <source>stands; put back at %1 after another program had removed it</source>
-        <translation>steht; um %1 wiederhergestellt, nachdem ein anderes Programm ihn entfernt hatte</translation>
+        <source>blocks traffic; put back at %1 after another program had removed it</source>
+        <translation>sperrt; um %1 wiederhergestellt, nachdem ein anderes Programm ihn entfernt hatte</translation>
     </message>
     <message>
-        <source>OPEN since %1: traffic may leave this computer directly</source>
-        <translation>OFFEN seit %1: Daten können diesen Computer direkt verlassen</translation>
+        <source>NOT BLOCKING since %1: traffic may leave this computer directly</source>
+        <translation>SPERRT NICHT seit %1: Daten können diesen Computer direkt verlassen</translation>
     </message>
     <message>
-        <source>isn&apos;t known to stand, since %1</source>
-        <translation>nicht bekannt, ob er steht, seit %1</translation>
+        <source>isn&apos;t known to block traffic, since %1</source>
+        <translation>nicht bekannt, ob er sperrt, seit %1</translation>
     </message>
     <message>
         <source>not checked yet</source>
@@ -2570,11 +2570,11 @@
         <translation>gesperrt</translation>
     </message>
     <message>
-        <source>no answer, but the kill switch isn&apos;t known to close it</source>
+        <source>no answer, but it isn&apos;t known whether the kill switch blocks it</source>
         <translation>keine Antwort, aber es ist nicht bekannt, ob der Notschalter ihn sperrt</translation>
     </message>
     <message>
-        <source>no answer, but proxy mode doesn&apos;t close it</source>
+        <source>no answer, but proxy mode doesn&apos;t block it</source>
         <translation>keine Antwort, aber der Proxy-Modus sperrt ihn nicht</translation>
     </message>
     <message>
@@ -2582,7 +2582,7 @@
         <translation>wird geprüft …</translation>
     </message>
     <message>
-        <source>couldn&apos;t be told</source>
+        <source>inconclusive</source>
         <translation>ließ sich nicht sagen</translation>
     </message>
     <message>
@@ -2718,11 +2718,11 @@
         <translation>„%1“ ist weder true noch false.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no JSON array of strings.</source>
+        <source>&quot;%1&quot; is not a JSON array of strings.</source>
         <translation>„%1“ ist kein JSON-Array von Zeichenketten.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no bridge choice: off, obfs4, snowflake, meek or custom.</source>
+        <source>&quot;%1&quot; is not a bridge choice: off, obfs4, snowflake, meek or custom.</source>
         <translation>„%1“ ist keine Wahl von Brücken: off, obfs4, snowflake, meek oder custom.</translation>
     </message>
     <message>
@@ -2734,15 +2734,15 @@
         <translation>Tor hat die Verbindung nicht innerhalb von 5 Minuten aufgebaut. (%1)</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
+        <source>&quot;%1&quot; is not an exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
         <translation>„%1“ ist kein Ausgangsland: zwei Kleinbuchstaben wie „de“, oder nichts für ein beliebiges.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no application: an absolute path that ends in &quot;%2&quot;.</source>
+        <source>&quot;%1&quot; is not an application: an absolute path that ends in &quot;%2&quot;.</source>
         <translation>„%1“ ist keine Anwendung: Es muss ein absoluter Pfad sein, der auf „%2“ endet.</translation>
     </message>
     <message>
-        <source>the kill switch, else proxy mode</source>
+        <source>strict mode with the kill switch, else proxy mode</source>
         <translation>der Notschalter, sonst der Proxy-Modus</translation>
     </message>
     <message>
@@ -2754,7 +2754,7 @@
         <translation>zwei Kleinbuchstaben, oder nichts für ein beliebiges</translation>
     </message>
     <message>
-        <source>the tor to use, or nothing to search for it</source>
+        <source>the path of the tor to use, or nothing to search for tor</source>
         <translation>das tor, das benutzt wird, oder nichts, um es zu suchen</translation>
     </message>
     <message>
@@ -2794,7 +2794,7 @@
         <translation>„set“ braucht einen „key“ und einen „value“, beides Zeichenketten.</translation>
     </message>
     <message>
-        <source>Already connected, or on the way; &quot;veldmarkctl status&quot; says more.</source>
+        <source>Already connected or connecting; &quot;veldmarkctl status&quot; says more.</source>
         <translation>Schon verbunden oder dabei; „veldmarkctl status“ sagt mehr.</translation>
     </message>
     <message>
@@ -2870,7 +2870,7 @@
         <translation>bis Strg-C fortfahren</translation>
     </message>
     <message>
-        <source>how things stand; --watch goes on until Ctrl-C</source>
+        <source>print the connection&apos;s state; --watch goes on until Ctrl-C</source>
         <translation>der Stand der Dinge; --watch fährt bis Strg-C fort</translation>
     </message>
     <message>
@@ -2882,7 +2882,7 @@
         <translation>das Netzwerk wiederherstellen und Tor beenden</translation>
     </message>
     <message>
-        <source>the same, also for what a crash left behind</source>
+        <source>restore the network and stop Tor, also after a crash</source>
         <translation>ebenso, auch nach einem Absturz</translation>
     </message>
     <message>
@@ -2898,7 +2898,7 @@
         <translation>Tors Kanäle und die Seiten darauf</translation>
     </message>
     <message>
-        <source>close one; its sites get a fresh path on their next request</source>
+        <source>close a circuit; its sites get a fresh path on their next request</source>
         <translation>einen schließen; seine Seiten bekommen beim nächsten Abruf einen neuen Weg</translation>
     </message>
     <message>
@@ -2944,8 +2944,8 @@ eines Eintrags oder Programms. Laufende Kopien werden vorher zum Beenden aufgefo
         <translation>launch braucht eine Anwendung; „veldmarkctl apps“ zählt sie auf.</translation>
     </message>
     <message>
-        <source>look at this computer: what a connect needs, what is in its way, and what
-mends it. Changes nothing; ends with 0 when a connect can work</source>
+        <source>check what a connect needs on this computer, what blocks it and how to fix
+it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>diesen Computer ansehen: was eine Verbindung braucht, was ihr im Weg steht und
 was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</translation>
     </message>
@@ -3014,11 +3014,11 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Das Programm wird gerade beendet.</translation>
     </message>
     <message>
-        <source>The strict session that is running is replaced, and may protect you less.</source>
+        <source>Veldmark replaces the running strict session. The new session may protect you less.</source>
         <translation>Die laufende strikte Sitzung wird ersetzt und schützt Sie vielleicht weniger.</translation>
     </message>
     <message>
-        <source>Veldmark wants to run %1 as a part of Tor. No package of the system brought it. Its SHA-256 is %2.</source>
+        <source>Veldmark wants to run %1 as a part of Tor. No package of the system installed it. Its SHA-256 is %2.</source>
         <translation>Veldmark will %1 als Teil von Tor ausführen. Kein Paket des Systems hat es gebracht. Seine SHA-256-Summe ist %2.</translation>
     </message>
     <message>
@@ -3070,7 +3070,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Um %1 zuzulassen, ist das Passwort eines Administrators nötig.</translation>
     </message>
     <message>
-        <source>An administrator password is needed to change the strict session that is running.</source>
+        <source>An administrator password is needed to change the running strict session.</source>
         <translation>Um die laufende strikte Sitzung zu ändern, ist das Passwort eines Administrators nötig.</translation>
     </message>
     <message>
@@ -3082,7 +3082,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Um dies einzurichten, ist das Passwort eines Administrators nötig.</translation>
     </message>
     <message>
-        <source>Another program (process %1) has begun a session since. It was left alone.</source>
+        <source>Another program (process %1) has started a session meanwhile. That session was left alone.</source>
         <translation>Ein anderes Programm (Prozess %1) hat inzwischen eine Sitzung begonnen. Sie blieb unberührt.</translation>
     </message>
     <message>
@@ -3094,7 +3094,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Als root werden keine Anwendungen geöffnet.</translation>
     </message>
     <message>
-        <source>Applications can be opened for the user who asks only.</source>
+        <source>The helper opens applications only for the user who asks.</source>
         <translation>Anwendungen können nur für den Benutzer geöffnet werden, der darum bittet.</translation>
     </message>
     <message>
@@ -3106,12 +3106,12 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Es wurden mehr als %1 Brücken angegeben.</translation>
     </message>
     <message>
-        <source>Only the user who asks can be let in.</source>
+        <source>Passwordless mode can be set up only for the user who asks.</source>
         <translation>Nur der Benutzer, der darum bittet, kann zugelassen werden.</translation>
     </message>
     <message>
-        <source>Somebody else is changing the firewall. Try again in a moment.</source>
-        <translation>Jemand anders ändert gerade die Firewall. Versuchen Sie es gleich noch einmal.</translation>
+        <source>Another program is changing the firewall. Try again in a moment.</source>
+        <translation>Ein anderes Programm ändert gerade die Firewall. Versuchen Sie es gleich noch einmal.</translation>
     </message>
     <message>
         <source>The DNS servers of systemd-resolved cannot be changed.</source>
@@ -3144,6 +3144,10 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
     <message>
         <source>The caller&apos;s user id is not a number.</source>
         <translation>Die Benutzernummer des Aufrufers ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>The control group for Tor cannot be made.</source>
+        <translation>Die Kontrollgruppe für Tor kann nicht angelegt werden.</translation>
     </message>
     <message>
         <source>The control group of the applications without Tor could not be removed.</source>
@@ -3186,7 +3190,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Die Dateien in %1 können nicht entfernt werden.</translation>
     </message>
     <message>
-        <source>The firewall cannot be looked at, so nothing was done.</source>
+        <source>The firewall rules cannot be read, so nothing was done.</source>
         <translation>Die Firewall lässt sich nicht ansehen, also wurde nichts getan.</translation>
     </message>
     <message>
@@ -3194,16 +3198,16 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Die Firewall kann nicht eingeschaltet werden (%1).</translation>
     </message>
     <message>
-        <source>The firewall cannot end the connections from before.</source>
+        <source>The firewall cannot end the earlier connections.</source>
         <translation>Die Firewall kann die früheren Verbindungen nicht beenden.</translation>
     </message>
     <message>
-        <source>The firewall could not be opened (%1).</source>
-        <translation>Die Firewall konnte nicht geöffnet werden (%1).</translation>
+        <source>The kill switch could not be switched off (%1).</source>
+        <translation>Der Notschalter konnte nicht ausgeschaltet werden (%1).</translation>
     </message>
     <message>
-        <source>The firewall could not be opened, because somebody is changing it.</source>
-        <translation>Die Firewall konnte nicht geöffnet werden, weil jemand sie gerade ändert.</translation>
+        <source>The kill switch could not be switched off, because another program is changing the firewall.</source>
+        <translation>Der Notschalter konnte nicht ausgeschaltet werden, weil ein anderes Programm gerade die Firewall ändert.</translation>
     </message>
     <message>
         <source>The firewall does not hold the rules that were loaded.</source>
@@ -3266,11 +3270,11 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Die Ordner über dem von Veldmark sind nicht sicher: Sie dürfen nur root gehören und nur von root beschrieben werden.</translation>
     </message>
     <message>
-        <source>The folders below %1 cannot be looked at, so nothing was done.</source>
+        <source>The folders below %1 cannot be read, so nothing was done.</source>
         <translation>Die Ordner unter %1 lassen sich nicht ansehen, also wurde nichts getan.</translation>
     </message>
     <message>
-        <source>The folders below %1 cannot be looked at.</source>
+        <source>The folders below %1 cannot be read.</source>
         <translation>Die Ordner unter %1 lassen sich nicht ansehen.</translation>
     </message>
     <message>
@@ -3306,8 +3310,8 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Das Journal kann nicht geschrieben werden.</translation>
     </message>
     <message>
-        <source>The kill switch is not on, so there is nothing to open the application past.</source>
-        <translation>Der Notschalter ist nicht an; die Anwendung braucht nicht an ihm vorbei geöffnet zu werden.</translation>
+        <source>The kill switch is not on, so no application needs to bypass it.</source>
+        <translation>Der Notschalter ist nicht an, daher braucht ihn keine Anwendung zu umgehen.</translation>
     </message>
     <message>
         <source>The launcher could not be copied to %1.</source>
@@ -3422,7 +3426,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Der mit --app angegebene Pfad nennt keine Anwendung.</translation>
     </message>
     <message>
-        <source>The port %1, which Tor needs, is held by %2. End that, then connect again.</source>
+        <source>The port %1, which Tor needs, is held by %2. End that program, then connect again.</source>
         <translation>Den Port %1, den Tor braucht, hat %2. Beenden Sie das, und verbinden Sie dann neu.</translation>
     </message>
     <message>
@@ -3450,7 +3454,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Das Programm %1 fehlt auf diesem System.</translation>
     </message>
     <message>
-        <source>The program %1 is not the one that was to be approved.</source>
+        <source>The SHA-256 of the program %1 is not the one to approve.</source>
         <translation>Das Programm %1 ist nicht das, welches zugelassen werden sollte.</translation>
     </message>
     <message>
@@ -3538,11 +3542,11 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Der Befehl uninstall-privileged hat keine Optionen.</translation>
     </message>
     <message>
-        <source>The watcher over the firewall could not be started.</source>
+        <source>The watcher of the firewall rules could not be started.</source>
         <translation>Der Wächter über die Firewall konnte nicht gestartet werden.</translation>
     </message>
     <message>
-        <source>The watcher over the firewall could not be stopped.</source>
+        <source>The watcher of the firewall rules could not be stopped.</source>
         <translation>Der Wächter über die Firewall konnte nicht angehalten werden.</translation>
     </message>
     <message>
@@ -3658,7 +3662,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>nft scheitert.</translation>
     </message>
     <message>
-        <source>Ended without its display. Your network is still set up for Tor: start Veldmark again, or restore it with: %1</source>
+        <source>Ended because the display is gone. Your network is still set up for Tor: start Veldmark again, or restore the network with: %1</source>
         <translation>Ohne Bildschirm beendet. Ihr Netzwerk ist noch auf Tor eingestellt: Starten Sie Veldmark noch einmal, oder stellen Sie es wieder her mit: %1</translation>
     </message>
     <message>
@@ -3670,7 +3674,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Das Netzwerk ist wieder offen, aber das Loopback-Gerät ließ sich nicht wie vorher einstellen. Versuchen Sie: ethtool -K lo %1 on.</translation>
     </message>
     <message>
-        <source>Applications are not told apart on this system.</source>
+        <source>This system can&apos;t tell applications apart.</source>
         <translation>Anwendungen werden auf diesem System nicht unterschieden.</translation>
     </message>
     <message>
@@ -3690,11 +3694,11 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Keine Ihrer Anwendungen hat diese Identität; „veldmarkctl identities“ zählt sie auf.</translation>
     </message>
     <message>
-        <source>The application has not got another identity.</source>
+        <source>The application did not get a new identity.</source>
         <translation>Die Anwendung hat keine andere Identität bekommen.</translation>
     </message>
     <message>
-        <source>The program has not got an identity of its own, so it was not started.</source>
+        <source>The program did not get an identity of its own, so it was not started.</source>
         <translation>Das Programm hat keine eigene Identität bekommen und wurde darum nicht gestartet.</translation>
     </message>
     <message>
@@ -3702,7 +3706,7 @@ was es behebt. Ändert nichts; endet mit 0, wenn eine Verbindung möglich ist</t
         <translation>Ein Name hat bis zu 40 Buchstaben, Ziffern, Punkte und Unterstriche.</translation>
     </message>
     <message>
-        <source>The program systemd-run is missing, which makes groups for programs.</source>
+        <source>The program systemd-run is missing. Veldmark needs it to make a group for a program.</source>
         <translation>Das Programm systemd-run fehlt, das Gruppen für Programme anlegt.</translation>
     </message>
     <message>
@@ -3752,15 +3756,15 @@ hat es in derselben Sitzung später dieselben</translation>
         <translation>Der Wert von --separate muss 0 oder 1 sein.</translation>
     </message>
     <message>
-        <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
+        <source>No package of the system installed %1. The next connect asks an administrator to approve it.</source>
         <translation>Kein Paket des Systems hat %1 gebracht. Beim nächsten Verbinden wird ein Administrator um seine Zustimmung dazu gebeten.</translation>
     </message>
     <message>
-        <source>Whether a connect can work isn&apos;t known.</source>
+        <source>It isn&apos;t known whether a connect can work.</source>
         <translation>Ob eine Verbindung möglich ist, ist nicht bekannt.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
         <translation>Eine andere Firewall auf diesem Computer verwehrt ausgehende Verbindungen, und keine ihrer Regeln erlaubt eine; Tor kommt daher nicht durch: %1.</translation>
     </message>
 </context>

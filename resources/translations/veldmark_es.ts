@@ -544,7 +544,7 @@
         <translation>Buscar la causa</translation>
     </message>
     <message>
-        <source>Looks at this computer: what a connection needs, what is in its way, and what mends it</source>
+        <source>Checks what a connection needs on this computer, what blocks it and how to fix it</source>
         <translation>Examinar este equipo: qué necesita la conexión, qué la impide y cómo se resuelve</translation>
     </message>
     <message>
@@ -769,7 +769,7 @@
         <translation>Cada aplicación tiene circuitos propios</translation>
     </message>
     <message>
-        <source>Sites cannot tell by the exit address that two applications are yours. Applications are told apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with all of their login session or account.</source>
+        <source>Sites cannot tell by the exit address that two applications are yours. Veldmark tells applications apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with the rest of their login session or account.</source>
         <translation>Por la dirección de salida, los sitios no pueden saber que dos aplicaciones son suyas. Las aplicaciones se distinguen cuando el escritorio inicia cada una en un grupo de control propio, como hacen GNOME y KDE. Los demás programas comparten circuitos con toda la sesión de usuario o la cuenta a la que pertenecen.</translation>
     </message>
 </context>
@@ -821,7 +821,7 @@
         <translation>Otro programa quitó las reglas de Veldmark del cortafuegos; ya están puestas de nuevo.</translation>
     </message>
     <message>
-        <source>The kill switch is open. Open Veldmark, disconnect and connect again.</source>
+        <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
         <translation>El bloqueo de emergencia no tiene efecto. Abra Veldmark, desconéctese y vuelva a conectarse.</translation>
     </message>
     <message>
@@ -829,8 +829,8 @@
         <translation>El bloqueo de emergencia no está vigilado</translation>
     </message>
     <message>
-        <source>It can&apos;t be told whether it stands. Open Veldmark, disconnect and connect again.</source>
-        <translation>No se puede saber si tiene efecto. Abra Veldmark, desconéctese y vuelva a conectarse.</translation>
+        <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Open Veldmark, disconnect and connect again.</source>
+        <translation>No se puede saber si el bloqueo de emergencia tiene efecto. Abra Veldmark, desconéctese y vuelva a conectarse.</translation>
     </message>
 </context>
 <context>
@@ -840,7 +840,7 @@
         <translation>Veldmark</translation>
     </message>
     <message>
-        <source>A window could not be made. Your network is not affected; to restore it without Veldmark, run:
+        <source>Veldmark could not open a window. Your network is not affected. To restore it without Veldmark, run:
 %1
 
 %2</source>
@@ -862,7 +862,7 @@
         <translation>Su red sigue configurada para Tor</translation>
     </message>
     <message>
-        <source>Veldmark was told to end and could not restore it. Open Veldmark again to do so.</source>
+        <source>Veldmark had to close and could not restore the network. Open Veldmark again to restore it.</source>
         <translation>Se pidió a Veldmark que terminara y no pudo restaurarla. Abra Veldmark de nuevo para hacerlo.</translation>
     </message>
 </context>
@@ -939,7 +939,7 @@
         <translation> · haga clic en un repetidor o un sitio para seguirlo</translation>
     </message>
     <message>
-        <source>Leads to an onion service, which meets it at its last relay</source>
+        <source>Leads to an onion service. The last relay is the meeting point.</source>
         <translation>Lleva a un servicio onion; ambos se encuentran en el último repetidor del circuito</translation>
     </message>
     <message>
@@ -998,7 +998,7 @@
         <translation>Nota</translation>
     </message>
     <message>
-        <source>In order</source>
+        <source>OK</source>
         <translation>En orden</translation>
     </message>
     <message>
@@ -1014,15 +1014,15 @@
         <translation>Examinando este equipo…</translation>
     </message>
     <message>
-        <source>Nothing was found out.</source>
+        <source>The check gave no result.</source>
         <translation>No se pudo averiguar nada.</translation>
     </message>
     <message>
-        <source>Nothing was found that keeps Veldmark from connecting.</source>
+        <source>No problem was found that keeps Veldmark from connecting.</source>
         <translation>No se encontró nada que impida a Veldmark conectarse.</translation>
     </message>
     <message>
-        <source>Veldmark can&apos;t connect before each problem is mended.</source>
+        <source>Veldmark can&apos;t connect until each problem is fixed.</source>
         <translation>Veldmark no puede conectarse hasta que se resuelva cada problema.</translation>
     </message>
 </context>
@@ -1089,7 +1089,7 @@
         <translation>Mostrar los archivos de registro en el gestor de archivos</translation>
     </message>
     <message>
-        <source>There are no log files yet: Tor makes %1 when it is first started.</source>
+        <source>There are no log files yet. Tor creates %1 when it first starts.</source>
         <translation>Aún no hay archivos de registro: Tor crea %1 cuando se inicia por primera vez.</translation>
     </message>
     <message>
@@ -1173,11 +1173,11 @@
     </message>
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the Dock) so Veldmark can tag them. A running copy is quit and reopened.</source>
-        <translation>En modo estricto, estas aplicaciones pueden conectarse directamente en vez de por Tor, con su dirección IP real. Todo lo demás sigue bloqueado. Ábralas con &lt;b&gt;Abrir sin Tor&lt;/b&gt; (no desde el Dock) para que Veldmark pueda marcarlas. Si una ya está abierta, se cierra y se vuelve a abrir.</translation>
+        <translation>En modo estricto, estas aplicaciones pueden conectarse directamente en vez de por Tor, con su dirección IP real. Todo lo demás sigue pasando solo por Tor. Ábralas con &lt;b&gt;Abrir sin Tor&lt;/b&gt; (no desde el Dock) para que Veldmark pueda marcarlas. Si una ya está abierta, se cierra y se vuelve a abrir.</translation>
     </message>
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the desktop&apos;s menu) so Veldmark can tag them. A running copy is quit and reopened.</source>
-        <translation>En modo estricto, estas aplicaciones pueden conectarse directamente en vez de por Tor, con su dirección IP real. Todo lo demás sigue bloqueado. Ábralas con &lt;b&gt;Abrir sin Tor&lt;/b&gt; (no desde el menú del escritorio) para que Veldmark pueda marcarlas. Si una ya está abierta, se cierra y se vuelve a abrir.</translation>
+        <translation>En modo estricto, estas aplicaciones pueden conectarse directamente en vez de por Tor, con su dirección IP real. Todo lo demás sigue pasando solo por Tor. Ábralas con &lt;b&gt;Abrir sin Tor&lt;/b&gt; (no desde el menú del escritorio) para que Veldmark pueda marcarlas. Si una ya está abierta, se cierra y se vuelve a abrir.</translation>
     </message>
 </context>
 <context>
@@ -1187,11 +1187,11 @@
         <translation>Sin respuesta</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but the kill switch isn&apos;t known to close that path</source>
+        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>Una conexión directa, sin pasar por Tor, no obtuvo respuesta, pero no consta que el bloqueo de emergencia cierre esa vía</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t close that path</source>
+        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>Una conexión directa, sin pasar por Tor, no obtuvo respuesta, pero el modo proxy no cierra esa vía</translation>
     </message>
     <message>
@@ -1408,7 +1408,7 @@
 <context>
     <name>veldmark::Text</name>
     <message>
-        <source>Tor hasn&apos;t confirmed that it is on the network again, so nothing may get through. Veldmark goes on telling it to; else disconnect and connect again.</source>
+        <source>Tor hasn&apos;t confirmed that it uses the network again, so traffic may not get through. Veldmark keeps telling Tor to. If this lasts, disconnect and connect again.</source>
         <translation>Tor no ha confirmado que vuelve a estar en la red, así que puede que no pase ningún tráfico. Veldmark se lo sigue pidiendo; si no basta, desconéctese y vuelva a conectarse.</translation>
     </message>
     <message>
@@ -1416,7 +1416,7 @@
         <translation>Se ofrece la versión %1, anterior a la instalada, %2. No se cambió nada.</translation>
     </message>
     <message>
-        <source>What came as version %1 is another one, so it was discarded.</source>
+        <source>The download of version %1 contains another version, so it was discarded.</source>
         <translation>Lo que llegó como versión %1 es otra, así que se descartó.</translation>
     </message>
     <message>
@@ -1424,11 +1424,11 @@
         <translation>La descarga volverá a empezar cuando Tor esté conectado…</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no place for Tor: give the whole path, such as /usr/bin/tor.</source>
+        <source>&quot;%1&quot; is not a location of Tor. Give an absolute path, such as /usr/bin/tor.</source>
         <translation>«%1» no es una ubicación de Tor: indique la ruta completa, como /usr/bin/tor.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; holds for the whole connection. Disconnect to change it.</source>
+        <source>&quot;%1&quot; can&apos;t be changed during a connection. Disconnect to change it.</source>
         <translation>«%1» vale para toda la conexión. Desconéctese para cambiarlo.</translation>
     </message>
     <message>
@@ -1485,11 +1485,11 @@
     </message>
     <message>
         <source>Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor dejó de funcionar. El bloqueo de emergencia sigue cortando el tráfico, así que no hubo fugas. Reconecte, o use «Restaurar la red» para volver a tener conexión.</translation>
+        <translation>Tor dejó de funcionar. El bloqueo de emergencia sigue cortando el tráfico, así que no hubo fugas. Reconecte, o use «Restaurar la red» para volver a tener conexión sin Tor.</translation>
     </message>
     <message>
-        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks have seen some go around Tor. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor dejó de funcionar. El bloqueo de emergencia sigue cortando el tráfico, pero las últimas comprobaciones vieron que una parte salía sin pasar por Tor. Reconecte, o use «Restaurar la red» para volver a tener conexión.</translation>
+        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks saw traffic go around Tor. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>Tor dejó de funcionar. El bloqueo de emergencia sigue cortando el tráfico, pero las últimas comprobaciones vieron que una parte salía sin pasar por Tor. Reconecte, o use «Restaurar la red» para volver a tener conexión sin Tor.</translation>
     </message>
     <message>
         <source>Tor stopped running. Apps using the proxy can&apos;t connect until you reconnect or Restore Network.</source>
@@ -1592,19 +1592,19 @@
         <translation>Tor dejó de funcionar y su red ya no está configurada para él.</translation>
     </message>
     <message>
-        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor dejó de funcionar. El bloqueo de emergencia vuelve a cortar el tráfico, pero otro programa había quitado sus reglas durante un tiempo. Reconecte, o use «Restaurar la red» para volver a tener conexión.</translation>
+        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>Tor dejó de funcionar. El bloqueo de emergencia vuelve a cortar el tráfico, pero otro programa había quitado sus reglas durante un tiempo. Reconecte, o use «Restaurar la red» para volver a tener conexión sin Tor.</translation>
     </message>
     <message>
-        <source>Tor stopped running, and the kill switch is open: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
+        <source>Tor stopped running, and the kill switch doesn&apos;t block traffic: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
         <translation>Tor dejó de funcionar y el bloqueo de emergencia no tiene efecto: otro programa quitó sus reglas. El tráfico puede salir directamente de este equipo. Reconecte o use «Restaurar la red».</translation>
     </message>
     <message>
-        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor dejó de funcionar y no se sabe si el bloqueo de emergencia sigue cortando el tráfico. Reconecte, o use «Restaurar la red» para volver a tener conexión.</translation>
+        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>Tor dejó de funcionar y no se sabe si el bloqueo de emergencia sigue cortando el tráfico. Reconecte, o use «Restaurar la red» para volver a tener conexión sin Tor.</translation>
     </message>
     <message>
-        <source>The watcher over Veldmark&apos;s firewall rules has stopped telling, so it isn&apos;t known whether the kill switch stands. Disconnect and connect again.</source>
+        <source>The watcher of Veldmark&apos;s firewall rules has stopped reporting, so it isn&apos;t known whether the kill switch blocks traffic. Disconnect and connect again.</source>
         <translation>El vigilante de las reglas de Veldmark en el cortafuegos ha dejado de informar, así que no se sabe si el bloqueo de emergencia tiene efecto. Desconéctese y vuelva a conectarse.</translation>
     </message>
     <message>
@@ -1636,7 +1636,7 @@
         <translation>Fuga de DNS</translation>
     </message>
     <message>
-        <source>Kill Switch Open</source>
+        <source>Kill Switch Failed</source>
         <translation>Bloqueo sin efecto</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>Su dirección real es visible. Desconéctese o repita la prueba de fugas.</translation>
     </message>
     <message>
-        <source>It can&apos;t be told whether the kill switch stands. Disconnect and connect again.</source>
+        <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Disconnect and connect again.</source>
         <translation>No se puede saber si el bloqueo de emergencia tiene efecto. Desconéctese y vuelva a conectarse.</translation>
     </message>
     <message>
@@ -1676,7 +1676,7 @@
         <translation>El tráfico no pasa</translation>
     </message>
     <message>
-        <source>This computer has no network. Nothing gets out around Tor meanwhile.</source>
+        <source>This computer has no network. Traffic around Tor stays blocked.</source>
         <translation>Este equipo no tiene red. Mientras tanto, nada sale sin pasar por Tor.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>Este equipo no tiene red. Veldmark continuará cuando la recupere.</translation>
     </message>
     <message>
-        <source>Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile.</source>
+        <source>Tor has no working circuit and keeps trying. Traffic around Tor stays blocked.</source>
         <translation>Tor no tiene ningún circuito que funcione y lo sigue intentando. Mientras tanto, nada sale sin pasar por Tor.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>Tor no tiene ningún circuito que funcione y lo sigue intentando.</translation>
     </message>
     <message>
-        <source>Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile.</source>
+        <source>Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked.</source>
         <translation>Tor no recibe respuesta de la red y lo sigue intentando. Mientras tanto, nada sale sin pasar por Tor.</translation>
     </message>
     <message>
@@ -1700,7 +1700,7 @@
         <translation>Tor no recibe respuesta de la red y lo sigue intentando.</translation>
     </message>
     <message>
-        <source>Another program has ended this session and begun one of its own. Restore Network ends that one.</source>
+        <source>Another program has ended this session and started its own. Restore Network ends that session.</source>
         <translation>Otro programa terminó esta sesión y comenzó una propia. «Restaurar la red» termina esa.</translation>
     </message>
     <message>
@@ -1752,7 +1752,7 @@
         <translation>Se denegó el acceso de administrador, o el agente que pide la contraseña no respondió.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out, so Tor can&apos;t connect: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic, so Tor can&apos;t connect: %1.</source>
         <translation>Otro cortafuegos de este equipo impide las conexiones salientes, así que Tor no puede conectarse: %1.</translation>
     </message>
     <message>
@@ -1808,11 +1808,11 @@
         <translation>No se pudo abrir %1 sin Tor: %2</translation>
     </message>
     <message>
-        <source>Another Veldmark of yours has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <source>Another Veldmark of yours has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
         <translation>Otro Veldmark suyo ha iniciado una sesión entretanto, así que no se terminó nada. Desconéctese de nuevo para terminarla.</translation>
     </message>
     <message>
-        <source>Another user&apos;s Veldmark has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <source>Another user&apos;s Veldmark has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
         <translation>El Veldmark de otro usuario ha iniciado una sesión entretanto, así que no se terminó nada. Desconéctese de nuevo para terminarla.</translation>
     </message>
     <message>
@@ -1888,7 +1888,7 @@
         <translation>El servidor no dio una respuesta HTTP.</translation>
     </message>
     <message>
-        <source>The connection was lost before the end.</source>
+        <source>The connection was lost before the download ended.</source>
         <translation>La conexión se perdió antes de terminar.</translation>
     </message>
     <message>
@@ -1900,7 +1900,7 @@
         <translation>Tor cerró la conexión de control.</translation>
     </message>
     <message>
-        <source>Another program than Tor listens on Tor&apos;s control port.</source>
+        <source>A program other than Tor listens on Tor&apos;s control port.</source>
         <translation>En el puerto de control de Tor escucha otro programa que no es Tor.</translation>
     </message>
     <message>
@@ -1928,7 +1928,7 @@
         <translation>No se puede solicitar acceso de administrador: en esta sesión no se ejecuta ningún agente de autenticación de PolicyKit.</translation>
     </message>
     <message>
-        <source>The password could not be checked: polkit takes none from this terminal. Run it with sudo.</source>
+        <source>The password could not be checked: polkit accepts no password from this terminal. Run the command with sudo.</source>
         <translation>No se pudo comprobar la contraseña: polkit no acepta ninguna desde este terminal. Ejecútelo con sudo.</translation>
     </message>
     <message>
@@ -2032,7 +2032,7 @@
         <translation>%1 ya se está abriendo.</translation>
     </message>
     <message>
-        <source>A session is open, and its kill switch isn&apos;t closed: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
+        <source>A session is open, and its kill switch doesn&apos;t block traffic: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
         <translation>Hay una sesión abierta y su bloqueo de emergencia no tiene efecto: su vigilante no pudo volver a poner las reglas. El tráfico puede salir directamente de este equipo. Restaure la red y vuelva a conectarse.</translation>
     </message>
     <message>
@@ -2044,7 +2044,7 @@
         <translation>El reloj se ajusta por la red. Marca %1.</translation>
     </message>
     <message>
-        <source>Whether the clock is right isn&apos;t known: nothing is seen to set it from the network. It shows %1. Tor needs it right to within minutes.</source>
+        <source>It isn&apos;t known whether the clock is right: no time service seems to set it. It shows %1. Tor needs it right to within minutes.</source>
         <translation>No se sabe si el reloj es correcto: no se ve nada que lo ajuste por la red. Marca %1. Tor necesita que no se desvíe más de unos minutos.</translation>
     </message>
     <message>
@@ -2060,11 +2060,11 @@
         <translation>El cortafuegos del sistema no se puede usar: %1</translation>
     </message>
     <message>
-        <source>The kernel that runs (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
+        <source>The running kernel (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
         <translation>El núcleo en ejecución (%1) no tiene nftables. Tras actualizar el núcleo, reinicie el equipo.</translation>
     </message>
     <message>
-        <source>nftables is installed. Whether the kernel that runs can use it is known to root only.</source>
+        <source>nftables is installed. Only root can tell whether the running kernel can use it.</source>
         <translation>nftables está instalado. Solo root sabe si el núcleo en ejecución puede usarlo.</translation>
     </message>
     <message>
@@ -2084,11 +2084,11 @@
         <translation>Se pueden abrir aplicaciones sin Tor: hay grupos de control de la versión 2.</translation>
     </message>
     <message>
-        <source>No other firewall that is known by name runs. The rules themselves are known to root only.</source>
+        <source>No other firewall that Veldmark knows runs. Only root can read the rules themselves.</source>
         <translation>No está en marcha ningún otro cortafuegos conocido por su nombre. Las reglas mismas solo las conoce root.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out unless one of its rules allows it, so Tor may not get through: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic that its rules don&apos;t allow, so Tor may not get through: %1.</source>
         <translation>Otro cortafuegos de este equipo impide toda conexión saliente que sus reglas no permitan, así que Tor quizá no logre pasar: %1.</translation>
     </message>
     <message>
@@ -2108,11 +2108,11 @@
         <translation>Aquí no hay un escritorio en el que una ventana pueda pedir la contraseña de administrador. Use sudo.</translation>
     </message>
     <message>
-        <source>No program that is known to ask for polkit&apos;s passwords (an agent) runs in your session. Without one, use sudo, or start an agent such as lxpolkit.</source>
+        <source>No known polkit agent, the program that asks for the password, runs in your session. Use sudo, or start an agent such as lxpolkit.</source>
         <translation>En su sesión no se ejecuta ningún programa conocido que pida las contraseñas de polkit (un agente). Sin él, use sudo o inicie un agente como lxpolkit.</translation>
     </message>
     <message>
-        <source>polkit is there, and a program that asks for its passwords runs in your session.</source>
+        <source>polkit is installed, and an agent that asks for the password runs in your session.</source>
         <translation>polkit está disponible y en su sesión se ejecuta un programa que pide sus contraseñas.</translation>
     </message>
     <message>
@@ -2120,15 +2120,15 @@
         <translation>Veldmark se ejecuta aquí como root y no pide contraseña.</translation>
     </message>
     <message>
-        <source>Connecting without a password is set up.</source>
-        <translation>La conexión sin contraseña está configurada.</translation>
+        <source>Passwordless mode is set up.</source>
+        <translation>El modo sin contraseña está configurado.</translation>
     </message>
     <message>
-        <source>sudo isn&apos;t installed. Connecting without a password needs it.</source>
-        <translation>sudo no está instalado. La conexión sin contraseña lo necesita.</translation>
+        <source>sudo isn&apos;t installed. Passwordless mode needs it.</source>
+        <translation>sudo no está instalado. El modo sin contraseña lo necesita.</translation>
     </message>
     <message>
-        <source>sudo is installed. Whether you may use it is known to root only.</source>
+        <source>sudo is installed. Only root can tell whether you may use it.</source>
         <translation>sudo está instalado. Solo root sabe si usted puede usarlo.</translation>
     </message>
     <message>
@@ -2156,7 +2156,7 @@
         <translation>Los puertos que Tor necesita (9050, 9051 y 293) están libres.</translation>
     </message>
     <message>
-        <source>The location of Tor in the settings, %1, is no program that can run. The usual places are searched instead.</source>
+        <source>The location of Tor in the settings, %1, is not an executable program. Veldmark searches the usual places instead.</source>
         <translation>La ubicación de Tor en la configuración, %1, no es un programa ejecutable. Se busca en los lugares habituales.</translation>
     </message>
     <message>
@@ -2164,7 +2164,7 @@
         <translation>Tor no está instalado.</translation>
     </message>
     <message>
-        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it doesn&apos;t tell its version.</source>
+        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it prints no version.</source>
         <translation>%1 no arranca o no es Tor: no indica su versión.</translation>
     </message>
     <message>
@@ -2184,11 +2184,11 @@
         <translation>Falta el script auxiliar de Veldmark. Vuelva a instalar Veldmark.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper, %1, lies where others than root can write. They can change it, and with it what the administrator&apos;s password runs.</source>
+        <source>Accounts other than root can change Veldmark&apos;s helper, %1, and with it what the administrator&apos;s password runs.</source>
         <translation>El programa auxiliar de Veldmark, %1, está en un lugar donde pueden escribir otros además de root. Pueden cambiarlo y, con ello, lo que se ejecuta con la contraseña de administrador.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper, %1, is not an installed one: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
+        <source>Veldmark&apos;s helper, %1, is not installed: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
         <translation>El programa auxiliar de Veldmark, %1, no es uno instalado: la cuenta %2 puede cambiarlo y, con ello, lo que se ejecuta con la contraseña de administrador.</translation>
     </message>
     <message>
@@ -2196,11 +2196,11 @@
         <translation>El programa auxiliar de Veldmark está instalado y solo root puede cambiarlo: %1.</translation>
     </message>
     <message>
-        <source>The helper that runs without a password is not this version&apos;s. Set up connecting without a password again in Settings, General.</source>
-        <translation>El programa auxiliar que se ejecuta sin contraseña no es el de esta versión. Vuelva a configurar la conexión sin contraseña en Configuración, General.</translation>
+        <source>The helper of passwordless mode belongs to another version. Set up passwordless mode again in Settings, General.</source>
+        <translation>El programa auxiliar del modo sin contraseña es de otra versión. Vuelva a configurar el modo sin contraseña en Configuración, General.</translation>
     </message>
     <message>
-        <source>Bridges are off. Where Tor is blocked they need bridge programs, and none was found.</source>
+        <source>Bridges are off. Bridges need bridge programs where Tor is blocked, and none was found.</source>
         <translation>Los puentes están desactivados. Donde Tor está bloqueado, necesitan programas de puente, y no se encontró ninguno.</translation>
     </message>
     <message>
@@ -2216,19 +2216,19 @@
         <translation>Los puentes elegidos (%1) se pueden usar: %2.</translation>
     </message>
     <message>
-        <source>Names are looked up as %1 says. Veldmark switches that over and back.</source>
+        <source>%1 manages DNS. Veldmark changes that while connected and restores it afterwards.</source>
         <translation>Los nombres se resuelven según %1. Veldmark lo cambia y después lo restablece.</translation>
     </message>
     <message>
-        <source>%1 is Veldmark&apos;s. It names Tor as the name server.</source>
+        <source>Veldmark wrote %1. It points DNS at Tor.</source>
         <translation>%1 es de Veldmark. Indica Tor como servidor de nombres.</translation>
     </message>
     <message>
-        <source>There is no file %1, so names may not be looked up at all.</source>
+        <source>The file %1 is missing, so DNS may not work at all.</source>
         <translation>No existe el archivo %1, así que puede que los nombres no se resuelvan en absoluto.</translation>
     </message>
     <message>
-        <source>Names are looked up by a resolver on this computer. Veldmark switches that over and back.</source>
+        <source>A resolver on this computer answers DNS. Veldmark changes that while connected and restores it afterwards.</source>
         <translation>Los nombres los resuelve un programa de este equipo. Veldmark lo cambia y después lo restablece.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>Hay una sesión abierta: la red está configurada para Tor y Tor está en marcha.</translation>
     </message>
     <message>
-        <source>The network is set up for Tor. Whether Tor still runs isn&apos;t known here.</source>
+        <source>The network is set up for Tor. It isn&apos;t known whether Tor still runs.</source>
         <translation>La red está configurada para Tor. Aquí no se sabe si Tor sigue funcionando.</translation>
     </message>
     <message>
@@ -2252,8 +2252,8 @@
         <translation>La red sigue configurada para Tor desde una sesión anterior y no hay ningún Tor en marcha. Vuelva a conectarse o restaure la red.</translation>
     </message>
     <message>
-        <source>A session is open, and it isn&apos;t known whether its kill switch stands: nobody watches over the rules. Restore the network, and connect again.</source>
-        <translation>Hay una sesión abierta y no se sabe si su bloqueo de emergencia tiene efecto: nadie vigila las reglas. Restaure la red y vuelva a conectarse.</translation>
+        <source>A session is open, and it isn&apos;t known whether its kill switch blocks traffic: no watcher watches the rules. Restore the network, and connect again.</source>
+        <translation>Hay una sesión abierta y no se sabe si su bloqueo de emergencia tiene efecto: ningún vigilante vigila las reglas. Restaure la red y vuelva a conectarse.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -2268,7 +2268,7 @@
         <translation>%1 de %2 MB (%3 %)</translation>
     </message>
     <message>
-        <source>Veldmark needs administrator access to manage Tor routing on this computer. The system&apos;s own Tor service, where it runs, is stopped meanwhile.</source>
+        <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
         <translation>Veldmark necesita acceso de administrador para gestionar el encaminamiento por Tor en este equipo. Mientras tanto se detiene el servicio Tor del propio sistema, si está en marcha.</translation>
     </message>
     <message>
@@ -2276,7 +2276,7 @@
         <translation>Veldmark necesita acceso de administrador para gestionar el encaminamiento por Tor en este Mac.</translation>
     </message>
     <message>
-        <source>The archive holds %1: %2</source>
+        <source>The archive contains %1: %2</source>
         <translation>El archivo comprimido contiene %1: %2</translation>
     </message>
     <message>
@@ -2288,7 +2288,7 @@
         <translation>un enlace duro</translation>
     </message>
     <message>
-        <source>what is neither file nor folder</source>
+        <source>an entry that is neither a file nor a folder</source>
         <translation>algo que no es ni archivo ni carpeta</translation>
     </message>
     <message>
@@ -2296,15 +2296,15 @@
         <translation>una ruta que lleva fuera</translation>
     </message>
     <message>
-        <source>The archive is empty or no archive.</source>
+        <source>The file is empty or not an archive.</source>
         <translation>El archivo está vacío o no es un archivo comprimido.</translation>
     </message>
     <message>
-        <source>The archive&apos;s list of files is not clear.</source>
+        <source>The archive&apos;s list of files is ambiguous.</source>
         <translation>La lista del contenido del archivo comprimido no es clara.</translation>
     </message>
     <message>
-        <source>The archive holds too many files.</source>
+        <source>The archive contains too many files.</source>
         <translation>El archivo comprimido contiene demasiados archivos.</translation>
     </message>
     <message>
@@ -2392,7 +2392,7 @@
         <translation>%1 necesita una clave y un valor: veldmarkctl %1 KEY VALUE.</translation>
     </message>
     <message>
-        <source>What should I do? &quot;veldmarkctl help&quot; lists the commands.</source>
+        <source>A command is missing. &quot;veldmarkctl help&quot; lists the commands.</source>
         <translation>¿Qué hay que hacer? «veldmarkctl help» muestra los comandos.</translation>
     </message>
     <message>
@@ -2434,7 +2434,7 @@
         <translation>no encontrado</translation>
     </message>
     <message>
-        <source>doesn&apos;t say what it serves</source>
+        <source>doesn&apos;t say which transports it serves</source>
         <translation>no indica qué ofrece</translation>
     </message>
     <message>
@@ -2514,7 +2514,7 @@
         <translation>La conexión aún no es posible.</translation>
     </message>
     <message>
-        <source>A connect can&apos;t work before each &quot;problem&quot; is mended.</source>
+        <source>A connect can&apos;t work until each &quot;problem&quot; is fixed.</source>
         <translation>La conexión no es posible hasta que se resuelva cada «problema».</translation>
     </message>
     <message>
@@ -2530,19 +2530,19 @@
         <translation>estricto</translation>
     </message>
     <message>
-        <source>stands, since %1</source>
+        <source>blocks traffic, since %1</source>
         <translation>en vigor, desde %1</translation>
     </message>
     <message>
-        <source>stands; put back at %1 after another program had removed it</source>
+        <source>blocks traffic; put back at %1 after another program had removed it</source>
         <translation>en vigor; restablecido (%1) después de que otro programa lo quitara</translation>
     </message>
     <message>
-        <source>OPEN since %1: traffic may leave this computer directly</source>
+        <source>NOT BLOCKING since %1: traffic may leave this computer directly</source>
         <translation>SIN EFECTO desde %1: el tráfico puede salir directamente de este equipo</translation>
     </message>
     <message>
-        <source>isn&apos;t known to stand, since %1</source>
+        <source>isn&apos;t known to block traffic, since %1</source>
         <translation>desde %1 no se sabe si está en vigor</translation>
     </message>
     <message>
@@ -2570,11 +2570,11 @@
         <translation>bloqueada</translation>
     </message>
     <message>
-        <source>no answer, but the kill switch isn&apos;t known to close it</source>
+        <source>no answer, but it isn&apos;t known whether the kill switch blocks it</source>
         <translation>sin respuesta, pero no consta que el bloqueo de emergencia la cierre</translation>
     </message>
     <message>
-        <source>no answer, but proxy mode doesn&apos;t close it</source>
+        <source>no answer, but proxy mode doesn&apos;t block it</source>
         <translation>sin respuesta, pero el modo proxy no la cierra</translation>
     </message>
     <message>
@@ -2582,7 +2582,7 @@
         <translation>comprobando…</translation>
     </message>
     <message>
-        <source>couldn&apos;t be told</source>
+        <source>inconclusive</source>
         <translation>no se pudo determinar</translation>
     </message>
     <message>
@@ -2718,11 +2718,11 @@
         <translation>«%1» no es ni true ni false.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no JSON array of strings.</source>
+        <source>&quot;%1&quot; is not a JSON array of strings.</source>
         <translation>«%1» no es un array JSON de cadenas.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no bridge choice: off, obfs4, snowflake, meek or custom.</source>
+        <source>&quot;%1&quot; is not a bridge choice: off, obfs4, snowflake, meek or custom.</source>
         <translation>«%1» no es una opción de puentes: off, obfs4, snowflake, meek o custom.</translation>
     </message>
     <message>
@@ -2734,15 +2734,15 @@
         <translation>Tor no terminó de conectarse en 5 minutos. (%1)</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
+        <source>&quot;%1&quot; is not an exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
         <translation>«%1» no es un país de salida: dos letras minúsculas, como «de», o nada para cualquiera.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no application: an absolute path that ends in &quot;%2&quot;.</source>
+        <source>&quot;%1&quot; is not an application: an absolute path that ends in &quot;%2&quot;.</source>
         <translation>«%1» no es una aplicación: se espera una ruta absoluta que termine en «%2».</translation>
     </message>
     <message>
-        <source>the kill switch, else proxy mode</source>
+        <source>strict mode with the kill switch, else proxy mode</source>
         <translation>el bloqueo de emergencia; si no, el modo proxy</translation>
     </message>
     <message>
@@ -2754,7 +2754,7 @@
         <translation>dos letras minúsculas, o nada para cualquiera</translation>
     </message>
     <message>
-        <source>the tor to use, or nothing to search for it</source>
+        <source>the path of the tor to use, or nothing to search for tor</source>
         <translation>el tor que se usa, o nada para buscarlo</translation>
     </message>
     <message>
@@ -2794,7 +2794,7 @@
         <translation>«set» necesita «key» y «value», ambos de tipo cadena.</translation>
     </message>
     <message>
-        <source>Already connected, or on the way; &quot;veldmarkctl status&quot; says more.</source>
+        <source>Already connected or connecting; &quot;veldmarkctl status&quot; says more.</source>
         <translation>Ya está conectado o conectándose; «veldmarkctl status» dice más.</translation>
     </message>
     <message>
@@ -2870,7 +2870,7 @@
         <translation>continuar hasta Ctrl-C</translation>
     </message>
     <message>
-        <source>how things stand; --watch goes on until Ctrl-C</source>
+        <source>print the connection&apos;s state; --watch goes on until Ctrl-C</source>
         <translation>el estado actual; --watch continúa hasta Ctrl-C</translation>
     </message>
     <message>
@@ -2882,7 +2882,7 @@
         <translation>restaurar la red y detener Tor</translation>
     </message>
     <message>
-        <source>the same, also for what a crash left behind</source>
+        <source>restore the network and stop Tor, also after a crash</source>
         <translation>lo mismo, también para lo que dejó un cierre inesperado</translation>
     </message>
     <message>
@@ -2898,7 +2898,7 @@
         <translation>los circuitos de Tor y sus sitios</translation>
     </message>
     <message>
-        <source>close one; its sites get a fresh path on their next request</source>
+        <source>close a circuit; its sites get a fresh path on their next request</source>
         <translation>cerrar uno; sus sitios tendrán una ruta nueva en su próxima solicitud</translation>
     </message>
     <message>
@@ -2944,8 +2944,8 @@ o la ruta de una entrada o programa; pide antes a las copias abiertas cerrarse</
         <translation>launch necesita una aplicación; «veldmarkctl apps» las muestra.</translation>
     </message>
     <message>
-        <source>look at this computer: what a connect needs, what is in its way, and what
-mends it. Changes nothing; ends with 0 when a connect can work</source>
+        <source>check what a connect needs on this computer, what blocks it and how to fix
+it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>examinar este equipo: qué necesita una conexión, qué la impide y cómo se
 resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
     </message>
@@ -3014,11 +3014,11 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>El programa se está cerrando.</translation>
     </message>
     <message>
-        <source>The strict session that is running is replaced, and may protect you less.</source>
+        <source>Veldmark replaces the running strict session. The new session may protect you less.</source>
         <translation>Se reemplaza la sesión estricta en curso, y la protección puede ser menor.</translation>
     </message>
     <message>
-        <source>Veldmark wants to run %1 as a part of Tor. No package of the system brought it. Its SHA-256 is %2.</source>
+        <source>Veldmark wants to run %1 as a part of Tor. No package of the system installed it. Its SHA-256 is %2.</source>
         <translation>Veldmark quiere ejecutar %1 como parte de Tor. No procede de ningún paquete del sistema. Su SHA-256 es %2.</translation>
     </message>
     <message>
@@ -3070,7 +3070,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>Se necesita una contraseña de administrador para aprobar %1.</translation>
     </message>
     <message>
-        <source>An administrator password is needed to change the strict session that is running.</source>
+        <source>An administrator password is needed to change the running strict session.</source>
         <translation>Se necesita una contraseña de administrador para cambiar la sesión estricta en curso.</translation>
     </message>
     <message>
@@ -3082,7 +3082,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>Se necesita una contraseña de administrador para configurar esto.</translation>
     </message>
     <message>
-        <source>Another program (process %1) has begun a session since. It was left alone.</source>
+        <source>Another program (process %1) has started a session meanwhile. That session was left alone.</source>
         <translation>Otro programa (proceso %1) ha iniciado una sesión entretanto. No se tocó.</translation>
     </message>
     <message>
@@ -3094,7 +3094,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>Las aplicaciones no se abren como root.</translation>
     </message>
     <message>
-        <source>Applications can be opened for the user who asks only.</source>
+        <source>The helper opens applications only for the user who asks.</source>
         <translation>Solo se pueden abrir aplicaciones para el usuario que lo pide.</translation>
     </message>
     <message>
@@ -3106,12 +3106,12 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>Se indicaron más de %1 puentes.</translation>
     </message>
     <message>
-        <source>Only the user who asks can be let in.</source>
+        <source>Passwordless mode can be set up only for the user who asks.</source>
         <translation>Solo se puede dar acceso al usuario que lo pide.</translation>
     </message>
     <message>
-        <source>Somebody else is changing the firewall. Try again in a moment.</source>
-        <translation>Alguien más está cambiando el cortafuegos. Inténtelo de nuevo en un momento.</translation>
+        <source>Another program is changing the firewall. Try again in a moment.</source>
+        <translation>Otro programa está cambiando el cortafuegos. Inténtelo de nuevo en un momento.</translation>
     </message>
     <message>
         <source>The DNS servers of systemd-resolved cannot be changed.</source>
@@ -3144,6 +3144,10 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
     <message>
         <source>The caller&apos;s user id is not a number.</source>
         <translation>El id de usuario del solicitante no es un número.</translation>
+    </message>
+    <message>
+        <source>The control group for Tor cannot be made.</source>
+        <translation>No se puede crear el grupo de control para Tor.</translation>
     </message>
     <message>
         <source>The control group of the applications without Tor could not be removed.</source>
@@ -3186,7 +3190,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>No se pueden quitar los archivos de %1.</translation>
     </message>
     <message>
-        <source>The firewall cannot be looked at, so nothing was done.</source>
+        <source>The firewall rules cannot be read, so nothing was done.</source>
         <translation>No se puede examinar el cortafuegos, así que no se hizo nada.</translation>
     </message>
     <message>
@@ -3194,16 +3198,16 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>No se puede activar el cortafuegos (%1).</translation>
     </message>
     <message>
-        <source>The firewall cannot end the connections from before.</source>
+        <source>The firewall cannot end the earlier connections.</source>
         <translation>El cortafuegos no puede cortar las conexiones anteriores.</translation>
     </message>
     <message>
-        <source>The firewall could not be opened (%1).</source>
-        <translation>No se pudo abrir el cortafuegos (%1).</translation>
+        <source>The kill switch could not be switched off (%1).</source>
+        <translation>No se pudo desactivar el bloqueo de emergencia (%1).</translation>
     </message>
     <message>
-        <source>The firewall could not be opened, because somebody is changing it.</source>
-        <translation>No se pudo abrir el cortafuegos, porque alguien lo está cambiando.</translation>
+        <source>The kill switch could not be switched off, because another program is changing the firewall.</source>
+        <translation>No se pudo desactivar el bloqueo de emergencia, porque otro programa está cambiando el cortafuegos.</translation>
     </message>
     <message>
         <source>The firewall does not hold the rules that were loaded.</source>
@@ -3266,11 +3270,11 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>Las carpetas superiores a la de Veldmark no son seguras: deben pertenecer solo a root y solo root debe poder escribir en ellas.</translation>
     </message>
     <message>
-        <source>The folders below %1 cannot be looked at, so nothing was done.</source>
+        <source>The folders below %1 cannot be read, so nothing was done.</source>
         <translation>No se pueden examinar las carpetas dentro de %1, así que no se hizo nada.</translation>
     </message>
     <message>
-        <source>The folders below %1 cannot be looked at.</source>
+        <source>The folders below %1 cannot be read.</source>
         <translation>No se pueden examinar las carpetas dentro de %1.</translation>
     </message>
     <message>
@@ -3306,8 +3310,8 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>No se puede escribir el diario.</translation>
     </message>
     <message>
-        <source>The kill switch is not on, so there is nothing to open the application past.</source>
-        <translation>El bloqueo de emergencia no está activado, así que no hay nada que la aplicación tenga que eludir.</translation>
+        <source>The kill switch is not on, so no application needs to bypass it.</source>
+        <translation>El bloqueo de emergencia no está activado, así que ninguna aplicación necesita eludirlo.</translation>
     </message>
     <message>
         <source>The launcher could not be copied to %1.</source>
@@ -3422,7 +3426,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>La ruta indicada con --app no corresponde a ninguna aplicación.</translation>
     </message>
     <message>
-        <source>The port %1, which Tor needs, is held by %2. End that, then connect again.</source>
+        <source>The port %1, which Tor needs, is held by %2. End that program, then connect again.</source>
         <translation>El puerto %1, que Tor necesita, lo ocupa %2. Ciérrelo y vuelva a conectarse.</translation>
     </message>
     <message>
@@ -3450,7 +3454,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>Falta el programa %1 en este sistema.</translation>
     </message>
     <message>
-        <source>The program %1 is not the one that was to be approved.</source>
+        <source>The SHA-256 of the program %1 is not the one to approve.</source>
         <translation>El programa %1 no es el que se iba a aprobar.</translation>
     </message>
     <message>
@@ -3538,11 +3542,11 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>El comando uninstall-privileged no admite opciones.</translation>
     </message>
     <message>
-        <source>The watcher over the firewall could not be started.</source>
+        <source>The watcher of the firewall rules could not be started.</source>
         <translation>No se pudo iniciar el vigilante del cortafuegos.</translation>
     </message>
     <message>
-        <source>The watcher over the firewall could not be stopped.</source>
+        <source>The watcher of the firewall rules could not be stopped.</source>
         <translation>No se pudo detener el vigilante del cortafuegos.</translation>
     </message>
     <message>
@@ -3658,7 +3662,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>nft falla.</translation>
     </message>
     <message>
-        <source>Ended without its display. Your network is still set up for Tor: start Veldmark again, or restore it with: %1</source>
+        <source>Ended because the display is gone. Your network is still set up for Tor: start Veldmark again, or restore the network with: %1</source>
         <translation>Terminado al quedarse sin pantalla. Su red sigue configurada para Tor: inicie Veldmark de nuevo o restáurela con: %1</translation>
     </message>
     <message>
@@ -3670,7 +3674,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>La red vuelve a estar abierta, pero el dispositivo loopback no se pudo configurar como antes. Pruebe: ethtool -K lo %1 on.</translation>
     </message>
     <message>
-        <source>Applications are not told apart on this system.</source>
+        <source>This system can&apos;t tell applications apart.</source>
         <translation>En este sistema no se distinguen las aplicaciones.</translation>
     </message>
     <message>
@@ -3690,11 +3694,11 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>Ninguna aplicación suya tiene esa identidad; «veldmarkctl identities» las muestra.</translation>
     </message>
     <message>
-        <source>The application has not got another identity.</source>
+        <source>The application did not get a new identity.</source>
         <translation>La aplicación no obtuvo otra identidad.</translation>
     </message>
     <message>
-        <source>The program has not got an identity of its own, so it was not started.</source>
+        <source>The program did not get an identity of its own, so it was not started.</source>
         <translation>El programa no obtuvo una identidad propia, así que no se inició.</translation>
     </message>
     <message>
@@ -3702,7 +3706,7 @@ resuelve. No cambia nada; termina con 0 si la conexión es posible</translation>
         <translation>Un nombre tiene hasta 40 letras, dígitos, puntos y guiones bajos.</translation>
     </message>
     <message>
-        <source>The program systemd-run is missing, which makes groups for programs.</source>
+        <source>The program systemd-run is missing. Veldmark needs it to make a group for a program.</source>
         <translation>Falta el programa systemd-run, que crea grupos para programas.</translation>
     </message>
     <message>
@@ -3752,15 +3756,15 @@ el mismo nombre en la misma sesión, tiene los mismos</translation>
         <translation>El valor de --separate debe ser 0 o 1.</translation>
     </message>
     <message>
-        <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
+        <source>No package of the system installed %1. The next connect asks an administrator to approve it.</source>
         <translation>%1 no procede de ningún paquete del sistema. En la próxima conexión se pide a un administrador que lo apruebe.</translation>
     </message>
     <message>
-        <source>Whether a connect can work isn&apos;t known.</source>
+        <source>It isn&apos;t known whether a connect can work.</source>
         <translation>No se sabe si la conexión es posible.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
         <translation>Otro cortafuegos de este equipo impide las conexiones salientes y ninguna de sus reglas permite nada, así que Tor no puede pasar: %1.</translation>
     </message>
 </context>

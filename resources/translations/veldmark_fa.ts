@@ -544,7 +544,7 @@
         <translation>یافتن علت</translation>
     </message>
     <message>
-        <source>Looks at this computer: what a connection needs, what is in its way, and what mends it</source>
+        <source>Checks what a connection needs on this computer, what blocks it and how to fix it</source>
         <translation>این رایانه را بررسی می‌کند: اتصال چه لازم دارد، چه چیزی مانع آن است و آن مانع چگونه برطرف می‌شود</translation>
     </message>
     <message>
@@ -769,7 +769,7 @@
         <translation>هر برنامه مدارهای خودش را دارد</translation>
     </message>
     <message>
-        <source>Sites cannot tell by the exit address that two applications are yours. Applications are told apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with all of their login session or account.</source>
+        <source>Sites cannot tell by the exit address that two applications are yours. Veldmark tells applications apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with the rest of their login session or account.</source>
         <translation>سایت‌ها از روی نشانی خروجی نمی‌توانند بفهمند که دو برنامه هر دو از آنِ شماست. برنامه‌ها جایی از هم بازشناخته می‌شوند که میزکار هر کدام را در گروه کنترلی جداگانه‌ای شروع کند، چنان‌که GNOME و KDE می‌کنند. برنامه‌های دیگر با همهٔ نشست ورود یا حساب خود مدارهای مشترک دارند.</translation>
     </message>
 </context>
@@ -821,7 +821,7 @@
         <translation>برنامهٔ دیگری قاعده‌های دیوار آتش Veldmark را برداشت؛ این قاعده‌ها دوباره برقرارند.</translation>
     </message>
     <message>
-        <source>The kill switch is open. Open Veldmark, disconnect and connect again.</source>
+        <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
         <translation>کیل‌سوییچ مسدود نمی‌کند. Veldmark را باز کنید، اتصال را قطع کنید و دوباره وصل شوید.</translation>
     </message>
     <message>
@@ -829,7 +829,7 @@
         <translation>کیل‌سوییچ زیر نظر نیست</translation>
     </message>
     <message>
-        <source>It can&apos;t be told whether it stands. Open Veldmark, disconnect and connect again.</source>
+        <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Open Veldmark, disconnect and connect again.</source>
         <translation>معلوم نیست کیل‌سوییچ برقرار است یا نه. Veldmark را باز کنید، اتصال را قطع کنید و دوباره وصل شوید.</translation>
     </message>
 </context>
@@ -840,7 +840,7 @@
         <translation>Veldmark</translation>
     </message>
     <message>
-        <source>A window could not be made. Your network is not affected; to restore it without Veldmark, run:
+        <source>Veldmark could not open a window. Your network is not affected. To restore it without Veldmark, run:
 %1
 
 %2</source>
@@ -862,7 +862,7 @@
         <translation>شبکهٔ شما هنوز برای Tor تنظیم است</translation>
     </message>
     <message>
-        <source>Veldmark was told to end and could not restore it. Open Veldmark again to do so.</source>
+        <source>Veldmark had to close and could not restore the network. Open Veldmark again to restore it.</source>
         <translation>از Veldmark خواسته شد پایان یابد و نتوانست شبکه را بازگرداند. برای این کار Veldmark را دوباره باز کنید.</translation>
     </message>
 </context>
@@ -939,7 +939,7 @@
         <translation> · برای دنبال کردن یک رله یا سایت، روی آن کلیک کنید</translation>
     </message>
     <message>
-        <source>Leads to an onion service, which meets it at its last relay</source>
+        <source>Leads to an onion service. The last relay is the meeting point.</source>
         <translation>به یک سرویس پیازی می‌رسد؛ آن سرویس در آخرین رلهٔ این مدار به آن می‌پیوندد</translation>
     </message>
     <message>
@@ -998,7 +998,7 @@
         <translation>نکته</translation>
     </message>
     <message>
-        <source>In order</source>
+        <source>OK</source>
         <translation>درست</translation>
     </message>
     <message>
@@ -1014,15 +1014,15 @@
         <translation>بررسی این رایانه…</translation>
     </message>
     <message>
-        <source>Nothing was found out.</source>
+        <source>The check gave no result.</source>
         <translation>چیزی معلوم نشد.</translation>
     </message>
     <message>
-        <source>Nothing was found that keeps Veldmark from connecting.</source>
+        <source>No problem was found that keeps Veldmark from connecting.</source>
         <translation>چیزی که مانع اتصال Veldmark شود پیدا نشد.</translation>
     </message>
     <message>
-        <source>Veldmark can&apos;t connect before each problem is mended.</source>
+        <source>Veldmark can&apos;t connect until each problem is fixed.</source>
         <translation>تا همهٔ مشکل‌ها برطرف نشوند، Veldmark نمی‌تواند وصل شود.</translation>
     </message>
 </context>
@@ -1089,7 +1089,7 @@
         <translation>نمایش پرونده‌های گزارش در مدیر پرونده</translation>
     </message>
     <message>
-        <source>There are no log files yet: Tor makes %1 when it is first started.</source>
+        <source>There are no log files yet. Tor creates %1 when it first starts.</source>
         <translation>هنوز پروندهٔ گزارشی نیست: Tor پوشهٔ ⁨%1⁩ را هنگام نخستین شروع می‌سازد.</translation>
     </message>
     <message>
@@ -1173,11 +1173,11 @@
     </message>
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the Dock) so Veldmark can tag them. A running copy is quit and reopened.</source>
-        <translation>در حالت سخت‌گیرانه، این برنامه‌ها می‌توانند به جای Tor مستقیم و با نشانی IP واقعی شما وصل شوند. هر چیز دیگر قفل می‌ماند. آن‌ها را با &lt;b&gt;باز کردن بدون Tor&lt;/b&gt; باز کنید (نه از Dock) تا Veldmark بتواند نشان‌دارشان کند. اگر برنامه در حال اجرا باشد، بسته و دوباره باز می‌شود.</translation>
+        <translation>در حالت سخت‌گیرانه، این برنامه‌ها می‌توانند به جای Tor مستقیم و با نشانی IP واقعی شما وصل شوند. هر چیز دیگر همچنان فقط از Tor می‌گذرد. آن‌ها را با &lt;b&gt;باز کردن بدون Tor&lt;/b&gt; باز کنید (نه از Dock) تا Veldmark بتواند نشان‌دارشان کند. اگر برنامه در حال اجرا باشد، بسته و دوباره باز می‌شود.</translation>
     </message>
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the desktop&apos;s menu) so Veldmark can tag them. A running copy is quit and reopened.</source>
-        <translation>در حالت سخت‌گیرانه، این برنامه‌ها می‌توانند به جای Tor مستقیم و با نشانی IP واقعی شما وصل شوند. هر چیز دیگر قفل می‌ماند. آن‌ها را با &lt;b&gt;باز کردن بدون Tor&lt;/b&gt; باز کنید (نه از منوی میزکار) تا Veldmark بتواند نشان‌دارشان کند. اگر برنامه در حال اجرا باشد، بسته و دوباره باز می‌شود.</translation>
+        <translation>در حالت سخت‌گیرانه، این برنامه‌ها می‌توانند به جای Tor مستقیم و با نشانی IP واقعی شما وصل شوند. هر چیز دیگر همچنان فقط از Tor می‌گذرد. آن‌ها را با &lt;b&gt;باز کردن بدون Tor&lt;/b&gt; باز کنید (نه از منوی میزکار) تا Veldmark بتواند نشان‌دارشان کند. اگر برنامه در حال اجرا باشد، بسته و دوباره باز می‌شود.</translation>
     </message>
 </context>
 <context>
@@ -1187,11 +1187,11 @@
         <translation>بی‌پاسخ</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but the kill switch isn&apos;t known to close that path</source>
+        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>یک اتصال مستقیم بدون Tor پاسخی نگرفت، اما معلوم نیست کیل‌سوییچ آن مسیر را بسته باشد</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t close that path</source>
+        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>یک اتصال مستقیم بدون Tor پاسخی نگرفت، اما حالت پروکسی آن مسیر را نمی‌بندد</translation>
     </message>
     <message>
@@ -1408,7 +1408,7 @@
 <context>
     <name>veldmark::Text</name>
     <message>
-        <source>Tor hasn&apos;t confirmed that it is on the network again, so nothing may get through. Veldmark goes on telling it to; else disconnect and connect again.</source>
+        <source>Tor hasn&apos;t confirmed that it uses the network again, so traffic may not get through. Veldmark keeps telling Tor to. If this lasts, disconnect and connect again.</source>
         <translation>برنامهٔ Tor تأیید نکرده است که دوباره به شبکه وصل است، پس شاید هیچ چیز رد نشود. Veldmark همچنان این را از آن می‌خواهد؛ اگر نشد، اتصال را قطع کنید و دوباره وصل شوید.</translation>
     </message>
     <message>
@@ -1416,7 +1416,7 @@
         <translation>نسخهٔ %1 عرضه شده که از نسخهٔ نصب‌شدهٔ %2 قدیمی‌تر است. چیزی تغییر نکرد.</translation>
     </message>
     <message>
-        <source>What came as version %1 is another one, so it was discarded.</source>
+        <source>The download of version %1 contains another version, so it was discarded.</source>
         <translation>آنچه به نام نسخهٔ %1 رسید نسخهٔ دیگری است، پس دور انداخته شد.</translation>
     </message>
     <message>
@@ -1424,11 +1424,11 @@
         <translation>وقتی Tor وصل شود، بارگیری از نو آغاز می‌شود…</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no place for Tor: give the whole path, such as /usr/bin/tor.</source>
+        <source>&quot;%1&quot; is not a location of Tor. Give an absolute path, such as /usr/bin/tor.</source>
         <translation>مقدار «⁨%1⁩» محل Tor نیست: مسیر کامل را بدهید، مانند ⁨/usr/bin/tor⁩.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; holds for the whole connection. Disconnect to change it.</source>
+        <source>&quot;%1&quot; can&apos;t be changed during a connection. Disconnect to change it.</source>
         <translation>تنظیم «%1» برای کل اتصال برقرار است. برای تغییر آن، اتصال را قطع کنید.</translation>
     </message>
     <message>
@@ -1485,11 +1485,11 @@
     </message>
     <message>
         <source>Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. Reconnect, or Restore Network to go back online.</source>
-        <translation>اجرای Tor متوقف شد. کیل‌سوییچ هنوز ترافیک را مسدود می‌کند، پس چیزی نشت نکرده است. دوباره وصل شوید، یا برای برگشتن به اینترنت «بازگرداندن شبکه» را بزنید.</translation>
+        <translation>اجرای Tor متوقف شد. کیل‌سوییچ هنوز ترافیک را مسدود می‌کند، پس چیزی نشت نکرده است. دوباره وصل شوید، یا برای برگشتن به اینترنت بدون Tor «بازگرداندن شبکه» را بزنید.</translation>
     </message>
     <message>
-        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks have seen some go around Tor. Reconnect, or Restore Network to go back online.</source>
-        <translation>اجرای Tor متوقف شد. کیل‌سوییچ هنوز ترافیک را مسدود می‌کند، اما در آخرین بررسی‌ها دیده شد که بخشی از آن Tor را دور زده است. دوباره وصل شوید، یا برای برگشتن به اینترنت «بازگرداندن شبکه» را بزنید.</translation>
+        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks saw traffic go around Tor. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>اجرای Tor متوقف شد. کیل‌سوییچ هنوز ترافیک را مسدود می‌کند، اما در آخرین بررسی‌ها دیده شد که بخشی از آن Tor را دور زده است. دوباره وصل شوید، یا برای برگشتن به اینترنت بدون Tor «بازگرداندن شبکه» را بزنید.</translation>
     </message>
     <message>
         <source>Tor stopped running. Apps using the proxy can&apos;t connect until you reconnect or Restore Network.</source>
@@ -1592,19 +1592,19 @@
         <translation>اجرای Tor متوقف شد و شبکهٔ شما دیگر برای آن تنظیم نیست.</translation>
     </message>
     <message>
-        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go back online.</source>
-        <translation>اجرای Tor متوقف شد. کیل‌سوییچ دوباره ترافیک را مسدود می‌کند، اما برنامهٔ دیگری مدتی قاعده‌های آن را برداشته بود. دوباره وصل شوید، یا برای برگشتن به اینترنت «بازگرداندن شبکه» را بزنید.</translation>
+        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>اجرای Tor متوقف شد. کیل‌سوییچ دوباره ترافیک را مسدود می‌کند، اما برنامهٔ دیگری مدتی قاعده‌های آن را برداشته بود. دوباره وصل شوید، یا برای برگشتن به اینترنت بدون Tor «بازگرداندن شبکه» را بزنید.</translation>
     </message>
     <message>
-        <source>Tor stopped running, and the kill switch is open: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
+        <source>Tor stopped running, and the kill switch doesn&apos;t block traffic: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
         <translation>اجرای Tor متوقف شد و کیل‌سوییچ مسدود نمی‌کند: برنامهٔ دیگری قاعده‌هایش را برداشت. ممکن است ترافیک مستقیماً از این رایانه بیرون برود. دوباره وصل شوید یا «بازگرداندن شبکه» را بزنید.</translation>
     </message>
     <message>
-        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go back online.</source>
-        <translation>اجرای Tor متوقف شد و معلوم نیست کیل‌سوییچ هنوز ترافیک را مسدود می‌کند یا نه. دوباره وصل شوید، یا برای برگشتن به اینترنت «بازگرداندن شبکه» را بزنید.</translation>
+        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>اجرای Tor متوقف شد و معلوم نیست کیل‌سوییچ هنوز ترافیک را مسدود می‌کند یا نه. دوباره وصل شوید، یا برای برگشتن به اینترنت بدون Tor «بازگرداندن شبکه» را بزنید.</translation>
     </message>
     <message>
-        <source>The watcher over Veldmark&apos;s firewall rules has stopped telling, so it isn&apos;t known whether the kill switch stands. Disconnect and connect again.</source>
+        <source>The watcher of Veldmark&apos;s firewall rules has stopped reporting, so it isn&apos;t known whether the kill switch blocks traffic. Disconnect and connect again.</source>
         <translation>ناظر قاعده‌های دیوار آتش Veldmark دیگر خبری نمی‌دهد، پس معلوم نیست کیل‌سوییچ برقرار است یا نه. اتصال را قطع کنید و دوباره وصل شوید.</translation>
     </message>
     <message>
@@ -1636,7 +1636,7 @@
         <translation>نشت DNS</translation>
     </message>
     <message>
-        <source>Kill Switch Open</source>
+        <source>Kill Switch Failed</source>
         <translation>کیل‌سوییچ مسدود نمی‌کند</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>نشانی واقعی شما قابل مشاهده است. اتصال را قطع کنید یا آزمون نشت را دوباره اجرا کنید.</translation>
     </message>
     <message>
-        <source>It can&apos;t be told whether the kill switch stands. Disconnect and connect again.</source>
+        <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Disconnect and connect again.</source>
         <translation>معلوم نیست کیل‌سوییچ برقرار است یا نه. اتصال را قطع کنید و دوباره وصل شوید.</translation>
     </message>
     <message>
@@ -1676,7 +1676,7 @@
         <translation>هیچ چیز رد نمی‌شود</translation>
     </message>
     <message>
-        <source>This computer has no network. Nothing gets out around Tor meanwhile.</source>
+        <source>This computer has no network. Traffic around Tor stays blocked.</source>
         <translation>این رایانه شبکه ندارد. در این میان چیزی با دور زدن Tor بیرون نمی‌رود.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>این رایانه شبکه ندارد. وقتی شبکه برگردد، Veldmark ادامه می‌دهد.</translation>
     </message>
     <message>
-        <source>Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile.</source>
+        <source>Tor has no working circuit and keeps trying. Traffic around Tor stays blocked.</source>
         <translation>هیچ مدار Tor کار نمی‌کند و Tor همچنان تلاش می‌کند. در این میان چیزی با دور زدن آن بیرون نمی‌رود.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>هیچ مدار Tor کار نمی‌کند و Tor همچنان تلاش می‌کند.</translation>
     </message>
     <message>
-        <source>Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile.</source>
+        <source>Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked.</source>
         <translation>شبکه به Tor پاسخ نمی‌دهد و Tor همچنان تلاش می‌کند. در این میان چیزی با دور زدن آن بیرون نمی‌رود.</translation>
     </message>
     <message>
@@ -1700,7 +1700,7 @@
         <translation>شبکه به Tor پاسخ نمی‌دهد و Tor همچنان تلاش می‌کند.</translation>
     </message>
     <message>
-        <source>Another program has ended this session and begun one of its own. Restore Network ends that one.</source>
+        <source>Another program has ended this session and started its own. Restore Network ends that session.</source>
         <translation>برنامهٔ دیگری این نشست را پایان داده و نشست خودش را آغاز کرده است. «بازگرداندن شبکه» به آن نشست پایان می‌دهد.</translation>
     </message>
     <message>
@@ -1752,7 +1752,7 @@
         <translation>دسترسی مدیر رد شد، یا عاملی که گذرواژه را می‌پرسد پاسخی نداد.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out, so Tor can&apos;t connect: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic, so Tor can&apos;t connect: %1.</source>
         <translation>دیوار آتش دیگری در این رایانه جلوی ترافیک خروجی را می‌گیرد، پس Tor نمی‌تواند وصل شود: ⁨%1⁩.</translation>
     </message>
     <message>
@@ -1808,11 +1808,11 @@
         <translation>باز کردن %1 بدون Tor ممکن نشد: ⁨%2⁩</translation>
     </message>
     <message>
-        <source>Another Veldmark of yours has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <source>Another Veldmark of yours has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
         <translation>در این میان Veldmark دیگری از خود شما نشستی آغاز کرده است، پس چیزی پایان داده نشد. برای پایان دادن به آن، اتصال را دوباره قطع کنید.</translation>
     </message>
     <message>
-        <source>Another user&apos;s Veldmark has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <source>Another user&apos;s Veldmark has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
         <translation>در این میان Veldmark کاربر دیگری نشستی آغاز کرده است، پس چیزی پایان داده نشد. برای پایان دادن به آن، اتصال را دوباره قطع کنید.</translation>
     </message>
     <message>
@@ -1888,7 +1888,7 @@
         <translation>سرور پاسخ HTTP نداد.</translation>
     </message>
     <message>
-        <source>The connection was lost before the end.</source>
+        <source>The connection was lost before the download ended.</source>
         <translation>اتصال پیش از پایان از دست رفت.</translation>
     </message>
     <message>
@@ -1900,7 +1900,7 @@
         <translation>برنامهٔ Tor اتصال کنترل را بست.</translation>
     </message>
     <message>
-        <source>Another program than Tor listens on Tor&apos;s control port.</source>
+        <source>A program other than Tor listens on Tor&apos;s control port.</source>
         <translation>روی درگاه کنترل Tor برنامهٔ دیگری جز Tor گوش می‌دهد.</translation>
     </message>
     <message>
@@ -1928,7 +1928,7 @@
         <translation>نمی‌توان دسترسی مدیر خواست: در این نشست هیچ عامل احراز هویت PolicyKit در حال اجرا نیست.</translation>
     </message>
     <message>
-        <source>The password could not be checked: polkit takes none from this terminal. Run it with sudo.</source>
+        <source>The password could not be checked: polkit accepts no password from this terminal. Run the command with sudo.</source>
         <translation>بررسی گذرواژه ممکن نشد: polkit از این پایانه گذرواژه نمی‌پذیرد. آن را با sudo اجرا کنید.</translation>
     </message>
     <message>
@@ -2032,7 +2032,7 @@
         <translation>برنامهٔ %1 هم‌اکنون در حال باز شدن است.</translation>
     </message>
     <message>
-        <source>A session is open, and its kill switch isn&apos;t closed: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
+        <source>A session is open, and its kill switch doesn&apos;t block traffic: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
         <translation>نشستی باز است و کیل‌سوییچ آن مسدود نمی‌کند: ناظرش نتوانست قاعده‌ها را برگرداند. ممکن است ترافیک مستقیماً از این رایانه بیرون برود. شبکه را بازگردانید و دوباره وصل شوید.</translation>
     </message>
     <message>
@@ -2044,7 +2044,7 @@
         <translation>ساعت از شبکه تنظیم می‌شود. ⁨%1⁩ را نشان می‌دهد.</translation>
     </message>
     <message>
-        <source>Whether the clock is right isn&apos;t known: nothing is seen to set it from the network. It shows %1. Tor needs it right to within minutes.</source>
+        <source>It isn&apos;t known whether the clock is right: no time service seems to set it. It shows %1. Tor needs it right to within minutes.</source>
         <translation>معلوم نیست ساعت درست است یا نه: چیزی که آن را از شبکه تنظیم کند دیده نمی‌شود. ⁨%1⁩ را نشان می‌دهد. ساعت برای Tor باید با دقت چند دقیقه درست باشد.</translation>
     </message>
     <message>
@@ -2060,11 +2060,11 @@
         <translation>دیوار آتش سیستم قابل استفاده نیست: ⁨%1⁩</translation>
     </message>
     <message>
-        <source>The kernel that runs (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
+        <source>The running kernel (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
         <translation>هستهٔ در حال اجرا (⁨%1⁩) nftables ندارد. پس از ارتقای هسته، رایانه را دوباره راه‌اندازی کنید.</translation>
     </message>
     <message>
-        <source>nftables is installed. Whether the kernel that runs can use it is known to root only.</source>
+        <source>nftables is installed. Only root can tell whether the running kernel can use it.</source>
         <translation>برنامهٔ nftables نصب است. فقط root می‌داند که هستهٔ در حال اجرا می‌تواند از آن استفاده کند یا نه.</translation>
     </message>
     <message>
@@ -2084,11 +2084,11 @@
         <translation>می‌توان برنامه‌ها را بدون Tor باز کرد: گروه‌های کنترلی نسخهٔ ۲ (cgroup v2) وجود دارند.</translation>
     </message>
     <message>
-        <source>No other firewall that is known by name runs. The rules themselves are known to root only.</source>
+        <source>No other firewall that Veldmark knows runs. Only root can read the rules themselves.</source>
         <translation>هیچ دیوار آتش دیگری که نامش شناخته‌شده باشد در حال اجرا نیست. خود قاعده‌ها را فقط root می‌داند.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out unless one of its rules allows it, so Tor may not get through: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic that its rules don&apos;t allow, so Tor may not get through: %1.</source>
         <translation>دیوار آتش دیگری در این رایانه جلوی هر ترافیک خروجی را می‌گیرد، مگر آن‌که یکی از قاعده‌هایش اجازه دهد؛ پس شاید Tor رد نشود: ⁨%1⁩.</translation>
     </message>
     <message>
@@ -2108,11 +2108,11 @@
         <translation>این‌جا میزکاری نیست که پنجره‌ای در آن گذرواژهٔ مدیر را بپرسد. sudo را به کار ببرید.</translation>
     </message>
     <message>
-        <source>No program that is known to ask for polkit&apos;s passwords (an agent) runs in your session. Without one, use sudo, or start an agent such as lxpolkit.</source>
+        <source>No known polkit agent, the program that asks for the password, runs in your session. Use sudo, or start an agent such as lxpolkit.</source>
         <translation>در نشست شما هیچ برنامهٔ شناخته‌شده‌ای که گذرواژه‌های polkit را بپرسد (عامل) در حال اجرا نیست. بدون آن، sudo را به کار ببرید یا عاملی مانند lxpolkit را شروع کنید.</translation>
     </message>
     <message>
-        <source>polkit is there, and a program that asks for its passwords runs in your session.</source>
+        <source>polkit is installed, and an agent that asks for the password runs in your session.</source>
         <translation>برنامهٔ polkit هست و برنامه‌ای که گذرواژه‌های آن را می‌پرسد در نشست شما اجرا می‌شود.</translation>
     </message>
     <message>
@@ -2120,15 +2120,15 @@
         <translation>برنامهٔ Veldmark این‌جا با حساب root اجرا می‌شود و گذرواژه نمی‌خواهد.</translation>
     </message>
     <message>
-        <source>Connecting without a password is set up.</source>
-        <translation>اتصال بدون گذرواژه راه‌اندازی شده است.</translation>
+        <source>Passwordless mode is set up.</source>
+        <translation>حالت بدون گذرواژه راه‌اندازی شده است.</translation>
     </message>
     <message>
-        <source>sudo isn&apos;t installed. Connecting without a password needs it.</source>
-        <translation>برنامهٔ sudo نصب نیست. اتصال بدون گذرواژه آن را لازم دارد.</translation>
+        <source>sudo isn&apos;t installed. Passwordless mode needs it.</source>
+        <translation>برنامهٔ sudo نصب نیست. حالت بدون گذرواژه آن را لازم دارد.</translation>
     </message>
     <message>
-        <source>sudo is installed. Whether you may use it is known to root only.</source>
+        <source>sudo is installed. Only root can tell whether you may use it.</source>
         <translation>برنامهٔ sudo نصب است. فقط root می‌داند که شما اجازهٔ استفاده از آن را دارید یا نه.</translation>
     </message>
     <message>
@@ -2156,7 +2156,7 @@
         <translation>درگاه‌هایی که Tor لازم دارد (9050، 9051 و 293) آزادند.</translation>
     </message>
     <message>
-        <source>The location of Tor in the settings, %1, is no program that can run. The usual places are searched instead.</source>
+        <source>The location of Tor in the settings, %1, is not an executable program. Veldmark searches the usual places instead.</source>
         <translation>محل Tor در تنظیمات، ⁨%1⁩، برنامه‌ای نیست که بتواند اجرا شود. به جای آن، جاهای معمول جستجو می‌شوند.</translation>
     </message>
     <message>
@@ -2164,7 +2164,7 @@
         <translation>برنامهٔ Tor نصب نیست.</translation>
     </message>
     <message>
-        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it doesn&apos;t tell its version.</source>
+        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it prints no version.</source>
         <translation>برنامهٔ ⁨%1⁩ شروع نمی‌شود یا Tor نیست: نسخهٔ خود را نمی‌گوید.</translation>
     </message>
     <message>
@@ -2184,11 +2184,11 @@
         <translation>اسکریپت کمکی Veldmark وجود ندارد. Veldmark را دوباره نصب کنید.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper, %1, lies where others than root can write. They can change it, and with it what the administrator&apos;s password runs.</source>
+        <source>Accounts other than root can change Veldmark&apos;s helper, %1, and with it what the administrator&apos;s password runs.</source>
         <translation>برنامهٔ کمکی Veldmark (⁨%1⁩) جایی است که کسانی جز root هم می‌توانند در آن بنویسند. آن‌ها می‌توانند این برنامه و در نتیجه آنچه را با گذرواژهٔ مدیر اجرا می‌شود تغییر دهند.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper, %1, is not an installed one: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
+        <source>Veldmark&apos;s helper, %1, is not installed: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
         <translation>برنامهٔ کمکی Veldmark (⁨%1⁩) نصب‌شده نیست: حساب %2 می‌تواند این برنامه و در نتیجه آنچه را با گذرواژهٔ مدیر اجرا می‌شود تغییر دهد.</translation>
     </message>
     <message>
@@ -2196,11 +2196,11 @@
         <translation>برنامهٔ کمکی Veldmark نصب است و فقط root می‌تواند آن را تغییر دهد: ⁨%1⁩.</translation>
     </message>
     <message>
-        <source>The helper that runs without a password is not this version&apos;s. Set up connecting without a password again in Settings, General.</source>
-        <translation>برنامهٔ کمکی که بدون گذرواژه اجرا می‌شود از این نسخه نیست. اتصال بدون گذرواژه را در «تنظیمات»، «عمومی» دوباره راه‌اندازی کنید.</translation>
+        <source>The helper of passwordless mode belongs to another version. Set up passwordless mode again in Settings, General.</source>
+        <translation>برنامهٔ کمکی حالت بدون گذرواژه از نسخهٔ دیگری است. حالت بدون گذرواژه را در «تنظیمات»، «عمومی» دوباره راه‌اندازی کنید.</translation>
     </message>
     <message>
-        <source>Bridges are off. Where Tor is blocked they need bridge programs, and none was found.</source>
+        <source>Bridges are off. Bridges need bridge programs where Tor is blocked, and none was found.</source>
         <translation>پل‌ها خاموش‌اند. جایی که Tor مسدود باشد پل‌ها به برنامه‌های پل نیاز دارند و هیچ برنامهٔ پلی پیدا نشد.</translation>
     </message>
     <message>
@@ -2216,19 +2216,19 @@
         <translation>پل‌های برگزیده (%1) قابل استفاده‌اند: ⁨%2⁩.</translation>
     </message>
     <message>
-        <source>Names are looked up as %1 says. Veldmark switches that over and back.</source>
+        <source>%1 manages DNS. Veldmark changes that while connected and restores it afterwards.</source>
         <translation>نام‌های دامنه طبق ⁨%1⁩ پرس‌وجو می‌شوند. Veldmark آن را عوض می‌کند و سپس برمی‌گرداند.</translation>
     </message>
     <message>
-        <source>%1 is Veldmark&apos;s. It names Tor as the name server.</source>
+        <source>Veldmark wrote %1. It points DNS at Tor.</source>
         <translation>پروندهٔ ⁨%1⁩ از Veldmark است. در آن، Tor سرور نام است.</translation>
     </message>
     <message>
-        <source>There is no file %1, so names may not be looked up at all.</source>
+        <source>The file %1 is missing, so DNS may not work at all.</source>
         <translation>پروندهٔ ⁨%1⁩ وجود ندارد، پس شاید نام‌های دامنه اصلاً پرس‌وجو نشوند.</translation>
     </message>
     <message>
-        <source>Names are looked up by a resolver on this computer. Veldmark switches that over and back.</source>
+        <source>A resolver on this computer answers DNS. Veldmark changes that while connected and restores it afterwards.</source>
         <translation>نام‌های دامنه را یک برنامهٔ نام‌یاب در این رایانه پرس‌وجو می‌کند. Veldmark آن را عوض می‌کند و سپس برمی‌گرداند.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>نشستی باز است: شبکه برای Tor تنظیم است و Tor اجرا می‌شود.</translation>
     </message>
     <message>
-        <source>The network is set up for Tor. Whether Tor still runs isn&apos;t known here.</source>
+        <source>The network is set up for Tor. It isn&apos;t known whether Tor still runs.</source>
         <translation>شبکه برای Tor تنظیم است. این‌جا معلوم نیست Tor هنوز اجرا می‌شود یا نه.</translation>
     </message>
     <message>
@@ -2252,7 +2252,7 @@
         <translation>شبکه از نشستی پیشین هنوز برای Tor تنظیم است و Tor در حال اجرا نیست. دوباره وصل شوید یا شبکه را بازگردانید.</translation>
     </message>
     <message>
-        <source>A session is open, and it isn&apos;t known whether its kill switch stands: nobody watches over the rules. Restore the network, and connect again.</source>
+        <source>A session is open, and it isn&apos;t known whether its kill switch blocks traffic: no watcher watches the rules. Restore the network, and connect again.</source>
         <translation>نشستی باز است و معلوم نیست کیل‌سوییچ آن برقرار است یا نه: قاعده‌ها ناظری ندارند. شبکه را بازگردانید و دوباره وصل شوید.</translation>
     </message>
     <message>
@@ -2268,7 +2268,7 @@
         <translation>%1 از %2 مگابایت (%3٪)</translation>
     </message>
     <message>
-        <source>Veldmark needs administrator access to manage Tor routing on this computer. The system&apos;s own Tor service, where it runs, is stopped meanwhile.</source>
+        <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
         <translation>برنامهٔ Veldmark برای مدیریت مسیریابی Tor در این رایانه به دسترسی مدیر نیاز دارد. در این مدت سرویس Tor خود سیستم، اگر اجرا شود، متوقف است.</translation>
     </message>
     <message>
@@ -2276,7 +2276,7 @@
         <translation>برنامهٔ Veldmark برای مدیریت مسیریابی Tor در این مک به دسترسی مدیر نیاز دارد.</translation>
     </message>
     <message>
-        <source>The archive holds %1: %2</source>
+        <source>The archive contains %1: %2</source>
         <translation>در بایگانی %1 هست: ⁨%2⁩</translation>
     </message>
     <message>
@@ -2288,7 +2288,7 @@
         <translation>پیوند سخت</translation>
     </message>
     <message>
-        <source>what is neither file nor folder</source>
+        <source>an entry that is neither a file nor a folder</source>
         <translation>چیزی که نه پرونده است نه پوشه</translation>
     </message>
     <message>
@@ -2296,15 +2296,15 @@
         <translation>مسیری که به جای دیگری می‌رود</translation>
     </message>
     <message>
-        <source>The archive is empty or no archive.</source>
+        <source>The file is empty or not an archive.</source>
         <translation>بایگانی خالی است یا اصلاً بایگانی نیست.</translation>
     </message>
     <message>
-        <source>The archive&apos;s list of files is not clear.</source>
+        <source>The archive&apos;s list of files is ambiguous.</source>
         <translation>فهرست پرونده‌های بایگانی ابهام دارد.</translation>
     </message>
     <message>
-        <source>The archive holds too many files.</source>
+        <source>The archive contains too many files.</source>
         <translation>شمار پرونده‌های بایگانی بیش از اندازه است.</translation>
     </message>
     <message>
@@ -2392,7 +2392,7 @@
         <translation>دستور %1 یک کلید و یک مقدار لازم دارد: veldmarkctl %1 KEY VALUE.</translation>
     </message>
     <message>
-        <source>What should I do? &quot;veldmarkctl help&quot; lists the commands.</source>
+        <source>A command is missing. &quot;veldmarkctl help&quot; lists the commands.</source>
         <translation>چه باید کرد؟ «veldmarkctl help» فهرست دستورها را نشان می‌دهد.</translation>
     </message>
     <message>
@@ -2434,7 +2434,7 @@
         <translation>پیدا نشد</translation>
     </message>
     <message>
-        <source>doesn&apos;t say what it serves</source>
+        <source>doesn&apos;t say which transports it serves</source>
         <translation>نمی‌گوید چه چیزی ارائه می‌کند</translation>
     </message>
     <message>
@@ -2514,7 +2514,7 @@
         <translation>هنوز نمی‌توان وصل شد.</translation>
     </message>
     <message>
-        <source>A connect can&apos;t work before each &quot;problem&quot; is mended.</source>
+        <source>A connect can&apos;t work until each &quot;problem&quot; is fixed.</source>
         <translation>تا هر «مشکل» برطرف نشود، نمی‌توان وصل شد.</translation>
     </message>
     <message>
@@ -2530,19 +2530,19 @@
         <translation>سخت‌گیرانه</translation>
     </message>
     <message>
-        <source>stands, since %1</source>
+        <source>blocks traffic, since %1</source>
         <translation>برقرار است، از ⁨%1⁩</translation>
     </message>
     <message>
-        <source>stands; put back at %1 after another program had removed it</source>
+        <source>blocks traffic; put back at %1 after another program had removed it</source>
         <translation>برقرار است؛ برنامهٔ دیگری آن را برداشته بود و در ⁨%1⁩ برگردانده شد</translation>
     </message>
     <message>
-        <source>OPEN since %1: traffic may leave this computer directly</source>
+        <source>NOT BLOCKING since %1: traffic may leave this computer directly</source>
         <translation>مسدود نمی‌کند، از ⁨%1⁩: ممکن است ترافیک مستقیماً از این رایانه بیرون برود</translation>
     </message>
     <message>
-        <source>isn&apos;t known to stand, since %1</source>
+        <source>isn&apos;t known to block traffic, since %1</source>
         <translation>معلوم نیست برقرار باشد، از ⁨%1⁩</translation>
     </message>
     <message>
@@ -2570,11 +2570,11 @@
         <translation>مسدود</translation>
     </message>
     <message>
-        <source>no answer, but the kill switch isn&apos;t known to close it</source>
+        <source>no answer, but it isn&apos;t known whether the kill switch blocks it</source>
         <translation>بی‌پاسخ، اما معلوم نیست کیل‌سوییچ آن را بسته باشد</translation>
     </message>
     <message>
-        <source>no answer, but proxy mode doesn&apos;t close it</source>
+        <source>no answer, but proxy mode doesn&apos;t block it</source>
         <translation>بی‌پاسخ، اما حالت پروکسی آن را نمی‌بندد</translation>
     </message>
     <message>
@@ -2582,7 +2582,7 @@
         <translation>در حال بررسی…</translation>
     </message>
     <message>
-        <source>couldn&apos;t be told</source>
+        <source>inconclusive</source>
         <translation>معلوم نشد</translation>
     </message>
     <message>
@@ -2718,11 +2718,11 @@
         <translation>مقدار «⁨%1⁩» نه true است و نه false.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no JSON array of strings.</source>
+        <source>&quot;%1&quot; is not a JSON array of strings.</source>
         <translation>مقدار «⁨%1⁩» آرایهٔ JSON از رشته‌ها نیست.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no bridge choice: off, obfs4, snowflake, meek or custom.</source>
+        <source>&quot;%1&quot; is not a bridge choice: off, obfs4, snowflake, meek or custom.</source>
         <translation>مقدار «⁨%1⁩» انتخاب پل نیست: off، obfs4، snowflake، meek یا custom.</translation>
     </message>
     <message>
@@ -2734,15 +2734,15 @@
         <translation>اتصال Tor در پنج دقیقه کامل نشد. (⁨%1⁩)</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
+        <source>&quot;%1&quot; is not an exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
         <translation>مقدار «⁨%1⁩» کشور خروجی نیست: دو حرف کوچک مانند «de»، یا خالی برای هر کشور.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no application: an absolute path that ends in &quot;%2&quot;.</source>
+        <source>&quot;%1&quot; is not an application: an absolute path that ends in &quot;%2&quot;.</source>
         <translation>مقدار «⁨%1⁩» برنامه نیست: مسیر مطلقی که به «⁨%2⁩» پایان یابد.</translation>
     </message>
     <message>
-        <source>the kill switch, else proxy mode</source>
+        <source>strict mode with the kill switch, else proxy mode</source>
         <translation>کیل‌سوییچ، وگرنه حالت پروکسی</translation>
     </message>
     <message>
@@ -2754,7 +2754,7 @@
         <translation>دو حرف کوچک، یا خالی برای هر کشور</translation>
     </message>
     <message>
-        <source>the tor to use, or nothing to search for it</source>
+        <source>the path of the tor to use, or nothing to search for tor</source>
         <translation>برنامهٔ tor که به کار می‌رود، یا خالی تا جستجو شود</translation>
     </message>
     <message>
@@ -2794,7 +2794,7 @@
         <translation>دستور «set» یک «key» و یک «value» لازم دارد که هر دو رشته باشند.</translation>
     </message>
     <message>
-        <source>Already connected, or on the way; &quot;veldmarkctl status&quot; says more.</source>
+        <source>Already connected or connecting; &quot;veldmarkctl status&quot; says more.</source>
         <translation>از پیش وصل یا در حال اتصال است؛ «veldmarkctl status» بیشتر می‌گوید.</translation>
     </message>
     <message>
@@ -2870,7 +2870,7 @@
         <translation>ادامه تا Ctrl-C</translation>
     </message>
     <message>
-        <source>how things stand; --watch goes on until Ctrl-C</source>
+        <source>print the connection&apos;s state; --watch goes on until Ctrl-C</source>
         <translation>وضعیت کنونی؛ گزینهٔ ⁨--watch⁩ تا Ctrl-C ادامه می‌دهد</translation>
     </message>
     <message>
@@ -2882,7 +2882,7 @@
         <translation>بازگرداندن شبکه و توقف Tor</translation>
     </message>
     <message>
-        <source>the same, also for what a crash left behind</source>
+        <source>restore the network and stop Tor, also after a crash</source>
         <translation>همان، برای آنچه از یک فروپاشی مانده نیز</translation>
     </message>
     <message>
@@ -2898,7 +2898,7 @@
         <translation>مدارهای Tor و سایت‌های روی آن‌ها</translation>
     </message>
     <message>
-        <source>close one; its sites get a fresh path on their next request</source>
+        <source>close a circuit; its sites get a fresh path on their next request</source>
         <translation>بستن یک مدار؛ سایت‌های آن در درخواست بعدی مسیر تازه‌ای می‌گیرند</translation>
     </message>
     <message>
@@ -2944,8 +2944,8 @@ of an entry or a program. Running copies are asked to quit first</source>
         <translation>دستور launch یک برنامه لازم دارد؛ «veldmarkctl apps» فهرست آن‌ها را نشان می‌دهد.</translation>
     </message>
     <message>
-        <source>look at this computer: what a connect needs, what is in its way, and what
-mends it. Changes nothing; ends with 0 when a connect can work</source>
+        <source>check what a connect needs on this computer, what blocks it and how to fix
+it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>بررسی این رایانه: اتصال چه لازم دارد، چه چیزی مانع آن است و آن مانع چگونه
 برطرف می‌شود. چیزی را تغییر نمی‌دهد؛ اگر بتوان وصل شد با 0 پایان می‌یابد</translation>
     </message>
@@ -3014,11 +3014,11 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>برنامه در حال خروج است.</translation>
     </message>
     <message>
-        <source>The strict session that is running is replaced, and may protect you less.</source>
+        <source>Veldmark replaces the running strict session. The new session may protect you less.</source>
         <translation>نشست سخت‌گیرانهٔ در حال اجرا جایگزین می‌شود و شاید از شما کمتر محافظت کند.</translation>
     </message>
     <message>
-        <source>Veldmark wants to run %1 as a part of Tor. No package of the system brought it. Its SHA-256 is %2.</source>
+        <source>Veldmark wants to run %1 as a part of Tor. No package of the system installed it. Its SHA-256 is %2.</source>
         <translation>برنامهٔ Veldmark می‌خواهد ⁨%1⁩ را به‌عنوان بخشی از Tor اجرا کند. هیچ‌یک از بسته‌های سیستم آن را نیاورده است. SHA-256 آن این است: %2.</translation>
     </message>
     <message>
@@ -3070,7 +3070,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>برای تأیید ⁨%1⁩ گذرواژهٔ مدیر لازم است.</translation>
     </message>
     <message>
-        <source>An administrator password is needed to change the strict session that is running.</source>
+        <source>An administrator password is needed to change the running strict session.</source>
         <translation>برای تغییر نشست سخت‌گیرانهٔ در حال اجرا گذرواژهٔ مدیر لازم است.</translation>
     </message>
     <message>
@@ -3082,7 +3082,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>برای این راه‌اندازی گذرواژهٔ مدیر لازم است.</translation>
     </message>
     <message>
-        <source>Another program (process %1) has begun a session since. It was left alone.</source>
+        <source>Another program (process %1) has started a session meanwhile. That session was left alone.</source>
         <translation>در این میان برنامهٔ دیگری (فرایند %1) نشستی آغاز کرده است. به آن دست زده نشد.</translation>
     </message>
     <message>
@@ -3094,7 +3094,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>برنامه‌ها با حساب root باز نمی‌شوند.</translation>
     </message>
     <message>
-        <source>Applications can be opened for the user who asks only.</source>
+        <source>The helper opens applications only for the user who asks.</source>
         <translation>برنامه‌ها را فقط برای کاربری که درخواست می‌کند می‌توان باز کرد.</translation>
     </message>
     <message>
@@ -3106,12 +3106,12 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>بیش از %1 پل داده شد.</translation>
     </message>
     <message>
-        <source>Only the user who asks can be let in.</source>
+        <source>Passwordless mode can be set up only for the user who asks.</source>
         <translation>فقط به کاربری که درخواست می‌کند می‌توان اجازه داد.</translation>
     </message>
     <message>
-        <source>Somebody else is changing the firewall. Try again in a moment.</source>
-        <translation>کس دیگری در حال تغییر دیوار آتش است. کمی بعد دوباره امتحان کنید.</translation>
+        <source>Another program is changing the firewall. Try again in a moment.</source>
+        <translation>برنامهٔ دیگری در حال تغییر دیوار آتش است. کمی بعد دوباره امتحان کنید.</translation>
     </message>
     <message>
         <source>The DNS servers of systemd-resolved cannot be changed.</source>
@@ -3144,6 +3144,10 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
     <message>
         <source>The caller&apos;s user id is not a number.</source>
         <translation>شناسهٔ کاربری فراخواننده عدد نیست.</translation>
+    </message>
+    <message>
+        <source>The control group for Tor cannot be made.</source>
+        <translation>ساختن گروه کنترلی Tor ممکن نیست.</translation>
     </message>
     <message>
         <source>The control group of the applications without Tor could not be removed.</source>
@@ -3186,7 +3190,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>نمی‌توان پرونده‌های ⁨%1⁩ را برداشت.</translation>
     </message>
     <message>
-        <source>The firewall cannot be looked at, so nothing was done.</source>
+        <source>The firewall rules cannot be read, so nothing was done.</source>
         <translation>نمی‌توان دیوار آتش را بررسی کرد، پس کاری انجام نشد.</translation>
     </message>
     <message>
@@ -3194,16 +3198,16 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>نمی‌توان دیوار آتش را روشن کرد (⁨%1⁩).</translation>
     </message>
     <message>
-        <source>The firewall cannot end the connections from before.</source>
+        <source>The firewall cannot end the earlier connections.</source>
         <translation>دیوار آتش نمی‌تواند اتصال‌های پیشین را پایان دهد.</translation>
     </message>
     <message>
-        <source>The firewall could not be opened (%1).</source>
-        <translation>باز کردن دیوار آتش ممکن نشد (⁨%1⁩).</translation>
+        <source>The kill switch could not be switched off (%1).</source>
+        <translation>خاموش کردن کیل‌سوییچ ممکن نشد (⁨%1⁩).</translation>
     </message>
     <message>
-        <source>The firewall could not be opened, because somebody is changing it.</source>
-        <translation>باز کردن دیوار آتش ممکن نشد، چون کسی در حال تغییر آن است.</translation>
+        <source>The kill switch could not be switched off, because another program is changing the firewall.</source>
+        <translation>خاموش کردن کیل‌سوییچ ممکن نشد، چون برنامهٔ دیگری در حال تغییر دیوار آتش است.</translation>
     </message>
     <message>
         <source>The firewall does not hold the rules that were loaded.</source>
@@ -3266,11 +3270,11 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>پوشه‌های بالای پوشهٔ Veldmark امن نیستند: کسی جز root نباید مالک آن‌ها باشد یا در آن‌ها بنویسد.</translation>
     </message>
     <message>
-        <source>The folders below %1 cannot be looked at, so nothing was done.</source>
+        <source>The folders below %1 cannot be read, so nothing was done.</source>
         <translation>نمی‌توان پوشه‌های زیر ⁨%1⁩ را بررسی کرد، پس کاری انجام نشد.</translation>
     </message>
     <message>
-        <source>The folders below %1 cannot be looked at.</source>
+        <source>The folders below %1 cannot be read.</source>
         <translation>نمی‌توان پوشه‌های زیر ⁨%1⁩ را بررسی کرد.</translation>
     </message>
     <message>
@@ -3306,8 +3310,8 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>نمی‌توان دفتر ثبت را نوشت.</translation>
     </message>
     <message>
-        <source>The kill switch is not on, so there is nothing to open the application past.</source>
-        <translation>کیل‌سوییچ روشن نیست، پس مانعی نیست که برنامه لازم باشد از آن رد شود.</translation>
+        <source>The kill switch is not on, so no application needs to bypass it.</source>
+        <translation>کیل‌سوییچ روشن نیست، پس هیچ برنامه‌ای لازم نیست آن را دور بزند.</translation>
     </message>
     <message>
         <source>The launcher could not be copied to %1.</source>
@@ -3422,7 +3426,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>مسیر داده‌شده با ⁨--app⁩ نشانی هیچ برنامه‌ای نیست.</translation>
     </message>
     <message>
-        <source>The port %1, which Tor needs, is held by %2. End that, then connect again.</source>
+        <source>The port %1, which Tor needs, is held by %2. End that program, then connect again.</source>
         <translation>درگاه %1 که Tor لازم دارد در دست %2 است. آن را پایان دهید، سپس دوباره وصل شوید.</translation>
     </message>
     <message>
@@ -3450,7 +3454,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>برنامهٔ ⁨%1⁩ در این سیستم وجود ندارد.</translation>
     </message>
     <message>
-        <source>The program %1 is not the one that was to be approved.</source>
+        <source>The SHA-256 of the program %1 is not the one to approve.</source>
         <translation>برنامهٔ ⁨%1⁩ همانی نیست که قرار بود تأیید شود.</translation>
     </message>
     <message>
@@ -3538,11 +3542,11 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>فرمان uninstall-privileged گزینه‌ای نمی‌پذیرد.</translation>
     </message>
     <message>
-        <source>The watcher over the firewall could not be started.</source>
+        <source>The watcher of the firewall rules could not be started.</source>
         <translation>شروع ناظر دیوار آتش ممکن نشد.</translation>
     </message>
     <message>
-        <source>The watcher over the firewall could not be stopped.</source>
+        <source>The watcher of the firewall rules could not be stopped.</source>
         <translation>توقف ناظر دیوار آتش ممکن نشد.</translation>
     </message>
     <message>
@@ -3658,7 +3662,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>برنامهٔ nft خطا می‌دهد.</translation>
     </message>
     <message>
-        <source>Ended without its display. Your network is still set up for Tor: start Veldmark again, or restore it with: %1</source>
+        <source>Ended because the display is gone. Your network is still set up for Tor: start Veldmark again, or restore the network with: %1</source>
         <translation>به‌خاطر از دست رفتن نمایشگر پایان یافت. شبکهٔ شما هنوز برای Tor تنظیم است: Veldmark را دوباره شروع کنید، یا شبکه را با این دستور بازگردانید: ⁨%1⁩</translation>
     </message>
     <message>
@@ -3670,7 +3674,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>شبکه دوباره باز است، اما تنظیم دستگاه loopback مانند پیش ممکن نشد. این را امتحان کنید: ethtool -K lo %1 on.</translation>
     </message>
     <message>
-        <source>Applications are not told apart on this system.</source>
+        <source>This system can&apos;t tell applications apart.</source>
         <translation>در این سیستم برنامه‌ها از هم بازشناخته نمی‌شوند.</translation>
     </message>
     <message>
@@ -3690,11 +3694,11 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>هیچ برنامه‌ای از شما آن هویت را ندارد؛ «veldmarkctl identities» فهرست آن‌ها را نشان می‌دهد.</translation>
     </message>
     <message>
-        <source>The application has not got another identity.</source>
+        <source>The application did not get a new identity.</source>
         <translation>برنامه هویت دیگری نگرفته است.</translation>
     </message>
     <message>
-        <source>The program has not got an identity of its own, so it was not started.</source>
+        <source>The program did not get an identity of its own, so it was not started.</source>
         <translation>برنامه هویت خودش را نگرفت، پس شروع نشد.</translation>
     </message>
     <message>
@@ -3702,7 +3706,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>نام حداکثر ۴۰ نویسه دارد: حرف، رقم، نقطه و خط زیر.</translation>
     </message>
     <message>
-        <source>The program systemd-run is missing, which makes groups for programs.</source>
+        <source>The program systemd-run is missing. Veldmark needs it to make a group for a program.</source>
         <translation>برنامهٔ systemd-run که برای برنامه‌ها گروه می‌سازد وجود ندارد.</translation>
     </message>
     <message>
@@ -3752,15 +3756,15 @@ name in the same session has the same ones</source>
         <translation>مقدار ⁨--separate⁩ باید 0 یا 1 باشد.</translation>
     </message>
     <message>
-        <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
+        <source>No package of the system installed %1. The next connect asks an administrator to approve it.</source>
         <translation>هیچ‌یک از بسته‌های سیستم ⁨%1⁩ را نیاورده است. در اتصال بعدی از مدیر سیستم خواسته می‌شود آن را تأیید کند.</translation>
     </message>
     <message>
-        <source>Whether a connect can work isn&apos;t known.</source>
+        <source>It isn&apos;t known whether a connect can work.</source>
         <translation>معلوم نیست بتوان وصل شد یا نه.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
         <translation>دیوار آتش دیگری در این رایانه جلوی ترافیک خروجی را می‌گیرد و هیچ‌یک از قاعده‌هایش چیزی را مجاز نمی‌کند، پس Tor نمی‌تواند رد شود: ⁨%1⁩.</translation>
     </message>
 </context>

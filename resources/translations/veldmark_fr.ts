@@ -544,7 +544,7 @@
         <translation>Trouver la cause</translation>
     </message>
     <message>
-        <source>Looks at this computer: what a connection needs, what is in its way, and what mends it</source>
+        <source>Checks what a connection needs on this computer, what blocks it and how to fix it</source>
         <translation>Examine cet ordinateur : ce qu’exige une connexion, ce qui l’empêche et comment y remédier</translation>
     </message>
     <message>
@@ -769,7 +769,7 @@
         <translation>Chaque application a ses propres circuits</translation>
     </message>
     <message>
-        <source>Sites cannot tell by the exit address that two applications are yours. Applications are told apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with all of their login session or account.</source>
+        <source>Sites cannot tell by the exit address that two applications are yours. Veldmark tells applications apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with the rest of their login session or account.</source>
         <translation>L’adresse de sortie ne permet pas aux sites de savoir que deux applications sont les vôtres. Les applications sont distinguées là où le bureau démarre chacune dans son propre groupe de contrôle, comme le font GNOME et KDE. Les autres programmes partagent leurs circuits avec toute leur session utilisateur ou tout leur compte.</translation>
     </message>
 </context>
@@ -821,7 +821,7 @@
         <translation>Un autre programme a supprimé les règles de pare-feu de Veldmark ; elles ont été rétablies.</translation>
     </message>
     <message>
-        <source>The kill switch is open. Open Veldmark, disconnect and connect again.</source>
+        <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
         <translation>Le kill switch est inopérant. Ouvrez Veldmark, déconnectez-vous puis reconnectez-vous.</translation>
     </message>
     <message>
@@ -829,8 +829,8 @@
         <translation>Le kill switch n’est pas surveillé</translation>
     </message>
     <message>
-        <source>It can&apos;t be told whether it stands. Open Veldmark, disconnect and connect again.</source>
-        <translation>Impossible de savoir s’il est en place. Ouvrez Veldmark, déconnectez-vous puis reconnectez-vous.</translation>
+        <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Open Veldmark, disconnect and connect again.</source>
+        <translation>Impossible de savoir si le kill switch bloque le trafic. Ouvrez Veldmark, déconnectez-vous puis reconnectez-vous.</translation>
     </message>
 </context>
 <context>
@@ -840,7 +840,7 @@
         <translation>Veldmark</translation>
     </message>
     <message>
-        <source>A window could not be made. Your network is not affected; to restore it without Veldmark, run:
+        <source>Veldmark could not open a window. Your network is not affected. To restore it without Veldmark, run:
 %1
 
 %2</source>
@@ -862,7 +862,7 @@
         <translation>Votre réseau est encore configuré pour Tor</translation>
     </message>
     <message>
-        <source>Veldmark was told to end and could not restore it. Open Veldmark again to do so.</source>
+        <source>Veldmark had to close and could not restore the network. Open Veldmark again to restore it.</source>
         <translation>Veldmark a reçu l’ordre de s’arrêter et n’a pas pu le rétablir. Rouvrez Veldmark pour le faire.</translation>
     </message>
 </context>
@@ -939,7 +939,7 @@
         <translation> · cliquez sur un relais ou un site pour le suivre</translation>
     </message>
     <message>
-        <source>Leads to an onion service, which meets it at its last relay</source>
+        <source>Leads to an onion service. The last relay is the meeting point.</source>
         <translation>Mène à un service onion, qui le rejoint à son dernier relais</translation>
     </message>
     <message>
@@ -998,7 +998,7 @@
         <translation>Remarque</translation>
     </message>
     <message>
-        <source>In order</source>
+        <source>OK</source>
         <translation>En ordre</translation>
     </message>
     <message>
@@ -1014,15 +1014,15 @@
         <translation>Examen de cet ordinateur…</translation>
     </message>
     <message>
-        <source>Nothing was found out.</source>
+        <source>The check gave no result.</source>
         <translation>Rien n’a pu être établi.</translation>
     </message>
     <message>
-        <source>Nothing was found that keeps Veldmark from connecting.</source>
+        <source>No problem was found that keeps Veldmark from connecting.</source>
         <translation>Rien n’a été trouvé qui empêche Veldmark de se connecter.</translation>
     </message>
     <message>
-        <source>Veldmark can&apos;t connect before each problem is mended.</source>
+        <source>Veldmark can&apos;t connect until each problem is fixed.</source>
         <translation>Veldmark ne peut pas se connecter tant qu’il reste un problème.</translation>
     </message>
 </context>
@@ -1089,7 +1089,7 @@
         <translation>Afficher les fichiers journaux dans le gestionnaire de fichiers</translation>
     </message>
     <message>
-        <source>There are no log files yet: Tor makes %1 when it is first started.</source>
+        <source>There are no log files yet. Tor creates %1 when it first starts.</source>
         <translation>Il n’y a pas encore de fichiers journaux : Tor crée %1 à son premier démarrage.</translation>
     </message>
     <message>
@@ -1187,11 +1187,11 @@
         <translation>Pas de réponse</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but the kill switch isn&apos;t known to close that path</source>
+        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>Une connexion directe sans passer par Tor est restée sans réponse, mais on ne sait pas si le kill switch bloque ce chemin</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t close that path</source>
+        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>Une connexion directe sans passer par Tor est restée sans réponse, mais le mode proxy ne bloque pas ce chemin</translation>
     </message>
     <message>
@@ -1408,7 +1408,7 @@
 <context>
     <name>veldmark::Text</name>
     <message>
-        <source>Tor hasn&apos;t confirmed that it is on the network again, so nothing may get through. Veldmark goes on telling it to; else disconnect and connect again.</source>
+        <source>Tor hasn&apos;t confirmed that it uses the network again, so traffic may not get through. Veldmark keeps telling Tor to. If this lasts, disconnect and connect again.</source>
         <translation>Tor n’a pas confirmé qu’il est de nouveau sur le réseau : il se peut que rien ne passe. Veldmark continue de le lui demander ; si cela ne suffit pas, déconnectez-vous puis reconnectez-vous.</translation>
     </message>
     <message>
@@ -1416,7 +1416,7 @@
         <translation>La version %1 est proposée, mais elle est plus ancienne que la version installée, %2. Rien n’a été modifié.</translation>
     </message>
     <message>
-        <source>What came as version %1 is another one, so it was discarded.</source>
+        <source>The download of version %1 contains another version, so it was discarded.</source>
         <translation>Ce qui a été reçu comme version %1 en est une autre et a donc été rejeté.</translation>
     </message>
     <message>
@@ -1424,11 +1424,11 @@
         <translation>Le téléchargement recommencera une fois Tor connecté…</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no place for Tor: give the whole path, such as /usr/bin/tor.</source>
+        <source>&quot;%1&quot; is not a location of Tor. Give an absolute path, such as /usr/bin/tor.</source>
         <translation>« %1 » ne peut pas être l’emplacement de Tor : indiquez le chemin complet, par exemple /usr/bin/tor.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; holds for the whole connection. Disconnect to change it.</source>
+        <source>&quot;%1&quot; can&apos;t be changed during a connection. Disconnect to change it.</source>
         <translation>« %1 » vaut pour toute la connexion. Déconnectez-vous pour le modifier.</translation>
     </message>
     <message>
@@ -1485,11 +1485,11 @@
     </message>
     <message>
         <source>Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor s’est arrêté. Le kill switch continue de bloquer le trafic : il n’y a donc pas eu de fuite. Reconnectez-vous, ou rétablissez le réseau pour revenir en ligne.</translation>
+        <translation>Tor s’est arrêté. Le kill switch continue de bloquer le trafic : il n’y a donc pas eu de fuite. Reconnectez-vous, ou rétablissez le réseau pour revenir en ligne sans Tor.</translation>
     </message>
     <message>
-        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks have seen some go around Tor. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor s’est arrêté. Le kill switch continue de bloquer le trafic, mais les dernières vérifications en ont vu contourner Tor. Reconnectez-vous, ou rétablissez le réseau pour revenir en ligne.</translation>
+        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks saw traffic go around Tor. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>Tor s’est arrêté. Le kill switch continue de bloquer le trafic, mais les dernières vérifications en ont vu contourner Tor. Reconnectez-vous, ou rétablissez le réseau pour revenir en ligne sans Tor.</translation>
     </message>
     <message>
         <source>Tor stopped running. Apps using the proxy can&apos;t connect until you reconnect or Restore Network.</source>
@@ -1592,19 +1592,19 @@
         <translation>Tor s’est arrêté, et votre réseau n’est plus configuré pour lui.</translation>
     </message>
     <message>
-        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor s’est arrêté. Le kill switch bloque de nouveau le trafic, mais un autre programme en avait supprimé les règles pendant un moment. Reconnectez-vous, ou rétablissez le réseau pour revenir en ligne.</translation>
+        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>Tor s’est arrêté. Le kill switch bloque de nouveau le trafic, mais un autre programme en avait supprimé les règles pendant un moment. Reconnectez-vous, ou rétablissez le réseau pour revenir en ligne sans Tor.</translation>
     </message>
     <message>
-        <source>Tor stopped running, and the kill switch is open: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
+        <source>Tor stopped running, and the kill switch doesn&apos;t block traffic: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
         <translation>Tor s’est arrêté, et le kill switch est inopérant : un autre programme en a supprimé les règles. Du trafic peut sortir directement de cet ordinateur. Reconnectez-vous ou rétablissez le réseau.</translation>
     </message>
     <message>
-        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor s’est arrêté, et on ne sait pas si le kill switch bloque encore le trafic. Reconnectez-vous, ou rétablissez le réseau pour revenir en ligne.</translation>
+        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>Tor s’est arrêté, et on ne sait pas si le kill switch bloque encore le trafic. Reconnectez-vous, ou rétablissez le réseau pour revenir en ligne sans Tor.</translation>
     </message>
     <message>
-        <source>The watcher over Veldmark&apos;s firewall rules has stopped telling, so it isn&apos;t known whether the kill switch stands. Disconnect and connect again.</source>
+        <source>The watcher of Veldmark&apos;s firewall rules has stopped reporting, so it isn&apos;t known whether the kill switch blocks traffic. Disconnect and connect again.</source>
         <translation>La surveillance des règles de pare-feu de Veldmark ne répond plus : on ne sait pas si le kill switch est en place. Déconnectez-vous puis reconnectez-vous.</translation>
     </message>
     <message>
@@ -1636,7 +1636,7 @@
         <translation>Fuite DNS</translation>
     </message>
     <message>
-        <source>Kill Switch Open</source>
+        <source>Kill Switch Failed</source>
         <translation>Kill switch inopérant</translation>
     </message>
     <message>
@@ -1656,8 +1656,8 @@
         <translation>Votre adresse réelle est visible. Déconnectez-vous ou relancez le test de fuite.</translation>
     </message>
     <message>
-        <source>It can&apos;t be told whether the kill switch stands. Disconnect and connect again.</source>
-        <translation>Impossible de savoir si le kill switch est en place. Déconnectez-vous puis reconnectez-vous.</translation>
+        <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Disconnect and connect again.</source>
+        <translation>Impossible de savoir si le kill switch bloque le trafic. Déconnectez-vous puis reconnectez-vous.</translation>
     </message>
     <message>
         <source>All traffic is locked to Tor, but the exit could not be confirmed</source>
@@ -1676,7 +1676,7 @@
         <translation>Rien ne passe</translation>
     </message>
     <message>
-        <source>This computer has no network. Nothing gets out around Tor meanwhile.</source>
+        <source>This computer has no network. Traffic around Tor stays blocked.</source>
         <translation>Cet ordinateur n’a pas de réseau. En attendant, rien ne sort en contournant Tor.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>Cet ordinateur n’a pas de réseau. Veldmark reprend dès qu’il revient.</translation>
     </message>
     <message>
-        <source>Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile.</source>
+        <source>Tor has no working circuit and keeps trying. Traffic around Tor stays blocked.</source>
         <translation>Tor n’a aucun circuit qui fonctionne et continue d’essayer. En attendant, rien ne sort en le contournant.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>Tor n’a aucun circuit qui fonctionne et continue d’essayer.</translation>
     </message>
     <message>
-        <source>Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile.</source>
+        <source>Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked.</source>
         <translation>Tor ne reçoit aucune réponse du réseau et continue d’essayer. En attendant, rien ne sort en le contournant.</translation>
     </message>
     <message>
@@ -1700,7 +1700,7 @@
         <translation>Tor ne reçoit aucune réponse du réseau et continue d’essayer.</translation>
     </message>
     <message>
-        <source>Another program has ended this session and begun one of its own. Restore Network ends that one.</source>
+        <source>Another program has ended this session and started its own. Restore Network ends that session.</source>
         <translation>Un autre programme a mis fin à cette session et en a commencé une autre. « Rétablir le réseau » met fin à cette dernière.</translation>
     </message>
     <message>
@@ -1752,7 +1752,7 @@
         <translation>Les droits d’administration ont été refusés, ou l’agent qui demande le mot de passe n’a pas répondu.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out, so Tor can&apos;t connect: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic, so Tor can&apos;t connect: %1.</source>
         <translation>Un autre pare-feu de cet ordinateur refuse les connexions sortantes, Tor ne peut donc pas se connecter : %1.</translation>
     </message>
     <message>
@@ -1808,11 +1808,11 @@
         <translation>Impossible d’ouvrir %1 sans Tor : %2</translation>
     </message>
     <message>
-        <source>Another Veldmark of yours has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <source>Another Veldmark of yours has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
         <translation>Un autre de vos Veldmark a commencé une session entre-temps ; rien n’a donc été arrêté. Déconnectez-vous de nouveau pour y mettre fin.</translation>
     </message>
     <message>
-        <source>Another user&apos;s Veldmark has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <source>Another user&apos;s Veldmark has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
         <translation>Le Veldmark d’un autre utilisateur a commencé une session entre-temps ; rien n’a donc été arrêté. Déconnectez-vous de nouveau pour y mettre fin.</translation>
     </message>
     <message>
@@ -1888,7 +1888,7 @@
         <translation>Le serveur n’a pas donné de réponse HTTP.</translation>
     </message>
     <message>
-        <source>The connection was lost before the end.</source>
+        <source>The connection was lost before the download ended.</source>
         <translation>La connexion a été perdue avant la fin.</translation>
     </message>
     <message>
@@ -1900,7 +1900,7 @@
         <translation>Tor a fermé la connexion de contrôle.</translation>
     </message>
     <message>
-        <source>Another program than Tor listens on Tor&apos;s control port.</source>
+        <source>A program other than Tor listens on Tor&apos;s control port.</source>
         <translation>Un programme autre que Tor est à l’écoute sur le port de contrôle de Tor.</translation>
     </message>
     <message>
@@ -1928,7 +1928,7 @@
         <translation>Impossible de demander les droits d’administration : aucun agent d’authentification PolicyKit n’est actif dans cette session.</translation>
     </message>
     <message>
-        <source>The password could not be checked: polkit takes none from this terminal. Run it with sudo.</source>
+        <source>The password could not be checked: polkit accepts no password from this terminal. Run the command with sudo.</source>
         <translation>Le mot de passe n’a pas pu être vérifié : polkit n’en accepte pas depuis ce terminal. Exécutez la commande avec sudo.</translation>
     </message>
     <message>
@@ -2032,7 +2032,7 @@
         <translation>%1 est déjà en cours d’ouverture.</translation>
     </message>
     <message>
-        <source>A session is open, and its kill switch isn&apos;t closed: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
+        <source>A session is open, and its kill switch doesn&apos;t block traffic: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
         <translation>Une session est en cours, et son kill switch est inopérant : sa surveillance n’a pas pu rétablir les règles. Du trafic peut sortir directement de cet ordinateur. Rétablissez le réseau, puis reconnectez-vous.</translation>
     </message>
     <message>
@@ -2044,7 +2044,7 @@
         <translation>L’horloge est réglée par le réseau. Elle indique %1.</translation>
     </message>
     <message>
-        <source>Whether the clock is right isn&apos;t known: nothing is seen to set it from the network. It shows %1. Tor needs it right to within minutes.</source>
+        <source>It isn&apos;t known whether the clock is right: no time service seems to set it. It shows %1. Tor needs it right to within minutes.</source>
         <translation>On ne sait pas si l’horloge est juste : rien ne semble la régler par le réseau. Elle indique %1. Tor a besoin qu’elle soit juste à quelques minutes près.</translation>
     </message>
     <message>
@@ -2060,11 +2060,11 @@
         <translation>Le pare-feu du système n’est pas utilisable : %1</translation>
     </message>
     <message>
-        <source>The kernel that runs (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
+        <source>The running kernel (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
         <translation>Le noyau en cours d’exécution (%1) n’a pas nftables. Après une mise à niveau du noyau, redémarrez l’ordinateur.</translation>
     </message>
     <message>
-        <source>nftables is installed. Whether the kernel that runs can use it is known to root only.</source>
+        <source>nftables is installed. Only root can tell whether the running kernel can use it.</source>
         <translation>nftables est installé. Seul root peut savoir si le noyau en cours d’exécution peut l’utiliser.</translation>
     </message>
     <message>
@@ -2084,11 +2084,11 @@
         <translation>Des applications peuvent être ouvertes sans Tor : les groupes de contrôle version 2 sont présents.</translation>
     </message>
     <message>
-        <source>No other firewall that is known by name runs. The rules themselves are known to root only.</source>
+        <source>No other firewall that Veldmark knows runs. Only root can read the rules themselves.</source>
         <translation>Aucun autre pare-feu connu par son nom n’est actif. Seul root peut connaître les règles elles-mêmes.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out unless one of its rules allows it, so Tor may not get through: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic that its rules don&apos;t allow, so Tor may not get through: %1.</source>
         <translation>Un autre pare-feu de cet ordinateur refuse les connexions sortantes qu’aucune de ses règles n’autorise ; il se peut donc que Tor ne passe pas : %1.</translation>
     </message>
     <message>
@@ -2108,11 +2108,11 @@
         <translation>Il n’y a pas ici de bureau sur lequel une fenêtre pourrait demander le mot de passe administrateur. Utilisez sudo.</translation>
     </message>
     <message>
-        <source>No program that is known to ask for polkit&apos;s passwords (an agent) runs in your session. Without one, use sudo, or start an agent such as lxpolkit.</source>
+        <source>No known polkit agent, the program that asks for the password, runs in your session. Use sudo, or start an agent such as lxpolkit.</source>
         <translation>Aucun programme connu pour demander les mots de passe de polkit (agent) n’est actif dans votre session. Sans agent, utilisez sudo, ou démarrez un agent comme lxpolkit.</translation>
     </message>
     <message>
-        <source>polkit is there, and a program that asks for its passwords runs in your session.</source>
+        <source>polkit is installed, and an agent that asks for the password runs in your session.</source>
         <translation>polkit est présent, et un programme qui demande ses mots de passe est actif dans votre session.</translation>
     </message>
     <message>
@@ -2120,15 +2120,15 @@
         <translation>Veldmark s’exécute ici en tant que root et ne demande aucun mot de passe.</translation>
     </message>
     <message>
-        <source>Connecting without a password is set up.</source>
-        <translation>La connexion sans mot de passe est configurée.</translation>
+        <source>Passwordless mode is set up.</source>
+        <translation>Le mode sans mot de passe est configuré.</translation>
     </message>
     <message>
-        <source>sudo isn&apos;t installed. Connecting without a password needs it.</source>
-        <translation>sudo n’est pas installé. La connexion sans mot de passe en a besoin.</translation>
+        <source>sudo isn&apos;t installed. Passwordless mode needs it.</source>
+        <translation>sudo n’est pas installé. Le mode sans mot de passe en a besoin.</translation>
     </message>
     <message>
-        <source>sudo is installed. Whether you may use it is known to root only.</source>
+        <source>sudo is installed. Only root can tell whether you may use it.</source>
         <translation>sudo est installé. Seul root peut savoir si vous avez le droit de l’utiliser.</translation>
     </message>
     <message>
@@ -2156,7 +2156,7 @@
         <translation>Les ports nécessaires à Tor (9050, 9051 et 293) sont libres.</translation>
     </message>
     <message>
-        <source>The location of Tor in the settings, %1, is no program that can run. The usual places are searched instead.</source>
+        <source>The location of Tor in the settings, %1, is not an executable program. Veldmark searches the usual places instead.</source>
         <translation>L’emplacement de Tor dans les paramètres, %1, n’est pas un programme exécutable. La recherche se fait aux emplacements habituels.</translation>
     </message>
     <message>
@@ -2164,7 +2164,7 @@
         <translation>Tor n’est pas installé.</translation>
     </message>
     <message>
-        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it doesn&apos;t tell its version.</source>
+        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it prints no version.</source>
         <translation>%1 ne démarre pas ou n’est pas Tor : il n’indique pas sa version.</translation>
     </message>
     <message>
@@ -2184,11 +2184,11 @@
         <translation>Le script auxiliaire de Veldmark est absent. Réinstallez Veldmark.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper, %1, lies where others than root can write. They can change it, and with it what the administrator&apos;s password runs.</source>
+        <source>Accounts other than root can change Veldmark&apos;s helper, %1, and with it what the administrator&apos;s password runs.</source>
         <translation>Le programme auxiliaire de Veldmark, %1, se trouve là où d’autres que root peuvent écrire. Ils peuvent le modifier, et donc changer ce qui s’exécute avec le mot de passe administrateur.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper, %1, is not an installed one: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
+        <source>Veldmark&apos;s helper, %1, is not installed: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
         <translation>Le programme auxiliaire de Veldmark, %1, n’est pas un programme installé : le compte %2 peut le modifier, et donc changer ce qui s’exécute avec le mot de passe administrateur.</translation>
     </message>
     <message>
@@ -2196,11 +2196,11 @@
         <translation>Le programme auxiliaire de Veldmark est installé, et seul root peut le modifier : %1.</translation>
     </message>
     <message>
-        <source>The helper that runs without a password is not this version&apos;s. Set up connecting without a password again in Settings, General.</source>
-        <translation>Le programme auxiliaire qui s’exécute sans mot de passe n’est pas celui de cette version. Configurez de nouveau la connexion sans mot de passe dans « Paramètres → Général ».</translation>
+        <source>The helper of passwordless mode belongs to another version. Set up passwordless mode again in Settings, General.</source>
+        <translation>Le programme auxiliaire du mode sans mot de passe est celui d’une autre version. Configurez de nouveau le mode sans mot de passe dans « Paramètres → Général ».</translation>
     </message>
     <message>
-        <source>Bridges are off. Where Tor is blocked they need bridge programs, and none was found.</source>
+        <source>Bridges are off. Bridges need bridge programs where Tor is blocked, and none was found.</source>
         <translation>Les ponts sont désactivés. Là où Tor est bloqué, ils nécessitent des programmes de pont, et aucun n’a été trouvé.</translation>
     </message>
     <message>
@@ -2216,19 +2216,19 @@
         <translation>Les ponts choisis (%1) sont utilisables : %2.</translation>
     </message>
     <message>
-        <source>Names are looked up as %1 says. Veldmark switches that over and back.</source>
+        <source>%1 manages DNS. Veldmark changes that while connected and restores it afterwards.</source>
         <translation>Les noms sont résolus comme l’indique %1. Veldmark change ce réglage, puis le rétablit.</translation>
     </message>
     <message>
-        <source>%1 is Veldmark&apos;s. It names Tor as the name server.</source>
+        <source>Veldmark wrote %1. It points DNS at Tor.</source>
         <translation>%1 vient de Veldmark. Tor y est indiqué comme serveur de noms.</translation>
     </message>
     <message>
-        <source>There is no file %1, so names may not be looked up at all.</source>
+        <source>The file %1 is missing, so DNS may not work at all.</source>
         <translation>Le fichier %1 n’existe pas : il se peut que les noms ne soient pas résolus du tout.</translation>
     </message>
     <message>
-        <source>Names are looked up by a resolver on this computer. Veldmark switches that over and back.</source>
+        <source>A resolver on this computer answers DNS. Veldmark changes that while connected and restores it afterwards.</source>
         <translation>Les noms sont résolus par un résolveur sur cet ordinateur. Veldmark change ce réglage, puis le rétablit.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>Une session est en cours : le réseau est configuré pour Tor, et Tor fonctionne.</translation>
     </message>
     <message>
-        <source>The network is set up for Tor. Whether Tor still runs isn&apos;t known here.</source>
+        <source>The network is set up for Tor. It isn&apos;t known whether Tor still runs.</source>
         <translation>Le réseau est configuré pour Tor. Impossible de savoir ici si Tor fonctionne encore.</translation>
     </message>
     <message>
@@ -2252,8 +2252,8 @@
         <translation>Le réseau est encore configuré pour Tor par une session précédente, et aucun Tor n’est actif. Reconnectez-vous ou rétablissez le réseau.</translation>
     </message>
     <message>
-        <source>A session is open, and it isn&apos;t known whether its kill switch stands: nobody watches over the rules. Restore the network, and connect again.</source>
-        <translation>Une session est en cours, et on ne sait pas si son kill switch est en place : personne ne surveille les règles. Rétablissez le réseau, puis reconnectez-vous.</translation>
+        <source>A session is open, and it isn&apos;t known whether its kill switch blocks traffic: no watcher watches the rules. Restore the network, and connect again.</source>
+        <translation>Une session est en cours, et on ne sait pas si son kill switch bloque le trafic : aucun programme ne surveille les règles. Rétablissez le réseau, puis reconnectez-vous.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -2268,7 +2268,7 @@
         <translation>%1 sur %2 Mo (%3 %)</translation>
     </message>
     <message>
-        <source>Veldmark needs administrator access to manage Tor routing on this computer. The system&apos;s own Tor service, where it runs, is stopped meanwhile.</source>
+        <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
         <translation>Veldmark a besoin des droits d’administration pour gérer le routage par Tor sur cet ordinateur. Le service Tor du système, s’il est actif, est arrêté pendant ce temps.</translation>
     </message>
     <message>
@@ -2276,7 +2276,7 @@
         <translation>Veldmark a besoin des droits d’administration pour gérer le routage par Tor sur ce Mac.</translation>
     </message>
     <message>
-        <source>The archive holds %1: %2</source>
+        <source>The archive contains %1: %2</source>
         <translation>L’archive contient %1 : %2</translation>
     </message>
     <message>
@@ -2288,7 +2288,7 @@
         <translation>un lien physique</translation>
     </message>
     <message>
-        <source>what is neither file nor folder</source>
+        <source>an entry that is neither a file nor a folder</source>
         <translation>un élément qui n’est ni un fichier ni un dossier</translation>
     </message>
     <message>
@@ -2296,15 +2296,15 @@
         <translation>un chemin qui mène ailleurs</translation>
     </message>
     <message>
-        <source>The archive is empty or no archive.</source>
+        <source>The file is empty or not an archive.</source>
         <translation>L’archive est vide ou n’est pas une archive.</translation>
     </message>
     <message>
-        <source>The archive&apos;s list of files is not clear.</source>
+        <source>The archive&apos;s list of files is ambiguous.</source>
         <translation>La liste des fichiers de l’archive n’est pas claire.</translation>
     </message>
     <message>
-        <source>The archive holds too many files.</source>
+        <source>The archive contains too many files.</source>
         <translation>L’archive contient trop de fichiers.</translation>
     </message>
     <message>
@@ -2392,7 +2392,7 @@
         <translation>%1 nécessite une clé et une valeur : veldmarkctl %1 KEY VALUE.</translation>
     </message>
     <message>
-        <source>What should I do? &quot;veldmarkctl help&quot; lists the commands.</source>
+        <source>A command is missing. &quot;veldmarkctl help&quot; lists the commands.</source>
         <translation>Que faut-il faire ? « veldmarkctl help » affiche la liste des commandes.</translation>
     </message>
     <message>
@@ -2434,7 +2434,7 @@
         <translation>introuvable</translation>
     </message>
     <message>
-        <source>doesn&apos;t say what it serves</source>
+        <source>doesn&apos;t say which transports it serves</source>
         <translation>n’indique pas ce qu’il gère</translation>
     </message>
     <message>
@@ -2514,7 +2514,7 @@
         <translation>Une connexion n’est pas encore possible.</translation>
     </message>
     <message>
-        <source>A connect can&apos;t work before each &quot;problem&quot; is mended.</source>
+        <source>A connect can&apos;t work until each &quot;problem&quot; is fixed.</source>
         <translation>Aucune connexion n’est possible tant qu’il reste un « problème ».</translation>
     </message>
     <message>
@@ -2530,20 +2530,20 @@
         <translation>strict</translation>
     </message>
     <message>
-        <source>stands, since %1</source>
+        <source>blocks traffic, since %1</source>
         <translation>en place, depuis %1</translation>
     </message>
     <message>
-        <source>stands; put back at %1 after another program had removed it</source>
+        <source>blocks traffic; put back at %1 after another program had removed it</source>
         <translation>en place ; rétabli (%1) après sa suppression par un autre programme</translation>
     </message>
     <message>
-        <source>OPEN since %1: traffic may leave this computer directly</source>
+        <source>NOT BLOCKING since %1: traffic may leave this computer directly</source>
         <translation>INOPÉRANT depuis %1 : du trafic peut sortir directement de cet ordinateur</translation>
     </message>
     <message>
-        <source>isn&apos;t known to stand, since %1</source>
-        <translation>on ne sait pas s’il est en place, depuis %1</translation>
+        <source>isn&apos;t known to block traffic, since %1</source>
+        <translation>on ne sait pas s’il bloque le trafic, depuis %1</translation>
     </message>
     <message>
         <source>not checked yet</source>
@@ -2570,11 +2570,11 @@
         <translation>bloqué</translation>
     </message>
     <message>
-        <source>no answer, but the kill switch isn&apos;t known to close it</source>
+        <source>no answer, but it isn&apos;t known whether the kill switch blocks it</source>
         <translation>pas de réponse, mais on ne sait pas si le kill switch le bloque</translation>
     </message>
     <message>
-        <source>no answer, but proxy mode doesn&apos;t close it</source>
+        <source>no answer, but proxy mode doesn&apos;t block it</source>
         <translation>pas de réponse, mais le mode proxy ne le bloque pas</translation>
     </message>
     <message>
@@ -2582,7 +2582,7 @@
         <translation>vérification…</translation>
     </message>
     <message>
-        <source>couldn&apos;t be told</source>
+        <source>inconclusive</source>
         <translation>indéterminé</translation>
     </message>
     <message>
@@ -2718,11 +2718,11 @@
         <translation>« %1 » n’est ni true ni false.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no JSON array of strings.</source>
+        <source>&quot;%1&quot; is not a JSON array of strings.</source>
         <translation>« %1 » n’est pas un tableau JSON de chaînes.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no bridge choice: off, obfs4, snowflake, meek or custom.</source>
+        <source>&quot;%1&quot; is not a bridge choice: off, obfs4, snowflake, meek or custom.</source>
         <translation>« %1 » n’est pas un choix de ponts : off, obfs4, snowflake, meek ou custom.</translation>
     </message>
     <message>
@@ -2734,15 +2734,15 @@
         <translation>La connexion de Tor n’a pas abouti en 5 minutes. (%1)</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
+        <source>&quot;%1&quot; is not an exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
         <translation>« %1 » n’est pas un pays de sortie : deux lettres minuscules comme « fr », ou rien pour un pays quelconque.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no application: an absolute path that ends in &quot;%2&quot;.</source>
+        <source>&quot;%1&quot; is not an application: an absolute path that ends in &quot;%2&quot;.</source>
         <translation>« %1 » n’est pas une application : il faut un chemin absolu qui se termine par « %2 ».</translation>
     </message>
     <message>
-        <source>the kill switch, else proxy mode</source>
+        <source>strict mode with the kill switch, else proxy mode</source>
         <translation>le kill switch, sinon le mode proxy</translation>
     </message>
     <message>
@@ -2754,7 +2754,7 @@
         <translation>deux lettres minuscules, ou rien pour un pays quelconque</translation>
     </message>
     <message>
-        <source>the tor to use, or nothing to search for it</source>
+        <source>the path of the tor to use, or nothing to search for tor</source>
         <translation>le tor à utiliser, ou rien pour le rechercher</translation>
     </message>
     <message>
@@ -2794,7 +2794,7 @@
         <translation>« set » nécessite une « key » et une « value », toutes deux des chaînes.</translation>
     </message>
     <message>
-        <source>Already connected, or on the way; &quot;veldmarkctl status&quot; says more.</source>
+        <source>Already connected or connecting; &quot;veldmarkctl status&quot; says more.</source>
         <translation>Déjà connecté, ou en train de l’être ; « veldmarkctl status » en dit plus.</translation>
     </message>
     <message>
@@ -2870,7 +2870,7 @@
         <translation>continuer jusqu’à Ctrl-C</translation>
     </message>
     <message>
-        <source>how things stand; --watch goes on until Ctrl-C</source>
+        <source>print the connection&apos;s state; --watch goes on until Ctrl-C</source>
         <translation>l’état actuel ; --watch continue jusqu’à Ctrl-C</translation>
     </message>
     <message>
@@ -2882,7 +2882,7 @@
         <translation>rétablir le réseau et arrêter Tor</translation>
     </message>
     <message>
-        <source>the same, also for what a crash left behind</source>
+        <source>restore the network and stop Tor, also after a crash</source>
         <translation>de même, y compris après un plantage</translation>
     </message>
     <message>
@@ -2898,7 +2898,7 @@
         <translation>les circuits de Tor et leurs sites</translation>
     </message>
     <message>
-        <source>close one; its sites get a fresh path on their next request</source>
+        <source>close a circuit; its sites get a fresh path on their next request</source>
         <translation>en fermer un ; ses sites prennent un nouveau chemin à leur prochaine requête</translation>
     </message>
     <message>
@@ -2944,8 +2944,8 @@ fichier ou d’un programme. Les copies ouvertes sont d’abord priées de quitt
         <translation>launch nécessite une application ; voir « veldmarkctl apps ».</translation>
     </message>
     <message>
-        <source>look at this computer: what a connect needs, what is in its way, and what
-mends it. Changes nothing; ends with 0 when a connect can work</source>
+        <source>check what a connect needs on this computer, what blocks it and how to fix
+it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>examiner cet ordinateur : ce qu’exige une connexion, ce qui l’empêche et
 comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible</translation>
     </message>
@@ -3014,11 +3014,11 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Le programme est en cours de fermeture.</translation>
     </message>
     <message>
-        <source>The strict session that is running is replaced, and may protect you less.</source>
+        <source>Veldmark replaces the running strict session. The new session may protect you less.</source>
         <translation>La session stricte en cours est remplacée ; la nouvelle peut moins vous protéger.</translation>
     </message>
     <message>
-        <source>Veldmark wants to run %1 as a part of Tor. No package of the system brought it. Its SHA-256 is %2.</source>
+        <source>Veldmark wants to run %1 as a part of Tor. No package of the system installed it. Its SHA-256 is %2.</source>
         <translation>Veldmark veut exécuter %1 comme élément de Tor. Ce fichier ne provient d’aucun paquet du système. Son empreinte SHA-256 est %2.</translation>
     </message>
     <message>
@@ -3070,7 +3070,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Un mot de passe administrateur est nécessaire pour approuver %1.</translation>
     </message>
     <message>
-        <source>An administrator password is needed to change the strict session that is running.</source>
+        <source>An administrator password is needed to change the running strict session.</source>
         <translation>Un mot de passe administrateur est nécessaire pour modifier la session stricte en cours.</translation>
     </message>
     <message>
@@ -3082,7 +3082,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Un mot de passe administrateur est nécessaire pour cette configuration.</translation>
     </message>
     <message>
-        <source>Another program (process %1) has begun a session since. It was left alone.</source>
+        <source>Another program (process %1) has started a session meanwhile. That session was left alone.</source>
         <translation>Un autre programme (processus %1) a commencé une session entre-temps. Elle n’a pas été modifiée.</translation>
     </message>
     <message>
@@ -3094,7 +3094,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Aucune application n’est ouverte en tant que root.</translation>
     </message>
     <message>
-        <source>Applications can be opened for the user who asks only.</source>
+        <source>The helper opens applications only for the user who asks.</source>
         <translation>Une application ne peut être ouverte que pour l’utilisateur qui le demande.</translation>
     </message>
     <message>
@@ -3106,12 +3106,12 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Plus de %1 ponts ont été indiqués.</translation>
     </message>
     <message>
-        <source>Only the user who asks can be let in.</source>
+        <source>Passwordless mode can be set up only for the user who asks.</source>
         <translation>Seul l’utilisateur qui le demande peut être autorisé.</translation>
     </message>
     <message>
-        <source>Somebody else is changing the firewall. Try again in a moment.</source>
-        <translation>Quelqu’un d’autre est en train de modifier le pare-feu. Réessayez dans un instant.</translation>
+        <source>Another program is changing the firewall. Try again in a moment.</source>
+        <translation>Un autre programme est en train de modifier le pare-feu. Réessayez dans un instant.</translation>
     </message>
     <message>
         <source>The DNS servers of systemd-resolved cannot be changed.</source>
@@ -3144,6 +3144,10 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
     <message>
         <source>The caller&apos;s user id is not a number.</source>
         <translation>L’identifiant utilisateur de l’appelant n’est pas un nombre.</translation>
+    </message>
+    <message>
+        <source>The control group for Tor cannot be made.</source>
+        <translation>Le groupe de contrôle pour Tor ne peut pas être créé.</translation>
     </message>
     <message>
         <source>The control group of the applications without Tor could not be removed.</source>
@@ -3186,7 +3190,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Les fichiers de %1 ne peuvent pas être supprimés.</translation>
     </message>
     <message>
-        <source>The firewall cannot be looked at, so nothing was done.</source>
+        <source>The firewall rules cannot be read, so nothing was done.</source>
         <translation>Le pare-feu ne peut pas être examiné ; rien n’a donc été fait.</translation>
     </message>
     <message>
@@ -3194,16 +3198,16 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Le pare-feu ne peut pas être activé (%1).</translation>
     </message>
     <message>
-        <source>The firewall cannot end the connections from before.</source>
+        <source>The firewall cannot end the earlier connections.</source>
         <translation>Le pare-feu ne peut pas couper les connexions ouvertes auparavant.</translation>
     </message>
     <message>
-        <source>The firewall could not be opened (%1).</source>
-        <translation>Le pare-feu n’a pas pu être ouvert (%1).</translation>
+        <source>The kill switch could not be switched off (%1).</source>
+        <translation>Le kill switch n’a pas pu être désactivé (%1).</translation>
     </message>
     <message>
-        <source>The firewall could not be opened, because somebody is changing it.</source>
-        <translation>Le pare-feu n’a pas pu être ouvert, car quelqu’un est en train de le modifier.</translation>
+        <source>The kill switch could not be switched off, because another program is changing the firewall.</source>
+        <translation>Le kill switch n’a pas pu être désactivé, car un autre programme est en train de modifier le pare-feu.</translation>
     </message>
     <message>
         <source>The firewall does not hold the rules that were loaded.</source>
@@ -3266,11 +3270,11 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Les dossiers au-dessus de celui de Veldmark ne sont pas sûrs : seul root doit les posséder et pouvoir y écrire.</translation>
     </message>
     <message>
-        <source>The folders below %1 cannot be looked at, so nothing was done.</source>
+        <source>The folders below %1 cannot be read, so nothing was done.</source>
         <translation>Les dossiers sous %1 ne peuvent pas être examinés ; rien n’a donc été fait.</translation>
     </message>
     <message>
-        <source>The folders below %1 cannot be looked at.</source>
+        <source>The folders below %1 cannot be read.</source>
         <translation>Les dossiers sous %1 ne peuvent pas être examinés.</translation>
     </message>
     <message>
@@ -3306,8 +3310,8 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Le journal interne ne peut pas être écrit.</translation>
     </message>
     <message>
-        <source>The kill switch is not on, so there is nothing to open the application past.</source>
-        <translation>Le kill switch n’est pas activé : il n’y a rien à contourner pour ouvrir l’application.</translation>
+        <source>The kill switch is not on, so no application needs to bypass it.</source>
+        <translation>Le kill switch n’est pas activé : aucune application n’a besoin de le contourner.</translation>
     </message>
     <message>
         <source>The launcher could not be copied to %1.</source>
@@ -3422,7 +3426,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Le chemin indiqué avec --app ne désigne aucune application.</translation>
     </message>
     <message>
-        <source>The port %1, which Tor needs, is held by %2. End that, then connect again.</source>
+        <source>The port %1, which Tor needs, is held by %2. End that program, then connect again.</source>
         <translation>Le port %1, nécessaire à Tor, est occupé par %2. Arrêtez ce programme, puis reconnectez-vous.</translation>
     </message>
     <message>
@@ -3450,7 +3454,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Le programme %1 est absent de ce système.</translation>
     </message>
     <message>
-        <source>The program %1 is not the one that was to be approved.</source>
+        <source>The SHA-256 of the program %1 is not the one to approve.</source>
         <translation>Le programme %1 n’est pas celui qui devait être approuvé.</translation>
     </message>
     <message>
@@ -3538,11 +3542,11 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>La commande uninstall-privileged n’accepte aucune option.</translation>
     </message>
     <message>
-        <source>The watcher over the firewall could not be started.</source>
+        <source>The watcher of the firewall rules could not be started.</source>
         <translation>La surveillance du pare-feu n’a pas pu être démarrée.</translation>
     </message>
     <message>
-        <source>The watcher over the firewall could not be stopped.</source>
+        <source>The watcher of the firewall rules could not be stopped.</source>
         <translation>La surveillance du pare-feu n’a pas pu être arrêtée.</translation>
     </message>
     <message>
@@ -3658,7 +3662,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>nft échoue.</translation>
     </message>
     <message>
-        <source>Ended without its display. Your network is still set up for Tor: start Veldmark again, or restore it with: %1</source>
+        <source>Ended because the display is gone. Your network is still set up for Tor: start Veldmark again, or restore the network with: %1</source>
         <translation>Arrêté après la perte de l’affichage. Votre réseau est encore configuré pour Tor : relancez Veldmark ou rétablissez le réseau avec : %1</translation>
     </message>
     <message>
@@ -3670,7 +3674,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Le réseau est de nouveau ouvert, mais l’interface de bouclage n’a pas pu être réglée comme avant. Essayez : ethtool -K lo %1 on.</translation>
     </message>
     <message>
-        <source>Applications are not told apart on this system.</source>
+        <source>This system can&apos;t tell applications apart.</source>
         <translation>Les applications ne sont pas distinguées sur ce système.</translation>
     </message>
     <message>
@@ -3690,11 +3694,11 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Aucune de vos applications n’a cette identité ; « veldmarkctl identities » en affiche la liste.</translation>
     </message>
     <message>
-        <source>The application has not got another identity.</source>
+        <source>The application did not get a new identity.</source>
         <translation>L’application n’a pas reçu d’autre identité.</translation>
     </message>
     <message>
-        <source>The program has not got an identity of its own, so it was not started.</source>
+        <source>The program did not get an identity of its own, so it was not started.</source>
         <translation>Le programme n’a pas reçu d’identité propre ; il n’a donc pas été démarré.</translation>
     </message>
     <message>
@@ -3702,7 +3706,7 @@ comment y remédier. Ne modifie rien ; renvoie 0 si une connexion est possible<
         <translation>Un nom comporte jusqu’à 40 lettres, chiffres, points et tirets bas.</translation>
     </message>
     <message>
-        <source>The program systemd-run is missing, which makes groups for programs.</source>
+        <source>The program systemd-run is missing. Veldmark needs it to make a group for a program.</source>
         <translation>Le programme systemd-run, qui crée des groupes pour les programmes, est absent.</translation>
     </message>
     <message>
@@ -3752,15 +3756,15 @@ le même nom dans la même session donne les mêmes circuits</translation>
         <translation>La valeur de --separate doit être 0 ou 1.</translation>
     </message>
     <message>
-        <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
+        <source>No package of the system installed %1. The next connect asks an administrator to approve it.</source>
         <translation>%1 ne provient d’aucun paquet du système. À la prochaine connexion, un administrateur est invité à l’approuver.</translation>
     </message>
     <message>
-        <source>Whether a connect can work isn&apos;t known.</source>
+        <source>It isn&apos;t known whether a connect can work.</source>
         <translation>On ne sait pas si une connexion est possible.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
         <translation>Un autre pare-feu de cet ordinateur refuse les connexions sortantes et aucune de ses règles n’en autorise, Tor ne peut donc pas passer : %1.</translation>
     </message>
 </context>

@@ -544,7 +544,7 @@
         <translation>Encontrar a causa</translation>
     </message>
     <message>
-        <source>Looks at this computer: what a connection needs, what is in its way, and what mends it</source>
+        <source>Checks what a connection needs on this computer, what blocks it and how to fix it</source>
         <translation>Examina este computador: o que uma conexão exige, o que a impede e como resolver</translation>
     </message>
     <message>
@@ -769,7 +769,7 @@
         <translation>Cada aplicativo tem seus próprios circuitos</translation>
     </message>
     <message>
-        <source>Sites cannot tell by the exit address that two applications are yours. Applications are told apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with all of their login session or account.</source>
+        <source>Sites cannot tell by the exit address that two applications are yours. Veldmark tells applications apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with the rest of their login session or account.</source>
         <translation>Os sites não conseguem saber, pelo endereço de saída, que dois aplicativos são seus. Os aplicativos são diferenciados quando o ambiente de trabalho inicia cada um em um grupo de controle próprio, como fazem o GNOME e o KDE. Os demais programas compartilham circuitos com tudo o que é da mesma sessão de login ou da mesma conta.</translation>
     </message>
 </context>
@@ -821,7 +821,7 @@
         <translation>Outro programa removeu as regras de firewall do Veldmark; elas já foram restauradas.</translation>
     </message>
     <message>
-        <source>The kill switch is open. Open Veldmark, disconnect and connect again.</source>
+        <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
         <translation>O kill switch não está em vigor. Abra o Veldmark, desconecte e conecte de novo.</translation>
     </message>
     <message>
@@ -829,8 +829,8 @@
         <translation>O kill switch não está sendo monitorado</translation>
     </message>
     <message>
-        <source>It can&apos;t be told whether it stands. Open Veldmark, disconnect and connect again.</source>
-        <translation>Não é possível saber se ele está em vigor. Abra o Veldmark, desconecte e conecte de novo.</translation>
+        <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Open Veldmark, disconnect and connect again.</source>
+        <translation>Não é possível saber se o kill switch está em vigor. Abra o Veldmark, desconecte e conecte de novo.</translation>
     </message>
 </context>
 <context>
@@ -840,7 +840,7 @@
         <translation>Veldmark</translation>
     </message>
     <message>
-        <source>A window could not be made. Your network is not affected; to restore it without Veldmark, run:
+        <source>Veldmark could not open a window. Your network is not affected. To restore it without Veldmark, run:
 %1
 
 %2</source>
@@ -862,7 +862,7 @@
         <translation>Sua rede ainda está configurada para o Tor</translation>
     </message>
     <message>
-        <source>Veldmark was told to end and could not restore it. Open Veldmark again to do so.</source>
+        <source>Veldmark had to close and could not restore the network. Open Veldmark again to restore it.</source>
         <translation>O Veldmark recebeu ordem de encerrar e não conseguiu restaurar a rede. Abra-o de novo para fazer isso.</translation>
     </message>
 </context>
@@ -939,7 +939,7 @@
         <translation> · clique em um relé ou site para acompanhá-lo</translation>
     </message>
     <message>
-        <source>Leads to an onion service, which meets it at its last relay</source>
+        <source>Leads to an onion service. The last relay is the meeting point.</source>
         <translation>Leva a um serviço onion, que o encontra no último relé</translation>
     </message>
     <message>
@@ -998,7 +998,7 @@
         <translation>Nota</translation>
     </message>
     <message>
-        <source>In order</source>
+        <source>OK</source>
         <translation>Em ordem</translation>
     </message>
     <message>
@@ -1014,15 +1014,15 @@
         <translation>Examinando este computador…</translation>
     </message>
     <message>
-        <source>Nothing was found out.</source>
+        <source>The check gave no result.</source>
         <translation>Nada foi descoberto.</translation>
     </message>
     <message>
-        <source>Nothing was found that keeps Veldmark from connecting.</source>
+        <source>No problem was found that keeps Veldmark from connecting.</source>
         <translation>Não foi encontrado nada que impeça o Veldmark de conectar.</translation>
     </message>
     <message>
-        <source>Veldmark can&apos;t connect before each problem is mended.</source>
+        <source>Veldmark can&apos;t connect until each problem is fixed.</source>
         <translation>O Veldmark não pode conectar antes que cada problema seja resolvido.</translation>
     </message>
 </context>
@@ -1089,7 +1089,7 @@
         <translation>Mostra os arquivos de registro no gerenciador de arquivos</translation>
     </message>
     <message>
-        <source>There are no log files yet: Tor makes %1 when it is first started.</source>
+        <source>There are no log files yet. Tor creates %1 when it first starts.</source>
         <translation>Ainda não há arquivos de registro: o Tor cria %1 quando é iniciado pela primeira vez.</translation>
     </message>
     <message>
@@ -1187,11 +1187,11 @@
         <translation>Sem resposta</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but the kill switch isn&apos;t known to close that path</source>
+        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>Uma conexão direta, sem passar pelo Tor, não teve resposta, mas não se sabe se o kill switch bloqueia essa rota</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t close that path</source>
+        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>Uma conexão direta, sem passar pelo Tor, não teve resposta, mas o modo proxy não bloqueia essa rota</translation>
     </message>
     <message>
@@ -1408,7 +1408,7 @@
 <context>
     <name>veldmark::Text</name>
     <message>
-        <source>Tor hasn&apos;t confirmed that it is on the network again, so nothing may get through. Veldmark goes on telling it to; else disconnect and connect again.</source>
+        <source>Tor hasn&apos;t confirmed that it uses the network again, so traffic may not get through. Veldmark keeps telling Tor to. If this lasts, disconnect and connect again.</source>
         <translation>O Tor não confirmou que voltou à rede, então talvez nada passe. O Veldmark continua pedindo que ele volte; se não adiantar, desconecte e conecte de novo.</translation>
     </message>
     <message>
@@ -1416,7 +1416,7 @@
         <translation>A versão oferecida, %1, é mais antiga que a instalada, %2. Nada foi alterado.</translation>
     </message>
     <message>
-        <source>What came as version %1 is another one, so it was discarded.</source>
+        <source>The download of version %1 contains another version, so it was discarded.</source>
         <translation>O que veio como versão %1 é outra versão e foi descartado.</translation>
     </message>
     <message>
@@ -1424,11 +1424,11 @@
         <translation>O download recomeça quando o Tor estiver conectado…</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no place for Tor: give the whole path, such as /usr/bin/tor.</source>
+        <source>&quot;%1&quot; is not a location of Tor. Give an absolute path, such as /usr/bin/tor.</source>
         <translation>“%1” não é um local válido para o Tor: informe o caminho completo, como /usr/bin/tor.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; holds for the whole connection. Disconnect to change it.</source>
+        <source>&quot;%1&quot; can&apos;t be changed during a connection. Disconnect to change it.</source>
         <translation>“%1” vale para toda a conexão. Desconecte para alterar.</translation>
     </message>
     <message>
@@ -1485,11 +1485,11 @@
     </message>
     <message>
         <source>Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. Reconnect, or Restore Network to go back online.</source>
-        <translation>O Tor parou de funcionar. O kill switch continua bloqueando o tráfego, então nada vazou. Reconecte, ou use “Restaurar rede” para voltar a ficar on-line.</translation>
+        <translation>O Tor parou de funcionar. O kill switch continua bloqueando o tráfego, então nada vazou. Reconecte, ou use “Restaurar rede” para voltar a ficar on-line sem o Tor.</translation>
     </message>
     <message>
-        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks have seen some go around Tor. Reconnect, or Restore Network to go back online.</source>
-        <translation>O Tor parou de funcionar. O kill switch continua bloqueando o tráfego, mas as últimas verificações viram parte dele passar por fora do Tor. Reconecte, ou use “Restaurar rede” para voltar a ficar on-line.</translation>
+        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks saw traffic go around Tor. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>O Tor parou de funcionar. O kill switch continua bloqueando o tráfego, mas as últimas verificações viram parte dele passar por fora do Tor. Reconecte, ou use “Restaurar rede” para voltar a ficar on-line sem o Tor.</translation>
     </message>
     <message>
         <source>Tor stopped running. Apps using the proxy can&apos;t connect until you reconnect or Restore Network.</source>
@@ -1592,19 +1592,19 @@
         <translation>O Tor parou de funcionar, e sua rede não está mais configurada para ele.</translation>
     </message>
     <message>
-        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go back online.</source>
-        <translation>O Tor parou de funcionar. O kill switch voltou a bloquear o tráfego, mas outro programa havia removido as regras dele por algum tempo. Reconecte, ou use “Restaurar rede” para voltar a ficar on-line.</translation>
+        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>O Tor parou de funcionar. O kill switch voltou a bloquear o tráfego, mas outro programa havia removido as regras dele por algum tempo. Reconecte, ou use “Restaurar rede” para voltar a ficar on-line sem o Tor.</translation>
     </message>
     <message>
-        <source>Tor stopped running, and the kill switch is open: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
+        <source>Tor stopped running, and the kill switch doesn&apos;t block traffic: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
         <translation>O Tor parou de funcionar, e o kill switch não está em vigor: outro programa removeu as regras dele. Pode haver tráfego saindo diretamente deste computador. Reconecte ou use “Restaurar rede”.</translation>
     </message>
     <message>
-        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go back online.</source>
-        <translation>O Tor parou de funcionar, e não se sabe se o kill switch ainda bloqueia o tráfego. Reconecte, ou use “Restaurar rede” para voltar a ficar on-line.</translation>
+        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>O Tor parou de funcionar, e não se sabe se o kill switch ainda bloqueia o tráfego. Reconecte, ou use “Restaurar rede” para voltar a ficar on-line sem o Tor.</translation>
     </message>
     <message>
-        <source>The watcher over Veldmark&apos;s firewall rules has stopped telling, so it isn&apos;t known whether the kill switch stands. Disconnect and connect again.</source>
+        <source>The watcher of Veldmark&apos;s firewall rules has stopped reporting, so it isn&apos;t known whether the kill switch blocks traffic. Disconnect and connect again.</source>
         <translation>O monitor das regras de firewall do Veldmark parou de informar, então não se sabe se o kill switch está em vigor. Desconecte e conecte de novo.</translation>
     </message>
     <message>
@@ -1636,7 +1636,7 @@
         <translation>Vazamento de DNS</translation>
     </message>
     <message>
-        <source>Kill Switch Open</source>
+        <source>Kill Switch Failed</source>
         <translation>Kill switch sem efeito</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>Seu endereço real pode ser visto. Desconecte ou repita o teste de vazamento.</translation>
     </message>
     <message>
-        <source>It can&apos;t be told whether the kill switch stands. Disconnect and connect again.</source>
+        <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Disconnect and connect again.</source>
         <translation>Não é possível saber se o kill switch está em vigor. Desconecte e conecte de novo.</translation>
     </message>
     <message>
@@ -1676,7 +1676,7 @@
         <translation>Nada passa</translation>
     </message>
     <message>
-        <source>This computer has no network. Nothing gets out around Tor meanwhile.</source>
+        <source>This computer has no network. Traffic around Tor stays blocked.</source>
         <translation>Este computador está sem rede. Enquanto isso, nada sai por fora do Tor.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>Este computador está sem rede. O Veldmark continua quando ela voltar.</translation>
     </message>
     <message>
-        <source>Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile.</source>
+        <source>Tor has no working circuit and keeps trying. Traffic around Tor stays blocked.</source>
         <translation>O Tor não tem nenhum circuito funcionando e continua tentando. Enquanto isso, nada sai por fora dele.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>O Tor não tem nenhum circuito funcionando e continua tentando.</translation>
     </message>
     <message>
-        <source>Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile.</source>
+        <source>Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked.</source>
         <translation>O Tor não recebe resposta da rede e continua tentando. Enquanto isso, nada sai por fora dele.</translation>
     </message>
     <message>
@@ -1700,7 +1700,7 @@
         <translation>O Tor não recebe resposta da rede e continua tentando.</translation>
     </message>
     <message>
-        <source>Another program has ended this session and begun one of its own. Restore Network ends that one.</source>
+        <source>Another program has ended this session and started its own. Restore Network ends that session.</source>
         <translation>Outro programa encerrou esta sessão e iniciou a dele. “Restaurar rede” encerra essa outra sessão.</translation>
     </message>
     <message>
@@ -1752,7 +1752,7 @@
         <translation>O acesso de administrador foi recusado, ou o agente que pede a senha não respondeu.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out, so Tor can&apos;t connect: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic, so Tor can&apos;t connect: %1.</source>
         <translation>Outro firewall neste computador bloqueia as conexões para fora, então o Tor não consegue conectar: %1.</translation>
     </message>
     <message>
@@ -1808,11 +1808,11 @@
         <translation>Não foi possível abrir %1 sem o Tor: %2</translation>
     </message>
     <message>
-        <source>Another Veldmark of yours has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <source>Another Veldmark of yours has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
         <translation>Outro Veldmark seu iniciou uma sessão nesse meio-tempo, então nada foi encerrado. Desconecte de novo para encerrá-la.</translation>
     </message>
     <message>
-        <source>Another user&apos;s Veldmark has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <source>Another user&apos;s Veldmark has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
         <translation>O Veldmark de outro usuário iniciou uma sessão nesse meio-tempo, então nada foi encerrado. Desconecte de novo para encerrá-la.</translation>
     </message>
     <message>
@@ -1888,7 +1888,7 @@
         <translation>O servidor não deu uma resposta HTTP.</translation>
     </message>
     <message>
-        <source>The connection was lost before the end.</source>
+        <source>The connection was lost before the download ended.</source>
         <translation>A conexão caiu antes do fim.</translation>
     </message>
     <message>
@@ -1900,7 +1900,7 @@
         <translation>O Tor fechou a conexão de controle.</translation>
     </message>
     <message>
-        <source>Another program than Tor listens on Tor&apos;s control port.</source>
+        <source>A program other than Tor listens on Tor&apos;s control port.</source>
         <translation>Outro programa, e não o Tor, escuta na porta de controle do Tor.</translation>
     </message>
     <message>
@@ -1928,7 +1928,7 @@
         <translation>Não é possível pedir acesso de administrador: nenhum agente de autenticação do PolicyKit está em execução nesta sessão.</translation>
     </message>
     <message>
-        <source>The password could not be checked: polkit takes none from this terminal. Run it with sudo.</source>
+        <source>The password could not be checked: polkit accepts no password from this terminal. Run the command with sudo.</source>
         <translation>Não foi possível verificar a senha: o polkit não aceita senhas deste terminal. Execute com sudo.</translation>
     </message>
     <message>
@@ -2032,7 +2032,7 @@
         <translation>%1 já está sendo aberto.</translation>
     </message>
     <message>
-        <source>A session is open, and its kill switch isn&apos;t closed: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
+        <source>A session is open, and its kill switch doesn&apos;t block traffic: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
         <translation>Há uma sessão aberta, e o kill switch dela não está em vigor: o monitor não conseguiu restaurar as regras. Pode haver tráfego saindo diretamente deste computador. Restaure a rede e conecte de novo.</translation>
     </message>
     <message>
@@ -2044,7 +2044,7 @@
         <translation>O relógio é acertado pela rede. Ele mostra %1.</translation>
     </message>
     <message>
-        <source>Whether the clock is right isn&apos;t known: nothing is seen to set it from the network. It shows %1. Tor needs it right to within minutes.</source>
+        <source>It isn&apos;t known whether the clock is right: no time service seems to set it. It shows %1. Tor needs it right to within minutes.</source>
         <translation>Não se sabe se o relógio está certo: não se vê nada que o acerte pela rede. Ele mostra %1. O Tor precisa dele certo, com poucos minutos de erro no máximo.</translation>
     </message>
     <message>
@@ -2060,11 +2060,11 @@
         <translation>O firewall do sistema não pode ser usado: %1</translation>
     </message>
     <message>
-        <source>The kernel that runs (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
+        <source>The running kernel (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
         <translation>O kernel em execução (%1) não tem nftables. Depois de atualizar o kernel, reinicie o computador.</translation>
     </message>
     <message>
-        <source>nftables is installed. Whether the kernel that runs can use it is known to root only.</source>
+        <source>nftables is installed. Only root can tell whether the running kernel can use it.</source>
         <translation>O nftables está instalado. Só o root pode saber se o kernel em execução consegue usá-lo.</translation>
     </message>
     <message>
@@ -2084,11 +2084,11 @@
         <translation>É possível abrir aplicativos sem o Tor: há grupos de controle da versão 2.</translation>
     </message>
     <message>
-        <source>No other firewall that is known by name runs. The rules themselves are known to root only.</source>
+        <source>No other firewall that Veldmark knows runs. Only root can read the rules themselves.</source>
         <translation>Nenhum outro firewall de nome conhecido está em execução. As regras em si, só o root pode ver.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out unless one of its rules allows it, so Tor may not get through: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic that its rules don&apos;t allow, so Tor may not get through: %1.</source>
         <translation>Outro firewall neste computador bloqueia as conexões para fora que nenhuma regra dele permita, então o Tor talvez não consiga passar: %1.</translation>
     </message>
     <message>
@@ -2108,11 +2108,11 @@
         <translation>Não há aqui um ambiente de trabalho em que uma janela possa pedir a senha de administrador. Use o sudo.</translation>
     </message>
     <message>
-        <source>No program that is known to ask for polkit&apos;s passwords (an agent) runs in your session. Without one, use sudo, or start an agent such as lxpolkit.</source>
+        <source>No known polkit agent, the program that asks for the password, runs in your session. Use sudo, or start an agent such as lxpolkit.</source>
         <translation>Nenhum programa conhecido que peça as senhas do polkit (um agente) está em execução na sua sessão. Sem ele, use o sudo ou inicie um agente, como o lxpolkit.</translation>
     </message>
     <message>
-        <source>polkit is there, and a program that asks for its passwords runs in your session.</source>
+        <source>polkit is installed, and an agent that asks for the password runs in your session.</source>
         <translation>O polkit está presente, e um programa que pede as senhas dele está em execução na sua sessão.</translation>
     </message>
     <message>
@@ -2120,15 +2120,15 @@
         <translation>O Veldmark está em execução como root aqui e não pede senha.</translation>
     </message>
     <message>
-        <source>Connecting without a password is set up.</source>
-        <translation>A conexão sem senha está configurada.</translation>
+        <source>Passwordless mode is set up.</source>
+        <translation>O modo sem senha está configurado.</translation>
     </message>
     <message>
-        <source>sudo isn&apos;t installed. Connecting without a password needs it.</source>
-        <translation>O sudo não está instalado. A conexão sem senha precisa dele.</translation>
+        <source>sudo isn&apos;t installed. Passwordless mode needs it.</source>
+        <translation>O sudo não está instalado. O modo sem senha precisa dele.</translation>
     </message>
     <message>
-        <source>sudo is installed. Whether you may use it is known to root only.</source>
+        <source>sudo is installed. Only root can tell whether you may use it.</source>
         <translation>O sudo está instalado. Só o root pode saber se você tem permissão para usá-lo.</translation>
     </message>
     <message>
@@ -2156,7 +2156,7 @@
         <translation>As portas de que o Tor precisa (9050, 9051 e 293) estão livres.</translation>
     </message>
     <message>
-        <source>The location of Tor in the settings, %1, is no program that can run. The usual places are searched instead.</source>
+        <source>The location of Tor in the settings, %1, is not an executable program. Veldmark searches the usual places instead.</source>
         <translation>O local do Tor nas configurações, %1, não é um programa executável. Em vez disso, o Tor é procurado nos locais habituais.</translation>
     </message>
     <message>
@@ -2164,7 +2164,7 @@
         <translation>O Tor não está instalado.</translation>
     </message>
     <message>
-        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it doesn&apos;t tell its version.</source>
+        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it prints no version.</source>
         <translation>%1 não inicia ou não é o Tor: não informa a versão.</translation>
     </message>
     <message>
@@ -2184,11 +2184,11 @@
         <translation>Falta o script auxiliar do Veldmark. Instale o Veldmark de novo.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper, %1, lies where others than root can write. They can change it, and with it what the administrator&apos;s password runs.</source>
+        <source>Accounts other than root can change Veldmark&apos;s helper, %1, and with it what the administrator&apos;s password runs.</source>
         <translation>O auxiliar do Veldmark, %1, está em um lugar onde outros além do root podem gravar. Eles podem alterá-lo e, com isso, alterar o que a senha de administrador executa.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper, %1, is not an installed one: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
+        <source>Veldmark&apos;s helper, %1, is not installed: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
         <translation>O auxiliar do Veldmark, %1, não é um auxiliar instalado: a conta %2 pode alterá-lo e, com isso, alterar o que a senha de administrador executa.</translation>
     </message>
     <message>
@@ -2196,11 +2196,11 @@
         <translation>O auxiliar do Veldmark está instalado, e só o root pode alterá-lo: %1.</translation>
     </message>
     <message>
-        <source>The helper that runs without a password is not this version&apos;s. Set up connecting without a password again in Settings, General.</source>
-        <translation>O auxiliar que é executado sem senha não é o desta versão. Configure de novo a conexão sem senha em “Configurações → Geral”.</translation>
+        <source>The helper of passwordless mode belongs to another version. Set up passwordless mode again in Settings, General.</source>
+        <translation>O auxiliar do modo sem senha é de outra versão. Configure de novo o modo sem senha em “Configurações → Geral”.</translation>
     </message>
     <message>
-        <source>Bridges are off. Where Tor is blocked they need bridge programs, and none was found.</source>
+        <source>Bridges are off. Bridges need bridge programs where Tor is blocked, and none was found.</source>
         <translation>As pontes estão desativadas. Onde o Tor é bloqueado, elas precisam de programas de ponte, e nenhum foi encontrado.</translation>
     </message>
     <message>
@@ -2216,19 +2216,19 @@
         <translation>As pontes escolhidas (%1) podem ser usadas: %2.</translation>
     </message>
     <message>
-        <source>Names are looked up as %1 says. Veldmark switches that over and back.</source>
+        <source>%1 manages DNS. Veldmark changes that while connected and restores it afterwards.</source>
         <translation>Os nomes são consultados conforme %1. O Veldmark altera isso e depois desfaz a alteração.</translation>
     </message>
     <message>
-        <source>%1 is Veldmark&apos;s. It names Tor as the name server.</source>
+        <source>Veldmark wrote %1. It points DNS at Tor.</source>
         <translation>%1 é do Veldmark e indica o Tor como servidor de nomes.</translation>
     </message>
     <message>
-        <source>There is no file %1, so names may not be looked up at all.</source>
+        <source>The file %1 is missing, so DNS may not work at all.</source>
         <translation>O arquivo %1 não existe, então talvez nenhum nome seja resolvido.</translation>
     </message>
     <message>
-        <source>Names are looked up by a resolver on this computer. Veldmark switches that over and back.</source>
+        <source>A resolver on this computer answers DNS. Veldmark changes that while connected and restores it afterwards.</source>
         <translation>Os nomes são consultados por um resolvedor neste computador. O Veldmark altera isso e depois desfaz a alteração.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>Há uma sessão aberta: a rede está configurada para o Tor, e o Tor está em execução.</translation>
     </message>
     <message>
-        <source>The network is set up for Tor. Whether Tor still runs isn&apos;t known here.</source>
+        <source>The network is set up for Tor. It isn&apos;t known whether Tor still runs.</source>
         <translation>A rede está configurada para o Tor. Aqui não se sabe se o Tor ainda está em execução.</translation>
     </message>
     <message>
@@ -2252,7 +2252,7 @@
         <translation>A rede ainda está configurada para o Tor por uma sessão anterior, e nenhum Tor está em execução. Conecte de novo ou restaure a rede.</translation>
     </message>
     <message>
-        <source>A session is open, and it isn&apos;t known whether its kill switch stands: nobody watches over the rules. Restore the network, and connect again.</source>
+        <source>A session is open, and it isn&apos;t known whether its kill switch blocks traffic: no watcher watches the rules. Restore the network, and connect again.</source>
         <translation>Há uma sessão aberta, e não se sabe se o kill switch dela está em vigor: nada monitora as regras. Restaure a rede e conecte de novo.</translation>
     </message>
     <message>
@@ -2268,7 +2268,7 @@
         <translation>%1 de %2 MB (%3%)</translation>
     </message>
     <message>
-        <source>Veldmark needs administrator access to manage Tor routing on this computer. The system&apos;s own Tor service, where it runs, is stopped meanwhile.</source>
+        <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
         <translation>O Veldmark precisa de acesso de administrador para gerenciar o roteamento pelo Tor neste computador. O serviço Tor do próprio sistema, se estiver em execução, fica parado enquanto isso.</translation>
     </message>
     <message>
@@ -2276,7 +2276,7 @@
         <translation>O Veldmark precisa de acesso de administrador para gerenciar o roteamento pelo Tor neste Mac.</translation>
     </message>
     <message>
-        <source>The archive holds %1: %2</source>
+        <source>The archive contains %1: %2</source>
         <translation>O pacote contém %1: %2</translation>
     </message>
     <message>
@@ -2288,7 +2288,7 @@
         <translation>um link físico</translation>
     </message>
     <message>
-        <source>what is neither file nor folder</source>
+        <source>an entry that is neither a file nor a folder</source>
         <translation>algo que não é arquivo nem pasta</translation>
     </message>
     <message>
@@ -2296,15 +2296,15 @@
         <translation>um caminho que leva para fora dele</translation>
     </message>
     <message>
-        <source>The archive is empty or no archive.</source>
+        <source>The file is empty or not an archive.</source>
         <translation>O pacote está vazio ou não é um pacote.</translation>
     </message>
     <message>
-        <source>The archive&apos;s list of files is not clear.</source>
+        <source>The archive&apos;s list of files is ambiguous.</source>
         <translation>A lista de arquivos do pacote não é clara.</translation>
     </message>
     <message>
-        <source>The archive holds too many files.</source>
+        <source>The archive contains too many files.</source>
         <translation>O pacote contém arquivos demais.</translation>
     </message>
     <message>
@@ -2392,7 +2392,7 @@
         <translation>%1 precisa de uma chave e de um valor: veldmarkctl %1 KEY VALUE.</translation>
     </message>
     <message>
-        <source>What should I do? &quot;veldmarkctl help&quot; lists the commands.</source>
+        <source>A command is missing. &quot;veldmarkctl help&quot; lists the commands.</source>
         <translation>O que devo fazer? “veldmarkctl help” lista os comandos.</translation>
     </message>
     <message>
@@ -2434,7 +2434,7 @@
         <translation>não encontrado</translation>
     </message>
     <message>
-        <source>doesn&apos;t say what it serves</source>
+        <source>doesn&apos;t say which transports it serves</source>
         <translation>não informa o que oferece</translation>
     </message>
     <message>
@@ -2514,7 +2514,7 @@
         <translation>Ainda não é possível conectar.</translation>
     </message>
     <message>
-        <source>A connect can&apos;t work before each &quot;problem&quot; is mended.</source>
+        <source>A connect can&apos;t work until each &quot;problem&quot; is fixed.</source>
         <translation>Não é possível conectar antes que cada “problema” seja resolvido.</translation>
     </message>
     <message>
@@ -2530,19 +2530,19 @@
         <translation>estrito</translation>
     </message>
     <message>
-        <source>stands, since %1</source>
+        <source>blocks traffic, since %1</source>
         <translation>em vigor desde %1</translation>
     </message>
     <message>
-        <source>stands; put back at %1 after another program had removed it</source>
+        <source>blocks traffic; put back at %1 after another program had removed it</source>
         <translation>em vigor; restaurado em %1 depois que outro programa o removeu</translation>
     </message>
     <message>
-        <source>OPEN since %1: traffic may leave this computer directly</source>
+        <source>NOT BLOCKING since %1: traffic may leave this computer directly</source>
         <translation>SEM EFEITO desde %1: pode haver tráfego saindo diretamente deste computador</translation>
     </message>
     <message>
-        <source>isn&apos;t known to stand, since %1</source>
+        <source>isn&apos;t known to block traffic, since %1</source>
         <translation>não se sabe se está em vigor, desde %1</translation>
     </message>
     <message>
@@ -2570,11 +2570,11 @@
         <translation>bloqueada</translation>
     </message>
     <message>
-        <source>no answer, but the kill switch isn&apos;t known to close it</source>
+        <source>no answer, but it isn&apos;t known whether the kill switch blocks it</source>
         <translation>sem resposta, mas não se sabe se o kill switch a bloqueia</translation>
     </message>
     <message>
-        <source>no answer, but proxy mode doesn&apos;t close it</source>
+        <source>no answer, but proxy mode doesn&apos;t block it</source>
         <translation>sem resposta, mas o modo proxy não a bloqueia</translation>
     </message>
     <message>
@@ -2582,7 +2582,7 @@
         <translation>verificando…</translation>
     </message>
     <message>
-        <source>couldn&apos;t be told</source>
+        <source>inconclusive</source>
         <translation>não foi possível saber</translation>
     </message>
     <message>
@@ -2718,11 +2718,11 @@
         <translation>“%1” não é true nem false.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no JSON array of strings.</source>
+        <source>&quot;%1&quot; is not a JSON array of strings.</source>
         <translation>“%1” não é um array JSON de strings.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no bridge choice: off, obfs4, snowflake, meek or custom.</source>
+        <source>&quot;%1&quot; is not a bridge choice: off, obfs4, snowflake, meek or custom.</source>
         <translation>“%1” não é uma opção de pontes: off, obfs4, snowflake, meek ou custom.</translation>
     </message>
     <message>
@@ -2734,15 +2734,15 @@
         <translation>O Tor não concluiu a conexão em 5 minutos. (%1)</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
+        <source>&quot;%1&quot; is not an exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
         <translation>“%1” não é um país de saída: duas letras minúsculas, como “de”, ou nada para qualquer um.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no application: an absolute path that ends in &quot;%2&quot;.</source>
+        <source>&quot;%1&quot; is not an application: an absolute path that ends in &quot;%2&quot;.</source>
         <translation>“%1” não é um aplicativo: deve ser um caminho absoluto terminado em “%2”.</translation>
     </message>
     <message>
-        <source>the kill switch, else proxy mode</source>
+        <source>strict mode with the kill switch, else proxy mode</source>
         <translation>o kill switch; senão, o modo proxy</translation>
     </message>
     <message>
@@ -2754,7 +2754,7 @@
         <translation>duas letras minúsculas, ou nada para qualquer um</translation>
     </message>
     <message>
-        <source>the tor to use, or nothing to search for it</source>
+        <source>the path of the tor to use, or nothing to search for tor</source>
         <translation>o tor a usar, ou nada para procurá-lo</translation>
     </message>
     <message>
@@ -2794,7 +2794,7 @@
         <translation>“set” precisa de “key” e “value”, ambos strings.</translation>
     </message>
     <message>
-        <source>Already connected, or on the way; &quot;veldmarkctl status&quot; says more.</source>
+        <source>Already connected or connecting; &quot;veldmarkctl status&quot; says more.</source>
         <translation>Já conectado ou conectando; “veldmarkctl status” diz mais.</translation>
     </message>
     <message>
@@ -2870,7 +2870,7 @@
         <translation>continua até Ctrl-C</translation>
     </message>
     <message>
-        <source>how things stand; --watch goes on until Ctrl-C</source>
+        <source>print the connection&apos;s state; --watch goes on until Ctrl-C</source>
         <translation>mostra a situação atual; --watch continua até Ctrl-C</translation>
     </message>
     <message>
@@ -2882,7 +2882,7 @@
         <translation>restaura a rede e encerra o Tor</translation>
     </message>
     <message>
-        <source>the same, also for what a crash left behind</source>
+        <source>restore the network and stop Tor, also after a crash</source>
         <translation>o mesmo, inclusive para o que restou de uma falha</translation>
     </message>
     <message>
@@ -2898,7 +2898,7 @@
         <translation>mostra os circuitos do Tor e os sites em cada um</translation>
     </message>
     <message>
-        <source>close one; its sites get a fresh path on their next request</source>
+        <source>close a circuit; its sites get a fresh path on their next request</source>
         <translation>fecha um deles; os sites dele ganham um novo caminho na próxima solicitação</translation>
     </message>
     <message>
@@ -2944,8 +2944,8 @@ caminho de um programa. Antes, pede que as cópias em execução se encerrem</tr
         <translation>launch precisa de um aplicativo; “veldmarkctl apps” lista os aplicativos.</translation>
     </message>
     <message>
-        <source>look at this computer: what a connect needs, what is in its way, and what
-mends it. Changes nothing; ends with 0 when a connect can work</source>
+        <source>check what a connect needs on this computer, what blocks it and how to fix
+it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>examina este computador: o que uma conexão exige, o que a impede e como
 resolver. Não altera nada; termina com 0 quando é possível conectar</translation>
     </message>
@@ -3014,11 +3014,11 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>O programa está sendo encerrado.</translation>
     </message>
     <message>
-        <source>The strict session that is running is replaced, and may protect you less.</source>
+        <source>Veldmark replaces the running strict session. The new session may protect you less.</source>
         <translation>A sessão estrita em andamento é substituída, e a nova talvez proteja você menos.</translation>
     </message>
     <message>
-        <source>Veldmark wants to run %1 as a part of Tor. No package of the system brought it. Its SHA-256 is %2.</source>
+        <source>Veldmark wants to run %1 as a part of Tor. No package of the system installed it. Its SHA-256 is %2.</source>
         <translation>O Veldmark quer executar %1 como parte do Tor. Esse programa não veio de nenhum pacote do sistema. O SHA-256 dele é %2.</translation>
     </message>
     <message>
@@ -3070,7 +3070,7 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>É necessária uma senha de administrador para aprovar %1.</translation>
     </message>
     <message>
-        <source>An administrator password is needed to change the strict session that is running.</source>
+        <source>An administrator password is needed to change the running strict session.</source>
         <translation>É necessária uma senha de administrador para alterar a sessão estrita em andamento.</translation>
     </message>
     <message>
@@ -3082,7 +3082,7 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>É necessária uma senha de administrador para configurar isto.</translation>
     </message>
     <message>
-        <source>Another program (process %1) has begun a session since. It was left alone.</source>
+        <source>Another program (process %1) has started a session meanwhile. That session was left alone.</source>
         <translation>Outro programa (processo %1) iniciou uma sessão nesse meio-tempo. Essa sessão não foi alterada.</translation>
     </message>
     <message>
@@ -3094,7 +3094,7 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>Aplicativos não são abertos como root.</translation>
     </message>
     <message>
-        <source>Applications can be opened for the user who asks only.</source>
+        <source>The helper opens applications only for the user who asks.</source>
         <translation>Só é possível abrir aplicativos para o usuário que faz o pedido.</translation>
     </message>
     <message>
@@ -3106,12 +3106,12 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>Foram informadas pontes demais (limite: %1).</translation>
     </message>
     <message>
-        <source>Only the user who asks can be let in.</source>
+        <source>Passwordless mode can be set up only for the user who asks.</source>
         <translation>Só o usuário que faz o pedido pode receber acesso.</translation>
     </message>
     <message>
-        <source>Somebody else is changing the firewall. Try again in a moment.</source>
-        <translation>Outro processo ou usuário está alterando o firewall. Tente de novo daqui a pouco.</translation>
+        <source>Another program is changing the firewall. Try again in a moment.</source>
+        <translation>Outro programa está alterando o firewall. Tente de novo daqui a pouco.</translation>
     </message>
     <message>
         <source>The DNS servers of systemd-resolved cannot be changed.</source>
@@ -3144,6 +3144,10 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
     <message>
         <source>The caller&apos;s user id is not a number.</source>
         <translation>O ID de usuário do solicitante não é um número.</translation>
+    </message>
+    <message>
+        <source>The control group for Tor cannot be made.</source>
+        <translation>Não é possível criar o grupo de controle para o Tor.</translation>
     </message>
     <message>
         <source>The control group of the applications without Tor could not be removed.</source>
@@ -3186,7 +3190,7 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>Não é possível remover os arquivos em %1.</translation>
     </message>
     <message>
-        <source>The firewall cannot be looked at, so nothing was done.</source>
+        <source>The firewall rules cannot be read, so nothing was done.</source>
         <translation>Não é possível examinar o firewall, então nada foi feito.</translation>
     </message>
     <message>
@@ -3194,16 +3198,16 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>Não é possível ativar o firewall (%1).</translation>
     </message>
     <message>
-        <source>The firewall cannot end the connections from before.</source>
+        <source>The firewall cannot end the earlier connections.</source>
         <translation>O firewall não consegue encerrar as conexões anteriores.</translation>
     </message>
     <message>
-        <source>The firewall could not be opened (%1).</source>
-        <translation>Não foi possível desfazer o bloqueio do firewall (%1).</translation>
+        <source>The kill switch could not be switched off (%1).</source>
+        <translation>Não foi possível desativar o kill switch (%1).</translation>
     </message>
     <message>
-        <source>The firewall could not be opened, because somebody is changing it.</source>
-        <translation>Não foi possível desfazer o bloqueio do firewall, porque outro processo ou usuário o está alterando.</translation>
+        <source>The kill switch could not be switched off, because another program is changing the firewall.</source>
+        <translation>Não foi possível desativar o kill switch, porque outro programa está alterando o firewall.</translation>
     </message>
     <message>
         <source>The firewall does not hold the rules that were loaded.</source>
@@ -3266,11 +3270,11 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>As pastas acima da do Veldmark não são seguras: elas devem pertencer ao root, e só ele deve poder gravar nelas.</translation>
     </message>
     <message>
-        <source>The folders below %1 cannot be looked at, so nothing was done.</source>
+        <source>The folders below %1 cannot be read, so nothing was done.</source>
         <translation>Não é possível examinar as pastas dentro de %1, então nada foi feito.</translation>
     </message>
     <message>
-        <source>The folders below %1 cannot be looked at.</source>
+        <source>The folders below %1 cannot be read.</source>
         <translation>Não é possível examinar as pastas dentro de %1.</translation>
     </message>
     <message>
@@ -3306,8 +3310,8 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>Não é possível gravar o diário de alterações.</translation>
     </message>
     <message>
-        <source>The kill switch is not on, so there is nothing to open the application past.</source>
-        <translation>O kill switch não está ativado, então não há bloqueio a contornar para abrir o aplicativo.</translation>
+        <source>The kill switch is not on, so no application needs to bypass it.</source>
+        <translation>O kill switch não está ativado, então nenhum aplicativo precisa contorná-lo.</translation>
     </message>
     <message>
         <source>The launcher could not be copied to %1.</source>
@@ -3422,7 +3426,7 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>O caminho informado com --app não indica um aplicativo.</translation>
     </message>
     <message>
-        <source>The port %1, which Tor needs, is held by %2. End that, then connect again.</source>
+        <source>The port %1, which Tor needs, is held by %2. End that program, then connect again.</source>
         <translation>A porta %1, de que o Tor precisa, está ocupada por %2. Encerre isso e conecte de novo.</translation>
     </message>
     <message>
@@ -3450,7 +3454,7 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>Falta o programa %1 neste sistema.</translation>
     </message>
     <message>
-        <source>The program %1 is not the one that was to be approved.</source>
+        <source>The SHA-256 of the program %1 is not the one to approve.</source>
         <translation>O programa %1 não é o que deveria ser aprovado.</translation>
     </message>
     <message>
@@ -3538,11 +3542,11 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>O comando uninstall-privileged não aceita opções.</translation>
     </message>
     <message>
-        <source>The watcher over the firewall could not be started.</source>
+        <source>The watcher of the firewall rules could not be started.</source>
         <translation>Não foi possível iniciar o monitor do firewall.</translation>
     </message>
     <message>
-        <source>The watcher over the firewall could not be stopped.</source>
+        <source>The watcher of the firewall rules could not be stopped.</source>
         <translation>Não foi possível parar o monitor do firewall.</translation>
     </message>
     <message>
@@ -3658,7 +3662,7 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>O nft falha.</translation>
     </message>
     <message>
-        <source>Ended without its display. Your network is still set up for Tor: start Veldmark again, or restore it with: %1</source>
+        <source>Ended because the display is gone. Your network is still set up for Tor: start Veldmark again, or restore the network with: %1</source>
         <translation>Encerrado por ter perdido a tela. Sua rede ainda está configurada para o Tor: inicie o Veldmark de novo ou restaure a rede com: %1</translation>
     </message>
     <message>
@@ -3670,7 +3674,7 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>A rede está desbloqueada de novo, mas não foi possível configurar o dispositivo de loopback como antes. Tente: ethtool -K lo %1 on.</translation>
     </message>
     <message>
-        <source>Applications are not told apart on this system.</source>
+        <source>This system can&apos;t tell applications apart.</source>
         <translation>Os aplicativos não são diferenciados neste sistema.</translation>
     </message>
     <message>
@@ -3690,11 +3694,11 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>Nenhum aplicativo seu tem essa identidade; “veldmarkctl identities” lista as identidades.</translation>
     </message>
     <message>
-        <source>The application has not got another identity.</source>
+        <source>The application did not get a new identity.</source>
         <translation>O aplicativo não recebeu outra identidade.</translation>
     </message>
     <message>
-        <source>The program has not got an identity of its own, so it was not started.</source>
+        <source>The program did not get an identity of its own, so it was not started.</source>
         <translation>O programa não recebeu uma identidade própria, por isso não foi iniciado.</translation>
     </message>
     <message>
@@ -3702,7 +3706,7 @@ resolver. Não altera nada; termina com 0 quando é possível conectar</translat
         <translation>Um nome tem no máximo 40 letras, dígitos, pontos e sublinhados.</translation>
     </message>
     <message>
-        <source>The program systemd-run is missing, which makes groups for programs.</source>
+        <source>The program systemd-run is missing. Veldmark needs it to make a group for a program.</source>
         <translation>Falta o programa systemd-run, que cria grupos para programas.</translation>
     </message>
     <message>
@@ -3752,15 +3756,15 @@ o mesmo nome na mesma sessão usa os mesmos circuitos</translation>
         <translation>O valor de --separate deve ser 0 ou 1.</translation>
     </message>
     <message>
-        <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
+        <source>No package of the system installed %1. The next connect asks an administrator to approve it.</source>
         <translation>%1 não veio de nenhum pacote do sistema. Na próxima conexão, pede-se a um administrador que o aprove.</translation>
     </message>
     <message>
-        <source>Whether a connect can work isn&apos;t known.</source>
+        <source>It isn&apos;t known whether a connect can work.</source>
         <translation>Não se sabe se é possível conectar.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
         <translation>Outro firewall neste computador bloqueia as conexões para fora e nenhuma regra dele permite nada, então o Tor não consegue passar: %1.</translation>
     </message>
 </context>

@@ -544,7 +544,7 @@
         <translation>Найти причину</translation>
     </message>
     <message>
-        <source>Looks at this computer: what a connection needs, what is in its way, and what mends it</source>
+        <source>Checks what a connection needs on this computer, what blocks it and how to fix it</source>
         <translation>Проверить этот компьютер: что нужно для подключения, что ему мешает и как это исправить</translation>
     </message>
     <message>
@@ -769,7 +769,7 @@
         <translation>У каждого приложения свои цепочки</translation>
     </message>
     <message>
-        <source>Sites cannot tell by the exit address that two applications are yours. Applications are told apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with all of their login session or account.</source>
+        <source>Sites cannot tell by the exit address that two applications are yours. Veldmark tells applications apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with the rest of their login session or account.</source>
         <translation>Сайты не могут понять по выходному адресу, что два приложения — ваши. Приложения различаются там, где рабочая среда запускает каждое в отдельной контрольной группе, как GNOME и KDE. Остальные программы делят цепочки со всем своим сеансом входа или всей учётной записью.</translation>
     </message>
 </context>
@@ -821,7 +821,7 @@
         <translation>Другая программа удалила правила Veldmark в брандмауэре; они восстановлены.</translation>
     </message>
     <message>
-        <source>The kill switch is open. Open Veldmark, disconnect and connect again.</source>
+        <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
         <translation>Kill switch не действует. Откройте Veldmark, отключитесь и подключитесь снова.</translation>
     </message>
     <message>
@@ -829,8 +829,8 @@
         <translation>За kill switch нет наблюдения</translation>
     </message>
     <message>
-        <source>It can&apos;t be told whether it stands. Open Veldmark, disconnect and connect again.</source>
-        <translation>Неизвестно, действует ли он. Откройте Veldmark, отключитесь и подключитесь снова.</translation>
+        <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Open Veldmark, disconnect and connect again.</source>
+        <translation>Неизвестно, действует ли kill switch. Откройте Veldmark, отключитесь и подключитесь снова.</translation>
     </message>
 </context>
 <context>
@@ -840,7 +840,7 @@
         <translation>Veldmark</translation>
     </message>
     <message>
-        <source>A window could not be made. Your network is not affected; to restore it without Veldmark, run:
+        <source>Veldmark could not open a window. Your network is not affected. To restore it without Veldmark, run:
 %1
 
 %2</source>
@@ -862,7 +862,7 @@
         <translation>Сеть всё ещё настроена на Tor</translation>
     </message>
     <message>
-        <source>Veldmark was told to end and could not restore it. Open Veldmark again to do so.</source>
+        <source>Veldmark had to close and could not restore the network. Open Veldmark again to restore it.</source>
         <translation>Veldmark получил команду завершиться и не смог восстановить сеть. Чтобы сделать это, снова откройте Veldmark.</translation>
     </message>
 </context>
@@ -939,7 +939,7 @@
         <translation> · нажмите узел или сайт, чтобы проследить его путь</translation>
     </message>
     <message>
-        <source>Leads to an onion service, which meets it at its last relay</source>
+        <source>Leads to an onion service. The last relay is the meeting point.</source>
         <translation>Ведёт к onion-сервису, который соединяется с ней на её последнем узле</translation>
     </message>
     <message>
@@ -998,7 +998,7 @@
         <translation>Примечание</translation>
     </message>
     <message>
-        <source>In order</source>
+        <source>OK</source>
         <translation>В порядке</translation>
     </message>
     <message>
@@ -1014,15 +1014,15 @@
         <translation>Проверка этого компьютера…</translation>
     </message>
     <message>
-        <source>Nothing was found out.</source>
+        <source>The check gave no result.</source>
         <translation>Ничего выяснить не удалось.</translation>
     </message>
     <message>
-        <source>Nothing was found that keeps Veldmark from connecting.</source>
+        <source>No problem was found that keeps Veldmark from connecting.</source>
         <translation>Не найдено ничего, что мешало бы Veldmark подключиться.</translation>
     </message>
     <message>
-        <source>Veldmark can&apos;t connect before each problem is mended.</source>
+        <source>Veldmark can&apos;t connect until each problem is fixed.</source>
         <translation>Veldmark не сможет подключиться, пока не устранены все проблемы.</translation>
     </message>
 </context>
@@ -1089,7 +1089,7 @@
         <translation>Показать файлы журнала в файловом менеджере</translation>
     </message>
     <message>
-        <source>There are no log files yet: Tor makes %1 when it is first started.</source>
+        <source>There are no log files yet. Tor creates %1 when it first starts.</source>
         <translation>Файлов журнала пока нет: Tor создаёт %1 при первом запуске.</translation>
     </message>
     <message>
@@ -1187,11 +1187,11 @@
         <translation>Нет ответа</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but the kill switch isn&apos;t known to close that path</source>
+        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>Прямое соединение в обход Tor осталось без ответа, но неизвестно, перекрывает ли kill switch этот путь</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t close that path</source>
+        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>Прямое соединение в обход Tor осталось без ответа, но режим прокси не перекрывает этот путь</translation>
     </message>
     <message>
@@ -1408,7 +1408,7 @@
 <context>
     <name>veldmark::Text</name>
     <message>
-        <source>Tor hasn&apos;t confirmed that it is on the network again, so nothing may get through. Veldmark goes on telling it to; else disconnect and connect again.</source>
+        <source>Tor hasn&apos;t confirmed that it uses the network again, so traffic may not get through. Veldmark keeps telling Tor to. If this lasts, disconnect and connect again.</source>
         <translation>Tor не подтвердил, что снова работает в сети; возможно, ничего не проходит. Veldmark продолжает повторять ему команду; если не поможет, отключитесь и подключитесь снова.</translation>
     </message>
     <message>
@@ -1416,7 +1416,7 @@
         <translation>Предлагается версия %1, а установлена более новая %2. Ничего не изменено.</translation>
     </message>
     <message>
-        <source>What came as version %1 is another one, so it was discarded.</source>
+        <source>The download of version %1 contains another version, so it was discarded.</source>
         <translation>Под видом версии %1 получена другая; она удалена.</translation>
     </message>
     <message>
@@ -1424,11 +1424,11 @@
         <translation>Загрузка начнётся заново, когда Tor подключится…</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no place for Tor: give the whole path, such as /usr/bin/tor.</source>
+        <source>&quot;%1&quot; is not a location of Tor. Give an absolute path, such as /usr/bin/tor.</source>
         <translation>«%1» не годится как путь к Tor: укажите полный путь, например /usr/bin/tor.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; holds for the whole connection. Disconnect to change it.</source>
+        <source>&quot;%1&quot; can&apos;t be changed during a connection. Disconnect to change it.</source>
         <translation>«%1» действует на всё время подключения. Чтобы изменить, отключитесь.</translation>
     </message>
     <message>
@@ -1485,11 +1485,11 @@
     </message>
     <message>
         <source>Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor прекратил работу. Kill switch по-прежнему блокирует трафик, поэтому утечек не было. Переподключитесь или восстановите сеть, чтобы вернуться в интернет.</translation>
+        <translation>Tor прекратил работу. Kill switch по-прежнему блокирует трафик, поэтому утечек не было. Переподключитесь либо восстановите сеть, чтобы вернуться в интернет без Tor.</translation>
     </message>
     <message>
-        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks have seen some go around Tor. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor прекратил работу. Kill switch по-прежнему блокирует трафик, но последние проверки выявили трафик мимо Tor. Переподключитесь или восстановите сеть, чтобы вернуться в интернет.</translation>
+        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks saw traffic go around Tor. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>Tor прекратил работу. Kill switch по-прежнему блокирует трафик, но последние проверки выявили трафик мимо Tor. Переподключитесь либо восстановите сеть, чтобы вернуться в интернет без Tor.</translation>
     </message>
     <message>
         <source>Tor stopped running. Apps using the proxy can&apos;t connect until you reconnect or Restore Network.</source>
@@ -1592,19 +1592,19 @@
         <translation>Tor прекратил работу, и сеть больше не настроена на него.</translation>
     </message>
     <message>
-        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor прекратил работу. Kill switch снова блокирует трафик, но другая программа на время удаляла его правила. Переподключитесь или восстановите сеть, чтобы вернуться в интернет.</translation>
+        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>Tor прекратил работу. Kill switch снова блокирует трафик, но другая программа на время удаляла его правила. Переподключитесь либо восстановите сеть, чтобы вернуться в интернет без Tor.</translation>
     </message>
     <message>
-        <source>Tor stopped running, and the kill switch is open: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
+        <source>Tor stopped running, and the kill switch doesn&apos;t block traffic: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
         <translation>Tor прекратил работу, и kill switch не действует: другая программа удалила его правила. Трафик может уходить с этого компьютера напрямую. Переподключитесь или восстановите сеть.</translation>
     </message>
     <message>
-        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor прекратил работу, и неизвестно, блокирует ли ещё kill switch трафик. Переподключитесь или восстановите сеть, чтобы вернуться в интернет.</translation>
+        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>Tor прекратил работу, и неизвестно, блокирует ли ещё kill switch трафик. Переподключитесь либо восстановите сеть, чтобы вернуться в интернет без Tor.</translation>
     </message>
     <message>
-        <source>The watcher over Veldmark&apos;s firewall rules has stopped telling, so it isn&apos;t known whether the kill switch stands. Disconnect and connect again.</source>
+        <source>The watcher of Veldmark&apos;s firewall rules has stopped reporting, so it isn&apos;t known whether the kill switch blocks traffic. Disconnect and connect again.</source>
         <translation>Программа, следящая за правилами Veldmark в брандмауэре, перестала сообщать о них, поэтому неизвестно, действует ли kill switch. Отключитесь и подключитесь снова.</translation>
     </message>
     <message>
@@ -1636,7 +1636,7 @@
         <translation>Утечка DNS</translation>
     </message>
     <message>
-        <source>Kill Switch Open</source>
+        <source>Kill Switch Failed</source>
         <translation>Kill switch не действует</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>Ваш реальный адрес виден. Отключитесь или повторите тест утечек.</translation>
     </message>
     <message>
-        <source>It can&apos;t be told whether the kill switch stands. Disconnect and connect again.</source>
+        <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Disconnect and connect again.</source>
         <translation>Неизвестно, действует ли kill switch. Отключитесь и подключитесь снова.</translation>
     </message>
     <message>
@@ -1676,7 +1676,7 @@
         <translation>Ничего не проходит</translation>
     </message>
     <message>
-        <source>This computer has no network. Nothing gets out around Tor meanwhile.</source>
+        <source>This computer has no network. Traffic around Tor stays blocked.</source>
         <translation>На этом компьютере нет сети. При этом мимо Tor ничего не уходит.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>На этом компьютере нет сети. Veldmark продолжит, когда она появится.</translation>
     </message>
     <message>
-        <source>Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile.</source>
+        <source>Tor has no working circuit and keeps trying. Traffic around Tor stays blocked.</source>
         <translation>У Tor нет работающей цепочки, он продолжает попытки. При этом мимо Tor ничего не уходит.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>У Tor нет работающей цепочки, он продолжает попытки.</translation>
     </message>
     <message>
-        <source>Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile.</source>
+        <source>Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked.</source>
         <translation>Tor не получает ответа из сети и продолжает попытки. При этом мимо Tor ничего не уходит.</translation>
     </message>
     <message>
@@ -1700,7 +1700,7 @@
         <translation>Tor не получает ответа из сети и продолжает попытки.</translation>
     </message>
     <message>
-        <source>Another program has ended this session and begun one of its own. Restore Network ends that one.</source>
+        <source>Another program has ended this session and started its own. Restore Network ends that session.</source>
         <translation>Другая программа завершила этот сеанс и начала свой. «Восстановить сеть» завершает тот сеанс.</translation>
     </message>
     <message>
@@ -1752,7 +1752,7 @@
         <translation>В правах администратора отказано, или агент, запрашивающий пароль, не ответил.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out, so Tor can&apos;t connect: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic, so Tor can&apos;t connect: %1.</source>
         <translation>Другой брандмауэр на этом компьютере запрещает исходящие соединения, поэтому Tor не может подключиться: %1.</translation>
     </message>
     <message>
@@ -1808,11 +1808,11 @@
         <translation>Не удалось открыть %1 без Tor: %2</translation>
     </message>
     <message>
-        <source>Another Veldmark of yours has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <source>Another Veldmark of yours has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
         <translation>С тех пор сеанс начал другой ваш экземпляр Veldmark, поэтому ничего не завершено. Чтобы завершить этот сеанс, отключитесь ещё раз.</translation>
     </message>
     <message>
-        <source>Another user&apos;s Veldmark has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <source>Another user&apos;s Veldmark has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
         <translation>С тех пор сеанс начал Veldmark другого пользователя, поэтому ничего не завершено. Чтобы завершить этот сеанс, отключитесь ещё раз.</translation>
     </message>
     <message>
@@ -1888,7 +1888,7 @@
         <translation>Сервер не дал HTTP-ответа.</translation>
     </message>
     <message>
-        <source>The connection was lost before the end.</source>
+        <source>The connection was lost before the download ended.</source>
         <translation>Соединение оборвалось раньше времени.</translation>
     </message>
     <message>
@@ -1900,7 +1900,7 @@
         <translation>Tor закрыл управляющее соединение.</translation>
     </message>
     <message>
-        <source>Another program than Tor listens on Tor&apos;s control port.</source>
+        <source>A program other than Tor listens on Tor&apos;s control port.</source>
         <translation>Управляющий порт Tor прослушивает не Tor, а другая программа.</translation>
     </message>
     <message>
@@ -1928,7 +1928,7 @@
         <translation>Запросить права администратора нельзя: в этом сеансе не запущен агент аутентификации PolicyKit.</translation>
     </message>
     <message>
-        <source>The password could not be checked: polkit takes none from this terminal. Run it with sudo.</source>
+        <source>The password could not be checked: polkit accepts no password from this terminal. Run the command with sudo.</source>
         <translation>Проверить пароль не удалось: polkit не принимает его с этого терминала. Выполните команду через sudo.</translation>
     </message>
     <message>
@@ -2032,7 +2032,7 @@
         <translation>%1 уже открывается.</translation>
     </message>
     <message>
-        <source>A session is open, and its kill switch isn&apos;t closed: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
+        <source>A session is open, and its kill switch doesn&apos;t block traffic: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
         <translation>Сеанс открыт, но его kill switch не действует: наблюдающая за правилами программа не смогла их вернуть. Трафик может уходить с этого компьютера напрямую. Восстановите сеть и подключитесь снова.</translation>
     </message>
     <message>
@@ -2044,7 +2044,7 @@
         <translation>Часы синхронизируются по сети. Они показывают %1.</translation>
     </message>
     <message>
-        <source>Whether the clock is right isn&apos;t known: nothing is seen to set it from the network. It shows %1. Tor needs it right to within minutes.</source>
+        <source>It isn&apos;t known whether the clock is right: no time service seems to set it. It shows %1. Tor needs it right to within minutes.</source>
         <translation>Верны ли часы, неизвестно: не видно, чтобы что-то синхронизировало их по сети. Они показывают %1. Tor нужны часы, верные с точностью до минут.</translation>
     </message>
     <message>
@@ -2060,11 +2060,11 @@
         <translation>Системный брандмауэр использовать нельзя: %1</translation>
     </message>
     <message>
-        <source>The kernel that runs (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
+        <source>The running kernel (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
         <translation>В работающем ядре (%1) нет nftables. После обновления ядра перезагрузите компьютер.</translation>
     </message>
     <message>
-        <source>nftables is installed. Whether the kernel that runs can use it is known to root only.</source>
+        <source>nftables is installed. Only root can tell whether the running kernel can use it.</source>
         <translation>nftables установлен. Может ли работающее ядро его использовать, известно только root.</translation>
     </message>
     <message>
@@ -2084,11 +2084,11 @@
         <translation>Приложения можно открывать без Tor: контрольные группы версии 2 есть.</translation>
     </message>
     <message>
-        <source>No other firewall that is known by name runs. The rules themselves are known to root only.</source>
+        <source>No other firewall that Veldmark knows runs. Only root can read the rules themselves.</source>
         <translation>Других брандмауэров, известных по имени, не запущено. Сами правила видны только root.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out unless one of its rules allows it, so Tor may not get through: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic that its rules don&apos;t allow, so Tor may not get through: %1.</source>
         <translation>Другой брандмауэр на этом компьютере запрещает исходящие соединения, если их не разрешает одно из его правил, поэтому Tor может не пройти: %1.</translation>
     </message>
     <message>
@@ -2108,11 +2108,11 @@
         <translation>Здесь нет графической среды, в которой окно могло бы запросить пароль администратора. Используйте sudo.</translation>
     </message>
     <message>
-        <source>No program that is known to ask for polkit&apos;s passwords (an agent) runs in your session. Without one, use sudo, or start an agent such as lxpolkit.</source>
+        <source>No known polkit agent, the program that asks for the password, runs in your session. Use sudo, or start an agent such as lxpolkit.</source>
         <translation>В вашем сеансе не запущено ни одной известной программы, запрашивающей пароли для polkit (агента). Без неё используйте sudo или запустите агент, например lxpolkit.</translation>
     </message>
     <message>
-        <source>polkit is there, and a program that asks for its passwords runs in your session.</source>
+        <source>polkit is installed, and an agent that asks for the password runs in your session.</source>
         <translation>polkit есть, и в вашем сеансе запущена программа, запрашивающая для него пароли.</translation>
     </message>
     <message>
@@ -2120,15 +2120,15 @@
         <translation>Veldmark запущен здесь от имени root и пароль не запрашивает.</translation>
     </message>
     <message>
-        <source>Connecting without a password is set up.</source>
-        <translation>Подключение без пароля настроено.</translation>
+        <source>Passwordless mode is set up.</source>
+        <translation>Режим без пароля настроен.</translation>
     </message>
     <message>
-        <source>sudo isn&apos;t installed. Connecting without a password needs it.</source>
-        <translation>sudo не установлен. Он нужен для подключения без пароля.</translation>
+        <source>sudo isn&apos;t installed. Passwordless mode needs it.</source>
+        <translation>sudo не установлен. Он нужен для режима без пароля.</translation>
     </message>
     <message>
-        <source>sudo is installed. Whether you may use it is known to root only.</source>
+        <source>sudo is installed. Only root can tell whether you may use it.</source>
         <translation>sudo установлен. Можно ли вам его использовать, известно только root.</translation>
     </message>
     <message>
@@ -2156,7 +2156,7 @@
         <translation>Порты, нужные Tor (9050, 9051 и 293), свободны.</translation>
     </message>
     <message>
-        <source>The location of Tor in the settings, %1, is no program that can run. The usual places are searched instead.</source>
+        <source>The location of Tor in the settings, %1, is not an executable program. Veldmark searches the usual places instead.</source>
         <translation>Путь к Tor в настройках, %1, не ведёт к исполняемой программе. Вместо него поиск идёт в обычных местах.</translation>
     </message>
     <message>
@@ -2164,7 +2164,7 @@
         <translation>Tor не установлен.</translation>
     </message>
     <message>
-        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it doesn&apos;t tell its version.</source>
+        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it prints no version.</source>
         <translation>%1 не запускается или это не Tor: программа не сообщает свою версию.</translation>
     </message>
     <message>
@@ -2184,11 +2184,11 @@
         <translation>Нет вспомогательного скрипта Veldmark. Установите Veldmark заново.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper, %1, lies where others than root can write. They can change it, and with it what the administrator&apos;s password runs.</source>
+        <source>Accounts other than root can change Veldmark&apos;s helper, %1, and with it what the administrator&apos;s password runs.</source>
         <translation>Вспомогательная программа Veldmark, %1, лежит там, куда может писать не только root. Другие могут изменить её, а с ней и то, что запускается по паролю администратора.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper, %1, is not an installed one: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
+        <source>Veldmark&apos;s helper, %1, is not installed: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
         <translation>Вспомогательная программа Veldmark, %1, не установлена в систему: учётная запись %2 может изменить её, а с ней и то, что запускается по паролю администратора.</translation>
     </message>
     <message>
@@ -2196,11 +2196,11 @@
         <translation>Вспомогательная программа Veldmark установлена, и изменить её может только root: %1.</translation>
     </message>
     <message>
-        <source>The helper that runs without a password is not this version&apos;s. Set up connecting without a password again in Settings, General.</source>
-        <translation>Вспомогательная программа, работающая без пароля, — от другой версии. Настройте подключение без пароля заново: «Настройки», раздел «Общие».</translation>
+        <source>The helper of passwordless mode belongs to another version. Set up passwordless mode again in Settings, General.</source>
+        <translation>Вспомогательная программа режима без пароля — от другой версии. Настройте режим без пароля заново: «Настройки», раздел «Общие».</translation>
     </message>
     <message>
-        <source>Bridges are off. Where Tor is blocked they need bridge programs, and none was found.</source>
+        <source>Bridges are off. Bridges need bridge programs where Tor is blocked, and none was found.</source>
         <translation>Мосты выключены. Где Tor блокируют, для них нужны программы, а ни одной не найдено.</translation>
     </message>
     <message>
@@ -2216,19 +2216,19 @@
         <translation>Выбранные мосты (%1) можно использовать: %2.</translation>
     </message>
     <message>
-        <source>Names are looked up as %1 says. Veldmark switches that over and back.</source>
+        <source>%1 manages DNS. Veldmark changes that while connected and restores it afterwards.</source>
         <translation>DNS-имена ищутся так, как указано в %1. Veldmark переключает это и возвращает обратно.</translation>
     </message>
     <message>
-        <source>%1 is Veldmark&apos;s. It names Tor as the name server.</source>
+        <source>Veldmark wrote %1. It points DNS at Tor.</source>
         <translation>Файл %1 создан Veldmark. Сервером имён в нём указан Tor.</translation>
     </message>
     <message>
-        <source>There is no file %1, so names may not be looked up at all.</source>
+        <source>The file %1 is missing, so DNS may not work at all.</source>
         <translation>Файла %1 нет, поэтому DNS-имена могут не находиться совсем.</translation>
     </message>
     <message>
-        <source>Names are looked up by a resolver on this computer. Veldmark switches that over and back.</source>
+        <source>A resolver on this computer answers DNS. Veldmark changes that while connected and restores it afterwards.</source>
         <translation>DNS-имена ищет резолвер на этом компьютере. Veldmark переключает это и возвращает обратно.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>Сеанс открыт: сеть настроена на Tor, и Tor работает.</translation>
     </message>
     <message>
-        <source>The network is set up for Tor. Whether Tor still runs isn&apos;t known here.</source>
+        <source>The network is set up for Tor. It isn&apos;t known whether Tor still runs.</source>
         <translation>Сеть настроена на Tor. Работает ли ещё Tor, здесь неизвестно.</translation>
     </message>
     <message>
@@ -2252,8 +2252,8 @@
         <translation>Сеть всё ещё настроена на Tor после прошлого сеанса, а Tor не работает. Подключитесь снова или восстановите сеть.</translation>
     </message>
     <message>
-        <source>A session is open, and it isn&apos;t known whether its kill switch stands: nobody watches over the rules. Restore the network, and connect again.</source>
-        <translation>Сеанс открыт, но неизвестно, действует ли его kill switch: за правилами никто не следит. Восстановите сеть и подключитесь снова.</translation>
+        <source>A session is open, and it isn&apos;t known whether its kill switch blocks traffic: no watcher watches the rules. Restore the network, and connect again.</source>
+        <translation>Сеанс открыт, но неизвестно, действует ли его kill switch: ни одна программа не следит за правилами. Восстановите сеть и подключитесь снова.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -2268,7 +2268,7 @@
         <translation>%1 из %2 МБ (%3 %)</translation>
     </message>
     <message>
-        <source>Veldmark needs administrator access to manage Tor routing on this computer. The system&apos;s own Tor service, where it runs, is stopped meanwhile.</source>
+        <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
         <translation>Veldmark нужны права администратора, чтобы управлять маршрутизацией через Tor на этом компьютере. Системная служба Tor, если она запущена, на это время останавливается.</translation>
     </message>
     <message>
@@ -2276,7 +2276,7 @@
         <translation>Veldmark нужны права администратора, чтобы управлять маршрутизацией через Tor на этом Mac.</translation>
     </message>
     <message>
-        <source>The archive holds %1: %2</source>
+        <source>The archive contains %1: %2</source>
         <translation>В архиве есть %1: %2</translation>
     </message>
     <message>
@@ -2288,7 +2288,7 @@
         <translation>жёсткая ссылка</translation>
     </message>
     <message>
-        <source>what is neither file nor folder</source>
+        <source>an entry that is neither a file nor a folder</source>
         <translation>объект, который не файл и не папка</translation>
     </message>
     <message>
@@ -2296,15 +2296,15 @@
         <translation>путь, ведущий за его пределы</translation>
     </message>
     <message>
-        <source>The archive is empty or no archive.</source>
+        <source>The file is empty or not an archive.</source>
         <translation>Архив пуст, или это не архив.</translation>
     </message>
     <message>
-        <source>The archive&apos;s list of files is not clear.</source>
+        <source>The archive&apos;s list of files is ambiguous.</source>
         <translation>Список файлов архива неоднозначен.</translation>
     </message>
     <message>
-        <source>The archive holds too many files.</source>
+        <source>The archive contains too many files.</source>
         <translation>В архиве слишком много файлов.</translation>
     </message>
     <message>
@@ -2392,7 +2392,7 @@
         <translation>Команде %1 нужны ключ и значение: veldmarkctl %1 KEY VALUE.</translation>
     </message>
     <message>
-        <source>What should I do? &quot;veldmarkctl help&quot; lists the commands.</source>
+        <source>A command is missing. &quot;veldmarkctl help&quot; lists the commands.</source>
         <translation>Что нужно сделать? Список команд выводит «veldmarkctl help».</translation>
     </message>
     <message>
@@ -2434,7 +2434,7 @@
         <translation>не найдено</translation>
     </message>
     <message>
-        <source>doesn&apos;t say what it serves</source>
+        <source>doesn&apos;t say which transports it serves</source>
         <translation>не сообщает, что поддерживает</translation>
     </message>
     <message>
@@ -2514,7 +2514,7 @@
         <translation>Подключение пока невозможно.</translation>
     </message>
     <message>
-        <source>A connect can&apos;t work before each &quot;problem&quot; is mended.</source>
+        <source>A connect can&apos;t work until each &quot;problem&quot; is fixed.</source>
         <translation>Подключение невозможно, пока не устранена каждая «проблема».</translation>
     </message>
     <message>
@@ -2530,19 +2530,19 @@
         <translation>строгий</translation>
     </message>
     <message>
-        <source>stands, since %1</source>
+        <source>blocks traffic, since %1</source>
         <translation>действует с %1</translation>
     </message>
     <message>
-        <source>stands; put back at %1 after another program had removed it</source>
+        <source>blocks traffic; put back at %1 after another program had removed it</source>
         <translation>действует; восстановлен (%1) после того, как его убрала другая программа</translation>
     </message>
     <message>
-        <source>OPEN since %1: traffic may leave this computer directly</source>
+        <source>NOT BLOCKING since %1: traffic may leave this computer directly</source>
         <translation>НЕ ДЕЙСТВУЕТ с %1: трафик может уходить с этого компьютера напрямую</translation>
     </message>
     <message>
-        <source>isn&apos;t known to stand, since %1</source>
+        <source>isn&apos;t known to block traffic, since %1</source>
         <translation>с %1 неизвестно, действует ли</translation>
     </message>
     <message>
@@ -2570,11 +2570,11 @@
         <translation>заблокирован</translation>
     </message>
     <message>
-        <source>no answer, but the kill switch isn&apos;t known to close it</source>
+        <source>no answer, but it isn&apos;t known whether the kill switch blocks it</source>
         <translation>нет ответа, но неизвестно, перекрывает ли его kill switch</translation>
     </message>
     <message>
-        <source>no answer, but proxy mode doesn&apos;t close it</source>
+        <source>no answer, but proxy mode doesn&apos;t block it</source>
         <translation>нет ответа, но режим прокси его не перекрывает</translation>
     </message>
     <message>
@@ -2582,7 +2582,7 @@
         <translation>проверка…</translation>
     </message>
     <message>
-        <source>couldn&apos;t be told</source>
+        <source>inconclusive</source>
         <translation>не удалось определить</translation>
     </message>
     <message>
@@ -2718,11 +2718,11 @@
         <translation>«%1» — ни true, ни false.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no JSON array of strings.</source>
+        <source>&quot;%1&quot; is not a JSON array of strings.</source>
         <translation>«%1» — не массив строк JSON.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no bridge choice: off, obfs4, snowflake, meek or custom.</source>
+        <source>&quot;%1&quot; is not a bridge choice: off, obfs4, snowflake, meek or custom.</source>
         <translation>«%1» — не вариант мостов: off, obfs4, snowflake, meek или custom.</translation>
     </message>
     <message>
@@ -2734,15 +2734,15 @@
         <translation>Tor не завершил подключение за 5 минут. (%1)</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
+        <source>&quot;%1&quot; is not an exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
         <translation>«%1» — не страна выхода: две строчные буквы, например «de», или пусто — любая.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no application: an absolute path that ends in &quot;%2&quot;.</source>
+        <source>&quot;%1&quot; is not an application: an absolute path that ends in &quot;%2&quot;.</source>
         <translation>«%1» — не приложение: нужен абсолютный путь, который кончается на «%2».</translation>
     </message>
     <message>
-        <source>the kill switch, else proxy mode</source>
+        <source>strict mode with the kill switch, else proxy mode</source>
         <translation>kill switch, иначе режим прокси</translation>
     </message>
     <message>
@@ -2754,7 +2754,7 @@
         <translation>две строчные буквы или пусто — любая</translation>
     </message>
     <message>
-        <source>the tor to use, or nothing to search for it</source>
+        <source>the path of the tor to use, or nothing to search for tor</source>
         <translation>какой tor использовать, или пусто — искать его</translation>
     </message>
     <message>
@@ -2794,7 +2794,7 @@
         <translation>Для «set» нужны «key» и «value», оба — строки.</translation>
     </message>
     <message>
-        <source>Already connected, or on the way; &quot;veldmarkctl status&quot; says more.</source>
+        <source>Already connected or connecting; &quot;veldmarkctl status&quot; says more.</source>
         <translation>Уже подключено или подключается; подробнее: «veldmarkctl status».</translation>
     </message>
     <message>
@@ -2870,7 +2870,7 @@
         <translation>продолжать до Ctrl+C</translation>
     </message>
     <message>
-        <source>how things stand; --watch goes on until Ctrl-C</source>
+        <source>print the connection&apos;s state; --watch goes on until Ctrl-C</source>
         <translation>текущее состояние; с --watch — непрерывно, до Ctrl+C</translation>
     </message>
     <message>
@@ -2882,7 +2882,7 @@
         <translation>восстановить сеть и остановить Tor</translation>
     </message>
     <message>
-        <source>the same, also for what a crash left behind</source>
+        <source>restore the network and stop Tor, also after a crash</source>
         <translation>то же самое, в том числе после сбоя</translation>
     </message>
     <message>
@@ -2898,7 +2898,7 @@
         <translation>цепочки Tor и сайты на них</translation>
     </message>
     <message>
-        <source>close one; its sites get a fresh path on their next request</source>
+        <source>close a circuit; its sites get a fresh path on their next request</source>
         <translation>закрыть одну; при следующем запросе её сайты получат новый путь</translation>
     </message>
     <message>
@@ -2944,8 +2944,8 @@ APP — имя из «apps», имя файла его ярлыка .desktop л�
         <translation>Команде launch нужно приложение; их список выводит «veldmarkctl apps».</translation>
     </message>
     <message>
-        <source>look at this computer: what a connect needs, what is in its way, and what
-mends it. Changes nothing; ends with 0 when a connect can work</source>
+        <source>check what a connect needs on this computer, what blocks it and how to fix
+it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>проверить этот компьютер: что нужно для подключения, что ему мешает и как это
 исправить. Ничего не меняет; код завершения 0, если подключение возможно</translation>
     </message>
@@ -3014,11 +3014,11 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Программа завершает работу.</translation>
     </message>
     <message>
-        <source>The strict session that is running is replaced, and may protect you less.</source>
+        <source>Veldmark replaces the running strict session. The new session may protect you less.</source>
         <translation>Действующий строгий сеанс заменяется, и защита может стать слабее.</translation>
     </message>
     <message>
-        <source>Veldmark wants to run %1 as a part of Tor. No package of the system brought it. Its SHA-256 is %2.</source>
+        <source>Veldmark wants to run %1 as a part of Tor. No package of the system installed it. Its SHA-256 is %2.</source>
         <translation>Veldmark хочет запустить %1 как часть Tor. Этот файл не входит ни в один пакет системы. Его SHA-256: %2.</translation>
     </message>
     <message>
@@ -3070,7 +3070,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Чтобы разрешить %1, нужен пароль администратора.</translation>
     </message>
     <message>
-        <source>An administrator password is needed to change the strict session that is running.</source>
+        <source>An administrator password is needed to change the running strict session.</source>
         <translation>Чтобы изменить действующий строгий сеанс, нужен пароль администратора.</translation>
     </message>
     <message>
@@ -3082,7 +3082,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Чтобы это настроить, нужен пароль администратора.</translation>
     </message>
     <message>
-        <source>Another program (process %1) has begun a session since. It was left alone.</source>
+        <source>Another program (process %1) has started a session meanwhile. That session was left alone.</source>
         <translation>С тех пор сеанс начала другая программа (процесс %1). Он оставлен без изменений.</translation>
     </message>
     <message>
@@ -3094,7 +3094,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>От имени root приложения не открываются.</translation>
     </message>
     <message>
-        <source>Applications can be opened for the user who asks only.</source>
+        <source>The helper opens applications only for the user who asks.</source>
         <translation>Приложения можно открывать только для того пользователя, который об этом просит.</translation>
     </message>
     <message>
@@ -3106,12 +3106,12 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Указано мостов: больше %1.</translation>
     </message>
     <message>
-        <source>Only the user who asks can be let in.</source>
+        <source>Passwordless mode can be set up only for the user who asks.</source>
         <translation>Доступ можно дать только тому пользователю, который его запрашивает.</translation>
     </message>
     <message>
-        <source>Somebody else is changing the firewall. Try again in a moment.</source>
-        <translation>Брандмауэр сейчас меняет кто-то другой. Повторите попытку чуть позже.</translation>
+        <source>Another program is changing the firewall. Try again in a moment.</source>
+        <translation>Брандмауэр сейчас меняет другая программа. Повторите попытку чуть позже.</translation>
     </message>
     <message>
         <source>The DNS servers of systemd-resolved cannot be changed.</source>
@@ -3144,6 +3144,10 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
     <message>
         <source>The caller&apos;s user id is not a number.</source>
         <translation>Идентификатор вызывающего пользователя — не число.</translation>
+    </message>
+    <message>
+        <source>The control group for Tor cannot be made.</source>
+        <translation>Не удаётся создать контрольную группу для Tor.</translation>
     </message>
     <message>
         <source>The control group of the applications without Tor could not be removed.</source>
@@ -3186,7 +3190,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Не удаётся удалить файлы в %1.</translation>
     </message>
     <message>
-        <source>The firewall cannot be looked at, so nothing was done.</source>
+        <source>The firewall rules cannot be read, so nothing was done.</source>
         <translation>Не удаётся проверить брандмауэр, поэтому ничего не сделано.</translation>
     </message>
     <message>
@@ -3194,16 +3198,16 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Не удаётся включить брандмауэр (%1).</translation>
     </message>
     <message>
-        <source>The firewall cannot end the connections from before.</source>
+        <source>The firewall cannot end the earlier connections.</source>
         <translation>Брандмауэру не удаётся разорвать прежние соединения.</translation>
     </message>
     <message>
-        <source>The firewall could not be opened (%1).</source>
-        <translation>Не удалось снять блокировку в брандмауэре (%1).</translation>
+        <source>The kill switch could not be switched off (%1).</source>
+        <translation>Не удалось отключить kill switch (%1).</translation>
     </message>
     <message>
-        <source>The firewall could not be opened, because somebody is changing it.</source>
-        <translation>Не удалось снять блокировку в брандмауэре: его сейчас кто-то меняет.</translation>
+        <source>The kill switch could not be switched off, because another program is changing the firewall.</source>
+        <translation>Не удалось отключить kill switch: брандмауэр сейчас меняет другая программа.</translation>
     </message>
     <message>
         <source>The firewall does not hold the rules that were loaded.</source>
@@ -3266,11 +3270,11 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Папки над папкой Veldmark небезопасны: они должны принадлежать root, и писать в них должен только root.</translation>
     </message>
     <message>
-        <source>The folders below %1 cannot be looked at, so nothing was done.</source>
+        <source>The folders below %1 cannot be read, so nothing was done.</source>
         <translation>Не удаётся просмотреть папки внутри %1, поэтому ничего не сделано.</translation>
     </message>
     <message>
-        <source>The folders below %1 cannot be looked at.</source>
+        <source>The folders below %1 cannot be read.</source>
         <translation>Не удаётся просмотреть папки внутри %1.</translation>
     </message>
     <message>
@@ -3306,8 +3310,8 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Не удаётся записать журнал восстановления.</translation>
     </message>
     <message>
-        <source>The kill switch is not on, so there is nothing to open the application past.</source>
-        <translation>Kill switch не включён, поэтому открывать приложение в обход него незачем.</translation>
+        <source>The kill switch is not on, so no application needs to bypass it.</source>
+        <translation>Kill switch не включён, поэтому приложениям незачем его обходить.</translation>
     </message>
     <message>
         <source>The launcher could not be copied to %1.</source>
@@ -3422,7 +3426,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Путь, указанный в --app, не ведёт к приложению.</translation>
     </message>
     <message>
-        <source>The port %1, which Tor needs, is held by %2. End that, then connect again.</source>
+        <source>The port %1, which Tor needs, is held by %2. End that program, then connect again.</source>
         <translation>Порт %1, нужный Tor, занимает %2. Завершите эту программу и подключитесь снова.</translation>
     </message>
     <message>
@@ -3450,7 +3454,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>В этой системе нет программы %1.</translation>
     </message>
     <message>
-        <source>The program %1 is not the one that was to be approved.</source>
+        <source>The SHA-256 of the program %1 is not the one to approve.</source>
         <translation>Программа %1 — не та, которую нужно было разрешить.</translation>
     </message>
     <message>
@@ -3538,11 +3542,11 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>У команды uninstall-privileged нет параметров.</translation>
     </message>
     <message>
-        <source>The watcher over the firewall could not be started.</source>
+        <source>The watcher of the firewall rules could not be started.</source>
         <translation>Не удалось запустить наблюдение за брандмауэром.</translation>
     </message>
     <message>
-        <source>The watcher over the firewall could not be stopped.</source>
+        <source>The watcher of the firewall rules could not be stopped.</source>
         <translation>Не удалось остановить наблюдение за брандмауэром.</translation>
     </message>
     <message>
@@ -3658,7 +3662,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>nft завершается с ошибкой.</translation>
     </message>
     <message>
-        <source>Ended without its display. Your network is still set up for Tor: start Veldmark again, or restore it with: %1</source>
+        <source>Ended because the display is gone. Your network is still set up for Tor: start Veldmark again, or restore the network with: %1</source>
         <translation>Veldmark завершился, потеряв дисплей. Сеть всё ещё настроена на Tor: запустите Veldmark снова или восстановите её командой: %1</translation>
     </message>
     <message>
@@ -3670,7 +3674,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Сеть снова открыта, но вернуть прежние настройки устройства loopback не удалось. Попробуйте: ethtool -K lo %1 on.</translation>
     </message>
     <message>
-        <source>Applications are not told apart on this system.</source>
+        <source>This system can&apos;t tell applications apart.</source>
         <translation>В этой системе приложения не различаются.</translation>
     </message>
     <message>
@@ -3690,11 +3694,11 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Ни у одного вашего приложения нет такой личности Tor; список: «veldmarkctl identities».</translation>
     </message>
     <message>
-        <source>The application has not got another identity.</source>
+        <source>The application did not get a new identity.</source>
         <translation>Приложение не получило другую личность Tor.</translation>
     </message>
     <message>
-        <source>The program has not got an identity of its own, so it was not started.</source>
+        <source>The program did not get an identity of its own, so it was not started.</source>
         <translation>Программа не получила свою личность Tor, поэтому не запущена.</translation>
     </message>
     <message>
@@ -3702,7 +3706,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>В имени может быть до 40 букв, цифр, точек и знаков подчёркивания.</translation>
     </message>
     <message>
-        <source>The program systemd-run is missing, which makes groups for programs.</source>
+        <source>The program systemd-run is missing. Veldmark needs it to make a group for a program.</source>
         <translation>Нет программы systemd-run, создающей группы для программ.</translation>
     </message>
     <message>
@@ -3752,15 +3756,15 @@ name in the same session has the same ones</source>
         <translation>Значение --separate должно быть 0 или 1.</translation>
     </message>
     <message>
-        <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
+        <source>No package of the system installed %1. The next connect asks an administrator to approve it.</source>
         <translation>%1 не входит ни в один пакет системы. При следующем подключении администратора попросят его одобрить.</translation>
     </message>
     <message>
-        <source>Whether a connect can work isn&apos;t known.</source>
+        <source>It isn&apos;t known whether a connect can work.</source>
         <translation>Неизвестно, возможно ли подключение.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
         <translation>Другой брандмауэр на этом компьютере запрещает исходящие соединения, и ни одно из его правил ничего не разрешает, поэтому Tor не может пройти: %1.</translation>
     </message>
 </context>

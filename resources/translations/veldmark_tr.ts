@@ -544,7 +544,7 @@
         <translation>Nedenini bul</translation>
     </message>
     <message>
-        <source>Looks at this computer: what a connection needs, what is in its way, and what mends it</source>
+        <source>Checks what a connection needs on this computer, what blocks it and how to fix it</source>
         <translation>Bu bilgisayarı inceler: bağlantı için ne gerektiğini, neyin engel olduğunu ve bunun nasıl giderileceğini gösterir</translation>
     </message>
     <message>
@@ -769,7 +769,7 @@
         <translation>Her uygulamanın kendi devreleri olur</translation>
     </message>
     <message>
-        <source>Sites cannot tell by the exit address that two applications are yours. Applications are told apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with all of their login session or account.</source>
+        <source>Sites cannot tell by the exit address that two applications are yours. Veldmark tells applications apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with the rest of their login session or account.</source>
         <translation>Siteler, iki uygulamanın size ait olduğunu çıkış adresinden anlayamaz. Uygulamalar yalnızca masaüstünün her birini ayrı bir denetim grubunda başlattığı yerlerde ayırt edilir; GNOME ve KDE böyle yapar. Diğer programlar, devreleri aynı giriş oturumundaki ya da hesaptaki her şeyle paylaşır.</translation>
     </message>
 </context>
@@ -821,7 +821,7 @@
         <translation>Başka bir program Veldmark&apos;ın güvenlik duvarı kurallarını kaldırdı; kurallar yeniden yerinde.</translation>
     </message>
     <message>
-        <source>The kill switch is open. Open Veldmark, disconnect and connect again.</source>
+        <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
         <translation>Acil kesme anahtarı etkisiz. Veldmark&apos;ı açın, bağlantıyı kesip yeniden bağlanın.</translation>
     </message>
     <message>
@@ -829,8 +829,8 @@
         <translation>Acil kesme anahtarı izlenmiyor</translation>
     </message>
     <message>
-        <source>It can&apos;t be told whether it stands. Open Veldmark, disconnect and connect again.</source>
-        <translation>Yürürlükte olup olmadığı bilinemiyor. Veldmark&apos;ı açın, bağlantıyı kesip yeniden bağlanın.</translation>
+        <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Open Veldmark, disconnect and connect again.</source>
+        <translation>Acil kesme anahtarının yürürlükte olup olmadığı bilinemiyor. Veldmark&apos;ı açın, bağlantıyı kesip yeniden bağlanın.</translation>
     </message>
 </context>
 <context>
@@ -840,7 +840,7 @@
         <translation>Veldmark</translation>
     </message>
     <message>
-        <source>A window could not be made. Your network is not affected; to restore it without Veldmark, run:
+        <source>Veldmark could not open a window. Your network is not affected. To restore it without Veldmark, run:
 %1
 
 %2</source>
@@ -862,7 +862,7 @@
         <translation>Ağınız hâlâ Tor için ayarlı</translation>
     </message>
     <message>
-        <source>Veldmark was told to end and could not restore it. Open Veldmark again to do so.</source>
+        <source>Veldmark had to close and could not restore the network. Open Veldmark again to restore it.</source>
         <translation>Veldmark&apos;ın kapanması istendi, ama ağ geri yüklenemedi. Bunu yapmak için Veldmark&apos;ı yeniden açın.</translation>
     </message>
 </context>
@@ -939,7 +939,7 @@
         <translation> · izlemek için bir aktarıcıya ya da siteye tıklayın</translation>
     </message>
     <message>
-        <source>Leads to an onion service, which meets it at its last relay</source>
+        <source>Leads to an onion service. The last relay is the meeting point.</source>
         <translation>Bir onion hizmetine gider; hizmet, devreyle son aktarıcısında buluşur</translation>
     </message>
     <message>
@@ -998,7 +998,7 @@
         <translation>Not</translation>
     </message>
     <message>
-        <source>In order</source>
+        <source>OK</source>
         <translation>Yolunda</translation>
     </message>
     <message>
@@ -1014,15 +1014,15 @@
         <translation>Bu bilgisayar inceleniyor…</translation>
     </message>
     <message>
-        <source>Nothing was found out.</source>
+        <source>The check gave no result.</source>
         <translation>Hiçbir şey saptanamadı.</translation>
     </message>
     <message>
-        <source>Nothing was found that keeps Veldmark from connecting.</source>
+        <source>No problem was found that keeps Veldmark from connecting.</source>
         <translation>Veldmark&apos;ın bağlanmasını engelleyen bir şey bulunamadı.</translation>
     </message>
     <message>
-        <source>Veldmark can&apos;t connect before each problem is mended.</source>
+        <source>Veldmark can&apos;t connect until each problem is fixed.</source>
         <translation>Tüm sorunlar giderilmeden Veldmark bağlanamaz.</translation>
     </message>
 </context>
@@ -1089,7 +1089,7 @@
         <translation>Günlük dosyalarını dosya yöneticisinde gösterir</translation>
     </message>
     <message>
-        <source>There are no log files yet: Tor makes %1 when it is first started.</source>
+        <source>There are no log files yet. Tor creates %1 when it first starts.</source>
         <translation>Henüz günlük dosyası yok: Tor ilk kez başlatıldığında %1 oluşturulur.</translation>
     </message>
     <message>
@@ -1187,11 +1187,11 @@
         <translation>Yanıt yok</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but the kill switch isn&apos;t known to close that path</source>
+        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>Tor&apos;u atlayan doğrudan bir bağlantı yanıt almadı, ama acil kesme anahtarının bu yolu kapatıp kapatmadığı bilinmiyor</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t close that path</source>
+        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>Tor&apos;u atlayan doğrudan bir bağlantı yanıt almadı, ama vekil sunucu kipi bu yolu kapatmaz</translation>
     </message>
     <message>
@@ -1408,7 +1408,7 @@
 <context>
     <name>veldmark::Text</name>
     <message>
-        <source>Tor hasn&apos;t confirmed that it is on the network again, so nothing may get through. Veldmark goes on telling it to; else disconnect and connect again.</source>
+        <source>Tor hasn&apos;t confirmed that it uses the network again, so traffic may not get through. Veldmark keeps telling Tor to. If this lasts, disconnect and connect again.</source>
         <translation>Tor yeniden ağda olduğunu doğrulamadı, bu yüzden trafik hiç geçmiyor olabilir. Veldmark, Tor&apos;a ağa dönmesini söylemeyi sürdürüyor; olmazsa bağlantıyı kesip yeniden bağlanın.</translation>
     </message>
     <message>
@@ -1416,7 +1416,7 @@
         <translation>Sunulan sürüm %1, kurulu olan %2 sürümünden daha eski. Hiçbir şey değiştirilmedi.</translation>
     </message>
     <message>
-        <source>What came as version %1 is another one, so it was discarded.</source>
+        <source>The download of version %1 contains another version, so it was discarded.</source>
         <translation>%1 sürümü olarak gelen, başka bir sürüm çıktı; bu yüzden atıldı.</translation>
     </message>
     <message>
@@ -1424,11 +1424,11 @@
         <translation>Tor bağlanınca indirme baştan başlar…</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no place for Tor: give the whole path, such as /usr/bin/tor.</source>
+        <source>&quot;%1&quot; is not a location of Tor. Give an absolute path, such as /usr/bin/tor.</source>
         <translation>“%1” Tor için bir konum değil: tam yolu verin, örneğin /usr/bin/tor.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; holds for the whole connection. Disconnect to change it.</source>
+        <source>&quot;%1&quot; can&apos;t be changed during a connection. Disconnect to change it.</source>
         <translation>“%1” tüm bağlantı için geçerlidir. Değiştirmek için bağlantıyı kesin.</translation>
     </message>
     <message>
@@ -1485,11 +1485,11 @@
     </message>
     <message>
         <source>Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor artık çalışmıyor. Acil kesme anahtarı trafiği hâlâ engelliyor, bu yüzden hiçbir şey sızmadı. Yeniden bağlanın ya da çevrimiçi olmak için ağı geri yükleyin.</translation>
+        <translation>Tor artık çalışmıyor. Acil kesme anahtarı trafiği hâlâ engelliyor, bu yüzden hiçbir şey sızmadı. Yeniden bağlanın ya da Tor olmadan çevrimiçi olmak için ağı geri yükleyin.</translation>
     </message>
     <message>
-        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks have seen some go around Tor. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor artık çalışmıyor. Acil kesme anahtarı trafiği hâlâ engelliyor, ama son denetimlerde trafiğin bir kısmının Tor&apos;u atladığı görüldü. Yeniden bağlanın ya da çevrimiçi olmak için ağı geri yükleyin.</translation>
+        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks saw traffic go around Tor. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>Tor artık çalışmıyor. Acil kesme anahtarı trafiği hâlâ engelliyor, ama son denetimlerde trafiğin bir kısmının Tor&apos;u atladığı görüldü. Yeniden bağlanın ya da Tor olmadan çevrimiçi olmak için ağı geri yükleyin.</translation>
     </message>
     <message>
         <source>Tor stopped running. Apps using the proxy can&apos;t connect until you reconnect or Restore Network.</source>
@@ -1592,19 +1592,19 @@
         <translation>Tor artık çalışmıyor ve ağınız artık Tor için ayarlı değil.</translation>
     </message>
     <message>
-        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor artık çalışmıyor. Acil kesme anahtarı trafiği yeniden engelliyor, ama başka bir program kurallarını bir süreliğine kaldırmıştı. Yeniden bağlanın ya da çevrimiçi olmak için ağı geri yükleyin.</translation>
+        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>Tor artık çalışmıyor. Acil kesme anahtarı trafiği yeniden engelliyor, ama başka bir program kurallarını bir süreliğine kaldırmıştı. Yeniden bağlanın ya da Tor olmadan çevrimiçi olmak için ağı geri yükleyin.</translation>
     </message>
     <message>
-        <source>Tor stopped running, and the kill switch is open: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
+        <source>Tor stopped running, and the kill switch doesn&apos;t block traffic: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
         <translation>Tor artık çalışmıyor ve acil kesme anahtarı etkisiz: başka bir program kurallarını kaldırdı. Trafik bu bilgisayardan doğrudan çıkabilir. Yeniden bağlanın ya da ağı geri yükleyin.</translation>
     </message>
     <message>
-        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor artık çalışmıyor ve acil kesme anahtarının trafiği hâlâ engelleyip engellemediği bilinmiyor. Yeniden bağlanın ya da çevrimiçi olmak için ağı geri yükleyin.</translation>
+        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>Tor artık çalışmıyor ve acil kesme anahtarının trafiği hâlâ engelleyip engellemediği bilinmiyor. Yeniden bağlanın ya da Tor olmadan çevrimiçi olmak için ağı geri yükleyin.</translation>
     </message>
     <message>
-        <source>The watcher over Veldmark&apos;s firewall rules has stopped telling, so it isn&apos;t known whether the kill switch stands. Disconnect and connect again.</source>
+        <source>The watcher of Veldmark&apos;s firewall rules has stopped reporting, so it isn&apos;t known whether the kill switch blocks traffic. Disconnect and connect again.</source>
         <translation>Veldmark&apos;ın güvenlik duvarı kurallarının izleyicisi artık bilgi vermiyor, bu yüzden acil kesme anahtarının yürürlükte olup olmadığı bilinmiyor. Bağlantıyı kesip yeniden bağlanın.</translation>
     </message>
     <message>
@@ -1636,7 +1636,7 @@
         <translation>DNS sızıntısı</translation>
     </message>
     <message>
-        <source>Kill Switch Open</source>
+        <source>Kill Switch Failed</source>
         <translation>Acil kesme etkisiz</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>Gerçek adresiniz görülebilir. Bağlantıyı kesin ya da sızıntı testini yeniden çalıştırın.</translation>
     </message>
     <message>
-        <source>It can&apos;t be told whether the kill switch stands. Disconnect and connect again.</source>
+        <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Disconnect and connect again.</source>
         <translation>Acil kesme anahtarının yürürlükte olup olmadığı bilinemiyor. Bağlantıyı kesip yeniden bağlanın.</translation>
     </message>
     <message>
@@ -1676,7 +1676,7 @@
         <translation>Hiçbir şey geçmiyor</translation>
     </message>
     <message>
-        <source>This computer has no network. Nothing gets out around Tor meanwhile.</source>
+        <source>This computer has no network. Traffic around Tor stays blocked.</source>
         <translation>Bu bilgisayarın ağ bağlantısı yok. Bu sırada hiçbir şey Tor&apos;u atlayarak dışarı çıkmaz.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>Bu bilgisayarın ağ bağlantısı yok. Bağlantı geri gelince Veldmark devam eder.</translation>
     </message>
     <message>
-        <source>Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile.</source>
+        <source>Tor has no working circuit and keeps trying. Traffic around Tor stays blocked.</source>
         <translation>Tor&apos;un çalışan bir devresi yok, denemeyi sürdürüyor. Bu sırada hiçbir şey Tor&apos;u atlayarak dışarı çıkmaz.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>Tor&apos;un çalışan bir devresi yok, denemeyi sürdürüyor.</translation>
     </message>
     <message>
-        <source>Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile.</source>
+        <source>Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked.</source>
         <translation>Tor ağdan yanıt alamıyor, denemeyi sürdürüyor. Bu sırada hiçbir şey Tor&apos;u atlayarak dışarı çıkmaz.</translation>
     </message>
     <message>
@@ -1700,7 +1700,7 @@
         <translation>Tor ağdan yanıt alamıyor, denemeyi sürdürüyor.</translation>
     </message>
     <message>
-        <source>Another program has ended this session and begun one of its own. Restore Network ends that one.</source>
+        <source>Another program has ended this session and started its own. Restore Network ends that session.</source>
         <translation>Başka bir program bu oturumu sona erdirip kendi oturumunu başlattı. “Ağı geri yükle” o oturumu sona erdirir.</translation>
     </message>
     <message>
@@ -1752,7 +1752,7 @@
         <translation>Yönetici erişimi reddedildi ya da parolayı soran aracı yanıt vermedi.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out, so Tor can&apos;t connect: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic, so Tor can&apos;t connect: %1.</source>
         <translation>Bu bilgisayardaki başka bir güvenlik duvarı dışarı çıkanı reddediyor, bu yüzden Tor bağlanamıyor: %1.</translation>
     </message>
     <message>
@@ -1808,11 +1808,11 @@
         <translation>%1 Tor olmadan açılamadı: %2</translation>
     </message>
     <message>
-        <source>Another Veldmark of yours has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <source>Another Veldmark of yours has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
         <translation>Bu arada başka bir Veldmark&apos;ınız bir oturum başlatmış, bu yüzden hiçbir şey sona erdirilmedi. O oturumu sona erdirmek için bağlantıyı yeniden kesin.</translation>
     </message>
     <message>
-        <source>Another user&apos;s Veldmark has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <source>Another user&apos;s Veldmark has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
         <translation>Bu arada başka bir kullanıcının Veldmark&apos;ı bir oturum başlatmış, bu yüzden hiçbir şey sona erdirilmedi. O oturumu sona erdirmek için bağlantıyı yeniden kesin.</translation>
     </message>
     <message>
@@ -1888,7 +1888,7 @@
         <translation>Sunucu HTTP yanıtı vermedi.</translation>
     </message>
     <message>
-        <source>The connection was lost before the end.</source>
+        <source>The connection was lost before the download ended.</source>
         <translation>Bağlantı, aktarım bitmeden koptu.</translation>
     </message>
     <message>
@@ -1900,7 +1900,7 @@
         <translation>Tor denetim bağlantısını kapattı.</translation>
     </message>
     <message>
-        <source>Another program than Tor listens on Tor&apos;s control port.</source>
+        <source>A program other than Tor listens on Tor&apos;s control port.</source>
         <translation>Tor&apos;un denetim bağlantı noktasını Tor dışında bir program dinliyor.</translation>
     </message>
     <message>
@@ -1928,7 +1928,7 @@
         <translation>Yönetici erişimi istenemiyor: bu oturumda bir PolicyKit kimlik doğrulama aracısı çalışmıyor.</translation>
     </message>
     <message>
-        <source>The password could not be checked: polkit takes none from this terminal. Run it with sudo.</source>
+        <source>The password could not be checked: polkit accepts no password from this terminal. Run the command with sudo.</source>
         <translation>Parola denetlenemedi: polkit bu uçbirimden parola almıyor. Komutu sudo ile çalıştırın.</translation>
     </message>
     <message>
@@ -2032,7 +2032,7 @@
         <translation>%1 zaten açılıyor.</translation>
     </message>
     <message>
-        <source>A session is open, and its kill switch isn&apos;t closed: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
+        <source>A session is open, and its kill switch doesn&apos;t block traffic: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
         <translation>Açık bir oturum var ve acil kesme anahtarı etkisiz: izleyicisi kuralları geri koyamadı. Trafik bu bilgisayardan doğrudan çıkabilir. Ağı geri yükleyip yeniden bağlanın.</translation>
     </message>
     <message>
@@ -2044,7 +2044,7 @@
         <translation>Saat ağdan ayarlanıyor. Gösterdiği: %1.</translation>
     </message>
     <message>
-        <source>Whether the clock is right isn&apos;t known: nothing is seen to set it from the network. It shows %1. Tor needs it right to within minutes.</source>
+        <source>It isn&apos;t known whether the clock is right: no time service seems to set it. It shows %1. Tor needs it right to within minutes.</source>
         <translation>Saatin doğru olup olmadığı bilinmiyor: onu ağdan ayarlayan bir şey görünmüyor. Gösterdiği: %1. Tor için saatin birkaç dakikadan fazla şaşmaması gerekir.</translation>
     </message>
     <message>
@@ -2060,11 +2060,11 @@
         <translation>Sistemin güvenlik duvarı kullanılamıyor: %1</translation>
     </message>
     <message>
-        <source>The kernel that runs (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
+        <source>The running kernel (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
         <translation>Çalışan çekirdekte (%1) nftables yok. Çekirdek yükseltildiyse bilgisayarı yeniden başlatın.</translation>
     </message>
     <message>
-        <source>nftables is installed. Whether the kernel that runs can use it is known to root only.</source>
+        <source>nftables is installed. Only root can tell whether the running kernel can use it.</source>
         <translation>nftables kurulu. Çalışan çekirdeğin onu kullanıp kullanamadığını yalnızca root bilebilir.</translation>
     </message>
     <message>
@@ -2084,11 +2084,11 @@
         <translation>Uygulamalar Tor olmadan açılabilir: sürüm 2 denetim grupları var.</translation>
     </message>
     <message>
-        <source>No other firewall that is known by name runs. The rules themselves are known to root only.</source>
+        <source>No other firewall that Veldmark knows runs. Only root can read the rules themselves.</source>
         <translation>Adıyla tanınan başka bir güvenlik duvarı çalışmıyor. Kuralların kendilerini yalnızca root görebilir.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out unless one of its rules allows it, so Tor may not get through: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic that its rules don&apos;t allow, so Tor may not get through: %1.</source>
         <translation>Bu bilgisayardaki başka bir güvenlik duvarı, kurallarından biri izin vermedikçe dışarı çıkanı reddediyor; bu yüzden Tor geçemeyebilir: %1.</translation>
     </message>
     <message>
@@ -2108,11 +2108,11 @@
         <translation>Burada, yönetici parolasını soracak bir pencerenin açılabileceği bir masaüstü yok. sudo kullanın.</translation>
     </message>
     <message>
-        <source>No program that is known to ask for polkit&apos;s passwords (an agent) runs in your session. Without one, use sudo, or start an agent such as lxpolkit.</source>
+        <source>No known polkit agent, the program that asks for the password, runs in your session. Use sudo, or start an agent such as lxpolkit.</source>
         <translation>Oturumunuzda polkit parolalarını sorduğu bilinen bir program (aracı) çalışmıyor. Aracı olmadan sudo kullanın ya da lxpolkit gibi bir aracı başlatın.</translation>
     </message>
     <message>
-        <source>polkit is there, and a program that asks for its passwords runs in your session.</source>
+        <source>polkit is installed, and an agent that asks for the password runs in your session.</source>
         <translation>polkit var ve oturumunuzda parolalarını soran bir program çalışıyor.</translation>
     </message>
     <message>
@@ -2120,15 +2120,15 @@
         <translation>Veldmark burada root olarak çalışıyor ve parola sormuyor.</translation>
     </message>
     <message>
-        <source>Connecting without a password is set up.</source>
-        <translation>Parolasız bağlanma kurulu.</translation>
+        <source>Passwordless mode is set up.</source>
+        <translation>Parolasız kip kurulu.</translation>
     </message>
     <message>
-        <source>sudo isn&apos;t installed. Connecting without a password needs it.</source>
-        <translation>sudo kurulu değil. Parolasız bağlanmak için gerekli.</translation>
+        <source>sudo isn&apos;t installed. Passwordless mode needs it.</source>
+        <translation>sudo kurulu değil. Parolasız kip için gerekli.</translation>
     </message>
     <message>
-        <source>sudo is installed. Whether you may use it is known to root only.</source>
+        <source>sudo is installed. Only root can tell whether you may use it.</source>
         <translation>sudo kurulu. Onu kullanıp kullanamayacağınızı yalnızca root bilebilir.</translation>
     </message>
     <message>
@@ -2156,7 +2156,7 @@
         <translation>Tor için gereken bağlantı noktaları (9050, 9051 ve 293) boş.</translation>
     </message>
     <message>
-        <source>The location of Tor in the settings, %1, is no program that can run. The usual places are searched instead.</source>
+        <source>The location of Tor in the settings, %1, is not an executable program. Veldmark searches the usual places instead.</source>
         <translation>Ayarlarda Tor&apos;un konumu olarak verilen %1, çalıştırılabilir bir program değil. Bunun yerine olağan konumlarda aranıyor.</translation>
     </message>
     <message>
@@ -2164,7 +2164,7 @@
         <translation>Tor kurulu değil.</translation>
     </message>
     <message>
-        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it doesn&apos;t tell its version.</source>
+        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it prints no version.</source>
         <translation>%1 başlamıyor ya da Tor değil: sürümünü bildirmiyor.</translation>
     </message>
     <message>
@@ -2184,11 +2184,11 @@
         <translation>Veldmark&apos;ın yardımcı betiği eksik. Veldmark&apos;ı yeniden kurun.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper, %1, lies where others than root can write. They can change it, and with it what the administrator&apos;s password runs.</source>
+        <source>Accounts other than root can change Veldmark&apos;s helper, %1, and with it what the administrator&apos;s password runs.</source>
         <translation>Veldmark&apos;ın yardımcı programı (%1) root dışındakilerin de yazabildiği bir yerde. Bunlar onu, böylece yönetici parolasının çalıştırdığı şeyi de değiştirebilir.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper, %1, is not an installed one: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
+        <source>Veldmark&apos;s helper, %1, is not installed: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
         <translation>Veldmark&apos;ın yardımcı programı (%1) kurulmuş bir kopya değil: %2 hesabı onu, böylece yönetici parolasının çalıştırdığı şeyi de değiştirebilir.</translation>
     </message>
     <message>
@@ -2196,11 +2196,11 @@
         <translation>Veldmark&apos;ın yardımcı programı kurulu ve onu yalnızca root değiştirebilir: %1.</translation>
     </message>
     <message>
-        <source>The helper that runs without a password is not this version&apos;s. Set up connecting without a password again in Settings, General.</source>
-        <translation>Parolasız çalışan yardımcı program bu sürüme ait değil. Parolasız bağlanmayı “Ayarlar → Genel” altında yeniden kurun.</translation>
+        <source>The helper of passwordless mode belongs to another version. Set up passwordless mode again in Settings, General.</source>
+        <translation>Parolasız kipin yardımcı programı başka bir sürüme ait. Parolasız kipi “Ayarlar → Genel” altında yeniden kurun.</translation>
     </message>
     <message>
-        <source>Bridges are off. Where Tor is blocked they need bridge programs, and none was found.</source>
+        <source>Bridges are off. Bridges need bridge programs where Tor is blocked, and none was found.</source>
         <translation>Köprüler kapalı. Tor&apos;un engellendiği yerde köprü programları gerekir, ama hiçbiri bulunamadı.</translation>
     </message>
     <message>
@@ -2216,19 +2216,19 @@
         <translation>Seçilen köprüler (%1) kullanılabiliyor: %2.</translation>
     </message>
     <message>
-        <source>Names are looked up as %1 says. Veldmark switches that over and back.</source>
+        <source>%1 manages DNS. Veldmark changes that while connected and restores it afterwards.</source>
         <translation>Adlar %1 dosyasında yazdığı gibi çözümlenir. Veldmark bunu değiştirir, sonra geri alır.</translation>
     </message>
     <message>
-        <source>%1 is Veldmark&apos;s. It names Tor as the name server.</source>
+        <source>Veldmark wrote %1. It points DNS at Tor.</source>
         <translation>%1 dosyası Veldmark&apos;ın. Ad sunucusu olarak Tor&apos;u gösteriyor.</translation>
     </message>
     <message>
-        <source>There is no file %1, so names may not be looked up at all.</source>
+        <source>The file %1 is missing, so DNS may not work at all.</source>
         <translation>%1 dosyası yok, bu yüzden adlar hiç çözümlenemeyebilir.</translation>
     </message>
     <message>
-        <source>Names are looked up by a resolver on this computer. Veldmark switches that over and back.</source>
+        <source>A resolver on this computer answers DNS. Veldmark changes that while connected and restores it afterwards.</source>
         <translation>Adları bu bilgisayardaki bir çözümleyici çözümlüyor. Veldmark bunu değiştirir, sonra geri alır.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>Açık bir oturum var: ağ Tor için ayarlı ve Tor çalışıyor.</translation>
     </message>
     <message>
-        <source>The network is set up for Tor. Whether Tor still runs isn&apos;t known here.</source>
+        <source>The network is set up for Tor. It isn&apos;t known whether Tor still runs.</source>
         <translation>Ağ Tor için ayarlı. Tor&apos;un hâlâ çalışıp çalışmadığı buradan bilinemiyor.</translation>
     </message>
     <message>
@@ -2252,7 +2252,7 @@
         <translation>Ağ önceki bir oturumdan beri hâlâ Tor için ayarlı ve çalışan bir Tor yok. Yeniden bağlanın ya da ağı geri yükleyin.</translation>
     </message>
     <message>
-        <source>A session is open, and it isn&apos;t known whether its kill switch stands: nobody watches over the rules. Restore the network, and connect again.</source>
+        <source>A session is open, and it isn&apos;t known whether its kill switch blocks traffic: no watcher watches the rules. Restore the network, and connect again.</source>
         <translation>Açık bir oturum var ve acil kesme anahtarının yürürlükte olup olmadığı bilinmiyor: kuralları izleyen yok. Ağı geri yükleyip yeniden bağlanın.</translation>
     </message>
     <message>
@@ -2268,7 +2268,7 @@
         <translation>%1 / %2 MB (yüzde %3)</translation>
     </message>
     <message>
-        <source>Veldmark needs administrator access to manage Tor routing on this computer. The system&apos;s own Tor service, where it runs, is stopped meanwhile.</source>
+        <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
         <translation>Veldmark&apos;ın bu bilgisayarda Tor yönlendirmesini yönetmek için yönetici erişimine gereksinimi var. Sistemin kendi Tor hizmeti çalışıyorsa bu sırada durdurulur.</translation>
     </message>
     <message>
@@ -2276,7 +2276,7 @@
         <translation>Veldmark&apos;ın bu Mac&apos;te Tor yönlendirmesini yönetmek için yönetici erişimine gereksinimi var.</translation>
     </message>
     <message>
-        <source>The archive holds %1: %2</source>
+        <source>The archive contains %1: %2</source>
         <translation>Arşivde %1 var: %2</translation>
     </message>
     <message>
@@ -2288,7 +2288,7 @@
         <translation>sabit bağlantı</translation>
     </message>
     <message>
-        <source>what is neither file nor folder</source>
+        <source>an entry that is neither a file nor a folder</source>
         <translation>ne dosya ne klasör olan bir öge</translation>
     </message>
     <message>
@@ -2296,15 +2296,15 @@
         <translation>başka yere götüren bir yol</translation>
     </message>
     <message>
-        <source>The archive is empty or no archive.</source>
+        <source>The file is empty or not an archive.</source>
         <translation>Arşiv boş ya da bir arşiv değil.</translation>
     </message>
     <message>
-        <source>The archive&apos;s list of files is not clear.</source>
+        <source>The archive&apos;s list of files is ambiguous.</source>
         <translation>Arşivin dosya listesi belirsiz.</translation>
     </message>
     <message>
-        <source>The archive holds too many files.</source>
+        <source>The archive contains too many files.</source>
         <translation>Arşivde çok fazla dosya var.</translation>
     </message>
     <message>
@@ -2392,7 +2392,7 @@
         <translation>%1 için bir anahtar ve bir değer gerekir: veldmarkctl %1 KEY VALUE.</translation>
     </message>
     <message>
-        <source>What should I do? &quot;veldmarkctl help&quot; lists the commands.</source>
+        <source>A command is missing. &quot;veldmarkctl help&quot; lists the commands.</source>
         <translation>Ne yapılsın? “veldmarkctl help” komutları listeler.</translation>
     </message>
     <message>
@@ -2434,7 +2434,7 @@
         <translation>bulunamadı</translation>
     </message>
     <message>
-        <source>doesn&apos;t say what it serves</source>
+        <source>doesn&apos;t say which transports it serves</source>
         <translation>ne sunduğunu bildirmiyor</translation>
     </message>
     <message>
@@ -2514,7 +2514,7 @@
         <translation>Henüz bağlantı kurulamaz.</translation>
     </message>
     <message>
-        <source>A connect can&apos;t work before each &quot;problem&quot; is mended.</source>
+        <source>A connect can&apos;t work until each &quot;problem&quot; is fixed.</source>
         <translation>Her “sorun” giderilmeden bağlantı kurulamaz.</translation>
     </message>
     <message>
@@ -2530,19 +2530,19 @@
         <translation>sıkı</translation>
     </message>
     <message>
-        <source>stands, since %1</source>
+        <source>blocks traffic, since %1</source>
         <translation>yürürlükte (%1 anından beri)</translation>
     </message>
     <message>
-        <source>stands; put back at %1 after another program had removed it</source>
+        <source>blocks traffic; put back at %1 after another program had removed it</source>
         <translation>yürürlükte; başka bir program kaldırmıştı, yeniden konduğu an: %1</translation>
     </message>
     <message>
-        <source>OPEN since %1: traffic may leave this computer directly</source>
+        <source>NOT BLOCKING since %1: traffic may leave this computer directly</source>
         <translation>ETKİSİZ (%1 anından beri): trafik bu bilgisayardan doğrudan çıkabilir</translation>
     </message>
     <message>
-        <source>isn&apos;t known to stand, since %1</source>
+        <source>isn&apos;t known to block traffic, since %1</source>
         <translation>yürürlükte olup olmadığı bilinmiyor (%1 anından beri)</translation>
     </message>
     <message>
@@ -2570,11 +2570,11 @@
         <translation>engelleniyor</translation>
     </message>
     <message>
-        <source>no answer, but the kill switch isn&apos;t known to close it</source>
+        <source>no answer, but it isn&apos;t known whether the kill switch blocks it</source>
         <translation>yanıt yok, ama acil kesme anahtarının bu yolu kapatıp kapatmadığı bilinmiyor</translation>
     </message>
     <message>
-        <source>no answer, but proxy mode doesn&apos;t close it</source>
+        <source>no answer, but proxy mode doesn&apos;t block it</source>
         <translation>yanıt yok, ama vekil sunucu kipi bu yolu kapatmaz</translation>
     </message>
     <message>
@@ -2582,7 +2582,7 @@
         <translation>denetleniyor…</translation>
     </message>
     <message>
-        <source>couldn&apos;t be told</source>
+        <source>inconclusive</source>
         <translation>anlaşılamadı</translation>
     </message>
     <message>
@@ -2718,11 +2718,11 @@
         <translation>“%1” ne true ne de false.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no JSON array of strings.</source>
+        <source>&quot;%1&quot; is not a JSON array of strings.</source>
         <translation>“%1” dizgelerden oluşan bir JSON dizisi değil.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no bridge choice: off, obfs4, snowflake, meek or custom.</source>
+        <source>&quot;%1&quot; is not a bridge choice: off, obfs4, snowflake, meek or custom.</source>
         <translation>“%1” bir köprü seçimi değil: off, obfs4, snowflake, meek ya da custom.</translation>
     </message>
     <message>
@@ -2734,15 +2734,15 @@
         <translation>Tor bağlantıyı 5 dakika içinde tamamlayamadı. (%1)</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
+        <source>&quot;%1&quot; is not an exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
         <translation>“%1” bir çıkış ülkesi değil: “de” gibi iki küçük harf ya da herhangi biri için boş.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no application: an absolute path that ends in &quot;%2&quot;.</source>
+        <source>&quot;%1&quot; is not an application: an absolute path that ends in &quot;%2&quot;.</source>
         <translation>“%1” bir uygulama değil: “%2” ile biten mutlak bir yol olmalı.</translation>
     </message>
     <message>
-        <source>the kill switch, else proxy mode</source>
+        <source>strict mode with the kill switch, else proxy mode</source>
         <translation>acil kesme anahtarı, yoksa vekil sunucu kipi</translation>
     </message>
     <message>
@@ -2754,7 +2754,7 @@
         <translation>iki küçük harf ya da herhangi biri için boş</translation>
     </message>
     <message>
-        <source>the tor to use, or nothing to search for it</source>
+        <source>the path of the tor to use, or nothing to search for tor</source>
         <translation>kullanılacak tor, aranması için boş</translation>
     </message>
     <message>
@@ -2794,7 +2794,7 @@
         <translation>“set” için bir “key” ve bir “value” gerekir, ikisi de dizge.</translation>
     </message>
     <message>
-        <source>Already connected, or on the way; &quot;veldmarkctl status&quot; says more.</source>
+        <source>Already connected or connecting; &quot;veldmarkctl status&quot; says more.</source>
         <translation>Zaten bağlı ya da bağlanıyor; ayrıntı için: “veldmarkctl status”.</translation>
     </message>
     <message>
@@ -2870,7 +2870,7 @@
         <translation>Ctrl-C&apos;ye dek sürer</translation>
     </message>
     <message>
-        <source>how things stand; --watch goes on until Ctrl-C</source>
+        <source>print the connection&apos;s state; --watch goes on until Ctrl-C</source>
         <translation>durumu gösterir; --watch Ctrl-C&apos;ye dek sürer</translation>
     </message>
     <message>
@@ -2882,7 +2882,7 @@
         <translation>ağı geri yükler ve Tor&apos;u durdurur</translation>
     </message>
     <message>
-        <source>the same, also for what a crash left behind</source>
+        <source>restore the network and stop Tor, also after a crash</source>
         <translation>aynısı; bir çökmeden geriye kalanlar için de</translation>
     </message>
     <message>
@@ -2898,7 +2898,7 @@
         <translation>Tor&apos;un devreleri ve üzerlerindeki siteler</translation>
     </message>
     <message>
-        <source>close one; its sites get a fresh path on their next request</source>
+        <source>close a circuit; its sites get a fresh path on their next request</source>
         <translation>bir devreyi kapatır; siteleri bir sonraki istekte yeni bir yol alır</translation>
     </message>
     <message>
@@ -2944,8 +2944,8 @@ veya programın yolu. Önce çalışan kopyaların kapanması istenir</translati
         <translation>launch için bir uygulama gerekir; “veldmarkctl apps” uygulamaları listeler.</translation>
     </message>
     <message>
-        <source>look at this computer: what a connect needs, what is in its way, and what
-mends it. Changes nothing; ends with 0 when a connect can work</source>
+        <source>check what a connect needs on this computer, what blocks it and how to fix
+it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>bu bilgisayarı inceler: bağlantı için ne gerekir, ne engel olur, ne giderir.
 Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation>
     </message>
@@ -3014,11 +3014,11 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Program kapanıyor.</translation>
     </message>
     <message>
-        <source>The strict session that is running is replaced, and may protect you less.</source>
+        <source>Veldmark replaces the running strict session. The new session may protect you less.</source>
         <translation>Çalışmakta olan sıkı oturumun yerine yenisi konur; yenisi sizi daha az koruyabilir.</translation>
     </message>
     <message>
-        <source>Veldmark wants to run %1 as a part of Tor. No package of the system brought it. Its SHA-256 is %2.</source>
+        <source>Veldmark wants to run %1 as a part of Tor. No package of the system installed it. Its SHA-256 is %2.</source>
         <translation>Veldmark, %1 programını Tor&apos;un bir parçası olarak çalıştırmak istiyor. Program, sistemin hiçbir paketinden gelmiyor. SHA-256 özeti: %2.</translation>
     </message>
     <message>
@@ -3070,7 +3070,7 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>%1 programını onaylamak için bir yönetici parolası gerekiyor.</translation>
     </message>
     <message>
-        <source>An administrator password is needed to change the strict session that is running.</source>
+        <source>An administrator password is needed to change the running strict session.</source>
         <translation>Çalışmakta olan sıkı oturumu değiştirmek için bir yönetici parolası gerekiyor.</translation>
     </message>
     <message>
@@ -3082,7 +3082,7 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Bunu kurmak için bir yönetici parolası gerekiyor.</translation>
     </message>
     <message>
-        <source>Another program (process %1) has begun a session since. It was left alone.</source>
+        <source>Another program (process %1) has started a session meanwhile. That session was left alone.</source>
         <translation>Bu arada başka bir program (süreç %1) bir oturum başlattı. O oturuma dokunulmadı.</translation>
     </message>
     <message>
@@ -3094,7 +3094,7 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Uygulamalar root olarak açılmaz.</translation>
     </message>
     <message>
-        <source>Applications can be opened for the user who asks only.</source>
+        <source>The helper opens applications only for the user who asks.</source>
         <translation>Uygulamalar yalnızca isteyen kullanıcı için açılabilir.</translation>
     </message>
     <message>
@@ -3106,12 +3106,12 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Verilen köprü sayısı %1 sınırını aşıyor.</translation>
     </message>
     <message>
-        <source>Only the user who asks can be let in.</source>
+        <source>Passwordless mode can be set up only for the user who asks.</source>
         <translation>Yalnızca isteyen kullanıcıya izin verilebilir.</translation>
     </message>
     <message>
-        <source>Somebody else is changing the firewall. Try again in a moment.</source>
-        <translation>Güvenlik duvarını şu anda başkası değiştiriyor. Birazdan yeniden deneyin.</translation>
+        <source>Another program is changing the firewall. Try again in a moment.</source>
+        <translation>Güvenlik duvarını şu anda başka bir program değiştiriyor. Birazdan yeniden deneyin.</translation>
     </message>
     <message>
         <source>The DNS servers of systemd-resolved cannot be changed.</source>
@@ -3144,6 +3144,10 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
     <message>
         <source>The caller&apos;s user id is not a number.</source>
         <translation>Çağıranın kullanıcı numarası bir sayı değil.</translation>
+    </message>
+    <message>
+        <source>The control group for Tor cannot be made.</source>
+        <translation>Tor için denetim grubu oluşturulamıyor.</translation>
     </message>
     <message>
         <source>The control group of the applications without Tor could not be removed.</source>
@@ -3186,7 +3190,7 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Şu konumdaki dosyalar kaldırılamıyor: %1.</translation>
     </message>
     <message>
-        <source>The firewall cannot be looked at, so nothing was done.</source>
+        <source>The firewall rules cannot be read, so nothing was done.</source>
         <translation>Güvenlik duvarına bakılamıyor, bu yüzden hiçbir şey yapılmadı.</translation>
     </message>
     <message>
@@ -3194,16 +3198,16 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Güvenlik duvarı etkinleştirilemiyor (%1).</translation>
     </message>
     <message>
-        <source>The firewall cannot end the connections from before.</source>
+        <source>The firewall cannot end the earlier connections.</source>
         <translation>Güvenlik duvarı önceki bağlantıları sona erdiremiyor.</translation>
     </message>
     <message>
-        <source>The firewall could not be opened (%1).</source>
-        <translation>Güvenlik duvarının engeli kaldırılamadı (%1).</translation>
+        <source>The kill switch could not be switched off (%1).</source>
+        <translation>Acil kesme anahtarı kapatılamadı (%1).</translation>
     </message>
     <message>
-        <source>The firewall could not be opened, because somebody is changing it.</source>
-        <translation>Güvenlik duvarının engeli kaldırılamadı, çünkü şu anda biri onu değiştiriyor.</translation>
+        <source>The kill switch could not be switched off, because another program is changing the firewall.</source>
+        <translation>Acil kesme anahtarı kapatılamadı, çünkü şu anda başka bir program güvenlik duvarını değiştiriyor.</translation>
     </message>
     <message>
         <source>The firewall does not hold the rules that were loaded.</source>
@@ -3266,11 +3270,11 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Veldmark klasörünün üstündeki klasörler güvenli değil: sahipleri yalnızca root olmalı, bunlara yalnızca root yazabilmeli.</translation>
     </message>
     <message>
-        <source>The folders below %1 cannot be looked at, so nothing was done.</source>
+        <source>The folders below %1 cannot be read, so nothing was done.</source>
         <translation>%1 altındaki klasörlere bakılamıyor, bu yüzden hiçbir şey yapılmadı.</translation>
     </message>
     <message>
-        <source>The folders below %1 cannot be looked at.</source>
+        <source>The folders below %1 cannot be read.</source>
         <translation>%1 altındaki klasörlere bakılamıyor.</translation>
     </message>
     <message>
@@ -3306,8 +3310,8 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Geri yükleme kaydı yazılamıyor.</translation>
     </message>
     <message>
-        <source>The kill switch is not on, so there is nothing to open the application past.</source>
-        <translation>Acil kesme anahtarı yürürlükte değil, bu yüzden uygulamanın açılırken atlayacağı bir şey yok.</translation>
+        <source>The kill switch is not on, so no application needs to bypass it.</source>
+        <translation>Acil kesme anahtarı açık değil, bu yüzden hiçbir uygulamanın onu atlaması gerekmez.</translation>
     </message>
     <message>
         <source>The launcher could not be copied to %1.</source>
@@ -3422,7 +3426,7 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>--app ile verilen yol bir uygulamayı göstermiyor.</translation>
     </message>
     <message>
-        <source>The port %1, which Tor needs, is held by %2. End that, then connect again.</source>
+        <source>The port %1, which Tor needs, is held by %2. End that program, then connect again.</source>
         <translation>Tor için gereken %1 numaralı bağlantı noktasını %2 kullanıyor. Onu sonlandırıp yeniden bağlanın.</translation>
     </message>
     <message>
@@ -3450,7 +3454,7 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Bu sistemde %1 programı eksik.</translation>
     </message>
     <message>
-        <source>The program %1 is not the one that was to be approved.</source>
+        <source>The SHA-256 of the program %1 is not the one to approve.</source>
         <translation>%1 programı, onaylanacak olan program değil.</translation>
     </message>
     <message>
@@ -3538,11 +3542,11 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>uninstall-privileged komutu seçenek almaz.</translation>
     </message>
     <message>
-        <source>The watcher over the firewall could not be started.</source>
+        <source>The watcher of the firewall rules could not be started.</source>
         <translation>Güvenlik duvarının izleyicisi başlatılamadı.</translation>
     </message>
     <message>
-        <source>The watcher over the firewall could not be stopped.</source>
+        <source>The watcher of the firewall rules could not be stopped.</source>
         <translation>Güvenlik duvarının izleyicisi durdurulamadı.</translation>
     </message>
     <message>
@@ -3658,7 +3662,7 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>nft başarısız oluyor.</translation>
     </message>
     <message>
-        <source>Ended without its display. Your network is still set up for Tor: start Veldmark again, or restore it with: %1</source>
+        <source>Ended because the display is gone. Your network is still set up for Tor: start Veldmark again, or restore the network with: %1</source>
         <translation>Ekranı kalmadığı için sona erdi. Ağınız hâlâ Tor için ayarlı: Veldmark&apos;ı yeniden başlatın ya da ağı şununla geri yükleyin: %1</translation>
     </message>
     <message>
@@ -3670,7 +3674,7 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Ağdaki engel kaldırıldı, ama geri döngü aygıtı önceki gibi ayarlanamadı. Şunu deneyin: ethtool -K lo %1 on.</translation>
     </message>
     <message>
-        <source>Applications are not told apart on this system.</source>
+        <source>This system can&apos;t tell applications apart.</source>
         <translation>Bu sistemde uygulamalar ayırt edilmez.</translation>
     </message>
     <message>
@@ -3690,11 +3694,11 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Hiçbir uygulamanız bu kimliğe sahip değil; “veldmarkctl identities” kimlikleri listeler.</translation>
     </message>
     <message>
-        <source>The application has not got another identity.</source>
+        <source>The application did not get a new identity.</source>
         <translation>Uygulama başka bir kimlik almadı.</translation>
     </message>
     <message>
-        <source>The program has not got an identity of its own, so it was not started.</source>
+        <source>The program did not get an identity of its own, so it was not started.</source>
         <translation>Program kendi kimliğini almadı, bu yüzden başlatılmadı.</translation>
     </message>
     <message>
@@ -3702,7 +3706,7 @@ Hiçbir şeyi değiştirmez; bağlantı kurulabiliyorsa 0 ile biter</translation
         <translation>Bir ad en çok 40 karakterdir: harf, rakam, nokta ve alt çizgi.</translation>
     </message>
     <message>
-        <source>The program systemd-run is missing, which makes groups for programs.</source>
+        <source>The program systemd-run is missing. Veldmark needs it to make a group for a program.</source>
         <translation>Programlar için grup oluşturan systemd-run programı eksik.</translation>
     </message>
     <message>
@@ -3752,15 +3756,15 @@ aynı adla yapılan sonraki çalıştırma aynı devreleri kullanır</translatio
         <translation>--separate değeri 0 ya da 1 olmalı.</translation>
     </message>
     <message>
-        <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
+        <source>No package of the system installed %1. The next connect asks an administrator to approve it.</source>
         <translation>%1 sistemin hiçbir paketinden gelmiyor. Bir sonraki bağlantıda bir yöneticiden onu onaylaması istenir.</translation>
     </message>
     <message>
-        <source>Whether a connect can work isn&apos;t known.</source>
+        <source>It isn&apos;t known whether a connect can work.</source>
         <translation>Bağlantının kurulup kurulamayacağı bilinmiyor.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
         <translation>Bu bilgisayardaki başka bir güvenlik duvarı dışarı çıkanı reddediyor ve hiçbir kuralı bir şeye izin vermiyor; bu yüzden Tor geçemiyor: %1.</translation>
     </message>
 </context>

@@ -544,7 +544,7 @@
         <translation>Знайти причину</translation>
     </message>
     <message>
-        <source>Looks at this computer: what a connection needs, what is in its way, and what mends it</source>
+        <source>Checks what a connection needs on this computer, what blocks it and how to fix it</source>
         <translation>Перевіряє цей комп’ютер: що потрібно для під’єднання, що йому заважає і як це виправити</translation>
     </message>
     <message>
@@ -769,7 +769,7 @@
         <translation>Кожен застосунок має власні ланцюги</translation>
     </message>
     <message>
-        <source>Sites cannot tell by the exit address that two applications are yours. Applications are told apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with all of their login session or account.</source>
+        <source>Sites cannot tell by the exit address that two applications are yours. Veldmark tells applications apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with the rest of their login session or account.</source>
         <translation>Сайти не можуть за адресою виходу визначити, що два застосунки належать вам. Застосунки розрізняються там, де середовище стільниці запускає кожен у власній контрольній групі, як-от GNOME і KDE. Інші програми мають спільні ланцюги з усім своїм сеансом входу або обліковим записом.</translation>
     </message>
 </context>
@@ -821,7 +821,7 @@
         <translation>Інша програма вилучила правила Veldmark із брандмауера; їх уже відновлено.</translation>
     </message>
     <message>
-        <source>The kill switch is open. Open Veldmark, disconnect and connect again.</source>
+        <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
         <translation>Аварійне блокування не діє. Відкрийте Veldmark, від’єднайтеся й під’єднайтеся знову.</translation>
     </message>
     <message>
@@ -829,8 +829,8 @@
         <translation>За аварійним блокуванням ніхто не стежить</translation>
     </message>
     <message>
-        <source>It can&apos;t be told whether it stands. Open Veldmark, disconnect and connect again.</source>
-        <translation>Невідомо, чи воно діє. Відкрийте Veldmark, від’єднайтеся й під’єднайтеся знову.</translation>
+        <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Open Veldmark, disconnect and connect again.</source>
+        <translation>Невідомо, чи діє аварійне блокування. Відкрийте Veldmark, від’єднайтеся й під’єднайтеся знову.</translation>
     </message>
 </context>
 <context>
@@ -840,7 +840,7 @@
         <translation>Veldmark</translation>
     </message>
     <message>
-        <source>A window could not be made. Your network is not affected; to restore it without Veldmark, run:
+        <source>Veldmark could not open a window. Your network is not affected. To restore it without Veldmark, run:
 %1
 
 %2</source>
@@ -862,7 +862,7 @@
         <translation>Вашу мережу досі налаштовано на Tor</translation>
     </message>
     <message>
-        <source>Veldmark was told to end and could not restore it. Open Veldmark again to do so.</source>
+        <source>Veldmark had to close and could not restore the network. Open Veldmark again to restore it.</source>
         <translation>Veldmark отримав команду завершити роботу й не зміг відновити мережу. Щоб відновити її, відкрийте Veldmark знову.</translation>
     </message>
 </context>
@@ -939,7 +939,7 @@
         <translation> · клацніть вузол або сайт, щоб простежити його</translation>
     </message>
     <message>
-        <source>Leads to an onion service, which meets it at its last relay</source>
+        <source>Leads to an onion service. The last relay is the meeting point.</source>
         <translation>Веде до onion-сервісу, який сполучається з цим ланцюгом на його останньому вузлі</translation>
     </message>
     <message>
@@ -998,7 +998,7 @@
         <translation>Примітка</translation>
     </message>
     <message>
-        <source>In order</source>
+        <source>OK</source>
         <translation>Усе гаразд</translation>
     </message>
     <message>
@@ -1014,15 +1014,15 @@
         <translation>Перевірка цього комп’ютера…</translation>
     </message>
     <message>
-        <source>Nothing was found out.</source>
+        <source>The check gave no result.</source>
         <translation>Нічого з’ясувати не вдалося.</translation>
     </message>
     <message>
-        <source>Nothing was found that keeps Veldmark from connecting.</source>
+        <source>No problem was found that keeps Veldmark from connecting.</source>
         <translation>Не знайдено нічого, що заважало б Veldmark під’єднатися.</translation>
     </message>
     <message>
-        <source>Veldmark can&apos;t connect before each problem is mended.</source>
+        <source>Veldmark can&apos;t connect until each problem is fixed.</source>
         <translation>Veldmark не зможе під’єднатися, доки не буде усунено кожну проблему.</translation>
     </message>
 </context>
@@ -1089,7 +1089,7 @@
         <translation>Показати файли журналу в менеджері файлів</translation>
     </message>
     <message>
-        <source>There are no log files yet: Tor makes %1 when it is first started.</source>
+        <source>There are no log files yet. Tor creates %1 when it first starts.</source>
         <translation>Файлів журналу ще немає: Tor створить %1 під час першого запуску.</translation>
     </message>
     <message>
@@ -1173,11 +1173,11 @@
     </message>
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the Dock) so Veldmark can tag them. A running copy is quit and reopened.</source>
-        <translation>У суворому режимі ці застосунки можуть з’єднуватися напряму, а не через Tor, — з вашою справжньою IP-адресою. Усе інше лишається заблокованим. Відкривайте їх кнопкою &lt;b&gt;Відкрити без Tor&lt;/b&gt; (не з панелі Dock), щоб Veldmark міг їх позначити. Запущений екземпляр буде закрито й відкрито знову.</translation>
+        <translation>У суворому режимі ці застосунки можуть з’єднуватися напряму, а не через Tor, — з вашою справжньою IP-адресою. Усе інше, як і раніше, іде лише через Tor. Відкривайте їх кнопкою &lt;b&gt;Відкрити без Tor&lt;/b&gt; (не з панелі Dock), щоб Veldmark міг їх позначити. Запущений екземпляр буде закрито й відкрито знову.</translation>
     </message>
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the desktop&apos;s menu) so Veldmark can tag them. A running copy is quit and reopened.</source>
-        <translation>У суворому режимі ці застосунки можуть з’єднуватися напряму, а не через Tor, — з вашою справжньою IP-адресою. Усе інше лишається заблокованим. Відкривайте їх кнопкою &lt;b&gt;Відкрити без Tor&lt;/b&gt; (не з меню стільниці), щоб Veldmark міг їх позначити. Запущений екземпляр буде закрито й відкрито знову.</translation>
+        <translation>У суворому режимі ці застосунки можуть з’єднуватися напряму, а не через Tor, — з вашою справжньою IP-адресою. Усе інше, як і раніше, іде лише через Tor. Відкривайте їх кнопкою &lt;b&gt;Відкрити без Tor&lt;/b&gt; (не з меню стільниці), щоб Veldmark міг їх позначити. Запущений екземпляр буде закрито й відкрито знову.</translation>
     </message>
 </context>
 <context>
@@ -1187,11 +1187,11 @@
         <translation>Немає відповіді</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but the kill switch isn&apos;t known to close that path</source>
+        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>Пряме з’єднання повз Tor лишилося без відповіді, але невідомо, чи аварійне блокування перекриває цей шлях</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t close that path</source>
+        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>Пряме з’єднання повз Tor лишилося без відповіді, але режим проксі не перекриває цей шлях</translation>
     </message>
     <message>
@@ -1408,7 +1408,7 @@
 <context>
     <name>veldmark::Text</name>
     <message>
-        <source>Tor hasn&apos;t confirmed that it is on the network again, so nothing may get through. Veldmark goes on telling it to; else disconnect and connect again.</source>
+        <source>Tor hasn&apos;t confirmed that it uses the network again, so traffic may not get through. Veldmark keeps telling Tor to. If this lasts, disconnect and connect again.</source>
         <translation>Tor не підтвердив, що він знову в мережі, тож, можливо, нічого не проходить. Veldmark і далі намагається повернути його в мережу; якщо не допоможе, від’єднайтеся й під’єднайтеся знову.</translation>
     </message>
     <message>
@@ -1416,7 +1416,7 @@
         <translation>Запропоновано версію %1, старішу за встановлену %2. Нічого не змінено.</translation>
     </message>
     <message>
-        <source>What came as version %1 is another one, so it was discarded.</source>
+        <source>The download of version %1 contains another version, so it was discarded.</source>
         <translation>Те, що надійшло як версія %1, насправді є іншою версією, тому його відкинуто.</translation>
     </message>
     <message>
@@ -1424,11 +1424,11 @@
         <translation>Завантаження почнеться знову, коли Tor під’єднається…</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no place for Tor: give the whole path, such as /usr/bin/tor.</source>
+        <source>&quot;%1&quot; is not a location of Tor. Give an absolute path, such as /usr/bin/tor.</source>
         <translation>«%1» не може бути розташуванням Tor: укажіть повний шлях, наприклад /usr/bin/tor.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; holds for the whole connection. Disconnect to change it.</source>
+        <source>&quot;%1&quot; can&apos;t be changed during a connection. Disconnect to change it.</source>
         <translation>«%1» діє впродовж усього під’єднання. Щоб змінити, від’єднайтеся.</translation>
     </message>
     <message>
@@ -1485,11 +1485,11 @@
     </message>
     <message>
         <source>Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor припинив роботу. Аварійне блокування досі не пропускає трафік, тож витоків не було. Щоб повернутися в інтернет, під’єднайтеся знову або відновіть мережу.</translation>
+        <translation>Tor припинив роботу. Аварійне блокування досі не пропускає трафік, тож витоків не було. Під’єднайтеся знову або відновіть мережу, щоб повернутися в інтернет без Tor.</translation>
     </message>
     <message>
-        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks have seen some go around Tor. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor припинив роботу. Аварійне блокування досі не пропускає трафік, але останні перевірки виявили, що частина трафіку йшла повз Tor. Щоб повернутися в інтернет, під’єднайтеся знову або відновіть мережу.</translation>
+        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks saw traffic go around Tor. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>Tor припинив роботу. Аварійне блокування досі не пропускає трафік, але останні перевірки виявили, що частина трафіку йшла повз Tor. Під’єднайтеся знову або відновіть мережу, щоб повернутися в інтернет без Tor.</translation>
     </message>
     <message>
         <source>Tor stopped running. Apps using the proxy can&apos;t connect until you reconnect or Restore Network.</source>
@@ -1592,19 +1592,19 @@
         <translation>Tor припинив роботу, і вашу мережу більше не налаштовано на нього.</translation>
     </message>
     <message>
-        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor припинив роботу. Аварійне блокування знову не пропускає трафік, але інша програма на певний час вилучала його правила. Щоб повернутися в інтернет, під’єднайтеся знову або відновіть мережу.</translation>
+        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>Tor припинив роботу. Аварійне блокування знову не пропускає трафік, але інша програма на певний час вилучала його правила. Під’єднайтеся знову або відновіть мережу, щоб повернутися в інтернет без Tor.</translation>
     </message>
     <message>
-        <source>Tor stopped running, and the kill switch is open: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
+        <source>Tor stopped running, and the kill switch doesn&apos;t block traffic: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
         <translation>Tor припинив роботу, і аварійне блокування не діє: інша програма вилучила його правила. Трафік може виходити з цього комп’ютера напряму. Під’єднайтеся знову або відновіть мережу.</translation>
     </message>
     <message>
-        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor припинив роботу, і невідомо, чи аварійне блокування досі не пропускає трафік. Щоб повернутися в інтернет, під’єднайтеся знову або відновіть мережу.</translation>
+        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>Tor припинив роботу, і невідомо, чи аварійне блокування досі не пропускає трафік. Під’єднайтеся знову або відновіть мережу, щоб повернутися в інтернет без Tor.</translation>
     </message>
     <message>
-        <source>The watcher over Veldmark&apos;s firewall rules has stopped telling, so it isn&apos;t known whether the kill switch stands. Disconnect and connect again.</source>
+        <source>The watcher of Veldmark&apos;s firewall rules has stopped reporting, so it isn&apos;t known whether the kill switch blocks traffic. Disconnect and connect again.</source>
         <translation>Спостерігач за правилами Veldmark у брандмауері перестав повідомляти про них, тож невідомо, чи діє аварійне блокування. Від’єднайтеся й під’єднайтеся знову.</translation>
     </message>
     <message>
@@ -1636,7 +1636,7 @@
         <translation>Витік DNS</translation>
     </message>
     <message>
-        <source>Kill Switch Open</source>
+        <source>Kill Switch Failed</source>
         <translation>Блокування не діє</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>Вашу справжню адресу видно. Від’єднайтеся або повторіть тест витоків.</translation>
     </message>
     <message>
-        <source>It can&apos;t be told whether the kill switch stands. Disconnect and connect again.</source>
+        <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Disconnect and connect again.</source>
         <translation>Невідомо, чи діє аварійне блокування. Від’єднайтеся й під’єднайтеся знову.</translation>
     </message>
     <message>
@@ -1676,7 +1676,7 @@
         <translation>Нічого не проходить</translation>
     </message>
     <message>
-        <source>This computer has no network. Nothing gets out around Tor meanwhile.</source>
+        <source>This computer has no network. Traffic around Tor stays blocked.</source>
         <translation>На цьому комп’ютері немає мережі. Тим часом нічого не виходить назовні повз Tor.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>На цьому комп’ютері немає мережі. Veldmark продовжить, коли вона з’явиться.</translation>
     </message>
     <message>
-        <source>Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile.</source>
+        <source>Tor has no working circuit and keeps trying. Traffic around Tor stays blocked.</source>
         <translation>Tor не має робочого ланцюга й продовжує спроби. Тим часом нічого не виходить назовні повз нього.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>Tor не має робочого ланцюга й продовжує спроби.</translation>
     </message>
     <message>
-        <source>Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile.</source>
+        <source>Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked.</source>
         <translation>Tor не отримує відповіді з мережі й продовжує спроби. Тим часом нічого не виходить назовні повз нього.</translation>
     </message>
     <message>
@@ -1700,7 +1700,7 @@
         <translation>Tor не отримує відповіді з мережі й продовжує спроби.</translation>
     </message>
     <message>
-        <source>Another program has ended this session and begun one of its own. Restore Network ends that one.</source>
+        <source>Another program has ended this session and started its own. Restore Network ends that session.</source>
         <translation>Інша програма завершила цей сеанс і почала власний. «Відновити мережу» завершує той, новий.</translation>
     </message>
     <message>
@@ -1752,7 +1752,7 @@
         <translation>У правах адміністратора відмовлено, або програма, що запитує пароль, не відповіла.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out, so Tor can&apos;t connect: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic, so Tor can&apos;t connect: %1.</source>
         <translation>Інший брандмауер на цьому комп’ютері забороняє вихідні з’єднання, тому Tor не може під’єднатися: %1.</translation>
     </message>
     <message>
@@ -1808,11 +1808,11 @@
         <translation>Не вдалося відкрити %1 без Tor: %2</translation>
     </message>
     <message>
-        <source>Another Veldmark of yours has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <source>Another Veldmark of yours has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
         <translation>Інший ваш Veldmark тим часом почав сеанс, тому нічого не завершено. Щоб завершити той сеанс, від’єднайтеся ще раз.</translation>
     </message>
     <message>
-        <source>Another user&apos;s Veldmark has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <source>Another user&apos;s Veldmark has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
         <translation>Veldmark іншого користувача тим часом почав сеанс, тому нічого не завершено. Щоб завершити той сеанс, від’єднайтеся ще раз.</translation>
     </message>
     <message>
@@ -1888,7 +1888,7 @@
         <translation>Сервер не надав відповіді HTTP.</translation>
     </message>
     <message>
-        <source>The connection was lost before the end.</source>
+        <source>The connection was lost before the download ended.</source>
         <translation>З’єднання перервалося до завершення.</translation>
     </message>
     <message>
@@ -1900,7 +1900,7 @@
         <translation>Tor закрив з’єднання керування.</translation>
     </message>
     <message>
-        <source>Another program than Tor listens on Tor&apos;s control port.</source>
+        <source>A program other than Tor listens on Tor&apos;s control port.</source>
         <translation>Порт керування Tor прослуховує інша програма, а не Tor.</translation>
     </message>
     <message>
@@ -1928,7 +1928,7 @@
         <translation>Неможливо запитати права адміністратора: у цьому сеансі не запущено агента автентифікації PolicyKit.</translation>
     </message>
     <message>
-        <source>The password could not be checked: polkit takes none from this terminal. Run it with sudo.</source>
+        <source>The password could not be checked: polkit accepts no password from this terminal. Run the command with sudo.</source>
         <translation>Не вдалося перевірити пароль: polkit не приймає його з цього термінала. Виконайте команду через sudo.</translation>
     </message>
     <message>
@@ -2032,7 +2032,7 @@
         <translation>%1 уже відкривається.</translation>
     </message>
     <message>
-        <source>A session is open, and its kill switch isn&apos;t closed: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
+        <source>A session is open, and its kill switch doesn&apos;t block traffic: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
         <translation>Сеанс відкрито, але його аварійне блокування не діє: спостерігач не зміг відновити правила. Трафік може виходити з цього комп’ютера напряму. Відновіть мережу й під’єднайтеся знову.</translation>
     </message>
     <message>
@@ -2044,7 +2044,7 @@
         <translation>Годинник синхронізується через мережу. Він показує %1.</translation>
     </message>
     <message>
-        <source>Whether the clock is right isn&apos;t known: nothing is seen to set it from the network. It shows %1. Tor needs it right to within minutes.</source>
+        <source>It isn&apos;t known whether the clock is right: no time service seems to set it. It shows %1. Tor needs it right to within minutes.</source>
         <translation>Невідомо, чи точний годинник: не видно, щоб щось синхронізувало його через мережу. Він показує %1. Для Tor він має бути точним до кількох хвилин.</translation>
     </message>
     <message>
@@ -2060,11 +2060,11 @@
         <translation>Системний брандмауер використовувати неможливо: %1</translation>
     </message>
     <message>
-        <source>The kernel that runs (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
+        <source>The running kernel (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
         <translation>Запущене ядро (%1) не має nftables. Після оновлення ядра перезапустіть комп’ютер.</translation>
     </message>
     <message>
-        <source>nftables is installed. Whether the kernel that runs can use it is known to root only.</source>
+        <source>nftables is installed. Only root can tell whether the running kernel can use it.</source>
         <translation>nftables встановлено. Чи може запущене ядро його використовувати, відомо лише root.</translation>
     </message>
     <message>
@@ -2084,11 +2084,11 @@
         <translation>Застосунки можна відкривати без Tor: контрольні групи версії 2 є.</translation>
     </message>
     <message>
-        <source>No other firewall that is known by name runs. The rules themselves are known to root only.</source>
+        <source>No other firewall that Veldmark knows runs. Only root can read the rules themselves.</source>
         <translation>Інших брандмауерів, відомих за назвою, не запущено. Самі правила відомі лише root.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out unless one of its rules allows it, so Tor may not get through: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic that its rules don&apos;t allow, so Tor may not get through: %1.</source>
         <translation>Інший брандмауер на цьому комп’ютері забороняє вихідні з’єднання, якщо їх не дозволяє одне з його правил, тому Tor може не пройти: %1.</translation>
     </message>
     <message>
@@ -2108,11 +2108,11 @@
         <translation>Тут немає стільниці, на якій вікно могло б запитати пароль адміністратора. Скористайтеся sudo.</translation>
     </message>
     <message>
-        <source>No program that is known to ask for polkit&apos;s passwords (an agent) runs in your session. Without one, use sudo, or start an agent such as lxpolkit.</source>
+        <source>No known polkit agent, the program that asks for the password, runs in your session. Use sudo, or start an agent such as lxpolkit.</source>
         <translation>У вашому сеансі не запущено жодної відомої програми, що запитує паролі для polkit (агента). Без неї користуйтеся sudo або запустіть агент, наприклад lxpolkit.</translation>
     </message>
     <message>
-        <source>polkit is there, and a program that asks for its passwords runs in your session.</source>
+        <source>polkit is installed, and an agent that asks for the password runs in your session.</source>
         <translation>polkit є, і у вашому сеансі запущено програму, що запитує для нього паролі.</translation>
     </message>
     <message>
@@ -2120,15 +2120,15 @@
         <translation>Veldmark запущено тут від імені root, і пароля він не запитує.</translation>
     </message>
     <message>
-        <source>Connecting without a password is set up.</source>
-        <translation>Під’єднання без пароля налаштовано.</translation>
+        <source>Passwordless mode is set up.</source>
+        <translation>Режим без пароля налаштовано.</translation>
     </message>
     <message>
-        <source>sudo isn&apos;t installed. Connecting without a password needs it.</source>
-        <translation>sudo не встановлено. Він потрібен для під’єднання без пароля.</translation>
+        <source>sudo isn&apos;t installed. Passwordless mode needs it.</source>
+        <translation>sudo не встановлено. Він потрібен для режиму без пароля.</translation>
     </message>
     <message>
-        <source>sudo is installed. Whether you may use it is known to root only.</source>
+        <source>sudo is installed. Only root can tell whether you may use it.</source>
         <translation>sudo встановлено. Чи можна вам ним користуватися, відомо лише root.</translation>
     </message>
     <message>
@@ -2156,7 +2156,7 @@
         <translation>Порти, потрібні Tor (9050, 9051 і 293), вільні.</translation>
     </message>
     <message>
-        <source>The location of Tor in the settings, %1, is no program that can run. The usual places are searched instead.</source>
+        <source>The location of Tor in the settings, %1, is not an executable program. Veldmark searches the usual places instead.</source>
         <translation>Розташування Tor у налаштуваннях, %1, не вказує на програму, яку можна запустити. Натомість пошук іде у звичних місцях.</translation>
     </message>
     <message>
@@ -2164,7 +2164,7 @@
         <translation>Tor не встановлено.</translation>
     </message>
     <message>
-        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it doesn&apos;t tell its version.</source>
+        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it prints no version.</source>
         <translation>%1 не запускається або це не Tor: програма не повідомляє своєї версії.</translation>
     </message>
     <message>
@@ -2184,11 +2184,11 @@
         <translation>Бракує допоміжного скрипту Veldmark. Установіть Veldmark знову.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper, %1, lies where others than root can write. They can change it, and with it what the administrator&apos;s password runs.</source>
+        <source>Accounts other than root can change Veldmark&apos;s helper, %1, and with it what the administrator&apos;s password runs.</source>
         <translation>Допоміжна програма Veldmark, %1, міститься там, куди може писати не лише root. Інші можуть змінити її, а отже й те, що запускається з паролем адміністратора.</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper, %1, is not an installed one: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
+        <source>Veldmark&apos;s helper, %1, is not installed: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
         <translation>Допоміжну програму Veldmark, %1, не встановлено в системі: обліковий запис %2 може змінити її, а отже й те, що запускається з паролем адміністратора.</translation>
     </message>
     <message>
@@ -2196,11 +2196,11 @@
         <translation>Допоміжну програму Veldmark встановлено, і змінити її може лише root: %1.</translation>
     </message>
     <message>
-        <source>The helper that runs without a password is not this version&apos;s. Set up connecting without a password again in Settings, General.</source>
-        <translation>Допоміжна програма, що працює без пароля, — від іншої версії. Налаштуйте під’єднання без пароля заново: «Налаштування», розділ «Загальне».</translation>
+        <source>The helper of passwordless mode belongs to another version. Set up passwordless mode again in Settings, General.</source>
+        <translation>Допоміжна програма режиму без пароля — від іншої версії. Налаштуйте режим без пароля заново: «Налаштування», розділ «Загальне».</translation>
     </message>
     <message>
-        <source>Bridges are off. Where Tor is blocked they need bridge programs, and none was found.</source>
+        <source>Bridges are off. Bridges need bridge programs where Tor is blocked, and none was found.</source>
         <translation>Мости вимкнено. Там, де Tor заблоковано, для них потрібні програми, а жодної не знайдено.</translation>
     </message>
     <message>
@@ -2216,19 +2216,19 @@
         <translation>Вибрані мости (%1) можна використовувати: %2.</translation>
     </message>
     <message>
-        <source>Names are looked up as %1 says. Veldmark switches that over and back.</source>
+        <source>%1 manages DNS. Veldmark changes that while connected and restores it afterwards.</source>
         <translation>Імена DNS визначаються так, як указано в %1. Veldmark перемикає це й повертає назад.</translation>
     </message>
     <message>
-        <source>%1 is Veldmark&apos;s. It names Tor as the name server.</source>
+        <source>Veldmark wrote %1. It points DNS at Tor.</source>
         <translation>Файл %1 створив Veldmark. Сервером імен у ньому вказано Tor.</translation>
     </message>
     <message>
-        <source>There is no file %1, so names may not be looked up at all.</source>
+        <source>The file %1 is missing, so DNS may not work at all.</source>
         <translation>Файлу %1 немає, тому імена DNS можуть не визначатися взагалі.</translation>
     </message>
     <message>
-        <source>Names are looked up by a resolver on this computer. Veldmark switches that over and back.</source>
+        <source>A resolver on this computer answers DNS. Veldmark changes that while connected and restores it afterwards.</source>
         <translation>Імена DNS визначає служба на цьому комп’ютері. Veldmark перемикає це й повертає назад.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>Сеанс відкрито: мережу налаштовано на Tor, і Tor працює.</translation>
     </message>
     <message>
-        <source>The network is set up for Tor. Whether Tor still runs isn&apos;t known here.</source>
+        <source>The network is set up for Tor. It isn&apos;t known whether Tor still runs.</source>
         <translation>Мережу налаштовано на Tor. Чи досі працює Tor, тут невідомо.</translation>
     </message>
     <message>
@@ -2252,8 +2252,8 @@
         <translation>Мережу досі налаштовано на Tor після попереднього сеансу, а Tor не працює. Під’єднайтеся знову або відновіть мережу.</translation>
     </message>
     <message>
-        <source>A session is open, and it isn&apos;t known whether its kill switch stands: nobody watches over the rules. Restore the network, and connect again.</source>
-        <translation>Сеанс відкрито, але невідомо, чи діє його аварійне блокування: за правилами ніхто не стежить. Відновіть мережу й під’єднайтеся знову.</translation>
+        <source>A session is open, and it isn&apos;t known whether its kill switch blocks traffic: no watcher watches the rules. Restore the network, and connect again.</source>
+        <translation>Сеанс відкрито, але невідомо, чи діє його аварійне блокування: жоден спостерігач не стежить за правилами. Відновіть мережу й під’єднайтеся знову.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -2268,7 +2268,7 @@
         <translation>%1 із %2 МБ (%3 %)</translation>
     </message>
     <message>
-        <source>Veldmark needs administrator access to manage Tor routing on this computer. The system&apos;s own Tor service, where it runs, is stopped meanwhile.</source>
+        <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
         <translation>Щоб керувати спрямуванням через Tor на цьому комп’ютері, Veldmark потрібні права адміністратора. Системну службу Tor, якщо вона працює, на цей час буде зупинено.</translation>
     </message>
     <message>
@@ -2276,7 +2276,7 @@
         <translation>Щоб керувати спрямуванням через Tor на цьому Mac, Veldmark потрібні права адміністратора.</translation>
     </message>
     <message>
-        <source>The archive holds %1: %2</source>
+        <source>The archive contains %1: %2</source>
         <translation>В архіві є %1: %2</translation>
     </message>
     <message>
@@ -2288,7 +2288,7 @@
         <translation>жорстке посилання</translation>
     </message>
     <message>
-        <source>what is neither file nor folder</source>
+        <source>an entry that is neither a file nor a folder</source>
         <translation>об’єкт, що не є ні файлом, ні текою</translation>
     </message>
     <message>
@@ -2296,15 +2296,15 @@
         <translation>шлях, що веде за його межі</translation>
     </message>
     <message>
-        <source>The archive is empty or no archive.</source>
+        <source>The file is empty or not an archive.</source>
         <translation>Архів порожній або це не архів.</translation>
     </message>
     <message>
-        <source>The archive&apos;s list of files is not clear.</source>
+        <source>The archive&apos;s list of files is ambiguous.</source>
         <translation>Список файлів архіву неоднозначний.</translation>
     </message>
     <message>
-        <source>The archive holds too many files.</source>
+        <source>The archive contains too many files.</source>
         <translation>В архіві забагато файлів.</translation>
     </message>
     <message>
@@ -2392,7 +2392,7 @@
         <translation>Для %1 потрібні ключ і значення: veldmarkctl %1 KEY VALUE.</translation>
     </message>
     <message>
-        <source>What should I do? &quot;veldmarkctl help&quot; lists the commands.</source>
+        <source>A command is missing. &quot;veldmarkctl help&quot; lists the commands.</source>
         <translation>Що зробити? Список команд показує «veldmarkctl help».</translation>
     </message>
     <message>
@@ -2434,7 +2434,7 @@
         <translation>не знайдено</translation>
     </message>
     <message>
-        <source>doesn&apos;t say what it serves</source>
+        <source>doesn&apos;t say which transports it serves</source>
         <translation>не повідомляє, що підтримує</translation>
     </message>
     <message>
@@ -2514,7 +2514,7 @@
         <translation>Під’єднання ще неможливе.</translation>
     </message>
     <message>
-        <source>A connect can&apos;t work before each &quot;problem&quot; is mended.</source>
+        <source>A connect can&apos;t work until each &quot;problem&quot; is fixed.</source>
         <translation>Під’єднання неможливе, доки не буде усунено кожну «проблему».</translation>
     </message>
     <message>
@@ -2530,19 +2530,19 @@
         <translation>суворий</translation>
     </message>
     <message>
-        <source>stands, since %1</source>
+        <source>blocks traffic, since %1</source>
         <translation>діє з %1</translation>
     </message>
     <message>
-        <source>stands; put back at %1 after another program had removed it</source>
+        <source>blocks traffic; put back at %1 after another program had removed it</source>
         <translation>діє; відновлено %1 після того, як його зняла інша програма</translation>
     </message>
     <message>
-        <source>OPEN since %1: traffic may leave this computer directly</source>
+        <source>NOT BLOCKING since %1: traffic may leave this computer directly</source>
         <translation>НЕ ДІЄ з %1: трафік може виходити з цього комп’ютера напряму</translation>
     </message>
     <message>
-        <source>isn&apos;t known to stand, since %1</source>
+        <source>isn&apos;t known to block traffic, since %1</source>
         <translation>з %1 невідомо, чи діє</translation>
     </message>
     <message>
@@ -2570,11 +2570,11 @@
         <translation>заблокований</translation>
     </message>
     <message>
-        <source>no answer, but the kill switch isn&apos;t known to close it</source>
+        <source>no answer, but it isn&apos;t known whether the kill switch blocks it</source>
         <translation>немає відповіді, але невідомо, чи аварійне блокування його перекриває</translation>
     </message>
     <message>
-        <source>no answer, but proxy mode doesn&apos;t close it</source>
+        <source>no answer, but proxy mode doesn&apos;t block it</source>
         <translation>немає відповіді, але режим проксі його не перекриває</translation>
     </message>
     <message>
@@ -2582,7 +2582,7 @@
         <translation>перевірка…</translation>
     </message>
     <message>
-        <source>couldn&apos;t be told</source>
+        <source>inconclusive</source>
         <translation>не вдалося визначити</translation>
     </message>
     <message>
@@ -2718,11 +2718,11 @@
         <translation>«%1» — ні true, ні false.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no JSON array of strings.</source>
+        <source>&quot;%1&quot; is not a JSON array of strings.</source>
         <translation>«%1» — не масив рядків JSON.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no bridge choice: off, obfs4, snowflake, meek or custom.</source>
+        <source>&quot;%1&quot; is not a bridge choice: off, obfs4, snowflake, meek or custom.</source>
         <translation>«%1» — не варіант мостів: off, obfs4, snowflake, meek або custom.</translation>
     </message>
     <message>
@@ -2734,15 +2734,15 @@
         <translation>Tor не завершив під’єднання за 5 хвилин. (%1)</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
+        <source>&quot;%1&quot; is not an exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
         <translation>«%1» — не країна виходу: потрібні дві малі літери, наприклад «de», або порожньо — будь-яка.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no application: an absolute path that ends in &quot;%2&quot;.</source>
+        <source>&quot;%1&quot; is not an application: an absolute path that ends in &quot;%2&quot;.</source>
         <translation>«%1» — не застосунок: потрібен абсолютний шлях, що закінчується на «%2».</translation>
     </message>
     <message>
-        <source>the kill switch, else proxy mode</source>
+        <source>strict mode with the kill switch, else proxy mode</source>
         <translation>аварійне блокування, інакше режим проксі</translation>
     </message>
     <message>
@@ -2754,7 +2754,7 @@
         <translation>дві малі літери або порожньо — будь-яка</translation>
     </message>
     <message>
-        <source>the tor to use, or nothing to search for it</source>
+        <source>the path of the tor to use, or nothing to search for tor</source>
         <translation>який tor використовувати, або порожньо — шукати його</translation>
     </message>
     <message>
@@ -2794,7 +2794,7 @@
         <translation>Для «set» потрібні «key» і «value», обидва — рядки.</translation>
     </message>
     <message>
-        <source>Already connected, or on the way; &quot;veldmarkctl status&quot; says more.</source>
+        <source>Already connected or connecting; &quot;veldmarkctl status&quot; says more.</source>
         <translation>Уже під’єднано або триває під’єднання; докладніше: «veldmarkctl status».</translation>
     </message>
     <message>
@@ -2870,7 +2870,7 @@
         <translation>продовжувати до Ctrl+C</translation>
     </message>
     <message>
-        <source>how things stand; --watch goes on until Ctrl-C</source>
+        <source>print the connection&apos;s state; --watch goes on until Ctrl-C</source>
         <translation>поточний стан; --watch продовжує до Ctrl+C</translation>
     </message>
     <message>
@@ -2882,7 +2882,7 @@
         <translation>відновити мережу й зупинити Tor</translation>
     </message>
     <message>
-        <source>the same, also for what a crash left behind</source>
+        <source>restore the network and stop Tor, also after a crash</source>
         <translation>те саме, зокрема й після збою</translation>
     </message>
     <message>
@@ -2898,7 +2898,7 @@
         <translation>ланцюги Tor і сайти в них</translation>
     </message>
     <message>
-        <source>close one; its sites get a fresh path on their next request</source>
+        <source>close a circuit; its sites get a fresh path on their next request</source>
         <translation>закрити один; його сайти отримають новий шлях під час наступного запиту</translation>
     </message>
     <message>
@@ -2944,8 +2944,8 @@ APP — назва з «apps», назва файлу .desktop застосун�
         <translation>Для launch потрібен застосунок; список показує «veldmarkctl apps».</translation>
     </message>
     <message>
-        <source>look at this computer: what a connect needs, what is in its way, and what
-mends it. Changes nothing; ends with 0 when a connect can work</source>
+        <source>check what a connect needs on this computer, what blocks it and how to fix
+it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>перевірити цей комп’ютер: що потрібно для під’єднання, що йому заважає і як
 це виправити. Нічого не змінює; код завершення 0, якщо під’єднання можливе</translation>
     </message>
@@ -3014,11 +3014,11 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Програма завершує роботу.</translation>
     </message>
     <message>
-        <source>The strict session that is running is replaced, and may protect you less.</source>
+        <source>Veldmark replaces the running strict session. The new session may protect you less.</source>
         <translation>Поточний суворий сеанс буде замінено, і захист може стати слабшим.</translation>
     </message>
     <message>
-        <source>Veldmark wants to run %1 as a part of Tor. No package of the system brought it. Its SHA-256 is %2.</source>
+        <source>Veldmark wants to run %1 as a part of Tor. No package of the system installed it. Its SHA-256 is %2.</source>
         <translation>Veldmark хоче запускати %1 як частину Tor. Ця програма не походить із жодного пакунка системи. Її SHA-256: %2.</translation>
     </message>
     <message>
@@ -3070,7 +3070,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Щоб схвалити %1, потрібен пароль адміністратора.</translation>
     </message>
     <message>
-        <source>An administrator password is needed to change the strict session that is running.</source>
+        <source>An administrator password is needed to change the running strict session.</source>
         <translation>Щоб змінити поточний суворий сеанс, потрібен пароль адміністратора.</translation>
     </message>
     <message>
@@ -3082,7 +3082,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Щоб налаштувати це, потрібен пароль адміністратора.</translation>
     </message>
     <message>
-        <source>Another program (process %1) has begun a session since. It was left alone.</source>
+        <source>Another program (process %1) has started a session meanwhile. That session was left alone.</source>
         <translation>Інша програма (процес %1) тим часом почала сеанс. Його не змінено.</translation>
     </message>
     <message>
@@ -3094,7 +3094,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Застосунки не відкриваються від імені root.</translation>
     </message>
     <message>
-        <source>Applications can be opened for the user who asks only.</source>
+        <source>The helper opens applications only for the user who asks.</source>
         <translation>Застосунки можна відкривати лише для користувача, який про це просить.</translation>
     </message>
     <message>
@@ -3106,12 +3106,12 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Указано забагато мостів: може бути не більше ніж %1.</translation>
     </message>
     <message>
-        <source>Only the user who asks can be let in.</source>
+        <source>Passwordless mode can be set up only for the user who asks.</source>
         <translation>Дозвіл можна надати лише користувачеві, який його просить.</translation>
     </message>
     <message>
-        <source>Somebody else is changing the firewall. Try again in a moment.</source>
-        <translation>Хтось інший змінює брандмауер. Спробуйте ще раз за мить.</translation>
+        <source>Another program is changing the firewall. Try again in a moment.</source>
+        <translation>Брандмауер зараз змінює інша програма. Спробуйте ще раз за мить.</translation>
     </message>
     <message>
         <source>The DNS servers of systemd-resolved cannot be changed.</source>
@@ -3144,6 +3144,10 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
     <message>
         <source>The caller&apos;s user id is not a number.</source>
         <translation>Ідентифікатор користувача, що викликав програму, не є числом.</translation>
+    </message>
+    <message>
+        <source>The control group for Tor cannot be made.</source>
+        <translation>Не вдається створити контрольну групу для Tor.</translation>
     </message>
     <message>
         <source>The control group of the applications without Tor could not be removed.</source>
@@ -3186,7 +3190,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Не вдається вилучити файли в %1.</translation>
     </message>
     <message>
-        <source>The firewall cannot be looked at, so nothing was done.</source>
+        <source>The firewall rules cannot be read, so nothing was done.</source>
         <translation>Не вдається перевірити брандмауер, тому нічого не зроблено.</translation>
     </message>
     <message>
@@ -3194,16 +3198,16 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Не вдається ввімкнути брандмауер (%1).</translation>
     </message>
     <message>
-        <source>The firewall cannot end the connections from before.</source>
+        <source>The firewall cannot end the earlier connections.</source>
         <translation>Брандмауер не може розірвати попередні з’єднання.</translation>
     </message>
     <message>
-        <source>The firewall could not be opened (%1).</source>
-        <translation>Не вдалося розблокувати мережу в брандмауері (%1).</translation>
+        <source>The kill switch could not be switched off (%1).</source>
+        <translation>Не вдалося вимкнути аварійне блокування (%1).</translation>
     </message>
     <message>
-        <source>The firewall could not be opened, because somebody is changing it.</source>
-        <translation>Не вдалося розблокувати мережу в брандмауері, бо його хтось змінює.</translation>
+        <source>The kill switch could not be switched off, because another program is changing the firewall.</source>
+        <translation>Не вдалося вимкнути аварійне блокування, бо брандмауер змінює інша програма.</translation>
     </message>
     <message>
         <source>The firewall does not hold the rules that were loaded.</source>
@@ -3266,11 +3270,11 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Теки над текою Veldmark не захищені: вони мають належати лише root, і лише root може писати в них.</translation>
     </message>
     <message>
-        <source>The folders below %1 cannot be looked at, so nothing was done.</source>
+        <source>The folders below %1 cannot be read, so nothing was done.</source>
         <translation>Не вдається переглянути теки всередині %1, тому нічого не зроблено.</translation>
     </message>
     <message>
-        <source>The folders below %1 cannot be looked at.</source>
+        <source>The folders below %1 cannot be read.</source>
         <translation>Не вдається переглянути теки всередині %1.</translation>
     </message>
     <message>
@@ -3306,8 +3310,8 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Не вдається записати журнал відновлення.</translation>
     </message>
     <message>
-        <source>The kill switch is not on, so there is nothing to open the application past.</source>
-        <translation>Аварійне блокування не ввімкнено, тому відкривати застосунок в обхід нього не потрібно.</translation>
+        <source>The kill switch is not on, so no application needs to bypass it.</source>
+        <translation>Аварійне блокування не ввімкнено, тому жодному застосунку не потрібно його обходити.</translation>
     </message>
     <message>
         <source>The launcher could not be copied to %1.</source>
@@ -3422,7 +3426,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Шлях, указаний у --app, не веде до застосунку.</translation>
     </message>
     <message>
-        <source>The port %1, which Tor needs, is held by %2. End that, then connect again.</source>
+        <source>The port %1, which Tor needs, is held by %2. End that program, then connect again.</source>
         <translation>Порт %1, потрібний Tor, займає %2. Завершіть цю програму, а потім під’єднайтеся знову.</translation>
     </message>
     <message>
@@ -3450,7 +3454,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>У цій системі бракує програми %1.</translation>
     </message>
     <message>
-        <source>The program %1 is not the one that was to be approved.</source>
+        <source>The SHA-256 of the program %1 is not the one to approve.</source>
         <translation>Програма %1 — не та, яку треба було схвалити.</translation>
     </message>
     <message>
@@ -3538,11 +3542,11 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Команда uninstall-privileged не має параметрів.</translation>
     </message>
     <message>
-        <source>The watcher over the firewall could not be started.</source>
+        <source>The watcher of the firewall rules could not be started.</source>
         <translation>Не вдалося запустити спостерігача за брандмауером.</translation>
     </message>
     <message>
-        <source>The watcher over the firewall could not be stopped.</source>
+        <source>The watcher of the firewall rules could not be stopped.</source>
         <translation>Не вдалося зупинити спостерігача за брандмауером.</translation>
     </message>
     <message>
@@ -3658,7 +3662,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>nft повертає помилку.</translation>
     </message>
     <message>
-        <source>Ended without its display. Your network is still set up for Tor: start Veldmark again, or restore it with: %1</source>
+        <source>Ended because the display is gone. Your network is still set up for Tor: start Veldmark again, or restore the network with: %1</source>
         <translation>Veldmark завершив роботу, втративши дисплей. Вашу мережу досі налаштовано на Tor: знову запустіть Veldmark або відновіть її командою: %1</translation>
     </message>
     <message>
@@ -3670,7 +3674,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Мережу знову розблоковано, але повернути попередні налаштування пристрою loopback не вдалося. Спробуйте: ethtool -K lo %1 on.</translation>
     </message>
     <message>
-        <source>Applications are not told apart on this system.</source>
+        <source>This system can&apos;t tell applications apart.</source>
         <translation>У цій системі застосунки не розрізняються.</translation>
     </message>
     <message>
@@ -3690,11 +3694,11 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Жоден ваш застосунок не має такої ідентичності; список показує «veldmarkctl identities».</translation>
     </message>
     <message>
-        <source>The application has not got another identity.</source>
+        <source>The application did not get a new identity.</source>
         <translation>Застосунок не отримав іншої ідентичності.</translation>
     </message>
     <message>
-        <source>The program has not got an identity of its own, so it was not started.</source>
+        <source>The program did not get an identity of its own, so it was not started.</source>
         <translation>Програма не отримала власної ідентичності, тому її не запущено.</translation>
     </message>
     <message>
@@ -3702,7 +3706,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Назва може мати до 40 знаків: літери, цифри, крапки й підкреслення.</translation>
     </message>
     <message>
-        <source>The program systemd-run is missing, which makes groups for programs.</source>
+        <source>The program systemd-run is missing. Veldmark needs it to make a group for a program.</source>
         <translation>Бракує програми systemd-run, яка створює групи для програм.</translation>
     </message>
     <message>
@@ -3752,15 +3756,15 @@ name in the same session has the same ones</source>
         <translation>Значенням --separate має бути 0 або 1.</translation>
     </message>
     <message>
-        <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
+        <source>No package of the system installed %1. The next connect asks an administrator to approve it.</source>
         <translation>%1 не походить із жодного пакунка системи. Під час наступного з’єднання адміністратора попросять це схвалити.</translation>
     </message>
     <message>
-        <source>Whether a connect can work isn&apos;t known.</source>
+        <source>It isn&apos;t known whether a connect can work.</source>
         <translation>Невідомо, чи можливе під’єднання.</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
         <translation>Інший брандмауер на цьому комп’ютері забороняє вихідні з’єднання, і жодне з його правил нічого не дозволяє, тому Tor не може пройти: %1.</translation>
     </message>
 </context>

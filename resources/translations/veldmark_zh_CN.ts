@@ -544,7 +544,7 @@
         <translation>查找原因</translation>
     </message>
     <message>
-        <source>Looks at this computer: what a connection needs, what is in its way, and what mends it</source>
+        <source>Checks what a connection needs on this computer, what blocks it and how to fix it</source>
         <translation>检查本机：连接需要什么、有什么阻碍、如何解决</translation>
     </message>
     <message>
@@ -769,7 +769,7 @@
         <translation>每个应用都有自己的线路</translation>
     </message>
     <message>
-        <source>Sites cannot tell by the exit address that two applications are yours. Applications are told apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with all of their login session or account.</source>
+        <source>Sites cannot tell by the exit address that two applications are yours. Veldmark tells applications apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with the rest of their login session or account.</source>
         <translation>网站无法凭出口地址看出两个应用都属于您。只有当桌面环境让每个应用在各自的控制组中启动时（如 GNOME 和 KDE），才能区分应用。其他程序与所在登录会话或账户的所有程序共用线路。</translation>
     </message>
 </context>
@@ -821,7 +821,7 @@
         <translation>另一个程序移除了 Veldmark 的防火墙规则；规则现已恢复。</translation>
     </message>
     <message>
-        <source>The kill switch is open. Open Veldmark, disconnect and connect again.</source>
+        <source>The kill switch doesn&apos;t block traffic. Open Veldmark, disconnect and connect again.</source>
         <translation>断网保护已失效。请打开 Veldmark，断开并重新连接。</translation>
     </message>
     <message>
@@ -829,7 +829,7 @@
         <translation>断网保护未受监视</translation>
     </message>
     <message>
-        <source>It can&apos;t be told whether it stands. Open Veldmark, disconnect and connect again.</source>
+        <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Open Veldmark, disconnect and connect again.</source>
         <translation>无法确定断网保护是否有效。请打开 Veldmark，断开并重新连接。</translation>
     </message>
 </context>
@@ -840,7 +840,7 @@
         <translation>Veldmark</translation>
     </message>
     <message>
-        <source>A window could not be made. Your network is not affected; to restore it without Veldmark, run:
+        <source>Veldmark could not open a window. Your network is not affected. To restore it without Veldmark, run:
 %1
 
 %2</source>
@@ -862,7 +862,7 @@
         <translation>您的网络仍设置为使用 Tor</translation>
     </message>
     <message>
-        <source>Veldmark was told to end and could not restore it. Open Veldmark again to do so.</source>
+        <source>Veldmark had to close and could not restore the network. Open Veldmark again to restore it.</source>
         <translation>Veldmark 被要求结束，但未能恢复网络。请再次打开 Veldmark 来恢复。</translation>
     </message>
 </context>
@@ -939,7 +939,7 @@
         <translation> · 点击中继或站点可跟踪其路径</translation>
     </message>
     <message>
-        <source>Leads to an onion service, which meets it at its last relay</source>
+        <source>Leads to an onion service. The last relay is the meeting point.</source>
         <translation>通往洋葱服务，双方在此线路的最后一个中继会合</translation>
     </message>
     <message>
@@ -998,7 +998,7 @@
         <translation>提示</translation>
     </message>
     <message>
-        <source>In order</source>
+        <source>OK</source>
         <translation>正常</translation>
     </message>
     <message>
@@ -1014,15 +1014,15 @@
         <translation>正在检查本机…</translation>
     </message>
     <message>
-        <source>Nothing was found out.</source>
+        <source>The check gave no result.</source>
         <translation>未能查明任何情况。</translation>
     </message>
     <message>
-        <source>Nothing was found that keeps Veldmark from connecting.</source>
+        <source>No problem was found that keeps Veldmark from connecting.</source>
         <translation>没有发现妨碍 Veldmark 连接的问题。</translation>
     </message>
     <message>
-        <source>Veldmark can&apos;t connect before each problem is mended.</source>
+        <source>Veldmark can&apos;t connect until each problem is fixed.</source>
         <translation>在每个问题都解决之前，Veldmark 无法连接。</translation>
     </message>
 </context>
@@ -1089,7 +1089,7 @@
         <translation>在文件管理器中显示日志文件</translation>
     </message>
     <message>
-        <source>There are no log files yet: Tor makes %1 when it is first started.</source>
+        <source>There are no log files yet. Tor creates %1 when it first starts.</source>
         <translation>尚无日志文件：Tor 会在首次启动时创建 %1。</translation>
     </message>
     <message>
@@ -1173,11 +1173,11 @@
     </message>
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the Dock) so Veldmark can tag them. A running copy is quit and reopened.</source>
-        <translation>在严格模式下，这些应用可以不通过 Tor 而直接连接，并使用您的真实 IP 地址。其他一切仍被锁定。请用 &lt;b&gt;不经 Tor 打开&lt;/b&gt; 来打开它们（不要从程序坞打开），以便 Veldmark 标记它们。正在运行的副本会被退出并重新打开。</translation>
+        <translation>在严格模式下，这些应用可以不通过 Tor 而直接连接，并使用您的真实 IP 地址。其他一切仍只能通过 Tor。请用 &lt;b&gt;不经 Tor 打开&lt;/b&gt; 来打开它们（不要从程序坞打开），以便 Veldmark 标记它们。正在运行的副本会被退出并重新打开。</translation>
     </message>
     <message>
         <source>In strict mode, these apps can connect directly instead of through Tor, using your real IP address. Everything else stays locked. Open them with &lt;b&gt;Open without Tor&lt;/b&gt; (not from the desktop&apos;s menu) so Veldmark can tag them. A running copy is quit and reopened.</source>
-        <translation>在严格模式下，这些应用可以不通过 Tor 而直接连接，并使用您的真实 IP 地址。其他一切仍被锁定。请用 &lt;b&gt;不经 Tor 打开&lt;/b&gt; 来打开它们（不要从桌面菜单打开），以便 Veldmark 标记它们。正在运行的副本会被退出并重新打开。</translation>
+        <translation>在严格模式下，这些应用可以不通过 Tor 而直接连接，并使用您的真实 IP 地址。其他一切仍只能通过 Tor。请用 &lt;b&gt;不经 Tor 打开&lt;/b&gt; 来打开它们（不要从桌面菜单打开），以便 Veldmark 标记它们。正在运行的副本会被退出并重新打开。</translation>
     </message>
 </context>
 <context>
@@ -1187,11 +1187,11 @@
         <translation>无应答</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but the kill switch isn&apos;t known to close that path</source>
+        <source>A direct connection that skips Tor got no answer, but it isn&apos;t known whether the kill switch blocks such connections</source>
         <translation>绕过 Tor 的直接连接没有得到应答，但无法确认断网保护是否已阻断该路径</translation>
     </message>
     <message>
-        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t close that path</source>
+        <source>A direct connection that skips Tor got no answer, but proxy mode doesn&apos;t block such connections</source>
         <translation>绕过 Tor 的直接连接没有得到应答，但代理模式并不阻断该路径</translation>
     </message>
     <message>
@@ -1408,7 +1408,7 @@
 <context>
     <name>veldmark::Text</name>
     <message>
-        <source>Tor hasn&apos;t confirmed that it is on the network again, so nothing may get through. Veldmark goes on telling it to; else disconnect and connect again.</source>
+        <source>Tor hasn&apos;t confirmed that it uses the network again, so traffic may not get through. Veldmark keeps telling Tor to. If this lasts, disconnect and connect again.</source>
         <translation>Tor 尚未确认已重新接入网络，因此流量可能无法通过。Veldmark 会继续要求它接入；如果仍然不行，请断开并重新连接。</translation>
     </message>
     <message>
@@ -1416,7 +1416,7 @@
         <translation>所提供的版本 %1 比已安装的 %2 更旧。未作任何更改。</translation>
     </message>
     <message>
-        <source>What came as version %1 is another one, so it was discarded.</source>
+        <source>The download of version %1 contains another version, so it was discarded.</source>
         <translation>作为版本 %1 收到的内容其实是另一个版本，因此已丢弃。</translation>
     </message>
     <message>
@@ -1424,11 +1424,11 @@
         <translation>Tor 连接后将重新开始下载…</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no place for Tor: give the whole path, such as /usr/bin/tor.</source>
+        <source>&quot;%1&quot; is not a location of Tor. Give an absolute path, such as /usr/bin/tor.</source>
         <translation>“%1”不能作为 Tor 的位置：请给出完整路径，例如 /usr/bin/tor。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; holds for the whole connection. Disconnect to change it.</source>
+        <source>&quot;%1&quot; can&apos;t be changed during a connection. Disconnect to change it.</source>
         <translation>“%1”对整个连接有效。断开后才能更改。</translation>
     </message>
     <message>
@@ -1485,11 +1485,11 @@
     </message>
     <message>
         <source>Tor stopped running. The kill switch is still blocking traffic, so nothing leaked. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor 已停止运行。断网保护仍在阻断流量，因此没有发生泄露。请重新连接，或恢复网络以重新上网。</translation>
+        <translation>Tor 已停止运行。断网保护仍在阻断流量，因此没有发生泄露。请重新连接，或恢复网络，不经 Tor 重新上网。</translation>
     </message>
     <message>
-        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks have seen some go around Tor. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor 已停止运行。断网保护仍在阻断流量，但最近的检查发现有流量绕过了 Tor。请重新连接，或恢复网络以重新上网。</translation>
+        <source>Tor stopped running. The kill switch is still blocking traffic, but the last checks saw traffic go around Tor. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>Tor 已停止运行。断网保护仍在阻断流量，但最近的检查发现有流量绕过了 Tor。请重新连接，或恢复网络，不经 Tor 重新上网。</translation>
     </message>
     <message>
         <source>Tor stopped running. Apps using the proxy can&apos;t connect until you reconnect or Restore Network.</source>
@@ -1592,19 +1592,19 @@
         <translation>Tor 已停止运行，您的网络也不再设置为使用 Tor。</translation>
     </message>
     <message>
-        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor 已停止运行。断网保护已重新开始阻断流量，但此前其规则曾一度被另一个程序移除。请重新连接，或恢复网络以重新上网。</translation>
+        <source>Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>Tor 已停止运行。断网保护已重新开始阻断流量，但此前其规则曾一度被另一个程序移除。请重新连接，或恢复网络，不经 Tor 重新上网。</translation>
     </message>
     <message>
-        <source>Tor stopped running, and the kill switch is open: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
+        <source>Tor stopped running, and the kill switch doesn&apos;t block traffic: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.</source>
         <translation>Tor 已停止运行，并且断网保护已失效：另一个程序移除了其规则。流量可能直接离开本机。请重新连接，或恢复网络。</translation>
     </message>
     <message>
-        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go back online.</source>
-        <translation>Tor 已停止运行，并且无法确定断网保护是否仍在阻断流量。请重新连接，或恢复网络以重新上网。</translation>
+        <source>Tor stopped running, and it isn&apos;t known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go online without Tor.</source>
+        <translation>Tor 已停止运行，并且无法确定断网保护是否仍在阻断流量。请重新连接，或恢复网络，不经 Tor 重新上网。</translation>
     </message>
     <message>
-        <source>The watcher over Veldmark&apos;s firewall rules has stopped telling, so it isn&apos;t known whether the kill switch stands. Disconnect and connect again.</source>
+        <source>The watcher of Veldmark&apos;s firewall rules has stopped reporting, so it isn&apos;t known whether the kill switch blocks traffic. Disconnect and connect again.</source>
         <translation>Veldmark 防火墙规则的监视程序已不再报告，因此无法确定断网保护是否有效。请断开并重新连接。</translation>
     </message>
     <message>
@@ -1636,7 +1636,7 @@
         <translation>DNS 泄露</translation>
     </message>
     <message>
-        <source>Kill Switch Open</source>
+        <source>Kill Switch Failed</source>
         <translation>断网保护失效</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>您的真实 IP 地址对外可见。请断开，或再次运行泄露测试。</translation>
     </message>
     <message>
-        <source>It can&apos;t be told whether the kill switch stands. Disconnect and connect again.</source>
+        <source>Veldmark can&apos;t tell whether the kill switch blocks traffic. Disconnect and connect again.</source>
         <translation>无法确定断网保护是否有效。请断开并重新连接。</translation>
     </message>
     <message>
@@ -1676,7 +1676,7 @@
         <translation>流量无法通过</translation>
     </message>
     <message>
-        <source>This computer has no network. Nothing gets out around Tor meanwhile.</source>
+        <source>This computer has no network. Traffic around Tor stays blocked.</source>
         <translation>本机没有网络。在此期间，没有流量会绕过 Tor 流出。</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>本机没有网络。网络恢复后 Veldmark 会继续。</translation>
     </message>
     <message>
-        <source>Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile.</source>
+        <source>Tor has no working circuit and keeps trying. Traffic around Tor stays blocked.</source>
         <translation>Tor 没有可用的线路，正在继续尝试。在此期间，没有流量会绕过 Tor 流出。</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>Tor 没有可用的线路，正在继续尝试。</translation>
     </message>
     <message>
-        <source>Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile.</source>
+        <source>Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked.</source>
         <translation>Tor 没有得到网络的应答，正在继续尝试。在此期间，没有流量会绕过 Tor 流出。</translation>
     </message>
     <message>
@@ -1700,7 +1700,7 @@
         <translation>Tor 没有得到网络的应答，正在继续尝试。</translation>
     </message>
     <message>
-        <source>Another program has ended this session and begun one of its own. Restore Network ends that one.</source>
+        <source>Another program has ended this session and started its own. Restore Network ends that session.</source>
         <translation>另一个程序已结束此会话，并开始了它自己的会话。“恢复网络”会结束后者。</translation>
     </message>
     <message>
@@ -1752,7 +1752,7 @@
         <translation>管理员权限被拒绝，或者询问密码的认证代理没有应答。</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out, so Tor can&apos;t connect: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic, so Tor can&apos;t connect: %1.</source>
         <translation>本机上的另一个防火墙禁止出站流量，因此 Tor 无法连接：%1。</translation>
     </message>
     <message>
@@ -1808,11 +1808,11 @@
         <translation>未能以不经 Tor 的方式打开 %1：%2</translation>
     </message>
     <message>
-        <source>Another Veldmark of yours has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <source>Another Veldmark of yours has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
         <translation>其间您的另一个 Veldmark 已开始会话，因此没有结束任何会话。再次断开即可结束该会话。</translation>
     </message>
     <message>
-        <source>Another user&apos;s Veldmark has begun a session since, so nothing was ended. Disconnect again to end it.</source>
+        <source>Another user&apos;s Veldmark has started a session meanwhile, so no session was ended. Disconnect again to end that session.</source>
         <translation>其间另一个用户的 Veldmark 已开始会话，因此没有结束任何会话。再次断开即可结束该会话。</translation>
     </message>
     <message>
@@ -1888,7 +1888,7 @@
         <translation>服务器没有给出 HTTP 应答。</translation>
     </message>
     <message>
-        <source>The connection was lost before the end.</source>
+        <source>The connection was lost before the download ended.</source>
         <translation>连接在完成之前中断。</translation>
     </message>
     <message>
@@ -1900,7 +1900,7 @@
         <translation>Tor 关闭了控制连接。</translation>
     </message>
     <message>
-        <source>Another program than Tor listens on Tor&apos;s control port.</source>
+        <source>A program other than Tor listens on Tor&apos;s control port.</source>
         <translation>在 Tor 的控制端口上监听的不是 Tor，而是其他程序。</translation>
     </message>
     <message>
@@ -1928,7 +1928,7 @@
         <translation>无法请求管理员权限：此会话中没有运行 PolicyKit 认证代理。</translation>
     </message>
     <message>
-        <source>The password could not be checked: polkit takes none from this terminal. Run it with sudo.</source>
+        <source>The password could not be checked: polkit accepts no password from this terminal. Run the command with sudo.</source>
         <translation>无法检查密码：polkit 不接受来自此终端的密码。请用 sudo 运行。</translation>
     </message>
     <message>
@@ -2032,7 +2032,7 @@
         <translation>%1 已在打开中。</translation>
     </message>
     <message>
-        <source>A session is open, and its kill switch isn&apos;t closed: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
+        <source>A session is open, and its kill switch doesn&apos;t block traffic: its watcher couldn&apos;t put the rules back. Traffic may leave this computer directly. Restore the network, and connect again.</source>
         <translation>有会话正在进行，但其断网保护未生效：监视程序未能恢复规则。流量可能直接离开本机。请恢复网络，然后重新连接。</translation>
     </message>
     <message>
@@ -2044,7 +2044,7 @@
         <translation>时钟由网络校准，显示 %1。</translation>
     </message>
     <message>
-        <source>Whether the clock is right isn&apos;t known: nothing is seen to set it from the network. It shows %1. Tor needs it right to within minutes.</source>
+        <source>It isn&apos;t known whether the clock is right: no time service seems to set it. It shows %1. Tor needs it right to within minutes.</source>
         <translation>无法确定时钟是否准确：没有发现通过网络校准时钟的程序。时钟显示 %1。Tor 要求误差在几分钟以内。</translation>
     </message>
     <message>
@@ -2060,11 +2060,11 @@
         <translation>系统的防火墙无法使用：%1</translation>
     </message>
     <message>
-        <source>The kernel that runs (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
+        <source>The running kernel (%1) has no nftables. After an upgrade of the kernel, restart the computer.</source>
         <translation>正在运行的内核（%1）不带 nftables。升级内核后，请重启电脑。</translation>
     </message>
     <message>
-        <source>nftables is installed. Whether the kernel that runs can use it is known to root only.</source>
+        <source>nftables is installed. Only root can tell whether the running kernel can use it.</source>
         <translation>nftables 已安装。正在运行的内核能否使用它，只有 root 能查明。</translation>
     </message>
     <message>
@@ -2084,11 +2084,11 @@
         <translation>可以不经 Tor 打开应用：系统具备第 2 版控制组。</translation>
     </message>
     <message>
-        <source>No other firewall that is known by name runs. The rules themselves are known to root only.</source>
+        <source>No other firewall that Veldmark knows runs. Only root can read the rules themselves.</source>
         <translation>没有其他已知的防火墙程序在运行。规则本身只有 root 能查看。</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out unless one of its rules allows it, so Tor may not get through: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic that its rules don&apos;t allow, so Tor may not get through: %1.</source>
         <translation>本机上的另一个防火墙会禁止未经其规则允许的出站流量，因此 Tor 可能无法通过：%1。</translation>
     </message>
     <message>
@@ -2108,11 +2108,11 @@
         <translation>此处没有可弹出窗口询问管理员密码的桌面环境。请使用 sudo。</translation>
     </message>
     <message>
-        <source>No program that is known to ask for polkit&apos;s passwords (an agent) runs in your session. Without one, use sudo, or start an agent such as lxpolkit.</source>
+        <source>No known polkit agent, the program that asks for the password, runs in your session. Use sudo, or start an agent such as lxpolkit.</source>
         <translation>您的会话中没有运行已知的为 polkit 询问密码的程序（认证代理）。没有它时，请使用 sudo，或启动 lxpolkit 之类的认证代理。</translation>
     </message>
     <message>
-        <source>polkit is there, and a program that asks for its passwords runs in your session.</source>
+        <source>polkit is installed, and an agent that asks for the password runs in your session.</source>
         <translation>polkit 可用，且您的会话中运行着为其询问密码的程序。</translation>
     </message>
     <message>
@@ -2120,15 +2120,15 @@
         <translation>Veldmark 在此以 root 身份运行，不询问密码。</translation>
     </message>
     <message>
-        <source>Connecting without a password is set up.</source>
-        <translation>免密码连接已设置。</translation>
+        <source>Passwordless mode is set up.</source>
+        <translation>免密码模式已设置。</translation>
     </message>
     <message>
-        <source>sudo isn&apos;t installed. Connecting without a password needs it.</source>
-        <translation>未安装 sudo。免密码连接需要它。</translation>
+        <source>sudo isn&apos;t installed. Passwordless mode needs it.</source>
+        <translation>未安装 sudo。免密码模式需要它。</translation>
     </message>
     <message>
-        <source>sudo is installed. Whether you may use it is known to root only.</source>
+        <source>sudo is installed. Only root can tell whether you may use it.</source>
         <translation>sudo 已安装。您是否可以使用它，只有 root 能查明。</translation>
     </message>
     <message>
@@ -2156,7 +2156,7 @@
         <translation>Tor 需要的端口（9050、9051 和 293）空闲。</translation>
     </message>
     <message>
-        <source>The location of Tor in the settings, %1, is no program that can run. The usual places are searched instead.</source>
+        <source>The location of Tor in the settings, %1, is not an executable program. Veldmark searches the usual places instead.</source>
         <translation>设置中的 Tor 位置 %1 不是可以运行的程序。将改为搜索常用位置。</translation>
     </message>
     <message>
@@ -2164,7 +2164,7 @@
         <translation>未安装 Tor。</translation>
     </message>
     <message>
-        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it doesn&apos;t tell its version.</source>
+        <source>%1 doesn&apos;t start, or isn&apos;t Tor: it prints no version.</source>
         <translation>%1 无法启动，或者不是 Tor：它没有报告自己的版本。</translation>
     </message>
     <message>
@@ -2184,11 +2184,11 @@
         <translation>缺少 Veldmark 的辅助脚本。请重新安装 Veldmark。</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper, %1, lies where others than root can write. They can change it, and with it what the administrator&apos;s password runs.</source>
+        <source>Accounts other than root can change Veldmark&apos;s helper, %1, and with it what the administrator&apos;s password runs.</source>
         <translation>Veldmark 的辅助程序 %1 所在的位置，root 以外的用户也能写入。这些用户可以改动它，从而改动凭管理员密码运行的内容。</translation>
     </message>
     <message>
-        <source>Veldmark&apos;s helper, %1, is not an installed one: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
+        <source>Veldmark&apos;s helper, %1, is not installed: the account %2 can change it, and with it what the administrator&apos;s password runs.</source>
         <translation>Veldmark 的辅助程序 %1 不是已安装的版本：账户 %2 可以改动它，从而改动凭管理员密码运行的内容。</translation>
     </message>
     <message>
@@ -2196,11 +2196,11 @@
         <translation>Veldmark 的辅助程序已安装，且只有 root 能改动它：%1。</translation>
     </message>
     <message>
-        <source>The helper that runs without a password is not this version&apos;s. Set up connecting without a password again in Settings, General.</source>
-        <translation>免密码运行的辅助程序不属于此版本。请在“设置”的“常规”中重新设置免密码连接。</translation>
+        <source>The helper of passwordless mode belongs to another version. Set up passwordless mode again in Settings, General.</source>
+        <translation>免密码模式的辅助程序属于另一个版本。请在“设置”的“常规”中重新设置免密码模式。</translation>
     </message>
     <message>
-        <source>Bridges are off. Where Tor is blocked they need bridge programs, and none was found.</source>
+        <source>Bridges are off. Bridges need bridge programs where Tor is blocked, and none was found.</source>
         <translation>网桥已关闭。在 Tor 被封锁的地方，网桥需要网桥程序才能工作，但没有找到任何网桥程序。</translation>
     </message>
     <message>
@@ -2216,19 +2216,19 @@
         <translation>所选网桥（%1）可以使用：%2。</translation>
     </message>
     <message>
-        <source>Names are looked up as %1 says. Veldmark switches that over and back.</source>
+        <source>%1 manages DNS. Veldmark changes that while connected and restores it afterwards.</source>
         <translation>域名按 %1 的规定解析。Veldmark 会切换该设置，之后再还原。</translation>
     </message>
     <message>
-        <source>%1 is Veldmark&apos;s. It names Tor as the name server.</source>
+        <source>Veldmark wrote %1. It points DNS at Tor.</source>
         <translation>%1 是 Veldmark 的文件，其中将 Tor 指定为域名服务器。</translation>
     </message>
     <message>
-        <source>There is no file %1, so names may not be looked up at all.</source>
+        <source>The file %1 is missing, so DNS may not work at all.</source>
         <translation>没有文件 %1，因此可能完全无法解析域名。</translation>
     </message>
     <message>
-        <source>Names are looked up by a resolver on this computer. Veldmark switches that over and back.</source>
+        <source>A resolver on this computer answers DNS. Veldmark changes that while connected and restores it afterwards.</source>
         <translation>域名由本机上的解析器解析。Veldmark 会切换该设置，之后再还原。</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>有会话正在进行：网络已设置为使用 Tor，且 Tor 正在运行。</translation>
     </message>
     <message>
-        <source>The network is set up for Tor. Whether Tor still runs isn&apos;t known here.</source>
+        <source>The network is set up for Tor. It isn&apos;t known whether Tor still runs.</source>
         <translation>网络已设置为使用 Tor。此处无法确定 Tor 是否仍在运行。</translation>
     </message>
     <message>
@@ -2252,7 +2252,7 @@
         <translation>网络仍因先前的会话而设置为使用 Tor，但没有 Tor 在运行。请重新连接，或恢复网络。</translation>
     </message>
     <message>
-        <source>A session is open, and it isn&apos;t known whether its kill switch stands: nobody watches over the rules. Restore the network, and connect again.</source>
+        <source>A session is open, and it isn&apos;t known whether its kill switch blocks traffic: no watcher watches the rules. Restore the network, and connect again.</source>
         <translation>有会话正在进行，但无法确定其断网保护是否有效：没有程序在监视规则。请恢复网络，然后重新连接。</translation>
     </message>
     <message>
@@ -2268,7 +2268,7 @@
         <translation>%1/%2 MB（%3%）</translation>
     </message>
     <message>
-        <source>Veldmark needs administrator access to manage Tor routing on this computer. The system&apos;s own Tor service, where it runs, is stopped meanwhile.</source>
+        <source>Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system&apos;s own Tor service.</source>
         <translation>Veldmark 需要管理员权限来管理本机的 Tor 路由。系统自带的 Tor 服务若在运行，期间会被停止。</translation>
     </message>
     <message>
@@ -2276,7 +2276,7 @@
         <translation>Veldmark 需要管理员权限来管理这台 Mac 的 Tor 路由。</translation>
     </message>
     <message>
-        <source>The archive holds %1: %2</source>
+        <source>The archive contains %1: %2</source>
         <translation>归档中含有%1：%2</translation>
     </message>
     <message>
@@ -2288,7 +2288,7 @@
         <translation>硬链接</translation>
     </message>
     <message>
-        <source>what is neither file nor folder</source>
+        <source>an entry that is neither a file nor a folder</source>
         <translation>既非文件也非文件夹的条目</translation>
     </message>
     <message>
@@ -2296,15 +2296,15 @@
         <translation>指向别处的路径</translation>
     </message>
     <message>
-        <source>The archive is empty or no archive.</source>
+        <source>The file is empty or not an archive.</source>
         <translation>归档为空，或者不是归档。</translation>
     </message>
     <message>
-        <source>The archive&apos;s list of files is not clear.</source>
+        <source>The archive&apos;s list of files is ambiguous.</source>
         <translation>归档的文件列表不明确。</translation>
     </message>
     <message>
-        <source>The archive holds too many files.</source>
+        <source>The archive contains too many files.</source>
         <translation>归档中的文件过多。</translation>
     </message>
     <message>
@@ -2392,7 +2392,7 @@
         <translation>%1 需要一个键和一个值：veldmarkctl %1 KEY VALUE。</translation>
     </message>
     <message>
-        <source>What should I do? &quot;veldmarkctl help&quot; lists the commands.</source>
+        <source>A command is missing. &quot;veldmarkctl help&quot; lists the commands.</source>
         <translation>要执行什么操作？“veldmarkctl help”会列出所有命令。</translation>
     </message>
     <message>
@@ -2434,7 +2434,7 @@
         <translation>未找到</translation>
     </message>
     <message>
-        <source>doesn&apos;t say what it serves</source>
+        <source>doesn&apos;t say which transports it serves</source>
         <translation>未说明支持哪些传输</translation>
     </message>
     <message>
@@ -2514,7 +2514,7 @@
         <translation>尚无法连接。</translation>
     </message>
     <message>
-        <source>A connect can&apos;t work before each &quot;problem&quot; is mended.</source>
+        <source>A connect can&apos;t work until each &quot;problem&quot; is fixed.</source>
         <translation>在每个“问题”都解决之前，无法连接。</translation>
     </message>
     <message>
@@ -2530,19 +2530,19 @@
         <translation>严格</translation>
     </message>
     <message>
-        <source>stands, since %1</source>
+        <source>blocks traffic, since %1</source>
         <translation>有效，自 %1 起</translation>
     </message>
     <message>
-        <source>stands; put back at %1 after another program had removed it</source>
+        <source>blocks traffic; put back at %1 after another program had removed it</source>
         <translation>有效；曾被另一个程序移除，已于 %1 恢复</translation>
     </message>
     <message>
-        <source>OPEN since %1: traffic may leave this computer directly</source>
+        <source>NOT BLOCKING since %1: traffic may leave this computer directly</source>
         <translation>【失效】自 %1 起：流量可能直接离开本机</translation>
     </message>
     <message>
-        <source>isn&apos;t known to stand, since %1</source>
+        <source>isn&apos;t known to block traffic, since %1</source>
         <translation>无法确定是否有效，自 %1 起</translation>
     </message>
     <message>
@@ -2570,11 +2570,11 @@
         <translation>已阻断</translation>
     </message>
     <message>
-        <source>no answer, but the kill switch isn&apos;t known to close it</source>
+        <source>no answer, but it isn&apos;t known whether the kill switch blocks it</source>
         <translation>无应答，但无法确认断网保护是否已将其阻断</translation>
     </message>
     <message>
-        <source>no answer, but proxy mode doesn&apos;t close it</source>
+        <source>no answer, but proxy mode doesn&apos;t block it</source>
         <translation>无应答，但代理模式并不阻断它</translation>
     </message>
     <message>
@@ -2582,7 +2582,7 @@
         <translation>正在检查…</translation>
     </message>
     <message>
-        <source>couldn&apos;t be told</source>
+        <source>inconclusive</source>
         <translation>无法判定</translation>
     </message>
     <message>
@@ -2718,11 +2718,11 @@
         <translation>“%1”既不是 true 也不是 false。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no JSON array of strings.</source>
+        <source>&quot;%1&quot; is not a JSON array of strings.</source>
         <translation>“%1”不是由字符串组成的 JSON 数组。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no bridge choice: off, obfs4, snowflake, meek or custom.</source>
+        <source>&quot;%1&quot; is not a bridge choice: off, obfs4, snowflake, meek or custom.</source>
         <translation>“%1”不是有效的网桥选项；可选：off、obfs4、snowflake、meek 或 custom。</translation>
     </message>
     <message>
@@ -2734,15 +2734,15 @@
         <translation>Tor 未能在 5 分钟内完成连接。（%1）</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
+        <source>&quot;%1&quot; is not an exit country: two lower-case letters such as &quot;de&quot;, or nothing for any.</source>
         <translation>“%1”不是出口国家：应为两个小写字母，如“de”；留空表示任意国家。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no application: an absolute path that ends in &quot;%2&quot;.</source>
+        <source>&quot;%1&quot; is not an application: an absolute path that ends in &quot;%2&quot;.</source>
         <translation>“%1”不是应用：应为以“%2”结尾的绝对路径。</translation>
     </message>
     <message>
-        <source>the kill switch, else proxy mode</source>
+        <source>strict mode with the kill switch, else proxy mode</source>
         <translation>断网保护；否则为代理模式</translation>
     </message>
     <message>
@@ -2754,7 +2754,7 @@
         <translation>两个小写字母；留空表示任意国家</translation>
     </message>
     <message>
-        <source>the tor to use, or nothing to search for it</source>
+        <source>the path of the tor to use, or nothing to search for tor</source>
         <translation>要使用的 tor；留空表示自动查找</translation>
     </message>
     <message>
@@ -2794,7 +2794,7 @@
         <translation>“set”需要“key”和“value”，两者都是字符串。</translation>
     </message>
     <message>
-        <source>Already connected, or on the way; &quot;veldmarkctl status&quot; says more.</source>
+        <source>Already connected or connecting; &quot;veldmarkctl status&quot; says more.</source>
         <translation>已连接或正在连接；“veldmarkctl status”可查看详情。</translation>
     </message>
     <message>
@@ -2870,7 +2870,7 @@
         <translation>持续运行，直到按 Ctrl-C</translation>
     </message>
     <message>
-        <source>how things stand; --watch goes on until Ctrl-C</source>
+        <source>print the connection&apos;s state; --watch goes on until Ctrl-C</source>
         <translation>显示当前状态；--watch 持续显示，直到按 Ctrl-C</translation>
     </message>
     <message>
@@ -2882,7 +2882,7 @@
         <translation>恢复网络并停止 Tor</translation>
     </message>
     <message>
-        <source>the same, also for what a crash left behind</source>
+        <source>restore the network and stop Tor, also after a crash</source>
         <translation>同上，也适用于崩溃后的遗留状态</translation>
     </message>
     <message>
@@ -2898,7 +2898,7 @@
         <translation>Tor 的线路及其上的站点</translation>
     </message>
     <message>
-        <source>close one; its sites get a fresh path on their next request</source>
+        <source>close a circuit; its sites get a fresh path on their next request</source>
         <translation>关闭一条线路；其上的站点在下次请求时会获得新路径</translation>
     </message>
     <message>
@@ -2944,8 +2944,8 @@ APP 是“apps”列出的名称、其桌面项的文件名，
         <translation>launch 需要一个应用；“veldmarkctl apps”会列出所有应用。</translation>
     </message>
     <message>
-        <source>look at this computer: what a connect needs, what is in its way, and what
-mends it. Changes nothing; ends with 0 when a connect can work</source>
+        <source>check what a connect needs on this computer, what blocks it and how to fix
+it. Changes nothing; the exit status is 0 when a connect can work</source>
         <translation>检查本机：连接需要什么、有什么阻碍、
 如何解决。不作任何更改；可以连接时以 0 退出</translation>
     </message>
@@ -3014,11 +3014,11 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>程序正在退出。</translation>
     </message>
     <message>
-        <source>The strict session that is running is replaced, and may protect you less.</source>
+        <source>Veldmark replaces the running strict session. The new session may protect you less.</source>
         <translation>正在运行的严格模式会话将被取代，新会话对您的保护可能更弱。</translation>
     </message>
     <message>
-        <source>Veldmark wants to run %1 as a part of Tor. No package of the system brought it. Its SHA-256 is %2.</source>
+        <source>Veldmark wants to run %1 as a part of Tor. No package of the system installed it. Its SHA-256 is %2.</source>
         <translation>Veldmark 要将 %1 作为 Tor 的一部分运行。它不属于系统的任何软件包。其 SHA-256 为 %2。</translation>
     </message>
     <message>
@@ -3070,7 +3070,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>批准 %1 需要管理员密码。</translation>
     </message>
     <message>
-        <source>An administrator password is needed to change the strict session that is running.</source>
+        <source>An administrator password is needed to change the running strict session.</source>
         <translation>更改正在运行的严格模式会话需要管理员密码。</translation>
     </message>
     <message>
@@ -3082,7 +3082,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>进行此项设置需要管理员密码。</translation>
     </message>
     <message>
-        <source>Another program (process %1) has begun a session since. It was left alone.</source>
+        <source>Another program (process %1) has started a session meanwhile. That session was left alone.</source>
         <translation>其间另一个程序（进程 %1）已开始会话。该会话未被改动。</translation>
     </message>
     <message>
@@ -3094,7 +3094,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>不以 root 身份打开应用。</translation>
     </message>
     <message>
-        <source>Applications can be opened for the user who asks only.</source>
+        <source>The helper opens applications only for the user who asks.</source>
         <translation>只能为提出请求的用户打开应用。</translation>
     </message>
     <message>
@@ -3106,12 +3106,12 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>给出的网桥超过 %1 个。</translation>
     </message>
     <message>
-        <source>Only the user who asks can be let in.</source>
+        <source>Passwordless mode can be set up only for the user who asks.</source>
         <translation>只能为提出请求的用户授权。</translation>
     </message>
     <message>
-        <source>Somebody else is changing the firewall. Try again in a moment.</source>
-        <translation>其他用户或程序正在更改防火墙。请稍后重试。</translation>
+        <source>Another program is changing the firewall. Try again in a moment.</source>
+        <translation>另一个程序正在更改防火墙。请稍后重试。</translation>
     </message>
     <message>
         <source>The DNS servers of systemd-resolved cannot be changed.</source>
@@ -3144,6 +3144,10 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
     <message>
         <source>The caller&apos;s user id is not a number.</source>
         <translation>调用者的用户 ID 不是数字。</translation>
+    </message>
+    <message>
+        <source>The control group for Tor cannot be made.</source>
+        <translation>无法创建 Tor 的控制组。</translation>
     </message>
     <message>
         <source>The control group of the applications without Tor could not be removed.</source>
@@ -3186,7 +3190,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>无法移除 %1 中的文件。</translation>
     </message>
     <message>
-        <source>The firewall cannot be looked at, so nothing was done.</source>
+        <source>The firewall rules cannot be read, so nothing was done.</source>
         <translation>无法查看防火墙，因此未执行任何操作。</translation>
     </message>
     <message>
@@ -3194,16 +3198,16 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>无法启用防火墙（%1）。</translation>
     </message>
     <message>
-        <source>The firewall cannot end the connections from before.</source>
+        <source>The firewall cannot end the earlier connections.</source>
         <translation>防火墙无法终止先前的连接。</translation>
     </message>
     <message>
-        <source>The firewall could not be opened (%1).</source>
-        <translation>未能解除防火墙的阻断（%1）。</translation>
+        <source>The kill switch could not be switched off (%1).</source>
+        <translation>未能关闭断网保护（%1）。</translation>
     </message>
     <message>
-        <source>The firewall could not be opened, because somebody is changing it.</source>
-        <translation>未能解除防火墙的阻断，因为有其他用户或程序正在更改它。</translation>
+        <source>The kill switch could not be switched off, because another program is changing the firewall.</source>
+        <translation>未能关闭断网保护，因为另一个程序正在更改防火墙。</translation>
     </message>
     <message>
         <source>The firewall does not hold the rules that were loaded.</source>
@@ -3266,11 +3270,11 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>Veldmark 文件夹的上级文件夹不安全：它们必须归 root 所有，且只能由 root 写入。</translation>
     </message>
     <message>
-        <source>The folders below %1 cannot be looked at, so nothing was done.</source>
+        <source>The folders below %1 cannot be read, so nothing was done.</source>
         <translation>无法查看 %1 下的文件夹，因此未执行任何操作。</translation>
     </message>
     <message>
-        <source>The folders below %1 cannot be looked at.</source>
+        <source>The folders below %1 cannot be read.</source>
         <translation>无法查看 %1 下的文件夹。</translation>
     </message>
     <message>
@@ -3306,8 +3310,8 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>无法写入操作记录。</translation>
     </message>
     <message>
-        <source>The kill switch is not on, so there is nothing to open the application past.</source>
-        <translation>断网保护未开启，因此无需绕过它来打开应用。</translation>
+        <source>The kill switch is not on, so no application needs to bypass it.</source>
+        <translation>断网保护未开启，因此没有应用需要绕过它。</translation>
     </message>
     <message>
         <source>The launcher could not be copied to %1.</source>
@@ -3422,7 +3426,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>用 --app 给出的路径不是应用。</translation>
     </message>
     <message>
-        <source>The port %1, which Tor needs, is held by %2. End that, then connect again.</source>
+        <source>The port %1, which Tor needs, is held by %2. End that program, then connect again.</source>
         <translation>Tor 需要的端口 %1 被%2占用。请先将其结束，然后重新连接。</translation>
     </message>
     <message>
@@ -3450,7 +3454,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>此系统缺少程序 %1。</translation>
     </message>
     <message>
-        <source>The program %1 is not the one that was to be approved.</source>
+        <source>The SHA-256 of the program %1 is not the one to approve.</source>
         <translation>程序 %1 不是原本要批准的那个程序。</translation>
     </message>
     <message>
@@ -3538,11 +3542,11 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>命令 uninstall-privileged 不接受选项。</translation>
     </message>
     <message>
-        <source>The watcher over the firewall could not be started.</source>
+        <source>The watcher of the firewall rules could not be started.</source>
         <translation>未能启动防火墙的监视程序。</translation>
     </message>
     <message>
-        <source>The watcher over the firewall could not be stopped.</source>
+        <source>The watcher of the firewall rules could not be stopped.</source>
         <translation>未能停止防火墙的监视程序。</translation>
     </message>
     <message>
@@ -3658,7 +3662,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>nft 失败。</translation>
     </message>
     <message>
-        <source>Ended without its display. Your network is still set up for Tor: start Veldmark again, or restore it with: %1</source>
+        <source>Ended because the display is gone. Your network is still set up for Tor: start Veldmark again, or restore the network with: %1</source>
         <translation>程序因图形显示中断而结束。您的网络仍设置为使用 Tor：请重新启动 Veldmark，或用此命令恢复网络：%1</translation>
     </message>
     <message>
@@ -3670,7 +3674,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>网络已解除阻断，但未能还原回环设备的设置。请尝试：ethtool -K lo %1 on。</translation>
     </message>
     <message>
-        <source>Applications are not told apart on this system.</source>
+        <source>This system can&apos;t tell applications apart.</source>
         <translation>此系统上不区分应用。</translation>
     </message>
     <message>
@@ -3690,11 +3694,11 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>您的应用中没有此身份；“veldmarkctl identities”会列出所有身份。</translation>
     </message>
     <message>
-        <source>The application has not got another identity.</source>
+        <source>The application did not get a new identity.</source>
         <translation>该应用未能换成新的身份。</translation>
     </message>
     <message>
-        <source>The program has not got an identity of its own, so it was not started.</source>
+        <source>The program did not get an identity of its own, so it was not started.</source>
         <translation>该程序没有得到自己的身份，因此没有启动。</translation>
     </message>
     <message>
@@ -3702,7 +3706,7 @@ mends it. Changes nothing; ends with 0 when a connect can work</source>
         <translation>名称最多包含 40 个字母、数字、点和下划线。</translation>
     </message>
     <message>
-        <source>The program systemd-run is missing, which makes groups for programs.</source>
+        <source>The program systemd-run is missing. Veldmark needs it to make a group for a program.</source>
         <translation>缺少程序 systemd-run，它用于为程序创建控制组。</translation>
     </message>
     <message>
@@ -3752,15 +3756,15 @@ name in the same session has the same ones</source>
         <translation>--separate 的值必须是 0 或 1。</translation>
     </message>
     <message>
-        <source>No package of the system brought %1. An administrator is asked to approve it at the next connect.</source>
+        <source>No package of the system installed %1. The next connect asks an administrator to approve it.</source>
         <translation>%1 不属于系统的任何软件包。下次连接时会请管理员批准它。</translation>
     </message>
     <message>
-        <source>Whether a connect can work isn&apos;t known.</source>
+        <source>It isn&apos;t known whether a connect can work.</source>
         <translation>无法确定能否连接。</translation>
     </message>
     <message>
-        <source>Another firewall on this computer denies what goes out, and none of its rules allows anything, so Tor can&apos;t get through: %1.</source>
+        <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
         <translation>本机上的另一个防火墙禁止出站流量，且没有任何规则放行，因此 Tor 无法通过：%1。</translation>
     </message>
 </context>

@@ -49,8 +49,9 @@ void Alerts::tellDanger(Verdict::Danger danger)
     const Snapshot &now = m_session.now();
     switch (danger) {
     case Danger::killSwitchOpen:
-        tell(tr("Traffic can leave around Tor"),
-             tr("The kill switch is open. Open Veldmark, disconnect and connect again."));
+        tell(
+            tr("Traffic can leave around Tor"),
+            tr("The kill switch doesn't block traffic. Open Veldmark, disconnect and connect again."));
         return;
     case Danger::exposed:
         tell(tr("Traffic can leave around Tor"),
@@ -64,7 +65,7 @@ void Alerts::tellDanger(Verdict::Danger danger)
         if (std::exchange(m_wasWatched, false))
             tell(
                 tr("The kill switch is not watched"),
-                tr("It can't be told whether it stands. Open Veldmark, disconnect and connect again."));
+                tr("Veldmark can't tell whether the kill switch blocks traffic. Open Veldmark, disconnect and connect again."));
         return;
     case Danger::none:
     case Danger::stalled: // no traffic is at risk, and the user notices the missing network

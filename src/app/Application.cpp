@@ -15,13 +15,13 @@
 namespace veldmark {
 
 Application::Application(const PlatformProfile &profile)
-    : m_production(profile),
-      m_session(m_production.controller(), m_production.settings(), m_production.applications()),
-      m_log(std::make_unique<FileLog>(m_production.controller().profile())),
-      m_windows(m_session, *m_log, m_production.settings()),
-      m_guard(m_production.controller(), m_windows),
+    : m_real(profile),
+      m_session(m_real.controller(), m_real.settings(), m_real.applications()),
+      m_log(std::make_unique<FileLog>(m_real.controller().profile())),
+      m_windows(m_session, *m_log, m_real.settings()),
+      m_guard(m_real.controller(), m_windows),
       m_alerts(m_session),
-      m_departure(m_production.controller(), m_clock),
+      m_exitHandler(m_real.controller(), m_clock),
       m_shutdown(QDBusConnection::systemBus()),
       m_trayHost(QDBusConnection::sessionBus(), m_clock)
 {
@@ -34,27 +34,27 @@ Application::Application(const PlatformProfile &profile)
         // A message box of Qt's, since the program's own windows are what failed.
         QMessageBox::critical(
             nullptr, tr("Veldmark"),
-            tr("A window could not be made. Your network is not affected; to restore it "
-               "without Veldmark, run:\n%1\n\n%2")
-                .arg(m_production.controller().profile().manualRestoreCommand, reason));
+            tr("Veldmark could not open a window. Your network is not affected. To restore it without Veldmark, run:\n%1\n\n%2")
+                .arg(m_real.controller().profile().manualRestoreCommand, reason));
     });
     QObject::connect(&m_alerts, &Alerts::told, this, showNotice);
-    QObject::connect(&m_production.controller().phase, &Field::changed, this, [this] {
-        keepAwake(m_production.controller().phase() != ConnectionPhase::disconnected);
+    QObject::connect(&m_real.controller().phase, &Field::changed, this, [this] {
+        keepAwake(m_real.controller().phase() != ConnectionPhase::disconnected);
     });
-    joinDeparture();
+    joinExitHandler();
 }
 
-void Application::joinDeparture()
+void Application::joinExitHandler()
 {
-    QObject::connect(&m_departure, &Departure::mayEnd, this, &Application::leave);
-    QObject::connect(&m_signals, &SignalWatcher::received, &m_departure, &Departure::onSignal);
+    QObject::connect(&m_exitHandler, &ExitHandler::mayEnd, this, &Application::leave);
+    QObject::connect(&m_signals, &SignalWatcher::received, &m_exitHandler, &ExitHandler::onSignal);
     qApp->installEventFilter(this);
-    QObject::connect(&m_shutdown, &ShutdownNotice::shuttingDown, &m_departure, &Departure::restore);
-    QObject::connect(&m_departure, &Departure::settled, &m_shutdown,
+    QObject::connect(&m_shutdown, &ShutdownNotice::shuttingDown, &m_exitHandler,
+                     &ExitHandler::restore);
+    QObject::connect(&m_exitHandler, &ExitHandler::settled, &m_shutdown,
                      [this] { m_shutdown.setDelaying(false); });
-    QObject::connect(&m_production.controller().phase, &Field::changed, &m_shutdown, [this] {
-        m_shutdown.setDelaying(m_production.controller().phase() != ConnectionPhase::disconnected);
+    QObject::connect(&m_real.controller().phase, &Field::changed, &m_shutdown, [this] {
+        m_shutdown.setDelaying(m_real.controller().phase() != ConnectionPhase::disconnected);
     });
 }
 
@@ -65,16 +65,16 @@ bool Application::eventFilter(QObject *watched, QEvent *event)
     if (watched != qApp || event->type() != QEvent::Quit)
         return QObject::eventFilter(watched, event);
     event->ignore();
-    if (m_production.controller().profile().quitCanBeRefused)
+    if (m_real.controller().profile().quitCanBeRefused)
         m_guard.quit();
     else
-        m_departure.leave();
+        m_exitHandler.leave();
     return true;
 }
 
 void Application::leave(bool restored)
 {
-    const TorController &controller = m_production.controller();
+    const TorController &controller = m_real.controller();
     const bool left = !restored && controller.isSessionMarkerPresent()
         && !controller.otherSession();
     if (left) {
@@ -88,7 +88,7 @@ void Application::leave(bool restored)
                << '\n';
         m_alerts.tell(
             tr("Your network is still set up for Tor"),
-            tr("Veldmark was told to end and could not restore it. Open Veldmark again to do so."));
+            tr("Veldmark had to close and could not restore the network. Open Veldmark again to restore it."));
     }
     QMetaObject::invokeMethod(
         qApp, [left] { QCoreApplication::exit(left ? 1 : 0); }, Qt::QueuedConnection);
@@ -96,14 +96,14 @@ void Application::leave(bool restored)
 
 Result<void, Text> Application::start(bool hidden, bool connectNow)
 {
-    auto server = InstanceServer::start(m_production.controller());
+    auto server = InstanceServer::start(m_real.controller());
     if (!server)
         return Failure(server.error());
     m_server = std::move(*server);
     QObject::connect(m_server.get(), &InstanceServer::raiseRequested, this,
                      [this] { m_windows.open(QStringLiteral("main")); });
 
-    m_production.controller().detectStaleState();
+    m_real.controller().detectStaleState();
     QObject::connect(&m_trayHost, &TrayHost::changed, this, &Application::onTrayHostChanged);
     QObject::connect(&m_trayHost, &TrayHost::missing, this, &Application::onTrayHostMissing);
     onTrayHostChanged();
@@ -120,13 +120,13 @@ Result<void, Text> Application::start(bool hidden, bool connectNow)
 QCoro::Task<void> Application::begin(bool connectNow)
 {
     const QPointer<QObject> self(&m_lifetime);
-    co_await m_production.controller().updatePrivilegedHelper();
+    co_await m_real.controller().updatePrivilegedHelper();
     if (!self)
         co_return;
-    if (connectNow && !m_production.controller().optionsLocked())
-        co_await m_production.controller().connect();
+    if (connectNow && !m_real.controller().optionsLocked())
+        co_await m_real.controller().connect();
     else
-        co_await m_production.controller().autoConnectIfEnabled();
+        co_await m_real.controller().autoConnectIfEnabled();
 }
 
 void Application::onTrayHostChanged()

@@ -2,7 +2,7 @@
 
 #include "app/Alerts.h"
 #include "app/ControllerSession.h"
-#include "app/Departure.h"
+#include "app/ExitHandler.h"
 #include "app/QuitGuard.h"
 #include "app/ShutdownNotice.h"
 #include "app/Tray.h"
@@ -10,7 +10,7 @@
 #include "app/Windows.h"
 #include "base/Clock.h"
 #include "base/Text.h"
-#include "controller/Production.h"
+#include "controller/RealController.h"
 #include "controller/SessionWatch.h"
 #include "instance/InstanceServer.h"
 #include "system/SignalWatcher.h"
@@ -42,18 +42,18 @@ private:
     void onTrayHostChanged();
     void onTrayHostMissing();
     void tellHidden();
-    void joinDeparture();
+    void joinExitHandler();
     void leave(bool restored);
 
-    Production m_production;
-    SessionWatch m_watch{m_production.controller()};
+    RealController m_real;
+    SessionWatch m_watch{m_real.controller()};
     ControllerSession m_session;
     std::unique_ptr<LogFeed> m_log;
     Windows m_windows;
     QuitGuard m_guard;
     Alerts m_alerts;
     SystemClock m_clock;
-    Departure m_departure;
+    ExitHandler m_exitHandler;
     SignalWatcher m_signals;
     ShutdownNotice m_shutdown;
     TrayHost m_trayHost;

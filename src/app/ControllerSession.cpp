@@ -110,6 +110,7 @@ void ControllerSession::read()
     next.terminalInstalled = m_terminalInstalled;
     next.terminalForSsh = m_terminalForSsh;
     next.torPath = c.torPath();
+    next.isTorRefused = SettingRules::torPathProblem(c.customTorPath()).has_value();
     next.markerPresent = c.isSessionMarkerPresent();
     next.findings = m_findings;
     next.isExamining = m_isExamining;
@@ -176,9 +177,7 @@ void ControllerSession::connectToTor()
 
 void ControllerSession::disconnectFromTor()
 {
-    if (!m_controller.isSessionMarkerPresent())
-        m_controller.lookAtSession(); // another process has restored the network
-    m_controller.disconnect();
+    m_controller.restore();
 }
 
 void ControllerSession::runChecks()

@@ -14,12 +14,6 @@ QuitGuard::QuitGuard(TorController &controller, Windows &windows)
     QObject::connect(&controller.activeMode, &Field::changed, this, &QuitGuard::showWhetherClosed);
 }
 
-QuitGuard::~QuitGuard()
-{
-    if (m_disconnectEnded)
-        m_disconnectEnded->complete(false);
-}
-
 void QuitGuard::quit()
 {
     m_controller.lookAtSession();
@@ -87,20 +81,7 @@ QCoro::Task<void> QuitGuard::disconnectAndQuit()
     if (m_dialog)
         m_dialog->setProperty("busy", true);
     const QPointer<QuitGuard> self(this);
-    if (m_controller.phase() == ConnectionPhase::disconnecting) { // another caller has begun it
-        const ResumeOnce<bool> ended;
-        m_disconnectEnded = ended;
-        const auto heard = QObject::connect(&m_controller.phase, &Field::changed, this,
-                                            [ended] { ended.complete(true); });
-        co_await ended;
-        if (!self)
-            co_return;
-        QObject::disconnect(heard);
-        finish();
-        co_return;
-    }
-    m_controller.detectStaleState();
-    co_await m_controller.disconnect();
+    co_await m_controller.restore();
     if (self)
         finish();
 }

@@ -1,11 +1,10 @@
 #pragma once
 
 #include "app/Windows.h"
-#include "base/ResumeOnce.h"
 
 #include <qcorotask.h>
 
-#include <optional>
+#include <memory>
 
 namespace veldmark {
 
@@ -19,7 +18,6 @@ class QuitGuard : public QObject {
 public:
     // Both must outlive the guard.
     QuitGuard(TorController &controller, Windows &windows);
-    ~QuitGuard() override;
 
 public Q_SLOTS:
     void quit();
@@ -43,8 +41,6 @@ private:
     Windows &m_windows;
     std::unique_ptr<QQuickWindow> m_dialog;
     bool m_quitAfterwards = false; // quit when the running disconnect has succeeded
-    // Waits for a disconnect that another caller has begun.
-    std::optional<ResumeOnce<bool>> m_disconnectEnded;
 };
 
 } // namespace veldmark

@@ -1,6 +1,6 @@
 #include "app/Activation.h"
 #include "app/Application.h"
-#include "app/LastWords.h"
+#include "app/RecoveryNotice.h"
 #include "base/PrivateMemory.h"
 #include "base/Resumption.h"
 #include "base/UsersLanguage.h"
@@ -116,13 +116,13 @@ int main(int argc, char **argv)
     }
 
     const LastTurn lastTurn; // goes last: lets the coroutines that still wait run to their ends
-    const LastWords lastWords(profile);
+    const RecoveryNotice recoveryNotice(profile);
     Application program(profile);
     if (const auto started = program.start(line.has(line.hidden), line.has(line.connectNow));
         !started) {
         QTextStream(stderr) << "veldmark: " << started.error().translated() << '\n';
         QMessageBox::critical(nullptr, QStringLiteral("Veldmark"),
-                              started.error().translated() + LastWords::advice(profile));
+                              started.error().translated() + RecoveryNotice::advice(profile));
         return 1;
     }
     return QApplication::exec();

@@ -7,9 +7,9 @@
 
 namespace veldmark {
 
-// The source of time for everything that waits. Production uses SystemClock. Tests use a clock that
-// they move by hand, so a test of a five-minute deadline takes no time.
-// Call every function on the thread that owns the caller's event loop.
+// The source of time for everything that waits. RealController uses SystemClock. Tests use a clock
+// that they move by hand, so a test of a five-minute deadline takes no time. Call every function on
+// the thread that owns the caller's event loop.
 class Clock {
 public:
     using TimePoint = std::chrono::steady_clock::time_point;

@@ -21,7 +21,7 @@ constexpr qint64 unpackedLimitBytes = 2'000'000'000;
 
 Text refusal(const Text &what, QByteArrayView name)
 {
-    return Text::tr("The archive holds %1: %2")
+    return Text::tr("The archive contains %1: %2")
         .arg(what, QString::fromUtf8(name.first(std::min<qsizetype>(name.size(), 200))));
 }
 
@@ -85,7 +85,7 @@ std::optional<Text> entryProblem(const fs::directory_entry &entry)
         fs::permissions(entry.path(), static_cast<fs::perms>(0755), error);
         break;
     default:
-        return refusal(Text::tr("what is neither file nor folder"), name);
+        return refusal(Text::tr("an entry that is neither a file nor a folder"), name);
     }
     return error ? std::optional<Text>(QString::fromStdString(error.message())) : std::nullopt;
 }
@@ -97,11 +97,11 @@ std::optional<Text> listingProblem(QByteArrayView names, QByteArrayView details)
     const QByteArrayList nameLines = linesOf(names);
     const QByteArrayList detailLines = linesOf(details);
     if (nameLines.isEmpty())
-        return Text::tr("The archive is empty or no archive.");
+        return Text::tr("The file is empty or not an archive.");
     if (nameLines.size() != detailLines.size())
-        return Text::tr("The archive's list of files is not clear.");
+        return Text::tr("The archive's list of files is ambiguous.");
     if (nameLines.size() > memberLimit)
-        return Text::tr("The archive holds too many files.");
+        return Text::tr("The archive contains too many files.");
 
     qint64 total = 0;
     for (qsizetype i = 0; i < nameLines.size(); ++i) {
@@ -119,7 +119,7 @@ std::optional<Text> listingProblem(QByteArrayView names, QByteArrayView details)
         if (type == 'h' || line.contains(" link to "))
             return refusal(Text::tr("a hard link"), name);
         if (type != '-' && type != 'd')
-            return refusal(Text::tr("what is neither file nor folder"), name);
+            return refusal(Text::tr("an entry that is neither a file nor a folder"), name);
         const std::optional<qint64> size = sizeIn(line);
         if (!size || *size > unpackedLimitBytes - total)
             return Text::tr("The archive's content is too large.");

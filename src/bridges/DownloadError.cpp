@@ -48,9 +48,9 @@ DownloadError DownloadError::olderVersion(const QString &announced, const QStrin
 
 DownloadError DownloadError::otherContent(const QString &announced)
 {
-    return {
-        Kind::rollback,
-        Text::tr("What came as version %1 is another one, so it was discarded.").arg(announced)};
+    return {Kind::rollback,
+            Text::tr("The download of version %1 contains another version, so it was discarded.")
+                .arg(announced)};
 }
 
 DownloadError DownloadError::cancelled()

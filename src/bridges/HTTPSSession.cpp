@@ -112,7 +112,8 @@ private:
             if (m_answer.isDone())
                 return;
             if (total() >= 0 && m_received != total())
-                end(DownloadError::other(Text::tr("The connection was lost before the end.")));
+                end(DownloadError::other(
+                    Text::tr("The connection was lost before the download ended.")));
             else if (m_file.isOpen() && !m_file.flush())
                 endUnwritten();
             else

@@ -39,21 +39,20 @@ Text waiting(const SessionFacts &facts, bool isStrict)
     switch (*facts.stall) {
     case Stall::noNetwork:
         return isStrict
-            ? Text::tr("This computer has no network. Nothing gets out around Tor meanwhile.")
+            ? Text::tr("This computer has no network. Traffic around Tor stays blocked.")
             : Text::tr("This computer has no network. Veldmark goes on when it is back.");
     case Stall::noCircuit:
-        return isStrict
-            ? Text::tr(
-                "Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile.")
-            : Text::tr("Tor has no working circuit and keeps trying.");
+        return isStrict ? Text::tr(
+                   "Tor has no working circuit and keeps trying. Traffic around Tor stays blocked.")
+                        : Text::tr("Tor has no working circuit and keeps trying.");
     case Stall::noAnswer:
         return isStrict
             ? Text::tr(
-                "Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile.")
+                "Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked.")
             : Text::tr("Tor gets no answer from the network and keeps trying.");
     case Stall::firewall:
         return Text::
-            tr("Another firewall on this computer denies what goes out, so Tor can't connect: %1.")
+            tr("Another firewall on this computer blocks outgoing traffic, so Tor can't connect: %1.")
                 .arg(facts.firewalls.join(QStringLiteral(", ")));
     case Stall::vpn:
         break;
@@ -69,7 +68,7 @@ Verdict inDanger(Danger danger, const SessionFacts &facts)
     const bool isStrict = facts.mode == RoutingMode::strict;
     switch (danger) {
     case Danger::killSwitchOpen:
-        return {Level::danger, danger, Text::tr("Kill Switch Open"), symbol,
+        return {Level::danger, danger, Text::tr("Kill Switch Failed"), symbol,
                 Text::tr("Traffic may leave this computer directly")};
     case Danger::dnsLeak:
         return {Level::danger, danger, Text::tr("DNS Leak"), symbol,
@@ -83,7 +82,7 @@ Verdict inDanger(Danger danger, const SessionFacts &facts)
         return {
             Level::warning, danger, attention, symbol,
             Text::tr(
-                "It can't be told whether the kill switch stands. Disconnect and connect again.")};
+                "Veldmark can't tell whether the kill switch blocks traffic. Disconnect and connect again.")};
     case Danger::stalled:
         return {Level::warning, danger,
                 facts.stall == TrafficWatch::Stall::noNetwork ? Text::tr("No Network")

@@ -47,7 +47,7 @@ QString usageOf(const Verb &verb)
 Result<Invocation, Text> parseArguments(const QStringList &arguments)
 {
     if (arguments.isEmpty())
-        return Failure(Text::tr("What should I do? \"veldmarkctl help\" lists the commands."));
+        return Failure(Text::tr("A command is missing. \"veldmarkctl help\" lists the commands."));
     const Verb *const verb = verbTyped(arguments.first());
     if (!verb)
         return Failure(Text::tr("Unknown command %1. \"veldmarkctl help\" lists the commands.")

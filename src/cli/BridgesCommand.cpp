@@ -7,7 +7,7 @@
 #include "bridges/TransportDownloader.h"
 #include "cli/Console.h"
 #include "cli/ProgressLine.h"
-#include "controller/Production.h"
+#include "controller/RealController.h"
 #include "instance/InstancePlace.h"
 #include "system/SignalWatcher.h"
 
@@ -136,7 +136,7 @@ QString Report::bridges(const QJsonObject &all)
         report += row(name, program.value(QStringLiteral("path")).toString());
         report += row(QString(),
                       (serves.isEmpty()
-                           ? Text::tr("doesn't say what it serves")
+                           ? Text::tr("doesn't say which transports it serves")
                            : Text::tr("serves %1").arg(serves.join(QStringLiteral(", "))))
                           .translated());
     }
@@ -206,12 +206,12 @@ QCoro::Task<ExitStatus> downloadTransportsHere(PlatformProfile profile)
         Console::printError(lock.error());
         co_return ExitStatus::alreadyRunning;
     }
-    const auto production = std::make_shared<Production>(profile);
-    TorController &controller = production->controller();
+    const auto real = std::make_shared<RealController>(profile);
+    TorController &controller = real->controller();
     controller.detectStaleState();
     const SignalWatcher signalWatcher;
     QObject::connect(&signalWatcher, &SignalWatcher::received, &controller,
-                     [raw = production.get()] { raw->downloader().cancel(); });
+                     [raw = real.get()] { raw->downloader().cancel(); });
     const auto line = std::make_shared<ProgressLine>(Console::isTerminal(), Console::width());
     QObject::connect(
         &controller.transportDownload, &Field::changed, &controller, [&controller, line] {

@@ -8,8 +8,8 @@
 #include "cli/LogCommand.h"
 #include "cli/ProgressLine.h"
 #include "cli/Report.h"
-#include "controller/Production.h"
 #include "controller/PublishedState.h"
+#include "controller/RealController.h"
 #include "instance/InstanceClient.h"
 #include "instance/InstancePlace.h"
 
@@ -155,9 +155,9 @@ QCoro::Task<ExitStatus> askInstance(Invocation invocation, PlatformProfile profi
 }
 
 // Executes the command without a running instance, with a controller of its own.
-QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production> production)
+QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<RealController> real)
 {
-    TorController &controller = production->controller();
+    TorController &controller = real->controller();
     if (invocation.verb != Verb::Id::status || invocation.json) { // the report has it too
         for (const Text &problem : controller.settingsProblems())
             Console::printError(problem);
@@ -186,14 +186,10 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
             Console::printError(lock.error());
             co_return ExitStatus::alreadyRunning;
         }
-        // otherwise there is nothing to restore
-        if (controller.phase() != ConnectionPhase::disconnected) {
-            const auto ended = co_await controller.disconnect();
-            if (!ended) {
-                Console::printError(ended.error().isEmpty() ? Text::tr("Cancelled.")
-                                                            : ended.error());
-                co_return ExitStatus::failed;
-            }
+        const auto ended = co_await controller.restore();
+        if (!ended) {
+            Console::printError(ended.error().isEmpty() ? Text::tr("Cancelled.") : ended.error());
+            co_return ExitStatus::failed;
         }
     } else if (invocation.verb == Verb::Id::status || invocation.verb == Verb::Id::get) {
         const auto asking = controller.askTerminalHint();
@@ -209,12 +205,12 @@ QCoro::Task<ExitStatus> doHere(Invocation invocation, std::shared_ptr<Production
 // For root: no approval is needed, and the helper itself checks that a strict session is in force,
 // whichever user owns it. So it also works where no password prompt is possible: `sudo veldmarkctl
 // launch …`.
-QCoro::Task<ExitStatus> launchHere(QString path, std::shared_ptr<Production> production)
+QCoro::Task<ExitStatus> launchHere(QString path, std::shared_ptr<RealController> real)
 {
     const QStringList arguments = {QStringLiteral("launch"), QStringLiteral("--uid"),
                                    QString::number(SessionOwner::callerOfHelper()),
                                    QStringLiteral("--app"), path};
-    const auto launched = co_await production->privileged().runHelper(arguments);
+    const auto launched = co_await real->privileged().runHelper(arguments);
     if (!launched)
         Console::printError(launched.error().description());
     co_return launched ? ExitStatus::done : ExitStatus::failed;
@@ -259,13 +255,14 @@ QCoro::Task<ExitStatus> execute(Invocation invocation, PlatformProfile profile)
     case Verb::Id::disconnect:
     case Verb::Id::restore:
         if (!invocation.watch)
-            return doHere(invocation, std::make_shared<Production>(profile));
+            return doHere(invocation, std::make_shared<RealController>(profile));
         return refuse();
     case Verb::Id::downloadTransports:
         return downloadTransportsHere(profile);
     case Verb::Id::launch:
-        return geteuid() == 0 ? launchHere(invocation.key, std::make_shared<Production>(profile))
-                              : refuse();
+        return geteuid() == 0
+            ? launchHere(invocation.key, std::make_shared<RealController>(profile))
+            : refuse();
     default:
         return refuse();
     }

@@ -1,8 +1,8 @@
 #include "cli/CompleteCommand.h"
 
 #include "cli/Console.h"
-#include "controller/Production.h"
 #include "controller/PublishedState.h"
+#include "controller/RealController.h"
 
 namespace veldmark {
 
@@ -59,12 +59,12 @@ ExitStatus showCompletions(const Invocation &invocation, const PlatformProfile &
         lines = commands();
     else if (what == QLatin1String("options"))
         lines = options(invocation.value);
-    else if (Production production(profile); what == QLatin1String("fields"))
-        lines = publishedState(production.controller()).keys();
+    else if (RealController real(profile); what == QLatin1String("fields"))
+        lines = publishedState(real.controller()).keys();
     else if (what == QLatin1String("settings"))
-        lines = settings(production.controller());
+        lines = settings(real.controller());
     else if (what == QLatin1String("values"))
-        lines = values(production.controller(), invocation.value);
+        lines = values(real.controller(), invocation.value);
     for (const QString &line : lines)
         Console::print(line);
     return ExitStatus::done;

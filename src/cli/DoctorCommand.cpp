@@ -56,7 +56,7 @@ QString Report::doctor(const Findings &findings)
             lines << QString(column, u' ') + finding.command;
     }
     const auto can = canConnect(findings);
-    lines << (!can       ? Text::tr("Whether a connect can work isn't known.")
+    lines << (!can       ? Text::tr("It isn't known whether a connect can work.")
                   : *can ? Text::tr("A connect can work.")
                          : Text::tr("A connect can't work yet."))
                  .translated();
@@ -79,7 +79,7 @@ QCoro::Task<ExitStatus> showDoctor(Invocation invocation, PlatformProfile profil
     if (can == true)
         co_return ExitStatus::done;
     if (can == false)
-        Console::printError(Text::tr("A connect can't work before each \"problem\" is mended."));
+        Console::printError(Text::tr("A connect can't work until each \"problem\" is fixed."));
     for (const Finding &finding : findings)
         if (!can && finding.mayBlock)
             Console::printError(finding.text);

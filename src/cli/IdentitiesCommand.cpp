@@ -30,7 +30,7 @@ constexpr int readings = 20; // the program may be writing it at that moment
 Text whyNone(const PlatformProfile &profile)
 {
     return profile.identitiesNote.isEmpty()
-        ? Text::tr("Applications are not told apart on this system.")
+        ? Text::tr("This system can't tell applications apart.")
         : Text::tr("Applications are not separated now: they share circuits.");
 }
 
@@ -191,7 +191,7 @@ QCoro::Task<ExitStatus> renewIdentity(Invocation invocation, PlatformProfile pro
             co_return ExitStatus::done;
         QThread::msleep(20);
     }
-    co_return fail(Text::tr("The application has not got another identity."));
+    co_return fail(Text::tr("The application did not get a new identity."));
 }
 
 QStringList runAsWords(const QString &name, const QString &start, uid_t user,
@@ -210,7 +210,7 @@ QStringList runAsWords(const QString &name, const QString &start, uid_t user,
                QStringLiteral("-c"),
                waitInGroup,
                QStringLiteral("veldmarkctl"),
-               Text::tr("The program has not got an identity of its own, so it was not started.")
+               Text::tr("The program did not get an identity of its own, so it was not started.")
                    .translated(),
                QStringLiteral(R"(%1 [0-9.]* as:%2)")
                    .arg(user)
@@ -238,10 +238,11 @@ QCoro::Task<ExitStatus> runAs(Invocation invocation, PlatformProfile profile)
         arguments.push_back(word.data());
     arguments.push_back(nullptr);
     execvp(arguments.front(), arguments.data());
-    co_return fail(errno == ENOENT ? Text::tr(
-                       "The program systemd-run is missing, which makes groups for programs.")
-                                   : Text::tr("The program could not be started: %1.")
-                                         .arg(QString::fromLocal8Bit(std::strerror(errno))));
+    co_return fail(
+        errno == ENOENT ? Text::tr(
+            "The program systemd-run is missing. Veldmark needs it to make a group for a program.")
+                        : Text::tr("The program could not be started: %1.")
+                              .arg(QString::fromLocal8Bit(std::strerror(errno))));
 }
 
 } // namespace veldmark

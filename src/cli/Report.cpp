@@ -47,12 +47,14 @@ Text killSwitchText(const QJsonObject &state)
                               .toLocalTime()
                               .toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
     if (word == QLatin1String("standing"))
-        return Text::tr("stands, since %1").arg(since);
+        return Text::tr("blocks traffic, since %1").arg(since);
     if (word == QLatin1String("putBack"))
-        return Text::tr("stands; put back at %1 after another program had removed it").arg(since);
+        return Text::tr("blocks traffic; put back at %1 after another program had removed it")
+            .arg(since);
     if (word == QLatin1String("open"))
-        return Text::tr("OPEN since %1: traffic may leave this computer directly").arg(since);
-    return Text::tr("isn't known to stand, since %1").arg(since);
+        return Text::tr("NOT BLOCKING since %1: traffic may leave this computer directly")
+            .arg(since);
+    return Text::tr("isn't known to block traffic, since %1").arg(since);
 }
 
 Text exitText(const QJsonObject &state)
@@ -80,12 +82,12 @@ Text directText(const QJsonObject &state)
         return Text::tr("blocked");
     if (word == QLatin1String("blocked"))
         return text(state, "activeMode") == QLatin1String("strict")
-            ? Text::tr("no answer, but the kill switch isn't known to close it")
-            : Text::tr("no answer, but proxy mode doesn't close it");
+            ? Text::tr("no answer, but it isn't known whether the kill switch blocks it")
+            : Text::tr("no answer, but proxy mode doesn't block it");
     if (word == QLatin1String("checking"))
         return Text::tr("checking…");
     if (word == QLatin1String("inconclusive"))
-        return Text::tr("couldn't be told");
+        return Text::tr("inconclusive");
     return Text::tr("not checked yet");
 }
 

@@ -7,10 +7,10 @@
 namespace veldmark {
 
 RunCommand::RunCommand(const PlatformProfile &profile, bool connectNow)
-    : m_production(profile),
-      m_controller(m_production.controller()),
+    : m_real(profile),
+      m_controller(m_real.controller()),
       m_watch(m_controller),
-      m_withdrawal(m_controller),
+      m_restorer(m_controller),
       m_connectNow(connectNow),
       m_lines(m_controller)
 {
@@ -18,7 +18,7 @@ RunCommand::RunCommand(const PlatformProfile &profile, bool connectNow)
     QObject::connect(&m_controller.phase, &Field::changed, this, [this] {
         m_restored |= m_controller.phase() == ConnectionPhase::disconnecting;
     });
-    QObject::connect(&m_withdrawal, &Withdrawal::finished, this, &RunCommand::onWithdrawn);
+    QObject::connect(&m_restorer, &NetworkRestorer::finished, this, &RunCommand::onRestored);
 }
 
 void RunCommand::start()
@@ -40,7 +40,7 @@ QCoro::Task<void> RunCommand::begin()
         m_lines.complain(problem);
     m_controller.detectStaleState();
     co_await m_controller.updatePrivilegedHelper();
-    if (!self || m_withdrawal.isUnderWay() || m_restored)
+    if (!self || m_restorer.isUnderWay() || m_restored)
         co_return;
     if (const auto problem = m_controller.startupError())
         m_lines.complain(*problem);
@@ -49,7 +49,7 @@ QCoro::Task<void> RunCommand::begin()
     else
         co_await m_controller.autoConnectIfEnabled();
     // a disconnect by another caller has ended the attempt
-    if (!self || m_withdrawal.isUnderWay() || m_restored)
+    if (!self || m_restorer.isUnderWay() || m_restored)
         co_return;
     const bool isRefused = m_controller.phase() == ConnectionPhase::disconnected
         || m_controller.otherSession();
@@ -67,16 +67,16 @@ QCoro::Task<void> RunCommand::begin()
 void RunCommand::onSignal(int number)
 {
     m_mustEnd |= number != SIGINT;
-    if (m_withdrawal.isUnderWay()) {
+    if (m_restorer.isUnderWay()) {
         m_lines.say(Text::tr("Still restoring your network, one moment…"));
         return;
     }
     if (m_controller.phase() == ConnectionPhase::connecting && !m_controller.canCancel())
         m_lines.say(Text::tr("Stopping as soon as Tor has been started…"));
-    m_withdrawal.begin();
+    m_restorer.begin();
 }
 
-void RunCommand::onWithdrawn(bool restored)
+void RunCommand::onRestored(bool restored)
 {
     if (restored) {
         finish(ExitStatus::done);

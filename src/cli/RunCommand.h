@@ -3,9 +3,9 @@
 #include "base/Text.h"
 #include "cli/Arguments.h"
 #include "cli/SessionLines.h"
-#include "controller/Production.h"
+#include "controller/NetworkRestorer.h"
+#include "controller/RealController.h"
 #include "controller/SessionWatch.h"
-#include "controller/Withdrawal.h"
 #include "instance/InstanceServer.h"
 #include "system/SignalWatcher.h"
 
@@ -33,13 +33,13 @@ Q_SIGNALS:
 private:
     QCoro::Task<void> begin();
     void onSignal(int number);
-    void onWithdrawn(bool restored);
+    void onRestored(bool restored);
     void finish(ExitStatus status);
 
-    Production m_production;
+    RealController m_real;
     TorController &m_controller;
     SessionWatch m_watch;
-    Withdrawal m_withdrawal;
+    NetworkRestorer m_restorer;
     const bool m_connectNow;
     std::unique_ptr<InstanceServer> m_server;
     SignalWatcher m_signals;

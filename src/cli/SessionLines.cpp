@@ -27,6 +27,7 @@ SessionLines::SessionLines(const TorController &controller)
     follow({&c.dnsStatus, &c.leakStatus, &c.torVerified, &c.otherSession, &c.stall,
             &c.denyingFirewalls},
            &SessionLines::showVerdict);
+    follow({&c.errorMessage}, &SessionLines::showError);
 }
 
 void SessionLines::finish()
@@ -99,6 +100,20 @@ void SessionLines::showVerdict()
         showPhase();
 }
 
+// Prints a message that comes while the phase stays the same, or that no report follows.
+void SessionLines::showError()
+{
+    const ConnectionPhase phase = m_controller.phase();
+    const QString error = m_controller.errorMessage().value_or(Text()).translated();
+    if (error.isEmpty())
+        m_lastComplaint.clear();
+    else if (phase == ConnectionPhase::disconnected && error != m_lastComplaint)
+        complain(error);
+    else if ((phase == ConnectionPhase::connected || phase == ConnectionPhase::stale)
+             && m_lastPhase == phase && !m_lastReport.contains(error))
+        showPhase();
+}
+
 QString SessionLines::verdictText() const
 {
     const Verdict verdict = m_controller.verdict();
@@ -114,6 +129,7 @@ void SessionLines::say(const Text &text)
 void SessionLines::complain(const Text &text)
 {
     finish();
+    m_lastComplaint = text.translated();
     Console::printError(text);
 }
 

@@ -35,12 +35,14 @@ private:
     void showProblem();
     void showKillSwitch();
     void showVerdict();
+    void showError();
     QString verdictText() const;
 
     const TorController &m_controller;
     ProgressLine m_progress;
     QString m_lastReport;
     QString m_lastVerdict;
+    QString m_lastComplaint;
     ConnectionPhase m_lastPhase = ConnectionPhase::disconnected;
     std::optional<KillSwitch::State> m_lastKillSwitch;
 };

@@ -29,7 +29,7 @@ ControlPortError ControlPortError::malformed(const Text &sentence)
 
 ControlPortError ControlPortError::stranger()
 {
-    return {Kind::Stranger, Text::tr("Another program than Tor listens on Tor's control port.")};
+    return {Kind::Stranger, Text::tr("A program other than Tor listens on Tor's control port.")};
 }
 
 ControlPortError ControlPortError::timedOut()

@@ -8,8 +8,6 @@
 #include "log/TransportTrouble.h"
 #include "system/OtherFirewalls.h"
 
-#include <QPointer>
-
 #include <algorithm>
 
 using namespace std::chrono_literals;
@@ -77,7 +75,7 @@ std::optional<Text> TorController::problemBehind(const BootstrapStatus &status,
         if (const QStringList others = OtherFirewalls::denying(m_services.profile);
             !others.isEmpty())
             return Text::
-                tr("Another firewall on this computer denies what goes out, so Tor can't connect: %1.")
+                tr("Another firewall on this computer blocks outgoing traffic, so Tor can't connect: %1.")
                     .arg(others.join(QStringLiteral(", ")));
         if (strictMode() && route->isVPN)
             return Text::tr(
@@ -91,11 +89,10 @@ std::optional<Text> TorController::problemBehind(const BootstrapStatus &status,
     return std::nullopt;
 }
 
-QCoro::Task<Result<void, Text>> TorController::waitForBootstrap(Attempt attempt)
+QCoro::Task<Result<void, Text>> TorController::waitForBootstrap(Run attempt)
 {
     if (!m_controlPassword)
         co_return Failure(ControlPortError::notConnected().description());
-    const QPointer<TorController> self(this);
     const QString password = *m_controlPassword;
     const QStringList keys = {bootstrapKey};
     Clock &clock = m_services.clock;
@@ -104,7 +101,7 @@ QCoro::Task<Result<void, Text>> TorController::waitForBootstrap(Attempt attempt)
     std::optional<Clock::TimePoint> firstAnswer;
     while (clock.now() < deadline) {
         const auto reply = co_await m_services.controlPort.getInfo(keys, password);
-        if (!self || !isCurrent(attempt))
+        if (attempt.isOver())
             co_return Failure(Text()); // the user disconnected; the result is unused
         if (reply) {
             const BootstrapStatus status = parseBootstrap(reply->value(bootstrapKey));
@@ -121,7 +118,7 @@ QCoro::Task<Result<void, Text>> TorController::waitForBootstrap(Attempt attempt)
             lastError = reply.error().description();
         }
         co_await clock.sleep(bootstrapPoll);
-        if (!self || !isCurrent(attempt))
+        if (attempt.isOver())
             co_return Failure(Text());
     }
     co_return Failure(TorError::bootstrapTimeout(lastError).description());

@@ -4,8 +4,6 @@
 #include "circuits/CircuitParser.h"
 #include "control/ControlPort.h"
 
-#include <QPointer>
-
 #include <algorithm>
 
 using namespace std::chrono_literals;
@@ -39,13 +37,12 @@ QCoro::Task<void> TorController::refreshCircuits()
 {
     if (phase() != ConnectionPhase::connected || !m_controlPassword)
         co_return;
-    const QPointer<TorController> self(this);
-    const Attempt attempt = m_attempt;
+    const Run attempt = current(&TorController::m_attempt);
     const quint64 reading = ++m_circuitReading;
     const QString password = *m_controlPassword;
     const QStringList commands = {getInfoCommand(circuitKey), getInfoCommand(streamKey)};
     const auto replies = co_await m_services.controlPort.batch(commands, password);
-    if (!self || !isCurrent(attempt) || reading < m_readCircuits)
+    if (attempt.isOver() || reading < m_readCircuits)
         co_return; // a later request has already been answered
     m_readCircuits = reading;
     if (!replies) {
@@ -60,7 +57,7 @@ QCoro::Task<void> TorController::refreshCircuits()
                                                 m_siteHistory, m_relayCache);
     if (!table.unresolved.empty()) {
         const Resolution found = co_await resolveRelays(table.unresolved, attempt);
-        if (!self || !isCurrent(attempt))
+        if (attempt.isOver())
             co_return;
         RelayCache known = m_relayCache;
         for (const RelayInfo &relay : found.relays)
@@ -77,9 +74,8 @@ QCoro::Task<void> TorController::refreshCircuits()
 }
 
 QCoro::Task<TorController::Resolution> TorController::resolveRelays(std::vector<RelayInfo> relays,
-                                                                    Attempt attempt)
+                                                                    Run attempt)
 {
-    const QPointer<TorController> self(this);
     const QString password = *m_controlPassword;
     const QStringList bridgeLines = m_activeBridgeLines;
 
@@ -87,7 +83,7 @@ QCoro::Task<TorController::Resolution> TorController::resolveRelays(std::vector<
     for (const RelayInfo &relay : relays)
         commands << getInfoCommand(QStringLiteral("ns/id/") + relay.fingerprint);
     const auto statuses = co_await m_services.controlPort.batch(commands, password);
-    if (!self || !isCurrent(attempt) || !statuses)
+    if (attempt.isOver() || !statuses)
         co_return Resolution{};
     QStringList addresses;
     for (std::size_t i = 0; i < relays.size(); ++i) {
@@ -122,13 +118,12 @@ QCoro::Task<void> TorController::newIdentity()
 {
     if (phase() != ConnectionPhase::connected || !m_controlPassword)
         co_return;
-    const QPointer<TorController> self(this);
-    const Attempt attempt = m_attempt;
+    const Run attempt = current(&TorController::m_attempt);
     errorMessage = std::nullopt;
     forgetExit(); // without an answer, too: Tor may have taken new circuits
     auto asking = m_services.controlPort.signal(newCircuitsSignal, *m_controlPassword);
     const auto done = co_await asking;
-    if (!self || !isCurrent(attempt))
+    if (attempt.isOver())
         co_return;
     if (!done)
         errorMessage
@@ -140,12 +135,11 @@ QCoro::Task<void> TorController::newCircuit(QString id)
 {
     if (phase() != ConnectionPhase::connected || !m_controlPassword || !isCircuitID(id))
         co_return;
-    const QPointer<TorController> self(this);
-    const Attempt attempt = m_attempt;
+    const Run attempt = current(&TorController::m_attempt);
     const QString password = *m_controlPassword;
     const QStringList commands = {QStringLiteral("CLOSECIRCUIT ") + id};
     co_await m_services.controlPort.batch(commands, password);
-    if (self && isCurrent(attempt))
+    if (!attempt.isOver())
         co_await refreshCircuits();
 }
 
@@ -153,14 +147,13 @@ QCoro::Task<void> TorController::optimizeCircuits()
 {
     if (phase() != ConnectionPhase::connected || !m_controlPassword || isOptimizing())
         co_return;
-    const QPointer<TorController> self(this);
-    const Attempt attempt = m_attempt;
+    const Run attempt = current(&TorController::m_attempt);
     isOptimizing = true;
     for (int round = 1; round <= optimizeAttempts; ++round) {
         optimizeStatus = Text::tr("Testing speed (%1 of %2)…").arg(round).arg(optimizeAttempts);
         const quint64 identity = m_identity;
         const TimedProbe timed = co_await timedViaTor();
-        if (!self || !isCurrent(attempt))
+        if (attempt.isOver())
             co_return; // the next attempt has cleared the fields that this one set
         if ((timed.answer || round == optimizeAttempts) && identity == m_identity)
             showExit(timed.answer); // no answer to the last attempt is a result, too
@@ -177,10 +170,10 @@ QCoro::Task<void> TorController::optimizeCircuits()
         forgetExit();
         auto asking = m_services.controlPort.signal(newCircuitsSignal, *m_controlPassword);
         co_await asking;
-        if (!self || !isCurrent(attempt))
+        if (attempt.isOver())
             co_return;
         co_await m_services.clock.sleep(newCircuitsSettle);
-        if (!self || !isCurrent(attempt))
+        if (attempt.isOver())
             co_return;
     }
     optimizeStatus = std::nullopt;

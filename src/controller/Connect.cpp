@@ -59,61 +59,7 @@ std::optional<QString> TorController::torPath() const
     return std::nullopt;
 }
 
-Text TorController::connectedDetail() const
-{
-    return activeMode() == RoutingMode::strict
-        ? Text::tr("All traffic is locked to Tor")
-        : Text::tr("Apps that use system proxy settings go through Tor");
-}
-
-void TorController::resetSessionInfo()
-{
-    exitIP = std::nullopt;
-    torVerified = std::nullopt;
-    leakStatus = LeakStatus::notTested();
-    latencyMs = std::nullopt;
-    bytesRead = 0;
-    bytesWritten = 0;
-    dnsStatus = DNSStatus::unknown();
-    m_dnsLiveVerified = false;
-}
-
-void TorController::settleAfterFailure()
-{
-    if (!isSessionMarkerPresent()) {
-        endSession();
-        return;
-    }
-    canCancel = false;
-    activeMode = markedMode(); // the helper may have changed the mode before it failed
-    otherSession = SessionOwner::ofAnotherProcess(m_services.profile);
-    statusDetail = otherSession() ? leftOverDetail()
-                                  : Text::tr("Your network is still set up for Tor");
-    // The banner says why the operation failed; later changes of the rules are told. A banner about
-    // the rules that stayed during the prompt for a restore is corrected at once.
-    const auto rules = judgedKillSwitch();
-    if (!m_killSwitchMessage || errorMessage() != m_killSwitchMessage)
-        m_knownKillSwitch = rules;
-    killSwitch = rules;
-    phase = ConnectionPhase::stale;
-    startKillSwitchWatch();
-}
-
-void TorController::failAttempt(const Text &message)
-{
-    errorMessage = message;
-    settleAfterFailure();
-}
-
-void TorController::failAtHelper(const HelperError &error)
-{
-    if (error.kind() == HelperError::Kind::Cancelled)
-        settleAfterFailure();
-    else
-        failAttempt(error.description());
-}
-
-QCoro::Task<Result<QStringList, Text>> TorController::bridgeArguments(Attempt attempt,
+QCoro::Task<Result<QStringList, Text>> TorController::bridgeArguments(Run attempt,
                                                                       BridgeRequest request)
 {
     const QPointer<TorController> self(this);
@@ -123,17 +69,16 @@ QCoro::Task<Result<QStringList, Text>> TorController::bridgeArguments(Attempt at
         m_services.locateTransports,
         [self, attempt, probe](QString host, quint16 port, std::chrono::milliseconds limit) {
             // Without the controller the probe's own objects may be gone, too.
-            return self && self->isCurrent(attempt) ? probe(std::move(host), port, limit)
-                                                    : noAnswer();
+            return !attempt.isOver() ? probe(std::move(host), port, limit) : noAnswer();
         },
         [self, attempt](const Text &text) {
-            if (self && self->isCurrent(attempt))
+            if (!attempt.isOver())
                 self->statusDetail = text;
         },
         m_services.locateWithoutAsking};
     const quint64 search = ++m_transportSearch;
     const BridgePlan plan = co_await planBridges(request, tools);
-    if (!self || !isCurrent(attempt))
+    if (attempt.isOver())
         co_return Failure(Text()); // the result is unused
     if (plan.transports)
         showTransports(*plan.transports, search);
@@ -144,7 +89,7 @@ QCoro::Task<Result<QStringList, Text>> TorController::bridgeArguments(Attempt at
     // The user and other clients see this status before the next one replaces it.
     if (statusDetail() != before) {
         co_await m_services.clock.sleep(0ms);
-        if (!self || !isCurrent(attempt))
+        if (attempt.isOver())
             co_return Failure(Text());
     }
     co_return plan.arguments.map_error(
@@ -163,15 +108,14 @@ std::vector<ProgramApproval> TorController::namedPrograms(const QStringList &wor
                                     : std::vector<ProgramApproval>();
 }
 
-QCoro::Task<Result<void, HelperError>> TorController::approve(Attempt attempt,
+QCoro::Task<Result<void, HelperError>> TorController::approve(Run attempt,
                                                               std::vector<ProgramApproval> programs)
 {
-    const QPointer<TorController> self(this);
     for (const ProgramApproval &program : programs) {
         statusDetail = Text::tr("Waiting for an administrator to approve a program…");
         const QStringList asked = program.words();
         const auto helper = co_await m_services.privileged.runWithPrompt(asked);
-        if (!self || !isCurrent(attempt))
+        if (attempt.isOver())
             co_return Failure(HelperError::cancelled()); // the result is unused
         if (!helper)
             co_return Failure(helper.error());
@@ -179,9 +123,8 @@ QCoro::Task<Result<void, HelperError>> TorController::approve(Attempt attempt,
     co_return Result<void, HelperError>{};
 }
 
-QCoro::Task<Result<void, HelperError>> TorController::runConnect(Attempt attempt, QStringList words)
+QCoro::Task<Result<void, HelperError>> TorController::runConnect(Run attempt, QStringList words)
 {
-    const QPointer<TorController> self(this);
     QStringList bundle = bundleWords(m_services, words);
     std::vector<ProgramApproval> programs = unapproved(words);
     if (!bundle.isEmpty()) // root verifies the bundle's programs itself
@@ -191,16 +134,16 @@ QCoro::Task<Result<void, HelperError>> TorController::runConnect(Attempt attempt
     for (bool isByName = false;;) {
         auto approving = approve(attempt, programs);
         const auto approved = co_await approving;
-        if (!self || !isCurrent(attempt) || !approved)
+        if (attempt.isOver() || !approved)
             co_return approved;
         statusDetail = Text::tr("Waiting for administrator approval…");
         const QStringList asked = words + bundle;
         const auto helper = co_await m_services.privileged.runHelper(asked);
-        if (!self || !isCurrent(attempt))
+        if (attempt.isOver())
             co_return Failure(HelperError::cancelled()); // the result is unused
         if (helper)
             co_return Result<void, HelperError>{};
-        if (helper.error().kind() != HelperError::Kind::Unapproved || isByName)
+        if (helper.error().kind() != HelperError::Kind::UnapprovedProgram || isByName)
             co_return Failure(helper.error());
         // The helper refused an unapproved program. With a bundle, root did not find the program in
         // it: the administrator approves what is missing. Without one, root has a copy that a newer
@@ -245,8 +188,7 @@ QCoro::Task<void> TorController::connect()
         co_return;
     }
 
-    const QPointer<TorController> self(this);
-    const Attempt attempt = startAttempt();
+    const Run attempt = startAttempt();
     interruptDirectDownload();
     // The helper gets the settings as they are now; they may change during the awaits below.
     const bool strict = strictMode();
@@ -257,17 +199,10 @@ QCoro::Task<void> TorController::connect()
     const bool isBlocked = markedMode() == RoutingMode::strict;
     const BridgeRequest request{bridgeChoice(), customBridges(), optimizeSpeed(), isBlocked,
                                 m_activeBridgeLines};
-    stopMonitoring();
-    m_torStopped = false;
-    forgetCircuits();
-    bootstrapProgress = 0.0;
-    bootstrapProblem = std::nullopt;
-    resetSessionInfo();
-    statusDetail = Text::tr("Preparing Tor…");
-    phase = ConnectionPhase::connecting;
+    enterConnecting();
 
     const auto bridges = co_await bridgeArguments(attempt, request);
-    if (!self || !isCurrent(attempt))
+    if (attempt.isOver())
         co_return;
     if (!bridges) {
         failAttempt(bridges.error());
@@ -300,7 +235,7 @@ QCoro::Task<void> TorController::connect()
         arguments[0] = QStringLiteral("replace");
     auto running = runConnect(attempt, arguments);
     const auto helper = co_await running;
-    if (!self || !isCurrent(attempt))
+    if (attempt.isOver())
         co_return;
     if (!helper) {
         failAtHelper(helper.error());
@@ -321,23 +256,18 @@ QCoro::Task<void> TorController::connect()
     statusDetail = Text::tr("Starting Tor…");
     canCancel = true;
     const auto bootstrap = co_await waitForBootstrap(attempt);
-    if (!self || !isCurrent(attempt))
+    if (attempt.isOver())
         co_return;
     canCancel = false;
     if (!bootstrap) {
-        errorMessage = m_bootstrapFailure
-            = Text::tr("%1 Your network is still pointed at Tor. Click Restore Network to undo.")
-                  .arg(bootstrap.error());
-        statusDetail = Text::tr("Tor didn't finish connecting");
-        phase = ConnectionPhase::stale;
+        failBootstrap(bootstrap.error());
         co_return;
     }
 
     bootstrapProblem = std::nullopt;
     lookAtKillSwitch();
-    statusDetail = connectedDetail();
-    phase = ConnectionPhase::connected;
-    if (!self || !isCurrent(attempt))
+    enterConnected();
+    if (attempt.isOver())
         co_return; // an observer of `phase` has disconnected at once
     applyTerminalMode();
     m_network = {};
@@ -347,17 +277,16 @@ QCoro::Task<void> TorController::connect()
     co_await settleIn(attempt);
 }
 
-QCoro::Task<void> TorController::settleIn(Attempt attempt)
+QCoro::Task<void> TorController::settleIn(Run attempt)
 {
-    const QPointer<TorController> self(this);
     m_isSettlingIn = true;
     co_await runChecks();
-    if (!self || !isCurrent(attempt))
+    if (attempt.isOver())
         co_return;
     if (phase() == ConnectionPhase::connected && optimizeSpeed()
         && (!latencyMs() || *latencyMs() >= slowPathMs))
         co_await optimizeCircuits();
-    if (self && isCurrent(attempt))
+    if (!attempt.isOver())
         m_isSettlingIn = false;
 }
 

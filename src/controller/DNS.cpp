@@ -30,8 +30,7 @@ QCoro::Task<void> TorController::checkDNS(bool live)
 {
     if (phase() != ConnectionPhase::connected)
         co_return;
-    const QPointer<TorController> self(this);
-    const Attempt attempt = m_attempt;
+    const Run attempt = current(&TorController::m_attempt);
     std::optional<DNSStatus> liveResult;
     if (live) {
         if (!dnsStatus().isLeak()) // a leak stays shown while it is tested again
@@ -51,14 +50,14 @@ QCoro::Task<void> TorController::checkDNS(bool live)
             };
             auto testing = DNSCheck::liveTest(capture, lookup);
             liveResult = co_await testing;
-            if (!self || !isCurrent(attempt) || phase() != ConnectionPhase::connected)
+            if (attempt.isOver() || phase() != ConnectionPhase::connected)
                 co_return;
             if (liveResult == DNSStatus::throughTor())
                 m_dnsLiveVerified = true;
         }
     }
     const auto resolvers = co_await m_services.resolvers.resolvers();
-    if (!self || !isCurrent(attempt) || phase() != ConnectionPhase::connected)
+    if (attempt.isOver() || phase() != ConnectionPhase::connected)
         co_return;
     dnsStatus = DNSCheck::statusAfter(DNSCheck::leaks(resolvers), liveResult, m_dnsLiveVerified,
                                       dnsStatus());
@@ -68,37 +67,30 @@ QCoro::Task<void> TorController::fixDNS()
 {
     if (phase() != ConnectionPhase::connected)
         co_return;
-    const Attempt attempt = m_attempt;
     // The run under way serves this call, too, with one prompt.
-    if (m_fixedAttempt == attempt) {
+    if (m_fixedAttempt == m_attempt) {
         const ResumeOnce<bool> ended;
         m_fixWaiters.push_back(ended);
         co_await ended;
         co_return;
     }
     const QPointer<TorController> self(this);
+    const quint64 attempt = m_attempt;
     m_fixedAttempt = attempt;
-    auto repairing = repairDNS(attempt);
+    auto repairing = repairDNS(current(&TorController::m_attempt));
     co_await repairing;
     if (!self || m_fixedAttempt != attempt)
         co_return;
     m_fixedAttempt = std::nullopt;
-    endFixWaits();
+    endWaits(m_fixWaiters);
 }
 
-void TorController::endFixWaits()
+QCoro::Task<void> TorController::repairDNS(Run attempt)
 {
-    for (const ResumeOnce<bool> &waiter : std::exchange(m_fixWaiters, {}))
-        waiter.complete(true);
-}
-
-QCoro::Task<void> TorController::repairDNS(Attempt attempt)
-{
-    const QPointer<TorController> self(this);
     errorMessage = std::nullopt;
     const QStringList arguments = {QStringLiteral("fix-dns")};
     const auto helper = co_await m_services.privileged.runHelper(arguments);
-    if (!self || !isCurrent(attempt))
+    if (attempt.isOver())
         co_return;
     if (!helper) {
         if (helper.error().kind() != HelperError::Kind::Cancelled)
@@ -107,7 +99,7 @@ QCoro::Task<void> TorController::repairDNS(Attempt attempt)
     }
     lookAtKillSwitch();
     co_await checkDNS(true);
-    if (!self || !isCurrent(attempt) || !dnsStatus().isLeak())
+    if (attempt.isOver() || !dnsStatus().isLeak())
         co_return;
     errorMessage = DNSCheck::stillLeakingText(dnsStatus().leaks(),
                                               killSwitch() && killSwitch()->blocks());

@@ -220,7 +220,7 @@ Result<void, Text> parse(const QString &text, QStringList &value)
     const bool areStrings = std::all_of(array.begin(), array.end(),
                                         [](const QJsonValue &entry) { return entry.isString(); });
     if (!document.isArray() || !areStrings)
-        return Failure(Text::tr("\"%1\" is no JSON array of strings.").arg(inOneLine(text)));
+        return Failure(Text::tr("\"%1\" is not a JSON array of strings.").arg(inOneLine(text)));
     value.clear();
     for (const QJsonValue &entry : array)
         value << entry.toString();
@@ -232,7 +232,7 @@ Result<void, Text> parse(const QString &text, BridgeChoice &value)
     const auto choice = bridgeChoiceFromRawValue(text);
     if (!choice)
         return Failure(
-            Text::tr("\"%1\" is no bridge choice: off, obfs4, snowflake, meek or custom.")
+            Text::tr("\"%1\" is not a bridge choice: off, obfs4, snowflake, meek or custom.")
                 .arg(inOneLine(text)));
     value = *choice;
     return {};

@@ -4,7 +4,8 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QPointer>
+
+#include <algorithm>
 
 using namespace std::chrono_literals;
 
@@ -22,16 +23,23 @@ constexpr qint64 noteLimitBytes = 64;
 constexpr auto freshTime = 1s;
 constexpr auto graceTime = 1500ms;
 
-std::optional<KillSwitch> freshNote(const QString &path)
+// The watcher's last note. It goes with the session, and with a restart of the computer.
+struct Note {
+    std::optional<KillSwitch> rules; // absent: no note, or nonsense
+    QDateTime written;               // UTC; now without a note
+    bool isFresh = false;
+};
+
+Note lastNote(const QString &path)
 {
+    const QDateTime now = QDateTime::currentDateTimeUtc();
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    const std::chrono::milliseconds age(
-        file.fileTime(QFileDevice::FileModificationTime).msecsTo(QDateTime::currentDateTimeUtc()));
-    if (age < -freshTime || age > freshTime)
-        return std::nullopt;
-    return KillSwitch::parse(file.read(noteLimitBytes));
+        return {std::nullopt, now};
+    const QDateTime written = file.fileTime(QFileDevice::FileModificationTime).toUTC();
+    const std::chrono::milliseconds age(written.msecsTo(now));
+    return {KillSwitch::parse(file.read(noteLimitBytes)), std::min(written, now),
+            age >= -freshTime && age <= freshTime};
 }
 
 bool isOneOf(const std::optional<KillSwitch> &rules, State state)
@@ -44,24 +52,30 @@ bool isOneOf(const std::optional<KillSwitch> &rules, State state)
 std::optional<KillSwitch> TorController::judgedKillSwitch()
 {
     const auto &before = killSwitch();
-    const auto since = [&before](State state) {
-        return isOneOf(before, state)
-            ? *before
-            : KillSwitch{state, before ? before->missed : 0, QDateTime::currentDateTimeUtc()};
+    const auto since = [&before](State state, const QDateTime &time) {
+        return isOneOf(before, state) ? *before
+                                      : KillSwitch{state, before ? before->missed : 0, time};
     };
     if (markedMode() != RoutingMode::strict) {
         // The network was opened from outside under a strict session.
         const bool wasStrict = phase() == ConnectionPhase::connected
             && activeMode() == RoutingMode::strict;
-        return wasStrict ? std::optional(since(State::open)) : std::nullopt;
+        return wasStrict ? std::optional(since(State::open, QDateTime::currentDateTimeUtc()))
+                         : std::nullopt;
     }
-    if (const auto note = freshNote(m_services.profile.killSwitchNote)) {
+    const Note note = lastNote(m_services.profile.killSwitchNote);
+    if (note.isFresh && note.rules) {
         m_killSwitchSeen = m_services.clock.now();
-        return note;
+        return note.rules;
     }
-    // An open kill switch counts as open until the watcher reports it closed.
+    // An open kill switch counts as open until the watcher reports it closed, also for a program
+    // that begins to look only now.
+    if (isOneOf(note.rules, State::open))
+        return note.rules;
     const bool isRecent = before && m_services.clock.now() - m_killSwitchSeen < graceTime;
-    return isRecent || isOneOf(before, State::open) ? before : std::optional(since(State::unknown));
+    return isRecent || isOneOf(before, State::open)
+        ? before
+        : std::optional(since(State::unknown, note.written));
 }
 
 LeakStatus TorController::believable(const LeakStatus &found) const
@@ -102,8 +116,7 @@ std::optional<Text> TorController::killSwitchMessage() const
             "may leave this computer directly. Disconnect and connect again.");
     case State::unknown:
         return Text::tr(
-            "The watcher over Veldmark's firewall rules has stopped telling, so it isn't known whether "
-            "the kill switch stands. Disconnect and connect again.");
+            "The watcher of Veldmark's firewall rules has stopped reporting, so it isn't known whether the kill switch blocks traffic. Disconnect and connect again.");
     case State::standing:
         break;
     }
@@ -121,31 +134,27 @@ Text TorController::deathMessage() const
     case State::standing:
         if (hasLeaked)
             return Text::tr(
-                "Tor stopped running. The kill switch is still blocking traffic, but the last checks have seen some go "
-                "around Tor. Reconnect, or Restore Network to go back online.");
+                "Tor stopped running. The kill switch is still blocking traffic, but the last checks saw traffic go around Tor. Reconnect, or Restore Network to go online without Tor.");
         return Text::tr(
             "Tor stopped running. The kill switch is still blocking traffic, so nothing "
             "leaked. Reconnect, or Restore Network to go back online.");
     case State::putBack:
         return Text::tr(
-            "Tor stopped running. The kill switch is blocking traffic again, but another program had "
-            "removed its rules for a while. Reconnect, or Restore Network to go back online.");
+            "Tor stopped running. The kill switch is blocking traffic again, but another program had removed its rules for a while. Reconnect, or Restore Network to go online without Tor.");
     case State::open:
         return Text::tr(
-            "Tor stopped running, and the kill switch is open: another program removed its rules. Traffic "
-            "may leave this computer directly. Reconnect, or Restore Network.");
+            "Tor stopped running, and the kill switch doesn't block traffic: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.");
     case State::unknown:
         break;
     }
     return Text::tr(
-        "Tor stopped running, and it isn't known whether the kill switch is still blocking traffic. "
-        "Reconnect, or Restore Network to go back online.");
+        "Tor stopped running, and it isn't known whether the kill switch is still blocking traffic. Reconnect, or Restore Network to go online without Tor.");
 }
 
 void TorController::startKillSwitchWatch()
 {
     lookAtKillSwitch();
-    watchKillSwitch(++m_killSwitchWatch);
+    watchKillSwitch(next(&TorController::m_killSwitchWatch));
 }
 
 void TorController::forgetKillSwitch()
@@ -157,12 +166,11 @@ void TorController::forgetKillSwitch()
     m_torStopped = false;
 }
 
-QCoro::Task<void> TorController::watchKillSwitch(quint64 run)
+QCoro::Task<void> TorController::watchKillSwitch(Run run)
 {
-    const QPointer<TorController> self(this);
     for (;;) {
         co_await m_services.clock.sleep(lookInterval);
-        if (!self || run != m_killSwitchWatch)
+        if (run.isOver())
             co_return;
         // Another process has restored the network.
         if (phase() == ConnectionPhase::stale && !isSessionMarkerPresent()) {
@@ -178,7 +186,7 @@ QCoro::Task<void> TorController::watchKillSwitch(quint64 run)
         }
         if (phase() == ConnectionPhase::connected && isSessionMarkerPresent())
             lookAtSession(); // the marker may be another session's
-        if (!self || run != m_killSwitchWatch)
+        if (run.isOver())
             co_return;
         lookAtKillSwitch();
     }

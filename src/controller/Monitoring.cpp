@@ -8,6 +8,7 @@
 
 #include <QPointer>
 
+#include <algorithm>
 #include <utility>
 
 using namespace std::chrono_literals;
@@ -23,27 +24,12 @@ constexpr int failuresUntilDead = 3;
 
 // The banner while this state lasts.
 const Text offlineText = Text::tr(
-    "Tor hasn't confirmed that it is on the network again, so nothing may get through. Veldmark goes on "
-    "telling it to; else disconnect and connect again.");
+    "Tor hasn't confirmed that it uses the network again, so traffic may not get through. Veldmark keeps telling Tor to. If this lasts, disconnect and connect again.");
 const QString readKey = QStringLiteral("traffic/read");
 const QString writtenKey = QStringLiteral("traffic/written");
 const QString establishedKey = QStringLiteral("status/circuit-established");
 
 } // namespace
-
-TorController::Attempt TorController::startAttempt()
-{
-    isChecking = false;
-    isOptimizing = false;
-    m_isSettlingIn = false;
-    optimizeStatus = std::nullopt;
-    if (leakStatus().kind() == LeakStatus::Kind::checking)
-        leakStatus = leakStatus().isExposed() ? LeakStatus::exposed(leakStatus().address())
-                                              : LeakStatus::notTested();
-    if (dnsStatus().kind() == DNSStatus::Kind::checking)
-        dnsStatus = DNSStatus::unknown();
-    return ++m_attempt;
-}
 
 std::optional<Text> TorController::failure() const
 {
@@ -53,7 +39,7 @@ std::optional<Text> TorController::failure() const
 
 void TorController::startMonitoring()
 {
-    monitor(++m_monitor);
+    monitor(next(&TorController::m_monitor));
 }
 
 void TorController::stopMonitoring()
@@ -75,14 +61,19 @@ void TorController::lookAtTraffic(std::optional<bool> hasCircuit)
          .hasCircuit = hasCircuit,
          .hasRoute = route.has_value(),
          .isInVPN = activeMode() == RoutingMode::strict && route && route->isVPN});
-    // Read only now: while traffic gets through, no firewall denies it.
-    QStringList others = found && found != TrafficWatch::Stall::noNetwork
+    QStringList others = found != TrafficWatch::Stall::noNetwork
         ? OtherFirewalls::denying(m_services.profile)
         : QStringList();
     others.removeIf([this](const QString &name) { return m_network.passed.contains(name); });
-    if (!others.isEmpty())
+    if (!found)
+        askPast(others);
+    else
+        m_network.isDenied = false;
+    m_network.others = others;
+    // While traffic gets through, no firewall denies it.
+    denyingFirewalls = found || m_network.isDenied ? others : QStringList();
+    if (!denyingFirewalls().isEmpty())
         found = TrafficWatch::Stall::firewall;
-    denyingFirewalls = others;
     stall = found;
     if (!wasStalled && stall())
         forgetExit(); // another exit may be in use when traffic flows again
@@ -92,9 +83,27 @@ void TorController::lookAtTraffic(std::optional<bool> hasCircuit)
     }
 }
 
-QCoro::Task<void> TorController::monitor(quint64 run)
+// Tor with nothing to send does not notice that no new connection is possible. When a firewall
+// begins to deny, an answer through Tor is asked for.
+void TorController::askPast(const QStringList &others)
 {
-    const QPointer<TorController> self(this);
+    const bool begins = std::any_of(others.begin(), others.end(), [this](const QString &name) {
+        return !m_network.others.contains(name);
+    });
+    if (others.isEmpty() || exitIP())
+        m_network.isDenied = false;
+    else if (!begins && !isChecking() && torVerified() == false)
+        m_network.isDenied = true;
+    if (begins)
+        forgetExit();
+    if (begins || (m_network.isDenied && ++m_network.deniedLooks >= ticksPerDNSCheck)) {
+        m_network.deniedLooks = 0;
+        checkExit();
+    }
+}
+
+QCoro::Task<void> TorController::monitor(Run run)
+{
     const QStringList keys = {readKey, writtenKey, establishedKey};
     // Tor closes its connections and opens new ones. Otherwise it would use connections of a lost
     // address for minutes.
@@ -104,7 +113,7 @@ QCoro::Task<void> TorController::monitor(quint64 run)
     int failures = 0;
     for (;;) {
         co_await m_services.clock.sleep(monitorInterval);
-        if (!self || run != m_monitor)
+        if (run.isOver())
             co_return;
         if (phase() != ConnectionPhase::connected || !m_controlPassword)
             continue;
@@ -115,7 +124,7 @@ QCoro::Task<void> TorController::monitor(quint64 run)
                 forgetExit(); // the verified exit belonged to the old connections
             const auto replies = co_await m_services.controlPort.batch(
                 isStale ? beginAnew : goOn, *m_controlPassword, counterReadLimit);
-            if (!self || run != m_monitor)
+            if (run.isOver())
                 co_return;
             m_network.mayBeOffline = !replies || !replies->back(); // no answer, or Tor refused
             if (m_network.mayBeOffline)
@@ -128,12 +137,12 @@ QCoro::Task<void> TorController::monitor(quint64 run)
         }
         if (++tick % ticksPerDNSCheck == 0) {
             co_await checkDNS(false);
-            if (!self || run != m_monitor)
+            if (run.isOver())
                 co_return;
         }
         const auto counters = co_await m_services.controlPort.getInfo(keys, *m_controlPassword,
                                                                       counterReadLimit);
-        if (!self || run != m_monitor)
+        if (run.isOver())
             co_return;
         if (counters) {
             failures = 0;
@@ -164,25 +173,6 @@ void TorController::wake()
     forgetExit();
 }
 
-void TorController::torDied()
-{
-    startAttempt(); // running checks belong to a session that is over
-    stopMonitoring();
-    if (!isSessionMarkerPresent()) { // the network was restored from outside
-        errorMessage = Text::tr(
-            "Tor stopped running, and your network is no longer set up for it.");
-        endSession();
-        return;
-    }
-    m_torStopped = true;
-    lookAtKillSwitch(); // the message below must describe the rules as they are now
-    statusDetail = Text::tr("Tor stopped running");
-    errorMessage = m_killSwitchMessage = deathMessage();
-    phase = ConnectionPhase::stale;
-    // Tor may have ended because another process's session has replaced this one.
-    lookAtSession();
-}
-
 QCoro::Task<TorController::TimedProbe> TorController::timedViaTor()
 {
     const QPointer<TorController> self(this);
@@ -198,8 +188,7 @@ QCoro::Task<void> TorController::runChecks()
 {
     if (phase() != ConnectionPhase::connected || isChecking())
         co_return;
-    const QPointer<TorController> self(this);
-    const Attempt attempt = m_attempt;
+    const Run attempt = current(&TorController::m_attempt);
     isChecking = true;
     leakStatus = LeakStatus::checkingAfter(leakStatus());
     lookAtKillSwitch();
@@ -212,19 +201,19 @@ QCoro::Task<void> TorController::runChecks()
     TimedProbe tor{};
     if (!together) {
         tor = co_await throughTor;
-        if (!self || !isCurrent(attempt))
+        if (attempt.isOver())
             co_return;
     }
     auto aroundTor = m_services.probe.direct();
     if (together)
         tor = co_await throughTor;
     const ProbeResult direct = co_await aroundTor;
-    if (!self || !isCurrent(attempt))
+    if (attempt.isOver())
         co_return;                   // the session ended meanwhile: its results are stale
     while (identity != m_identity) { // new circuits meanwhile: the answer was of the old exit
         identity = m_identity;
         const TimedProbe again = co_await timedViaTor();
-        if (!self || !isCurrent(attempt))
+        if (attempt.isOver())
             co_return;
         tor = again;
     }
@@ -235,7 +224,7 @@ QCoro::Task<void> TorController::runChecks()
     lookAtKillSwitch(); // when the rules are gone, silence does not prove blocking
     leakStatus = believable(verdict.leakStatus);
     co_await checkDNS(true);
-    if (!self || !isCurrent(attempt))
+    if (attempt.isOver())
         co_return;
     isChecking = false;
     if (identity != m_identity) // new circuits during the DNS test
@@ -253,12 +242,11 @@ QCoro::Task<void> TorController::checkExit()
 {
     if (phase() != ConnectionPhase::connected || isChecking())
         co_return; // the running checks ask again by themselves
-    const QPointer<TorController> self(this);
-    const Attempt attempt = m_attempt;
+    const Run attempt = current(&TorController::m_attempt);
     isChecking = true;
     for (quint64 identity = m_identity;; identity = m_identity) {
         const TimedProbe tor = co_await timedViaTor();
-        if (!self || !isCurrent(attempt))
+        if (attempt.isOver())
             co_return;
         if (identity == m_identity) {
             showExit(tor.answer);

@@ -47,6 +47,9 @@ QJsonObject publishedState(const TorController &controller)
         state.insert(controller.isChecking.name(), false);
         state.insert(controller.isOptimizing.name(), false);
     }
+    // After a failed bootstrap the reason belongs to the banner, and goes with it.
+    if (controller.phase() != ConnectionPhase::connecting)
+        state.insert(controller.bootstrapProblem.name(), json(controller.problemBehindError()));
     const Verdict verdict = controller.verdict();
     // A known danger replaces the progress line.
     state.insert(controller.statusDetail.name(), json(verdict.detail));

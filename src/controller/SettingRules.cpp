@@ -30,7 +30,7 @@ std::optional<Text> lock(const TorController &controller, const Field &setting)
 {
     if (!controller.optionsLocked() || !setting.setting()->isOfConnection)
         return std::nullopt;
-    return Text::tr("\"%1\" holds for the whole connection. Disconnect to change it.")
+    return Text::tr("\"%1\" can't be changed during a connection. Disconnect to change it.")
         .arg(setting.name());
 }
 
@@ -39,7 +39,7 @@ std::optional<Text> torPathProblem(const QString &path)
     const QString place = path.trimmed();
     if (place.isEmpty() || place.startsWith(u'/'))
         return std::nullopt;
-    return Text::tr("\"%1\" is no place for Tor: give the whole path, such as /usr/bin/tor.")
+    return Text::tr("\"%1\" is not a location of Tor. Give an absolute path, such as /usr/bin/tor.")
         .arg(inOneLine(place));
 }
 
@@ -65,8 +65,8 @@ Result<void, SettingError> change(TorController &controller, Setting<QString> &s
 {
     if (&setting == &controller.exitCountry && !ExitCountry::isValid(value))
         return refusal(
-            Text::tr("\"%1\" is no exit country: two lower-case letters such as \"de\", or nothing "
-                     "for any.")
+            Text::tr(
+                "\"%1\" is not an exit country: two lower-case letters such as \"de\", or nothing for any.")
                 .arg(inOneLine(value)));
     if (&setting == &controller.customTorPath) {
         if (const auto problem = torPathProblem(value))
@@ -82,8 +82,9 @@ Result<void, SettingError> change(TorController &controller, Setting<QStringList
         value.begin(), value.end(),
         [&controller](const QString &path) { return controller.isApplication(path); });
     if (odd != value.end())
-        return refusal(Text::tr("\"%1\" is no application: an absolute path that ends in \"%2\".")
-                           .arg(inOneLine(*odd), controller.profile().applicationSuffix));
+        return refusal(
+            Text::tr("\"%1\" is not an application: an absolute path that ends in \"%2\".")
+                .arg(inOneLine(*odd), controller.profile().applicationSuffix));
     return store(controller, setting, controller.sortedByName(value));
 }
 

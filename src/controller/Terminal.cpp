@@ -17,13 +17,13 @@ void TorController::applyTerminalMode()
 {
     const TerminalIntegration &terminal = m_services.terminal;
     terminalError = std::nullopt;
-    ++m_terminalRun;
+    const Run run = next(&TorController::m_terminalRun);
     if (terminalMode()) {
         // Finding what ssh can use starts programs. The shells do not wait for that.
         const bool isKnown = terminal.knowsSocksCommand();
         showTerminalProblem(isKnown ? terminal.install() : terminal.installForShells());
         if (!isKnown && !terminalError())
-            installForSsh(m_terminalRun);
+            installForSsh(run);
     }
     askTerminalHint();
     setShellsActive(terminalMode() && phase() == ConnectionPhase::connected);
@@ -45,12 +45,11 @@ void TorController::showTerminalProblem(const Result<void, TerminalError> &insta
             = Text::tr("Couldn't set up terminal mode: %1").arg(installed.error().description());
 }
 
-QCoro::Task<void> TorController::installForSsh(quint64 run)
+QCoro::Task<void> TorController::installForSsh(Run run)
 {
-    const QPointer<TorController> self(this);
     auto asking = m_services.terminal.askForSocksCommand();
     co_await asking;
-    if (!self || run != m_terminalRun || !m_services.terminal.knowsSocksCommand())
+    if (run.isOver() || !m_services.terminal.knowsSocksCommand())
         co_return;
     showTerminalProblem(m_services.terminal.install());
 }

@@ -19,7 +19,8 @@ TorController::TorController(const Services &services, QObject *parent)
 
 TorController::~TorController()
 {
-    endFixWaits();
+    endWaits(m_fixWaiters);
+    endWaits(m_restoreWaiters);
     if (m_downloadWait)
         m_downloadWait->complete(false);
 }

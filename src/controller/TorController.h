@@ -27,6 +27,7 @@
 #include "system/SessionOwner.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 
 #include <qcorotask.h>
@@ -106,16 +107,16 @@ public:
 
     // --- The user's settings; each `set` is stored at once. ---
     Setting<bool> strictMode{this, "strictMode", Scope::connection,
-                             Text::tr("the kill switch, else proxy mode"), true};
+                             Text::tr("strict mode with the kill switch, else proxy mode"), true};
     Setting<bool> allowLocalNetwork{this, "allowLocalNetwork", Scope::connection,
                                     Text::tr("strict mode lets the local network through"), true};
     Setting<bool> separateApps{this, "separateApps", Scope::connection,
                                Text::tr("each application has circuits of its own"), true};
     Setting<QString> exitCountry{this, "exitCountry", Scope::connection,
                                  Text::tr("two lower-case letters, or nothing for any"), QString()};
-    Setting<QString> customTorPath{this, "customTorPath", Scope::connection,
-                                   Text::tr("the tor to use, or nothing to search for it"),
-                                   QString()};
+    Setting<QString> customTorPath{
+        this, "customTorPath", Scope::connection,
+        Text::tr("the path of the tor to use, or nothing to search for tor"), QString()};
     Setting<BridgeChoice> bridgeChoice{this, "bridgeChoice", Scope::connection,
                                        Text::tr("which bridges"), BridgeChoice::off};
     Setting<QString> customBridges{this, "customBridges", Scope::connection,
@@ -210,6 +211,9 @@ public:
     // later operation replaced it. If another process's session has replaced this one's, the first
     // call shows that session and does not end it.
     QCoro::Task<Result<void, Text>> disconnect();
+    // What a user means by "restore": waits for a running disconnect, looks for a session, and
+    // disconnects it. Succeeds when none is left. Errors like disconnect()'s.
+    QCoro::Task<Result<void, Text>> restore();
     // At start-up, before any view shows state: finds a session left over from an earlier run.
     void detectStaleState();
     // Shows the computer's session as it is now. Called when another process may have begun,
@@ -296,54 +300,86 @@ public:
     static BootstrapStatus parseBootstrap(const QString &reply);
 
 private:
-    using Attempt = quint64;
     // A request through Tor that took this long or longer is slow; 1500 ms still counts as fast.
     static constexpr qint64 slowPathMs = 1501;
 
+    // What a coroutine keeps across its waits: the value that a counter had when it began. It is
+    // over when that counter has moved on or the controller is gone. The coroutine then returns
+    // without touching a member.
+    class Run {
+    public:
+        Run(const TorController &controller, quint64 TorController::*counter)
+            : m_controller(&controller),
+              m_counter(counter),
+              m_number(controller.*counter)
+        {
+        }
+        bool isOver() const { return !m_controller || m_controller->*m_counter != m_number; }
+
+    private:
+        QPointer<const TorController> m_controller;
+        quint64 TorController::*m_counter;
+        quint64 m_number;
+    };
+    Run current(quint64 TorController::*counter) const { return {*this, counter}; }
+    // Ends the earlier runs of this counter.
+    Run next(quint64 TorController::*counter)
+    {
+        ++(this->*counter);
+        return current(counter);
+    }
+
+    // Phases.cpp: the only source that sets `phase`.
+    void enter(ConnectionPhase next);
+    static void endWaits(std::vector<ResumeOnce<bool>> &waiters);
+    void enterConnecting();
+    void enterConnected();
+    void enterDisconnecting();
+    void failBootstrap(const Text &reason);
+    // Ends every running operation and clears the fields that it left set.
+    Run startAttempt();
+    void failAttempt(const Text &message);
+    void failAtHelper(const HelperError &error);
+    void settleAfterFailure();
+    void torDied();
+    // Clears everything about the session.
+    void endSession();
+    void resetSessionInfo();
+    // The next Tor numbers its circuits from 1 again.
+    void forgetCircuits();
+    // The mode that the session marker names; absent when there is none.
+    std::optional<RoutingMode> markedMode() const;
+    // Another process has replaced this process's session. Absent owner: a left-over session.
+    void giveUpTo(const std::optional<SessionOwner> &other);
+    void showSessionOf(const std::optional<SessionOwner> &other);
+    Text leftOverDetail() const;
+    Text replacedText() const; // needs `otherSession`
+
     // Connect.cpp
     // Asks the administrator to approve each of these programs.
-    QCoro::Task<Result<void, HelperError>> approve(Attempt attempt,
+    QCoro::Task<Result<void, HelperError>> approve(Run attempt,
                                                    std::vector<ProgramApproval> programs);
     std::vector<ProgramApproval> unapproved(const QStringList &words) const;
     std::vector<ProgramApproval> namedPrograms(const QStringList &words) const;
     // Runs the helper's connect with the approvals that root needs for the programs in these words.
     // The result is unused once the attempt is old.
-    QCoro::Task<Result<void, HelperError>> runConnect(Attempt attempt, QStringList words);
-    void failAtHelper(const HelperError &error);
-    QCoro::Task<Result<QStringList, Text>> bridgeArguments(Attempt attempt, BridgeRequest request);
-    // Makes every running operation an old one and clears the fields that it left set.
-    Attempt startAttempt();
-    bool isCurrent(Attempt attempt) const { return attempt == m_attempt; }
-    void resetSessionInfo();
-    // Forgets the circuits: the next Tor numbers its circuits from 1 again.
-    void forgetCircuits();
-    // Clears everything about the session and sets the phase `disconnected`.
-    void endSession();
-    void settleAfterFailure();
+    QCoro::Task<Result<void, HelperError>> runConnect(Run attempt, QStringList words);
+    QCoro::Task<Result<QStringList, Text>> bridgeArguments(Run attempt, BridgeRequest request);
     // Runs after a connect: the checks, then the optimisation of a slow path when the user wants
     // it.
-    QCoro::Task<void> settleIn(Attempt attempt);
-    // The mode that the session marker names; absent when there is none.
-    std::optional<RoutingMode> markedMode() const;
-    Text connectedDetail() const;
-    Text leftOverDetail() const;
-    void failAttempt(const Text &message);
+    QCoro::Task<void> settleIn(Run attempt);
     // Bootstrap.cpp
-    QCoro::Task<Result<void, Text>> waitForBootstrap(Attempt attempt);
+    QCoro::Task<Result<void, Text>> waitForBootstrap(Run attempt);
     // `waited`: time since Tor's first answer.
     std::optional<Text> problemBehind(const BootstrapStatus &status,
                                       std::chrono::nanoseconds waited) const;
     // Monitoring.cpp
     void startMonitoring();
     void stopMonitoring();
-    QCoro::Task<void> monitor(quint64 run);
+    QCoro::Task<void> monitor(Run run);
     // Judges the traffic by the counters and by Tor's report on its circuits.
     void lookAtTraffic(std::optional<bool> hasCircuit);
-    void torDied();
-    void giveUpTo(const std::optional<SessionOwner> &other);
-    Text replacedText() const; // needs `otherSession`
-    // Absent owner: a left-over session.
-    void showSessionOf(const std::optional<SessionOwner> &other);
+    void askPast(const QStringList &others);
     struct TimedProbe {
         ProbeResult answer;
         std::chrono::milliseconds elapsed; // also without an answer
@@ -358,7 +394,7 @@ private:
     void startKillSwitchWatch();
     void stopKillSwitchWatch() { ++m_killSwitchWatch; }
     void forgetKillSwitch();
-    QCoro::Task<void> watchKillSwitch(quint64 run);
+    QCoro::Task<void> watchKillSwitch(Run run);
     std::optional<KillSwitch> judgedKillSwitch(); // reads the watcher's note and the marker
     std::optional<Text> killSwitchMessage() const;
     Text deathMessage() const;
@@ -367,8 +403,7 @@ private:
     void forgetExit();
     void showExit(const ProbeResult &answer);
     // DNS.cpp
-    QCoro::Task<void> repairDNS(Attempt attempt);
-    void endFixWaits();
+    QCoro::Task<void> repairDNS(Run attempt);
     // BypassApps.cpp
     QString displayedName(const QString &path) const;
     QCoro::Task<Result<void, Text>> launchOnce(QString path);
@@ -377,7 +412,7 @@ private:
         std::vector<RelayInfo> relays;
         bool isComplete = false; // else asked again at the next refresh
     };
-    QCoro::Task<Resolution> resolveRelays(std::vector<RelayInfo> relays, Attempt attempt);
+    QCoro::Task<Resolution> resolveRelays(std::vector<RelayInfo> relays, Run attempt);
     // Transports.cpp
     QCoro::Task<TransportDownloader::Outcome> fetchTransports();
     void interruptDirectDownload();
@@ -390,10 +425,10 @@ private:
     void applyTerminalMode();
     void setShellsActive(bool on);
     void showTerminalProblem(const Result<void, TerminalError> &installed);
-    QCoro::Task<void> installForSsh(quint64 run);
+    QCoro::Task<void> installForSsh(Run run);
 
     Services m_services;
-    Attempt m_attempt = 0;     // the running connect or disconnect; older ones end silently
+    quint64 m_attempt = 0;     // the running connect or disconnect; older ones end silently
     quint64 m_monitor = 0;     // the running monitor loop
     quint64 m_terminalRun = 0; // the run that last applied terminal mode
     std::optional<QString> m_controlPassword;       // of the running session; only in memory
@@ -406,7 +441,8 @@ private:
     std::optional<ResumeOnce<bool>> m_downloadWait; // for the end of that connect
     quint64 m_transportSearch = 0;                  // the last search that began
     quint64 m_shownSearch = 0;                      // the search that `transports` is from
-    std::optional<Attempt> m_fixedAttempt;          // the attempt whose fixDNS() runs
+    std::vector<ResumeOnce<bool>> m_restoreWaiters; // for the end of a running disconnect
+    std::optional<quint64> m_fixedAttempt;          // the m_attempt whose fixDNS() runs
     std::vector<ResumeOnce<bool>> m_fixWaiters;     // later calls of the same session
     quint64 m_killSwitchWatch = 0;                  // the running watch
     std::optional<KillSwitch> m_knownKillSwitch;    // as last told in this session
@@ -422,6 +458,10 @@ private:
         OwnAddresses addresses;
         TrafficWatch traffic;
         QStringList passed; // firewalls that let Tor connect nevertheless
+        QStringList others; // the further ones that deny outgoing traffic, at the last look
+        // No answer came through Tor since they began, although Tor itself reports nothing.
+        bool isDenied = false;
+        int deniedLooks = 0; // since the last such question
     } m_network;
     bool m_dnsLiveVerified = false; // a live DNS check passed in this session
     bool m_isSettlingIn = false;    // settleIn() is under way

@@ -7,7 +7,8 @@
 // `machine`.
 namespace veldmark::Doctor {
 
-Findings torFindings(const Machine &machine);     // Programs.cpp: tor, its version
+Findings torFindings(const Machine &machine);  // Programs.cpp: tor, its version, its approval
+Findings exitFindings(const Machine &machine); // Settings' exit country; nothing when it is valid
 Findings programFindings(const Machine &machine); // the other programs that the helper calls
 Findings helperFindings(const Machine &machine);  // the helper: present, owned by root, current
 Findings bridgeFindings(const Machine &machine);  // the chosen bridges and the programs for them

@@ -52,8 +52,7 @@ Findings clockFindings(const Machine &machine)
     return {
         {clockName, Level::unknown,
          Text::tr(
-             "Whether the clock is right isn't known: nothing is seen to set it from the network. It shows %1. Tor needs it "
-             "right to within minutes.")
+             "It isn't known whether the clock is right: no time service seems to set it. It shows %1. Tor needs it right to within minutes.")
              .arg(shown(machine.now)),
          setting}};
 }

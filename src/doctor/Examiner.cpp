@@ -66,6 +66,7 @@ QCoro::Task<Findings> Examiner::examine()
     Machine machine;
     machine.profile = m_profile;
     machine.customTor = m_settings.string(QStringLiteral("customTorPath"));
+    machine.exitCountry = m_settings.string(QStringLiteral("exitCountry"));
     machine.bridges = {bridgeChoiceFromRawValue(m_settings.string(QStringLiteral("bridgeChoice")))
                            .value_or(BridgeChoice::off),
                        m_settings.string(QStringLiteral("customBridges")), false};

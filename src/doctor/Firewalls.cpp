@@ -73,14 +73,14 @@ Finding nftables(const Machine &machine)
         return {
             nftablesName, Level::problem,
             Text::tr(
-                "The kernel that runs (%1) has no nftables. After an upgrade of the kernel, restart the computer.")
+                "The running kernel (%1) has no nftables. After an upgrade of the kernel, restart the computer.")
                 .arg(kernel(machine)),
             QStringLiteral("sudo reboot")};
     if (!hasTables)
         return {
             nftablesName, Level::unknown,
             Text::tr(
-                "nftables is installed. Whether the kernel that runs can use it is known to root only."),
+                "nftables is installed. Only root can tell whether the running kernel can use it."),
             QStringLiteral("sudo nft list tables")};
     return {
         nftablesName, Level::good, Text::tr("nftables is installed, and the kernel has it."), {}};
@@ -148,16 +148,14 @@ Findings firewallFindings(const Machine &machine)
         findings.push_back(
             {firewallsName, Level::problem,
              Text::tr(
-                 "Another firewall on this computer denies what goes out, and none of its rules allows anything, "
-                 "so Tor can't get through: %1.")
+                 "Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can't get through: %1.")
                  .arg(ufw),
              QStringLiteral("sudo ufw default allow outgoing")});
     else if (!denying.isEmpty())
         findings.push_back(
             {firewallsName, Level::unknown,
              Text::tr(
-                 "Another firewall on this computer denies what goes out unless one of its rules allows it, "
-                 "so Tor may not get through: %1.")
+                 "Another firewall on this computer blocks outgoing traffic that its rules don't allow, so Tor may not get through: %1.")
                  .arg(denying.join(QStringLiteral(", "))),
              denying.first() == ufw ? QStringLiteral("sudo ufw default allow outgoing")
                                     : QStringLiteral("sudo nft list ruleset"),
@@ -167,7 +165,7 @@ Findings firewallFindings(const Machine &machine)
             {firewallsName,
              Level::good,
              Text::tr(
-                 "No other firewall that is known by name runs. The rules themselves are known to root only."),
+                 "No other firewall that Veldmark knows runs. Only root can read the rules themselves."),
              {}});
     else
         findings.push_back(

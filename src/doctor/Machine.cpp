@@ -68,6 +68,8 @@ QString Machine::program(const QString &name) const
 QString Machine::tor() const
 {
     const QString custom = customTor.trimmed();
+    if (!custom.isEmpty() && !custom.startsWith(u'/'))
+        return {}; // a connect refuses this path, so no other tor is used instead
     if (!custom.isEmpty() && isProgram(custom))
         return custom;
     for (const QString &candidate : profile.torCandidates)

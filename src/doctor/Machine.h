@@ -26,6 +26,7 @@ struct FileOwner {
 struct Machine {
     PlatformProfile profile;
     QString customTor;              // the location of tor in the settings; empty: the usual places
+    QString exitCountry;            // in the settings; empty: any
     BridgeRequest bridges;          // the choice in the settings
     PluggableTransports transports; // the transports found
 

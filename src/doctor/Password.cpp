@@ -79,15 +79,15 @@ Finding polkit(const Machine &machine, Level otherwise)
         return {
             polkitName, otherwise == Level::problem ? Level::unknown : otherwise,
             Text::tr(
-                "No program that is known to ask for polkit's passwords (an agent) runs in your session. Without one, use "
-                "sudo, or start an agent such as lxpolkit."),
+                "No known polkit agent, the program that asks for the password, runs in your session. Use sudo, or start an agent such as lxpolkit."),
             otherwise == Level::problem ? machine.installing(QStringLiteral("lxpolkit"))
                                         : throughSudo};
-    return {polkitName,
-            Level::good,
-            Text::tr(
-                "polkit is there, and a program that asks for its passwords runs in your session."),
-            {}};
+    return {
+        polkitName,
+        Level::good,
+        Text::tr(
+            "polkit is installed, and an agent that asks for the password runs in your session."),
+        {}};
 }
 
 } // namespace
@@ -108,20 +108,18 @@ Findings passwordFindings(const Machine &machine)
     const bool hasOtherWay = hasSudo || machine.isPasswordless();
     Findings findings;
     if (hasSudo && machine.isPasswordless())
-        findings.push_back(
-            {polkitName, Level::good, Text::tr("Connecting without a password is set up."), {}});
+        findings.push_back({polkitName, Level::good, Text::tr("Passwordless mode is set up."), {}});
     else
         findings.push_back(polkit(machine, hasOtherWay ? Level::note : Level::problem));
     if (!hasSudo)
         findings.push_back(
-            {sudoName, Level::note,
-             Text::tr("sudo isn't installed. Connecting without a password needs it."),
+            {sudoName, Level::note, Text::tr("sudo isn't installed. Passwordless mode needs it."),
              installing.isEmpty() ? QString()
                                   : QStringLiteral("su -c '%1'").arg(installing.mid(5))});
     else if (group.isEmpty())
         findings.push_back(
             {sudoName, Level::unknown,
-             Text::tr("sudo is installed. Whether you may use it is known to root only."),
+             Text::tr("sudo is installed. Only root can tell whether you may use it."),
              QStringLiteral("sudo -v")});
     else
         findings.push_back({sudoName,

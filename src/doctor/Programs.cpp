@@ -15,6 +15,7 @@ using Level = Finding::Level;
 using Button = Finding::Button;
 
 const QString torName = QStringLiteral("tor");
+const QString exitName = QStringLiteral("exit");
 const QString programsName = QStringLiteral("programs");
 const QString helperName = QStringLiteral("helper");
 const QString bridgesName = QStringLiteral("bridges");
@@ -82,6 +83,19 @@ std::vector<ProgramApproval> unapproved(const Machine &machine, const QStringLis
     return programs;
 }
 
+// What a connect would ask an administrator to approve by name.
+void addApprovals(Findings &findings, const QString &name, const Machine &machine,
+                  const QStringList &arguments)
+{
+    for (const ProgramApproval &program : unapproved(machine, arguments))
+        findings.push_back({name,
+                            Level::note,
+                            Text::tr("No package of the system installed %1. The next connect asks "
+                                     "an administrator to approve it.")
+                                .arg(program.path),
+                            {}});
+}
+
 } // namespace
 
 Findings torFindings(const Machine &machine)
@@ -90,12 +104,18 @@ Findings torFindings(const Machine &machine)
     const QString tor = machine.tor();
     const QString custom = machine.customTor.trimmed();
     const QString usual = QStringLiteral("veldmarkctl set customTorPath \"\"");
+    if (!custom.isEmpty() && !custom.startsWith(u'/')) // a connect uses no other tor instead
+        return {
+            {torName, Level::problem,
+             Text::tr(
+                 "\"%1\" is not a location of Tor. Give an absolute path, such as /usr/bin/tor.")
+                 .arg(custom.simplified()),
+             usual}};
     if (!custom.isEmpty() && custom != tor)
         findings.push_back(
             {torName, Level::note,
              Text::tr(
-                 "The location of Tor in the settings, %1, is no program that can run. The usual "
-                 "places are searched instead.")
+                 "The location of Tor in the settings, %1, is not an executable program. Veldmark searches the usual places instead.")
                  .arg(custom),
              usual});
     if (tor.isEmpty()) {
@@ -108,12 +128,23 @@ Findings torFindings(const Machine &machine)
     if (version.isEmpty())
         findings.push_back(
             {torName, Level::problem,
-             Text::tr("%1 doesn't start, or isn't Tor: it doesn't tell its version.").arg(tor),
+             Text::tr("%1 doesn't start, or isn't Tor: it prints no version.").arg(tor),
              tor == custom ? usual : machine.installing(QStringLiteral("--reinstall tor"))});
     else // each connect asks tor itself whether it accepts the configuration
         findings.push_back(
             {torName, Level::good, Text::tr("Tor %1 is installed: %2.").arg(version, tor), {}});
+    addApprovals(findings, torName, machine, {QStringLiteral("--tor"), tor});
     return findings;
+}
+
+// The windows and veldmarkctl set only valid ones; the settings' file may have another.
+Findings exitFindings(const Machine &machine)
+{
+    static const QRegularExpression valid(QStringLiteral("^([a-z]{2})?\\z"));
+    if (valid.match(machine.exitCountry).hasMatch())
+        return {};
+    return {{exitName, Level::problem, Text::tr("Invalid exit country."),
+             QStringLiteral("veldmarkctl set exitCountry \"\"")}};
 }
 
 Findings programFindings(const Machine &machine)
@@ -156,16 +187,14 @@ Findings helperFindings(const Machine &machine)
         findings.push_back(
             {helperName, Level::note,
              Text::tr(
-                 "Veldmark's helper, %1, lies where others than root can write. They can change it, and "
-                 "with it what the administrator's password runs.")
+                 "Accounts other than root can change Veldmark's helper, %1, and with it what the administrator's password runs.")
                  .arg(helper),
              QStringLiteral("./build.sh package")});
     else if (writer)
         findings.push_back(
             {helperName, Level::note,
              Text::tr(
-                 "Veldmark's helper, %1, is not an installed one: the account %2 can change it, and "
-                 "with it what the administrator's password runs.")
+                 "Veldmark's helper, %1, is not installed: the account %2 can change it, and with it what the administrator's password runs.")
                  .arg(helper, machine.accountName(*writer)),
              QStringLiteral("./build.sh package")});
     else
@@ -179,8 +208,7 @@ Findings helperFindings(const Machine &machine)
         findings.push_back(
             {helperName, Level::note,
              Text::tr(
-                 "The helper that runs without a password is not this version's. Set up connecting "
-                 "without a password again in Settings, General."),
+                 "The helper of passwordless mode belongs to another version. Set up passwordless mode again in Settings, General."),
              QStringLiteral("sudo bash %1 install-privileged --user %2")
                  .arg(helper, machine.accountName(machine.user))});
     return findings;
@@ -199,7 +227,7 @@ Findings bridgeFindings(const Machine &machine)
             return {
                 {bridgesName, Level::good,
                  Text::tr(
-                     "Bridges are off. Where Tor is blocked they need bridge programs, and none was found."),
+                     "Bridges are off. Bridges need bridge programs where Tor is blocked, and none was found."),
                  download, Button::download}};
         return {{bridgesName,
                  Level::good,
@@ -223,13 +251,7 @@ Findings bridgeFindings(const Machine &machine)
          Text::tr("The chosen bridges (%1) can be used: %2.")
              .arg(displayName(machine.bridges.choice), QString::number(lines->size())),
          {}}};
-    for (const ProgramApproval &program : unapproved(machine, *arguments))
-        findings.push_back({bridgesName,
-                            Level::note,
-                            Text::tr("No package of the system brought %1. An administrator is "
-                                     "asked to approve it at the next connect.")
-                                .arg(program.path),
-                            {}});
+    addApprovals(findings, bridgesName, machine, *arguments);
     return findings;
 }
 

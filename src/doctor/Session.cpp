@@ -1,4 +1,5 @@
 #include "doctor/Checks.h"
+#include "system/SessionOwner.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -29,21 +30,22 @@ bool asks(const QString &text, const char *start)
 
 Finding managedBy(const QString &name)
 {
-    return {
-        dnsName,
-        Level::good,
-        Text::tr("Names are looked up as %1 says. Veldmark switches that over and back.").arg(name),
-        {}};
+    return {dnsName,
+            Level::good,
+            Text::tr(
+                "%1 manages DNS. Veldmark changes that while connected and restores it afterwards.")
+                .arg(name),
+            {}};
 }
 
-// The process id of a tor that runs in Tor's account, or 0.
+// The process id of a tor that runs in Tor's account, or 0. Bridge programs run there as well.
 qint64 ourTor(const Machine &machine)
 {
     const auto account = machine.account(machine.profile.torAccount);
     if (!account)
         return 0;
     for (const RunningProcess &process : runningProcesses(machine))
-        if (process.user == *account)
+        if (process.user == *account && process.name == QLatin1String("tor"))
             return process.pid;
     return 0;
 }
@@ -73,12 +75,12 @@ Findings lookupFindings(const Machine &machine)
     if (text.startsWith(QLatin1String("# Veldmark")))
         return {{dnsName,
                  Level::good,
-                 Text::tr("%1 is Veldmark's. It names Tor as the name server.").arg(file),
+                 Text::tr("Veldmark wrote %1. It points DNS at Tor.").arg(file),
                  {}}};
     if (!QFileInfo::exists(file))
         return {{dnsName,
                  Level::note,
-                 Text::tr("There is no file %1, so names may not be looked up at all.").arg(file),
+                 Text::tr("The file %1 is missing, so DNS may not work at all.").arg(file),
                  {}}};
     if (target.contains(QLatin1String("/run/systemd/resolve/")) || asks(text, "127.0.0.53"))
         return {managedBy(QStringLiteral("systemd-resolved"))};
@@ -92,7 +94,7 @@ Findings lookupFindings(const Machine &machine)
             {dnsName,
              Level::good,
              Text::tr(
-                 "Names are looked up by a resolver on this computer. Veldmark switches that over and back."),
+                 "A resolver on this computer answers DNS. Veldmark changes that while connected and restores it afterwards."),
              {}}};
     return {managedBy(file)};
 }
@@ -108,19 +110,29 @@ Findings sessionFindings(const Machine &machine)
                      .arg(QString::number(tor)),
                  machine.profile.manualRestoreCommand}};
     }
-    if (Machine::readFile(machine.profile.killSwitchNote).startsWith(QLatin1String("open ")))
+    // A connect refuses to replace it. One of the same user's is the running program's.
+    if (const auto other = SessionOwner::ofAnotherProcess(machine.profile);
+        other && !other->isOwnUser())
+        return {
+            {sessionName,
+             Level::problem,
+             Text::tr(
+                 "%1 is connected with Veldmark (process %2). That session must be ended first.")
+                 .arg(other->userName(), QString::number(other->process)),
+             {}}};
+    // Proxy mode has no kill switch; the note is an earlier session's.
+    if (isStrict(machine)
+        && Machine::readFile(machine.profile.killSwitchNote).startsWith(QLatin1String("open ")))
         return {
             {sessionName, Level::note,
              Text::tr(
-                 "A session is open, and its kill switch isn't closed: its watcher couldn't put the rules back. Traffic may "
-                 "leave this computer directly. Restore the network, and connect again."),
+                 "A session is open, and its kill switch doesn't block traffic: its watcher couldn't put the rules back. Traffic may leave this computer directly. Restore the network, and connect again."),
              QStringLiteral("veldmarkctl restore"), Button::restore}};
     if (isStrict(machine) && !isWatched(machine) && (tor != 0 || !machine.isLinux()))
         return {
             {sessionName, Level::note,
              Text::tr(
-                 "A session is open, and it isn't known whether its kill switch stands: nobody watches over the rules. "
-                 "Restore the network, and connect again."),
+                 "A session is open, and it isn't known whether its kill switch blocks traffic: no watcher watches the rules. Restore the network, and connect again."),
              QStringLiteral("veldmarkctl restore"), Button::restore}};
     if (tor != 0)
         return {{sessionName,
@@ -128,10 +140,9 @@ Findings sessionFindings(const Machine &machine)
                  Text::tr("A session is open: the network is set up for Tor, and Tor runs."),
                  {}}};
     if (!machine.isLinux())
-        return {
-            {sessionName, Level::note,
-             Text::tr("The network is set up for Tor. Whether Tor still runs isn't known here."),
-             QStringLiteral("veldmarkctl restore"), Button::restore}};
+        return {{sessionName, Level::note,
+                 Text::tr("The network is set up for Tor. It isn't known whether Tor still runs."),
+                 QStringLiteral("veldmarkctl restore"), Button::restore}};
     return {
         {sessionName, Level::note,
          Text::tr(
@@ -143,9 +154,9 @@ Findings sessionFindings(const Machine &machine)
 Findings all(const Machine &machine)
 {
     Findings findings;
-    for (const auto check :
-         {torFindings, portFindings, firewallFindings, programFindings, helperFindings,
-          passwordFindings, clockFindings, lookupFindings, bridgeFindings, sessionFindings}) {
+    for (const auto check : {torFindings, exitFindings, portFindings, firewallFindings,
+                             programFindings, helperFindings, passwordFindings, clockFindings,
+                             lookupFindings, bridgeFindings, sessionFindings}) {
         for (Finding &finding : check(machine))
             findings.push_back(std::move(finding));
     }

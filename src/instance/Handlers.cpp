@@ -25,6 +25,17 @@ Text orCancelled(const Text &told)
     return told.isEmpty() ? Text::tr("Cancelled.") : told;
 }
 
+Text notNow(const TorController &controller)
+{
+    return Text::tr("Not now: %1").arg(controller.statusDetail());
+}
+
+bool isChangingPhase(const TorController &controller)
+{
+    return controller.phase() == ConnectionPhase::disconnecting
+        || controller.phase() == ConnectionPhase::connecting;
+}
+
 bool hasCircuit(const TorController &controller, const QString &id)
 {
     const auto &circuits = controller.circuits();
@@ -89,9 +100,11 @@ QCoro::Task<Outcome> set(Call call)
 QCoro::Task<Outcome> connect(Call call)
 {
     const auto controller = call.controller;
+    if (controller->phase() == ConnectionPhase::disconnecting)
+        co_return refusal(notNow(*controller));
     if (controller->optionsLocked())
         co_return refusal(
-            Text::tr("Already connected, or on the way; \"veldmarkctl status\" says more."));
+            Text::tr("Already connected or connecting; \"veldmarkctl status\" says more."));
     co_await controller->connect();
     if (controller && controller->phase() != ConnectionPhase::connected)
         co_return refusal(connectFailure(*controller));
@@ -104,11 +117,8 @@ QCoro::Task<Outcome> disconnect(Call call)
     const bool underWay = controller->phase() == ConnectionPhase::disconnecting
         || (controller->phase() == ConnectionPhase::connecting && !controller->canCancel());
     if (underWay)
-        co_return refusal(Text::tr("Not now: %1").arg(controller->statusDetail()));
-    if (controller->phase() == ConnectionPhase::disconnected
-        && !controller->isSessionMarkerPresent())
-        co_return {}; // the network is not set up for Tor
-    const auto ended = co_await controller->disconnect();
+        co_return refusal(notNow(*controller));
+    const auto ended = co_await controller->restore();
     if (!ended)
         co_return refusal(orCancelled(ended.error()));
     co_return {};
@@ -184,6 +194,9 @@ QCoro::Task<Outcome> launch(Call call)
 QCoro::Task<Outcome> downloadTransports(Call call)
 {
     const auto controller = call.controller;
+    // What is left of an earlier download is no reason.
+    if (isChangingPhase(*controller))
+        co_return refusal(notNow(*controller));
     if (!controller->canDownloadTransports())
         co_return refusal(
             Text::tr("Not now: %1")

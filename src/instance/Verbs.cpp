@@ -24,7 +24,7 @@ std::vector<Verb> makeTable()
         {.id = Id::status,
          .name = status,
          .options = {json, {QStringLiteral("--watch"), Text::tr("go on until Ctrl-C")}},
-         .help = Text::tr("how things stand; --watch goes on until Ctrl-C"),
+         .help = Text::tr("print the connection's state; --watch goes on until Ctrl-C"),
          .handler = Handlers::status},
         {.id = Id::connect,
          .name = QStringLiteral("connect"),
@@ -38,7 +38,7 @@ std::vector<Verb> makeTable()
          .handler = Handlers::disconnect},
         {.id = Id::restore,
          .name = QStringLiteral("restore"),
-         .help = Text::tr("the same, also for what a crash left behind"),
+         .help = Text::tr("restore the network and stop Tor, also after a crash"),
          .command = disconnect},
         {.id = Id::check,
          .name = QStringLiteral("check"),
@@ -62,7 +62,7 @@ std::vector<Verb> makeTable()
         {.id = Id::closeCircuit,
          .name = QStringLiteral("close-circuit"),
          .operands = {QStringLiteral("ID")},
-         .help = Text::tr("close one; its sites get a fresh path on their next request"),
+         .help = Text::tr("close a circuit; its sites get a fresh path on their next request"),
          .missing = Text::tr(
              "close-circuit needs a circuit's number; \"veldmarkctl circuits\" shows them."),
          .needsSession = true,
@@ -131,8 +131,7 @@ std::vector<Verb> makeTable()
          .name = QStringLiteral("doctor"),
          .options = {json},
          .help = Text::tr(
-             "look at this computer: what a connect needs, what is in its way, and what\n"
-             "mends it. Changes nothing; ends with 0 when a connect can work")},
+             "check what a connect needs on this computer, what blocks it and how to fix\nit. Changes nothing; the exit status is 0 when a connect can work")},
         {.id = Id::get,
          .name = QStringLiteral("get"),
          .operands = {QStringLiteral("KEY")},

@@ -149,9 +149,4 @@ TorLogLine TorLogLine::parse(const QString &line, int id)
     return {id, std::nullopt, guessLevel(line), line, line};
 }
 
-TorLogLine::Level TorLogLine::levelFromRawValue(int rawValue)
-{
-    return rawValue >= 0 && rawValue <= 2 ? static_cast<Level>(rawValue) : Level::info;
-}
-
 } // namespace veldmark

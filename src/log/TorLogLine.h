@@ -31,9 +31,6 @@ struct TorLogLine {
     // The level of any other line is guessed from its words, and is never `notice`. `line` has no
     // line breaks.
     static TorLogLine parse(const QString &line, int id);
-
-    // `info` for an invalid number.
-    static Level levelFromRawValue(int rawValue);
 };
 
 } // namespace veldmark

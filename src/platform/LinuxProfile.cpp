@@ -65,7 +65,6 @@ PlatformProfile PlatformProfile::linux(const Places &places)
         osRelease = readText(at("/usr/lib/os-release"));
     profile.computer = Text::tr("This computer");
     profile.onComputer = Text::tr("on this computer");
-    profile.fileManager = QStringLiteral("the file manager");
     profile.torInstallHint = linuxInstallHint(osRelease);
     profile.torMissingText = profile.torInstallHint == unknownSystem
         ? Text::tr("Tor isn't installed. Install it with your package manager or set its "
@@ -103,7 +102,7 @@ PlatformProfile PlatformProfile::linux(const Places &places)
     profile.promptKind = PromptKind::PolicyKit;
     profile.promptProgram = at("/usr/bin/pkexec");
     profile.promptText = Text::tr(
-        "Veldmark needs administrator access to manage Tor routing on this computer. The system's own Tor service, where it runs, is stopped meanwhile.");
+        "Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system's own Tor service.");
 
     profile.torBrowserRoots = {
         {places.home + QStringLiteral("/.local/share/torbrowser/tbb/x86_64/tor-browser"),

@@ -13,7 +13,6 @@ PlatformProfile PlatformProfile::macos(const Places &places)
 
     profile.computer = Text::tr("This Mac");
     profile.onComputer = Text::tr("on this Mac");
-    profile.fileManager = QStringLiteral("Finder");
     profile.torInstallHint = QStringLiteral("brew install tor");
     profile.torMissingText = Text::tr("Tor isn't installed. Install it with Homebrew (brew "
                                       "install tor) or set its location in Settings.");

@@ -13,9 +13,9 @@
 namespace veldmark {
 
 // The folders that a profile's paths are built from. Tests create either system's files below a
-// temporary folder and set `root` and `home`; production uses `fromEnvironment()`.
+// temporary folder and set `root` and `home`; the real program uses `fromEnvironment()`.
 struct Places {
-    QString root;       // put before every absolute path of the system; empty in production
+    QString root;       // put before every absolute path of the system; empty in the real program
     QString home;       // the user's home folder
     QString configHome; // $XDG_CONFIG_HOME, default ~/.config
     QString dataHome;   // $XDG_DATA_HOME, default ~/.local/share
@@ -48,7 +48,6 @@ struct PlatformProfile {
     // Texts.
     Text computer;          // "This Mac" / "This computer"
     Text onComputer;        // "on this Mac" / "on this computer"
-    QString fileManager;    // "Finder" / "the file manager"
     QString torInstallHint; // the command, or "your package manager"
     Text torMissingText;    // a whole sentence for the error banner
     QString homePage;       // of Veldmark; empty while there is none, and then no link appears

@@ -18,6 +18,11 @@ HelperError HelperError::unapproved(Text message)
     return {Kind::Unapproved, std::move(message)};
 }
 
+HelperError HelperError::unapprovedProgram(Text message)
+{
+    return {Kind::UnapprovedProgram, std::move(message)};
+}
+
 HelperError HelperError::missingHelper()
 {
     return {Kind::MissingHelper,

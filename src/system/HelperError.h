@@ -13,12 +13,14 @@ public:
         MissingHelper, // there is no helper script
         // it needs an administrator's approval; the description names the subject
         Unapproved,
-        Cancelled,  // the user dismissed the authorisation dialog
-        NotStarted, // the program that gives it root rights could not be started
+        UnapprovedProgram, // the approval that it needs is that of a program
+        Cancelled,         // the user dismissed the authorisation dialog
+        NotStarted,        // the program that gives it root rights could not be started
     };
 
     static HelperError failed(Text message); // message: already cleaned
     static HelperError unapproved(Text message);
+    static HelperError unapprovedProgram(Text message);
     static HelperError missingHelper();
     static HelperError cancelled();
     static HelperError notStarted(const StartError &error);

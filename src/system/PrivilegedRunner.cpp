@@ -39,8 +39,10 @@ QString helpersWords(const QString &errors)
     return others.trimmed().isEmpty() ? errors : others;
 }
 
-// The helper's status when only an administrator's approval is missing.
+// The helper's statuses when only an administrator's approval is missing: of the same verb, and of
+// a program.
 constexpr int unapprovedStatus = 3;
+constexpr int unapprovedProgramStatus = 4;
 
 // The words of a run: those on its command line, which every user can read, and its standard input.
 struct Words {
@@ -72,17 +74,10 @@ QCoro::Task<Result<ProcessResult, StartError>> start(ProcessRunner *runner, QStr
                        : runner->run(program, all);
 }
 
-// Whether the helper had a bundle to verify. When it then refuses for lack of an approval, its
-// caller knows what to ask for.
-bool bringsBundle(const QStringList &arguments)
-{
-    return arguments.contains(QLatin1String("--bundle"));
-}
-
 // The arguments for the dialog after the helper has refused `arguments` without an approval.
 QStringList approvable(QStringList arguments)
 {
-    if (arguments.value(0) == QLatin1String("connect") && !bringsBundle(arguments))
+    if (arguments.value(0) == QLatin1String("connect"))
         arguments[0] = QStringLiteral("replace");
     return arguments;
 }
@@ -95,14 +90,14 @@ Text promptText(const PlatformProfile &profile, const QStringList &arguments)
         return Text::joined(
             {profile.promptText,
              Text::tr(
-                 "The strict session that is running is replaced, and may protect you less.")});
+                 "Veldmark replaces the running strict session. The new session may protect you less.")});
     if (verb != QLatin1String("approve"))
         return profile.promptText;
     const auto valueOf = [&arguments](const char *option) {
         return arguments.value(arguments.indexOf(QLatin1String(option)) + 1);
     };
     return Text::
-        tr("Veldmark wants to run %1 as a part of Tor. No package of the system brought it. Its SHA-256 is %2.")
+        tr("Veldmark wants to run %1 as a part of Tor. No package of the system installed it. Its SHA-256 is %2.")
             .arg(valueOf("--program"), valueOf("--sha256"));
 }
 
@@ -167,7 +162,7 @@ HelperError policyKitError(const ProcessResult &result, const QString &script)
         // agent of the user.
         if (says("No session for cookie")) {
             return HelperError::failed(Text::tr(
-                "The password could not be checked: polkit takes none from this terminal. Run it with sudo."));
+                "The password could not be checked: polkit accepts no password from this terminal. Run the command with sudo."));
         }
         if (says("Error executing command as another user: Not authorized")
             || says("Error checking for authorization ")) {
@@ -277,12 +272,12 @@ QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::run(std::shared_ptr<con
             co_return Failure(HelperError::notStarted(run.error()));
         if (run->status == 0)
             co_return run->stdout;
-        if (run->status == unapprovedStatus
-            && helpersWords(run->stderr).startsWith(QLatin1String("ERROR: "))) {
-            if (bringsBundle(arguments))
-                co_return Failure(HelperError::unapproved(failure(run->stderr).description()));
+        const bool isHelpers = helpersWords(run->stderr).startsWith(QLatin1String("ERROR: "));
+        if (isHelpers && run->status == unapprovedProgramStatus)
+            co_return Failure(HelperError::unapprovedProgram(failure(run->stderr).description()));
+        if (isHelpers && run->status == unapprovedStatus)
             arguments = approvable(arguments);
-        } else if (!sudoRefused(*run))
+        else if (!sudoRefused(*run))
             co_return Failure(failure(run->stderr.isEmpty() ? run->stdout : run->stderr));
         if (!means->runner)
             co_return Failure(HelperError::cancelled());
@@ -344,6 +339,8 @@ QCoro::Task<PrivilegedRunner::Outcome> PrivilegedRunner::runAsRoot(
     const HelperError error = means->isRoot ? failure(run->stderr) : policyKitError(*run, script);
     if (run->status == unapprovedStatus && error.kind() == HelperError::Kind::Failed)
         co_return Failure(HelperError::unapproved(error.description()));
+    if (run->status == unapprovedProgramStatus && error.kind() == HelperError::Kind::Failed)
+        co_return Failure(HelperError::unapprovedProgram(error.description()));
     co_return Failure(error);
 }
 

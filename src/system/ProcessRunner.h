@@ -33,7 +33,7 @@ private:
 };
 
 // Runs other programs. Every outside program runs through this interface, so that a test can
-// replace it; production uses ChildProcessRunner.
+// replace it; the real program uses ChildProcessRunner.
 class ProcessRunner {
 public:
     ProcessRunner() = default;

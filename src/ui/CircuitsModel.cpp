@@ -236,7 +236,7 @@ QString CircuitsModel::purpose() const
     if (circuit->roundTrip)
         facts << tr("Round trip: %1").arg(milliseconds(*circuit->roundTrip));
     if (!circuit->onionService.isEmpty())
-        facts << tr("Leads to an onion service, which meets it at its last relay");
+        facts << tr("Leads to an onion service. The last relay is the meeting point.");
     if (circuit->purpose == QLatin1String("CONFLUX"))
         facts << tr("One of several linked legs to the same exit");
     return facts.join(u'\n');

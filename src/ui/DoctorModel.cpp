@@ -117,7 +117,7 @@ QVariant DoctorModel::data(const QModelIndex &index, int role) const
         case Level::good:
             break;
         }
-        return tr("In order");
+        return tr("OK");
     case CommandRole: // a button does the same more easily
         return finding.button == Finding::Button::none ? finding.command : QString();
     case ButtonRole:
@@ -140,12 +140,12 @@ QString DoctorModel::verdict() const
     if (busy())
         return tr("Looking at this computer…");
     if (m_findings.empty())
-        return tr("Nothing was found out.");
+        return tr("The check gave no result.");
     const auto can = canConnect(m_findings);
     if (!can)
-        return Text::tr("Whether a connect can work isn't known.").translated();
-    return *can ? tr("Nothing was found that keeps Veldmark from connecting.")
-                : tr("Veldmark can't connect before each problem is mended.");
+        return Text::tr("It isn't known whether a connect can work.").translated();
+    return *can ? tr("No problem was found that keeps Veldmark from connecting.")
+                : tr("Veldmark can't connect until each problem is fixed.");
 }
 
 void DoctorModel::press(int row)

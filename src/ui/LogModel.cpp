@@ -213,7 +213,7 @@ void LogModel::reveal()
     const QString path = QFile::exists(noticesPath()) ? noticesPath() : m_profile.runDirectory;
     if (!QFile::exists(path)) {
         setRevealProblem(
-            tr("There are no log files yet: Tor makes %1 when it is first started.").arg(path));
+            tr("There are no log files yet. Tor creates %1 when it first starts.").arg(path));
         return;
     }
     const QDBusConnection bus = QDBusConnection::sessionBus();

@@ -147,9 +147,9 @@ bool PanelModel::powerEnabled() const
     const Snapshot &now = m_session.now();
     switch (now.phase) {
     case Phase::disconnected:
-        return now.torPath.has_value();
+        return now.canTryTor();
     case Phase::stale: // another process's session is only ended, never replaced
-        return now.torPath.has_value() && !now.isAnothers;
+        return now.canTryTor() && !now.isAnothers;
     case Phase::connecting:
         return now.canCancel;
     case Phase::connected:
@@ -210,7 +210,7 @@ QString PanelModel::pillSymbol() const
 QString PanelModel::footnote() const
 {
     const Snapshot &now = m_session.now();
-    if (!now.torPath && now.phase == Phase::disconnected)
+    if (!now.canTryTor() && now.phase == Phase::disconnected)
         return tr("Install Tor to get started");
     if (now.phase == Phase::disconnected)
         return tr("Click to connect");
@@ -288,9 +288,9 @@ QString PanelModel::leakHelp() const
     else if (leak.kind == Leak::Kind::blocked)
         traffic = m_session.now().activeMode == RoutingMode::strict
             ? tr(
-                "A direct connection that skips Tor got no answer, but the kill switch isn't known to close that path")
+                "A direct connection that skips Tor got no answer, but it isn't known whether the kill switch blocks such connections")
             : tr(
-                "A direct connection that skips Tor got no answer, but proxy mode doesn't close that path");
+                "A direct connection that skips Tor got no answer, but proxy mode doesn't block such connections");
     else if (leak.kind == Leak::Kind::exposed)
         traffic
             = tr("Apps that ignore proxy settings show your real IP (%1). Turn on Strict mode to "
@@ -358,7 +358,7 @@ QString PanelModel::error() const
 bool PanelModel::torMissing() const
 {
     const Snapshot &now = m_session.now();
-    return !now.torPath && (now.phase == Phase::disconnected || now.phase == Phase::stale);
+    return !now.canTryTor() && (now.phase == Phase::disconnected || now.phase == Phase::stale);
 }
 
 QString PanelModel::installHint() const

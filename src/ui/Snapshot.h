@@ -89,11 +89,14 @@ struct Snapshot {
     bool terminalForSsh = false;    // ssh does, too
 
     std::optional<QString> torPath;  // absent: no tor was found
+    bool isTorRefused = false;       // the chosen location is no place for one; a connect says why
     bool markerPresent = false;      // the network is set up for Tor
     Findings findings;               // of the last examination
     bool isExamining = false;        // an examination is running
     std::optional<bool> openAtLogin; // absent: this build cannot change it
 
+    // A connect finds a tor, or says what is wrong with its location.
+    bool canTryTor() const { return torPath.has_value() || isTorRefused; }
     bool isExposed() const
     {
         return leak.kind == Leak::Kind::exposed

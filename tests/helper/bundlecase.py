@@ -1,6 +1,6 @@
-"""What the tests of the Tor Project's signed bundle stand on.
+"""The base class of the tests of the Tor Project's signed bundle.
 
-The signer is a key of the test's; the helper is a copy with that key's fingerprint in the place of the Tor Browser Developers'."""
+The test makes the signer's key. The helper is a copy that has that key's fingerprint instead of the Tor Browser Developers'."""
 
 import os
 import subprocess
@@ -11,7 +11,7 @@ from bundles import JANUARY, Signer, bundle, member
 from namespace import HASH, TOR, HelperTest, USER_UID
 
 FINGERPRINT = "EF6E286DDA85EA2A4BA7DE684E2C6E8793298290"
-READER = 65532  # as whom gpgv and tar run
+READER = 65532  # the user that gpgv and tar run as
 BRIDGE = "obfs4 192.0.2.1:443 0123456789012345678901234567890123456789 cert=a iat-mode=0"
 PROMPT = {"PATH": os.environ["PATH"], "PKEXEC_UID": str(USER_UID)}
 MEMBER = "tor/pluggable_transports/lyrebird"
@@ -47,7 +47,7 @@ class BundleCase(HelperTest):
         self.assertEqual(self.machine.shell(f"ls -d {NEW_BUNDLE} {PROGRAMS}/new 2>/dev/null || true"), "")
 
     def put(self, path, content):
-        """A file of alice's; None for none."""
+        """Writes a file of alice's, or removes it when the content is None."""
         self.machine.shell('rm -rf "$1"', path)
         if content is not None:
             with tempfile.NamedTemporaryFile(dir=self.folder.name) as file:
@@ -56,7 +56,7 @@ class BundleCase(HelperTest):
                 self.machine.shell('install -o alice -g alice -m 0700 "$1" "$2"', file.name, path)
 
     def bring(self, program, archive=None, now=JANUARY, **other):
-        """Program and bundle of alice's, as the downloader leaves them. `signature` and `key`: in the place of the signer's."""
+        """Installs alice's program and bundle as the downloader leaves them. `signature` and `key` replace the signer's."""
         if archive is None:
             archive = bundle(member(MEMBER, program))
         self.put(LYREBIRD, program)
@@ -67,12 +67,12 @@ class BundleCase(HelperTest):
     WORDS = ("connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0", "--bridge", BRIDGE, "--pt-lyrebird", LYREBIRD)
 
     def connect(self, more=("--bundle", ARCHIVE), **options):
-        """By the password-free rule, which approves nothing."""
+        """Connects by the password-free rule, which approves nothing."""
         return self.machine.help_by_rule(*self.WORDS, *more, **options)
 
     def assertAsked(self, done):
         self.assertOneLine(done, f"An administrator password is needed to approve {LYREBIRD}.")
-        self.assertEqual(done.returncode, 3)
+        self.assertEqual(done.returncode, 4)
         self.assertEqual(self.machine.shell(f"ls -d {NEW_BUNDLE} {PROGRAMS}/new 2>/dev/null || true"), "")
 
     def copies(self):
@@ -85,7 +85,7 @@ class BundleCase(HelperTest):
         return self.machine.shell(f"cat {NOTE}").splitlines()
 
     def replace_gpgv(self, script):
-        """Somebody else's gpgv, until the end of the test."""
+        """Puts another gpgv in its place until the end of the test."""
         path = f"{self.folder.name}/gpgv"
         with open(path, "w", encoding="ascii") as file:
             file.write(script)
@@ -94,7 +94,7 @@ class BundleCase(HelperTest):
         self.addCleanup(self.machine.shell, "umount -l /usr/bin/gpgv")
 
     def take_away(self, program):
-        """Until the function that this returns is called."""
+        """Takes a program away until the returned function is called."""
         path = f"{self.folder.name}/none"
         with open(path, "w", encoding="ascii"):
             pass
@@ -103,11 +103,11 @@ class BundleCase(HelperTest):
         return lambda: self.machine.shell('umount -l "$(readlink -e "/usr/bin/$1")"', program)
 
     def wait_for_gpgv(self):
-        """The process id of what slow_gpgv() waits with."""
+        """The process id of the program that slow_gpgv() waits with."""
         return self.machine.shell(f"until pgrep -xf '{self.wait}'; do sleep 0.01; done", timeout=30).split()[0]
 
     def slow_gpgv(self, seconds):
-        """The real one, after a while."""
+        """Runs the real gpgv after a delay."""
         self.wait = f"sleep {seconds}"
         path = f"{self.folder.name}/gpgv"
         self.replace_gpgv(f'#!/bin/sh\n{self.wait}\nexec {path}.real "$@"\n')
@@ -126,7 +126,7 @@ class BundleCase(HelperTest):
         )
 
     def helper_of(self, signer):
-        """A helper that takes this signer's bundles."""
+        """A helper that accepts this signer's bundles."""
         with open(self.machine.helper, encoding="utf-8") as file:
             text = file.read()
         path = f"{self.folder.name}/{signer.fingerprint}.sh"

@@ -7,11 +7,11 @@ import subprocess
 import tarfile
 import tempfile
 
-JANUARY, FEBRUARY = "20260101T000000", "20260201T000000"  # when something is signed
+JANUARY, FEBRUARY = "20260101T000000", "20260201T000000"  # the time of the signatures
 
 
 class Signer:
-    """A key of GnuPG's that only certifies, with a subkey that signs, as the Tor Browser Developers' is."""
+    """A GnuPG key that only certifies, with a subkey that signs, like the Tor Browser Developers' key."""
 
     def __init__(self, name, kind="ed25519", made="20250101T000000"):
         self.home = tempfile.mkdtemp(prefix="key-", dir="/tmp")
@@ -54,13 +54,13 @@ class Signer:
         return self.gpg("--armor", how, stdin=content, now=now)
 
     def expire(self):
-        """The key says that it and its subkeys go out of date soon after JANUARY, which is past."""
+        """Makes the key and its subkeys expire soon after JANUARY, which is in the past."""
         for which in [], ["*"]:
             self.gpg("--quick-set-expire", self.fingerprint, "20260301T000000", *which, now=JANUARY)
         return self.gpg("--export")
 
     def revoke(self):
-        """From now on the key says that it is revoked."""
+        """Revokes the key."""
         with open(f"{self.home}/openpgp-revocs.d/{self.fingerprint}.rev", encoding="ascii") as file:
             text = file.read().replace(":-----BEGIN", "-----BEGIN")
         self.gpg("--import", stdin=text.encode())

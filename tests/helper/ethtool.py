@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""What the helper asks of ethtool, for machines without it; on real devices: ethtool -k DEVICE, ethtool -K DEVICE FEATURE on|off."""
+"""A stand-in for machines without ethtool. It knows what the helper calls: ethtool -k DEVICE, ethtool -K DEVICE FEATURE on|off."""
 
 import array
 import fcntl

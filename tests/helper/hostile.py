@@ -1,4 +1,5 @@
-"""What the tests of hostile programs without root's rights share. Each attack is first seen to work where its defence is taken out."""
+"""Shared parts of the tests of hostile programs without root's rights. Each test first shows that the attack works without the
+defence."""
 
 import subprocess
 
@@ -6,13 +7,13 @@ from namespace import AS_TOR, DNS_PORT, USER_UID, HelperTest
 from wire import Wire
 
 
-# Listens on 127.0.0.1 at the port given, any for 0, prints it, and greets whoever comes, until its input ends.
+# Listens on 127.0.0.1 at the given port (0: any), prints the port, and greets each client until its input ends.
 SERVER = (
     "import os, socket, sys, threading\nthreading.Thread(target=lambda: (sys.stdin.read(), os._exit(0)), daemon=True).start()\ns = socket.create_server(('127.0.0.1', int(sys.argv[1]))); print(s.getsockname()[1], flush=True)\n"
     "while True:\n c, _ = s.accept(); c.sendall(b'hello'); c.close()"
 )
 
-# Connects to 127.0.0.1 at the port given, from the port given, any for 0; prints the greeting.
+# Connects to 127.0.0.1 at the given port from the given port (0: any), and prints the greeting.
 CLIENT = (
     "import socket, sys\nc = socket.socket(); c.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1); c.settimeout(float(sys.argv[3]))\n"
     "c.bind(('127.0.0.1', int(sys.argv[2])))\n"
@@ -60,15 +61,15 @@ class HostileTest(HelperTest):
         )
 
     def without(self, *chains):
-        """The rules of the session without what is in those chains."""
+        """The session's rules with those chains emptied."""
         if self.machine.shell("cat /var/lib/veldmark/state/active") == "strict\n":
             self.machine.end_watcher()
         for chain in chains:
             self.machine.shell(f"nft flush chain inet veldmark {chain}; nft add rule inet veldmark {chain} accept")
 
     def asked(self, script, *who):
-        """What sockets at Tor's port for look-ups get when SCRIPT asks: "NAME LENGTH" each. who: (name, address, uid, group), the last
-        one to bind is the kernel's choice."""
+        """What the sockets at Tor's DNS port receive when SCRIPT asks, as "NAME LENGTH". who: (name, address, uid, group). The
+        kernel delivers to the last one that binds."""
         listen = (
             "import socket, sys\ns = socket.socket(socket.AF_INET6 if ':' in sys.argv[2] else socket.AF_INET, socket.SOCK_DGRAM)\n"
             "s.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1); s.bind((sys.argv[2], int(sys.argv[3]))); print('up', flush=True)\n"
@@ -95,7 +96,7 @@ class HostileTest(HelperTest):
             self.assertEqual(up[-1].stdout.readline(), "up\n")
         try:
             said = self.machine.run("/usr/bin/python3", "-c", script, uid=USER_UID).stdout
-            # What ends each that gets anything comes after all else.
+            # The packets that end the sockets come after all others.
             self.machine.run(
                 "/usr/bin/python3",
                 "-c",

@@ -1,11 +1,11 @@
 """A private machine for tests of the root helper.
 
-Machine is a set of namespaces (network, mounts, processes) in which the helper may do whatever it does: /etc,
-/usr/local, /opt and /media are overlays, /run, /var/lib and /home are empty and in memory, its control groups are its own, and Tor has `DisableNetwork 1` from
-/etc/tor/torrc-defaults, and no list of countries, whose 25 MB take it nine tenths of its start. There is no network device but the loopback one, unless a Peer is attached. Nothing of it
-is visible outside, and everything goes when the process that made it ends.
+Machine is a set of namespaces (network, mounts, processes) in which the helper can make its changes. /etc, /usr/local, /opt and
+/media are overlays. /run, /var/lib and /home are empty and in memory. The control groups are its own. Tor has `DisableNetwork 1`
+from /etc/tor/torrc-defaults, and no list of countries, whose 25 MB take nine tenths of Tor's start. Without a Peer the loopback
+device is the only network device. Nothing of the machine is visible outside, and it goes when the process that made it ends.
 
-Exit status 77 (skipped) with one line when the system does not permit namespaces.
+Exit status 77 (skipped) with one line when the system does not permit namespaces; 1 with one line in a checkout that a machine would hide.
 """
 
 import atexit
@@ -22,12 +22,12 @@ TOR = "/usr/bin/tor"
 USER_UID = 4242
 OTHER_UID = 4243  # bob's
 DNS_PORT = 293
-TOR_GROUP = "/sys/fs/cgroup/veldmark/tor"  # to be in it and Tor's account is what the rules know Tor by
-# What a program begins with that stands in for Tor at its port for look-ups. It is started with group=TOR_GROUP.
+TOR_GROUP = "/sys/fs/cgroup/veldmark/tor"  # the rules recognise Tor by this group and Tor's account
+# The beginning of a program that stands in for Tor at its DNS port. It is started with group=TOR_GROUP.
 AS_TOR = ("setpriv", "--reuid=_veldmark", "--clear-groups", "--inh-caps=+net_bind_service", "--ambient-caps=+net_bind_service")
 INSTALLED = "/usr/local/libexec/veldmark/veldmark-helper.sh"
 
-# Reaps what is orphaned in the process namespace, and ends with the test.
+# Reaps the orphans of the process namespace, and ends with the test.
 INIT = (
     "import ctypes, os, signal; ctypes.CDLL(None).prctl(1, 9); signal.signal(signal.SIGCHLD, signal.SIG_IGN);"
     "os.write(1, b'ready')\nwhile True: signal.pause()"
@@ -66,8 +66,24 @@ mkdir -p /run/sudo
 }
 
 
+# What a machine hides, and /tmp, from below which the helper runs no program.
+HIDDEN = ("/tmp", "/run", "/var/lib", "/home")
+
+
+def require_open_place():
+    """Ends the test program with one line where the files that it needs cannot be seen in a machine."""
+    for path in HERE, os.environ.get("VELDMARK_HELPER", HERE):
+        for folder in HIDDEN:
+            if f"{folder}/" in (os.path.abspath(path)[: len(folder) + 1], os.path.realpath(path)[: len(folder) + 1]):
+                print(
+                    f"The machines of these tests hide {folder}, and {path} is there: move the checkout to a folder such as /srv."
+                )
+                sys.exit(1)
+
+
 def require_namespaces():
     """Ends the test program with status 77 where it cannot run."""
+    require_open_place()
     if os.geteuid() == 0:
         probe = subprocess.run(["unshare", "--net", "--mount", "--pid", "--fork", "true"], capture_output=True, check=False)
         if probe.returncode == 0:
@@ -90,7 +106,7 @@ def helper_path(system="linux"):
 
 
 def make_control_group():
-    """A group of this run's own in the machine's cgroup v2 tree; its folder."""
+    """Makes a group of this run's own in the machine's cgroup v2 tree, and returns its folder."""
     with open("/proc/self/mountinfo", encoding="ascii") as mounts:
         trees = [line.split()[4] for line in mounts if line.split(" - ")[1].startswith("cgroup2 ") and line.split()[3] == "/"]
     if not trees:
@@ -99,8 +115,8 @@ def make_control_group():
     return tempfile.mkdtemp(prefix=f"veldmark-test-{os.getpid()}-", dir=trees[0])
 
 
-# Removes the group FOLDER, once the process that made it has ended or closed the pipe and the last process in it has gone. In
-# a session of its own, so that it also outlives a kill of the whole test.
+# Removes the group FOLDER once the process that made it has ended or closed the pipe, and the group's last process has ended. It
+# has a session of its own, so it outlives a kill of the whole test.
 SWEEPER = """
 import os, sys, time
 sys.stdin.read()
@@ -119,7 +135,7 @@ class Machine:
     """Use with `with`. run() and start() execute in it as root, or as another user by their `uid`."""
 
     SYSTEM = "linux"
-    SETUP = SETUP  # what makes it, a script that runs in the new namespaces
+    SETUP = SETUP  # the script that sets the machine up in the new namespaces
 
     def __init__(self):
         self.helper = helper_path(self.SYSTEM)
@@ -136,7 +152,7 @@ class Machine:
                 *self.in_group(),
                 "setpriv",
                 "--pdeathsig",
-                "KILL",  # ends with the test, however that ends
+                "KILL",  # ends with the test, also when the test is killed
                 "unshare",
                 "--cgroup",
                 "--net",
@@ -168,18 +184,18 @@ class Machine:
         self.close()
 
     def close(self):
-        self.init.kill()  # its child, the first process of the machine, dies with it
+        self.init.kill()  # the machine's first process is its child and dies with it
         self.init.wait()
         self.sweeper.communicate()
         if self.sweeper.returncode != 0:
             raise RuntimeError(f"a process is left in {self.group}")
 
     def in_group(self):
-        """What a command begins with to run in the machine's control group."""
+        """The words before a command that make it run in the machine's control group."""
         return ["/bin/sh", "-c", 'echo 0 >"$0/cgroup.procs" && exec "$@"', self.group]
 
     def command(self, words, uid=0, group=None):
-        """`group`: enters that control group, if it is there."""
+        """With `group` the command enters that control group, if it exists."""
         inside = [*self.in_group(), "nsenter", "--target", str(self.pid), "--cgroup", "--net", "--mount", "--pid", "--wd=/"]
         if group:
             inside += ["/bin/sh", "-c", '[ ! -d "$0" ] || echo 0 >"$0/cgroup.procs"; exec "$@"', group]
@@ -210,7 +226,7 @@ class Machine:
         return self.run("/bin/bash", "-c", script, "shell", *arguments, **options).stdout
 
     def shell_run(self, script, *arguments, **options):
-        """Like shell(), for a script that may fail."""
+        """Runs a script like shell(); the script may fail."""
         return self.run("/bin/bash", "-c", script, "shell", *arguments, check=False, **options)
 
     def help(self, *arguments, **options):
@@ -218,7 +234,7 @@ class Machine:
         return self.run("/bin/bash", self.helper, *arguments, **options)
 
     def install_copy(self):
-        """The copy that the password-free rule is for."""
+        """Installs the copy of the helper that the password-free rule names."""
         self.shell('install -D -m 0755 "$1" "$2"', self.helper, INSTALLED)
 
     def help_by_rule(self, *arguments, uid=USER_UID, **options):
@@ -226,7 +242,7 @@ class Machine:
         return self.run("/bin/bash", INSTALLED, *arguments, env={"PATH": os.environ["PATH"], "SUDO_UID": str(uid)}, **options)
 
     def approve(self, path, role="tor", **options):
-        """Approves a program as the prompt does that names it."""
+        """Approves a program, as the prompt that names it does."""
         read = "import hashlib, sys; print(hashlib.sha256(open(sys.argv[1], 'rb').read()).hexdigest())"  # a Mac has no sha256sum
         digest = self.run("/usr/bin/python3", "-c", read, path).stdout.strip()
         return self.help("approve", "--program", path, "--as", role, "--sha256", digest, **options)
@@ -235,14 +251,14 @@ class Machine:
         return self.help("connect", "--tor", TOR, "--hash", HASH, "--strict", str(strict), "--lan", str(lan), *more, **options)
 
     def ready_account(self):
-        """Makes Tor's account, so that a snapshot before a first connect holds it."""
+        """Makes Tor's account, so that a snapshot before the first connect contains it."""
         if not self.accounts_made:
             self.connect()
             self.help("disconnect")
             self.accounts_made = True
 
     def give_ethtool(self):
-        """A stand-in, where there is none."""
+        """Installs a stand-in where ethtool is missing."""
         if not self.shell("command -v ethtool || true"):
             self.shell(
                 "mkdir -p /mnt/sbin/upper /mnt/sbin/work; mount -t overlay -o lowerdir=/usr/sbin,upperdir=/mnt/sbin/upper,workdir=/mnt/sbin/work private /usr/sbin;"
@@ -254,11 +270,11 @@ class Machine:
         return self.shell("pgrep -u _veldmark || true").split()
 
     def await_watcher(self):
-        """The helper starts it and does not wait until it listens."""
+        """Waits until the watcher listens. The helper starts it without waiting."""
         self.shell('for kind in tables chains rules; do until pgrep -xf "nft monitor $kind" >/dev/null; do sleep 0.01; done; done')
 
     def watchers(self):
-        """Their process ids. What one is just starting bears its name as well, in its session."""
+        """The watchers' process ids. A child that a watcher is starting has the watcher's name as well, and is in its session."""
         lines = [line.split(None, 2) for line in self.shell("ps -eo pid=,sid=,args=").splitlines()]
         return [
             int(pid)
@@ -267,19 +283,19 @@ class Machine:
         ]
 
     def end_watcher(self):
-        """As a restart of the computer ends it."""
+        """Ends the watcher, as a restart of the computer does."""
         self.shell("kill -9 $(pgrep -f /watcher[.]sh); while pgrep -f '/watcher[.]sh|nft [m]onitor' || pgrep -x nft; do :; done")
 
     def processes(self):
-        """The command lines of what runs in the machine, sorted; not the dead that nobody has waited for, nor the
-        watcher's looks at the rules and ports, which come and go."""
+        """The sorted command lines of the machine's processes, without zombies and without the watcher's short-lived looks at the
+        rules and ports."""
 
         def words(pid):
             with open(f"/proc/{pid}/cmdline", "rb") as file:
                 return file.read().replace(b"\0", b" ").decode(errors="replace")
 
         def is_look(pid, line):
-            """A shell that the watcher has started, and that is not yet, or not to be, another program."""
+            """Whether this is a shell that the watcher has started and that has not become another program."""
             with open(f"/proc/{pid}/stat", encoding="utf-8", errors="replace") as file:
                 parent = file.read().rsplit(")", 1)[1].split()[1]
             return line.endswith("/watcher.sh ") and words(parent) == line
@@ -297,6 +313,7 @@ class Machine:
                     and not line.startswith(
                         (
                             "nft -s -t list table ",
+                            "grep -hE : ",
                             "unshare --mount --propagation private sh -c mount ",
                             "sh -c mount -t tmpfs none /sys/fs/cgroup ",
                             "setpriv --pdeathsig KILL unshare ",
@@ -312,7 +329,7 @@ class Machine:
         return sorted(lines)
 
     def snapshot(self):
-        """What a session may change, as text: rules, resolver, mounts, processes, ports and the user's files."""
+        """The state that a session may change, as text: rules, resolver, mounts, processes, ports and the user's files."""
         return (
             "# processes\n"
             + "".join(self.processes())
@@ -333,7 +350,7 @@ class Machine:
 
 
 class Peer:
-    """Another network namespace, at the other end of a link of the machine's: device `near` there, `far` here."""
+    """Another network namespace at the other end of a link to the machine: device `near` in the machine, `far` here."""
 
     def __init__(self, machine, near="veth0", far="veth1"):
         self.init = subprocess.Popen(["unshare", "--net", "/usr/bin/python3", "-c", INIT], stdout=subprocess.PIPE)
@@ -387,7 +404,7 @@ class HelperTest(unittest.TestCase):
         cls.machine.close()
 
     def assertOneLine(self, done, words=""):
-        """A failed run says one sentence and nothing else."""
+        """Checks that a failed run prints one sentence and nothing else."""
         self.assertNotEqual(done.returncode, 0)
         self.assertRegex(done.stderr, r"\AERROR: [A-Z][^\n]*\.\n\Z")
         self.assertIn(words, done.stderr)

@@ -1,14 +1,15 @@
-"""Packets for the firewall test, and the listener that sees which of them arrive.
+"""Packets for the firewall test, and the listener that reports which of them arrive.
 
     probes.py send          sends one of each probe
-    probes.py serve         for each line "UID GROUP send" on standard input, or "UID GROUP PORT", a process of that account, in that
-                            control group if it is there ("-" for none), sends one of each probe, or opens a connection to that port of the
-                            sentinel's; prints the line when it has ended
+    probes.py serve         for each line "UID GROUP send" or "UID GROUP PORT" on standard input, starts a process of that account
+                            in that control group if it exists ("-": none). "send" sends one of each probe, PORT connects
+                            to that port of the sentinel. Prints the line when the process has ended
     probes.py listen        prints "ready", then one line for each packet: KIND NAME-OR-PORT
-    probes.py flood         sends those of FLOOD again and again after the line "go" on standard input, until "stop"; once at "round"
-    probes.py hold          opens a UDP socket and a TCP connection, and uses both at each line on standard input
+    probes.py flood         sends the probes of FLOOD repeatedly from the line "go" on standard input until "stop"; sends
+                            them once at "round"
+    probes.py hold          opens a UDP socket and a TCP connection, and sends on both at each line of standard input
 
-A probe is known by its destination: every probe has an address or a port of its own.
+The destination identifies a probe: every probe has an address or a port of its own.
 """
 
 import functools
@@ -56,7 +57,7 @@ PROBES = {
 }
 
 
-# Each ends with the call that sends it: nothing is left open, and no connection comes about.
+# Each probe closes its socket after sending, so no connection is established.
 FLOOD = ("https", "tcp6", "udp", "udp6", "quic", "dns", "dns6", "ntp", "ping", "bound-udp", "lan-udp")
 FLOOD_PAUSE = 0.005  # seconds between two rounds
 
@@ -96,7 +97,7 @@ def send():
         try:
             send_probe(kind, address, port)
         except OSError:
-            pass  # refused on the spot; whether it got out is for the listener to say
+            pass  # refused at once; the listener reports whether it left
 
 
 def become(uid, group):
@@ -110,8 +111,8 @@ def become(uid, group):
 
 
 def serve():
-    """A process of its own for each, which costs a twentieth of an interpreter's start."""
-    target_of(SENTINEL, 0)  # loads what makes an address of a text
+    """Forks a process for each line, which takes a twentieth of an interpreter's start."""
+    target_of(SENTINEL, 0)  # loads the module that parses addresses
     print("ready", flush=True)
     for line in sys.stdin:
         uid, group, what = line.split()
@@ -155,7 +156,7 @@ def flood():
 
 @functools.cache
 def known():
-    """The probes by where they go."""
+    """The probes by their destination."""
     names = {}
     for name, (kind, target, port) in PROBES.items():
         names.setdefault((target.split("%")[0], port, "tcp" if kind == "tcp" else "udp"), name)
@@ -196,7 +197,7 @@ def listen():
         print("ready", flush=True)
         while True:
             lines = ""
-            for turn in range(100):  # what is there already is told at once with the first
+            for turn in range(100):  # packets that have arrived already are reported with the first one
                 try:
                     packet, about = wire.recvfrom(65535, socket.MSG_DONTWAIT if turn else 0)
                 except BlockingIOError:
@@ -208,13 +209,13 @@ def listen():
 
 
 def hold():
-    """A UDP socket and a TCP connection to the peer, from before the rules, used again at each line."""
+    """Opens a UDP socket and a TCP connection to the peer before the rules are loaded, and sends on both at each line."""
     with socket.create_connection((PUBLIC, 1001)) as stream, socket.socket(socket.AF_INET, socket.SOCK_DGRAM) as dgram:
         dgram.connect((PUBLIC, 53))
         dgram.send(b"probe")
         print("ready", flush=True)
         for _ in sys.stdin:
-            for old in stream, dgram, dgram:  # the first of the two may only report the answer to the one before
+            for old in stream, dgram, dgram:  # the first send may only report the answer to the previous packet
                 try:
                     old.send(b"more")
                 except OSError:

@@ -1,8 +1,8 @@
-"""Services of a desktop in a test's machine: a user's session bus with GNOME's settings and systemd-resolved, which are the real
-ones, and a system's own Tor service, which is a stand-in with systemctl's words.
+"""Services of a desktop in a test's machine. The session bus with GNOME's settings and systemd-resolved are the real ones. The
+system's own Tor service is a stand-in with a stand-in of systemctl.
 
     start_session_bus(machine), as_user(machine, script)
-    require_resolved() before anything else, daemon = start_resolved(machine); daemon.wait() after the machine was closed
+    call require_resolved() first, then daemon = start_resolved(machine); call daemon.wait() after closing the machine
     add_systemctl(machine), start_tor_service(machine)
 """
 
@@ -13,7 +13,7 @@ import sys
 from namespace import USER_UID
 
 RUNTIME = f"/run/user/{USER_UID}"
-SESSION = {"PATH": os.environ["PATH"], "PKEXEC_UID": str(USER_UID)}  # of a helper that this user's prompt has started
+SESSION = {"PATH": os.environ["PATH"], "PKEXEC_UID": str(USER_UID)}  # of a helper that this user's prompt starts
 DESKTOP = {
     "PATH": os.environ["PATH"],
     "HOME": "/home/alice",
@@ -35,7 +35,7 @@ def start_session_bus(machine):
 
 
 def gnome_settings(machine):
-    """What every program sees, and what is set."""
+    """The settings that every program reads, and the ones that are set."""
     return as_user(machine, "gsettings list-recursively org.gnome.system.proxy | sort"), as_user(
         machine, "dconf dump /system/proxy/"
     )
@@ -49,7 +49,7 @@ def require_resolved():
 
 
 def start_resolved(machine):
-    """With two links that have an address each, w0 and w1; the system's resolver file is the daemon's."""
+    """Starts systemd-resolved with two links, w0 and w1, that have an address each. The system's resolver file is the daemon's."""
     machine.shell(
         """
         mount -t overlay -o "lowerdir=$1/usr/bin:/usr/bin" private /usr/bin
@@ -68,7 +68,8 @@ def start_resolved(machine):
 
 
 def add_global_servers(machine, servers, more=""):
-    """In the daemon's configuration, with a systemctl that can start it anew; after start_resolved() and add_systemctl()."""
+    """Adds servers to the daemon's configuration, and a systemctl that can restart it. Call it after start_resolved() and
+    add_systemctl()."""
     machine.shell(
         r"""
         cd /run/units; unit=systemd-resolved.service
@@ -94,8 +95,8 @@ def resolved_settings(machine):
     return machine.shell("for k in dns domain default-route dnsovertls dnssec; do echo $k; resolvectl $k; done")
 
 
-# Keeps what it knows in /run/units: NAME is a unit's program, NAME.pid its process. A unit whose file NAME.stuck is there can be
-# neither started nor stopped.
+# The stand-in of systemctl keeps its state in /run/units: NAME is a unit's program, NAME.pid its process. A unit with a file
+# NAME.stuck can neither be started nor stopped.
 SYSTEMCTL = r"""#!/bin/bash
 cd /run/units
 echo "$*" >>said
@@ -131,7 +132,7 @@ reset-failed-*) ;;
 esac
 """
 
-# Listens on a Tor's ports as Debian's does: opened by root, run by an account of its own.
+# Listens on Tor's ports like Debian's service: root opens the ports, and an account of its own runs the service.
 TOR_SERVICE = """#!/usr/bin/python3
 import ctypes, os, signal, socket
 ctypes.CDLL(None).prctl(15, b"tor")

@@ -10,21 +10,21 @@ set -o functrace
 . "$helper"
 : >"$changes"
 
-# What a change begins with.
+# The beginnings of commands that change something.
 stepped_words=" mkdir mv rm rmdir chmod chown mount umount useradd kill timeout nft sync : networksetup pfctl exec launchctl perl dscl "
 
 # is_change COMMAND
 is_change() {
   [[ $stepped_words == *" ${1%% *} "* ]] || return 1
   case $1 in
-  "timeout -k 1 \"\$1\" head "*) return 1 ;; # take_output only reads, beside what it reads from
+  "timeout -k 1 \"\$1\" head "*) return 1 ;; # take_output itself only reads; its command may change something
   nft\ -f* | "nft delete "* | "sync -- \"\$1\"" | :\ \>*) ;;
   'networksetup "$@"'* | pfctl\ -q* | "exec pfctl"* | launchctl\ boot* | 'perl -e "$PUT"'* | dscl\ .\ -create*) ;;
   nft* | sync* | :* | networksetup* | pfctl* | exec* | launchctl* | perl* | dscl*) return 1 ;;
   esac
 }
 
-# stop_after COMMAND LINES: notes a change; whether it is the one to end with. A line that comes again, in a loop, gets a number.
+# stop_after COMMAND LINES: notes a change, and tells whether to stop after it. A line that repeats in a loop gets a number.
 stop_after() {
   local line former='' number=0
   line="$2 $1"
@@ -36,7 +36,7 @@ stop_after() {
   [[ $line == "$kill_after" ]]
 }
 
-# at_edge COMMAND: whether the mark is to be made now.
+# at_edge COMMAND: whether to make the mark now.
 at_edge() {
   [[ -n $edge && $1 == "$edge"* && ! -e $changes.marked ]] && : >"$changes.marked"
 }
@@ -45,12 +45,12 @@ rm -f -- "$changes.marked"
 stepped_text='
   if [[ -n $edge ]] && at_edge "$BASH_COMMAND"; then "$mark" || true; fi
   if is_change "$BASH_COMMAND" && stop_after "$BASH_COMMAND" "${FUNCNAME[*]} ${BASH_LINENO[*]}"; then
-    # What becomes another program comes to its change after the kill of the rest.
+    # A subshell that becomes another program makes its change after the others are killed.
     case $BASH_COMMAND in exec\ *) kill -KILL $$ ;; esac
     eval "$BASH_COMMAND" || true
     if at_edge "${BASH_COMMAND/#nft -f*/note_listing}"; then "$mark" || true; fi
     kill -KILL $$ $BASHPID
   fi'
-# Bash reads a trap anew before each command, so this one is short.
+# Bash parses a trap again before each command, so this one is short.
 trap '[[ "$stepped_words${edge%% *} " != *" ${BASH_COMMAND%% *} "* ]] || eval "$stepped_text"' DEBUG
 main "$@"

@@ -1,18 +1,30 @@
-"""Tor's account, as code that runs there may use it, over bridges too, and what the control port's password lets do."""
+"""What code in Tor's account can reach, with and without bridges, and what the control port's password permits."""
 
 import os
+import subprocess
 
 import namespace
 import probes
 from hostile import HostileTest
-from namespace import OTHER_UID, TOR_GROUP, USER_UID
+from namespace import AS_TOR, OTHER_UID, TOR_GROUP, USER_UID
 
 DATA = "/var/lib/veldmark/run/tor/data"
+
+# As Tor's account: makes sockets and hands them to who connects to its own, which no folder has.
+GIVE = (
+    "import socket\ns = socket.socket(socket.AF_UNIX); s.bind('\\0handed'); s.listen(); print('up', flush=True); c, _ = s.accept()\n"
+    "three = [socket.socket() for _ in range(3)]; socket.send_fds(c, [b'x'], [t.fileno() for t in three])"
+)
+# As anybody: takes them and uses one for each line that it reads.
+TAKE = (
+    "import socket, sys\nc = socket.socket(socket.AF_UNIX); c.connect('\\0handed'); fds = socket.recv_fds(c, 9, 3)[1]; print('has', flush=True)\n"
+    "for line in sys.stdin:\n s = socket.socket(fileno=fds.pop()); s.setblocking(False); s.connect_ex((sys.argv[1], 1001)); print('used', flush=True)"
+)
 
 
 class Account(HostileTest):
     def test_tors_account_alone_passes_nothing(self):
-        """A setuid file that it has left in an earlier session, say."""
+        """A setuid file that Tor's account has left in an earlier session runs outside Tor's control group."""
         self.machine.connect()
         self.assertIn("https", self.wire.arrivals(self.tor_uid, TOR_GROUP))
         self.assertEqual(self.wire.arrivals(self.tor_uid), set())
@@ -21,6 +33,66 @@ class Account(HostileTest):
         )
         self.machine.help("disconnect")
         self.assertIn("https", self.wire.arrivals(self.tor_uid))
+
+    def test_a_socket_that_it_hands_over_passes_nothing_in_a_later_session(self):
+        """In the same session it does, and after a connect upon that session, too."""
+        self.machine.connect()
+        options = {"stdin": subprocess.PIPE, "stdout": subprocess.PIPE, "text": True}
+        giver = self.machine.start(*AS_TOR, "/usr/bin/python3", "-c", GIVE, group=TOR_GROUP, **options)
+        self.assertEqual(giver.stdout.readline(), "up\n")
+        taker = self.machine.start("/usr/bin/python3", "-c", TAKE, probes.PUBLIC, uid=OTHER_UID, **options)
+        try:
+            self.assertEqual(taker.stdout.readline(), "has\n")
+            giver.communicate()
+
+            def seen():
+                self.wire.mark()
+                taker.stdin.write("use\n")
+                taker.stdin.flush()
+                self.assertEqual(taker.stdout.readline(), "used\n")
+                return "tcp" in self.wire.mark()
+
+            self.assertTrue(seen())
+            self.machine.connect()
+            self.assertTrue(seen(), "after another connect")
+            self.assertIn("https", self.wire.arrivals(self.tor_uid, TOR_GROUP))
+            left = self.machine.start("sleep", "1000", group=TOR_GROUP)  # what is in the group keeps it past the end of the session
+            self.machine.shell(f"until pgrep -x sleep && grep -q . {TOR_GROUP}/cgroup.procs; do sleep 0.01; done")
+            self.machine.help("disconnect")
+            self.machine.shell(f"test -d {TOR_GROUP}")
+            self.machine.connect()
+            self.assertFalse(seen(), "in a later session")
+            left.kill()
+            self.machine.shell("pkill -x sleep || true")
+            left.wait()
+        finally:
+            taker.communicate()
+
+    def test_wrong_requests_do_not_fill_the_disk(self):
+        """Each is a line of its log. Tor goes on where the log may not grow."""
+        log = "/var/lib/veldmark/run/notices.log"
+        flood = (
+            "import socket\nfor n in range(300):\n with socket.create_connection(('127.0.0.1', 9051)) as s:\n  s.sendall(b'AUTHENTICATE \"no\"\\r\\n')\n"
+            "  while s.recv(999): pass"
+        )
+        self.machine.connect()
+        [tor] = self.machine.tor_pids()
+        self.assertIn("Max file size             104857600            104857600 ", self.machine.shell(f"cat /proc/{tor}/limits"))
+        self.machine.run("/usr/bin/python3", "-c", flood)
+        self.assertGreater(int(self.machine.shell(f"stat -c %s {log}")), 20480)
+        self.machine.help("disconnect")
+        # The same with a smaller limit.
+        self.machine.shell(
+            f"sed 's/^ulimit -f 102400$/ulimit -f 20/' {self.machine.helper} >/mnt/helper; ! cmp -s {self.machine.helper} /mnt/helper"
+        )
+        self.machine.run(
+            *("/bin/bash", "/mnt/helper", "connect", "--tor", namespace.TOR),
+            *("--hash", namespace.HASH, "--strict", "1", "--lan", "0"),
+        )
+        [tor] = self.machine.tor_pids()
+        self.machine.run("/usr/bin/python3", "-c", flood)
+        self.assertLessEqual(int(self.machine.shell(f"stat -c %s {log}")), 20480)
+        self.assertEqual(self.machine.tor_pids(), [tor])
 
     def test_without_such_groups_it_is_the_account_alone(self):
         self.machine.shell("umount /sys/fs/cgroup")
@@ -45,13 +117,13 @@ class Account(HostileTest):
             self.assertEqual(self.wire.arrivals(self.tor_uid, TOR_GROUP) & lan, reached, url)
 
     def test_over_bridges_tors_account_reaches_nothing_else(self):
-        """Whoever has the control password can name proxies, bridges and programs."""
-        bridges = [f"{probes.SENTINEL}:{self.wire.marks + number}" for number in range(1, 5)]  # what tells the end of a round
+        """A program with the control password can configure proxies, bridges and programs, so the firewall limits the addresses."""
+        bridges = [f"{probes.SENTINEL}:{self.wire.marks + number}" for number in range(1, 5)]  # they mark a round's end
         bridges += [f"obfs4 {probes.PUBLIC}:443 cert=a iat-mode=0", f"[{probes.PUBLIC6}]:1002", f"{probes.LAN}:1006"]
         more = [word for bridge in bridges for word in ("--bridge", bridge)] + ["--pt-lyrebird", "/usr/bin/obfs4proxy"]
         self.machine.connect(more=more)
         self.assertEqual(self.wire.arrivals(self.tor_uid, TOR_GROUP), {"https", "tcp6", "lan-tcp"})
-        # Where the transport asks a front, or the administrator has put a proxy in between, it may be anybody.
+        # With a transport that uses a front, or with an administrator's proxy, the address of the bridge is not known beforehand.
         self.machine.connect(more=[*more, "--bridge", "webtunnel 192.0.2.3:80 url=https://a.example/"])
         self.assertLessEqual({"tcp", "https", "dns-tls"}, self.wire.arrivals(self.tor_uid, TOR_GROUP))
         for line in "HTTPSProxy 192.0.2.8:8", "%include /run/more":
@@ -102,12 +174,13 @@ class Account(HostileTest):
         ):
             self.assertRegex(self.control(words)[-1], "^51[45] ")
         self.assertEqual(self.control('AUTHENTICATE "the word"', "SETCONF HTTPSProxy=192.0.2.8:8"), ["250 OK", "250 OK"])
-        # Not even its hash is told, which could be tried out elsewhere.
+        # The password's hash is not readable either, since passwords could be tried against it.
         for uid in USER_UID, OTHER_UID:
             self.assertNotEqual(self.machine.run("cat", "/var/lib/veldmark/run/torrc", uid=uid, check=False).returncode, 0)
 
     def test_without_bridges_the_password_runs_no_program(self):
-        """Tor takes the words, and starts nothing. It is let to the network, which leads nowhere here: else it starts none anyhow."""
+        """Tor accepts the command and starts no program. It has network access (which leads nowhere here), since it never starts
+        one without."""
         words = (
             'AUTHENTICATE "the word"',
             f'SETCONF ClientTransportPlugin="obfs4 exec /usr/bin/touch {DATA}/ran" UseBridges=1 Bridge="obfs4 192.0.2.1:443"',
@@ -128,7 +201,7 @@ class Account(HostileTest):
             self.machine.shell(f"rm -f {DATA}/ran")
 
     def as_tor_within(self, script):
-        """In Tor's own mounts, as code of its account would run there."""
+        """Runs a script in Tor's own mounts, like code of Tor's account."""
         [pid] = self.machine.tor_pids()
         return self.machine.run(
             "nsenter",
@@ -182,6 +255,19 @@ class Account(HostileTest):
             self.assertEqual(mounted(), "0")
         finally:
             self.machine.shell("mountpoint -q /opt/stick && umount /opt/stick; rmdir /opt/stick; mount --make-rprivate /")
+
+    def test_file_systems_of_users_are_hidden_without_a_complaint(self):
+        place = "/home/card"
+        self.machine.shell(f"mkdir {place}; mount -t tmpfs session {place}; echo known >{place}/seen; chmod 755 {place}")
+        try:
+            self.assertEqual(self.machine.run("cat", f"{place}/seen", uid=OTHER_UID).stdout, "known\n")
+            self.machine.connect()
+            self.assertEqual(
+                self.as_tor_within(f"cat {place}/seen 2>/dev/null; touch {place}/left 2>/dev/null || echo none").stdout, "none\n"
+            )
+            self.assertEqual(self.machine.shell("cat /var/lib/veldmark/run/launcher.out"), "")
+        finally:
+            self.machine.shell(f"umount {place}; rmdir {place}")
 
     def test_the_data_folder_of_an_earlier_version_is_taken_over(self):
         self.machine.shell(

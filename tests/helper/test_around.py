@@ -1,4 +1,4 @@
-"""Ways around the rules: by other tables, by applications that are let out, by what the system's own may send."""
+"""Ways around the rules: other tables, applications without Tor, and packets that only the system's accounts may send."""
 
 import subprocess
 
@@ -11,7 +11,7 @@ from wire import LINK
 
 class Around(HostileTest):
     def mapped(self, address, port):
-        """What comes to the wire of a connection to this computer's own address that another table turns to `address`."""
+        """The packets on the wire of a connection to this computer's own address that another table redirects to `address`."""
         self.machine.shell(
             f"nft -f - <<<'table ip other {{ chain o {{ type nat hook output priority -100; ip daddr 192.168.77.2 tcp dport 8080 dnat to {address}:{port}; }}; }}'"
         )
@@ -38,7 +38,8 @@ class Around(HostileTest):
         self.assertEqual(self.mapped(probes.LAN, 1006), {"lan-tcp"})
 
     def test_an_application_without_tor_answers_nobody_elsewhere(self):
-        """What it is asked on this computer may come with any sender, who then gets the answer, from the real address."""
+        """A program on this computer can forge the sender of a packet. The answer would then go to that sender from the real
+        address."""
         server = (
             "import os, socket, sys, threading\nthreading.Thread(target=lambda: (sys.stdin.read(), os._exit(0)), daemon=True).start()\n"
             "s = socket.socket(socket.AF_INET6, socket.SOCK_DGRAM); s.bind(('::', 6881)); print('up', flush=True)\n"
@@ -53,14 +54,14 @@ class Around(HostileTest):
         for said in "refused\n", "sent\n":
             if said == "sent\n":
                 self.machine.end_watcher()
-                self.machine.shell("nft insert rule inet veldmark refused socket cgroupv2 level 1 '\"veldmark-exempt\"' accept")
+                self.machine.shell("nft insert rule inet veldmark refused socket cgroupv2 level 1 '\"veldmark-bypass\"' accept")
             self.wire.mark()
             process = self.machine.start(
                 "/usr/bin/python3",
                 "-c",
                 server,
                 uid=USER_UID,
-                group="/sys/fs/cgroup/veldmark-exempt",
+                group="/sys/fs/cgroup/veldmark-bypass",
                 stdin=subprocess.PIPE,
                 stdout=subprocess.PIPE,
                 text=True,
@@ -70,11 +71,11 @@ class Around(HostileTest):
             self.assertEqual(process.stdout.readline(), said)
             process.communicate()
             seen = self.wire.mark()
-            self.assertIn(f"other udp {probes.PUBLIC6} 40405", seen, "what it sends of its own accord leaves")
+            self.assertIn(f"other udp {probes.PUBLIC6} 40405", seen, "its own packets leave")
             self.assertEqual(f"other udp {probes.PUBLIC6} 40404" in seen, said == "sent\n")
 
     def test_only_the_systems_own_ask_for_an_address(self):
-        """Where somebody has opened the ports below 1024 to everybody."""
+        """The administrator may have opened the ports below 1024 to every account."""
         ask = (
             "import socket\nfor a, own, port in ('192.168.77.1', 68, 67), ('255.255.255.255', 68, 67), ('fe80::1%veth0', 546, 547), ('ff02::1:2%veth0', 546, 547), ('203.0.113.9', 68, 67),"
             " ('2001:db8:9::9', 546, 547):\n"
@@ -103,6 +104,37 @@ class Around(HostileTest):
         finally:
             self.machine.shell("sysctl -qw net.ipv4.ip_unprivileged_port_start=1024; ip neigh del fe80::1 dev veth0")
 
+    def test_a_vpns_own_packets_go_to_the_local_network_alone(self):
+        """Whoever's they are, a program's or the kernel's; and the local network has to be allowed."""
+        carry = "import socket, sys; s = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.connect((sys.argv[1], 4789))\ntry: s.send(b'?')\nexcept OSError: pass"
+
+        def carried():
+            """To which of the two servers the packets of a program of root's and of the kernel's own tunnel go."""
+            self.wire.mark()
+            for server in probes.PUBLIC, probes.LAN:
+                self.machine.run("/usr/bin/python3", "-c", carry, server)
+                self.machine.shell(
+                    f"ip link add vpn type vxlan id 5 remote {server} local 192.168.77.2 dstport 4790; ip addr add 10.99.0.1/24 dev vpn; ip link set vpn up;"
+                    "ip neigh replace 10.99.0.2 lladdr 02:00:00:00:00:09 dev vpn"
+                )
+                # What goes into the tunnel is let out as Tor's, or as the local network's.
+                self.machine.run(
+                    "/usr/bin/python3",
+                    "-c",
+                    "import socket; s = socket.socket(); s.setblocking(False); s.connect_ex(('10.99.0.2', 443))",
+                    uid=self.tor_uid,
+                    group=TOR_GROUP,
+                )
+                self.machine.shell("ip link del vpn")
+            return sorted({tuple(line.split()[2:]) for line in self.wire.mark() if line.endswith((" 4789", " 4790"))})
+
+        both = [(address, port) for address in (probes.LAN, probes.PUBLIC) for port in ("4789", "4790")]
+        self.assertEqual(carried(), sorted(both))
+        self.machine.connect()
+        self.assertEqual(carried(), [])
+        self.machine.connect(lan=1)
+        self.assertEqual(carried(), sorted(both[:2]))
+
     def test_what_a_program_makes_up_is_no_neighbour_discovery(self):
         solicit = (
             "import socket, struct; s = socket.socket(socket.AF_INET6, socket.SOCK_RAW, socket.IPPROTO_ICMPV6);"
@@ -118,7 +150,7 @@ class Around(HostileTest):
         self.assertEqual(seen(), {"icmp6 135 far away"})
         self.machine.connect()
         self.assertEqual(seen(), set())
-        # The kernel's own goes on.
+        # The kernel's own neighbour discovery keeps working.
         self.machine.shell(f"ip neigh flush dev veth0; ping -6 -c 1 -W 0.1 {probes.LAN6} || true")
 
 

@@ -1,4 +1,4 @@
-"""A transport runs unasked where the Tor Project has signed the archive that it came from, as root has seen itself, and in no other case."""
+"""A transport runs without an approval only when root has verified the Tor Project's signature of the archive that contains it."""
 
 import namespace
 from bundlecase import ARCHIVE, LYREBIRD, MEMBER, NEW_BUNDLE, NOTE, PROGRAMS, PROMPT, BundleCase
@@ -19,7 +19,7 @@ class Signed(BundleCase):
         self.assertEqual(self.machine.shell(f"stat -c '%a %u' {NOTE}"), "600 0\n")
         self.assertEqual(self.machine.shell(f"ls -d {NEW_BUNDLE} {PROGRAMS}/new 2>/dev/null || true"), "")
         self.machine.help("disconnect")
-        self.connect(more=())  # the copy is there
+        self.connect(more=())  # the copy exists
 
     def test_names_with_a_dot_before_them(self):
         program = transport("dot")
@@ -44,7 +44,7 @@ class Signed(BundleCase):
         archive = bundle(member(MEMBER, program))
         right, wrong = self.signer.sign(archive), self.other.sign(archive)
         key, others = self.signer.key, self.other.key
-        # A subkey of somebody else's, put behind the signer's key with the binding that its own owner made.
+        # Another signer's subkey after this signer's key, with the binding that the other signer made.
         ours, theirs = packets(key), packets(others)
         at = [kind for kind, _ in theirs].index(14)
         foreign = b"".join(packet for _, packet in theirs[at:])
@@ -81,10 +81,10 @@ class Signed(BundleCase):
         self.bring(program, archive[:-1] + b"x", signature=right)
         self.assertAsked(self.connect(check=False))
         self.bring(program, archive, signature=right)
-        self.connect()  # the control
+        self.connect()  # the positive case
 
     def test_a_key_of_the_real_ones_kind(self):
-        """RSA, whose packets have a length of two bytes."""
+        """The real keys are RSA keys, whose packets have a length of two bytes."""
         signer = Signer("Long", "rsa4096")
         self.assertIn(0x99, {packet[0] for kind, packet in packets(signer.key) if kind == 6})
         program = transport("long")
@@ -102,20 +102,20 @@ class Signed(BundleCase):
             self.bring(program, archive, signature=signature, key=key)
             self.machine.shell(f"rm -rf {PROGRAMS} {NOTE}")
             done = self.machine.run("/bin/bash", path, *self.WORDS, "--bundle", ARCHIVE, env=PROMPT, check=False)
-            self.assertEqual(done.returncode, 0 if runs else 3, done.stderr)
+            self.assertEqual(done.returncode, 0 if runs else 4, done.stderr)
             self.machine.help("disconnect")
 
     def test_a_clock_that_is_wrong_lets_nothing_in(self):
-        """To it the key is made in the future."""
+        """To that clock the key was made in the future."""
         late = Signer("Late", made="20900101T000000")
         program = transport("late")
         archive = bundle(member(MEMBER, program))
         self.bring(program, archive, signature=late.sign(archive, "20900201T000000"), key=late.key)
         done = self.machine.run("/bin/bash", self.helper_of(late), *self.WORDS, "--bundle", ARCHIVE, env=PROMPT, check=False)
-        self.assertEqual(done.returncode, 3, done.stderr)
+        self.assertEqual(done.returncode, 4, done.stderr)
 
     def test_what_was_signed_before_the_key_went_out_of_date_counts(self):
-        """A bundle does not go bad: subkeys change every two years."""
+        """A bundle stays valid although subkeys change every two years."""
         former = Signer("Former")
         program = transport("former")
         archive = bundle(member(MEMBER, program))
@@ -123,7 +123,7 @@ class Signed(BundleCase):
         self.machine.run("/bin/bash", self.helper_of(former), *self.WORDS, "--bundle", ARCHIVE, env=PROMPT)
 
     def test_prompt_of_a_connect_is_enough_too(self):
-        """It asks for no more than the connect, and names no program."""
+        """The prompt of a connect names no program, and none is needed: the bundle is signed."""
         self.bring(transport("one"))
         self.machine.help(*self.WORDS, "--bundle", ARCHIVE, env=PROMPT)
 
@@ -161,13 +161,13 @@ class Rollback(BundleCase):
         self.connect()
 
     def test_former_copy_is_dropped_once_another_session_runs_and_never_runs_meanwhile(self):
-        """The connect that has seen the newer bundle fails afterwards: the session before it keeps its program's file."""
+        """A connect with a newer bundle fails late. The running session keeps its program's file."""
         old, new = transport("old"), transport("new")
         self.bring(old)
         self.connect()
         former = self.digest()
         self.bring(new, now=FEBRUARY)
-        self.assertOneLine(self.connect(check=False), "change the strict session")
+        self.assertOneLine(self.connect(check=False), "change the running strict session")
         self.assertIn(f"former {former}/lyrebird", self.note())
         self.assertIn(f"./{former}/lyrebird", self.copies())
         self.machine.help("disconnect")
@@ -183,7 +183,7 @@ class Rollback(BundleCase):
         approved = f"./{self.digest()}/lyrebird"
         self.bring(transport("signed"))
         self.connect()
-        self.machine.approve(LYREBIRD, "lyrebird", env=PROMPT)  # by both
+        self.machine.approve(LYREBIRD, "lyrebird", env=PROMPT)  # approved in both ways
         both = f"./{self.digest()}/lyrebird"
         self.machine.help("disconnect")
         self.bring(transport("newer"), now=FEBRUARY)

@@ -1,4 +1,4 @@
-"""What is brought as the Tor Project's bundle, made to harm whoever reads it, and programs that meddle while it is read."""
+"""Hostile archives in the place of the Tor Project's bundle, and programs that interfere while the helper reads one."""
 
 import concurrent.futures
 import os
@@ -16,7 +16,7 @@ from thief import NOBODY, Thief
 
 class Hostile(BundleCase):
     def test_archives_with_odd_members_put_nothing_anywhere(self):
-        """Signed, since no other archive is ever opened."""
+        """These archives are signed, since the helper opens no other."""
         program = transport("one")
         escaped = "/tmp/veldmark-bundle-escaped"
         zeros = tarfile.TarInfo(MEMBER)
@@ -45,7 +45,7 @@ class Hostile(BundleCase):
                 self.assertAsked(self.connect(check=False))
                 self.assertEqual(self.copies(), [])
                 self.assertFalse(os.path.lexists(escaped))
-        self.bring(b"", bundle(member(MEMBER, kind=tarfile.SYMTYPE, link="x")))  # no content at all is no program
+        self.bring(b"", bundle(member(MEMBER, kind=tarfile.SYMTYPE, link="x")))  # an empty member is no program
         self.assertAsked(self.connect(check=False))
 
     def test_files_that_are_none(self):
@@ -117,7 +117,7 @@ class Hostile(BundleCase):
         self.assertNotEqual(self.machine.shell(f"ls -d {NEW_BUNDLE}"), "")
         self.machine.help("disconnect")
         self.assertEqual(self.machine.shell(f"ls -d {NEW_BUNDLE} 2>/dev/null || true"), "")
-        self.assertLessEqual(set(self.copies()), {"./new"})  # what no run takes for approved
+        self.assertLessEqual(set(self.copies()), {"./new"})  # a program that no run takes for approved
         self.connect()
         self.assertEqual(len(self.copies()), 1)
 
@@ -139,7 +139,7 @@ class Hostile(BundleCase):
             self.assertEqual(run.communicate(timeout=60), (b"", b""))
 
     def test_what_runs_as_nobody_does_not_say_what_gpgv_says(self):
-        """Other services run so, and each of an account's processes can take over another's output."""
+        """Other services run as nobody, and a process can take over the output of another process of its account."""
         evil = transport("evil")
         archive = bundle(member(MEMBER, evil))
         verdict = f"[GNUPG:] VALIDSIG {self.signer.fingerprint} 2026-01-01 1767225600 0 4 0 22 8 00 {self.signer.fingerprint}"
@@ -158,7 +158,7 @@ class Hostile(BundleCase):
                 self.machine.help("disconnect")
 
     def test_archive_that_the_readers_descriptor_would_change_afterwards(self):
-        """What reads it runs as the caller, whose other programs can take its output over."""
+        """The reader runs as the caller, and the caller's other programs can take over its output."""
         good, evil = transport("good"), transport("evil")
         self.bring(good)
         self.put(LYREBIRD, evil)
@@ -180,7 +180,7 @@ class Hostile(BundleCase):
         self.machine.shell(f"install -m 0711 /usr/bin/true {other}")
         more = ("--bridge", "webtunnel 192.0.2.3:80 url=https://a.example/", "--pt-webtunnel", other, "--bundle", ARCHIVE)
         self.assertOneLine(self.connect(more=more, check=False), f"The program {other} cannot be copied.")
-        self.assertEqual(len(self.copies()), 1, "the bundle was looked at, and nothing else is there")
+        self.assertEqual(len(self.copies()), 1, "the bundle was verified, and there is no other copy")
 
     def test_gpgv_that_was_taken_over_leaves_nothing_running(self):
         self.bring(transport("one"))

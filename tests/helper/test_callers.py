@@ -1,4 +1,4 @@
-"""What a caller who is let in without a password hands over with a run of the helper, to keep it from its work."""
+"""A caller with password-free rights tries to disturb a run of the helper by what the run inherits."""
 
 import fcntl
 import os
@@ -35,7 +35,7 @@ class Callers(HelperTest):
         )
 
     def full_pipe(self):
-        """A pipe that takes nothing more."""
+        """A full pipe."""
         reading, writing = os.pipe()
         flags = fcntl.fcntl(writing, fcntl.F_GETFL)
         fcntl.fcntl(writing, fcntl.F_SETFL, flags | os.O_NONBLOCK)
@@ -53,7 +53,7 @@ class Callers(HelperTest):
         return reading, writing
 
     def await_lock(self, run):
-        """Returns when a run has taken the lock and has let it go again."""
+        """Returns when a run has taken and released the lock."""
         pid = run.stdout.readline().strip()
         self.machine.shell(
             f"held() {{ ls -l /proc/{pid}/fd | grep -q veldmark.lock; }}; until held; do :; done; while held; do sleep 0.01; done",
@@ -72,9 +72,7 @@ class Callers(HelperTest):
         while not said.endswith(b".\n"):
             said += os.read(reading, 65536)
         self.assertEqual(run.wait(20), 3)
-        self.assertEqual(
-            said.lstrip(b"x"), b"ERROR: An administrator password is needed to change the strict session that is running.\n"
-        )
+        self.assertEqual(said.lstrip(b"x"), b"ERROR: An administrator password is needed to change the running strict session.\n")
 
     def test_what_it_says_of_a_failure_comes_after_all_is_undone(self):
         before = self.machine.snapshot()
@@ -96,7 +94,7 @@ class Callers(HelperTest):
         self.assertEqual(run.wait(20), 1)
 
     def test_rules_that_cannot_be_looked_at_are_not_taken_for_gone(self):
-        """As when no more processes can be started just then: else a strict session could be lessened."""
+        """nft may fail because no process can be started. A strict session must not be weakened then."""
         self.machine.help_by_rule(*CONNECT)
         self.machine.shell(
             'cp /usr/sbin/nft /mnt/nft.true; printf \'#!/bin/sh\\n[ "$1 $2" != "list chain" ] || kill -9 $$\\nexec /mnt/nft.true "$@"\\n\' >/mnt/nft;'
@@ -105,7 +103,7 @@ class Callers(HelperTest):
         try:
             for line in [*CONNECT[:-4], "--strict", "0", "--lan", "0"], CONNECT[:-1] + ["1"], CONNECT:
                 done = self.machine.help_by_rule(*line, check=False)
-                self.assertOneLine(done, "The firewall cannot be looked at")
+                self.assertOneLine(done, "The firewall rules cannot be read")
                 self.assertEqual(
                     self.machine.shell("cat /var/lib/veldmark/state/active; grep lan /var/lib/veldmark/asked"), "strict\nlan 0\n"
                 )
@@ -114,7 +112,7 @@ class Callers(HelperTest):
         self.machine.help_by_rule(*CONNECT)
 
     def test_programs_of_others_get_no_descriptor_of_the_runs(self):
-        """Whoever holds a lock's descriptor can keep the lock, or give it away."""
+        """A program with the descriptor of a lock could keep the lock or pass it on."""
         script = (
             '. "$1"; exec 7>/run/seven 8>/run/eight 9>/run/nine; CALLER_UID=4242 CALLER_GID=4242 CALLER_HOME=/; cd /; as_caller 5 ls -l /proc/self/fd || echo $?;'
             "ls -l /proc/self/fd >&2"
@@ -126,7 +124,7 @@ class Callers(HelperTest):
             self.assertNotIn(f"/run/{name}", done.stdout)
 
     def test_timers_of_the_callers_are_not_taken_over(self):
-        """One that may be late by a minute would let the watcher sleep."""
+        """A timer slack of a minute would let the watcher sleep for a minute."""
         late = "import ctypes, os, sys; ctypes.CDLL(None).prctl(29, ctypes.c_ulong(60 * 10 ** 9), 0, 0, 0); os.execv(sys.argv[1], sys.argv[1:])"
         self.assertEqual(
             self.machine.run("/usr/bin/python3", "-c", late, "/bin/cat", "/proc/self/timerslack_ns").stdout, "60000000000\n"

@@ -1,5 +1,5 @@
-"""The rules as text, and real packets against real rules: what may reach the wire in each state, and that each probe is
-seen there when nothing blocks it."""
+"""The rules as text, and real packets against real rules. The tests check which packets reach the wire in each state, and that each
+probe reaches it when nothing blocks it."""
 
 import subprocess
 
@@ -10,7 +10,7 @@ from wire import LINK, PROBES_PY, Wire
 
 ALL = set(probes.PROBES)
 
-# Never seen with rules: a packet to the loopback address on the wire.
+# A packet to the loopback address never reaches the wire under the rules.
 NEVER = {"bound-loopback"}
 
 
@@ -77,7 +77,7 @@ class Firewall(HelperTest):
             self.assertEqual([line for line in self.wire.arrivals() if "127.0.0" in line or line in NEVER], [])
 
     def test_connections_from_before_do_not_go_on(self):
-        """Strict cuts both; proxy mode cuts the look-ups."""
+        """Strict mode cuts both connections; proxy mode cuts the DNS lookups."""
         for strict in 1, 0:
             holder = self.machine.start(
                 "/usr/bin/python3", PROBES_PY, "hold", stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True
@@ -91,7 +91,7 @@ class Firewall(HelperTest):
                 self.assertEqual(holder.stdout.readline(), "sent\n")
                 return set(self.wire.mark()) - LINK
 
-            self.assertEqual(use() & ALL, {"tcp", "dns"})  # and what the kernel sends by itself
+            self.assertEqual(use() & ALL, {"tcp", "dns"})  # besides the kernel's own packets
             self.machine.connect(strict=strict)
             self.wire.mark()
             self.assertEqual(use() & ALL if not strict else use(), set() if strict else {"tcp"})
@@ -99,7 +99,7 @@ class Firewall(HelperTest):
             self.machine.help("disconnect")
 
     def test_look_ups_arrive_at_tors_port(self):
-        """Whatever server they are meant for; with a stand-in at the port, since this Tor keeps it closed."""
+        """Lookups to any server arrive there. A stand-in listens at the port, since this Tor keeps it closed."""
         self.machine.connect(strict=1)
         self.wire.mark()
         stand_in = self.machine.start(
@@ -141,7 +141,7 @@ class Firewall(HelperTest):
             self.assertFalse(self.control_port(4243))
 
     def test_firewall_is_not_opened_while_somebody_changes_it(self):
-        """The watcher may be in the middle of putting the rules back: opening waits until it is done."""
+        """The watcher may be putting the rules back: a disconnect waits until it has finished."""
         self.machine.connect(strict=1)
         holder = self.machine.start(
             "flock",
@@ -164,7 +164,7 @@ class Firewall(HelperTest):
         self.assertEqual(self.machine.run("nft", "list", "ruleset").stdout, "")
 
     def test_answers_come_in_and_what_others_began_does_not(self):
-        """Also where the connection is older than the rules: only this side's own opening makes an answer of a packet."""
+        """A packet of a connection counts as an answer only when this computer opened the connection, also before the rules."""
         server = self.machine.start(
             "/usr/bin/python3",
             "-c",
@@ -182,7 +182,7 @@ class Firewall(HelperTest):
         )
         self.addCleanup(server.communicate)
         self.assertEqual(server.stdout.readline(), "up\n")
-        self.machine.connect(strict=0)  # its rules have the kernel follow connections
+        self.machine.connect(strict=0)  # these rules make the kernel track connections
         outside = subprocess.Popen(
             self.wire.peer.command(
                 [
@@ -209,7 +209,7 @@ class Firewall(HelperTest):
         self.assertEqual(arrives("a", 10), "a")
         self.machine.connect(strict=1)
         self.assertEqual(arrives("b", 0.5), "nothing")
-        # Tor's own connections have their answers: the server of the other end accepts.
+        # Tor's own connections get their answers: the server at the other end accepts.
         self.machine.run(
             "/usr/bin/python3",
             "-c",
@@ -219,7 +219,7 @@ class Firewall(HelperTest):
         )
 
     def test_programs_on_this_computer_reach_each_other(self):
-        """Over both kinds of addresses and on any port, a resolver's over TCP too; in both modes."""
+        """Both kinds of addresses and every port work in both modes, also the DNS port over TCP."""
         talk = """if True:
             import socket
             for family, address in (socket.AF_INET, '127.0.0.1'), (socket.AF_INET6, '::1'), (socket.AF_INET, '192.168.77.2'):
@@ -234,7 +234,7 @@ class Firewall(HelperTest):
             self.assertEqual(self.machine.run("/usr/bin/python3", "-c", talk).stdout, expected)
 
     def test_look_up_without_a_header_does_not_reach_tor(self):
-        """It ends some versions of Tor; a whole one arrives."""
+        """Such a lookup ends some versions of Tor. A complete lookup arrives."""
         ask = f"""if True:
             import os, socket
             there = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); there.bind(('127.0.0.1', {DNS_PORT})); there.settimeout(10)
@@ -258,7 +258,7 @@ class Firewall(HelperTest):
         self.machine.shell("nft delete table inet other")
 
     def test_forwarded_traffic_obeys_the_same_policy(self):
-        """As of a container, which has a link of its own and is routed through the machine."""
+        """A container has a link of its own, and the machine routes its traffic."""
         container = Peer(self.machine, "veth2", "veth3")
         self.addCleanup(container.close)
         container.run(
@@ -286,7 +286,7 @@ class Firewall(HelperTest):
         self.assertEqual(forwarded(), {"lan-tcp", "lan-udp"})
 
     def test_nobody_gets_in(self):
-        """A probe from outside gets no answer in strict mode, and one in the control run."""
+        """A probe from outside gets an answer without rules, and none in strict mode."""
         knock = [
             "/usr/bin/python3",
             "-c",

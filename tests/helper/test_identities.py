@@ -1,5 +1,5 @@
-"""An identity for each application: the address that Tor sees, and that nothing else follows from it. Tor is a stand-in that tells
-who connects the address that it sees."""
+"""An identity for each application: the address that Tor sees, which has no other effect. Tor is a stand-in that tells each client
+the address that it sees."""
 
 import os
 import re
@@ -55,7 +55,7 @@ class Identities(HelperTest):
 
     @classmethod
     def serve(cls, uid):
-        """Ends at its input's end."""
+        """Starts the stand-in of Tor, which ends at its input's end."""
         server = cls.machine.start("/usr/bin/python3", "-c", SERVER, uid=uid, stdin=subprocess.PIPE, stdout=subprocess.PIPE)
         server.stdout.readline()
         return server
@@ -70,7 +70,7 @@ class Identities(HelperTest):
         self.assertEqual(self.machine.shell(f"ls {STATE} /run/veldmark.identify 2>&1 | grep -c cannot").strip(), "2")
 
     def clear(self):
-        """The folders of the applications that tests have made."""
+        """Removes the folders of the applications that tests have made."""
         self.machine.shell(
             f'cd {APPS}; while [ -n "$(find . -mindepth 1 -type d)" ]; do find . -mindepth 1 -depth -type d -exec rmdir {{}} + || sleep 0.01; done'
         )
@@ -108,7 +108,7 @@ class Identities(HelperTest):
         return self.machine.shell("pgrep -x veldmark-identi").strip()
 
     def application(self, *names):
-        """Makes their groups, and waits until they are known."""
+        """Makes the applications' groups, and waits until veldmark-identify knows them."""
         self.machine.run(
             "/usr/bin/python3",
             "-c",
@@ -119,7 +119,7 @@ class Identities(HelperTest):
         )
 
     def mapped(self, *names):
-        """The same, and waits until the firewall knows all of them."""
+        """Makes the groups, and waits until the firewall knows all of them."""
         count = self.known()
         self.application(*names)
         self.until(lambda: self.known() == count + len(names))
@@ -136,10 +136,10 @@ class Identities(HelperTest):
         self.assertEqual(len(answers), 1, answers)
         return answers.pop()
 
-    # ---- Who is who ----
+    # ---- Which address an application has ----
 
     def test_each_application_has_its_own(self):
-        """In both modes: two windows of a program share one, two programs never do, and what one of them starts is of it."""
+        """In both modes two windows of a program share an address, two programs never do, and a child process has its program's."""
         for strict in "1", "0":
             self.connect(strict=strict)
             windows = ["app-gnome-org.example.Browser-12.scope", "app-gnome-org.example.Browser-13.scope"]
@@ -187,7 +187,7 @@ class Identities(HelperTest):
         mail = self.seen("app-mail-7.scope")
         self.assertEqual(self.seen(uid=OTHER_UID, source=mail), ACCOUNT[OTHER_UID])
         self.assertEqual(self.seen("app-mail-7.scope", source="127.0.0.9"), mail)
-        # Whoever has no identity has the shared one. Without that rule the address would do.
+        # A process without an identity has the shared one. Without that rule it could take an application's address.
         self.assertEqual(self.seen(uid=70000, source=mail), SHARED)
         handle = re.search(
             r"snat ip to 127.0.0.1 # handle (\d+)", self.machine.run("nft", "-a", "list", "chain", "inet", TABLE, "address").stdout
@@ -207,7 +207,7 @@ class Identities(HelperTest):
         self.assertEqual(self.seen("app-mail-7.scope"), mail)
         self.until(lambda: chat not in self.state())
 
-    # ---- Names that others make ----
+    # ---- Names that other programs choose ----
 
     def test_hostile_names_are_names(self):
         self.connect()
@@ -242,7 +242,7 @@ class Identities(HelperTest):
         self.until(lambda: self.known() == 0)
         self.mapped("app-after-1.scope")
 
-    # ---- What it may ----
+    # ---- The rights of veldmark-identify ----
 
     def test_it_has_one_right_of_roots(self):
         self.connect()
@@ -264,7 +264,7 @@ class Identities(HelperTest):
         )
 
     def test_what_runs_as_nobody_does_not_stop_it(self):
-        """Other services run so."""
+        """Other services run as nobody."""
         self.connect()
         other = self.machine.start(
             "setpriv",
@@ -289,7 +289,7 @@ class Identities(HelperTest):
                     self.assertEqual(self.machine.run(*words, uid=65534, check=False).returncode != 0, refused, words)
         finally:
             self.machine.run("kill", "-KILL", nobodys, check=False)
-            other.kill()  # what has entered for it stands still as it did
+            other.kill()  # its processes in the group are still stopped
             other.communicate()
         self.mapped("app-mail-7.scope")
 
@@ -305,7 +305,7 @@ class Identities(HelperTest):
             self.machine.shell(f"chown 0 {PLACE}/veldmark-identify")
 
     def test_the_kill_switch_does_not_know_of_it(self):
-        """Its table is the same, and whoever moves between groups gets nothing out."""
+        """The kill switch's table stays the same, and a process that moves between groups sends nothing out."""
         self.connect(separate="0")
         rules = self.machine.run("nft", "-s", "-t", "list", "table", "inet", "veldmark").stdout
         self.machine.help("disconnect")
@@ -317,7 +317,7 @@ class Identities(HelperTest):
             self.assertEqual(self.wire.arrivals(USER_UID, group), set())
 
     def test_nobody_answers_in_tors_place(self):
-        """Also not at the address that an application has."""
+        """No other program answers at an application's address either."""
         self.connect()
         self.mapped("app-mail-7.scope")
         self.server.communicate()
@@ -333,7 +333,7 @@ class Identities(HelperTest):
             false.communicate()
             type(self).server = self.serve(int(self.machine.tor_uid))
 
-    # ---- What comes and goes ----
+    # ---- Applications that start and end ----
 
     def test_rules_that_others_flush_come_back(self):
         self.connect()
@@ -365,7 +365,7 @@ class Identities(HelperTest):
         self.assertEqual(self.machine.shell("pgrep -x veldmark-identi || echo none"), "none\n")
 
     def test_a_connect_again_gives_other_addresses(self):
-        """Circuits of one application are nobody else's later on."""
+        """A later session never gives an application the circuits of another application."""
         self.connect()
         self.mapped("app-mail-7.scope")
         mail = self.seen("app-mail-7.scope")
@@ -392,7 +392,7 @@ class Identities(HelperTest):
         )
 
     def test_killed_at_each_of_its_changes(self):
-        """Of a connect, and of the disconnect after it."""
+        """The helper is killed at each change of a connect, and of the disconnect after it."""
         words = {
             "connect": ["connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0", "--separate", "1"],
             "disconnect": ["disconnect"],
@@ -428,15 +428,15 @@ class Identities(HelperTest):
         self.assertGreater(tried, 6)
 
     def test_what_comes_and_goes_costs_the_watcher_no_look(self):
-        """A look at the rules for each group would take a processor for itself."""
+        """A look at the rules for each new group would fully load a processor."""
         self.connect()
         self.machine.await_watcher()
 
         def looks(script):
-            # Each look is a process of nft's; the kernel counts processes.
+            # Each look is an nft process; the kernel counts processes.
             self.machine.shell("sleep 0.5")
             [watcher] = self.machine.watchers()
-            spent = "cut -d' ' -f16,17 /proc/%s/stat" % watcher  # of the children that it has waited for, in hundredths of a second
+            spent = "cut -d' ' -f16,17 /proc/%s/stat" % watcher  # the processor time of its children, in hundredths of a second
             before = sum(map(int, self.machine.shell(spent).split()))
             self.machine.shell(script)
             return sum(map(int, self.machine.shell(spent).split())) - before

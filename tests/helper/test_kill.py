@@ -1,6 +1,6 @@
-"""kill -9 of the helper right after each of its changes: a disconnect afterwards puts everything back, and a strict session is
-never open on the way. Probes are sent all the time and seen at the other end of the machine's only link whenever nothing blocks
-them. Each test prints how many points it has tried.
+"""kill -9 of the helper right after each of its changes. A disconnect afterwards puts everything back, and a strict session never
+lets traffic out in between. Probes are sent all the time, and the other end of the machine's only link sees them whenever nothing
+blocks them. Each test prints the number of points that it has tried.
 
     test_kill.py Strict | StrictAgain | Proxy | RandomMoments
 """
@@ -15,7 +15,7 @@ from wire import EDGE, LINK, Flood, Wire
 
 STEPPED = os.path.join(namespace.HERE, "stepped.sh")
 EVERY = int(os.environ.get("VELDMARK_KILL_EVERY", "1"))  # 1: after each single change
-RANDOM_TRIALS = int(os.environ.get("VELDMARK_KILL_TRIALS", "6"))  # for each way through the helper
+RANDOM_TRIALS = int(os.environ.get("VELDMARK_KILL_TRIALS", "6"))  # for each path through the helper
 BEFORE, AFTER = "before", "after"
 
 
@@ -24,7 +24,7 @@ def connect_words(strict):
 
 
 class Kill(HelperTest):
-    """For a user with KDE, so that the way through the desktop's settings is there as well."""
+    """The user has KDE, so that the helper changes the desktop's settings as well."""
 
     @classmethod
     def setUpClass(cls):
@@ -38,7 +38,7 @@ class Kill(HelperTest):
 
     @classmethod
     def set_up_services(cls):
-        """What a session changes besides."""
+        """Starts the services that a session changes as well."""
         cls.machine.give_ethtool()
         cls.machine.run(
             "/bin/bash",
@@ -79,7 +79,7 @@ class Kill(HelperTest):
         )
 
     def connect(self, strict="1"):
-        """As the user's session."""
+        """Connects as the user's program does."""
         self.machine.help(*connect_words(strict), env={"PATH": "/usr/bin:/bin", "PKEXEC_UID": str(namespace.USER_UID)})
 
     def changes(self, words):
@@ -88,8 +88,9 @@ class Kill(HelperTest):
         return self.machine.shell("cat /run/changes; rm -f /run/changes").splitlines()
 
     def state(self):
-        """After a kill: the marker, whether the kill switch stands, whether rules are there, whether the resolver is switched."""
-        # What the killed shell had started still holds the lock; the next run waits for it as well.
+        """The state after a kill: the marker, whether the kill switch blocks traffic, whether there are rules, whether the resolver
+        points at Tor."""
+        # The killed shell's children still hold the lock; the next run waits for them as well.
         text = self.machine.shell(
             "flock /run/veldmark.lock true; cat /var/lib/veldmark/state/active 2>/dev/null; echo; "
             "nft list ruleset; cat /etc/resolv.conf"
@@ -101,21 +102,21 @@ class Kill(HelperTest):
         self.wire.wait_for(lambda line: line not in LINK and not line.startswith("sentinel"))
 
     def assert_restored(self):
-        """By one disconnect; the probes are seen again, and nothing differs."""
+        """One disconnect restores everything: the probes are seen again, and the snapshot is the same."""
         self.machine.help("disconnect")
         self.is_open()
         self.flood.stop()
         self.assertEqual(self.snapshot(), self.before)
 
     def trial(self, prepare, run, check, edge="", closed=None):
-        """`closed`: BEFORE or AFTER the edge, no probe may be seen as long as rules drop; None promises nothing."""
+        """`closed`: BEFORE or AFTER the edge, no probe may be seen as long as rules drop. None checks nothing."""
         restored = False
         try:
             done = self.begin_trial(prepare, run, check, edge, closed)
             self.assert_restored()
             restored = True
         finally:
-            if not restored:  # what failed here is not to fail the next point as well
+            if not restored:  # a failure here must not fail the next point as well
                 self.machine.help("disconnect", check=False)
                 self.flood.stop()
         return done
@@ -124,7 +125,7 @@ class Kill(HelperTest):
         self.flood.go()
         self.is_open()
         prepare()
-        if closed == BEFORE:  # else nothing is asked of what comes before the edge
+        if closed == BEFORE:  # otherwise probes before the edge are allowed
             self.wire.mark()
         done = run(edge)
         state = self.state()
@@ -149,7 +150,7 @@ class Kill(HelperTest):
         for point in tried:
             with self.subTest(point):
                 done = self.trial(prepare, lambda e, p=point: self.stepped(p, e, words), check, edge, closed)
-                # How many children a process has differs from run to run.
+                # The number of a process's children differs from run to run.
                 if '"$child" #' not in point:
                     self.assertIn(done.returncode, (-9, 137), f"this change was not reached: {done.stderr}")
         print(
@@ -161,7 +162,7 @@ class Kill(HelperTest):
 
 class Strict(Kill):
     def test_connect(self):
-        """Nothing is blocked before; from the lock on nothing leaves."""
+        """Nothing is blocked before the rules; from the rules on nothing leaves."""
 
         def check(state):
             marker, drop, table, resolver = state
@@ -175,7 +176,7 @@ class Strict(Kill):
         self.assertGreater(self.every_point(lambda: None, connect_words("1"), check, "note_listing", AFTER), 30)
 
     def test_the_very_first_connect(self):
-        """With none of our folders there. What it does later is the same as at any connect."""
+        """None of Veldmark's folders exists yet. The later steps are the same as at any connect."""
         self.every_point(
             lambda: self.machine.shell("rm -rf /var/lib/veldmark"),
             connect_words("1"),
@@ -218,7 +219,7 @@ class Strict(Kill):
 
 
 class StrictAgain(Kill):
-    """While a strict session runs."""
+    """A connect while a strict session runs."""
 
     def test_connect_again(self):
         self.assertGreater(

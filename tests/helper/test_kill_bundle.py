@@ -1,5 +1,5 @@
-"""kill -9 of the helper right after each change that a signed bundle makes: no run takes anything for approved that was not, an older
-bundle does not come back, and the next runs find their way. Prints how many points it has tried."""
+"""kill -9 of the helper right after each change that a signed bundle makes. No later run takes an unapproved program for approved,
+an older bundle does not come back, and later runs work. The test prints the number of points that it has tried."""
 
 import os
 import re
@@ -35,7 +35,7 @@ class Killed(BundleCase):
         return self.machine.shell("flock /run/veldmark.lock cat /run/changes").splitlines()
 
     def test_at_each_change(self):
-        """A newer bundle takes an older one's place."""
+        """A newer bundle replaces an older one."""
         old, new = transport("old"), transport("new")
         self.bring(old)
         self.connect()
@@ -63,7 +63,7 @@ class Killed(BundleCase):
         print(f"\n{len(points)} points", flush=True)
 
     def assertWhole(self):
-        """Whatever stands where programs run from is what its name says."""
+        """Every program in the folder has the digest that its folder's name says."""
         for line in self.machine.shell(f"cd {PROGRAMS}; find . -path './*/*' -type f -exec sha256sum {{}} + || true").splitlines():
             digest, path = line.split()
             if not path.startswith("./bundle.new/"):

@@ -1,8 +1,8 @@
-"""kill -9 of the helper as in test_kill.py, on machines with a service of the system's or the desktop's that keeps settings of its
-own: a disconnect afterwards puts those back as well, and a strict session is never open on the way.
+"""kill -9 of the helper as in test_kill.py, on machines where a service of the system or the desktop keeps settings of its own. A
+disconnect afterwards puts those back as well, and a strict session never lets traffic out in between.
 
-Killed after each change to those settings, and after a sample of the others, which test_kill.py goes through;
-VELDMARK_KILL_ALL=1: after each.
+The helper is killed after each change to those settings, and after a sample of the other changes, all of which test_kill.py tries.
+VELDMARK_KILL_ALL=1 tries all of them here, too.
 
     test_kill_services.py Gnome | Resolved | Global | TorService
 """
@@ -18,11 +18,11 @@ from namespace import USER_UID
 from test_kill import AFTER, BEFORE, Kill, connect_words
 from wire import LINK
 
-SAMPLE = 1 if os.environ.get("VELDMARK_KILL_ALL") else 20  # one in so many of the other changes
+SAMPLE = 1 if os.environ.get("VELDMARK_KILL_ALL") else 20  # one in this many of the other changes
 HELD = "/run/held"  # folder of a machine; see hold_call()
 
-# Stands before a program: notes the calls that have one of the words, and the one whose number is in the file "hold" waits, before
-# it does anything, until that file has gone.
+# A wrapper of a program. It notes the calls that have one of the words. The call whose number is in the file "hold" waits, before
+# it does anything, until that file is removed.
 HOLDER = """#!/bin/bash
 cd %s
 for word; do
@@ -65,13 +65,13 @@ class Services(Kill):
         self.machine.shell(f"until [ -e {path} ]; do sleep 0.01; done", timeout=30)
 
     def wait_until_it_waits(self, run):
-        """For the helper's lock, or has ended."""
+        """Returns when the run waits for the helper's lock or has ended."""
         while run.poll() is None and "flock -w 20 9 \n" not in self.machine.processes():
             time.sleep(0.01)
 
     def killed_in_the_midst(self, prepare, words, least):
-        """The helper is killed while a program that it has started is at work, behind the kill switch; that program goes on only
-        when the next disconnect is waiting, or has ended."""
+        """Kills the helper while a program that it has started runs, behind the kill switch. That program goes on only when the
+        next disconnect is waiting or has ended."""
         prepare()
         self.hold_call(0)
         self.machine.run("env", "-i", f"PKEXEC_UID={USER_UID}", "/bin/bash", self.machine.helper, *words)
@@ -135,7 +135,7 @@ class Services(Kill):
             self.every_point(self.connect_strict, ["disconnect"], lambda state: None, "nft delete table", BEFORE), 15
         )
 
-    CALLS = 3  # at least so many in a connect, and in a disconnect
+    CALLS = 3  # at least this many in a connect, and in a disconnect
 
     def test_in_the_midst_of_connect(self):
         self.killed_in_the_midst(lambda: None, connect_words("1"), self.CALLS)
@@ -162,7 +162,7 @@ class Gnome(Services):
 
     @classmethod
     def snapshot(cls):
-        """The file of dconf's that the settings are in is written anew at each change; what it holds is what counts."""
+        """dconf rewrites its file at each change, so the snapshot compares the settings in it."""
         return "".join(
             line for line in super().snapshot().splitlines(True) if not line.endswith(" /home/alice/.config/dconf/user\n")
         ) + "".join(services.gnome_settings(cls.machine))
@@ -211,7 +211,8 @@ class Resolved(Services):
         return super().snapshot() + services.resolved_settings(cls.machine)
 
     def test_fix_dns(self):
-        """After somebody has given links other servers, and taken our file away. Those servers come back, not the former ones."""
+        """Another program has given the links other servers, and removed Veldmark's file. A disconnect restores those servers, not
+        the earlier ones."""
 
         def give_others():
             self.machine.shell("resolvectl dns w0 192.0.2.99; resolvectl dns w1 192.0.2.98")

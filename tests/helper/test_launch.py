@@ -1,4 +1,4 @@
-"""Applications without Tor: who they run as, in which group, with what environment, and who is refused."""
+"""Applications without Tor: their user, group and environment, and which calls the helper refuses."""
 
 import json
 import os
@@ -9,7 +9,7 @@ from namespace import HelperTest, INSTALLED, USER_UID
 
 BUILT = os.path.join(namespace.HERE, "..", "..", "build", "bin", "veldmark-launch")
 
-# Tells what it is; alice can write its answer's folder.
+# Writes what it runs as; alice can write the folder of its answer.
 PROBE = r"""#!/usr/bin/python3
 import json, os, subprocess, sys
 status = dict(line.split(":\t", 1) for line in open("/proc/self/status").read().splitlines() if ":\t" in line)
@@ -24,7 +24,7 @@ open(path + ".new", "w").write(json.dumps(answer)); os.rename(path + ".new", pat
 
 
 def launcher():
-    """The launcher under test: the one beside the helper, else the one of an ordinary build."""
+    """The launcher under test: the one in the helper's folder, else the one of an ordinary build."""
     given = os.environ.get("VELDMARK_HELPER")
     return os.path.join(os.path.dirname(given), "veldmark-launch") if given else BUILT
 
@@ -94,7 +94,7 @@ class Launch(HelperTest):
         self.assertEqual(answer["gid"], [USER_UID] * 3)
         self.assertEqual(sorted(answer["groups"]), sorted({USER_UID, 100}))
         self.assertEqual(set(answer["caps"]), {"0000000000000000"})
-        self.assertIn("0::/veldmark-exempt\n", answer["child"])
+        self.assertIn("0::/veldmark-bypass\n", answer["child"])
         self.assertEqual(answer["cwd"], "/home/alice")
         self.assertFalse([name for name in answer["fds"] if "veldmark" in name or "pipe" in name], answer["fds"])
 
@@ -109,7 +109,7 @@ class Launch(HelperTest):
         self.launch("/usr/local/share/applications/probe.desktop")
         answer = self.answer()
         self.assertEqual(answer["words"], ["--one", "two words"])
-        self.assertIn("0::/veldmark-exempt\n", answer["child"])
+        self.assertIn("0::/veldmark-bypass\n", answer["child"])
 
     def test_nothing_of_roots_environment_is_kept(self):
         self.connect()
@@ -120,7 +120,7 @@ class Launch(HelperTest):
         self.assertEqual((env["HOME"], env["USER"], env["XDG_RUNTIME_DIR"]), ("/home/alice", "alice", f"/run/user/{USER_UID}"))
 
     def test_the_session_of_the_program_that_asks_is_kept(self):
-        """With real sudo between alice's process and root's; the wrapper reports her as pkexec does."""
+        """A real sudo stands between alice's process and root's. The wrapper reports alice as pkexec does."""
         self.connect()
         self.machine.shell(
             "cat >/etc/sudoers.d/test; chmod 0440 /etc/sudoers.d/test",
@@ -162,7 +162,8 @@ class Launch(HelperTest):
         self.assertEqual(self.answer()["uid"], [USER_UID] * 3)
 
     def test_launcher_holds_none_of_our_descriptors(self):
-        """Whoever has the lock's can unlock it, and whoever keeps the message's open keeps us waiting."""
+        """A program with the lock's descriptor could release the lock, and one that keeps the message's descriptor open would make
+        the helper wait."""
         self.machine.shell(
             "mkdir /usr/local/stand-in; cp /usr/local/bin/veldmark-helper.sh /usr/local/stand-in;"
             "cat >/usr/local/stand-in/veldmark-launch; chmod 755 /usr/local/stand-in/*",
@@ -178,7 +179,7 @@ json.dump(held, open("/home/alice/descriptors", "w"))
         self.assertEqual(set(held), {"0", "1", "2"}, held)
 
     def test_nothing_is_started_as_root(self):
-        """The launcher refuses it as well; here one stands in that doesn't."""
+        """The launcher refuses root as well. Here a stand-in replaces it that does not."""
         self.machine.shell(
             "mkdir /usr/local/stand-in; cp /usr/local/bin/veldmark-helper.sh /usr/local/stand-in;"
             "printf '#!/bin/sh\\nid -u >>/run/started\\n' >/usr/local/stand-in/veldmark-launch; chmod 755 /usr/local/stand-in/*;"
@@ -195,7 +196,7 @@ json.dump(held, open("/home/alice/descriptors", "w"))
     def test_refused(self):
         self.connect()
         cases = {
-            "somebody else's uid": dict(app="/usr/local/bin/probe", uid=1, words="for the user who asks only"),
+            "somebody else's uid": dict(app="/usr/local/bin/probe", uid=1, words="only for the user who asks"),
             "root": dict(app="/usr/local/bin/probe", uid=0, caller="A=1", words="not opened as root"),
             "not a number": dict(app="/usr/local/bin/probe", uid="a[$(touch /run/bad)]", words="not a number"),
             "relative": dict(app="probe", words="not absolute"),
@@ -208,14 +209,14 @@ json.dump(held, open("/home/alice/descriptors", "w"))
                 app="/usr/local/bin/probe", caller=f"SUDO_UID={USER_UID}", helper=INSTALLED, words="password is needed"
             ),
             "password-free for somebody else": dict(
-                app="/usr/local/bin/probe", caller="SUDO_UID=1", helper=INSTALLED, words="for the user who asks only"
+                app="/usr/local/bin/probe", caller="SUDO_UID=1", helper=INSTALLED, words="only for the user who asks"
             ),
         }
         for name, case in cases.items():
             words = case.pop("words")
             with self.subTest(name):
                 self.assertOneLine(self.launch(**case, check=False), words)
-        self.assertEqual(self.machine.shell("cat /sys/fs/cgroup/veldmark-exempt/cgroup.procs; ls /run/bad 2>/dev/null || true"), "")
+        self.assertEqual(self.machine.shell("cat /sys/fs/cgroup/veldmark-bypass/cgroup.procs; ls /run/bad 2>/dev/null || true"), "")
 
     def test_what_only_root_can_read_is_not_read_for_the_user(self):
         self.connect()
@@ -237,7 +238,7 @@ json.dump(held, open("/home/alice/descriptors", "w"))
         )
         self.connect()
         self.launch("/usr/local/bin/lasting")
-        self.machine.shell("until [ $(wc -l </sys/fs/cgroup/veldmark-exempt/cgroup.procs) = 3 ]; do :; done")
+        self.machine.shell("until [ $(wc -l </sys/fs/cgroup/veldmark-bypass/cgroup.procs) = 3 ]; do :; done")
         self.machine.help("disconnect")
         self.assertEqual(self.machine.shell("ls /sys/fs/cgroup | grep veldmark || true"), "")
         self.assertEqual(len(self.machine.shell("pgrep -u alice -x sleep").split()), 2)
@@ -245,9 +246,9 @@ json.dump(held, open("/home/alice/descriptors", "w"))
 
     def test_the_user_cannot_enter_the_group_alone(self):
         self.connect()
-        done = self.machine.run("/bin/sh", "-c", "echo 0 >/sys/fs/cgroup/veldmark-exempt/cgroup.procs", uid=USER_UID, check=False)
+        done = self.machine.run("/bin/sh", "-c", "echo 0 >/sys/fs/cgroup/veldmark-bypass/cgroup.procs", uid=USER_UID, check=False)
         self.assertNotEqual(done.returncode, 0)
-        done = self.machine.run("mkdir", "/sys/fs/cgroup/veldmark-exempt/below", uid=USER_UID, check=False)
+        done = self.machine.run("mkdir", "/sys/fs/cgroup/veldmark-bypass/below", uid=USER_UID, check=False)
         self.assertNotEqual(done.returncode, 0)
 
 

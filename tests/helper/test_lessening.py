@@ -1,4 +1,4 @@
-"""Under the password-free rule a running strict session is ended, or begun again as it is, but never lessened unasked."""
+"""The password-free rule allows to end a running strict session or to start the same one again, but not to weaken it."""
 
 import os
 
@@ -8,7 +8,7 @@ from namespace import HASH, TOR, USER_UID, HelperTest
 DIALOG = {"PATH": os.environ["PATH"], "PKEXEC_UID": str(USER_UID)}
 OTHER_HASH = HASH[:-1] + "F"
 BRIDGES = ["--bridge", "192.0.2.1:443", "--bridge", "obfs4 192.0.2.1:444 cert=a iat-mode=0", "--pt-lyrebird", "/usr/bin/obfs4proxy"]
-NEEDED = "ERROR: An administrator password is needed to change the strict session that is running.\n"
+NEEDED = "ERROR: An administrator password is needed to change the running strict session.\n"
 
 
 def words(verb="connect", strict=1, lan=0, hash=HASH, more=()):
@@ -57,7 +57,7 @@ class Lessening(HelperTest):
                 self.assertRefused(self.machine.help_by_rule("replace", *line[1:], check=False), before)
 
     def test_each_of_them_is_taken_where_nothing_strict_runs(self):
-        """So that it is the running session that keeps them out."""
+        """The changes are allowed without a strict session, so it is the running session that refuses them."""
         for what, line in LESS.items():
             with self.subTest(what):
                 self.machine.help_by_rule(*line)
@@ -79,7 +79,7 @@ class Lessening(HelperTest):
                 self.assertRefused(self.machine.help_by_rule(*words(lan=1, more=more), check=False), before)
 
     def test_the_same_again_needs_nobody(self):
-        """As after the end of Tor."""
+        """The same connect again, as after Tor's end, needs no approval."""
         line = words(lan=1, more=[*BRIDGES, "--exit", "de"])
         self.machine.help_by_rule(*line)
         [tor] = self.machine.shell("pgrep -x tor").split()
@@ -100,7 +100,7 @@ class Lessening(HelperTest):
         self.machine.help_by_rule(*words(strict=0))
 
     def test_dialog_of_connect_says_not_enough(self):
-        """polkit shows the verb's own words: those of replace say that the session is lessened."""
+        """polkit shows the verb's own message; only the message of replace says that the session protects less."""
         self.machine.help(*words(), env=DIALOG)
         before = self.state()
         for what, line in LESS.items():
@@ -129,7 +129,7 @@ class Lessening(HelperTest):
                 self.machine.help("disconnect")
 
     def test_what_a_restart_of_the_computer_left_is_no_session(self):
-        """The marker is there, the rules are not: a connect can only add."""
+        """The marker exists, the rules do not: a connect can only add protection."""
         self.machine.help_by_rule(*words())
         self.machine.end_watcher()
         self.machine.shell("nft delete table inet veldmark; pkill -9 -x tor; rm -f /run/veldmark*")

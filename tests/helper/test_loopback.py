@@ -1,4 +1,4 @@
-"""Lookups of others, and what else comes and goes by the loopback device."""
+"""DNS lookups of other accounts, and other traffic on the loopback device."""
 
 import subprocess
 
@@ -10,7 +10,7 @@ from namespace import AS_TOR, DNS_PORT, OTHER_UID, TOR_GROUP, USER_UID
 
 class Loopback(HostileTest):
     def test_nobody_gets_what_others_ask(self):
-        """A second socket at Tor's port for look-ups would get them. Nobody but root and Tor can have one."""
+        """A second socket at Tor's DNS port would receive them. Only root and Tor can open one."""
         bind = (
             "import socket, sys\ntwo = []\nfor _ in 1, 2:\n two.append(socket.socket(socket.AF_INET, socket.SOCK_DGRAM))\n"
             " for option in socket.SO_REUSEADDR, socket.SO_REUSEPORT: two[-1].setsockopt(socket.SOL_SOCKET, option, 1)\n"
@@ -28,7 +28,7 @@ class Loopback(HostileTest):
             self.machine.help("disconnect")
 
     def test_a_socket_beside_tors_gets_no_look_ups(self):
-        """Where somebody has opened the port to everybody: they are all given the right to it."""
+        """The administrator may have opened the port to every account. Here every socket gets the right to it."""
         tor, tor6 = ("tor", "127.0.0.1", self.tor_uid, TOR_GROUP), ("tor", "::1", self.tor_uid, TOR_GROUP)
         evil, evil6 = ("other", "127.0.0.1", OTHER_UID, None), ("other", "::1", OTHER_UID, None)
         account = ("account", "127.0.0.1", self.tor_uid, None)
@@ -42,7 +42,7 @@ class Loopback(HostileTest):
             self.machine.help("disconnect")
 
     def test_nobody_else_answers_a_look_up(self):
-        """Likewise: who asks, and from which port, everybody can see."""
+        """The port is open to every account here, and every account can see the port that a lookup comes from."""
         ask = (
             "import socket\ns = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); s.settimeout(2); s.connect(('127.0.0.1', 53)); s.send(b'q' * 30)\n"
             "t = socket.socket(socket.AF_INET, socket.SOCK_DGRAM); t.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1); t.bind(('127.0.0.1', 293))\n"
@@ -69,7 +69,7 @@ class Loopback(HostileTest):
         self.before = self.machine.snapshot()
 
     def test_what_the_kernel_cuts_reaches_tor_in_no_piece(self):
-        """Pieces that are too short for a look-up's header end some versions of Tor."""
+        """A piece that is shorter than a DNS header ends some versions of Tor."""
         self.give_ethtool()
         pieces = (
             f"import socket\nfor a, p in ('127.0.0.1', {DNS_PORT}), ('127.0.0.1', 53):\n s = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)\n"
@@ -81,7 +81,7 @@ class Loopback(HostileTest):
             self.assertTrue(self.has_late_cut())
             self.machine.connect(strict=strict)
             self.assertEqual(self.asked(pieces, tor)[1], ["tor 33"] * 2)
-            self.machine.connect(strict=strict)  # once more upon what it has noted
+            self.machine.connect(strict=strict)  # a second connect, which has a note already
             self.machine.run("ethtool", "-K", "lo", "tx-udp-segmentation", "on")
             self.assertEqual(self.asked(pieces, tor)[1], (["tor 11"] * 3 + ["tor 33"]) * 2)
             self.machine.help(
@@ -107,8 +107,8 @@ class Loopback(HostileTest):
         self.assertTrue(self.has_late_cut())
 
     def test_what_tor_answers_does_not_leave(self):
-        """Neither a look-up's answer nor a bridge program's: what comes from this computer may bear any sender, who then gets the answer,
-        where Tor's account may send datagrams."""
+        """A program on this computer can forge the sender of a packet. An answer of Tor or of a bridge program would go to that
+        sender where Tor's account may send datagrams."""
         answer = (
             "import os, socket, sys, threading\nthreading.Thread(target=lambda: (sys.stdin.read(), os._exit(0)), daemon=True).start()\n"
             "s = socket.socket(socket.AF_INET6, socket.SOCK_DGRAM); s.bind((sys.argv[1], int(sys.argv[2]))); print('up', flush=True)\n"
@@ -148,7 +148,7 @@ class Loopback(HostileTest):
                 tor.communicate()
 
     def test_a_neighbour_does_not_reach_the_loopback_address(self):
-        """With route_localnet on and the local network allowed."""
+        """The kernel's route_localnet is on, and the local network is allowed."""
         self.machine.shell("sysctl -qw net.ipv4.conf.all.route_localnet=1")
         peer = self.wire.peer
         peer.run(

@@ -128,7 +128,7 @@ HOSTILE = {
     "line end in the path of launch": ["launch", "--uid", "0", "--app", "/usr/bin/true\n"],
 }
 
-# Tor's own check would refuse some of them as well, but not each of them, and later: which refusal it is counts.
+# Tor's own check would refuse some of them as well, but later, so the test looks at the text of the refusal.
 BAD_BRIDGE = "A bridge line is not valid."
 SAYS = {
     **{
@@ -251,7 +251,7 @@ class Options(HelperTest):
             "LD_LIBRARY_PATH": "/run/bin",
             "TMPDIR": "/run/bin",
         }
-        self.machine.run("/bin/bash", "-c", "nft", env=variables)  # an ordinary script does take it all
+        self.machine.run("/bin/bash", "-c", "nft", env=variables)  # a script without -p takes all of it
         self.machine.shell("rm /run/pwned")
         for start in ["/bin/bash"], []:
             self.machine.run(*start, self.machine.helper, *words(), env=variables)
@@ -265,7 +265,7 @@ class Options(HelperTest):
         self.machine.shell("rm -r /run/bin")
 
     def test_bash_env_runs_nothing_of_ours(self):
-        """Bash itself reads BASH_ENV once, before the helper begins; it must not come back in the helper's own shells."""
+        """Bash reads BASH_ENV once, before the helper begins. The helper's own shells must not read it again."""
         self.machine.shell("printf 'echo x >>/run/bash_env_runs\n' >/run/bash_env")
         self.machine.help(*words(), env={"PATH": "/usr/bin:/bin", "BASH_ENV": "/run/bash_env"})
         self.machine.help("disconnect")

@@ -1,4 +1,4 @@
-"""Other firewalls that keep Tor from going out are named in a note that everybody can read."""
+"""The helper names other firewalls that block Tor in a note that every user can read."""
 
 import time
 
@@ -15,7 +15,7 @@ class Others(HelperTest):
         self.machine.shell("nft flush ruleset")
 
     def named(self, rules, strict=1):
-        """What a connect notes while these rules are there; `rules` leave the loopback device alone or Tor would not be reached."""
+        """What a connect notes under these rules. `rules` must not block the loopback device, so that Tor can be reached."""
         self.machine.run("nft", "-f", "-", stdin=rules.replace("};", "}").replace("{", "{\n").replace("}", "\n}\n"))
         kept = self.machine.shell("nft -s list ruleset")
         self.machine.connect(strict=strict)
@@ -77,7 +77,7 @@ class Others(HelperTest):
 
     def wait_note(self, names):
         read = f"cat {NOTE} 2>/dev/null || true"
-        deadline = time.monotonic() + 20  # the watcher looks five seconds after its last look at others' rules at the latest
+        deadline = time.monotonic() + 20  # the watcher looks at other rules at least every five seconds
         while (found := self.machine.shell(read, uid=namespace.USER_UID).splitlines()) != names:
             self.assertLess(time.monotonic(), deadline, (names, found))
             time.sleep(0.1)
@@ -102,12 +102,12 @@ class Others(HelperTest):
 
     def test_our_own_are_none_of_others(self):
         self.machine.connect()
-        self.machine.connect()  # now ours are there as well, and deny
+        self.machine.connect()  # now Veldmark's own rules are loaded as well, and block
         self.assertIn("policy drop", self.machine.shell("nft list chain inet veldmark output"))
         self.assertEqual(self.machine.shell(f"cat {NOTE} 2>/dev/null || true"), "")
 
     def test_chains_without_an_end(self):
-        """The kernel takes no chain that comes back to itself; a chain within many is judged no further than the kernel goes."""
+        """The kernel accepts no chain that leads back to itself. The search follows nested chains as far as the kernel does."""
         chains = "".join("chain c%d { }\n" % i for i in range(15))
         links = "".join("chain c%d { jump c%d; }\n" % (i, i + 1) for i in range(14)) + "chain c14 { oifname lo accept; drop; }\n"
         self.assertEqual(

@@ -1,4 +1,4 @@
-"""Whose session it is: what is noted beside the marker, and who may end or replace what another user is using."""
+"""The session's owner: the note beside the marker, and who may end or replace another user's session."""
 
 import os
 import subprocess
@@ -10,7 +10,7 @@ OWNER = "/var/lib/veldmark/state/owner"
 CONNECT = ["connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0"]
 IN_USE = "Veldmark is in use by alice. An administrator password is needed to end that session."
 
-# Runs its arguments as a child, says how that ended, and stays until it is told to end.
+# Runs its arguments as a child, prints the exit status, and stays until its input ends.
 PROGRAM = """#!/usr/bin/python3
 import subprocess, sys
 print(subprocess.run(sys.argv[1:], stdin=subprocess.DEVNULL).returncode, flush=True)
@@ -35,7 +35,7 @@ class Owner(HelperTest):
         self.assertEqual(self.machine.shell("ls /var/lib/veldmark/state"), "")
 
     def begin(self, name="veldmarkctl", *words, uid=0, env=None):
-        """A program of that name with which somebody connects, and which goes on running."""
+        """Starts a program of that name that connects and keeps running."""
         words = words or ("/bin/bash", self.machine.helper)
         program = self.machine.start(
             f"/usr/local/bin/{name}",
@@ -78,10 +78,10 @@ class Owner(HelperTest):
     def test_who_connects_by_hand_is_noted_without_a_program(self):
         self.begin("somebody")
         self.assertEqual(self.note(), {"uid": str(USER_UID)})
-        self.machine.help_by_rule("disconnect", uid=OTHER_UID)  # nobody says that it is in use
+        self.machine.help_by_rule("disconnect", uid=OTHER_UID)  # no program is noted, so it is not in use
 
     def test_owner_that_cannot_be_looked_at_is_not_taken_for_nobody(self):
-        """As when a program of the helper's is ended just then, memory being short."""
+        """A program that the helper runs may be killed at that moment, as when memory is short."""
         self.begin()
         folders = "/ /var /var/lib /var/lib/veldmark "
         self.machine.shell(
@@ -109,7 +109,7 @@ class Owner(HelperTest):
         before = self.machine.snapshot(), self.note()
         for words in ["disconnect"], CONNECT:
             done = self.machine.help_by_rule(*words, uid=uid, check=False)
-            self.assertEqual((done.returncode, done.stderr), (1, f"ERROR: {IN_USE}\n"))
+            self.assertEqual((done.returncode, done.stderr), (3, f"ERROR: {IN_USE}\n"))  # then the program asks
         self.assertEqual((self.machine.snapshot(), self.note()), before)
 
     def test_another_users_session_is_neither_ended_nor_replaced_by_the_rule(self):
@@ -132,8 +132,8 @@ class Owner(HelperTest):
         self.machine.await_watcher()
         before = self.machine.snapshot(), self.note()
         for value, words in (
-            ("1", f"Another program (process {pid}) has begun a session since. It was left alone."),
-            (pid + "0", f"Another program (process {pid}) has begun a session since. It was left alone."),
+            ("1", f"Another program (process {pid}) has started a session meanwhile. That session was left alone."),
+            (pid + "0", f"Another program (process {pid}) has started a session meanwhile. That session was left alone."),
             ("0", "The process id is not valid."),
             ("x[$(reboot)]", "The process id is not valid."),
         ):
@@ -144,7 +144,7 @@ class Owner(HelperTest):
         self.assertEqual(self.machine.shell("ls /var/lib/veldmark/state"), "")
         program.communicate()
         self.begin().communicate()
-        self.machine.help("disconnect", "--process", "1")  # what was left over is nobody's
+        self.machine.help("disconnect", "--process", "1")  # a session whose program has ended can be ended by any program
         self.assertEqual(self.machine.shell("ls /var/lib/veldmark/state"), "")
 
     def test_the_user_ends_the_own_session_from_elsewhere(self):

@@ -1,4 +1,4 @@
-"""Small parts of the helper, each called by itself with files in a folder of the test's own; no private machine is needed."""
+"""Small parts of the helper. Each is called by itself with files in the test's own folder, without a private machine."""
 
 import os
 import stat
@@ -59,7 +59,7 @@ class Files(InAFolder):
         self.assertFalse(os.path.islink(self.path("a")))
 
     def test_what_cannot_be_put_in_place_is_told_and_leaves_nothing(self):
-        os.makedirs(self.path("a/b"))  # a folder stands where the file belongs
+        os.makedirs(self.path("a/b"))  # a folder in the file's place
         done = run('write_file "$1" 0644 root text || echo "status $?"', self.path("a"))
         self.assertIn("status 1", done.stdout)
         self.assertEqual(os.listdir(self.folder), ["a"])
@@ -92,11 +92,11 @@ class Files(InAFolder):
 
 
 class Note(InAFolder):
-    """What the watcher leaves for the application: WORD COUNT SINCE."""
+    """The watcher's note for the application: WORD COUNT SINCE."""
 
     def setUp(self):
         super().setUp()
-        # Where it stands is fixed in the helper; in this copy of it the test says where.
+        # The helper has a fixed path for the note; the test replaces it in this copy.
         with open(HELPER, encoding="utf-8") as file:
             self.helper = self.write("helper.sh", file.read().replace("readonly KILL_SWITCH_NOTE=", "KILL_SWITCH_NOTE="))
 
@@ -110,7 +110,7 @@ class Note(InAFolder):
         ).stdout
 
     def notes(self, *words):
-        """The note after each of the looks, one a second."""
+        """The note after each look, one look a second."""
         return self.looks(
             'now=0; date() { echo "$now"; }; for word in "$@"; do now=$((now + 1)); note_rules "$word" || echo failed;'
             'cat -- "$KILL_SWITCH_NOTE"; done',
@@ -147,7 +147,7 @@ class Note(InAFolder):
 
 
 class BundleVerdict(unittest.TestCase):
-    """What gpgv says of a bundle's signature, read without running it."""
+    """How the helper reads gpgv's output about a bundle's signature, without running gpgv."""
 
     SIGNER = "EF6E286DDA85EA2A4BA7DE684E2C6E8793298290"
     GOOD = "[GNUPG:] VALIDSIG 0123456789012345678901234567890123456789 2026-01-01 1767225600 0 4 0 22 10 00 EF6E286DDA85EA2A4BA7DE684E2C6E8793298290"
@@ -178,7 +178,7 @@ class BundleVerdict(unittest.TestCase):
 
 
 class Arguments(InAFolder):
-    """Which option it is that is refused, and that each of them is looked at."""
+    """The helper names the refused option, and checks every option."""
 
     GOOD = {"--tor": TOR, "--hash": HASH, "--strict": "1", "--lan": "0"}
     PROGRAMS = ("--tor", "--pt-lyrebird", "--pt-snowflake", "--pt-webtunnel")
@@ -278,7 +278,7 @@ class Arguments(InAFolder):
 class Environment(InAFolder):
     @unittest.skipUnless(os.geteuid() == 0, "as nobody but root the helper ends before it calls a program")
     def test_no_program_of_ours_sees_the_callers_environment(self):
-        """LD_DEBUG has each process that sees it write a file of its own; the first sees it always."""
+        """LD_DEBUG makes each process that sees it write a file. The first process always sees it."""
         seen = self.path("seen")
         os.mkdir(seen)
         environment = {"PATH": os.environ["PATH"], "LD_DEBUG": "libs", "LD_DEBUG_OUTPUT": f"{seen}/by"}

@@ -1,4 +1,4 @@
-"""Setting up and removing the password-free way, with the real sudo and an unprivileged user."""
+"""Setting up and removing passwordless mode, with the real sudo and an unprivileged user."""
 
 import os
 
@@ -64,7 +64,7 @@ class Privileged(HelperTest):
         self.machine.shell(f"cmp {INSTALLED} {self.machine.helper}; cmp {LAUNCHER} /usr/bin/false")
 
     def upgrade(self):
-        """The new version's files are there; now the package's own script, run by another administrator's sudo."""
+        """Runs the package's script after the new version's files are installed, by another administrator's sudo."""
         self.machine.shell(
             "mountpoint -q /usr/share || { mkdir -p /mnt/share/upper /mnt/share/work;"
             "mount -t overlay -o lowerdir=/usr/share,upperdir=/mnt/share/upper,workdir=/mnt/share/work private /usr/share; };"
@@ -108,7 +108,7 @@ class Privileged(HelperTest):
         self.assertOneLine(done, "password")
 
     def test_users_own_right_to_sudo_approves_what_the_rule_does_not(self):
-        """The real sudo: the same user, the same helper, another path."""
+        """The user runs the same helper from another path with the real sudo."""
         self.install()
         self.machine.shell(
             'install -o alice -m 0755 /usr/bin/tor /home/alice/tor; cp "$1" /usr/local/helper.sh', self.machine.helper
@@ -135,7 +135,7 @@ class Privileged(HelperTest):
     def test_other_user_cannot_be_let_in(self):
         self.machine.shell("echo 'carol:x:4244:4244::/home/carol:/bin/bash' >>/etc/passwd")
         done = self.machine.help("install-privileged", "--user", "carol", env=PROMPT, check=False)
-        self.assertOneLine(done, "Only the user who asks")
+        self.assertOneLine(done, "only for the user who asks")
 
     def test_folder_that_others_can_write_is_refused(self):
         self.machine.shell("mkdir -p /usr/local/libexec/veldmark; chmod 0777 /usr/local/libexec")

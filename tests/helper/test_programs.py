@@ -1,4 +1,5 @@
-"""Nothing that a user can change runs as Tor's account unless an administrator was asked for exactly that, and nothing of it ever as root."""
+"""A program that a user can change runs as Tor's account only when an administrator has approved exactly that program, and never as
+root."""
 
 import os
 
@@ -7,7 +8,7 @@ from namespace import HASH, INSTALLED, TOR, HelperTest, USER_UID
 
 PROMPT = {"PATH": os.environ["PATH"], "PKEXEC_UID": str(USER_UID)}
 RULE = None  # the installed copy, by sudo's rule
-SUDO = {"PATH": os.environ["PATH"], "SUDO_UID": str(USER_UID)}  # another copy, by a right of the user's own
+SUDO = {"PATH": os.environ["PATH"], "SUDO_UID": str(USER_UID)}  # another copy, by the user's own right to sudo
 BRIDGE = "obfs4 192.0.2.1:443 0123456789012345678901234567890123456789 cert=a iat-mode=0"
 
 
@@ -48,12 +49,12 @@ class Programs(HelperTest):
         return self.machine.approve(path, role, env=env, **options)
 
     def test_the_prompt_of_a_connect_approves_no_program(self):
-        """It does not name it, so whoever swaps the file before the prompt would have it approved."""
+        """The prompt does not name the program, so it would approve a file that was swapped before it."""
         before = self.machine.snapshot()
         for env in PROMPT, SUDO, {"PATH": os.environ["PATH"]}:
             done = self.connect(env, check=False)
             self.assertOneLine(done, "An administrator password is needed to approve /home/alice/tor.")
-            self.assertEqual(done.returncode, 3)
+            self.assertEqual(done.returncode, 4)
         self.assertEqual(self.machine.snapshot(), before)
         self.assertEqual(self.machine.shell("ls /var/lib/veldmark/programs"), "")
 
@@ -63,7 +64,7 @@ class Programs(HelperTest):
         done = self.machine.help(
             "approve", "--program", "/home/alice/tor", "--as", "tor", "--sha256", digest, env=PROMPT, check=False
         )
-        self.assertOneLine(done, "not the one that was to be approved")
+        self.assertOneLine(done, "is not the one to approve")
         self.assertEqual(self.machine.shell("ls /var/lib/veldmark/programs"), "")
 
     def test_rule_approves_nothing(self):
@@ -81,7 +82,7 @@ class Programs(HelperTest):
         self.connect(RULE, TOR, ["--bridge", BRIDGE, "--pt-lyrebird", "/home/alice/lyrebird"])
 
     def test_interpreter_is_no_transport(self):
-        """A transport's program is what the control port may start again with other words."""
+        """Over the control port, Tor may start a transport's program again with other arguments."""
         for program in "/usr/bin/perl", "/bin/bash", "/usr/bin/python3", "/usr/bin/tor":
             with self.subTest(program):
                 done = self.connect(RULE, TOR, ["--bridge", BRIDGE, "--pt-lyrebird", program], check=False)
@@ -92,7 +93,7 @@ class Programs(HelperTest):
         )
 
     def test_roots_file_on_a_medium_that_a_user_mounted_is_the_users(self):
-        """As the desktop mounts an image with whatever owners its maker chose; at a system's own place as well."""
+        """The desktop mounts an image with the owners that its maker chose. The rule holds in the system's own folders as well."""
         copy = "mkdir -p {0}; mount -t tmpfs -o mode=755{1} medium {0}; cp /usr/bin/tor {0}/tor"
         for place, options, runs in (
             ("/opt/medium", "", True),
@@ -126,7 +127,7 @@ class Programs(HelperTest):
         self.assertOneLine(self.connect(RULE, check=False), "password")
 
     def test_sudo_with_a_right_of_the_users_own_is_an_approval(self):
-        """Where no password can be asked for otherwise; the same helper by the rule is none."""
+        """sudo asks for a password where polkit cannot. The same helper by the password-free rule is no approval."""
         self.approve(env=SUDO)
         self.connect(SUDO)
         self.assertRegex(self.running(), r"^/var/lib/veldmark/programs/[0-9a-f]{64}/tor$")
@@ -154,11 +155,11 @@ class Programs(HelperTest):
         self.machine.shell(f"rm /usr/local/hard.sh {folder}/being-replaced.sh")
 
     def test_copy_that_is_removed_while_it_starts_is_not_taken_for_another(self):
-        """As by uninstall-privileged, which the rule lets in as well."""
+        """uninstall-privileged, which the rule allows as well, removes the copy."""
         self.machine.shell(f"cp {INSTALLED} /usr/local/kept; cp {INSTALLED} /usr/local/other.sh")
         words = ["connect", "--tor", "/home/alice/tor", "--hash", HASH, "--strict", "1", "--lan", "0"]
         try:
-            # Bash has it open; it is gone before the helper looks at its own name.
+            # Bash has the file open; it is removed before the helper looks at its own path.
             for path in INSTALLED, "/usr/local/other.sh":
                 done = self.machine.shell_run(
                     'rm "$1"; path=$1; shift; exec /bin/bash -p -c \'source /usr/local/kept; main "$@"\' "$path" "$@"',
@@ -202,6 +203,20 @@ class Programs(HelperTest):
         for program in "/bin/bash", "/usr/bin/perl", "/usr/bin/python3":
             self.assertOneLine(self.connect(RULE, program, check=False), "password")
 
+    def test_programs_of_other_users_processes_are_not_named(self):
+        """Root sees what the link leads to, the caller must not."""
+        self.machine.shell("install -o bob -m 0755 /usr/bin/sleep /home/bob/quietly")
+        running = self.machine.start("/home/bob/quietly", "60", uid=namespace.OTHER_UID)
+        try:
+            link = f"/proc/{self.machine.shell('until pgrep -x quietly; do sleep 0.01; done').strip()}/exe"
+            self.assertEqual(self.machine.shell(f"readlink {link}"), "/home/bob/quietly\n")
+            self.assertNotEqual(self.machine.run("readlink", link, uid=namespace.USER_UID, check=False).returncode, 0)
+            self.assertOneLine(self.connect(PROMPT, link, check=False), f"The program {link} cannot be copied.")
+        finally:
+            running.kill()
+            running.wait()
+            self.machine.shell("pkill -x quietly; rm /home/bob/quietly")
+
     def test_file_that_the_user_cannot_read_is_not_read_for_them(self):
         self.machine.shell("install -m 0700 /usr/bin/tor /home/alice/secret; chmod 0700 /home/alice/secret")
         self.assertOneLine(self.connect(PROMPT, "/home/alice/secret", check=False), "cannot be copied")
@@ -235,7 +250,7 @@ class Programs(HelperTest):
         self.assertIn("\nNoExec 1\n", self.machine.shell("cat /var/lib/veldmark/run/torrc"))
 
     def test_nothing_of_the_users_ever_runs_as_root(self):
-        """A 'tor' that tells who it is: run for the check of its configuration and to be Tor, as Tor's account alone."""
+        """The 'tor' prints its user. The helper runs it for the check of the configuration and as Tor, both as Tor's account."""
         self.machine.shell(
             "mkdir -m 1777 -p /run/told; rm -f /run/told/*; printf '#!/bin/sh\\nid -u >/run/told/$$\\n' >/home/alice/tor"
         )

@@ -54,7 +54,7 @@ class Gnome(Desktop):
         self.connect()
         self.assertNotIn("proxy.corp", self.settings()[0])
         self.assertNotIn("corp", self.as_user("gsettings get org.gnome.system.proxy ignore-hosts"))
-        self.connect(strict=1, lan=1)  # a second connect does not take our own values for the user's
+        self.connect(strict=1, lan=1)  # a second connect must not note Veldmark's values as the user's
         self.assertIn("'192.168.0.0/16'", self.as_user("gsettings get org.gnome.system.proxy ignore-hosts"))
         self.disconnect()
         self.assertEqual(self.settings(), before)
@@ -73,7 +73,7 @@ class Gnome(Desktop):
         self.disconnect()
 
     def stand_in(self, script):
-        """From now on `script` is gsettings; the way back is its result."""
+        """Replaces gsettings by `script`, and returns a function that undoes it."""
         self.machine.shell(
             "mkdir -p /mnt/stand-in; printf '#!/bin/sh\\n%s\\n' \"$1\" >/mnt/stand-in/gsettings; chmod +x /mnt/stand-in/gsettings;"
             "mount --bind /mnt/stand-in/gsettings /usr/bin/gsettings",
@@ -82,7 +82,7 @@ class Gnome(Desktop):
         return lambda: self.machine.shell("umount /usr/bin/gsettings; rm -r /mnt/stand-in")
 
     def test_settings_that_could_not_be_handed_back_are_left_alone(self):
-        """Longer than an argument may be."""
+        """The settings are longer than a program's argument may be."""
         hosts = ", ".join(f"'h{number}.example'" for number in range(10000))
         self.machine.run(
             "dconf", "load", "/system/proxy/", uid=USER_UID, env=services.DESKTOP, stdin=f"[/]\nignore-hosts=[{hosts}]\n"
@@ -113,7 +113,7 @@ class Gnome(Desktop):
         try:
             self.assertOneLine(self.connect(check=False, timeout=50), "proxy settings")
         finally:
-            # The helper may have asked more than once, and who was killed is not gone at once.
+            # The helper may have started more than one, and a killed process does not end at once.
             self.machine.shell(
                 "for left in $(cat /run/user/4242/left); do kill $left; while kill -0 $left 2>/dev/null; do sleep 0.01; done; done; "
                 "rm /run/user/4242/left"
@@ -122,7 +122,7 @@ class Gnome(Desktop):
         self.assertEqual(self.machine.snapshot(), before)
 
     def test_program_that_hangs_is_given_up(self):
-        """In proxy mode a proxy that cannot be set is a failure, and everything goes back."""
+        """In proxy mode a connect fails when the proxy cannot be set, and everything is put back."""
         before = self.machine.snapshot()
         self.machine.shell(
             "mkdir /mnt/slow; printf '#!/bin/sh\\nexec sleep 1000\\n' >/mnt/slow/gsettings; chmod +x /mnt/slow/gsettings;"
@@ -135,7 +135,7 @@ class Gnome(Desktop):
         self.assertEqual(self.machine.snapshot(), before)
 
     def test_slow_program_is_waited_for(self):
-        """On a computer with much to do each call takes its time; all of them together take longer than one may."""
+        """On a busy computer each call takes long. All calls together may take longer than the limit of one."""
         self.as_user(
             "gsettings set org.gnome.system.proxy mode auto; gsettings set org.gnome.system.proxy.http host proxy.corp;"
             "gsettings set org.gnome.system.proxy.socks host before; gsettings set org.gnome.system.proxy.socks port 1"
@@ -205,7 +205,7 @@ class Kde(Desktop):
         self.assertEqual(self.machine.snapshot(), before)
 
     def test_former_users_settings_go_back_when_another_user_connects(self):
-        """At once, and not with the new user's disconnect; bob has a desktop of his own."""
+        """They go back at once, not at the new user's disconnect. bob has a desktop of his own."""
         bobs = "/home/bob/.config/kioslaverc"
         self.write(self.FILES["proxies of the user's"])
         self.machine.shell("mkdir -p /home/bob/.config", uid=namespace.OTHER_UID)

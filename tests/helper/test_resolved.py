@@ -70,7 +70,7 @@ class Resolved(HelperTest):
         self.assertRegex(self.machine.shell("resolvectl dnssec w0"), ": allow-downgrade\n")
 
     def test_without_the_helper_a_link_is_reverted_by_hand(self):
-        """As the README says it."""
+        """The README describes these commands."""
         self.machine.connect()
         self.machine.shell("rm -f /var/lib/veldmark/state/active; nft delete table inet veldmark; umount /etc/resolv.conf")
         self.assertRegex(self.machine.shell("resolvectl dns"), r"\(w0\): 127\.0\.0\.1\n")
@@ -150,7 +150,7 @@ class Global(HelperTest):
         return [line.strip() for line in self.machine.shell("resolvectl dns").splitlines() if "." in line]
 
     def assertOurs(self):
-        """What the leak card looks at: no server is asked but this computer."""
+        """What the leak card checks: only this computer answers DNS."""
         for line in self.servers():
             self.assertRegex(line, r":( 127\.0\.0\.1)+$")
 
@@ -203,7 +203,7 @@ class Global(HelperTest):
         self.assertNotIn("restart", self.machine.shell("cat /run/units/said 2>/dev/null || true"))
 
     def test_network_manager_gives_the_links_their_servers_again(self):
-        """It does so a moment after the daemon has come back."""
+        """NetworkManager does so a moment after the daemon's restart."""
         self.machine.shell(
             r"""
             mkdir /run/NetworkManager; cd /run/units

@@ -1,5 +1,5 @@
-"""NetworkManager writes the resolver file, and cannot while ours is mounted over it. nmcli is a stand-in that writes it as the real one
-has it written."""
+"""NetworkManager writes the resolver file, and cannot while Veldmark's is mounted over it. nmcli is a stand-in that has the file
+written like the real one."""
 
 import namespace
 from namespace import HelperTest
@@ -32,7 +32,7 @@ class Resolver(HelperTest):
         self.machine.shell(f"rm -f /etc/resolv.conf; printf %s '{FIRST}' >/etc/resolv.conf")
 
     def session(self, during):
-        """A session with a second connect in it, as after a change of a setting."""
+        """A session with a second connect, as after a change of a setting."""
         self.machine.connect()
         self.machine.shell(during)
         self.machine.connect()
@@ -50,7 +50,8 @@ class Resolver(HelperTest):
         self.assertEqual(self.session(f"printf %s '{SECOND}' >{COPY}"), ("nameserver 192.0.2.99\n", ""))
 
     def test_a_link_to_the_managers_own_file(self):
-        """Its own file is the one that ours was mounted over: what it would have there is not told, so it is asked."""
+        """NetworkManager's own file is the one under the mount. Its current content cannot be read, so the helper asks
+        NetworkManager to write it."""
         self.machine.shell(f"ln -sf {COPY} /etc/resolv.conf")
         self.assertEqual(self.session("true"), (FIRST, "general reload dns-rc\n"))
 

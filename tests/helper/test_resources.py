@@ -1,4 +1,4 @@
-"""Control groups, priorities and the like, which the caller of a run chooses and may use against it."""
+"""The caller of a run chooses its control group, priority and limits. It must not use them against the run."""
 
 import subprocess
 
@@ -26,7 +26,7 @@ class Resources(HostileTest):
                 ).returncode,
                 0,
             )
-            # One that waits for the lock has left the group as well, before it could have it.
+            # A run that waits for the lock has left the caller's group before it gets the lock.
             holder = self.machine.start(
                 "flock",
                 "/run/veldmark.lock",
@@ -49,7 +49,7 @@ class Resources(HostileTest):
             self.machine.shell(f"rmdir {own}")
 
     def test_a_run_that_its_caller_stops_takes_nothing_from_a_later_session(self):
-        """Its end is in the caller's group again, where it stands still as long as the caller likes."""
+        """At its end a run is in the caller's group again, where the caller can stop it for any time."""
         own = "/sys/fs/cgroup/alices"
         self.machine.shell(f"chmod 755 /sys/fs/cgroup; mkdir {own}; chown -R {USER_UID} {own}")
         holder = self.machine.start(
@@ -83,6 +83,37 @@ class Resources(HostileTest):
             holder.communicate()
             self.machine.help("disconnect")
             self.machine.shell(f"rmdir {own}")
+
+    def test_no_session_begins_where_the_system_makes_no_more_groups(self):
+        """Any user may make that many. The run, Tor and the watcher would be in the caller's group, and the account alone the key."""
+        self.machine.shell(
+            "cat /sys/fs/cgroup/cgroup.stat | grep -q '^nr_descendants 0$'; echo 0 >/sys/fs/cgroup/cgroup.max.descendants"
+        )
+        try:
+            end = self.serve(9050)[1]
+            for strict in 1, 0:
+                done = self.machine.connect(strict=strict, check=False)
+                self.assertOneLine(done, "The control group for Tor cannot be made.")  # said before it looks who has Tor's ports
+            end()
+        finally:
+            self.machine.shell("echo max >/sys/fs/cgroup/cgroup.max.descendants")
+        self.machine.connect()
+        self.machine.shell("echo 0 >/sys/fs/cgroup/cgroup.max.descendants")
+        try:
+            self.machine.help("disconnect")
+        finally:
+            self.machine.shell("echo max >/sys/fs/cgroup/cgroup.max.descendants")
+
+    def test_the_callers_version_of_the_kernel_is_not_believed(self):
+        """Else the account alone would be the key, in a container."""
+        old = "setarch --uname-2.6"
+        self.assertTrue(self.machine.shell(f"{old} uname -r").startswith("2.6."))
+        self.machine.shell(
+            f'exec {old} /bin/bash "$@"',
+            self.machine.helper,
+            *("connect", "--tor", namespace.TOR, "--hash", namespace.HASH, "--strict", "1", "--lan", "0"),
+        )
+        self.assertIn("cgroupv2", self.machine.run("nft", "list", "table", "inet", "veldmark").stdout)
 
     def test_the_callers_priorities_are_not_taken_over(self):
         self.machine.shell(

@@ -1,7 +1,6 @@
-"""The firewall's rules, word for word: what they let out and in is tested with packets (test_firewall.py), which cannot try every
-port and range.
+"""The firewall's rules, word for word. test_firewall.py tests them with packets, which cannot try every port and range.
 
-A change that is meant is written with VELDMARK_WRITE_RULES=1 test_rules.py, and read in the difference."""
+After an intended change run VELDMARK_WRITE_RULES=1 test_rules.py, and read the difference."""
 
 import os
 import subprocess
@@ -14,10 +13,10 @@ FOLDER = os.path.join(namespace.HERE, "rules")
 
 CASES = {
     "strict": "print_strict_rules 991 1000 0 0 '' '' ''",
-    "strict-everything": "print_strict_rules 991 1000 1 1 192.0.2.53 2001:db8::53 veldmark-exempt",
+    "strict-everything": "print_strict_rules 991 1000 1 1 192.0.2.53 2001:db8::53 veldmark-bypass",
     "strict-root": "print_strict_rules 991 0 0 0 '' '' ''",
     "identities": "print_identities 0 1000 65534",
-    "strict-groups": "TOR_PATH=veldmark/tor; print_strict_rules 991 1000 0 1 '' '' veldmark-exempt 1",
+    "strict-groups": "TOR_PATH=veldmark/tor; print_strict_rules 991 1000 0 1 '' '' veldmark-bypass 1",
     "strict-bridges": "print_strict_rules 991 1000 0 0 '' '' '' '' '192.0.2.1 . 443' '2001:db8::1 . 9030'",
     "proxy": "print_proxy_rules 991 1000",
 }

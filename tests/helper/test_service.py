@@ -1,5 +1,5 @@
-"""The system's own Tor service, which holds the ports that our Tor needs: taken over, and given back. systemctl and the service are
-stand-ins with real processes and ports."""
+"""The system's own Tor service holds the ports that Veldmark's Tor needs. A connect stops the service, and a disconnect starts it
+again. systemctl and the service are stand-ins with real processes and ports."""
 
 import subprocess
 import time
@@ -83,12 +83,12 @@ class Service(HelperTest):
         for strict in 0, 1:
             self.assertOneLine(
                 self.machine.connect(strict=strict, check=False),
-                f"The port 9050, which Tor needs, is held by tor (process {pid}). End that, then connect again.",
+                f"The port 9050, which Tor needs, is held by tor (process {pid}). End that program, then connect again.",
             )
             self.assertEqual(self.machine.snapshot(), before)
 
     def test_a_refused_connect_leaves_no_control_group(self):
-        """Also where what it has looked with ends late."""
+        """The programs that it has looked with may end late."""
         self.machine.shell("systemctl stop tor@default.service")
         services.start_tor_service(self.machine, "tor@other.service")
         pid = self.machine.shell("cat /run/units/tor@other.service.pid").strip()

@@ -1,4 +1,4 @@
-"""Connecting and disconnecting: what changes, what comes back, what happens when Tor dies."""
+"""Connecting and disconnecting: what changes, what is restored, and what happens when Tor ends."""
 
 import os
 import subprocess
@@ -47,7 +47,7 @@ class Session(HelperTest):
             path = "/var/lib/veldmark/run/" + name
             self.machine.run("cat", path, uid=namespace.USER_UID)
             self.assertNotEqual(self.machine.run("cat", path, uid=4243, check=False).returncode, 0)
-            # Neither may who shares the user's primary group, which on some systems is everybody.
+            # Members of the user's primary group may not either; on some systems that is every user.
             self.machine.run("setpriv", "--reuid=4243", f"--regid={namespace.USER_UID}", "--clear-groups", "true")
             self.assertNotEqual(
                 self.machine.run(
@@ -62,7 +62,7 @@ class Session(HelperTest):
         [pid] = self.machine.tor_pids()
         status = self.machine.shell(f"cat /proc/{pid}/status")
         for field in "CapInh", "CapPrm", "CapEff", "CapBnd", "CapAmb":
-            self.assertRegex(status, rf"{field}:\s+0+400\n")  # CAP_NET_BIND_SERVICE, for the port for look-ups
+            self.assertRegex(status, rf"{field}:\s+0+400\n")  # CAP_NET_BIND_SERVICE, for the DNS port
         self.assertRegex(status, r"NoNewPrivs:\s+1\n")
         self.assertRegex(status, r"Groups:\s*\n")
         for kind in "mnt", "pid":
@@ -74,7 +74,7 @@ class Session(HelperTest):
         self.assertIn("flock ok", self.machine.shell("flock -n /run/veldmark.lock echo flock ok"))
 
     def test_tor_keeps_the_former_resolvers(self):
-        for _ in range(2):  # a second connect, over a switched resolver, too
+        for _ in range(2):  # also a second connect, when the resolver points at Tor already
             self.machine.connect()
             [pid] = self.machine.tor_pids()
             self.assertEqual(self.machine.shell(f"cat /proc/{pid}/root/etc/resolv.conf"), "nameserver 192.0.2.53\n")
@@ -114,13 +114,13 @@ class Session(HelperTest):
         self.assertEqual(len(self.machine.shell("grep veldmark-resolv /proc/self/mountinfo").splitlines()), 1)
 
     def test_strict_then_proxy_then_strict(self):
-        traces = "ls /sys/fs/cgroup /var/lib/veldmark/journal | grep -e exempt -e watcher || true; pgrep -f /watcher[.]sh || true"
+        traces = "ls /sys/fs/cgroup /var/lib/veldmark/journal | grep -e bypass -e watcher || true; pgrep -f /watcher[.]sh || true"
         self.machine.connect(strict=1)
-        self.assertIn("veldmark-exempt", self.machine.shell(traces))
+        self.assertIn("veldmark-bypass", self.machine.shell(traces))
         self.machine.connect(strict=0)
         self.assertEqual(self.marker(), "proxy\n")
         self.assertNotIn("policy drop", self.machine.run("nft", "list", "ruleset").stdout)
-        self.assertEqual(self.machine.shell(traces), "")  # what only a strict session has goes with it
+        self.assertEqual(self.machine.shell(traces), "")  # a strict session's own parts are removed
         self.machine.connect(strict=1)
         self.assertEqual(self.marker(), "strict\n")
         self.assertIn("policy drop", self.machine.run("nft", "list", "ruleset").stdout)
@@ -139,7 +139,7 @@ class Session(HelperTest):
         self.assertEqual(self.machine.snapshot(), during)
 
     def take_port(self, port):
-        """For IPv6 and IPv4 at once: whether such a one is in Tor's way only Tor finds out."""
+        """Takes a port for IPv6 and IPv4 at once. Only Tor finds out whether such a listener blocks it."""
         holder = self.machine.start(
             "/usr/bin/python3",
             "-c",
@@ -191,7 +191,7 @@ class Session(HelperTest):
         self.assertEqual(self.machine.tor_pids(), [])
 
     def test_marker_from_before_a_restart_promises_nothing(self):
-        """The kill switch is gone: a connect that fails must not say that the network is blocked."""
+        """The kill switch is gone, so a failed connect must not say that the network is blocked."""
         self.machine.connect(strict=1)
         self.machine.end_watcher()
         self.machine.shell("kill -9 $(pgrep -u _veldmark); umount /etc/resolv.conf; nft delete table inet veldmark")
@@ -208,7 +208,7 @@ class Session(HelperTest):
             "printf '#!/bin/sh\necho no >&2; exit 1\n' >/mnt/nft; chmod +x /mnt/nft; mount --bind /mnt/nft /usr/sbin/nft"
         )
         try:
-            self.assertOneLine(self.machine.help("disconnect", check=False), "firewall")
+            self.assertOneLine(self.machine.help("disconnect", check=False), "kill switch could not be switched off")
             self.assertEqual(self.marker(), "strict\n")
         finally:
             self.machine.shell("umount /usr/sbin/nft; rm /mnt/nft")
@@ -231,7 +231,7 @@ class Session(HelperTest):
         bystander.wait()
 
     def test_process_of_before_a_restart_is_left_alone(self):
-        """Another one may have its number, and by chance its start, after a restart."""
+        """After a restart another process may have the same number, and by chance the same start time."""
         self.machine.connect()
         [tor] = self.machine.tor_pids()
         entry = "/var/lib/veldmark/journal/20-tor"
@@ -245,18 +245,18 @@ class Session(HelperTest):
             tor,
             boot,
         )
-        self.machine.help("disconnect")  # the same note of this run of the computer ends it
+        self.machine.help("disconnect")  # with this boot's id the same note ends the process
         self.assertEqual(self.machine.tor_pids(), [])
 
     def test_folders_that_cannot_be_looked_at_stop_everything(self):
-        """Nothing can be told of them then, not even that there is nothing to undo."""
+        """The helper cannot know then whether there is anything to undo."""
         self.machine.connect(strict=1)
         self.machine.await_watcher()
         during = self.machine.snapshot()
         self.machine.shell("printf '#!/bin/sh\nexit 1\n' >/mnt/stat; chmod +x /mnt/stat; mount --bind /mnt/stat /usr/bin/stat")
         try:
             for verb in "disconnect", "fix-dns":
-                self.assertOneLine(self.machine.help(verb, check=False), "cannot be looked at, so nothing was done.")
+                self.assertOneLine(self.machine.help(verb, check=False), "cannot be read, so nothing was done.")
         finally:
             self.machine.shell("umount /usr/bin/stat; rm /mnt/stat")
         self.assertEqual(self.machine.snapshot(), during)
@@ -276,7 +276,7 @@ class Session(HelperTest):
         self.assertEqual((done.stdout, done.stderr), ("", ""))
 
     def test_torn_journal_still_opens_the_network(self):
-        for entry in "10-firewall", "12-exempt", "15-watcher", "20-tor", "30-resolver":
+        for entry in "10-firewall", "12-bypass", "15-watcher", "20-tor", "30-resolver":
             with self.subTest(entry):
                 self.machine.connect()
                 self.machine.shell(f"printf 'pid 1' >/var/lib/veldmark/journal/{entry}")
@@ -295,7 +295,7 @@ class Session(HelperTest):
         self.machine.help("disconnect")
 
     def test_links_are_replaced_and_never_followed(self):
-        """Where a link stands, a new file takes its place; a folder or a lock that is one is refused."""
+        """The helper replaces a link in a file's place, and refuses a folder or a lock file that is a link."""
         self.machine.shell(
             "echo mine >/run/mine; cd /var/lib/veldmark; for name in state/active state/active.new journal/10-firewall journal/20-tor.new"
             " run/torrc run/torrc.checked run/firewall.nft run/firewall.nft.new run/notices.log run/launcher.out run/tor-resolv.conf;"
@@ -315,12 +315,12 @@ class Session(HelperTest):
     def test_half_written_notes_go_with_the_session(self):
         self.machine.connect()
         notes = "/run/veldmark.others.new /var/lib/veldmark/journal/20-tor.new"
-        self.machine.shell(f"touch {notes}")
+        self.machine.shell(f"touch {notes}; ls {notes}")
         self.machine.help("disconnect")
         self.assertEqual(self.machine.shell(f"ls {notes} 2>/dev/null || true"), "")
 
     def test_file_that_is_no_resolver_file_is_not_shown_to_everybody(self):
-        """A link in a folder of somebody else's may lead anywhere by the time that it is read."""
+        """A link in another user's folder may lead to any file by the time that it is read."""
         self.machine.shell(
             "cp -a /etc/resolv.conf /run/former; printf 'root:secret:\\nnameserver 192.0.2.7\\noptions edns0' >/run/private;"
             "ln -sfn /run/private /etc/resolv.conf"
@@ -335,7 +335,7 @@ class Session(HelperTest):
             self.machine.shell("rm /etc/resolv.conf; mv /run/former /etc/resolv.conf")
 
     def test_limits_of_the_callers_shell_end_nothing(self):
-        """Neither this run nor what outlives it: the watcher and Tor."""
+        """The limits end neither the run nor the watcher and Tor, which outlive it."""
         run = f'exec /bin/bash "{self.machine.helper}" "$@"'
         words = ["connect", "--tor", TOR, "--hash", HASH, "--strict", "1", "--lan", "0"]
         self.assertNotEqual(self.machine.run("/bin/bash", "-c", "ulimit -Sf 0; echo x >/run/x", check=False).returncode, 0)
@@ -344,9 +344,14 @@ class Session(HelperTest):
                 self.machine.run("/bin/bash", "-c", f"ulimit {limit}; {run}", "limited", *words)
                 self.machine.await_watcher()
                 [tor] = self.machine.tor_pids()
-                for pid in tor, self.machine.shell("pgrep -xf '/bin/bash -p -- /var/lib/veldmark/run/watcher.sh'").strip():
+                watcher = self.machine.shell("pgrep -xf '/bin/bash -p -- /var/lib/veldmark/run/watcher.sh'").strip()
+                for pid, file_size in (tor, "104857600"), (
+                    watcher,
+                    "unlimited",
+                ):  # the helper's own limit for Tor's files, in bytes
                     limits = self.machine.shell(f"cat /proc/{pid}/limits")
-                    for name in "cpu time", "file size", "address space":
+                    self.assertRegex(limits, rf"Max file size +{file_size}")
+                    for name in "cpu time", "address space":
                         self.assertRegex(limits, rf"Max {name} +unlimited")
                     self.assertRegex(limits, r"Max processes +(\d{3,}|unlimited)")
                     self.assertRegex(limits, r"Max open files +\d{4}")

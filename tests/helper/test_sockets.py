@@ -1,4 +1,4 @@
-"""Ports of Tor and of its bridge programs, which hostile programs reach for, or take where Tor is away."""
+"""Hostile programs connect to the ports of Tor and its bridge programs, or listen there while Tor is away."""
 
 import subprocess
 
@@ -6,8 +6,8 @@ import namespace
 from hostile import CLIENT, SERVER, HostileTest
 from namespace import OTHER_UID, TOR_GROUP, USER_UID
 
-# Listens on 127.0.0.1 at the port given until somebody waits for an answer from there, then opens a connection of its own from that
-# port to the one who waits: two openings that meet are a connection, which nobody has answered.
+# Listens on 127.0.0.1 at the given port until a client waits for an answer from there, then connects from that port to the client.
+# Two SYN packets that cross make a connection without any SYN-ACK.
 MEETING = (
     "import socket, sys\nport = int(sys.argv[1]); at = f'0100007F:{port:04X}'; s = socket.create_server(('127.0.0.1', port)); print('up', flush=True)\n"
     "while True:\n"
@@ -21,7 +21,7 @@ MEETING = (
 
 class Sockets(HostileTest):
     def test_a_transports_port_is_tors_alone(self):
-        """Else it is a tunnel to a server of anybody's, from the real address."""
+        """Otherwise any program could use the transport as a tunnel to a server of its own, from the real address."""
         port, end = self.serve(0, uid=self.tor_uid)
         self.assertTrue(self.reach(port, uid=OTHER_UID))
         end()
@@ -45,7 +45,7 @@ class Sockets(HostileTest):
         end()
 
     def test_nobody_else_answers_at_tors_ports(self):
-        """While Tor is away, a false listener would get the control password and what others ask."""
+        """While Tor is away, a false listener would receive the control password and other programs' requests."""
         for strict in 1, 0:
             self.machine.connect(strict=strict)
             self.machine.shell("pkill -KILL -u _veldmark; while pgrep -u _veldmark; do sleep 0.01; done")
@@ -60,7 +60,7 @@ class Sockets(HostileTest):
             self.machine.help("disconnect")
 
     def test_nobody_answers_at_tors_ports_of_the_other_loopback_address(self):
-        """Programs that are told "localhost:9050" try it first."""
+        """Programs that use "localhost:9050" try it first."""
         serve, ask = (
             text.replace("'127.0.0.1'", "'::1'")
             .replace("socket.socket()", "socket.socket(socket.AF_INET6)")
@@ -85,7 +85,8 @@ class Sockets(HostileTest):
             self.machine.help("disconnect")
 
     def test_nobody_takes_tors_place_without_answering(self):
-        """While Tor is away: an opening packet from Tor's port meets that of who waits for Tor, and neither has been answered."""
+        """While Tor is away, a SYN packet from Tor's port crosses the SYN of a program that connects to Tor; no SYN-ACK is
+        involved."""
         for strict in 1, 0:
             self.machine.connect(strict=strict)
             self.machine.shell("pkill -KILL -u _veldmark; while pgrep -u _veldmark; do sleep 0.01; done")

@@ -1,5 +1,6 @@
 """The generated texts: functions of the helper that print and touch nothing."""
 
+import os
 import re
 import subprocess
 import unittest
@@ -116,7 +117,7 @@ class Rules(unittest.TestCase):
             body = re.search(rf"chain {chain} {{(.*?)\n\t}}", text, re.DOTALL).group(1)
             self.assertLess(body.index(refused), body.index("\t\taccept"))
 
-    BRIDGES = {  # the lines, and what Tor may send to; None for everybody
+    BRIDGES = {  # the lines, and the addresses that Tor may send to; None: any
         ("192.0.2.1:443",): "192.0.2.1 . 443|",
         (
             "obfs4 192.0.2.1:444 ABC cert=a iat-mode=0",
@@ -231,8 +232,32 @@ class Joined(unittest.TestCase):
         self.assertEqual(namespace.os.stat(HELPER).st_mode & 0o777, 0o755)
 
     def test_shellcheck(self):
-        done = subprocess.run(["shellcheck", "-s", "bash", HELPER], capture_output=True, text=True, check=False)
-        self.assertEqual(done.stdout, "")
+        for system in "linux", "darwin":
+            helper = namespace.helper_path(system)
+            done = subprocess.run(["shellcheck", "-s", "bash", helper], capture_output=True, text=True, check=False)
+            self.assertEqual(done.stdout, "", system)
+
+    def test_the_contents_name_each_part(self):
+        with open(HELPER, encoding="utf-8") as file:
+            contents = [line[4:].split("  ")[0] for line in file if line.startswith("#   ")]
+        named = {word for line in contents for word in line.split(", ")}
+        parts = {
+            name[:-3].removeprefix("linux-").removeprefix("darwin-")
+            for name in os.listdir(namespace.PARTS)
+            if name.endswith(".sh") and name != "join.sh"
+        }
+        self.assertIn("firewall", parts)
+        self.assertEqual(parts - named, set())
+
+    def test_each_entry_of_the_journal_is_put_and_undone(self):
+        for system, entries in ("linux", 13), ("darwin", 5):
+            with open(namespace.helper_path(system), encoding="utf-8") as file:
+                helper = file.read()
+            kinds = re.findall(r"(?m)^readonly [A-Z]+_ENTRY=[0-9]{2}-([a-z]+)(?: |$)", helper)
+            self.assertEqual(len(kinds), entries, system)
+            for kind in kinds:
+                for verb in "put", "undo":
+                    self.assertTrue(re.search(rf"(?m)^{verb}_{kind}s?\(\) ", helper), f"{system}: {verb}_{kind}")
 
 
 if __name__ == "__main__":

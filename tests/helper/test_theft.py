@@ -1,5 +1,5 @@
-"""Programs of the user's own that take over what the helper runs as that user, to change what root has copied afterwards. As long as
-such a program keeps what it has taken, the run has no end of the file and refuses it."""
+"""The user's own programs take over the output of what the helper runs as that user, to change the bytes that root copies. As long
+as such a program keeps the output, the run sees no end of the file and refuses it."""
 
 import hashlib
 import os
@@ -17,8 +17,8 @@ LAUNCHER = os.path.join(os.path.dirname(INSTALLED), "veldmark-launch")
 
 class Theft(HelperTest):
     def run_against(self, *words):
-        """The helper, which reads PATH as the user. The file is there, and good, until the run waits for the lock; afterwards it comes
-        slowly, as from a medium of the user's. The run, what the thief gets of it, and what it can do with that once the run has ended.
+        """Runs the helper, which reads PATH as the user. The file is good until the run waits for the lock; afterwards it is read
+        slowly, as from a slow medium. Returns the run, what the thief has taken, and what the thief can do with that after the run.
         """
         self.machine.shell(f"rm -f {PATH} {GOOD}; install -o alice -m 0755 /usr/bin/true {PATH}; install -o alice {PATH} {GOOD}")
         holder = self.machine.start(

@@ -1,5 +1,5 @@
-"""The helper on a computer where something is wrong: each run ends well or with one line that says what is wrong, the network is
-whole or closed as the line says, and a disconnect once the trouble is over puts everything back."""
+"""The helper on a computer in trouble. Each run succeeds or prints one line that names the problem. The network is restored or
+blocked as the line says. A disconnect after the trouble puts everything back."""
 
 import concurrent.futures
 import subprocess
@@ -13,7 +13,7 @@ STATE = "/var/lib/veldmark"
 OTHER_TOR = "/usr/local/other/tor"
 DISK = 256  # kilobytes; our own folder gets a file system of its own
 CLOSED = "The network stays blocked until you disconnect."
-# What a few bytes less than needed are, is for the file system to say: from nothing to enough for a whole connect.
+# The free room, from nothing to enough for a whole connect. The file system decides what a few missing bytes mean.
 SPARE = (0, 4, 8, 12, 16, 24, 32, 48)
 NOT_EXECUTABLE = "touch /mnt/empty; mount --bind /mnt/empty {0}"
 
@@ -81,7 +81,7 @@ class Trouble(HelperTest):
         cls.machine.tor_uid = cls.machine.shell("id -u _veldmark").strip()
         cls.wire = Wire(cls.machine)
         cls.machine.shell(f"mount -t tmpfs -o size={DISK}k,mode=755 disk {STATE}; mkdir -p /usr/local/other; cp {TOR} {OTHER_TOR}")
-        # Tor's own data needs more room than the trouble is about.
+        # Tor's own data needs more room than this trouble leaves.
         cls.machine.connect()
         cls.machine.help("disconnect")
         cls.machine.shell(
@@ -115,7 +115,7 @@ class Trouble(HelperTest):
             self.assertOneLine(done, "Tor does not accept its configuration")
         finally:
             self.machine.shell(f"kill $(cat /run/data/left); rm /run/data/left; mv -f {OTHER_TOR}.away {OTHER_TOR}")
-        self.machine.help("disconnect")  # the control group could not go before that process
+        self.machine.help("disconnect")  # the control group could not be removed before that process ended
         self.assertEqual(self.machine.snapshot(), self.before)
 
     def test_folders_that_cannot_be_looked_at_are_not_taken_for_safe(self):
@@ -124,7 +124,7 @@ class Trouble(HelperTest):
         for verb in "connect", "fix-dns", "disconnect":
             self.machine.shell(f"chmod 777 {STATE}/state; {begin}")
             try:
-                self.assertOneLine(self.machine.help(*self.words(verb, TOR), check=False), "cannot be looked at")
+                self.assertOneLine(self.machine.help(*self.words(verb, TOR), check=False), "cannot be read")
             finally:
                 self.machine.shell(f"{end}; chmod 755 {STATE}/state")
             self.assertTrue(self.drops())
@@ -132,7 +132,7 @@ class Trouble(HelperTest):
         self.assertEqual(self.machine.snapshot(), self.before)
 
     def drops(self):
-        """Asked of the packets, since nft itself may be what is wrong."""
+        """Whether packets are dropped. It sends packets, since nft itself may be broken."""
         seen = self.wire.arrivals()
         self.assertIn(seen & {"tcp", "udp"}, (set(), {"tcp", "udp"}))
         return "tcp" not in seen
@@ -151,7 +151,7 @@ class Trouble(HelperTest):
         if done.returncode:
             self.assertOneLine(done)
             self.assertNotIn(": line ", done.stderr)
-            if CLOSED in done.stderr or session is None:  # else the former session goes on
+            if CLOSED in done.stderr or session is None:  # otherwise the earlier session goes on
                 self.assertEqual(CLOSED in done.stderr, closed, done.stderr)
             if session == 1 and verb != "disconnect":
                 self.assertTrue(closed, done.stderr)
@@ -170,7 +170,7 @@ class Trouble(HelperTest):
     def all_troubles(self, verb, session):
         self.assertFalse(self.drops())
         for name in TROUBLES:
-            # Connecting takes the room bit by bit; the rest either has what it needs or has not.
+            # A connect uses the room in steps; the other verbs either have enough room or not.
             if name in SOME_ROOM and (session is not None or not verb.startswith("connect")):
                 continue
             with self.subTest(name, verb=verb, session={None: "none", 0: "proxy", 1: "strict"}[session]):
@@ -199,7 +199,8 @@ class Trouble(HelperTest):
         self.all_troubles("disconnect", 0)
 
     def together(self, verbs):
-        """Runs them at once. Gives each run's status, message and seconds, and their numbers in the order in which they had the lock."""
+        """Runs the verbs at once. Returns each run's status and message, its seconds, and the runs' numbers in the order in which
+        they had the lock."""
         self.machine.shell(
             """
             cp /usr/bin/flock /run/real-flock; rm -f /run/order
@@ -237,8 +238,8 @@ class Trouble(HelperTest):
         return results, ended, [pids.index(pid) for pid in self.machine.shell("cat /run/order").split()]
 
     def assert_one_after_the_other(self, verbs):
-        """Whoever had the lock has done its work on what the run before it had left; whoever had it not has waited for it as long
-        as it should, and says so. What stands in the end is what the last of them made."""
+        """Each run that had the lock has worked on the state that the run before it left. Each other run has waited as long as it
+        should, and says so. The final state is the one that the last run made."""
         results, seconds, order = self.together(verbs)
         self.assertGreater(len(order), 0)
         self.assertEqual(len(set(order)), len(order))

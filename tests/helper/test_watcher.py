@@ -1,4 +1,4 @@
-"""The watcher over the firewall: whatever somebody does to our rules while a strict session lasts is undone at once."""
+"""The watcher of the firewall undoes every change of Veldmark's rules at once, as long as a strict session lasts."""
 
 import contextlib
 import os
@@ -10,9 +10,9 @@ import probes
 from namespace import USER_UID, HelperTest
 from wire import LINK, Flood, Wire
 
-LIMIT = 5.0  # seconds from the change to the rules in force again
-NOTE = "/run/veldmark.watch"  # "WORD COUNT SINCE", as young as the watcher's last look
-GROUP = "/sys/fs/cgroup/veldmark-exempt"
+LIMIT = 5.0  # seconds from the change until the rules are back
+NOTE = "/run/veldmark.watch"  # "WORD COUNT SINCE"; its time is that of the watcher's last look
+GROUP = "/sys/fs/cgroup/veldmark-bypass"
 
 CHANGES = {
     "flushed": "nft flush ruleset",
@@ -53,7 +53,7 @@ class Watcher(HelperTest):
         return f"/proc/{self.machine.pid}/root{NOTE}"
 
     def note(self):
-        """The word and how often rules were missed."""
+        """The word, and how often rules were missing."""
         with open(self.note_path, encoding="ascii") as file:
             word, count, since = file.read().split(" ")
         self.assertTrue(since.endswith("\n") and abs(int(since) - time.time()) < 60, since)
@@ -66,7 +66,7 @@ class Watcher(HelperTest):
             time.sleep(0.02)
 
     def wait_look(self):
-        """Until the watcher has looked once more."""
+        """Waits until the watcher has looked once more."""
         beats, deadline = {os.stat(self.note_path).st_mtime_ns}, time.monotonic() + 2 * LIMIT
         while len(beats) < 9:  # two a second, and a look after three seconds at the latest
             self.assertLess(time.monotonic(), deadline, "it does not look")
@@ -89,7 +89,8 @@ class Watcher(HelperTest):
                 print(f"{name}: {self.seconds_until_locked(change) * 1000:.0f} ms", flush=True)
 
     def test_what_is_sent_in_the_gap_is_counted(self):
-        """Root's probes without pause, seen at the other end of the machine's only link; once the rules are back there is none."""
+        """Root sends probes without pause. The other end of the machine's only link sees them until the rules are back, and none
+        afterwards."""
         self.machine.tor_uid = self.machine.shell("id -u _veldmark").strip()
         wire, flood = Wire(self.machine), Flood(self.machine)
         try:
@@ -111,13 +112,13 @@ class Watcher(HelperTest):
             wire.close()
 
     def test_it_looks_also_when_the_kernel_tells_nothing(self):
-        self.machine.shell("pkill -STOP -xf 'nft monitor [a-z]*'")  # and not what it looks with
+        self.machine.shell("pkill -STOP -xf 'nft monitor [a-z]*'")  # but not the nft process of a look
         self.seconds_until_locked("nft flush ruleset")
         self.machine.shell("pkill -CONT -xf 'nft monitor [a-z]*'")
 
     def test_groups_that_users_make_do_not_delay_it(self):
-        """Whoever asks nft for the rules with the names of control groups waits longer the more there are, and any user makes thousands
-        a second."""
+        """nft takes longer to print the names of control groups the more groups there are, and any user can make thousands a
+        second."""
         self.machine.shell(f"chmod 755 /sys/fs/cgroup; mkdir /sys/fs/cgroup/user.slice; chown {USER_UID} /sys/fs/cgroup/user.slice")
         try:
             self.machine.run(
@@ -141,18 +142,49 @@ class Watcher(HelperTest):
             self.machine.help("disconnect")
             self.machine.shell("cd /sys/fs/cgroup; find user.slice -depth -type d -exec rmdir {} +", timeout=120)
 
+    def test_sockets_that_users_open_do_not_delay_it(self):
+        """All of them stand in the list in which it looks for Tor's ports."""
+        crowd = (
+            "import resource, socket, sys\nresource.setrlimit(resource.RLIMIT_NOFILE, (19900, 20000))\nkept = []\n"
+            "for n in range(19800):\n s = socket.socket(); s.bind(('127.1.%d.%d' % (n // 200, n % 200 + 1), 7000)); s.listen(1); kept.append(s)\n"
+            "print('open', flush=True); sys.stdin.read()"
+        )
+        many = [
+            self.machine.start(
+                "/usr/bin/python3",
+                "-c",
+                crowd.replace("127.1", f"127.{turn}"),
+                stdin=subprocess.PIPE,
+                stdout=subprocess.PIPE,
+                text=True,
+            )
+            for turn in range(1, 4)
+        ]
+        try:
+            for process in many:
+                self.assertEqual(process.stdout.readline(), "open\n")
+            oldest = 0.0
+            until = time.monotonic() + 10
+            while time.monotonic() < until:
+                oldest = max(oldest, time.time() - os.stat(self.note_path).st_mtime)
+                time.sleep(0.05)
+            self.assertLess(oldest, 2)
+        finally:
+            for process in many:
+                process.communicate()
+
     def test_the_change_is_told(self):
         self.assertEqual(self.note(), "standing 0")
         self.seconds_until_locked("nft flush ruleset")
         self.wait_note("restored 1")
         self.wait_look()
-        self.assertEqual(self.note(), "restored 1")  # it stands since, and that is no second miss
+        self.assertEqual(self.note(), "restored 1")  # the rules are loaded since; this is no second miss
         self.seconds_until_locked("nft delete table inet veldmark")
         self.wait_note("restored 2")
         self.assertEqual(self.machine.shell(f"stat -c '%a %u' {NOTE}"), "644 0\n")
 
     def test_its_note_is_as_young_as_its_last_look(self):
-        for _ in range(50):  # what the program takes for a sign of life
+        for _ in range(50):  # the program takes this for a sign of life
             self.assertLess(time.time() - os.stat(self.note_path).st_mtime, 1.5)
             time.sleep(0.1)
         self.machine.end_watcher()
@@ -167,7 +199,7 @@ class Watcher(HelperTest):
         )
 
         def is_young():
-            return time.time() - os.stat(self.note_path).st_mtime < 1.5  # what the program takes for a sign of life
+            return time.time() - os.stat(self.note_path).st_mtime < 1.5  # the program takes this for a sign of life
 
         def becomes(young):
             deadline = time.monotonic() + 10
@@ -175,13 +207,13 @@ class Watcher(HelperTest):
                 self.assertLess(time.monotonic(), deadline, f"young: {young}")
                 time.sleep(0.05)
 
-        # Tor's own account is no proof: what counts is that it is this session's.
+        # A listener of Tor's account is no proof: it must be this session's Tor.
         tor = int(self.machine.shell("id -u _veldmark"))
         for port, uid in (9050, namespace.OTHER_UID), (9051, tor), (293, 0):
             with self.subTest(port):
                 self.machine.shell("pkill -KILL -u _veldmark; while pgrep -u _veldmark; do sleep 0.01; done")
                 for _ in range(40):
-                    self.assertTrue(is_young(), "where nobody listens, nobody is in Tor's place")
+                    self.assertTrue(is_young(), "without a listener no program is in Tor's place")
                     time.sleep(0.1)
                 process = self.machine.start(
                     "/usr/bin/python3", "-c", listen, str(port), uid=uid, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True
@@ -198,7 +230,7 @@ class Watcher(HelperTest):
                     time.sleep(0.1)
 
     def test_the_note_is_there_when_the_helper_has_ended(self):
-        """The application asks then, perhaps before the watcher has looked."""
+        """The application reads the note then, perhaps before the watcher's first look."""
         self.machine.help("disconnect")
         self.assertFalse(os.path.exists(self.note_path))
         self.machine.shell(
@@ -218,7 +250,7 @@ class Watcher(HelperTest):
         self.machine.connect(strict=0)
         self.assertFalse(os.path.exists(self.note_path))
         self.machine.help("disconnect")
-        # What a session before a restart has left: a marker and notes, but no rules and no watcher.
+        # A session before a restart leaves a marker and notes, but no rules and no watcher.
         self.machine.connect()
         self.machine.end_watcher()
         self.machine.shell(
@@ -235,11 +267,11 @@ class Watcher(HelperTest):
         self.assertEqual(self.note(), "standing 0")
 
     def test_a_change_that_cannot_be_undone_is_told(self):
-        """Somebody replaces nft itself: the worst, and said so."""
+        """Another program replaces nft itself. The watcher cannot put the rules back, and its note says so."""
         self.assertEqual(self.note(), "standing 0")
         with self.broken_nft():
             self.wait_note("open 1", 2 * LIMIT)
-            self.wait_look()  # it tries again, and that is the same miss
+            self.wait_look()  # it tries again; this is the same miss
             self.wait_look()
             self.assertEqual(self.note(), "open 1")
         self.wait_note("restored 1", 2 * LIMIT)
@@ -261,7 +293,8 @@ class Watcher(HelperTest):
             time.sleep(0.02)
 
     def test_the_same_rules_in_other_words_are_no_change(self):
-        """As after an upgrade of nft: neither an alarm nor loading without end."""
+        """An upgrade of nft may print the same rules in another form. The watcher must neither raise an alarm nor load them
+        endlessly."""
         for edit in ("s/ { 9050/  {  9050/", "s/priority filter/priority 0/"):
             with self.subTest(edit):
                 self.machine.shell(
@@ -279,7 +312,7 @@ class Watcher(HelperTest):
                 finally:
                     self.machine.shell(
                         "umount -l /usr/sbin/nft; mv /mnt/nft /mnt/nft.former; rm /mnt/loads"
-                    )  # the watcher may run it just now
+                    )  # the watcher may be running it
                 self.machine.help("disconnect")
                 self.machine.connect()
                 self.machine.await_watcher()
@@ -290,9 +323,9 @@ class Watcher(HelperTest):
         self.machine.shell("nft list table inet other; nft delete table inet other")
 
     def test_a_removed_group_does_not_keep_the_lock_open(self):
-        self.seconds_until_locked("rmdir /sys/fs/cgroup/veldmark-exempt; nft flush ruleset")
+        self.seconds_until_locked("rmdir /sys/fs/cgroup/veldmark-bypass; nft flush ruleset")
 
-    def test_without_its_group_the_lock_is_loaded_and_with_it_the_exemption_comes_back(self):
+    def test_without_its_group_the_lock_is_loaded_and_with_it_the_bypass_comes_back(self):
         self.machine.shell(f"echo 0 >/sys/fs/cgroup/cgroup.max.descendants; rmdir {GROUP}")
         try:
             self.machine.shell("nft flush ruleset")
@@ -300,7 +333,7 @@ class Watcher(HelperTest):
             self.assertIn("policy drop", self.listing())
             self.assertNotIn("cgroupv2", self.listing())
             self.wait_look()
-            self.assertEqual(self.note(), "restored 1")  # what it has loaded then is what it compares with
+            self.assertEqual(self.note(), "restored 1")  # it compares with the rules that it has loaded
         finally:
             self.machine.shell("echo max >/sys/fs/cgroup/cgroup.max.descendants")
         self.assertIn("cgroupv2", self.rules)
@@ -312,7 +345,7 @@ class Watcher(HelperTest):
         self.assertEqual(self.listing(), self.rules)
 
     def test_without_its_group_what_is_emptied_as_fast_as_it_is_loaded_is_open(self):
-        """What is compared with is never what somebody has made of the rules."""
+        """The watcher never compares with rules that another program has changed."""
         self.machine.shell(
             f"echo 0 >/sys/fs/cgroup/cgroup.max.descendants; rmdir {GROUP}; rm -f /mnt/enough;"
             "(until [ -e /mnt/enough ]; do nft flush table inet veldmark; done) >/dev/null 2>&1 </dev/null &"
@@ -330,7 +363,7 @@ class Watcher(HelperTest):
             self.assertNotIn("cgroupv2", self.listing())
         finally:
             self.machine.shell("touch /mnt/enough; echo max >/sys/fs/cgroup/cgroup.max.descendants")
-        self.seconds_until_locked("nft flush ruleset")  # with the exemption again
+        self.seconds_until_locked("nft flush ruleset")  # with the bypass again
 
     def test_a_group_that_cannot_be_removed_keeps_nobody_from_proxy_mode(self):
         self.machine.shell(f"mkdir {GROUP}/somebodys")
@@ -345,7 +378,7 @@ class Watcher(HelperTest):
     def test_proxy_mode_has_none(self):
         self.machine.connect(strict=0)
         self.assertEqual(self.machine.shell("pgrep -f /watcher[.]sh || true"), "")
-        self.assertFalse(self.machine.shell("ls /sys/fs/cgroup | grep exempt || true"))
+        self.assertFalse(self.machine.shell("ls /sys/fs/cgroup | grep bypass || true"))
 
     def test_a_second_connect_leaves_one(self):
         self.machine.connect(lan=1)
@@ -363,7 +396,8 @@ class Watcher(HelperTest):
         self.seconds_until_locked("nft flush ruleset")
 
     def test_one_that_dies_while_its_monitor_starts_leaves_none(self):
-        """The monitor's start is held until its watcher has gone; held in the same way behind a living one it comes."""
+        """The monitor's start is delayed until its watcher has ended, and no monitor stays. With a living watcher the delayed
+        monitor does start."""
         self.machine.shell(
             """mkdir -m 755 /run/held; cp /usr/bin/setpriv /run/held/program; cat >/run/held/setpriv <<'END'
 #!/bin/sh
@@ -394,7 +428,7 @@ END
             self.machine.shell("rm -f /run/held/hold; umount --lazy /usr/bin/setpriv; rm -r /run/held")
 
     def test_disconnecting_against_a_flusher_leaves_nothing(self):
-        """The lock must not come back after the network was opened."""
+        """The rules must not come back after the disconnect."""
         for _ in range(5):
             flusher = self.machine.start(
                 "/bin/sh", "-c", "while [ ! -e /run/enough ]; do nft flush ruleset; done", stderr=subprocess.DEVNULL

@@ -1,4 +1,4 @@
-"""Options come over standard input too, where no other account sees them."""
+"""The helper also reads its options from standard input, where no other account sees them."""
 
 import os
 import time
@@ -37,7 +37,7 @@ class Words(HelperTest):
             self.assertIn(f"\n{line}\n", torrc)
 
     def test_nobody_sees_them(self):
-        """While the helper waits for its lock, with the same words on a command line to show that they could be seen."""
+        """The helper waits for its lock meanwhile. The same words on a command line show that the search works."""
         holder = self.machine.start("flock", "/run/veldmark.lock", "sleep", "1000")
         import subprocess
 
@@ -59,7 +59,7 @@ class Words(HelperTest):
             )
             runs.append(seen)
             count = f"grep -lasF {HASH} /proc/[0-9]*/cmdline /proc/[0-9]*/environ | grep -vc self || true"
-            while int(self.machine.shell(count)) < 2:  # the grep itself and that run
+            while int(self.machine.shell(count)) < 2:  # grep itself, and that run
                 self.assertLess(time.monotonic(), deadline)
             seen.kill()
             seen.wait()

@@ -1,12 +1,12 @@
-"""A program that takes the output of another process over, as any program may with another of its own account."""
+"""A program that takes over the output of another process, as any program may do to a process of its own account."""
 
 import subprocess
 
 NOBODY = 65534
 
-# UID COMMAND PIPE FILE: takes standard output of the process COMMAND that runs as UID over and prints what that is, or why not. Where
-# a pipe is given, it is that process which reads PIPE, and gets FILE by it. Then, for each line of input, "write TEXT" or "copy
-# FILE", that goes to what was taken, from its beginning on, which is let go then; prints "written" or why not.
+# UID COMMAND PIPE FILE: takes over standard output of the process COMMAND that runs as UID, and prints what it is, or the error.
+# With PIPE it takes the process that reads PIPE, and sends it FILE through PIPE. Each line of input, "write TEXT" or "copy FILE",
+# is written to the beginning of what was taken, which is then released; prints "written" or the error.
 THIEF = """
 import ctypes, os, signal, stat, sys
 uid, command, pipe, file = int(sys.argv[1]), sys.argv[2].encode(), sys.argv[3].encode(), sys.argv[4]
@@ -51,7 +51,7 @@ for line in sys.stdin:
 
 
 class Thief:
-    """Runs as `uid` and is after the process `command` of the account `victim`, its own unless another is named."""
+    """Runs as `uid` and attacks the process `command` of the account `victim` (default: its own)."""
 
     def __init__(self, machine, uid, command, victim=None, pipe="", file=""):
         self.process = machine.start(

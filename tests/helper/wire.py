@@ -1,8 +1,8 @@
-"""A machine's only link, and everything that is seen at its other end.
+"""A machine's only link, and everything that arrives at its other end.
 
     wire = Wire(machine)         a Peer with a listener and a server; machine.tor_uid must be set
     wire.mark()                  the listener's lines since the mark before
-    with Flood(machine) as f:    the probes of probes.FLOOD, sent again and again while it runs
+    with Flood(machine) as f:    sends the probes of probes.FLOOD repeatedly while it runs
 """
 
 import os
@@ -15,10 +15,10 @@ import probes
 from namespace import TOR_GROUP, Peer
 
 PROBES_PY = os.path.join(namespace.HERE, "probes.py")
-# Seen when nothing blocks it, whatever the state.
+# Seen in every state when nothing blocks it.
 LINK = {"neighbour"}
 EDGE = "sentinel 1"  # sent by edge_program()
-# What is sent on one processor reaches the peer in the order of sending.
+# Packets that one processor sends reach the peer in their order.
 ONE_PROCESSOR = ("taskset", "--cpu-list", str(min(os.sched_getaffinity(0))))
 
 
@@ -101,7 +101,7 @@ class Wire:
         self.peer.close()
 
     def wait_for(self, wanted, seconds=30):
-        """The lines not taken yet, up to the first for which `wanted` holds; they are taken."""
+        """Takes and returns the listener's next lines, up to the first one for which `wanted` holds."""
         deadline = time.monotonic() + seconds
         with self.more:
             at = self.taken
@@ -116,8 +116,8 @@ class Wire:
                     raise TimeoutError(f"not seen at the other end within {seconds} s")
 
     def mark(self):
-        """Sends what is let through in every state, a connection attempt of Tor's account, and returns the lines of
-        the listener up to its arrival: packets of one link keep their order."""
+        """Sends a packet that passes in every state (a connection attempt of Tor's account), and returns the listener's lines up to
+        its arrival. Packets of one link keep their order."""
         self.marks += 1
         self._send(self.machine.tor_uid, TOR_GROUP, self.marks)
         return self.wait_for(lambda line: line == f"sentinel {self.marks}")[:-1]
@@ -128,7 +128,7 @@ class Wire:
         return set(self.mark()) - LINK
 
     def edge_program(self):
-        """The path in the machine of a program of root's that sends EDGE."""
+        """The path in the machine of root's program that sends EDGE."""
         path = "/run/edge"
         self.machine.shell(
             f"printf '%s\\n' '#!/bin/sh' '[ ! -d {TOR_GROUP} ] || echo $$ >{TOR_GROUP}/cgroup.procs' \"$1\" >{path}; chmod 755 {path}",
@@ -139,7 +139,7 @@ class Wire:
 
 
 class Flood:
-    """Root's probes without pause. Begins paused."""
+    """Root's probes without pause. The flood begins paused."""
 
     def __init__(self, machine):
         self.process = machine.start(
@@ -160,7 +160,7 @@ class Flood:
         self._say("round")
 
     def stop(self):
-        """Returns when nothing more is sent and no socket of it is open."""
+        """Returns when the flood sends nothing more and has no open socket."""
         self._say("stop")
 
     def close(self):

@@ -1,8 +1,9 @@
 """A private machine that looks like a Mac to the root helper.
 
-Its root is an overlay over this system's, so nothing outside changes. The folders are a Mac's, the programs that only
-Linux has are gone, those that only a Mac has are stand-ins (standins/server.pl), which keep their state in /mac, and those
-that both have refuse what a Mac's would (standins/program.c). Tor is the real one, with `DisableNetwork 1`. What a real Mac would say or do beyond that is not shown here.
+Its root is an overlay over this system's, so nothing outside changes. The folders are a Mac's. Programs that only Linux has are
+hidden. Programs that only a Mac has are stand-ins (standins/server.pl), which keep their state in /mac. Programs of both systems
+refuse what a Mac's would refuse (standins/program.c). Tor is the real one, with `DisableNetwork 1`. These tests show nothing else
+of a real Mac's behaviour.
 """
 
 import fcntl
@@ -60,7 +61,7 @@ cd /
     "uid": USER_UID,
 }
 
-SERVICES = {  # what each has before; the second is of letters that need care
+SERVICES = {  # the earlier settings of each service; the second one's name has special characters
     "Wi-Fi": {"dns": "192.0.2.53\n2001:db8::53", "bypass": "*.local\n169.254/16"},
     "Büro: USB 10/100 “LAN”": {
         "web": "Yes\tproxy.example\t3128",
@@ -147,7 +148,7 @@ class Mac(namespace.Machine):
 
     @state.setter
     def state(self, values):
-        """For a Mac at rest; while stand-ins run, set_state is for changes."""
+        """The state of an idle Mac. While stand-ins run, use set_state for changes."""
         self.write("/mac/state.test", "".join(f"{key}\t{escaped(value)}\n" for key, value in sorted(values.items())))
         os.rename(self.root + "/mac/state.test", self.root + "/mac/state")
 
@@ -155,17 +156,17 @@ class Mac(namespace.Machine):
         self.shell("launchctl bootout system/veldmark.watch; while launchctl list veldmark.watch; do sleep 0.02; done")
 
     def set_state(self, values):
-        """Changes some of it at once, kept apart from the stand-ins that run meanwhile."""
+        """Changes a part of the state in one step, under the stand-ins' lock."""
         with open(self.root + "/mac/lock", "a", encoding="ascii") as lock:
             fcntl.flock(lock, fcntl.LOCK_EX)
             self.state = {**self.state, **values}
 
     def change(self, **values):
-        """Keys with "_" for blanks."""
+        """Changes the state; keys have "_" for blanks."""
         self.set_state({key.replace("_", " "): value for key, value in values.items()})
 
     def reset(self):
-        """A Mac before its first connect."""
+        """Makes the Mac as before its first connect."""
         state = {
             "primary": "Wi-Fi",
             "boot": "11111111-2222-3333-4444-555555555555",
@@ -200,11 +201,11 @@ class Mac(namespace.Machine):
             pass
 
     def help(self, *arguments, **options):
-        """As the administrator prompt runs it: as root, and it is not said for whom."""
+        """Runs the helper like the administrator prompt: as root, without the caller's name."""
         return self.run("/bin/bash", self.helper, *arguments, **options)
 
     def restart(self):
-        """What a restart of the computer leaves: settings and files, but no rules, jobs and processes."""
+        """Restarts the computer: settings and files stay; rules, jobs and processes go."""
         state = self.state
         for key in [key for key in state if key.startswith(("job ", "pf ", "spawning ", "leaving ", "settling "))]:
             if key.startswith("job "):
@@ -218,13 +219,13 @@ class Mac(namespace.Machine):
         return self.state.get("job veldmark.tor")
 
     def settings(self):
-        """What a session may change and must put back. Accounts stay, and so do counters."""
+        """The settings that a session may change and must put back. Accounts and counters stay."""
         state = {
             key: value
             for key, value in self.state.items()
             if not key.startswith(("record ", "settling ", "pf flushes", "pf last token", "dns flushed", "cache flushed"))
         }
-        # A list that was empty and one that was never set are the same to networksetup.
+        # networksetup does not distinguish an empty list from one that was never set.
         state = {
             key: value
             for key, value in state.items()
@@ -239,7 +240,7 @@ class Mac(namespace.Machine):
         return state, files
 
     def verdict(self, direction, proto="tcp", device="en0", **packet):
-        """Whether pf lets a first packet pass, as its manual tells. packet: af, source, sport, to, port, user, group, kind."""
+        """Whether pf passes a first packet, according to its manual. packet: af, source, sport, to, port, user, group, kind."""
         packet = {
             "af": "inet",
             "source": "198.51.100.7",
@@ -263,7 +264,7 @@ class Mac(namespace.Machine):
 
 
 def matches(rule, direction, proto, device, packet):
-    """Whether an expanded rule is for this packet. Every word must be understood."""
+    """Whether an expanded rule matches this packet. An unknown word is an error."""
     import ipaddress
 
     words = rule.split()[1:]

@@ -1,14 +1,14 @@
 #!/bin/bash
-# real_mac.sh --change-this-mac HELPER [--person APPLICATION]: the first hour on a Mac. It asks the system what nobody without one could
-# know, runs the root helper on this very Mac, looks whether it does what it should and puts everything back, and ends in a table
-# that can be sent back. It switches the network of the machine: only for one that may be thrown away. Needs root, and Homebrew's tor.
+# real_mac.sh --change-this-mac HELPER [--person APPLICATION]: the first hour on a Mac. It asks the system what only a real Mac can
+# answer, runs the root helper on this Mac, checks its effects and the restoration, and prints a table that can be sent back. It
+# changes the machine's network, so use a machine without data. Needs root, and Homebrew's tor.
 #
-# Without --person nobody has to sit there, and tor is kept off the network (DisableNetwork 1). With it the real Tor runs, and somebody
-# looks at what a program cannot see: a download of Safari's, and the camera of APPLICATION (a path that ends in .app).
-# It may be stopped at any point (Ctrl-C): what it changed is put back then, too.
+# Without --person it needs no person, and tor gets no network (DisableNetwork 1). With --person the real Tor runs, and a person
+# looks at what a program cannot see: a download in Safari, and the camera of APPLICATION (a path that ends in .app). Ctrl-C may
+# stop it at any point: it puts its changes back then, too.
 #
-# Lines: "ok" and "FAILED" are what has to be so; "answer" is a question that decides something, with what it decides.
-# shellcheck disable=SC2317   # what check() and ask() are given to call
+# Lines: "ok" and "FAILED" are requirements; "answer" is the answer to an open question, with what it decides.
+# shellcheck disable=SC2317   # check() and ask() call these functions
 set -u
 [[ ${1-} == --change-this-mac && -f ${2-} && $EUID == 0 && $(uname -s) == Darwin && (-z ${3-} || (${3-} == --person && ${4-} == *.app)) ]] || {
   echo "usage, as root on a Mac that may be thrown away: real_mac.sh --change-this-mac HELPER [--person APPLICATION.app]" >&2
@@ -25,7 +25,7 @@ work=$(mktemp -d) || exit 1
 
 exec 3>&1 4>&2
 restore() {
-  exec >&3 2>&4   # it may have been stopped while a question's answer went to a file
+  exec >&3 2>&4   # it may have been stopped while an answer was written to a file
   /bin/bash "$helper" disconnect
   [[ ! -f $work/mine ]] || rm -f "$defaults"
   if [[ -f $work/service ]]; then networksetup -setsocksfirewallproxystate "$(cat "$work/service")" off; fi
@@ -39,7 +39,7 @@ restore() {
 trap restore EXIT
 trap 'exit 130' INT TERM HUP
 
-# As somebody at the screen would run it; the runner's own session is sudo's.
+# Runs a command in the session of the user at the screen; this script's own session is sudo's.
 help() { env -u SUDO_UID /bin/bash "$helper" "$@"; }
 
 say() { echo "$1"; echo "$1" >>"$work/table"; }
@@ -50,7 +50,7 @@ check() {
   if "$@"; then say "ok      $text"; else say "FAILED  $text"; failed=1; fi
 }
 
-# ask QUESTION DECIDES COMMAND...: the answer is the first lines of what the command says, and its status.
+# ask QUESTION DECIDES COMMAND...: the answer is the first lines of the command's output, and its status.
 ask() {
   local question=$1 decides=$2 status=0
   shift 2
@@ -59,7 +59,7 @@ ask() {
   say "        decides: $decides"
 }
 
-# look QUESTION DECIDES: what only somebody who sits there can tell.
+# look QUESTION DECIDES: a question that only the person at the screen can answer.
 look() {
   local answer=''
   [[ -n $person ]] || return 0
@@ -86,7 +86,7 @@ snapshot() {
   launchctl list veldmark.tor 2>/dev/null
 }
 
-# ---- What the system says, without a change ----
+# ---- Questions to the system, without a change ----
 
 chmod_as_written() { : >"$work/file" && chmod -- 0600 "$work/file" && ! chmod 0600 -- "$work/file" 2>/dev/null; }
 stop_token() { echo '#include <stop_token>' >"$work/token.cpp" && xcrun clang++ -std=c++20 -fsyntax-only "$work/token.cpp"; }
@@ -183,7 +183,7 @@ for strict in 0 1; do
 done
 check "the network is there again" reaches_out
 
-# ---- With the real Tor, and somebody who looks ----
+# ---- With the real Tor, and a person at the screen ----
 
 flows() { networkQuality -s -c & local quality=$!; nscurl https://example.com/ >/dev/null 2>&1; kill "$quality" 2>/dev/null; wait "$quality"; }
 if [[ -n $person ]]; then

@@ -1,18 +1,18 @@
-"""Each program of the Mac's that the helper calls fails once: it says one sentence, never opens a strict session, and
-what it changed goes back."""
+"""Each Mac program that the helper calls fails once. The helper prints one sentence, never lets traffic out of a strict session,
+and puts its changes back."""
 
 import os
 
 import mac
 from mac import HASH, TOR, MacTest
 
-TRIALS = int(os.environ.get("VELDMARK_FAILURE_TRIALS", "4"))  # for each way through the helper; 0: every call
+TRIALS = int(os.environ.get("VELDMARK_FAILURE_TRIALS", "4"))  # for each path through the helper; 0: every call
 MODES = "status", "quiet", "late"
 
 
 class Failures(MacTest):
     def numbers(self, words, offset):
-        """Which calls are made to fail: spread over all that a run makes."""
+        """The numbers of the calls that fail, spread over all calls of a run."""
         self.machine.write("/mac/calls", "")
         self.machine.help(*words)
         count = len(self.machine.calls())
@@ -83,7 +83,7 @@ class Failures(MacTest):
         def check(done):
             if done.returncode == 0:
                 now, files = self.machine.settings()
-                # A host that could not be emptied does nothing while its proxy is off.
+                # A host that could not be cleared has no effect while its proxy is off.
                 now = {key: value for key, value in now.items() if value != "No\t127.0.0.1\t9050"}
                 self.assertEqual((now, files), self.before)
                 self.machine.reset()

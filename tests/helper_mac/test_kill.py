@@ -1,5 +1,5 @@
-"""kill -9 of the Mac's helper right after changes spread over its whole run (VELDMARK_KILL_TRIALS=0: after every one): a
-disconnect afterwards puts everything back, and a strict session is never open on the way."""
+"""kill -9 of the Mac's helper right after changes spread over its whole run (VELDMARK_KILL_TRIALS=0: after every one). A disconnect
+afterwards puts everything back, and a strict session never lets traffic out in between."""
 
 import os
 
@@ -7,7 +7,7 @@ import mac
 from mac import HASH, TOR, MacTest
 
 STEPPED = os.path.join(mac.HERE, "..", "helper", "stepped.sh")
-TRIALS = int(os.environ.get("VELDMARK_KILL_TRIALS", "6"))  # for each way through the helper
+TRIALS = int(os.environ.get("VELDMARK_KILL_TRIALS", "6"))  # for each path through the helper
 
 
 def connect_words(strict):
@@ -37,8 +37,9 @@ class Kill(MacTest):
         )
 
     def state(self):
-        """After a kill: the marker, whether the kill switch stands, whether any service is switched, whether Tor runs."""
-        # What the killed shell had started still holds the lock; the next run waits for it as well.
+        """The state after a kill: the marker, whether the kill switch blocks traffic, whether any service points at Tor, whether
+        Tor runs."""
+        # The killed shell's children still hold the lock; the next run waits for them as well.
         self.machine.shell("/mac/gnu/flock /private/var/db/veldmark.lock true")
         state = self.machine.state
         marker = (self.machine.read("/Library/Application Support/Veldmark/state/active") or "").strip()
@@ -56,7 +57,7 @@ class Kill(MacTest):
         step = max(1, len(changes) // TRIALS) if TRIALS else 1
         for change in changes[step // 2 :: step]:
             with self.subTest(change=change):
-                self.machine.reset()  # without Tor's account as well
+                self.machine.reset()  # also without Tor's account
                 prepare()
                 done = self.stepped(change, words)
                 self.assertIn(done.returncode % 256, (137, 247), done.stderr)

@@ -7,7 +7,7 @@ import subprocess
 import mac
 from mac import HASH, TOR, USER_UID, MacTest
 
-# The same table as on Linux: the patterns are shared. Loaded by its path, since the file has this one's name.
+# The same table as on Linux, since the patterns are shared. It is loaded by its path, since that file has this file's name.
 _spec = importlib.util.spec_from_file_location("linux_options", os.path.join(mac.HERE, "..", "helper", "test_options.py"))
 linux_options = importlib.util.module_from_spec(_spec)
 _spec.loader.exec_module(linux_options)
@@ -67,7 +67,7 @@ class Options(MacTest):
         self.assertOneLine(self.machine.run("/bin/bash", "/mac/linux-helper.sh", "disconnect", check=False), "another system")
 
     def test_the_check_for_a_real_mac_passes_here(self):
-        """All but its own look at the network, which is not there."""
+        """All of its checks pass except its own look at the network, which does not exist here."""
         self.machine.place(os.path.join(mac.HERE, "real_mac.sh"), "/mac/real_mac.sh")
         self.machine.shell("cp /usr/bin/tor /usr/local/bin/tor; ln -sf /private/etc/hosts /etc/hosts")
         done = self.machine.run("/bin/bash", "/mac/real_mac.sh", "--change-this-mac", self.machine.helper, check=False, timeout=300)

@@ -1,4 +1,4 @@
-"""The password-free way on a Mac, with the real sudo; what may run as Tor's account; applications without Tor."""
+"""Passwordless mode on a Mac with the real sudo, the programs that may run as Tor's account, and applications without Tor."""
 
 import os
 import time
@@ -77,12 +77,12 @@ class Privileged(MacTest):
         self.machine.help("disconnect")
         self.machine.shell("echo >>/home/alice/tor")
         self.assertOneLine(self.by_rule(*words, check=False), "password")
-        self.machine.approve("/home/alice/tor", env=UNDER_RULE)  # another copy, by a right of the user's own
+        self.machine.approve("/home/alice/tor", env=UNDER_RULE)  # another copy, by the user's own right to sudo
         self.machine.help(*words, env=UNDER_RULE)
         self.machine.help("disconnect")
 
     def test_a_transport_of_the_users_needs_an_approval_with_a_bundle_too(self):
-        """A Mac has no gpgv, so that nobody verifies it; the option is known all the same."""
+        """A Mac has no gpgv, so the bundle is not verified. The helper accepts the option anyway."""
         self.machine.shell(
             "/usr/bin/install -o alice -m 0755 /usr/bin/obfs4proxy /home/alice/lyrebird; echo bundle >>/home/alice/lyrebird"
         )
@@ -117,7 +117,7 @@ class Privileged(MacTest):
             less = list(words)
             less[less.index(change[0]) + 1] = change[1]
             done = self.by_rule(*less, check=False)
-            self.assertOneLine(done, "An administrator password is needed to change the strict session that is running.")
+            self.assertOneLine(done, "An administrator password is needed to change the running strict session.")
             self.assertEqual(done.returncode, 3)
         self.by_rule(*words)
         self.by_rule("disconnect")
@@ -126,14 +126,14 @@ class Privileged(MacTest):
     def test_roots_tor_on_an_attached_volume_is_the_users(self):
         words = ["connect", "--tor", "/opt/image/tor", "--hash", HASH, "--strict", "1", "--lan", "0"]
         self.machine.help("install-privileged", "--user", "alice")
-        # Of a content that nobody has approved: whose copy an earlier test left would do, wherever it comes from.
+        # New content that no test has approved: a copy from an earlier test would be accepted from any place.
         self.machine.shell("mkdir -p /opt/image; cp /usr/bin/tor /opt/image/tor; echo image >>/opt/image/tor")
         self.by_rule(*words)
         self.machine.help("disconnect")
         self.machine.change(attached="/opt/image")
         self.assertOneLine(self.by_rule(*words, check=False), "password")
 
-    def test_an_application_runs_as_the_user_in_the_exempt_group(self):
+    def test_an_application_runs_as_the_user_in_the_bypass_group(self):
         self.machine.write("/Applications/Veldmark.app/Contents/MacOS-launch", SHOW)
         self.machine.shell(
             "mkdir -p /Applications/Veldmark.app/Contents/MacOS; mv -f /Applications/Veldmark.app/Contents/MacOS-launch "
@@ -146,7 +146,7 @@ class Privileged(MacTest):
         self.assertIsNone(self.machine.read("/home/alice/launched"))
         self.machine.help(*words)
         lines = self.machine.read("/home/alice/launched").splitlines()
-        group = self.machine.state["record /Groups/_veldmark_exempt PrimaryGroupID"]
+        group = self.machine.state["record /Groups/_veldmark_bypass PrimaryGroupID"]
         self.assertEqual(lines[:2], [str(USER_UID), group])
         self.assertEqual(set(lines[2].split()), {group, str(USER_UID)})
         self.assertEqual(lines[3], "--app /Applications/Some “New”.app")
@@ -186,7 +186,7 @@ class Privileged(MacTest):
             self.assertLess(time.monotonic(), deadline)
             time.sleep(0.02)
         lines = m.read("/home/alice/launched").splitlines()
-        group = m.state["record /Groups/_veldmark_exempt PrimaryGroupID"]
+        group = m.state["record /Groups/_veldmark_bypass PrimaryGroupID"]
         self.assertEqual(lines[:2], [str(USER_UID), group])
         values = dict(line.split("=", 1) for line in lines[4:] if "=" in line)
         self.assertEqual(
@@ -201,14 +201,14 @@ class Privileged(MacTest):
             done = self.machine.run("/mac/veldmark-launch", "--app", "/Applications/Some.app", check=False)
             self.assertEqual((done.returncode, done.stderr), (1, "Applications are not opened as root.\n"))
 
-    def test_a_group_with_members_is_not_exempt(self):
+    def test_a_group_with_members_is_not_used(self):
         self.machine.connect()
         self.machine.help("disconnect")
         state = self.machine.state
-        state["record /Groups/_veldmark_exempt GroupMembership"] = "alice"
+        state["record /Groups/_veldmark_bypass GroupMembership"] = "alice"
         self.machine.state = state
         self.machine.connect()
-        group = state["record /Groups/_veldmark_exempt PrimaryGroupID"]
+        group = state["record /Groups/_veldmark_bypass PrimaryGroupID"]
         self.assertEqual(self.machine.verdict("out", group=group, user=USER_UID), "block")
 
 

@@ -1,4 +1,4 @@
-"""What may leave a Mac, by a reading of the loaded rules as pf's manual tells it; and the texts that make them."""
+"""The packets that may leave a Mac, by evaluating the loaded rules according to pf's manual, and the generated texts."""
 
 import mac
 from mac import USER_UID, MacTest
@@ -11,7 +11,7 @@ class Leaks(MacTest):
     def connected(self, strict, lan=0, more=()):
         self.machine.connect(strict=strict, lan=lan, more=more)
         self.tor = self.machine.state["record /Users/_veldmark UniqueID"]
-        self.exempt = self.machine.state.get("record /Groups/_veldmark_exempt PrimaryGroupID", "none")
+        self.bypass = self.machine.state.get("record /Groups/_veldmark_bypass PrimaryGroupID", "none")
 
     def check(self, table):
         for wanted, direction, packet in table:
@@ -19,7 +19,7 @@ class Leaks(MacTest):
                 self.assertEqual(self.machine.verdict(direction, **packet), wanted)
 
     def probes(self):
-        """What must never leave in strict mode, whoever sends it."""
+        """Packets that must never leave in strict mode, from any account."""
         for user in USER_UID, 0, 65534:
             for af, source, to in ("inet", "198.51.100.7", PUBLIC), ("inet6", "2001:db8:1::7", "2001:db8::5"):
                 for proto, port in (
@@ -36,7 +36,7 @@ class Leaks(MacTest):
 
     def test_strict(self):
         probes = list(self.probes())
-        for probe in probes:  # first seen to leave when nothing blocks them
+        for probe in probes:  # they leave when nothing blocks them
             self.assertEqual(self.machine.verdict("out", **probe), "pass")
         self.connected(strict=1)
         self.check([("block", "out", probe) for probe in probes])
@@ -49,8 +49,8 @@ class Leaks(MacTest):
                 ("block", "out", {"user": self.tor, "proto": "icmp"}),
                 ("block", "out", {"to": LAN}),
                 ("block", "out", {"to": LAN, "proto": "udp", "port": 5353}),
-                ("pass", "out", {"group": self.exempt}),
-                ("pass", "out", {"group": self.exempt, "proto": "udp"}),
+                ("pass", "out", {"group": self.bypass}),
+                ("pass", "out", {"group": self.bypass, "proto": "udp"}),
                 ("block", "out", {"group": "20"}),
                 ("pass", "out", {"proto": "udp", "sport": 68, "port": 67, "to": "255.255.255.255"}),
                 ("pass", "out", {"proto": "udp", "sport": 68, "port": 67, "to": "192.168.1.1"}),
@@ -62,7 +62,8 @@ class Leaks(MacTest):
                     {"proto": "icmp6", "af": "inet6", "source": "fe80::7", "to": "ff02::1:ff00:1", "kind": "neighbrsol"},
                 ),
                 ("block", "out", {"proto": "icmp6", "af": "inet6", "source": "fe80::7", "to": "2001:db8::5", "kind": "neighbrsol"}),
-                # Who did not report gets no solicitations from a switch that listens; the kernel puts the device's number into addresses.
+                # A host without a report gets no solicitations from a switch with MLD snooping. The kernel puts the device's number
+                # into addresses.
                 *[
                     ("pass", "out", {"proto": "icmp6", "af": "inet6", "source": "fe80::7", "to": "ff02::16", "kind": kind})
                     for kind in ("listenrep", "143")
@@ -82,7 +83,7 @@ class Leaks(MacTest):
                 ("pass", "in", {"device": "lo0", "to": "127.0.0.1", "port": 9050}),
                 ("block", "in", {"source": PUBLIC, "to": "198.51.100.7", "port": 22}),
                 ("block", "in", {"source": LAN, "to": "192.168.1.7", "port": 22}),
-                ("block", "in", {"source": "192.168.64.2", "to": PUBLIC, "device": "bridge100"}),  # a virtual machine's
+                ("block", "in", {"source": "192.168.64.2", "to": PUBLIC, "device": "bridge100"}),  # of a virtual machine
                 ("pass", "in", {"proto": "udp", "sport": 67, "port": 68, "source": "192.168.1.1", "to": "255.255.255.255"}),
             ]
         )
@@ -148,7 +149,7 @@ class Leaks(MacTest):
             )
 
     def test_a_change_of_modes_is_never_open(self):
-        """Each rule set is loaded whole; between two of them there is none that lets more out than both."""
+        """Each rule set is loaded as a whole. No intermediate rule set lets out more than both."""
         self.connected(strict=1)
         self.machine.write("/mac/calls", "")
         self.connected(strict=1, lan=1)

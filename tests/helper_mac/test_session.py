@@ -1,4 +1,4 @@
-"""Connect, disconnect and fix-dns on a Mac of stand-ins: what a session sets, and that it goes back exactly."""
+"""Connect, disconnect and fix-dns on a Mac of stand-ins: the settings of a session, and their exact restoration."""
 
 import os
 import subprocess
@@ -140,7 +140,7 @@ class Session(MacTest):
     def test_fix_dns_puts_back_what_others_changed(self):
         self.machine.connect()
         wanted = self.machine.settings()
-        self.machine.end_watcher()  # it would be faster
+        self.machine.end_watcher()  # this would be faster
         state = self.machine.state
         state["service Automatic/Wi-Fi dns"] = "192.0.2.1"
         state[f"service Automatic/{BUREAU} web"] = "Yes\tproxy.example\t3128"
@@ -264,7 +264,7 @@ class Session(MacTest):
         self.machine.help("disconnect")
         self.machine.write("/mac/calls", "")
         self.machine.connect()
-        self.assertGreaterEqual(len(self.machine.calls("launchctl list veldmark.tor")), 4)  # the first is before it is started
+        self.assertGreaterEqual(len(self.machine.calls("launchctl list veldmark.tor")), 4)  # the first one is before the job starts
 
     def test_a_service_that_cannot_be_set_does_not_end_the_connect(self):
         for what in "get", "set", "getset":
@@ -293,7 +293,7 @@ class Session(MacTest):
         self.machine.reset()
 
     def test_disconnect_asks_networksetup_no_more_than_it_must(self):
-        """A process of it takes some 50 ms on a Mac, and the program waits 25 s at most at its end."""
+        """A networksetup process takes some 50 ms on a Mac, and the program waits at most 25 s at its end."""
         self.machine.connect()
         self.machine.write("/mac/calls", "")
         self.machine.help("disconnect")
@@ -301,7 +301,8 @@ class Session(MacTest):
         self.assertLessEqual(len(self.machine.calls("networksetup")), 3 + services * 20 + len(mac.SERVICES))
 
     def test_what_is_written_is_on_the_disk(self):
-        """fsync of a Mac leaves it in the drive's memory; the file before it gets its name, and the folder after."""
+        """fsync on a Mac leaves data in the drive's memory. The helper syncs the file before its rename, and the folder
+        afterwards."""
         self.machine.connect()
         for name in "/state/active", "/journal/10-firewall", "/journal/20-tor":
             path = "/Library/Application Support/Veldmark" + name

@@ -1,4 +1,4 @@
-"""The watcher over the Mac's firewall: what somebody else flushes or loads anew comes back by itself, and is told."""
+"""The watcher of the Mac's firewall puts back rules that another program flushes or replaces, and notes it."""
 
 import os
 import time
@@ -6,7 +6,7 @@ import time
 import mac
 from mac import MacTest
 
-NOTE = "/private/var/run/veldmark.watch"  # "WORD COUNT SINCE", as young as the watcher's last look
+NOTE = "/private/var/run/veldmark.watch"  # "WORD COUNT SINCE"; its time is that of the watcher's last look
 LIMIT_SECONDS = 30  # on a busy machine; it looks every second
 
 
@@ -18,7 +18,7 @@ class Watcher(MacTest):
             time.sleep(0.05)
 
     def note(self):
-        """The word and how often rules were missed."""
+        """The word, and how often rules were missing."""
         text = self.machine.read(NOTE)
         if text is None:
             return None
@@ -85,7 +85,7 @@ class Watcher(MacTest):
         flushes = self.machine.state["pf flushes"]
         loop = self.machine.shell(f"grep -c . /proc/{self.machine.state['job veldmark.watch']}/cmdline")
         self.assertNotEqual(loop, "0")
-        # It has looked once when it has slept since: a child of its own has come and gone.
+        # It has looked when a sleep child of its own has started and ended.
         pid, seen = self.machine.state["job veldmark.watch"], set()
         self.wait(lambda: seen.add(self.machine.shell(f"cat /proc/{pid}/task/{pid}/children")) or len(seen) > 4, "it does not look")
         self.assertEqual(self.machine.state["pf flushes"], flushes)

@@ -1,9 +1,9 @@
-"""What a Mac compiles of the program and of its unit tests, under clang and libc++, which are what Apple's compiler and library are
-made from: the sources are read and checked, nothing is made. Objective-C++ is test_macos.py's.
+"""Checks the sources that a Mac compiles, of the program and of its unit tests, with clang and libc++, the base of Apple's compiler
+and library. It checks syntax and types and produces nothing. test_macos.py checks Objective-C++.
 
-Arguments: the project's folder and the build's, whose list of commands says what is compiled and with what. Then which: "system"
-for all headers and the program's sources that call the system themselves, which is where systems differ; "all", for which everything has
-to be built; or parts of paths. A header that Apple's library lacks, or has only behind a flag, is refused before it is found.
+Arguments: the project's folder and the build's, whose compile commands list the sources and options. Then the selection: "system":
+all headers, and the program's sources that call the system, where systems differ; "all", which needs a full build; or parts of
+paths. The check refuses a header that Apple's library lacks or has only behind a flag.
 """
 
 import concurrent.futures
@@ -18,19 +18,25 @@ import sys
 import tempfile
 import unittest
 
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools"))
+
+from moving import Moving  # noqa: E402
+
 ROOT = pathlib.Path(sys.argv[1])
 BUILD = pathlib.Path(sys.argv[2])
 WANTED = sys.argv[3:] or ["system"]
 SYSTEM_HEADER = re.compile(r"^#include <[a-z_/0-9]+\.h>", re.MULTILINE)
 CLANG = shutil.which("clang++-16") or "clang++"
 MISSING = "stop_token", "syncstream", "malloc.h", "format_kind"  # of the library and of the system
-# What only Linux's headers have, for the lines that a Mac compiles as well. (timex, st_mtim and the like are on both, or are told apart.)
+# Names that only Linux's headers have, which must not be in lines for a Mac. (timex, st_mtim and similar exist on both, or the code
+# distinguishes them.)
 LINUX_WORDS = re.compile(
     r"\b(SOCK_CLOEXEC|SOCK_NONBLOCK|tcp_info|TCP_INFO|mallinfo2?|malloc_trim|pipe2|accept4|prctl|PR_[A-Z_]+|[gs]etres[ug]id|"
     r"O_PATH|O_TMPFILE|epoll_\w+|signalfd|eventfd|timerfd\w*|inotify_\w+|memfd_create|renameat2|SO_PEERCRED|ucred|"
     r"pidfd_\w+|SYS_\w+|MSG_NOSIGNAL|unshare|setns|statx|secure_getenv|PTRACE_\w+|execvpe|POLLRDHUP|gettid|close_range)\b(?![\"/])"
 )
-# Each has a Mac's in its place, or is a program for Linux alone.
+# A Mac has another source in place of each, or the program is for Linux only.
 LINUX_ONLY = {
     "src/platform/LinuxApplications.cpp",
     "src/platform/LinuxInstalledApplications.cpp",
@@ -44,7 +50,7 @@ LINUX_ROOMS = ("src/identify/", "tests/unit/identify/")
 
 
 def for_macs(text):
-    """The lines, with their numbers, that are not for Linux alone."""
+    """The lines, with their numbers, that are not only for Linux."""
     inside = []
     for number, line in enumerate(text.splitlines(), 1):
         word = re.match(r"\s*#\s*(ifdef|ifndef|if|elif|else|endif)\b(.*)", line)
@@ -64,7 +70,7 @@ def for_macs(text):
 
 
 def commands():
-    """The sources, and the words that all of them are compiled with."""
+    """The sources, and the compiler options that all of them have."""
     sources, words = set(), []
     for entry in json.loads((BUILD / "compile_commands.json").read_text(encoding="utf-8")):
         compiled = pathlib.Path(entry["file"])
@@ -118,7 +124,7 @@ class Compiler:
         self.common = f"{header}.pch"
 
     def check(self, path, common=True):
-        """What the compiler says; empty when nothing."""
+        """The compiler's messages; empty without any."""
         before = ["-include-pch", self.common] if common else []
         return subprocess.run([*self.words, *before, str(path)], capture_output=True, text=True, check=False).stderr[:4000]
 
@@ -128,7 +134,8 @@ class Apple(unittest.TestCase):
     def setUpClass(cls):
         cls.folder = tempfile.TemporaryDirectory()
         cls.sources, words = commands()
-        cls.compiler = Compiler(cls.folder.name, words)
+        with Moving("Compiling the common headers"):
+            cls.compiler = Compiler(cls.folder.name, words)
 
     @classmethod
     def tearDownClass(cls):
@@ -184,9 +191,10 @@ class Apple(unittest.TestCase):
             ),
             encoding="utf-8",
         )
-        with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-            paths = [headers, *(ROOT / name for name in sources)]
-            for path, said in zip(paths, pool.map(self.compiler.check, paths)):
+        paths = [headers, *(ROOT / name for name in sources)]
+        with Moving("Checking sources") as moving, concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+            for number, (path, said) in enumerate(zip(paths, pool.map(self.compiler.check, paths)), 1):
+                moving.step(number, len(paths))
                 with self.subTest(path.name):
                     self.assertEqual(said, "", said)
 

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Every source is as clang-format and black write it; `./build.sh format` rewrites those that are not."""
+"""Every source is formatted by clang-format or black; `./build.sh format` rewrites the others."""
 
 import subprocess
 import sys
@@ -8,7 +8,12 @@ import unittest
 from pathlib import Path
 
 PROJECT = Path(__file__).resolve().parents[2]
-FOLDERS = ("bench", "fuzz", "packaging", "resources", "src", "tests")
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(PROJECT / "tools"))
+
+from moving import Moving  # noqa: E402
+
+FOLDERS = ("bench", "fuzz", "packaging", "resources", "src", "tests", "tools")
 CPP = ("*.cpp", "*.h", "*.mm", "*.m", "*.c")
 CLANG_FORMAT = ["clang-format", f"--style=file:{PROJECT}/.clang-format"]
 BLACK = ["black", f"--config={PROJECT}/pyproject.toml"]
@@ -19,7 +24,7 @@ def files(*patterns: str) -> list[Path]:
 
 
 def misformatted(command: list[str], sources: list[Path]) -> list[str]:
-    """The names of the sources that the tool would change, in its own words."""
+    """The tool's messages about the sources that it would change."""
     result = subprocess.run([*command, *sources], capture_output=True, text=True, check=False)
     return [
         line
@@ -46,7 +51,8 @@ class Format(unittest.TestCase):
 
 if __name__ == "__main__":
     if sys.argv[1:] == ["--write"]:
-        subprocess.run([*CLANG_FORMAT, "-i", *files(*CPP)], check=True)
-        subprocess.run([*BLACK, "--quiet", *files("*.py")], check=True)
+        with Moving("Formatting"):
+            subprocess.run([*CLANG_FORMAT, "-i", *files(*CPP)], check=True)
+            subprocess.run([*BLACK, "--quiet", *files("*.py")], check=True)
     else:
         unittest.main()

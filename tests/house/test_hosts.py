@@ -1,9 +1,9 @@
 #!/usr/bin/python3
-"""No public host stands in the scripts: packages come from the machine's own apt sources, and tests speak to reserved names.
+"""No script names a public host: packages come from the machine's own apt sources, and tests use reserved names.
 
 usage: test_hosts.py PROJECT
 
-Looked at are build.sh, tools, .ci, CMake's files and the scripts of tests, bench, fuzz and packaging.
+It checks build.sh, tools, .ci, CMake's files and the scripts of tests, bench, fuzz and packaging.
 """
 
 import ipaddress
@@ -12,18 +12,18 @@ import sys
 from pathlib import Path
 
 URL = re.compile(r"\b(?:https?|ftp|rsync|git|ssh)://(?:[^/\s\"'@]*@)?([A-Za-z0-9.-]+)")
-# A registry, also where no scheme stands before it.
+# A registry, also without a scheme.
 REGISTRY = re.compile(
     r"\b(?:[\w-]+\.)*(?:debian\.(?:org|net)|ubuntu\.com|pypi\.org|pythonhosted\.org|npmjs\.(?:org|com)|crates\.io|rubygems\.org|"
     r"golang\.org|github\.com|githubusercontent\.com|gitlab\.com|docker\.io|quay\.io|ghcr\.io|dl\.google\.com)\b"
 )
 RESERVED = re.compile(r"(?:^|\.)(?:test|example|invalid|localhost|example\.(?:org|com|net))$")
-# Hosts that a script names all the same, by the script's end: what answers is the private network, or nobody is asked.
+# Hosts that a script may name, by the end of the script's path: the private network answers for them, or they get no request.
 KNOWN = {
     "tests/lab/veldlab/lab.py": {"check.torproject.org"},
     "tests/helper/test_proxy.py": {"proxy.corp"},
     "tests/helper/test_account.py": {"192.168.77.30"},
-    "tests/helper_mac/real_mac.sh": {"1.1.1.1"},  # on a Mac, by hand: that it is refused
+    "tests/helper_mac/real_mac.sh": {"1.1.1.1"},  # on a Mac, by hand: the request must be refused
     "tests/package/test_files.py": {"www.w3.org"},  # a name space of XML
 }
 SUFFIXES = (".py", ".sh", ".cmake", ".txt", "")

@@ -1,8 +1,8 @@
-"""The Mac's own sources and its bundle, as far as they can be checked elsewhere: the Objective-C++ against GNUstep's
-headers and the few declarations in apple/, the property list, and the icon.
+"""The Mac's own sources and its bundle, as far as another system can check them: the Objective-C++ against GNUstep's headers and
+the declarations in apple/, the property list, and the icon.
 
 VELDMARK_GNUSTEP: unpacked packages, else the installed headers. VELDMARK_QT_HEADERS: folders, joined by ":".
-VELDMARK_MACOS: where the build makes the property list and the icon; without it those two are not looked at.
+VELDMARK_MACOS: the folder of the built property list and icon; without it those two are not checked.
 """
 
 import json
@@ -30,7 +30,7 @@ def gnustep():
 
 
 def check(path):
-    """What the compiler says of the file's syntax and types; empty when nothing."""
+    """The compiler's messages about the file's syntax and types; empty without any."""
     words = [
         "clang++",
         "-x",
@@ -94,14 +94,15 @@ class Bundle(unittest.TestCase):
         self.assertEqual(values["CFBundlePackageType"], "APPL")
 
     def test_it_says_what_an_application_without_tor_wants(self):
-        """The system asks in the name of who has started it, and ends a program that uses a camera without a reason."""
+        """The system asks for a permission in the name of the starting program, and ends a program that uses a camera without a
+        stated reason."""
         with open(os.path.join(MADE, "Info.plist"), "rb") as file:
             values = plistlib.load(file)
         for device in "Camera", "Microphone":
             self.assertIn(f"opened without Tor wants to use the {device.lower()}", values[f"NS{device}UsageDescription"])
 
     def test_a_second_user_may_open_it(self):
-        """After fast user switching; one user's second start is handed over by the program itself."""
+        """Another user may start it after fast user switching. The program itself hands over one user's second start."""
         with open(os.path.join(MADE, "Info.plist"), "rb") as file:
             self.assertNotIn("LSMultipleInstancesProhibited", plistlib.load(file))
 

@@ -1,4 +1,4 @@
-"""The parts of the helper that run on a Mac use nothing that its bash 3.2 and its BSD tools do not have."""
+"""The helper's parts for a Mac use only features of its bash 3.2 and its BSD tools."""
 
 import pathlib
 import re
@@ -8,7 +8,7 @@ import unittest
 ROOT = pathlib.Path(sys.argv.pop(1) if len(sys.argv) > 1 else pathlib.Path(__file__).resolve().parents[2])
 PARTS = ROOT / "resources" / "helper"
 
-# What came after bash 3.2, then what only Linux's tools know.
+# Features newer than bash 3.2, then options that only Linux's tools have.
 NEWER = {
     "associative arrays": r"(declare|local|readonly|typeset) +-[a-z]*A",
     "declare -g and -n": r"(declare|local|readonly|typeset) +-[a-z]*[gn]",
@@ -38,7 +38,7 @@ NEWER = {
 
 
 def own_parts():
-    """What join.sh puts into the Mac's helper."""
+    """The parts that join.sh puts into the Mac's helper."""
     text = (PARTS / "join.sh").read_text(encoding="utf-8")
     own = re.search(r"darwin\)\s+own=\(([^)]*)\)", text).group(1).split()
     shared = re.search(r"for part in ([^\n]*); do", text).group(1).replace('"${own[@]}"', "").split()

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""docs/security.md names the tests that show its promises; here it is made sure that they exist.
+"""docs/security.md names the tests of its promises; this test checks that they exist.
 
 usage: test_promises.py PROJECT
 
@@ -16,7 +16,7 @@ NAME = re.compile(r"`([\w/]+(?:\.py|Test))(?:: (\w+))?`")
 
 def main() -> int:
     project = Path(sys.argv[1])
-    files: dict[str, list[Path]] = {}  # of one name there may be several
+    files: dict[str, list[Path]] = {}  # several files may have the same name
     for folder, pattern in (("tests", "*.py"), ("fuzz", "*.py"), ("tests", "*Test.cpp")):
         for path in (project / folder).rglob(pattern):
             files.setdefault(path.name.removesuffix(".cpp"), []).append(path)

@@ -1,4 +1,4 @@
-"""The house as it is drawn: a room includes only itself and the rooms that it links, and the document names every room."""
+"""A room includes only itself and the rooms that it links, and docs/architecture.md names every room."""
 
 import pathlib
 import re
@@ -55,6 +55,16 @@ class Rooms(unittest.TestCase):
         document = (ROOT / "docs" / "architecture.md").read_text()
         for room in rooms():
             self.assertRegex(document, rf"(?m)^  {room}/", f"docs/architecture.md does not name {room}/")
+
+    def test_one_source_sets_the_phase(self):
+        assignment = re.compile(r"\bphase\s*=(?!=)|\bphase\.set\(")
+        setting = {
+            str(file.relative_to(SOURCE))
+            for file in (SOURCE / "controller").glob("*.cpp")
+            for line in file.read_text().splitlines()
+            if assignment.search(line.split("//")[0]) and not re.search(r"ConnectionPhase phase\s*=|\.phase\s*=", line)
+        }
+        self.assertEqual(setting, {"controller/Phases.cpp"})
 
 
 if __name__ == "__main__":

@@ -2,13 +2,13 @@
 // as fast (or as many times as VELDMARK_SPEED says), so that the five-minute deadline of the
 // bootstrap comes after five seconds. For the lab's host only.
 //
-//     FastForward connect         connects and prints the published state when the attempt has
-//     ended, as JSON FastForward wrong-password  the same, but tor is given the hash of another
-//     control password FastForward monitor HOURS   connects and stays so for that long by its
-//     clock, as somebody would who looks at circuits and
-//                                 the log and connects again whenever Tor has died; prints a line
-//                                 of JSON for each five minutes of its clock: what the process
-//                                 takes, and what it has seen
+//     FastForward connect          connects; prints the published state after the attempt as JSON
+//     FastForward wrong-password   the same, but tor gets the hash of another control password
+//     FastForward monitor HOURS    stays connected for that long by its clock
+//
+// `monitor` behaves like a user who looks at circuits and the log, and connects again whenever Tor
+// has died. It prints a line of JSON for each five minutes of its clock: what the process takes,
+// and what it has seen.
 //
 // Restores the network before it ends; exit status 1 when that failed.
 
@@ -66,7 +66,7 @@ private:
     SystemClock m_clock;
 };
 
-// Tells the helper the hash of another password.
+// Gives the helper the hash of another password.
 class WrongHash final : public ProcessRunner {
 public:
     QCoro::Task<Result<ProcessResult, StartError>> run(QString executable,
@@ -98,8 +98,7 @@ QCoro::Task<void> attempt(TorController *controller)
     QCoreApplication::exit(controller->isSessionMarkerPresent() ? 1 : 0);
 }
 
-// Memory in KiB, resident and what of it the allocator has handed out; open descriptors and threads
-// of this process.
+// This process's memory in KiB (resident, and allocated of it), open descriptors and threads.
 QJsonObject taken()
 {
     const struct mallinfo2 heap = mallinfo2();
@@ -118,7 +117,7 @@ QJsonObject taken()
             {QStringLiteral("threads"), count("/proc/self/task")}};
 }
 
-// What has happened in a session that is watched.
+// The events of a watched session.
 struct Seen {
     qint64 deaths = 0;
     qint64 failures = 0;
@@ -205,8 +204,8 @@ int main(int argc, char **argv)
                 return TCPProbe::connectTime(host, port, limit, &systemClock);
             },
     });
-    // Not once in each second of the fast clock: reading a full log so often would leave no time
-    // for anything else.
+    // Less often than once a second of the fast clock: reading a full log so often would take all
+    // the time.
     TorLogStore log(TorLog(profile), nullptr, TorLogStore::pollInterval * 10 / speed);
     Seen seen;
     QTimer readings;

@@ -1,7 +1,6 @@
-// A library to be loaded into a program before all others (LD_PRELOAD): the program is killed, as
-// by SIGKILL from outside, right before the change of files whose number is in VELDMARK_FATAL_STEP;
-// 1 is the first. A change is each making, removing and renaming of a file or folder. Programs that
-// it starts are left alone.
+// A library for LD_PRELOAD that kills its program, as by SIGKILL from outside, right before the
+// file change with the number VELDMARK_FATAL_STEP; 1 is the first. A file change makes, removes or
+// renames a file or folder. Child programs are left alone.
 
 #include <atomic>
 #include <cstdarg>

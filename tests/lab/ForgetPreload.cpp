@@ -1,5 +1,5 @@
-// Preloaded beside another library, so that only the program itself has both and not what it
-// starts.
+// Preloaded together with another library, so that only the program itself has both, and not its
+// children.
 
 #include <cstdlib>
 

@@ -1,11 +1,11 @@
-// Runs the real downloader with its real addresses, for the lab's host only; the shipped program
-// has no way to expect another key than the Tor Project's.
+// Runs the real downloader with its real addresses, for the lab's host only. The shipped program
+// accepts no key but the Tor Project's.
 //
 //     InstallBundle FINGERPRINT direct|tor [fast]
 //
-// Prints each progress line, then "installed VERSION signature|https" or "failed: " and why; exit
-// status 1 then. With "fast" its clock runs sixty times as fast, so that a time-out of a minute
-// comes after a second. SIGKILL is the only signal that it expects.
+// Prints each progress line, then "installed VERSION signature|https", or "failed: " with the
+// reason and exit status 1. With "fast" its clock runs sixty times as fast, so that a time-out
+// of a minute comes after a second. SIGKILL is the only signal that it expects.
 
 #include "base/Clock.h"
 #include "bridges/TransportDownloader.h"

@@ -1,7 +1,9 @@
-// Preloaded into the lab's nodes: the RSA keys that Tor makes for its connections at each start,
-// most of the work of a lab's start, are taken from files. Each process asks for its keys in the
-// same order, so the file is named by their length and that number: $VELDLAB_LINK_KEYS/link-2048-1.
-// Where there is none, OpenSSL makes the key. Nodes of the lab only: what is tested never has this.
+// Preloaded into the lab's nodes. Tor makes RSA keys for its connections at each start, which is
+// most of the work of a lab's start; this library reads them from files. Each process asks for its
+// keys in the same order, so a file's name has their length and that number:
+// $VELDLAB_LINK_KEYS/link-2048-1.
+// Without a file OpenSSL makes the key. Only the lab's nodes have this library, never a program
+// under test.
 
 #include <dlfcn.h>
 
@@ -10,7 +12,7 @@
 #include <cstdlib>
 #include <string>
 
-// Of libcrypto, which the program has loaded; its headers are not needed for these few.
+// Functions of libcrypto, which the program has loaded; these few need no headers.
 extern "C" {
 struct RSA;
 struct BIGNUM;
@@ -50,7 +52,7 @@ RSA *keptKey(int bits)
     return key;
 }
 
-// What Tor starts has no use for this.
+// Tor's child programs do not need this.
 struct Forget {
     Forget() { ::unsetenv("LD_PRELOAD"); }
 } const forget;

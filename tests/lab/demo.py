@@ -1,10 +1,10 @@
 #!/usr/bin/python3
 """Shows the main job on a private Tor network: from unprotected to routed through Tor and back, in both modes. Then pictures.
 
-usage: demo.py [network] [pictures]    both when none is named; only the network needs root
+usage: demo.py [network] [pictures]    without arguments: both; only the network needs root
 
-Needs no internet and changes nothing outside its own network namespaces. Exit status 0 when everything went as it should,
-1 when something did not, 77 when this machine does not permit namespaces.
+Needs no internet and changes nothing outside its own network namespaces. Exit status 0 when every check passed, 1 when one failed,
+77 when this machine does not permit namespaces.
 """
 
 import contextlib
@@ -13,13 +13,13 @@ import shutil
 import signal
 import subprocess
 import sys
-import threading
 import time
 from pathlib import Path
 
 sys.dont_write_bytecode = True
-sys.path.insert(0, str(Path(__file__).resolve().parent))
+sys.path[:0] = [str(Path(__file__).resolve().parent), str(Path(__file__).resolve().parents[2] / "tools")]
 
+from moving import Moving  # noqa: E402
 from veldlab import topology as at  # noqa: E402
 from veldlab.lab import PROJECT, Lab, LabUnavailable  # noqa: E402
 from veldlab.product import Product, difference  # noqa: E402
@@ -45,40 +45,14 @@ def say(name: str, text: str) -> None:
 
 
 def judge(name: str, text: str, good: bool) -> None:
-    """One observation and whether it is what it should be."""
+    """Prints one observation, and whether it is as expected."""
     say(name, f"{GREEN}✓{PLAIN} {text}" if good else f"{RED}✗ {text}{PLAIN}")
     if not good:
         failures.append(f"{name}: {text}")
 
 
-@contextlib.contextmanager
-def moving(what):
-    """Shows that something goes on while it does: `what` gives a text. A terminal sees one line change, a file one each ten seconds."""
-    over = threading.Event()
-
-    def show() -> None:
-        started = time.monotonic()
-        while not over.wait(0.5 if sys.stdout.isatty() else 10):
-            passed = f"{time.monotonic() - started:.0f} s"
-            print(
-                f"\r  {DIM}{what()} {passed}{PLAIN}\033[K" if sys.stdout.isatty() else f"  {what()} {passed}",
-                end="" if sys.stdout.isatty() else "\n",
-                flush=True,
-            )
-        if sys.stdout.isatty():
-            print("\r\033[K", end="", flush=True)
-
-    shower = threading.Thread(target=show)
-    shower.start()
-    try:
-        yield
-    finally:
-        over.set()
-        shower.join()
-
-
 def ask_check_service(lab: Lab, *options: str) -> str:
-    """What the exit-check service answers to a plain curl on the host, or why there was no answer."""
+    """The exit-check service's answer to a plain curl on the host, or the error."""
     result = lab.host.run(["curl", "-sS", "--max-time", "8", *options, at.CHECK_URL], user=lab.host.user)
     return result.stdout.strip() if result.returncode == 0 else f"refused: {result.stderr.strip().splitlines()[-1]}"
 
@@ -133,11 +107,11 @@ def show_mode(lab: Lab, product: Product, mode: str, before: dict[str, str]) -> 
 
 
 def draw_windows() -> None:
-    """Every state of every window, as pictures and as one page that shows them."""
+    """Draws every state of every window, as pictures and as one page that shows them."""
     heading("Pictures of every window and state")
     folder = PROJECT / "build" / "demo"
     shutil.rmtree(folder, ignore_errors=True)
-    with moving(lambda: f"{len(list(folder.glob('*.png')))} pictures drawn,"):
+    with Moving(lambda: f"  {len(list(folder.glob('*.png')))} pictures drawn"):
         drawn = subprocess.run([PROJECT / "build/dev/tests/ui/veldmark-pictures", folder], capture_output=True, text=True)
     pictures = sorted(folder.glob("*.png"))
     judge(
@@ -152,12 +126,12 @@ def draw_windows() -> None:
 
 
 def show_network() -> None:
-    """Raises LabUnavailable where there can be none."""
+    """Raises LabUnavailable when no lab can run."""
     steps: list[str] = []
     heading("A private Tor network of real tor processes")
     lab = Lab(on_step=lambda name: steps.append(name))
     with contextlib.ExitStack() as held:
-        with moving(lambda: f"{steps[-1] if steps else 'beginning'},"):
+        with Moving(lambda: f"  {steps[-1] if steps else 'beginning'}"):
             held.enter_context(lab)
         say(
             "up after",

@@ -1,8 +1,8 @@
 #!/usr/bin/python3
-"""A transport program for the lab, started by tor as a managed proxy: looks a front up by name, then carries plain bytes.
+"""A transport program for the lab, which tor starts as a managed proxy. It looks up a front by name, then carries plain bytes.
 
-It stands for transports such as webtunnel and meek, which know their server by a name. The words FRONT, HOST and PORT are
-replaced by the test: every connection looks FRONT up first and then goes to HOST:PORT.
+It stands for transports such as webtunnel and meek, which know their server by a name. The test replaces the words FRONT, HOST and
+PORT. Every connection first looks up FRONT and then goes to HOST:PORT.
 """
 
 import os
@@ -27,7 +27,7 @@ class Socks(socketserver.StreamRequestHandler):
     def handle(self):
         _, count = self.rfile.read(2)
         methods = self.rfile.read(count)
-        if 2 in methods:  # tor hands the line's arguments over as user name and password
+        if 2 in methods:  # tor passes the bridge line's arguments as user name and password
             self.wfile.write(b"\x05\x02")
             self.rfile.read(1)
             for _ in range(2):

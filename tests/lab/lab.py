@@ -1,17 +1,17 @@
 #!/usr/bin/python3
 """The private Tor network from the command line; see veldlab/topology.py for a picture of it.
 
-    lab.py check                                      can a lab run here? status 0, or 77 and one line what to do
+    lab.py check                                      can a lab run here? status 0, or 77 and one line that says what to do
     lab.py up                                         start one and keep it until Ctrl-C
-    lab.py run [--user alice] -- CMD...               start one, run CMD on its host, end it; gives CMD's status
+    lab.py run [--user alice] -- CMD...               start one, run CMD on its host, end it; the status is CMD's
     lab.py exec [--in SPACE] [--user alice] -- CMD    run CMD in a lab that is up
-    lab.py info                                       what there is in a lab that is up, as JSON
+    lab.py info                                       what a running lab contains, as JSON
     lab.py behave SERVICE BEHAVIOUR                   change how the exit check or DNS behaves
     lab.py node stop|start NAME...                    stop or start nodes
     lab.py log dns|web|NODE                           print a log
     lab.py selftest                                   the lab's own tests
 
-Several labs can be up at once; --lab ID then says which is meant.
+Several labs can be up at once; --lab ID then chooses one.
 """
 
 import argparse

@@ -1,20 +1,20 @@
 #!/usr/bin/python3
-"""The program for a long time, in the private Tor network: it takes as much at the end as at the start.
+"""Runs the program for a long time in the private Tor network. It must use as much memory at the end as at the start.
 
 usage: soak.py [--cycles N] [--minutes M] [--hours H] [--rounds R] [--seed N] [--programs FOLDER] [--json FILE]
 
-cycles  connects and disconnects one running instance N times (500), in both modes by turns, or as often as M minutes (60)
-        permit. In one of ten, Tor is killed while it is connected; in three of four, it is disconnected while the checks of
-        the new connection are under way. The host must then be as it was before.
-hours   keeps a session for H hours (2) of a clock that runs sixty times as fast, with circuits and log being looked at.
-        Tor is killed at random, and its log grows.
+cycles  connects and disconnects one running instance N times (500), in both modes by turns, or as often as M minutes (60) permit.
+        In one of ten cycles Tor is killed while connected. In three of four cycles the disconnect comes while the new
+        connection's checks run. The host must then be as before.
+hours   keeps a session for H hours (2) of a clock that runs sixty times as fast, with circuits and log shown. Tor is
+        killed at random, and its log grows.
 rounds  opens and closes the circuits, the log and the settings R times (60) in the desktop application, connected, on an X
-        server of its own. In one of ten, Tor is killed while they are open, and the application connects again.
+        server of its own. In one of ten rounds Tor is killed while they are open, and the application connects again.
 
-Memory, descriptors and threads are read along the way; the middle of the last readings is compared with that of the first
-ones, after a warm-up: a tenth of the cycles and of the rounds, and of the hours what it takes until all that has a limit is
-as large as it gets (the log that is kept and the part of its file that is read, and Tor has died and been started again).
-Exit status 1 when something has grown, 77 where no lab can run.
+Memory, descriptors and threads are read along the way. The median of the last readings is compared with that of the first readings
+after a warm-up. The warm-up is a tenth of the cycles and of the rounds. For the hours it lasts until the kept log and the part of
+its file that is read have reached their limits, and Tor has died and been started again. Exit status 1 when something has grown, 77
+where no lab can run.
 """
 
 import argparse
@@ -26,28 +26,30 @@ import subprocess
 import sys
 import threading
 import time
+from contextlib import ExitStack
 from pathlib import Path
 
 sys.dont_write_bytecode = True
-sys.path.insert(0, str(Path(__file__).resolve().parent))
+sys.path[:0] = [str(Path(__file__).resolve().parent), str(Path(__file__).resolve().parents[2] / "tools")]
 
+from moving import Moving, say  # noqa: E402
 from veldlab import desktop as person  # noqa: E402
 from veldlab.lab import PROJECT, Lab, LabUnavailable  # noqa: E402
 from veldlab.product import Product, Session, difference, is_probed  # noqa: E402
 
 FAST_FORWARD = os.environ.get("VELDMARK_FAST_FORWARD", str(PROJECT / "build" / "dev" / "tests" / "FastForward"))
 KINDS = ("memoryKiB", "descriptors", "threads")
-HEAP = "heapKiB"  # what of the memory is in use, where the process says so itself
-# The allocator keeps some of what was freed, so memory may differ by this much; a leak of 10 KiB in each cycle or minute
-# would be far beyond it. Descriptors and threads may not differ.
+HEAP = "heapKiB"  # the memory in use, where the process reports it
+# The allocator keeps some freed memory, so memory may differ by this much. A leak of 10 KiB in each cycle or minute would exceed it
+# by far. Descriptors and threads may not differ.
 MEMORY_SLACK = 0.05
-WARM_UP = 0.1  # of the cycles
-COMPARED = 0.2  # of the readings, at both ends
+WARM_UP = 0.1  # the share of the cycles
+COMPARED = 0.2  # the share of the readings, at both ends
 FULL_LOG = {"logLines": 3000, "logBytes": 1000000}  # the limits of src/log/TorLog.h
 WINDOWS = ("Circuits", "Tor Log", "Settings")
 LEAST_READINGS = 10  # after the warm-up
 
-# On the host: what a process takes, by its program's path and the first of its arguments; Tor's process ids.
+# Runs on the host: the use of a process, found by its program's path and first argument; Tor's process ids.
 TAKEN = """
 for p in /proc/[0-9]*; do
   [ "$(readlink "$p/exe")" = "$1" ] && tr '\\0' ' ' <"$p/cmdline" | grep -q -- " $2" || continue
@@ -74,7 +76,7 @@ done
 
 
 def kill_tor(lab: Lab) -> bool:
-    """Whether there was one to kill."""
+    """Kills Tor; returns whether there was a process to kill."""
     pids = lab.host.run(["sh", "-c", TOR_PIDS], check=True).stdout.split()
     return bool(pids) and lab.host.run(["kill", "-9", *pids]).returncode == 0
 
@@ -85,7 +87,7 @@ def taken(lab: Lab, program: Path | str, argument: str = "") -> dict[str, int]:
 
 
 def growth(kept: list[dict]) -> list[str]:
-    """Prints start and end of each kind, of the readings after the warm-up; what has grown."""
+    """Prints start and end of each kind of reading after the warm-up; returns what has grown."""
     share = max(1, int(len(kept) * COMPARED))
     grown = []
     for kind in (kind for kind in (*KINDS, HEAP) if kind in kept[0]):
@@ -99,7 +101,7 @@ def growth(kept: list[dict]) -> list[str]:
 
 
 def after_filling(readings: list[dict]) -> list[dict]:
-    """Those from the first one on at which everything that has a limit has reached it and Tor has died once."""
+    """The readings since everything with a limit has reached it and Tor has died once."""
     reached = dict.fromkeys(FULL_LOG, 0)
     for number, reading in enumerate(readings):
         reached = {kind: max(most, reading[kind]) for kind, most in reached.items()}
@@ -109,7 +111,7 @@ def after_filling(readings: list[dict]) -> list[dict]:
 
 
 def connect_only(product: Product, session: Session) -> None:
-    """Until it is connected. The checks go on, as they do when one disconnects early."""
+    """Connects, and returns without waiting for the checks, as when a user disconnects early."""
     verb = product.lab.host.popen(
         [product.ctl, "connect"], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL
     )
@@ -123,11 +125,12 @@ def connect_only(product: Product, session: Session) -> None:
 def cycles(lab: Lab, product: Product, count: int, minutes: float, chance: random.Random) -> tuple[list[str], dict]:
     before = lab.host.snapshot()
     readings, kills, started = [], 0, time.monotonic()
-    with product.session(connect=False) as session:
+    with product.session(connect=False) as session, Moving("Cycles") as moving:
         session.wait_phase("disconnected")
         for number in range(count):
+            moving.step(number + 1, count)
             product.run_verb("set", "strictMode", "true" if number % 2 else "false", check=True)
-            if number // 2 % 4 == 0:  # of each mode's cycles every fourth: until all has been checked
+            if number // 2 % 4 == 0:  # every fourth cycle of each mode waits for the checks
                 product.run_verb("connect", check=True, timeout=120)
             else:
                 connect_only(product, session)
@@ -139,13 +142,10 @@ def cycles(lab: Lab, product: Product, count: int, minutes: float, chance: rando
                 product.run_verb("disconnect", check=True)
             readings.append(taken(lab, product.ctl, "run"))
             if time.monotonic() - started > minutes * 60:
-                print(f"  the time is over after {number + 1} cycles", flush=True)
+                say(f"  the time is over after {number + 1} cycles")
                 break
             if (number + 1) % 50 == 0:
-                print(
-                    f"  {number + 1} cycles, {kills} with Tor killed, {time.monotonic() - started:.0f} s: {readings[-1]}",
-                    flush=True,
-                )
+                say(f"  {number + 1} cycles, {kills} with Tor killed, {time.monotonic() - started:.0f} s: {readings[-1]}")
         session.interrupt()
     problems = growth(readings[int(len(readings) * WARM_UP) :])
     lab.host.run(["rm", "-rf", "/root/.config/veldmark"], check=True)
@@ -172,9 +172,10 @@ def hours(lab: Lab, programs: Path, length: float, chance: random.Random) -> tup
     disturber = threading.Thread(target=disturb)
     disturber.start()
     try:
-        for line in monitor.stdout:
-            readings.append(json.loads(line))
-            print(f"  {readings[-1]}", flush=True)
+        with Moving("The fast clock"):
+            for line in monitor.stdout:
+                readings.append(json.loads(line))
+                say(f"  {readings[-1]}")
     finally:
         stop.set()
         disturber.join()
@@ -199,11 +200,12 @@ def windows(lab: Lab, programs: Path, count: int, chance: random.Random) -> tupl
     Product(lab, programs).run_helper("install-privileged", "--user", user, check=True)
     product = Product(lab, programs, user=user)
     readings, kills, started = [], 0, time.monotonic()
-    with person.Desktop(lab, user) as desktop, desktop.start(programs) as application:
+    with person.Desktop(lab, user) as desktop, desktop.start(programs) as application, Moving("Rounds") as moving:
         application.click("push button", "Connect to Tor")
         product.wait_state(is_probed)
         for number in range(count):
-            # Each is opened by its button in the main window, and closed before the next.
+            moving.step(number + 1, count)
+            # The test opens each window by its button in the main window, and closes it before the next.
             for title in WINDOWS:
                 application.click("push button", title)
                 application.wait_for("frame", title, state="active")
@@ -219,10 +221,7 @@ def windows(lab: Lab, programs: Path, count: int, chance: random.Random) -> tupl
                     product.wait_state(is_probed)
             readings.append(taken(lab, Path(programs) / "veldmark"))
             if (number + 1) % 10 == 0:
-                print(
-                    f"  {number + 1} rounds, {kills} with Tor killed, {time.monotonic() - started:.0f} s: {readings[-1]}",
-                    flush=True,
-                )
+                say(f"  {number + 1} rounds, {kills} with Tor killed, {time.monotonic() - started:.0f} s: {readings[-1]}")
         application.click("push button", "Disconnect")
         application.wait_for("heading", "Not Protected")
     return (
@@ -247,7 +246,9 @@ def main() -> int:
     chance = random.Random(given.seed)
     problems, report = [], {}
     try:
-        with Lab(share=[given.programs.resolve()]) as lab:
+        with ExitStack() as held:
+            with Moving("Starting the private Tor network"):
+                lab = held.enter_context(Lab(share=[given.programs.resolve()]))
             programs = given.programs.resolve()
             product = Product(lab, programs)
             if given.cycles:

@@ -1,4 +1,5 @@
-"""Applications without Tor, by the command line: listed, opened, and out with the user's own address while all else is locked."""
+"""Applications without Tor, by the command line: listed, opened, and connected with the user's own address while all other traffic
+is blocked."""
 
 import json
 import sys
@@ -14,7 +15,7 @@ from veldlab import topology as at  # noqa: E402
 from veldlab.product import Product, is_probed  # noqa: E402
 
 ENTRY = "/usr/local/share/applications/org.example.Sample.desktop"
-# Asks for its address, tells it, and stays until it is asked to quit.
+# Asks for its address, writes it down, and stays until it is asked to quit.
 PROGRAM = f"""#!/bin/sh
 echo $$ >>"$HOME/pids"
 trap 'echo asked >>"$HOME/log"; exit 0' TERM
@@ -39,7 +40,7 @@ class Applications(LabCase):
             "/usr/local/share/applications/unseen.desktop",
             "[Desktop Entry]\nType=Application\nName=Unseen\nNoDisplay=true\nExec=/bin/true\n",
         )
-        # An administrator who says yes to every question.
+        # An administrator who approves every request.
         host.start_polkit(
             'polkit.addRule(function(action, subject) { if (subject.user == "alice" && '
             'action.id == "org.freedesktop.policykit.exec") return polkit.Result.YES; });'
@@ -51,7 +52,7 @@ class Applications(LabCase):
         super().setUp()
 
     def remove_traces(self):
-        """Ends the copies that have said that they run, and forgets what they told."""
+        """Ends the copies that have reported that they run, and removes their reports."""
         script = 'cd /home/alice; [ ! -e pids ] || for pid in $(cat pids); do kill -KILL "$pid" || :; done; rm -f pids answer log'
         self.lab.host.run(["/bin/sh", "-c", script], check=True)
 
@@ -59,7 +60,7 @@ class Applications(LabCase):
         path = self.lab.host.path("/home/alice/answer")
         deadline = time.monotonic() + 20
         while not path.exists():
-            self.assertLess(time.monotonic(), deadline, "the application has told nothing")
+            self.assertLess(time.monotonic(), deadline, "the application has written nothing")
             time.sleep(0.05)
         return path.read_text()
 
@@ -99,7 +100,7 @@ class Applications(LabCase):
     def test_opens_one_application_while_all_else_stays_locked(self):
         with self.product.session() as session:
             session.wait(is_probed)
-            # Opened in the ordinary way it gets no answer: the kill switch stands.
+            # Started in the ordinary way it gets no answer: the kill switch blocks it.
             self.alice("/bin/sh", "-c", f"gio launch {ENTRY} >/dev/null 2>&1", check=True)
             self.assertNotIn('"IP"', self.answer())
             self.remove_traces()
@@ -108,7 +109,7 @@ class Applications(LabCase):
                 self.assertEqual(json.loads(self.answer())["IP"], at.HOST_ADDRESS)
             outside = {p.dst for p in capture.packets if p.out and p.src == at.HOST_ADDRESS} - at.RELAY_ADDRESSES
             self.assertEqual(outside, {at.CHECK_ADDRESS, at.DNS_ADDRESS})
-            # Opened once more: the copy that runs is asked to quit first.
+            # At the next launch the running copy is asked to quit first.
             self.lab.host.run(["rm", "/home/alice/answer"], check=True)
             self.assertFalse(self.lab.host.path("/home/alice/log").exists())
             self.product.run_verb("launch", ENTRY, check=True)

@@ -1,4 +1,4 @@
-"""Bridges end to end: the shipped program, Debian's obfs4proxy at both ends, and nothing but the bridge on the wire."""
+"""Bridges end to end: the shipped program, Debian's obfs4proxy at both ends, and only the bridge's traffic on the wire."""
 
 import contextlib
 import json
@@ -37,7 +37,7 @@ class Bridges(LabCase):
 
     @staticmethod
     def sent(packets):
-        """What left the host; the router's own neighbour discovery on its link is not the host's."""
+        """The packets that left the host, without the router's own neighbour discovery on its link."""
         return [
             p
             for p in packets
@@ -45,7 +45,7 @@ class Bridges(LabCase):
         ]
 
     def connect_by(self, bridge):
-        """Connects, and asserts that the bridge is all that the host talks to."""
+        """Connects, and asserts that the host talks only to the bridge."""
         with self.lab.capture() as capture, self.product.session() as session:
             state = session.wait(is_probed)
             self.assertEqual(state["activeBridge"], "custom")
@@ -59,7 +59,8 @@ class Bridges(LabCase):
         self.assert_restored()
 
     def test_a_bridge_programs_port_is_no_tunnel_for_others(self):
-        """Its port for Tor is open to see in /proc/net/tcp. Whoever could use it would reach a server of their own from the real address."""
+        """Every account can see the transport's port in /proc/net/tcp. A program that could use it would reach a server of its own
+        from the real address."""
         ask = (
             "import socket, sys; s = socket.socket(); s.settimeout(float(sys.argv[2])); print(s.connect_ex(('127.0.0.1', int(sys.argv[1]))) or"
             " (s.send(b'\\x05\\x01\\x02'), s.recv(2).hex())[1])"
@@ -89,7 +90,7 @@ class Bridges(LabCase):
                 ],
                 check=True,
             )
-            self.assertEqual(asked("nobody", 10), "0502")  # it speaks SOCKS with everybody
+            self.assertEqual(asked("nobody", 10), "0502")  # it speaks SOCKS with every client
             self.lab.host.run(["pkill", "-CONT", "-f", "watcher[.]sh"], check=True)
             self.assertEqual(session.interrupt(), 0, session.output)
         self.assert_restored()
@@ -151,7 +152,7 @@ class Bridges(LabCase):
         self.assert_restored()
 
     def stand_in(self, script):
-        """Puts a program in lyrebird's place, where the downloaded bundle would have it."""
+        """Puts a program in lyrebird's place in the downloaded bundle's folder."""
         program = "/root/.local/share/veldmark/TorExpertBundle/tor/pluggable_transports/lyrebird"
         self.lab.host.write(program, script if script.startswith("#!") else f"#!/bin/sh\n{script}\n", mode=0o755)
         self.addCleanup(self.lab.host.run, ["rm", "-rf", "/root/.local/share/veldmark/TorExpertBundle"], check=True)
@@ -177,7 +178,7 @@ class Bridges(LabCase):
         self.assertTrue(all(p.dport == 53 for p in sent if p.dst == at.DNS_ADDRESS))
         self.assert_restored()
 
-    # What a transport program may do instead of its work, and what the user is told: from Tor's own report.
+    # Failures of a transport program, and the message to the user, which comes from Tor's own report.
     READY = "printf 'VERSION 1\\nCMETHOD obfs4 socks5 127.0.0.1:4711\\nCMETHODS DONE\\n'"
     USELESS = {
         "dies at its start": ("exit 1", r"The bridge program lyrebird keeps ending \(exit status 1\)\."),
@@ -195,11 +196,11 @@ class Bridges(LabCase):
     }
 
     def forget_network(self):
-        """Forgets what Tor has cached, so that it must ask its bridge again."""
+        """Removes Tor's cache, so that it must ask its bridge again."""
         self.lab.host.run(["rm", "-rf", "/var/lib/veldmark/run/tor/data"], check=True)
 
     def test_a_transport_that_is_no_use_is_told_and_never_looks_connected(self):
-        # The same way does connect when the program in lyrebird's place does its work.
+        # The same setup does connect when the program in lyrebird's place works.
         self.stand_in("exec /usr/bin/obfs4proxy")
         self.use(self.lab.tor.bridge_line("obfs4"))
         with self.product.session() as session:
@@ -232,7 +233,7 @@ class Bridges(LabCase):
             session.wait_phase("connected")
             self.assertEqual(self.product.run_verb("disconnect").returncode, 0)
             self.forget_network()
-            self.stand_in("exit 7")  # an update that went wrong
+            self.stand_in("exit 7")  # as after a failed update
             with self.lab.host.popen(
                 [self.product.ctl, "connect"], stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True
             ) as connect:
@@ -279,7 +280,7 @@ class Bridges(LabCase):
         self.assert_restored()
 
     def test_of_ten_bridges_the_three_fastest_are_used(self):
-        # Any relay serves as a plain bridge. Nobody listens at the last three addresses.
+        # Any relay works as a plain bridge. No program listens at the last three addresses.
         delays = dict(zip((*at.EXITS, at.MIDDLES[0]), (320, 40, 500, 120, 400, 0, 240)))
         dead = ["203.0.113.33", "203.0.113.34", "203.0.113.35"]
         self.use(*(f"{address}:{at.OR_PORT}" for address in (*dead[:2], *(node.address for node in delays), dead[2])))
@@ -296,13 +297,13 @@ class Bridges(LabCase):
         self.assertIn("Using the 3 fastest of 10 bridges", session.output)
         fastest = [node.address for node in sorted(delays, key=delays.get)[:3]]
         self.assertEqual(re.findall(r"(?m)^Bridge (.+)$", torrc), [f"{address}:{at.OR_PORT}" for address in fastest])
-        # A SYN that is sent again for want of an answer comes from the same port.
+        # A repeated SYN comes from the same port.
         first = {}
         for packet in capture.packets[:seen]:
             if packet.out and packet.proto == "tcp" and packet.is_opening:
                 first.setdefault((packet.dst, packet.sport), packet.time)
         opened = sorted((time, address) for (address, _), time in first.items())
-        # All were probed, and nobody else: the seven by one connection each before Tor began to connect.
+        # Exactly these addresses were probed: the seven by one connection each before Tor began to connect.
         self.assertEqual({address for _, address in opened}, {node.address for node in delays} | set(dead))
         probed, used = set(), []
         for time, address in opened:
@@ -311,7 +312,7 @@ class Bridges(LabCase):
             probed.add(address)
         self.assertTrue(used)
         self.assertLessEqual({address for _, address in used}, set(fastest))
-        # The dead refuse at once (and may be knocked at twice by one probe); Tor never tries them.
+        # The dead addresses refuse at once (one probe may try them twice); Tor never tries them.
         self.assertLess(max(time for time, address in opened if address in dead), used[0][0])
         self.assert_restored()
 

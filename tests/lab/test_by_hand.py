@@ -1,4 +1,4 @@
-"""Getting the network back without the program: the commands of the README, as they stand there.
+"""Restoring the network without the program, by the README's own commands.
 
     test_by_hand.py [unittest arguments]
 """
@@ -40,9 +40,10 @@ class ByHand(unittest.TestCase):
         cls.product = Product(cls.lab, PROGRAMS)
         helper = (PROGRAMS / "veldmark-helper.sh").read_bytes()
         cls.lab.host.write("/usr/share/veldmark/veldmark-helper.sh", helper, 0o755)
+        cls.product.install_identifier()
 
     def left_behind(self) -> dict[str, str]:
-        """A strict session whose program was killed; gives the state before it."""
+        """Makes a strict session and kills its program; returns the state before it."""
         before = self.lab.host.snapshot()
         self.assertTrue(self.direct())
         with self.product.session() as session:
@@ -72,7 +73,7 @@ class ByHand(unittest.TestCase):
             result = self.lab.host.run(["dbus-run-session", "/bin/bash", "-c", command], user=user)
             self.assertEqual((command, result.returncode), (command, 0), result.stderr)
         self.assertTrue(self.direct())
-        deadline = time.monotonic() + 30  # the watcher looks every few seconds whether it is still wanted
+        deadline = time.monotonic() + 30  # the watcher checks every few seconds whether the session still exists
         while self.lab.host.run(["pgrep", "-f", "/run/watcher[.]sh"]).returncode == 0:
             self.assertLess(time.monotonic(), deadline, "the watcher lives on")
             time.sleep(0.1)
@@ -80,7 +81,7 @@ class ByHand(unittest.TestCase):
         after = self.lab.host.snapshot()
         for section in ("nft", "resolv", "routes", "mounts", "listening", "processes"):
             self.assertEqual((section, after[section]), (section, before[section]))
-        # What is left to tidy up, the next disconnect does.
+        # The next disconnect cleans up the rest.
         self.product.run_helper("disconnect", check=True)
         self.assertEqual(difference(before, self.lab.host.snapshot()), "")
 

@@ -1,4 +1,4 @@
-"""What the checks claim, against a service and a resolver that misbehave: nothing that failed is ever called protection."""
+"""The checks against a service and a resolver that misbehave. A failed check is never shown as protection."""
 
 import os
 import subprocess
@@ -14,7 +14,7 @@ from veldlab import topology as at  # noqa: E402
 from veldlab.lab import PROJECT  # noqa: E402
 
 RESOLVED = Path(os.environ.get("VELDMARK_RESOLVED", PROJECT / "build" / "resolved"))
-# Where the world's DNS sees queries of the exits come from: they share its network, so its own address is the source.
+# The source of the exits' queries at the world's DNS. They share its network, so it is the DNS server's own address.
 THROUGH_EXIT = {at.DNS_ADDRESS}
 UNUSABLE_ANSWERS = ("status-503", "garbage", "half-body", "huge", "expired", "wrong-host", "untrusted")
 
@@ -25,14 +25,14 @@ class CheckCase(LabCase):
         super().setUp()
 
     def connected(self, mode):
-        """A session that has made its first checks."""
+        """A session after its first checks."""
         self.set("strictMode", "true" if mode == "strict" else "false")
         session = self.enterContext(self.product.session())
         session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"] and s["torVerified"] is not None)
         return session
 
     def check(self):
-        """A round of checks: the state after it and the requests that it made."""
+        """Runs the checks once; returns the state afterwards and the requests that they made."""
         seen = len(self.lab.world.web_log())
         self.product.run_verb("check", check=True, timeout=120)
         return self.product.status(), self.lab.world.web_log(seen, "check")
@@ -68,7 +68,7 @@ class Mapping(CheckCase):
             with self.subTest(behaviour=behaviour):
                 self.lab.world.behave("check", behaviour)
                 state, requests = self.check()
-                # Both ways reach the service, so what follows is about its answers.
+                # Both paths reach the service, so the rest tests its answers.
                 sources = {r["source"] for r in requests}
                 self.assertTrue(sources & set(self.lab.tor.exits))
                 self.assertTrue(sources & {at.HOST_ADDRESS, at.HOST_ADDRESS6})
@@ -99,19 +99,19 @@ class Mapping(CheckCase):
         with self.lab.netem(to=at.CHECK_ADDRESS, loss=1.0), self.lab.netem(to=at.CHECK_ADDRESS6, loss=1.0):
             state, _ = self.check()
             self.assertIs(state["torVerified"], True)
-            self.assertNotIn("exposed", state["leakStatus"])  # the direct probe did fail
-            self.assertRegex(self.report(), r"Direct path +no answer, but proxy mode doesn't close it\n")
+            self.assertNotIn("exposed", state["leakStatus"])  # the direct probe failed
+            self.assertRegex(self.report(), r"Direct path +no answer, but proxy mode doesn't block it\n")
 
 
 class LookUps(CheckCase):
     def ask(self, name):
-        """Looks a name up as a program does; the sources of the queries for it that the world's DNS saw."""
+        """Looks up a name as a program does; returns the sources of its queries at the world's DNS."""
         seen = len(self.lab.world.dns_log())
         self.lab.host.run(["getent", "ahostsv4", name], user="alice")
         return {entry["source"] for entry in self.lab.world.dns_log(seen) if entry.get("name") == name}
 
     def break_resolver(self):
-        """What a network manager does that writes the file anew: the resolver of before is back."""
+        """Writes the resolver file again with the former resolver, as a network manager does."""
         self.lab.host.run(["umount", "/etc/resolv.conf"], check=True)
         self.assertIn(at.DNS_ADDRESS, self.lab.host.run(["cat", "/etc/resolv.conf"]).stdout)
 
@@ -130,8 +130,8 @@ class LookUps(CheckCase):
         self.assertEqual(self.product.status()["dnsStatus"], "throughTor")
         self.assertEqual(self.ask("one.example.test"), THROUGH_EXIT)
         self.break_resolver()
-        self.lab.host.run(["nft", "flush", "ruleset"], check=True)  # which led such look-ups to Tor all the same
-        self.assertEqual(self.ask("two.example.test"), {at.HOST_ADDRESS})  # it does leak
+        self.lab.host.run(["nft", "flush", "ruleset"], check=True)  # these redirected such lookups to Tor anyway
+        self.assertEqual(self.ask("two.example.test"), {at.HOST_ADDRESS})  # it leaks without them
         self.check()
         self.assert_leak_can_be_fixed()
         self.assertEqual(self.ask("three.example.test"), THROUGH_EXIT)
@@ -167,7 +167,7 @@ class LookUps(CheckCase):
 
 @unittest.skipUnless((RESOLVED / "lib/systemd/systemd-resolved").exists(), "systemd-resolved is not unpacked")
 class RealResolved(CheckCase):
-    """The real systemd-resolved serves the host's look-ups, as on a desktop."""
+    """The real systemd-resolved answers the host's lookups, as on a desktop."""
 
     @classmethod
     def setUpClass(cls):
@@ -228,7 +228,7 @@ class RealResolved(CheckCase):
                 session = self.connected(mode)
                 self.assertEqual(self.product.status()["dnsStatus"], "throughTor")
                 self.assertEqual(self.servers(), "127.0.0.1")
-                # What a renewed lease does.
+                # A renewed lease does this.
                 self.lab.host.run(["resolvectl", "dns", "eth0", at.DNS_ADDRESS], check=True)
                 self.check()
                 state = self.product.status()

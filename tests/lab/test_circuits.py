@@ -1,4 +1,4 @@
-"""Circuits of real tor as the program shows them, and what a user can do about them."""
+"""The program shows real tor's circuits, and a user can close and renew them."""
 
 import contextlib
 import json
@@ -44,7 +44,7 @@ class Circuits(LabCase):
                 self.assertEqual(COUNTRIES.get(hop["ip"], "unknown"), hop["country"], hop)
                 self.assertRegex(hop["fingerprint"], "^[0-9A-F]{40}$")
                 self.assertEqual(at.node_named(hop["nickname"]).address, hop["ip"])
-        # Some were made in a moment that is not a whole second.
+        # Some creation times have a fraction of a second.
         self.assertTrue(any(not circuit["created"].endswith(".000Z") for circuit in circuits))
 
     def test_a_site_is_shown_on_both_legs_of_a_conflux_set(self):
@@ -84,8 +84,8 @@ class Circuits(LabCase):
         with self.arrived_download():
             used = self.circuits_with_site()
             self.assertTrue(used)
-            # Without a new identity the next request goes the same way, once Tor has made its spare circuits: it may take one of those
-            # that came after the first request.
+            # Without a new identity the next request takes the same path, once Tor has made its spare circuits: it may take one
+            # that Tor made after the first request.
             for _ in range(10):
                 with self.arrived_download():
                     former, used = used, self.circuits_with_site()
@@ -115,7 +115,7 @@ class OnionServices(LabCase):
     SHARED = True
 
     def torrc(self, folder):
-        """A member of the private network that offers its web server as an onion service."""
+        """The torrc of a tor in the private network that offers its web server as an onion service."""
         network = self.lab.host.read("/etc/tor/torrc-defaults").splitlines()
         return "\n".join(
             [
@@ -131,7 +131,7 @@ class OnionServices(LabCase):
 
     @contextlib.contextmanager
     def service(self):
-        """Its address, once a visitor can find it."""
+        """The onion service's address, once a visitor can find it."""
         folder = f"{at.TOR_FOLDER}/onion"
         place = self.lab.tor.space.path(folder)
         place.mkdir(mode=0o700)
@@ -160,7 +160,7 @@ class OnionServices(LabCase):
                 for hop in way["hops"]:
                     self.assertEqual(at.node_named(hop["nickname"]).address, hop["ip"])
                 shown = json.loads(self.product.run_verb("circuits", "--json", check=True).stdout)
-                for circuit in shown:  # Tor has made others ahead for such services; they lead to no exit
+                for circuit in shown:  # Tor has made others ahead for onion services; they lead to no exit
                     if circuit["id"] != way["id"]:
                         self.assertIn(circuit["purpose"], ("GENERAL", "CONFLUX"))
                         self.assertIn(circuit["hops"][-1]["ip"], self.lab.tor.exits)
@@ -192,7 +192,7 @@ class Speed(LabCase):
 
     def test_a_path_that_stays_slow_is_given_up_after_four_tries(self):
         self.set("optimizeSpeed", "true")
-        with self.product.session() as session:  # leaves tor a network to start with
+        with self.product.session() as session:  # leaves a cached network for the next session
             session.wait_phase("connected")
         with self.lab.netem(delay_ms=100):  # 20 times as long on the fast clock
             ended = self.lab.host.run(
@@ -202,7 +202,7 @@ class Speed(LabCase):
         self.assertEqual(state["phase"], "connected")
         self.assertGreaterEqual(state["latencyMs"], SLOW_MS)
         self.assertEqual((state["isOptimizing"], state["optimizeStatus"]), (False, None))
-        # Three new identities in so short a time are more than tor grants at once, which it says.
+        # Tor does not grant three new identities in such a short time at once, and says so.
         self.assertIn("Rate limiting NEWNYM request", self.lab.host.read("/var/lib/veldmark/run/notices.log"))
         self.assert_restored()
 

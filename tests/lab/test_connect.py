@@ -1,4 +1,4 @@
-"""The main job on real Tor, with the very programs that ship: into both modes and back, and what can go wrong on the way.
+"""The main job on real Tor with the shipped programs: connect in both modes, disconnect, and failures in between.
 
     test_connect.py [--programs FOLDER] [unittest arguments]
 """
@@ -29,14 +29,14 @@ STRICT_DEATH = (
     "Reconnect, or Restore Network to go back online."
 )
 OPEN_DEATH = (
-    "Tor stopped running, and the kill switch is open: another program removed its rules. Traffic may leave this "
+    "Tor stopped running, and the kill switch doesn't block traffic: another program removed its rules. Traffic may leave this "
     "computer directly. Reconnect, or Restore Network."
 )
 REAL_NFT = "/usr/local/sbin/real-nft"
 PROXY_DEATH = "Tor stopped running. Apps using the proxy can't connect until you reconnect or Restore Network."
 
 
-# Takes Tor's place at its control port and prints the first line that it gets, as Tor's account, then as nobody.
+# Listens at Tor's control port and prints the first line that it receives, first as Tor's account, then as nobody.
 LISTENERS = """import os, pwd, signal, socket, subprocess
 tor = pwd.getpwnam("_veldmark").pw_uid
 subprocess.run(["pkill", "-KILL", "-u", str(tor)])
@@ -52,8 +52,8 @@ for uid in tor, 65534:
 
 
 class LabCase(unittest.TestCase):
-    """One lab for all tests of a class; every test begins with default settings and must leave the host as it was. A class that
-    itself leaves its lab as it was may share it: SHARED."""
+    """One lab for all tests of a class. Every test begins with default settings and must leave the host as it was. A class that
+    leaves its lab unchanged may share it: SHARED."""
 
     SHARED = False
     _shared: Lab | None = None  # until the program ends
@@ -84,7 +84,7 @@ class LabCase(unittest.TestCase):
         self.assertEqual(difference(self.before, self.lab.host.snapshot()), "")
 
     def direct(self, *options):
-        """A plain request past every proxy: its answer, or None when it was refused."""
+        """Sends a plain request without any proxy; returns its answer, or None when it was refused."""
         result = self.lab.host.run(["curl", "-sS", "--max-time", "5", "--noproxy", "*", *options, at.CHECK_URL])
         return json.loads(result.stdout) if result.returncode == 0 else None
 
@@ -116,7 +116,7 @@ class LabCase(unittest.TestCase):
                 process.kill()
 
     def circuits_to(self, host, timeout=20):
-        """The circuits that show the host among their sites, once there are any."""
+        """Waits for circuits that have the host among their sites, and returns them."""
         deadline = time.monotonic() + timeout
         while time.monotonic() < deadline:
             circuits = json.loads(self.product.run_verb("circuits", "--json", check=True).stdout)
@@ -130,7 +130,7 @@ class LabCase(unittest.TestCase):
 
     @contextlib.contextmanager
     def broken_nft(self):
-        """nft fails for everybody but who knows REAL_NFT: whatever is removed then, nobody can put back."""
+        """nft fails except under the path REAL_NFT, so no program can put removed rules back."""
         broken = "/usr/local/sbin/broken-nft"
         self.lab.host.run(["cp", "/usr/sbin/nft", REAL_NFT], check=True)
         self.lab.host.write(broken, "#!/bin/sh\nexit 1\n", mode=0o755)
@@ -142,13 +142,13 @@ class LabCase(unittest.TestCase):
             self.lab.host.run(["rm", broken, REAL_NFT], check=True)
 
     def kill_tor(self, number="KILL"):
-        """Signals every process of Tor's account; the host's processes are its own, so nobody else's tor is met."""
+        """Signals every process of Tor's account. The host has its own process namespace, so no other tor is hit."""
         self.lab.host.run(["pkill", f"-{number}", "-u", "_veldmark"], check=True)
 
 
 class BothModes(LabCase):
     def test_strict_mode_goes_out_through_tor_alone(self):
-        self.assertEqual(self.direct("-4")["IP"], at.HOST_ADDRESS)  # the probe does get out when nothing blocks it
+        self.assertEqual(self.direct("-4")["IP"], at.HOST_ADDRESS)  # the probe leaves when nothing blocks it
         self.assertEqual(self.direct("-6")["IP"], at.HOST_ADDRESS6)
         with self.lab.capture() as capture, self.product.session() as session:
             state = session.wait(lambda s: s["phase"] == "connected" and not s["isChecking"] and s["exitIP"])
@@ -214,7 +214,7 @@ class BothModes(LabCase):
             for _ in range(3):
                 self.product.run_verb("new-identity", check=True)
                 self.assertIn(self.through_tor()["IP"], german)
-            with self.download(at.WEB_HOSTS[0]):  # tor tells a connected stream's target by its address
+            with self.download(at.WEB_HOSTS[0]):  # tor names a connected stream's target by its address
                 carrying = self.circuits_to(at.WEB_ADDRESS)
             for circuit in carrying:
                 self.assertEqual(circuit["hops"][-1]["country"], "de")
@@ -285,8 +285,8 @@ class WhenThingsGoWrong(LabCase):
             with self.subTest(delay=delay), self.product.session() as session:
                 session.wait_phase("connected")
                 session.send(signal.SIGINT)
-                time.sleep(delay)  # any moment must do; these are four of them
-                # When all is done it may come so late that the signal itself is what ends the program.
+                time.sleep(delay)  # an interrupt must work at any moment; these are four of them
+                # At the end the signal may come so late that it ends the program by itself.
                 self.assertIn(session.interrupt(), (0, -signal.SIGINT), session.output)
                 self.assertTrue(session.lines[-1].startswith("Not Protected: "), session.output)
                 self.assert_restored()
@@ -307,7 +307,7 @@ class WhenThingsGoWrong(LabCase):
         self.assertEqual((state["phase"], state["activeMode"]), ("stale", "strict"))
         self.assertEqual(state["statusDetail"], "Your network is still set up for Tor from an earlier session")
         self.set("autoConnect", "true")
-        with self.product.session(connect=False) as session:  # nothing connects by itself over what is left
+        with self.product.session(connect=False) as session:  # the program does not connect by itself over a leftover session
             self.assertEqual(session.wait_phase("stale")["activeMode"], "strict")
             self.product.run_verb("restore", check=True)
         self.assert_restored()
@@ -346,7 +346,7 @@ class WhenThingsGoWrong(LabCase):
 
 
 class AnOrdinaryUser(LabCase):
-    """alice, who is no administrator, with the root-owned helper and its sudo rule, and without."""
+    """alice is no administrator. She has the root-owned helper and its sudo rule, or does not."""
 
     @classmethod
     def setUpClass(cls):
@@ -375,8 +375,9 @@ class AnOrdinaryUser(LabCase):
         self.assert_restored()
 
     def test_the_password_is_nobody_elses_to_get(self):
-        """With the kill switch taken away, and somebody else in Tor's place: the first who takes a connection is of Tor's account, and gets
-        it, the second is not. Nor is it to be read from the program."""
+        """The kill switch is removed, and another program listens in Tor's place. The first listener is of Tor's account and gets
+        the password; the second is not and gets nothing. Other programs cannot read the password from the program's memory
+        either."""
         self.as_root.run_helper("install-privileged", "--user", self.lab.host.user, check=True)
         self.addCleanup(self.as_root.run_helper, "uninstall-privileged", check=True)
         self.before = self.lab.host.snapshot()
@@ -397,7 +398,7 @@ class AnOrdinaryUser(LabCase):
 
 
 class UnderTheLeakChecker(LabCase):
-    """The shipped program under LeakSanitizer, ended at several moments: exit status 23 would mean that something is left."""
+    """The shipped program under LeakSanitizer, ended at several moments. Exit status 23 would mean a memory leak."""
 
     LEFT = 23
 
@@ -410,7 +411,7 @@ class UnderTheLeakChecker(LabCase):
             raise unittest.SkipTest("liblsan is not installed")
         env = {
             "LD_PRELOAD": cls.lab.host.preload(checker, forget),
-            # As blanks part the options, the file's path has its quotes.
+            # Blanks separate the options, so the file's path is quoted.
             "LSAN_OPTIONS": f"suppressions='{PROJECT}/tests/lsan.supp':print_suppressions=0",
         }
         cls.product = Product(cls.lab, PROGRAMS, env=env)
@@ -435,7 +436,7 @@ class UnderTheLeakChecker(LabCase):
             with self.subTest(pause), self.product.session() as session:
                 time.sleep(pause)
                 session.send(signal.SIGTERM)
-                # A signal that comes before its handler is an ordinary death.
+                # A signal before the handler's installation simply ends the program.
                 self.assertIn(session.process.wait(90), (0, -signal.SIGTERM), session.output[-6000:])
                 self.assertNotIn("LeakSanitizer", session.output)
         self.assert_restored()

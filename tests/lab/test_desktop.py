@@ -1,4 +1,4 @@
-"""The real desktop application under an X server of its own, by looking and clicking, on the real private Tor network."""
+"""The real desktop application on an X server of its own, on the private Tor network. The test looks and clicks."""
 
 import json
 import os
@@ -39,18 +39,18 @@ class DesktopCase(LabCase):
         self.addCleanup(self.restore)
         self.desktop.forget_notifications()
         self.window = self.start()
-        self.window.wait_for("heading", "Not Protected")  # with which the desktop's own services have started
+        self.window.wait_for("heading", "Not Protected")  # the desktop's own services have started by now
         self.before = self.snapshot()
 
     def restore(self):
-        """For a test that failed half-way."""
+        """Restores the network after a failed test."""
         self.as_root.run_helper("disconnect", check=True)
 
     def start(self, *arguments, env=None):
         return self.enterContext(self.desktop.start(PROGRAMS, *arguments, env=env))
 
     def snapshot(self):
-        """Without the application itself, which some tests end."""
+        """A snapshot without the application itself, which some tests end."""
         state = self.lab.host.snapshot()
         kept = [line for line in state["processes"].splitlines() if not line.endswith("/veldmark")]
         return state | {"processes": "\n".join(kept)}
@@ -87,7 +87,7 @@ class ByClicking(DesktopCase):
         listed = {node["name"] for node in self.window.nodes() if node["role"] == "list item"}
         self.assertTrue(built & listed, (built, listed))
 
-        self.assertEqual(self.desktop.notifications, [])  # nothing of this was anything but routine
+        self.assertEqual(self.desktop.notifications, [])  # all of this was routine
         self.kill_tor()
         told = self.desktop.wait_notification("Tor stopped running")
         self.assertEqual((told["text"], told["urgency"]), (STRICT_DEATH, 2))
@@ -109,7 +109,7 @@ class ByClicking(DesktopCase):
     def test_the_circuits_are_kept_up_to_date_without_being_asked_for(self):
         state = self.connect()
         country = self.lab.tor.exits[state["exitIP"]].upper()
-        # The exit's country is on the panel, though no window shows circuits.
+        # The panel shows the exit's country although no window shows circuits.
         self.window.wait_until(lambda: any(node["name"] == country for node in self.window.nodes()))
         self.window.click("push button", "Circuits")
         self.window.wait_for("frame", "Circuits")
@@ -118,13 +118,13 @@ class ByClicking(DesktopCase):
         self.product.run_verb("new-identity", check=True)
         with self.download(at.WEB_HOSTS[0]):
             self.window.wait_until(lambda: self.circuits_shown() - first)
-            # The window and the command line say the same, though nobody has run "circuits". Not all rows need be in view.
+            # The window and the command line show the same circuits, although "circuits" has not run. Not all rows need be visible.
             self.window.wait_until(
                 lambda: first
                 != self.circuits_shown()
                 <= {f"Circuit {circuit['id']}" for circuit in self.product.status()["circuits"]}
             )
-        # It stays open and shows the next session too.
+        # The window stays open and shows the next session, too.
         self.kill_tor()
         self.window.wait_for("heading", "Needs Attention")
         self.window.wait_until(lambda: not self.circuits_shown())
@@ -150,7 +150,7 @@ class ByClicking(DesktopCase):
         self.wait_state(lambda s: not s["isChecking"])
         with self.broken_nft():
             self.lab.host.run([REAL_NFT, "delete", "table", "inet", "veldmark"], check=True)
-            self.window.wait_for("heading", "Kill Switch Open")
+            self.window.wait_for("heading", "Kill Switch Failed")
             self.desktop.wait_notification("Traffic can leave around Tor")
             time.sleep(8)  # the watcher tries again at least twice
             self.assertEqual(len(self.desktop.notifications), 1)
@@ -158,7 +158,7 @@ class ByClicking(DesktopCase):
             self.assertFalse([name for name in shown if "locked to Tor" in name or name in ("No leaks", "Protected")], shown)
             self.kill_tor()
             self.assertEqual(self.desktop.wait_notification("Tor stopped running")["text"], OPEN_DEATH)
-            self.window.wait_for("heading", "Kill Switch Open")
+            self.window.wait_for("heading", "Kill Switch Failed")
         self.desktop.wait_notification("Firewall rules were removed")
         self.window.wait_for("heading", "Needs Attention")
         self.window.click("push button", "Restore Network")
@@ -168,7 +168,7 @@ class ByClicking(DesktopCase):
     def test_a_leak_that_a_check_finds_is_told(self):
         self.connect()
         self.wait_state(lambda s: not s["isChecking"])
-        self.lab.host.run(["umount", "/etc/resolv.conf"], check=True)  # as a network manager writes the file anew
+        self.lab.host.run(["umount", "/etc/resolv.conf"], check=True)  # a network manager writes the file like this
         self.window.click("push button", "Leak Test")
         self.desktop.wait_notification("Lookups can go around Tor")
         self.window.wait_for("heading", "DNS Leak")
@@ -184,7 +184,8 @@ class BadCircumstances(DesktopCase):
         self.lab.host.run(command, check=True)
 
     def test_nobody_reads_its_memory(self):
-        """Another program of the user's neither looks into it nor attaches to it: the control password is there."""
+        """Another program of the user can neither read the application's memory nor attach to it: the control password is in
+        there."""
         read = 'for pid in $(pgrep -u $(id -u) -x "$0"); do head -c 1 /proc/$pid/environ >/dev/null || exit 1; done'
         for name, status in ("openbox", 0), ("veldmark", 1):
             self.assertEqual(self.lab.host.run(["sh", "-c", read, name], user=self.lab.host.user).returncode, status, name)
@@ -207,7 +208,7 @@ class BadCircumstances(DesktopCase):
         nowhere = {"HOME": "/nowhere", "XDG_RUNTIME_DIR": "/nowhere/run"}
         window = self.start(env=nowhere)
         window.wait_for("push button", "OK")
-        own = [line for line in window.errors.splitlines() if line.startswith("veldmark: ")]  # Qt complains as well
+        own = [line for line in window.errors.splitlines() if line.startswith("veldmark: ")]  # Qt prints a message as well
         self.assertEqual(len(own), 1, window.errors)
         shown = " ".join(node["name"] + node["text"] for node in window.nodes())
         self.assertIn("veldmark-helper.sh disconnect", shown)
@@ -241,7 +242,7 @@ class BadCircumstances(DesktopCase):
 
 
 class AtShutdown(DesktopCase):
-    """With a system bus, on whose word polkit starts as well: a lab of its own."""
+    """A lab of its own, with a system bus that can start polkit."""
 
     def test_a_shutdown_waits_until_the_network_is_restored(self):
         login = self.enterContext(self.desktop.login_manager())
@@ -250,7 +251,7 @@ class AtShutdown(DesktopCase):
         self.window = self.start()
         self.window.wait_for("heading", "Not Protected")
         self.before = self.snapshot()  # with the bus
-        self.assertNotIn("held", login.lines.all)  # nothing is to wait for a program that has nothing to do
+        self.assertNotIn("held", login.lines.all)  # the shutdown must not wait for an idle program
         self.connect()
         login.lines.wait(lambda line: line == "held")
         login.tell("shut down")
@@ -281,7 +282,7 @@ class ToldToEnd(DesktopCase):
         self.window = self.start()
         manager.lines.wait(lambda line: line == "registered")
         self.connect()
-        manager.tell("save")  # of a logout that may still be called off
+        manager.tell("save")  # the first stage of a logout, which may still be cancelled
         manager.lines.wait(lambda line: line == "saved")
         self.assertEqual(self.product.status()["phase"], "connected")
         self.assertIsNone(self.direct("-4"))
@@ -301,7 +302,7 @@ class ToldToEnd(DesktopCase):
 
     def test_the_second_signal_ends_at_once(self):
         self.connect()
-        # Another run of the helper, as it seems to this one: it waits for the lock.
+        # A process holds the lock, so the helper waits as for another run.
         with self.lab.host.popen(
             ["flock", "--no-fork", LOCK, "sh", "-c", "echo held; exec sleep 600"], stdout=-1, text=True
         ) as holder:
@@ -309,12 +310,12 @@ class ToldToEnd(DesktopCase):
                 self.assertEqual(holder.stdout.readline(), "held\n")
                 self.window.signal(signal.SIGTERM)
                 self.wait_state(lambda s: s["phase"] == "disconnecting")
-                self.window.signal(signal.SIGHUP)  # comes with SIGTERM when a session ends
+                self.window.signal(signal.SIGHUP)  # follows SIGTERM when a session ends
                 self.assertEqual(self.product.status()["phase"], "disconnecting")
                 began = time.monotonic()
                 self.window.signal(signal.SIGTERM)
                 self.assertEqual(self.window.wait(), 1)
-                self.assertLess(time.monotonic() - began, 5)  # the lock is waited for 20 s
+                self.assertLess(time.monotonic() - began, 5)  # the helper waits 20 s for the lock
                 self.assertTrue(self.lab.host.path(MARKER).exists())
                 self.assertIn("The network is still set up for Tor. Restore it with: ", self.window.errors)
             finally:
@@ -341,7 +342,7 @@ class ToldToEnd(DesktopCase):
         self.connect()
         self.desktop.kill_display()
         self.assertEqual(self.window.wait(), 1)
-        self.assertIn("veldmark: Ended without its display. Your network is still set up for Tor", self.window.errors)
+        self.assertIn("veldmark: Ended because the display is gone. Your network is still set up for Tor", self.window.errors)
         self.assertIsNone(self.direct("-4"))
         self.desktop.start_display()
         self.window = self.start()

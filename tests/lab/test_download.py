@@ -1,7 +1,7 @@
-"""The bundle of transport programs: downloaded, checked and installed, from servers under the real names.
+"""Downloading, checking and installing the bundle of transport programs, from servers under the real names.
 
-Index, distribution and key server are the lab's; the archives hold Debian's obfs4proxy and are signed by a key that real GnuPG
-made for the test.
+Index, distribution and key server are the lab's. The archives contain Debian's obfs4proxy. A key that GnuPG makes for the test
+signs them.
 """
 
 import io
@@ -38,7 +38,7 @@ BAD_SIGNATURE = "The download's signature didn't verify, so it was discarded. "
 
 
 class SigningKey:
-    """A key pair of real GnuPG's in a folder of its own."""
+    """A GnuPG key pair in a folder of its own."""
 
     def __init__(self, name):
         self.home = tempfile.mkdtemp(prefix="key-")
@@ -60,7 +60,7 @@ class SigningKey:
 
     def close(self):
         subprocess.run(["gpgconf", "--homedir", self.home, "--kill", "all"], check=True)
-        subprocess.run(["rm", "-rf", "--", self.home], check=True)  # while the agent takes its own sockets away
+        subprocess.run(["rm", "-rf", "--", self.home], check=True)  # the agent removes its own sockets meanwhile
 
 
 def archive(members, padding=0):
@@ -107,7 +107,7 @@ class Download(LabCase):
         super().setUp()
 
     def tearDown(self):
-        # GnuPG's agent has been told to end; it may still be about to.
+        # GnuPG's agent has been told to end and may not have ended yet.
         left = self.lab.host.run(
             [
                 "sh",
@@ -127,7 +127,7 @@ class Download(LabCase):
         return f"torbrowser/{version}/tor-expert-bundle-linux-{self.machine}-{version}.tar.gz"
 
     def offer(self, version, content, key=None, signature=None):
-        """The three servers have this version from now on, signed by `key`."""
+        """Makes the three servers offer this version, signed by `key`."""
         key = key or self.key
         self.publish(INDEX_HOST, INDEX, json.dumps({"version": version, "downloads": {}}).encode())
         self.publish(ARCHIVE_HOST, self.path(version), content)
@@ -142,14 +142,14 @@ class Download(LabCase):
         return [INSTALL, self.key.fingerprint, way, *more]
 
     def install(self, way="direct", *more):
-        """The last line that the downloader printed, and all of them."""
+        """Downloads; returns the last line that was printed, and all lines."""
         result = self.lab.host.run(self.command(way, *more))
         lines = result.stdout.splitlines()
         self.assertTrue(lines, result.stderr)
         return lines[-1], lines
 
     def installed(self):
-        """The mark of the bundle that is installed; asserts that it is whole."""
+        """The mark of the installed bundle; asserts that the bundle is complete."""
         if not self.lab.host.path(BUNDLE).exists():
             return ""
         mark = self.lab.host.run([LYREBIRD], check=True).stdout.strip()
@@ -224,7 +224,7 @@ class Download(LabCase):
         self.assert_fails(BAD_SIGNATURE)
         self.publish(KEY_HOST, f"vks/v1/by-fingerprint/{self.key.fingerprint}", b"no key\n")
         self.assert_fails(BAD_SIGNATURE + "Couldn't load the Tor Browser signing key. ")
-        self.offer("14.0", content)  # and the right one does
+        self.offer("14.0", content)  # and the right key works
         self.assertEqual(self.install()[0], "installed 14.0 signature")
         self.assertEqual(self.installed(), "14")
 
@@ -273,11 +273,11 @@ class Download(LabCase):
         for name, members in hostile.items():
             with self.subTest(name):
                 self.offer("14.0", archive(good | members))
-                self.assert_fails("Couldn't unpack the download. The archive holds ")
+                self.assert_fails("Couldn't unpack the download. The archive contains ")
                 self.assertFalse(self.lab.host.path("/root/escaped").exists())
         self.assertEqual(self.lab.host.snapshot()["files"], outside)
         self.offer("14.0", archive(good | {"tor/next": member("tor/next", tarfile.SYMTYPE, "lyrebird")}))
-        self.assertEqual(self.install()[0], "installed 14.0 signature")  # a link to a neighbour is no harm
+        self.assertEqual(self.install()[0], "installed 14.0 signature")  # a link to a file in the same folder is allowed
 
     def test_a_full_disk_costs_nothing_but_the_update(self):
         host = self.lab.host
@@ -304,7 +304,8 @@ class Download(LabCase):
         self.assertEqual(self.installed(), "999")
 
     def offer_newer(self):
-        """A bundle newer than the installed one, which is the only kind that is taken. Returns the installed one's mark and its own."""
+        """Offers a bundle that is newer than the installed one; an older one is refused. Returns the installed bundle's mark and
+        its own."""
         former = self.installed()
         new = str(int(former) + 1)
         self.offer(f"{new}.0", bundle(new))
@@ -337,7 +338,7 @@ class Download(LabCase):
         killed = 0
         for attempt in range(16):
             former, new = self.offer_newer()
-            # Its number in the host's own process table comes first; then it becomes the downloader.
+            # The shell prints its process id on the host and then becomes the downloader.
             process = self.lab.host.popen(
                 ["sh", "-c", 'echo $$; exec "$@"', "sh", *self.command()],
                 stdout=subprocess.PIPE,
@@ -351,7 +352,7 @@ class Download(LabCase):
                 except subprocess.TimeoutExpired:
                     killed += self.lab.host.run(["kill", "-KILL", number]).returncode == 0
             self.assertIn(self.installed(), (former, new), f"attempt {attempt}")
-        self.assertGreater(killed, 0)  # how many of the later ones come too late is the machine's affair
+        self.assertGreater(killed, 0)  # the machine's speed decides how many of the later ones come too late
         self.assert_installs_on()
 
     def test_the_shipped_program_takes_no_other_key_than_the_tor_projects(self):

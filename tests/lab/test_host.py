@@ -154,7 +154,7 @@ class HostTest(unittest.TestCase):
         self.wait_until_gone("sleep 601")
 
     def wait_until_gone(self, command: str) -> None:
-        """The killed process itself may outlive its parent by a moment: waits for its end, bounded."""
+        """Waits, with a limit, for the killed process's end: it may outlive its parent by a moment."""
         script = (
             "import os, select, subprocess, sys\n"
             "found = subprocess.run(['pgrep', '-fx', sys.argv[1]], capture_output=True, text=True)\n"
@@ -172,15 +172,15 @@ class HostTest(unittest.TestCase):
 
     def test_control_groups_are_its_own_and_nft_matches_them(self):
         self.assertEqual(self.sh("grep ^0: /proc/self/cgroup").stdout, "0::/\n")
-        self.addCleanup(self.sh, "nft delete table inet labtest; rmdir /sys/fs/cgroup/exempt")
+        self.addCleanup(self.sh, "nft delete table inet labtest; rmdir /sys/fs/cgroup/bypass")
         rules = (
             "table inet labtest {\nchain o {\ntype filter hook output priority 0\n"
-            'ip daddr 203.0.113.37 socket cgroupv2 level 1 "exempt" counter accept\n'
+            'ip daddr 203.0.113.37 socket cgroupv2 level 1 "bypass" counter accept\n'
             "ip daddr 203.0.113.37 reject\n}\n}\n"
         )
-        self.sh("mkdir /sys/fs/cgroup/exempt; nft -f -", input=rules, check=True)
+        self.sh("mkdir /sys/fs/cgroup/bypass; nft -f -", input=rules, check=True)
         curl = "curl -s4 --max-time 10 http://www.example.test/"
-        self.assertEqual(self.sh(f"echo $$ > /sys/fs/cgroup/exempt/cgroup.procs; exec {curl}").returncode, 0)
+        self.assertEqual(self.sh(f"echo $$ > /sys/fs/cgroup/bypass/cgroup.procs; exec {curl}").returncode, 0)
         self.assertEqual(self.sh(curl).returncode, 7)
 
     def test_another_lab_beside_it_has_its_own_groups(self):
@@ -264,7 +264,7 @@ class HostTest(unittest.TestCase):
         )
 
     def test_a_busy_capture_loses_nothing(self):
-        """Counted against the router's own counter behind the forwarding, where nothing can be dropped any more."""
+        """The test compares with the router's own counter after the forwarding, where no packet can be dropped any more."""
         rules = "table inet labcount {\nchain p {\ntype filter hook postrouting priority 300\n" "udp dport 4446 counter\n}\n}\n"
         self.lab.router.run(["nft", "-f", "-"], input=rules, check=True)
         self.addCleanup(self.lab.router.run, ["nft", "delete", "table", "inet", "labcount"])

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""The keys that labs hand on: whole or not at all, for a week, and for nobody else."""
+"""The keys that labs share are complete or absent, last a week, and are readable by root only."""
 
 import itertools
 import os

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Self test of the lab: real tor, real packets. Run by `lab.py selftest`, or directly; takes root.
 
-This file holds what concerns the network; the other test files here hold the rest and run along.
+This file tests the network. The other self tests in this folder run as well.
 """
 
 import json
@@ -88,7 +88,7 @@ class NetworkTest(unittest.TestCase):
 
     @staticmethod
     def isolated(client, number: int) -> str:
-        """The exit's address of a stream that shares no circuit with those of other numbers."""
+        """The exit's address for a stream that shares no circuit with streams of other numbers."""
         done = client.curl(at.CHECK_URL, "--proxy-user", f"user{number}:x")
         return json.loads(done.stdout)["IP"]
 
@@ -151,7 +151,7 @@ class NetworkTest(unittest.TestCase):
 
     def test_exit_check_misbehaves_on_request(self):
         self.addCleanup(self.lab.world.behave, "check", "ok")
-        cases = {  # curl's exit status and, where it matters, part of what it says
+        cases = {  # curl's exit status and, where it matters, part of its message
             "status-503": (22, "503"),
             "garbage": (0, ""),
             "half-body": (18, ""),

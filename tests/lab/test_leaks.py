@@ -1,7 +1,8 @@
-"""The leak matrix: what leaves the user's machine in strict mode, at every moment and by every way that came to mind.
+"""The leak matrix: the packets that leave the user's machine in strict mode, at every moment and by every known way.
 
 Every scenario runs as four identities (nobody, root, Tor's account, an application without Tor), with all of the router's packets
-captured and no filter but matrix.is_allowed. It runs first while nothing blocks it, and must then be seen. Prints the table.
+captured; matrix.is_allowed is the only filter. A control run first shows that the probes arrive when nothing blocks them. Prints
+the table.
 """
 
 import contextlib
@@ -21,7 +22,7 @@ from leaks.swapped import SwappedRow  # noqa: E402
 from veldlab import topology as at  # noqa: E402
 from veldlab.lab import PROJECT  # noqa: E402
 
-CONTAINER, FORWARDER = 4, 5  # indices of senders that are no identity of their own
+CONTAINER, FORWARDER = 4, 5  # the indices of senders that are no identities
 LAN_NAMES = ("a neighbour, TCP", "a neighbour, TCP, IPv6", "a neighbour, UDP", "the gateway, TCP")
 NEVER_LAN = (
     "DNS to the gateway",
@@ -90,9 +91,9 @@ class Leaks(HostileRows, SwappedRow, LeakCase):
         self.assert_kept()
 
     def test_2_a_hostile_dhcp_server(self):
-        """What its lease would have a client do: a neighbour as the gateway and as the way to half of the world each, public
-        addresses as on the link, another address, packet size and name server. The file of name servers is written in place,
-        as clients do where it cannot be replaced."""
+        """The lease makes a neighbour the gateway and the route to each half of the addresses, puts public addresses on the link,
+        and changes address, packet size and name server. The resolver file is written in place, as clients do where they cannot
+        replace it."""
         neighbour, neighbour6 = at.LAN_ADDRESS, at.LAN_ADDRESS6
         lease = (
             f"cp /etc/resolv.conf /run/resolv.before; echo 'nameserver {neighbour}' >/etc/resolv.conf; ip link set eth0 mtu 1400;"
@@ -111,7 +112,7 @@ class Leaks(HostileRows, SwappedRow, LeakCase):
         self.assert_kept()
 
     def test_3_a_second_way_out(self):
-        """A device that is plugged in later, with a way to the world of its own."""
+        """A network device that is plugged in later has its own route to the world."""
         four = [n for n in probes.CORE if "IPv6" not in n]
         for phase in ("control", "session"):
             with self.session() if phase == "session" else contextlib.nullcontext():
@@ -160,7 +161,7 @@ class Leaks(HostileRows, SwappedRow, LeakCase):
             self.core("Tor has not bootstrapped yet")
             self.sh("until grep -q 'Bootstrapped 100%' /var/lib/veldmark/run/notices.log; do sleep 0.05; done", timeout=60)
             self.core("connected")
-            self.sh("pgrep -u _veldmark -x tor")  # our look-ups are no look-ups at all, and short: Tor must not have died of them
+            self.sh("pgrep -u _veldmark -x tor")  # the probes' lookups are short and invalid: they must not have ended Tor
             self.sh("pkill -STOP -u _veldmark")
             self.core("Tor hangs")
             self.sh("pkill -KILL -u _veldmark; while pgrep -u _veldmark; do sleep 0.01; done")
@@ -209,21 +210,22 @@ class Leaks(HostileRows, SwappedRow, LeakCase):
                         *words,
                     ],
                     timeout=300,
-                )  # beside four senders without a pause
+                )  # besides four senders without a pause
                 self.sh("flock /run/veldmark.lock true")
                 return self.sh("cat /run/changes").splitlines()
 
-            # One flood for each kill: what is recorded of a longer one would be more than the recorder can keep up with.
+            # One flood for each kill: the recorder cannot keep up with a longer flood.
             scenario, points = "the helper was killed while it connected again", []
             self.under_flood(scenario, lambda: points.extend(stepped_to("")))
             self.assertGreater(len(points), 20)
-            # How many children a process has differs from run to run.
+            # The number of a process's children differs from run to run.
             for point in [point for point in points if '"$child" #' not in point][::5]:
                 self.under_flood(scenario, lambda p=point: self.assertEqual(stepped_to(p)[-1], p))
         self.assert_kept()
 
     def test_5_from_the_first_moment_to_the_last(self):
-        """Probes without pause over a whole connect and disconnect: none between the rules' standing and the disconnect."""
+        """Probes are sent without pause over a whole connect and disconnect. None arrives between the loading of the rules and the
+        disconnect."""
         cells = self.matrix.row("from the first rule to the disconnect", [CLOSED] * 3 + [ABSENT])
         with self.lab.capture("host") as capture:
             floods = [self.start(i, "flood", i, *probes.CORE, stdin=subprocess.PIPE) for i in range(3)]
@@ -269,7 +271,7 @@ class Leaks(HostileRows, SwappedRow, LeakCase):
         rows = {
             name: self.matrix.row(name, promises)
             for name, promises in {
-                # Tor's account too: what it holds is from outside Tor's control group.
+                # Tor's account as well: its sockets are from outside Tor's control group.
                 "a TCP connection from before": [CLOSED] * 4,
                 "a UDP flow from before": [CLOSED] * 4,
                 "a DNS flow from before": [CLOSED] * 4,
@@ -289,7 +291,7 @@ class Leaks(HostileRows, SwappedRow, LeakCase):
             for name, cells in rows.items():
                 for identity, cell in enumerate(cells):
                     port = bases[name] + identity
-                    # What is no more than the end of a connection tells nobody anything new; data would.
+                    # The mere end of a connection reveals nothing new; data would.
                     found = [p for p in seen.packets[0] if p.sport == port]
                     setattr(cell, phase, len(found))
 
@@ -304,7 +306,7 @@ class Leaks(HostileRows, SwappedRow, LeakCase):
         cells = self.matrix.row("forwarded for a container", [ABSENT, CLOSED, ABSENT, ABSENT])
         holder = self.host.popen(["unshare", "--net", "sh", "-c", "echo $$; exec sleep 1000"], stdout=subprocess.PIPE, text=True)
         pid = holder.stdout.readline().strip()
-        # The number is the host's own, since the shell prints it there.
+        # The shell prints the process id on the host, so it is the host's.
         self.sh(
             f"ip link add c0 type veth peer name c1; ip link set c1 netns {pid}; ip link set c0 up; ip addr add 10.88.0.1/24 dev c0;"
             "ip addr add fd88::1/64 dev c0 nodad; echo 1 >/proc/sys/net/ipv4/ip_forward; echo 1 >/proc/sys/net/ipv6/conf/all/forwarding;"
@@ -349,7 +351,7 @@ class Leaks(HostileRows, SwappedRow, LeakCase):
         self.assert_kept()
 
     def test_9_probes_from_outside(self):
-        """Nothing that comes uninvited is answered, neither from the neighbour nor from the world."""
+        """The host answers no unsolicited packet, neither from the neighbour nor from the world."""
         cells = self.matrix.row("answers to probes from outside", [ABSENT, CLOSED, ABSENT, ABSENT])
         server = self.host.popen(
             [
@@ -420,7 +422,7 @@ class Leaks(HostileRows, SwappedRow, LeakCase):
         self.assert_kept()
 
     def test_c_an_application_that_was_opened_without_tor(self):
-        """By the helper's own verb: it reaches the world directly, and names by the resolver as it was."""
+        """The helper's launch starts it. It reaches the world directly, and looks up names at the former resolver."""
         script = "/usr/local/bin/opened"
         self.host.write(
             script,
@@ -438,7 +440,7 @@ class Leaks(HostileRows, SwappedRow, LeakCase):
         self.sh(f"rm {script} /home/alice/ip")
 
     def test_d_tors_account_outside_its_control_group(self):
-        """What a setuid file of Tor's account, left by an earlier session, would send."""
+        """The packets of a setuid file of Tor's account that an earlier session has left."""
         cells = self.matrix.row("Tor's account outside Tor's control group", [ABSENT, ABSENT, CLOSED, ABSENT])
         cells[2].control = sum(self.run_probes(probes.CORE, [2]).counts().values())
         with self.session():
@@ -447,11 +449,11 @@ class Leaks(HostileRows, SwappedRow, LeakCase):
         self.assert_kept()
 
     def test_e_programs_without_roots_rights(self):
-        """Of the session's user and of another account: what they try against the session itself."""
+        """Attacks on the session by programs of the session's user and of another account."""
         self.hostile_rows()
 
     def test_f_a_bridge_program_that_is_swapped_after_it_was_verified(self):
-        """By a program of the session's user, which nobody has to be asked for."""
+        """A program of the session's user swaps it; no approval is needed for that program."""
         self.swapped_row()
 
 

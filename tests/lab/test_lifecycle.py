@@ -1,9 +1,9 @@
-"""Self test of a lab's beginning and end: nothing is left, however it ends.
+"""Self test of a lab's start and end: nothing is left, also after a kill.
 
 Other labs and programs run on the machine at the same time, so "nothing" means: no process whose control group or
 command line names this lab, no process in any of its namespaces, no mount, no control group, no record, no named
-network namespace, no file. Mounts, links and named namespaces are compared in namespaces of this test's own, in which nothing
-else on the machine shows: a medium that somebody plugs in is no trace of a lab.
+network namespace, no file. Mounts, links and named namespaces are compared in this test's own namespaces, which show nothing else
+of the machine: a medium that a user plugs in is no trace of a lab.
 """
 
 import ctypes
@@ -21,7 +21,7 @@ from veldlab import topology as at
 from veldlab.lab import Lab
 
 HERE = Path(__file__).resolve().parent
-# An owner of a lab, as a process of its own: says the lab's id, then does what its argument says.
+# A process that owns a lab: prints the lab's id, then does what its argument says.
 OWNER = f"""
 import os, sys
 sys.dont_write_bytecode = True
@@ -53,11 +53,11 @@ def cgroup_folder() -> str:
         before, _, after = line.partition(" - ")
         if after.startswith("cgroup2 "):
             return before.split()[4]
-    raise unittest.SkipTest("cgroup v2 is not mounted on the machine, so its groups cannot be looked at from here")
+    raise unittest.SkipTest("cgroup v2 is not mounted on the machine, so its groups are not visible here")
 
 
 def live_pids() -> list[int]:
-    """Without dead processes that the machine's first process adopted: it clears them away in its own time."""
+    """The live processes, without zombies that the machine's first process has adopted and reaps later."""
     found = []
     for name in filter(str.isdigit, os.listdir("/proc")):
         try:
@@ -93,7 +93,7 @@ def namespaces_of(pids) -> set[str]:
 
 
 def machine_state() -> dict[str, object]:
-    """What a lab must not change, leaving out what other programs change all the time."""
+    """The state that a lab must not change, without what other programs change all the time."""
     return {
         "netns": subprocess.run(["ip", "netns"], capture_output=True, text=True).stdout,
         "mounts": [line.split(maxsplit=4)[4] for line in Path("/proc/self/mountinfo").read_text().splitlines()],
@@ -109,9 +109,9 @@ def machine_state() -> dict[str, object]:
 
 
 class Traces:
-    """Everything by which a running lab could be recognised afterwards.
+    """Everything that would show a running lab afterwards.
 
-    Its namespaces are held open meanwhile: the kernel gives the number of one that ended to the next one made.
+    It holds the lab's namespaces open meanwhile, since the kernel gives the number of an ended namespace to the next one.
     """
 
     def __init__(self, test: unittest.TestCase, lab_id: str):
@@ -165,7 +165,7 @@ class LifecycleTest(unittest.TestCase):
         self.assertNotEqual(os.stat("/proc/self/ns/mnt").st_ino, os.stat(f"/proc/{os.getppid()}/ns/mnt").st_ino)
         self.assertNotEqual(os.stat("/proc/self/ns/net").st_ino, os.stat(f"/proc/{os.getppid()}/ns/net").st_ino)
         with tempfile.TemporaryDirectory(prefix="veldmark-medium-") as place:
-            # As by the machine's first process: where this test came from.
+            # Mounts in the parent's namespace, like the machine's first process.
             elsewhere = subprocess.run(
                 ["nsenter", "--target", str(os.getppid()), "--mount", "mount", "-t", "tmpfs", "medium", place], check=False
             )

@@ -1,4 +1,4 @@
-"""The counters and Tor's log while a session runs, as the shipped program tells them."""
+"""The shipped program shows the counters and Tor's log while a session runs."""
 
 import re
 import subprocess
@@ -52,14 +52,14 @@ class Counters(LabCase):
         session = self.connected()
         self.kill_tor("STOP")
         self.addCleanup(self.lab.host.run, ["pkill", "-CONT", "-u", "_veldmark"])
-        asked = self.product.run_verb("circuits", timeout=60)  # under way while the monitor gives tor up
+        asked = self.product.run_verb("circuits", timeout=60)  # it runs while the monitor gives tor up
         self.assertEqual((asked.returncode, asked.stdout), (1, ""))
         self.assertEqual(len(asked.stderr.splitlines()), 1, asked.stderr)
         session.wait_phase("stale")
 
 
 class KillSwitch(LabCase):
-    """Rules that another program removes: what is said of them is what the kernel holds."""
+    """Another program removes rules. The messages must agree with the kernel's rules."""
 
     SHARED = True
 
@@ -75,10 +75,10 @@ class KillSwitch(LabCase):
             self.assertEqual(self.product.run_verb("get", name, check=True).stdout, value + "\n")
         report = self.product.run_verb("status", check=True).stdout
         self.assertEqual([line.strip() for line in report.splitlines()[:2]], [title, detail])
-        self.assertRegex(report, r"\n  Kill switch +OPEN since ")
+        self.assertRegex(report, r"\n  Kill switch +NOT BLOCKING since ")
         for claim in "locked to Tor", "only Tor's traffic", "blocked", "nothing leaked", "blocking traffic":
             self.assertNotIn(claim, report)
-        self.assertIn(title, session.output)  # the running program has said it by itself
+        self.assertIn(title, session.output)  # the running program has printed it by itself
 
     def test_an_open_one_is_never_called_closed(self):
         session = self.enterContext(self.product.session())
@@ -86,7 +86,7 @@ class KillSwitch(LabCase):
         self.assertEqual((state["title"], state["level"], state["killSwitch"]), ("Protected", "good", "standing"))
         self.assertEqual(state["leakStatus"], "blocked")
         self.assertIsNone(self.address_seen_directly())
-        opened = ("Kill Switch Open", "Traffic may leave this computer directly")
+        opened = ("Kill Switch Failed", "Traffic may leave this computer directly")
         with self.broken_nft():
             self.lab.host.run([REAL_NFT, "delete", "table", "inet", "veldmark"], check=True)
             self.assertEqual(self.address_seen_directly(), at.HOST_ADDRESS)
@@ -101,7 +101,7 @@ class KillSwitch(LabCase):
             self.assert_said_everywhere(session, *opened)
             note = self.lab.host.path("/run/veldmark.watch")
             tried = note.stat().st_mtime_ns
-            while note.stat().st_mtime_ns == tried:  # the watcher tries again, and so do we
+            while note.stat().st_mtime_ns == tried:  # the watcher tries again, and so does the test
                 time.sleep(0.1)
             time.sleep(3)
             state = self.product.status()
@@ -123,7 +123,7 @@ class KillSwitch(LabCase):
         state = session.wait(lambda s: s["killSwitch"] == "unknown", 60)
         self.assertEqual((state["title"], state["level"]), ("Needs Attention", "warning"))
         self.assertNotIn("locked to Tor", state["statusDetail"])
-        self.product.run_verb("fix-dns", check=True)  # which starts another
+        self.product.run_verb("fix-dns", check=True)  # fix-dns starts another watcher
         self.assertEqual(session.wait(lambda s: s["killSwitch"] == "standing" and not s["isChecking"], 30)["title"], "Protected")
 
     def test_proxy_mode_shows_nothing_of_a_strict_session_before_it(self):
@@ -153,7 +153,7 @@ class Log(LabCase):
         lines = shown.stdout.splitlines()
         steps = [line for line in self.lab.host.read(NOTICES).splitlines() if "Bootstrapped" in line]
         self.assertTrue(steps)
-        for line in steps:  # also where it stands in both files
+        for line in steps:  # also when both files contain it
             self.assertEqual(lines.count(line.strip()), 1, line)
         for line in self.lab.host.read(STARTUP).splitlines():
             if line.strip():
@@ -209,7 +209,7 @@ class Log(LabCase):
                 self.lab.host.run(["bash", "-c", f"echo 'Nov 16 00:41:07.123 [warn] Guard is down' >>{NOTICES}"], check=True)
                 rest = next(line for line in follow.stdout if "Guard" in line)
                 self.assertEqual(rest, "Nov 16 00:41:07.123 [warn] Guard is down\n")
-                # Rotated: what is new in the new file is shown.
+                # After a rotation the new lines of the new file are shown.
                 rotate = f"mv {NOTICES} {NOTICES}.1; echo 'Nov 16 00:41:08.000 [notice] Again' >{NOTICES}"
                 self.lab.host.run(["bash", "-c", rotate], check=True)
                 self.assertTrue(any("Again" in line for line in follow.stdout))

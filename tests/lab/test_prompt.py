@@ -1,8 +1,8 @@
-"""The administrator prompt: the real polkit with the policy that ships, asked by the real program as an ordinary user.
+"""The administrator prompt: the real program asks the real polkit with the shipped policy, as an ordinary user.
 
     test_prompt.py [unittest arguments]
 
-The programs, the helper and the policy lie where the package puts them. A small agent stands for the desktop's dialog.
+The programs, the helper and the policy are in the package's places. A small agent replaces the desktop's dialog.
 """
 
 import contextlib
@@ -32,7 +32,7 @@ NO_AGENT = (
     "veldmarkctl: Administrator access can't be asked for: no PolicyKit authentication agent is running in this " "session.\n"
 )
 SKIPPED = 77
-# The administrator is alice, who gives her own password, as the first user of a desktop does.
+# alice is the administrator and enters her own password, like the first user of a desktop.
 RULES = 'polkit.addAdminRule(function(action, subject) { return ["unix-user:alice"]; });\n'
 
 
@@ -60,7 +60,7 @@ class Prompt(unittest.TestCase):
 
     @contextlib.contextmanager
     def agent(self, process: int, answer: str):
-        """Yields the list of what was asked, filled when the agent has ended."""
+        """Yields the list of requests, which is filled when the agent has ended."""
         asked: list[dict] = []
         agent = self.lab.host.popen(
             [at.PYTHON, AGENT, process, answer, self.lab.host.user], user=self.lab.host.user, stdout=subprocess.PIPE, text=True
@@ -96,7 +96,7 @@ class Prompt(unittest.TestCase):
                 [request["message"] for request in asked],
                 [
                     "Veldmark needs administrator access to manage Tor routing on this computer. "
-                    "The system's own Tor service, where it runs, is stopped meanwhile.",
+                    "While connected, Veldmark stops the system's own Tor service.",
                     "Veldmark needs administrator access to stop Tor and restore this computer's network.",
                 ],
             )
@@ -137,7 +137,7 @@ class Prompt(unittest.TestCase):
 
     def test_polkits_own_agent_on_a_terminal_asks_there(self):
         with self.session() as session:
-            registered = "/home/alice/registered"  # pkttyagent closes it once polkit knows it
+            registered = "/home/alice/registered"  # pkttyagent closes it once it is registered with polkit
             self.lab.host.run(["mkfifo", registered], user=self.lab.host.user, check=True)
             command = f"exec pkttyagent --notify-fd 9 --process {self.pid('veldmarkctl')} 9>{registered}"
             terminal, inner = pty.openpty()
@@ -162,7 +162,7 @@ class Prompt(unittest.TestCase):
                 while b"Password: " not in shown:
                     shown += os.read(terminal, 4096)  # fails when the agent has ended
                 self.assertIn(b"Veldmark needs administrator access to manage Tor routing on this computer.", shown)
-                # It drops what was typed before it has switched the echo off.
+                # pkttyagent drops the keys that were typed before it switched the echo off.
                 while termios.tcgetattr(terminal)[3] & termios.ECHO:
                     time.sleep(0.01)
                 os.write(terminal, self.lab.host.user.encode() + b"\n")
@@ -196,14 +196,15 @@ class Prompt(unittest.TestCase):
             while termios.tcgetattr(terminal)[3] & termios.ECHO:
                 time.sleep(0.01)
             os.write(terminal, self.lab.host.user.encode() + b"\n")
-            with contextlib.suppress(OSError):  # how Linux tells that nobody has the other end open
+            with contextlib.suppress(OSError):  # Linux reports this way that the other end is closed
                 while some := os.read(terminal, 4096):
                     shown += some
             self.assertEqual(run.wait(30), 1)
         finally:
             os.close(terminal)
         self.assertIn(
-            "veldmarkctl: The password could not be checked: polkit takes none from this terminal. Run it " "with sudo.\r\n",
+            "veldmarkctl: The password could not be checked: polkit accepts no password from this terminal. "
+            "Run the command with sudo.\r\n",
             shown.decode(),
         )
         self.assert_untouched()
@@ -221,7 +222,7 @@ class Prompt(unittest.TestCase):
         self.assert_untouched()
 
     def ask(self, *words: str) -> tuple[list[dict], int]:
-        """What the agent is asked when alice runs these words through pkexec, and pkexec's status."""
+        """The agent's requests when alice runs these words through pkexec, and pkexec's exit status."""
         shell = self.lab.host.popen(
             ["/bin/sh", "-c", 'echo $$; read line; pkexec "$@"; exit $?', "sh", *words],
             user=self.lab.host.user,

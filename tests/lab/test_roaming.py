@@ -14,7 +14,7 @@ from veldlab.lab import LabUnavailable  # noqa: E402
 from veldlab.product import is_probed  # noqa: E402
 
 OTHER_ADDRESS = "192.168.77.23"
-# Tor's connections over IPv4 are from the address that goes.
+# Tor's IPv4 connections come from the address that is removed.
 MOVE = f"""
 set -e
 ip addr flush dev eth0 scope global

@@ -1,4 +1,4 @@
-"""Separate applications: what the check service sees of them, and that the kill switch holds whatever group a program is in."""
+"""Separate applications: the exits that the check service sees, and the kill switch for programs in any control group."""
 
 import json
 import subprocess
@@ -22,11 +22,12 @@ class Separate(LabCase):
     def setUpClass(cls):
         super().setUpClass()
         host = cls.lab.host
+        cls.product.install_identifier()
         cls.slice = f"{GROUPS}/user.slice/user-{host.uid}.slice"
         cls.apps = f"{cls.slice}/user@{host.uid}.service/app.slice"
-        # A pair of circuits that is linked later takes an application over from the circuit that it has.
+        # An application would move from its circuit to a pair of circuits that is linked later.
         host.write("/etc/tor/torrc-defaults", host.read("/etc/tor/torrc-defaults") + "ConfluxEnabled 0\n", mode=0o644)
-        # As systemd lays them out: what is below the user's manager is the user's.
+        # systemd's layout: the groups below the user's manager belong to the user.
         host.run(
             [
                 "/bin/sh",
@@ -37,7 +38,7 @@ class Separate(LabCase):
         )
 
     def groups(self, *names):
-        """Makes the groups of applications, as alice; they go at the end."""
+        """Makes the applications' groups as alice; they are removed at the end."""
         self.addCleanup(self.remove_groups)
         self.lab.host.run(["/bin/sh", "-c", 'cd "$0" && mkdir -- "$@"', self.apps, *names], user="alice", check=True)
 
@@ -60,13 +61,13 @@ class Separate(LabCase):
         )
 
     def exits(self, name, times=3):
-        """The exits that the check service sees, one request after the other, once Tor has found a circuit to stay with."""
+        """The exits that the check service sees for one request after the other, once Tor keeps to one circuit."""
         script = f"for i in 1 2 3 4; do curl -sS --max-time 30 --proxy socks5h://127.0.0.1:9050 {at.CHECK_URL} >/dev/null || exit 1; done; for i in $(seq {times}); do curl -sS --max-time 30 --proxy socks5h://127.0.0.1:9050 {at.CHECK_URL} || exit 1; echo; done"
         answers = self.inside(f"{self.apps}/{name}", "/bin/sh", "-c", script, check=True).stdout.splitlines()
         return {json.loads(answer)["IP"] for answer in answers if answer}
 
     def known(self, count):
-        """Waits until so many identities of alice's are told."""
+        """Waits until this many identities of alice's are listed."""
         script = (
             f'until [ "$(grep -c "^{self.lab.host.uid} " {STATE})" = {count} ] && grep -qx standing {STATE}; do sleep 0.05; done'
         )
@@ -74,7 +75,8 @@ class Separate(LabCase):
         return self.lab.host.read(STATE)
 
     def test_each_application_has_its_own_exit(self):
-        """Two windows of a program share one over 50 requests, eight programs have several; without the setting all share one."""
+        """Two windows of a program share an exit over 50 requests; eight programs have several exits. Without the setting all share
+        one."""
         names = [f"app-gnome-org.example.Program{n}-1.scope" for n in range(8)]
         for separate in "false", "true":
             self.set("separateApps", separate)
@@ -94,11 +96,11 @@ class Separate(LabCase):
             self.assert_restored()
 
     def test_the_kill_switch_holds_whatever_the_group(self):
-        """Also while a process moves between groups, with a socket that it has made in another."""
+        """It also blocks a process that moves between groups, with a socket that it has made in another group."""
         self.groups("app-one-1.scope", "app-two-1.scope")
         first, second = f"{self.apps}/app-one-1.scope", f"{self.apps}/app-two-1.scope"
         direct = ["curl", "-sS4", "--max-time", "5", "--noproxy", "*", at.CHECK_URL]
-        self.assertIn("IP", json.loads(self.inside(first, *direct, check=True).stdout))  # it gets out when nothing blocks it
+        self.assertIn("IP", json.loads(self.inside(first, *direct, check=True).stdout))  # the packet leaves when nothing blocks it
         move = (
             "import os, socket, sys, time\n"
             "places = sys.argv[1:]; sockets = []\n"
@@ -121,7 +123,7 @@ class Separate(LabCase):
             with self.lab.capture() as capture:
                 for group in first, second, f"{self.slice}/session-2.scope":
                     self.assertNotEqual(self.inside(group, *direct).returncode, 0)
-                # Root moves where a user may not.
+                # Root may move a process where a user may not.
                 self.lab.host.run(["python3", "-c", move, first, second, f"{self.slice}/session-2.scope", GROUPS], check=True)
             sent = [
                 p

@@ -1,4 +1,4 @@
-"""One session for the computer: what other instances, of the same user and of another, see of it and may do to it.
+"""The computer has one session. Other instances, of the same user and of another one, see it and may end it within limits.
 
     test_sessions.py [unittest arguments]
 """
@@ -25,7 +25,7 @@ class Sessions(LabCase):
         user = cls.lab.host.user
         cls.root = cls.product
         cls.alice = Product(cls.lab, PROGRAMS, user=user)
-        # As in cron or after su: no runtime folder is named. And one that nobody else looks into.
+        # Without a runtime folder, as in cron or after su, and with one that no other instance uses.
         cls.bare = Product(cls.lab, PROGRAMS, user=user, env={"XDG_RUNTIME_DIR": ""})
         cls.apart = Product(
             cls.lab, PROGRAMS, user=user, env={"XDG_RUNTIME_DIR": "/tmp/apart", "XDG_DATA_HOME": "/home/alice/apart"}
@@ -106,7 +106,7 @@ class Sessions(LabCase):
             self.assertEqual(session.interrupt(), 0)
 
     def test_sudo_where_no_password_can_be_asked_for(self):
-        """As the program's message says: with a right of alice's own to run anything."""
+        """alice has her own right to sudo. The program's message names this way."""
         self.lab.host.run(
             [
                 "/bin/sh",

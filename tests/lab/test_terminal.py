@@ -22,7 +22,7 @@ NO_PROXY = "localhost,127.0.0.1,::1"
 ON = f"{PROXY}|{PROXY}|{PROXY}|{PROXY}|{PROXY}|{PROXY}|{NO_PROXY}|{NO_PROXY}"
 SHOW = 'echo "$ALL_PROXY|$all_proxy|$HTTP_PROXY|$http_proxy|$HTTPS_PROXY|$https_proxy|$NO_PROXY|$no_proxy"'
 SITE = at.WEB_HOSTS[0]
-# What a user has of their own. `prompts` counts how often their prompt command ran.
+# The user's own settings. `prompts` counts the runs of the user's prompt command.
 OWN = """prompts=0
 own_prompt_command() { prompts=$((prompts + 1)); }
 if [ -n "${ZSH_VERSION:-}" ]; then precmd_functions+=(own_prompt_command); else PROMPT_COMMAND=own_prompt_command; fi
@@ -37,7 +37,7 @@ class TerminalCase(LabCase):
         super().setUpClass()
         cls.home = "/root" if cls.user == "root" else f"/home/{cls.user}"
         cls.marker = f"{cls.home}/.veldmark/active"
-        if cls.user != "root":  # as a user has it who did not want to be asked each time
+        if cls.user != "root":  # the setting of a user who does not want a question each time
             Product(cls.lab, PROGRAMS).run_helper("install-privileged", "--user", cls.user, check=True)
             cls.product = Product(cls.lab, PROGRAMS, user=cls.user)
 
@@ -47,7 +47,7 @@ class TerminalCase(LabCase):
         super().setUp()
 
     def start(self, extra="", mode="proxy"):
-        """The program, running but not connected, with terminal mode on."""
+        """Starts the program, not connected, with terminal mode on."""
         shell.prepare(self.lab, self.user, extra)
         self.set("strictMode", "true" if mode == "strict" else "false")
         self.running = self.enterContext(self.product.session(connect=False))
@@ -59,7 +59,7 @@ class TerminalCase(LabCase):
         return {name: self.enterContext(shell.Shell(self.lab, name, self.user, **options)) for name in ("bash", "zsh")}
 
     def connect(self):
-        """By the command, without waiting for the test of look-ups that it ends with."""
+        """Connects by the command, without waiting for the DNS test at its end."""
         command = self.lab.host.popen([self.product.ctl, "connect"], user=self.user, stdout=-3, stderr=-3)
         self.addCleanup(command.wait)
         self.addCleanup(command.kill)
@@ -84,7 +84,7 @@ class Shells(TerminalCase):
                 self.connect()
                 open_shell.run("")
                 self.assertEqual(open_shell.run(SHOW), ON)
-                self.assertEqual(open_shell.run(f"env | grep -c '={PROXY}$'"), "6")  # for programs too
+                self.assertEqual(open_shell.run(f"env | grep -c '={PROXY}$'"), "6")  # also for programs
                 self.disconnect()
                 open_shell.run("")
                 self.assertEqual(open_shell.run(SHOW), "|||||||")
@@ -115,12 +115,12 @@ class Shells(TerminalCase):
     def test_torip_prints_the_exits_address(self):
         self.start()
         shells = self.shells()
-        for name, open_shell in shells.items():  # it really tells the address
+        for name, open_shell in shells.items():  # the file really contains the address
             self.assertIn(json.loads(open_shell.run("torip"))["IP"], (at.HOST_ADDRESS, at.HOST_ADDRESS6), name)
         self.connect()
         for name, open_shell in shells.items():
             with self.subTest(shell=name):
-                answer = json.loads(open_shell.run("torip"))  # at once, also before the next prompt
+                answer = json.loads(open_shell.run("torip"))  # at once, before the next prompt
                 self.assertIs(answer["IsTor"], True)
                 self.assertIn(answer["IP"], self.lab.tor.exits)
 
@@ -155,7 +155,7 @@ class Shells(TerminalCase):
         session.interrupt()
         self.assertFalse(self.is_marked())
         self.lab.host.write(self.marker, "", uid=0 if self.user == "root" else self.lab.host.uid)
-        with self.product.session(connect=False) as session:  # left by a crash, and put away at the next start
+        with self.product.session(connect=False) as session:  # a crash leaves it, and the next start removes it
             session.wait_phase("disconnected")
             self.assertFalse(self.is_marked())
 
@@ -170,7 +170,7 @@ class ShellsOfAnOrdinaryUser(Shells):
 
 
 class WhenItEnds(TerminalCase):
-    """In proxy mode, where nothing but the variables keeps a tool from the direct path."""
+    """Proxy mode, where only the variables keep a tool from the direct path."""
 
     def answer(self, open_shell):
         return open_shell.run(f"curl -sS --max-time 20 http://{SITE}/ip 2>&1").splitlines()[-1]
@@ -182,7 +182,7 @@ class WhenItEnds(TerminalCase):
         self.assertIn(self.answer(open_shell), self.lab.tor.exits)
         for path in (self.marker, "/var/lib/veldmark/state/active"):
             with self.subTest(marker=path):
-                # The program would see within a second that the session's marker has gone, and end the session.
+                # The program would notice within a second that the session's marker has gone, and end the session.
                 self.lab.host.run(["pkill", "-STOP", "veldmarkctl"], check=True)
                 self.lab.host.run(["mv", path, f"{path}.away"], check=True)
                 open_shell.run("")
@@ -224,7 +224,7 @@ class WhenItEnds(TerminalCase):
 
 @unittest.skipUnless(ssh_server.daemon(), "no SSH server is unpacked")
 class Programs(TerminalCase):
-    """curl, git and ssh in proxy mode, where the direct path is open; what leaves the host is looked at on the wire."""
+    """curl, git and ssh in proxy mode, where the direct path is open. The test looks at the packets on the wire."""
 
     user = "alice"
 
@@ -268,7 +268,7 @@ class Programs(TerminalCase):
 
     @contextlib.contextmanager
     def through_tor_alone(self):
-        """Nothing but Tor's own packets goes to the world meanwhile, and some of them do."""
+        """Asserts that only Tor's own packets go to the world meanwhile, and at least one does."""
         with self.lab.capture() as capture:
             yield
         sent = {p.dst for p in capture.packets if p.out and p.family != "arp" and not p.src.startswith("fe80:")}

@@ -1,6 +1,6 @@
-// A clock of the machine's own: preloaded into every program of it, adds the seconds that the file
-// says to what the kernel answers for the time of day. Clocks that measure how long something takes
-// stay as they are, as after a sleep.
+// A clock of the machine's own. It is preloaded into every program of the machine and adds the
+// seconds in the file to the kernel's time of day. Clocks that measure durations are unchanged, as
+// after a sleep.
 
 #define _GNU_SOURCE
 #include <fcntl.h>

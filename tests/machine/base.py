@@ -1,7 +1,7 @@
-"""The tree of a Debian 12 that is booted: made once from the registry of this machine's own apt, kept in build/machine.
+"""The tree of the booted Debian 12. It is made once from the registry of this machine's own apt, and kept in build/machine.
 
-It holds what a desktop brings, and, fetched but not installed, what the package under test asks for: in the lab there is no way to the
-registry. A changed list of packages adds to the tree; remove the folder to begin anew.
+It contains a desktop's packages. The dependencies of the package under test are fetched but not installed, since the lab has no
+route to the registry. A changed list of packages adds to the tree; remove the folder to make it again.
 """
 
 import os
@@ -11,16 +11,16 @@ import sys
 from pathlib import Path
 
 PROJECT = Path(__file__).resolve().parents[2]
-sys.path[:0] = [str(PROJECT / "tests" / "package"), str(PROJECT / "tests" / "lab")]
+sys.path[:0] = [str(PROJECT / "tests" / "package"), str(PROJECT / "tests" / "lab"), str(PROJECT / "tools")]
 
-from clean_debian import RELEASE, Unprepared, registry  # noqa: E402
+from clean_debian import RELEASE, Unprepared, registry, unprepared  # noqa: E402
 from moving import Moving  # noqa: E402
 
 FOLDER = PROJECT / "build" / "machine"
-# What boots it; what wants to be there before the first boot.
+# The packages that boot it; they are needed before the first boot.
 _FIRST = "systemd,systemd-sysv,dbus,udev"
 _PACKAGES = (
-    # A machine: sessions, the administrator's prompt, the network's managers.
+    # The machine's packages: sessions, the administrator's prompt, the network's managers.
     "libpam-systemd dbus-user-session polkitd pkexec sudo network-manager iproute2 iputils-ping curl procps "
     "ca-certificates locales python3 "
     # Desktops: Xfce on an X server without a screen, sway and LXQt; each with its panel and its polkit agent.
@@ -28,7 +28,7 @@ _PACKAGES = (
     "xfce4-session xfce4-panel xfwm4 xfdesktop4 xfce4-settings xfce4-notifyd policykit-1-gnome greybird-gtk-theme "
     "sway waybar grim wtype mate-polkit "
     "lxqt-session lxqt-panel lxqt-policykit lxqt-notificationd openbox breeze-icon-theme "
-    # Whoever else has a say in the network.
+    # Other programs that configure the network.
     "nftables iptables firewalld ufw systemd-resolved wireguard-tools wireguard-go dnsmasq-base"
 ).split()
 _LOCALES = ("en_GB.UTF-8", "de_DE.UTF-8")
@@ -52,15 +52,16 @@ def _run(log: Path, what: str, *words, chroot: Path | None = None) -> None:
     command = ([] if chroot is None else ["chroot", chroot]) + list(words)
     environment = os.environ | {"LANG": "C.UTF-8", "DEBIAN_FRONTEND": "noninteractive"}
     with open(log, "ab") as output, Moving(what):
+        began = output.tell()
         done = subprocess.run(
             list(map(str, command)), stdout=output, stderr=output, stdin=subprocess.DEVNULL, env=environment, check=False
         )
     if done.returncode:
-        raise Unprepared(f"{what} failed; see {log}")
+        raise unprepared(what, log, began)
 
 
 def prepare(package: Path, say=print) -> Path:
-    """The tree, made or brought up to date. Raises Unprepared, in one line, where that cannot be."""
+    """Makes the tree or updates it. Raises Unprepared, in one line, where that fails."""
     base, new, log = FOLDER / "base", FOLDER / "new", FOLDER / "log"
     FOLDER.mkdir(parents=True, exist_ok=True)
     if shutil.which("debootstrap") is None:
@@ -106,7 +107,7 @@ def _install(base: Path, log: Path, say) -> None:
 
 
 def _fetch(base: Path, package: Path, log: Path, say) -> None:
-    """What the package depends on and recommends, into apt's own folder of the tree."""
+    """Fetches the package's dependencies and recommendations into apt's folder of the tree."""
     needs = subprocess.run(
         ["dpkg-deb", "--field", package, "Depends", "Recommends"], check=True, capture_output=True, text=True
     ).stdout

@@ -1,4 +1,4 @@
-"""A booted Debian in the private Tor network: systemd as process 1, on a network link of its own beside the lab's host.
+"""A booted Debian in the private Tor network: systemd as process 1, with its own network link in place of the lab's host.
 
     with Machine(lab, [base], "first") as machine:
         machine.boot()
@@ -6,8 +6,8 @@
         machine.power_cut()
         machine.boot()          # the same disk, a new network device, nothing in the kernel's firewall
 
-The disk is an overlay: `layers` stay as they are, changes are kept in memory until the lab ends. The machine takes the lab host's place in
-the network, with its address, which it gets by DHCP from the router.
+The disk is an overlay: `layers` stay unchanged, and changes are in memory until the lab ends. The machine takes the lab host's
+place in the network and gets its address by DHCP from the router.
 """
 
 import contextlib
@@ -45,9 +45,9 @@ address1={at.HOST_ADDRESS6}/64
 gateway={at.ROUTER_LAN_ADDRESS6}
 dns={at.DNS_ADDRESS6};
 """
-# udev does not run in a container, and without it NetworkManager leaves Ethernet devices of this kind alone.
+# udev does not run in a container, and without it NetworkManager ignores Ethernet devices of this kind.
 _MANAGED = "[device-eth0]\nmatch-device=interface-name:eth0\nmanaged=1\n[main]\nplugins=keyfile\nno-auto-default=*\n"
-_DNS = "[main]\ndns=default\nrc-manager=file\n"  # resolv.conf is NetworkManager's own, as where systemd-resolved is not installed
+_DNS = "[main]\ndns=default\nrc-manager=file\n"  # NetworkManager writes resolv.conf, as without systemd-resolved
 _DISK = r"""
 set -eu
 mountpoint -q "$1" || { mkdir -p "$1"; mount -t tmpfs -o mode=755,size=8g machine "$1"; }
@@ -91,7 +91,7 @@ class Machine(contextlib.AbstractContextManager):
 
     @property
     def disk(self) -> list[str]:
-        """What a further machine may have as its layers, when this one is off: this one as it has become."""
+        """The layers for a further machine when this one is off: this machine's present state."""
         return [f"{self.root}.upper", *map(str, self.layers)]
 
     @property
@@ -103,7 +103,7 @@ class Machine(contextlib.AbstractContextManager):
         return space.run(["/bin/sh", "-c", script, "sh", *map(str, words)], check=True).stdout
 
     def path(self, inside: str) -> Path:
-        """A file of the disk, on or off, as the caller reaches it; not of what the running machine has mounted on it."""
+        """The caller's path to a file of the disk, with the machine on or off; without the running machine's mounts."""
         return self._world.path(str(self.root)) / inside.lstrip("/")
 
     def write(self, inside: str, text: str | bytes, mode: int = 0o644, uid: int = 0) -> None:
@@ -118,7 +118,7 @@ class Machine(contextlib.AbstractContextManager):
         target.chmod(mode)
 
     def _join_lab(self) -> None:
-        """Every tor that is started here is a client of the lab, whose certificate authority is trusted."""
+        """Makes every tor that starts here a client of the lab, and trusts the lab's certificate authority."""
         host = self.lab.host
         for name in ("torrc-defaults", "veldlab-geoip"):
             self.write(f"/etc/tor/{name}", host.path(f"/etc/tor/{name}").read_bytes())
@@ -139,7 +139,7 @@ class Machine(contextlib.AbstractContextManager):
     # Power ------------------------------------------------------------------------------------------------------------
 
     def boot(self, timeout: float = 60) -> float:
-        """Returns when systemd has started what it was to start and NetworkManager has the network; gives the seconds."""
+        """Boots; returns the seconds until systemd has started its units and NetworkManager has the network."""
         assert self._process is None, "it is on"
         started = time.monotonic()
         self._shell(self._world, _PLUG_IN, NETWORK, HARDWARE)
@@ -197,7 +197,7 @@ class Machine(contextlib.AbstractContextManager):
         return found
 
     def _leader(self) -> int:
-        """Process 1 of the machine, by the numbers of the caller's namespace; 0 while there is none."""
+        """The id of the machine's process 1 in the caller's namespace; 0 without one."""
         waiting = [self._process.pid]
         while waiting:
             pid = waiting.pop()
@@ -215,7 +215,16 @@ class Machine(contextlib.AbstractContextManager):
         return state in ("running", "degraded")
 
     def is_online(self) -> bool:
-        return "connected" == self.run(["nmcli", "-t", "-f", "STATE", "general"]).stdout.strip()
+        """NetworkManager says so as soon as the addresses of one protocol are there: the lease may take a moment longer, and so may the
+        kernel's own look whether another computer has the address."""
+        told = self.run(
+            [
+                "/bin/sh",
+                "-c",
+                "nmcli -t -f STATE general; nmcli -g IP4.ADDRESS device show eth0; ip -6 -oneline address show tentative",
+            ]
+        ).stdout.splitlines()
+        return len(told) == 2 and told[0] == "connected" and bool(told[1])
 
     def _off(self, timeout: float) -> None:
         process, self._process, self._inside = self._process, None, None
@@ -224,14 +233,14 @@ class Machine(contextlib.AbstractContextManager):
         process.stdout.close()
 
     def power_off(self, timeout: float = 90) -> float:
-        """As the menu does it."""
+        """Shuts down as the desktop's menu does."""
         started = time.monotonic()
         self.run(["systemctl", "poweroff"])
         self._off(timeout)
         return time.monotonic() - started
 
     def power_cut(self) -> None:
-        """Nothing in it gets another moment."""
+        """Kills all processes at once."""
         if self._process is None:
             return
         if leader := self._leader():
@@ -245,7 +254,7 @@ class Machine(contextlib.AbstractContextManager):
         self.boot()
 
     def keep(self) -> None:
-        """What has become of the disk stays, as layers of other machines, until the lab ends."""
+        """Keeps the disk's state until the lab ends, as layers of other machines."""
         self._kept = True
 
     def __exit__(self, *_) -> None:
@@ -265,8 +274,8 @@ class Machine(contextlib.AbstractContextManager):
 
 
 class _Inside(Space):
-    """Commands in a running machine. They belong to its process 1's own control group, as what an administrator's
-    `systemd-run --scope` would not; a person's programs are started by a login (desktops.py)."""
+    """Commands in a running machine. They run in the control group of its process 1, unlike those of an administrator's
+    `systemd-run --scope`. A login starts the user's programs (desktops.py)."""
 
     def __init__(self, leader: int, record: dict):
         super().__init__("host", record)

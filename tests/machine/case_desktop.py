@@ -1,4 +1,4 @@
-"""The application on real desktops, used as a person uses it."""
+"""The application on real desktops, used like a user does."""
 
 import time
 
@@ -52,8 +52,8 @@ def disconnect(stage: Stage, desktop: Desktop) -> None:
 
 
 def use_the_tray(stage: Stage, desktop: Desktop) -> None:
-    """The icon is what has changed in the desktop's panel since it was not connected; a click on it shows ours. A Wayland window cannot
-    say where it wants to be: there the click shows the main window."""
+    """Finds the tray icon by the change in the desktop's panel since before the connection, and clicks it: Veldmark's panel
+    appears. A Wayland window cannot choose its position, so there the click shows the main window."""
     desktop.look("protected")
     x, y = desktop.tray_icon("disconnected", "protected")
     seen = desktop.contrast("protected", x, y)
@@ -67,7 +67,7 @@ def use_the_tray(stage: Stage, desktop: Desktop) -> None:
     wait(lambda: desktop.windows().count("Veldmark") > shown, 10, "the click on the tray icon shows nothing")
     stage.picture(desktop, f"{desktop.kind}-tray")
     if desktop.kind != "sway":
-        expect(sorted(desktop.taskbar_states("Veldmark")) == [False, True], "the panel stands in the taskbar as a second Veldmark")
+        expect(sorted(desktop.taskbar_states("Veldmark")) == [False, True], "the taskbar shows the panel as a second Veldmark")
         desktop.click_at(x, y)
         wait(lambda: desktop.windows().count("Veldmark") == shown, 10, "a second click leaves the panel open")
 
@@ -88,13 +88,14 @@ _TITLES = {"en_GB": ("Not Protected", "Protected"), "de_DE": ("Nicht geschützt"
 
 
 def expect_appearance(desktop: Desktop, picture: str, title: str, dark: bool) -> None:
-    """The window says this on a ground that is as dark as the desktop's."""
+    """Asserts that the window shows this text on a background as dark as the desktop's."""
     found = desktop.lightness(picture, "veldmark", "heading", title)
     expect(found < 90 if dark else found > 165, f"the window's ground is {found} of 255 on a {'dark' if dark else 'light'} desktop")
 
 
 def languages_and_appearances(stage: Stage) -> None:
-    """What the window says and how light it is; pictures of the protected state on Xfce, with the panel under the tray icon."""
+    """Checks the window's language and lightness; takes pictures of the protected state on Xfce, with the panel under the tray
+    icon."""
     with stage.machine("pictures") as machine:
         machine.run([HELPER, "install-privileged", "--user", "alice"], check=True)
         for language in ("en_GB", "de_DE"):
@@ -134,7 +135,7 @@ def languages_and_appearances(stage: Stage) -> None:
 
 
 def a_tray_that_starts_later(stage: Stage) -> None:
-    """At login, where the desktop's panel comes after the program; then a panel that starts anew."""
+    """The desktop's panel starts after the program at login; then the panel restarts."""
     with stage.machine("tray-late") as machine, Desktop(machine, "sway") as desktop:
         for moment in ("later", "anew"):
             _without_tray(desktop)
@@ -150,7 +151,7 @@ def a_tray_that_starts_later(stage: Stage) -> None:
 
 
 def no_tray(stage: Stage) -> None:
-    """Started without a window where there is no tray at all: there must be something to see and to use."""
+    """The program starts without a window on a desktop without a tray. It must still show something to use."""
     with stage.machine("no-tray") as machine, Desktop(machine, "sway") as desktop:
         _without_tray(desktop)
         desktop.run(["swaymsg", "exec", "veldmark --hidden"], check=True)
@@ -167,12 +168,12 @@ def _without_tray(desktop: Desktop) -> None:
 
 
 def an_agent_that_ends(stage: Stage) -> None:
-    """polkit-gnome, an agent for X11, ends on Wayland as soon as it is to show its dialogue."""
+    """polkit-gnome, an agent for X11, ends on Wayland when it has to show its dialogue."""
     with stage.machine("agent-ends") as machine, Desktop(machine, "sway") as desktop:
         desktop.run(["pkill", "-x", "polkit-mate-aut"], check=True)
         desktop.run(["swaymsg", "exec", "/usr/lib/policykit-1-gnome/polkit-gnome-authentication-agent-1"], check=True)
         wait(lambda: desktop.pids("polkit-gnome-au"), 10, "the other agent does not start")
-        time.sleep(2)  # no sign tells when it is ready to be asked
+        time.sleep(2)  # the agent gives no sign when it is ready
         start(stage, desktop)
         desktop.click("veldmark", "push button", "Connect to Tor")
         wait(

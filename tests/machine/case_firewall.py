@@ -1,4 +1,5 @@
-"""Other firewalls, there before the session or started during it: it connects, nothing leaks, they are as they were."""
+"""Other firewalls, from before the session or started during it. Veldmark connects, nothing leaks, and their rules stay
+unchanged."""
 
 import time
 
@@ -21,7 +22,7 @@ iptables -A FORWARD -o docker0 -j DOCKER
 iptables -A FORWARD -i docker0 ! -o docker0 -j ACCEPT
 iptables -P FORWARD DROP
 """
-# For whatever this machine sends, as its administrators do it.
+# Rules for this machine's own packets, as administrators write them.
 _FIREWALLD_DENIES = """
 firewall-cmd --permanent --new-policy nothing-out
 firewall-cmd --permanent --policy nothing-out --add-ingress-zone HOST
@@ -38,7 +39,7 @@ iptables -A OUTPUT ! -o lo -j NOTHING-OUT
 
 
 def _others(machine) -> str:
-    """All rules but ours."""
+    """All rules except Veldmark's."""
     tables = [line for line in machine.shell("nft list tables").splitlines() if "veldmark" not in line]
     return "".join(machine.shell(f"nft -s list {table}") for table in tables)
 
@@ -96,7 +97,7 @@ def docker_during(stage: Stage) -> None:
 
 
 def _denies(stage: Stage, name: str, script: str, called: str) -> None:
-    """What blocks Tor is named, before the five minutes are over, and by the doctor as well."""
+    """The firewall that blocks Tor is named before the five minutes are over, and by the doctor as well."""
     with stage.machine(f"{name}-denies") as machine:
         expect(direct(machine), "there is no network to begin with")
         machine.shell(f"set -e; {script}", timeout=60)
@@ -108,7 +109,7 @@ def _denies(stage: Stage, name: str, script: str, called: str) -> None:
             expect("firewall" in words and called in words, f"it says: {words}")
             for user in (USER, "root"):
                 asked = machine.run(["veldmarkctl", "doctor"], user=user)
-                found = [line for line in asked.stdout.splitlines() if "denies what goes out" in line]
+                found = [line for line in asked.stdout.splitlines() if "blocks outgoing traffic" in line]
                 expect(found and called in found[0], f"the doctor does not name {called}")
                 expect(asked.returncode == 1, f"the doctor ends with {asked.returncode} although nothing gets out")
             session.interrupt()
@@ -126,12 +127,13 @@ nft delete table inet cut
 
 
 def _cut_connections(stage: Stage) -> None:
-    """What the machine has open to the world is ended from outside; a new one would be possible at once."""
+    """Ends the machine's connections to the world from outside; new ones are possible at once."""
     stage.lab.router.run(["/bin/sh", "-ec", _CUT], check=True)
 
 
 def _begins_to_deny(stage: Stage, name: str, script: str, called: str) -> None:
-    """Named as well when it comes during a session; connections that Tor has are cut, as they end by themselves some time."""
+    """A firewall that starts during a session is named as well. Tor's connections are cut, since they would end by themselves some
+    time."""
     with stage.machine(f"{name}-begins-to-deny") as machine:
         with connected(machine) as session:
             with watched(stage):
@@ -174,7 +176,7 @@ CASES = {
     "Docker's rules during the session": docker_during,
     "ufw begins to deny during the session: it is named": ufw_that_begins_to_deny,
     "a chain begins to deny during the session: it is named": chain_that_begins_to_deny,
-    "ufw denies what goes out: it is named": ufw_that_denies_what_goes_out,
-    "firewalld denies what goes out: it is named": firewalld_that_denies_what_goes_out,
+    "ufw blocks outgoing traffic: it is named": ufw_that_denies_what_goes_out,
+    "firewalld blocks outgoing traffic: it is named": firewalld_that_denies_what_goes_out,
     "Docker's rules, and a chain that denies: it is named": docker_beside_a_chain_that_denies,
 }

@@ -1,4 +1,4 @@
-"""The package, as its user meets it: installed by apt on a machine that is on, upgraded while connected, removed, purged."""
+"""The package for its user: installed by apt on a running machine, upgraded while connected, removed, purged."""
 
 from boot import Machine
 from case_readme import at_a_terminal, commands
@@ -13,7 +13,7 @@ def install(stage: Stage) -> None:
     with Machine(stage.lab, [stage.base], "install") as machine:
         machine.boot()
         before = network(machine)
-        # As the README says; ./build.sh package, its line before, is tried where there is a compiler (./build.sh fresh-test).
+        # The README's command. The line before it, ./build.sh package, needs a compiler; ./build.sh fresh-test tries it.
         machine.write(f"/home/alice/build/{stage.package.name}", stage.package.read_bytes(), uid=machine.uid)
         [line] = [line for line in commands("Install") if "apt install" in line]
         done = at_a_terminal(machine, line, {"DEBIAN_FRONTEND": "noninteractive"}, timeout=400)

@@ -1,4 +1,4 @@
-"""Networks that change under a session: cables, leases, other networks, and who answers for names."""
+"""Networks that change during a session: cables, leases, other networks, and DNS resolvers."""
 
 import contextlib
 import time
@@ -24,7 +24,7 @@ from stage import (
 from veldlab import topology as at
 
 _OTHER_ADDRESS = "192.168.77.23"
-# The servers that systemd-resolved asks, for all names or for a link's.
+# The servers of systemd-resolved, for all names or for a link's.
 _GLOBAL = f"[Resolve]\nDNS={at.DNS_ADDRESS}\n"
 
 
@@ -42,7 +42,7 @@ def link_down_and_up(stage: Stage) -> None:
                     lambda: "NO-CARRIER" in machine.shell("ip link show eth0"), 5, "the machine does not see that the cable is out"
                 )
                 expect(not through_tor(machine, 3), "Tor works without a cable")
-                time.sleep(8)  # longer than NetworkManager waits before it gives the network up
+                time.sleep(8)  # longer than NetworkManager's limit for a lost network
                 _cable(stage, "up")
                 started = time.monotonic()
                 wait(lambda: through_tor(machine), 60, "no traffic through Tor after the cable is back")
@@ -52,7 +52,7 @@ def link_down_and_up(stage: Stage) -> None:
 
 
 def another_network(stage: Stage) -> None:
-    """The cable goes into another wall: another address, another lease."""
+    """The cable is plugged into another network: another address, another lease."""
     with stage.machine("another") as machine:
         before = network(machine)
         with connected(machine) as session:
@@ -68,7 +68,7 @@ def another_network(stage: Stage) -> None:
 
 
 def new_lease(stage: Stage) -> None:
-    """The connection is made anew while the session lasts, and NetworkManager writes resolv.conf again."""
+    """NetworkManager reconnects during the session and writes resolv.conf again."""
     with stage.machine("lease") as machine:
         with connected(machine) as session:
             with watched(stage):
@@ -78,7 +78,7 @@ def new_lease(stage: Stage) -> None:
                 wait(lambda: through_tor(machine), 60, "no traffic through Tor with the new lease")
                 fix_dns(machine, session)
             expect(session.interrupt() == 0, "it did not end well")
-        # Not what was there before the session but what the network now says.
+        # The network's present servers, not those from before the session.
         given = machine.shell("cat /etc/resolv.conf")
         expect(at.WEB_ADDRESS in given, f"resolv.conf has not the new lease's server but {given.split()}")
         expect(direct(machine), "the network does not work")
@@ -89,8 +89,7 @@ def _leaks(state: dict) -> bool:
 
 
 def fix_dns(machine: Machine, session, spoil: str = "") -> None:
-    """Whatever the checks have found of look-ups: after "Fix DNS" nothing of it is left. `spoil` gives them a way around Tor first,
-    which the checks have to find."""
+    """After "Fix DNS" no DNS leak is left. `spoil` first makes a leak, which the checks have to find."""
     ctl = product(machine)
     if spoil:
         machine.shell(spoil)
@@ -108,7 +107,7 @@ def fix_dns(machine: Machine, session, spoil: str = "") -> None:
 
 # An administrator, or another program, gives systemd-resolved its own servers again.
 _SPOIL_GLOBAL = "rm -f /run/systemd/resolved.conf.d/zz-veldmark.conf && systemctl restart systemd-resolved"
-_SPOIL_LINK = f"resolvectl dns eth0 {at.DNS_ADDRESS}"
+_SPOIL_LINK = "resolvectl dns eth0 "
 
 
 def _resolved(stage: Stage, name: str, config: str) -> None:
@@ -125,12 +124,13 @@ def _resolved(stage: Stage, name: str, config: str) -> None:
             at.DNS_ADDRESS in asked.splitlines()[0] if config else at.DNS_ADDRESS in asked,
             f"the set-up is not what it is to be: {asked}",
         )
+        own = next(line.partition("eth0):")[2] for line in asked.splitlines() if "eth0" in line)
         before = network(machine) | {"resolvectl": asked}
         with connected(machine) as session:
             fix_dns(machine, session)
             expect(at.DNS_ADDRESS not in machine.shell("resolvectl dns"), "a connect leaves systemd-resolved its servers")
             with watched(stage):
-                fix_dns(machine, session, _SPOIL_GLOBAL if config else _SPOIL_LINK)
+                fix_dns(machine, session, _SPOIL_GLOBAL if config else _SPOIL_LINK + own)
                 told = machine.shell("resolvectl dns")
                 expect(at.DNS_ADDRESS not in told and "127.0.0.1" in told, f'after "Fix DNS" systemd-resolved asks {told.split()}')
                 machine.run(["timeout", "10", "getent", "hosts", "www.example.test"], user=USER)
@@ -148,9 +148,9 @@ def resolved_with_global_servers(stage: Stage) -> None:
     _resolved(stage, "resolved-global", _GLOBAL)
 
 
-# Another end of the tunnel at the router, which lets out what comes through it as its own. Both ends are the program in user space,
-# since not every kernel has WireGuard; the packets are the same. Two halves of the world, since for the whole wg-quick sets a
-# switch of the kernel, which a container may not.
+# The other end of the tunnel at the router, which forwards the tunnel's traffic as its own. Both ends are the program in user
+# space, since not every kernel has WireGuard; the packets are the same. The routes are two halves of the addresses, since for all
+# addresses wg-quick sets a kernel switch, which a container may not.
 _VPN_END = r"""
 set -eu
 mkdir -p /run/wireguard
@@ -179,7 +179,8 @@ _IN_THE_WAY = "A VPN takes Tor's traffic, and strict mode does not let the VPN o
 
 @contextlib.contextmanager
 def _vpn(stage: Stage, machine: Machine):
-    """A VPN of the machine's, off, by wg-quick as alice's provider describes it. IPv6 is out of it, and so off."""
+    """Sets up a VPN of the machine, not started, with wg-quick and a provider's configuration. The VPN has no IPv6, so IPv6 is
+    off."""
     tree = stage.base
 
     def keys() -> tuple[str, str]:
@@ -201,7 +202,7 @@ def _vpn(stage: Stage, machine: Machine):
 
 
 def _switch(machine: Machine, state: str) -> None:
-    # The program stays, with what it was given for its output.
+    # The program stays, with its output still open.
     done = machine.run(
         ["/bin/bash", "-c", 'wg-quick "$1" wg0 </dev/null >/run/wg-quick.log 2>&1', "vpn", state],
         env={"WG_QUICK_USERSPACE_IMPLEMENTATION": "wireguard-go", "LOG_LEVEL": "error"},

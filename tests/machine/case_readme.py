@@ -1,4 +1,4 @@
-"""The README's first pages, word for word: every command of theirs is read from the file and typed by alice, in her session."""
+"""The README's first pages, word for word: the test reads every command from the file, and alice types it in her session."""
 
 import re
 import subprocess
@@ -14,7 +14,7 @@ _PASSWORD = "alice"
 
 
 def commands(section: str) -> list[str]:
-    """The lines of a section's sh blocks, without what they say behind a #."""
+    """The lines of a section's sh blocks, without comments."""
     text = (PROJECT / "README.md").read_text()
     part = re.search(rf"(?ms)^## {re.escape(section)}\n(.*?)(?=^## |\Z)", text).group(1)
     lines = "\n".join(re.findall(r"(?ms)^```sh\n(.*?)^```", part)).splitlines()
@@ -22,13 +22,13 @@ def commands(section: str) -> list[str]:
 
 
 def inline(start: str) -> str:
-    """The one command in a sentence that begins so."""
+    """The only command in the sentence that begins so."""
     [command] = set(re.findall(rf"`({re.escape(start)}[^`]*)`", (PROJECT / "README.md").read_text()))
     return command
 
 
 def at_a_terminal(machine, line: str, env: dict[str, str] | None = None, timeout: float = 60):
-    """What a terminal shows of a line that alice types; she answers sudo's and apt's questions."""
+    """The terminal's output of a line that alice types; she answers sudo's and apt's questions."""
     install(machine)
     return machine.run(
         ["/usr/bin/python3", f"{TOOLS}/terminal.py", _PASSWORD, line], user=USER, env=env or {}, cwd="/home/alice", timeout=timeout
@@ -77,7 +77,7 @@ def readme(stage: Stage) -> None:
 
 
 def run_in_the_foreground(desktop: Desktop, line: str) -> None:
-    """A command that stays, in a terminal of the desktop's, with the password typed into the agent's window."""
+    """Runs a command that keeps running in a desktop's terminal; the password is typed into the agent's window."""
     desktop.run(["swaymsg", "exec", f"sh -c '{line} >/tmp/foreground 2>&1'"], check=True)
     desktop.wait_prompt()
     desktop.enter(_PASSWORD)
@@ -98,18 +98,18 @@ def first_pages_command(desktop: Desktop, line: str) -> None:
         line = f"timeout 3 {line}"
     done = typed(desktop, line)
     said = (done.stdout + done.stderr).strip()
-    if words[:2] == ["veldmarkctl", "launch"]:  # there is no such application here: it says so
+    if words[:2] == ["veldmarkctl", "launch"]:  # this application is not installed here; the error is expected
         expect(done.returncode != 0 and words[2] in said, f"{line}: {said}")
     elif "--follow" in words:
         expect(done.returncode == 124 and said, f"{line}: {said}")
     elif words[0] == "veldmarkctl":
         expect(done.returncode == 0, f"{line}: {said}")
     else:
-        raise Broken(f"nobody has tried this command of the README: {line}")
+        raise Broken(f"no case tries this command of the README: {line}")
 
 
 def left_over(desktop: Desktop) -> None:
-    """A session whose program was killed."""
+    """Leaves a session whose program was killed."""
     machine = desktop.machine
     [line] = [line for line in re.findall(r"`(sudo veldmarkctl [^`]*)`", (PROJECT / "README.md").read_text()) if "run" in line][:1]
     with machine.popen(

@@ -1,4 +1,4 @@
-"""Suspend and resume, as far as a container can: logind's own signals around a sleep in which the cable is out; and a clock that jumps."""
+"""Suspend and resume, as far as a container can: logind's own signals around a sleep without the cable, and a clock that jumps."""
 
 import struct
 import subprocess
@@ -25,7 +25,7 @@ _SHIFT = "/etc/shifted-clock"
 
 
 def _shifted_clock(machine, folder: Path) -> None:
-    """Gives a machine that is off a clock of its own, see ShiftedClock.c."""
+    """Gives a machine that is off its own clock, see ShiftedClock.c."""
     library = folder / "shifted-clock.so"
     source = Path(__file__).with_name("ShiftedClock.c")
     built = subprocess.run(["gcc", "-shared", "-fPIC", "-O2", "-o", library, source], capture_output=True, text=True, check=False)
@@ -52,7 +52,7 @@ def _shift(machine, seconds: int) -> None:
 
 
 def clock_jump(stage: Stage) -> None:
-    """The time of day goes on by an hour at once, as after a sleep, and back again, as after a time server was asked."""
+    """The time of day jumps forward by an hour, as after a sleep, and back again, as after a time server's answer."""
     notes = []
     with stage.machine("clock", prepare=lambda machine: _shifted_clock(machine, stage.folder)) as machine:
         before = network(machine)
@@ -64,7 +64,8 @@ def clock_jump(stage: Stage) -> None:
                     wait(lambda: through_tor(machine, 5), 60, f"no traffic through Tor after the clock went {words}")
                     wait(lambda: "jumped" in machine.shell("veldmarkctl log"), 30, "Tor has not seen the clock jump")
                     notes.append(f"{words}: through Tor after {time.monotonic() - started:.0f} s")
-                    # The title may miss the kill switch: the kernel's own clock, and so the time of the watcher's note, has not jumped.
+                    # The title may not know the kill switch: the kernel's own clock, and so the time of the watcher's note, has not
+                    # jumped.
                     session.wait(is_protected, 60)
                     expect(not direct(machine), "the direct way is open")
             end(session, machine, before)
@@ -87,8 +88,8 @@ def suspend_and_resume(stage: Stage) -> None:
                 expect(told["stall"] == "noNetwork", f"without a cable it says {told['title']}, {told['stall']}")
                 resumed = time.monotonic()
                 machine.run(["rm", "/run/asleep"], check=True)
-                # A card is ready a moment after the resume. NetworkManager does not look at links of this kind, which have no card,
-                # that come up before it has heard that the sleep is over.
+                # A network card is ready a moment after the resume. NetworkManager ignores links without a card that come up before
+                # it knows that the sleep is over.
                 wait(lambda: machine.shell("nmcli -t -f STATE general").strip() != "asleep", 10, "NetworkManager does not wake")
                 stage.lab.router.run(["ip", "link", "set", "machine0", "up"], check=True)
                 works = told = None

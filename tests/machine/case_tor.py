@@ -1,4 +1,4 @@
-"""Debian's own tor service runs, as it does after apt install tor, and holds the port."""
+"""Debian's own tor service runs, as after apt install tor, and holds the port."""
 
 from boot import Machine
 from stage import Stage, connected, end, expect, expect_whole, network, product, state, wait
@@ -18,7 +18,7 @@ def service_state(machine) -> str:
 
 
 def with_service(machine: Machine) -> tuple[dict[str, str], str]:
-    """How the machine is while Debian's own tor service runs, which a session takes the port from."""
+    """The machine with Debian's own tor service running; a session takes the port from it."""
     wait(lambda: service_listens(machine), 20, "Debian's tor service does not listen")
     return network(machine), service_state(machine)
 
@@ -36,7 +36,7 @@ def debians_tor(stage: Stage) -> None:
             expect(not service_listens(machine), "Debian's tor service still has the port")
             end(session, machine, before)
         wait(lambda: service_listens(machine), 20, "Debian's tor service was not given back")
-        # systemd calls it active only when tor has told it so, a moment after it listens.
+        # systemd shows it as active only after tor's notice, a moment after tor listens.
         wait(lambda: service_state(machine) == service, 20, "the service is not as before")
 
 

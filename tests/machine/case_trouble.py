@@ -1,4 +1,4 @@
-"""What ends a session without asking: a restart, a power cut, an upgrade. Afterwards the network works, and what is shown is true."""
+"""Sudden ends of a session: a restart, a power cut, an upgrade. Afterwards the network works, and the display is true."""
 
 import os
 import random
@@ -15,7 +15,7 @@ CUTS = 20
 
 
 def _trouble(machine: Machine) -> str:
-    """What does not work of the network, with what it looks like; empty when all does."""
+    """The broken parts of the network with details; empty without any."""
     broken = [] if direct(machine) else ["no connection"]
     if machine.run(["timeout", "5", "getent", "hosts", "www.example.test"], user=USER).returncode:
         broken.append("no name")
@@ -28,7 +28,7 @@ def _trouble(machine: Machine) -> str:
 
 
 def _expect_truth_and_a_way_back(machine: Machine, before: dict[str, str], what: str) -> str:
-    """After a boot. Gives the phase that is shown."""
+    """Checks the display after a boot; returns the shown phase."""
     told = state(machine)
     marked = machine.run(["test", "-e", MARKER]).returncode == 0
     expect(told["phase"] == ("stale" if marked else "disconnected"), f"{what}: marker {marked}, but it says {told['phase']}")
@@ -55,8 +55,8 @@ def reboot_with_a_session(stage: Stage) -> None:
 
 
 def power_cuts(stage: Stage) -> None:
-    """At random moments, half of them of a connect, half of a disconnect. The disk is kept in memory, so that what was written is there:
-    what a real disk loses of its last seconds is not shown by this."""
+    """Cuts the power at random moments, half of them during a connect, half during a disconnect. The disk is in memory and keeps
+    all writes, so the test does not show what a real disk loses of its last seconds."""
     seed = int(os.environ.get("VELDMARK_SEED") or random.randrange(1 << 32))
     chance = random.Random(seed)
     stage.note = f"seed {seed}"

@@ -1,5 +1,5 @@
-"""Desktops of the booted machine, each a real login of alice's: pam_systemd makes the session, the session starts its own panel, its
-own polkit agent and whatever else is in its autostart. Used by looking (the accessibility bus, pictures) and by clicking.
+"""Desktops of the booted machine, each a real login of alice's: pam_systemd makes the session, and the session starts its own
+panel, polkit agent and autostart programs. Tests look (accessibility bus, pictures) and click.
 
     with Desktop(machine, "xfce") as desktop:
         desktop.launch("veldmark")
@@ -112,7 +112,7 @@ class Desktop(contextlib.AbstractContextManager):
         self.machine.run(["systemctl", "stop", "desktop"], timeout=60)
 
     def pids(self, name: str) -> list[int]:
-        """Processes of alice's whose name begins so; the kernel keeps 15 letters of it."""
+        """alice's processes whose name begins so; the kernel keeps 15 letters of a name."""
         return [int(word) for word in self.machine.run(["pgrep", "-u", USER, f"^{name[:15]}"]).stdout.split()]
 
     def run(self, argv, **options):
@@ -127,7 +127,7 @@ class Desktop(contextlib.AbstractContextManager):
         return found
 
     def picture(self, target: Path) -> Path:
-        """What is on the screen, as a PNG file of the caller's."""
+        """Saves the screen as a PNG file of the caller."""
         inside = "/tmp/picture.png"
         shot = ["grim", inside] if self.kind == "sway" else ["scrot", "--overwrite", "--pointer", inside]
         self.run(shot, check=True)
@@ -136,7 +136,7 @@ class Desktop(contextlib.AbstractContextManager):
         return target
 
     def start_from_menu(self, picture=lambda name: None) -> None:
-        """Veldmark's entry, pressed in the desktop's own menu."""
+        """Presses Veldmark's entry in the desktop's own menu."""
         if self.kind == "xfce":
             self.click_at(55, 13)
             self.click("xfce4-panel", "menu", "Internet")
@@ -144,7 +144,8 @@ class Desktop(contextlib.AbstractContextManager):
             picture("xfce-menu")
             self.click("xfce4-panel", "menu item", "Veldmark")
         elif self.kind == "lxqt":
-            # Its menu tells a screen reader nothing. It has a field to search in, which leaves what was found.
+            # Its menu is not visible to a screen reader. It has a search field, which leaves only the matches.
+            self.wait(self._lxqt_panel_stands, 30, "the panel does not come up")
             self.look("closed")
             self.click_at(14, 784)
             self.wait(lambda: self._differs("closed", "menu", 600, 760), 20, "the menu does not open")
@@ -152,14 +153,19 @@ class Desktop(contextlib.AbstractContextManager):
             self.wait(lambda: self._differs("menu", "found", 600, 700), 20, "the menu finds nothing")
             picture("lxqt-menu")
             self.run(["xdotool", "key", "Return"], check=True)
-        elif self.kind == "sway":  # it has no menu: what a launcher does
+        elif self.kind == "sway":  # it has no menu, so the test does what a launcher does
             self.run(["swaymsg", "exec", "veldmark"], check=True)
         self.wait(lambda: self.pids("veldmark"), 20, "the menu's entry starts nothing")
+
+    def _lxqt_panel_stands(self) -> bool:
+        """Its process is there before its window, and a click before that goes to nobody."""
+        found = self.run(["xdotool", "search", "--onlyvisible", "--class", "^lxqt-panel$", "getwindowgeometry", "--shell", "%@"])
+        return "WIDTH=1280\n" in found.stdout
 
     # Looking ----------------------------------------------------------------------------------------------------------
 
     def nodes(self, pid: int) -> list[dict]:
-        """Everything that the program shows, by what it tells a screen reader."""
+        """All visible nodes of the program, from the accessibility bus."""
         seen = self.run(["/usr/bin/python3", f"{TOOLS}/accessible.py", str(pid)], timeout=60)
         if seen.returncode:
             return []
@@ -185,7 +191,7 @@ class Desktop(contextlib.AbstractContextManager):
             raise TimeoutError(f"{program} shows no {role} {name!r} within {timeout:.0f} s but " + "; ".join(shown)) from None
 
     def windows(self) -> list[str]:
-        """The titles of the windows on show."""
+        """The titles of the visible windows."""
         if self.kind == "sway":
             return [node["name"] or "" for node in self._sway_windows()]
         ids = self.run(["xdotool", "search", "--onlyvisible", "--name", ".+"]).stdout.split()
@@ -203,12 +209,12 @@ class Desktop(contextlib.AbstractContextManager):
         return any(title.startswith(_PROMPT[self.kind]) for title in self.windows())
 
     def wait_prompt(self) -> None:
-        """The polkit agent's dialogue stands and takes what is typed."""
+        """Waits for the polkit agent's dialogue and its keyboard focus."""
         self.wait(self.prompts, 30, "nobody asks for the password")
-        time.sleep(1)  # no sign tells when the dialogue has the keyboard
+        time.sleep(1)  # the dialogue gives no sign when it has the keyboard
 
     def look(self, name: str) -> None:
-        """Keeps a picture of the screen, without the pointer."""
+        """Saves a picture of the screen, without the pointer."""
         shot = ["grim"] if self.kind == "sway" else ["scrot", "--overwrite"]
         self.run([*shot, f"/tmp/bar-{name}.png"], check=True)
 
@@ -220,12 +226,12 @@ class Desktop(contextlib.AbstractContextManager):
         return json.loads(seen.stdout)
 
     def _differs(self, before: str, now: str, top: int, bottom: int) -> bool:
-        """Whether these rows of the screen are others than in an earlier picture; takes the picture `now`."""
+        """Whether these rows of the screen differ from an earlier picture; saves the picture `now`."""
         self.look(now)
         return bool(self._changes(before, now, top, bottom))
 
     def tray_icon(self, one: str, other: str) -> tuple[int, int]:
-        """The middle of the one thing in the panel that is as large as an icon and not the same in two pictures of the bar."""
+        """The middle of the only icon-sized difference between two pictures of the panel."""
         changes = self._changes(one, other, *_BAR[self.kind])
         icons = [
             (left, above, right, below)
@@ -238,7 +244,7 @@ class Desktop(contextlib.AbstractContextManager):
         return (left + right) // 2, (above + below) // 2
 
     def contrast(self, picture: str, x: int, y: int, size: int = 24) -> int:
-        """By how much what stands there differs from the ground around it, in a picture of look()'s; 0 to 255."""
+        """The contrast between the place and its background in a picture of look(), 0 to 255."""
         return int(
             self.run(
                 ["/usr/bin/python3", f"{TOOLS}/contrast.py", f"/tmp/bar-{picture}.png", str(x), str(y), str(size)], check=True
@@ -246,7 +252,7 @@ class Desktop(contextlib.AbstractContextManager):
         )
 
     def lightness(self, picture: str, program: str, role: str, name: str) -> int:
-        """Of the ground on which the program shows this, in a picture of look()'s; 0 is black, 255 white."""
+        """The lightness of the background on which the program shows this, in a picture of look(); 0 is black, 255 white."""
         node = self.wait_for(program, role, name)
         left, top = self._origin(program)
         place = (left + node["x"], top + node["y"], node["width"], node["height"])
@@ -254,14 +260,14 @@ class Desktop(contextlib.AbstractContextManager):
         return int(told.stdout)
 
     def taskbar_states(self, title: str) -> list[bool]:
-        """On X11, for each window on show with this title: whether it asks to be left out of the taskbar."""
+        """On X11, for each visible window with this title: whether it asks to be left out of the taskbar."""
         ids = self.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"]).stdout.split()
         return [
             "_NET_WM_STATE_SKIP_TASKBAR" in self.run(["xprop", "-id", window, "_NET_WM_STATE"], check=True).stdout for window in ids
         ]
 
     def tray_items(self) -> list[str]:
-        """Who has an icon in the tray, as its keeper on the bus tells."""
+        """The programs with an icon in the tray, from the tray's watcher on the bus."""
         told = self.run(
             [
                 "busctl",
@@ -292,12 +298,12 @@ class Desktop(contextlib.AbstractContextManager):
         )
         before = None
         while (node := self.wait_for(program, role, name)) and (before is None or (node["x"], node["y"]) != before):
-            before = node["x"], node["y"]  # until it has come to rest
+            before = node["x"], node["y"]  # until it stops moving
         left, top = self._origin(program)
         self.click_at(left + node["x"] + node["width"] // 2, top + node["y"] + node["height"] // 2)
 
     def _origin(self, program: str) -> tuple[int, int]:
-        """What a program's own places have to be moved by: on Wayland it does not know where its window is."""
+        """The offset of a program's coordinates: on Wayland it does not know the position of its window."""
         if self.kind != "sway":
             return 0, 0
         for node in self._sway_windows():
@@ -307,7 +313,7 @@ class Desktop(contextlib.AbstractContextManager):
         raise RuntimeError(f"{program} has no window")
 
     def enter(self, text: str) -> None:
-        """Typed into the prompt for the password, which is then sent."""
+        """Types the password into the prompt and confirms it."""
         if self.kind == "sway":
             self.run(["wtype", "-s", "500", text], check=True)
             self.click(_AGENT[self.kind], "push button", "Authenticate")
@@ -317,7 +323,7 @@ class Desktop(contextlib.AbstractContextManager):
 
 
 def put(machine: Machine, path: str, text: str | bytes, mode: int = 0o644) -> None:
-    """A file of the running machine, also below what it has mounted."""
+    """Writes a file of the running machine, also below its mounts."""
     machine.run(
         ["/bin/sh", "-c", 'mkdir -p "${1%/*}"; cat >"$1"; chmod "$2" "$1"', "sh", path, f"{mode:o}"],
         input=text,
@@ -327,7 +333,7 @@ def put(machine: Machine, path: str, text: str | bytes, mode: int = 0o644) -> No
 
 
 def install(machine: Machine) -> None:
-    """The sessions' scripts and what looks at the screen."""
+    """Installs the sessions' scripts and the programs that read the screen."""
     put(machine, "/etc/pam.d/machine-test", _PAM)
     for source in (*_INSIDE.iterdir(), PROJECT / "tests/support/accessible.py"):
         put(machine, f"{TOOLS}/{source.name}", source.read_text(), 0o755)

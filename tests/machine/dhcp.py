@@ -1,4 +1,4 @@
-"""The router's DHCP server, dnsmasq of the tree, in the lab's router: it gives the machine the address that it is told."""
+"""The DHCP server in the lab's router, the tree's dnsmasq. It gives the machine the address that the test chooses."""
 
 import contextlib
 import subprocess
@@ -16,7 +16,7 @@ class Leases(contextlib.AbstractContextManager):
         self.give(at.HOST_ADDRESS)
 
     def give(self, address: str, resolver: str = at.DNS_ADDRESS, seconds: int = 120) -> None:
-        """From the next request on. The server knows nothing of earlier leases, so that it refuses to renew another address."""
+        """Sets the address from the next request on. The server keeps no leases, so it refuses to renew another address."""
         self.__exit__()
         libraries = f"{self.base}/lib/x86_64-linux-gnu:{self.base}/usr/lib/x86_64-linux-gnu"
         self._process = self.lab.router.popen(

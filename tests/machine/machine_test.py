@@ -1,10 +1,10 @@
 #!/usr/bin/python3
-"""A whole Debian 12, booted in the private Tor network, and the package on it: ./build.sh machine-test
+"""Boots a whole Debian 12 in the private Tor network and tests the package on it: ./build.sh machine-test
 
-    machine_test.py PACKAGE.deb [WORD...]    the cases whose names have one of the words; all when there is none
+    machine_test.py PACKAGE.deb [WORD...]    the cases whose names contain one of the words; without words all cases
 
-Prints a table, also left in build/machine/table.md beside the pictures. Status 77, and why in one line, where it cannot run; 1 when a
-case failed; 2 when one could not be tried, so that nobody takes that for a pass.
+Prints a table, and writes it to build/machine/table.md beside the pictures. Status 77, with the reason in one line, where it cannot
+run; 1 when a case failed; 2 when one could not be tried, so that it does not count as a pass.
 """
 
 import os
@@ -29,11 +29,13 @@ import case_readme  # noqa: E402
 import case_sleep  # noqa: E402
 import case_tor  # noqa: E402
 import case_trouble  # noqa: E402
+import case_windows  # noqa: E402
 from stage import Broken, CannotRun, Stage  # noqa: E402
 
 FAILED, UNTRIED, SKIPPED = 1, 2, 77
 CASES = (
     case_desktop.CASES
+    | case_windows.CASES
     | case_tor.CASES
     | case_network.CASES
     | case_firewall.CASES

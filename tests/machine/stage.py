@@ -1,4 +1,4 @@
-"""What the cases share: the lab, the installed disk, the programs as a person runs them, and what must be as before."""
+"""Shared by the cases: the lab, the installed disk, the programs as a user runs them, and the state that must be restored."""
 
 import contextlib
 import time
@@ -17,11 +17,11 @@ PICTURES = FOLDER / "pictures"
 
 
 class CannotRun(Exception):
-    """Why a case cannot be tried on this machine; one line. It is no pass."""
+    """The reason why a case cannot be tried on this machine, in one line. It is no pass."""
 
 
 class Broken(AssertionError):
-    """What is not as it should be; one line for the table."""
+    """A failed expectation, as one line for the table."""
 
 
 def expect(condition, what: str) -> None:
@@ -42,13 +42,14 @@ class Stage:
     def __init__(self, lab, base: Path, package: Path):
         self.lab, self.base, self.package = lab, base, package
         self.leases = Leases(lab, base)
-        self.installed: list[str] = []  # layers with the package and Debian's tor, as apt has left them
+        self.installed: list[str] = []  # layers with the package and Debian's tor, as installed by apt
         self.folder = FOLDER
-        self.note = ""  # a word for the table, of the case that runs
+        self.note = ""  # a word for the table, from the running case
 
     @contextlib.contextmanager
     def machine(self, name: str, tor_service: bool = False, prepare=None):
-        """The installed machine, booted. `tor_service`: Debian's own tor is on, as apt leaves it. `prepare` gets it before that."""
+        """Boots the installed machine. `tor_service`: Debian's own tor runs, as after its installation. `prepare` is called with
+        the machine before the boot."""
         if not self.installed:
             raise CannotRun("the package could not be installed")
         self.leases.give(at.HOST_ADDRESS)
@@ -74,7 +75,7 @@ def direct(machine: Machine, address: str = at.WEB_ADDRESS) -> bool:
 
 
 def network(machine: Machine) -> dict[str, str]:
-    """What a session changes and must give back."""
+    """The settings that a session changes and must restore."""
     return {
         what: machine.shell(command)
         for what, command in {
@@ -103,7 +104,7 @@ def is_protected(s: dict) -> bool:
 
 
 def through_tor(machine: Machine, seconds: float = 15) -> bool:
-    """Whether the exit check answers a program of alice's that asks through Tor, and sees an exit."""
+    """Whether the exit check sees an exit when alice's program asks through Tor."""
     asked = machine.run(
         ["curl", "--silent", "--max-time", str(seconds), "--socks5-hostname", "127.0.0.1:9050", at.CHECK_URL],
         user=USER,
@@ -116,13 +117,14 @@ _OURS = (at.HOST_ADDRESS.rpartition(".")[0] + ".", at.HOST_ADDRESS6.rpartition("
 
 
 def _strangers(packets) -> list:
-    """What the machine has opened to others than relays."""
+    """The machine's connections to addresses that are no relays."""
     return [p for p in packets if p.out and p.is_opening and p.src.startswith(_OURS) and p.dst not in at.RELAY_ADDRESSES]
 
 
 @contextlib.contextmanager
 def watched(stage: "Stage"):
-    """Nothing but Tor's own may leave the machine while it lasts. That the watch sees more is shown by `connected`, before it begins."""
+    """Asserts that only Tor's own traffic leaves the machine during the context. `connected` shows beforehand that the watch sees
+    other traffic."""
     with stage.lab.capture() as capture:
         yield
     strangers = _strangers(capture.packets)
@@ -131,7 +133,7 @@ def watched(stage: "Stage"):
 
 @contextlib.contextmanager
 def connected(machine: Machine, strict: bool = True):
-    """A session of veldmarkctl's, run by root as on a server, which ends by Ctrl-C unless the test has ended it."""
+    """A session of veldmarkctl, run by root as on a server. Ctrl-C ends it unless the test has ended it."""
     ctl = product(machine)
     ctl.run_verb("set", "strictMode", "true" if strict else "false", check=True)
     with machine.lab.capture() as capture:

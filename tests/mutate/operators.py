@@ -1,7 +1,7 @@
 """Small mistakes of the usual kinds: in the text of one source file, every place where one can be made.
 
-mutants(path, text) gives a Mutant for each. They are found line by line with patterns and without a compiler: what the compiler
-or the shell refuses is thrown away by run.py. Texts and comments are left alone.
+mutants(path, text) yields a Mutant for each. Patterns find them line by line, without a compiler; run.py drops those that the
+compiler or the shell refuses. Texts and comments are left alone.
 """
 
 import re
@@ -12,7 +12,7 @@ from dataclasses import dataclass
 class Mutant:
     line: int  # from 1
     before: str  # the whole line, without its end
-    after: str  # what stands there instead; None in place of a line that goes
+    after: str  # the replacement; None removes the line
     kind: str
 
     def apply(self, text: str) -> str:
@@ -26,7 +26,7 @@ TOKEN = re.compile(r"""R"\((?:.|\n)*?\)"|"(?:\\.|[^"\\\n])*"|(?<![0-9A-Za-z])u?'
 
 
 def masked(text: str) -> str:
-    """The text with blanks in place of literals and comments (quotes stay), so that every column keeps its number."""
+    """The text with blanks in place of literals and comments; quotes stay, and every column keeps its number."""
 
     def blank(match):
         found = match.group()
@@ -82,7 +82,7 @@ def replaced(line: str, start: int, end: int, new: str) -> str:
 
 
 def in_expressions(line: str, mask: str):
-    """What C++ and QML have in common: (kind, the line with the mistake)."""
+    """The mistakes for both C++ and QML: (kind, the line with the mistake)."""
     for match in re.finditer(r"(?<= )(<=|>=|===|!==|==|!=|&&|\|\||<|>)(?= )", mask):
         yield "operator", replaced(line, *match.span(), COMPARISONS[match.group()])
     for match in re.finditer(r"(?<=[( ])!(?=[\w(])", mask):
@@ -130,7 +130,8 @@ def cpp_mutants(text: str):
                 yield Mutant(index + 1, line, replaced(line, *match.span(2), other), "constant swapped")
         former = next((m.strip() for m in reversed(masks[:index]) if m.strip()), "")
         following = next((m for m in masks[index + 1 :] if m.strip()), "")
-        # A line that is a whole statement; the last "return" of a function is none that could be forgotten.
+        # A line that is a whole statement. The last "return" of a function does not count: without it the function does not
+        # compile.
         if re.search(r"([;{}):]|\belse)$", former) and balanced(mask):
             indent = line[: len(line) - len(line.lstrip())]
             if LEAVE.match(statement) and not following.startswith("}"):
@@ -177,14 +178,14 @@ SHELL_TESTS = {
     ">=": ">",
     "=~": "==",
 }
-# A line that cannot be left out by itself, or means nothing alone.
+# A line that cannot be removed by itself, or has no effect of its own.
 FRAME = re.compile(
     r"(if|then|elif|else|fi|for|while|until|do|done|case|esac|local|readonly|trap)\b|[{})(]|\S*\)( |$)|;;|[\w ]+\(\) \{"
 )
 
 
 def shell_mutants(text: str):
-    ends = None  # the word that ends the text that we are in
+    ends = None  # the word that ends the present here-document
     former = ""
     for index, line in enumerate(text.split("\n")):
         statement = line.strip()
@@ -201,7 +202,7 @@ def shell_mutants(text: str):
                     yield made(replaced(line, *match.span(), str(int(match[1]) + 1)), "number changed")
             continue
         code = re.sub(r"(^|\s)#.*", lambda found: " " * len(found.group()), line)
-        # Nor sentences that the user reads.
+        # Sentences for the user are left alone, too.
         code = re.sub(r"'[^']*'|\"[A-Z][^\"]*\.\"", lambda found: "'" + " " * (len(found.group()) - 2) + "'", code)
         if not code.strip():
             continue

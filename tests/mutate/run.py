@@ -1,23 +1,22 @@
 #!/usr/bin/python3
-"""Puts small mistakes into the code, one at a time, and says which of them no test notices.
+"""Puts small mistakes into the code, one at a time, and prints those that no test notices.
 
 usage: run.py [ROOM...] [--count N] [--seed S] [--again] [--all] [--list]
 
-ROOM: a room of src/ (its C++), qml, helper or helper_mac (the root helper's parts); without one all rooms of the logic. N mistakes are
-made at lines that the seed chooses. Each is built, in a clone of the last commit in build/mutate, and run against the tests of its
-room; of the helper's, against those that touch its part.
+ROOM: a room of src/ (its C++), qml, helper or helper_mac (the root helper's parts); without one all rooms of the logic. The seed
+chooses the lines of N mistakes. Each mistake is built in a clone of the last commit in build/mutate, and run against the tests of
+its room; a mistake of the helper, against the tests that touch its part.
 
-A mistake that does not compile is thrown away and replaced by the next. It is noticed when the same case of a test fails twice, or a
-test takes ten times as long as without it. First those tests run without a mistake. Tests run behind walls.sh, where a mistake can do
-no harm.
+The next mistake replaces one that does not compile. A mistake is noticed when the same case of a test fails twice, or a test takes
+ten times as long as without it. Those tests first run without a mistake. Tests run behind walls.sh, where a mistake can do no harm.
 
-tests/mutate/aside.txt holds mistakes that change nothing anybody could notice, each with its reason. They are not counted.
+tests/mutate/aside.txt lists mistakes without any noticeable effect, each with its reason. They are not counted.
 
---all    what those tests miss is shown to the tests of the rooms that use this one as well, and to the helper's that last minutes
---again  the mistakes that survived the last run with these words, instead of new ones
+--all    tries missed mistakes against the tests of the rooms that use this one as well, and against the helper's long tests
+--again  takes the mistakes that survived the last run with these words, instead of new ones
 --list   only print the mistakes
 
-Exit status 1 when one survived.
+Exit status 1 when a mistake survived.
 """
 
 import argparse
@@ -33,7 +32,9 @@ import time
 from pathlib import Path
 
 sys.dont_write_bytecode = True
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools"))
 import operators  # pylint: disable=wrong-import-position
+from moving import Moving, say  # pylint: disable=wrong-import-position
 
 HERE = Path(__file__).resolve().parent
 PROJECT = HERE.parents[1]
@@ -52,17 +53,19 @@ LOGIC = (
     "controller",
     "instance",
 )
-# The helper's tests that touch a part; those of a part that is not here touch all.
+# The helper's tests that touch a part; a part that is not listed has all tests.
 TOUCHED = {
     "core": "parts options privileged programs owner",
     "main": "parts options privileged owner programs",
     "session": "parts session watcher",
     "addresses": "texts firewall parts",
     "files": "parts session texts watcher programs",
-    "linux-exempt": "launch firewall session",
+    "linux-bypass": "launch firewall session",
     "linux-loopback": "hostile",
     "linux-bundle": "bundle programs parts options",
     "linux-bridges": "texts firewall hostile",
+    "linux-identify": "identities account",
+    "linux-others": "others watcher session",
     "linux-firewall": "rules texts firewall session watcher",
     "linux-owner": "owner",
     "linux-proxy": "proxy",
@@ -82,12 +85,12 @@ TOUCHED = {
 HELPERS = ("helper", "helper_mac")
 ROOMS = LOGIC + ("ui", "app", "cli", "qml") + HELPERS
 LONG = r"/(kill-|trouble|cycles|failures|kill$)"
-NO_HELPER = r"^helper/namespace$"  # tests what the tests stand on
-# A clone and a fetch ask the repository by a program of their own, which does not hear that its owner may be another user.
+NO_HELPER = r"^helper/namespace$"  # tests of the tests' own tools
+# A clone and a fetch start another program for the repository. That program does not get the option that permits another owner.
 ASKED = "--upload-pack=git -c safe.directory='*' upload-pack"
 SKIPPED = "skipped"
 HANGS = "takes ten times as long"
-SLOWER = 10  # times the usual, and half a minute: hangs
+SLOWER = 10  # times the usual time, plus half a minute: the test hangs
 
 
 def link_lines() -> dict[str, set[str]]:
@@ -99,7 +102,7 @@ def link_lines() -> dict[str, set[str]]:
 
 
 class Room:
-    """Where its mistakes are made, and which tests are asked: its own, then those of who uses it, as patterns of CTest names."""
+    """The sources of its mistakes, and the tests for them: its own, then those of rooms that use it, as patterns of CTest names."""
 
     def __init__(self, name):
         self.name = name
@@ -108,7 +111,7 @@ class Room:
         )
         if name in HELPERS:
             self.tests = [rf"^{name}/", "^helper_mac/" if name == "helper" else ""]
-            self.targets = [["veldmark_helper", "veldmark-launch", "veldmark-launch-mac"]] * 2
+            self.targets = [["veldmark_helper", "veldmark-launch", "veldmark-launch-mac", "veldmark-identify"]] * 2
         elif name in ("qml", "ui"):
             self.tests = [r"^(unit/)?ui/(?!WindowsFit-|accessibility)", "^unit/app/"]
             self.targets = [["test-ui", "suite-ui"], ["test-app"]]
@@ -129,7 +132,7 @@ class Room:
 
 
 class Aside:
-    """tests/mutate/aside.txt: blocks of a file's path, "- LINE", "+ LINE" (none: the line goes) and the reason."""
+    """tests/mutate/aside.txt: blocks of a file's path, "- LINE", "+ LINE" (none: the line is removed) and the reason."""
 
     def __init__(self, text):
         self.known = {}
@@ -175,7 +178,7 @@ class Clone:
         self.build = self.place / "build/dev"
         self.commit = self.git(PROJECT, "rev-parse", "HEAD")
         if self.git(PROJECT, "status", "--porcelain", "--untracked-files=no"):
-            print("What is not committed is not looked at.")
+            print("Uncommitted changes are ignored.")
         if not self.place.is_dir():
             self.git(ROOT, "clone", "--quiet", "--shared", "--no-checkout", ASKED, str(PROJECT), self.place.name)
         self.git(self.place, "fetch", "--quiet", ASKED, str(PROJECT), "HEAD")
@@ -190,13 +193,14 @@ class Clone:
                 if subprocess.run(["which", "ccache"], capture_output=True).returncode == 0
                 else []
             )
-            subprocess.run(
-                ["cmake", "--preset", "dev", "-DVELDMARK_UNITY=OFF", *launcher],
-                cwd=self.place,
-                check=True,
-                stdout=subprocess.DEVNULL,
-            )
-        # CTest is asked before anything is compiled, and must know this commit's tests.
+            with Moving("Configuring"):
+                subprocess.run(
+                    ["cmake", "--preset", "dev", "-DVELDMARK_UNITY=OFF", *launcher],
+                    cwd=self.place,
+                    check=True,
+                    stdout=subprocess.DEVNULL,
+                )
+        # CTest lists the tests before anything is compiled, and must know this commit's tests.
         status, said = self.compile(["build.ninja"])
         if status:
             sys.exit(said)
@@ -208,16 +212,22 @@ class Clone:
         ).stdout.strip()
 
     def compile(self, targets):
-        """Status 0 when it compiles, and what was said."""
+        """Compiles; returns the status (0: it compiles) and the output."""
         environment = {"CCACHE_SLOPPINESS": "pch_defines,time_macros", **os.environ}
-        done = subprocess.run(
+        said = ""
+        with Moving("Compiling") as moving, subprocess.Popen(
             ["cmake", "--build", self.build, "-j2", "--target", *targets],
             env=environment,
-            capture_output=True,
+            stdout=subprocess.PIPE,
+            stderr=subprocess.STDOUT,
             text=True,
             errors="replace",
-        )
-        return done.returncode, done.stdout + done.stderr
+        ) as process:
+            for line in process.stdout:
+                said += line
+                if counted := re.match(r"\[(\d+)/(\d+)\]", line):
+                    moving.step(*map(int, counted.groups()))
+        return process.returncode, said
 
     def tests(self, pattern):
         if not pattern:
@@ -238,7 +248,7 @@ class Test:
         self.limit = float(properties.get("TIMEOUT", 1200))
 
     def run(self, clone, *case):
-        """ "" when it passed, SKIPPED, else the case that failed, or how it did. Of one case alone when that is named."""
+        """ "" when it passed, SKIPPED, else the failed case or the kind of failure. Runs a single case when one is named."""
         with subprocess.Popen(
             [HERE / "walls.sh", *self.command, *case],
             cwd=clone.build,
@@ -252,7 +262,7 @@ class Test:
             try:
                 output, _ = process.communicate(timeout=self.usual * SLOWER + 30 if self.usual else self.limit)
             except subprocess.TimeoutExpired:
-                process.kill()  # the walls fall with it, and whatever runs inside
+                process.kill()  # the walls and every process inside end with it
                 process.communicate()
                 return HANGS
         if process.returncode == 125:
@@ -264,8 +274,8 @@ class Test:
 
 
 class Proved:
-    """The tests of a room in those two groups. Each is proved to pass without a mistake before it is asked, which gives its usual time.
-    What was proved is remembered for as long as neither the program nor its tests change."""
+    """The tests of a room in those two groups. Each must pass without a mistake before it is used, which also gives its usual time.
+    The result is kept as long as neither the program nor its tests change."""
 
     def __init__(self, clone, room, ask_all):
         self.clone, self.targets, self.groups = clone, room.targets, [None, None]
@@ -293,16 +303,21 @@ class Proved:
             ]
         return self.groups[number]
 
-    def require(self, tests):
-        """They pass now, without a mistake."""
+    def require(self, number, tests):
+        """Asserts that they pass now, without a mistake. The build may still contain the last one."""
+        if any(not test.usual and not self.times().get(test.name) for test in tests):
+            status, said = self.clone.compile(self.targets[number])
+            if status:
+                sys.exit(said)
         for test in tests:
             test.usual = test.usual or self.times().get(test.name) or self.prove(test)
 
     def prove(self, test):
         started = time.monotonic()
-        failed = test.run(self.clone)
+        with Moving(f"{test.name} without a mistake"):
+            failed = test.run(self.clone)
         if failed == SKIPPED:
-            print(f"{test.name} is skipped here, so it can notice nothing")
+            say(f"{test.name} is skipped here, so it can notice nothing")
         elif failed:
             sys.exit(f"{test.name} fails without a mistake ({failed}), so it can tell nothing")
         usual = round(time.monotonic() - started, 2)
@@ -311,7 +326,7 @@ class Proved:
 
 
 def kin(path, test):
-    """How much a test's name has to do with the file's: 0 most, so that it runs first."""
+    """How far a test's name is from the file's: 0 is closest and runs first."""
     words = lambda name: set(re.findall(r"[A-Z][a-z]+|[A-Z]+(?![a-z])|[a-z]+", re.sub(r"linux|darwin|Test|test", "", name)))
     mine, its = words(Path(path).stem), words(test.name.rsplit("/", 1)[1])
     return -len({word.lower()[:5] for word in mine} & {word.lower()[:5] for word in its})
@@ -325,7 +340,7 @@ def noticed_by(clone, path, mutant, proved):
         tests = [test for test in tests if not touched or test.name.rsplit("/", 1)[1] in touched or re.search(LONG, test.name)]
         if not tests:
             continue
-        proved.require(tests)
+        proved.require(number, tests)
         file = clone.place / path
         original = file.read_text()
         try:
@@ -341,7 +356,7 @@ def noticed_by(clone, path, mutant, proved):
                 how = test.run(clone)
                 if how in ("", SKIPPED):
                     continue
-                # A crash names no case: the whole again.
+                # A crash names no case, so the whole test runs again.
                 if how == HANGS or test.run(clone, *([how] if " " not in how else [])):
                     return f"{test.name} ({how})"
         finally:
@@ -388,7 +403,9 @@ def main():
         if aside.reason(path, mutant):
             put_aside += 1
             continue
-        by = noticed_by(clone, path, mutant, proved.setdefault(room.name, Proved(clone, room, given.all)))
+        tests = proved.setdefault(room.name, Proved(clone, room, given.all))
+        with Moving(f"{noticed + len(survivors) + 1}/{given.count} {path}:{mutant.line}"):
+            by = noticed_by(clone, path, mutant, tests)
         if by == "":
             refused += 1
         elif by:

@@ -1,6 +1,7 @@
-"""The mistakes that are put into the code: what is made of a line, and what is left alone."""
+"""The mistakes for the code: the variants of a line, and the lines that are left alone."""
 
 import os
+import re
 import sys
 import tempfile
 import unittest
@@ -13,7 +14,7 @@ import run
 
 
 def made(path, text, *line):
-    """What the mistakes make of the whole text, or of its lines from one to another (None: the line goes)."""
+    """The variants of the whole text, or of its lines in a range (None: the line is removed)."""
     return {
         mutant.after if mutant.after is None else mutant.after.strip()
         for mutant in operators.mutants(path, text)
@@ -164,11 +165,52 @@ class Runs(unittest.TestCase):
         told = run.subprocess.run(git + ["log"], capture_output=True, text=True, check=False)
         self.assertIn("dubious ownership", told.stderr)
         with unittest.mock.patch.multiple(run, PROJECT=project, ROOT=folder / "mutate"):
-            for _ in range(2):  # the second time there is a clone
+            for _ in range(2):  # the second time the clone exists
                 clone = run.Clone("code")
                 self.assertEqual(clone.commit, commit)
                 self.assertTrue((clone.place / "CMakeLists.txt").exists())
                 clone.lock.close()
+
+    def test_what_the_helpers_tests_need_is_built(self):
+        texts = [file.read_text() for file in (run.PROJECT / "tests/helper").glob("test_*.py")]
+        needed = {name for text in texts for name in re.findall(r"build the target ([a-z-]+) first", text)}
+        self.assertIn("veldmark-identify", needed)
+        for name in run.HELPERS:
+            for targets in run.Room(name).targets:
+                self.assertLessEqual(needed, set(targets))
+
+    def test_no_test_is_proved_on_the_last_mistake(self):
+        """The file is as it was again, but what is built from it is not yet."""
+        folder = Path(self.enterContext(tempfile.TemporaryDirectory()))
+        source, built = folder / "file.sh", folder / "built"
+        source.write_text("true\n")
+        built.write_text("true\n")
+
+        class Clone:
+            place = folder
+
+            @staticmethod
+            def compile(targets):
+                built.write_text(source.read_text())
+                return 0, ""
+
+        class Passing:
+            usual = 0.0
+
+            def __init__(self, name):
+                self.name = name
+
+            def run(self, clone, *case):
+                return "" if built.read_text() == "true\n" else "a_case"
+
+        proved = object.__new__(run.Proved)
+        proved.clone, proved.targets, proved.ask_all, proved.note = Clone, [["all"]], False, folder / "times.json"
+        proved.groups = [[Passing("helper/first")]]
+        mistake = operators.Mutant(1, "true", "false", "")
+        self.assertEqual(run.noticed_by(Clone, "file.sh", mistake, proved), "helper/first (a_case)")
+        self.assertEqual((source.read_text(), built.read_text()), ("true\n", "false\n"))
+        proved.groups = [[Passing("helper/second")]]
+        self.assertEqual(run.noticed_by(Clone, "file.sh", mistake, proved), "helper/second (a_case)")
 
     def test_the_walls_hold(self):
         tried = run.subprocess.run(

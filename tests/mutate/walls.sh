@@ -1,19 +1,19 @@
 #!/bin/bash
-# walls.sh COMMAND...: runs a test of a program with a mistake in it where it can do no harm, whatever the mistake is: without a
-# network, where it sees no process but its own, and where nothing can be written but /tmp, /run and the like, which are empty, in memory
-# and its own. Status 125 when the walls cannot be built.
+# walls.sh COMMAND...: runs a test of a program with a mistake where no mistake can do harm. It has no network, and sees only its
+# own processes. It can write only to /tmp, /run and similar folders, which are empty, in memory and its own. Status 125 when the
+# walls cannot be built.
 set -u
 if [[ ${1-} != --inside ]]; then
     user=()
     [[ $EUID -eq 0 ]] || user=(--user --map-root-user)
-    # Without the one who asked it ends at once.
+    # It ends at once with the caller.
     exec setpriv --pdeathsig KILL unshare ${user[@]+"${user[@]}"} --mount --net --pid --fork --kill-child --mount-proc /bin/bash -- "$0" --inside "$@"
 fi
 shift
 {
     mount --make-rprivate /
     ip link set lo up
-    # Of what is mounted below, control groups and devices stay as they are.
+    # Mounts of control groups and devices stay unchanged.
     while read -r place kind; do
         case $place,$kind in
         /proc* | /sys* | /dev*) ;;
@@ -28,7 +28,8 @@ export HOME=/tmp/home TMPDIR=/tmp
 unset XDG_RUNTIME_DIR DBUS_SESSION_BUS_ADDRESS DISPLAY WAYLAND_DISPLAY
 "$@"
 status=$?
-# What a test has left to clear up after it (its control group) gets its time: the first process takes all others with it.
+# A test may have left a process that cleans up (its control group). It gets time here, since the first process takes all others
+# with it.
 for ((wait = 0; wait < 250; wait++)); do
     shopt -s nullglob
     processes=(/proc/[0-9]*)

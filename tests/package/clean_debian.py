@@ -1,11 +1,11 @@
-"""A clean Debian 12 in a folder, as the place where the package is installed, inside the lab's host.
+"""A clean Debian 12 in a folder, inside the lab's host. The package is installed there.
 
     with CleanDebian(lab, base) as debian:
         debian.run(["apt-get", "install", "-y", "/packages/x.deb"], check=True)
 
-`prepare` makes the folder once, from the registry that this machine's own apt uses, with nothing in it but what
-debootstrap calls minimal, and fetches (but does not install) what the package asks for. In the lab there is no way to
-the registry, so that what is installed there is what the package's own fields name.
+`prepare` makes the folder once from the registry of this machine's own apt. It contains only debootstrap's minimal system.
+`prepare` also fetches, but does not install, the package's dependencies. The lab has no route to the registry, so only packages
+that the package's own fields name get installed there.
 """
 
 import contextlib
@@ -13,14 +13,16 @@ import os
 import shutil
 import subprocess
 import sys
+import tempfile
 from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parent))
+sys.path[:0] = [str(Path(__file__).resolve().parent), str(Path(__file__).resolve().parents[2] / "tools")]
 
 from moving import Moving  # noqa: E402
 
 RELEASE = "bookworm"
 USER, UID = "alice", 1000
+PROGRESS = Path(__file__).resolve().parents[2] / "tools" / "progress.sh"
 _ENVIRONMENT = {"LANG": "C.UTF-8", "DEBIAN_FRONTEND": "noninteractive"}
 _START_NOTHING = "#!/bin/sh\nexit 101\n"
 _SETUP = r"""
@@ -46,11 +48,11 @@ chmod 700 /run/user/1000
 
 
 class Unprepared(Exception):
-    """Why there is no clean Debian here; one line."""
+    """The reason why there is no clean Debian here, in one line."""
 
 
 def registry() -> str:
-    """Where this machine's own apt gets Debian 12 from."""
+    """The registry from which this machine's own apt gets Debian 12."""
     try:
         targets = subprocess.run(
             ["apt-get", "indextargets", "--format", "$(SITE) $(RELEASE)"], check=True, capture_output=True, text=True
@@ -64,21 +66,38 @@ def registry() -> str:
     raise Unprepared(f"The apt sources of this machine name no registry of Debian 12 ({RELEASE}).")
 
 
+def unprepared(what: str, log: Path, began: int) -> Unprepared:
+    """Why a step failed whose output is in `log` from byte `began` on, in the words that build.sh has for it."""
+    reason = ""
+    with contextlib.suppress(OSError), tempfile.NamedTemporaryFile() as part:
+        part.write(log.read_bytes()[began:])
+        part.flush()
+        reason = subprocess.run(
+            ["/bin/bash", "-c", 'source "$1" && explain_failure "$2"', "bash", PROGRESS, part.name],
+            capture_output=True,
+            text=True,
+            check=False,
+        ).stdout.strip()
+    return Unprepared(reason or f"{what} failed; see {log}")
+
+
 def _do(log: Path, what: str, *words) -> None:
     with open(log, "ab") as output, Moving(what):
-        if subprocess.run(
+        began = output.tell()
+        done = subprocess.run(
             list(map(str, words)),
             stdout=output,
             stderr=output,
             stdin=subprocess.DEVNULL,
             env=os.environ | _ENVIRONMENT,
             check=False,
-        ).returncode:
-            raise Unprepared(f"{what} failed; see {log}")
+        )
+    if done.returncode:
+        raise unprepared(what, log, began)
 
 
 def minimal(folder: Path) -> Path:
-    """What debootstrap calls minimal and nothing else, made once in `folder`. Remove the folder to begin anew."""
+    """Makes debootstrap's minimal system once in `folder`. Remove the folder to make it again."""
     base = folder / "minimal"
     if shutil.which("debootstrap") is None:
         raise Unprepared("debootstrap is not installed; ./build.sh deps does it")
@@ -100,8 +119,8 @@ def minimal(folder: Path) -> Path:
 
 
 def prepare(folder: Path, package: Path) -> Path:
-    """Makes the base in `folder` unless it is there, and fetches the package's dependencies into it when they are others
-    than last time. Remove the folder to begin anew."""
+    """Makes the base in `folder` unless it exists, and fetches the package's dependencies into it when they have changed. Remove
+    the folder to make it again."""
     base = folder / "base"
     log = folder / "log"
     if not base.exists():
@@ -114,7 +133,7 @@ def prepare(folder: Path, package: Path) -> Path:
     needs = subprocess.run(
         ["dpkg-deb", "--field", package, "Depends", "Recommends"], check=True, capture_output=True, text=True
     ).stdout
-    fetched = folder / "fetched"  # what the packages that lie in the base were fetched for
+    fetched = folder / "fetched"  # the dependencies that the base's packages were fetched for
     if fetched.exists() and fetched.read_text() == needs:
         return base
     shutil.copy("/etc/resolv.conf", base / "etc/resolv.conf")
@@ -139,9 +158,9 @@ def prepare(folder: Path, package: Path) -> Path:
 
 
 class CleanDebian(contextlib.AbstractContextManager):
-    """One root folder in the lab's host, over `base`; with `over`, on top of what another one has become.
+    """A root folder in the lab's host, an overlay over `base`; with `over`, over another one's present state.
 
-    It has the lab's network, processes and control groups, and files of its own, which stay in memory.
+    It has the lab's network, processes and control groups. Its own files are in memory.
     """
 
     def __init__(self, lab, base: Path, name: str, over: "CleanDebian | None" = None):

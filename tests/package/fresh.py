@@ -1,21 +1,23 @@
 #!/usr/bin/python3
-"""The README's commands as a stranger runs them: from a clone of the last commit, on a Debian 12 with nothing installed.
+"""Runs the README's commands like a new user: from a clone of the last commit, on a minimal Debian 12.
 
-usage: fresh.py [--short | --quick] [--without PACKAGE] [--cold] [--again] [VERB...]
+usage: fresh.py [--short | --quick] [--without PACKAGE] [--cold] [--again] [--keep] [VERB...]
 
-VERB       demo, test, package (all three when none is named); "test" with further words: "test controller"
---short    leaves out tests that take minutes and need no program that the others do not
---quick    of the tests only a few, which between them call every program that a test needs; what .ci/run does
---without  takes a package out of the clone's list first, to see that this notices
---cold     compiles everything, without the compiler cache of this machine
---again    goes on in the first system as a failed run has left it, with what has been committed since: to mend what failed, no proof
+VERB       demo, test, package (default: all three); "test" may have further words: "test controller"; or one of the other verbs of
+           build.sh with its words: "soak --cycles 2"
+--short    leaves out tests that take minutes and need no further programs
+--quick    runs only a few tests, which between them call every program that a test needs; .ci/run does this
+--without  takes a package out of the clone's list first, to show that the run notices it
+--cold     compiles everything, without this machine's compiler cache
+--again    continues in the first system of a former run, with the commits since then; helps to fix a failure, but proves nothing
+--keep     keeps the first system also when everything passed
 
-The package is made twice, in two such systems, in folders of other names and a day apart, and has to have the same bytes; that
-is compiled without a cache. A skipped test fails. Exit status 0 when everything went as it should, 1 with one line when something
-did not or when this machine cannot run it.
+The package is made twice, in two such systems, in folders of different names and a day apart, and must have the same bytes. It is
+compiled without a cache. A skipped test is a failure. Exit status 0 when everything passed; 1 with one line when something failed
+or this machine cannot run it.
 
-The minimal Debian and the packages that were fetched are kept in $XDG_CACHE_HOME/veldmark-fresh (~/.cache), for all checkouts.
-Remove it to begin anew.
+The minimal Debian and the fetched packages are kept in $XDG_CACHE_HOME/veldmark-fresh (~/.cache), for all checkouts. Remove the
+folder to make them again.
 """
 
 import argparse
@@ -30,7 +32,7 @@ import time
 from pathlib import Path
 
 sys.dont_write_bytecode = True
-sys.path.insert(0, str(Path(__file__).resolve().parent))
+sys.path[:0] = [str(Path(__file__).resolve().parent), str(Path(__file__).resolve().parents[2] / "tools")]
 
 from clean_debian import Unprepared, minimal  # noqa: E402
 from moving import Moving  # noqa: E402
@@ -39,20 +41,37 @@ PROJECT = Path(__file__).resolve().parents[2]
 WORK = PROJECT / "build" / "fresh"
 KEPT = Path(os.environ.get("XDG_CACHE_HOME") or Path.home() / ".cache") / "veldmark-fresh"
 VERBS = ("demo", "test", "package")
+OTHERS = (
+    "deps",
+    "build",
+    "run",
+    "asan",
+    "tsan",
+    "apple",
+    "coverage",
+    "format",
+    "mutate",
+    "fuzz",
+    "soak",
+    "bench",
+    "package-test",
+    "machine-test",
+    "dist",
+)
 SHORT = ("-LE", "^long$", "-E", "^(lab/(trouble|sessions|leakcheck)|helper/(kill-.*|trouble|cycles)|ui/(Buttons|WindowsFit-.*))$")
-# Each unit test, what judges the sources and the package, and of the suites that call further programs at least one each:
+# Each unit test, the tests of the sources and the package, and at least one test of each suite that calls further programs:
 # polkit and pkexec (prompt), gpg (download), ssh, zsh and git (terminal), nc and ping (lab), a desktop's (desktop), clang's (fuzz).
 QUICK = (
     "-R",
     "^(unit/.*|house/.*|package/(files|registry)|ui/(accessibility|qmllint|translation)|fuzz/LogFuzz|"
     "helper/(namespace|launch|resolved)|lab/(lab|prompt|download|terminal|desktop))$",
 )
-# Where ordinary users can read them, since tests run programs as one.
+# A folder that ordinary users can read, since tests run programs as such a user.
 PLACES = {"first": "/srv/veldmark", "second": "/srv/a stranger/veld mark"}
 
-# Makes the tree $1 the root of new mount and process namespaces and runs the rest of the words in it, with the machine's own
-# network: the registry has to be reached. $2 and $3 are kept on this machine: fetched packages, and the compiler's cache.
-# A change of root alone would not do: whoever enters these namespaces, as the lab's commands do, finds himself in their first root.
+# Makes the tree $1 the root of new mount and process namespaces and runs the other arguments in it, with the machine's own network,
+# since the registry must be reachable. $2 and $3 are folders of this machine: fetched packages, and the compiler's cache. chroot
+# alone is not enough: a process that enters these namespaces, like the lab's commands, starts in their first root.
 ENTER = r"""
 set -eu
 tree=$1 archives=$2 cache=$3
@@ -76,7 +95,7 @@ exec /usr/bin/env -i HOME=/root USER=root LOGNAME=root LANG=C.UTF-8 \
 """
 
 
-# A clone and a fetch ask the repository by a program of their own, which does not hear that its owner may be another user.
+# A clone and a fetch start another program for the repository. That program does not get the option that permits another owner.
 ASKED = "--upload-pack=git -c safe.directory='*' upload-pack"
 
 
@@ -85,7 +104,7 @@ class Failed(Exception):
 
 
 class Step:
-    """How long something took, with the processor's time of the programs that were run for it; all are told at the end."""
+    """A step with its duration and the processor time of its programs; all steps are printed at the end."""
 
     done: list[str] = []
 
@@ -107,7 +126,7 @@ def own_git(*words: str) -> str:
 
 
 def compiler_cache() -> str:
-    """The folder of this machine's compiler cache, or nothing."""
+    """The folder of this machine's compiler cache, or None."""
     if shutil.which("ccache") is None:
         return ""
     folder = subprocess.run(["ccache", "--get-config", "cache_dir"], capture_output=True, text=True, check=False).stdout.strip()
@@ -118,7 +137,7 @@ def compiler_cache() -> str:
 
 
 class Stranger:
-    """A minimal Debian of its own with a clone of `commit` at `place`."""
+    """A minimal Debian with a clone of `commit` at `place`."""
 
     def __init__(self, name: str, base: Path, commit: str, cache: str, again: bool = False):
         self.name, self.place, self.commit, self.cache = name, PLACES[name], commit, cache
@@ -129,7 +148,7 @@ class Stranger:
         self.clone = self.tree / self.place.lstrip("/")
         if again:
             if not (self.clone / ".git").exists():
-                raise Failed("there is no run that failed; leave out --again")
+                raise Failed("there is no system of an earlier run; leave out --again")
             subprocess.run(["git", "-C", self.clone, "fetch", "--quiet", ASKED, PROJECT, "HEAD"], check=True)
             subprocess.run(["git", "-C", self.clone, "reset", "--quiet", "--hard", commit], check=True)
             return
@@ -141,11 +160,11 @@ class Stranger:
         self.clone.parent.mkdir(parents=True, exist_ok=True)
         with Moving("Cloning the last commit"):
             own_git("clone", "--quiet", "--no-hardlinks", ASKED, str(PROJECT), str(self.clone))
-        # Both systems get the same one, whatever is committed meanwhile.
+        # Both systems get the same commit, also when there is a new one meanwhile.
         subprocess.run(["git", "-C", self.clone, "-c", "advice.detachedHead=false", "checkout", "--quiet", commit], check=True)
 
     def run(self, *words: str, environment: dict[str, str] | None = None, **options) -> subprocess.CompletedProcess:
-        """The words in the clone, their output on ours unless asked otherwise."""
+        """Runs the words in the clone; their output goes to this program's unless asked otherwise."""
         variables = dict(environment or {})
         command = f"cd {shlex.quote(self.place)} && exec {shlex.join(words)}"
         return subprocess.run(
@@ -187,13 +206,13 @@ class Stranger:
 
 
 def processor_time() -> float:
-    """Seconds that the programs which this one has run have used."""
+    """The processor time, in seconds, of this program's children."""
     usage = resource.getrusage(resource.RUSAGE_CHILDREN)
     return usage.ru_utime + usage.ru_stime
 
 
 def remove(tree: Path) -> None:
-    # Nothing of the machine is mounted in it any more: mounts were made in namespaces that have ended.
+    # No folder of the machine is mounted in it any more: the mounts' namespaces have ended.
     if tree.exists():
         with Moving("Removing a former system"):
             subprocess.run(["rm", "-rf", "--one-file-system", tree], check=True)
@@ -204,7 +223,7 @@ def heading(text: str) -> None:
 
 
 def without(stranger: Stranger, package: str) -> None:
-    """Takes the package out of the clone's list, as if it had been forgotten."""
+    """Removes the package from the clone's list, as if it were missing."""
     file = stranger.clone / "tools/deps.sh"
     lines = file.read_text().splitlines(keepends=True)
     changed = [
@@ -224,7 +243,7 @@ def digest(folder: Path) -> tuple[str, str]:
 
 
 def tomorrow(stranger: Stranger) -> dict[str, str]:
-    """Variables that set the clock of whatever runs with them to the next day."""
+    """Variables that set the clock of a program to the next day."""
     heading("tomorrow's clock for the second system")
     with Moving("Installing the program that sets a clock for others"):
         installed = stranger.run(
@@ -246,7 +265,7 @@ def tomorrow(stranger: Stranger) -> dict[str, str]:
 
 
 def same_package(first: Stranger, base: Path) -> None:
-    """Two systems, two folders, two days: the same bytes."""
+    """Makes the package in two systems, two folders and on two days, and compares the bytes."""
     uncached = {"CCACHE_DISABLE": "1"}
     first.verb("package", environment=uncached)
     second = Stranger("second", base, first.commit, "")
@@ -263,8 +282,10 @@ def verify(arguments: argparse.Namespace) -> None:
     if subprocess.run(["unshare", "--mount", "--pid", "--fork", "true"], capture_output=True, check=False).returncode != 0:
         raise Failed("this machine does not permit namespaces")
     words = arguments.verbs or list(VERBS)
-    if words[0] not in VERBS:
-        raise Failed(f"'{words[0]}' is none of: {', '.join(VERBS)}")
+    alone = words[0] in OTHERS or words[0] == "test" and len(words) > 1
+    for word in words[:1] if alone else words:
+        if word not in VERBS + OTHERS:
+            raise Failed(f"'{word}' is none of: {', '.join(VERBS + OTHERS)}")
     step = Step("a minimal Debian")
     base = minimal(KEPT)
     step.end()
@@ -274,7 +295,7 @@ def verify(arguments: argparse.Namespace) -> None:
     if arguments.without:
         without(stranger, arguments.without)
     strict = {"VELDMARK_NO_SKIPS": "1"}
-    if len(words) > 1 and words[0] == "test":  # some tests only
+    if alone:
         stranger.verb(*words, environment=strict)
         return
     for verb in words:
@@ -287,7 +308,7 @@ def verify(arguments: argparse.Namespace) -> None:
 
 def main() -> int:
     parser = argparse.ArgumentParser(
-        usage="./build.sh fresh-test [--short | --quick] [--without PACKAGE] [--cold] [--again] [VERB...]"
+        usage="./build.sh fresh-test [--short | --quick] [--without PACKAGE] [--cold] [--again] [--keep] [VERB...]"
     )
     share = parser.add_mutually_exclusive_group()
     share.add_argument("--short", action="store_true")
@@ -295,17 +316,20 @@ def main() -> int:
     parser.add_argument("--without", metavar="PACKAGE")
     parser.add_argument("--cold", action="store_true")
     parser.add_argument("--again", action="store_true")
-    parser.add_argument("verbs", nargs="*")
+    parser.add_argument("--keep", action="store_true")
+    parser.add_argument("verbs", nargs=argparse.REMAINDER)
+    arguments = parser.parse_args()
     started = time.monotonic()
     try:
-        verify(parser.parse_args())
+        verify(arguments)
     except (Failed, Unprepared, OSError, subprocess.CalledProcessError) as reason:
         Step.table()
         print(f"fresh-test: {reason}", file=sys.stderr)
         return 1
     Step.table()
-    for name in PLACES:  # what failed stays, to be looked at
-        remove(WORK / name)
+    for name in PLACES:  # a failed system is kept for inspection
+        if name != "first" or not arguments.keep:
+            remove(WORK / name)
     print(f"\nfresh-test: everything went as it should, in {time.monotonic() - started:.0f} s", flush=True)
     return 0
 

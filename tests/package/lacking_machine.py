@@ -4,8 +4,8 @@
         machine.start_registry()
         machine.build("deps", user="alice")
 
-The programs are the real ones: apt, dpkg, sudo, the compiler. What they change stays in memory and goes with the machine.
-The checkout in it has the real build.sh and tools, and for the rest a project of one small program, in a folder with blanks.
+The programs are the real ones: apt, dpkg, sudo, the compiler. Their changes are in memory and go with the machine. Its checkout has
+the real build.sh and tools, and otherwise a project of one small program, in a folder with blanks.
 """
 
 import contextlib
@@ -74,7 +74,7 @@ PRESETS = """{"version": 6, "configurePresets": [
   {"name": "release", "generator": "Ninja", "binaryDir": "${sourceDir}/build/${presetName}"}],
   "testPresets": [{"name": "dev", "configurePreset": "dev"}]}
 """
-# Four megabytes that no compiler makes smaller.
+# Four megabytes that no compiler can shrink.
 MAIN = "import random; random.seed(1); print('unsigned char filler[] = {%s};' % ','.join(str(random.randrange(256)) for _ in range(1 << 20)))"
 
 
@@ -123,7 +123,7 @@ class LackingMachine(contextlib.AbstractContextManager):
         self.pid = int(children.read_text().split()[0])
         self.processes: list[subprocess.Popen] = []
         try:
-            # Before that its root is this machine's own.
+            # Before this its root is this machine's own.
             if not self.path("/run/lacking-machine").exists():
                 raise RuntimeError("the machine is not in its own files")
             self._checkout()
@@ -176,7 +176,7 @@ class LackingMachine(contextlib.AbstractContextManager):
         )
 
     def start(self, script: str) -> subprocess.Popen:
-        """Something that goes on beside; returns once it has said a line."""
+        """Starts a background process; returns once it has printed a line."""
         process = subprocess.Popen(self._command(script, "root"), stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True)
         self.processes.append(process)
         process.stdout.readline()
@@ -192,7 +192,7 @@ class LackingMachine(contextlib.AbstractContextManager):
         shutil.copy(PROJECT / "build.sh", folder)
         for file in (PROJECT / "tools").glob("*.sh"):
             shutil.copy(file, folder / "tools")
-        # The way in which packages are installed is under test, not the list of them.
+        # The test is about the installation of packages, not about their list.
         with open(folder / "tools/deps.sh", "a", encoding="utf-8") as deps:
             deps.write(f"compiling_packages=({PACKAGE}) running_packages=() packaging_packages=() development_packages=()\n")
         (folder / "CMakeLists.txt").write_text(CMAKE)
@@ -204,7 +204,7 @@ class LackingMachine(contextlib.AbstractContextManager):
         self.run(f"chown -R {user}:{user} {shlex.quote(inside)}")
 
     def fill_source(self) -> None:
-        """A program that needs room to be compiled."""
+        """A program whose compilation needs disk space."""
         self.run(
             f"cd {shlex.quote(CHECKOUT)} && {{ /usr/bin/python3 -c {shlex.quote(MAIN)}; echo 'int main() {{ return filler[1]; }}'; }} >main.cpp"
         )
@@ -234,12 +234,12 @@ class LackingMachine(contextlib.AbstractContextManager):
         self.run("cd /srv/registry && dpkg-scanpackages --multiversion . >Packages 2>/dev/null")
 
     def connect(self) -> None:
-        """A network in which the registry answers."""
+        """Connects a network in which the registry answers."""
         self.run("grep -q registry.test /etc/hosts || echo '127.0.0.1 registry.test' >>/etc/hosts")
         self.start(
             "cd /srv/registry && exec /usr/bin/python3 -uc 'import functools, http.server as h\n"
             "class Quiet(h.SimpleHTTPRequestHandler):\n    def log_message(self, *_): pass\n"
-            # Whether a file is newer is a question of whole seconds: it is always sent.
+            # File times have whole seconds, so the server always sends the file.
             '    def send_head(self):\n        del self.headers["If-Modified-Since"]\n        return super().send_head()\n'
             'server = h.ThreadingHTTPServer(("127.0.0.1", 8099), Quiet)\nprint()\nserver.serve_forever()\''
         )

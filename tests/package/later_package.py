@@ -1,4 +1,4 @@
-"""A later version of a Debian package of ours, to upgrade to."""
+"""Makes a later version of a Debian package, for an upgrade."""
 
 import re
 import subprocess
@@ -8,7 +8,7 @@ HELPER = "/usr/share/veldmark/veldmark-helper.sh"
 
 
 def newer(package: Path, folder: Path) -> Path:
-    """The same package as a later version whose helper is another file."""
+    """The same package as a later version with a different helper."""
     tree = folder / "newer"
     subprocess.run(["dpkg-deb", "--raw-extract", package, tree], check=True)
     control = tree / "DEBIAN/control"

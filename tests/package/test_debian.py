@@ -1,4 +1,4 @@
-"""The Debian package on a clean Debian 12 with nothing but what it names itself, in the private Tor network.
+"""The Debian package on a clean Debian 12 with only its own dependencies, in the private Tor network.
 
     test_debian.py PACKAGE.deb [unittest arguments]
 
@@ -17,7 +17,7 @@ from pathlib import Path
 
 sys.dont_write_bytecode = True
 HERE = Path(__file__).resolve().parent
-sys.path[:0] = [str(HERE), str(HERE.parent / "lab")]
+sys.path[:0] = [str(HERE), str(HERE.parent / "lab"), str(HERE.parents[1] / "tools")]
 
 from clean_debian import CleanDebian, Unprepared, prepare  # noqa: E402
 from later_package import HELPER, newer  # noqa: E402
@@ -31,7 +31,7 @@ MARKER = "/var/lib/veldmark/state/active"
 SKIPPED = 77
 PROBE_PORT = 4999
 
-# One datagram and one connection attempt to the world, again and again, each time as nobody.
+# Sends a datagram and a connection attempt to the world as nobody, repeatedly.
 PROBE = f"""
 import os, socket, time
 os.setgid(65534); os.setuid(65534)
@@ -48,12 +48,12 @@ while True:
     time.sleep(0.005)
 """
 
-# The rules as the kernel lists them, again and again, each time as one line.
+# Prints the kernel's rules repeatedly, each time as one line.
 LOOK = "while :; do nft -s list table inet veldmark 2>&1 | sha256sum; done"
 
 
 class Case(unittest.TestCase):
-    """One lab and one installation for all; each test has the installed system to itself, as it was just installed."""
+    """One lab and one installation for all tests. Each test has a fresh copy of the installed system."""
 
     lab: Lab
     base: Path
@@ -62,7 +62,7 @@ class Case(unittest.TestCase):
 
     @staticmethod
     def install(lab: Lab, base: Path) -> CleanDebian:
-        """The system with the package, its dependencies, and a later package to upgrade to; no longer mounted."""
+        """Makes the system with the package, its dependencies, and a later package for an upgrade. It is not mounted any more."""
         with CleanDebian(lab, base, "installed") as debian, tempfile.TemporaryDirectory() as folder:
             debian.put(PACKAGE, "/var/local/veldmark.deb")
             debian.put(newer(PACKAGE, Path(folder)), Case.newer)
@@ -84,7 +84,7 @@ class Case(unittest.TestCase):
         self.addCleanup(self.restore)
 
     def restore(self):
-        """So that one test's failure is not the next one's."""
+        """Restores the network, so that one test's failure does not fail the next one."""
         if self.debian.path(HELPER).exists() and self.debian.path(MARKER).exists():
             self.debian.run([HELPER, "disconnect"])
 
@@ -126,7 +126,7 @@ class Case(unittest.TestCase):
 
     @contextlib.contextmanager
     def probing(self):
-        """While it lasts, probes go out (or would)."""
+        """Sends probes during the context."""
         probe = self.lab.host.popen([at.PYTHON, "-c", PROBE], stdout=subprocess.PIPE, text=True)
         try:
             self.assertEqual(probe.stdout.readline(), "ready\n")
@@ -148,7 +148,7 @@ class Installed(Case):
             self.assertTrue(self.debian.path(f"/usr/share/man/man1/{page}.1.gz").exists())
         helper = self.debian.shell(f"stat -c '%a %u %g' {HELPER}")
         self.assertEqual(helper, "755 0 0\n")
-        # Installing touches neither the network nor accounts; starting at login is a setting.
+        # The installation changes neither the network nor accounts; starting at login is a setting.
         self.assertNotIn("_veldmark", self.debian.shell("cat /etc/passwd"))
         self.assertEqual(self.debian.shell("find / -xdev -path '*autostart*veldmark*'"), "")
         self.assertFalse(self.debian.path("/var/lib/veldmark").exists())
@@ -174,7 +174,7 @@ class Installed(Case):
         finally:
             window.terminate()
             output = window.communicate(timeout=30)[0]
-        # A window that lacks a module, a plugin or a file says so.
+        # A window without a module, a plugin or a file prints an error.
         self.assertNotRegex(output, r"qrc:|not installed|[Cc]ould not|[Cc]annot|[Ee]rror|no Qt platform plugin")
 
     def test_a_user_connects_and_disconnects(self):
@@ -213,7 +213,7 @@ class Installed(Case):
         self.assert_network_is_whole()
 
     def test_another_tor_on_the_port_is_named(self):
-        """As Debian's own service, which starts when tor is installed."""
+        """Debian's own service starts when tor is installed."""
         other = self.debian.popen(
             ["tor", "-f", "/none", "--ignore-missing-torrc", "--SocksPort", "9050", "--DataDirectory", "/tmp/other"],
             stdout=subprocess.PIPE,
@@ -271,7 +271,7 @@ class Upgraded(Case):
         self.debian.run(["cmp", HELPER, copy], check=True)
         self.dpkg("--install", self.newer, check=True, timeout=120)
         self.assertNotEqual(self.debian.run(["cmp", HELPER, copy]).returncode, 0)
-        self.debian.run([copy, "disconnect"], check=True)  # and it still restores
+        self.debian.run([copy, "disconnect"], check=True)  # and the restore still works
 
 
 class Removed(Case):
@@ -371,7 +371,8 @@ def main() -> None:
     lab = Lab()
     try:
         Case.base = prepare(PROJECT / "build" / "debian12", package)
-        lab.up()
+        with Moving("Starting the private Tor network"):
+            lab.up()
     except (Unprepared, LabUnavailable) as reason:
         print(f"skipped: {reason}")
         sys.exit(SKIPPED)

@@ -1,4 +1,4 @@
-"""The files that come with the programs: valid, and in step with what the programs and the helper really know."""
+"""The files that come with the programs are valid and agree with the programs and the helper."""
 
 import json
 import os
@@ -23,7 +23,7 @@ def run(*words, **options):
 
 
 class InAHome(unittest.TestCase):
-    """A home folder of the test's own, so that nothing of the caller's is read or changed."""
+    """A home folder of its own, so that the test neither reads nor changes the caller's files."""
 
     def setUp(self):
         self.home = self.enterContext(tempfile.TemporaryDirectory())
@@ -106,7 +106,7 @@ class Questions(InAHome):
 
 class Completion(InAHome):
     def complete(self, *words: str) -> set[str]:
-        """What bash offers after these words, the last of which is being typed."""
+        """bash's completions after these words, of which the last is incomplete."""
         script = (
             f'source "{PACKAGING}/completions/veldmarkctl.bash"; COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); '
             'case $1 in veldmarkctl) _veldmarkctl ;; veldmark) _veldmark ;; esac; printf "%s\\n" "${COMPREPLY[@]}"'
@@ -138,12 +138,12 @@ class Completion(InAHome):
 
     def test_bash_knows_the_options_of_the_application(self):
         shown = run(PROGRAMS / "veldmark", "--help", env=self.environment).stdout
-        options = set(re.findall(r"--[a-z]+", shown)) - {"--help-all"}  # Qt's own options are no part of it
+        options = set(re.findall(r"--[a-z]+", shown)) - {"--help-all"}  # without Qt's own options
         self.assertIn("--hidden", options)
         self.assertEqual(self.complete("veldmark", ""), options)
 
     def zsh(self, *words: str) -> set[str]:
-        """What zsh offers, without the help: its own functions are replaced by such as print what they are given."""
+        """zsh's completions without the help. Functions that print their arguments replace zsh's own."""
         script = (
             "_describe() { print -rl -- ${(P)@[-1]} }; _files() { print FILES }; _message() { }; service=veldmarkctl; "
             '_arguments() { if (( CURRENT == 2 )) { state=command } else { state=rest; words=("${(@)words[2,-1]}"); (( CURRENT -= 1 )) } }; '
@@ -182,7 +182,7 @@ class Completion(InAHome):
 
 class Manuals(InAHome):
     def page(self, name: str) -> str:
-        """As a reader sees it, without line breaks."""
+        """The page as a reader sees it, without line breaks."""
         shown = run("mandoc", "-Tutf8", "-O", "width=78", PACKAGING / "man" / name)
         plain = re.sub(r".\x08", "", shown.stdout)
         return " ".join(plain.split())
@@ -270,7 +270,7 @@ class Metadata(InAHome):
             self.assertEqual(tree.parse(path).getroot().tag, "{http://www.w3.org/2000/svg}svg")
 
     def test_the_program_has_a_picture_where_no_svg_is_shown(self):
-        """Of every size that the package installs, drawn by the build: a PNG of that size with the drawing's colour in it."""
+        """The build draws a PNG of every installed size. It has that size and contains the drawing's colour."""
         sizes = re.search(r"set\(sizes ([0-9 ]+)\)", (PACKAGING / "CMakeLists.txt").read_text()).group(1).split()
         self.assertLessEqual({"16", "22", "24", "32", "48", "64", "128", "256"}, set(sizes))
         for size in map(int, sizes):

@@ -1,5 +1,6 @@
 #!/usr/bin/python3
-"""fresh-test notices what it is there for. The Debian, its apt and the project are small stand-ins; fresh.py is the real one."""
+"""fresh-test notices each failure that it exists for. The Debian, its apt and the project are small stand-ins; fresh.py is the real
+one."""
 
 import os
 import re
@@ -11,7 +12,7 @@ import unittest
 from pathlib import Path
 
 HERE = Path(__file__).resolve().parent
-# What the stand-in of a Debian has of this machine's programs.
+# The programs of this machine that the stand-in of a Debian has.
 PROGRAMS = ("bash", "sh", "env", "umount", "mkdir", "nsenter")
 
 BUILD = r"""#!/bin/bash
@@ -88,10 +89,12 @@ class Fresh(unittest.TestCase):
         put(self.base / "clean", "")
         put(self.base / "usr/bin/date", DATE)
         put(self.base / "usr/bin/apt-get", APT)
-        put(self.folder / "path/debootstrap", "#!/bin/sh\nexit 1\n")  # the base is there already
+        put(self.folder / "path/debootstrap", "#!/bin/sh\nexit 1\n")  # the base exists already
         self.project = self.folder / "project"
-        for name in ("fresh.py", "clean_debian.py", "moving.py"):
+        for name in ("fresh.py", "clean_debian.py"):
             put(self.project / "tests/package" / name, (HERE / name).read_text())
+        for name in ("moving.py", "progress.sh"):
+            put(self.project / "tools" / name, (HERE.parents[1] / "tools" / name).read_text())
         put(self.project / "build.sh", BUILD)
         put(self.project / "tools/deps.sh", DEPS)
         put(self.project / ".gitignore", "build/\n")
@@ -120,17 +123,19 @@ class Fresh(unittest.TestCase):
         self.git("add", ".")
         self.git("commit", "--quiet", "--message", "x")
 
-    def fresh(self, *words: str) -> subprocess.CompletedProcess:
+    def fresh(self, *words: str, **variables: str) -> subprocess.CompletedProcess:
         return subprocess.run(
             ["/usr/bin/python3", self.project / "tests/package/fresh.py", *words],
             capture_output=True,
             text=True,
             check=False,
-            env=os.environ | {"XDG_CACHE_HOME": str(self.folder / "cache"), "PATH": f"{self.folder}/path:{os.environ['PATH']}"},
+            env=os.environ
+            | {"XDG_CACHE_HOME": str(self.folder / "cache"), "PATH": f"{self.folder}/path:{os.environ['PATH']}"}
+            | variables,
         )
 
-    def fails(self, *words: str, line: str) -> str:
-        result = self.fresh(*words)
+    def fails(self, *words: str, line: str, **variables: str) -> str:
+        result = self.fresh(*words, **variables)
         self.assertEqual(result.returncode, 1, result.stdout)
         self.assertRegex(result.stderr, rf"(?m)^fresh-test: {line}.*$")
         return result.stdout
@@ -166,6 +171,21 @@ class Fresh(unittest.TestCase):
         self.fails("test", line=r"\./build\.sh test failed on a clean Debian")
         self.fails("test", "controller", line=r"\./build\.sh test controller failed on a clean Debian")
 
+    def test_each_other_verb_runs_alone_with_its_words(self):
+        """A system that is to be kept is there for the next."""
+        usage = subprocess.run([HERE.parents[1] / "build.sh", "help"], capture_output=True, text=True, check=True).stdout
+        known = set(re.findall(r"(?m)^  ([a-z-]+)\b", usage)) - {"demo", "test", "package", "fresh-test"}
+        said = self.fresh("dinner").stderr
+        self.assertEqual(known, set(said.split("none of: demo, test, package, ")[1].strip().split(", ")))
+        kept = self.project / "build/fresh/first"
+        for before, words in (("--keep",), "soak --cycles 2"), (("--keep", "--again"), "asan -R ^x demo"), (("--again",), "bench"):
+            result = self.fresh(*before, *words.split())
+            self.assertEqual(result.returncode, 0, result.stderr)
+            told = [line for line in result.stdout.splitlines() if line.startswith("verb ")]
+            self.assertEqual(told, [f"verb {words} in /srv/veldmark, home /root, skips forbidden: 1, cache off: no"])
+            self.assertEqual(kept.exists(), "--keep" in before)
+        self.fails("demo", "dinner", line="'dinner' is none of: demo")
+
     def test_a_package_that_knows_its_folder_or_its_day_fails(self):
         self.commit("sloppy-folder")
         self.fails("package", line="the package differs between ")
@@ -195,7 +215,7 @@ class Fresh(unittest.TestCase):
         self.fails("package", line="the second system's clock did not take tomorrow's time")
 
     def test_a_run_goes_on_where_another_failed_with_what_was_committed_since(self):
-        self.fails("--again", "test", line="there is no run that failed; leave out --again")
+        self.fails("--again", "test", line="there is no system of an earlier run; leave out --again")
         self.commit("a-skip")
         self.fails("test", line=r"\./build\.sh test failed")
         kept = self.project / "build/fresh/first/srv/veldmark/build/kept"
@@ -214,7 +234,7 @@ class Fresh(unittest.TestCase):
         result = self.fresh("package")
         self.assertEqual(result.returncode, 0, result.stderr)
         self.fails("--without", "beta", "test", line=r"\./build\.sh test failed")
-        result = self.fresh("--again", "test")  # with the list as it was committed
+        result = self.fresh("--again", "test")  # with the committed list
         self.assertEqual(result.returncode, 0, result.stderr)
 
     def test_what_takes_its_time_shows_that_it_moves(self):
@@ -267,6 +287,58 @@ class Fresh(unittest.TestCase):
         self.fails("dinner", line="'dinner' is none of: demo, test, package")
         put(self.folder / "path/unshare", "#!/bin/sh\nexit 1\n")
         self.fails(line="this machine does not permit namespaces")
+
+    def test_without_debootstrap_it_says_who_installs_it(self):
+        """Everything else is there: with it the same path is enough."""
+        (self.folder / "path/pivot_root").symlink_to(shutil.which("pivot_root"))
+        path = f"{self.folder}/path:/usr/bin"
+        result = self.fresh("demo", PATH=path)
+        self.assertEqual(result.returncode, 0, result.stderr)
+        (self.folder / "path/debootstrap").unlink()
+        self.assertIsNone(shutil.which("debootstrap", path=path), "it is where this test does not expect it")
+        self.fails("demo", line=r"debootstrap is not installed; \./build\.sh deps does it$", PATH=path)
+
+    def test_without_a_registry_it_says_what_is_missing(self):
+        shutil.rmtree(self.base)
+        tried = self.folder / "tried"
+        unreachable = (
+            f"touch {tried}; echo E: Failed getting release file http://mirror.example.test/dists/bookworm/Release; exit 1"
+        )
+        put(self.folder / "path/debootstrap", f"#!/bin/sh\n{unreachable}\n")
+        for answer, line in (
+            ("exit 100", r"This machine has no apt that works, so there is no registry to make a Debian from\.$"),
+            (
+                "echo http://mirror.example.test/debian trixie",
+                r"The apt sources of this machine name no registry of Debian 12 \(bookworm\)\.$",
+            ),
+        ):
+            put(self.folder / "path/apt-get", f"#!/bin/sh\n{answer}\n")
+            self.fails("demo", line=line)
+            self.assertFalse(tried.exists())
+        put(self.folder / "path/apt-get", "#!/bin/sh\necho http://mirror.example.test/debian bookworm\n")
+        self.fails("demo", line="Debian's registry cannot be reached: connect to the network and run this again$")
+        self.assertTrue(tried.exists())
+        put(self.folder / "path/debootstrap", "#!/bin/sh\necho 'cp: error writing x: No space left on device'; exit 1\n")
+        self.fails("demo", line=r"the disk is full: make room \(a full build takes 3 GB\) and run this again$")
+
+    def test_an_ordinary_user_is_told_before_anything_is_made(self):
+        subprocess.run(["chmod", "-R", "a+rX", self.folder], check=True)
+        result = subprocess.run(
+            [
+                "setpriv",
+                "--reuid=4242",
+                "--regid=4242",
+                "--clear-groups",
+                "/usr/bin/python3",
+                self.project / "tests/package/fresh.py",
+            ],
+            capture_output=True,
+            text=True,
+            check=False,
+        )
+        self.assertEqual(result.returncode, 1)
+        self.assertEqual(result.stderr, "fresh-test: a clean Debian is made by root: run sudo ./build.sh fresh-test\n")
+        self.assertFalse((self.project / "build").exists())
 
 
 class Skipped(unittest.TestCase):

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""machine-test's own judgement: what it says where it cannot run, and what becomes of a case that failed or could not be tried.
+"""The judgement of machine-test: its message where it cannot run, and its handling of cases that fail or cannot be tried.
 
 The machines, the network and the cases are stand-ins; machine_test.py is the real one.
 """

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""A clean Debian comes from where this machine's apt gets its own packages. apt-get is a stand-in here."""
+"""A clean Debian comes from the registry of this machine's apt. apt-get is a stand-in here."""
 
 import os
 import sys
@@ -20,7 +20,7 @@ class Registry(unittest.TestCase):
         self.enterContext(mock.patch.dict(os.environ, {"PATH": str(self.folder)}))
 
     def apt(self, lines: str, status: int = 0) -> None:
-        """An apt-get that answers the one question that it may be asked."""
+        """An apt-get that answers only the expected request."""
         program = self.folder / "apt-get"
         program.write_text(
             "#!/bin/sh\n[ \"$*\" = 'indextargets --format $(SITE) $(RELEASE)' ] || exit 99\n" f"printf '{lines}'\nexit {status}\n"

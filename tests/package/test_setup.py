@@ -1,5 +1,6 @@
 #!/usr/bin/python3
-"""./build.sh on a machine that lacks something ends in one line that says what to do, and a second run goes on where it stopped."""
+"""./build.sh on a machine that lacks something ends with one line that says what to do, and a second run continues where the first
+stopped."""
 
 import re
 import shlex
@@ -22,7 +23,7 @@ class Case(unittest.TestCase):
         self.machine = self.enterContext(LackingMachine())
 
     def refused(self, words: str, line: str, user: str = "root", variables: str = "") -> None:
-        """The command fails, and its last word is this one line."""
+        """Asserts that the command fails and ends with this one line."""
         result = self.machine.build(words, user, variables)
         self.assertNotEqual(result.returncode, 0, result.stdout)
         self.assertRegex(result.stderr, rf"^build\.sh: {line}\n\Z", result.stdout)
@@ -46,10 +47,10 @@ class Installing(Case):
         self.works("deps", user)
         self.assertTrue(self.machine.installed())
         self.assertFalse(self.machine.path("/usr/sbin/policy-rc.d").exists())
-        self.assertEqual(self.works("deps", user), "")  # nothing is missing any more
+        self.assertEqual(self.works("deps", user), "")  # now nothing is missing
 
     def hold(self, lock: str, seconds: int = 600):
-        """Another program that has this lock, as apt and dpkg take it."""
+        """Another program that holds this lock in the way of apt and dpkg."""
         return self.machine.start(
             f'exec /usr/bin/python3 -uc \'import fcntl, time; held = open("{lock}", "w");'
             f"fcntl.lockf(held, fcntl.LOCK_EX); print(); time.sleep({seconds})'"
@@ -114,7 +115,7 @@ class Installing(Case):
         self.installs()
 
     def test_a_package_whose_own_script_was_interrupted(self):
-        self.machine.make_registry("test -e /srv/better || { sleep 0.1; kill -9 $PPID; }")  # dpkg is gone in the middle
+        self.machine.make_registry("test -e /srv/better || { sleep 0.1; kill -9 $PPID; }")  # dpkg disappears in the middle
         self.machine.connect()
         self.assertNotEqual(self.machine.build("deps").returncode, 0)
         self.assertFalse(self.machine.installed())
@@ -221,7 +222,7 @@ class Compiling(Case):
         self.refused(
             "demo", r"the demonstration's network is made by root and sudo refused: run sudo \./build\.sh demo", user="alice"
         )
-        self.assertFalse(self.compiled())  # it is said at once
+        self.assertFalse(self.compiled())  # the message comes at once
         self.machine.run("rm -f /usr/bin/sudo /usr/local/bin/sudo")
         self.refused(
             "demo", r"the demonstration's network is made by root and there is no sudo: run \./build\.sh demo as root", user="alice"
@@ -238,7 +239,7 @@ class Compiling(Case):
         self.assertEqual(self.machine.path(f"{CHECKOUT}/build/dev/tool").stat().st_uid, 4242)
 
     def test_a_skip_is_told_however_much_its_test_says(self):
-        # What the tests would fetch is there.
+        # The files that the tests would fetch exist.
         for place in ("resolved/lib/systemd/systemd-resolved", "sshd/usr/sbin/sshd", "gnustep/usr/include/GNUstep/AppKit/AppKit.h"):
             self.machine.run(f"install -D /dev/null {QUOTED}/build/{place}")
         shutil.copy(PROJECT / "tests/skipped.py", self.machine.path(CHECKOUT) / "tests/skipped.py")

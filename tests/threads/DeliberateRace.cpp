@@ -1,14 +1,12 @@
-// Shows that the thread sanitizer sees a race in work that is handed over as the program hands it
-// over.
+// Shows that the thread sanitizer sees a race in work that is handed over like in the program.
 //
 //     DeliberateRace pool      a thread of the global pool writes on after it has handed back its
-//     result, to what the coroutine
-//                              that waited for the result then reads
+//                              result, to what the waiting coroutine then reads
 //     DeliberateRace thread    the same on a thread of its own
 //     DeliberateRace pointer   what is handed back is a pointer to something that is written on
 //
-// With a second word, "not", the writing comes before the handing over, which is no race. Exit
-// status 0 unless a race was seen.
+// With a second word, "not", the write comes before the hand-over, which is no race. Exit status 0
+// unless a race was seen.
 
 #include "base/ResumeOnce.h"
 
@@ -30,8 +28,8 @@ struct Shared {
     int count = 0;
 };
 
-// The writer stays until the reader has read, so that nothing which its end does puts the two in
-// order: only then the other end of this pipe closes.
+// The writer stays until the reader has read, so that its end does not order the two accesses. The
+// other end of this pipe closes only then.
 int hasRead[2];
 
 QCoro::Task<void> readWhenTold(ResumeOnce<int> once, Shared *shared)

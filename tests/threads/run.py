@@ -3,11 +3,11 @@
 
 usage: run.py [--races] PROGRAM ARGUMENT...
 
-Debian's Qt is not built with the sanitizer, which therefore does not see how Qt's own threads wait for each other (the watchdog
-of Qt Test, its thread pool) and reports what they do. A report counts unless both of its accesses are made inside such a
-library; those are counted and printed, no more.
+Debian's Qt is not built with the sanitizer. The sanitizer does not see how Qt's own threads (the watchdog of Qt Test, its thread
+pool) wait for each other, and reports them. A report counts unless both of its accesses are inside such a library; those are only
+counted and printed.
 
---races  the other way round: the program must be reported
+--races  reversed: the program must be reported
 """
 
 import os
@@ -22,7 +22,7 @@ REPORTED = 66  # the sanitizer's exit status
 
 
 def accesses(report: str) -> list[str]:
-    """The stacks of what is said to race, without those that say where memory and threads come from."""
+    """The stacks of the racing accesses, without those of allocations and thread starts."""
     stacks = re.split(r"\n\s*\n", report)
     return [
         stack

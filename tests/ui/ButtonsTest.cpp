@@ -15,7 +15,7 @@ QString textOf(const QQuickItem *item)
                                             : item->property("text").toString();
 }
 
-// What can be pressed, in the order in which it is found.
+// The controls that can be pressed, in their order in the window.
 QList<QQuickItem *> controls(QQuickWindow *window)
 {
     QList<QQuickItem *> found;
@@ -24,7 +24,7 @@ QList<QQuickItem *> controls(QQuickWindow *window)
             && item->isEnabled())
             found << item;
     });
-    // Behind a sheet nothing can be pressed.
+    // Controls behind a sheet can't be pressed.
     for (const char *name : {"applications", "bridges", "doctor"}) {
         const auto *sheet = window->findChild<QObject *>(QLatin1String(name));
         if (!sheet || !sheet->property("opened").toBool())
@@ -50,7 +50,7 @@ QString choicesOf(const Choices &c)
         .arg(c.separateApps);
 }
 
-// The state that a button may change, a line for each part.
+// The state that a button may change, one line per part.
 QStringList stateOf(Stage &stage)
 {
     QQuickWindow *window = stage.window();
@@ -79,8 +79,7 @@ QStringList stateOf(Stage &stage)
 
 } // namespace
 
-// Every button of every window is pressed once, and what came of it is what it was when somebody
-// last read it.
+// Presses every button of every window once and compares the effects with the reviewed file.
 class ButtonsTest : public QObject {
     Q_OBJECT
 
@@ -90,7 +89,7 @@ public Q_SLOTS:
     void openPage(const QUrl &url) { opened << url.toString(); }
 
 private:
-    // Presses the control at a place in the list; what came of it.
+    // Presses the control at an index of the list; returns the effect.
     QString press(Stage &stage, qsizetype place)
     {
         QQuickWindow *window = stage.window();
@@ -115,7 +114,7 @@ private:
             QTest::keyClick(window, isLast ? Qt::Key_Up : Qt::Key_Down);
         } else {
             for (QQuickItem *above = item->parentItem(); above; above = above->parentItem())
-                // its last rows may lie below what it shows
+                // its last rows may be scrolled out of view
                 if (above->inherits("QQuickListView")) {
                     const double end = item->mapToItem(above, QPointF(0, item->height())).y()
                         - above->height();
@@ -206,11 +205,11 @@ private Q_SLOTS:
 private:
     static bool openTall(const WindowScene &scene, Stage &stage)
     {
-        // so that the log's files cannot be shown
+        // so that the log's files can't be shown
         stage.profile.runDirectory = QStringLiteral("/nowhere");
         if (!scene.open(stage))
             return false;
-        // nothing is scrolled away
+        // nothing is scrolled out of view
         stage.window()->resize(std::max(stage.window()->width(), 400), 1700);
         stage.picture();
         return true;
@@ -229,7 +228,7 @@ private:
             scenes.push_back(scene);
         return scenes;
     }
-    // "panel-stale", "circuits", "settings": what is read together.
+    // The kind of a scene, "panel-stale", "circuits", "settings": one file for each.
     static QString kindOf(const QString &scene)
     {
         const QString window = scene.section(u'/', 0, 0).section(u' ', 0, 0);
@@ -237,7 +236,7 @@ private:
             ? QStringLiteral("panel-") + scene.section(u'/', 1).section(u'-', 0, 1)
             : window;
     }
-    // A tab or a choice that is the current one: pressing it changes nothing.
+    // The current tab or choice: pressing it changes nothing.
     static bool isChosenAlready(const QString &text, const QString &scene)
     {
         return scene.startsWith(QStringLiteral("settings ") + text.toLower())

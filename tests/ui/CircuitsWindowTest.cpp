@@ -12,7 +12,7 @@
 
 using namespace veldmark;
 
-// The picture of the circuits as somebody uses it: pointing, clicking, following.
+// A user's actions in the picture of the circuits: pointing, clicking, following.
 class CircuitsWindowTest : public QObject {
     Q_OBJECT
 
@@ -31,7 +31,7 @@ class CircuitsWindowTest : public QObject {
         QVERIFY(graph);
         stage->picture();
     }
-    // Where the layout puts a relay or site, in the window.
+    // The layout's position of a relay or site, in window coordinates.
     QPoint placeOf(const QString &label) const
     {
         const CircuitGraph built = CircuitGraph::build(session.circuits);
@@ -61,7 +61,7 @@ class CircuitsWindowTest : public QObject {
                 && item->property("text").toString() == text;
         });
     }
-    // The circuit's row in the list; null when it is not near what can be seen.
+    // The circuit's row in the list; null when it is far from the visible part.
     QQuickItem *rowOf(QQuickItem *list, const QString &id) const
     {
         const auto found = std::find_if(
@@ -129,7 +129,7 @@ private Q_SLOTS:
         point(placeOf(session.circuits[20].hops[1].nickname));
         point(graph->mapToScene(QPointF(graph->width() * 0.6, 4)).toPoint());
         QCOMPARE(stage->picture(), followed);
-        // Its circuit is closed: nothing is followed any more.
+        // Its circuit is closed, so no circuit is followed any more.
         std::erase_if(session.circuits,
                       [](const CircuitInfo &circuit) { return circuit.id == QLatin1String("15"); });
         stage->session.show(session);
@@ -215,7 +215,7 @@ private Q_SLOTS:
     {
         show(1);
         session.circuits.front().sites.clear();
-        stage->session.show(session); // nothing stands in the last column
+        stage->session.show(session); // the last column is empty
         const QImage picture = stage->picture();
         const double scale = stage->window()->effectiveDevicePixelRatio();
         const auto at = [&](double x) {

@@ -8,15 +8,15 @@
 
 using namespace veldmark;
 
-// Every state of the panel as it was when somebody last looked at it. VELDMARK_WRITE_GOLDEN=1
-// writes it anew.
+// Compares every state of the panel with its reviewed picture. VELDMARK_WRITE_GOLDEN=1 rewrites the
+// files.
 class GoldenPicturesTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase() { settleAppearance(); }
 
-    // Every text of every scene, and what can be pressed, as a file that can be read and compared.
+    // Every text of every scene, and the controls that can be pressed, as a readable file.
     void saysAndOffersWhatItDid()
     {
         Stage stage;
@@ -70,8 +70,7 @@ private Q_SLOTS:
         const QImage before = QImage(file).convertToFormat(QImage::Format_RGB32);
         QVERIFY2(!before.isNull(), qPrintable(file));
         QCOMPARE(now.size(), before.size());
-        // Half-size pictures forgive another font rasteriser; a moved or recoloured part they
-        // don't.
+        // Half-size pictures tolerate another font rasteriser, but show a moved or recoloured part.
         constexpr int sameColor = 40;
         int different = 0;
         for (int y = 0; y < now.height(); ++y) {

@@ -7,9 +7,10 @@
 
 namespace veldmark {
 
-// Texts that can be read, and compared with what they were when somebody last looked at them.
+// Readable texts of windows, compared with the reviewed ones.
 
-// A line about a text or a control, or nothing: texts inside controls are the controls' own.
+// A line about a text or a control. Empty for a text inside a control, which the control's line
+// has.
 inline QString described(QQuickItem *item)
 {
     const auto isControl = [](const QQuickItem *one) {
@@ -34,7 +35,7 @@ inline QString described(QQuickItem *item)
         .arg(text, item->isEnabled() ? QString() : QStringLiteral(" disabled"));
 }
 
-// Everything that the window on the stage says and offers.
+// All texts and controls of the window on the stage.
 inline QString described(Stage &stage)
 {
     QString text;
@@ -42,8 +43,8 @@ inline QString described(Stage &stage)
     return text;
 }
 
-// `now` is what the file holds; a line in brackets names what follows. VELDMARK_WRITE_GOLDEN=1
-// writes the file anew.
+// Compares `now` with the file; a line in brackets is the name of the scene after it.
+// VELDMARK_WRITE_GOLDEN=1 rewrites the file.
 inline void expectGolden(const QString &path, const QString &now)
 {
     QFile file(path);

@@ -5,7 +5,7 @@
 
 using namespace veldmark;
 
-// What every window but the panel says and offers, as it was when somebody last read it: one file
+// Compares the texts and controls of every window except the panel with the reviewed ones: one file
 // for each kind.
 class GoldenTextsTest : public QObject {
     Q_OBJECT
@@ -39,7 +39,7 @@ private Q_SLOTS:
             stage.picture();
             const QString text = described(stage);
             QVERIFY2(!text.isEmpty(), qPrintable(scene.name));
-            // There is neither on this system.
+            // This system has neither.
             static const QRegularExpression foreign(
                 QStringLiteral("\\b(Dock|brew|Homebrew|Finder|Mac|macOS)\\b"));
             QVERIFY2(!text.contains(foreign), qPrintable(scene.name + QStringLiteral(": ") + text));

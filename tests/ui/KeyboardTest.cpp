@@ -11,8 +11,7 @@
 
 using namespace veldmark;
 
-// The windows by keyboard alone: where the focus is can be seen, and each control does what it
-// says.
+// The windows by keyboard alone: the focus is visible, and each control has its effect.
 class KeyboardTest : public QObject {
     Q_OBJECT
 
@@ -26,7 +25,7 @@ class KeyboardTest : public QObject {
         return {{QStringLiteral("model"), QVariant::fromValue(model)}};
     }
 
-    // How many pixels of `place`, and a little around it, differ.
+    // The number of pixels in and closely around `place` that differ.
     static int difference(const QImage &a, const QImage &b, const QRectF &place)
     {
         const QRect look = place.adjusted(-8, -8, 8, 8).toAlignedRect().intersected(a.rect());
@@ -91,7 +90,8 @@ private Q_SLOTS:
             properties = {{QStringLiteral("strict"), true}, {QStringLiteral("busy"), false}};
         QQuickWindow *window = stage.open(file, properties);
         QVERIFY(window);
-        window->resize(std::max(window->width(), 400), 900); // nothing scrolls between two pictures
+        window->resize(std::max(window->width(), 400), 900); // the window must not scroll between
+                                                             // two pictures
         window->requestActivate();
         QVERIFY(QTest::qWaitForWindowActive(window));
 
@@ -117,7 +117,7 @@ private Q_SLOTS:
             before = now;
             ++stops;
         }
-        QVERIFY2(stops >= 2, qPrintable(QString::number(stops))); // and it does move
+        QVERIFY2(stops >= 2, qPrintable(QString::number(stops))); // the focus moves
     }
 
     void theSameKeysCloseAndQuitInEveryWindow_data()
@@ -162,7 +162,7 @@ private Q_SLOTS:
                      qPrintable(keys.toString()));
         }
         if (isQuestion)
-            return; // it is the answer to the other one
+            return; // Ctrl+Q in another window opens this question
         QQuickWindow *window = open();
         QSignalSpy quit(window, SIGNAL(quitWanted()));
         QTest::keySequence(window, QKeySequence(Qt::CTRL | Qt::Key_Q));

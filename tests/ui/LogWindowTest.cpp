@@ -11,8 +11,8 @@
 
 using namespace veldmark;
 
-// The lines of the log as a reader meets them: at the end until he scrolls up, selectable across
-// lines, and calm while new lines arrive and old ones fall off.
+// The lines of the log for a reader: at the end until the reader scrolls up, selectable across
+// lines, and unmoved while lines are added and dropped.
 class LogWindowTest : public QObject {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ class LogWindowTest : public QObject {
     }
     bool follows() const { return lines->property("follow").toBool(); }
     double contentY() const { return lines->property("contentY").toDouble(); }
-    // The raw text of the line at a height of the list.
+    // The raw text of the line at a vertical position of the list.
     QString lineAt(double y) const
     {
         int row = -1;
@@ -101,7 +101,7 @@ private Q_SLOTS:
         QVERIFY(!follows());
         const QString read = lineAt(100);
         QVERIFY(!read.isEmpty());
-        // New lines at the end, and old ones that fall off the beginning, leave him where he is.
+        // Added and dropped lines do not move the reader's position.
         for (int i = 1; i <= 5; ++i) {
             showFrom(20 * i);
             QCOMPARE(lineAt(100), read);
@@ -163,7 +163,7 @@ private Q_SLOTS:
         QStringList names;
         const std::function<void(QQuickItem *)> look = [&](QQuickItem *item) {
             if (!item->isVisible())
-                return; // kept for later
+                return; // used below
             if (auto *face = QAccessible::queryAccessibleInterface(item);
                 face && face->role() == QAccessible::ListItem)
                 names << face->text(QAccessible::Name).section(u' ', 0, 0) + u'|'
@@ -198,7 +198,7 @@ private Q_SLOTS:
         showFrom(3);
         QTest::keyClick(stage->window(), Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(QGuiApplication::clipboard()->text(), chosen);
-        // Another list altogether has nothing selected.
+        // A completely different list has no selection.
         stage->lines.setSearch(QStringLiteral("Bootstrapped"));
         stage->picture();
         QCOMPARE(lines->property("anchor").toInt(), -1);

@@ -1,5 +1,4 @@
-// Draws every state of every window into a folder: what ./build.sh demo leaves, and
-// docs/screenshots.
+// Draws every state of every window into a folder, for ./build.sh demo and docs/screenshots.
 #include "Scenes.h"
 #include "Stage.h"
 #include "ui/ColorScheme.h"
@@ -41,7 +40,7 @@ void drawPanel(Stage &stage, const QDir &folder, const QString &suffix, int widt
             stage.panel.traffic()->clear();
             quint64 read = 0;
             for (int i = 0; i <= 60; ++i) {
-                // A page now and then, and something larger towards the end.
+                // The traffic of some pages, and of a larger download towards the end.
                 const double pages = std::pow(std::sin(i * 0.41) * std::sin(i * 0.17 + 1), 4);
                 const double file = i > 38 ? 1 - std::exp((38 - i) / 4.0) : 0;
                 read += static_cast<quint64>(20'000 + 700'000 * pages
@@ -95,7 +94,7 @@ void drawSheets(Stage &stage, const QDir &folder, const QString &suffix)
     }
 }
 
-// Large windows on large screens, and a circuit that the pointer is on.
+// Large windows on large screens, and a circuit under the pointer.
 void drawOthers(Stage &stage, const QDir &folder, const QString &suffix)
 {
     Snapshot session = Scenes::protectedSession();
@@ -192,8 +191,8 @@ void drawWindows(Stage &stage, const QDir &folder, const QString &suffix)
     save(stage, folder, QStringLiteral("quit") + suffix);
 }
 
-// The tray's icons on a light and a dark panel, in the sizes that panels ask for, and the smallest
-// eight times enlarged.
+// The tray's icons on a light and a dark panel, in the sizes that panels use, and the smallest one
+// enlarged eight times.
 void drawTray(const QDir &folder)
 {
     const QStringList symbols{

@@ -93,7 +93,7 @@ Findings findings()
          text("sudo nft list ruleset")},
         {text("clock"), Level::unknown,
          Text::tr(
-             "Whether the clock is right isn't known: nothing is seen to set it from the network. It shows %1. Tor needs it right to within minutes.")
+             "It isn't known whether the clock is right: no time service seems to set it. It shows %1. Tor needs it right to within minutes.")
              .arg(text("2026-11-22 01:00 UTC")),
          text("sudo timedatectl set-ntp true")},
         {text("session"), Level::note,
@@ -210,8 +210,7 @@ std::vector<Scene> panel()
     add("connected-strict-open", s);
     s.killSwitch->state = KillSwitch::State::unknown;
     s.errorMessage = Text::tr(
-        "The watcher over Veldmark's firewall rules has stopped telling, so it isn't known whether "
-        "the kill switch stands. Disconnect and connect again.");
+        "The watcher of Veldmark's firewall rules has stopped reporting, so it isn't known whether the kill switch blocks traffic. Disconnect and connect again.");
     add("connected-strict-unknown", s);
     s = protectedSession();
     s.dns = DNSStatus::leak({QStringLiteral("192.168.1.1 on eth0"),
@@ -264,8 +263,7 @@ std::vector<Scene> panel()
     s.killSwitch = KillSwitch{KillSwitch::State::open, 1,
                               QDateTime::fromSecsSinceEpoch(1'800'000'000, Qt::UTC)};
     s.errorMessage = Text::tr(
-        "Tor stopped running, and the kill switch is open: another program removed its rules. Traffic "
-        "may leave this computer directly. Reconnect, or Restore Network.");
+        "Tor stopped running, and the kill switch doesn't block traffic: another program removed its rules. Traffic may leave this computer directly. Reconnect, or Restore Network.");
     add("stale-strict-open", s);
     s.killSwitch.reset();
     s.activeMode = RoutingMode::proxy;

@@ -14,9 +14,9 @@ struct Scene {
 
 // Every phase of a session, in each mode and with each verdict that changes what the panel shows.
 std::vector<Scene> panel();
-// The verified strict session that the other windows are shown with.
+// The verified strict session for the scenes of the other windows.
 Snapshot protectedSession();
-Findings findings(); // of a computer on which a connect cannot work
+Findings findings(); // of a computer on which a connect can't work
 // `count` circuits over a few dozen relays, the first two of them linked legs.
 std::vector<CircuitInfo> circuits(int count);
 QList<TorLogLine> log(int count);

@@ -1,6 +1,6 @@
-// Shows the program's windows with a stand-in session, for tests that look at them from outside.
-// Each line that it reads names what to show in place of what was there; it answers "shown" or
-// "failed". Ends with its input.
+// Shows the program's windows with a stand-in session, for tests in other processes. Each input
+// line names the window to show instead of the previous one; the answer is "shown" or "failed".
+// Ends with its input.
 
 #include "Scenes.h"
 #include "Stage.h"
@@ -14,7 +14,7 @@ using namespace veldmark;
 
 namespace {
 
-// What a walk must find fault with.
+// Controls with faults that the test's walk must find.
 constexpr const char *faulty = R"(
 import QtQuick
 import QtQuick.Window
@@ -63,7 +63,7 @@ void setUp(Stage &stage, bool connected)
     stage.log.show(LogFeed::State::lines, Scenes::log(20));
 }
 
-// "FILE [SETTING=VALUE]…" of the window, where "disconnected" is a session that has not begun.
+// "FILE [SETTING=VALUE]…" of the window; "disconnected" is a session that has not begun.
 bool show(Stage &stage, const QString &line)
 {
     QStringList words = line.split(u' ', Qt::SkipEmptyParts);

@@ -22,8 +22,8 @@ PlatformProfile profileBelow(const QString &folder)
     return profile;
 }
 
-// Takes the module's files from the source tree instead of the program, so that a change to them
-// can be looked at without a compile: VELDMARK_QML=src/ui veldmark-pictures FOLDER.
+// Loads the module's files from the source tree instead of the program, to draw a change without
+// compiling: VELDMARK_QML=src/ui veldmark-pictures FOLDER.
 class SourceTree final : public QQmlAbstractUrlInterceptor {
 public:
     explicit SourceTree(const QString &folder) : m_folder(QDir(folder).absolutePath()) { }

@@ -16,22 +16,22 @@
 
 namespace veldmark {
 
-// The program's windows with a stand-in session behind them, drawn offscreen by the software
-// renderer: same font, no motion, so that a picture is the same each time.
+// The program's windows with a stand-in session, drawn offscreen by the software renderer. The font
+// is fixed and nothing moves, so a picture is always the same.
 class Stage {
 public:
     Stage();
 
-    // Loads the window of "NAME.qml" of the module; it replaces the one before. Null when the file
+    // Loads the window of "NAME.qml" of the module in place of the previous one. Null when the file
     // does not load.
     QQuickWindow *open(const QString &file, QVariantMap properties = {});
     // Shows a window of the caller's own in its place. False when it is null.
     bool show(QQuickWindow *window);
     QQuickWindow *window() { return m_window.get(); }
-    // `flags`: countries are shown by their flags, which not every machine's fonts have, and not by
+    // `flags`: shows countries by their flags, which not every machine's fonts have, instead of
     // letters.
     void setDark(bool dark, bool flags = false);
-    // The window's picture after everything has settled.
+    // The window's picture after all changes.
     QImage picture();
     QStringList warnings() const { return m_warnings; }
 

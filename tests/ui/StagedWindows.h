@@ -14,7 +14,8 @@
 
 namespace veldmark {
 
-// What the tests of the windows share: every window on a stage, and the walk through what it shows.
+// Shared by the tests of the windows: every window on a stage, and the walk through its visible
+// items.
 
 struct Shown {
     const char *name;
@@ -44,7 +45,7 @@ inline std::vector<Shown> windows(Stage &stage)
     return list;
 }
 
-// A session in which much is to be said.
+// A session with many texts.
 inline void prepare(Stage &stage)
 {
     Snapshot snapshot = Scenes::protectedSession();

@@ -7,7 +7,7 @@
 
 namespace veldmark {
 
-// A session that shows what a test puts into it and writes down what it is asked to do.
+// A session that shows a test's snapshot and records the requested actions.
 class StandInSession final : public Session {
 public:
     explicit StandInSession(const PlatformProfile &profile) : Session(profile) { }

@@ -6,9 +6,9 @@
 
 namespace veldmark {
 
-// Every window but the panel, in every state that changes what it says or offers.
+// Every window except the panel, in every state that changes its texts or controls.
 struct WindowScene {
-    QString name; // the window's, and after a slash the state's
+    QString name; // the window's name, and after a slash the state's
     std::function<QQuickWindow *(Stage &)> open;
 };
 
@@ -175,15 +175,15 @@ inline void addDialogScenes(std::vector<WindowScene> &scenes)
                           return stage.open(QStringLiteral("chooser/ChooserWindow.qml"),
                                             modelProperty(&stage.choices));
                       }});
-    scenes.push_back(
-        {QStringLiteral("chooser/nothing"), [](Stage &stage) {
-             stage.session.show(idleSession());
-             QQuickWindow *window = stage.open(QStringLiteral("chooser/ChooserWindow.qml"),
-                                               modelProperty(&stage.choices));
-             stage.picture(); // a window that comes forgets the search of the one before
-             stage.choices.setSearch(QStringLiteral("zzz"));
-             return window;
-         }});
+    scenes.push_back({QStringLiteral("chooser/nothing"), [](Stage &stage) {
+                          stage.session.show(idleSession());
+                          QQuickWindow *window = stage.open(
+                              QStringLiteral("chooser/ChooserWindow.qml"),
+                              modelProperty(&stage.choices));
+                          stage.picture(); // a new window clears the search of the previous one
+                          stage.choices.setSearch(QStringLiteral("zzz"));
+                          return window;
+                      }});
 }
 
 inline std::vector<WindowScene> windowScenes()

@@ -13,7 +13,7 @@ using namespace veldmark;
 
 namespace {
 
-// Every text 40 per cent longer, as other languages make them.
+// Makes every text 40 per cent longer, as in other languages.
 class LongWords final : public QTranslator {
 public:
     bool isEmpty() const override { return false; }
@@ -34,7 +34,7 @@ bool isClipped(QQuickItem *item)
     return false;
 }
 
-// What is read from the left in every language.
+// Text that is read from the left in every language.
 bool isReadFromTheLeft(QQuickItem *item)
 {
     for (QQuickItem *at = item; at; at = at->parentItem())
@@ -54,7 +54,7 @@ QList<Placed> texts(QQuickWindow *window)
 {
     QList<Placed> found;
     visit(window->contentItem(), [&found](QQuickItem *item) {
-        // marks that are not seen
+        // invisible marks
         const QString text
             = item->property("text").toString().remove(QChar(0x2066)).remove(QChar(0x2069));
         if (item->inherits("QQuickText") && !text.isEmpty() && !isReadFromTheLeft(item))
@@ -67,7 +67,7 @@ QList<Placed> texts(QQuickWindow *window)
     return found;
 }
 
-// As long as it lives windows are laid out for a language that is read from the right.
+// During its lifetime windows are laid out for a right-to-left language.
 class FromTheRight {
 public:
     FromTheRight() { QGuiApplication::setLayoutDirection(Qt::RightToLeft); }
@@ -78,12 +78,11 @@ public:
 
 } // namespace
 
-// Every window loads and holds its texts, at any size that it may have and at other scales of the
-// screen.
+// Every window loads, and its texts fit, at every permitted size and at other scales of the screen.
 class WindowsFitTest : public QObject {
     Q_OBJECT
 
-    // Nothing is cut off, and nothing sticks out of its window.
+    // Nothing is cut off or outside its window.
     void expectWhole(Stage &stage, const QString &where)
     {
         const double width = stage.window()->width();

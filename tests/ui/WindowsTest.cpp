@@ -103,7 +103,7 @@ private Q_SLOTS:
                 ++controls;
             });
         }
-        QVERIFY(controls > 40); // the walk does reach them
+        QVERIFY(controls > 40); // the walk reaches them
     }
 
     void theKeyboardReachesEveryControl()

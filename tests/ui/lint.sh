@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # lint.sh QMLLINT IMPORT_DIR FILE…: fails on every warning of qmllint.
-# Ids of outer components cannot be declared as bound before Qt 6.5, so their use is no warning; and
-# the content of our controls is made at once on purpose.
+# Ids of outer components cannot be declared as bound before Qt 6.5, so their use is no warning. The content of Veldmark's controls
+# is created at once on purpose.
 set -euo pipefail
 qmllint=$1 imports=$2
 shift 2

@@ -1,8 +1,8 @@
-"""What a screen reader is told about every window: each control has a role, a name, and its value or state.
+"""The content of every window for a screen reader: each control has a role, a name, and its value or state.
 
     test_accessibility.py SHOW_WINDOWS [unittest arguments]
 
-Under an X server and a session bus of its own; skipped, with status 77, where they are not installed.
+Runs on an X server and a session bus of its own; skipped, with status 77, where they are not installed.
 """
 
 import json
@@ -52,7 +52,7 @@ WINDOWS = [
 
 
 def every(nodes):
-    """What can be seen in the windows."""
+    """The visible nodes of the windows."""
     for node in nodes:
         if "visible" in node["states"] or node["role"] == "frame":
             yield node
@@ -60,7 +60,7 @@ def every(nodes):
 
 
 def faults(nodes):
-    """One line for each control that a person who cannot see it could not use."""
+    """One line for each control that a blind user could not use."""
     found = []
     for node in every(nodes):
         what = f"{node['role']} {node['name']!r} at {node['x']},{node['y']}"
@@ -102,7 +102,7 @@ class Accessibility(unittest.TestCase):
         cls.program.stdout.close()
 
     def show(self, window):
-        """The tree of the window, once the bus tells of it."""
+        """The tree of the window, once the bus has it."""
         self.program.stdin.write(window + "\n")
         self.program.stdin.flush()
         self.assertEqual(self.program.stdout.readline(), "shown\n", window)
@@ -112,7 +112,7 @@ class Accessibility(unittest.TestCase):
             tree = json.loads(seen.stdout)
             if any(node["children"] for node in every(tree)):
                 return tree
-        self.fail(f"the bus never told of {window}")
+        self.fail(f"the accessibility bus never had the window {window}")
 
     def find(self, tree, role, name):
         for node in every(tree):
@@ -135,7 +135,7 @@ class Accessibility(unittest.TestCase):
                 frames = [node for node in tree if node["role"] in ("frame", "dialog", "window")]
                 self.assertTrue(frames and all(node["name"] for node in frames), frames)
                 controls += sum(node["role"] in CONTROLS for node in every(tree))
-        self.assertGreater(controls, 60)  # the walk does reach them
+        self.assertGreater(controls, 60)  # the walk reaches them
 
     def test_switches_tell_their_state(self):
         tree = self.show("main/MainWindow.qml disconnected")

@@ -38,7 +38,7 @@ def messages(path):
 
 @functools.cache
 def updated(path):
-    """The messages of a file after lupdate has looked at all sources; None where it removed one."""
+    """The messages of a file after lupdate has read all sources; None where it removed one."""
     with tempfile.TemporaryDirectory() as folder:
         copy = pathlib.Path(folder) / path.name
         shutil.copy(path, copy)
@@ -53,24 +53,24 @@ def joined(strings):
     return "".join(re.findall(r'"((?:[^"\\]|\\.)*)"', strings)).replace('\\"', '"').replace("\\\\", "\\")
 
 
-# A string behind one of these is one of the translators'.
+# A string after one of these is a text for the translators.
 TRANSLATED = re.compile(r'(?:\btr|\btranslate|QT_TRANSLATE_NOOP)\(\s*(?:"[^"]*",\s*)?$')
-# … and behind one of these it is for programs or programmers.
+# A string after one of these is for programs or programmers.
 FOR_PROGRAMS = re.compile(
     r"(?:qWarning|qFatal|QML_UNCREATABLE|says|contains|startsWith|QLatin1String|QRegularExpression \w+|installing)\("
-    r"(?:QStringLiteral\(|QLatin1String\()?\s*$|[=(] ?u$|\{Package\{$|(?<!Text\()words : \{$|Known\{\"[a-z-]+\", $|reason:@$"
+    r"(?:QStringLiteral\(|QLatin1String\()?\s*$|[=(] ?u$|\{Package\{$|(?<!Text\()words : \{$|Known\{\"[a-z-]+\", $|reason:@$|qCritical\(\) << $"
 )
 # Commands, paths, patterns, names and formats.
 NO_WORDS = re.compile(
     r"(?:sudo|veldmarkctl|brew|SETCONF|do shell script|Match exec|execution error:) |\./build|--| --|/|\^|# |\[Desktop|yyyy"
     r"|Tor version \(|(?:\\n)*Tor (?:Browser|Expert Bundle)|your package manager$|the file manager$|This Mac$|\" with "
 )
-# Whose sentences go to a log. (The programs of the rooms launch and identify know no translations: the helper calls them.)
+# Sources whose sentences go to a log. (The programs of the rooms launch and identify have no translations: the helper calls them.)
 LOGGED = "checks/ExitCheckProbe.cpp", "checks/IPCheck.cpp"
 
 
 def sentences(path):
-    """The strings of a source that read like words for people and are not the translators', as far as that can be seen."""
+    """The strings of a source that look like sentences for people and are not translated, as far as a pattern can tell."""
     text = re.sub(r"(?m)^\s*#include.*$|(?<!:)//.*$", "", path.read_text())
     text = re.sub(r"'\\?\"'", "' '", re.sub(r'R"\(.*?\)"', '""', text, flags=re.DOTALL))
     for match in re.finditer(STRINGS, text):
@@ -87,11 +87,11 @@ def sentences(path):
 
 
 class Helper(unittest.TestCase):
-    """The helper and the launcher speak English; HelperSentences knows what they say."""
+    """The helper and the launcher print English; HelperSentences has all their sentences."""
 
     @staticmethod
     def form(text, start):
-        """The shell's string that begins at `start`, with %1… for what is filled in."""
+        """The shell's string that begins at `start`, with %1… for its variables."""
         form, number, i = "", 0, start
         while text[i] != '"':
             if text[i] == "\\":

@@ -14,7 +14,8 @@ sub become {
     POSIX::_exit(126) unless $> == $uid && $uid;
 }
 
-# launchd answers before it has done what it was told: a job that ends is there until its process has gone, and is killed after its time.
+# launchd answers before the action is complete: an ending job exists until its process has ended, and is killed after its time
+# limit.
 sub settle_jobs {
     my @leaving = grep { /^leaving / } keys %state or return;
     for my $key (@leaving) {
@@ -23,7 +24,7 @@ sub settle_jobs {
         if (alive($pid) && time() < $until) { next }
         kill 'KILL', -$pid;
         delete @state{$key, "job $label"};
-        $state{"settling $label"} = 2;   # so many calls for it fail yet
+        $state{"settling $label"} = 2;   # this many further calls for it fail
     }
     save();
 }
@@ -33,7 +34,7 @@ sub launchctl {
     if ($verb eq 'list') {
         my $pid = $state{"job $words[0]"};
         if (!defined $pid) { print STDERR "Could not find service \"$words[0]\" in domain for system\n"; finish(113) }
-        # It has no process at once.
+        # The job has no process at first.
         delete $state{"spawning $words[0]"} if exists $state{"spawning $words[0]"} && --$state{"spawning $words[0]"} < 0;
         print "{\n\t\"LimitLoadToSessionType\" = \"System\";\n\t\"Label\" = \"$words[0]\";\n\t\"OnDemand\" = true;\n\t\"LastExitStatus\" = 0;\n",
               ($state{"spawning $words[0]"} // 0) <= 0 && alive($pid) ? "\t\"PID\" = $pid;\n" : '', "\t\"Program\" = \"x\";\n};\n";
@@ -61,11 +62,11 @@ sub launchctl {
             POSIX::setsid();
             my $pid = fork;
             if ($pid) { syswrite $write, "$pid\n"; POSIX::_exit(0) }
-            POSIX::close($_) for 3 .. 20;   # launchd's children have nothing of ours
+            POSIX::close($_) for 3 .. 20;   # launchd's children get no descriptor of this program
             $SIG{$_} = 'DEFAULT' for qw(INT TERM HUP QUIT PIPE TSTP);
             POSIX::setpgid(0, 0);
             become($job{UserName}) if $job{UserName};
-            my $number = 0;   # the handles of those names belong to the answer
+            my $number = 0;   # these handles belong to the answer
             for (['/dev/null', POSIX::O_RDONLY()], map { [$job{$_} // '/dev/null', POSIX::O_WRONLY() | POSIX::O_APPEND() | POSIX::O_CREAT()] }
                  qw(StandardOutPath StandardErrorPath)) {
                 my $opened = POSIX::open(@$_, 0666);

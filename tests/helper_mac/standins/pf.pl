@@ -69,13 +69,13 @@ sub pfctl {
         my $text = $file eq '-' ? $input : do { local (@ARGV, $/) = $file; <> };
         my ($filter, $nat, $dummynet) = read_rules($text // '', $anchor);
         return if $dry;
-        # Filter rules go together with those of dummynet.
+        # Filter rules and dummynet's rules are removed together.
         $state{"pf $anchor dummynet"} = $dummynet unless $anchor || $only eq '-N';
         $state{"pf $anchor filter"} = $filter unless $only eq '-N';
         $state{"pf $anchor nat"} = $nat unless $only eq '-R';
         delete @state{"pf $anchor filter", "pf $anchor nat"} if $anchor && !length "$filter$nat";
     }
-    # A pf that holds something else than it was told.
+    # A pf that holds other rules than it was given.
     $state{'pf veldmark filter'} = 'pass out quick all' if $state{'pf lies'} && defined $state{'pf veldmark filter'};
     if ($show eq 'rules') { print map { "$_\n" } split /\n/, $state{"pf $anchor filter"} // '' }
     elsif ($show eq 'nat') { print map { "$_\n" } split /\n/, $state{"pf $anchor nat"} // '' }

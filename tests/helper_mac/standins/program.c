@@ -1,12 +1,12 @@
-/* Stands in the private Mac under the name of each program that the root helper calls there.
+/* The private Mac has this program under the name of each program that the root helper calls.
  *
- * What only a Mac has, or has otherwise, is answered by server.pl, which runs all the time: a small
- * program that hands its words on costs a tenth of an interpreter's start. What both systems have
- * is this system's own, run as a Mac's would run: each line of the table below says which options
- * that one knows, after the manual page of that name in macOS, which is FreeBSD's for most.
+ * server.pl, which runs all the time, answers for programs that only a Mac has, or that differ on a
+ * Mac: a small program that passes its arguments on takes a tenth of an interpreter's start.
+ * Programs of both systems are this system's own, run like a Mac's: each line of the table below
+ * has the options of the manual page of that name in macOS, which is FreeBSD's for most.
  *
- * FreeBSD's getopt(3) takes nothing for an option once an operand was seen, and a "--" behind an
- * operand is one more operand. GNU's look on. So the operands are handed on behind a "--" of ours.
+ * FreeBSD's getopt(3) finds no option after the first operand, and a "--" after an operand is one
+ * more operand. GNU's getopt goes on. So this program puts a "--" before the operands.
  */
 #define _GNU_SOURCE
 #include <errno.h>
@@ -163,7 +163,7 @@ int main(int count, char **words)
         if (!strcmp(rules[at].name, name))
             return run_as_bsd(&rules[at], count, words);
     if (!strcmp(name, "perl")) {
-        /* A Mac's fcntl 51, F_FULLFSYNC, is something else here: the server knows what it is for.
+        /* A Mac's fcntl 51, F_FULLFSYNC, has another meaning here: the server handles it.
          */
         if (count > 2 && strstr(words[2], "fcntl($file, 51, 0)"))
             return ask("fullsync", count, words);

@@ -1,13 +1,14 @@
 #!/usr/bin/perl
-# Answers for the programs of a Mac that the root helper calls (program.c hands their words on). They keep what they are told
-# in a state file, answer in the form of the real ones, and refuse what those would not understand. Every call is
-# written down; the file /mac/fail makes one of them fail.
+# Answers for the Mac's programs that the root helper calls (program.c passes their arguments on). It keeps their settings in a
+# state file, answers in the real programs' form, and refuses what they would not understand. Every call is recorded; the file
+# /mac/fail makes one of them fail.
 #
 # /mac/state: lines "KEY<TAB>VALUE", with \n, \t and \\ in a value escaped. /mac/calls: a line per call.
 # /mac/fail: "NUMBER MODE": that call from now on fails: "status" (nothing happens, status 1), "quiet" (a sentence on
 # standard output, status 0, nothing happens; only networksetup does that) or "late" (it happens, status 1).
 #
-# One call at a time, as the real ones' changes are kept apart; tests that change the state hold /mac/lock meanwhile.
+# It handles one call at a time, since the real programs' changes are separate, too. Tests that change the state hold /mac/lock
+# meanwhile.
 use strict;
 use warnings;
 use Socket;
@@ -16,9 +17,9 @@ use Time::HiRes ();
 require '/mac/launchd.pl';
 require '/mac/pf.pl';
 
-our ($name, $caller, $input, %state);   # of the call that is answered; launchd.pl and pf.pl use them as well
+our ($name, $caller, $input, %state);   # the values of the present call; launchd.pl and pf.pl use them as well
 
-# What is on disk is in %state already, unless somebody else has written the file since.
+# %state has the content of the file already, unless another program has written the file since.
 my $known = '';
 sub state_file { join ' ', (Time::HiRes::stat('/mac/state'))[1, 7, 9] }
 
@@ -29,7 +30,7 @@ sub load {
     $known = $now;
 }
 
-# Only what changed anything is written, so that looking on disturbs nobody.
+# Only changes are written, so that reading calls do not disturb other programs.
 my $loaded = '';
 sub dump_state { join "\0", map { ($_, $state{$_}) } sort keys %state }
 
@@ -59,11 +60,11 @@ sub save {
     ($loaded, $known) = ($now, state_file());
 }
 
-# How a call ends before its end, and what it becomes when another program takes its place: PATH, then its words.
+# The early end of a call, and the program that replaces it: PATH, then its arguments.
 sub finish { die { status => $_[0] } }
 sub become_program { die { run => [@_] } }
 sub refuse { print STDERR "$name: illegal use: @_\n"; finish(64) }
-# What makes something last on a Mac's disk; this system's perl does the rest of it (program.c).
+# The call that writes to a Mac's disk durably; this system's perl does the rest (program.c).
 sub fullsync {
     my ($option, $text, @words) = @_;
     $text =~ s/\bfcntl\(\$file, 51, 0\)/fcntl(\$file, 1, 0)/ or refuse(@_);
@@ -73,7 +74,7 @@ sub gnu { become_program("/mac/gnu/$name", $name, @_) }
 
 # ---- small ones ----
 
-# One volume of the system's, and the folder that "attached" names, if any, for a medium.
+# A volume of the system, and a medium in the folder that "attached" names, if any.
 sub df {
     refuse(@_) unless @_ == 3 && "@_[0, 1]" eq '-P --' && -e $_[2];
     my $medium = $state{attached} // '';
@@ -190,7 +191,7 @@ sub networksetup {
         finish($state{'old networksetup'} ? 0 : 4);
     }
     my $at = "service $state{location}/$service";
-    # What a VPN's own program or a profile of the company's holds.
+    # The settings of a VPN's own program or of a company's profile.
     if (($state{"$at refuses"} // '') =~ ($verb =~ /^-get/ ? qr/get/ : qr/set/)) {
         print "** Error: Unable to commit changes to network database.\n";
         finish(14);
@@ -228,7 +229,7 @@ sub networksetup {
     } else { refuse(@_) }
 }
 
-# ---- what a process listens on ----
+# ---- the ports that a process listens at ----
 
 sub lsof {
     refuse(@_) unless "@_" =~ /^-nP -a -p (\d+) -iTCP:(\d+) -sTCP:LISTEN -t$/;
@@ -249,7 +250,7 @@ my %stand_in = (uname => \&uname, sync => \&sync, mv => \&mv, killall => \&killa
 
 sub file_text { my ($path) = @_; open(my $file, '<', $path) or return ''; local $/; return <$file> // '' }
 
-# The watcher goes on by itself: its calls are not counted and are not made to fail.
+# The watcher runs by itself: its calls are not counted and never made to fail.
 sub note_call {
     my ($parent, @words) = @_;
     return '' if file_text("/proc/$parent/cmdline") =~ m{/watcher\.sh};
@@ -282,7 +283,7 @@ sub answer {
             elsif (ref $@ && $@->{run}) { $run = $@->{run} }
             elsif (ref $@) { $status = $@->{status} }
             else { $error .= $@; $status = 70 }
-            $known = '' if dump_state() ne $loaded;   # given up half-way: what was not saved has not happened
+            $known = '' if dump_state() ne $loaded;   # given up half-way: unsaved changes have not happened
         }
     }
     return $run ? "run\n" . join('', map { "$_\0" } @$run) : "$status " . length($out) . ' ' . length($error) . "\n$out$error";
@@ -292,12 +293,12 @@ socket(my $server, AF_UNIX, SOCK_STREAM, 0) or die;
 bind($server, pack_sockaddr_un('/mac/socket')) or die;
 chmod 0777, '/mac/socket';
 listen($server, 64) or die;
-exit 0 if fork;   # who started us waits until there is a server
+exit 0 if fork;   # the starter waits until there is a server
 POSIX::setsid();
 open(STDIN, '<', '/dev/null');
 open(STDOUT, '>', '/dev/null');
 open(STDERR, '>>', '/mac/server.log');
-$SIG{PIPE} = 'IGNORE';   # who asked may have been killed meanwhile
+$SIG{PIPE} = 'IGNORE';   # the caller may have been killed meanwhile
 open(my $lock, '>>', '/mac/lock') or die;
 while (1) {
     accept(my $client, $server) or next;

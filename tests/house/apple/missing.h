@@ -1,5 +1,5 @@
-// What the free headers of AppKit lack of what is used, declared from Apple's public documentation,
-// for the syntax check.
+// Declarations that the free headers of AppKit lack, from Apple's public documentation, for the
+// syntax check.
 #import <AppKit/AppKit.h>
 #import <AppKit/NSRunningApplication.h>
 #import <Foundation/NSAppleEventDescriptor.h>

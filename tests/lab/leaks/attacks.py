@@ -1,6 +1,6 @@
-"""What a hostile program without root's rights tries inside the host; runs as the identity that tries it.
+"""Attacks of a hostile program without root's rights, inside the host. The program runs as the attacking identity.
 
-    attacks.py HELPER NAME...      prints the names of those that succeed, one per line; HELPER is what sudo is asked to run
+    attacks.py HELPER NAME...      prints the names of the attacks that succeed, one per line; HELPER is the helper that sudo runs
 """
 
 import hashlib
@@ -12,14 +12,14 @@ import time
 
 TOR_PORTS = {9050, 9051}
 DNS_PORT = 293
-GROUP = "/sys/fs/cgroup/desktop"  # everybody may kill what is in it
+GROUP = "/sys/fs/cgroup/desktop"  # every user may kill the processes in it
 OWN_TOR = "/opt/own/tor"
 HASH = "16:" + "0123456789ABCDEF" * 3 + "0123456789"  # as in case.py, which this program cannot import
 PROXY = ["--strict", "0", "--lan", "0"]
 
 
 def listening(uid):
-    """Ports on which programs of that account listen."""
+    """The ports that programs of that account listen at."""
     with open("/proc/net/tcp", encoding="ascii") as table:
         lines = [line.split() for line in table][1:]
     return {int(line[1].split(":")[1], 16) for line in lines if line[3] == "0A" and int(line[7]) == uid}
@@ -31,7 +31,7 @@ def tors_uid():
 
 
 def tunnel():
-    """Through a bridge program's port to a server of one's own."""
+    """Connects through a bridge program's port to a server of its own."""
     for port in listening(tors_uid()) - TOR_PORTS:
         with socket.socket() as probe:
             probe.settimeout(1)
@@ -46,7 +46,7 @@ def tunnel():
 
 
 def beside_tor():
-    """At Tor's port for look-ups, to get what others ask."""
+    """Binds a second socket to Tor's DNS port, to receive other programs' lookups."""
     with socket.socket(socket.AF_INET, socket.SOCK_DGRAM) as beside:
         for option in socket.SO_REUSEADDR, socket.SO_REUSEPORT:
             beside.setsockopt(socket.SOL_SOCKET, option, 1)
@@ -58,7 +58,7 @@ def beside_tor():
 
 
 def place():
-    """Listens in Tor's place, where Tor is away; it is enough that it answers itself."""
+    """Listens at Tor's ports while Tor is away. The attack succeeds when its own connection is answered."""
     for family, address, port in (
         (socket.AF_INET, "127.0.0.1", 9050),
         (socket.AF_INET, "127.0.0.1", 9051),
@@ -83,7 +83,7 @@ def is_watched():
 
 
 def kill():
-    """Everything in the group that the session was begun in."""
+    """Kills everything in the control group that the session was started in."""
     with open(f"{GROUP}/cgroup.kill", "w", encoding="ascii") as group:
         group.write("1")
     deadline = time.monotonic() + 0.5

@@ -1,6 +1,6 @@
-"""What every scenario of the leak matrix stands on: the host with its identities, the router that sees everything, and the rows.
+"""The base of every scenario of the leak matrix: the host with its identities, the router that sees every packet, and the rows.
 
-A scenario that needs more (a device, a container, a proxy) arranges it itself; see test_leaks.py.
+A scenario sets up further things (a device, a container, a proxy) by itself; see test_leaks.py.
 """
 
 import contextlib
@@ -17,12 +17,12 @@ from veldlab.product import Product
 PROGRAMS = Path(os.environ.get("VELDMARK_PROGRAMS", PROJECT / "build" / "bin"))
 SENDER = str(Path(__file__).resolve().with_name("sender.py"))
 HASH = "16:" + "0123456789ABCDEF" * 3 + "0123456789"
-GROUPS = {2: "/sys/fs/cgroup/veldmark/tor", 3: "/sys/fs/cgroup/veldmark-exempt"}  # which identity is in one
+GROUPS = {2: "/sys/fs/cgroup/veldmark/tor", 3: "/sys/fs/cgroup/veldmark-bypass"}  # the identities that are in a control group
 EVERYBODY = range(len(matrix.IDENTITIES))
 
 
 class LeakCase(unittest.TestCase):
-    """One lab and one matrix for all scenarios of a class, which prints it at its end."""
+    """All scenarios of a class share a lab and a matrix. The class prints the matrix at its end."""
 
     @classmethod
     def setUpClass(cls):
@@ -40,7 +40,7 @@ class LeakCase(unittest.TestCase):
             "echo 1 >/proc/sys/net/ipv6/conf/eth0/force_mld_version; echo 0 >/proc/sys/net/ipv4/icmp_ratelimit"
         )
         cls.connect()
-        cls.disconnect()  # the account that Tor runs under exists from here on
+        cls.disconnect()  # Tor's account exists from here on
         cls.sentinels = 0
 
     def setUp(self):
@@ -62,7 +62,7 @@ class LeakCase(unittest.TestCase):
     def connect(cls, lan=0, check=True):
         return cls.helper("connect", "--tor", "/usr/bin/tor", "--hash", HASH, "--strict", "1", "--lan", str(lan), check=check)
 
-    bridge = None  # address and port, in a session in which Tor reaches nothing else
+    bridge = None  # the bridge's address and port, in a session in which Tor reaches nothing else
 
     @classmethod
     def disconnect(cls):
@@ -80,7 +80,7 @@ class LeakCase(unittest.TestCase):
     def words(self, identity, *arguments, within=True):
         """(command, options) that runs sender.py as the identity; `within` its control group, if it has one."""
         command = ["/usr/bin/python3", "-B", SENDER, *map(str, arguments)]
-        if identity in GROUPS and within:  # in the group by the hand of root, as the helper does; without a session there is none
+        if identity in GROUPS and within:  # root puts it in the group, as the helper does; without a session there is no group
             user = "_veldmark" if identity == 2 else str(self.host.uid)
             group = "_veldmark" if identity == 2 else str(self.host.uid)
             enter = '[ ! -d "$0" ] || echo 0 >"$0/cgroup.procs"; exec setpriv --reuid "$1" --regid "$2" --clear-groups -- /bin/sh -c \'cd /; exec "$@"\' sh "${@:3}"'
@@ -95,7 +95,7 @@ class LeakCase(unittest.TestCase):
         )
 
     def send(self, names, identities=EVERYBODY, within=True):
-        """All identities at once; returns when everything has been sent."""
+        """Sends as all identities at once; returns when everything has been sent."""
         running = {}
         for identity in identities:
             mine = [n for n in names if matrix.promise(n, identity) != ABSENT]
@@ -108,7 +108,7 @@ class LeakCase(unittest.TestCase):
 
     @contextlib.contextmanager
     def watched(self):
-        """Both of the router's links; the object yielded has the packets from the user's side once the context has ended."""
+        """Captures both of the router's links. After the context the yielded object has the packets from the user's side."""
         seen = Seen()
         with self.lab.capture("host") as host, self.lab.capture("world") as world:
             seen.captures = host, world
@@ -117,11 +117,13 @@ class LeakCase(unittest.TestCase):
         seen.packets = [[p for p in capture.packets if p.out] for capture in (host, world)]
 
     def settle(self, seen):
-        """Returns when what the host has sent so far is recorded: a packet that is let out in every state has come after it."""
-        # What still asks for a neighbour's address would be overtaken; the kernel gives up by itself after three seconds.
+        """Returns when everything that the host has sent so far is recorded: a later packet, which passes in every state, has
+        arrived."""
+        # That packet would overtake a packet that waits for a neighbour's address; the kernel gives up by itself after three
+        # seconds.
         self.sh("while ip neigh show nud incomplete | grep -q .; do sleep 0.02; done", timeout=30)
         type(self).sentinels += 1
-        port = 20000 + self.sentinels  # the kernel gives others
+        port = 20000 + self.sentinels  # the kernel assigns other ports
         address, at_port = self.bridge or (matrix.SENTINEL, 1000)
         self.host.run(
             [
@@ -147,16 +149,16 @@ class LeakCase(unittest.TestCase):
 
     def assert_no_strangers(self, scenario, seen):
         strangers = seen.strangers()
-        self.assertEqual(strangers, [], f"{scenario}: packets of nobody's that are not on the allow-list")
+        self.assertEqual(strangers, [], f"{scenario}: packets of no identity that are not on the allow-list")
 
     # ---- Rows ----
 
     def assert_kept(self):
-        """The rows of this test."""
+        """Asserts the promises of this test's rows."""
         self.assertEqual(self.matrix.broken(set(self.matrix.rows) - self.known), [])
 
     def core(self, scenario, names=probes.CORE, phase="session", identities=EVERYBODY):
-        """One row: the sum over ordinary probes for each identity. Tor's TCP goes out by right, so its row is for the rest."""
+        """One row: the sum over ordinary probes for each identity. Tor's TCP is allowed, so its cell counts the other probes."""
         cells = self.matrix.row(
             scenario, [CLOSED if i < 3 and i in identities else OPEN if i in identities else ABSENT for i in EVERYBODY]
         )
@@ -170,7 +172,7 @@ class LeakCase(unittest.TestCase):
         return seen
 
     def in_both(self, arrangements, **options):
-        """Each arrangement of the network, {name: (make, unmake, probes)}: first without a session, then in one."""
+        """Tries each arrangement of the network, {name: (make, unmake, probes)}, first without a session, then in one."""
         for phase in ("control", "session"):
             with self.session(**options) if phase == "session" else contextlib.nullcontext():
                 for name, (make, unmake, names) in arrangements.items():
@@ -182,7 +184,7 @@ class LeakCase(unittest.TestCase):
                             self.sh(unmake)
 
     def under_flood(self, scenario, action):
-        """The row's count is what came through while `action` ran, with all identities sending without pause."""
+        """The row counts the packets that came through while `action` ran and all identities sent without pause."""
         cells = self.matrix.rows[scenario]
         with self.watched() as seen:
             floods = [self.start(i, "flood", i, *probes.CORE, stdin=subprocess.PIPE) for i in EVERYBODY]
@@ -209,13 +211,13 @@ class LeakCase(unittest.TestCase):
 
 
 class Seen:
-    """What two captures saw of the user's machine."""
+    """The packets of the user's machine in two captures."""
 
     packets: list
     captures: tuple
 
     def counts(self):
-        """{(probe, identity): packets}; the larger number of the two links, since most packets pass both."""
+        """{(probe, identity): packets}. The larger number of the two links counts, since most packets pass both."""
         totals = {}
         for packets in self.packets:
             found = {}
@@ -228,5 +230,5 @@ class Seen:
         return totals
 
     def strangers(self):
-        """On the link to the user's machine; the other one has the router's own packets as well."""
+        """Unexpected packets on the link to the user's machine. The other link has the router's own packets as well."""
         return [str(p) for p in self.packets[0] if not probes.owner(p) and not matrix.is_allowed(p)]

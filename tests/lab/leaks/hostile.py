@@ -1,8 +1,8 @@
 """Rows of the leak matrix for two more identities: a hostile program of the session's user, and one of another account.
 
-Each attack is made in sessions that have every pair of settings between them: bridges or none, password-free mode on or off, the local
-network open or closed. Where password-free mode is on, the other account is let in as well. Each is first seen to work where its
-defence is taken out. One lab, four sessions.
+The sessions between them have every pair of settings: bridges or none, password-free mode on or off, the local network open or
+closed. With password-free mode the other account may use it as well. Each attack first works without its defence. There is one lab
+with four sessions.
 """
 
 import contextlib
@@ -14,19 +14,19 @@ from leaks.matrix import CLOSED, Matrix
 
 ATTACKS = str(Path(__file__).resolve().with_name("attacks.py"))
 IDENTITIES = ("a program of the session's user", "a program of another account")
-INDICES = (6, 7)  # of their probes
+INDICES = (6, 7)  # the index of their probes
 INSTALLED = "/usr/local/libexec/veldmark/veldmark-helper.sh"
-ELSEWHERE = "/opt/own/veldmark-helper.sh"  # where sudo's rule is an administrator's word
+ELSEWHERE = "/opt/own/veldmark-helper.sh"  # here sudo's rule counts as an administrator's approval
 RULE = "/etc/sudoers.d/veldmark"
 BY_RULE = ("proxy", "lan", "interpreter", "program", "approval", "launch")
 AWAY = "pkill -KILL -u _veldmark; while pgrep -u _veldmark; do sleep 0.01; done"
-# bridges, password-free, local network: each pair of settings is in one of them
+# bridges, password-free, local network: each pair of settings occurs
 SESSIONS = ((True, False, 0), (False, True, 0), (False, False, 1), (True, True, 1))
 PACKETS = {"ordinary packets": probes.CORE, "by a setuid file of Tor's account": ("HTTP",), "by a port mapping of others": ("SSH",)}
 
 
 class HostileRows:
-    """For a LeakCase."""
+    """A part of a LeakCase."""
 
     def hostile_rows(self):
         table = Matrix(IDENTITIES)
@@ -59,7 +59,7 @@ class HostileRows:
         stack.callback(self.sh, "nft delete table ip other")
 
     def allow(self, helper):
-        """Lets both run that without a password; none for nobody."""
+        """Lets both accounts run that helper without a password. None: no account."""
         rules = "".join(f"{user} ALL=(root) NOPASSWD:NOSETENV: {helper}\n" for user in self.users)
         self.sh(f"printf '%s' \"$0\" >{RULE}; chmod 0440 {RULE}" if helper else f"rm -f {RULE}", rules)
 
@@ -122,14 +122,14 @@ class HostileRows:
 
     def without_defence(self, rows):
         self.packets(rows, "control")
-        # An approval and an application are kept out by the rule's place.
+        # The path in the rule prevents an approval and an application.
         self.allow(ELSEWHERE)
         self.attack(rows, "control", "approval", helper=ELSEWHERE)
         self.begin(False, 0)
         self.attack(rows, "control", "launch", helper=ELSEWHERE)
         self.disconnect()
-        # The local network and proxy mode are kept out by the session that runs, an interpreter by its name, a program of one's own by
-        # the approval that it lacks.
+        # The running session prevents the local network and proxy mode. An interpreter is refused by its name, and a user's own
+        # program by its missing approval.
         self.allow(INSTALLED)
         self.attack(rows, "control", "lan", after=self.disconnect)
         self.sh("mv /opt/interpreter/program /opt/interpreter/lyrebird; ln -s lyrebird /opt/interpreter/program")
@@ -158,7 +158,7 @@ class HostileRows:
 
     def attacked_session(self, rows, bridges, free, lan):
         self.allow(INSTALLED if free else None)
-        self.attack(rows, "session", "interpreter", "program", "approval")  # no session keeps these out
+        self.attack(rows, "session", "interpreter", "program", "approval")  # these are refused without a session, too
         self.begin(bridges, lan)
         try:
             state = self.truth()

@@ -1,4 +1,4 @@
-"""One packet of each kind, as the identity that this runs as sends it. A refusal on the spot is an OSError."""
+"""Sends one packet of each kind as the current identity. A packet that the kernel refuses at once raises OSError."""
 
 import os
 import socket
@@ -50,7 +50,7 @@ def udp(address, port, payload=b"probe", *options, source=None, connected=False)
 
 
 def igmp(group):
-    """Joins, and waits until the kernel has sent its report (or tried to)."""
+    """Joins a multicast group, and waits until the kernel has sent its report (or tried to)."""
     word = "".join(f"{part:02X}" for part in reversed(socket.inet_aton(group)))
     with socket.socket(socket.AF_INET, socket.SOCK_DGRAM) as probe:
         request = struct.pack("4s4si", socket.inet_aton(group), bytes(4), socket.if_nametoindex(DEVICE))
@@ -63,7 +63,7 @@ def mld(group):
     with socket.socket(socket.AF_INET6, socket.SOCK_DGRAM) as probe:
         request = struct.pack("16si", socket.inet_pton(socket.AF_INET6, group), socket.if_nametoindex(DEVICE))
         probe.setsockopt(socket.IPPROTO_IPV6, socket.IPV6_JOIN_GROUP, request)
-        # The sixth column: bit 0 the timer runs, bit 1 a report was sent last by us.
+        # The sixth column: bit 0: the timer runs; bit 1: this host sent the last report.
         wait(lambda: any(int(line.split()[4], 16) & 2 for line in open("/proc/net/igmp6") if word in line))
 
 
@@ -100,7 +100,7 @@ def ping(address, protocol, kind):
 
 
 def in_user_namespace(action, *arguments):
-    """In a child that is root in a user namespace of its own, as far as it is allowed to be; its network is the host's."""
+    """Runs in a child that is root in its own user namespace, as far as the system permits it. Its network is the host's."""
     child = os.fork()
     if child == 0:
         try:

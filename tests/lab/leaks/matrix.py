@@ -1,6 +1,6 @@
-"""The table of the leak matrix: what each identity's probes brought to the router, and what was promised.
+"""The table of the leak matrix: the packets of each identity that reached the router, and the promises.
 
-A cell holds two counts: packets seen in the control run, when nothing blocks them, and in the session. Promises: CLOSED, no packet;
+A cell has two counts: the packets of the control run, when nothing blocks them, and of the session. Promises: CLOSED, no packet;
 OPEN, at least one (Tor's own account, or an application that is opened without Tor); ABSENT, this identity cannot send it at all.
 """
 
@@ -11,27 +11,27 @@ from veldlab import topology as at
 
 IDENTITIES = ("nobody", "root", "Tor's account", "without Tor")
 CLOSED, OPEN, ABSENT = "closed", "open", "absent"
-SENTINEL = "203.0.113.90"  # as Tor's account: what was sent before it has arrived before it
+SENTINEL = "203.0.113.90"  # sent as Tor's account; packets that were sent earlier arrive earlier
 
 _TCP = {"tcp", "tcp-bound", "tcp-lan", "mapped", "fastopen", "userns-tcp"}
-_KERNELS_OWN = {"igmp", "mld"}  # sent by the kernel, for no application
+_KERNELS_OWN = {"igmp", "mld"}  # the kernel sends these, for no application
 _HEADER = "scenario"
 
 
 def promise(name: str, identity: int) -> str:
-    """What the strict session says about a probe kind."""
+    """What a strict session promises for a kind of probe."""
     how = probes.PROBES[name][0]
     if name in probes.RAW and identity != 1:
         return ABSENT
     if identity == 3 and how not in _KERNELS_OWN:
         return OPEN
-    if identity == 2 and how in _TCP:  # but not to private addresses; the neighbour's of IPv6 is a public one
+    if identity == 2 and how in _TCP:  # but not to private addresses; the neighbour's IPv6 address is a public one
         return CLOSED if how == "tcp-lan" and "IPv6" not in name else OPEN
     return CLOSED
 
 
 def is_allowed(packet) -> bool:
-    """The whole allow-list of what the host may send in strict mode besides the probes that are let out."""
+    """The whole list of packets that the host may send in strict mode besides the allowed probes."""
     if packet.family == "arp":
         return True
     if packet.proto == "icmp6":  # neighbour discovery
@@ -64,7 +64,7 @@ class Matrix:
     def __init__(self, identities=IDENTITIES):
         self.identities = identities
         self.rows: dict[str, list[Cell]] = {}
-        self.strangers: dict[str, list] = {}  # packets that are nobody's and not on the allow-list
+        self.strangers: dict[str, list] = {}  # packets of no identity that are not on the list
 
     def row(self, name: str, promises) -> list[Cell]:
         return self.rows.setdefault(name, [Cell(p) for p in promises])

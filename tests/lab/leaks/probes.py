@@ -1,10 +1,10 @@
-"""The probes of the leak matrix, as a table: what each is, where it goes, and whose a captured packet is.
+"""The table of the leak matrix's probes: kind, destination, and the identity of a captured packet.
 
-A packet is known by what is in its header: every identity has addresses (203.0.113.100 + 10 × index and the same in IPv6), ports
+The header of a packet identifies it: every identity has addresses (203.0.113.100 + 10 × index and the same in IPv6), ports
 and multicast groups of its own, and every probe a port, protocol or address of its own. sender.py sends them.
 """
 
-REPEATS = 3  # of each probe
+REPEATS = 3  # packets of each probe
 NEIGHBOUR, NEIGHBOUR6, GATEWAY = "192.168.77.9", "2001:db8:77::9", "192.168.77.1"
 HELD_SERVER, HELD_TCP, HELD_UDP, HELD_DNS = "203.0.113.37", 41000, 41100, 41200  # source ports, + index
 
@@ -17,8 +17,8 @@ def public6(index):
     return f"2001:db8:cb::{100 + 10 * index:x}"
 
 
-# name: (how, destination, port or protocol). Destinations: 4 and 6 the identity's public address, lan and lan6 the neighbour, gateway;
-# anything else as it stands. "+ index" marks ports that tell identities apart where the address cannot.
+# name: (how, destination, port or protocol). Destinations: 4 and 6 the identity's public address, lan and lan6 the neighbour,
+# gateway; any other word is the address itself. "+ index" marks ports that tell identities apart where the address cannot.
 PROBES = {
     "TCP": ("tcp", "4", 20001),
     "TCP, IPv6": ("tcp", "6", 20002),
@@ -85,7 +85,7 @@ PROBES = {
 }
 CORE = ("TCP", "TCP, IPv6", "UDP", "UDP, IPv6", "ICMP echo", "DNS", "DNS, IPv6")
 
-# Those that need root or a capability, and are not sent by the others.
+# Probes that need root or a capability; other identities do not send them.
 RAW = {
     "ICMP timestamp, raw",
     "raw IP, protocol 99",
@@ -137,7 +137,7 @@ def _key(packet):
 
 
 def _expected(name, index):
-    """Header facts of the probe: (protocol, destination, source port or 0, destination port)."""
+    """The probe's header: (protocol, destination, source port or 0, destination port)."""
     how, _, _ = PROBES[name]
     address, port = target(name, index)
     if how in _PINGS:

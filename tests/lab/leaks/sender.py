@@ -2,10 +2,11 @@
 
     sender.py send INDEX NAME...     sends the named probes as identity number INDEX, three of each, and ends when the kernel
                                      has nothing left to send for them
-    sender.py flood INDEX NAME...    sends them again and again until its standard input ends
-    sender.py hold INDEX             opens a TCP connection and two UDP flows, says "ready", uses them at each line it reads
-    sender.py forward INDEX          hands on what comes to 127.0.0.1:5300 (UDP) and :5301 (TCP), as somebody's local proxy
-    sender.py ask                    sends through that
+    sender.py flood INDEX NAME...    sends them repeatedly until its standard input ends
+    sender.py hold INDEX             opens a TCP connection and two UDP flows, prints "ready", sends on them at each line
+                                     that it reads
+    sender.py forward INDEX          forwards from 127.0.0.1:5300 (UDP) and :5301 (TCP), like a local proxy
+    sender.py ask                    sends through that proxy
 """
 
 import os
@@ -19,14 +20,14 @@ import probes
 
 
 def send(index, names):
-    """Slow ones (the kernel sends their packets when it likes) last, once."""
+    """Sends slow probes last and once: the kernel chooses when it sends their packets."""
     slow = [name for name in names if probes.PROBES[name][0] in ("igmp", "mld")]
     for name in names:
         for _ in range(0 if name in slow else probes.REPEATS):
             try:
                 kinds.send_probe(name, index)
             except OSError as error:
-                print(f"{name}: {error}", flush=True)  # refused on the spot; what got out is for the router to say
+                print(f"{name}: {error}", flush=True)  # refused at once; the router records what left
     children = []
     for name in slow:
         child = os.fork()
@@ -71,7 +72,7 @@ def hold(index):
     print("ready", flush=True)
     for _ in sys.stdin:
         for flow in flows:
-            for _ in range(2):  # the first of the two may only report the answer to the one before
+            for _ in range(2):  # the first send may only report the answer to the previous packet
                 try:
                     flow.send(b"GET / HTTP/1.1\r\n")
                 except OSError:

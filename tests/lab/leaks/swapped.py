@@ -1,7 +1,7 @@
-"""A row of the leak matrix: a program of the session's user puts another program into the place of a bridge program of the Tor
-Project's, in the user's own folder, once root has verified the bundle. Password-free mode is on, so nobody is asked.
+"""A row of the leak matrix. A program of the session's user replaces a bridge program of the Tor Project in the user's own folder,
+after root has verified the bundle. Password-free mode is on, so there is no prompt.
 
-The signer is a key of the test's, which stands in the helper in the place of the Tor Browser Developers'.
+The test makes the signer's key. The helper has it in the place of the Tor Browser Developers' key.
 """
 
 import contextlib
@@ -19,21 +19,21 @@ from bundles import Signer, bundle, member  # noqa: E402
 
 FINGERPRINT = "EF6E286DDA85EA2A4BA7DE684E2C6E8793298290"
 MEMBER = "tor/pluggable_transports/lyrebird"
-INDEX = 6  # of the probes of a program of the session's user
+INDEX = 6  # the index of the probes of a program of the session's user
 KIND = "HTTP"
-BRIDGE = "meek_lite 192.0.2.3:80 url=https://192.0.2.4/"  # over such Tor's account reaches everybody
+BRIDGE = "meek_lite 192.0.2.3:80 url=https://192.0.2.4/"  # over such a bridge Tor's account reaches any address
 COPIES = "/var/lib/veldmark/programs"
 GOOD = b'#!/bin/sh\nexec /usr/bin/obfs4proxy "$@"\n'
 EVIL = (
     "#!/bin/sh\n/usr/bin/python3 -c \"import socket; s = socket.socket(); s.setblocking(False); s.connect_ex(('{}', 80))\"\n"
     'exec /usr/bin/obfs4proxy "$@"\n'
 ).format(probes.public(INDEX))
-# Root's folder stands as long as root looks at the bundle, and everybody sees that. The program was read before.
+# Root's folder exists while root verifies the bundle, and every account can see it. Root has read the program before.
 SWAP = 'until [ -e "$0/bundle.new" ]; do :; done; cp "$1/other" "$1/new"; mv "$1/new" "$1/lyrebird"; echo swapped'
 
 
 class SwappedRow:
-    """For a LeakCase."""
+    """A part of a LeakCase."""
 
     def swapped_row(self):
         cell = self.matrix.row("a bridge program, swapped after it was verified", [ABSENT, ABSENT, CLOSED, ABSENT])[2]
@@ -41,7 +41,7 @@ class SwappedRow:
         self.signer = Signer("Signer")
         with contextlib.ExitStack() as stack:
             self.prepare_swap(stack)
-            # Where the defence is out, which is the signature: the other program is what the signer has signed.
+            # Without the defence, the signature: the signer has signed the hostile program.
             self.bring(EVIL.encode())
             cell.control = self.packets_of(self.connect_by_rule)
             self.disconnect()
@@ -52,11 +52,11 @@ class SwappedRow:
             self.assertEqual(self.sh(f"cat {copy}"), GOOD.decode())
             self.assertEqual(self.sh(f"cat {self.folder}/lyrebird"), EVIL)
             self.assertIn(f"exec {copy}\n", self.sh("cat /var/lib/veldmark/run/torrc"))
-            # From now on it is there before anybody looks.
+            # From now on the hostile program is there before root reads it.
             for ends in False, True:
                 if ends:
                     self.disconnect()
-                self.assertEqual(self.by_rule(check=False).returncode, 3)
+                self.assertEqual(self.by_rule(check=False).returncode, 4)
         self.assert_kept()
 
     def prepare_swap(self, stack):
@@ -72,7 +72,7 @@ class SwappedRow:
         stack.callback(self.disconnect)
 
     def bring(self, program):
-        """A bundle of it, and the program, as the downloader leaves them; the other one lies beside."""
+        """Installs a bundle of the program, and the program, as the downloader leaves them. The other program lies beside it."""
         archive = bundle(member(MEMBER, program))
         for name, content in (
             ("lyrebird", program),
@@ -117,7 +117,7 @@ class SwappedRow:
             swapper.wait()
 
     def packets_of(self, connect):
-        """Until the bridge program serves: it sends before."""
+        """The packets until the bridge program serves; the hostile program sends before that."""
         with self.watched() as seen:
             connect()
             self.sh("until pgrep -u _veldmark -x obfs4proxy; do sleep 0.02; done", timeout=30)

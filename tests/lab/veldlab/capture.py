@@ -4,8 +4,8 @@
         ...
     assert {p.dst for p in c.packets if p.out} <= topology.RELAY_ADDRESSES
 
-Entering returns only after a marker frame sent over the link has been recorded; leaving records a second marker last,
-so every packet before it is in. A capture that lost packets raises at its end instead of pretending to be complete.
+Entering returns after a marker frame that is sent over the link has been recorded. Leaving records a second marker last, so every
+earlier packet is recorded. A capture that lost packets raises at its end instead of pretending to be complete.
 """
 
 import os
@@ -20,7 +20,7 @@ from veldlab import kernel
 from veldlab import topology as at
 
 _ETH_P_ALL = 3
-_MARKER_TYPE = 0x88B5  # reserved for local experiments: nobody on the link answers it
+_MARKER_TYPE = 0x88B5  # reserved for local experiments: no program on the link answers it
 _SOL_PACKET, _PACKET_STATISTICS, _PACKET_OUTGOING = 263, 6, 4
 _SO_RCVBUFFORCE = 33
 _HEADER_BYTES = 256
@@ -30,7 +30,7 @@ _EXTENSIONS = {0, 43, 44, 60, 135}  # IPv6 headers that another header follows
 
 @dataclass(frozen=True)
 class Packet:
-    """One packet. `out`: it goes to the world; on the links "host" and "lan", it comes from there.
+    """One packet. `out`: it goes to the world; on the links "host" and "lan" it comes from that machine.
 
     Addresses are text ("" where the protocol has none), ports 0 where there are none; `length` is that of the IP
     packet, or of the frame's content for other protocols, in bytes. A large TCP segment may be one packet here and
@@ -50,7 +50,7 @@ class Packet:
 
     @property
     def is_opening(self) -> bool:
-        """False for a TCP packet of a connection that exists already, such as the last words of an earlier program."""
+        """False for a TCP packet of an existing connection, such as the last packets of an earlier program."""
         return self.proto != "tcp" or self.tcp_flags & 0x12 == 0x02
 
     def __str__(self) -> str:
@@ -59,7 +59,7 @@ class Packet:
 
 
 def decode(frame: bytes, length: int, out: bool, when: float) -> Packet:
-    """`frame`: Ethernet frame, perhaps cut short; `length`: its full length. What cannot be read is left empty."""
+    """`frame`: an Ethernet frame, possibly truncated; `length`: its full length. Fields that cannot be read stay empty."""
     kind = struct.unpack_from("!H", frame, 12)[0] if len(frame) >= 14 else 0
     data, size = frame[14:], max(length - 14, 0)
     if kind == 0x0800 and len(data) >= 20:

@@ -2,9 +2,9 @@
 
     ca.pem, ca.key          trusted by the host
     NAME.pem                certificate and key in one file
-    foreign-ca.pem          an authority that nobody trusts, for the "untrusted" certificate
+    foreign-ca.pem          an authority that no program trusts, for the "untrusted" certificate
 
-All in one folder. A file appears whole (it is renamed into place), so a server may look for it at any time.
+All are in one folder. A file is renamed into place, so a server never reads half of it.
 """
 
 import subprocess

@@ -1,5 +1,5 @@
-"""A person's desktop on the lab's host: an X server, a window manager, a session bus with accessibility, and a service
-that writes notifications down. And the application on it, used as a person would: by looking and by clicking.
+"""A user's desktop on the lab's host: an X server, a window manager, a session bus with accessibility, and a service that records
+notifications. Tests use the application on it like a user, by looking and clicking.
 
     with Desktop(lab, "alice") as desktop, desktop.start(programs) as window:
         window.click("push button", "Connect to Tor")
@@ -26,7 +26,7 @@ _PROGRAMS = {"Xvfb": "xvfb", "xdotool": "xdotool", "openbox": "openbox", "dbus-d
 
 
 def missing() -> str:
-    """What to install, or ""."""
+    """The missing packages as a line for the user, or ""."""
     packages = sorted({package for program, package in _PROGRAMS.items() if not shutil.which(program)})
     trial = "import dbus, gi; gi.require_version('Atspi', '2.0'); from gi.repository import Atspi"
     if subprocess.run([at.PYTHON, "-c", trial], capture_output=True).returncode != 0:
@@ -54,7 +54,8 @@ class Lines:
             self.all.clear()
 
     def wait(self, condition, timeout: float = 30) -> str:
-        """The first line for which `condition` holds, whether it has come yet or not. Not while another forgets."""
+        """Waits for the first line for which `condition` holds; earlier lines count. Must not run while another thread forgets
+        lines."""
         deadline, seen = time.monotonic() + timeout, 0
         with self._changed:
             while True:
@@ -66,7 +67,7 @@ class Lines:
                     raise TimeoutError("not within {:.0f} s among:\n{}".format(timeout, "\n".join(self.all)))
 
     def join(self) -> str:
-        """All of it, when the other end has gone."""
+        """The whole output, once the other end is closed."""
         self._thread.join()
         return "\n".join(self.all)
 
@@ -92,7 +93,7 @@ class Desktop(contextlib.ExitStack):
         return self
 
     def start_display(self) -> None:
-        """A new X server and its window manager; what runs on an earlier one stays there."""
+        """Starts a new X server and its window manager. Programs of an earlier one stay there."""
         self.display = self._start(
             ["Xvfb", "-displayfd", "1", "-screen", "0", "1600x1000x24", "-nolisten", "tcp"],
             stdout=subprocess.PIPE,
@@ -103,13 +104,13 @@ class Desktop(contextlib.ExitStack):
         self.run(["xdotool", "search", "--sync", "--maxdepth", "1", "--name", ".*"], check=True)
 
     def kill_display(self) -> None:
-        """What a crash of the X server does to the programs on it."""
+        """Kills the X server, as a crash does."""
         self.display.kill()
         self.display.wait()
         self.manager.wait()
 
     def start_session_manager(self) -> "Service":
-        """A session manager, tests/support/session_manager.py. Programs that are started from now on belong to its session."""
+        """Starts tests/support/session_manager.py. Programs that start later belong to its session."""
         process = self._start([at.PYTHON, str(_SUPPORT / "session_manager.py")], stdin=subprocess.PIPE, stdout=subprocess.PIPE)
         manager = Service(process)
         self.env["SESSION_MANAGER"] = manager.lines.wait(bool)
@@ -117,7 +118,7 @@ class Desktop(contextlib.ExitStack):
 
     @contextlib.contextmanager
     def login_manager(self):
-        """A system bus and, on it, what tests/support/login_manager.py says, as root: a `Service`. Ends with the context."""
+        """Starts a system bus and tests/support/login_manager.py on it, as root; yields a `Service`. Both end with the context."""
         self.lab.host.write("/etc/dbus-1/system.d/veldlab-login.conf", _LOGIN_POLICY)
         self.lab.host.run(["mkdir", "-p", "/run/dbus"], check=True)
         bus = self._start(["dbus-daemon", "--system", "--nofork", "--nopidfile"], user="root")
@@ -161,19 +162,19 @@ class Desktop(contextlib.ExitStack):
 
     @property
     def notifications(self) -> list[dict]:
-        """Those since forget_notifications()."""
+        """The notifications since forget_notifications()."""
         return [json.loads(line) for line in self._notifications.all]
 
     def forget_notifications(self) -> None:
         self._notifications.forget()
 
     def wait_notification(self, title: str, timeout: float = 30) -> dict:
-        """The first one with this title since forget_notifications()."""
+        """Waits for the first notification with this title since forget_notifications()."""
         return json.loads(self._notifications.wait(lambda line: json.loads(line).get("title") == title, timeout))
 
 
 class Service:
-    """A process that does what the lines say that it is told, and prints others."""
+    """A process that obeys lines on its input and prints lines."""
 
     def __init__(self, process: subprocess.Popen):
         self._process, self.lines = process, Lines(process.stdout)
@@ -207,7 +208,7 @@ class Application(contextlib.AbstractContextManager):
         return json.loads(seen.stdout)
 
     def nodes(self) -> list[dict]:
-        """Everything that is on show, each before what is in it, with the "window" that it is in."""
+        """All visible nodes, parents before children, each with its "window"."""
         found, open_nodes = [], [node | {"window": node} for node in self.tree()[::-1]]
         while open_nodes:
             node = open_nodes.pop()
@@ -237,7 +238,7 @@ class Application(contextlib.AbstractContextManager):
                 raise TimeoutError(f"not within {timeout:.0f} s")
 
     def click(self, role: str, name: str, timeout: float = 60) -> None:
-        """A press of the mouse's first button on the middle of it, once it can be pressed and its window is in front."""
+        """Clicks the middle of the node, once it is enabled and its window is in front."""
         deadline = time.monotonic() + timeout
         place = None
         while time.monotonic() < deadline:
@@ -247,7 +248,7 @@ class Application(contextlib.AbstractContextManager):
                 self.desktop.run(
                     ["xdotool", "search", "--onlyvisible", "--name", f"^{target['window']['name']}$", "windowactivate"], check=True
                 )
-            elif there == place:  # still where the pointer went: the window manager has placed it
+            elif there == place:  # the node is still there: the window manager has placed the window
                 self.desktop.run(["xdotool", "click", "1"], check=True)
                 return
             else:
@@ -256,19 +257,19 @@ class Application(contextlib.AbstractContextManager):
         raise TimeoutError(f"{role} {name!r} could not be clicked within {timeout:.0f} s")
 
     def press(self, key: str) -> None:
-        """A key for the window in front, as xdotool names it."""
+        """Sends a key, by xdotool's name, to the window in front."""
         self.desktop.run(["xdotool", "key", key], check=True)
 
     @property
     def errors(self) -> str:
-        """What it has printed on standard error, without the line of this class's own."""
+        """The application's standard error, without this class's own line."""
         return "\n".join(line for line in self._errors.all if line != f"process {self.pid}")
 
     def signal(self, number: int) -> None:
         self.process.send_signal(number)
 
     def wait(self, timeout: float = 40) -> int:
-        """Its exit status, when all that it printed has been read."""
+        """Waits for its end, reads all its output, and returns the exit status."""
         status = self.process.wait(timeout)
         self._errors.join()
         return status

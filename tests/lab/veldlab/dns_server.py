@@ -1,7 +1,7 @@
 """The world's DNS server: UDP and TCP, IPv4 and IPv6; run by world_services.py inside the world.
 
-Answers A and AAAA for the lab's own names and for every site that has a folder, and NXDOMAIN for the rest. Each query
-is logged before it is answered, so that a client that has its answer finds the query in the log.
+Answers A and AAAA for the lab's own names and for every site that has a folder, and NXDOMAIN for the rest. Each query is logged
+before its answer is sent, so a client with an answer finds its query in the log.
 """
 
 import os

@@ -5,9 +5,9 @@
     env     variables on top of the account's own           session  true: a session of the command's own
     cgroup  control group to start in, as the lab's first mount namespace names it, with `cgroup_init` its process 1
 
-This process stays outside; an attendant inside the lab's pid namespace is the command's parent, since some programs
-(pkexec is one) want a parent that they can see. Both pass on the signals that other processes send them and end as the
-command ends: same exit status, or killed by the same signal. If one of them is killed, so is the command. 126 and 127
+This process stays outside. An attendant inside the lab's pid namespace is the command's parent, since some programs, such as
+pkexec, need a visible parent. Both pass signals on, and end like the command: with the same exit status, or killed by the same
+signal. If one of them is killed, the command is killed as well. 126 and 127
 mean, as in a shell, that the command cannot be executed or was not found; 125, that the lab is gone or the account or
 folder missing.
 """
@@ -80,7 +80,7 @@ def fail(status: int, text: str) -> None:
 
 
 def spawn(body) -> int:
-    """Forks a child that dies with this process from when it calls the function that `body` gets; returns its id."""
+    """Forks a child; returns its id. The child dies with this process once it has called the function that `body` gets."""
     held_read, held_write = os.pipe()
     child = os.fork()
     if child:
@@ -119,7 +119,7 @@ def execute(spec: dict, command: list[str], bind) -> None:
     if spec["session"]:
         os.setsid()
     become(spec)
-    bind()  # a change of account undoes an earlier one
+    bind()  # a change of account resets it, so it is set again
     signal.pthread_sigmask(signal.SIG_UNBLOCK, _FORWARDED + [signal.SIGCHLD])
     for number in (signal.SIGPIPE, signal.SIGXFSZ):
         signal.signal(number, signal.SIG_DFL)

@@ -11,7 +11,7 @@ from veldlab import certificates, host_init, snapshot, tor_config
 from veldlab.space import Space
 
 _CA_NAME = "veldmark-lab-ca"
-# polkitd drops to an account that must be able to read its rules, whose folder Debian keeps closed.
+# polkitd changes to an account that must read its rules, but Debian's folder of rules is closed to it.
 _START_POLKIT = """
 set -eu
 chmod 755 /etc/polkit-1/rules.d
@@ -41,7 +41,7 @@ class Host(Space):
         raise LookupError("the host has no account alice")
 
     def upper(self, folder: str) -> Path:
-        """Where the host's changes to an overlaid folder are kept, as the caller can reach it."""
+        """The path, for the caller, of the host's changes to an overlaid folder."""
         name = folder.strip("/").replace("/", "-")
         return Path(f"/proc/{self._lab_init}/root{host_init.UPPER_FOLDER}/{name}")
 
@@ -49,7 +49,7 @@ class Host(Space):
         return self.path(path).read_text()
 
     def write(self, path: str, content: str | bytes, mode: int = 0o644, uid: int = 0) -> None:
-        """Puts a whole file in place, with its folders. `uid` is owner and group; new folders are theirs as well."""
+        """Writes a whole file and its folders. `uid` is owner and group, also of new folders."""
         target = self.path(path)
         missing = [folder for folder in target.parents if not folder.exists()]
         for folder in reversed(missing):
@@ -62,7 +62,7 @@ class Host(Space):
         temporary.rename(target)
 
     def trust(self, authority: bytes) -> None:
-        """Adds a certificate authority in all the places where programs look."""
+        """Adds a certificate authority in all places that programs read."""
         self.write(f"/usr/local/share/ca-certificates/{_CA_NAME}.crt", authority)
         self.write(f"/etc/ssl/certs/{_CA_NAME}.pem", authority)
         name = certificates.subject_hash(str(self.path(f"/etc/ssl/certs/{_CA_NAME}.pem")))
@@ -84,7 +84,7 @@ class Host(Space):
     def start_polkit(self, rules: str = "") -> None:
         """Starts a system bus and polkitd, with JavaScript `rules` that decide; returns when polkit answers.
 
-        Without a rule that says yes, pkexec asks on its terminal, or ends with 127 where there is none.
+        Without a rule that allows the action, pkexec asks on its terminal, or ends with 127 without a terminal.
         """
         self.write("/etc/polkit-1/rules.d/00-veldlab.rules", rules, mode=0o644)
         self.run(["/bin/sh", "-c", _START_POLKIT], check=True)

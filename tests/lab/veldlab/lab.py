@@ -29,15 +29,15 @@ _SUPERVISOR = Path(__file__).resolve().with_name("supervisor.py")
 
 
 def _given_folders() -> list[str]:
-    """Where the programs and other files are that the caller's environment names (VELDMARK_PROGRAMS and its like). A build
-    may lie anywhere, also below /tmp, where the host would see an empty folder."""
+    """The folders of the programs and files that the caller's environment names (VELDMARK_PROGRAMS and similar). A build may be
+    anywhere, also below /tmp, where the host would see an empty folder."""
     given = (value for name, value in os.environ.items() if name.startswith("VELDMARK_") and os.path.isabs(value))
     folders = {path if os.path.isdir(path) else os.path.dirname(path) for path in given if os.path.exists(path)}
     return sorted(folders - {"/", "/tmp", "/run", "/etc", "/usr", "/var", "/home", "/opt", "/srv", "/root"})
 
 
 class Lab:
-    """`share`: further folders that the host is to see as they are, besides the project's tree and the programs under test.
+    """`share`: further folders that the host sees unchanged, besides the project's tree and the programs under test.
 
     `consensus=False`: nothing will go through Tor, so that entering and `up` need not wait until it could.
     `logs`: a folder that `down` copies the nodes' and services' logs to. `timings`: seconds of each step of `up`. `on_step`
@@ -61,7 +61,7 @@ class Lab:
 
     @classmethod
     def attach(cls, record: dict) -> "Lab":
-        """A lab that another process started; `registry.find` gives the record. `down` is then the other's business."""
+        """A lab that another process started; `registry.find` gives the record. The other process calls `down`."""
         lab = cls()
         lab._use(record)
         return lab
@@ -100,7 +100,7 @@ class Lab:
         self.timings["total"] = time.monotonic() - started
 
     def wait_consensus(self, timeout: float = 60) -> None:
-        """Returns when a usable consensus with all exits stands."""
+        """Returns when there is a usable consensus with all exits."""
         self._step("consensus", lambda: self.tor.wait_consensus(timeout))
 
     def down(self) -> None:

@@ -1,8 +1,9 @@
-"""The keys of the lab's nodes, kept between labs: making them is most of the work of a lab's start, and no lab meets another.
+"""The keys of the lab's nodes, which later labs use again. Making them is most of the work of a lab's start, and labs never meet
+each other.
 
-They lie in build/lab-keys, for root alone, and are made anew after a week, long before the authorities' certificates expire.
-Where there is no such folder to write, every lab makes its own. Safe for labs that start side by side: one of them makes the keys
-and the others wait for these; what is kept appears whole, and is replaced by the next folder's name, never changed.
+They are in build/lab-keys, readable by root only, and are made again after a week, long before the authorities' certificates
+expire. Where that folder cannot be written, every lab makes its own. Labs may start side by side: one of them makes the keys and
+the others wait. Kept keys appear as a whole folder and are never changed; new keys get a new folder.
 """
 
 import contextlib
@@ -15,7 +16,7 @@ from pathlib import Path
 
 _BUILD = Path(__file__).resolve().parents[3] / "build"
 _WEEK = 7 * 24 * 3600
-_LINES = "identities"  # what the maker printed; written last
+_LINES = "identities"  # the maker's output; written last
 
 
 def _whole(kept: Path, names: list[str], now: float) -> bool:
@@ -31,7 +32,7 @@ def _whole(kept: Path, names: list[str], now: float) -> bool:
 
 
 def take(names: list[str], target: Path, build: Path = _BUILD, now: float | None = None) -> str | None:
-    """Copies the kept keys to NAME/keys below the target; returns what `keep` was given, or None when there are none to use."""
+    """Copies the kept keys to NAME/keys below the target; returns the text that `keep` was given, or None without usable keys."""
     now = time.time() if now is None else now
     for kept in sorted((build / "lab-keys").glob("set-*")):
         if not _whole(kept, names, now):
@@ -45,7 +46,7 @@ def take(names: list[str], target: Path, build: Path = _BUILD, now: float | None
 
 @contextlib.contextmanager
 def one_at_a_time(build: Path = _BUILD):
-    """While a lab makes keys to be kept, no other one does. The lock ends with its process."""
+    """A lock: only one lab at a time makes keys to keep. The lock ends with its process."""
     try:
         (build / "lab-keys").mkdir(mode=0o700, exist_ok=True)
         lock = os.open(build / "lab-keys" / "lock", os.O_RDWR | os.O_CREAT | os.O_CLOEXEC, 0o600)
@@ -60,7 +61,7 @@ def one_at_a_time(build: Path = _BUILD):
 
 
 def keep(names: list[str], source: Path, lines: str, build: Path = _BUILD, now: float | None = None) -> None:
-    """Keeps a copy of NAME/keys below the source. Whoever comes second, or cannot write, keeps nothing."""
+    """Keeps a copy of NAME/keys below the source. A second lab, or one that cannot write, keeps nothing."""
     now = time.time() if now is None else now
     place = build / "lab-keys"
     try:
@@ -75,12 +76,12 @@ def keep(names: list[str], source: Path, lines: str, build: Path = _BUILD, now: 
             shutil.copytree(source / name / "keys", new / name / "keys")
         (new / _LINES).write_text(lines)
         os.utime(new / _LINES, (now, now))
-        new.rename(place / f"set-{int(now // _WEEK)}")  # fails where one stands already
+        new.rename(place / f"set-{int(now // _WEEK)}")  # fails when the folder exists already
     except OSError:
         shutil.rmtree(new, ignore_errors=True)
     for old in (folder for folder in place.glob("*") if folder.is_dir()):
         try:
-            # Not one that another lab may be reading or writing just now.
+            # Another lab may be reading or writing a newer one.
             if now - old.stat().st_mtime > 2 * _WEEK:
                 shutil.rmtree(old, ignore_errors=True)
         except OSError:

@@ -1,8 +1,8 @@
-"""Answers of a web site that are not simply its file: a test puts PATH.answer, a JSON object, beside the file PATH.
+"""Unusual answers of a web site: a test writes PATH.answer, a JSON object, beside the file PATH.
 
     {"status": 302, "headers": {"Location": "http://..."}}    that status with these headers
-    {"bytes": 1000}                                            announces the whole file, sends so much of it and closes
-    {"bytes": 1000, "hang": true}                              ... and then says nothing more, without closing
+    {"bytes": 1000}                                            announces the whole file, sends this many bytes and closes
+    {"bytes": 1000, "hang": true}                              the same, but keeps the connection open without sending more
 """
 
 import json
@@ -19,7 +19,7 @@ def find(path: str) -> dict | None:
 
 
 def give(handler, path: str, answer: dict) -> None:
-    """Writes it to the client of a http.server handler; a hanging one returns when the client has gone."""
+    """Writes the answer to the client of a http.server handler. A hanging answer returns when the client has gone."""
     content = b"as asked\n"
     if os.path.isfile(path):
         with open(path, "rb") as file:

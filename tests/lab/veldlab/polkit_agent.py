@@ -1,10 +1,10 @@
-"""An authentication agent for polkit, as a desktop has one, for one process: it answers what that process is asked.
+"""An authentication agent for polkit, like a desktop's. It answers the requests for one process.
 
     polkit_agent.py PID approve|refuse|cancel PASSWORD
 
 Prints "ready" once polkit knows it, then each request as a line of JSON: action, message, identities (user ids).
 `approve` gives the password to polkit's own helper, which asks PAM; `refuse` gives a wrong one; `cancel` dismisses the
-request. Runs as the user who is to be asked, until it is ended. Needs python3-gi.
+request. Runs as the user whom polkit asks, until it is ended. Needs python3-gi.
 """
 
 import json

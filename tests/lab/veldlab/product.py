@@ -1,4 +1,4 @@
-"""The program under test on the lab's host: the very files that ship, run as a user would.
+"""The program under test on the lab's host: the shipped files, run as a user does.
 
     product = Product(lab, programs)
     with product.session() as session:          # veldmarkctl run --connect
@@ -22,7 +22,7 @@ _ACCOUNTS = ("/etc/passwd", "/etc/group", "/etc/shadow", "/etc/gshadow")
 
 
 def difference(before: dict[str, str], after: dict[str, str]) -> str:
-    """What a session left changed, as a diff; "" when nothing. The account that Tor runs under is made once and stays."""
+    """The changes that a session left, as a diff; "" without any. Tor's account is made once and stays."""
 
     def without_accounts(state: dict[str, str]) -> dict[str, str]:
         lines = state["files"].splitlines()
@@ -32,13 +32,13 @@ def difference(before: dict[str, str], after: dict[str, str]) -> str:
 
 
 def is_probed(state: dict) -> bool:
-    """Connected, and the exit and the direct path have answered: nothing is asked directly any more. The test of look-ups goes on
-    for some seconds; who wants its result, or asks for another check, waits until `isChecking` is false."""
+    """Whether the session is connected and the checks of exit and direct path have their answers: no more direct requests follow.
+    The DNS check goes on for some seconds. A test that needs its result, or another check, waits until `isChecking` is false."""
     return state["phase"] == "connected" and state["torVerified"] is not None
 
 
 def _lines(descriptor: int, deadline: float, look):
-    """The lines that come through a pipe until its end or the deadline, with a look() in between."""
+    """The lines of a pipe until its end or the deadline, with calls of look() in between."""
     rest = b""
     while (left := deadline - time.monotonic()) > 0:
         if not select.select([descriptor], [], [], min(left, 0.2))[0]:
@@ -52,12 +52,18 @@ def _lines(descriptor: int, deadline: float, look):
 
 
 class Product:
-    """`programs`: the folder with veldmarkctl and the helper. `user`: who runs it; root needs no prompt."""
+    """`programs`: the folder with veldmarkctl and the helper. `user`: the user who runs it; root needs no prompt."""
 
     def __init__(self, lab, programs: Path, user: str = "root", env: dict | None = None):
         self.lab, self.user, self.env = lab, user, env or {}
         self.ctl = str(Path(programs) / "veldmarkctl")
         self.helper = str(Path(programs) / "veldmark-helper.sh")
+
+    def install_identifier(self) -> None:
+        """Puts veldmark-identify where a package has it. The helper runs none from a folder that others than root can change, such as a
+        checkout below /tmp."""
+        program = Path(self.helper).with_name("veldmark-identify").read_bytes()
+        self.lab.host.write("/usr/libexec/veldmark/veldmark-identify", program, mode=0o755)
 
     def run_verb(self, *verb: str, **options) -> subprocess.CompletedProcess:
         """One call of veldmarkctl, with its output as text."""
@@ -70,13 +76,13 @@ class Product:
         return self.lab.host.run(["/bin/bash", self.helper, *arguments], **options)
 
     def wait_state(self, condition, timeout: float = 60, look=lambda: None) -> dict:
-        """The first state for which `condition` holds among those that the running instance publishes, the present one first.
+        """Waits for the first state for which `condition` holds, beginning with the present one.
         `look` is called several times a second, and may raise."""
         deadline = time.monotonic() + timeout
         state = None
         while time.monotonic() < deadline:
             look()
-            # Following costs a busy machine far less than asking again and again.
+            # Following the state takes far less of a busy machine than repeated requests.
             with self.lab.host.popen(
                 [self.ctl, "status", "--json", "--watch"],
                 user=self.user,
@@ -129,7 +135,7 @@ class Session(contextlib.AbstractContextManager):
         return "\n".join(self.lines)
 
     def wait(self, condition, timeout: float = 60) -> dict:
-        """The first published state for which `condition` holds, as the running instance tells it."""
+        """Waits for the first state that the running instance publishes and for which `condition` holds."""
 
         def look() -> None:
             if self.process.poll() is not None:

@@ -1,8 +1,7 @@
 """The list of labs that run on this machine: one small JSON file each in /run/veldlab, readable by root only.
 
-A record holds what a second process needs to enter a lab (process ids as the machine sees them) and what a later start
-needs to sweep away what a killed run could not: its control group. Everything else of a lab lives in
-namespaces, which end with its processes.
+A record has what a second process needs to enter a lab (process ids as the machine sees them), and the control group, which a later
+start removes after a killed run. Everything else of a lab is in namespaces, which end with its processes.
 """
 
 import json
@@ -87,7 +86,7 @@ def find(lab_id: str | None) -> dict:
 
 
 def sweep() -> list[str]:
-    """Removes what dead runs left behind; returns their ids. Called with the cgroup v2 tree at /sys/fs/cgroup."""
+    """Removes the leftovers of dead runs; returns their ids. Called with the cgroup v2 tree at /sys/fs/cgroup."""
     swept = []
     for record in records():
         if is_alive(record):
@@ -99,7 +98,7 @@ def sweep() -> list[str]:
 
 
 def remove_cgroup(path: str) -> None:
-    """Kills what is left in the control group and removes it with all groups below. None there is no error."""
+    """Kills the processes left in the control group, and removes it with all groups below. A missing group is no error."""
     if not os.path.isdir(path):
         return
     try:

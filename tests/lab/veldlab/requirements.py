@@ -15,7 +15,7 @@ _PROGRAMS = {
     "unshare": "util-linux",
     "curl": "curl",
 }
-# Everything a lab does that a container or a hardened kernel may refuse, tried in namespaces that vanish at once.
+# Tries, in short-lived namespaces, everything of a lab that a container or a hardened kernel may refuse.
 _TRIAL = r"""
 set -eu
 ip link set lo up

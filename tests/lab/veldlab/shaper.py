@@ -1,7 +1,7 @@
 """The process behind shaping.py, at the router: `shaper.py DEVICE DELAY_MS LOSS`.
 
-Makes the tun device, says "ready", then holds every packet back for the delay, or loses it with the probability LOSS
-(0 to 1). Ends when its standard input does, and the device with it.
+Makes the tun device, prints "ready", then delays every packet, or loses it with the probability LOSS (0 to 1). The program and the
+device end with its standard input.
 """
 
 import collections

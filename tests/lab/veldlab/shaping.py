@@ -63,7 +63,7 @@ class Shaping:
         self._router.run(["ip", *words], check=check)
 
     def close(self) -> None:
-        """The path is as before when this returns; packets that were held back are lost."""
+        """The path is as before when this returns; delayed packets are lost."""
         rules, self._rules = self._rules, []
         for family, *rule in rules:
             self._ip(family, "rule", "del", *rule, "lookup", self._table, check=False)

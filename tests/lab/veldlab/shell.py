@@ -12,10 +12,10 @@ import select
 import time
 
 PROMPT = "lab-prompt> "
-# zsh without its line editor, which would draw the typed line in among the answers.
+# zsh without its line editor, which would draw the typed line between the answers.
 _PROMPT_LINES = f"PS1='{PROMPT}'; [ -z \"${{ZSH_VERSION:-}}\" ] || unsetopt zle prompt_sp prompt_cr\n"
 START_UP = (".bashrc", ".zshrc")
-# The computer's own start-up files are no part of this.
+# The computer's own start-up files are left out.
 _WORDS = {"bash": ["bash", "-i"], "zsh": ["zsh", "-d", "-i"]}
 
 
@@ -32,7 +32,7 @@ class Shell(contextlib.AbstractContextManager):
     def __init__(self, lab, program: str, user: str, timeout: float = 60):
         self._timeout = timeout
         self._master, slave = pty.openpty()
-        # A terminal without any abilities: what comes back is what programs print.
+        # A terminal without any capabilities: it returns exactly what programs print.
         self._process = lab.host.popen(
             ["setsid", "--ctty", "--wait", *_WORDS[program]],
             user=user,
@@ -47,7 +47,7 @@ class Shell(contextlib.AbstractContextManager):
         self.run("stty -echo")
 
     def run(self, line: str) -> str:
-        """What the shell printed between this line and the next prompt."""
+        """Runs the line; returns what the shell printed before the next prompt."""
         os.write(self._master, line.encode() + b"\n")
         return self._until_prompt()
 
@@ -60,7 +60,7 @@ class Shell(contextlib.AbstractContextManager):
                 raise TimeoutError(f"no prompt within {self._timeout:.0f} s after {self._seen!r}")
             try:
                 read = os.read(self._master, 65536)
-            except OSError:  # how Linux tells that nobody has the other end open
+            except OSError:  # Linux reports this way that the other end is closed
                 read = b""
             if not read:
                 raise RuntimeError(f"the shell has ended after {self._seen!r}")

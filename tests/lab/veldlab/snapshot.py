@@ -23,7 +23,7 @@ _COLLECT = Path(__file__).resolve().with_name("snapshot_collect.py")
 
 
 def take(host) -> dict[str, str]:
-    """Raises CommandFailed when a section cannot be read: a snapshot with a gap would prove nothing."""
+    """Raises CommandFailed when a section cannot be read: an incomplete snapshot would prove nothing."""
     collected = host.run([at.PYTHON, "-I", "-S", "-", host.user], input=_COLLECT.read_text(), check=True)
     files = _changed_files(host.upper("/etc"), Path("/etc")) + _changed_files(host.upper("/usr"), Path("/usr"))
     return json.loads(collected.stdout) | {"files": "\n".join(sorted(files))}

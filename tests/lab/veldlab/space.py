@@ -38,7 +38,7 @@ class Space:
         return self.root / inside.lstrip("/")
 
     def preload(self, *libraries: str | Path) -> str:
-        """LD_PRELOAD for these, wherever they lie: the dynamic loader takes a path apart at blanks and knows no quotes."""
+        """LD_PRELOAD for these files in any folder: the dynamic loader splits a path at blanks and knows no quotes."""
         links = []
         for library in map(str, libraries):
             links.append("/run/preload-" + re.sub(r"[\s:]", "-", os.path.basename(library)))

@@ -1,7 +1,7 @@
 """A real OpenSSH server in the world or on a neighbour, with one account that only a key opens.
 
-Debian's package need not be installed, only unpacked (dpkg -x): VELDMARK_SSHD names the folder. The server has accounts of
-its own in a mount namespace of its own, so nothing of the machine's is used or changed.
+Debian's package need not be installed, only unpacked (dpkg -x): VELDMARK_SSHD names the folder. The server has its own accounts in
+its own mount namespace, so it neither uses nor changes the machine's.
 
     with SshServer(lab.world.space, "203.0.113.37", public_key) as server:
         server.folder            # as the caller reaches it; the account's home is "home" in there

@@ -1,4 +1,4 @@
-"""The process that holds one lab together and takes it down, whatever happens to its owner.
+"""The process that runs one lab and ends it, also when the owner is killed.
 
     owner (a test, or lab.py)
       '- supervisor            own session, own mount namespace; watches the owner through a pidfd
@@ -49,7 +49,7 @@ def show_cgroup2() -> None:
 
 
 def reap_for_ever() -> None:
-    """What process 1 of a pid namespace owes the others. Ends only by being killed."""
+    """Reaps orphans, as process 1 of a pid namespace must. Ends only when it is killed."""
     signal.pthread_sigmask(signal.SIG_BLOCK, [signal.SIGCHLD])
     while True:
         try:
@@ -108,7 +108,7 @@ def start_host_init(cgroup: str, options: dict, channel: socket.socket) -> None:
 
 
 def receive_ready(channel: socket.socket) -> tuple[str, int]:
-    """One word of `say_ready` and its sender's process id as seen from here."""
+    """Receives one word of `say_ready`, and its sender's process id as this process sees it."""
     data, ancillary, _, _ = channel.recvmsg(4096, socket.CMSG_SPACE(12))
     word = data.decode()
     if not word or word.startswith("error "):
@@ -167,7 +167,7 @@ class Supervisor:
         for fd in (channel.fileno(), self.owner_fd, self.wake_read):
             poller.register(fd, select.POLLIN)
         if any(fd != channel.fileno() for fd, _ in poller.poll()):
-            raise RuntimeError("told to end while starting")
+            raise RuntimeError("stopped by its owner while starting")
         return receive_ready(channel)
 
     def become_lab_init(self, go_read: int, go_write: int, ours: socket.socket, theirs: socket.socket) -> None:

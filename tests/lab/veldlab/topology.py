@@ -56,7 +56,7 @@ OR_PORT = 5000
 DIR_PORT = 7000
 OBFS4_PORT = 9030
 
-# The router's interface for each link, by the name of what hangs on it.
+# The router's interface for each link, by the name of the machine at it.
 ROUTER_LINKS = {"world": "world0", "host": "host0", "lan": "lan0"}
 
 
@@ -89,8 +89,8 @@ NODES = AUTHORITIES + EXITS + MIDDLES + BRIDGES
 RELAY_ADDRESSES = frozenset(node.address for node in NODES)
 EXIT_ADDRESSES = frozenset(node.address for node in EXITS)
 
-# Where things stand inside the lab's own mount namespace; no folder of the machine is used.
-# The system's own interpreter: it is there in every view of the file system, unlike one in a home folder.
+# Paths inside the lab's own mount namespace; no folder of the machine is used.
+# The system's own interpreter exists in every view of the file system, unlike one in a home folder.
 PYTHON = "/usr/bin/python3"
 
 LAB_FOLDER = "/run/veldlab"

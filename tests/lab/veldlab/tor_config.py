@@ -20,7 +20,8 @@ def geoip_text() -> str:
 
 
 def bandwidth_text(now: int, fingerprints: list[str]) -> str:
-    """What authorities take as measured, the same for all: else the first relay that carries traffic gets all of it."""
+    """The measured bandwidths for the authorities, equal for all relays. Otherwise the first relay that carries traffic would get
+    all of it."""
     return f"{now}\n" + "".join(f"node_id=${fingerprint} bw=1000\n" for fingerprint in fingerprints)
 
 
@@ -46,7 +47,7 @@ def _common_lines(identities: dict[str, tuple[str, str]]) -> list[str]:
 
 
 def client_lines(identities: dict[str, tuple[str, str]]) -> str:
-    # The system's 16 MB about IPv6, which know nothing of the lab, would be most of what tor does at its start.
+    # Reading the system's 16 MB of IPv6 data, which do not contain the lab, would be most of tor's start.
     return "\n".join([*_common_lines(identities), f"GeoIPFile {GEOIP_FILE}", "GeoIPv6File /dev/null", ""])
 
 
@@ -75,7 +76,8 @@ def node_torrc(node: Node, identities: dict[str, tuple[str, str]], voting: bool 
         "RunAsDaemon 1",
         "NumCPUs 1",
         "AvoidDiskWrites 1",
-        # Each node packs, in four ways, the difference from each consensus that it has kept; there is a new one every twenty seconds.
+        # Each node compresses, in four formats, the difference from each kept consensus; there is a new consensus every twenty
+        # seconds.
         "MaxConsensusAgeForDiffs 1 minutes",
         "SocksPort 0",
         f"Address {node.address}",
@@ -98,7 +100,8 @@ def _authority(node: Node) -> list[str]:
         "V3AuthoritativeDirectory 1",
         "TestingV3AuthInitialVoteDelay 2",
         "TestingV3AuthInitialDistDelay 2",
-        # The least that tor allows is 10. Each consensus costs every node some work; more would be long for a start whose first one fails.
+        # tor's minimum is 10. Each consensus takes work in every node; a longer interval would slow a start whose first consensus
+        # fails.
         "V3AuthVotingInterval 20",
         "V3AuthVoteDelay 2",
         "V3AuthDistDelay 2",

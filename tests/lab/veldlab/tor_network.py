@@ -1,7 +1,7 @@
 """The tor processes of the world: made, started, watched, stopped.
 
-State is in files (keys, torrc, pid and log of each node in its folder), so a second process that found the lab in the
-registry controls it as well as the one that started it.
+State is in files (keys, torrc, pid and log of each node in its folder), so a second process that found the lab in the registry can
+control it like the one that started it.
 """
 
 import os
@@ -32,8 +32,8 @@ for pid in $pids; do wait "$pid"; done
 """
 
 # Arguments: a folder, a library or nothing, then names of nodes. Each tor goes to the background once it has its keys and its ports.
-# The library, KeptLinkKeys.cpp, gives it the key for its connections that make_keys has made. It may lie below a folder with blanks, at
-# which the dynamic loader would take its path apart.
+# The library, KeptLinkKeys.cpp, gives tor the connection key that make_keys has made. It may be in a folder with blanks, where the
+# dynamic loader would split its path.
 _START = r"""
 set -u; cd "$1"; library=$2; shift 2
 [ -z "$library" ] || { ln -sf "$library" kept-link-keys.so; library=$PWD/kept-link-keys.so; }
@@ -77,11 +77,11 @@ class TorNetwork:
 
     @property
     def exits(self) -> dict[str, str]:
-        """Address of each exit to its country, in lower case."""
+        """The country of each exit, in lower case, by its address."""
         return {node.address: node.country for node in at.EXITS}
 
     def make_keys(self) -> dict[str, tuple[str, str]]:
-        """Gives each node its keys, those of an earlier lab if there are any; returns the authorities' name to (v3 identity, fingerprint)."""
+        """Gives each node its keys, an earlier lab's if there are any; returns {authority: (v3 identity, fingerprint)}."""
         (self.folder / "empty").touch()
         (self.folder / "geoip").write_text(tor_config.geoip_text())
         (self.folder / "resolv.conf").write_text(f"nameserver {at.DNS_ADDRESS}\n")
@@ -101,7 +101,7 @@ class TorNetwork:
             if lines is None:
                 for node in at.NODES:
                     (self.folder / node.name / "fingerprint.torrc").write_text(tor_config.fingerprint_torrc(node))
-                # Chance makes them dear or cheap, and other programs may want the processors too.
+                # The time for keys depends on chance, and other programs may use the processors as well.
                 lines = self.space.run(["/bin/sh", "-c", _MAKE_KEYS, "sh", at.TOR_FOLDER, *names], check=True, timeout=180).stdout
                 node_keys.keep(names, self.folder, lines)
         return lines
@@ -151,7 +151,7 @@ class TorNetwork:
     def stop(self, *names: str) -> None:
         """Kills the named nodes; returns when they are gone. A node that is stopped already is fine.
 
-        Not by SIGTERM: tor 0.4.9.11 sometimes says "exiting cleanly" and then waits for its own threads for ever.
+        It does not use SIGTERM: tor 0.4.9.11 sometimes prints "exiting cleanly" and then waits for its own threads for ever.
         """
         for node in map(at.node_named, names):
             self.space.run([at.PYTHON, "-I", "-S", "-c", _STOP, f"{tor_config.folder(node)}/pid"], check=True)
@@ -184,7 +184,7 @@ class TorNetwork:
         return not node.transport or f"Registered server transport '{node.transport}'" in latest
 
     def bridge_line(self, transport: str = "obfs4", ipv6: bool = False) -> str:
-        """What a user would enter, without "Bridge": for "obfs4", or "" for the plain bridge."""
+        """The bridge line that a user would enter, without "Bridge": "obfs4", or "" for the plain bridge."""
         node = next(n for n in at.BRIDGES if n.transport == transport)
         fingerprint = self._fingerprint(node)
         address = f"[{node.address6}]" if ipv6 else node.address

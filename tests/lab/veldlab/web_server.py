@@ -5,8 +5,8 @@ Pages of the web server, under any of its names:
     /            a short text            /bytes/N   N zero bytes        /status/NNN   that status
     /ip          the client's address    any other path: a file of the site, from sites/NAME/PATH
 
-The exit check answers /api/ip with {"IsTor": ..., "IP": ...}. How it behaves is asked anew for each connection; see
-CHECK_BEHAVIOURS. Every request is logged before it is answered; a connection that never becomes one is logged too.
+The exit check answers /api/ip with {"IsTor": ..., "IP": ...}. Each connection reads its behaviour again; see CHECK_BEHAVIOURS.
+Every request is logged before its answer is sent; a connection without a request is logged as well.
 """
 
 import http.server
@@ -76,7 +76,7 @@ class WebServer(http.server.ThreadingHTTPServer):
 
 
 class Certificates:
-    """Picks the certificate for the name that the client asks for: its own file, else `default`."""
+    """Chooses the certificate for the client's server name: the name's own file, else `default`."""
 
     def __init__(self, folder: str, default: str):
         self.folder, self.default = folder, default
@@ -127,7 +127,7 @@ class _Handler(http.server.BaseHTTPRequestHandler):
         self.send_header("Content-Type", kind)
         self.send_header("Content-Length", str(length))
         if self.server.service == "check":
-            self.send_header("Connection", "close")  # so that a change of behaviour holds from the next request on
+            self.send_header("Connection", "close")  # so that a change of behaviour applies from the next request on
         self.end_headers()
         if self.command == "HEAD":
             return

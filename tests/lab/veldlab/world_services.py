@@ -1,6 +1,6 @@
 """The process that serves DNS, web pages and the exit check in the world, and `World`, by which tests use it.
 
-The two sides talk through files in the world's folder: `behaviour-NAME` says how a service is to behave from now on,
+The two sides talk through files in the world's folder: `behaviour-NAME` contains a service's behaviour,
 `dns.log` and `web.log` hold one JSON object per line, `sites/NAME/` are the files of a web site, and
 `certificates/NAME.pem` is its certificate. So a test, a command line and a second process can all use a running lab.
 """
@@ -27,7 +27,7 @@ _READY_FD = 3  # takes one byte when all services listen; its end without one me
 
 
 class World:
-    """The services as a test sees them. Times in the logs are seconds of the machine's wall clock."""
+    """The services for tests. Times in the logs are seconds of the machine's wall clock."""
 
     def __init__(self, space):
         self.space = space
@@ -60,7 +60,7 @@ class World:
         return (self.folder / "certificates/ca.pem").read_bytes()
 
     def behave(self, service: str, behaviour: str) -> None:
-        """From now on `service` ("check" or "dns") behaves so; see BEHAVIOURS. Raises ValueError."""
+        """Sets the behaviour of `service` ("check" or "dns"); see BEHAVIOURS. Raises ValueError."""
         if behaviour not in BEHAVIOURS.get(service, {}):
             known = ", ".join(f"{s} {b}" for s, choices in BEHAVIOURS.items() for b in choices)
             raise ValueError(f"no behaviour {service} {behaviour}; there are: {known}")

@@ -1,4 +1,4 @@
-"""Prints where two pictures differ within some rows, as JSON: changed.py A.png B.png TOP BOTTOM
+"""Prints the places where two pictures differ within some rows, as JSON: changed.py A.png B.png TOP BOTTOM
 
 Each place as [left, top, right, bottom], from left to right; columns less than five pixels apart belong together.
 """

@@ -1,7 +1,7 @@
-"""Prints by how much the most visible pixel of a square differs from its surroundings, 0 to 255: contrast.py PICTURE X Y SIZE
+"""Prints the contrast between the most visible pixel of a square and its surroundings, 0 to 255: contrast.py PICTURE X Y SIZE
 
-X and Y are its middle; the surroundings are the most frequent colour of the square. An icon of one colour on a ground of nearly
-the same is a small number.
+X and Y are its middle; the surroundings are the most frequent colour of the square. An icon on a background of nearly the same
+colour gives a small number.
 """
 
 import collections

@@ -1,4 +1,4 @@
-"""Prints how light the most frequent colour of a rectangle is, 0 to 255: lightness.py PICTURE X Y WIDTH HEIGHT"""
+"""Prints the lightness of the most frequent colour of a rectangle, 0 to 255: lightness.py PICTURE X Y WIDTH HEIGHT"""
 
 import collections
 import sys

@@ -1,7 +1,7 @@
 """Clicks in a wlroots compositor: pointer.py X Y BUTTON WIDTH HEIGHT, the last two being the output's size.
 
-A headless compositor has no mouse, so its clients have none either: this makes one (wlr-virtual-pointer), gives the clients a moment to
-see it, moves it, presses and releases.
+A headless compositor has no mouse. This program makes one (wlr-virtual-pointer), gives the clients a moment to notice it, moves it,
+presses and releases.
 """
 
 import os
@@ -30,7 +30,7 @@ class Wayland:
         self.socket.sendall(struct.pack("=II", target, (8 + len(arguments)) << 16 | code) + arguments)
 
     def wait(self) -> None:
-        """Until the compositor has done all that it was told."""
+        """Waits until the compositor has handled all requests."""
         callback = self.new()
         self.send(1, 0, struct.pack("=I", callback))
         while True:

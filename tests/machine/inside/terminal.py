@@ -1,4 +1,4 @@
-"""Types a line into a shell on a terminal of its own, and the password where it is asked for: terminal.py PASSWORD LINE
+"""Types a line into a shell on a terminal of its own, and the password at its prompt: terminal.py PASSWORD LINE
 
 Prints what the terminal shows; ends with the line's exit status.
 """

@@ -56,7 +56,7 @@ private Q_SLOTS:
         Snapshot replaced = inPhase(Phase::stale);
         replaced.isAnothers = true;
         replaced.hasTorStopped = false;
-        // of something else
+        // the message is about something else
         replaced.errorMessage = QStringLiteral("The settings file couldn't be read.");
         replaced.statusDetail = QStringLiteral(
             "Your network is set up for Tor by bob, whose Veldmark is process 7");
@@ -67,7 +67,7 @@ private Q_SLOTS:
         QCOMPARE(told.at(0).at(1).toString(), replaced.statusDetail);
     }
 
-    // Nobody is the owner of one that was begun by hand.
+    // A session that was begun by hand has no owner.
     void aSessionBegunByHandInPlaceOfThisOneIsNotCalledTorsEnd()
     {
         Workbench bench;
@@ -132,7 +132,7 @@ private Q_SLOTS:
         session.show(s);
         QCOMPARE(told.count(), 1);
         QVERIFY(told.at(0).at(1).toString().contains(QStringLiteral("back in place")));
-        for (int attempt = 1; attempt < 5; ++attempt) { // tries again and again
+        for (int attempt = 1; attempt < 5; ++attempt) { // tries repeatedly
             s.killSwitch = rules(State::open, 2);
             session.show(s);
             s.bytesRead += 1;
@@ -142,7 +142,7 @@ private Q_SLOTS:
         QCOMPARE(told.at(1).at(0).toString(), QStringLiteral("Traffic can leave around Tor"));
         s.killSwitch = rules(State::putBack, 2);
         session.show(s);
-        QCOMPARE(told.count(), 3); // that it is over is news as well
+        QCOMPARE(told.count(), 3); // its end is news as well
         s.killSwitch = rules(State::standing);
         session.show(s);
         QCOMPARE(told.count(), 3);
@@ -190,7 +190,7 @@ private Q_SLOTS:
         s.killSwitch = rules(State::putBack, 61, 1'800'000'060);
         session.show(s);
         QCOMPARE(told.count(), 2);
-        // Another session has a first time of its own.
+        // The first notification comes again in another session.
         s.killSwitch.reset();
         s.phase = Phase::disconnecting;
         session.show(s);
@@ -210,7 +210,7 @@ private Q_SLOTS:
             Snapshot s = inPhase(Phase::stale);
             s.killSwitch = rules(state, 3);
             session.show(s);
-            QCOMPARE(told.count(), state == State::open ? 1 : 0); // that one is so now
+            QCOMPARE(told.count(), state == State::open ? 1 : 0); // this session's rules failed now
         }
     }
 
@@ -244,7 +244,7 @@ private Q_SLOTS:
         QCOMPARE(told.count(), 2);
         s.leak = {};
         session.show(s);
-        // What begins behind another danger is news as well, once.
+        // A danger that begins during another one is told as well, once.
         s.dns = DNSStatus::leak({QStringLiteral("192.168.1.1")});
         session.show(s);
         QCOMPARE(told.count(), 3);
@@ -257,7 +257,7 @@ private Q_SLOTS:
         s.leak = {};
         session.show(s);
         QCOMPARE(told.count(), 4);
-        s.activeMode = RoutingMode::proxy; // where it is known, and told, that apps can go direct
+        s.activeMode = RoutingMode::proxy; // the mode shows already that apps can connect directly
         s.leak = {Leak::Kind::exposed, QStringLiteral("198.51.100.1")};
         session.show(s);
         QCOMPARE(told.count(), 4);

@@ -14,7 +14,7 @@
 #include <cstddef>
 
 #if defined(__SANITIZE_ADDRESS__)
-// Of the sanitizer's run time; g++ brings no header that declares it.
+// From the sanitizer's run time; g++ has no header that declares it.
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #elif defined(Q_OS_LINUX)
 #include <malloc.h>
@@ -32,7 +32,7 @@ struct Shown {
     std::unique_ptr<Windows> windows = std::make_unique<Windows>(session, log, *bench.settings);
 };
 
-// What this process has taken.
+// The memory that this process uses.
 struct Taken {
     qint64 heapBytes = 0; // in use
     qsizetype descriptors = 0;
@@ -58,7 +58,7 @@ Taken taken()
 
 } // namespace
 
-// The program's own windows, as app/Windows makes them; tests/ui looks at what is in them.
+// The program's windows as app/Windows makes them. tests/ui tests their content.
 class AppWindowsTest : public QObject {
     Q_OBJECT
 
@@ -84,7 +84,7 @@ private Q_SLOTS:
         QVERIFY(!shown.windows->make(u"main/NoSuchWindow.qml"_s, {}));
         QCOMPARE(failed.count(), 1);
         QVERIFY(failed.at(0).at(0).toString().contains(u"NoSuchWindow.qml"_s));
-        // A file that is there, but lacks what it requires.
+        // The file exists, but a required property is missing.
         QVERIFY(!shown.windows->make(u"main/QuitDialog.qml"_s, {}));
         QCOMPARE(failed.count(), 2);
         QVERIFY(!failed.at(1).at(0).toString().isEmpty());
@@ -149,8 +149,10 @@ private Q_SLOTS:
         main->grabWindow();
         settle();
         QVERIFY2(main->height() > before, qPrintable(QString::number(before))); // the banner's
+                                                                                // height
         const int content = main->height();
-        main->resize(main->width(), before); // what the window manager tells late is nobody's wish
+        main->resize(main->width(), before); // a late resize by the window manager is not the
+                                             // user's
         settle();
         small.errorMessage.reset();
         shown.session.show(small);
@@ -176,7 +178,7 @@ private Q_SLOTS:
         shown.log.show(LogFeed::State::lines, Scenes::log(20));
         for (const auto &[name, shownRows] : {std::pair(u"log"_s, 20), {u"chooser"_s, 3}}) {
             QVERIFY(shown.windows->open(name));
-            settle(); // Qt tells QML late that a window is visible
+            settle(); // QML learns late that a window is visible
             const auto *rows
                 = shown.windows->find(name)->property("model").value<QAbstractItemModel *>();
             QCOMPARE(rows->rowCount(), shownRows);
@@ -242,14 +244,15 @@ private Q_SLOTS:
             return isGood;
         };
         constexpr int measured = 20;
-        constexpr qint64 limitBytes = measured * 1024; // a window kept in each round takes far more
-        // What the windows' scripts leave goes when it is collected, once in some sixty rounds.
+        constexpr qint64 limitBytes = measured * 1024; // a window that leaks in each round takes
+                                                       // far more
+        // The garbage collector frees the windows' scripts about once in sixty rounds.
         const auto tidied = [&] {
             qmlEngine(shown.windows->find(u"main"_s))->collectGarbage();
             settle();
             return taken();
         };
-        QVERIFY(rounds(10)); // what Qt Quick keeps for the next time
+        QVERIFY(rounds(10)); // Qt Quick's own caches
         const Taken before = tidied();
         QVERIFY(rounds(measured));
         const Taken after = tidied();
@@ -258,7 +261,7 @@ private Q_SLOTS:
         QVERIFY2(after.heapBytes - before.heapBytes < limitBytes,
                  qPrintable(QString::number(after.heapBytes - before.heapBytes)));
 
-        // That it would be seen: one small window kept in each round.
+        // The measurement would notice one small window that is kept in each round.
         const auto kept = shown.windows->make(u"main/QuitDialog.qml"_s,
                                               {{u"strict"_s, true}, {u"busy"_s, false}});
         QVERIFY(kept);
@@ -294,7 +297,7 @@ private Q_SLOTS:
         connected.phase = Phase::connected;
         const auto read = [&shown] { return shown.session.asked.removeAll(u"refreshCircuits"_s); };
         QVERIFY(shown.windows->open(u"circuits"_s)); // before the session
-        settle();                                    // Qt tells QML late that a window is visible
+        settle();                                    // QML learns late that a window is visible
         QCOMPARE(read(), 0);
         shown.session.show(connected);
         QCOMPARE(read(), 1);

@@ -10,8 +10,8 @@
 using namespace Qt::StringLiterals;
 using namespace veldmark;
 
-// The start of the desktop application, with the real processes that it starts; Tor is never
-// reached.
+// The start of the desktop application with the real processes that it starts. It never reaches
+// Tor.
 class ApplicationTest : public QObject {
     Q_OBJECT
 private:
@@ -54,7 +54,7 @@ private Q_SLOTS:
         QCOMPARE(computer.verbs(), QStringList{u"install-privileged"_s});
     }
 
-    // What was left over is found before anything connects by itself.
+    // A leftover session is found before the automatic connect.
     void whatWasLeftOverIsNotReplaced()
     {
         Computer computer;

@@ -3,6 +3,7 @@
 #include "support/OtherSession.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
+#include "ui/PanelModel.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -102,7 +103,7 @@ private Q_SLOTS:
                 && stale.activeMode == RoutingMode::strict);
     }
 
-    // No window asks for them, and the panel shows the exit's country all the same.
+    // No window asks for circuits, but the panel shows the exit's country.
     void theCircuitsAreReadWhenTheExitIsKnown()
     {
         Workbench bench;
@@ -154,7 +155,7 @@ private Q_SLOTS:
         QVERIFY(until([&] { return asked() >= before + 2; }));
         settle();
         QCOMPARE(asked(), before + 2);
-        session.refreshCircuits(); // and again when somebody asks later
+        session.refreshCircuits(); // and again at a later request
         QVERIFY(until([&] { return asked() == before + 3; }));
     }
 
@@ -222,7 +223,7 @@ private Q_SLOTS:
         QVERIFY(until([&] { return session.now().isAnothers; }));
         QVERIFY(session.now().phase == ConnectionPhase::stale);
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 0);
-        session.disconnectFromTor(); // it is shown, and meant
+        session.disconnectFromTor(); // the session is shown as another's, so this one is meant
         QVERIFY(until([&] { return session.now().phase == ConnectionPhase::disconnected; }));
         QVERIFY(!session.now().isAnothers);
     }
@@ -231,7 +232,7 @@ private Q_SLOTS:
     {
         Workbench bench;
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
-        // The event loop runs meanwhile, and the snapshot may have followed already.
+        // The event loop runs meanwhile, so the snapshot may be up to date already.
         const auto shows = [&session](KillSwitch::State state) {
             return until([&] {
                 return session.now().killSwitch && session.now().killSwitch->state == state;
@@ -249,7 +250,7 @@ private Q_SLOTS:
     {
         Workbench bench;
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
-        // which says nothing of what is in it
+        // an existing folder says nothing about its content
         QVERIFY(QDir().mkpath(bench.profile.terminalDirectory));
         session.lookAgain();
         follow(session);
@@ -270,7 +271,7 @@ private Q_SLOTS:
         session.store(choices);
         QVERIFY(until([&] { return session.now().terminalForSsh; }));
         QVERIFY(!session.now().terminalError);
-        // Somebody takes our line out of the shell's file.
+        // Another program removes Veldmark's line from the shell's file.
         bench.writeFile(bench.profile.shellFilesAlways.constFirst(), "# nothing\n");
         session.lookAgain();
         follow(session);
@@ -306,7 +307,7 @@ private Q_SLOTS:
         QVERIFY(!session.now().markerPresent);
         bench.writeMarker("strict\n");
         settle();
-        QVERIFY(!session.now().markerPresent); // nobody tells
+        QVERIFY(!session.now().markerPresent); // there is no notice of the marker
         session.lookAgain();
         follow(session);
         QVERIFY(session.now().markerPresent);
@@ -324,7 +325,7 @@ private Q_SLOTS:
         };
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
         QVERIFY(session.now().findings.empty());
-        // it may end while the events of its beginning are handled
+        // it may end while the events of its start are handled
         QList<bool> shown{session.now().isExamining};
         QObject::connect(&session, &Session::changed, this, [&] {
             if (shown.constLast() != session.now().isExamining)
@@ -337,7 +338,7 @@ private Q_SLOTS:
         QCOMPARE(runs(), 1);
         QVERIFY(!session.now().findings.empty());
         QCOMPARE(session.now().findings.front().name, u"tor"_s);
-        session.examine(); // and again when somebody asks later
+        session.examine(); // and again at a later request
         QVERIFY(until([&] { return shown.size() == 5; }));
         QCOMPARE(runs(), 2);
     }
@@ -385,7 +386,7 @@ private Q_SLOTS:
         QVERIFY(!session.now().bootstrapProblem);
     }
 
-    // An attempt that was ended before it failed has no banner to which that would belong.
+    // A cancelled attempt shows no failure, so its reason must not be shown either.
     void whatWasInTorsWayIsNoPartOfWhatIsWrongWithTheSettings()
     {
         Workbench bench;
@@ -435,6 +436,26 @@ private Q_SLOTS:
         }
     }
 
+    // There is a tor, and the command line says the same.
+    void aLocationOfTorThatIsRefusedIsNotTakenForAMissingTor()
+    {
+        Workbench bench;
+        bench.controller().customTorPath.set(u"bin/tor"_s); // as an older version may have kept it
+        ControllerSession session(bench.controller(), *bench.settings, bench.applications);
+        PanelModel panel(session);
+        QVERIFY(!panel.torMissing());
+        QVERIFY(panel.powerEnabled());
+        panel.pressPower();
+        follow(session);
+        QVERIFY2(panel.error().contains(u"\"bin/tor\" is not a location of Tor"_s),
+                 qPrintable(panel.error()));
+        bench.removeTor();
+        bench.controller().customTorPath.set(QString());
+        follow(session);
+        QVERIFY(panel.torMissing());
+        QVERIFY(!panel.powerEnabled());
+    }
+
     void oneClickDismissesOneMessage()
     {
         Workbench bench;
@@ -445,7 +466,7 @@ private Q_SLOTS:
         bench.removeTor();
         session.connectToTor();
         follow(session);
-        // in front of the first
+        // the new message covers the first
         QCOMPARE(session.now().errorMessage.value(), bench.profile.torMissingText);
         session.dismissError();
         follow(session);
@@ -461,7 +482,7 @@ private Q_SLOTS:
         ControllerSession session(bench.controller(), *bench.settings, bench.applications);
         bench.controller().showProblem(u"First."_s);
         follow(session);
-        bench.controller().showProblem(u"Second."_s); // not shown yet when the user clicks
+        bench.controller().showProblem(u"Second."_s); // not yet shown when the user clicks
         session.dismissError();
         follow(session);
         QCOMPARE(session.now().errorMessage.value(), u"Second."_s);
@@ -497,7 +518,8 @@ private Q_SLOTS:
         bench.hold(u"disconnect"_s);
         const auto disconnecting = bench.controller().disconnect();
         QVERIFY(until([&] { return session.now().phase == Phase::disconnecting; }));
-        QCOMPARE(session.now().bootstrapProgress, 1.0); // not to be shown as that of the disconnect
+        QCOMPARE(session.now().bootstrapProgress, 1.0); // must not appear as the disconnect's
+                                                        // message
         QCOMPARE(session.now().statusDetail, u"Restoring your network settings…"_s);
         QVERIFY(!session.now().canCancel && !session.now().exitIP);
         bench.processes.hold = nullptr;

@@ -27,7 +27,7 @@ void write(const QString &path, const QByteArray &content)
     file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
-// The session's notification service and logind, which stand on one bus here.
+// The session's notification service and logind, here on one bus.
 class Desktop final : public QDBusVirtualObject {
 public:
     explicit Desktop(const QDBusConnection &bus) : m_bus(bus)
@@ -38,7 +38,7 @@ public:
         for (const QString &name : names())
             m_isThere = m_bus.registerService(name) && m_isThere;
     }
-    // Its connection outlives it, and would keep the names from the next one.
+    // The connection outlives this object, so the names are released for the next one.
     ~Desktop() override
     {
         for (const QString &name : names())
@@ -105,7 +105,7 @@ private:
     int m_lock = -1;
 };
 
-// A computer in a folder, whose helper writes down its verbs and fails.
+// A computer in a folder. Its helper records its verbs and fails.
 struct Computer {
     QTemporaryDir folder;
     PlatformProfile profile;
@@ -139,7 +139,7 @@ bool isMainShown(const Application &application)
 
 } // namespace
 
-// The program as a whole on a desktop, with a tray and without one, and what it tells the desktop.
+// The whole program on a desktop, with and without a tray, and its messages to the desktop.
 class DesktopStartTest : public QObject {
     Q_OBJECT
 
@@ -172,7 +172,7 @@ private Q_SLOTS:
         application.windows().find(u"main"_s)->close();
         QTRY_COMPARE(desktop->notified, QStringList(u"Veldmark is still running"_s));
 
-        // A tray that comes later is used at once, and from then on there is nothing to tell.
+        // A later tray is used at once, and no notification follows.
         QVERIFY(!application.tray());
         StatusNotifierWatcher tray(bus.connection());
         QTRY_VERIFY(application.tray());
@@ -202,7 +202,7 @@ private Q_SLOTS:
         const StatusNotifierWatcher tray(bus.connection());
         const Computer computer;
         Application application(computer.profile);
-        // Asked after the application has, so answered after it.
+        // This request comes after the application's, so its answer does as well.
         SystemClock clock;
         const TrayHost host(QDBusConnection::sessionBus(), clock);
         QTRY_VERIFY(host.isPresent());

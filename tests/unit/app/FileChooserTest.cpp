@@ -13,7 +13,7 @@
 using namespace Qt::StringLiterals;
 using namespace veldmark;
 
-// Answers as the desktop's portal does.
+// Answers like the desktop's portal.
 class Portal : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.FileChooser")
@@ -44,7 +44,7 @@ public:
     QString title;
     QVariantMap options;
     QString request;
-    bool old = false; // a portal that makes up the path of its request
+    bool old = false; // a portal that chooses another path for its request
 
 public Q_SLOTS:
     Q_SCRIPTABLE QDBusObjectPath OpenFile(const QString &, const QString &wantedTitle,
@@ -63,7 +63,7 @@ private:
     QDBusConnection m_bus;
 };
 
-// What is sent to it has been preceded by all that was sent to its connection before.
+// A message to it arrives after every earlier message to its connection.
 class Echo : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "test.Echo")
@@ -90,8 +90,8 @@ class FileChooserTest : public QObject {
 
     SessionBus bus;
 
-    // Everything that `from` has sent to `to` by now has been dealt with there, and what that sent
-    // has reached the bus.
+    // Returns when `to` has handled everything that `from` has sent so far, and its own messages
+    // have reached the bus.
     void assertDelivered(const QDBusConnection &from, QDBusConnection to)
     {
         Echo echo;
@@ -130,7 +130,7 @@ private Q_SLOTS:
         QCOMPARE(portal.options.value(u"current_folder"_s).toByteArray(),
                  QByteArray("/usr/bin\0", 9));
         QVERIFY(portal.options.contains(u"filters"_s));
-        // a portal that makes up its path must be heard of before it answers
+        // the path of such a portal must be known before it answers
         assertDelivered(desktop, application);
         portal.answer(
             0, {u"file:///usr/share/applications/a%20b.desktop"_s, u"https://example.test/"_s});

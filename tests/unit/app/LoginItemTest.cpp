@@ -14,7 +14,7 @@ using namespace veldmark;
 
 namespace {
 
-// A language in which everything is said between brackets.
+// A language that puts every text in brackets.
 class Brackets final : public QTranslator {
 public:
     bool isEmpty() const override { return false; }
@@ -36,7 +36,7 @@ private Q_SLOTS:
         const PlatformProfile profile = PlatformProfile::linux(Places::below(folder.path()));
         const LoginItem item(profile);
         QVERIFY(!item.isSet());
-        QVERIFY(item.set(false)); // nothing to take away
+        QVERIFY(item.set(false)); // nothing to remove
         QVERIFY(item.set(true));
         QVERIFY(item.isSet());
         QFile file(profile.autostartFile);
@@ -141,7 +141,7 @@ private Q_SLOTS:
         file.close();
         const LoginItem item(profile);
         QCOMPARE(item.isSet(), set);
-        QVERIFY(item.set(set)); // as it is already
+        QVERIFY(item.set(set)); // the present value
         QCOMPARE(content(), lines);
         QVERIFY(item.set(!set));
         QCOMPARE(item.isSet(), !set);

@@ -21,7 +21,7 @@ struct Guarded {
     QuitGuard guard{bench.controller(), windows};
     QSignalSpy mayEnd{&guard, &QuitGuard::mayEnd};
 
-    // The question on show; null when none is.
+    // The visible question; null without one.
     static QWindow *question()
     {
         for (QWindow *window : QGuiApplication::topLevelWindows()) {
@@ -70,7 +70,7 @@ private Q_SLOTS:
         QVERIFY(!Guarded::question());
         other.end();
         g.guard.quit();
-        QVERIFY(Guarded::question()); // it is left over by now
+        QVERIFY(Guarded::question()); // the session is a leftover now
     }
 
     void asksWhileTheNetworkIsSetUp_data()
@@ -79,10 +79,10 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("rules");
         QTest::addColumn<bool>("strict");
         QTest::newRow("strict") << QByteArray("strict\n") << QByteArray("standing") << true;
-        // nobody has seen the rules
+        // no watcher has seen the rules
         QTest::newRow("strict, after a restart of the computer")
             << QByteArray("strict\n") << QByteArray() << false;
-        // it does not stay on
+        // the rules do not block, so the question must not promise the kill switch
         QTest::newRow("strict, with an open kill switch")
             << QByteArray("strict\n") << QByteArray("open") << false;
         QTest::newRow("proxy") << QByteArray("proxy\n") << QByteArray() << false;

@@ -13,8 +13,7 @@
 using namespace Qt::StringLiterals;
 using namespace veldmark;
 
-// Gives delay locks as logind does: the end of a pipe, whose other end tells when it has been let
-// go.
+// Gives delay locks like logind: one end of a pipe. The other end shows when the lock is released.
 class Login : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.login1.Manager")
@@ -83,7 +82,7 @@ private Q_SLOTS:
         Login login(bus.connection());
         ShutdownNotice notice(bus.connection());
         QSignalSpy shuttingDown(&notice, &ShutdownNotice::shuttingDown);
-        login.prepareForShutdown(false); // one that was called off
+        login.prepareForShutdown(false); // a shutdown that was cancelled
         login.prepareForShutdown(true);
         QVERIFY(until([&] { return shuttingDown.count() == 1; }));
         settle();

@@ -23,10 +23,10 @@ using State = KillSwitch::State;
 
 namespace {
 
-// What a real session can be made to be.
+// A state that a real session can be brought into.
 struct Case {
     bool strict = true;
-    QByteArray note; // empty: the watcher tells nothing
+    QByteArray note; // empty: the watcher leaves no note
     bool exposed = false;
     bool leaking = false;
     std::optional<bool> verified; // absent: the check service does not answer
@@ -112,8 +112,8 @@ QString toneOf(const PanelModel &panel)
 
 } // namespace
 
-// One session, seen from everywhere: the published state, the command line's report, the panel, the
-// tray and the notifications say the same, and none of them more than was verified.
+// One session on every surface: the published state, the command line's report, the panel, the tray
+// and the notifications agree, and none claims more than was verified.
 class SurfacesTest : public QObject {
     Q_OBJECT
 
@@ -148,7 +148,7 @@ private Q_SLOTS:
             QVERIFY2(panel.detail() == state.value(u"statusDetail"_s).toString(), name);
             QVERIFY2(report.at(1).trimmed() == panel.detail(), name);
 
-            // Every word that is shown, and what has to be known for it.
+            // Every word on show, and the facts that it needs.
             QString words = report.join(u'\n') + panel.title() + panel.detail() + panel.leakText()
                 + panel.leakHelp() + panel.error();
             const bool isConnected = !one.torDies;
@@ -170,15 +170,16 @@ private Q_SLOTS:
             if (words.contains(u"so nothing leaked"_s))
                 QVERIFY2(one.note == "standing", name);
             if (one.strict && one.note == "open") {
-                QVERIFY2(title == u"Kill Switch Open"_s, name);
+                QVERIFY2(title == u"Kill Switch Failed"_s, name);
                 int danger = 0;
                 for (const auto &notification : told)
                     danger += notification.at(0).toString() == u"Traffic can leave around Tor"_s
-                        && notification.at(1).toString().startsWith(u"The kill switch is open."_s);
+                        && notification.at(1).toString().startsWith(
+                            u"The kill switch doesn't block traffic."_s);
                 QVERIFY2(danger == 1, name);
             }
-            // The other dangers that stay are told once as well, and where nothing is wrong nothing
-            // is told.
+            // Other lasting dangers are told once as well. Without a danger there is no
+            // notification.
             const auto danger = bench.controller().verdict().danger;
             const QString heading = danger == Verdict::Danger::dnsLeak
                 ? u"Lookups can go around Tor"_s
@@ -198,7 +199,7 @@ private Q_SLOTS:
         QCOMPARE(dangers.size(), std::size_t(7)); // all there are
     }
 
-    // The phases in between, another process's session and what was left over.
+    // The phases in between, another process's session, and a leftover session.
     void sayTheSameInEveryPhase()
     {
         for (const bool open : {false, true}) {
@@ -243,6 +244,19 @@ private Q_SLOTS:
             }
             QVERIFY(Workbench::finished(connecting));
             QVERIFY(agree());
+            bench.writeFile(bench.profile.othersNote, "ufw\n");
+            bench.hasCircuit = false;
+            bench.setCounters("1000", "200");
+            for (int tick = 0; tick < 7; ++tick)
+                QVERIFY(bench.tick());
+            QVERIFY(c.stall() == TrafficWatch::Stall::firewall);
+            QVERIFY(agree());
+            QVERIFY(open || panel.detail().endsWith(u"can't connect: ufw."_s));
+            bench.hasCircuit = true;
+            bench.setCounters("9000", "200");
+            QVERIFY(bench.tick());
+            QVERIFY(until([&] { return !c.stall() && !c.isChecking(); }));
+            QVERIFY(agree());
             bench.cancelPrompt(u"disconnect"_s);
             bench.hold(u"disconnect"_s);
             const auto disconnecting = c.disconnect();
@@ -258,16 +272,17 @@ private Q_SLOTS:
             other.end();
             c.lookAtSession();
             QVERIFY(agree());
-            const QString up = open ? u"Kill Switch Open"_s : u"Protected"_s;
-            const QString stale = open ? u"Kill Switch Open"_s : u"Needs Attention"_s;
+            const QString up = open ? u"Kill Switch Failed"_s : u"Protected"_s;
+            const QString stale = open ? u"Kill Switch Failed"_s : u"Needs Attention"_s;
             QCOMPARE(titles,
                      (QStringList{u"Not Protected"_s, open ? up : u"Connecting…"_s, up,
-                                  u"Disconnecting…"_s, up, stale, stale}));
+                                  open ? up : u"Nothing Gets Through"_s, up, u"Disconnecting…"_s,
+                                  up, stale, stale}));
         }
     }
 
-    // What no session of the stand-in can be brought into: every combination of what the panel and
-    // the tray are given.
+    // Every combination of the panel's and the tray's input, also those that no session of the
+    // stand-in can reach.
     void promiseNoMoreThanTheVerdict()
     {
         StandInSession session(profile);
@@ -322,7 +337,7 @@ private Q_SLOTS:
         QCOMPARE(combinations, 5 * 3 * 5 * 5 * 3 * 3);
     }
 
-    // The report from any published state, also one that no session can be in.
+    // The report of any published state, also of one that no session can be in.
     void theReportClaimsOnlyWhatThePublishedStateHolds()
     {
         for (const char *phase :
@@ -345,9 +360,10 @@ private Q_SLOTS:
                         QVERIFY(QLatin1String(mode) == "strict"_L1 && stands);
                     if (report.contains(u"Direct path blocked"_s))
                         QVERIFY(QLatin1String(mode) == "strict"_L1 && stands);
-                    QCOMPARE(report.contains(u"Kill switch stands"_s), stands);
-                    QCOMPARE(report.contains(u"OPEN since"_s), QLatin1String(rules) == "open"_L1);
-                    QCOMPARE(report.contains(u"isn't known to stand"_s),
+                    QCOMPARE(report.contains(u"Kill switch blocks traffic"_s), stands);
+                    QCOMPARE(report.contains(u"NOT BLOCKING since"_s),
+                             QLatin1String(rules) == "open"_L1);
+                    QCOMPARE(report.contains(u"isn't known to block traffic"_s),
                              QLatin1String(rules) == "unknown"_L1);
                 }
     }

@@ -39,7 +39,7 @@ private Q_SLOTS:
         QVERIFY(!host.isPresent());
         clock.advance(TrayHost::patience + 1s);
         QCOMPARE(missing.count(), 1);
-        // the keeper first, as some desktops start them
+        // the watcher first and its host later, as some desktops start them
         StatusNotifierWatcher watcher(bus.connection(), false);
         QTest::qWait(50);
         QVERIFY(!host.isPresent());

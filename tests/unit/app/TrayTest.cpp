@@ -94,7 +94,7 @@ private Q_SLOTS:
 
     void standsOutFromItsGround()
     {
-        // How much of what is drawn is light; the rest is its edge.
+        // The share of light pixels in the drawing; the rest is its edge.
         const auto light = [](bool onDark) {
             const QImage image = Tray::icon(QStringLiteral("lock.shield.fill"), onDark)
                                      .pixmap(QSize(64, 64), 1.0)

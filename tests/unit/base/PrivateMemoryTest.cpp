@@ -19,9 +19,9 @@ private Q_SLOTS:
     void nobodyElseReadsIt()
     {
 #if !defined(__linux__) || defined(VELDMARK_SANITIZED)
-        QSKIP("is switched off here, or is not told");
+        QSKIP("is switched off here, or is not reported");
 #else
-        // In a child, which this cannot be undone in.
+        // In a child process, since the change cannot be undone.
         QCOMPARE(::prctl(PR_GET_DUMPABLE), 1);
         const pid_t child = ::fork();
         if (child == 0) {

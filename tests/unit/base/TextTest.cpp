@@ -10,8 +10,8 @@ using namespace veldmark;
 
 namespace {
 
-// A language that knows a few texts, which it puts between brackets. It turns arguments round, and
-// has two forms for a count.
+// A language with a few texts, which it puts in brackets. It reverses arguments, and has two plural
+// forms.
 class Brackets final : public QTranslator {
 public:
     bool isEmpty() const override { return false; }
@@ -41,7 +41,7 @@ QString shown(const Text &text)
     return text.english() + u'|' + text.translated();
 }
 
-// As another process of another language gets it.
+// The text as a process of another language receives it.
 Text sent(const Text &text)
 {
     const QByteArray line
@@ -115,7 +115,7 @@ private Q_SLOTS:
         QVERIFY(Text::tr("Starting Tor…").toJson().isObject());
     }
 
-    // As a program of another version may send it.
+    // The text as a program of another version may send it.
     void isEmptyWhereNothingIsUnderstood()
     {
         for (const QJsonValue &odd :

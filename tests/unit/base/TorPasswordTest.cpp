@@ -40,7 +40,7 @@ private Q_SLOTS:
         QVERIFY(!TorPassword::matches(clear + 'x', hash));
     }
 
-    // Whatever length the password has, in the rounds that make up the count.
+    // Passwords of any length, relative to the rounds of the count.
     void agreesWithTheProgram()
     {
         const QString tor = u"/usr/bin/tor"_s;

@@ -79,7 +79,7 @@ private Q_SLOTS:
         same("space beyond ASCII inside", "192.0.2.1:443\u00a0FP");
         same("digits beyond ASCII", "192.0.2.1:٤٤٣");
         same("zero-width space in front", "\u200b192.0.2.1:443");
-        // What would mean something else in Tor's configuration.
+        // Text that has another meaning in Tor's configuration.
         same("a comment behind it", "192.0.2.1:443 FP # mine");
         same("a mark within", "obfs4 192.0.2.1:443 cert=a#b");
         same("a quotation mark", "obfs4 192.0.2.1:443 cert=\"a\"");
@@ -120,7 +120,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, line);
         if (line == QStringLiteral("bridge  ")) {
-            // Trimming takes the blank that makes it the keyword, so this is a word like any other.
+            // Trimming removes the blank that makes it the keyword, so this is an ordinary word.
             QCOMPARE(BridgeLines::parse(line).invalid, QStringList{QStringLiteral("bridge")});
             return;
         }
@@ -304,7 +304,7 @@ private Q_SLOTS:
                                     << "" << -1;
         QTest::newRow("empty") << ""
                                << "" << -1;
-        // The first such word decides, also when a later one would do.
+        // The first such word decides, also when a later one would be valid.
         QTest::newRow("first word with a colon") << "a:b 192.0.2.1:443"
                                                  << "" << -1;
     }

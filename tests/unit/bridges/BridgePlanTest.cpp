@@ -35,7 +35,7 @@ QCoro::Task<PluggableTransports> answer(PluggableTransports transports)
     co_return transports;
 }
 
-// Every bridge takes as long as the last number of its address says.
+// The last number of a bridge's address is its response time.
 QCoro::Task<std::optional<ConnectTime>> lastNumber(QString host)
 {
     co_return ConnectTime(host.section(u'.', -1).toDouble());
@@ -225,7 +225,7 @@ private Q_SLOTS:
     // A kill switch refuses the probes: every bridge would look dead.
     void behindAKillSwitchNoneIsTested_data()
     {
-        QTest::addColumn<QStringList>("last"); // of the session before
+        QTest::addColumn<QStringList>("last"); // of the previous session
         QTest::addColumn<QStringList>("used");
         const QStringList all = {obfs4, plain, anotherObfs4};
         QTest::newRow("nothing is known") << QStringList() << all;
@@ -244,7 +244,7 @@ private Q_SLOTS:
         QTEST(*plan.lines, "used");
         QCOMPARE(stage.probes, 0);
         QVERIFY(stage.said.isEmpty());
-        // Where it can be tested, that counts, whatever was used before.
+        // A test counts more than the bridges that were used before.
         const BridgePlan tested = planned({BridgeChoice::custom, own, true, false, last}, stage);
         QCOMPARE(stage.probes, 3);
         QCOMPARE(*tested.lines, QStringList({plain, obfs4, anotherObfs4}));

@@ -3,6 +3,8 @@
 #include "ProgramTree.h"
 #include "support/TestProgram.h"
 
+#include <QProcess>
+
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -30,32 +32,32 @@ private Q_SLOTS:
             << "";
         QTest::newRow("a link with an arrow in its name")
             << QByteArray("a -> b\n") << link + "a -> b -> ../x\n"
-            << "The archive holds a link that leads elsewhere: a -> b";
+            << "The archive contains a link that leads elsewhere: a -> b";
         QTest::newRow("an absolute path")
             << QByteArray("/etc/x\n") << file + "/etc/x\n"
-            << "The archive holds a path that leads elsewhere: /etc/x";
+            << "The archive contains a path that leads elsewhere: /etc/x";
         QTest::newRow("a path upwards") << QByteArray("a/../../x\n") << file + "a/../../x\n"
-                                        << "The archive holds a path that leads elsewhere";
+                                        << "The archive contains a path that leads elsewhere";
         QTest::newRow("dots in a name") << QByteArray("a..b/..c\n") << file + "a..b/..c\n"
                                         << "";
         QTest::newRow("an absolute link") << QByteArray("a\n") << link + "a -> /etc\n"
-                                          << "The archive holds a link that leads elsewhere";
+                                          << "The archive contains a link that leads elsewhere";
         QTest::newRow("a link upwards") << QByteArray("a\n") << link + "a -> b/../..\n"
-                                        << "The archive holds a link that leads elsewhere";
+                                        << "The archive contains a link that leads elsewhere";
         QTest::newRow("a link to nothing") << QByteArray("a\n") << link + "a -> \n"
-                                           << "The archive holds a link that leads elsewhere";
+                                           << "The archive contains a link that leads elsewhere";
         QTest::newRow("a hard link")
             << QByteArray("a\n") << QByteArray("hrw-r--r-- 0/0 0 1970-01-01 00:00 a link to b\n")
-            << "The archive holds a hard link";
+            << "The archive contains a hard link";
         QTest::newRow("a Mac's hard link")
             << QByteArray("a\n") << QByteArray("-rw-r--r--  0 0  0  0 Jan  1  1970 a link to b\n")
-            << "The archive holds a hard link";
-        QTest::newRow("a device") << QByteArray("a\n")
-                                  << QByteArray("crw-r--r-- 0/0 1,3 1970-01-01 00:00 a\n")
-                                  << "The archive holds what is neither file nor folder";
-        QTest::newRow("a pipe") << QByteArray("a\n")
-                                << QByteArray("prw-r--r-- 0/0 0 1970-01-01 00:00 a\n")
-                                << "The archive holds what is neither file nor folder";
+            << "The archive contains a hard link";
+        QTest::newRow("a device")
+            << QByteArray("a\n") << QByteArray("crw-r--r-- 0/0 1,3 1970-01-01 00:00 a\n")
+            << "The archive contains an entry that is neither a file nor a folder";
+        QTest::newRow("a pipe")
+            << QByteArray("a\n") << QByteArray("prw-r--r-- 0/0 0 1970-01-01 00:00 a\n")
+            << "The archive contains an entry that is neither a file nor a folder";
         QTest::newRow("too large") << QByteArray("a\nb\n")
                                    << QByteArray("-rw-r--r-- 0/0 1999999999 1970-01-01 00:00 a\n"
                                                  "-rw-r--r-- 0/0 2 1970-01-01 00:00 b\n")
@@ -63,12 +65,12 @@ private Q_SLOTS:
         QTest::newRow("no size") << QByteArray("a\n") << QByteArray("-rw-r--r-- a\n")
                                  << "The archive's content is too large.";
         QTest::newRow("lists that differ") << QByteArray("a\n") << file + "a\n" + file + "b\n"
-                                           << "The archive's list of files is not clear.";
+                                           << "The archive's list of files is ambiguous.";
         QTest::newRow("too many") << QByteArray("a\n").repeated(20'001)
                                   << (file + "a\n").repeated(20'001)
-                                  << "The archive holds too many files.";
+                                  << "The archive contains too many files.";
         QTest::newRow("nothing") << QByteArray() << QByteArray()
-                                 << "The archive is empty or no archive.";
+                                 << "The file is empty or not an archive.";
     }
 
     void judgesAListing()
@@ -83,12 +85,34 @@ private Q_SLOTS:
             QVERIFY2(found.startsWith(problem), qPrintable(found));
     }
 
+    // Its maker chooses the owner's name, and a name with blanks would move the size along the
+    // line.
+    void ownersOfAnArchiveHaveNoNames()
+    {
+        const ProgramTree tree;
+        tree.file(QStringLiteral("in/tor/readme"), "text");
+        const QString archive = tree.path(QStringLiteral("archive.tar.gz"));
+        QProcess tar;
+        tar.start(QStringLiteral("tar"),
+                  {QStringLiteral("--owner=a b c d:7"), QStringLiteral("-C"),
+                   tree.path(QStringLiteral("in")), QStringLiteral("-czf"), archive,
+                   QStringLiteral("tor")});
+        QVERIFY(tar.waitForFinished());
+        QCOMPARE(tar.exitCode(), 0);
+        tar.start(QStringLiteral("tar"), {QStringLiteral("-tvzf"), archive});
+        QVERIFY(tar.waitForFinished());
+        QVERIFY(tar.readAllStandardOutput().contains(" a b c d/")); // it is in there
+        QCOMPARE(
+            archiveProblem(QStringLiteral("/usr/bin/tar"), archive).value_or(QString()).english(),
+            QString());
+    }
+
     void givesWhatWasUnpackedPlainPermissions()
     {
         const ProgramTree tree;
         const QByteArray program = QFile::encodeName(tree.program(QStringLiteral("tor/lyrebird")));
         const QByteArray text = QFile::encodeName(tree.file(QStringLiteral("tor/readme"), "text"));
-        QCOMPARE(::chmod(program.constData(), 06777), 0); // would run as whoever owns it
+        QCOMPARE(::chmod(program.constData(), 06777), 0); // a setuid file would run as its owner
         QCOMPARE(::chmod(text.constData(), 0606), 0);
         QCOMPARE(::symlink("lyrebird",
                            QFile::encodeName(tree.path(QStringLiteral("tor/link"))).constData()),

@@ -7,7 +7,7 @@
 
 namespace veldmark {
 
-// Runs a program to its end; what it wrote on standard output. A failure ends the test program.
+// Runs a program to its end; returns its standard output. A failure ends the test program.
 inline QByteArray output(const QString &program, const QStringList &arguments)
 {
     QProcess process;
@@ -18,7 +18,7 @@ inline QByteArray output(const QString &program, const QStringList &arguments)
     return process.readAllStandardOutput();
 }
 
-// A key pair of real GnuPG's, in a home of its own.
+// A GnuPG key pair in a home of its own.
 class SigningKey {
 public:
     explicit SigningKey(const QString &name)
@@ -51,7 +51,7 @@ public:
         return gpg({QStringLiteral("--armor"), how, QStringLiteral("--output"), QStringLiteral("-"),
                     file});
     }
-    // From now on publicKey() says that the key is revoked.
+    // Revokes the key: publicKey() contains the revocation afterwards.
     void revoke() const
     {
         const QString certificate
@@ -78,7 +78,7 @@ private:
 };
 
 // The archive of a bundle whose lyrebird prints `mark`. `padding`: bytes that do not compress.
-// version: what the archive says itself that it is; empty, as the real one: nothing.
+// version: the version that the archive names itself; empty: none, like the real one.
 inline QByteArray bundleArchive(const QByteArray &mark, qsizetype padding = 0,
                                 const QByteArray &version = {})
 {

@@ -26,9 +26,8 @@ inline QCoro::Task<void> keep(QCoro::Task<TransportDownloader::Outcome> task,
     *kept = outcome;
 }
 
-// A downloader with a server, a signing key, a system and a folder for temporary folders of its
-// own: what the tests of TransportDownloader are made of. What other programs have in /tmp is
-// theirs.
+// The fixture of TransportDownloader's tests: a downloader with a server, a signing key, a system
+// and its own folder for temporary folders. It leaves other programs' files in /tmp alone.
 class DownloadBench {
 protected:
     using Outcome = TransportDownloader::Outcome;
@@ -87,7 +86,7 @@ protected:
         return QDir(temporaryRoot())
             .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     }
-    // Command lines of processes that still work there.
+    // Command lines of processes that still run there.
     QStringList agents() const
     {
         QStringList found;
@@ -108,7 +107,7 @@ protected:
     QByteArray m_archive;
     QByteArray m_signature;
 
-    // Made anew for each test; the downloader goes first.
+    // Made for each test; the downloader is destroyed first.
     std::unique_ptr<ProgramTree> m_tree;
     std::unique_ptr<PlatformProfile> m_profile;
     std::unique_ptr<ManualClock> m_clock;

@@ -12,14 +12,14 @@ InterruptibleApplication *application = nullptr;
 
 } // namespace
 
-// TransportDownloader: how it ends before it is done, at any moment, with the programs that it has
-// started.
+// TransportDownloader: a cancelled download ends at any moment, together with the programs that it
+// has started.
 class DownloadEndTest : public QObject, DownloadBench {
     Q_OBJECT
 
-    // Puts a script in the program's place: it runs the real one, but hangs, with a child of its
-    // own, when its words hold `word`. Gives the file in which the process ids of the two then
-    // stand.
+    // Puts a script in the program's place. It runs the real program, but hangs together with a
+    // child when its arguments contain `word`. Returns the file that then contains the process ids
+    // of both.
     QString makeHang(const char *program, const char *word)
     {
         const QString name = QStringLiteral("usr/bin/") + QLatin1String(program);
@@ -39,7 +39,7 @@ class DownloadEndTest : public QObject, DownloadBench {
         if (!stat.open(QIODevice::ReadOnly))
             return true;
         const QByteArray line = stat.readAll();
-        // nobody waits for orphans where there is no init
+        // an orphan stays a zombie where no init reaps it
         return line.mid(line.lastIndexOf(')') + 2, 1) == "Z";
     }
 
@@ -106,7 +106,7 @@ private Q_SLOTS:
         QFile::remove(m_tree->path(QStringLiteral("usr/bin/") + QString::fromLatin1(program)));
         QFile::link(QStringLiteral("/usr/bin/") + QString::fromLatin1(program),
                     m_tree->path(QStringLiteral("usr/bin/") + QString::fromLatin1(program)));
-        QVERIFY(install()); // nothing is left in the way
+        QVERIFY(install()); // no leftover blocks the next download
     }
 
     void cancellingEndsTheProgramThatRuns()
@@ -163,8 +163,8 @@ private Q_SLOTS:
         QCOMPARE((*kept)->error().description(), QStringLiteral("Cancelled."));
     }
 
-    // Right after it was resumed, for each of its waits: the former bundle stands there or the new
-    // one, and nothing is left.
+    // Cancelled right after each of its waits: either the former or the new bundle is in place, and
+    // no leftovers.
     void mayBeDestroyedAtEveryWait()
     {
         for (int wait = 1;; ++wait) {

@@ -5,7 +5,7 @@ using namespace veldmark;
 using namespace std::chrono_literals;
 using Kind = DownloadError::Kind;
 
-// TransportDownloader: servers that misbehave, time-outs, and which way the requests go.
+// TransportDownloader: servers that misbehave, time-outs, and the path of the requests.
 class DownloadTransferTest : public QObject, DownloadBench {
     Q_OBJECT
 
@@ -46,7 +46,7 @@ private Q_SLOTS:
         QCOMPARE(mark(), QByteArray("former"));
     }
 
-    // The page of an error may be longer than what was asked for: that is not what went wrong.
+    // An error page may be longer than the expected file. The error must name the status.
     void namesTheStatusOfALongPage()
     {
         putBundle();
@@ -150,7 +150,7 @@ private Q_SLOTS:
         QCOMPARE(failure(),
                  QStringLiteral("The server sent more than the bridge programs can be."));
         serve(archivePath, m_archive);
-        // without saying how much it will be
+        // without an announced length
         m_answers[archivePath + ".asc"] = [](QSslSocket *socket) {
             socket->write("HTTP/1.1 200 OK\r\n\r\n" + QByteArray(400'000, 'x'));
         };
@@ -166,7 +166,7 @@ private Q_SLOTS:
                  qPrintable(outcome ? QString() : outcome.error().description().english()));
         QVERIFY(proxy.connections > 0);
         for (const int type : proxy.addressTypes)
-            QCOMPARE(type, 3); // by name: this computer looks nothing up
+            QCOMPARE(type, 3); // by name: this computer makes no DNS lookup
         QCOMPARE(m_service->connections, proxy.connections);
     }
 

@@ -10,7 +10,7 @@
 using namespace veldmark;
 using Kind = DownloadError::Kind;
 
-// TransportDownloader: what is believed, by signature and by content.
+// TransportDownloader: which bundles it accepts, by signature and by content.
 class DownloadTrustTest : public QObject, DownloadBench {
     Q_OBJECT
 
@@ -87,7 +87,7 @@ private Q_SLOTS:
         makeDownloader(from);
         serve(archivePath + ".asc", revoked.sign(m_archive));
         serve(keyPath, revoked.publicKey());
-        QVERIFY(install()); // it does verify as long as it is not revoked
+        QVERIFY(install()); // it verifies until the key is revoked
         revoked.revoke();
         serve(keyPath, revoked.publicKey());
         const Outcome outcome = install();
@@ -142,7 +142,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, archive);
         putBundle();
-        serveArchive(archive); // signed: the check comes on top
+        serveArchive(archive); // signed: this check is an additional one
         const Outcome outcome = install();
         QVERIFY(!outcome);
         QVERIFY2(outcome.error().description().english().startsWith(
@@ -193,7 +193,7 @@ private Q_SLOTS:
         QVERIFY(install());
         QCOMPARE(installed("SIGNED").toLongLong() > 1'700'000'000, true);
         QVERIFY(install()); // the same once more
-        // The installed one was signed later than what is served now.
+        // The installed bundle was signed later than the served one.
         m_tree->file(m_profile->bundleDirectory + QStringLiteral("/SIGNED"),
                      QByteArray::number(installed("SIGNED").toLongLong() + 1));
         const Outcome outcome = install();
@@ -201,7 +201,8 @@ private Q_SLOTS:
         QCOMPARE(outcome.error().kind(), Kind::rollback);
         QCOMPARE(
             outcome.error().description(),
-            QStringLiteral("What came as version 14.0.4 is another one, so it was discarded."));
+            QStringLiteral(
+                "The download of version 14.0.4 contains another version, so it was discarded."));
         QCOMPARE(mark(), QByteArray("fourteen"));
     }
 
@@ -234,13 +235,13 @@ private Q_SLOTS:
             m_answers.value(path, CheckService::answer("404 Not Found", "no such page"))(socket);
         };
         QVERIFY(install());
-        QCOMPARE(modes.size(), 1); // it was there
+        QCOMPARE(modes.size(), 1); // it existed
         QCOMPARE(modes.constBegin().value(), 0700U);
     }
 
     void tarTakesNoOwnersAndNoPermissionsOver()
     {
-        // Instead of tar: writes down how it is called, then does it.
+        // In tar's place: records its arguments, then runs tar.
         const QString seen = m_tree->path(QStringLiteral("seen"));
         QFile::remove(m_tree->path(QStringLiteral("usr/bin/tar")));
         m_tree->program(QStringLiteral("usr/bin/tar"),
@@ -248,7 +249,7 @@ private Q_SLOTS:
                             + "'\nexec /usr/bin/tar \"$@\"\n");
         QVERIFY(install());
         const QByteArrayList calls = m_tree->content(QStringLiteral("seen")).trimmed().split('\n');
-        QCOMPARE(calls.size(), 3); // two lists of what is in it, then the unpacking
+        QCOMPARE(calls.size(), 3); // two listings, then the unpacking
         const QByteArrayList words = calls.last().split(' ');
         QCOMPARE(words.value(0), QByteArray("-xzf"));
         QVERIFY2(words.value(1).startsWith(QFile::encodeName(temporaryRoot()) + "/vmk-")

@@ -125,7 +125,7 @@ private Q_SLOTS:
             = tree.content(QStringLiteral("ids")).simplified().split(' ');
         QCOMPARE(numbers.size(), 2);
         for (const QByteArray &number : numbers) {
-            // An orphan may stay a zombie until its new parent looks; it runs no more.
+            // An orphan may stay a zombie until its new parent reaps it; it no longer runs.
             const auto runs = [&number] {
                 QFile status(QStringLiteral("/proc/%1/stat").arg(QString::fromUtf8(number)));
                 if (!status.open(QIODevice::ReadOnly))

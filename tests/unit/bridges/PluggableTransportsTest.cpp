@@ -25,7 +25,7 @@ const QStringList preferencesLines = {QStringLiteral("obfs4 192.0.2.7:443 CC")};
 const QByteArray servesSnowflake
     = "#!/bin/sh\necho CMETHOD snowflake socks5 127.0.0.1:1\necho CMETHODS DONE\n";
 
-// One system's places below a temporary folder.
+// One system's paths below a temporary folder.
 struct System {
     explicit System(bool isMac)
         : profile(isMac ? PlatformProfile::macos(Places::below(tree.root()))
@@ -92,7 +92,8 @@ private Q_SLOTS:
     {
         QFETCH(bool, isMac);
         const System system(isMac);
-        // The second folder's obfs4proxy, then whatever comes before it in the order of search.
+        // First the second folder's obfs4proxy, then programs that come earlier in the order of
+        // search.
         const QString last = system.tree.program(system.folder(1, QStringLiteral("obfs4proxy")));
         PluggableTransports expected;
         expected.lyrebird = last;
@@ -174,7 +175,7 @@ private Q_SLOTS:
     {
         QFETCH(bool, isMac);
         const System system(isMac);
-        // A stand-in for unzip that leaves a trace.
+        // A stand-in for unzip that records its run.
         QFile::remove(system.profile.unzip);
         system.tree.program(system.profile.unzip,
                             "#!/bin/sh\n/usr/bin/touch "
@@ -228,7 +229,7 @@ private Q_SLOTS:
         QDir().mkpath(system.browser(QStringLiteral("3/omni.ja")));
         QDir().mkpath(system.browser(QStringLiteral("3/pt_config.json")));
         QCOMPARE(system.locate(), PluggableTransports());
-        // Files that say nothing do not stand in the way of those that do.
+        // Files without bridges do not hide those with bridges.
         system.tree.file(system.browser(QStringLiteral("4/omni.ja")),
                          zipArchive({{preferencesMember, preferences}}));
         QCOMPARE(system.locate().source, QStringLiteral("Tor Browser"));
@@ -293,7 +294,7 @@ private Q_SLOTS:
                                                      program);
         system.tree.file(system.bundle(QStringLiteral("pt/pt_config.json")), configuration);
         QCOMPARE(system.locate().snowflake, serves ? std::optional(lyrebird) : std::nullopt);
-        // A program of its own is better, wherever it is.
+        // snowflake-client itself is preferred, in any folder.
         const QString own = system.tree.program(
             system.folder(1, QStringLiteral("snowflake-client")));
         QCOMPARE(*system.locate().snowflake, own);
@@ -337,14 +338,14 @@ private Q_SLOTS:
             return PluggableTransports::locate(system.profile, std::nullopt, {}, &memory, mayAsk);
         };
         const auto asked = [&] { return system.tree.content(ran).count('x'); };
-        QVERIFY(!locate(false).snowflake); // nobody knows yet
+        QVERIFY(!locate(false).snowflake); // not known yet
         QVERIFY(!QFile::exists(ran));
         QCOMPARE(locate(true).snowflake, std::optional(lyrebird));
         QCOMPARE(asked(), 1);
         QCOMPARE(locate(true).snowflake, std::optional(lyrebird));
         QCOMPARE(locate(false).snowflake, std::optional(lyrebird));
         QCOMPARE(asked(), 1);
-        // A newer one in its place, which serves it no more.
+        // A newer program in its place, which no longer serves it.
         QVERIFY(QFile::remove(lyrebird));
         system.tree.program(lyrebird,
                             "#!/bin/sh\necho x >>" + ran.toUtf8() + "\necho CMETHODS DONE\n");

@@ -23,7 +23,7 @@ QString snowflake(int number)
     return QStringLiteral("snowflake 192.0.2.%1:80 url=https://a.example/").arg(number);
 }
 
-// A probe whose answers the test gives by hand, by host. It shows that all are asked at once.
+// A probe that the test answers by hand, by host. It shows that all bridges are probed at once.
 struct Probes {
     QMap<QString, ResumeOnce<std::optional<ConnectTime>>> asked;
     QStringList addresses;
@@ -146,7 +146,7 @@ private Q_SLOTS:
                                QStringLiteral("[2001:db8::1]:9 AA")},
                               &probes, &result);
         QCOMPARE(probes.said, QStringList{QStringLiteral("Testing 3 bridges…")});
-        // The bridge whose port is none is not asked, but it counts.
+        // A bridge with an invalid port is not probed, but counted.
         QCOMPARE(probes.addresses,
                  QStringList(
                      {QStringLiteral("192.0.2.1 443 3000"), QStringLiteral("2001:db8::1 9 3000")}));

@@ -21,7 +21,7 @@ using namespace veldmark;
 
 namespace {
 
-// Tells real time, but lets nobody sleep to the end.
+// Has the real time, but its sleeps never end.
 class SleeplessClock final : public Clock {
 public:
     TimePoint now() const override { return std::chrono::steady_clock::now(); }
@@ -93,9 +93,9 @@ public:
 
     quint16 number() const { return ntohs(m_address.sin_port); }
 
-#ifdef __linux__ // elsewhere the queue cannot be looked at
-    // Listens and fills the queue of connections that nobody accepts: from then on the kernel drops
-    // whoever comes, so that a connection neither stands nor fails.
+#ifdef __linux__ // other systems do not show the queue
+    // Listens, accepts nothing and fills the queue. The kernel then drops further connections, so
+    // they neither succeed nor fail.
     void hang()
     {
         if (::listen(m_socket.number(), 0) != 0)
@@ -105,7 +105,7 @@ public:
             socklen_t size = sizeof queue;
             if (::getsockopt(m_socket.number(), IPPROTO_TCP, TCP_INFO, &queue, &size) != 0)
                 qFatal("cannot look at the queue");
-            if (queue.tcpi_unacked > queue.tcpi_sacked) // waiting, most that may wait
+            if (queue.tcpi_unacked > queue.tcpi_sacked) // the queue's length and its limit
                 return;
             m_waiting.push_back(streamSocket());
             if (::connect(m_waiting.back().number(), generic(), sizeof m_address) != 0)
@@ -183,7 +183,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, host);
         const Port refusing;
-        ManualClock clock; // stands still: the limit never comes
+        ManualClock clock; // does not advance: the limit is never reached
         Outcome outcome;
         const auto task = probe(host, refusing.number(), 3s, &clock, &outcome);
         QTRY_VERIFY(outcome.isOver);
@@ -246,7 +246,7 @@ private Q_SLOTS:
             QNetworkProxy(QNetworkProxy::Socks5Proxy, loopback, proxy.serverPort()));
         const auto reset = qScopeGuard(
             [] { QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy); });
-        // An address that no packet leaves for; those of the loopback interface never use a proxy.
+        // An address that no packet leaves for; Qt never uses a proxy for loopback addresses.
         const QString nowhere = QStringLiteral("255.255.255.255");
         {
             QTcpSocket ordinary;

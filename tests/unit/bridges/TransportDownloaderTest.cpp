@@ -55,7 +55,7 @@ private Q_SLOTS:
 
     void installsWhatTheExpectedKeyHasSigned()
     {
-        // it was there, and did what it should
+        // gpgconf is installed and works
         QTest::failOnWarning(QRegularExpression(QStringLiteral("^gpgconf")));
         putBundle();
         const Outcome outcome = install();
@@ -94,7 +94,8 @@ private Q_SLOTS:
                                            SignedBundle::signatureOf(kept), kept});
         QVERIFY(verdict.contains("VALIDSIG " + m_key->fingerprint().toLatin1()));
 
-        QVERIFY(QFile::remove(gpgv)); // then nobody could: the next one keeps nothing
+        QVERIFY(QFile::remove(gpgv)); // without gpgv nothing can be verified later, so the next
+                                      // download keeps nothing
         QVERIFY(install());
         QVERIFY(!QFileInfo::exists(QFileInfo(kept).path()));
     }

@@ -15,10 +15,10 @@ using namespace veldmark;
 
 namespace {
 
-// What one search came to, and where.
+// The result of a search, and the thread it arrived on.
 struct Outcome {
     PluggableTransports found;
-    QThread *thread = nullptr; // null while it is under way
+    QThread *thread = nullptr; // null while the search runs
 };
 
 QCoro::Task<void> keep(QCoro::Task<PluggableTransports> search, Outcome *outcome)
@@ -42,7 +42,7 @@ struct System {
     PlatformProfile profile = PlatformProfile::linux(Places::below(tree.root()));
 };
 
-// Keeps the pool from beginning anything until it goes.
+// Keeps the thread pool busy for its lifetime.
 class BusyPool {
 public:
     BusyPool()
@@ -64,7 +64,7 @@ private:
     const std::shared_ptr<QSemaphore> m_gate = std::make_shared<QSemaphore>();
 };
 
-// Says that it runs, by its process id in `running`, and then nothing more for a minute.
+// Writes its process id to `running`, and then hangs for a minute.
 QByteArray silentProgram(const QString &running)
 {
     return "#!/bin/sh\necho $$ >'" + QFile::encodeName(running) + ".new'\nmv '"

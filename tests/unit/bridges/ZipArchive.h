@@ -13,8 +13,8 @@ struct ZipMember {
     bool isDeflated = false;
 };
 
-// Where the list of members stands: at the end, as everywhere, or in front, as in the archives that
-// browsers ship so that they can be mapped into memory.
+// The place of the list of members: at the end, as usual, or in front, as in browsers' archives
+// that are mapped into memory.
 enum class ZipLayout { directoryLast, directoryFirst };
 
 // The bytes of a ZIP archive.

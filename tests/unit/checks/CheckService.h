@@ -13,9 +13,9 @@ public:
     // `hosts` as in a certificate: "DNS:check.torproject.org,IP:127.0.0.1". Negative days: expired.
     TestCertificates();
     QSslConfiguration server(const QString &hosts, int days = 30);
-    // Signed by nobody but itself.
+    // A self-signed certificate.
     QSslConfiguration selfSigned(const QString &hosts);
-    // What a client that trusts this authority beside the system's uses.
+    // The configuration of a client that trusts this authority besides the system's.
     QSslConfiguration client() const;
 
 private:
@@ -27,7 +27,7 @@ private:
     int m_count = 0;
 };
 
-// An HTTPS service on a free port of the loopback that does with each request what the test says.
+// An HTTPS service on a free loopback port. The test decides the answer to each request.
 class CheckService : public QObject {
     Q_OBJECT
 public:

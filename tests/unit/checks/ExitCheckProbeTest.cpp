@@ -28,7 +28,7 @@ QCoro::Task<void> keep(QCoro::Task<ProbeResult> task,
     *kept = result;
 }
 
-// A probe under way or done.
+// A probe that runs or has ended.
 class Probe {
 public:
     explicit Probe(QCoro::Task<ProbeResult> task) { keep(std::move(task), m_result); }
@@ -41,7 +41,7 @@ private:
         = std::make_shared<std::optional<ProbeResult>>();
 };
 
-// Counts how often the time was read, which a probe does whenever something arrives.
+// Counts reads of the time; a probe reads it whenever data arrive.
 class ObservedClock final : public Clock {
 public:
     explicit ObservedClock(ManualClock &inner) : m_inner(inner) { }
@@ -143,8 +143,7 @@ private Q_SLOTS:
         QVERIFY(second.contains("\r\naccept-language: en\r\n"));
     }
 
-    // The name is one that this computer can't resolve: an answer proves that only the proxy saw
-    // it.
+    // This computer can't resolve the name, so an answer proves that the proxy resolved it.
     void torsProbeLeavesTheNameToTheProxy()
     {
         m_service = std::make_unique<CheckService>(
@@ -202,7 +201,7 @@ private Q_SLOTS:
         for (const char *name : {"http_proxy", "https_proxy", "all_proxy", "ALL_PROXY"})
             qputenv(name, address);
 
-        // Qt asks no proxy for "localhost" and its addresses anyway; this one leads there as well.
+        // Qt never uses a proxy for "localhost" and its addresses; 0.0.0.0 leads there as well.
         const QUrl target = url(QStringLiteral("0.0.0.0"));
         ExitCheckProbe network(*m_clock, target, 1, m_certificates->client());
         for (const bool fromSystem : {true, false}) {
@@ -406,7 +405,7 @@ private Q_SLOTS:
         QVERIFY(tor.result() && direct.result());
     }
 
-    // Who closes the connection before a word was said has answered all the same: the path is open.
+    // A server that closes the connection at once has answered: the path is open.
     void aConnectionThatIsClosedAtOnceWasOne_data()
     {
         QTest::addColumn<bool>("accepts");
@@ -420,7 +419,7 @@ private Q_SLOTS:
         QVERIFY(server.listen(QHostAddress::LocalHost));
         connect(&server, &QTcpServer::newConnection, &server, [&server] {
             QTcpSocket *const socket = server.nextPendingConnection();
-            // all of it: else it is a reset
+            // reads all of it, since unread data would cause a reset
             connect(socket, &QTcpSocket::readyRead, socket, [socket] {
                 socket->readAll();
                 socket->disconnectFromHost();
@@ -440,7 +439,7 @@ private Q_SLOTS:
     {
         m_service->respond = [this](QSslSocket *socket) {
             if (m_service->requests.last().startsWith("GET /other "))
-                // following it would look like an answer
+                // following the redirect would look like an answer
                 CheckService::goodAnswer(true, "192.0.2.9")(socket);
             else
                 socket->write(

@@ -23,7 +23,7 @@ bool run(const QString &words)
 
 } // namespace
 
-// In a network namespace of its own.
+// Runs in a network namespace of its own.
 class NetworkRouteTest : public QObject {
     Q_OBJECT
 

@@ -38,7 +38,7 @@ private Q_SLOTS:
         addresses.haveMoved({home});
         QVERIFY(!addresses.haveMoved({}));
         QVERIFY(!addresses.haveMoved({}));
-        QVERIFY(addresses.haveMoved({home})); // its connections may be dead all the same
+        QVERIFY(addresses.haveMoved({home})); // connections from before the gap may be dead
         QVERIFY(!addresses.haveMoved({home}));
     }
 

@@ -17,7 +17,7 @@ const QString managerPath = QStringLiteral("/org/freedesktop/resolve1");
 const QString linkPath = QStringLiteral("/org/freedesktop/resolve1/link/_31");
 } // namespace
 
-// The daemon's shapes. Types of their own, because Qt marshals by type.
+// The daemon's D-Bus structures. They are types, because Qt marshals by type.
 struct LinkServer {
     int family;
     QByteArray address;

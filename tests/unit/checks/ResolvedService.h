@@ -8,7 +8,7 @@
 
 #include <optional>
 
-// A message bus that takes the system bus's place in this process. One per process: the D-Bus
+// A message bus that replaces the system bus in this process. One per process: the D-Bus
 // library looks for the system bus's address only once.
 class PrivateBus {
 public:
@@ -16,7 +16,7 @@ public:
     ~PrivateBus();
     void start(); // does nothing while it runs
     void stop();
-    // Freezes the daemon: it keeps its socket and says nothing.
+    // Freezes the daemon: it keeps its socket and sends nothing.
     void freeze();
     QString address() const { return m_address; }
 
@@ -38,8 +38,8 @@ public:
     bool withPorts = true; // the daemon is new enough for "DNSEx"
     int calls = 0;
 
-    void answerLate();        // what it was silent about
-    bool hasListener() const; // whoever asked that is still on the bus
+    void answerLate();        // the calls that it has not answered
+    bool hasListener() const; // whether the caller of that is still on the bus
 
     QString introspect(const QString &) const override { return {}; }
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override;

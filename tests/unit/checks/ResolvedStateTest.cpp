@@ -36,7 +36,7 @@ QString summaries(const std::vector<DNSResolver> &resolvers)
 }
 } // namespace
 
-// The states are what systemd-resolved 252 answered, with servers set by resolvectl.
+// The states are answers of systemd-resolved 252, with servers set by resolvectl.
 class ResolvedStateTest : public QObject {
     Q_OBJECT
 

@@ -31,7 +31,7 @@ QCoro::Task<void> keep(QCoro::Task<std::vector<DNSResolver>> task,
     *kept = result;
 }
 
-// A reading under way or done.
+// A reading that runs or has ended.
 class Reading {
 public:
     explicit Reading(ResolverSource &source) { keep(source.resolvers(), m_result); }
@@ -166,7 +166,7 @@ private Q_SLOTS:
         QTRY_VERIFY(reading.isDone());
         QCOMPARE(reading.summaries(), ofTheDaemon + text("; 9.9.9.9"));
 
-        QVERIFY(QFile::remove(target)); // the link alone tells as well
+        QVERIFY(QFile::remove(target)); // the dangling link is enough
         const Reading dangling(source);
         QTRY_VERIFY(dangling.isDone());
         QCOMPARE(dangling.summaries(), ofTheDaemon);
@@ -214,7 +214,7 @@ private Q_SLOTS:
         QCOMPARE(reading.summaries(), text("10.0.0.1"));
     }
 
-    // Its thread ends with the question that it has asked, and asks no more.
+    // The reader's thread ends with its pending call, and makes no further call.
     void aDaemonThatWasGivenUpIsAskedNothingMore()
     {
         ResolvedService service(m_bus->address());
@@ -236,7 +236,7 @@ private Q_SLOTS:
         QCOMPARE(service.calls, 1);
     }
 
-    // Connecting to a bus waits for its greeting; that must not stop the event loop.
+    // Connecting to a bus waits for its greeting; the wait must not block the event loop.
     void aFrozenBusStopsNobody()
     {
         m_bus->freeze();
@@ -248,7 +248,7 @@ private Q_SLOTS:
         QTRY_VERIFY(reading.isDone());
         QVERIFY2(timer.elapsed() < 5000, "the call waited for the bus");
         QCOMPARE(reading.summaries(), QString());
-        m_bus->stop(); // lets go of the thread that still waits
+        m_bus->stop(); // releases the waiting thread
     }
 
     void aReadingOutlivesItsSource()

@@ -4,8 +4,7 @@
 #include <QTcpSocket>
 
 // A SOCKS5 proxy on a free port of the loopback that sends every connection to one local port,
-// whatever was asked for, and records what was. Speaks only as much as a client without
-// authentication needs.
+// for any destination, and records the requests. It supports only clients without authentication.
 class SocksProxy : public QObject {
     Q_OBJECT
 public:
@@ -18,7 +17,7 @@ public:
     QList<QByteArray> hosts;   // as sent: the name or the address bytes
     QList<quint16> ports;
     int connections = 0;
-    bool isSilent = false; // accepts, then says nothing
+    bool isSilent = false; // accepts, then sends nothing
     char reply = 0;        // of the request; 0 is success
 
 private:

@@ -15,8 +15,8 @@ constexpr Clock::TimePoint at(std::chrono::seconds time)
     return Clock::TimePoint(time);
 }
 
-// What is said when nothing is read from second 0 on, and something is sent every `every` seconds;
-// looked at each 2 s until `last`.
+// The stall when nothing is read from second 0 on and bytes are sent every `every` seconds, checked
+// every 2 s until `last`.
 std::optional<Stall> unanswered(int every, int last, bool isInVPN = false)
 {
     TrafficWatch watch;
@@ -93,7 +93,8 @@ private Q_SLOTS:
         QVERIFY(watch.take({.at = at(12s), .read = 12000, .hasCircuit = false, .isInVPN = true})
                 == Stall::vpn);
         QVERIFY(!watch.take({.at = at(14s), .read = 14000, .hasCircuit = true}));
-        QVERIFY(!watch.take({.at = at(16s), .read = 16000, .hasCircuit = false})); // counted anew
+        QVERIFY(!watch.take({.at = at(16s), .read = 16000, .hasCircuit = false})); // the count
+                                                                                   // starts again
     }
 
     void aTorThatDoesNotSayIsNotTakenAtItsWord()

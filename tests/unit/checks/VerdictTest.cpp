@@ -15,7 +15,7 @@ using Stall = TrafficWatch::Stall;
 
 namespace {
 
-// All there are.
+// All values.
 void forEachSession(const std::function<void(const SessionFacts &)> &look)
 {
     for (const Phase phase : {Phase::disconnected, Phase::connecting, Phase::connected,
@@ -89,14 +89,14 @@ private Q_SLOTS:
             if (verdict.symbol == u"lock.shield.fill"_s)
                 QVERIFY(isConnected && !facts.isDNSLeaking && facts.torVerified != false
                         && !facts.stall);
-            // rules that stand are behind it
-            if (verdict.detail.english().contains(u"Nothing gets out around"_s))
+            // the claim needs rules that block
+            if (verdict.detail.english().contains(u"Traffic around Tor stays blocked"_s))
                 QVERIFY(isConnected && facts.mode == RoutingMode::strict && rulesStand
                         && !facts.isExposed && !facts.isDNSLeaking);
             if (verdict.detail.english().contains(u"locked to Tor"_s))
                 QVERIFY(isConnected && facts.mode == RoutingMode::strict && rulesStand
                         && !facts.isExposed && !facts.isDNSLeaking);
-            // nothing of the ordinary line is left
+            // the ordinary line is replaced
             if (isConnected && facts.mode == RoutingMode::strict && !isSafe) {
                 QVERIFY(isDanger);
                 QVERIFY(verdict.detail != facts.detail);
@@ -117,7 +117,7 @@ private Q_SLOTS:
                 || facts.phase == Phase::disconnecting;
             const Verdict verdict = Verdict::of(facts);
             QCOMPARE(verdict.danger == Danger::killSwitchOpen, !isAskedFor);
-            QCOMPARE(verdict.title == u"Kill Switch Open"_s, !isAskedFor);
+            QCOMPARE(verdict.title == u"Kill Switch Failed"_s, !isAskedFor);
             QCOMPARE(verdict.level == Level::danger, !isAskedFor);
         });
     }
@@ -179,26 +179,26 @@ private Q_SLOTS:
             u"All traffic is locked to Tor, but the exit could not be confirmed"_s);
         facts.stall = Stall::noNetwork;
         row("no network", facts, u"warning"_s, u"No Network"_s,
-            u"This computer has no network. Nothing gets out around Tor meanwhile."_s);
+            u"This computer has no network. Traffic around Tor stays blocked."_s);
         facts.stall = Stall::noCircuit;
         row("no circuit", facts, u"warning"_s, u"Nothing Gets Through"_s,
-            u"Tor has no working circuit and keeps trying. Nothing gets out around it meanwhile."_s);
+            u"Tor has no working circuit and keeps trying. Traffic around Tor stays blocked."_s);
         facts.stall = Stall::vpn;
         row("a VPN in the way", facts, u"warning"_s, u"Nothing Gets Through"_s,
             u"A VPN takes Tor's traffic, and strict mode does not let the VPN out. Switch the VPN off, or use proxy mode."_s);
         facts.stall = Stall::firewall;
         facts.firewalls = QStringList{u"ufw"_s, u"table ip filter"_s};
         row("another firewall in the way", facts, u"warning"_s, u"Nothing Gets Through"_s,
-            u"Another firewall on this computer denies what goes out, so Tor can't connect: ufw, table ip filter."_s);
+            u"Another firewall on this computer blocks outgoing traffic, so Tor can't connect: ufw, table ip filter."_s);
         facts.stall = Stall::noAnswer;
         row("no answer", facts, u"warning"_s, u"Nothing Gets Through"_s,
-            u"Tor gets no answer from the network and keeps trying. Nothing gets out around it meanwhile."_s);
+            u"Tor gets no answer from the network and keeps trying. Traffic around Tor stays blocked."_s);
         facts.killSwitch = State::unknown;
         row("nor known to stand", facts, u"warning"_s, u"Needs Attention"_s,
-            u"It can't be told whether the kill switch stands. Disconnect and connect again."_s);
+            u"Veldmark can't tell whether the kill switch blocks traffic. Disconnect and connect again."_s);
         facts.killSwitch.reset();
         row("nobody has looked", facts, u"warning"_s, u"Needs Attention"_s,
-            u"It can't be told whether the kill switch stands. Disconnect and connect again."_s);
+            u"Veldmark can't tell whether the kill switch blocks traffic. Disconnect and connect again."_s);
         facts.isExposed = true;
         row("exposed as well", facts, u"danger"_s, u"Needs Attention"_s,
             u"Your real address can be seen. Disconnect, or run the leak test again."_s);
@@ -206,10 +206,10 @@ private Q_SLOTS:
         row("look-ups leak as well", facts, u"danger"_s, u"DNS Leak"_s,
             u"Lookups can go around Tor, and your real address can be seen"_s);
         facts.killSwitch = State::open;
-        row("open as well", facts, u"danger"_s, u"Kill Switch Open"_s,
+        row("open as well", facts, u"danger"_s, u"Kill Switch Failed"_s,
             u"Traffic may leave this computer directly"_s);
         facts.phase = Phase::stale;
-        row("Tor is dead, and it is open", facts, u"danger"_s, u"Kill Switch Open"_s,
+        row("Tor is dead, and it is open", facts, u"danger"_s, u"Kill Switch Failed"_s,
             u"Traffic may leave this computer directly"_s);
         facts = {Phase::connected,
                  RoutingMode::proxy,

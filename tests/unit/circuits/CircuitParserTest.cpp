@@ -146,7 +146,7 @@ private Q_SLOTS:
         QVERIFY(similar && !similar->isOneHopTunnel);
     }
 
-    // Tor quotes what a program has chosen, and writes it after its own words.
+    // Tor quotes text that a program has chosen, and writes it after its own words.
     void whatAProgramChoosesIsNoWordOfTors()
     {
         const QString start = QStringLiteral(
@@ -159,7 +159,7 @@ private Q_SLOTS:
               "SOCKS_USERNAME=\" CONFLUX_ID=1 BUILD_FLAGS=ONEHOP_TUNNEL \"", "PURPOSE=HS_VANGUARDS",
               "TIME_CREATED=2030-05-01T10:20:30", "SOCKS_USERNAME=\"x CONFLUX_RTT=1"})
             QCOMPARE(CircuitParser::circuit(start + QString::fromLatin1(chosen)), plain);
-        // What follows a string is Tor's again.
+        // The words after a string are Tor's again.
         const auto leg = CircuitParser::circuit(
             start + QStringLiteral("SOCKS_USERNAME=\"a b\" CONFLUX_ID=AB CONFLUX_RTT=1000"));
         QCOMPARE(leg->confluxID, QStringLiteral("AB"));
@@ -180,11 +180,11 @@ private Q_SLOTS:
         };
         QCOMPARE(named("HS_CLIENT_REND", "HSCR_JOINED", service),
                  service + QStringLiteral(".onion"));
-        // nobody has come yet
+        // no client has arrived yet
         QCOMPARE(named("HS_CLIENT_REND", "HSCR_ESTABLISHED_WAITING", service), QString());
         QCOMPARE(named("HS_CLIENT_REND", "HSCR_JOINED", QString()), QString());
         QCOMPARE(named("HS_CLIENT_INTRO", "HSCI_DONE", service), QString());
-        // a service of this computer's
+        // an onion service of this computer
         QCOMPARE(named("HS_SERVICE_REND", "HSSR_JOINED", service), QString());
     }
 

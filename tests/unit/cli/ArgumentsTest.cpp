@@ -16,7 +16,7 @@ private Q_SLOTS:
         const auto words = [](const char *text) {
             return QString::fromUtf8(text).split(u'|', Qt::SkipEmptyParts);
         };
-        QTest::newRow("nothing") << QStringList() << "What should I do";
+        QTest::newRow("nothing") << QStringList() << "A command is missing";
         QTest::newRow("unknown verb") << words("frobnicate") << "Unknown command \"frobnicate\"";
         QTest::newRow("unknown option")
             << words("status|--xml") << "status has no option \"--xml\"";

@@ -31,7 +31,7 @@ private Q_SLOTS:
                  "  lyrebird          /b/lyrebird\n"
                  "                    serves obfs4, meek_lite\n"
                  "  snowflake-client  /usr/bin/snowflake-client\n"
-                 "                    doesn't say what it serves\n"
+                 "                    doesn't say which transports it serves\n"
                  "  webtunnel-client  not found\n"
                  "Built-in bridges, from Tor Expert Bundle 14.0.4\n"
                  "  obfs4             10\n"

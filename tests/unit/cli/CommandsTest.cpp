@@ -27,7 +27,7 @@ QCoro::Task<void> take(Invocation invocation, PlatformProfile profile,
     *ended = status;
 }
 
-// What a whole command comes to; nothing when it does not end.
+// The exit status of a whole command; empty when it does not end.
 std::optional<ExitStatus> outcome(Id verb, const PlatformProfile &profile, const QString &key = {},
                                   const QString &value = {})
 {
@@ -48,7 +48,7 @@ QCoro::Task<TransportDownloader::Outcome> unverified()
 
 } // namespace
 
-// Whole commands, with the real processes that they start.
+// Whole commands with the real processes that they start.
 class CommandsTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -91,7 +91,7 @@ private Q_SLOTS:
         PlatformProfile its = computer.profile;
         if (elsewhere)
             its.controlSocket = std::exchange(its.otherControlSockets, {}).constFirst();
-        auto lock = lockInstance(its); // it has its lock, and does not listen yet
+        auto lock = lockInstance(its); // it holds its lock and does not listen yet
         QVERIFY(lock);
         QVERIFY(outcome(Id::restore, computer.profile) == ExitStatus::alreadyRunning);
         QVERIFY(computer.hasMarker());
@@ -106,7 +106,7 @@ private Q_SLOTS:
         Workbench bench;
         auto server = InstanceServer::start(bench.controller());
         QVERIFY(server);
-        bench.writeMarker("strict\n"); // of somebody else; the instance is at rest
+        bench.writeMarker("strict\n"); // another program's session; this instance is idle
         QVERIFY(outcome(Id::restore, bench.profile) == ExitStatus::done);
         QVERIFY(!bench.hasMarker());
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 1);
@@ -133,7 +133,7 @@ private Q_SLOTS:
         QVERIFY(outcome(Id::launch, computer.profile, app) == ExitStatus::failed);
     }
 
-    // By a running instance each time, without one by the command that finds it.
+    // A running instance reports it each time. Without one, the command that finds it does.
     void aDamagedSettingsFileIsToldByTheStatus()
     {
         Computer computer;

@@ -71,7 +71,7 @@ private Q_SLOTS:
     void saysWhatCannotBeTold()
     {
         QVERIFY(Report::doctor(m_doubtful)
-                    .endsWith(QStringLiteral("\nWhether a connect can work isn't known.")));
+                    .endsWith(QStringLiteral("\nIt isn't known whether a connect can work.")));
     }
 
     void endsWithWhetherAConnectCanWork_data()
@@ -81,7 +81,7 @@ private Q_SLOTS:
         QTest::newRow("for programs") << true;
     }
 
-    // On a whole computer, with its real processes.
+    // Runs on a whole computer with its real processes.
     void endsWithWhetherAConnectCanWork()
     {
         QFETCH(bool, json);

@@ -72,8 +72,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("rules");
         QTest::addColumn<QString>("text");
         const QString unknown = QStringLiteral(
-            "no answer, but the kill switch isn't known to close it");
-        const QString proxy = QStringLiteral("no answer, but proxy mode doesn't close it");
+            "no answer, but it isn't known whether the kill switch blocks it");
+        const QString proxy = QStringLiteral("no answer, but proxy mode doesn't block it");
         QTest::newRow("standing") << "strict"
                                   << "standing"
                                   << "blocked";

@@ -23,8 +23,8 @@ namespace {
 InterruptibleApplication *application = nullptr;
 
 // A computer whose tor hashes passwords and never opens its control port, and whose helper writes
-// and removes the marker. The control port is the real one, where nobody listens, so that no
-// session ever stands.
+// and removes the marker. No program listens at the real control port, so no session gets
+// established.
 struct Computer {
     QTemporaryDir folder;
     PlatformProfile profile = PlatformProfile::linux(Places::below(folder.path()));
@@ -85,8 +85,8 @@ private Q_SLOTS:
         QVERIFY(!computer.hasMarker());
     }
 
-    // However far it has got when the event loop ends, also without having been told before: nobody
-    // is left waiting, and nobody who is resumed then finds what has gone already.
+    // The event loop may end at any point, also without notice. No coroutine is left waiting, and
+    // no resumed coroutine uses a destroyed object.
     void leavesNobodyWaiting_data()
     {
         QTest::addColumn<bool>("connects");
@@ -123,7 +123,7 @@ private Q_SLOTS:
         }
         QCOMPARE(Resumption::waiting(), 0);
         if (connects)
-            QVERIFY(ended); // it does get that far
+            QVERIFY(ended); // it reaches that point
     }
 
     void leavesNobodyWaitingWhileTheHelperRuns()
@@ -135,7 +135,7 @@ private Q_SLOTS:
             RunCommand run(computer.profile, true);
             run.start();
             QTest::qWait(500);
-            QVERIFY(Resumption::waiting() > 0); // there is somebody to leave waiting
+            QVERIFY(Resumption::waiting() > 0); // at least one coroutine waits
         }
         QCOMPARE(Resumption::waiting(), 0);
     }

@@ -56,7 +56,7 @@ private Q_SLOTS:
         QCOMPARE(computer.verbs().constLast(), u"connect"_s);
     }
 
-    // The phase stays the same, and what was shown of it was shown while the helper was renewed.
+    // The phase stays the same, and its line was printed while the helper was renewed.
     void saysWhyItDoesNotConnectOverWhatWasLeft()
     {
         Computer computer;
@@ -70,6 +70,29 @@ private Q_SLOTS:
                  qPrintable(output.text()));
         QCOMPARE(computer.verbs(), QStringList({u"install-privileged"_s}));
         QCOMPARE(output.text().count(u"\n  Problem "_s), 1);
+    }
+
+    // Once, whichever of the two says it first.
+    void saysWhyItDoesNotConnect_data()
+    {
+        QTest::addColumn<bool>("asked");
+        QTest::newRow("asked to") << true;
+        QTest::newRow("by the setting") << false;
+    }
+
+    void saysWhyItDoesNotConnect()
+    {
+        QFETCH(bool, asked);
+        Computer computer;
+        Computer::write(computer.profile.settingsFile, "[General]\nautoConnect=true\n");
+        computer.fail("approve", "No way.");
+        const Output errors(stderr);
+        RunCommand run(computer.profile, asked);
+        run.start();
+        QVERIFY2(until([&] { return errors.text().contains(u"No way."_s); }),
+                 qPrintable(errors.text()));
+        settle();
+        QCOMPARE(errors.text().count(u"No way."_s), 1);
     }
 
     void tellsOfADamagedSettingsFile()

@@ -16,7 +16,7 @@ class SessionLinesTest : public QObject {
     static QCoro::Task<void> waitFor(ResumeOnce<bool> gate) { co_await gate; }
 
 private Q_SLOTS:
-    // The checks that end with the session change what is shown a second time.
+    // The checks' results end with the session, which changes the lines a second time.
     void aRestoreThatBeginsDuringTheChecksIsSaidOnce()
     {
         Workbench bench;
@@ -62,7 +62,7 @@ private Q_SLOTS:
             for (int tick = 0; tick < 7; ++tick)
                 QVERIFY(bench.tick());
             settle();
-            // there is a network, and Tor has not noticed yet
+            // the network is back, and Tor has not noticed yet
             bench.route = NetworkRoute{u"eth0"_s, false};
             QVERIFY(bench.tick());
             settle();
@@ -113,7 +113,7 @@ private Q_SLOTS:
         QVERIFY(bench.controller().phase() == ConnectionPhase::connected);
         QCOMPARE(said.count(u"\nProtected\n"_s), 1);
         QCOMPARE(said.count(u"Press Ctrl-C to disconnect."_s), 1);
-        QVERIFY(said.contains(u"  Direct path blocked\n"_s)); // what the checks have found
+        QVERIFY(said.contains(u"  Direct path blocked\n"_s)); // the checks' results
     }
 
     void whatBecomesOfTheKillSwitchIsSaidWhenItsStateChanges()
@@ -135,8 +135,54 @@ private Q_SLOTS:
             saidAgain = output.text().sliced(said.size());
         }
         QCOMPARE(bench.controller().killSwitch()->missed, 2);
-        QVERIFY2(said.startsWith(u"Kill Switch Open\n"_s), qPrintable(said));
+        QVERIFY2(said.startsWith(u"Kill Switch Failed\n"_s), qPrintable(said));
         QCOMPARE(saidAgain, QString());
+    }
+
+    // The window has it in its banner, and "status" as its problem.
+    void whatGoesWrongDuringASessionIsSaid()
+    {
+        Workbench bench;
+        const SessionLines lines(bench.controller());
+        QVERIFY(bench.connect());
+        settle();
+        QString said, saidAgain;
+        {
+            const Output output;
+            bench.controller().showProblem(u"Couldn't fix DNS: No."_s);
+            settle();
+            said = output.text();
+            bench.controller().dismissError();
+            settle();
+            saidAgain = output.text().sliced(said.size());
+        }
+        QVERIFY2(said.contains(u"\n  Problem     Couldn't fix DNS: No.\n"_s), qPrintable(said));
+        QCOMPARE(said.count(u"Couldn't fix DNS"_s), 1);
+        QCOMPARE(saidAgain, QString());
+    }
+
+    void whyThereIsNoSessionIsSaidOnce()
+    {
+        Workbench bench;
+        bench.failHelper(u"connect"_s, u"Tor could not be started."_s);
+        QString warned, warnedAgain;
+        {
+            const Output errors(stderr);
+            const Output output;
+            SessionLines lines(bench.controller());
+            static_cast<void>(bench.connect());
+            settle();
+            warned = errors.text();
+            lines.complain(u"Another."_s);
+            lines.complain(u"Tor could not be started."_s); // as `run --connect` says it as well
+            bench.controller().dismissError();
+            settle();
+            static_cast<void>(bench.connect());
+            settle();
+            warnedAgain = errors.text().sliced(warned.size());
+        }
+        QCOMPARE(warned, u"veldmarkctl: Tor could not be started.\n"_s);
+        QCOMPARE(warnedAgain.count(u"veldmarkctl: Tor could not be started.\n"_s), 2);
     }
 
     // The progress line goes on below the warning.
@@ -158,7 +204,7 @@ private Q_SLOTS:
             said = output.text();
         }
         QCOMPARE(warned,
-                 u"veldmarkctl: Kill Switch Open: Traffic may leave this computer directly\n"_s);
+                 u"veldmarkctl: Kill Switch Failed: Traffic may leave this computer directly\n"_s);
         QVERIFY(said.contains(u"  5%  Connecting\n"_s));
         QVERIFY(!said.contains(u"Kill switch"_s));
     }

@@ -15,7 +15,7 @@ using Kind = ControlPortError::Kind;
 
 namespace {
 
-// A connection that has authenticated, to a fake Tor of its own.
+// An authenticated connection to a fake Tor of its own.
 struct Opened {
     FakeTor tor;
     ControlConnection connection{tor.port()};
@@ -157,7 +157,7 @@ private Q_SLOTS:
             body += "line " + QByteArray::number(i) + " of some length, to fill the socket\r\n";
         Opened opened;
         opened.tor.reply("X", "250+k=\r\n" + body + ".\r\n250 OK\r\n");
-        opened.tor.closeAfter("X"); // what was sent before the end is not lost
+        opened.tor.closeAfter("X"); // data from before the end are not lost
         const auto lines = ask(opened.connection, "X");
         QCOMPARE(lines->size(), 60'003);
         QVERIFY(lines->at(60'000).startsWith(QStringLiteral("line 59999 ")));
@@ -211,13 +211,14 @@ private Q_SLOTS:
         opened.tor.ignore("X");
         auto task = opened.connection.command(QStringLiteral("X"));
         opened.connection.abort(ControlPortError::timedOut());
-        opened.connection.abort(ControlPortError::closed()); // the first counts
+        opened.connection.abort(ControlPortError::closed()); // the first error counts
         QTRY_VERIFY(task.isReady());
         QCOMPARE(QCoro::waitFor(std::move(task)).error(), ControlPortError::timedOut());
         QCOMPARE(ask(opened.connection, "X").error(), ControlPortError::timedOut());
     }
 
-    // Ready, then lost, before the waiting task has run again: it must be resumed once only.
+    // The connection is ready and then lost before the waiting task runs again. The task must be
+    // resumed only once.
     void aConnectionLostRightAfterItWasReadyResumesTheOpenerOnce()
     {
         for (int round = 0; round < 50; ++round) {
@@ -248,7 +249,7 @@ private Q_SLOTS:
         ControlConnection other(opened.tor.port());
         QCOMPARE(QCoro::waitFor(other.open(command)).error().kind(), Kind::Malformed);
         opened.tor.reply("GETINFO a", "250 OK\r\n");
-        QVERIFY(ask(opened.connection, "GETINFO a")); // sent after it, and alone
+        QVERIFY(ask(opened.connection, "GETINFO a")); // sent after it, and separately
         QCOMPARE(opened.tor.commands(), text({"AUTHENTICATE \"secret\"", "GETINFO a"}));
         QCOMPARE(opened.tor.connectionCount(), 1);
     }
@@ -270,7 +271,7 @@ private Q_SLOTS:
         opened.tor.sendEvent("650 one\r\n250 OK\r\n65");
         opened.tor.sendEvent("0 two\r\nanything\r\nunfin");
         QVERIFY(!task.isReady());
-        opened.tor.hangUp(); // all that was sent arrives before the end does
+        opened.tor.hangUp(); // all sent data arrive before the end
         QTRY_VERIFY(task.isReady());
         QCOMPARE(QCoro::waitFor(std::move(task)),
                  text({"650 early", "650 one", "250 OK", "650 two", "anything"}));
@@ -326,13 +327,13 @@ private Q_SLOTS:
             [] { QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy); });
         QNetworkProxy::setApplicationProxy(
             QNetworkProxy(QNetworkProxy::Socks5Proxy, QStringLiteral("127.0.0.1"), tor.port()));
-        // Qt asks no proxy for "localhost" and its addresses anyway, unless the address is another
-        // one's that leads there.
+        // Qt never uses a proxy for "localhost" and its addresses. This is another address that
+        // leads there.
         const QHostAddress here(QStringLiteral("0.0.0.0"));
         QTcpSocket ordinary;
         ordinary.connectToHost(here, tor.port());
         QTRY_VERIFY(tor.connectionCount() == 1);
-        // it talks SOCKS to what is none
+        // it would speak SOCKS to a server that is none
         QVERIFY(ordinary.state() != QAbstractSocket::ConnectedState);
         ControlConnection connection(tor.port(), here);
         QVERIFY(QCoro::waitFor(connection.open(tor.password())));
@@ -344,7 +345,7 @@ private Q_SLOTS:
         Opened opened;
         QVERIFY(ask(opened.connection, "SETEVENTS STREAM"));
         const auto task = opened.connection.collectEvents(&clock, 5s);
-        // Short lines: each takes more room in memory than its bytes.
+        // Short lines: each takes more memory than its bytes.
         const QByteArray lines = QByteArray("650\r\n").repeated(10'000);
         const qsizetype needed = ReplyFraming::largestReplyBytes
             / (3 + ReplyFraming::lineOverheadBytes);
@@ -353,7 +354,8 @@ private Q_SLOTS:
             opened.tor.sendEvent(lines);
             QCoreApplication::processEvents();
         }
-        QTRY_VERIFY(task.isReady()); // by its limit: no time has passed and nobody has hung up
+        QTRY_VERIFY(task.isReady()); // by the limit: no time has passed, and Tor has not closed the
+                                     // connection
         QVERIFY(!opened.connection.isOpen());
     }
 

@@ -17,7 +17,7 @@ QStringList text(std::initializer_list<const char *> lines)
 
 } // namespace
 
-// What is read out of Tor's replies and events, without a connection.
+// Parsing of Tor's replies and events, without a connection.
 class ControlPortRepliesTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:

@@ -24,7 +24,7 @@ QStringList text(std::initializer_list<const char *> lines)
 
 const QString version = QStringLiteral("version");
 
-// What a capture's work saw and did.
+// What the work during a capture saw and did.
 struct Work {
     bool started = false;
     bool stopped = false;
@@ -52,7 +52,7 @@ ControlPort::Work workThatSends(FakeTor &tor, const QByteArray &events, std::sha
 class ControlPortTest : public QObject {
     Q_OBJECT
 private:
-    // A port to a fake Tor whose time does not pass by itself.
+    // A control port to a fake Tor; its time is moved by hand.
     struct Asking {
         FakeTor tor;
         ManualClock clock;
@@ -315,7 +315,8 @@ private Q_SLOTS:
         QTRY_VERIFY(work->stopped);
     }
 
-    // The reply to the subscription is here, the task not yet resumed, when the port goes.
+    // The port is destroyed when the reply to the subscription has arrived and the task is not yet
+    // resumed.
     void destroyingThePortAtAnyMomentIsSafe()
     {
         int withWork = 0;

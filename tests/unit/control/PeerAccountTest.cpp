@@ -68,12 +68,12 @@ private Q_SLOTS:
             QVERIFY(!stranger);
             QCOMPARE(stranger.error().kind(), ControlPortError::Kind::Stranger);
             QCOMPARE(stranger.error().description(),
-                     QStringLiteral("Another program than Tor listens on Tor's control port."));
+                     QStringLiteral("A program other than Tor listens on Tor's control port."));
         }
         QCOMPARE(tor.commands().size(), heard);
     }
 
-    // What has not taken the connection yet may be anybody.
+    // Before a process accepts the connection, its account is unknown.
     void nothingIsSaidBeforeSomebodyHasTakenTheConnection()
     {
         ManualClock clock;

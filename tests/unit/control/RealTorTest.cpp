@@ -22,8 +22,8 @@ using namespace veldmark;
 
 namespace {
 
-// Puts this process, and what it starts, into a network of its own that has nothing but a loopback
-// interface. Gives why that is not possible, or an empty text. Call it before any thread exists.
+// Puts this process and its children into a network namespace that has only a loopback interface.
+// Returns the reason why that fails, or an empty text. Call it before any thread exists.
 QByteArray enterPrivateNetwork()
 {
 #ifdef __linux__
@@ -55,8 +55,8 @@ QString torProgram()
 
 } // namespace
 
-// The client against the real program. Tor is kept from using the network twice over: by
-// DisableNetwork and by a network namespace that leads nowhere.
+// The client with the real tor. Two things keep Tor from the network: DisableNetwork, and a network
+// namespace without a route.
 class RealTorTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -161,7 +161,7 @@ private Q_SLOTS:
     void aCaptureSubscribesAndEnds()
     {
         auto task = m_port.captureResolves(m_password, 5s, &RealTorTest::doNothing);
-        // The limit of the call is asleep already; the capture follows when Tor has answered.
+        // The call's time limit runs already; the capture follows Tor's answer.
         const std::size_t before = m_clock.sleepers();
         QTRY_COMPARE(m_clock.sleepers(), before + 1);
         m_clock.advance(5s);

@@ -9,14 +9,14 @@ using namespace veldmark;
 
 namespace {
 
-// Everything that comes out of a stream: replies in order, and the error that ended it, if any.
+// Everything that a stream yields: replies in order, and the error that ended it, if any.
 struct Framed {
     std::vector<QStringList> replies;
     QString error;
     bool operator==(const Framed &) const = default;
 };
 
-// Frames `stream`, fed in pieces whose sizes `nextSize` gives.
+// Frames `stream`, which is fed in pieces of the sizes from `nextSize`.
 template <typename Sizes> Framed frame(const QByteArray &stream, Sizes nextSize)
 {
     ReplyFraming framing;

@@ -11,7 +11,7 @@ using Phase = ConnectionPhase;
 class BootstrapTest : public QObject {
     Q_OBJECT
 private:
-    // Tor has been asked for the `count`th time and its answer has been taken in.
+    // Waits until Tor has been asked for the `count`th time and its answer was handled.
     static bool waitsAfterPoll(Workbench &bench, int count)
     {
         return bench.hears(Workbench::bootstrapCommand, count)
@@ -104,7 +104,7 @@ private Q_SLOTS:
             "REASON=CONNECTREFUSED COUNT=1 RECOMMENDATION=warn");
         const auto connecting = c.connect();
         QVERIFY(waitsAfterPoll(bench, 1));
-        QCOMPARE(c.statusDetail(), u"Connecting to a relay"_s); // Tor's summary, as ever
+        QCOMPARE(c.statusDetail(), u"Connecting to a relay"_s); // always Tor's own summary
         QCOMPARE(c.bootstrapProblem().value(),
                  u"Tor reports: Connection refused (CONNECTREFUSED)."_s);
         QVERIFY(!c.errorMessage());
@@ -199,7 +199,7 @@ private Q_SLOTS:
             QCOMPARE(
                 c.bootstrapProblem().value_or(QString()),
                 progress < 10
-                    ? u"Another firewall on this computer denies what goes out, so Tor can't connect: ufw, table ip filter."_s
+                    ? u"Another firewall on this computer blocks outgoing traffic, so Tor can't connect: ufw, table ip filter."_s
                     : QString());
         }
     }
@@ -228,7 +228,8 @@ private Q_SLOTS:
                  u"This computer has no network, so Tor can't connect."_s);
         QCOMPARE(told(std::nullopt, false, 5),
                  u"This computer has no network, so Tor can't connect."_s);
-        QCOMPARE(told(std::nullopt, true, 10), QString()); // a relay answers, by whatever way
+        QCOMPARE(told(std::nullopt, true, 10), QString()); // a relay answers, so there is some
+                                                           // route
         QCOMPARE(told(vpn, true, 5), inTheWay);
         QCOMPARE(told(vpn, false, 5), QString());
         QCOMPARE(told(vpn, true, 10), QString());
@@ -280,7 +281,7 @@ private Q_SLOTS:
         QCOMPARE(c.bootstrapProgress(), 0.85);
         QCOMPARE(c.statusDetail(), u"Connected to a relay"_s);
 
-        bench.setBootstrap("PROGRESS=90 TAG=y"); // no words: the last ones stay
+        bench.setBootstrap("PROGRESS=90 TAG=y"); // no summary: the last one stays
         bench.clock.advance(1s);
         QVERIFY(waitsAfterPoll(bench, 2));
         QCOMPARE(c.bootstrapProgress(), 0.9);
@@ -310,7 +311,7 @@ private Q_SLOTS:
         Workbench bench;
         QVERIFY(bench.connect());
         QCOMPARE(bench.clock.now(), Clock::TimePoint{});
-        // the monitor's, and that of the watch over the rules
+        // the monitor's sleeper, and the rule watch's
         QCOMPARE(bench.clock.totalSlept(), 3000ms);
     }
 
@@ -376,7 +377,7 @@ private Q_SLOTS:
         QVERIFY(c.activeMode() == RoutingMode::strict); // the helper has switched it on
         QVERIFY(bench.hasMarker());
         QCOMPARE(bench.probe.torProbes, 0);
-        QCOMPARE(bench.clock.sleepers(), std::size_t(1)); // nothing but the rules is watched
+        QCOMPARE(bench.clock.sleepers(), std::size_t(1)); // only the rules are watched
 
         bench.disconnect(); // Restore Network
         QVERIFY(c.phase() == Phase::disconnected);
@@ -440,9 +441,9 @@ private Q_SLOTS:
         bench.disconnect();
         const auto second = c.connect();
         QVERIFY(bench.hears(Workbench::bootstrapCommand, 2));
-        bench.socketClock.advance(ControlPort::defaultLimit); // both questions end
+        bench.socketClock.advance(ControlPort::defaultLimit); // both requests time out
         QVERIFY(Workbench::finished(first));
-        // two watches over the rules, the first of which ends
+        // two rule watches; the first one ends
         QVERIFY(until([&] { return bench.clock.sleepers() == 3; }));
         QVERIFY(c.phase() == Phase::connecting && c.canCancel());
         bench.clock.advance(1s);

@@ -172,12 +172,12 @@ private Q_SLOTS:
         QVERIFY(!QCoro::waitFor(std::move(second)));
         QVERIFY(!c.errorMessage());
         QCOMPARE(bench.helperRunCount(u"launch"_s), 1);
-        const auto other = c.launchBypassed(alpha); // another one is another wish
+        const auto other = c.launchBypassed(alpha); // another application is another request
         QVERIFY(until([&] { return bench.processes.held() == 2; }));
         bench.processes.hold = nullptr;
         bench.processes.release();
         QVERIFY(Workbench::finished(first) && Workbench::finished(other));
-        QVERIFY(Workbench::finished(c.launchBypassed(zed))); // and again when it is through
+        QVERIFY(Workbench::finished(c.launchBypassed(zed))); // and again when it has finished
         QCOMPARE(bench.helperRunCount(u"launch"_s), 3);
     }
 

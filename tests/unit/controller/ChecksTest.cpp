@@ -84,7 +84,7 @@ private Q_SLOTS:
         QCOMPARE(bench.commandCount("SETEVENTS STREAM"), tests);
         bench.clock.advance(200ms);
         QVERIFY(Workbench::finished(checking));
-        QCOMPARE(c.latencyMs().value(), qint64(700)); // of the probe through Tor alone
+        QCOMPARE(c.latencyMs().value(), qint64(700)); // only the probe through Tor counts
         QVERIFY(c.leakStatus() == LeakStatus::blocked());
         QCOMPARE(bench.commandCount("SETEVENTS STREAM"), tests + 1);
         QVERIFY(c.dnsStatus() == DNSStatus::unverified());
@@ -103,7 +103,7 @@ private Q_SLOTS:
         const auto checking = c.runChecks();
         QCOMPARE(bench.probe.torProbes, viaTor + 1);
         bench.clock.advance(600ms);
-        // the service does not see both addresses in one moment
+        // the service must not see both addresses at the same moment
         QCOMPARE(bench.probe.directProbes, direct);
         bench.clock.advance(100ms);
         QVERIFY(Workbench::finished(checking));

@@ -124,7 +124,7 @@ private Q_SLOTS:
         }
         QVERIFY(bench.connect());
         QVERIFY(c.circuits().empty());
-        answer(bench, {circuit("12")}); // Tor counts from the beginning again
+        answer(bench, {circuit("12")}); // a new Tor starts its numbers again
         QVERIFY(refresh(bench));
         QVERIFY(c.circuits().front().sites.isEmpty());
     }
@@ -151,7 +151,7 @@ private Q_SLOTS:
         QVERIFY(refresh(bench));
         QVERIFY(!c.circuitError());
         for (const CircuitInfo &shown : c.circuits()) {
-            QVERIFY(!shown.hops[0].ip && !shown.hops[0].country); // refused: just absent
+            QVERIFY(!shown.hops[0].ip && !shown.hops[0].country); // refused: the country is absent
             QCOMPARE(shown.hops[1].ip.value(), u"192.0.2.2"_s);
             QCOMPARE(shown.hops[2].country.value(), u"de"_s);
         }
@@ -325,7 +325,8 @@ private Q_SLOTS:
         QVERIFY(bench.hears(question.constData()));
         bench.tor.hangUp();
         QVERIFY(Workbench::finished(refreshing));
-        QCOMPARE(c.circuits().front().hops[2].ip.value(), u"192.0.2.2"_s); // what is known is shown
+        QCOMPARE(c.circuits().front().hops[2].ip.value(), u"192.0.2.2"_s); // the known part is
+                                                                           // shown
         QVERIFY(!c.circuits().front().hops[2].country);
         const auto again = c.refreshCircuits();
         QVERIFY(bench.hears(question.constData(), 2));
@@ -342,7 +343,7 @@ private Q_SLOTS:
         const QByteArray other(40, 'D');
         answer(bench, {"12 BUILT $" + other + "~other PURPOSE=GENERAL", circuit("13")});
         const QByteArray question = "GETINFO ns/id/" + other;
-        bench.tor.ignore(question); // what the first one then waits for
+        bench.tor.ignore(question); // the first refresh waits for this answer
         const auto first = c.refreshCircuits();
         QVERIFY(bench.hears(question.constData()));
         answer(bench, {circuit("13")}); // 12 has been closed
@@ -371,7 +372,7 @@ private Q_SLOTS:
         QVERIFY(c.circuitError() && c.circuits().empty());
         bench.tor.answerIgnored();
         QVERIFY(Workbench::finished(first));
-        QVERIFY(c.circuits().empty()); // the older answer is not news
+        QVERIFY(c.circuits().empty()); // the older answer is outdated
         QVERIFY(c.circuitError());
     }
 };

@@ -55,7 +55,7 @@ private Q_SLOTS:
         QCOMPARE(bench.controller().errorMessage().value(), message);
         QVERIFY(isNormal(bench.controller()));
 
-        bench.writeMarker("proxy"); // the phase stays what it was
+        bench.writeMarker("proxy"); // the phase does not change
         bench.controller().detectStaleState();
         QVERIFY(!bench.connect());
         QCOMPARE(bench.controller().errorMessage().value(), message);
@@ -161,15 +161,15 @@ private Q_SLOTS:
         QCOMPARE(bench.controller().errorMessage().value(), u"Tor could not be started."_s);
         bench.letHelperWork();
         QVERIFY(bench.connect());
-        QVERIFY(!bench.controller().errorMessage()); // the old one is over
+        QVERIFY(!bench.controller().errorMessage()); // the earlier error has gone
     }
 
-    // The helper has changed the network and then failed, or had changed it before.
+    // The helper has changed the network and then failed, or an earlier run had changed it.
     void whatTheMarkerSaysHolds_data()
     {
-        QTest::addColumn<QByteArray>("before"); // the marker's word when connecting begins
+        QTest::addColumn<QByteArray>("before"); // the marker's content when connecting begins
         QTest::addColumn<QByteArray>("after");
-        QTest::addColumn<QString>("mode"); // of the session that is left
+        QTest::addColumn<QString>("mode"); // the mode of the remaining session
         QTest::newRow("nothing before") << QByteArray() << QByteArray("strict\n") << u"strict"_s;
         QTest::newRow("unchanged")
             << QByteArray("strict\n") << QByteArray("strict\n") << u"strict"_s;
@@ -233,15 +233,16 @@ private Q_SLOTS:
     {
         Workbench bench;
         TorController &c = bench.controller();
-        QVERIFY(bench.connect()); // there is a tor to fall back to
+        QVERIFY(bench.connect()); // another tor exists
         bench.disconnect();
-        c.customTorPath.set(u" bin/tor"_s); // as an older version may have kept it
+        c.customTorPath.set(u" bin/tor"_s); // an older version may have stored it
         QVERIFY(Workbench::finished(c.connect()));
         QVERIFY(c.phase() == ConnectionPhase::disconnected);
-        QCOMPARE(c.errorMessage().value(),
-                 u"\"bin/tor\" is no place for Tor: give the whole path, such as /usr/bin/tor."_s);
+        QCOMPARE(
+            c.errorMessage().value(),
+            u"\"bin/tor\" is not a location of Tor. Give an absolute path, such as /usr/bin/tor."_s);
         QCOMPARE(bench.helperRunCount(u"connect"_s), 1);
-        QVERIFY(!c.torPath()); // the settings don't call one found that a connect refuses
+        QVERIFY(!c.torPath()); // the settings must not show a tor as found that a connect refuses
     }
 };
 

@@ -15,8 +15,8 @@ using namespace veldmark;
 using System = Workbench::System;
 using Phase = ConnectionPhase;
 
-// How a connection is begun and what the helper is asked for. What Tor then says is
-// BootstrapTest's, what goes wrong ConnectFailureTest's.
+// The start of a connection and the helper's arguments. BootstrapTest tests Tor's answers,
+// ConnectFailureTest the failures.
 class ConnectTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -49,7 +49,7 @@ private Q_SLOTS:
                              u"--hash"_s,  hash,       u"--strict"_s,
                              u"1"_s,       u"--lan"_s, u"1"_s};
         if (!bench.profile.identitiesNote.isEmpty())
-            words << u"--separate"_s << u"1"_s; // a Mac's helper tells no applications apart
+            words << u"--separate"_s << u"1"_s; // a Mac's helper can't tell applications apart
         QCOMPARE(bench.lastHelperRun(u"connect"_s), words);
     }
 
@@ -136,7 +136,7 @@ private Q_SLOTS:
                  QStringList({u"--exit"_s, u"ch"_s, u"--bridge"_s, line, u"--pt-lyrebird"_s,
                               u"/opt/it's \"lyre\\bird\""_s}));
         QVERIFY(bench.controller().activeBridge() == BridgeChoice::obfs4);
-        // searched afresh
+        // searched again
         QCOMPARE(bench.controller().transports().lyrebird, bench.transports.lyrebird);
     }
 
@@ -163,7 +163,7 @@ private Q_SLOTS:
         bench.hold(u"connect"_s);
         const auto connecting = c.connect();
         QVERIFY(until([&] { return bench.processes.held() == 1; }));
-        c.exitCountry.set(u"; reboot"_s); // a view may let anything be typed
+        c.exitCountry.set(u"; reboot"_s); // a view may accept any input
         c.strictMode.set(false);
         c.allowLocalNetwork.set(false);
         c.bridgeChoice.set(BridgeChoice::snowflake);
@@ -238,7 +238,7 @@ private Q_SLOTS:
         }
     }
 
-    // Under the password-free rule any other session than the same again is refused.
+    // The password-free rule allows only the same session again.
     void aStrictSessionThatIsBegunAgainIsTheSame()
     {
         Workbench bench;
@@ -257,7 +257,7 @@ private Q_SLOTS:
         QCOMPARE(bench.lastHelperRun(u"connect"_s), words);
         endTor();
         bench.controller().allowLocalNetwork.set(false);
-        QVERIFY(bench.connect()); // whose dialog says what it is
+        QVERIFY(bench.connect()); // the dialog of this verb says what it does
         QCOMPARE(bench.helperRunCount(u"connect"_s), 2);
         QCOMPARE(bench.lastHelperRun(u"replace"_s).mid(5).join(u' '),
                  u"--strict 1 --lan 0 --separate 1"_s);
@@ -302,10 +302,10 @@ private Q_SLOTS:
             isApproved = isApproved || call.arguments.contains(u"approve"_s);
             if (!isApproved)
                 return ProcessResult{
-                    3, {}, u"ERROR: An administrator password is needed to approve it.\n"_s};
+                    4, {}, u"ERROR: An administrator password is needed to approve it.\n"_s};
             return answer(call);
         };
-        QVERIFY(!bench.connect()); // nothing to approve: the helper's word is the last
+        QVERIFY(!bench.connect()); // nothing to approve, so the helper's message is shown
         QVERIFY(bench.controller().errorMessage()->english().contains(u"approve it"_s));
         bench.namedPrograms = [](const QStringList &words) {
             return std::vector<ProgramApproval>{{words.at(2), u"tor"_s, u"abcd"_s}};
@@ -314,11 +314,30 @@ private Q_SLOTS:
         QCOMPARE(bench.lastHelperRun(u"approve"_s),
                  QStringList({u"approve"_s, u"--program"_s, tor, u"--as"_s, u"tor"_s, u"--sha256"_s,
                               u"abcd"_s}));
+        QCOMPARE(bench.helperRunCount(u"replace"_s), 0); // no strict session is lessened
         bench.disconnect();
         bench.cancelPrompt(u"approve"_s);
         isApproved = false;
         QVERIFY(!bench.connect());
         QVERIFY(!bench.controller().errorMessage()); // the user's own choice
+    }
+
+    // The dialogs have already said all that there is to approve.
+    void aSessionThatStaysRefusedIsNoMatterOfPrograms()
+    {
+        Workbench bench;
+        bench.namedPrograms = [](const QStringList &words) {
+            return std::vector<ProgramApproval>{{words.at(2), u"tor"_s, u"abcd"_s}};
+        };
+        bench.processes.answer =
+            [](const ScriptedRunner::Call &) -> Result<ProcessResult, StartError> {
+            return ProcessResult{3, {}, u"ERROR: An administrator password is needed.\n"_s};
+        };
+        QVERIFY(!bench.connect());
+        QCOMPARE(bench.helperRunCount(u"replace"_s), 1);
+        QCOMPARE(bench.helperRunCount(u"approve"_s), 0);
+        QCOMPARE(bench.controller().errorMessage().value(),
+                 u"An administrator password is needed."_s);
     }
 
     void aRefusalIsNotAskedForWithoutEnd()
@@ -331,7 +350,7 @@ private Q_SLOTS:
         bench.processes.answer =
             [answer](const ScriptedRunner::Call &call) -> Result<ProcessResult, StartError> {
             if (!call.arguments.contains(u"approve"_s))
-                return ProcessResult{3, {}, u"ERROR: An administrator password is needed.\n"_s};
+                return ProcessResult{4, {}, u"ERROR: An administrator password is needed.\n"_s};
             return answer(call);
         };
         QVERIFY(!bench.connect());
@@ -360,20 +379,20 @@ private Q_SLOTS:
             QStringList({u"--bundle"_s, archive}));
         bench.disconnect();
 
-        // Root does not believe it: the program is named to an administrator.
+        // Root does not accept the bundle, so an administrator has to approve the program.
         const auto answer = bench.processes.answer;
         bench.processes.answer =
             [answer](const ScriptedRunner::Call &call) -> Result<ProcessResult, StartError> {
             if (call.arguments.contains(u"--bundle"_s))
                 return ProcessResult{
-                    3, {}, u"ERROR: An administrator password is needed to approve it.\n"_s};
+                    4, {}, u"ERROR: An administrator password is needed to approve it.\n"_s};
             return answer(call);
         };
         QVERIFY(bench.connect());
         QCOMPARE(bench.helperRunCount(u"approve"_s), 1);
         QVERIFY(!bench.lastHelperRun(u"connect"_s).contains(u"--bundle"_s));
         QCOMPARE(bench.helperRuns().back().constFirst(), u"connect"_s);
-        QCOMPARE(bench.helperRunCount(u"replace"_s), 0); // no strict session is lessened
+        QCOMPARE(bench.helperRunCount(u"replace"_s), 0); // no strict session is weakened
         bench.disconnect();
 
         bench.cancelPrompt(u"approve"_s);

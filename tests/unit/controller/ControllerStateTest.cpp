@@ -74,7 +74,7 @@ private Q_SLOTS:
                         "terminalMode=true\nbridgeChoice=carrierPigeon\n");
         bench.restart();
         QCOMPARE(bench.controller().terminalMode(), true);
-        QVERIFY(!bench.terminal.isInstalled()); // setting it would install it
+        QVERIFY(!bench.terminal.isInstalled()); // a change of the setting would install it
         QCOMPARE(content(bench.profile.settingsFile),
                  "terminalMode=true\nbridgeChoice=carrierPigeon\n");
     }
@@ -142,7 +142,7 @@ private Q_SLOTS:
         QVERIFY(problem);
         QVERIFY2(problem->english().contains(u"settings"_s), qPrintable(problem->english()));
         QCOMPARE(bench.controller().errorMessage(), problem);
-        QCOMPARE(bench.controller().exitCountry(), u"de"_s); // it holds all the same
+        QCOMPARE(bench.controller().exitCountry(), u"de"_s); // the setting applies in memory
     }
 
     void titleAndSymbol_data()
@@ -276,13 +276,13 @@ private Q_SLOTS:
                  u"Tor didn't finish connecting within 5 minutes. (why)"_s);
     }
 
-    // The file is damaged while the program runs: each time it is kept under another name.
+    // The file is damaged while the program runs. Each damaged file is kept under another name.
     void aSettingTellsAllThatIsWrongWithItsFile()
     {
         Workbench bench;
         TorController &c = bench.controller();
         bench.writeFile(bench.profile.settingsFile, QByteArray("\0\xff=", 3));
-        bench.settings->setString(u"windows/main"_s, u"400x600+0+0"_s); // and nobody reads why
+        bench.settings->setString(u"windows/main"_s, u"400x600+0+0"_s); // no caller reads the error
         bench.writeFile(bench.profile.settingsFile, QByteArray("\1\xff=", 3));
         const auto told = c.autoConnect.set(true);
         QVERIFY(told);

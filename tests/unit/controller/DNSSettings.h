@@ -18,7 +18,7 @@ inline DNSResolver resolver(const QStringList &servers, std::optional<QString> d
 inline const std::vector<DNSResolver> throughTor = {
     resolver({QStringLiteral("127.0.0.1"), QStringLiteral("::1")})};
 
-// Two leaks, and how they are told.
+// Two leaks and their texts.
 inline const std::vector<DNSResolver> leaking = {
     resolver({QStringLiteral("192.168.1.1")}, {}, QStringLiteral("en0")),
     resolver({QStringLiteral("127.0.0.1"), QStringLiteral("10.8.0.1")}, QStringLiteral("corp"),

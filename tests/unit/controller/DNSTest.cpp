@@ -19,7 +19,7 @@ private:
         bench.tor.reply("SETEVENTS STREAM", "250 OK\r\n");
     }
 
-    // The name that the running live test has looked up.
+    // The name in the running live test's lookup.
     static QString lookedUp(int count)
     {
         return until([count] { return NameLookups::hosts().size() >= count; })
@@ -100,7 +100,7 @@ private Q_SLOTS:
         QVERIFY(Workbench::finished(checking));
         QVERIFY(bench.controller().dnsStatus() == DNSStatus::unverified());
         QVERIFY(!bench.controller().errorMessage());
-        QVERIFY(NameLookups::hosts().isEmpty()); // nobody would have seen it
+        QVERIFY(NameLookups::hosts().isEmpty()); // no listener would have seen the lookup
     }
 
     void everyTestHasANewName()
@@ -124,7 +124,7 @@ private Q_SLOTS:
         QVERIFY(passLiveTest(bench));
         QVERIFY(c.dnsStatus() == leak);
         QCOMPARE(c.title(), u"DNS Leak"_s);
-        // A leak stays on screen while it is tested again.
+        // A leak stays on the screen during the next test.
         NameLookups::clear();
         const auto again = c.checkDNS(true);
         QVERIFY(!lookedUp(1).isEmpty());
@@ -235,7 +235,7 @@ private Q_SLOTS:
         bench.clock.advance(1s);
         QVERIFY(Workbench::finished(checking));
         QCOMPARE(c.dnsStatus().name(), reconnects ? u"unverified"_s : u"unknown"_s);
-        // nor did the old test prove anything about this session
+        // the old test proves nothing about this session either
         const auto later = c.checkDNS(false);
         QVERIFY(Workbench::finished(later));
         QCOMPARE(c.dnsStatus().name(), reconnects ? u"unverified"_s : u"unknown"_s);

@@ -169,10 +169,10 @@ private Q_SLOTS:
                         : u"Apps that use system proxy settings go through Tor"_s);
         QCOMPARE(c.errorMessage(), dismissed ? std::nullopt : std::optional(u"Could not."_s));
         QVERIFY(QFile::exists(activeFile(bench)));
-        QVERIFY(c.exitIP()); // the session's results are still true
+        QVERIFY(c.exitIP()); // the session's results are still valid
 
         bench.setCounters("77", "88");
-        bench.clock.advance(std::chrono::seconds(2)); // the old loop ends, the new one reads
+        bench.clock.advance(std::chrono::seconds(2)); // the old loop ends; the new one reads
         QVERIFY(until([&] { return c.bytesRead() == 77; }));
         QCOMPARE(bench.commandCount(Workbench::countersCommand), 1);
         QVERIFY(!c.isChecking() && !c.isOptimizing());
@@ -194,7 +194,8 @@ private Q_SLOTS:
         QVERIFY(!bench.controller().errorMessage());
     }
 
-    // The helper restores what it can, removes the marker and then says what it could not.
+    // The helper restores what it can, removes the marker, and then names what it could not
+    // restore.
     void withoutTheMarkerNothingIsCalledConnected()
     {
         Workbench bench;
@@ -297,7 +298,7 @@ private Q_SLOTS:
 
     void aRefusalDuringTheChecksBeginsThemAgain_data()
     {
-        QTest::addColumn<bool>("first"); // those after connecting, with the optimisation to follow
+        QTest::addColumn<bool>("first"); // the checks after connecting, before the optimisation
         QTest::newRow("after connecting") << true;
         QTest::newRow("later") << false;
     }
@@ -310,7 +311,7 @@ private Q_SLOTS:
         c.optimizeSpeed.set(true);
         if (!first)
             QVERIFY(bench.connect());
-        // probes: that of the checks that are broken off, that of those that begin again
+        // slow probes: of the interrupted checks, and of the checks that follow
         int slow = first ? 2 : 1;
         bench.probe.beforeTorAnswer = [&bench, &slow] {
             return bench.clock.sleep(std::chrono::milliseconds(slow-- > 0 ? 1600 : 0));
@@ -327,7 +328,7 @@ private Q_SLOTS:
             bench.clock.advance(std::chrono::milliseconds(200));
             settle();
         }
-        // what was broken off is answered by now, and changes nothing
+        // the interrupted checks have their answers now and change nothing
         bench.clock.advance(std::chrono::milliseconds(1600));
         QVERIFY(Workbench::finished(checking));
         QVERIFY(!c.isChecking() && !c.isOptimizing());

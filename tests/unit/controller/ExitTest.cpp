@@ -6,7 +6,7 @@
 using namespace Qt::StringLiterals;
 using namespace veldmark;
 
-// What is shown of the exit is never that of circuits that Tor was told to leave.
+// The shown exit never belongs to circuits that Tor was told to leave.
 class ExitTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -31,7 +31,7 @@ private Q_SLOTS:
         QVERIFY(until([&] { return !c.isChecking(); }));
         QCOMPARE(c.exitIP().value(), u"203.0.113.20"_s);
         QVERIFY(c.torVerified().value());
-        // nobody is told the new exit and the real address at once
+        // the check service must not see the new exit and the real address together
         QCOMPARE(bench.probe.directProbes, direct);
     }
 
@@ -57,7 +57,7 @@ private Q_SLOTS:
             c.newIdentity();
         QVERIFY(until([&] { return c.isChecking(); }));
         const int probes = bench.probe.torProbes;
-        bench.probe.torAnswer = IPCheck{true, u"203.0.113.20"_s}; // of the next probe
+        bench.probe.torAnswer = IPCheck{true, u"203.0.113.20"_s}; // the next probe's answer
         QVERIFY(Workbench::finished(c.newIdentity()));
         bench.clock.advance(std::chrono::seconds(5)); // the old circuits' answer comes
         QVERIFY(until([&] { return bench.probe.torProbes == probes + 1; }));
@@ -67,7 +67,7 @@ private Q_SLOTS:
         QCOMPARE(c.exitIP().value(), u"203.0.113.20"_s);
     }
 
-    // The answer through Tor has come, and the look-ups are still being tested.
+    // The answer through Tor has arrived, and the DNS test still runs.
     void aNewIdentityDuringTheLookUpsIsAskedForToo()
     {
         Workbench bench;

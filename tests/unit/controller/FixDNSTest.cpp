@@ -100,7 +100,7 @@ private Q_SLOTS:
         bench.resolvers.answer = throughTor;
         const auto again = c.fixDNS();
         QVERIFY(Workbench::finished(again));
-        QVERIFY(!c.errorMessage()); // the old reason is over
+        QVERIFY(!c.errorMessage()); // the earlier error has gone
     }
 
     void fixesThatRunAtOnceShareOnePrompt()
@@ -122,7 +122,7 @@ private Q_SLOTS:
         bench.processes.release();
         QVERIFY(Workbench::finished(first) && Workbench::finished(second)
                 && Workbench::finished(third));
-        QVERIFY(!c.dnsStatus().isLeak()); // the check that follows was awaited by all
+        QVERIFY(!c.dnsStatus().isLeak()); // all calls waited for the check that follows
         QCOMPARE(bench.helperRunCount(u"fix-dns"_s), 1);
         QVERIFY(Workbench::finished(c.fixDNS())); // and a later one runs again
         QCOMPARE(bench.helperRunCount(u"fix-dns"_s), 2);

@@ -14,7 +14,7 @@ namespace {
 
 const QByteArray relay(40, 'A');
 
-// Brings the bench to the point at which an operation waits.
+// Brings the bench to a point where an operation waits.
 using Approach = std::function<bool(Workbench &bench)>;
 
 bool isHeld(Workbench &bench)
@@ -267,8 +267,8 @@ std::vector<Place> places()
 
 } // namespace
 
-// The controller goes while one of its operations waits. Whatever then comes to an end finds
-// nothing left to do. Most of what could go wrong here only a sanitizer sees.
+// The controller is destroyed while one of its operations waits. The coroutines that end afterwards
+// must not touch it. Most mistakes here are visible only under a sanitizer.
 class LifetimeTest : public QObject {
     Q_OBJECT
 private:
@@ -330,7 +330,8 @@ private Q_SLOTS:
         QCOMPARE(bench.clock.sleepers(), std::size_t(0));
     }
 
-    // An answer may be here already, and only wait for its turn, when everything goes.
+    // An answer may have arrived already, and wait for the event loop, when everything is
+    // destroyed.
     void orAtAnyTurnOfTheLoop_data()
     {
         QTest::addColumn<QString>("operation");
@@ -366,7 +367,7 @@ private Q_SLOTS:
             bench.controlPort.reset();
             bench.privileged.reset();
             bench.settings.reset();
-            settle(); // what had been sent before arrives
+            settle(); // earlier data arrive
             const auto calls = bench.processes.calls.size();
             const QStringList commands = bench.tor.commands();
             bench.clock.advance(1h);
@@ -379,8 +380,8 @@ private Q_SLOTS:
 
     void theProbesClockMayGoFirst()
     {
-        // As in the program itself: the probe ends its waits with an answer, and by then the clock
-        // has gone too.
+        // As in the program: the probe ends its waits with an answer when the clock is destroyed
+        // already.
         const ResumeOnce<bool> answer;
         Workbench bench;
         QVERIFY(bench.connect());

@@ -50,7 +50,7 @@ private Q_SLOTS:
             QCOMPARE(bench.controller().bytesRead(), quint64(1000));
             QCOMPARE(bench.controller().bytesWritten(), quint64(300));
         }
-        QVERIFY(bench.controller().phase() == Phase::connected); // they were answers all the same
+        QVERIFY(bench.controller().phase() == Phase::connected); // these were answers, too
     }
 
     void aMissingNetworkIsSaidAndTakenBackWithAnExitThatIsAskedForAgain()
@@ -63,12 +63,12 @@ private Q_SLOTS:
         QCOMPARE(c.title(), u"Protected"_s);
         bench.route = std::nullopt;
         QVERIFY(bench.tick());
-        QVERIFY(!c.stall()); // between two networks there is none for a moment
+        QVERIFY(!c.stall()); // between two networks there is no address for a moment
         QVERIFY(bench.tick());
         QVERIFY(c.stall() == TrafficWatch::Stall::noNetwork);
         QCOMPARE(c.title(), u"No Network"_s);
-        QVERIFY(!c.exitIP() && !c.torVerified()); // of before
-        // Meanwhile nobody answers a check.
+        QVERIFY(!c.exitIP() && !c.torVerified()); // the values from before have gone
+        // The check gets no answer meanwhile.
         bench.probe.torAnswer = ScriptedProbe::nothing();
         const auto checking = c.runChecks();
         QVERIFY(Workbench::finished(checking));
@@ -113,14 +113,14 @@ private Q_SLOTS:
         QVERIFY(!bench.controller().stall());
         QVERIFY(bench.connect());
         QVERIFY(bench.tick());
-        QVERIFY(!bench.controller().stall()); // another session begins without knowledge
+        QVERIFY(!bench.controller().stall()); // another session begins without this knowledge
     }
 
     void aFirewallThatBeginsToDenyIsNamedAsLongAsNothingGetsThrough()
     {
         Workbench bench;
         TorController &c = bench.controller();
-        bench.route = NetworkRoute{u"dev0"_s, true}; // and a VPN, of which is known less
+        bench.route = NetworkRoute{u"dev0"_s, true}; // and a VPN, which is the weaker explanation
         QVERIFY(bench.connect());
         QVERIFY(bench.tick());
         bench.writeFile(bench.profile.othersNote, "ufw\ntable ip filter\n");
@@ -132,15 +132,15 @@ private Q_SLOTS:
             QVERIFY(bench.tick());
         QVERIFY(c.stall() == TrafficWatch::Stall::firewall);
         const QString told
-            = u"Another firewall on this computer denies what goes out, so Tor can't connect: ufw, table ip filter."_s;
+            = u"Another firewall on this computer blocks outgoing traffic, so Tor can't connect: ufw, table ip filter."_s;
         QCOMPARE(c.verdict().detail, told);
         QCOMPARE(publishedState(c)[u"statusDetail"_s].toString(), told);
         QCOMPARE(publishedState(c)[u"stall"_s].toString(), u"firewall"_s);
-        // one of them goes
+        // one of the firewalls is removed
         bench.writeFile(bench.profile.othersNote, "ufw\n");
         QVERIFY(bench.tick());
         QCOMPARE(c.denyingFirewalls(), QStringList{u"ufw"_s});
-        // what was known outlives a disconnect that was refused
+        // the knowledge survives a refused disconnect
         bench.cancelPrompt(u"disconnect"_s);
         bench.disconnect();
         QVERIFY(c.phase() == Phase::connected);
@@ -149,6 +149,46 @@ private Q_SLOTS:
         bench.setCounters("9000", "200");
         QVERIFY(bench.tick());
         QVERIFY(!c.stall() && c.denyingFirewalls().isEmpty());
+    }
+
+    void aFirewallThatBeginsToDenyIsNamedWhenNoAnswerComesThroughTor()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        QVERIFY(bench.connect());
+        QVERIFY(until([&] { return c.torVerified() == true && !c.isChecking(); }));
+        QVERIFY(bench.tick());
+        bench.probe.torAnswer = ScriptedProbe::nothing(); // Tor reports a circuit all the same
+        QVERIFY(bench.tick());
+        QVERIFY(c.exitIP() && !c.stall()); // nobody has asked
+        bench.writeFile(bench.profile.othersNote, "table ip filter\n");
+        QVERIFY(bench.tick());
+        QVERIFY(!c.exitIP()); // of before
+        QVERIFY(until([&] { return !c.isChecking(); }));
+        QVERIFY(bench.tick());
+        QVERIFY(c.stall() == TrafficWatch::Stall::firewall);
+        QCOMPARE(c.denyingFirewalls(), QStringList{u"table ip filter"_s});
+        QVERIFY(bench.tick());
+        QVERIFY(c.stall() == TrafficWatch::Stall::firewall); // also while the exit is unknown
+        // It lets something through: that is asked each half minute.
+        bench.probe.torAnswer = IPCheck{true, u"203.0.113.9"_s};
+        for (int tick = 0; tick < 16; ++tick)
+            QVERIFY(bench.tick());
+        QVERIFY(until([&] { return !c.isChecking(); }));
+        QVERIFY(bench.tick());
+        QVERIFY(!c.stall() && c.denyingFirewalls().isEmpty());
+        QVERIFY(until([&] { return c.torVerified() == true && !c.isChecking(); }));
+        QCOMPARE(c.title(), u"Protected"_s);
+        // It goes while nothing got through.
+        bench.probe.torAnswer = ScriptedProbe::nothing();
+        bench.writeFile(bench.profile.othersNote, "ufw\n");
+        QVERIFY(bench.tick());
+        QVERIFY(until([&] { return !c.isChecking(); }));
+        QVERIFY(bench.tick());
+        QVERIFY(c.stall() == TrafficWatch::Stall::firewall);
+        bench.writeFile(bench.profile.othersNote, "");
+        QVERIFY(bench.tick());
+        QVERIFY(!c.stall());
     }
 
     void aFirewallThatHasLetTorConnectIsNotBlamed()
@@ -181,7 +221,22 @@ private Q_SLOTS:
         QCOMPARE(bench.commandCount("SETCONF DisableNetwork=0"), 1);
     }
 
-    // It has taken the first command, and would stay without a network.
+    // The monitor has not looked yet, in this session or in the next one.
+    void aMoveRightAfterTheConnectIsSeen()
+    {
+        Workbench bench;
+        acceptNetworkCommands(bench);
+        for (int session = 1; session <= 2; ++session) {
+            bench.ownAddresses = {QHostAddress(u"192.0.2.7"_s)};
+            QVERIFY(bench.connect());
+            bench.ownAddresses = {QHostAddress(u"198.51.100.7"_s)};
+            QVERIFY(bench.tick());
+            QCOMPARE(bench.commandCount("SETCONF DisableNetwork=1"), session);
+            bench.disconnect();
+        }
+    }
+
+    // Tor has accepted the first command, and would stay without a network.
     void torIsGivenItsNetworkUntilItTakesIt()
     {
         Workbench bench;
@@ -196,7 +251,7 @@ private Q_SLOTS:
             QCOMPARE(bench.commandCount("SETCONF DisableNetwork=0"), times);
             QVERIFY(!bench.controller().torVerified()); // nothing is claimed meanwhile
             QVERIFY(bench.controller().errorMessage().value_or(QString()).english().contains(
-                u"hasn't confirmed that it is on the network"_s));
+                u"hasn't confirmed that it uses the network"_s));
         }
         QCOMPARE(bench.commandCount("SETCONF DisableNetwork=1"), 1);
         bench.tor.reply("SETCONF DisableNetwork=0", "250 OK\r\n");
@@ -207,7 +262,7 @@ private Q_SLOTS:
         QCOMPARE(bench.commandCount("SETCONF DisableNetwork=0"), 5);
     }
 
-    // It hides nothing that went wrong, and no operation failed because of it.
+    // The notice replaces no error message, and counts as no operation's failure.
     void thatTorHasNoNetworkIsNoFailureOfAnOperation()
     {
         Workbench bench;
@@ -219,7 +274,7 @@ private Q_SLOTS:
         bench.ownAddresses = {QHostAddress(u"198.51.100.7"_s)};
         QVERIFY(bench.tick());
         QVERIFY(c.errorMessage().value_or(Text()).english().contains(
-            u"hasn't confirmed that it is on the network"_s));
+            u"hasn't confirmed that it uses the network"_s));
         QVERIFY(!c.failure());
         c.showProblem(u"Something else."_s);
         QCOMPARE(c.failure().value_or(QString()), u"Something else."_s);
@@ -260,9 +315,9 @@ private Q_SLOTS:
         QCOMPARE(c.errorMessage().value(), message);
         QCOMPARE(c.title(), u"Needs Attention"_s);
         QVERIFY(c.activeMode() == (strict ? RoutingMode::strict : RoutingMode::proxy));
-        QVERIFY(bench.hasMarker()); // nothing is torn down
+        QVERIFY(bench.hasMarker()); // the session continues
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 0);
-        // the loop has ended, the watch over the rules goes on
+        // the loop has ended; the rule watch goes on
         QCOMPARE(bench.clock.sleepers(), std::size_t(1));
     }
 
@@ -335,7 +390,7 @@ private Q_SLOTS:
         QVERIFY(bench.tick());
         QCOMPARE(bench.commandCount(off), 1);
         QCOMPARE(bench.commandCount(on), 1);
-        // asked afresh
+        // asked again
         QVERIFY(until([&] { return c.torVerified().value_or(false) && c.exitIP(); }));
         QVERIFY(bench.tick());
         QCOMPARE(bench.commandCount(off), 1);
@@ -481,7 +536,8 @@ private Q_SLOTS:
         QCOMPARE(bench.probe.torProbes, 1); // no optimisation
     }
 
-    // It has taken the first command, and the monitor that knows begins anew with the session.
+    // Tor has accepted the first command, and the monitor that knows this starts again with the
+    // session.
     void aRefusedDisconnectDoesNotForgetThatTorHasNoNetwork()
     {
         Workbench bench;
@@ -492,17 +548,17 @@ private Q_SLOTS:
         bench.ownAddresses = {QHostAddress(u"198.51.100.7"_s)};
         QVERIFY(bench.tick());
         QVERIFY(bench.controller().errorMessage().value_or(QString()).english().contains(
-            u"hasn't confirmed that it is on the network"_s));
+            u"hasn't confirmed that it uses the network"_s));
         bench.cancelPrompt(u"disconnect"_s);
         bench.disconnect();
         QVERIFY(bench.controller().phase() == Phase::connected);
         QVERIFY(bench.tick());
         QCOMPARE(bench.commandCount("SETCONF DisableNetwork=0"), 2);
         QVERIFY(bench.controller().errorMessage().value_or(QString()).english().contains(
-            u"hasn't confirmed that it is on the network"_s));
+            u"hasn't confirmed that it uses the network"_s));
     }
 
-    // Nothing got through before the prompt, and nothing does after it.
+    // Tor carries no traffic before the prompt, nor after it.
     void aRefusedDisconnectDoesNotForgetThatNothingGetsThrough()
     {
         Workbench bench;
@@ -526,7 +582,7 @@ private Q_SLOTS:
         QVERIFY(!c.stall());
     }
 
-    // They have asked while nothing got through, and nobody has answered.
+    // The checks ran while Tor carried no traffic, and got no answer.
     void checksUnderWayWhenTrafficFlowsAgainAskOnceMore()
     {
         Workbench bench;

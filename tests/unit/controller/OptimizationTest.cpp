@@ -11,13 +11,13 @@ using Phase = ConnectionPhase;
 class OptimizationTest : public QObject {
     Q_OBJECT
 private:
-    // Every probe through Tor takes this long.
+    // The duration of every probe through Tor.
     static void answerAfter(Workbench &bench, std::chrono::milliseconds duration)
     {
         bench.probe.beforeTorAnswer = [&bench, duration] { return bench.clock.sleep(duration); };
     }
 
-    // Lets time pass until the operation is through; gives back how long it took.
+    // Lets time pass until the operation has ended; returns its duration.
     static std::chrono::milliseconds run(Workbench &bench, const QCoro::Task<void> &task)
     {
         const auto start = bench.clock.now();
@@ -125,7 +125,7 @@ private Q_SLOTS:
             expected << u"Testing speed (%1 of 4)…"_s.arg(round) << text;
         QCOMPARE(texts, expected << u"-"_s);
         QCOMPARE(bench.commandCount("SIGNAL NEWNYM"), 3);
-        QCOMPARE(c.latencyMs().value(), qint64(0)); // that of the checks
+        QCOMPARE(c.latencyMs().value(), qint64(0)); // the checks' probe
         QVERIFY(!c.isOptimizing() && !c.errorMessage());
     }
 
@@ -218,7 +218,7 @@ private Q_SLOTS:
         const auto optimizing = c.optimizeCircuits();
         run(bench, optimizing);
         QVERIFY(optimizing.isReady() && !c.exitIP());
-        QVERIFY(c.torVerified() == false); // asked, and not answered
+        QVERIFY(c.torVerified() == false); // asked without an answer
         QCOMPARE(c.title(), u"Needs Attention"_s);
     }
 };

@@ -1,7 +1,7 @@
 #include "support/OtherSession.h"
+#include "controller/NetworkRestorer.h"
 #include "controller/PublishedState.h"
 #include "controller/SessionWatch.h"
-#include "controller/Withdrawal.h"
 #include "support/TestProgram.h"
 #include "support/Workbench.h"
 
@@ -16,12 +16,12 @@ using namespace veldmark;
 using Phase = ConnectionPhase;
 
 namespace {
-constexpr uid_t daemonUser = 1; // every system's
+constexpr uid_t daemonUser = 1; // exists on every system
 const QString leftOver = u"Your network is still set up for Tor from an earlier session"_s;
 } // namespace
 
-// The session of another process, of the same user or another: it is shown as what it is, and
-// neither replaced nor ended without having been asked to.
+// The session of another process, of the same or another user. It is shown as such, and neither
+// replaced nor ended without a request.
 class OtherSessionTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -59,8 +59,7 @@ private Q_SLOTS:
         QCOMPARE(published.value(u"process"_s).toInteger(), other.process());
     }
 
-    // Under the password-free rule a program of the user's can do that in a moment; nobody is the
-    // owner then.
+    // By the password-free rule any program of the user can do that; the session then has no owner.
     void oneBegunByHandInPlaceOfOursIsNotTakenForOurs()
     {
         Workbench bench;
@@ -80,7 +79,7 @@ private Q_SLOTS:
         QVERIFY(!c.otherSession());
         QCOMPARE(
             c.errorMessage().value_or(QString()),
-            u"Another program has ended this session and begun one of its own. Restore Network ends that one."_s);
+            u"Another program has ended this session and started its own. Restore Network ends that session."_s);
         QVERIFY(c.title() != u"Protected"_s);
     }
 
@@ -152,15 +151,15 @@ private Q_SLOTS:
         OtherSession other(bench.profile);
         TorController &c = bench.controller();
         c.detectStaleState();
-        Withdrawal withdrawal(c);
-        QSignalSpy finished(&withdrawal, &Withdrawal::finished);
-        withdrawal.begin();
+        NetworkRestorer restorer(c);
+        QSignalSpy finished(&restorer, &NetworkRestorer::finished);
+        restorer.begin();
         QVERIFY(until([&] { return finished.count() == 1; }));
         QCOMPARE(finished.at(0).at(0).toBool(), true);
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 0);
         QVERIFY(bench.hasMarker());
-        other.end(); // then it is left over, and the next one that ends restores it
-        withdrawal.begin();
+        other.end(); // then it is a leftover, and the next disconnect restores it
+        restorer.begin();
         QVERIFY(until([&] { return finished.count() == 2; }));
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 1);
         QVERIFY(!bench.hasMarker());
@@ -170,11 +169,11 @@ private Q_SLOTS:
     {
         Workbench bench;
         QVERIFY(bench.connect());
-        // by an administrator's word; this one has not seen it yet
+        // by an administrator's approval; this instance has not seen it yet
         OtherSession other(bench.profile, daemonUser);
-        Withdrawal withdrawal(bench.controller());
-        QSignalSpy finished(&withdrawal, &Withdrawal::finished);
-        withdrawal.begin();
+        NetworkRestorer restorer(bench.controller());
+        QSignalSpy finished(&restorer, &NetworkRestorer::finished);
+        restorer.begin();
         QVERIFY(until([&] { return finished.count() == 1; }));
         QCOMPARE(finished.at(0).at(0).toBool(), true);
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 0);
@@ -189,14 +188,14 @@ private Q_SLOTS:
         Workbench bench;
         TorController &c = bench.controller();
         QVERIFY(bench.connect());
-        OtherSession other(bench.profile, user); // this one has not seen it yet
+        OtherSession other(bench.profile, user); // this instance has not seen it yet
         bench.disconnect();
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 0);
         QVERIFY(bench.hasMarker());
         QVERIFY(c.phase() == Phase::stale && c.otherSession());
         QVERIFY2(c.errorMessage().value_or(QString()).english().contains(u"Disconnect again"_s),
                  qPrintable(c.errorMessage().value_or(QString()).english()));
-        bench.disconnect(); // now it is meant
+        bench.disconnect(); // now the request is meant
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 1);
         QVERIFY(c.phase() == Phase::disconnected);
     }
@@ -208,7 +207,7 @@ private Q_SLOTS:
         QVERIFY(bench.connect());
         SessionWatch watch(c);
         OtherSession other(bench.profile, daemonUser);
-        // before any tick of the monitor's
+        // before any tick of the monitor
         QVERIFY(until([&] { return c.phase() == Phase::stale; }));
         QVERIFY(c.otherSession() && !c.exitIP() && !c.torVerified());
     }
@@ -235,7 +234,7 @@ private Q_SLOTS:
         Workbench bench;
         OtherSession other(bench.profile);
         bench.terminal.setActive(true);
-        // as "veldmarkctl set" does, which looks at no session
+        // like "veldmarkctl set", which reads no session
         bench.controller().setTerminalMode(true);
         bench.controller().setTerminalMode(false);
         QVERIFY(QFile::exists(bench.profile.terminalDirectory + u"/active"_s));
@@ -277,24 +276,24 @@ private Q_SLOTS:
         QVERIFY(until([&] { return bench.processes.held() == 1; }));
         bench.failHelper(
             u"disconnect"_s,
-            u"Another program (process 7) has begun a session since. It was left alone."_s);
+            u"Another program (process 7) has started a session meanwhile. That session was left alone."_s);
         OtherSession other(bench.profile, daemonUser);
         bench.processes.release();
         QVERIFY(Workbench::finished(ending));
         QVERIFY(c.phase() == Phase::stale);
         QVERIFY(c.otherSession());
         QVERIFY(c.errorMessage().value().english().startsWith(
-            u"Another user's Veldmark has begun a session since"_s));
+            u"Another user's Veldmark has started a session meanwhile"_s));
         QVERIFY(!c.exitIP() && !c.torVerified());
         bench.clock.advance(std::chrono::seconds(2)); // former loops wake once more
         settle();
-        QCOMPARE(bench.clock.sleepers(), std::size_t(1)); // its rules are watched, and nothing else
+        QCOMPARE(bench.clock.sleepers(), std::size_t(1)); // only its rules are watched
     }
 
     void isNotTheOneThatAnIdleProgramWasToldToEnd()
     {
         Workbench bench;
-        OtherSession other(bench.profile); // this one has not seen it yet
+        OtherSession other(bench.profile); // this instance has not seen it yet
         bench.disconnect();
         QCOMPARE(bench.helperRunCount(u"disconnect"_s), 0);
         QVERIFY(bench.controller().otherSession());
@@ -331,7 +330,8 @@ private Q_SLOTS:
         QVERIFY(until([&] { return c.otherSession().has_value(); }));
         QVERIFY(c.phase() == Phase::stale);
         QVERIFY(c.statusDetail().english().contains(u"daemon"_s));
-        QVERIFY(!c.errorMessage()); // it told of a kill switch that is another session's by now
+        QVERIFY(!c.errorMessage()); // the message was about a kill switch that belongs to another
+                                    // session now
     }
 
     void nothingOfTheReplacedSessionIsSaidOfIt_data()
@@ -371,7 +371,7 @@ private Q_SLOTS:
         bench.noteRules("open", 1);
         bench.clock.advance(std::chrono::seconds(2));
         QVERIFY(c.errorMessage().value().english().contains(u"firewall rules"_s));
-        // its own runs
+        // this session's own Tor runs
         QVERIFY(!c.errorMessage().value().english().contains(u"Tor stopped running"_s));
     }
 
@@ -387,7 +387,7 @@ private Q_SLOTS:
         OtherSession other(bench.profile);
         c.lookAtSession();
         QVERIFY(c.otherSession());
-        QVERIFY(!c.errorMessage()); // it was about what is there no more
+        QVERIFY(!c.errorMessage()); // the message was about a session that has gone
         QVERIFY(c.activeMode() == RoutingMode::strict);
     }
 
@@ -396,13 +396,13 @@ private Q_SLOTS:
         Workbench bench;
         QVERIFY(bench.connect());
         bench.removeMarker();
-        bench.controller().lookAtSession(); // what Tor's death comes to is the monitor's to tell
+        bench.controller().lookAtSession(); // the monitor, not this call, reports Tor's end
         QVERIFY(bench.controller().phase() == Phase::connected);
     }
 
     void theWatchSeesItComeAndGo()
     {
-        Workbench bench; // where there was never a session, and no folder for the marker
+        Workbench bench; // the marker's folder doesn't exist before the first session
         TorController &c = bench.controller();
         SessionWatch watch(c);
         {
@@ -414,7 +414,7 @@ private Q_SLOTS:
         }
         OtherSession next(bench.profile, daemonUser);
         QVERIFY(until([&] { return c.otherSession().has_value(); }));
-        next.end(); // without a word
+        next.end(); // without a message
         QVERIFY(until([&] { return !c.otherSession(); }));
         QCOMPARE(c.statusDetail(), leftOver);
     }

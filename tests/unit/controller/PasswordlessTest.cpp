@@ -59,7 +59,7 @@ private Q_SLOTS:
     void alwaysAsksForSettingItUp()
     {
         Workbench bench;
-        install(bench); // although it could do without
+        install(bench); // although no password is needed
         const auto installing = bench.controller().installPasswordless();
         QVERIFY(Workbench::finished(installing));
         QCOMPARE(bench.processes.calls.back().executable, bench.profile.promptProgram);

@@ -40,7 +40,7 @@ private Q_SLOTS:
         for (const QString &field : fields)
             QVERIFY2(state.contains(field), qPrintable(field));
         QCOMPARE(state.size(), fields.size());
-        // And each is a field that says when it changes.
+        // Each field has a change signal.
         const QStringList derived = {u"title"_s, u"menuBarSymbol"_s, u"level"_s,
                                      u"killSwitchSince"_s};
         for (const QString &field : fields)
@@ -77,7 +77,7 @@ private Q_SLOTS:
         c.bridgeChoice.set(BridgeChoice::custom);
         c.customBridges.set(u"192.0.2.1:443"_s);
         QVERIFY(bench.connect());
-        bench.setCounters("9007199254740993", "2"); // more than a double can tell exactly
+        bench.setCounters("9007199254740993", "2"); // more than a double can represent exactly
         QVERIFY(bench.tick());
         const QJsonObject state = publishedState(c);
         QCOMPARE(state.value(u"phase"_s), QJsonValue(u"connected"_s));
@@ -101,6 +101,26 @@ private Q_SLOTS:
         QVERIFY(state.value(u"transports"_s).toObject().value(u"webtunnel"_s).isNull());
     }
 
+    // Another failure, or a dismissed message, is not explained by it.
+    void theCauseOfAFailedBootstrapGoesWithItsMessage()
+    {
+        Workbench bench;
+        TorController &c = bench.controller();
+        const auto cause = [&c] { return publishedState(c).value(u"bootstrapProblem"_s); };
+        bench.setBootstrap("PROGRESS=1 WARNING=\"Connection refused\"");
+        const auto connecting = c.connect();
+        QVERIFY(until([&] { return c.bootstrapProblem() && bench.clock.sleepers() == 2; }));
+        QCOMPARE(cause(), QJsonValue(u"Tor reports: Connection refused."_s));
+        bench.clock.advance(std::chrono::minutes(5));
+        QVERIFY(Workbench::finished(connecting));
+        QVERIFY(c.phase() == ConnectionPhase::stale);
+        QCOMPARE(cause(), QJsonValue(u"Tor reports: Connection refused."_s));
+        bench.failHelper(u"disconnect"_s, u"Could not."_s);
+        QVERIFY(Workbench::finished(c.disconnect()));
+        QCOMPARE(publishedState(c).value(u"errorMessage"_s), QJsonValue(u"Could not."_s));
+        QVERIFY2(cause().isNull(), qPrintable(cause().toString()));
+    }
+
     void hasItsTextsForOtherLanguages()
     {
         Workbench bench;
@@ -111,7 +131,7 @@ private Q_SLOTS:
         const QJsonObject texts = publishedTexts(c);
         QCOMPARE(texts.keys(), (QStringList{u"errorMessage"_s, u"statusDetail"_s, u"title"_s}));
         for (const QString &key : texts.keys()) {
-            // no words that nobody can translate
+            // no untranslatable text
             QVERIFY2(texts.value(key).isObject(), qPrintable(key));
             QCOMPARE(state.value(key), QJsonValue(Text::fromJson(texts.value(key)).english()));
         }
@@ -131,7 +151,7 @@ private Q_SLOTS:
         QCOMPARE(inUsersLanguage(state, texts), state); // in English again
         QJsonObject kept = state;
         kept.insert(u"title"_s, QJsonValue::Null);
-        QCOMPARE(inUsersLanguage(kept, texts), kept); // a text that the state holds back
+        QCOMPARE(inUsersLanguage(kept, texts), kept); // a text that the state omits
     }
 
     void soAreItsListsOfTexts()
@@ -193,7 +213,7 @@ private Q_SLOTS:
         QTest::newRow("bridges") << u"customBridges"_s << u"a\nb"_s << QJsonValue(u"a\nb"_s);
         QTest::newRow("list") << u"bypassApps"_s
                               << u"[\"/b.desktop\", \"/a.desktop\", \"/b.desktop\"]"_s
-                              // sorted, each once
+                              // sorted, without duplicates
                               << QJsonValue(QJsonArray{u"/a.desktop"_s, u"/b.desktop"_s});
         QTest::newRow("list with a program")
             << u"bypassApps"_s << u"[\"/a.desktop\", \"/usr/bin/b\"]"_s << refused;
@@ -326,7 +346,7 @@ private Q_SLOTS:
         QVERIFY(publishedState(c).value(name) != before);
     }
 
-    // As in the windows: what was found out about a session is not true of what is left of it.
+    // As in the windows, check results are valid only while connected.
     void nothingOfADeadSessionIsClaimed()
     {
         Workbench bench;

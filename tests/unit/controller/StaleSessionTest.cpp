@@ -15,7 +15,7 @@ QCoro::Task<std::optional<ConnectTime>> silence()
 }
 } // namespace
 
-// What an earlier run has left behind, and connecting by itself at start-up.
+// The leftovers of an earlier run, and the automatic connect at start-up.
 class StaleSessionTest : public QObject {
     Q_OBJECT
 private:
@@ -190,7 +190,7 @@ private Q_SLOTS:
             c.activeMode()
             == (markerStays ? routingModeFromRawValue(QString::fromLatin1(word)) : std::nullopt));
         QCOMPARE(c.errorMessage(), dismissed ? std::nullopt : std::optional(u"Could not."_s));
-        // only the rules are watched; an old watch wakes once more
+        // only the rules are watched; an earlier watch wakes once more
         QCOMPARE(bench.clock.sleepers(), std::size_t(markerStays ? 2 : 1));
     }
 
@@ -234,7 +234,7 @@ private Q_SLOTS:
     {
         Workbench bench;
         bench.controller().autoConnect.set(true);
-        bench.writeMarker("strict"); // came after the look at start-up
+        bench.writeMarker("strict"); // appeared after the check at start-up
         const auto starting = bench.controller().autoConnectIfEnabled();
         QVERIFY(Workbench::finished(starting));
         QVERIFY(bench.processes.calls.empty());

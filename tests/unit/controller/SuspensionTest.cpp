@@ -33,7 +33,7 @@ QCoro::Task<TransportDownloader::Outcome> slowInstall(ManualClock *clock,
     co_return InstalledBundle{u"14.0.4"_s, false};
 }
 
-// The operation alone, whatever it answers.
+// Runs the operation and ignores its answer.
 template <typename T> QCoro::Task<void> inWords(QCoro::Task<T> task)
 {
     co_await task;
@@ -47,13 +47,13 @@ QCoro::Task<void> quitLater(Workbench *bench)
 
 const QString listening = u"SETEVENTS STREAM"_s;
 
-// Tor tells which names it is asked for, so that the live test of DNS runs to its end.
+// Tor reports the names in its lookups, so the live DNS test runs to its end.
 void hearLookups(Workbench &bench)
 {
     bench.tor.reply(listening.toUtf8(), "250 OK\r\n");
 }
 
-// Everything that an operation may wait for waits here: no answer is there at once.
+// Everything that an operation may wait for does wait: no answer is immediate.
 void slowDown(Workbench &bench)
 {
     bench.probe.beforeTorAnswer = [&bench] { return pause(&bench.clock); };
@@ -74,8 +74,8 @@ struct Operation {
     const char *name;
     bool isConnected; // begins in a session
     std::function<QCoro::Task<void>(Workbench &bench)> begin;
-    int leastWaits;                             // fewer would mean that nothing was tried
-    std::function<bool(Workbench &)> succeeded; // when nobody interrupts it
+    int leastWaits;                             // fewer would mean that the test tried nothing
+    std::function<bool(Workbench &)> succeeded; // without an interruption
 };
 
 std::vector<Operation> operations()
@@ -207,8 +207,8 @@ std::vector<Operation> operations()
 
 InterruptibleApplication *application = nullptr;
 
-// Lets the operation go on, and time pass for it, until it has ended or was interrupted.
-// `listened`: how often Tor had been asked to tell its events when it began.
+// Lets the operation continue and its time pass until it has ended or was interrupted.
+// `listened`: the number of event subscriptions when it began.
 bool goOn(Workbench &bench, const QCoro::Task<void> &task, const bool &interrupted,
           qsizetype listened)
 {
@@ -228,9 +228,9 @@ bool goOn(Workbench &bench, const QCoro::Task<void> &task, const bool &interrupt
 
 } // namespace
 
-// For each operation and each of its waits: the controller goes right before the coroutine is
-// resumed, with what it was given, or right after that, alone. Whatever then comes to an end finds
-// nothing left to do. Most of what could go wrong only a sanitizer sees.
+// For each operation and each of its waits, the controller is destroyed right before the coroutine
+// is resumed, together with its parts, or right afterwards, alone. The coroutines that end later
+// must not touch it. Most mistakes are visible only under a sanitizer.
 class SuspensionTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -277,7 +277,7 @@ private Q_SLOTS:
                 QVERIFY2(wait > operation.leastWaits, qPrintable(u"only %1 waits"_s.arg(wait - 1)));
                 break;
             }
-            settle(); // what had been sent before arrives
+            settle(); // earlier data arrive
             const auto calls = bench.processes.calls.size();
             const QStringList commands = bench.tor.commands();
             const int probes = bench.probe.torProbes + bench.probe.directProbes;
@@ -297,7 +297,7 @@ private Q_SLOTS:
         }
     }
 
-    // The same for the monitor's own turns, which have no end.
+    // The same for the turns of the monitor, which never ends by itself.
     void theControllerMayGoAtEveryTurnOfTheMonitor()
     {
         for (const Moment moment : {Moment::before, Moment::after}) {

@@ -9,8 +9,7 @@
 using namespace Qt::StringLiterals;
 using namespace veldmark;
 
-// Terminal mode as the controller applies it, on a computer whose netcat takes its time to say what
-// it can do.
+// The controller applies terminal mode on a computer whose netcat is slow to print its options.
 class TerminalModeTest : public QObject {
     Q_OBJECT
 

@@ -13,11 +13,11 @@ namespace {
 const Outcome verified = InstalledBundle{u"14.0.4"_s, true};
 const Outcome unverified = InstalledBundle{u"14.0.4"_s, false};
 
-// A downloader that says what it is told to say, and ends when it is let go.
+// A downloader with given messages, which ends when the test releases it.
 struct Downloader {
     Outcome outcome = verified;
     QStringList lines;                    // its progress
-    std::vector<bool> throughTor;         // of each call
+    std::vector<bool> throughTor;         // the arguments of each call
     std::optional<ResumeOnce<bool>> gate; // none: it ends at once
     TransportDownloader::Progress lastProgress;
 
@@ -100,7 +100,7 @@ private Q_SLOTS:
         downloader.serve(bench);
         const auto task = bench.controller().downloadTransports();
         QVERIFY(Workbench::finished(task));
-        QVERIFY(result(task)); // it is installed all the same
+        QVERIFY(result(task)); // it is installed anyway
         QCOMPARE(
             bench.controller().transportDownload().value(),
             u"Bridge programs 14.0.4 installed over HTTPS. Install GnuPG (%1) and download again to also verify the "
@@ -124,7 +124,7 @@ private Q_SLOTS:
         QCOMPARE(bench.searches, searches); // nothing new to find
         QVERIFY(c.canDownloadTransports());
 
-        downloader.outcome = verified; // the next download takes the old word back
+        downloader.outcome = verified; // the next download clears the earlier message
         QVERIFY(Workbench::finished(c.downloadTransports()));
         QVERIFY(!c.transportDownload());
     }
@@ -231,7 +231,8 @@ private Q_SLOTS:
         downloader.serve(bench);
         const auto task = bench.controller().downloadTransports();
         bench.end();
-        downloader.lastProgress(u"Installing…"_s); // whom it told has gone
+        downloader.lastProgress(u"Installing…"_s); // the receiver of the progress has been
+                                                   // destroyed
         downloader.gate->complete(true);
         QVERIFY(Workbench::finished(task));
         QVERIFY(!result(task));
@@ -259,7 +260,7 @@ private Q_SLOTS:
         QCOMPARE(cancels, 1);
         QVERIFY(until([&] { return bench.processes.held() == 1; }));
         settle();
-        // nothing goes on while Tor is on its way
+        // no download continues while Tor starts
         QCOMPARE(downloader.throughTor.size(), std::size_t(1));
         QCOMPARE(c.transportDownload().value(),
                  u"The download begins again when Tor is connected…"_s);

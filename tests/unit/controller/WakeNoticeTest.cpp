@@ -18,7 +18,7 @@ class WakeNoticeTest : public QObject {
     SessionBus bus;
     std::optional<QDBusConnection> login;
 
-    // As logind says it before a sleep and after it.
+    // logind's signals before and after a sleep.
     void prepareForSleep(bool begins)
     {
         QDBusMessage signal = QDBusMessage::createSignal(u"/org/freedesktop/login1"_s,

@@ -1,4 +1,5 @@
 #include "TestMachine.h"
+#include "support/OtherSession.h"
 #include "support/TestProgram.h"
 
 #include <QTest>
@@ -10,7 +11,7 @@ namespace {
 
 constexpr auto bundleFolder = "home/user/.local/share/veldmark/TorExpertBundle";
 
-// What is done to a computer on which a connect works, and what is to be found then.
+// A change of a computer on which a connect works, and the expected finding.
 struct Case {
     const char *title;
     std::function<void(TestMachine &)> change;
@@ -26,8 +27,8 @@ void addHolder(TestMachine &m, const QByteArray &name, uid_t user, const QByteAr
     m.process(812, name, user, unit);
 }
 
-// obfs4 bridges whose program lies in a downloaded bundle, with or without what root verifies it
-// by.
+// obfs4 bridges whose program is in a downloaded bundle, with or without the files that root
+// verifies it with.
 void useBundle(TestMachine &m, bool isKept)
 {
     const QByteArray folder = QByteArray("/") + bundleFolder;
@@ -46,7 +47,7 @@ void useBundle(TestMachine &m, bool isKept)
         false};
 }
 
-// With ufw's own files, as Debian's package brings them, and these rules of the user's.
+// ufw with the files of Debian's package and these rules of the user.
 void makeUfwDeny(TestMachine &m, const QByteArray &rules)
 {
     m.write("/etc/ufw/ufw.conf", "ENABLED=yes\n");
@@ -78,7 +79,32 @@ const std::vector<Case> &cases()
          "tor", Level::good, "Tor 0.4.6.12 is installed", nullptr},
         {"a location of tor that is no program",
          [](TestMachine &m) { m.machine.customTor = QStringLiteral("/opt/none/tor"); }, "tor",
-         Level::note, "/opt/none/tor, is no program", "veldmarkctl set customTorPath \"\""},
+         Level::note, "/opt/none/tor, is not an executable program",
+         "veldmarkctl set customTorPath \"\""},
+        {"a location of tor that is no whole path, which a connect refuses",
+         [](TestMachine &m) { m.machine.customTor = QStringLiteral(" bin/tor "); }, "tor",
+         Level::problem, "\"bin/tor\" is not a location of Tor",
+         "veldmarkctl set customTorPath \"\""},
+        {"a tor of the user's",
+         [](TestMachine &m) {
+             m.program("/home/user/tor", "another\n");
+             m.machine.customTor = m.at("/home/user/tor");
+         },
+         "tor", Level::note,
+         "installed ROOT/home/user/tor. The next connect asks an administrator to approve it",
+         nullptr},
+        {"a tor of the user's that was approved",
+         [](TestMachine &m) {
+             m.program("/home/user/tor", "another\n");
+             m.approve("another\n", "tor");
+             m.machine.customTor = m.at("/home/user/tor");
+         },
+         "tor", Level::good, "is installed: ROOT/home/user/tor.", nullptr},
+        {"an exit country that no window would set",
+         [](TestMachine &m) { m.machine.exitCountry = QStringLiteral("DE"); }, "exit",
+         Level::problem, "Invalid exit country", "veldmarkctl set exitCountry \"\""},
+        {"an exit country", [](TestMachine &m) { m.machine.exitCountry = QStringLiteral("de"); },
+         "tor", Level::good, "is installed", nullptr},
         {"Debian's own service",
          [](TestMachine &m) { addHolder(m, "tor", 108, "system-tor.slice/tor@default.service"); },
          "ports", Level::note, "(tor@default.service) runs. Veldmark stops it", nullptr},
@@ -135,7 +161,7 @@ const std::vector<Case> &cases()
              m.remove("/sys/module/nf_tables");
              m.write("/lib/modules/6.1.0-18-amd64/modules.dep", "kernel/fs/ext4.ko:\n");
          },
-         "nftables", Level::problem, "The kernel that runs (6.1.0-18-amd64) has no nftables",
+         "nftables", Level::problem, "The running kernel (6.1.0-18-amd64) has no nftables",
          "sudo reboot"},
         {"a kernel that could load nftables",
          [](TestMachine &m) {
@@ -145,7 +171,7 @@ const std::vector<Case> &cases()
          },
          "nftables", Level::good, "the kernel has it", nullptr},
         {"a kernel that cannot be seen", [](TestMachine &m) { m.remove("/sys/module/nf_tables"); },
-         "nftables", Level::unknown, "known to root only", "sudo nft list tables"},
+         "nftables", Level::unknown, "Only root can tell", "sudo nft list tables"},
         {"nft that fails for root",
          [](TestMachine &m) {
              m.machine.firewallComplaint = QStringLiteral("Operation not permitted");
@@ -173,7 +199,7 @@ const std::vector<Case> &cases()
          "sudo ufw default allow outgoing"},
         {"ufw that denies what goes out, to a reader of its rules",
          [](TestMachine &m) { makeUfwDeny(m, {}); }, "firewalls", Level::problem,
-         "none of its rules allows anything, so Tor can't get through: ufw.",
+         "none of its rules allows any, so Tor can't get through: ufw.",
          "sudo ufw default allow outgoing"},
         {"ufw that denies what goes out but the web's port",
          [](TestMachine &m) {
@@ -211,7 +237,7 @@ const std::vector<Case> &cases()
          "firewalls", Level::note, "here: ufw.", "sudo nft list ruleset"},
         {"ufw that is off",
          [](TestMachine &m) { m.write("/etc/ufw/ufw.conf", "#ENABLED=yes\nENABLED=no\n"); },
-         "firewalls", Level::good, "No other firewall that is known by name", nullptr},
+         "firewalls", Level::good, "No other firewall that Veldmark knows", nullptr},
         {"rules that are loaded at boot",
          [](TestMachine &m) {
              m.write("/etc/systemd/system/sysinit.target.wants/nftables.service", "");
@@ -249,13 +275,13 @@ const std::vector<Case> &cases()
                  return FileOwner{0, path.endsWith(QStringLiteral("/share")) ? 0777u : 0755u};
              };
          },
-         "helper", Level::note, "lies where others than root can write", "./build.sh package"},
+         "helper", Level::note, "Accounts other than root can change", "./build.sh package"},
         {"an outdated copy for use without a password",
          [](TestMachine &m) {
              m.write("/usr/local/libexec/veldmark/veldmark-helper.sh", "old");
              m.write("/etc/sudoers.d/veldmark", "rule");
          },
-         "helper", Level::note, "is not this version's",
+         "helper", Level::note, "belongs to another version",
          "sudo bash ROOT/usr/share/veldmark/veldmark-helper.sh install-privileged --user alice"},
         {"no pkexec", [](TestMachine &m) { m.remove("/usr/bin/pkexec"); }, "polkit", Level::note,
          "pkexec isn't installed", "sudo apt install pkexec"},
@@ -272,20 +298,19 @@ const std::vector<Case> &cases()
              m.remove("/proc/300");
              m.write("/usr/share/dbus-1/system-services/org.freedesktop.PolicyKit1.service", "");
          },
-         "polkit", Level::good, "polkit is there", nullptr},
+         "polkit", Level::good, "polkit is installed", nullptr},
         {"no desktop", [](TestMachine &m) { m.machine.hasDesktop = false; }, "polkit", Level::note,
          "There is no desktop here", "sudo veldmarkctl run --connect"},
         {"no agent", [](TestMachine &m) { m.remove("/proc/900"); }, "polkit", Level::note,
-         "(an agent) runs in your session", "sudo veldmarkctl run --connect"},
+         "No known polkit agent", "sudo veldmarkctl run --connect"},
         {"somebody else's agent", [](TestMachine &m) { m.process(900, "gnome-shell", 4343); },
-         "polkit", Level::note, "(an agent) runs in your session",
-         "sudo veldmarkctl run --connect"},
+         "polkit", Level::note, "No known polkit agent", "sudo veldmarkctl run --connect"},
         {"no agent that is known and no sudo",
          [](TestMachine &m) {
              m.remove("/proc/900");
              m.remove("/usr/bin/sudo");
          },
-         "polkit", Level::unknown, "(an agent) runs in your session", "sudo apt install lxpolkit"},
+         "polkit", Level::unknown, "No known polkit agent", "sudo apt install lxpolkit"},
         {"no desktop and no sudo",
          [](TestMachine &m) {
              m.machine.hasDesktop = false;
@@ -298,7 +323,7 @@ const std::vector<Case> &cases()
              m.write("/etc/sudoers.d/veldmark", "rule");
              m.remove("/usr/bin/pkexec");
          },
-         "polkit", Level::good, "without a password is set up", nullptr},
+         "polkit", Level::good, "Passwordless mode is set up", nullptr},
         {"root",
          [](TestMachine &m) {
              m.machine.user = 0;
@@ -308,7 +333,7 @@ const std::vector<Case> &cases()
         {"no sudo", [](TestMachine &m) { m.remove("/usr/bin/sudo"); }, "sudo", Level::note,
          "sudo isn't installed", "su -c 'apt install sudo'"},
         {"no administrator", [](TestMachine &m) { m.write("/etc/group", "sudo:x:27:bob\n"); },
-         "sudo", Level::unknown, "known to root only", "sudo -v"},
+         "sudo", Level::unknown, "Only root can tell", "sudo -v"},
         {"a clock before the program",
          [](TestMachine &m) { m.machine.now = QDateTime(QDate(1970, 1, 2), QTime(0, 0), Qt::UTC); },
          "clock", Level::problem, "The clock is behind: it shows 1970-01-02 00:00 UTC",
@@ -317,7 +342,8 @@ const std::vector<Case> &cases()
          [](TestMachine &m) { m.machine.now = m.machine.now.addSecs(-1800); }, "clock", Level::good,
          "set from the network", nullptr},
         {"a clock that nothing sets", [](TestMachine &m) { m.machine.clockIsSet = false; }, "clock",
-         Level::unknown, "Whether the clock is right isn't known", "sudo timedatectl set-ntp true"},
+         Level::unknown, "It isn't known whether the clock is right",
+         "sudo timedatectl set-ntp true"},
         {"a clock of which the kernel tells nothing",
          [](TestMachine &m) { m.machine.clockIsSet.reset(); }, "clock", Level::unknown,
          "isn't known", "sudo timedatectl set-ntp true"},
@@ -328,10 +354,10 @@ const std::vector<Case> &cases()
          },
          "clock", Level::good, "set from the network", nullptr},
         {"a plain resolver file", [](TestMachine &) {}, "dns", Level::good,
-         "as ROOT/etc/resolv.conf says", nullptr},
+         "ROOT/etc/resolv.conf manages DNS", nullptr},
         {"systemd-resolved",
          [](TestMachine &m) { m.write("/etc/resolv.conf", "nameserver 127.0.0.53\n"); }, "dns",
-         Level::good, "as systemd-resolved says", nullptr},
+         Level::good, "systemd-resolved manages DNS", nullptr},
         {"systemd-resolved's file",
          [](TestMachine &m) {
              m.remove("/etc/resolv.conf");
@@ -339,30 +365,30 @@ const std::vector<Case> &cases()
              QFile::link(QStringLiteral("../run/systemd/resolve/resolv.conf"),
                          m.at("/etc/resolv.conf"));
          },
-         "dns", Level::good, "as systemd-resolved says", nullptr},
+         "dns", Level::good, "systemd-resolved manages DNS", nullptr},
         {"NetworkManager",
          [](TestMachine &m) {
              m.write("/etc/resolv.conf", "# Generated by NetworkManager\nnameserver 192.0.2.1\n");
          },
-         "dns", Level::good, "as NetworkManager says", nullptr},
+         "dns", Level::good, "NetworkManager manages DNS", nullptr},
         {"resolvconf",
          [](TestMachine &m) {
              m.remove("/etc/resolv.conf");
              m.write("/run/resolvconf/resolv.conf", "nameserver 192.0.2.1\n");
              QFile::link(QStringLiteral("../run/resolvconf/resolv.conf"), m.at("/etc/resolv.conf"));
          },
-         "dns", Level::good, "as resolvconf says", nullptr},
+         "dns", Level::good, "resolvconf manages DNS", nullptr},
         {"a resolver of one's own",
          [](TestMachine &m) { m.write("/etc/resolv.conf", "nameserver ::1\n"); }, "dns",
-         Level::good, "by a resolver on this computer", nullptr},
+         Level::good, "A resolver on this computer", nullptr},
         {"our resolver file",
          [](TestMachine &m) {
              m.write("/etc/resolv.conf",
                      "# Veldmark: names are looked up through Tor.\nnameserver 127.0.0.1\n");
          },
-         "dns", Level::good, "It names Tor as the name server", nullptr},
+         "dns", Level::good, "It points DNS at Tor", nullptr},
         {"no resolver file", [](TestMachine &m) { m.remove("/etc/resolv.conf"); }, "dns",
-         Level::note, "There is no file", nullptr},
+         Level::note, "so DNS may not work at all", nullptr},
         {"no bridge programs", [](TestMachine &) {}, "bridges", Level::good, "none was found",
          "veldmarkctl download-transports"},
         {"bridge programs",
@@ -383,10 +409,16 @@ const std::vector<Case> &cases()
          },
          "bridges", Level::good, "(Custom) can be used: 1.", nullptr},
         {"a bridge program of the user's", [](TestMachine &m) { useBundle(m, false); }, "bridges",
-         Level::note, "lyrebird. An administrator is asked to approve it", nullptr},
+         Level::note, "lyrebird. The next connect asks an administrator to approve it", nullptr},
         {"an earlier session",
          [](TestMachine &m) { m.write("/var/lib/veldmark/state/active", "strict\n"); }, "session",
          Level::note, "from an earlier session, and no Tor runs", "veldmarkctl restore"},
+        {"an earlier session whose bridge program is left",
+         [](TestMachine &m) {
+             m.write("/var/lib/veldmark/state/active", "strict\n");
+             m.process(950, "lyrebird", 990);
+         },
+         "session", Level::note, "from an earlier session, and no Tor runs", "veldmarkctl restore"},
         {"a session that is open",
          [](TestMachine &m) {
              m.write("/var/lib/veldmark/state/active", "strict\n");
@@ -405,7 +437,7 @@ const std::vector<Case> &cases()
              m.write("/var/lib/veldmark/state/active", "strict\n");
              m.process(950, "tor", 990);
          },
-         "session", Level::note, "it isn't known whether its kill switch stands",
+         "session", Level::note, "it isn't known whether its kill switch blocks traffic",
          "veldmarkctl restore"},
         {"a session whose watcher has ended",
          [](TestMachine &m) {
@@ -414,7 +446,7 @@ const std::vector<Case> &cases()
              m.machine.now = m.machine.now.addSecs(60);
              m.process(950, "tor", 990);
          },
-         "session", Level::note, "it isn't known whether its kill switch stands",
+         "session", Level::note, "it isn't known whether its kill switch blocks traffic",
          "veldmarkctl restore"},
         {"a session whose kill switch is open",
          [](TestMachine &m) {
@@ -422,7 +454,14 @@ const std::vector<Case> &cases()
              m.write("/run/veldmark.watch", "open 4 1795307640\n");
              m.process(950, "tor", 990);
          },
-         "session", Level::note, "its kill switch isn't closed", "veldmarkctl restore"},
+         "session", Level::note, "its kill switch doesn't block traffic", "veldmarkctl restore"},
+        {"a session in proxy mode after one whose kill switch was open",
+         [](TestMachine &m) {
+             m.write("/var/lib/veldmark/state/active", "proxy\n");
+             m.write("/run/veldmark.watch", "open 4 1795307640\n");
+             m.process(950, "tor", 990);
+         },
+         "session", Level::good, "A session is open: the network is set up", nullptr},
         {"a session whose kill switch was put back",
          [](TestMachine &m) {
              m.write("/var/lib/veldmark/state/active", "strict\n");
@@ -505,9 +544,28 @@ private Q_SLOTS:
                 problems << QLatin1String(one.name);
         problems.removeDuplicates();
         problems.sort();
-        QCOMPARE(problems,
-                 QStringLiteral("bridges clock firewalls helper nftables polkit ports programs tor")
-                     .split(u' '));
+        QCOMPARE(
+            problems,
+            QStringLiteral("bridges clock exit firewalls helper nftables polkit ports programs tor")
+                .split(u' '));
+    }
+
+    // Its user would not be told of its end, so that a connect refuses.
+    void anotherUsersSessionHasToEndFirst()
+    {
+        const TestMachine m;
+        const auto verdict = [&m](uid_t user) {
+            const OtherSession other(m.machine.profile, user);
+            const Findings findings = Doctor::sessionFindings(m.machine);
+            return std::pair(canConnect(findings), findings.front().text.english());
+        };
+        const auto [canOverOwn, own] = verdict(geteuid());
+        QCOMPARE(canOverOwn, std::optional(true));
+        QVERIFY2(!own.contains(QStringLiteral("must be ended")), qPrintable(own));
+        const auto [canOverOther, other] = verdict(geteuid() + 1);
+        QCOMPARE(canOverOther, std::optional(false));
+        QVERIFY2(other.contains(QStringLiteral("is connected with Veldmark (process ")),
+                 qPrintable(other));
     }
 
     void noAdministratorIsAskedForWhatRootVerifies()
@@ -521,13 +579,13 @@ private Q_SLOTS:
         }
         TestMachine m;
         useBundle(m, true);
-        // The helper that runs without a password doesn't know of bundles.
+        // The helper of passwordless mode doesn't know bundles.
         const PlatformProfile &profile = m.machine.profile;
         m.write(profile.sudoersRule.mid(profile.places.root.size()).toUtf8(), "rule");
         m.write(profile.installedHelper.mid(profile.places.root.size()).toUtf8(), "another");
         QVERIFY(m.machine.isPasswordless());
         QCOMPARE(Doctor::bridgeFindings(m.machine).size(), std::size_t(2));
-        m.machine.user = 0; // who needs to ask nobody
+        m.machine.user = 0; // root needs no approval
         QCOMPARE(Doctor::bridgeFindings(m.machine).size(), std::size_t(1));
     }
 

@@ -47,6 +47,7 @@ private Q_SLOTS:
         SettingsStore settings(m.profile());
         settings.setString(QStringLiteral("customTorPath"), QStringLiteral("/opt/none/tor"));
         settings.setString(QStringLiteral("bridgeChoice"), QStringLiteral("obfs4"));
+        settings.setString(QStringLiteral("exitCountry"), QStringLiteral("DE"));
         ScriptedRunner processes;
         Examiner examiner(m.profile(), settings, processes);
         auto examining = examiner.examine();
@@ -54,9 +55,12 @@ private Q_SLOTS:
         QStringList texts;
         for (const Finding &finding : QCoro::waitFor(std::move(examining)))
             texts << finding.text.english();
-        QVERIFY2(texts.join(u'\n').contains(QStringLiteral("/opt/none/tor, is no program")),
+        QVERIFY2(texts.join(u'\n').contains(
+                     QStringLiteral("/opt/none/tor, is not an executable program")),
                  qPrintable(texts.join(u'\n')));
         QVERIFY2(texts.join(u'\n').contains(QStringLiteral("The chosen bridges can't be used")),
+                 qPrintable(texts.join(u'\n')));
+        QVERIFY2(texts.contains(QStringLiteral("Invalid exit country.")),
                  qPrintable(texts.join(u'\n')));
     }
 

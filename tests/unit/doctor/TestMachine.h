@@ -2,6 +2,7 @@
 
 #include "doctor/Checks.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -9,8 +10,8 @@
 
 namespace veldmark {
 
-// A Linux computer on which a connect works, in a temporary folder; a test takes away or adds what
-// it is about.
+// A Linux computer in a temporary folder on which a connect works. A test removes or adds what it
+// tests.
 class TestMachine {
 public:
     static constexpr uid_t alice = 4242;
@@ -33,6 +34,7 @@ public:
                                  "timeout", "readlink", "sha256sum", "useradd"})
             program(QByteArray("/usr/bin/") + name);
         program("/usr/share/veldmark/veldmark-helper.sh");
+        approve("#!/bin/sh\n", "tor"); // a folder below /tmp is not the system's
         write(
             "/etc/passwd",
             "root:x:0:0::/root:/bin/bash\ndebian-tor:x:108:116::/var/lib/tor:/bin/false\n"
@@ -63,6 +65,13 @@ public:
         QFile::setPermissions(at(path),
                               QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner
                                   | QFile::ReadOther | QFile::ExeOther);
+    }
+    // An administrator has approved the program with that content.
+    void approve(const QByteArray &content, const QByteArray &role) const
+    {
+        const QByteArray digest
+            = QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex();
+        program("/var/lib/veldmark/programs/" + digest + '/' + role, content);
     }
     void remove(const QByteArray &path) const
     {

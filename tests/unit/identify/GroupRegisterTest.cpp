@@ -12,7 +12,7 @@ using Map = MapChange::Map;
 
 namespace {
 
-// The firewall's maps, which refuse what the kernel refuses.
+// A stand-in of the firewall's maps that refuses what the kernel refuses.
 struct Maps {
     std::map<std::pair<Map, std::uint64_t>, std::uint32_t> marks;
     std::set<std::uint32_t> addresses;
@@ -127,7 +127,7 @@ private Q_SLOTS:
         });
         QCOMPARE(m_maps.marks.size(), GroupRegister::identitiesPerUser + 1);
         QVERIFY(m_maps.of(20000) != 0);
-        // Those that have gone make room, the one that has gone first first.
+        // Removed groups make room, the one that was removed first comes first.
         with([&](MapChanges &c) {
             known.remove(group("app-x7-1.scope", 0), c);
             known.remove(group("app-x5-1.scope", 0), c);
@@ -173,7 +173,7 @@ private Q_SLOTS:
                     known.add(group("app-y" + std::to_string(n) + "-1.scope", ++id, user), c);
             }
         });
-        constexpr std::size_t places = 65536; // of each map
+        constexpr std::size_t places = 65536; // the capacity of each map
         QVERIFY(m_maps.marks.size() < places && m_maps.addresses.size() < places);
     }
 
@@ -185,7 +185,7 @@ private Q_SLOTS:
             known.add(group("app-mail-1.scope", 2), c);
             known.add(group("app-web-1.scope", 1), c);
         });
-        // One has gone and come again, one has gone, one has come.
+        // One group was removed and added again, one was removed, one was added.
         with([&](MapChanges &c) {
             known.replace({group("app-web-1.scope", 11), group("app-chat-1.scope", 12)}, c);
         });

@@ -8,8 +8,7 @@
 
 namespace veldmark {
 
-// One command given by a client, and what came of it. It may go before the client has had its
-// answer.
+// A client's command and its outcome. The object may be destroyed before the client has its answer.
 struct Conversation {
     using Answer = Result<void, InstanceError>;
     struct Heard {
@@ -60,7 +59,7 @@ private:
     }
 };
 
-// A workbench whose program takes commands.
+// A workbench whose program accepts commands.
 struct Instance {
     Workbench bench;
     std::unique_ptr<InstanceServer> server;

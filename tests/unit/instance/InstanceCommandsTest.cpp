@@ -12,7 +12,7 @@ using namespace std::chrono_literals;
 using namespace veldmark;
 using Phase = ConnectionPhase;
 
-// InstanceServer: what each command does, and what its client is told.
+// InstanceServer: the effect of each command, and the client's answer.
 class InstanceCommandsTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -57,7 +57,7 @@ private Q_SLOTS:
         Conversation first(instance.bench, "connect");
         QVERIFY(until([&] { return instance.bench.processes.held() == 1; }));
         Conversation second(instance.bench, "connect");
-        QVERIFY(second.error().startsWith(u"Already connected, or on the way"_s));
+        QVERIFY(second.error().startsWith(u"Already connected or connecting"_s));
         Conversation early(instance.bench, "disconnect");
         QCOMPARE(early.error(), u"Not now: Waiting for administrator approval…"_s);
         instance.bench.processes.hold = nullptr;
@@ -68,19 +68,42 @@ private Q_SLOTS:
         QCOMPARE(instance.bench.helperRunCount(u"connect"_s), 1);
     }
 
+    void whatComesDuringADisconnectIsToldOfThat()
+    {
+        Instance instance;
+        Workbench &bench = instance.bench;
+        bench.installTransports =
+            [](bool,
+               const TransportDownloader::Progress &) -> QCoro::Task<TransportDownloader::Outcome> {
+            co_return Failure(DownloadError::other(Text(u"No."_s)));
+        };
+        Conversation failing(bench, "download-transports");
+        QCOMPARE(failing.error(), u"Couldn't download bridge programs: No."_s);
+        QVERIFY(bench.connect());
+        bench.hold(u"disconnect"_s);
+        Conversation disconnecting(bench, "disconnect");
+        QVERIFY(until([&] { return bench.processes.held() == 1; }));
+        const QString restoring = u"Not now: Restoring your network settings…"_s;
+        QCOMPARE(Conversation(bench, "connect").error(), restoring);
+        QCOMPARE(Conversation(bench, "download-transports").error(), restoring);
+        bench.processes.hold = nullptr;
+        bench.processes.release();
+        QVERIFY(disconnecting.succeeds());
+    }
+
     void saysWhyThereIsNoConnection()
     {
         Instance instance;
         instance.bench.failHelper(u"connect"_s, u"Tor could not be started."_s);
         Conversation failing(instance.bench, "connect");
         QCOMPARE(failing.error(), u"Tor could not be started."_s);
-        // the last state is told as well, however short it was
+        // the last state is sent as well, even a short one
         QCOMPARE(failing.lastPhase(), u"disconnected"_s);
         QCOMPARE(failing.states.back().value(u"errorMessage"_s).toString(), failing.error());
         instance.bench.cancelPrompt(u"connect"_s);
         Conversation dismissed(instance.bench, "connect");
         QCOMPARE(dismissed.error(), u"Cancelled."_s);
-        // which whoever asked reads in a language of his own
+        // the client translates it into its user's language
         QVERIFY(!dismissed.answer->error().description().isWords());
     }
 
@@ -110,7 +133,7 @@ private Q_SLOTS:
         instance.bench.failHelper(u"disconnect"_s, u"Could not."_s);
         Conversation failing(instance.bench, "disconnect");
         QCOMPARE(failing.error(), u"Could not."_s);
-        instance.bench.removeMarker(); // this time it opened the network before it failed
+        instance.bench.removeMarker(); // this time it restored the network before it failed
         Conversation half(instance.bench, "disconnect");
         QCOMPARE(half.error(), u"Could not."_s);
         QVERIFY(instance.bench.controller().phase() == Phase::disconnected);
@@ -147,7 +170,7 @@ private Q_SLOTS:
     void restoresWhatSomebodyElseHasSetUpSince()
     {
         Instance instance;
-        instance.bench.writeMarker("strict\n"); // this instance was at rest all the while
+        instance.bench.writeMarker("strict\n"); // this instance was idle the whole time
         Conversation restoring(instance.bench, "disconnect");
         QVERIFY2(restoring.succeeds(), qPrintable(restoring.error()));
         QCOMPARE(instance.bench.helperRunCount(u"disconnect"_s), 1);
@@ -166,9 +189,9 @@ private Q_SLOTS:
         QVERIFY(instance.bench.connect());
         OtherSession other(instance.bench.profile);
         Conversation disconnecting(instance.bench, "disconnect");
-        QCOMPARE(disconnecting.error(),
-                 u"Another Veldmark of yours has begun a session since, so nothing was ended. "
-                 "Disconnect again to end it."_s);
+        QCOMPARE(
+            disconnecting.error(),
+            u"Another Veldmark of yours has started a session meanwhile, so no session was ended. Disconnect again to end that session."_s);
         QCOMPARE(instance.bench.helperRunCount(u"disconnect"_s), 0);
         QVERIFY(instance.bench.hasMarker());
         Conversation again(instance.bench, "disconnect");
@@ -193,7 +216,7 @@ private Q_SLOTS:
         Instance instance;
         QVERIFY(instance.bench.connect());
         instance.bench.noteRules("restored", 1);
-        Conversation fixing(instance.bench, "fix-dns"); // it is told while the command runs
+        Conversation fixing(instance.bench, "fix-dns"); // it is sent while the command runs
         QVERIFY2(fixing.succeeds(), qPrintable(fixing.error()));
         QVERIFY(instance.bench.controller().errorMessage().value().english().contains(
             u"back in place"_s));
@@ -317,7 +340,7 @@ private Q_SLOTS:
                              QJsonObject{{u"command"_s, u"set"_s},
                                          {u"key"_s, u"exitCountry"_s},
                                          {u"value"_s, u"DE"_s}});
-        QVERIFY(refused.error().contains(u"no exit country"_s));
+        QVERIFY(refused.error().contains(u"not an exit country"_s));
         QVERIFY(refused.answer->error().isUsage());
         // a folder where the file should be
         QVERIFY(QDir().mkpath(instance.bench.profile.settingsFile));

@@ -78,7 +78,7 @@ private Q_SLOTS:
             u"Veldmark is already running (process %1)."_s.arg(QCoreApplication::applicationPid()));
         first->reset();
         QVERIFY(lockInstance(place.profile));
-        QVERIFY(lockInstance(elsewhere)); // looking has left no lock behind
+        QVERIFY(lockInstance(elsewhere)); // the check has left no lock
     }
 
     void refusesAFolder_data()
@@ -133,7 +133,7 @@ private Q_SLOTS:
         const QString path = place.home() + u"/lock"_s;
         if (content == "gone") {
             const pid_t child = ::fork();
-            if (child == 0) { // takes the lock and ends without giving it back
+            if (child == 0) { // takes the lock and ends without releasing it
                 const auto lock = lockInstance(place.profile);
                 ::_exit(lock ? 0 : 1);
             }

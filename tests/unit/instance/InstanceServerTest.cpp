@@ -22,7 +22,7 @@ using Phase = ConnectionPhase;
 
 namespace {
 
-// What comes back for these bytes until the connection ends.
+// The answer to these bytes, up to the connection's end.
 QByteArray sendBytes(const Instance &instance, const QByteArray &bytes)
 {
     QLocalSocket socket;
@@ -76,7 +76,7 @@ private Q_SLOTS:
         QVERIFY(InstanceServer::start(instance.bench.controller()));
     }
 
-    // Where the folder's mode was changed.
+    // The folder's mode was changed.
     void aProcessOfAnotherUserIsNotHeard_data()
     {
         QTest::addColumn<uint>("user");
@@ -100,7 +100,7 @@ private Q_SLOTS:
         }
         QVERIFY(::chmod(path.constData(), 0777) == 0);
         const pid_t child = ::fork();
-        if (child == 0) { // plain system calls; its status is the number of bytes that it heard
+        if (child == 0) { // plain system calls; its status is the number of received bytes
             sockaddr_un address{};
             address.sun_family = AF_UNIX;
             std::memcpy(address.sun_path, path.constData(), static_cast<std::size_t>(path.size()));
@@ -112,7 +112,7 @@ private Q_SLOTS:
                 || ::connect(end, reinterpret_cast<const sockaddr *>(&address), sizeof address)
                     != 0)
                 ::_exit(100);
-            // Whoever is refused may find the other end closed before the request is sent.
+            // A refused client may find the other end closed before it sends the request.
             if (::send(end, request, sizeof request - 1, 0) < 0)
                 ::_exit(errno == EPIPE ? 0 : 101);
             const ssize_t count = ::read(end, answer, sizeof answer);
@@ -136,7 +136,7 @@ private Q_SLOTS:
         instance.server.reset();
         bench.profile = elsewhere;
         bench.restart();
-        auto started = InstanceServer::start(bench.controller()); // the other way round it can
+        auto started = InstanceServer::start(bench.controller()); // the reverse works
         QVERIFY(started);
         places.runtimeDirectory = bench.folder.path() + u"/run/user/1000"_s;
         QVERIFY(InstanceClient::connectTo(PlatformProfile::linux(places)));
@@ -286,7 +286,7 @@ private Q_SLOTS:
     {
         Instance instance;
         QLocalSocket socket;
-        socket.setReadBufferSize(1024); // no more is taken from the system until we read
+        socket.setReadBufferSize(1024); // the server reads no more until the client reads
         socket.connectToServer(instance.bench.profile.controlSocket);
         QVERIFY(socket.waitForConnected(2000));
         socket.write("{\"command\":\"watch\"}\n");
@@ -305,7 +305,7 @@ private Q_SLOTS:
         }));
         const auto states = received.count('\n');
         QVERIFY2(states < changes / 2, qPrintable(QString::number(states)));
-        // And from then on it hears everything again.
+        // Afterwards it receives everything again.
         instance.bench.controller().customBridges.set(QString());
         QVERIFY(until([&] {
             received += socket.readAll();
@@ -380,7 +380,7 @@ private Q_SLOTS:
         QVERIFY(until([&] { return questions() > before; }));
         instance.server.reset();
         instance.bench.end();
-        instance.bench.socketClock.advance(std::chrono::minutes(1)); // the question is given up
+        instance.bench.socketClock.advance(std::chrono::minutes(1)); // the request is abandoned
         settle();
         QCOMPARE(closing.error(), u"Veldmark stopped before it had answered."_s);
     }

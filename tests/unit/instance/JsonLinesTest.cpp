@@ -66,7 +66,7 @@ private Q_SLOTS:
     void losesNothingOfAFlood()
     {
         QFETCH(bool, closes);
-        constexpr int count = 20000; // more than all the buffers on the way hold
+        constexpr int count = 20000; // more than all buffers in between can hold
         Pair pair;
         for (int n = 0; n < count; ++n)
             pair.other.write("{\"n\":" + QByteArray::number(n)
@@ -74,7 +74,8 @@ private Q_SLOTS:
         if (closes)
             pair.other.disconnectFromServer();
         settle();
-        QVERIFY(pair.other.bytesToWrite() > 0); // it waits for us, not in our memory
+        QVERIFY(pair.other.bytesToWrite() > 0); // it waits in the socket, not in this program's
+                                                // memory
         for (int n = 0; n < count; ++n)
             QCOMPARE(pair.next().value_or(QJsonObject()).value(u"n"_s), QJsonValue(n));
         if (closes)
@@ -102,7 +103,7 @@ private Q_SLOTS:
         pair.other.write("{\"n\":1}\n" + bytes);
         QVERIFY(pair.next());
         QVERIFY(!pair.next());
-        pair.other.write("{\"n\":2}\n"); // what follows is not read
+        pair.other.write("{\"n\":2}\n"); // later lines are not read
         QVERIFY(!pair.next());
         QVERIFY(pair.lines->isOpen()); // an answer can still be given
     }
@@ -123,7 +124,7 @@ private Q_SLOTS:
         pair.lines->write({{u"text"_s, text}});
         QVERIFY(pair.lines->hasUnsent());
         const auto finishing = pair.lines->finish();
-        pair.lines.reset(); // nobody holds it but the wait
+        pair.lines.reset(); // only the wait holds it
         QVERIFY(!finishing.isReady());
         QByteArray received;
         QVERIFY(until([&] {
@@ -141,7 +142,7 @@ private Q_SLOTS:
         pair.other.write("{\"n\":1}\n{\"n\":2}\n{\"text\":\"" + QByteArray(1000, 'x'));
         QVERIFY(pair.next());
         settle();
-        pair.lines.reset(); // its socket says goodbye; nobody may hear it
+        pair.lines.reset(); // its socket emits "disconnected", and no slot may run
         QVERIFY(until([&] { return pair.other.state() == QLocalSocket::UnconnectedState; }));
     }
 

@@ -15,7 +15,7 @@ QString text(const char *utf8)
     return QString::fromUtf8(utf8);
 }
 
-// The same reading by way of the pattern itself.
+// Parses by the regular expression itself.
 TorLogLine byPattern(const QString &line, int id)
 {
     static const QRegularExpression pattern(
@@ -139,7 +139,7 @@ private Q_SLOTS:
                                  text("٣")};
         int matched = 0;
         for (int round = 0; round < 200000; ++round) {
-            // Half of the lines start out right, so that the far end of the pattern is reached.
+            // Half of the lines begin validly, so that the end of the pattern is reached.
             QString line = random.bounded(2) ? text("Nov 16 00:41:07") : QString();
             if (random.bounded(2))
                 line += text(" [warn] ");
@@ -148,22 +148,13 @@ private Q_SLOTS:
             if (random.bounded(4) == 0 && !line.isEmpty())
                 line.remove(random.bounded(static_cast<int>(line.size())), 1);
             if (!line.isValidUtf16())
-                continue; // no decoded text is; the pattern refuses it
+                continue; // decoded text never contains it; the pattern refuses it
             const TorLogLine parsed = TorLogLine::parse(line, round);
             matched += parsed.time.has_value();
             if (!(parsed == byPattern(line, round)))
                 QFAIL(qPrintable(line));
         }
         QVERIFY2(matched > 20000, qPrintable(QString::number(matched)));
-    }
-
-    void unknownRawValuesAreInfo()
-    {
-        QVERIFY(TorLogLine::levelFromRawValue(0) == Level::error);
-        QVERIFY(TorLogLine::levelFromRawValue(1) == Level::warning);
-        QVERIFY(TorLogLine::levelFromRawValue(2) == Level::notice);
-        for (const int other : {3, 4, -1, 1000000})
-            QVERIFY(TorLogLine::levelFromRawValue(other) == Level::info);
     }
 
     void errorsAndWarningsAreProblems()

@@ -31,7 +31,7 @@ class TorLogStoreTest : public QObject {
             qFatal("cannot write");
     }
 
-    // So that a signature can stay the same although the content differs.
+    // Sets a file's time, so that a signature can stay the same although the content differs.
     void setTime(time_t seconds)
     {
         const timespec times[2] = {{seconds, 0}, {seconds, 0}};
@@ -120,7 +120,7 @@ private Q_SLOTS:
         QTRY_COMPARE(only(), QStringLiteral("one"));
         m_store->stop();
         write("two\n");
-        // A second store that still watches shows that the time for it has come.
+        // A second store, which still watches, shows that the interval has passed.
         TorLogStore other(m_store->log(), nullptr, 1ms);
         other.start();
         write("three\n");

@@ -13,7 +13,7 @@ using namespace veldmark;
 
 namespace {
 
-// outlives every look: the desktop's folders are read from the environment once
+// outlives every search: the desktop's folders are read from the environment once
 QTemporaryDir *folder = nullptr;
 
 QString write(const QString &name, const QByteArray &content)

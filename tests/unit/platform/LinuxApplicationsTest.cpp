@@ -20,7 +20,7 @@ using namespace veldmark;
 
 namespace {
 
-// A process that runs until it is ended; at the latest when this goes.
+// A process that runs until it is ended, at the latest by this object's destructor.
 class Running {
 public:
     Running(const QString &program, const QStringList &arguments,
@@ -39,7 +39,7 @@ public:
     }
     qint64 id() const { return m_process.processId(); }
     QProcess &process() { return m_process; }
-    // The first line that it prints. Empty when none comes.
+    // The first line that it prints; empty without one.
     QByteArray line()
     {
         while (!m_process.canReadLine()) {
@@ -55,8 +55,8 @@ private:
 
 } // namespace
 
-// Real entries, real processes; only control groups, which an ordinary user cannot make, are
-// written by hand.
+// Real entries and real processes. Only the files of control groups, which an ordinary user cannot
+// make, are written by hand.
 class LinuxApplicationsTest : public QObject {
     Q_OBJECT
 
@@ -83,7 +83,7 @@ class LinuxApplicationsTest : public QObject {
                          + '\n' + more);
     }
 
-    // A program that is nobody else's: a copy of the shell.
+    // A program of this test alone: a copy of the shell.
     QString ownShell() const
     {
         const QString copy = path(u"sample-program"_s);
@@ -187,7 +187,7 @@ private Q_SLOTS:
 
     void anInterpreterIsNotTheApplication()
     {
-        // Every script that this program runs would be taken for a copy.
+        // Otherwise every script of this interpreter would count as a copy of the application.
         const QString file = entry(u"sample"_s, ownShell() + u" /opt/sample/start"_s);
         Running script(ownShell(), {u"-c"_s, u"echo ready; read answer"_s});
         QCOMPARE(script.line(), QByteArray("ready"));
@@ -279,7 +279,7 @@ private Q_SLOTS:
         QCOMPARE(copies, found ? std::vector<qint64>{4711} : std::vector<qint64>());
     }
 
-    // A file that has no end keeps nobody: a MiB of each is enough.
+    // An endless file must not block the search: it reads a MiB of each.
     void ofWhatAProcessTellsAMiBIsRead_data()
     {
         QTest::addColumn<qsizetype>("before");
@@ -313,7 +313,7 @@ private Q_SLOTS:
     void otherPeoplesProcessesAreNotTouched()
     {
         if (geteuid() != 0)
-            QSKIP("only root can start a process as somebody else");
+            QSKIP("only root can start a process as another user");
         QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7755)));
         const QString shell = ownShell();
         QVERIFY(QFile::setPermissions(shell, QFile::Permissions(0x7755)));
@@ -345,7 +345,7 @@ private Q_SLOTS:
         m_applications->askToQuit(polite.id());
         m_applications->askToQuit(stubborn.id());
         const qint64 process = polite.id();
-        // Without the event loop nobody waits for the child: ended, it is still in the process
+        // Without the event loop the child is not reaped: after its end it is still in the process
         // table.
         for (int round = 0; round < 1000 && !m_applications->hasEnded(process); ++round)
             ::usleep(10'000);
@@ -392,7 +392,7 @@ private Q_SLOTS:
         Running other(program, waiting.value(program));
         QCOMPARE(other.line(), QByteArray("ready"));
         QVERIFY(!isFound(file, other.id()));
-        // Its own copies are still known by the mark of their launch.
+        // The mark of their launch still identifies its own copies.
         QProcessEnvironment marked = QProcessEnvironment::systemEnvironment();
         marked.insert(u"GIO_LAUNCHED_DESKTOP_FILE"_s, file);
         const QString launch = u"GIO_LAUNCHED_DESKTOP_FILE_PID=$$ exec %1 \"$@\""_s.arg(program);

@@ -26,7 +26,7 @@ Places home()
     return Places::below(QStringLiteral("/nowhere"));
 }
 
-// All that a profile says, a line for each thing.
+// A profile as text, a line for each field.
 QString table(const PlatformProfile &p)
 {
     const auto list = [](const QStringList &words) { return words.join(QStringLiteral(", ")); };
@@ -39,7 +39,6 @@ QString table(const PlatformProfile &p)
     const std::vector<std::pair<const char *, QString>> rows{
         {"name", p.name},
         {"computer", list({p.computer.english(), p.onComputer.english()})},
-        {"fileManager", p.fileManager},
         {"torInstallHint", p.torInstallHint},
         {"torMissingText", p.torMissingText.english()},
         {"homePage", p.homePage},
@@ -155,7 +154,6 @@ private Q_SLOTS:
     {
         QCOMPARE(table(PlatformProfile::linux(home())), QStringLiteral(R"(name: linux
 computer: This computer, on this computer
-fileManager: the file manager
 torInstallHint: your package manager
 torMissingText: Tor isn't installed. Install it with your package manager or set its location in Settings.
 homePage: 
@@ -176,7 +174,7 @@ gnupgCandidates: /nowhere/usr/bin, /nowhere/usr/local/bin
 sudo: /nowhere/usr/bin/sudo
 unzip: /nowhere/usr/bin/unzip
 prompt: PolicyKit, /nowhere/usr/bin/pkexec
-promptText: Veldmark needs administrator access to manage Tor routing on this computer. The system's own Tor service, where it runs, is stopped meanwhile.
+promptText: Veldmark needs administrator access to manage Tor routing on this computer. While connected, Veldmark stops the system's own Tor service.
 torBrowserRoots: ~/.local/share/torbrowser/tbb/x86_64/tor-browser, ~/tor-browser, /nowhere/opt/tor-browser
 bundle: ~/.local/share/veldmark/TorExpertBundle, tor-expert-bundle-linux-x86_64-
 applicationSuffix: .desktop
@@ -197,7 +195,6 @@ controlSocket: /nowhere/run/user/1000/veldmark/control
     {
         QCOMPARE(table(PlatformProfile::macos(home())), QStringLiteral(R"(name: macos
 computer: This Mac, on this Mac
-fileManager: Finder
 torInstallHint: brew install tor
 torMissingText: Tor isn't installed. Install it with Homebrew (brew install tor) or set its location in Settings.
 homePage: 
@@ -247,7 +244,7 @@ controlSocket: ~/Library/Application Support/Veldmark/run/control
         }
     }
 
-    // The kernel's name of it, which on a Mac is another one than the Tor Project's.
+    // The kernel's name of the architecture, which on a Mac differs from the Tor Project's.
     void theMachineIsThisOne()
     {
         utsname system{};
@@ -283,8 +280,8 @@ controlSocket: ~/Library/Application Support/Veldmark/run/control
         const QString missing = own.filePath(QStringLiteral("missing"));
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(missing));
         QCOMPARE(Places::fromEnvironment().runtimeDirectory, missing);
-        // Without the variable, and where su has left another user's, logind's is taken if it is
-        // there.
+        // Without the variable, or when su has left another user's, logind's folder is used if it
+        // exists.
         const QFileInfo logind(QStringLiteral("/run/user/%1").arg(geteuid()));
         const QString usual = logind.isDir() && logind.ownerId() == geteuid() ? logind.filePath()
                                                                               : QString();

@@ -41,7 +41,7 @@ QString startErrorOf(const QString &executable, QStringList arguments = {})
     return result ? QStringLiteral("(started)") : result.error().description().english();
 }
 
-// Ended; perhaps nobody has waited for it yet.
+// Ended, possibly still a zombie.
 bool isGone(int process)
 {
     QFile stat(QStringLiteral("/proc/%1/stat").arg(process));
@@ -276,8 +276,8 @@ private Q_SLOTS:
         }
         QFile finished(folder.filePath(QStringLiteral("finished")));
         QTRY_VERIFY(finished.exists());
-        // Until the child has been waited for, and what was made for it has gone: nothing else ends
-        // this program's loop.
+        // Runs until the child has been reaped and its objects are gone: nothing else ends this
+        // program's loop.
         QVERIFY(finished.open(QIODevice::ReadOnly));
         const QString child = QStringLiteral("/proc/")
             + QString::fromLatin1(finished.readAll().trimmed());

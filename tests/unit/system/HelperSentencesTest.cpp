@@ -32,9 +32,9 @@ private Q_SLOTS:
         row("a word in it", u"The file /etc/x cannot be written."_s,
             sentence(u"The file %1 cannot be written."_s, {u"/etc/x"_s}));
         row("two",
-            u"The port 9050, which Tor needs, is held by tor (process 7). End that, then connect again."_s,
+            u"The port 9050, which Tor needs, is held by tor (process 7). End that program, then connect again."_s,
             sentence(
-                u"The port %1, which Tor needs, is held by %2. End that, then connect again."_s,
+                u"The port %1, which Tor needs, is held by %2. End that program, then connect again."_s,
                 {u"9050"_s, u"tor (process 7)"_s}));
         row("words of the helper's own in it", u"Tor did not start: it ended without a message."_s,
             sentence(u"Tor did not start: %1"_s, {sentence(u"it ended without a message."_s)}));

@@ -9,7 +9,7 @@ using Kind = HelperError::Kind;
 
 namespace {
 
-// The words that a shell makes of the command within an AppleScript source, as osascript would.
+// The arguments that a shell makes of the command in an AppleScript source, as under osascript.
 QStringList wordsThatReachTheShell(const QString &source)
 {
     const QString before = QStringLiteral("do shell script \"");
@@ -30,7 +30,8 @@ QStringList wordsThatReachTheShell(const QString &source)
 
 } // namespace
 
-// PrivilegedRunner: what each system's administrator prompt is given, and what its answers mean.
+// PrivilegedRunner: the arguments of each system's administrator prompt, and the meaning of its
+// answers.
 class PrivilegedRunnerPromptTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -137,7 +138,7 @@ private Q_SLOTS:
                    " 'Error executing command as another user: Not authorized' >&2; exit 127")
             << Kind::Failed
             << QStringLiteral(
-                   "The password could not be checked: polkit takes none from this terminal. Run it with sudo.");
+                   "The password could not be checked: polkit accepts no password from this terminal. Run the command with sudo.");
         QTest::newRow("the helper's own 127")
             << QByteArray("echo 'ERROR: tor was not found' >&2; exit 127") << Kind::Failed
             << QStringLiteral("tor was not found");

@@ -12,7 +12,7 @@ using Kind = HelperError::Kind;
 
 namespace {
 
-// Answers when it is told to.
+// Answers when the test says so.
 class SlowRunner final : public ProcessRunner {
 public:
     QCoro::Task<Result<ProcessResult, StartError>> run(QString, QStringList) override
@@ -70,7 +70,7 @@ private Q_SLOTS:
         QVERIFY(runner.privilegedHelperOutdated());
         system.installPasswordless("new");
         QVERIFY(!runner.privilegedHelperOutdated());
-        // One that exists but cannot be read differs from one that can; two such are equal.
+        // An unreadable file differs from a readable one; two unreadable files are equal.
         QVERIFY(QFile::remove(system.profile.installedHelper));
         QVERIFY(QDir().mkpath(system.profile.installedHelper));
         QVERIFY(runner.privilegedHelperOutdated());
@@ -189,7 +189,8 @@ private Q_SLOTS:
         QVERIFY(!system.argumentsOf(system.profile.promptProgram));
     }
 
-    // Bridges, exit and hash are nobody else's to read; what the dialog is to show stays on it.
+    // Other users must not read bridges, exit and hash. The words that the dialog shows stay on the
+    // command line.
     void optionsOfAConnectStandOnNoCommandLine()
     {
         const QStringList words = {QStringLiteral("connect"), QStringLiteral("--hash"),
@@ -233,6 +234,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("verb");
         QTest::newRow("connect") << QStringLiteral("connect") << QStringLiteral("replace");
         QTest::newRow("launch") << QStringLiteral("launch") << QStringLiteral("launch");
+        QTest::newRow("disconnect, of another user's session")
+            << QStringLiteral("disconnect") << QStringLiteral("disconnect");
     }
 
     void whatTheRuleDoesNotCoverIsAskedFor()
@@ -250,7 +253,7 @@ private Q_SLOTS:
                  QStringList({system.helperPath(), verb}));
     }
 
-    // The dialog of connect has not said that a session would be lessened.
+    // The dialog of connect has not said that a session would be weakened.
     void aDialogThatSaidTooLittleIsFollowedByOneThatSaysIt()
     {
         StandIns system(true);
@@ -265,22 +268,63 @@ private Q_SLOTS:
                  QStringLiteral("An administrator password is needed."));
     }
 
-    // It says of which program an approval is missing, and the next dialog is to name that.
-    void aBundleThatIsNotBelievedIsTheCallersToAskFor()
+    // It says of which program an approval is missing, and the next dialog is to name that. The
+    // dialog of "replace" would not help.
+    void aProgramThatIsNotApprovedIsTheCallersToAskFor_data()
+    {
+        QTest::addColumn<bool>("byRule");
+        QTest::addColumn<QStringList>("more");
+        const QStringList bundle = {QStringLiteral("--bundle"), QStringLiteral("/b")};
+        QTest::newRow("by the rule") << true << QStringList();
+        QTest::newRow("by the rule, with a bundle") << true << bundle;
+        QTest::newRow("prompted") << false << QStringList();
+        QTest::newRow("prompted, with a bundle") << false << bundle;
+    }
+
+    void aProgramThatIsNotApprovedIsTheCallersToAskFor()
+    {
+        QFETCH(bool, byRule);
+        QFETCH(QStringList, more);
+        StandIns system(true);
+        const char *refusing
+            = "echo 'ERROR: An administrator password is needed to approve /b.' >&2; exit 4";
+        system.helper("exit 0");
+        if (byRule) {
+            system.installPasswordless();
+            system.sudo(refusing);
+            system.dialog("echo prompted");
+        } else {
+            system.dialog(QByteArray("echo \"$2\" >>\"$0.verbs\"; ") + refusing);
+        }
+        PrivilegedRunner runner = system.runner();
+        const Outcome refused = run(runner, QStringList(QStringLiteral("connect")) + more);
+        QVERIFY(!refused);
+        QCOMPARE(refused.error().kind(), Kind::UnapprovedProgram);
+        QCOMPARE(refused.error().description(),
+                 QStringLiteral("An administrator password is needed to approve /b."));
+        if (byRule) {
+            QVERIFY(!system.argumentsOf(system.profile.promptProgram));
+            return;
+        }
+        QFile verbs(system.profile.promptProgram + QStringLiteral(".verbs"));
+        QVERIFY(verbs.open(QIODevice::ReadOnly));
+        QCOMPARE(verbs.readAll(), "connect\n");
+    }
+
+    // Also when it brings a bundle: that is not what is refused.
+    void aSessionThatWouldBeLessenedIsAskedForWithItsBundle()
     {
         StandIns system(true);
         system.installPasswordless();
         system.helper("exit 0");
-        system.sudo("echo 'ERROR: An administrator password is needed to approve /b.' >&2; exit 3");
+        system.sudo("echo 'ERROR: An administrator password is needed.' >&2; exit 3");
         system.dialog("echo prompted");
         PrivilegedRunner runner = system.runner();
         const QStringList words = {QStringLiteral("connect"), QStringLiteral("--bundle"),
                                    QStringLiteral("/b")};
-        const Outcome refused = run(runner, words);
-        QVERIFY(!refused);
-        QCOMPARE(refused.error().kind(), Kind::Unapproved);
-        QVERIFY(!system.argumentsOf(system.profile.promptProgram));
-        QCOMPARE(run(runner, {QStringLiteral("connect")}).value(), QStringLiteral("prompted\n"));
+        QCOMPARE(run(runner, words).value(), QStringLiteral("prompted\n"));
+        QCOMPARE(system.argumentsOf(system.profile.promptProgram)->value(1),
+                 QStringLiteral("replace"));
     }
 
     void withoutTheRuleEveryRunPrompts()

@@ -41,7 +41,7 @@ private Q_SLOTS:
     void anotherUserIsToldByName()
     {
         Place place;
-        OtherSession other(place.profile, 1); // every system's "daemon"
+        OtherSession other(place.profile, 1); // uid 1 is "daemon" on every system
         QVERIFY(!place.owner()->isOwnUser());
         QCOMPARE(place.owner()->userName(), u"daemon"_s);
         QCOMPARE((SessionOwner{54321, 1}).userName(), u"54321"_s);

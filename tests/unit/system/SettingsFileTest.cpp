@@ -72,7 +72,7 @@ private Q_SLOTS:
         QTEST(isIntactSettingsText(content), "intact");
     }
 
-    // Text that looks right, and of which a rewrite would lose something.
+    // Text that looks valid, but would lose something in a rewrite.
     void tellsDamageThatShowsWhenItIsRead_data()
     {
         QTest::addColumn<QByteArray>("content");
@@ -102,14 +102,13 @@ private Q_SLOTS:
         QFile file(folder.filePath(QStringLiteral("veldmark.conf")));
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
         file.close();
-        // The second time QSettings has what it read the first time.
+        // The second time QSettings has the content of the first read in its cache.
         for (int time = 0; time < 2; ++time)
             QCOMPARE(settingsFileState(file.fileName()),
                      intact ? SettingsFileState::Intact : SettingsFileState::Damaged);
     }
 
-    // As where somebody has started the program without its standard input: the new file is
-    // descriptor 0.
+    // As when the program is started without standard input: the new file gets descriptor 0.
     void isWrittenWithoutAStandardInput()
     {
         QTemporaryDir folder;
@@ -126,7 +125,7 @@ private Q_SLOTS:
         QCOMPARE(readSettingsFile(path).value(key).toString(), QStringLiteral("1"));
     }
 
-    // Two files of one size and time would be one to QSettings.
+    // QSettings takes two files of the same size and time for the same.
     void aRewriteAlwaysMovesTheTimeOfChangeForward()
     {
         QTemporaryDir folder;

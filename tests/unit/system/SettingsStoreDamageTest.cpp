@@ -6,7 +6,7 @@
 using namespace veldmark;
 using Home = TemporaryHome;
 
-// What becomes of the settings when the file is broken or cannot be written.
+// The settings when the file is damaged or cannot be written.
 class SettingsStoreDamageTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -99,7 +99,7 @@ private Q_SLOTS:
             QVERIFY(store.problem());
             store.setBoolean(strict, true);
             QCOMPARE(store.boolean(strict), true); // in memory
-            QVERIFY(!store.problem());             // said already
+            QVERIFY(!store.problem());             // told already
             QCOMPARE(::chmod(qPrintable(home.folder()), 0700), 0);
             store.setString(key, QStringLiteral("x"));
         }
@@ -138,7 +138,8 @@ private Q_SLOTS:
         store.setString(QStringLiteral("third"), QStringLiteral("y"));
         QCOMPARE(home.content(), QByteArray("[General]\naKey=x\nstrictMode=true\nthird=y\n"));
         QVERIFY(!store.problem());
-        QCOMPARE(::chmod(qPrintable(home.folder()), 0500), 0); // it begins again: that is news
+        QCOMPARE(::chmod(qPrintable(home.folder()), 0500), 0); // the failure begins again, which is
+                                                               // news
         store.setString(key, QStringLiteral("z"));
         QVERIFY(store.problem());
         QCOMPARE(::chmod(qPrintable(home.folder()), 0700), 0);

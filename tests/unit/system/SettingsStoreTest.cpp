@@ -32,7 +32,7 @@ private Q_SLOTS:
         QCOMPARE(home.content(), QByteArray("[General]\nstrictMode=true\n"));
         QCOMPARE(home.mode(home.path()), 0600);
         QCOMPARE(home.mode(home.folder()), 0700);
-        QCOMPARE(home.files(), QStringList(QStringLiteral("veldmark.conf"))); // nothing left over
+        QCOMPARE(home.files(), QStringList(QStringLiteral("veldmark.conf"))); // no leftovers
         QVERIFY(!store.problem());
         QCOMPARE(SettingsStore(home.profile).boolean(strict), true);
     }

@@ -26,7 +26,7 @@ private Q_SLOTS:
         QSignalSpy received(&watcher, &SignalWatcher::received);
         const QList<int> numbers = {SIGINT, SIGTERM, SIGHUP, SIGINT};
         for (const int number : numbers) {
-            // else it would end the test
+            // otherwise the signal would end the test
             QVERIFY(handlerOf(number) != SIG_DFL && handlerOf(number) != SIG_IGN);
             QCOMPARE(::raise(number), 0);
         }

@@ -12,8 +12,8 @@ namespace veldmark {
 
 constexpr uid_t somebody = 1000;
 
-// A system of stand-in programs in a temporary folder. Each writes its arguments, ended by NULs,
-// to "NAME.args", then says and returns what the test has laid down.
+// A system of stand-in programs in a temporary folder. Each writes its NUL-terminated arguments to
+// "NAME.args", then prints and returns what the test has defined.
 class StandIns {
 public:
     explicit StandIns(bool linux)
@@ -32,7 +32,7 @@ public:
             qFatal("cannot write %s", qPrintable(path));
     }
 
-    // Program `path` notes its arguments and runs the shell commands `then`.
+    // The program at `path` records its arguments and runs the shell commands `then`.
     void program(const QString &path, const QByteArray &then) const
     {
         const QByteArray record = recordOf(path).toUtf8();

@@ -18,7 +18,7 @@ namespace veldmark {
 inline const QString key = QStringLiteral("aKey");
 inline const QString strict = QStringLiteral("strictMode");
 
-// A home of its own. Permissions mean nothing to root, so a test run by root gives up its rights
+// A home of its own. Permissions do not limit root, so a test that runs as root drops its rights
 // until the end of the test.
 class TemporaryHome {
 public:
@@ -71,7 +71,7 @@ public:
     const PlatformProfile profile;
 };
 
-// While it lives, this process can write no file beyond so many bytes, as on a full disk.
+// During its lifetime this process can write no file beyond this many bytes, as on a full disk.
 class FullDisk {
 public:
     explicit FullDisk(rlim_t bytes)

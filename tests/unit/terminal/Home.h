@@ -15,7 +15,7 @@ namespace veldmark {
 
 inline const QString exitCheck = QStringLiteral("https://check.example/api/ip");
 
-// A home and one system's files below a temporary folder.
+// A home and a system's files below a temporary folder.
 class Home {
 public:
     explicit Home(bool isMac = false) : m_places(Places::below(m_folder.path()))
@@ -81,7 +81,7 @@ struct Ended {
     QByteArray errors;
 };
 
-// Runs a program to its end; an empty environment but for what is given.
+// Runs a program to its end, with only the given environment.
 inline Ended run(const QString &program, const QStringList &arguments,
                  const QProcessEnvironment &environment = {}, const QByteArray &input = {})
 {

@@ -10,7 +10,7 @@ using namespace veldmark;
 namespace {
 
 // A home with terminal mode installed, and real shells in it. The lines of a script are typed at an
-// interactive shell, one after the other: before each it shows a prompt and so runs its hooks. `on`
+// interactive shell one by one. Before each line it shows a prompt and so runs its hooks. `on`
 // and `off` in a script connect and disconnect.
 struct Shell {
     explicit Shell(bool isMac = false) : home(isMac) { }
@@ -41,7 +41,7 @@ struct Shell {
                                   : line;
             typed += '\n';
         }
-        // zsh reads the computer's own start-up files first; they are no part of this.
+        // zsh would read the computer's own start-up files first; they are left out.
         const QStringList noGlobals = shell == u"zsh" ? QStringList{QStringLiteral("-d")}
                                                       : QStringList();
         const Ended ended = run(QStringLiteral("/usr/bin/") + shell,
@@ -57,7 +57,7 @@ struct Shell {
     }
 
     Home home;
-    QByteArray errors; // of the last script: prompts too
+    QByteArray errors; // the last script's output, with prompts
 };
 
 const QString proxy = QStringLiteral("socks5h://127.0.0.1:9050");
@@ -92,7 +92,8 @@ class ShellHooksTest : public QObject {
         }
     }
 
-    // On the Mac a bash that is no login shell reads none of the files; it gets the block's line.
+    // On the Mac a bash that is no login shell reads none of the files, so the test gives it the
+    // block's line.
     static void prepare(Shell &shell, const QString &program, bool isMac,
                         const QByteArray &own = {})
     {
@@ -216,7 +217,7 @@ private Q_SLOTS:
         QFETCH(QStringList, said);
         Shell s(isMac);
         prepare(s, QStringLiteral("bash"), isMac, own);
-        // Read twice, the file hooks itself in once.
+        // A file that is read twice adds its hook once.
         const QByteArray script
             = ". \"$HOME/.veldmark/shell.sh\"\necho \"=hooks $(declare -p PROMPT_COMMAND | grep -o _veldmark_sync | wc -l)\"\non\necho \"=$ALL_PROXY\"";
         const QStringList seen = s.type(QStringLiteral("bash"), script);
@@ -321,7 +322,8 @@ private Q_SLOTS:
         QVERIFY2(QFile::exists(ssh), "needs the package openssh-client");
         QProcessEnvironment environment = with(QStringLiteral("HOME"), s.home.path(QString()));
         environment.insert(QStringLiteral("SHELL"), QStringLiteral("/bin/sh"));
-        // ssh looks for "~" in the account, not in the environment, so it is given the file itself.
+        // ssh takes "~" from the account, not from the environment, so the test names the file
+        // itself.
         const auto command = [&] {
             const Ended ended = run(ssh,
                                     {QStringLiteral("-G"), QStringLiteral("-F"),

@@ -91,7 +91,7 @@ private Q_SLOTS:
         const QString folder = home.profile.places.root + QStringLiteral("/usr/bin/");
         QFile::remove(folder + QStringLiteral("nc"));
         SocksSearch search(home.profile);
-        QVERIFY(search.isKnown()); // there is nobody to ask
+        QVERIFY(search.isKnown()); // there is no program to ask
         const QString asked = folder + QStringLiteral("asked"), go = folder + QStringLiteral("go");
         const QByteArray wait = "echo x >>'" + asked.toUtf8() + "'\nwhile [ ! -e '" + go.toUtf8()
             + "' ]; do sleep 0.01; done";
@@ -99,7 +99,7 @@ private Q_SLOTS:
         QVERIFY(!search.isKnown());
         const auto first = search.ask();
         const auto second = search.ask();               // shares that run
-        QVERIFY(!first.isReady() && !second.isReady()); // and this thread goes on
+        QVERIFY(!first.isReady() && !second.isReady()); // and this thread continues
         QTRY_VERIFY(QFile::exists(asked));
         home.file(go, {});
         QTRY_VERIFY(first.isReady() && second.isReady());

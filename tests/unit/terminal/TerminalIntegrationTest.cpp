@@ -156,7 +156,7 @@ private Q_SLOTS:
         QVERIFY(home.content(sshConfig) == text);
         QCOMPARE(home.mode(zshrc), mode_t(0644));
         QCOMPARE(home.mode(sshConfig), mode_t(0640));
-        // nothing left over
+        // no leftovers
         QCOMPARE(home.names(QStringLiteral(".ssh")), QStringList{QStringLiteral("config")});
     }
 
@@ -234,7 +234,7 @@ private Q_SLOTS:
                  home.path(zshrc) + QStringLiteral(" is read-only."));
         QCOMPARE(home.content(zshrc), QByteArray("a\n"));
         QCOMPARE(home.content(bashrc), QByteArray("b\n"));
-        // The files written before stay, and the rest follows once the obstacle is gone.
+        // Files that were written before stay, and the others follow once the obstacle has gone.
         QVERIFY(home.has(QStringLiteral(".veldmark/ssh_config")));
         ::chmod(QFile::encodeName(home.path(zshrc)).constData(), 0644);
         QVERIFY(terminal(home).install());

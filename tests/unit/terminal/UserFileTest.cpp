@@ -52,7 +52,7 @@ private Q_SLOTS:
         QCOMPARE(home.names(QString()), QStringList{QStringLiteral("f")});
     }
 
-    // Only root can lay this out: another user's file that this one may write.
+    // Only root can set this up: another user's file that this user may write.
     void leavesAnotherUsersFileAlone()
     {
         if (::geteuid() != 0) {
@@ -221,7 +221,7 @@ private Q_SLOTS:
             sawTwo = sawTwo || seen == two;
             torn += seen != one && seen != two;
         }
-        // Killed at whatever point it has reached, it leaves one or the other.
+        // A kill at any point leaves either the old or the new file.
         ::kill(writer, SIGKILL);
         int status = 0;
         ::waitpid(writer, &status, 0);

@@ -34,7 +34,7 @@ private Q_SLOTS:
     {
         StandInSession session(profile);
         ApplicationChoices choices(session);
-        QCOMPARE(choices.rowCount(), 0); // until somebody wants to see them
+        QCOMPARE(choices.rowCount(), 0); // until a view asks for them
         choices.refresh();
         QCOMPARE(names(choices),
                  QStringList(
@@ -74,7 +74,7 @@ private Q_SLOTS:
         QVERIFY(session.now().choices.bypassApps.isEmpty());
     }
 
-    // Somebody else may have chosen it, in the sheet or over the command line.
+    // The user may have chosen it in the sheet or over the command line.
     void whatIsChosenElsewhereIsToldToTheRows()
     {
         StandInSession session(profile);

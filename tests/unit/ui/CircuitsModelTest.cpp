@@ -87,7 +87,7 @@ private Q_SLOTS:
         QVERIFY(model.steps().isEmpty());
     }
 
-    // Their rows' looks hang on it.
+    // The rows' appearance depends on it.
     void whatIsFollowedIsToldToTheRows()
     {
         StandInSession session(profile);
@@ -157,7 +157,7 @@ private Q_SLOTS:
         }
         QCOMPARE(shown.join(u' '), after);
         QCOMPARE(resets.count(), 0);
-        for (const auto &[index, id] : rows) { // a row that stays is the same row
+        for (const auto &[index, id] : rows) { // a remaining row is the same row
             QCOMPARE(index.isValid(), shown.contains(id));
             if (index.isValid())
                 QCOMPARE(model.data(index, CircuitsModel::IdRole).toString(), id);
@@ -182,7 +182,7 @@ private Q_SLOTS:
         model.setSeen(true);
         QCOMPARE(read(), 1);
         QVERIFY(ticks->isActive());
-        ticks->start(0); // as if the time were over
+        ticks->start(0); // as if the interval had passed
         QVERIFY(QTest::qWaitFor([&] { return read() > 1; }));
         Snapshot s = connectedWith({});
         s.isOptimizing = true;
@@ -190,7 +190,7 @@ private Q_SLOTS:
         const auto before = read();
         s.isOptimizing = false;
         session.show(s);
-        QCOMPARE(read(), before + 1); // the paths are others now
+        QCOMPARE(read(), before + 1); // the paths have changed
         session.show(s);
         QCOMPARE(read(), before + 1);
         session.show(Snapshot());

@@ -37,7 +37,7 @@ private Q_SLOTS:
         const QAbstractItemModelTester tester(
             &model, QAbstractItemModelTester::FailureReportingMode::QtTest);
         QCOMPARE(model.rowCount(), 0);
-        QCOMPARE(model.verdict(), QStringLiteral("Nothing was found out."));
+        QCOMPARE(model.verdict(), QStringLiteral("The check gave no result."));
         Snapshot snapshot;
         snapshot.isExamining = true;
         session.show(snapshot);
@@ -59,21 +59,21 @@ private Q_SLOTS:
                               QStringLiteral("Tor 0.4.7 is installed: %1.")}));
         QCOMPARE(levels,
                  (QStringList{QStringLiteral("Problem"), QStringLiteral("Not known"),
-                              QStringLiteral("Note"), QStringLiteral("In order")}));
+                              QStringLiteral("Note"), QStringLiteral("OK")}));
         QCOMPARE(commands,
                  (QStringList{{}, QStringLiteral("sudo timedatectl set-ntp true"), {}, {}}));
         QCOMPARE(
             buttons,
             (QStringList{QStringLiteral("Download"), {}, QStringLiteral("Restore Network"), {}}));
         QCOMPARE(model.verdict(),
-                 QStringLiteral("Veldmark can't connect before each problem is mended."));
+                 QStringLiteral("Veldmark can't connect until each problem is fixed."));
         snapshot.findings.pop_back();
         session.show(snapshot);
         QCOMPARE(model.verdict(),
-                 QStringLiteral("Nothing was found that keeps Veldmark from connecting."));
+                 QStringLiteral("No problem was found that keeps Veldmark from connecting."));
         snapshot.findings.front().mayBlock = true;
         session.show(snapshot);
-        QCOMPARE(model.verdict(), QStringLiteral("Whether a connect can work isn't known."));
+        QCOMPARE(model.verdict(), QStringLiteral("It isn't known whether a connect can work."));
     }
 
     void pressesWhatMendsIt()

@@ -41,7 +41,7 @@ public Q_SLOTS:
     void openFolder(const QUrl &url) { opened << url.toLocalFile(); }
 
 private Q_SLOTS:
-    // nobody is there
+    // no view is attached
     void initTestCase() { qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere/bus"); }
     void init() { profile.runDirectory = QStringLiteral("/run/tor"); }
 
@@ -92,7 +92,7 @@ private Q_SLOTS:
         QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("10\n11"));
         model.copy(1, 1);
         QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("11"));
-        // Rows that have gone since they were chosen: what is left of them.
+        // Rows that were removed since they were chosen are skipped.
         model.copy(-3, 0);
         QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("10"));
         model.copy(1, 7);
@@ -141,7 +141,7 @@ private Q_SLOTS:
         english.setSearch(QStringLiteral("bağlantı"));
         const int otherwise = english.rowCount();
         QLocale::setDefault(before);
-        QCOMPARE(otherwise, 0); // there the capital of ı is another letter
+        QCOMPARE(otherwise, 0); // in this locale the capital of ı is another letter
         QCOMPARE(found, 1);
     }
 
@@ -175,7 +175,7 @@ private Q_SLOTS:
         QVERIFY2(model.revealProblem().startsWith(QStringLiteral("No file manager")),
                  qPrintable(model.revealProblem()));
 
-        // Where the desktop opens folders, that is what happens.
+        // A desktop that opens folders opens this one.
         QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openFolder");
         model.reveal();
         QTRY_COMPARE(opened, QStringList(profile.runDirectory));

@@ -92,7 +92,7 @@ private Q_SLOTS:
     void saysWhichProgramsTheUsersOwnBridgesNeed_data()
     {
         QTest::addColumn<QString>("line");
-        QTest::addColumn<QString>("program"); // the one that makes it work; empty: none is needed
+        QTest::addColumn<QString>("program"); // the program that it needs; empty: none
         const QString key = QStringLiteral(" 0123456789ABCDEF0123456789ABCDEF01234567");
         QTest::newRow("plain") << QStringLiteral("192.0.2.1:443") << QString();
         QTest::newRow("obfs4") << QStringLiteral("obfs4 192.0.2.1:443") + key
@@ -332,7 +332,7 @@ private Q_SLOTS:
         s.activeMode = RoutingMode::strict;
         session.show(s);
         QVERIFY(options.strictMode());
-        s.activeMode = RoutingMode::proxy; // left over: what is chosen is for the next one
+        s.activeMode = RoutingMode::proxy; // a leftover session: the choice applies to the next one
         s.phase = Phase::stale;
         session.show(s);
         QVERIFY(options.strictMode());

@@ -38,7 +38,7 @@ class PanelModelTest : public QObject {
 
     PlatformProfile profile = PlatformProfile::linux(Places::below(QStringLiteral("/nowhere")));
 
-    // The ten seconds have passed, as the timer's own signal says.
+    // Emits the timer's signal: the ten seconds have passed.
     static void runOut(PanelModel &panel)
     {
         auto *timer = panel.findChild<QTimer *>();
@@ -83,7 +83,7 @@ private Q_SLOTS:
         session.show(s);
         QVERIFY(panel.waitingFor().isEmpty());
         QTRY_VERIFY(panel.waitingFor().startsWith(QStringLiteral("Tor hasn't reported progress")));
-        session.show(s); // the same again is no progress
+        session.show(s); // the same value again is no progress
         QVERIFY(!panel.waitingFor().isEmpty());
         stillness->setInterval(10'000);
         s.bootstrapProgress = 0.2;
@@ -149,6 +149,9 @@ private Q_SLOTS:
         s.torPath.reset();
         row("no tor", s, Tone::Neutral, "shield.slash", "Not Protected", "Connect to Tor", false,
             "Install Tor to get started");
+        s.isTorRefused = true; // the press brings the reason
+        row("a location of tor that a connect refuses", s, Tone::Neutral, "shield.slash",
+            "Not Protected", "Connect to Tor", true, "Click to connect");
         s = idle();
         s.phase = Phase::connecting;
         row("connecting, not to be cancelled", s, Tone::Accent, "shield.lefthalf.filled",
@@ -175,7 +178,7 @@ private Q_SLOTS:
             "Disconnect", true, "Click to disconnect");
         s = connected(RoutingMode::strict);
         s.killSwitch->state = KillSwitch::State::open;
-        row("strict, open", s, Tone::Danger, "exclamationmark.shield", "Kill Switch Open",
+        row("strict, open", s, Tone::Danger, "exclamationmark.shield", "Kill Switch Failed",
             "Disconnect", true, "Click to disconnect");
         s.killSwitch.reset();
         row("strict, nobody has looked", s, Tone::Warning, "exclamationmark.shield",
@@ -208,7 +211,7 @@ private Q_SLOTS:
         QTEST(panel.footnote(), "footnote");
     }
 
-    // Every phase, mode and verdict there is: what looks or sounds safe must have been verified.
+    // All phases, modes and verdicts: a display that looks or sounds safe needs verified facts.
     void neverPromisesMoreThanWasVerified()
     {
         using Tone = PanelModel::Tone;
@@ -264,7 +267,7 @@ private Q_SLOTS:
         QVERIFY(green > 0);
     }
 
-    // A second attempt begins with a patience of its own.
+    // A second attempt starts its own ten seconds.
     void forgetsAnEarlierAttemptsStandstill()
     {
         StandInSession session(profile);
@@ -317,7 +320,7 @@ private Q_SLOTS:
                          QStringLiteral("de")}};
         CircuitInfo onion = circuit;
         onion.onionService = QStringLiteral("abc.onion");
-        s.circuits = {onion}; // its last relay lets nothing out
+        s.circuits = {onion}; // its last relay is no exit
         session.show(s);
         QCOMPARE(panel.exitCountry(), QString());
         s.circuits = {circuit};
@@ -360,7 +363,7 @@ private Q_SLOTS:
         QVERIFY(session.asked.isEmpty());
     }
 
-    // It would be refused: the session belongs to a process that runs.
+    // It would be refused: the session belongs to a running process.
     void offersNoReconnectOverAnothersSession()
     {
         StandInSession session(profile);
@@ -376,7 +379,7 @@ private Q_SLOTS:
         QVERIFY(!panel.powerEnabled() && panel.powerLabel().isEmpty());
         panel.pressPower();
         QVERIFY(session.asked.isEmpty());
-        QVERIFY(panel.canRestore()); // which ends it
+        QVERIFY(panel.canRestore()); // this ends that session
     }
 
     void namesTheModeOrTheBridge()
@@ -400,7 +403,7 @@ private Q_SLOTS:
             QCOMPARE(panel.pillText(),
                      QStringLiteral("Connected through %1 bridges").arg(QLatin1String(name)));
         }
-        s.phase = Phase::connecting; // nobody is connected through anything yet
+        s.phase = Phase::connecting; // there is no connection yet
         session.show(s);
         QCOMPARE(panel.pillText(), QStringLiteral("Proxy"));
     }
@@ -441,7 +444,7 @@ private Q_SLOTS:
         row("inconclusive", Leak::Kind::inconclusive, QStringLiteral("Inconclusive"), tries);
         row("blocked", Leak::Kind::blocked, QStringLiteral("No answer"),
             QStringLiteral(
-                "A direct connection that skips Tor got no answer, but proxy mode doesn't close that path"));
+                "A direct connection that skips Tor got no answer, but proxy mode doesn't block such connections"));
         row("exposed", Leak::Kind::exposed, QStringLiteral("Exposed: 198.51.100.1"),
             QStringLiteral(
                 "Apps that ignore proxy settings show your real IP (198.51.100.1). Turn on "
@@ -483,7 +486,8 @@ private Q_SLOTS:
             session.show(s);
             QCOMPARE(panel.leakText(), QStringLiteral("No answer"));
             QCOMPARE(panel.leakTone(), PanelModel::Tone::Neutral);
-            QVERIFY(panel.leakHelp().contains(QStringLiteral("isn't known to close that path")));
+            QVERIFY(panel.leakHelp().contains(
+                QStringLiteral("isn't known whether the kill switch blocks such connections")));
         }
         s.killSwitch.reset();
         session.show(s);

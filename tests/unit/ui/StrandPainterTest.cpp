@@ -25,7 +25,7 @@ QImage strand(const Strand &what, double scale = 1, QSize size = {300, 200})
     return image;
 }
 
-// The same curve as QPainter strokes it.
+// The same curve, stroked by QPainter.
 QImage stroked(const Strand &what)
 {
     QImage image = paper();
@@ -80,7 +80,7 @@ private Q_SLOTS:
                          QColor(Qt::black)};
         const QImage ours = strand(one);
         const QImage theirs = stroked(one);
-        QVERIFY(ink(theirs) > 50); // there is something to compare
+        QVERIFY(ink(theirs) > 50); // the comparison is not empty
         QVERIFY2(std::abs(ink(ours) / ink(theirs) - 1) < 0.05,
                  qPrintable(QStringLiteral("%1 of ink, not %2").arg(ink(ours)).arg(ink(theirs))));
         int far = 0;

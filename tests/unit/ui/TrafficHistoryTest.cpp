@@ -17,7 +17,7 @@ private Q_SLOTS:
     {
         TrafficHistory history;
         history.add(1000, 100, start);
-        QVERIFY(history.samples().empty()); // one reading is no rate
+        QVERIFY(history.samples().empty()); // one reading gives no rate
         history.add(5000, 300, start + 2s);
         QCOMPARE(history.samples().size(), size_t(1));
         QCOMPARE(history.samples().front().down, 2000.0);

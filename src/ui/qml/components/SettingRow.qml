@@ -47,7 +47,7 @@ Item {
             color: row.subtitleColor
         }
     }
-    Side {
+    TrailingItems {
         id: side
         anchors { right: parent.right; verticalCenter: parent.verticalCenter }
     }

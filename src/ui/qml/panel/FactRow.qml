@@ -33,7 +33,7 @@ T.Control {
             text: fact.title
             color: Theme.quiet
         }
-        Side {
+        TrailingItems {
             id: side
             anchors { right: parent.right; verticalCenter: parent.verticalCenter }
         }

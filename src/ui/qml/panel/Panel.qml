@@ -42,7 +42,7 @@ Rectangle {
                     fill: Theme.surface
                     text: qsTr("Find the Cause")
                     symbol: "stethoscope"
-                    help: qsTr("Looks at this computer: what a connection needs, what is in its way, and what mends it")
+                    help: qsTr("Checks what a connection needs on this computer, what blocks it and how to fix it")
                     onClicked: doctor.open()
                 }
                 PushButton {

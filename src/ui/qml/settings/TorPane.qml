@@ -55,7 +55,7 @@ Pane {
             onWanted: on => pane.model.separateApps = on
         }
         Note {
-            text: qsTr("Sites cannot tell by the exit address that two applications are yours. Applications are told apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with all of their login session or account.")
+            text: qsTr("Sites cannot tell by the exit address that two applications are yours. Veldmark tells applications apart where the desktop starts each in a control group of its own, as GNOME and KDE do. Other programs share circuits with the rest of their login session or account.")
         }
     }
 }

@@ -1,5 +1,5 @@
-// What is used of Apple's ServiceManagement framework, declared from its public documentation, for
-// the syntax check only: there are no free headers of it.
+// The used part of Apple's ServiceManagement framework, declared from its public documentation for
+// the syntax check: it has no free headers.
 #import <Foundation/Foundation.h>
 
 typedef NS_ENUM(NSInteger, SMAppServiceStatus) {

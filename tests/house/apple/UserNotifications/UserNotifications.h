@@ -1,5 +1,5 @@
-// The part of Apple's UserNotifications that is used, declared from its public documentation, for
-// the syntax check.
+// The used part of Apple's UserNotifications, declared from its public documentation for the syntax
+// check.
 #import <Foundation/Foundation.h>
 
 typedef NS_ENUM(NSUInteger, UNAuthorizationOptions) { UNAuthorizationOptionAlert = 1 << 2 };

@@ -1,1 +1,1 @@
-// What the free runtime has of its own for blocks; the syntax check needs none of it.
+// The free runtime has a header of its own for blocks; the syntax check needs nothing of it.

@@ -1,0 +1,93 @@
+
+# ---- Linux: applications that bypass Tor -------------------------------------------------------------------
+# They run in their own control group, directly below the root of the cgroup v2 tree. Only root can put processes into it. The firewall
+# accepts packets of sockets made in the group. Children stay in it. The group is made before the rules that name it and removed at
+# disconnect.
+
+readonly BYPASS_ENTRY=12-bypass
+readonly BYPASS_NAME=veldmark-bypass
+
+BYPASS_FOLDER=''   # the group's folder; empty on a system without cgroup v2
+BYPASS_PATH=''     # the folder's path below $CGROUPS; empty when the rules must not name it
+
+# find_bypass: sets BYPASS_FOLDER.
+find_bypass() {
+  BYPASS_FOLDER=''
+  find_tree || return 1
+  BYPASS_FOLDER=$TREE/$BYPASS_NAME
+}
+
+# make_bypass: makes the group if it is missing, and sets BYPASS_PATH. It is empty when the group cannot be made; then no application
+# bypasses Tor.
+make_bypass() {
+  BYPASS_PATH=''
+  { find_bypass && make_group "$BYPASS_NAME"; } || return 0
+  [[ $(stat -c '%u %a' -- "$BYPASS_FOLDER") == "0 755" ]] || return 0
+  BYPASS_PATH=${BYPASS_FOLDER#"$CGROUPS"/}
+  rules_can_name "$BYPASS_PATH" 1 || BYPASS_PATH=''
+}
+
+put_bypass() {
+  find_bypass || return 0
+  journal_has "$BYPASS_ENTRY" || journal_put "$BYPASS_ENTRY" "group $BYPASS_NAME" || die "The journal cannot be written."
+  make_bypass
+}
+
+# undo_bypass: moves the group's remaining processes to the caller's group, where they go on. They need no bypass after the session.
+undo_bypass() {
+  local round pid home
+  find_bypass && [[ -d $BYPASS_FOLDER ]] || return 0
+  home=${HOME_GROUP:-$TREE}
+  [[ $home != "$BYPASS_FOLDER" ]] || home=$TREE
+  for ((round = 0; round < MOVE_ROUNDS; round++)); do
+    while read -r pid; do
+      printf '%s\n' "$pid" >"$home/cgroup.procs" || printf '%s\n' "$pid" >"$TREE/cgroup.procs" || true
+    done <"$BYPASS_FOLDER/cgroup.procs"
+    rmdir -- "$BYPASS_FOLDER" && return 0
+    sleep 0.02
+  done
+  UNDONE="The control group of the applications without Tor could not be removed."
+  return 1
+}
+
+# Runs as root in the new mount namespace: RESOLVERS TARGET COMMAND... COMMAND gives up root. DNS lookups use the resolvers from before the
+# switch.
+# shellcheck disable=SC2016
+readonly UNSHARED='
+set -eu
+if [ -n "$2" ] && [ -e "$2" ] && [ -e "$1" ]; then mount --bind -- "$1" "$2"; fi
+shift 2
+for socket in /run/systemd/resolve/io.systemd.Resolve /run/nscd/socket; do
+  if [ -S "$socket" ]; then mount --bind /dev/null "$socket"; fi
+done
+exec "$@"
+'
+
+# run_launcher PATH: becomes the launcher, in a subshell: enters the control group, then sets group, groups and user.
+run_launcher() {
+  local groups
+  groups=$(id -G -- "$CALLER_NAME") && [[ $groups =~ ^[0-9\ ]+$ ]] || return 1
+  printf '0\n' >"$BYPASS_FOLDER/cgroup.procs" || return 1
+  exec 8>&- 9>&-
+  exec timeout -k 1 "$LAUNCHER_SECONDS" env -i --default-signal PATH="$PATH" LC_ALL=C \
+    unshare --mount --propagation slave /bin/bash -p -c "$UNSHARED" unshared "$TOR_RESOLVER" "$RESOLVER_TARGET" \
+    setpriv --regid "$CALLER_GID" --groups "${groups// /,}" \
+    setpriv --reuid "$CALLER_UID" --inh-caps=-all --ambient-caps=-all \
+    env -i "$LAUNCHER" --app "$1"
+}
+
+# find_launcher: sets LAUNCHER.
+find_launcher() { choose_launcher "${SELF%/*}/veldmark-launch" /usr/bin/veldmark-launch; }
+
+# bypass_stands: whether the rules in force let the group bypass Tor.
+bypass_stands() {
+  find_bypass && [[ -d $BYPASS_FOLDER && $(<"$RULES") == *"\"${BYPASS_FOLDER#"$CGROUPS"/}\""* ]]
+}
+
+linux_launch() {
+  check_launch "$@"
+  need_programs flock nft setpriv unshare mount stat timeout
+  ready_launch
+  read_resolver
+  open_application
+}

@@ -1,0 +1,66 @@
+#include "controller/NetworkRestorer.h"
+
+#include "controller/TorController.h"
+
+#include <QPointer>
+
+namespace veldmark {
+
+NetworkRestorer::NetworkRestorer(TorController &controller) : m_controller(controller)
+{
+    // Queued: by then the operation has set all its fields.
+    for (const Field *field :
+         std::initializer_list<const Field *>{&controller.phase, &controller.canCancel})
+        QObject::connect(field, &Field::changed, this, &NetworkRestorer::proceed,
+                         Qt::QueuedConnection);
+}
+
+void NetworkRestorer::begin()
+{
+    if (m_wanted)
+        return;
+    m_wanted = true;
+    QMetaObject::invokeMethod(this, &NetworkRestorer::proceed, Qt::QueuedConnection);
+}
+
+void NetworkRestorer::proceed()
+{
+    if (!m_wanted || m_disconnecting)
+        return;
+    const ConnectionPhase phase = m_controller.phase();
+    const bool busy = phase == ConnectionPhase::disconnecting
+        || (phase == ConnectionPhase::connecting && !m_controller.canCancel());
+    if (busy)
+        return; // the next change of phase calls again
+    if (isDone())
+        finish();
+    else
+        disconnect();
+}
+
+QCoro::Task<void> NetworkRestorer::disconnect()
+{
+    const QPointer<NetworkRestorer> self(this);
+    m_disconnecting = true;
+    m_controller.dismissError(); // a later banner is about this disconnect
+    co_await m_controller.restore();
+    if (!self)
+        co_return;
+    m_disconnecting = false;
+    finish();
+}
+
+void NetworkRestorer::finish()
+{
+    m_wanted = false;
+    Q_EMIT finished(isDone());
+}
+
+// Also true when another process has replaced this session and this process has not noticed yet.
+bool NetworkRestorer::isDone() const
+{
+    return m_controller.phase() == ConnectionPhase::disconnected
+        || SessionOwner::ofAnotherProcess(m_controller.profile());
+}
+
+} // namespace veldmark
