@@ -159,8 +159,8 @@ verify_bundle() {
   in_path gpgv && in_path tar && in_path gzip || return 1
   clear_bundle
   mkdir -m 0750 -- "$BUNDLE" && chown -- "0:$NO_ACCOUNT" "$BUNDLE" || return 1
-  copy_to_bundle "$OPT_BUNDLE.key" key "$MAX_KEY_BYTES" 2 && holds_signers_key "$BUNDLE/key" || return 1
-  copy_to_bundle "$OPT_BUNDLE.asc" signature "$MAX_KEY_BYTES" 2 && copy_to_bundle "$OPT_BUNDLE" archive "$MAX_BUNDLE_BYTES" 5 || return 1
+  copy_to_bundle "$OPT_BUNDLE.key" key "$MAX_KEY_BYTES" 5 && holds_signers_key "$BUNDLE/key" || return 1
+  copy_to_bundle "$OPT_BUNDLE.asc" signature "$MAX_KEY_BYTES" 5 && copy_to_bundle "$OPT_BUNDLE" archive "$MAX_BUNDLE_BYTES" 5 || return 1
   verdict=$(as_no_account 10 gpgv --homedir /nonexistent --status-fd 1 --keyring "$BUNDLE/key" -- "$BUNDLE/signature" "$BUNDLE/archive" \
     </dev/null | take_output 12 65536) || true   # its status is not 0 for an expired key either
   read_verdict "$verdict" || return 1

@@ -190,31 +190,31 @@ class Speed(LabCase):
             self.assertEqual(session.interrupt(), 0, session.output)
         self.assert_restored()
 
+    def attempt(self, speed):
+        """Connects on a clock that runs `speed` times as fast; the state after that."""
+        environment = {"VELDMARK_PROGRAMS": PROGRAMS, "VELDMARK_SPEED": speed}
+        return json.loads(self.lab.host.run([FAST_FORWARD, "connect"], check=True, timeout=120, env=environment).stdout)
+
     def test_a_path_that_stays_slow_is_given_up_after_four_tries(self):
         self.set("optimizeSpeed", "true")
         with self.product.session() as session:  # leaves a cached network for the next session
             session.wait_phase("connected")
         with self.lab.netem(delay_ms=100):  # 20 times as long on the fast clock
-            ended = self.lab.host.run(
-                [FAST_FORWARD, "connect"], check=True, timeout=120, env={"VELDMARK_PROGRAMS": PROGRAMS, "VELDMARK_SPEED": 20}
-            )
-        state = json.loads(ended.stdout)
+            state = self.attempt(20)
         self.assertEqual(state["phase"], "connected")
         self.assertGreaterEqual(state["latencyMs"], SLOW_MS)
-        self.assertEqual((state["isOptimizing"], state["optimizeStatus"]), (False, None))
+        self.assertEqual((state["isOptimizing"], state["optimizeStatus"], state["sought"]), (False, None, True))
         # Tor does not grant three new identities in such a short time at once, and says so.
         self.assertIn("Rate limiting NEWNYM request", self.lab.host.read("/var/lib/veldmark/run/notices.log"))
         self.assert_restored()
 
     def test_a_fast_path_is_kept(self):
+        """On a slow clock, by which no path is slow: a busy computer may take seconds to answer."""
         self.set("optimizeSpeed", "true")
-        seen = []
-        with self.product.session() as session:
-            state = session.wait(
-                lambda s: seen.append(s["optimizeStatus"]) or (s["phase"] == "connected" and not s["isChecking"] and s["exitIP"])
-            )
-            self.assertLess(state["latencyMs"], SLOW_MS)
-            self.assertEqual(set(seen), {None})
+        state = self.attempt(0.1)
+        self.assertEqual(state["phase"], "connected")
+        self.assertLess(state["latencyMs"], SLOW_MS)
+        self.assertEqual((state["isOptimizing"], state["optimizeStatus"], state["sought"]), (False, None, False))
         self.assert_restored()
 
 
