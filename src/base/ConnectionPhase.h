@@ -15,4 +15,10 @@ enum class ConnectionPhase {
 };
 Q_ENUM_NS(ConnectionPhase)
 
+// Whether another phase follows without a user's doing.
+constexpr bool isChanging(ConnectionPhase phase)
+{
+    return phase == ConnectionPhase::connecting || phase == ConnectionPhase::disconnecting;
+}
+
 } // namespace veldmark

@@ -27,10 +27,7 @@ void NetworkRestorer::proceed()
 {
     if (!m_wanted || m_disconnecting)
         return;
-    const ConnectionPhase phase = m_controller.phase();
-    const bool busy = phase == ConnectionPhase::disconnecting
-        || (phase == ConnectionPhase::connecting && !m_controller.canCancel());
-    if (busy)
+    if (isChanging(m_controller.phase()) && !m_controller.canCancel())
         return; // the next change of phase calls again
     if (isDone())
         finish();

@@ -49,14 +49,12 @@ Verdict TorController::verdict() const
 
 bool TorController::optionsLocked() const
 {
-    return phase() == ConnectionPhase::connecting || phase() == ConnectionPhase::connected
-        || phase() == ConnectionPhase::disconnecting;
+    return phase() == ConnectionPhase::connected || isChanging(phase());
 }
 
 bool TorController::canDownloadTransports() const
 {
-    return !m_isDownloading && phase() != ConnectionPhase::connecting
-        && phase() != ConnectionPhase::disconnecting;
+    return !m_isDownloading && !isChanging(phase());
 }
 
 QCoro::Task<void> TorController::locateTransports()

@@ -417,10 +417,6 @@ private:
     QCoro::Task<TransportDownloader::Outcome> fetchTransports();
     void interruptDirectDownload();
     void showTransports(const PluggableTransports &found, quint64 search);
-    bool isChangingPhase() const
-    {
-        return phase() == ConnectionPhase::connecting || phase() == ConnectionPhase::disconnecting;
-    }
     // Terminal.cpp
     void applyTerminalMode();
     void setShellsActive(bool on);

@@ -45,7 +45,7 @@ QCoro::Task<TransportDownloader::Outcome> TorController::fetchTransports()
         if (!std::exchange(m_downloadInterrupted, false) || outcome)
             co_return outcome;
         transportDownload = Text::tr("The download begins again when Tor is connected…");
-        while (isChangingPhase()) {
+        while (isChanging(phase())) {
             const ResumeOnce<bool> changed;
             m_downloadWait = changed;
             const auto heard = QObject::connect(&phase, &Field::changed, this,

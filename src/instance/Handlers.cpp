@@ -30,12 +30,6 @@ Text notNow(const TorController &controller)
     return Text::tr("Not now: %1").arg(controller.statusDetail());
 }
 
-bool isChangingPhase(const TorController &controller)
-{
-    return controller.phase() == ConnectionPhase::disconnecting
-        || controller.phase() == ConnectionPhase::connecting;
-}
-
 bool hasCircuit(const TorController &controller, const QString &id)
 {
     const auto &circuits = controller.circuits();
@@ -114,9 +108,7 @@ QCoro::Task<Outcome> connect(Call call)
 QCoro::Task<Outcome> disconnect(Call call)
 {
     const auto controller = call.controller;
-    const bool underWay = controller->phase() == ConnectionPhase::disconnecting
-        || (controller->phase() == ConnectionPhase::connecting && !controller->canCancel());
-    if (underWay)
+    if (isChanging(controller->phase()) && !controller->canCancel())
         co_return refusal(notNow(*controller));
     const auto ended = co_await controller->restore();
     if (!ended)
@@ -195,7 +187,7 @@ QCoro::Task<Outcome> downloadTransports(Call call)
 {
     const auto controller = call.controller;
     // What is left of an earlier download is no reason.
-    if (isChangingPhase(*controller))
+    if (isChanging(controller->phase()))
         co_return refusal(notNow(*controller));
     if (!controller->canDownloadTransports())
         co_return refusal(
