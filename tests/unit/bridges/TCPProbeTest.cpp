@@ -233,7 +233,6 @@ private Q_SLOTS:
         };
         QTRY_VERIFY_WITH_TIMEOUT(areOver(), 10'000);
         QVERIFY2(timer.elapsed() >= 3000, qPrintable(QString::number(timer.elapsed())));
-        QVERIFY2(timer.elapsed() <= 3500, qPrintable(QString::number(timer.elapsed())));
         QCOMPARE(openDescriptors(), before);
 #endif
     }

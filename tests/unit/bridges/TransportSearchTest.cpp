@@ -145,7 +145,7 @@ private Q_SLOTS:
             const auto another = keep(search.locate(), &second);
             QTRY_VERIFY(QFile::exists(running));
             const auto task = keep(search.locateWithoutAsking(), &quick);
-            QTRY_VERIFY_WITH_TIMEOUT(quick.thread, 3000);
+            QTRY_VERIFY(quick.thread);
             QVERIFY(quick.found.lyrebird && !quick.found.snowflake);
             QVERIFY(!first.thread && !second.thread); // they do hang
         }
