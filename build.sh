@@ -22,7 +22,7 @@ usage: ./build.sh VERB
   mutate   small mistakes put into a clone of the last commit, one at a time, and which of them no test notices
            (./build.sh mutate [ROOM...] [--count N] [--seed S]; rooms are also qml, helper and helper_mac)
   fuzz     the fuzzers, an hour over all (--minutes M for another time)
-  soak     500 connects and disconnects, and two hours of a fast clock, in the private Tor network
+  soak     500 connects and disconnects, and two hours of a fast clock, in the private Tor network (--quick: some minutes)
   bench    print the benchmarks
   package  make the Debian package: build/veldmark_VERSION_ARCHITECTURE.deb
   package-test
