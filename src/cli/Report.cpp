@@ -177,6 +177,8 @@ QString status(const QJsonObject &state)
         report += row(Text::tr("Problem"), error);
     if (const QString told = terminal(state); !told.isEmpty())
         report += row(Text::tr("Terminal"), told);
+    if (const QString problem = text(state, "startupError"); !problem.isEmpty())
+        report += row(Text::tr("Settings"), problem);
     for (const QJsonValue &problem : state.value(QStringLiteral("settingsProblems")).toArray())
         report += row(Text::tr("Settings"), problem.toString());
     return report;

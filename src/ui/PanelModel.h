@@ -87,7 +87,11 @@ public:
     bool exitKnown() const { return connected() && m_session.now().exitIP; }
     QString exitCountry() const { return m_exitCountry; } // two letters, or empty
     QString exitHelp() const;
-    bool exitVerified() const { return connected() && m_session.now().torVerified == true; }
+    bool exitVerified() const
+    {
+        const Snapshot &now = m_session.now();
+        return connected() && !now.isChecking && now.torVerified == true;
+    }
     QString verification() const;
     QString leakText() const;
     QString leakHelp() const;

@@ -149,6 +149,9 @@ private Q_SLOTS:
             R"({"phase":"connected","settingsProblems":["It was damaged.","It is full."]})"));
         QVERIFY(two.endsWith(
             QStringLiteral("\n  Settings    It was damaged.\n  Settings    It is full.")));
+        QVERIFY(Report::status(
+                    object(R"({"phase":"disconnected","startupError":"Setup did not work."})"))
+                    .endsWith(QStringLiteral("\n  Settings    Setup did not work.")));
     }
 
     void saysHowToRestoreAStaleNetwork()

@@ -416,6 +416,12 @@ private Q_SLOTS:
         session.show(s);
         QCOMPARE(panel.exitAddress(), QStringLiteral("203.0.113.10"));
         QCOMPARE(panel.verification(), QStringLiteral("Verified"));
+        QVERIFY(panel.exitVerified());
+        s.isChecking = true; // the last result no longer counts
+        session.show(s);
+        QCOMPARE(panel.verification(), QStringLiteral("Checking"));
+        QVERIFY(!panel.exitVerified());
+        s.isChecking = false;
         s.torVerified = false;
         session.show(s);
         QCOMPARE(panel.verification(), QStringLiteral("Not confirmed"));
