@@ -55,18 +55,20 @@ service_with() {
   done
 }
 
-# name_holder SOCKET UID: names the process that has the socket, for a message.
+# name_holder SOCKET UID: names the process that has the socket, for a message. One program looks through all processes, of which there may
+# be thousands.
 name_holder() {
   local folder name
-  for folder in /proc/[1-9]*; do
-    has_socket "${folder#/proc/}" "$1" || continue
+  folder=$(timeout -k 1 5 find /proc/[1-9]*/fd -maxdepth 1 -lname "socket:\[$1\]" -printf '%h' -quit </dev/null || true)
+  folder=${folder%/fd}
+  if [[ -n $folder ]]; then
     { IFS= read -r name <"$folder/comm"; } 2>/dev/null || name=
     # A process may have any name.
     name=${name//[^ -~]/?}
     printf '%s (process %s)' "${name:-a program}" "${folder#/proc/}"
-    return
-  done
-  printf 'a program of the account with the id %s' "$2"
+  else
+    printf 'a program of the account with the id %s' "$2"
+  fi
 }
 
 # check_ports: sets TAKEN to the services that hold a port of Tor's. Fails, before anything is changed, when another process holds one.
