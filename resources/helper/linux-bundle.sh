@@ -15,18 +15,8 @@ readonly NO_ACCOUNT=65532   # "nobody" (65534) has other services' processes, wh
 BUNDLE_STATE=''    # "signed" or "refused" once this run has verified it
 BUNDLE_SIGNED=''   # when it was signed, in seconds since 1970
 
-# as_no_account SECONDS COMMAND...: runs it without rights, network, other processes and the helper's descriptors; it writes to standard
-# output only. The first process of its namespace is root's, so every process that the command starts ends with it.
-as_no_account() {
-  local seconds=$1
-  shift
-  # shellcheck disable=SC2016
-  timeout -k 1 "$seconds" /bin/sh -c 'exec 7>&- 9>&-; ulimit -c 0 && ulimit -f 0 && ulimit -v 2000000 && ulimit -t "$0" && exec "$@"' "$seconds" \
-    unshare --net --ipc --pid --fork --kill-child /bin/sh -c '"$@"; exit "$?"' first \
-    env -i --default-signal PATH="$PATH" LC_ALL=C HOME=/nonexistent \
-    setpriv --reuid "$NO_ACCOUNT" --regid "$NO_ACCOUNT" --clear-groups --no-new-privs --bounding-set=-all --inh-caps=-all \
-    --ambient-caps=-all "$@" 8>&-
-}
+# as_no_account SECONDS COMMAND...: runs it without rights, network, other processes and the helper's descriptors.
+as_no_account() { as_confined "$1" "$NO_ACCOUNT" "$NO_ACCOUNT" /nonexistent --net "${@:2}"; }
 
 # clear_bundle: also removes what a killed run has left.
 clear_bundle() { [[ ! -e $BUNDLE && ! -L $BUNDLE ]] || rm -rf -- "$BUNDLE"; }

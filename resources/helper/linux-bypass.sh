@@ -23,31 +23,65 @@ make_bypass() {
   BYPASS_PATH=''
   { find_bypass && make_group "$BYPASS_NAME"; } || return 0
   [[ $(stat -c '%u %a' -- "$BYPASS_FOLDER") == "0 755" ]] || return 0
+  let_bypass_run
   BYPASS_PATH=${BYPASS_FOLDER#"$CGROUPS"/}
   rules_can_name "$BYPASS_PATH" 1 || BYPASS_PATH=''
 }
 
+# put_bypass [NEW]: with NEW a session begins. What an earlier one has left in the group does not bypass Tor in this one.
 put_bypass() {
   find_bypass || return 0
+  [[ -z ${1-} ]] || undo_bypass || { BYPASS_PATH='' && return 0; }
   journal_has "$BYPASS_ENTRY" || journal_put "$BYPASS_ENTRY" "group $BYPASS_NAME" || die "The journal cannot be written."
   make_bypass
 }
 
-# undo_bypass: moves the group's remaining processes to the caller's group, where they go on. They need no bypass after the session.
+# let_bypass_run: after a disconnect that was killed while the group stood still.
+let_bypass_run() { printf '0\n' >"$BYPASS_FOLDER/cgroup.freeze" || true; }
+
+# stop_bypass: stops the group's processes, which then start no others. They go on in the group that they are moved to.
+stop_bypass() {
+  local poll
+  printf '1\n' >"$BYPASS_FOLDER/cgroup.freeze" || return 0
+  for ((poll = 0; poll < MOVE_ROUNDS; poll++)); do
+    [[ $(<"$BYPASS_FOLDER/cgroup.events") != *"frozen 1"* ]] || return 0
+    sleep 0.02
+  done
+}
+
+# undo_bypass: moves the group's remaining processes to groups of their users', where they go on. They need no bypass after the session. A
+# process that cannot be moved ends. No process goes on before the place of each is known: they may be many, and leave this run no time.
 undo_bypass() {
-  local round pid home
+  local round pid i pids places
   find_bypass && [[ -d $BYPASS_FOLDER ]] || return 0
-  home=${HOME_GROUP:-$TREE}
-  [[ $home != "$BYPASS_FOLDER" ]] || home=$TREE
+  stop_bypass
   for ((round = 0; round < MOVE_ROUNDS; round++)); do
+    ((round < 25)) || printf '1\n' >"$BYPASS_FOLDER/cgroup.kill" || true
+    pids=() places=()
     while read -r pid; do
-      printf '%s\n' "$pid" >"$home/cgroup.procs" || printf '%s\n' "$pid" >"$TREE/cgroup.procs" || true
+      real_uid "$pid"
+      group_of "$REAL_UID"
+      [[ $GROUP != "$BYPASS_FOLDER" ]] || GROUP=$TREE
+      pids[${#pids[@]}]=$pid places[${#places[@]}]=$GROUP
     done <"$BYPASS_FOLDER/cgroup.procs"
+    for ((i = 0; i < ${#pids[@]}; i++)); do
+      printf '%s\n' "${pids[i]}" >"${places[i]}/cgroup.procs" || printf '%s\n' "${pids[i]}" >"$TREE/cgroup.procs" || true
+    done
     rmdir -- "$BYPASS_FOLDER" && return 0
     sleep 0.02
   done
   UNDONE="The control group of the applications without Tor could not be removed."
   return 1
+}
+
+# real_uid PID: sets REAL_UID to the account that has started the process, whatever rights it has now; to nothing when it has ended.
+REAL_UID=''
+real_uid() {
+  local key uid
+  REAL_UID=''
+  { while read -r key uid _; do
+    [[ $key != Uid: ]] || { REAL_UID=$uid && return 0; }
+  done <"/proc/$1/status"; } 2>/dev/null || true
 }
 
 # Runs as root in the new mount namespace: RESOLVERS TARGET COMMAND... COMMAND gives up root. DNS lookups use the resolvers from before the
@@ -67,6 +101,7 @@ exec "$@"
 run_launcher() {
   local groups
   groups=$(id -G -- "$CALLER_NAME") && [[ $groups =~ ^[0-9\ ]+$ ]] || return 1
+  let_bypass_run
   printf '0\n' >"$BYPASS_FOLDER/cgroup.procs" || return 1
   exec 8>&- 9>&-
   exec timeout -k 1 "$LAUNCHER_SECONDS" env -i --default-signal PATH="$PATH" LC_ALL=C \

@@ -12,6 +12,7 @@ readonly MOVE_ROUNDS=50           # processes may fork while they are moved out
 TREE=''       # where the groups are mounted; empty on a system without cgroup v2
 TOR_PATH=''   # Tor's group below $CGROUPS; empty when the rules cannot name it: then they match the account alone
 HOME_GROUP='' # the folder of the group in which the caller started this run
+HOME_UID=''   # the caller
 UNGROUPED=''  # 1 when this run is still in the caller's group, although there are groups
 
 # find_tree: sets TREE. The tree's own root must be mounted, so that the helper's groups are of the first level.
@@ -53,6 +54,19 @@ own_group() {
   printf '%s' "$TREE$path"
 }
 
+# group_of UID: sets GROUP to the folder of a group of that user's: the one in which the caller started this run, or the one of another
+# user's systemd manager. The tree's root when there is none. In the caller's group another user's programs would be the caller's to stop.
+GROUP=''
+group_of() {
+  local managers=$TREE/user.slice/user-$1.slice/user@$1.service/init.scope
+  GROUP=$TREE
+  if [[ $1 == "$HOME_UID" ]]; then
+    GROUP=${HOME_GROUP:-$TREE}
+  elif [[ -n $TREE && -n $1 && -d $managers ]]; then
+    GROUP=$managers
+  fi
+}
+
 # leave_caller: called before the lock is taken, so that only root can stop this run while it holds the lock. Another run that ends at the
 # same time may remove the group between two of these steps. It also resets what the caller may have set: processors, shares of processor
 # and disk, timer slack, and the priority when memory runs out.
@@ -63,7 +77,7 @@ leave_caller() {
   { chrt --other --pid 0 "$$" && renice -n 0 -p "$$" && ionice --class none --pid "$$"; } >/dev/null || true
   taskset --cpu-list --pid "$(</sys/devices/system/cpu/possible)" "$$" >/dev/null || true
   find_tree || return 0
-  HOME_GROUP=$(own_group)
+  HOME_GROUP=$(own_group) HOME_UID=$CALLER_UID
   [[ -w $TREE ]] || return 0
   UNGROUPED=1
   for ((round = 0; round < MOVE_ROUNDS; round++)); do

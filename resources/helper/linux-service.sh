@@ -35,6 +35,18 @@ port_sockets() {
     /proc/net/tcp /proc/net/udp || true)
 }
 
+# wide_sockets LINES: likewise, for TCP sockets of the other family that may take connections to 127.0.0.1 as well, at those of Tor's ports
+# where LINES has no socket: beside one, the kernel allows only a socket that takes none.
+wide_sockets() {
+  local socks control port address uid socket rest
+  printf -v socks '%04X' "$SOCKS_PORT"
+  printf -v control '%04X' "$CONTROL_PORT"
+  while read -r rest address rest rest rest rest rest uid rest socket rest; do
+    port=$((16#${address##*:}))
+    [[ $'\n'$1 == *$'\n'"$port "* ]] || printf '%s %s %s\n' "$port" "$uid" "$socket"
+  done < <(grep -hE ": (0{32}|0{16}FFFF00000100007F|0{20}FFFF7F000001):($socks|$control) [0-9A-F]+:[0-9A-F]+ 0A " /proc/net/tcp6 || true)
+}
+
 # has_socket PID SOCKET: whether the process has the socket open.
 has_socket() {
   local files
@@ -55,18 +67,20 @@ service_with() {
   done
 }
 
-# name_holder SOCKET UID: names the process that has the socket, for a message.
+# name_holder SOCKET UID: names the process that has the socket, for a message. One program looks through all processes, of which there may
+# be thousands.
 name_holder() {
   local folder name
-  for folder in /proc/[1-9]*; do
-    has_socket "${folder#/proc/}" "$1" || continue
+  folder=$(timeout -k 1 5 find /proc/[1-9]*/fd -maxdepth 1 -lname "socket:\[$1\]" -printf '%h' -quit </dev/null || true)
+  folder=${folder%/fd}
+  if [[ -n $folder ]]; then
     { IFS= read -r name <"$folder/comm"; } 2>/dev/null || name=
     # A process may have any name.
     name=${name//[^ -~]/?}
     printf '%s (process %s)' "${name:-a program}" "${folder#/proc/}"
-    return
-  done
-  printf 'a program of the account with the id %s' "$2"
+  else
+    printf 'a program of the account with the id %s' "$2"
+  fi
 }
 
 # check_ports: sets TAKEN to the services that hold a port of Tor's. Fails, before anything is changed, when another process holds one.

@@ -14,7 +14,7 @@ switch_firewall() {
 }
 
 linux_connect() {
-  local mode=proxy former status=0
+  local mode=proxy former new='' status=0
   parse_connect "$@"
   [[ $OPT_STRICT == 0 ]] || mode=strict
   need_programs flock nft setpriv unshare setsid getent stat sync mount umount sha256sum timeout readlink
@@ -49,10 +49,9 @@ linux_connect() {
   journal_has "$FIREWALL_ENTRY" || journal_put "$FIREWALL_ENTRY" "table $TABLE" || die "The journal cannot be written."
   note_owner
   note_asked
-  [[ $mode != strict ]] || put_bypass
-  if [[ $former != strict || $mode == strict ]]; then
-    if [[ $former == strict ]]; then switch_firewall "$mode"; else switch_firewall "$mode" new; fi
-  fi
+  [[ $former == strict ]] || new=new
+  [[ $mode != strict ]] || put_bypass "$new"
+  [[ $former == strict && $mode != strict ]] || switch_firewall "$mode" "$new"
   put_loopback || true
   if [[ $mode == strict ]]; then
     put_watcher

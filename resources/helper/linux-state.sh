@@ -133,21 +133,36 @@ ready_account() {
   [[ $TOR_UID != 0 && $TOR_UID != "$CALLER_UID" ]] || die "The account $TOR_ACCOUNT must be one of its own."
 }
 
-# as_tor / as_caller SECONDS COMMAND...: runs it with that account's rights only, without a way to gain more, in a clean environment, with
-# default signal handling, without the helper's descriptors, and kills it after SECONDS. `timeout` is root's and keeps the lock: when this
-# shell is killed, the next run must not begin while the command still changes things.
-as_account() {
-  local uid=$1 gid=$2 groups=$3 home=$4 seconds=$5 group=''
-  [[ $uid != "$CALLER_UID" ]] || group=$HOME_GROUP   # the user's own programs run in the user's group
-  shift 5
+# as_caller SECONDS COMMAND...: runs it with the caller's rights only, without a way to gain more, in a clean environment and a group of the
+# caller's, with default signal handling, without the helper's descriptors, and kills it after SECONDS. `timeout` is root's and keeps the
+# lock: when this shell is killed, the next run must not begin while the command still changes things.
+as_caller() {
+  local seconds=$1
+  shift
+  group_of "$CALLER_UID"
   # shellcheck disable=SC2016
-  timeout -k 1 "$seconds" /bin/sh -c 'exec 7>&- 9>&-; [ -z "$0" ] || printf "0\n" >"$0/cgroup.procs"; exec "$@"' "$group" \
-    env -i --default-signal PATH="$PATH" LC_ALL=C HOME="$home" \
-    setpriv --reuid "$uid" --regid "$gid" "$groups" --no-new-privs --bounding-set=-all --inh-caps=-all \
+  timeout -k 1 "$seconds" /bin/sh -c 'exec 7>&- 9>&-; [ -z "$0" ] || printf "0\n" >"$0/cgroup.procs"; exec "$@"' "$GROUP" \
+    env -i --default-signal PATH="$PATH" LC_ALL=C HOME="$CALLER_HOME" \
+    setpriv --reuid "$CALLER_UID" --regid "$CALLER_GID" --init-groups --no-new-privs --bounding-set=-all --inh-caps=-all \
     --ambient-caps=-all "$@" 8>&-
 }
-as_tor() { as_account "$TOR_UID" "$TOR_GID" --clear-groups "$DATA" "$@"; }
-as_caller() { as_account "$CALLER_UID" "$CALLER_GID" --init-groups "$CALLER_HOME" "$@"; }
+
+# as_confined SECONDS UID GID HOME NAMESPACES COMMAND...: likewise for an account of no user's. The command writes to standard output only.
+# The first process of its namespace is root's, so every process that it starts ends with it.
+as_confined() {
+  local seconds=$1 uid=$2 gid=$3 home=$4 namespaces=$5
+  shift 5
+  # shellcheck disable=SC2016,SC2086
+  timeout -k 1 "$seconds" /bin/sh -c 'exec 7>&- 9>&-; ulimit -c 0 && ulimit -f 0 && ulimit -v 2000000 && ulimit -t "$0" && exec "$@"' "$seconds" \
+    unshare $namespaces --ipc --pid --fork --kill-child /bin/sh -c '"$@"; exit "$?"' first \
+    env -i --default-signal PATH="$PATH" LC_ALL=C HOME="$home" \
+    setpriv --reuid "$uid" --regid "$gid" --clear-groups --no-new-privs --bounding-set=-all --inh-caps=-all \
+    --ambient-caps=-all "$@" 8>&-
+}
+
+# as_tor SECONDS COMMAND...: for Tor's check of its configuration, before Tor runs in namespaces of its own. It has the network: an
+# administrator may have named a proxy by a host name, which Tor looks up while it checks.
+as_tor() { as_confined "$1" "$TOR_UID" "$TOR_GID" "$DATA" '' "${@:2}"; }
 
 # take_output SECONDS BYTES: passes on at most BYTES of standard input, and does not wait longer than SECONDS for its end.
 take_output() { timeout -k 1 "$1" head -c "$2"; }

@@ -18,14 +18,18 @@ Defaults!$helper env_reset
 END
 }
 
-# install_file FROM TO
+# print_self PATH: the helper itself, which runs as root already, so root reads it. A program of the caller's could put
+# words of its own into what a reader with the caller's rights prints.
+print_self() { head -c "$MAX_PROGRAM_BYTES" -- "$1"; }
+
+# install_file READER FROM TO: READER is print_self or, for what runs with the caller's rights only, print_file.
 install_file() {
-  local new=$2.new
+  local new=$3.new
   rm -f -- "$new"
   set -o noclobber
   : >"$new" || return 1
   set +o noclobber
-  print_file "$1" >"$new" && [[ -s $new ]] && chmod -- 0755 "$new" && put_in_place "$new" "$2" && return 0
+  "$1" "$2" >"$new" && [[ -s $new ]] && chmod -- 0755 "$new" && put_in_place "$new" "$3" && return 0
   rm -f -- "$new"
   return 1
 }
@@ -49,9 +53,9 @@ any_install-privileged() {
   root_owned "$INSTALLED" || die "The folder $INSTALLED is not safe: only root may own or write it and those above it."
   chmod -- 0755 "$INSTALLED" || die "The folder $INSTALLED cannot be changed."
 
-  install_file "$SELF" "$INSTALLED_HELPER" || die "The helper could not be copied to $INSTALLED."
+  install_file print_self "$SELF" "$INSTALLED_HELPER" || die "The helper could not be copied to $INSTALLED."
   if [[ -n $OPT_LAUNCH ]]; then
-    install_file "$OPT_LAUNCH" "$INSTALLED_LAUNCHER" || die "The launcher could not be copied to $INSTALLED."
+    install_file print_file "$OPT_LAUNCH" "$INSTALLED_LAUNCHER" || die "The launcher could not be copied to $INSTALLED."
   fi
   { write_file "$SUDO_DRAFT" 0440 root "$(print_sudo_rule "$uid")"$'\n' &&
     visudo -c -q -f "$SUDO_DRAFT" >/dev/null; } || die "sudo does not accept the rule."

@@ -47,7 +47,8 @@ open_to_all() { every_part "$1" '^[0-7]*[1357] '; }
 
 # print_file PATH [BYTES SECONDS]: its content, opened as the caller, so that the caller reads no foreign file
 # through the helper. Any program of the caller can take over the reader's descriptors. So the reader gets a pipe
-# and never the file that the helper writes: otherwise the content could change after the check.
+# and never the file that the helper writes: otherwise the content could change after the check. What is printed is
+# the caller's word: nobody may take it for the file's content without a check.
 print_file() {
   local bytes=${2:-$MAX_PROGRAM_BYTES} seconds=${3:-10}
   if [[ $CALLER_UID == 0 ]]; then
@@ -55,6 +56,12 @@ print_file() {
   else
     as_caller "$seconds" head -c "$bytes" -- "$1" | take_output $((seconds + 2)) "$bytes"
   fi
+}
+
+# same_content FILE COPY: whether both have the same content, as root reads it. A program of the caller's can change what print_file prints.
+same_content() {
+  local one other
+  one=$(print_sum <"$1") && other=$(print_sum <"$2") && [[ ${one%% *} == "${other%% *}" ]]
 }
 
 # find_program PATH: sets PROGRAM to the path without links.
@@ -95,6 +102,7 @@ ready_program() {
     if [[ $PROGRAM =~ ^[A-Za-z0-9._/+-]+$ ]] && open_to_all "$PROGRAM"; then return; fi
   fi
   copy_program "$PROGRAM" "$1"
+  [[ -z $owned ]] || same_content "$PROGRAM" "$NEW_PROGRAM" || owned=''
   if [[ ! -f $PROGRAMS/$DIGEST/$2 ]] || { [[ $SYSTEM == linux ]] && is_replaced "$DIGEST/$2"; }; then
     if [[ -z $owned ]] && { [[ $SYSTEM != linux ]] || ! in_bundle "$PROGRAM" "$2"; }; then
       rm -f -- "$NEW_PROGRAM"

@@ -92,7 +92,7 @@ class Service(HelperTest):
         self.machine.shell("systemctl stop tor@default.service")
         services.start_tor_service(self.machine, "tor@other.service")
         pid = self.machine.shell("cat /run/units/tor@other.service.pid").strip()
-        for name, late in ("stat", f'*"/proc/{pid}/fd"*'), ("sort", "*"):
+        for name, late in ("find", f'*"/proc/{pid}/fd"*'), ("sort", "*"):
             with self.subTest(name):
                 path = f"/run/slow/{name}"
                 self.machine.shell(
@@ -145,6 +145,30 @@ class Service(HelperTest):
             "cd /run/units; mv tor@default.service tor@other.service; systemctl start tor@other.service"
         )
         self.assertOneLine(self.machine.connect(check=False), "is held by ?[2J?x (process ")
+
+    def test_the_holder_is_looked_for_among_many_processes_at_once(self):
+        """Counted by the machine's process numbers: with many processes a refused connect starts no more programs than with few. The
+        holder is outside the machine, so all are looked through."""
+        self.machine.shell("systemctl stop tor@default.service")
+        listen = "import socket, sys; s = socket.create_server(('127.0.0.1', 9050)); print('listens', flush=True); sys.stdin.read()"
+        holder = subprocess.Popen(
+            ["nsenter", "--target", str(self.machine.pid), "--net", "/usr/bin/python3", "-c", listen],
+            stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE,
+        )
+        self.addCleanup(holder.communicate)
+        self.assertEqual(holder.stdout.readline(), b"listens\n")
+
+        def started():
+            numbers = "cat /proc/sys/kernel/ns_last_pid"
+            before = int(self.machine.shell(numbers))
+            self.assertOneLine(self.machine.connect(check=False), "is held by a program of the account with the id 0. End that")
+            return int(self.machine.shell(numbers)) - before
+
+        few = started()
+        self.machine.shell("for ((i = 0; i < 300; i++)); do sleep 1000 >/dev/null 2>&1 & done")
+        self.addCleanup(self.machine.shell, "pkill -x sleep; while pgrep -x sleep; do :; done")
+        self.assertLess(started(), few + 100)
 
     def test_a_listener_on_another_address_is_in_nobodys_way(self):
         self.machine.shell("systemctl stop tor@default.service")

@@ -6,7 +6,7 @@ import os
 import subprocess
 
 import namespace
-from namespace import INSTALLED, USER_UID, HelperTest
+from namespace import HASH, INSTALLED, USER_UID, HelperTest
 from thief import Thief
 
 PROMPT = {"PATH": os.environ["PATH"], "PKEXEC_UID": str(USER_UID)}
@@ -56,6 +56,38 @@ class Theft(HelperTest):
         self.assertEqual(thiefs, ["a pipe", "Broken pipe"])
         self.assertEqual(said, f"ERROR: The launcher could not be copied to {os.path.dirname(LAUNCHER)}.\n")
         self.assertEqual(self.machine.shell(f"ls {LAUNCHER}* {RULE} 2>/dev/null || true"), "")
+
+    def run_while_copied(self, *words, env):
+        """Runs the helper against a thief who writes into what a reader of a copy prints, as soon as there is one. Returns the run."""
+        thief = Thief(self.machine, USER_UID, "head")
+        self.addCleanup(thief.close)
+        thief.order_at_once("write #!/bin/sh")
+        return self.machine.run("/bin/bash", *words, env=env, check=False)
+
+    def test_helper_that_runs_without_a_password_is_roots_own_reading(self):
+        """Long, so that a reader with the user's rights would be found."""
+        self.addCleanup(self.machine.help, "uninstall-privileged")
+        long = "/usr/local/veldmark-helper.sh"
+        self.machine.shell('cp "$1" "$2"; truncate -s 150M "$2"', self.machine.helper, long)
+        self.addCleanup(self.machine.shell, f"rm {long}")
+        done = self.run_while_copied(long, "install-privileged", "--user", "alice", env=PROMPT)
+        self.assertEqual((done.returncode, done.stderr), (0, ""))
+        self.machine.shell(f"cmp {long} {INSTALLED}")
+
+    def test_the_systems_program_at_an_odd_path_is_not_changed_on_its_way(self):
+        """Tor's configuration takes such a path only as a copy, which needs no approval."""
+        self.machine.install_copy()
+        self.machine.shell(
+            "rm -rf /var/lib/veldmark/programs; mkdir '/opt/a place'; cp /usr/bin/tor '/opt/a place/tor'; truncate -s 150M '/opt/a place/tor'"
+        )
+        self.addCleanup(self.machine.shell, "rm -r '/opt/a place'")
+        self.addCleanup(self.machine.help, "disconnect")
+        rule = {"PATH": os.environ["PATH"], "SUDO_UID": str(USER_UID)}
+        words = ["connect", "--tor", "/opt/a place/tor", "--hash", HASH, "--strict", "1", "--lan", "0"]
+        done = self.run_while_copied(INSTALLED, *words, env=rule)
+        self.assertOneLine(done, "An administrator password is needed to approve /opt/a place/tor.")
+        self.assertEqual(self.machine.shell("ls /var/lib/veldmark/programs"), "")
+        self.assertEqual(self.machine.run("/bin/bash", INSTALLED, *words, env=rule).stderr, "")
 
 
 if __name__ == "__main__":

@@ -106,16 +106,19 @@ class Trouble(HelperTest):
         }[verb]
 
     def test_process_that_keeps_tors_output_open_is_not_waited_for(self):
+        """Nor does the check of the configuration leave a process or a file of Tor's account behind."""
         self.machine.shell(
-            f"mv {OTHER_TOR} {OTHER_TOR}.away; printf '#!/bin/sh\\nsetsid sleep 1000 & echo $! >/run/data/left\\n' >{OTHER_TOR};"
-            f"chmod 755 {OTHER_TOR}"
+            f"mv {OTHER_TOR} {OTHER_TOR}.away; install -m 755 /dev/stdin {OTHER_TOR}; mkdir -m 777 /run/left",
+            stdin="#!/bin/sh\nsetsid sleep 1000 &\n: >/run/left/began\n(trap '' XFSZ; echo more >/run/left/file) 2>/dev/null\nexit 1\n",
         )
         try:
             done = self.machine.help(*self.words("connect in proxy mode", OTHER_TOR), check=False, timeout=50)
             self.assertOneLine(done, "Tor does not accept its configuration")
+            self.assertEqual(self.machine.tor_pids(), [])
+            self.assertEqual(self.machine.shell("cat /run/left/began /run/left/file"), "")
         finally:
-            self.machine.shell(f"kill $(cat /run/data/left); rm /run/data/left; mv -f {OTHER_TOR}.away {OTHER_TOR}")
-        self.machine.help("disconnect")  # the control group could not be removed before that process ended
+            self.machine.shell(f"pkill -u _veldmark; rm -r /run/left; mv -f {OTHER_TOR}.away {OTHER_TOR}")
+        self.machine.help("disconnect")
         self.assertEqual(self.machine.snapshot(), self.before)
 
     def test_folders_that_cannot_be_looked_at_are_not_taken_for_safe(self):

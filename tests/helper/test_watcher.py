@@ -208,8 +208,10 @@ class Watcher(HelperTest):
 
     def test_nothing_is_vouched_for_while_somebody_else_listens_at_tors_ports(self):
         listen = (
-            "import socket, sys; s = socket.create_server(('127.0.0.1', int(sys.argv[1]))) if sys.argv[1] != '293' else socket.socket(type=socket.SOCK_DGRAM)\n"
-            "if sys.argv[1] == '293': s.bind(('127.0.0.1', 293))\nprint('up', flush=True); sys.stdin.read()"
+            "import socket, sys; address, port = sys.argv[1], int(sys.argv[2]); families = {'::': socket.AF_INET6}\n"
+            "s = socket.socket(families.get(address, socket.AF_INET), socket.SOCK_DGRAM if port == 293 else socket.SOCK_STREAM)\n"
+            "if address == '::': s.setsockopt(socket.IPPROTO_IPV6, socket.IPV6_V6ONLY, 0)\n"
+            "s.bind((address, port)); port == 293 or s.listen(); print('up', flush=True); sys.stdin.read()"
         )
 
         def is_young():
@@ -223,14 +225,28 @@ class Watcher(HelperTest):
 
         # A listener of Tor's account is no proof: it must be this session's Tor.
         tor = int(self.machine.shell("id -u _veldmark"))
-        for port, uid in (9050, namespace.OTHER_UID), (9051, tor), (293, 0):
-            with self.subTest(port):
+        for address, port, uid in (
+            ("127.0.0.1", 9050, namespace.OTHER_UID),
+            ("127.0.0.1", 9051, tor),
+            ("127.0.0.1", 293, 0),
+            ("::", 9050, namespace.OTHER_UID),
+            ("::", 9051, tor),
+        ):
+            with self.subTest(address=address, port=port):
                 self.machine.shell("pkill -KILL -u _veldmark; while pgrep -u _veldmark; do sleep 0.01; done")
                 for _ in range(40):
                     self.assertTrue(is_young(), "without a listener no program is in Tor's place")
                     time.sleep(0.1)
                 process = self.machine.start(
-                    "/usr/bin/python3", "-c", listen, str(port), uid=uid, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True
+                    "/usr/bin/python3",
+                    "-c",
+                    listen,
+                    address,
+                    str(port),
+                    uid=uid,
+                    stdin=subprocess.PIPE,
+                    stdout=subprocess.PIPE,
+                    text=True,
                 )
                 self.addCleanup(process.kill)
                 self.assertEqual(process.stdout.readline(), "up\n")

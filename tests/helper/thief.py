@@ -8,7 +8,7 @@ NOBODY = 65534
 # With PIPE it takes the process that reads PIPE, and sends it FILE through PIPE. Each line of input, "write TEXT" or "copy FILE",
 # is written to the beginning of what was taken, which is then released; prints "written" or the error.
 THIEF = """
-import ctypes, os, signal, stat, sys
+import ctypes, os, select, signal, stat, sys
 uid, command, pipe, file = int(sys.argv[1]), sys.argv[2].encode(), sys.argv[3].encode(), sys.argv[4]
 call = ctypes.CDLL(None, use_errno=True).syscall
 PIDFD_OPEN, PIDFD_GETFD = 434, 438
@@ -23,9 +23,13 @@ def victims():
             pass
 
 print('waits', flush=True)
+orders = select.poll()
+orders.register(sys.stdin, 0)  # reports that nobody will write an order any more
 found = []
 while not found:
     found = list(victims())
+    if not found and orders.poll(0):
+        sys.exit()
 number = call(PIDFD_GETFD, call(PIDFD_OPEN, found[0], 0), 1, 0)
 if number < 0:
     print(os.strerror(ctypes.get_errno()), flush=True)
@@ -72,9 +76,13 @@ class Thief:
     def says(self):
         return self.process.stdout.readline().strip()
 
-    def _order(self, line):
+    def order_at_once(self, line):
+        """An order that is carried out once there is something to take. Does not wait for that."""
         self.process.stdin.write(line + "\n")
         self.process.stdin.flush()
+
+    def _order(self, line):
+        self.order_at_once(line)
         return self.says()
 
     def write(self, text):
@@ -84,5 +92,4 @@ class Thief:
         return self._order("copy " + file)
 
     def close(self):
-        self.process.kill()
         self.process.communicate()
