@@ -26,7 +26,7 @@ development_packages=(
     pkexec polkitd gnupg
     tcpdump shellcheck clang-format black unzip netcat-openbsd openssh-client iputils-ping zsh dash
     python3-stem nyx
-    clang libclang-rt-14-dev libobjc-12-dev gcovr clang-16 libc++-16-dev libc++abi-16-dev
+    clang libclang-rt-14-dev libobjc-12-dev gcovr clang-16 clang-tidy-16 libc++-16-dev libc++abi-16-dev
     xvfb xauth xdotool openbox at-spi2-core gir1.2-atspi-2.0 python3-gi python3-dbus
     debootstrap appstream desktop-file-utils mandoc
 )

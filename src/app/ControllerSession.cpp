@@ -321,7 +321,7 @@ void ControllerSession::removeBypassApp(const QString &application)
     m_controller.removeBypassApp(application);
 }
 
-void ControllerSession::launchBypassed(const QString &path)
+void ControllerSession::launchBypassed(const QString &application)
 {
     launch(path);
 }

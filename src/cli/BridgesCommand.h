@@ -30,7 +30,7 @@ namespace Report {
 //      "builtin": {transport: count}, "source": label,
 //      "bundle": {"version": …, "verification": "signature" or "https"} or null,
 //      "custom": {"valid": count, "invalid": [{"line": number, "text": …}]}}
-QString bridges(const QJsonObject &findings);
+QString bridges(const QJsonObject &all);
 // The invalid lines of the user's own bridges, in that command's words; empty when all are valid.
 QStringList bridgeProblems(const QString &text);
 

@@ -37,6 +37,7 @@ struct Machine {
     std::optional<bool> clockIsSet;
     // The output of tor's version option; absent when tor failed.
     std::optional<QString> torVersion;
+    bool isTorUnasked = false; // this is root, and others can change tor, so it was not run
     // Only as root: the error of `nft list tables`, empty without one. Absent: not run.
     std::optional<Text> firewallComplaint;
     std::function<std::optional<FileOwner>(const QString &path)> owner;
@@ -56,7 +57,7 @@ struct Machine {
     QString installing(const QString &package) const;
     // The number of an account, and its name.
     std::optional<uid_t> account(const QString &name) const;
-    QString accountName(uid_t user) const;
+    QString accountName(uid_t wanted) const;
     bool isPasswordless() const;
 };
 

@@ -7,13 +7,10 @@ paths. The check refuses a header that Apple's library lacks or has only behind 
 """
 
 import concurrent.futures
-import json
 import os
 import pathlib
 import re
-import shlex
 import shutil
-import subprocess
 import sys
 import tempfile
 import unittest
@@ -21,13 +18,13 @@ import unittest
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools"))
 
+from clang import CLANG, Clang  # noqa: E402
 from moving import Moving  # noqa: E402
 
 ROOT = pathlib.Path(sys.argv[1])
 BUILD = pathlib.Path(sys.argv[2])
 WANTED = sys.argv[3:] or ["system"]
 SYSTEM_HEADER = re.compile(r"^#include <[a-z_/0-9]+\.h>", re.MULTILINE)
-CLANG = shutil.which("clang++-16") or "clang++"
 MISSING = "stop_token", "syncstream", "malloc.h", "format_kind"  # of the library and of the system
 # Names that only Linux's headers have, which must not be in lines for a Mac. (timex, st_mtim and similar exist on both, or the code
 # distinguishes them.)
@@ -69,73 +66,18 @@ def for_macs(text):
             inside[-1] = elses if word[1] == "else" else linux
 
 
-def commands():
-    """The sources, and the compiler options that all of them have."""
-    sources, words = set(), []
-    for entry in json.loads((BUILD / "compile_commands.json").read_text(encoding="utf-8")):
-        compiled = pathlib.Path(entry["file"])
-        together = compiled.parent.name == "Unity"
-        paths = map(pathlib.Path, re.findall(r'#include "(.+)"', compiled.read_text())) if together else [compiled]
-        names = {str(path.relative_to(ROOT)) for path in paths if path.is_relative_to(ROOT) and path.suffix == ".cpp"}
-        names = {name for name in names if name.startswith(("src/", "tests/unit/", "tests/support/"))}
-        names = {name for name in names if name not in LINUX_ONLY and not name.startswith(LINUX_ROOMS)}
-        if not names:
-            continue
-        sources |= names
-        parts = iter(shlex.split(entry["command"]))
-        for word in parts:
-            if word == "-isystem":
-                word += next(parts)
-            if word.startswith(("-I", "-isystem", "-D")) and word not in words:
-                words.append(word)
-    return sorted(sources), words
-
-
-class Compiler:
-    def __init__(self, folder, words):
-        self.words = [
-            CLANG,
-            "-stdlib=libc++",
-            "-std=c++20",
-            "-fPIC",
-            "-fsyntax-only",
-            "-Wall",
-            "-Wextra",
-            "-Wshadow",
-            "-Werror",
-            "-I",
-            folder,
-            *words,
-        ]
-        for name in MISSING:
-            pathlib.Path(folder, name).write_text(f'#error "<{name}> is not on a Mac"\n', encoding="ascii")
-        common = next(BUILD.rglob("veldmark_precompiled_tests.dir/cmake_pch.hxx"), None)
-        lines = common.read_text(encoding="utf-8").splitlines() if common else []
-        header = pathlib.Path(folder, "common.h")
-        header.write_text("".join(line + "\n" for line in lines if line.startswith("#include")), encoding="utf-8")
-        made = subprocess.run(
-            [word for word in self.words if word != "-fsyntax-only"] + ["-x", "c++-header", str(header), "-o", f"{header}.pch"],
-            capture_output=True,
-            text=True,
-            check=False,
-        )
-        if made.returncode:
-            raise RuntimeError(made.stderr[-4000:])
-        self.common = f"{header}.pch"
-
-    def check(self, path, common=True):
-        """The compiler's messages; empty without any."""
-        before = ["-include-pch", self.common] if common else []
-        return subprocess.run([*self.words, *before, str(path)], capture_output=True, text=True, check=False).stderr[:4000]
-
-
 class Apple(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         cls.folder = tempfile.TemporaryDirectory()
-        cls.sources, words = commands()
+        for name in MISSING:
+            pathlib.Path(cls.folder.name, name).write_text(f'#error "<{name}> is not on a Mac"\n', encoding="ascii")
         with Moving("Compiling the common headers"):
-            cls.compiler = Compiler(cls.folder.name, words)
+            cls.clang = Clang(
+                ROOT, BUILD, cls.folder.name, "-stdlib=libc++", "-Wall", "-Wextra", "-Wshadow", "-Werror", f"-I{cls.folder.name}"
+            )
+        named = set().union(*(names for _, names in cls.clang.compiled()))
+        cls.sources = sorted(name for name in named if name not in LINUX_ONLY and not name.startswith(LINUX_ROOMS))
 
     @classmethod
     def tearDownClass(cls):
@@ -149,7 +91,7 @@ class Apple(unittest.TestCase):
         ):
             path = pathlib.Path(self.folder.name, "wrong.cpp")
             path.write_text(text, encoding="ascii")
-            self.assertIn(wanted, self.compiler.check(path, common=False))
+            self.assertIn(wanted, self.clang.check(path, common=False))
 
     def test_words_of_linux_alone_are_found(self):
         found = lambda text: [number for number, line in for_macs(text) if LINUX_WORDS.search(line)]  # noqa: E731
@@ -193,7 +135,7 @@ class Apple(unittest.TestCase):
         )
         paths = [headers, *(ROOT / name for name in sources)]
         with Moving("Checking sources") as moving, concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-            for number, (path, said) in enumerate(zip(paths, pool.map(self.compiler.check, paths)), 1):
+            for number, (path, said) in enumerate(zip(paths, pool.map(self.clang.check, paths)), 1):
                 moving.step(number, len(paths))
                 with self.subTest(path.name):
                     self.assertEqual(said, "", said)
