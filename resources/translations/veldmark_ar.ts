@@ -3767,6 +3767,10 @@ name in the same session has the same ones</source>
         <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
         <translation>يمنع جدار حماية آخر على هذا الحاسوب الاتصالات الصادرة، ولا تسمح أي من قواعده بشيء، لذا لا يمكن أن يمر Tor: %1.</translation>
     </message>
+    <message>
+        <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
+        <translation>يمكن لمستخدمين غير root تغيير ⁨%1⁩، لذلك لا يشغّله root لسؤاله عن إصداره.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

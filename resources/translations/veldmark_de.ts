@@ -3767,6 +3767,10 @@ hat es in derselben Sitzung später dieselben</translation>
         <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
         <translation>Eine andere Firewall auf diesem Computer verwehrt ausgehende Verbindungen, und keine ihrer Regeln erlaubt eine; Tor kommt daher nicht durch: %1.</translation>
     </message>
+    <message>
+        <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
+        <translation>Andere Benutzer als root können %1 ändern, darum führt root es nicht aus, um nach der Version zu fragen.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3767,6 +3767,10 @@ el mismo nombre en la misma sesión, tiene los mismos</translation>
         <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
         <translation>Otro cortafuegos de este equipo impide las conexiones salientes y ninguna de sus reglas permite nada, así que Tor no puede pasar: %1.</translation>
     </message>
+    <message>
+        <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
+        <translation>Otros usuarios además de root pueden cambiar %1, así que root no lo ejecuta para preguntar su versión.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3767,6 +3767,10 @@ name in the same session has the same ones</source>
         <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
         <translation>دیوار آتش دیگری در این رایانه جلوی ترافیک خروجی را می‌گیرد و هیچ‌یک از قاعده‌هایش چیزی را مجاز نمی‌کند، پس Tor نمی‌تواند رد شود: ⁨%1⁩.</translation>
     </message>
+    <message>
+        <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
+        <translation>کاربرانی جز root می‌توانند ⁨%1⁩ را تغییر دهند، پس root آن را برای پرسیدن نسخه اجرا نمی‌کند.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

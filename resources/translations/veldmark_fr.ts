@@ -3767,6 +3767,10 @@ le même nom dans la même session donne les mêmes circuits</translation>
         <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
         <translation>Un autre pare-feu de cet ordinateur refuse les connexions sortantes et aucune de ses règles n’en autorise, Tor ne peut donc pas passer : %1.</translation>
     </message>
+    <message>
+        <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
+        <translation>D’autres utilisateurs que root peuvent modifier %1 ; root ne l’exécute donc pas pour en demander la version.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3767,6 +3767,10 @@ o mesmo nome na mesma sessão usa os mesmos circuitos</translation>
         <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
         <translation>Outro firewall neste computador bloqueia as conexões para fora e nenhuma regra dele permite nada, então o Tor não consegue passar: %1.</translation>
     </message>
+    <message>
+        <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
+        <translation>Outros usuários além do root podem alterar %1, então o root não o executa para perguntar a versão.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3767,6 +3767,10 @@ name in the same session has the same ones</source>
         <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
         <translation>Другой брандмауэр на этом компьютере запрещает исходящие соединения, и ни одно из его правил ничего не разрешает, поэтому Tor не может пройти: %1.</translation>
     </message>
+    <message>
+        <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
+        <translation>Не только root может изменить %1, поэтому root не запускает эту программу, чтобы узнать её версию.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3767,6 +3767,10 @@ aynı adla yapılan sonraki çalıştırma aynı devreleri kullanır</translatio
         <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
         <translation>Bu bilgisayardaki başka bir güvenlik duvarı dışarı çıkanı reddediyor ve hiçbir kuralı bir şeye izin vermiyor; bu yüzden Tor geçemiyor: %1.</translation>
     </message>
+    <message>
+        <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
+        <translation>root dışındaki kullanıcılar %1 dosyasını değiştirebilir, bu yüzden root sürümünü sormak için onu çalıştırmaz.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -3767,6 +3767,10 @@ name in the same session has the same ones</source>
         <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
         <translation>Інший брандмауер на цьому комп’ютері забороняє вихідні з’єднання, і жодне з його правил нічого не дозволяє, тому Tor не може пройти: %1.</translation>
     </message>
+    <message>
+        <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
+        <translation>Не лише root може змінити %1, тому root не запускає цю програму, щоб дізнатися її версію.</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

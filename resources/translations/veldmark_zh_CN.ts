@@ -3767,6 +3767,10 @@ name in the same session has the same ones</source>
         <source>Another firewall on this computer blocks outgoing traffic, and none of its rules allows any, so Tor can&apos;t get through: %1.</source>
         <translation>本机上的另一个防火墙禁止出站流量，且没有任何规则放行，因此 Tor 无法通过：%1。</translation>
     </message>
+    <message>
+        <source>Users other than root can change %1, so root doesn&apos;t run it to ask for its version.</source>
+        <translation>root 以外的用户可以更改 %1，因此 root 不会运行它来查询版本。</translation>
+    </message>
 </context>
 <context>
     <name>veldmark::Tray</name>

@@ -1,12 +1,10 @@
 #include "bridges/ManagedProxy.h"
 
+#include "base/RootsOwn.h"
 #include "bridges/ChildOutput.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
 
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace veldmark {
@@ -14,28 +12,6 @@ namespace veldmark {
 namespace {
 
 constexpr qsizetype outputLimitBytes = 64 * 1024;
-
-// Whether only root can replace this program: it and every folder above it belong to root and are
-// writable by nobody else. A folder with the sticky bit, such as /tmp, is accepted, since only
-// owners may replace its entries.
-bool isRootsOwn(const QString &program)
-{
-    QString path = QFileInfo(program).canonicalFilePath();
-    bool isFolder = false;
-    while (!path.isEmpty()) {
-        struct stat status = {};
-        if (::lstat(QFile::encodeName(path).constData(), &status) != 0 || status.st_uid != 0)
-            return false;
-        const bool isOpen = (status.st_mode & (S_IWGRP | S_IWOTH)) != 0;
-        if (isOpen && !(isFolder && (status.st_mode & S_ISVTX) != 0))
-            return false;
-        if (path == u"/")
-            return true;
-        path = path.left(qMax(qsizetype(1), path.lastIndexOf(u'/')));
-        isFolder = true;
-    }
-    return false;
-}
 
 template <typename Use> void forEachLine(QByteArrayView output, Use use)
 {

@@ -184,7 +184,8 @@ QCoro::Task<void> TorController::watchKillSwitch(Run run)
             torDied();
             co_return;
         }
-        if (phase() == ConnectionPhase::connected && isSessionMarkerPresent())
+        if ((phase() == ConnectionPhase::connected || phase() == ConnectionPhase::stale)
+            && isSessionMarkerPresent())
             lookAtSession(); // the marker may be another session's
         if (run.isOver())
             co_return;

@@ -171,6 +171,7 @@ void TorController::settleAfterFailure()
     }
     canCancel = false;
     activeMode = markedMode(); // the helper may have changed the mode before it failed
+    m_sessionMark = SessionMark::present(m_services.profile);
     otherSession = SessionOwner::ofAnotherProcess(m_services.profile);
     statusDetail = otherSession() ? leftOverDetail()
                                   : Text::tr("Your network is still set up for Tor");
@@ -211,6 +212,7 @@ void TorController::detectStaleState()
     if (phase() != ConnectionPhase::disconnected)
         return;
     activeMode = markedMode();
+    m_sessionMark = SessionMark::present(m_services.profile);
     otherSession = SessionOwner::ofAnotherProcess(m_services.profile);
     statusDetail = leftOverDetail();
     // What happened to an earlier session is not told.
@@ -253,8 +255,9 @@ void TorController::lookAtSession()
         return;
     }
     const auto other = SessionOwner::ofAnotherProcess(m_services.profile);
-    // Nor has the session been changed by hand.
-    if (other == otherSession() && markedMode() == activeMode())
+    const auto mark = SessionMark::present(m_services.profile);
+    const bool isAnew = mark && m_sessionMark && mark != m_sessionMark; // begun again by hand
+    if (other == otherSession() && markedMode() == activeMode() && !isAnew)
         return;
     showSessionOf(other);
 }
@@ -262,6 +265,7 @@ void TorController::lookAtSession()
 void TorController::showSessionOf(const std::optional<SessionOwner> &other)
 {
     otherSession = other;
+    m_sessionMark = SessionMark::present(m_services.profile);
     // What is shown and known was about another session.
     m_killSwitchMessage = std::nullopt;
     errorMessage = std::nullopt;

@@ -429,7 +429,7 @@ private:
     quint64 m_terminalRun = 0; // the run that last applied terminal mode
     std::optional<QString> m_controlPassword;       // of the running session; only in memory
     QString m_controlHash;                          // the hash that Tor got of it
-    std::optional<SessionMark> m_sessionMark;       // of this object's session
+    std::optional<SessionMark> m_sessionMark;       // of the session that is shown
     QStringList m_sessionWords;                     // of the helper's last successful connect
     bool m_isDownloading = false;                   // transports
     bool m_downloadsDirectly = false;               // not through Tor

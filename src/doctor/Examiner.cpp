@@ -1,5 +1,6 @@
 #include "doctor/Examiner.h"
 
+#include "base/RootsOwn.h"
 #include "doctor/Checks.h"
 #include "system/SettingsStore.h"
 
@@ -8,6 +9,7 @@
 
 #include <sys/stat.h>
 #include <sys/timex.h>
+#include <unistd.h>
 
 namespace veldmark {
 
@@ -84,7 +86,9 @@ QCoro::Task<Findings> Examiner::examine()
     machine.transports = co_await searching;
     if (wanted.expired())
         co_return {};
-    if (const QString tor = machine.tor(); !tor.isEmpty()) {
+    const QString tor = machine.tor();
+    machine.isTorUnasked = ::geteuid() == 0 && !tor.isEmpty() && !isRootsOwn(tor);
+    if (!tor.isEmpty() && !machine.isTorUnasked) {
         auto asking = run(processes, tor, {QStringLiteral("--version")});
         const auto answer = co_await asking;
         if (wanted.expired())

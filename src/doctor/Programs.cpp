@@ -125,7 +125,14 @@ Findings torFindings(const Machine &machine)
         return findings;
     }
     const QString version = versionIn(machine.torVersion.value_or(QString()));
-    if (version.isEmpty())
+    if (machine.isTorUnasked)
+        findings.push_back(
+            {torName, Level::unknown,
+             Text::tr(
+                 "Users other than root can change %1, so root doesn't run it to ask for its version.")
+                 .arg(tor),
+             QString(), Finding::Button::none, true});
+    else if (version.isEmpty())
         findings.push_back(
             {torName, Level::problem,
              Text::tr("%1 doesn't start, or isn't Tor: it prints no version.").arg(tor),

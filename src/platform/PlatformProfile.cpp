@@ -1,10 +1,14 @@
 #include "platform/PlatformProfile.h"
 
+#include "base/RootsOwn.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSysInfo>
 
+#include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -40,16 +44,34 @@ QString ownRuntimeDirectory()
     return isOwn(usual) ? usual : QString();
 }
 #endif
+
+// The path; for root, only where no other user can change the folder or the nearest one that is
+// there: sudo may keep the variables of the user who called it.
+template <typename Usual> QString trusted(const QString &path, Usual usual)
+{
+    if (::geteuid() != 0)
+        return path;
+    QString present = path;
+    while (!QFileInfo::exists(present) && present.size() > 1)
+        present = present.left(qMax(qsizetype(1), present.lastIndexOf(u'/')));
+    return isRootsOwn(present) ? path : usual();
+}
+
 } // namespace
 
 Places Places::fromEnvironment()
 {
     Places places;
-    places.home = QDir::homePath();
-    places.configHome = absoluteFromEnvironment("XDG_CONFIG_HOME",
-                                                places.home + QStringLiteral("/.config"));
-    places.dataHome = absoluteFromEnvironment("XDG_DATA_HOME",
-                                              places.home + QStringLiteral("/.local/share"));
+    places.home = trusted(QDir::homePath(), [] {
+        const struct passwd *const root = ::getpwuid(0);
+        return QFile::decodeName(root ? root->pw_dir : "/root");
+    });
+    const auto folder = [&places](const char *variable, const QString &usual) {
+        const QString path = places.home + usual;
+        return trusted(absoluteFromEnvironment(variable, path), [&path] { return path; });
+    };
+    places.configHome = folder("XDG_CONFIG_HOME", QStringLiteral("/.config"));
+    places.dataHome = folder("XDG_DATA_HOME", QStringLiteral("/.local/share"));
 #ifndef Q_OS_MACOS
     places.runtimeDirectory = ownRuntimeDirectory();
 #endif

@@ -9,18 +9,27 @@ GROUPS = "/sys/fs/cgroup"
 BYPASS = f"{GROUPS}/veldmark-bypass"
 MANAGER = f"{GROUPS}/user.slice/user-{OTHER_UID}.slice/user@{OTHER_UID}.service/init.scope"
 
-# As many processes of short life as the limit lets there be. Those that are moved away are replaced by the others.
+# Twenty processes of short life, which replace each other. They are counted by themselves: the system's limit counts the account's
+# processes of every machine.
 STORM = r"""
-#include <stdlib.h>
-#include <sys/resource.h>
+#include <sys/mman.h>
 #include <unistd.h>
+static int *many;
+static int another(void)
+{
+    int child = -1;
+    if (__sync_add_and_fetch(many, 1) > 20 || (child = fork()) < 0)
+        __sync_sub_and_fetch(many, 1);
+    return child;
+}
 int main(void)
 {
-    struct rlimit many = {20, 20};
-    setrlimit(RLIMIT_NPROC, &many);
-    for (;;)
-        if (fork() > 0 && fork() != 0)
+    many = mmap(0, sizeof *many, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    for (*many = 1;;)
+        if (another() > 0 && another() != 0) {
+            __sync_sub_and_fetch(many, 1);
             _exit(0);
+        }
 }
 """
 

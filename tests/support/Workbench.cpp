@@ -11,6 +11,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <cstdio>
 
 using namespace std::chrono_literals;
 
@@ -323,6 +324,19 @@ void Workbench::killWatcher()
 void Workbench::writeMarker(const QByteArray &content)
 {
     writeFile(profile.sessionMarker, content);
+}
+
+void Workbench::renewMarker() const
+{
+    QFile marker(profile.sessionMarker);
+    if (!marker.open(QIODevice::ReadOnly))
+        qFatal("no session");
+    const QString anew = profile.sessionMarker + QStringLiteral(".new");
+    writeFile(anew, marker.readAll());
+    if (std::rename(QFile::encodeName(anew).constData(),
+                    QFile::encodeName(profile.sessionMarker).constData())
+        != 0)
+        qFatal("the marker cannot be renewed");
 }
 
 void Workbench::removeMarker()

@@ -83,6 +83,8 @@ public:
     void killWatcher();
 
     void writeMarker(const QByteArray &content);
+    // Another session of the same mode has begun in place of the present one.
+    void renewMarker() const;
     void removeMarker();
     bool hasMarker() const;
     void writeFile(const QString &path, const QByteArray &content = {},

@@ -9,8 +9,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <cstdio>
-
 using namespace Qt::StringLiterals;
 using namespace veldmark;
 using Phase = ConnectionPhase;
@@ -59,6 +57,28 @@ private Q_SLOTS:
         QCOMPARE(published.value(u"process"_s).toInteger(), other.process());
     }
 
+    // A disconnect and a connect by hand while this program was stopped, after Tor's death.
+    void nothingIsSaidOfTheRulesOfASessionThatWasBegunAnew()
+    {
+        for (const bool isAnew : {false, true}) {
+            Workbench bench;
+            TorController &c = bench.controller();
+            QVERIFY(bench.connect());
+            QVERIFY(until([&] { return !c.isChecking(); }));
+            bench.tor.stopListening();
+            for (int tick = 0; tick < 3; ++tick)
+                QVERIFY(bench.tick());
+            QVERIFY(c.phase() == Phase::stale);
+            QVERIFY(c.errorMessage()->english().contains(u"nothing leaked"_s));
+            if (isAnew)
+                bench.renewMarker();
+            bench.clock.advance(std::chrono::seconds(2));
+            QVERIFY(c.phase() == Phase::stale);
+            QCOMPARE(c.errorMessage().value_or(Text()).english().contains(u"nothing leaked"_s),
+                     !isAnew);
+        }
+    }
+
     // By the password-free rule any program of the user can do that; the session then has no owner.
     void oneBegunByHandInPlaceOfOursIsNotTakenForOurs()
     {
@@ -67,13 +87,7 @@ private Q_SLOTS:
         QVERIFY(bench.connect());
         QVERIFY(until([&] { return !c.isChecking(); }));
         QCOMPARE(c.title(), u"Protected"_s);
-        QFile marker(bench.profile.sessionMarker);
-        QVERIFY(marker.open(QIODevice::ReadOnly));
-        const QByteArray content = marker.readAll();
-        bench.writeFile(bench.profile.sessionMarker + u".new"_s, content);
-        QVERIFY(std::rename(QFile::encodeName(bench.profile.sessionMarker + u".new"_s).constData(),
-                            QFile::encodeName(bench.profile.sessionMarker).constData())
-                == 0);
+        bench.renewMarker();
         bench.clock.advance(std::chrono::seconds(1));
         QVERIFY(until([&] { return c.phase() == Phase::stale; }));
         QVERIFY(!c.otherSession());

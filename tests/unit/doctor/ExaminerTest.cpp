@@ -41,6 +41,34 @@ private Q_SLOTS:
         QVERIFY(!processes.calls.empty());
     }
 
+    void rootDoesNotRunATorThatOthersCanChange()
+    {
+        TestMachine m;
+        SettingsStore settings(m.profile());
+        ScriptedRunner processes;
+        processes.answer = [](const ScriptedRunner::Call &) {
+            return ProcessResult{0, QStringLiteral("Tor version 0.4.8.9.\n"), {}};
+        };
+        const QString tor = m.at("/usr/bin/tor");
+        QVERIFY(QFile::setPermissions(tor, QFile::permissions(tor) | QFile::WriteGroup));
+        Examiner examiner(m.profile(), settings, processes);
+        auto examining = examiner.examine();
+        QTRY_VERIFY(examining.isReady());
+        const Finding finding = QCoro::waitFor(std::move(examining)).front();
+        const bool isAsked = std::any_of(
+            processes.calls.begin(), processes.calls.end(),
+            [&tor](const ScriptedRunner::Call &c) { return c.executable == tor; });
+        QCOMPARE(isAsked, ::geteuid() != 0);
+        if (isAsked)
+            return;
+        QVERIFY(finding.level == Finding::Level::unknown);
+        QCOMPARE(
+            finding.text,
+            QStringLiteral(
+                "Users other than root can change %1, so root doesn't run it to ask for its version.")
+                .arg(tor));
+    }
+
     void readsTheSettings()
     {
         TestMachine m;

@@ -271,6 +271,32 @@ controlSocket: ~/Library/Application Support/Veldmark/run/control
             qunsetenv(variable);
     }
 
+    void rootDoesNotUseFoldersThatOthersCanChange()
+    {
+        const QByteArrayList names = {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"};
+        const QByteArray home = qgetenv("HOME");
+        const QTemporaryDir folder;
+        const QString inside = folder.filePath(QStringLiteral("not/yet"));
+        for (const QByteArray &name : names)
+            qputenv(name.constData(), QFile::encodeName(inside));
+        const Places own = Places::fromEnvironment();
+        QVERIFY(QFile::setPermissions(folder.path(),
+                                      QFile::permissions(folder.path()) | QFile::WriteOther));
+        const Places open = Places::fromEnvironment();
+        qputenv("HOME", home);
+        qunsetenv("XDG_CONFIG_HOME");
+        qunsetenv("XDG_DATA_HOME");
+        QCOMPARE(QStringList({own.home, own.configHome, own.dataHome}),
+                 QStringList({inside, inside, inside}));
+        if (geteuid() != 0) {
+            QCOMPARE(open.home, inside);
+            return;
+        }
+        QVERIFY(!open.home.startsWith(folder.path()));
+        QCOMPARE(open.configHome, open.home + QStringLiteral("/.config"));
+        QCOMPARE(open.dataHome, open.home + QStringLiteral("/.local/share"));
+    }
+
 #ifndef Q_OS_MACOS
     void theRuntimeFolderIsTheUsersOwn()
     {

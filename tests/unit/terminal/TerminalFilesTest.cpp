@@ -105,6 +105,8 @@ private Q_SLOTS:
                        "[ -f \"$HOME/.veldmark/active\" ] || exit 1\n"
                        "[ -f \"/Library/Application Support/Veldmark/state/active\" ] || exit 1\n"
                        "case \"$1\" in\n"
+                       "  *.local) exit 1 ;;\n"
+                       "  [0-9]*[!0-9.]*) exit 0 ;;\n"
                        "  localhost|127.*|::1|10.*|192.168.*|169.254.*|*.local) exit 1 ;;\n"
                        "  172.1[6-9].*|172.2[0-9].*|172.3[01].*) exit 1 ;;\n"
                        "esac\n"
@@ -143,13 +145,15 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("host");
         QTest::addColumn<int>("status");
-        for (const char *host : {"example.org", "192.0.2.1", "172.15.0.1", "172.32.0.1", "11.0.0.1",
-                                 "2001:db8::1", "local", "localhost.example.org", "192.169.0.1",
-                                 "a.locale", "-h", "$(exit 1)", "", "*"})
+        for (const char *host :
+             {"example.org", "192.0.2.1", "172.15.0.1", "172.32.0.1", "11.0.0.1", "2001:db8::1",
+              "local", "localhost.example.org", "192.169.0.1", "a.locale", "-h", "$(exit 1)", "",
+              "*", "10.example.org", "127.a.b", "192.168.example.net", "169.254.x",
+              "172.16.example.org"})
             QTest::newRow(host) << QByteArray(host) << 0;
         for (const char *host : {"localhost", "127.0.0.1", "127.1.2.3", "::1", "10.0.0.1",
                                  "192.168.77.9", "169.254.1.1", "printer.local", "172.16.0.1",
-                                 "172.20.1.5", "172.29.0.1", "172.31.255.255"})
+                                 "172.20.1.5", "172.29.0.1", "172.31.255.255", "1printer.local"})
             QTest::newRow(host) << QByteArray(host) << 1;
     }
 
