@@ -323,7 +323,7 @@ void ControllerSession::removeBypassApp(const QString &application)
 
 void ControllerSession::launchBypassed(const QString &application)
 {
-    launch(path);
+    launch(application);
 }
 
 QCoro::Task<void> ControllerSession::launch(QString application)
