@@ -153,10 +153,10 @@ QByteArray activeProgram(const TerminalNames &names)
         QStringLiteral("[ -f \"$HOME/.veldmark/active\" ] || exit 1"),
         QStringLiteral("[ -f \"%1\" ] || exit 1").arg(names.sessionMarker),
         QStringLiteral("case \"$1\" in"),
+        QStringLiteral("  localhost|::1|*.local) exit 1 ;;"),
         // A name may begin like a private address: 10.example.org.
-        QStringLiteral("  *.local) exit 1 ;;"),
         QStringLiteral("  [0-9]*[!0-9.]*) exit 0 ;;"),
-        QStringLiteral("  localhost|127.*|::1|10.*|192.168.*|169.254.*|*.local) exit 1 ;;"),
+        QStringLiteral("  127.*|10.*|192.168.*|169.254.*) exit 1 ;;"),
         QStringLiteral("  172.1[6-9].*|172.2[0-9].*|172.3[01].*) exit 1 ;;"),
         QStringLiteral("esac"),
         QStringLiteral("exit 0"),

@@ -105,9 +105,9 @@ private Q_SLOTS:
                        "[ -f \"$HOME/.veldmark/active\" ] || exit 1\n"
                        "[ -f \"/Library/Application Support/Veldmark/state/active\" ] || exit 1\n"
                        "case \"$1\" in\n"
-                       "  *.local) exit 1 ;;\n"
+                       "  localhost|::1|*.local) exit 1 ;;\n"
                        "  [0-9]*[!0-9.]*) exit 0 ;;\n"
-                       "  localhost|127.*|::1|10.*|192.168.*|169.254.*|*.local) exit 1 ;;\n"
+                       "  127.*|10.*|192.168.*|169.254.*) exit 1 ;;\n"
                        "  172.1[6-9].*|172.2[0-9].*|172.3[01].*) exit 1 ;;\n"
                        "esac\n"
                        "exit 0"));
