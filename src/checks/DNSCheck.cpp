@@ -81,8 +81,9 @@ std::vector<DNSResolver> leaks(const std::vector<DNSResolver> &resolvers)
     return leaking;
 }
 
-DNSStatus statusAfter(const std::vector<DNSResolver> &leaks, const std::optional<DNSStatus> &live,
-                      bool liveVerified, const DNSStatus &current)
+DNSStatus statusAfter(const std::vector<DNSResolver> &leaks, bool isComplete,
+                      const std::optional<DNSStatus> &live, bool liveVerified,
+                      const DNSStatus &current)
 {
     if (!leaks.empty()) {
         QStringList summaries;
@@ -90,6 +91,8 @@ DNSStatus statusAfter(const std::vector<DNSResolver> &leaks, const std::optional
             summaries.append(leak.summary());
         return DNSStatus::leak(summaries);
     }
+    if (!isComplete && current.isLeak())
+        return current;
     if (live)
         return *live;
     if (liveVerified)

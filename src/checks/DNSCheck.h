@@ -24,9 +24,11 @@ std::vector<DNSResolver> leaks(const std::vector<DNSResolver> &resolvers);
 
 // The status after a check. Leaks in the settings come first, then the result of this check's live
 // test (absent when it made none), then the result of an earlier live test of the same session.
-// Otherwise a former leak becomes `unknown`, and every other status stays.
-DNSStatus statusAfter(const std::vector<DNSResolver> &leaks, const std::optional<DNSStatus> &live,
-                      bool liveVerified, const DNSStatus &current);
+// Otherwise a former leak becomes `unknown`, and every other status stays. A former leak stays
+// until all of the settings (`isComplete`) are known again.
+DNSStatus statusAfter(const std::vector<DNSResolver> &leaks, bool isComplete,
+                      const std::optional<DNSStatus> &live, bool liveVerified,
+                      const DNSStatus &current);
 
 // The text for settings that still leak after the DNS fix.
 Text stillLeakingText(const QStringList &summaries, bool isBlocked);

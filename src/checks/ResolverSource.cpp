@@ -59,23 +59,23 @@ LinuxResolverSource::LinuxResolverSource(Clock &clock, QString resolverFile)
 {
 }
 
-QCoro::Task<std::vector<DNSResolver>> LinuxResolverSource::resolvers()
+QCoro::Task<SystemResolvers> LinuxResolverSource::resolvers()
 {
     const ResolverFile file = ResolverFile::parse(ResolverFile::read(m_resolverFile));
     if (!resolvedServes(whereItIs(m_resolverFile), file))
-        co_return joinResolvers(file, std::nullopt);
+        co_return SystemResolvers{joinResolvers(file, std::nullopt)};
     auto reading = m_bus.read();
     const std::optional<ResolvedState> resolved = co_await reading;
-    co_return joinResolvers(file, resolved);
+    co_return SystemResolvers{joinResolvers(file, resolved), resolved.has_value()};
 }
 
 ScutilResolverSource::ScutilResolverSource(Run run) : m_run(std::move(run)) { }
 
-QCoro::Task<std::vector<DNSResolver>> ScutilResolverSource::resolvers()
+QCoro::Task<SystemResolvers> ScutilResolverSource::resolvers()
 {
     auto running = m_run();
     const QString text = co_await running;
-    co_return DNSCheck::parse(text);
+    co_return SystemResolvers{DNSCheck::parse(text), !text.isEmpty()};
 }
 
 } // namespace veldmark

@@ -7,7 +7,13 @@
 
 namespace veldmark {
 
-// The source of the system's name servers. Never fails: unreadable settings are empty.
+// The system's name servers.
+struct SystemResolvers {
+    std::vector<DNSResolver> resolvers;
+    bool isComplete = true; // false: the service that knows the others did not answer
+};
+
+// The source of the system's name servers. Never fails: an unreadable file is empty.
 class ResolverSource {
 public:
     ResolverSource() = default;
@@ -15,7 +21,7 @@ public:
     ResolverSource(const ResolverSource &) = delete;
     ResolverSource &operator=(const ResolverSource &) = delete;
 
-    virtual QCoro::Task<std::vector<DNSResolver>> resolvers() = 0;
+    virtual QCoro::Task<SystemResolvers> resolvers() = 0;
 };
 
 // True when systemd-resolved answers lookups that follow the resolver file: the file lies in its
@@ -34,7 +40,7 @@ public:
     // `clock` must outlive the object and its readings.
     LinuxResolverSource(Clock &clock, QString resolverFile);
 
-    QCoro::Task<std::vector<DNSResolver>> resolvers() override;
+    QCoro::Task<SystemResolvers> resolvers() override;
 
 private:
     const QString m_resolverFile;
@@ -48,7 +54,7 @@ public:
     using Run = std::function<QCoro::Task<QString>()>;
     explicit ScutilResolverSource(Run run);
 
-    QCoro::Task<std::vector<DNSResolver>> resolvers() override;
+    QCoro::Task<SystemResolvers> resolvers() override;
 
 private:
     const Run m_run;

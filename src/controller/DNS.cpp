@@ -56,11 +56,11 @@ QCoro::Task<void> TorController::checkDNS(bool live)
                 m_dnsLiveVerified = true;
         }
     }
-    const auto resolvers = co_await m_services.resolvers.resolvers();
+    const auto system = co_await m_services.resolvers.resolvers();
     if (attempt.isOver() || phase() != ConnectionPhase::connected)
         co_return;
-    dnsStatus = DNSCheck::statusAfter(DNSCheck::leaks(resolvers), liveResult, m_dnsLiveVerified,
-                                      dnsStatus());
+    dnsStatus = DNSCheck::statusAfter(DNSCheck::leaks(system.resolvers), system.isComplete,
+                                      liveResult, m_dnsLiveVerified, dnsStatus());
 }
 
 QCoro::Task<void> TorController::fixDNS()

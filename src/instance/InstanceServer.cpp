@@ -24,6 +24,10 @@ const QString errorKey = QStringLiteral("error");
 const QString errorTextKey = QStringLiteral("errorText");
 const QString usageKey = QStringLiteral("usage");
 
+// A program of the user's could otherwise take all descriptors, which the marker's reading and the
+// helper need.
+constexpr std::size_t clientLimit = 64;
+
 auto refusal(const Text &description)
 {
     return Failure(InstanceError(description));
@@ -148,6 +152,12 @@ void InstanceServer::accept()
         }
         const auto lines = JsonLines::over(socket);
         std::erase_if(m_clients, [](const auto &client) { return client.expired(); });
+        if (m_clients.size() >= clientLimit) {
+            const auto oldest = m_clients.front().lock();
+            m_clients.erase(m_clients.begin());
+            if (oldest)
+                oldest->abort();
+        }
         m_clients.push_back(lines);
         serve(lines);
     }

@@ -32,7 +32,7 @@ class JsonLines;
 class TorController;
 
 // Lives on the controller's thread, and must be destroyed before the controller. The destructor
-// disconnects the clients.
+// disconnects the clients. A client above 64 disconnects the oldest.
 class InstanceServer : public QObject {
     Q_OBJECT
 

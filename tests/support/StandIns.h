@@ -106,16 +106,17 @@ public:
 
 class ScriptedResolvers final : public ResolverSource {
 public:
-    QCoro::Task<std::vector<DNSResolver>> resolvers() override
+    QCoro::Task<SystemResolvers> resolvers() override
     {
         ++readings;
-        const std::vector<DNSResolver> now = answer;
+        const SystemResolvers now{answer, isComplete};
         if (beforeAnswer)
             co_await beforeAnswer();
         co_return now;
     }
 
     std::vector<DNSResolver> answer;
+    bool isComplete = true;
     std::function<QCoro::Task<void>()> beforeAnswer;
     int readings = 0;
 };

@@ -316,13 +316,25 @@ private Q_SLOTS:
         };
         int row = 0;
         for (const auto &c : cases) {
-            const DNSStatus status = DNSCheck::statusAfter(c.leaks, c.live, c.liveVerified,
+            const DNSStatus status = DNSCheck::statusAfter(c.leaks, true, c.live, c.liveVerified,
                                                            c.current);
             QVERIFY2(
                 status == c.expected,
                 qPrintable(QStringLiteral("row %1: %2").arg(row).arg(status.text().english())));
             ++row;
         }
+    }
+
+    void aLeakStaysWhileNotAllOfTheSettingsAreKnown()
+    {
+        const auto through = std::optional(DNSStatus::throughTor());
+        const DNSStatus old = DNSStatus::leak({text("192.0.2.53")});
+        const std::vector<DNSResolver> none;
+        QVERIFY(DNSCheck::statusAfter(none, true, through, true, old) == DNSStatus::throughTor());
+        QVERIFY(DNSCheck::statusAfter(none, false, through, true, old) == old);
+        QVERIFY(DNSCheck::statusAfter(none, false, std::nullopt, true, old) == old);
+        QVERIFY(DNSCheck::statusAfter(none, false, through, true, DNSStatus::checking())
+                == DNSStatus::throughTor());
     }
 
     void statusesHaveTheirTexts()

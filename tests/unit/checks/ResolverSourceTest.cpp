@@ -24,10 +24,10 @@ QString text(const char *utf8)
     return QString::fromUtf8(utf8);
 }
 
-QCoro::Task<void> keep(QCoro::Task<std::vector<DNSResolver>> task,
-                       std::shared_ptr<std::optional<std::vector<DNSResolver>>> kept)
+QCoro::Task<void> keep(QCoro::Task<SystemResolvers> task,
+                       std::shared_ptr<std::optional<SystemResolvers>> kept)
 {
-    const std::vector<DNSResolver> result = co_await task;
+    const SystemResolvers result = co_await task;
     *kept = result;
 }
 
@@ -36,17 +36,18 @@ class Reading {
 public:
     explicit Reading(ResolverSource &source) { keep(source.resolvers(), m_result); }
     bool isDone() const { return m_result->has_value(); }
+    bool isComplete() const { return (*m_result)->isComplete; }
     QString summaries() const
     {
         QStringList list;
-        for (const DNSResolver &resolver : **m_result)
+        for (const DNSResolver &resolver : (*m_result)->resolvers)
             list.append(resolver.summary());
         return list.join(text("; "));
     }
 
 private:
-    std::shared_ptr<std::optional<std::vector<DNSResolver>>> m_result
-        = std::make_shared<std::optional<std::vector<DNSResolver>>>();
+    std::shared_ptr<std::optional<SystemResolvers>> m_result
+        = std::make_shared<std::optional<SystemResolvers>>();
 };
 
 QString summaries(const std::vector<DNSResolver> &resolvers)
@@ -132,6 +133,7 @@ private Q_SLOTS:
         const Reading reading(source);
         QTRY_VERIFY(reading.isDone());
         QCOMPARE(reading.summaries(), text("10.0.0.1"));
+        QVERIFY(reading.isComplete());
         QCOMPARE(service.calls, 0);
     }
 
@@ -151,6 +153,7 @@ private Q_SLOTS:
             const Reading reading(source);
             QTRY_VERIFY(reading.isDone());
             QCOMPARE(reading.summaries(), ofTheDaemon);
+            QVERIFY(reading.isComplete());
         }
     }
 
@@ -197,6 +200,7 @@ private Q_SLOTS:
         const Reading second(source);
         QTRY_VERIFY(second.isDone());
         QCOMPARE(second.summaries(), text("10.0.0.1"));
+        QVERIFY(!second.isComplete());
     }
 
     void aSilentDaemonIsGivenUp()
@@ -212,6 +216,7 @@ private Q_SLOTS:
         m_clock->advance(1ms);
         QTRY_VERIFY(reading.isDone());
         QCOMPARE(reading.summaries(), text("10.0.0.1"));
+        QVERIFY(!reading.isComplete());
     }
 
     // The reader's thread ends with its pending call, and makes no further call.
@@ -276,6 +281,7 @@ private Q_SLOTS:
         const Reading nothing(failing);
         QTRY_VERIFY(nothing.isDone());
         QCOMPARE(nothing.summaries(), QString());
+        QVERIFY(!nothing.isComplete());
     }
 };
 

@@ -134,6 +134,17 @@ private Q_SLOTS:
         bench.socketClock.advance(6s);
         QVERIFY(Workbench::finished(again));
         QVERIFY(c.dnsStatus() == DNSStatus::throughTor());
+        // Nor does it go because the system gives no answer.
+        bench.resolvers.answer = leaking;
+        QVERIFY(passLiveTest(bench));
+        QVERIFY(c.dnsStatus() == leak);
+        bench.resolvers.answer = throughTor;
+        bench.resolvers.isComplete = false;
+        QVERIFY(passLiveTest(bench));
+        QVERIFY(c.dnsStatus() == leak);
+        bench.resolvers.isComplete = true;
+        QVERIFY(passLiveTest(bench));
+        QVERIFY(c.dnsStatus() == DNSStatus::throughTor());
     }
 
     void withoutALiveTestOnlyALeakChangesTheStatus_data()

@@ -265,6 +265,22 @@ private Q_SLOTS:
         QVERIFY(status.succeeds());
     }
 
+    void aClientAboveTheLimitEndsTheOldest()
+    {
+        Instance instance;
+        std::vector<std::unique_ptr<QLocalSocket>> silent;
+        for (int i = 0; i < 65; ++i) {
+            silent.push_back(std::make_unique<QLocalSocket>());
+            silent.back()->connectToServer(instance.bench.profile.controlSocket);
+            QVERIFY(silent.back()->waitForConnected(2000));
+            settle();
+            QCOMPARE(silent.front()->state() == QLocalSocket::ConnectedState, i < 64);
+        }
+        QVERIFY(silent.at(1)->state() == QLocalSocket::ConnectedState);
+        Conversation status(instance.bench, "status");
+        QVERIFY(status.succeeds());
+    }
+
     void watchingHearsOfEveryChangeInOneState()
     {
         Instance instance;
