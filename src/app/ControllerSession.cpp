@@ -323,7 +323,8 @@ void ControllerSession::removeBypassApp(const QString &application)
 
 void ControllerSession::launchBypassed(const QString &application)
 {
-    launch(application);
+    if (!m_controller.isLaunching(application)) // a second press is none
+        launch(application);
 }
 
 QCoro::Task<void> ControllerSession::launch(QString application)

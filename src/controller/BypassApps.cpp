@@ -63,12 +63,17 @@ void TorController::removeBypassApp(const QString &path)
     bypassApps.set(apps);
 }
 
+bool TorController::isLaunching(const QString &application) const
+{
+    return m_launching.contains(QDir::cleanPath(application));
+}
+
 QCoro::Task<Result<void, Text>> TorController::launchBypassed(QString path)
 {
     if (!canLaunchBypassed())
         co_return Failure(Text::tr("Connect in strict mode to open apps without Tor"));
     const QString application = QDir::cleanPath(path);
-    if (m_launching.contains(application)) // the password prompt is shown
+    if (isLaunching(application))
         co_return Failure(Text::tr("%1 is already being opened.").arg(displayedName(path)));
     m_launching << application;
     const QPointer<TorController> self(this);

@@ -196,6 +196,8 @@ public:
     bool optionsLocked() const;
     bool canDownloadTransports() const;
     bool canLaunchBypassed() const;
+    // Whether the application is being opened; a password prompt may be shown.
+    bool isLaunching(const QString &application) const;
     bool isSessionMarkerPresent() const;
     // The tor to use: the custom path, else the first executable standard place; absent when none
     // is executable. Reads the file system.

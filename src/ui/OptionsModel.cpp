@@ -51,8 +51,9 @@ bool OptionsModel::locked() const
 bool OptionsModel::strictMode() const
 {
     const Snapshot &now = m_session.now();
-    return now.phase == Phase::connected ? now.activeMode == RoutingMode::strict
-                                         : choices().strictMode;
+    const bool isSessions = now.phase == Phase::connected || now.phase == Phase::disconnecting;
+    return isSessions && now.activeMode ? now.activeMode == RoutingMode::strict
+                                        : choices().strictMode;
 }
 
 void OptionsModel::setStrictMode(bool on)

@@ -165,6 +165,26 @@ private Q_SLOTS:
         QVERIFY(shows(session.circuitError->english()));
     }
 
+    void aSecondClickOnARowFollowsNothing()
+    {
+        show(5);
+        auto *list = stage->window()->findChild<QQuickItem *>(QStringLiteral("list"));
+        QVERIFY(list);
+        const QString id = session.circuits.front().id;
+        const auto press = [&] {
+            QQuickItem *row = rowOf(list, id);
+            QVERIFY(row);
+            QTest::mouseClick(
+                stage->window(), Qt::LeftButton, {},
+                row->mapToScene(QPointF(row->width() / 2, row->height() / 2)).toPoint());
+            stage->picture();
+        };
+        press();
+        QCOMPARE(stage->circuits.followed(), id);
+        press();
+        QCOMPARE(stage->circuits.followed(), QString());
+    }
+
     void aRefreshTakesNobodysPlace()
     {
         show(30);

@@ -254,6 +254,67 @@ private Q_SLOTS:
         QVERIFY(!custom->property("checked").toBool());
     }
 
+    void ownBridgesAreStoredBySaveAlone()
+    {
+        Stage stage;
+        Snapshot snapshot;
+        snapshot.torPath = QStringLiteral("/usr/bin/tor");
+        snapshot.choices.bridgeChoice = BridgeChoice::custom;
+        stage.session.show(snapshot);
+        QQuickWindow *window = stage.open(QStringLiteral("main/MainWindow.qml"), panel(stage));
+        window->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        stage.picture();
+        auto *sheet = window->findChild<QObject *>(QStringLiteral("bridges"));
+        QVERIFY(sheet);
+        const auto isOpen = [sheet] { return sheet->property("opened").toBool(); };
+        const auto type = [&](const QString &line) {
+            QVERIFY(QMetaObject::invokeMethod(sheet, "open"));
+            QVERIFY(QTest::qWaitFor(isOpen));
+            auto *editor = window->activeFocusItem();
+            QVERIFY(editor && editor->inherits("QQuickTextArea"));
+            editor->setProperty("text", line);
+        };
+        const auto leave = [&](const QString &button) {
+            auto *content = sheet->property("contentItem").value<QQuickItem *>();
+            QVERIFY(content);
+            QQuickItem *item = named(content->parentItem(), button);
+            QVERIFY2(item, qPrintable(button));
+            QVERIFY(QMetaObject::invokeMethod(item, "clicked"));
+            QVERIFY(QTest::qWaitFor([&] { return !sheet->property("visible").toBool(); }));
+        };
+        const auto stored = [&stage] { return stage.session.now().choices.customBridges; };
+        type(QStringLiteral("192.0.2.1:443"));
+        leave(QStringLiteral("Save"));
+        QCOMPARE(stored(), QStringLiteral("192.0.2.1:443"));
+        type(QStringLiteral("192.0.2.2:443"));
+        leave(QStringLiteral("Cancel"));
+        QCOMPARE(stored(), QStringLiteral("192.0.2.1:443"));
+        type(QStringLiteral("192.0.2.3:443"));
+        QTest::keyClick(window, Qt::Key_Escape);
+        QVERIFY(QTest::qWaitFor([&] { return !sheet->property("visible").toBool(); }));
+        QCOMPARE(stored(), QStringLiteral("192.0.2.1:443"));
+        QVERIFY(QMetaObject::invokeMethod(sheet, "open"));
+        QVERIFY(QTest::qWaitFor(isOpen));
+        QCOMPARE(window->activeFocusItem()->property("text").toString(),
+                 QStringLiteral("192.0.2.1:443"));
+    }
+
+    void theApplicationsSheetOpensWithoutAnEarlierError()
+    {
+        Stage stage;
+        Snapshot snapshot;
+        snapshot.torPath = QStringLiteral("/usr/bin/tor");
+        stage.session.show(snapshot);
+        QQuickWindow *window = stage.open(QStringLiteral("main/MainWindow.qml"), panel(stage));
+        auto *sheet = window->findChild<QObject *>(QStringLiteral("applications"));
+        QVERIFY(sheet);
+        Q_EMIT stage.session.launchFailed(QStringLiteral("It could not be opened."));
+        QCOMPARE(stage.options.launchError(), QStringLiteral("It could not be opened."));
+        QVERIFY(QMetaObject::invokeMethod(sheet, "open"));
+        QTRY_COMPARE(stage.options.launchError(), QString());
+    }
+
     void theRecoveryPaneLooksAgainWhenItOpens()
     {
         Stage stage;

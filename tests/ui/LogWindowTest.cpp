@@ -184,7 +184,9 @@ private Q_SLOTS:
     {
         stage->lines.setSearch(QStringLiteral("nowhere"));
         stage->lines.setProblemsOnly(true);
+        QVERIFY(stage->log.running);
         stage->window()->close();
+        QVERIFY(!stage->log.running); // nobody looks
         QVERIFY(stage->open(QStringLiteral("log/LogWindow.qml"),
                             {{QStringLiteral("model"), QVariant::fromValue(&stage->lines)}}));
         QVERIFY(stage->lines.search().isEmpty() && !stage->lines.problemsOnly());

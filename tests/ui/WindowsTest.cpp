@@ -228,6 +228,33 @@ private Q_SLOTS:
         QCOMPARE(quit.count() + disconnect.count(), 0);
         QTest::keyClick(window, Qt::Key_Return);
         QCOMPARE(disconnect.count(), 1); // the default
+        window->close();                 // as the desktop does
+        QCOMPARE(cancelled.count(), 2);
+    }
+
+    void theRingTurnsWhileItIsNotKnownHowLongItTakes()
+    {
+        Stage stage;
+        Snapshot s = Scenes::protectedSession();
+        s.phase = ConnectionPhase::disconnecting;
+        s.bootstrapProgress = 1;
+        stage.session.show(s);
+        const Shown main = windows(stage).front();
+        QQuickWindow *window = stage.open(QLatin1String(main.file), main.properties);
+        QVERIFY(window);
+        stage.picture();
+        QQuickItem *ring = nullptr;
+        visit(window->contentItem(), [&ring](QQuickItem *item) {
+            if (QByteArray(item->metaObject()->className()).startsWith("ProgressRing"))
+                ring = item;
+        });
+        QVERIFY(ring);
+        QVERIFY(ring->isVisible());
+        const double value = ring->property("value").toDouble();
+        QVERIFY2(value > 0 && value < 1, qPrintable(QString::number(value)));
+        s = Scenes::protectedSession();
+        stage.session.show(s);
+        QTRY_COMPARE(ring->property("value").toDouble(), 1.0); // closed around the shield
     }
 };
 

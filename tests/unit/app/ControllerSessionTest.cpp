@@ -129,6 +129,8 @@ private Q_SLOTS:
             "GETINFO circuit-status",
             Workbench::block("circuit-status",
                              {"6 BUILT $" + QByteArray(40, 'B') + "~two PURPOSE=GENERAL"}));
+        bench.probe.torAnswer = ScriptedProbe::nothing(); // an exit that is known has them read as
+                                                          // well
         session.newIdentity();
         QVERIFY(until([&] { return session.now().circuits.size() == 1; }));
         QCOMPARE(session.now().circuits.front().id, u"6"_s);
@@ -298,6 +300,15 @@ private Q_SLOTS:
         QVERIFY(until([&] { return bench.helperRunCount(u"launch"_s) == runs + 1; }));
         settle();
         QCOMPARE(failed.count(), 1); // the user's own choice
+        bench.hold(u"launch"_s);
+        session.launchBypassed(u"/usr/share/applications/games.desktop"_s);
+        QVERIFY(until([&] { return bench.processes.held() == 1; }));
+        session.launchBypassed(u"/usr/share/applications/games.desktop"_s); // a second press
+        settle();
+        QCOMPARE(failed.count(), 1);
+        bench.processes.hold = nullptr;
+        bench.processes.release();
+        settle();
     }
 
     void looksAgainAtTheMarker()

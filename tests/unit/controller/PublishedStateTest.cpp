@@ -302,6 +302,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("locked");
         QTest::newRow("mode") << u"strictMode"_s << u"false"_s << true;
         QTest::newRow("local network") << u"allowLocalNetwork"_s << u"false"_s << true;
+        QTest::newRow("separate applications") << u"separateApps"_s << u"false"_s << true;
         QTest::newRow("country") << u"exitCountry"_s << u"de"_s << true;
         QTest::newRow("tor") << u"customTorPath"_s << u"/opt/tor"_s << true;
         QTest::newRow("bridges") << u"bridgeChoice"_s << u"meek"_s << true;

@@ -46,6 +46,8 @@ QString table(const PlatformProfile &p)
         {"sessionMarker", p.sessionMarker},
         {"sessionOwner", p.sessionOwner},
         {"killSwitchNote", p.killSwitchNote},
+        {"othersNote", p.othersNote},
+        {"approvedPrograms", p.approvedPrograms},
         {"identities", list({p.identitiesNote, p.identitiesSocket})},
         {"installedHelper", p.installedHelper},
         {"sudoersRule", p.sudoersRule},
@@ -161,6 +163,8 @@ manualRestoreCommand: sudo bash /nowhere/usr/share/veldmark/veldmark-helper.sh d
 sessionMarker: /nowhere/var/lib/veldmark/state/active
 sessionOwner: /nowhere/var/lib/veldmark/state/owner
 killSwitchNote: /nowhere/run/veldmark.watch
+othersNote: /nowhere/run/veldmark.others
+approvedPrograms: /nowhere/var/lib/veldmark/programs
 identities: /nowhere/run/veldmark.identities, /nowhere/run/veldmark.identify
 installedHelper: /nowhere/usr/local/libexec/veldmark/veldmark-helper.sh
 sudoersRule: /nowhere/etc/sudoers.d/veldmark
@@ -202,6 +206,8 @@ manualRestoreCommand: sudo bash /Applications/Veldmark.app/Contents/Resources/ve
 sessionMarker: /nowhere/Library/Application Support/Veldmark/state/active
 sessionOwner: 
 killSwitchNote: /nowhere/var/run/veldmark.watch
+othersNote: 
+approvedPrograms: /nowhere/var/db/veldmark/programs
 identities: , 
 installedHelper: /nowhere/Library/Application Support/Veldmark/bin/veldmark-helper.sh
 sudoersRule: /nowhere/etc/sudoers.d/veldmark

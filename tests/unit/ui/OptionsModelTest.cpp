@@ -336,6 +336,9 @@ private Q_SLOTS:
         s.phase = Phase::stale;
         session.show(s);
         QVERIFY(options.strictMode());
+        s.phase = Phase::disconnecting; // it is being ended
+        session.show(s);
+        QVERIFY(!options.strictMode());
     }
 };
 
