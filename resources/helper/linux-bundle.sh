@@ -15,8 +15,11 @@ readonly NO_ACCOUNT=65532   # "nobody" (65534) has other services' processes, wh
 BUNDLE_STATE=''    # "signed" or "refused" once this run has verified it
 BUNDLE_SIGNED=''   # when it was signed, in seconds since 1970
 
-# as_no_account SECONDS COMMAND...: runs it without rights, network, other processes and the helper's descriptors.
-as_no_account() { as_confined "$1" "$NO_ACCOUNT" "$NO_ACCOUNT" /nonexistent --net "${@:2}"; }
+# as_no_account SECONDS COMMAND...: runs it without rights, network, other processes and the helper's descriptors, in 2 GB of memory.
+as_no_account() {
+  # shellcheck disable=SC2016
+  as_confined "$1" "$NO_ACCOUNT" "$NO_ACCOUNT" /nonexistent '--net --ipc' /bin/sh -c 'ulimit -v 2000000 && exec "$@"' limited "${@:2}"
+}
 
 # clear_bundle: also removes what a killed run has left.
 clear_bundle() { [[ ! -e $BUNDLE && ! -L $BUNDLE ]] || rm -rf -- "$BUNDLE"; }

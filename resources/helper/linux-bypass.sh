@@ -42,6 +42,7 @@ let_bypass_run() { printf '0\n' >"$BYPASS_FOLDER/cgroup.freeze" || true; }
 # stop_bypass: stops the group's processes, which then start no others. They go on in the group that they are moved to.
 stop_bypass() {
   local poll
+  [[ -z $UNGROUPED ]] || return 0   # this run may be in it
   printf '1\n' >"$BYPASS_FOLDER/cgroup.freeze" || return 0
   for ((poll = 0; poll < MOVE_ROUNDS; poll++)); do
     [[ $(<"$BYPASS_FOLDER/cgroup.events") != *"frozen 1"* ]] || return 0
@@ -56,7 +57,6 @@ undo_bypass() {
   find_bypass && [[ -d $BYPASS_FOLDER ]] || return 0
   stop_bypass
   for ((round = 0; round < MOVE_ROUNDS; round++)); do
-    ((round < 25)) || printf '1\n' >"$BYPASS_FOLDER/cgroup.kill" || true
     pids=() places=()
     while read -r pid; do
       real_uid "$pid"
@@ -64,12 +64,14 @@ undo_bypass() {
       [[ $GROUP != "$BYPASS_FOLDER" ]] || GROUP=$TREE
       pids[${#pids[@]}]=$pid places[${#places[@]}]=$GROUP
     done <"$BYPASS_FOLDER/cgroup.procs"
+    ((round < 25 || ${#pids[@]} == 0)) || printf '1\n' >"$BYPASS_FOLDER/cgroup.kill" || true
     for ((i = 0; i < ${#pids[@]}; i++)); do
       printf '%s\n' "${pids[i]}" >"${places[i]}/cgroup.procs" || printf '%s\n' "${pids[i]}" >"$TREE/cgroup.procs" || true
     done
     rmdir -- "$BYPASS_FOLDER" && return 0
     sleep 0.02
   done
+  let_bypass_run
   UNDONE="The control group of the applications without Tor could not be removed."
   return 1
 }

@@ -153,8 +153,8 @@ as_confined() {
   local seconds=$1 uid=$2 gid=$3 home=$4 namespaces=$5
   shift 5
   # shellcheck disable=SC2016,SC2086
-  timeout -k 1 "$seconds" /bin/sh -c 'exec 7>&- 9>&-; ulimit -c 0 && ulimit -f 0 && ulimit -v 2000000 && ulimit -t "$0" && exec "$@"' "$seconds" \
-    unshare $namespaces --ipc --pid --fork --kill-child /bin/sh -c '"$@"; exit "$?"' first \
+  timeout -k 1 "$seconds" /bin/sh -c 'exec 7>&- 9>&-; ulimit -c 0 && ulimit -f 0 && ulimit -t "$0" && exec "$@"' "$seconds" \
+    unshare $namespaces --pid --fork --kill-child /bin/sh -c '"$@"; exit "$?"' first \
     env -i --default-signal PATH="$PATH" LC_ALL=C HOME="$home" \
     setpriv --reuid "$uid" --regid "$gid" --clear-groups --no-new-privs --bounding-set=-all --inh-caps=-all \
     --ambient-caps=-all "$@" 8>&-

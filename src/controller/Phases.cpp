@@ -46,6 +46,12 @@ bool isTransition(ConnectionPhase from, ConnectionPhase to)
                        [&](const Transition &each) { return each.from == from && each.to == to; });
 }
 
+Text begunAnewText()
+{
+    return Text::tr(
+        "Another program has ended this session and started its own. Restore Network ends that session.");
+}
+
 } // namespace
 
 // The last step of a change: the observers of `phase` find the other fields set.
@@ -260,6 +266,8 @@ void TorController::lookAtSession()
     if (other == otherSession() && markedMode() == activeMode() && !isAnew)
         return;
     showSessionOf(other);
+    if (isAnew && !other)
+        errorMessage = begunAnewText();
 }
 
 void TorController::showSessionOf(const std::optional<SessionOwner> &other)
@@ -292,8 +300,7 @@ void TorController::giveUpTo(const std::optional<SessionOwner> &other)
     canCancel = false;
     showSessionOf(other);
     if (!other)
-        errorMessage = Text::tr(
-            "Another program has ended this session and started its own. Restore Network ends that session.");
+        errorMessage = begunAnewText();
     enter(ConnectionPhase::stale);
     startKillSwitchWatch();
 }

@@ -26,25 +26,6 @@ QString machineName()
     const QString architecture = QSysInfo::currentCpuArchitecture();
     return architecture == QLatin1String("arm64") ? QStringLiteral("aarch64") : architecture;
 }
-#ifndef Q_OS_MACOS
-// The variable is missing after su, in cron and in some SSH sessions; after su it may be another
-// user's. All processes of a user share logind's folder. A missing folder is created by the code
-// that needs it.
-QString ownRuntimeDirectory()
-{
-    const QString given = absoluteFromEnvironment("XDG_RUNTIME_DIR", QString());
-    struct stat info { };
-    const auto isOwn = [&info](const QString &path) {
-        return ::stat(QFile::encodeName(path).constData(), &info) == 0 && S_ISDIR(info.st_mode)
-            && info.st_uid == geteuid();
-    };
-    if (!given.isEmpty() && (isOwn(given) || !QFile::exists(given)))
-        return given;
-    const QString usual = QStringLiteral("/run/user/%1").arg(geteuid());
-    return isOwn(usual) ? usual : QString();
-}
-#endif
-
 // The path; for root, only where no other user can change the folder or the nearest one that is
 // there: sudo may keep the variables of the user who called it.
 template <typename Usual> QString trusted(const QString &path, Usual usual)
@@ -56,6 +37,26 @@ template <typename Usual> QString trusted(const QString &path, Usual usual)
         present = present.left(qMax(qsizetype(1), present.lastIndexOf(u'/')));
     return isRootsOwn(present) ? path : usual();
 }
+
+#ifndef Q_OS_MACOS
+// The variable is missing after su, in cron and in some SSH sessions; after su it may be another
+// user's. All processes of a user share logind's folder. A missing folder is created by the code
+// that needs it.
+QString ownRuntimeDirectory()
+{
+    const QString given = trusted(absoluteFromEnvironment("XDG_RUNTIME_DIR", QString()),
+                                  [] { return QString(); });
+    struct stat info { };
+    const auto isOwn = [&info](const QString &path) {
+        return ::stat(QFile::encodeName(path).constData(), &info) == 0 && S_ISDIR(info.st_mode)
+            && info.st_uid == geteuid();
+    };
+    if (!given.isEmpty() && (isOwn(given) || !QFile::exists(given)))
+        return given;
+    const QString usual = QStringLiteral("/run/user/%1").arg(geteuid());
+    return isOwn(usual) ? usual : QString();
+}
+#endif
 
 } // namespace
 

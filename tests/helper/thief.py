@@ -92,4 +92,8 @@ class Thief:
         return self._order("copy " + file)
 
     def close(self):
-        self.process.communicate()
+        try:
+            self.process.communicate(timeout=10)
+        except subprocess.TimeoutExpired:  # it waits for a reader of a pipe
+            self.process.kill()
+            self.process.communicate()

@@ -76,6 +76,9 @@ private Q_SLOTS:
             QVERIFY(c.phase() == Phase::stale);
             QCOMPARE(c.errorMessage().value_or(Text()).english().contains(u"nothing leaked"_s),
                      !isAnew);
+            QVERIFY(!isAnew
+                    || c.errorMessage().value_or(Text()).english().startsWith(
+                        u"Another program has ended this session"_s));
         }
     }
 

@@ -279,7 +279,8 @@ controlSocket: ~/Library/Application Support/Veldmark/run/control
 
     void rootDoesNotUseFoldersThatOthersCanChange()
     {
-        const QByteArrayList names = {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"};
+        const QByteArrayList names = {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME",
+                                      "XDG_RUNTIME_DIR"};
         const QByteArray home = qgetenv("HOME");
         const QTemporaryDir folder;
         const QString inside = folder.filePath(QStringLiteral("not/yet"));
@@ -292,6 +293,7 @@ controlSocket: ~/Library/Application Support/Veldmark/run/control
         qputenv("HOME", home);
         qunsetenv("XDG_CONFIG_HOME");
         qunsetenv("XDG_DATA_HOME");
+        qunsetenv("XDG_RUNTIME_DIR");
         QCOMPARE(QStringList({own.home, own.configHome, own.dataHome}),
                  QStringList({inside, inside, inside}));
         if (geteuid() != 0) {
@@ -299,6 +301,7 @@ controlSocket: ~/Library/Application Support/Veldmark/run/control
             return;
         }
         QVERIFY(!open.home.startsWith(folder.path()));
+        QVERIFY(!open.runtimeDirectory.startsWith(folder.path()));
         QCOMPARE(open.configHome, open.home + QStringLiteral("/.config"));
         QCOMPARE(open.dataHome, open.home + QStringLiteral("/.local/share"));
     }
