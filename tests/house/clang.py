@@ -58,7 +58,7 @@ class Clang:
         before = self.common if common else []
         rules = f"--config-file={self.root / '.clang-tidy'}"
         done = self.run([TIDY, "--quiet", rules, str(path), "--", *self.words, *before])
-        return done.stdout[:4000] or (done.stderr[-4000:] if done.returncode else "")
+        return done.stdout[:4000] or (f"status {done.returncode}: {done.stderr[-4000:]}" if done.returncode else "")
 
     @staticmethod
     def run(words):

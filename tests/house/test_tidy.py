@@ -45,6 +45,7 @@ class Tidy(unittest.TestCase):
             for path, sources in self.clang.compiled()
             if any(name.startswith("src/") and any(part in name for part in WANTED) for name in sources)
         }
+        self.assertTrue(files, f"no source's path has {WANTED}")
         if WANTED == [""]:
             self.assertGreater(len(set().union(*files.values())), 150)
         with Moving("Checking sources") as moving, concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:

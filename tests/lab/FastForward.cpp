@@ -39,6 +39,7 @@
 #include <QTimer>
 
 #include <cstdio>
+#include <functional>
 
 #include <malloc.h>
 #include <unistd.h>
@@ -155,7 +156,7 @@ void printReading(const TorController &controller, const TorLogStore &log, const
 }
 
 QCoro::Task<void> monitor(TorController *controller, FastClock *clock, Seen *seen,
-                          Clock::TimePoint end)
+                          Clock::TimePoint end, std::function<void()> atEnd)
 {
     constexpr std::chrono::seconds turn(10); // of the fast clock
     co_await controller->connect();
@@ -172,6 +173,7 @@ QCoro::Task<void> monitor(TorController *controller, FastClock *clock, Seen *see
         const std::chrono::milliseconds pause = turn;
         co_await clock->sleep(pause);
     }
+    atEnd();
     co_await controller->disconnect();
     QCoreApplication::exit(controller->isSessionMarkerPresent() ? 1 : 0);
 }
@@ -233,7 +235,10 @@ int main(int argc, char **argv)
         QObject::connect(&readings, &QTimer::timeout, &application,
                          [&, start] { printReading(controller, log, seen, clock.now() - start); });
         readings.start(inRealTime(std::chrono::minutes(5)));
-        QTimer::singleShot(0, &application, [&, end] { monitor(&controller, &clock, &seen, end); });
+        QTimer::singleShot(0, &application, [&, start, end] {
+            monitor(&controller, &clock, &seen, end,
+                    [&, start] { printReading(controller, log, seen, clock.now() - start); });
+        });
     } else {
         QTimer::singleShot(0, &application, [&controller] { attempt(&controller); });
     }

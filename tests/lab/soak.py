@@ -128,7 +128,9 @@ def connect_only(product: Product, session: Session) -> None:
         verb.wait()
 
 
-def cycles(lab: Lab, product: Product, count: int, minutes: float, chance: random.Random, quick: bool) -> tuple[list[str], dict]:
+def cycles(
+    lab: Lab, product: Product, count: int, minutes: float, chance: random.Random, quick: bool = False
+) -> tuple[list[str], dict]:
     before = lab.host.snapshot()
     readings, kills, started = [], 0, time.monotonic()
     with product.session(connect=False) as session, Moving("Cycles") as moving:
@@ -162,7 +164,7 @@ def cycles(lab: Lab, product: Product, count: int, minutes: float, chance: rando
     return problems, {"cycles": len(readings), "kills": kills, "seconds": round(time.monotonic() - started), "readings": readings}
 
 
-def hours(lab: Lab, programs: Path, length: float, chance: random.Random, quick: bool) -> tuple[list[str], dict]:
+def hours(lab: Lab, programs: Path, length: float, chance: random.Random, quick: bool = False) -> tuple[list[str], dict]:
     before = lab.host.snapshot()
     stop = threading.Event()
     kills = 0
@@ -204,7 +206,7 @@ def hours(lab: Lab, programs: Path, length: float, chance: random.Random, quick:
     return problems, {"hours": length, "kills": kills, "readings": readings}
 
 
-def windows(lab: Lab, programs: Path, count: int, chance: random.Random, quick: bool) -> tuple[list[str], dict]:
+def windows(lab: Lab, programs: Path, count: int, chance: random.Random, quick: bool = False) -> tuple[list[str], dict]:
     user = lab.host.user
     Product(lab, programs).run_helper("install-privileged", "--user", user, check=True)
     product = Product(lab, programs, user=user)

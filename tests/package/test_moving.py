@@ -156,7 +156,7 @@ class Verbs(Case):
         self.patch(program, Lab=SlowLab)
         nothing = ("--cycles", "0", "--hours", "0", "--rounds", "0")
         self.shows("Starting the private Tor network: ", self.main(program, *nothing, "--programs", str(self.folder)))
-        self.patch(program, connect_only=nap, taken=lambda *_: {}, growth=lambda _: [], difference=lambda *_: "")
+        self.patch(program, connect_only=nap, taken=lambda *_: {}, growth=lambda *_: [], difference=lambda *_: "")
         lab, product = mock.MagicMock(), mock.MagicMock(run_verb=nap)
         self.shows("Cycles: 1 of 1, ", lambda: program.cycles(lab, product, 1, 1, mock.Mock(random=lambda: 1)))
 

@@ -4,7 +4,6 @@ import functools
 import pathlib
 import re
 import shutil
-import subprocess
 import sys
 import tempfile
 import unittest
@@ -12,21 +11,12 @@ import xml.etree.ElementTree as tree
 
 LUPDATE = sys.argv.pop(1)
 ROOT = pathlib.Path(__file__).resolve().parents[2]
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(ROOT / "tools"))
+
+from texts import FILES, update  # noqa: E402
+
 SOURCES = ROOT / "src"
-FILES = sorted((ROOT / "resources" / "translations").glob("*.ts"))
-OPTIONS = [
-    "-silent",
-    "-extensions",
-    "h,cpp,mm,qml",
-    "-locations",
-    "none",
-    "-I",
-    "src",
-    "-disable-heuristic",
-    "sametext",
-    "-disable-heuristic",
-    "similartext",
-]
 
 
 def messages(path):
@@ -42,7 +32,7 @@ def updated(path):
     with tempfile.TemporaryDirectory() as folder:
         copy = pathlib.Path(folder) / path.name
         shutil.copy(path, copy)
-        subprocess.run([LUPDATE, *OPTIONS, "src", "-ts", copy], cwd=ROOT, check=True, capture_output=True)
+        update(copy, LUPDATE, keep_old=True)
         return list(messages(copy))
 
 
@@ -161,6 +151,20 @@ class Sentences(unittest.TestCase):
             for context, message in updated(path):
                 with self.subTest(path.name, context=context, text=message.find("source").text):
                     self.assertNotIn(message.find("translation").get("type"), ("vanished", "obsolete"))
+
+    def test_an_update_changes_nothing_else(self):
+        for path in FILES:
+            with self.subTest(path.name), tempfile.TemporaryDirectory() as folder:
+                copy = pathlib.Path(folder) / path.name
+                text = path.read_text()
+                first = text.index("    <message>")
+                without = text[:first] + text[text.index("</message>\n", first) + len("</message>\n") :]
+                copy.write_text(without)  # one text is new
+                update(copy, LUPDATE)
+                self.assertIn('<translation type="unfinished">', copy.read_text())
+                copy.write_text(text)
+                update(copy, LUPDATE)
+                self.assertEqual(copy.read_text(), text)
 
     def test_place_holders_are_kept(self):
         for path in FILES:
