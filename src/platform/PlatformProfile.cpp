@@ -64,8 +64,8 @@ Places Places::fromEnvironment()
 {
     Places places;
     places.home = trusted(QDir::homePath(), [] {
-        const struct passwd *const root = ::getpwuid(0);
-        return QFile::decodeName(root ? root->pw_dir : "/root");
+        const struct passwd *const account = ::getpwuid(0);
+        return QFile::decodeName(account ? account->pw_dir : "/root");
     });
     const auto folder = [&places](const char *variable, const QString &usual) {
         const QString path = places.home + usual;
