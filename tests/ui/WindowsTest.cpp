@@ -245,7 +245,7 @@ private Q_SLOTS:
         stage.picture();
         QQuickItem *ring = nullptr;
         visit(window->contentItem(), [&ring](QQuickItem *item) {
-            if (QByteArray(item->metaObject()->className()).startsWith("ProgressRing"))
+            if (item->property("turn").isValid())
                 ring = item;
         });
         QVERIFY(ring);
