@@ -7,6 +7,10 @@
 
 #include <QTest>
 
+#include <algorithm>
+
+#include <unistd.h>
+
 using namespace veldmark;
 
 class ExaminerTest : public QObject {

@@ -274,8 +274,10 @@ private Q_SLOTS:
             silent.back()->connectToServer(instance.bench.profile.controlSocket);
             QVERIFY(silent.back()->waitForConnected(2000));
             settle();
-            QCOMPARE(silent.front()->state() == QLocalSocket::ConnectedState, i < 64);
+            if (i < 64)
+                QVERIFY(silent.front()->state() == QLocalSocket::ConnectedState);
         }
+        QTRY_VERIFY(silent.front()->state() != QLocalSocket::ConnectedState);
         QVERIFY(silent.at(1)->state() == QLocalSocket::ConnectedState);
         Conversation status(instance.bench, "status");
         QVERIFY(status.succeeds());
