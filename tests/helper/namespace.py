@@ -222,6 +222,15 @@ class Machine:
     def start(self, *words, uid=0, group=None, **options):
         return subprocess.Popen(self.command(words, uid, **({"group": group} if group else {})), **options)
 
+    def hold(self, lock):
+        """Takes a lock of the helper's; the process that has it gives it back when it is told a line."""
+        holder = self.start(
+            "flock", lock, "/bin/sh", "-c", "echo held; read word", stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True
+        )
+        if holder.stdout.readline() != "held\n":
+            raise AssertionError(f"{lock} cannot be taken")
+        return holder
+
     def shell(self, script, *arguments, **options):
         return self.run("/bin/bash", "-c", script, "shell", *arguments, **options).stdout
 

@@ -143,17 +143,7 @@ class Firewall(HelperTest):
     def test_firewall_is_not_opened_while_somebody_changes_it(self):
         """The watcher may be putting the rules back: a disconnect waits until it has finished."""
         self.machine.connect(strict=1)
-        holder = self.machine.start(
-            "flock",
-            "/run/veldmark.rules",
-            "/bin/sh",
-            "-c",
-            "echo held; read word",
-            stdin=subprocess.PIPE,
-            stdout=subprocess.PIPE,
-            text=True,
-        )
-        self.assertEqual(holder.stdout.readline(), "held\n")
+        holder = self.machine.hold("/run/veldmark.rules")
         ending = self.machine.start("/bin/bash", self.machine.helper, "disconnect")
         while ending.poll() is None and not self.machine.shell("pgrep -xf 'flock -w 10 7' || true"):
             pass

@@ -27,17 +27,7 @@ class Resources(HostileTest):
                 0,
             )
             # A run that waits for the lock has left the caller's group before it gets the lock.
-            holder = self.machine.start(
-                "flock",
-                "/run/veldmark.lock",
-                "/bin/sh",
-                "-c",
-                "echo held; read word",
-                stdin=subprocess.PIPE,
-                stdout=subprocess.PIPE,
-                text=True,
-            )
-            self.assertEqual(holder.stdout.readline(), "held\n")
+            holder = self.machine.hold("/run/veldmark.lock")
             waiting = self.machine.start("/bin/bash", self.machine.helper, "fix-dns", group=own)
             self.machine.shell("until pgrep -xf 'flock -w 20 9'; do sleep 0.01; done")
             self.machine.run("/bin/sh", "-c", f"echo 1 >{own}/cgroup.freeze", uid=USER_UID)

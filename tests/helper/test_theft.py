@@ -21,17 +21,7 @@ class Theft(HelperTest):
         slowly, as from a slow medium. Returns the run, what the thief has taken, and what the thief can do with that after the run.
         """
         self.machine.shell(f"rm -f {PATH} {GOOD}; install -o alice -m 0755 /usr/bin/true {PATH}; install -o alice {PATH} {GOOD}")
-        holder = self.machine.start(
-            "flock",
-            "/run/veldmark.lock",
-            "/bin/sh",
-            "-c",
-            "echo held; read word",
-            stdin=subprocess.PIPE,
-            stdout=subprocess.PIPE,
-            text=True,
-        )
-        self.assertEqual(holder.stdout.readline(), "held\n")
+        holder = self.machine.hold("/run/veldmark.lock")
         run = self.machine.start("/bin/bash", self.machine.helper, *words, env=PROMPT, stderr=subprocess.PIPE, text=True)
         self.machine.shell("until pgrep -xf 'flock -w 20 9'; do sleep 0.01; done", timeout=30)
         self.machine.shell(f"rm {PATH}; mkfifo -m 0700 {PATH}; chown alice {PATH}")
