@@ -44,24 +44,30 @@ def connections(host, pairs):
     return found
 
 
-def spent(host):
-    """The seconds of processor time of the program and of the listeners to the rules."""
-    script = (
-        'for name in veldmark-identi "nft"; do for pid in $(pgrep -x "$name"); do cut -d" " -f14,15 /proc/$pid/stat; done; done'
-    )
-    ticks = sum(int(word) for word in host.run(["/bin/sh", "-c", script], check=True).stdout.split())
+def watching(host):
+    """The program's process and the listeners to the rules. The short runs of nft beside them are gone before they can be read."""
+    host.run(["timeout", "20", "/bin/sh", "-c", "until [ $(pgrep -fc '^nft monitor ') = 3 ]; do sleep 0.1; done"], check=True)
+    found = host.run(["/bin/sh", "-c", "pgrep -x veldmark-identi && pgrep -f '^nft monitor '"], check=True)
+    return found.stdout.split()
+
+
+def spent(host, processes):
+    """The seconds of processor time of the processes."""
+    script = "for pid; do cut -d' ' -f14,15 /proc/$pid/stat || exit; done"
+    ticks = sum(int(word) for word in host.run(["/bin/sh", "-c", script, "spent", *processes], check=True).stdout.split())
     return ticks / os.sysconf("SC_CLK_TCK")
 
 
 def coming_and_going(host, seconds):
     """The shares of one core while groups come and go, and while idle."""
-    before = spent(host)
+    processes = watching(host)
+    before = spent(host, processes)
     host.run(["/usr/bin/python3", "-c", COMING, APPS, str(seconds)], check=True, timeout=seconds * 3)
-    busy = spent(host)
+    busy = spent(host, processes)
     subprocess.run(["sleep", "3"], check=True)
-    settled = spent(host)
+    settled = spent(host, processes)
     subprocess.run(["sleep", str(seconds)], check=True)
-    return (busy - before) / seconds, (spent(host) - settled) / seconds
+    return (busy - before) / seconds, (spent(host, processes) - settled) / seconds
 
 
 def measure(lab, product, rounds):
